@@ -1,0 +1,19 @@
+#pragma once
+
+#include "storage/datafolder.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// Staged saving of files that are rewritten whole: the new content is complete on disk before the old one goes.
+namespace Saving {
+
+/// Replaces `name` in `folder` by `content`: writes it to a neighbouring staged file, flushes it to disk, then gives it
+/// the name. False, with the old file untouched, when any step fails.
+bool replaceFile(const DataFolder &folder, const QString &name, QByteArrayView content);
+
+/// Finishes what a crash interrupted: a complete staged file beside a missing or emptied original takes its place;
+/// other leftovers are removed. Called once at start, before anything is read.
+void recover(const DataFolder &folder);
+
+} // namespace Saving

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+/// Sequential value files: texts in double quotes, one value a line, CRLF line ends, rewritten whole on each save.
+namespace ValueFile {
+
+/// The file of `values`. A quote inside a text that a reader would take for the closing one becomes two apostrophes.
+QByteArray encode(const QStringList &values);
+
+/// The values of a file in order. Also reads commas between values, bare LF or CR line ends, unquoted values, a final
+/// character 26, and a file that ends early; a quote closes a text only before a comma, a line end or the end.
+QStringList decode(QByteArrayView bytes);
+
+/// The values of the file at `path`; none when it is missing or cannot be read.
+QStringList read(const QString &path);
+
+/// The first line of a plain one-line file, without its line end; empty when the file is missing.
+QString readLine(const QString &path);
+
+} // namespace ValueFile
