@@ -1,0 +1,57 @@
+#pragma once
+
+#include "shell/clock.h"
+#include "shell/programstate.h"
+
+#include <QStatusBar>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QTimer;
+class QToolButton;
+
+/// The status bar of every window: current activity, the restore panels as links, a quiet message, progress, date and
+/// clock (`Label4`).
+class ActivityBar final : public QStatusBar
+{
+    Q_OBJECT
+public:
+    ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget *parent = nullptr);
+
+    /// The first panel.
+    void setActivity(const QString &activity);
+    QString activity() const;
+
+    /// A quiet line that stays until the next action; it never takes the place of the activity.
+    void say(const QString &message);
+    QString message() const;
+
+    void offerTopToolbar(bool offered);
+    void offerSideToolbars(bool offered);
+
+    /// Progress of a long walk; `total` 0 hides it. `stoppable` also shows "Stop".
+    void showProgress(int done, int total, bool stoppable = false);
+
+    /// Starts the clock: nothing ticks before.
+    void startClock();
+    void refreshClock();
+
+signals:
+    void restoreTopToolbarRequested();
+    void restoreSideToolbarsRequested();
+    void stopRequested();
+
+private:
+    const Clock &m_clock;
+    const DateStyle &m_dateStyle;
+    QLabel *m_activity;
+    QToolButton *m_restoreTop;
+    QToolButton *m_restoreSide;
+    QLabel *m_message;
+    QProgressBar *m_progress;
+    QPushButton *m_stop;
+    QLabel *m_date;
+    QLabel *m_time;
+    QTimer *m_timer;
+};

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QIcon>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QString>
+
+#include <array>
+
+class QAction;
+class QLabel;
+class QVBoxLayout;
+
+/// Gives `object` its name and returns it: each name stands once, where the control is made.
+template <typename T> T *named(T *object, const QString &name)
+{
+    object->setObjectName(name);
+    return object;
+}
+
+/// An array of like controls named `name`_0, `name`_1, ...
+template <typename T, std::size_t Count> std::array<T *, Count> controlArray(const QString &name, QWidget *parent)
+{
+    std::array<T *, Count> controls{};
+    for (std::size_t i = 0; i < Count; ++i)
+        controls[i] = named(new T(parent), name + QLatin1Char('_') + QString::number(i));
+    return controls;
+}
+
+/// A line edit for a field of a data file: takes at most `limit` bytes of the files' code page and refuses characters
+/// that the code page lacks, at the keyboard and from the clipboard, with a quiet line through `refused`. Locked boxes
+/// are skipped by Tab and drawn as such.
+class FieldBox : public QLineEdit
+{
+    Q_OBJECT
+public:
+    explicit FieldBox(QWidget *parent = nullptr);
+
+    void setByteLimit(int limit) { m_limit = limit; }
+    int byteLimit() const { return m_limit; }
+    void setLocked(bool locked);
+    bool isLocked() const { return isReadOnly(); }
+
+signals:
+    /// Something typed or pasted could not be taken; `reason` is a sentence for the status bar.
+    void refused(const QString &reason);
+
+private:
+    void check(const QString &text);
+
+    int m_limit = 0; ///< 0: no limit
+    QString m_lastGood;
+};
+
+enum class ButtonKind { Plain, Main };
+
+/// A push button of the program's look; `Main` is the one accented button of a window.
+QPushButton *makeButton(const QString &name, const QString &caption, QWidget *parent,
+                        ButtonKind kind = ButtonKind::Plain);
+void setButtonKind(QPushButton *button, ButtonKind kind);
+
+/// A menu entry or command: object name, caption (with its access key), no shortcut.
+QAction *makeAction(const QString &name, const QString &caption, QObject *parent);
+
+/// A quiet label above a box, with an optional hint in the same line and the accented word "required".
+QLabel *makeFieldLabel(const QString &caption, QWidget *buddy, QWidget *parent, const QString &hint = {},
+                       bool required = false);
+
+/// A group heading of a panel.
+QLabel *makeHeading(const QString &caption, QWidget *parent);
+
+/// A thin horizontal line.
+QWidget *makeLine(QWidget *parent);
+
+/// What a disabled control says of itself: sets tool tip and status tip to `reason` and disables it; an empty reason
+/// enables it and takes them away.
+void setUnavailable(QWidget *control, const QString &reason);
+void setUnavailable(QAction *action, const QString &reason);

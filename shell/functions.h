@@ -1,0 +1,61 @@
+#pragma once
+
+#include "shell/liveline.h"
+
+#include <QString>
+
+#include <functional>
+#include <map>
+#include <optional>
+
+class DataFolder;
+class QDate;
+class QWidget;
+struct Program;
+
+/// The functions of this edition, in the order of their cards on the main menu; the viewer has no card of its own.
+enum class Function {
+    AddressBook,
+    Planner,
+    CalendarMaker,
+    ToDoList,
+    Journal,
+    Budget,
+    CarLog,
+    WeightTracker,
+    PhotoAlbum,
+    PasswordKeeper,
+    PasswordControl,
+    Backup,
+    AddressViewer
+};
+
+/// How a function joins the program: what the main menu needs to know of it, and nothing more.
+struct FunctionEntry {
+    /// Makes the function's window. It deletes itself when it is closed.
+    std::function<QWidget *(Program &)> open;
+    /// Its news of the day, or nothing; empty for a function without any. Reads the function's files.
+    std::function<std::optional<LiveLine>(const Program &, QDate today)> liveLine;
+    /// The files that the news comes from: it is read again only when one of them has changed.
+    QStringList liveFiles;
+};
+
+/// The functions that are built into this program. A function that is not in it yet stands disabled on the main menu.
+class FunctionCatalogue
+{
+public:
+    void add(Function function, FunctionEntry entry);
+    bool has(Function function) const;
+    /// Null when the function is not built in.
+    const FunctionEntry *entry(Function function) const;
+
+    /// Opens the function's window, or raises the one that is open already. Null when it is not built in.
+    QWidget *open(Function function, Program &program);
+
+    /// The windows that are open now, in no particular order.
+    QList<QWidget *> openWindows() const;
+
+private:
+    std::map<Function, FunctionEntry> m_entries;
+    std::map<Function, QWidget *> m_windows; ///< entries go when their window is destroyed
+};

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "shell/message.h"
+#include "shell/page.h"
+#include "shell/panelcolors.h"
+#include "shell/program.h"
+
+#include <QMainWindow>
+
+class ActivityBar;
+class PreviewPane;
+class QMenu;
+class QSplitter;
+class QStackedWidget;
+class ToolbarLayout;
+class QToolBar;
+
+/// How a window of a function differs from the others in its frame.
+struct WindowTraits {
+    QString name;     ///< class and object name
+    QString caption;  ///< window title
+    QString activity; ///< first panel of the status bar
+    PanelColorSettings colors;
+    int helpContext = 0; ///< page of the manual that F1 opens
+    TextSetting topToolbar;
+    QSize openingSize{1280, 800};
+};
+
+/// The frame of a function window: menu bar, one toolbar, the work area, the page preview in its place when a page is
+/// looked at, the status bar. A window deletes itself when it is closed.
+class FunctionWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    FunctionWindow(Program &program, WindowTraits traits, QWidget *parent = nullptr);
+    ~FunctionWindow() override;
+
+    /// Whether the window holds something typed that no file has.
+    virtual bool isModified() const { return false; }
+
+    /// Asks what must be asked before the window goes (unsaved data, unsaved colours). False: the user stays. Called by
+    /// closing and by the program's exit; after a true answer, closing asks nothing again until something changes.
+    bool mayLeave();
+
+    /// Shows `builder`'s page over the work area; Esc or "Close Preview" brings the work back.
+    void showPreview(std::function<Page(const PageSetup &)> builder, const QString &jobName);
+    void closePreview();
+    bool isPreviewShown() const;
+
+protected:
+    /// What this window prints, as it stands now.
+    virtual Page page(const PageSetup &setup) const = 0;
+    /// Asks about unsaved data and saves or drops it. False: the user stays.
+    virtual bool mayDiscard() { return true; }
+    /// Called when the work comes back from the preview.
+    virtual void previewClosed() {}
+
+    Program &program() const { return m_program; }
+    const Clock &clock() const { return m_program.clock; }
+    Answer ask(const Message &message) { return m_program.dialogs.ask(this, message); }
+    ActivityBar &activity() const { return *m_activity; }
+    PanelColors &colors() const { return *m_colors; }
+    PreviewPane &preview();
+
+    /// The widget that fills the window between toolbar and status bar (margin 16 is added around it).
+    void setWork(QWidget *work);
+    /// A panel: rounded, shadowed, coloured by the user's panel colour, registered with `colors()`.
+    QWidget *makePanel(const QString &name);
+    /// The one toolbar; "Main Menu" stands first in it.
+    QToolBar &toolbar() const { return *m_toolbar; }
+    /// Adds `action` to the toolbar with the icon of this name and the word `text` beside it.
+    void addTool(QAction *action, QLatin1StringView icon, const QString &text);
+    void addToolSeparator();
+    /// Call once when menus and toolbar are complete: restores the toolbar's layout, colours and window geometry.
+    void finishFrame();
+
+    void closeEvent(QCloseEvent *event) final;
+    void keyPressEvent(QKeyEvent *event) override;
+
+    /// A long walk is under way: the window does not close.
+    void setBusy(bool busy) { m_busy = busy; }
+
+private:
+    Program &m_program;
+    WindowTraits m_traits;
+    ActivityBar *m_activity;
+    PanelColors *m_colors;
+    QStackedWidget *m_stack;
+    QToolBar *m_toolbar;
+    ToolbarLayout *m_toolbarLayout = nullptr;
+    PreviewPane *m_preview = nullptr; ///< made when first asked for
+    bool m_busy = false;
+    bool m_leaveAgreed = false;
+};

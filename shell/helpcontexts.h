@@ -1,0 +1,11 @@
+#pragma once
+
+/// The pages of the built-in manual by their numeric context.
+namespace HelpContext {
+inline constexpr int ProgramOverview = 1000;
+inline constexpr int AddressBook = 1001;
+inline constexpr int PasswordControl = 1002;
+inline constexpr int Appearance = 1003;
+inline constexpr int PagePreview = 1004;
+inline constexpr int BackupAndRestore = 1009;
+} // namespace HelpContext

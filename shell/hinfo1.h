@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+class QWidget;
+struct Program;
+
+/// Procedures that every window calls.
+namespace HINFO1 {
+
+/// Switch the screen-wide mouse pointer. "On" twice is still one hourglass; "off" always ends it.
+void hourglassOn();
+void hourglassOff();
+
+/// Says that a chosen colour cannot be told from the text.
+void showColorConflict(Program &program, QWidget *parent);
+
+/// Asks for the family name, writes it to the family name file and makes it the program-wide one. Cancel or an empty
+/// answer deletes a stored name after asking.
+void askFamilyName(Program &program, QWidget *parent);
+
+/// Waits, processing window messages, until the wall-clock second has moved on by one.
+void pauseOneSecond(const Program &program);
+
+/// Kept distinct from every answer of a message box: tells `updateProgramColors` not to ask.
+inline constexpr int updateWithoutAsking = 9786;
+
+/// Writes `pending` (the decimal text of a colour) to every program-wide colour record. Asks first unless
+/// `answerHolder` holds `updateWithoutAsking`; any answer but Yes, or an empty text, writes nothing. Clears `pending`.
+void updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder);
+
+/// Writes display mode and, for a smaller-screen window, its size: `size` is in pixels at 15 twips each, raised to
+/// 12000 by 9000 twips and clamped to 32767.
+void saveMainWindowSize(Program &program, bool maximized, QSize size);
+
+inline constexpr int twipsPerPixel = 15;
+inline constexpr QSize minimumTwips{12000, 9000};
+
+} // namespace HINFO1

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QCalendarWidget>
+#include <QSet>
+
+/// A month calendar in the program's look: heading with steps, week numbers, today ringed, the chosen day filled, marked
+/// days with a dot. The real control behind every date picker.
+class MonthView : public QCalendarWidget
+{
+    Q_OBJECT
+public:
+    explicit MonthView(QWidget *parent = nullptr);
+
+    void setToday(QDate today);
+    void setMarkedDays(const QSet<QDate> &days);
+    void setTodayMarked(bool marked);
+
+protected:
+    void paintCell(QPainter *painter, const QRect &rect, QDate date) const override;
+
+private:
+    QDate m_today;
+    QSet<QDate> m_marked;
+    bool m_todayMarked = true;
+};

@@ -1,0 +1,148 @@
+#pragma once
+
+#include "shell/programstate.h"
+
+#include <QDate>
+#include <QMarginsF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include <variant>
+#include <vector>
+
+/// The sheet that pages are built for, in inches, as it lies: landscape has the longer side across.
+struct PageSetup {
+    enum Orientation { Portrait, Landscape };
+
+    QSizeF paper{8.5, 11.0}; ///< portrait size
+    Orientation orientation = Portrait;
+
+    /// Width and height of the sheet as it lies.
+    QSizeF sheet() const { return orientation == Portrait ? paper : paper.transposed(); }
+
+    bool operator==(const PageSetup &) const = default;
+};
+
+/// How a line of a page is set.
+enum class TextRole {
+    Body,    ///< 11 pt in the page font
+    Strong,  ///< body, semibold
+    Heading, ///< 13 pt semibold
+    Small    ///< 10 pt
+};
+
+namespace PageItem {
+
+/// One paragraph, wrapped to the width of the page; an empty text is a blank line.
+struct Line {
+    QString text;
+    TextRole role = TextRole::Body;
+    bool operator==(const Line &) const = default;
+};
+
+/// Starts a table: column widths as weights of the page width, headings (may be empty), numbers right.
+struct Columns {
+    std::vector<double> weights;
+    QStringList headings;
+    std::vector<Qt::AlignmentFlag> alignments; ///< one a column; left when there are fewer
+    bool operator==(const Columns &) const = default;
+};
+
+/// One row of the table; never split over pages. A continued page repeats title and headings.
+struct Row {
+    QStringList cells;
+    TextRole role = TextRole::Body;
+    bool operator==(const Row &) const = default;
+};
+
+/// A label with a line to be filled in by hand behind it.
+struct Blank {
+    QString label;
+    bool operator==(const Blank &) const = default;
+};
+
+/// A picture from a file in the flow of the page, scaled to fit `size` (inches), aspect kept. A file that cannot be
+/// read leaves the place empty.
+struct Picture {
+    QString path;
+    QSizeF size;
+    bool operator==(const Picture &) const = default;
+};
+
+/// A text at a fixed place: inches from the sheet's top left corner, cut (elided) at the rectangle.
+struct PlacedText {
+    QRectF place;
+    QString text;
+    TextRole role = TextRole::Body;
+    Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop;
+    bool operator==(const PlacedText &) const = default;
+};
+
+/// A picture at a fixed place: inches from the sheet's top left corner, scaled to fit, aspect kept, top left aligned.
+struct PlacedPicture {
+    QRectF place;
+    QString path;
+    bool operator==(const PlacedPicture &) const = default;
+};
+
+/// A thin rule across the page.
+struct Rule {
+    bool operator==(const Rule &) const = default;
+};
+
+/// Starts the next page, which repeats the title.
+struct Break {
+    bool operator==(const Break &) const = default;
+};
+
+} // namespace PageItem
+
+/// A printable page, or as many as its content needs, described before anything is drawn. It belongs to no window and
+/// no paper: preview, clipboard picture, PDF and printer lay it out alike.
+class Page
+{
+public:
+    using Item = std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank, PageItem::Picture,
+                              PageItem::PlacedText, PageItem::PlacedPicture, PageItem::Rule, PageItem::Break>;
+
+    /// A page headed by `title`; `headRight` (usually a date) stands at the right of the title line.
+    explicit Page(QString title = {}, QString headRight = {});
+
+    Page &line(const QString &text, TextRole role = TextRole::Body);
+    Page &blankLine() { return line({}); }
+    Page &columns(std::vector<double> weights, QStringList headings = {},
+                  std::vector<Qt::AlignmentFlag> alignments = {});
+    Page &row(QStringList cells, TextRole role = TextRole::Body);
+    Page &blank(const QString &label);
+    Page &picture(const QString &path, QSizeF inches);
+    Page &placeText(const QRectF &inches, const QString &text, TextRole role = TextRole::Body,
+                    Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop);
+    Page &placePicture(const QRectF &inches, const QString &path);
+    Page &rule();
+    Page &breakPage();
+
+    /// Ends the page: a blank line, "Quillery" and "Printed on " with the short date of the day of building.
+    Page &close(QDate printedOn, DateStyle style);
+
+    const QString &title() const { return m_title; }
+    const QString &headRight() const { return m_headRight; }
+    const std::vector<Item> &items() const { return m_items; }
+    bool isClosed() const { return m_closed; }
+    /// The line with the printing date; empty until the page is closed.
+    const QString &printedLine() const { return m_printedLine; }
+    bool isEmpty() const { return m_items.empty(); }
+
+    /// The page as plain text, a line an item, cells separated by tabs; serves the clipboard and tests.
+    QString toText() const;
+
+    bool operator==(const Page &) const = default;
+
+private:
+    QString m_title;
+    QString m_headRight;
+    std::vector<Item> m_items;
+    bool m_closed = false;
+    QString m_printedLine;
+};

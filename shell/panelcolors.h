@@ -1,0 +1,67 @@
+#pragma once
+
+#include "shell/programstate.h"
+#include "shell/settings.h"
+
+#include <QColor>
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+#include <optional>
+
+class ActivityBar;
+class QWidget;
+struct Program;
+
+/// Where a window keeps its colours.
+struct PanelColorSettings {
+    TextSetting panel;               ///< the window's own record
+    TextSetting programWide;         ///< what it falls back to when its own is empty or "Default"
+    std::optional<TextSetting> text; ///< only windows that recolour text
+};
+
+/// The colours of one window's panels and their text: loading, the choosing flow with its conflict rule, the saving
+/// question and the offer to colour the whole program.
+class PanelColors : public QObject
+{
+    Q_OBJECT
+public:
+    PanelColors(Program &program, PanelColorSettings settings, QWidget *window, ActivityBar &activity);
+
+    /// `panel` takes the colour, with every label on it; boxes, lists and buttons keep theirs.
+    void addPanel(QWidget *panel);
+
+    /// Reads the records and colours the panels.
+    void load();
+
+    void choosePanelColor();
+    void chooseTextColor();
+
+    /// Asks whether to save colours that were changed and not saved yet; Cancel (where offered) is false.
+    bool askToSave();
+    bool hasUnsavedChanges() const { return m_panelChanged || m_textChanged; }
+
+    /// The colour of the panels as they are shown now; invalid while the designed one is.
+    QColor panelColor() const { return m_panel.value_or(QColor()); }
+    /// The ink on the panels now.
+    QColor ink() const;
+
+signals:
+    /// The panels have new colours: a page preview takes the panel colour for its desk.
+    void changed();
+
+private:
+    void apply();
+    void save();
+
+    Program &m_program;
+    PanelColorSettings m_settings;
+    QWidget *m_window;
+    ActivityBar &m_activity;
+    QVector<QPointer<QWidget>> m_panels;
+    std::optional<QColor> m_panel; ///< nothing: as designed
+    std::optional<QColor> m_text;  ///< nothing: the ink that suits the panel
+    bool m_panelChanged = false;
+    bool m_textChanged = false;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QObject>
+
+/// News that every open window should hear: another one changed what they share.
+class ProgramSignals final : public QObject
+{
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+signals:
+    /// The panel colours were changed for the whole program.
+    void panelColorsChanged();
+    /// The top toolbar was removed or restored.
+    void topToolbarChanged();
+    /// The family name was changed.
+    void familyNameChanged();
+    /// The window asks for the manual's page of this context.
+    void helpRequested(int context);
+};

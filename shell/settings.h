@@ -1,0 +1,53 @@
+#pragma once
+
+#include "storage/datafolder.h"
+#include "storage/recordfile.h"
+
+#include <QString>
+
+/// One of the small random-access files that settings live in.
+struct SettingsFile {
+    const char *name;
+    int recordLength;
+};
+
+/// A record that holds a counted text.
+struct TextSetting {
+    SettingsFile file;
+    int record;
+};
+
+/// A record that holds a whole number: 2 bytes, signed.
+struct NumberSetting {
+    SettingsFile file;
+    int record;
+};
+
+/// A record that holds a tagged text.
+struct TaggedSetting {
+    SettingsFile file;
+    int record;
+};
+
+/// The household's settings. Nothing is cached: each call opens its file, reads or writes one value and closes it. A
+/// missing, short or damaged file reads as the empty value; a write that fails returns false and is otherwise ignored.
+class Settings
+{
+public:
+    explicit Settings(const DataFolder &folder);
+
+    QString text(const TextSetting &setting) const;
+    bool setText(const TextSetting &setting, const QString &text) const;
+
+    int number(const NumberSetting &setting) const;
+    /// Numbers outside the signed 16-bit range are clamped to it.
+    bool setNumber(const NumberSetting &setting, int number) const;
+
+    QString tagged(const TaggedSetting &setting) const;
+    bool setTagged(const TaggedSetting &setting, const QString &text) const;
+
+private:
+    RecordFile open(const SettingsFile &file) const;
+
+    const DataFolder &m_folder;
+};

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "shell/settings.h"
+
+#include <array>
+
+/// Where each setting lives: file and record, written down once.
+namespace SettingsKeys {
+
+inline constexpr SettingsFile generalFile{"GHINV1.Fil", 10};
+inline constexpr SettingsFile familyNameFile{"HINVNAME.FIL", 40};
+inline constexpr SettingsFile colorFile1{"GColor1.Fil", 20};
+inline constexpr SettingsFile colorFile2{"GColor2.Fil", 20};
+inline constexpr SettingsFile colorFile3{"GColor3.Fil", 20};
+inline constexpr SettingsFile passwordFile{"PCtrl1.Fil", 140};
+
+/// "Def", or "WP" and the number of a background picture; empty counts as "Def".
+inline constexpr TaggedSetting background{generalFile, 3};
+/// Always written with `sideToolbarsRemoved`; what it holds never changes how the program starts.
+inline constexpr NumberSetting sideToolbarMarker{generalFile, 10};
+inline constexpr int sideToolbarsRemoved = 88;
+
+inline constexpr TextSetting familyName{familyNameFile, 1};
+
+/// "Yes" for the smaller-screen display, "No" (or empty) for the full screen; then height and width in twips.
+inline constexpr TextSetting smallerScreen{colorFile3, 35};
+inline constexpr NumberSetting windowHeight{colorFile3, 36};
+inline constexpr NumberSetting windowWidth{colorFile3, 37};
+
+/// "OFF" while the top toolbar is removed; shared by all windows but the weight tracker's copy of it.
+inline constexpr TextSetting topToolbar{colorFile1, 55};
+inline constexpr TextSetting weightTopToolbar{colorFile1, 81};
+
+/// The serial port of the modem; 0 or empty means 1.
+inline constexpr NumberSetting modemPort{colorFile1, 25};
+
+inline constexpr TextSetting mainMenuColor{colorFile1, 49};
+inline constexpr TextSetting addressEntryColor{colorFile3, 11};
+inline constexpr TextSetting passwordControlColor{colorFile3, 104};
+// Records that no older window uses: 201 upwards.
+inline constexpr TextSetting addressEntryTextColor{colorFile3, 201};
+inline constexpr TextSetting helpColor{colorFile3, 202};
+
+/// The records that a program-wide colour update gives one value to, file by file.
+inline constexpr std::array<int, 18> programColors1{10, 11, 12, 13, 16, 17, 18, 22, 27,
+                                                    32, 36, 38, 40, 49, 54, 56, 70, 80};
+inline constexpr std::array<int, 9> programColors2{5, 9, 12, 16, 19, 20, 22, 25, 40};
+inline constexpr std::array<int, 10> programColors3{8, 17, 91, 92, 100, 101, 102, 103, 104, 105};
+
+/// The program-wide record that a window falls back to when its own is empty or "Default".
+inline constexpr TextSetting addressEntryProgramColor{colorFile1, 10};
+inline constexpr TextSetting helpProgramColor{colorFile1, 80};
+
+} // namespace SettingsKeys

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "shell/settings.h"
+
+#include <QDialog>
+#include <QObject>
+#include <QStringList>
+
+class ActivityBar;
+class QAction;
+class QListWidget;
+class QToolBar;
+struct Program;
+
+/// The layout of one toolbar: which of its actions stand on it and in which order. It is kept in the user's settings
+/// store as a list of the actions' object names under section "User1"; the main menu's top toolbar uses key "Toolbar1",
+/// another window's its own name behind it.
+class ToolbarLayout : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr auto separatorName = "separator";
+
+    /// `actions`: everything that can stand on the bar, in default order; `defaults`: the object names shown by default
+    /// (with `separatorName` between groups).
+    ToolbarLayout(Program &program, QToolBar *bar, QString storeKey, QList<QAction *> actions, QStringList defaults);
+
+    /// Puts the stored layout on the bar; the default one when none is stored or it names no action that exists.
+    void restore();
+    QStringList shown() const;
+    /// Changes the bar at once and saves the layout.
+    void setShown(const QStringList &names);
+    void reset();
+
+    const QList<QAction *> &actions() const { return m_actions; }
+    const QStringList &defaults() const { return m_defaults; }
+
+signals:
+    void changed();
+
+private:
+    Program &m_program;
+    QToolBar *m_bar;
+    QString m_storeKey;
+    QList<QAction *> m_actions;
+    QStringList m_defaults;
+};
+
+/// The customisation dialog of a toolbar: pick, order, separators, drag, reset. Every change applies and is saved at once.
+class ToolbarCustomizer final : public QDialog
+{
+    Q_OBJECT
+public:
+    ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent);
+
+private:
+    ToolbarLayout &m_layout;
+    QListWidget *m_available;
+    QListWidget *m_shown;
+};
+
+/// Removal and restoration of the top toolbar, which all windows share.
+namespace TopToolbar {
+
+/// Whether the record says that it is removed.
+bool isRemoved(const Program &program, const TextSetting &setting);
+
+/// Writes the state to the shared record and the weight tracker's copy, and tells every window.
+void setRemoved(Program &program, bool removed);
+
+} // namespace TopToolbar
