@@ -5,15 +5,18 @@
 #include <QStringView>
 
 /// Text as the data files hold it: Windows-1252, one byte a character.
-namespace AnsiText {
+namespace AnsiText
+{
 
 /// The bytes of `text`, composed to NFC first; a character that the code page lacks becomes '?'.
 QByteArray encode(QStringView text);
 
-/// The text of `bytes`; the five bytes that the code page leaves undefined become the C1 controls of their number.
+/// The text of `bytes`; the five bytes that the code page leaves undefined become the C1 controls of their
+/// number.
 QString decode(QByteArrayView bytes);
 
-/// Whether every character of `text`, composed to NFC, has a byte in the code page.
+/// Whether every character of `text`, composed to NFC, has a byte in the code page. U+0000 does not count as
+/// holdable: a zero byte means "never written" in a file.
 bool isHoldable(QStringView text);
 
 /// The characters of `text` that no byte stands for, each once, in order; empty when all can be held.

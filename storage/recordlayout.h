@@ -10,17 +10,25 @@
 #include <tuple>
 
 /// One fixed-width text of a record.
-template <typename Record> struct TextField {
+template <typename Record>
+struct TextField {
     QString Record::*member;
     qsizetype width;
 
     constexpr qsizetype size() const { return width; }
-    void encode(const Record &record, QByteArray &bytes) const { bytes += AnsiText::field(record.*member, width); }
+    void encode(const Record &record, QByteArray &bytes) const
+    {
+        bytes += AnsiText::field(record.*member, width);
+    }
     void decode(QByteArrayView bytes, Record &record) const { record.*member = AnsiText::fieldText(bytes); }
 };
 
+template <typename Record>
+TextField(QString Record::*, qsizetype) -> TextField<Record>;
+
 /// `Count` texts of one width, one after another.
-template <typename Record, std::size_t Count> struct TextArrayField {
+template <typename Record, std::size_t Count>
+struct TextArrayField {
     std::array<QString, Count> Record::*member;
     qsizetype width;
 
@@ -37,8 +45,12 @@ template <typename Record, std::size_t Count> struct TextArrayField {
     }
 };
 
+template <typename Record, std::size_t Count>
+TextArrayField(std::array<QString, Count> Record::*, qsizetype) -> TextArrayField<Record, Count>;
+
 /// Bytes that are always written as blanks and never read.
-template <typename Record> struct BlankField {
+template <typename Record>
+struct BlankField {
     qsizetype width;
 
     constexpr qsizetype size() const { return width; }
@@ -47,10 +59,14 @@ template <typename Record> struct BlankField {
 };
 
 /// The fields of a record in file order. A short record decodes as if zero bytes followed it.
-template <typename Record, typename... Fields> class RecordLayout
+template <typename Record, typename... Fields>
+class RecordLayout
 {
 public:
-    constexpr explicit RecordLayout(Fields... fields) : m_fields(fields...) {}
+    constexpr explicit RecordLayout(Fields... fields)
+        : m_fields(fields...)
+    {
+    }
 
     /// Bytes that the fields take; checked against the documented length when the layout is compiled.
     constexpr qsizetype size() const
@@ -88,7 +104,8 @@ private:
     std::tuple<Fields...> m_fields;
 };
 
-template <typename Record, typename... Fields> constexpr auto recordLayout(Fields... fields)
+template <typename Record, typename... Fields>
+constexpr auto recordLayout(Fields... fields)
 {
     return RecordLayout<Record, Fields...>(fields...);
 }

@@ -8,7 +8,8 @@
 
 /// The values that one record of a settings or index file can hold, as bytes and back. All numbers are
 /// little-endian. Decoders take bytes of any length and give the empty value where a value is cut short.
-namespace RecordValue {
+namespace RecordValue
+{
 
 /// A whole number: 2 bytes, signed.
 QByteArray encodeNumber(std::int16_t number);
@@ -18,17 +19,19 @@ std::int16_t decodeNumber(QByteArrayView bytes);
 /// `number` brought into the signed 16-bit range.
 std::int16_t clampedNumber(qint64 number);
 
-/// A counted text: a 2-byte unsigned count, then that many one-byte characters. Nothing when the text, with its
-/// count, is longer than `recordLength` bytes: such a text must not be written.
+/// A counted text: a 2-byte unsigned count, then that many one-byte characters. Nothing when the text, with
+/// its count, is longer than `recordLength` bytes: such a text must not be written.
 std::optional<QByteArray> encodeText(QStringView text, qsizetype recordLength);
-/// The counted text at the start of `bytes`; a count beyond the end gives the empty text.
+/// The counted text at the start of `bytes`, up to its first zero byte (never written); a count beyond the
+/// end gives the empty text.
 QString decodeText(QByteArrayView bytes);
 
 /// A tagged text: type code 8, then the counted text; the empty text is type code 0 alone.
 std::optional<QByteArray> encodeTaggedText(QStringView text, qsizetype recordLength);
 /// A tagged whole number: type code 2, then the number.
 QByteArray encodeTaggedNumber(std::int16_t number);
-/// The tagged value at the start of `bytes` as text (a number in decimal); empty for type code 0 and unknown codes.
+/// The tagged value at the start of `bytes` as text (a number in decimal); empty for type code 0 and unknown
+/// codes.
 QString decodeTagged(QByteArrayView bytes);
 
 } // namespace RecordValue
