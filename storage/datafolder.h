@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The folder that holds the household's files. Names match without regard to case: the exact spelling first, else the
-/// first match in the folder's order, so that writing never makes a twin of a file that is there.
+/// The folder that holds the household's files. Names match without regard to case: the exact spelling first,
+/// else the first match in the folder's order, so that writing never makes a twin of a file that is there.
 class DataFolder
 {
 public:
@@ -14,12 +14,14 @@ public:
     /// The path to read or write `name` at: the file that is there under any spelling, else `name` itself.
     QString filePath(const QString &name) const;
 
-    /// The path of `name` in the subfolder `folder` (both case-blind); empty when no such file is there.
+    /// The path of the file `name` in the subfolder `folder` (both case-blind; an empty `folder` is the data
+    /// folder itself); empty when no such file is there, or only a folder of that name.
     QString existingFile(const QString &folder, const QString &name) const;
 
     bool exists(const QString &name) const;
 
-    /// Whether files can be made here; tried with a file, since permission bits do not tell on every platform.
+    /// Whether files can be made here; tried with a file, since permission bits do not tell on every
+    /// platform.
     bool isWritable() const;
 
 private:

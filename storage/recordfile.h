@@ -5,19 +5,21 @@
 
 #include <functional>
 
-/// A random-access file of records of one length, numbered from 1. Each call opens the file, does its work in one
-/// contiguous read or write, and closes it again. Nothing is ever padded or rewritten: the last record may be short.
+/// A random-access file of records of one length, numbered from 1. Each call opens the file, does its work in
+/// one contiguous read or write, and closes it again. Nothing is ever padded or rewritten: the last record
+/// may be short.
 class RecordFile
 {
 public:
     RecordFile(QString path, qsizetype recordLength);
 
-    /// The bytes of record `number`: at most a record's length, fewer at the end of the file, none when the record,
-    /// the file or its folder is missing or cannot be read, or when `number` is below 1.
+    /// The bytes of record `number`: at most a record's length, fewer at the end of the file, none when the
+    /// record, the file or its folder is missing or cannot be read, or when `number` is below 1.
     QByteArray read(int number) const;
 
-    /// Writes `value` at the start of record `number`; bytes of the record behind it keep what they held. False,
-    /// with a line in the log, when the value is longer than a record, `number` is below 1, or the disk refuses.
+    /// Writes `value` at the start of record `number`; bytes of the record behind it keep what they held.
+    /// False, with a line in the log, when the value is longer than a record, `number` is below 1, or the
+    /// disk refuses.
     bool write(int number, QByteArrayView value) const;
 
     /// Creates the file, empty, when it is missing.
@@ -26,8 +28,8 @@ public:
     /// Records of the file, a short last one included; 0 when it is missing.
     int recordCount() const;
 
-    /// Visits the records from `first` to the end of the file in one sequential pass with a buffer of fixed size.
-    /// The visitor gets the number and the bytes (the last may be short) and returns false to stop.
+    /// Visits the records from `first` to the end of the file in one sequential pass with a buffer of fixed
+    /// size. The visitor gets the number and the bytes (the last may be short) and returns false to stop.
     void forEach(int first, const std::function<bool(int number, QByteArrayView bytes)> &visit) const;
 
     qsizetype recordLength() const { return m_recordLength; }

@@ -5,15 +5,23 @@
 #include <QByteArray>
 #include <QString>
 
-/// Staged saving of files that are rewritten whole: the new content is complete on disk before the old one goes.
-namespace Saving {
+/// Staged saving of files that are rewritten whole: the new content is complete on disk before the old one
+/// goes.
+namespace Saving
+{
 
-/// Replaces `name` in `folder` by `content`: writes it to a neighbouring staged file, flushes it to disk, then gives it
-/// the name. False, with the old file untouched, when any step fails.
+/// The neighbours of a file that is being replaced: `part` while it is written, `staged` once all of it is on
+/// disk.
+inline constexpr QLatin1StringView partSuffix(".quillery-part");
+inline constexpr QLatin1StringView stagedSuffix(".quillery-staged");
+
+/// Replaces `name` in `folder` by `content`: writes it to a neighbouring staged file, flushes it to disk,
+/// then gives it the name. False, with the old file untouched and a line in the log, when any step fails,
+/// when a folder is in the file's place, or when the file is write-protected.
 bool replaceFile(const DataFolder &folder, const QString &name, QByteArrayView content);
 
-/// Finishes what a crash interrupted: a complete staged file beside a missing or emptied original takes its place;
-/// other leftovers are removed. Called once at start, before anything is read.
+/// Finishes what a crash interrupted: a complete staged file beside a missing or emptied original takes its
+/// place; other leftovers are removed. Called once at start, before anything is read.
 void recover(const DataFolder &folder);
 
 } // namespace Saving

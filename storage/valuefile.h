@@ -3,14 +3,18 @@
 #include <QByteArray>
 #include <QStringList>
 
-/// Sequential value files: texts in double quotes, one value a line, CRLF line ends, rewritten whole on each save.
-namespace ValueFile {
+/// Sequential value files: texts in double quotes, one value a line, CRLF line ends, rewritten whole on each
+/// save.
+namespace ValueFile
+{
 
-/// The file of `values`. A quote inside a text that a reader would take for the closing one becomes two apostrophes.
+/// The file of `values`. A quote inside a text that a reader would take for the closing one becomes two
+/// apostrophes.
 QByteArray encode(const QStringList &values);
 
-/// The values of a file in order. Also reads commas between values, bare LF or CR line ends, unquoted values, a final
-/// character 26, and a file that ends early; a quote closes a text only before a comma, a line end or the end.
+/// The values of a file in order. Also reads commas between values, bare LF or CR line ends, unquoted values,
+/// a final character 26, and a file that ends early; a quote closes a text only before a comma, a line end or
+/// the end. An empty place between two separators is an empty value; zero bytes read as nothing.
 QStringList decode(QByteArrayView bytes);
 
 /// The values of the file at `path`; none when it is missing or cannot be read.

@@ -1,0 +1,3 @@
+#include "storage/log.h"
+
+Q_LOGGING_CATEGORY(storageLog, "quillery.storage")

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+/// Failures of reading and writing data files: one line each, for whoever looks into a household's trouble.
+Q_DECLARE_LOGGING_CATEGORY(storageLog)

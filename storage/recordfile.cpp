@@ -1,0 +1,118 @@
+#include "storage/recordfile.h"
+
+#include "storage/log.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace
+{
+
+constexpr qsizetype blockLength = 256 * 1024;
+
+/// Opens `file` for reading. A missing file is an everyday thing and stays quiet; any other trouble is
+/// logged.
+bool openForReading(QFile &file)
+{
+    if (!file.exists())
+        return false;
+    if (file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return true;
+    qCWarning(storageLog).noquote() << "Cannot read" << file.fileName() << '-' << file.errorString();
+    return false;
+}
+
+/// Up to `length` bytes from `offset` into `buffer`; how many there were, 0 when reading fails.
+qsizetype readAt(QFile &file, qint64 offset, char *buffer, qsizetype length)
+{
+    const qint64 count = file.seek(offset) ? file.read(buffer, length) : -1;
+    if (count < 0)
+        qCWarning(storageLog).noquote() << "Cannot read" << file.fileName() << '-' << file.errorString();
+    return std::max<qint64>(count, 0);
+}
+
+} // namespace
+
+RecordFile::RecordFile(QString path, qsizetype recordLength)
+    : m_path(std::move(path))
+    , m_recordLength(recordLength)
+{
+    Q_ASSERT(recordLength > 0);
+}
+
+QByteArray RecordFile::read(int number) const
+{
+    QFile file(m_path);
+    if (number < 1 || !openForReading(file))
+        return {};
+    const qint64 offset = qint64(number - 1) * m_recordLength;
+    const qsizetype length = std::clamp<qint64>(file.size() - offset, 0, m_recordLength);
+    QByteArray bytes(length, Qt::Uninitialized);
+    if (length > 0)
+        bytes.truncate(readAt(file, offset, bytes.data(), length));
+    return bytes;
+}
+
+bool RecordFile::write(int number, QByteArrayView value) const
+{
+    if (number < 1 || value.size() > m_recordLength) {
+        qCWarning(storageLog).noquote()
+            << "Refused to write" << value.size() << "bytes to record" << number << "of" << m_path;
+        return false;
+    }
+    // Unbuffered, so that the bytes leave in one piece and a full disk shows here and not while closing.
+    QFile file(m_path);
+    const bool isWritten = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) &&
+                           file.seek(qint64(number - 1) * m_recordLength) &&
+                           file.write(value.data(), value.size()) == value.size() && file.flush();
+    if (!isWritten)
+        qCWarning(storageLog).noquote()
+            << "Cannot write record" << number << "of" << m_path << '-' << file.errorString();
+    return isWritten;
+}
+
+bool RecordFile::create() const
+{
+    if (QFileInfo(m_path).isFile())
+        return true;
+    QFile file(m_path);
+    if (file.open(QIODevice::ReadWrite))
+        return true;
+    qCWarning(storageLog).noquote() << "Cannot create" << m_path << '-' << file.errorString();
+    return false;
+}
+
+int RecordFile::recordCount() const
+{
+    const QFileInfo file(m_path);
+    if (!file.isFile())
+        return 0;
+    const qint64 count = file.size() / m_recordLength + (file.size() % m_recordLength != 0 ? 1 : 0);
+    return int(std::min<qint64>(count, std::numeric_limits<int>::max()));
+}
+
+void RecordFile::forEach(int first, const std::function<bool(int number, QByteArrayView bytes)> &visit) const
+{
+    QFile file(m_path);
+    if (!openForReading(file))
+        return;
+    const int last = recordCount();
+    QByteArray block(std::max<qsizetype>(blockLength / m_recordLength, 1) * m_recordLength,
+                     Qt::Uninitialized);
+    for (int number = std::max(first, 1); number <= last;) {
+        QByteArrayView rest(block.constData(),
+                            readAt(file, qint64(number - 1) * m_recordLength, block.data(), block.size()));
+        if (rest.isEmpty())
+            return;
+        for (; !rest.isEmpty() && number <= last; ++number) {
+            const qsizetype length = std::min(m_recordLength, rest.size());
+            if (!visit(number, rest.first(length)) || number == std::numeric_limits<int>::max())
+                return;
+            rest = rest.sliced(length);
+        }
+    }
+}
