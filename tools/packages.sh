@@ -1,0 +1,44 @@
+# Sourced by ./run, ./test and .ci/run: installs the Debian packages that are missing, and says so in one line.
+
+quillery_build_packages=(g++ cmake ninja-build pkg-config python3 qt6-base-dev libsodium-dev librsvg2-bin)
+quillery_test_packages=(poppler-utils)
+
+# install_missing PACKAGE...: quick when nothing is missing; needs root or sudo otherwise.
+install_missing() {
+    local missing=() package
+    command -v dpkg-query >/dev/null || { echo "No dpkg here: install by hand what README.md lists."; return 0; }
+    for package in "$@"; do
+        dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || { echo "Missing packages: ${missing[*]}. Install them as root."; return 1; }
+        as_root=(sudo)
+    fi
+    echo "Installing missing packages: ${missing[*]}"
+    local log
+    log=$(mktemp)
+    if ! { "${as_root[@]}" apt-get update &&
+           "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
+               "${missing[@]}"; } >"$log" 2>&1 </dev/null; then
+        tail -n 20 "$log"
+        echo "The packages could not be installed."
+        return 1
+    fi
+    rm -f "$log"
+}
+
+# build PRESET [TARGET...]: configures once, then builds what changed; quiet unless something fails.
+build() {
+    local preset=$1 log
+    shift
+    log=$(mktemp)
+    if ! { { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+           cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1 </dev/null; then
+        tail -n 60 "$log"
+        echo "The build failed."
+        return 1
+    fi
+    rm -f "$log"
+}
