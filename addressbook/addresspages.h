@@ -1,0 +1,35 @@
+#pragma once
+
+#include "addressbook/addressentry.h"
+#include "shell/page.h"
+
+#include <functional>
+#include <optional>
+
+/// The printed pages of the address book.
+namespace AddressPages
+{
+
+/// How many entries share a sheet.
+enum class PerSheet { Two = 2, Four = 4, Eight = 8 };
+
+/// Gives the next entry to print, or nothing after the last, so that a full book need not be held at once.
+using Source = std::function<std::optional<AddressEntry>()>;
+
+/// Finds the file of a stored picture path; empty when there is none.
+using PictureFinder = std::function<QString(const QString &stored)>;
+
+/// One entry under "Information For " and its names; `picturePath` is the file to show beside it, or empty.
+Page entryPage(const AddressEntry &entry, const QString &picturePath, DateStyle style, QDate printedOn);
+
+/// An empty form to fill in by hand.
+Page worksheet(DateStyle style, QDate printedOn);
+
+/// The entries of `next` with their pictures, so many to a sheet. Places follow the sheet of `setup`.
+Page cards(PerSheet perSheet, const PageSetup &setup, const Source &next, const PictureFinder &find,
+           DateStyle style, QDate printedOn);
+
+/// The entry as lines of label and value, empty ones left out; for the clipboard.
+QString clipboardText(const AddressEntry &entry);
+
+} // namespace AddressPages

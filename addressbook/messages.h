@@ -1,0 +1,169 @@
+#pragma once
+
+#include "shell/message.h"
+
+/// What the address book asks and says. The wording is fixed, odd spellings included.
+namespace AddressMessages
+{
+
+using namespace Qt::Literals::StringLiterals;
+
+inline Message lastNameMissing()
+{
+    return {u"Save"_s, u"Last Name must be entered to save file!"_s};
+}
+
+inline Message clearCurrentData()
+{
+    return {u"Clear Current Data"_s,
+            u"Do you really want to clear currently displayed data?"_s,
+            Message::Question,
+            {Answer::Yes, Answer::No, Answer::Cancel},
+            Answer::No};
+}
+
+/// Whether the person may still go back when asked to save.
+enum class GoingBack { Possible, Impossible };
+
+inline Message saveChanges(GoingBack goingBack)
+{
+    Message message{u"Entry/View Screen"_s,
+                    u"Save changes made to data?"_s,
+                    Message::Question,
+                    {Answer::Yes, Answer::No},
+                    Answer::Yes};
+    if (goingBack == GoingBack::Possible)
+        message.answers.append(Answer::Cancel);
+    return message;
+}
+
+inline Message noMatch()
+{
+    return {u"File Search"_s, u"No matching file was found!"_s, Message::Critical};
+}
+
+inline Message nameNotSelected()
+{
+    return {u"View Command"_s, u"Name must first be selected to view"_s};
+}
+
+inline Message nothingToView()
+{
+    return {u"View Data"_s, u"There are currently no files to view,\nthen use entry screen to input data."_s};
+}
+
+/// `names`: first and last name of the entry.
+inline Message deleteEntry(const QString &names)
+{
+    return {u"Delete Current File"_s,
+            u"Do You really want to delete\n"_s + names + u" file?"_s,
+            Message::Question,
+            {Answer::Yes, Answer::No, Answer::Cancel},
+            Answer::No};
+}
+
+inline Message dataCopied()
+{
+    return {u"Copy Option"_s, u"Data has been copied to the Windows Clipboard."_s};
+}
+
+inline Message telephoneNumberMissing()
+{
+    return {u"Telephone Dialing Option"_s, u"Please Enter a Valid Telephone Number!"_s};
+}
+
+inline Message numberDialed(const QString &number)
+{
+    return {u"Phone Dialing Function"_s,
+            u"Number Dialed: "_s + number +
+                u"\nPlease pick up the phone and either press Enter or click OK"
+                u"\nOr click Cancel to Hang-up Phone"_s,
+            Message::Information,
+            {Answer::Ok, Answer::Cancel}};
+}
+
+inline Message portNotAvailable(int port)
+{
+    const QString reason =
+        port == 1 ? u"COM1: not available."_s : u"The Current Commport may not be available."_s;
+    return {u"Telephone Dialing Option"_s,
+            u"CommPort is currently set at: "_s + QString::number(port) + u'\n' + reason +
+                u"\nTo work properly your phone and modem must be connected to the same phone line Or "
+                u"\nCheck your connects or to change the CommPort property to another port."_s,
+            Message::Critical};
+}
+
+inline QString newPortPrompt()
+{
+    return u"ENTER NEW PORT NUMBER BELOW:"_s;
+}
+
+inline Message manyPictures()
+{
+    return {u"Print Pictures Restraint"_s,
+            u"Printing many pictures may take several minutes.\n"
+            u"It is recommended to print at most sixteen pictures at a time."_s,
+            Message::Warning,
+            {Answer::Ok, Answer::Cancel}};
+}
+
+inline Message driveUnavailable()
+{
+    return {u"Device/Drive Error"_s, u"Device/Drive is Unavailable!"_s, Message::Critical};
+}
+
+inline Message deviceUnavailable()
+{
+    return {u"Device Status"_s, u"Device Unavailable!  "_s, Message::Critical};
+}
+
+/// Stands in the picture panel itself.
+inline QString notAPicture()
+{
+    return u"Program is unable to load this file as a Picture File!!!"_s;
+}
+
+// Quiet lines for the status bar.
+
+inline QString lineWithoutNumber()
+{
+    return u"The record number of this line cannot be read: the name is too long for the list."_s;
+}
+
+inline QString lineOfAnotherEntry()
+{
+    return u"This line leads to the entry of another name. It can be looked at, but not changed or deleted here."_s;
+}
+
+inline QString lineTooLong()
+{
+    return u"Saved. The name is too long for the name list, which keeps what it had."_s;
+}
+
+/// While a name is typed.
+inline QString nameTooLong()
+{
+    return u"This name is too long for the name list: after the next start it cannot be found there."_s;
+}
+
+inline QString saveFailed()
+{
+    return u"The entry could not be saved. What you typed is still here."_s;
+}
+
+inline QString lineNotSaved()
+{
+    return u"The entry was saved, but its line in the name list could not be written."_s;
+}
+
+inline QString deleteFailed()
+{
+    return u"The entry could not be deleted."_s;
+}
+
+inline QString entryNotFound()
+{
+    return u"This line leads to no entry."_s;
+}
+
+} // namespace AddressMessages

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+/// The names of the address book as its list shows them: the index lines of the live entries in record order,
+/// lines of this session's saves at the end. Holds the bytes of the lines once, so that 50,000 of them take
+/// little room.
+class NameList
+{
+public:
+    /// The line on which a search that has found a match goes on; see `find`.
+    static constexpr int searchResumesAt = 2002;
+
+    int count() const { return int(m_ends.size()); }
+    bool isEmpty() const { return m_ends.empty(); }
+
+    /// The whole line at `position` (from 0); empty outside the list.
+    QString line(int position) const;
+    /// Its names: "Miller, Anne".
+    QString name(int position) const;
+    /// The record number that the line leads to, or 0.
+    int recordAt(int position) const;
+    /// The first line that leads to `record`, or -1; record 0 is nowhere.
+    int positionOf(int record) const;
+
+    /// The line that a search for `text` selects, or -1. Upper and lower case are alike; the text may stand
+    /// anywhere in a line. In a list of up to 2001 lines that is the first match. In a longer one a match
+    /// sends the search on to position 2002, and a match from there on is the one that it ends with. That is
+    /// how the list has always been searched, and it is kept. The empty text stands in every line.
+    int find(QStringView text) const;
+
+    void append(QStringView line);
+    /// A line as it stands in the file.
+    void append(QByteArrayView line);
+    void removeAt(int position);
+    void reserve(int lines, qsizetype bytes);
+    /// Gives back the room that was reserved and not needed.
+    void squeeze();
+
+    /// The caption of the count label: " 12 - Entries ".
+    QString countCaption() const;
+
+    /// Bytes held, room for growth included.
+    qsizetype memoryUsed() const;
+    /// Characters of all lines together.
+    qsizetype textLength() const { return m_bytes.size(); }
+
+private:
+    QByteArrayView bytesAt(int position) const;
+    int firstMatch(QByteArrayView foldedText, int from) const;
+
+    QByteArray m_bytes;          ///< the lines one after another, one byte a character
+    std::vector<quint32> m_ends; ///< where each line ends in it
+};
