@@ -14,6 +14,10 @@ if(QUILLERY_SANITIZE)
                                                       -fno-omit-frame-pointer)
     target_link_options(quillery_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(QUILLERY_FUZZ)
+    # Lets the fuzzer see which branches of our own code an input reaches.
+    target_compile_options(quillery_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
