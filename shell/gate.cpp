@@ -1,0 +1,39 @@
+#include "shell/gate.h"
+
+#include "shell/passwordfile.h"
+#include "shell/program.h"
+
+#include <utility>
+
+AccessGate::AccessGate(Prompt prompt)
+    : m_prompt(std::move(prompt))
+{}
+
+bool AccessGate::mayOpen(Program &program, int area, QWidget *parent) const
+{
+    if (area == Area::None)
+        return true;
+    const bool isGuarded = program.state.protectedAreas.isProtected(area) ||
+                           PasswordFile(program.folder).state() == PasswordFile::State::Damaged;
+    if (isGuarded) {
+        program.state.guardedArea = area;
+        m_prompt(program, parent);
+    }
+    return takeVerdict(program);
+}
+
+bool AccessGate::mayOpenPasswordControl(Program &program, QWidget *parent) const
+{
+    program.state.passwordGateResult = PasswordGateResult::PasswordControl;
+    if (PasswordFile(program.folder).state() != PasswordFile::State::NotSet)
+        m_prompt(program, parent);
+    return takeVerdict(program);
+}
+
+bool AccessGate::takeVerdict(Program &program) const
+{
+    const bool mayOpen = program.state.passwordGateResult >= PasswordGateResult::Open;
+    program.state.passwordGateResult = PasswordGateResult::Open;
+    program.state.guardedArea = Area::None;
+    return mayOpen;
+}

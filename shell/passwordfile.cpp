@@ -1,0 +1,264 @@
+#include "shell/passwordfile.h"
+
+#include "shell/settingskeys.h"
+#include "storage/ansitext.h"
+#include "storage/log.h"
+#include "storage/recordvalue.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QtEndian>
+
+#include <sodium.h>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr SettingsFile passwordFile = SettingsKeys::passwordFile;
+constexpr int verifierRecord = 1;
+constexpr int firstFlagRecord = 2;
+constexpr int recordCount = firstFlagRecord + ProtectedAreas::count - 1;
+constexpr qsizetype countLength = 2;
+
+QString flagSet()
+{
+    return u"YES"_s;
+}
+
+QString flagNotSet()
+{
+    return u"NO"_s;
+}
+
+/// The bytes of a typed password, wiped when they are no longer needed. Accents count the same whether they
+/// were typed as one character or two.
+class SecretBytes
+{
+public:
+    explicit SecretBytes(const QString &password)
+    {
+        QString composed = password.normalized(QString::NormalizationForm_C);
+        m_bytes = composed.toUtf8();
+        sodium_memzero(composed.data(), std::size_t(composed.size()) * sizeof(QChar));
+    }
+    ~SecretBytes() { sodium_memzero(m_bytes.data(), std::size_t(m_bytes.size())); }
+    Q_DISABLE_COPY_MOVE(SecretBytes)
+
+    const char *data() const { return m_bytes.constData(); }
+    unsigned long long size() const { return static_cast<unsigned long long>(m_bytes.size()); }
+
+private:
+    QByteArray m_bytes;
+};
+
+QByteArrayView recordOf(QByteArrayView bytes, int number)
+{
+    const qsizetype start =
+        std::min<qsizetype>(qsizetype(number - 1) * passwordFile.recordLength, bytes.size());
+    return bytes.sliced(start, std::min<qsizetype>(passwordFile.recordLength, bytes.size() - start));
+}
+
+/// The counted text of a record; empty for a record that was never written, nothing for one that is cut
+/// short.
+std::optional<QByteArray> wholeText(QByteArrayView record)
+{
+    if (record.isEmpty())
+        return QByteArray();
+    if (record.size() < countLength)
+        return std::nullopt;
+    const qsizetype count = qFromLittleEndian<quint16>(record.data());
+    if (count > record.size() - countLength)
+        return std::nullopt;
+    return record.sliced(countLength, count).toByteArray();
+}
+
+/// Whether `text` can be a verifier of ours. Costs far beyond what we ever ask for are noise: checking a
+/// password against them would take hours.
+bool isVerifier(const QByteArray &text)
+{
+    static const QRegularExpression form(u"^\\$argon2id\\$v=19\\$m=(\\d{1,7}),t=(\\d{1,2}),p=1\\$"_s);
+    constexpr int largestMemory = 1024 * 1024; // KiB
+    constexpr int mostPasses = 16;
+    const QRegularExpressionMatch match = form.match(QString::fromLatin1(text));
+    if (!match.hasMatch() || match.captured(1).toInt() > largestMemory ||
+        match.captured(2).toInt() > mostPasses)
+        return false;
+    if (text.contains('\0') || text.size() >= qsizetype(crypto_pwhash_STRBYTES))
+        return false;
+    // Answers 0 or 1 for every text that it can read.
+    return crypto_pwhash_str_needs_rehash(text.constData(), crypto_pwhash_opslimit_min(),
+                                          crypto_pwhash_memlimit_min()) != -1;
+}
+
+} // namespace
+
+PasswordCost PasswordCost::interactive()
+{
+    return {crypto_pwhash_opslimit_interactive(), crypto_pwhash_memlimit_interactive()};
+}
+
+PasswordCost PasswordCost::minimum()
+{
+    return {crypto_pwhash_opslimit_min(), crypto_pwhash_memlimit_min()};
+}
+
+PasswordFile::PasswordFile(const DataFolder &folder, PasswordCost cost)
+    : m_folder(folder)
+    , m_cost(cost)
+{
+    if (sodium_init() < 0)
+        qCWarning(storageLog) << "Passwords cannot be checked: no source of random numbers";
+}
+
+PasswordFile::State PasswordFile::state() const
+{
+    return read().state;
+}
+
+ProtectedAreas PasswordFile::areas() const
+{
+    return read().areas;
+}
+
+void PasswordFile::load(ProgramState &state) const
+{
+    state.protectedAreas = areas();
+}
+
+bool PasswordFile::matches(const QString &password) const
+{
+    const Content content = read();
+    if (content.state != State::Set || password.isEmpty())
+        return false;
+    const SecretBytes typed(password);
+    return crypto_pwhash_str_verify(content.verifier.constData(), typed.data(), typed.size()) == 0;
+}
+
+bool PasswordFile::setPassword(const QString &password) const
+{
+    const Content content = read();
+    if (content.state == State::Damaged || password.isEmpty())
+        return false;
+
+    const SecretBytes typed(password);
+    QByteArray verifier(crypto_pwhash_STRBYTES, '\0');
+    if (crypto_pwhash_str(verifier.data(), typed.data(), typed.size(), m_cost.operations, m_cost.memory) !=
+        0) {
+        qCWarning(storageLog) << "Not enough memory to make a password's verifier";
+        return false;
+    }
+    verifier.truncate(qsizetype(qstrlen(verifier.constData())));
+
+    // With a password every flag is written, so that a file that was cut short anywhere can be told from a
+    // whole one. The verifier comes last: until it stands there, no password is set.
+    for (int area = 0; area < ProtectedAreas::count; ++area) {
+        if (content.areas.flag(area).isEmpty() && !writeFlag(area, flagNotSet()))
+            return false;
+    }
+    return writeVerifier(verifier, content.verifier);
+}
+
+bool PasswordFile::removePassword() const
+{
+    const Content content = read();
+    if (content.state == State::Damaged)
+        return false;
+    // The flags go first: flags without a password would be a damaged file.
+    for (int area = 0; area < ProtectedAreas::count; ++area) {
+        if (!writeFlag(area, flagNotSet()))
+            return false;
+    }
+    return writeVerifier({}, content.verifier);
+}
+
+bool PasswordFile::saveAreas(const ProtectedAreas &areas) const
+{
+    const Content content = read();
+    if (content.state == State::Damaged)
+        return false;
+    for (int area = 0; area < ProtectedAreas::count; ++area) {
+        if (areas.flag(area) == content.areas.flag(area))
+            continue;
+        if (areas.isProtected(area) && content.state != State::Set)
+            return false;
+        if (!writeFlag(area, areas.isProtected(area) ? flagSet() : flagNotSet()))
+            return false;
+    }
+    return true;
+}
+
+PasswordFile::Content PasswordFile::damaged()
+{
+    Content content;
+    content.state = State::Damaged;
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        content.areas.setFlag(area, flagSet());
+    return content;
+}
+
+PasswordFile::Content PasswordFile::parsed(QByteArrayView bytes)
+{
+    const std::optional<QByteArray> verifier = wholeText(recordOf(bytes, verifierRecord));
+    if (!verifier || (!verifier->isEmpty() && !isVerifier(*verifier)))
+        return damaged();
+
+    Content content;
+    content.verifier = *verifier;
+    content.state = verifier->isEmpty() ? State::NotSet : State::Set;
+    for (int area = 0; area < ProtectedAreas::count; ++area) {
+        const std::optional<QByteArray> text = wholeText(recordOf(bytes, firstFlagRecord + area));
+        if (!text)
+            return damaged();
+        const QString flag = AnsiText::decode(*text);
+        const QStringView word = AnsiText::trimmedBlanksRight(flag);
+        const bool isSet = word == flagSet();
+        if (!word.isEmpty() && !isSet && word != flagNotSet())
+            return damaged();
+        if (isSet && content.state == State::NotSet)
+            return damaged();
+        content.areas.setFlag(area, flag);
+    }
+    // A password was always written together with the last flag.
+    const bool isWhole = !recordOf(bytes, recordCount).isEmpty();
+    return content.state == State::Set && !isWhole ? damaged() : content;
+}
+
+PasswordFile::Content PasswordFile::read() const
+{
+    const QFileInfo info(m_folder.filePath(QLatin1StringView(passwordFile.name)));
+    if (!info.exists() && !info.isSymLink())
+        return {};
+    QFile file(info.filePath());
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
+        qCWarning(storageLog).noquote() << "Cannot read" << info.filePath();
+        return damaged();
+    }
+    const QByteArray bytes = file.read(qint64(recordCount) * passwordFile.recordLength);
+    return file.error() == QFile::NoError ? parsed(bytes) : damaged();
+}
+
+bool PasswordFile::writeFlag(int area, const QString &flag) const
+{
+    const RecordFile file(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
+    const std::optional<QByteArray> bytes = RecordValue::encodeText(flag, passwordFile.recordLength);
+    return bytes && file.write(firstFlagRecord + area, *bytes);
+}
+
+bool PasswordFile::writeVerifier(const QByteArray &verifier, const QByteArray &old) const
+{
+    const RecordFile file(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
+    std::optional<QByteArray> bytes =
+        RecordValue::encodeText(QString::fromLatin1(verifier), passwordFile.recordLength);
+    if (!bytes)
+        return false;
+    // Zeros over what the old verifier leaves behind the new one: nobody shall go on guessing from it.
+    const qsizetype oldLength = countLength + old.size();
+    if (bytes->size() < oldLength)
+        bytes->resize(oldLength, '\0');
+    return file.write(verifierRecord, *bytes);
+}

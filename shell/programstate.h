@@ -60,6 +60,8 @@ struct ProgramState {
     FamilyName familyName;
     ProtectedAreas protectedAreas;
     PasswordGateResult passwordGateResult = PasswordGateResult::Open;
+    /// The area that the password prompt is asked for, while it is; -1 otherwise.
+    int guardedArea = -1;
     ScreenMode screenMode = ScreenMode::FullScreen;
     int startup = 0;
 };

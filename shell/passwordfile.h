@@ -1,0 +1,73 @@
+#pragma once
+
+#include "shell/programstate.h"
+#include "storage/datafolder.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstddef>
+
+/// How much work it takes to check one password: what slows a guessing machine down.
+struct PasswordCost {
+    unsigned long long operations;
+    std::size_t memory; ///< bytes
+
+    /// About a tenth of a second and 64 MiB.
+    static PasswordCost interactive();
+    /// Hardly any: for tests.
+    static PasswordCost minimum();
+};
+
+/// The password and the 21 flags of what it guards, in `PCtrl1.Fil` (record length 140): record 1 the
+/// password's verifier, records 2 to 22 the flags 0 to 20, all counted texts. The password itself is never
+/// stored. Nothing is cached: each call reads the file as it is now.
+class PasswordFile
+{
+public:
+    enum class State {
+        NotSet, ///< no password: a missing or empty file too
+        Set,
+        Damaged ///< cannot be trusted: everything that can be guarded is, and nothing is written
+    };
+
+    explicit PasswordFile(const DataFolder &folder, PasswordCost cost = PasswordCost::interactive());
+
+    State state() const;
+
+    /// The flags as the file holds them; all of them set when the file is damaged.
+    ProtectedAreas areas() const;
+
+    /// Puts the flags into the program-wide state; called at start.
+    void load(ProgramState &state) const;
+
+    /// Whether `password` is the one that is set; never when none is set or the file is damaged.
+    bool matches(const QString &password) const;
+
+    /// Sets or replaces the password; whoever calls has asked for the old one. False, with the old password
+    /// in force, when `password` is empty, the file is damaged, or the disk refuses.
+    bool setPassword(const QString &password) const;
+
+    /// Takes the password away, and all flags with it. False when the file is damaged or the disk refuses.
+    bool removePassword() const;
+
+    /// Writes the flags that differ from those in the file. False when the file is damaged, when a flag would
+    /// be set without a password, or when the disk refuses.
+    bool saveAreas(const ProtectedAreas &areas) const;
+
+private:
+    struct Content {
+        State state = State::NotSet;
+        QByteArray verifier;
+        ProtectedAreas areas;
+    };
+
+    static Content damaged();
+    static Content parsed(QByteArrayView bytes);
+    Content read() const;
+    bool writeFlag(int area, const QString &flag) const;
+    bool writeVerifier(const QByteArray &verifier, const QByteArray &old) const;
+
+    const DataFolder &m_folder;
+    PasswordCost m_cost;
+};

@@ -1,0 +1,312 @@
+#include "shell/passwordfile.h"
+#include "tests/storage/filesizelimit.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int recordLength = 140;
+constexpr auto sesameVerifier = "$argon2id$v=19$m=8,t=1,p=1$EA12avHwkxNxcxzw5Ce9ng$"
+                                "wYeDBE6Buzprzfvbd9dOePNR1efAdZRop+w/p/D7dM0";
+
+QByteArray counted(const QByteArray &text)
+{
+    return QByteArray(1, char(text.size())) + '\0' + text;
+}
+
+/// Puts `value` at the start of record `number` of `file`; the rest of the record stays.
+QByteArray &put(QByteArray &file, int number, const QByteArray &value)
+{
+    const qsizetype start = qsizetype(number - 1) * recordLength;
+    if (file.size() < start + value.size())
+        file.resize(start + value.size(), '\0');
+    return file.replace(start, value.size(), value);
+}
+
+/// A whole file with the password "Sesame" that guards the address book (0) and area 6 of another edition.
+QByteArray sesameFile()
+{
+    QByteArray file;
+    put(file, 1, counted(sesameVerifier));
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        put(file, area + 2, counted(area == 0 || area == 6 ? "YES" : "NO"));
+    return file;
+}
+
+} // namespace
+
+class TestPasswordFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void withoutAFileNothingIsGuarded();
+    void readsAFileWrittenByHand();
+    void writesVerifierAndFlagsAtTheirPlaces();
+    void neverStoresThePassword();
+    void comparesPasswords_data();
+    void comparesPasswords();
+    void savingTouchesOnlyTheFlagsThatChanged();
+    void setsNoFlagWithoutAPassword();
+    void removalLeavesNothingToGuessFrom();
+    void tellsDamagedFiles_data();
+    void tellsDamagedFiles();
+    void everyCutIsDamage();
+    void noiseOpensNothing();
+    void aFolderInItsPlaceIsDamage();
+    void aDamagedFileIsNotTouched();
+    void aFullDiskKeepsTheOldPassword();
+
+private:
+    QByteArray bytes() const;
+    void setBytes(const QByteArray &bytes) const;
+    PasswordFile file() const { return PasswordFile(m_data, PasswordCost::minimum()); }
+
+    QTemporaryDir m_dir;
+    QString m_path = m_dir.filePath(u"PCtrl1.Fil"_s);
+    DataFolder m_data{m_dir.path()};
+};
+
+QByteArray TestPasswordFile::bytes() const
+{
+    QFile file(m_path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void TestPasswordFile::setBytes(const QByteArray &bytes) const
+{
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+void TestPasswordFile::init()
+{
+    QFile::remove(m_path);
+}
+
+void TestPasswordFile::withoutAFileNothingIsGuarded()
+{
+    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+    QCOMPARE(file().areas(), ProtectedAreas());
+    QVERIFY(!file().matches(QString()));
+    QVERIFY(!QFile::exists(m_path));
+
+    setBytes({});
+    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+}
+
+void TestPasswordFile::readsAFileWrittenByHand()
+{
+    setBytes(sesameFile());
+    QCOMPARE(file().state(), PasswordFile::State::Set);
+    QVERIFY(file().matches(u"Sesame"_s));
+    ProgramState state;
+    file().load(state);
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        QCOMPARE(state.protectedAreas.isProtected(area), area == 0 || area == 6);
+}
+
+void TestPasswordFile::writesVerifierAndFlagsAtTheirPlaces()
+{
+    QVERIFY(file().setPassword(u"Sesame"_s));
+    ProtectedAreas areas = file().areas();
+    areas.setFlag(2, u"YES"_s);
+    areas.setFlag(20, u"YES"_s);
+    QVERIFY(file().saveAreas(areas));
+
+    const QByteArray written = bytes();
+    QCOMPARE(written.size(), 21 * recordLength + 5);
+    QVERIFY(written.startsWith(QByteArray("\x5D\0$argon2id$v=19$m=8,t=1,p=1$", 29)));
+    QCOMPARE(written.mid(95, recordLength - 95), QByteArray(recordLength - 95, '\0'));
+    QByteArray flags = written.left(recordLength);
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        put(flags, area + 2, counted(area == 2 || area == 20 ? "YES" : "NO"));
+    QCOMPARE(written, flags);
+}
+
+void TestPasswordFile::neverStoresThePassword()
+{
+    QVERIFY(file().setPassword(u"Open sesame"_s));
+    QVERIFY(file().setPassword(u"Tulips"_s));
+    for (const QByteArray &part : {"sesame"_ba, "Tulips"_ba})
+        QVERIFY(!bytes().toLower().contains(part.toLower()));
+    // The same password gives another verifier each time, so that two households cannot be compared.
+    const QByteArray before = bytes();
+    QVERIFY(file().setPassword(u"Tulips"_s));
+    QVERIFY(bytes() != before);
+}
+
+void TestPasswordFile::comparesPasswords_data()
+{
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("matches");
+    QTest::newRow("the same") << u"Sesame"_s << u"Sesame"_s << true;
+    QTest::newRow("case counts") << u"Sesame"_s << u"sesame"_s << false;
+    QTest::newRow("blanks count") << u"Sesame"_s << u"Sesame "_s << false;
+    QTest::newRow("only a part") << u"Sesame"_s << u"Sesam"_s << false;
+    QTest::newRow("nothing typed") << u"Sesame"_s << QString() << false;
+    QTest::newRow("beyond the code page") << u"Ωμέγα 中文"_s << u"Ωμέγα 中文"_s << true;
+    QTest::newRow("not the question marks of it") << u"Ωμέγα"_s << u"?????"_s << false;
+    QTest::newRow("an accent typed in two") << u"José"_s << u"Jose\u0301"_s << true;
+    QTest::newRow("longer than a record") << QString(300, u'x') << QString(300, u'x') << true;
+}
+
+void TestPasswordFile::comparesPasswords()
+{
+    QFETCH(QString, password);
+    QFETCH(QString, typed);
+    QVERIFY(file().setPassword(password));
+    QTEST(file().matches(typed), "matches");
+}
+
+void TestPasswordFile::savingTouchesOnlyTheFlagsThatChanged()
+{
+    QByteArray before = sesameFile();
+    put(before, 6 + 2, counted("YES ") + "kept");
+    put(before, 7 + 2, counted({}) + "kept");
+    put(before, 2 + 2, counted("NO") + "kept");
+    setBytes(before);
+
+    ProtectedAreas areas = file().areas();
+    areas.setFlag(2, u"YES"_s);
+    QVERIFY(file().saveAreas(areas));
+    QCOMPARE(bytes(), put(before, 2 + 2, counted("YES") + "ept"));
+}
+
+void TestPasswordFile::setsNoFlagWithoutAPassword()
+{
+    ProtectedAreas areas;
+    areas.setFlag(9, u"YES"_s);
+    QVERIFY(!file().saveAreas(areas));
+    QVERIFY(!file().setPassword(QString()));
+    QVERIFY(!QFile::exists(m_path));
+}
+
+void TestPasswordFile::removalLeavesNothingToGuessFrom()
+{
+    setBytes(sesameFile());
+    QVERIFY(file().removePassword());
+    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+    QByteArray after(qsizetype(2) + qsizetype(qstrlen(sesameVerifier)), '\0');
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        put(after, area + 2, counted("NO") + (area == 0 || area == 6 ? "S" : ""));
+    QCOMPARE(bytes(), after);
+}
+
+void TestPasswordFile::tellsDamagedFiles_data()
+{
+    QTest::addColumn<int>("record");
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<PasswordFile::State>("state");
+    using State = PasswordFile::State;
+    const QByteArray verifier(sesameVerifier);
+    const auto changed = [&verifier](const char *from, const char *to) {
+        return counted(QByteArray(verifier).replace(from, to));
+    };
+    QTest::newRow("untouched") << 1 << counted(verifier) << State::Set;
+    QTest::newRow("verifier of another kind") << 1 << changed("argon2id", "argon2i") << State::Damaged;
+    QTest::newRow("verifier that asks for hours") << 1 << changed("t=1", "t=4000000") << State::Damaged;
+    QTest::newRow("verifier that asks for all memory") << 1 << changed("m=8", "m=4194304") << State::Damaged;
+    QTest::newRow("verifier without its end") << 1 << counted(verifier.left(60)) << State::Damaged;
+    QTest::newRow("verifier with a foreign letter") << 1 << changed("EA12", "E~12") << State::Damaged;
+    QTest::newRow("zero byte in the verifier")
+        << 1 << counted(QByteArray(verifier).replace(40, 1, QByteArray(1, '\0'))) << State::Damaged;
+    QTest::newRow("count beyond the record") << 1 << QByteArray("\xFF\xFF", 2) << State::Damaged;
+    QTest::newRow("count that fills the record too far") << 1 << QByteArray("\x8B\0", 2) << State::Damaged;
+    QTest::newRow("flags without a verifier") << 1 << QByteArray(2, '\0') << State::Damaged;
+    QTest::newRow("a plain word") << 1 << counted("Sesame") << State::Damaged;
+    QTest::newRow("flag in small letters") << 2 << counted("yes") << State::Damaged;
+    QTest::newRow("flag behind a blank") << 2 << counted(" YES") << State::Damaged;
+    QTest::newRow("flag with a blank behind it") << 2 << counted("YES ") << State::Set;
+    QTest::newRow("empty flag") << 3 << counted({}) << State::Set;
+    QTest::newRow("blank flag") << 3 << counted("  ") << State::Set;
+    QTest::newRow("flag of zero bytes") << 3 << counted(QByteArray(2, '\0')) << State::Damaged;
+    QTest::newRow("noise in the last flag") << 22 << counted("\xC3\x28") << State::Damaged;
+    QTest::newRow("bytes behind the last record") << 23 << QByteArray("\xFF\xFF", 2) << State::Set;
+}
+
+void TestPasswordFile::tellsDamagedFiles()
+{
+    QFETCH(int, record);
+    QFETCH(QByteArray, value);
+    QByteArray content = sesameFile();
+    setBytes(put(content, record, value));
+    QTEST(file().state(), "state");
+    if (file().state() != PasswordFile::State::Damaged)
+        return;
+    QVERIFY(!file().matches(u"Sesame"_s));
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        QVERIFY(file().areas().isProtected(area));
+}
+
+void TestPasswordFile::everyCutIsDamage()
+{
+    const QByteArray whole = sesameFile();
+    for (qsizetype length = 1; length < whole.size(); ++length) {
+        setBytes(whole.left(length));
+        QVERIFY2(file().state() == PasswordFile::State::Damaged, qPrintable(QString::number(length)));
+    }
+}
+
+void TestPasswordFile::noiseOpensNothing()
+{
+    QRandomGenerator random(20261121);
+    for (int round = 0; round < 300; ++round) {
+        QByteArray noise(random.bounded(1, 4000), Qt::Uninitialized);
+        for (char &byte : noise)
+            byte = char(random.bounded(1, 256));
+        setBytes(noise);
+        QCOMPARE(file().state(), PasswordFile::State::Damaged);
+    }
+}
+
+void TestPasswordFile::aFolderInItsPlaceIsDamage()
+{
+    QVERIFY(QDir(m_dir.path()).mkdir(u"pctrl1.fil"_s));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Cannot read .*pctrl1.fil$"_s));
+    QCOMPARE(file().state(), PasswordFile::State::Damaged);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Cannot read .*pctrl1.fil$"_s));
+    QVERIFY(!file().setPassword(u"Sesame"_s));
+    QVERIFY(QDir(m_dir.path()).rmdir(u"pctrl1.fil"_s));
+}
+
+void TestPasswordFile::aDamagedFileIsNotTouched()
+{
+    const QByteArray cut = sesameFile().left(1000);
+    setBytes(cut);
+    QVERIFY(!file().setPassword(u"Tulips"_s));
+    QVERIFY(!file().removePassword());
+    QVERIFY(!file().saveAreas({}));
+    QCOMPARE(bytes(), cut);
+}
+
+void TestPasswordFile::aFullDiskKeepsTheOldPassword()
+{
+#ifdef Q_OS_UNIX
+    setBytes(sesameFile());
+    const QRegularExpression warning(u"^Cannot write record "_s);
+    {
+        const FileSizeLimit full(0);
+        QTest::ignoreMessage(QtWarningMsg, warning);
+        QVERIFY(!file().setPassword(u"Tulips"_s));
+        QTest::ignoreMessage(QtWarningMsg, warning);
+        QVERIFY(!file().removePassword());
+    }
+    QVERIFY(file().matches(u"Sesame"_s));
+    QCOMPARE(bytes(), sesameFile());
+#else
+    QSKIP("only tried where the size of files can be limited");
+#endif
+}
+
+QTEST_APPLESS_MAIN(TestPasswordFile)
+#include "tst_passwordfile.moc"
