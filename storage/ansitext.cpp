@@ -5,8 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace
-{
+namespace {
 
 using CodePage = std::array<char16_t, 256>;
 

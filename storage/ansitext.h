@@ -5,8 +5,7 @@
 #include <QStringView>
 
 /// Text as the data files hold it: Windows-1252, one byte a character.
-namespace AnsiText
-{
+namespace AnsiText {
 
 /// The bytes of `text`, composed to NFC first; a character that the code page lacks becomes '?'.
 QByteArray encode(QStringView text);

@@ -5,8 +5,7 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 
-namespace
-{
+namespace {
 
 QString joined(const QString &folder, const QString &name)
 {
@@ -36,8 +35,7 @@ QString entryPath(const QString &folder, const QString &name)
 
 DataFolder::DataFolder(QString path)
     : m_path(path.isEmpty() ? QStringLiteral(".") : QDir::cleanPath(path))
-{
-}
+{}
 
 QString DataFolder::filePath(const QString &name) const
 {

@@ -9,8 +9,7 @@
 #include <limits>
 #include <utility>
 
-namespace
-{
+namespace {
 
 constexpr qsizetype blockLength = 256 * 1024;
 

@@ -65,8 +65,7 @@ class RecordLayout
 public:
     constexpr explicit RecordLayout(Fields... fields)
         : m_fields(fields...)
-    {
-    }
+    {}
 
     /// Bytes that the fields take; checked against the documented length when the layout is compiled.
     constexpr qsizetype size() const

@@ -7,8 +7,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace
-{
+namespace {
 
 constexpr qsizetype numberLength = 2;
 
@@ -55,6 +54,11 @@ std::optional<QByteArray> RecordValue::encodeText(QStringView text, qsizetype re
 
 QString RecordValue::decodeText(QByteArrayView bytes)
 {
+    return AnsiText::decode(textBytes(bytes));
+}
+
+QByteArrayView RecordValue::textBytes(QByteArrayView bytes)
+{
     if (bytes.size() < numberLength)
         return {};
     const qsizetype count = qFromLittleEndian<quint16>(bytes.data());
@@ -62,7 +66,7 @@ QString RecordValue::decodeText(QByteArrayView bytes)
         return {};
     const QByteArrayView characters = bytes.sliced(numberLength, count);
     const qsizetype zero = characters.indexOf('\0');
-    return AnsiText::decode(zero < 0 ? characters : characters.first(zero));
+    return zero < 0 ? characters : characters.first(zero);
 }
 
 std::optional<QByteArray> RecordValue::encodeTaggedText(QStringView text, qsizetype recordLength)

@@ -8,8 +8,7 @@
 
 /// The values that one record of a settings or index file can hold, as bytes and back. All numbers are
 /// little-endian. Decoders take bytes of any length and give the empty value where a value is cut short.
-namespace RecordValue
-{
+namespace RecordValue {
 
 /// A whole number: 2 bytes, signed.
 QByteArray encodeNumber(std::int16_t number);
@@ -25,6 +24,8 @@ std::optional<QByteArray> encodeText(QStringView text, qsizetype recordLength);
 /// The counted text at the start of `bytes`, up to its first zero byte (never written); a count beyond the
 /// end gives the empty text.
 QString decodeText(QByteArrayView bytes);
+/// The characters of that text as they stand in the record, without a copy.
+QByteArrayView textBytes(QByteArrayView bytes);
 
 /// A tagged text: type code 8, then the counted text; the empty text is type code 0 alone.
 std::optional<QByteArray> encodeTaggedText(QStringView text, qsizetype recordLength);

@@ -16,8 +16,7 @@
 #include <unistd.h>
 #endif
 
-namespace
-{
+namespace {
 
 /// Puts what was written to `file` on the disk itself, where a power cut cannot take it.
 bool flushToDisk(QFile &file)

@@ -7,8 +7,7 @@
 
 /// Staged saving of files that are rewritten whole: the new content is complete on disk before the old one
 /// goes.
-namespace Saving
-{
+namespace Saving {
 
 /// The neighbours of a file that is being replaced: `part` while it is written, `staged` once all of it is on
 /// disk.

@@ -8,8 +8,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace
-{
+namespace {
 
 constexpr char endOfText = 26;
 

@@ -5,8 +5,7 @@
 
 /// Sequential value files: texts in double quotes, one value a line, CRLF line ends, rewritten whole on each
 /// save.
-namespace ValueFile
-{
+namespace ValueFile {
 
 /// The file of `values`. A quote inside a text that a reader would take for the closing one becomes two
 /// apostrophes.
