@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+/// Where the appointments of a date are kept: one file per year, one record of 900 bytes per date.
+namespace DayRecord {
+
+inline constexpr int length = 900;
+/// The highest record that a date produces: 31 December.
+inline constexpr int last = 431;
+
+/// " 2026.Cal": the blank in front is part of the name on disk.
+QString yearFileName(int year);
+
+/// The record of `date`: day and month as digits up to September, a block of its own for each month after.
+int number(QDate date);
+
+/// The date of `record` in `year`; an invalid date for a record that no date of that year produces.
+QDate date(int record, int year);
+
+} // namespace DayRecord

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "planner/dayorder.h"
+#include "planner/plannerday.h"
+#include "storage/datafolder.h"
+
+#include <QDate>
+
+#include <functional>
+
+/// The year files of the planner: reads and writes the day of a date. Nothing is kept open or cached.
+class PlannerFiles
+{
+public:
+    explicit PlannerFiles(const DataFolder &folder);
+
+    /// The appointments of `date`; an empty day when its file or record is missing or was never saved. A
+    /// missing year file is made, empty, as the planner's files have it.
+    PlannerDay read(QDate date) const;
+
+    /// The same without making anything: for readers beside the planner.
+    PlannerDay peek(QDate date) const;
+
+    /// Writes `day`, marked as saved, into `date`'s record: 850 bytes, cut and padded to the fields' widths.
+    /// False when the disk refuses; the rest of the file keeps what it held.
+    bool write(QDate date, const PlannerDay &day) const;
+
+    /// Visits the saved days of `year` in one pass over its file, in record order; nothing when the file is
+    /// missing.
+    void forEachDay(int year, const std::function<void(QDate date, const PlannerDay &day)> &visit) const;
+
+    /// The years that have a file, in order.
+    QList<int> years() const;
+
+    QString yearFilePath(int year) const;
+
+private:
+    const DataFolder &m_folder;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "planner/plannerfiles.h"
+
+#include <QDate>
+#include <QString>
+
+#include <vector>
+
+/// One row of the planner that a search found.
+struct PlannerHit {
+    QDate date;
+    int row = 0;
+    QString time;
+    QString text;
+
+    bool operator==(const PlannerHit &) const = default;
+};
+
+/// Looks for a text in the appointments of all years, a year a step, so that whoever drives it can show
+/// progress and stop it. Upper and lower case are alike; the text may stand anywhere in a time or a text.
+class PlannerSearch
+{
+public:
+    /// At most this many hits are kept; the search ends with the year that fills them.
+    static constexpr std::size_t mostHits = 5000;
+
+    PlannerSearch(const PlannerFiles &files, const QString &text);
+
+    /// Looks through the next year; false when none is left. An empty text finds nothing.
+    bool step();
+
+    /// What was found so far, by date.
+    const std::vector<PlannerHit> &hits() const { return m_hits; }
+    int yearCount() const { return int(m_years.size()); }
+    int yearsDone() const { return m_done; }
+
+private:
+    void look(QDate date, const PlannerDay &day);
+
+    const PlannerFiles &m_files;
+    QString m_text;
+    QList<int> m_years;
+    int m_done = 0;
+    std::vector<PlannerHit> m_hits;
+};

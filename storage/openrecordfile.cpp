@@ -1,0 +1,36 @@
+#include "storage/openrecordfile.h"
+
+#include "storage/log.h"
+
+OpenRecordFile::OpenRecordFile(const QString &path, qsizetype recordLength)
+    : m_file(path)
+    , m_recordLength(recordLength)
+    , m_record(recordLength, '\0')
+{
+    m_isWritable = m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    if (!m_isWritable && !m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        qCWarning(storageLog).noquote() << "Cannot open" << path << '-' << m_file.errorString();
+}
+
+bool OpenRecordFile::seek(int number)
+{
+    return number >= 1 && m_file.isOpen() && m_file.seek((qint64(number) - 1) * m_recordLength);
+}
+
+QByteArrayView OpenRecordFile::read(int number)
+{
+    if (!seek(number))
+        return {};
+    const qint64 count = m_file.read(m_record.data(), m_recordLength);
+    return QByteArrayView(m_record).first(count > 0 ? qsizetype(count) : 0);
+}
+
+bool OpenRecordFile::write(int number, QByteArrayView value)
+{
+    if (m_isWritable && value.size() <= m_recordLength && seek(number)
+        && m_file.write(value.data(), value.size()) == value.size())
+        return true;
+    qCWarning(storageLog).noquote() << "Cannot write record" << number << "of" << m_file.fileName() << '-'
+                                  << m_file.errorString();
+    return false;
+}

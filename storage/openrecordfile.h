@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+
+/// A random-access file that stays open over many reads and writes, for walks over thousands of records. The rules are
+/// those of `RecordFile`; every write goes to the system at once. It is opened, and made when missing, by the first
+/// use; a file that can only be read is read.
+class OpenRecordFile
+{
+public:
+    OpenRecordFile(const QString &path, qsizetype recordLength);
+
+    /// As `RecordFile::read`; the view is good until the next call.
+    QByteArrayView read(int number);
+
+    /// As `RecordFile::write`.
+    bool write(int number, QByteArrayView value);
+
+private:
+    bool seek(int number);
+
+    QFile m_file;
+    qsizetype m_recordLength;
+    QByteArray m_record;
+    bool m_isWritable = false;
+};
