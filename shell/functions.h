@@ -2,7 +2,9 @@
 
 #include "shell/liveline.h"
 
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 
 #include <functional>
 #include <map>
@@ -10,7 +12,6 @@
 
 class DataFolder;
 class QDate;
-class QWidget;
 struct Program;
 
 /// The functions of this edition, in the order of their cards on the main menu; the viewer has no card of its own.
@@ -38,6 +39,9 @@ struct FunctionEntry {
     std::function<std::optional<LiveLine>(const Program &, QDate today)> liveLine;
     /// The files that the news comes from: it is read again only when one of them has changed.
     QStringList liveFiles;
+    /// What the function has for the dates `from` to `to`, in date order; empty for a function without any. It is not
+    /// asked while the function is guarded.
+    std::function<QList<DayNote>(const Program &, QDate from, QDate to)> dayNotes;
 };
 
 /// The functions that are built into this program. A function that is not in it yet stands disabled on the main menu.
@@ -57,5 +61,5 @@ public:
 
 private:
     std::map<Function, FunctionEntry> m_entries;
-    std::map<Function, QWidget *> m_windows; ///< entries go when their window is destroyed
+    std::map<Function, QPointer<QWidget>> m_windows; ///< null when their window is gone
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 
 /// The one line of news that a function shows on its card on the main menu.
@@ -12,4 +13,13 @@ struct LiveLine {
     QString sentence;
 
     bool operator==(const LiveLine &) const = default;
+};
+
+/// What a function has to say about one date, for the windows of other functions: "Anne Lind turns 48".
+struct DayNote {
+    QDate date;
+    QString text;
+    QString source; ///< the function it comes from: "Address Book"
+
+    bool operator==(const DayNote &) const = default;
 };
