@@ -69,13 +69,14 @@ public:
     /// stop. An entry is live when its own record of the index holds a line.
     void forEachLive(const std::function<bool(int record, const AddressEntry &entry)> &visit) const;
 
-    /// As `forEachLive`, with the record's bytes: at most 724, fewer at the end of the file.
-    void forEachLiveRecord(const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
-
 private:
     RecordFile entries() const;
     RecordFile index() const;
-    bool isOwnLine(int record, QStringView line) const;
+    SaveResult prepared(int record, const AddressEntry &entry) const;
+    void writeLine(SaveResult &result) const;
+    /// Whether `line` is the one that `entry` left in its own record when its names grew too long for the
+    /// index.
+    bool isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const;
 
     const DataFolder &m_folder;
 };

@@ -41,6 +41,9 @@ struct AddressEntry {
     bool operator==(const AddressEntry &) const = default;
 };
 
+/// The label of a field on screen and on the clipboard: "Last Name:". The second address line has none.
+QString addressLabel(AddressField field);
+
 /// What the picture field of an entry without a picture holds.
 inline constexpr QLatin1StringView noPicture("**");
 

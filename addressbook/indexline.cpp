@@ -1,0 +1,125 @@
+#include "addressbook/indexline.h"
+
+#include "addressbook/addressentry.h"
+#include "storage/ansitext.h"
+
+#include <limits>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Characters of the names in front of the number; with more of them the number leaves its column.
+constexpr qsizetype nameWidth = 42;
+constexpr qsizetype numberColumn = 47;
+constexpr qsizetype leastGap = numberColumn - nameWidth;
+
+/// "Miller, Anne": both names without outer blanks.
+QString listName(QStringView lastName, QStringView firstName)
+{
+    return AnsiText::trimmedBlanks(lastName).toString() + u", "_s +
+           AnsiText::trimmedBlanks(firstName).toString();
+}
+
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+bool isBlank(QChar character)
+{
+    return character == u' ';
+}
+
+bool isBlank(char character)
+{
+    return character == ' ';
+}
+
+int digitValue(QChar digit)
+{
+    return digit.unicode() - u'0';
+}
+
+int digitValue(char digit)
+{
+    return digit - '0';
+}
+
+/// The number at `nameWidth`; one that no int can hold gives the largest, which no file has a record for.
+template <typename View>
+int recordOf(View line)
+{
+    if (line.size() < nameWidth)
+        return 0;
+    auto at = line.begin() + nameWidth;
+    while (at != line.end() && isBlank(*at))
+        ++at;
+    int number = 0;
+    for (; at != line.end() && isDigit(*at); ++at) {
+        if (number > (std::numeric_limits<int>::max() - 9) / 10)
+            return std::numeric_limits<int>::max();
+        number = number * 10 + digitValue(*at);
+    }
+    return number;
+}
+
+} // namespace
+
+QString IndexLine::make(QStringView lastName, QStringView firstName, int record)
+{
+    const QString names = listName(lastName, firstName);
+    const qsizetype start = names.size() < nameWidth ? numberColumn : names.size() + leastGap;
+    return names.leftJustified(start) + QString::number(record);
+}
+
+int IndexLine::record(QStringView line)
+{
+    return recordOf(line);
+}
+
+int IndexLine::record(QByteArrayView line)
+{
+    return recordOf(line);
+}
+
+QStringView IndexLine::name(QStringView line)
+{
+    const QStringView whole = AnsiText::trimmedBlanksRight(line);
+    QStringView names = whole;
+    while (!names.isEmpty() && isDigit(names.back()))
+        names.chop(1);
+    // Digits that follow a blank are the number; others end a name, in a line that has lost its number.
+    return names.endsWith(u' ') ? AnsiText::trimmedBlanksRight(names) : whole;
+}
+
+QString IndexLine::deletionMark()
+{
+    return u"#####"_s + QString(40, u' ');
+}
+
+bool IndexLine::isDeleted(QStringView line)
+{
+    return line.startsWith(u"####");
+}
+
+bool IndexLine::isDeleted(QByteArrayView line)
+{
+    return line.startsWith("####");
+}
+
+bool IndexLine::belongs(QStringView line, const AddressEntry &entry)
+{
+    const QString names = listName(entry[LastName], entry[FirstName]);
+    return name(line) == AnsiText::trimmedBlanksRight(names);
+}
+
+bool IndexLine::fits(QStringView lastName, QStringView firstName)
+{
+    return listName(lastName, firstName).size() <= nameWidth;
+}

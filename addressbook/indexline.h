@@ -7,8 +7,7 @@
 struct AddressEntry;
 
 /// Lines of the name list: "Miller, Anne", blanks, and the entry's record number.
-namespace IndexLine
-{
+namespace IndexLine {
 
 /// The most characters that a record of the index file holds; a longer line is not written.
 inline constexpr qsizetype maximumLength = 58;
@@ -17,9 +16,9 @@ inline constexpr qsizetype maximumLength = 58;
 /// blanks.
 QString make(QStringView lastName, QStringView firstName, int record);
 
-/// The record number that the line leads to: the digits from character 43 on, leading blanks skipped. 0 when
-/// there are none or the number is beyond any record. Wrong for names of 42 characters and more, and kept so:
-/// other readers of the file count on the column.
+/// The record number that the line leads to: the digits from character 43 on, leading blanks skipped; 0 when
+/// there are none. Wrong for names of more than 42 characters, and kept so: other readers of the file count
+/// on the column.
 int record(QStringView line);
 /// The same of a line as it stands in the file: one byte a character.
 int record(QByteArrayView line);
@@ -37,7 +36,7 @@ bool isDeleted(QByteArrayView line);
 /// be changed or deleted through it.
 bool belongs(QStringView line, const AddressEntry &entry);
 
-/// Whether the names make a line that the index can hold, whatever the record number.
+/// Whether the number behind these names can be read back: they take at most 42 characters of the line.
 bool fits(QStringView lastName, QStringView firstName);
 
 } // namespace IndexLine
