@@ -1,0 +1,138 @@
+#include "addressbook/addressnews.h"
+
+#include "addressbook/addressbook.h"
+#include "shell/dates.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A day a week ahead would bear the name of today.
+constexpr int daysThisWeek = 7;
+constexpr int daysAhead = 30;
+
+enum class Kind { Birthday, Anniversary };
+
+struct Occasion {
+    Kind kind;
+    QDate day; ///< when it comes next
+    int years; ///< how many it completes
+    QString name;
+};
+
+QString word(Kind kind, qsizetype count = 1)
+{
+    if (kind == Kind::Birthday)
+        return count == 1 ? u"birthday"_s : u"birthdays"_s;
+    return count == 1 ? u"anniversary"_s : u"anniversaries"_s;
+}
+
+/// "today", or the name of the day.
+QString dayName(QDate day, QDate today)
+{
+    return day == today ? u"today"_s : QLocale::c().dayName(day.dayOfWeek());
+}
+
+/// "Sep 6", or "6 Sep" under `Other`.
+QString shortDate(QDate day, DateStyle style)
+{
+    return QLocale::c().toString(day, style == DateStyle::Usa ? u"MMM d" : u"d MMM");
+}
+
+/// What the next days hold: everything of this week, and what comes first after it.
+class Ahead
+{
+public:
+    Ahead(DateStyle style, QDate today)
+        : m_style(style)
+        , m_today(today)
+    {}
+
+    void add(Kind kind, const AddressEntry &entry);
+    std::optional<LiveLine> line() const;
+
+private:
+    QString weekText() const;
+    QString sentence() const;
+
+    DateStyle m_style;
+    QDate m_today;
+    std::vector<Occasion> m_thisWeek;
+    std::optional<Occasion> m_later;
+};
+
+void Ahead::add(Kind kind, const AddressEntry &entry)
+{
+    const QString &text = entry[kind == Kind::Birthday ? BirthDate : AnniversaryDate];
+    if (text.isEmpty())
+        return;
+    const std::optional<QDate> date = Dates::parse(text, m_style, m_today);
+    if (!date)
+        return;
+    const QDate day = Dates::nextAnniversary(*date, m_today);
+    const int years = day.year() - date->year();
+    // The day itself is no anniversary yet, and one to come even less.
+    if (years < 1)
+        return;
+    const qint64 days = m_today.daysTo(day);
+    if (days < daysThisWeek)
+        m_thisWeek.push_back({kind, day, years, entry.fullName()});
+    else if (days <= daysAhead && (!m_later || day < m_later->day))
+        m_later = Occasion{kind, day, years, entry.fullName()};
+}
+
+std::optional<LiveLine> Ahead::line() const
+{
+    if (!m_thisWeek.empty())
+        return LiveLine{weekText(), LiveLine::Plain, sentence()};
+    if (!m_later)
+        return std::nullopt;
+    return LiveLine{u"Next "_s + word(m_later->kind) + u": "_s + m_later->name + u", "_s +
+                        shortDate(m_later->day, m_style),
+                    LiveLine::Plain,
+                    {}};
+}
+
+QString Ahead::weekText() const
+{
+    if (m_thisWeek.size() == 1) {
+        const Occasion &only = m_thisWeek.front();
+        return only.name + u": "_s + word(only.kind) + u' ' + dayName(only.day, m_today);
+    }
+    QStringList parts;
+    for (const Kind kind : {Kind::Birthday, Kind::Anniversary}) {
+        const auto count = std::ranges::count(m_thisWeek, kind, &Occasion::kind);
+        if (count > 0)
+            parts << QString::number(count) + u' ' + word(kind, count);
+    }
+    return parts.join(u", "_s) + u" this week"_s;
+}
+
+/// Of the first occasion: "Anne Lind turns 48 today.", "Anne Lind has a birthday on Tuesday."
+QString Ahead::sentence() const
+{
+    const Occasion &first = *std::ranges::min_element(m_thisWeek, {}, &Occasion::day);
+    const bool isToday = first.day == m_today;
+    if (isToday && first.kind == Kind::Birthday)
+        return first.name + u" turns "_s + QString::number(first.years) + u" today."_s;
+    return first.name + (first.kind == Kind::Birthday ? u" has a "_s : u" has an "_s) + word(first.kind) +
+           (isToday ? u" "_s : u" on "_s) + dayName(first.day, m_today) + u'.';
+}
+
+} // namespace
+
+std::optional<LiveLine> AddressNews::liveLine(const DataFolder &folder, DateStyle style, QDate today)
+{
+    Ahead ahead(style, today);
+    AddressBook(folder).forEachLive([&ahead](int, const AddressEntry &entry) {
+        ahead.add(Kind::Birthday, entry);
+        ahead.add(Kind::Anniversary, entry);
+        return true;
+    });
+    return ahead.line();
+}

@@ -4,17 +4,16 @@
 #include "shell/page.h"
 
 #include <functional>
-#include <optional>
 
 /// The printed pages of the address book.
-namespace AddressPages
-{
+namespace AddressPages {
 
 /// How many entries share a sheet.
 enum class PerSheet { Two = 2, Four = 4, Eight = 8 };
 
-/// Gives the next entry to print, or nothing after the last, so that a full book need not be held at once.
-using Source = std::function<std::optional<AddressEntry>()>;
+/// Walks over the entries to print and hands each to its visitor until that returns false, so that a full
+/// book is never held at once.
+using Source = std::function<void(const std::function<bool(const AddressEntry &)> &visit)>;
 
 /// Finds the file of a stored picture path; empty when there is none.
 using PictureFinder = std::function<QString(const QString &stored)>;
@@ -25,8 +24,8 @@ Page entryPage(const AddressEntry &entry, const QString &picturePath, DateStyle 
 /// An empty form to fill in by hand.
 Page worksheet(DateStyle style, QDate printedOn);
 
-/// The entries of `next` with their pictures, so many to a sheet. Places follow the sheet of `setup`.
-Page cards(PerSheet perSheet, const PageSetup &setup, const Source &next, const PictureFinder &find,
+/// The entries with their pictures, so many to a sheet. Places follow the sheet of `setup`.
+Page cards(PerSheet perSheet, const PageSetup &setup, const Source &entries, const PictureFinder &find,
            DateStyle style, QDate printedOn);
 
 /// The entry as lines of label and value, empty ones left out; for the clipboard.

@@ -3,8 +3,7 @@
 #include "shell/message.h"
 
 /// What the address book asks and says. The wording is fixed, odd spellings included.
-namespace AddressMessages
-{
+namespace AddressMessages {
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -143,7 +142,7 @@ inline QString lineTooLong()
 /// While a name is typed.
 inline QString nameTooLong()
 {
-    return u"This name is too long for the name list: after the next start it cannot be found there."_s;
+    return u"This name is too long for the name list: its entry cannot be opened from there."_s;
 }
 
 inline QString saveFailed()
