@@ -40,8 +40,7 @@ public:
 };
 
 /// Dialling a number through a modem, and hanging up again.
-namespace Dialling
-{
+namespace Dialling {
 
 enum class Outcome {
     NoNumber, ///< nothing to dial; the line was not touched

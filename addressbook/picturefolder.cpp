@@ -1,0 +1,70 @@
+#include "addressbook/picturefolder.h"
+
+#include "addressbook/addressentry.h"
+#include "storage/ansitext.h"
+#include "storage/saving.h"
+#include "storage/valuefile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The part behind the last separator of either kind: stored paths come from other machines.
+QString fileName(const QString &path)
+{
+    const qsizetype start =
+        std::max({path.lastIndexOf(u'/'), path.lastIndexOf(u'\\'), path.lastIndexOf(u':')});
+    return path.mid(start + 1);
+}
+
+bool isFile(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isAbsolute() && file.isFile();
+}
+
+} // namespace
+
+PictureFolder::PictureFolder(const DataFolder &folder)
+    : m_folder(folder)
+{}
+
+QString PictureFolder::lastUsed() const
+{
+    const QString stored = ValueFile::readLine(m_folder.filePath(u"GColor4.Fil"_s));
+    return stored.isEmpty() ? u"C:\\"_s : stored;
+}
+
+bool PictureFolder::remember(const QString &folder) const
+{
+    QString line = QDir::toNativeSeparators(folder);
+    if (!line.endsWith(QDir::separator()))
+        line += QDir::separator();
+    // A line end in a folder's name would be read back as the end of the path.
+    if (!AnsiText::isHoldable(line) || line.contains(u'\r') || line.contains(u'\n'))
+        return false;
+    const QByteArray content = AnsiText::encode(line) + "\r\n";
+    return Saving::replaceFile(m_folder, u"GColor4.Fil"_s, content);
+}
+
+QString PictureFolder::locate(const QString &stored) const
+{
+    if (isFile(stored))
+        return stored;
+    const QString name = fileName(stored);
+    if (name.isEmpty() || name == noPicture || name == "."_L1 || name == ".."_L1)
+        return {};
+    const QString beside = m_folder.existingFile({}, name);
+    return beside.isEmpty() ? m_folder.existingFile(u"Pictures"_s, name) : beside;
+}
+
+bool PictureFolder::isStorable(const QString &path)
+{
+    return AnsiText::isHoldable(path) && AnsiText::encode(path).size() <= addressPictureWidth &&
+           AnsiText::trimmedBlanksRight(path) == path;
+}
