@@ -1,0 +1,208 @@
+#include "shell/activitybar.h"
+
+#include "shell/controls.h"
+#include "shell/dates.h"
+#include "shell/shellmessages.h"
+#include "shell/theme.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStatusTipEvent>
+#include <QTimer>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int barHeight = 32;
+constexpr int activityWidth = 132;
+
+/// An upright thin line.
+class Rule final : public QWidget
+{
+public:
+    explicit Rule(QWidget *parent)
+        : QWidget(parent)
+    {
+        setFixedWidth(1);
+        QPalette colors = palette();
+        colors.setColor(QPalette::Window, Theme::of(this).line);
+        setPalette(colors);
+        setAutoFillBackground(true);
+    }
+};
+
+} // namespace
+
+ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget *parent)
+    : QStatusBar(parent)
+    , m_clock(clock)
+    , m_dateStyle(dateStyle)
+    , m_activity(named(new QLabel(this), u"StatusBar1_Panel1"_s))
+    , m_restoreTop(makeLink(u"StatusBar1_RestoreTop"_s, ShellMessages::restoreTopToolbar()))
+    , m_restoreSide(makeLink(u"StatusBar1_RestoreSide"_s, ShellMessages::restoreSideToolbars()))
+    , m_message(named(new ElidedLabel(this), u"statusMessage"_s))
+    , m_progress(named(new QProgressBar(this), u"statusProgress"_s))
+    , m_stop(named(new QPushButton(u"&Stop"_s, this), u"statusStop"_s))
+    , m_date(named(new QLabel(this), u"statusDate"_s))
+    , m_time(named(new QLabel(this), u"Label4"_s))
+    , m_timer(new QTimer(this))
+{
+    setObjectName("StatusBar1"_L1);
+    setSizeGripEnabled(false);
+    m_activity->setFont(TypeScale::strong());
+    m_activity->setMinimumWidth(activityWidth);
+    m_activity->setAccessibleDescription(u"Activity"_s);
+    m_time->setFont(TypeScale::strong());
+    m_date->setForegroundRole(ThemeRole::quiet);
+    m_message->setForegroundRole(ThemeRole::quiet);
+    m_message->setAccessibleDescription(u"Message"_s);
+    m_progress->setFixedWidth(220);
+    m_progress->setAccessibleName(u"Progress"_s);
+    m_stop->setFixedHeight(26);
+    m_progress->hide();
+    m_stop->hide();
+
+    auto *row = new QWidget(this);
+    auto *layout = new QHBoxLayout(row);
+    addToRow(*layout);
+    row->setMinimumHeight(barHeight - 2);
+    addWidget(row, 1);
+    setContentsMargins(0, 0, 0, 0);
+
+    m_timer->setSingleShot(true);
+    connect(m_timer, &QTimer::timeout, this, [this] {
+        refreshClock();
+        waitForNextMinute();
+    });
+    connect(m_restoreTop, &QToolButton::clicked, this, &ActivityBar::restoreTopToolbarRequested);
+    connect(m_restoreSide, &QToolButton::clicked, this, &ActivityBar::restoreSideToolbarsRequested);
+    connect(m_stop, &QPushButton::clicked, this, &ActivityBar::stopRequested);
+    // A status tip would otherwise take the place of the whole bar.
+    if (parent)
+        parent->installEventFilter(this);
+    refreshClock();
+}
+
+void ActivityBar::addToRow(QHBoxLayout &row)
+{
+    row.setContentsMargins(18, 0, 12, 0);
+    row.setSpacing(14);
+    row.addWidget(m_activity);
+    row.addWidget(new Rule(this));
+    row.addWidget(m_restoreTop);
+    row.addWidget(m_restoreSide);
+    row.addWidget(m_message, 1);
+    row.addWidget(m_progress);
+    row.addWidget(m_stop);
+    row.addWidget(m_date);
+    row.addWidget(m_time);
+}
+
+QToolButton *ActivityBar::makeLink(const QString &name, const QString &text)
+{
+    auto *link = named(new QToolButton(this), name);
+    QFont font = TypeScale::body();
+    font.setUnderline(true);
+    QPalette colors = link->palette();
+    colors.setColor(QPalette::ButtonText, Theme::of(this).accent);
+    link->setPalette(colors);
+    link->setFont(font);
+    link->setText(text);
+    link->setAccessibleName(text);
+    link->setCursor(Qt::PointingHandCursor);
+    link->setFocusPolicy(Qt::TabFocus);
+    link->hide();
+    return link;
+}
+
+void ActivityBar::setActivity(const QString &activity)
+{
+    m_activity->setText(activity);
+}
+
+QString ActivityBar::activity() const
+{
+    return m_activity->text();
+}
+
+void ActivityBar::say(const QString &message)
+{
+    m_said = message;
+    m_message->setText(message);
+}
+
+QString ActivityBar::message() const
+{
+    return m_said;
+}
+
+void ActivityBar::offerTopToolbar(bool offered)
+{
+    m_restoreTop->setVisible(offered);
+}
+
+void ActivityBar::offerSideToolbars(bool offered)
+{
+    m_restoreSide->setVisible(offered);
+}
+
+void ActivityBar::showProgress(int done, int total, bool stoppable)
+{
+    m_progress->setVisible(total > 0);
+    m_stop->setVisible(total > 0 && stoppable);
+    if (total <= 0)
+        return;
+    m_progress->setMaximum(total);
+    m_progress->setValue(done);
+    m_progress->setFormat(u"%v of %m"_s);
+}
+
+void ActivityBar::startClock()
+{
+    m_clockRuns = true;
+    refreshClock();
+    if (isVisible())
+        waitForNextMinute();
+}
+
+void ActivityBar::refreshClock()
+{
+    const QDateTime now = m_clock.now();
+    m_time->setText(QLocale::c().toString(now.time(), u"h:mm AP"_s));
+    m_date->setText(Dates::statusText(now.date(), m_dateStyle));
+}
+
+bool ActivityBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::StatusTip)
+        return QStatusBar::eventFilter(watched, event);
+    const QString tip = static_cast<QStatusTipEvent *>(event)->tip();
+    m_message->setText(tip.isEmpty() ? m_said : tip);
+    return true;
+}
+
+void ActivityBar::showEvent(QShowEvent *event)
+{
+    QStatusBar::showEvent(event);
+    if (m_clockRuns) {
+        refreshClock();
+        waitForNextMinute();
+    }
+}
+
+void ActivityBar::hideEvent(QHideEvent *event)
+{
+    QStatusBar::hideEvent(event);
+    m_timer->stop();
+}
+
+void ActivityBar::waitForNextMinute()
+{
+    const QTime now = m_clock.now().time();
+    m_timer->start((60 - now.second()) * 1000 - now.msec());
+}

@@ -5,14 +5,16 @@
 
 #include <QStatusBar>
 
+class ElidedLabel;
+class QHBoxLayout;
 class QLabel;
 class QProgressBar;
 class QPushButton;
 class QTimer;
 class QToolButton;
 
-/// The status bar of every window: current activity, the restore panels as links, a quiet message, progress, date and
-/// clock (`Label4`).
+/// The status bar of every window: current activity, the restore panels as links, a quiet message, progress,
+/// date and clock (`Label4`).
 class ActivityBar final : public QStatusBar
 {
     Q_OBJECT
@@ -33,7 +35,7 @@ public:
     /// Progress of a long walk; `total` 0 hides it. `stoppable` also shows "Stop".
     void showProgress(int done, int total, bool stoppable = false);
 
-    /// Starts the clock: nothing ticks before.
+    /// Starts the clock: nothing ticks before, nor while the bar is not seen.
     void startClock();
     void refreshClock();
 
@@ -42,16 +44,27 @@ signals:
     void restoreSideToolbarsRequested();
     void stopRequested();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
 private:
+    QToolButton *makeLink(const QString &name, const QString &text);
+    void addToRow(QHBoxLayout &row);
+    void waitForNextMinute();
+
     const Clock &m_clock;
     const DateStyle &m_dateStyle;
     QLabel *m_activity;
     QToolButton *m_restoreTop;
     QToolButton *m_restoreSide;
-    QLabel *m_message;
+    ElidedLabel *m_message;
+    QString m_said; ///< what the message shows when no control explains itself
     QProgressBar *m_progress;
     QPushButton *m_stop;
     QLabel *m_date;
     QLabel *m_time;
     QTimer *m_timer;
+    bool m_clockRuns = false;
 };

@@ -1,0 +1,287 @@
+#include "shell/controls.h"
+
+#include "shell/shellmessages.h"
+#include "shell/theme.h"
+#include "storage/ansitext.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+#include <QValidator>
+#include <QVariant>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int unlimited = 32767;
+constexpr double panelCorner = 10;
+constexpr auto ownToolTip = "ownToolTip";
+
+/// A label above a box. Its words beside the caption take their colours from the palette, so that they follow
+/// the ink of a coloured panel.
+class FieldLabel final : public QLabel
+{
+public:
+    FieldLabel(const QString &caption, const QString &hint, bool required, QWidget *parent)
+        : QLabel(parent)
+        , m_caption(caption)
+        , m_hint(hint)
+        , m_required(required)
+    {
+        setFont(TypeScale::label());
+        setForegroundRole(ThemeRole::quiet);
+        compose();
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange)
+            compose();
+    }
+
+private:
+    void compose()
+    {
+        const QString hint = m_hint.isEmpty() ? QString() : u"  "_s + m_hint;
+        if (!m_required) {
+            setTextFormat(Qt::PlainText);
+            setText(m_caption + hint);
+            return;
+        }
+        setTextFormat(Qt::RichText);
+        setText(u"%1%2&nbsp;&nbsp;<span style=\"color:%3; font-weight:600\">%4</span>"_s.arg(
+            m_caption.toHtmlEscaped(), hint.toHtmlEscaped(), palette().color(ThemeRole::strong).name(),
+            ShellMessages::required()));
+    }
+
+    QString m_caption;
+    QString m_hint;
+    bool m_required;
+};
+
+/// A line one logical pixel high.
+class Line final : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().color(ThemeRole::line));
+    }
+};
+
+QLabel *makeLabel(const QString &text, const QFont &font, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(font);
+    return label;
+}
+
+template <typename T>
+void makeUnavailable(T *control, const QString &reason)
+{
+    const bool wasAvailable = control->isEnabled() || control->statusTip().isEmpty();
+    if (!reason.isEmpty()) {
+        if (wasAvailable)
+            control->setProperty(ownToolTip, control->toolTip());
+        control->setToolTip(reason);
+    } else if (!wasAvailable) {
+        control->setToolTip(control->property(ownToolTip).toString());
+    }
+    control->setStatusTip(reason);
+    control->setEnabled(reason.isEmpty());
+}
+
+} // namespace
+
+/// Refuses what the files cannot hold and remembers which characters those were.
+class FieldBox::Validator final : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &input, int &) const override
+    {
+        for (QChar &character : input)
+            if (character < u' ' || character == QChar(0x7f) || character == QChar::LineSeparator ||
+                character == QChar::ParagraphSeparator)
+                character = u' '; // line ends and tabs of the clipboard
+        m_foreign = AnsiText::foreignCharacters(input);
+        return m_foreign.isEmpty() ? Acceptable : Invalid;
+    }
+
+    QString takeForeign() const { return std::exchange(m_foreign, {}); }
+
+private:
+    mutable QString m_foreign;
+};
+
+FieldBox::FieldBox(QWidget *parent)
+    : QLineEdit(parent)
+    , m_validator(new Validator(this))
+{
+    setValidator(m_validator);
+    connect(this, &QLineEdit::inputRejected, this, [this] {
+        const QString foreign = m_validator->takeForeign();
+        emit refused(foreign.isEmpty() ? ShellMessages::fieldIsFull(m_limit)
+                                       : ShellMessages::characterRefused(foreign));
+    });
+}
+
+void FieldBox::setByteLimit(int limit)
+{
+    m_limit = limit;
+    setMaxLength(limit > 0 ? limit : unlimited);
+}
+
+void FieldBox::setLocked(bool locked)
+{
+    setReadOnly(locked);
+    setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
+}
+
+ElidedLabel::ElidedLabel(QWidget *parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 4, QLabel::minimumSizeHint().height()};
+}
+
+bool ElidedLabel::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        const bool isCut = fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), isCut ? text() : QString(), this);
+        return true;
+    }
+    return QLabel::event(event);
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(), shown,
+                          foregroundRole());
+}
+
+PanelFrame::PanelFrame(QWidget *parent)
+    : QWidget(parent)
+{
+    setPalette(Theme::of(this).panelPalette());
+}
+
+void PanelFrame::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(ThemeRole::line));
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), panelCorner, panelCorner);
+}
+
+QPushButton *makeButton(const QString &name, const QString &caption, QWidget *parent, ButtonKind kind)
+{
+    auto *button = named(new QPushButton(caption, parent), name);
+    button->setAutoDefault(false);
+    setButtonKind(button, kind);
+    return button;
+}
+
+void setButtonKind(QPushButton *button, ButtonKind kind)
+{
+    button->setProperty("main", kind == ButtonKind::Main);
+    button->setFont(kind == ButtonKind::Main ? TypeScale::strong() : TypeScale::body());
+    button->update();
+}
+
+QPushButton *makeIconButton(const QString &name, QLatin1StringView icon, const QString &word, QWidget *parent)
+{
+    auto *button = named(new QPushButton(parent), name);
+    const Theme &theme = Theme::of(parent);
+    button->setAutoDefault(false);
+    button->setIcon(Icons::tinted(icon, theme.scheme, theme.accent));
+    button->setIconSize(QSize(20, 20));
+    button->setToolTip(word);
+    button->setAccessibleName(word);
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    return button;
+}
+
+QAction *makeAction(const QString &name, const QString &caption, QObject *parent)
+{
+    return named(new QAction(caption, parent), name);
+}
+
+QLabel *makeFieldLabel(const QString &caption, QWidget *buddy, QWidget *parent, const QString &hint,
+                       bool required)
+{
+    auto *label = new FieldLabel(caption, hint, required, parent);
+    if (buddy) {
+        label->setBuddy(buddy);
+        if (buddy->accessibleName().isEmpty())
+            buddy->setAccessibleName(QString(caption).remove(u'&'));
+    }
+    return label;
+}
+
+QLabel *makeQuietLabel(const QString &text, QWidget *parent)
+{
+    QLabel *label = makeLabel(text, TypeScale::label(), parent);
+    label->setForegroundRole(ThemeRole::quiet);
+    return label;
+}
+
+QLabel *makeHeading(const QString &caption, QWidget *parent)
+{
+    return makeLabel(caption, TypeScale::group(), parent);
+}
+
+QLabel *makeTitle(const QString &text, QWidget *parent)
+{
+    return makeLabel(text, TypeScale::windowTitle(), parent);
+}
+
+QLabel *makeChip(const QString &name, const QString &text, QWidget *parent)
+{
+    QFont font = TypeScale::label();
+    font.setWeight(QFont::DemiBold);
+    QLabel *chip = named(makeLabel(text, font, parent), name);
+    chip->setProperty("chip", true);
+    chip->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+    return chip;
+}
+
+QWidget *makeLine(QWidget *parent)
+{
+    auto *line = new Line(parent);
+    line->setFixedHeight(1);
+    return line;
+}
+
+void setUnavailable(QWidget *control, const QString &reason)
+{
+    makeUnavailable(control, reason);
+}
+
+void setUnavailable(QAction *action, const QString &reason)
+{
+    makeUnavailable(action, reason);
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QString>
@@ -8,18 +9,18 @@
 #include <array>
 
 class QAction;
-class QLabel;
-class QVBoxLayout;
 
 /// Gives `object` its name and returns it: each name stands once, where the control is made.
-template <typename T> T *named(T *object, const QString &name)
+template <typename T>
+T *named(T *object, const QString &name)
 {
     object->setObjectName(name);
     return object;
 }
 
 /// An array of like controls named `name`_0, `name`_1, ...
-template <typename T, std::size_t Count> std::array<T *, Count> controlArray(const QString &name, QWidget *parent)
+template <typename T, std::size_t Count>
+std::array<T *, Count> controlArray(const QString &name, QWidget *parent)
 {
     std::array<T *, Count> controls{};
     for (std::size_t i = 0; i < Count; ++i)
@@ -27,16 +28,17 @@ template <typename T, std::size_t Count> std::array<T *, Count> controlArray(con
     return controls;
 }
 
-/// A line edit for a field of a data file: takes at most `limit` bytes of the files' code page and refuses characters
-/// that the code page lacks, at the keyboard and from the clipboard, with a quiet line through `refused`. Locked boxes
-/// are skipped by Tab and drawn as such.
+/// A line edit for a field of a data file: takes at most `limit` bytes of the files' code page and refuses
+/// characters that the code page lacks, at the keyboard and from the clipboard, with a quiet line through
+/// `refused`. Locked boxes are skipped by Tab and drawn as such.
 class FieldBox : public QLineEdit
 {
     Q_OBJECT
 public:
     explicit FieldBox(QWidget *parent = nullptr);
 
-    void setByteLimit(int limit) { m_limit = limit; }
+    /// 0: no limit. One character is one byte; what is pasted beyond the limit is cut.
+    void setByteLimit(int limit);
     int byteLimit() const { return m_limit; }
     void setLocked(bool locked);
     bool isLocked() const { return isReadOnly(); }
@@ -46,10 +48,36 @@ signals:
     void refused(const QString &reason);
 
 private:
-    void check(const QString &text);
+    class Validator;
 
-    int m_limit = 0; ///< 0: no limit
-    QString m_lastGood;
+    Validator *m_validator;
+    int m_limit = 0;
+};
+
+/// A label whose text is cut with an ellipsis where it does not fit, and then stands whole in the tool tip.
+class ElidedLabel : public QLabel
+{
+    Q_OBJECT
+public:
+    explicit ElidedLabel(QWidget *parent = nullptr);
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+};
+
+/// A panel: rounded, with a thin rim, filled with the window colour of its palette, which everything on it
+/// inherits.
+class PanelFrame : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit PanelFrame(QWidget *parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };
 
 enum class ButtonKind { Plain, Main };
@@ -59,6 +87,11 @@ QPushButton *makeButton(const QString &name, const QString &caption, QWidget *pa
                         ButtonKind kind = ButtonKind::Plain);
 void setButtonKind(QPushButton *button, ButtonKind kind);
 
+/// A square button that shows an icon alone (dial, arrows, clear search); `word` is its tool tip and
+/// accessible name.
+QPushButton *makeIconButton(const QString &name, QLatin1StringView icon, const QString &word,
+                            QWidget *parent);
+
 /// A menu entry or command: object name, caption (with its access key), no shortcut.
 QAction *makeAction(const QString &name, const QString &caption, QObject *parent);
 
@@ -66,13 +99,22 @@ QAction *makeAction(const QString &name, const QString &caption, QObject *parent
 QLabel *makeFieldLabel(const QString &caption, QWidget *buddy, QWidget *parent, const QString &hint = {},
                        bool required = false);
 
+/// A quiet line: a hint, a count, a derived fact.
+QLabel *makeQuietLabel(const QString &text, QWidget *parent);
+
 /// A group heading of a panel.
 QLabel *makeHeading(const QString &caption, QWidget *parent);
+
+/// The title of a record or a window.
+QLabel *makeTitle(const QString &text, QWidget *parent);
+
+/// A small rounded mark beside a title: the mode of the window.
+QLabel *makeChip(const QString &name, const QString &text, QWidget *parent);
 
 /// A thin horizontal line.
 QWidget *makeLine(QWidget *parent);
 
-/// What a disabled control says of itself: sets tool tip and status tip to `reason` and disables it; an empty reason
-/// enables it and takes them away.
+/// What a disabled control says of itself: sets tool tip and status tip to `reason` and disables it; an empty
+/// reason enables it and gives it its own tool tip back.
 void setUnavailable(QWidget *control, const QString &reason);
 void setUnavailable(QAction *action, const QString &reason);

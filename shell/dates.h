@@ -19,8 +19,9 @@ DateStyle styleOf(const QLocale &locale);
 DateStyle styleOfShortDate(QStringView shortDate);
 
 /// A date as it may stand in a record: "Nov-24-1978", "24-Nov-1978", "11/24/1978" (day first under `Other`),
-/// "1978-11-24", separators / - . and blanks, full month names; numbers that fit only the other way round are read so.
-/// Two-digit years are of the hundred years that end 20 years after `today`'s year when given, else 1930 to 2029.
+/// "1978-11-24", separators / - . and blanks, full month names; numbers that fit only the other way round are
+/// read so. Two-digit years are of the hundred years that end 20 years after `today`'s year when given, else
+/// 1930 to 2029.
 std::optional<QDate> parse(QStringView text, DateStyle style, QDate today = {});
 
 /// The form that the date boxes keep: "Nov-24-1978", or "24-Nov-1978" under `Other`.
@@ -38,7 +39,8 @@ QString monthDayYear(QDate date, DateStyle style);
 /// "Sat, Nov 21, 2026", or "Sat, 21 Nov 2026" under `Other`: the status bar's date.
 QString statusText(QDate date, DateStyle style);
 
-/// The next day on or after `today` that has `date`'s day and month; 29 February counts as the 28th in other years.
+/// The next day on or after `today` that has `date`'s day and month; 29 February counts as the 28th in other
+/// years.
 QDate nextAnniversary(QDate date, QDate today);
 
 } // namespace Dates

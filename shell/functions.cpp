@@ -1,0 +1,50 @@
+#include "shell/functions.h"
+
+#include "shell/program.h"
+
+#include <QWidget>
+
+void FunctionCatalogue::add(Function function, FunctionEntry entry)
+{
+    m_entries.insert_or_assign(function, std::move(entry));
+}
+
+bool FunctionCatalogue::has(Function function) const
+{
+    return m_entries.contains(function);
+}
+
+const FunctionEntry *FunctionCatalogue::entry(Function function) const
+{
+    const auto found = m_entries.find(function);
+    return found == m_entries.end() ? nullptr : &found->second;
+}
+
+QWidget *FunctionCatalogue::open(Function function, Program &program)
+{
+    const FunctionEntry *found = entry(function);
+    if (!found || !found->open)
+        return nullptr;
+    QPointer<QWidget> &window = m_windows[function];
+    // A closed window may wait for its deletion: it is not there any more.
+    if (!window || !window->isVisible())
+        window = found->open(program);
+    if (!window)
+        return nullptr;
+    if (window->isMinimized())
+        window->showNormal();
+    else
+        window->show();
+    window->raise();
+    window->activateWindow();
+    return window;
+}
+
+QList<QWidget *> FunctionCatalogue::openWindows() const
+{
+    QList<QWidget *> open;
+    for (const auto &[function, window] : m_windows)
+        if (window && window->isVisible())
+            open.append(window);
+    return open;
+}

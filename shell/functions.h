@@ -14,7 +14,8 @@ class DataFolder;
 class QDate;
 struct Program;
 
-/// The functions of this edition, in the order of their cards on the main menu; the viewer has no card of its own.
+/// The functions of this edition, in the order of their cards on the main menu; the viewer has no card of its
+/// own.
 enum class Function {
     AddressBook,
     Planner,
@@ -39,12 +40,13 @@ struct FunctionEntry {
     std::function<std::optional<LiveLine>(const Program &, QDate today)> liveLine;
     /// The files that the news comes from: it is read again only when one of them has changed.
     QStringList liveFiles;
-    /// What the function has for the dates `from` to `to`, in date order; empty for a function without any. It is not
-    /// asked while the function is guarded.
+    /// What the function has for the dates `from` to `to`, in date order; empty for a function without any.
+    /// It is not asked while the function is guarded.
     std::function<QList<DayNote>(const Program &, QDate from, QDate to)> dayNotes;
 };
 
-/// The functions that are built into this program. A function that is not in it yet stands disabled on the main menu.
+/// The functions that are built into this program. A function that is not in it yet stands disabled on the
+/// main menu.
 class FunctionCatalogue
 {
 public:

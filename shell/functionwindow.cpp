@@ -1,0 +1,263 @@
+#include "shell/functionwindow.h"
+
+#include "shell/activitybar.h"
+#include "shell/controls.h"
+#include "shell/flowtoolbar.h"
+#include "shell/previewpane.h"
+#include "shell/shellmessages.h"
+#include "shell/theme.h"
+#include "shell/toolbars.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QScreen>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QSize smallestSize(800, 600);
+constexpr int windowMargin = 16;
+
+} // namespace
+
+FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *parent)
+    : QMainWindow(parent)
+    , m_program(program)
+    , m_traits(std::move(traits))
+    , m_activity(new ActivityBar(program.clock, program.state.dateStyle, this))
+    , m_colors(new PanelColors(program, m_traits.colors, this, *m_activity))
+    , m_toolbar(named(new FlowToolBar(Qt::Horizontal, this), u"toolbar"_s))
+    , m_stack(new QStackedWidget(this))
+{
+    setObjectName(m_traits.name);
+    setWindowTitle(m_traits.caption);
+    setWindowIcon(Icons::applicationIcon());
+    setAttribute(Qt::WA_DeleteOnClose);
+    setStatusBar(m_activity);
+    m_activity->setActivity(m_traits.activity);
+
+    auto *content = new QWidget(this);
+    auto *rows = new QVBoxLayout(content);
+    rows->setContentsMargins({});
+    rows->setSpacing(0);
+    rows->addWidget(m_toolbar);
+    rows->addWidget(m_stack, 1);
+    auto *workPlace = new QWidget(m_stack);
+    m_workPlace = new QVBoxLayout(workPlace);
+    m_workPlace->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+    m_stack->addWidget(workPlace);
+    setCentralWidget(content);
+
+    addMainMenuTool();
+    m_toolbar->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_toolbar, &QWidget::customContextMenuRequested, this, &FunctionWindow::showToolbarMenu);
+    connect(m_activity, &ActivityBar::restoreTopToolbarRequested, this, &FunctionWindow::restoreTopToolbar);
+    connect(&program.changes, &ProgramSignals::topToolbarChanged, this, &FunctionWindow::showTopToolbar);
+    connect(m_colors, &PanelColors::changed, this, [this] {
+        if (m_preview)
+            m_preview->setDeskColor(m_colors->panelColor());
+    });
+}
+
+FunctionWindow::~FunctionWindow() = default;
+
+bool FunctionWindow::mayLeave()
+{
+    if (m_busy) {
+        m_activity->say(ShellMessages::stillBusy());
+        return false;
+    }
+    if (!m_leaveAgreed)
+        setLeaveAgreed(mayDiscard() && m_colors->askToSave());
+    return m_leaveAgreed;
+}
+
+void FunctionWindow::showPreview(std::function<Page(const PageSetup &)> builder, const QString &jobName)
+{
+    if (!isPreviewShown())
+        m_focusBeforePreview = focusWidget();
+    PreviewPane &pane = preview();
+    m_stack->setCurrentWidget(&pane);
+    pane.show(std::move(builder), jobName);
+    pane.setFocus();
+}
+
+void FunctionWindow::closePreview()
+{
+    if (!isPreviewShown())
+        return;
+    m_stack->setCurrentIndex(0);
+    if (m_focusBeforePreview)
+        m_focusBeforePreview->setFocus();
+    previewClosed();
+}
+
+bool FunctionWindow::isPreviewShown() const
+{
+    return m_preview && m_stack->currentWidget() == m_preview;
+}
+
+PreviewPane &FunctionWindow::preview()
+{
+    if (!m_preview) {
+        m_preview = new PreviewPane(m_program, *m_activity, m_stack);
+        m_preview->setDeskColor(m_colors->panelColor());
+        m_stack->addWidget(m_preview);
+        connect(m_preview, &PreviewPane::closed, this, &FunctionWindow::closePreview);
+    }
+    return *m_preview;
+}
+
+void FunctionWindow::setWork(QWidget *work)
+{
+    m_workPlace->addWidget(work);
+}
+
+QWidget *FunctionWindow::makePanel(const QString &name)
+{
+    auto *panel = named(new PanelFrame(this), name);
+    m_colors->addPanel(panel);
+    return panel;
+}
+
+void FunctionWindow::rememberSplitter(QSplitter *splitter)
+{
+    m_splitters.append(splitter);
+    splitter->setHandleWidth(windowMargin);
+    splitter->setChildrenCollapsible(false);
+}
+
+void FunctionWindow::addTool(QAction *action, QLatin1StringView icon, const QString &text)
+{
+    action->setIcon(Icons::icon(icon, Theme::of(this).scheme));
+    action->setIconVisibleInMenu(false);
+    action->setIconText(text);
+    m_tools.append(action);
+    m_toolNames.append(action->objectName());
+}
+
+void FunctionWindow::addToolSeparator()
+{
+    m_toolNames.append(QString::fromLatin1(ToolbarLayout::separatorName));
+}
+
+void FunctionWindow::addMainMenuTool()
+{
+    QAction *mainMenu = makeAction(u"mainMenu"_s, u"Main Menu"_s, this);
+    mainMenu->setToolTip(u"Brings the main menu to the front"_s);
+    connect(mainMenu, &QAction::triggered, &m_program.changes, &ProgramSignals::mainMenuRequested);
+    addTool(mainMenu, "home"_L1, u"Main Menu"_s);
+    addToolSeparator();
+}
+
+void FunctionWindow::finishFrame()
+{
+    m_toolbarLayout =
+        new ToolbarLayout(m_program, m_toolbar, u"Toolbar1"_s + m_traits.name, m_tools, m_toolNames);
+    m_toolbarLayout->restore();
+    showTopToolbar();
+    m_colors->load();
+    restoreGeometryOnScreen();
+    for (QSplitter *splitter : std::as_const(m_splitters))
+        splitter->restoreState(m_program.store.value(storeKey(splitter->objectName())).toByteArray());
+    m_activity->startClock();
+}
+
+void FunctionWindow::closeEvent(QCloseEvent *event)
+{
+    if (!mayLeave()) {
+        event->ignore();
+        return;
+    }
+    m_program.store.setValue(storeKey(u"geometry"_s), saveGeometry());
+    for (const QSplitter *splitter : std::as_const(m_splitters))
+        m_program.store.setValue(storeKey(splitter->objectName()), splitter->saveState());
+    event->accept();
+}
+
+void FunctionWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+        if (isPreviewShown())
+            closePreview();
+        else
+            close();
+    } else if (event->key() == Qt::Key_F1) {
+        emit m_program.changes.helpRequested(m_traits.helpContext);
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+/// Watches the whole program only while leaving is agreed: going on working takes the agreement back.
+bool FunctionWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isWork = event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress ||
+                        event->type() == QEvent::InputMethod || event->type() == QEvent::Drop;
+    if (isWork && m_leaveAgreed)
+        if (const auto *widget = qobject_cast<QWidget *>(watched); widget && widget->window() == this)
+            setLeaveAgreed(false);
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void FunctionWindow::setLeaveAgreed(bool agreed)
+{
+    if (m_leaveAgreed == agreed)
+        return;
+    m_leaveAgreed = agreed;
+    if (agreed)
+        qApp->installEventFilter(this);
+    else
+        qApp->removeEventFilter(this);
+}
+
+void FunctionWindow::showTopToolbar()
+{
+    const bool isRemoved = TopToolbar::isRemoved(m_program, m_traits.topToolbar);
+    m_toolbar->setVisible(!isRemoved);
+    m_activity->offerTopToolbar(isRemoved);
+}
+
+void FunctionWindow::restoreTopToolbar()
+{
+    m_program.settings.setNumber(SettingsKeys::sideToolbarMarker, SettingsKeys::sideToolbarsRemoved);
+    TopToolbar::setRemoved(m_program, false);
+    if (m_toolbarLayout)
+        m_toolbarLayout->restore();
+}
+
+void FunctionWindow::showToolbarMenu(const QPoint &place)
+{
+    auto *menu = named(new QMenu(this), u"toolbarMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu->addAction(u"&Remove Top Toolbar"_s), &QAction::triggered, this,
+            [this] { TopToolbar::setRemoved(m_program, true); });
+    connect(menu->addAction(u"&Customize Toolbar"_s), &QAction::triggered, this, [this] {
+        ToolbarCustomizer customizer(*m_toolbarLayout, this);
+        m_program.dialogs.run(customizer);
+    });
+    menu->popup(m_toolbar->mapToGlobal(place));
+}
+
+void FunctionWindow::restoreGeometryOnScreen()
+{
+    const QSize available = screen()->availableSize();
+    setMinimumSize(smallestSize.boundedTo(available));
+    resize(m_traits.openingSize.boundedTo(available));
+    if (!restoreGeometry(m_program.store.value(storeKey(u"geometry"_s)).toByteArray()))
+        move(screen()->availableGeometry().center() - rect().center());
+    if (!isMaximized())
+        resize(size().boundedTo(screen()->availableSize()));
+}
+
+QString FunctionWindow::storeKey(const QString &what) const
+{
+    return "Windows/"_L1 + m_traits.name + '/'_L1 + what;
+}

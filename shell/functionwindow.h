@@ -4,16 +4,18 @@
 #include "shell/page.h"
 #include "shell/panelcolors.h"
 #include "shell/program.h"
+#include "shell/settingskeys.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 class ActivityBar;
+class FlowToolBar;
 class PreviewPane;
-class QMenu;
 class QSplitter;
 class QStackedWidget;
+class QVBoxLayout;
 class ToolbarLayout;
-class QToolBar;
 
 /// How a window of a function differs from the others in its frame.
 struct WindowTraits {
@@ -22,12 +24,12 @@ struct WindowTraits {
     QString activity; ///< first panel of the status bar
     PanelColorSettings colors;
     int helpContext = 0; ///< page of the manual that F1 opens
-    TextSetting topToolbar;
+    TextSetting topToolbar = SettingsKeys::topToolbar;
     QSize openingSize{1280, 800};
 };
 
-/// The frame of a function window: menu bar, one toolbar, the work area, the page preview in its place when a page is
-/// looked at, the status bar. A window deletes itself when it is closed.
+/// The frame of a function window: menu bar, one toolbar, the work area, the page preview in its place when a
+/// page is looked at, the status bar. A window deletes itself when it is closed.
 class FunctionWindow : public QMainWindow
 {
     Q_OBJECT
@@ -38,8 +40,9 @@ public:
     /// Whether the window holds something typed that no file has.
     virtual bool isModified() const { return false; }
 
-    /// Asks what must be asked before the window goes (unsaved data, unsaved colours). False: the user stays. Called by
-    /// closing and by the program's exit; after a true answer, closing asks nothing again until something changes.
+    /// Asks what must be asked before the window goes (unsaved data, unsaved colours). False: the user stays.
+    /// Called by closing and by the program's exit; after a true answer, closing asks nothing again until the
+    /// user goes on working in the window.
     bool mayLeave();
 
     /// Shows `builder`'s page over the work area; Esc or "Close Preview" brings the work back.
@@ -64,31 +67,48 @@ protected:
 
     /// The widget that fills the window between toolbar and status bar (margin 16 is added around it).
     void setWork(QWidget *work);
-    /// A panel: rounded, shadowed, coloured by the user's panel colour, registered with `colors()`.
+    /// A panel: rounded, coloured by the user's panel colour, registered with `colors()`.
     QWidget *makePanel(const QString &name);
+    /// The splitter's place (its object name tells it from others) is remembered.
+    void rememberSplitter(QSplitter *splitter);
     /// The one toolbar; "Main Menu" stands first in it.
-    QToolBar &toolbar() const { return *m_toolbar; }
+    FlowToolBar &toolbar() const { return *m_toolbar; }
     /// Adds `action` to the toolbar with the icon of this name and the word `text` beside it.
     void addTool(QAction *action, QLatin1StringView icon, const QString &text);
     void addToolSeparator();
-    /// Call once when menus and toolbar are complete: restores the toolbar's layout, colours and window geometry.
+    /// Call once when menus and toolbar are complete: restores the toolbar's layout, colours and window
+    /// geometry.
     void finishFrame();
 
     void closeEvent(QCloseEvent *event) final;
     void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// A long walk is under way: the window does not close.
     void setBusy(bool busy) { m_busy = busy; }
 
 private:
+    void addMainMenuTool();
+    void setLeaveAgreed(bool agreed);
+    void showTopToolbar();
+    void restoreTopToolbar();
+    void showToolbarMenu(const QPoint &place);
+    void restoreGeometryOnScreen();
+    QString storeKey(const QString &what) const;
+
     Program &m_program;
     WindowTraits m_traits;
     ActivityBar *m_activity;
     PanelColors *m_colors;
+    FlowToolBar *m_toolbar;
     QStackedWidget *m_stack;
-    QToolBar *m_toolbar;
+    QVBoxLayout *m_workPlace;
     ToolbarLayout *m_toolbarLayout = nullptr;
     PreviewPane *m_preview = nullptr; ///< made when first asked for
+    QList<QAction *> m_tools;
+    QStringList m_toolNames; ///< of `m_tools` and the separators between them
+    QList<QSplitter *> m_splitters;
+    QPointer<QWidget> m_focusBeforePreview;
     bool m_busy = false;
     bool m_leaveAgreed = false;
 };

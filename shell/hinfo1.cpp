@@ -1,0 +1,113 @@
+#include "shell/hinfo1.h"
+
+#include "shell/colortext.h"
+#include "shell/program.h"
+#include "shell/settingskeys.h"
+#include "shell/shellmessages.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QTimer>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr int clockStep = 20; // ms
+
+template <std::size_t Count>
+void writeToAll(const Program &program, const SettingsFile &file, const std::array<int, Count> &records,
+                const QString &text)
+{
+    for (const int record : records)
+        program.settings.setText({file, record}, text);
+    // The screen repaints between the files; what the user does meanwhile waits.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+/// A side of the window in twips, as a record holds it.
+int storedTwips(int pixels, int minimum)
+{
+    const qint64 twips = qint64(pixels) * HINFO1::twipsPerPixel;
+    return int(std::clamp<qint64>(twips, minimum, std::numeric_limits<qint16>::max()));
+}
+
+} // namespace
+
+void HINFO1::hourglassOn()
+{
+    if (!QGuiApplication::overrideCursor())
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+void HINFO1::hourglassOff()
+{
+    while (QGuiApplication::overrideCursor())
+        QGuiApplication::restoreOverrideCursor();
+}
+
+void HINFO1::showColorConflict(Program &program, QWidget *parent)
+{
+    program.dialogs.ask(parent, ShellMessages::colorConflict());
+}
+
+void HINFO1::askFamilyName(Program &program, QWidget *parent)
+{
+    const FamilyName stored(program.settings.text(SettingsKeys::familyName));
+    hourglassOff();
+    const FamilyName given(
+        program.dialogs
+            .input(parent, ShellMessages::familyNameTitle(), ShellMessages::familyNamePrompt(), stored.text())
+            .value_or(QString()));
+    FamilyName kept = given;
+    if (given.isEmpty() && !stored.isEmpty() &&
+        program.dialogs.ask(parent, ShellMessages::deleteFamilyName(stored.text())) != Answer::Yes)
+        kept = stored;
+    program.settings.setText(SettingsKeys::familyName, kept.text());
+    program.state.familyName = kept;
+    emit program.changes.familyNameChanged();
+}
+
+void HINFO1::pauseOneSecond(const Program &program)
+{
+    const int second = program.clock.now().time().second();
+    QElapsedTimer waited;
+    waited.start();
+    QEventLoop loop;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
+        // A clock that stands still, or is set back all the time, must not hold the program up.
+        if (program.clock.now().time().second() != second || waited.hasExpired(2000))
+            loop.quit();
+    });
+    timer.start(clockStep);
+    loop.exec();
+}
+
+void HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder)
+{
+    if (answerHolder != updateWithoutAsking &&
+        program.dialogs.ask(parent, ShellMessages::updateWholeProgram()) != Answer::Yes)
+        pending.clear();
+    const QString text = pending.trimmed();
+    pending.clear();
+    if (text.isEmpty() || text.size() > ColorText::maximumLength)
+        return;
+    writeToAll(program, SettingsKeys::colorFile1, SettingsKeys::programColors1, text);
+    writeToAll(program, SettingsKeys::colorFile2, SettingsKeys::programColors2, text);
+    writeToAll(program, SettingsKeys::colorFile3, SettingsKeys::programColors3, text);
+    emit program.changes.panelColorsChanged();
+}
+
+void HINFO1::saveMainWindowSize(Program &program, bool maximized, QSize size)
+{
+    program.state.screenMode = maximized ? ScreenMode::FullScreen : ScreenMode::Smaller;
+    program.settings.setText(SettingsKeys::smallerScreen,
+                             maximized ? QStringLiteral("No") : QStringLiteral("Yes"));
+    if (maximized)
+        return;
+    program.settings.setNumber(SettingsKeys::windowHeight, storedTwips(size.height(), minimumTwips.height()));
+    program.settings.setNumber(SettingsKeys::windowWidth, storedTwips(size.width(), minimumTwips.width()));
+}

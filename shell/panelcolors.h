@@ -21,8 +21,8 @@ struct PanelColorSettings {
     std::optional<TextSetting> text; ///< only windows that recolour text
 };
 
-/// The colours of one window's panels and their text: loading, the choosing flow with its conflict rule, the saving
-/// question and the offer to colour the whole program.
+/// The colours of one window's panels and their text: loading, the choosing flow with its conflict rule, the
+/// saving question and the offer to colour the whole program.
 class PanelColors : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,8 @@ public:
     void choosePanelColor();
     void chooseTextColor();
 
-    /// Asks whether to save colours that were changed and not saved yet; Cancel (where offered) is false.
+    /// Asks whether to save colours that were changed and not saved yet: only windows that recolour text
+    /// leave the question for this moment. Cancel is false; No drops them.
     bool askToSave();
     bool hasUnsavedChanges() const { return m_panelChanged || m_textChanged; }
 
@@ -52,6 +53,9 @@ signals:
     void changed();
 
 private:
+    /// Asks for a colour, given the one to preset and the one it must differ from. Nothing: leave it as it
+    /// is; an invalid colour: the system's default.
+    std::optional<QColor> choose(const QString &title, const QColor &preset, const QColor &forbidden);
     void apply();
     void save();
 

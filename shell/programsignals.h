@@ -18,4 +18,6 @@ signals:
     void familyNameChanged();
     /// The window asks for the manual's page of this context.
     void helpRequested(int context);
+    /// The main window is to come to the front.
+    void mainMenuRequested();
 };

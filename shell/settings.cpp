@@ -1,0 +1,48 @@
+#include "shell/settings.h"
+
+#include "storage/recordvalue.h"
+
+Settings::Settings(const DataFolder &folder)
+    : m_folder(folder)
+{}
+
+QString Settings::text(const TextSetting &setting) const
+{
+    return RecordValue::decodeText(open(setting.file).read(setting.record));
+}
+
+bool Settings::setText(const TextSetting &setting, const QString &text) const
+{
+    const auto bytes = RecordValue::encodeText(text, setting.file.recordLength);
+    return bytes && open(setting.file).write(setting.record, *bytes);
+}
+
+int Settings::number(const NumberSetting &setting) const
+{
+    return RecordValue::decodeNumber(open(setting.file).read(setting.record));
+}
+
+bool Settings::setNumber(const NumberSetting &setting, int number) const
+{
+    const auto clamped = RecordValue::clampedNumber(number);
+    return open(setting.file).write(setting.record, RecordValue::encodeNumber(clamped));
+}
+
+QString Settings::tagged(const TaggedSetting &setting) const
+{
+    return RecordValue::decodeTagged(open(setting.file).read(setting.record));
+}
+
+bool Settings::setTagged(const TaggedSetting &setting, const QString &text) const
+{
+    const auto bytes = RecordValue::encodeTaggedText(text, setting.file.recordLength);
+    return bytes && open(setting.file).write(setting.record, *bytes);
+}
+
+RecordFile Settings::open(const SettingsFile &file) const
+{
+    RecordFile records(m_folder.filePath(QString::fromLatin1(file.name)), file.recordLength);
+    // Opening a settings file makes it, empty; where that fails, reading finds nothing and writing says so.
+    records.create();
+    return records;
+}

@@ -21,20 +21,37 @@ struct Theme {
     static const Theme &dark();
     /// The set that `palette` belongs to: dark when its window colour is darker than half.
     static const Theme &of(const QPalette &palette);
+    /// The set that the application is drawn in; a panel colour of the user's does not change it.
     static const Theme &of(const QWidget *widget);
 
+    /// Soft fill of a pressed control: 10 % darker than `soft`.
+    QColor pressed() const { return soft.darker(111); }
+
     QPalette palette() const;
+    /// What a panel passes on to everything that stands on it; an invalid `fill` is the designed colour, an
+    /// invalid `ink` the designed text colours.
+    QPalette panelPalette(const QColor &fill = {}, const QColor &ink = {}) const;
     QString styleSheet() const;
 
-    /// Gives the application its style, palette, style sheet and base font, once at start. A high-contrast platform
-    /// theme keeps its own palette and gets no style sheet.
+    /// Gives the application its style, palette, style sheet and base font, once at start. A high-contrast
+    /// platform theme keeps its own palette and gets no style sheet.
     static void apply(QApplication &application);
 };
+
+/// Palette roles that the program's own controls draw with, so that a coloured panel passes its ink on to
+/// them.
+namespace ThemeRole {
+inline constexpr QPalette::ColorRole quiet = QPalette::LinkVisited;  ///< labels, hints
+inline constexpr QPalette::ColorRole strong = QPalette::Link;        ///< links, "required"
+inline constexpr QPalette::ColorRole line = QPalette::Mid;           ///< separators, the panel's rim
+inline constexpr QPalette::ColorRole mainRim = QPalette::BrightText; ///< rim of the main button
+} // namespace ThemeRole
 
 /// Steps of the type scale, each from the application's base font.
 namespace TypeScale {
 QFont label();       ///< 10 pt: labels and hints
 QFont body();        ///< 10.5 pt: boxes, buttons, reading
+QFont strong();      ///< 10.5 pt semibold: the activity, the main button
 QFont group();       ///< 12 pt semibold: group headings
 QFont cardTitle();   ///< 13 pt semibold
 QFont emptyTitle();  ///< 16 pt semibold: the sentence of an empty panel

@@ -6,26 +6,31 @@
 #include <QObject>
 #include <QStringList>
 
-class ActivityBar;
+class FlowToolBar;
 class QAction;
+class QLabel;
 class QListWidget;
-class QToolBar;
+class QListWidgetItem;
+class QPushButton;
 struct Program;
 
-/// The layout of one toolbar: which of its actions stand on it and in which order. It is kept in the user's settings
-/// store as a list of the actions' object names under section "User1"; the main menu's top toolbar uses key "Toolbar1",
-/// another window's its own name behind it.
+/// The layout of one toolbar: which of its actions stand on it and in which order. It is kept in the user's
+/// settings store as a list of the actions' object names under section "User1"; the main menu's top toolbar
+/// uses key "Toolbar1", another window's its own name behind it ("Toolbar1ADDBKVIEW").
 class ToolbarLayout : public QObject
 {
     Q_OBJECT
 public:
     static constexpr auto separatorName = "separator";
 
-    /// `actions`: everything that can stand on the bar, in default order; `defaults`: the object names shown by default
-    /// (with `separatorName` between groups).
-    ToolbarLayout(Program &program, QToolBar *bar, QString storeKey, QList<QAction *> actions, QStringList defaults);
+    /// `storeKey`: "Toolbar1" or the like, without its section. `actions`: everything that can stand on the
+    /// bar, in default order; `defaults`: the object names shown by default (with `separatorName` between
+    /// groups).
+    ToolbarLayout(Program &program, FlowToolBar *bar, QString storeKey, QList<QAction *> actions,
+                  QStringList defaults);
 
-    /// Puts the stored layout on the bar; the default one when none is stored or it names no action that exists.
+    /// Puts the stored layout on the bar; the default one when none is stored or it names no action that
+    /// exists.
     void restore();
     QStringList shown() const;
     /// Changes the bar at once and saves the layout.
@@ -35,18 +40,24 @@ public:
     const QList<QAction *> &actions() const { return m_actions; }
     const QStringList &defaults() const { return m_defaults; }
 
+    /// The action of this object name; null when there is none.
+    QAction *action(const QString &name) const;
+
 signals:
     void changed();
 
 private:
+    void show(const QStringList &names);
+
     Program &m_program;
-    QToolBar *m_bar;
+    FlowToolBar *m_bar;
     QString m_storeKey;
     QList<QAction *> m_actions;
     QStringList m_defaults;
 };
 
-/// The customisation dialog of a toolbar: pick, order, separators, drag, reset. Every change applies and is saved at once.
+/// The customisation dialog of a toolbar: pick, order, separators, drag, reset. Every change applies and is
+/// saved at once.
 class ToolbarCustomizer final : public QDialog
 {
     Q_OBJECT

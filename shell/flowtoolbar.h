@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QHash>
+#include <QWidget>
+
+class QToolButton;
+
+/// A toolbar that hides nothing: what does not fit in one row goes to the next. Its actions become tool
+/// buttons in the order in which they were added, named after their action with "_button" behind. A bar takes
+/// no focus by a click.
+class FlowToolBar : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit FlowToolBar(Qt::Orientation orientation, QWidget *parent = nullptr);
+    ~FlowToolBar() override;
+
+    Qt::Orientation orientation() const { return m_orientation; }
+
+    /// Icon beside the word (the default; leads the word with a space) or above it.
+    void setToolButtonStyle(Qt::ToolButtonStyle style);
+    void setIconSize(int pixels);
+    /// All buttons of the bar as wide as the widest, and wider up to `maximum` pixels while there is room.
+    void setEqualWidths(int maximum);
+
+    QAction *addSeparator();
+    /// Takes all actions off the bar; they live on, separators aside.
+    void clear();
+    /// The button of an action that is on the bar, else null.
+    QToolButton *button(const QAction *action) const { return m_buttons.value(action); }
+
+protected:
+    void actionEvent(QActionEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    class Layout;
+
+    QWidget *makeItem(QAction *action);
+    void dress(QToolButton &button) const;
+
+    Qt::Orientation m_orientation;
+    Qt::ToolButtonStyle m_style = Qt::ToolButtonTextBesideIcon;
+    int m_iconSize = 20;
+    Layout *m_layout;
+    QHash<const QAction *, QToolButton *> m_buttons;
+    QHash<const QAction *, QWidget *> m_items; ///< buttons and separators
+};

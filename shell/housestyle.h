@@ -1,0 +1,36 @@
+#pragma once
+
+#include "shell/theme.h"
+
+#include <QProxyStyle>
+
+class QStyleOptionComboBox;
+
+/// Fusion with the program's own buttons, check marks and choice boxes: what a style sheet cannot draw in the
+/// ink of a coloured panel. Buttons with the property "main" are drawn in the accent.
+class HouseStyle final : public QProxyStyle
+{
+    Q_OBJECT
+public:
+    explicit HouseStyle(const Theme &theme);
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override;
+
+private:
+    void drawButton(const QStyleOption &option, QPainter &painter, const QWidget *widget) const;
+    void drawCheckBox(const QStyleOption &option, QPainter &painter) const;
+    void drawRadioButton(const QStyleOption &option, QPainter &painter) const;
+    void drawComboBox(const QStyleOptionComboBox &option, QPainter &painter, const QWidget *widget) const;
+
+    const Theme &m_theme;
+};
