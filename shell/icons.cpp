@@ -18,8 +18,7 @@ static void loadIconFiles()
     Q_INIT_RESOURCE(quillery_icons);
 }
 
-namespace
-{
+namespace {
 
 constexpr std::array drawnSides{16, 20, 24, 32, 40, 44, 48, 64, 66, 72, 88, 96, 144};
 constexpr std::array applicationSides{16, 20, 24, 32, 40, 48, 64, 128, 256};

@@ -9,8 +9,7 @@ class QColor;
 /// The program's own drawings for buttons, cards, marks and message boxes, by the name of their source in
 /// resources/icons. An unknown name gives a null icon or pixmap. Files are read when an icon is first
 /// painted.
-namespace Icons
-{
+namespace Icons {
 
 enum class Scheme { Light, Dark };
 
