@@ -1,0 +1,101 @@
+#include "shell/displaymode.h"
+
+#include "shell/hinfo1.h"
+#include "shell/settingskeys.h"
+
+#include <QAction>
+#include <QScopedValueRollback>
+#include <QWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+DisplayMode::DisplayMode(Program &program, QWidget *window, QAction *fullScreen, QAction *smallerScreen)
+    : QObject(window)
+    , m_program(program)
+    , m_window(window)
+    , m_fullScreen(fullScreen)
+    , m_smallerScreen(smallerScreen)
+{
+    m_fullScreen->setCheckable(true);
+    m_smallerScreen->setCheckable(true);
+}
+
+void DisplayMode::load()
+{
+    const QScopedValueRollback switching(m_switching, true);
+    const bool smaller = m_program.settings.text(SettingsKeys::smallerScreen) == "Yes"_L1;
+    setMode(smaller ? ScreenMode::Smaller : ScreenMode::FullScreen);
+    // The size comes first: it is what a maximised window is restored to by hand.
+    m_window->resize(rememberedSize());
+    m_window->setWindowState(smaller ? Qt::WindowNoState : Qt::WindowMaximized);
+}
+
+void DisplayMode::useFullScreen()
+{
+    const QScopedValueRollback switching(m_switching, true);
+    write(ScreenMode::FullScreen);
+    m_window->setWindowState(Qt::WindowMaximized);
+}
+
+void DisplayMode::useSmallerScreen()
+{
+    const QScopedValueRollback switching(m_switching, true);
+    write(ScreenMode::Smaller);
+    m_window->setWindowState(Qt::WindowNoState);
+    m_window->resize(rememberedSize());
+}
+
+void DisplayMode::useDefaultSize()
+{
+    const QScopedValueRollback switching(m_switching, true);
+    setMode(ScreenMode::Smaller);
+    m_window->setWindowState(Qt::WindowNoState);
+    const QSize size = HINFO1::minimumTwips / HINFO1::twipsPerPixel;
+    m_window->resize(size);
+    HINFO1::saveMainWindowSize(m_program, false, size);
+}
+
+void DisplayMode::toggle()
+{
+    if (m_fullScreen->isChecked())
+        useSmallerScreen();
+    else
+        useFullScreen();
+}
+
+void DisplayMode::windowStateChanged(Qt::WindowStates before)
+{
+    const Qt::WindowStates now = m_window->windowState();
+    const bool restored = before.testFlag(Qt::WindowMaximized) && !now.testFlag(Qt::WindowMaximized);
+    if (m_switching || !restored || now.testFlag(Qt::WindowMinimized))
+        return;
+    if (m_program.settings.text(SettingsKeys::smallerScreen) != "Yes"_L1)
+        write(ScreenMode::Smaller);
+}
+
+void DisplayMode::save()
+{
+    const bool maximized = m_window->windowState().testFlag(Qt::WindowMaximized);
+    setMode(maximized ? ScreenMode::FullScreen : ScreenMode::Smaller);
+    HINFO1::saveMainWindowSize(m_program, maximized, m_window->size());
+}
+
+void DisplayMode::setMode(ScreenMode mode)
+{
+    m_program.state.screenMode = mode;
+    m_fullScreen->setChecked(mode == ScreenMode::FullScreen);
+    m_smallerScreen->setChecked(mode == ScreenMode::Smaller);
+}
+
+void DisplayMode::write(ScreenMode mode)
+{
+    setMode(mode);
+    m_program.settings.setText(SettingsKeys::smallerScreen, mode == ScreenMode::Smaller ? u"Yes"_s : u"No"_s);
+}
+
+QSize DisplayMode::rememberedSize() const
+{
+    const QSize twips(m_program.settings.number(SettingsKeys::windowWidth),
+                      m_program.settings.number(SettingsKeys::windowHeight));
+    return twips.expandedTo(HINFO1::minimumTwips) / HINFO1::twipsPerPixel;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "shell/functions.h"
+
+#include <QString>
+
+#include <span>
+
+/// How a function presents itself on the main menu.
+struct FunctionFace {
+    Function function;
+    const char *name; ///< of its card's object name: "card_" and this
+    const char *icon;
+    const char *title;     ///< on the card
+    const char *quietLine; ///< what it is for: its card's line while it has no news
+    int area;              ///< the guard of its menu entry
+
+    QString cardName() const;
+    QString titleText() const { return QString::fromLatin1(title); }
+    QString quietText() const { return QString::fromLatin1(quietLine); }
+    /// Why its entries and its card cannot be used while it is not built in.
+    QString missingReason() const;
+};
+
+namespace FunctionFaces {
+
+/// The twelve functions with a card, in the order of the cards.
+std::span<const FunctionFace> cards();
+
+/// Any function's face; the address viewer has one too.
+const FunctionFace &of(Function function);
+
+} // namespace FunctionFaces

@@ -1,0 +1,84 @@
+#include "shell/menunews.h"
+
+#include "shell/functionfaces.h"
+#include "shell/program.h"
+
+#include <QFileInfo>
+#include <QLocale>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int morning = 5; // hours
+constexpr int afternoon = 12;
+constexpr int evening = 18;
+
+QString greeting(int hour)
+{
+    if (hour >= morning && hour < afternoon)
+        return u"Good morning."_s;
+    return hour >= afternoon && hour < evening ? u"Good afternoon."_s : u"Good evening."_s;
+}
+
+QString wish(QDate today)
+{
+    return u"Have a pleasant "_s + QLocale::c().dayName(today.dayOfWeek()) + u'.';
+}
+
+} // namespace
+
+void MenuNews::refresh()
+{
+    for (const FunctionFace &face : FunctionFaces::cards()) {
+        const FunctionEntry *entry = m_program.functions.entry(face.function);
+        if (!entry)
+            continue;
+        const Reading reading = readingOf(face, *entry);
+        const auto known = m_known.find(face.function);
+        if (known != m_known.end() && known->second.reading == reading)
+            continue;
+        std::optional<LiveLine> line;
+        if (reading.guarded)
+            line = LiveLine{u"Protected"_s, LiveLine::Plain, {}};
+        else if (entry->liveLine)
+            line = entry->liveLine(m_program, reading.day);
+        m_known[face.function] = {reading, line};
+    }
+}
+
+MenuNews::Reading MenuNews::readingOf(const FunctionFace &face, const FunctionEntry &entry) const
+{
+    const ProgramState &state = m_program.state;
+    const bool guarded = face.area != Area::None && state.protectedAreas.isProtected(face.area);
+    Reading reading{{}, m_program.clock.today(), state.dateStyle, guarded};
+    for (const QString &name : entry.liveFiles) {
+        const QFileInfo file(m_program.folder.filePath(name));
+        reading.files.append({file.filePath(), file.lastModified(), file.size()});
+    }
+    return reading;
+}
+
+std::optional<LiveLine> MenuNews::line(Function function) const
+{
+    const auto known = m_known.find(function);
+    return known == m_known.end() ? std::nullopt : known->second.line;
+}
+
+QString MenuNews::sentence() const
+{
+    QList<LiveLine> lines;
+    for (const FunctionFace &face : FunctionFaces::cards())
+        if (const std::optional<LiveLine> news = line(face.function))
+            lines.append(*news);
+    return sentence(m_program.clock.now(), lines);
+}
+
+QString MenuNews::sentence(const QDateTime &now, const QList<LiveLine> &lines)
+{
+    const LiveLine *told = nullptr;
+    for (const LiveLine &line : lines)
+        if (!line.sentence.isEmpty() && (!told || line.urgency > told->urgency))
+            told = &line;
+    return greeting(now.time().hour()) + u' ' + (told ? told->sentence : wish(now.date()));
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "shell/message.h"
+
+#include <QSize>
+
+#include <optional>
+
+/// What the main menu says and asks.
+namespace StartMessages {
+
+inline Message exit()
+{
+    return {QStringLiteral("Exit"),
+            QStringLiteral("Do you wish to Exit Quillery?"),
+            Message::Question,
+            {Answer::Yes, Answer::No, Answer::Cancel},
+            Answer::Yes};
+}
+
+inline Message screenTooSmall()
+{
+    return {QStringLiteral("Program Display Option"),
+            QStringLiteral("Monitor Resolution Settings (Screen Area) and Program Size requirements are at "
+                           "least 800 by 600 or Higher.\n"
+                           "If you do not set your screen resolution to this setting or higher this program "
+                           "will not function properly!")};
+}
+
+/// The notice for a screen of `pixels`, when it is too small for the program.
+inline std::optional<Message> screenCheck(QSize pixels)
+{
+    if (pixels.width() < 800 || pixels.height() < 600)
+        return screenTooSmall();
+    return std::nullopt;
+}
+
+/// A list-file button found nothing to show; `title` is the button's.
+inline Message noFilesToView(const QString &title)
+{
+    return {title, QStringLiteral("There are currently no files to view!")};
+}
+
+inline Message noFilesToRollUp(const QString &title)
+{
+    return {title, QStringLiteral("There are currently no files to display rollup information!")};
+}
+
+} // namespace StartMessages
