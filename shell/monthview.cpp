@@ -1,0 +1,162 @@
+#include "shell/monthview.h"
+
+#include "shell/theme.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QTableView>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QSize designedSize(316, 296);
+constexpr double corner = 8;
+
+/// What the sheet of the whole application would otherwise give to every table and tool button.
+QString ownSheet()
+{
+    return uR"(
+QTableView, QTableView:focus { border: 0; background: transparent; padding: 0; }
+QWidget#qt_calendar_navigationbar { background: transparent; }
+QToolButton { padding: 0 4px; min-height: 32px; border-radius: 6px; }
+QToolButton#monthPrevious, QToolButton#monthNext { min-width: 32px; padding: 0; }
+QToolButton::menu-indicator { image: none; width: 0; }
+QSpinBox { min-height: 24px; padding: 1px 4px; }
+)"_s;
+}
+
+} // namespace
+
+MonthView::MonthView(QWidget *parent)
+    : QCalendarWidget(parent)
+{
+    setLocale(QLocale::c());
+    setFirstDayOfWeek(Qt::Sunday);
+    setHorizontalHeaderFormat(ShortDayNames);
+    setVerticalHeaderFormat(ISOWeekNumbers);
+    setGridVisible(false);
+    setStyleSheet(ownSheet());
+    setUpHeading();
+    showPaletteColors();
+    if (auto *view = findChild<QTableView *>()) {
+        view->setFrameShape(QFrame::NoFrame);
+        view->setAccessibleName(u"Days of the month"_s);
+    }
+}
+
+void MonthView::setToday(QDate today)
+{
+    m_today = today;
+    updateCells();
+}
+
+void MonthView::setMarkedDays(const QSet<QDate> &days)
+{
+    m_marked = days;
+    updateCells();
+}
+
+void MonthView::setTodayMarked(bool marked)
+{
+    m_todayMarked = marked;
+    updateCells();
+}
+
+QSize MonthView::sizeHint() const
+{
+    return designedSize.expandedTo(QCalendarWidget::sizeHint());
+}
+
+QSize MonthView::minimumSizeHint() const
+{
+    return QSize(266, 236).expandedTo(QCalendarWidget::minimumSizeHint());
+}
+
+void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) const
+{
+    const Theme &theme = Theme::of(this);
+    const bool chosen = date == selectedDate();
+    const bool ofThisMonth = date.month() == monthShown() && date.year() == yearShown();
+    painter->save();
+    // The line under the names of the days, drawn with the first row since the view gives it no place.
+    if (rect.y() < 2 * rect.height())
+        painter->fillRect(QRect(rect.x(), rect.y(), rect.width(), 1), palette().color(ThemeRole::line));
+    painter->setRenderHint(QPainter::Antialiasing);
+    QRectF mark = QRectF(rect).adjusted(2.5, 2.5, -2.5, -1.5);
+    mark.setWidth(std::min(mark.width(), 36.0));
+    mark.moveCenter(QRectF(rect).center() + QPointF(0, 0.5));
+    if (chosen || (m_todayMarked && date == m_today)) {
+        painter->setPen(QPen(theme.accent, 1.5));
+        painter->setBrush(chosen ? QBrush(theme.accent) : QBrush(Qt::NoBrush));
+        painter->drawRoundedRect(mark, corner, corner);
+    }
+
+    const QColor ink =
+        chosen ? theme.onAccent
+               : palette().color(ofThisMonth && isEnabled() ? QPalette::WindowText : ThemeRole::quiet);
+    QFont font = TypeScale::body();
+    font.setWeight(chosen || date == m_today ? QFont::DemiBold : QFont::Normal);
+    painter->setFont(font);
+    painter->setPen(ink);
+    painter->drawText(mark.adjusted(0, 0, 0, -4), Qt::AlignCenter, QString::number(date.day()));
+    if (m_marked.contains(date)) {
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(chosen ? theme.onAccent : palette().color(ThemeRole::strong));
+        painter->drawEllipse(QPointF(mark.center().x(), mark.bottom() - 5), 2.5, 2.5);
+    }
+    painter->restore();
+}
+
+void MonthView::changeEvent(QEvent *event)
+{
+    QCalendarWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showPaletteColors();
+}
+
+void MonthView::setUpHeading()
+{
+    struct Step {
+        QLatin1StringView given, name, icon, word;
+    };
+    const Icons::Scheme scheme = Theme::of(this).scheme;
+    for (const Step &step :
+         {Step{"qt_calendar_prevmonth"_L1, "monthPrevious"_L1, "previous"_L1, "Previous month"_L1},
+          Step{"qt_calendar_nextmonth"_L1, "monthNext"_L1, "next"_L1, "Next month"_L1}}) {
+        if (auto *button = findChild<QToolButton *>(step.given)) {
+            button->setObjectName(step.name);
+            button->setIcon(Icons::icon(step.icon, scheme));
+            button->setIconSize(QSize(20, 20));
+            button->setToolTip(step.word);
+            button->setAccessibleName(step.word);
+        }
+    }
+    for (const QLatin1StringView name : {"qt_calendar_monthbutton"_L1, "qt_calendar_yearbutton"_L1})
+        if (auto *button = findChild<QToolButton *>(name))
+            button->setFont(TypeScale::group());
+}
+
+void MonthView::showPaletteColors()
+{
+    QTextCharFormat head;
+    QFont font = TypeScale::label();
+    font.setWeight(QFont::DemiBold);
+    head.setFont(font);
+    head.setForeground(palette().color(ThemeRole::quiet));
+    head.setBackground(Qt::transparent);
+    setHeaderTextFormat(head);
+    QTextCharFormat day;
+    day.setForeground(palette().color(QPalette::WindowText));
+    for (const Qt::DayOfWeek free : {Qt::Saturday, Qt::Sunday})
+        setWeekdayTextFormat(free, day);
+    QPalette buttons;
+    buttons.setColor(QPalette::ButtonText, palette().color(QPalette::WindowText));
+    const auto all = findChildren<QToolButton *>();
+    for (QToolButton *button : all)
+        button->setPalette(buttons);
+}

@@ -3,8 +3,9 @@
 #include <QCalendarWidget>
 #include <QSet>
 
-/// A month calendar in the program's look: heading with steps, week numbers, today ringed, the chosen day filled, marked
-/// days with a dot. The real control behind every date picker.
+/// A month calendar in the program's look: heading with steps, week numbers, today ringed, the chosen day
+/// filled, marked days with a dot. Month and year in the heading can be picked. The real control behind every
+/// date picker; it stands on a panel, whose colours it takes.
 class MonthView : public QCalendarWidget
 {
     Q_OBJECT
@@ -15,10 +16,17 @@ public:
     void setMarkedDays(const QSet<QDate> &days);
     void setTodayMarked(bool marked);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void paintCell(QPainter *painter, const QRect &rect, QDate date) const override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void setUpHeading();
+    void showPaletteColors();
+
     QDate m_today;
     QSet<QDate> m_marked;
     bool m_todayMarked = true;

@@ -1,0 +1,204 @@
+#include "shell/controls.h"
+#include "shell/listrowdelegate.h"
+#include "shell/shellmessages.h"
+#include "shell/theme.h"
+#include "shell/toolbars.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QListWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int nameRole = Qt::UserRole;
+constexpr int iconSize = 20;
+
+QListWidget *makeList(const QString &name, QWidget *parent)
+{
+    auto *list = named(new QListWidget(parent), name);
+    setListRows(list);
+    list->setIconSize(QSize(iconSize, iconSize));
+    list->setMinimumSize(250, 12 * ListRowDelegate::rowHeight() + 8);
+    return list;
+}
+
+QString nameOf(const QListWidgetItem *item)
+{
+    return item ? item->data(nameRole).toString() : QString();
+}
+
+} // namespace
+
+ToolbarCustomizer::ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent)
+    : QDialog(parent)
+    , m_layout(layout)
+    , m_available(makeList(u"availableList"_s, this))
+    , m_shown(makeList(u"shownList"_s, this))
+    , m_add(makeButton(u"addTool"_s, u"&Add"_s, this))
+    , m_remove(makeButton(u"removeTool"_s, u"&Remove"_s, this))
+    , m_up(makeButton(u"moveToolUp"_s, u"Move &Up"_s, this))
+    , m_down(makeButton(u"moveToolDown"_s, u"Move &Down"_s, this))
+{
+    setObjectName("toolbarCustomizer"_L1);
+    setWindowTitle(ShellMessages::customizeToolbarTitle());
+    setModal(true);
+    setPalette(Theme::of(this).panelPalette());
+    // Dropping moves a row within the list; the layout follows it.
+    m_shown->setDragDropMode(QAbstractItemView::InternalMove);
+    connect(m_shown->model(), &QAbstractItemModel::rowsMoved, this, [this] { applyOrder(); });
+    connect(m_add, &QPushButton::clicked, this, &ToolbarCustomizer::addChosen);
+    connect(m_remove, &QPushButton::clicked, this, &ToolbarCustomizer::removeChosen);
+    connect(m_up, &QPushButton::clicked, this, [this] { moveChosen(-1); });
+    connect(m_down, &QPushButton::clicked, this, [this] { moveChosen(1); });
+    connect(m_available, &QListWidget::itemDoubleClicked, this, &ToolbarCustomizer::addChosen);
+    for (QListWidget *list : {m_available, m_shown})
+        connect(list, &QListWidget::currentRowChanged, this, &ToolbarCustomizer::offerButtons);
+    arrange();
+    fill();
+    m_shown->setCurrentRow(0);
+    m_shown->setFocus();
+}
+
+void ToolbarCustomizer::arrange()
+{
+    QPushButton *separator = makeButton(u"addSeparator"_s, u"&Separator"_s, this);
+    QPushButton *reset = makeButton(u"resetTools"_s, u"R&eset"_s, this);
+    QPushButton *close = makeButton(u"closeCustomizer"_s, u"&Close"_s, this, ButtonKind::Main);
+    close->setDefault(true);
+    close->setMinimumWidth(104);
+    connect(separator, &QPushButton::clicked, this,
+            [this] { insert(QString::fromLatin1(ToolbarLayout::separatorName)); });
+    connect(reset, &QPushButton::clicked, this, [this] {
+        m_layout.reset();
+        fill();
+    });
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto *middle = new QVBoxLayout;
+    middle->setSpacing(8);
+    for (QPushButton *button : {m_add, m_remove, m_up, m_down, separator})
+        middle->addWidget(button);
+    middle->addStretch();
+    auto *foot = new QHBoxLayout;
+    foot->addWidget(reset);
+    foot->addStretch();
+    foot->addWidget(close);
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(24, 20, 24, 20);
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(6);
+    grid->addWidget(makeFieldLabel(u"Available buttons"_s, m_available, this), 0, 0);
+    grid->addWidget(makeFieldLabel(u"Buttons on the toolbar"_s, m_shown, this), 0, 2);
+    grid->addWidget(m_available, 1, 0);
+    grid->addLayout(middle, 1, 1);
+    grid->addWidget(m_shown, 1, 2);
+    grid->addWidget(
+        makeQuietLabel(u"Drag a button to its place, or move it up and down. Changes apply at once."_s, this),
+        2, 0, 1, 3);
+    grid->setRowMinimumHeight(3, 8);
+    grid->addLayout(foot, 4, 0, 1, 3);
+}
+
+void ToolbarCustomizer::fill()
+{
+    const QString chosen = nameOf(m_available->currentItem());
+    m_available->clear();
+    m_shown->clear();
+    const QStringList shown = m_layout.shown();
+    for (const QString &name : shown)
+        addRow(m_shown, name);
+    for (const QAction *action : m_layout.actions()) {
+        if (shown.contains(action->objectName()))
+            continue;
+        addRow(m_available, action->objectName());
+        if (action->objectName() == chosen)
+            m_available->setCurrentRow(m_available->count() - 1);
+    }
+    offerButtons();
+}
+
+void ToolbarCustomizer::addRow(QListWidget *list, const QString &name)
+{
+    auto *item = new QListWidgetItem(list);
+    item->setData(nameRole, name);
+    const Icons::Scheme scheme = Theme::of(this).scheme;
+    if (const QAction *action = m_layout.action(name)) {
+        item->setText(action->iconText());
+        item->setIcon(action->icon());
+        item->setToolTip(action->toolTip());
+    } else {
+        item->setText(u"Separator"_s);
+        item->setIcon(Icons::icon("separator"_L1, scheme));
+    }
+}
+
+void ToolbarCustomizer::apply(const QStringList &names, int current)
+{
+    m_layout.setShown(names);
+    fill();
+    m_shown->setCurrentRow(std::clamp(current, 0, std::max(0, m_shown->count() - 1)));
+}
+
+QStringList ToolbarCustomizer::order() const
+{
+    QStringList names;
+    for (int row = 0; row < m_shown->count(); ++row)
+        names << nameOf(m_shown->item(row));
+    return names;
+}
+
+void ToolbarCustomizer::applyOrder()
+{
+    m_layout.setShown(order());
+    offerButtons();
+}
+
+void ToolbarCustomizer::insert(const QString &name)
+{
+    QStringList names = order();
+    const int row = m_shown->currentRow() + 1; // behind the chosen one; first where none is chosen
+    names.insert(row, name);
+    apply(names, row);
+}
+
+void ToolbarCustomizer::addChosen()
+{
+    if (const QString name = nameOf(m_available->currentItem()); !name.isEmpty())
+        insert(name);
+}
+
+void ToolbarCustomizer::removeChosen()
+{
+    QStringList names = order();
+    const int row = m_shown->currentRow();
+    if (row < 0)
+        return;
+    names.removeAt(row);
+    apply(names, row);
+}
+
+void ToolbarCustomizer::moveChosen(int by)
+{
+    QStringList names = order();
+    const int row = m_shown->currentRow();
+    if (row < 0 || row + by < 0 || row + by >= names.size())
+        return;
+    names.move(row, row + by);
+    apply(names, row + by);
+}
+
+void ToolbarCustomizer::offerButtons()
+{
+    const int row = m_shown->currentRow();
+    const QString choose = u"Choose a button in the list at the right first"_s;
+    setUnavailable(m_add, m_available->currentRow() >= 0
+                              ? QString()
+                              : u"Choose a button in the list at the left first"_s);
+    setUnavailable(m_remove, row >= 0 ? QString() : choose);
+    setUnavailable(m_up, row < 0 ? choose : row == 0 ? u"This is the first button"_s : QString());
+    setUnavailable(m_down, row < 0                       ? choose
+                           : row == m_shown->count() - 1 ? u"This is the last button"_s
+                                                         : QString());
+}

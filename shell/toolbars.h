@@ -8,9 +8,7 @@
 
 class FlowToolBar;
 class QAction;
-class QLabel;
 class QListWidget;
-class QListWidgetItem;
 class QPushButton;
 struct Program;
 
@@ -65,9 +63,25 @@ public:
     ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent);
 
 private:
+    void arrange();
+    void fill();
+    void addRow(QListWidget *list, const QString &name);
+    QStringList order() const;
+    void apply(const QStringList &names, int current);
+    void applyOrder();
+    void insert(const QString &name);
+    void addChosen();
+    void removeChosen();
+    void moveChosen(int by);
+    void offerButtons();
+
     ToolbarLayout &m_layout;
     QListWidget *m_available;
     QListWidget *m_shown;
+    QPushButton *m_add;
+    QPushButton *m_remove;
+    QPushButton *m_up;
+    QPushButton *m_down;
 };
 
 /// Removal and restoration of the top toolbar, which all windows share.

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "shell/dialogs.h"
+
+#include <QDialog>
+
+class QFontDialog;
+class QPushButton;
+
+/// The font chooser of the page preview: the platform's choice of fonts with the colour of the text beside
+/// it.
+class FontBox final : public QDialog
+{
+    Q_OBJECT
+public:
+    FontBox(Dialogs &dialogs, const PageFont &preset, QWidget *parent);
+
+    PageFont chosen() const;
+
+private:
+    void showColor();
+
+    QFontDialog *m_fonts;
+    QPushButton *m_colorButton;
+    QColor m_color;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+#include <QWidget>
+
+class QAbstractItemView;
+
+/// Rows of a list: 33 pixels high or what the font needs, words 8 pixels from the edge, hover in the soft
+/// fill.
+class ListRowDelegate final : public QStyledItemDelegate
+{
+    Q_OBJECT
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    static int rowHeight();
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+};
+
+/// Gives a list the program's rows: the delegate, alternate rows, no grid, hover.
+void setListRows(QAbstractItemView *view);
+
+/// Holds a list at a height of whole rows; `foot` (a count, say) stands right under it, wherever that is.
+class WholeRows final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit WholeRows(QAbstractItemView *view, QWidget *foot = nullptr, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    int footHeight() const;
+
+    QAbstractItemView *m_view;
+    QWidget *m_foot;
+};
