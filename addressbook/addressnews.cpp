@@ -25,6 +25,22 @@ struct Occasion {
     QString name;
 };
 
+/// The first time that the date of `kind` comes round on or after `day`; nothing without a date that can be
+/// read.
+std::optional<Occasion> nextOccasion(const AddressEntry &entry, Kind kind, DateStyle style, QDate day)
+{
+    const QString &text = entry[kind == Kind::Birthday ? BirthDate : AnniversaryDate];
+    const auto date = text.isEmpty() ? std::nullopt : Dates::parse(text, style, day);
+    if (!date)
+        return {};
+    const QDate next = Dates::nextAnniversary(*date, day);
+    const int years = next.year() - date->year();
+    // The day itself is no anniversary yet, and one to come even less.
+    if (years < 1)
+        return {};
+    return Occasion{kind, next, years, entry.fullName()};
+}
+
 QString word(Kind kind, qsizetype count = 1)
 {
     if (kind == Kind::Birthday)
@@ -42,6 +58,14 @@ QString dayName(QDate day, QDate today)
 QString shortDate(QDate day, DateStyle style)
 {
     return QLocale::c().toString(day, style == DateStyle::Usa ? u"MMM d" : u"d MMM");
+}
+
+/// "Anne Lind turns 48"
+QString noteText(const Occasion &occasion)
+{
+    if (occasion.kind == Kind::Anniversary)
+        return occasion.name + u": anniversary"_s;
+    return occasion.name + u" turns "_s + QString::number(occasion.years);
 }
 
 /// What the next days hold: everything of this week, and what comes first after it.
@@ -68,22 +92,14 @@ private:
 
 void Ahead::add(Kind kind, const AddressEntry &entry)
 {
-    const QString &text = entry[kind == Kind::Birthday ? BirthDate : AnniversaryDate];
-    if (text.isEmpty())
+    std::optional<Occasion> occasion = nextOccasion(entry, kind, m_style, m_today);
+    if (!occasion)
         return;
-    const std::optional<QDate> date = Dates::parse(text, m_style, m_today);
-    if (!date)
-        return;
-    const QDate day = Dates::nextAnniversary(*date, m_today);
-    const int years = day.year() - date->year();
-    // The day itself is no anniversary yet, and one to come even less.
-    if (years < 1)
-        return;
-    const qint64 days = m_today.daysTo(day);
+    const qint64 days = m_today.daysTo(occasion->day);
     if (days < daysThisWeek)
-        m_thisWeek.push_back({kind, day, years, entry.fullName()});
-    else if (days <= daysAhead && (!m_later || day < m_later->day))
-        m_later = Occasion{kind, day, years, entry.fullName()};
+        m_thisWeek.push_back(std::move(*occasion));
+    else if (days <= daysAhead && (!m_later || occasion->day < m_later->day))
+        m_later = std::move(occasion);
 }
 
 std::optional<LiveLine> Ahead::line() const
@@ -119,7 +135,7 @@ QString Ahead::sentence() const
     const Occasion &first = *std::ranges::min_element(m_thisWeek, {}, &Occasion::day);
     const bool isToday = first.day == m_today;
     if (isToday && first.kind == Kind::Birthday)
-        return first.name + u" turns "_s + QString::number(first.years) + u" today."_s;
+        return noteText(first) + u" today."_s;
     return first.name + (first.kind == Kind::Birthday ? u" has a "_s : u" has an "_s) + word(first.kind) +
            (isToday ? u" "_s : u" on "_s) + dayName(first.day, m_today) + u'.';
 }
@@ -135,4 +151,27 @@ std::optional<LiveLine> AddressNews::liveLine(const DataFolder &folder, DateStyl
         return true;
     });
     return ahead.line();
+}
+
+QList<DayNote> AddressNews::dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to)
+{
+    QList<DayNote> notes;
+    if (!from.isValid() || !to.isValid())
+        return notes;
+    const auto add = [&](const AddressEntry &entry, Kind kind) {
+        for (QDate day = from; day <= to; day = day.addDays(1)) {
+            const auto occasion = nextOccasion(entry, kind, style, day);
+            if (!occasion || occasion->day > to)
+                return;
+            day = occasion->day;
+            notes.append({day, noteText(*occasion), u"Address Book"_s});
+        }
+    };
+    AddressBook(folder).forEachLive([&add](int, const AddressEntry &entry) {
+        add(entry, Kind::Birthday);
+        add(entry, Kind::Anniversary);
+        return true;
+    });
+    std::ranges::stable_sort(notes, {}, &DayNote::date);
+    return notes;
 }

@@ -4,6 +4,7 @@
 #include "shell/programstate.h"
 
 #include <QDate>
+#include <QList>
 
 #include <optional>
 
@@ -15,5 +16,8 @@ namespace AddressNews {
 /// The birthdays and anniversaries of the next seven days ("Anne Lind: birthday Tuesday", "2 birthdays this
 /// week"), else the next one within thirty days; nothing when none is near. `today` counts as near.
 std::optional<LiveLine> liveLine(const DataFolder &folder, DateStyle style, QDate today);
+
+/// The birthdays and anniversaries of the days `from` to `to`, in date order: "Anne Lind turns 48".
+QList<DayNote> dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to);
 
 } // namespace AddressNews
