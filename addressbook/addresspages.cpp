@@ -71,20 +71,20 @@ CardGrid gridFor(AddressPages::PerSheet perSheet, const PageSetup &setup)
     return grid;
 }
 
-std::vector<QString> cardTexts(const AddressEntry &entry)
+QStringList cardTexts(const AddressEntry &entry)
 {
     const auto labelled = [&entry](AddressField field) {
         return entry[field].isEmpty() ? QString() : addressLabel(field) + u' ' + entry[field];
     };
-    std::vector<QString> texts{entry[Address1],     entry[Address2],           townLine(entry),
-                               labelled(HomePhone), labelled(MobilePhone),     entry[Email],
-                               labelled(BirthDate), labelled(AnniversaryDate), labelled(Fax)};
-    std::erase_if(texts, [](const QString &text) { return text.isEmpty(); });
+    QStringList texts{entry[Address1],     entry[Address2],           townLine(entry),
+                      labelled(HomePhone), labelled(MobilePhone),     entry[Email],
+                      labelled(BirthDate), labelled(AnniversaryDate), labelled(Fax)};
+    texts.removeAll(QString());
     return texts;
 }
 
-/// Texts from the top of `place` downwards; what finds no room is left out.
-void placeTexts(Page &page, const CardGrid &grid, QRectF place, const AddressEntry &entry)
+/// The name and `texts` from the top of `place` downwards; what finds no room is left out.
+void placeTexts(Page &page, const CardGrid &grid, QRectF place, const QString &name, const QStringList &texts)
 {
     const auto placeLine = [&](const QString &text, TextRole role, double height) {
         if (height > place.height() + 0.001)
@@ -92,8 +92,8 @@ void placeTexts(Page &page, const CardGrid &grid, QRectF place, const AddressEnt
         page.placeText({place.topLeft(), QSizeF(place.width(), height)}, text, role);
         place.setTop(place.top() + height);
     };
-    placeLine(entry.fullName(), grid.nameRole, grid.nameHeight);
-    for (const QString &text : cardTexts(entry))
+    placeLine(name, grid.nameRole, grid.nameHeight);
+    for (const QString &text : texts)
         placeLine(text, grid.role, grid.lineHeight);
 }
 
@@ -101,20 +101,21 @@ void placeTexts(Page &page, const CardGrid &grid, QRectF place, const AddressEnt
 void placeCard(Page &page, const CardGrid &grid, const QRectF &place, const AddressEntry &entry,
                const QString &picture)
 {
+    const QStringList texts = cardTexts(entry);
     QRectF rest = place;
     if (!picture.isEmpty()) {
-        const bool isWide = place.width() > 1.15 * place.height();
         QRectF frame = place;
-        if (isWide) {
+        if (place.width() > 1.15 * place.height()) {
             frame.setWidth(std::min(0.36 * place.width(), place.height()));
             rest.setLeft(frame.right() + gap);
         } else {
-            frame.setHeight(0.4 * place.height());
+            const double textHeight = grid.nameHeight + grid.lineHeight * double(texts.size());
+            frame.setHeight(std::min(0.5 * place.height(), place.height() - textHeight - gap / 2));
             rest.setTop(frame.bottom() + gap / 2);
         }
         page.placePicture(frame, picture);
     }
-    placeTexts(page, grid, rest, entry);
+    placeTexts(page, grid, rest, entry.fullName(), texts);
 }
 
 } // namespace
