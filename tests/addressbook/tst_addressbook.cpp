@@ -1,0 +1,353 @@
+#include "addressbook/addressbook.h"
+#include "addressbook/indexline.h"
+#include "addressfiles.h"
+#include "tests/storage/filesizelimit.h"
+
+#include <QDir>
+#include <QLoggingCategory>
+#include <QScopeGuard>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestAddressBook : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void loadsTheLinesThatCount();
+    void anEmptyFolderIsAnEmptyBook();
+    void readsEntries();
+    void choosesTheFreeRecord_data();
+    void choosesTheFreeRecord();
+    void aFullBookTakesTheRecordBehindIt();
+    void savesANewEntry();
+    void savesAChangedEntryOverItsBytesOnly();
+    void deletesAnEntry();
+    void keepsTheLineOfANameTooLong_data();
+    void keepsTheLineOfANameTooLong();
+    void opensWhatALineLeadsTo_data();
+    void opensWhatALineLeadsTo();
+    void anOutgrownNameCanBeShortenedAgain();
+    void touchesNothingOutsideItsRecords_data();
+    void touchesNothingOutsideItsRecords();
+    void findsItsFilesUnderAnySpelling();
+    void visitsLiveEntries();
+    void leavesNoNameWithoutAnEntry();
+    void survivesFoldersInPlaceOfFiles();
+    void survivesFilesCutAnywhere();
+
+private:
+    AddressBook book() const { return AddressBook(m_files->folder()); }
+    void put(const QByteArray &entries, const QByteArray &lines) const
+    {
+        m_files->put(u"Addbk1.Fil"_s, entries);
+        m_files->put(u"Addbk2.Fil"_s, lines);
+    }
+    QByteArray entries() const { return m_files->bytes(u"Addbk1.Fil"_s); }
+    QByteArray lines() const { return m_files->bytes(u"Addbk2.Fil"_s); }
+
+    std::unique_ptr<AddressFiles> m_files;
+};
+
+namespace {
+
+AddressEntry anneLind()
+{
+    AddressEntry entry;
+    entry[LastName] = u"Lind"_s;
+    entry[FirstName] = u"Anne"_s;
+    entry[City] = u"Ashford"_s;
+    return entry;
+}
+
+const QByteArray lindBytes = entryBytes({"Lind", "Anne", "", "", "", "Ashford"});
+const QByteArray first724(724, '\0');
+const QByteArray first60(60, '\0');
+
+QStringList linesOf(const NameList &names)
+{
+    QStringList lines;
+    for (int i = 0; i < names.count(); ++i)
+        lines << names.line(i);
+    return lines;
+}
+
+} // namespace
+
+void TestAddressBook::init()
+{
+    m_files = std::make_unique<AddressFiles>();
+}
+
+void TestAddressBook::loadsTheLinesThatCount()
+{
+    m_files->put(u"Addbk2.Fil"_s,
+                 lineBytes("never a name") + neverWritten(60) + lineBytes(lineOf("M\xFCller, Karl", 3)) +
+                     lineBytes("#####" + QByteArray(40, ' ')) + neverWritten(60) + lineBytes("####anything") +
+                     lineBytes("a line of its own") + lineBytes(lineOf("Lind, Anne", 8)).first(52));
+    const NameList names = book().loadNames();
+    QCOMPARE(linesOf(names),
+             (QStringList{QString(), u"Müller, Karl                                   3"_s,
+                          u"a line of its own"_s, u"Lind, Anne                                     8"_s}));
+    QCOMPARE(names.countCaption(), u" 4 - Entries "_s);
+}
+
+void TestAddressBook::anEmptyFolderIsAnEmptyBook()
+{
+    QCOMPARE(book().loadNames().countCaption(), u" 0 - Entries "_s);
+    QVERIFY(QFile::exists(m_files->path(u"Addbk2.Fil"_s)));
+    QCOMPARE(book().nextFreeRecord(), 2);
+    QVERIFY(book().read(2).isEmpty());
+}
+
+void TestAddressBook::readsEntries()
+{
+    put(first724 + lindBytes + neverWritten(724), {});
+    QCOMPARE(book().read(2)[City], u"Ashford"_s);
+    QCOMPARE(book().read(2).picture, noPicture);
+    for (const int record : {-1, 0, 1, 3, 4, 50002, std::numeric_limits<int>::max()})
+        QVERIFY(book().read(record).isEmpty());
+}
+
+void TestAddressBook::choosesTheFreeRecord_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("record");
+    QTest::newRow("empty file") << QByteArray() << 2;
+    QTest::newRow("only the unused record") << first724 << 2;
+    QTest::newRow("behind the last") << first724 + lindBytes << 3;
+    QTest::newRow("deleted") << first724 + lindBytes + entryBytes({"*****"}) + lindBytes << 3;
+    QTest::newRow("four asterisks do") << first724 + entryBytes({"****Lind"}) << 2;
+    QTest::newRow("three do not") << first724 + entryBytes({"*** Lind"}) << 3;
+    QTest::newRow("never written") << first724 + lindBytes + neverWritten(724) + lindBytes << 3;
+    QTest::newRow("a name of blanks is taken") << first724 + entryBytes({""}) << 3;
+    QTest::newRow("a name of 40 characters counts as free")
+        << first724 + entryBytes({QByteArray(40, 'a')}) << 2;
+    QTest::newRow("39 characters are taken") << first724 + entryBytes({QByteArray(39, 'a')}) << 3;
+    QTest::newRow("39 characters behind a blank are taken")
+        << first724 + entryBytes({' ' + QByteArray(39, 'a')}) << 3;
+    QTest::newRow("cut behind the last name") << first724 + lindBytes.first(40) << 3;
+    QTest::newRow("cut within the last name") << first724 + lindBytes.first(39) << 2;
+    QTest::newRow("first record cut") << QByteArray("abc") << 2;
+}
+
+void TestAddressBook::choosesTheFreeRecord()
+{
+    QFETCH(QByteArray, content);
+    m_files->put(u"Addbk1.Fil"_s, content);
+    QTEST(book().nextFreeRecord(), "record");
+}
+
+void TestAddressBook::aFullBookTakesTheRecordBehindIt()
+{
+    m_files->put(u"Addbk1.Fil"_s, first724 + lindBytes.repeated(49999));
+    QCOMPARE(book().nextFreeRecord(), 50001);
+    const AddressBook::SaveResult result = book().saveNew(anneLind());
+    QCOMPARE(result.record, 50001);
+    QCOMPARE(entries().size(), 50001 * 724);
+    QCOMPARE(book().nextFreeRecord(), 50001);
+}
+
+void TestAddressBook::savesANewEntry()
+{
+    put(first724 + entryBytes({"*****"}, "") + entryBytes({"Quill"}),
+        first60 + lineBytes("#####" + QByteArray(40, ' ')) + lineBytes(lineOf("Quill,", 3)));
+    const QByteArray linesBefore = lines();
+
+    const AddressBook::SaveResult result = book().saveNew(anneLind());
+    QCOMPARE(result.record, 2);
+    QCOMPARE(result.line, u"Lind, Anne                                     2"_s);
+    QVERIFY(result.isComplete());
+    QCOMPARE(entries(), first724 + lindBytes + entryBytes({"Quill"}));
+    QByteArray expected = linesBefore;
+    expected.replace(60, 50, QByteArray("\x30\0Lind, Anne                                     2", 50));
+    QCOMPARE(lines(), expected);
+}
+
+void TestAddressBook::savesAChangedEntryOverItsBytesOnly()
+{
+    put(first724 + entryBytes({"Lind", "Anna"}, "C:\\a.jpg") + entryBytes({"Quill"}),
+        first60 + lineBytes(lineOf("Lind, Anna", 2)) + lineBytes(lineOf("Quill,", 3)));
+    AddressEntry entry = anneLind();
+    entry.picture = u"**"_s;
+    QVERIFY(book().saveChanged(2, entry).isComplete());
+    QCOMPARE(entries(), first724 + lindBytes + entryBytes({"Quill"}));
+    QCOMPARE(lines(), first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes(lineOf("Quill,", 3)));
+}
+
+void TestAddressBook::deletesAnEntry()
+{
+    put(first724 + lindBytes + entryBytes({"Quill"}),
+        first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes(lineOf("Quill,", 3)));
+    QVERIFY(book().remove(2));
+    QCOMPARE(entries(), first724 + padded("*****", 724) + entryBytes({"Quill"}));
+    // What the shorter text leaves of the old one keeps its bytes.
+    QCOMPARE(lines(), first60 + QByteArray("\x2D\0", 2) + "#####" + QByteArray(40, ' ') + "  2" +
+                          QByteArray(10, 'x') + lineBytes(lineOf("Quill,", 3)));
+    QCOMPARE(book().loadNames().count(), 1);
+    QCOMPARE(book().nextFreeRecord(), 2);
+}
+
+void TestAddressBook::keepsTheLineOfANameTooLong_data()
+{
+    QTest::addColumn<int>("firstNameLength");
+    QTest::addColumn<bool>("isWritten");
+    QTest::newRow("58 characters") << 30 << true;
+    QTest::newRow("59 characters") << 31 << false;
+}
+
+void TestAddressBook::keepsTheLineOfANameTooLong()
+{
+    QFETCH(int, firstNameLength);
+    QFETCH(bool, isWritten);
+    put(first724 + lindBytes, first60 + lineBytes(lineOf("Lind, Anne", 2)));
+    AddressEntry entry = anneLind();
+    entry[LastName] = QString(20, u'a');
+    entry[FirstName] = QString(firstNameLength, u'b');
+    const AddressBook::SaveResult result = book().saveChanged(2, entry);
+    QVERIFY(result.isEntryWritten);
+    QCOMPARE(result.isLineWritten, isWritten);
+    QCOMPARE(result.isLineTooLong, !isWritten);
+    QCOMPARE(result.line, QString(20, u'a') + u", " + QString(firstNameLength, u'b') + u"     2");
+    QCOMPARE(lines().mid(60, 12) == QByteArray("\x30\0Lind, Anne", 12), !isWritten);
+    QCOMPARE(entries().mid(724, 20), QByteArray(20, 'a'));
+}
+
+void TestAddressBook::opensWhatALineLeadsTo_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("record");
+    QTest::addColumn<QString>("lastName");
+    QTest::addColumn<bool>("mayChange");
+    QTest::newRow("its entry") << IndexLine::make(u"Lind", u"Anne", 2) << 2 << u"Lind"_s << true;
+    QTest::newRow("no number") << u"Lind, Anne"_s << 0 << QString() << false;
+    QTest::newRow("another entry") << IndexLine::make(u"Featherstone-Brookfield", u"Louis Vera Xenia 2nd", 21)
+                                   << 2 << u"Lind"_s << false;
+    QTest::newRow("a deleted entry") << IndexLine::make(u"Quill", u"David", 3) << 3 << u"*****"_s << false;
+    QTest::newRow("no entry") << IndexLine::make(u"Quill", u"David", 9) << 9 << QString() << false;
+    QTest::newRow("no record") << IndexLine::make(u"", u"", 99999) << 99999 << QString() << false;
+    QTest::newRow("the unused record") << IndexLine::make(u"", u"", 1) << 1 << QString() << false;
+}
+
+void TestAddressBook::opensWhatALineLeadsTo()
+{
+    QFETCH(QString, line);
+    put(first724 + lindBytes + entryBytes({"*****"}), {});
+    const AddressBook::Found found = book().open(line);
+    QTEST(found.record, "record");
+    QTEST(found.entry[LastName], "lastName");
+    QTEST(found.mayChange, "mayChange");
+}
+
+void TestAddressBook::anOutgrownNameCanBeShortenedAgain()
+{
+    put(first724 + lindBytes, first60 + lineBytes(lineOf("Lind, Anne", 2)));
+    AddressEntry entry = anneLind();
+    entry[LastName] = QString(39, u'b');
+    entry[FirstName] = QString(40, u'a');
+    QVERIFY(book().saveChanged(2, entry).isLineTooLong);
+    // The list still bears the old name; it stands in the entry's own record, so it is no other's.
+    QVERIFY(book().open(u"Lind, Anne                                     2").mayChange);
+    QVERIFY(!book().open(u"Lind, Anna                                     2").mayChange);
+    QVERIFY(book().saveChanged(2, anneLind()).isComplete());
+    QCOMPARE(entries(), first724 + lindBytes);
+}
+
+void TestAddressBook::touchesNothingOutsideItsRecords_data()
+{
+    QTest::addColumn<int>("record");
+    for (const int record : {-1, 0, 1, 50002, std::numeric_limits<int>::max()})
+        QTest::addRow("%d", record) << record;
+}
+
+void TestAddressBook::touchesNothingOutsideItsRecords()
+{
+    QFETCH(int, record);
+    put(first724 + lindBytes, first60 + lineBytes(lineOf("Lind, Anne", 2)));
+    const auto before = std::pair(entries(), lines());
+    QCOMPARE(book().saveChanged(record, anneLind()).record, 0);
+    QVERIFY(!book().remove(record));
+    QCOMPARE(std::pair(entries(), lines()), before);
+}
+
+void TestAddressBook::findsItsFilesUnderAnySpelling()
+{
+    m_files->put(u"ADDBK1.FIL"_s, first724);
+    m_files->put(u"addbk2.fil"_s, first60);
+    QVERIFY(book().saveNew(anneLind()).isComplete());
+    QCOMPARE(m_files->bytes(u"ADDBK1.FIL"_s), first724 + lindBytes);
+    QCOMPARE(book().loadNames().count(), 1);
+    QCOMPARE(QDir(m_files->path({})).entryList(QDir::Files).size(), 2);
+}
+
+void TestAddressBook::visitsLiveEntries()
+{
+    const QByteArray longName(45, 'b');
+    put(first724 + lindBytes + entryBytes({"*****"}) + neverWritten(724) + entryBytes({"Quill"}) +
+            entryBytes({longName.first(40), "x"}) + entryBytes({"unlisted"}) +
+            entryBytes({"behind the index"}),
+        first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes("deleted entry, line left over") +
+            lineBytes("line without entry") + lineBytes("#####") + lineBytes(longName + ", x     6") +
+            neverWritten(60));
+    QList<int> visited;
+    book().forEachLive([&visited](int record, const AddressEntry &) {
+        visited << record;
+        return true;
+    });
+    QCOMPARE(visited, (QList<int>{2, 6}));
+    visited.clear();
+    book().forEachLive([&visited](int record, const AddressEntry &) {
+        visited << record;
+        return false;
+    });
+    QCOMPARE(visited, QList<int>{2});
+}
+
+void TestAddressBook::leavesNoNameWithoutAnEntry()
+{
+#ifdef Q_OS_UNIX
+    put(first724, first60);
+    const FileSizeLimit limit(1000);
+    expectWarning("Cannot write record 2");
+    const AddressBook::SaveResult result = book().saveNew(anneLind());
+    QCOMPARE(result.record, 2);
+    QVERIFY(!result.isEntryWritten);
+    QVERIFY(!result.isLineWritten);
+    QCOMPARE(lines(), first60);
+#else
+    QSKIP("no limit of file sizes here");
+#endif
+}
+
+void TestAddressBook::survivesFoldersInPlaceOfFiles()
+{
+    QVERIFY(QDir(m_files->path({})).mkdir(u"Addbk1.Fil"_s));
+    QVERIFY(QDir(m_files->path({})).mkdir(u"Addbk2.Fil"_s));
+    QLoggingCategory::setFilterRules(u"*.warning=false"_s);
+    const auto speakAgain = qScopeGuard([] { QLoggingCategory::setFilterRules({}); });
+    QCOMPARE(book().loadNames().count(), 0);
+    QVERIFY(book().read(2).isEmpty());
+    QVERIFY(!book().saveNew(anneLind()).isEntryWritten);
+    QVERIFY(!book().saveChanged(2, anneLind()).isEntryWritten);
+    QVERIFY(!book().remove(2));
+}
+
+void TestAddressBook::survivesFilesCutAnywhere()
+{
+    const QByteArray allEntries = first724 + lindBytes + lindBytes;
+    const QByteArray allLines =
+        first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes(lineOf("Lind, Anne", 3));
+    for (qsizetype length = 0; length <= allLines.size(); ++length) {
+        put(allEntries.first(length * 12), allLines.first(length));
+        const NameList names = book().loadNames();
+        QVERIFY(names.count() <= 2);
+        for (int i = 0; i < names.count(); ++i)
+            QVERIFY(!book().open(names.line(i)).entry.hasPicture());
+        book().forEachLive([](int, const AddressEntry &entry) { return !entry[LastName].isEmpty(); });
+    }
+}
+
+QTEST_GUILESS_MAIN(TestAddressBook)
+#include "tst_addressbook.moc"

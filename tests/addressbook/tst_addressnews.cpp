@@ -1,0 +1,137 @@
+#include "addressbook/addressnews.h"
+#include "addressfiles.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestAddressNews : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tellsWhatIsNear_data();
+    void tellsWhatIsNear();
+    void readsDatesInTheirStyle();
+    void saysNothingOfAnEmptyFolder();
+    void passesOverWhoIsNotListed();
+    void notesTheDaysOfARange();
+
+private:
+    void put(const QList<QByteArray> &entries) const;
+
+    AddressFiles m_files;
+};
+
+namespace {
+
+const QDate saturday(2026, 11, 21);
+
+QByteArray person(const QByteArray &first, const QByteArray &last, const QByteArray &birth,
+                  const QByteArray &anniversary = {})
+{
+    return entryBytes({last, first, birth, "", "", "", "", "", "", "", "", "", anniversary});
+}
+
+} // namespace
+
+void TestAddressNews::put(const QList<QByteArray> &entries) const
+{
+    QByteArray lines = neverWritten(60);
+    for (qsizetype i = 0; i < entries.size(); ++i)
+        lines += lineBytes(lineOf("a name", int(i) + 2));
+    m_files.put(u"Addbk1.Fil"_s, neverWritten(724) + entries.join());
+    m_files.put(u"Addbk2.Fil"_s, lines);
+}
+
+void TestAddressNews::tellsWhatIsNear_data()
+{
+    QTest::addColumn<QList<QByteArray>>("entries");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("sentence");
+    using List = QList<QByteArray>;
+    QTest::newRow("a birthday this week")
+        << List{person("Anne", "Lind", "Nov-24-1978")} << u"Anne Lind: birthday Tuesday"_s
+        << u"Anne Lind has a birthday on Tuesday."_s;
+    QTest::newRow("a birthday today") << List{person("Anne", "Lind", "Nov-21-1978")}
+                                      << u"Anne Lind: birthday today"_s << u"Anne Lind turns 48 today."_s;
+    QTest::newRow("an anniversary today")
+        << List{person("Anne", "Lind", "", "Nov-21-2004")} << u"Anne Lind: anniversary today"_s
+        << u"Anne Lind has an anniversary today."_s;
+    QTest::newRow("several birthdays: the first is named")
+        << List{person("Anne", "Lind", "Nov-24-1978"), person("Karl", "Quill", "Nov-22-1944")}
+        << u"2 birthdays this week"_s << u"Karl Quill has a birthday on Sunday."_s;
+    QTest::newRow("both kinds") << List{person("Anne", "Lind", "Nov-27-1978", "Nov-25-2004")}
+                                << u"1 birthday, 1 anniversary this week"_s
+                                << u"Anne Lind has an anniversary on Wednesday."_s;
+    QTest::newRow("a week ahead bears a date")
+        << List{person("Anne", "Lind", "Nov-28-1978")} << u"Next birthday: Anne Lind, Nov 28"_s << QString();
+    QTest::newRow("the next of this month's")
+        << List{person("Anne", "Lind", "Dec-21-1978"), person("Karl", "Quill", "", "Dec-06-1944")}
+        << u"Next anniversary: Karl Quill, Dec 6"_s << QString();
+    QTest::newRow("31 days ahead") << List{person("Anne", "Lind", "Dec-22-1978")} << QString() << QString();
+    QTest::newRow("yesterday") << List{person("Anne", "Lind", "Nov-20-1978")} << QString() << QString();
+    QTest::newRow("born today") << List{person("Anne", "Lind", "Nov-21-2026")} << QString() << QString();
+    QTest::newRow("a wedding still to come")
+        << List{person("Anne", "Lind", "", "Nov-24-2027")} << QString() << QString();
+    QTest::newRow("no date at all") << List{person("Anne", "Lind", "in spring")} << QString() << QString();
+    QTest::newRow("only a last name") << List{person("", "Lind", "Nov-24-1978")}
+                                      << u"Lind: birthday Tuesday"_s << u"Lind has a birthday on Tuesday."_s;
+}
+
+void TestAddressNews::tellsWhatIsNear()
+{
+    QFETCH(QList<QByteArray>, entries);
+    QFETCH(QString, text);
+    put(entries);
+    const auto line = AddressNews::liveLine(m_files.folder(), DateStyle::Usa, saturday);
+    QCOMPARE(line.has_value(), !text.isEmpty());
+    QCOMPARE(line.value_or(LiveLine{}).text, text);
+    QTEST(line.value_or(LiveLine{}).sentence, "sentence");
+}
+
+void TestAddressNews::readsDatesInTheirStyle()
+{
+    put({person("Anne", "Lind", "06/12/1978")});
+    QVERIFY(!AddressNews::liveLine(m_files.folder(), DateStyle::Usa, saturday));
+    QCOMPARE(AddressNews::liveLine(m_files.folder(), DateStyle::Other, saturday)->text,
+             u"Next birthday: Anne Lind, 6 Dec"_s);
+}
+
+void TestAddressNews::saysNothingOfAnEmptyFolder()
+{
+    const AddressFiles empty;
+    QVERIFY(!AddressNews::liveLine(empty.folder(), DateStyle::Usa, saturday));
+    QVERIFY(!QFile::exists(empty.path(u"Addbk2.Fil"_s)));
+}
+
+void TestAddressNews::passesOverWhoIsNotListed()
+{
+    put({person("", "*****", "Nov-24-1978"), person("Anne", "Lind", "Nov-24-1978"), neverWritten(724)});
+    QByteArray lines = m_files.bytes(u"Addbk2.Fil"_s);
+    lines.replace(120, 7, QByteArray("\x2D\0#####", 7));
+    m_files.put(u"Addbk2.Fil"_s, lines);
+    QVERIFY(!AddressNews::liveLine(m_files.folder(), DateStyle::Usa, saturday));
+}
+
+void TestAddressNews::notesTheDaysOfARange()
+{
+    put({person("Anne", "Lind", "Nov-24-1978", "Nov-30-2025"), person("Leap", "Day", "Feb-29-2004"),
+         person("Karl", "Quill", "Nov-21-1944")});
+    const auto texts = [this](QDate from, QDate to) {
+        QStringList lines;
+        for (const DayNote &note : AddressNews::dayNotes(m_files.folder(), DateStyle::Usa, from, to))
+            lines << note.date.toString(Qt::ISODate) + u' ' + note.text;
+        return lines;
+    };
+    QCOMPARE(texts(saturday, QDate(2026, 11, 30)),
+             (QStringList{u"2026-11-21 Karl Quill turns 82"_s, u"2026-11-24 Anne Lind turns 48"_s,
+                          u"2026-11-30 Anne Lind: anniversary"_s}));
+    QCOMPARE(texts(QDate(2027, 2, 28), QDate(2028, 2, 29)).filter(u"Leap"_s),
+             (QStringList{u"2027-02-28 Leap Day turns 23"_s, u"2028-02-29 Leap Day turns 24"_s}));
+    QCOMPARE(texts(saturday, QDate(2026, 11, 20)), QStringList());
+    QCOMPARE(texts({}, saturday), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestAddressNews)
+#include "tst_addressnews.moc"

@@ -1,0 +1,180 @@
+#include "addressbook/addresspages.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestAddressPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void printsAnEntry();
+    void printsTheWorksheet();
+    void sharesASheetOutEvenly_data();
+    void sharesASheetOutEvenly();
+    void keepsCardsApart_data();
+    void keepsCardsApart();
+    void printsCardsWithoutEntries();
+    void copiesLabelsWithValues();
+
+private:
+    AddressEntry m_anne;
+};
+
+namespace {
+
+const QDate printedOn(2026, 11, 21);
+
+AddressPages::Source times(int count, const AddressEntry &entry)
+{
+    return [count, entry](const auto &visit) {
+        for (int i = 0; i < count && visit(entry); ++i) {}
+    };
+}
+
+template <typename Item>
+std::vector<Item> itemsOf(const Page &page)
+{
+    std::vector<Item> items;
+    for (const Page::Item &item : page.items()) {
+        if (const auto *found = std::get_if<Item>(&item))
+            items.push_back(*found);
+    }
+    return items;
+}
+
+} // namespace
+
+void TestAddressPages::init()
+{
+    m_anne.texts = {u"Lind"_s,       u"Anne"_s,     u"Nov-24-1978"_s, u"14 Orchard Lane"_s,
+                    u"Upper Flat"_s, u"Ashford"_s,  u"Northland"_s,   u"75944"_s,
+                    u"555-0142"_s,   u"555-0187"_s, u"555-0190"_s,    u"a@example.org"_s,
+                    u"Jun-12-2004"_s};
+    m_anne.picture = u"C:\\Pictures\\anne.jpg"_s;
+}
+
+void TestAddressPages::printsAnEntry()
+{
+    const Page page = AddressPages::entryPage(m_anne, u"/home/anne.jpg"_s, DateStyle::Usa, printedOn);
+    const QStringList lines = page.toText().split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines,
+             (QStringList{u"Information For Anne Lind"_s, u"Date of Birth: Nov-24-1978"_s,
+                          u"Address:  14 Orchard Lane, Upper Flat, Ashford, Northland, 75944"_s,
+                          u"Home Phone: 555-0142"_s, u"Mobile Phone: 555-0187"_s, u"Fax:     555-0190"_s,
+                          u"Email:  a@example.org"_s, u"Anniversary Date:  Jun-12-2004"_s, u"Quillery"_s,
+                          u"Printed on 11/21/2026"_s}));
+    QCOMPARE(itemsOf<PageItem::Picture>(page).at(0).path, u"/home/anne.jpg"_s);
+    QVERIFY(
+        itemsOf<PageItem::Picture>(AddressPages::entryPage(m_anne, {}, DateStyle::Usa, printedOn)).empty());
+}
+
+void TestAddressPages::printsTheWorksheet()
+{
+    const Page page = AddressPages::worksheet(DateStyle::Other, printedOn);
+    const QStringList lines = page.toText().split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines,
+             (QStringList{u"Family/Friends Data Worksheet"_s, u"Last Name:"_s, u"First Name:"_s,
+                          u"Date of  Birth:"_s, u"Home information"_s, u"Address: "_s, u"City: "_s,
+                          u"State: "_s, u"Zip Code: "_s, u"Home Phone: "_s, u"Mobile Phone:"_s, u"Fax: "_s,
+                          u"Email: "_s, u"Anniversary Date: "_s, u"Other Important Information and Dates"_s,
+                          u"Quillery"_s, u"Printed on 21/11/2026"_s}));
+}
+
+void TestAddressPages::sharesASheetOutEvenly_data()
+{
+    QTest::addColumn<int>("perSheet");
+    QTest::addColumn<int>("entries");
+    QTest::addColumn<int>("breaks");
+    QTest::newRow("two, even") << 2 << 4 << 1;
+    QTest::newRow("two, odd") << 2 << 5 << 2;
+    QTest::newRow("four, one sheet") << 4 << 4 << 0;
+    QTest::newRow("four, one more") << 4 << 5 << 1;
+    QTest::newRow("eight") << 8 << 40 << 4;
+}
+
+void TestAddressPages::sharesASheetOutEvenly()
+{
+    QFETCH(int, perSheet);
+    QFETCH(int, entries);
+    QStringList sought;
+    const auto find = [&sought](const QString &stored) {
+        sought << stored;
+        return u"/found.jpg"_s;
+    };
+    const Page page = AddressPages::cards(AddressPages::PerSheet(perSheet), {}, times(entries, m_anne), find,
+                                          DateStyle::Usa, printedOn);
+    QTEST(int(itemsOf<PageItem::Break>(page).size()), "breaks");
+    QCOMPARE(int(itemsOf<PageItem::PlacedPicture>(page).size()), entries);
+    QCOMPARE(sought, QStringList(entries, m_anne.picture));
+    QVERIFY(page.isClosed());
+}
+
+void TestAddressPages::keepsCardsApart_data()
+{
+    QTest::addColumn<int>("perSheet");
+    QTest::addColumn<QSizeF>("paper");
+    QTest::addColumn<PageSetup::Orientation>("orientation");
+    for (const int perSheet : {2, 4, 8}) {
+        QTest::addRow("%d, letter portrait", perSheet) << perSheet << QSizeF(8.5, 11) << PageSetup::Portrait;
+        QTest::addRow("%d, letter landscape", perSheet)
+            << perSheet << QSizeF(8.5, 11) << PageSetup::Landscape;
+        QTest::addRow("%d, A4 portrait", perSheet) << perSheet << QSizeF(8.27, 11.69) << PageSetup::Portrait;
+        QTest::addRow("%d, A4 landscape", perSheet)
+            << perSheet << QSizeF(8.27, 11.69) << PageSetup::Landscape;
+    }
+}
+
+void TestAddressPages::keepsCardsApart()
+{
+    QFETCH(int, perSheet);
+    QFETCH(QSizeF, paper);
+    QFETCH(PageSetup::Orientation, orientation);
+    PageSetup setup;
+    setup.paper = paper;
+    setup.orientation = orientation;
+    const Page page = AddressPages::cards(
+        AddressPages::PerSheet(perSheet), setup, times(perSheet, m_anne),
+        [](const QString &stored) { return stored; }, DateStyle::Usa, printedOn);
+
+    QList<QRectF> places;
+    for (const auto &text : itemsOf<PageItem::PlacedText>(page))
+        places << text.place;
+    for (const auto &picture : itemsOf<PageItem::PlacedPicture>(page))
+        places << picture.place;
+    // Every text of every card has found room: the name and nine more.
+    QCOMPARE(places.size(), perSheet * 11);
+    const QRectF usable = QRectF({}, setup.sheet()).adjusted(0.49, 1.0, -0.49, -0.9);
+    for (qsizetype i = 0; i < places.size(); ++i) {
+        QVERIFY(usable.contains(places[i]));
+        QVERIFY(places[i].width() > 1.5 || places[i].height() > 1.2);
+        for (qsizetype j = i + 1; j < places.size(); ++j)
+            QVERIFY(!places[i].adjusted(0.001, 0.001, -0.001, -0.001).intersects(places[j]));
+    }
+}
+
+void TestAddressPages::printsCardsWithoutEntries()
+{
+    const Page page = AddressPages::cards(AddressPages::PerSheet::Four, {}, times(0, m_anne), {},
+                                          DateStyle::Usa, printedOn);
+    QVERIFY(page.isEmpty());
+    QCOMPARE(page.printedLine(), u"Printed on 11/21/2026"_s);
+}
+
+void TestAddressPages::copiesLabelsWithValues()
+{
+    m_anne[Address2].clear();
+    m_anne[Fax].clear();
+    QCOMPARE(AddressPages::clipboardText(m_anne),
+             u"Last Name: Lind\nFirst Name: Anne\nDate of Birth: Nov-24-1978\nAddress: 14 Orchard Lane\n"
+             u"City: Ashford\nState/Country: Northland\nPostal Zip/Code: 75944\nHome Phone: 555-0142\n"
+             u"Mobile Phone: 555-0187\nEmail Address: a@example.org\nAnniversary Date: Jun-12-2004"_s);
+    m_anne[Address2] = u"Upper Flat"_s;
+    QVERIFY(AddressPages::clipboardText(m_anne).contains(u"14 Orchard Lane\nUpper Flat\nCity:"_s));
+    QCOMPARE(AddressPages::clipboardText({}), QString());
+}
+
+QTEST_GUILESS_MAIN(TestAddressPages)
+#include "tst_addresspages.moc"

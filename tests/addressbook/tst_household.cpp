@@ -1,0 +1,244 @@
+#include "addressbook/addressbook.h"
+#include "addressbook/addressnews.h"
+#include "addressbook/indexline.h"
+#include "addressbook/picturefolder.h"
+#include "addressfiles.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The address book of a household that has been kept for years, against what a reader of it must see.
+class TestHousehold : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void listsTheNames();
+    void findsTheRecords();
+    void readsEveryEntry();
+    void searchesAsBefore_data();
+    void searchesAsBefore();
+    void namesTheNextRecord();
+    void locatesThePictures();
+    void tellsBirthdaysInBothStyles_data();
+    void tellsBirthdaysInBothStyles();
+    void keepsEveryOtherByteOnSaving();
+    void keepsEveryOtherByteOnDeleting();
+    void fillsTheGapWithANewEntry();
+    void changesNothingThroughAnAmbiguousLine();
+
+private:
+    AddressBook book() const { return AddressBook(*m_folder); }
+    QByteArray bytes(const QString &name) const { return contentOf(m_dir->filePath(name)); }
+
+    QJsonObject m_expected;
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<DataFolder> m_folder;
+};
+
+namespace {
+
+/// The keys of an entry in the file of expectations, in the order of the fields.
+constexpr std::array<QLatin1StringView, AddressFieldCount> entryKeys{
+    "last"_L1, "first"_L1,      "birth"_L1,        "address1"_L1, "address2"_L1, "city"_L1,       "state"_L1,
+    "zip"_L1,  "home_phone"_L1, "mobile_phone"_L1, "fax"_L1,      "email"_L1,    "anniversary"_L1};
+
+AddressEntry entryOf(const QJsonObject &expected)
+{
+    AddressEntry entry;
+    for (std::size_t i = 0; i < entryKeys.size(); ++i)
+        entry.texts[i] = expected[entryKeys[i]].toString();
+    entry.picture = expected["picture"_L1].toString();
+    return entry;
+}
+
+QString original(const QString &name)
+{
+    return u"" QUILLERY_TEST_DATA "/household/data/"_s + name;
+}
+
+QByteArray replaced(QByteArray whole, qsizetype at, const QByteArray &part)
+{
+    return whole.replace(at, part.size(), part);
+}
+
+} // namespace
+
+void TestHousehold::initTestCase()
+{
+    const QByteArray json = contentOf(u"" QUILLERY_TEST_DATA "/household/expected.json"_s);
+    m_expected = QJsonDocument::fromJson(json)["address_book"_L1].toObject();
+    QVERIFY(!m_expected.isEmpty());
+}
+
+void TestHousehold::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    m_folder = std::make_unique<DataFolder>(m_dir->path());
+    for (const QString &name : {u"Addbk1.Fil"_s, u"Addbk2.Fil"_s, u"GColor4.Fil"_s})
+        QVERIFY(QFile::copy(original(name), m_dir->filePath(name)));
+}
+
+void TestHousehold::listsTheNames()
+{
+    const NameList names = book().loadNames();
+    QStringList lines;
+    for (int i = 0; i < names.count(); ++i)
+        lines << names.line(i);
+    QCOMPARE(lines, m_expected["name_list"_L1].toVariant().toStringList());
+    QCOMPARE(names.countCaption(), m_expected["count_caption"_L1].toString());
+}
+
+void TestHousehold::findsTheRecords()
+{
+    const NameList names = book().loadNames();
+    QVariantList records;
+    for (int i = 0; i < names.count(); ++i)
+        records << names.recordAt(i);
+    QCOMPARE(QJsonArray::fromVariantList(records), m_expected["record_numbers"_L1].toArray());
+    // The name of each row of the viewer is the name of its line.
+    const QJsonArray rows = m_expected["viewer"_L1]["State"_L1].toArray();
+    for (int i = 0; i < names.count(); ++i)
+        QCOMPARE(names.name(i), rows[i][0].toString());
+}
+
+void TestHousehold::readsEveryEntry()
+{
+    const QJsonObject entries = m_expected["entries"_L1].toObject();
+    QVERIFY(entries.size() > 30);
+    for (auto it = entries.begin(); it != entries.end(); ++it)
+        QVERIFY2(book().read(it.key().toInt()) == entryOf(it->toObject()), qPrintable(it.key()));
+}
+
+void TestHousehold::searchesAsBefore_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("line");
+    for (const auto key : {"name_search_selects"_L1, "name_search_first_match"_L1}) {
+        const QJsonObject searches = m_expected[key].toObject();
+        for (auto it = searches.begin(); it != searches.end(); ++it)
+            QTest::newRow(qPrintable(key + u' ' + it.key())) << it.key() << it->toString();
+    }
+}
+
+void TestHousehold::searchesAsBefore()
+{
+    QFETCH(QString, text);
+    const NameList names = book().loadNames();
+    QTEST(names.line(names.find(text)), "line");
+}
+
+void TestHousehold::namesTheNextRecord()
+{
+    QCOMPARE(book().nextFreeRecord(), m_expected["next_new_record"_L1].toInt());
+}
+
+void TestHousehold::locatesThePictures()
+{
+    QVERIFY(QDir(m_dir->path()).mkdir(u"Pictures"_s));
+    for (const QString &name : QDir(original(u"Pictures"_s)).entryList(QDir::Files))
+        QVERIFY(makeFile(m_dir->filePath(u"Pictures/"_s + name), "a"));
+    const PictureFolder pictures(*m_folder);
+    for (const QJsonValue &value : m_expected["pictures"_L1].toArray())
+        QCOMPARE(!pictures.locate(value["path"_L1].toString()).isEmpty(), value["file_present"_L1].toBool());
+    QCOMPARE(pictures.lastUsed(), u"C:\\QUILLERY\\Pictures\\"_s);
+}
+
+void TestHousehold::tellsBirthdaysInBothStyles_data()
+{
+    QTest::addColumn<DateStyle>("style");
+    QTest::addColumn<QDate>("today");
+    QTest::addColumn<QString>("text");
+    const QDate march(2026, 3, 20), may(2026, 5, 30), november(2026, 11, 12), atItsEnd(2026, 11, 26);
+    QTest::newRow("one") << DateStyle::Usa << march << u"Anne Miller: birthday Saturday"_s;
+    QTest::newRow("named months read alike")
+        << DateStyle::Other << march << u"Anne Miller: birthday Saturday"_s;
+    QTest::newRow("a date in numbers") << DateStyle::Usa << november << u"2 birthdays this week"_s;
+    QTest::newRow("its numbers fit only month first")
+        << DateStyle::Other << november << u"2 birthdays this week"_s;
+    QTest::newRow("both kinds") << DateStyle::Usa << atItsEnd << u"2 birthdays, 1 anniversary this week"_s;
+    QTest::newRow("one whose line leads elsewhere")
+        << DateStyle::Usa << may << u"Next birthday: Louis Vera Xenia 2nd Featherstone-Brookfield, Jun 14"_s;
+    QTest::newRow("day first") << DateStyle::Other << may
+                               << u"Next birthday: Louis Vera Xenia 2nd Featherstone-Brookfield, 14 Jun"_s;
+}
+
+void TestHousehold::tellsBirthdaysInBothStyles()
+{
+    QFETCH(DateStyle, style);
+    QFETCH(QDate, today);
+    const auto line = AddressNews::liveLine(*m_folder, style, today);
+    QVERIFY(line);
+    QTEST(line->text, "text");
+}
+
+void TestHousehold::keepsEveryOtherByteOnSaving()
+{
+    const QByteArray entries = bytes(u"Addbk1.Fil"_s);
+    const QByteArray lines = bytes(u"Addbk2.Fil"_s);
+    AddressEntry karl = book().read(14);
+    karl[HomePhone] = u"(440) 555-0999"_s;
+    QVERIFY(book().saveChanged(14, karl).isComplete());
+    QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 13 * 724 + 320, "(440) 555-0999"));
+    QCOMPARE(bytes(u"Addbk2.Fil"_s), lines);
+
+    // The last record of the index stays as short as it is.
+    AddressEntry elisabeth = book().read(49);
+    elisabeth[FirstName] = u"Eliza"_s;
+    QVERIFY(book().saveChanged(49, elisabeth).isComplete());
+    QCOMPARE(bytes(u"Addbk2.Fil"_s), replaced(lines, 48 * 60 + 2, "Calloway, Eliza    "));
+}
+
+void TestHousehold::keepsEveryOtherByteOnDeleting()
+{
+    const QByteArray entries = bytes(u"Addbk1.Fil"_s);
+    const QByteArray lines = bytes(u"Addbk2.Fil"_s);
+    QVERIFY(book().remove(8));
+    QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 7 * 724, padded("*****", 724)));
+    QCOMPARE(bytes(u"Addbk2.Fil"_s),
+             replaced(lines, 7 * 60, QByteArray("\x2D\0#####", 7) + QByteArray(40, ' ')));
+    QCOMPARE(book().loadNames().countCaption(), u" 39 - Entries "_s);
+    QCOMPARE(book().nextFreeRecord(), 8);
+}
+
+void TestHousehold::fillsTheGapWithANewEntry()
+{
+    const QByteArray entries = bytes(u"Addbk1.Fil"_s);
+    const QByteArray lines = bytes(u"Addbk2.Fil"_s);
+    AddressEntry entry;
+    entry[LastName] = u"Åberg"_s;
+    entry[FirstName] = u"Zoë"_s;
+    QVERIFY(book().saveNew(entry).isComplete());
+    QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 23 * 724,
+                                              entryBytes({"\xC5"
+                                                          "berg",
+                                                          "Zo\xEB"})));
+    QCOMPARE(bytes(u"Addbk2.Fil"_s), replaced(lines, 23 * 60,
+                                              QByteArray("\x31\0", 2) + lineOf("\xC5"
+                                                                               "berg, Zo\xEB",
+                                                                               24)));
+    QCOMPARE(book().nextFreeRecord(), 28);
+}
+
+void TestHousehold::changesNothingThroughAnAmbiguousLine()
+{
+    const NameList names = book().loadNames();
+    QStringList locked;
+    for (int i = 0; i < names.count(); ++i) {
+        if (!book().open(names.line(i)).mayChange)
+            locked << names.name(i);
+    }
+    QCOMPARE(locked, (QStringList{u"Lindqvist-Rosenbaum, Anne Marta Irene Xenia"_s,
+                                  u"Featherstone-Brookfield, Louis Vera Xenia 2nd"_s,
+                                  u"Lindqvist-Rosenbaum, Walter Nils Yvonne Isidor Bert"_s}));
+}
+
+QTEST_GUILESS_MAIN(TestHousehold)
+#include "tst_household.moc"
