@@ -122,12 +122,12 @@ QPalette Theme::panelPalette(const QColor &fill, const QColor &ink) const
 QString Theme::styleSheet() const
 {
     QString sheet = uR"(
-QMenuBar { background: @bar; padding: 2px 14px; border: 0; }
-QMenuBar::item { background: transparent; padding: 6px 10px; margin: 0 3px; border-radius: 6px; }
+QMenuBar { background: @bar; padding: 2px 6px; border: 0; }
+QMenuBar::item { background: transparent; padding: 6px 10px; margin: 0 2px; border-radius: 6px; }
 QMenuBar::item:selected { background: @soft; }
 QMenuBar::item:pressed { background: @pressed; }
 QMenu { background: @panel; border: 1px solid @edge; padding: 5px; }
-QMenu::item { padding: 6px 28px 6px 28px; border-radius: 5px; }
+QMenu::item { padding: 6px 28px 6px 12px; border-radius: 5px; }
 QMenu::item:selected { background: @soft; color: @text; }
 QMenu::item:disabled { color: @disabledText; }
 QMenu::indicator { width: 16px; height: 16px; left: 7px; }
@@ -135,15 +135,16 @@ QMenu::separator { height: 1px; background: @line; margin: 5px 8px; }
 QStatusBar { background: @bar; border-top: 1px solid @line; min-height: 32px; }
 QStatusBar::item { border: 0; }
 QToolTip { background: @panel; color: @text; border: 1px solid @edge; padding: 4px 7px; }
-QLineEdit, QPlainTextEdit, QTextEdit, QAbstractSpinBox {
+QLineEdit, QPlainTextEdit, QTextEdit {
     background: @field; border: 1px solid @edge; border-radius: 6px; padding: 5px 8px; min-height: 22px;
     selection-background-color: @accent; selection-color: @onAccent; }
-QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus, QAbstractSpinBox:focus {
+QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus {
     background: @mark; border: 2px solid @accent; padding: 4px 7px; }
 QLineEdit:read-only { background: @locked; border: 1px solid @line; padding: 5px 8px; }
 QLineEdit:read-only:focus { background: @locked; border: 2px solid @accent; padding: 4px 7px; }
-QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled, QAbstractSpinBox:disabled {
+QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled {
     background: @locked; border: 1px solid @line; padding: 5px 8px; }
+QAbstractSpinBox QLineEdit, QComboBox QLineEdit { background: transparent; border: 0; padding: 0; min-height: 0; }
 QAbstractItemView QLineEdit { border-radius: 0; padding: 0 6px; min-height: 0; }
 QListView, QTreeView, QTableView, QTextBrowser {
     background: @field; alternate-background-color: @alternate; border: 1px solid @line; border-radius: 8px;
@@ -156,6 +157,7 @@ QHeaderView { background: @head; border: 0; }
 QHeaderView::section { background: @head; border: 0; border-bottom: 1px solid @line; padding: 5px 8px; }
 QTableCornerButton::section { background: @head; border: 0; }
 QToolButton { background: transparent; border: 2px solid transparent; border-radius: 6px; padding: 0 9px; }
+QToolButton[tall="true"] { padding: 0 2px; }
 QToolButton:hover { background: @soft; }
 QToolButton:pressed, QToolButton:checked { background: @pressed; }
 QToolButton:focus { border-color: @accent; }
@@ -211,6 +213,8 @@ void Theme::apply(QApplication &application)
         return;
     }
     const Theme &theme = of(platform);
+    // A panel hands its colours on to what stands on it, which a style sheet would otherwise stop.
+    QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     QApplication::setStyle(new HouseStyle(theme));
     QApplication::setPalette(theme.palette());
     application.setStyleSheet(theme.styleSheet());
@@ -258,7 +262,7 @@ QFont TypeScale::date()
 
 double contrast(const QColor &one, const QColor &other)
 {
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)}); // by value: the two are temporaries
     return (lighter + 0.05) / (darker + 0.05);
 }
 
