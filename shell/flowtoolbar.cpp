@@ -21,6 +21,7 @@ constexpr int gap = 4;
 constexpr QMargins barMargins(9, 4, 9, 5);
 constexpr QMargins tallBarMargins(4, 4, 4, 4);
 constexpr int separatorWidth = 17;
+constexpr int tallPadding = 4;
 
 /// A thin line between two groups, upright in a lying bar.
 class Separator final : public QWidget
@@ -104,7 +105,7 @@ public:
     {
         QSize size;
         const bool lying = m_orientation == Qt::Horizontal;
-        const int gaps = gap * std::max(0, count() - 1);
+        const int gaps = (lying ? gapWidth() : gap) * std::max(0, count() - 1);
         for (const QLayoutItem *item : m_items) {
             const QSize hint = item->sizeHint();
             size = lying ? QSize(size.width() + widthOf(item, 0), std::max(size.height(), hint.height()))
@@ -128,10 +129,14 @@ public:
 private:
     enum Action { Measure, Move };
 
-    static bool isButton(const QLayoutItem *item)
+    static const QToolButton *buttonOf(const QLayoutItem *item)
     {
-        return qobject_cast<QToolButton *>(const_cast<QLayoutItem *>(item)->widget());
+        return qobject_cast<const QToolButton *>(const_cast<QLayoutItem *>(item)->widget());
     }
+    static bool isButton(const QLayoutItem *item) { return buttonOf(item); }
+
+    /// Equal buttons stand close: each has room of its own.
+    int gapWidth() const { return m_maximumWidth > 0 ? 0 : gap; }
 
     /// With equal widths the widest button decides, and `room` for each, if there is more.
     int widthOf(const QLayoutItem *item, int room) const
@@ -140,8 +145,9 @@ private:
             return item->sizeHint().width();
         int widest = 0;
         for (const QLayoutItem *other : m_items)
-            if (isButton(other))
-                widest = std::max(widest, other->sizeHint().width());
+            if (const auto *button = buttonOf(other))
+                widest = std::max(widest,
+                                  button->fontMetrics().horizontalAdvance(button->text()) + 2 * tallPadding);
         return std::max(widest, std::min(room, m_maximumWidth));
     }
 
@@ -155,33 +161,61 @@ private:
             else
                 width -= item->sizeHint().width();
         }
-        return buttons > 0 ? (width - gap * (count() - 1)) / buttons : 0;
+        return buttons > 0 ? (width - gapWidth() * (count() - 1)) / buttons : 0;
     }
 
     /// The height that the items take within `rect`.
     int place(const QRect &rect, Action action) const
     {
         const QRect area = rect.marginsRemoved(contentsMargins());
-        const bool lying = m_orientation == Qt::Horizontal;
-        const int room = lying && m_maximumWidth > 0 ? roomForEach(area.width()) : 0;
-        int x = area.x(), y = area.y(), rowHeight = 0;
+        return (m_orientation == Qt::Horizontal ? placeRows(area, action) : placeColumn(area, action)) -
+               rect.y() + contentsMargins().bottom();
+    }
+
+    int placeColumn(const QRect &area, Action action) const
+    {
+        int y = area.y();
         for (QLayoutItem *item : m_items) {
-            const QSize size(lying ? widthOf(item, room) : area.width(), item->sizeHint().height());
-            if (lying && x > area.x() && x + size.width() > area.x() + area.width()) {
+            const QSize size(area.width(), item->sizeHint().height());
+            if (action == Move)
+                item->setGeometry(QRect(QPoint(area.x(), y), size));
+            y += size.height() + gap;
+        }
+        return y - gap;
+    }
+
+    /// A separator that would begin or end a row is not drawn.
+    int placeRows(const QRect &area, Action action) const
+    {
+        const int room = m_maximumWidth > 0 ? roomForEach(area.width()) : 0;
+        const int rowHeight = tallest();
+        int x = area.x(), y = area.y();
+        for (qsizetype i = 0; i < m_items.size(); ++i) {
+            QLayoutItem *item = m_items[i];
+            QSize size(widthOf(item, room), rowHeight);
+            int end = x + size.width();
+            if (!isButton(item) && i + 1 < m_items.size())
+                end += gapWidth() + widthOf(m_items[i + 1], room);
+            if (x > area.x() && end > area.x() + area.width()) {
                 x = area.x();
                 y += rowHeight + gap;
-                rowHeight = 0;
             }
+            if (!isButton(item) && x == area.x())
+                size = QSize(0, 0);
             if (action == Move)
                 item->setGeometry(QRect(QPoint(x, y), size));
-            if (lying) {
-                x += size.width() + gap;
-                rowHeight = std::max(rowHeight, size.height());
-            } else {
-                y += size.height() + gap;
-            }
+            if (!size.isEmpty())
+                x += size.width() + gapWidth();
         }
-        return y + rowHeight - rect.y() + contentsMargins().bottom();
+        return y + rowHeight;
+    }
+
+    int tallest() const
+    {
+        int height = 0;
+        for (const QLayoutItem *item : m_items)
+            height = std::max(height, item->sizeHint().height());
+        return height;
     }
 
     Qt::Orientation m_orientation;
@@ -293,6 +327,8 @@ QWidget *FlowToolBar::makeItem(QAction *action)
 void FlowToolBar::dress(QToolButton &button) const
 {
     const bool tall = m_style == Qt::ToolButtonTextUnderIcon;
+    button.setProperty("tall",
+                       tall); // before the first polish; the sheet gives tall ones less room at the sides
     const QString word = button.defaultAction()->iconText();
     button.setToolButtonStyle(m_style);
     button.setIconSize(QSize(m_iconSize, m_iconSize));

@@ -116,7 +116,19 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     if (const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
         control == CC_ComboBox && combo)
         return drawComboBox(*combo, *painter, widget);
+    if (const auto *spin = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+        control == CC_SpinBox && spin)
+        return drawSpinBox(*spin, *painter, widget);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect HouseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                                 const QWidget *widget) const
+{
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    const bool isText = (control == CC_ComboBox && part == SC_ComboBoxEditField) ||
+                        (control == CC_SpinBox && part == SC_SpinBoxEditField);
+    return isText ? rect.adjusted(5, 2, 0, -2) : rect;
 }
 
 QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
@@ -131,6 +143,7 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option
             return {buttonHeight, buttonHeight};
         return {size.width() + 2 * buttonPadding, std::max(buttonHeight, size.height() + 12)};
     }
+    case CT_SpinBox:
     case CT_ComboBox:
         return {fusion.width() + 16, std::max(boxHeight, fusion.height())};
     case CT_CheckBox:
@@ -226,15 +239,39 @@ void HouseStyle::drawRadioButton(const QStyleOption &option, QPainter &painter) 
     painter.drawEllipse(box.adjusted(5, 5, -5, -5));
 }
 
-void HouseStyle::drawComboBox(const QStyleOptionComboBox &option, QPainter &painter,
-                              const QWidget *widget) const
+/// The frame of a box that takes a choice or a number.
+void HouseStyle::drawBox(const QStyleOption &option, QPainter &painter) const
 {
-    const SmoothPainting smooth(painter);
     const bool enabled = option.state & State_Enabled;
     const bool focused = enabled && option.state & State_HasFocus;
     const QColor fill = !enabled ? m_theme.locked : focused ? m_theme.mark : m_theme.field;
     const QColor rim = !enabled ? m_theme.line : focused ? m_theme.accent : m_theme.edge;
     drawRounded(painter, option.rect, corner, fill, rim, focused ? 2 : 1);
+    painter.setBrush(Qt::NoBrush);
+}
+
+void HouseStyle::drawSpinBox(const QStyleOptionSpinBox &option, QPainter &painter,
+                             const QWidget *widget) const
+{
+    const SmoothPainting smooth(painter);
+    const bool enabled = option.state & State_Enabled;
+    drawBox(option, painter);
+    for (const SubControl arrow : {SC_SpinBoxUp, SC_SpinBoxDown}) {
+        const QPointF middle = QRectF(subControlRect(CC_SpinBox, &option, arrow, widget)).center();
+        const double rise = arrow == SC_SpinBoxUp ? 1.5 : -1.5;
+        painter.setPen(QPen(enabled ? m_theme.text : m_theme.disabledText, 1.6, Qt::SolidLine, Qt::RoundCap,
+                            Qt::RoundJoin));
+        painter.drawPolyline(
+            QPolygonF{middle + QPointF(-3, rise), middle + QPointF(0, -rise), middle + QPointF(3, rise)});
+    }
+}
+
+void HouseStyle::drawComboBox(const QStyleOptionComboBox &option, QPainter &painter,
+                              const QWidget *widget) const
+{
+    const SmoothPainting smooth(painter);
+    const bool enabled = option.state & State_Enabled;
+    drawBox(option, painter);
     const QPointF middle = QRectF(subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget)).center();
     painter.setBrush(Qt::NoBrush);
     painter.setPen(

@@ -5,9 +5,10 @@
 #include <QProxyStyle>
 
 class QStyleOptionComboBox;
+class QStyleOptionSpinBox;
 
-/// Fusion with the program's own buttons, check marks and choice boxes: what a style sheet cannot draw in the
-/// ink of a coloured panel. Buttons with the property "main" are drawn in the accent.
+/// Fusion with the program's own buttons, check marks, choice and number boxes: what a style sheet cannot
+/// draw in the ink of a coloured panel. Buttons with the property "main" are drawn in the accent.
 class HouseStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -20,6 +21,8 @@ public:
                      const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                         const QWidget *widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                            const QWidget *widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
@@ -30,6 +33,8 @@ private:
     void drawButton(const QStyleOption &option, QPainter &painter, const QWidget *widget) const;
     void drawCheckBox(const QStyleOption &option, QPainter &painter) const;
     void drawRadioButton(const QStyleOption &option, QPainter &painter) const;
+    void drawBox(const QStyleOption &option, QPainter &painter) const;
+    void drawSpinBox(const QStyleOptionSpinBox &option, QPainter &painter, const QWidget *widget) const;
     void drawComboBox(const QStyleOptionComboBox &option, QPainter &painter, const QWidget *widget) const;
 
     const Theme &m_theme;

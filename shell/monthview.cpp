@@ -16,18 +16,22 @@ namespace {
 
 constexpr QSize designedSize(316, 296);
 constexpr double corner = 8;
+constexpr QLatin1StringView previousName("monthPrevious");
+constexpr QLatin1StringView nextName("monthNext");
 
-/// What the sheet of the whole application would otherwise give to every table and tool button.
-QString ownSheet()
+/// What the sheet of the whole application would otherwise give to every table and tool button; the heading's
+/// buttons take their colour from a sheet alone.
+QString ownSheet(const QColor &ink)
 {
     return uR"(
-QTableView, QTableView:focus { border: 0; background: transparent; padding: 0; }
+QTableView, QTableView:focus { border: 0; background: transparent; padding: 0;
+    selection-background-color: transparent; }
 QWidget#qt_calendar_navigationbar { background: transparent; }
-QToolButton { padding: 0 4px; min-height: 32px; border-radius: 6px; }
+QToolButton { padding: 0 1px; min-height: 32px; color: %1; }
 QToolButton#monthPrevious, QToolButton#monthNext { min-width: 32px; padding: 0; }
 QToolButton::menu-indicator { image: none; width: 0; }
 QSpinBox { min-height: 24px; padding: 1px 4px; }
-)"_s;
+)"_s.arg(ink.name());
 }
 
 } // namespace
@@ -40,7 +44,7 @@ MonthView::MonthView(QWidget *parent)
     setHorizontalHeaderFormat(ShortDayNames);
     setVerticalHeaderFormat(ISOWeekNumbers);
     setGridVisible(false);
-    setStyleSheet(ownSheet());
+    setAutoFillBackground(false);
     setUpHeading();
     showPaletteColors();
     if (auto *view = findChild<QTableView *>()) {
@@ -91,7 +95,7 @@ void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) cons
     mark.setWidth(std::min(mark.width(), 36.0));
     mark.moveCenter(QRectF(rect).center() + QPointF(0, 0.5));
     if (chosen || (m_todayMarked && date == m_today)) {
-        painter->setPen(QPen(theme.accent, 1.5));
+        painter->setPen(QPen(palette().color(ThemeRole::strong), 1.5));
         painter->setBrush(chosen ? QBrush(theme.accent) : QBrush(Qt::NoBrush));
         painter->drawRoundedRect(mark, corner, corner);
     }
@@ -122,15 +126,12 @@ void MonthView::changeEvent(QEvent *event)
 void MonthView::setUpHeading()
 {
     struct Step {
-        QLatin1StringView given, name, icon, word;
+        QLatin1StringView given, name, word;
     };
-    const Icons::Scheme scheme = Theme::of(this).scheme;
-    for (const Step &step :
-         {Step{"qt_calendar_prevmonth"_L1, "monthPrevious"_L1, "previous"_L1, "Previous month"_L1},
-          Step{"qt_calendar_nextmonth"_L1, "monthNext"_L1, "next"_L1, "Next month"_L1}}) {
+    for (const Step &step : {Step{"qt_calendar_prevmonth"_L1, previousName, "Previous month"_L1},
+                             Step{"qt_calendar_nextmonth"_L1, nextName, "Next month"_L1}}) {
         if (auto *button = findChild<QToolButton *>(step.given)) {
             button->setObjectName(step.name);
-            button->setIcon(Icons::icon(step.icon, scheme));
             button->setIconSize(QSize(20, 20));
             button->setToolTip(step.word);
             button->setAccessibleName(step.word);
@@ -150,13 +151,13 @@ void MonthView::showPaletteColors()
     head.setForeground(palette().color(ThemeRole::quiet));
     head.setBackground(Qt::transparent);
     setHeaderTextFormat(head);
-    QTextCharFormat day;
-    day.setForeground(palette().color(QPalette::WindowText));
+    // The weekend like any other day: its names as well.
     for (const Qt::DayOfWeek free : {Qt::Saturday, Qt::Sunday})
-        setWeekdayTextFormat(free, day);
-    QPalette buttons;
-    buttons.setColor(QPalette::ButtonText, palette().color(QPalette::WindowText));
-    const auto all = findChildren<QToolButton *>();
-    for (QToolButton *button : all)
-        button->setPalette(buttons);
+        setWeekdayTextFormat(free, QTextCharFormat());
+    const QColor ink = palette().color(QPalette::WindowText);
+    for (const auto &[name, icon] : {std::pair(previousName, "previous"_L1), std::pair(nextName, "next"_L1)})
+        if (auto *button = findChild<QToolButton *>(name))
+            button->setIcon(Icons::tinted(icon, Theme::of(this).scheme, ink));
+    if (const QString sheet = ownSheet(ink); sheet != styleSheet())
+        setStyleSheet(sheet);
 }

@@ -262,7 +262,8 @@ QFont TypeScale::date()
 
 double contrast(const QColor &one, const QColor &other)
 {
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)}); // by value: the two are temporaries
+    const auto [darker, lighter] =
+        std::minmax({luminance(one), luminance(other)}); // by value: the two are temporaries
     return (lighter + 0.05) / (darker + 0.05);
 }
 
