@@ -318,6 +318,8 @@ QWidget *FlowToolBar::makeItem(QAction *action)
     auto *button = named(new QToolButton(this), action->objectName() + u"_button"_s);
     button->setDefaultAction(action);
     button->setFocusPolicy(Qt::TabFocus);
+    // Of equal widths: a button fills the place that it is given.
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     dress(*button);
     m_buttons.insert(action, button);
     m_items.insert(action, button);
