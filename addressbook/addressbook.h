@@ -69,9 +69,11 @@ public:
     /// stop. An entry is live when its own record of the index holds a line.
     void forEachLive(const std::function<bool(int record, const AddressEntry &entry)> &visit) const;
 
-private:
+    /// The two files themselves, for readers that walk over all of them at once.
     RecordFile entries() const;
     RecordFile index() const;
+
+private:
     SaveResult prepared(int record, const AddressEntry &entry) const;
     void writeLine(SaveResult &result) const;
     /// Whether `line` is the one that `entry` left in its own record when its names grew too long for the

@@ -69,6 +69,25 @@ int recordOf(View line)
     return number;
 }
 
+template <typename View>
+View withoutBlanks(View text)
+{
+    while (!text.isEmpty() && isBlank(text.back()))
+        text.chop(1);
+    return text;
+}
+
+template <typename View>
+View nameOf(View line)
+{
+    const View whole = withoutBlanks(line);
+    View names = whole;
+    while (!names.isEmpty() && isDigit(names.back()))
+        names.chop(1);
+    // Digits that follow a blank are the number; others end a name, in a line that has lost its number.
+    return !names.isEmpty() && isBlank(names.back()) ? withoutBlanks(names) : whole;
+}
+
 } // namespace
 
 QString IndexLine::make(QStringView lastName, QStringView firstName, int record)
@@ -90,12 +109,12 @@ int IndexLine::record(QByteArrayView line)
 
 QStringView IndexLine::name(QStringView line)
 {
-    const QStringView whole = AnsiText::trimmedBlanksRight(line);
-    QStringView names = whole;
-    while (!names.isEmpty() && isDigit(names.back()))
-        names.chop(1);
-    // Digits that follow a blank are the number; others end a name, in a line that has lost its number.
-    return names.endsWith(u' ') ? AnsiText::trimmedBlanksRight(names) : whole;
+    return nameOf(line);
+}
+
+QByteArrayView IndexLine::name(QByteArrayView line)
+{
+    return nameOf(line);
 }
 
 QString IndexLine::deletionMark()

@@ -25,6 +25,8 @@ int record(QByteArrayView line);
 
 /// The names in front of the number: "Miller, Anne".
 QStringView name(QStringView line);
+/// The same of a line as it stands in the file.
+QByteArrayView name(QByteArrayView line);
 
 /// What stands in place of the line of a deleted entry.
 QString deletionMark();

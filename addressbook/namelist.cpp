@@ -1,38 +1,12 @@
 #include "addressbook/namelist.h"
 
+#include "addressbook/bytecase.h"
 #include "addressbook/indexline.h"
 #include "storage/ansitext.h"
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-using FoldTable = std::array<char, 256>;
-
-/// Every byte of the code page in upper case; a letter whose upper case the code page lacks stays as it is.
-FoldTable makeFoldTable()
-{
-    FoldTable table;
-    for (std::size_t byte = 0; byte < table.size(); ++byte) {
-        const char character = char(byte);
-        const QChar upper = AnsiText::decode(QByteArrayView(&character, 1)).front().toUpper();
-        table[byte] = AnsiText::isHoldable(QStringView(&upper, 1))
-                          ? AnsiText::encode(QStringView(&upper, 1)).front()
-                          : character;
-    }
-    return table;
-}
-
-char upperCase(char byte)
-{
-    static const FoldTable table = makeFoldTable();
-    return table[quint8(byte)];
-}
-
-} // namespace
 
 QString NameList::line(int position) const
 {
@@ -61,24 +35,21 @@ int NameList::positionOf(int record) const
 
 int NameList::find(QStringView text) const
 {
-    if (!AnsiText::isHoldable(text))
+    const std::optional<QByteArray> folded = ByteCase::folded(text);
+    if (!folded)
         return -1;
-    QByteArray folded = AnsiText::encode(text);
-    std::ranges::transform(folded, folded.begin(), upperCase);
-
-    const int first = firstMatch(folded, 0);
+    const int first = firstMatch(*folded, 0);
     if (first < 0 || first >= searchResumesAt)
         return first;
     // A further match would send the search back to where it resumed, and to itself again: it ends there.
-    const int resumed = firstMatch(folded, searchResumesAt);
+    const int resumed = firstMatch(*folded, searchResumesAt);
     return resumed < 0 ? first : resumed;
 }
 
 int NameList::firstMatch(QByteArrayView foldedText, int from) const
 {
     for (int position = from; position < count(); ++position) {
-        const QByteArrayView line = bytesAt(position);
-        if (foldedText.isEmpty() || !std::ranges::search(line, foldedText, {}, upperCase).empty())
+        if (ByteCase::contains(bytesAt(position), foldedText))
             return position;
     }
     return -1;

@@ -1,0 +1,128 @@
+#include "addressbook/dayofyear.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr qsizetype longestDate = 40;
+constexpr int greatestDay = 31;
+constexpr int monthCount = 12;
+
+/// A number of the text: how many digits it has tells a year from a day.
+struct Number {
+    int value = 0;
+    int digits = 0;
+
+    bool isYear() const { return digits > 2; }
+    bool isReadable() const { return digits <= 4; }
+};
+
+/// What of a date's text matters: a named month, and the first three numbers.
+struct Parts {
+    int namedMonth = 0;
+    std::array<Number, 3> numbers;
+    std::size_t count = 0;
+};
+
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+bool isLetter(QChar character)
+{
+    const QChar lower = character.toLower();
+    return lower >= u'a' && lower <= u'z';
+}
+
+/// The month that `name` begins, with three letters at least; 0 for any other word.
+int monthNamed(QStringView name)
+{
+    constexpr std::array names{u"january", u"february", u"march",     u"april",   u"may",      u"june",
+                               u"july",    u"august",   u"september", u"october", u"november", u"december"};
+    if (name.size() < 3)
+        return 0;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (QStringView(names[i]).startsWith(name, Qt::CaseInsensitive))
+            return int(i) + 1;
+    }
+    return 0;
+}
+
+Number numberOf(QStringView digits)
+{
+    Number number;
+    number.digits = int(digits.size());
+    for (const QChar digit : digits.first(std::min<qsizetype>(digits.size(), 4)))
+        number.value = number.value * 10 + (digit.unicode() - u'0');
+    return number;
+}
+
+/// The run of characters of one kind at the start of `text`.
+template <typename IsKind>
+QStringView run(QStringView text, IsKind isKind)
+{
+    const auto end = std::ranges::find_if_not(text, isKind);
+    return text.first(end - text.begin());
+}
+
+Parts partsOf(QStringView text)
+{
+    Parts parts;
+    while (!text.isEmpty()) {
+        QStringView part = run(text, isDigit);
+        if (!part.isEmpty()) {
+            if (parts.count < parts.numbers.size())
+                parts.numbers[parts.count++] = numberOf(part);
+        } else if (part = run(text, isLetter); part.isEmpty()) {
+            part = text.first(1);
+        } else if (parts.namedMonth == 0) {
+            parts.namedMonth = monthNamed(part);
+        }
+        text = text.sliced(part.size());
+    }
+    return parts;
+}
+
+DayOfYear dayOfYear(int month, int day)
+{
+    if (month < 1 || month > monthCount)
+        return {};
+    return {month, day <= greatestDay ? day : 0};
+}
+
+} // namespace
+
+DayOfYear DayOfYear::of(QStringView text, DateStyle style)
+{
+    const Parts parts = partsOf(text.first(std::min(text.size(), longestDate)));
+    const Number &first = parts.numbers[0], &second = parts.numbers[1];
+    if (parts.namedMonth != 0) {
+        const Number &day = first.isYear() ? second : first;
+        return dayOfYear(parts.namedMonth, day.isYear() ? 0 : day.value);
+    }
+    if (parts.count < 2 || !first.isReadable() || !second.isReadable())
+        return {};
+    if (first.isYear()) // 1997-04-21
+        return second.isYear() ? DayOfYear() : dayOfYear(second.value, parts.numbers[2].value);
+    if (second.isYear()) // 04/1997
+        return dayOfYear(first.value, 0);
+    const bool isMonthFirst = style == DateStyle::Usa;
+    int month = isMonthFirst ? first.value : second.value;
+    int day = isMonthFirst ? second.value : first.value;
+    if (month > monthCount && day <= monthCount)
+        std::swap(month, day);
+    return dayOfYear(month, day);
+}
+
+int DayOfYear::monthTyped(QStringView text)
+{
+    text = text.trimmed();
+    if (text.isEmpty() || text.size() > 9)
+        return 0;
+    if (!std::ranges::all_of(text, isDigit))
+        return monthNamed(text);
+    const int month = text.size() > 2 ? 0 : numberOf(text).value;
+    return month <= monthCount ? month : 0;
+}
