@@ -1,0 +1,100 @@
+#include "shell/about1.h"
+
+#include "shell/controls.h"
+#include "shell/icons.h"
+#include "shell/theme.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+
+#include <sodium.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int iconSide = 72;
+constexpr int textWidth = 380;
+
+QString version()
+{
+    const QString given = QCoreApplication::applicationVersion();
+    return u"Version "_s + (given.isEmpty() ? u"1.0"_s : given);
+}
+
+QString purpose()
+{
+    return u"Keeps a household in order: people and their birthdays, appointments, money, the car, weight, "
+           "pictures and passwords, in small files of your own on this computer."_s;
+}
+
+QString licence()
+{
+    return u"Free software under the GNU General Public License, version 3 or later (GPL-3.0-or-later). It "
+           u"comes "
+           "without any warranty."_s;
+}
+
+QString libraries()
+{
+    return u"Built with Qt "_s + QString::fromLatin1(qVersion()) + u" and libsodium "_s +
+           QString::fromLatin1(sodium_version_string()) + u'.';
+}
+
+} // namespace
+
+About1::About1(QWidget *parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
+{
+    named(this, u"About1"_s);
+    setWindowTitle(u"About Quillery"_s);
+    setModal(true);
+
+    auto *sign = new QLabel(this);
+    sign->setPixmap(Icons::applicationIcon().pixmap(QSize(iconSide, iconSide), devicePixelRatioF()));
+    sign->setAlignment(Qt::AlignTop);
+    auto *words = new QVBoxLayout;
+    words->setSpacing(4);
+    words->addWidget(makeTitle(u"Quillery"_s, this));
+    words->addWidget(named(makeQuietLabel(version(), this), u"versionLabel"_s));
+    words->addSpacing(12);
+    for (const QString &text : {purpose(), licence(), libraries()}) {
+        auto *paragraph = new QLabel(text, this);
+        paragraph->setWordWrap(true);
+        paragraph->setFixedWidth(textWidth);
+        words->addWidget(paragraph);
+        words->addSpacing(8);
+    }
+
+    QPushButton *ok = makeButton(u"Command1"_s, u"&OK"_s, this, ButtonKind::Main);
+    ok->setAccessibleName(u"OK"_s);
+    ok->setDefault(true);
+    ok->setMinimumWidth(104);
+    QAction *close = makeAction(u"mOOK"_s, u"&OK"_s, this);
+    addAction(close);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    connect(close, &QAction::triggered, this, &QDialog::accept);
+
+    auto *top = new QHBoxLayout;
+    top->setSpacing(20);
+    top->addWidget(sign, 0, Qt::AlignTop);
+    top->addLayout(words, 1);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(24, 24, 24, 20);
+    column->setSpacing(12);
+    column->addLayout(top);
+    column->addWidget(ok, 0, Qt::AlignRight);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    ok->setFocus();
+}
+
+void About1::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Theme::of(this).panel);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QDialog>
+
+/// The About box: what the program is, its version, its licence and what it is built with.
+class About1 final : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit About1(QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};

@@ -1,0 +1,276 @@
+#include "shell/functioncard.h"
+
+#include "shell/controls.h"
+#include "shell/functionfaces.h"
+#include "shell/theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPixmapCache>
+
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int corner = 10;
+constexpr int padding = 16;
+constexpr int markSide = 20;
+constexpr int markGap = 4;
+constexpr qreal opacity = 0.96;
+constexpr qreal disabledIcon = 0.55;
+constexpr int ringWidth = 3;
+
+/// Where icon and title stand: narrower cards are set closer, so that long titles find room.
+struct Setting {
+    int padding;
+    int icon;
+    int gap;
+
+    static Setting of(int cardWidth) { return cardWidth >= 236 ? Setting{16, 48, 12} : Setting{14, 40, 10}; }
+};
+
+/// `share` of `other` in `color`.
+QColor mixed(const QColor &color, const QColor &other, double share)
+{
+    const auto part = [share](int one, int two) { return int(std::lround(one + (two - one) * share)); };
+    return {part(color.red(), other.red()), part(color.green(), other.green()),
+            part(color.blue(), other.blue())};
+}
+
+} // namespace
+
+FunctionCard::FunctionCard(const FunctionFace &face, QWidget *parent)
+    : QAbstractButton(parent)
+    , m_quietText(face.quietText())
+    , m_icon(face.icon)
+    , m_titleFont(TypeScale::cardTitle())
+{
+    named(this, face.cardName());
+    setText(face.titleText());
+    setAccessibleName(face.titleText());
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setCursor(Qt::PointingHandCursor);
+    setPalette(Theme::of(this).panelPalette());
+    tellLine();
+}
+
+void FunctionCard::setLine(const std::optional<LiveLine> &line)
+{
+    if (line == m_line)
+        return;
+    m_line = line;
+    tellLine();
+    update();
+}
+
+void FunctionCard::setMissingReason(const QString &reason)
+{
+    m_missingReason = reason;
+    setEnabled(reason.isEmpty());
+    setCursor(isEnabled() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    setStatusTip(reason);
+    tellLine();
+}
+
+void FunctionCard::setTitleFont(const QFont &font)
+{
+    m_titleFont = font;
+    update();
+}
+
+int FunctionCard::titleRoom(int width)
+{
+    const Setting setting = Setting::of(width);
+    return width - 2 * setting.padding - setting.icon - setting.gap;
+}
+
+int FunctionCard::fullHeight()
+{
+    return padding + 48 + 9 + QFontMetrics(TypeScale::body()).height() + padding + 2 * margin;
+}
+
+QSize FunctionCard::sizeHint() const
+{
+    return {216 + 2 * margin, fullHeight()};
+}
+
+QString FunctionCard::lineText() const
+{
+    return m_line ? m_line->text : m_quietText;
+}
+
+/// Tool tip and accessible description follow the line: the whole of it when it is cut.
+void FunctionCard::tellLine()
+{
+    if (!m_missingReason.isEmpty()) {
+        setToolTip(m_missingReason);
+        setAccessibleDescription(m_missingReason);
+        return;
+    }
+    const QRect place = lineRect();
+    const int room = place.width() - (m_line && m_line->urgency != LiveLine::Plain ? markSide + markGap : 0);
+    const bool cut = QFontMetrics(lineFont()).horizontalAdvance(lineText()) > room;
+    setToolTip(cut ? lineText() : QString());
+    setAccessibleDescription(lineText());
+}
+
+QFont FunctionCard::lineFont() const
+{
+    QFont font = TypeScale::body();
+    if (m_line && m_line->urgency != LiveLine::Plain)
+        font.setWeight(QFont::DemiBold);
+    return font;
+}
+
+QRect FunctionCard::lineRect() const
+{
+    const int height = QFontMetrics(TypeScale::body()).height();
+    const int side = margin + Setting::of(width() - 2 * margin).padding;
+    return {side, this->height() - margin - padding - height, width() - 2 * side, height};
+}
+
+void FunctionCard::resizeEvent(QResizeEvent *event)
+{
+    QAbstractButton::resizeEvent(event);
+    tellLine();
+}
+
+void FunctionCard::focusInEvent(QFocusEvent *event)
+{
+    QAbstractButton::focusInEvent(event);
+    emit focused();
+}
+
+void FunctionCard::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        click();
+        break;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        emit walked(event->key());
+        break;
+    default:
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+bool FunctionCard::hasUserColor() const
+{
+    return palette().color(QPalette::Window) != Theme::of(this).panel;
+}
+
+QColor FunctionCard::fill() const
+{
+    const Theme &theme = Theme::of(this);
+    QColor color = palette().color(QPalette::Window);
+    if (hasUserColor()) {
+        // The ink must stay readable on it: no soft fill, only a touch nearer to the ink.
+        if (isEnabled() && (isDown() || underMouse()))
+            color = mixed(color, palette().color(QPalette::WindowText), isDown() ? 0.16 : 0.08);
+    } else if (!isEnabled()) {
+        color = theme.locked;
+    } else if (isDown()) {
+        color = theme.pressed();
+    } else if (underMouse()) {
+        color = theme.soft;
+    }
+    color.setAlphaF(float(opacity));
+    return color;
+}
+
+QColor FunctionCard::lineInk(LiveLine::Urgency urgency) const
+{
+    const Theme &theme = Theme::of(this);
+    if (!isEnabled() || hasUserColor())
+        return palette().color(QPalette::WindowText);
+    if (urgency == LiveLine::Plain)
+        return theme.quiet;
+    return urgency == LiveLine::Overdue ? theme.negative : theme.due;
+}
+
+/// Shadow, fill and rim. Cards of a desk share one drawing for each state.
+QPixmap FunctionCard::ground() const
+{
+    const Theme &theme = Theme::of(this);
+    const qreal ratio = devicePixelRatioF();
+    const QString key =
+        u"card %1x%2 %3 %4 %5"_s.arg(width()).arg(height()).arg(ratio).arg(fill().rgba()).arg(isEnabled());
+    QPixmap ground;
+    if (QPixmapCache::find(key, &ground))
+        return ground;
+    ground = QPixmap(size() * ratio);
+    ground.setDevicePixelRatio(ratio);
+    ground.fill(Qt::transparent);
+    QPainter painter(&ground);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const QRectF card = rect().adjusted(margin, margin, -margin, -margin);
+    // A soft shadow: three rims, each a little wider and fainter, the whole of them a little lower than the
+    // card.
+    for (const int spread : {3, 2, 1}) {
+        painter.setBrush(QColor(0, 0, 0, isEnabled() ? 16 : 8));
+        painter.drawRoundedRect(card.adjusted(-spread, 2 - spread, spread, 1 + spread), corner + spread,
+                                corner + spread);
+    }
+    painter.setBrush(fill());
+    painter.setPen(QPen(theme.line, 1));
+    painter.drawRoundedRect(card.adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+    painter.end();
+    QPixmapCache::insert(key, ground);
+    return ground;
+}
+
+void FunctionCard::paintLine(QPainter &painter, const QRect &place) const
+{
+    const Theme &theme = Theme::of(this);
+    const LiveLine::Urgency urgency = m_line ? m_line->urgency : LiveLine::Plain;
+    QRect text = place;
+    if (urgency != LiveLine::Plain) {
+        const auto mark = urgency == LiveLine::Overdue ? "overdue"_L1 : "due"_L1;
+        painter.drawPixmap(text.left(), text.center().y() - markSide / 2 + 1,
+                           Icons::pixmap(mark, theme.scheme, markSide, devicePixelRatioF()));
+        text.setLeft(text.left() + markSide + markGap);
+    }
+    const QFont font = lineFont();
+    painter.setFont(font);
+    painter.setPen(lineInk(urgency));
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     QFontMetrics(font).elidedText(lineText(), Qt::ElideRight, text.width()));
+}
+
+void FunctionCard::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect card = rect().adjusted(margin, margin, -margin, -margin);
+    painter.drawPixmap(0, 0, ground());
+    if (hasFocus()) {
+        painter.setPen(QPen(Theme::of(this).accent, ringWidth));
+        painter.drawRoundedRect(QRectF(card).adjusted(-1.5, -1.5, 1.5, 1.5), corner + 1.5, corner + 1.5);
+    }
+
+    const auto [inset, side, gap] = Setting::of(card.width());
+    const QRect line = lineRect();
+    const int middle = card.top() + (line.top() - card.top() + 8) / 2;
+    const QPoint icon(card.left() + inset, middle - side / 2);
+    painter.setOpacity(isEnabled() ? 1 : disabledIcon);
+    painter.drawPixmap(icon, Icons::pixmap(m_icon, Theme::of(this).scheme, side, devicePixelRatioF()));
+    painter.setOpacity(1);
+
+    painter.setFont(m_titleFont);
+    painter.setPen(palette().color(QPalette::WindowText));
+    const QRect title(icon.x() + side + gap, card.top(), titleRoom(card.width()), 2 * (middle - card.top()));
+    painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     QFontMetrics(m_titleFont).elidedText(text(), Qt::ElideRight, title.width()));
+    paintLine(painter, line);
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "shell/liveline.h"
+
+#include <QAbstractButton>
+
+#include <optional>
+
+struct FunctionFace;
+
+/// A function on the main menu: its sign, its name and one line of news, over the background picture. Enter,
+/// Space and a click open it. It is drawn in the colours of its palette, as any panel.
+class FunctionCard final : public QAbstractButton
+{
+    Q_OBJECT
+public:
+    /// Free pixels around the card proper, for its focus ring and its shadow.
+    static constexpr int margin = 6;
+
+    FunctionCard(const FunctionFace &face, QWidget *parent);
+
+    /// The news; nothing shows what the function is for.
+    void setLine(const std::optional<LiveLine> &line);
+
+    /// Disables the card and says why; an empty reason enables it.
+    void setMissingReason(const QString &reason);
+
+    /// Cards of one desk set their titles alike, so that all of them fit.
+    void setTitleFont(const QFont &font);
+    /// Pixels that a title has beside its icon in a card `width` pixels wide, margins not counted.
+    static int titleRoom(int width);
+
+    QSize sizeHint() const override;
+    static int fullHeight();
+
+signals:
+    /// An arrow key, Home or End was pressed.
+    void walked(int key);
+    void focused();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QPixmap ground() const;
+    void paintLine(QPainter &painter, const QRect &place) const;
+    void tellLine();
+    QString lineText() const;
+    bool hasUserColor() const;
+    QColor fill() const;
+    QColor lineInk(LiveLine::Urgency urgency) const;
+    QFont lineFont() const;
+    QRect lineRect() const;
+
+    QString m_quietText;
+    QLatin1StringView m_icon;
+    std::optional<LiveLine> m_line;
+    QString m_missingReason;
+    QFont m_titleFont;
+};

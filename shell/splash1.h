@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+struct Program;
+
+/// The window that greets while the program loads: for about two seconds, in the middle of the screen.
+class Splash1 final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit Splash1(const Program &program);
+
+    /// Shows the window, complete, and returns.
+    void open();
+
+    /// Lets two seconds pass on the clock, processing window messages, and closes the window.
+    void wait();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void paintCard(QPainter &painter, const QRectF &card) const;
+
+    const Program &m_program;
+};

@@ -1,0 +1,139 @@
+#include "shell/backgroundslot.h"
+
+#include "shell/backdrop.h"
+#include "shell/controls.h"
+#include "shell/theme.h"
+
+#include <QImageReader>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int ring = 5;  ///< around everything, for the focus
+constexpr int mat = 5;   ///< around the picture
+constexpr int below = 6; ///< between mat and name
+
+constexpr std::array pictureNames{
+    "Morning hills", "Dunes",  "Quiet sea", "Meadow", "Birch wood", "Autumn leaves", "Snowfield", "Night sky",
+    "Lake",          "Clouds", "Lavender",  "Reeds",  "Linen",      "Patchwork",     "Willow",    "Slate"};
+
+/// The pictures that come with the program have this size and a name; a household's own ones have a number.
+QString nameOf(int slot, QSize picture)
+{
+    if (picture == Backdrop::largest || picture.isEmpty())
+        return QString::fromLatin1(pictureNames.at(std::size_t(slot)));
+    return u"Picture "_s + QString::number(slot + 1);
+}
+
+} // namespace
+
+BackgroundSlot::BackgroundSlot(int slot, QWidget *parent)
+    : QAbstractButton(parent)
+    , m_slot(slot)
+{
+    named(this, u"backgroundSlot_"_s + QString::number(slot));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setCursor(Qt::PointingHandCursor);
+    setText(nameOf(slot, {}));
+    tell();
+}
+
+void BackgroundSlot::load(const QString &path)
+{
+    QImageReader reader(path);
+    const QSize full = path.isEmpty() ? QSize() : reader.size();
+    const QSize wanted = thumbnail * devicePixelRatioF();
+    if (!full.isEmpty()) {
+        setText(nameOf(m_slot, full));
+        // The bottom of the picture is what the main menu shows of it in any case.
+        const QSize cover = full.scaled(wanted, Qt::KeepAspectRatioByExpanding);
+        reader.setScaledSize(cover);
+        reader.setScaledClipRect(
+            QRect(QPoint((cover.width() - wanted.width()) / 2, cover.height() - wanted.height()), wanted));
+        m_picture = QPixmap::fromImage(reader.read());
+    }
+    tell();
+}
+
+void BackgroundSlot::setInUse(bool inUse)
+{
+    m_inUse = inUse;
+    tell();
+    update();
+}
+
+void BackgroundSlot::tell()
+{
+    setAccessibleName(m_inUse ? QString(text() + u", in use"_s) : text());
+    setAccessibleDescription(m_picture.isNull() ? u"The picture is missing"_s : QString());
+    setToolTip(accessibleDescription());
+}
+
+QSize BackgroundSlot::frame() const
+{
+    return {2 * (ring + mat), 2 * (ring + mat) + below + QFontMetrics(TypeScale::body()).height()};
+}
+
+void BackgroundSlot::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        click();
+        break;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        emit walked(event->key());
+        break;
+    default:
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+void BackgroundSlot::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const Theme &theme = Theme::of(this);
+    const QRect outside = rect().adjusted(ring, ring, -ring, -(frame().height() - ring - 2 * mat));
+    const QRect picture = outside.adjusted(mat, mat, -mat, -mat);
+
+    const qreal rim = m_inUse ? 3 : 1;
+    painter.setPen(QPen(m_inUse              ? theme.accent
+                        : m_picture.isNull() ? theme.edge
+                                             : theme.line,
+                        rim, m_picture.isNull() && !m_inUse ? Qt::DashLine : Qt::SolidLine));
+    painter.setBrush(underMouse() ? theme.soft : theme.field);
+    painter.drawRoundedRect(QRectF(outside).adjusted(rim / 2, rim / 2, -rim / 2, -rim / 2), 4, 4);
+    if (!m_picture.isNull())
+        painter.drawPixmap(picture, m_picture);
+    else {
+        painter.setFont(TypeScale::label());
+        painter.setPen(palette().color(ThemeRole::quiet));
+        painter.drawText(picture, Qt::AlignCenter, u"No picture"_s);
+    }
+
+    QFont font = TypeScale::body();
+    font.setWeight(m_inUse ? QFont::DemiBold : QFont::Normal);
+    painter.setFont(font);
+    painter.setPen(palette().color(QPalette::WindowText));
+    const QRect name(0, outside.bottom() + 1 + below, width(), QFontMetrics(font).height());
+    const QString words = m_inUse ? QString(text() + u"  (in use)"_s) : text();
+    painter.drawText(name, Qt::AlignHCenter | Qt::AlignTop,
+                     QFontMetrics(font).elidedText(words, Qt::ElideRight, name.width()));
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(theme.accent, 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 8, 8);
+    }
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QPixmap>
+
+/// One picture of the background selector: its thumbnail in a mat, its name below. The one in use says so.
+class BackgroundSlot final : public QAbstractButton
+{
+    Q_OBJECT
+public:
+    /// Thumbnails are read at this size, in logical pixels, and shown at it or smaller.
+    static constexpr QSize thumbnail{230, 122};
+    static constexpr int smallestPicture = 64;
+
+    BackgroundSlot(int slot, QWidget *parent);
+
+    /// Reads the thumbnail; a missing or unreadable file leaves it empty.
+    void load(const QString &path);
+
+    void setInUse(bool inUse);
+    bool isInUse() const { return m_inUse; }
+
+    /// Pixels around the picture: mat, focus ring, and the name below.
+    QSize frame() const;
+
+signals:
+    void walked(int key);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void tell();
+
+    int m_slot;
+    QPixmap m_picture;
+    bool m_inUse = false;
+};

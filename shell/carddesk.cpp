@@ -1,0 +1,235 @@
+#include "shell/carddesk.h"
+
+#include "shell/controls.h"
+#include "shell/functioncard.h"
+#include "shell/functionfaces.h"
+#include "shell/gridwalk.h"
+#include "shell/menunews.h"
+#include "shell/theme.h"
+
+#include <QLabel>
+#include <QPainter>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int narrowestCard = 216;
+constexpr int widestCard = 320;
+constexpr int twoColumnsBelow = 720;
+/// One pixel more than the 960 of a full-HD screen at 200 %.
+constexpr int threeColumnsBelow = 961;
+constexpr int roomyWidth = 1200;
+constexpr qreal smallestTitle = 10.5;
+
+} // namespace
+
+/// Where things stand at one width; all in pixels, cards without their own margins.
+struct CardDesk::Measures {
+    int columns;
+    int side; ///< left of the first column
+    int gap;
+    int cardWidth;
+    int cardHeight;
+    int top;
+    QRect date;
+    QRect sentence;
+    int cardsTop;
+    int height;
+};
+
+CardDesk::CardDesk(QWidget *parent)
+    : QWidget(parent)
+    , m_date(named(new QLabel(this), u"dateLabel"_s))
+    , m_sentence(named(new QLabel(this), u"sentenceLabel"_s))
+{
+    named(this, u"cardDesk"_s);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    m_date->setFont(TypeScale::date());
+    QFont plain = TypeScale::group();
+    plain.setWeight(QFont::Normal);
+    m_sentence->setFont(plain);
+    m_sentence->setWordWrap(true);
+    m_sentence->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+
+    for (const FunctionFace &face : FunctionFaces::cards()) {
+        auto *card = new FunctionCard(face, this);
+        connect(card, &FunctionCard::clicked, this,
+                [this, function = face.function] { emit opened(function); });
+        connect(card, &FunctionCard::focused, this, [this, card] { emit cardFocused(card); });
+        connect(card, &FunctionCard::walked, this, [this, card](int key) {
+            if (FunctionCard *next = GridWalk::next<FunctionCard>(m_cards, card, columns(), key))
+                next->setFocus(Qt::TabFocusReason);
+        });
+        m_cards.push_back(card);
+    }
+}
+
+FunctionCard *CardDesk::card(Function function) const
+{
+    const auto faces = FunctionFaces::cards();
+    for (std::size_t i = 0; i < faces.size(); ++i)
+        if (faces[i].function == function)
+            return m_cards[i];
+    return nullptr;
+}
+
+void CardDesk::setDate(const QString &date)
+{
+    m_date->setText(date);
+    place();
+}
+
+void CardDesk::showNews(const MenuNews &news)
+{
+    const auto faces = FunctionFaces::cards();
+    for (std::size_t i = 0; i < faces.size(); ++i)
+        m_cards[i]->setLine(news.line(faces[i].function));
+    m_sentence->setText(news.sentence());
+    updateGeometry();
+    place();
+}
+
+void CardDesk::setAvailable(Function function, bool available)
+{
+    if (FunctionCard *found = card(function))
+        found->setMissingReason(available ? QString() : FunctionFaces::of(function).missingReason());
+}
+
+QList<QWidget *> CardDesk::panels() const
+{
+    return {m_cards.begin(), m_cards.end()};
+}
+
+void CardDesk::setHeadInk(const QColor &ink, bool plate)
+{
+    for (QLabel *label : {m_date, m_sentence}) {
+        QPalette colors = label->palette();
+        colors.setColor(QPalette::WindowText, ink);
+        label->setPalette(colors);
+    }
+    m_plate = plate;
+    update();
+}
+
+QRect CardDesk::headRect() const
+{
+    const QRect text = m_sentence->geometry();
+    const int width = std::max(QFontMetrics(m_date->font()).horizontalAdvance(m_date->text()),
+                               QFontMetrics(m_sentence->font()).horizontalAdvance(m_sentence->text()));
+    QRect head = m_date->geometry().united(text);
+    head.setWidth(std::min(width, head.width()));
+    return head;
+}
+
+void CardDesk::focusFirstCard()
+{
+    for (FunctionCard *card : m_cards) {
+        if (card->isEnabled()) {
+            card->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+}
+
+int CardDesk::columnsFor(int width)
+{
+    if (width < twoColumnsBelow)
+        return 2;
+    return width < threeColumnsBelow ? 3 : 4;
+}
+
+CardDesk::Measures CardDesk::measuresFor(int width) const
+{
+    Measures m{};
+    m.columns = columnsFor(width);
+    const bool roomy = width >= roomyWidth;
+    m.gap = roomy ? 18 : 16;
+    const int rim = roomy ? 64 : width >= 1020 ? 32 : 24;
+    m.cardWidth = std::clamp((width - 2 * rim - (m.columns - 1) * m.gap) / m.columns, 1, widestCard);
+    const int block = m.columns * m.cardWidth + (m.columns - 1) * m.gap;
+    m.side = (width - block) / 2;
+    m.cardHeight = FunctionCard::fullHeight() - 2 * FunctionCard::margin;
+    m.top = roomy ? 28 : 20;
+
+    const int dateHeight = QFontMetrics(m_date->font()).height();
+    m.date = QRect(m.side, m.top, block, dateHeight);
+    const QRect bounds = QFontMetrics(m_sentence->font())
+                             .boundingRect(QRect(0, 0, block, 1000), Qt::TextWordWrap, m_sentence->text());
+    const int sentenceHeight = std::max(bounds.height(), QFontMetrics(m_sentence->font()).height());
+    m.sentence = QRect(m.side, m.date.bottom() + 3, block, sentenceHeight + 2);
+    m.cardsTop = m.sentence.bottom() + (roomy ? 18 : 14);
+    const int rows = (int(m_cards.size()) + m.columns - 1) / m.columns;
+    m.height = m.cardsTop + rows * m.cardHeight + (rows - 1) * m.gap + 20;
+    return m;
+}
+
+int CardDesk::heightForWidth(int width) const
+{
+    return measuresFor(width).height;
+}
+
+QSize CardDesk::sizeHint() const
+{
+    return {twoColumnsBelow, heightForWidth(twoColumnsBelow)};
+}
+
+QSize CardDesk::minimumSizeHint() const
+{
+    return {2 * narrowestCard + 64, 1};
+}
+
+void CardDesk::resizeEvent(QResizeEvent *)
+{
+    place();
+}
+
+void CardDesk::place()
+{
+    const Measures m = measuresFor(width());
+    m_date->setGeometry(m.date);
+    m_sentence->setGeometry(m.sentence);
+    const QFont titles = titleFontFor(m.cardWidth);
+    for (std::size_t i = 0; i < m_cards.size(); ++i) {
+        const int column = int(i) % m.columns;
+        const int row = int(i) / m.columns;
+        const QRect card(m.side + column * (m.cardWidth + m.gap), m.cardsTop + row * (m.cardHeight + m.gap),
+                         m.cardWidth, m.cardHeight);
+        constexpr int rim = FunctionCard::margin;
+        m_cards[i]->setTitleFont(titles);
+        m_cards[i]->setGeometry(card.adjusted(-rim, -rim, rim, rim));
+    }
+}
+
+/// The card title's step of the scale, less as much as wide platform fonts ask for.
+QFont CardDesk::titleFontFor(int cardWidth) const
+{
+    QFont font = TypeScale::cardTitle();
+    const int room = FunctionCard::titleRoom(cardWidth);
+    const auto fits = [&] {
+        const QFontMetrics metrics(font);
+        return std::all_of(m_cards.begin(), m_cards.end(), [&](const FunctionCard *card) {
+            return metrics.horizontalAdvance(card->text()) <= room;
+        });
+    };
+    while (!fits() && font.pointSizeF() > smallestTitle)
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    return font;
+}
+
+void CardDesk::paintEvent(QPaintEvent *)
+{
+    if (!m_plate)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor plate = Theme::of(this).panel;
+    plate.setAlphaF(0.86F);
+    painter.setBrush(plate);
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(headRect().adjusted(-16, -8, 16, 8), 10, 10);
+}

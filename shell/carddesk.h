@@ -1,0 +1,62 @@
+#pragma once
+
+#include "shell/functions.h"
+
+#include <QDate>
+#include <QWidget>
+
+#include <vector>
+
+class FunctionCard;
+class MenuNews;
+class QLabel;
+
+/// What stands on the background picture: the long date, the sentence of the day and a card for each
+/// function, in as many columns as the width allows. Too high for its place, it scrolls.
+class CardDesk final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit CardDesk(QWidget *parent);
+
+    void setDate(const QString &date);
+    void showNews(const MenuNews &news);
+    void setAvailable(Function function, bool available);
+    /// The cards take the user's panel colour as panels do.
+    QList<QWidget *> panels() const;
+
+    /// The ink of date and sentence, by what lies under them; with `plate` they get a ground of their own.
+    void setHeadInk(const QColor &ink, bool plate);
+    /// The place of date and sentence in this widget.
+    QRect headRect() const;
+
+    void focusFirstCard();
+    int columns() const { return columnsFor(width()); }
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void opened(Function function);
+    void cardFocused(QWidget *card);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct Measures;
+
+    static int columnsFor(int width);
+    Measures measuresFor(int width) const;
+    void place();
+    QFont titleFontFor(int cardWidth) const;
+    FunctionCard *card(Function function) const;
+
+    QLabel *m_date;
+    QLabel *m_sentence;
+    std::vector<FunctionCard *> m_cards;
+    bool m_plate = false;
+};

@@ -1,0 +1,208 @@
+#include "shell/startfrm.h"
+
+#include "shell/about1.h"
+#include "shell/activitybar.h"
+#include "shell/backgroundchoice.h"
+#include "shell/backgroundselector.h"
+#include "shell/busycursor.h"
+#include "shell/carddesk.h"
+#include "shell/colortext.h"
+#include "shell/controls.h"
+#include "shell/flowtoolbar.h"
+#include "shell/functionfaces.h"
+#include "shell/helpcontexts.h"
+#include "shell/hinfo1.h"
+#include "shell/listfile.h"
+#include "shell/menupicture.h"
+#include "shell/settingskeys.h"
+#include "shell/shellmessages.h"
+#include "shell/theme.h"
+#include "shell/toolbars.h"
+
+#include <QAction>
+#include <QMenu>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The maker's home page.
+constexpr auto webAddress = "https://quillery.example/";
+
+template <typename... Deeds>
+struct Either : Deeds... {
+    using Deeds::operator()...;
+};
+
+} // namespace
+
+/// A click on a button of the top toolbar, by the button's position.
+void Startfrm::press(int position)
+{
+    m_activity->setActivity(u"Loading"_s);
+    HINFO1::hourglassOn();
+    std::visit(
+        Either{[this](const TopButtons::OpensFunction &deed) { openFunction(deed.function, deed.area); },
+               [this](const TopButtons::SameAsEntry &deed) {
+                   if (auto *same = findChild<QAction *>(QString::fromLatin1(deed.entry)))
+                       same->trigger();
+               },
+               [this](const TopButtons::OtherEdition &deed) { openForeignFunction(deed.area); },
+               [this](const TopButtons::ShowsListFile &deed) { showListFile(deed); },
+               [](const TopButtons::Gap &) {}},
+        TopButtons::all()[std::size_t(position)].deed);
+    HINFO1::hourglassOff();
+    showMainMenu();
+}
+
+/// As the function's menu entry and its card do.
+void Startfrm::openFunction(Function function)
+{
+    if (function == Function::PasswordControl)
+        openWhenAllowed(function, [this] { return m_program.gate.mayOpenPasswordControl(m_program, this); });
+    else
+        openFunction(function, FunctionFaces::of(function).area);
+}
+
+void Startfrm::openFunction(Function function, int area)
+{
+    openWhenAllowed(function, [this, area] { return m_program.gate.mayOpen(m_program, area, this); });
+}
+
+void Startfrm::openWhenAllowed(Function function, const std::function<bool()> &mayOpen)
+{
+    if (!m_program.functions.has(function))
+        return;
+    m_activity->setActivity(u"Loading"_s);
+    m_activity->say({});
+    HINFO1::hourglassOn();
+    if (mayOpen())
+        m_program.functions.open(function, m_program);
+    HINFO1::hourglassOff();
+    showMainMenu();
+}
+
+/// A function that another edition has: its guard is asked, and there is no window to show.
+void Startfrm::openForeignFunction(int area)
+{
+    (void)m_program.gate.mayOpen(m_program, area, this);
+}
+
+void Startfrm::showListFile(const TopButtons::ShowsListFile &button)
+{
+    const QString file = m_program.folder.existingFile({}, QString::fromLatin1(button.file));
+    if (ListFile::hasUsableLine(file)) {
+        openForeignFunction(button.area);
+        return;
+    }
+    HINFO1::hourglassOff();
+    m_program.dialogs.ask(this, TopButtons::emptyListNotice(button));
+}
+
+void Startfrm::askFamilyName()
+{
+    m_activity->setActivity(u"Family Name"_s);
+    HINFO1::askFamilyName(m_program, this);
+    showMainMenu();
+}
+
+void Startfrm::showAbout()
+{
+    m_activity->setActivity(u"About Quillery"_s);
+    About1 box(this);
+    m_program.dialogs.run(box);
+    showMainMenu();
+}
+
+void Startfrm::openWebSite()
+{
+    m_activity->setActivity(u"Launching Web Site"_s);
+    m_surroundings.openAddress(QUrl(QString::fromLatin1(webAddress)));
+    showMainMenu();
+}
+
+void Startfrm::openOverview()
+{
+    emit m_program.changes.helpRequested(HelpContext::ProgramOverview);
+}
+
+void Startfrm::openBackupHelp()
+{
+    emit m_program.changes.helpRequested(HelpContext::BackupAndRestore);
+}
+
+void Startfrm::toggleTopToolbar()
+{
+    TopToolbar::setRemoved(m_program, !TopToolbar::isRemoved(m_program, SettingsKeys::topToolbar));
+    setUp();
+}
+
+void Startfrm::showTopToolbarMenu(const QPoint &place)
+{
+    auto *menu = named(new QMenu(this), u"toolbarMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu->addAction(u"&Remove Top Toolbar"_s), &QAction::triggered, this,
+            &Startfrm::toggleTopToolbar);
+    connect(menu->addAction(u"&Customize Toolbar"_s), &QAction::triggered, this,
+            &Startfrm::customizeTopToolbar);
+    menu->popup(m_topBar->mapToGlobal(place));
+}
+
+void Startfrm::customizeTopToolbar()
+{
+    if (TopToolbar::isRemoved(m_program, SettingsKeys::topToolbar)) {
+        m_program.dialogs.ask(this, ShellMessages::topToolbarIsRemoved());
+        return;
+    }
+    ToolbarCustomizer customizer(*m_topLayout, this);
+    m_program.dialogs.run(customizer);
+}
+
+void Startfrm::useDefaultPanelColor()
+{
+    QString pending = ColorText::encode(Theme::of(this).panel);
+    HINFO1::updateProgramColors(m_program, this, pending, HINFO1::updateWithoutAsking);
+    m_colors->load();
+    m_activity->say(u"All windows have their own panel color again."_s);
+}
+
+void Startfrm::openBackgroundSelector()
+{
+    if (m_selector)
+        return;
+    const BusyCursor busy;
+    m_activity->setActivity(u"Background Selector"_s);
+    m_selector = new BackgroundSelector(
+        BackgroundChoice::ofRecord(m_program.settings.tagged(SettingsKeys::background)),
+        [this](const BackgroundChoice &choice) { return picturePath(choice); }, m_picture);
+    m_colors->addPanel(m_selector->panel());
+    m_colors->load();
+    connect(m_selector, &BackgroundSelector::chosen, this, &Startfrm::showBackground);
+    connect(m_selector, &BackgroundSelector::accepted, this, &Startfrm::chooseBackground);
+    connect(m_selector, &BackgroundSelector::cancelled, this, &Startfrm::closeBackgroundSelector);
+    m_picture->showSelector(m_selector);
+    showTopToolbar();
+    showSideToolbars(m_sideToolbarsShown);
+    m_selector->focusChoice();
+}
+
+/// The selector's OK.
+void Startfrm::chooseBackground()
+{
+    m_program.settings.setTagged(SettingsKeys::background, m_selector->choice().recordText());
+    closeBackgroundSelector();
+}
+
+/// Back to the main menu with the background that the settings hold.
+void Startfrm::closeBackgroundSelector()
+{
+    m_picture->closeSelector();
+    m_selector->deleteLater();
+    m_selector = nullptr;
+    showStoredBackground();
+    showTopToolbar();
+    showSideToolbars(m_sideToolbarsShown);
+    showMainMenu();
+    m_picture->desk().focusFirstCard();
+    HINFO1::hourglassOff();
+}
