@@ -1,0 +1,138 @@
+#include "shell/page.h"
+
+#include "shell/dates.h"
+
+#include <algorithm>
+#include <optional>
+#include <type_traits>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The text of one item; nothing for an item that is no text.
+std::optional<QString> itemText(const Page::Item &item)
+{
+    return std::visit(
+        [](const auto &value) -> std::optional<QString> {
+            using T = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<T, PageItem::Line> || std::is_same_v<T, PageItem::PlacedText>)
+                return value.text;
+            else if constexpr (std::is_same_v<T, PageItem::Row>)
+                return value.cells.join(u'\t');
+            else if constexpr (std::is_same_v<T, PageItem::Columns>)
+                return value.headings.isEmpty() ? std::nullopt : std::optional(value.headings.join(u'\t'));
+            else if constexpr (std::is_same_v<T, PageItem::Blank>)
+                return value.label;
+            else if constexpr (std::is_same_v<T, PageItem::Break>)
+                return QString();
+            else
+                return std::nullopt;
+        },
+        item);
+}
+
+/// The headings over the item at this index; empty outside a table.
+QStringList headingsOver(const std::vector<Page::Item> &items, std::size_t index)
+{
+    while (index-- > 0) {
+        if (const auto *columns = std::get_if<PageItem::Columns>(&items[index]))
+            return columns->headings;
+    }
+    return {};
+}
+
+} // namespace
+
+Page::Page(QString title, QString headRight)
+    : m_title(std::move(title))
+    , m_headRight(std::move(headRight))
+{}
+
+Page &Page::line(const QString &text, TextRole role)
+{
+    m_items.emplace_back(PageItem::Line{text, role});
+    return *this;
+}
+
+Page &Page::columns(std::vector<double> weights, QStringList headings,
+                    std::vector<Qt::AlignmentFlag> alignments)
+{
+    m_items.emplace_back(PageItem::Columns{std::move(weights), std::move(headings), std::move(alignments)});
+    return *this;
+}
+
+Page &Page::row(QStringList cells, TextRole role)
+{
+    m_items.emplace_back(PageItem::Row{std::move(cells), role});
+    return *this;
+}
+
+Page &Page::blank(const QString &label)
+{
+    m_items.emplace_back(PageItem::Blank{label});
+    return *this;
+}
+
+Page &Page::picture(const QString &path, QSizeF inches)
+{
+    m_items.emplace_back(PageItem::Picture{path, inches});
+    return *this;
+}
+
+Page &Page::placeText(const QRectF &inches, const QString &text, TextRole role, Qt::Alignment alignment)
+{
+    m_items.emplace_back(PageItem::PlacedText{inches, text, role, alignment});
+    return *this;
+}
+
+Page &Page::placePicture(const QRectF &inches, const QString &path)
+{
+    m_items.emplace_back(PageItem::PlacedPicture{inches, path});
+    return *this;
+}
+
+Page &Page::rule()
+{
+    m_items.emplace_back(PageItem::Rule{});
+    return *this;
+}
+
+Page &Page::breakPage()
+{
+    m_items.emplace_back(PageItem::Break{});
+    return *this;
+}
+
+Page &Page::close(QDate printedOn, DateStyle style)
+{
+    m_closed = true;
+    m_printedLine = u"Printed on "_s + Dates::numbers(printedOn, style);
+    return *this;
+}
+
+QString Page::toText() const
+{
+    return toText(0, m_items.size() + 1);
+}
+
+QString Page::toText(std::size_t first, std::size_t end) const
+{
+    QStringList lines;
+    if (!m_title.isEmpty() || !m_headRight.isEmpty()) {
+        const QString head = m_headRight.isEmpty() ? m_title : m_title + u'\t' + m_headRight;
+        lines << QString() << head << QString();
+    }
+    const std::size_t itemsEnd = std::min(end, m_items.size());
+    const bool isInsideTable = first < itemsEnd && std::holds_alternative<PageItem::Row>(m_items[first]);
+    const QStringList headings = isInsideTable ? headingsOver(m_items, first) : QStringList();
+    if (!headings.isEmpty())
+        lines << headings.join(u'\t');
+    for (std::size_t i = first; i < itemsEnd; ++i) {
+        if (const auto text = itemText(m_items[i]))
+            lines << *text;
+    }
+    if (m_closed && end > m_items.size())
+        lines << QString() << productLine() << m_printedLine;
+    return lines.join(u'\n');
+}

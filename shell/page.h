@@ -63,15 +63,16 @@ struct Blank {
     bool operator==(const Blank &) const = default;
 };
 
-/// A picture from a file in the flow of the page, scaled to fit `size` (inches), aspect kept. A file that cannot be
-/// read leaves the place empty.
+/// A picture from a file in the flow of the page, scaled to fit `size` (inches), aspect kept. A file that
+/// cannot be read leaves the place empty.
 struct Picture {
     QString path;
     QSizeF size;
     bool operator==(const Picture &) const = default;
 };
 
-/// A text at a fixed place: inches from the sheet's top left corner, cut (elided) at the rectangle.
+/// A text at a fixed place: inches from the sheet's top left corner, wrapped to the rectangle's width and cut
+/// (elided) at its last whole line.
 struct PlacedText {
     QRectF place;
     QString text;
@@ -80,7 +81,8 @@ struct PlacedText {
     bool operator==(const PlacedText &) const = default;
 };
 
-/// A picture at a fixed place: inches from the sheet's top left corner, scaled to fit, aspect kept, top left aligned.
+/// A picture at a fixed place: inches from the sheet's top left corner, scaled to fit, aspect kept, top left
+/// aligned.
 struct PlacedPicture {
     QRectF place;
     QString path;
@@ -92,20 +94,22 @@ struct Rule {
     bool operator==(const Rule &) const = default;
 };
 
-/// Starts the next page, which repeats the title.
+/// Starts the next page, which repeats the title. Does nothing on a sheet that is still empty or behind the
+/// last item.
 struct Break {
     bool operator==(const Break &) const = default;
 };
 
 } // namespace PageItem
 
-/// A printable page, or as many as its content needs, described before anything is drawn. It belongs to no window and
-/// no paper: preview, clipboard picture, PDF and printer lay it out alike.
+/// A printable page, or as many as its content needs, described before anything is drawn. It belongs to no
+/// window and no paper: preview, clipboard picture, PDF and printer lay it out alike.
 class Page
 {
 public:
-    using Item = std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank, PageItem::Picture,
-                              PageItem::PlacedText, PageItem::PlacedPicture, PageItem::Rule, PageItem::Break>;
+    using Item =
+        std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank, PageItem::Picture,
+                     PageItem::PlacedText, PageItem::PlacedPicture, PageItem::Rule, PageItem::Break>;
 
     /// A page headed by `title`; `headRight` (usually a date) stands at the right of the title line.
     explicit Page(QString title = {}, QString headRight = {});
@@ -124,18 +128,25 @@ public:
     Page &breakPage();
 
     /// Ends the page: a blank line, "Quillery" and "Printed on " with the short date of the day of building.
+    /// The lines stand below everything else; a page of placed items leaves the half inch above the bottom
+    /// margin free for them.
     Page &close(QDate printedOn, DateStyle style);
 
     const QString &title() const { return m_title; }
     const QString &headRight() const { return m_headRight; }
     const std::vector<Item> &items() const { return m_items; }
     bool isClosed() const { return m_closed; }
+    /// The last line but one of a closed page.
+    static QString productLine() { return QStringLiteral("Quillery"); }
     /// The line with the printing date; empty until the page is closed.
     const QString &printedLine() const { return m_printedLine; }
     bool isEmpty() const { return m_items.empty(); }
 
     /// The page as plain text, a line an item, cells separated by tabs; serves the clipboard and tests.
     QString toText() const;
+    /// The same of the items from `first` up to `end`, as a sheet holds them: under the title and, inside a
+    /// table, its headings. The closing lines count as one item behind the last.
+    QString toText(std::size_t first, std::size_t end) const;
 
     bool operator==(const Page &) const = default;
 
