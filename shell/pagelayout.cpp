@@ -1,0 +1,134 @@
+#include "shell/pagelayout.h"
+
+#include "shell/sheetflow.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr double pointsPerInch = 72;
+constexpr double margin = 0.5 * pointsPerInch;
+/// The narrowest and the widest sheet that is laid out, in inches: a damaged paper size must not end in no
+/// room at all.
+constexpr double smallestSheet = 2;
+constexpr double largestSheet = 60;
+constexpr double blankGap = 8;
+constexpr qsizetype manyLines = 20;
+
+double usable(double inches)
+{
+    return std::clamp(inches, smallestSheet, largestSheet) * pointsPerInch;
+}
+
+/// The widest label of a worksheet's blanks, at most 45 % of the line.
+double longestLabel(const Page &page, const PageType &type, double lineWidth)
+{
+    double longest = 0;
+    for (const Page::Item &item : page.items()) {
+        if (const auto *blank = std::get_if<PageItem::Blank>(&item))
+            longest = std::max(longest, type.width(blank->label) + blankGap);
+    }
+    return std::min(longest, 0.45 * lineWidth);
+}
+
+} // namespace
+
+PageLayout::PageLayout(const Page &page, const PageSetup &setup, const PageFont &font)
+    : m_page(page)
+    , m_setup(setup)
+    , m_types(font)
+    , m_blankIndent(longestLabel(m_page, m_types.body, body().width()))
+    , m_longItem(m_page.items().size())
+{
+    cutIntoSheets();
+}
+
+QSizeF PageLayout::sheet() const
+{
+    const QSizeF inches = m_setup.sheet();
+    return {usable(inches.width()), usable(inches.height())};
+}
+
+QRectF PageLayout::body() const
+{
+    return QRectF({}, sheet()).adjusted(margin, margin, -margin, -margin - m_footHeight);
+}
+
+QStringList PageLayout::linesOf(std::size_t item, const PageItem::Line &line) const
+{
+    if (item == m_longItem)
+        return m_longLines;
+    const QStringList lines = m_types.of(line.role).wrapped(line.text, body().width());
+    if (lines.size() >= manyLines) {
+        m_longItem = item;
+        m_longLines = lines;
+    }
+    return lines;
+}
+
+void PageLayout::cutIntoSheets()
+{
+    if (cut(1))
+        return;
+    // The page number takes a line at the foot, so the first sheet is cut once more.
+    m_footHeight = m_types.foot.lineHeight() + 3;
+    cut(std::numeric_limits<std::size_t>::max());
+    keepClosingInCompany();
+}
+
+bool PageLayout::cut(std::size_t mostSheets)
+{
+    m_starts.assign(1, {});
+    while (const auto next = SheetFlow(*this).fill(m_starts.back())) {
+        if (m_starts.size() == mostSheets)
+            return false;
+        m_starts.push_back(*next);
+    }
+    return true;
+}
+
+/// A last sheet with nothing but the closing lines looks like a mistake: the last row goes with them.
+void PageLayout::keepClosingInCompany()
+{
+    const std::size_t count = m_page.items().size();
+    if (m_starts.size() < 2 || m_starts.back().item != count)
+        return;
+    const bool isText = std::holds_alternative<PageItem::Row>(m_page.items().back()) ||
+                        std::holds_alternative<PageItem::Line>(m_page.items().back());
+    if (isText && m_starts[m_starts.size() - 2].item + 2 < count)
+        m_starts.back().item = count - 1;
+}
+
+void PageLayout::paint(QPainter &painter, int index) const
+{
+    if (index < 0 || index >= sheetCount())
+        return;
+    SheetFlow(*this, &painter).fill(m_starts[std::size_t(index)], endOf(index));
+    if (sheetCount() > 1) {
+        const QString number =
+            u"Page "_s + QString::number(index + 1) + u" of "_s + QString::number(sheetCount());
+        const QPointF foot(margin, sheet().height() - margin - m_types.foot.lineHeight());
+        m_types.foot.draw(painter, foot, body().width(), Qt::AlignRight, number);
+    }
+}
+
+QString PageLayout::text(int index) const
+{
+    if (index < 0 || index >= sheetCount())
+        return {};
+    return m_page.toText(m_starts[std::size_t(index)].item, endOf(index));
+}
+
+std::size_t PageLayout::endOf(int index) const
+{
+    if (index + 1 == sheetCount())
+        return m_page.items().size() + 1;
+    const SheetStart next = m_starts[std::size_t(index) + 1];
+    // An item that goes on there has its beginning here.
+    return next.line > 0 ? next.item + 1 : next.item;
+}

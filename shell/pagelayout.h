@@ -1,0 +1,61 @@
+#pragma once
+
+#include "shell/dialogs.h"
+#include "shell/page.h"
+#include "shell/pagetype.h"
+
+#include <vector>
+
+class QPainter;
+
+/// Where a sheet begins.
+struct SheetStart {
+    std::size_t item =
+        0;        ///< the first item of the sheet; one past the last when only the closing lines are left
+    int line = 0; ///< the first line of that item, when the sheet before holds its beginning
+    const PageItem::Columns *columns = nullptr; ///< the table in force, started on this sheet or before
+};
+
+/// A page cut into sheets. Only the sheets' beginnings are kept: drawing one walks its items once more, so
+/// that a list of fifty thousand names takes no more room than its text.
+class PageLayout
+{
+public:
+    PageLayout(const Page &page, const PageSetup &setup, const PageFont &font);
+
+    int sheetCount() const { return int(m_starts.size()); }
+    /// Draws a sheet, in points from its top left corner; nothing for an index that is no sheet.
+    void paint(QPainter &painter, int index) const;
+    /// The sheet's text as it is read.
+    QString text(int index) const;
+
+    const Page &page() const { return m_page; }
+    const PageSetup &setup() const { return m_setup; }
+    const PageTypes &types() const { return m_types; }
+
+    /// The sheet and the part of it that the flow fills, in points.
+    QSizeF sheet() const;
+    QRectF body() const;
+    /// Where the blanks of a worksheet begin: behind the longest label, in points from the left margin.
+    double blankIndent() const { return m_blankIndent; }
+
+    /// The lines of the paragraph that is item `item`. A paragraph over several sheets is cut up once for
+    /// all.
+    QStringList linesOf(std::size_t item, const PageItem::Line &line) const;
+
+private:
+    void cutIntoSheets();
+    bool cut(std::size_t mostSheets);
+    void keepClosingInCompany();
+    /// The end of the items of a sheet; the closing lines count as one item behind the last.
+    std::size_t endOf(int index) const;
+
+    Page m_page;
+    PageSetup m_setup;
+    PageTypes m_types;
+    double m_footHeight = 0; ///< room for "Page n of m", once there is more than one sheet
+    double m_blankIndent;
+    std::vector<SheetStart> m_starts;
+    mutable std::size_t m_longItem;
+    mutable QStringList m_longLines;
+};

@@ -1,0 +1,59 @@
+#include "shell/pagepicture.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// What a printer can show; a screen asks for fewer.
+constexpr double maximumDotsPerPoint = 300 / 72.0;
+constexpr QColor rimColor(0xDD, 0xDD, 0xDD);
+
+QSize pixelsOf(const QPainter &painter, QSizeF points)
+{
+    const QTransform transform = painter.combinedTransform();
+    const double dots = std::hypot(transform.m11(), transform.m12());
+    return (points * std::clamp(dots, 0.1, maximumDotsPerPoint)).toSize().expandedTo({1, 1});
+}
+
+} // namespace
+
+PagePicture PagePicture::read(const QString &path, QSize pixels)
+{
+    // Opening a pipe or a device would wait for it.
+    if (path.isEmpty() || !QFileInfo(path).isFile())
+        return {};
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize stored = turned ? reader.size().transposed() : reader.size();
+    const QSize wanted = stored.scaled(pixels, Qt::KeepAspectRatio).expandedTo({1, 1});
+    const bool shrinks = stored.isValid() && wanted.width() < stored.width();
+    if (shrinks)
+        reader.setScaledSize(turned ? wanted.transposed() : wanted);
+    const QImage image = reader.read();
+    return {image, stored.isValid() ? stored : image.size()};
+}
+
+void drawPagePicture(QPainter &painter, const QRectF &place, const QString &path)
+{
+    if (!place.isValid())
+        return;
+    const PagePicture picture = PagePicture::read(path, pixelsOf(painter, place.size()));
+    painter.save();
+    if (picture.image.isNull()) {
+        painter.setPen(QPen(rimColor, 0.5));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(place.adjusted(0.25, 0.25, -0.25, -0.25));
+    } else {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        const QSizeF size = picture.shape.scaled(place.size(), Qt::KeepAspectRatio);
+        painter.drawImage(QRectF(place.topLeft(), size), picture.image);
+    }
+    painter.restore();
+}

@@ -1,0 +1,183 @@
+#include "shell/pagetype.h"
+
+#include "shell/dialogs.h"
+
+#include <QFontInfo>
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr double lineFactor = 1.35;
+constexpr double titlePoints = 16;
+constexpr double bodyPoints = 11;
+constexpr double headingPoints = 13;
+constexpr double smallPoints = 10;
+constexpr int longestWord = 1000;
+constexpr QColor footColor(0x5A, 0x5A, 0x5A);
+
+QFont prepared(QFont font, double points, double fine)
+{
+    // A size in pixels is the same on every device; one in points would follow its resolution.
+    font.setPixelSize(std::max(1, int(std::lround(points * fine))));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QFont semibold(QFont font)
+{
+    font.setWeight(std::max(QFont::DemiBold, QFont::Weight(font.weight())));
+    return font;
+}
+
+/// The size chosen for the body; fonts set in pixels and nonsense become something readable.
+double chosenPoints(const QFont &font)
+{
+    const double points = font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+    return points > 0 ? std::clamp(points, 4.0, 96.0) : bodyPoints;
+}
+
+/// Line ends and tabs of every kind made plain; other control characters become blanks. A word without end is
+/// cut up: for every line of it the wrapping would look at all of the rest.
+QStringList paragraphs(QString text)
+{
+    text.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n').replace(QChar::LineSeparator, u'\n');
+    text.replace(QChar::ParagraphSeparator, u'\n').replace(u'\t', "    "_L1);
+    QString plain;
+    plain.reserve(text.size());
+    int wordLength = 0;
+    for (const QChar character : text) {
+        const bool isControl = character < u' ' && character != u'\n';
+        plain += isControl ? u' ' : character;
+        wordLength = character <= u' ' ? 0 : wordLength + 1;
+        if (wordLength >= longestWord && !character.isHighSurrogate()) {
+            plain += u'\n';
+            wordLength = 0;
+        }
+    }
+    return plain.split(u'\n');
+}
+
+QString withoutTrailingBlanks(QString line)
+{
+    while (line.endsWith(u' '))
+        line.chop(1);
+    return line;
+}
+
+} // namespace
+
+PageType::PageType(const QFont &font, double points, QColor color)
+    : m_font(prepared(font, points, fine))
+    , m_metrics(m_font)
+    , m_color(color.isValid() ? color : QColor(Qt::black))
+{
+    const double height = m_metrics.height() / fine;
+    m_lineHeight = std::max(points * lineFactor, height);
+    m_baseline = (m_lineHeight - height) / 2 + m_metrics.ascent() / fine;
+    m_advances.fill(-1);
+    for (char16_t code = u' '; code < m_advances.size(); ++code) {
+        if (code < 0x7F || code > 0xA0)
+            m_advances[code] = float(m_metrics.horizontalAdvance(QChar(code)) / fine);
+    }
+}
+
+double PageType::width(const QString &text) const
+{
+    return m_metrics.horizontalAdvance(text) / fine;
+}
+
+bool PageType::surelyFits(const QString &text, double width) const
+{
+    double sum = 1; // for pairs that the font sets wider than their parts
+    for (const QChar character : text) {
+        const char16_t code = character.unicode();
+        if (code >= m_advances.size() || m_advances[code] < 0)
+            return false;
+        sum += m_advances[code];
+        if (sum > width)
+            return false;
+    }
+    return true;
+}
+
+QStringList PageType::wrapped(const QString &text, double width) const
+{
+    if (text.isEmpty() || surelyFits(text, width))
+        return {text};
+    QStringList lines;
+    for (const QString &paragraph : paragraphs(text)) {
+        if (this->width(paragraph) <= width) {
+            lines << paragraph;
+            continue;
+        }
+        QTextLayout layout(paragraph, m_font);
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(std::max(1.0, width) * fine);
+            lines << withoutTrailingBlanks(paragraph.mid(line.textStart(), line.textLength()));
+        }
+        layout.endLayout();
+    }
+    return lines;
+}
+
+QString PageType::elided(const QString &line, double width) const
+{
+    return m_metrics.elidedText(line, Qt::ElideRight, width * fine);
+}
+
+void PageType::draw(QPainter &painter, QPointF top, const QString &line) const
+{
+    if (line.isEmpty())
+        return;
+    painter.save();
+    painter.translate(top.x(), top.y() + m_baseline);
+    painter.scale(1 / fine, 1 / fine);
+    painter.setFont(m_font);
+    painter.setPen(m_color);
+    painter.drawText(QPointF(), line);
+    painter.restore();
+}
+
+void PageType::draw(QPainter &painter, QPointF top, double width, Qt::Alignment alignment,
+                    const QString &line) const
+{
+    double shift = 0;
+    if (alignment & (Qt::AlignRight | Qt::AlignHCenter))
+        shift = (width - this->width(line)) * (alignment & Qt::AlignRight ? 1 : 0.5);
+    draw(painter, top + QPointF(shift, 0), line);
+}
+
+PageTypes::PageTypes(const PageFont &font)
+    : title(semibold(QFont()), titlePoints)
+    , headRight(QFont(), bodyPoints)
+    , foot(QFont(), smallPoints, footColor)
+    , body(font.font, chosenPoints(font.font), font.color)
+    , strong(semibold(font.font), chosenPoints(font.font), font.color)
+    , heading(semibold(font.font), chosenPoints(font.font) * headingPoints / bodyPoints, font.color)
+    , small(font.font, chosenPoints(font.font) * smallPoints / bodyPoints, font.color)
+{}
+
+const PageType &PageTypes::of(TextRole role) const
+{
+    switch (role) {
+    case TextRole::Strong:
+        return strong;
+    case TextRole::Heading:
+        return heading;
+    case TextRole::Small:
+        return small;
+    case TextRole::Body:
+        break;
+    }
+    return body;
+}

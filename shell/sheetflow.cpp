@@ -1,0 +1,373 @@
+#include "shell/sheetflow.h"
+
+#include "shell/pagepicture.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr double pointsPerInch = 72;
+constexpr double margin = 0.5 * pointsPerInch;
+constexpr double thin = 0.5;
+constexpr double rule = 0.75;
+constexpr double columnGap = 10;
+constexpr double rowGap = 4.5;
+constexpr double headingGap = 4.5;
+constexpr double ruleGap = 9;
+constexpr double pictureGap = 6;
+constexpr double titleGap = 12; ///< from the rule under the title to the body
+constexpr qsizetype titleLines = 4;
+constexpr double blankFactor = 1.6; ///< room to write by hand
+constexpr QColor rowColor(0xDD, 0xDD, 0xDD);
+constexpr QColor ruleColor(0x9A, 0x9A, 0x9A);
+
+QRectF inPoints(const QRectF &inches)
+{
+    return {inches.topLeft() * pointsPerInch, inches.size() * pointsPerInch};
+}
+
+/// At most `most` lines; the last one kept takes up what follows, ended by an ellipsis.
+QStringList shortened(QStringList lines, qsizetype most, const PageType &type, double width)
+{
+    if (lines.size() > most) {
+        const QString rest = lines.mid(most - 1).join(u' ');
+        lines = lines.mid(0, most - 1);
+        lines << type.elided(rest, width);
+    }
+    return lines;
+}
+
+} // namespace
+
+SheetFlow::SheetFlow(const PageLayout &layout, QPainter *painter)
+    : m_layout(layout)
+    , m_painter(painter)
+    , m_body(layout.body())
+    , m_y(m_body.top())
+    , m_bottom(m_body.bottom())
+{}
+
+std::optional<SheetStart> SheetFlow::fill(SheetStart start, std::size_t end)
+{
+    const auto &items = m_layout.page().items();
+    m_at = start;
+    m_isFirst = start.item == 0 && start.line == 0;
+    startTable(start.columns);
+    placeTitle();
+    for (; m_at.item < std::min(end, items.size()); m_at = {m_at.item + 1, 0, nullptr}) {
+        if (!std::visit([this](const auto &item) { return place(item); }, items[m_at.item]))
+            return SheetStart{m_at.item, m_at.line, m_columns};
+    }
+    if (end <= items.size() || !m_layout.page().isClosed() || placeClosing())
+        return std::nullopt;
+    return SheetStart{items.size(), 0, m_columns};
+}
+
+void SheetFlow::placeTitle()
+{
+    const Page &page = m_layout.page();
+    if (page.title().isEmpty() && page.headRight().isEmpty())
+        return;
+    const PageType &title = types().title;
+    const PageType &right = types().headRight;
+    const QString head = right.elided(page.headRight(), m_body.width() / 2);
+    const double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + 2 * columnGap);
+    const QStringList lines =
+        shortened(title.wrapped(page.title(), titleWidth), titleLines, title, titleWidth);
+    for (const QString &line : lines) {
+        if (m_painter)
+            title.draw(*m_painter, {m_body.left(), m_y}, line);
+        m_y += title.lineHeight();
+    }
+    if (m_painter) {
+        // On the title's last line, both on one baseline.
+        const double drop = title.baseline() - right.baseline();
+        const QPointF place(m_body.left(), m_y - title.lineHeight() + drop);
+        right.draw(*m_painter, place, m_body.width(), Qt::AlignRight, head);
+    }
+    m_y += 3;
+    drawRule(m_y, rule, Qt::black);
+    m_y += rule + titleGap;
+}
+
+qsizetype SheetFlow::lineCount(const std::vector<Cell> &cells)
+{
+    qsizetype most = 1;
+    for (const Cell &cell : cells)
+        most = std::max(most, cell.lines.size());
+    return most;
+}
+
+void SheetFlow::drawCells(const std::vector<Cell> &cells, const PageType &type, double top,
+                          qsizetype count) const
+{
+    for (const Cell &cell : cells) {
+        const qsizetype end = std::min(m_at.line + count, cell.lines.size());
+        for (qsizetype i = m_at.line; m_painter && i < end; ++i) {
+            const QPointF place(cell.left, top + double(i - m_at.line) * type.lineHeight());
+            type.draw(*m_painter, place, cell.width, cell.alignment, cell.lines[i]);
+        }
+    }
+}
+
+bool SheetFlow::placeCells(const std::vector<Cell> &cells, const PageType &type, double gap, Split split)
+{
+    const qsizetype left = lineCount(cells) - m_at.line;
+    const double fitting = std::clamp((room() - gap + 0.01) / type.lineHeight(), 0.0, double(left));
+    qsizetype count = qsizetype(fitting);
+    // Only what is taller than a whole sheet is cut against its will; a fresh sheet always takes something.
+    if (count < left && split == Split::Never && !m_isFresh)
+        count = 0;
+    if (m_isFresh)
+        count = std::max<qsizetype>(count, 1);
+    if (count == 0)
+        return false;
+    drawCells(cells, type, m_y + gap / 2, count);
+    m_y += gap + double(count) * type.lineHeight();
+    m_at.line += int(count);
+    m_isFresh = false;
+    return count == left;
+}
+
+bool SheetFlow::place(const PageItem::Line &line)
+{
+    const PageType &type = types().of(line.role);
+    m_rowAbove = false;
+    if (line.text.isEmpty()) {
+        // A blank line parts two texts; at the top or the foot of a sheet it has nothing to part.
+        if (!m_isFresh || m_isFirst)
+            m_y += type.lineHeight();
+        return true;
+    }
+    const bool leads = line.role == TextRole::Heading;
+    if (leads && !m_isFresh && room() < type.lineHeight() + types().body.lineHeight())
+        return false;
+    const Cell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line)};
+    return placeCells({cell}, type, 0, Split::AtLines);
+}
+
+void SheetFlow::startTable(const PageItem::Columns *columns)
+{
+    m_columns = columns;
+    m_headingsShown = false;
+    m_rowAbove = false;
+    m_boxes.clear();
+    if (!columns)
+        return;
+    const auto weight = [](double value) { return std::isfinite(value) && value > 0 ? value : 0; };
+    double sum = 0;
+    for (const double value : columns->weights)
+        sum += weight(value);
+    const double usable = m_body.width() - columnGap * (double(columns->weights.size()) - 1);
+    double left = m_body.left();
+    for (std::size_t i = 0; i < columns->weights.size() && sum > 0; ++i) {
+        const double width = usable * weight(columns->weights[i]) / sum;
+        const auto alignment = i < columns->alignments.size() ? columns->alignments[i] : Qt::AlignLeft;
+        m_boxes.push_back({left, width, alignment, {}});
+        left += width + columnGap;
+    }
+}
+
+std::vector<SheetFlow::Cell> SheetFlow::cellsOf(const QStringList &texts, const PageType &type) const
+{
+    std::vector<Cell> cells = m_boxes;
+    if (cells.empty()) { // a row outside a table: equal columns
+        const double width = m_body.width() / double(std::max<qsizetype>(1, texts.size()));
+        for (qsizetype i = 0; i < texts.size(); ++i)
+            cells.push_back({m_body.left() + double(i) * width, width - columnGap, Qt::AlignLeft, {}});
+    }
+    for (std::size_t i = 0; i < cells.size() && qsizetype(i) < texts.size(); ++i) {
+        const bool isLast = i + 1 == cells.size();
+        // Texts beyond the last column join it, so that nothing is lost.
+        const QString text = isLast ? texts.mid(qsizetype(i)).join("  "_L1) : texts[qsizetype(i)];
+        cells[i].lines = type.wrapped(text, cells[i].width);
+    }
+    return cells;
+}
+
+std::vector<SheetFlow::Cell> SheetFlow::headingCells() const
+{
+    if (m_headingsShown || !m_columns || m_columns->headings.isEmpty())
+        return {};
+    std::vector<Cell> cells = cellsOf(m_columns->headings, types().strong);
+    // They come again on every sheet: whatever the font, most of it stays for the rows.
+    const auto most = std::max<qsizetype>(1, qsizetype(m_body.height() / 3 / types().strong.lineHeight()));
+    for (Cell &cell : cells)
+        cell.lines = shortened(std::move(cell.lines), most, types().strong, cell.width);
+    return cells;
+}
+
+double SheetFlow::headingHeight(const std::vector<Cell> &cells) const
+{
+    return cells.empty() ? 0 : double(lineCount(cells)) * types().strong.lineHeight() + headingGap;
+}
+
+void SheetFlow::placeHeadings(const std::vector<Cell> &cells)
+{
+    if (std::exchange(m_headingsShown, true) || cells.empty())
+        return;
+    const int line = std::exchange(m_at.line, 0);
+    drawCells(cells, types().strong, m_y, lineCount(cells));
+    m_at.line = line;
+    m_y += headingHeight(cells);
+    drawRule(m_y - rule - 1, rule, Qt::black);
+}
+
+bool SheetFlow::place(const PageItem::Columns &columns)
+{
+    startTable(&columns);
+    const std::vector<Cell> headings = headingCells();
+    // Headings never stand alone at the foot of a sheet.
+    if (!m_isFresh && room() < headingHeight(headings) + rowGap + types().body.lineHeight())
+        return false;
+    placeHeadings(headings);
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::Row &row)
+{
+    const PageType &type = types().of(row.role);
+    const std::vector<Cell> cells = cellsOf(row.cells, type);
+    const std::vector<Cell> headings = headingCells();
+    const double height = headingHeight(headings) + rowGap + double(lineCount(cells)) * type.lineHeight();
+    if (!m_isFresh && m_at.line == 0 && room() < height)
+        return false;
+    placeHeadings(headings);
+    if (m_rowAbove)
+        drawRule(m_y, thin, rowColor);
+    m_rowAbove = true;
+    return placeCells(cells, type, rowGap, Split::Never);
+}
+
+bool SheetFlow::place(const PageItem::Blank &blank)
+{
+    const PageType &type = types().body;
+    const double height = blankFactor * type.lineHeight();
+    if (!m_isFresh && room() < height)
+        return false;
+    m_rowAbove = false;
+    m_isFresh = false;
+    const double indent = m_layout.blankIndent();
+    if (m_painter) {
+        const QPointF place(m_body.left(), m_y + height - type.lineHeight());
+        type.draw(*m_painter, place, type.elided(blank.label, indent));
+    }
+    drawRule(m_y + height - type.lineHeight() + type.baseline() + 2, thin, Qt::black, indent);
+    m_y += height;
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::Picture &picture)
+{
+    const QSizeF wanted = picture.size * pointsPerInch;
+    const QSizeF size = wanted.boundedTo(m_body.size());
+    if (!size.isValid())
+        return true;
+    const double gap = m_isFresh ? 0 : pictureGap;
+    if (!m_isFresh && room() < gap + size.height())
+        return false;
+    m_y += gap;
+    const QRectF place({m_body.left(), m_y}, QSizeF(size.width(), std::min(size.height(), room())));
+    if (m_painter)
+        drawPagePicture(*m_painter, place, picture.path);
+    m_y = place.bottom() + pictureGap;
+    m_rowAbove = false;
+    m_isFresh = false;
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::PlacedText &text)
+{
+    const PageType &type = types().of(text.role);
+    const QRectF place = inPoints(text.place);
+    // A rectangle as high as a line on paper may be a hair lower than the line height.
+    const auto most = std::max<qsizetype>(1, qsizetype(place.height() / type.lineHeight() + 0.1));
+    const QStringList lines = shortened(type.wrapped(text.text, place.width()), most, type, place.width());
+    const double height = double(lines.size()) * type.lineHeight();
+    double top = place.top();
+    if (text.alignment & Qt::AlignBottom)
+        top = place.bottom() - height;
+    else if (text.alignment & Qt::AlignVCenter)
+        top = place.center().y() - height / 2;
+    m_isFresh = false;
+    m_lowestPlaced = std::max(m_lowestPlaced, top + height);
+    for (qsizetype i = 0; m_painter && i < lines.size(); ++i) {
+        const QPointF at(place.left(), top + double(i) * type.lineHeight());
+        type.draw(*m_painter, at, place.width(), text.alignment, lines[i]);
+    }
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::PlacedPicture &picture)
+{
+    const QRectF place = inPoints(picture.place);
+    m_isFresh = false;
+    m_lowestPlaced = std::max(m_lowestPlaced, place.bottom());
+    if (m_painter)
+        drawPagePicture(*m_painter, place, picture.path);
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::Rule &)
+{
+    if (room() < ruleGap)
+        return true; // the edge of the sheet parts the texts as well
+    drawRule(m_y + ruleGap / 2, thin, ruleColor);
+    m_y += ruleGap;
+    m_rowAbove = false;
+    m_isFresh = false;
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::Break &)
+{
+    const bool isLast = m_at.item + 1 == m_layout.page().items().size();
+    if (m_isFresh || isLast)
+        return true;
+    m_at = {m_at.item + 1, 0, nullptr};
+    return false;
+}
+
+bool SheetFlow::placeClosing()
+{
+    const PageType &type = types().foot;
+    const double lines = 2 * type.lineHeight();
+    const double top = std::max(m_y, m_lowestPlaced);
+    // Placed items may reach below the margin; a quarter of an inch every printer can print on.
+    const double lowest = m_layout.sheet().height() - (m_lowestPlaced > 0 ? margin / 2 : margin);
+    double gap = types().body.lineHeight();
+    if (top + gap + ruleGap + lines > m_bottom)
+        gap = 0;
+    if (!m_isFresh && top + gap + ruleGap + lines > lowest)
+        return false;
+    m_y = top + gap;
+    drawRule(m_y + ruleGap / 2, thin, ruleColor);
+    m_y += ruleGap;
+    if (m_painter) {
+        type.draw(*m_painter, {m_body.left(), m_y}, Page::productLine());
+        type.draw(*m_painter, {m_body.left(), m_y + type.lineHeight()}, m_layout.page().printedLine());
+    }
+    return true;
+}
+
+void SheetFlow::drawRule(double y, double thickness, const QColor &color, double indent) const
+{
+    if (!m_painter)
+        return;
+    QRectF line(m_body.left() + indent, y, m_body.width() - indent, thickness);
+    const QTransform transform = m_painter->combinedTransform();
+    if (transform.type() <= QTransform::TxScale) {
+        // Whole device dots, so that a thin line is sharp on the screen and never lost.
+        const QRectF dots = transform.mapRect(line);
+        const QRectF sharp(dots.left(), std::round(dots.top()), dots.width(),
+                           std::max(1.0, std::round(dots.height())));
+        line = transform.inverted().mapRect(sharp);
+    }
+    m_painter->fillRect(line, color);
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "shell/pagelayout.h"
+
+#include <limits>
+#include <optional>
+#include <vector>
+
+class QPainter;
+
+/// Fills one sheet with items until it is full. The same walk measures (without a painter) and draws, so that
+/// what is drawn is what was measured.
+class SheetFlow
+{
+public:
+    explicit SheetFlow(const PageLayout &layout, QPainter *painter = nullptr);
+
+    static constexpr std::size_t toTheEnd = std::numeric_limits<std::size_t>::max();
+
+    /// Fills the sheet that begins at `start`, with items before `end` only. Gives the beginning of the next
+    /// one, or nothing after the last.
+    std::optional<SheetStart> fill(SheetStart start, std::size_t end = toTheEnd);
+
+private:
+    /// A text between two edges of the sheet, cut into lines.
+    struct Cell {
+        double left = 0;
+        double width = 0;
+        Qt::Alignment alignment = Qt::AlignLeft;
+        QStringList lines;
+    };
+    enum class Split { Never, AtLines };
+    static qsizetype lineCount(const std::vector<Cell> &cells);
+
+    /// Each places one item at the current height, or as much of it as fits. False: the rest goes to the next
+    /// sheet.
+    bool place(const PageItem::Line &line);
+    bool place(const PageItem::Columns &columns);
+    bool place(const PageItem::Row &row);
+    bool place(const PageItem::Blank &blank);
+    bool place(const PageItem::Picture &picture);
+    bool place(const PageItem::PlacedText &text);
+    bool place(const PageItem::PlacedPicture &picture);
+    bool place(const PageItem::Rule &);
+    bool place(const PageItem::Break &);
+    bool placeClosing();
+
+    void placeTitle();
+    void placeHeadings(const std::vector<Cell> &cells);
+    double headingHeight(const std::vector<Cell> &cells) const;
+    /// Draws `count` lines of each cell, from the item's current line on.
+    void drawCells(const std::vector<Cell> &cells, const PageType &type, double top, qsizetype count) const;
+    bool placeCells(const std::vector<Cell> &cells, const PageType &type, double gap, Split split);
+    std::vector<Cell> headingCells() const;
+    std::vector<Cell> cellsOf(const QStringList &texts, const PageType &type) const;
+    void startTable(const PageItem::Columns *columns);
+    void drawRule(double y, double thickness, const QColor &color, double indent = 0) const;
+
+    double room() const { return m_bottom - m_y; }
+    const PageTypes &types() const { return m_layout.types(); }
+
+    const PageLayout &m_layout;
+    QPainter *m_painter;
+    QRectF m_body;
+    SheetStart m_at;
+    double m_y;
+    double m_bottom;
+    bool m_isFirst = true;
+    double m_lowestPlaced = 0;
+    bool m_isFresh = true; ///< nothing but title and headings stands on the sheet yet
+
+    const PageItem::Columns *m_columns = nullptr;
+    std::vector<Cell> m_boxes; ///< the table's columns, without lines
+    bool m_headingsShown = false;
+    bool m_rowAbove = false;
+};
