@@ -1,0 +1,336 @@
+#include "shell/previewpane.h"
+
+#include "shell/activitybar.h"
+#include "shell/busycursor.h"
+#include "shell/controls.h"
+#include "shell/pagepainter.h"
+#include "shell/previewcontrols.h"
+#include "shell/previewmessages.h"
+#include "shell/printjob.h"
+#include "shell/program.h"
+#include "shell/sheetview.h"
+#include "shell/theme.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int windowMargin = 16;
+constexpr int columnWidth = 208;
+constexpr int deskPadding = 14;
+constexpr int buttonHeight = 40;
+constexpr int defaultPoints = 11;
+constexpr double clipboardDotsPerInch = 150;
+constexpr double millimetersPerInch = 25.4;
+
+/// The zoom button tells its state by its caption: the command that it offers next.
+QString enlargeCaption()
+{
+    return u"Enlar&ge"_s;
+}
+
+QSizeF usualPaper(DateStyle style)
+{
+    const QSizeF letter(8.5, 11);
+    const QSizeF a4(210 / millimetersPerInch, 297 / millimetersPerInch);
+    return style == DateStyle::Usa ? letter : a4;
+}
+
+QString withoutAccessKey(QString caption)
+{
+    return caption.remove(u'&');
+}
+
+ColumnButton *makeColumnButton(const QString &name, const QString &caption, QLatin1StringView icon,
+                               QWidget *parent, ButtonKind kind = ButtonKind::Plain)
+{
+    auto *button = named(new ColumnButton(caption, parent), name);
+    button->setAutoDefault(false);
+    button->setMinimumHeight(buttonHeight);
+    setButtonKind(button, kind);
+    button->setSign(icon);
+    return button;
+}
+
+} // namespace
+
+PreviewPane::PreviewPane(Program &program, ActivityBar &activity, QWidget *parent)
+    : QWidget(parent)
+    , m_program(program)
+    , m_activity(activity)
+    , m_setup{usualPaper(program.state.dateStyle), PageSetup::Portrait}
+    , m_font{QApplication::font(), Qt::black}
+    , m_deskPanel(named(new PanelFrame(this), u"previewPanel"_s))
+    , m_view(named(new SheetView(m_deskPanel), u"VSPrinter1"_s))
+    , m_buttonPanel(named(new PanelFrame(this), u"SSPanel80"_s))
+    , m_showButtons(named(new EdgeTab(u"Show &Buttons"_s, this), u"showButtons"_s))
+{
+    m_font.font.setPointSize(defaultPoints);
+    m_view->setAccessibleName(u"Page preview"_s);
+    auto *desk = new QHBoxLayout(m_deskPanel);
+    desk->setContentsMargins(deskPadding, deskPadding, deskPadding, deskPadding);
+    desk->addWidget(m_view);
+    makeCommands();
+    fillButtonPanel();
+    m_showButtons->setIcon(Icons::icon("show-buttons"_L1, Theme::of(this).scheme));
+    m_showButtons->setFont(TypeScale::body());
+    m_showButtons->hide();
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+    row->setSpacing(windowMargin);
+    row->addWidget(m_deskPanel, 1);
+    row->addWidget(m_buttonPanel);
+    row->addWidget(m_showButtons, 0, Qt::AlignTop);
+    setFocusProxy(m_commands[Print]);
+    connectControls();
+    showOrientation();
+    showFont();
+    showSheet(0);
+}
+
+PreviewPane::~PreviewPane() = default;
+
+void PreviewPane::makeCommands()
+{
+    struct Face {
+        QString caption;
+        QLatin1StringView icon;
+    };
+    // The letters of the windows' menus (O, E, V, U, H) stay free.
+    const std::array<Face, CommandCount> faces{{{u"&Font"_s, "font"_L1},
+                                                {u"&Landscape"_s, "orientation"_L1},
+                                                {u"Hide &Buttons"_s, "hide-buttons"_L1},
+                                                {u"&Copy Page"_s, "copy"_L1},
+                                                {u"&Print"_s, "print"_L1}}};
+    for (std::size_t i = 0; i < CommandCount; ++i) {
+        m_commands[i] =
+            makeColumnButton(u"SSCommand80_"_s + QString::number(i), faces[i].caption, faces[i].icon,
+                             m_buttonPanel, i == Print ? ButtonKind::Main : ButtonKind::Plain);
+    }
+}
+
+void PreviewPane::fillButtonPanel()
+{
+    m_orientation = named(makeQuietLabel({}, m_buttonPanel), u"Panel3D80"_s);
+    m_zoom = makeColumnButton(u"SSCommand1"_s, enlargeCaption(), "zoom-in"_L1, m_buttonPanel);
+    m_fontSample = named(new FontSample(u"Sample of the page font"_s, m_buttonPanel), u"Panel3d82"_s);
+    m_close = makeColumnButton(u"SSCommand2"_s, u"Close Previe&w"_s, "exit"_L1, m_buttonPanel);
+
+    m_buttonPanel->setFixedWidth(columnWidth);
+    auto *column = new QVBoxLayout(m_buttonPanel);
+    column->setContentsMargins(deskPadding, 16, deskPadding, deskPadding);
+    column->setSpacing(10);
+    column->addWidget(makeHeading(u"Page"_s, m_buttonPanel));
+    column->addWidget(m_orientation);
+    column->addLayout(makeSteps());
+    column->addSpacing(4);
+    for (const Command command : {Print, ChooseFont, TurnPage, CopyPage})
+        column->addWidget(m_commands[command]);
+    column->addWidget(m_zoom);
+    column->addWidget(m_fontSample);
+    column->addStretch(1);
+    column->addWidget(m_commands[ToggleButtons]);
+    column->addWidget(m_close);
+}
+
+QHBoxLayout *PreviewPane::makeSteps()
+{
+    m_previous = makeIconButton(u"previousPage"_s, "previous"_L1, u"Previous page"_s, m_buttonPanel);
+    m_next = makeIconButton(u"nextPage"_s, "next"_L1, u"Next page"_s, m_buttonPanel);
+    m_pageNumber = named(new ElidedLabel(m_buttonPanel), u"pageNumber"_s);
+    m_pageNumber->setFont(TypeScale::strong());
+    m_pageNumber->setAlignment(Qt::AlignCenter);
+    auto *steps = new QHBoxLayout;
+    steps->setSpacing(4);
+    steps->addWidget(m_previous);
+    steps->addWidget(m_pageNumber, 1);
+    steps->addWidget(m_next);
+    return steps;
+}
+
+void PreviewPane::connectControls()
+{
+    for (std::size_t i = 0; i < CommandCount; ++i)
+        connect(m_commands[i], &QPushButton::clicked, this, [this, i] { run(Command(i)); });
+    connect(m_zoom, &QPushButton::clicked, this, &PreviewPane::toggleZoom);
+    connect(m_close, &QPushButton::clicked, this, &PreviewPane::closed);
+    connect(m_showButtons, &QPushButton::clicked, this, [this] { run(ToggleButtons); });
+    connect(m_previous, &QPushButton::clicked, this, [this] { showSheet(m_sheet - 1); });
+    connect(m_next, &QPushButton::clicked, this, [this] { showSheet(m_sheet + 1); });
+    connect(m_view, &SheetView::stepRequested, this, [this](int step, SheetView::Edge edge) {
+        const int sheet = m_sheet + step;
+        if (sheet >= 0 && sheet < sheetCount())
+            showSheet(sheet, edge);
+    });
+    connect(m_view, &SheetView::firstRequested, this, [this] { showSheet(0); });
+    connect(m_view, &SheetView::lastRequested, this, [this] { showSheet(sheetCount() - 1); });
+}
+
+void PreviewPane::show(Builder builder, const QString &jobName)
+{
+    m_builder = std::move(builder);
+    m_jobName = jobName;
+    m_sheet = 0;
+    rebuild();
+}
+
+void PreviewPane::rebuild()
+{
+    if (m_isBuilding)
+        return; // asked for while messages run: the build that follows them takes the newest content anyway
+    m_isBuilding = true;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    {
+        const BusyCursor busy;
+        auto painter = std::make_unique<PagePainter>(paginated(m_setup));
+        m_view->setSheet(nullptr, 0);
+        m_painter = std::move(painter);
+    }
+    m_isBuilding = false;
+    showSheet(m_sheet);
+}
+
+PagePainter PreviewPane::paginated(const PageSetup &setup) const
+{
+    return PagePainter(m_builder ? m_builder(setup) : Page(), setup, m_font);
+}
+
+bool PreviewPane::print()
+{
+    if (!m_painter || m_isBuilding)
+        return false;
+    PrintJob job(m_program, m_activity, window(), m_jobName);
+    return job.run(*m_painter, m_setup, m_sheet, [this](const PageSetup &setup) { return paginated(setup); });
+}
+
+void PreviewPane::setDeskColor(const QColor &color)
+{
+    m_view->setDeskColor(color);
+}
+
+QList<QWidget *> PreviewPane::panels() const
+{
+    return {m_deskPanel, m_buttonPanel};
+}
+
+int PreviewPane::sheetCount() const
+{
+    return m_painter ? m_painter->sheetCount() : 1;
+}
+
+void PreviewPane::run(Command command)
+{
+    switch (command) {
+    case ChooseFont:
+        return chooseFont();
+    case TurnPage:
+        return turnPage();
+    case ToggleButtons:
+        return toggleButtons();
+    case CopyPage:
+        return copyPage();
+    case Print:
+        print();
+        return;
+    case CommandCount:
+        return;
+    }
+}
+
+void PreviewPane::chooseFont()
+{
+    const auto font = m_program.dialogs.chooseFont(this, m_font);
+    if (!font)
+        return;
+    m_font = *font;
+    showFont();
+    rebuild();
+}
+
+void PreviewPane::turnPage()
+{
+    const bool wasPortrait = m_setup.orientation == PageSetup::Portrait;
+    m_setup.orientation = wasPortrait ? PageSetup::Landscape : PageSetup::Portrait;
+    showOrientation();
+    rebuild();
+}
+
+void PreviewPane::toggleButtons()
+{
+    const bool shown = m_buttonPanel->isHidden();
+    m_buttonPanel->setVisible(shown);
+    m_showButtons->setVisible(!shown);
+    // The focus goes with the button that was pressed, never to a hidden one.
+    QPushButton *button = shown ? m_commands[ToggleButtons] : m_showButtons;
+    setFocusProxy(shown ? m_commands[Print] : m_showButtons);
+    button->setFocus();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void PreviewPane::copyPage()
+{
+    const PagePainter empty{Page(), m_setup, m_font};
+    const PagePainter &page = m_painter ? *m_painter : empty;
+    auto *data = new QMimeData;
+    data->setImageData(page.image(m_sheet, clipboardDotsPerInch));
+    data->setText(page.text(m_sheet));
+    QApplication::clipboard()->setMimeData(data);
+    m_program.dialogs.ask(this, PreviewMessages::pageCopied());
+}
+
+void PreviewPane::toggleZoom()
+{
+    const bool enlarge = withoutAccessKey(m_zoom->text()) == withoutAccessKey(enlargeCaption());
+    m_zoom->setText(enlarge ? u"&Normal"_s : enlargeCaption());
+    m_zoom->setSign(enlarge ? "zoom-out"_L1 : "zoom-in"_L1);
+    m_view->setZoom(enlarge ? SheetView::Zoom::Enlarged : SheetView::Zoom::Whole);
+}
+
+void PreviewPane::showSheet(int sheet, SheetView::Edge edge)
+{
+    m_sheet = std::clamp(sheet, 0, sheetCount() - 1);
+    m_view->setSheet(m_painter.get(), m_sheet, edge);
+    m_pageNumber->setText(PreviewMessages::pageOf(m_sheet + 1, sheetCount()));
+    setUnavailable(m_previous, m_sheet == 0 ? PreviewMessages::firstPage() : QString());
+    setUnavailable(m_next, m_sheet + 1 == sheetCount() ? PreviewMessages::lastPage() : QString());
+}
+
+void PreviewPane::showOrientation()
+{
+    const bool isPortrait = m_setup.orientation == PageSetup::Portrait;
+    m_orientation->setText(isPortrait ? u" Portrait"_s : u" Landscape"_s);
+    m_commands[TurnPage]->setText(isPortrait ? u"&Landscape"_s : u"Po&rtrait"_s);
+}
+
+void PreviewPane::showFont()
+{
+    QPalette colors = m_fontSample->palette();
+    colors.setColor(QPalette::WindowText, m_font.color);
+    m_fontSample->setPalette(colors);
+    m_fontSample->setFont(m_font.font);
+}
+
+void PreviewPane::keyPressEvent(QKeyEvent *event)
+{
+    // The buttons leave these keys alone: they turn the pages wherever the focus is.
+    switch (event->key()) {
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        m_view->handleKey(event->key());
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}

@@ -2,21 +2,25 @@
 
 #include "shell/dialogs.h"
 #include "shell/page.h"
+#include "shell/sheetview.h"
 
 #include <QWidget>
 
+#include <array>
 #include <functional>
 #include <memory>
 
 class ActivityBar;
+class ColumnButton;
 class PagePainter;
+class PanelFrame;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
-class SheetView;
 struct Program;
 
-/// The page preview of a function window: the sheet on its desk and the column of buttons beside it. The page is built
-/// again by `builder` after each change of font, orientation or data.
+/// The page preview of a function window: the sheet on its desk and the column of buttons beside it. The page
+/// is built again by `builder` after each change of font, orientation or data.
 class PreviewPane final : public QWidget
 {
     Q_OBJECT
@@ -26,23 +30,49 @@ public:
     PreviewPane(Program &program, ActivityBar &activity, QWidget *parent = nullptr);
     ~PreviewPane() override;
 
-    /// Takes a new content and shows its first sheet. `jobName` is the proposed name of a PDF.
+    using QWidget::show;
+    /// Takes a new content and shows its first sheet. `jobName` is the proposed name of a PDF. The pane
+    /// itself is made visible by its window.
     void show(Builder builder, const QString &jobName);
     void rebuild();
 
-    /// Prints what the builder gives: the platform's print dialog, or a PDF where there is no printer. Says in the
-    /// status bar how it went; false when cancelled or failed.
+    /// Prints what the builder gives: the platform's print dialog, or a PDF where there is no printer. Says
+    /// in the status bar how it went; false when cancelled or failed.
     bool print();
 
     void setDeskColor(const QColor &color); ///< invalid: as designed
+    /// The panels around desk and buttons, for the window's panel colours.
+    QList<QWidget *> panels() const;
+
     int sheetCount() const;
-    int currentSheet() const;
+    int currentSheet() const { return m_sheet; }
     const PageSetup &setup() const { return m_setup; }
 
 signals:
     void closed();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
+    /// The indices of the button array.
+    enum Command { ChooseFont, TurnPage, ToggleButtons, CopyPage, Print, CommandCount };
+
+    void makeCommands();
+    void fillButtonPanel();
+    QHBoxLayout *makeSteps();
+    void connectControls();
+    void run(Command command);
+    void chooseFont();
+    void turnPage();
+    void toggleButtons();
+    void copyPage();
+    void toggleZoom();
+    void showSheet(int sheet, SheetView::Edge edge = SheetView::Edge::Top);
+    void showOrientation();
+    void showFont();
+    PagePainter paginated(const PageSetup &setup) const;
+
     Program &m_program;
     ActivityBar &m_activity;
     Builder m_builder;
@@ -50,5 +80,19 @@ private:
     PageSetup m_setup;
     PageFont m_font;
     std::unique_ptr<PagePainter> m_painter;
+    int m_sheet = 0;
+    bool m_isBuilding = false;
+
+    PanelFrame *m_deskPanel;
     SheetView *m_view;
+    PanelFrame *m_buttonPanel;
+    QPushButton *m_showButtons;
+    std::array<QPushButton *, CommandCount> m_commands{};
+    ColumnButton *m_zoom = nullptr;
+    QPushButton *m_close = nullptr;
+    QPushButton *m_previous = nullptr;
+    QPushButton *m_next = nullptr;
+    QLabel *m_pageNumber = nullptr;
+    QLabel *m_orientation = nullptr;
+    QLabel *m_fontSample = nullptr;
 };

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "shell/message.h"
+
+/// The fixed wording of preview and printing.
+namespace PreviewMessages {
+
+inline Message pageCopied()
+{
+    return {QStringLiteral("Copy Option"),
+            QStringLiteral("Current Page has been copied to the Windows Clipboard.")};
+}
+
+inline QString printToFileTitle()
+{
+    return QStringLiteral("Print to File (PDF)");
+}
+
+inline QString pageOf(int page, int count)
+{
+    return QStringLiteral("Page %1 of %2").arg(page).arg(count);
+}
+
+// Why a step is not offered
+
+inline QString firstPage()
+{
+    return QStringLiteral("This is the first page");
+}
+
+inline QString lastPage()
+{
+    return QStringLiteral("This is the last page");
+}
+
+// Quiet lines of the status bar
+
+inline QString savedAs(const QString &path)
+{
+    return QStringLiteral("Saved as %1").arg(path);
+}
+
+inline QString notSaved(const QString &path, const QString &reason)
+{
+    return QStringLiteral("Could not save %1: %2").arg(path, reason);
+}
+
+inline QString printed(int sheets)
+{
+    return sheets == 1 ? QStringLiteral("1 page sent to the printer")
+                       : QStringLiteral("%1 pages sent to the printer").arg(sheets);
+}
+
+inline QString notPrinted()
+{
+    return QStringLiteral("The printer did not take the page");
+}
+
+inline QString noSuchPage()
+{
+    return QStringLiteral("None of the pages asked for exists; nothing was printed");
+}
+
+inline QString printingStopped()
+{
+    return QStringLiteral("Printing was stopped");
+}
+
+} // namespace PreviewMessages

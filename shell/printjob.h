@@ -1,0 +1,41 @@
+#pragma once
+
+#include "shell/pagepainter.h"
+
+#include <functional>
+#include <vector>
+
+class ActivityBar;
+class QPagedPaintDevice;
+class QPrinter;
+class QWidget;
+struct Program;
+
+/// Takes a page to paper through the platform's print dialog, or into a PDF where there is no printer. Says
+/// in the status bar how it went; a failure never opens a box.
+class PrintJob
+{
+public:
+    /// Lays the page out for another paper or orientation, chosen in the print dialog.
+    using Relayout = std::function<PagePainter(const PageSetup &)>;
+
+    /// `name` is the document's name and the proposed name of the PDF.
+    PrintJob(Program &program, ActivityBar &activity, QWidget *parent, QString name);
+
+    /// `currentSheet` is what "current page" means in the dialog. False when cancelled, stopped or failed.
+    bool run(const PagePainter &painter, const PageSetup &setup, int currentSheet, const Relayout &relayout);
+
+private:
+    enum class Outcome { Done, Stopped, Failed };
+
+    bool toPrinter(const PagePainter &painter, const PageSetup &setup, int currentSheet,
+                   const Relayout &relayout);
+    bool toFile(const PagePainter &painter);
+    Outcome printSheets(const PagePainter &painter, QPagedPaintDevice &device,
+                        const std::vector<int> &sheets);
+
+    Program &m_program;
+    ActivityBar &m_activity;
+    QWidget *m_parent;
+    QString m_name;
+};
