@@ -1,5 +1,9 @@
 #include "planner/dayrecord.h"
 
+#include "planner/plannerday.h"
+
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace DayRecord {
@@ -22,6 +26,24 @@ int number(QDate date)
     default:
         return 10 * date.day() + date.month();
     }
+}
+
+QByteArrayView ofNumber(QByteArrayView year, int number)
+{
+    const qsizetype offset = qsizetype(number - 1) * length;
+    return offset < year.size() ? year.sliced(offset, std::min<qsizetype>(length, year.size() - offset))
+                                : QByteArrayView();
+}
+
+bool isSaved(QByteArrayView record)
+{
+    constexpr QByteArrayView mark("Full      ");
+    constexpr qsizetype markAt = plannerDayLayout.size() - mark.size();
+    if (record.size() <= markAt)
+        return false;
+    const QByteArrayView found = record.sliced(markAt, std::min(mark.size(), record.size() - markAt));
+    // Nearly every mark has these ten bytes; a cut or otherwise padded one is looked at more closely.
+    return found == mark || AnsiText::fieldText(found) == PlannerDay::savedMark;
 }
 
 QDate date(int record, int year)

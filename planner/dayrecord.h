@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QDate>
 #include <QString>
 
@@ -15,6 +16,12 @@ QString yearFileName(int year);
 
 /// The record of `date`: day and month as digits up to September, a block of its own for each month after.
 int number(QDate date);
+
+/// The bytes of a record in the bytes of its year's file; fewer or none when the file is short.
+QByteArrayView ofNumber(QByteArrayView year, int number);
+
+/// Whether a record carries the mark of a saved day; asked before a record is decoded, since many are holes.
+bool isSaved(QByteArrayView record);
 
 /// The date of `record` in `year`; an invalid date for a record that no date of that year produces.
 QDate date(int record, int year);

@@ -1,14 +1,30 @@
 #include "planner/plannerfiles.h"
 
 #include "planner/dayrecord.h"
+#include "storage/log.h"
 #include "storage/recordfile.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void visitDays(QByteArrayView year, QDate from, QDate to,
+               const std::function<void(QDate, const PlannerDay &)> &visit)
+{
+    for (QDate date = from; date <= to; date = date.addDays(1)) {
+        const QByteArrayView record = DayRecord::ofNumber(year, DayRecord::number(date));
+        if (DayRecord::isSaved(record))
+            visit(date, plannerDayLayout.decode(record));
+    }
+}
+
+} // namespace
 
 PlannerFiles::PlannerFiles(const DataFolder &folder)
     : m_folder(folder)
@@ -45,19 +61,33 @@ bool PlannerFiles::write(QDate date, const PlannerDay &day) const
     return file.write(DayRecord::number(date), plannerDayLayout.encode(saved));
 }
 
+QByteArray PlannerFiles::yearBytes(int year) const
+{
+    QFile file(yearFilePath(year));
+    if (!QFileInfo(file).isFile())
+        return {};
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        qCWarning(storageLog).noquote() << "Cannot read" << file.fileName() << '-' << file.errorString();
+        return {};
+    }
+    return file.read(std::min<qint64>(file.size(), qint64(DayRecord::last) * DayRecord::length));
+}
+
 void PlannerFiles::forEachDay(int year, const std::function<void(QDate, const PlannerDay &)> &visit) const
 {
-    const RecordFile file(yearFilePath(year), DayRecord::length);
-    file.forEach(1, [&](int record, QByteArrayView bytes) {
-        const QDate date = DayRecord::date(record, year);
-        // The mark is looked at first: most records of a year are holes.
-        const qsizetype markAt = plannerDayLayout.size() - 10;
-        if (date.isValid() && bytes.size() >= markAt &&
-            AnsiText::fieldText(bytes.sliced(markAt, std::min<qsizetype>(10, bytes.size() - markAt))) ==
-                PlannerDay::savedMark)
-            visit(date, plannerDayLayout.decode(bytes));
-        return record < DayRecord::last;
-    });
+    visitDays(yearBytes(year), QDate(year, 1, 1), QDate(year, 12, 31), visit);
+}
+
+std::map<QDate, PlannerDay> PlannerFiles::days(QDate from, QDate to) const
+{
+    std::map<QDate, PlannerDay> days;
+    if (!from.isValid() || !to.isValid())
+        return days;
+    for (int year = from.year(); year <= to.year(); ++year) {
+        visitDays(yearBytes(year), std::max(from, QDate(year, 1, 1)), std::min(to, QDate(year, 12, 31)),
+                  [&days](QDate date, const PlannerDay &day) { days.emplace_hint(days.end(), date, day); });
+    }
+    return days;
 }
 
 QList<int> PlannerFiles::years() const

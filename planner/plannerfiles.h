@@ -7,6 +7,7 @@
 #include <QDate>
 
 #include <functional>
+#include <map>
 
 /// The year files of the planner: reads and writes the day of a date. Nothing is kept open or cached.
 class PlannerFiles
@@ -25,9 +26,14 @@ public:
     /// False when the disk refuses; the rest of the file keeps what it held.
     bool write(QDate date, const PlannerDay &day) const;
 
-    /// Visits the saved days of `year` in one pass over its file, in record order; nothing when the file is
-    /// missing.
+    /// Visits the saved days of `year` by date, after one read of its file; nothing when the file is missing.
     void forEachDay(int year, const std::function<void(QDate date, const PlannerDay &day)> &visit) const;
+
+    /// The saved days from `from` to `to` by date; each year's file is read once.
+    std::map<QDate, PlannerDay> days(QDate from, QDate to) const;
+
+    /// The bytes of all day records of `year`; fewer when the file is short, none when it is missing.
+    QByteArray yearBytes(int year) const;
 
     /// The years that have a file, in order.
     QList<int> years() const;

@@ -1,31 +1,41 @@
 #include "planner/plannersearch.h"
 
+#include "planner/dayrecord.h"
+
 #include <algorithm>
 
 PlannerSearch::PlannerSearch(const PlannerFiles &files, const QString &text)
     : m_files(files)
-    , m_text(AnsiText::trimmedBlanks(text).toString())
-    , m_years(m_text.isEmpty() ? QList<int>() : files.years())
+    , m_rows(AnsiText::trimmedBlanks(text))
+    , m_years(m_rows.isPossible() ? files.years() : QList<int>())
 {}
 
 bool PlannerSearch::step()
 {
     if (m_done >= yearCount() || m_hits.size() >= mostHits)
         return false;
+    const int year = m_years.at(m_done++);
+    const QByteArray bytes = m_files.yearBytes(year);
     const auto before = std::ptrdiff_t(m_hits.size());
-    m_files.forEachDay(m_years.at(m_done), [this](QDate date, const PlannerDay &day) { look(date, day); });
+    for (int number = 1; number <= DayRecord::last; ++number)
+        look(DayRecord::ofNumber(bytes, number), number, year);
     // Records follow days of the month before months.
     std::stable_sort(m_hits.begin() + before, m_hits.end(),
                      [](const PlannerHit &one, const PlannerHit &other) { return one.date < other.date; });
-    ++m_done;
     return true;
 }
 
-void PlannerSearch::look(QDate date, const PlannerDay &day)
+void PlannerSearch::look(QByteArrayView record, int number, int year)
 {
+    const RowSearch::Rows rows = m_rows.find(record);
+    if (rows.none() || !DayRecord::isSaved(record))
+        return;
+    const QDate date = DayRecord::date(number, year);
+    if (!date.isValid())
+        return;
+    const PlannerDay day = plannerDayLayout.decode(record);
     for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
-        if (day.texts[row].contains(m_text, Qt::CaseInsensitive) ||
-            day.times[row].contains(m_text, Qt::CaseInsensitive))
+        if (rows.test(row))
             m_hits.push_back({date, int(row), day.times[row], day.texts[row]});
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "planner/plannerfiles.h"
+#include "planner/rowsearch.h"
 
 #include <QDate>
 #include <QString>
@@ -36,10 +37,10 @@ public:
     int yearsDone() const { return m_done; }
 
 private:
-    void look(QDate date, const PlannerDay &day);
+    void look(QByteArrayView record, int number, int year);
 
     const PlannerFiles &m_files;
-    QString m_text;
+    RowSearch m_rows;
     QList<int> m_years;
     int m_done = 0;
     std::vector<PlannerHit> m_hits;

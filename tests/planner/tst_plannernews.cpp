@@ -1,5 +1,5 @@
+#include "planner/plannerfiles.h"
 #include "planner/plannernews.h"
-#include "planner/plannersearch.h"
 #include "tests/support/testprogram.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,7 +11,6 @@ private slots:
     void readsTimesOfDay_data();
     void readsTimesOfDay();
     void tellsTheNextAppointment();
-    void findsTextsOfAllYears();
 };
 
 void TestPlannerNews::readsTimesOfDay_data()
@@ -53,23 +52,6 @@ void TestPlannerNews::tellsTheNextAppointment()
                        u"Three appointments today, the next one at 11:30 AM."_s}));
     QCOMPARE(PlannerNews::liveLine(test.folder, now.addSecs(7200))->text, u"Ferns"_s);
     QCOMPARE(PlannerNews::liveLine(test.folder, now.addDays(-1))->text, u"Tomorrow: Ferns"_s);
-}
-
-void TestPlannerNews::findsTextsOfAllYears()
-{
-    const TestProgram test(TestProgram::Household);
-    const PlannerFiles files(test.folder);
-    PlannerSearch search(files, u" piano "_s);
-    QCOMPARE(search.yearCount(), 3);
-    while (search.step()) {}
-    QVERIFY(search.hits().size() > 3);
-    QVERIFY(std::is_sorted(search.hits().begin(), search.hits().end(),
-                           [](const PlannerHit &a, const PlannerHit &b) { return a.date < b.date; }));
-    QCOMPARE(search.hits().front().date.year(), 2026);
-    QVERIFY(search.hits().front().text.contains("Piano"_L1));
-
-    PlannerSearch nothing(files, u"  "_s);
-    QVERIFY(!nothing.step());
 }
 
 QTEST_GUILESS_MAIN(TestPlannerNews)
