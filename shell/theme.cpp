@@ -129,7 +129,7 @@ QMenuBar::item:pressed { background: @pressed; }
 QMenu { background: @panel; border: 1px solid @edge; padding: 5px; }
 QMenu::item { padding: 6px 28px 6px 12px; border-radius: 5px; }
 QMenu::item:selected { background: @soft; color: @text; }
-QMenu::item:disabled { color: @disabledText; }
+QMenu::item:disabled { color: @disabledText; background: transparent; }
 QMenu::indicator { width: 16px; height: 16px; left: 7px; }
 QMenu::separator { height: 1px; background: @line; margin: 5px 8px; }
 QStatusBar { background: @bar; border-top: 1px solid @line; min-height: 32px; }
@@ -152,6 +152,7 @@ QListView, QTreeView, QTableView, QTextBrowser {
     gridline-color: @line; }
 QListView:focus, QTreeView:focus, QTableView:focus, QTextBrowser:focus {
     background: @field; border: 2px solid @accent; padding: 2px; }
+QListView:disabled, QTreeView:disabled, QTableView:disabled { background: @locked; }
 QComboBoxPrivateContainer QListView, QComboBox QListView { border: 0; border-radius: 0; padding: 2px; }
 QHeaderView { background: @head; border: 0; }
 QHeaderView::section { background: @head; border: 0; border-bottom: 1px solid @line; padding: 5px 8px; }

@@ -10,11 +10,11 @@ template <typename T> T next(std::deque<T> &script, const QString &question, T f
 {
     if (script.empty()) {
         QTest::qFail(qPrintable(QStringLiteral("not expected: ") + question), __FILE__, __LINE__);
-        return fallback;
+    } else {
+        fallback = std::move(script.front());
+        script.pop_front();
     }
-    T value = std::move(script.front());
-    script.pop_front();
-    return value;
+    return fallback;
 }
 
 } // namespace

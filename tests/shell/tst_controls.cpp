@@ -1,0 +1,270 @@
+#include "shell/activitybar.h"
+#include "shell/controls.h"
+#include "shell/listrowdelegate.h"
+#include "shell/messagebox.h"
+#include "shell/monthview.h"
+#include "shell/theme.h"
+#include "tests/support/testprogram.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QHelpEvent>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QSignalSpy>
+#include <QStatusTipEvent>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestControls : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void aBoxTakesWhatItsFileHolds_data();
+    void aBoxTakesWhatItsFileHolds();
+    void aLockedBoxIsSkipped();
+    void aDisabledControlSaysWhy();
+    void requiredFollowsTheInkOfItsPanel();
+    void aListShowsWholeRows();
+    void theBarKeepsActivityAndMessageApart();
+    void theClockShowsTheProgramsTime();
+    void theBarOffersRemovedToolbars();
+    void escAnswersOnlyWhereNothingIsLost_data();
+    void escAnswersOnlyWhereNothingIsLost();
+    void aMessageBoxHasItsButtonsInOrder();
+    void anInputBoxRefusesWhatTheFilesCannotHold();
+    void theMonthIsAlwaysInEnglish();
+};
+
+void TestControls::initTestCase()
+{
+    Theme::apply(*qApp);
+}
+
+void TestControls::aBoxTakesWhatItsFileHolds_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("plain") << u"Lin"_s << u"d"_s << u"Lind"_s << false;
+    QTest::newRow("accents and a long dash")
+        << u""_s << u"Jos\u00e9 \u2013"_s << u"Jos\u00e9 \u2013"_s << false;
+    QTest::newRow("accent as a character of its own") << u""_s << u"Jose\u0301"_s << u"Jose\u0301"_s << false;
+    QTest::newRow("a letter that the files lack") << u"Anna"_s << u"\u0141"_s << u"Anna"_s << true;
+    QTest::newRow("a word with such a letter") << u"Anna"_s << u" \u0141ukasz"_s << u"Anna"_s << true;
+    QTest::newRow("beyond the limit") << u"12345678"_s << u"9012"_s << u"1234567890"_s << true;
+    QTest::newRow("line ends") << u""_s << u"a\tb\nc"_s << u"a b c"_s << false;
+}
+
+void TestControls::aBoxTakesWhatItsFileHolds()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, pasted);
+    FieldBox box;
+    box.setByteLimit(10);
+    box.setText(before);
+    box.setCursorPosition(int(before.size()));
+    QSignalSpy refused(&box, &FieldBox::refused);
+    QApplication::clipboard()->setText(pasted);
+    box.paste();
+    QTEST(box.text(), "text");
+    QTEST(!refused.isEmpty(), "refused");
+}
+
+void TestControls::aLockedBoxIsSkipped()
+{
+    QWidget window;
+    FieldBox first(&window), second(&window), third(&window);
+    second.setLocked(true);
+    showActive(window);
+    first.setFocus();
+    QTest::keyClick(&first, Qt::Key_Tab);
+    QVERIFY(third.hasFocus());
+    second.setLocked(false);
+    first.setFocus();
+    QTest::keyClick(&first, Qt::Key_Tab);
+    QVERIFY(second.hasFocus());
+}
+
+void TestControls::aDisabledControlSaysWhy()
+{
+    QPushButton button;
+    button.setToolTip(u"Dial"_s);
+    setUnavailable(&button, u"No modem"_s);
+    setUnavailable(&button, u"No number"_s);
+    QVERIFY(!button.isEnabled());
+    QCOMPARE(button.toolTip(), u"No number"_s);
+    setUnavailable(&button, QString());
+    QVERIFY(button.isEnabled());
+    QCOMPARE(button.toolTip(), u"Dial"_s);
+    QCOMPARE(button.statusTip(), QString());
+}
+
+void TestControls::requiredFollowsTheInkOfItsPanel()
+{
+    PanelFrame panel;
+    FieldBox box(&panel);
+    const QLabel *label = makeFieldLabel(u"Last Name"_s, &box, &panel, {}, true);
+    QCOMPARE(box.accessibleName(), u"Last Name"_s);
+    panel.show();
+    QVERIFY(label->text().contains(Theme::light().accent.name()));
+    panel.setPalette(Theme::light().panelPalette(Qt::darkBlue, Qt::white));
+    QVERIFY(label->text().contains("#ffffff"_L1));
+    QCOMPARE(label->palette().color(label->foregroundRole()), QColor(Qt::white));
+    QCOMPARE(box.palette().color(QPalette::PlaceholderText), Theme::light().quiet);
+}
+
+void TestControls::aListShowsWholeRows()
+{
+    auto *list = new QListWidget;
+    setListRows(list);
+    for (int i = 0; i < 50; ++i)
+        list->addItem(QString::number(i));
+    WholeRows rows(list);
+    rows.show();
+    for (const int height : {200, 333, 480}) {
+        rows.resize(200, height);
+        QCOMPARE(list->viewport()->height() % ListRowDelegate::rowHeight(), 0);
+        QVERIFY(list->height() <= height && list->height() > height - ListRowDelegate::rowHeight());
+    }
+}
+
+void TestControls::theBarKeepsActivityAndMessageApart()
+{
+    TestProgram program;
+    QMainWindow window;
+    auto *bar = new ActivityBar(program.clock, program.state.dateStyle, &window);
+    window.setStatusBar(bar);
+    window.show();
+    bar->setActivity(u"Main Menu"_s);
+    bar->say(u"Saved"_s);
+    QStatusTipEvent tip(u"No modem"_s);
+    QApplication::sendEvent(&window, &tip);
+    QCOMPARE(control<QLabel>(*bar, "statusMessage")->text(), u"No modem"_s);
+    QVERIFY(control<QLabel>(*bar, "StatusBar1_Panel1")->isVisible());
+    QStatusTipEvent noTip{QString()};
+    QApplication::sendEvent(&window, &noTip);
+    QCOMPARE(control<QLabel>(*bar, "statusMessage")->text(), u"Saved"_s);
+    QCOMPARE(bar->activity(), u"Main Menu"_s);
+}
+
+void TestControls::theClockShowsTheProgramsTime()
+{
+    TestProgram program;
+    ActivityBar bar(program.clock, program.state.dateStyle);
+    QCOMPARE(control<QLabel>(bar, "Label4")->text(), u"10:24 AM"_s);
+    QCOMPARE(control<QLabel>(bar, "statusDate")->text(), u"Sat, Nov 21, 2026"_s);
+    program.clock.time = QDateTime(QDate(2026, 11, 22), QTime(0, 5));
+    bar.refreshClock();
+    QCOMPARE(control<QLabel>(bar, "Label4")->text(), u"12:05 AM"_s);
+    program.clock.time = QDateTime(QDate(2026, 11, 22), QTime(23, 59, 59, 950));
+    bar.startClock();
+    bar.show();
+    program.clock.time = QDateTime(QDate(2026, 11, 23), QTime(0, 0));
+    QTRY_COMPARE(control<QLabel>(bar, "Label4")->text(), u"12:00 AM"_s);
+}
+
+void TestControls::theBarOffersRemovedToolbars()
+{
+    TestProgram program;
+    ActivityBar bar(program.clock, program.state.dateStyle);
+    bar.show();
+    auto *top = control<QToolButton>(bar, "StatusBar1_RestoreTop");
+    QVERIFY(!top->isVisible());
+    bar.offerTopToolbar(true);
+    QVERIFY(top->isVisible());
+    QCOMPARE(top->text(), u"Click to Restore Top Toolbar"_s);
+    QSignalSpy asked(&bar, &ActivityBar::restoreTopToolbarRequested);
+    QTest::mouseClick(top, Qt::LeftButton);
+    QCOMPARE(asked.size(), 1);
+}
+
+void TestControls::escAnswersOnlyWhereNothingIsLost_data()
+{
+    QTest::addColumn<QVector<Answer>>("answers");
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<Answer>("answer");
+    using Answers = QVector<Answer>;
+    QTest::newRow("a notice") << Answers{Answer::Ok} << true << Answer::Ok;
+    QTest::newRow("with Cancel") << Answers{Answer::Yes, Answer::No, Answer::Cancel} << true
+                                 << Answer::Cancel;
+    QTest::newRow("OK or Cancel") << Answers{Answer::Ok, Answer::Cancel} << true << Answer::Cancel;
+    QTest::newRow("Yes or No") << Answers{Answer::Yes, Answer::No} << false << Answer::Cancel;
+}
+
+void TestControls::escAnswersOnlyWhereNothingIsLost()
+{
+    QFETCH(QVector<Answer>, answers);
+    QFETCH(bool, closes);
+    for (const bool byKey : {true, false}) {
+        MessageBox box({u"Title"_s, u"Text"_s, Message::Question, answers, answers.first()});
+        showActive(box);
+        if (byKey)
+            QTest::keyClick(&box, Qt::Key_Escape);
+        else
+            box.close();
+        QCOMPARE(box.isVisible(), !closes);
+        if (closes)
+            QTEST(box.answer(), "answer");
+    }
+}
+
+void TestControls::aMessageBoxHasItsButtonsInOrder()
+{
+    MessageBox box({u"Exit"_s,
+                    u"First\nSecond\nThird"_s,
+                    Message::Question,
+                    {Answer::Yes, Answer::No, Answer::Cancel},
+                    Answer::No});
+    showActive(box);
+    QCOMPARE(box.windowTitle(), u"Exit"_s);
+    QCOMPARE(control<QLabel>(box, "messageHeading")->text(), u"First"_s);
+    QCOMPARE(control<QLabel>(box, "messageText")->text(), u"Second\nThird"_s);
+    auto *yes = control<QPushButton>(box, "answerYes");
+    auto *no = control<QPushButton>(box, "answerNo");
+    auto *cancel = control<QPushButton>(box, "answerCancel");
+    QVERIFY(no->hasFocus());
+    QVERIFY(yes->x() < no->x() && no->x() < cancel->x());
+    QVERIFY(yes->width() >= 104 && box.width() >= 420 && box.width() <= 560);
+    QCOMPARE(yes->text(), u"&Yes"_s);
+    QTest::mouseClick(yes, Qt::LeftButton);
+    QCOMPARE(box.answer(), Answer::Yes);
+    QVERIFY(!box.isVisible());
+}
+
+void TestControls::anInputBoxRefusesWhatTheFilesCannotHold()
+{
+    InputBox box(u"Family Name"_s, u"Prompt"_s, u"Holm"_s);
+    showActive(box);
+    auto *edit = control<FieldBox>(box, "inputEdit");
+    QVERIFY(edit->hasFocus());
+    QTest::keyClick(edit, Qt::Key_End);
+    QApplication::clipboard()->setText(u"\u0141"_s);
+    edit->paste();
+    QVERIFY(control<QLabel>(box, "inputRefusal")->text().contains(u'\u0141'));
+    QTest::keyClicks(edit, u"s"_s);
+    QCOMPARE(control<QLabel>(box, "inputRefusal")->text(), QString());
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(box.result(), int(QDialog::Accepted));
+    QCOMPARE(box.text(), u"Holms"_s);
+}
+
+void TestControls::theMonthIsAlwaysInEnglish()
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(u"de_DE"_s));
+    MonthView month;
+    month.setSelectedDate(QDate(2026, 3, 7));
+    month.show();
+    QCOMPARE(control<QToolButton>(month, "qt_calendar_monthbutton")->text(), u"March"_s);
+    QTest::mouseClick(control<QToolButton>(month, "monthNext"), Qt::LeftButton);
+    QCOMPARE(month.monthShown(), 4);
+    QLocale::setDefault(before);
+}
+
+QTEST_MAIN(TestControls)
+#include "tst_controls.moc"

@@ -1,0 +1,185 @@
+#include "shell/flowtoolbar.h"
+#include "shell/settingskeys.h"
+#include "shell/theme.h"
+#include "shell/toolbars.h"
+#include "tests/support/testprogram.h"
+
+#include <QAction>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestToolbars : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void hidesNothingWhenItIsNarrow();
+    void aHiddenActionTakesNoPlace();
+    void restoresTheStoredLayout_data();
+    void restoresTheStoredLayout();
+    void everyChangeIsAppliedAndStored();
+    void dragsAButtonToItsPlace();
+    void aButtonThatCannotBeMovedSaysWhy();
+    void removalIsWrittenForAllWindows();
+
+private:
+    QListWidget &shownList(ToolbarCustomizer &dialog) { return *control<QListWidget>(dialog, "shownList"); }
+    void press(ToolbarCustomizer &dialog, const char *name)
+    {
+        QTest::mouseClick(control<QPushButton>(dialog, name), Qt::LeftButton);
+    }
+    QStringList stored() const { return m_program->store.value(u"User1/Toolbar1"_s).toStringList(); }
+
+    std::unique_ptr<TestProgram> m_program;
+    std::unique_ptr<FlowToolBar> m_bar;
+    ToolbarLayout *m_layout = nullptr;
+    QStringList m_defaults;
+};
+
+void TestToolbars::initTestCase()
+{
+    Theme::apply(*qApp);
+}
+
+void TestToolbars::init()
+{
+    m_bar.reset();
+    m_program = std::make_unique<TestProgram>();
+    m_bar = std::make_unique<FlowToolBar>(Qt::Horizontal);
+    QList<QAction *> actions;
+    for (const char *name : {"one", "two", "three", "four", "five"}) {
+        auto *action = new QAction(QString::fromLatin1(name), m_bar.get());
+        action->setObjectName(QString::fromLatin1(name));
+        actions << action;
+    }
+    m_defaults = {u"one"_s, u"two"_s, u"separator"_s, u"three"_s};
+    m_layout = new ToolbarLayout(m_program->program, m_bar.get(), u"Toolbar1"_s, actions, m_defaults);
+    m_layout->restore();
+}
+
+void TestToolbars::hidesNothingWhenItIsNarrow()
+{
+    m_bar->show();
+    m_layout->setShown({u"one"_s, u"separator"_s, u"two"_s, u"three"_s, u"four"_s, u"five"_s});
+    int rows = 0;
+    for (const int width : {600, 230, 130}) {
+        m_bar->resize(width, m_bar->heightForWidth(width));
+        QSet<int> tops;
+        for (const QAction *action : m_layout->actions()) {
+            const QToolButton *button = m_bar->button(action);
+            QVERIFY(button->isVisible());
+            QVERIFY2(m_bar->rect().contains(button->geometry()), qPrintable(button->objectName()));
+            tops.insert(button->y());
+        }
+        QVERIFY(tops.size() > rows);
+        rows = int(tops.size());
+    }
+}
+
+void TestToolbars::aHiddenActionTakesNoPlace()
+{
+    m_bar->show();
+    QToolButton *one = m_bar->button(m_layout->action(u"one"_s));
+    QCOMPARE(one->objectName(), u"one_button"_s);
+    QSignalSpy triggered(one->defaultAction(), &QAction::triggered);
+    QTest::mouseClick(one, Qt::LeftButton);
+    QCOMPARE(triggered.size(), 1);
+    QVERIFY(!one->hasFocus());
+    one->defaultAction()->setVisible(false);
+    QVERIFY(!one->isVisible());
+}
+
+void TestToolbars::restoresTheStoredLayout_data()
+{
+    QTest::addColumn<QStringList>("stored");
+    QTest::addColumn<QStringList>("shown");
+    const QStringList defaults{u"one"_s, u"two"_s, u"separator"_s, u"three"_s};
+    QTest::newRow("nothing stored") << QStringList() << defaults;
+    QTest::newRow("an order of the user's") << QStringList{u"five"_s, u"separator"_s, u"one"_s}
+                                            << QStringList{u"five"_s, u"separator"_s, u"one"_s};
+    QTest::newRow("names that are gone") << QStringList{u"gone"_s, u"two"_s} << QStringList{u"two"_s};
+    QTest::newRow("only names that are gone") << QStringList{u"gone"_s, u"separator"_s} << defaults;
+    QTest::newRow("a name twice") << QStringList{u"two"_s, u"two"_s} << QStringList{u"two"_s};
+}
+
+void TestToolbars::restoresTheStoredLayout()
+{
+    QFETCH(QStringList, stored);
+    if (!stored.isEmpty())
+        m_program->store.setValue(u"User1/Toolbar1"_s, stored);
+    m_layout->restore();
+    QTEST(m_layout->shown(), "shown");
+}
+
+void TestToolbars::everyChangeIsAppliedAndStored()
+{
+    ToolbarCustomizer dialog(*m_layout, nullptr);
+    showActive(dialog);
+    const auto is = [this](const QStringList &names) {
+        return m_layout->shown() == names && stored() == names;
+    };
+    control<QListWidget>(dialog, "availableList")->setCurrentRow(1);
+    shownList(dialog).setCurrentRow(0);
+    press(dialog, "addTool");
+    QVERIFY(is({u"one"_s, u"five"_s, u"two"_s, u"separator"_s, u"three"_s}));
+    press(dialog, "moveToolUp");
+    QVERIFY(is({u"five"_s, u"one"_s, u"two"_s, u"separator"_s, u"three"_s}));
+    press(dialog, "moveToolDown");
+    press(dialog, "moveToolDown");
+    QVERIFY(is({u"one"_s, u"two"_s, u"five"_s, u"separator"_s, u"three"_s}));
+    press(dialog, "removeTool");
+    QVERIFY(is({u"one"_s, u"two"_s, u"separator"_s, u"three"_s}));
+    shownList(dialog).setCurrentRow(0);
+    press(dialog, "addSeparator");
+    QVERIFY(is({u"one"_s, u"separator"_s, u"two"_s, u"separator"_s, u"three"_s}));
+    press(dialog, "resetTools");
+    QCOMPARE(m_layout->shown(), m_defaults);
+    QVERIFY(!m_program->store.contains(u"User1/Toolbar1"_s));
+    press(dialog, "closeCustomizer");
+    QVERIFY(!dialog.isVisible());
+}
+
+void TestToolbars::dragsAButtonToItsPlace()
+{
+    ToolbarCustomizer dialog(*m_layout, nullptr);
+    showActive(dialog);
+    // What a drop within the list does to its model.
+    QAbstractItemModel *rows = shownList(dialog).model();
+    QVERIFY(rows->moveRow({}, 3, {}, 0));
+    QCOMPARE(m_layout->shown(), (QStringList{u"three"_s, u"one"_s, u"two"_s, u"separator"_s}));
+    QCOMPARE(stored(), m_layout->shown());
+}
+
+void TestToolbars::aButtonThatCannotBeMovedSaysWhy()
+{
+    ToolbarCustomizer dialog(*m_layout, nullptr);
+    showActive(dialog);
+    shownList(dialog).setCurrentRow(0);
+    auto *up = control<QPushButton>(dialog, "moveToolUp");
+    QVERIFY(!up->isEnabled());
+    QVERIFY(!up->toolTip().isEmpty());
+    QVERIFY(control<QPushButton>(dialog, "moveToolDown")->isEnabled());
+}
+
+void TestToolbars::removalIsWrittenForAllWindows()
+{
+    QSignalSpy changed(&m_program->changes, &ProgramSignals::topToolbarChanged);
+    QVERIFY(!TopToolbar::isRemoved(m_program->program, SettingsKeys::topToolbar));
+    TopToolbar::setRemoved(m_program->program, true);
+    QVERIFY(TopToolbar::isRemoved(m_program->program, SettingsKeys::topToolbar));
+    QVERIFY(TopToolbar::isRemoved(m_program->program, SettingsKeys::weightTopToolbar));
+    QCOMPARE(m_program->bytes(u"GColor1.Fil"_s).mid(54 * 20, 5), QByteArray("\x03\0OFF", 5));
+    QCOMPARE(m_program->bytes(u"GColor1.Fil"_s).mid(80 * 20, 5), QByteArray("\x03\0OFF", 5));
+    TopToolbar::setRemoved(m_program->program, false);
+    QCOMPARE(m_program->settings.text(SettingsKeys::topToolbar), u"ON"_s);
+    QCOMPARE(changed.size(), 2);
+}
+
+QTEST_MAIN(TestToolbars)
+#include "tst_toolbars.moc"
