@@ -1,0 +1,308 @@
+#include "shell/form31.h"
+
+#include "shell/activitybar.h"
+#include "shell/controls.h"
+#include "shell/gate.h"
+#include "shell/guardedareas.h"
+#include "shell/helpcontexts.h"
+#include "shell/passwordmessages.h"
+#include "shell/passwordpage.h"
+#include "shell/passwordpane.h"
+#include "shell/theme.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int passwordPanelWidth = 360;
+constexpr int otherRows = 4;
+
+/// The functions of this edition in the order of the list.
+constexpr std::array ownAreas{Area::AddressBook,   Area::AddressBookButton,
+                              Area::AddressViewer, Area::AddressViewerButton,
+                              Area::Planner,       Area::Budget,
+                              Area::CarLog,        Area::Journal,
+                              Area::PasswordKeeper};
+/// Those of other editions, the known ones first.
+constexpr std::array otherAreas{6, 8, 3, 4, 5, 7, 10, 12, 17, 18, 19, 20};
+static_assert(ownAreas.size() + otherAreas.size() == ProtectedAreas::count);
+
+WindowTraits passwordControl()
+{
+    WindowTraits traits;
+    traits.name = u"Form31"_s;
+    traits.caption = PasswordMessages::title();
+    traits.activity = PasswordMessages::title();
+    traits.colors = {SettingsKeys::passwordControlColor, SettingsKeys::passwordControlColor, {}};
+    traits.helpContext = HelpContext::PasswordControl;
+    traits.openingSize = {1040, 740};
+    return traits;
+}
+
+/// `content` scrolls inside its panel where the window is too small for it.
+QScrollArea *makeScrolled(QWidget *content, QWidget *parent)
+{
+    auto *area = new QScrollArea(parent);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(content);
+    // The panel's colour shows through.
+    content->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
+    area->setMinimumWidth(content->minimumSizeHint().width() + 16);
+    return area;
+}
+
+} // namespace
+
+Form31::Form31(Program &program, PasswordCost cost, std::chrono::milliseconds step, QWidget *parent)
+    : FunctionWindow(program, passwordControl(), parent)
+    , m_file(program.folder, cost)
+{
+    auto *work = new QWidget(this);
+    auto *row = new QHBoxLayout(work);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(16);
+    m_pane = new PasswordPane(m_file, step, work);
+    row->addWidget(makePasswordPanel());
+    row->addWidget(makeAreasPanel(), 1);
+    setWork(work);
+    makeMenus();
+    connectPane();
+    finishFrame();
+    refresh();
+    (m_marks[Area::AddressBook]->isEnabled() ? m_marks[Area::AddressBook] : m_pane->firstControl())
+        ->setFocus();
+}
+
+void Form31::makeMenus()
+{
+    QAction *color = makeAction(u"mOC"_s, u"Panel C&olor"_s, this);
+    m_saveAction = makeAction(u"mOSave"_s, u"&Save"_s, this);
+    QAction *printing = makeAction(u"mOPrt"_s, u"&Print"_s, this);
+    QAction *leaving = makeAction(u"mOEx"_s, u"E&xit"_s, this);
+    QAction *help = makeAction(u"mHPage"_s, u"&Password Control"_s, this);
+    connect(color, &QAction::triggered, this, [this] { colors().choosePanelColor(); });
+    connect(m_saveAction, &QAction::triggered, this, &Form31::save);
+    connect(printing, &QAction::triggered, this, &Form31::print);
+    connect(leaving, &QAction::triggered, this, &QWidget::close);
+    connect(help, &QAction::triggered, this,
+            [this] { emit program().changes.helpRequested(HelpContext::PasswordControl); });
+
+    QMenu *options = named(menuBar()->addMenu(u"&Options"_s), u"mO"_s);
+    options->addActions({color, m_saveAction, printing});
+    options->addSeparator();
+    options->addAction(leaving);
+    named(menuBar()->addMenu(u"&Help"_s), u"mH"_s)->addAction(help);
+
+    addTool(printing, "print"_L1, u"Print"_s);
+    addToolSeparator();
+    addTool(color, "palette"_L1, u"Panel Color"_s);
+    addTool(help, "help"_L1, u"Help"_s);
+}
+
+QWidget *Form31::makePasswordPanel()
+{
+    QWidget *panel = makePanel(u"passwordPanel"_s);
+    auto *rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(20, 20, 4, 20);
+    auto *padded = new QWidget(panel);
+    auto *inner = new QVBoxLayout(padded);
+    inner->setContentsMargins(4, 0, 20, 0);
+    inner->addWidget(m_pane);
+    rows->addWidget(makeScrolled(padded, panel));
+    panel->setFixedWidth(passwordPanelWidth);
+    return panel;
+}
+
+QWidget *Form31::makeAreasPanel()
+{
+    QWidget *panel = makePanel(u"areasPanel"_s);
+    auto *rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(24, 20, 24, 20);
+    rows->setSpacing(12);
+    rows->addWidget(makeTitle(u"Protected areas"_s, panel));
+    rows->addWidget(makeScrolled(makeMarks(), panel), 1);
+    rows->addWidget(makeLine(panel));
+    rows->addWidget(makeFoot());
+    return panel;
+}
+
+QWidget *Form31::makeMarks()
+{
+    auto *marks = new QWidget(this);
+    auto *rows = new QVBoxLayout(marks);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(4);
+    rows->addWidget(makeQuietLabel(u"What is marked opens only with the password."_s, marks));
+    rows->addSpacing(8);
+    rows->addWidget(makeHeading(u"This program"_s, marks));
+    const auto makeMark = [this, marks](int area) {
+        auto *mark = new QCheckBox(GuardedAreas::name(area), marks);
+        m_marks[std::size_t(area)] = named(mark, u"Check1_%1"_s.arg(area));
+        connect(mark, &QCheckBox::toggled, this, &Form31::marksChanged);
+        return mark;
+    };
+    for (const int area : ownAreas)
+        rows->addWidget(makeMark(area));
+    rows->addSpacing(12);
+    QLabel *others = makeHeading(u"Kept for other editions"_s, marks);
+    others->setForegroundRole(ThemeRole::quiet);
+    rows->addWidget(others);
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(24);
+    grid->setVerticalSpacing(2);
+    grid->setColumnStretch(3, 1);
+    for (std::size_t i = 0; i < otherAreas.size(); ++i) {
+        QCheckBox *mark = makeMark(otherAreas[i]);
+        setUnavailable(mark, PasswordMessages::markOfOtherEdition());
+        grid->addWidget(mark, int(i) % otherRows, int(i) / otherRows);
+    }
+    rows->addLayout(grid);
+    rows->addStretch();
+    return marks;
+}
+
+QWidget *Form31::makeFoot()
+{
+    auto *foot = new QWidget(this);
+    auto *row = new QHBoxLayout(foot);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    m_unsaved = named(makeQuietLabel(u"Unsaved changes"_s, foot), u"unsavedWords"_s);
+    m_saveButton = makeButton(u"Command1"_s, u"&Save"_s, foot, ButtonKind::Main);
+    QPushButton *leave = makeButton(u"Command2"_s, u"E&xit"_s, foot);
+    connect(m_saveButton, &QPushButton::clicked, this, &Form31::save);
+    connect(leave, &QPushButton::clicked, this, &QWidget::close);
+    row->addStretch();
+    row->addWidget(m_unsaved);
+    row->addSpacing(8);
+    row->addWidget(m_saveButton);
+    row->addWidget(leave);
+    return foot;
+}
+
+void Form31::connectPane()
+{
+    connect(m_pane, &PasswordPane::passwordSet, this, [this] {
+        refresh();
+        m_marks[Area::AddressBook]->setFocus();
+        activity().say(PasswordMessages::passwordSet());
+    });
+    connect(m_pane, &PasswordPane::passwordChanged, this,
+            [this] { activity().say(PasswordMessages::passwordChanged()); });
+    connect(m_pane, &PasswordPane::passwordRemoved, this, [this] {
+        loadMarks();
+        refresh();
+        activity().say(PasswordMessages::passwordRemoved());
+    });
+    connect(m_pane, &PasswordPane::damageFound, this, &Form31::tellDamage);
+    loadMarks();
+}
+
+void Form31::refresh()
+{
+    const PasswordFile::State state = m_file.state();
+    const bool isSet = state == PasswordFile::State::Set;
+    const bool isDamaged = state == PasswordFile::State::Damaged;
+    const QString reason = isDamaged ? PasswordMessages::damagedSummary()
+                           : isSet   ? QString()
+                                     : PasswordMessages::marksNeedPassword();
+    for (const int area : ownAreas)
+        setUnavailable(m_marks[std::size_t(area)], reason);
+    m_pane->refresh();
+    marksChanged();
+}
+
+void Form31::loadMarks()
+{
+    m_saved = m_file.areas();
+    program().state.protectedAreas = m_saved;
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        m_marks[std::size_t(area)]->setChecked(m_saved.isProtected(area));
+}
+
+void Form31::marksChanged()
+{
+    const bool changed = isModified();
+    m_unsaved->setVisible(changed);
+    const QString reason = changed ? QString() : PasswordMessages::nothingToSave();
+    setUnavailable(m_saveButton, reason);
+    setUnavailable(m_saveAction, reason);
+}
+
+bool Form31::isModified() const
+{
+    return shownAreas() != m_saved;
+}
+
+ProtectedAreas Form31::shownAreas() const
+{
+    ProtectedAreas areas = m_saved;
+    for (const int area : ownAreas) {
+        const bool isMarked = m_marks[std::size_t(area)]->isChecked();
+        if (isMarked != areas.isProtected(area))
+            areas.setFlag(area, isMarked ? u"YES"_s : u"NO"_s);
+    }
+    return areas;
+}
+
+bool Form31::save()
+{
+    if (m_file.state() == PasswordFile::State::Damaged) {
+        tellDamage();
+        return false;
+    }
+    if (!m_file.saveAreas(shownAreas())) {
+        activity().say(PasswordMessages::marksNotSaved());
+        return false;
+    }
+    // The button is about to have nothing to do.
+    if (m_saveButton->hasFocus())
+        m_marks[Area::AddressBook]->setFocus();
+    loadMarks();
+    marksChanged();
+    activity().say(PasswordMessages::marksSaved());
+    return true;
+}
+
+bool Form31::mayDiscard()
+{
+    if (!isModified())
+        return true;
+    switch (ask(PasswordMessages::saveChanges())) {
+    case Answer::Yes:
+        return save();
+    case Answer::No:
+        loadMarks();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Form31::tellDamage()
+{
+    ask(PasswordMessages::fileDamaged(program().folder.path()));
+    refresh();
+}
+
+void Form31::print()
+{
+    showPreview([this](const PageSetup &setup) { return page(setup); }, PasswordMessages::title());
+}
+
+Page Form31::page(const PageSetup &) const
+{
+    return passwordPage(m_file.state() == PasswordFile::State::Set, shownAreas(), clock().today(),
+                        program().state.dateStyle);
+}

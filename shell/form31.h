@@ -1,0 +1,55 @@
+#pragma once
+
+#include "shell/functionwindow.h"
+#include "shell/passwordfile.h"
+
+#include <array>
+#include <chrono>
+
+class PasswordPane;
+class QCheckBox;
+class QLabel;
+class QPushButton;
+
+/// Password control: sets the password and marks what it guards. The password is in force as soon as it is
+/// set, the marks when they are saved.
+class Form31 final : public FunctionWindow
+{
+    Q_OBJECT
+public:
+    /// `cost` goes into a password that is set here, `step` is what each further wrong answer waits longer.
+    explicit Form31(Program &program, PasswordCost cost = PasswordCost::interactive(),
+                    std::chrono::milliseconds step = std::chrono::seconds(1), QWidget *parent = nullptr);
+
+    bool isModified() const override;
+
+protected:
+    Page page(const PageSetup &setup) const override;
+    bool mayDiscard() override;
+
+private:
+    void makeMenus();
+    QWidget *makePasswordPanel();
+    QWidget *makeAreasPanel();
+    QWidget *makeMarks();
+    QWidget *makeFoot();
+    void connectPane();
+
+    void refresh();
+    void loadMarks();
+    void marksChanged();
+    bool save();
+    void tellDamage();
+    void print();
+
+    /// The flags as the check boxes show them; those that stay as they are keep their text.
+    ProtectedAreas shownAreas() const;
+
+    PasswordFile m_file;
+    ProtectedAreas m_saved; ///< the flags when they were last read or written
+    PasswordPane *m_pane = nullptr;
+    std::array<QCheckBox *, ProtectedAreas::count> m_marks{};
+    QLabel *m_unsaved = nullptr;
+    QPushButton *m_saveButton = nullptr;
+    QAction *m_saveAction = nullptr;
+};

@@ -1,0 +1,155 @@
+#include "shell/form32.h"
+
+#include "shell/busycursor.h"
+#include "shell/controls.h"
+#include "shell/gate.h"
+#include "shell/guardedareas.h"
+#include "shell/passwordmessages.h"
+#include "shell/program.h"
+#include "shell/theme.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int promptWidth = 460;
+constexpr int iconSize = 44;
+constexpr int buttonWidth = 104;
+
+QString guardedFunction(const ProgramState &state)
+{
+    if (state.passwordGateResult == PasswordGateResult::PasswordControl)
+        return PasswordMessages::title();
+    if (state.guardedArea == Area::None)
+        return u"This function"_s;
+    return GuardedAreas::functionName(state.guardedArea);
+}
+
+} // namespace
+
+Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step)
+    : QDialog(parent)
+    , m_file(program.folder)
+    , m_attempts(step)
+    , m_password(named(new QLineEdit(this), u"Text1"_s))
+    , m_showPassword(named(new QCheckBox(u"&Show password"_s, this), u"showPassword"_s))
+    , m_refusal(named(makeQuietLabel({}, this), u"refusal"_s))
+    , m_ok(makeButton(u"Command1"_s, u"&OK"_s, this, ButtonKind::Main))
+    , m_cancel(makeButton(u"Command2"_s, u"&Cancel"_s, this))
+{
+    setObjectName(u"Form32"_s);
+    setWindowTitle(u"Password"_s);
+    setPalette(Theme::of(this).panelPalette());
+    buildForm(guardedFunction(program.state));
+
+    m_password->setEchoMode(QLineEdit::Password);
+    m_ok->setDefault(true);
+    connect(m_showPassword, &QCheckBox::toggled, this,
+            [this](bool shown) { m_password->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });
+    connect(m_password, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
+    connect(m_ok, &QPushButton::clicked, this, &Form32::accept);
+    connect(m_cancel, &QPushButton::clicked, this, &Form32::reject);
+    connect(&m_attempts, &Attempts::waiting, this, &Form32::showWait);
+    connect(&m_attempts, &Attempts::waited, this, &Form32::endWait);
+    connect(&m_attempts, &Attempts::spent, this, &Form32::reject);
+}
+
+void Form32::buildForm(const QString &functionName)
+{
+    const Theme &theme = Theme::of(this);
+    auto *icon = new QLabel(this);
+    icon->setPixmap(Icons::pixmap("password-control"_L1, theme.scheme, iconSize, devicePixelRatioF()));
+    auto *heading = makeHeading(functionName + u" asks for the password"_s, this);
+    heading->setWordWrap(true);
+
+    auto *form = new QVBoxLayout;
+    form->setSpacing(3);
+    form->addWidget(heading);
+    form->addSpacing(12);
+    form->addWidget(makeFieldLabel(u"&Password"_s, m_password, this));
+    form->addWidget(m_password);
+    form->addSpacing(6);
+    form->addWidget(m_showPassword);
+    form->addSpacing(6);
+    // Always there, so that nothing moves when something is said.
+    m_refusal->setMinimumHeight(m_refusal->fontMetrics().lineSpacing());
+    form->addWidget(m_refusal);
+
+    auto *top = new QHBoxLayout;
+    top->setSpacing(16);
+    top->addWidget(icon, 0, Qt::AlignTop);
+    top->addLayout(form, 1);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addStretch();
+    for (QPushButton *button : {m_ok, m_cancel}) {
+        button->setMinimumWidth(buttonWidth);
+        buttons->addWidget(button);
+    }
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(24, 24, 24, 20);
+    all->setSpacing(12);
+    all->addLayout(top);
+    all->addStretch();
+    all->addLayout(buttons);
+    setFixedWidth(promptWidth);
+    m_password->setFocus();
+}
+
+void Form32::accept()
+{
+    if (m_attempts.isWaiting())
+        return;
+    if (m_password->text().isEmpty()) {
+        m_refusal->setText(PasswordMessages::passwordMissing());
+        m_password->setFocus();
+        return;
+    }
+    const bool isRight = [this] {
+        const BusyCursor busy;
+        return m_file.matches(m_password->text());
+    }();
+    m_password->clear();
+    if (isRight)
+        QDialog::accept();
+    else
+        m_attempts.addWrong();
+}
+
+void Form32::showWait(int seconds)
+{
+    const QString wait = PasswordMessages::tryAgainIn(seconds);
+    setUnavailable(m_password, wait);
+    setUnavailable(m_ok, wait);
+    m_refusal->setText(PasswordMessages::wrongPassword() + u' ' + wait);
+}
+
+void Form32::endWait()
+{
+    setUnavailable(m_password, {});
+    setUnavailable(m_ok, {});
+    m_refusal->setText(PasswordMessages::wrongPassword());
+    m_password->setFocus();
+}
+
+void showPasswordPrompt(Program &program, QWidget *parent)
+{
+    const PasswordGateResult asked = program.state.passwordGateResult;
+    program.state.passwordGateResult = PasswordGateResult::Refused;
+    // The caller shows the hourglass while it opens a function; nobody types under an hourglass.
+    HINFO1::hourglassOff();
+    if (PasswordFile(program.folder).state() != PasswordFile::State::Set) {
+        program.dialogs.ask(parent, PasswordMessages::fileDamaged(program.folder.path()));
+        return;
+    }
+    program.state.passwordGateResult = asked;
+    Form32 prompt(program, parent);
+    const bool isPassed = program.dialogs.run(prompt) == QDialog::Accepted;
+    program.state.passwordGateResult = isPassed ? asked : PasswordGateResult::Refused;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "shell/attempts.h"
+#include "shell/passwordfile.h"
+
+#include <QDialog>
+
+#include <chrono>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+struct Program;
+
+/// The password prompt: names the function that is to be opened and is accepted with the right password
+/// alone. After three wrong answers it is rejected.
+class Form32 final : public QDialog
+{
+    Q_OBJECT
+public:
+    /// Reads from the program-wide state what it guards; `step` is what each further wrong answer waits
+    /// longer.
+    explicit Form32(Program &program, QWidget *parent = nullptr,
+                    std::chrono::milliseconds step = std::chrono::seconds(1));
+
+    /// Compares what was typed with the password.
+    void accept() override;
+
+private:
+    void buildForm(const QString &functionName);
+    void showWait(int seconds);
+    void endWait();
+
+    PasswordFile m_file;
+    Attempts m_attempts;
+    QLineEdit *m_password;
+    QCheckBox *m_showPassword;
+    QLabel *m_refusal;
+    QPushButton *m_ok;
+    QPushButton *m_cancel;
+};
+
+/// The gate's prompt: asks for the password and leaves the verdict in `ProgramState::passwordGateResult`. A
+/// file that is damaged, or gone since the flags were read, is told and refuses.
+void showPasswordPrompt(Program &program, QWidget *parent);

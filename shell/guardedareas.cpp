@@ -10,13 +10,15 @@ namespace {
 constexpr int homeInventory = 6;
 constexpr int videoLibrary = 8;
 
-/// The name of an area of this edition; empty for any other.
-QString ownName(int area)
+/// The function of this edition behind `area`; empty for any other.
+QString ownFunction(int area)
 {
     switch (area) {
     case Area::AddressBook:
+    case Area::AddressBookButton:
         return u"Family/Friends Data"_s;
     case Area::AddressViewer:
+    case Area::AddressViewerButton:
         return u"Family/Friends Viewer"_s;
     case Area::Planner:
         return u"Personal Planner"_s;
@@ -28,10 +30,6 @@ QString ownName(int area)
         return u"Automobile Tracker"_s;
     case Area::Journal:
         return u"Personal Journal"_s;
-    case Area::AddressBookButton:
-        return u"Family/Friends Data (toolbar button)"_s;
-    case Area::AddressViewerButton:
-        return u"Family/Friends Viewer (toolbar button)"_s;
     default:
         return {};
     }
@@ -39,10 +37,10 @@ QString ownName(int area)
 
 } // namespace
 
-QString GuardedAreas::name(int area)
+QString GuardedAreas::functionName(int area)
 {
     if (isOfThisEdition(area))
-        return ownName(area);
+        return ownFunction(area);
     switch (area) {
     case homeInventory:
         return u"Home Inventory"_s;
@@ -53,7 +51,13 @@ QString GuardedAreas::name(int area)
     }
 }
 
+QString GuardedAreas::name(int area)
+{
+    const bool isButton = area == Area::AddressBookButton || area == Area::AddressViewerButton;
+    return isButton ? functionName(area) + u" (toolbar button)"_s : functionName(area);
+}
+
 bool GuardedAreas::isOfThisEdition(int area)
 {
-    return !ownName(area).isEmpty();
+    return !ownFunction(area).isEmpty();
 }

@@ -5,8 +5,11 @@
 /// What the 21 flags of password control guard, by the index of the flag (see `Area` and `ProtectedAreas`).
 namespace GuardedAreas {
 
-/// The function behind `area` as its menu entry names it, without an access key. Areas of other editions are
-/// named by what is known of them, at least by their number.
+/// The function behind `area` as its menu entry names it, without an access key. Functions of other editions
+/// are named by what is known of them, at least by their number.
+QString functionName(int area);
+
+/// The function and, where there are two ways to it, which of them `area` guards.
 QString name(int area);
 
 /// Whether this edition opens anything through `area`; the flags of the others are only kept.

@@ -35,9 +35,110 @@ inline Message saveChanges()
             Answer::Yes};
 }
 
+// Quiet lines beside the box.
+
+inline QString passwordMissing()
+{
+    return QStringLiteral("Type the password first.");
+}
+
+inline QString tryAgainIn(int seconds)
+{
+    return seconds == 1 ? QStringLiteral("Try again in 1 second.")
+                        : QStringLiteral("Try again in %1 seconds.").arg(seconds);
+}
+
 inline QString wrongPassword()
 {
     return QStringLiteral("That is not the password.");
+}
+
+inline QString newPasswordMissing()
+{
+    return QStringLiteral("Type the new password first.");
+}
+
+inline QString passwordsDiffer()
+{
+    return QStringLiteral("The two new passwords differ. Type the same one again.");
+}
+
+inline QString passwordNotSaved()
+{
+    return QStringLiteral("The password could not be saved. Everything is as it was.");
+}
+
+inline QString answersSpent()
+{
+    return QStringLiteral("Three answers were wrong. Close this window and open it again.");
+}
+
+inline QString lengthHint()
+{
+    return QStringLiteral(
+        "Any length is taken; longer is better. Three or four words are easy to remember and "
+        "hard to guess.");
+}
+
+// What password control says of itself.
+
+inline QString setSummary()
+{
+    return QStringLiteral("It is asked for in front of this window and of every function that is marked.");
+}
+
+inline QString notSetSummary()
+{
+    return QStringLiteral("Every function opens without asking.");
+}
+
+inline QString damagedSummary()
+{
+    return QStringLiteral(
+        "The password file is damaged. Nothing can be changed until PCtrl1.Fil is restored from a "
+        "backup.");
+}
+
+inline QString marksNeedPassword()
+{
+    return QStringLiteral("Set a password first: there is nothing to ask for yet.");
+}
+
+inline QString nothingToSave()
+{
+    return QStringLiteral("No mark was changed.");
+}
+
+inline QString markOfOtherEdition()
+{
+    return QStringLiteral("This program does not have the function. Its mark is kept as it is.");
+}
+
+// Quiet lines of the status bar.
+
+inline QString passwordSet()
+{
+    return QStringLiteral("The password is set. Now mark what it shall guard.");
+}
+
+inline QString passwordChanged()
+{
+    return QStringLiteral("The password is changed.");
+}
+
+inline QString passwordRemoved()
+{
+    return QStringLiteral("The password is removed. Every function opens without asking.");
+}
+
+inline QString marksSaved()
+{
+    return QStringLiteral("Saved.");
+}
+
+inline QString marksNotSaved()
+{
+    return QStringLiteral("The marks could not be saved. They are still here.");
 }
 
 } // namespace PasswordMessages

@@ -1,0 +1,293 @@
+#include "shell/passwordpane.h"
+
+#include "shell/busycursor.h"
+#include "shell/controls.h"
+#include "shell/passwordmessages.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QLineEdit *makePasswordBox(const QString &name, QWidget *parent)
+{
+    auto *box = named(new QLineEdit(parent), name);
+    box->setEchoMode(QLineEdit::Password);
+    return box;
+}
+
+/// A column whose widgets stand close together: a label above its box.
+QVBoxLayout *makeColumn(QWidget *parent)
+{
+    auto *column = new QVBoxLayout(parent);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(3);
+    return column;
+}
+
+QLabel *makeWrapped(QLabel *label)
+{
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+PasswordPane::PasswordPane(const PasswordFile &file, std::chrono::milliseconds step, QWidget *parent)
+    : QWidget(parent)
+    , m_file(file)
+    , m_attempts(step)
+    , m_chip(makeChip(u"passwordState"_s, {}, this))
+    , m_summary(makeWrapped(named(makeQuietLabel({}, this), u"passwordSummary"_s)))
+    , m_set(makeButton(u"setPassword"_s, u"Se&t Password"_s, this))
+    , m_change(makeButton(u"changePassword"_s, u"&Change Password"_s, this))
+    , m_remove(makeButton(u"removePassword"_s, u"&Remove Password"_s, this))
+    , m_heading(nullptr)
+    , m_form(makeForm())
+{
+    auto *title = new QHBoxLayout;
+    title->setSpacing(16);
+    title->addWidget(makeTitle(u"Password"_s, this));
+    title->addWidget(m_chip);
+    title->addStretch();
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    for (QPushButton *button : {m_set, m_change, m_remove})
+        buttons->addWidget(button);
+    buttons->addStretch();
+
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(12);
+    all->addLayout(title);
+    all->addWidget(m_summary);
+    all->addLayout(buttons);
+    all->addWidget(m_form);
+    all->addStretch();
+    connectAll();
+    refresh();
+}
+
+QWidget *PasswordPane::makeForm()
+{
+    auto *form = new QWidget(this);
+    m_heading = makeHeading({}, form);
+
+    m_oldPart = new QWidget(form);
+    m_old = makePasswordBox(u"Text1_0"_s, m_oldPart);
+    QVBoxLayout *column = makeColumn(m_oldPart);
+    column->addWidget(makeFieldLabel(u"Password until now"_s, m_old, m_oldPart));
+    column->addWidget(m_old);
+
+    m_newPart = new QWidget(form);
+    m_new = makePasswordBox(u"Text1_1"_s, m_newPart);
+    m_repeat = makePasswordBox(u"Text1_2"_s, m_newPart);
+    column = makeColumn(m_newPart);
+    column->addWidget(makeFieldLabel(u"New password"_s, m_new, m_newPart));
+    column->addWidget(m_new);
+    column->addWidget(makeWrapped(makeQuietLabel(PasswordMessages::lengthHint(), m_newPart)));
+    column->addSpacing(9);
+    column->addWidget(makeFieldLabel(u"The new password again"_s, m_repeat, m_newPart));
+    column->addWidget(m_repeat);
+
+    m_showPasswords = named(new QCheckBox(u"Sho&w what is typed"_s, form), u"showPasswords"_s);
+    m_refusal = makeWrapped(named(makeQuietLabel({}, form), u"refusal"_s));
+    m_ok = makeButton(u"passwordOk"_s, u"O&K"_s, form);
+    m_cancel = makeButton(u"passwordCancel"_s, u"Ca&ncel"_s, form);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addWidget(m_ok);
+    buttons->addWidget(m_cancel);
+    buttons->addStretch();
+
+    auto *all = new QVBoxLayout(form);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(12);
+    all->addWidget(makeLine(form));
+    for (QWidget *part : {static_cast<QWidget *>(m_heading), m_oldPart, m_newPart,
+                          static_cast<QWidget *>(m_showPasswords), static_cast<QWidget *>(m_refusal)})
+        all->addWidget(part);
+    all->addLayout(buttons);
+    form->hide();
+    return form;
+}
+
+void PasswordPane::connectAll()
+{
+    connect(m_set, &QPushButton::clicked, this, [this] { begin(Task::Set); });
+    connect(m_change, &QPushButton::clicked, this, [this] { begin(Task::Change); });
+    connect(m_remove, &QPushButton::clicked, this, [this] { begin(Task::Remove); });
+    connect(m_ok, &QPushButton::clicked, this, &PasswordPane::carryOut);
+    connect(m_cancel, &QPushButton::clicked, this, &PasswordPane::close);
+    for (QLineEdit *box : {m_old, m_new, m_repeat}) {
+        connect(box, &QLineEdit::returnPressed, this, &PasswordPane::carryOut);
+        connect(box, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
+        connect(m_showPasswords, &QCheckBox::toggled, box,
+                [box](bool shown) { box->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });
+    }
+    connect(&m_attempts, &Attempts::waiting, this, &PasswordPane::showWait);
+    connect(&m_attempts, &Attempts::waited, this, &PasswordPane::endWait);
+    connect(&m_attempts, &Attempts::spent, this, &PasswordPane::endAsking);
+}
+
+void PasswordPane::refresh()
+{
+    const PasswordFile::State state = m_file.state();
+    const bool isSet = state == PasswordFile::State::Set;
+    const bool isDamaged = state == PasswordFile::State::Damaged;
+    m_chip->setText(isDamaged ? u"Damaged"_s : isSet ? u"Set"_s : u"Not set"_s);
+    m_summary->setText(isDamaged ? PasswordMessages::damagedSummary()
+                       : isSet   ? PasswordMessages::setSummary()
+                                 : PasswordMessages::notSetSummary());
+    m_set->setVisible(!isSet);
+    m_change->setVisible(isSet);
+    m_remove->setVisible(isSet);
+    setUnavailable(m_set, isDamaged ? PasswordMessages::damagedSummary() : QString());
+    const QString spent = m_attempts.isSpent() ? PasswordMessages::answersSpent() : QString();
+    setUnavailable(m_change, spent);
+    setUnavailable(m_remove, spent);
+}
+
+QWidget *PasswordPane::firstControl() const
+{
+    return m_set->isHidden() ? m_change : m_set;
+}
+
+void PasswordPane::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && m_task != Task::None)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void PasswordPane::begin(Task task)
+{
+    if (m_file.state() == PasswordFile::State::Damaged) {
+        emit damageFound();
+        return;
+    }
+    close();
+    m_task = task;
+    m_heading->setText(task == Task::Set      ? u"Set Password"_s
+                       : task == Task::Change ? u"Change Password"_s
+                                              : u"Remove Password"_s);
+    m_oldPart->setVisible(task != Task::Set);
+    m_newPart->setVisible(task != Task::Remove);
+    m_form->show();
+    (task == Task::Set ? m_new : m_old)->setFocus();
+}
+
+void PasswordPane::close()
+{
+    if (m_task == Task::None)
+        return;
+    m_task = Task::None;
+    for (QLineEdit *box : {m_old, m_new, m_repeat})
+        box->clear();
+    m_showPasswords->setChecked(false);
+    if (!m_attempts.isWaiting())
+        m_refusal->clear();
+    const bool hadFocus = m_form->isAncestorOf(focusWidget());
+    m_form->hide();
+    if (hadFocus)
+        firstControl()->setFocus();
+}
+
+void PasswordPane::carryOut()
+{
+    if (m_attempts.isWaiting() || !isAcceptable())
+        return;
+    const Task task = m_task;
+    const bool isDone = [this, task] {
+        const BusyCursor busy;
+        return task == Task::Remove ? m_file.removePassword() : m_file.setPassword(m_new->text());
+    }();
+    if (!isDone && m_file.state() == PasswordFile::State::Damaged) {
+        close();
+        emit damageFound();
+        return;
+    }
+    if (!isDone) {
+        m_refusal->setText(PasswordMessages::passwordNotSaved());
+        return;
+    }
+    close();
+    refresh();
+    firstControl()->setFocus();
+    if (task == Task::Set)
+        emit passwordSet();
+    else if (task == Task::Change)
+        emit passwordChanged();
+    else
+        emit passwordRemoved();
+}
+
+bool PasswordPane::isAcceptable()
+{
+    if (m_task != Task::Remove) {
+        if (m_new->text().isEmpty())
+            return refuse(m_new, PasswordMessages::newPasswordMissing());
+        if (m_new->text() != m_repeat->text())
+            return refuse(m_repeat, PasswordMessages::passwordsDiffer());
+    }
+    if (m_task == Task::Set)
+        return true;
+    if (m_old->text().isEmpty())
+        return refuse(m_old, PasswordMessages::passwordMissing());
+    const bool isRight = [this] {
+        const BusyCursor busy;
+        return m_file.matches(m_old->text());
+    }();
+    if (isRight) {
+        m_attempts.reset();
+        return true;
+    }
+    // A file that was damaged meanwhile knows no password: that is nobody's wrong answer.
+    if (m_file.state() != PasswordFile::State::Set) {
+        close();
+        refresh();
+        emit damageFound();
+        return false;
+    }
+    m_old->clear();
+    m_attempts.addWrong();
+    return false;
+}
+
+bool PasswordPane::refuse(QLineEdit *box, const QString &reason)
+{
+    m_refusal->setText(reason);
+    box->setFocus();
+    box->selectAll();
+    return false;
+}
+
+void PasswordPane::showWait(int seconds)
+{
+    const QString wait = PasswordMessages::tryAgainIn(seconds);
+    setUnavailable(m_old, wait);
+    setUnavailable(m_ok, wait);
+    m_refusal->setText(PasswordMessages::wrongPassword() + u' ' + wait);
+}
+
+void PasswordPane::endWait()
+{
+    setUnavailable(m_old, {});
+    setUnavailable(m_ok, {});
+    m_refusal->setText(PasswordMessages::wrongPassword());
+    if (m_task != Task::None)
+        m_old->setFocus();
+}
+
+void PasswordPane::endAsking()
+{
+    close();
+    refresh();
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "shell/attempts.h"
+#include "shell/passwordfile.h"
+
+#include <QWidget>
+
+#include <chrono>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+/// The part of password control that sets, changes and removes the password. What is done here is in force at
+/// once.
+class PasswordPane final : public QWidget
+{
+    Q_OBJECT
+public:
+    PasswordPane(const PasswordFile &file, std::chrono::milliseconds step, QWidget *parent = nullptr);
+
+    /// Shows what the file says now.
+    void refresh();
+
+    /// The button that comes first, for the focus.
+    QWidget *firstControl() const;
+
+signals:
+    void passwordSet();
+    void passwordChanged();
+    void passwordRemoved();
+    /// The file turned out to be damaged.
+    void damageFound();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    enum class Task { None, Set, Change, Remove };
+
+    QWidget *makeForm();
+    void connectAll();
+    void begin(Task task);
+    void close();
+    void carryOut();
+    bool isAcceptable();
+    bool refuse(QLineEdit *box, const QString &reason);
+    void showWait(int seconds);
+    void endWait();
+    void endAsking();
+
+    const PasswordFile &m_file;
+    Attempts m_attempts;
+    Task m_task = Task::None;
+
+    QLabel *m_chip;
+    QLabel *m_summary;
+    QPushButton *m_set;
+    QPushButton *m_change;
+    QPushButton *m_remove;
+
+    QLabel *m_heading;
+    QLineEdit *m_old;
+    QLineEdit *m_new;
+    QLineEdit *m_repeat;
+    QCheckBox *m_showPasswords;
+    QLabel *m_refusal;
+    QPushButton *m_ok;
+    QPushButton *m_cancel;
+    QWidget *m_oldPart;
+    QWidget *m_newPart;
+    QWidget *m_form;
+};

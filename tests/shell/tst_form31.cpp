@@ -1,0 +1,261 @@
+#include "shell/activitybar.h"
+#include "shell/form31.h"
+#include "shell/gate.h"
+#include "shell/passwordmessages.h"
+#include "shell/passwordpage.h"
+#include "tests/support/testprogram.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+class TestForm31 : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void setsAPasswordAndGuardsAFunction();
+    void marksNeedAPassword();
+    void refusesNewPasswords_data();
+    void refusesNewPasswords();
+    void changesThePassword();
+    void askingForTheOldPasswordIsLimited();
+    void removesThePasswordWithAllMarks();
+    void keepsTheFlagsOfOtherEditions();
+    void asksBeforeMarksAreLost_data();
+    void asksBeforeMarksAreLost();
+    void doesNotWriteIntoADamagedFile();
+    void printsWhatIsGuarded();
+
+private:
+    PasswordFile file() const { return PasswordFile(m_program->folder, PasswordCost::minimum()); }
+    void guard(int area) const;
+    void open();
+    void click(const char *name) const
+    {
+        QTest::mouseClick(control<QPushButton>(*m_window, name), Qt::LeftButton);
+    }
+    QCheckBox *mark(int area) const;
+    void type(const char *box, const QString &text) const;
+    QString refusal() const { return control<QLabel>(*m_window, "refusal")->text(); }
+    QString said() const { return m_window->findChild<ActivityBar *>()->message(); }
+
+    std::unique_ptr<TestProgram> m_program;
+    QPointer<Form31> m_window;
+};
+
+void TestForm31::init()
+{
+    m_program = std::make_unique<TestProgram>();
+}
+
+void TestForm31::cleanup()
+{
+    delete m_window;
+    QVERIFY(m_program->dialogs.isDone());
+}
+
+/// Sets the password "Sesame" and one flag before the window opens.
+void TestForm31::guard(int area) const
+{
+    QVERIFY(file().setPassword(u"Sesame"_s));
+    ProtectedAreas areas = file().areas();
+    areas.setFlag(area, u"YES"_s);
+    QVERIFY(file().saveAreas(areas));
+}
+
+void TestForm31::open()
+{
+    m_window = new Form31(m_program->program, PasswordCost::minimum(), 1ms);
+    showActive(*m_window);
+}
+
+QCheckBox *TestForm31::mark(int area) const
+{
+    return control<QCheckBox>(*m_window, qPrintable(u"Check1_%1"_s.arg(area)));
+}
+
+void TestForm31::type(const char *box, const QString &text) const
+{
+    auto *edit = control<QLineEdit>(*m_window, box);
+    edit->clear();
+    QTest::keyClicks(edit, text);
+}
+
+void TestForm31::setsAPasswordAndGuardsAFunction()
+{
+    open();
+    QVERIFY(!control<QPushButton>(*m_window, "changePassword")->isVisible());
+    click("setPassword");
+    type("Text1_1", u"Tulips"_s);
+    type("Text1_2", u"Tulips"_s);
+    QTest::keyClick(control<QLineEdit>(*m_window, "Text1_2"), Qt::Key_Return);
+    QVERIFY(file().matches(u"Tulips"_s));
+    QCOMPARE(said(), PasswordMessages::passwordSet());
+    QVERIFY(control<QLineEdit>(*m_window, "Text1_1")->text().isEmpty());
+
+    QVERIFY(!m_window->isModified());
+    QTest::keyClick(mark(Area::AddressBook), Qt::Key_Space);
+    QVERIFY(m_window->isModified());
+    QVERIFY(!m_program->state.protectedAreas.isProtected(Area::AddressBook));
+    click("Command1");
+    QVERIFY(m_program->state.protectedAreas.isProtected(Area::AddressBook));
+    QVERIFY(file().areas().isProtected(Area::AddressBook));
+    QVERIFY(!m_window->isModified());
+    QVERIFY(m_window->close());
+}
+
+void TestForm31::marksNeedAPassword()
+{
+    open();
+    for (int area = 0; area < ProtectedAreas::count; ++area) {
+        QVERIFY(!mark(area)->isEnabled());
+        QVERIFY(!mark(area)->toolTip().isEmpty());
+    }
+    QVERIFY(!control<QPushButton>(*m_window, "Command1")->isEnabled());
+}
+
+void TestForm31::refusesNewPasswords_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("empty") << QString() << QString() << PasswordMessages::newPasswordMissing();
+    QTest::newRow("different") << u"Tulips"_s << u"Tulip"_s << PasswordMessages::passwordsDiffer();
+    QTest::newRow("typed once") << u"Tulips"_s << QString() << PasswordMessages::passwordsDiffer();
+}
+
+void TestForm31::refusesNewPasswords()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    open();
+    click("setPassword");
+    type("Text1_1", first);
+    type("Text1_2", second);
+    click("passwordOk");
+    QTEST(refusal(), "reason");
+    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+}
+
+void TestForm31::changesThePassword()
+{
+    guard(Area::Planner);
+    open();
+    click("changePassword");
+    type("Text1_0", u"Sesame"_s);
+    type("Text1_1", u"Tulips"_s);
+    type("Text1_2", u"Tulips"_s);
+    click("passwordOk");
+    QVERIFY(file().matches(u"Tulips"_s));
+    QVERIFY(file().areas().isProtected(Area::Planner));
+}
+
+void TestForm31::askingForTheOldPasswordIsLimited()
+{
+    guard(Area::Planner);
+    open();
+    for (int answer = 1; answer <= 3; ++answer) {
+        click("removePassword");
+        QTRY_VERIFY(control<QPushButton>(*m_window, "passwordOk")->isEnabled());
+        type("Text1_0", u"Roses"_s);
+        click("passwordOk");
+    }
+    QVERIFY(!control<QPushButton>(*m_window, "removePassword")->isEnabled());
+    QCOMPARE(control<QPushButton>(*m_window, "changePassword")->toolTip(), PasswordMessages::answersSpent());
+    QVERIFY(!control<QLineEdit>(*m_window, "Text1_0")->isVisible());
+    QVERIFY(file().matches(u"Sesame"_s));
+}
+
+void TestForm31::removesThePasswordWithAllMarks()
+{
+    guard(Area::Planner);
+    open();
+    QVERIFY(mark(Area::Planner)->isChecked());
+    click("removePassword");
+    type("Text1_0", u"Sesame"_s);
+    click("passwordOk");
+    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+    QVERIFY(!mark(Area::Planner)->isChecked());
+    QVERIFY(!m_program->state.protectedAreas.isProtected(Area::Planner));
+    QVERIFY(!m_window->isModified());
+}
+
+void TestForm31::keepsTheFlagsOfOtherEditions()
+{
+    guard(6);
+    const qsizetype ofBudget = 140 * (1 + Area::Budget);
+    QByteArray before = m_program->bytes(u"PCtrl1.Fil"_s);
+    open();
+    QVERIFY(mark(6)->isChecked());
+    QVERIFY(!mark(6)->isEnabled());
+    mark(Area::Budget)->click();
+    click("Command1");
+    QCOMPARE(m_program->bytes(u"PCtrl1.Fil"_s), before.replace(ofBudget, 5, QByteArray("\3\0YES", 5)));
+}
+
+void TestForm31::asksBeforeMarksAreLost_data()
+{
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<bool>("saved");
+    QTest::newRow("Yes") << Answer::Yes << true << true;
+    QTest::newRow("No") << Answer::No << true << false;
+    QTest::newRow("Cancel") << Answer::Cancel << false << false;
+}
+
+void TestForm31::asksBeforeMarksAreLost()
+{
+    QFETCH(Answer, answer);
+    guard(Area::Planner);
+    open();
+    mark(Area::Journal)->click();
+    m_program->dialogs.willAnswer(answer);
+    QTEST(m_window->close(), "closes");
+    QCOMPARE(m_program->dialogs.takeShown(), {PasswordMessages::saveChanges()});
+    QTEST(file().areas().isProtected(Area::Journal), "saved");
+}
+
+void TestForm31::doesNotWriteIntoADamagedFile()
+{
+    guard(Area::Planner);
+    open();
+    mark(Area::Journal)->click();
+    const QByteArray cut = m_program->bytes(u"PCtrl1.Fil"_s).left(1000);
+    m_program->setBytes(u"PCtrl1.Fil"_s, cut);
+    click("Command1");
+    QCOMPARE(m_program->dialogs.takeShown(), {PasswordMessages::fileDamaged(m_program->folder.path())});
+    QCOMPARE(m_program->bytes(u"PCtrl1.Fil"_s), cut);
+    QVERIFY(!mark(Area::Journal)->isEnabled());
+
+    delete m_window;
+    open();
+    QCOMPARE(control<QLabel>(*m_window, "passwordState")->text(), u"Damaged"_s);
+    QVERIFY(!control<QPushButton>(*m_window, "setPassword")->isEnabled());
+}
+
+void TestForm31::printsWhatIsGuarded()
+{
+    guard(Area::CarLog);
+    open();
+    control<QAction>(*m_window, "mOPrt")->trigger();
+    QVERIFY(m_window->isPreviewShown());
+    const QString text = passwordPage(true, file().areas(), QDate(2026, 11, 21), DateStyle::Usa).toText();
+    QVERIFY(text.contains("A password is set."_L1));
+    QVERIFY(text.contains("Automobile Tracker\tasked"_L1));
+    QVERIFY(text.contains("Personal Journal\tnot asked"_L1));
+    QVERIFY(!text.contains("Video Library"_L1));
+}
+
+QTEST_MAIN(TestForm31)
+#include "tst_form31.moc"

@@ -1,0 +1,205 @@
+#include "shell/form32.h"
+#include "shell/gate.h"
+#include "shell/passwordmessages.h"
+#include "tests/support/testprogram.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+void type(const Form32 &prompt, const QString &password)
+{
+    auto *box = control<QLineEdit>(prompt, "Text1");
+    QTest::keyClicks(box, password);
+    QTest::keyClick(box, Qt::Key_Return);
+}
+
+} // namespace
+
+class TestForm32 : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void namesWhatItGuards_data();
+    void namesWhatItGuards();
+    void opensWithThePasswordAlone_data();
+    void opensWithThePasswordAlone();
+    void eachWrongAnswerWaitsLonger();
+    void theThirdWrongAnswerEndsIt();
+    void nothingIsTriedDuringTheWait();
+    void leavesItsVerdictForTheGate_data();
+    void leavesItsVerdictForTheGate();
+    void tellsThatTheFileIsDamaged_data();
+    void tellsThatTheFileIsDamaged();
+    void showsThePasswordOnlyWhenAsked();
+
+private:
+    std::unique_ptr<TestProgram> m_program;
+};
+
+void TestForm32::init()
+{
+    m_program = std::make_unique<TestProgram>();
+    m_program->gate = AccessGate(showPasswordPrompt);
+    QVERIFY(PasswordFile(m_program->folder, PasswordCost::minimum()).setPassword(u"Sesame"_s));
+}
+
+void TestForm32::namesWhatItGuards_data()
+{
+    QTest::addColumn<int>("area");
+    QTest::addColumn<PasswordGateResult>("result");
+    QTest::addColumn<QString>("name");
+    using Result = PasswordGateResult;
+    QTest::newRow("a function") << Area::Planner << Result::Open << u"Personal Planner"_s;
+    QTest::newRow("its button") << Area::AddressBookButton << Result::Open << u"Family/Friends Data "_s;
+    QTest::newRow("another edition's") << 8 << Result::Open << u"Video Library"_s;
+    QTest::newRow("password control") << Area::None << Result::PasswordControl << u"Password Control"_s;
+}
+
+void TestForm32::namesWhatItGuards()
+{
+    QFETCH(QString, name);
+    QFETCH(int, area);
+    QFETCH(PasswordGateResult, result);
+    m_program->state.guardedArea = area;
+    m_program->state.passwordGateResult = result;
+    const Form32 prompt(m_program->program);
+    const QList<QLabel *> labels = prompt.findChildren<QLabel *>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(),
+                        [&name](const QLabel *label) { return label->text().startsWith(name); }));
+}
+
+void TestForm32::opensWithThePasswordAlone_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("the password") << u"Sesame"_s << true;
+    QTest::newRow("another") << u"sesame"_s << false;
+    QTest::newRow("nothing") << QString() << false;
+}
+
+void TestForm32::opensWithThePasswordAlone()
+{
+    QFETCH(QString, typed);
+    Form32 prompt(m_program->program, nullptr, 1ms);
+    const QSignalSpy accepted(&prompt, &QDialog::accepted);
+    showActive(prompt);
+    type(prompt, typed);
+    QTEST(!accepted.isEmpty(), "opens");
+    QVERIFY(control<QLineEdit>(prompt, "Text1")->text().isEmpty());
+}
+
+void TestForm32::eachWrongAnswerWaitsLonger()
+{
+    Form32 prompt(m_program->program, nullptr, 100ms);
+    showActive(prompt);
+    auto *box = control<QLineEdit>(prompt, "Text1");
+    auto *line = control<QLabel>(prompt, "refusal");
+
+    QElapsedTimer clock;
+    clock.start();
+    type(prompt, u"Tulips"_s);
+    QVERIFY(!box->isEnabled());
+    QCOMPARE(line->text(), u"That is not the password. Try again in 1 second."_s);
+    QCOMPARE(box->toolTip(), u"Try again in 1 second."_s);
+    QTRY_VERIFY(box->isEnabled());
+    QVERIFY(clock.restart() >= 95);
+    QVERIFY(box->hasFocus());
+
+    type(prompt, u"Roses"_s);
+    QCOMPARE(line->text(), u"That is not the password. Try again in 2 seconds."_s);
+    QTRY_COMPARE(line->text(), u"That is not the password. Try again in 1 second."_s);
+    QTRY_COMPARE(line->text(), u"That is not the password."_s);
+    QVERIFY(clock.elapsed() >= 190);
+}
+
+void TestForm32::theThirdWrongAnswerEndsIt()
+{
+    Form32 prompt(m_program->program, nullptr, 1ms);
+    const QSignalSpy rejected(&prompt, &QDialog::rejected);
+    showActive(prompt);
+    for (int answer = 1; answer <= 3; ++answer) {
+        QTRY_VERIFY(control<QLineEdit>(prompt, "Text1")->isEnabled());
+        QVERIFY(rejected.isEmpty());
+        // An answer that was not given is not a wrong one.
+        type(prompt, QString());
+        type(prompt, u"Tulips"_s);
+    }
+    QCOMPARE(rejected.size(), 1);
+}
+
+void TestForm32::nothingIsTriedDuringTheWait()
+{
+    Form32 prompt(m_program->program, nullptr, 10s);
+    const QSignalSpy finished(&prompt, &QDialog::finished);
+    showActive(prompt);
+    type(prompt, u"Tulips"_s);
+    control<QLineEdit>(prompt, "Text1")->setText(u"Sesame"_s);
+    prompt.accept();
+    QTest::mouseClick(control<QPushButton>(prompt, "Command1"), Qt::LeftButton);
+    QVERIFY(finished.isEmpty());
+    QTest::mouseClick(control<QPushButton>(prompt, "Command2"), Qt::LeftButton);
+    QCOMPARE(prompt.result(), int(QDialog::Rejected));
+    QCOMPARE(finished.size(), 1);
+}
+
+void TestForm32::leavesItsVerdictForTheGate_data()
+{
+    QTest::addColumn<QDialog::DialogCode>("code");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("the password") << QDialog::Accepted << true;
+    QTest::newRow("cancelled") << QDialog::Rejected << false;
+}
+
+void TestForm32::leavesItsVerdictForTheGate()
+{
+    QFETCH(QDialog::DialogCode, code);
+    QFETCH(bool, opens);
+    m_program->state.protectedAreas.setFlag(Area::Budget, u"YES"_s);
+    m_program->dialogs.willRun([code](QDialog &) { return code; });
+    QCOMPARE(m_program->gate.mayOpen(m_program->program, Area::Budget, nullptr), opens);
+    m_program->dialogs.willRun([code](QDialog &) { return code; });
+    QCOMPARE(m_program->gate.mayOpenPasswordControl(m_program->program, nullptr), opens);
+    QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);
+    QVERIFY(m_program->dialogs.isDone());
+}
+
+void TestForm32::tellsThatTheFileIsDamaged_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("noise") << "\x12\x34\x56"_ba;
+    QTest::newRow("emptied while the program runs") << QByteArray();
+}
+
+void TestForm32::tellsThatTheFileIsDamaged()
+{
+    QFETCH(QByteArray, bytes);
+    m_program->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
+    m_program->setBytes(u"PCtrl1.Fil"_s, bytes);
+    QVERIFY(!m_program->gate.mayOpen(m_program->program, Area::AddressBook, nullptr));
+    QCOMPARE(m_program->dialogs.takeShown(), {PasswordMessages::fileDamaged(m_program->folder.path())});
+}
+
+void TestForm32::showsThePasswordOnlyWhenAsked()
+{
+    const Form32 prompt(m_program->program);
+    auto *box = control<QLineEdit>(prompt, "Text1");
+    QCOMPARE(box->echoMode(), QLineEdit::Password);
+    control<QCheckBox>(prompt, "showPassword")->setChecked(true);
+    QCOMPARE(box->echoMode(), QLineEdit::Normal);
+}
+
+QTEST_MAIN(TestForm32)
+#include "tst_form32.moc"
