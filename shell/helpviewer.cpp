@@ -1,0 +1,237 @@
+#include "shell/helpviewer.h"
+
+#include "shell/activitybar.h"
+#include "shell/controls.h"
+#include "shell/helpcontexts.h"
+#include "shell/helpentry.h"
+#include "shell/manualbrowser.h"
+#include "shell/manualprint.h"
+#include "shell/theme.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int contentsWidth = 272;
+
+WindowTraits manualWindow()
+{
+    WindowTraits traits;
+    traits.name = u"HelpViewer"_s;
+    traits.caption = u"Quillery Manual"_s;
+    traits.activity = u"Manual"_s;
+    traits.colors = {SettingsKeys::helpColor, SettingsKeys::helpProgramColor, {}};
+    traits.helpContext = HelpContext::ProgramOverview;
+    traits.openingSize = {1080, 760};
+    return traits;
+}
+
+QString pages(qsizetype count)
+{
+    return count == 1 ? u"1 page"_s : u"%1 pages"_s.arg(count);
+}
+
+} // namespace
+
+HelpViewer::HelpViewer(Program &program, QWidget *parent)
+    : FunctionWindow(program, manualWindow(), parent)
+    , m_manual(program.folder.path())
+{
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    auto *splitter = named(new QSplitter(this), u"contentsSplitter"_s);
+    splitter->addWidget(makeContents());
+    splitter->addWidget(makePagePanel());
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({contentsWidth, 1});
+    rememberSplitter(splitter);
+    setWork(splitter);
+    makeMenus();
+    finishFrame();
+
+    // Not sourceChanged(), which comes while source() is still the page before.
+    connect(m_browser, &QTextBrowser::historyChanged, this, &HelpViewer::pageShown);
+    connect(m_browser, &QTextBrowser::backwardAvailable, this, [this](bool available) {
+        setUnavailable(m_back, available ? QString() : u"No page was shown before this one."_s);
+    });
+    connect(m_browser, &QTextBrowser::forwardAvailable, this, [this](bool available) {
+        setUnavailable(m_forward, available ? QString() : u"This is the last page that was shown."_s);
+    });
+    connect(m_search, &QLineEdit::textChanged, this, &HelpViewer::search);
+    connect(m_search, &QLineEdit::returnPressed, this, &HelpViewer::openHit);
+    connect(m_list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem *item) {
+        if (item)
+            openPage(item->data(HelpEntryDelegate::contextRole).toInt());
+    });
+    showContents();
+    openPage(HelpContext::ProgramOverview);
+    m_list->setFocus();
+}
+
+QWidget *HelpViewer::makeContents()
+{
+    auto *contents = new QWidget(this);
+    auto *rows = new QVBoxLayout(contents);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(8);
+    m_search = named(new QLineEdit(contents), u"search"_s);
+    m_search->setPlaceholderText(u"Search the manual"_s);
+    m_search->setAccessibleName(m_search->placeholderText());
+    m_search->setClearButtonEnabled(true);
+    m_search->addAction(Icons::icon("search"_L1, Theme::of(this).scheme), QLineEdit::LeadingPosition);
+    m_list = named(new QListWidget(contents), u"contents"_s);
+    m_list->setAccessibleName(u"Pages of the manual"_s);
+    m_list->setItemDelegate(new HelpEntryDelegate(m_list));
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setResizeMode(QListView::Adjust);
+    m_list->setMouseTracking(true);
+    m_count = named(makeQuietLabel({}, contents), u"count"_s);
+    m_count->setContentsMargins(4, 0, 0, 0);
+    rows->addWidget(m_search);
+    rows->addWidget(m_list, 1);
+    rows->addWidget(m_count);
+    contents->setMinimumWidth(200);
+    return contents;
+}
+
+QWidget *HelpViewer::makePagePanel()
+{
+    QWidget *panel = makePanel(u"pagePanel"_s);
+    auto *rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(12, 12, 12, 12);
+    m_browser = named(new ManualBrowser(m_manual, panel), u"manualPage"_s);
+    m_browser->setAccessibleName(u"Page of the manual"_s);
+    rows->addWidget(m_browser);
+    return panel;
+}
+
+void HelpViewer::makeMenus()
+{
+    m_back = makeAction(u"mGBack"_s, u"&Back"_s, this);
+    m_forward = makeAction(u"mGForward"_s, u"&Forward"_s, this);
+    m_back->setShortcut(QKeySequence::Back);
+    m_forward->setShortcut(QKeySequence::Forward);
+    setUnavailable(m_back, u"No page was shown before this one."_s);
+    setUnavailable(m_forward, u"This is the last page that was shown."_s);
+    QAction *color = makeAction(u"mOC"_s, u"Panel C&olor"_s, this);
+    QAction *printing = makeAction(u"mOPrt"_s, u"&Print"_s, this);
+    QAction *leaving = makeAction(u"mOEx"_s, u"E&xit"_s, this);
+    connect(m_back, &QAction::triggered, m_browser, &QTextBrowser::backward);
+    connect(m_forward, &QAction::triggered, m_browser, &QTextBrowser::forward);
+    connect(color, &QAction::triggered, this, [this] { colors().choosePanelColor(); });
+    connect(printing, &QAction::triggered, this, [this] {
+        showPreview([this](const PageSetup &setup) { return page(setup); },
+                    m_manual.page(currentContext()).title);
+    });
+    connect(leaving, &QAction::triggered, this, &QWidget::close);
+
+    QMenu *options = named(menuBar()->addMenu(u"&Options"_s), u"mO"_s);
+    options->addActions({color, printing});
+    options->addSeparator();
+    options->addAction(leaving);
+    named(menuBar()->addMenu(u"&Go"_s), u"mG"_s)->addActions({m_back, m_forward});
+
+    addTool(m_back, "previous"_L1, u"Back"_s);
+    addTool(m_forward, "next"_L1, u"Forward"_s);
+    addToolSeparator();
+    addTool(printing, "print"_L1, u"Print"_s);
+    addTool(color, "palette"_L1, u"Panel Color"_s);
+}
+
+void HelpViewer::openPage(int context)
+{
+    closePreview();
+    m_browser->openPage(context);
+}
+
+int HelpViewer::currentContext() const
+{
+    return m_browser->currentContext();
+}
+
+void HelpViewer::showContents()
+{
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (const ManualPage &page : m_manual.pages()) {
+        auto *item = new QListWidgetItem(page.title, m_list);
+        item->setData(HelpEntryDelegate::contextRole, page.context);
+    }
+    m_count->setText(pages(m_manual.pages().size()));
+    m_browser->setExtraSelections({});
+    pageShown();
+}
+
+void HelpViewer::search()
+{
+    const QString words = m_search->text().simplified();
+    if (words.isEmpty()) {
+        showContents();
+        return;
+    }
+    const QList<ManualHit> hits = m_manual.find(words);
+    // Without a hit the list stays as it was.
+    if (hits.isEmpty()) {
+        m_count->setText(u"Nothing found"_s);
+        return;
+    }
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (const ManualHit &hit : hits) {
+        auto *item = new QListWidgetItem(hit.title, m_list);
+        item->setData(HelpEntryDelegate::contextRole, hit.context);
+        item->setData(HelpEntryDelegate::excerptRole, hit.excerpt);
+    }
+    m_count->setText(u"Found on "_s + pages(hits.size()));
+    pageShown();
+}
+
+void HelpViewer::openHit()
+{
+    if (m_search->text().simplified().isEmpty() || m_manual.find(m_search->text()).isEmpty())
+        return;
+    if (!m_list->currentItem())
+        m_list->setCurrentRow(0);
+    m_list->setFocus();
+}
+
+/// The list follows the page, however it was reached.
+void HelpViewer::pageShown()
+{
+    const QSignalBlocker quiet(m_list);
+    QListWidgetItem *shown = nullptr;
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (m_list->item(row)->data(HelpEntryDelegate::contextRole).toInt() == currentContext())
+            shown = m_list->item(row);
+    }
+    m_list->setCurrentItem(shown);
+    markWords();
+}
+
+void HelpViewer::markWords()
+{
+    m_browser->markWords(m_search->text().simplified().split(u' ', Qt::SkipEmptyParts));
+}
+
+Page HelpViewer::page(const PageSetup &) const
+{
+    return printedManualPage(m_manual.page(currentContext()), clock().today(), program().state.dateStyle);
+}
+
+void HelpViewer::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && !isPreviewShown() && !m_search->text().isEmpty())
+        m_search->clear();
+    else if (event->key() == Qt::Key_Down && m_search->hasFocus())
+        m_list->setFocus();
+    else
+        FunctionWindow::keyPressEvent(event);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "shell/functionwindow.h"
+#include "shell/manual.h"
+
+class ManualBrowser;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+
+/// The built-in manual: its contents and a search at the left, the page at the right. It is kept when it is
+/// closed, so that it opens again at the page where it was left.
+class HelpViewer final : public FunctionWindow
+{
+    Q_OBJECT
+public:
+    explicit HelpViewer(Program &program, QWidget *parent = nullptr);
+
+    /// Shows the page of a numeric context; the overview for one that has none.
+    void openPage(int context);
+
+    /// The page that is shown.
+    int currentContext() const;
+
+protected:
+    Page page(const PageSetup &setup) const override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QWidget *makeContents();
+    QWidget *makePagePanel();
+    void makeMenus();
+
+    void showContents();
+    void search();
+    void openHit();
+    void pageShown();
+    void markWords();
+
+    Manual m_manual;
+    QLineEdit *m_search = nullptr;
+    QListWidget *m_list = nullptr;
+    QLabel *m_count = nullptr;
+    ManualBrowser *m_browser = nullptr;
+    QAction *m_back = nullptr;
+    QAction *m_forward = nullptr;
+};

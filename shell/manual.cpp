@@ -21,24 +21,12 @@ namespace {
 constexpr qsizetype excerptBefore = 30;
 constexpr qsizetype excerptLength = 90;
 
-QString plainText(QString html)
-{
-    static const QRegularExpression head(u"<head>.*</head>"_s,
-                                         QRegularExpression::DotMatchesEverythingOption);
-    // Marks within a line are nothing, those between lines are blanks.
-    static const QRegularExpression inlineMark(u"</?(a|b|i)\\b[^>]*>"_s);
-    static const QRegularExpression mark(u"<[^>]*>"_s);
-    html.remove(head).remove(inlineMark).replace(mark, u" "_s);
-    html.replace("&lt;"_L1, "<"_L1).replace("&gt;"_L1, ">"_L1).replace("&quot;"_L1, "\""_L1);
-    return html.replace("&amp;"_L1, "&"_L1).simplified();
-}
-
 QString between(const QString &html, const QString &start, const QString &end)
 {
     const qsizetype from = html.indexOf(start);
     const qsizetype to = html.indexOf(end, from);
     return from < 0 || to < 0 ? QString()
-                              : plainText(html.mid(from + start.size(), to - from - start.size()));
+                              : Manual::plainText(html.mid(from + start.size(), to - from - start.size()));
 }
 
 /// About 90 characters around `position`, cut between words.
@@ -113,4 +101,16 @@ QList<ManualHit> Manual::find(const QString &words) const
         (isTitled ? inTitle : inText).append({page.context, page.title, excerpt(page.text, position)});
     }
     return inTitle + inText;
+}
+
+QString Manual::plainText(QString html)
+{
+    static const QRegularExpression head(u"<head>.*</head>"_s,
+                                         QRegularExpression::DotMatchesEverythingOption);
+    // Marks within a line are nothing, those between lines are blanks.
+    static const QRegularExpression inlineMark(u"</?(a|b|i)\\b[^>]*>"_s);
+    static const QRegularExpression mark(u"<[^>]*>"_s);
+    html.remove(head).remove(inlineMark).replace(mark, u" "_s);
+    html.replace("&lt;"_L1, "<"_L1).replace("&gt;"_L1, ">"_L1).replace("&quot;"_L1, "\""_L1);
+    return html.replace("&amp;"_L1, "&"_L1).simplified();
 }

@@ -36,6 +36,9 @@ public:
     /// with a word in their title come first. None when `words` is blank.
     QList<ManualHit> find(const QString &words) const;
 
+    /// What a reader sees of `html`, in one line.
+    static QString plainText(QString html);
+
 private:
     QList<ManualPage> m_pages;
 };

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "shell/manual.h"
+#include "shell/page.h"
+
+#include <QDate>
+
+/// A page of the manual as a page to print: headings, paragraphs and lists one below the other.
+Page printedManualPage(const ManualPage &page, QDate printedOn, DateStyle style);

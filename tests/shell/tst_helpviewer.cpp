@@ -1,0 +1,163 @@
+#include "shell/helpcontexts.h"
+#include "shell/helpentry.h"
+#include "shell/helpviewer.h"
+#include "shell/manualbrowser.h"
+#include "shell/manualprint.h"
+#include "tests/support/testprogram.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestHelpViewer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void opensThePageOfAContext_data();
+    void opensThePageOfAContext();
+    void goesBackAndForward();
+    void theContentsOpenPages();
+    void aSearchOpensTheFirstHit();
+    void aSearchWithoutHitKeepsTheList();
+    void escClearsTheSearchBeforeItLeaves();
+    void isKeptWhenItIsClosed();
+    void printsThePage();
+
+private:
+    QStringList titles() const;
+    QString shownText() const { return control<ManualBrowser>(*m_window, "manualPage")->toPlainText(); }
+
+    std::unique_ptr<TestProgram> m_program;
+    std::unique_ptr<HelpViewer> m_window;
+};
+
+void TestHelpViewer::init()
+{
+    m_window.reset();
+    m_program = std::make_unique<TestProgram>();
+    m_window = std::make_unique<HelpViewer>(m_program->program);
+    showActive(*m_window);
+}
+
+QStringList TestHelpViewer::titles() const
+{
+    QStringList titles;
+    const auto *list = control<QListWidget>(*m_window, "contents");
+    for (int row = 0; row < list->count(); ++row)
+        titles << list->item(row)->text();
+    return titles;
+}
+
+void TestHelpViewer::opensThePageOfAContext_data()
+{
+    QTest::addColumn<int>("context");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("backup") << HelpContext::BackupAndRestore << u"Backup and Restore"_s;
+    QTest::newRow("address book") << HelpContext::AddressBook << u"Family/Friends Data"_s;
+    QTest::newRow("unknown") << 4711 << u"Program Overview"_s;
+}
+
+void TestHelpViewer::opensThePageOfAContext()
+{
+    QFETCH(int, context);
+    QFETCH(QString, title);
+    m_window->openPage(context);
+    QVERIFY(shownText().startsWith(title));
+    QCOMPARE(control<QListWidget>(*m_window, "contents")->currentItem()->text(), title);
+}
+
+void TestHelpViewer::goesBackAndForward()
+{
+    auto *back = control<QAction>(*m_window, "mGBack");
+    auto *forward = control<QAction>(*m_window, "mGForward");
+    QVERIFY(!back->isEnabled());
+    m_window->openPage(HelpContext::Appearance);
+    back->trigger();
+    QCOMPARE(m_window->currentContext(), HelpContext::ProgramOverview);
+    QVERIFY(!back->isEnabled());
+    forward->trigger();
+    QCOMPARE(m_window->currentContext(), HelpContext::Appearance);
+}
+
+void TestHelpViewer::theContentsOpenPages()
+{
+    QCOMPARE(titles().size(), 6);
+    auto *list = control<QListWidget>(*m_window, "contents");
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(m_window->currentContext(), HelpContext::AddressBook);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(5)).center());
+    QCOMPARE(m_window->currentContext(), HelpContext::BackupAndRestore);
+}
+
+void TestHelpViewer::aSearchOpensTheFirstHit()
+{
+    auto *box = control<QLineEdit>(*m_window, "search");
+    QTest::keyClicks(box, u"stick"_s);
+    QCOMPARE(titles(), {u"Backup and Restore"_s});
+    QCOMPARE(control<QLabel>(*m_window, "count")->text(), u"Found on 1 page"_s);
+    auto *list = control<QListWidget>(*m_window, "contents");
+    QVERIFY(list->item(0)->data(HelpEntryDelegate::excerptRole).toString().contains("stick"_L1));
+    QTest::keyClick(box, Qt::Key_Return);
+    QCOMPARE(m_window->currentContext(), HelpContext::BackupAndRestore);
+    QVERIFY(!control<ManualBrowser>(*m_window, "manualPage")->extraSelections().isEmpty());
+    QVERIFY(list->hasFocus());
+}
+
+void TestHelpViewer::aSearchWithoutHitKeepsTheList()
+{
+    auto *box = control<QLineEdit>(*m_window, "search");
+    QTest::keyClicks(box, u"zeppelin"_s);
+    QTest::keyClick(box, Qt::Key_Return);
+    QCOMPARE(control<QLabel>(*m_window, "count")->text(), u"Nothing found"_s);
+    QVERIFY(!titles().isEmpty());
+    QCOMPARE(m_window->currentContext(), HelpContext::ProgramOverview);
+}
+
+void TestHelpViewer::escClearsTheSearchBeforeItLeaves()
+{
+    auto *box = control<QLineEdit>(*m_window, "search");
+    box->setFocus();
+    QTest::keyClicks(box, u"stick"_s);
+    QTest::keyClick(box, Qt::Key_Escape);
+    QCOMPARE(titles().size(), 6);
+    QVERIFY(m_window->isVisible());
+    QTest::keyClick(box, Qt::Key_Escape);
+    QVERIFY(!m_window->isVisible());
+}
+
+void TestHelpViewer::isKeptWhenItIsClosed()
+{
+    m_window->openPage(HelpContext::PagePreview);
+    m_window->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_window->show();
+    QCOMPARE(m_window->currentContext(), HelpContext::PagePreview);
+}
+
+void TestHelpViewer::printsThePage()
+{
+    const Manual manual(m_program->folder.path());
+    const Page page =
+        printedManualPage(manual.page(HelpContext::BackupAndRestore), QDate(2026, 11, 21), DateStyle::Usa);
+    QCOMPARE(page.title(), u"Backup and Restore"_s);
+    const QString text = page.toText();
+    QVERIFY(text.contains(u"\n2.  Connect the stick or drive.\n"_s));
+    QVERIFY(text.contains(u"\nRestoring a backup\n1.  Close Quillery.\n"_s));
+    QVERIFY(!text.contains(u'<'));
+
+    control<QAction>(*m_window, "mOPrt")->trigger();
+    QVERIFY(m_window->isPreviewShown());
+    m_window->openPage(HelpContext::AddressBook);
+    QVERIFY(!m_window->isPreviewShown());
+}
+
+QTEST_MAIN(TestHelpViewer)
+#include "tst_helpviewer.moc"
