@@ -58,7 +58,16 @@ Page &Page::line(const QString &text, TextRole role)
 Page &Page::columns(std::vector<double> weights, QStringList headings,
                     std::vector<Qt::AlignmentFlag> alignments)
 {
-    m_items.emplace_back(PageItem::Columns{std::move(weights), std::move(headings), std::move(alignments)});
+    PageItem::Columns table;
+    table.weights = std::move(weights);
+    table.headings = std::move(headings);
+    table.alignments = std::move(alignments);
+    return this->table(std::move(table));
+}
+
+Page &Page::table(PageItem::Columns columns)
+{
+    m_items.emplace_back(std::move(columns));
     return *this;
 }
 
@@ -92,6 +101,12 @@ Page &Page::placePicture(const QRectF &inches, const QString &path)
     return *this;
 }
 
+Page &Page::placeRule(const QRectF &inches)
+{
+    m_items.emplace_back(PageItem::PlacedRule{inches});
+    return *this;
+}
+
 Page &Page::rule()
 {
     m_items.emplace_back(PageItem::Rule{});
@@ -102,6 +117,17 @@ Page &Page::breakPage()
 {
     m_items.emplace_back(PageItem::Break{});
     return *this;
+}
+
+Page &Page::numberSheets(SheetNumbers numbers)
+{
+    m_numbers = numbers;
+    return *this;
+}
+
+QString Page::titleOf(int number) const
+{
+    return m_numbers == SheetNumbers::Title ? m_title + QString::number(number) : m_title;
 }
 
 Page &Page::close(QDate printedOn, DateStyle style)
@@ -116,11 +142,12 @@ QString Page::toText() const
     return toText(0, m_items.size() + 1);
 }
 
-QString Page::toText(std::size_t first, std::size_t end) const
+QString Page::toText(std::size_t first, std::size_t end, int sheetNumber) const
 {
     QStringList lines;
     if (!m_title.isEmpty() || !m_headRight.isEmpty()) {
-        const QString head = m_headRight.isEmpty() ? m_title : m_title + u'\t' + m_headRight;
+        const QString title = titleOf(sheetNumber);
+        const QString head = m_headRight.isEmpty() ? title : title + u'\t' + m_headRight;
         lines << QString() << head << QString();
     }
     const std::size_t itemsEnd = std::min(end, m_items.size());

@@ -33,6 +33,20 @@ enum class TextRole {
     Small    ///< 10 pt
 };
 
+/// The lines that part the cells of a table.
+enum class TableLines {
+    Rows, ///< hairlines between the rows
+    None,
+    Grid ///< around every cell
+};
+
+/// Where the number of a sheet stands, when there is more than one.
+enum class SheetNumbers {
+    Foot,  ///< "Page 2 of 5" at the foot
+    Title, ///< behind the title, also of a single sheet
+    None
+};
+
 namespace PageItem {
 
 /// One paragraph, wrapped to the width of the page; an empty text is a blank line.
@@ -47,6 +61,12 @@ struct Columns {
     std::vector<double> weights;
     QStringList headings;
     std::vector<Qt::AlignmentFlag> alignments; ///< one a column; left when there are fewer
+    TableLines lines = TableLines::Rows;
+    /// How many times the table stands side by side: its rows run down one after the other, each as wide as
+    /// its share of the page.
+    int across = 1;
+    static constexpr int mostAcross = 4;
+
     bool operator==(const Columns &) const = default;
 };
 
@@ -89,6 +109,13 @@ struct PlacedPicture {
     bool operator==(const PlacedPicture &) const = default;
 };
 
+/// A hairline around a rectangle at a fixed place, in inches from the sheet's top left corner; a rectangle
+/// without height or width is one line.
+struct PlacedRule {
+    QRectF place;
+    bool operator==(const PlacedRule &) const = default;
+};
+
 /// A thin rule across the page.
 struct Rule {
     bool operator==(const Rule &) const = default;
@@ -107,9 +134,9 @@ struct Break {
 class Page
 {
 public:
-    using Item =
-        std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank, PageItem::Picture,
-                     PageItem::PlacedText, PageItem::PlacedPicture, PageItem::Rule, PageItem::Break>;
+    using Item = std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank,
+                              PageItem::Picture, PageItem::PlacedText, PageItem::PlacedPicture,
+                              PageItem::PlacedRule, PageItem::Rule, PageItem::Break>;
 
     /// A page headed by `title`; `headRight` (usually a date) stands at the right of the title line.
     explicit Page(QString title = {}, QString headRight = {});
@@ -118,14 +145,20 @@ public:
     Page &blankLine() { return line({}); }
     Page &columns(std::vector<double> weights, QStringList headings = {},
                   std::vector<Qt::AlignmentFlag> alignments = {});
+    Page &table(PageItem::Columns columns);
     Page &row(QStringList cells, TextRole role = TextRole::Body);
     Page &blank(const QString &label);
     Page &picture(const QString &path, QSizeF inches);
     Page &placeText(const QRectF &inches, const QString &text, TextRole role = TextRole::Body,
                     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop);
     Page &placePicture(const QRectF &inches, const QString &path);
+    Page &placeRule(const QRectF &inches);
     Page &rule();
     Page &breakPage();
+
+    /// `Foot` unless told otherwise.
+    Page &numberSheets(SheetNumbers numbers);
+    SheetNumbers sheetNumbers() const { return m_numbers; }
 
     /// Ends the page: a blank line, "Quillery" and "Printed on " with the short date of the day of building.
     /// The lines stand below everything else; a page of placed items leaves the half inch above the bottom
@@ -133,6 +166,8 @@ public:
     Page &close(QDate printedOn, DateStyle style);
 
     const QString &title() const { return m_title; }
+    /// The title as sheet `number` (from 1) shows it.
+    QString titleOf(int number) const;
     const QString &headRight() const { return m_headRight; }
     const std::vector<Item> &items() const { return m_items; }
     bool isClosed() const { return m_closed; }
@@ -146,7 +181,7 @@ public:
     QString toText() const;
     /// The same of the items from `first` up to `end`, as a sheet holds them: under the title and, inside a
     /// table, its headings. The closing lines count as one item behind the last.
-    QString toText(std::size_t first, std::size_t end) const;
+    QString toText(std::size_t first, std::size_t end, int sheetNumber = 1) const;
 
     bool operator==(const Page &) const = default;
 
@@ -154,6 +189,7 @@ private:
     QString m_title;
     QString m_headRight;
     std::vector<Item> m_items;
+    SheetNumbers m_numbers = SheetNumbers::Foot;
     bool m_closed = false;
     QString m_printedLine;
 };

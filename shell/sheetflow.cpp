@@ -17,14 +17,11 @@ constexpr double margin = 0.5 * pointsPerInch;
 constexpr double thin = 0.5;
 constexpr double rule = 0.75;
 constexpr double columnGap = 10;
-constexpr double rowGap = 4.5;
-constexpr double headingGap = 4.5;
 constexpr double ruleGap = 9;
 constexpr double pictureGap = 6;
 constexpr double titleGap = 12; ///< from the rule under the title to the body
 constexpr qsizetype titleLines = 4;
 constexpr double blankFactor = 1.6; ///< room to write by hand
-constexpr QColor rowColor(0xDD, 0xDD, 0xDD);
 constexpr QColor ruleColor(0x9A, 0x9A, 0x9A);
 
 QRectF inPoints(const QRectF &inches)
@@ -32,8 +29,18 @@ QRectF inPoints(const QRectF &inches)
     return {inches.topLeft() * pointsPerInch, inches.size() * pointsPerInch};
 }
 
-/// At most `most` lines; the last one kept takes up what follows, ended by an ellipsis.
-QStringList shortened(QStringList lines, qsizetype most, const PageType &type, double width)
+} // namespace
+
+SheetFlow::SheetFlow(const PageLayout &layout, int number, QPainter *painter)
+    : m_layout(layout)
+    , m_number(number)
+    , m_painter(painter)
+    , m_body(layout.body())
+    , m_y(m_body.top())
+    , m_bottom(m_body.bottom())
+{}
+
+QStringList SheetFlow::shortened(QStringList lines, qsizetype most, const PageType &type, double width)
 {
     if (lines.size() > most) {
         const QString rest = lines.mid(most - 1).join(u' ');
@@ -42,16 +49,6 @@ QStringList shortened(QStringList lines, qsizetype most, const PageType &type, d
     }
     return lines;
 }
-
-} // namespace
-
-SheetFlow::SheetFlow(const PageLayout &layout, QPainter *painter)
-    : m_layout(layout)
-    , m_painter(painter)
-    , m_body(layout.body())
-    , m_y(m_body.top())
-    , m_bottom(m_body.bottom())
-{}
 
 std::optional<SheetStart> SheetFlow::fill(SheetStart start, std::size_t end)
 {
@@ -79,7 +76,7 @@ void SheetFlow::placeTitle()
     const QString head = right.elided(page.headRight(), m_body.width() / 2);
     const double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + 2 * columnGap);
     const QStringList lines =
-        shortened(title.wrapped(page.title(), titleWidth), titleLines, title, titleWidth);
+        shortened(title.wrapped(page.titleOf(m_number), titleWidth), titleLines, title, titleWidth);
     for (const QString &line : lines) {
         if (m_painter)
             title.draw(*m_painter, {m_body.left(), m_y}, line);
@@ -152,99 +149,6 @@ bool SheetFlow::place(const PageItem::Line &line)
     return placeCells({cell}, type, 0, Split::AtLines);
 }
 
-void SheetFlow::startTable(const PageItem::Columns *columns)
-{
-    m_columns = columns;
-    m_headingsShown = false;
-    m_rowAbove = false;
-    m_boxes.clear();
-    if (!columns)
-        return;
-    const auto weight = [](double value) { return std::isfinite(value) && value > 0 ? value : 0; };
-    double sum = 0;
-    for (const double value : columns->weights)
-        sum += weight(value);
-    const double usable = m_body.width() - columnGap * (double(columns->weights.size()) - 1);
-    double left = m_body.left();
-    for (std::size_t i = 0; i < columns->weights.size() && sum > 0; ++i) {
-        const double width = usable * weight(columns->weights[i]) / sum;
-        const auto alignment = i < columns->alignments.size() ? columns->alignments[i] : Qt::AlignLeft;
-        m_boxes.push_back({left, width, alignment, {}});
-        left += width + columnGap;
-    }
-}
-
-std::vector<SheetFlow::Cell> SheetFlow::cellsOf(const QStringList &texts, const PageType &type) const
-{
-    std::vector<Cell> cells = m_boxes;
-    if (cells.empty()) { // a row outside a table: equal columns
-        const double width = m_body.width() / double(std::max<qsizetype>(1, texts.size()));
-        for (qsizetype i = 0; i < texts.size(); ++i)
-            cells.push_back({m_body.left() + double(i) * width, width - columnGap, Qt::AlignLeft, {}});
-    }
-    for (std::size_t i = 0; i < cells.size() && qsizetype(i) < texts.size(); ++i) {
-        const bool isLast = i + 1 == cells.size();
-        // Texts beyond the last column join it, so that nothing is lost.
-        const QString text = isLast ? texts.mid(qsizetype(i)).join("  "_L1) : texts[qsizetype(i)];
-        cells[i].lines = type.wrapped(text, cells[i].width);
-    }
-    return cells;
-}
-
-std::vector<SheetFlow::Cell> SheetFlow::headingCells() const
-{
-    if (m_headingsShown || !m_columns || m_columns->headings.isEmpty())
-        return {};
-    std::vector<Cell> cells = cellsOf(m_columns->headings, types().strong);
-    // They come again on every sheet: whatever the font, most of it stays for the rows.
-    const auto most = std::max<qsizetype>(1, qsizetype(m_body.height() / 3 / types().strong.lineHeight()));
-    for (Cell &cell : cells)
-        cell.lines = shortened(std::move(cell.lines), most, types().strong, cell.width);
-    return cells;
-}
-
-double SheetFlow::headingHeight(const std::vector<Cell> &cells) const
-{
-    return cells.empty() ? 0 : double(lineCount(cells)) * types().strong.lineHeight() + headingGap;
-}
-
-void SheetFlow::placeHeadings(const std::vector<Cell> &cells)
-{
-    if (std::exchange(m_headingsShown, true) || cells.empty())
-        return;
-    const int line = std::exchange(m_at.line, 0);
-    drawCells(cells, types().strong, m_y, lineCount(cells));
-    m_at.line = line;
-    m_y += headingHeight(cells);
-    drawRule(m_y - rule - 1, rule, Qt::black);
-}
-
-bool SheetFlow::place(const PageItem::Columns &columns)
-{
-    startTable(&columns);
-    const std::vector<Cell> headings = headingCells();
-    // Headings never stand alone at the foot of a sheet.
-    if (!m_isFresh && room() < headingHeight(headings) + rowGap + types().body.lineHeight())
-        return false;
-    placeHeadings(headings);
-    return true;
-}
-
-bool SheetFlow::place(const PageItem::Row &row)
-{
-    const PageType &type = types().of(row.role);
-    const std::vector<Cell> cells = cellsOf(row.cells, type);
-    const std::vector<Cell> headings = headingCells();
-    const double height = headingHeight(headings) + rowGap + double(lineCount(cells)) * type.lineHeight();
-    if (!m_isFresh && m_at.line == 0 && room() < height)
-        return false;
-    placeHeadings(headings);
-    if (m_rowAbove)
-        drawRule(m_y, thin, rowColor);
-    m_rowAbove = true;
-    return placeCells(cells, type, rowGap, Split::Never);
-}
-
 bool SheetFlow::place(const PageItem::Blank &blank)
 {
     const PageType &type = types().body;
@@ -314,6 +218,22 @@ bool SheetFlow::place(const PageItem::PlacedPicture &picture)
     return true;
 }
 
+bool SheetFlow::place(const PageItem::PlacedRule &rule)
+{
+    const QRectF place = inPoints(rule.place);
+    m_isFresh = false;
+    m_lowestPlaced = std::max(m_lowestPlaced, place.bottom());
+    if (m_painter) {
+        m_painter->setPen(QPen(ruleColor, thin));
+        m_painter->setBrush(Qt::NoBrush);
+        if (place.width() > 0 && place.height() > 0)
+            m_painter->drawRect(place);
+        else
+            m_painter->drawLine(place.topLeft(), place.bottomRight());
+    }
+    return true;
+}
+
 bool SheetFlow::place(const PageItem::Rule &)
 {
     if (room() < ruleGap)
@@ -338,6 +258,7 @@ bool SheetFlow::placeClosing()
 {
     const PageType &type = types().foot;
     const double lines = 2 * type.lineHeight();
+    leaveColumns();
     const double top = std::max(m_y, m_lowestPlaced);
     // Placed items may reach below the margin; a quarter of an inch every printer can print on.
     const double lowest = m_layout.sheet().height() - (m_lowestPlaced > 0 ? margin / 2 : margin);
@@ -358,15 +279,21 @@ bool SheetFlow::placeClosing()
 
 void SheetFlow::drawRule(double y, double thickness, const QColor &color, double indent) const
 {
+    fillLine({m_body.left() + indent, y, m_body.width() - indent, thickness}, color);
+}
+
+void SheetFlow::fillLine(QRectF line, const QColor &color) const
+{
     if (!m_painter)
         return;
-    QRectF line(m_body.left() + indent, y, m_body.width() - indent, thickness);
     const QTransform transform = m_painter->combinedTransform();
     if (transform.type() <= QTransform::TxScale) {
         // Whole device dots, so that a thin line is sharp on the screen and never lost.
         const QRectF dots = transform.mapRect(line);
-        const QRectF sharp(dots.left(), std::round(dots.top()), dots.width(),
-                           std::max(1.0, std::round(dots.height())));
+        const bool isLevel = dots.width() > dots.height();
+        const double thickness = std::max(1.0, std::round(std::min(dots.width(), dots.height())));
+        const QRectF sharp = isLevel ? QRectF(dots.left(), std::round(dots.top()), dots.width(), thickness)
+                                     : QRectF(std::round(dots.left()), dots.top(), thickness, dots.height());
         line = transform.inverted().mapRect(sharp);
     }
     m_painter->fillRect(line, color);

@@ -13,7 +13,8 @@ class QPainter;
 class SheetFlow
 {
 public:
-    explicit SheetFlow(const PageLayout &layout, QPainter *painter = nullptr);
+    /// `number` is the sheet's, from 1.
+    SheetFlow(const PageLayout &layout, int number, QPainter *painter = nullptr);
 
     static constexpr std::size_t toTheEnd = std::numeric_limits<std::size_t>::max();
 
@@ -31,6 +32,8 @@ private:
     };
     enum class Split { Never, AtLines };
     static qsizetype lineCount(const std::vector<Cell> &cells);
+    /// At most `most` lines; the last one kept takes up what follows, ended by an ellipsis.
+    static QStringList shortened(QStringList lines, qsizetype most, const PageType &type, double width);
 
     /// Each places one item at the current height, or as much of it as fits. False: the rest goes to the next
     /// sheet.
@@ -41,6 +44,7 @@ private:
     bool place(const PageItem::Picture &picture);
     bool place(const PageItem::PlacedText &text);
     bool place(const PageItem::PlacedPicture &picture);
+    bool place(const PageItem::PlacedRule &rule);
     bool place(const PageItem::Rule &);
     bool place(const PageItem::Break &);
     bool placeClosing();
@@ -54,12 +58,20 @@ private:
     std::vector<Cell> headingCells() const;
     std::vector<Cell> cellsOf(const QStringList &texts, const PageType &type) const;
     void startTable(const PageItem::Columns *columns);
+    /// Goes on at the top of the table's next column of rows; false when this was the last.
+    bool nextColumn();
+    /// Goes on below a table that runs down several columns.
+    void leaveColumns();
+    QRectF columnBody() const;
+    void drawGrid(double top) const;
     void drawRule(double y, double thickness, const QColor &color, double indent = 0) const;
+    void fillLine(QRectF line, const QColor &color) const;
 
     double room() const { return m_bottom - m_y; }
     const PageTypes &types() const { return m_layout.types(); }
 
     const PageLayout &m_layout;
+    int m_number;
     QPainter *m_painter;
     QRectF m_body;
     SheetStart m_at;
@@ -73,4 +85,7 @@ private:
     std::vector<Cell> m_boxes; ///< the table's columns, without lines
     bool m_headingsShown = false;
     bool m_rowAbove = false;
+    int m_column = 0; ///< of those that the rows run down
+    double m_columnTop = 0;
+    double m_columnBottom = 0; ///< of the longest so far
 };
