@@ -12,24 +12,31 @@
 
 namespace {
 
-/// Makes the window of `parent` the active one again when a modal box has gone: without a window manager, and
-/// on some with one, no window is active after it.
-class ActivateAgain
+/// What goes on around a modal box: an hourglass gives way to the arrow, and afterwards the window of
+/// `parent` is the active one again. Without a window manager, and with some, no window would be.
+class AroundModalBox
 {
 public:
-    explicit ActivateAgain(QWidget *parent)
+    explicit AroundModalBox(QWidget *parent)
         : m_window(parent ? parent->window() : QApplication::activeWindow())
-    {}
-    ~ActivateAgain()
+        , m_wasBusy(QApplication::overrideCursor())
     {
+        if (m_wasBusy)
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~AroundModalBox()
+    {
+        if (m_wasBusy)
+            QApplication::restoreOverrideCursor();
         if (m_window && m_window->isVisible())
             m_window->activateWindow();
     }
-    ActivateAgain(const ActivateAgain &) = delete;
-    ActivateAgain &operator=(const ActivateAgain &) = delete;
+    AroundModalBox(const AroundModalBox &) = delete;
+    AroundModalBox &operator=(const AroundModalBox &) = delete;
 
 private:
     QPointer<QWidget> m_window;
+    bool m_wasBusy;
 };
 
 std::optional<QString> unlessEmpty(const QString &path)
@@ -41,7 +48,7 @@ std::optional<QString> unlessEmpty(const QString &path)
 
 Answer QtDialogs::ask(QWidget *parent, const Message &message)
 {
-    const ActivateAgain again(parent);
+    const AroundModalBox around(parent);
     MessageBox box(message, parent);
     box.exec();
     return box.answer();
@@ -50,21 +57,21 @@ Answer QtDialogs::ask(QWidget *parent, const Message &message)
 std::optional<QString> QtDialogs::input(QWidget *parent, const QString &title, const QString &prompt,
                                         const QString &preset)
 {
-    const ActivateAgain again(parent);
+    const AroundModalBox around(parent);
     InputBox box(title, prompt, preset, parent);
     return box.exec() == QDialog::Accepted ? std::optional(box.text()) : std::nullopt;
 }
 
 std::optional<QColor> QtDialogs::chooseColor(QWidget *parent, const QColor &preset)
 {
-    const ActivateAgain again(parent);
+    const AroundModalBox around(parent);
     const QColor color = QColorDialog::getColor(preset, parent);
     return color.isValid() ? std::optional(color) : std::nullopt;
 }
 
 std::optional<PageFont> QtDialogs::chooseFont(QWidget *parent, const PageFont &preset)
 {
-    const ActivateAgain again(parent);
+    const AroundModalBox around(parent);
     FontBox box(*this, preset, parent);
     return box.exec() == QDialog::Accepted ? std::optional(box.chosen()) : std::nullopt;
 }
@@ -72,19 +79,19 @@ std::optional<PageFont> QtDialogs::chooseFont(QWidget *parent, const PageFont &p
 std::optional<QString> QtDialogs::chooseFileToSave(QWidget *parent, const QString &title,
                                                    const QString &preset, const QString &filter)
 {
-    const ActivateAgain again(parent);
+    const AroundModalBox around(parent);
     return unlessEmpty(QFileDialog::getSaveFileName(parent, title, preset, filter));
 }
 
 std::optional<QString> QtDialogs::chooseFolder(QWidget *parent, const QString &title, const QString &preset)
 {
-    const ActivateAgain again(parent);
+    const AroundModalBox around(parent);
     return unlessEmpty(QFileDialog::getExistingDirectory(parent, title, preset));
 }
 
 bool QtDialogs::choosePrinter(QWidget *parent, QPrinter &printer)
 {
-    const ActivateAgain again(parent);
+    const AroundModalBox around(parent);
     return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
 }
 
@@ -95,6 +102,6 @@ bool QtDialogs::hasPrinter() const
 
 int QtDialogs::run(QDialog &dialog)
 {
-    const ActivateAgain again(dialog.parentWidget());
+    const AroundModalBox around(dialog.parentWidget());
     return dialog.exec();
 }

@@ -172,6 +172,7 @@ QScrollBar::handle:hover { background: @edge; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QScrollArea { background: transparent; border: 0; }
+QAbstractScrollArea::corner { background: transparent; border: 0; }
 QSplitter::handle { background: transparent; }
 QProgressBar { background: @locked; border: 1px solid @edge; border-radius: 6px; text-align: center;
     min-height: 16px; max-height: 18px; }

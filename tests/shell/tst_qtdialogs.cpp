@@ -1,0 +1,136 @@
+#include "shell/busycursor.h"
+#include "shell/controls.h"
+#include "shell/messagebox.h"
+#include "shell/qtdialogs.h"
+#include "shell/theme.h"
+#include "tests/support/testprogram.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFontDialog>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The real boxes, answered while they are open.
+class TestQtDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void givesTheAnswerOfTheButton();
+    void tellsAnEmptyInputFromCancel_data();
+    void tellsAnEmptyInputFromCancel();
+    void choosesAColor();
+    void choosesAFontWithItsColor();
+    void anHourglassGivesWayToTheQuestion();
+
+private:
+    /// Acts on the modal box as soon as one is open.
+    template <typename Action>
+    void whenAsked(Action action)
+    {
+        QTimer::singleShot(50, this, [action] {
+            QWidget *box = QApplication::activeModalWidget();
+            QVERIFY(box);
+            QApplication::setActiveWindow(box);
+            action(*box);
+        });
+    }
+
+    std::unique_ptr<QWidget> m_window;
+    QtDialogs m_dialogs;
+};
+
+void TestQtDialogs::initTestCase()
+{
+    Theme::apply(*qApp);
+}
+
+void TestQtDialogs::init()
+{
+    m_window = std::make_unique<QWidget>();
+    showActive(*m_window);
+}
+
+void TestQtDialogs::givesTheAnswerOfTheButton()
+{
+    whenAsked([](QWidget &box) { QTest::mouseClick(control<QPushButton>(box, "answerNo"), Qt::LeftButton); });
+    const Message question{
+        u"Exit"_s, u"Really?"_s, Message::Question, {Answer::Yes, Answer::No}, Answer::Yes};
+    QCOMPARE(m_dialogs.ask(m_window.get(), question), Answer::No);
+    QTRY_VERIFY(m_window->isActiveWindow());
+}
+
+void TestQtDialogs::tellsAnEmptyInputFromCancel_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<bool>("given");
+    QTest::newRow("Enter") << Qt::Key_Return << true;
+    QTest::newRow("Esc") << Qt::Key_Escape << false;
+}
+
+void TestQtDialogs::tellsAnEmptyInputFromCancel()
+{
+    QFETCH(Qt::Key, key);
+    whenAsked([key](QWidget &box) { QTest::keyClick(control<FieldBox>(box, "inputEdit"), key); });
+    const auto text = m_dialogs.input(m_window.get(), u"Family Name"_s, u"Name?"_s, QString());
+    QTEST(text.has_value(), "given");
+    QTRY_VERIFY(m_window->isActiveWindow());
+}
+
+void TestQtDialogs::choosesAColor()
+{
+    whenAsked([](QWidget &box) {
+        auto &dialog = dynamic_cast<QColorDialog &>(box);
+        QCOMPARE(dialog.currentColor(), QColor(Qt::red));
+        dialog.setCurrentColor(Qt::blue);
+        dialog.accept();
+    });
+    QCOMPARE(m_dialogs.chooseColor(m_window.get(), Qt::red), QColor(Qt::blue));
+    whenAsked([](QWidget &box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    QCOMPARE(m_dialogs.chooseColor(m_window.get(), Qt::red), std::nullopt);
+}
+
+void TestQtDialogs::choosesAFontWithItsColor()
+{
+    PageFont preset{QApplication::font(), Qt::black};
+    preset.font.setPointSize(11);
+    whenAsked([](QWidget &box) {
+        auto *chooser = control<QFontDialog>(box, "fontChooser");
+        QFont font = chooser->currentFont();
+        QCOMPARE(font.pointSize(), 11);
+        font.setUnderline(true);
+        chooser->setCurrentFont(font);
+        QTimer::singleShot(50, &box, [] {
+            auto *colors = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+            QVERIFY(colors);
+            colors->setCurrentColor(Qt::darkGreen);
+            colors->accept();
+        });
+        QTest::mouseClick(control<QPushButton>(box, "fontColor"), Qt::LeftButton);
+        QTest::mouseClick(control<QPushButton>(box, "answerOk"), Qt::LeftButton);
+    });
+    const auto chosen = m_dialogs.chooseFont(m_window.get(), preset);
+    QVERIFY(chosen);
+    QVERIFY(chosen->font.underline());
+    QCOMPARE(chosen->color, QColor(Qt::darkGreen));
+    whenAsked([](QWidget &box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    QVERIFY(!m_dialogs.chooseFont(m_window.get(), preset));
+}
+
+void TestQtDialogs::anHourglassGivesWayToTheQuestion()
+{
+    const BusyCursor busy;
+    whenAsked([](QWidget &box) {
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        box.close();
+    });
+    m_dialogs.ask(m_window.get(), {u"Title"_s, u"Text"_s});
+    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+}
+
+QTEST_MAIN(TestQtDialogs)
+#include "tst_qtdialogs.moc"
