@@ -76,7 +76,8 @@ void PageLayout::cutIntoSheets()
     if (cut(1))
         return;
     // The page number takes a line at the foot, so the first sheet is cut once more.
-    m_footHeight = m_types.foot.lineHeight() + 3;
+    if (m_page.sheetNumbers() == SheetNumbers::Foot)
+        m_footHeight = m_types.foot.lineHeight() + 3;
     cut(std::numeric_limits<std::size_t>::max());
     keepClosingInCompany();
 }
@@ -84,7 +85,7 @@ void PageLayout::cutIntoSheets()
 bool PageLayout::cut(std::size_t mostSheets)
 {
     m_starts.assign(1, {});
-    while (const auto next = SheetFlow(*this).fill(m_starts.back())) {
+    while (const auto next = SheetFlow(*this, int(m_starts.size())).fill(m_starts.back())) {
         if (m_starts.size() == mostSheets)
             return false;
         m_starts.push_back(*next);
@@ -108,8 +109,8 @@ void PageLayout::paint(QPainter &painter, int index) const
 {
     if (index < 0 || index >= sheetCount())
         return;
-    SheetFlow(*this, &painter).fill(m_starts[std::size_t(index)], endOf(index));
-    if (sheetCount() > 1) {
+    SheetFlow(*this, index + 1, &painter).fill(m_starts[std::size_t(index)], endOf(index));
+    if (sheetCount() > 1 && m_page.sheetNumbers() == SheetNumbers::Foot) {
         const QString number =
             u"Page "_s + QString::number(index + 1) + u" of "_s + QString::number(sheetCount());
         const QPointF foot(margin, sheet().height() - margin - m_types.foot.lineHeight());
@@ -121,7 +122,7 @@ QString PageLayout::text(int index) const
 {
     if (index < 0 || index >= sheetCount())
         return {};
-    return m_page.toText(m_starts[std::size_t(index)].item, endOf(index));
+    return m_page.toText(m_starts[std::size_t(index)].item, endOf(index), index + 1);
 }
 
 std::size_t PageLayout::endOf(int index) const
