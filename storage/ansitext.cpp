@@ -131,9 +131,11 @@ QString AnsiText::fieldText(QByteArrayView bytes)
 {
     if (const qsizetype zero = bytes.indexOf('\0'); zero >= 0)
         bytes.truncate(zero);
-    while (bytes.endsWith(' '))
-        bytes.chop(1);
-    return decode(bytes);
+    // Most of a field is blanks: no call for each of them.
+    qsizetype length = bytes.size();
+    while (length > 0 && bytes[length - 1] == ' ')
+        --length;
+    return decode(bytes.first(length));
 }
 
 QStringView AnsiText::trimmedBlanks(QStringView text)

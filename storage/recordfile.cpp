@@ -45,11 +45,17 @@ RecordFile::RecordFile(QString path, qsizetype recordLength)
 
 QByteArray RecordFile::read(int number) const
 {
+    return read(number, number);
+}
+
+QByteArray RecordFile::read(int first, int last) const
+{
     QFile file(m_path);
-    if (number < 1 || !openForReading(file))
+    if (first < 1 || last < first || !openForReading(file))
         return {};
-    const qint64 offset = qint64(number - 1) * m_recordLength;
-    const qsizetype length = std::clamp<qint64>(file.size() - offset, 0, m_recordLength);
+    const qint64 offset = qint64(first - 1) * m_recordLength;
+    const qint64 most = (qint64(last) - first + 1) * m_recordLength;
+    const qsizetype length = std::clamp<qint64>(file.size() - offset, 0, most);
     QByteArray bytes(length, Qt::Uninitialized);
     if (length > 0)
         bytes.truncate(readAt(file, offset, bytes.data(), length));

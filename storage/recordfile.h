@@ -17,6 +17,10 @@ public:
     /// record, the file or its folder is missing or cannot be read, or when `number` is below 1.
     QByteArray read(int number) const;
 
+    /// The bytes of the records `first` to `last` in one contiguous read: fewer at the end of the file or
+    /// when reading fails on the way, none as with `read`.
+    QByteArray read(int first, int last) const;
+
     /// Writes `value` at the start of record `number`; bytes of the record behind it keep what they held.
     /// False, with a line in the log, when the value is longer than a record, `number` is below 1, or the
     /// disk refuses.

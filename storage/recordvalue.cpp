@@ -5,6 +5,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 
 namespace {
@@ -64,9 +65,9 @@ QByteArrayView RecordValue::textBytes(QByteArrayView bytes)
     const qsizetype count = qFromLittleEndian<quint16>(bytes.data());
     if (count > bytes.size() - numberLength)
         return {};
-    const QByteArrayView characters = bytes.sliced(numberLength, count);
-    const qsizetype zero = characters.indexOf('\0');
-    return zero < 0 ? characters : characters.first(zero);
+    const char *const start = bytes.data() + numberLength;
+    const void *const zero = std::memchr(start, 0, std::size_t(count));
+    return {start, zero ? static_cast<const char *>(zero) : start + count};
 }
 
 std::optional<QByteArray> RecordValue::encodeTaggedText(QStringView text, qsizetype recordLength)
