@@ -16,32 +16,28 @@ static_assert(lineRecordLength - 2 == IndexLine::maximumLength);
 
 constexpr QByteArrayView deletedName("*****");
 
-/// The last-name field as it stands, with zero bytes where the record is cut short.
-QByteArray lastNameField(QByteArrayView record)
+bool isDeleted(QByteArrayView record)
 {
-    QByteArray field = record.first(std::min(record.size(), addressTextWidth)).toByteArray();
-    field.resize(addressTextWidth, '\0');
-    return field;
+    return record.startsWith("****");
 }
 
-bool isDeleted(QByteArrayView lastName)
+/// The byte at `position`; zero where the record is cut short.
+char byteAt(QByteArrayView record, qsizetype position)
 {
-    return lastName.startsWith("****");
+    return position < record.size() ? record[position] : '\0';
 }
 
-/// A field without outer blanks counts as never written when it still has its 40 bytes: never written means
-/// 40 zero bytes. A last name that fills the field counts too; that is the rule of the file, and why the
+/// A last name without outer blanks counts as never written when it still has its 40 bytes: never written
+/// means 40 zero bytes. A name that fills the field counts too; that is the rule of the file, and why the
 /// entry box takes 39.
 bool isFree(QByteArrayView record)
 {
-    const QByteArray lastName = lastNameField(record);
-    return isDeleted(lastName) || (lastName.front() != ' ' && lastName.back() != ' ');
+    return isDeleted(record) || (byteAt(record, 0) != ' ' && byteAt(record, addressTextWidth - 1) != ' ');
 }
 
 bool isEntry(QByteArrayView record)
 {
-    const QByteArray lastName = lastNameField(record);
-    return !isDeleted(lastName) && lastName.front() != '\0';
+    return byteAt(record, 0) != '\0' && !isDeleted(record);
 }
 
 bool isEntryRecord(int record)
@@ -66,15 +62,15 @@ NameList AddressBook::loadNames() const
 {
     const RecordFile lines = index();
     lines.create();
-    NameList names;
-    names.reserve(lines.recordCount(), lines.recordCount() * lineRecordLength);
-    lines.forEach(firstRecord, [&names](int record, QByteArrayView bytes) {
-        const QByteArrayView line = RecordValue::textBytes(bytes);
-        const bool isListed = record == firstRecord || !line.isEmpty();
-        if (isListed && !IndexLine::isDeleted(line))
-            names.append(line);
-        return true;
-    });
+    const QByteArray records = lines.read(firstRecord, overflowRecord);
+    NameList names(records);
+    for (qsizetype at = 0; at < records.size(); at += lineRecordLength) {
+        const qsizetype length = std::min(lineRecordLength, records.size() - at);
+        const QByteArrayView line = RecordValue::textBytes(QByteArrayView(records).sliced(at, length));
+        const bool isFirst = at == 0;
+        if ((isFirst || !line.isEmpty()) && !IndexLine::isDeleted(line))
+            names.list(line.isEmpty() ? at : line.data() - records.constData(), line.size());
+    }
     names.squeeze();
     return names;
 }
@@ -155,6 +151,12 @@ bool AddressBook::remove(int record) const
 
 void AddressBook::forEachLive(const std::function<bool(int, const AddressEntry &)> &visit) const
 {
+    forEachLiveRecord(
+        [&visit](int record, QByteArrayView bytes) { return visit(record, addressLayout.decode(bytes)); });
+}
+
+void AddressBook::forEachLiveRecord(const std::function<bool(int, QByteArrayView)> &visit) const
+{
     std::vector<bool> isLive;
     index().forEach(1, [&isLive](int record, QByteArrayView bytes) {
         const QByteArrayView line = RecordValue::textBytes(bytes);
@@ -165,7 +167,7 @@ void AddressBook::forEachLive(const std::function<bool(int, const AddressEntry &
         const auto at = std::size_t(record - 1);
         if (at >= isLive.size())
             return false;
-        return !isLive[at] || !isEntry(bytes) || visit(record, addressLayout.decode(bytes));
+        return !isLive[at] || !isEntry(bytes) || visit(record, bytes);
     });
 }
 

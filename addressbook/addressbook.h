@@ -69,6 +69,9 @@ public:
     /// stop. An entry is live when its own record of the index holds a line.
     void forEachLive(const std::function<bool(int record, const AddressEntry &entry)> &visit) const;
 
+    /// The same with the bytes of the entry: at most 724, fewer at the end of the file.
+    void forEachLiveRecord(const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
+
     /// The two files themselves, for readers that walk over all of them at once.
     RecordFile entries() const;
     RecordFile index() const;

@@ -129,7 +129,8 @@ bool IndexLine::isDeleted(QStringView line)
 
 bool IndexLine::isDeleted(QByteArrayView line)
 {
-    return line.startsWith("####");
+    // Nearly every line differs in its first character, and lists of many thousand come through here.
+    return !line.isEmpty() && line.front() == '#' && line.startsWith("####");
 }
 
 bool IndexLine::belongs(QStringView line, const AddressEntry &entry)

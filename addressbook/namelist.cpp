@@ -5,8 +5,32 @@
 #include "storage/ansitext.h"
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
+
+NameList::NameList(QByteArray bytes)
+    : m_bytes(std::move(bytes))
+{}
+
+void NameList::list(qsizetype start, qsizetype length)
+{
+    Q_ASSERT(start >= 0 && length >= 0 && start + length <= m_bytes.size());
+    m_places.push_back({quint32(start), quint32(length)});
+}
+
+void NameList::squeeze()
+{
+    const qsizetype length = textLength();
+    if (m_bytes.size() <= 2 * length)
+        return;
+    NameList lines;
+    lines.m_bytes.reserve(length);
+    lines.m_places.reserve(m_places.size());
+    for (int position = 0; position < count(); ++position)
+        lines.append(bytesAt(position));
+    *this = std::move(lines);
+}
 
 QString NameList::line(int position) const
 {
@@ -62,31 +86,14 @@ void NameList::append(QStringView line)
 
 void NameList::append(QByteArrayView line)
 {
+    m_places.push_back({quint32(m_bytes.size()), quint32(line.size())});
     m_bytes.append(line);
-    m_ends.push_back(quint32(m_bytes.size()));
 }
 
 void NameList::removeAt(int position)
 {
-    if (position < 0 || position >= count())
-        return;
-    const QByteArrayView removed = bytesAt(position);
-    const auto length = quint32(removed.size());
-    m_bytes.remove(removed.data() - m_bytes.constData(), removed.size());
-    m_ends.erase(m_ends.begin() + position);
-    std::for_each(m_ends.begin() + position, m_ends.end(), [length](quint32 &end) { end -= length; });
-}
-
-void NameList::reserve(int lines, qsizetype bytes)
-{
-    m_ends.reserve(std::size_t(std::max(lines, 0)));
-    m_bytes.reserve(bytes);
-}
-
-void NameList::squeeze()
-{
-    m_bytes.squeeze();
-    m_ends.shrink_to_fit();
+    if (position >= 0 && position < count())
+        m_places.erase(m_places.begin() + position);
 }
 
 QString NameList::countCaption() const
@@ -96,13 +103,19 @@ QString NameList::countCaption() const
 
 qsizetype NameList::memoryUsed() const
 {
-    return m_bytes.capacity() + qsizetype(m_ends.capacity() * sizeof(m_ends.front()));
+    return m_bytes.capacity() + qsizetype(m_places.capacity() * sizeof(Place));
+}
+
+qsizetype NameList::textLength() const
+{
+    return std::accumulate(m_places.begin(), m_places.end(), qsizetype(0),
+                           [](qsizetype sum, Place place) { return sum + place.length; });
 }
 
 QByteArrayView NameList::bytesAt(int position) const
 {
     if (position < 0 || position >= count())
         return {};
-    const quint32 start = position == 0 ? 0 : m_ends[std::size_t(position) - 1];
-    return QByteArrayView(m_bytes).sliced(start, m_ends[std::size_t(position)] - start);
+    const Place place = m_places[std::size_t(position)];
+    return {m_bytes.constData() + place.start, qsizetype(place.length)};
 }

@@ -14,8 +14,17 @@ public:
     /// The line on which a search that has found a match goes on; see `find`.
     static constexpr int searchResumesAt = 2002;
 
-    int count() const { return int(m_ends.size()); }
-    bool isEmpty() const { return m_ends.empty(); }
+    NameList() = default;
+    /// An empty list that lists its lines within `bytes`, without copying them.
+    explicit NameList(QByteArray bytes);
+
+    /// Lists the `length` bytes from `start` on of the bytes that the list was made with.
+    void list(qsizetype start, qsizetype length);
+    /// Keeps the lines alone when they are less than half of the bytes.
+    void squeeze();
+
+    int count() const { return int(m_places.size()); }
+    bool isEmpty() const { return m_places.empty(); }
 
     /// The whole line at `position` (from 0); empty outside the list.
     QString line(int position) const;
@@ -36,9 +45,6 @@ public:
     /// A line as it stands in the file.
     void append(QByteArrayView line);
     void removeAt(int position);
-    void reserve(int lines, qsizetype bytes);
-    /// Gives back the room that was reserved and not needed.
-    void squeeze();
 
     /// The caption of the count label: " 12 - Entries ".
     QString countCaption() const;
@@ -46,12 +52,17 @@ public:
     /// Bytes held, room for growth included.
     qsizetype memoryUsed() const;
     /// Characters of all lines together.
-    qsizetype textLength() const { return m_bytes.size(); }
+    qsizetype textLength() const;
 
 private:
+    struct Place {
+        quint32 start;
+        quint32 length;
+    };
+
     QByteArrayView bytesAt(int position) const;
     int firstMatch(QByteArrayView foldedText, int from) const;
 
-    QByteArray m_bytes;          ///< the lines one after another, one byte a character
-    std::vector<quint32> m_ends; ///< where each line ends in it
+    QByteArray m_bytes; ///< one byte a character; may hold more than the lines
+    std::vector<Place> m_places;
 };
