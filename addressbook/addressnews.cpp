@@ -26,10 +26,14 @@ struct Occasion {
 };
 
 /// The first time that the date of `kind` comes round on or after `day`; nothing without a date that can be
-/// read.
-std::optional<Occasion> nextOccasion(const AddressEntry &entry, Kind kind, DateStyle style, QDate day)
+/// read. The name is left out: of a full book nearly all days are far away.
+std::optional<Occasion> nextOccasion(QByteArrayView record, Kind kind, DateStyle style, QDate day)
 {
-    const QString &text = entry[kind == Kind::Birthday ? BirthDate : AnniversaryDate];
+    const qsizetype at = (kind == Kind::Birthday ? BirthDate : AnniversaryDate) * addressTextWidth;
+    if (record.size() <= at)
+        return {};
+    const QString text =
+        AnsiText::fieldText(record.sliced(at, std::min(addressTextWidth, record.size() - at)));
     const auto date = text.isEmpty() ? std::nullopt : Dates::parse(text, style, day);
     if (!date)
         return {};
@@ -38,7 +42,12 @@ std::optional<Occasion> nextOccasion(const AddressEntry &entry, Kind kind, DateS
     // The day itself is no anniversary yet, and one to come even less.
     if (years < 1)
         return {};
-    return Occasion{kind, next, years, entry.fullName()};
+    return Occasion{kind, next, years, {}};
+}
+
+QString nameOf(QByteArrayView record)
+{
+    return addressLayout.decode(record).fullName();
 }
 
 QString word(Kind kind, qsizetype count = 1)
@@ -77,7 +86,7 @@ public:
         , m_today(today)
     {}
 
-    void add(Kind kind, const AddressEntry &entry);
+    void add(Kind kind, QByteArrayView record);
     std::optional<LiveLine> line() const;
 
 private:
@@ -90,15 +99,16 @@ private:
     std::optional<Occasion> m_later;
 };
 
-void Ahead::add(Kind kind, const AddressEntry &entry)
+void Ahead::add(Kind kind, QByteArrayView record)
 {
-    std::optional<Occasion> occasion = nextOccasion(entry, kind, m_style, m_today);
-    if (!occasion)
+    std::optional<Occasion> occasion = nextOccasion(record, kind, m_style, m_today);
+    const qint64 days = occasion ? m_today.daysTo(occasion->day) : daysAhead + 1;
+    if (days > daysAhead)
         return;
-    const qint64 days = m_today.daysTo(occasion->day);
+    occasion->name = nameOf(record);
     if (days < daysThisWeek)
         m_thisWeek.push_back(std::move(*occasion));
-    else if (days <= daysAhead && (!m_later || occasion->day < m_later->day))
+    else if (!m_later || occasion->day < m_later->day)
         m_later = std::move(occasion);
 }
 
@@ -145,9 +155,9 @@ QString Ahead::sentence() const
 std::optional<LiveLine> AddressNews::liveLine(const DataFolder &folder, DateStyle style, QDate today)
 {
     Ahead ahead(style, today);
-    AddressBook(folder).forEachLive([&ahead](int, const AddressEntry &entry) {
-        ahead.add(Kind::Birthday, entry);
-        ahead.add(Kind::Anniversary, entry);
+    AddressBook(folder).forEachLiveRecord([&ahead](int, QByteArrayView record) {
+        ahead.add(Kind::Birthday, record);
+        ahead.add(Kind::Anniversary, record);
         return true;
     });
     return ahead.line();
@@ -158,18 +168,19 @@ QList<DayNote> AddressNews::dayNotes(const DataFolder &folder, DateStyle style, 
     QList<DayNote> notes;
     if (!from.isValid() || !to.isValid())
         return notes;
-    const auto add = [&](const AddressEntry &entry, Kind kind) {
+    const auto add = [&](QByteArrayView record, Kind kind) {
         for (QDate day = from; day <= to; day = day.addDays(1)) {
-            const auto occasion = nextOccasion(entry, kind, style, day);
+            auto occasion = nextOccasion(record, kind, style, day);
             if (!occasion || occasion->day > to)
                 return;
             day = occasion->day;
+            occasion->name = nameOf(record);
             notes.append({day, noteText(*occasion), u"Address Book"_s});
         }
     };
-    AddressBook(folder).forEachLive([&add](int, const AddressEntry &entry) {
-        add(entry, Kind::Birthday);
-        add(entry, Kind::Anniversary);
+    AddressBook(folder).forEachLiveRecord([&add](int, QByteArrayView record) {
+        add(record, Kind::Birthday);
+        add(record, Kind::Anniversary);
         return true;
     });
     std::ranges::stable_sort(notes, {}, &DayNote::date);
