@@ -18,6 +18,7 @@ constexpr double corner = 6;
 constexpr int tabWidth = 34;
 constexpr int tabPadding = 16;
 constexpr int sampleHeight = 40;
+constexpr int leastSampleHeight = 32;
 
 bool isMain(const QWidget &button)
 {
@@ -81,6 +82,11 @@ void EdgeTab::paintEvent(QPaintEvent *)
 QSize FontSample::sizeHint() const
 {
     return {120, sampleHeight};
+}
+
+QSize FontSample::minimumSizeHint() const
+{
+    return {40, leastSampleHeight};
 }
 
 void FontSample::paintEvent(QPaintEvent *)

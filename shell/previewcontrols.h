@@ -18,7 +18,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
-/// The narrow tab that stays at the window's edge while the button column is hidden; its words run upwards.
+/// The narrow tab that stays at the window's edge while the button column is hidden; its words run downwards.
 class EdgeTab final : public QPushButton
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ public:
     using QLabel::QLabel;
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return {40, sizeHint().height()}; }
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

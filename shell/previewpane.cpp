@@ -16,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -28,6 +29,10 @@ constexpr int windowMargin = 16;
 constexpr int columnWidth = 208;
 constexpr int deskPadding = 14;
 constexpr int buttonHeight = 40;
+constexpr int leastButtonHeight = 34;
+constexpr int looseSpacing = 10;
+constexpr int tightSpacing = 4;
+constexpr int looseFrom = 560; ///< height of the pane
 constexpr int defaultPoints = 11;
 constexpr double clipboardDotsPerInch = 150;
 constexpr double millimetersPerInch = 25.4;
@@ -55,7 +60,9 @@ ColumnButton *makeColumnButton(const QString &name, const QString &caption, QLat
 {
     auto *button = named(new ColumnButton(caption, parent), name);
     button->setAutoDefault(false);
-    button->setMinimumHeight(buttonHeight);
+    button->setMinimumHeight(leastButtonHeight);
+    button->setMaximumHeight(buttonHeight);
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     setButtonKind(button, kind);
     button->setSign(icon);
     return button;
@@ -127,13 +134,26 @@ void PreviewPane::fillButtonPanel()
     m_close = makeColumnButton(u"SSCommand2"_s, u"Close Previe&w"_s, "exit"_L1, m_buttonPanel);
 
     m_buttonPanel->setFixedWidth(columnWidth);
-    auto *column = new QVBoxLayout(m_buttonPanel);
-    column->setContentsMargins(deskPadding, 16, deskPadding, deskPadding);
-    column->setSpacing(10);
+    // In a low window the column scrolls: it must not keep the window from shrinking.
+    auto *content = new QWidget;
+    auto *scroller = new QScrollArea(m_buttonPanel);
+    scroller->setWidget(content);
+    scroller->setWidgetResizable(true);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    for (QWidget *background : {scroller->viewport(), content})
+        background->setAutoFillBackground(false);
+    auto *frame = new QVBoxLayout(m_buttonPanel);
+    frame->setContentsMargins(1, 1, 1, 1);
+    frame->addWidget(scroller);
+
+    auto *column = m_column = new QVBoxLayout(content);
+    column->setContentsMargins(deskPadding - 1, deskPadding - 1, deskPadding - 1, deskPadding - 1);
+    column->setSpacing(looseSpacing);
     column->addWidget(makeHeading(u"Page"_s, m_buttonPanel));
     column->addWidget(m_orientation);
     column->addLayout(makeSteps());
-    column->addSpacing(4);
     for (const Command command : {Print, ChooseFont, TurnPage, CopyPage})
         column->addWidget(m_commands[command]);
     column->addWidget(m_zoom);
@@ -318,6 +338,12 @@ void PreviewPane::showFont()
     colors.setColor(QPalette::WindowText, m_font.color);
     m_fontSample->setPalette(colors);
     m_fontSample->setFont(m_font.font);
+}
+
+void PreviewPane::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_column->setSpacing(height() >= looseFrom ? looseSpacing : tightSpacing);
 }
 
 void PreviewPane::keyPressEvent(QKeyEvent *event)

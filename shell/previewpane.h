@@ -17,6 +17,7 @@ class PanelFrame;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 struct Program;
 
 /// The page preview of a function window: the sheet on its desk and the column of buttons beside it. The page
@@ -53,6 +54,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     /// The indices of the button array.
@@ -86,6 +88,7 @@ private:
     PanelFrame *m_deskPanel;
     SheetView *m_view;
     PanelFrame *m_buttonPanel;
+    QVBoxLayout *m_column = nullptr;
     QPushButton *m_showButtons;
     std::array<QPushButton *, CommandCount> m_commands{};
     ColumnButton *m_zoom = nullptr;

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int deskMargin = 18;
 constexpr double deskCorner = 8;
-constexpr int shadowDepth = 7;
+constexpr int shadowDepth = 9;
 constexpr double rim = 2; ///< of the focused desk
 /// An enlarged sheet is at least this much larger, also where its width already filled the desk.
 constexpr double leastEnlargement = 1.2;
@@ -31,7 +31,7 @@ void drawShadow(QPainter &painter, const QRectF &sheet, const QColor &desk)
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const int strength = desk.lightnessF() < 0.4F ? 26 : 11;
+    const int strength = desk.lightnessF() < 0.4F ? 20 : 6;
     for (int i = shadowDepth; i > 0; --i) {
         painter.setBrush(QColor(30, 20, 10, strength));
         painter.drawRoundedRect(sheet.adjusted(-i, -i + 2, i, i + 2), i, i);
