@@ -1,44 +1,23 @@
-#include "shell/pagepainter.h"
+#include "sheettools.h"
 
 #include <QElapsedTimer>
 #include <QPageLayout>
-#include <QPageSize>
-#include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <cmath>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace SheetTools;
 
 namespace {
 
 const QDate printedOn(2026, 11, 21);
 constexpr double letterWidth = 8.5;
 constexpr double letterHeight = 11;
-
-PageFont bodyFont(double points = 11)
-{
-    PageFont font;
-    font.font.setPointSizeF(points);
-    return font;
-}
-
-/// What a PDF tool says of the file.
-QString output(const QString &tool, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(tool, arguments);
-    if (!process.waitForFinished() || process.exitCode() != 0)
-        QTest::qFail(qPrintable(tool + u" failed: "_s + QString::fromUtf8(process.readAllStandardError())),
-                     __FILE__, __LINE__);
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
 
 Page numbered(int rows, const QString &cell = u"Müller, Zoë"_s)
 {
@@ -47,28 +26,6 @@ Page numbered(int rows, const QString &cell = u"Müller, Zoë"_s)
     for (int i = 0; i < rows; ++i)
         page.row({cell, QString::number(i)});
     return page.close(printedOn, DateStyle::Usa);
-}
-
-/// The smallest rectangle that holds every dot of this colour, in inches.
-QRectF inkOf(const QImage &image, QRgb color, double dotsPerInch)
-{
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) == color)
-                ink |= QRect(x, y, 1, 1);
-        }
-    }
-    return {QPointF(ink.topLeft()) / dotsPerInch, QSizeF(ink.size()) / dotsPerInch};
-}
-
-bool isBlank(const QImage &image, const QRectF &inches, double dotsPerInch)
-{
-    const QRect area = QRectF(inches.topLeft() * dotsPerInch, inches.size() * dotsPerInch).toRect();
-    const QImage part = image.copy(area);
-    QImage white(part.size(), part.format());
-    white.fill(Qt::white);
-    return part == white;
 }
 
 } // namespace
@@ -90,12 +47,6 @@ private slots:
     void printersBreakAsImagesDo();
     void printsTheSheetsAskedFor();
     void stopsWhenTold();
-    void putsPicturesToTheHundredthOfAnInch_data();
-    void putsPicturesToTheHundredthOfAnInch();
-    void keepsTheAspectOfPictures();
-    void leavesAnEmptyPlaceForPicturesThatCannotBeRead_data();
-    void leavesAnEmptyPlaceForPicturesThatCannotBeRead();
-    void turnsPicturesAsTheCameraWasHeld();
     void nothingLeavesTheMargins_data();
     void nothingLeavesTheMargins();
     void numbersStandRight();
@@ -104,12 +55,11 @@ private slots:
     void survivesOddPages();
 
 private:
-    QString pdf(const Page &page, const PageSetup &setup = {}, const PageFont &font = bodyFont()) const;
+    QString pdf(const Page &page, const PageSetup &setup = {}) const;
     QString pdfText(const QString &path) const
     {
         return output(u"pdftotext"_s, {u"-layout"_s, path, u"-"_s});
     }
-    QString picture(QSize size, QRgb color = qRgb(200, 0, 0)) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -119,22 +69,9 @@ void TestPagePainter::init()
     m_folder = std::make_unique<QTemporaryDir>();
 }
 
-QString TestPagePainter::pdf(const Page &page, const PageSetup &setup, const PageFont &font) const
+QString TestPagePainter::pdf(const Page &page, const PageSetup &setup) const
 {
-    const QString path = m_folder->filePath(u"page.pdf"_s);
-    QPdfWriter writer(path);
-    if (!PagePainter(page, setup, font).print(writer))
-        QTest::qFail("no PDF", __FILE__, __LINE__);
-    return path;
-}
-
-QString TestPagePainter::picture(QSize size, QRgb color) const
-{
-    const QString path = m_folder->filePath(u"picture.png"_s);
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    image.save(path);
-    return path;
+    return savePdf(m_folder->filePath(u"page.pdf"_s), page, setup);
 }
 
 void TestPagePainter::cutsPagesIntoSheets_data()
@@ -300,108 +237,6 @@ void TestPagePainter::stopsWhenTold()
         return sheet < 1;
     }));
     QCOMPARE(asked, (QList<int>{0, 1}));
-}
-
-void TestPagePainter::putsPicturesToTheHundredthOfAnInch_data()
-{
-    QTest::addColumn<QPointF>("corner");
-    for (const QPointF corner :
-         {QPointF(0.25, 0.8), QPointF(2.25, 2.8), QPointF(4.25, 4.8), QPointF(6.25, 8.8)})
-        QTest::addRow("%.2f, %.2f", corner.x(), corner.y()) << corner;
-    QTest::newRow("an odd hundredth") << QPointF(3.33, 5.67);
-}
-
-void TestPagePainter::putsPicturesToTheHundredthOfAnInch()
-{
-    QFETCH(QPointF, corner);
-    constexpr double dotsPerInch = 200;
-    constexpr QRgb red = qRgb(200, 0, 0);
-    const Page page = Page(u"Pictures"_s).placePicture({corner, QSizeF(1.5, 1.5)}, picture({900, 900}, red));
-    const QImage onScreen = PagePainter(page, {}, bodyFont()).image(0, dotsPerInch);
-    QCOMPARE(onScreen.size(), QSize(int(letterWidth * dotsPerInch), int(letterHeight * dotsPerInch)));
-    const QRectF ink = inkOf(onScreen, red, dotsPerInch);
-    QVERIFY(std::abs(ink.left() - corner.x()) <= 0.01);
-    QVERIFY(std::abs(ink.top() - corner.y()) <= 0.01);
-    QVERIFY(std::abs(ink.width() - 1.5) <= 0.01);
-    QVERIFY(std::abs(ink.height() - 1.5) <= 0.01);
-
-    const QString prefix = m_folder->filePath(u"paper"_s);
-    output(u"pdftoppm"_s, {u"-r"_s, u"200"_s, u"-png"_s, u"-singlefile"_s, pdf(page), prefix});
-    const QImage onPaper(prefix + u".png"_s);
-    const int row = qRound((corner.y() + 0.75) * dotsPerInch);
-    int first = 0;
-    while (first < onPaper.width() &&
-           qRed(onPaper.pixel(first, row)) - qGreen(onPaper.pixel(first, row)) < 100)
-        ++first;
-    QVERIFY(std::abs(first / dotsPerInch - corner.x()) <= 0.01);
-}
-
-void TestPagePainter::keepsTheAspectOfPictures()
-{
-    constexpr double dotsPerInch = 100;
-    constexpr QRgb red = qRgb(200, 0, 0);
-    const Page page = Page().placePicture({1, 2, 3, 3}, picture({60, 20}, red));
-    const QRectF ink = inkOf(PagePainter(page, {}, bodyFont()).image(0, dotsPerInch), red, dotsPerInch);
-    QCOMPARE(ink.topLeft(), QPointF(1, 2));
-    QVERIFY(std::abs(ink.width() - 3) <= 0.02);
-    QVERIFY(std::abs(ink.height() - 1) <= 0.02);
-}
-
-void TestPagePainter::leavesAnEmptyPlaceForPicturesThatCannotBeRead_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("no file") << QByteArray();
-    QTest::newRow("noise") << QByteArray("BM noise that begins as a picture would \xff\xd8\xff\x00\x01", 44);
-    QTest::newRow("a picture cut off")
-        << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000003e8000003e808");
-    QTest::newRow("a picture larger than the memory") << QByteArray::fromHex(
-        "424d3600000000000000360000002800000000ffff7f00ffff7f01001800000000000000000000000000");
-}
-
-void TestPagePainter::leavesAnEmptyPlaceForPicturesThatCannotBeRead()
-{
-    QFETCH(QByteArray, bytes);
-    const QString path = m_folder->filePath(u"broken.jpg"_s);
-    if (!bytes.isEmpty()) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    Page page;
-    for (const QString &name : {path, m_folder->path(), QString()})
-        page.placePicture({4, 4, 2, 2}, name).picture(name, {2, 2});
-    const QImage image = PagePainter(page, {}, bodyFont()).image(0, 100);
-    QVERIFY(isBlank(image, {4.1, 4.1, 1.8, 1.8}, 100));
-    QVERIFY(!isBlank(image, {3.98, 3.98, 2.04, 2.04}, 100));
-}
-
-void TestPagePainter::turnsPicturesAsTheCameraWasHeld()
-{
-    // A picture that lies on its side, with the mark of a camera held upright before its data.
-    QImage image(40, 20, QImage::Format_RGB32);
-    image.fill(qRgb(200, 0, 0));
-    const QString path = m_folder->filePath(u"upright.jpg"_s);
-    image.save(path, "JPG", 100);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QByteArray bytes = file.readAll();
-    bytes.insert(2, QByteArray::fromHex("ffe10022457869660000" // an Exif part of 34 bytes
-                                        "4d4d002a00000008"     // big endian, its directory at 8
-                                        "0001"
-                                        "0112"
-                                        "0003"
-                                        "00000001"
-                                        "0006"
-                                        "0000"
-                                        "00000000"));
-    file.seek(0);
-    file.write(bytes);
-    file.close();
-
-    constexpr double dotsPerInch = 100;
-    const Page page = Page().placePicture({1, 1, 2, 2}, path);
-    const QImage sheet = PagePainter(page, {}, bodyFont()).image(0, dotsPerInch);
-    QVERIFY(isBlank(sheet, {2.1, 1, 1, 2}, dotsPerInch));
-    QVERIFY(!isBlank(sheet, {1, 2.8, 0.9, 0.1}, dotsPerInch));
 }
 
 void TestPagePainter::nothingLeavesTheMargins_data()
