@@ -45,6 +45,7 @@ BackgroundSelector::BackgroundSelector(const BackgroundChoice &current, const Pa
     m_board->setAutoFillBackground(false);
     m_grid->setContentsMargins(0, 0, 0, 0);
     makeSlots(pathOf);
+    m_area->viewport()->installEventFilter(this);
 
     auto *whole = new QVBoxLayout(this);
     whole->setContentsMargins(outerMargin, outerMargin, outerMargin, outerMargin);
@@ -132,10 +133,10 @@ void BackgroundSelector::arrange()
     const int ofWidth = int((room.width() / columns - frame.width()) / pictureRatio);
     const int height = std::clamp(std::min(ofHeight, ofWidth), BackgroundSlot::smallestPicture,
                                   BackgroundSlot::thumbnail.height());
-    const QSize size = QSize(int(height * pictureRatio), height) + frame;
+    const QSize size(int(height * pictureRatio), height);
     m_grid->setSpacing(0);
     for (std::size_t i = 0; i < m_slots.size(); ++i) {
-        m_slots[i]->setFixedSize(size);
+        m_slots[i]->setPictureSize(size, room.width() / columns);
         if (m_columns != columns)
             m_grid->addWidget(m_slots[i], int(i) / columns, int(i) % columns,
                               Qt::AlignHCenter | Qt::AlignTop);
@@ -143,10 +144,11 @@ void BackgroundSelector::arrange()
     m_columns = columns;
 }
 
-void BackgroundSelector::resizeEvent(QResizeEvent *event)
+bool BackgroundSelector::eventFilter(QObject *watched, QEvent *event)
 {
-    QWidget::resizeEvent(event);
-    arrange();
+    if (event->type() == QEvent::Resize)
+        arrange();
+    return QWidget::eventFilter(watched, event);
 }
 
 void BackgroundSelector::keyPressEvent(QKeyEvent *event)

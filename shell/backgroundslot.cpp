@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,6 +18,8 @@ namespace {
 constexpr int ring = 5;  ///< around everything, for the focus
 constexpr int mat = 5;   ///< around the picture
 constexpr int below = 6; ///< between mat and name
+
+constexpr QLatin1StringView inUseMark("  (in use)");
 
 constexpr std::array pictureNames{
     "Morning hills", "Dunes",  "Quiet sea", "Meadow", "Birch wood", "Autumn leaves", "Snowfield", "Night sky",
@@ -80,6 +83,19 @@ QSize BackgroundSlot::frame() const
     return {2 * (ring + mat), 2 * (ring + mat) + below + QFontMetrics(TypeScale::body()).height()};
 }
 
+void BackgroundSlot::setPictureSize(QSize size, int widest)
+{
+    m_size = size;
+    const int name = QFontMetrics(TypeScale::strong()).horizontalAdvance(text() + inUseMark) + 2 * mat;
+    const QSize whole = size + frame();
+    setFixedSize(std::max(whole.width(), std::min(name, widest)), whole.height());
+}
+
+QString BackgroundSlot::words() const
+{
+    return m_inUse ? QString(text() + inUseMark) : text();
+}
+
 void BackgroundSlot::keyPressEvent(QKeyEvent *event)
 {
     switch (event->key()) {
@@ -105,8 +121,8 @@ void BackgroundSlot::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const Theme &theme = Theme::of(this);
-    const QRect outside = rect().adjusted(ring, ring, -ring, -(frame().height() - ring - 2 * mat));
-    const QRect picture = outside.adjusted(mat, mat, -mat, -mat);
+    const QRect picture(QPoint((width() - m_size.width()) / 2, ring + mat), m_size);
+    const QRect outside = picture.adjusted(-mat, -mat, mat, mat);
 
     const qreal rim = m_inUse ? 3 : 1;
     painter.setPen(QPen(m_inUse              ? theme.accent
@@ -123,14 +139,12 @@ void BackgroundSlot::paintEvent(QPaintEvent *)
         painter.drawText(picture, Qt::AlignCenter, u"No picture"_s);
     }
 
-    QFont font = TypeScale::body();
-    font.setWeight(m_inUse ? QFont::DemiBold : QFont::Normal);
+    const QFont font = m_inUse ? TypeScale::strong() : TypeScale::body();
     painter.setFont(font);
     painter.setPen(palette().color(QPalette::WindowText));
     const QRect name(0, outside.bottom() + 1 + below, width(), QFontMetrics(font).height());
-    const QString words = m_inUse ? QString(text() + u"  (in use)"_s) : text();
     painter.drawText(name, Qt::AlignHCenter | Qt::AlignTop,
-                     QFontMetrics(font).elidedText(words, Qt::ElideRight, name.width()));
+                     QFontMetrics(font).elidedText(words(), Qt::ElideRight, name.width()));
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(theme.accent, 2));

@@ -20,6 +20,9 @@ public:
     void setInUse(bool inUse);
     bool isInUse() const { return m_inUse; }
 
+    /// Shows the picture at `size`; the name below may make the slot wider, up to `widest` pixels.
+    void setPictureSize(QSize size, int widest);
+
     /// Pixels around the picture: mat, focus ring, and the name below.
     QSize frame() const;
 
@@ -32,8 +35,10 @@ protected:
 
 private:
     void tell();
+    QString words() const;
 
     int m_slot;
     QPixmap m_picture;
+    QSize m_size = thumbnail;
     bool m_inUse = false;
 };

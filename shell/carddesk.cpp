@@ -149,7 +149,7 @@ CardDesk::Measures CardDesk::measuresFor(int width) const
     m.columns = columnsFor(width);
     const bool roomy = width >= roomyWidth;
     m.gap = roomy ? 18 : 16;
-    const int rim = roomy ? 64 : width >= 1020 ? 32 : 24;
+    const int rim = roomy ? 64 : width >= 1020 ? 32 : width >= 740 ? 24 : 16;
     m.cardWidth = std::clamp((width - 2 * rim - (m.columns - 1) * m.gap) / m.columns, 1, widestCard);
     const int block = m.columns * m.cardWidth + (m.columns - 1) * m.gap;
     m.side = (width - block) / 2;

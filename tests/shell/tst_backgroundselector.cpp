@@ -1,0 +1,195 @@
+#include "startwindow.h"
+
+#include "shell/backdrop.h"
+#include "shell/backgroundselector.h"
+#include "shell/backgroundslot.h"
+#include "shell/flowtoolbar.h"
+#include "shell/menupicture.h"
+#include "shell/settingskeys.h"
+#include "shell/theme.h"
+
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int settingsLength = 10;
+
+void savePicture(const StartWindow &start, const QString &name, QSize size, const QColor &color)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(color);
+    QVERIFY(picture.save(start.test.path(name), "jpg", 100));
+}
+
+/// The colour in the lowest corner of the main menu's picture.
+QColor cornerOf(const Startfrm &window)
+{
+    auto *picture = window.findChild<MenuPicture *>();
+    return picture->grab().toImage().pixelColor(2, picture->height() - 3);
+}
+
+bool isLike(const QColor &one, const QColor &other)
+{
+    return std::abs(one.red() - other.red()) < 6 && std::abs(one.green() - other.green()) < 6 &&
+           std::abs(one.blue() - other.blue()) < 6;
+}
+
+} // namespace
+
+class TestBackgroundSelector : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void showsAChoiceAtOnceAndWritesIt();
+    void goesBackToTheDefault();
+    void leavesEverythingOnEscape();
+    void marksTheSlotInUse_data();
+    void marksTheSlotInUse();
+    void walksAndChoosesByKeys();
+    void looksForPicturesInTheProgramsFolder();
+    void takesAnyPicture_data();
+    void takesAnyPicture();
+};
+
+void TestBackgroundSelector::showsAChoiceAtOnceAndWritesIt()
+{
+    StartWindow start(TestProgram::Household);
+    savePicture(start, u"WP7.jpg"_s, QSize(64, 40), Qt::red);
+    Startfrm &window = start.show();
+    start.trigger("mOBC");
+    QCOMPARE(start.activity(), u"Background Selector"_s);
+    QVERIFY(!control<FlowToolBar>(window, "Toolbar1")->isVisible());
+    QVERIFY(control<BackgroundSlot>(window, "backgroundSlot_1")->isInUse());
+
+    QTest::mouseClick(control<BackgroundSlot>(window, "backgroundSlot_6"), Qt::LeftButton);
+    QVERIFY(isLike(cornerOf(window), Qt::red));
+    QVERIFY(control<BackgroundSlot>(window, "backgroundSlot_6")->isInUse());
+    QVERIFY(!control<BackgroundSlot>(window, "backgroundSlot_1")->isInUse());
+    QCOMPARE(start.record(u"GHINV1.Fil"_s, settingsLength, 3).left(7), QByteArray("\x08\x00\x03\x00WP2", 7));
+
+    QTest::mouseClick(control<QPushButton>(window, "Command1"), Qt::LeftButton);
+    QCOMPARE(start.record(u"GHINV1.Fil"_s, settingsLength, 3).left(7), QByteArray("\x08\x00\x03\x00WP7", 7));
+    QCOMPARE(start.activity(), u"Main Menu"_s);
+    QVERIFY(control<FlowToolBar>(window, "Toolbar1")->isVisible());
+    QVERIFY(isLike(cornerOf(window), Qt::red));
+    QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+void TestBackgroundSelector::goesBackToTheDefault()
+{
+    StartWindow start(TestProgram::Household);
+    Startfrm &window = start.show();
+    start.trigger("Toolbar2_0");
+    auto *plain = control<QRadioButton>(window, "Option1");
+    QVERIFY(!plain->isChecked());
+    plain->click();
+    QVERIFY(isLike(cornerOf(window), Theme::of(&window).ground));
+    plain->click(); // a second click leaves it set
+    QVERIFY(plain->isChecked());
+    QTest::mouseClick(control<QPushButton>(window, "Command1"), Qt::LeftButton);
+    QCOMPARE(start.record(u"GHINV1.Fil"_s, settingsLength, 3).left(7), QByteArray("\x08\x00\x03\x00"
+                                                                                  "Def",
+                                                                                  7));
+}
+
+void TestBackgroundSelector::leavesEverythingOnEscape()
+{
+    StartWindow start(TestProgram::Household);
+    Startfrm &window = start.show();
+    const QColor before = cornerOf(window);
+    const QByteArray settings = start.test.bytes(u"GHINV1.Fil"_s);
+    start.trigger("mOBC");
+    control<QRadioButton>(window, "Option1")->click();
+    QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
+    QCOMPARE(start.activity(), u"Main Menu"_s);
+    QCOMPARE(start.test.bytes(u"GHINV1.Fil"_s), settings);
+    QVERIFY(isLike(cornerOf(window), before));
+}
+
+void TestBackgroundSelector::marksTheSlotInUse_data()
+{
+    QTest::addColumn<QString>("record");
+    QTest::addColumn<int>("slot");
+    QTest::addColumn<bool>("plain");
+    QTest::newRow("never written") << QString() << -1 << true;
+    QTest::newRow("default") << u"Def"_s << -1 << true;
+    QTest::newRow("first") << u"WP1"_s << 0 << false;
+    QTest::newRow("last") << u"WP16"_s << 15 << false;
+    QTest::newRow("none of them") << u"WP99"_s << -1 << false;
+}
+
+void TestBackgroundSelector::marksTheSlotInUse()
+{
+    QFETCH(QString, record);
+    QFETCH(int, slot);
+    QFETCH(bool, plain);
+    StartWindow start;
+    if (!record.isEmpty())
+        start.test.settings.setTagged(SettingsKeys::background, record);
+    Startfrm &window = start.show();
+    start.trigger("mOBC");
+    for (int i = 0; i < BackgroundChoice::slotCount; ++i) {
+        const auto *found = control<BackgroundSlot>(window, qPrintable(u"backgroundSlot_%1"_s.arg(i)));
+        QCOMPARE(found->isInUse(), i == slot);
+    }
+    QCOMPARE(control<QRadioButton>(window, "Option1")->isChecked(), plain);
+}
+
+void TestBackgroundSelector::walksAndChoosesByKeys()
+{
+    StartWindow start(TestProgram::Household);
+    Startfrm &window = start.show();
+    start.trigger("mOBC");
+    QCOMPARE(window.focusWidget()->objectName(), u"backgroundSlot_1"_s);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Down);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Right);
+    QCOMPARE(window.focusWidget()->objectName(), u"backgroundSlot_6"_s);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    QVERIFY(control<BackgroundSlot>(window, "backgroundSlot_6")->isInUse());
+}
+
+void TestBackgroundSelector::looksForPicturesInTheProgramsFolder()
+{
+    StartWindow start;
+    start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s);
+    QImage picture(64, 40, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    QVERIFY(picture.save(start.test.programFolder.filePath(u"wp3.JPG"_s), "jpg", 100));
+    QVERIFY(isLike(cornerOf(start.show()), Qt::blue));
+}
+
+void TestBackgroundSelector::takesAnyPicture_data()
+{
+    QTest::addColumn<QSize>("size"); // empty: no picture at all
+    QTest::newRow("tiny") << QSize(1, 1);
+    QTest::newRow("tall") << QSize(40, 900);
+    QTest::newRow("wide") << QSize(3000, 20);
+    QTest::newRow("its own size") << Backdrop::largest;
+    QTest::newRow("very large") << QSize(4000, 3000);
+    QTest::newRow("damaged") << QSize();
+}
+
+void TestBackgroundSelector::takesAnyPicture()
+{
+    QFETCH(QSize, size);
+    StartWindow start;
+    start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s);
+    if (size.isEmpty())
+        start.test.setBytes(u"WP3.jpg"_s, "\xff\xd8\xff\xe0 no picture");
+    else
+        savePicture(start, u"WP3.jpg"_s, size, QColor(60, 120, 60));
+    Startfrm &window = start.show();
+    const QColor expected = size.isEmpty() ? Theme::of(&window).ground : QColor(60, 120, 60);
+    QVERIFY(isLike(cornerOf(window), expected));
+    start.trigger("mOBC");
+    QCOMPARE(control<BackgroundSlot>(window, "backgroundSlot_2")->accessibleDescription().isEmpty(),
+             !size.isEmpty());
+}
+
+QTEST_MAIN(TestBackgroundSelector)
+#include "tst_backgroundselector.moc"

@@ -1,0 +1,458 @@
+#include "startwindow.h"
+
+#include "shell/flowtoolbar.h"
+#include "shell/functionwindow.h"
+#include "shell/hinfo1.h"
+#include "shell/settingskeys.h"
+#include "shell/shellmessages.h"
+#include "shell/startmessages.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A function window with something typed in it.
+class UnsavedWindow final : public FunctionWindow
+{
+public:
+    UnsavedWindow(Program &program, bool &leaves)
+        : FunctionWindow(program,
+                         {u"Unsaved"_s,
+                          u"Unsaved"_s,
+                          u"Unsaved"_s,
+                          {SettingsKeys::addressEntryColor, SettingsKeys::addressEntryProgramColor, {}}})
+        , m_leaves(leaves)
+    {
+        finishFrame();
+    }
+
+protected:
+    Page page(const PageSetup &) const override { return Page(); }
+    bool mayDiscard() override { return m_leaves; }
+
+private:
+    bool &m_leaves;
+};
+
+/// The menu as text: "name caption", a dash for a separator, submenus indented.
+void listMenu(const QMenu &menu, const QString &indent, QStringList &lines)
+{
+    for (const QAction *action : menu.actions()) {
+        lines << indent + action->objectName() + (action->isSeparator() ? u" -"_s : u' ' + action->text());
+        if (action->menu())
+            listMenu(*action->menu(), indent + u"  "_s, lines);
+    }
+}
+
+constexpr int settingsLength = 10;
+constexpr int colorLength = 20;
+
+} // namespace
+
+class TestStartfrm : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsWithoutAnyFile();
+    void startsWithTheHousehold();
+    void decidesTheDateStyle_data();
+    void decidesTheDateStyle();
+    void hasItsMenus();
+    void keepsTheDisplayMode();
+    void followsUnmaximisingByHand();
+    void opensAtTheSmallestSizeForAnEmptySize();
+    void asksBeforeItExits_data();
+    void asksBeforeItExits();
+    void letsAWindowStopTheExit();
+    void asksForTheFamilyName();
+    void removesAndRestoresTheTopToolbar();
+    void refusesToCustomizeARemovedToolbar();
+    void keepsACustomizedToolbar();
+    void removesAndRestoresTheSideToolbars();
+    void writesTheDefaultPanelColorEverywhere();
+    void checksTheScreenOnce();
+    void opensTheWebSite();
+    void showsTheAboutBox();
+    void survivesDamagedSettings();
+};
+
+void TestStartfrm::startsWithoutAnyFile()
+{
+    StartWindow start;
+    Startfrm &window = start.show();
+    QCOMPARE(window.windowTitle(), u"Quillery"_s);
+    QCOMPARE(start.activity(), u"Main Menu"_s);
+    QVERIFY(window.isMaximized());
+    QCOMPARE(start.test.state.screenMode, ScreenMode::FullScreen);
+    QCOMPARE(start.test.state.startup, StartupDone);
+    QVERIFY(control<QAction>(window, "mOPF")->isChecked());
+    QVERIFY(!control<QAction>(window, "mOPS")->isChecked());
+    QVERIFY(control<FlowToolBar>(window, "Toolbar1")->isVisible());
+    QVERIFY(!control<FlowToolBar>(window, "Toolbar2")->isVisible());
+    QVERIFY(!control<FlowToolBar>(window, "Toolbar3")->isVisible());
+    QVERIFY(control<QToolButton>(window, "StatusBar1_RestoreSide")->isVisible());
+    QVERIFY(!control<QToolButton>(window, "StatusBar1_RestoreTop")->isVisible());
+    QCOMPARE(control<QLabel>(window, "dateLabel")->text(), u"Saturday, November 21, 2026"_s);
+    QCOMPARE(control<QLabel>(window, "Label4")->text(), u"10:24 AM"_s);
+    QVERIFY(!QGuiApplication::overrideCursor());
+    QVERIFY(start.test.dialogs.takeShown().isEmpty());
+}
+
+void TestStartfrm::startsWithTheHousehold()
+{
+    StartWindow start(TestProgram::Household);
+    Startfrm &window = start.show();
+    QCOMPARE(window.windowTitle(), u"Holm and Castle Quillery"_s);
+    QCOMPARE(start.test.state.screenMode, ScreenMode::Smaller);
+    QVERIFY(!window.isMaximized());
+    QCOMPARE(window.size(), QSize(1192, 736));
+    QVERIFY(control<QAction>(window, "mOPS")->isChecked());
+    QVERIFY(control<FlowToolBar>(window, "Toolbar1")->isVisible());
+    QVERIFY(!control<FlowToolBar>(window, "Toolbar2")->isVisible());
+    // Looking changes nothing.
+    QCOMPARE(start.test.bytes(u"GHINV1.Fil"_s).size(), 92);
+}
+
+void TestStartfrm::decidesTheDateStyle_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<DateStyle>("style");
+    QTest::addColumn<QString>("date");
+    QTest::newRow("month first") << QLocale(QLocale::English, QLocale::UnitedStates) << DateStyle::Usa
+                                 << u"Saturday, November 21, 2026"_s;
+    QTest::newRow("day first") << QLocale(QLocale::German, QLocale::Germany) << DateStyle::Other
+                               << u"Saturday, 21 November 2026"_s;
+    QTest::newRow("year first") << QLocale(QLocale::Swedish, QLocale::Sweden) << DateStyle::Other
+                                << u"Saturday, 21 November 2026"_s;
+}
+
+void TestStartfrm::decidesTheDateStyle()
+{
+    QFETCH(QLocale, locale);
+    StartWindow start;
+    start.systemLocale = locale;
+    Startfrm &window = start.show();
+    QTEST(start.test.state.dateStyle, "style");
+    QTEST(control<QLabel>(window, "dateLabel")->text(), "date");
+}
+
+void TestStartfrm::hasItsMenus()
+{
+    StartWindow start;
+    Startfrm &window = start.show();
+    QStringList lines;
+    for (const QAction *action : window.menuBar()->actions()) {
+        lines << action->objectName() + u' ' + action->text();
+        listMenu(*action->menu(), u"  "_s, lines);
+    }
+    const QString expected = uR"(mO &Options
+  mOBC &Background Selector
+  mOP &Program Display
+    mOPF &Full Screen Display
+    mOPS &Smaller Screen Display
+    mO67 -
+    mOPDefault &Default Screen Size
+  mO2 -
+  mOPCDefault Default Panel Color
+  mO12 -
+  mO1 -
+  mOE E&xit
+Mf &Program Functions
+  mIMain &Automobile Tracker
+  mO22 -
+  mFCal &Calendar Maker
+  mO25 -
+  mFB &Family/Friends Data
+  MfViewer &Family/Friends Viewer
+  mO7 -
+  mMB &Personal Budget
+  mO40 -
+  mFJour &Personal Journal
+  mFP &Personal Planner
+  mFToDo &Personal To Do List
+  mO8 -
+  mUPhoto &Photo Album
+  mO9 -
+  mPWKpr &Passowrd Keerper
+  mO23 -
+  mUP &Password Control
+  mO24 -
+  mFWeight &Weight Tracker
+mH &Help
+  mHI &Program Overview
+  mH1 -
+  mHBR &Backup and Restore Option
+  mH4 -
+  mHA &About Quillery
+  mO21 -
+  mHWeb &Quillery on the Web)"_s;
+    QCOMPARE(lines, expected.split(u'\n'));
+    QVERIFY(!control<QAction>(window, "mFP")->isEnabled());
+    QCOMPARE(control<QAction>(window, "mFP")->toolTip(), u"Daily Planner is not part of this program yet."_s);
+}
+
+void TestStartfrm::keepsTheDisplayMode()
+{
+    StartWindow start;
+    Startfrm &window = start.show();
+    const auto mode = [&] { return start.record(u"GColor3.Fil"_s, colorLength, 35).left(5); };
+
+    start.trigger("mOPS");
+    QVERIFY(!window.isMaximized());
+    QCOMPARE(mode(), QByteArray("\x03\x00Yes", 5));
+    QCOMPARE(window.size(), QSize(800, 600));
+    QVERIFY(control<QAction>(window, "mOPS")->isChecked());
+    QVERIFY(!control<QAction>(window, "mOPF")->isChecked());
+
+    start.trigger("mOPF");
+    QVERIFY(window.isMaximized());
+    QCOMPARE(mode().left(4), QByteArray("\x02\x00No", 4));
+    QCOMPARE(start.test.state.screenMode, ScreenMode::FullScreen);
+
+    start.trigger("Toolbar2_1"); // toggles
+    QCOMPARE(mode(), QByteArray("\x03\x00Yes", 5));
+    window.resize(1000, 700);
+    start.trigger("mOPDefault");
+    QCOMPARE(window.size(), QSize(800, 600));
+    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 36).left(2), QByteArray("\x28\x23", 2)); // 9000
+    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 37).left(2), QByteArray("\xe0\x2e", 2)); // 12000
+}
+
+void TestStartfrm::followsUnmaximisingByHand()
+{
+    StartWindow start;
+    Startfrm &window = start.show();
+    start.trigger("mOPF");
+    window.showNormal();
+    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 35).left(5), QByteArray("\x03\x00Yes", 5));
+    QCOMPARE(start.test.state.screenMode, ScreenMode::Smaller);
+    QVERIFY(control<QAction>(window, "mOPS")->isChecked());
+    QVERIFY(!control<QAction>(window, "mOPF")->isChecked());
+}
+
+void TestStartfrm::opensAtTheSmallestSizeForAnEmptySize()
+{
+    StartWindow start;
+    start.test.settings.setText(SettingsKeys::smallerScreen, u"Yes"_s);
+    QCOMPARE(start.show().size(), QSize(800, 600));
+}
+
+void TestStartfrm::asksBeforeItExits_data()
+{
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<bool>("leaves");
+    QTest::newRow("yes") << Answer::Yes << true;
+    QTest::newRow("no") << Answer::No << false;
+    QTest::newRow("cancel") << Answer::Cancel << false;
+}
+
+void TestStartfrm::asksBeforeItExits()
+{
+    QFETCH(Answer, answer);
+    QFETCH(bool, leaves);
+    StartWindow start(TestProgram::Household);
+    start.addFunction(Function::AddressBook);
+    Startfrm &window = start.show();
+    start.trigger("mFB");
+    window.resize(1000, 500);
+    QSignalSpy exited(&window, &Startfrm::exited);
+    start.test.dialogs.willAnswer(answer);
+    start.trigger("mOE");
+    QCOMPARE(start.test.dialogs.takeShown(), QList<Message>{StartMessages::exit()});
+    QCOMPARE(exited.size(), leaves ? 1 : 0);
+    QCOMPARE(window.isVisible(), !leaves);
+    QCOMPARE(start.test.functions.openWindows().size(), leaves ? 0 : 1);
+    // 500 pixels are 7500 twips, raised to 9000; 1000 are 15000.
+    const QByteArray height = leaves ? QByteArray("\x28\x23", 2) : QByteArray("\x20\x2b", 2);
+    const QByteArray width = leaves ? QByteArray("\x98\x3a", 2) : QByteArray("\xd8\x45", 2);
+    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 36).left(2), height);
+    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 37).left(2), width);
+}
+
+void TestStartfrm::letsAWindowStopTheExit()
+{
+    StartWindow start;
+    bool leaves = false;
+    start.test.functions.add(
+        Function::Budget, {[&](Program &program) { return new UnsavedWindow(program, leaves); }, {}, {}, {}});
+    Startfrm &window = start.show();
+    start.trigger("mMB");
+    QVERIFY(!window.close());
+    QVERIFY(start.test.dialogs.takeShown().isEmpty());
+
+    leaves = true;
+    start.test.dialogs.willAnswer(Answer::Yes);
+    QVERIFY(window.close());
+    QVERIFY(start.test.functions.openWindows().isEmpty());
+}
+
+void TestStartfrm::asksForTheFamilyName()
+{
+    StartWindow start;
+    Startfrm &window = start.show();
+    start.test.dialogs.willInput(u"Featherstone-Brookfield"_s);
+    start.trigger("Toolbar2_2");
+    QCOMPARE(window.windowTitle(), u"Featherstone-Br Quillery"_s);
+    QCOMPARE(start.test.bytes(u"HINVNAME.FIL"_s), QByteArray("\x0f\x00"
+                                                             "Featherstone-Br",
+                                                             17));
+    start.test.dialogs.willInput(std::nullopt);
+    start.test.dialogs.willAnswer(Answer::Yes);
+    start.trigger("Toolbar2_2");
+    QCOMPARE(window.windowTitle(), u"Quillery"_s);
+    QCOMPARE(start.activity(), u"Main Menu"_s);
+}
+
+void TestStartfrm::removesAndRestoresTheTopToolbar()
+{
+    StartWindow start;
+    Startfrm &window = start.show();
+    auto *bar = control<FlowToolBar>(window, "Toolbar1");
+    auto *side = control<FlowToolBar>(window, "Toolbar2");
+    auto *link = control<QToolButton>(window, "StatusBar1_RestoreTop");
+    QTest::mouseClick(control<QToolButton>(window, "StatusBar1_RestoreSide"), Qt::LeftButton);
+    QVERIFY(side->isVisible());
+
+    QTest::mouseClick(side->button(control<QAction>(window, "Toolbar2_4")), Qt::LeftButton);
+    QVERIFY(!bar->isVisible());
+    QVERIFY(link->isVisible());
+    QVERIFY(side->isVisible());
+    for (const int number : {55, 81})
+        QCOMPARE(start.record(u"GColor1.Fil"_s, colorLength, number).left(5), QByteArray("\x03\x00OFF", 5));
+
+    QTest::mouseClick(link, Qt::LeftButton);
+    QVERIFY(bar->isVisible());
+    QVERIFY(!link->isVisible());
+    for (const int number : {55, 81})
+        QCOMPARE(start.record(u"GColor1.Fil"_s, colorLength, number).left(4), QByteArray("\x02\x00ON", 4));
+    QVERIFY(bar->button(control<QAction>(window, "Toolbar1_40")));
+}
+
+void TestStartfrm::refusesToCustomizeARemovedToolbar()
+{
+    StartWindow start;
+    start.test.settings.setText(SettingsKeys::topToolbar, u"OFF"_s);
+    Startfrm &window = start.show();
+    QVERIFY(!control<FlowToolBar>(window, "Toolbar1")->isVisible());
+    start.trigger("Toolbar2_3");
+    QCOMPARE(start.test.dialogs.takeShown(), QList<Message>{ShellMessages::topToolbarIsRemoved()});
+}
+
+void TestStartfrm::keepsACustomizedToolbar()
+{
+    StartWindow start;
+    start.test.store.setValue(u"User1/Toolbar1"_s,
+                              QStringList{u"Toolbar1_41"_s, u"Toolbar1_24"_s, u"gone"_s});
+    Startfrm &window = start.show();
+    QStringList names;
+    for (const QAction *action : control<FlowToolBar>(window, "Toolbar1")->actions())
+        names << action->objectName();
+    QCOMPARE(names, (QStringList{u"Toolbar1_41"_s, u"Toolbar1_24"_s}));
+    // The position decides, not the place on the bar.
+    start.trigger("Toolbar1_24");
+    QCOMPARE(start.test.dialogs.takeShown().value(0).title, u"Home Inventory View"_s);
+}
+
+void TestStartfrm::removesAndRestoresTheSideToolbars()
+{
+    StartWindow start;
+    Startfrm &window = start.show();
+    auto *link = control<QToolButton>(window, "StatusBar1_RestoreSide");
+    QTest::mouseClick(link, Qt::LeftButton);
+    auto *left = control<FlowToolBar>(window, "Toolbar2");
+    QVERIFY(left->isVisible() && control<FlowToolBar>(window, "Toolbar3")->isVisible());
+    QVERIFY(!link->isVisible());
+    QVERIFY(start.record(u"GHINV1.Fil"_s, settingsLength, 10).isEmpty());
+
+    QTest::mouseClick(left->button(control<QAction>(window, "Toolbar2_5")), Qt::LeftButton);
+    QVERIFY(!left->isVisible() && !control<FlowToolBar>(window, "Toolbar3")->isVisible());
+    QVERIFY(link->isVisible());
+    QCOMPARE(start.record(u"GHINV1.Fil"_s, settingsLength, 10), QByteArray("\x58\x00", 2));
+}
+
+void TestStartfrm::writesTheDefaultPanelColorEverywhere()
+{
+    StartWindow start(TestProgram::Household);
+    start.show();
+    start.trigger("mOPCDefault");
+    const auto isWritten = [&](const QString &file, int number) {
+        return start.record(file, colorLength, number).left(10) == QByteArray("\x08\x00"
+                                                                              "16383487",
+                                                                              10);
+    };
+    int written = 0;
+    for (const int number : SettingsKeys::programColors1)
+        written += isWritten(u"GColor1.Fil"_s, number);
+    for (const int number : SettingsKeys::programColors2)
+        written += isWritten(u"GColor2.Fil"_s, number);
+    for (const int number : SettingsKeys::programColors3)
+        written += isWritten(u"GColor3.Fil"_s, number);
+    QCOMPARE(written, 37);
+    QVERIFY(start.test.dialogs.takeShown().isEmpty());
+}
+
+void TestStartfrm::checksTheScreenOnce()
+{
+    StartWindow start;
+    start.screen = QSize(799, 599);
+    start.show();
+    QList<Message> shown;
+    QTRY_VERIFY(!(shown += start.test.dialogs.takeShown()).isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(shown + start.test.dialogs.takeShown(), QList<Message>{StartMessages::screenTooSmall()});
+}
+
+void TestStartfrm::opensTheWebSite()
+{
+    StartWindow start;
+    start.show();
+    start.trigger("mHWeb");
+    start.trigger("Toolbar2_7");
+    QCOMPARE(start.addresses, QStringList(2, u"https://quillery.example/"_s));
+    QCOMPARE(start.activity(), u"Main Menu"_s);
+}
+
+void TestStartfrm::showsTheAboutBox()
+{
+    StartWindow start;
+    start.show();
+    start.test.dialogs.willRun([&](QDialog &box) {
+        [&] {
+            QCOMPARE(start.activity(), u"About Quillery"_s);
+            QCOMPARE(box.windowTitle(), u"About Quillery"_s);
+            QTest::mouseClick(control<QPushButton>(box, "Command1"), Qt::LeftButton);
+            QVERIFY(!box.isVisible());
+            box.show();
+            control<QAction>(box, "mOOK")->trigger();
+            QVERIFY(!box.isVisible());
+        }();
+        return int(QDialog::Accepted);
+    });
+    start.trigger("mHA");
+    QCOMPARE(start.activity(), u"Main Menu"_s);
+}
+
+void TestStartfrm::survivesDamagedSettings()
+{
+    StartWindow start;
+    const QByteArray noise(1000, char(0xff));
+    for (const QString &file : {u"GHINV1.Fil"_s, u"GColor1.Fil"_s, u"HINVNAME.FIL"_s})
+        start.test.setBytes(file, noise);
+    QDir().mkpath(start.test.path(u"GColor3.Fil"_s)); // a folder in its place
+    Startfrm &window = start.show();
+    QCOMPARE(window.windowTitle(), u"Quillery"_s);
+    QVERIFY(window.isMaximized());
+    start.trigger("mOPS");
+    QCOMPARE(window.size(), QSize(800, 600));
+}
+
+QTEST_MAIN(TestStartfrm)
+#include "tst_startfrm.moc"
