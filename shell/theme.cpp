@@ -18,6 +18,67 @@ constexpr double smallestPoints = 9.5;
 /// Ordinary desktops stay below: black on the usual light grey is 18.4.
 constexpr double highContrast = 19;
 
+/// The sheet, with the names of the theme's colours behind "@". Text colours are left to the palette wherever
+/// they can be: a sheet's text colour makes placeholders half transparent.
+constexpr QLatin1StringView sheetTemplate = R"(
+QMenuBar { background: @bar; padding: 2px 6px; border: 0; }
+QMenuBar::item { background: transparent; padding: 6px 10px; margin: 0 2px; border-radius: 6px; }
+QMenuBar::item:selected { background: @soft; }
+QMenuBar::item:pressed { background: @pressed; }
+QMenu { background: @panel; border: 1px solid @edge; padding: 5px; }
+QMenu::item { padding: 6px 28px 6px 12px; border-radius: 5px; }
+QMenu::item:selected { background: @soft; color: @text; }
+QMenu::item:disabled { color: @disabledText; background: transparent; }
+QMenu::indicator { width: 16px; height: 16px; left: 7px; }
+QMenu::separator { height: 1px; background: @line; margin: 5px 8px; }
+QStatusBar { background: @bar; border-top: 1px solid @line; min-height: 32px; }
+QStatusBar::item { border: 0; }
+QToolTip { background: @panel; color: @text; border: 1px solid @edge; padding: 4px 7px; }
+QLineEdit, QPlainTextEdit, QTextEdit {
+    background: @field; border: 1px solid @edge; border-radius: 6px; padding: 5px 8px; min-height: 22px;
+    selection-background-color: @accent; selection-color: @onAccent; }
+QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus {
+    background: @mark; border: 2px solid @accent; padding: 4px 7px; }
+QLineEdit:read-only { background: @locked; border: 1px solid @line; padding: 5px 8px; }
+QLineEdit:read-only:focus { background: @locked; border: 2px solid @accent; padding: 4px 7px; }
+QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled {
+    background: @locked; border: 1px solid @line; padding: 5px 8px; }
+QAbstractSpinBox QLineEdit, QComboBox QLineEdit { background: transparent; border: 0; padding: 0; min-height: 0; }
+QAbstractItemView QLineEdit { border-radius: 0; padding: 0 6px; min-height: 0; }
+QListView, QTreeView, QTableView, QTextBrowser {
+    background: @field; alternate-background-color: @alternate; border: 1px solid @line; border-radius: 8px;
+    padding: 3px; selection-background-color: @accent; selection-color: @onAccent; outline: 0;
+    gridline-color: @line; }
+QListView:focus, QTreeView:focus, QTableView:focus, QTextBrowser:focus {
+    background: @field; border: 2px solid @accent; padding: 2px; }
+QListView:disabled, QTreeView:disabled, QTableView:disabled { background: @locked; }
+QComboBoxPrivateContainer QListView, QComboBox QListView { border: 0; border-radius: 0; padding: 2px; }
+QHeaderView { background: @head; border: 0; }
+QHeaderView::section { background: @head; border: 0; border-bottom: 1px solid @line; padding: 5px 8px; }
+QTableCornerButton::section { background: @head; border: 0; }
+QToolButton { background: transparent; border: 2px solid transparent; border-radius: 6px; padding: 0 9px; }
+QToolButton[tall="true"] { padding: 0 2px; }
+QToolButton:hover { background: @soft; }
+QToolButton:pressed, QToolButton:checked { background: @pressed; }
+QToolButton:focus { border-color: @accent; }
+QToolButton:disabled { background: transparent; color: @disabledText; }
+QScrollBar:vertical { background: transparent; width: 14px; margin: 2px; }
+QScrollBar:horizontal { background: transparent; height: 14px; margin: 2px; }
+QScrollBar::handle { background: @handle; border-radius: 5px; }
+QScrollBar::handle:vertical { min-height: 36px; }
+QScrollBar::handle:horizontal { min-width: 36px; }
+QScrollBar::handle:hover { background: @edge; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QScrollArea { background: transparent; border: 0; }
+QAbstractScrollArea::corner { background: transparent; border: 0; }
+QSplitter::handle { background: transparent; }
+QProgressBar { background: @locked; border: 1px solid @edge; border-radius: 6px; text-align: center;
+    min-height: 16px; max-height: 18px; }
+QProgressBar::chunk { background: @soft; border-radius: 5px; }
+QLabel[chip="true"] { background: @soft; color: @accent; border-radius: 11px; padding: 2px 13px; min-height: 18px; }
+)"_L1;
+
 double linear(double channel)
 {
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -117,68 +178,9 @@ QPalette Theme::panelPalette(const QColor &fill, const QColor &ink) const
     return palette;
 }
 
-// Text colours are left to the palette wherever they can be: a sheet's text colour makes placeholders half
-// transparent.
 QString Theme::styleSheet() const
 {
-    QString sheet = uR"(
-QMenuBar { background: @bar; padding: 2px 6px; border: 0; }
-QMenuBar::item { background: transparent; padding: 6px 10px; margin: 0 2px; border-radius: 6px; }
-QMenuBar::item:selected { background: @soft; }
-QMenuBar::item:pressed { background: @pressed; }
-QMenu { background: @panel; border: 1px solid @edge; padding: 5px; }
-QMenu::item { padding: 6px 28px 6px 12px; border-radius: 5px; }
-QMenu::item:selected { background: @soft; color: @text; }
-QMenu::item:disabled { color: @disabledText; background: transparent; }
-QMenu::indicator { width: 16px; height: 16px; left: 7px; }
-QMenu::separator { height: 1px; background: @line; margin: 5px 8px; }
-QStatusBar { background: @bar; border-top: 1px solid @line; min-height: 32px; }
-QStatusBar::item { border: 0; }
-QToolTip { background: @panel; color: @text; border: 1px solid @edge; padding: 4px 7px; }
-QLineEdit, QPlainTextEdit, QTextEdit {
-    background: @field; border: 1px solid @edge; border-radius: 6px; padding: 5px 8px; min-height: 22px;
-    selection-background-color: @accent; selection-color: @onAccent; }
-QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus {
-    background: @mark; border: 2px solid @accent; padding: 4px 7px; }
-QLineEdit:read-only { background: @locked; border: 1px solid @line; padding: 5px 8px; }
-QLineEdit:read-only:focus { background: @locked; border: 2px solid @accent; padding: 4px 7px; }
-QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled {
-    background: @locked; border: 1px solid @line; padding: 5px 8px; }
-QAbstractSpinBox QLineEdit, QComboBox QLineEdit { background: transparent; border: 0; padding: 0; min-height: 0; }
-QAbstractItemView QLineEdit { border-radius: 0; padding: 0 6px; min-height: 0; }
-QListView, QTreeView, QTableView, QTextBrowser {
-    background: @field; alternate-background-color: @alternate; border: 1px solid @line; border-radius: 8px;
-    padding: 3px; selection-background-color: @accent; selection-color: @onAccent; outline: 0;
-    gridline-color: @line; }
-QListView:focus, QTreeView:focus, QTableView:focus, QTextBrowser:focus {
-    background: @field; border: 2px solid @accent; padding: 2px; }
-QListView:disabled, QTreeView:disabled, QTableView:disabled { background: @locked; }
-QComboBoxPrivateContainer QListView, QComboBox QListView { border: 0; border-radius: 0; padding: 2px; }
-QHeaderView { background: @head; border: 0; }
-QHeaderView::section { background: @head; border: 0; border-bottom: 1px solid @line; padding: 5px 8px; }
-QTableCornerButton::section { background: @head; border: 0; }
-QToolButton { background: transparent; border: 2px solid transparent; border-radius: 6px; padding: 0 9px; }
-QToolButton[tall="true"] { padding: 0 2px; }
-QToolButton:hover { background: @soft; }
-QToolButton:pressed, QToolButton:checked { background: @pressed; }
-QToolButton:focus { border-color: @accent; }
-QToolButton:disabled { background: transparent; color: @disabledText; }
-QScrollBar:vertical { background: transparent; width: 14px; margin: 2px; }
-QScrollBar:horizontal { background: transparent; height: 14px; margin: 2px; }
-QScrollBar::handle { background: @handle; border-radius: 5px; }
-QScrollBar::handle:vertical { min-height: 36px; }
-QScrollBar::handle:horizontal { min-width: 36px; }
-QScrollBar::handle:hover { background: @edge; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
-QScrollArea { background: transparent; border: 0; }
-QAbstractScrollArea::corner { background: transparent; border: 0; }
-QSplitter::handle { background: transparent; }
-QProgressBar { background: @locked; border: 1px solid @edge; border-radius: 6px; text-align: center;
-    min-height: 16px; max-height: 18px; }
-QProgressBar::chunk { background: @soft; border-radius: 5px; }
-QLabel[chip="true"] { background: @soft; color: @accent; border-radius: 11px; padding: 2px 13px; min-height: 18px; }
-)"_s;
+    QString sheet(sheetTemplate);
     // Half way between line and edge on the field: a handle that is seen and stays quiet beside the words.
     const QColor handle = scheme == Icons::Scheme::Dark ? QColor("#6E675D"_L1) : QColor("#AFA797"_L1);
     const std::initializer_list<std::pair<QLatin1StringView, QColor>> tokens{
