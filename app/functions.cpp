@@ -1,0 +1,50 @@
+#include "app/functions.h"
+
+#include "addressbook/addbkview.h"
+#include "addressbook/addressnews.h"
+#include "shell/form31.h"
+#include "shell/passwordfile.h"
+#include "shell/program.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+template <typename Window>
+QWidget *makeWindow(Program &program)
+{
+    return new Window(program);
+}
+
+std::optional<LiveLine> addressNews(const Program &program, QDate today)
+{
+    return AddressNews::liveLine(program.folder, program.state.dateStyle, today);
+}
+
+std::optional<LiveLine> passwordNews(const Program &program, QDate)
+{
+    switch (PasswordFile(program.folder).state()) {
+    case PasswordFile::State::NotSet:
+        return LiveLine{u"No password is set"_s, LiveLine::Plain, {}};
+    case PasswordFile::State::Damaged:
+        return LiveLine{u"The password file is damaged"_s, LiveLine::Overdue, {}};
+    case PasswordFile::State::Set:
+        break;
+    }
+    int guarded = 0;
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        guarded += program.state.protectedAreas.isProtected(area) ? 1 : 0;
+    if (guarded == 0)
+        return LiveLine{u"Nothing is protected"_s, LiveLine::Plain, {}};
+    const QString text = guarded == 1 ? u"1 area is protected"_s : u"%1 areas are protected"_s.arg(guarded);
+    return LiveLine{text, LiveLine::Plain, {}};
+}
+
+} // namespace
+
+void addFunctions(FunctionCatalogue &functions)
+{
+    functions.add(Function::AddressBook,
+                  {makeWindow<ADDBKVIEW>, addressNews, {u"Addbk1.Fil"_s, u"Addbk2.Fil"_s}, {}});
+    functions.add(Function::PasswordControl, {makeWindow<Form31>, passwordNews, {u"PCtrl1.Fil"_s}, {}});
+}
