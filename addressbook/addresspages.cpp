@@ -17,13 +17,6 @@ QString joined(std::initializer_list<QString> texts, QLatin1StringView separator
     return parts.join(separator);
 }
 
-/// "Ashford, Northland 75944"
-QString townLine(const AddressEntry &entry)
-{
-    const QString region = joined({entry[State], entry[PostalCode]}, " "_L1);
-    return joined({entry[City], region}, ", "_L1);
-}
-
 /// The sheet cut into equal cards, and how large their texts are.
 struct CardGrid {
     int columns;
@@ -76,7 +69,7 @@ QStringList cardTexts(const AddressEntry &entry)
     const auto labelled = [&entry](AddressField field) {
         return entry[field].isEmpty() ? QString() : addressLabel(field) + u' ' + entry[field];
     };
-    QStringList texts{entry[Address1],     entry[Address2],           townLine(entry),
+    QStringList texts{entry[Address1],     entry[Address2],           AddressPages::townLine(entry),
                       labelled(HomePhone), labelled(MobilePhone),     entry[Email],
                       labelled(BirthDate), labelled(AnniversaryDate), labelled(Fax)};
     texts.removeAll(QString());
@@ -170,6 +163,12 @@ Page AddressPages::cards(PerSheet perSheet, const PageSetup &setup, const Source
         return true;
     });
     return page.close(printedOn, style);
+}
+
+QString AddressPages::townLine(const AddressEntry &entry)
+{
+    const QString region = joined({entry[State], entry[PostalCode]}, " "_L1);
+    return joined({entry[City], region}, ", "_L1);
 }
 
 QString AddressPages::clipboardText(const AddressEntry &entry)

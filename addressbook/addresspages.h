@@ -28,6 +28,9 @@ Page worksheet(DateStyle style, QDate printedOn);
 Page cards(PerSheet perSheet, const PageSetup &setup, const Source &entries, const PictureFinder &find,
            DateStyle style, QDate printedOn);
 
+/// "Ashford, Northland 75944": the last line of an address; empty without town, state and postal code.
+QString townLine(const AddressEntry &entry);
+
 /// The entry as lines of label and value, empty ones left out; for the clipboard.
 QString clipboardText(const AddressEntry &entry);
 

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "addressbook/picturefolder.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class ElidedLabel;
+class PictureFrame;
+class QComboBox;
+class QListWidget;
+class QPushButton;
+struct Message;
+struct Program;
+
+/// "Select Family/Friends Picture": drives, folders and picture files, with a preview. It starts in the
+/// folder used last and remembers the one that a picture was taken from.
+class PicturePanel final : public QWidget
+{
+    Q_OBJECT
+public:
+    /// The roots that the drive list offers; the first one is where it falls back to.
+    using Drives = std::function<QStringList()>;
+
+    explicit PicturePanel(Program &program, Drives drives = systemDrives, QWidget *parent = nullptr);
+
+    /// Reads drives and folders anew; `hasPicture`: the entry has one, which may be deleted.
+    void start(bool hasPicture);
+
+    static QStringList systemDrives();
+
+signals:
+    void pictureEntered(const QString &path);
+    void pictureDeleted();
+    void left();
+    /// A quiet line for the status bar.
+    void said(const QString &line);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QWidget *makeLists();
+    QWidget *makePreview();
+    QWidget *makeButtons();
+    void fillDrives();
+    QString startFolder() const;
+    bool showFolder(const QString &path);
+    void chooseDrive(int index);
+    void openFolder(int row);
+    void selectDriveOf(const QString &path);
+    void fallBack(const Message &message);
+    void previewFile();
+    void enterPicture();
+    QString chosenFile() const;
+
+    Program &m_program;
+    PictureFolder m_pictures;
+    Drives m_drives;
+    QString m_folder;
+    QComboBox *m_driveList = nullptr;
+    QListWidget *m_folderList = nullptr;
+    QListWidget *m_fileList = nullptr;
+    ElidedLabel *m_path = nullptr;
+    PictureFrame *m_preview = nullptr;
+    QPushButton *m_enter = nullptr;
+    QPushButton *m_delete = nullptr;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+/// The row of buttons in a panel's foot: rare or dangerous ones at the left with a few quiet words behind
+/// them, the rest at the right. Where they do not fit side by side, the right group takes a second row.
+class ButtonRow final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit ButtonRow(QWidget *parent = nullptr);
+
+    void addLeft(QPushButton *button) { m_left.append(button); }
+    void addRight(QPushButton *button) { m_right.append(button); }
+    /// Quiet words behind the left group; empty takes them away.
+    void setWords(const QString &words);
+    /// Call after buttons were shown, hidden or renamed.
+    void rearrange();
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// Words that have no room in the row and must stand elsewhere; empty when they have, or when there are
+    /// none.
+    void wordsLeftOut(const QString &words);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    int groupWidth(const QVector<QPushButton *> &group) const;
+    bool haveWordsRoom() const;
+    bool fitsOneRow(int width) const;
+    int rowHeight() const;
+    void place(const QVector<QPushButton *> &group, int x, int y) const;
+
+    QVector<QPushButton *> m_left;
+    QVector<QPushButton *> m_right;
+    QLabel *m_words;
+    QString m_text;
+};

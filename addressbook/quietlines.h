@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QString>
+
+/// Lines that the window writes into the status bar or beside a control; reasons of disabled commands among
+/// them.
+namespace AddressLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString nothingSaved()
+{
+    return u"Nothing saved yet"_s;
+}
+
+inline QString onlyLastName()
+{
+    return u"Only Last Name must be filled in"_s;
+}
+
+inline QString saved(const QString &names)
+{
+    return u"Saved: "_s + names;
+}
+
+inline QString deleted(const QString &names)
+{
+    return u"Deleted: "_s + names;
+}
+
+inline QString unsavedChanges()
+{
+    return u"Unsaved changes"_s;
+}
+
+inline QString pictureNotFound(const QString &stored)
+{
+    return u"The picture is not there: "_s + stored;
+}
+
+inline QString lockedDate()
+{
+    return u"Choose Make Modifications to change this date"_s;
+}
+
+// Reasons.
+
+inline QString backupNotThere()
+{
+    return u"Backup is not part of this edition yet"_s;
+}
+
+inline QString chooseNameFirst()
+{
+    return u"Choose a name in the list first"_s;
+}
+
+inline QString onEntryScreenOnly()
+{
+    return u"This is done on the Entry Screen"_s;
+}
+
+inline QString onViewScreenOnly()
+{
+    return u"This is done on the View Screen, with a saved entry"_s;
+}
+
+inline QString alreadyThere()
+{
+    return u"This screen is shown already"_s;
+}
+
+inline QString bookIsEmpty()
+{
+    return u"There is no entry yet"_s;
+}
+
+inline QString choosePictureFirst()
+{
+    return u"Choose a picture in the list of files first"_s;
+}
+
+inline QString noPictureToDelete()
+{
+    return u"The entry has no picture"_s;
+}
+
+inline QString pathNotStorable()
+{
+    return u"The address book cannot keep this path: it is longer than 200 characters, or one of them is not "
+           u"in its "
+           u"character set"_s;
+}
+
+} // namespace AddressLines

@@ -1,0 +1,151 @@
+#include "addressbook/serialmodem.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <array>
+#include <cstdlib>
+#include <fcntl.h>
+#include <termios.h>
+#include <unistd.h>
+
+/// A serial line whose other end the test holds.
+class PseudoLine
+{
+public:
+    PseudoLine()
+        : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    {
+        if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0)
+            qFatal("no pseudo-terminal");
+        m_device = QString::fromLocal8Bit(ptsname(m_master));
+        m_keepOpen = open(ptsname(m_master), O_RDWR | O_NOCTTY);
+    }
+    ~PseudoLine()
+    {
+        close(m_keepOpen);
+        close(m_master);
+    }
+    Q_DISABLE_COPY_MOVE(PseudoLine)
+
+    const QString &device() const { return m_device; }
+    QByteArray received() const
+    {
+        std::array<char, 4096> buffer;
+        const ssize_t length = read(m_master, buffer.data(), buffer.size());
+        return QByteArray(buffer.data(), length > 0 ? length : 0);
+    }
+    termios settings() const
+    {
+        termios line{};
+        tcgetattr(m_keepOpen, &line);
+        return line;
+    }
+
+private:
+    int m_master;
+    int m_keepOpen;
+    QString m_device;
+};
+
+class TestSerialModem : public QObject
+{
+    Q_OBJECT
+private slots:
+    void numbersTheDevices_data();
+    void numbersTheDevices();
+    void sendsBytesAsTheyAre();
+    void opensAgainAfterClosing();
+    void refusesWhatIsNoSerialLine_data();
+    void refusesWhatIsNoSerialLine();
+    void givesUpOnALineThatTakesNothing();
+    void offersThePortsThatAreThere();
+};
+
+void TestSerialModem::numbersTheDevices_data()
+{
+    QTest::addColumn<int>("port");
+    QTest::addColumn<QString>("device");
+    QTest::newRow("first serial port") << 1 << QStringLiteral("/dev/ttyS0");
+    QTest::newRow("last serial port") << 100 << QStringLiteral("/dev/ttyS99");
+    QTest::newRow("first USB modem") << 101 << QStringLiteral("/dev/ttyACM0");
+    QTest::newRow("third USB adapter") << 203 << QStringLiteral("/dev/ttyUSB2");
+    QTest::newRow("no port") << 0 << QString();
+    QTest::newRow("beyond all ports") << 301 << QString();
+}
+
+void TestSerialModem::numbersTheDevices()
+{
+    QFETCH(int, port);
+    QTEST(SerialModem::deviceOf(port), "device");
+}
+
+void TestSerialModem::sendsBytesAsTheyAre()
+{
+    const PseudoLine line;
+    SerialModem modem([&line](int port) { return port == 4 ? line.device() : QString(); });
+    QVERIFY(!modem.open(1));
+    QVERIFY(!modem.write("AT\r"));
+    QVERIFY(modem.open(4));
+    QVERIFY(modem.write("ATDT 555-1234;\r"));
+    QCOMPARE(line.received(), QByteArray("ATDT 555-1234;\r"));
+
+    const termios settings = line.settings();
+    QCOMPARE(cfgetospeed(&settings), speed_t(B9600));
+    QCOMPARE(cfgetispeed(&settings), speed_t(B9600));
+    QCOMPARE(settings.c_cflag & CSIZE, tcflag_t(CS8));
+    QCOMPARE(settings.c_cflag & (PARENB | CSTOPB), tcflag_t(0));
+}
+
+void TestSerialModem::opensAgainAfterClosing()
+{
+    const PseudoLine line;
+    SerialModem modem([&line](int) { return line.device(); });
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(modem.open(1));
+        QVERIFY(modem.write("ATH\r"));
+        QCOMPARE(line.received(), QByteArray("ATH\r"));
+        modem.close();
+    }
+}
+
+void TestSerialModem::refusesWhatIsNoSerialLine_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::newRow("nothing there") << QStringLiteral("/dev/no-such-line");
+    QTest::newRow("a file") << QStringLiteral(QUILLERY_TEST_DATA "/household/expected.json");
+    QTest::newRow("a folder") << QStringLiteral(QUILLERY_TEST_DATA);
+    QTest::newRow("another device") << QStringLiteral("/dev/null");
+    QTest::newRow("no name") << QString();
+}
+
+void TestSerialModem::refusesWhatIsNoSerialLine()
+{
+    QFETCH(QString, device);
+    SerialModem modem([device](int) { return device; });
+    QVERIFY(!modem.open(1));
+}
+
+void TestSerialModem::givesUpOnALineThatTakesNothing()
+{
+    const PseudoLine line;
+    QElapsedTimer timer;
+    timer.start();
+    {
+        SerialModem modem([&line](int) { return line.device(); });
+        QVERIFY(modem.open(1));
+        QVERIFY(!modem.write(QByteArray(1 << 20, 'x')));
+    }
+    QVERIFY(timer.elapsed() < 10'000);
+}
+
+void TestSerialModem::offersThePortsThatAreThere()
+{
+    const PseudoLine line;
+    const SerialModem modem([&line](int port) { return port == 101 ? line.device() : QString(); });
+    QCOMPARE(modem.ports(), QStringList(QStringLiteral("101: ") + line.device().section(u'/', -1)));
+}
+
+QTEST_GUILESS_MAIN(TestSerialModem)
+#include "tst_serialmodem.moc"
