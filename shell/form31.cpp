@@ -22,7 +22,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int passwordPanelWidth = 360;
+constexpr int passwordPanelWidth = 352;
+constexpr int padding = 24;
+constexpr int scrollBarWidth = 16; // it lies in the padding
 constexpr int otherRows = 4;
 
 /// The functions of this edition in the order of the list.
@@ -43,7 +45,7 @@ WindowTraits passwordControl()
     traits.activity = PasswordMessages::title();
     traits.colors = {SettingsKeys::passwordControlColor, SettingsKeys::passwordControlColor, {}};
     traits.helpContext = HelpContext::PasswordControl;
-    traits.openingSize = {1040, 740};
+    traits.openingSize = {1080, 800};
     return traits;
 }
 
@@ -58,7 +60,7 @@ QScrollArea *makeScrolled(QWidget *content, QWidget *parent)
     // The panel's colour shows through.
     content->setAutoFillBackground(false);
     area->viewport()->setAutoFillBackground(false);
-    area->setMinimumWidth(content->minimumSizeHint().width() + 16);
+    area->setMinimumWidth(content->minimumSizeHint().width() + scrollBarWidth);
     return area;
 }
 
@@ -114,10 +116,11 @@ QWidget *Form31::makePasswordPanel()
 {
     QWidget *panel = makePanel(u"passwordPanel"_s);
     auto *rows = new QVBoxLayout(panel);
-    rows->setContentsMargins(20, 20, 4, 20);
+    // The rim of a focused box needs a little room on the left.
+    rows->setContentsMargins(padding - 4, 20, padding - scrollBarWidth, 20);
     auto *padded = new QWidget(panel);
     auto *inner = new QVBoxLayout(padded);
-    inner->setContentsMargins(4, 0, 20, 0);
+    inner->setContentsMargins(4, 0, scrollBarWidth, 0);
     inner->addWidget(m_pane);
     rows->addWidget(makeScrolled(padded, panel));
     panel->setFixedWidth(passwordPanelWidth);
@@ -128,11 +131,10 @@ QWidget *Form31::makeAreasPanel()
 {
     QWidget *panel = makePanel(u"areasPanel"_s);
     auto *rows = new QVBoxLayout(panel);
-    rows->setContentsMargins(24, 20, 24, 20);
+    rows->setContentsMargins(padding, 20, padding - scrollBarWidth, 20);
     rows->setSpacing(12);
     rows->addWidget(makeTitle(u"Protected areas"_s, panel));
     rows->addWidget(makeScrolled(makeMarks(), panel), 1);
-    rows->addWidget(makeLine(panel));
     rows->addWidget(makeFoot());
     return panel;
 }
@@ -142,10 +144,11 @@ QWidget *Form31::makeMarks()
     auto *marks = new QWidget(this);
     auto *rows = new QVBoxLayout(marks);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(4);
+    rows->setSpacing(0);
     rows->addWidget(makeQuietLabel(u"What is marked opens only with the password."_s, marks));
-    rows->addSpacing(8);
+    rows->addSpacing(12);
     rows->addWidget(makeHeading(u"This program"_s, marks));
+    rows->addSpacing(4);
     const auto makeMark = [this, marks](int area) {
         auto *mark = new QCheckBox(GuardedAreas::name(area), marks);
         m_marks[std::size_t(area)] = named(mark, u"Check1_%1"_s.arg(area));
@@ -154,13 +157,14 @@ QWidget *Form31::makeMarks()
     };
     for (const int area : ownAreas)
         rows->addWidget(makeMark(area));
-    rows->addSpacing(12);
+    rows->addSpacing(16);
     QLabel *others = makeHeading(u"Kept for other editions"_s, marks);
     others->setForegroundRole(ThemeRole::quiet);
     rows->addWidget(others);
+    rows->addSpacing(4);
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(24);
-    grid->setVerticalSpacing(2);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(0);
     grid->setColumnStretch(3, 1);
     for (std::size_t i = 0; i < otherAreas.size(); ++i) {
         QCheckBox *mark = makeMark(otherAreas[i]);
@@ -175,9 +179,13 @@ QWidget *Form31::makeMarks()
 QWidget *Form31::makeFoot()
 {
     auto *foot = new QWidget(this);
-    auto *row = new QHBoxLayout(foot);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto *rows = new QVBoxLayout(foot);
+    rows->setContentsMargins(0, 0, scrollBarWidth, 0);
+    rows->setSpacing(12);
+    auto *row = new QHBoxLayout;
     row->setSpacing(8);
+    rows->addWidget(makeLine(foot));
+    rows->addLayout(row);
     m_unsaved = named(makeQuietLabel(u"Unsaved changes"_s, foot), u"unsavedWords"_s);
     m_saveButton = makeButton(u"Command1"_s, u"&Save"_s, foot, ButtonKind::Main);
     QPushButton *leave = makeButton(u"Command2"_s, u"E&xit"_s, foot);

@@ -65,12 +65,11 @@ void Form32::buildForm(const QString &functionName)
     const Theme &theme = Theme::of(this);
     auto *icon = new QLabel(this);
     icon->setPixmap(Icons::pixmap("password-control"_L1, theme.scheme, iconSize, devicePixelRatioF()));
-    auto *heading = makeHeading(functionName + u" asks for the password"_s, this);
-    heading->setWordWrap(true);
 
     auto *form = new QVBoxLayout;
     form->setSpacing(3);
-    form->addWidget(heading);
+    form->addWidget(makeHeading(functionName, this));
+    form->addWidget(makeQuietLabel(u"Type the password to open this function."_s, this));
     form->addSpacing(12);
     form->addWidget(makeFieldLabel(u"&Password"_s, m_password, this));
     form->addWidget(m_password);
@@ -78,7 +77,7 @@ void Form32::buildForm(const QString &functionName)
     form->addWidget(m_showPassword);
     form->addSpacing(6);
     // Always there, so that nothing moves when something is said.
-    m_refusal->setMinimumHeight(m_refusal->fontMetrics().lineSpacing());
+    m_refusal->setMinimumHeight(m_refusal->fontMetrics().lineSpacing() + 2);
     form->addWidget(m_refusal);
 
     auto *top = new QHBoxLayout;
@@ -96,8 +95,10 @@ void Form32::buildForm(const QString &functionName)
     all->setContentsMargins(24, 24, 24, 20);
     all->setSpacing(12);
     all->addLayout(top);
-    all->addStretch();
+    all->addSpacing(4);
     all->addLayout(buttons);
+    // As high as its content from the start: the line of a refusal has its place.
+    setMinimumHeight(sizeHint().height());
     setFixedWidth(promptWidth);
     m_password->setFocus();
 }

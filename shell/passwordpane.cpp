@@ -46,8 +46,8 @@ PasswordPane::PasswordPane(const PasswordFile &file, std::chrono::milliseconds s
     , m_chip(makeChip(u"passwordState"_s, {}, this))
     , m_summary(makeWrapped(named(makeQuietLabel({}, this), u"passwordSummary"_s)))
     , m_set(makeButton(u"setPassword"_s, u"Se&t Password"_s, this))
-    , m_change(makeButton(u"changePassword"_s, u"&Change Password"_s, this))
-    , m_remove(makeButton(u"removePassword"_s, u"&Remove Password"_s, this))
+    , m_change(makeButton(u"changePassword"_s, u"&Change"_s, this))
+    , m_remove(makeButton(u"removePassword"_s, u"&Remove"_s, this))
     , m_heading(nullptr)
     , m_form(makeForm())
 {
@@ -56,6 +56,8 @@ PasswordPane::PasswordPane(const PasswordFile &file, std::chrono::milliseconds s
     title->addWidget(makeTitle(u"Password"_s, this));
     title->addWidget(m_chip);
     title->addStretch();
+    m_change->setAccessibleName(u"Change Password"_s);
+    m_remove->setAccessibleName(u"Remove Password"_s);
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     for (QPushButton *button : {m_set, m_change, m_remove})
