@@ -106,7 +106,7 @@ QWidget *HelpViewer::makePagePanel()
 {
     QWidget *panel = makePanel(u"pagePanel"_s);
     auto *rows = new QVBoxLayout(panel);
-    rows->setContentsMargins(12, 12, 12, 12);
+    rows->setContentsMargins(4, 4, 4, 4);
     m_browser = named(new ManualBrowser(m_manual, panel), u"manualPage"_s);
     m_browser->setAccessibleName(u"Page of the manual"_s);
     rows->addWidget(m_browser);

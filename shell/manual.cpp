@@ -107,10 +107,10 @@ QString Manual::plainText(QString html)
 {
     static const QRegularExpression head(u"<head>.*</head>"_s,
                                          QRegularExpression::DotMatchesEverythingOption);
-    // Marks within a line are nothing, those between lines are blanks.
+    // A heading leads its paragraph. Marks within a line are nothing, those between lines are blanks.
     static const QRegularExpression inlineMark(u"</?(a|b|i)\\b[^>]*>"_s);
     static const QRegularExpression mark(u"<[^>]*>"_s);
-    html.remove(head).remove(inlineMark).replace(mark, u" "_s);
+    html.remove(head).replace("</h2>"_L1, ": "_L1).remove(inlineMark).replace(mark, u" "_s);
     html.replace("&lt;"_L1, "<"_L1).replace("&gt;"_L1, ">"_L1).replace("&quot;"_L1, "\""_L1);
     return html.replace("&amp;"_L1, "&"_L1).simplified();
 }

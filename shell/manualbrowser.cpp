@@ -34,6 +34,10 @@ ManualBrowser::ManualBrowser(const Manual &manual, QWidget *parent)
     , m_manual(manual)
 {
     setOpenExternalLinks(false);
+    const Theme &theme = Theme::of(this);
+    setStyleSheet(
+        u"QTextBrowser { background: transparent; border: 2px solid transparent; }"
+        "QTextBrowser:focus { background: transparent; border-color: %1; }"_s.arg(theme.accent.name()));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     dress();
 }
@@ -55,6 +59,7 @@ void ManualBrowser::markWords(const QStringList &words)
     QList<ExtraSelection> marks;
     ExtraSelection mark;
     mark.format.setBackground(Theme::of(this).mark);
+    mark.format.setForeground(Theme::of(this).text);
     for (const QString &word : words) {
         for (mark.cursor = document()->find(word); !mark.cursor.isNull();
              mark.cursor = document()->find(word, mark.cursor))
@@ -75,7 +80,10 @@ QVariant ManualBrowser::loadResource(int type, const QUrl &name)
 {
     if (type != QTextDocument::HtmlResource)
         return {};
-    return m_manual.page(contextOf(name)).html;
+    // Headings come with sizes of their own that no style can take away.
+    QString html = m_manual.page(contextOf(name)).html;
+    html.replace("<h1>"_L1, "<p class=\"title\">"_L1).replace("</h1>"_L1, "</p>"_L1);
+    return html.replace("<h2>"_L1, "<p class=\"heading\">"_L1).replace("</h2>"_L1, "</p>"_L1);
 }
 
 void ManualBrowser::changeEvent(QEvent *event)
@@ -94,16 +102,21 @@ void ManualBrowser::resizeEvent(QResizeEvent *event)
 
 void ManualBrowser::dress()
 {
-    const Theme &theme = Theme::of(this);
+    QPalette ink = palette();
+    if (ink.color(QPalette::Text) != ink.color(QPalette::WindowText)) {
+        ink.setColor(QPalette::Text, ink.color(QPalette::WindowText));
+        setPalette(ink); // comes back here
+        return;
+    }
     const auto points = [](const QFont &font) { return QString::number(font.pointSizeF()); };
     document()->setDefaultFont(TypeScale::body());
     document()->setDocumentMargin(0);
     document()->setDefaultStyleSheet(
-        u"h1 { font-size: %1pt; font-weight: 600; margin-top: 6px; margin-bottom: 10px; }"
-        "h2 { font-size: %2pt; font-weight: 600; margin-top: 20px; margin-bottom: 4px; }"
-        "p, li { line-height: 135%; margin-top: 0; margin-bottom: 6px; }"
+        u"p, li { line-height: 135%; margin-top: 0; margin-bottom: 6px; }"
+        ".title { font-size: %1pt; font-weight: 600; line-height: 100%; margin-bottom: 10px; }"
+        ".heading { font-size: %2pt; font-weight: 600; line-height: 100%; margin-top: 18px; }"
         "a { color: %3; }"_s.arg(points(TypeScale::windowTitle()), points(TypeScale::group()),
-                                 theme.accent.name()));
+                                 ink.color(ThemeRole::strong).name()));
     if (!source().isEmpty())
         reload();
 }

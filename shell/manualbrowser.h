@@ -4,7 +4,8 @@
 
 class Manual;
 
-/// Shows the manual's pages in the program's type and colours; a page's address is its context.
+/// Shows the manual's pages in the program's type and the colours of the panel that it lies on; a page's
+/// address is its context.
 class ManualBrowser final : public QTextBrowser
 {
     Q_OBJECT

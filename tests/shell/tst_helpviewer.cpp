@@ -88,13 +88,14 @@ void TestHelpViewer::goesBackAndForward()
 
 void TestHelpViewer::theContentsOpenPages()
 {
-    QCOMPARE(titles().size(), 6);
+    QCOMPARE(titles().first(), u"Program Overview"_s);
     auto *list = control<QListWidget>(*m_window, "contents");
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Down);
     QCOMPARE(m_window->currentContext(), HelpContext::AddressBook);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(5)).center());
-    QCOMPARE(m_window->currentContext(), HelpContext::BackupAndRestore);
+    const int last = list->count() - 1;
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(last)).center());
+    QVERIFY(shownText().startsWith(titles().last()));
 }
 
 void TestHelpViewer::aSearchOpensTheFirstHit()
@@ -126,8 +127,9 @@ void TestHelpViewer::escClearsTheSearchBeforeItLeaves()
     auto *box = control<QLineEdit>(*m_window, "search");
     box->setFocus();
     QTest::keyClicks(box, u"stick"_s);
+    QCOMPARE(titles().size(), 1);
     QTest::keyClick(box, Qt::Key_Escape);
-    QCOMPARE(titles().size(), 6);
+    QVERIFY(titles().size() > 1);
     QVERIFY(m_window->isVisible());
     QTest::keyClick(box, Qt::Key_Escape);
     QVERIFY(!m_window->isVisible());
