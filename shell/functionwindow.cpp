@@ -110,6 +110,8 @@ PreviewPane &FunctionWindow::preview()
         m_preview = new PreviewPane(m_program, *m_activity, m_stack);
         m_preview->setDeskColor(m_colors->panelColor());
         m_stack->addWidget(m_preview);
+        for (QWidget *panel : m_preview->panels())
+            m_colors->addPanel(panel);
         connect(m_preview, &PreviewPane::closed, this, &FunctionWindow::closePreview);
     }
     return *m_preview;

@@ -77,7 +77,7 @@ struct Row {
     bool operator==(const Row &) const = default;
 };
 
-/// A label with a line to be filled in by hand behind it.
+/// A label with a line to be filled in by hand behind it; without a label the line takes the whole width.
 struct Blank {
     QString label;
     bool operator==(const Blank &) const = default;

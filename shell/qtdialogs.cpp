@@ -92,7 +92,9 @@ std::optional<QString> QtDialogs::chooseFolder(QWidget *parent, const QString &t
 bool QtDialogs::choosePrinter(QWidget *parent, QPrinter &printer)
 {
     const AroundModalBox around(parent);
-    return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
+    QPrintDialog dialog(&printer, parent);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 bool QtDialogs::hasPrinter() const

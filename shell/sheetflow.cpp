@@ -157,7 +157,7 @@ bool SheetFlow::place(const PageItem::Blank &blank)
         return false;
     m_rowAbove = false;
     m_isFresh = false;
-    const double indent = m_layout.blankIndent();
+    const double indent = blank.label.isEmpty() ? 0 : m_layout.blankIndent();
     if (m_painter) {
         const QPointF place(m_body.left(), m_y + height - type.lineHeight());
         type.draw(*m_painter, place, type.elided(blank.label, indent));
