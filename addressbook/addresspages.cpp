@@ -26,6 +26,7 @@ struct CardGrid {
     TextRole role;
     double nameHeight;
     double lineHeight;
+    double pictureShare; ///< of the width of a wide card
 
     QRectF place(int index) const;
 };
@@ -61,6 +62,8 @@ CardGrid gridFor(AddressPages::PerSheet perSheet, const PageSetup &setup)
     grid.role = isSmall ? TextRole::Small : TextRole::Body;
     grid.nameHeight = isSmall ? 0.22 : 0.28;
     grid.lineHeight = isSmall ? 0.19 : 0.21;
+    // Leaves room for a labelled date in a wide font.
+    grid.pictureShare = isSmall ? 0.27 : 0.36;
     return grid;
 }
 
@@ -99,7 +102,7 @@ void placeCard(Page &page, const CardGrid &grid, const QRectF &place, const Addr
     if (!picture.isEmpty()) {
         QRectF frame = place;
         if (place.width() > 1.15 * place.height()) {
-            frame.setWidth(std::min(0.36 * place.width(), place.height()));
+            frame.setWidth(std::min(grid.pictureShare * place.width(), place.height()));
             rest.setLeft(frame.right() + gap);
         } else {
             const double textHeight = grid.nameHeight + grid.lineHeight * double(texts.size());

@@ -149,7 +149,7 @@ void TestAddressPages::keepsCardsApart()
     const QRectF usable = QRectF({}, setup.sheet()).adjusted(0.49, 1.0, -0.49, -0.9);
     for (qsizetype i = 0; i < places.size(); ++i) {
         QVERIFY(usable.contains(places[i]));
-        QVERIFY(places[i].width() > 1.5 || places[i].height() > 1.2);
+        QVERIFY(places[i].width() > 0.95 || places[i].height() > 1.2);
         for (qsizetype j = i + 1; j < places.size(); ++j)
             QVERIFY(!places[i].adjusted(0.001, 0.001, -0.001, -0.001).intersects(places[j]));
     }
