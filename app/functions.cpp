@@ -1,7 +1,11 @@
 #include "app/functions.h"
 
+#include "addressbook/addbkdisplay.h"
 #include "addressbook/addbkview.h"
 #include "addressbook/addressnews.h"
+#include "planner/dayrecord.h"
+#include "planner/plannernews.h"
+#include "planner/zcalandar1.h"
 #include "shell/form31.h"
 #include "shell/passwordfile.h"
 #include "shell/program.h"
@@ -19,6 +23,16 @@ QWidget *makeWindow(Program &program)
 std::optional<LiveLine> addressNews(const Program &program, QDate today)
 {
     return AddressNews::liveLine(program.folder, program.state.dateStyle, today);
+}
+
+QList<DayNote> addressNotes(const Program &program, QDate from, QDate to)
+{
+    return AddressNews::dayNotes(program.folder, program.state.dateStyle, from, to);
+}
+
+std::optional<LiveLine> plannerNews(const Program &program, QDate)
+{
+    return PlannerNews::liveLine(program.folder, program.clock.now());
 }
 
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
@@ -42,9 +56,12 @@ std::optional<LiveLine> passwordNews(const Program &program, QDate)
 
 } // namespace
 
-void addFunctions(FunctionCatalogue &functions)
+void addFunctions(FunctionCatalogue &functions, const Clock &clock)
 {
-    functions.add(Function::AddressBook,
-                  {makeWindow<ADDBKVIEW>, addressNews, {u"Addbk1.Fil"_s, u"Addbk2.Fil"_s}, {}});
-    functions.add(Function::PasswordControl, {makeWindow<Form31>, passwordNews, {u"PCtrl1.Fil"_s}, {}});
+    const QStringList addressFiles{u"Addbk1.Fil"_s, u"Addbk2.Fil"_s};
+    functions.add(Function::AddressBook, {makeWindow<ADDBKVIEW>, addressNews, addressFiles, addressNotes, false});
+    functions.add(Function::AddressViewer, {makeWindow<ADDBKDISPLAY>, {}, {}, {}, false});
+    const QString yearFile = DayRecord::yearFileName(clock.today().year());
+    functions.add(Function::Planner, {makeWindow<Zcalandar1>, plannerNews, {yearFile}, {}, true});
+    functions.add(Function::PasswordControl, {makeWindow<Form31>, passwordNews, {u"PCtrl1.Fil"_s}, {}, false});
 }

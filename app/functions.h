@@ -1,6 +1,8 @@
 #pragma once
 
+class Clock;
 class FunctionCatalogue;
 
-/// Puts every function that is built into this program into its catalogue.
-void addFunctions(FunctionCatalogue &functions);
+/// Puts every function that is built into this program into its catalogue; `clock` says which year the files of today
+/// belong to.
+void addFunctions(FunctionCatalogue &functions, const Clock &clock);

@@ -59,7 +59,7 @@ int run(QApplication &application, const DataFolder &programFolder, const DataFo
     AccessGate gate(showPasswordPrompt);
     ProgramSignals changes;
     Program program{folder, programFolder, settings, state, clock, dialogs, functions, gate, store, changes};
-    addFunctions(functions);
+    addFunctions(functions, clock);
 
     Theme::apply(application);
     Splash1 splash(program);

@@ -5,9 +5,17 @@
 
 #include <QAction>
 #include <QScopedValueRollback>
+#include <QScreen>
+#include <QTimer>
 #include <QWidget>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int settlingMilliseconds = 100;
+
+} // namespace
 
 DisplayMode::DisplayMode(Program &program, QWidget *window, QAction *fullScreen, QAction *smallerScreen)
     : QObject(window)
@@ -25,8 +33,8 @@ void DisplayMode::load()
     const QScopedValueRollback switching(m_switching, true);
     const bool smaller = m_program.settings.text(SettingsKeys::smallerScreen) == "Yes"_L1;
     setMode(smaller ? ScreenMode::Smaller : ScreenMode::FullScreen);
-    // The size comes first: it is what a maximised window is restored to by hand.
-    m_window->resize(rememberedSize());
+    // A desktop without a window manager maximises nothing: the size fills the screen in any case.
+    m_window->resize(smaller ? rememberedSize() : m_window->screen()->availableSize());
     m_window->setWindowState(smaller ? Qt::WindowNoState : Qt::WindowMaximized);
 }
 
@@ -69,8 +77,15 @@ void DisplayMode::windowStateChanged(Qt::WindowStates before)
     const bool restored = before.testFlag(Qt::WindowMaximized) && !now.testFlag(Qt::WindowMaximized);
     if (m_switching || !restored || now.testFlag(Qt::WindowMinimized))
         return;
-    if (m_program.settings.text(SettingsKeys::smallerScreen) != "Yes"_L1)
-        write(ScreenMode::Smaller);
+    if (m_program.settings.text(SettingsKeys::smallerScreen) == "Yes"_L1)
+        return;
+    write(ScreenMode::Smaller);
+    // A window that was never smaller is restored to the whole screen: give it its remembered size, but only
+    // when the window manager has done its part.
+    QTimer::singleShot(settlingMilliseconds, m_window, [this] {
+        if (m_window->width() >= m_window->screen()->availableSize().width())
+            m_window->resize(rememberedSize());
+    });
 }
 
 void DisplayMode::save()

@@ -294,8 +294,9 @@ void FlowToolBar::actionEvent(QActionEvent *event)
         }
     } else if (QWidget *item = m_items.value(action)) {
         item->setVisible(action->isVisible());
+        // The button hears of the change after its bar and takes the action's own word then.
         if (QToolButton *button = m_buttons.value(action))
-            dress(*button);
+            QMetaObject::invokeMethod(button, [this, button] { dress(*button); }, Qt::QueuedConnection);
     }
     updateGeometry();
 }

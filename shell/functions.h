@@ -43,6 +43,8 @@ struct FunctionEntry {
     /// What the function has for the dates `from` to `to`, in date order; empty for a function without any.
     /// It is not asked while the function is guarded.
     std::function<QList<DayNote>(const Program &, QDate from, QDate to)> dayNotes;
+    /// Whether the news change in the course of a day without any file having changed.
+    bool followsClock = false;
 };
 
 /// The functions that are built into this program. A function that is not in it yet stands disabled on the

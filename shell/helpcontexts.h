@@ -7,6 +7,7 @@ inline constexpr int AddressBook = 1001;
 inline constexpr int PasswordControl = 1002;
 inline constexpr int Appearance = 1003;
 inline constexpr int PagePreview = 1004;
+inline constexpr int Planner = 1005;
 inline constexpr int AddressViewer = 1006;
 inline constexpr int BackupAndRestore = 1009;
 } // namespace HelpContext

@@ -10,15 +10,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int morning = 5; // hours
-constexpr int afternoon = 12;
+constexpr int afternoon = 12; // hours
 constexpr int evening = 18;
 
 QString greeting(int hour)
 {
-    if (hour >= morning && hour < afternoon)
+    if (hour < afternoon)
         return u"Good morning."_s;
-    return hour >= afternoon && hour < evening ? u"Good afternoon."_s : u"Good evening."_s;
+    return hour < evening ? u"Good afternoon."_s : u"Good evening."_s;
 }
 
 QString wish(QDate today)
@@ -51,7 +50,9 @@ MenuNews::Reading MenuNews::readingOf(const FunctionFace &face, const FunctionEn
 {
     const ProgramState &state = m_program.state;
     const bool guarded = face.area != Area::None && state.protectedAreas.isProtected(face.area);
-    Reading reading{{}, m_program.clock.today(), state.dateStyle, guarded};
+    const QDateTime now = m_program.clock.now();
+    const int minute = entry.followsClock ? now.time().hour() * 60 + now.time().minute() : 0;
+    Reading reading{{}, now.date(), minute, state.dateStyle, guarded};
     for (const QString &name : entry.liveFiles) {
         const QFileInfo file(m_program.folder.filePath(name));
         reading.files.append({file.filePath(), file.lastModified(), file.size()});

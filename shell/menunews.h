@@ -46,6 +46,7 @@ private:
     struct Reading {
         QList<FileState> files;
         QDate day;
+        int minute; ///< of the day, for news that go on with the clock; else 0
         DateStyle style;
         bool guarded;
         bool operator==(const Reading &) const = default;

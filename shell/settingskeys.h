@@ -34,12 +34,18 @@ inline constexpr TextSetting weightTopToolbar{colorFile1, 81};
 /// The serial port of the modem; 0 or empty means 1.
 inline constexpr NumberSetting modemPort{colorFile1, 25};
 
+/// Where the planner puts entries without AM or PM: the index of its option button, 0 when empty.
+inline constexpr NumberSetting plannerPlacement{colorFile3, 58};
+
 inline constexpr TextSetting mainMenuColor{colorFile1, 49};
 inline constexpr TextSetting addressEntryColor{colorFile3, 11};
 inline constexpr TextSetting passwordControlColor{colorFile3, 104};
 // Records that no older window uses: 201 upwards.
 inline constexpr TextSetting addressEntryTextColor{colorFile3, 201};
 inline constexpr TextSetting helpColor{colorFile3, 202};
+inline constexpr TextSetting plannerColor{colorFile3, 203};
+inline constexpr TextSetting addressViewerColor{colorFile3, 204};
+inline constexpr TextSetting addressPicturesColor{colorFile3, 205};
 
 /// The records that a program-wide colour update gives one value to, file by file.
 inline constexpr std::array<int, 18> programColors1{10, 11, 12, 13, 16, 17, 18, 22, 27,
@@ -50,5 +56,8 @@ inline constexpr std::array<int, 10> programColors3{8, 17, 91, 92, 100, 101, 102
 /// The program-wide record that a window falls back to when its own is empty or "Default".
 inline constexpr TextSetting addressEntryProgramColor{colorFile1, 10};
 inline constexpr TextSetting helpProgramColor{colorFile1, 80};
+inline constexpr TextSetting plannerProgramColor{colorFile1, 11};
+inline constexpr TextSetting addressViewerProgramColor{colorFile1, 12};
+inline constexpr TextSetting addressPicturesProgramColor{colorFile1, 13};
 
 } // namespace SettingsKeys

@@ -254,18 +254,22 @@ bool SheetFlow::place(const PageItem::Break &)
     return false;
 }
 
+double SheetFlow::closingHeight() const
+{
+    return ruleGap + 2 * types().foot.lineHeight();
+}
+
 bool SheetFlow::placeClosing()
 {
     const PageType &type = types().foot;
-    const double lines = 2 * type.lineHeight();
     leaveColumns();
     const double top = std::max(m_y, m_lowestPlaced);
     // Placed items may reach below the margin; a quarter of an inch every printer can print on.
     const double lowest = m_layout.sheet().height() - (m_lowestPlaced > 0 ? margin / 2 : margin);
     double gap = types().body.lineHeight();
-    if (top + gap + ruleGap + lines > m_bottom)
+    if (top + gap + closingHeight() > m_bottom)
         gap = 0;
-    if (!m_isFresh && top + gap + ruleGap + lines > lowest)
+    if (!m_isFresh && top + gap + closingHeight() > lowest)
         return false;
     m_y = top + gap;
     drawRule(m_y + ruleGap / 2, thin, ruleColor);

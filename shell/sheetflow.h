@@ -62,6 +62,9 @@ private:
     bool nextColumn();
     /// Goes on below a table that runs down several columns.
     void leaveColumns();
+    double closingReserve() const;
+    /// Of the closing lines with the rule above them.
+    double closingHeight() const;
     QRectF columnBody() const;
     void drawGrid(double top) const;
     void drawRule(double y, double thickness, const QColor &color, double indent = 0) const;

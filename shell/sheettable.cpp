@@ -77,6 +77,14 @@ void SheetFlow::leaveColumns()
     m_columnBottom = 0;
 }
 
+/// Rows that run down several columns fill the first to the foot even on the last sheet, so room for the
+/// closing lines is left on each.
+double SheetFlow::closingReserve() const
+{
+    const bool isNeeded = m_columns && m_columns->across > 1 && m_layout.page().isClosed();
+    return isNeeded ? types().body.lineHeight() + closingHeight() : 0;
+}
+
 std::vector<SheetFlow::Cell> SheetFlow::cellsOf(const QStringList &texts, const PageType &type) const
 {
     std::vector<Cell> cells = m_boxes;
@@ -141,7 +149,7 @@ bool SheetFlow::place(const PageItem::Row &row)
     const PageType &type = types().of(row.role);
     std::vector<Cell> cells = cellsOf(row.cells, type);
     std::vector<Cell> headings = headingCells();
-    const double height = rowGap + double(lineCount(cells)) * type.lineHeight();
+    const double height = rowGap + double(lineCount(cells)) * type.lineHeight() + closingReserve();
     if (!m_isFresh && m_at.line == 0 && room() < headingHeight(headings) + height) {
         if (!nextColumn())
             return false;

@@ -236,6 +236,7 @@ void TestStartfrm::followsUnmaximisingByHand()
     QCOMPARE(start.test.state.screenMode, ScreenMode::Smaller);
     QVERIFY(control<QAction>(window, "mOPS")->isChecked());
     QVERIFY(!control<QAction>(window, "mOPF")->isChecked());
+    QTRY_COMPARE(window.size(), QSize(800, 600));
 }
 
 void TestStartfrm::opensAtTheSmallestSizeForAnEmptySize()

@@ -96,8 +96,8 @@ void TestStartModels::composesTheSentence_data()
                                  << u"Good afternoon. Have a pleasant Saturday."_s;
     QTest::newRow("the first among equals") << QTime(18, 0) << Lines{quiet, plain, other}
                                             << u"Good evening. Anne Lind has a birthday on Tuesday."_s;
-    QTest::newRow("the most urgent") << QTime(4, 59) << Lines{plain, due}
-                                     << u"Good evening. An oil change is due."_s;
+    QTest::newRow("the most urgent") << QTime(11, 59) << Lines{plain, due}
+                                     << u"Good morning. An oil change is due."_s;
 }
 
 void TestStartModels::composesTheSentence()

@@ -1,0 +1,64 @@
+#include "app/functions.h"
+#include "shell/passwordfile.h"
+#include "tests/support/testprogram.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestFunctions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void opensTheWindowsThatAreBuiltIn();
+    void tellsTheNewsOfTheHousehold();
+    void tellsWhatThePasswordGuards();
+};
+
+void TestFunctions::opensTheWindowsThatAreBuiltIn()
+{
+    TestProgram test(TestProgram::Household);
+    addFunctions(test.functions, test.clock);
+    const auto nameOf = [&](Function function) {
+        const QWidget *window = test.functions.open(function, test.program);
+        return window ? window->objectName() : QString();
+    };
+    QCOMPARE(nameOf(Function::AddressBook), u"ADDBKVIEW"_s);
+    QCOMPARE(nameOf(Function::PasswordControl), u"Form31"_s);
+    for (QWidget *window : test.functions.openWindows())
+        QVERIFY(window->close());
+}
+
+void TestFunctions::tellsTheNewsOfTheHousehold()
+{
+    TestProgram test(TestProgram::Household);
+    addFunctions(test.functions, test.clock);
+    const FunctionEntry *entry = test.functions.entry(Function::AddressBook);
+    // Josephine Moreau was born on 28 February.
+    const auto line = entry->liveLine(test.program, QDate(2027, 2, 28));
+    QVERIFY(line.has_value());
+    QVERIFY2(line->sentence.contains(u"Josephine Moreau"_s), qPrintable(line->sentence));
+    for (const QString &name : entry->liveFiles)
+        QVERIFY(test.folder.exists(name));
+}
+
+void TestFunctions::tellsWhatThePasswordGuards()
+{
+    TestProgram test;
+    addFunctions(test.functions, test.clock);
+    const auto line = [&] {
+        return test.functions.entry(Function::PasswordControl)->liveLine(test.program, {})->text;
+    };
+    QCOMPARE(line(), u"No password is set"_s);
+    const PasswordFile file(test.folder, PasswordCost::minimum());
+    QVERIFY(file.setPassword(u"Klavier"_s));
+    QCOMPARE(line(), u"Nothing is protected"_s);
+    test.state.protectedAreas.setFlag(0, u"YES"_s);
+    QCOMPARE(line(), u"1 area is protected"_s);
+    test.state.protectedAreas.setFlag(20, u"YES"_s);
+    QCOMPARE(line(), u"2 areas are protected"_s);
+    test.setBytes(u"PCtrl1.Fil"_s, "noise");
+    QCOMPARE(line(), u"The password file is damaged"_s);
+}
+
+QTEST_MAIN(TestFunctions)
+#include "tst_functions.moc"

@@ -1,0 +1,134 @@
+#include "sheettools.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace SheetTools;
+
+namespace {
+
+PageItem::Columns names(int across, TableLines lines = TableLines::Rows)
+{
+    PageItem::Columns columns;
+    columns.weights = {1, 1};
+    columns.headings = {u"Name"_s, u"State"_s};
+    columns.lines = lines;
+    columns.across = across;
+    return columns;
+}
+
+Page list(int rows, const PageItem::Columns &columns)
+{
+    Page page(u"Family List - Page No. "_s, u"As of today"_s);
+    page.numberSheets(SheetNumbers::Title).table(columns);
+    for (int i = 0; i < rows; ++i)
+        page.row({u"Row %1"_s.arg(i), u"WI"_s});
+    return page.close(QDate(2026, 11, 21), DateStyle::Usa);
+}
+
+QStringList sheetsOf(const PagePainter &painter)
+{
+    QStringList sheets;
+    for (int i = 0; i < painter.sheetCount(); ++i)
+        sheets << painter.text(i);
+    return sheets;
+}
+
+} // namespace
+
+/// Tables that run down several columns, and numbers of sheets.
+class TestSheetTable final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void runsDownSeveralColumns_data();
+    void runsDownSeveralColumns();
+    void goesOnBelowItsColumns();
+    void numbersSheetsInTheTitle();
+    void leavesSheetsUnnumbered();
+    void drawsLinesAsAsked();
+};
+
+void TestSheetTable::runsDownSeveralColumns_data()
+{
+    QTest::addColumn<int>("across");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("sheets");
+    QTest::newRow("one") << 1 << 60 << 2;
+    QTest::newRow("two") << 2 << 60 << 1;
+    QTest::newRow("two over two sheets") << 2 << 100 << 2;
+    QTest::newRow("three") << 3 << 90 << 1;
+    QTest::newRow("nonsense") << -5 << 60 << 2;
+    QTest::newRow("more than fit") << 1000 << 60 << 1;
+}
+
+void TestSheetTable::runsDownSeveralColumns()
+{
+    QFETCH(int, across);
+    QFETCH(int, rows);
+    const PagePainter painter(list(rows, names(across)), {}, bodyFont());
+    QTEST(painter.sheetCount(), "sheets");
+    int next = 0;
+    for (const QString &sheet : sheetsOf(painter)) {
+        static const QRegularExpression row(u"Row (\\d+)\\tWI"_s);
+        for (auto it = row.globalMatch(sheet); it.hasNext();)
+            QCOMPARE(it.next().captured(1).toInt(), next++);
+    }
+    QCOMPARE(next, rows);
+}
+
+void TestSheetTable::goesOnBelowItsColumns()
+{
+    Page page(u"T"_s);
+    page.table(names(2));
+    for (int i = 0; i < 50; ++i)
+        page.row({u"Row %1"_s.arg(i), u"WI"_s});
+    page.close(QDate(2026, 11, 21), DateStyle::Usa);
+    const PagePainter painter(page, {}, bodyFont());
+    QCOMPARE(painter.sheetCount(), 1);
+    // The first column reaches further down than the second: the closing lines stay clear of it.
+    QVERIFY(painter.text(0).endsWith(u"Quillery\nPrinted on 11/21/2026"_s));
+    const QImage image = painter.image(0, 72);
+    const QRectF foot = inkOf(image, qRgb(0x5A, 0x5A, 0x5A), 72);
+    QVERIFY(foot.isNull() || foot.top() > 9);
+}
+
+void TestSheetTable::numbersSheetsInTheTitle()
+{
+    const PagePainter painter(list(60, names(1)), {}, bodyFont());
+    QVERIFY(painter.text(0).contains(u"Family List - Page No. 1\tAs of today"_s));
+    QVERIFY(painter.text(1).contains(u"Family List - Page No. 2\tAs of today"_s));
+}
+
+void TestSheetTable::leavesSheetsUnnumbered()
+{
+    Page page;
+    page.numberSheets(SheetNumbers::None);
+    page.placeText({1, 1, 2, 1}, u"one"_s).breakPage().placeText({1, 1, 2, 1}, u"two"_s);
+    const PagePainter painter(page, {}, bodyFont());
+    QCOMPARE(painter.sheetCount(), 2);
+    QVERIFY(isBlank(painter.image(0, 72), {0, 9, 8.5, 2}, 72));
+    page.numberSheets(SheetNumbers::Foot);
+    QVERIFY(!isBlank(PagePainter(page, {}, bodyFont()).image(0, 72), {0, 9, 8.5, 2}, 72));
+}
+
+void TestSheetTable::drawsLinesAsAsked()
+{
+    constexpr double dots = 144;
+    const auto below = [](TableLines lines) { // the rows, without title and headings
+        return PagePainter(list(8, names(1, lines)), {}, bodyFont())
+            .image(0, dots)
+            .copy(QRect(0, 190, 1224, 300));
+    };
+    const QRgb row = qRgb(0xDD, 0xDD, 0xDD), grid = qRgb(0xB0, 0xB0, 0xB0);
+    QVERIFY(inkOf(below(TableLines::Rows), row, dots).width() > 7);
+    // The edges of letters have such colours too, but none stands that far out.
+    QVERIFY(inkOf(below(TableLines::Rows), grid, dots).width() < 6);
+    QVERIFY(inkOf(below(TableLines::None), row, dots).width() < 6);
+    const QRectF lines = inkOf(below(TableLines::Grid), grid, dots);
+    QVERIFY(std::abs(lines.width() - 7.5) < 0.05 && lines.height() > 1.5);
+}
+
+QTEST_MAIN(TestSheetTable)
+#include "tst_sheettable.moc"
