@@ -1,0 +1,215 @@
+#include "addressbook/addbkdisplay.h"
+
+#include "addressbook/addbkdisplay2.h"
+#include "addressbook/addressgrid.h"
+#include "addressbook/buttonrow.h"
+#include "addressbook/gridview.h"
+#include "addressbook/labelpanel.h"
+#include "addressbook/listoptionspanel.h"
+#include "addressbook/picturecopies.h"
+#include "addressbook/viewerchoices.h"
+#include "addressbook/viewerlines.h"
+#include "addressbook/viewermessages.h"
+#include "addressbook/viewerpages.h"
+#include "shell/activitybar.h"
+#include "shell/busycursor.h"
+#include "shell/controls.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QScopedValueRollback>
+#include <QStackedWidget>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A book with more lines than this shows its first rows at once and the others a moment later.
+constexpr int firstRows = 200;
+/// Search texts beyond this many characters are cut in the display mode's button.
+constexpr int shownSearchText = 24;
+
+QString shortened(const QString &text)
+{
+    return text.size() <= shownSearchText ? text : text.left(shownSearchText - 1) + u'\u2026';
+}
+
+} // namespace
+
+/// The rows of `range` with the chosen information; of a long book the first rows are painted before the rest
+/// is read.
+void ADDBKDISPLAY::load(const DisplayRange &range)
+{
+    m_isLoaded = !m_rows->viewer().isLongerThan(firstRows);
+    showAll(range, m_isLoaded ? AddressViewer::allRows : firstRows);
+    if (m_isLoaded || !isVisible())
+        return;
+    m_grid->viewport()->repaint();
+    loadRest();
+}
+
+void ADDBKDISPLAY::loadRest()
+{
+    if (std::exchange(m_isLoaded, true))
+        return;
+    const BusyCursor busy;
+    const QScopedValueRollback<bool> rest(m_isLoadingRest, true);
+    showAll(m_rows->viewer().range(), AddressViewer::allRows);
+}
+
+void ADDBKDISPLAY::showAll(const DisplayRange &range, int mostRows)
+{
+    m_rows->load(m_choices->information(), range, mostRows);
+}
+
+void ADDBKDISPLAY::keepPlace()
+{
+    m_isFollowing = true;
+    if (m_isLoadingRest)
+        return;
+    m_kept = m_rows->identity(currentRow());
+    m_keptColumn = std::max(0, m_grid->currentIndex().column());
+}
+
+/// After other rows came into the grid: the same entry is current, or the first where it is gone.
+void ADDBKDISPLAY::followRows()
+{
+    const int row = std::max(0, m_rows->rowOf(m_kept));
+    m_grid->setCurrentIndex(m_rows->index(row, std::min(m_keptColumn, m_rows->columnCount() - 1)));
+    m_grid->scrollTo(m_grid->currentIndex());
+    m_grid->clearSpans();
+    if (m_rows->isEmpty() && m_rows->columnCount() > 1)
+        m_grid->setSpan(0, 0, 1, m_rows->columnCount());
+    if (m_rows->columnCount() > 1)
+        m_grid->horizontalHeader()->resizeSection(0, m_nameColumn);
+    m_isFollowing = false;
+    refresh();
+}
+
+void ADDBKDISPLAY::chooseInformation()
+{
+    activity().say({});
+    load(m_rows->viewer().range());
+}
+
+void ADDBKDISPLAY::updateDisplay()
+{
+    const DisplayRange::Kind kind = m_choices->rangeKind();
+    const DisplayRange range{kind, m_choices->month(kind)};
+    if (kind != DisplayRange::All && range.month == 0) {
+        ask(kind == DisplayRange::BirthMonth ? ViewerMessages::birthdayMonthMissing()
+                                             : ViewerMessages::anniversaryMonthMissing());
+        m_choices->focusMonth(kind);
+        return;
+    }
+    load(range);
+    const QString month = QLocale::c().standaloneMonthName(range.month);
+    activity().say(kind == DisplayRange::All
+                       ? QString()
+                       : ViewerLines::rangeShown(kind == DisplayRange::BirthMonth, month));
+}
+
+void ADDBKDISPLAY::search()
+{
+    if (m_choices->searchText().trimmed().isEmpty()) {
+        ask(ViewerMessages::searchTextMissing());
+        m_choices->focusSearch();
+        return;
+    }
+    narrow(m_choices->searchText());
+    if (!m_rows->isEmpty())
+        m_grid->setFocus();
+}
+
+void ADDBKDISPLAY::narrow(const QString &text)
+{
+    loadRest();
+    m_rows->search(text);
+}
+
+/// From a search back to all names, and from there into the search box.
+void ADDBKDISPLAY::switchDisplayMode()
+{
+    leavePanel();
+    if (m_rows->isSearching())
+        m_choices->clearSearch();
+    m_choices->focusSearch();
+}
+
+void ADDBKDISPLAY::refresh()
+{
+    const AddressViewer &viewer = m_rows->viewer();
+    m_count->setText(m_rows->isSearching() ? ViewerMessages::matchCount(viewer.count())
+                                           : ViewerMessages::nameCount(viewer.count()));
+    QString searchText = shortened(viewer.searchText());
+    searchText.replace(u'&', u"&&"_s);
+    const QString mode = ViewerMessages::displayMode(searchText);
+    m_modeButton->setText(mode);
+    m_modeAction->setText(mode);
+    m_chip->setText(ViewerPages::choice(viewer.information()));
+    refreshCommands();
+}
+
+/// Which commands can be used now; the others say why they cannot.
+void ADDBKDISPLAY::refreshCommands()
+{
+    const Information shown = m_rows->viewer().information();
+    const int row = currentRow();
+    const QString noRows = m_rows->isEmpty() ? ViewerLines::nothingShown() : QString();
+    for (QAction *action : {m_copyAction, m_editCopyAction, m_exportAction, m_printAction, m_labelsAction})
+        setUnavailable(action, noRows);
+
+    const QString noRow = !noRows.isEmpty() ? noRows : row < 0 ? ViewerLines::chooseNameFirst() : QString();
+    setUnavailable(m_removeButton, noRow);
+    for (QAction *action : {m_removeAction, m_editRemoveAction})
+        setUnavailable(action, noRow);
+
+    const bool hasRecord = row >= 0 && m_rows->viewer().record(row) > 0;
+    const QString noEntry = !noRow.isEmpty() || hasRecord ? noRow : ViewerLines::noEntry();
+    setUnavailable(m_openAction, noEntry);
+    setUnavailable(m_openButton, noEntry);
+
+    const bool isTelephone = shown == Information::HomePhone || shown == Information::MobilePhone ||
+                             shown == Information::FaxNumber;
+    setUnavailable(m_dialButton, isTelephone ? noRow : ViewerLines::chooseTelephones());
+    const bool isMail = shown == Information::EmailAddress;
+    const bool hasAddress =
+        row >= 0 && isMail && AddressGrid::isMailAddress(m_rows->viewer().information(row));
+    setUnavailable(m_mailButton, !isMail            ? ViewerLines::chooseMailAddresses()
+                                 : !noRow.isEmpty() ? noRow
+                                 : hasAddress       ? QString()
+                                                    : ViewerLines::noMailAddress());
+    m_buttonRow->rearrange();
+}
+
+int ADDBKDISPLAY::currentRow() const
+{
+    return m_rows->isEmpty() ? -1 : m_grid->currentIndex().row();
+}
+
+void ADDBKDISPLAY::leavePanel()
+{
+    if (m_pages->currentWidget() == m_gridPage)
+        return;
+    m_pages->setCurrentWidget(m_gridPage);
+    m_grid->setFocus();
+}
+
+void ADDBKDISPLAY::keyPressEvent(QKeyEvent *event)
+{
+    const bool isOverGrid = m_pages->currentWidget() != m_gridPage;
+    if (event->key() == Qt::Key_Escape && isOverGrid && !isPreviewShown())
+        leavePanel();
+    else
+        FunctionWindow::keyPressEvent(event);
+}
+
+void ADDBKDISPLAY::resizeEvent(QResizeEvent *event)
+{
+    FunctionWindow::resizeEvent(event);
+    placeSplitter();
+}

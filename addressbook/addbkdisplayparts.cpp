@@ -1,0 +1,315 @@
+// How the viewer is put together.
+
+#include "addressbook/addbkdisplay.h"
+#include "addressbook/addbkdisplay2.h"
+#include "addressbook/addressgrid.h"
+#include "addressbook/buttonrow.h"
+#include "addressbook/gridview.h"
+#include "addressbook/labelpanel.h"
+#include "addressbook/listoptionspanel.h"
+#include "addressbook/picturecopies.h"
+#include "addressbook/quietlines.h"
+#include "addressbook/serialmodem.h"
+#include "addressbook/viewerchoices.h"
+#include "addressbook/viewermessages.h"
+#include "shell/activitybar.h"
+#include "shell/controls.h"
+#include "shell/helpcontexts.h"
+#include "shell/settingskeys.h"
+#include "shell/theme.h"
+
+#include <QDesktopServices>
+#include <QHeaderView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int leftPaneWidth = 272;
+constexpr int narrowLeftPaneWidth = 236;
+/// Windows narrower than this have the narrow left pane.
+constexpr int wideFrom = 1200;
+constexpr int nameColumnWidth = 300;
+constexpr int leastNameColumn = 160;
+
+QString nameColumnKey()
+{
+    return u"Windows/ADDBKDISPLAY/nameColumn"_s;
+}
+
+WindowTraits traits()
+{
+    WindowTraits traits;
+    traits.name = u"ADDBKDISPLAY"_s;
+    traits.caption = ViewerMessages::viewerTitle();
+    traits.activity = u"Data Viewer"_s;
+    traits.colors = {SettingsKeys::addressViewerColor, SettingsKeys::addressViewerProgramColor, {}};
+    traits.helpContext = HelpContext::AddressViewer;
+    return traits;
+}
+
+QMenu *addMenu(QMenuBar *bar, const QString &name, const QString &caption)
+{
+    QMenu *menu = named(bar->addMenu(caption), name);
+    menu->menuAction()->setObjectName(name);
+    menu->setToolTipsVisible(true);
+    return menu;
+}
+
+} // namespace
+
+ADDBKDISPLAY::ADDBKDISPLAY(Program &program, QWidget *parent, Surroundings surroundings)
+    : FunctionWindow(program, traits(), parent)
+    , m_surroundings(std::move(surroundings))
+    , m_rows(new AddressGrid(program.folder, program.state.dateStyle, this))
+    , m_copies(new PictureCopies(program.folder, this))
+{
+    if (!m_surroundings.makeModem)
+        m_surroundings.makeModem = [] { return std::make_unique<SerialModem>(); };
+    if (!m_surroundings.openAddress)
+        m_surroundings.openAddress = &QDesktopServices::openUrl;
+    m_splitter = named(new QSplitter(Qt::Horizontal), u"leftPaneSplitter"_s);
+    m_splitter->addWidget(makeLeftPane());
+    m_splitter->addWidget(makeWorkPanel());
+    m_splitter->setStretchFactor(1, 1);
+    setWork(m_splitter);
+    m_dialler = std::make_unique<Dialler>(program, this, m_dialing, m_surroundings.makeModem);
+    makeMenus();
+    makeToolbar();
+    connectParts();
+    setTabOrders();
+    m_splitter->setSizes({leftPaneWidth, 1000});
+    rememberSplitter(m_splitter);
+    rememberNameColumn();
+    finishFrame();
+    placeSplitter();
+    load({});
+    m_grid->setFocus();
+}
+
+ADDBKDISPLAY::~ADDBKDISPLAY()
+{
+    // The pictures belong to the viewer: without it nothing leads back to them.
+    delete m_pictures;
+}
+
+QWidget *ADDBKDISPLAY::makeLeftPane()
+{
+    m_choices = named(new ViewerChoices, u"choices"_s);
+    auto *scroll = named(new QScrollArea(this), u"choicesScroll"_s);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(m_choices);
+    m_choices->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
+    scroll->setMinimumWidth(narrowLeftPaneWidth);
+    return scroll;
+}
+
+QWidget *ADDBKDISPLAY::makeWorkPanel()
+{
+    QWidget *panel = makePanel(u"Panel3D1"_s);
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(1, 1, 1, 1);
+    m_pages = new QStackedWidget(panel);
+    layout->addWidget(m_pages);
+    m_gridPage = makeGridPage();
+    m_listOptions = named(new ListOptionsPanel, u"listOptions"_s);
+    m_labels = named(new LabelPanel(program(), activity()), u"labels"_s);
+    for (QWidget *page : std::initializer_list<QWidget *>{m_gridPage, m_listOptions, m_labels})
+        m_pages->addWidget(page);
+    return panel;
+}
+
+QWidget *ADDBKDISPLAY::makeGridPage()
+{
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(24, 16, 24, 18);
+    layout->setSpacing(10);
+    m_title = named(new ElidedLabel(page), u"Panel3D2"_s);
+    m_title->setText(ViewerMessages::viewerTitle());
+    m_title->setFont(TypeScale::windowTitle());
+    m_title->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    m_chip = makeChip(u"informationChip"_s, {}, page);
+    m_dialing = named(new QLabel(u"Dialing..."_s, page), u"Label3"_s);
+    m_dialing->setFont(TypeScale::strong());
+    m_dialing->hide();
+    m_modeButton = makeButton(u"displayMode"_s, {}, page);
+    m_modeButton->setToolTip(u"Shows all names again after a search, or leads to the search"_s);
+    auto *head = new QHBoxLayout;
+    head->setSpacing(16);
+    head->addWidget(m_title);
+    head->addWidget(m_chip);
+    head->addStretch(1);
+    head->addWidget(m_dialing);
+    head->addWidget(m_modeButton);
+
+    m_grid = named(new GridView(AddressGrid::LinkRole), u"VSFlexGrid1"_s);
+    m_grid->setAccessibleName(u"Names and information"_s);
+    m_grid->setModel(m_rows);
+    m_count = named(makeQuietLabel({}, page), u"nameCount"_s);
+    m_count->setFont(TypeScale::body());
+    layout->addLayout(head);
+    layout->addWidget(new GridPlace(m_grid, page), 1);
+    layout->addWidget(m_count);
+    layout->addWidget(makeLine(page));
+    layout->addWidget(makeButtonRow(page));
+    return page;
+}
+
+QWidget *ADDBKDISPLAY::makeButtonRow(QWidget *parent)
+{
+    m_buttonRow = new ButtonRow(parent);
+    const auto make = [this](QPushButton *button, void (ADDBKDISPLAY::*command)()) {
+        connect(button, &QPushButton::clicked, this, command);
+        return button;
+    };
+    m_removeButton =
+        make(makeButton(u"removeRow"_s, u"&Delete Row"_s, m_buttonRow), &ADDBKDISPLAY::removeRow);
+    m_dialButton =
+        make(makeIconButton(u"Image2"_s, "dial"_L1, u"Dial Phone Number using computer modem"_s, m_buttonRow),
+             &ADDBKDISPLAY::dial);
+    m_mailButton =
+        make(makeButton(u"writeMail"_s, u"&Write E-mail"_s, m_buttonRow), &ADDBKDISPLAY::writeMail);
+    m_openButton = make(makeButton(u"openEntry"_s, u"Ope&n Entry"_s, m_buttonRow, ButtonKind::Main),
+                        &ADDBKDISPLAY::openEntry);
+    QPushButton *exit = makeButton(u"exitViewer"_s, u"E&xit"_s, m_buttonRow);
+    connect(exit, &QPushButton::clicked, this, &QWidget::close);
+    for (QPushButton *button : {m_removeButton, m_dialButton, m_mailButton})
+        m_buttonRow->addLeft(button);
+    for (QPushButton *button : {m_openButton, exit})
+        m_buttonRow->addRight(button);
+    return m_buttonRow;
+}
+
+QAction *ADDBKDISPLAY::addCommand(QMenu *menu, const QString &name, const QString &caption,
+                                  void (ADDBKDISPLAY::*command)())
+{
+    QAction *action = makeAction(name, caption, this);
+    connect(action, &QAction::triggered, this, command);
+    if (menu)
+        menu->addAction(action);
+    return action;
+}
+
+void ADDBKDISPLAY::makeMenus()
+{
+    makeOptionsMenu();
+    QMenu *edit = addMenu(menuBar(), u"mE"_s, u"&Edit"_s);
+    m_editCopyAction = addCommand(edit, u"mECopy"_s, u"&Copy"_s, &ADDBKDISPLAY::copyRows);
+    m_editRemoveAction = addCommand(edit, u"mEDel"_s, u"&Delete Row"_s, &ADDBKDISPLAY::removeRow);
+    QMenu *utilities = addMenu(menuBar(), u"mU"_s, u"&Utilities"_s);
+    m_backupAction = addCommand(utilities, u"mUB"_s, u"&Backup Files to Disk"_s, &ADDBKDISPLAY::openBackup);
+    m_restoreAction =
+        addCommand(utilities, u"mUR"_s, u"&Restore Files from Disk"_s, &ADDBKDISPLAY::openBackup);
+    m_helpAction = addCommand(nullptr, u"mH"_s, u"&Help"_s, &ADDBKDISPLAY::showHelp);
+    menuBar()->addAction(m_helpAction);
+    const QString noBackup =
+        program().functions.has(Function::Backup) ? QString() : AddressLines::backupNotThere();
+    setUnavailable(m_backupAction, noBackup);
+    setUnavailable(m_restoreAction, noBackup);
+}
+
+void ADDBKDISPLAY::makeOptionsMenu()
+{
+    QMenu *menu = addMenu(menuBar(), u"mO"_s, u"&Options"_s);
+    m_panelColorAction = addCommand(menu, u"mOC"_s, u"Panel C&olor"_s, &ADDBKDISPLAY::choosePanelColor);
+    m_modeAction = addCommand(menu, u"mOM"_s, {}, &ADDBKDISPLAY::switchDisplayMode);
+    m_openAction = addCommand(menu, u"mOEntry"_s, u"Ope&n Entry"_s, &ADDBKDISPLAY::openEntry);
+    menu->addSeparator();
+    m_copyAction = addCommand(menu, u"mOCopy"_s, u"Cop&y"_s, &ADDBKDISPLAY::copyRows);
+    m_exportAction = addCommand(menu, u"mOExp"_s, u"Expor&t"_s, &ADDBKDISPLAY::exportRows);
+    m_removeAction = addCommand(menu, u"mODel"_s, u"&Delete Row"_s, &ADDBKDISPLAY::removeRow);
+    menu->addSeparator();
+    m_printAction = addCommand(menu, u"mOPrt"_s, u"&Print Options"_s, &ADDBKDISPLAY::showPrintOptions);
+    m_labelsAction = addCommand(menu, u"mOLab"_s, u"&Labels and Envelopes"_s, &ADDBKDISPLAY::showLabels);
+    m_picturesAction =
+        addCommand(menu, u"mOPic"_s, u"P&ictures Display Screen"_s, &ADDBKDISPLAY::showPictures);
+    menu->addSeparator();
+    QAction *exit = makeAction(u"mOEx"_s, u"E&xit"_s, this);
+    connect(exit, &QAction::triggered, this, &QWidget::close);
+    menu->addAction(exit);
+}
+
+void ADDBKDISPLAY::makeToolbar()
+{
+    addTool(m_copyAction, "copy"_L1, u"Copy"_s);
+    addTool(m_exportAction, "export"_L1, u"Export"_s);
+    addTool(m_printAction, "print"_L1, u"Print"_s);
+    addTool(m_labelsAction, "label"_L1, u"Labels"_s);
+    addToolSeparator();
+    addTool(m_picturesAction, "picture"_L1, u"Pictures"_s);
+    addToolSeparator();
+    addTool(m_panelColorAction, "palette"_L1, u"Panel Color"_s);
+    addTool(m_backupAction, "backup-command"_L1, u"Backup"_s);
+    addTool(addCommand(nullptr, u"toolHelp"_s, u"Help"_s, &ADDBKDISPLAY::showHelp), "help"_L1, u"Help"_s);
+}
+
+void ADDBKDISPLAY::connectParts()
+{
+    connect(m_choices, &ViewerChoices::searchTyped, this, &ADDBKDISPLAY::narrow);
+    connect(m_choices, &ViewerChoices::searchPressed, this, &ADDBKDISPLAY::search);
+    connect(m_choices, &ViewerChoices::informationChosen, this, &ADDBKDISPLAY::chooseInformation);
+    connect(m_choices, &ViewerChoices::updateRequested, this, &ADDBKDISPLAY::updateDisplay);
+    connect(m_choices, &ViewerChoices::leftForNames, m_grid, [this] { m_grid->setFocus(); });
+    connect(m_modeButton, &QPushButton::clicked, this, &ADDBKDISPLAY::switchDisplayMode);
+    connect(m_grid->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &ADDBKDISPLAY::refreshCommands);
+    connect(m_rows, &AddressGrid::modelAboutToBeReset, this, &ADDBKDISPLAY::keepPlace);
+    connect(m_rows, &AddressGrid::modelReset, this, &ADDBKDISPLAY::followRows);
+    connect(m_grid, &GridView::removalRequested, this, &ADDBKDISPLAY::removeRow);
+    connect(m_grid, &GridView::linkFollowed, this, &ADDBKDISPLAY::openMail);
+    connect(m_grid, &GridView::opened, this, &ADDBKDISPLAY::openEntry);
+    connect(m_grid, &GridView::firstPainted, this, &ADDBKDISPLAY::loadRest);
+    connect(m_listOptions, &ListOptionsPanel::printRequested, this, &ADDBKDISPLAY::printList);
+    connect(m_listOptions, &ListOptionsPanel::left, this, &ADDBKDISPLAY::leavePanel);
+    connect(m_labels, &LabelPanel::left, this, &ADDBKDISPLAY::leavePanel);
+    connect(m_copies, &PictureCopies::progressed, this,
+            [this](int done, int total) { activity().showProgress(done, total, true); });
+    connect(m_copies, &PictureCopies::ready, this, &ADDBKDISPLAY::showPictureList);
+    connect(&activity(), &ActivityBar::stopRequested, this, &ADDBKDISPLAY::stop);
+    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterMoved = true; });
+}
+
+void ADDBKDISPLAY::setTabOrders()
+{
+    QVector<QWidget *> order = m_choices->tabOrder();
+    order += {m_modeButton, m_grid, m_removeButton, m_dialButton, m_mailButton, m_openButton};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+/// Until the user moves it, the left pane is as wide as suits the window.
+void ADDBKDISPLAY::placeSplitter()
+{
+    if (m_splitterMoved || !m_splitter)
+        return;
+    const int left = width() < wideFrom ? narrowLeftPaneWidth : leftPaneWidth;
+    m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
+}
+
+/// The information takes what the names leave, so that one width is all there is to remember.
+void ADDBKDISPLAY::rememberNameColumn()
+{
+    m_nameColumn = std::max(leastNameColumn, program().store.value(nameColumnKey(), nameColumnWidth).toInt());
+    m_grid->horizontalHeader()->resizeSection(0, m_nameColumn);
+    connect(m_grid->horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int section, int, int width) {
+                if (section != 0 || m_isFollowing || m_rows->columnCount() == 1)
+                    return;
+                m_nameColumn = width;
+                program().store.setValue(nameColumnKey(), width);
+            });
+}

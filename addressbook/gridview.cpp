@@ -1,0 +1,222 @@
+#include "addressbook/gridview.h"
+
+#include "shell/theme.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int leastRowHeight = 28;
+constexpr int inset = 8;
+constexpr int headerHeight = 34;
+
+/// The part of a cell that holds its text.
+QRect textPlace(const QRect &cell)
+{
+    return cell.adjusted(inset, 0, -inset, 0);
+}
+
+class CellDelegate final : public QStyledItemDelegate
+{
+public:
+    explicit CellDelegate(GridView *view)
+        : QStyledItemDelegate(view)
+        , m_view(view)
+    {}
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const Theme &theme = Theme::of(cell.widget);
+        const QModelIndex current = m_view->currentIndex();
+        const bool isCurrent = index == current;
+        if (isCurrent)
+            painter->fillRect(cell.rect, theme.mark);
+        else if (current.isValid() && current.row() == index.row())
+            painter->fillRect(cell.rect, theme.soft);
+        else if (cell.features & QStyleOptionViewItem::Alternate)
+            painter->fillRect(cell.rect, theme.alternate);
+        if (isCurrent)
+            drawRim(*painter, cell.rect, theme);
+        const bool isLink = index.data(m_view->linkRole()).toBool();
+        QFont font = cell.font;
+        font.setUnderline(isLink);
+        painter->setFont(font);
+        painter->setPen(isLink ? theme.accent : theme.text);
+        const QRect place = textPlace(cell.rect);
+        painter->drawText(place, int(Qt::AlignVCenter | Qt::AlignLeft),
+                          cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, place.width()));
+    }
+
+private:
+    void drawRim(QPainter &painter, const QRect &cell, const Theme &theme) const
+    {
+        const bool hasFocus = m_view->hasFocus();
+        painter.setPen(QPen(hasFocus ? theme.accent : theme.edge, hasFocus ? 2 : 1));
+        const int half = hasFocus ? 1 : 0;
+        painter.drawRect(cell.adjusted(half, half, -1, -1));
+    }
+
+    GridView *m_view;
+};
+
+} // namespace
+
+GridView::GridView(int linkRole, QWidget *parent)
+    : QTableView(parent)
+    , m_linkRole(linkRole)
+{
+    setItemDelegate(new CellDelegate(this));
+    setAlternatingRowColors(true);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerItem);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setMouseTracking(true);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(rowHeight());
+    verticalHeader()->setDefaultSectionSize(rowHeight());
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    QHeaderView *head = horizontalHeader();
+    head->setFont(TypeScale::strong());
+    head->setFixedHeight(std::max(headerHeight, QFontMetrics(head->font()).height() + 12));
+    head->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    head->setHighlightSections(false);
+    head->setStretchLastSection(true);
+    head->setMinimumSectionSize(120);
+    head->setSortIndicator(-1, Qt::AscendingOrder);
+    head->setSortIndicatorClearable(true);
+    setSortingEnabled(true);
+}
+
+int GridView::rowHeight()
+{
+    return std::max(leastRowHeight, QFontMetrics(QApplication::font()).height() + 8);
+}
+
+int GridView::wholeHeight(int height) const
+{
+    const int frame = horizontalHeader()->height() + 2 * frameWidth() + 6; // padding of the sheet: 3 each
+    const int rows = std::max(1, (height - frame) / rowHeight());
+    return frame + rows * rowHeight();
+}
+
+bool GridView::isOnLink(QPoint place) const
+{
+    const QModelIndex index = indexAt(place);
+    if (!index.data(m_linkRole).toBool())
+        return false;
+    QRect text = textPlace(visualRect(index));
+    text.setWidth(std::min(text.width(), fontMetrics().horizontalAdvance(index.data().toString())));
+    return text.contains(place);
+}
+
+void GridView::mousePressEvent(QMouseEvent *event)
+{
+    const bool isLink = event->button() == Qt::LeftButton && isOnLink(event->pos());
+    m_pressedLink = isLink ? indexAt(event->pos()) : QModelIndex();
+    QTableView::mousePressEvent(event);
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTableView::mouseReleaseEvent(event);
+    const QModelIndex pressed = m_pressedLink;
+    m_pressedLink = QModelIndex();
+    if (pressed.isValid() && isOnLink(event->pos()) && indexAt(event->pos()) == pressed)
+        emit linkFollowed(pressed);
+}
+
+void GridView::mouseMoveEvent(QMouseEvent *event)
+{
+    viewport()->setCursor(isOnLink(event->pos()) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    QTableView::mouseMoveEvent(event);
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTableView::mouseDoubleClickEvent(event);
+    const QModelIndex index = indexAt(event->pos());
+    if (index.isValid() && event->button() == Qt::LeftButton && !isOnLink(event->pos()))
+        emit opened(index);
+}
+
+void GridView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isPlain = event->modifiers() == Qt::NoModifier;
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Delete && isPlain)
+        emit removalRequested();
+    else if (isEnter && currentIndex().isValid())
+        emit opened(currentIndex());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void GridView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (!std::exchange(m_wasPainted, true))
+        QMetaObject::invokeMethod(this, &GridView::firstPainted, Qt::QueuedConnection);
+}
+
+/// Tab walks through the cells of the row and out behind its last one: out behind the last row would take
+/// a hundred thousand steps.
+bool GridView::focusNextPrevChild(bool next)
+{
+    const QModelIndex current = currentIndex();
+    const QModelIndex beside = current.siblingAtColumn(current.column() + (next ? 1 : -1));
+    if (!current.isValid() || !beside.isValid())
+        return QTableView::focusNextPrevChild(next);
+    setCurrentIndex(beside);
+    return true;
+}
+
+bool GridView::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTableView::viewportEvent(event);
+    // A text that is cut shows itself whole.
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString text = index.data().toString();
+    const bool isCut = fontMetrics().horizontalAdvance(text) > textPlace(visualRect(index)).width();
+    QToolTip::showText(help->globalPos(), isCut ? text : QString(), this);
+    return true;
+}
+
+GridPlace::GridPlace(GridView *grid, QWidget *parent)
+    : QWidget(parent)
+    , m_grid(grid)
+{
+    grid->setParent(this);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setFocusProxy(grid);
+}
+
+QSize GridPlace::sizeHint() const
+{
+    return {600, m_grid->wholeHeight(16 * GridView::rowHeight())};
+}
+
+QSize GridPlace::minimumSizeHint() const
+{
+    return {240, m_grid->wholeHeight(4 * GridView::rowHeight())};
+}
+
+void GridPlace::resizeEvent(QResizeEvent *)
+{
+    m_grid->setGeometry(0, 0, width(), m_grid->wholeHeight(height()));
+}

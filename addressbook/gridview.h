@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QTableView>
+
+/// A grid of texts: alternate rows of one height, thin lines, the current cell marked and rimmed. A click on
+/// a heading sorts, a third one brings the first order back.
+class GridView final : public QTableView
+{
+    Q_OBJECT
+public:
+    /// Cells of which `linkRole` is true are drawn as links and followed by a click.
+    GridView(int linkRole, QWidget *parent = nullptr);
+
+    static int rowHeight();
+    int linkRole() const { return m_linkRole; }
+
+    /// As high as fits into `height` with whole rows.
+    int wholeHeight(int height) const;
+
+signals:
+    void linkFollowed(const QModelIndex &index);
+    void removalRequested();
+    /// Enter was pressed on a cell, or the cell clicked twice.
+    void opened(const QModelIndex &index);
+    /// The grid is on the screen for the first time.
+    void firstPainted();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    bool viewportEvent(QEvent *event) override;
+
+private:
+    bool isOnLink(QPoint place) const;
+
+    int m_linkRole;
+    QPersistentModelIndex m_pressedLink;
+    bool m_wasPainted = false;
+};
+
+/// Keeps a grid at a height of whole rows.
+class GridPlace final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit GridPlace(GridView *grid, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    GridView *m_grid;
+};

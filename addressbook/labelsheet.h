@@ -1,0 +1,68 @@
+#pragma once
+
+#include "shell/page.h"
+
+#include <vector>
+
+class AddressViewer;
+
+/// Paper that addresses are printed on: a sheet of labels, or an envelope. All measures in inches.
+struct LabelSheet {
+    QString name; ///< "A4, 3 x 7 labels, 63.5 x 38.1 mm"
+    QSizeF paper; ///< as it lies
+    int columns = 1;
+    int rows = 1;
+    QPointF first; ///< corner of the first label
+    QSizeF label;
+    QPointF pitch; ///< from one label's corner to the next
+    bool isEnvelope = false;
+
+    int count() const { return columns * rows; }
+    /// The label at `position` (from 0, row by row).
+    QRectF place(int position) const;
+    PageSetup setup() const;
+
+    bool operator==(const LabelSheet &) const = default;
+
+    /// The label sheets and envelopes that the program knows, labels first.
+    static const std::vector<LabelSheet> &all();
+};
+
+/// Whether persons with the same address get one label together.
+enum class LabelSharing { EachTheirOwn, OneForAnAddress };
+
+/// The addresses of the viewer's rows, ready to be printed.
+struct LabelTexts {
+    std::vector<QString> texts; ///< lines separated by '\n': names, address, town
+    int leftOut = 0;            ///< rows without an address
+
+    /// In the order in which the rows are shown; a shared label stands where the first of its persons does.
+    static LabelTexts of(const AddressViewer &viewer, LabelSharing sharing);
+};
+
+/// A person as a label names them.
+struct LabelPerson {
+    QString lastName;
+    QString firstName;
+};
+
+namespace LabelPages {
+
+/// "Anne Miller"; "Anne & Karl Miller" where the last names agree; "Anne Miller & Karl Holm" elsewhere.
+QString names(const std::vector<LabelPerson> &persons);
+
+/// Sheets for so many labels when the first `used` places of the first sheet are gone already.
+int sheetCount(const LabelSheet &sheet, int labels, int used);
+
+/// What a run of labels needs besides the addresses.
+struct Options {
+    int used = 0;          ///< places of the first sheet that are gone already; 0 for envelopes
+    QString returnAddress; ///< envelopes only; lines separated by '\n'
+    bool hasRims = false;  ///< thin rims around the labels, for the screen
+};
+
+/// Sheet `index` alone, or all of them.
+Page sheet(const LabelSheet &sheet, const std::vector<QString> &texts, const Options &options, int index);
+Page sheets(const LabelSheet &sheet, const std::vector<QString> &texts, const Options &options);
+
+} // namespace LabelPages

@@ -1,0 +1,72 @@
+#include "addressbook/listoptionspanel.h"
+
+#include "shell/controls.h"
+#include "shell/theme.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+ListOptionsPanel::ListOptionsPanel(QWidget *parent)
+    : QWidget(parent)
+    , m_telephones(named(new QCheckBox(u"Print Telephone Number Also"_s, this), u"printTelephones"_s))
+    , m_asOf(named(new QCheckBox(u"Print 'As of' date on each page"_s, this), u"printAsOf"_s))
+    , m_gridLines(named(new QCheckBox(u"Print Grid Lines on each page"_s, this), u"printGridLines"_s))
+    , m_oneColumn(named(new QRadioButton(u"One Column Output"_s, this), u"oneColumn"_s))
+    , m_twoColumns(named(new QRadioButton(u"Two Column Output"_s, this), u"twoColumns"_s))
+    , m_print(makeButton(u"printList"_s, u"&Print List"_s, this, ButtonKind::Main))
+{
+    auto *columns = new QButtonGroup(this);
+    columns->addButton(m_oneColumn);
+    columns->addButton(m_twoColumns);
+    m_oneColumn->setChecked(true);
+    QPushButton *back = makeButton(u"leavePrintOptions"_s, u"&Back to the Grid"_s, this);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(24, 20, 24, 18);
+    column->setSpacing(10);
+    column->addWidget(makeTitle(u"Print Options"_s, this));
+    QLabel *hint =
+        makeQuietLabel(u"The list holds the names that the grid shows, in the same order."_s, this);
+    hint->setFont(TypeScale::body());
+    hint->setWordWrap(true);
+    column->addWidget(hint);
+    column->addSpacing(8);
+    for (QWidget *option : std::initializer_list<QWidget *>{m_telephones, m_asOf, m_gridLines})
+        column->addWidget(option);
+    column->addSpacing(8);
+    column->addWidget(m_oneColumn);
+    column->addWidget(m_twoColumns);
+    column->addStretch(1);
+    column->addWidget(makeLine(this));
+    auto *foot = new QHBoxLayout;
+    foot->addStretch(1);
+    foot->addWidget(back);
+    foot->addWidget(m_print);
+    column->addLayout(foot);
+    connect(m_print, &QPushButton::clicked, this, &ListOptionsPanel::printRequested);
+    connect(back, &QPushButton::clicked, this, &ListOptionsPanel::left);
+}
+
+ViewerPages::ListOptions ListOptionsPanel::options() const
+{
+    return {m_telephones->isChecked(), m_asOf->isChecked(), m_twoColumns->isChecked(),
+            m_gridLines->isChecked()};
+}
+
+void ListOptionsPanel::focusFirst()
+{
+    m_print->setFocus();
+}
+
+void ListOptionsPanel::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        emit left();
+    else
+        QWidget::keyPressEvent(event);
+}

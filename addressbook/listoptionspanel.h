@@ -1,0 +1,35 @@
+#pragma once
+
+#include "addressbook/viewerpages.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QPushButton;
+class QRadioButton;
+
+/// How the viewer's list is printed.
+class ListOptionsPanel final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit ListOptionsPanel(QWidget *parent = nullptr);
+
+    ViewerPages::ListOptions options() const;
+    void focusFirst();
+
+signals:
+    void printRequested();
+    void left();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QCheckBox *m_telephones;
+    QCheckBox *m_asOf;
+    QCheckBox *m_gridLines;
+    QRadioButton *m_oneColumn;
+    QRadioButton *m_twoColumns;
+    QPushButton *m_print;
+};

@@ -1,0 +1,86 @@
+#include "addressbook/picturecopies.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The largest place of a picture on paper, at the 300 dots an inch that a printer shows.
+constexpr QSize printedPixels(540, 300);
+/// Jobs that wait for a thread: the rest is started as these are done.
+constexpr std::size_t atOnce = 8;
+/// Shorter paths are no paths.
+constexpr qsizetype shortestPath = 5;
+
+} // namespace
+
+std::vector<NamedPicture> picturesOf(const AddressViewer &viewer)
+{
+    std::vector<NamedPicture> pictures;
+    for (int row = 0; row < viewer.count(); ++row) {
+        const QString stored = viewer.information(row).trimmed();
+        if (stored != noPicture && stored.size() >= shortestPath)
+            pictures.push_back({viewer.name(row), stored});
+    }
+    return pictures;
+}
+
+PictureCopies::PictureCopies(const DataFolder &folder, QObject *parent)
+    : QObject(parent)
+    , m_loader(folder)
+{}
+
+void PictureCopies::make(std::vector<NamedPicture> pictures)
+{
+    stop();
+    m_originals = std::move(pictures);
+    m_copies.assign(m_originals.size(), {});
+    m_folder.emplace();
+    m_next = 0;
+    m_done = 0;
+    m_isBusy = true;
+    if (m_originals.empty())
+        QMetaObject::invokeMethod(this, &PictureCopies::finish, Qt::QueuedConnection);
+    while (m_next < std::min(atOnce, m_originals.size()))
+        startNext();
+}
+
+void PictureCopies::stop()
+{
+    m_loader.forget();
+    m_isBusy = false;
+}
+
+void PictureCopies::startNext()
+{
+    const std::size_t index = m_next++;
+    const QString target = m_folder->filePath(QString::number(index) + u".jpg"_s);
+    m_copies[index].name = m_originals[index].name;
+    m_copies[index].path = target;
+    m_loader.copy(m_originals[index].stored, printedPixels, target,
+                  [this, index](const LoadedPicture &picture) { take(index, picture); });
+}
+
+void PictureCopies::take(std::size_t index, const LoadedPicture &picture)
+{
+    if (picture.image.isNull())
+        m_copies[index].path.clear();
+    else
+        m_copies[index].pixels = picture.pixels;
+    emit progressed(++m_done, int(m_originals.size()));
+    if (!m_isBusy) // stopped by whoever heard of it
+        return;
+    if (m_next < m_originals.size())
+        startNext();
+    else if (std::size_t(m_done) == m_originals.size())
+        finish();
+}
+
+void PictureCopies::finish()
+{
+    if (!std::exchange(m_isBusy, false))
+        return;
+    emit ready();
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "addressbook/picturecopies.h"
+
+#include <QListView>
+
+class PictureGalleryModel;
+
+/// A page of the family's pictures with their names, five beside one another. Pictures are read for the page
+/// shown only, while the window goes on; one that is not there keeps its place.
+class PictureGallery final : public QListView
+{
+    Q_OBJECT
+public:
+    static constexpr int columns = 5;
+    static constexpr int rows = ViewerPages::picturesPerSheet / columns;
+
+    explicit PictureGallery(const DataFolder &folder, QWidget *parent = nullptr);
+    ~PictureGallery() override;
+
+    void setPictures(std::vector<NamedPicture> pictures);
+    /// Pictures that are still being read.
+    int waitingCount() const;
+    /// Whether the picture at `index` has been read and can be seen.
+    bool isSeen(int index) const;
+
+signals:
+    /// A picture was read, or could not be.
+    void progressed();
+    /// The person wants to see one larger.
+    void opened(const QString &stored, const QString &name);
+    /// The page before or behind this one is wanted.
+    void stepRequested(int step);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void fitTiles();
+    void open(const QModelIndex &index);
+
+    PictureLoader m_loader;
+    PictureGalleryModel *m_model;
+    int m_waiting = 0;
+};

@@ -1,0 +1,121 @@
+#pragma once
+
+#include <QString>
+
+/// Quiet lines of the viewer and the pictures screen; reasons of disabled commands among them.
+namespace ViewerLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString firstPage()
+{
+    return u"This is the first page"_s;
+}
+
+inline QString lastPage()
+{
+    return u"This is the last page"_s;
+}
+
+inline QString noPictures()
+{
+    return u"No entry has a picture"_s;
+}
+
+inline QString loading()
+{
+    return u"Loading"_s;
+}
+
+inline QString pictureNotFound()
+{
+    return u"Picture not found"_s;
+}
+
+inline QString stopped()
+{
+    return u"Stopped"_s;
+}
+
+inline QString nothingShown()
+{
+    return u"No name is shown"_s;
+}
+
+inline QString chooseNameFirst()
+{
+    return u"Choose a name in the grid first"_s;
+}
+
+inline QString noEntry()
+{
+    return u"The record number of this line cannot be read: the name is too long for the list."_s;
+}
+
+inline QString notInList()
+{
+    return u"This entry is not in the list any more"_s;
+}
+
+inline QString chooseTelephones()
+{
+    return u"Choose Home Phone, Mobile Phone or Fax Number to dial a number of the grid"_s;
+}
+
+inline QString chooseMailAddresses()
+{
+    return u"Choose Email Address to write to somebody in the grid"_s;
+}
+
+inline QString noMailAddress()
+{
+    return u"There is no e-mail address beside this name"_s;
+}
+
+inline QString noMailProgram()
+{
+    return u"No mail program could be opened"_s;
+}
+
+inline QString rangeShown(bool isBirthday, const QString &month)
+{
+    return (isBirthday ? u"Birthdays in "_s : u"Anniversaries in "_s) + month;
+}
+
+inline QString exported(const QString &path)
+{
+    return u"Saved as "_s + path;
+}
+
+inline QString notExported(const QString &name)
+{
+    return u"The file "_s + name + u" could not be saved"_s;
+}
+
+inline QString removed(const QString &name)
+{
+    return u"Not shown until the display is updated: "_s + name;
+}
+
+/// What a run of labels takes.
+inline QString labelCount(int labels, int sheets, bool isEnvelope)
+{
+    const QString count = QString::number(labels);
+    if (isEnvelope)
+        return labels == 1 ? u"1 envelope"_s : QString(count + u" envelopes"_s);
+    const QString what = labels == 1 ? u"1 label on "_s : QString(count + u" labels on "_s);
+    return what + (sheets == 1 ? u"1 sheet"_s : QString(QString::number(sheets) + u" sheets"_s));
+}
+
+inline QString leftOut(int names)
+{
+    return names == 1 ? u"1 name without an address is left out"_s
+                      : QString(QString::number(names) + u" names without an address are left out"_s);
+}
+
+inline QString noLabels()
+{
+    return u"No name in the grid has an address"_s;
+}
+
+} // namespace ViewerLines

@@ -1,0 +1,250 @@
+#include "addressbook/addbkdisplay2.h"
+#include "addressbook/pictureframe.h"
+#include "addressbook/picturegallery.h"
+#include "addressbook/viewermessages.h"
+#include "shell/activitybar.h"
+#include "shell/previewpane.h"
+#include "tests/support/testprogram.h"
+
+#include <QAction>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QLabel>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestAddbkdisplay2 : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void warnsOnOpening();
+    void showsThePicturesPageByPage();
+    void keepsThePlaceOfAMissingPicture();
+    void leavesOutWhoHasNoPicture_data();
+    void leavesOutWhoHasNoPicture();
+    void enlargesAPicture();
+    void printsThePageShown();
+    void stopsMakingCopies();
+    void survivesFilesThatAreNoPictures();
+    void neverStandsStill();
+    void saysWhenThereIsNoPicture();
+
+private:
+    void open();
+    void putPictures(const QStringList &stored);
+    void click(const char *name) { QTest::mouseClick(control<QPushButton>(*m_window, name), Qt::LeftButton); }
+    QString words(const char *name) const { return control<QLabel>(*m_window, name)->text(); }
+    PictureGallery *gallery() const { return control<PictureGallery>(*m_window, "pictures"); }
+    QString name(int index) const { return gallery()->model()->index(index, 0).data().toString(); }
+
+    std::unique_ptr<TestProgram> m_test;
+    QPointer<ADDBKDISPLAY2> m_window;
+};
+
+void TestAddbkdisplay2::init()
+{
+    m_test = std::make_unique<TestProgram>(TestProgram::Household);
+}
+
+void TestAddbkdisplay2::cleanup()
+{
+    delete m_window;
+    QVERIFY(m_test->dialogs.isDone());
+    m_test.reset();
+}
+
+void TestAddbkdisplay2::open()
+{
+    m_window = new ADDBKDISPLAY2(m_test->program);
+    showActive(*m_window);
+    QList<Message> shown;
+    QVERIFY(QTest::qWaitFor([&] { return !(shown = m_test->dialogs.takeShown()).isEmpty(); }));
+}
+
+/// An address book of persons with these picture paths.
+void TestAddbkdisplay2::putPictures(const QStringList &stored)
+{
+    QByteArray lines(60, '\0'), entries(724, '\0');
+    for (const QString &path : stored) {
+        const QByteArray number = QByteArray::number(lines.size() / 60 + 1);
+        const QByteArray name = "Person " + number;
+        const QByteArray line = name.leftJustified(47) + number;
+        const QByteArray record = QByteArray(1, char(line.size())) + '\0' + line;
+        lines += record.leftJustified(60, ' ');
+        entries += QByteArray("Person").leftJustified(520) + path.toLatin1().leftJustified(204);
+    }
+    m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+    m_test->setBytes(u"Addbk1.Fil"_s, entries);
+    m_test->setBytes(u"Addbk2.Fil"_s, lines);
+}
+
+void TestAddbkdisplay2::warnsOnOpening()
+{
+    m_window = new ADDBKDISPLAY2(m_test->program);
+    QCOMPARE(m_window->windowTitle(), u"Family/Friends Pictures Display Screen"_s);
+    showActive(*m_window);
+    QList<Message> shown;
+    QVERIFY(QTest::qWaitFor([&] { return !(shown = m_test->dialogs.takeShown()).isEmpty(); }));
+    QCOMPARE(shown, {ViewerMessages::picturesRestraint()});
+    QCOMPARE(shown.first().title, u"Print Pictures Restraint"_s);
+    m_window->hide();
+    m_window->show();
+    QCoreApplication::processEvents();
+    QVERIFY(m_test->dialogs.takeShown().isEmpty());
+}
+
+void TestAddbkdisplay2::showsThePicturesPageByPage()
+{
+    open();
+    QCOMPARE(words("picturePage"), u"Page 1 of 2"_s);
+    QCOMPARE(words("pictureTotal"), u" Total = 26"_s);
+    QCOMPARE(gallery()->model()->rowCount(), 20);
+    QCOMPARE(name(0), u"Kessler, Tessa"_s);
+    QTRY_COMPARE(gallery()->waitingCount(), 0);
+    QVERIFY(gallery()->isSeen(0));
+    QVERIFY(!control<QPushButton>(*m_window, "previousPictures")->isEnabled());
+    click("nextPictures");
+    QCOMPARE(words("picturePage"), u"Page 2 of 2"_s);
+    QCOMPARE(gallery()->model()->rowCount(), 6);
+    QCOMPARE(name(5), u"Calloway, Elisabeth"_s);
+    QVERIFY(!control<QPushButton>(*m_window, "nextPictures")->isEnabled());
+    QTest::keyClick(gallery(), Qt::Key_PageDown);
+    QCOMPARE(words("picturePage"), u"Page 2 of 2"_s);
+    QTest::keyClick(gallery(), Qt::Key_PageUp);
+    QCOMPARE(words("picturePage"), u"Page 1 of 2"_s);
+    QTRY_COMPARE(gallery()->waitingCount(), 0);
+}
+
+void TestAddbkdisplay2::keepsThePlaceOfAMissingPicture()
+{
+    open();
+    QTRY_COMPARE(gallery()->waitingCount(), 0);
+    QCOMPARE(name(3), u"Vance, Ulrich"_s);
+    QVERIFY(!gallery()->isSeen(3));
+    QVERIFY(gallery()->isSeen(4));
+}
+
+void TestAddbkdisplay2::leavesOutWhoHasNoPicture_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<int>("places");
+    QTest::newRow("the mark of none") << u"  **"_s << 0;
+    QTest::newRow("empty") << QString() << 0;
+    QTest::newRow("four characters") << u"a.jp"_s << 0;
+    QTest::newRow("five") << u"a.jpg"_s << 1;
+    QTest::newRow("a mark and more") << u"**.jpg"_s << 1;
+}
+
+void TestAddbkdisplay2::leavesOutWhoHasNoPicture()
+{
+    QFETCH(QString, stored);
+    QFETCH(int, places);
+    putPictures({stored});
+    open();
+    QCOMPARE(gallery()->model()->rowCount(), places);
+    QCOMPARE(words("pictureTotal"), u" Total = "_s + QString::number(places));
+}
+
+void TestAddbkdisplay2::enlargesAPicture()
+{
+    open();
+    gallery()->setCurrentIndex(gallery()->model()->index(1, 0));
+    click("enlargePicture");
+    QCOMPARE(words("enlargedName"), u"Garland, Anne"_s);
+    QTRY_VERIFY(control<PictureFrame>(*m_window, "enlargedPicture")->hasPicture());
+    QTest::keyClick(m_window, Qt::Key_Escape);
+    QVERIFY(gallery()->hasFocus());
+    QVERIFY(m_window->isVisible());
+}
+
+void TestAddbkdisplay2::printsThePageShown()
+{
+    open();
+    click("nextPictures");
+    control<QAction>(*m_window, "mOPrt")->trigger();
+    QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
+    QCOMPARE(m_window->findChild<PreviewPane *>()->sheetCount(), 1);
+}
+
+void TestAddbkdisplay2::stopsMakingCopies()
+{
+    open();
+    control<QAction>(*m_window, "mOPrt")->trigger();
+    emit m_window->findChild<ActivityBar *>()->stopRequested();
+    QTest::qWait(200);
+    QVERIFY(!m_window->isPreviewShown());
+    QCOMPARE(m_window->findChild<ActivityBar *>()->message(), u"Stopped"_s);
+}
+
+void TestAddbkdisplay2::survivesFilesThatAreNoPictures()
+{
+    putPictures({u"noise.jpg"_s, u"empty.jpg"_s, u"folder.jpg"_s, u"cut.jpg"_s, u"huge.bmp"_s,
+                 u"../../etc/passwd"_s, QString(200, u'x'), u"\\\\?\\pipe"_s});
+    QByteArray noise(4000, '\0');
+    QRandomGenerator generator(7);
+    for (char &byte : noise)
+        byte = char(generator.bounded(256));
+    m_test->setBytes(u"noise.jpg"_s, noise);
+    m_test->setBytes(u"empty.jpg"_s, {});
+    QVERIFY(QDir(m_test->folder.path()).mkdir(u"folder.jpg"_s));
+    QImage whole(400, 300, QImage::Format_RGB32);
+    whole.fill(Qt::darkGreen);
+    QVERIFY(whole.save(m_test->path(u"whole.jpg"_s)));
+    m_test->setBytes(u"cut.jpg"_s, m_test->bytes(u"whole.jpg"_s).left(200));
+    m_test->setBytes(
+        u"huge.bmp"_s,
+        QByteArray::fromHex(
+            "424d3600000000000000360000002800000000ffff7f00ffff7f01001800000000000000000000000000"));
+    open();
+    QCOMPARE(gallery()->model()->rowCount(), 8);
+    QTRY_COMPARE(gallery()->waitingCount(), 0);
+    QVERIFY(!m_window->grab().isNull());
+    control<QAction>(*m_window, "mOPrt")->trigger();
+    QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
+    QVERIFY(!m_window->grab().isNull());
+}
+
+/// While large photographs are read, the event loop keeps turning.
+void TestAddbkdisplay2::neverStandsStill()
+{
+    putPictures(QStringList(8, u"large.jpg"_s));
+    QImage large(4000, 3000, QImage::Format_RGB32);
+    QRandomGenerator generator(5);
+    for (int y = 0; y < large.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(large.scanLine(y));
+        for (int x = 0; x < large.width(); ++x)
+            line[x] = qRgb((x / 8 * 7 + y) & 255, generator.bounded(64), (x ^ y) & 255);
+    }
+    QVERIFY(large.save(m_test->path(u"large.jpg"_s), "JPG", 85));
+    open();
+    QElapsedTimer clock;
+    qint64 longest = 0;
+    QTimer beat;
+    connect(&beat, &QTimer::timeout, this, [&] { longest = std::max(longest, clock.restart()); });
+    clock.start();
+    beat.start(5);
+    QTRY_COMPARE_WITH_TIMEOUT(gallery()->waitingCount(), 0, 60000);
+    QVERIFY(gallery()->isSeen(7));
+    // Far above the limit of a tenth of a second, for machines that do other things as well.
+    QVERIFY2(longest < 400, qPrintable(QString::number(longest)));
+}
+
+void TestAddbkdisplay2::saysWhenThereIsNoPicture()
+{
+    putPictures({});
+    open();
+    QCOMPARE(words("picturePage"), u"Page 1 of 1"_s);
+    QVERIFY(!control<QPushButton>(*m_window, "enlargePicture")->isEnabled());
+    QVERIFY(!control<QAction>(*m_window, "mOPrt")->isEnabled());
+}
+
+QTEST_MAIN(TestAddbkdisplay2)
+#include "tst_addbkdisplay2.moc"

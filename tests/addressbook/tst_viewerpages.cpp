@@ -1,0 +1,284 @@
+#include "addressbook/viewermessages.h"
+#include "addressbook/viewerpages.h"
+#include "addressfiles.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// What the viewer prints, copies and exports.
+class TestViewerPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void headsTheColumns_data();
+    void headsTheColumns();
+    void listsWhatIsShown_data();
+    void listsWhatIsShown();
+    void numbersEachPageInItsHeading();
+    void describesTheTable();
+    void saysWhenNothingIsLeft();
+    void placesPicturesToTheHundredth();
+    void placesPicturesOnOtherSheets_data();
+    void placesPicturesOnOtherSheets();
+    void scalesPictures_data();
+    void scalesPictures();
+    void fillsSheetsOfTwenty();
+    void copiesHeadingsAndRows();
+    void exportsBytes();
+    void namesTheExport_data();
+    void namesTheExport();
+
+private:
+    std::unique_ptr<AddressFiles> m_files;
+    std::unique_ptr<AddressViewer> m_viewer;
+};
+
+namespace {
+
+const QDate today(2026, 11, 21);
+
+template <typename Item>
+QList<Item> itemsOf(const Page &page)
+{
+    QList<Item> items;
+    for (const Page::Item &item : page.items()) {
+        if (const auto *wanted = std::get_if<Item>(&item))
+            items << *wanted;
+    }
+    return items;
+}
+
+QList<QStringList> rowsOf(const Page &page)
+{
+    QList<QStringList> rows;
+    for (const auto &row : itemsOf<PageItem::Row>(page))
+        rows << row.cells;
+    return rows;
+}
+
+std::vector<ViewerPages::ListedPicture> pictures(int count)
+{
+    return std::vector<ViewerPages::ListedPicture>(std::size_t(count),
+                                                   {u"Lind, Anne"_s, u"/a.jpg"_s, {1024, 768}});
+}
+
+} // namespace
+
+void TestViewerPages::init()
+{
+    m_files = std::make_unique<AddressFiles>();
+    m_files->put(u"Addbk2.Fil"_s, neverWritten(60) + lineBytes(lineOf("Lind, Anne", 2)) +
+                                      lineBytes(lineOf("M\xFCller, Karl", 3)) +
+                                      lineBytes(lineOf("Holm, Mats", 4)));
+    m_files->put(
+        u"Addbk1.Fil"_s,
+        neverWritten(724) +
+            entryBytes({"Lind", "Anne", "", "14 Orchard\tLane", "", "Ashford", "NL", "75944", "555-0142"}) +
+            entryBytes({"M\xFCller", "Karl", "", "", "", "", "", "", "", "555-0187"}) +
+            entryBytes({"Holm", "Mats", "", "", "", "", "WI"}));
+    m_viewer = std::make_unique<AddressViewer>(m_files->folder(), DateStyle::Usa);
+    m_viewer->load(Information::State, {});
+}
+
+void TestViewerPages::headsTheColumns_data()
+{
+    QTest::addColumn<Information>("information");
+    QTest::addColumn<DateStyle>("style");
+    QTest::addColumn<QString>("heading");
+    QTest::newRow("USA") << Information::Address << DateStyle::Usa
+                         << u"Address, Address Line 2, City, State, Zip Code"_s;
+    QTest::newRow("OTHER") << Information::Address << DateStyle::Other
+                           << u"Address, Address Line 2, Suburb, Town/City, Postal Code"_s;
+    QTest::newRow("fax") << Information::FaxNumber << DateStyle::Other << u"Fax Number"_s;
+    QTest::newRow("pictures") << Information::Pictures << DateStyle::Usa << QString();
+}
+
+void TestViewerPages::headsTheColumns()
+{
+    QFETCH(Information, information);
+    QFETCH(DateStyle, style);
+    QTEST(ViewerPages::heading(information, style), "heading");
+}
+
+void TestViewerPages::listsWhatIsShown_data()
+{
+    QTest::addColumn<Information>("information");
+    QTest::addColumn<bool>("telephones");
+    QTest::addColumn<QList<QStringList>>("rows");
+    const QString anne = u"Lind, Anne"_s, karl = u"Müller, Karl"_s, mats = u"Holm, Mats"_s;
+    const QList<QStringList> called{
+        {u"Lind, Anne    Phone: 555-0142"_s}, {u"Müller, Karl    Phone: 555-0187"_s}, {mats}};
+    QTest::newRow("information") << Information::State << false
+                                 << QList<QStringList>{{anne, u"NL"_s}, {karl, QString()}, {mats, u"WI"_s}};
+    QTest::newRow("telephones too") << Information::State << true
+                                    << QList<QStringList>{{called[0][0], u"NL"_s},
+                                                          {called[1][0], QString()},
+                                                          {mats, u"WI"_s}};
+    QTest::newRow("home numbers once") << Information::HomePhone << true << called;
+    QTest::newRow("pictures have no column")
+        << Information::Pictures << false << QList<QStringList>{{anne}, {karl}, {mats}};
+}
+
+void TestViewerPages::listsWhatIsShown()
+{
+    QFETCH(Information, information);
+    QFETCH(bool, telephones);
+    m_viewer->load(information, {});
+    ViewerPages::ListOptions options;
+    options.hasTelephones = telephones;
+    QTEST(rowsOf(ViewerPages::list(*m_viewer, options, DateStyle::Usa, today)), "rows");
+}
+
+void TestViewerPages::numbersEachPageInItsHeading()
+{
+    ViewerPages::ListOptions options;
+    QCOMPARE(ViewerPages::list(*m_viewer, options, DateStyle::Usa, today).headRight(), QString());
+    options.hasAsOf = true;
+    const Page page = ViewerPages::list(*m_viewer, options, DateStyle::Usa, today);
+    QCOMPARE(page.titleOf(3), u"Family/Friends State List - Page No. 3"_s);
+    QCOMPARE(page.headRight(), u"As of  Saturday, November 21, 2026"_s);
+    QCOMPARE(page.printedLine(), u"Printed on 11/21/2026"_s);
+}
+
+void TestViewerPages::describesTheTable()
+{
+    ViewerPages::ListOptions options;
+    const auto table = [&] {
+        return itemsOf<PageItem::Columns>(ViewerPages::list(*m_viewer, options, DateStyle::Usa, today))
+            .constFirst();
+    };
+    QCOMPARE(table().across, 1);
+    QVERIFY(table().lines == TableLines::None);
+    QCOMPARE(table().headings, QStringList({u"Name"_s, u"State"_s}));
+    options.isTwoColumns = true;
+    options.hasGridLines = true;
+    QCOMPARE(table().across, 2);
+    QVERIFY(table().lines == TableLines::Grid);
+}
+
+void TestViewerPages::saysWhenNothingIsLeft()
+{
+    m_viewer->search(u"nobody"_s);
+    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, DateStyle::Usa, today)),
+             QList<QStringList>{{u"No Matches were Found!"_s}});
+    m_viewer->load(Information::State, {DisplayRange::BirthMonth, 4});
+    m_viewer->search({});
+    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, DateStyle::Usa, today)),
+             QList<QStringList>{{u"No Names Found with Info..."_s}});
+}
+
+void TestViewerPages::placesPicturesToTheHundredth()
+{
+    const Page page = ViewerPages::pictureList(pictures(20), {}, DateStyle::Usa, today);
+    const auto placed = itemsOf<PageItem::PlacedPicture>(page);
+    QCOMPARE(placed.size(), 20);
+    for (int i = 0; i < 20; ++i) {
+        const QPointF corner(0.25 + 2.0 * (i % 4), 0.8 + 2.0 * (i / 4));
+        QVERIFY((placed[i].place.topLeft() - corner).manhattanLength() < 0.001);
+    }
+    const auto texts = itemsOf<PageItem::PlacedText>(page);
+    QCOMPARE(texts[0].text, u"Family/Friends Picture List - Saturday, November 21, 2026"_s);
+    QCOMPARE(texts[20].text, u"Lind, Anne"_s);
+    // Under the last picture, with room for the closing lines below it.
+    QVERIFY(texts[20].place.top() >= placed[19].place.bottom());
+    QVERIFY(texts[20].place.bottom() <= 10.25);
+    QCOMPARE(itemsOf<PageItem::Break>(page).size(), 1); // before the first sheet, where it does nothing
+}
+
+void TestViewerPages::placesPicturesOnOtherSheets_data()
+{
+    QTest::addColumn<QSizeF>("paper");
+    QTest::addColumn<PageSetup::Orientation>("orientation");
+    QTest::addColumn<int>("perSheet");
+    QTest::newRow("letter") << QSizeF(8.5, 11) << PageSetup::Portrait << 20;
+    QTest::newRow("A4") << QSizeF(8.27, 11.69) << PageSetup::Portrait << 20;
+    QTest::newRow("letter, landscape") << QSizeF(8.5, 11) << PageSetup::Landscape << 15;
+    QTest::newRow("A4, landscape") << QSizeF(8.27, 11.69) << PageSetup::Landscape << 15;
+    QTest::newRow("smaller than one place") << QSizeF(1.5, 1.5) << PageSetup::Portrait << 1;
+}
+
+void TestViewerPages::placesPicturesOnOtherSheets()
+{
+    QFETCH(QSizeF, paper);
+    QFETCH(PageSetup::Orientation, orientation);
+    QFETCH(int, perSheet);
+    const PageSetup setup{paper, orientation};
+    const Page page = ViewerPages::pictureList(pictures(perSheet + 1), setup, DateStyle::Usa, today);
+    QCOMPARE(itemsOf<PageItem::Break>(page).size(), 2);
+    const auto placed = itemsOf<PageItem::PlacedPicture>(page);
+    QCOMPARE(placed.last().place.topLeft(), placed.first().place.topLeft());
+    for (const auto &picture : placed)
+        QVERIFY(perSheet == 1 || QRectF({}, setup.sheet()).contains(picture.place));
+}
+
+void TestViewerPages::scalesPictures_data()
+{
+    QTest::addColumn<QSize>("pixels");
+    QTest::addColumn<QSizeF>("inches");
+    QTest::newRow("16.54 % of its size") << QSize(900, 560) << QSizeF(1.550625, 0.964833);
+    QTest::newRow("as far as its place allows") << QSize(4000, 3000) << QSizeF(1.333333, 1);
+    QTest::newRow("a panorama") << QSize(8000, 1000) << QSizeF(1.8, 0.225);
+    QTest::newRow("not below an inch") << QSize(64, 80) << QSizeF(0.8, 1);
+    QTest::newRow("without a file") << QSize() << QSizeF(1.8, 1);
+}
+
+void TestViewerPages::scalesPictures()
+{
+    QFETCH(QSize, pixels);
+    QFETCH(QSizeF, inches);
+    const Page page = ViewerPages::pictureList({{u"A"_s, QString(), pixels}}, {}, DateStyle::Usa, today);
+    const QSizeF size = itemsOf<PageItem::PlacedPicture>(page).constFirst().place.size();
+    QVERIFY(std::abs(size.width() - inches.width()) < 0.0001);
+    QVERIFY(std::abs(size.height() - inches.height()) < 0.0001);
+}
+
+void TestViewerPages::fillsSheetsOfTwenty()
+{
+    const QByteArray json = contentOf(u"" QUILLERY_TEST_DATA "/household/expected.json"_s);
+    const QJsonValue expected = QJsonDocument::fromJson(json)["address_book"_L1]["picture_list_pages"_L1];
+    const DataFolder folder(u"" QUILLERY_TEST_DATA "/household/data"_s);
+    AddressViewer viewer(folder, DateStyle::Usa);
+    viewer.load(Information::Pictures, {});
+    int withPicture = 0;
+    for (int row = 0; row < viewer.count(); ++row)
+        withPicture += viewer.information(row).size() >= 5;
+    const Page page = ViewerPages::pictureList(pictures(withPicture), {}, DateStyle::Usa, today);
+    QCOMPARE(int(itemsOf<PageItem::Break>(page).size()), expected.toInt());
+    QVERIFY(page.toText().contains(u"Page 2 of 2"_s));
+}
+
+void TestViewerPages::copiesHeadingsAndRows()
+{
+    QCOMPARE(ViewerPages::clipboardText(*m_viewer, DateStyle::Usa),
+             u"Name\tState\nLind, Anne\tNL\nMüller, Karl\t\nHolm, Mats\tWI\n"_s);
+}
+
+void TestViewerPages::exportsBytes()
+{
+    m_viewer->load(Information::Address, {});
+    QCOMPARE(ViewerPages::exportText(*m_viewer, DateStyle::Usa),
+             "Name\tAddress, Address Line 2, City, State, Zip Code\r\n"
+             "Lind, Anne\t14 Orchard Lane, Ashford, NL, 75944\r\nM\xFCller, Karl\t\r\nHolm, Mats\tWI\r\n");
+}
+
+void TestViewerPages::namesTheExport_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the viewer") << ViewerMessages::viewerTitle() << u"Family-Friends Data Viewer.xls"_s;
+    QTest::newRow("what no file name holds") << u"a\\b:c\n?"_s << u"a-b-c--.xls"_s;
+}
+
+void TestViewerPages::namesTheExport()
+{
+    QFETCH(QString, title);
+    QTEST(ViewerPages::exportName(title), "name");
+}
+
+QTEST_GUILESS_MAIN(TestViewerPages)
+#include "tst_viewerpages.moc"
