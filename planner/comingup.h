@@ -1,0 +1,57 @@
+#pragma once
+
+#include "shell/functions.h"
+
+#include <QAbstractListModel>
+#include <QDate>
+#include <QWidget>
+
+class QLabel;
+class QListView;
+struct Program;
+
+/// What other functions have for a day and the two weeks from it: birthdays, things that fall due. They are
+/// shown beside the day and never take one of its rows.
+class ComingUpModel final : public QAbstractListModel
+{
+    Q_OBJECT
+public:
+    enum Role { SourceRole = Qt::UserRole, IconRole };
+
+    ComingUpModel(const Program &program, QObject *parent);
+
+    /// Asks the functions that have notes; a guarded one is not asked.
+    void load(QDate from, QDate to);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    struct Note {
+        DayNote note;
+        Function function;
+    };
+    QString whenText(QDate date) const;
+
+    const Program &m_program;
+    std::vector<Note> m_notes;
+};
+
+class ComingUp final : public QWidget
+{
+    Q_OBJECT
+public:
+    ComingUp(const Program &program, QWidget *parent = nullptr);
+
+    /// Shows the notes of the two weeks from `date`; they are read once the window has been painted.
+    void setDate(QDate date);
+
+private:
+    void load();
+
+    ComingUpModel *m_model;
+    QListView *m_list;
+    QLabel *m_nothing;
+    QDate m_date;
+    bool m_isLoading = false;
+};

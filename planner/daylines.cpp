@@ -1,0 +1,48 @@
+#include "planner/daylines.h"
+
+#include <algorithm>
+
+DayLines::DayLines(const PlannerDay &day)
+{
+    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+        if (!day.isRowEmpty(row))
+            m_lines.push_back({AnsiText::trimmedBlanks(day.times[row]).toString(),
+                               AnsiText::trimmedBlanks(day.texts[row]).toString()});
+    }
+}
+
+QString DayLines::joined(int entry) const
+{
+    const Line &line = m_lines[std::size_t(entry)];
+    if (line.time.isEmpty() || line.text.isEmpty())
+        return line.time + line.text;
+    return line.time + u' ' + line.text;
+}
+
+int DayLines::wanted(int entry, int characters, Style style) const
+{
+    const qsizetype length = style == Joined ? joined(entry).size() : text(entry).size();
+    const qsizetype perLine = std::max(1, characters);
+    return int(std::max<qsizetype>(1, (length + perLine - 1) / perLine));
+}
+
+int DayLines::lineCount(int characters, Style style) const
+{
+    int lines = 0;
+    for (int entry = 0; entry < count(); ++entry)
+        lines += wanted(entry, characters, style);
+    return lines;
+}
+
+std::vector<int> DayLines::share(int characters, int capacity, Style style) const
+{
+    const int shown = count() <= capacity ? count() : std::max(0, capacity - 1);
+    std::vector<int> lines(std::size_t(shown), 1);
+    int free = count() <= capacity ? capacity - shown : 0;
+    for (int entry = 0; entry < shown; ++entry) {
+        const int more = std::min(free, wanted(entry, characters, style) - 1);
+        lines[std::size_t(entry)] += more;
+        free -= more;
+    }
+    return lines;
+}

@@ -1,0 +1,164 @@
+#include "planner/plannercalendar.h"
+
+#include "planner/quietlines.h"
+#include "shell/clock.h"
+#include "shell/controls.h"
+#include "shell/monthview.h"
+
+#include <QBoxLayout>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QTableView>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int gap = 16;
+/// The height of a month that stands above another one.
+constexpr int stackedHeight = 206;
+constexpr int stackedRow = 22;
+
+} // namespace
+
+PlannerCalendar::PlannerCalendar(const Clock &clock, MarkedDays markedDays, QWidget *parent)
+    : QWidget(parent)
+    , m_clock(clock)
+    , m_markedDays(std::move(markedDays))
+    , m_first(named(new MonthView(this), u"MonthView1"_s))
+    , m_second(named(new MonthView(this), u"monthViewAfter"_s))
+{
+    m_first->setAccessibleName(u"Calendar"_s);
+    m_second->setAccessibleName(u"Calendar, the month after"_s);
+    m_second->hide();
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(4);
+    m_months = new QBoxLayout(QBoxLayout::TopToBottom);
+    m_months->setSpacing(4);
+    m_months->addWidget(m_first);
+    m_months->addWidget(m_second);
+    rows->addLayout(m_months, 1);
+    QLabel *hint = makeQuietLabel(PlannerLines::dotsExplained(), this);
+    hint->setAlignment(Qt::AlignHCenter);
+    rows->addWidget(hint);
+    for (MonthView *month : {m_first, m_second}) {
+        connect(month, &QCalendarWidget::selectionChanged, this, [this, month] { announce(month); });
+        connect(month, &QCalendarWidget::clicked, this, [this, month] { announce(month); });
+    }
+    connect(m_first, &QCalendarWidget::currentPageChanged, this, [this] { showPages(); });
+    connect(m_second, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) {
+        if (m_isSetting)
+            return;
+        const QDate before = QDate(year, month, 1).addMonths(-1);
+        m_first->setCurrentPage(before.year(), before.month());
+    });
+}
+
+void PlannerCalendar::setOptions(const CalendarOptions &options)
+{
+    for (MonthView *month : {m_first, m_second}) {
+        month->setFirstDayOfWeek(options.firstDay());
+        month->setVerticalHeaderFormat(options.showsWeekNumbers() ? QCalendarWidget::ISOWeekNumbers
+                                                                  : QCalendarWidget::NoVerticalHeader);
+        month->setToday(m_clock.today());
+        month->setTodayMarked(options.marksToday());
+    }
+    m_second->setVisible(options.shownMonths() == 2);
+    arrange();
+    showPages();
+}
+
+QDate PlannerCalendar::date() const
+{
+    return m_first->selectedDate();
+}
+
+void PlannerCalendar::setDate(QDate date)
+{
+    const QScopedValueRollback<bool> setting(m_isSetting, true);
+    m_announced = {};
+    const QDate first = firstShown();
+    const bool isInSecond =
+        m_second->isVisibleTo(this) && date >= first.addMonths(1) && date < first.addMonths(2);
+    for (MonthView *month : {m_first, m_second})
+        month->setSelectedDate(date);
+    // A day of the second month is shown where it stands.
+    const QDate shown = isInSecond ? first : date;
+    m_first->setCurrentPage(shown.year(), shown.month());
+    showPages();
+}
+
+void PlannerCalendar::refreshMarks()
+{
+    m_marks.clear();
+    showMarks();
+}
+
+void PlannerCalendar::announce(MonthView *from)
+{
+    if (m_isSetting)
+        return;
+    // A click tells twice, and a question that it leads to must wait until the calendar has done with it.
+    const bool isNew = !m_announced.isValid();
+    m_announced = from->selectedDate();
+    if (!isNew)
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (const QDate date = std::exchange(m_announced, {}); date.isValid()) {
+                setDate(date);
+                emit dateChosen(date);
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+QDate PlannerCalendar::firstShown() const
+{
+    return {m_first->yearShown(), m_first->monthShown(), 1};
+}
+
+void PlannerCalendar::showPages()
+{
+    const QScopedValueRollback<bool> setting(m_isSetting, true);
+    const QDate second = firstShown().addMonths(1);
+    m_second->setCurrentPage(second.year(), second.month());
+    showMarks();
+}
+
+void PlannerCalendar::showMarks()
+{
+    // A page shows some days of the months around it.
+    QSet<QDate> marked;
+    const QDate from = firstShown().addDays(-7);
+    const QDate to = firstShown().addMonths(m_second->isVisibleTo(this) ? 2 : 1).addDays(14);
+    for (int year = from.year(); year <= to.year(); ++year) {
+        const auto known = m_marks.find(year);
+        marked +=
+            known != m_marks.end() ? known->second : m_marks.emplace(year, m_markedDays(year)).first->second;
+    }
+    m_first->setMarkedDays(marked);
+    m_second->setMarkedDays(marked);
+}
+
+void PlannerCalendar::arrange()
+{
+    const bool hasTwo = m_second->isVisibleTo(this);
+    const bool sideBySide = hasTwo && width() >= 2 * m_first->minimumSizeHint().width() + gap;
+    m_months->setDirection(sideBySide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_months->setSpacing(sideBySide ? gap : 4);
+    for (MonthView *month : {m_first, m_second}) {
+        month->setMinimumHeight(hasTwo && !sideBySide ? stackedHeight : 0);
+        month->setMaximumHeight(hasTwo && !sideBySide ? stackedHeight : QWIDGETSIZE_MAX);
+        if (auto *days = month->findChild<QTableView *>())
+            days->verticalHeader()->setMinimumSectionSize(hasTwo && !sideBySide ? stackedRow : -1);
+    }
+}
+
+void PlannerCalendar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    arrange();
+}

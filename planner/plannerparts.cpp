@@ -1,0 +1,298 @@
+// How the planner's window is put together.
+
+#include "planner/zcalandar1.h"
+
+#include "planner/calendaroptionspanel.h"
+#include "planner/comingup.h"
+#include "planner/dayform.h"
+#include "planner/monthgrid.h"
+#include "planner/plannercalendar.h"
+#include "planner/quietlines.h"
+#include "planner/recurrencepanel.h"
+#include "planner/searchpanel.h"
+#include "planner/slicedwork.h"
+#include "planner/steptitle.h"
+#include "planner/weekview.h"
+#include "shell/activitybar.h"
+#include "shell/controls.h"
+#include "shell/helpcontexts.h"
+#include "shell/settingskeys.h"
+#include "shell/theme.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The left pane: with one month, in a narrow window, and with two months side by side.
+constexpr int leftPaneWidth = 328;
+constexpr int narrowLeftPaneWidth = 304;
+constexpr int twoMonthsWidth = 596;
+/// Windows narrower than this have the narrow left pane.
+constexpr int wideFrom = 1200;
+
+WindowTraits traits()
+{
+    WindowTraits traits;
+    traits.name = u"Zcalandar1"_s;
+    traits.caption = u"Personal Planner"_s;
+    traits.activity = u"Personal Planner"_s;
+    traits.colors = {SettingsKeys::plannerColor, SettingsKeys::plannerProgramColor, {}};
+    traits.helpContext = HelpContext::Planner;
+    traits.topToolbar = SettingsKeys::topToolbar;
+    return traits;
+}
+
+/// The days of a year that hold more than blank rows.
+QSet<QDate> daysWithEntries(const PlannerFiles &files, int year)
+{
+    QSet<QDate> days;
+    files.forEachDay(year, [&days](QDate date, const PlannerDay &day) {
+        if (!day.isEmpty())
+            days.insert(date);
+    });
+    return days;
+}
+
+/// `content` in a view that scrolls where it does not fit.
+QScrollArea *scrolled(QWidget *content, const QString &name, QWidget *parent)
+{
+    auto *scroll = named(new QScrollArea(parent), name);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    content->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
+    return scroll;
+}
+
+} // namespace
+
+Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
+    : FunctionWindow(program, traits(), parent)
+    , m_files(program.folder)
+    , m_importWork(new SlicedWork(this))
+{
+    m_splitter = named(new QSplitter(Qt::Horizontal), u"leftPaneSplitter"_s);
+    m_splitter->addWidget(makeLeftPane());
+    m_splitter->addWidget(makeWorkPanel());
+    m_splitter->setStretchFactor(1, 1);
+    setWork(m_splitter);
+    makeMenus();
+    makeToolbar();
+    connectParts();
+    connectViews();
+    connectWalks();
+    rememberSplitter(m_splitter);
+    finishFrame();
+    m_splitterMoved = program.store.contains(u"Windows/Zcalandar1/leftPaneSplitter"_s);
+    const int placement = program.settings.number(SettingsKeys::plannerPlacement);
+    m_placement->button(placement == int(UntimedPlacement::First) ? 1 : 0)->setChecked(true);
+    loadDay(clock().today());
+    setOptions(CalendarOptions::read(program.settings));
+    refreshCommands();
+    m_form->focusRow(m_form->firstEmptyRow());
+}
+
+Zcalandar1::~Zcalandar1() = default;
+
+QWidget *Zcalandar1::makeLeftPane()
+{
+    m_leftPane = named(new QWidget(this), u"leftPane"_s);
+    m_leftPane->setMinimumWidth(narrowLeftPaneWidth - 8);
+    auto *layout = new QVBoxLayout(m_leftPane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    m_searchBox = named(new QLineEdit(m_leftPane), u"plannerSearch"_s);
+    m_searchBox->setPlaceholderText(u"Search all years"_s);
+    m_searchBox->setAccessibleName(u"Search all years"_s);
+    m_searchBox->setClearButtonEnabled(true);
+    m_searchBox->addAction(Icons::icon("search"_L1, Theme::of(this).scheme), QLineEdit::LeadingPosition);
+    m_searchBox->setToolTip(u"Type a part of an appointment and press Enter"_s);
+
+    QWidget *calendarPanel = makePanel(u"calendarPanel"_s);
+    auto *calendarLayout = new QVBoxLayout(calendarPanel);
+    calendarLayout->setContentsMargins(12, 10, 12, 12);
+    m_calendar = new PlannerCalendar(
+        clock(), [this](int year) { return daysWithEntries(m_files, year); }, calendarPanel);
+    calendarLayout->addWidget(m_calendar);
+
+    QWidget *comingPanel = makePanel(u"comingUpPanel"_s);
+    auto *comingLayout = new QVBoxLayout(comingPanel);
+    comingLayout->setContentsMargins(18, 14, 12, 12);
+    m_comingUp = new ComingUp(program(), comingPanel);
+    comingLayout->addWidget(m_comingUp);
+    layout->addWidget(m_searchBox);
+    layout->addWidget(calendarPanel);
+    layout->addWidget(comingPanel, 1);
+    return m_leftPane;
+}
+
+QWidget *Zcalandar1::makeWorkPanel()
+{
+    QWidget *panel = makePanel(u"dayPanel"_s);
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(1, 1, 1, 1);
+    m_views = new QStackedWidget(panel);
+    layout->addWidget(m_views);
+    const DateStyle style = program().state.dateStyle;
+    m_dayView = makeDayView();
+    m_week = new WeekView(m_files, style);
+    m_month = new MonthGrid(m_files, style);
+    m_searchPanel = new SearchPanel(style);
+    m_recurrence = named(new RecurrencePanel(program()), u"recurrencePanel"_s);
+    m_optionsPanel = named(new CalendarOptionsPanel, u"calendarOptionsPanel"_s);
+    for (QWidget *view : std::initializer_list<QWidget *>{m_dayView, m_week, m_month, m_searchPanel,
+                                                          m_recurrence, m_optionsPanel})
+        m_views->addWidget(view);
+    return panel;
+}
+
+QWidget *Zcalandar1::makeDayView()
+{
+    auto *view = new QWidget;
+    auto *rows = new QVBoxLayout(view);
+    rows->setContentsMargins(20, 10, 20, 14);
+    rows->setSpacing(4);
+    m_caption = new StepTitle({u"SSPanel4"_s, u"day"_s, u"Today"_s}, view);
+    m_form = new DayForm;
+    rows->addWidget(m_caption);
+    rows->addWidget(makeRowHeads());
+    rows->addWidget(scrolled(m_form, u"dayScroll"_s, view), 1);
+    rows->addWidget(makeLine(view));
+    rows->addSpacing(4);
+    rows->addWidget(makeDayFoot());
+    return view;
+}
+
+/// The heads of the two columns, and where entries without AM or PM stand.
+QWidget *Zcalandar1::makeRowHeads()
+{
+    auto *line = new QWidget;
+    auto *layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    QFont head = TypeScale::label();
+    head.setWeight(QFont::DemiBold);
+    QLabel *time = makeQuietLabel(u"Time"_s, line);
+    QLabel *text = makeQuietLabel(u"Appointment or activity"_s, line);
+    QLabel *without = makeQuietLabel(u"Without AM/PM:"_s, line);
+    time->setFont(head);
+    text->setFont(head);
+    time->setFixedWidth(112);
+    layout->addSpacing(28);
+    layout->addWidget(time);
+    layout->addWidget(text);
+    layout->addStretch(1);
+    layout->addWidget(without);
+    m_placement = new QButtonGroup(this);
+    for (const auto &[id, caption] :
+         {std::pair{UntimedPlacement::Last, u"Last"_s}, {UntimedPlacement::First, u"First"_s}}) {
+        auto *button = named(new QRadioButton(caption, line), u"Option7_"_s + QString::number(int(id)));
+        button->setAccessibleName(u"Entries without AM/PM: "_s + caption);
+        button->setToolTip(u"Where entries without AM or PM stand when the day is saved"_s);
+        button->setFont(TypeScale::label());
+        m_placement->addButton(button, int(id));
+        layout->addWidget(button);
+    }
+    return line;
+}
+
+QWidget *Zcalandar1::makeDayFoot()
+{
+    auto *foot = new QWidget;
+    QPushButton *clear = makeButton(u"clearDay"_s, u"&Clear Day"_s, foot);
+    QPushButton *save = makeButton(u"saveDay"_s, u"&Save Day"_s, foot, ButtonKind::Main);
+    QPushButton *exit = makeButton(u"exitPlanner"_s, u"E&xit"_s, foot);
+    m_unsaved = named(makeQuietLabel({}, foot), u"unsavedWords"_s);
+    auto *layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    layout->addWidget(clear);
+    layout->addWidget(m_unsaved);
+    layout->addStretch(1);
+    layout->addWidget(save);
+    layout->addWidget(exit);
+    connect(clear, &QPushButton::clicked, this, &Zcalandar1::clearDay);
+    connect(save, &QPushButton::clicked, this, &Zcalandar1::saveDay);
+    connect(exit, &QPushButton::clicked, this, &QWidget::close);
+    return foot;
+}
+
+void Zcalandar1::connectParts()
+{
+    connect(m_searchBox, &QLineEdit::returnPressed, this, &Zcalandar1::search);
+    connect(m_calendar, &PlannerCalendar::dateChosen, this, &Zcalandar1::goTo);
+    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterMoved = true; });
+    connect(m_placement, &QButtonGroup::idClicked, this, &Zcalandar1::setPlacement);
+    connect(m_caption, &StepTitle::stepped, this, &Zcalandar1::stepDay);
+    connect(m_caption, &StepTitle::todayRequested, this, &Zcalandar1::goToToday);
+    connect(m_form, &DayForm::edited, this, &Zcalandar1::refreshModified);
+    connect(m_form, &DayForm::said, &activity(), &ActivityBar::say);
+    auto *scroll = m_dayView->findChild<QScrollArea *>(u"dayScroll"_s);
+    connect(m_form, &DayForm::rowEntered, this, [this, scroll](int row) {
+        scroll->ensureWidgetVisible(m_form->textBox(row), 0, 40);
+        activity().say(PlannerLines::row(row));
+    });
+}
+
+void Zcalandar1::connectViews()
+{
+    const auto today = [this] { return clock().today(); };
+    connect(m_week, &WeekView::dayOpened, this, &Zcalandar1::goTo);
+    connect(m_week, &WeekView::left, this, &Zcalandar1::showDayView);
+    connect(m_week, &WeekView::stepped, this,
+            [this, today](int weeks) { openWeek(weeks == 0 ? today() : m_week->date().addDays(7 * weeks)); });
+    connect(m_month, &MonthGrid::dayOpened, this, &Zcalandar1::goTo);
+    connect(m_month, &MonthGrid::left, this, &Zcalandar1::showDayView);
+    connect(m_month, &MonthGrid::stepped, this, [this, today](int months) {
+        openMonth(months == 0 ? today() : m_month->date().addMonths(months));
+    });
+    connect(m_searchPanel, &SearchPanel::hitOpened, this, &Zcalandar1::openHit);
+    connect(m_searchPanel, &SearchPanel::left, this, &Zcalandar1::showDayView);
+    connect(m_optionsPanel, &CalendarOptionsPanel::accepted, this, &Zcalandar1::takeOptions);
+    connect(m_optionsPanel, &CalendarOptionsPanel::left, this, &Zcalandar1::showDayView);
+}
+
+void Zcalandar1::connectWalks()
+{
+    connect(m_recurrence, &RecurrencePanel::busyChanged, this, &Zcalandar1::setWorking);
+    connect(m_recurrence, &RecurrencePanel::filesChanged, this, &Zcalandar1::filesChanged);
+    connect(m_recurrence, &RecurrencePanel::left, this, &Zcalandar1::showDayView);
+    connect(m_recurrence, &RecurrencePanel::said, &activity(), &ActivityBar::say);
+    connect(m_importWork, &SlicedWork::progressed, this,
+            [this] { activity().showProgress(int(m_import.next), int(m_import.items.size()), true); });
+    connect(m_importWork, &SlicedWork::finished, this, &Zcalandar1::finishImport);
+    connect(&activity(), &ActivityBar::stopRequested, m_importWork, &SlicedWork::stop);
+}
+
+void Zcalandar1::setOptions(const CalendarOptions &options)
+{
+    m_options = options;
+    m_calendar->setOptions(options);
+    placeSplitter();
+}
+
+/// Until the user moves it, the left pane is as wide as suits the window and the months in it.
+void Zcalandar1::placeSplitter()
+{
+    if (!m_weekTool)
+        return; // still being put together
+    const bool isWide = width() >= wideFrom;
+    fitToolbar(isWide);
+    if (m_splitterMoved)
+        return;
+    const int left = !isWide                        ? narrowLeftPaneWidth
+                     : m_options.shownMonths() == 2 ? twoMonthsWidth
+                                                    : leftPaneWidth;
+    m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
+}

@@ -1,0 +1,182 @@
+#pragma once
+
+#include <QString>
+
+/// Lines that the planner writes into the status bar or beside a control; reasons of disabled commands among
+/// them.
+namespace PlannerLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString unsavedChanges()
+{
+    return u"Unsaved changes"_s;
+}
+
+inline QString row(int row)
+{
+    return u"Row %1 of 14"_s.arg(row + 1);
+}
+
+inline QString notSaved()
+{
+    return u"The day could not be saved: the disk refuses it. What is typed stays here."_s;
+}
+
+inline QString cleared()
+{
+    return u"All rows are empty now; the file changes when the day is saved"_s;
+}
+
+inline QString copied(int entries)
+{
+    return entries == 1 ? u"1 entry copied"_s : u"%1 entries copied"_s.arg(entries);
+}
+
+inline QString pasted(int entries)
+{
+    if (entries == 0)
+        return u"No row was free where the copied day has an entry"_s;
+    return entries == 1 ? u"1 entry pasted; not saved yet"_s
+                        : u"%1 entries pasted; not saved yet"_s.arg(entries);
+}
+
+inline QString noSuchDate(const QString &text)
+{
+    return u"This is not a date: "_s + text;
+}
+
+inline QString settingNotSaved()
+{
+    return u"The setting could not be saved"_s;
+}
+
+// Views and search
+
+inline QString dotsExplained()
+{
+    return u"A dot marks a day with entries"_s;
+}
+
+inline QString nothingComing()
+{
+    return u"Nothing from your other records in these two weeks."_s;
+}
+
+inline QString nothingFound(const QString &text)
+{
+    return u"No appointment of any year holds \u201c"_s + text + u'\u201d';
+}
+
+inline QString found(std::size_t hits, bool isCut)
+{
+    if (isCut)
+        return u"The first %1 appointments found"_s.arg(hits);
+    return hits == 1 ? u"1 appointment found"_s : u"%1 appointments found"_s.arg(hits);
+}
+
+// Recurrence and import
+
+inline QString rowIsEmpty()
+{
+    return u"Choose a row with an appointment to repeat first"_s;
+}
+
+inline QString noBeginning()
+{
+    return u"The beginning date cannot be read"_s;
+}
+
+inline QString noEnd()
+{
+    return u"The end date cannot be read"_s;
+}
+
+inline QString endBeforeBeginning()
+{
+    return u"The end date lies before the beginning date: there is no date to look at"_s;
+}
+
+inline QString noOccurrences()
+{
+    return u"The number of occurrences must be 1 or more"_s;
+}
+
+inline QString noInterval()
+{
+    return u"The number behind \u201cevery\u201d must be 1 or more"_s;
+}
+
+inline QString noDayOfMonth()
+{
+    return u"The day of the month must be a number from 1 to 31"_s;
+}
+
+inline QString noYearDay()
+{
+    return u"The date of the year cannot be read"_s;
+}
+
+inline QString updating()
+{
+    return u"The planner's files are being updated"_s;
+}
+
+inline QString nothingMade()
+{
+    return u"Every date has this appointment already: nothing was entered"_s;
+}
+
+inline QString made(int entries)
+{
+    return entries == 1 ? u"1 entry made"_s : u"%1 entries made"_s.arg(entries);
+}
+
+inline QString removed(int entries)
+{
+    if (entries == 0)
+        return u"No date in this range has the appointment"_s;
+    return entries == 1 ? u"1 entry removed"_s : u"%1 entries removed"_s.arg(entries);
+}
+
+/// `done`: what was written before, "12 entries made".
+inline QString diskRefused(const QString &date, const QString &done)
+{
+    return u"The disk refused "_s + date + u": the update ended there. Before it, "_s + done + u'.';
+}
+
+inline QString imported(int made, int there, int full, int passedOver)
+{
+    QString line = made == 1 ? u"1 To Do item entered"_s : u"%1 To Do items entered"_s.arg(made);
+    if (there > 0)
+        line += u", %1 there already"_s.arg(there);
+    if (full > 0)
+        line += u", %1 on full days left out"_s.arg(full);
+    if (passedOver > 0)
+        line += u", %1 dated before this day"_s.arg(passedOver);
+    return line;
+}
+
+// Reasons
+
+inline QString backupNotThere()
+{
+    return u"Backup is not part of this edition yet"_s;
+}
+
+inline QString copyFirst()
+{
+    return u"Copy a day first"_s;
+}
+
+inline QString inDayViewOnly()
+{
+    return u"This is done in the day view"_s;
+}
+
+inline QString inCalendarViewsOnly()
+{
+    return u"This is done in the views of a day, a week or a month"_s;
+}
+
+} // namespace PlannerLines

@@ -1,0 +1,47 @@
+#include "planner/slicedwork.h"
+
+#include <QElapsedTimer>
+
+namespace {
+
+constexpr int sliceMilliseconds = 12;
+
+} // namespace
+
+SlicedWork::SlicedWork(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_timer, &QTimer::timeout, this, &SlicedWork::work);
+}
+
+void SlicedWork::start(Step step)
+{
+    m_step = std::move(step);
+    m_isStopped = false;
+    m_timer.start(0);
+}
+
+void SlicedWork::stop()
+{
+    m_isStopped = isRunning();
+}
+
+void SlicedWork::work()
+{
+    QElapsedTimer slice;
+    slice.start();
+    while (!m_isStopped && !slice.hasExpired(sliceMilliseconds)) {
+        if (!m_step())
+            return end(false);
+    }
+    emit progressed();
+    if (m_isStopped)
+        end(true);
+}
+
+void SlicedWork::end(bool wasStopped)
+{
+    m_timer.stop();
+    m_step = {};
+    emit finished(wasStopped);
+}

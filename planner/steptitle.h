@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+class ElidedLabel;
+class QPushButton;
+
+/// The title line of a view in time: what is shown, one step back, back to today, one step on.
+class StepTitle final : public QWidget
+{
+    Q_OBJECT
+public:
+    struct Names {
+        QString title;  ///< object name of the title
+        QString unit;   ///< "day": ends the object names of the buttons, and their tool tips
+        QString middle; ///< caption of the button between the arrows
+    };
+
+    StepTitle(const Names &names, QWidget *parent);
+
+    void setTitle(const QString &title);
+    QString title() const;
+
+signals:
+    void stepped(int steps);
+    void todayRequested();
+
+private:
+    ElidedLabel *m_title;
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QWidget>
+
+/// The foot of a view of several days: a hint, and the way back to the day.
+class ViewFoot final : public QWidget
+{
+    Q_OBJECT
+public:
+    /// `name` begins the object name of its button: "month" makes "month_dayView".
+    ViewFoot(const QString &name, const QString &hint, QWidget *parent);
+
+signals:
+    void dayRequested();
+};

@@ -1,0 +1,547 @@
+#include "planner/messages.h"
+#include "planner/plannerfiles.h"
+#include "planner/zcalandar1.h"
+#include "shell/activitybar.h"
+#include "shell/controls.h"
+#include "shell/monthview.h"
+#include "tests/support/testprogram.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QListView>
+#include <QPointer>
+#include <QRadioButton>
+#include <QTableView>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QDate today(2026, 11, 21);
+
+PlannerDay dayOf(const QList<std::pair<QString, QString>> &rows)
+{
+    PlannerDay day;
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        day.times[std::size_t(i)] = rows[i].first;
+        day.texts[std::size_t(i)] = rows[i].second;
+    }
+    return day;
+}
+
+/// The planner open on 21 November 2026.
+class Screen
+{
+public:
+    explicit Screen(TestProgram &test)
+        : m_window(new Zcalandar1(test.program))
+    {
+        showActive(*m_window);
+    }
+    ~Screen()
+    {
+        if (m_window) // without its questions
+            delete m_window.data();
+    }
+
+    Zcalandar1 &window() const { return *m_window; }
+    bool isOpen() const { return m_window && m_window->isVisible(); }
+    FieldBox *time(int row) const { return box("Text1_", row); }
+    FieldBox *text(int row) const { return box("Text2_", row); }
+    void type(int row, const QString &time, const QString &text) const
+    {
+        QTest::keyClicks(this->time(row), time);
+        QTest::keyClicks(this->text(row), text);
+    }
+    void trigger(const char *name) const { control<QAction>(*m_window, name)->trigger(); }
+    void click(const char *name) const
+    {
+        QTest::mouseClick(control<QPushButton>(*m_window, name), Qt::LeftButton);
+    }
+    void choose(QDate date) const
+    {
+        control<MonthView>(*m_window, "MonthView1")->setSelectedDate(date);
+        QCoreApplication::processEvents();
+    }
+    QString caption() const { return control<QLabel>(*m_window, "SSPanel4")->text(); }
+    QString said() const { return m_window->findChild<ActivityBar *>()->message(); }
+    QStringList rows() const
+    {
+        QStringList rows;
+        for (int row = 0; row < 14; ++row)
+            rows << time(row)->text() + u'|' + text(row)->text();
+        while (!rows.isEmpty() && rows.last() == u"|"_s)
+            rows.removeLast();
+        return rows;
+    }
+
+private:
+    FieldBox *box(const char *name, int row) const
+    {
+        return control<FieldBox>(*m_window, (QByteArray(name) + QByteArray::number(row)).constData());
+    }
+
+    QPointer<Zcalandar1> m_window;
+};
+
+} // namespace
+
+class TestZcalandar1 : public QObject
+{
+    Q_OBJECT
+private slots:
+    void opensOnTheDayOfToday();
+    void savesTheDayInTimeOrder();
+    void asksBeforeAnotherDayTakesTheScreen_data();
+    void asksBeforeAnotherDayTakesTheScreen();
+    void asksBeforeItCloses();
+    void asksBeforeItSavesNothing();
+    void clearsTheRowsAfterAQuestion();
+    void copiesADayRowByRow();
+    void keepsWhereUntimedEntriesStand();
+    void picksTimesFromTheList();
+    void takesWhatARowCanHold();
+    void walksRowsAndDaysByKeys();
+    void goesToATypedDate();
+    void keepsTypedTextWhenTheDiskRefuses();
+    void leavesUntouchedTextsAsTheyAre();
+    void keepsTheCalendarOptions();
+    void opensDaysFromWeekAndMonth();
+    void opensDaysFromTheSearch();
+    void importsDatedToDoItems();
+    void tellsWhenNothingCanBeImported();
+    void asksOnlyUnguardedFunctionsForNotes();
+    void previewsWhatIsShown();
+};
+
+void TestZcalandar1::opensOnTheDayOfToday()
+{
+    TestProgram test;
+    PlannerFiles(test.folder).write(today, dayOf({{u"8:30 AM"_s, u"Market"_s}}));
+    const Screen screen(test);
+    QCOMPARE(screen.caption(), u"Saturday, November 21, 2026"_s);
+    QCOMPARE(screen.rows(), QStringList{u"8:30 AM|Market"_s});
+    QCOMPARE(screen.window().focusWidget(), screen.time(1));
+    QVERIFY(!screen.window().isModified());
+}
+
+void TestZcalandar1::savesTheDayInTimeOrder()
+{
+    TestProgram test;
+    const Screen screen(test);
+    screen.type(3, u"2:00 PM"_s, u"Choir"_s);
+    screen.type(7, u"9:30 AM"_s, u"Zoë"_s);
+    QVERIFY(screen.window().isModified());
+    screen.click("saveDay");
+    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::daySaved()});
+    QCOMPARE(screen.rows(), (QStringList{u"9:30 AM|Zoë"_s, u"2:00 PM|Choir"_s}));
+    QVERIFY(!screen.window().isModified());
+
+    const QByteArray record = test.bytes(u" 2026.Cal"_s).mid(380 * 900); // 21 November is record 381
+    QCOMPARE(record.size(), 850);
+    QCOMPARE(record.left(20), QByteArray("9:30 AM   2:00 PM   "));
+    QCOMPARE(record.mid(140, 50), QByteArray("Zo\xeb").leftJustified(50));
+    QCOMPARE(record.mid(840), QByteArray("Full      "));
+}
+
+void TestZcalandar1::asksBeforeAnotherDayTakesTheScreen_data()
+{
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<QStringList>("saved");
+    QTest::newRow("Yes saves the day that was loaded") << Answer::Yes << QStringList{u"|Ferns"_s};
+    QTest::newRow("No drops what was typed") << Answer::No << QStringList();
+}
+
+void TestZcalandar1::asksBeforeAnotherDayTakesTheScreen()
+{
+    QFETCH(Answer, answer);
+    QFETCH(QStringList, saved);
+    TestProgram test;
+    const Screen screen(test);
+    screen.type(5, {}, u"Ferns"_s);
+    test.dialogs.willAnswer(answer);
+    screen.choose(QDate(2027, 1, 2));
+    QList<Message> expected{PlannerMessages::saveBeforeNextAction()};
+    if (answer == Answer::Yes)
+        expected << PlannerMessages::daySaved();
+    QCOMPARE(test.dialogs.takeShown(), expected);
+    QCOMPARE(screen.caption(), u"Saturday, January 2, 2027"_s);
+    QCOMPARE(screen.rows(), QStringList());
+    QVERIFY(PlannerFiles(test.folder).peek(QDate(2027, 1, 2)).isEmpty());
+
+    screen.choose(today);
+    QCOMPARE(screen.rows(), saved);
+    QVERIFY(test.dialogs.takeShown().isEmpty());
+}
+
+void TestZcalandar1::asksBeforeItCloses()
+{
+    TestProgram test;
+    {
+        const Screen screen(test);
+        screen.type(0, u"8:00"_s, u"Bus"_s);
+        test.dialogs.willAnswer(Answer::Yes);
+        screen.click("exitPlanner");
+        QVERIFY(!screen.isOpen());
+    }
+    QCOMPARE(test.dialogs.takeShown(),
+             (QList<Message>{PlannerMessages::saveBeforeExiting(), PlannerMessages::daySaved()}));
+    QCOMPARE(PlannerFiles(test.folder).peek(today).texts[0], u"Bus"_s);
+}
+
+void TestZcalandar1::asksBeforeItSavesNothing()
+{
+    TestProgram test;
+    const Screen screen(test);
+    test.dialogs.willAnswer(Answer::No);
+    screen.click("saveDay");
+    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::nothingToSave()});
+    QCOMPARE(test.bytes(u" 2026.Cal"_s), QByteArray());
+
+    test.dialogs.willAnswer(Answer::Yes);
+    screen.click("saveDay");
+    QCOMPARE(test.bytes(u" 2026.Cal"_s).mid(380 * 900), QByteArray(840, ' ') + "Full      ");
+}
+
+void TestZcalandar1::clearsTheRowsAfterAQuestion()
+{
+    TestProgram test;
+    const Screen screen(test);
+    screen.click("clearDay");
+    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::nothingToClear()});
+
+    screen.type(2, u"1:00 PM"_s, u"Lunch"_s);
+    for (const Answer answer : {Answer::Cancel, Answer::No, Answer::Yes}) {
+        QCOMPARE(screen.rows().size(), 3);
+        test.dialogs.willAnswer(answer);
+        screen.click("clearDay");
+        QCOMPARE(test.dialogs.takeShown(),
+                 QList<Message>{PlannerMessages::clearDay(u"Saturday, November 21, 2026"_s)});
+    }
+    QCOMPARE(screen.rows(), QStringList());
+}
+
+void TestZcalandar1::copiesADayRowByRow()
+{
+    TestProgram test;
+    const Screen screen(test);
+    auto *paste = control<QAction>(screen.window(), "mEPaste");
+    screen.trigger("mECopy");
+    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::nothingToCopy()});
+    QVERIFY(!paste->isEnabled());
+
+    screen.type(0, u"7:00 AM"_s, u"Run"_s);
+    screen.type(4, {}, u"Call"_s);
+    screen.trigger("mECopy");
+    test.dialogs.willAnswer(Answer::No);
+    screen.choose(today.addDays(1));
+    screen.type(0, {}, u"Mine"_s);
+    paste->trigger();
+    QCOMPARE(screen.rows(), (QStringList{u"|Mine"_s, u"|"_s, u"|"_s, u"|"_s, u"|Call"_s}));
+    QVERIFY(screen.window().isModified());
+    QVERIFY(PlannerFiles(test.folder).peek(today.addDays(1)).isEmpty());
+}
+
+void TestZcalandar1::keepsWhereUntimedEntriesStand()
+{
+    TestProgram test;
+    {
+        const Screen screen(test);
+        QVERIFY(control<QRadioButton>(screen.window(), "Option7_0")->isChecked());
+        QTest::mouseClick(control<QRadioButton>(screen.window(), "Option7_1"), Qt::LeftButton);
+        screen.type(0, u"9:00 AM"_s, u"Timed"_s);
+        screen.type(1, {}, u"Any time"_s);
+        screen.click("saveDay");
+        QCOMPARE(screen.rows(), (QStringList{u"|Any time"_s, u"9:00 AM|Timed"_s}));
+    }
+    QCOMPARE(test.bytes(u"GColor3.Fil"_s).mid(57 * 20), QByteArray("\x01\x00", 2));
+    const Screen again(test);
+    QVERIFY(control<QRadioButton>(again.window(), "Option7_1")->isChecked());
+}
+
+void TestZcalandar1::picksTimesFromTheList()
+{
+    TestProgram test;
+    const Screen screen(test);
+    auto *list = control<QComboBox>(screen.window(), "Combo1");
+    QCOMPARE(list->count(), 33);
+    QCOMPARE(list->itemText(0), u"6:00 AM"_s);
+    QCOMPARE(list->itemText(12), u"12:00 PM"_s);
+    QCOMPARE(list->itemText(32), u"10:00 PM"_s);
+    screen.text(6)->setFocus();
+    emit list->activated(11);
+    QCOMPARE(screen.time(6)->text(), u"11:30 AM"_s);
+    QCOMPARE(screen.window().focusWidget(), screen.text(6));
+    QVERIFY(screen.window().isModified());
+}
+
+void TestZcalandar1::takesWhatARowCanHold()
+{
+    TestProgram test;
+    const Screen screen(test);
+    QTest::keyClicks(screen.time(0), u"12:00 in the night"_s);
+    QTest::keyClicks(screen.text(0), QString(60, u'w'));
+    QCOMPARE(screen.time(0)->text(), u"12:00 in t"_s);
+    QCOMPARE(screen.text(0)->text().size(), 50);
+    QVERIFY(!screen.said().isEmpty());
+    QTest::keyClicks(screen.text(1), u"\u4e00"_s);
+    QCOMPARE(screen.text(1)->text(), QString());
+}
+
+void TestZcalandar1::walksRowsAndDaysByKeys()
+{
+    TestProgram test;
+    const Screen screen(test);
+    const auto focus = [&] { return screen.window().focusWidget(); };
+    screen.time(2)->setFocus();
+    QTest::keyClick(focus(), Qt::Key_Down);
+    QCOMPARE(focus(), screen.time(3));
+    QTest::keyClick(focus(), Qt::Key_Tab);
+    QCOMPARE(focus(), screen.text(3));
+    QTest::keyClick(focus(), Qt::Key_Up);
+    QCOMPARE(focus(), screen.text(2));
+    QTest::keyClick(focus(), Qt::Key_Return);
+    QCOMPARE(focus(), screen.text(3));
+    QTest::keyClicks(screen.time(3), u"8:00"_s);
+    QTest::keyClick(screen.text(3), Qt::Key_Return);
+    QCOMPARE(focus(), screen.time(4));
+    QCOMPARE(screen.said(), u"Row 5 of 14"_s);
+
+    test.dialogs.willAnswer(Answer::No);
+    QTest::keyClick(focus(), Qt::Key_PageDown);
+    QCOMPARE(screen.window().loadedDate(), today.addDays(1));
+    QTest::keyClick(focus(), Qt::Key_PageUp);
+    QTest::keyClick(focus(), Qt::Key_PageUp);
+    QCOMPARE(screen.window().loadedDate(), today.addDays(-1));
+    QTest::keyClick(focus(), Qt::Key_T, Qt::ControlModifier);
+    QCOMPARE(screen.window().loadedDate(), today);
+    screen.click("next_day");
+    QCOMPARE(screen.window().loadedDate(), today.addDays(1));
+    QCOMPARE(control<MonthView>(screen.window(), "MonthView1")->selectedDate(), today.addDays(1));
+}
+
+void TestZcalandar1::goesToATypedDate()
+{
+    TestProgram test;
+    const Screen screen(test);
+    test.dialogs.willInput(u"2/29/2028"_s);
+    screen.trigger("mVGo");
+    QCOMPARE(screen.window().loadedDate(), QDate(2028, 2, 29));
+    test.dialogs.willInput(u"the day after"_s);
+    screen.trigger("mVGo");
+    QCOMPARE(screen.window().loadedDate(), QDate(2028, 2, 29));
+    QVERIFY(screen.said().contains("the day after"_L1));
+}
+
+void TestZcalandar1::keepsTypedTextWhenTheDiskRefuses()
+{
+    TestProgram test;
+    QVERIFY(QDir(test.folder.path()).mkdir(u" 2026.Cal"_s));
+    const Screen screen(test);
+    screen.type(0, u"8:00"_s, u"Bus"_s);
+    for (int i = 0; i < 2; ++i)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
+    screen.click("saveDay");
+    QVERIFY(test.dialogs.takeShown().isEmpty());
+    QVERIFY(screen.said().contains("could not be saved"_L1));
+
+    // Nor does another day take the place of what is on the screen.
+    test.dialogs.willAnswer(Answer::Yes);
+    screen.choose(QDate(2027, 3, 3));
+    QCOMPARE(screen.window().loadedDate(), today);
+    QCOMPARE(screen.rows(), QStringList{u"8:00|Bus"_s});
+    QVERIFY(screen.window().isModified());
+}
+
+void TestZcalandar1::leavesUntouchedTextsAsTheyAre()
+{
+    TestProgram test;
+    // Noise with the mark of a saved day: control characters, which no box can show.
+    QByteArray record(840, '\x01');
+    test.setBytes(u" 2026.Cal"_s, QByteArray(380 * 900, '\0') + record + "Full      " + QByteArray(50, 'x'));
+    const Screen screen(test);
+    QVERIFY(!screen.window().isModified());
+    screen.text(0)->setFocus();
+    screen.text(0)->selectAll();
+    QTest::keyClicks(screen.text(0), u"A"_s);
+    screen.click("saveDay");
+    const QByteArray saved = test.bytes(u" 2026.Cal"_s).mid(380 * 900);
+    QCOMPARE(saved.left(140), QByteArray(140, '\x01'));
+    QCOMPARE(saved.mid(850), QByteArray(50, 'x'));
+}
+
+void TestZcalandar1::keepsTheCalendarOptions()
+{
+    TestProgram test;
+    const Screen screen(test);
+    auto *first = control<MonthView>(screen.window(), "MonthView1");
+    auto *second = control<MonthView>(screen.window(), "monthViewAfter");
+    QCOMPARE(first->firstDayOfWeek(), Qt::Sunday);
+    QVERIFY(!second->isVisible());
+
+    screen.trigger("mOCal");
+    for (const char *choice : {"months_1", "weekNumbers_1", "weekStart_3", "today_1"})
+        QTest::mouseClick(control<QRadioButton>(screen.window(), choice), Qt::LeftButton);
+    QCOMPARE(test.bytes(u"SWR2.fil"_s), QByteArray());
+    screen.click("calendarOptionsOk");
+    const QByteArray bytes = test.bytes(u"SWR2.fil"_s);
+    QCOMPARE(bytes.mid(13 * 20, 2), QByteArray("\x01\x00", 2));
+    QCOMPARE(bytes.mid(14 * 20, 2), QByteArray("\x01\x00", 2));
+    QCOMPARE(bytes.mid(15 * 20, 2), QByteArray("\x04\x00", 2));
+    QCOMPARE(bytes.mid(16 * 20, 2), QByteArray("\x01\x00", 2));
+    QCOMPARE(bytes.size(), 16 * 20 + 2);
+
+    QCOMPARE(first->firstDayOfWeek(), Qt::Wednesday);
+    QCOMPARE(first->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
+    QVERIFY(second->isVisible());
+    QCOMPARE(second->monthShown(), 12);
+    second->setSelectedDate(QDate(2026, 12, 24));
+    QTRY_COMPARE(screen.window().loadedDate(), QDate(2026, 12, 24));
+    QCOMPARE(first->monthShown(), 11);
+}
+
+void TestZcalandar1::opensDaysFromWeekAndMonth()
+{
+    TestProgram test;
+    PlannerFiles(test.folder).write(QDate(2026, 11, 18), dayOf({{u"8:30 AM"_s, u"Market"_s}}));
+    const Screen screen(test);
+    screen.type(0, {}, u"unsaved"_s);
+    test.dialogs.willAnswer(Answer::No);
+    screen.trigger("mVMonth");
+    auto *month = control<QTableView>(screen.window(), "monthGrid");
+    QVERIFY(month->isVisible());
+    const QModelIndex wednesday = month->model()->index(2, 3); // the third week, from Sunday
+    QVERIFY(wednesday.data(Qt::AccessibleTextRole).toString().contains("8:30 AM Market"_L1));
+    QTest::mouseClick(month->viewport(), Qt::LeftButton, {}, month->visualRect(wednesday).center());
+    QCOMPARE(screen.window().loadedDate(), QDate(2026, 11, 18));
+    QCOMPARE(screen.rows(), QStringList{u"8:30 AM|Market"_s});
+
+    screen.trigger("mVWeek");
+    auto *week = control<QListView>(screen.window(), "weekView");
+    QVERIFY(week->isVisible());
+    QTest::keyClick(week, Qt::Key_Down);
+    QTest::keyClick(week, Qt::Key_PageDown);
+    QTest::keyClick(week, Qt::Key_Return);
+    QCOMPARE(screen.window().loadedDate(), QDate(2026, 11, 26));
+    QVERIFY(!week->isVisible());
+
+    screen.trigger("mVMonth");
+    QTest::keyClick(month, Qt::Key_PageUp);
+    QCOMPARE(control<QLabel>(screen.window(), "monthTitle")->text(), u"October 2026"_s);
+    QTest::keyClick(month, Qt::Key_Escape);
+    QVERIFY(!month->isVisible());
+    QVERIFY(screen.isOpen());
+}
+
+void TestZcalandar1::opensDaysFromTheSearch()
+{
+    TestProgram test;
+    const PlannerFiles files(test.folder);
+    files.write(QDate(2019, 2, 1), dayOf({{u"9:00"_s, u"Piano tuner"_s}}));
+    files.write(QDate(2027, 5, 5), dayOf({{u"8:00"_s, u"Bus"_s}, {u"9:00"_s, u"piano"_s}}));
+    const Screen screen(test);
+    auto *box = control<QLineEdit>(screen.window(), "plannerSearch");
+    auto *hits = control<QTableView>(screen.window(), "searchHits");
+    QTest::keyClicks(box, u"violin"_s);
+    QTest::keyClick(box, Qt::Key_Return);
+    QVERIFY(!hits->isVisible());
+    QVERIFY(screen.said().contains("violin"_L1));
+
+    box->clear();
+    QTest::keyClicks(box, u"PIANO"_s);
+    QTest::keyClick(box, Qt::Key_Return);
+    QVERIFY(hits->isVisible());
+    QCOMPARE(hits->model()->rowCount(), 2);
+    // The nearest one to come is chosen.
+    QTest::keyClick(hits, Qt::Key_Return);
+    QCOMPARE(screen.window().loadedDate(), QDate(2027, 5, 5));
+    QCOMPARE(screen.window().focusWidget(), screen.text(1));
+}
+
+void TestZcalandar1::importsDatedToDoItems()
+{
+    TestProgram test;
+    test.setBytes(u"TODOActv.FIL"_s, "\"Paint\",\"12/01/2026\",\"\"\r\n\"Old\",\"11/20/2026\",\"\"\r\n"
+                                     "\"Someday\",\"\",\"\"\r\n\"Call\",\"Sat 11/21/2026\",\"x\"\r\n");
+    const Screen screen(test);
+    const PlannerFiles files(test.folder);
+    for (int round = 0; round < 2; ++round) {
+        test.dialogs.willAnswer(Answer::Yes);
+        screen.trigger("mUImport");
+        QTRY_VERIFY(control<QAction>(screen.window(), "mUImport")->isEnabled() &&
+                    screen.said().contains("To Do"_L1));
+        QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::importToDoItems()});
+        QCOMPARE(screen.rows(), QStringList{u"|Call"_s});
+        QCOMPARE(files.peek(QDate(2026, 12, 1)).entryCount(), 1);
+        QVERIFY(files.peek(QDate(2026, 11, 20)).isEmpty());
+    }
+    QCOMPARE(screen.said(), u"0 To Do items entered, 2 there already, 1 dated before this day"_s);
+}
+
+void TestZcalandar1::tellsWhenNothingCanBeImported()
+{
+    TestProgram test;
+    const Screen screen(test);
+    test.dialogs.willAnswer(Answer::No);
+    screen.trigger("mUImport");
+    QCOMPARE(test.dialogs.takeShown().size(), 1);
+    test.dialogs.willAnswer(Answer::Yes);
+    screen.trigger("mUImport");
+    QCOMPARE(test.dialogs.takeShown(),
+             (QList<Message>{PlannerMessages::importToDoItems(), PlannerMessages::nothingToImport()}));
+}
+
+void TestZcalandar1::asksOnlyUnguardedFunctionsForNotes()
+{
+    TestProgram test;
+    FunctionEntry entry;
+    QDate from, to;
+    entry.dayNotes = [&](const Program &, QDate first, QDate last) {
+        from = first;
+        to = last;
+        return QList<DayNote>{{first.addDays(3), u"Anne Lind turns 48"_s, u"Address Book"_s}};
+    };
+    test.functions.add(Function::AddressBook, entry);
+    {
+        const Screen screen(test);
+        auto *list = control<QListView>(screen.window(), "comingUp");
+        QTRY_COMPARE(list->model()->rowCount(), 1);
+        QCOMPARE(from, today);
+        QVERIFY(to > today.addDays(6));
+        QCOMPARE(list->model()->index(0, 0).data(Qt::ToolTipRole).toString(),
+                 u"Anne Lind turns 48 (Address Book, on Tuesday)"_s);
+        QCOMPARE(screen.rows(), QStringList());
+    }
+    from = {};
+    test.state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
+    const Screen guarded(test);
+    QTest::qWait(20);
+    QVERIFY(!from.isValid());
+}
+
+void TestZcalandar1::previewsWhatIsShown()
+{
+    TestProgram test;
+    const Screen screen(test);
+    screen.type(0, u"8:00"_s, u"Bus"_s);
+    screen.trigger("mOPrt");
+    QVERIFY(screen.window().isPreviewShown());
+    // The page keys belong to the preview now.
+    QVERIFY(!control<QAction>(screen.window(), "mVNext")->isEnabled());
+    screen.window().closePreview();
+    QVERIFY(control<QAction>(screen.window(), "mVNext")->isEnabled());
+    QCOMPARE(screen.rows(), QStringList{u"8:00|Bus"_s});
+
+    test.dialogs.willAnswer(Answer::No);
+    test.dialogs.willRun([](QDialog &dialog) {
+        control<QLineEdit>(dialog, "rangeFrom")->setText(u"12/31/2026"_s);
+        QTest::mouseClick(control<QPushButton>(dialog, "rangeOk"), Qt::LeftButton);
+        return dialog.result();
+    });
+    screen.trigger("mOPRange");
+    QVERIFY(screen.window().isPreviewShown());
+}
+
+QTEST_MAIN(TestZcalandar1)
+#include "tst_zcalandar1.moc"
