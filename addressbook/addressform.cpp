@@ -3,6 +3,7 @@
 #include "addressbook/datefacts.h"
 #include "addressbook/datepicker.h"
 #include "addressbook/pictureframe.h"
+#include "addressbook/quietlines.h"
 #include "shell/clock.h"
 #include "shell/controls.h"
 #include "shell/dates.h"
@@ -82,7 +83,7 @@ AddressForm::AddressForm(const Clock &clock, const DateStyle &style, QWidget *wi
     m_columns->addWidget(makeHomeColumn(), 5);
     m_columns->addWidget(makeOtherColumn(), 3);
     setMaximumWidth(2 * greatestWidth + columnGap);
-    connectDates(window);
+    connectDates();
     paintIcons();
 }
 
@@ -209,7 +210,7 @@ QWidget *AddressForm::makeOtherColumn()
     return column;
 }
 
-void AddressForm::connectDates(QWidget *)
+void AddressForm::connectDates()
 {
     for (const AddressField dateField : {BirthDate, AnniversaryDate}) {
         FieldBox *box = m_boxes[dateField];
@@ -219,6 +220,8 @@ void AddressForm::connectDates(QWidget *)
     }
     connect(m_picker, &DatePicker::opening, this, [this](const FieldBox *box) {
         m_picker->setDate(date(box == m_boxes[BirthDate] ? BirthDate : AnniversaryDate));
+        if (box->isLocked())
+            emit said(AddressLines::lockedDate());
     });
     connect(m_picker, &DatePicker::dayChosen, this, [this](const FieldBox *box, QDate day) {
         if (!box->isLocked())

@@ -66,7 +66,7 @@ protected:
 private:
     void makeBoxes();
     void makeDialButtons();
-    void connectDates(QWidget *window);
+    void connectDates();
     QWidget *makeHomeColumn();
     QWidget *makeOtherColumn();
     void addPhones(QVBoxLayout *column);

@@ -1,4 +1,7 @@
+#include "addressbook/messages.h"
 #include "addressbook/serialmodem.h"
+#include "shell/settings.h"
+#include "shell/settingskeys.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -36,6 +39,11 @@ public:
         const ssize_t length = read(m_master, buffer.data(), buffer.size());
         return QByteArray(buffer.data(), length > 0 ? length : 0);
     }
+    void answer(QByteArrayView text) const
+    {
+        if (write(m_master, text.data(), std::size_t(text.size())) != text.size())
+            qFatal("the pseudo-terminal takes nothing");
+    }
     termios settings() const
     {
         termios line{};
@@ -47,6 +55,36 @@ private:
     int m_master;
     int m_keepOpen;
     QString m_device;
+};
+
+/// A person who dials, and the modem at the other end of the line: it answers what it hears.
+class Caller final : public CallDesk
+{
+public:
+    explicit Caller(const PseudoLine &line)
+        : m_line(line)
+    {}
+
+    void setDialing(bool isDialing) override { isDialingShown = isDialing; }
+    Answer ask(const Message &message) override
+    {
+        asked.append(message);
+        heard.append(m_line.received());
+        if (!heard.last().isEmpty())
+            m_line.answer("\r\nOK\r\n");
+        return Answer::Cancel;
+    }
+    std::optional<QString> askPort(const QString &, int current) override
+    {
+        return QString::number(current + 1);
+    }
+
+    bool isDialingShown = false;
+    QList<Message> asked;
+    QList<QByteArray> heard;
+
+private:
+    const PseudoLine &m_line;
 };
 
 class TestSerialModem : public QObject
@@ -61,6 +99,7 @@ private slots:
     void refusesWhatIsNoSerialLine();
     void givesUpOnALineThatTakesNothing();
     void offersThePortsThatAreThere();
+    void callsOverTheLine();
 };
 
 void TestSerialModem::numbersTheDevices_data()
@@ -145,6 +184,23 @@ void TestSerialModem::offersThePortsThatAreThere()
     const PseudoLine line;
     const SerialModem modem([&line](int port) { return port == 101 ? line.device() : QString(); });
     QCOMPARE(modem.ports(), QStringList(QStringLiteral("101: ") + line.device().section(u'/', -1)));
+}
+
+void TestSerialModem::callsOverTheLine()
+{
+    const QTemporaryDir folder;
+    const DataFolder data(folder.path());
+    const Settings settings(data);
+    const PseudoLine line;
+    Caller caller(line);
+    SerialModem modem([&line](int port) { return port == 2 ? line.device() : QString(); });
+    QCOMPARE(Dialling::call(QStringLiteral("555-1234"), modem, settings, caller), Dialling::Outcome::Called);
+    QCOMPARE(caller.asked, QList<Message>({AddressMessages::portNotAvailable(1),
+                                           AddressMessages::numberDialed(QStringLiteral("555-1234"))}));
+    QCOMPARE(caller.heard, QList<QByteArray>({"", "ATDT 555-1234;\r"}));
+    QCOMPARE(line.received(), QByteArray("ATH\r"));
+    QCOMPARE(settings.number(SettingsKeys::modemPort), 2);
+    QVERIFY(!caller.isDialingShown);
 }
 
 QTEST_GUILESS_MAIN(TestSerialModem)
