@@ -46,7 +46,6 @@ fresh() {
 
 address="mousemove 200 250 click 1"
 fresh WP1
-shot splash 1280 800
 shot main-menu 1280 800
 shot main-menu-1024 1024 768
 shot main-menu-side-toolbars 1280 800 "mousemove 300 785 click 1"
