@@ -1,0 +1,118 @@
+#pragma once
+
+#include "addressbook/addbkview.h"
+#include "addressbook/messages.h"
+#include "addressbook/namelistmodel.h"
+#include "shell/activitybar.h"
+#include "shell/controls.h"
+#include "tests/support/testprogram.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QListView>
+#include <QPointer>
+#include <QPushButton>
+
+/// A modem that writes down what it is told.
+class NotedModem final : public Modem
+{
+public:
+    NotedModem(QStringList &log, int workingPort)
+        : m_log(log)
+        , m_workingPort(workingPort)
+    {}
+    bool open(int port) override
+    {
+        m_log.append(QStringLiteral("open ") + QString::number(port));
+        return port == m_workingPort;
+    }
+    bool write(QByteArrayView text) override
+    {
+        m_log.append(QString::fromLatin1(text));
+        return true;
+    }
+    void close() override { m_log.append(QStringLiteral("close")); }
+
+private:
+    QStringList &m_log;
+    int m_workingPort;
+};
+
+/// The address book's screen on a folder of its own, and the hands that work it.
+class OpenAddressBook : public QObject
+{
+protected:
+    void open(TestProgram::Content content)
+    {
+        delete m_window;
+        m_modemLog.clear();
+        m_workingPort = 3;
+        m_test = std::make_unique<TestProgram>(content);
+        m_window = new ADDBKVIEW(m_test->program, nullptr,
+                                 [this] { return std::make_unique<NotedModem>(m_modemLog, m_workingPort); });
+        showActive(*m_window);
+    }
+    void close()
+    {
+        QVERIFY(m_test->dialogs.isDone());
+        delete m_window;
+    }
+
+    void click(const char *name) { QTest::mouseClick(control<QPushButton>(*m_window, name), Qt::LeftButton); }
+    void trigger(const char *name) { control<QAction>(*m_window, name)->trigger(); }
+    /// Types any characters; the toolkit's own keyClicks takes ASCII only.
+    static void typeInto(QWidget *box, const QString &text)
+    {
+        for (const QChar character : text)
+            QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(character), Qt::NoModifier);
+    }
+    void type(int field, const QString &text)
+    {
+        box(field)->setFocus(Qt::TabFocusReason);
+        box(field)->selectAll();
+        QTest::keyClick(box(field), Qt::Key_Delete);
+        typeInto(box(field), text);
+    }
+    void select(int row) { list()->setCurrentIndex(list()->model()->index(row, 0)); }
+    void clickRow(int row)
+    {
+        const QRect place = list()->visualRect(list()->model()->index(row, 0));
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, place.center());
+    }
+
+    FieldBox *box(int field) const
+    {
+        return control<FieldBox>(*m_window, qPrintable(QStringLiteral("Text1_%1").arg(field)));
+    }
+    QListView *list() const { return control<QListView>(*m_window, "List1"); }
+    QString lineAt(int row) const
+    {
+        return list()->model()->index(row, 0).data(NameListModel::LineRole).toString();
+    }
+    QString selectedName() const
+    {
+        return list()->selectionModel()->selectedRows().value(0).data().toString();
+    }
+    QString count() const { return control<QLabel>(*m_window, "Label1")->text(); }
+    QString said() const { return m_window->findChild<ActivityBar *>()->message(); }
+    /// In the button row, or in the title line of a narrow window.
+    QString words() const
+    {
+        return control<QLabel>(*control<QWidget>(*m_window, "buttonRow"), "rowWords")->text() +
+               control<QLabel>(*m_window, "titleWords")->text();
+    }
+    QByteArray record(int number) const
+    {
+        return m_test->bytes(QStringLiteral("Addbk1.Fil")).mid((number - 1) * 724, 724);
+    }
+    QByteArray index(int number) const
+    {
+        return m_test->bytes(QStringLiteral("Addbk2.Fil")).mid((number - 1) * 60, 60);
+    }
+    QList<Message> asked() { return m_test->dialogs.takeShown(); }
+
+    std::unique_ptr<TestProgram> m_test;
+    QPointer<ADDBKVIEW> m_window;
+    QStringList m_modemLog;
+    int m_workingPort = 3;
+};

@@ -1,0 +1,251 @@
+#include "tests/addressbook/openaddressbook.h"
+
+#include "addressbook/pictureframe.h"
+#include "shell/monthview.h"
+#include "shell/settingskeys.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QListWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// Dates, pictures, calls, copying and printing.
+class TestAddbkcommands : public OpenAddressBook
+{
+    Q_OBJECT
+private slots:
+    void init() { open(TestProgram::Household); }
+    void cleanup() { close(); }
+
+    void picksDates_data();
+    void picksDates();
+    void closesTheCalendar();
+    void tidiesTypedDates_data();
+    void tidiesTypedDates();
+    void tellsWhatTheDatesMean();
+    void hintsAtNamesTooLongForTheList();
+    void showsPicturesWhereverTheyAre();
+    void takesAPictureFromThePanel();
+    void dials();
+    void neverOpensThePortWithoutANumber();
+    void asksForAnotherPort();
+    void copiesTheEntry();
+    void showsWhatItPrints();
+    void warnsBeforePrintingManyPictures();
+};
+
+void TestAddbkcommands::picksDates_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<int>("field");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("birth, month first") << int(DateStyle::Usa) << 2 << u"Nov-24-2026"_s;
+    QTest::newRow("birth, day first") << int(DateStyle::Other) << 2 << u"24-Nov-2026"_s;
+    QTest::newRow("anniversary") << int(DateStyle::Usa) << 12 << u"Nov-24-2026"_s;
+}
+
+void TestAddbkcommands::picksDates()
+{
+    QFETCH(int, style);
+    QFETCH(int, field);
+    m_test->state.dateStyle = DateStyle(style);
+    auto *calendar = control<MonthView>(*m_window, "MonthView1");
+    QVERIFY(!calendar->isVisible());
+    click("Command6");
+    box(field)->setFocus(Qt::TabFocusReason);
+    QVERIFY(calendar->isVisible());
+    QCOMPARE(calendar->selectedDate(), QDate(2026, 11, 21));
+    emit calendar->clicked(QDate(2026, 11, 24));
+    QTEST(box(field)->text(), "text");
+    QVERIFY(!calendar->isVisible());
+    QVERIFY(box(field)->hasFocus());
+    QTest::mouseClick(box(field), Qt::LeftButton);
+    QVERIFY(calendar->isVisible());
+    QCOMPARE(calendar->selectedDate(), QDate(2026, 11, 24));
+}
+
+void TestAddbkcommands::closesTheCalendar()
+{
+    auto *calendar = control<MonthView>(*m_window, "MonthView1");
+    click("Command6");
+    const auto open = [&] {
+        box(1)->setFocus();
+        QTest::keyClick(box(1), Qt::Key_Tab);
+        return calendar->isVisible();
+    };
+    QVERIFY(open());
+    QTest::keyClick(box(2), Qt::Key_Escape);
+    QVERIFY(!calendar->isVisible());
+    QVERIFY(m_window->isVisible());
+
+    QVERIFY(open());
+    QTest::keyClick(box(2), Qt::Key_Tab);
+    QTRY_VERIFY(!calendar->isVisible());
+
+    QVERIFY(open());
+    QTest::mouseClick(control<QWidget>(*m_window, "Panel3D1"), Qt::LeftButton, {}, QPoint(12, 12));
+    QVERIFY(!calendar->isVisible());
+
+    QVERIFY(open());
+    QTest::keyClick(box(2), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(box(2)->text(), u"Nov-22-2026"_s);
+    QVERIFY(!calendar->isVisible());
+}
+
+void TestAddbkcommands::tidiesTypedDates_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("kept");
+    QTest::newRow("numbers") << u"11/24/1978"_s << u"Nov-24-1978"_s;
+    QTest::newRow("a month's name") << u"24 nov 1978"_s << u"Nov-24-1978"_s;
+    QTest::newRow("no date") << u"some time in May"_s << u"some time in May"_s;
+    QTest::newRow("a day that is none") << u"Feb-30-1980"_s << u"Feb-30-1980"_s;
+}
+
+void TestAddbkcommands::tidiesTypedDates()
+{
+    QFETCH(QString, typed);
+    click("Command6");
+    type(2, typed);
+    QTest::keyClick(box(2), Qt::Key_Tab);
+    QTEST(box(2)->text(), "kept");
+}
+
+void TestAddbkcommands::tellsWhatTheDatesMean()
+{
+    click("Command6");
+    type(2, u"Nov-24-1978"_s);
+    type(12, u"Jun-12-2004"_s);
+    QCOMPARE(control<QLabel>(*m_window, "birthFact")->text(), u"Birthday on Tuesday, turning 48"_s);
+    QCOMPARE(control<QLabel>(*m_window, "anniversaryFact")->text(), u"23 years in June"_s);
+}
+
+void TestAddbkcommands::hintsAtNamesTooLongForTheList()
+{
+    const auto *hint = control<QLabel>(*m_window, "nameHint");
+    click("Command6");
+    type(0, u"Featherstone-Brookfield"_s);
+    type(1, u"Frank David Marta"_s);
+    QVERIFY(!hint->isVisible());
+    type(1, u"Frank David Martas"_s);
+    QVERIFY(hint->isVisible());
+    QCOMPARE(hint->text(), AddressMessages::nameTooLong());
+}
+
+void TestAddbkcommands::showsPicturesWhereverTheyAre()
+{
+    auto *frame = control<PictureFrame>(*m_window, "Image1");
+    QVERIFY(frame->hasPicture()); // stored under C:\QUILLERY, found in the Pictures folder
+    select(1);
+    QVERIFY(!frame->hasPicture());
+    QCOMPARE(frame->words(), u"No Picture Currently Loaded"_s);
+    QVERIFY(said().isEmpty());
+    select(7);
+    QVERIFY(!frame->hasPicture());
+    QVERIFY(said().contains(u"moved away.jpg"_s));
+    select(0);
+    click("pictureEnlarge");
+    QVERIFY(control<PictureFrame>(*m_window, "enlargedPicture")->isVisible());
+    click("pictureNormal");
+    QVERIFY(frame->isVisible());
+}
+
+void TestAddbkcommands::takesAPictureFromThePanel()
+{
+    const QString path = m_test->path(u"Pictures/photo03.jpg"_s);
+    select(2);
+    click("Command7");
+    QVERIFY(control<QWidget>(*m_window, "picturePanel")->isVisible());
+    auto *files = control<QListWidget>(*m_window, "File1");
+    files->setCurrentItem(files->findItems(u"photo03.jpg"_s, Qt::MatchExactly).value(0));
+    click("pictureEnter");
+    QVERIFY(control<PictureFrame>(*m_window, "Image1")->hasPicture());
+    QVERIFY(m_window->isModified());
+    click("Command4");
+    QCOMPARE(record(4).mid(520, 200), path.toLatin1().leftJustified(200, ' '));
+    click("Command7");
+    click("pictureDelete");
+    click("Command4");
+    QCOMPARE(record(4).mid(520, 200), QByteArray("**").leftJustified(200, ' '));
+}
+
+void TestAddbkcommands::dials()
+{
+    m_test->dialogs.willAnswer(Answer::Cancel);
+    click("Image2_0");
+    QCOMPARE(asked(), {AddressMessages::numberDialed(u"(440) 555-0100"_s)});
+    QCOMPARE(m_modemLog, QStringList({u"open 3"_s, u"ATDT (440) 555-0100;\r"_s, u"ATH\r"_s, u"close"_s}));
+    QVERIFY(!control<QLabel>(*m_window, "Label3")->isVisible());
+}
+
+void TestAddbkcommands::neverOpensThePortWithoutANumber()
+{
+    select(2); // no mobile phone
+    click("Image2_1");
+    QCOMPARE(asked(), {AddressMessages::telephoneNumberMissing()});
+    QVERIFY(m_modemLog.isEmpty());
+}
+
+void TestAddbkcommands::asksForAnotherPort()
+{
+    m_workingPort = 101;
+    m_test->dialogs.willInput(u"101"_s);
+    m_test->dialogs.willAnswer(Answer::Ok);
+    m_test->dialogs.willAnswer(Answer::Ok);
+    click("Image2_1");
+    QCOMPARE(asked(), QList<Message>({AddressMessages::portNotAvailable(3),
+                                      AddressMessages::numberDialed(u"440 555 0100"_s)}));
+    QVERIFY(m_test->dialogs.takePrompts().contains(AddressMessages::newPortPrompt()));
+    QCOMPARE(m_test->settings.number(SettingsKeys::modemPort), 101);
+    QVERIFY(m_modemLog.contains(u"ATDT 440 555 0100;\r"_s));
+
+    m_workingPort = 0;
+    m_test->dialogs.willInput(std::nullopt);
+    click("Image2_1");
+    QVERIFY(!control<QLabel>(*m_window, "Label3")->isVisible());
+}
+
+void TestAddbkcommands::copiesTheEntry()
+{
+    for (const char *command : {"mOCopy", "mECopy"}) {
+        QApplication::clipboard()->clear();
+        trigger(command);
+        QCOMPARE(asked(), {AddressMessages::dataCopied()});
+        QVERIFY(QApplication::clipboard()->text().contains(u"160 High Street"_s));
+    }
+}
+
+void TestAddbkcommands::showsWhatItPrints()
+{
+    for (const char *command : {"mOPrt", "mOW"}) {
+        trigger(command);
+        QVERIFY(m_window->isPreviewShown());
+        QTest::keyClick(m_window, Qt::Key_Escape);
+        QVERIFY(!m_window->isPreviewShown());
+        QVERIFY(m_window->isVisible());
+    }
+    click("Command5");
+    click("print4");
+    asked();
+    QVERIFY(m_window->isPreviewShown());
+}
+
+void TestAddbkcommands::warnsBeforePrintingManyPictures()
+{
+    click("Command5");
+    control<QAbstractButton>(*m_window, "printAll")->setChecked(true);
+    m_test->dialogs.willAnswer(Answer::Cancel);
+    click("print2");
+    QCOMPARE(asked(), {AddressMessages::manyPictures()});
+    QVERIFY(!m_window->isPreviewShown());
+    control<QAbstractButton>(*m_window, "printSome")->setChecked(true);
+    click("print2");
+    QVERIFY(asked().isEmpty());
+    QVERIFY(m_window->isPreviewShown());
+}
+
+QTEST_MAIN(TestAddbkcommands)
+#include "tst_addbkcommands.moc"
