@@ -68,7 +68,8 @@ int run(QApplication &application, const DataFolder &programFolder, const DataFo
     Startfrm mainMenu(program);
     connectManual(program, mainMenu);
     QObject::connect(&link, &InstanceLink::called, &changes, &ProgramSignals::mainMenuRequested);
-    QObject::connect(&mainMenu, &Startfrm::exited, &application, &QApplication::quit);
+    // Later, when the main window has closed: what is left of the other windows is closed then.
+    QObject::connect(&mainMenu, &Startfrm::exited, &application, &QApplication::quit, Qt::QueuedConnection);
     splash.wait();
     mainMenu.show();
     mainMenu.activateWindow();

@@ -50,7 +50,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     , m_stop(named(new QPushButton(u"&Stop"_s, this), u"statusStop"_s))
     , m_date(named(new QLabel(this), u"statusDate"_s))
     , m_time(named(new QLabel(this), u"Label4"_s))
-    , m_timer(new QTimer(this))
+    , m_timer(named(new QTimer(this), u"Timer2"_s))
 {
     setObjectName("StatusBar1"_L1);
     setSizeGripEnabled(false);

@@ -3,6 +3,7 @@
 #include "shell/hinfo1.h"
 #include "shell/icons.h"
 #include "shell/program.h"
+#include "shell/settingskeys.h"
 #include "shell/theme.h"
 
 #include <QCoreApplication>
@@ -40,9 +41,10 @@ QPainterPath hills(const QRectF &area, qreal top, qreal rise)
 Splash1::Splash1(const Program &program)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
     , m_program(program)
+    , m_familyName(program.settings.text(SettingsKeys::familyName))
 {
     setObjectName("Splash1"_L1);
-    setWindowTitle(m_program.state.familyName.caption());
+    setWindowTitle(m_familyName.caption());
     setAccessibleName(windowTitle());
     setFixedSize(windowSize);
 }
@@ -101,7 +103,7 @@ void Splash1::paintEvent(QPaintEvent *)
     name.setPointSizeF(name.pointSizeF() * 1.35);
     painter.setFont(name);
     painter.setPen(theme.text);
-    const QString &family = m_program.state.familyName.text();
+    const QString &family = m_familyName.text();
     const QRect title = words.adjusted(0, 0, 0, -words.height() / 3);
     painter.drawText(title, Qt::AlignLeft | Qt::AlignBottom, u"Quillery"_s);
     painter.setFont(TypeScale::group());

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QPixmap>
+#include "shell/programstate.h"
+
 #include <QWidget>
 
 struct Program;
@@ -10,6 +11,7 @@ class Splash1 final : public QWidget
 {
     Q_OBJECT
 public:
+    /// Reads the family name: the main window has not done so yet.
     explicit Splash1(const Program &program);
 
     /// Shows the window, complete, and returns.
@@ -25,4 +27,5 @@ private:
     void paintCard(QPainter &painter, const QRectF &card) const;
 
     const Program &m_program;
+    FamilyName m_familyName;
 };

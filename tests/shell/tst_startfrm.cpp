@@ -1,7 +1,6 @@
 #include "startwindow.h"
 
 #include "shell/flowtoolbar.h"
-#include "shell/functionwindow.h"
 #include "shell/hinfo1.h"
 #include "shell/settingskeys.h"
 #include "shell/shellmessages.h"
@@ -17,29 +16,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// A function window with something typed in it.
-class UnsavedWindow final : public FunctionWindow
-{
-public:
-    UnsavedWindow(Program &program, bool &leaves)
-        : FunctionWindow(program,
-                         {u"Unsaved"_s,
-                          u"Unsaved"_s,
-                          u"Unsaved"_s,
-                          {SettingsKeys::addressEntryColor, SettingsKeys::addressEntryProgramColor, {}}})
-        , m_leaves(leaves)
-    {
-        finishFrame();
-    }
-
-protected:
-    Page page(const PageSetup &) const override { return Page(); }
-    bool mayDiscard() override { return m_leaves; }
-
-private:
-    bool &m_leaves;
-};
 
 /// The menu as text: "name caption", a dash for a separator, submenus indented.
 void listMenu(const QMenu &menu, const QString &indent, QStringList &lines)
@@ -66,12 +42,6 @@ private slots:
     void decidesTheDateStyle_data();
     void decidesTheDateStyle();
     void hasItsMenus();
-    void keepsTheDisplayMode();
-    void followsUnmaximisingByHand();
-    void opensAtTheSmallestSizeForAnEmptySize();
-    void asksBeforeItExits_data();
-    void asksBeforeItExits();
-    void letsAWindowStopTheExit();
     void asksForTheFamilyName();
     void removesAndRestoresTheTopToolbar();
     void refusesToCustomizeARemovedToolbar();
@@ -197,102 +167,6 @@ mH &Help
     QCOMPARE(lines, expected.split(u'\n'));
     QVERIFY(!control<QAction>(window, "mFP")->isEnabled());
     QCOMPARE(control<QAction>(window, "mFP")->toolTip(), u"Daily Planner is not part of this program yet."_s);
-}
-
-void TestStartfrm::keepsTheDisplayMode()
-{
-    StartWindow start;
-    Startfrm &window = start.show();
-    const auto mode = [&] { return start.record(u"GColor3.Fil"_s, colorLength, 35).left(5); };
-
-    start.trigger("mOPS");
-    QVERIFY(!window.isMaximized());
-    QCOMPARE(mode(), QByteArray("\x03\x00Yes", 5));
-    QCOMPARE(window.size(), QSize(800, 600));
-    QVERIFY(control<QAction>(window, "mOPS")->isChecked());
-    QVERIFY(!control<QAction>(window, "mOPF")->isChecked());
-
-    start.trigger("mOPF");
-    QVERIFY(window.isMaximized());
-    QCOMPARE(mode().left(4), QByteArray("\x02\x00No", 4));
-    QCOMPARE(start.test.state.screenMode, ScreenMode::FullScreen);
-
-    start.trigger("Toolbar2_1"); // toggles
-    QCOMPARE(mode(), QByteArray("\x03\x00Yes", 5));
-    window.resize(1000, 700);
-    start.trigger("mOPDefault");
-    QCOMPARE(window.size(), QSize(800, 600));
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 36).left(2), QByteArray("\x28\x23", 2)); // 9000
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 37).left(2), QByteArray("\xe0\x2e", 2)); // 12000
-}
-
-void TestStartfrm::followsUnmaximisingByHand()
-{
-    StartWindow start;
-    Startfrm &window = start.show();
-    start.trigger("mOPF");
-    window.showNormal();
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 35).left(5), QByteArray("\x03\x00Yes", 5));
-    QCOMPARE(start.test.state.screenMode, ScreenMode::Smaller);
-    QVERIFY(control<QAction>(window, "mOPS")->isChecked());
-    QVERIFY(!control<QAction>(window, "mOPF")->isChecked());
-    QTRY_COMPARE(window.size(), QSize(800, 600));
-}
-
-void TestStartfrm::opensAtTheSmallestSizeForAnEmptySize()
-{
-    StartWindow start;
-    start.test.settings.setText(SettingsKeys::smallerScreen, u"Yes"_s);
-    QCOMPARE(start.show().size(), QSize(800, 600));
-}
-
-void TestStartfrm::asksBeforeItExits_data()
-{
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("leaves");
-    QTest::newRow("yes") << Answer::Yes << true;
-    QTest::newRow("no") << Answer::No << false;
-    QTest::newRow("cancel") << Answer::Cancel << false;
-}
-
-void TestStartfrm::asksBeforeItExits()
-{
-    QFETCH(Answer, answer);
-    QFETCH(bool, leaves);
-    StartWindow start(TestProgram::Household);
-    start.addFunction(Function::AddressBook);
-    Startfrm &window = start.show();
-    start.trigger("mFB");
-    window.resize(1000, 500);
-    QSignalSpy exited(&window, &Startfrm::exited);
-    start.test.dialogs.willAnswer(answer);
-    start.trigger("mOE");
-    QCOMPARE(start.test.dialogs.takeShown(), QList<Message>{StartMessages::exit()});
-    QCOMPARE(exited.size(), leaves ? 1 : 0);
-    QCOMPARE(window.isVisible(), !leaves);
-    QCOMPARE(start.test.functions.openWindows().size(), leaves ? 0 : 1);
-    // 500 pixels are 7500 twips, raised to 9000; 1000 are 15000.
-    const QByteArray height = leaves ? QByteArray("\x28\x23", 2) : QByteArray("\x20\x2b", 2);
-    const QByteArray width = leaves ? QByteArray("\x98\x3a", 2) : QByteArray("\xd8\x45", 2);
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 36).left(2), height);
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 37).left(2), width);
-}
-
-void TestStartfrm::letsAWindowStopTheExit()
-{
-    StartWindow start;
-    bool leaves = false;
-    start.test.functions.add(
-        Function::Budget, {[&](Program &program) { return new UnsavedWindow(program, leaves); }, {}, {}, {}});
-    Startfrm &window = start.show();
-    start.trigger("mMB");
-    QVERIFY(!window.close());
-    QVERIFY(start.test.dialogs.takeShown().isEmpty());
-
-    leaves = true;
-    start.test.dialogs.willAnswer(Answer::Yes);
-    QVERIFY(window.close());
-    QVERIFY(start.test.functions.openWindows().isEmpty());
 }
 
 void TestStartfrm::asksForTheFamilyName()
