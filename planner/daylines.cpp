@@ -1,5 +1,7 @@
 #include "planner/daylines.h"
 
+#include <QList>
+
 #include <algorithm>
 
 DayLines::DayLines(const PlannerDay &day)
@@ -19,11 +21,23 @@ QString DayLines::joined(int entry) const
     return line.time + u' ' + line.text;
 }
 
+/// Lines that the text takes when it is broken between its words, and within those that are longer than a
+/// line.
 int DayLines::wanted(int entry, int characters, Style style) const
 {
-    const qsizetype length = style == Joined ? joined(entry).size() : text(entry).size();
     const qsizetype perLine = std::max(1, characters);
-    return int(std::max<qsizetype>(1, (length + perLine - 1) / perLine));
+    const QString whole = style == Joined ? joined(entry) : text(entry);
+    int lines = 1;
+    qsizetype used = 0;
+    for (const QStringView word : QStringView(whole).split(u' ', Qt::SkipEmptyParts)) {
+        if (used > 0 && used + 1 + word.size() <= perLine) {
+            used += 1 + word.size();
+            continue;
+        }
+        lines += (used > 0 ? 1 : 0) + int((word.size() - 1) / perLine);
+        used = (word.size() - 1) % perLine + 1;
+    }
+    return lines;
 }
 
 int DayLines::lineCount(int characters, Style style) const
