@@ -19,6 +19,7 @@
 #include <QStackedWidget>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -153,32 +154,26 @@ void RecurrencePanel::finish(bool wasStopped)
 {
     setRunning(false);
     emit filesChanged();
-    const bool isComplete = !wasStopped && m_run->failed() == 0;
-    if (wasStopped && m_run->lastDate().isValid())
-        m_program.dialogs.ask(this, PlannerMessages::recurrenceStopped(m_run->lastDate(),
-                                                                       m_action == RecurrenceAction::Insert));
-    else if (!wasStopped)
-        report();
-    m_run.reset();
-    if (isComplete)
-        emit left();
-}
-
-void RecurrencePanel::report()
-{
+    const auto run = std::exchange(m_run, {});
     const bool isInsert = m_action == RecurrenceAction::Insert;
-    const QString done =
-        isInsert ? PlannerLines::made(m_run->made()) : PlannerLines::removed(m_run->removed());
-    if (m_run->failed() > 0) {
-        emit said(
-            PlannerLines::diskRefused(Dates::numbers(m_run->lastDate(), m_program.state.dateStyle), done));
+    const QString done = isInsert ? PlannerLines::made(run->made()) : PlannerLines::removed(run->removed());
+    if (wasStopped) {
+        emit said({});
+        if (run->lastDate().isValid())
+            m_program.dialogs.ask(this, PlannerMessages::recurrenceStopped(run->lastDate(), isInsert));
         return;
     }
-    emit said(isInsert && m_run->made() == 0 && m_run->full() == 0 ? PlannerLines::nothingMade() : done);
-    if (!isInsert)
+    if (run->failed() > 0) {
+        emit said(
+            PlannerLines::diskRefused(Dates::numbers(run->lastDate(), m_program.state.dateStyle), done));
         return;
-    if (const auto message = PlannerMessages::recurrenceReport(m_run->made(), m_run->full()))
-        m_program.dialogs.ask(this, *message);
+    }
+    const auto report = isInsert ? PlannerMessages::recurrenceReport(run->made(), run->full()) : std::nullopt;
+    if (report)
+        m_program.dialogs.ask(this, *report);
+    emit left();
+    // Last, since the day that comes back says in which row it is.
+    emit said(isInsert && !report ? PlannerLines::nothingMade() : done);
 }
 
 void RecurrencePanel::setRunning(bool isRunning)

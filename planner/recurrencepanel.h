@@ -73,7 +73,6 @@ private:
     void walk(RecurrenceAction action, const Recurrence &recurrence);
     void showProgress();
     void finish(bool wasStopped);
-    void report();
     void setRunning(bool isRunning);
 
     Program &m_program;

@@ -159,7 +159,7 @@ QWidget *RecurrencePanel::makeProgressPanel()
     column->addWidget(
         makeHeading(u"Program is Updating Files:(This may take a minute of two)"_s, m_progressPanel));
     column->addWidget(m_progress);
-    column->addWidget(m_stop);
+    column->addWidget(m_stop, 0, Qt::AlignLeft);
     column->addWidget(
         makeNote(u" Please Do Not Try to Cancel Program Operation during this action or Program may Stop "
                  u"Functioning or Files may "_s,
