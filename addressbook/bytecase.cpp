@@ -83,6 +83,8 @@ bool ByteCase::contains(QByteArrayView bytes, QByteArrayView foldedText)
 {
     if (foldedText.isEmpty())
         return true;
+    if (foldedText.size() > bytes.size())
+        return false;
     const ByteTable &upper = upperTable();
     const auto isAt = [&](const char *at) {
         return std::equal(foldedText.begin() + 1, foldedText.end(), at + 1,

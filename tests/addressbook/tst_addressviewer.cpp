@@ -31,6 +31,8 @@ private slots:
     void readsOnlyTheFirstRows();
     void searchesNamesAndInformation_data();
     void searchesNamesAndInformation();
+    void findsTextsInBytes_data();
+    void findsTextsInBytes();
     void bringsARemovedRowBack();
     void sortsAndReturnsToRecordOrder_data();
     void sortsAndReturnsToRecordOrder();
@@ -312,6 +314,26 @@ void TestAddressViewer::searchesNamesAndInformation()
     QCOMPARE(viewer.nameCount(), 4);
     viewer.load(Information::EmailAddress, everyone);
     QTEST(namesOf(viewer), "names");
+}
+
+void TestAddressViewer::findsTextsInBytes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("at the end") << QByteArray("Mill") << QByteArray("ILL") << true;
+    QTest::newRow("the whole line") << QByteArray("mill") << QByteArray("MILL") << true;
+    QTest::newRow("longer than the line") << QByteArray("mill") << QByteArray("MILLE") << false;
+    QTest::newRow("much longer") << QByteArray("m") << QByteArray(1000, 'M') << false;
+    QTest::newRow("in an empty line") << QByteArray() << QByteArray("M") << false;
+    QTest::newRow("nothing in an empty line") << QByteArray() << QByteArray() << true;
+}
+
+void TestAddressViewer::findsTextsInBytes()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, text);
+    QTEST(ByteCase::contains(bytes, text), "isThere");
 }
 
 void TestAddressViewer::bringsARemovedRowBack()
