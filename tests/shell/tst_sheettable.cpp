@@ -89,9 +89,11 @@ void TestSheetTable::goesOnBelowItsColumns()
     QCOMPARE(painter.sheetCount(), 1);
     // The first column reaches further down than the second: the closing lines stay clear of it.
     QVERIFY(painter.text(0).endsWith(u"Quillery\nPrinted on 11/21/2026"_s));
-    const QImage image = painter.image(0, 72);
-    const QRectF foot = inkOf(image, qRgb(0x5A, 0x5A, 0x5A), 72);
-    QVERIFY(foot.isNull() || foot.top() > 9);
+    constexpr double dots = 144;
+    const QImage edge =
+        painter.image(0, dots).copy(QRect(int(7.7 * dots), 0, int(0.2 * dots), int(11 * dots)));
+    const QRectF rule = inkOf(edge, qRgb(0x9A, 0x9A, 0x9A), dots); // above the closing lines
+    QVERIFY(rule.top() > 9 && rule.bottom() < 10.2);
 }
 
 void TestSheetTable::numbersSheetsInTheTitle()
