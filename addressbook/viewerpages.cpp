@@ -62,14 +62,43 @@ bool hasColumn(const AddressViewer &viewer, const ViewerPages::ListOptions &opti
     return viewer.information() != Information::Pictures && !isTold;
 }
 
+/// The characters of a usual cell, from rows spread over the whole list.
+double usualLength(const AddressViewer &viewer, QString (AddressViewer::*cell)(int) const)
+{
+    constexpr int sample = 200;
+    const int step = std::max(1, viewer.count() / sample);
+    qsizetype characters = 0;
+    int cells = 0;
+    for (int row = 0; row < viewer.count(); row += step) {
+        const QString text = (viewer.*cell)(row);
+        characters += text.size();
+        cells += text.isEmpty() ? 0 : 1;
+    }
+    return double(characters) / std::max(1, cells);
+}
+
+/// The names' share of the width: each column gets what its texts need.
+double nameShare(const AddressViewer &viewer, const ViewerPages::ListOptions &options)
+{
+    constexpr double telephoneLength = 25;
+    constexpr double leastInformation = 8;
+    constexpr double least = 0.3, most = 0.8;
+    double name = usualLength(viewer, &AddressViewer::name);
+    if (options.hasTelephones)
+        name += telephoneLength;
+    const double information = std::max(leastInformation, usualLength(viewer, &AddressViewer::information));
+    return std::clamp(name / (name + information), least, most);
+}
+
 PageItem::Columns listColumns(const AddressViewer &viewer, const ViewerPages::ListOptions &options,
                               DateStyle style)
 {
     PageItem::Columns columns;
-    columns.weights = {options.hasTelephones ? 1.5 : 1.0};
+    columns.weights = {1};
     columns.headings = {ViewerMessages::nameHeading()};
     if (hasColumn(viewer, options)) {
-        columns.weights.push_back(1.0);
+        const double share = nameShare(viewer, options);
+        columns.weights = {share, 1 - share};
         columns.headings << ViewerPages::heading(viewer.information(), style);
     }
     columns.lines = options.hasGridLines ? TableLines::Grid : TableLines::None;
@@ -157,10 +186,11 @@ Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, 
     page.numberSheets(SheetNumbers::Title);
     page.table(listColumns(viewer, options, style));
     const bool hasInformation = hasColumn(viewer, options);
+    const TextRole role = options.isTwoColumns ? TextRole::Small : TextRole::Body;
     const auto addRow = [&](int row, const QString &telephone) {
         const QString name =
             telephone.isEmpty() ? viewer.name(row) : viewer.name(row) + ViewerMessages::telephone(telephone);
-        page.row(hasInformation ? QStringList{name, viewer.information(row)} : QStringList{name});
+        page.row(hasInformation ? QStringList{name, viewer.information(row)} : QStringList{name}, role);
     };
     if (options.hasTelephones) {
         viewer.forEachShown([&addRow](int row, const AddressEntry &entry) {
