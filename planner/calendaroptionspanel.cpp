@@ -4,6 +4,7 @@
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QRadioButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -47,6 +48,7 @@ CalendarOptionsPanel::CalendarOptionsPanel(QWidget *parent)
     foot->addWidget(ok);
     foot->addWidget(cancel);
     rows->addLayout(foot);
+    m_cancel = cancel;
     connect(ok, &QPushButton::clicked, this, &CalendarOptionsPanel::accepted);
     connect(cancel, &QPushButton::clicked, this, &CalendarOptionsPanel::left);
 }
@@ -72,10 +74,21 @@ void CalendarOptionsPanel::setOptions(const CalendarOptions &options)
     m_weekNumbers->button(options.weekNumbers)->setChecked(true);
     m_weekStart->button(options.weekStart - 1)->setChecked(true);
     m_today->button(options.today)->setChecked(true);
+    setFocusProxy(m_months->checkedButton());
 }
 
 CalendarOptions CalendarOptionsPanel::options() const
 {
     return {m_months->checkedId(), m_weekNumbers->checkedId(), m_weekStart->checkedId() + 1,
             m_today->checkedId()};
+}
+
+void CalendarOptionsPanel::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        QWidget::keyPressEvent(event);
+    else if (m_cancel->hasFocus())
+        emit left();
+    else
+        emit accepted();
 }

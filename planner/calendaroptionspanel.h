@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QButtonGroup;
+class QPushButton;
 class QVBoxLayout;
 
 /// The panel that says how the planner's calendar is shown; OK writes all four choices.
@@ -21,6 +22,9 @@ signals:
     void accepted();
     void left();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     /// A heading with option buttons `name`_0, `name`_1, ... below it.
     QButtonGroup *addFrame(QVBoxLayout *column, const QString &name, const QString &caption,
@@ -30,4 +34,5 @@ private:
     QButtonGroup *m_weekNumbers;
     QButtonGroup *m_weekStart;
     QButtonGroup *m_today;
+    QPushButton *m_cancel;
 };

@@ -21,6 +21,15 @@ constexpr int stackedRow = 22;
 
 } // namespace
 
+void applyOptions(MonthView &month, const CalendarOptions &options, QDate today)
+{
+    month.setFirstDayOfWeek(options.firstDay());
+    month.setVerticalHeaderFormat(options.showsWeekNumbers() ? QCalendarWidget::ISOWeekNumbers
+                                                             : QCalendarWidget::NoVerticalHeader);
+    month.setToday(today);
+    month.setTodayMarked(options.marksToday());
+}
+
 PlannerCalendar::PlannerCalendar(const Clock &clock, MarkedDays markedDays, QWidget *parent)
     : QWidget(parent)
     , m_clock(clock)
@@ -57,13 +66,8 @@ PlannerCalendar::PlannerCalendar(const Clock &clock, MarkedDays markedDays, QWid
 
 void PlannerCalendar::setOptions(const CalendarOptions &options)
 {
-    for (MonthView *month : {m_first, m_second}) {
-        month->setFirstDayOfWeek(options.firstDay());
-        month->setVerticalHeaderFormat(options.showsWeekNumbers() ? QCalendarWidget::ISOWeekNumbers
-                                                                  : QCalendarWidget::NoVerticalHeader);
-        month->setToday(m_clock.today());
-        month->setTodayMarked(options.marksToday());
-    }
+    for (MonthView *month : {m_first, m_second})
+        applyOptions(*month, options, m_clock.today());
     m_second->setVisible(options.shownMonths() == 2);
     arrange();
     showPages();

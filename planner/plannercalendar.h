@@ -14,6 +14,9 @@ class MonthView;
 class QBoxLayout;
 class QLabel;
 
+/// Shows a month as the options say: its first day, its week numbers, today.
+void applyOptions(MonthView &month, const CalendarOptions &options, QDate today);
+
 /// The calendar beside a day: one month, or two of which the second follows the first; side by side where the
 /// pane is wide enough for both, else below each other. Days with entries have a dot.
 class PlannerCalendar final : public QWidget

@@ -75,16 +75,17 @@ void Zcalandar1::showOptions()
     m_optionsPanel->setOptions(CalendarOptions::read(program().settings));
     showView(m_optionsPanel);
     m_optionsPanel->setFocus();
+    activity().say({});
 }
 
 void Zcalandar1::takeOptions()
 {
     const CalendarOptions options = m_optionsPanel->options();
-    if (!options.write(program().settings))
-        activity().say(PlannerLines::settingNotSaved());
     m_splitterMoved = m_splitterMoved && options.months == m_options.months;
     setOptions(options);
     showDayView();
+    if (!options.write(program().settings))
+        activity().say(PlannerLines::settingNotSaved());
 }
 
 void Zcalandar1::focusSearch()
@@ -134,7 +135,7 @@ void Zcalandar1::showRecurrence()
         return;
     activity().say({});
     showView(m_recurrence);
-    m_recurrence->open(appointment, m_loadedDate, placement());
+    m_recurrence->open(appointment, m_loadedDate, placement(), m_options);
 }
 
 void Zcalandar1::importToDoItems()

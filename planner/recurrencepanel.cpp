@@ -1,6 +1,7 @@
 #include "planner/recurrencepanel.h"
 
 #include "planner/messages.h"
+#include "planner/plannercalendar.h"
 #include "planner/quietlines.h"
 #include "planner/recurrenceform.h"
 #include "planner/slicedwork.h"
@@ -25,20 +26,21 @@ using namespace Qt::Literals::StringLiterals;
 
 RecurrencePanel::~RecurrencePanel() = default;
 
-void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPlacement placement)
+void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPlacement placement,
+                           const CalendarOptions &options)
 {
     m_appointment = appointment;
     m_placement = placement;
     const QString words =
         appointment.time.isEmpty() ? appointment.text : QString(appointment.time + u' ' + appointment.text);
-    m_title->setText(u"Repeat \u201c"_s + words.trimmed() + u'\u201d');
+    m_title->setText(u"Recurrence Option: \u201c"_s + words.trimmed() + u'\u201d');
     m_form->reset(date);
     m_beginning->setText(Dates::boxText(date, m_program.state.dateStyle));
     m_end->setText(Dates::boxText(date.addYears(1), m_program.state.dateStyle));
     m_occurrences->setText(u"10"_s);
     m_endBy->button(EndDate)->setChecked(true);
     m_calendarSets->button(Beginning)->setChecked(true);
-    m_month->setToday(m_program.clock.today());
+    applyOptions(*m_month, options, m_program.clock.today());
     showCalendarDate();
     m_body->setCurrentIndex(0);
     m_form->findChild<QRadioButton *>()->setFocus();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "planner/calendaroptions.h"
 #include "planner/recurrencerun.h"
 
 #include <QWidget>
@@ -31,7 +32,8 @@ public:
     ~RecurrencePanel() override;
 
     /// Gets ready for an appointment of `date`.
-    void open(const Appointment &appointment, QDate date, UntimedPlacement placement);
+    void open(const Appointment &appointment, QDate date, UntimedPlacement placement,
+              const CalendarOptions &options);
     bool isRunning() const;
 
 signals:

@@ -4,11 +4,11 @@
 #include "planner/viewfoot.h"
 #include "shell/controls.h"
 #include "shell/dates.h"
+#include "shell/listrowdelegate.h"
 #include "shell/theme.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -18,30 +18,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int rowHeight = 33;
+/// What the rows keep free at the edges of a column.
 constexpr int inset = 8;
-
-/// Keeps the texts off the edges of their columns.
-class InsetDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        QStyleOptionViewItem item = option;
-        initStyleOption(&item, index);
-        // The row is chosen as a whole: no cell shows the focus by itself.
-        item.state &= ~QStyle::State_HasFocus;
-        const QString text = std::exchange(item.text, {});
-        item.widget->style()->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
-        const QRect place = item.rect.adjusted(inset, 0, -inset, 0);
-        const bool isSelected = item.state & QStyle::State_Selected;
-        item.widget->style()->drawItemText(painter, place, int(item.displayAlignment), item.palette, true,
-                                           item.fontMetrics.elidedText(text, Qt::ElideRight, place.width()),
-                                           isSelected ? QPalette::HighlightedText : QPalette::Text);
-    }
-};
 
 } // namespace
 
@@ -108,7 +86,7 @@ SearchPanel::SearchPanel(DateStyle style, QWidget *parent)
     m_title->setFont(TypeScale::windowTitle());
     m_count->setObjectName(u"searchCount"_s);
     m_view->setModel(m_model);
-    m_view->setItemDelegate(new InsetDelegate(m_view));
+    m_view->setItemDelegate(new ListRowDelegate(m_view));
     m_view->setAccessibleName(u"Appointments found"_s);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -117,7 +95,9 @@ SearchPanel::SearchPanel(DateStyle style, QWidget *parent)
     m_view->setTabKeyNavigation(false);
     m_view->setWordWrap(false);
     m_view->verticalHeader()->hide();
-    m_view->verticalHeader()->setDefaultSectionSize(rowHeight);
+    // The head is as high as a row, so that the view can end with a whole one.
+    m_view->verticalHeader()->setDefaultSectionSize(ListRowDelegate::rowHeight());
+    m_view->horizontalHeader()->setFixedHeight(ListRowDelegate::rowHeight());
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->horizontalHeader()->setSectionsClickable(false);
     m_view->horizontalHeader()->setHighlightSections(false);
@@ -132,7 +112,7 @@ SearchPanel::SearchPanel(DateStyle style, QWidget *parent)
     rows->setSpacing(12);
     rows->addWidget(m_title);
     rows->addWidget(m_count);
-    rows->addWidget(m_view, 1);
+    rows->addWidget(new WholeRows(m_view), 1);
     rows->addWidget(foot);
     connect(m_view, &QTableView::clicked, this, [this](const QModelIndex &index) { open(index.row()); });
     connect(foot, &ViewFoot::dayRequested, this, &SearchPanel::left);

@@ -39,11 +39,12 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &index) const override
     {
-        const DayLines lines(index.data(DaysModel::DayRole).value<PlannerDay>());
-        const int rows = (lines.count() + columnCount() - 1) / columnCount();
-        const int height = std::max(2, rows) * lineHeight() + 2 * padding;
-        // Seven short days fill the view.
-        return {headWidth, std::max(height, m_view->viewport()->height() / daysPerWeek)};
+        // Where the week is short, its days share what is left of the view.
+        int needed = 0;
+        for (int day = 0; day < daysPerWeek; ++day)
+            needed += neededHeight(index.siblingAtRow(day));
+        const int share = (m_view->viewport()->height() - needed) / daysPerWeek;
+        return {headWidth, neededHeight(index) + std::max(0, share)};
     }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
@@ -65,6 +66,12 @@ public:
     }
 
 private:
+    int neededHeight(const QModelIndex &index) const
+    {
+        const DayLines lines(index.data(DaysModel::DayRole).value<PlannerDay>());
+        const int rows = (lines.count() + columnCount() - 1) / columnCount();
+        return std::max(2, rows) * lineHeight() + 2 * padding;
+    }
     static int lineHeight() { return QFontMetrics(TypeScale::body()).height() + 3; }
     int columnCount() const
     {
