@@ -1,6 +1,7 @@
 #include "planner/dayform.h"
 
 #include "shell/controls.h"
+#include "shell/listrowdelegate.h"
 #include "shell/theme.h"
 
 #include <QAbstractItemView>
@@ -28,7 +29,10 @@ TimeList::TimeList(QWidget *parent)
     // The focus stays in the box whose time is picked.
     setFocusPolicy(Qt::NoFocus);
     setCurrentIndex(-1);
-    setMaxVisibleItems(14);
+    // A list below the box, and not one from the top of the screen to its foot.
+    setStyleSheet(u"QComboBox { combobox-popup: 0; }"_s);
+    setItemDelegate(new ListRowDelegate(this));
+    setMaxVisibleItems(10);
     view()->setMinimumWidth(timeBoxWidth);
     setToolTip(u"List of times (Alt+Down)"_s);
     setAccessibleName(u"List of times"_s);

@@ -32,9 +32,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The left pane: with one month, in a narrow window, and with two months side by side.
+/// The left pane: with one month, whose days keep their names, and with two months side by side.
 constexpr int leftPaneWidth = 328;
-constexpr int narrowLeftPaneWidth = 304;
 constexpr int twoMonthsWidth = 596;
 /// Windows narrower than this have the narrow left pane.
 constexpr int wideFrom = 1200;
@@ -108,7 +107,7 @@ Zcalandar1::~Zcalandar1() = default;
 QWidget *Zcalandar1::makeLeftPane()
 {
     m_leftPane = named(new QWidget(this), u"leftPane"_s);
-    m_leftPane->setMinimumWidth(narrowLeftPaneWidth - 8);
+    m_leftPane->setMinimumWidth(leftPaneWidth - 4);
     auto *layout = new QVBoxLayout(m_leftPane);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);
@@ -291,8 +290,6 @@ void Zcalandar1::placeSplitter()
     fitToolbar(isWide);
     if (m_splitterMoved)
         return;
-    const int left = !isWide                        ? narrowLeftPaneWidth
-                     : m_options.shownMonths() == 2 ? twoMonthsWidth
-                                                    : leftPaneWidth;
+    const int left = isWide && m_options.shownMonths() == 2 ? twoMonthsWidth : leftPaneWidth;
     m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
 }

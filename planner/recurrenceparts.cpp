@@ -23,6 +23,7 @@ namespace {
 
 constexpr int dateWidth = 128;
 constexpr int numberWidth = 64;
+constexpr int widestBar = 640;
 
 /// A label that wraps where its column ends.
 QLabel *makeNote(const QString &text, QWidget *parent)
@@ -152,8 +153,7 @@ QWidget *RecurrencePanel::makeProgressPanel()
     m_progress->setAccessibleName(u"Progress of the update"_s);
     m_stop = named(new QCheckBox(u"If Needed - Click ONCE to Stop Updating!"_s, m_progressPanel),
                    u"stopUpdating"_s);
-    auto *column = new QVBoxLayout(m_progressPanel);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto *column = new QVBoxLayout;
     column->setSpacing(12);
     column->addStretch(1);
     column->addWidget(
@@ -165,6 +165,11 @@ QWidget *RecurrencePanel::makeProgressPanel()
                  u"Functioning or Files may "_s,
                  m_progressPanel));
     column->addStretch(2);
+    m_progress->setMaximumWidth(widestBar);
+    auto *middle = new QHBoxLayout(m_progressPanel);
+    middle->addStretch(1);
+    middle->addLayout(column, 100);
+    middle->addStretch(1);
     connect(m_stop, &QCheckBox::toggled, this, [this](bool isTicked) {
         if (isTicked)
             m_work->stop();

@@ -23,9 +23,11 @@ namespace {
 constexpr int daysPerWeek = 7;
 constexpr int headWidth = 132;
 constexpr int timeWidth = 80;
-/// Entries stand in two columns where each is at least this wide.
+/// Entries stand in two columns only where each is at least this wide.
 constexpr int narrowestColumn = 300;
 constexpr int padding = 10;
+/// Above and below the entries, where the week is full.
+constexpr int narrowPadding = 6;
 
 /// One band: the day at the left, its entries beside it.
 class DayBandDelegate final : public QStyledItemDelegate
@@ -40,11 +42,9 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &index) const override
     {
         // Where the week is short, its days share what is left of the view.
-        int needed = 0;
-        for (int day = 0; day < daysPerWeek; ++day)
-            needed += neededHeight(index.siblingAtRow(day));
-        const int share = (m_view->viewport()->height() - needed) / daysPerWeek;
-        return {headWidth, neededHeight(index) + std::max(0, share)};
+        const int columns = columnCount();
+        const int share = (m_view->viewport()->height() - neededHeight(columns)) / daysPerWeek;
+        return {headWidth, neededHeight(index, columns) + std::max(0, share)};
     }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
@@ -59,23 +59,32 @@ public:
             painter->setPen(QPen(theme.accent, 2));
             painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
         }
-        const QRect place = option.rect.adjusted(padding, padding, -padding, -padding);
+        const QRect place = option.rect.adjusted(padding, narrowPadding + 1, -padding, -narrowPadding);
         paintHead(*painter, place, index, theme);
         paintEntries(*painter, place.adjusted(headWidth, 0, 0, 0), index, theme);
         painter->restore();
     }
 
 private:
-    int neededHeight(const QModelIndex &index) const
+    static int neededHeight(const QModelIndex &index, int columns)
     {
         const DayLines lines(index.data(DaysModel::DayRole).value<PlannerDay>());
-        const int rows = (lines.count() + columnCount() - 1) / columnCount();
-        return std::max(2, rows) * lineHeight() + 2 * padding;
+        const int rows = (lines.count() + columns - 1) / columns;
+        return std::max(2, rows) * lineHeight() + 2 * narrowPadding;
+    }
+    int neededHeight(int columns) const
+    {
+        int needed = 0;
+        for (int day = 0; day < daysPerWeek; ++day)
+            needed += neededHeight(m_view->model()->index(day, 0), columns);
+        return needed;
     }
     static int lineHeight() { return QFontMetrics(TypeScale::body()).height() + 3; }
+    /// Two where a full week would not fit otherwise.
     int columnCount() const
     {
-        return m_view->viewport()->width() - headWidth - 2 * padding >= 2 * narrowestColumn ? 2 : 1;
+        const bool isWide = m_view->viewport()->width() - headWidth - 2 * padding >= 2 * narrowestColumn;
+        return isWide && neededHeight(1) > m_view->viewport()->height() ? 2 : 1;
     }
 
     void paintHead(QPainter &painter, const QRect &place, const QModelIndex &index, const Theme &theme) const
