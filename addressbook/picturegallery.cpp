@@ -92,10 +92,16 @@ using State = PictureGalleryModel::State;
 class TileDelegate final : public QStyledItemDelegate
 {
 public:
-    TileDelegate(const PictureGalleryModel &model, QObject *parent)
-        : QStyledItemDelegate(parent)
+    TileDelegate(const PictureGalleryModel &model, QListView *view)
+        : QStyledItemDelegate(view)
         , m_model(model)
+        , m_view(view)
     {}
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+    {
+        return m_view->gridSize();
+    }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
@@ -160,6 +166,7 @@ private:
     }
 
     const PictureGalleryModel &m_model;
+    QListView *m_view;
 };
 
 } // namespace
@@ -174,7 +181,6 @@ PictureGallery::PictureGallery(const DataFolder &folder, QWidget *parent)
     setViewMode(IconMode);
     setMovement(Static);
     setResizeMode(Adjust);
-    setUniformItemSizes(true);
     setSelectionMode(SingleSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);

@@ -57,7 +57,7 @@ inline Message exportNotice(const QString &folder, const QString &name)
 inline Message picturesRestraint()
 {
     return {u"Print Pictures Restraint"_s,
-            u"Due to some computer and video memory restraints this portion of\n"
+            u"Due to some computer and video memory restraints this portion of "
             u"the program was written to only display and print one page at a time.\n"
             u"Loading and printing many pictures may take several minutes.\n"
             u"DO NOT USE COMPUTER FOR OTHER PURPOSES DURING LOADING AND PRINTING ACTIONS!"_s,

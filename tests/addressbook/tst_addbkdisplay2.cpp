@@ -108,6 +108,10 @@ void TestAddbkdisplay2::showsThePicturesPageByPage()
     QCOMPARE(name(0), u"Kessler, Tessa"_s);
     QTRY_COMPARE(gallery()->waitingCount(), 0);
     QVERIFY(gallery()->isSeen(0));
+    // The page fills the view, and the whole of a tile is the picture's.
+    const QRect tile = gallery()->visualRect(gallery()->model()->index(19, 0));
+    QVERIFY(gallery()->viewport()->rect().contains(tile));
+    QCOMPARE(tile.size(), gallery()->gridSize());
     QVERIFY(!control<QPushButton>(*m_window, "previousPictures")->isEnabled());
     click("nextPictures");
     QCOMPARE(words("picturePage"), u"Page 2 of 2"_s);
