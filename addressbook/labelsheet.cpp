@@ -4,6 +4,7 @@
 #include "addressbook/addressviewer.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 
@@ -87,10 +88,14 @@ std::vector<Household> households(const AddressViewer &viewer, LabelSharing shar
 {
     std::vector<Household> all;
     QHash<QString, std::size_t> places;
-    viewer.forEachShown([&](int, const AddressEntry &entry) {
+    QSet<int> records;
+    viewer.forEachShown([&](int row, const AddressEntry &entry) {
         const QString address = addressLines(entry).join(u'\n');
         const LabelPerson person{entry[LastName].simplified(), entry[FirstName].simplified()};
-        if (address.isEmpty()) {
+        // Of two lines that lead to one entry, one bears another name: nobody knows where that person lives.
+        const bool isKnown = records.contains(viewer.record(row));
+        records.insert(viewer.record(row));
+        if (address.isEmpty() || isKnown) {
             ++leftOut;
             return true;
         }
