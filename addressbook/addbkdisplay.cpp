@@ -92,8 +92,8 @@ void ADDBKDISPLAY::followRows()
 
 void ADDBKDISPLAY::chooseInformation()
 {
-    activity().say({});
     load(m_rows->viewer().range());
+    sayRange();
 }
 
 void ADDBKDISPLAY::updateDisplay()
@@ -107,10 +107,16 @@ void ADDBKDISPLAY::updateDisplay()
         return;
     }
     load(range);
-    const QString month = QLocale::c().standaloneMonthName(range.month);
-    activity().say(kind == DisplayRange::All
+    sayRange();
+}
+
+void ADDBKDISPLAY::sayRange()
+{
+    const DisplayRange &range = m_rows->viewer().range();
+    const bool isBirthday = range.kind == DisplayRange::BirthMonth;
+    activity().say(range.kind == DisplayRange::All
                        ? QString()
-                       : ViewerLines::rangeShown(kind == DisplayRange::BirthMonth, month));
+                       : ViewerLines::rangeShown(isBirthday, QLocale::c().standaloneMonthName(range.month)));
 }
 
 void ADDBKDISPLAY::search()
@@ -151,6 +157,9 @@ void ADDBKDISPLAY::refresh()
     m_modeButton->setText(mode);
     m_modeAction->setText(mode);
     m_chip->setText(ViewerPages::choice(viewer.information()));
+    m_listOptions->describe(viewer);
+    if (m_pages->currentWidget() == m_labels)
+        m_labels->follow(viewer);
     refreshCommands();
 }
 

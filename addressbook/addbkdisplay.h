@@ -66,6 +66,7 @@ private:
     void showAll(const DisplayRange &range, int mostRows);
     void chooseInformation();
     void updateDisplay();
+    void sayRange();
     void search();
     void narrow(const QString &text);
     void switchDisplayMode();

@@ -38,7 +38,7 @@ constexpr int leftPaneWidth = 272;
 constexpr int narrowLeftPaneWidth = 236;
 /// Windows narrower than this have the narrow left pane.
 constexpr int wideFrom = 1200;
-constexpr int nameColumnWidth = 300;
+constexpr int nameColumnWidth = 352;
 constexpr int leastNameColumn = 160;
 
 QString nameColumnKey()
@@ -162,8 +162,7 @@ QWidget *ADDBKDISPLAY::makeGridPage()
     m_count = named(makeQuietLabel({}, page), u"nameCount"_s);
     m_count->setFont(TypeScale::body());
     layout->addLayout(head);
-    layout->addWidget(new GridPlace(m_grid, page), 1);
-    layout->addWidget(m_count);
+    layout->addWidget(new GridPlace(m_grid, m_count, page), 1);
     layout->addWidget(makeLine(page));
     layout->addWidget(makeButtonRow(page));
     return page;

@@ -17,6 +17,7 @@ namespace {
 constexpr int leastRowHeight = 28;
 constexpr int inset = 8;
 constexpr int headerHeight = 34;
+constexpr int footGap = 8;
 
 /// The part of a cell that holds its text.
 QRect textPlace(const QRect &cell)
@@ -108,7 +109,7 @@ int GridView::rowHeight()
 
 int GridView::wholeHeight(int height) const
 {
-    const int frame = horizontalHeader()->height() + 2 * frameWidth() + 6; // padding of the sheet: 3 each
+    const int frame = horizontalHeader()->height() + 2 * frameWidth();
     const int rows = std::max(1, (height - frame) / rowHeight());
     return frame + rows * rowHeight();
 }
@@ -197,26 +198,35 @@ bool GridView::viewportEvent(QEvent *event)
     return true;
 }
 
-GridPlace::GridPlace(GridView *grid, QWidget *parent)
+GridPlace::GridPlace(GridView *grid, QWidget *foot, QWidget *parent)
     : QWidget(parent)
     , m_grid(grid)
+    , m_foot(foot)
 {
     grid->setParent(this);
+    foot->setParent(this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setFocusProxy(grid);
 }
 
 QSize GridPlace::sizeHint() const
 {
-    return {600, m_grid->wholeHeight(16 * GridView::rowHeight())};
+    return {600, m_grid->wholeHeight(16 * GridView::rowHeight()) + footHeight()};
 }
 
 QSize GridPlace::minimumSizeHint() const
 {
-    return {240, m_grid->wholeHeight(4 * GridView::rowHeight())};
+    return {240, m_grid->wholeHeight(4 * GridView::rowHeight()) + footHeight()};
 }
 
 void GridPlace::resizeEvent(QResizeEvent *)
 {
-    m_grid->setGeometry(0, 0, width(), m_grid->wholeHeight(height()));
+    const int gridHeight = m_grid->wholeHeight(height() - footHeight());
+    m_grid->setGeometry(0, 0, width(), gridHeight);
+    m_foot->setGeometry(0, gridHeight + footGap, width(), m_foot->sizeHint().height());
+}
+
+int GridPlace::footHeight() const
+{
+    return footGap + m_foot->sizeHint().height();
 }

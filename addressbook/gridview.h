@@ -43,12 +43,12 @@ private:
     bool m_wasPainted = false;
 };
 
-/// Keeps a grid at a height of whole rows.
+/// Keeps a grid at a height of whole rows, with a line of words right under it.
 class GridPlace final : public QWidget
 {
     Q_OBJECT
 public:
-    explicit GridPlace(GridView *grid, QWidget *parent = nullptr);
+    GridPlace(GridView *grid, QWidget *foot, QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -57,5 +57,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    int footHeight() const;
+
     GridView *m_grid;
+    QWidget *m_foot;
 };

@@ -121,6 +121,7 @@ void LabelPanel::addSheetChoice(QVBoxLayout &column)
         m_sheets->addItem(sheet.name);
     m_start = named(new QSpinBox(parent), u"startPosition"_s);
     m_start->setMinimum(1);
+    m_start->setMinimumSize(96, 34);
     m_start->setToolTip(u"A sheet that has been used before has fewer labels left. "
                         u"You can also click a label of the sheet."_s);
     m_startLabel = makeFieldLabel(u"Start at label"_s, m_start, parent);
@@ -185,10 +186,15 @@ LabelPages::Options LabelPanel::options() const
 
 void LabelPanel::start(const AddressViewer &viewer)
 {
+    follow(viewer);
+    m_sheets->setFocus();
+}
+
+void LabelPanel::follow(const AddressViewer &viewer)
+{
     m_viewer = &viewer;
     m_index = 0;
     gather();
-    m_sheets->setFocus();
 }
 
 void LabelPanel::sheetChosen()

@@ -30,6 +30,8 @@ public:
 
     /// Takes the rows as they are shown now; `viewer` must live as long as the panel is used.
     void start(const AddressViewer &viewer);
+    /// The same when other rows are shown meanwhile: the focus stays where it is.
+    void follow(const AddressViewer &viewer);
 
 signals:
     void left();

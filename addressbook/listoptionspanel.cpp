@@ -1,11 +1,13 @@
 #include "addressbook/listoptionspanel.h"
 
+#include "addressbook/viewerlines.h"
 #include "shell/controls.h"
 #include "shell/theme.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -13,6 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 ListOptionsPanel::ListOptionsPanel(QWidget *parent)
     : QWidget(parent)
+    , m_content(named(makeQuietLabel({}, this), u"listContent"_s))
     , m_telephones(named(new QCheckBox(u"Print Telephone Number Also"_s, this), u"printTelephones"_s))
     , m_asOf(named(new QCheckBox(u"Print 'As of' date on each page"_s, this), u"printAsOf"_s))
     , m_gridLines(named(new QCheckBox(u"Print Grid Lines on each page"_s, this), u"printGridLines"_s))
@@ -30,11 +33,9 @@ ListOptionsPanel::ListOptionsPanel(QWidget *parent)
     column->setContentsMargins(24, 20, 24, 18);
     column->setSpacing(10);
     column->addWidget(makeTitle(u"Print Options"_s, this));
-    QLabel *hint =
-        makeQuietLabel(u"The list holds the names that the grid shows, in the same order."_s, this);
-    hint->setFont(TypeScale::body());
-    hint->setWordWrap(true);
-    column->addWidget(hint);
+    m_content->setFont(TypeScale::body());
+    m_content->setWordWrap(true);
+    column->addWidget(m_content);
     column->addSpacing(8);
     for (QWidget *option : std::initializer_list<QWidget *>{m_telephones, m_asOf, m_gridLines})
         column->addWidget(option);
@@ -56,6 +57,13 @@ ViewerPages::ListOptions ListOptionsPanel::options() const
 {
     return {m_telephones->isChecked(), m_asOf->isChecked(), m_twoColumns->isChecked(),
             m_gridLines->isChecked()};
+}
+
+void ListOptionsPanel::describe(const AddressViewer &viewer)
+{
+    m_content->setText(ViewerLines::listHolds(viewer.count(), ViewerPages::choice(viewer.information()),
+                                              viewer.information() != Information::Pictures));
+    setUnavailable(m_print, viewer.count() == 0 ? ViewerLines::nothingShown() : QString());
 }
 
 void ListOptionsPanel::focusFirst()

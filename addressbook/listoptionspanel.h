@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QCheckBox;
+class QLabel;
 class QPushButton;
 class QRadioButton;
 
@@ -16,6 +17,8 @@ public:
     explicit ListOptionsPanel(QWidget *parent = nullptr);
 
     ViewerPages::ListOptions options() const;
+    /// Tells what the list would hold now.
+    void describe(const AddressViewer &viewer);
     void focusFirst();
 
 signals:
@@ -26,6 +29,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    QLabel *m_content;
     QCheckBox *m_telephones;
     QCheckBox *m_asOf;
     QCheckBox *m_gridLines;

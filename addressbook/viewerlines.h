@@ -97,6 +97,14 @@ inline QString removed(const QString &name)
     return u"Not shown until the display is updated: "_s + name;
 }
 
+/// What the printed list would hold.
+inline QString listHolds(int names, const QString &information, bool hasInformation)
+{
+    const QString count = names == 1 ? u"1 name"_s : QString(QString::number(names) + u" names"_s);
+    return count + u" as the grid shows them"_s +
+           (hasInformation ? QString(u", with "_s + information) : QString());
+}
+
 /// What a run of labels takes.
 inline QString labelCount(int labels, int sheets, bool isEnvelope)
 {
