@@ -3,6 +3,31 @@
 #include <QList>
 
 #include <algorithm>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// How wide a text is, measured in letters of the common width: near enough to tell where its lines break in
+/// a proportional font.
+double letters(QStringView text)
+{
+    double width = 0;
+    for (const QChar c : text) {
+        if (u"ijlI|!'.,:; "_s.contains(c))
+            width += 0.5;
+        else if (u"frt-()"_s.contains(c))
+            width += 0.65;
+        else if (u"mwMW@%"_s.contains(c))
+            width += 1.5;
+        else
+            width += c.isUpper() ? 1.15 : 1.0;
+    }
+    return width;
+}
+
+} // namespace
 
 DayLines::DayLines(const PlannerDay &day)
 {
@@ -25,17 +50,20 @@ QString DayLines::joined(int entry) const
 /// line.
 int DayLines::wanted(int entry, int characters, Style style) const
 {
-    const qsizetype perLine = std::max(1, characters);
+    const double perLine = std::max(1, characters);
+    const double blank = letters(u" ");
     const QString whole = style == Joined ? joined(entry) : text(entry);
     int lines = 1;
-    qsizetype used = 0;
+    double used = 0;
     for (const QStringView word : QStringView(whole).split(u' ', Qt::SkipEmptyParts)) {
-        if (used > 0 && used + 1 + word.size() <= perLine) {
-            used += 1 + word.size();
+        const double width = letters(word);
+        if (used > 0 && used + blank + width <= perLine) {
+            used += blank + width;
             continue;
         }
-        lines += (used > 0 ? 1 : 0) + int((word.size() - 1) / perLine);
-        used = (word.size() - 1) % perLine + 1;
+        const int more = std::max(0, int(std::ceil(width / perLine)) - 1);
+        lines += (used > 0 ? 1 : 0) + more;
+        used = width - more * perLine;
     }
     return lines;
 }

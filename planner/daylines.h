@@ -20,7 +20,7 @@ public:
     /// Whether the time stands in a column of its own or before the text.
     enum Style { InColumns, Joined };
 
-    /// About how many lines of `characters` characters the entries take.
+    /// About how many lines, wide enough for `characters` letters, the entries take.
     int lineCount(int characters, Style style = InColumns) const;
 
     /// How many of `capacity` lines each entry gets: one each first, then what their lengths ask for. When

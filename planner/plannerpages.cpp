@@ -21,9 +21,9 @@ constexpr double closingHeight = 0.55;
 constexpr double inset = 0.06;
 constexpr double bodyLine = 11 * 1.35 / 72;
 constexpr double smallLine = 10 * 1.35 / 72;
-/// Characters of running text on an inch.
-constexpr double bodyCharacters = 11.5;
-constexpr double smallCharacters = 12.7;
+/// Letters on an inch, in the widest of the common fonts.
+constexpr double bodyCharacters = 10.6;
+constexpr double smallCharacters = 11.6;
 
 constexpr int daysPerWeek = 7;
 /// Rows that the days of a listed week share on one sheet.
@@ -101,7 +101,7 @@ Page listedWeek(QDate start, const Days &days, const Paper &paper)
 struct Setting {
     TextRole role;
     double line;
-    double characters; ///< of running text on an inch
+    double characters; ///< on an inch
 };
 constexpr Setting roomy{TextRole::Body, bodyLine, bodyCharacters};
 constexpr Setting dense{TextRole::Small, smallLine, smallCharacters};
