@@ -69,9 +69,10 @@ std::optional<LiveLine> MenuNews::line(Function function) const
 QString MenuNews::sentence() const
 {
     QList<LiveLine> lines;
+    // Of equally urgent sentences the first is told: today's appointments before what the days ahead bring.
     for (const FunctionFace &face : FunctionFaces::cards())
         if (const std::optional<LiveLine> news = line(face.function))
-            lines.append(*news);
+            lines.insert(face.function == Function::Planner ? 0 : lines.size(), *news);
     return sentence(m_program.clock.now(), lines);
 }
 
