@@ -56,3 +56,5 @@ shot address-book-entry 1280 800 "$address" "key alt+n" "type Novak"
 shot address-book-date 1280 800 "$address" "key alt+n" "type Novak" "key Tab" "type Jana" "key Tab"
 shot page-preview 1280 800 "$address" "mousemove 330 55 click 1"
 shot password-control 1280 800 "mousemove 780 490 click 1"
+
+. tools/screenshots-planner.sh
