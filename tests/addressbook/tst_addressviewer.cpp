@@ -39,6 +39,7 @@ private slots:
     void handsOutTheEntriesShown();
     void survivesBadFiles_data();
     void survivesBadFiles();
+    void makesNoFiles_data();
     void makesNoFiles();
     void staysCompact();
 
@@ -443,16 +444,34 @@ void TestAddressViewer::survivesBadFiles()
     QCOMPARE(files.bytes(u"Addbk1.Fil"_s), entries);
 }
 
+void TestAddressViewer::makesNoFiles_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("nothing") << QString() << 0;
+    QTest::newRow("a folder in place of the lines") << u"Addbk2.Fil"_s << 0;
+    QTest::newRow("a folder in place of the entries") << u"Addbk1.Fil"_s << 4;
+}
+
 void TestAddressViewer::makesNoFiles()
 {
+    QFETCH(QString, folder);
+    QFETCH(int, rows);
     const AddressFiles files;
-    QVERIFY(QDir(files.folder().path()).mkdir(u"Addbk1.Fil"_s));
+    if (rows > 0) {
+        putFour(files);
+        QVERIFY(QFile::remove(files.folder().filePath(folder)));
+    }
+    if (!folder.isEmpty()) {
+        QVERIFY(QDir(files.folder().path()).mkdir(folder));
+        expectWarning("Cannot read");
+    }
     AddressViewer viewer(files.folder(), DateStyle::Usa);
-    expectWarning("Cannot read .*Addbk1.Fil");
+    const QStringList before = QDir(files.folder().path()).entryList();
     viewer.load(Information::State, everyone);
     viewer.forEachShown([](int, const AddressEntry &) { return true; });
-    QCOMPARE(viewer.count(), 0);
-    QVERIFY(!files.folder().exists(u"Addbk2.Fil"_s));
+    QCOMPARE(viewer.count(), rows);
+    QCOMPARE(QDir(files.folder().path()).entryList(), before);
 }
 
 void TestAddressViewer::staysCompact()
