@@ -1,0 +1,167 @@
+#include "planner/dayrecord.h"
+#include "planner/plannernews.h"
+#include "planner/plannersearch.h"
+#include "planner/recurrencerun.h"
+#include "tests/storage/filesizelimit.h"
+#include "tests/support/testprogram.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString yearFile = u" 2026.Cal"_s;
+const QDate newYear(2026, 1, 1); // record 11
+const Appointment ferns{u"9:00 AM"_s, u"Water the ferns"_s};
+
+/// 1 January with one entry, and other programs' bytes behind it.
+QByteArray firstDays()
+{
+    return QByteArray(10 * 900, 'o') + QByteArray("8:00 AM").leftJustified(140) +
+           QByteArray("Run").leftJustified(700) + "Full      " + QByteArray(50, 'x') + QByteArray(900, 'y');
+}
+
+QByteArray noise(int length)
+{
+    QRandomGenerator random(7);
+    QByteArray bytes(length, '\0');
+    for (char &byte : bytes)
+        byte = char(random.bounded(256));
+    return bytes;
+}
+
+RecurrenceRun walk(const DataFolder &folder, RecurrenceAction action, int days)
+{
+    Recurrence daily;
+    daily.beginning = newYear;
+    daily.occurrences = days;
+    return {folder, UntimedPlacement::First, action, ferns, daily};
+}
+
+void runThrough(RecurrenceRun &run)
+{
+    while (run.step()) {}
+}
+
+/// Whether every byte is as it was, or zero where there was none, apart from the fields of dates in the walk.
+bool isRestUntouched(const QByteArray &before, const QByteArray &after, int days)
+{
+    QByteArray one = before.leftJustified(std::max(before.size(), after.size()), '\0');
+    QByteArray other = after;
+    for (int i = 0; i < days; ++i) {
+        const qsizetype at = (DayRecord::number(newYear.addDays(i)) - 1) * 900;
+        for (QByteArray *bytes : {&one, &other})
+            if (at < bytes->size())
+                bytes->replace(at, std::min<qsizetype>(850, bytes->size() - at),
+                               QByteArray(std::min<qsizetype>(850, bytes->size() - at), '-'));
+    }
+    return one == other;
+}
+
+} // namespace
+
+class TestYearFiles : public QObject
+{
+    Q_OBJECT
+private slots:
+    void survivesAnyBytes_data();
+    void survivesAnyBytes();
+    void readsWhatACutFileStillHolds();
+    void tellsTheTruthAboutAFullDisk_data();
+    void tellsTheTruthAboutAFullDisk();
+};
+
+void TestYearFiles::survivesAnyBytes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("a byte") << QByteArray(1, '\xff');
+    QTest::newRow("a day") << firstDays();
+    QTest::newRow("zeros") << QByteArray(431 * 900, '\0');
+    QTest::newRow("noise") << noise(431 * 900);
+    QTest::newRow("noise that counts as saved")
+        << QByteArray(noise(840) + "Full      " + noise(50)).repeated(431);
+    QTest::newRow("more than a year") << noise(500 * 900 + 17);
+}
+
+void TestYearFiles::survivesAnyBytes()
+{
+    QFETCH(QByteArray, bytes);
+    const TestProgram test;
+    test.setBytes(yearFile, bytes);
+    const PlannerFiles files(test.folder);
+    const auto lookAtEverything = [&] {
+        files.days(QDate(2025, 12, 1), QDate(2027, 1, 31));
+        for (PlannerSearch search(files, u"e"_s); search.step();) {}
+        PlannerNews::liveLine(test.folder, newYear.startOfDay());
+        return files.read(newYear);
+    };
+    lookAtEverything();
+    QCOMPARE(test.bytes(yearFile), bytes);
+
+    constexpr int days = 40;
+    RecurrenceRun insert = walk(test.folder, RecurrenceAction::Insert, days);
+    runThrough(insert);
+    QCOMPARE(insert.made() + insert.full(), days);
+    RecurrenceRun remove = walk(test.folder, RecurrenceAction::Remove, days);
+    runThrough(remove);
+    QCOMPARE(remove.removed(), insert.made());
+    QVERIFY(isRestUntouched(bytes, test.bytes(yearFile), days));
+    lookAtEverything();
+}
+
+void TestYearFiles::readsWhatACutFileStillHolds()
+{
+    const TestProgram test;
+    const PlannerFiles files(test.folder);
+    const QByteArray whole = firstDays();
+    for (qsizetype cut = 0; cut <= whole.size(); cut += cut < 9000 ? 499 : 1) {
+        const QByteArray bytes = whole.left(cut);
+        test.setBytes(yearFile, bytes);
+        // The mark stands at the end of a day: from its fourth letter on the day is there.
+        const int entries = cut >= 9000 + 844 ? 1 : 0;
+        QCOMPARE(files.read(newYear).entryCount(), entries);
+        if (cut % 50 != 0 && cut < whole.size())
+            continue;
+        RecurrenceRun run = walk(test.folder, RecurrenceAction::Insert, 1);
+        runThrough(run);
+        QCOMPARE(files.read(newYear).entryCount(), entries + 1);
+        QVERIFY(isRestUntouched(bytes, test.bytes(yearFile), 1));
+    }
+}
+
+void TestYearFiles::tellsTheTruthAboutAFullDisk_data()
+{
+    QTest::addColumn<int>("room");
+    QTest::addColumn<int>("made");
+    QTest::newRow("no room at all") << 0 << 0;
+    QTest::newRow("within the first day") << 10 * 900 + 300 << 0;
+    QTest::newRow("within the mark of the fourth") << 40 * 900 + 842 << 3;
+    QTest::newRow("behind the fourth") << 40 * 900 + 850 << 4;
+}
+
+void TestYearFiles::tellsTheTruthAboutAFullDisk()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(int, room);
+    QFETCH(int, made);
+    const TestProgram test;
+    RecurrenceRun run = walk(test.folder, RecurrenceAction::Insert, 6);
+    {
+        const FileSizeLimit fullDisk{rlim_t(room)};
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
+        while (run.failed() == 0 && run.step()) {}
+    }
+    QCOMPARE(run.made(), made);
+    QCOMPARE(run.failed(), 1);
+    QCOMPARE(run.lastDate(), newYear.addDays(made));
+    const PlannerFiles files(test.folder);
+    for (int i = 0; i < 6; ++i)
+        QCOMPARE(files.read(newYear.addDays(i)).entryCount(), i < made ? 1 : 0);
+#endif
+}
+
+QTEST_GUILESS_MAIN(TestYearFiles)
+#include "tst_yearfiles.moc"
