@@ -59,9 +59,11 @@ std::optional<LiveLine> passwordNews(const Program &program, QDate)
 void addFunctions(FunctionCatalogue &functions, const Clock &clock)
 {
     const QStringList addressFiles{u"Addbk1.Fil"_s, u"Addbk2.Fil"_s};
-    functions.add(Function::AddressBook, {makeWindow<ADDBKVIEW>, addressNews, addressFiles, addressNotes, false});
+    functions.add(Function::AddressBook,
+                  {makeWindow<ADDBKVIEW>, addressNews, addressFiles, addressNotes, false});
     functions.add(Function::AddressViewer, {makeWindow<ADDBKDISPLAY>, {}, {}, {}, false});
     const QString yearFile = DayRecord::yearFileName(clock.today().year());
     functions.add(Function::Planner, {makeWindow<Zcalandar1>, plannerNews, {yearFile}, {}, true});
-    functions.add(Function::PasswordControl, {makeWindow<Form31>, passwordNews, {u"PCtrl1.Fil"_s}, {}, false});
+    functions.add(Function::PasswordControl,
+                  {makeWindow<Form31>, passwordNews, {u"PCtrl1.Fil"_s}, {}, false});
 }

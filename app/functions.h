@@ -3,6 +3,6 @@
 class Clock;
 class FunctionCatalogue;
 
-/// Puts every function that is built into this program into its catalogue; `clock` says which year the files of today
-/// belong to.
+/// Puts every function that is built into this program into its catalogue; `clock` says which year the files
+/// of today belong to.
 void addFunctions(FunctionCatalogue &functions, const Clock &clock);

@@ -1,21 +1,15 @@
-#include "app/functions.h"
+#include "app/assembly.h"
 #include "app/instancelink.h"
-#include "shell/form32.h"
-#include "shell/helpviewer.h"
-#include "shell/passwordfile.h"
 #include "shell/program.h"
-#include "shell/qtdialogs.h"
 #include "shell/splash1.h"
 #include "shell/startfrm.h"
+#include "shell/startmessages.h"
 #include "shell/theme.h"
 #include "storage/folderlock.h"
 #include "storage/log.h"
-#include "storage/saving.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QPointer>
-#include <QSettings>
 #include <QStandardPaths>
 
 using namespace Qt::Literals::StringLiterals;
@@ -34,40 +28,26 @@ DataFolder dataFolder(const DataFolder &programFolder)
     return DataFolder(own);
 }
 
-/// The manual opens when it is first asked for, and stays one window.
-void connectManual(Program &program, Startfrm &mainMenu)
+/// Another program holds the folder and does not answer: it hangs, runs on another computer, or its lock came
+/// here with a copy of the folder. The user knows.
+bool mayTakeOver(FolderLock &lock, const DataFolder &folder)
 {
-    QObject::connect(&program.changes, &ProgramSignals::helpRequested, &mainMenu,
-                     [&program, viewer = QPointer<HelpViewer>()](int context) mutable {
-                         if (!viewer)
-                             viewer = new HelpViewer(program);
-                         viewer->openPage(context);
-                     });
+    QtDialogs dialogs;
+    return dialogs.ask(nullptr, StartMessages::folderHeld(folder.path(), lock.holder())) == Answer::Yes &&
+           lock.takeOver();
 }
 
 int run(QApplication &application, const DataFolder &programFolder, const DataFolder &folder,
         InstanceLink &link)
 {
-    Saving::recover(folder);
-    QSettings store(u"Tessaly"_s, u"Quillery"_s);
-    Settings settings(folder);
-    ProgramState state;
-    PasswordFile(folder).load(state);
-    SystemClock clock;
-    QtDialogs dialogs;
-    FunctionCatalogue functions;
-    AccessGate gate(showPasswordPrompt);
-    ProgramSignals changes;
-    Program program{folder, programFolder, settings, state, clock, dialogs, functions, gate, store, changes};
-    addFunctions(functions, clock);
-
+    Assembly assembly(programFolder, folder);
+    Program &program = assembly.program();
     Theme::apply(application);
     Splash1 splash(program);
     splash.open();
     // The main window is made ready while the splash stands, so that it is there at once when it goes.
     Startfrm mainMenu(program);
-    connectManual(program, mainMenu);
-    QObject::connect(&link, &InstanceLink::called, &changes, &ProgramSignals::mainMenuRequested);
+    QObject::connect(&link, &InstanceLink::called, &program.changes, &ProgramSignals::mainMenuRequested);
     // Later, when the main window has closed: what is left of the other windows is closed then.
     QObject::connect(&mainMenu, &Startfrm::exited, &application, &QApplication::quit, Qt::QueuedConnection);
     splash.wait();
@@ -93,9 +73,11 @@ int main(int argc, char *argv[])
     FolderLock lock(folder);
     InstanceLink link(folder);
     if (!lock.take()) {
-        if (!link.callOther())
-            qCCritical(storageLog) << "another program holds" << folder.path() << "and does not answer";
-        return EXIT_SUCCESS;
+        if (link.callOther())
+            return EXIT_SUCCESS;
+        Theme::apply(application);
+        if (!mayTakeOver(lock, folder))
+            return EXIT_FAILURE;
     }
     link.listen();
     return run(application, programFolder, folder, link);

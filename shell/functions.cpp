@@ -4,6 +4,15 @@
 
 #include <QWidget>
 
+void bringToFront(QWidget &window)
+{
+    if (window.isMinimized())
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 void FunctionCatalogue::add(Function function, FunctionEntry entry)
 {
     m_entries.insert_or_assign(function, std::move(entry));
@@ -31,12 +40,7 @@ QWidget *FunctionCatalogue::open(Function function, Program &program)
         window = found->open(program);
     if (!window)
         return nullptr;
-    if (window->isMinimized())
-        window->showNormal();
-    else
-        window->show();
-    window->raise();
-    window->activateWindow();
+    bringToFront(*window);
     return window;
 }
 

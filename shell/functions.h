@@ -47,6 +47,9 @@ struct FunctionEntry {
     bool followsClock = false;
 };
 
+/// Shows `window`, as it was before it was minimised, in front of the others.
+void bringToFront(QWidget &window);
+
 /// The functions that are built into this program. A function that is not in it yet stands disabled on the
 /// main menu.
 class FunctionCatalogue

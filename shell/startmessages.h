@@ -18,6 +18,22 @@ inline Message exit()
             Answer::Yes};
 }
 
+/// A second start that nobody answers. `holder`: the program that made the lock, as far as it can be read.
+inline Message folderHeld(const QString &folder, const QString &holder)
+{
+    const QString who = holder.isEmpty() ? QStringLiteral("another program") : holder;
+    return {QStringLiteral("Quillery"),
+            QStringLiteral(
+                "Another Quillery seems to use these data already.\nThe folder %1 is held by %2, which "
+                "does not answer. Two programs at work on the same data can spoil them.\n"
+                "Yes = Open the data all the same, when you know that no other program uses them.\n"
+                "No = Leave everything as it is.")
+                .arg(folder, who),
+            Message::Warning,
+            {Answer::Yes, Answer::No},
+            Answer::No};
+}
+
 inline Message screenTooSmall()
 {
     return {QStringLiteral("Program Display Option"),

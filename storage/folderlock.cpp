@@ -2,7 +2,10 @@
 
 #include "storage/log.h"
 
+#include <QFile>
 #include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
 
 FolderLock::FolderLock(const DataFolder &folder)
     : m_lock(folder.path() + u"/Quillery.lock")
@@ -31,4 +34,19 @@ bool FolderLock::take()
     if (!isHeld)
         qCWarning(storageLog).noquote() << "Running without a lock: cannot make" << m_lock.fileName();
     return !isHeld;
+}
+
+QString FolderLock::holder() const
+{
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (!m_lock.getLockInfo(&process, &host, &program))
+        return {};
+    return u"process %1 on the computer %2"_s.arg(process).arg(host);
+}
+
+bool FolderLock::takeOver()
+{
+    return QFile::remove(m_lock.fileName()) && take();
 }

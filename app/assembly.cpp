@@ -1,0 +1,39 @@
+#include "app/assembly.h"
+
+#include "app/functions.h"
+#include "shell/form32.h"
+#include "shell/passwordfile.h"
+#include "storage/saving.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const DataFolder &recovered(const DataFolder &folder)
+{
+    Saving::recover(folder);
+    return folder;
+}
+
+} // namespace
+
+Assembly::Assembly(const DataFolder &programFolder, const DataFolder &folder)
+    : m_store(u"Tessaly"_s, u"Quillery"_s)
+    , m_settings(recovered(folder))
+    , m_gate(showPasswordPrompt)
+    , m_program{folder,    programFolder, m_settings, m_state, m_clock,
+                m_dialogs, m_functions,   m_gate,     m_store, m_changes}
+{
+    PasswordFile(folder).load(m_state);
+    addFunctions(m_functions, m_clock);
+    QObject::connect(&m_changes, &ProgramSignals::helpRequested, &m_changes,
+                     [this](int context) { openManual(context); });
+}
+
+void Assembly::openManual(int context)
+{
+    if (!m_manual)
+        m_manual = std::make_unique<HelpViewer>(m_program);
+    m_manual->openPage(context);
+    bringToFront(*m_manual);
+}
