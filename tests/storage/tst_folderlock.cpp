@@ -15,6 +15,7 @@ class TestFolderLock : public QObject
 private slots:
     void init() { m_dir = std::make_unique<QTemporaryDir>(); }
     void onlyOneHoldsAFolder();
+    void takesOverALockThatNobodyAnswersFor();
     void takesOverTheLockOfADeadProgram();
     void takesOverADamagedLock_data();
     void takesOverADamagedLock();
@@ -41,6 +42,20 @@ void TestFolderLock::onlyOneHoldsAFolder()
     }
     FolderLock next(folder);
     QVERIFY(next.take());
+}
+
+void TestFolderLock::takesOverALockThatNobodyAnswersFor()
+{
+    const DataFolder folder(m_dir->path());
+    FolderLock held(folder);
+    QVERIFY(held.take());
+    // A copy of the folder brings the lock of the program that runs on the original.
+    FolderLock lock(folder);
+    QVERIFY(!lock.take());
+    QVERIFY(lock.holder().contains(QString::number(QCoreApplication::applicationPid())));
+    QVERIFY(lock.takeOver());
+    FolderLock next(folder);
+    QVERIFY(!next.take());
 }
 
 void TestFolderLock::takesOverTheLockOfADeadProgram()
