@@ -37,16 +37,23 @@ public:
     template <typename Work>
     void measure(Work work)
     {
-        const double seconds = secondsOf(work);
-        m_measured = std::min(m_measured, seconds);
-        m_state.SetIterationTime(seconds);
+        measured(secondsOf(work));
     }
 
     template <typename Work>
     void reference(Work work)
     {
-        m_reference = std::min(m_reference, secondsOf(work));
+        referred(secondsOf(work));
     }
+
+    /// For what was timed elsewhere, in seconds.
+    void measured(double seconds)
+    {
+        m_measured = std::min(m_measured, seconds);
+        m_state.SetIterationTime(seconds);
+    }
+
+    void referred(double seconds) { m_reference = std::min(m_reference, seconds); }
 
 private:
     template <typename Work>

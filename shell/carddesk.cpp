@@ -208,6 +208,8 @@ void CardDesk::place()
 /// The card title's step of the scale, less as much as wide platform fonts ask for.
 QFont CardDesk::titleFontFor(int cardWidth) const
 {
+    if (m_titlesFor == cardWidth)
+        return m_titles;
     QFont font = TypeScale::cardTitle();
     const int room = FunctionCard::titleRoom(cardWidth);
     const auto fits = [&] {
@@ -218,7 +220,8 @@ QFont CardDesk::titleFontFor(int cardWidth) const
     };
     while (!fits() && font.pointSizeF() > smallestTitle)
         font.setPointSizeF(font.pointSizeF() - 0.5);
-    return font;
+    m_titlesFor = cardWidth;
+    return m_titles = font;
 }
 
 void CardDesk::paintEvent(QPaintEvent *)

@@ -58,5 +58,7 @@ private:
     QLabel *m_date;
     QLabel *m_sentence;
     std::vector<FunctionCard *> m_cards;
+    mutable QFont m_titles; ///< as measured for a card of the width `m_titlesFor`
+    mutable int m_titlesFor = -1;
     bool m_plate = false;
 };

@@ -84,6 +84,11 @@ public:
         invalidate();
     }
 
+    void invalidate() override
+    {
+        m_widest = -1;
+        QLayout::invalidate();
+    }
     void addItem(QLayoutItem *item) override { m_items.append(item); }
     int count() const override { return int(m_items.size()); }
     QLayoutItem *itemAt(int index) const override { return m_items.value(index); }
@@ -143,12 +148,20 @@ private:
     {
         if (m_maximumWidth == 0 || !isButton(item))
             return item->sizeHint().width();
-        int widest = 0;
-        for (const QLayoutItem *other : m_items)
-            if (const auto *button = buttonOf(other))
-                widest = std::max(widest,
-                                  button->fontMetrics().horizontalAdvance(button->text()) + 2 * tallPadding);
-        return std::max(widest, std::min(room, m_maximumWidth));
+        return std::max(widestWord(), std::min(room, m_maximumWidth));
+    }
+
+    /// Measured once for each change of the items: a layout asks for it again and again.
+    int widestWord() const
+    {
+        if (m_widest < 0) {
+            m_widest = 0;
+            for (const QLayoutItem *item : m_items)
+                if (const auto *button = buttonOf(item))
+                    m_widest = std::max(m_widest, button->fontMetrics().horizontalAdvance(button->text()) +
+                                                      2 * tallPadding);
+        }
+        return m_widest;
     }
 
     /// The width that each button could have if all stood in one row.
@@ -220,6 +233,7 @@ private:
 
     Qt::Orientation m_orientation;
     int m_maximumWidth = 0;
+    mutable int m_widest = -1; ///< not measured
     QList<QLayoutItem *> m_items;
 };
 
@@ -235,6 +249,7 @@ FlowToolBar::FlowToolBar(Qt::Orientation orientation, QWidget *parent)
     colors.setColor(QPalette::Window, Theme::of(this).bar);
     setPalette(colors);
     setAutoFillBackground(true);
+    setAccessibleName(u"Toolbar"_s);
 }
 
 FlowToolBar::~FlowToolBar() = default;
@@ -296,7 +311,8 @@ void FlowToolBar::actionEvent(QActionEvent *event)
         item->setVisible(action->isVisible());
         // The button hears of the change after its bar and takes the action's own word then.
         if (QToolButton *button = m_buttons.value(action))
-            QMetaObject::invokeMethod(button, [this, button] { dress(*button); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                button, [this, button] { dress(*button); }, Qt::QueuedConnection);
     }
     updateGeometry();
 }
