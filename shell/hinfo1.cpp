@@ -98,7 +98,7 @@ void HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pen
     writeToAll(program, SettingsKeys::colorFile1, SettingsKeys::programColors1, text);
     writeToAll(program, SettingsKeys::colorFile2, SettingsKeys::programColors2, text);
     writeToAll(program, SettingsKeys::colorFile3, SettingsKeys::programColors3, text);
-    emit program.changes.panelColorsChanged();
+    emit program.changes.panelColorsChanged(text);
 }
 
 void HINFO1::saveMainWindowSize(Program &program, bool maximized, QSize size)

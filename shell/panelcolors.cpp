@@ -18,9 +18,9 @@ PanelColors::PanelColors(Program &program, PanelColorSettings settings, QWidget 
     , m_window(window)
     , m_activity(activity)
 {
-    connect(&program.changes, &ProgramSignals::panelColorsChanged, this, [this] {
-        if (!hasUnsavedChanges())
-            load();
+    connect(&program.changes, &ProgramSignals::panelColorsChanged, this, [this](const QString &color) {
+        if (!hasUnsavedChanges() && !m_isKept)
+            load(color);
     });
 }
 
@@ -32,10 +32,17 @@ void PanelColors::addPanel(QWidget *panel)
 
 void PanelColors::load()
 {
+    load(m_program.settings.text(m_settings.programWide));
+}
+
+/// A window without a record of its own takes the program-wide colour, also where that could not be written.
+void PanelColors::load(const QString &programWide)
+{
     const QPalette palette = QApplication::palette();
-    QString panel = m_program.settings.text(m_settings.panel);
+    const bool hasOwn = m_settings.panel != m_settings.programWide;
+    QString panel = hasOwn ? m_program.settings.text(m_settings.panel) : programWide;
     if (ColorText::isDefault(panel))
-        panel = m_program.settings.text(m_settings.programWide);
+        panel = programWide;
     m_panel = ColorText::decode(panel, palette);
     m_text.reset();
     if (m_settings.text)
@@ -132,6 +139,7 @@ void PanelColors::save()
     if (textChanged && m_settings.text)
         isSaved &= settings.setText(*m_settings.text,
                                     m_text ? ColorText::encode(*m_text) : ColorText::defaultText());
+    m_isKept = !isSaved;
     if (!isSaved)
         m_activity.say(ShellMessages::settingNotSaved());
     if (panelChanged) {

@@ -56,6 +56,7 @@ private:
     /// Asks for a colour, given the one to preset and the one it must differ from. Nothing: leave it as it
     /// is; an invalid colour: the system's default.
     std::optional<QColor> choose(const QString &title, const QColor &preset, const QColor &forbidden);
+    void load(const QString &programWide);
     void apply();
     void save();
 
@@ -68,4 +69,5 @@ private:
     std::optional<QColor> m_text;  ///< nothing: the ink that suits the panel
     bool m_panelChanged = false;
     bool m_textChanged = false;
+    bool m_isKept = false; ///< the colours could not be written: they stay until the window closes
 };

@@ -10,8 +10,8 @@ public:
     using QObject::QObject;
 
 signals:
-    /// The panel colours were changed for the whole program.
-    void panelColorsChanged();
+    /// The panel colours were changed for the whole program to `color`, as the records hold it.
+    void panelColorsChanged(const QString &color);
     /// The top toolbar was removed or restored.
     void topToolbarChanged();
     /// The family name was changed.

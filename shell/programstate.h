@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <array>
+#include <optional>
 
 /// Whether dates are read and written month first ("USA") or day first ("OTHER"). Decided at start.
 enum class DateStyle { Usa, Other };
@@ -17,7 +18,9 @@ public:
     static constexpr qsizetype maximumLength = 15;
 
     FamilyName() = default;
-    explicit FamilyName(const QString &name) : m_name(name.left(maximumLength)) {}
+    explicit FamilyName(const QString &name)
+        : m_name(name.left(maximumLength))
+    {}
 
     const QString &text() const { return m_name; }
     bool isEmpty() const { return m_name.isEmpty(); }
@@ -31,7 +34,8 @@ private:
     QString m_name;
 };
 
-/// Which of the 21 areas of the program ask for the password. A flag is set by the text "YES", trailing blanks aside.
+/// Which of the 21 areas of the program ask for the password. A flag is set by the text "YES", trailing
+/// blanks aside.
 class ProtectedAreas
 {
 public:
@@ -47,8 +51,8 @@ private:
     std::array<QString, count> m_flags;
 };
 
-/// What the password prompt left behind: negative when the user failed or cancelled. `PasswordControl` is put in
-/// before the prompt to tell it that it guards password control itself.
+/// What the password prompt left behind: negative when the user failed or cancelled. `PasswordControl` is put
+/// in before the prompt to tell it that it guards password control itself.
 enum class PasswordGateResult : short { Refused = -1, Open = 0, PasswordControl = 1 };
 
 /// The value of `ProgramState::startup` once the main window has finished its first activation.
@@ -63,5 +67,7 @@ struct ProgramState {
     /// The area that the password prompt is asked for, while it is; -1 otherwise.
     int guardedArea = -1;
     ScreenMode screenMode = ScreenMode::FullScreen;
+    /// Known once the top toolbar was removed or restored in this run; until then its record says it.
+    std::optional<bool> topToolbarRemoved;
     int startup = 0;
 };

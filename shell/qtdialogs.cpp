@@ -1,6 +1,7 @@
 #include "shell/qtdialogs.h"
 
 #include "shell/fontbox.h"
+#include "shell/functions.h"
 #include "shell/messagebox.h"
 
 #include <QApplication>
@@ -23,6 +24,9 @@ public:
     {
         if (m_wasBusy)
             QApplication::setOverrideCursor(Qt::ArrowCursor);
+        // Who is asked shall see what about.
+        if (m_window && m_window->isVisible() && !m_window->isActiveWindow())
+            bringToFront(*m_window);
     }
     ~AroundModalBox()
     {

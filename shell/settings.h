@@ -9,12 +9,16 @@
 struct SettingsFile {
     const char *name;
     int recordLength;
+
+    bool operator==(const SettingsFile &) const = default;
 };
 
 /// A record that holds a counted text.
 struct TextSetting {
     SettingsFile file;
     int record;
+
+    bool operator==(const TextSetting &) const = default;
 };
 
 /// A record that holds a whole number: 2 bytes, signed.

@@ -141,10 +141,11 @@ void Startfrm::showTopToolbarMenu(const QPoint &place)
 {
     auto *menu = named(new QMenu(this), u"toolbarMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    connect(menu->addAction(u"&Remove Top Toolbar"_s), &QAction::triggered, this,
-            &Startfrm::toggleTopToolbar);
-    connect(menu->addAction(u"&Customize Toolbar"_s), &QAction::triggered, this,
-            &Startfrm::customizeTopToolbar);
+    QAction *remove = makeAction(u"removeTopToolbar"_s, u"&Remove Top Toolbar"_s, menu);
+    QAction *customize = makeAction(u"customizeToolbar"_s, u"&Customize Toolbar"_s, menu);
+    connect(remove, &QAction::triggered, this, &Startfrm::toggleTopToolbar);
+    connect(customize, &QAction::triggered, this, &Startfrm::customizeTopToolbar);
+    menu->addActions({remove, customize});
     menu->popup(m_topBar->mapToGlobal(place));
 }
 
@@ -162,8 +163,7 @@ void Startfrm::useDefaultPanelColor()
 {
     QString pending = ColorText::encode(Theme::of(this).panel);
     HINFO1::updateProgramColors(m_program, this, pending, HINFO1::updateWithoutAsking);
-    m_colors->load();
-    m_activity->say(u"All windows have their own panel color again."_s);
+    m_activity->say(u"The default panel color is set for the whole program."_s);
 }
 
 void Startfrm::openBackgroundSelector()
@@ -173,10 +173,8 @@ void Startfrm::openBackgroundSelector()
     const BusyCursor busy;
     m_activity->setActivity(u"Background Selector"_s);
     m_selector = new BackgroundSelector(
-        BackgroundChoice::ofRecord(m_program.settings.tagged(SettingsKeys::background)),
-        [this](const BackgroundChoice &choice) { return picturePath(choice); }, m_picture);
+        m_background, [this](const BackgroundChoice &choice) { return picturePath(choice); }, m_picture);
     m_colors->addPanel(m_selector->panel());
-    m_colors->load();
     connect(m_selector, &BackgroundSelector::chosen, this, &Startfrm::showBackground);
     connect(m_selector, &BackgroundSelector::accepted, this, &Startfrm::chooseBackground);
     connect(m_selector, &BackgroundSelector::cancelled, this, &Startfrm::closeBackgroundSelector);
@@ -186,20 +184,23 @@ void Startfrm::openBackgroundSelector()
     m_selector->focusChoice();
 }
 
-/// The selector's OK.
+/// The selector's OK. A choice that cannot be written holds for this run.
 void Startfrm::chooseBackground()
 {
-    m_program.settings.setTagged(SettingsKeys::background, m_selector->choice().recordText());
+    m_background = m_selector->choice();
+    const bool isSaved = m_program.settings.setTagged(SettingsKeys::background, m_background.recordText());
     closeBackgroundSelector();
+    if (!isSaved)
+        m_activity->say(ShellMessages::settingNotSaved());
 }
 
-/// Back to the main menu with the background that the settings hold.
+/// Back to the main menu with the background that was chosen last.
 void Startfrm::closeBackgroundSelector()
 {
     m_picture->closeSelector();
     m_selector->deleteLater();
     m_selector = nullptr;
-    showStoredBackground();
+    showBackground(m_background);
     showTopToolbar();
     showSideToolbars(m_sideToolbarsShown);
     showMainMenu();

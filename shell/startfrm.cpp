@@ -99,7 +99,7 @@ void Startfrm::listen()
     connect(m_activity, &ActivityBar::restoreSideToolbarsRequested, this, [this] { showSideToolbars(true); });
     connect(&m_program.changes, &ProgramSignals::topToolbarChanged, this, &Startfrm::showTopToolbar);
     connect(&m_program.changes, &ProgramSignals::familyNameChanged, this, &Startfrm::showMainMenu);
-    connect(&m_program.changes, &ProgramSignals::mainMenuRequested, this, &Startfrm::raiseToFront);
+    connect(&m_program.changes, &ProgramSignals::mainMenuRequested, this, [this] { bringToFront(*this); });
     connect(m_dayWatch, &QTimer::timeout, this, [this] {
         if (m_newsShown)
             refreshNews();
@@ -129,6 +129,8 @@ void Startfrm::setVisible(bool visible)
 void Startfrm::activate()
 {
     m_displayMode->load();
+    m_background = BackgroundChoice::ofRecord(m_program.settings.tagged(SettingsKeys::background));
+    m_colors->load();
     setUp();
     // The marker is read and then overruled: the side toolbars always start removed.
     int marker = m_program.settings.number(SettingsKeys::sideToolbarMarker);
@@ -145,8 +147,7 @@ void Startfrm::setUp()
     showTopToolbar();
     for (const FunctionFace &face : FunctionFaces::cards())
         m_picture->desk().setAvailable(face.function, m_program.functions.has(face.function));
-    showStoredBackground();
-    m_colors->load();
+    showBackground(m_background);
     m_picture->setDate(Dates::longText(m_program.clock.today(), m_program.state.dateStyle));
     m_picture->showNews(m_news);
     m_activity->startClock();
@@ -186,11 +187,6 @@ QString Startfrm::picturePath(const BackgroundChoice &choice) const
 void Startfrm::showBackground(const BackgroundChoice &choice)
 {
     m_picture->setPicture(picturePath(choice));
-}
-
-void Startfrm::showStoredBackground()
-{
-    showBackground(BackgroundChoice::ofRecord(m_program.settings.tagged(SettingsKeys::background)));
 }
 
 void Startfrm::showTopToolbar()
@@ -267,8 +263,10 @@ bool Startfrm::mayExit()
     HINFO1::hourglassOff();
     for (QWidget *window : m_program.functions.openWindows())
         if (auto *functionWindow = qobject_cast<FunctionWindow *>(window);
-            functionWindow && !functionWindow->mayLeave())
+            functionWindow && !functionWindow->mayLeave()) {
+            bringToFront(*functionWindow);
             return false;
+        }
     return m_program.dialogs.ask(this, StartMessages::exit()) == Answer::Yes;
 }
 
@@ -278,12 +276,4 @@ bool Startfrm::closeFunctionWindows()
         if (!window->close())
             return false;
     return true;
-}
-
-void Startfrm::raiseToFront()
-{
-    if (isMinimized())
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-    raise();
-    activateWindow();
 }

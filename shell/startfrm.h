@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/backgroundchoice.h"
 #include "shell/displaymode.h"
 #include "shell/menunews.h"
 #include "shell/panelcolors.h"
@@ -13,7 +14,6 @@
 #include <functional>
 
 class ActivityBar;
-class BackgroundChoice;
 class BackgroundSelector;
 class FlowToolBar;
 class MenuPicture;
@@ -100,7 +100,6 @@ private:
     void showMainMenu();
     QString picturePath(const BackgroundChoice &choice) const;
     void showBackground(const BackgroundChoice &choice);
-    void showStoredBackground();
     void showTopToolbar();
     void showSideToolbars(bool shown);
     void removeSideToolbars();
@@ -108,7 +107,6 @@ private:
     void orderTabs();
     bool mayExit();
     bool closeFunctionWindows();
-    void raiseToFront();
 
     Program &m_program;
     Surroundings m_surroundings;
@@ -121,6 +119,7 @@ private:
     PanelColors *m_colors;
     ToolbarLayout *m_topLayout = nullptr;
     BackgroundSelector *m_selector = nullptr; ///< while it is open
+    BackgroundChoice m_background;
     std::array<QAction *, TopButtons::count> m_topActions{};
     MenuNews m_news;
     QTimer *m_dayWatch; ///< a new day has other news

@@ -72,11 +72,12 @@ void ToolbarLayout::show(const QStringList &names)
 
 bool TopToolbar::isRemoved(const Program &program, const TextSetting &setting)
 {
-    return program.settings.text(setting) == "OFF"_L1;
+    return program.state.topToolbarRemoved.value_or(program.settings.text(setting) == "OFF"_L1);
 }
 
 void TopToolbar::setRemoved(Program &program, bool removed)
 {
+    program.state.topToolbarRemoved = removed;
     const QString state = removed ? u"OFF"_s : u"ON"_s;
     program.settings.setText(SettingsKeys::topToolbar, state);
     program.settings.setText(SettingsKeys::weightTopToolbar, state);

@@ -289,8 +289,7 @@ void TestPanelColors::coloursTheWholeProgramOnRequest()
 void TestPanelColors::followsAnotherWindowsUpdate()
 {
     const PanelColors &colors = make(withText);
-    m_program->settings.setText(withText.programWide, QString::fromLatin1(blueText));
-    emit m_program->changes.panelColorsChanged();
+    emit m_program->changes.panelColorsChanged(QString::fromLatin1(blueText));
     QCOMPARE(colors.panelColor(), blue);
     QCOMPARE(m_panel->palette().color(QPalette::Window), blue);
 }
