@@ -18,6 +18,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -85,7 +87,14 @@ void FunctionWindow::showPreview(std::function<Page(const PageSetup &)> builder,
         m_focusBeforePreview = focusWidget();
     PreviewPane &pane = preview();
     m_stack->setCurrentWidget(&pane);
-    pane.show(std::move(builder), jobName);
+    // The household's name heads the page where it has no other word at its right.
+    const auto headed = [this, build = std::move(builder)](const PageSetup &setup) {
+        Page page = build(setup);
+        if (page.headRight().isEmpty())
+            page.setHeadRight(m_program.state.familyName.text());
+        return page;
+    };
+    pane.show(headed, jobName);
     pane.setFocus();
 }
 
@@ -239,9 +248,11 @@ void FunctionWindow::showToolbarMenu(const QPoint &place)
 {
     auto *menu = named(new QMenu(this), u"toolbarMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    connect(menu->addAction(u"&Remove Top Toolbar"_s), &QAction::triggered, this,
-            [this] { TopToolbar::setRemoved(m_program, true); });
-    connect(menu->addAction(u"&Customize Toolbar"_s), &QAction::triggered, this, [this] {
+    QAction *remove = makeAction(u"removeTopToolbar"_s, u"&Remove Top Toolbar"_s, menu);
+    QAction *customize = makeAction(u"customizeToolbar"_s, u"&Customize Toolbar"_s, menu);
+    menu->addActions({remove, customize});
+    connect(remove, &QAction::triggered, this, [this] { TopToolbar::setRemoved(m_program, true); });
+    connect(customize, &QAction::triggered, this, [this] {
         ToolbarCustomizer customizer(*m_toolbarLayout, this);
         m_program.dialogs.run(customizer);
     });
@@ -255,8 +266,12 @@ void FunctionWindow::restoreGeometryOnScreen()
     resize(m_traits.openingSize.boundedTo(available));
     if (!restoreGeometry(m_program.store.value(storeKey(u"geometry"_s)).toByteArray()))
         move(screen()->availableGeometry().center() - rect().center());
-    if (!isMaximized())
-        resize(size().boundedTo(screen()->availableSize()));
+    if (isMaximized())
+        return;
+    const QRect room = screen()->availableGeometry();
+    resize(size().boundedTo(room.size()));
+    move(std::clamp(x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
+         std::clamp(y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
 }
 
 QString FunctionWindow::storeKey(const QString &what) const

@@ -137,6 +137,12 @@ Page &Page::close(QDate printedOn, DateStyle style)
     return *this;
 }
 
+Page &Page::setHeadRight(const QString &text)
+{
+    m_headRight = text;
+    return *this;
+}
+
 QString Page::toText() const
 {
     return toText(0, m_items.size() + 1);

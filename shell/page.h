@@ -169,6 +169,7 @@ public:
     /// The title as sheet `number` (from 1) shows it.
     QString titleOf(int number) const;
     const QString &headRight() const { return m_headRight; }
+    Page &setHeadRight(const QString &text);
     const std::vector<Item> &items() const { return m_items; }
     bool isClosed() const { return m_closed; }
     /// The last line but one of a closed page.

@@ -40,7 +40,14 @@ constexpr double millimetersPerInch = 25.4;
 /// The zoom button tells its state by its caption: the command that it offers next.
 QString enlargeCaption()
 {
-    return u"Enlar&ge"_s;
+    return u"Enlarge"_s;
+}
+
+/// The caption stands as it is; its access key comes beside it.
+void offerZoom(QPushButton &button, bool enlarge)
+{
+    button.setText(enlarge ? enlargeCaption() : u"Normal"_s);
+    button.setShortcut(QKeySequence(enlarge ? Qt::ALT | Qt::Key_G : Qt::ALT | Qt::Key_N));
 }
 
 QSizeF usualPaper(DateStyle style)
@@ -48,11 +55,6 @@ QSizeF usualPaper(DateStyle style)
     const QSizeF letter(8.5, 11);
     const QSizeF a4(210 / millimetersPerInch, 297 / millimetersPerInch);
     return style == DateStyle::Usa ? letter : a4;
-}
-
-QString withoutAccessKey(QString caption)
-{
-    return caption.remove(u'&');
 }
 
 ColumnButton *makeColumnButton(const QString &name, const QString &caption, QLatin1StringView icon,
@@ -130,6 +132,7 @@ void PreviewPane::fillButtonPanel()
 {
     m_orientation = named(makeQuietLabel({}, m_buttonPanel), u"Panel3D80"_s);
     m_zoom = makeColumnButton(u"SSCommand1"_s, enlargeCaption(), "zoom-in"_L1, m_buttonPanel);
+    offerZoom(*m_zoom, true);
     m_fontSample = named(new FontSample(u"Sample of the page font"_s, m_buttonPanel), u"Panel3d82"_s);
     m_close = makeColumnButton(u"SSCommand2"_s, u"Close Previe&w"_s, "exit"_L1, m_buttonPanel);
 
@@ -310,8 +313,8 @@ void PreviewPane::copyPage()
 
 void PreviewPane::toggleZoom()
 {
-    const bool enlarge = withoutAccessKey(m_zoom->text()) == withoutAccessKey(enlargeCaption());
-    m_zoom->setText(enlarge ? u"&Normal"_s : enlargeCaption());
+    const bool enlarge = m_zoom->text() == enlargeCaption();
+    offerZoom(*m_zoom, !enlarge);
     m_zoom->setSign(enlarge ? "zoom-out"_L1 : "zoom-in"_L1);
     m_view->setZoom(enlarge ? SheetView::Zoom::Enlarged : SheetView::Zoom::Whole);
 }
