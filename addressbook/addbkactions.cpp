@@ -33,7 +33,10 @@ bool ADDBKVIEW::mayReplaceShown()
 {
     if (!isModified())
         return true;
-    switch (ask(AddressMessages::saveChanges(AddressMessages::GoingBack::Possible))) {
+    // When the desktop session ends nobody can go back.
+    const auto goingBack = qApp->isSavingSession() ? AddressMessages::GoingBack::Impossible
+                                                   : AddressMessages::GoingBack::Possible;
+    switch (ask(AddressMessages::saveChanges(goingBack))) {
     case Answer::Yes:
         return save();
     case Answer::No:
@@ -43,16 +46,36 @@ bool ADDBKVIEW::mayReplaceShown()
     }
 }
 
+/// A new entry that was saved is shown as the entry that it now is: saved once more it would be there twice.
 bool ADDBKVIEW::save()
 {
-    return m_mode == Mode::Entry ? saveNew() : saveChanged();
+    if (m_mode != Mode::Entry)
+        return saveChanged();
+    if (!saveNew())
+        return false;
+    showSaved();
+    return true;
+}
+
+void ADDBKVIEW::showSaved()
+{
+    selectRow(m_names->rowCount() - 1);
+    m_shown = m_names->index(m_names->rowCount() - 1);
+    m_mayChange = true;
+    setMode(Mode::View);
 }
 
 bool ADDBKVIEW::isLastNameGiven()
 {
-    if (!m_form->box(LastName)->text().isEmpty())
+    const QString name = m_form->box(LastName)->text();
+    const bool isMark = name.startsWith("****"_L1) || name.trimmed().startsWith("####"_L1);
+    if (!name.isEmpty() && !isMark)
         return true;
-    ask(AddressMessages::lastNameMissing());
+    if (isMark)
+        activity().say(AddressMessages::markedName());
+    else
+        ask(AddressMessages::lastNameMissing());
+    closePreview();
     showPage(m_entryPage);
     m_form->box(LastName)->setFocus();
     return false;
@@ -62,6 +85,7 @@ bool ADDBKVIEW::saveNew()
 {
     if (!isLastNameGiven())
         return false;
+    m_form->tidyDates();
     const AddressBook::SaveResult result = m_book.saveNew(typedEntry());
     takeSaved(result, -1);
     return result.isEntryWritten;
@@ -71,13 +95,12 @@ bool ADDBKVIEW::saveChanged()
 {
     if (!isLastNameGiven())
         return false;
+    m_form->tidyDates();
     const AddressBook::SaveResult result = m_book.saveChanged(m_record, typedEntry());
     takeSaved(result, m_shown.row());
     if (!result.isEntryWritten)
         return false;
-    selectRow(m_names->rowCount() - 1);
-    m_shown = m_names->index(m_names->rowCount() - 1);
-    setMode(Mode::View);
+    showSaved();
     return true;
 }
 
@@ -95,6 +118,7 @@ void ADDBKVIEW::takeSaved(const AddressBook::SaveResult &result, int oldRow)
     m_names->removeAt(oldRow);
     m_names->append(result.line);
     refreshCount();
+    refreshModified();
     if (result.isLineWritten)
         activity().say(AddressLines::saved(m_loaded.fullName()));
     else
@@ -136,9 +160,11 @@ void ADDBKVIEW::deleteShown()
         return;
     const int row = m_shown.row();
     if (!m_book.remove(m_record)) {
-        activity().say(AddressMessages::deleteFailed());
+        const bool isGone = m_book.read(m_record)[LastName] != m_loaded[LastName];
+        activity().say(isGone ? AddressMessages::lineNotDeleted() : AddressMessages::deleteFailed());
         return;
     }
+    closePreview();
     loadNames();
     if (m_names->names().isEmpty()) {
         showNothing();
@@ -179,6 +205,7 @@ void ADDBKVIEW::printWorksheet()
 
 void ADDBKVIEW::showPrintOptions()
 {
+    closePreview();
     m_printOptions->start(selectedRow(), m_names->rowCount());
     showPage(m_printOptions);
     m_printOptions->focusFirst();
@@ -188,10 +215,11 @@ void ADDBKVIEW::showPrintOptions()
 AddressPages::Source ADDBKVIEW::entriesOf(int first, int count) const
 {
     return [this, first, count](const std::function<bool(const AddressEntry &)> &visit) {
+        AddressBook::Reader entries(m_book);
         const int end = std::min(first + count, m_names->rowCount());
         for (int row = first; row < end; ++row) {
-            const AddressBook::Found found = m_book.open(m_names->names().line(row));
-            if (found.record != 0 && !visit(found.entry))
+            const int record = m_names->names().recordAt(row);
+            if (record != 0 && !visit(entries.read(record)))
                 return;
         }
     };
@@ -225,6 +253,7 @@ void ADDBKVIEW::printCards(AddressPages::PerSheet perSheet)
 
 void ADDBKVIEW::loadPicture()
 {
+    closePreview();
     showPage(m_picturePanel);
     m_picturePanel->start(m_picture != noPicture && !m_picture.isEmpty());
 }
@@ -244,6 +273,7 @@ void ADDBKVIEW::enlargePicture()
 {
     m_enlarged->setPicture(m_pictures.locate(m_picture));
     showPage(m_enlargedPage);
+    m_enlargedPage->setFocus();
 }
 
 void ADDBKVIEW::dial(const QString &number)

@@ -218,6 +218,7 @@ QWidget *ADDBKVIEW::makeEnlargedPage()
     QPushButton *normal = makeButton(u"pictureNormal"_s, u"Normal"_s, page, ButtonKind::Main);
     normal->setIcon(Icons::tinted("zoom-out"_L1, Theme::of(this).scheme, Theme::of(this).onAccent));
     connect(normal, &QPushButton::clicked, this, &ADDBKVIEW::leavePanel);
+    page->setFocusProxy(normal);
     auto *foot = new QHBoxLayout;
     foot->addStretch(1);
     foot->addWidget(normal);

@@ -63,6 +63,8 @@ AddressEntry ADDBKVIEW::typedEntry() const
 
 void ADDBKVIEW::setMode(Mode mode)
 {
+    // A page on the screen would hide what is typed into from now on.
+    closePreview();
     m_mode = mode;
     const bool isEntry = mode == Mode::Entry;
     setWindowTitle(isEntry ? u"Family/Friends Data Entry Screen"_s : u"Family/Friends Data View Screen"_s);
@@ -113,8 +115,12 @@ void ADDBKVIEW::showPage(QWidget *page)
 
 void ADDBKVIEW::leavePanel()
 {
+    const bool wasEnlarged = m_pages->currentWidget() == m_enlargedPage;
     showPage(isEmptyShown() ? m_emptyPage : m_entryPage);
-    (m_mode == Mode::View ? static_cast<QWidget *>(m_list) : m_form->box(LastName))->setFocus();
+    if (wasEnlarged && m_form->enlargeButton()->isVisible())
+        m_form->enlargeButton()->setFocus();
+    else
+        (m_mode == Mode::View ? static_cast<QWidget *>(m_list) : m_form->box(LastName))->setFocus();
 }
 
 void ADDBKVIEW::showEntry(const AddressEntry &entry)
@@ -201,9 +207,9 @@ void ADDBKVIEW::showSelected()
     m_mode = Mode::View;
     showEntry(found.entry);
     setMode(Mode::View);
-    if (found.record == 0)
+    if (found.record == 0 && !line.isEmpty())
         activity().say(AddressMessages::lineWithoutNumber());
-    else if (found.entry.isEmpty())
+    else if (found.record == 0 || found.entry.isEmpty())
         activity().say(AddressMessages::entryNotFound());
     else if (!found.mayChange)
         activity().say(AddressMessages::lineOfAnotherEntry());
@@ -223,12 +229,12 @@ void ADDBKVIEW::showNothing()
 
 bool ADDBKVIEW::showRecord(int record)
 {
-    const int row = m_names->names().positionOf(record);
-    if (row < 0)
+    if (m_names->names().positionOf(record) < 0)
         return false;
     closePreview();
     if (mayReplaceShown()) {
-        selectRow(row);
+        // Only now: what was saved has moved its line to the end of the list.
+        selectRow(m_names->names().positionOf(record));
         showSelected();
         m_list->setFocus();
     }
@@ -264,8 +270,11 @@ void ADDBKVIEW::viewSelected()
         focusSearchBox();
         return;
     }
+    const QPersistentModelIndex wanted = m_names->index(selectedRow());
     if (!mayReplaceShown())
         return;
+    if (wanted.isValid())
+        selectRow(wanted.row());
     showSelected();
     m_list->setFocus();
 }

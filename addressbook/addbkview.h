@@ -122,6 +122,7 @@ private:
     // Saving.
     bool mayReplaceShown();
     bool save(); ///< with the routine of the mode; false: refused, and the user was told
+    void showSaved();
     bool isLastNameGiven();
     bool saveNew();
     bool saveChanged();

@@ -84,6 +84,15 @@ AddressEntry AddressBook::read(int record) const
     return addressLayout.decode(file.read(record));
 }
 
+AddressBook::Reader::Reader(const AddressBook &book)
+    : m_file(book.entries().path(), addressLayout.size())
+{}
+
+AddressEntry AddressBook::Reader::read(int record)
+{
+    return isEntryRecord(record) ? addressLayout.decode(m_file.read(record)) : AddressEntry();
+}
+
 AddressBook::Found AddressBook::open(QStringView line) const
 {
     Found found;

@@ -3,13 +3,14 @@
 #include "addressbook/addressentry.h"
 #include "addressbook/namelist.h"
 #include "storage/datafolder.h"
+#include "storage/openrecordfile.h"
 #include "storage/recordfile.h"
 
 #include <functional>
 
 /// The two files of the address book, which always move together: `Addbk1.Fil` holds the entries,
 /// `Addbk2.Fil` a line of the name list for each. Entry N is record N of both. No file stays open between
-/// calls.
+/// calls, but for a `Reader`.
 class AddressBook
 {
 public:
@@ -36,6 +37,19 @@ public:
         int record = 0; ///< 0: the line's number cannot be read, and there is no entry
         AddressEntry entry;
         bool mayChange = false; ///< false: the line bears another name than the entry
+    };
+
+    /// Reads entries one after another while `Addbk1.Fil` stays open: for pages of many of them.
+    class Reader
+    {
+    public:
+        explicit Reader(const AddressBook &book);
+
+        /// As `AddressBook::read`.
+        AddressEntry read(int record);
+
+    private:
+        OpenRecordFile m_file;
     };
 
     explicit AddressBook(const DataFolder &folder);

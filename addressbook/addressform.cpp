@@ -249,6 +249,12 @@ void AddressForm::tidyDate(AddressField field)
         setDate(field, typed);
 }
 
+void AddressForm::tidyDates()
+{
+    tidyDate(BirthDate);
+    tidyDate(AnniversaryDate);
+}
+
 AddressForm::Texts AddressForm::texts() const
 {
     Texts texts;

@@ -43,6 +43,9 @@ public:
     void setNameHint(const QString &hint);
     /// Whether the word "required" stands beside the last name.
     void setRequiredShown(bool shown);
+    /// Puts dates that were typed into the form that the file keeps, as leaving their boxes does: before a
+    /// save that comes by its access key.
+    void tidyDates();
     /// Reads the dates again: a new day has begun, or texts were set.
     void refreshFacts();
 

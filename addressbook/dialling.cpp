@@ -32,12 +32,14 @@ bool dial(Modem &modem, int port, const QString &number)
 /// A port that the person names and the settings can hold; nothing when the question is cancelled.
 std::optional<int> anotherPort(CallDesk &desk, const QStringList &ports, int current)
 {
-    const QString prompt = (QStringList{AddressMessages::newPortPrompt()} + ports).join(u'\n');
+    QString prompt = (QStringList{AddressMessages::newPortPrompt()} + ports).join(u'\n');
+    const QString again = prompt + u'\n' + AddressMessages::portOutOfRange();
     while (const std::optional<QString> typed = desk.askPort(prompt, current)) {
         bool isNumber = false;
         const int port = AnsiText::trimmedBlanks(*typed).toInt(&isNumber);
         if (isNumber && port >= 1 && port <= std::numeric_limits<qint16>::max())
             return port;
+        prompt = again;
     }
     return std::nullopt;
 }

@@ -48,7 +48,7 @@ inline Message nameNotSelected()
 
 inline Message nothingToView()
 {
-    return {u"View Data"_s, u"There are currently no files to view,\nthen use entry screen to input data."_s};
+    return {u"View Data"_s, u"There are currently no files to view,\nuse entry screen to input data."_s};
 }
 
 /// `names`: first and last name of the entry.
@@ -153,6 +153,21 @@ inline QString saveFailed()
 inline QString lineNotSaved()
 {
     return u"The entry was saved, but its line in the name list could not be written."_s;
+}
+
+inline QString lineNotDeleted()
+{
+    return u"The entry was deleted, but its line in the name list could not be marked."_s;
+}
+
+inline QString markedName()
+{
+    return u"A last name cannot begin with **** or ####: such entries count as deleted."_s;
+}
+
+inline QString portOutOfRange()
+{
+    return u"(A number from 1 to 32767, please.)"_s;
 }
 
 inline QString deleteFailed()

@@ -56,21 +56,27 @@ bool PictureFrame::setPicture(const QString &path)
 void PictureFrame::setImage(const QImage &picture)
 {
     m_picture = QPixmap::fromImage(picture);
-    update();
-    emit matChanged();
+    tellChange();
 }
 
 void PictureFrame::clear()
 {
     m_picture = {};
-    update();
-    emit matChanged();
+    tellChange();
 }
 
 void PictureFrame::setWords(const QString &words)
 {
     m_words = words;
+    tellChange();
+}
+
+/// What is painted is told to those who cannot see it as well.
+void PictureFrame::tellChange()
+{
+    setAccessibleDescription(hasPicture() ? QString() : m_words);
     update();
+    emit matChanged();
 }
 
 void PictureFrame::setAlignment(Qt::Alignment alignment)

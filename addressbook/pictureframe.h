@@ -55,6 +55,7 @@ protected:
 private:
     QSize matFor(QSize room) const;
     void paintEmpty(QPainter &painter) const;
+    void tellChange();
 
     QPixmap m_picture;
     QString m_words;

@@ -57,7 +57,7 @@ QWidget *PrintOptions::makeRange()
     layout->addWidget(m_some, 1, 0);
     layout->addWidget(m_count, 1, 1);
     layout->setColumnStretch(2, 1);
-    connect(m_some, &QRadioButton::toggled, m_count, &QSpinBox::setEnabled);
+    connect(m_some, &QRadioButton::toggled, this, &PrintOptions::offerCount);
     return range;
 }
 
@@ -108,10 +108,15 @@ void PrintOptions::start(int selected, int total)
     m_count->setValue(std::min(recommended, following));
     setUnavailable(m_some, following > 0 ? QString() : AddressLines::chooseNameFirst());
     (following > 0 && total > recommended ? m_some : m_all)->setChecked(true);
-    m_count->setEnabled(m_some->isChecked());
+    offerCount();
     for (QPushButton *button : std::as_const(m_cards))
         setUnavailable(button, total > 0 ? QString() : AddressLines::bookIsEmpty());
     setUnavailable(m_entry, selected >= 0 ? QString() : AddressLines::chooseNameFirst());
+}
+
+void PrintOptions::offerCount()
+{
+    setUnavailable(m_count, m_some->isChecked() ? QString() : AddressLines::allArePrinted());
 }
 
 void PrintOptions::focusFirst()

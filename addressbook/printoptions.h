@@ -39,6 +39,7 @@ protected:
 private:
     QWidget *makeChoices();
     QWidget *makeRange();
+    void offerCount();
 
     int m_selected = -1;
     int m_total = 0;

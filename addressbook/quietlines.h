@@ -75,6 +75,11 @@ inline QString bookIsEmpty()
     return u"There is no entry yet"_s;
 }
 
+inline QString allArePrinted()
+{
+    return u"All entries are printed: choose the other line to print some"_s;
+}
+
 inline QString choosePictureFirst()
 {
     return u"Choose a picture in the list of files first"_s;

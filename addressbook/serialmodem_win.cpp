@@ -1,8 +1,6 @@
 #include "addressbook/serialmodem.h"
 
-#define NOMINMAX
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#include <qt_windows.h>
 
 using namespace Qt::Literals::StringLiterals;
 

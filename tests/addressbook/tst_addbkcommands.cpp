@@ -23,6 +23,7 @@ private slots:
     void closesTheCalendar();
     void tidiesTypedDates_data();
     void tidiesTypedDates();
+    void tidiesDatesBeforeTheyAreSaved();
     void tellsWhatTheDatesMean();
     void hintsAtNamesTooLongForTheList();
     void showsPicturesWhereverTheyAre();
@@ -112,6 +113,17 @@ void TestAddbkcommands::tidiesTypedDates()
     type(2, typed);
     QTest::keyClick(box(2), Qt::Key_Tab);
     QTEST(box(2)->text(), "kept");
+}
+
+/// An access key saves without leaving the box.
+void TestAddbkcommands::tidiesDatesBeforeTheyAreSaved()
+{
+    select(0);
+    click("Command4");
+    type(2, u"11/24/1978"_s);
+    trigger("mOMod");
+    QCOMPARE(box(2)->text(), u"Nov-24-1978"_s);
+    QVERIFY(record(2).contains("Nov-24-1978"));
 }
 
 void TestAddbkcommands::tellsWhatTheDatesMean()

@@ -39,6 +39,11 @@ private slots:
     void asksForANameToView();
     void savesANewEntry();
     void refusesAnEntryWithoutLastName();
+    void refusesANameThatCountsAsDeleted_data();
+    void refusesANameThatCountsAsDeleted();
+    void savesAnEntryOnceWhenItIsAskedFor();
+    void opensTheRightRecordAfterASave();
+    void closesThePageBeforeItIsTypedInto();
     void takesOnlyWhatTheFilesCanHold();
     void savesAChangedEntryAtTheEndOfTheList();
     void keepsWhatTheBoxesCannotShow();
@@ -184,6 +189,65 @@ void TestAddbkview::savesANewEntry()
     QVERIFY(box(0)->hasFocus());
     QCOMPARE(m_window->mode(), ADDBKVIEW::Mode::Entry);
     QVERIFY(!m_window->isModified());
+}
+
+void TestAddbkview::refusesANameThatCountsAsDeleted_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("entry's mark") << u"****x"_s;
+    QTest::newRow("line's mark") << u" ####x"_s;
+}
+
+void TestAddbkview::refusesANameThatCountsAsDeleted()
+{
+    QFETCH(QString, name);
+    click("Command6");
+    type(0, name);
+    const QByteArray before = m_test->bytes(u"Addbk1.Fil"_s);
+    click("Command1");
+    QCOMPARE(said(), AddressMessages::markedName());
+    QCOMPARE(box(0)->text(), name);
+    QCOMPARE(m_test->bytes(u"Addbk1.Fil"_s), before);
+    m_test->dialogs.willAnswer(Answer::No);
+    QVERIFY(m_window->mayLeave());
+}
+
+/// Leaving was agreed to, and then came to nothing: the entry that was saved is not new any more.
+void TestAddbkview::savesAnEntryOnceWhenItIsAskedFor()
+{
+    open(TestProgram::Empty);
+    click("emptyEntryScreen");
+    type(0, u"Novak"_s);
+    m_test->dialogs.willAnswer(Answer::Yes);
+    QVERIFY(m_window->mayLeave());
+    QCOMPARE(m_window->mode(), ADDBKVIEW::Mode::View);
+    QCOMPARE(selectedName(), u"Novak, "_s);
+    QVERIFY(words().isEmpty());
+    QVERIFY(!control<QPushButton>(*m_window, "Command1")->isEnabled());
+    QCOMPARE(count(), u" 1 - Entries "_s);
+}
+
+void TestAddbkview::opensTheRightRecordAfterASave()
+{
+    const QString wanted = lineAt(3);
+    const int record = wanted.mid(42).trimmed().toInt();
+    select(0);
+    click("Command4");
+    type(5, u"Kassel"_s);
+    m_test->dialogs.willAnswer(Answer::Yes);
+    QVERIFY(m_window->showRecord(record));
+    QCOMPARE(list()->currentIndex().data(NameListModel::LineRole).toString(), wanted);
+    QCOMPARE(box(0)->text(), wanted.section(u',', 0, 0));
+}
+
+void TestAddbkview::closesThePageBeforeItIsTypedInto()
+{
+    select(0);
+    trigger("mOPrt");
+    QVERIFY(!box(0)->isVisible());
+    trigger("mOMod");
+    QVERIFY(box(0)->isVisible());
+    QVERIFY(box(0)->hasFocus());
 }
 
 void TestAddbkview::refusesAnEntryWithoutLastName()
