@@ -30,13 +30,9 @@ namespace {
 
 /// A book with more lines than this shows its first rows at once and the others a moment later.
 constexpr int firstRows = 200;
-/// Search texts beyond this many characters are cut in the display mode's button.
-constexpr int shownSearchText = 24;
-
-QString shortened(const QString &text)
-{
-    return text.size() <= shownSearchText ? text : text.left(shownSearchText - 1) + u'\u2026';
-}
+/// What the button with the display mode needs beside the search text, and the count beside it.
+constexpr int modeButtonRest = 440;
+constexpr int leastSearchTextShown = 60;
 
 } // namespace
 
@@ -84,9 +80,8 @@ void ADDBKDISPLAY::followRows()
     m_grid->clearSpans();
     if (m_rows->isEmpty() && m_rows->columnCount() > 1)
         m_grid->setSpan(0, 0, 1, m_rows->columnCount());
-    if (m_rows->columnCount() > 1)
-        m_grid->horizontalHeader()->resizeSection(0, m_nameColumn);
     m_isFollowing = false;
+    placeNameColumn();
     refresh();
 }
 
@@ -151,16 +146,34 @@ void ADDBKDISPLAY::refresh()
     const AddressViewer &viewer = m_rows->viewer();
     m_count->setText(m_rows->isSearching() ? ViewerMessages::matchCount(viewer.count())
                                            : ViewerMessages::nameCount(viewer.count()));
-    QString searchText = shortened(viewer.searchText());
-    searchText.replace(u'&', u"&&"_s);
-    const QString mode = ViewerMessages::displayMode(searchText);
-    m_modeButton->setText(mode);
-    m_modeAction->setText(mode);
+    refreshMode();
     m_chip->setText(ViewerPages::choice(viewer.information()));
     m_listOptions->describe(viewer);
     if (m_pages->currentWidget() == m_labels)
         m_labels->follow(viewer);
     refreshCommands();
+}
+
+/// A long search text is cut to what the window has room for.
+void ADDBKDISPLAY::refreshMode()
+{
+    const int room = std::max(leastSearchTextShown, m_grid->width() - modeButtonRest);
+    QString searchText =
+        m_modeButton->fontMetrics().elidedText(m_rows->viewer().searchText(), Qt::ElideRight, room);
+    searchText.replace(u'&', u"&&"_s);
+    const QString mode = ViewerMessages::displayMode(searchText);
+    m_modeButton->setText(mode);
+    m_modeAction->setText(mode);
+}
+
+/// By a heading's column; once more the other way round. Below 0 the order of the records.
+void ADDBKDISPLAY::sortBy(int column)
+{
+    const QHeaderView *head = m_grid->horizontalHeader();
+    const bool isOnceMore = column >= 0 && head->sortIndicatorSection() == column &&
+                            head->sortIndicatorOrder() == Qt::AscendingOrder;
+    leavePanel();
+    m_grid->sortByColumn(column, isOnceMore ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 /// Which commands can be used now; the others say why they cannot.
@@ -221,4 +234,6 @@ void ADDBKDISPLAY::resizeEvent(QResizeEvent *event)
 {
     FunctionWindow::resizeEvent(event);
     placeSplitter();
+    placeNameColumn();
+    refreshMode();
 }

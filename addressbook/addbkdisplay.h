@@ -47,16 +47,19 @@ private:
     QWidget *makeLeftPane();
     QWidget *makeWorkPanel();
     QWidget *makeGridPage();
+    QWidget *makeGridFoot();
     QWidget *makeButtonRow(QWidget *parent);
     void makeMenus();
     void makeOptionsMenu();
     void makeToolbar();
+    void addSortMenu(QMenu &options);
     QAction *addCommand(QMenu *menu, const QString &name, const QString &caption,
                         void (ADDBKDISPLAY::*command)());
     void connectParts();
     void setTabOrders();
     void placeSplitter();
     void rememberNameColumn();
+    void placeNameColumn();
     void keepPlace();
     void followRows();
 
@@ -71,7 +74,9 @@ private:
     void narrow(const QString &text);
     void switchDisplayMode();
     void refresh();
+    void refreshMode();
     void refreshCommands();
+    void sortBy(int column);
     void leavePanel();
     int currentRow() const; ///< of the grid; -1 when no entry is under it
 
@@ -102,7 +107,7 @@ private:
     bool m_isFollowing = false; ///< other rows are on their way into the grid
     AddressGrid::Identity m_kept;
     int m_keptColumn = 0;
-    int m_nameColumn = 0; ///< its width
+    int m_nameColumn = 0; ///< its width as the user chose it; 0 while it suits the window
     bool m_splitterMoved = false;
     std::unique_ptr<Dialler> m_dialler;
     QPointer<ADDBKDISPLAY2> m_pictures;

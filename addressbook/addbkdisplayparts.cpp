@@ -22,6 +22,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
@@ -38,8 +39,9 @@ constexpr int leftPaneWidth = 272;
 constexpr int narrowLeftPaneWidth = 236;
 /// Windows narrower than this have the narrow left pane.
 constexpr int wideFrom = 1200;
-constexpr int nameColumnWidth = 352;
+constexpr int widestNameColumn = 352; ///< unless the user wants more
 constexpr int leastNameColumn = 160;
+constexpr double nameColumnShare = 0.42;
 
 QString nameColumnKey()
 {
@@ -113,7 +115,7 @@ QWidget *ADDBKDISPLAY::makeLeftPane()
     scroll->setWidget(m_choices);
     m_choices->setAutoFillBackground(false);
     scroll->viewport()->setAutoFillBackground(false);
-    scroll->setMinimumWidth(narrowLeftPaneWidth);
+    scroll->setMinimumWidth(std::max(narrowLeftPaneWidth, m_choices->minimumSizeHint().width()));
     return scroll;
 }
 
@@ -146,26 +148,37 @@ QWidget *ADDBKDISPLAY::makeGridPage()
     m_dialing = named(new QLabel(u"Dialing..."_s, page), u"Label3"_s);
     m_dialing->setFont(TypeScale::strong());
     m_dialing->hide();
-    m_modeButton = makeButton(u"displayMode"_s, {}, page);
-    m_modeButton->setToolTip(u"Shows all names again after a search, or leads to the search"_s);
     auto *head = new QHBoxLayout;
     head->setSpacing(16);
     head->addWidget(m_title);
     head->addWidget(m_chip);
     head->addStretch(1);
     head->addWidget(m_dialing);
-    head->addWidget(m_modeButton);
 
     m_grid = named(new GridView(AddressGrid::LinkRole), u"VSFlexGrid1"_s);
     m_grid->setAccessibleName(u"Names and information"_s);
     m_grid->setModel(m_rows);
-    m_count = named(makeQuietLabel({}, page), u"nameCount"_s);
-    m_count->setFont(TypeScale::body());
     layout->addLayout(head);
-    layout->addWidget(new GridPlace(m_grid, m_count, page), 1);
+    layout->addWidget(new GridPlace(m_grid, makeGridFoot(), page), 1);
     layout->addWidget(makeLine(page));
     layout->addWidget(makeButtonRow(page));
     return page;
+}
+
+/// How many names there are, and why so many.
+QWidget *ADDBKDISPLAY::makeGridFoot()
+{
+    auto *foot = new QWidget;
+    m_count = named(makeQuietLabel({}, foot), u"nameCount"_s);
+    m_count->setFont(TypeScale::body());
+    m_modeButton = makeButton(u"displayMode"_s, {}, foot);
+    m_modeButton->setToolTip(u"Shows all names again after a search, or leads to the search"_s);
+    auto *row = new QHBoxLayout(foot);
+    row->setContentsMargins({});
+    row->addWidget(m_count);
+    row->addStretch(1);
+    row->addWidget(m_modeButton);
+    return foot;
 }
 
 QWidget *ADDBKDISPLAY::makeButtonRow(QWidget *parent)
@@ -231,6 +244,7 @@ void ADDBKDISPLAY::makeOptionsMenu()
     m_copyAction = addCommand(menu, u"mOCopy"_s, u"Cop&y"_s, &ADDBKDISPLAY::copyRows);
     m_exportAction = addCommand(menu, u"mOExp"_s, u"Expor&t"_s, &ADDBKDISPLAY::exportRows);
     m_removeAction = addCommand(menu, u"mODel"_s, u"&Delete Row"_s, &ADDBKDISPLAY::removeRow);
+    addSortMenu(*menu);
     menu->addSeparator();
     m_printAction = addCommand(menu, u"mOPrt"_s, u"&Print Options"_s, &ADDBKDISPLAY::showPrintOptions);
     m_labelsAction = addCommand(menu, u"mOLab"_s, u"&Labels and Envelopes"_s, &ADDBKDISPLAY::showLabels);
@@ -240,6 +254,20 @@ void ADDBKDISPLAY::makeOptionsMenu()
     QAction *exit = makeAction(u"mOEx"_s, u"E&xit"_s, this);
     connect(exit, &QAction::triggered, this, &QWidget::close);
     menu->addAction(exit);
+}
+
+/// What a click on a heading does, for the keyboard.
+void ADDBKDISPLAY::addSortMenu(QMenu &options)
+{
+    QMenu *menu = named(options.addMenu(u"So&rt"_s), u"mOSort"_s);
+    const auto add = [this, menu](const QString &name, const QString &caption, int column) {
+        QAction *action = makeAction(name, caption, this);
+        connect(action, &QAction::triggered, this, [this, column] { sortBy(column); });
+        menu->addAction(action);
+    };
+    add(u"mOSName"_s, u"By &Name"_s, AddressGrid::NameColumn);
+    add(u"mOSInfo"_s, u"By &Information"_s, AddressGrid::InformationColumn);
+    add(u"mOSRec"_s, u"&Record Order"_s, -1);
 }
 
 void ADDBKDISPLAY::makeToolbar()
@@ -285,25 +313,27 @@ void ADDBKDISPLAY::connectParts()
 void ADDBKDISPLAY::setTabOrders()
 {
     QVector<QWidget *> order = m_choices->tabOrder();
-    order += {m_modeButton, m_grid, m_removeButton, m_dialButton, m_mailButton, m_openButton};
+    order += {m_grid, m_modeButton, m_removeButton, m_dialButton, m_mailButton, m_openButton};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
 
-/// Until the user moves it, the left pane is as wide as suits the window.
+/// Until the user moves it, the left pane is as wide as suits the window, and no choice in it is cut.
 void ADDBKDISPLAY::placeSplitter()
 {
     if (m_splitterMoved || !m_splitter)
         return;
-    const int left = width() < wideFrom ? narrowLeftPaneWidth : leftPaneWidth;
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int needed = m_choices->minimumSizeHint().width() + bar;
+    const int left = std::max(needed, width() < wideFrom ? narrowLeftPaneWidth : leftPaneWidth);
     m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
 }
 
 /// The information takes what the names leave, so that one width is all there is to remember.
 void ADDBKDISPLAY::rememberNameColumn()
 {
-    m_nameColumn = std::max(leastNameColumn, program().store.value(nameColumnKey(), nameColumnWidth).toInt());
-    m_grid->horizontalHeader()->resizeSection(0, m_nameColumn);
+    m_nameColumn = program().store.value(nameColumnKey()).toInt();
+    placeNameColumn();
     connect(m_grid->horizontalHeader(), &QHeaderView::sectionResized, this,
             [this](int section, int, int width) {
                 if (section != 0 || m_isFollowing || m_rows->columnCount() == 1)
@@ -311,4 +341,14 @@ void ADDBKDISPLAY::rememberNameColumn()
                 m_nameColumn = width;
                 program().store.setValue(nameColumnKey(), width);
             });
+}
+
+void ADDBKDISPLAY::placeNameColumn()
+{
+    if (!m_grid || m_rows->columnCount() == 1)
+        return;
+    const int suitable = std::min(int(nameColumnShare * m_grid->width()), widestNameColumn);
+    const QScopedValueRollback<bool> following(m_isFollowing, true);
+    m_grid->horizontalHeader()->resizeSection(
+        0, std::max(leastNameColumn, m_nameColumn > 0 ? m_nameColumn : suitable));
 }

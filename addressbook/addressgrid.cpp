@@ -110,7 +110,7 @@ QVariant AddressGrid::headerData(int section, Qt::Orientation orientation, int r
         return {};
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignLeft | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
     return section == NameColumn ? ViewerMessages::nameHeading()
                                  : ViewerPages::heading(m_viewer.information(), m_style);

@@ -17,6 +17,7 @@ namespace {
 constexpr int leastRowHeight = 28;
 constexpr int inset = 8;
 constexpr int headerHeight = 34;
+constexpr int sortMarkWidth = 20;
 constexpr int footGap = 8;
 
 /// The part of a cell that holds its text.
@@ -70,6 +71,27 @@ private:
     GridView *m_view;
 };
 
+/// Headings that are too long end in an ellipsis, which a style sheet would take from them.
+class Headings final : public QHeaderView
+{
+public:
+    explicit Headings(QWidget *parent)
+        : QHeaderView(Qt::Horizontal, parent)
+    {
+        setSectionsClickable(true);
+        setHighlightSections(false);
+    }
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader *option, int section) const override
+    {
+        QHeaderView::initStyleOptionForIndex(option, section);
+        const bool isSorted = isSortIndicatorShown() && sortIndicatorSection() == section;
+        const int room = sectionSize(section) - 2 * inset - (isSorted ? sortMarkWidth : 0);
+        option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, room);
+    }
+};
+
 } // namespace
 
 GridView::GridView(int linkRole, QWidget *parent)
@@ -90,11 +112,11 @@ GridView::GridView(int linkRole, QWidget *parent)
     verticalHeader()->setMinimumSectionSize(rowHeight());
     verticalHeader()->setDefaultSectionSize(rowHeight());
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    QHeaderView *head = horizontalHeader();
+    QHeaderView *head = new Headings(this);
+    setHorizontalHeader(head);
     head->setFont(TypeScale::strong());
     head->setFixedHeight(std::max(headerHeight, QFontMetrics(head->font()).height() + 12));
     head->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    head->setHighlightSections(false);
     head->setStretchLastSection(true);
     head->setMinimumSectionSize(120);
     head->setSortIndicator(-1, Qt::AscendingOrder);

@@ -16,7 +16,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int groupGap = 14;
+constexpr int groupGap = 16;
+constexpr int headingGap = 4;
 constexpr int monthIndent = 24;
 
 QStringList monthNames()
@@ -32,7 +33,7 @@ ViewerChoices::ViewerChoices(QWidget *parent)
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(4);
+    column->setSpacing(0);
     addSearch(*column);
     addInformation(*column);
     addRange(*column);
@@ -67,6 +68,7 @@ void ViewerChoices::addInformation(QVBoxLayout &column)
 {
     column.addSpacing(groupGap);
     column.addWidget(makeHeading(u"Select Information to View"_s, this));
+    column.addSpacing(headingGap);
     m_information = new QButtonGroup(this);
     for (int i = 0; i < informationCount; ++i) {
         auto *choice = named(new QRadioButton(ViewerPages::choice(Information(i)), this),
@@ -85,6 +87,7 @@ void ViewerChoices::addRange(QVBoxLayout &column)
 {
     column.addSpacing(groupGap);
     column.addWidget(makeHeading(u"Display Range"_s, this));
+    column.addSpacing(headingGap);
     m_range = new QButtonGroup(this);
     const auto addChoice = [&](DisplayRange::Kind kind, const QString &caption) {
         auto *choice = named(new QRadioButton(caption, this), u"range_"_s + QString::number(kind));
@@ -93,7 +96,8 @@ void ViewerChoices::addRange(QVBoxLayout &column)
     };
     const auto addMonth = [&](DisplayRange::Kind kind, const QString &name, const QString &caption) {
         auto *row = new QHBoxLayout;
-        row->setContentsMargins(monthIndent, 0, 0, 0);
+        row->setContentsMargins(monthIndent, 2, 0, 2);
+        row->setSpacing(8);
         QComboBox *box = makeMonthBox(name, caption, kind);
         row->addWidget(makeFieldLabel(caption, box, this));
         row->addWidget(box, 1);
@@ -106,7 +110,7 @@ void ViewerChoices::addRange(QVBoxLayout &column)
     addMonth(DisplayRange::AnniversaryMonth, u"anniversaryMonth"_s, u"Anniv Month:"_s);
     m_range->button(DisplayRange::All)->setChecked(true);
     m_update = makeButton(u"updateDisplay"_s, u"Update Display"_s, this);
-    column.addSpacing(6);
+    column.addSpacing(10);
     column.addWidget(m_update);
     connect(m_update, &QPushButton::clicked, this, &ViewerChoices::updateRequested);
 }

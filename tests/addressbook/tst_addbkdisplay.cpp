@@ -352,6 +352,13 @@ void TestAddbkdisplay::sortsByItsHeadings()
     QCOMPARE(cell(0, 0), u"Kessler, Tessa"_s);
     clickHeading(1);
     QCOMPARE(cell(0, 1).left(2), u"10"_s);
+    // The same by the menu.
+    control<QAction>(*m_window, "mOSName")->trigger();
+    QCOMPARE(cell(0, 0), u"Ångström, Bjørn"_s);
+    control<QAction>(*m_window, "mOSName")->trigger();
+    QCOMPARE(cell(0, 0), u"Ziegler, Louis"_s);
+    control<QAction>(*m_window, "mOSRec")->trigger();
+    QCOMPARE(cell(0, 0), u"Kessler, Tessa"_s);
 }
 
 void TestAddbkdisplay::remembersTheNameColumn()
