@@ -54,6 +54,9 @@ PlannerCalendar::PlannerCalendar(const Clock &clock, MarkedDays markedDays, QWid
     for (MonthView *month : {m_first, m_second}) {
         connect(month, &QCalendarWidget::selectionChanged, this, [this, month] { announce(month); });
         connect(month, &QCalendarWidget::clicked, this, [this, month] { announce(month); });
+        connect(month, &QCalendarWidget::activated, this, &PlannerCalendar::dayEntered, Qt::QueuedConnection);
+        // A letter meant for something else would open a box over the days that takes the arrow keys.
+        month->setDateEditEnabled(false);
     }
     connect(m_first, &QCalendarWidget::currentPageChanged, this, [this] { showPages(); });
     connect(m_second, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) {

@@ -38,6 +38,8 @@ public:
 signals:
     /// The user chose this day, by a click or with the keys; comes when the calendar has done with the event.
     void dateChosen(QDate date);
+    /// Enter or a double click: the user wants to go on in the chosen day.
+    void dayEntered();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

@@ -231,6 +231,8 @@ void Zcalandar1::connectParts()
 {
     connect(m_searchBox, &QLineEdit::returnPressed, this, &Zcalandar1::search);
     connect(m_calendar, &PlannerCalendar::dateChosen, this, &Zcalandar1::goTo);
+    connect(m_calendar, &PlannerCalendar::dayEntered, this,
+            [this] { m_form->focusRow(m_form->firstEmptyRow()); });
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterMoved = true; });
     connect(m_placement, &QButtonGroup::idClicked, this, &Zcalandar1::setPlacement);
     connect(m_caption, &StepTitle::stepped, this, &Zcalandar1::stepDay);

@@ -176,6 +176,7 @@ void Zcalandar1::finishImport()
     setWorking(false);
     activity().showProgress(0, 0);
     filesChanged();
+    m_form->focusRow(m_form->currentRow());
     const QString done =
         PlannerLines::imported(m_import.made, m_import.there, m_import.full, m_import.passedOver);
     activity().say(

@@ -103,6 +103,7 @@ void Zcalandar1::goTo(QDate date)
         m_calendar->setDate(m_loadedDate);
         return;
     }
+    activity().say({});
     loadDay(date);
     showDayView();
 }

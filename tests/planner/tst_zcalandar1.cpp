@@ -338,6 +338,16 @@ void TestZcalandar1::walksRowsAndDaysByKeys()
     QCOMPARE(screen.window().loadedDate(), today);
     screen.click("next_day");
     QCOMPARE(screen.window().loadedDate(), today.addDays(1));
+
+    auto *days = control<MonthView>(screen.window(), "MonthView1")->findChild<QTableView *>();
+    days->setFocus();
+    QTest::keyClick(days, Qt::Key_Right);
+    QTRY_COMPARE(screen.window().loadedDate(), today.addDays(2));
+    QTest::keyClick(days, Qt::Key_Left);
+    QTRY_COMPARE(screen.window().loadedDate(), today.addDays(1));
+    QCOMPARE(focus(), days);
+    QTest::keyClick(days, Qt::Key_Return);
+    QTRY_COMPARE(focus(), screen.time(0));
     QCOMPARE(control<MonthView>(screen.window(), "MonthView1")->selectedDate(), today.addDays(1));
 }
 
@@ -492,6 +502,7 @@ void TestZcalandar1::importsDatedToDoItems()
         QTRY_VERIFY(control<QAction>(screen.window(), "mUImport")->isEnabled() &&
                     screen.said().contains("To Do"_L1));
         QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::importToDoItems()});
+        QCOMPARE(screen.window().focusWidget(), screen.time(0));
         QCOMPARE(screen.rows(), QStringList{u"|Call"_s});
         QCOMPARE(files.peek(QDate(2026, 12, 1)).entryCount(), 1);
         QVERIFY(files.peek(QDate(2026, 11, 20)).isEmpty());
