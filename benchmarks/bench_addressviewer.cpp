@@ -23,8 +23,10 @@ public:
         for (int record = 2; record <= lastRecord; ++record) {
             const QByteArray number = QByteArray::number(record);
             entries += entryBytes(number);
-            const QByteArray line = ("Lindqvist, Anne " + number).leftJustified(47) + number;
-            lines += (QByteArray(1, char(line.size())) + '\0' + line).leftJustified(60, '\0');
+            const QByteArray name = "Lindqvist, Anne " + number;
+            const QByteArray line = name.leftJustified(47) + number;
+            const QByteArray counted = QByteArray(1, char(line.size())) + '\0' + line;
+            lines += counted.leftJustified(60, '\0');
         }
         write(u"Addbk1.Fil"_s, entries);
         write(u"Addbk2.Fil"_s, lines);
@@ -36,14 +38,24 @@ public:
 private:
     static QByteArray entryBytes(const QByteArray &number)
     {
+        const QByteArrayList texts{"Lindqvist",
+                                   "Anne " + number,
+                                   "Nov-24-1978",
+                                   number + " Orchard Lane",
+                                   "Upper Flat",
+                                   "Ashford",
+                                   "Northland",
+                                   "75944",
+                                   "(440) 555-" + number,
+                                   "(440) 556-" + number,
+                                   "",
+                                   "anne" + number + "@example.org",
+                                   "06/12/2004"};
         QByteArray bytes;
-        for (const QByteArray &text :
-             {QByteArray("Lindqvist"), "Anne " + number, QByteArray("Nov-24-1978"), number + " Orchard Lane",
-              QByteArray("Upper Flat"), QByteArray("Ashford"), QByteArray("Northland"), QByteArray("75944"),
-              "(440) 555-" + number, "(440) 556-" + number, QByteArray(), "anne" + number + "@example.org",
-              QByteArray("06/12/2004")})
+        for (const QByteArray &text : texts)
             bytes += text.leftJustified(40);
-        return bytes + ("C:\\QUILLERY\\Pictures\\photo" + number + ".jpg").leftJustified(204);
+        const QByteArray picture = "C:\\QUILLERY\\Pictures\\photo" + number + ".jpg";
+        return bytes + picture.leftJustified(204);
     }
 
     void write(const QString &name, const QByteArray &content) const
