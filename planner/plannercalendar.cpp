@@ -6,18 +6,15 @@
 #include "shell/monthview.h"
 
 #include <QBoxLayout>
-#include <QHeaderView>
 #include <QScopedValueRollback>
-#include <QTableView>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int gap = 16;
-/// The height of a month that stands above another one.
-constexpr int stackedHeight = 206;
-constexpr int stackedRow = 22;
+/// The least that a month keeps, with its dots below the numbers; the pane scrolls instead.
+constexpr int leastHeight = 248;
 
 } // namespace
 
@@ -52,6 +49,7 @@ PlannerCalendar::PlannerCalendar(const Clock &clock, MarkedDays markedDays, QWid
     hint->setAlignment(Qt::AlignHCenter);
     rows->addWidget(hint);
     for (MonthView *month : {m_first, m_second}) {
+        month->setMinimumHeight(leastHeight);
         connect(month, &QCalendarWidget::selectionChanged, this, [this, month] { announce(month); });
         connect(month, &QCalendarWidget::clicked, this, [this, month] { announce(month); });
         connect(month, &QCalendarWidget::activated, this, &PlannerCalendar::dayEntered, Qt::QueuedConnection);
@@ -156,12 +154,6 @@ void PlannerCalendar::arrange()
     const bool sideBySide = hasTwo && width() >= 2 * m_first->minimumSizeHint().width() + gap;
     m_months->setDirection(sideBySide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_months->setSpacing(sideBySide ? gap : 4);
-    for (MonthView *month : {m_first, m_second}) {
-        month->setMinimumHeight(hasTwo && !sideBySide ? stackedHeight : 0);
-        month->setMaximumHeight(hasTwo && !sideBySide ? stackedHeight : QWIDGETSIZE_MAX);
-        if (auto *days = month->findChild<QTableView *>())
-            days->verticalHeader()->setMinimumSectionSize(hasTwo && !sideBySide ? stackedRow : -1);
-    }
 }
 
 void PlannerCalendar::resizeEvent(QResizeEvent *event)

@@ -35,8 +35,13 @@ namespace {
 /// The left pane: with one month, whose days keep their names, and with two months side by side.
 constexpr int leftPaneWidth = 328;
 constexpr int twoMonthsWidth = 596;
-/// Windows narrower than this have the narrow left pane.
+/// Windows from this width on have room for two months and for all tools; those below the other shorten
+/// words.
 constexpr int wideFrom = 1200;
+constexpr int narrowBelow = 1000;
+/// In windows lower than this the left pane scrolls.
+constexpr int shortBelow = 700;
+constexpr int scrollBarRoom = 20;
 
 WindowTraits traits()
 {
@@ -108,7 +113,10 @@ QWidget *Zcalandar1::makeLeftPane()
 {
     m_leftPane = named(new QWidget(this), u"leftPane"_s);
     m_leftPane->setMinimumWidth(leftPaneWidth - 4);
-    auto *layout = new QVBoxLayout(m_leftPane);
+    auto *content = new QWidget;
+    // As wide as the pane, whatever the calendar would like.
+    content->setMinimumWidth(1);
+    auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);
     m_searchBox = named(new QLineEdit(m_leftPane), u"plannerSearch"_s);
@@ -130,9 +138,15 @@ QWidget *Zcalandar1::makeLeftPane()
     comingLayout->setContentsMargins(18, 14, 12, 12);
     m_comingUp = new ComingUp(program(), comingPanel);
     comingLayout->addWidget(m_comingUp);
-    layout->addWidget(m_searchBox);
     layout->addWidget(calendarPanel);
     layout->addWidget(comingPanel, 1);
+    auto *rows = new QVBoxLayout(m_leftPane);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(12);
+    rows->addWidget(m_searchBox);
+    QScrollArea *scroll = scrolled(content, u"leftPaneScroll"_s, m_leftPane);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rows->addWidget(scroll, 1);
     return m_leftPane;
 }
 
@@ -183,7 +197,7 @@ QWidget *Zcalandar1::makeRowHeads()
     QFont head = TypeScale::label();
     head.setWeight(QFont::DemiBold);
     QLabel *time = makeQuietLabel(u"Time"_s, line);
-    QLabel *text = makeQuietLabel(u"Appointment or activity"_s, line);
+    QLabel *text = named(makeQuietLabel({}, line), u"textHead"_s);
     QLabel *without = makeQuietLabel(u"Without AM/PM:"_s, line);
     time->setFont(head);
     text->setFont(head);
@@ -290,8 +304,11 @@ void Zcalandar1::placeSplitter()
         return; // still being put together
     const bool isWide = width() >= wideFrom;
     fitToolbar(isWide);
+    m_dayView->findChild<QLabel *>(u"textHead"_s)
+        ->setText(width() < narrowBelow ? u"Appointment"_s : u"Appointment or activity"_s);
     if (m_splitterMoved)
         return;
-    const int left = isWide && m_options.shownMonths() == 2 ? twoMonthsWidth : leftPaneWidth;
+    const int scrollBar = height() < shortBelow ? scrollBarRoom : 0;
+    const int left = (isWide && m_options.shownMonths() == 2 ? twoMonthsWidth : leftPaneWidth) + scrollBar;
     m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
 }

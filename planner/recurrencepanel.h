@@ -10,6 +10,7 @@
 class ElidedLabel;
 class FieldBox;
 class MonthView;
+class QBoxLayout;
 class QButtonGroup;
 class QCheckBox;
 class QHBoxLayout;
@@ -47,6 +48,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     enum EndBy { EndDate, Occurrences };
@@ -85,6 +87,7 @@ private:
     SlicedWork *m_work;
 
     ElidedLabel *m_title;
+    QBoxLayout *m_columns = nullptr;
     RecurrenceForm *m_form;
     FieldBox *m_beginning = nullptr;
     FieldBox *m_end = nullptr;

@@ -24,6 +24,7 @@ namespace {
 constexpr int dateWidth = 128;
 constexpr int numberWidth = 64;
 constexpr int widestBar = 640;
+constexpr int twoColumnsFrom = 960;
 
 /// A label that wraps where its column ends.
 QLabel *makeNote(const QString &text, QWidget *parent)
@@ -46,11 +47,11 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
 {
     m_title->setFont(TypeScale::windowTitle());
     auto *content = new QWidget;
-    auto *columns = new QHBoxLayout(content);
-    columns->setContentsMargins(0, 0, 8, 0);
-    columns->setSpacing(32);
-    columns->addWidget(makeRangeFrame());
-    columns->addWidget(m_form, 1);
+    m_columns = new QBoxLayout(QBoxLayout::LeftToRight, content);
+    m_columns->setContentsMargins(0, 0, 8, 0);
+    m_columns->setSpacing(32);
+    m_columns->addWidget(makeRangeFrame());
+    m_columns->addWidget(m_form, 1);
     auto *scroll = named(new QScrollArea(this), u"recurrenceScroll"_s);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
@@ -74,6 +75,13 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     connect(m_form, &RecurrenceForm::said, this, &RecurrencePanel::said);
     connect(m_work, &SlicedWork::progressed, this, &RecurrencePanel::showProgress);
     connect(m_work, &SlicedWork::finished, this, &RecurrencePanel::finish);
+}
+
+/// Where dates and kinds do not fit beside each other, they stand below each other and scroll.
+void RecurrencePanel::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_columns->setDirection(width() < twoColumnsFrom ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 FieldBox *RecurrencePanel::makeDateBox(const QString &name, const QString &accessibleName, QWidget *parent)

@@ -27,13 +27,23 @@ StepTitle::StepTitle(const Names &names, QWidget *parent)
     connect(on, &QPushButton::clicked, this, [this] { emit stepped(1); });
 }
 
-void StepTitle::setTitle(const QString &title)
+void StepTitle::setTitle(const QString &title, const QString &shorter)
 {
-    m_title->setText(title);
+    m_text = title;
+    m_shorter = shorter;
     m_title->setAccessibleName(title);
+    showTitle();
 }
 
-QString StepTitle::title() const
+void StepTitle::showTitle()
 {
-    return m_title->text();
+    const bool fits = m_title->fontMetrics().horizontalAdvance(m_text) <= m_title->width();
+    m_title->setText(fits || m_shorter.isEmpty() ? m_text : m_shorter);
+}
+
+void StepTitle::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    showTitle();
 }

@@ -18,13 +18,21 @@ public:
 
     StepTitle(const Names &names, QWidget *parent);
 
-    void setTitle(const QString &title);
-    QString title() const;
+    /// `shorter` is shown where `title` does not fit.
+    void setTitle(const QString &title, const QString &shorter = {});
+    const QString &title() const { return m_text; }
 
 signals:
     void stepped(int steps);
     void todayRequested();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void showTitle();
+
     ElidedLabel *m_title;
+    QString m_text;
+    QString m_shorter;
 };

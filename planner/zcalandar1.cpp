@@ -45,7 +45,8 @@ void Zcalandar1::loadDay(QDate date)
     m_loaded = m_files.read(date);
     m_form->setDay(m_loaded);
     m_shown = m_form->day();
-    m_caption->setTitle(Dates::longText(date, program().state.dateStyle));
+    m_caption->setTitle(Dates::longText(date, program().state.dateStyle),
+                        Dates::statusText(date, program().state.dateStyle));
     m_calendar->setDate(date);
     m_comingUp->setDate(date);
     refreshModified();

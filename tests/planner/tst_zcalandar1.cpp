@@ -72,7 +72,7 @@ public:
         control<MonthView>(*m_window, "MonthView1")->setSelectedDate(date);
         QCoreApplication::processEvents();
     }
-    QString caption() const { return control<QLabel>(*m_window, "SSPanel4")->text(); }
+    QString caption() const { return control<QLabel>(*m_window, "SSPanel4")->accessibleName(); }
     QString said() const { return m_window->findChild<ActivityBar *>()->message(); }
     QStringList rows() const
     {
