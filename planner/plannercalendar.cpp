@@ -4,6 +4,7 @@
 #include "shell/clock.h"
 #include "shell/controls.h"
 #include "shell/monthview.h"
+#include "shell/theme.h"
 
 #include <QBoxLayout>
 #include <QScopedValueRollback>
@@ -15,6 +16,10 @@ namespace {
 constexpr int gap = 16;
 /// The least that a month keeps, with its dots below the numbers; the pane scrolls instead.
 constexpr int leastHeight = 248;
+/// The least that each of two months side by side keeps; a scroll bar must not drive them apart.
+constexpr int leastWidth = 264;
+/// What the name of a day needs beside its letters.
+constexpr int nameMargins = 6;
 
 } // namespace
 
@@ -151,9 +156,17 @@ void PlannerCalendar::showMarks()
 void PlannerCalendar::arrange()
 {
     const bool hasTwo = m_second->isVisibleTo(this);
-    const bool sideBySide = hasTwo && width() >= 2 * m_first->minimumSizeHint().width() + gap;
+    const bool sideBySide = hasTwo && width() >= 2 * leastWidth + gap;
     m_months->setDirection(sideBySide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_months->setSpacing(sideBySide ? gap : 4);
+    QFont head = TypeScale::label();
+    head.setWeight(QFont::DemiBold);
+    const int columns = m_first->verticalHeaderFormat() == QCalendarWidget::NoVerticalHeader ? 7 : 8;
+    const int column = (sideBySide ? (width() - gap) / 2 : width()) / columns;
+    const bool namesFit = column >= QFontMetrics(head).horizontalAdvance(u"Wed"_s) + nameMargins;
+    for (MonthView *month : {m_first, m_second})
+        month->setHorizontalHeaderFormat(namesFit ? QCalendarWidget::ShortDayNames
+                                                  : QCalendarWidget::SingleLetterDayNames);
 }
 
 void PlannerCalendar::resizeEvent(QResizeEvent *event)
