@@ -30,6 +30,7 @@ constexpr int columnWidth = 208;
 constexpr int deskPadding = 14;
 constexpr int buttonHeight = 40;
 constexpr int leastButtonHeight = 34;
+constexpr int stepWidth = 30; ///< narrow, for "Page 12 of 1516" between the two
 constexpr int looseSpacing = 10;
 constexpr int tightSpacing = 4;
 constexpr int looseFrom = 560; ///< height of the pane
@@ -173,8 +174,10 @@ QHBoxLayout *PreviewPane::makeSteps()
     m_pageNumber = named(new ElidedLabel(m_buttonPanel), u"pageNumber"_s);
     m_pageNumber->setFont(TypeScale::strong());
     m_pageNumber->setAlignment(Qt::AlignCenter);
+    for (QPushButton *step : {m_previous, m_next})
+        step->setFixedWidth(stepWidth);
     auto *steps = new QHBoxLayout;
-    steps->setSpacing(4);
+    steps->setSpacing(2);
     steps->addWidget(m_previous);
     steps->addWidget(m_pageNumber, 1);
     steps->addWidget(m_next);
