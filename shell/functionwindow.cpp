@@ -87,10 +87,10 @@ void FunctionWindow::showPreview(std::function<Page(const PageSetup &)> builder,
         m_focusBeforePreview = focusWidget();
     PreviewPane &pane = preview();
     m_stack->setCurrentWidget(&pane);
-    // The household's name heads the page where it has no other word at its right.
+    // The household's name heads a page with a title where it has no other word at its right.
     const auto headed = [this, build = std::move(builder)](const PageSetup &setup) {
         Page page = build(setup);
-        if (page.headRight().isEmpty())
+        if (page.headRight().isEmpty() && !page.title().isEmpty())
             page.setHeadRight(m_program.state.familyName.text());
         return page;
     };
