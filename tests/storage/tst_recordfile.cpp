@@ -16,6 +16,7 @@ private slots:
     void init() { m_dir = std::make_unique<QTemporaryDir>(); }
     void readsRecords_data();
     void readsRecords();
+    void readsRunsOfRecords();
     void touchesOnlyTheBytesOfAValue();
     void leavesZerosBeforeAFarRecord();
     void refusesWhatIsNoRecord_data();
@@ -53,6 +54,17 @@ void TestRecordFile::readsRecords()
     QFETCH(int, number);
     QVERIFY(makeFile(path(), "abcdefghij"));
     QTEST(RecordFile(path(), 4).read(number), "bytes");
+}
+
+void TestRecordFile::readsRunsOfRecords()
+{
+    const RecordFile file(path(), 4);
+    QCOMPARE(file.read(1, 2), QByteArray());
+    QVERIFY(makeFile(path(), "abcdefghij"));
+    QCOMPARE(file.read(1, 2), "abcdefgh"_ba);
+    QCOMPARE(file.read(2, 50'000), "efghij"_ba);
+    QCOMPARE(file.read(3, 2), QByteArray());
+    QCOMPARE(file.read(0, 2), QByteArray());
 }
 
 void TestRecordFile::touchesOnlyTheBytesOfAValue()

@@ -113,6 +113,7 @@ void TestRecordValue::readsTexts()
 {
     QFETCH(QByteArray, bytes);
     QTEST(RecordValue::decodeText(bytes), "text");
+    QCOMPARE(RecordValue::textBytes(bytes), RecordValue::decodeText(bytes).toLatin1());
 }
 
 void TestRecordValue::writesTaggedValues()
