@@ -43,7 +43,14 @@ public:
         painter->save();
         const QPalette &palette = option.widget->palette();
         const QIcon icon = index.data(ComingUpModel::IconRole).value<QIcon>();
-        icon.paint(painter, QRect(option.rect.topLeft(), QSize(20, 20)));
+        QPixmap sign = icon.pixmap(QSize(20, 20), painter->device()->devicePixelRatioF());
+        if (palette.color(QPalette::Window) != Theme::of(option.widget).panel) {
+            // On a panel of the user's colour a sign in its own hue could vanish.
+            QPainter ink(&sign);
+            ink.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            ink.fillRect(sign.rect(), palette.color(QPalette::WindowText));
+        }
+        painter->drawPixmap(option.rect.topLeft(), sign);
         const QRect place = option.rect.adjusted(signWidth, 0, 0, 0);
         const auto line = [&](const QFont &font, QPalette::ColorRole role, int top, const QString &text) {
             const QFontMetrics metrics(font);
