@@ -44,7 +44,7 @@ public:
         const QPalette &palette = option.widget->palette();
         const QIcon icon = index.data(ComingUpModel::IconRole).value<QIcon>();
         QPixmap sign = icon.pixmap(QSize(20, 20), painter->device()->devicePixelRatioF());
-        if (palette.color(QPalette::Window) != Theme::of(option.widget).panel) {
+        if (palette.color(QPalette::WindowText) != Theme::of(option.widget).text) {
             // On a panel of the user's colour a sign in its own hue could vanish.
             QPainter ink(&sign);
             ink.setCompositionMode(QPainter::CompositionMode_SourceIn);

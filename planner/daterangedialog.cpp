@@ -3,6 +3,7 @@
 #include "planner/quietlines.h"
 #include "shell/controls.h"
 #include "shell/dates.h"
+#include "shell/theme.h"
 
 #include <QHBoxLayout>
 
@@ -18,6 +19,7 @@ DateRangeDialog::DateRangeDialog(QDate from, QDate to, DateStyle style, QWidget 
 {
     setObjectName(u"dateRangeDialog"_s);
     setWindowTitle(u"Print Dates"_s);
+    setPalette(Theme::of(this).panelPalette());
     auto *boxes = new QHBoxLayout;
     boxes->setSpacing(12);
     for (const auto &[box, caption, date] :
