@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,14 +21,22 @@ static_assert(addressParts.size() * (addressTextWidth + separator.size()) < 256)
 static_assert(addressPictureWidth < 256);
 static_assert(IndexLine::maximumLength < 256);
 
-/// A text field up to its first zero byte (never written) and without its trailing blanks.
+/// A text field up to its first zero byte (never written) and without its trailing blanks, most of which go
+/// eight at a time.
 QByteArrayView trimmedField(QByteArrayView field)
 {
-    if (const qsizetype zero = field.indexOf('\0'); zero >= 0)
-        field.truncate(zero);
-    while (field.endsWith(' '))
-        field.chop(1);
-    return field;
+    constexpr quint64 eightBlanks = 0x2020202020202020;
+    const char *const begin = field.data();
+    const void *const zero = field.isEmpty() ? nullptr : std::memchr(begin, 0, std::size_t(field.size()));
+    const char *end = zero ? static_cast<const char *>(zero) : begin + field.size();
+    for (quint64 last = 0; end - begin >= qsizetype(sizeof last); end -= sizeof last) {
+        std::memcpy(&last, end - sizeof last, sizeof last);
+        if (last != eightBlanks)
+            break;
+    }
+    while (end > begin && end[-1] == ' ')
+        --end;
+    return {begin, end};
 }
 
 QByteArrayView bytesFrom(QByteArrayView record, qsizetype start, qsizetype width)
@@ -152,30 +161,30 @@ void AddressViewer::readInformation()
 
 void AddressViewer::appendInformation(QByteArrayView record, Row &row)
 {
-    const qsizetype start = m_bytes.size();
-    if (m_information == Information::Pictures) {
-        m_bytes.append(pictureBytes(record));
-    } else if (m_information == Information::Address) {
+    row.informationAt = quint32(m_bytes.size());
+    if (m_information == Information::Address) {
+        std::array<char, 256> joined;
+        char *end = joined.data();
         for (const AddressField field : addressParts) {
             const QByteArrayView part = fieldBytes(record, field);
             if (part.isEmpty())
                 continue;
-            if (m_bytes.size() > start)
-                m_bytes.append(separator);
-            m_bytes.append(part);
+            if (end != joined.data())
+                end = std::ranges::copy(separator, end).out;
+            end = std::ranges::copy(part, end).out;
         }
+        m_bytes.append(joined.data(), end - joined.data());
     } else {
-        m_bytes.append(fieldBytes(record, fieldOf(m_information)));
+        m_bytes.append(m_information == Information::Pictures ? pictureBytes(record)
+                                                              : fieldBytes(record, fieldOf(m_information)));
     }
-    row.informationAt = quint32(start);
-    row.informationLength = quint8(m_bytes.size() - start);
+    row.informationLength = quint8(m_bytes.size() - row.informationAt);
 }
 
 bool AddressViewer::isInRange(QByteArrayView record) const
 {
     const AddressField field = m_range.kind == DisplayRange::BirthMonth ? BirthDate : AnniversaryDate;
-    const QString date = AnsiText::decode(fieldBytes(record, field));
-    return DayOfYear::of(date, m_style).month == m_range.month;
+    return DayOfYear::of(fieldBytes(record, field), m_style).month == m_range.month;
 }
 
 QString AddressViewer::name(int row) const
@@ -262,7 +271,7 @@ void AddressViewer::sortShown()
     }
     std::vector<int> days(m_rows.size());
     for (const quint32 row : m_shown) {
-        const DayOfYear day = DayOfYear::of(AnsiText::decode(cell(row)), m_style);
+        const DayOfYear day = DayOfYear::of(cell(row), m_style);
         days[row] = day.month * 100 + day.day;
     }
     sortBy([&](quint32 one, quint32 other) { return days[one] < days[other]; });

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace {
 
@@ -25,53 +26,80 @@ struct Parts {
     std::size_t count = 0;
 };
 
-bool isDigit(QChar character)
+bool isDigit(char character)
 {
-    return character >= u'0' && character <= u'9';
+    return character >= '0' && character <= '9';
 }
 
-bool isLetter(QChar character)
+/// ASCII letters are all that months are named with.
+char lowered(char character)
 {
-    const QChar lower = character.toLower();
-    return lower >= u'a' && lower <= u'z';
+    return character >= 'A' && character <= 'Z' ? char(character - 'A' + 'a') : character;
+}
+
+bool isLetter(char character)
+{
+    const char lower = lowered(character);
+    return lower >= 'a' && lower <= 'z';
 }
 
 /// The month that `name` begins, with three letters at least; 0 for any other word.
-int monthNamed(QStringView name)
+int monthNamed(QByteArrayView name)
 {
-    constexpr std::array names{u"january", u"february", u"march",     u"april",   u"may",      u"june",
-                               u"july",    u"august",   u"september", u"october", u"november", u"december"};
+    constexpr std::array<std::string_view, monthCount> names{"january",   "february", "march",    "april",
+                                                             "may",       "june",     "july",     "august",
+                                                             "september", "october",  "november", "december"};
     if (name.size() < 3)
         return 0;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (QStringView(names[i]).startsWith(name, Qt::CaseInsensitive))
+        const bool isShorter = std::size_t(name.size()) <= names[i].size();
+        if (isShorter && std::equal(name.begin(), name.end(), names[i].begin(),
+                                    [](char typed, char letter) { return lowered(typed) == letter; }))
             return int(i) + 1;
     }
     return 0;
 }
 
-Number numberOf(QStringView digits)
+Number numberOf(QByteArrayView digits)
 {
     Number number;
     number.digits = int(digits.size());
-    for (const QChar digit : digits.first(std::min<qsizetype>(digits.size(), 4)))
-        number.value = number.value * 10 + (digit.unicode() - u'0');
+    for (const char digit : digits.first(std::min<qsizetype>(digits.size(), 4)))
+        number.value = number.value * 10 + (digit - '0');
     return number;
 }
 
 /// The run of characters of one kind at the start of `text`.
 template <typename IsKind>
-QStringView run(QStringView text, IsKind isKind)
+QByteArrayView run(QByteArrayView text, IsKind isKind)
 {
-    const auto end = std::ranges::find_if_not(text, isKind);
+    const auto end = std::find_if_not(text.begin(), text.end(), isKind);
     return text.first(end - text.begin());
 }
 
-Parts partsOf(QStringView text)
+/// A date's text in one byte a character; characters beyond ASCII mean nothing in it.
+class DateBytes
+{
+public:
+    explicit DateBytes(QStringView text)
+        : m_size(std::min(text.size(), longestDate))
+    {
+        for (qsizetype i = 0; i < m_size; ++i)
+            m_bytes[std::size_t(i)] = text[i].unicode() < 0x80 ? char(text[i].unicode()) : '?';
+    }
+
+    QByteArrayView view() const { return {m_bytes.data(), m_size}; }
+
+private:
+    std::array<char, longestDate> m_bytes;
+    qsizetype m_size;
+};
+
+Parts partsOf(QByteArrayView text)
 {
     Parts parts;
     while (!text.isEmpty()) {
-        QStringView part = run(text, isDigit);
+        QByteArrayView part = run(text, isDigit);
         if (!part.isEmpty()) {
             if (parts.count < parts.numbers.size())
                 parts.numbers[parts.count++] = numberOf(part);
@@ -95,6 +123,11 @@ DayOfYear dayOfYear(int month, int day)
 } // namespace
 
 DayOfYear DayOfYear::of(QStringView text, DateStyle style)
+{
+    return of(DateBytes(text).view(), style);
+}
+
+DayOfYear DayOfYear::of(QByteArrayView text, DateStyle style)
 {
     const Parts parts = partsOf(text.first(std::min(text.size(), longestDate)));
     const Number &first = parts.numbers[0], &second = parts.numbers[1];
@@ -121,8 +154,9 @@ int DayOfYear::monthTyped(QStringView text)
     text = text.trimmed();
     if (text.isEmpty() || text.size() > 9)
         return 0;
-    if (!std::ranges::all_of(text, isDigit))
-        return monthNamed(text);
-    const int month = text.size() > 2 ? 0 : numberOf(text).value;
+    const DateBytes typed(text);
+    if (!std::ranges::all_of(typed.view(), isDigit))
+        return monthNamed(typed.view());
+    const int month = text.size() > 2 ? 0 : numberOf(typed.view()).value;
     return month <= monthCount ? month : 0;
 }

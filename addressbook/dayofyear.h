@@ -2,6 +2,7 @@
 
 #include "shell/programstate.h"
 
+#include <QByteArrayView>
 #include <QStringView>
 
 /// The part of a stored date that returns every year. Dates are kept as they were typed, so this reads more
@@ -15,6 +16,8 @@ struct DayOfYear {
     /// "Apr-21-1997", "21 April", "4/21/1997" (day first under `Other`), "1997-04-21", "April 1997",
     /// "04/1997". A number above 12 can only be a day. Month names are English, with three letters at least.
     static DayOfYear of(QStringView text, DateStyle style);
+    /// The same of a text as the files have it.
+    static DayOfYear of(QByteArrayView text, DateStyle style);
 
     /// The month that a month box holds: "Apr", "April" or "4"; 0 when it names none.
     static int monthTyped(QStringView text);
