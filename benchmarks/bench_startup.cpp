@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -41,11 +40,17 @@ double peakMebibytes()
     return 0;
 }
 
-/// Tells the measuring process that the window stands; what is read after the first paint still counts as
+/// Seconds on the clock that all processes share.
+double now()
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+/// Tells the measuring process when the window stood; what is read after the first paint still counts as
 /// memory.
 void tellPainted()
 {
-    std::puts("painted");
+    std::printf("%.6f\n", now());
     std::fflush(stdout);
     QTimer::singleShot(200, qApp, [] {
         std::printf("%.1f\n", peakMebibytes());
@@ -54,6 +59,20 @@ void tellPainted()
         std::_Exit(EXIT_SUCCESS);
     });
 }
+
+/// Tells when a widget and what stands on it were painted for the first time, before anything else is done.
+class PaintWatch : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            watched->removeEventFilter(this);
+            QTimer::singleShot(0, this, tellPainted);
+        }
+        return false;
+    }
+};
 
 class EmptyWindow : public QWidget
 {
@@ -80,7 +99,8 @@ int openMainMenu(QApplication &application, const QString &path)
     Assembly assembly(programFolder, folder);
     Theme::apply(application);
     Startfrm menu(assembly.program());
-    QObject::connect(menu.findChild<MenuPicture *>(), &MenuPicture::firstPainted, &application, tellPainted);
+    PaintWatch watch;
+    menu.findChild<MenuPicture *>()->installEventFilter(&watch);
     menu.show();
     return QApplication::exec();
 }
@@ -94,14 +114,14 @@ Start start(const QStringList &arguments)
 {
     Start measured;
     QProcess process;
-    QElapsedTimer timer;
-    timer.start();
+    const double begin = now();
     process.start(QApplication::applicationFilePath(), arguments);
     if (!process.waitForReadyRead(startMilliseconds))
         qFatal("the window does not come");
-    measured.seconds = double(timer.nsecsElapsed()) / 1e9;
     process.waitForFinished(startMilliseconds);
-    measured.mebibytes = process.readAllStandardOutput().split('\n').value(1).toDouble();
+    const QList<QByteArray> told = process.readAllStandardOutput().split('\n');
+    measured.seconds = told.value(0).toDouble() - begin;
+    measured.mebibytes = told.value(1).toDouble();
     return measured;
 }
 
