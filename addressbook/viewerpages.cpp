@@ -82,7 +82,7 @@ double nameShare(const AddressViewer &viewer, const ViewerPages::ListOptions &op
 {
     constexpr double telephoneLength = 25;
     constexpr double leastInformation = 8;
-    constexpr double least = 0.3, most = 0.8;
+    constexpr double least = 0.4, most = 0.8;
     double name = usualLength(viewer, &AddressViewer::name);
     if (options.hasTelephones)
         name += telephoneLength;
