@@ -145,6 +145,12 @@ int RecurrenceDates::estimate() const
     return int(days / (365 * interval) + 1);
 }
 
+bool exceedsTenYears(const Recurrence &recurrence)
+{
+    return recurrence.kind == Recurrence::Daily && !recurrence.end &&
+           qint64(recurrence.interval) * recurrence.occurrences > longestRecurrenceDays;
+}
+
 Recurrence withinTenYears(const Recurrence &recurrence)
 {
     Recurrence within = recurrence;

@@ -72,3 +72,6 @@ inline constexpr int longestRecurrenceDays = 3652;
 
 /// `recurrence` brought within ten years: the number of occurrences lowered, or the end date pulled in.
 Recurrence withinTenYears(const Recurrence &recurrence);
+
+/// Whether a daily recurrence asks for more than ten years; a single far one does and stays as it is.
+bool exceedsTenYears(const Recurrence &recurrence);

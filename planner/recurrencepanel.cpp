@@ -78,7 +78,7 @@ std::optional<QString> RecurrencePanel::read(Recurrence &recurrence) const
 Recurrence RecurrencePanel::limited(const Recurrence &recurrence)
 {
     Recurrence within = withinTenYears(recurrence);
-    if (within == recurrence)
+    if (within == recurrence && !exceedsTenYears(recurrence))
         return within;
     m_program.dialogs.ask(this, PlannerMessages::tenYearLimit());
     if (within.end)
