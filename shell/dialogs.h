@@ -20,8 +20,8 @@ struct PageFont {
     bool operator==(const PageFont &) const = default;
 };
 
-/// Every modal question of the program goes through here, so that a test can answer it and see what was asked. The
-/// optional answers are empty when the user cancelled.
+/// Every modal question of the program goes through here, so that a test can answer it and see what was
+/// asked. The optional answers are empty when the user cancelled.
 class Dialogs
 {
 public:
@@ -33,9 +33,10 @@ public:
                                          const QString &preset) = 0;
     virtual std::optional<QColor> chooseColor(QWidget *parent, const QColor &preset) = 0;
     virtual std::optional<PageFont> chooseFont(QWidget *parent, const PageFont &preset) = 0;
-    virtual std::optional<QString> chooseFileToSave(QWidget *parent, const QString &title, const QString &preset,
-                                                    const QString &filter) = 0;
-    virtual std::optional<QString> chooseFolder(QWidget *parent, const QString &title, const QString &preset) = 0;
+    virtual std::optional<QString> chooseFileToSave(QWidget *parent, const QString &title,
+                                                    const QString &preset, const QString &filter) = 0;
+    virtual std::optional<QString> chooseFolder(QWidget *parent, const QString &title,
+                                                const QString &preset) = 0;
     /// The platform's print dialog; false when cancelled.
     virtual bool choosePrinter(QWidget *parent, QPrinter &printer) = 0;
     /// Whether the system has a printer at all; without one, printing offers a PDF.

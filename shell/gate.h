@@ -9,7 +9,8 @@
 class QWidget;
 struct Program;
 
-/// The 21 areas that a password can guard, by their index in `ProtectedAreas`. Areas of other editions are kept.
+/// The 21 areas that a password can guard, by their index in `ProtectedAreas`. Areas of other editions are
+/// kept.
 namespace Area {
 inline constexpr int AddressBook = 0;
 inline constexpr int AddressViewer = 1;
@@ -23,8 +24,8 @@ inline constexpr int AddressViewerButton = 16;
 inline constexpr int None = -1;
 } // namespace Area
 
-/// Asks for the password in front of a guarded function. The prompt itself is handed in, so that the rule can be tested
-/// without a window.
+/// Asks for the password in front of a guarded function. The prompt itself is handed in, so that the rule can
+/// be tested without a window.
 class AccessGate
 {
 public:

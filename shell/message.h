@@ -6,8 +6,8 @@
 /// What a button of a message box answers.
 enum class Answer { Ok, Cancel, Yes, No };
 
-/// One question or notice: a value that rules return, windows show and tests compare. Lines of the text are separated
-/// by '\n'; the first is shown as the heading.
+/// One question or notice: a value that rules return, windows show and tests compare. Lines of the text are
+/// separated by '\n'; the first is shown as the heading.
 struct Message {
     enum Icon { Information, Question, Warning, Critical };
 

@@ -4,15 +4,15 @@
 #include "shell/dialogs.h"
 #include "shell/functions.h"
 #include "shell/gate.h"
+#include "shell/programsignals.h"
 #include "shell/programstate.h"
 #include "shell/settings.h"
-#include "shell/programsignals.h"
 #include "storage/datafolder.h"
 
 class QSettings;
 
-/// What every window is given: the household's folder and settings, the program-wide state, the time, the seam to the
-/// user, the other functions. One for the whole run, owned by main.
+/// What every window is given: the household's folder and settings, the program-wide state, the time, the
+/// seam to the user, the other functions. One for the whole run, owned by main.
 struct Program {
     const DataFolder &folder;
     /// The folder of the executable: backgrounds and whatever else was shipped with the program.
@@ -23,7 +23,8 @@ struct Program {
     Dialogs &dialogs;
     FunctionCatalogue &functions;
     AccessGate &gate;
-    /// Toolbar layouts, column widths, splitter places: what belongs to the user's desk and not to the household.
+    /// Toolbar layouts, column widths, splitter places: what belongs to the user's desk and not to the
+    /// household.
     QSettings &store;
     ProgramSignals &changes;
 };

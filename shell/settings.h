@@ -33,8 +33,9 @@ struct TaggedSetting {
     int record;
 };
 
-/// The household's settings. Nothing is cached: each call opens its file, reads or writes one value and closes it. A
-/// missing, short or damaged file reads as the empty value; a write that fails returns false and is otherwise ignored.
+/// The household's settings. Nothing is cached: each call opens its file, reads or writes one value and
+/// closes it. A missing, short or damaged file reads as the empty value; a write that fails returns false and
+/// is otherwise ignored.
 class Settings
 {
 public:

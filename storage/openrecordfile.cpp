@@ -27,10 +27,10 @@ QByteArrayView OpenRecordFile::read(int number)
 
 bool OpenRecordFile::write(int number, QByteArrayView value)
 {
-    if (m_isWritable && value.size() <= m_recordLength && seek(number)
-        && m_file.write(value.data(), value.size()) == value.size())
+    if (m_isWritable && value.size() <= m_recordLength && seek(number) &&
+        m_file.write(value.data(), value.size()) == value.size())
         return true;
     qCWarning(storageLog).noquote() << "Cannot write record" << number << "of" << m_file.fileName() << '-'
-                                  << m_file.errorString();
+                                    << m_file.errorString();
     return false;
 }

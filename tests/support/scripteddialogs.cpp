@@ -6,7 +6,8 @@
 namespace {
 
 /// The next scripted value, or `fallback` with a failed test when the question was not expected.
-template <typename T> T next(std::deque<T> &script, const QString &question, T fallback)
+template <typename T>
+T next(std::deque<T> &script, const QString &question, T fallback)
 {
     if (script.empty()) {
         QTest::qFail(qPrintable(QStringLiteral("not expected: ") + question), __FILE__, __LINE__);
@@ -21,8 +22,8 @@ template <typename T> T next(std::deque<T> &script, const QString &question, T f
 
 bool ScriptedDialogs::isDone() const
 {
-    return m_answers.empty() && m_inputs.empty() && m_colors.empty() && m_fonts.empty() && m_files.empty()
-           && m_printers.empty() && m_runs.empty();
+    return m_answers.empty() && m_inputs.empty() && m_colors.empty() && m_fonts.empty() && m_files.empty() &&
+           m_printers.empty() && m_runs.empty();
 }
 
 Answer ScriptedDialogs::ask(QWidget *, const Message &message)
@@ -51,8 +52,8 @@ std::optional<PageFont> ScriptedDialogs::chooseFont(QWidget *, const PageFont &)
     return next(m_fonts, QStringLiteral("a font"), std::optional<PageFont>());
 }
 
-std::optional<QString> ScriptedDialogs::chooseFileToSave(QWidget *, const QString &title, const QString &preset,
-                                                         const QString &)
+std::optional<QString> ScriptedDialogs::chooseFileToSave(QWidget *, const QString &title,
+                                                         const QString &preset, const QString &)
 {
     m_prompts << title << preset;
     return next(m_files, title, std::optional<QString>());

@@ -9,8 +9,8 @@
 #include <deque>
 #include <functional>
 
-/// Answers the program's questions from a script, in order, and remembers what was shown. A question that the script
-/// does not expect fails the test and is answered Cancel.
+/// Answers the program's questions from a script, in order, and remembers what was shown. A question that the
+/// script does not expect fails the test and is answered Cancel.
 class ScriptedDialogs final : public Dialogs
 {
 public:
@@ -19,7 +19,10 @@ public:
     void willChooseColor(std::optional<QColor> color) { m_colors.push_back(color); }
     void willChooseFont(std::optional<PageFont> font) { m_fonts.push_back(font); }
     void willChooseFile(std::optional<QString> path) { m_files.push_back(std::move(path)); }
-    void willChoosePrinter(std::function<bool(QPrinter &)> choice) { m_printers.push_back(std::move(choice)); }
+    void willChoosePrinter(std::function<bool(QPrinter &)> choice)
+    {
+        m_printers.push_back(std::move(choice));
+    }
     /// `drive` acts on the dialog, which is shown but not run modally, and returns its result.
     void willRun(std::function<int(QDialog &)> drive) { m_runs.push_back(std::move(drive)); }
     void setPrinter(bool present) { m_hasPrinter = present; }
@@ -38,7 +41,8 @@ public:
     std::optional<PageFont> chooseFont(QWidget *parent, const PageFont &preset) override;
     std::optional<QString> chooseFileToSave(QWidget *parent, const QString &title, const QString &preset,
                                             const QString &filter) override;
-    std::optional<QString> chooseFolder(QWidget *parent, const QString &title, const QString &preset) override;
+    std::optional<QString> chooseFolder(QWidget *parent, const QString &title,
+                                        const QString &preset) override;
     bool choosePrinter(QWidget *parent, QPrinter &printer) override;
     bool hasPrinter() const override { return m_hasPrinter; }
     int run(QDialog &dialog) override;

@@ -44,11 +44,13 @@ public:
 };
 
 /// The control of this type and object name; fails the test when there is none.
-template <typename T> T *control(const QObject &window, const char *name)
+template <typename T>
+T *control(const QObject &window, const char *name)
 {
     T *found = window.findChild<T *>(QString::fromLatin1(name));
     if (!found)
-        QTest::qFail(qPrintable(QStringLiteral("no control ") + QString::fromLatin1(name)), __FILE__, __LINE__);
+        QTest::qFail(qPrintable(QStringLiteral("no control ") + QString::fromLatin1(name)), __FILE__,
+                     __LINE__);
     return found;
 }
 
