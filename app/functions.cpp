@@ -62,8 +62,9 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
     functions.add(Function::AddressBook,
                   {makeWindow<ADDBKVIEW>, addressNews, addressFiles, addressNotes, false});
     functions.add(Function::AddressViewer, {makeWindow<ADDBKDISPLAY>, {}, {}, {}, false});
-    const QString yearFile = DayRecord::yearFileName(clock.today().year());
-    functions.add(Function::Planner, {makeWindow<Zcalandar1>, plannerNews, {yearFile}, {}, true});
+    const int year = clock.today().year();
+    const QStringList yearFiles{DayRecord::yearFileName(year), DayRecord::yearFileName(year + 1)};
+    functions.add(Function::Planner, {makeWindow<Zcalandar1>, plannerNews, yearFiles, {}, true});
     functions.add(Function::PasswordControl,
                   {makeWindow<Form31>, passwordNews, {u"PCtrl1.Fil"_s}, {}, false});
 }

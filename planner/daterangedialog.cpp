@@ -9,9 +9,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-DateRangeDialog::DateRangeDialog(QDate from, QDate to, DateStyle style, QWidget *parent)
+DateRangeDialog::DateRangeDialog(QDate from, QDate to, DateStyle style, QDate today, QWidget *parent)
     : QDialog(parent)
     , m_style(style)
+    , m_today(today)
     , m_fromBox(named(new FieldBox(this), u"rangeFrom"_s))
     , m_toBox(named(new FieldBox(this), u"rangeTo"_s))
     , m_hint(makeQuietLabel({}, this))
@@ -55,7 +56,7 @@ DateRangeDialog::DateRangeDialog(QDate from, QDate to, DateStyle style, QWidget 
 void DateRangeDialog::accept()
 {
     for (FieldBox *box : {m_fromBox, m_toBox}) {
-        const auto date = Dates::parse(box->text(), m_style);
+        const auto date = Dates::parse(box->text(), m_style, m_today);
         if (!date) {
             m_hint->setText(PlannerLines::noSuchDate(box->text()));
             box->setFocus();

@@ -13,7 +13,8 @@ class DateRangeDialog final : public QDialog
 {
     Q_OBJECT
 public:
-    DateRangeDialog(QDate from, QDate to, DateStyle style, QWidget *parent);
+    /// `today` tells the century of a year of two digits.
+    DateRangeDialog(QDate from, QDate to, DateStyle style, QDate today, QWidget *parent);
 
     QDate from() const { return m_range.first; }
     QDate to() const { return m_range.second; }
@@ -22,6 +23,7 @@ public:
 
 private:
     DateStyle m_style;
+    QDate m_today;
     FieldBox *m_fromBox;
     FieldBox *m_toBox;
     QLabel *m_hint;

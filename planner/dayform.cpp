@@ -178,7 +178,10 @@ bool DayForm::eventFilter(QObject *watched, QEvent *event)
         if (watched != timeBox(row) && watched != textBox(row))
             continue;
         if (event->type() == QEvent::FocusIn) {
-            enterRow(row);
+            // A window that comes back from a question is no new row: what was said stays.
+            const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+            if (row != m_row || (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason))
+                enterRow(row);
             return false;
         }
         const auto *key = static_cast<QKeyEvent *>(event);

@@ -83,7 +83,8 @@ private:
         for (int i = 0; i < shown; ++i)
             line(i, lines.joined(i), ink);
         if (shown < lines.count())
-            line(shown, u"+ %1 more"_s.arg(lines.count() - shown), theme.quiet);
+            line(shown, (shown > 0 ? u"+ %1 more"_s : u"%1 entries"_s).arg(lines.count() - shown),
+                 theme.quiet);
     }
 };
 
@@ -125,7 +126,7 @@ void MonthGrid::setUpView()
     m_view->horizontalHeader()->setSectionsClickable(false);
     m_view->horizontalHeader()->setHighlightSections(false);
     m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_view->verticalHeader()->setMinimumSectionSize(56);
+    m_view->verticalHeader()->setMinimumSectionSize(84);
     m_view->verticalHeader()->setSectionsClickable(false);
     m_view->verticalHeader()->setHighlightSections(false);
     m_view->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);

@@ -58,8 +58,6 @@ PlannerCalendar::PlannerCalendar(const Clock &clock, MarkedDays markedDays, QWid
         connect(month, &QCalendarWidget::selectionChanged, this, [this, month] { announce(month); });
         connect(month, &QCalendarWidget::clicked, this, [this, month] { announce(month); });
         connect(month, &QCalendarWidget::activated, this, &PlannerCalendar::dayEntered, Qt::QueuedConnection);
-        // A letter meant for something else would open a box over the days that takes the arrow keys.
-        month->setDateEditEnabled(false);
     }
     connect(m_first, &QCalendarWidget::currentPageChanged, this, [this] { showPages(); });
     connect(m_second, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) {
@@ -88,6 +86,7 @@ void PlannerCalendar::setDate(QDate date)
 {
     const QScopedValueRollback<bool> setting(m_isSetting, true);
     m_announced = {};
+    showToday();
     const QDate first = firstShown();
     const bool isInSecond =
         m_second->isVisibleTo(this) && date >= first.addMonths(1) && date < first.addMonths(2);
@@ -97,6 +96,12 @@ void PlannerCalendar::setDate(QDate date)
     const QDate shown = isInSecond ? first : date;
     m_first->setCurrentPage(shown.year(), shown.month());
     showPages();
+}
+
+void PlannerCalendar::showToday()
+{
+    for (MonthView *month : {m_first, m_second})
+        month->setToday(m_clock.today());
 }
 
 void PlannerCalendar::refreshMarks()

@@ -35,6 +35,9 @@ public:
     /// Looks again at which days have entries: something was written.
     void refreshMarks();
 
+    /// A new day may have begun.
+    void showToday();
+
 signals:
     /// The user chose this day, by a click or with the keys; comes when the calendar has done with the event.
     void dateChosen(QDate date);

@@ -156,6 +156,8 @@ void Zcalandar1::refreshCommands()
     const bool isSteppable = !isPreviewShown() && (isDay || view == m_week || view == m_month);
     for (QAction *action : {m_backAction, m_onAction})
         setUnavailable(action, isSteppable ? QString() : PlannerLines::inCalendarViewsOnly());
+    const bool isPrintable = isDay || isPreviewShown() || view == m_week || view == m_month;
+    setUnavailable(m_printAction, isPrintable ? QString() : PlannerLines::inCalendarViewsOnly());
     const bool hasBackup = program().functions.has(Function::Backup);
     for (QAction *action : {m_backupAction, m_restoreAction})
         setUnavailable(action, hasBackup ? QString() : PlannerLines::backupNotThere());

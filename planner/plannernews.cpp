@@ -35,9 +35,10 @@ QString lineOf(const Item &item)
 /// The first timed item that is not over yet.
 const Item *nextItem(const QList<Item> &items, QTime now)
 {
+    const QTime minute(now.hour(), now.minute());
     const Item *next = nullptr;
     for (const Item &item : items) {
-        if (item.time.isValid() && item.time >= now && (!next || item.time < next->time))
+        if (item.time.isValid() && item.time >= minute && (!next || item.time < next->time))
             next = &item;
     }
     return next;

@@ -34,6 +34,7 @@ namespace {
 
 /// The left pane: with one month, whose days keep their names, and with two months side by side.
 constexpr int leftPaneWidth = 328;
+constexpr int narrowPaneWidth = 272;
 constexpr int twoMonthsWidth = 596;
 /// Windows from this width on have room for two months and for all tools; those below the other shorten
 /// words.
@@ -198,7 +199,7 @@ QWidget *Zcalandar1::makeRowHeads()
     head.setWeight(QFont::DemiBold);
     QLabel *time = makeQuietLabel(u"Time"_s, line);
     QLabel *text = named(makeQuietLabel({}, line), u"textHead"_s);
-    QLabel *without = makeQuietLabel(u"Without AM/PM:"_s, line);
+    QLabel *without = named(makeQuietLabel(u"Without AM/PM:"_s, line), u"placementHead"_s);
     time->setFont(head);
     text->setFont(head);
     time->setFixedWidth(112);
@@ -245,8 +246,14 @@ void Zcalandar1::connectParts()
 {
     connect(m_searchBox, &QLineEdit::returnPressed, this, &Zcalandar1::search);
     connect(m_calendar, &PlannerCalendar::dateChosen, this, &Zcalandar1::goTo);
-    connect(m_calendar, &PlannerCalendar::dayEntered, this,
-            [this] { m_form->focusRow(m_form->firstEmptyRow()); });
+    connect(m_calendar, &PlannerCalendar::dayEntered, this, [this] {
+        showDayView();
+        m_form->focusRow(m_form->firstEmptyRow());
+    });
+    connect(&activity(), &ActivityBar::dayBegan, this, [this] {
+        m_calendar->showToday();
+        m_comingUp->setDate(m_loadedDate);
+    });
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterMoved = true; });
     connect(m_placement, &QButtonGroup::idClicked, this, &Zcalandar1::setPlacement);
     connect(m_caption, &StepTitle::stepped, this, &Zcalandar1::stepDay);
@@ -305,10 +312,12 @@ void Zcalandar1::placeSplitter()
     const bool isWide = width() >= wideFrom;
     fitToolbar(isWide);
     m_dayView->findChild<QLabel *>(u"textHead"_s)
-        ->setText(width() < narrowBelow ? u"Appointment"_s : u"Appointment or activity"_s);
+        ->setText(width() < narrowBelow ? QString() : u"Appointment or activity"_s);
+    const int pane = width() < narrowBelow ? narrowPaneWidth : leftPaneWidth;
+    m_leftPane->setMinimumWidth(pane - 4);
     if (m_splitterMoved)
         return;
     const int scrollBar = height() < shortBelow ? scrollBarRoom : 0;
-    const int left = (isWide && m_options.shownMonths() == 2 ? twoMonthsWidth : leftPaneWidth) + scrollBar;
+    const int left = (isWide && m_options.shownMonths() == 2 ? twoMonthsWidth : pane) + scrollBar;
     m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
 }

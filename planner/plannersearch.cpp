@@ -3,6 +3,7 @@
 #include "planner/dayrecord.h"
 
 #include <algorithm>
+#include <iterator>
 
 PlannerSearch::PlannerSearch(const PlannerFiles &files, const QString &text)
     : m_files(files)
@@ -14,14 +15,16 @@ bool PlannerSearch::step()
 {
     if (m_done >= yearCount() || m_hits.size() >= mostHits)
         return false;
-    const int year = m_years.at(m_done++);
+    const int year = m_years.at(yearCount() - ++m_done);
     const QByteArray bytes = m_files.yearBytes(year);
-    const auto before = std::ptrdiff_t(m_hits.size());
+    std::vector<PlannerHit> later = std::move(m_hits);
+    m_hits.clear();
     for (int number = 1; number <= DayRecord::last; ++number)
         look(DayRecord::ofNumber(bytes, number), number, year);
     // Records follow days of the month before months.
-    std::stable_sort(m_hits.begin() + before, m_hits.end(),
+    std::stable_sort(m_hits.begin(), m_hits.end(),
                      [](const PlannerHit &one, const PlannerHit &other) { return one.date < other.date; });
+    m_hits.insert(m_hits.end(), std::move_iterator(later.begin()), std::move_iterator(later.end()));
     return true;
 }
 

@@ -23,7 +23,7 @@ struct PlannerHit {
 class PlannerSearch
 {
 public:
-    /// At most this many hits are kept; the search ends with the year that fills them.
+    /// The search goes back from the latest year and ends with the one that brings the hits to this number.
     static constexpr std::size_t mostHits = 5000;
 
     PlannerSearch(const PlannerFiles &files, const QString &text);

@@ -26,8 +26,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+/// A page on the screen gives way: nothing goes on behind it.
 void Zcalandar1::showView(QWidget *view)
 {
+    closePreview();
     m_views->setCurrentWidget(view);
     // A month and the recurrence panel need the whole width, and have calendars of their own.
     m_leftPane->setVisible(view != m_month && view != m_recurrence);
@@ -45,13 +47,13 @@ void Zcalandar1::showDayView()
 void Zcalandar1::showWeek()
 {
     if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        openWeek(m_loadedDate);
+        openWeek(viewedDate());
 }
 
 void Zcalandar1::showMonth()
 {
     if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        openMonth(m_loadedDate);
+        openMonth(viewedDate());
 }
 
 void Zcalandar1::openWeek(QDate date)
@@ -90,6 +92,7 @@ void Zcalandar1::takeOptions()
 
 void Zcalandar1::focusSearch()
 {
+    closePreview();
     if (!m_leftPane->isVisible())
         showDayView();
     m_searchBox->setFocus();
@@ -144,11 +147,13 @@ void Zcalandar1::importToDoItems()
         !mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
         return;
     m_import = {};
-    m_import.items = ToDoImport::items(program().folder, program().state.dateStyle);
+    m_import.items = ToDoImport::items(program().folder, program().state.dateStyle, clock().today());
     if (m_import.items.empty()) {
         ask(PlannerMessages::nothingToImport());
         return;
     }
+    m_import.earliest = m_loadedDate;
+    showDayView();
     setWorking(true);
     activity().say(PlannerLines::updating());
     m_importWork->start([this] { return importNext(); });
@@ -159,7 +164,7 @@ bool Zcalandar1::importNext()
     if (m_import.next >= m_import.items.size())
         return false;
     const ToDoItem &item = m_import.items[m_import.next++];
-    const auto outcome = ToDoImport::insert(m_files, placement(), item, m_loadedDate);
+    const auto outcome = ToDoImport::insert(m_files, placement(), item, m_import.earliest);
     m_import.passedOver += !outcome;
     if (!outcome)
         return true;
@@ -171,14 +176,15 @@ bool Zcalandar1::importNext()
     return outcome->result != DateResult::Failed;
 }
 
-void Zcalandar1::finishImport()
+void Zcalandar1::finishImport(bool wasStopped)
 {
     setWorking(false);
     activity().showProgress(0, 0);
     filesChanged();
     m_form->focusRow(m_form->currentRow());
-    const QString done =
-        PlannerLines::imported(m_import.made, m_import.there, m_import.full, m_import.passedOver);
+    QString done = PlannerLines::imported(m_import.made, m_import.there, m_import.full, m_import.passedOver);
+    if (wasStopped)
+        done += PlannerLines::stoppedBeforeEnd();
     activity().say(
         m_import.refused.isValid()
             ? PlannerLines::diskRefused(Dates::numbers(m_import.refused, program().state.dateStyle), done)
@@ -216,7 +222,8 @@ PlannerPages::Paper Zcalandar1::paper(const PageSetup &setup) const
 
 Page Zcalandar1::dayPage(const PageSetup &setup) const
 {
-    return PlannerPages::day(m_loadedDate, typedDay(), paper(setup));
+    const QDate date = viewedDate();
+    return PlannerPages::day(date, date == m_loadedDate ? typedDay() : m_files.peek(date), paper(setup));
 }
 
 Page Zcalandar1::weekPage(const PageSetup &setup) const
@@ -257,7 +264,7 @@ void Zcalandar1::printShown()
 
 void Zcalandar1::printDay()
 {
-    preview(&Zcalandar1::dayPage, u"Planner "_s + m_loadedDate.toString(Qt::ISODate));
+    preview(&Zcalandar1::dayPage, u"Planner "_s + viewedDate().toString(Qt::ISODate));
 }
 
 void Zcalandar1::printWeek()
@@ -278,7 +285,8 @@ void Zcalandar1::printRange()
     if (!mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
         return;
     const QDate first = viewedDate();
-    DateRangeDialog dialog(first, first.addMonths(1).addDays(-1), program().state.dateStyle, this);
+    DateRangeDialog dialog(first, first.addMonths(1).addDays(-1), program().state.dateStyle, clock().today(),
+                           this);
     if (program().dialogs.run(dialog) != QDialog::Accepted)
         return;
     const QDate from = dialog.from();

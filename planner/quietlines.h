@@ -127,6 +127,16 @@ inline QString nothingMade()
     return u"Every date has this appointment already: nothing was entered"_s;
 }
 
+inline QString noDateInRange()
+{
+    return u"No date of this kind lies in the range: nothing was changed"_s;
+}
+
+inline QString stoppedBeforeEnd()
+{
+    return u", stopped before the end"_s;
+}
+
 inline QString made(int entries)
 {
     return entries == 1 ? u"1 entry made"_s : u"%1 entries made"_s.arg(entries);

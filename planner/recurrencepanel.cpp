@@ -170,6 +170,10 @@ void RecurrencePanel::finish(bool wasStopped)
             PlannerLines::diskRefused(Dates::numbers(run->lastDate(), m_program.state.dateStyle), done));
         return;
     }
+    if (run->done() == 0) {
+        emit said(PlannerLines::noDateInRange());
+        return;
+    }
     const auto report = isInsert ? PlannerMessages::recurrenceReport(run->made(), run->full()) : std::nullopt;
     if (report)
         m_program.dialogs.ask(this, *report);

@@ -20,6 +20,8 @@ public:
         return day.isSaved() ? day : PlannerDay{};
     }
 
+    bool hasFailed() const { return m_file.hasFailed(); }
+
     bool write(QDate date, PlannerDay day)
     {
         day.mark = PlannerDay::savedMark;
@@ -75,6 +77,8 @@ DateResult RecurrenceRun::work(QDate date)
     if (!m_file || m_file->year() != date.year())
         m_file = std::make_unique<YearFile>(m_folder, date.year());
     PlannerDay day = m_file->read(date);
+    if (m_file->hasFailed())
+        return DateResult::Failed; // what cannot be read is not empty
     const DateResult result = m_action == RecurrenceAction::Insert ? insertAppointment(day, m_appointment)
                                                                    : removeAppointment(day, m_appointment);
     const bool changed = result == DateResult::Made || result == DateResult::Removed;

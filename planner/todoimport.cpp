@@ -7,7 +7,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ToDoImport {
 
-std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style)
+std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style, QDate today)
 {
     const QStringList values = ValueFile::read(folder.filePath(u"TODOActv.FIL"_s));
     std::vector<ToDoItem> items;
@@ -18,7 +18,7 @@ std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style)
             AnsiText::trimmedBlanks(AnsiText::trimmedBlanks(values[i + 1]).right(10)).toString();
         if (text.isEmpty() || dateText.isEmpty())
             continue;
-        if (const auto date = Dates::parse(dateText, style))
+        if (const auto date = Dates::parse(dateText, style, today))
             items.push_back({*date, text});
     }
     return items;

@@ -127,6 +127,15 @@ private:
     QListView *m_view;
 };
 
+/// "Dec 28 - Jan 3, 2027", or "28 Dec - 3 Jan 2027".
+QString shortRange(QDate from, QDate to, DateStyle style)
+{
+    const bool isUsa = style == DateStyle::Usa;
+    const QLocale words = QLocale::c();
+    return words.toString(from, isUsa ? u"MMM d"_s : u"d MMM"_s) + u" - "_s +
+           words.toString(to, isUsa ? u"MMM d, yyyy"_s : u"d MMM yyyy"_s);
+}
+
 } // namespace
 
 WeekView::WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent)
@@ -165,7 +174,7 @@ void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
     const QDate start = PlannerPages::weekStart(date, options.firstDay());
     const QDate end = start.addDays(daysPerWeek - 1);
     m_model->setDays({start, daysPerWeek, 1, start, end}, m_files.days(start, end), today);
-    m_title->setTitle(PlannerPages::rangeText(start, end, m_style));
+    m_title->setTitle(PlannerPages::rangeText(start, end, m_style), shortRange(start, end, m_style));
     m_view->setCurrentIndex(m_model->indexOf(date));
 }
 

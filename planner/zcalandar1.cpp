@@ -100,6 +100,12 @@ bool Zcalandar1::writeDay()
 
 void Zcalandar1::goTo(QDate date)
 {
+    // Nothing is replaced by the day that is there.
+    if (date.isValid() && date == m_loadedDate && isModified()) {
+        m_calendar->setDate(date);
+        showDayView();
+        return;
+    }
     if (!date.isValid() || !mayReplaceDay(PlannerMessages::saveBeforeNextAction())) {
         m_calendar->setDate(m_loadedDate);
         return;

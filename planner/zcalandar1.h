@@ -113,7 +113,7 @@ private:
     void showRecurrence();
     void importToDoItems();
     bool importNext();
-    void finishImport();
+    void finishImport(bool wasStopped);
     void setWorking(bool isWorking);
     void filesChanged();
 
@@ -139,6 +139,7 @@ private:
     std::optional<PlannerDay> m_copied;
     struct Import {
         std::vector<ToDoItem> items;
+        QDate earliest; ///< the day that was shown when the import began
         std::size_t next = 0;
         int made = 0;
         int there = 0;

@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -175,6 +177,9 @@ void ActivityBar::refreshClock()
     const QDateTime now = m_clock.now();
     m_time->setText(QLocale::c().toString(now.time(), u"h:mm AP"_s));
     m_date->setText(Dates::statusText(now.date(), m_dateStyle));
+    const QDate before = std::exchange(m_day, now.date());
+    if (before.isValid() && before != m_day)
+        emit dayBegan();
 }
 
 bool ActivityBar::eventFilter(QObject *watched, QEvent *event)

@@ -43,6 +43,8 @@ signals:
     void restoreTopToolbarRequested();
     void restoreSideToolbarsRequested();
     void stopRequested();
+    /// The clock has passed midnight, or the bar comes back on another day.
+    void dayBegan();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -56,6 +58,7 @@ private:
 
     const Clock &m_clock;
     const DateStyle &m_dateStyle;
+    QDate m_day; ///< that the bar shows
     QLabel *m_activity;
     QToolButton *m_restoreTop;
     QToolButton *m_restoreSide;

@@ -4,6 +4,7 @@
 #include "shell/settingskeys.h"
 
 #include <QAction>
+#include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
@@ -112,5 +113,9 @@ QSize DisplayMode::rememberedSize() const
 {
     const QSize twips(m_program.settings.number(SettingsKeys::windowWidth),
                       m_program.settings.number(SettingsKeys::windowHeight));
-    return twips.expandedTo(HINFO1::minimumTwips) / HINFO1::twipsPerPixel;
+    const QSize size = twips.expandedTo(HINFO1::minimumTwips) / HINFO1::twipsPerPixel;
+    // A screen that nobody sees bounds nothing.
+    return QGuiApplication::platformName() == "offscreen"_L1
+               ? size
+               : size.boundedTo(m_window->screen()->availableSize());
 }

@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -45,9 +46,12 @@ MonthView::MonthView(QWidget *parent)
     setVerticalHeaderFormat(ISOWeekNumbers);
     setGridVisible(false);
     setAutoFillBackground(false);
+    // A letter meant for something else would open a box over the days that takes the arrow keys.
+    setDateEditEnabled(false);
     setUpHeading();
     showPaletteColors();
-    if (auto *view = findChild<QTableView *>()) {
+    m_view = findChild<QTableView *>();
+    if (QTableView *view = m_view) {
         view->setFrameShape(QFrame::NoFrame);
         view->setAccessibleName(u"Days of the month"_s);
     }
@@ -55,8 +59,8 @@ MonthView::MonthView(QWidget *parent)
 
 void MonthView::setToday(QDate today)
 {
-    m_today = today;
-    updateCells();
+    if (std::exchange(m_today, today) != today)
+        updateCells();
 }
 
 void MonthView::setMarkedDays(const QSet<QDate> &days)
@@ -94,17 +98,25 @@ void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) cons
     QRectF mark = QRectF(rect).adjusted(2.5, 2.5, -2.5, -1.5);
     mark.setWidth(std::min(mark.width(), 36.0));
     mark.moveCenter(QRectF(rect).center() + QPointF(0, 0.5));
+    const bool focused = chosen && m_view && m_view->hasFocus();
+    if (focused) {
+        // A ring outside the day, with a gap between.
+        painter->setPen(QPen(palette().color(ThemeRole::strong), 2));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(mark.adjusted(-1, -1, 1, 1), corner, corner);
+        mark.adjust(2, 2, -2, -2);
+    }
     if (chosen || (m_todayMarked && date == m_today)) {
         painter->setPen(QPen(palette().color(ThemeRole::strong), 1.5));
         painter->setBrush(chosen ? QBrush(theme.accent) : QBrush(Qt::NoBrush));
-        painter->drawRoundedRect(mark, corner, corner);
+        painter->drawRoundedRect(mark, corner - (focused ? 2 : 0), corner - (focused ? 2 : 0));
     }
 
     const QColor ink =
         chosen ? theme.onAccent
                : palette().color(ofThisMonth && isEnabled() ? QPalette::WindowText : ThemeRole::quiet);
     QFont font = TypeScale::body();
-    font.setWeight(chosen || date == m_today ? QFont::DemiBold : QFont::Normal);
+    font.setWeight(chosen || (m_todayMarked && date == m_today) ? QFont::DemiBold : QFont::Normal);
     painter->setFont(font);
     painter->setPen(ink);
     painter->drawText(mark.adjusted(0, 0, 0, -4), Qt::AlignCenter, QString::number(date.day()));

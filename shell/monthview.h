@@ -3,6 +3,8 @@
 #include <QCalendarWidget>
 #include <QSet>
 
+class QTableView;
+
 /// A month calendar in the program's look: heading with steps, week numbers, today ringed, the chosen day
 /// filled, marked days with a dot. Month and year in the heading can be picked. The real control behind every
 /// date picker; it stands on a panel, whose colours it takes.
@@ -27,6 +29,7 @@ private:
     void setUpHeading();
     void showPaletteColors();
 
+    QTableView *m_view = nullptr;
     QDate m_today;
     QSet<QDate> m_marked;
     bool m_todayMarked = true;

@@ -19,9 +19,11 @@ bool OpenRecordFile::seek(int number)
 
 QByteArrayView OpenRecordFile::read(int number)
 {
+    m_hasFailed = !m_file.isOpen() && m_file.exists();
     if (!seek(number))
         return {};
     const qint64 count = m_file.read(m_record.data(), m_recordLength);
+    m_hasFailed = count < 0;
     return QByteArrayView(m_record).first(count > 0 ? qsizetype(count) : 0);
 }
 

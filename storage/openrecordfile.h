@@ -14,6 +14,9 @@ public:
     /// As `RecordFile::read`; the view is good until the next call.
     QByteArrayView read(int number);
 
+    /// Whether the last read failed: the file is there and cannot be read. A record behind its end is none.
+    bool hasFailed() const { return m_hasFailed; }
+
     /// As `RecordFile::write`.
     bool write(int number, QByteArrayView value);
 
@@ -24,4 +27,5 @@ private:
     qsizetype m_recordLength;
     QByteArray m_record;
     bool m_isWritable = false;
+    bool m_hasFailed = false;
 };

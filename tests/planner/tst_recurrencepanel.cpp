@@ -1,5 +1,6 @@
 #include "planner/messages.h"
 #include "planner/plannerfiles.h"
+#include "planner/quietlines.h"
 #include "planner/zcalandar1.h"
 #include "shell/activitybar.h"
 #include "shell/controls.h"
@@ -84,6 +85,7 @@ private slots:
     void reportsFullDates_data();
     void reportsFullDates();
     void removesAfterAQuestion();
+    void saysWhenNoDateIsOfTheKind();
     void staysWithinTenYears();
     void setsDatesByTheCalendar();
     void livesAndStopsDuringAWalk();
@@ -250,6 +252,19 @@ void TestRecurrencePanel::removesAfterAQuestion()
     QCOMPARE(files.peek(QDate(2026, 12, 1)).entryCount(), 2);
     QCOMPARE(files.peek(QDate(2026, 12, 8)).entryCount(), 3);
     QCOMPARE(panel.said(), u"1 entry removed"_s);
+}
+
+void TestRecurrencePanel::saysWhenNoDateIsOfTheKind()
+{
+    TestProgram test;
+    const Panel panel(test); // on a Saturday
+    panel.choose("kind_1");
+    panel.set("occurrences", u"1"_s);
+    panel.click("recurrenceOk");
+    panel.finish();
+    QVERIFY(test.dialogs.takeShown().isEmpty());
+    QVERIFY(panel.isOpen());
+    QCOMPARE(panel.said(), PlannerLines::noDateInRange());
 }
 
 void TestRecurrencePanel::staysWithinTenYears()

@@ -68,6 +68,7 @@ class TestYearFiles : public QObject
 private slots:
     void survivesAnyBytes_data();
     void survivesAnyBytes();
+    void tellsWhatItCannotRead();
     void readsWhatACutFileStillHolds();
     void tellsTheTruthAboutAFullDisk_data();
     void tellsTheTruthAboutAFullDisk();
@@ -110,6 +111,18 @@ void TestYearFiles::survivesAnyBytes()
     QCOMPARE(remove.removed(), insert.made());
     QVERIFY(isRestUntouched(bytes, test.bytes(yearFile), days));
     lookAtEverything();
+}
+
+/// Nobody can say that an appointment is not in a file that cannot be read.
+void TestYearFiles::tellsWhatItCannotRead()
+{
+    const TestProgram test;
+    QVERIFY(QDir().mkpath(test.path(yearFile)));
+    for (const RecurrenceAction action : {RecurrenceAction::Insert, RecurrenceAction::Remove}) {
+        RecurrenceRun run = walk(test.folder, action, 1);
+        runThrough(run);
+        QCOMPARE(run.failed(), 1);
+    }
 }
 
 void TestYearFiles::readsWhatACutFileStillHolds()

@@ -122,6 +122,7 @@ private slots:
     void tellsWhenNothingCanBeImported();
     void asksOnlyUnguardedFunctionsForNotes();
     void previewsWhatIsShown();
+    void keepsTheTextWhenTheSameDayIsChosen();
 };
 
 void TestZcalandar1::opensOnTheDayOfToday()
@@ -411,8 +412,11 @@ void TestZcalandar1::keepsTheCalendarOptions()
     QVERIFY(!second->isVisible());
 
     screen.trigger("mOCal");
-    for (const char *choice : {"months_1", "weekNumbers_1", "weekStart_3", "today_1"})
-        QTest::mouseClick(control<QRadioButton>(screen.window(), choice), Qt::LeftButton);
+    QCoreApplication::processEvents(); // to be laid out
+    for (const char *choice : {"months_1", "weekNumbers_1", "weekStart_3", "today_1"}) {
+        auto *button = control<QRadioButton>(screen.window(), choice);
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
+    }
     QCOMPARE(test.bytes(u"SWR2.fil"_s), QByteArray());
     screen.click("calendarOptionsOk");
     const QByteArray bytes = test.bytes(u"SWR2.fil"_s);
@@ -498,6 +502,8 @@ void TestZcalandar1::importsDatedToDoItems()
     const PlannerFiles files(test.folder);
     for (int round = 0; round < 2; ++round) {
         test.dialogs.willAnswer(Answer::Yes);
+        if (round == 0)
+            screen.trigger("mVWeek");
         screen.trigger("mUImport");
         QTRY_VERIFY(control<QAction>(screen.window(), "mUImport")->isEnabled() &&
                     screen.said().contains("To Do"_L1));
@@ -572,6 +578,27 @@ void TestZcalandar1::previewsWhatIsShown()
     });
     screen.trigger("mOPRange");
     QVERIFY(screen.window().isPreviewShown());
+
+    // Another view never comes up behind the page.
+    for (const char *command : {"mVWeek", "mVMonth", "mOCal", "mEFind", "mVDay"}) {
+        screen.trigger("mOPDay");
+        QVERIFY(screen.window().isPreviewShown());
+        screen.trigger(command);
+        QVERIFY2(!screen.window().isPreviewShown(), command);
+    }
+}
+
+void TestZcalandar1::keepsTheTextWhenTheSameDayIsChosen()
+{
+    TestProgram test;
+    const Screen screen(test);
+    screen.type(0, u"8:00"_s, u"Bus"_s);
+    screen.trigger("mVToday");
+    QVERIFY(test.dialogs.takeShown().isEmpty());
+    QCOMPARE(screen.rows(), QStringList{u"8:00|Bus"_s});
+    QVERIFY(screen.window().isModified());
+    test.dialogs.willAnswer(Answer::No);
+    QVERIFY(screen.window().mayLeave());
 }
 
 QTEST_MAIN(TestZcalandar1)
