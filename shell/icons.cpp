@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -71,11 +72,13 @@ public:
 
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
     {
-        QList<QSize> sizes;
-        for (const int side : drawnSides)
-            if (QFile::exists(fileOf(m_name, m_scheme, side)))
-                sizes.append(QSize(side, side));
-        return sizes;
+        if (!m_sizes) {
+            m_sizes.emplace();
+            for (const int side : drawnSides)
+                if (QFile::exists(fileOf(m_name, m_scheme, side)))
+                    m_sizes->append(QSize(side, side));
+        }
+        return *m_sizes;
     }
 
     bool isNull() override { return availableSizes(QIcon::Normal, QIcon::Off).isEmpty(); }
@@ -115,6 +118,7 @@ private:
     QString m_name;
     Icons::Scheme m_scheme;
     QColor m_ink;
+    std::optional<QList<QSize>> m_sizes; ///< looked up once
 };
 
 } // namespace
