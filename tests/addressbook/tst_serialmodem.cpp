@@ -21,10 +21,12 @@ public:
         : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
     {
         if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0)
-            qFatal("no pseudo-terminal");
+            return;
         m_device = QString::fromLocal8Bit(ptsname(m_master));
         m_keepOpen = open(ptsname(m_master), O_RDWR | O_NOCTTY);
     }
+    /// A machine can be without pseudo-terminals: a bare chroot is.
+    bool isThere() const { return !m_device.isEmpty(); }
     ~PseudoLine()
     {
         close(m_keepOpen);
@@ -53,7 +55,7 @@ public:
 
 private:
     int m_master;
-    int m_keepOpen;
+    int m_keepOpen = -1;
     QString m_device;
 };
 
@@ -91,6 +93,11 @@ class TestSerialModem : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase()
+    {
+        if (!PseudoLine().isThere())
+            QSKIP("no pseudo-terminals here");
+    }
     void numbersTheDevices_data();
     void numbersTheDevices();
     void sendsBytesAsTheyAre();
