@@ -37,8 +37,13 @@ void StepTitle::setTitle(const QString &title, const QString &shorter)
 
 void StepTitle::showTitle()
 {
-    const bool fits = m_title->fontMetrics().horizontalAdvance(m_text) <= m_title->width();
-    m_title->setText(fits || m_shorter.isEmpty() ? m_text : m_shorter);
+    const auto fits = [this](const QFont &font, const QString &text) {
+        return QFontMetrics(font).horizontalAdvance(text) <= m_title->width();
+    };
+    const bool isWhole = m_shorter.isEmpty() || fits(TypeScale::windowTitle(), m_text);
+    const QString &shown = isWhole ? m_text : m_shorter;
+    m_title->setText(shown);
+    m_title->setFont(fits(TypeScale::windowTitle(), shown) ? TypeScale::windowTitle() : TypeScale::group());
 }
 
 void StepTitle::resizeEvent(QResizeEvent *event)

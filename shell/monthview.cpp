@@ -17,6 +17,7 @@ namespace {
 
 constexpr QSize designedSize(316, 296);
 constexpr double corner = 8;
+constexpr int narrowBelow = 264;
 constexpr QLatin1StringView previousName("monthPrevious");
 constexpr QLatin1StringView nextName("monthNext");
 
@@ -128,6 +129,16 @@ void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) cons
     painter->restore();
 }
 
+/// In a narrow sheet the heading takes a smaller step, so that "September" stays whole.
+void MonthView::resizeEvent(QResizeEvent *event)
+{
+    QCalendarWidget::resizeEvent(event);
+    const QFont font = width() < narrowBelow ? TypeScale::strong() : TypeScale::group();
+    for (const QLatin1StringView name : {"qt_calendar_monthbutton"_L1, "qt_calendar_yearbutton"_L1})
+        if (auto *button = findChild<QToolButton *>(name); button && button->font() != font)
+            button->setFont(font);
+}
+
 void MonthView::changeEvent(QEvent *event)
 {
     QCalendarWidget::changeEvent(event);
@@ -149,9 +160,6 @@ void MonthView::setUpHeading()
             button->setAccessibleName(step.word);
         }
     }
-    for (const QLatin1StringView name : {"qt_calendar_monthbutton"_L1, "qt_calendar_yearbutton"_L1})
-        if (auto *button = findChild<QToolButton *>(name))
-            button->setFont(TypeScale::group());
 }
 
 void MonthView::showPaletteColors()

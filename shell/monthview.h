@@ -24,6 +24,7 @@ public:
 protected:
     void paintCell(QPainter *painter, const QRect &rect, QDate date) const override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void setUpHeading();
