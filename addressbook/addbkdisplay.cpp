@@ -237,3 +237,14 @@ void ADDBKDISPLAY::resizeEvent(QResizeEvent *event)
     placeNameColumn();
     refreshMode();
 }
+
+/// Who comes back from the address book sees what was changed there.
+void ADDBKDISPLAY::changeEvent(QEvent *event)
+{
+    FunctionWindow::changeEvent(event);
+    const bool comesBack = event->type() == QEvent::ActivationChange && isActiveWindow();
+    if (comesBack && m_isLoaded && m_rows->viewer().isOutdated()) {
+        load(m_rows->viewer().range());
+        sayRange();
+    }
+}

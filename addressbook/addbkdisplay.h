@@ -41,6 +41,7 @@ protected:
     Page page(const PageSetup &setup) const override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     // The parts of the window.

@@ -6,6 +6,8 @@
 #include "storage/openrecordfile.h"
 #include "storage/recordvalue.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -93,6 +95,7 @@ AddressViewer::AddressViewer(const DataFolder &folder, DateStyle style)
 
 void AddressViewer::load(Information information, const DisplayRange &range, int mostRows)
 {
+    m_stamp = stamp();
     m_information = information;
     m_range = range;
     m_bytes.clear();
@@ -101,6 +104,12 @@ void AddressViewer::load(Information information, const DisplayRange &range, int
     readInformation();
     m_bytes.squeeze();
     refresh();
+}
+
+AddressViewer::Stamp AddressViewer::stamp() const
+{
+    const QFileInfo lines(m_book.index().path()), entries(m_book.entries().path());
+    return {{lines.lastModified(), entries.lastModified()}, {lines.size(), entries.size()}};
 }
 
 bool AddressViewer::isLongerThan(int mostRows) const

@@ -4,8 +4,10 @@
 #include "addressbook/dayofyear.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
+#include <array>
 #include <functional>
 #include <limits>
 #include <optional>
@@ -48,6 +50,8 @@ public:
     /// Reads names and information anew; rows that were removed are back, search and order stay. Missing and
     /// damaged files give fewer rows or empty cells. At most `mostRows` lines of the name list are read.
     void load(Information information, const DisplayRange &range, int mostRows = allRows);
+    /// Whether the files are others than at the last `load`.
+    bool isOutdated() const { return stamp() != m_stamp; }
     Information information() const { return m_information; }
     const DisplayRange &range() const { return m_range; }
     /// Whether a list of more than `mostRows` lines may follow.
@@ -101,6 +105,14 @@ private:
         bool isRemoved = false;
     };
 
+    /// When the two files were written, and how long they are.
+    struct Stamp {
+        std::array<QDateTime, 2> written;
+        std::array<qint64, 2> lengths{};
+        bool operator==(const Stamp &) const = default;
+    };
+    Stamp stamp() const;
+
     void readNames(int mostRows);
     void readInformation();
     void appendInformation(QByteArrayView record, Row &row);
@@ -116,6 +128,7 @@ private:
 
     AddressBook m_book;
     DateStyle m_style;
+    Stamp m_stamp;
     Information m_information = Information::Address;
     DisplayRange m_range;
     QString m_searchText;

@@ -71,6 +71,7 @@ private slots:
     void searchesWhileTyping();
     void saysWhenASearchFindsNobody();
     void removesARowFromTheGridOnly();
+    void followsTheAddressBook();
     void sortsByItsHeadings();
     void remembersTheNameColumn();
     void dialsTheHighlightedNumber();
@@ -332,6 +333,27 @@ void TestAddbkdisplay::removesARowFromTheGridOnly()
     m_test->dialogs.takeShown();
     open();
     QCOMPARE(count(), u"No. Of Names: 40"_s);
+}
+
+void TestAddbkdisplay::followsTheAddressBook()
+{
+    open();
+    choose(Information::State);
+    type(u"Kessler"_s);
+    grid()->setCurrentIndex(grid()->model()->index(1, 1));
+    QWidget other;
+    showActive(other);
+    QByteArray entries = m_test->bytes(u"Addbk1.Fil"_s);
+    entries.replace(724 + 6 * 40, 7, "Austria");
+    m_test->setBytes(u"Addbk1.Fil"_s, entries);
+    QFile file(m_test->path(u"Addbk1.Fil"_s));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime(QDate(2030, 1, 1), QTime()), QFileDevice::FileModificationTime));
+    QCOMPARE(cell(0, 1), u"Germany"_s);
+    showActive(*m_window);
+    QCOMPARE(cell(0, 1), u"Austria"_s);
+    QCOMPARE(grid()->currentIndex(), grid()->model()->index(1, 1));
+    QCOMPARE(caption("displayMode"), u"Current Display Mode: &Search For: [Kessler]"_s);
 }
 
 void TestAddbkdisplay::sortsByItsHeadings()
