@@ -62,12 +62,17 @@ cp tests/data/household/data/SWR2.fil "$place/program/"
 opens_planner 1280 800
 takes planner-two-months
 closes
+opens_planner 1280 800 $dark
+takes planner-two-months-dark
+closes
 rm "$place/program/SWR2.fil"
 
 opens_planner 1280 800 $dark
 takes planner-day-dark
 takes planner-month-dark "key ctrl+3"
 takes planner-week-dark "key ctrl+2"
+takes planner-search-dark "key Escape" "key ctrl+f" "type lunch" "key Return"
+takes planner-options-dark "key Escape" "key alt+o" "key c"
 takes planner-recurrence-dark "key Escape" "mousemove 900 261 click 1" "key ctrl+r" "mousemove 300 740"
 closes
 
@@ -77,6 +82,9 @@ printf '%s\n' '#define _GNU_SOURCE' '#include <dlfcn.h>' '#include <unistd.h>' \
     'if (size == 850) usleep(20000);' \
     'return ((ssize_t (*)(int, const void *, size_t))dlsym(RTLD_NEXT, "write"))(file, bytes, size); }' |
     cc -shared -fPIC -x c -o "$place/slow.so" - -ldl
+opens_planner 1280 800 $dark LD_PRELOAD="$place/slow.so"
+takes planner-recurrence-walk-dark "mousemove 900 261 click 1" "key ctrl+r" "key space" "key Return"
+closes
 opens_planner 1280 800 LD_PRELOAD="$place/slow.so"
 takes planner-recurrence-walk "mousemove 900 261 click 1" "key ctrl+r" "key space" "key Return"
 closes
