@@ -38,7 +38,7 @@ QAction *ADDBKVIEW::addCommand(QMenu *menu, const QString &name, const QString &
 void ADDBKVIEW::makeMenus()
 {
     makeOptionsMenu();
-    QMenu *edit = addMenu(menuBar(), u"mE"_s, u"&Edit"_s);
+    QMenu *edit = m_editMenu = addMenu(menuBar(), u"mE"_s, u"&Edit"_s);
     m_editCopyAction = addCommand(edit, u"mECopy"_s, u"&Copy"_s, &ADDBKVIEW::copyShown);
     m_editModifyAction = addCommand(edit, u"mEMod1"_s, u"&Make Modifications"_s, &ADDBKVIEW::modifyOrSave);
     QMenu *utilities = addMenu(menuBar(), u"mU"_s, u"&Utilities"_s);

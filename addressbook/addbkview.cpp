@@ -7,6 +7,7 @@
 #include "addressbook/namelistmodel.h"
 #include "addressbook/namelistview.h"
 #include "addressbook/pictureframe.h"
+#include "addressbook/picturepanel.h"
 #include "addressbook/quietlines.h"
 #include "shell/activitybar.h"
 #include "shell/controls.h"
@@ -15,6 +16,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
 
@@ -111,6 +113,8 @@ void ADDBKVIEW::refreshNameHint()
 void ADDBKVIEW::showPage(QWidget *page)
 {
     m_pages->setCurrentWidget(page);
+    // Alt+E belongs to "Enter Picture Into Program" while the panel of pictures is open.
+    m_editMenu->setTitle(page == m_picturePanel ? u"Edit"_s : u"&Edit"_s);
 }
 
 void ADDBKVIEW::leavePanel()

@@ -178,6 +178,7 @@ private:
     QAction *m_modifyAction = nullptr;
     QAction *m_viewScreenAction = nullptr;
     QAction *m_entryScreenAction = nullptr;
+    QMenu *m_editMenu = nullptr;
     QAction *m_editCopyAction = nullptr;
     QAction *m_editModifyAction = nullptr;
     QAction *m_backupAction = nullptr;
