@@ -268,7 +268,9 @@ void FunctionWindow::restoreGeometryOnScreen()
         move(screen()->availableGeometry().center() - rect().center());
     if (isMaximized())
         return;
-    const QRect room = screen()->availableGeometry();
+    // The screen where the window stood last, as long as there is one.
+    const QScreen *last = QGuiApplication::screenAt(frameGeometry().center());
+    const QRect room = (last ? last : screen())->availableGeometry();
     resize(size().boundedTo(room.size()));
     move(std::clamp(x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
          std::clamp(y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
