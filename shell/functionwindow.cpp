@@ -16,9 +16,11 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,6 +28,7 @@ namespace {
 
 constexpr QSize smallestSize(800, 600);
 constexpr int windowMargin = 16;
+constexpr int framingMilliseconds = 120;
 
 } // namespace
 
@@ -266,14 +269,29 @@ void FunctionWindow::restoreGeometryOnScreen()
     resize(m_traits.openingSize.boundedTo(available));
     if (!restoreGeometry(m_program.store.value(storeKey(u"geometry"_s)).toByteArray()))
         move(screen()->availableGeometry().center() - rect().center());
-    if (isMaximized())
+    fitScreen();
+}
+
+/// Brings the window, with its frame, onto the screen where it stands.
+void FunctionWindow::fitScreen()
+{
+    if (isMaximized() || isFullScreen())
         return;
-    // The screen where the window stood last, as long as there is one.
-    const QScreen *last = QGuiApplication::screenAt(frameGeometry().center());
-    const QRect room = (last ? last : screen())->availableGeometry();
-    resize(size().boundedTo(room.size()));
-    move(std::clamp(x(), room.left(), std::max(room.left(), room.right() + 1 - width())),
-         std::clamp(y(), room.top(), std::max(room.top(), room.bottom() + 1 - height())));
+    const QScreen *here = QGuiApplication::screenAt(frameGeometry().center());
+    const QRect room = (here ? here : screen())->availableGeometry();
+    const QSize frame = frameGeometry().size() - size();
+    resize(size().boundedTo(room.size() - frame));
+    const QRect outside = frameGeometry();
+    move(std::clamp(outside.x(), room.left(), std::max(room.left(), room.right() + 1 - outside.width())),
+         std::clamp(outside.y(), room.top(), std::max(room.top(), room.bottom() + 1 - outside.height())));
+}
+
+void FunctionWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    // The window manager tells the size of the frame only when it has put one around.
+    if (!std::exchange(m_wasShown, true))
+        QTimer::singleShot(framingMilliseconds, this, &FunctionWindow::fitScreen);
 }
 
 QString FunctionWindow::storeKey(const QString &what) const

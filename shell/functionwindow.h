@@ -83,6 +83,7 @@ protected:
     void closeEvent(QCloseEvent *event) final;
     void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
     /// A long walk is under way: the window does not close.
     void setBusy(bool busy) { m_busy = busy; }
@@ -94,6 +95,7 @@ private:
     void restoreTopToolbar();
     void showToolbarMenu(const QPoint &place);
     void restoreGeometryOnScreen();
+    void fitScreen();
     QString storeKey(const QString &what) const;
 
     Program &m_program;
@@ -111,4 +113,5 @@ private:
     QPointer<QWidget> m_focusBeforePreview;
     bool m_busy = false;
     bool m_leaveAgreed = false;
+    bool m_wasShown = false;
 };
