@@ -8,7 +8,6 @@
 #include "shell/theme.h"
 
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLocale>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -91,7 +90,7 @@ private:
 } // namespace
 
 MonthGrid::MonthGrid(const PlannerFiles &files, DateStyle style, QWidget *parent)
-    : QWidget(parent)
+    : DaysView(parent)
     , m_files(files)
     , m_model(new DaysModel(style, this))
     , m_title(new StepTitle({u"monthTitle"_s, u"month"_s, u"This Month"_s}, this))
@@ -130,8 +129,7 @@ void MonthGrid::setUpView()
     m_view->verticalHeader()->setSectionsClickable(false);
     m_view->verticalHeader()->setHighlightSections(false);
     m_view->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
-    m_view->installEventFilter(this);
-    setFocusProxy(m_view);
+    takeKeysOf(m_view);
 }
 
 void MonthGrid::show(QDate date, const CalendarOptions &options, QDate today)
@@ -150,25 +148,4 @@ void MonthGrid::show(QDate date, const CalendarOptions &options, QDate today)
 QDate MonthGrid::date() const
 {
     return m_model->date(m_view->currentIndex());
-}
-
-bool MonthGrid::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_view && event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent *>(event)->key()) {
-        case Qt::Key_PageUp:
-            emit stepped(-1);
-            return true;
-        case Qt::Key_PageDown:
-            emit stepped(1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            emit dayOpened(date());
-            return true;
-        default:
-            break;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }

@@ -7,7 +7,6 @@
 #include "planner/viewfoot.h"
 #include "shell/theme.h"
 
-#include <QKeyEvent>
 #include <QListView>
 #include <QLocale>
 #include <QPainter>
@@ -139,7 +138,7 @@ QString shortRange(QDate from, QDate to, DateStyle style)
 } // namespace
 
 WeekView::WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent)
-    : QWidget(parent)
+    : DaysView(parent)
     , m_files(files)
     , m_style(style)
     , m_model(new DaysModel(style, this))
@@ -153,8 +152,7 @@ WeekView::WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent)
     m_view->setResizeMode(QListView::Adjust);
     m_view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_view->installEventFilter(this);
-    setFocusProxy(m_view);
+    takeKeysOf(m_view);
     auto *foot = new ViewFoot(u"week"_s, u"Click a day, or press Enter, to open it"_s, this);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(24, 12, 24, 18);
@@ -181,25 +179,4 @@ void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
 QDate WeekView::date() const
 {
     return m_model->date(m_view->currentIndex());
-}
-
-bool WeekView::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_view && event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent *>(event)->key()) {
-        case Qt::Key_PageUp:
-            emit stepped(-1);
-            return true;
-        case Qt::Key_PageDown:
-            emit stepped(1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            emit dayOpened(date());
-            return true;
-        default:
-            break;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }

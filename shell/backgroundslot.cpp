@@ -5,7 +5,6 @@
 #include "shell/theme.h"
 
 #include <QImageReader>
-#include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -36,7 +35,7 @@ QString nameOf(int slot, QSize picture)
 } // namespace
 
 BackgroundSlot::BackgroundSlot(int slot, QWidget *parent)
-    : QAbstractButton(parent)
+    : WalkButton(parent)
     , m_slot(slot)
 {
     named(this, u"backgroundSlot_"_s + QString::number(slot));
@@ -94,26 +93,6 @@ void BackgroundSlot::setPictureSize(QSize size, int widest)
 QString BackgroundSlot::words() const
 {
     return m_inUse ? QString(text() + inUseMark) : text();
-}
-
-void BackgroundSlot::keyPressEvent(QKeyEvent *event)
-{
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        click();
-        break;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        emit walked(event->key());
-        break;
-    default:
-        QAbstractButton::keyPressEvent(event);
-    }
 }
 
 void BackgroundSlot::paintEvent(QPaintEvent *)

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QAbstractButton>
+#include "shell/walkbutton.h"
+
 #include <QPixmap>
 
 /// One picture of the background selector: its thumbnail in a mat, its name below. The one in use says so.
-class BackgroundSlot final : public QAbstractButton
+class BackgroundSlot final : public WalkButton
 {
     Q_OBJECT
 public:
@@ -26,12 +27,8 @@ public:
     /// Pixels around the picture: mat, focus ring, and the name below.
     QSize frame() const;
 
-signals:
-    void walked(int key);
-
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void tell();

@@ -4,7 +4,6 @@
 #include "shell/functionfaces.h"
 #include "shell/theme.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QPixmapCache>
 
@@ -42,7 +41,7 @@ QColor mixed(const QColor &color, const QColor &other, double share)
 } // namespace
 
 FunctionCard::FunctionCard(const FunctionFace &face, QWidget *parent)
-    : QAbstractButton(parent)
+    : WalkButton(parent)
     , m_quietText(face.quietText())
     , m_icon(face.icon)
     , m_titleFont(TypeScale::cardTitle())
@@ -134,34 +133,14 @@ QRect FunctionCard::lineRect() const
 
 void FunctionCard::resizeEvent(QResizeEvent *event)
 {
-    QAbstractButton::resizeEvent(event);
+    WalkButton::resizeEvent(event);
     tellLine();
 }
 
 void FunctionCard::focusInEvent(QFocusEvent *event)
 {
-    QAbstractButton::focusInEvent(event);
+    WalkButton::focusInEvent(event);
     emit focused();
-}
-
-void FunctionCard::keyPressEvent(QKeyEvent *event)
-{
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        click();
-        break;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        emit walked(event->key());
-        break;
-    default:
-        QAbstractButton::keyPressEvent(event);
-    }
 }
 
 bool FunctionCard::hasUserColor() const

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "shell/liveline.h"
-
-#include <QAbstractButton>
+#include "shell/walkbutton.h"
 
 #include <optional>
 
@@ -10,7 +9,7 @@ struct FunctionFace;
 
 /// A function on the main menu: its sign, its name and one line of news, over the background picture. Enter,
 /// Space and a click open it. It is drawn in the colours of its palette, as any panel.
-class FunctionCard final : public QAbstractButton
+class FunctionCard final : public WalkButton
 {
     Q_OBJECT
 public:
@@ -34,13 +33,10 @@ public:
     static int fullHeight();
 
 signals:
-    /// An arrow key, Home or End was pressed.
-    void walked(int key);
     void focused();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
