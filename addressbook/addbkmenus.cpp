@@ -13,35 +13,13 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-QMenu *addMenu(QMenuBar *bar, const QString &name, const QString &caption)
-{
-    QMenu *menu = named(bar->addMenu(caption), name);
-    menu->menuAction()->setObjectName(name);
-    menu->setToolTipsVisible(true);
-    return menu;
-}
-
-} // namespace
-
-QAction *ADDBKVIEW::addCommand(QMenu *menu, const QString &name, const QString &caption,
-                               void (ADDBKVIEW::*command)())
-{
-    QAction *action = makeAction(name, caption, this);
-    connect(action, &QAction::triggered, this, command);
-    if (menu)
-        menu->addAction(action);
-    return action;
-}
-
 void ADDBKVIEW::makeMenus()
 {
     makeOptionsMenu();
-    QMenu *edit = m_editMenu = addMenu(menuBar(), u"mE"_s, u"&Edit"_s);
+    QMenu *edit = m_editMenu = addMenu(u"mE"_s, u"&Edit"_s);
     m_editCopyAction = addCommand(edit, u"mECopy"_s, u"&Copy"_s, &ADDBKVIEW::copyShown);
     m_editModifyAction = addCommand(edit, u"mEMod1"_s, u"&Make Modifications"_s, &ADDBKVIEW::modifyOrSave);
-    QMenu *utilities = addMenu(menuBar(), u"mU"_s, u"&Utilities"_s);
+    QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_backupAction = addCommand(utilities, u"mUB"_s, u"&Backup Files to Disk"_s, &ADDBKVIEW::openBackup);
     m_restoreAction = addCommand(utilities, u"mUR"_s, u"&Restore Files from Disk"_s, &ADDBKVIEW::openBackup);
     menuBar()->addAction(addCommand(nullptr, u"mH"_s, u"&Help"_s, &ADDBKVIEW::showHelp));
@@ -49,7 +27,7 @@ void ADDBKVIEW::makeMenus()
 
 void ADDBKVIEW::makeOptionsMenu()
 {
-    QMenu *menu = addMenu(menuBar(), u"mO"_s, u"&Options"_s);
+    QMenu *menu = addMenu(u"mO"_s, u"&Options"_s);
     m_panelColorAction = addCommand(menu, u"mOC"_s, u"Panel C&olor"_s, &ADDBKVIEW::choosePanelColor);
     addCommand(menu, u"mOTC"_s, u"&Text Color"_s, &ADDBKVIEW::chooseTextColor);
     m_viewAction = addCommand(menu, u"mOV"_s, u"&View"_s, &ADDBKVIEW::viewSelected);

@@ -62,8 +62,6 @@ private:
     QWidget *makeButtonRow();
     void makeMenus();
     void makeOptionsMenu();
-    QAction *addCommand(QMenu *menu, const QString &name, const QString &caption,
-                        void (ADDBKVIEW::*command)());
     void makeToolbar();
     void connectParts();
     void setTabOrders();

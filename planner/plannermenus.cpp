@@ -13,35 +13,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-QMenu *addMenu(QMenuBar *bar, const QString &name, const QString &caption)
-{
-    QMenu *menu = named(bar->addMenu(caption), name);
-    menu->menuAction()->setObjectName(name);
-    menu->setToolTipsVisible(true);
-    return menu;
-}
-
-} // namespace
-
-QAction *Zcalandar1::addCommand(QMenu *menu, const QString &name, const QString &caption,
-                                void (Zcalandar1::*command)(), const QKeySequence &shortcut)
-{
-    QAction *action = makeAction(name, caption, this);
-    action->setShortcut(shortcut);
-    connect(action, &QAction::triggered, this, command);
-    if (menu)
-        menu->addAction(action);
-    return action;
-}
-
 void Zcalandar1::makeMenus()
 {
     makeOptionsMenu();
     makeEditMenu();
     makeViewMenu();
-    QMenu *utilities = addMenu(menuBar(), u"mU"_s, u"&Utilities"_s);
+    QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     addCommand(utilities, u"mUImport"_s, u"&Import To Do List Items"_s, &Zcalandar1::importToDoItems);
     utilities->addSeparator();
     m_backupAction = addCommand(utilities, u"mUB"_s, u"&Backup Files to Disk"_s, &Zcalandar1::openBackup);
@@ -52,7 +29,7 @@ void Zcalandar1::makeMenus()
 
 void Zcalandar1::makeOptionsMenu()
 {
-    QMenu *menu = addMenu(menuBar(), u"mO"_s, u"&Options"_s);
+    QMenu *menu = addMenu(u"mO"_s, u"&Options"_s);
     m_panelColorAction = addCommand(menu, u"mOC"_s, u"Panel C&olor"_s, &Zcalandar1::choosePanelColor);
     addCommand(menu, u"mOCal"_s, u"&Calendar Options"_s, &Zcalandar1::showOptions);
     menu->addSeparator();
@@ -79,7 +56,7 @@ void Zcalandar1::makePrintMenu(QMenu *menu)
 
 void Zcalandar1::makeEditMenu()
 {
-    QMenu *menu = addMenu(menuBar(), u"mE"_s, u"&Edit"_s);
+    QMenu *menu = addMenu(u"mE"_s, u"&Edit"_s);
     m_copyAction = addCommand(menu, u"mECopy"_s, u"&Copy Day"_s, &Zcalandar1::copyDay);
     m_pasteAction = addCommand(menu, u"mEPaste"_s, u"&Paste Day"_s, &Zcalandar1::pasteDay);
     menu->addSeparator();
@@ -91,7 +68,7 @@ void Zcalandar1::makeEditMenu()
 
 void Zcalandar1::makeViewMenu()
 {
-    QMenu *menu = addMenu(menuBar(), u"mV"_s, u"&View"_s);
+    QMenu *menu = addMenu(u"mV"_s, u"&View"_s);
     m_dayAction =
         addCommand(menu, u"mVDay"_s, u"&Day View"_s, &Zcalandar1::showDayView, Qt::CTRL | Qt::Key_1);
     m_weekAction =

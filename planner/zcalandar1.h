@@ -64,8 +64,6 @@ private:
     void connectParts();
     void connectViews();
     void connectWalks();
-    QAction *addCommand(QMenu *menu, const QString &name, const QString &caption,
-                        void (Zcalandar1::*command)(), const QKeySequence &shortcut = {});
     void placeSplitter();
     void setOptions(const CalendarOptions &options);
 

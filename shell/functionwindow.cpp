@@ -12,6 +12,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
@@ -146,6 +147,24 @@ void FunctionWindow::rememberSplitter(QSplitter *splitter)
     m_splitters.append(splitter);
     splitter->setHandleWidth(windowMargin);
     splitter->setChildrenCollapsible(false);
+}
+
+QMenu *FunctionWindow::addMenu(const QString &name, const QString &caption)
+{
+    QMenu *menu = named(menuBar()->addMenu(caption), name);
+    menu->menuAction()->setObjectName(name);
+    menu->setToolTipsVisible(true);
+    return menu;
+}
+
+QAction *FunctionWindow::addEntry(QMenu *menu, const QString &name, const QString &caption,
+                                  const QKeySequence &shortcut)
+{
+    QAction *action = makeAction(name, caption, this);
+    action->setShortcut(shortcut);
+    if (menu)
+        menu->addAction(action);
+    return action;
 }
 
 void FunctionWindow::addTool(QAction *action, QLatin1StringView icon, const QString &text)

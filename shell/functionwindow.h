@@ -6,12 +6,15 @@
 #include "shell/program.h"
 #include "shell/settingskeys.h"
 
+#include <QAction>
+#include <QKeySequence>
 #include <QMainWindow>
 #include <QPointer>
 
 class ActivityBar;
 class FlowToolBar;
 class PreviewPane;
+class QMenu;
 class QSplitter;
 class QStackedWidget;
 class QVBoxLayout;
@@ -76,6 +79,18 @@ protected:
     /// Adds `action` to the toolbar with the icon of this name and the word `text` beside it.
     void addTool(QAction *action, QLatin1StringView icon, const QString &text);
     void addToolSeparator();
+    /// A menu of the menu bar; menu and its action bear `name`.
+    QMenu *addMenu(const QString &name, const QString &caption);
+    /// An action named `name` that runs a command of this window; it stands in `menu` when there is one.
+    template <typename Window>
+    QAction *addCommand(QMenu *menu, const QString &name, const QString &caption, void (Window::*command)(),
+                        const QKeySequence &shortcut = {})
+    {
+        QAction *action = addEntry(menu, name, caption, shortcut);
+        connect(action, &QAction::triggered, static_cast<Window *>(this), command);
+        return action;
+    }
+
     /// Call once when menus and toolbar are complete: restores the toolbar's layout, colours and window
     /// geometry.
     void finishFrame();
@@ -94,6 +109,7 @@ private:
     void showTopToolbar();
     void restoreTopToolbar();
     void showToolbarMenu(const QPoint &place);
+    QAction *addEntry(QMenu *menu, const QString &name, const QString &caption, const QKeySequence &shortcut);
     void restoreGeometryOnScreen();
     void fitScreen();
     QString storeKey(const QString &what) const;
