@@ -5,16 +5,19 @@
 #include "shell/busycursor.h"
 #include "shell/controls.h"
 #include "shell/pagepainter.h"
+#include "shell/pagetype.h"
 #include "shell/printjob.h"
 #include "shell/program.h"
 #include "shell/sheetview.h"
 #include "shell/theme.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QScrollArea>
 #include <QSettings>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -25,14 +28,31 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int choicesWidth = 300;
-constexpr int pagePoints = 11;
+constexpr int leastChoicesWidth = 220;
+constexpr int mostChoicesWidth = 300;
+constexpr int envelopePoints = 11;
+constexpr int labelPoints = 10;
+constexpr int typingPause = 150; ///< in milliseconds
 
-PageFont pageFont()
+PageFont pageFont(const LabelSheet &sheet)
 {
     PageFont font{QApplication::font(), Qt::black};
-    font.font.setPointSize(pagePoints);
+    font.font.setPointSize(sheet.isEnvelope ? envelopePoints : labelPoints);
     return font;
+}
+
+/// The fonts of the pages, measured for the room of a label.
+LabelType labelType(const PageTypes &types, const LabelSheet &sheet)
+{
+    constexpr double pointsPerInch = 72;
+    const QSizeF room = sheet.room(0).size() * pointsPerInch;
+    return {[&types, room](const QString &line, TextRole role) {
+                return types.of(role).wrapped(line, room.width());
+            },
+            [&types, room](const QString &line, TextRole role) {
+                return types.of(role).elided(line, room.width());
+            },
+            [&types, room](TextRole role) { return int(room.height() / types.of(role).lineHeight()); }};
 }
 
 QString storeKey(QLatin1StringView what)
@@ -54,9 +74,9 @@ LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
     title->setText(u"Labels and Envelopes"_s);
     title->setFont(TypeScale::windowTitle());
     auto *row = new QHBoxLayout;
-    row->setSpacing(24);
-    row->addWidget(makeChoices());
-    row->addWidget(makePreview(), 1);
+    row->setSpacing(16);
+    row->addWidget(makeChoices(), 3);
+    row->addWidget(makePreview(), 2);
     QPushButton *back = makeButton(u"leaveLabels"_s, u"&Back to the Grid"_s, this);
     m_print = makeButton(u"printLabels"_s, u"&Print"_s, this, ButtonKind::Main);
     auto *foot = new QHBoxLayout;
@@ -79,21 +99,38 @@ LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
     connect(m_view, &SheetView::lastRequested, this, [this] { showSheet(m_sheetCount - 1); });
     connect(back, &QPushButton::clicked, this, &LabelPanel::left);
     connect(m_print, &QPushButton::clicked, this, &LabelPanel::print);
+    m_gathering.setSingleShot(true);
+    m_gathering.setInterval(typingPause);
+    connect(&m_gathering, &QTimer::timeout, this, &LabelPanel::gather);
     restoreChoices();
 }
 
-LabelPanel::~LabelPanel() = default;
+LabelPanel::~LabelPanel()
+{
+    if (m_viewer) // somebody was here
+        storeChoices();
+}
 
 QWidget *LabelPanel::makeChoices()
 {
-    auto *choices = new QWidget(this);
-    choices->setFixedWidth(choicesWidth);
+    auto *scroll = named(new QScrollArea(this), u"labelChoices"_s);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setMinimumWidth(leastChoicesWidth);
+    scroll->setMaximumWidth(mostChoicesWidth);
+    auto *choices = new QWidget;
+    scroll->setWidget(choices);
+    choices->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
     auto *column = new QVBoxLayout(choices);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
     addSheetChoice(*column);
     column->addSpacing(8);
-    m_share = named(new QCheckBox(u"Persons at one address share one label"_s, choices), u"shareLabels"_s);
+    m_share = named(new QCheckBox(u"One label for each address"_s, choices), u"shareLabels"_s);
+    m_share->setToolTip(u"Persons at one address share one label"_s);
     column->addWidget(m_share);
     column->addSpacing(8);
     m_returnAddress = named(new QPlainTextEdit(choices), u"returnAddress"_s);
@@ -110,7 +147,7 @@ QWidget *LabelPanel::makeChoices()
     column->addWidget(m_count);
     column->addWidget(m_leftOut);
     column->addStretch(1);
-    return choices;
+    return scroll;
 }
 
 void LabelPanel::addSheetChoice(QVBoxLayout &column)
@@ -119,6 +156,8 @@ void LabelPanel::addSheetChoice(QVBoxLayout &column)
     m_sheets = named(new QComboBox(parent), u"labelSheet"_s);
     for (const LabelSheet &sheet : LabelSheet::all())
         m_sheets->addItem(sheet.name);
+    m_sheets->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_sheets->view()->setMinimumWidth(m_sheets->view()->sizeHintForColumn(0) + 32);
     m_start = named(new QSpinBox(parent), u"startPosition"_s);
     m_start->setMinimum(1);
     m_start->setMinimumSize(96, 34);
@@ -186,7 +225,9 @@ LabelPages::Options LabelPanel::options() const
 
 void LabelPanel::start(const AddressViewer &viewer)
 {
-    follow(viewer);
+    m_viewer = &viewer;
+    m_index = 0;
+    gather();
     m_sheets->setFocus();
 }
 
@@ -194,7 +235,7 @@ void LabelPanel::follow(const AddressViewer &viewer)
 {
     m_viewer = &viewer;
     m_index = 0;
-    gather();
+    m_gathering.start();
 }
 
 void LabelPanel::sheetChosen()
@@ -206,16 +247,30 @@ void LabelPanel::sheetChosen()
     for (QWidget *control : std::initializer_list<QWidget *>{m_returnLabel, m_returnAddress})
         control->setVisible(isEnvelope);
     m_index = 0;
-    refresh();
+    m_sheets->setToolTip(sheet().name);
+    fit();
 }
 
 void LabelPanel::gather()
 {
     if (!m_viewer)
         return;
+    m_gathering.stop();
     const BusyCursor busy;
     m_labels = LabelTexts::of(*m_viewer, m_share->isChecked() ? LabelSharing::OneForAnAddress
                                                               : LabelSharing::EachTheirOwn);
+    fit();
+}
+
+void LabelPanel::fit()
+{
+    const PageTypes types(pageFont(sheet()));
+    const LabelType type = labelType(types, sheet());
+    m_set.clear();
+    m_set.reserve(m_labels.texts.size());
+    for (const QString &text : m_labels.texts)
+        m_set.push_back(LabelPages::fitted(text, type));
+    m_shortened = int(std::ranges::count(m_set, true, &SetLabel::isShortened));
     refresh();
 }
 
@@ -224,7 +279,12 @@ void LabelPanel::refresh()
     const int labels = int(m_labels.texts.size());
     m_sheetCount = LabelPages::sheetCount(sheet(), labels, options().used);
     m_count->setText(ViewerLines::labelCount(labels, m_sheetCount, sheet().isEnvelope));
-    m_leftOut->setText(m_labels.leftOut == 0 ? QString() : ViewerLines::leftOut(m_labels.leftOut));
+    QStringList remarks;
+    if (m_labels.leftOut > 0)
+        remarks << ViewerLines::leftOut(m_labels.leftOut);
+    if (m_shortened > 0)
+        remarks << ViewerLines::shortened(m_shortened);
+    m_leftOut->setText(remarks.join(u'\n'));
     setUnavailable(m_print, labels == 0 ? ViewerLines::noLabels() : QString());
     showSheet(m_index);
 }
@@ -234,8 +294,8 @@ void LabelPanel::showSheet(int index)
     m_index = std::clamp(index, 0, m_sheetCount - 1);
     LabelPages::Options shown = options();
     shown.hasRims = !sheet().isEnvelope;
-    auto painter = std::make_unique<PagePainter>(LabelPages::sheet(sheet(), m_labels.texts, shown, m_index),
-                                                 sheet().setup(), pageFont());
+    auto painter = std::make_unique<PagePainter>(LabelPages::sheet(sheet(), m_set, shown, m_index),
+                                                 sheet().setup(), pageFont(sheet()));
     m_view->setSheet(painter.get(), 0);
     m_painter = std::move(painter);
     m_pageNumber->setText(ViewerMessages::pageOf(m_index + 1, m_sheetCount));
@@ -267,9 +327,11 @@ void LabelPanel::chooseStart(QPoint place)
 void LabelPanel::print()
 {
     storeChoices();
+    if (m_gathering.isActive())
+        gather();
     const auto laidOut = [this](const PageSetup &setup) {
         const BusyCursor busy;
-        return PagePainter(LabelPages::sheets(sheet(), m_labels.texts, options()), setup, pageFont());
+        return PagePainter(LabelPages::sheets(sheet(), m_set, options()), setup, pageFont(sheet()));
     };
     PrintJob job(m_program, m_activity, window(), sheet().isEnvelope ? u"Envelopes"_s : u"Labels"_s);
     job.run(laidOut(sheet().setup()), sheet().setup(), m_index, laidOut);

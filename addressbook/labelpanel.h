@@ -2,6 +2,7 @@
 
 #include "addressbook/labelsheet.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -30,7 +31,7 @@ public:
 
     /// Takes the rows as they are shown now; `viewer` must live as long as the panel is used.
     void start(const AddressViewer &viewer);
-    /// The same when other rows are shown meanwhile: the focus stays where it is.
+    /// The same when other rows are shown meanwhile, once the typing rests; the focus stays where it is.
     void follow(const AddressViewer &viewer);
 
 signals:
@@ -49,6 +50,7 @@ private:
     LabelPages::Options options() const;
     void sheetChosen();
     void gather();
+    void fit();
     void refresh();
     void showSheet(int index);
     void chooseStart(QPoint place);
@@ -58,6 +60,9 @@ private:
     ActivityBar &m_activity;
     const AddressViewer *m_viewer = nullptr;
     LabelTexts m_labels;
+    std::vector<SetLabel> m_set; ///< the same, fitted into the chosen sheet
+    int m_shortened = 0;
+    QTimer m_gathering;
     int m_index = 0;
     int m_sheetCount = 1;
     std::unique_ptr<PagePainter> m_painter;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double millimetersPerInch = 25.4;
 /// Words keep clear of a label's edge: sheets lie in the printer a little askew.
-constexpr QSizeF labelInset(0.16, 0.08);
+constexpr QSizeF labelInset(0.16, 0.06);
 constexpr QRectF returnPlace(0.4, 0.35, 2.6, 0.95);
 
 double inches(double millimeters)
@@ -31,7 +31,7 @@ QSizeF metric(double width, double height)
 LabelSheet a4Labels(int rows, double labelHeight, double top)
 {
     LabelSheet sheet;
-    sheet.name = u"A4, 3 x %1 labels, 63.5 x %2 mm"_s.arg(rows).arg(labelHeight);
+    sheet.name = u"A4, 3 x %1, 63.5 x %2 mm"_s.arg(rows).arg(labelHeight);
     sheet.paper = metric(210, 297);
     sheet.columns = 3;
     sheet.rows = rows;
@@ -44,7 +44,7 @@ LabelSheet a4Labels(int rows, double labelHeight, double top)
 LabelSheet letterLabels()
 {
     LabelSheet sheet;
-    sheet.name = u"US Letter, 3 x 10 labels, 2 5/8 x 1 in"_s;
+    sheet.name = u"US Letter, 3 x 10, 2 5/8 x 1 in"_s;
     sheet.paper = {8.5, 11};
     sheet.columns = 3;
     sheet.rows = 10;
@@ -121,24 +121,21 @@ QString listed(const QStringList &names)
     return names.mid(0, names.size() - 1).join(", "_L1) + u" & "_s + names.last();
 }
 
-void placeLabels(Page &page, const LabelSheet &sheet, const std::vector<QString> &texts,
+void placeLabels(Page &page, const LabelSheet &sheet, const std::vector<SetLabel> &labels,
                  const LabelPages::Options &options, int index)
 {
     if (sheet.isEnvelope && !options.returnAddress.isEmpty())
         page.placeText(returnPlace, options.returnAddress, TextRole::Small);
     for (int position = 0; position < sheet.count(); ++position) {
-        const QRectF label = sheet.place(position);
         if (options.hasRims)
-            page.placeRule(label);
+            page.placeRule(sheet.place(position));
         const int number = index * sheet.count() + position - options.used;
-        if (number < 0 || std::size_t(number) >= texts.size())
+        if (number < 0 || std::size_t(number) >= labels.size())
             continue;
-        const QRectF room = label.adjusted(labelInset.width(), labelInset.height(), -labelInset.width(),
-                                           -labelInset.height());
         const auto alignment =
             sheet.isEnvelope ? Qt::AlignLeft | Qt::AlignTop : Qt::AlignLeft | Qt::AlignVCenter;
-        page.placeText(room, texts[std::size_t(number)], sheet.isEnvelope ? TextRole::Body : TextRole::Small,
-                       alignment);
+        const SetLabel &label = labels[std::size_t(number)];
+        page.placeText(sheet.room(position), label.text, label.role, alignment);
     }
 }
 
@@ -149,6 +146,12 @@ QRectF LabelSheet::place(int position) const
     const QPointF corner(first.x() + (position % columns) * pitch.x(),
                          first.y() + (position / columns) * pitch.y());
     return {corner, label};
+}
+
+QRectF LabelSheet::room(int position) const
+{
+    return place(position).adjusted(labelInset.width(), labelInset.height(), -labelInset.width(),
+                                    -labelInset.height());
 }
 
 PageSetup LabelSheet::setup() const
@@ -167,7 +170,7 @@ const std::vector<LabelSheet> &LabelSheet::all()
         envelope(u"Envelope DL, 220 x 110 mm"_s, metric(220, 110)),
         envelope(u"Envelope C6, 162 x 114 mm"_s, metric(162, 114)),
         envelope(u"Envelope C5, 229 x 162 mm"_s, metric(229, 162)),
-        envelope(u"Envelope US #10, 9 1/2 x 4 1/8 in"_s, {9.5, 4.125}),
+        envelope(u"Envelope #10, 9 1/2 x 4 1/8 in"_s, {9.5, 4.125}),
     };
     return sheets;
 }
@@ -199,28 +202,53 @@ QString LabelPages::names(const std::vector<LabelPerson> &persons)
     return listed(families);
 }
 
+SetLabel LabelPages::fitted(const QString &text, const LabelType &type)
+{
+    const QStringList paragraphs = text.split(u'\n');
+    for (const TextRole role : {TextRole::Body, TextRole::Small}) {
+        QStringList lines;
+        for (const QString &paragraph : paragraphs)
+            lines += type.wrapped(paragraph, role);
+        if (lines.size() <= type.mostLines(role))
+            return {lines.join(u'\n'), role};
+    }
+    SetLabel label{{}, TextRole::Small, true};
+    QStringList lines;
+    // Each has one line; those below take what else there is before those above.
+    qsizetype free = std::max<qsizetype>(0, type.mostLines(label.role) - paragraphs.size());
+    for (qsizetype i = paragraphs.size(); i-- > 0;) {
+        QStringList own = type.wrapped(paragraphs[i], label.role);
+        if (own.size() > free + 1)
+            own = own.mid(0, free) << type.elided(own.mid(free).join(u' '), label.role);
+        free -= own.size() - 1;
+        lines = own + lines;
+    }
+    label.text = lines.join(u'\n');
+    return label;
+}
+
 int LabelPages::sheetCount(const LabelSheet &sheet, int labels, int used)
 {
     return std::max(1, (labels + used + sheet.count() - 1) / sheet.count());
 }
 
-Page LabelPages::sheet(const LabelSheet &sheet, const std::vector<QString> &texts, const Options &options,
+Page LabelPages::sheet(const LabelSheet &sheet, const std::vector<SetLabel> &labels, const Options &options,
                        int index)
 {
     Page page;
     page.numberSheets(SheetNumbers::None);
-    placeLabels(page, sheet, texts, options, index);
+    placeLabels(page, sheet, labels, options, index);
     return page;
 }
 
-Page LabelPages::sheets(const LabelSheet &sheet, const std::vector<QString> &texts, const Options &options)
+Page LabelPages::sheets(const LabelSheet &sheet, const std::vector<SetLabel> &labels, const Options &options)
 {
     Page page;
     page.numberSheets(SheetNumbers::None);
-    const int count = sheetCount(sheet, int(texts.size()), options.used);
+    const int count = sheetCount(sheet, int(labels.size()), options.used);
     for (int index = 0; index < count; ++index) {
         page.breakPage();
-        placeLabels(page, sheet, texts, options, index);
+        placeLabels(page, sheet, labels, options, index);
     }
     return page;
 }

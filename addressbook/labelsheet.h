@@ -2,13 +2,14 @@
 
 #include "shell/page.h"
 
+#include <functional>
 #include <vector>
 
 class AddressViewer;
 
 /// Paper that addresses are printed on: a sheet of labels, or an envelope. All measures in inches.
 struct LabelSheet {
-    QString name; ///< "A4, 3 x 7 labels, 63.5 x 38.1 mm"
+    QString name; ///< "A4, 3 x 7, 63.5 x 38.1 mm"
     QSizeF paper; ///< as it lies
     int columns = 1;
     int rows = 1;
@@ -20,6 +21,8 @@ struct LabelSheet {
     int count() const { return columns * rows; }
     /// The label at `position` (from 0, row by row).
     QRectF place(int position) const;
+    /// What its text may take of the label at `position`.
+    QRectF room(int position) const;
     PageSetup setup() const;
 
     bool operator==(const LabelSheet &) const = default;
@@ -46,10 +49,28 @@ struct LabelPerson {
     QString firstName;
 };
 
+/// How the fonts of a page set a text into the room of a label.
+struct LabelType {
+    std::function<QStringList(const QString &line, TextRole role)> wrapped; ///< to the room's width
+    std::function<QString(const QString &line, TextRole role)> elided;      ///< one line
+    std::function<int(TextRole role)> mostLines;
+};
+
+/// A label as it is set.
+struct SetLabel {
+    QString text; ///< lines separated by '\n'
+    TextRole role = TextRole::Body;
+    bool isShortened = false;
+};
+
 namespace LabelPages {
 
 /// "Anne Miller"; "Anne & Karl Miller" where the last names agree; "Anne Miller & Karl Holm" elsewhere.
 QString names(const std::vector<LabelPerson> &persons);
+
+/// `text` in the type in which all of it has room. Where none is small enough the names are shortened first:
+/// a letter finds its way without a name, and never without its town.
+SetLabel fitted(const QString &text, const LabelType &type);
 
 /// Sheets for so many labels when the first `used` places of the first sheet are gone already.
 int sheetCount(const LabelSheet &sheet, int labels, int used);
@@ -62,7 +83,7 @@ struct Options {
 };
 
 /// Sheet `index` alone, or all of them.
-Page sheet(const LabelSheet &sheet, const std::vector<QString> &texts, const Options &options, int index);
-Page sheets(const LabelSheet &sheet, const std::vector<QString> &texts, const Options &options);
+Page sheet(const LabelSheet &sheet, const std::vector<SetLabel> &labels, const Options &options, int index);
+Page sheets(const LabelSheet &sheet, const std::vector<SetLabel> &labels, const Options &options);
 
 } // namespace LabelPages

@@ -57,6 +57,11 @@ inline QString notInList()
     return u"This entry is not in the list any more"_s;
 }
 
+inline QString nothingToSortBy()
+{
+    return u"The names stand alone: there is no information to sort by"_s;
+}
+
 inline QString chooseTelephones()
 {
     return u"Choose Home Phone, Mobile Phone or Fax Number to dial a number of the grid"_s;
@@ -119,6 +124,12 @@ inline QString leftOut(int names)
 {
     return names == 1 ? u"1 name without an address is left out"_s
                       : QString(QString::number(names) + u" names without an address are left out"_s);
+}
+
+inline QString shortened(int labels)
+{
+    return labels == 1 ? u"1 label is too small for all of its text"_s
+                       : QString(QString::number(labels) + u" labels are too small for all of their text"_s);
 }
 
 inline QString noLabels()

@@ -19,6 +19,8 @@ private slots:
     void namesPersonsTogether();
     void sharesLabelsByAddress_data();
     void sharesLabelsByAddress();
+    void neverLosesTheTown_data();
+    void neverLosesTheTown();
     void startsOnAUsedSheet_data();
     void startsOnAUsedSheet();
     void writesEnvelopes();
@@ -43,12 +45,28 @@ const LabelSheet &sheetNamed(const QString &part)
                                  [&part](const LabelSheet &sheet) { return sheet.name.contains(part); });
 }
 
-std::vector<QString> texts(int count)
+std::vector<SetLabel> labels(int count)
 {
-    std::vector<QString> texts;
+    std::vector<SetLabel> labels;
     for (int i = 1; i <= count; ++i)
-        texts.push_back(QString::number(i));
-    return texts;
+        labels.push_back({QString::number(i)});
+    return labels;
+}
+
+/// A room of four lines of ten characters, or of five lines of twelve small ones; lines break anywhere.
+LabelType smallRoom()
+{
+    const auto width = [](TextRole role) { return role == TextRole::Small ? 12 : 10; };
+    const auto wrapped = [width](const QString &line, TextRole role) {
+        QStringList lines;
+        for (qsizetype at = 0; at < line.size(); at += width(role))
+            lines << line.mid(at, width(role));
+        return lines;
+    };
+    const auto elided = [width](const QString &line, TextRole role) {
+        return line.size() <= width(role) ? line : line.left(width(role) - 1) + u'~';
+    };
+    return {wrapped, elided, [](TextRole role) { return role == TextRole::Small ? 5 : 4; }};
 }
 
 } // namespace
@@ -166,6 +184,35 @@ void TestLabelSheet::sharesLabelsByAddress()
     QCOMPARE(labels.leftOut, 2);
 }
 
+void TestLabelSheet::neverLosesTheTown_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<TextRole>("role");
+    QTest::addColumn<bool>("isShortened");
+    const auto row = [](const char *name, const QString &text, const QString &set, TextRole role,
+                        bool isShortened) { QTest::newRow(name) << text << set << role << isShortened; };
+    row("all fits", u"Anne\nOak Lane 9 B\nAshford"_s, u"Anne\nOak Lane 9\n B\nAshford"_s, TextRole::Body,
+        false);
+    row("in small type", u"Anne Miller\nOak Lane 123\nFlat 2\nAshford"_s,
+        u"Anne Miller\nOak Lane 123\nFlat 2\nAshford"_s, TextRole::Small, false);
+    row("names too long", u"Anne, Karl, Ida, Bo & Jo Miller\nOak Lane 123\nFlat 2\nAshford"_s,
+        u"Anne, Karl, \nIda, Bo & J~\nOak Lane 123\nFlat 2\nAshford"_s, TextRole::Small, true);
+    row("names give way", u"Anne, Karl & Ida\nOak Lane 123\nFlat 2\nAshford, NL 75944"_s,
+        u"Anne, Karl ~\nOak Lane 123\nFlat 2\nAshford, NL \n75944"_s, TextRole::Small, true);
+    row("the street, too", u"Anne, Karl & Ida\nOak Lane 12345\nFlat 2\nAshford, NL 75944"_s,
+        u"Anne, Karl ~\nOak Lane 12~\nFlat 2\nAshford, NL \n75944"_s, TextRole::Small, true);
+}
+
+void TestLabelSheet::neverLosesTheTown()
+{
+    QFETCH(QString, text);
+    const SetLabel label = LabelPages::fitted(text, smallRoom());
+    QTEST(label.text, "set");
+    QTEST(label.role, "role");
+    QTEST(label.isShortened, "isShortened");
+}
+
 void TestLabelSheet::startsOnAUsedSheet_data()
 {
     QTest::addColumn<int>("labels");
@@ -186,7 +233,7 @@ void TestLabelSheet::startsOnAUsedSheet()
     const LabelSheet &sheet = sheetNamed(u"3 x 7"_s);
     LabelPages::Options options;
     options.used = used;
-    const Page all = LabelPages::sheets(sheet, texts(labels), options);
+    const Page all = LabelPages::sheets(sheet, ::labels(labels), options);
     const auto placed = itemsOf<PageItem::PlacedText>(all);
     QCOMPARE(LabelPages::sheetCount(sheet, labels, used), sheets);
     QCOMPARE(int(placed.size()), labels);
@@ -197,7 +244,7 @@ void TestLabelSheet::startsOnAUsedSheet()
     }
     // The sheet alone is the same as among all.
     const auto last =
-        itemsOf<PageItem::PlacedText>(LabelPages::sheet(sheet, texts(labels), options, sheets - 1));
+        itemsOf<PageItem::PlacedText>(LabelPages::sheet(sheet, ::labels(labels), options, sheets - 1));
     QCOMPARE(last, placed.mid(placed.size() - last.size()));
     QVERIFY(all.sheetNumbers() == SheetNumbers::None && !all.isClosed());
 }
@@ -207,7 +254,7 @@ void TestLabelSheet::writesEnvelopes()
     LabelPages::Options options;
     options.returnAddress = u"Holm\n1 Elm Street"_s;
     const LabelSheet &sheet = sheetNamed(u"DL"_s);
-    const auto placed = itemsOf<PageItem::PlacedText>(LabelPages::sheets(sheet, texts(2), options));
+    const auto placed = itemsOf<PageItem::PlacedText>(LabelPages::sheets(sheet, labels(2), options));
     QCOMPARE(placed.size(), 4);
     QCOMPARE(placed[2].text, options.returnAddress);
     QCOMPARE(placed[3].text, u"2"_s);
