@@ -1,6 +1,5 @@
 #include "addressbook/addbkdisplay2.h"
 
-#include "addressbook/addressviewer.h"
 #include "addressbook/buttonrow.h"
 #include "addressbook/pictureframe.h"
 #include "addressbook/picturegallery.h"
@@ -52,6 +51,7 @@ QVBoxLayout *pageLayout(QWidget *page)
 
 ADDBKDISPLAY2::ADDBKDISPLAY2(Program &program, QWidget *parent)
     : FunctionWindow(program, traits(), parent)
+    , m_viewer(program.folder, program.state.dateStyle)
     , m_copies(new PictureCopies(program.folder, this))
     , m_enlarger(new PictureLoader(program.folder, this))
 {
@@ -71,12 +71,7 @@ ADDBKDISPLAY2::ADDBKDISPLAY2(Program &program, QWidget *parent)
     connect(m_copies, &PictureCopies::ready, this, &ADDBKDISPLAY2::showCopies);
     connect(&activity(), &ActivityBar::stopRequested, this, &ADDBKDISPLAY2::stop);
     finishFrame();
-
-    AddressViewer viewer(program.folder, program.state.dateStyle);
-    viewer.load(Information::Pictures, {});
-    m_pictures = picturesOf(viewer);
-    m_total->setText(ViewerMessages::pictureTotal(int(m_pictures.size())));
-    showPage(0);
+    readBook();
     m_gallery->setFocus();
 }
 
@@ -200,6 +195,15 @@ void ADDBKDISPLAY2::warn()
     activateWindow();
 }
 
+/// The same page stays, as far as there are so many.
+void ADDBKDISPLAY2::readBook()
+{
+    m_viewer.load(Information::Pictures, {});
+    m_pictures = picturesOf(m_viewer);
+    m_total->setText(ViewerMessages::pictureTotal(int(m_pictures.size())));
+    showPage(std::min(m_page, pageCount() - 1));
+}
+
 int ADDBKDISPLAY2::pageCount() const
 {
     constexpr auto perPage = std::size_t(ViewerPages::picturesPerSheet);
@@ -274,6 +278,7 @@ Page ADDBKDISPLAY2::page(const PageSetup &setup) const
 
 void ADDBKDISPLAY2::printPage()
 {
+    closePreview(); // its pictures go with the copies
     m_copies->make(picturesOfPage());
 }
 
@@ -296,6 +301,14 @@ void ADDBKDISPLAY2::keyPressEvent(QKeyEvent *event)
         leaveEnlarged();
     else
         FunctionWindow::keyPressEvent(event);
+}
+
+/// Who comes back from the address book sees the pictures that were changed there.
+void ADDBKDISPLAY2::changeEvent(QEvent *event)
+{
+    FunctionWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_viewer.isOutdated())
+        readBook();
 }
 
 void ADDBKDISPLAY2::openBackup()

@@ -23,6 +23,7 @@ protected:
     Page page(const PageSetup &setup) const override;
     void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     QWidget *makeGalleryPage();
@@ -32,6 +33,7 @@ private:
     QAction *addCommand(QMenu *menu, const QString &name, const QString &caption,
                         void (ADDBKDISPLAY2::*command)());
 
+    void readBook();
     int pageCount() const;
     std::vector<NamedPicture> picturesOfPage() const;
     void showPage(int page);
@@ -47,6 +49,7 @@ private:
     void showHelp();
     void choosePanelColor();
 
+    AddressViewer m_viewer;
     std::vector<NamedPicture> m_pictures;
     int m_page = 0; ///< from 0
     bool m_hasWarned = false;

@@ -28,6 +28,7 @@ private slots:
     void keepsThePlaceOfAMissingPicture();
     void leavesOutWhoHasNoPicture_data();
     void leavesOutWhoHasNoPicture();
+    void followsTheAddressBook();
     void enlargesAPicture();
     void printsThePageShown();
     void stopsMakingCopies();
@@ -155,6 +156,22 @@ void TestAddbkdisplay2::leavesOutWhoHasNoPicture()
     QCOMPARE(words("pictureTotal"), u" Total = "_s + QString::number(places));
 }
 
+void TestAddbkdisplay2::followsTheAddressBook()
+{
+    open();
+    click("nextPictures");
+    QWidget other;
+    showActive(other);
+    m_test->setBytes(u"Addbk2.Fil"_s,
+                     m_test->bytes(u"Addbk2.Fil"_s).replace("Kessler, Tessa", "####ler, Tessa"));
+    QFile file(m_test->path(u"Addbk2.Fil"_s));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime(QDate(2030, 1, 1), QTime()), QFileDevice::FileModificationTime));
+    showActive(*m_window);
+    QCOMPARE(words("pictureTotal"), u" Total = 25"_s);
+    QCOMPARE(words("picturePage"), u"Page 2 of 2"_s);
+}
+
 void TestAddbkdisplay2::enlargesAPicture()
 {
     open();
@@ -174,6 +191,8 @@ void TestAddbkdisplay2::printsThePageShown()
     control<QAction>(*m_window, "mOPrt")->trigger();
     QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
     QCOMPARE(m_window->findChild<PreviewPane *>()->sheetCount(), 1);
+    control<QAction>(*m_window, "mOPrt")->trigger(); // the pictures of that preview are gone
+    QVERIFY(!m_window->isPreviewShown());
 }
 
 void TestAddbkdisplay2::stopsMakingCopies()
