@@ -15,6 +15,7 @@
 #include "shell/busycursor.h"
 #include "shell/controls.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLocale>
@@ -30,9 +31,8 @@ namespace {
 
 /// A book with more lines than this shows its first rows at once and the others a moment later.
 constexpr int firstRows = 200;
-/// What the button with the display mode needs beside the search text, and the count beside it.
-constexpr int modeButtonRest = 440;
-constexpr int leastSearchTextShown = 60;
+constexpr int leastSearchTextShown = 120;
+constexpr int headGap = 32;
 
 } // namespace
 
@@ -46,6 +46,14 @@ void ADDBKDISPLAY::load(const DisplayRange &range)
         return;
     m_grid->viewport()->repaint();
     loadRest();
+}
+
+/// After the files were changed elsewhere.
+void ADDBKDISPLAY::reload()
+{
+    const BusyCursor busy;
+    const QScopedValueRollback<bool> reloading(m_isReloading, true);
+    m_rows->reload();
 }
 
 void ADDBKDISPLAY::loadRest()
@@ -71,11 +79,14 @@ void ADDBKDISPLAY::keepPlace()
     m_keptColumn = std::max(0, m_grid->currentIndex().column());
 }
 
-/// After other rows came into the grid: the same entry is current, or the first where it is gone.
+/// After other rows came into the grid: the same entry is current, or the first where it is gone. Where it is
+/// gone from the files none is, so that no command turns to somebody else by itself.
 void ADDBKDISPLAY::followRows()
 {
-    const int row = std::max(0, m_rows->rowOf(m_kept));
-    m_grid->setCurrentIndex(m_rows->index(row, std::min(m_keptColumn, m_rows->columnCount() - 1)));
+    const int kept = m_rows->rowOf(m_kept);
+    const int column = m_rows->isEmpty() ? 0 : std::min(m_keptColumn, m_rows->columnCount() - 1);
+    const bool isGone = m_isReloading && kept < 0 && !m_rows->isEmpty();
+    m_grid->setCurrentIndex(isGone ? QModelIndex() : m_rows->index(std::max(0, kept), column));
     m_grid->scrollTo(m_grid->currentIndex());
     m_grid->clearSpans();
     if (m_rows->isEmpty() && m_rows->columnCount() > 1)
@@ -122,6 +133,7 @@ void ADDBKDISPLAY::search()
         return;
     }
     narrow(m_choices->searchText());
+    showGrid();
     if (!m_rows->isEmpty())
         m_grid->setFocus();
 }
@@ -135,7 +147,7 @@ void ADDBKDISPLAY::narrow(const QString &text)
 /// From a search back to all names, and from there into the search box.
 void ADDBKDISPLAY::switchDisplayMode()
 {
-    leavePanel();
+    showGrid();
     if (m_rows->isSearching())
         m_choices->clearSearch();
     m_choices->focusSearch();
@@ -148,22 +160,39 @@ void ADDBKDISPLAY::refresh()
                                            : ViewerMessages::nameCount(viewer.count()));
     refreshMode();
     m_chip->setText(ViewerPages::choice(viewer.information()));
+    refreshHead();
     m_listOptions->describe(viewer);
     if (m_pages->currentWidget() == m_labels)
         m_labels->follow(viewer);
     refreshCommands();
 }
 
-/// A long search text is cut to what the window has room for.
+/// The mode stands below the count where both have no room in a line. A long search text is cut all the same.
 void ADDBKDISPLAY::refreshMode()
 {
-    const int room = std::max(leastSearchTextShown, m_grid->width() - modeButtonRest);
-    QString searchText =
-        m_modeButton->fontMetrics().elidedText(m_rows->viewer().searchText(), Qt::ElideRight, room);
-    searchText.replace(u'&', u"&&"_s);
-    const QString mode = ViewerMessages::displayMode(searchText);
+    const QFontMetrics metrics = m_modeButton->fontMetrics();
+    const auto widthOf = [&metrics](const QString &caption) {
+        return metrics.size(Qt::TextShowMnemonic, caption).width();
+    };
+    const QString searchText = m_rows->viewer().searchText();
+    const int frame = m_modeButton->sizeHint().width() - widthOf(m_modeButton->text());
+    const int whole = m_grid->width() - frame -
+                      widthOf(ViewerMessages::displayMode(searchText.isEmpty() ? QString() : u" "_s));
+    const int beside = whole - m_count->sizeHint().width() - m_foot->spacing();
+    const bool isBeside = beside >= std::min(metrics.horizontalAdvance(searchText), leastSearchTextShown);
+    m_foot->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    QString shown = metrics.elidedText(searchText, Qt::ElideRight, isBeside ? beside : whole);
+    shown.replace(u'&', u"&&"_s);
+    const QString mode = ViewerMessages::displayMode(shown);
     m_modeButton->setText(mode);
     m_modeAction->setText(mode);
+}
+
+/// Beside a title that needs all the room the chip gives way: the choice is marked in the left pane as well.
+void ADDBKDISPLAY::refreshHead()
+{
+    const int both = m_title->sizeHint().width() + m_chip->sizeHint().width();
+    m_chip->setVisible(both + headGap <= m_grid->width());
 }
 
 /// By a heading's column; once more the other way round. Below 0 the order of the records.
@@ -172,7 +201,7 @@ void ADDBKDISPLAY::sortBy(int column)
     const QHeaderView *head = m_grid->horizontalHeader();
     const bool isOnceMore = column >= 0 && head->sortIndicatorSection() == column &&
                             head->sortIndicatorOrder() == Qt::AscendingOrder;
-    leavePanel();
+    showGrid();
     m_grid->sortByColumn(column, isOnceMore ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
@@ -195,6 +224,9 @@ void ADDBKDISPLAY::refreshCommands()
     setUnavailable(m_openAction, noEntry);
     setUnavailable(m_openButton, noEntry);
 
+    setUnavailable(m_sortInformationAction,
+                   shown == Information::Pictures ? ViewerLines::nothingToSortBy() : QString());
+
     const bool isTelephone = shown == Information::HomePhone || shown == Information::MobilePhone ||
                              shown == Information::FaxNumber;
     setUnavailable(m_dialButton, isTelephone ? noRow : ViewerLines::chooseTelephones());
@@ -211,6 +243,13 @@ void ADDBKDISPLAY::refreshCommands()
 int ADDBKDISPLAY::currentRow() const
 {
     return m_rows->isEmpty() ? -1 : m_grid->currentIndex().row();
+}
+
+/// For the commands that act on the grid: whatever stands over it goes.
+void ADDBKDISPLAY::showGrid()
+{
+    closePreview();
+    leavePanel();
 }
 
 void ADDBKDISPLAY::leavePanel()
@@ -234,8 +273,6 @@ void ADDBKDISPLAY::resizeEvent(QResizeEvent *event)
 {
     FunctionWindow::resizeEvent(event);
     placeSplitter();
-    placeNameColumn();
-    refreshMode();
 }
 
 /// Who comes back from the address book sees what was changed there.
@@ -243,8 +280,6 @@ void ADDBKDISPLAY::changeEvent(QEvent *event)
 {
     FunctionWindow::changeEvent(event);
     const bool comesBack = event->type() == QEvent::ActivationChange && isActiveWindow();
-    if (comesBack && m_isLoaded && m_rows->viewer().isOutdated()) {
-        load(m_rows->viewer().range());
-        sayRange();
-    }
+    if (comesBack && m_isLoaded && m_rows->viewer().isOutdated())
+        reload();
 }

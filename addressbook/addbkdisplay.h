@@ -15,6 +15,7 @@ class LabelPanel;
 class ListOptionsPanel;
 class PictureCopies;
 class ViewerChoices;
+class QHBoxLayout;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -54,18 +55,18 @@ private:
     void makeOptionsMenu();
     void makeToolbar();
     void addSortMenu(QMenu &options);
-    QAction *addCommand(QMenu *menu, const QString &name, const QString &caption,
-                        void (ADDBKDISPLAY::*command)());
     void connectParts();
     void setTabOrders();
     void placeSplitter();
     void rememberNameColumn();
+    int mostNameColumn() const;
     void placeNameColumn();
     void keepPlace();
     void followRows();
 
     // What is on the screen.
     void load(const DisplayRange &range);
+    void reload();
     void loadRest();
     void showAll(const DisplayRange &range, int mostRows);
     void chooseInformation();
@@ -76,8 +77,10 @@ private:
     void switchDisplayMode();
     void refresh();
     void refreshMode();
+    void refreshHead();
     void refreshCommands();
     void sortBy(int column);
+    void showGrid();
     void leavePanel();
     int currentRow() const; ///< of the grid; -1 when no entry is under it
 
@@ -106,6 +109,7 @@ private:
     bool m_isLoaded = false; ///< all rows, and not the first ones alone
     bool m_isLoadingRest = false;
     bool m_isFollowing = false; ///< other rows are on their way into the grid
+    bool m_isReloading = false; ///< the same rows, as the files have them now
     AddressGrid::Identity m_kept;
     int m_keptColumn = 0;
     int m_nameColumn = 0; ///< its width as the user chose it; 0 while it suits the window
@@ -125,6 +129,7 @@ private:
     QPushButton *m_modeButton = nullptr;
     GridView *m_grid = nullptr;
     QLabel *m_count = nullptr;
+    QHBoxLayout *m_foot = nullptr; ///< holds the count and the mode
     ButtonRow *m_buttonRow = nullptr;
     QPushButton *m_removeButton = nullptr;
     QPushButton *m_dialButton = nullptr;
@@ -137,6 +142,7 @@ private:
     QAction *m_editCopyAction = nullptr;
     QAction *m_exportAction = nullptr;
     QAction *m_removeAction = nullptr;
+    QAction *m_sortInformationAction = nullptr;
     QAction *m_editRemoveAction = nullptr;
     QAction *m_printAction = nullptr;
     QAction *m_picturesAction = nullptr;

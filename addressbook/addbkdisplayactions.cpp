@@ -30,13 +30,21 @@ using namespace Qt::Literals::StringLiterals;
 
 void ADDBKDISPLAY::removeRow()
 {
-    const int row = currentRow();
+    showGrid();
+    int row = currentRow();
+    const AddressGrid::Identity asked = m_rows->identity(row);
     if (row < 0 || ask(ViewerMessages::removeRow()) != Answer::Yes)
         return;
-    const QString name = m_rows->viewer().name(row);
+    // Coming back from the question may have read the rows anew.
+    if (m_rows->identity(row) != asked)
+        row = m_rows->rowOf(asked);
+    if (row < 0)
+        return;
     m_rows->removeEntry(row);
     refresh();
-    activity().say(ViewerLines::removed(name));
+    if (m_rows->isEmpty()) // the focus would fall on the next button
+        m_grid->setFocus();
+    activity().say(ViewerLines::removed(asked.name));
 }
 
 void ADDBKDISPLAY::dial()
@@ -55,12 +63,13 @@ void ADDBKDISPLAY::openMail(const QModelIndex &index)
 {
     QUrl address;
     address.setScheme(u"mailto"_s);
-    address.setPath(index.data().toString());
+    address.setPath(index.data().toString().trimmed());
     activity().say(m_surroundings.openAddress(address) ? QString() : ViewerLines::noMailProgram());
 }
 
 void ADDBKDISPLAY::openEntry()
 {
+    showGrid();
     const int row = currentRow();
     const int record = row < 0 ? 0 : m_rows->viewer().record(row);
     if (record == 0)
@@ -71,8 +80,11 @@ void ADDBKDISPLAY::openEntry()
     if (!isOpen && !program().gate.mayOpen(program(), Area::AddressBook, this))
         return;
     auto *book = qobject_cast<ADDBKVIEW *>(program().functions.open(Function::AddressBook, program()));
-    if (book && !book->showRecord(record))
+    if (book && !book->showRecord(record)) {
+        raise(); // or nobody reads it
+        activateWindow();
         activity().say(ViewerLines::notInList());
+    }
 }
 
 void ADDBKDISPLAY::copyRows()

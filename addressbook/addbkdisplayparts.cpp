@@ -41,6 +41,7 @@ constexpr int narrowLeftPaneWidth = 236;
 constexpr int wideFrom = 1200;
 constexpr int widestNameColumn = 352; ///< unless the user wants more
 constexpr int leastNameColumn = 160;
+constexpr int leastInformationColumn = 120;
 constexpr double nameColumnShare = 0.42;
 
 QString nameColumnKey()
@@ -57,14 +58,6 @@ WindowTraits traits()
     traits.colors = {SettingsKeys::addressViewerColor, SettingsKeys::addressViewerProgramColor, {}};
     traits.helpContext = HelpContext::AddressViewer;
     return traits;
-}
-
-QMenu *addMenu(QMenuBar *bar, const QString &name, const QString &caption)
-{
-    QMenu *menu = named(bar->addMenu(caption), name);
-    menu->menuAction()->setObjectName(name);
-    menu->setToolTipsVisible(true);
-    return menu;
 }
 
 } // namespace
@@ -115,7 +108,6 @@ QWidget *ADDBKDISPLAY::makeLeftPane()
     scroll->setWidget(m_choices);
     m_choices->setAutoFillBackground(false);
     scroll->viewport()->setAutoFillBackground(false);
-    scroll->setMinimumWidth(std::max(narrowLeftPaneWidth, m_choices->minimumSizeHint().width()));
     return scroll;
 }
 
@@ -173,11 +165,11 @@ QWidget *ADDBKDISPLAY::makeGridFoot()
     m_count->setFont(TypeScale::body());
     m_modeButton = makeButton(u"displayMode"_s, {}, foot);
     m_modeButton->setToolTip(u"Shows all names again after a search, or leads to the search"_s);
-    auto *row = new QHBoxLayout(foot);
-    row->setContentsMargins({});
-    row->addWidget(m_count);
-    row->addStretch(1);
-    row->addWidget(m_modeButton);
+    m_foot = new QHBoxLayout(foot);
+    m_foot->setContentsMargins({});
+    m_foot->addWidget(m_count);
+    m_foot->addStretch(1);
+    m_foot->addWidget(m_modeButton, 0, Qt::AlignRight);
     return foot;
 }
 
@@ -206,23 +198,13 @@ QWidget *ADDBKDISPLAY::makeButtonRow(QWidget *parent)
     return m_buttonRow;
 }
 
-QAction *ADDBKDISPLAY::addCommand(QMenu *menu, const QString &name, const QString &caption,
-                                  void (ADDBKDISPLAY::*command)())
-{
-    QAction *action = makeAction(name, caption, this);
-    connect(action, &QAction::triggered, this, command);
-    if (menu)
-        menu->addAction(action);
-    return action;
-}
-
 void ADDBKDISPLAY::makeMenus()
 {
     makeOptionsMenu();
-    QMenu *edit = addMenu(menuBar(), u"mE"_s, u"&Edit"_s);
+    QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
     m_editCopyAction = addCommand(edit, u"mECopy"_s, u"&Copy"_s, &ADDBKDISPLAY::copyRows);
     m_editRemoveAction = addCommand(edit, u"mEDel"_s, u"&Delete Row"_s, &ADDBKDISPLAY::removeRow);
-    QMenu *utilities = addMenu(menuBar(), u"mU"_s, u"&Utilities"_s);
+    QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_backupAction = addCommand(utilities, u"mUB"_s, u"&Backup Files to Disk"_s, &ADDBKDISPLAY::openBackup);
     m_restoreAction =
         addCommand(utilities, u"mUR"_s, u"&Restore Files from Disk"_s, &ADDBKDISPLAY::openBackup);
@@ -236,7 +218,7 @@ void ADDBKDISPLAY::makeMenus()
 
 void ADDBKDISPLAY::makeOptionsMenu()
 {
-    QMenu *menu = addMenu(menuBar(), u"mO"_s, u"&Options"_s);
+    QMenu *menu = addMenu(u"mO"_s, u"&Options"_s);
     m_panelColorAction = addCommand(menu, u"mOC"_s, u"Panel C&olor"_s, &ADDBKDISPLAY::choosePanelColor);
     m_modeAction = addCommand(menu, u"mOM"_s, {}, &ADDBKDISPLAY::switchDisplayMode);
     m_openAction = addCommand(menu, u"mOEntry"_s, u"Ope&n Entry"_s, &ADDBKDISPLAY::openEntry);
@@ -260,13 +242,15 @@ void ADDBKDISPLAY::makeOptionsMenu()
 void ADDBKDISPLAY::addSortMenu(QMenu &options)
 {
     QMenu *menu = named(options.addMenu(u"So&rt"_s), u"mOSort"_s);
+    menu->setToolTipsVisible(true);
     const auto add = [this, menu](const QString &name, const QString &caption, int column) {
         QAction *action = makeAction(name, caption, this);
         connect(action, &QAction::triggered, this, [this, column] { sortBy(column); });
         menu->addAction(action);
+        return action;
     };
     add(u"mOSName"_s, u"By &Name"_s, AddressGrid::NameColumn);
-    add(u"mOSInfo"_s, u"By &Information"_s, AddressGrid::InformationColumn);
+    m_sortInformationAction = add(u"mOSInfo"_s, u"By &Information"_s, AddressGrid::InformationColumn);
     add(u"mOSRec"_s, u"&Record Order"_s, -1);
 }
 
@@ -290,7 +274,10 @@ void ADDBKDISPLAY::connectParts()
     connect(m_choices, &ViewerChoices::searchPressed, this, &ADDBKDISPLAY::search);
     connect(m_choices, &ViewerChoices::informationChosen, this, &ADDBKDISPLAY::chooseInformation);
     connect(m_choices, &ViewerChoices::updateRequested, this, &ADDBKDISPLAY::updateDisplay);
-    connect(m_choices, &ViewerChoices::leftForNames, m_grid, [this] { m_grid->setFocus(); });
+    connect(m_choices, &ViewerChoices::leftForNames, m_grid, [this] {
+        showGrid();
+        m_grid->setFocus();
+    });
     connect(m_modeButton, &QPushButton::clicked, this, &ADDBKDISPLAY::switchDisplayMode);
     connect(m_grid->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &ADDBKDISPLAY::refreshCommands);
@@ -299,6 +286,9 @@ void ADDBKDISPLAY::connectParts()
     connect(m_grid, &GridView::removalRequested, this, &ADDBKDISPLAY::removeRow);
     connect(m_grid, &GridView::linkFollowed, this, &ADDBKDISPLAY::openMail);
     connect(m_grid, &GridView::opened, this, &ADDBKDISPLAY::openEntry);
+    connect(m_grid, &GridView::resized, this, &ADDBKDISPLAY::placeNameColumn);
+    connect(m_grid, &GridView::resized, this, &ADDBKDISPLAY::refreshMode);
+    connect(m_grid, &GridView::resized, this, &ADDBKDISPLAY::refreshHead);
     connect(m_grid, &GridView::firstPainted, this, &ADDBKDISPLAY::loadRest);
     connect(m_listOptions, &ListOptionsPanel::printRequested, this, &ADDBKDISPLAY::printList);
     connect(m_listOptions, &ListOptionsPanel::left, this, &ADDBKDISPLAY::leavePanel);
@@ -321,10 +311,13 @@ void ADDBKDISPLAY::setTabOrders()
 /// Until the user moves it, the left pane is as wide as suits the window, and no choice in it is cut.
 void ADDBKDISPLAY::placeSplitter()
 {
-    if (m_splitterMoved || !m_splitter)
+    if (!m_splitter)
         return;
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const int needed = m_choices->minimumSizeHint().width() + bar;
+    m_splitter->widget(0)->setMinimumWidth(needed);
+    if (m_splitterMoved)
+        return;
     const int left = std::max(needed, width() < wideFrom ? narrowLeftPaneWidth : leftPaneWidth);
     m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
 }
@@ -338,9 +331,16 @@ void ADDBKDISPLAY::rememberNameColumn()
             [this](int section, int, int width) {
                 if (section != 0 || m_isFollowing || m_rows->columnCount() == 1)
                     return;
-                m_nameColumn = width;
-                program().store.setValue(nameColumnKey(), width);
+                m_nameColumn = std::clamp(width, leastNameColumn, mostNameColumn());
+                program().store.setValue(nameColumnKey(), m_nameColumn);
+                placeNameColumn();
             });
+}
+
+/// Wider, it would push the information out of the grid.
+int ADDBKDISPLAY::mostNameColumn() const
+{
+    return std::max(leastNameColumn, m_grid->viewport()->width() - leastInformationColumn);
 }
 
 void ADDBKDISPLAY::placeNameColumn()
@@ -350,5 +350,5 @@ void ADDBKDISPLAY::placeNameColumn()
     const int suitable = std::min(int(nameColumnShare * m_grid->width()), widestNameColumn);
     const QScopedValueRollback<bool> following(m_isFollowing, true);
     m_grid->horizontalHeader()->resizeSection(
-        0, std::max(leastNameColumn, m_nameColumn > 0 ? m_nameColumn : suitable));
+        0, std::clamp(m_nameColumn > 0 ? m_nameColumn : suitable, leastNameColumn, mostNameColumn()));
 }

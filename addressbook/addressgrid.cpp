@@ -18,6 +18,13 @@ void AddressGrid::load(Information information, const DisplayRange &range, int m
     endResetModel();
 }
 
+void AddressGrid::reload()
+{
+    beginResetModel();
+    m_viewer.reload();
+    endResetModel();
+}
+
 void AddressGrid::search(const QString &text)
 {
     beginResetModel();
@@ -63,11 +70,16 @@ AddressGrid::Identity AddressGrid::identity(int row) const
 /// Two lines may lead to one record, and two entries bear one name.
 int AddressGrid::rowOf(const Identity &identity) const
 {
+    int renamed = -1;
     for (int row = 0; row < m_viewer.count(); ++row) {
-        if (m_viewer.record(row) == identity.record && m_viewer.name(row) == identity.name)
+        if (m_viewer.record(row) != identity.record)
+            continue;
+        if (m_viewer.name(row) == identity.name)
             return row;
+        if (renamed < 0 && identity.record > 0)
+            renamed = row;
     }
-    return -1;
+    return renamed;
 }
 
 int AddressGrid::rowCount(const QModelIndex &parent) const
@@ -116,8 +128,9 @@ QVariant AddressGrid::headerData(int section, Qt::Orientation orientation, int r
                                  : ViewerPages::heading(m_viewer.information(), m_style);
 }
 
-bool AddressGrid::isMailAddress(const QString &text)
+bool AddressGrid::isMailAddress(const QString &cell)
 {
+    const QString text = cell.trimmed();
     const qsizetype at = text.indexOf(u'@');
     const bool isPlain = std::ranges::none_of(
         text, [](QChar character) { return character <= u' ' || character == u'<' || character == u'>'; });

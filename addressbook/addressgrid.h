@@ -22,6 +22,8 @@ public:
     bool isSearching() const { return !m_viewer.searchText().isEmpty(); }
 
     void load(Information information, const DisplayRange &range, int mostRows = AddressViewer::allRows);
+    /// The same rows as the files have them now; what was removed by hand stays away.
+    void reload();
     void search(const QString &text);
     void removeEntry(int row);
     /// A column below 0 brings record order back.
@@ -31,10 +33,11 @@ public:
     struct Identity {
         int record = 0;
         QString name;
+        bool operator==(const Identity &) const = default;
     };
     /// Of no entry where the row holds a sentence.
     Identity identity(int row) const;
-    /// The row of this entry, or -1.
+    /// The row of this entry, under another name where it was renamed, or -1.
     int rowOf(const Identity &identity) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -42,8 +45,8 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// Whether `text` looks like an e-mail address.
-    static bool isMailAddress(const QString &text);
+    /// Whether the text of a cell looks like an e-mail address; blanks around it do not count.
+    static bool isMailAddress(const QString &cell);
 
 private:
     QString cell(const QModelIndex &index) const;

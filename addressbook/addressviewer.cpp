@@ -106,6 +106,39 @@ void AddressViewer::load(Information information, const DisplayRange &range, int
     refresh();
 }
 
+void AddressViewer::reload()
+{
+    std::vector<RemovedLine> removed;
+    for (const Row &row : m_rows) {
+        if (row.isRemoved)
+            removed.emplace_back(row.record, nameBytes(row).toByteArray());
+    }
+    load(m_information, m_range);
+    if (removed.empty())
+        return;
+    for (const RemovedLine &line : removed)
+        removeAgain(line);
+    refresh();
+}
+
+/// The line that was removed, or the one of its record where that was renamed.
+void AddressViewer::removeAgain(const RemovedLine &line)
+{
+    Row *renamed = nullptr;
+    for (Row &row : m_rows) {
+        if (row.record != line.first || row.isRemoved)
+            continue;
+        if (nameBytes(row) == line.second) {
+            row.isRemoved = true;
+            return;
+        }
+        if (!renamed && line.first > 0)
+            renamed = &row;
+    }
+    if (renamed)
+        renamed->isRemoved = true;
+}
+
 AddressViewer::Stamp AddressViewer::stamp() const
 {
     const QFileInfo lines(m_book.index().path()), entries(m_book.entries().path());
@@ -242,7 +275,10 @@ void AddressViewer::refresh()
         if (isShown(m_rows[row], *folded))
             m_shown.push_back(quint32(row));
     }
-    if (m_order)
+    // The path of a picture is nothing that anyone sees.
+    const bool isUnseen =
+        m_information == Information::Pictures && m_order && m_order->column != Column::Name;
+    if (m_order && !isUnseen)
         sortShown();
 }
 

@@ -11,6 +11,7 @@
 #include <functional>
 #include <limits>
 #include <optional>
+#include <utility>
 #include <vector>
 
 /// What the viewer shows beside each name.
@@ -50,6 +51,8 @@ public:
     /// Reads names and information anew; rows that were removed are back, search and order stay. Missing and
     /// damaged files give fewer rows or empty cells. At most `mostRows` lines of the name list are read.
     void load(Information information, const DisplayRange &range, int mostRows = allRows);
+    /// Reads all the rows of the same information and range anew; rows that were removed stay away.
+    void reload();
     /// Whether the files are others than at the last `load`.
     bool isOutdated() const { return stamp() != m_stamp; }
     Information information() const { return m_information; }
@@ -83,7 +86,7 @@ public:
         bool operator==(const Order &) const = default;
     };
     /// Orders the rows without regard to case and accents; dates by their place in the year; empty cells come
-    /// last either way. Nothing is record order.
+    /// last either way, and pictures are no order. Nothing is record order.
     void sort(std::optional<Order> order);
     const std::optional<Order> &order() const { return m_order; }
 
@@ -113,6 +116,8 @@ private:
     };
     Stamp stamp() const;
 
+    using RemovedLine = std::pair<int, QByteArray>; ///< its record and name
+    void removeAgain(const RemovedLine &line);
     void readNames(int mostRows);
     void readInformation();
     void appendInformation(QByteArrayView record, Row &row);

@@ -195,13 +195,27 @@ void GridView::paintEvent(QPaintEvent *event)
         QMetaObject::invokeMethod(this, &GridView::firstPainted, Qt::QueuedConnection);
 }
 
+void GridView::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    emit resized();
+}
+
+/// Coming back to the window chooses no cell where none was current.
+void GridView::focusInEvent(QFocusEvent *event)
+{
+    if (event->reason() != Qt::ActiveWindowFocusReason || currentIndex().isValid())
+        QTableView::focusInEvent(event);
+}
+
 /// Tab walks through the cells of the row and out behind its last one: out behind the last row would take
 /// a hundred thousand steps.
 bool GridView::focusNextPrevChild(bool next)
 {
     const QModelIndex current = currentIndex();
     const QModelIndex beside = current.siblingAtColumn(current.column() + (next ? 1 : -1));
-    if (!current.isValid() || !beside.isValid())
+    const bool isSpanned = columnSpan(current.row(), current.column()) > 1;
+    if (!current.isValid() || !beside.isValid() || isSpanned)
         return QTableView::focusNextPrevChild(next);
     setCurrentIndex(beside);
     return true;
@@ -241,7 +255,21 @@ QSize GridPlace::minimumSizeHint() const
     return {240, m_grid->wholeHeight(4 * GridView::rowHeight()) + footHeight()};
 }
 
+bool GridPlace::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest) { // the foot has other words
+        updateGeometry();
+        place();
+    }
+    return QWidget::event(event);
+}
+
 void GridPlace::resizeEvent(QResizeEvent *)
+{
+    place();
+}
+
+void GridPlace::place()
 {
     const int gridHeight = m_grid->wholeHeight(height() - footHeight());
     m_grid->setGeometry(0, 0, width(), gridHeight);

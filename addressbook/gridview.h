@@ -24,6 +24,8 @@ signals:
     void opened(const QModelIndex &index);
     /// The grid is on the screen for the first time.
     void firstPainted();
+    /// The cells have more room now, or less.
+    void resized();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -32,6 +34,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     bool focusNextPrevChild(bool next) override;
     bool viewportEvent(QEvent *event) override;
 
@@ -54,9 +58,11 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void place();
     int footHeight() const;
 
     GridView *m_grid;

@@ -55,11 +55,7 @@ void ViewerChoices::addSearch(QVBoxLayout &column)
     row->addWidget(m_searchBox, 1);
     row->addWidget(m_searchButton);
     column.addLayout(row);
-    connect(m_searchBox, &QLineEdit::textEdited, this, &ViewerChoices::searchTyped);
-    connect(m_searchBox, &QLineEdit::textChanged, this, [this](const QString &text) {
-        if (text.isEmpty()) // the box's own clear button edits nothing
-            emit searchTyped(text);
-    });
+    connect(m_searchBox, &QLineEdit::textChanged, this, &ViewerChoices::searchTyped);
     connect(m_searchBox, &QLineEdit::returnPressed, this, &ViewerChoices::searchPressed);
     connect(m_searchButton, &QPushButton::clicked, this, &ViewerChoices::searchPressed);
 }
