@@ -38,7 +38,11 @@ bool ADDBKVIEW::mayReplaceShown()
                                                    : AddressMessages::GoingBack::Possible;
     switch (ask(AddressMessages::saveChanges(goingBack))) {
     case Answer::Yes:
-        return save();
+        if (!save())
+            return false;
+        // What a save told stays when another entry takes the screen.
+        m_toSay = activity().message();
+        return true;
     case Answer::No:
         return true;
     default:

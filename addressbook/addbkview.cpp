@@ -21,6 +21,7 @@
 #include <QStackedWidget>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -133,7 +134,7 @@ void ADDBKVIEW::showEntry(const AddressEntry &entry)
     m_picture = entry.picture;
     m_form->setTexts(entry.texts);
     m_shownTexts = m_form->texts();
-    activity().say({});
+    activity().say(std::exchange(m_toSay, {}));
     showPicture();
     refreshTitle();
     refreshModified();
@@ -238,7 +239,10 @@ bool ADDBKVIEW::showRecord(int record)
     closePreview();
     if (mayReplaceShown()) {
         // Only now: what was saved has moved its line to the end of the list.
-        selectRow(m_names->names().positionOf(record));
+        const int row = m_names->names().positionOf(record);
+        if (row < 0)
+            return true; // its own line has outgrown the list: the saved entry is shown
+        selectRow(row);
         showSelected();
         m_list->setFocus();
     }

@@ -177,6 +177,7 @@ private:
     QAction *m_viewScreenAction = nullptr;
     QAction *m_entryScreenAction = nullptr;
     QMenu *m_editMenu = nullptr;
+    QString m_toSay; ///< for the status bar when the next entry is shown
     QAction *m_editCopyAction = nullptr;
     QAction *m_editModifyAction = nullptr;
     QAction *m_backupAction = nullptr;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int attempts = 10;
 constexpr int waitMilliseconds = 200;
+constexpr int answerMilliseconds = 3000;
 
 /// One name for each folder, whatever way leads to it.
 QString nameFor(const DataFolder &folder)
@@ -56,8 +57,11 @@ bool InstanceLink::callOther() const
     for (int attempt = 0; attempt < attempts; ++attempt) {
         QLocalSocket call;
         call.connectToServer(m_name);
+        // A line is there before anybody answers: only that it is hung up again tells of a program that
+        // lives.
         if (call.waitForConnected(waitMilliseconds))
-            return true;
+            return call.state() == QLocalSocket::UnconnectedState ||
+                   call.waitForDisconnected(answerMilliseconds);
         QThread::msleep(waitMilliseconds);
     }
     return false;

@@ -33,8 +33,11 @@ DataFolder dataFolder(const DataFolder &programFolder)
 bool mayTakeOver(FolderLock &lock, const DataFolder &folder)
 {
     QtDialogs dialogs;
-    return dialogs.ask(nullptr, StartMessages::folderHeld(folder.path(), lock.holder())) == Answer::Yes &&
-           lock.takeOver();
+    while (dialogs.ask(nullptr, StartMessages::folderHeld(folder.path(), lock.holder())) == Answer::Yes) {
+        if (lock.takeOver())
+            return true;
+    }
+    return false;
 }
 
 int run(QApplication &application, const DataFolder &programFolder, const DataFolder &folder,

@@ -149,6 +149,7 @@ void DayForm::enterRow(int row)
 {
     textBox(m_row)->setPlaceholderText({});
     m_row = row;
+    m_isEntered = true;
     textBox(m_row)->setPlaceholderText(u"What is planned?"_s);
     m_timeList->setCurrentIndex(m_timeList->findText(timeBox(row)->text()));
     placeTimeList();
@@ -180,7 +181,8 @@ bool DayForm::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::FocusIn) {
             // A window that comes back from a question is no new row: what was said stays.
             const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-            if (row != m_row || (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason))
+            if (row != m_row || !m_isEntered ||
+                (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason))
                 enterRow(row);
             return false;
         }

@@ -69,4 +69,5 @@ private:
     std::array<FieldBox *, PlannerDay::rowCount> m_texts;
     TimeList *m_timeList;
     int m_row = 0;
+    bool m_isEntered = false;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "planner/calendaroptions.h"
+
 #include <QDate>
 #include <QWidget>
 
@@ -13,6 +15,8 @@ class DaysView : public QWidget
 public:
     using QWidget::QWidget;
 
+    /// Reads the days around `date` and puts the focus on that day.
+    virtual void show(QDate date, const CalendarOptions &options, QDate today) = 0;
     /// The day that has the focus.
     virtual QDate date() const = 0;
 

@@ -35,6 +35,12 @@ QString PlannerFiles::yearFilePath(int year) const
     return m_folder.filePath(DayRecord::yearFileName(year));
 }
 
+bool PlannerFiles::isReadable(int year) const
+{
+    const QFileInfo file(yearFilePath(year));
+    return !file.exists() || (file.isFile() && file.isReadable());
+}
+
 PlannerDay PlannerFiles::peek(QDate date) const
 {
     if (!date.isValid())

@@ -15,6 +15,9 @@ class PlannerFiles
 public:
     explicit PlannerFiles(const DataFolder &folder);
 
+    /// False when the year's file is there and cannot be read.
+    bool isReadable(int year) const;
+
     /// The appointments of `date`; an empty day when its file or record is missing or was never saved. A
     /// missing year file is made, empty, as the planner's files have it.
     PlannerDay read(QDate date) const;

@@ -253,6 +253,9 @@ void Zcalandar1::connectParts()
     connect(&activity(), &ActivityBar::dayBegan, this, [this] {
         m_calendar->showToday();
         m_comingUp->setDate(m_loadedDate);
+        for (DaysView *view : std::initializer_list<DaysView *>{m_week, m_month})
+            if (view->isVisible())
+                view->show(view->date(), m_options, clock().today());
     });
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterMoved = true; });
     connect(m_placement, &QButtonGroup::idClicked, this, &Zcalandar1::setPlacement);

@@ -18,6 +18,7 @@ void SlicedWork::start(Step step)
 {
     m_step = std::move(step);
     m_isStopped = false;
+    m_isFirst = true;
     m_timer.start(0);
 }
 
@@ -30,10 +31,12 @@ void SlicedWork::work()
 {
     QElapsedTimer slice;
     slice.start();
-    while (!m_isStopped && !slice.hasExpired(sliceMilliseconds)) {
-        if (!m_step())
+    // One step first, so that progress shows at once.
+    do {
+        if (!m_isStopped && !m_step())
             return end(false);
-    }
+    } while (!m_isStopped && !m_isFirst && !slice.hasExpired(sliceMilliseconds));
+    m_isFirst = false;
     emit progressed();
     if (m_isStopped)
         end(true);

@@ -33,4 +33,5 @@ private:
     QTimer m_timer;
     Step m_step;
     bool m_isStopped = false;
+    bool m_isFirst = false;
 };

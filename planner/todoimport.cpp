@@ -29,6 +29,8 @@ std::optional<Outcome> insert(const PlannerFiles &files, UntimedPlacement placem
 {
     if (item.date < earliest)
         return {};
+    if (!files.isReadable(item.date.year()))
+        return Outcome{item, DateResult::Failed}; // what cannot be read is not empty
     PlannerDay day = files.read(item.date);
     DateResult result = insertAppointment(day, Appointment::ofRow({}, item.text));
     if (result == DateResult::Made && !files.write(item.date, inTimeOrder(day, placement)))

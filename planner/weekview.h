@@ -17,7 +17,7 @@ public:
     WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent = nullptr);
 
     /// Reads the week of `date` and puts the focus on that day.
-    void show(QDate date, const CalendarOptions &options, QDate today);
+    void show(QDate date, const CalendarOptions &options, QDate today) override;
     QDate date() const override;
 
 private:

@@ -309,7 +309,7 @@ void FunctionWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     // The window manager tells the size of the frame only when it has put one around.
-    if (!std::exchange(m_wasShown, true))
+    if (!std::exchange(m_wasShown, true) && QGuiApplication::platformName() != "offscreen"_L1)
         QTimer::singleShot(framingMilliseconds, this, &FunctionWindow::fitScreen);
 }
 

@@ -8,6 +8,7 @@
 #include "shell/theme.h"
 
 #include <QApplication>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 PanelColors::PanelColors(Program &program, PanelColorSettings settings, QWidget *window,
@@ -19,7 +20,7 @@ PanelColors::PanelColors(Program &program, PanelColorSettings settings, QWidget 
     , m_activity(activity)
 {
     connect(&program.changes, &ProgramSignals::panelColorsChanged, this, [this](const QString &color) {
-        if (!hasUnsavedChanges() && !m_isKept)
+        if (!hasUnsavedChanges() && !m_isSaving)
             load(color);
     });
 }
@@ -139,10 +140,11 @@ void PanelColors::save()
     if (textChanged && m_settings.text)
         isSaved &= settings.setText(*m_settings.text,
                                     m_text ? ColorText::encode(*m_text) : ColorText::defaultText());
-    m_isKept = !isSaved;
     if (!isSaved)
         m_activity.say(ShellMessages::settingNotSaved());
     if (panelChanged) {
+        // A colour that could not be written stays on this window until it closes.
+        const QScopedValueRollback<bool> saving(m_isSaving, !isSaved);
         QString pending = panel;
         HINFO1::updateProgramColors(m_program, m_window, pending, 0);
     }

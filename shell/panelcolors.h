@@ -69,5 +69,6 @@ private:
     std::optional<QColor> m_text;  ///< nothing: the ink that suits the panel
     bool m_panelChanged = false;
     bool m_textChanged = false;
-    bool m_isKept = false; ///< the colours could not be written: they stay until the window closes
+    bool m_isSaving =
+        false; ///< colours that could not be written: what they bring about passes this window by
 };

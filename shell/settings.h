@@ -10,7 +10,10 @@ struct SettingsFile {
     const char *name;
     int recordLength;
 
-    bool operator==(const SettingsFile &) const = default;
+    bool operator==(const SettingsFile &other) const
+    {
+        return QLatin1StringView(name) == QLatin1StringView(other.name) && recordLength == other.recordLength;
+    }
 };
 
 /// A record that holds a counted text.

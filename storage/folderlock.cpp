@@ -48,5 +48,7 @@ QString FolderLock::holder() const
 
 bool FolderLock::takeOver()
 {
-    return QFile::remove(m_lock.fileName()) && take();
+    // It may have gone by itself meanwhile.
+    QFile::remove(m_lock.fileName());
+    return take();
 }

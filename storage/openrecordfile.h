@@ -5,7 +5,7 @@
 
 /// A random-access file that stays open over many reads and writes, for walks over thousands of records. The
 /// rules are those of `RecordFile`; every write goes to the system at once. It is opened, and made when
-/// missing, by the first use; a file that can only be read is read.
+/// missing, at once; a file that can only be read is read.
 class OpenRecordFile
 {
 public:
