@@ -93,14 +93,17 @@ QWidget *ADDBKDISPLAY2::makeGalleryPage()
     auto *head = new QHBoxLayout;
     head->setSpacing(8);
     head->addWidget(title, 1);
-    for (QWidget *part : std::initializer_list<QWidget *>{m_previous, m_pageNumber, m_next, m_total})
+    for (QWidget *part : std::initializer_list<QWidget *>{m_previous, m_pageNumber, m_next})
         head->addWidget(part);
     m_gallery = named(new PictureGallery(program().folder, page), u"pictures"_s);
     m_gallery->setAccessibleName(u"Pictures"_s);
     layout->addLayout(head);
     layout->addWidget(m_gallery, 1);
     layout->addWidget(makeLine(page));
-    layout->addWidget(makeButtonRow(page));
+    auto *foot = new QHBoxLayout;
+    foot->addWidget(m_total);
+    foot->addWidget(makeButtonRow(page), 1);
+    layout->addLayout(foot);
 
     connect(m_previous, &QPushButton::clicked, this, [this] { showPage(m_page - 1); });
     connect(m_next, &QPushButton::clicked, this, [this] { showPage(m_page + 1); });
