@@ -113,7 +113,6 @@ private:
     AddressGrid::Identity m_kept;
     int m_keptColumn = 0;
     int m_nameColumn = 0; ///< its width as the user chose it; 0 while it suits the window
-    bool m_splitterMoved = false;
     std::unique_ptr<Dialler> m_dialler;
     QPointer<ADDBKDISPLAY2> m_pictures;
 

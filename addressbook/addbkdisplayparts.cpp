@@ -297,7 +297,6 @@ void ADDBKDISPLAY::connectParts()
             [this](int done, int total) { activity().showProgress(done, total, true); });
     connect(m_copies, &PictureCopies::ready, this, &ADDBKDISPLAY::showPictureList);
     connect(&activity(), &ActivityBar::stopRequested, this, &ADDBKDISPLAY::stop);
-    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterMoved = true; });
 }
 
 void ADDBKDISPLAY::setTabOrders()
@@ -316,7 +315,7 @@ void ADDBKDISPLAY::placeSplitter()
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const int needed = m_choices->minimumSizeHint().width() + bar;
     m_splitter->widget(0)->setMinimumWidth(needed);
-    if (m_splitterMoved)
+    if (isPlaced(m_splitter))
         return;
     const int left = std::max(needed, width() < wideFrom ? narrowLeftPaneWidth : leftPaneWidth);
     m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});

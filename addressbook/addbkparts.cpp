@@ -83,7 +83,6 @@ ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeM
     setTabOrders();
     rememberSplitter(m_splitter);
     finishFrame();
-    m_splitterMoved = program.store.contains(u"Windows/ADDBKVIEW/leftPaneSplitter"_s);
     placeSplitter();
 
     loadNames();
@@ -233,7 +232,6 @@ void ADDBKVIEW::connectParts()
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ADDBKVIEW::selectionMoved);
     connect(m_searchBox, &QLineEdit::returnPressed, this, &ADDBKVIEW::searchNames);
-    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterMoved = true; });
     connect(m_form, &AddressForm::edited, this, &ADDBKVIEW::refreshModified);
     connect(m_form, &AddressForm::said, &activity(), &ActivityBar::say);
     connect(m_form, &AddressForm::dialRequested, this, &ADDBKVIEW::dial);
@@ -261,7 +259,7 @@ void ADDBKVIEW::setTabOrders()
 /// Until the user moves it, the left pane is as wide as suits the window.
 void ADDBKVIEW::placeSplitter()
 {
-    if (m_splitterMoved || !m_splitter)
+    if (!m_splitter || isPlaced(m_splitter))
         return;
     const int left = width() < wideFrom ? narrowLeftPaneWidth : leftPaneWidth;
     m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});

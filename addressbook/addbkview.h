@@ -137,7 +137,6 @@ private:
     QPersistentModelIndex m_shown;                       ///< line of the shown entry; none for a new one
     bool m_isFollowing = true;                           ///< a change of the selection shows its entry
     bool m_isAsking = false;                             ///< a question about unsaved changes is on its way
-    bool m_splitterMoved = false;
 
     NameListModel *m_names;
     NameListView *m_list = nullptr;

@@ -152,6 +152,8 @@ DayOfYear DayOfYear::of(QByteArrayView text, DateStyle style)
 int DayOfYear::monthTyped(QStringView text)
 {
     text = text.trimmed();
+    if (text.endsWith(u'.'))
+        text.chop(1); // "Sep."
     if (text.isEmpty() || text.size() > 9)
         return 0;
     const DateBytes typed(text);

@@ -99,7 +99,6 @@ Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
     connectWalks();
     rememberSplitter(m_splitter);
     finishFrame();
-    m_splitterMoved = program.store.contains(u"Windows/Zcalandar1/leftPaneSplitter"_s);
     const int placement = program.settings.number(SettingsKeys::plannerPlacement);
     m_placement->button(placement == int(UntimedPlacement::First) ? 1 : 0)->setChecked(true);
     loadDay(clock().today());
@@ -257,7 +256,6 @@ void Zcalandar1::connectParts()
             if (view->isVisible())
                 view->show(view->date(), m_options, clock().today());
     });
-    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_splitterMoved = true; });
     connect(m_placement, &QButtonGroup::idClicked, this, &Zcalandar1::setPlacement);
     connect(m_caption, &StepTitle::stepped, this, &Zcalandar1::stepDay);
     connect(m_caption, &StepTitle::todayRequested, this, &Zcalandar1::goToToday);
@@ -318,7 +316,7 @@ void Zcalandar1::placeSplitter()
         ->setText(width() < narrowBelow ? QString() : u"Appointment or activity"_s);
     const int pane = width() < narrowBelow ? narrowPaneWidth : leftPaneWidth;
     m_leftPane->setMinimumWidth(pane - 4);
-    if (m_splitterMoved)
+    if (isPlaced(m_splitter))
         return;
     const int scrollBar = height() < shortBelow ? scrollBarRoom : 0;
     const int left = (isWide && m_options.shownMonths() == 2 ? twoMonthsWidth : pane) + scrollBar;

@@ -83,7 +83,8 @@ void Zcalandar1::showOptions()
 void Zcalandar1::takeOptions()
 {
     const CalendarOptions options = m_optionsPanel->options();
-    m_splitterMoved = m_splitterMoved && options.months == m_options.months;
+    if (options.months != m_options.months)
+        forgetPlace(m_splitter);
     setOptions(options);
     showDayView();
     if (!options.write(program().settings))

@@ -147,7 +147,6 @@ private:
     };
     Import m_import;
     SlicedWork *m_importWork;
-    bool m_splitterMoved = false;
 
     QSplitter *m_splitter = nullptr;
     QWidget *m_leftPane = nullptr;

@@ -145,6 +145,7 @@ QWidget *FunctionWindow::makePanel(const QString &name)
 void FunctionWindow::rememberSplitter(QSplitter *splitter)
 {
     m_splitters.append(splitter);
+    connect(splitter, &QSplitter::splitterMoved, this, [this, splitter] { m_placed.insert(splitter); });
     splitter->setHandleWidth(windowMargin);
     splitter->setChildrenCollapsible(false);
 }
@@ -198,8 +199,11 @@ void FunctionWindow::finishFrame()
     showTopToolbar();
     m_colors->load();
     restoreGeometryOnScreen();
-    for (QSplitter *splitter : std::as_const(m_splitters))
-        splitter->restoreState(m_program.store.value(storeKey(splitter->objectName())).toByteArray());
+    for (QSplitter *splitter : std::as_const(m_splitters)) {
+        const QByteArray place = m_program.store.value(storeKey(splitter->objectName())).toByteArray();
+        if (splitter->restoreState(place))
+            m_placed.insert(splitter);
+    }
     m_activity->startClock();
 }
 
@@ -210,8 +214,12 @@ void FunctionWindow::closeEvent(QCloseEvent *event)
         return;
     }
     m_program.store.setValue(storeKey(u"geometry"_s), saveGeometry());
-    for (const QSplitter *splitter : std::as_const(m_splitters))
-        m_program.store.setValue(storeKey(splitter->objectName()), splitter->saveState());
+    for (const QSplitter *splitter : std::as_const(m_splitters)) {
+        if (isPlaced(splitter))
+            m_program.store.setValue(storeKey(splitter->objectName()), splitter->saveState());
+        else
+            m_program.store.remove(storeKey(splitter->objectName()));
+    }
     event->accept();
 }
 

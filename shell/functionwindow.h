@@ -10,6 +10,7 @@
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QPointer>
+#include <QSet>
 
 class ActivityBar;
 class FlowToolBar;
@@ -74,6 +75,9 @@ protected:
     QWidget *makePanel(const QString &name);
     /// The splitter's place (its object name tells it from others) is remembered.
     void rememberSplitter(QSplitter *splitter);
+    /// Whether the user has given `splitter` its place, now or in an earlier run; until then the window does.
+    bool isPlaced(const QSplitter *splitter) const { return m_placed.contains(splitter); }
+    void forgetPlace(const QSplitter *splitter) { m_placed.remove(splitter); }
     /// The one toolbar; "Main Menu" stands first in it.
     FlowToolBar &toolbar() const { return *m_toolbar; }
     /// Adds `action` to the toolbar with the icon of this name and the word `text` beside it.
@@ -126,6 +130,7 @@ private:
     QList<QAction *> m_tools;
     QStringList m_toolNames; ///< of `m_tools` and the separators between them
     QList<QSplitter *> m_splitters;
+    QSet<const QSplitter *> m_placed;
     QPointer<QWidget> m_focusBeforePreview;
     bool m_busy = false;
     bool m_leaveAgreed = false;

@@ -236,6 +236,7 @@ void TestAddressViewer::readsATypedMonth_data()
     QTest::addColumn<int>("month");
     QTest::newRow("three letters") << u"Apr"_s << 4;
     QTest::newRow("whole, any case") << u" aPRIL "_s << 4;
+    QTest::newRow("with a full stop") << u"Sep."_s << 9;
     QTest::newRow("a number") << u"4"_s << 4;
     QTest::newRow("with a zero") << u"04"_s << 4;
     QTest::newRow("twelve") << u"12"_s << 12;

@@ -228,8 +228,10 @@ void TestFunctionWindow::remembersItsPlace()
     const QPointer<SampleWindow> window = open();
     window->setMinimumSize(200, 200);
     window->resize(640, 480);
-    control<QSplitter>(*window, "splitter")->setSizes({200, 400});
-    const QList<int> sizes = control<QSplitter>(*window, "splitter")->sizes();
+    auto *splitter = control<QSplitter>(*window, "splitter");
+    splitter->setSizes({200, 400});
+    const QList<int> sizes = splitter->sizes();
+    emit splitter->splitterMoved(sizes[0], 1); // the place is the user's, and not the window's own
     window->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(m_program->store.contains(u"Windows/SAMPLE/geometry"_s));
