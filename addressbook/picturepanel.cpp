@@ -48,6 +48,14 @@ QListWidget *makeList(const QString &name, QWidget *parent)
     return list;
 }
 
+/// `list` at a height of whole rows; its label leads to it.
+QWidget *wholeRows(QListWidget *list)
+{
+    auto *rows = new WholeRows(list, nullptr, list->parentWidget());
+    rows->setFocusProxy(list);
+    return rows;
+}
+
 bool isReadableFolder(const QString &path)
 {
     const QFileInfo folder(path);
@@ -94,9 +102,9 @@ QWidget *PicturePanel::makeLists()
     auto *places = new QVBoxLayout;
     places->setSpacing(12);
     places->addLayout(labelled(u"Drives:"_s, m_driveList, this));
-    places->addLayout(labelled(u"Folders:"_s, m_folderList, this), 1);
+    places->addLayout(labelled(u"Folders:"_s, wholeRows(m_folderList), this), 1);
     layout->addLayout(places, 1);
-    layout->addLayout(labelled(u"File:"_s, m_fileList, this), 1);
+    layout->addLayout(labelled(u"File:"_s, wholeRows(m_fileList), this), 1);
     connect(m_driveList, &QComboBox::activated, this, &PicturePanel::chooseDrive);
     connect(m_folderList, &QListWidget::itemActivated, this,
             [this](QListWidgetItem *item) { openFolder(m_folderList->row(item)); });
