@@ -100,14 +100,8 @@ ADDBKDISPLAY::~ADDBKDISPLAY()
 QWidget *ADDBKDISPLAY::makeLeftPane()
 {
     m_choices = named(new ViewerChoices, u"choices"_s);
-    auto *scroll = named(new QScrollArea(this), u"choicesScroll"_s);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
+    QScrollArea *scroll = makeScrolling(m_choices, u"choicesScroll"_s, this);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidget(m_choices);
-    m_choices->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
     return scroll;
 }
 

@@ -155,13 +155,7 @@ QWidget *ADDBKVIEW::makeEntryPage()
     layout->addLayout(titleLine);
 
     m_form = new AddressForm(clock(), program().state.dateStyle, this);
-    auto *scroll = named(new QScrollArea(page), u"formScroll"_s);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(m_form);
-    m_form->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
+    QScrollArea *scroll = makeScrolling(m_form, u"formScroll"_s, page);
     connect(scroll->verticalScrollBar(), &QScrollBar::valueChanged, m_form->datePicker(),
             &DatePicker::reposition);
     connect(m_form, &AddressForm::boxFocused, scroll,

@@ -113,17 +113,11 @@ LabelPanel::~LabelPanel()
 
 QWidget *LabelPanel::makeChoices()
 {
-    auto *scroll = named(new QScrollArea(this), u"labelChoices"_s);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
+    auto *choices = new QWidget;
+    QScrollArea *scroll = makeScrolling(choices, u"labelChoices"_s, this);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setMinimumWidth(leastChoicesWidth);
     scroll->setMaximumWidth(mostChoicesWidth);
-    auto *choices = new QWidget;
-    scroll->setWidget(choices);
-    choices->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
     auto *column = new QVBoxLayout(choices);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,14 +36,19 @@ ListOptionsPanel::ListOptionsPanel(QWidget *parent)
     column->addWidget(makeTitle(u"Print Options"_s, this));
     m_content->setFont(TypeScale::body());
     m_content->setWordWrap(true);
-    column->addWidget(m_content);
-    column->addSpacing(8);
+    auto *content = new QWidget;
+    auto *options = new QVBoxLayout(content);
+    options->setContentsMargins(0, 0, 0, 0);
+    options->setSpacing(10);
+    options->addWidget(m_content);
+    options->addSpacing(8);
     for (QWidget *option : std::initializer_list<QWidget *>{m_telephones, m_asOf, m_gridLines})
-        column->addWidget(option);
-    column->addSpacing(8);
-    column->addWidget(m_oneColumn);
-    column->addWidget(m_twoColumns);
-    column->addStretch(1);
+        options->addWidget(option);
+    options->addSpacing(8);
+    options->addWidget(m_oneColumn);
+    options->addWidget(m_twoColumns);
+    options->addStretch(1);
+    column->addWidget(makeScrolling(content, u"listOptionsScroll"_s, this), 1);
     column->addWidget(makeLine(this));
     auto *foot = new QHBoxLayout;
     foot->addStretch(1);

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QSpinBox>
 
 #include <algorithm>
@@ -28,10 +29,15 @@ PrintOptions::PrintOptions(QWidget *parent)
     layout->setSpacing(12);
     layout->addWidget(makeTitle(u"Print Options"_s, this));
     layout->addSpacing(4);
-    layout->addWidget(makeHeading(u"Several entries on each page, with their pictures"_s, this));
-    layout->addWidget(makeRange());
-    layout->addWidget(makeChoices());
-    layout->addStretch(1);
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    column->addWidget(makeHeading(u"Several entries on each page, with their pictures"_s, content));
+    column->addWidget(makeRange());
+    column->addWidget(makeChoices());
+    column->addStretch(1);
+    layout->addWidget(makeScrolling(content, u"printOptionsScroll"_s, this), 1);
     layout->addWidget(makeLine(this));
     auto *foot = new QHBoxLayout;
     QPushButton *leave = makeButton(u"printOptionsExit"_s, u"Close"_s, this);

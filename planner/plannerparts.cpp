@@ -67,19 +67,6 @@ QSet<QDate> daysWithEntries(const PlannerFiles &files, int year)
     return days;
 }
 
-/// `content` in a view that scrolls where it does not fit.
-QScrollArea *scrolled(QWidget *content, const QString &name, QWidget *parent)
-{
-    auto *scroll = named(new QScrollArea(parent), name);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content);
-    content->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
-    return scroll;
-}
-
 } // namespace
 
 Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
@@ -144,7 +131,7 @@ QWidget *Zcalandar1::makeLeftPane()
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(12);
     rows->addWidget(m_searchBox);
-    QScrollArea *scroll = scrolled(content, u"leftPaneScroll"_s, m_leftPane);
+    QScrollArea *scroll = makeScrolling(content, u"leftPaneScroll"_s, m_leftPane);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rows->addWidget(scroll, 1);
     return m_leftPane;
@@ -180,7 +167,7 @@ QWidget *Zcalandar1::makeDayView()
     m_form = new DayForm;
     rows->addWidget(m_caption);
     rows->addWidget(makeRowHeads());
-    rows->addWidget(scrolled(m_form, u"dayScroll"_s, view), 1);
+    rows->addWidget(makeScrolling(m_form, u"dayScroll"_s, view), 1);
     rows->addWidget(makeLine(view));
     rows->addSpacing(4);
     rows->addWidget(makeDayFoot());

@@ -52,13 +52,7 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     m_columns->setSpacing(32);
     m_columns->addWidget(makeRangeFrame());
     m_columns->addWidget(m_form, 1);
-    auto *scroll = named(new QScrollArea(this), u"recurrenceScroll"_s);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content);
-    content->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
+    QScrollArea *scroll = makeScrolling(content, u"recurrenceScroll"_s, this);
 
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(24, 16, 24, 18);

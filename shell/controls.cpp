@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QScrollArea>
 #include <QStyle>
 #include <QToolTip>
 #include <QValidator>
@@ -274,6 +275,18 @@ QWidget *makeLine(QWidget *parent)
     auto *line = new Line(parent);
     line->setFixedHeight(1);
     return line;
+}
+
+QScrollArea *makeScrolling(QWidget *content, const QString &name, QWidget *parent)
+{
+    auto *scroll = named(new QScrollArea(parent), name);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    content->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
+    return scroll;
 }
 
 void setUnavailable(QWidget *control, const QString &reason)

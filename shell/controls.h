@@ -9,6 +9,7 @@
 #include <array>
 
 class QAction;
+class QScrollArea;
 
 /// Gives `object` its name and returns it: each name stands once, where the control is made.
 template <typename T>
@@ -113,6 +114,10 @@ QLabel *makeChip(const QString &name, const QString &text, QWidget *parent);
 
 /// A thin horizontal line.
 QWidget *makeLine(QWidget *parent);
+
+/// `content` in a view that scrolls where it does not fit; the colour of the panel shows through, and the
+/// focus goes to what stands in it.
+QScrollArea *makeScrolling(QWidget *content, const QString &name, QWidget *parent);
 
 /// What a disabled control says of itself: sets tool tip and status tip to `reason` and disables it; an empty
 /// reason enables it and gives it its own tool tip back.
