@@ -53,24 +53,56 @@ for number in 2 4 8; do
 done
 takes panel-color "key alt+o" "key o"
 does "key Escape"
-takes address-book-entry "key alt+n" "type Novak"
-takes address-book-date "key Tab" "type Jana" "key Tab"
+does "key alt+n" "type Novak" "key Tab" "type Jana"
+takes address-book-date "key Tab"
+takes address-book-entry "key Escape" "type 24 Nov 1978" "key alt+l" "sleep 1" "key Down" "key Down" "key alt+e"
 takes manual "key F1" "sleep 1"
 closes
 
-opens 1024 768
-takes main-menu-1024
-does "key Return" "sleep 1"
-takes address-book-view-1024
-takes address-book-entry-1024 "key alt+n" "type Novak"
-closes
+# The same on a small screen and on a fine one: SUFFIX WIDTH HEIGHT, pixels of the screen to one of the program, columns
+# of cards, then variables.
+small_set() {
+    local suffix=$1 width=$2 height=$3 scale=$4 columns=$5 control step
+    shift 5
+    # The card of Password Control is the eleventh.
+    control=()
+    for ((step = 0; step < 10 / columns; ++step)); do control+=("key Down"); done
+    for ((step = 0; step < 10 % columns; ++step)); do control+=("key Right"); done
+    fresh WP1
+    starts "$width" "$height" "$@"
+    sleep 1
+    takes "splash-$suffix"
+    closes
+    opens "$width" "$height" "$@"
+    takes "main-menu-$suffix"
+    takes "background-selector-$suffix" "key alt+o" "key b"
+    does "key Escape"
+    takes "main-menu-side-toolbars-$suffix" "mousemove $((300 * scale)) $((height - 15 * scale)) click 1" \
+        "mousemove $((width / 2)) $((height - 8))"
+    takes "customize-toolbar-$suffix" "mousemove $((54 * scale)) $((325 * scale)) click 1" "sleep 0.5"
+    does "key Escape"
+    takes "password-control-$suffix" "mousemove $((width / 2)) $((height - 8))" "${control[@]}" "key Return" "sleep 1" \
+        "key alt+t" "type Klavier" "key Tab" "type Klavier" "key Return" "sleep 2"
+    does "key space" "key alt+s" "sleep 1" # the first mark has the focus
+    closes
+    opens "$width" "$height" "$@"
+    takes "password-prompt-$suffix" "key Return" "type Violine"
+    closes
+    fresh WP1
+    opens "$width" "$height" "$@"
+    does "key Return" "sleep 1"
+    takes "address-book-view-$suffix"
+    takes "picture-panel-$suffix" "key alt+l" "sleep 1" "key Down"
+    takes "print-options-$suffix" "key Escape" "key alt+p"
+    does "key Escape"
+    takes "page-preview-$suffix" "key alt+o" "key p"
+    does "key Escape"
+    takes "address-book-entry-$suffix" "key alt+n" "type Novak" "key alt+l" "sleep 1" "key Down" "key Down" "key alt+e"
+    closes
+}
 
-opens 1920 1080 QT_SCALE_FACTOR=2
-takes main-menu-200
-does "key Return" "sleep 1"
-takes address-book-view-200
-takes page-preview-200 "key alt+o" "key p"
-closes
+small_set 1024 1024 768 1 4
+small_set 200 1920 1080 2 3 QT_SCALE_FACTOR=2
 
 opens 1280 800 $dark
 takes main-menu-dark
