@@ -43,7 +43,7 @@ ViewerChoices::ViewerChoices(QWidget *parent)
 void ViewerChoices::addSearch(QVBoxLayout &column)
 {
     m_searchBox = named(new QLineEdit(this), u"searchText"_s);
-    m_searchBox->setPlaceholderText(u"Search the grid"_s);
+    m_searchBox->setPlaceholderText(u"Search text"_s);
     m_searchBox->setAccessibleName(u"Search text"_s);
     m_searchBox->setToolTip(u"The grid shows what fits while you type"_s);
     m_searchBox->setClearButtonEnabled(true);
