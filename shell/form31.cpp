@@ -50,16 +50,10 @@ WindowTraits passwordControl()
 }
 
 /// `content` scrolls inside its panel where the window is too small for it.
-QScrollArea *makeScrolled(QWidget *content, QWidget *parent)
+QScrollArea *makeScrolled(QWidget *content, const QString &name, QWidget *parent)
 {
-    auto *area = new QScrollArea(parent);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
+    QScrollArea *area = makeScrolling(content, name, parent);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setWidget(content);
-    // The panel's colour shows through.
-    content->setAutoFillBackground(false);
-    area->viewport()->setAutoFillBackground(false);
     area->setMinimumWidth(content->minimumSizeHint().width() + scrollBarWidth);
     return area;
 }
@@ -122,7 +116,7 @@ QWidget *Form31::makePasswordPanel()
     auto *inner = new QVBoxLayout(padded);
     inner->setContentsMargins(4, 0, scrollBarWidth, 0);
     inner->addWidget(m_pane);
-    rows->addWidget(makeScrolled(padded, panel));
+    rows->addWidget(makeScrolled(padded, u"passwordScroll"_s, panel));
     panel->setFixedWidth(passwordPanelWidth);
     return panel;
 }
@@ -134,7 +128,7 @@ QWidget *Form31::makeAreasPanel()
     rows->setContentsMargins(padding, 20, padding - scrollBarWidth, 20);
     rows->setSpacing(12);
     rows->addWidget(makeTitle(u"Protected areas"_s, panel));
-    rows->addWidget(makeScrolled(makeMarks(), panel), 1);
+    rows->addWidget(makeScrolled(makeMarks(), u"marksScroll"_s, panel), 1);
     rows->addWidget(makeFoot());
     return panel;
 }

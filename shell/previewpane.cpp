@@ -140,14 +140,8 @@ void PreviewPane::fillButtonPanel()
     m_buttonPanel->setFixedWidth(columnWidth);
     // In a low window the column scrolls: it must not keep the window from shrinking.
     auto *content = new QWidget;
-    auto *scroller = new QScrollArea(m_buttonPanel);
-    scroller->setWidget(content);
-    scroller->setWidgetResizable(true);
-    scroller->setFrameShape(QFrame::NoFrame);
-    scroller->setFocusPolicy(Qt::NoFocus);
+    QScrollArea *scroller = makeScrolling(content, u"buttonScroll"_s, m_buttonPanel);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    for (QWidget *background : {scroller->viewport(), content})
-        background->setAutoFillBackground(false);
     auto *frame = new QVBoxLayout(m_buttonPanel);
     frame->setContentsMargins(1, 1, 1, 1);
     frame->addWidget(scroller);
