@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/gate.h"
 #include "shell/helpviewer.h"
 #include "shell/program.h"
 #include "shell/qtdialogs.h"

@@ -1,10 +1,10 @@
 #include "planner/comingup.h"
 
 #include "planner/quietlines.h"
+#include "shell/area.h"
 #include "shell/controls.h"
 #include "shell/dates.h"
 #include "shell/functionfaces.h"
-#include "shell/gate.h"
 #include "shell/icons.h"
 #include "shell/program.h"
 #include "shell/theme.h"

@@ -1,13 +1,20 @@
 #pragma once
 
-#include "shell/hinfo1.h"
+/// The mouse pointer of the whole program.
+namespace Hourglass {
+
+/// Switch it. "On" twice is still one hourglass; "off" always ends it.
+void on();
+void off();
+
+} // namespace Hourglass
 
 /// The hourglass for as long as it lives.
 class BusyCursor
 {
 public:
-    BusyCursor() { HINFO1::hourglassOn(); }
-    ~BusyCursor() { HINFO1::hourglassOff(); }
+    BusyCursor() { Hourglass::on(); }
+    ~BusyCursor() { Hourglass::off(); }
     BusyCursor(const BusyCursor &) = delete;
     BusyCursor &operator=(const BusyCursor &) = delete;
 };

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "shell/message.h"
+#include "shell/pagefont.h"
 
 #include <QColor>
-#include <QFont>
 #include <QString>
 
 #include <optional>
@@ -11,14 +11,6 @@
 class QDialog;
 class QPrinter;
 class QWidget;
-
-/// A font as the font chooser gives it, with its colour.
-struct PageFont {
-    QFont font;
-    QColor color = Qt::black;
-
-    bool operator==(const PageFont &) const = default;
-};
 
 /// Every modal question of the program goes through here, so that a test can answer it and see what was
 /// asked. The optional answers are empty when the user cancelled.

@@ -1,8 +1,8 @@
 #include "shell/form31.h"
 
 #include "shell/activitybar.h"
+#include "shell/area.h"
 #include "shell/controls.h"
-#include "shell/gate.h"
 #include "shell/guardedareas.h"
 #include "shell/helpcontexts.h"
 #include "shell/passwordmessages.h"

@@ -9,21 +9,6 @@
 class QWidget;
 struct Program;
 
-/// The 21 areas that a password can guard, by their index in `ProtectedAreas`. Areas of other editions are
-/// kept.
-namespace Area {
-inline constexpr int AddressBook = 0;
-inline constexpr int AddressViewer = 1;
-inline constexpr int Planner = 2;
-inline constexpr int Budget = 9;
-inline constexpr int PasswordKeeper = 11;
-inline constexpr int CarLog = 13;
-inline constexpr int Journal = 14;
-inline constexpr int AddressBookButton = 15;
-inline constexpr int AddressViewerButton = 16;
-inline constexpr int None = -1;
-} // namespace Area
-
 /// Asks for the password in front of a guarded function. The prompt itself is handed in, so that the rule can
 /// be tested without a window.
 class AccessGate

@@ -1,6 +1,6 @@
 #include "shell/guardedareas.h"
 
-#include "shell/gate.h"
+#include "shell/area.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,13 +1,14 @@
 #include "shell/hinfo1.h"
 
+#include "shell/busycursor.h"
 #include "shell/colortext.h"
 #include "shell/program.h"
 #include "shell/settingskeys.h"
 #include "shell/shellmessages.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QTimer>
 
 #include <algorithm>
@@ -38,14 +39,12 @@ int storedTwips(int pixels, int minimum)
 
 void HINFO1::hourglassOn()
 {
-    if (!QGuiApplication::overrideCursor())
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    Hourglass::on();
 }
 
 void HINFO1::hourglassOff()
 {
-    while (QGuiApplication::overrideCursor())
-        QGuiApplication::restoreOverrideCursor();
+    Hourglass::off();
 }
 
 void HINFO1::showColorConflict(Program &program, QWidget *parent)

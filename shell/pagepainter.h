@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/dialogs.h"
 #include "shell/page.h"
+#include "shell/pagefont.h"
 
 #include <QImage>
 

@@ -1,6 +1,6 @@
 #include "shell/pagetype.h"
 
-#include "shell/dialogs.h"
+#include "shell/pagefont.h"
 
 #include <QFontInfo>
 #include <QPainter>

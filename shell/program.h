@@ -3,12 +3,12 @@
 #include "shell/clock.h"
 #include "shell/dialogs.h"
 #include "shell/functions.h"
-#include "shell/gate.h"
 #include "shell/programsignals.h"
 #include "shell/programstate.h"
 #include "shell/settings.h"
 #include "storage/datafolder.h"
 
+class AccessGate;
 class QSettings;
 
 /// What every window is given: the household's folder and settings, the program-wide state, the time, the

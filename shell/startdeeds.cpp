@@ -10,6 +10,7 @@
 #include "shell/controls.h"
 #include "shell/flowtoolbar.h"
 #include "shell/functionfaces.h"
+#include "shell/gate.h"
 #include "shell/helpcontexts.h"
 #include "shell/hinfo1.h"
 #include "shell/listfile.h"

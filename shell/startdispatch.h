@@ -1,7 +1,7 @@
 #pragma once
 
+#include "shell/area.h"
 #include "shell/functions.h"
-#include "shell/gate.h"
 #include "shell/message.h"
 
 #include <QString>

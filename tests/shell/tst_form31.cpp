@@ -1,6 +1,6 @@
 #include "shell/activitybar.h"
+#include "shell/area.h"
 #include "shell/form31.h"
-#include "shell/gate.h"
 #include "shell/passwordmessages.h"
 #include "shell/passwordpage.h"
 #include "tests/support/testprogram.h"

@@ -1,5 +1,5 @@
+#include "shell/area.h"
 #include "shell/form32.h"
-#include "shell/gate.h"
 #include "shell/passwordmessages.h"
 #include "tests/support/testprogram.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scripteddialogs.h"
+#include "shell/gate.h"
 #include "shell/program.h"
 
 #include <QSettings>

@@ -1,0 +1,15 @@
+#include "shell/busycursor.h"
+
+#include <QGuiApplication>
+
+void Hourglass::on()
+{
+    if (!QGuiApplication::overrideCursor())
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+void Hourglass::off()
+{
+    while (QGuiApplication::overrideCursor())
+        QGuiApplication::restoreOverrideCursor();
+}
