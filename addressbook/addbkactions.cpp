@@ -13,7 +13,7 @@
 #include "shell/activitybar.h"
 #include "shell/busycursor.h"
 #include "shell/controls.h"
-#include "shell/helpcontexts.h"
+#include "shell/core/helpcontexts.h"
 
 #include <QApplication>
 #include <QClipboard>

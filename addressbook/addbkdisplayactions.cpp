@@ -15,8 +15,8 @@
 #include "shell/activitybar.h"
 #include "shell/busycursor.h"
 #include "shell/controls.h"
+#include "shell/core/helpcontexts.h"
 #include "shell/gate.h"
-#include "shell/helpcontexts.h"
 #include "storage/saving.h"
 
 #include <QApplication>

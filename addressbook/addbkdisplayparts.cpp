@@ -14,8 +14,8 @@
 #include "addressbook/viewermessages.h"
 #include "shell/activitybar.h"
 #include "shell/controls.h"
-#include "shell/helpcontexts.h"
-#include "shell/settingskeys.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/core/settingskeys.h"
 #include "shell/theme.h"
 
 #include <QDesktopServices>

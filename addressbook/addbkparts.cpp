@@ -14,9 +14,9 @@
 #include "addressbook/serialmodem.h"
 #include "shell/activitybar.h"
 #include "shell/controls.h"
-#include "shell/helpcontexts.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/core/settingskeys.h"
 #include "shell/listrowdelegate.h"
-#include "shell/settingskeys.h"
 #include "shell/theme.h"
 
 #include <QAction>

@@ -4,9 +4,9 @@
 #include "addressbook/datepicker.h"
 #include "addressbook/pictureframe.h"
 #include "addressbook/quietlines.h"
-#include "shell/clock.h"
 #include "shell/controls.h"
-#include "shell/dates.h"
+#include "shell/core/clock.h"
+#include "shell/core/dates.h"
 #include "shell/theme.h"
 
 #include <QEvent>

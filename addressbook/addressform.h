@@ -1,7 +1,7 @@
 #pragma once
 
 #include "addressbook/addressentry.h"
-#include "shell/programstate.h"
+#include "shell/core/programstate.h"
 
 #include <QWidget>
 

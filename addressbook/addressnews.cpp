@@ -1,7 +1,7 @@
 #include "addressbook/addressnews.h"
 
 #include "addressbook/addressbook.h"
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 
 #include <QLocale>
 

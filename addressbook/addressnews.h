@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/liveline.h"
-#include "shell/programstate.h"
+#include "shell/core/liveline.h"
+#include "shell/core/programstate.h"
 
 #include <QDate>
 #include <QList>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "addressbook/addressentry.h"
-#include "shell/page.h"
+#include "shell/core/page.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "addressbook/datefacts.h"
 
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 
 #include <QLocale>
 

@@ -1,7 +1,7 @@
 #include "addressbook/datepicker.h"
 
-#include "shell/clock.h"
 #include "shell/controls.h"
+#include "shell/core/clock.h"
 #include "shell/monthview.h"
 #include "shell/theme.h"
 

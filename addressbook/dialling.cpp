@@ -1,8 +1,8 @@
 #include "addressbook/dialling.h"
 
 #include "addressbook/messages.h"
-#include "shell/settings.h"
-#include "shell/settingskeys.h"
+#include "shell/core/settings.h"
+#include "shell/core/settingskeys.h"
 #include "storage/ansitext.h"
 
 #include <QScopeGuard>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/message.h"
+#include "shell/core/message.h"
 
 /// What the address book asks and says. The wording is fixed, odd spellings included.
 namespace AddressMessages {

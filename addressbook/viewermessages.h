@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/message.h"
+#include "shell/core/message.h"
 
 /// What the viewer and the pictures screen ask, say and print. The wording is fixed, odd spellings included.
 namespace ViewerMessages {

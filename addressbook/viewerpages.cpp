@@ -1,7 +1,7 @@
 #include "addressbook/viewerpages.h"
 
 #include "addressbook/viewermessages.h"
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 #include "storage/ansitext.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "addressbook/addressviewer.h"
-#include "shell/page.h"
+#include "shell/core/page.h"
 
 #include <QSize>
 

@@ -1,9 +1,9 @@
 #include "planner/comingup.h"
 
 #include "planner/quietlines.h"
-#include "shell/area.h"
 #include "shell/controls.h"
-#include "shell/dates.h"
+#include "shell/core/area.h"
+#include "shell/core/dates.h"
 #include "shell/functionfaces.h"
 #include "shell/icons.h"
 #include "shell/program.h"

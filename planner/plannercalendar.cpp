@@ -1,8 +1,8 @@
 #include "planner/plannercalendar.h"
 
 #include "planner/quietlines.h"
-#include "shell/clock.h"
 #include "shell/controls.h"
+#include "shell/core/clock.h"
 #include "shell/monthview.h"
 #include "shell/theme.h"
 

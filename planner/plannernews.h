@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/liveline.h"
+#include "shell/core/liveline.h"
 #include "storage/datafolder.h"
 
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #include "planner/plannerpages.h"
 
 #include "planner/daylines.h"
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 
 #include <QLocale>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "planner/plannerday.h"
-#include "shell/page.h"
+#include "shell/core/page.h"
 
 #include <QDate>
 

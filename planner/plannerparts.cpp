@@ -15,8 +15,8 @@
 #include "planner/weekview.h"
 #include "shell/activitybar.h"
 #include "shell/controls.h"
-#include "shell/helpcontexts.h"
-#include "shell/settingskeys.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/core/settingskeys.h"
 #include "shell/theme.h"
 
 #include <QAction>

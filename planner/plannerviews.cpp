@@ -16,7 +16,7 @@
 #include "planner/weekview.h"
 #include "shell/activitybar.h"
 #include "shell/busycursor.h"
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 #include "shell/flowtoolbar.h"
 
 #include <QAction>

@@ -2,7 +2,7 @@
 
 #include "planner/quietlines.h"
 #include "shell/controls.h"
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>

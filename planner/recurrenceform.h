@@ -1,7 +1,7 @@
 #pragma once
 
 #include "planner/recurrence.h"
-#include "shell/programstate.h"
+#include "shell/core/programstate.h"
 
 #include <QWidget>
 

@@ -6,7 +6,7 @@
 #include "planner/recurrenceform.h"
 #include "planner/slicedwork.h"
 #include "shell/controls.h"
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 #include "shell/monthview.h"
 #include "shell/program.h"
 

@@ -3,7 +3,7 @@
 #include "planner/quietlines.h"
 #include "planner/viewfoot.h"
 #include "shell/controls.h"
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 #include "shell/listrowdelegate.h"
 #include "shell/theme.h"
 

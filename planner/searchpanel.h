@@ -1,7 +1,7 @@
 #pragma once
 
 #include "planner/plannersearch.h"
-#include "shell/programstate.h"
+#include "shell/core/programstate.h"
 
 #include <QAbstractTableModel>
 #include <QWidget>

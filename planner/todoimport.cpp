@@ -1,6 +1,6 @@
 #include "planner/todoimport.h"
 
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 #include "storage/valuefile.h"
 
 using namespace Qt::Literals::StringLiterals;

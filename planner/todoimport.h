@@ -2,7 +2,7 @@
 
 #include "planner/plannerfiles.h"
 #include "planner/recurrencerun.h"
-#include "shell/programstate.h"
+#include "shell/core/programstate.h"
 
 #include <QDate>
 #include <QString>

@@ -3,7 +3,7 @@
 #include "planner/calendaroptions.h"
 #include "planner/daysview.h"
 #include "planner/plannerfiles.h"
-#include "shell/programstate.h"
+#include "shell/core/programstate.h"
 
 class DaysModel;
 class QListView;

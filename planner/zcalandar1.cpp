@@ -10,9 +10,9 @@
 #include "planner/weekview.h"
 #include "shell/activitybar.h"
 #include "shell/controls.h"
-#include "shell/dates.h"
-#include "shell/helpcontexts.h"
-#include "shell/settingskeys.h"
+#include "shell/core/dates.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/core/settingskeys.h"
 
 #include <QButtonGroup>
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 #include "shell/activitybar.h"
 
 #include "shell/controls.h"
-#include "shell/dates.h"
-#include "shell/shellmessages.h"
+#include "shell/core/dates.h"
+#include "shell/core/shellmessages.h"
 #include "shell/theme.h"
 
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/clock.h"
-#include "shell/programstate.h"
+#include "shell/core/clock.h"
+#include "shell/core/programstate.h"
 
 #include <QStatusBar>
 

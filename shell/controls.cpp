@@ -1,6 +1,6 @@
 #include "shell/controls.h"
 
-#include "shell/shellmessages.h"
+#include "shell/core/shellmessages.h"
 #include "shell/theme.h"
 #include "storage/ansitext.h"
 

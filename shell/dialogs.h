@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/message.h"
+#include "shell/core/message.h"
 #include "shell/pagefont.h"
 
 #include <QColor>

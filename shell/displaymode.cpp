@@ -1,7 +1,7 @@
 #include "shell/displaymode.h"
 
+#include "shell/core/settingskeys.h"
 #include "shell/hinfo1.h"
-#include "shell/settingskeys.h"
 
 #include <QAction>
 #include <QGuiApplication>

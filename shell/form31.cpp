@@ -1,10 +1,10 @@
 #include "shell/form31.h"
 
 #include "shell/activitybar.h"
-#include "shell/area.h"
 #include "shell/controls.h"
+#include "shell/core/area.h"
+#include "shell/core/helpcontexts.h"
 #include "shell/guardedareas.h"
-#include "shell/helpcontexts.h"
 #include "shell/passwordmessages.h"
 #include "shell/passwordpage.h"
 #include "shell/passwordpane.h"

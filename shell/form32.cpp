@@ -1,8 +1,8 @@
 #include "shell/form32.h"
 
-#include "shell/area.h"
 #include "shell/busycursor.h"
 #include "shell/controls.h"
+#include "shell/core/area.h"
 #include "shell/guardedareas.h"
 #include "shell/passwordmessages.h"
 #include "shell/program.h"

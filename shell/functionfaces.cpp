@@ -1,6 +1,6 @@
 #include "shell/functionfaces.h"
 
-#include "shell/area.h"
+#include "shell/core/area.h"
 
 #include <algorithm>
 #include <array>

@@ -2,9 +2,9 @@
 
 #include "shell/activitybar.h"
 #include "shell/controls.h"
+#include "shell/core/shellmessages.h"
 #include "shell/flowtoolbar.h"
 #include "shell/previewpane.h"
-#include "shell/shellmessages.h"
 #include "shell/theme.h"
 #include "shell/toolbars.h"
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "shell/message.h"
-#include "shell/page.h"
+#include "shell/core/message.h"
+#include "shell/core/page.h"
+#include "shell/core/settingskeys.h"
 #include "shell/panelcolors.h"
 #include "shell/program.h"
-#include "shell/settingskeys.h"
 
 #include <QAction>
 #include <QKeySequence>

@@ -1,6 +1,6 @@
 #include "shell/gate.h"
 
-#include "shell/area.h"
+#include "shell/core/area.h"
 #include "shell/passwordfile.h"
 #include "shell/program.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/programstate.h"
+#include "shell/core/programstate.h"
 
 #include <QString>
 

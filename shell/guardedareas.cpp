@@ -1,6 +1,6 @@
 #include "shell/guardedareas.h"
 
-#include "shell/area.h"
+#include "shell/core/area.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -2,7 +2,7 @@
 
 #include "shell/activitybar.h"
 #include "shell/controls.h"
-#include "shell/helpcontexts.h"
+#include "shell/core/helpcontexts.h"
 #include "shell/helpentry.h"
 #include "shell/manualbrowser.h"
 #include "shell/manualprint.h"

@@ -2,9 +2,9 @@
 
 #include "shell/busycursor.h"
 #include "shell/colortext.h"
+#include "shell/core/settingskeys.h"
+#include "shell/core/shellmessages.h"
 #include "shell/program.h"
-#include "shell/settingskeys.h"
-#include "shell/shellmessages.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "shell/manual.h"
 
-#include "shell/helpcontexts.h"
+#include "shell/core/helpcontexts.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "shell/menunews.h"
 
-#include "shell/area.h"
+#include "shell/core/area.h"
 #include "shell/functionfaces.h"
 #include "shell/program.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "shell/core/programstate.h"
 #include "shell/functions.h"
-#include "shell/programstate.h"
 
 #include <QDateTime>
 #include <QList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/page.h"
+#include "shell/core/page.h"
 #include "shell/pagefont.h"
 #include "shell/pagetype.h"
 

@@ -2,9 +2,9 @@
 
 #include "shell/activitybar.h"
 #include "shell/colortext.h"
+#include "shell/core/shellmessages.h"
 #include "shell/hinfo1.h"
 #include "shell/program.h"
-#include "shell/shellmessages.h"
 #include "shell/theme.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/programstate.h"
-#include "shell/settings.h"
+#include "shell/core/programstate.h"
+#include "shell/core/settings.h"
 
 #include <QColor>
 #include <QObject>

@@ -1,6 +1,6 @@
 #include "shell/passwordfile.h"
 
-#include "shell/settingskeys.h"
+#include "shell/core/settingskeys.h"
 #include "storage/ansitext.h"
 #include "storage/log.h"
 #include "storage/recordvalue.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/message.h"
+#include "shell/core/message.h"
 
 /// The questions and notices of password control and of the password prompt.
 namespace PasswordMessages {

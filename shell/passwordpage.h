@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/page.h"
-#include "shell/programstate.h"
+#include "shell/core/page.h"
+#include "shell/core/programstate.h"
 
 #include <QDate>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "shell/clock.h"
+#include "shell/core/clock.h"
+#include "shell/core/programstate.h"
+#include "shell/core/settings.h"
 #include "shell/dialogs.h"
 #include "shell/functions.h"
 #include "shell/programsignals.h"
-#include "shell/programstate.h"
-#include "shell/settings.h"
 #include "storage/datafolder.h"
 
 class AccessGate;

@@ -1,9 +1,9 @@
 #include "shell/splash1.h"
 
+#include "shell/core/settingskeys.h"
 #include "shell/hinfo1.h"
 #include "shell/icons.h"
 #include "shell/program.h"
-#include "shell/settingskeys.h"
 #include "shell/theme.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "shell/area.h"
+#include "shell/core/area.h"
+#include "shell/core/message.h"
 #include "shell/functions.h"
-#include "shell/message.h"
 
 #include <QString>
 

@@ -1,9 +1,9 @@
 #include "shell/startfrm.h"
 
 #include "shell/controls.h"
+#include "shell/core/helpcontexts.h"
 #include "shell/flowtoolbar.h"
 #include "shell/functionfaces.h"
-#include "shell/helpcontexts.h"
 #include "shell/sidetoolbar.h"
 #include "shell/theme.h"
 #include "shell/toolbars.h"

@@ -1,8 +1,8 @@
 #include "shell/toolbars.h"
 
+#include "shell/core/settingskeys.h"
 #include "shell/flowtoolbar.h"
 #include "shell/program.h"
-#include "shell/settingskeys.h"
 
 #include <QAction>
 #include <QSettings>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/settings.h"
+#include "shell/core/settings.h"
 
 #include <QDialog>
 #include <QObject>

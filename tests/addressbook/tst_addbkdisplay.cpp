@@ -5,8 +5,8 @@
 #include "addressbook/messages.h"
 #include "addressbook/viewermessages.h"
 #include "shell/activitybar.h"
+#include "shell/core/settingskeys.h"
 #include "shell/previewpane.h"
-#include "shell/settingskeys.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

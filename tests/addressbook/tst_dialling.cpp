@@ -1,7 +1,7 @@
 #include "addressbook/dialling.h"
 #include "addressbook/messages.h"
 #include "addressfiles.h"
-#include "shell/settings.h"
+#include "shell/core/settings.h"
 
 #include <QTest>
 

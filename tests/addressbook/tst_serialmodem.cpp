@@ -1,7 +1,7 @@
 #include "addressbook/messages.h"
 #include "addressbook/serialmodem.h"
-#include "shell/settings.h"
-#include "shell/settingskeys.h"
+#include "shell/core/settings.h"
+#include "shell/core/settingskeys.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>

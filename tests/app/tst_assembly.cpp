@@ -1,5 +1,5 @@
 #include "app/assembly.h"
-#include "shell/helpcontexts.h"
+#include "shell/core/helpcontexts.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

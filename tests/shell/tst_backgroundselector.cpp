@@ -3,9 +3,9 @@
 #include "shell/backdrop.h"
 #include "shell/backgroundselector.h"
 #include "shell/backgroundslot.h"
+#include "shell/core/settingskeys.h"
 #include "shell/flowtoolbar.h"
 #include "shell/menupicture.h"
-#include "shell/settingskeys.h"
 #include "shell/theme.h"
 
 #include <QPainter>

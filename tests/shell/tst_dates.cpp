@@ -1,4 +1,4 @@
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 
 #include <QLocale>
 #include <QTest>

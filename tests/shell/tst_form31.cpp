@@ -1,5 +1,5 @@
 #include "shell/activitybar.h"
-#include "shell/area.h"
+#include "shell/core/area.h"
 #include "shell/form31.h"
 #include "shell/passwordmessages.h"
 #include "shell/passwordpage.h"

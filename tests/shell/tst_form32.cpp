@@ -1,4 +1,4 @@
-#include "shell/area.h"
+#include "shell/core/area.h"
 #include "shell/form32.h"
 #include "shell/passwordmessages.h"
 #include "tests/support/testprogram.h"

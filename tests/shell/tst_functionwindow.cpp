@@ -1,8 +1,8 @@
 #include "shell/activitybar.h"
 #include "shell/controls.h"
+#include "shell/core/settingskeys.h"
 #include "shell/flowtoolbar.h"
 #include "shell/functionwindow.h"
-#include "shell/settingskeys.h"
 #include "shell/theme.h"
 #include "tests/support/testprogram.h"
 

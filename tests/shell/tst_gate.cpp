@@ -1,4 +1,4 @@
-#include "shell/area.h"
+#include "shell/core/area.h"
 #include "shell/gate.h"
 #include "shell/passwordfile.h"
 #include "tests/support/testprogram.h"

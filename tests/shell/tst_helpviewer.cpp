@@ -1,4 +1,4 @@
-#include "shell/helpcontexts.h"
+#include "shell/core/helpcontexts.h"
 #include "shell/helpentry.h"
 #include "shell/helpviewer.h"
 #include "shell/manualbrowser.h"

@@ -1,7 +1,7 @@
 #include "shell/busycursor.h"
+#include "shell/core/settingskeys.h"
+#include "shell/core/shellmessages.h"
 #include "shell/hinfo1.h"
-#include "shell/settingskeys.h"
-#include "shell/shellmessages.h"
 #include "tests/support/testprogram.h"
 
 #include <QApplication>

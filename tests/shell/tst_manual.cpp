@@ -1,4 +1,4 @@
-#include "shell/helpcontexts.h"
+#include "shell/core/helpcontexts.h"
 #include "shell/manual.h"
 
 #include <QRegularExpression>

@@ -1,10 +1,10 @@
 #include "startwindow.h"
 
 #include "shell/carddesk.h"
+#include "shell/core/settingskeys.h"
 #include "shell/functioncard.h"
 #include "shell/functionfaces.h"
 #include "shell/panelcolors.h"
-#include "shell/settingskeys.h"
 
 #include <QFile>
 

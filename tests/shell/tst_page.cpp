@@ -1,4 +1,4 @@
-#include "shell/page.h"
+#include "shell/core/page.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
 #include "shell/activitybar.h"
 #include "shell/controls.h"
+#include "shell/core/settingskeys.h"
+#include "shell/core/shellmessages.h"
 #include "shell/panelcolors.h"
-#include "shell/settingskeys.h"
-#include "shell/shellmessages.h"
 #include "shell/theme.h"
 #include "tests/support/testprogram.h"
 

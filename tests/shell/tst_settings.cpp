@@ -1,5 +1,5 @@
-#include "shell/settings.h"
-#include "shell/settingskeys.h"
+#include "shell/core/settings.h"
+#include "shell/core/settingskeys.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,9 +1,9 @@
 #include "startwindow.h"
 
+#include "shell/core/settingskeys.h"
+#include "shell/core/shellmessages.h"
 #include "shell/flowtoolbar.h"
 #include "shell/hinfo1.h"
-#include "shell/settingskeys.h"
-#include "shell/shellmessages.h"
 #include "shell/startmessages.h"
 
 #include <QDialog>

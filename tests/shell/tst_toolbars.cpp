@@ -1,5 +1,5 @@
+#include "shell/core/settingskeys.h"
 #include "shell/flowtoolbar.h"
-#include "shell/settingskeys.h"
 #include "shell/theme.h"
 #include "shell/toolbars.h"
 #include "tests/support/testprogram.h"

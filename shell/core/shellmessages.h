@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/message.h"
+#include "shell/core/message.h"
 
 /// The fixed wording of the shell's questions and quiet lines.
 namespace ShellMessages {

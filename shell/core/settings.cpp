@@ -1,4 +1,4 @@
-#include "shell/settings.h"
+#include "shell/core/settings.h"
 
 #include "storage/recordvalue.h"
 

@@ -1,6 +1,6 @@
-#include "shell/page.h"
+#include "shell/core/page.h"
 
-#include "shell/dates.h"
+#include "shell/core/dates.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "shell/programstate.h"
+#include "shell/core/programstate.h"
 
 #include "storage/ansitext.h"
 
