@@ -1,6 +1,6 @@
 #include "addressbook/pictureloader.h"
 
-#include "shell/pagepicture.h"
+#include "shell/pages/pagepicture.h"
 
 #include <QImageReader>
 #include <QPainter>

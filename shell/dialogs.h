@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/core/message.h"
-#include "shell/pagefont.h"
+#include "shell/pages/pagefont.h"
 
 #include <QColor>
 #include <QString>

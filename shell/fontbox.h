@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/pagefont.h"
+#include "shell/pages/pagefont.h"
 
 #include <QDialog>
 

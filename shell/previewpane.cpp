@@ -3,7 +3,7 @@
 #include "shell/activitybar.h"
 #include "shell/busycursor.h"
 #include "shell/controls.h"
-#include "shell/pagepainter.h"
+#include "shell/pages/pagepainter.h"
 #include "shell/previewcontrols.h"
 #include "shell/previewmessages.h"
 #include "shell/printjob.h"

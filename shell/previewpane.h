@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/core/page.h"
-#include "shell/pagefont.h"
+#include "shell/pages/pagefont.h"
 #include "shell/sheetview.h"
 
 #include <QWidget>

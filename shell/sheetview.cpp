@@ -1,6 +1,6 @@
 #include "shell/sheetview.h"
 
-#include "shell/pagepainter.h"
+#include "shell/pages/pagepainter.h"
 #include "shell/theme.h"
 
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/pagepainter.h"
+#include "shell/pages/pagepainter.h"
 
 #include <QImage>
 #include <QPdfWriter>

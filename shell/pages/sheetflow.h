@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/pagelayout.h"
+#include "shell/pages/pagelayout.h"
 
 #include <limits>
 #include <optional>

@@ -1,6 +1,6 @@
-#include "shell/pagelayout.h"
+#include "shell/pages/pagelayout.h"
 
-#include "shell/sheetflow.h"
+#include "shell/pages/sheetflow.h"
 
 #include <QPainter>
 

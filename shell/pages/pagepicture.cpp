@@ -1,4 +1,4 @@
-#include "shell/pagepicture.h"
+#include "shell/pages/pagepicture.h"
 
 #include <QFileInfo>
 #include <QImageReader>

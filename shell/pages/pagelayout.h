@@ -1,8 +1,8 @@
 #pragma once
 
 #include "shell/core/page.h"
-#include "shell/pagefont.h"
-#include "shell/pagetype.h"
+#include "shell/pages/pagefont.h"
+#include "shell/pages/pagetype.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
-#include "shell/pagepainter.h"
+#include "shell/pages/pagepainter.h"
 
-#include "shell/pagelayout.h"
+#include "shell/pages/pagelayout.h"
 
 #include <QPageLayout>
 #include <QPageSize>

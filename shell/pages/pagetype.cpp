@@ -1,6 +1,6 @@
-#include "shell/pagetype.h"
+#include "shell/pages/pagetype.h"
 
-#include "shell/pagefont.h"
+#include "shell/pages/pagefont.h"
 
 #include <QFontInfo>
 #include <QPainter>

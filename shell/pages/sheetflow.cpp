@@ -1,6 +1,6 @@
-#include "shell/sheetflow.h"
+#include "shell/pages/sheetflow.h"
 
-#include "shell/pagepicture.h"
+#include "shell/pages/pagepicture.h"
 
 #include <QPainter>
 

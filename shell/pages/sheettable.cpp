@@ -1,6 +1,6 @@
 // Tables on a sheet: their columns, headings and rows.
 
-#include "shell/sheetflow.h"
+#include "shell/pages/sheetflow.h"
 
 #include <algorithm>
 #include <cmath>
