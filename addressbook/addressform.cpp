@@ -7,7 +7,7 @@
 #include "shell/controls.h"
 #include "shell/core/clock.h"
 #include "shell/core/dates.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QEvent>
 #include <QLabel>

@@ -2,8 +2,8 @@
 
 #include "shell/controls.h"
 #include "shell/core/clock.h"
+#include "shell/look/theme.h"
 #include "shell/monthview.h"
-#include "shell/theme.h"
 
 #include <QApplication>
 #include <QKeyEvent>

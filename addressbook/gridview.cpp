@@ -1,6 +1,6 @@
 #include "addressbook/gridview.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QApplication>
 #include <QHeaderView>

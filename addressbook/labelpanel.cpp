@@ -4,12 +4,12 @@
 #include "addressbook/viewermessages.h"
 #include "shell/busycursor.h"
 #include "shell/controls.h"
+#include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/pages/pagetype.h"
 #include "shell/printjob.h"
 #include "shell/program.h"
 #include "shell/sheetview.h"
-#include "shell/theme.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -2,7 +2,7 @@
 
 #include "addressbook/viewerlines.h"
 #include "shell/controls.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

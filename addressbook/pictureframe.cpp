@@ -1,6 +1,6 @@
 #include "addressbook/pictureframe.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QFileInfo>
 #include <QImageReader>

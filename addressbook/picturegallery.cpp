@@ -1,7 +1,7 @@
 #include "addressbook/picturegallery.h"
 
 #include "addressbook/viewerlines.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QAbstractListModel>
 #include <QKeyEvent>

@@ -7,8 +7,8 @@
 #include "shell/busycursor.h"
 #include "shell/controls.h"
 #include "shell/listrowdelegate.h"
+#include "shell/look/theme.h"
 #include "shell/program.h"
-#include "shell/theme.h"
 
 #include <QComboBox>
 #include <QDir>

@@ -2,7 +2,7 @@
 
 #include "addressbook/viewerpages.h"
 #include "shell/controls.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QAction>
 #include <QButtonGroup>

@@ -1,10 +1,10 @@
 #include "app/assembly.h"
 #include "app/instancelink.h"
+#include "shell/look/theme.h"
 #include "shell/program.h"
 #include "shell/splash1.h"
 #include "shell/startfrm.h"
 #include "shell/startmessages.h"
-#include "shell/theme.h"
 #include "storage/folderlock.h"
 #include "storage/log.h"
 

@@ -3,7 +3,7 @@
 
 #include "addressbook/picturegallery.h"
 #include "benchmarks/limit.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

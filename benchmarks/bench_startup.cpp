@@ -4,9 +4,9 @@
 
 #include "app/assembly.h"
 #include "benchmarks/limit.h"
+#include "shell/look/theme.h"
 #include "shell/menupicture.h"
 #include "shell/startfrm.h"
-#include "shell/theme.h"
 
 #include <QApplication>
 #include <QDir>

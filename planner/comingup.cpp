@@ -5,9 +5,9 @@
 #include "shell/core/area.h"
 #include "shell/core/dates.h"
 #include "shell/functionfaces.h"
-#include "shell/icons.h"
+#include "shell/look/icons.h"
+#include "shell/look/theme.h"
 #include "shell/program.h"
-#include "shell/theme.h"
 
 #include <QListView>
 #include <QLocale>

@@ -3,7 +3,7 @@
 #include "planner/quietlines.h"
 #include "shell/controls.h"
 #include "shell/core/dates.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QHBoxLayout>
 

@@ -2,7 +2,7 @@
 
 #include "shell/controls.h"
 #include "shell/listrowdelegate.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QAbstractItemView>
 #include <QGridLayout>

@@ -3,8 +3,8 @@
 #include "planner/quietlines.h"
 #include "shell/controls.h"
 #include "shell/core/clock.h"
+#include "shell/look/theme.h"
 #include "shell/monthview.h"
-#include "shell/theme.h"
 
 #include <QBoxLayout>
 #include <QScopedValueRollback>

@@ -17,7 +17,7 @@
 #include "shell/controls.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QAction>
 #include <QButtonGroup>

@@ -5,9 +5,9 @@
 #include "planner/recurrenceform.h"
 #include "planner/slicedwork.h"
 #include "shell/controls.h"
+#include "shell/look/theme.h"
 #include "shell/monthview.h"
 #include "shell/program.h"
-#include "shell/theme.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -5,7 +5,7 @@
 #include "shell/controls.h"
 #include "shell/core/dates.h"
 #include "shell/listrowdelegate.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "planner/steptitle.h"
 
 #include "shell/controls.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QHBoxLayout>
 

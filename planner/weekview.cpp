@@ -5,7 +5,7 @@
 #include "planner/plannerpages.h"
 #include "planner/steptitle.h"
 #include "planner/viewfoot.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QListView>
 #include <QLocale>

@@ -1,8 +1,8 @@
 #include "shell/about1.h"
 
 #include "shell/controls.h"
-#include "shell/icons.h"
-#include "shell/theme.h"
+#include "shell/look/icons.h"
+#include "shell/look/theme.h"
 
 #include <QAction>
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 #include "shell/controls.h"
 #include "shell/core/dates.h"
 #include "shell/core/shellmessages.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "shell/backdrop.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QImageReader>
 #include <QPainter>

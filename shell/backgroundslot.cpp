@@ -2,7 +2,7 @@
 
 #include "shell/backdrop.h"
 #include "shell/controls.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QImageReader>
 #include <QPainter>

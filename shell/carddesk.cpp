@@ -4,8 +4,8 @@
 #include "shell/functioncard.h"
 #include "shell/functionfaces.h"
 #include "shell/gridwalk.h"
+#include "shell/look/theme.h"
 #include "shell/menunews.h"
-#include "shell/theme.h"
 
 #include <QLabel>
 #include <QPainter>

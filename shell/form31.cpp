@@ -5,10 +5,10 @@
 #include "shell/core/area.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/guardedareas.h"
+#include "shell/look/theme.h"
 #include "shell/passwordmessages.h"
 #include "shell/passwordpage.h"
 #include "shell/passwordpane.h"
-#include "shell/theme.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

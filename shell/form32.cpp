@@ -4,9 +4,9 @@
 #include "shell/controls.h"
 #include "shell/core/area.h"
 #include "shell/guardedareas.h"
+#include "shell/look/theme.h"
 #include "shell/passwordmessages.h"
 #include "shell/program.h"
-#include "shell/theme.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

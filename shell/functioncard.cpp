@@ -2,7 +2,7 @@
 
 #include "shell/controls.h"
 #include "shell/functionfaces.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QPainter>
 #include <QPixmapCache>

@@ -4,8 +4,8 @@
 #include "shell/controls.h"
 #include "shell/core/shellmessages.h"
 #include "shell/flowtoolbar.h"
+#include "shell/look/theme.h"
 #include "shell/previewpane.h"
-#include "shell/theme.h"
 #include "shell/toolbars.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "shell/helpentry.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QListView>
 #include <QPainter>

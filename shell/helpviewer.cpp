@@ -4,9 +4,9 @@
 #include "shell/controls.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/helpentry.h"
+#include "shell/look/theme.h"
 #include "shell/manualbrowser.h"
 #include "shell/manualprint.h"
-#include "shell/theme.h"
 
 #include <QKeyEvent>
 #include <QLabel>

@@ -1,9 +1,9 @@
 #include "shell/hinfo1.h"
 
 #include "shell/busycursor.h"
-#include "shell/colortext.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
+#include "shell/look/colortext.h"
 #include "shell/program.h"
 
 #include <QCoreApplication>

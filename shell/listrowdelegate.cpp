@@ -1,6 +1,6 @@
 #include "shell/listrowdelegate.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -3,7 +3,7 @@
 #include "shell/backgroundselector.h"
 #include "shell/carddesk.h"
 #include "shell/controls.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QPainter>
 #include <QScrollArea>

@@ -1,7 +1,7 @@
 #include "shell/messagebox.h"
 
 #include "shell/controls.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>

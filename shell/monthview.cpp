@@ -1,6 +1,6 @@
 #include "shell/monthview.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -1,11 +1,11 @@
 #include "shell/panelcolors.h"
 
 #include "shell/activitybar.h"
-#include "shell/colortext.h"
 #include "shell/core/shellmessages.h"
 #include "shell/hinfo1.h"
+#include "shell/look/colortext.h"
+#include "shell/look/theme.h"
 #include "shell/program.h"
-#include "shell/theme.h"
 
 #include <QApplication>
 #include <QScopedValueRollback>

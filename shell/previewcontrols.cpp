@@ -1,6 +1,6 @@
 #include "shell/previewcontrols.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QPainter>
 #include <QStyle>

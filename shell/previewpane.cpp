@@ -3,13 +3,13 @@
 #include "shell/activitybar.h"
 #include "shell/busycursor.h"
 #include "shell/controls.h"
+#include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/previewcontrols.h"
 #include "shell/previewmessages.h"
 #include "shell/printjob.h"
 #include "shell/program.h"
 #include "shell/sheetview.h"
-#include "shell/theme.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #include "shell/sheetview.h"
 
+#include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
-#include "shell/theme.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -2,9 +2,9 @@
 
 #include "shell/core/settingskeys.h"
 #include "shell/hinfo1.h"
-#include "shell/icons.h"
+#include "shell/look/icons.h"
+#include "shell/look/theme.h"
 #include "shell/program.h"
-#include "shell/theme.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>

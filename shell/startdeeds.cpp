@@ -6,7 +6,6 @@
 #include "shell/backgroundselector.h"
 #include "shell/busycursor.h"
 #include "shell/carddesk.h"
-#include "shell/colortext.h"
 #include "shell/controls.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
@@ -16,8 +15,9 @@
 #include "shell/gate.h"
 #include "shell/hinfo1.h"
 #include "shell/listfile.h"
+#include "shell/look/colortext.h"
+#include "shell/look/theme.h"
 #include "shell/menupicture.h"
-#include "shell/theme.h"
 #include "shell/toolbars.h"
 
 #include <QAction>

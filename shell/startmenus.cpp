@@ -4,8 +4,8 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/flowtoolbar.h"
 #include "shell/functionfaces.h"
+#include "shell/look/theme.h"
 #include "shell/sidetoolbar.h"
-#include "shell/theme.h"
 #include "shell/toolbars.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 #include "shell/controls.h"
 #include "shell/core/shellmessages.h"
 #include "shell/listrowdelegate.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 #include "shell/toolbars.h"
 
 #include <QAction>

@@ -5,8 +5,8 @@
 #include "shell/backgroundslot.h"
 #include "shell/core/settingskeys.h"
 #include "shell/flowtoolbar.h"
+#include "shell/look/theme.h"
 #include "shell/menupicture.h"
-#include "shell/theme.h"
 
 #include <QPainter>
 #include <QPushButton>

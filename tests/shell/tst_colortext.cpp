@@ -1,5 +1,5 @@
-#include "shell/colortext.h"
-#include "shell/theme.h"
+#include "shell/look/colortext.h"
+#include "shell/look/theme.h"
 
 #include <QTest>
 

@@ -3,7 +3,7 @@
 #include "shell/core/settingskeys.h"
 #include "shell/flowtoolbar.h"
 #include "shell/functionwindow.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 #include "tests/support/testprogram.h"
 
 #include <QMenu>

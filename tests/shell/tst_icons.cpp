@@ -1,5 +1,5 @@
-#include "shell/icons.h"
-#include "shell/theme.h"
+#include "shell/look/icons.h"
+#include "shell/look/theme.h"
 
 #include <QDir>
 #include <QImage>

@@ -2,8 +2,8 @@
 #include "shell/controls.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
+#include "shell/look/theme.h"
 #include "shell/panelcolors.h"
-#include "shell/theme.h"
 #include "tests/support/testprogram.h"
 
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "shell/busycursor.h"
 #include "shell/controls.h"
+#include "shell/look/theme.h"
 #include "shell/messagebox.h"
 #include "shell/qtdialogs.h"
-#include "shell/theme.h"
 #include "tests/support/testprogram.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QTest>
 

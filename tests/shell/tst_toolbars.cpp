@@ -1,6 +1,6 @@
 #include "shell/core/settingskeys.h"
 #include "shell/flowtoolbar.h"
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 #include "shell/toolbars.h"
 #include "tests/support/testprogram.h"
 

@@ -1,6 +1,6 @@
-#include "shell/icons.h"
+#include "shell/look/icons.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QFile>
 #include <QIconEngine>

@@ -1,6 +1,6 @@
-#include "shell/colortext.h"
+#include "shell/look/colortext.h"
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <array>
 

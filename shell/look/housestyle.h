@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
 #include <QProxyStyle>
 

@@ -1,6 +1,6 @@
-#include "shell/theme.h"
+#include "shell/look/theme.h"
 
-#include "shell/housestyle.h"
+#include "shell/look/housestyle.h"
 
 #include <QApplication>
 #include <QFontInfo>

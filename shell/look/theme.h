@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/icons.h"
+#include "shell/look/icons.h"
 
 #include <QColor>
 #include <QPalette>

@@ -1,4 +1,4 @@
-#include "shell/housestyle.h"
+#include "shell/look/housestyle.h"
 
 #include <QPainter>
 #include <QPainterPath>
