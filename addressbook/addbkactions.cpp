@@ -10,9 +10,9 @@
 #include "addressbook/picturepanel.h"
 #include "addressbook/printoptions.h"
 #include "addressbook/quietlines.h"
-#include "shell/activitybar.h"
-#include "shell/busycursor.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
 
 #include <QApplication>

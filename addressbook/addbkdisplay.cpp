@@ -11,9 +11,9 @@
 #include "addressbook/viewerlines.h"
 #include "addressbook/viewermessages.h"
 #include "addressbook/viewerpages.h"
-#include "shell/activitybar.h"
-#include "shell/busycursor.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

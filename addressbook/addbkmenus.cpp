@@ -6,7 +6,7 @@
 #include "addressbook/messages.h"
 #include "addressbook/namelistmodel.h"
 #include "addressbook/quietlines.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 
 #include <QMenu>
 #include <QMenuBar>

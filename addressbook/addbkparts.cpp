@@ -12,11 +12,11 @@
 #include "addressbook/printoptions.h"
 #include "addressbook/quietlines.h"
 #include "addressbook/serialmodem.h"
-#include "shell/activitybar.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
-#include "shell/listrowdelegate.h"
 #include "shell/look/theme.h"
 
 #include <QAction>

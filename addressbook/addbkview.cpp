@@ -9,8 +9,8 @@
 #include "addressbook/pictureframe.h"
 #include "addressbook/picturepanel.h"
 #include "addressbook/quietlines.h"
-#include "shell/activitybar.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
 
 #include <QItemSelectionModel>
 #include <QKeyEvent>

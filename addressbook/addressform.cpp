@@ -4,7 +4,7 @@
 #include "addressbook/datepicker.h"
 #include "addressbook/pictureframe.h"
 #include "addressbook/quietlines.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/core/clock.h"
 #include "shell/core/dates.h"
 #include "shell/look/theme.h"

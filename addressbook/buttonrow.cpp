@@ -1,6 +1,6 @@
 #include "addressbook/buttonrow.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,9 +1,9 @@
 #include "addressbook/datepicker.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/monthview.h"
 #include "shell/core/clock.h"
 #include "shell/look/theme.h"
-#include "shell/monthview.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -2,8 +2,8 @@
 
 #include "addressbook/viewerlines.h"
 #include "addressbook/viewermessages.h"
-#include "shell/busycursor.h"
-#include "shell/controls.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/pages/pagetype.h"

@@ -1,7 +1,7 @@
 #include "addressbook/listoptionspanel.h"
 
 #include "addressbook/viewerlines.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
 #include <QButtonGroup>

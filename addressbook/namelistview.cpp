@@ -1,6 +1,6 @@
 #include "addressbook/namelistview.h"
 
-#include "shell/listrowdelegate.h"
+#include "shell/controls/listrowdelegate.h"
 
 #include <QHelpEvent>
 #include <QToolTip>

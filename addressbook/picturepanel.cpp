@@ -4,9 +4,9 @@
 #include "addressbook/messages.h"
 #include "addressbook/pictureframe.h"
 #include "addressbook/quietlines.h"
-#include "shell/busycursor.h"
-#include "shell/controls.h"
-#include "shell/listrowdelegate.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
 #include "shell/look/theme.h"
 #include "shell/program.h"
 

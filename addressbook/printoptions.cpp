@@ -1,7 +1,7 @@
 #include "addressbook/printoptions.h"
 
 #include "addressbook/quietlines.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>

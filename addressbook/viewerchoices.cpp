@@ -1,7 +1,7 @@
 #include "addressbook/viewerchoices.h"
 
 #include "addressbook/viewerpages.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 #include "planner/calendaroptionspanel.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "planner/comingup.h"
 
 #include "planner/quietlines.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/core/area.h"
 #include "shell/core/dates.h"
 #include "shell/functionfaces.h"

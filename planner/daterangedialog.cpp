@@ -1,7 +1,7 @@
 #include "planner/daterangedialog.h"
 
 #include "planner/quietlines.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/core/dates.h"
 #include "shell/look/theme.h"
 

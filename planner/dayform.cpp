@@ -1,7 +1,7 @@
 #include "planner/dayform.h"
 
-#include "shell/controls.h"
-#include "shell/listrowdelegate.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
 #include "shell/look/theme.h"
 
 #include <QAbstractItemView>

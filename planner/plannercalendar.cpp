@@ -1,10 +1,10 @@
 #include "planner/plannercalendar.h"
 
 #include "planner/quietlines.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/monthview.h"
 #include "shell/core/clock.h"
 #include "shell/look/theme.h"
-#include "shell/monthview.h"
 
 #include <QBoxLayout>
 #include <QScopedValueRollback>

@@ -5,7 +5,7 @@
 #include "planner/monthgrid.h"
 #include "planner/quietlines.h"
 #include "planner/weekview.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 
 #include <QMenu>
 #include <QMenuBar>

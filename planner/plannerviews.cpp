@@ -14,10 +14,10 @@
 #include "planner/searchpanel.h"
 #include "planner/slicedwork.h"
 #include "planner/weekview.h"
-#include "shell/activitybar.h"
-#include "shell/busycursor.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/flowtoolbar.h"
 #include "shell/core/dates.h"
-#include "shell/flowtoolbar.h"
 
 #include <QAction>
 #include <QLineEdit>

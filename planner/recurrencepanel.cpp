@@ -5,9 +5,9 @@
 #include "planner/quietlines.h"
 #include "planner/recurrenceform.h"
 #include "planner/slicedwork.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/monthview.h"
 #include "shell/core/dates.h"
-#include "shell/monthview.h"
 #include "shell/program.h"
 
 #include <QApplication>

@@ -4,9 +4,9 @@
 
 #include "planner/recurrenceform.h"
 #include "planner/slicedwork.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/monthview.h"
 #include "shell/look/theme.h"
-#include "shell/monthview.h"
 #include "shell/program.h"
 
 #include <QButtonGroup>

@@ -2,9 +2,9 @@
 
 #include "planner/quietlines.h"
 #include "planner/viewfoot.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
 #include "shell/core/dates.h"
-#include "shell/listrowdelegate.h"
 #include "shell/look/theme.h"
 
 #include <QHeaderView>

@@ -1,6 +1,6 @@
 #include "planner/steptitle.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
 #include <QHBoxLayout>

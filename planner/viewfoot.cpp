@@ -1,6 +1,6 @@
 #include "planner/viewfoot.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 
 #include <QHBoxLayout>
 

@@ -1,6 +1,6 @@
 #include "shell/about1.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/look/icons.h"
 #include "shell/look/theme.h"
 

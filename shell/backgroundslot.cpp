@@ -1,7 +1,7 @@
 #include "shell/backgroundslot.h"
 
 #include "shell/backdrop.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
 #include <QImageReader>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/walkbutton.h"
+#include "shell/controls/walkbutton.h"
 
 #include <QPixmap>
 

@@ -1,9 +1,9 @@
 #include "shell/carddesk.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/gridwalk.h"
 #include "shell/functioncard.h"
 #include "shell/functionfaces.h"
-#include "shell/gridwalk.h"
 #include "shell/look/theme.h"
 #include "shell/menunews.h"
 

@@ -1,6 +1,6 @@
 #include "shell/fontbox.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
 #include <QFontDialog>

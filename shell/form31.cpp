@@ -1,7 +1,7 @@
 #include "shell/form31.h"
 
-#include "shell/activitybar.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
 #include "shell/core/area.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/guardedareas.h"

@@ -1,7 +1,7 @@
 #include "shell/form32.h"
 
-#include "shell/busycursor.h"
-#include "shell/controls.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
 #include "shell/core/area.h"
 #include "shell/guardedareas.h"
 #include "shell/look/theme.h"

@@ -1,6 +1,6 @@
 #include "shell/functioncard.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/functionfaces.h"
 #include "shell/look/theme.h"
 

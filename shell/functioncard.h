@@ -1,7 +1,7 @@
 #pragma once
 
+#include "shell/controls/walkbutton.h"
 #include "shell/core/liveline.h"
-#include "shell/walkbutton.h"
 
 #include <optional>
 

@@ -1,9 +1,9 @@
 #include "shell/functionwindow.h"
 
-#include "shell/activitybar.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/flowtoolbar.h"
 #include "shell/core/shellmessages.h"
-#include "shell/flowtoolbar.h"
 #include "shell/look/theme.h"
 #include "shell/previewpane.h"
 #include "shell/toolbars.h"

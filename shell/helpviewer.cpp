@@ -1,7 +1,7 @@
 #include "shell/helpviewer.h"
 
-#include "shell/activitybar.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/helpentry.h"
 #include "shell/look/theme.h"

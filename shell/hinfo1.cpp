@@ -1,6 +1,6 @@
 #include "shell/hinfo1.h"
 
-#include "shell/busycursor.h"
+#include "shell/controls/busycursor.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/colortext.h"

@@ -2,7 +2,7 @@
 
 #include "shell/backgroundselector.h"
 #include "shell/carddesk.h"
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
 #include <QPainter>

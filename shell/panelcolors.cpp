@@ -1,6 +1,6 @@
 #include "shell/panelcolors.h"
 
-#include "shell/activitybar.h"
+#include "shell/controls/activitybar.h"
 #include "shell/core/shellmessages.h"
 #include "shell/hinfo1.h"
 #include "shell/look/colortext.h"

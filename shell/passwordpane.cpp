@@ -1,7 +1,7 @@
 #include "shell/passwordpane.h"
 
-#include "shell/busycursor.h"
-#include "shell/controls.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
 #include "shell/passwordmessages.h"
 
 #include <QCheckBox>

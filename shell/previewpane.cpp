@@ -1,8 +1,8 @@
 #include "shell/previewpane.h"
 
-#include "shell/activitybar.h"
-#include "shell/busycursor.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/previewcontrols.h"

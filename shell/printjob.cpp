@@ -1,7 +1,7 @@
 #include "shell/printjob.h"
 
-#include "shell/activitybar.h"
-#include "shell/busycursor.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
 #include "shell/previewmessages.h"
 #include "shell/program.h"
 

@@ -1,7 +1,7 @@
 #include "shell/sidetoolbar.h"
 
-#include "shell/controls.h"
-#include "shell/flowtoolbar.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/flowtoolbar.h"
 
 #include <QScrollBar>
 

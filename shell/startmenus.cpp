@@ -1,8 +1,8 @@
 #include "shell/startfrm.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/flowtoolbar.h"
 #include "shell/core/helpcontexts.h"
-#include "shell/flowtoolbar.h"
 #include "shell/functionfaces.h"
 #include "shell/look/theme.h"
 #include "shell/sidetoolbar.h"

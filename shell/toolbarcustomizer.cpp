@@ -1,6 +1,6 @@
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
 #include "shell/core/shellmessages.h"
-#include "shell/listrowdelegate.h"
 #include "shell/look/theme.h"
 #include "shell/toolbars.h"
 

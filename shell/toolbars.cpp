@@ -1,7 +1,7 @@
 #include "shell/toolbars.h"
 
+#include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
-#include "shell/flowtoolbar.h"
 #include "shell/program.h"
 
 #include <QAction>

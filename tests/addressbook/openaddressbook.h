@@ -3,8 +3,8 @@
 #include "addressbook/addbkview.h"
 #include "addressbook/messages.h"
 #include "addressbook/namelistmodel.h"
-#include "shell/activitybar.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

@@ -4,7 +4,7 @@
 #include "addressbook/gridview.h"
 #include "addressbook/messages.h"
 #include "addressbook/viewermessages.h"
-#include "shell/activitybar.h"
+#include "shell/controls/activitybar.h"
 #include "shell/core/settingskeys.h"
 #include "shell/previewpane.h"
 #include "tests/support/testprogram.h"

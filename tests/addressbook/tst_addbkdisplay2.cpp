@@ -2,7 +2,7 @@
 #include "addressbook/pictureframe.h"
 #include "addressbook/picturegallery.h"
 #include "addressbook/viewermessages.h"
-#include "shell/activitybar.h"
+#include "shell/controls/activitybar.h"
 #include "shell/previewpane.h"
 #include "tests/support/testprogram.h"
 

@@ -1,9 +1,9 @@
 #include "planner/messages.h"
 #include "planner/plannerfiles.h"
 #include "planner/zcalandar1.h"
-#include "shell/activitybar.h"
-#include "shell/controls.h"
-#include "shell/monthview.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/monthview.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/activitybar.h"
+#include "shell/controls/activitybar.h"
 #include "shell/previewmessages.h"
 #include "shell/previewpane.h"
 #include "tests/support/testprogram.h"

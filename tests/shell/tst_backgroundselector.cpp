@@ -3,8 +3,8 @@
 #include "shell/backdrop.h"
 #include "shell/backgroundselector.h"
 #include "shell/backgroundslot.h"
+#include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
-#include "shell/flowtoolbar.h"
 #include "shell/look/theme.h"
 #include "shell/menupicture.h"
 

@@ -1,9 +1,9 @@
-#include "shell/activitybar.h"
-#include "shell/controls.h"
-#include "shell/listrowdelegate.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
+#include "shell/controls/monthview.h"
 #include "shell/look/theme.h"
 #include "shell/messagebox.h"
-#include "shell/monthview.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

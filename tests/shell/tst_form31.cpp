@@ -1,4 +1,4 @@
-#include "shell/activitybar.h"
+#include "shell/controls/activitybar.h"
 #include "shell/core/area.h"
 #include "shell/form31.h"
 #include "shell/passwordmessages.h"

@@ -1,4 +1,4 @@
-#include "shell/busycursor.h"
+#include "shell/controls/busycursor.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
 #include "shell/hinfo1.h"

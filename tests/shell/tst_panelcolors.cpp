@@ -1,5 +1,5 @@
-#include "shell/activitybar.h"
-#include "shell/controls.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"

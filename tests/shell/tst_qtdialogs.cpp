@@ -1,5 +1,5 @@
-#include "shell/busycursor.h"
-#include "shell/controls.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 #include "shell/messagebox.h"
 #include "shell/qtdialogs.h"

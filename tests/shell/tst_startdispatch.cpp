@@ -1,7 +1,7 @@
 #include "startwindow.h"
 
+#include "shell/controls/flowtoolbar.h"
 #include "shell/core/helpcontexts.h"
-#include "shell/flowtoolbar.h"
 #include "shell/startmessages.h"
 
 #include <QToolButton>

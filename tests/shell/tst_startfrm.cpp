@@ -1,8 +1,8 @@
 #include "startwindow.h"
 
+#include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
-#include "shell/flowtoolbar.h"
 #include "shell/hinfo1.h"
 #include "shell/startmessages.h"
 

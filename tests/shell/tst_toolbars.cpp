@@ -1,5 +1,5 @@
+#include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
-#include "shell/flowtoolbar.h"
 #include "shell/look/theme.h"
 #include "shell/toolbars.h"
 #include "tests/support/testprogram.h"

@@ -1,6 +1,6 @@
-#include "shell/activitybar.h"
+#include "shell/controls/activitybar.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/core/dates.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"

@@ -1,6 +1,6 @@
-#include "shell/flowtoolbar.h"
+#include "shell/controls/flowtoolbar.h"
 
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
 #include <QAction>

@@ -1,4 +1,4 @@
-#include "shell/walkbutton.h"
+#include "shell/controls/walkbutton.h"
 
 #include <QKeyEvent>
 

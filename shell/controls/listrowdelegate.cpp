@@ -1,4 +1,4 @@
-#include "shell/listrowdelegate.h"
+#include "shell/controls/listrowdelegate.h"
 
 #include "shell/look/theme.h"
 

@@ -1,4 +1,4 @@
-#include "shell/busycursor.h"
+#include "shell/controls/busycursor.h"
 
 #include <QGuiApplication>
 

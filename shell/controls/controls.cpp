@@ -1,4 +1,4 @@
-#include "shell/controls.h"
+#include "shell/controls/controls.h"
 
 #include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"

@@ -1,4 +1,4 @@
-#include "shell/monthview.h"
+#include "shell/controls/monthview.h"
 
 #include "shell/look/theme.h"
 
