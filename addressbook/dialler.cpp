@@ -1,7 +1,7 @@
 #include "addressbook/dialler.h"
 
 #include "addressbook/messages.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QLabel>
 

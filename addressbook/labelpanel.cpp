@@ -8,7 +8,7 @@
 #include "shell/pages/pagepainter.h"
 #include "shell/pages/pagetype.h"
 #include "shell/printjob.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 #include "shell/sheetview.h"
 
 #include <QAbstractItemView>

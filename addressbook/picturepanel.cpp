@@ -8,7 +8,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/look/theme.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QComboBox>
 #include <QDir>

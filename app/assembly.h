@@ -2,8 +2,8 @@
 
 #include "shell/gate.h"
 #include "shell/helpviewer.h"
-#include "shell/program.h"
-#include "shell/qtdialogs.h"
+#include "shell/program/program.h"
+#include "shell/program/qtdialogs.h"
 
 #include <QSettings>
 

@@ -8,7 +8,7 @@
 #include "planner/zcalandar1.h"
 #include "shell/form31.h"
 #include "shell/passwordfile.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "app/assembly.h"
 #include "app/instancelink.h"
 #include "shell/look/theme.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 #include "shell/splash1.h"
 #include "shell/startfrm.h"
 #include "shell/startmessages.h"

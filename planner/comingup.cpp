@@ -4,10 +4,10 @@
 #include "shell/controls/controls.h"
 #include "shell/core/area.h"
 #include "shell/core/dates.h"
-#include "shell/functionfaces.h"
 #include "shell/look/icons.h"
 #include "shell/look/theme.h"
-#include "shell/program.h"
+#include "shell/program/functionfaces.h"
+#include "shell/program/program.h"
 
 #include <QListView>
 #include <QLocale>

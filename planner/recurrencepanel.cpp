@@ -8,7 +8,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/dates.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QApplication>
 #include <QButtonGroup>

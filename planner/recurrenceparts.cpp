@@ -7,7 +7,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
 #include "shell/look/theme.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

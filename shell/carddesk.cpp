@@ -3,9 +3,9 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/gridwalk.h"
 #include "shell/functioncard.h"
-#include "shell/functionfaces.h"
 #include "shell/look/theme.h"
 #include "shell/menunews.h"
+#include "shell/program/functionfaces.h"
 
 #include <QLabel>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/functions.h"
+#include "shell/program/functions.h"
 
 #include <QDate>
 #include <QWidget>

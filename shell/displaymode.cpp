@@ -1,7 +1,7 @@
 #include "shell/displaymode.h"
 
 #include "shell/core/settingskeys.h"
-#include "shell/hinfo1.h"
+#include "shell/program/sharedprocedures.h"
 
 #include <QAction>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QObject>
 #include <QPointer>

@@ -6,7 +6,7 @@
 #include "shell/guardedareas.h"
 #include "shell/look/theme.h"
 #include "shell/passwordmessages.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 #include "shell/functioncard.h"
 
 #include "shell/controls/controls.h"
-#include "shell/functionfaces.h"
 #include "shell/look/theme.h"
+#include "shell/program/functionfaces.h"
 
 #include <QPainter>
 #include <QPixmapCache>

@@ -4,7 +4,7 @@
 #include "shell/core/page.h"
 #include "shell/core/settingskeys.h"
 #include "shell/panelcolors.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QAction>
 #include <QKeySequence>

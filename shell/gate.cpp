@@ -2,7 +2,7 @@
 
 #include "shell/core/area.h"
 #include "shell/passwordfile.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #include "shell/menunews.h"
 
 #include "shell/core/area.h"
-#include "shell/functionfaces.h"
-#include "shell/program.h"
+#include "shell/program/functionfaces.h"
+#include "shell/program/program.h"
 
 #include <QFileInfo>
 #include <QLocale>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/core/programstate.h"
-#include "shell/functions.h"
+#include "shell/program/functions.h"
 
 #include <QDateTime>
 #include <QList>

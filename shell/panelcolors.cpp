@@ -2,10 +2,10 @@
 
 #include "shell/controls/activitybar.h"
 #include "shell/core/shellmessages.h"
-#include "shell/hinfo1.h"
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
+#include "shell/program/sharedprocedures.h"
 
 #include <QApplication>
 #include <QScopedValueRollback>

@@ -8,7 +8,7 @@
 #include "shell/previewcontrols.h"
 #include "shell/previewmessages.h"
 #include "shell/printjob.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 #include "shell/sheetview.h"
 
 #include <QApplication>

@@ -3,7 +3,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/previewmessages.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QApplication>
 #include <QDir>

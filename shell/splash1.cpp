@@ -1,10 +1,10 @@
 #include "shell/splash1.h"
 
 #include "shell/core/settingskeys.h"
-#include "shell/hinfo1.h"
 #include "shell/look/icons.h"
 #include "shell/look/theme.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
+#include "shell/program/sharedprocedures.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>

@@ -11,13 +11,13 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
-#include "shell/functionfaces.h"
 #include "shell/gate.h"
-#include "shell/hinfo1.h"
 #include "shell/listfile.h"
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"
 #include "shell/menupicture.h"
+#include "shell/program/functionfaces.h"
+#include "shell/program/sharedprocedures.h"
 #include "shell/toolbars.h"
 
 #include <QAction>

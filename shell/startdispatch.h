@@ -2,7 +2,7 @@
 
 #include "shell/core/area.h"
 #include "shell/core/message.h"
-#include "shell/functions.h"
+#include "shell/program/functions.h"
 
 #include <QString>
 

@@ -3,8 +3,8 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/helpcontexts.h"
-#include "shell/functionfaces.h"
 #include "shell/look/theme.h"
+#include "shell/program/functionfaces.h"
 #include "shell/sidetoolbar.h"
 #include "shell/toolbars.h"
 

@@ -2,7 +2,7 @@
 
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QAction>
 #include <QSettings>

@@ -3,7 +3,7 @@
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/monthview.h"
 #include "shell/look/theme.h"
-#include "shell/messagebox.h"
+#include "shell/program/messagebox.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

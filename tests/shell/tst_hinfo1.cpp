@@ -1,7 +1,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
-#include "shell/hinfo1.h"
+#include "shell/program/sharedprocedures.h"
 #include "tests/support/testprogram.h"
 
 #include <QApplication>

@@ -3,8 +3,8 @@
 #include "shell/carddesk.h"
 #include "shell/core/settingskeys.h"
 #include "shell/functioncard.h"
-#include "shell/functionfaces.h"
 #include "shell/panelcolors.h"
+#include "shell/program/functionfaces.h"
 
 #include <QFile>
 

@@ -1,8 +1,8 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
-#include "shell/messagebox.h"
-#include "shell/qtdialogs.h"
+#include "shell/program/messagebox.h"
+#include "shell/program/qtdialogs.h"
 #include "tests/support/testprogram.h"
 
 #include <QApplication>

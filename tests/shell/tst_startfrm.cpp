@@ -3,7 +3,7 @@
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
-#include "shell/hinfo1.h"
+#include "shell/program/sharedprocedures.h"
 #include "shell/startmessages.h"
 
 #include <QDialog>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/dialogs.h"
+#include "shell/program/dialogs.h"
 
 #include <QColor>
 #include <QList>

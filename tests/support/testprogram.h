@@ -2,7 +2,7 @@
 
 #include "scripteddialogs.h"
 #include "shell/gate.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QSettings>
 #include <QTemporaryDir>

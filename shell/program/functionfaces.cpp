@@ -1,4 +1,4 @@
-#include "shell/functionfaces.h"
+#include "shell/program/functionfaces.h"
 
 #include "shell/core/area.h"
 

@@ -1,8 +1,8 @@
-#include "shell/qtdialogs.h"
+#include "shell/program/qtdialogs.h"
 
-#include "shell/fontbox.h"
-#include "shell/functions.h"
-#include "shell/messagebox.h"
+#include "shell/program/fontbox.h"
+#include "shell/program/functions.h"
+#include "shell/program/messagebox.h"
 
 #include <QApplication>
 #include <QColorDialog>

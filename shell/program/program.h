@@ -3,9 +3,9 @@
 #include "shell/core/clock.h"
 #include "shell/core/programstate.h"
 #include "shell/core/settings.h"
-#include "shell/dialogs.h"
-#include "shell/functions.h"
-#include "shell/programsignals.h"
+#include "shell/program/dialogs.h"
+#include "shell/program/functions.h"
+#include "shell/program/programsignals.h"
 #include "storage/datafolder.h"
 
 class AccessGate;

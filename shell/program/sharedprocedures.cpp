@@ -1,10 +1,10 @@
-#include "shell/hinfo1.h"
+#include "shell/program/sharedprocedures.h"
 
 #include "shell/controls/busycursor.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/colortext.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/dialogs.h"
+#include "shell/program/dialogs.h"
 
 /// The questions as the user sees them: the program's own message and input boxes, and the platform's
 /// choosers.

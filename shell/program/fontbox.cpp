@@ -1,4 +1,4 @@
-#include "shell/fontbox.h"
+#include "shell/program/fontbox.h"
 
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"

@@ -1,6 +1,6 @@
-#include "shell/functions.h"
+#include "shell/program/functions.h"
 
-#include "shell/program.h"
+#include "shell/program/program.h"
 
 #include <QWidget>
 

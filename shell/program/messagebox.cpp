@@ -1,4 +1,4 @@
-#include "shell/messagebox.h"
+#include "shell/program/messagebox.h"
 
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
