@@ -7,9 +7,9 @@
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/pages/pagetype.h"
-#include "shell/printjob.h"
+#include "shell/preview/printjob.h"
+#include "shell/preview/sheetview.h"
 #include "shell/program/program.h"
-#include "shell/sheetview.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -5,7 +5,7 @@
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"
-#include "shell/previewpane.h"
+#include "shell/preview/previewpane.h"
 #include "shell/toolbars.h"
 
 #include <QApplication>

@@ -6,7 +6,7 @@
 #include "addressbook/viewermessages.h"
 #include "shell/controls/activitybar.h"
 #include "shell/core/settingskeys.h"
-#include "shell/previewpane.h"
+#include "shell/preview/previewpane.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

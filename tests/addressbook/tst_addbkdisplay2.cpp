@@ -3,7 +3,7 @@
 #include "addressbook/picturegallery.h"
 #include "addressbook/viewermessages.h"
 #include "shell/controls/activitybar.h"
-#include "shell/previewpane.h"
+#include "shell/preview/previewpane.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "shell/controls/activitybar.h"
-#include "shell/previewmessages.h"
-#include "shell/previewpane.h"
+#include "shell/preview/previewmessages.h"
+#include "shell/preview/previewpane.h"
 #include "tests/support/testprogram.h"
 
 #include <QLabel>

@@ -1,15 +1,15 @@
-#include "shell/previewpane.h"
+#include "shell/preview/previewpane.h"
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
-#include "shell/previewcontrols.h"
-#include "shell/previewmessages.h"
-#include "shell/printjob.h"
+#include "shell/preview/previewcontrols.h"
+#include "shell/preview/previewmessages.h"
+#include "shell/preview/printjob.h"
+#include "shell/preview/sheetview.h"
 #include "shell/program/program.h"
-#include "shell/sheetview.h"
 
 #include <QApplication>
 #include <QClipboard>

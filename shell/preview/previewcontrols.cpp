@@ -1,4 +1,4 @@
-#include "shell/previewcontrols.h"
+#include "shell/preview/previewcontrols.h"
 
 #include "shell/look/theme.h"
 

@@ -1,4 +1,4 @@
-#include "shell/sheetview.h"
+#include "shell/preview/sheetview.h"
 
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"

@@ -1,8 +1,8 @@
-#include "shell/printjob.h"
+#include "shell/preview/printjob.h"
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
-#include "shell/previewmessages.h"
+#include "shell/preview/previewmessages.h"
 #include "shell/program/program.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 
 #include "shell/core/page.h"
 #include "shell/pages/pagefont.h"
-#include "shell/sheetview.h"
+#include "shell/preview/sheetview.h"
 
 #include <QWidget>
 
