@@ -2,7 +2,7 @@
 
 #include "addressbook/addressgrid.h"
 #include "addressbook/dialler.h"
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
 
 #include <QPointer>
 #include <QUrl>

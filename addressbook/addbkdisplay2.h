@@ -1,7 +1,7 @@
 #pragma once
 
 #include "addressbook/picturecopies.h"
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
 
 class ButtonRow;
 class PictureFrame;

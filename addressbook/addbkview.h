@@ -4,7 +4,7 @@
 #include "addressbook/addresspages.h"
 #include "addressbook/dialler.h"
 #include "addressbook/picturefolder.h"
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
 
 #include <QPersistentModelIndex>
 

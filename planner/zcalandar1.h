@@ -5,7 +5,7 @@
 #include "planner/plannerfiles.h"
 #include "planner/plannerpages.h"
 #include "planner/todoimport.h"
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
 
 #include <optional>
 

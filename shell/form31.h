@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
 #include "shell/passwordfile.h"
 
 #include <array>

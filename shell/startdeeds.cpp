@@ -11,6 +11,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
+#include "shell/frame/toolbars.h"
 #include "shell/gate.h"
 #include "shell/listfile.h"
 #include "shell/look/colortext.h"
@@ -18,7 +19,6 @@
 #include "shell/menupicture.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/sharedprocedures.h"
-#include "shell/toolbars.h"
 
 #include <QAction>
 #include <QMenu>

@@ -7,13 +7,13 @@
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/dates.h"
 #include "shell/core/settingskeys.h"
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/frame/toolbars.h"
 #include "shell/menupicture.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/sharedprocedures.h"
 #include "shell/sidetoolbar.h"
 #include "shell/startmessages.h"
-#include "shell/toolbars.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>

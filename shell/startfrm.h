@@ -2,8 +2,8 @@
 
 #include "shell/backgroundchoice.h"
 #include "shell/displaymode.h"
+#include "shell/frame/panelcolors.h"
 #include "shell/menunews.h"
-#include "shell/panelcolors.h"
 #include "shell/startdispatch.h"
 
 #include <QLocale>

@@ -3,10 +3,10 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/toolbars.h"
 #include "shell/look/theme.h"
 #include "shell/program/functionfaces.h"
 #include "shell/sidetoolbar.h"
-#include "shell/toolbars.h"
 
 #include <QAction>
 #include <QMenu>

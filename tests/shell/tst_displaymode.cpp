@@ -1,7 +1,7 @@
 #include "startwindow.h"
 
 #include "shell/core/settingskeys.h"
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
 #include "shell/startmessages.h"
 
 using namespace Qt::Literals::StringLiterals;

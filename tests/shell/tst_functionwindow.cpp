@@ -2,7 +2,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
 #include "shell/look/theme.h"
 #include "tests/support/testprogram.h"
 

@@ -2,8 +2,8 @@
 
 #include "shell/carddesk.h"
 #include "shell/core/settingskeys.h"
+#include "shell/frame/panelcolors.h"
 #include "shell/functioncard.h"
-#include "shell/panelcolors.h"
 #include "shell/program/functionfaces.h"
 
 #include <QFile>

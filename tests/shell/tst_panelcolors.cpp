@@ -2,8 +2,8 @@
 #include "shell/controls/controls.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
+#include "shell/frame/panelcolors.h"
 #include "shell/look/theme.h"
-#include "shell/panelcolors.h"
 #include "tests/support/testprogram.h"
 
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
+#include "shell/frame/toolbars.h"
 #include "shell/look/theme.h"
-#include "shell/toolbars.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

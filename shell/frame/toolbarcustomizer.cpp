@@ -1,8 +1,8 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/core/shellmessages.h"
+#include "shell/frame/toolbars.h"
 #include "shell/look/theme.h"
-#include "shell/toolbars.h"
 
 #include <QAction>
 #include <QGridLayout>

@@ -3,7 +3,7 @@
 #include "shell/core/message.h"
 #include "shell/core/page.h"
 #include "shell/core/settingskeys.h"
-#include "shell/panelcolors.h"
+#include "shell/frame/panelcolors.h"
 #include "shell/program/program.h"
 
 #include <QAction>

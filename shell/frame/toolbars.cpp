@@ -1,4 +1,4 @@
-#include "shell/toolbars.h"
+#include "shell/frame/toolbars.h"
 
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"

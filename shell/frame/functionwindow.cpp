@@ -1,12 +1,12 @@
-#include "shell/functionwindow.h"
+#include "shell/frame/functionwindow.h"
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/shellmessages.h"
+#include "shell/frame/toolbars.h"
 #include "shell/look/theme.h"
 #include "shell/preview/previewpane.h"
-#include "shell/toolbars.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,4 +1,4 @@
-#include "shell/panelcolors.h"
+#include "shell/frame/panelcolors.h"
 
 #include "shell/controls/activitybar.h"
 #include "shell/core/shellmessages.h"
