@@ -12,11 +12,11 @@
 #include "addressbook/viewerlines.h"
 #include "addressbook/viewermessages.h"
 #include "addressbook/viewerpages.h"
+#include "shell/access/gate.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
-#include "shell/gate.h"
 #include "storage/saving.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "app/assembly.h"
 
 #include "app/functions.h"
-#include "shell/form32.h"
-#include "shell/passwordfile.h"
+#include "shell/access/passwordfile.h"
+#include "shell/access/passwordprompt.h"
 #include "storage/saving.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/gate.h"
+#include "shell/access/gate.h"
 #include "shell/helpviewer.h"
 #include "shell/program/program.h"
 #include "shell/program/qtdialogs.h"

@@ -6,8 +6,8 @@
 #include "planner/dayrecord.h"
 #include "planner/plannernews.h"
 #include "planner/zcalandar1.h"
-#include "shell/form31.h"
-#include "shell/passwordfile.h"
+#include "shell/access/passwordcontrol.h"
+#include "shell/access/passwordfile.h"
 #include "shell/program/program.h"
 
 using namespace Qt::Literals::StringLiterals;

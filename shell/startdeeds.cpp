@@ -1,6 +1,7 @@
 #include "shell/startfrm.h"
 
 #include "shell/about1.h"
+#include "shell/access/gate.h"
 #include "shell/backgroundchoice.h"
 #include "shell/backgroundselector.h"
 #include "shell/carddesk.h"
@@ -12,7 +13,6 @@
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
 #include "shell/frame/toolbars.h"
-#include "shell/gate.h"
 #include "shell/listfile.h"
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"

@@ -1,5 +1,5 @@
 #include "app/functions.h"
-#include "shell/passwordfile.h"
+#include "shell/access/passwordfile.h"
 #include "tests/support/testprogram.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,8 +1,8 @@
+#include "shell/access/passwordcontrol.h"
+#include "shell/access/passwordmessages.h"
+#include "shell/access/passwordpage.h"
 #include "shell/controls/activitybar.h"
 #include "shell/core/area.h"
-#include "shell/form31.h"
-#include "shell/passwordmessages.h"
-#include "shell/passwordpage.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

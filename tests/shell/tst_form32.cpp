@@ -1,6 +1,6 @@
+#include "shell/access/passwordmessages.h"
+#include "shell/access/passwordprompt.h"
 #include "shell/core/area.h"
-#include "shell/form32.h"
-#include "shell/passwordmessages.h"
 #include "tests/support/testprogram.h"
 
 #include <QCheckBox>

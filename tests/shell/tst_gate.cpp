@@ -1,6 +1,6 @@
+#include "shell/access/gate.h"
+#include "shell/access/passwordfile.h"
 #include "shell/core/area.h"
-#include "shell/gate.h"
-#include "shell/passwordfile.h"
 #include "tests/support/testprogram.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,4 +1,4 @@
-#include "shell/passwordfile.h"
+#include "shell/access/passwordfile.h"
 #include "tests/storage/filesizelimit.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "scripteddialogs.h"
-#include "shell/gate.h"
+#include "shell/access/gate.h"
 #include "shell/program/program.h"
 
 #include <QSettings>

@@ -1,4 +1,4 @@
-#include "shell/attempts.h"
+#include "shell/access/attempts.h"
 
 Attempts::Attempts(std::chrono::milliseconds step, QObject *parent)
     : QObject(parent)

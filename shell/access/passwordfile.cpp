@@ -1,4 +1,4 @@
-#include "shell/passwordfile.h"
+#include "shell/access/passwordfile.h"
 
 #include "shell/core/settingskeys.h"
 #include "storage/ansitext.h"

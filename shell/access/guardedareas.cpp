@@ -1,4 +1,4 @@
-#include "shell/guardedareas.h"
+#include "shell/access/guardedareas.h"
 
 #include "shell/core/area.h"
 

@@ -1,14 +1,14 @@
-#include "shell/form31.h"
+#include "shell/access/passwordcontrol.h"
 
+#include "shell/access/guardedareas.h"
+#include "shell/access/passwordmessages.h"
+#include "shell/access/passwordpage.h"
+#include "shell/access/passwordpane.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/area.h"
 #include "shell/core/helpcontexts.h"
-#include "shell/guardedareas.h"
 #include "shell/look/theme.h"
-#include "shell/passwordmessages.h"
-#include "shell/passwordpage.h"
-#include "shell/passwordpane.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -1,7 +1,7 @@
-#include "shell/gate.h"
+#include "shell/access/gate.h"
 
+#include "shell/access/passwordfile.h"
 #include "shell/core/area.h"
-#include "shell/passwordfile.h"
 #include "shell/program/program.h"
 
 #include <utility>

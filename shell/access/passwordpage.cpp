@@ -1,6 +1,6 @@
-#include "shell/passwordpage.h"
+#include "shell/access/passwordpage.h"
 
-#include "shell/guardedareas.h"
+#include "shell/access/guardedareas.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,8 +1,8 @@
-#include "shell/passwordpane.h"
+#include "shell/access/passwordpane.h"
 
+#include "shell/access/passwordmessages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
-#include "shell/passwordmessages.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,11 +1,11 @@
-#include "shell/form32.h"
+#include "shell/access/passwordprompt.h"
 
+#include "shell/access/guardedareas.h"
+#include "shell/access/passwordmessages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/core/area.h"
-#include "shell/guardedareas.h"
 #include "shell/look/theme.h"
-#include "shell/passwordmessages.h"
 #include "shell/program/program.h"
 
 #include <QCheckBox>

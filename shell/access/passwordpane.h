@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/attempts.h"
-#include "shell/passwordfile.h"
+#include "shell/access/attempts.h"
+#include "shell/access/passwordfile.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "shell/access/passwordfile.h"
 #include "shell/frame/functionwindow.h"
-#include "shell/passwordfile.h"
 
 #include <array>
 #include <chrono>
