@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/access/gate.h"
-#include "shell/helpviewer.h"
+#include "shell/manual/helpviewer.h"
 #include "shell/program/program.h"
 #include "shell/program/qtdialogs.h"
 

@@ -1,8 +1,8 @@
 #include "shell/core/helpcontexts.h"
-#include "shell/helpentry.h"
-#include "shell/helpviewer.h"
-#include "shell/manualbrowser.h"
-#include "shell/manualprint.h"
+#include "shell/manual/helpentry.h"
+#include "shell/manual/helpviewer.h"
+#include "shell/manual/manualbrowser.h"
+#include "shell/manual/manualprint.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

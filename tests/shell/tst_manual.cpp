@@ -1,5 +1,5 @@
 #include "shell/core/helpcontexts.h"
-#include "shell/manual.h"
+#include "shell/manual/manual.h"
 
 #include <QRegularExpression>
 #include <QTest>

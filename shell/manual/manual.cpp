@@ -1,4 +1,4 @@
-#include "shell/manual.h"
+#include "shell/manual/manual.h"
 
 #include "shell/core/helpcontexts.h"
 

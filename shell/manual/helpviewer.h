@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/frame/functionwindow.h"
-#include "shell/manual.h"
+#include "shell/manual/manual.h"
 
 class ManualBrowser;
 class QLabel;

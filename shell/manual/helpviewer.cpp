@@ -1,12 +1,12 @@
-#include "shell/helpviewer.h"
+#include "shell/manual/helpviewer.h"
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
-#include "shell/helpentry.h"
 #include "shell/look/theme.h"
-#include "shell/manualbrowser.h"
-#include "shell/manualprint.h"
+#include "shell/manual/helpentry.h"
+#include "shell/manual/manualbrowser.h"
+#include "shell/manual/manualprint.h"
 
 #include <QKeyEvent>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "shell/helpentry.h"
+#include "shell/manual/helpentry.h"
 
 #include "shell/look/theme.h"
 

@@ -1,4 +1,4 @@
-#include "shell/manualprint.h"
+#include "shell/manual/manualprint.h"
 
 #include <QRegularExpression>
 

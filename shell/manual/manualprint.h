@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/core/page.h"
-#include "shell/manual.h"
+#include "shell/manual/manual.h"
 
 #include <QDate>
 

@@ -1,7 +1,7 @@
-#include "shell/manualbrowser.h"
+#include "shell/manual/manualbrowser.h"
 
 #include "shell/look/theme.h"
-#include "shell/manual.h"
+#include "shell/manual/manual.h"
 
 #include <QEvent>
 #include <QScrollBar>
