@@ -1,10 +1,10 @@
 #include "app/assembly.h"
 #include "app/instancelink.h"
 #include "shell/look/theme.h"
+#include "shell/mainmenu/mainmenumessages.h"
+#include "shell/mainmenu/mainmenuwindow.h"
+#include "shell/mainmenu/splash.h"
 #include "shell/program/program.h"
-#include "shell/splash1.h"
-#include "shell/startfrm.h"
-#include "shell/startmessages.h"
 #include "storage/folderlock.h"
 #include "storage/log.h"
 

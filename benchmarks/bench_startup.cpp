@@ -5,8 +5,8 @@
 #include "app/assembly.h"
 #include "benchmarks/limit.h"
 #include "shell/look/theme.h"
-#include "shell/menupicture.h"
-#include "shell/startfrm.h"
+#include "shell/mainmenu/mainmenuwindow.h"
+#include "shell/mainmenu/menupicture.h"
 
 #include <QApplication>
 #include <QDir>

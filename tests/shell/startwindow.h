@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/startfrm.h"
+#include "shell/mainmenu/mainmenuwindow.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

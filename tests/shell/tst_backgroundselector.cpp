@@ -1,12 +1,12 @@
 #include "startwindow.h"
 
-#include "shell/backdrop.h"
-#include "shell/backgroundselector.h"
-#include "shell/backgroundslot.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
-#include "shell/menupicture.h"
+#include "shell/mainmenu/backdrop.h"
+#include "shell/mainmenu/backgroundselector.h"
+#include "shell/mainmenu/backgroundslot.h"
+#include "shell/mainmenu/menupicture.h"
 
 #include <QPainter>
 #include <QPushButton>

@@ -2,7 +2,7 @@
 
 #include "shell/core/settingskeys.h"
 #include "shell/frame/functionwindow.h"
-#include "shell/startmessages.h"
+#include "shell/mainmenu/mainmenumessages.h"
 
 using namespace Qt::Literals::StringLiterals;
 

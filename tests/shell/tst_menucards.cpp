@@ -1,9 +1,9 @@
 #include "startwindow.h"
 
-#include "shell/carddesk.h"
 #include "shell/core/settingskeys.h"
 #include "shell/frame/panelcolors.h"
-#include "shell/functioncard.h"
+#include "shell/mainmenu/carddesk.h"
+#include "shell/mainmenu/functioncard.h"
 #include "shell/program/functionfaces.h"
 
 #include <QFile>

@@ -2,7 +2,7 @@
 
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/helpcontexts.h"
-#include "shell/startmessages.h"
+#include "shell/mainmenu/mainmenumessages.h"
 
 #include <QToolButton>
 

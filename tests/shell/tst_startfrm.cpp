@@ -3,8 +3,8 @@
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
+#include "shell/mainmenu/mainmenumessages.h"
 #include "shell/program/sharedprocedures.h"
-#include "shell/startmessages.h"
 
 #include <QDialog>
 #include <QDir>

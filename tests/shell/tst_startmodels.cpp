@@ -1,7 +1,7 @@
-#include "shell/backgroundchoice.h"
-#include "shell/listfile.h"
-#include "shell/menunews.h"
-#include "shell/startmessages.h"
+#include "shell/mainmenu/backgroundchoice.h"
+#include "shell/mainmenu/listfile.h"
+#include "shell/mainmenu/mainmenumessages.h"
+#include "shell/mainmenu/menunews.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "shell/sidetoolbar.h"
+#include "shell/mainmenu/sidetoolbar.h"
 
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"

@@ -1,4 +1,4 @@
-#include "shell/menunews.h"
+#include "shell/mainmenu/menunews.h"
 
 #include "shell/core/area.h"
 #include "shell/program/functionfaces.h"

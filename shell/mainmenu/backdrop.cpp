@@ -1,4 +1,4 @@
-#include "shell/backdrop.h"
+#include "shell/mainmenu/backdrop.h"
 
 #include "shell/look/theme.h"
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "shell/backgroundchoice.h"
-#include "shell/displaymode.h"
 #include "shell/frame/panelcolors.h"
-#include "shell/menunews.h"
-#include "shell/startdispatch.h"
+#include "shell/mainmenu/backgroundchoice.h"
+#include "shell/mainmenu/displaymode.h"
+#include "shell/mainmenu/menunews.h"
+#include "shell/mainmenu/topbuttons.h"
 
 #include <QLocale>
 #include <QMainWindow>

@@ -1,4 +1,4 @@
-#include "shell/backgroundchoice.h"
+#include "shell/mainmenu/backgroundchoice.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "shell/displaymode.h"
+#include "shell/mainmenu/displaymode.h"
 
 #include "shell/core/settingskeys.h"
 #include "shell/program/sharedprocedures.h"

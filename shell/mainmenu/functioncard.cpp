@@ -1,4 +1,4 @@
-#include "shell/functioncard.h"
+#include "shell/mainmenu/functioncard.h"
 
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"

@@ -1,4 +1,4 @@
-#include "shell/about1.h"
+#include "shell/mainmenu/about.h"
 
 #include "shell/controls/controls.h"
 #include "shell/look/icons.h"

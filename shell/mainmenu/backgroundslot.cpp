@@ -1,8 +1,8 @@
-#include "shell/backgroundslot.h"
+#include "shell/mainmenu/backgroundslot.h"
 
-#include "shell/backdrop.h"
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
+#include "shell/mainmenu/backdrop.h"
 
 #include <QImageReader>
 #include <QPainter>

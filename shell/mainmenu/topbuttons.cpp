@@ -1,6 +1,6 @@
-#include "shell/startdispatch.h"
+#include "shell/mainmenu/topbuttons.h"
 
-#include "shell/startmessages.h"
+#include "shell/mainmenu/mainmenumessages.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "shell/splash1.h"
+#include "shell/mainmenu/splash.h"
 
 #include "shell/core/settingskeys.h"
 #include "shell/look/icons.h"

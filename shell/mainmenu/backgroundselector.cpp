@@ -1,8 +1,8 @@
-#include "shell/backgroundselector.h"
+#include "shell/mainmenu/backgroundselector.h"
 
-#include "shell/backgroundslot.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/gridwalk.h"
+#include "shell/mainmenu/backgroundslot.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>

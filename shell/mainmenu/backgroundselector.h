@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/backgroundchoice.h"
+#include "shell/mainmenu/backgroundchoice.h"
 
 #include <QWidget>
 

@@ -1,12 +1,12 @@
-#include "shell/startfrm.h"
+#include "shell/mainmenu/mainmenuwindow.h"
 
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/toolbars.h"
 #include "shell/look/theme.h"
+#include "shell/mainmenu/sidetoolbar.h"
 #include "shell/program/functionfaces.h"
-#include "shell/sidetoolbar.h"
 
 #include <QAction>
 #include <QMenu>

@@ -1,4 +1,4 @@
-#include "shell/listfile.h"
+#include "shell/mainmenu/listfile.h"
 
 #include "storage/ansitext.h"
 

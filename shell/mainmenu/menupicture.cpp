@@ -1,9 +1,9 @@
-#include "shell/menupicture.h"
+#include "shell/mainmenu/menupicture.h"
 
-#include "shell/backgroundselector.h"
-#include "shell/carddesk.h"
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
+#include "shell/mainmenu/backgroundselector.h"
+#include "shell/mainmenu/carddesk.h"
 
 #include <QPainter>
 #include <QScrollArea>

@@ -1,7 +1,5 @@
-#include "shell/startfrm.h"
+#include "shell/mainmenu/mainmenuwindow.h"
 
-#include "shell/backgroundchoice.h"
-#include "shell/carddesk.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
@@ -9,11 +7,13 @@
 #include "shell/core/settingskeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/toolbars.h"
-#include "shell/menupicture.h"
+#include "shell/mainmenu/backgroundchoice.h"
+#include "shell/mainmenu/carddesk.h"
+#include "shell/mainmenu/mainmenumessages.h"
+#include "shell/mainmenu/menupicture.h"
+#include "shell/mainmenu/sidetoolbar.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/sharedprocedures.h"
-#include "shell/sidetoolbar.h"
-#include "shell/startmessages.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>

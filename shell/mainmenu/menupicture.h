@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/backdrop.h"
+#include "shell/mainmenu/backdrop.h"
 
 #include <QWidget>
 

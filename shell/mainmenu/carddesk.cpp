@@ -1,10 +1,10 @@
-#include "shell/carddesk.h"
+#include "shell/mainmenu/carddesk.h"
 
 #include "shell/controls/controls.h"
 #include "shell/controls/gridwalk.h"
-#include "shell/functioncard.h"
 #include "shell/look/theme.h"
-#include "shell/menunews.h"
+#include "shell/mainmenu/functioncard.h"
+#include "shell/mainmenu/menunews.h"
 #include "shell/program/functionfaces.h"
 
 #include <QLabel>
