@@ -3,9 +3,11 @@
 #include "addressbook/buttonrow.h"
 #include "addressbook/pictureframe.h"
 #include "addressbook/picturegallery.h"
+#include "addressbook/picturelines.h"
 #include "addressbook/quietlines.h"
 #include "addressbook/viewerlines.h"
 #include "addressbook/viewermessages.h"
+#include "addressbook/viewerpages.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
@@ -95,7 +97,8 @@ QWidget *ADDBKDISPLAY2::makeGalleryPage()
     head->addWidget(title, 1);
     for (QWidget *part : std::initializer_list<QWidget *>{m_previous, m_pageNumber, m_next})
         head->addWidget(part);
-    m_gallery = named(new PictureGallery(program().folder, page), u"pictures"_s);
+    m_gallery =
+        named(new PictureGallery(program().folder, ViewerPages::picturesPerSheet, page), u"pictures"_s);
     m_gallery->setAccessibleName(u"Pictures"_s);
     layout->addLayout(head);
     layout->addWidget(m_gallery, 1);
@@ -202,7 +205,7 @@ void ADDBKDISPLAY2::warn()
 void ADDBKDISPLAY2::readBook()
 {
     m_viewer.load(Information::Pictures, {});
-    m_pictures = picturesOf(m_viewer);
+    m_pictures = ViewerPages::picturesOf(m_viewer);
     m_total->setText(ViewerMessages::pictureTotal(int(m_pictures.size())));
     showPage(std::min(m_page, pageCount() - 1));
 }
@@ -249,10 +252,10 @@ void ADDBKDISPLAY2::enlarge(const QString &stored, const QString &name)
 {
     m_enlargedName->setText(name);
     m_enlarged->clear();
-    m_enlarged->setWords(ViewerLines::loading());
+    m_enlarged->setWords(PictureLines::loading());
     m_enlarger->forget();
     m_enlarger->load(stored, enlargedPixels, [this](const LoadedPicture &picture) {
-        m_enlarged->setWords(ViewerLines::pictureNotFound());
+        m_enlarged->setWords(PictureLines::pictureNotFound());
         m_enlarged->setImage(picture.image);
     });
     m_pages->setCurrentWidget(m_enlargedPage);

@@ -133,7 +133,7 @@ void ADDBKDISPLAY::printList()
 
 void ADDBKDISPLAY::printPictures()
 {
-    const std::vector<NamedPicture> pictures = picturesOf(m_rows->viewer());
+    const std::vector<NamedPicture> pictures = ViewerPages::picturesOf(m_rows->viewer());
     if (pictures.empty()) {
         activity().say(ViewerLines::noPictures());
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "addressbook/storedpicture.h"
 #include "storage/recordlayout.h"
 
 #include <QString>
@@ -43,9 +44,6 @@ struct AddressEntry {
 
 /// The label of a field on screen and on the clipboard: "Last Name:". The second address line has none.
 QString addressLabel(AddressField field);
-
-/// What the picture field of an entry without a picture holds.
-inline constexpr QLatin1StringView noPicture("**");
 
 inline constexpr qsizetype addressTextWidth = 40;
 inline constexpr qsizetype addressPictureWidth = 200;

@@ -11,21 +11,8 @@ namespace {
 constexpr QSize printedPixels(540, 300);
 /// Jobs that wait for a thread: the rest is started as these are done.
 constexpr std::size_t atOnce = 8;
-/// Shorter paths are no paths.
-constexpr qsizetype shortestPath = 5;
 
 } // namespace
-
-std::vector<NamedPicture> picturesOf(const AddressViewer &viewer)
-{
-    std::vector<NamedPicture> pictures;
-    for (int row = 0; row < viewer.count(); ++row) {
-        const QString stored = viewer.information(row).trimmed();
-        if (stored != noPicture && stored.size() >= shortestPath)
-            pictures.push_back({viewer.name(row), stored});
-    }
-    return pictures;
-}
 
 PictureCopies::PictureCopies(const DataFolder &folder, QObject *parent)
     : QObject(parent)

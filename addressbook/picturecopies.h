@@ -1,22 +1,11 @@
 #pragma once
 
 #include "addressbook/pictureloader.h"
-#include "addressbook/viewerpages.h"
+#include "addressbook/storedpicture.h"
 
 #include <QTemporaryDir>
 
 #include <optional>
-
-/// A picture of the address book by the name of its entry.
-struct NamedPicture {
-    QString name;
-    QString stored; ///< the path as the entry has it
-
-    bool operator==(const NamedPicture &) const = default;
-};
-
-/// The rows of the viewer that have a picture; the viewer was loaded with `Information::Pictures`.
-std::vector<NamedPicture> picturesOf(const AddressViewer &viewer);
 
 /// Makes pictures ready for printing: copies no larger than they are printed, in a folder of their own, so
 /// that neither preview nor printer ever waits for a large file. They live as long as this object, or until
@@ -33,7 +22,7 @@ public:
     bool isBusy() const { return m_isBusy; }
 
     /// In the order given; a picture without a file has an empty path.
-    const std::vector<ViewerPages::ListedPicture> &pictures() const { return m_copies; }
+    const std::vector<ListedPicture> &pictures() const { return m_copies; }
 
 signals:
     void progressed(int done, int total);
@@ -47,7 +36,7 @@ private:
     PictureLoader m_loader;
     std::optional<QTemporaryDir> m_folder;
     std::vector<NamedPicture> m_originals;
-    std::vector<ViewerPages::ListedPicture> m_copies;
+    std::vector<ListedPicture> m_copies;
     std::size_t m_next = 0;
     int m_done = 0;
     bool m_isBusy = false;

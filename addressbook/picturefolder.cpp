@@ -1,6 +1,6 @@
 #include "addressbook/picturefolder.h"
 
-#include "addressbook/addressentry.h"
+#include "addressbook/storedpicture.h"
 #include "storage/ansitext.h"
 #include "storage/saving.h"
 #include "storage/valuefile.h"
@@ -63,8 +63,8 @@ QString PictureFolder::locate(const QString &stored) const
     return beside.isEmpty() ? m_folder.existingFile(u"Pictures"_s, name) : beside;
 }
 
-bool PictureFolder::isStorable(const QString &path)
+bool PictureFolder::isStorable(const QString &path, qsizetype width)
 {
-    return AnsiText::isHoldable(path) && AnsiText::encode(path).size() <= addressPictureWidth &&
+    return AnsiText::isHoldable(path) && AnsiText::encode(path).size() <= width &&
            AnsiText::trimmedBlanksRight(path) == path;
 }

@@ -21,8 +21,8 @@ public:
     /// or the `Pictures` folder in it; empty when there is none.
     QString locate(const QString &stored) const;
 
-    /// Whether an entry can keep `path`: every character has a byte, and 200 bytes hold it.
-    static bool isStorable(const QString &path);
+    /// Whether a record's field of `width` bytes can keep `path`: every character has a byte, and all fit.
+    static bool isStorable(const QString &path, qsizetype width);
 
 private:
     const DataFolder &m_folder;

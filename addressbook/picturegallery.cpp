@@ -1,6 +1,6 @@
 #include "addressbook/picturegallery.h"
 
-#include "addressbook/viewerlines.h"
+#include "addressbook/picturelines.h"
 #include "shell/look/theme.h"
 
 #include <QAbstractListModel>
@@ -162,7 +162,7 @@ private:
         painter.setPen(theme.quiet);
         painter.setFont(TypeScale::label());
         painter.drawText(place.adjusted(4, 4, -4, -4), Qt::AlignCenter | Qt::TextWordWrap,
-                         state == State::Waiting ? ViewerLines::loading() : ViewerLines::pictureNotFound());
+                         state == State::Waiting ? PictureLines::loading() : PictureLines::pictureNotFound());
     }
 
     const PictureGalleryModel &m_model;
@@ -171,8 +171,9 @@ private:
 
 } // namespace
 
-PictureGallery::PictureGallery(const DataFolder &folder, QWidget *parent)
+PictureGallery::PictureGallery(const DataFolder &folder, int perPage, QWidget *parent)
     : QListView(parent)
+    , m_rows(perPage / columns)
     , m_loader(folder)
     , m_model(new PictureGalleryModel(this))
 {
@@ -228,8 +229,8 @@ void PictureGallery::resizeEvent(QResizeEvent *event)
 void PictureGallery::fitTiles()
 {
     const QSize room = contentsRect().size();
-    const int height = std::max(leastTileHeight, (room.height() - 1) / rows);
-    const bool scrolls = height * rows > room.height();
+    const int height = std::max(leastTileHeight, (room.height() - 1) / m_rows);
+    const bool scrolls = height * m_rows > room.height();
     setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     const int bar = scrolls ? verticalScrollBar()->sizeHint().width() : 0;
     setGridSize({(room.width() - bar - 1) / columns, height});

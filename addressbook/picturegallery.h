@@ -1,6 +1,7 @@
 #pragma once
 
-#include "addressbook/picturecopies.h"
+#include "addressbook/pictureloader.h"
+#include "addressbook/storedpicture.h"
 
 #include <QListView>
 
@@ -13,9 +14,9 @@ class PictureGallery final : public QListView
     Q_OBJECT
 public:
     static constexpr int columns = 5;
-    static constexpr int rows = ViewerPages::picturesPerSheet / columns;
 
-    explicit PictureGallery(const DataFolder &folder, QWidget *parent = nullptr);
+    /// Room for `perPage` pictures, a multiple of the columns.
+    PictureGallery(const DataFolder &folder, int perPage, QWidget *parent = nullptr);
     ~PictureGallery() override;
 
     void setPictures(std::vector<NamedPicture> pictures);
@@ -40,6 +41,7 @@ private:
     void fitTiles();
     void open(const QModelIndex &index);
 
+    int m_rows;
     PictureLoader m_loader;
     PictureGalleryModel *m_model;
     int m_waiting = 0;

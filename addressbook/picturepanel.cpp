@@ -278,7 +278,7 @@ void PicturePanel::enterPicture()
     if (!m_preview->hasPicture())
         return;
     const QString path = QDir::toNativeSeparators(chosenFile());
-    if (!PictureFolder::isStorable(path)) {
+    if (!PictureFolder::isStorable(path, addressPictureWidth)) {
         emit said(AddressLines::pathNotStorable());
         return;
     }

@@ -22,16 +22,6 @@ inline QString noPictures()
     return u"No entry has a picture"_s;
 }
 
-inline QString loading()
-{
-    return u"Loading"_s;
-}
-
-inline QString pictureNotFound()
-{
-    return u"Picture not found"_s;
-}
-
 inline QString stopped()
 {
     return u"Stopped"_s;

@@ -11,6 +11,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// Shorter paths are no paths.
+constexpr qsizetype shortestPath = 5;
+
 // The picture list, in inches.
 constexpr QPointF firstPicture(0.25, 0.8);
 constexpr double picturePitch = 2.0;
@@ -231,6 +234,17 @@ Page ViewerPages::pictureList(const std::vector<ListedPicture> &pictures, const 
         }
     }
     return page.close(today, style);
+}
+
+std::vector<NamedPicture> ViewerPages::picturesOf(const AddressViewer &viewer)
+{
+    std::vector<NamedPicture> pictures;
+    for (int row = 0; row < viewer.count(); ++row) {
+        const QString stored = viewer.information(row).trimmed();
+        if (stored != noPicture && stored.size() >= shortestPath)
+            pictures.push_back({viewer.name(row), stored});
+    }
+    return pictures;
 }
 
 QString ViewerPages::clipboardText(const AddressViewer &viewer, DateStyle style)

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "addressbook/addressviewer.h"
+#include "addressbook/storedpicture.h"
 #include "shell/core/page.h"
-
-#include <QSize>
 
 #include <vector>
 
@@ -28,15 +27,6 @@ struct ListOptions {
 /// The rows as they are shown. Where the viewer shows pictures, the names alone.
 Page list(const AddressViewer &viewer, const ListOptions &options, DateStyle style, QDate today);
 
-/// One place of the picture list.
-struct ListedPicture {
-    QString name;
-    QString path; ///< a file that is quick to read; empty leaves the place empty
-    QSize pixels; ///< of the picture as it was taken
-
-    bool operator==(const ListedPicture &) const = default;
-};
-
 /// Pictures on a portrait sheet: four columns of five.
 inline constexpr int picturesPerSheet = 20;
 
@@ -45,6 +35,9 @@ inline constexpr int picturesPerSheet = 20;
 /// an inch.
 Page pictureList(const std::vector<ListedPicture> &pictures, const PageSetup &setup, DateStyle style,
                  QDate today);
+
+/// The rows that have a picture; the viewer was loaded with `Information::Pictures`.
+std::vector<NamedPicture> picturesOf(const AddressViewer &viewer);
 
 /// Headings and rows, cells separated by tabs; for the clipboard.
 QString clipboardText(const AddressViewer &viewer, DateStyle style);

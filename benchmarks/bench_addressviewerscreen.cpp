@@ -2,6 +2,7 @@
 // two turns of the event loop.
 
 #include "addressbook/picturegallery.h"
+#include "addressbook/viewerpages.h"
 #include "benchmarks/limit.h"
 #include "shell/look/theme.h"
 
@@ -59,7 +60,7 @@ void readPage(benchmark::State &state, QSize window)
     QTemporaryDir data;
     savePhotograph(data.filePath(u"photo.jpg"_s));
     const DataFolder folder(data.path());
-    PictureGallery gallery(folder);
+    PictureGallery gallery(folder, ViewerPages::picturesPerSheet);
     gallery.resize(window);
     gallery.show();
     const std::vector<NamedPicture> page(ViewerPages::picturesPerSheet, {u"Lind, Anne"_s, u"photo.jpg"_s});

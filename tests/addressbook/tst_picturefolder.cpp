@@ -109,10 +109,10 @@ void TestPictureFolder::prefersThePathAsItStands()
 
 void TestPictureFolder::knowsWhatAnEntryCanKeep()
 {
-    QVERIFY(PictureFolder::isStorable(QString(200, u'\u00EB')));
-    QVERIFY(!PictureFolder::isStorable(QString(201, u'a')));
-    QVERIFY(!PictureFolder::isStorable(u"/home/Ωmega.jpg"_s));
-    QVERIFY(!PictureFolder::isStorable(u"/home/a.jpg "_s));
+    QVERIFY(PictureFolder::isStorable(QString(200, u'\u00EB'), 200));
+    QVERIFY(!PictureFolder::isStorable(QString(201, u'a'), 200));
+    QVERIFY(!PictureFolder::isStorable(u"/home/Ωmega.jpg"_s, 200));
+    QVERIFY(!PictureFolder::isStorable(u"/home/a.jpg "_s, 200));
 }
 
 QTEST_GUILESS_MAIN(TestPictureFolder)

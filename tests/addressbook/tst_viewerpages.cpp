@@ -61,10 +61,9 @@ QList<QStringList> rowsOf(const Page &page)
     return rows;
 }
 
-std::vector<ViewerPages::ListedPicture> pictures(int count)
+std::vector<ListedPicture> pictures(int count)
 {
-    return std::vector<ViewerPages::ListedPicture>(std::size_t(count),
-                                                   {u"Lind, Anne"_s, u"/a.jpg"_s, {1024, 768}});
+    return std::vector<ListedPicture>(std::size_t(count), {u"Lind, Anne"_s, u"/a.jpg"_s, {1024, 768}});
 }
 
 } // namespace
