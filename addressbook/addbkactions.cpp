@@ -6,7 +6,6 @@
 #include "addressbook/messages.h"
 #include "addressbook/namelistmodel.h"
 #include "addressbook/namelistview.h"
-#include "addressbook/pictureframe.h"
 #include "addressbook/picturepanel.h"
 #include "addressbook/printoptions.h"
 #include "addressbook/quietlines.h"
@@ -14,6 +13,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/pictures/pictureframe.h"
 
 #include <QApplication>
 #include <QClipboard>

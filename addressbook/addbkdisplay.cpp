@@ -6,7 +6,6 @@
 #include "addressbook/gridview.h"
 #include "addressbook/labelpanel.h"
 #include "addressbook/listoptionspanel.h"
-#include "addressbook/picturecopies.h"
 #include "addressbook/viewerchoices.h"
 #include "addressbook/viewerlines.h"
 #include "addressbook/viewermessages.h"
@@ -14,6 +13,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/pictures/picturecopies.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

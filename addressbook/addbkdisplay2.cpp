@@ -1,9 +1,6 @@
 #include "addressbook/addbkdisplay2.h"
 
 #include "addressbook/buttonrow.h"
-#include "addressbook/pictureframe.h"
-#include "addressbook/picturegallery.h"
-#include "addressbook/picturelines.h"
 #include "addressbook/quietlines.h"
 #include "addressbook/viewerlines.h"
 #include "addressbook/viewermessages.h"
@@ -13,6 +10,9 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
+#include "shell/pictures/pictureframe.h"
+#include "shell/pictures/picturegallery.h"
+#include "shell/pictures/picturelines.h"
 
 #include <QKeyEvent>
 #include <QMenu>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "addressbook/picturecopies.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/pictures/picturecopies.h"
 
 class ButtonRow;
 class PictureFrame;

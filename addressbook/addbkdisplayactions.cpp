@@ -8,7 +8,6 @@
 #include "addressbook/labelpanel.h"
 #include "addressbook/listoptionspanel.h"
 #include "addressbook/messages.h"
-#include "addressbook/picturecopies.h"
 #include "addressbook/viewerlines.h"
 #include "addressbook/viewermessages.h"
 #include "addressbook/viewerpages.h"
@@ -17,6 +16,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/pictures/picturecopies.h"
 #include "storage/saving.h"
 
 #include <QApplication>

@@ -7,7 +7,6 @@
 #include "addressbook/gridview.h"
 #include "addressbook/labelpanel.h"
 #include "addressbook/listoptionspanel.h"
-#include "addressbook/picturecopies.h"
 #include "addressbook/quietlines.h"
 #include "addressbook/serialmodem.h"
 #include "addressbook/viewerchoices.h"
@@ -17,6 +16,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
+#include "shell/pictures/picturecopies.h"
 
 #include <QDesktopServices>
 #include <QHeaderView>

@@ -7,7 +7,6 @@
 #include "addressbook/datepicker.h"
 #include "addressbook/namelistmodel.h"
 #include "addressbook/namelistview.h"
-#include "addressbook/pictureframe.h"
 #include "addressbook/picturepanel.h"
 #include "addressbook/printoptions.h"
 #include "addressbook/quietlines.h"
@@ -18,6 +17,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
+#include "shell/pictures/pictureframe.h"
 
 #include <QAction>
 #include <QLabel>

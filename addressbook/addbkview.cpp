@@ -6,11 +6,11 @@
 #include "addressbook/messages.h"
 #include "addressbook/namelistmodel.h"
 #include "addressbook/namelistview.h"
-#include "addressbook/pictureframe.h"
 #include "addressbook/picturepanel.h"
 #include "addressbook/quietlines.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "shell/pictures/pictureframe.h"
 
 #include <QItemSelectionModel>
 #include <QKeyEvent>

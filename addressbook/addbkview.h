@@ -3,8 +3,8 @@
 #include "addressbook/addressbook.h"
 #include "addressbook/addresspages.h"
 #include "addressbook/dialler.h"
-#include "addressbook/picturefolder.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/pictures/picturefolder.h"
 
 #include <QPersistentModelIndex>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "addressbook/storedpicture.h"
+#include "shell/pictures/storedpicture.h"
 #include "storage/recordlayout.h"
 
 #include <QString>

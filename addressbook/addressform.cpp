@@ -2,12 +2,12 @@
 
 #include "addressbook/datefacts.h"
 #include "addressbook/datepicker.h"
-#include "addressbook/pictureframe.h"
 #include "addressbook/quietlines.h"
 #include "shell/controls/controls.h"
 #include "shell/core/clock.h"
 #include "shell/core/dates.h"
 #include "shell/look/theme.h"
+#include "shell/pictures/pictureframe.h"
 
 #include <QEvent>
 #include <QLabel>

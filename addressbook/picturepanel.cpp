@@ -2,12 +2,12 @@
 
 #include "addressbook/buttonrow.h"
 #include "addressbook/messages.h"
-#include "addressbook/pictureframe.h"
 #include "addressbook/quietlines.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/look/theme.h"
+#include "shell/pictures/pictureframe.h"
 #include "shell/program/program.h"
 
 #include <QComboBox>

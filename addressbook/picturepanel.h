@@ -1,6 +1,6 @@
 #pragma once
 
-#include "addressbook/picturefolder.h"
+#include "shell/pictures/picturefolder.h"
 
 #include <QWidget>
 

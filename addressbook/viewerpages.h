@@ -1,8 +1,8 @@
 #pragma once
 
 #include "addressbook/addressviewer.h"
-#include "addressbook/storedpicture.h"
 #include "shell/core/page.h"
+#include "shell/pictures/storedpicture.h"
 
 #include <vector>
 

@@ -1,10 +1,10 @@
 // How long the screen stands still while a page of the family's photographs is read: the longest time between
 // two turns of the event loop.
 
-#include "addressbook/picturegallery.h"
 #include "addressbook/viewerpages.h"
 #include "benchmarks/limit.h"
 #include "shell/look/theme.h"
+#include "shell/pictures/picturegallery.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,8 +1,8 @@
 #include "tests/addressbook/openaddressbook.h"
 
-#include "addressbook/pictureframe.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/settingskeys.h"
+#include "shell/pictures/pictureframe.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,8 +1,8 @@
 #include "addressbook/addbkdisplay2.h"
-#include "addressbook/pictureframe.h"
-#include "addressbook/picturegallery.h"
 #include "addressbook/viewermessages.h"
 #include "shell/controls/activitybar.h"
+#include "shell/pictures/pictureframe.h"
+#include "shell/pictures/picturegallery.h"
 #include "shell/preview/previewpane.h"
 #include "tests/support/testprogram.h"
 

@@ -1,8 +1,8 @@
 #include "addressbook/addressbook.h"
 #include "addressbook/addressnews.h"
 #include "addressbook/indexline.h"
-#include "addressbook/picturefolder.h"
 #include "addressfiles.h"
+#include "shell/pictures/picturefolder.h"
 
 #include <QDir>
 #include <QJsonArray>

@@ -1,5 +1,5 @@
-#include "addressbook/picturefolder.h"
 #include "addressfiles.h"
+#include "shell/pictures/picturefolder.h"
 
 #include <QDir>
 #include <QTest>

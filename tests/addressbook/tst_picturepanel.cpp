@@ -1,6 +1,6 @@
 #include "addressbook/messages.h"
-#include "addressbook/pictureframe.h"
 #include "addressbook/picturepanel.h"
+#include "shell/pictures/pictureframe.h"
 #include "tests/support/testprogram.h"
 
 #include <QComboBox>

@@ -1,7 +1,7 @@
-#include "addressbook/picturegallery.h"
+#include "shell/pictures/picturegallery.h"
 
-#include "addressbook/picturelines.h"
 #include "shell/look/theme.h"
+#include "shell/pictures/picturelines.h"
 
 #include <QAbstractListModel>
 #include <QKeyEvent>

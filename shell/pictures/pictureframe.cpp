@@ -1,4 +1,4 @@
-#include "addressbook/pictureframe.h"
+#include "shell/pictures/pictureframe.h"
 
 #include "shell/look/theme.h"
 

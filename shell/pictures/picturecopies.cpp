@@ -1,4 +1,4 @@
-#include "addressbook/picturecopies.h"
+#include "shell/pictures/picturecopies.h"
 
 #include <algorithm>
 #include <utility>

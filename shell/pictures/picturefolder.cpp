@@ -1,6 +1,6 @@
-#include "addressbook/picturefolder.h"
+#include "shell/pictures/picturefolder.h"
 
-#include "addressbook/storedpicture.h"
+#include "shell/pictures/storedpicture.h"
 #include "storage/ansitext.h"
 #include "storage/saving.h"
 #include "storage/valuefile.h"

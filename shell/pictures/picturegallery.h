@@ -1,7 +1,7 @@
 #pragma once
 
-#include "addressbook/pictureloader.h"
-#include "addressbook/storedpicture.h"
+#include "shell/pictures/pictureloader.h"
+#include "shell/pictures/storedpicture.h"
 
 #include <QListView>
 

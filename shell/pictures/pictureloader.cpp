@@ -1,4 +1,4 @@
-#include "addressbook/pictureloader.h"
+#include "shell/pictures/pictureloader.h"
 
 #include "shell/pages/pagepicture.h"
 
