@@ -2,8 +2,6 @@
 
 #include "addressbook/addbkdisplay2.h"
 #include "addressbook/addressgrid.h"
-#include "addressbook/buttonrow.h"
-#include "addressbook/gridview.h"
 #include "addressbook/labelpanel.h"
 #include "addressbook/listoptionspanel.h"
 #include "addressbook/viewerchoices.h"
@@ -12,7 +10,9 @@
 #include "addressbook/viewerpages.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/gridview.h"
 #include "shell/pictures/picturecopies.h"
 
 #include <QHBoxLayout>

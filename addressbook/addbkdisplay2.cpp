@@ -1,11 +1,11 @@
 #include "addressbook/addbkdisplay2.h"
 
-#include "addressbook/buttonrow.h"
 #include "addressbook/quietlines.h"
 #include "addressbook/viewerlines.h"
 #include "addressbook/viewermessages.h"
 #include "addressbook/viewerpages.h"
 #include "shell/controls/activitybar.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"

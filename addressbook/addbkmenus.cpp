@@ -2,10 +2,10 @@
 
 #include "addressbook/addbkview.h"
 
-#include "addressbook/buttonrow.h"
 #include "addressbook/messages.h"
 #include "addressbook/namelistmodel.h"
 #include "addressbook/quietlines.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 
 #include <QMenu>

@@ -3,8 +3,6 @@
 #include "addressbook/addbkview.h"
 
 #include "addressbook/addressform.h"
-#include "addressbook/buttonrow.h"
-#include "addressbook/datepicker.h"
 #include "addressbook/namelistmodel.h"
 #include "addressbook/namelistview.h"
 #include "addressbook/picturepanel.h"
@@ -12,7 +10,9 @@
 #include "addressbook/quietlines.h"
 #include "addressbook/serialmodem.h"
 #include "shell/controls/activitybar.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/datepicker.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"

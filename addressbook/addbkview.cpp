@@ -1,7 +1,6 @@
 #include "addressbook/addbkview.h"
 
 #include "addressbook/addressform.h"
-#include "addressbook/buttonrow.h"
 #include "addressbook/indexline.h"
 #include "addressbook/messages.h"
 #include "addressbook/namelistmodel.h"
@@ -9,6 +8,7 @@
 #include "addressbook/picturepanel.h"
 #include "addressbook/quietlines.h"
 #include "shell/controls/activitybar.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 #include "shell/pictures/pictureframe.h"
 

@@ -1,9 +1,9 @@
 #include "addressbook/addressform.h"
 
 #include "addressbook/datefacts.h"
-#include "addressbook/datepicker.h"
 #include "addressbook/quietlines.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/datepicker.h"
 #include "shell/core/clock.h"
 #include "shell/core/dates.h"
 #include "shell/look/theme.h"

@@ -1,8 +1,8 @@
 #include "addressbook/addressviewer.h"
 
-#include "addressbook/bytecase.h"
 #include "addressbook/indexline.h"
 #include "storage/ansitext.h"
+#include "storage/bytecase.h"
 #include "storage/openrecordfile.h"
 #include "storage/recordvalue.h"
 

@@ -1,8 +1,8 @@
 #include "addressbook/namelist.h"
 
-#include "addressbook/bytecase.h"
 #include "addressbook/indexline.h"
 #include "storage/ansitext.h"
+#include "storage/bytecase.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,9 +1,9 @@
 #include "addressbook/picturepanel.h"
 
-#include "addressbook/buttonrow.h"
 #include "addressbook/messages.h"
 #include "addressbook/quietlines.h"
 #include "shell/controls/busycursor.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/look/theme.h"

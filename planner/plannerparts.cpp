@@ -10,13 +10,13 @@
 #include "planner/quietlines.h"
 #include "planner/recurrencepanel.h"
 #include "planner/searchpanel.h"
-#include "planner/slicedwork.h"
 #include "planner/steptitle.h"
 #include "planner/weekview.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
+#include "shell/core/slicedwork.h"
 #include "shell/look/theme.h"
 
 #include <QAction>

@@ -12,12 +12,12 @@
 #include "planner/quietlines.h"
 #include "planner/recurrencepanel.h"
 #include "planner/searchpanel.h"
-#include "planner/slicedwork.h"
 #include "planner/weekview.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/dates.h"
+#include "shell/core/slicedwork.h"
 
 #include <QAction>
 #include <QLineEdit>

@@ -4,10 +4,10 @@
 #include "planner/plannercalendar.h"
 #include "planner/quietlines.h"
 #include "planner/recurrenceform.h"
-#include "planner/slicedwork.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/dates.h"
+#include "shell/core/slicedwork.h"
 #include "shell/program/program.h"
 
 #include <QApplication>

@@ -3,9 +3,9 @@
 #include "planner/recurrencepanel.h"
 
 #include "planner/recurrenceform.h"
-#include "planner/slicedwork.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
+#include "shell/core/slicedwork.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 

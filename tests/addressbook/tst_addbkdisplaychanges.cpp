@@ -1,7 +1,7 @@
 #include "addressbook/addbkdisplay.h"
 #include "addressbook/addressviewer.h"
-#include "addressbook/gridview.h"
 #include "addressbook/viewermessages.h"
+#include "shell/controls/gridview.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 #include "addressbook/addressviewer.h"
-#include "addressbook/bytecase.h"
 #include "addressfiles.h"
+#include "storage/bytecase.h"
 
 #include <QDir>
 #include <QJsonArray>

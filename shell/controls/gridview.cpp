@@ -1,4 +1,4 @@
-#include "addressbook/gridview.h"
+#include "shell/controls/gridview.h"
 
 #include "shell/look/theme.h"
 

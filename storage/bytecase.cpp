@@ -1,4 +1,4 @@
-#include "addressbook/bytecase.h"
+#include "storage/bytecase.h"
 
 #include "storage/ansitext.h"
 

@@ -1,4 +1,4 @@
-#include "addressbook/buttonrow.h"
+#include "shell/controls/buttonrow.h"
 
 #include "shell/controls/controls.h"
 

@@ -1,4 +1,4 @@
-#include "addressbook/datepicker.h"
+#include "shell/controls/datepicker.h"
 
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"

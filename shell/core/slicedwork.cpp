@@ -1,4 +1,4 @@
-#include "planner/slicedwork.h"
+#include "shell/core/slicedwork.h"
 
 #include <QElapsedTimer>
 
