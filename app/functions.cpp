@@ -1,8 +1,8 @@
 #include "app/functions.h"
 
-#include "addressbook/addbkdisplay.h"
-#include "addressbook/addbkview.h"
-#include "addressbook/addressnews.h"
+#include "addressbook/entry/entrywindow.h"
+#include "addressbook/model/addressnews.h"
+#include "addressbook/viewer/viewerwindow.h"
 #include "planner/dayrecord.h"
 #include "planner/plannernews.h"
 #include "planner/zcalandar1.h"

@@ -1,5 +1,5 @@
-#include "addressbook/addressviewer.h"
-#include "addressbook/viewerpages.h"
+#include "addressbook/model/addressviewer.h"
+#include "addressbook/model/viewerpages.h"
 #include "benchmarks/limit.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // How long the screen stands still while a page of the family's photographs is read: the longest time between
 // two turns of the event loop.
 
-#include "addressbook/viewerpages.h"
+#include "addressbook/model/viewerpages.h"
 #include "benchmarks/limit.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/picturegallery.h"

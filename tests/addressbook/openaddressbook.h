@@ -1,8 +1,8 @@
 #pragma once
 
-#include "addressbook/addbkview.h"
-#include "addressbook/messages.h"
-#include "addressbook/namelistmodel.h"
+#include "addressbook/entry/entrywindow.h"
+#include "addressbook/entry/namelistmodel.h"
+#include "addressbook/model/messages.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "tests/support/testprogram.h"

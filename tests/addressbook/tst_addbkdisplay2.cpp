@@ -1,5 +1,5 @@
-#include "addressbook/addbkdisplay2.h"
-#include "addressbook/viewermessages.h"
+#include "addressbook/model/viewermessages.h"
+#include "addressbook/viewer/pictureswindow.h"
 #include "shell/controls/activitybar.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/pictures/picturegallery.h"

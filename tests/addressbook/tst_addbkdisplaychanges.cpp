@@ -1,6 +1,6 @@
-#include "addressbook/addbkdisplay.h"
-#include "addressbook/addressviewer.h"
-#include "addressbook/viewermessages.h"
+#include "addressbook/model/addressviewer.h"
+#include "addressbook/model/viewermessages.h"
+#include "addressbook/viewer/viewerwindow.h"
 #include "shell/controls/gridview.h"
 #include "tests/support/testprogram.h"
 

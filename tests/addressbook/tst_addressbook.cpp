@@ -1,5 +1,5 @@
-#include "addressbook/addressbook.h"
-#include "addressbook/indexline.h"
+#include "addressbook/model/addressbook.h"
+#include "addressbook/model/indexline.h"
 #include "addressfiles.h"
 #include "tests/storage/filesizelimit.h"
 

@@ -1,4 +1,4 @@
-#include "addressbook/addressentry.h"
+#include "addressbook/model/addressentry.h"
 #include "addressfiles.h"
 
 #include <QTest>

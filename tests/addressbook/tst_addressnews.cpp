@@ -1,4 +1,4 @@
-#include "addressbook/addressnews.h"
+#include "addressbook/model/addressnews.h"
 #include "addressfiles.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "addressbook/addresspages.h"
+#include "addressbook/model/addresspages.h"
 
 #include <QTest>
 

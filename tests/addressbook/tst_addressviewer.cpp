@@ -1,4 +1,4 @@
-#include "addressbook/addressviewer.h"
+#include "addressbook/model/addressviewer.h"
 #include "addressfiles.h"
 #include "storage/bytecase.h"
 

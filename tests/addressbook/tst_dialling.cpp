@@ -1,5 +1,5 @@
-#include "addressbook/dialling.h"
-#include "addressbook/messages.h"
+#include "addressbook/model/dialling.h"
+#include "addressbook/model/messages.h"
 #include "addressfiles.h"
 #include "shell/core/settings.h"
 

@@ -1,6 +1,6 @@
-#include "addressbook/addressbook.h"
-#include "addressbook/addressnews.h"
-#include "addressbook/indexline.h"
+#include "addressbook/model/addressbook.h"
+#include "addressbook/model/addressnews.h"
+#include "addressbook/model/indexline.h"
 #include "addressfiles.h"
 #include "shell/pictures/picturefolder.h"
 

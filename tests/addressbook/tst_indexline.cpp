@@ -1,5 +1,5 @@
-#include "addressbook/addressentry.h"
-#include "addressbook/indexline.h"
+#include "addressbook/model/addressentry.h"
+#include "addressbook/model/indexline.h"
 #include "storage/ansitext.h"
 
 #include <QTest>

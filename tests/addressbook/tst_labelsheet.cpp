@@ -1,5 +1,5 @@
-#include "addressbook/addressviewer.h"
-#include "addressbook/labelsheet.h"
+#include "addressbook/model/addressviewer.h"
+#include "addressbook/model/labelsheet.h"
 #include "addressfiles.h"
 
 #include <QTest>

@@ -1,5 +1,5 @@
-#include "addressbook/indexline.h"
-#include "addressbook/namelist.h"
+#include "addressbook/model/indexline.h"
+#include "addressbook/model/namelist.h"
 
 #include <QTest>
 

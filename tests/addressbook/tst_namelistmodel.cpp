@@ -1,5 +1,5 @@
-#include "addressbook/namelistmodel.h"
-#include "addressbook/namelistview.h"
+#include "addressbook/entry/namelistmodel.h"
+#include "addressbook/entry/namelistview.h"
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>

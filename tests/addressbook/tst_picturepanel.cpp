@@ -1,5 +1,5 @@
-#include "addressbook/messages.h"
-#include "addressbook/picturepanel.h"
+#include "addressbook/entry/picturepanel.h"
+#include "addressbook/model/messages.h"
 #include "shell/pictures/pictureframe.h"
 #include "tests/support/testprogram.h"
 

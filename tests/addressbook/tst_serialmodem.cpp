@@ -1,5 +1,5 @@
-#include "addressbook/messages.h"
-#include "addressbook/serialmodem.h"
+#include "addressbook/model/messages.h"
+#include "addressbook/shared/serialmodem.h"
 #include "shell/core/settings.h"
 #include "shell/core/settingskeys.h"
 

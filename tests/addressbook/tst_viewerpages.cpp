@@ -1,5 +1,5 @@
-#include "addressbook/viewermessages.h"
-#include "addressbook/viewerpages.h"
+#include "addressbook/model/viewermessages.h"
+#include "addressbook/model/viewerpages.h"
 #include "addressfiles.h"
 
 #include <QJsonDocument>

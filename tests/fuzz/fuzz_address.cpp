@@ -1,6 +1,6 @@
-#include "addressbook/addressentry.h"
-#include "addressbook/indexline.h"
-#include "addressbook/namelist.h"
+#include "addressbook/model/addressentry.h"
+#include "addressbook/model/indexline.h"
+#include "addressbook/model/namelist.h"
 #include "fuzztarget.h"
 #include "storage/recordvalue.h"
 

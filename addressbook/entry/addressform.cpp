@@ -1,0 +1,367 @@
+#include "addressbook/entry/addressform.h"
+
+#include "addressbook/model/datefacts.h"
+#include "addressbook/model/entrylines.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/datepicker.h"
+#include "shell/core/clock.h"
+#include "shell/core/dates.h"
+#include "shell/look/theme.h"
+#include "shell/pictures/pictureframe.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int rowGap = 12;
+constexpr int boxGap = 14;
+constexpr int labelGap = 3;
+constexpr int columnGap = 28;
+/// Boxes are never wider than this.
+constexpr int greatestWidth = 640;
+constexpr int greatestPicture = 460;
+constexpr int oneColumnWidth = 300;
+/// From this width on the second group stands beside the first.
+constexpr int twoColumnsFrom = 600;
+/// The last name's box is one shorter: a last name that fills its field reads as a record that is free.
+constexpr int lastNameWidth = addressTextWidth - 1;
+
+constexpr std::array<QLatin1StringView, AddressFieldCount> captions{
+    "Last Name:"_L1,  "First Name:"_L1,    "Date of Birth:"_L1,   "Address:"_L1,    ""_L1,
+    "City:"_L1,       "State/Country:"_L1, "Postal Zip/Code:"_L1, "Home Phone:"_L1, "Mobile Phone:"_L1,
+    "Fax Number:"_L1, "Email Address:"_L1, "Anniversary Date:"_L1};
+
+constexpr QLatin1StringView dateHint("(mmm-dd-yyyy)");
+
+QVBoxLayout *field(QLabel *label, QWidget *box)
+{
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(labelGap);
+    layout->addWidget(label);
+    layout->addWidget(box);
+    return layout;
+}
+
+QHBoxLayout *row()
+{
+    auto *layout = new QHBoxLayout;
+    layout->setSpacing(boxGap);
+    return layout;
+}
+
+/// Quiet words beside a box, on the line of its text.
+QLabel *makeFact(const QString &name, QWidget *parent)
+{
+    QLabel *fact = named(makeQuietLabel({}, parent), name);
+    fact->setMinimumHeight(34);
+    fact->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    fact->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    fact->setWordWrap(true);
+    return fact;
+}
+
+} // namespace
+
+AddressForm::AddressForm(const Clock &clock, const DateStyle &style, QWidget *window, QWidget *parent)
+    : QWidget(parent)
+    , m_clock(clock)
+    , m_style(style)
+    , m_boxes(controlArray<FieldBox, AddressFieldCount>(u"Text1"_s, this))
+    , m_picker(new DatePicker(clock, window))
+{
+    makeBoxes();
+    makeDialButtons();
+    m_columns = new QBoxLayout(QBoxLayout::LeftToRight, this);
+    m_columns->setContentsMargins(0, 0, 0, 0);
+    m_columns->setSpacing(columnGap);
+    m_columns->addWidget(makeHomeColumn(), 5);
+    m_columns->addWidget(makeOtherColumn(), 3);
+    setMaximumWidth(2 * greatestWidth + columnGap);
+    connectDates();
+    paintIcons();
+}
+
+void AddressForm::makeBoxes()
+{
+    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
+        FieldBox *box = m_boxes[i];
+        box->setByteLimit(i == LastName ? lastNameWidth : int(addressTextWidth));
+        box->setMinimumWidth(40);
+        box->setAccessibleName(i == Address2 ? u"Address, second line"_s : QString(captions[i]).chopped(1));
+        box->installEventFilter(this);
+        connect(box, &QLineEdit::textChanged, this, &AddressForm::edited);
+        connect(box, &FieldBox::refused, this, &AddressForm::said);
+    }
+}
+
+void AddressForm::makeDialButtons()
+{
+    constexpr std::array fields{HomePhone, MobilePhone};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        QPushButton *button = makeIconButton(u"Image2_"_s + QString::number(i), "dial"_L1,
+                                             u"Dial Phone Number using computer modem"_s, this);
+        button->setFixedHeight(34);
+        button->setAccessibleName(i == 0 ? u"Dial home phone"_s : u"Dial mobile phone"_s);
+        connect(button, &QPushButton::clicked, this,
+                [this, box = m_boxes[fields[i]]] { emit dialRequested(box->text()); });
+        m_dialButtons[i] = button;
+    }
+}
+
+QLabel *AddressForm::label(AddressField field, const QString &hint) const
+{
+    return makeFieldLabel(captions[field], m_boxes[field], const_cast<AddressForm *>(this), hint);
+}
+
+QWidget *AddressForm::makeHomeColumn()
+{
+    auto *column = new QWidget(this);
+    column->setMaximumWidth(greatestWidth);
+    auto *layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(rowGap);
+    layout->addWidget(makeHeading(u"Individual and Home Address Information"_s, this));
+
+    m_lastNameLabel = label(LastName);
+    m_requiredLabel = makeFieldLabel(captions[LastName], m_boxes[LastName], this, {}, true);
+    // Rich text is a little higher, and would push the box out of its row.
+    m_requiredLabel->setFixedHeight(m_lastNameLabel->sizeHint().height());
+    m_nameHint = named(makeQuietLabel({}, this), u"nameHint"_s);
+    m_nameHint->setWordWrap(true);
+    m_nameHint->hide();
+    QHBoxLayout *names = row();
+    QVBoxLayout *lastName = field(m_lastNameLabel, m_boxes[LastName]);
+    lastName->insertWidget(1, m_requiredLabel);
+    names->addLayout(lastName, 1);
+    names->addLayout(field(label(FirstName), m_boxes[FirstName]), 1);
+    layout->addLayout(names);
+    layout->addWidget(m_nameHint);
+
+    m_birthFact = makeFact(u"birthFact"_s, this);
+    QHBoxLayout *birth = row();
+    birth->addLayout(field(label(BirthDate, dateHint), m_boxes[BirthDate]), 1);
+    birth->addWidget(m_birthFact, 1, Qt::AlignBottom);
+    layout->addLayout(birth);
+
+    layout->addLayout(field(label(Address1), m_boxes[Address1]));
+    layout->addWidget(m_boxes[Address2]);
+    QHBoxLayout *place = row();
+    place->addLayout(field(label(City), m_boxes[City]), 3);
+    place->addLayout(field(label(State), m_boxes[State]), 3);
+    place->addLayout(field(label(PostalCode), m_boxes[PostalCode]), 2);
+    layout->addLayout(place);
+    addPhones(layout);
+    layout->addStretch(1);
+    return column;
+}
+
+void AddressForm::addPhones(QVBoxLayout *column)
+{
+    QHBoxLayout *phones = row();
+    constexpr std::array fields{HomePhone, MobilePhone};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        auto *boxAndDial = new QHBoxLayout;
+        boxAndDial->setSpacing(6);
+        boxAndDial->addLayout(field(label(fields[i]), m_boxes[fields[i]]), 1);
+        boxAndDial->addWidget(m_dialButtons[i], 0, Qt::AlignBottom);
+        phones->addLayout(boxAndDial, 1);
+    }
+    column->addLayout(phones);
+    m_dialing = named(new QLabel(u"Dialing..."_s, this), u"Label3"_s);
+    m_dialing->hide();
+    column->addWidget(m_dialing);
+}
+
+QWidget *AddressForm::makeOtherColumn()
+{
+    auto *column = new QWidget(this);
+    column->setMaximumWidth(greatestWidth);
+    auto *layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(rowGap);
+    m_picture = named(new PictureFrame(this), u"Image1"_s);
+    m_picture->setWords(u"No Picture Currently Loaded"_s);
+    m_picture->setAccessibleName(u"Picture"_s);
+    m_enlarge = makeButton(u"pictureEnlarge"_s, u"Enlarge"_s, m_picture);
+    m_enlarge->hide();
+    connect(m_picture, &PictureFrame::matChanged, this, &AddressForm::placeEnlargeButton);
+    layout->addWidget(m_picture, 100);
+    QLabel *heading = makeHeading(u"Other Important Information and Dates"_s, this);
+    heading->setWordWrap(true);
+    layout->addWidget(heading);
+    layout->addLayout(field(label(Fax), m_boxes[Fax]));
+    layout->addLayout(field(label(Email), m_boxes[Email]));
+    m_anniversaryFact = makeFact(u"anniversaryFact"_s, this);
+    QHBoxLayout *anniversary = row();
+    anniversary->addWidget(m_boxes[AnniversaryDate], 1);
+    anniversary->addWidget(m_anniversaryFact, 1);
+    auto *labelled = new QVBoxLayout;
+    labelled->setSpacing(labelGap);
+    labelled->addWidget(label(AnniversaryDate, dateHint));
+    labelled->addLayout(anniversary);
+    layout->addLayout(labelled);
+    layout->addStretch(1);
+    return column;
+}
+
+void AddressForm::connectDates()
+{
+    for (const AddressField dateField : {BirthDate, AnniversaryDate}) {
+        FieldBox *box = m_boxes[dateField];
+        m_picker->addBox(box);
+        connect(box, &QLineEdit::textChanged, this, &AddressForm::refreshFacts);
+        connect(box, &QLineEdit::editingFinished, this, [this, dateField] { tidyDate(dateField); });
+    }
+    connect(m_picker, &DatePicker::opening, this, [this](const FieldBox *box) {
+        m_picker->setDate(date(box == m_boxes[BirthDate] ? BirthDate : AnniversaryDate));
+        if (box->isLocked())
+            emit said(AddressLines::lockedDate());
+    });
+    connect(m_picker, &DatePicker::dayChosen, this, [this](const FieldBox *box, QDate day) {
+        if (!box->isLocked())
+            setDate(box == m_boxes[BirthDate] ? BirthDate : AnniversaryDate, day);
+    });
+}
+
+void AddressForm::setDate(AddressField field, QDate date)
+{
+    m_boxes[field]->setText(Dates::boxText(date, m_style));
+}
+
+QDate AddressForm::date(AddressField field) const
+{
+    return Dates::parse(m_boxes[field]->text(), m_style, m_clock.today()).value_or(QDate());
+}
+
+/// A date that was typed gets the form that the file keeps; anything else stays as it was typed.
+void AddressForm::tidyDate(AddressField field)
+{
+    FieldBox *box = m_boxes[field];
+    if (box->isLocked() || !box->isModified())
+        return;
+    if (const QDate typed = date(field); typed.isValid())
+        setDate(field, typed);
+}
+
+void AddressForm::tidyDates()
+{
+    tidyDate(BirthDate);
+    tidyDate(AnniversaryDate);
+}
+
+AddressForm::Texts AddressForm::texts() const
+{
+    Texts texts;
+    for (std::size_t i = 0; i < m_boxes.size(); ++i)
+        texts[i] = m_boxes[i]->text();
+    return texts;
+}
+
+void AddressForm::setTexts(const Texts &texts)
+{
+    m_picker->dismiss();
+    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
+        m_boxes[i]->setText(texts[i]);
+        m_boxes[i]->setCursorPosition(0);
+    }
+    refreshFacts();
+}
+
+void AddressForm::setLocked(bool locked)
+{
+    m_picker->dismiss();
+    for (FieldBox *box : m_boxes)
+        box->setLocked(locked);
+}
+
+bool AddressForm::isLocked() const
+{
+    return m_boxes[LastName]->isLocked();
+}
+
+void AddressForm::setNameHint(const QString &hint)
+{
+    m_nameHint->setText(hint);
+    m_nameHint->setVisible(!hint.isEmpty());
+}
+
+void AddressForm::setRequiredShown(bool shown)
+{
+    m_requiredLabel->setVisible(shown);
+    m_lastNameLabel->setVisible(!shown);
+}
+
+void AddressForm::refreshFacts()
+{
+    const QDate today = m_clock.today();
+    m_birthFact->setText(DateFacts::ofBirth(date(BirthDate), today, m_style));
+    m_anniversaryFact->setText(DateFacts::ofAnniversary(date(AnniversaryDate), today));
+}
+
+QVector<QWidget *> AddressForm::tabOrder() const
+{
+    return {m_boxes[LastName],  m_boxes[FirstName], m_boxes[BirthDate],   m_boxes[Address1],
+            m_boxes[Address2],  m_boxes[City],      m_boxes[State],       m_boxes[PostalCode],
+            m_boxes[HomePhone], m_dialButtons[0],   m_boxes[MobilePhone], m_dialButtons[1],
+            m_enlarge,          m_boxes[Fax],       m_boxes[Email],       m_boxes[AnniversaryDate]};
+}
+
+/// The picture takes the height that the second group leaves, but no more than it can fill.
+void AddressForm::fitPicture()
+{
+    const bool twoColumns = m_columns->direction() == QBoxLayout::LeftToRight;
+    const int least = m_picture->minimumSizeHint().height();
+    m_picture->setMaximumHeight(
+        std::clamp(m_picture->tallestMat(), least, twoColumns ? greatestPicture : 238));
+}
+
+void AddressForm::placeEnlargeButton()
+{
+    fitPicture();
+    m_enlarge->setVisible(m_picture->hasPicture());
+    const QRect mat = m_picture->mat();
+    m_enlarge->adjustSize();
+    m_enlarge->move(mat.bottomRight() - QPoint(m_enlarge->width() + 15, m_enlarge->height() + 15));
+}
+
+void AddressForm::paintIcons()
+{
+    const Icons::Scheme scheme = Theme::of(this).scheme;
+    for (QPushButton *button : m_dialButtons)
+        button->setIcon(Icons::tinted("dial"_L1, scheme, Theme::of(this).accent));
+    m_enlarge->setIcon(Icons::icon("zoom-in"_L1, scheme));
+}
+
+QSize AddressForm::minimumSizeHint() const
+{
+    // Never as wide as two columns ask for: the form is what decides between one and two.
+    return {oneColumnWidth, m_columns->minimumSize().height()};
+}
+
+void AddressForm::resizeEvent(QResizeEvent *event)
+{
+    const bool twoColumns = width() >= twoColumnsFrom;
+    m_columns->setDirection(twoColumns ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    fitPicture();
+    QWidget::resizeEvent(event);
+}
+
+void AddressForm::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange && m_enlarge)
+        paintIcons();
+    QWidget::changeEvent(event);
+}
+
+bool AddressForm::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn && watched->isWidgetType())
+        emit boxFocused(static_cast<QWidget *>(watched));
+    return QWidget::eventFilter(watched, event);
+}

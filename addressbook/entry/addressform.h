@@ -1,0 +1,98 @@
+#pragma once
+
+#include "addressbook/model/addressentry.h"
+#include "shell/core/programstate.h"
+
+#include <QWidget>
+
+#include <array>
+
+class Clock;
+class DatePicker;
+class FieldBox;
+class PictureFrame;
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+/// The thirteen boxes of an entry in their two groups, the picture beside them, the dial buttons and the
+/// words that can be told from the dates. Two columns where there is room, one below the other where there is
+/// not.
+class AddressForm final : public QWidget
+{
+    Q_OBJECT
+public:
+    /// The calendar of the date boxes floats over `window`.
+    AddressForm(const Clock &clock, const DateStyle &style, QWidget *window, QWidget *parent = nullptr);
+
+    using Texts = std::array<QString, AddressFieldCount>;
+    Texts texts() const;
+    void setTexts(const Texts &texts);
+
+    void setLocked(bool locked);
+    bool isLocked() const;
+
+    FieldBox *box(AddressField field) const { return m_boxes[field]; }
+    PictureFrame *picture() const { return m_picture; }
+    QPushButton *enlargeButton() const { return m_enlarge; }
+    QLabel *dialingLabel() const { return m_dialing; }
+    DatePicker *datePicker() const { return m_picker; }
+
+    /// A quiet line under the names; empty takes it away.
+    void setNameHint(const QString &hint);
+    /// Whether the word "required" stands beside the last name.
+    void setRequiredShown(bool shown);
+    /// Puts dates that were typed into the form that the file keeps, as leaving their boxes does: before a
+    /// save that comes by its access key.
+    void tidyDates();
+    /// Reads the dates again: a new day has begun, or texts were set.
+    void refreshFacts();
+
+    QSize minimumSizeHint() const override;
+
+    /// Everything that takes the focus, in reading order.
+    QVector<QWidget *> tabOrder() const;
+
+signals:
+    void edited();
+    /// A quiet line for the status bar.
+    void said(const QString &line);
+    void dialRequested(const QString &number);
+    void boxFocused(QWidget *box);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void makeBoxes();
+    void makeDialButtons();
+    void connectDates();
+    QWidget *makeHomeColumn();
+    QWidget *makeOtherColumn();
+    void addPhones(QVBoxLayout *column);
+    QLabel *label(AddressField field, const QString &hint = {}) const;
+    void setDate(AddressField field, QDate date);
+    QDate date(AddressField field) const;
+    void tidyDate(AddressField field);
+    void fitPicture();
+    void placeEnlargeButton();
+    void paintIcons();
+
+    const Clock &m_clock;
+    const DateStyle &m_style;
+    std::array<FieldBox *, AddressFieldCount> m_boxes;
+    std::array<QPushButton *, 2> m_dialButtons{};
+    QLabel *m_lastNameLabel = nullptr;
+    QLabel *m_requiredLabel = nullptr;
+    QLabel *m_nameHint = nullptr;
+    QLabel *m_birthFact = nullptr;
+    QLabel *m_anniversaryFact = nullptr;
+    QLabel *m_dialing = nullptr;
+    PictureFrame *m_picture = nullptr;
+    QPushButton *m_enlarge = nullptr;
+    DatePicker *m_picker;
+    QBoxLayout *m_columns;
+};

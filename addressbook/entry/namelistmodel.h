@@ -1,0 +1,27 @@
+#pragma once
+
+#include "addressbook/model/namelist.h"
+
+#include <QAbstractListModel>
+
+/// The name list as the rows of `List1`: the names to read, the whole index line behind them.
+class NameListModel final : public QAbstractListModel
+{
+    Q_OBJECT
+public:
+    static constexpr int LineRole = Qt::UserRole;
+
+    using QAbstractListModel::QAbstractListModel;
+
+    const NameList &names() const { return m_names; }
+    void setNames(NameList names);
+
+    void append(const QString &line);
+    void removeAt(int position);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    NameList m_names;
+};

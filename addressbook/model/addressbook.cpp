@@ -1,0 +1,214 @@
+#include "addressbook/model/addressbook.h"
+
+#include "addressbook/model/indexline.h"
+#include "storage/ansitext.h"
+#include "storage/recordvalue.h"
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype lineRecordLength = 60;
+static_assert(lineRecordLength - 2 == IndexLine::maximumLength);
+
+constexpr QByteArrayView deletedName("*****");
+
+bool isDeleted(QByteArrayView record)
+{
+    return record.startsWith("****");
+}
+
+/// The byte at `position`; zero where the record is cut short.
+char byteAt(QByteArrayView record, qsizetype position)
+{
+    return position < record.size() ? record[position] : '\0';
+}
+
+/// A last name without outer blanks counts as never written when it still has its 40 bytes: never written
+/// means 40 zero bytes. A name that fills the field counts too; that is the rule of the file, and why the
+/// entry box takes 39.
+bool isFree(QByteArrayView record)
+{
+    return isDeleted(record) || (byteAt(record, 0) != ' ' && byteAt(record, addressTextWidth - 1) != ' ');
+}
+
+bool isEntry(QByteArrayView record)
+{
+    return byteAt(record, 0) != '\0' && !isDeleted(record);
+}
+
+bool isEntryRecord(int record)
+{
+    return record >= AddressBook::firstRecord && record <= AddressBook::overflowRecord;
+}
+
+AddressEntry withPictureMark(AddressEntry entry)
+{
+    if (!entry.hasPicture())
+        entry.picture = noPicture;
+    return entry;
+}
+
+} // namespace
+
+AddressBook::AddressBook(const DataFolder &folder)
+    : m_folder(folder)
+{}
+
+NameList AddressBook::loadNames() const
+{
+    const RecordFile lines = index();
+    lines.create();
+    const QByteArray records = lines.read(firstRecord, overflowRecord);
+    NameList names(records);
+    for (qsizetype at = 0; at < records.size(); at += lineRecordLength) {
+        const qsizetype length = std::min(lineRecordLength, records.size() - at);
+        const QByteArrayView line = RecordValue::textBytes(QByteArrayView(records).sliced(at, length));
+        const bool isFirst = at == 0;
+        if ((isFirst || !line.isEmpty()) && !IndexLine::isDeleted(line))
+            names.list(line.isEmpty() ? at : line.data() - records.constData(), line.size());
+    }
+    names.squeeze();
+    return names;
+}
+
+AddressEntry AddressBook::read(int record) const
+{
+    if (!isEntryRecord(record))
+        return {};
+    const RecordFile file = entries();
+    file.create();
+    return addressLayout.decode(file.read(record));
+}
+
+AddressBook::Reader::Reader(const AddressBook &book)
+    : m_file(book.entries().path(), addressLayout.size())
+{}
+
+AddressEntry AddressBook::Reader::read(int record)
+{
+    return isEntryRecord(record) ? addressLayout.decode(m_file.read(record)) : AddressEntry();
+}
+
+AddressBook::Found AddressBook::open(QStringView line) const
+{
+    Found found;
+    found.record = IndexLine::record(line);
+    found.entry = read(found.record);
+    found.mayChange = isEntryRecord(found.record) && (IndexLine::belongs(line, found.entry) ||
+                                                      isOutgrownLine(found.record, line, found.entry));
+    return found;
+}
+
+int AddressBook::nextFreeRecord() const
+{
+    const RecordFile file = entries();
+    const int last = std::min(file.recordCount(), lastRecord);
+    int visited = firstRecord - 1;
+    bool isFound = false;
+    file.forEach(firstRecord, [&](int record, QByteArrayView bytes) {
+        if (record > last)
+            return false;
+        visited = record;
+        isFound = isFree(bytes);
+        return !isFound;
+    });
+    if (isFound)
+        return visited;
+    // Stopped before the end: nobody knows what the rest holds, and a guess could overwrite an entry.
+    if (visited < last)
+        return 0;
+    return visited + 1;
+}
+
+AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry) const
+{
+    const int record = nextFreeRecord();
+    if (record == 0)
+        return {};
+    SaveResult result = prepared(record, entry);
+    const QByteArray bytes = addressLayout.encode(withPictureMark(entry));
+    result.isEntryWritten = entries().write(record, bytes);
+    if (result.isEntryWritten)
+        writeLine(result);
+    return result;
+}
+
+AddressBook::SaveResult AddressBook::saveChanged(int record, const AddressEntry &entry) const
+{
+    if (!isEntryRecord(record))
+        return {};
+    SaveResult result = prepared(record, entry);
+    writeLine(result);
+    const QByteArray bytes = addressLayout.encode(withPictureMark(entry));
+    result.isEntryWritten = entries().write(record, bytes);
+    return result;
+}
+
+bool AddressBook::remove(int record) const
+{
+    if (!isEntryRecord(record))
+        return false;
+    AddressEntry cleared;
+    cleared[LastName] = QString::fromLatin1(deletedName);
+    const auto mark = RecordValue::encodeText(IndexLine::deletionMark(), lineRecordLength);
+    return entries().write(record, addressLayout.encode(cleared)) && index().write(record, *mark);
+}
+
+void AddressBook::forEachLive(const std::function<bool(int, const AddressEntry &)> &visit) const
+{
+    forEachLiveRecord(
+        [&visit](int record, QByteArrayView bytes) { return visit(record, addressLayout.decode(bytes)); });
+}
+
+void AddressBook::forEachLiveRecord(const std::function<bool(int, QByteArrayView)> &visit) const
+{
+    std::vector<bool> isLive;
+    index().forEach(1, [&isLive](int record, QByteArrayView bytes) {
+        const QByteArrayView line = RecordValue::textBytes(bytes);
+        isLive.push_back(record >= firstRecord && !line.isEmpty() && !IndexLine::isDeleted(line));
+        return record < overflowRecord;
+    });
+    entries().forEach(firstRecord, [&](int record, QByteArrayView bytes) {
+        const auto at = std::size_t(record - 1);
+        if (at >= isLive.size())
+            return false;
+        return !isLive[at] || !isEntry(bytes) || visit(record, bytes);
+    });
+}
+
+AddressBook::SaveResult AddressBook::prepared(int record, const AddressEntry &entry) const
+{
+    // The line names the entry as the file will hold it: composed, and cut to the width of its fields.
+    const AddressEntry stored = addressLayout.decode(addressLayout.encode(entry));
+    SaveResult result;
+    result.record = record;
+    result.line = IndexLine::make(stored[LastName], stored[FirstName], record);
+    return result;
+}
+
+void AddressBook::writeLine(SaveResult &result) const
+{
+    const auto bytes = RecordValue::encodeText(result.line, lineRecordLength);
+    result.isLineTooLong = !bytes;
+    result.isLineWritten = bytes && index().write(result.record, *bytes);
+}
+
+bool AddressBook::isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const
+{
+    return IndexLine::make(entry[LastName], entry[FirstName], record).size() > IndexLine::maximumLength &&
+           RecordValue::decodeText(index().read(record)) == line;
+}
+
+RecordFile AddressBook::entries() const
+{
+    return RecordFile(m_folder.filePath(u"Addbk1.Fil"_s), addressLayout.size());
+}
+
+RecordFile AddressBook::index() const
+{
+    return RecordFile(m_folder.filePath(u"Addbk2.Fil"_s), lineRecordLength);
+}

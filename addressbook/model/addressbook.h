@@ -1,0 +1,101 @@
+#pragma once
+
+#include "addressbook/model/addressentry.h"
+#include "addressbook/model/namelist.h"
+#include "storage/datafolder.h"
+#include "storage/openrecordfile.h"
+#include "storage/recordfile.h"
+
+#include <functional>
+
+/// The two files of the address book, which always move together: `Addbk1.Fil` holds the entries,
+/// `Addbk2.Fil` a line of the name list for each. Entry N is record N of both. No file stays open between
+/// calls, but for a `Reader`.
+class AddressBook
+{
+public:
+    static constexpr int firstRecord = 2;
+    static constexpr int lastRecord = 50000;
+    /// Where a new entry goes when no record up to the last is free.
+    static constexpr int overflowRecord = lastRecord + 1;
+
+    /// How a save went.
+    struct SaveResult {
+        int record = 0; ///< where the entry went; 0 when nothing was tried
+        QString line;   ///< the entry's line for the name list
+        bool isEntryWritten = false;
+        bool isLineWritten = false;
+        bool isLineTooLong =
+            false; ///< the line was left out, or the old one left, since no record can hold it
+
+        /// The entry is on disk and can be found by its name.
+        bool isComplete() const { return isEntryWritten && isLineWritten; }
+    };
+
+    /// What a line of the list leads to.
+    struct Found {
+        int record = 0; ///< 0: the line's number cannot be read, and there is no entry
+        AddressEntry entry;
+        bool mayChange = false; ///< false: the line bears another name than the entry
+    };
+
+    /// Reads entries one after another while `Addbk1.Fil` stays open: for pages of many of them.
+    class Reader
+    {
+    public:
+        explicit Reader(const AddressBook &book);
+
+        /// As `AddressBook::read`.
+        AddressEntry read(int record);
+
+    private:
+        OpenRecordFile m_file;
+    };
+
+    explicit AddressBook(const DataFolder &folder);
+
+    /// The name list; creates a missing index file. Deleted entries are left out, and so are empty lines but
+    /// that of the first record.
+    NameList loadNames() const;
+
+    /// The entry of `record`; an empty one when it was never written or its file is missing.
+    AddressEntry read(int record) const;
+
+    /// The entry that `line` leads to, and whether it may be changed through it.
+    Found open(QStringView line) const;
+
+    /// The number that the next new entry takes; 0 when the entries cannot be read to their end.
+    int nextFreeRecord() const;
+
+    /// Writes `entry` to the first free record, then its line. A write that fails leaves the line out too, so
+    /// that no name leads nowhere. The last name is not checked here.
+    SaveResult saveNew(const AddressEntry &entry) const;
+
+    /// Writes the line of `record`, then the entry. A line that is too long, or that the disk refuses, stays
+    /// as it was; the entry is written all the same.
+    SaveResult saveChanged(int record, const AddressEntry &entry) const;
+
+    /// Marks entry and line as deleted. False, with a line in the log, when either write failed; when the
+    /// first one did, nothing was changed.
+    bool remove(int record) const;
+
+    /// Visits the live entries in record order, in one pass over each file; the visitor returns false to
+    /// stop. An entry is live when its own record of the index holds a line.
+    void forEachLive(const std::function<bool(int record, const AddressEntry &entry)> &visit) const;
+
+    /// The same with the bytes of the entry: at most 724, fewer at the end of the file.
+    void forEachLiveRecord(const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
+
+    /// The two files themselves, for readers that walk over all of them at once.
+    RecordFile entries() const;
+    RecordFile index() const;
+
+private:
+    SaveResult prepared(int record, const AddressEntry &entry) const;
+    void writeLine(SaveResult &result) const;
+    /// Whether `line` is the one that `entry` left in its own record when its names grew too long for the
+    /// index.
+    bool isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const;
+
+    const DataFolder &m_folder;
+};

@@ -1,0 +1,188 @@
+#include "addressbook/model/addressnews.h"
+
+#include "addressbook/model/addressbook.h"
+#include "shell/core/dates.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A day a week ahead would bear the name of today.
+constexpr int daysThisWeek = 7;
+constexpr int daysAhead = 30;
+
+enum class Kind { Birthday, Anniversary };
+
+struct Occasion {
+    Kind kind;
+    QDate day; ///< when it comes next
+    int years; ///< how many it completes
+    QString name;
+};
+
+/// The first time that the date of `kind` comes round on or after `day`; nothing without a date that can be
+/// read. The name is left out: of a full book nearly all days are far away.
+std::optional<Occasion> nextOccasion(QByteArrayView record, Kind kind, DateStyle style, QDate day)
+{
+    const qsizetype at = (kind == Kind::Birthday ? BirthDate : AnniversaryDate) * addressTextWidth;
+    if (record.size() <= at)
+        return {};
+    const QString text =
+        AnsiText::fieldText(record.sliced(at, std::min(addressTextWidth, record.size() - at)));
+    const auto date = text.isEmpty() ? std::nullopt : Dates::parse(text, style, day);
+    if (!date)
+        return {};
+    const QDate next = Dates::nextAnniversary(*date, day);
+    const int years = next.year() - date->year();
+    // The day itself is no anniversary yet, and one to come even less.
+    if (years < 1)
+        return {};
+    return Occasion{kind, next, years, {}};
+}
+
+QString nameOf(QByteArrayView record)
+{
+    return addressLayout.decode(record).fullName();
+}
+
+QString word(Kind kind, qsizetype count = 1)
+{
+    if (kind == Kind::Birthday)
+        return count == 1 ? u"birthday"_s : u"birthdays"_s;
+    return count == 1 ? u"anniversary"_s : u"anniversaries"_s;
+}
+
+/// "today", or the name of the day.
+QString dayName(QDate day, QDate today)
+{
+    return day == today ? u"today"_s : QLocale::c().dayName(day.dayOfWeek());
+}
+
+/// "Sep 6", or "6 Sep" under `Other`.
+QString shortDate(QDate day, DateStyle style)
+{
+    return QLocale::c().toString(day, style == DateStyle::Usa ? u"MMM d" : u"d MMM");
+}
+
+/// "Anne Lind turns 48"
+QString noteText(const Occasion &occasion)
+{
+    if (occasion.kind == Kind::Anniversary)
+        return occasion.name + u": anniversary"_s;
+    return occasion.name + u" turns "_s + QString::number(occasion.years);
+}
+
+/// What the next days hold: everything of this week, and what comes first after it.
+class Ahead
+{
+public:
+    Ahead(DateStyle style, QDate today)
+        : m_style(style)
+        , m_today(today)
+    {}
+
+    void add(Kind kind, QByteArrayView record);
+    std::optional<LiveLine> line() const;
+
+private:
+    QString weekText() const;
+    QString sentence() const;
+
+    DateStyle m_style;
+    QDate m_today;
+    std::vector<Occasion> m_thisWeek;
+    std::optional<Occasion> m_later;
+};
+
+void Ahead::add(Kind kind, QByteArrayView record)
+{
+    std::optional<Occasion> occasion = nextOccasion(record, kind, m_style, m_today);
+    const qint64 days = occasion ? m_today.daysTo(occasion->day) : daysAhead + 1;
+    if (days > daysAhead)
+        return;
+    occasion->name = nameOf(record);
+    if (days < daysThisWeek)
+        m_thisWeek.push_back(std::move(*occasion));
+    else if (!m_later || occasion->day < m_later->day)
+        m_later = std::move(occasion);
+}
+
+std::optional<LiveLine> Ahead::line() const
+{
+    if (!m_thisWeek.empty())
+        return LiveLine{weekText(), LiveLine::Plain, sentence()};
+    if (!m_later)
+        return std::nullopt;
+    return LiveLine{u"Next "_s + word(m_later->kind) + u": "_s + m_later->name + u", "_s +
+                        shortDate(m_later->day, m_style),
+                    LiveLine::Plain,
+                    {}};
+}
+
+QString Ahead::weekText() const
+{
+    if (m_thisWeek.size() == 1) {
+        const Occasion &only = m_thisWeek.front();
+        return only.name + u": "_s + word(only.kind) + u' ' + dayName(only.day, m_today);
+    }
+    QStringList parts;
+    for (const Kind kind : {Kind::Birthday, Kind::Anniversary}) {
+        const auto count = std::ranges::count(m_thisWeek, kind, &Occasion::kind);
+        if (count > 0)
+            parts << QString::number(count) + u' ' + word(kind, count);
+    }
+    return parts.join(u", "_s) + u" this week"_s;
+}
+
+/// Of the first occasion: "Anne Lind turns 48 today.", "Anne Lind has a birthday on Tuesday."
+QString Ahead::sentence() const
+{
+    const Occasion &first = *std::ranges::min_element(m_thisWeek, {}, &Occasion::day);
+    const bool isToday = first.day == m_today;
+    if (isToday && first.kind == Kind::Birthday)
+        return noteText(first) + u" today."_s;
+    return first.name + (first.kind == Kind::Birthday ? u" has a "_s : u" has an "_s) + word(first.kind) +
+           (isToday ? u" "_s : u" on "_s) + dayName(first.day, m_today) + u'.';
+}
+
+} // namespace
+
+std::optional<LiveLine> AddressNews::liveLine(const DataFolder &folder, DateStyle style, QDate today)
+{
+    Ahead ahead(style, today);
+    AddressBook(folder).forEachLiveRecord([&ahead](int, QByteArrayView record) {
+        ahead.add(Kind::Birthday, record);
+        ahead.add(Kind::Anniversary, record);
+        return true;
+    });
+    return ahead.line();
+}
+
+QList<DayNote> AddressNews::dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to)
+{
+    QList<DayNote> notes;
+    if (!from.isValid() || !to.isValid())
+        return notes;
+    const auto add = [&](QByteArrayView record, Kind kind) {
+        for (QDate day = from; day <= to; day = day.addDays(1)) {
+            auto occasion = nextOccasion(record, kind, style, day);
+            if (!occasion || occasion->day > to)
+                return;
+            day = occasion->day;
+            occasion->name = nameOf(record);
+            notes.append({day, noteText(*occasion), u"Address Book"_s});
+        }
+    };
+    AddressBook(folder).forEachLiveRecord([&add](int, QByteArrayView record) {
+        add(record, Kind::Birthday);
+        add(record, Kind::Anniversary);
+        return true;
+    });
+    std::ranges::stable_sort(notes, {}, &DayNote::date);
+    return notes;
+}

@@ -1,0 +1,121 @@
+#include "addressbook/model/namelist.h"
+
+#include "addressbook/model/indexline.h"
+#include "storage/ansitext.h"
+#include "storage/bytecase.h"
+
+#include <algorithm>
+#include <numeric>
+
+using namespace Qt::Literals::StringLiterals;
+
+NameList::NameList(QByteArray bytes)
+    : m_bytes(std::move(bytes))
+{}
+
+void NameList::list(qsizetype start, qsizetype length)
+{
+    Q_ASSERT(start >= 0 && length >= 0 && start + length <= m_bytes.size());
+    m_places.push_back({quint32(start), quint32(length)});
+}
+
+void NameList::squeeze()
+{
+    const qsizetype length = textLength();
+    if (m_bytes.size() <= 2 * length)
+        return;
+    NameList lines;
+    lines.m_bytes.reserve(length);
+    lines.m_places.reserve(m_places.size());
+    for (int position = 0; position < count(); ++position)
+        lines.append(bytesAt(position));
+    *this = std::move(lines);
+}
+
+QString NameList::line(int position) const
+{
+    return AnsiText::decode(bytesAt(position));
+}
+
+QString NameList::name(int position) const
+{
+    const QString whole = line(position);
+    return IndexLine::name(whole).toString();
+}
+
+int NameList::recordAt(int position) const
+{
+    return IndexLine::record(bytesAt(position));
+}
+
+int NameList::positionOf(int record) const
+{
+    for (int position = 0; record > 0 && position < count(); ++position) {
+        if (recordAt(position) == record)
+            return position;
+    }
+    return -1;
+}
+
+int NameList::find(QStringView text) const
+{
+    const std::optional<QByteArray> folded = ByteCase::folded(text);
+    if (!folded)
+        return -1;
+    const int first = firstMatch(*folded, 0);
+    if (first < 0 || first >= searchResumesAt)
+        return first;
+    // A further match would send the search back to where it resumed, and to itself again: it ends there.
+    const int resumed = firstMatch(*folded, searchResumesAt);
+    return resumed < 0 ? first : resumed;
+}
+
+int NameList::firstMatch(QByteArrayView foldedText, int from) const
+{
+    for (int position = from; position < count(); ++position) {
+        if (ByteCase::contains(bytesAt(position), foldedText))
+            return position;
+    }
+    return -1;
+}
+
+void NameList::append(QStringView line)
+{
+    append(QByteArrayView(AnsiText::encode(line)));
+}
+
+void NameList::append(QByteArrayView line)
+{
+    m_places.push_back({quint32(m_bytes.size()), quint32(line.size())});
+    m_bytes.append(line);
+}
+
+void NameList::removeAt(int position)
+{
+    if (position >= 0 && position < count())
+        m_places.erase(m_places.begin() + position);
+}
+
+QString NameList::countCaption() const
+{
+    return u" %1 - Entries "_s.arg(count());
+}
+
+qsizetype NameList::memoryUsed() const
+{
+    return m_bytes.capacity() + qsizetype(m_places.capacity() * sizeof(Place));
+}
+
+qsizetype NameList::textLength() const
+{
+    return std::accumulate(m_places.begin(), m_places.end(), qsizetype(0),
+                           [](qsizetype sum, Place place) { return sum + place.length; });
+}
+
+QByteArrayView NameList::bytesAt(int position) const
+{
+    if (position < 0 || position >= count())
+        return {};
+    const Place place = m_places[std::size_t(position)];
+    return {m_bytes.constData() + place.start, qsizetype(place.length)};
+}

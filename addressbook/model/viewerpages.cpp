@@ -1,0 +1,268 @@
+#include "addressbook/model/viewerpages.h"
+
+#include "addressbook/model/viewermessages.h"
+#include "shell/core/dates.h"
+#include "storage/ansitext.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Shorter paths are no paths.
+constexpr qsizetype shortestPath = 5;
+
+// The picture list, in inches.
+constexpr QPointF firstPicture(0.25, 0.8);
+constexpr double picturePitch = 2.0;
+constexpr QSizeF pictureRoom(1.8, 1.0);
+constexpr double pictureScale = 0.1654;
+constexpr double dotsPerInch = 96;
+constexpr double leastSide = 1.0;
+constexpr double nameTop = 1.02;
+constexpr QSizeF nameRoom(1.85, 0.39);
+constexpr double headTop = 0.38;
+constexpr double headHeight = 0.3;
+
+/// A cell of a text file: tabs and line ends would be taken for the next cell or row.
+QString plainCell(QString cell)
+{
+    for (QChar &character : cell) {
+        if (character == u'\t' || character == u'\r' || character == u'\n')
+            character = u' ';
+    }
+    return cell;
+}
+
+QString plainText(const AddressViewer &viewer, DateStyle style, QLatin1StringView lineEnd)
+{
+    const QString heading = ViewerPages::heading(viewer.information(), style);
+    const bool hasColumn = !heading.isEmpty();
+    QString text = ViewerMessages::nameHeading();
+    if (hasColumn)
+        text += u'\t' + heading;
+    text += lineEnd;
+    for (int row = 0; row < viewer.count(); ++row) {
+        text += plainCell(viewer.name(row));
+        if (hasColumn)
+            text += u'\t' + plainCell(viewer.information(row));
+        text += lineEnd;
+    }
+    return text;
+}
+
+const QString &telephoneOf(const AddressEntry &entry)
+{
+    return entry[HomePhone].isEmpty() ? entry[MobilePhone] : entry[HomePhone];
+}
+
+/// Home numbers in a column of their own need not stand behind the names as well.
+bool hasColumn(const AddressViewer &viewer, const ViewerPages::ListOptions &options)
+{
+    const bool isTold = options.hasTelephones && viewer.information() == Information::HomePhone;
+    return viewer.information() != Information::Pictures && !isTold;
+}
+
+/// The characters of a usual cell, from rows spread over the whole list.
+double usualLength(const AddressViewer &viewer, QString (AddressViewer::*cell)(int) const)
+{
+    constexpr int sample = 200;
+    const int step = std::max(1, viewer.count() / sample);
+    qsizetype characters = 0;
+    int cells = 0;
+    for (int row = 0; row < viewer.count(); row += step) {
+        const QString text = (viewer.*cell)(row);
+        characters += text.size();
+        cells += text.isEmpty() ? 0 : 1;
+    }
+    return double(characters) / std::max(1, cells);
+}
+
+/// The names' share of the width: each column gets what its texts need.
+double nameShare(const AddressViewer &viewer, const ViewerPages::ListOptions &options)
+{
+    constexpr double telephoneLength = 25;
+    constexpr double leastInformation = 8;
+    constexpr double least = 0.4, most = 0.8;
+    double name = usualLength(viewer, &AddressViewer::name);
+    if (options.hasTelephones)
+        name += telephoneLength;
+    const double information = std::max(leastInformation, usualLength(viewer, &AddressViewer::information));
+    return std::clamp(name / (name + information), least, most);
+}
+
+PageItem::Columns listColumns(const AddressViewer &viewer, const ViewerPages::ListOptions &options,
+                              DateStyle style)
+{
+    PageItem::Columns columns;
+    columns.weights = {1};
+    columns.headings = {ViewerMessages::nameHeading()};
+    if (hasColumn(viewer, options)) {
+        const double share = nameShare(viewer, options);
+        columns.weights = {share, 1 - share};
+        columns.headings << ViewerPages::heading(viewer.information(), style);
+    }
+    columns.lines = options.hasGridLines ? TableLines::Grid : TableLines::None;
+    columns.across = options.isTwoColumns ? 2 : 1;
+    return columns;
+}
+
+int fitting(double room, double least)
+{
+    return std::max(1, int(std::floor((room - least) / picturePitch)));
+}
+
+/// Where the pictures of a sheet stand.
+struct PictureGrid {
+    explicit PictureGrid(QSizeF sheet)
+        : columns(fitting(sheet.width(), firstPicture.x()))
+        , rows(fitting(sheet.height(), firstPicture.y()))
+    {}
+
+    int count() const { return columns * rows; }
+    QPointF corner(int position) const
+    {
+        return firstPicture + picturePitch * QPointF(position % columns, position / columns);
+    }
+
+    int columns;
+    int rows;
+};
+
+QSizeF printedSize(QSize pixels)
+{
+    if (pixels.isEmpty())
+        return pictureRoom;
+    QSizeF size = QSizeF(pixels) / dotsPerInch * pictureScale;
+    const double longer = std::max(size.width(), size.height());
+    if (longer < leastSide)
+        size *= leastSide / longer;
+    const bool isTooLarge = size.width() > pictureRoom.width() || size.height() > pictureRoom.height();
+    return isTooLarge ? size.scaled(pictureRoom, Qt::KeepAspectRatio) : size;
+}
+
+} // namespace
+
+QString ViewerPages::choice(Information information)
+{
+    switch (information) {
+    case Information::Address:
+        return u"Address"_s;
+    case Information::State:
+        return u"State"_s;
+    case Information::HomePhone:
+        return u"Home Phone"_s;
+    case Information::MobilePhone:
+        return u"Mobile Phone"_s;
+    case Information::FaxNumber:
+        return u"Fax Number"_s;
+    case Information::EmailAddress:
+        return u"Email Address"_s;
+    case Information::BirthDate:
+        return u"Date of Birth"_s;
+    case Information::AnniversaryDate:
+        return u"Anniversary Date"_s;
+    case Information::Pictures:
+        break;
+    }
+    return u"Pictures - Print Only"_s;
+}
+
+QString ViewerPages::heading(Information information, DateStyle style)
+{
+    if (information == Information::Pictures)
+        return {};
+    if (information != Information::Address)
+        return choice(information);
+    const QString town =
+        style == DateStyle::Usa ? u"City, State, Zip Code"_s : u"Suburb, Town/City, Postal Code"_s;
+    return u"Address, Address Line 2, "_s + town;
+}
+
+Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, DateStyle style, QDate today)
+{
+    const bool isPictures = viewer.information() == Information::Pictures;
+    Page page(ViewerMessages::listTitle(isPictures ? QString() : choice(viewer.information())),
+              options.hasAsOf ? ViewerMessages::asOf(Dates::longText(today, style)) : QString());
+    page.numberSheets(SheetNumbers::Title);
+    page.table(listColumns(viewer, options, style));
+    const bool hasInformation = hasColumn(viewer, options);
+    const TextRole role = options.isTwoColumns ? TextRole::Small : TextRole::Body;
+    const auto addRow = [&](int row, const QString &telephone) {
+        const QString name =
+            telephone.isEmpty() ? viewer.name(row) : viewer.name(row) + ViewerMessages::telephone(telephone);
+        page.row(hasInformation ? QStringList{name, viewer.information(row)} : QStringList{name}, role);
+    };
+    if (options.hasTelephones) {
+        viewer.forEachShown([&addRow](int row, const AddressEntry &entry) {
+            addRow(row, telephoneOf(entry));
+            return true;
+        });
+    } else {
+        for (int row = 0; row < viewer.count(); ++row)
+            addRow(row, {});
+    }
+    if (viewer.count() == 0)
+        page.row({ViewerMessages::nothingToShow(!viewer.searchText().isEmpty())});
+    return page.close(today, style);
+}
+
+Page ViewerPages::pictureList(const std::vector<ListedPicture> &pictures, const PageSetup &setup,
+                              DateStyle style, QDate today)
+{
+    const PictureGrid grid(setup.sheet());
+    const int count = int(pictures.size());
+    const int sheets = std::max(1, (count + grid.count() - 1) / grid.count());
+    const double width = setup.sheet().width() - 2 * firstPicture.x();
+    const QRectF head(firstPicture.x(), headTop, width, headHeight);
+    Page page;
+    page.numberSheets(SheetNumbers::None); // the last row of pictures stands where the number would
+    for (int sheet = 0; sheet < sheets; ++sheet) {
+        page.breakPage();
+        page.placeText(head, ViewerMessages::pictureListTitle(Dates::longText(today, style)),
+                       TextRole::Heading);
+        if (sheets > 1)
+            page.placeText(head, ViewerMessages::pageOf(sheet + 1, sheets), TextRole::Body, Qt::AlignRight);
+        const int end = std::min(count, (sheet + 1) * grid.count());
+        for (int i = sheet * grid.count(); i < end; ++i) {
+            const ListedPicture &picture = pictures[std::size_t(i)];
+            const QPointF corner = grid.corner(i % grid.count());
+            page.placePicture({corner, printedSize(picture.pixels)}, picture.path);
+            page.placeText({corner + QPointF(0, nameTop), nameRoom}, picture.name, TextRole::Small);
+        }
+    }
+    return page.close(today, style);
+}
+
+std::vector<NamedPicture> ViewerPages::picturesOf(const AddressViewer &viewer)
+{
+    std::vector<NamedPicture> pictures;
+    for (int row = 0; row < viewer.count(); ++row) {
+        const QString stored = viewer.information(row).trimmed();
+        if (stored != noPicture && stored.size() >= shortestPath)
+            pictures.push_back({viewer.name(row), stored});
+    }
+    return pictures;
+}
+
+QString ViewerPages::clipboardText(const AddressViewer &viewer, DateStyle style)
+{
+    return plainText(viewer, style, "\n"_L1);
+}
+
+QByteArray ViewerPages::exportText(const AddressViewer &viewer, DateStyle style)
+{
+    return AnsiText::encode(plainText(viewer, style, "\r\n"_L1));
+}
+
+QString ViewerPages::exportName(const QString &title)
+{
+    QString name = title;
+    for (QChar &character : name) {
+        if (character < u' ' || u"/\\:*?\"<>|"_s.contains(character))
+            character = u'-';
+    }
+    return name + u".xls"_s;
+}

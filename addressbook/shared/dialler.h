@@ -1,0 +1,34 @@
+#pragma once
+
+#include "addressbook/model/dialling.h"
+
+#include <functional>
+#include <memory>
+
+#include <QWidget>
+
+class QLabel;
+struct Program;
+
+/// A call from a window: the boxes on the screen around the modem's work.
+class Dialler final : private CallDesk
+{
+public:
+    using MakeModem = std::function<std::unique_ptr<Modem>()>;
+
+    /// `dialing` is the label "Dialing...", shown while a call is being set up.
+    Dialler(Program &program, QWidget *window, QLabel *dialing, MakeModem makeModem);
+
+    /// Dials `number` and waits until the person has taken the call or given up.
+    void call(const QString &number);
+
+private:
+    void setDialing(bool isDialing) override;
+    Answer ask(const Message &message) override;
+    std::optional<QString> askPort(const QString &prompt, int current) override;
+
+    Program &m_program;
+    QWidget *m_window;
+    QLabel *m_dialing;
+    MakeModem m_makeModem;
+};

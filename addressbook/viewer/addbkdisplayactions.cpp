@@ -1,0 +1,193 @@
+// Removing, dialling, copying, exporting and printing: the commands of the viewer.
+
+#include "addressbook/entry/entrywindow.h"
+#include "addressbook/model/messages.h"
+#include "addressbook/model/viewerlines.h"
+#include "addressbook/model/viewermessages.h"
+#include "addressbook/model/viewerpages.h"
+#include "addressbook/viewer/addressgrid.h"
+#include "addressbook/viewer/labelpanel.h"
+#include "addressbook/viewer/listoptionspanel.h"
+#include "addressbook/viewer/pictureswindow.h"
+#include "addressbook/viewer/viewerwindow.h"
+#include "shell/access/gate.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/gridview.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/pictures/picturecopies.h"
+#include "storage/saving.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QStackedWidget>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+void ADDBKDISPLAY::removeRow()
+{
+    showGrid();
+    int row = currentRow();
+    const AddressGrid::Identity asked = m_rows->identity(row);
+    if (row < 0 || ask(ViewerMessages::removeRow()) != Answer::Yes)
+        return;
+    // Coming back from the question may have read the rows anew.
+    if (m_rows->identity(row) != asked)
+        row = m_rows->rowOf(asked);
+    if (row < 0)
+        return;
+    m_rows->removeEntry(row);
+    refresh();
+    if (m_rows->isEmpty()) // the focus would fall on the next button
+        m_grid->setFocus();
+    activity().say(ViewerLines::removed(asked.name));
+}
+
+void ADDBKDISPLAY::dial()
+{
+    const int row = currentRow();
+    m_dialler->call(row < 0 ? QString() : m_rows->viewer().information(row).trimmed());
+}
+
+void ADDBKDISPLAY::writeMail()
+{
+    if (currentRow() >= 0)
+        openMail(m_rows->index(currentRow(), AddressGrid::InformationColumn));
+}
+
+void ADDBKDISPLAY::openMail(const QModelIndex &index)
+{
+    QUrl address;
+    address.setScheme(u"mailto"_s);
+    address.setPath(index.data().toString().trimmed());
+    activity().say(m_surroundings.openAddress(address) ? QString() : ViewerLines::noMailProgram());
+}
+
+void ADDBKDISPLAY::openEntry()
+{
+    showGrid();
+    const int row = currentRow();
+    const int record = row < 0 ? 0 : m_rows->viewer().record(row);
+    if (record == 0)
+        return;
+    const QList<QWidget *> open = program().functions.openWindows();
+    const bool isOpen =
+        std::ranges::any_of(open, [](QWidget *window) { return qobject_cast<ADDBKVIEW *>(window); });
+    if (!isOpen && !program().gate.mayOpen(program(), Area::AddressBook, this))
+        return;
+    auto *book = qobject_cast<ADDBKVIEW *>(program().functions.open(Function::AddressBook, program()));
+    if (book && !book->showRecord(record)) {
+        raise(); // or nobody reads it
+        activateWindow();
+        activity().say(ViewerLines::notInList());
+    }
+}
+
+void ADDBKDISPLAY::copyRows()
+{
+    loadRest();
+    QApplication::clipboard()->setText(
+        ViewerPages::clipboardText(m_rows->viewer(), program().state.dateStyle));
+    ask(AddressMessages::dataCopied());
+}
+
+void ADDBKDISPLAY::exportRows()
+{
+    loadRest();
+    const QString name = ViewerPages::exportName(m_title->text());
+    const QString folder = QDir::toNativeSeparators(program().folder.path());
+    if (ask(ViewerMessages::exportNotice(folder, name)) != Answer::Ok)
+        return;
+    const QByteArray content = ViewerPages::exportText(m_rows->viewer(), program().state.dateStyle);
+    const bool isSaved = Saving::replaceFile(program().folder, name, content);
+    const QString path = QDir::toNativeSeparators(program().folder.filePath(name));
+    activity().say(isSaved ? ViewerLines::exported(path) : ViewerLines::notExported(name));
+}
+
+Page ADDBKDISPLAY::page(const PageSetup &) const
+{
+    return ViewerPages::list(m_rows->viewer(), m_listOptions->options(), program().state.dateStyle,
+                             clock().today());
+}
+
+void ADDBKDISPLAY::showPrintOptions()
+{
+    loadRest();
+    closePreview();
+    if (m_rows->viewer().information() == Information::Pictures) {
+        printPictures();
+        return;
+    }
+    m_pages->setCurrentWidget(m_listOptions);
+    m_listOptions->focusFirst();
+}
+
+void ADDBKDISPLAY::printList()
+{
+    showPreview([this](const PageSetup &setup) { return page(setup); }, u"Family and Friends List"_s);
+}
+
+void ADDBKDISPLAY::printPictures()
+{
+    const std::vector<NamedPicture> pictures = ViewerPages::picturesOf(m_rows->viewer());
+    if (pictures.empty()) {
+        activity().say(ViewerLines::noPictures());
+        return;
+    }
+    m_copies->make(pictures);
+}
+
+void ADDBKDISPLAY::showPictureList()
+{
+    activity().showProgress(0, 0);
+    const auto list = [this](const PageSetup &setup) {
+        return ViewerPages::pictureList(m_copies->pictures(), setup, program().state.dateStyle,
+                                        clock().today());
+    };
+    showPreview(list, u"Family and Friends Pictures"_s);
+}
+
+void ADDBKDISPLAY::stop()
+{
+    if (!m_copies->isBusy())
+        return;
+    m_copies->stop();
+    activity().showProgress(0, 0);
+    activity().say(ViewerLines::stopped());
+}
+
+void ADDBKDISPLAY::showPictures()
+{
+    if (!m_pictures)
+        m_pictures = new ADDBKDISPLAY2(program());
+    m_pictures->show();
+    m_pictures->raise();
+    m_pictures->activateWindow();
+}
+
+void ADDBKDISPLAY::showLabels()
+{
+    loadRest();
+    closePreview();
+    m_pages->setCurrentWidget(m_labels);
+    m_labels->start(m_rows->viewer());
+}
+
+void ADDBKDISPLAY::openBackup()
+{
+    program().functions.open(Function::Backup, program());
+}
+
+void ADDBKDISPLAY::showHelp()
+{
+    emit program().changes.helpRequested(HelpContext::AddressViewer);
+}
+
+void ADDBKDISPLAY::choosePanelColor()
+{
+    colors().choosePanelColor();
+}

@@ -1,0 +1,332 @@
+#include "addressbook/viewer/labelpanel.h"
+
+#include "addressbook/model/viewerlines.h"
+#include "addressbook/model/viewermessages.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
+#include "shell/look/theme.h"
+#include "shell/pages/pagepainter.h"
+#include "shell/pages/pagetype.h"
+#include "shell/preview/printjob.h"
+#include "shell/preview/sheetview.h"
+#include "shell/program/program.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QSettings>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int leastChoicesWidth = 220;
+constexpr int mostChoicesWidth = 300;
+constexpr int envelopePoints = 11;
+constexpr int labelPoints = 10;
+constexpr int typingPause = 150; ///< in milliseconds
+
+PageFont pageFont(const LabelSheet &sheet)
+{
+    PageFont font{QApplication::font(), Qt::black};
+    font.font.setPointSize(sheet.isEnvelope ? envelopePoints : labelPoints);
+    return font;
+}
+
+/// The fonts of the pages, measured for the room of a label.
+LabelType labelType(const PageTypes &types, const LabelSheet &sheet)
+{
+    constexpr double pointsPerInch = 72;
+    const QSizeF room = sheet.room(0).size() * pointsPerInch;
+    return {[&types, room](const QString &line, TextRole role) {
+                return types.of(role).wrapped(line, room.width());
+            },
+            [&types, room](const QString &line, TextRole role) {
+                return types.of(role).elided(line, room.width());
+            },
+            [&types, room](TextRole role) { return int(room.height() / types.of(role).lineHeight()); }};
+}
+
+QString storeKey(QLatin1StringView what)
+{
+    return u"Windows/ADDBKDISPLAY/"_s + what;
+}
+
+} // namespace
+
+LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
+    : QWidget(parent)
+    , m_program(program)
+    , m_activity(activity)
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(24, 16, 24, 18);
+    column->setSpacing(12);
+    auto *title = new ElidedLabel(this);
+    title->setText(u"Labels and Envelopes"_s);
+    title->setFont(TypeScale::windowTitle());
+    auto *row = new QHBoxLayout;
+    row->setSpacing(16);
+    row->addWidget(makeChoices(), 3);
+    row->addWidget(makePreview(), 2);
+    QPushButton *back = makeButton(u"leaveLabels"_s, u"&Back to the Grid"_s, this);
+    m_print = makeButton(u"printLabels"_s, u"&Print"_s, this, ButtonKind::Main);
+    auto *foot = new QHBoxLayout;
+    foot->addStretch(1);
+    foot->addWidget(back);
+    foot->addWidget(m_print);
+    column->addWidget(title);
+    column->addLayout(row, 1);
+    column->addWidget(makeLine(this));
+    column->addLayout(foot);
+
+    connect(m_sheets, &QComboBox::currentIndexChanged, this, &LabelPanel::sheetChosen);
+    connect(m_start, &QSpinBox::valueChanged, this, &LabelPanel::refresh);
+    connect(m_share, &QCheckBox::toggled, this, &LabelPanel::gather);
+    connect(m_returnAddress, &QPlainTextEdit::textChanged, this, &LabelPanel::refresh);
+    connect(m_previous, &QPushButton::clicked, this, [this] { showSheet(m_index - 1); });
+    connect(m_next, &QPushButton::clicked, this, [this] { showSheet(m_index + 1); });
+    connect(m_view, &SheetView::stepRequested, this, [this](int step) { showSheet(m_index + step); });
+    connect(m_view, &SheetView::firstRequested, this, [this] { showSheet(0); });
+    connect(m_view, &SheetView::lastRequested, this, [this] { showSheet(m_sheetCount - 1); });
+    connect(back, &QPushButton::clicked, this, &LabelPanel::left);
+    connect(m_print, &QPushButton::clicked, this, &LabelPanel::print);
+    m_gathering.setSingleShot(true);
+    m_gathering.setInterval(typingPause);
+    connect(&m_gathering, &QTimer::timeout, this, &LabelPanel::gather);
+    restoreChoices();
+}
+
+LabelPanel::~LabelPanel()
+{
+    if (m_viewer) // somebody was here
+        storeChoices();
+}
+
+QWidget *LabelPanel::makeChoices()
+{
+    auto *choices = new QWidget;
+    QScrollArea *scroll = makeScrolling(choices, u"labelChoices"_s, this);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setMinimumWidth(leastChoicesWidth);
+    scroll->setMaximumWidth(mostChoicesWidth);
+    auto *column = new QVBoxLayout(choices);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    addSheetChoice(*column);
+    column->addSpacing(8);
+    m_share = named(new QCheckBox(u"One label for each address"_s, choices), u"shareLabels"_s);
+    m_share->setToolTip(u"Persons at one address share one label"_s);
+    column->addWidget(m_share);
+    column->addSpacing(8);
+    m_returnAddress = named(new QPlainTextEdit(choices), u"returnAddress"_s);
+    m_returnAddress->setTabChangesFocus(true);
+    m_returnAddress->setFixedHeight(5 * fontMetrics().height());
+    m_returnLabel = makeFieldLabel(u"Return address"_s, m_returnAddress, choices);
+    column->addWidget(m_returnLabel);
+    column->addWidget(m_returnAddress);
+    column->addSpacing(8);
+    m_count = named(new QLabel(choices), u"labelCount"_s);
+    m_count->setFont(TypeScale::strong());
+    m_leftOut = named(makeQuietLabel({}, choices), u"labelsLeftOut"_s);
+    m_leftOut->setWordWrap(true);
+    column->addWidget(m_count);
+    column->addWidget(m_leftOut);
+    column->addStretch(1);
+    return scroll;
+}
+
+void LabelPanel::addSheetChoice(QVBoxLayout &column)
+{
+    QWidget *parent = column.parentWidget();
+    m_sheets = named(new QComboBox(parent), u"labelSheet"_s);
+    for (const LabelSheet &sheet : LabelSheet::all())
+        m_sheets->addItem(sheet.name);
+    m_sheets->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_sheets->view()->setMinimumWidth(m_sheets->view()->sizeHintForColumn(0) + 32);
+    m_start = named(new QSpinBox(parent), u"startPosition"_s);
+    m_start->setMinimum(1);
+    m_start->setMinimumSize(96, 34);
+    m_start->setToolTip(u"A sheet that has been used before has fewer labels left. "
+                        u"You can also click a label of the sheet."_s);
+    m_startLabel = makeFieldLabel(u"Start at label"_s, m_start, parent);
+    column.addWidget(makeFieldLabel(u"Sheet or envelope"_s, m_sheets, parent));
+    column.addWidget(m_sheets);
+    column.addSpacing(8);
+    column.addWidget(m_startLabel);
+    column.addWidget(m_start, 0, Qt::AlignLeft);
+}
+
+QWidget *LabelPanel::makePreview()
+{
+    auto *preview = new QWidget(this);
+    m_view = named(new SheetView(preview), u"labelPreview"_s);
+    m_view->setAccessibleName(u"Labels as they will be printed"_s);
+    m_view->viewport()->installEventFilter(this);
+    m_previous = makeIconButton(u"previousSheet"_s, "previous"_L1, u"Previous page"_s, preview);
+    m_next = makeIconButton(u"nextSheet"_s, "next"_L1, u"Next page"_s, preview);
+    m_pageNumber = named(new QLabel(preview), u"sheetNumber"_s);
+    m_pageNumber->setFont(TypeScale::strong());
+    auto *steps = new QHBoxLayout;
+    steps->addStretch(1);
+    for (QWidget *part : std::initializer_list<QWidget *>{m_previous, m_pageNumber, m_next})
+        steps->addWidget(part);
+    steps->addStretch(1);
+    auto *column = new QVBoxLayout(preview);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_view, 1);
+    column->addLayout(steps);
+    return preview;
+}
+
+void LabelPanel::restoreChoices()
+{
+    const QString chosen = m_program.store.value(storeKey("labelSheet"_L1)).toString();
+    const int usual = m_program.state.dateStyle == DateStyle::Usa ? 2 : 0;
+    const int index = m_sheets->findText(chosen);
+    m_sheets->setCurrentIndex(index < 0 ? usual : index);
+    m_share->setChecked(m_program.store.value(storeKey("shareLabels"_L1), true).toBool());
+    m_returnAddress->setPlainText(m_program.store.value(storeKey("returnAddress"_L1)).toString());
+    sheetChosen();
+}
+
+void LabelPanel::storeChoices() const
+{
+    m_program.store.setValue(storeKey("labelSheet"_L1), m_sheets->currentText());
+    m_program.store.setValue(storeKey("shareLabels"_L1), m_share->isChecked());
+    m_program.store.setValue(storeKey("returnAddress"_L1), m_returnAddress->toPlainText());
+}
+
+const LabelSheet &LabelPanel::sheet() const
+{
+    return LabelSheet::all()[std::size_t(std::max(0, m_sheets->currentIndex()))];
+}
+
+LabelPages::Options LabelPanel::options() const
+{
+    const bool isEnvelope = sheet().isEnvelope;
+    return {isEnvelope ? 0 : m_start->value() - 1,
+            isEnvelope ? m_returnAddress->toPlainText().trimmed() : QString()};
+}
+
+void LabelPanel::start(const AddressViewer &viewer)
+{
+    m_viewer = &viewer;
+    m_index = 0;
+    gather();
+    m_sheets->setFocus();
+}
+
+void LabelPanel::follow(const AddressViewer &viewer)
+{
+    m_viewer = &viewer;
+    m_index = 0;
+    m_gathering.start();
+}
+
+void LabelPanel::sheetChosen()
+{
+    const bool isEnvelope = sheet().isEnvelope;
+    m_start->setMaximum(sheet().count());
+    for (QWidget *control : std::initializer_list<QWidget *>{m_startLabel, m_start})
+        control->setVisible(!isEnvelope);
+    for (QWidget *control : std::initializer_list<QWidget *>{m_returnLabel, m_returnAddress})
+        control->setVisible(isEnvelope);
+    m_index = 0;
+    m_sheets->setToolTip(sheet().name);
+    fit();
+}
+
+void LabelPanel::gather()
+{
+    if (!m_viewer)
+        return;
+    m_gathering.stop();
+    const BusyCursor busy;
+    m_labels = LabelTexts::of(*m_viewer, m_share->isChecked() ? LabelSharing::OneForAnAddress
+                                                              : LabelSharing::EachTheirOwn);
+    fit();
+}
+
+void LabelPanel::fit()
+{
+    const PageTypes types(pageFont(sheet()));
+    const LabelType type = labelType(types, sheet());
+    m_set.clear();
+    m_set.reserve(m_labels.texts.size());
+    for (const QString &text : m_labels.texts)
+        m_set.push_back(LabelPages::fitted(text, type));
+    m_shortened = int(std::ranges::count(m_set, true, &SetLabel::isShortened));
+    refresh();
+}
+
+void LabelPanel::refresh()
+{
+    const int labels = int(m_labels.texts.size());
+    m_sheetCount = LabelPages::sheetCount(sheet(), labels, options().used);
+    m_count->setText(ViewerLines::labelCount(labels, m_sheetCount, sheet().isEnvelope));
+    QStringList remarks;
+    if (m_labels.leftOut > 0)
+        remarks << ViewerLines::leftOut(m_labels.leftOut);
+    if (m_shortened > 0)
+        remarks << ViewerLines::shortened(m_shortened);
+    m_leftOut->setText(remarks.join(u'\n'));
+    setUnavailable(m_print, labels == 0 ? ViewerLines::noLabels() : QString());
+    showSheet(m_index);
+}
+
+void LabelPanel::showSheet(int index)
+{
+    m_index = std::clamp(index, 0, m_sheetCount - 1);
+    LabelPages::Options shown = options();
+    shown.hasRims = !sheet().isEnvelope;
+    auto painter = std::make_unique<PagePainter>(LabelPages::sheet(sheet(), m_set, shown, m_index),
+                                                 sheet().setup(), pageFont(sheet()));
+    m_view->setSheet(painter.get(), 0);
+    m_painter = std::move(painter);
+    m_pageNumber->setText(ViewerMessages::pageOf(m_index + 1, m_sheetCount));
+    setUnavailable(m_previous, m_index == 0 ? ViewerLines::firstPage() : QString());
+    setUnavailable(m_next, m_index + 1 == m_sheetCount ? ViewerLines::lastPage() : QString());
+}
+
+bool LabelPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress)
+        chooseStart(static_cast<QMouseEvent *>(event)->pos());
+    return QWidget::eventFilter(watched, event);
+}
+
+/// The label under `place` of the first sheet is where printing starts.
+void LabelPanel::chooseStart(QPoint place)
+{
+    const QRectF shown = m_view->sheetRect();
+    if (sheet().isEnvelope || m_index != 0 || !shown.isValid())
+        return;
+    const double inch = shown.width() / sheet().paper.width();
+    const QPointF inches = (QPointF(place) - shown.topLeft()) / inch;
+    for (int position = 0; position < sheet().count(); ++position) {
+        if (sheet().place(position).contains(inches))
+            m_start->setValue(position + 1);
+    }
+}
+
+void LabelPanel::print()
+{
+    storeChoices();
+    if (m_gathering.isActive())
+        gather();
+    const auto laidOut = [this](const PageSetup &setup) {
+        const BusyCursor busy;
+        return PagePainter(LabelPages::sheets(sheet(), m_set, options()), setup, pageFont(sheet()));
+    };
+    PrintJob job(m_program, m_activity, window(), sheet().isEnvelope ? u"Envelopes"_s : u"Labels"_s);
+    job.run(laidOut(sheet().setup()), sheet().setup(), m_index, laidOut);
+}

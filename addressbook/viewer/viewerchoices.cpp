@@ -1,0 +1,200 @@
+#include "addressbook/viewer/viewerchoices.h"
+
+#include "addressbook/model/viewerpages.h"
+#include "shell/controls/controls.h"
+#include "shell/look/theme.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int groupGap = 16;
+constexpr int headingGap = 4;
+constexpr int monthIndent = 24;
+
+QStringList monthNames()
+{
+    return {u"Jan"_s, u"Feb"_s, u"Mar"_s, u"Apr"_s, u"May"_s, u"Jun"_s,
+            u"Jul"_s, u"Aug"_s, u"Sep"_s, u"Oct"_s, u"Nov"_s, u"Dec"_s};
+}
+
+} // namespace
+
+ViewerChoices::ViewerChoices(QWidget *parent)
+    : QWidget(parent)
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    addSearch(*column);
+    addInformation(*column);
+    addRange(*column);
+    column->addStretch(1);
+}
+
+void ViewerChoices::addSearch(QVBoxLayout &column)
+{
+    m_searchBox = named(new QLineEdit(this), u"searchText"_s);
+    m_searchBox->setPlaceholderText(u"Search text"_s);
+    m_searchBox->setAccessibleName(u"Search text"_s);
+    m_searchBox->setToolTip(u"The grid shows what fits while you type"_s);
+    m_searchBox->setClearButtonEnabled(true);
+    m_searchBox->addAction(Icons::icon("search"_L1, Theme::of(this).scheme), QLineEdit::LeadingPosition);
+    m_searchBox->installEventFilter(this);
+    m_searchButton = makeButton(u"searchButton"_s, u"Sea&rch"_s, this);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(m_searchBox, 1);
+    row->addWidget(m_searchButton);
+    column.addLayout(row);
+    connect(m_searchBox, &QLineEdit::textChanged, this, &ViewerChoices::searchTyped);
+    connect(m_searchBox, &QLineEdit::returnPressed, this, &ViewerChoices::searchPressed);
+    connect(m_searchButton, &QPushButton::clicked, this, &ViewerChoices::searchPressed);
+}
+
+void ViewerChoices::addInformation(QVBoxLayout &column)
+{
+    column.addSpacing(groupGap);
+    column.addWidget(makeHeading(u"Select Information to View"_s, this));
+    column.addSpacing(headingGap);
+    m_information = new QButtonGroup(this);
+    for (int i = 0; i < informationCount; ++i) {
+        auto *choice = named(new QRadioButton(ViewerPages::choice(Information(i)), this),
+                             u"information_"_s + QString::number(i));
+        m_information->addButton(choice, i);
+        column.addWidget(choice);
+    }
+    m_information->button(0)->setChecked(true);
+    connect(m_information, &QButtonGroup::idToggled, this, [this](int, bool isChosen) {
+        if (isChosen)
+            emit informationChosen();
+    });
+}
+
+void ViewerChoices::addRange(QVBoxLayout &column)
+{
+    column.addSpacing(groupGap);
+    column.addWidget(makeHeading(u"Display Range"_s, this));
+    column.addSpacing(headingGap);
+    m_range = new QButtonGroup(this);
+    const auto addChoice = [&](DisplayRange::Kind kind, const QString &caption) {
+        auto *choice = named(new QRadioButton(caption, this), u"range_"_s + QString::number(kind));
+        m_range->addButton(choice, kind);
+        column.addWidget(choice);
+    };
+    const auto addMonth = [&](DisplayRange::Kind kind, const QString &name, const QString &caption) {
+        auto *row = new QHBoxLayout;
+        row->setContentsMargins(monthIndent, 2, 0, 2);
+        row->setSpacing(8);
+        QComboBox *box = makeMonthBox(name, caption, kind);
+        row->addWidget(makeFieldLabel(caption, box, this));
+        row->addWidget(box, 1);
+        column.addLayout(row);
+    };
+    addChoice(DisplayRange::All, u"Display All"_s);
+    addChoice(DisplayRange::BirthMonth, u"Display -If Birth Month Is"_s);
+    addMonth(DisplayRange::BirthMonth, u"birthMonth"_s, u"B'day Month:"_s);
+    addChoice(DisplayRange::AnniversaryMonth, u"Display-If Anniv.Month Is"_s);
+    addMonth(DisplayRange::AnniversaryMonth, u"anniversaryMonth"_s, u"Anniv Month:"_s);
+    m_range->button(DisplayRange::All)->setChecked(true);
+    m_update = makeButton(u"updateDisplay"_s, u"Update Display"_s, this);
+    column.addSpacing(10);
+    column.addWidget(m_update);
+    connect(m_update, &QPushButton::clicked, this, &ViewerChoices::updateRequested);
+}
+
+QComboBox *ViewerChoices::makeMonthBox(const QString &name, const QString &caption, DisplayRange::Kind kind)
+{
+    auto *box = named(new QComboBox(this), name);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->addItems(monthNames());
+    box->setCurrentIndex(-1);
+    box->setMaxVisibleItems(12);
+    box->setAccessibleName(caption);
+    box->setToolTip(u"A month as Apr, April or 4"_s);
+    box->lineEdit()->setPlaceholderText(u"Month"_s);
+    // Who names a month wants to see it.
+    connect(box, &QComboBox::editTextChanged, this, [this, kind](const QString &text) {
+        m_range->button(text.isEmpty() ? m_range->checkedId() : kind)->setChecked(true);
+    });
+    connect(box->lineEdit(), &QLineEdit::returnPressed, this, &ViewerChoices::updateRequested);
+    m_months[kind] = box;
+    return box;
+}
+
+QString ViewerChoices::searchText() const
+{
+    return m_searchBox->text();
+}
+
+void ViewerChoices::clearSearch()
+{
+    m_searchBox->clear();
+}
+
+void ViewerChoices::focusSearch()
+{
+    m_searchBox->setFocus();
+    m_searchBox->selectAll();
+}
+
+Information ViewerChoices::information() const
+{
+    return Information(m_information->checkedId());
+}
+
+DisplayRange::Kind ViewerChoices::rangeKind() const
+{
+    return DisplayRange::Kind(m_range->checkedId());
+}
+
+int ViewerChoices::month(DisplayRange::Kind kind) const
+{
+    return m_months[kind] ? DayOfYear::monthTyped(m_months[kind]->currentText()) : 0;
+}
+
+void ViewerChoices::focusMonth(DisplayRange::Kind kind)
+{
+    if (!m_months[kind])
+        return;
+    m_months[kind]->setFocus();
+    m_months[kind]->lineEdit()->selectAll();
+}
+
+QVector<QWidget *> ViewerChoices::tabOrder() const
+{
+    QVector<QWidget *> order{m_searchBox, m_searchButton};
+    for (QAbstractButton *button : m_information->buttons())
+        order << button;
+    for (QAbstractButton *button : m_range->buttons()) {
+        order << button;
+        if (QComboBox *month = m_months[std::size_t(m_range->id(button))])
+            order << month;
+    }
+    return order << m_update;
+}
+
+bool ViewerChoices::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_searchBox && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Escape && !m_searchBox->text().isEmpty()) {
+            m_searchBox->clear();
+            return true;
+        }
+        if (key == Qt::Key_Down) {
+            emit leftForNames();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
