@@ -1,7 +1,7 @@
 #include "benchmarks/limit.h"
-#include "planner/dayrecord.h"
-#include "planner/plannersearch.h"
-#include "planner/recurrencerun.h"
+#include "planner/model/dayrecord.h"
+#include "planner/model/plannersearch.h"
+#include "planner/model/recurrencerun.h"
 
 #include <QFile>
 #include <QTemporaryDir>

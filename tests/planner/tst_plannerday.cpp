@@ -1,6 +1,6 @@
-#include "planner/calendaroptions.h"
-#include "planner/dayrecord.h"
-#include "planner/plannerfiles.h"
+#include "planner/model/calendaroptions.h"
+#include "planner/model/dayrecord.h"
+#include "planner/model/plannerfiles.h"
 #include "tests/support/testprogram.h"
 
 #include <QJsonArray>

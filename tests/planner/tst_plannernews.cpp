@@ -1,5 +1,5 @@
-#include "planner/plannerfiles.h"
-#include "planner/plannernews.h"
+#include "planner/model/plannerfiles.h"
+#include "planner/model/plannernews.h"
 #include "tests/support/testprogram.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,5 +1,5 @@
-#include "planner/daylines.h"
-#include "planner/plannerpages.h"
+#include "planner/model/daylines.h"
+#include "planner/model/plannerpages.h"
 
 #include <QTest>
 

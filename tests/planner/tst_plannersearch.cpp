@@ -1,4 +1,4 @@
-#include "planner/plannersearch.h"
+#include "planner/model/plannersearch.h"
 #include "tests/support/testprogram.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "planner/recurrencerun.h"
+#include "planner/model/recurrencerun.h"
 #include "tests/support/testprogram.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,4 +1,4 @@
-#include "planner/todoimport.h"
+#include "planner/model/todoimport.h"
 #include "tests/support/testprogram.h"
 
 #include <QJsonArray>

@@ -1,7 +1,7 @@
-#include "planner/dayrecord.h"
-#include "planner/plannernews.h"
-#include "planner/plannersearch.h"
-#include "planner/recurrencerun.h"
+#include "planner/model/dayrecord.h"
+#include "planner/model/plannernews.h"
+#include "planner/model/plannersearch.h"
+#include "planner/model/recurrencerun.h"
 #include "tests/storage/filesizelimit.h"
 #include "tests/support/testprogram.h"
 

@@ -1,0 +1,36 @@
+#include "planner/model/calendaroptions.h"
+
+namespace {
+
+constexpr SettingsFile optionsFile{"SWR2.fil", 20};
+constexpr NumberSetting monthsSetting{optionsFile, 14};
+constexpr NumberSetting weekNumbersSetting{optionsFile, 15};
+constexpr NumberSetting weekStartSetting{optionsFile, 16};
+constexpr NumberSetting todaySetting{optionsFile, 17};
+
+int choice(const Settings &settings, const NumberSetting &setting, int first, int last)
+{
+    const int number = settings.number(setting);
+    return number >= first && number <= last ? number : first;
+}
+
+} // namespace
+
+CalendarOptions CalendarOptions::read(const Settings &settings)
+{
+    return {choice(settings, monthsSetting, 0, 1), choice(settings, weekNumbersSetting, 0, 1),
+            choice(settings, weekStartSetting, 1, 7), choice(settings, todaySetting, 0, 1)};
+}
+
+bool CalendarOptions::write(const Settings &settings) const
+{
+    bool written = settings.setNumber(monthsSetting, months);
+    written = settings.setNumber(weekNumbersSetting, weekNumbers) && written;
+    written = settings.setNumber(weekStartSetting, weekStart) && written;
+    return settings.setNumber(todaySetting, today) && written;
+}
+
+Qt::DayOfWeek CalendarOptions::firstDay() const
+{
+    return weekStart == 1 ? Qt::Sunday : Qt::DayOfWeek(weekStart - 1);
+}

@@ -1,0 +1,90 @@
+#include "planner/model/daylines.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// How wide a text is, measured in letters of the common width: near enough to tell where its lines break in
+/// a proportional font.
+double letters(QStringView text)
+{
+    double width = 0;
+    for (const QChar c : text) {
+        if (u"ijlI|!'.,:; "_s.contains(c))
+            width += 0.5;
+        else if (u"frt-()"_s.contains(c))
+            width += 0.65;
+        else if (u"mwMW@%"_s.contains(c))
+            width += 1.5;
+        else
+            width += c.isUpper() ? 1.15 : 1.0;
+    }
+    return width;
+}
+
+} // namespace
+
+DayLines::DayLines(const PlannerDay &day)
+{
+    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+        if (!day.isRowEmpty(row))
+            m_lines.push_back({AnsiText::trimmedBlanks(day.times[row]).toString(),
+                               AnsiText::trimmedBlanks(day.texts[row]).toString()});
+    }
+}
+
+QString DayLines::joined(int entry) const
+{
+    const Line &line = m_lines[std::size_t(entry)];
+    if (line.time.isEmpty() || line.text.isEmpty())
+        return line.time + line.text;
+    return line.time + u' ' + line.text;
+}
+
+/// Lines that the text takes when it is broken between its words, and within those that are longer than a
+/// line.
+int DayLines::wanted(int entry, int characters, Style style) const
+{
+    const double perLine = std::max(1, characters);
+    const double blank = letters(u" ");
+    const QString whole = style == Joined ? joined(entry) : text(entry);
+    int lines = 1;
+    double used = 0;
+    for (const QStringView word : QStringView(whole).split(u' ', Qt::SkipEmptyParts)) {
+        const double width = letters(word);
+        if (used > 0 && used + blank + width <= perLine) {
+            used += blank + width;
+            continue;
+        }
+        const int more = std::max(0, int(std::ceil(width / perLine)) - 1);
+        lines += (used > 0 ? 1 : 0) + more;
+        used = width - more * perLine;
+    }
+    return lines;
+}
+
+int DayLines::lineCount(int characters, Style style) const
+{
+    int lines = 0;
+    for (int entry = 0; entry < count(); ++entry)
+        lines += wanted(entry, characters, style);
+    return lines;
+}
+
+std::vector<int> DayLines::share(int characters, int capacity, Style style) const
+{
+    const int shown = count() <= capacity ? count() : std::max(0, capacity - 1);
+    std::vector<int> lines(std::size_t(shown), 1);
+    int free = count() <= capacity ? capacity - shown : 0;
+    for (int entry = 0; entry < shown; ++entry) {
+        const int more = std::min(free, wanted(entry, characters, style) - 1);
+        lines[std::size_t(entry)] += more;
+        free -= more;
+    }
+    return lines;
+}

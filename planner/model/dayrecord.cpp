@@ -1,0 +1,61 @@
+#include "planner/model/dayrecord.h"
+
+#include "planner/model/plannerday.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace DayRecord {
+
+QString yearFileName(int year)
+{
+    // Never trim it: a file without the blank is not the planner's.
+    return u" %1.Cal"_s.arg(year);
+}
+
+int number(QDate date)
+{
+    switch (date.month()) {
+    case 10:
+        return 320 + date.day();
+    case 11:
+        return 360 + date.day();
+    case 12:
+        return 400 + date.day();
+    default:
+        return 10 * date.day() + date.month();
+    }
+}
+
+QByteArrayView ofNumber(QByteArrayView year, int number)
+{
+    const qsizetype offset = qsizetype(number - 1) * length;
+    return offset < year.size() ? year.sliced(offset, std::min<qsizetype>(length, year.size() - offset))
+                                : QByteArrayView();
+}
+
+bool isSaved(QByteArrayView record)
+{
+    constexpr QByteArrayView mark("Full      ");
+    constexpr qsizetype markAt = plannerDayLayout.size() - mark.size();
+    if (record.size() <= markAt)
+        return false;
+    const QByteArrayView found = record.sliced(markAt, std::min(mark.size(), record.size() - markAt));
+    // Nearly every mark has these ten bytes; a cut or otherwise padded one is looked at more closely.
+    return found == mark || AnsiText::fieldText(found) == PlannerDay::savedMark;
+}
+
+QDate date(int record, int year)
+{
+    if (record > 400)
+        return record <= last ? QDate(year, 12, record - 400) : QDate();
+    if (record > 360)
+        return QDate(year, 11, record - 360);
+    if (record > 320)
+        return QDate(year, 10, record - 320);
+    // 32 and above cannot be a day, so QDate refuses the holes between the blocks by itself.
+    return record > 10 && record % 10 != 0 ? QDate(year, record % 10, record / 10) : QDate();
+}
+
+} // namespace DayRecord

@@ -1,0 +1,110 @@
+#include "planner/model/plannerfiles.h"
+
+#include "planner/model/dayrecord.h"
+#include "storage/log.h"
+#include "storage/recordfile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void visitDays(QByteArrayView year, QDate from, QDate to,
+               const std::function<void(QDate, const PlannerDay &)> &visit)
+{
+    for (QDate date = from; date <= to; date = date.addDays(1)) {
+        const QByteArrayView record = DayRecord::ofNumber(year, DayRecord::number(date));
+        if (DayRecord::isSaved(record))
+            visit(date, plannerDayLayout.decode(record));
+    }
+}
+
+} // namespace
+
+PlannerFiles::PlannerFiles(const DataFolder &folder)
+    : m_folder(folder)
+{}
+
+QString PlannerFiles::yearFilePath(int year) const
+{
+    return m_folder.filePath(DayRecord::yearFileName(year));
+}
+
+bool PlannerFiles::isReadable(int year) const
+{
+    const QFileInfo file(yearFilePath(year));
+    return !file.exists() || (file.isFile() && file.isReadable());
+}
+
+PlannerDay PlannerFiles::peek(QDate date) const
+{
+    if (!date.isValid())
+        return {};
+    const RecordFile file(yearFilePath(date.year()), DayRecord::length);
+    const PlannerDay day = plannerDayLayout.decode(file.read(DayRecord::number(date)));
+    return day.isSaved() ? day : PlannerDay{};
+}
+
+PlannerDay PlannerFiles::read(QDate date) const
+{
+    if (date.isValid())
+        RecordFile(yearFilePath(date.year()), DayRecord::length).create();
+    return peek(date);
+}
+
+bool PlannerFiles::write(QDate date, const PlannerDay &day) const
+{
+    if (!date.isValid())
+        return false;
+    PlannerDay saved = day;
+    saved.mark = PlannerDay::savedMark;
+    const RecordFile file(yearFilePath(date.year()), DayRecord::length);
+    return file.write(DayRecord::number(date), plannerDayLayout.encode(saved));
+}
+
+QByteArray PlannerFiles::yearBytes(int year) const
+{
+    QFile file(yearFilePath(year));
+    if (!QFileInfo(file).isFile())
+        return {};
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        qCWarning(storageLog).noquote() << "Cannot read" << file.fileName() << '-' << file.errorString();
+        return {};
+    }
+    return file.read(std::min<qint64>(file.size(), qint64(DayRecord::last) * DayRecord::length));
+}
+
+void PlannerFiles::forEachDay(int year, const std::function<void(QDate, const PlannerDay &)> &visit) const
+{
+    visitDays(yearBytes(year), QDate(year, 1, 1), QDate(year, 12, 31), visit);
+}
+
+std::map<QDate, PlannerDay> PlannerFiles::days(QDate from, QDate to) const
+{
+    std::map<QDate, PlannerDay> days;
+    if (!from.isValid() || !to.isValid())
+        return days;
+    for (int year = from.year(); year <= to.year(); ++year) {
+        visitDays(yearBytes(year), std::max(from, QDate(year, 1, 1)), std::min(to, QDate(year, 12, 31)),
+                  [&days](QDate date, const PlannerDay &day) { days.emplace_hint(days.end(), date, day); });
+    }
+    return days;
+}
+
+QList<int> PlannerFiles::years() const
+{
+    static const QRegularExpression name(u"^ (\\d{4})\\.cal$"_s, QRegularExpression::CaseInsensitiveOption);
+    QList<int> years;
+    for (const QString &entry : QDir(m_folder.path()).entryList(QDir::Files)) {
+        if (const auto match = name.match(entry); match.hasMatch())
+            years.append(match.captured(1).toInt());
+    }
+    std::sort(years.begin(), years.end());
+    years.erase(std::unique(years.begin(), years.end()), years.end());
+    return years;
+}

@@ -1,0 +1,99 @@
+#include "planner/model/plannernews.h"
+
+#include "planner/model/plannerfiles.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct Item {
+    QTime time; ///< invalid: any time of the day
+    QString timeText;
+    QString text;
+};
+
+QList<Item> itemsOf(const PlannerDay &day)
+{
+    QList<Item> items;
+    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+        if (!day.isRowEmpty(row))
+            items.append({PlannerNews::timeOfDay(day.times[row]), day.times[row], day.texts[row]});
+    }
+    return items;
+}
+
+QString lineOf(const Item &item)
+{
+    return item.timeText.isEmpty() ? item.text : item.timeText + u"  "_s + item.text;
+}
+
+/// The first timed item that is not over yet.
+const Item *nextItem(const QList<Item> &items, QTime now)
+{
+    const QTime minute(now.hour(), now.minute());
+    const Item *next = nullptr;
+    for (const Item &item : items) {
+        if (item.time.isValid() && item.time >= minute && (!next || item.time < next->time))
+            next = &item;
+    }
+    return next;
+}
+
+QString countWord(qsizetype count)
+{
+    static const std::array words{u"No"_s,   u"One"_s, u"Two"_s,   u"Three"_s, u"Four"_s,
+                                  u"Five"_s, u"Six"_s, u"Seven"_s, u"Eight"_s, u"Nine"_s};
+    return count < qsizetype(words.size()) ? words[std::size_t(count)] : QString::number(count);
+}
+
+LiveLine today(const QList<Item> &items, QTime now)
+{
+    const QString count =
+        countWord(items.size()) + (items.size() == 1 ? u" appointment today"_s : u" appointments today"_s);
+    if (const Item *next = nextItem(items, now)) {
+        const QString which = items.size() == 1 ? u", at "_s : u", the next one at "_s;
+        return {lineOf(*next), LiveLine::Plain, count + which + next->timeText + u'.'};
+    }
+    const auto untimed =
+        std::find_if(items.begin(), items.end(), [](const Item &item) { return !item.time.isValid(); });
+    if (untimed != items.end())
+        return {lineOf(*untimed), LiveLine::Plain, count + u'.'};
+    return {u"Nothing more today"_s, LiveLine::Plain, u"Today's appointments are behind you."_s};
+}
+
+} // namespace
+
+namespace PlannerNews {
+
+QTime timeOfDay(QStringView text)
+{
+    static const QRegularExpression form(u"^\\s*(\\d{1,2})(?:[:.](\\d{2}))?\\s*([AaPp][Mm])?\\s*$"_s);
+    const auto match = form.match(text.toString());
+    if (!match.hasMatch())
+        return {};
+    int hour = match.capturedView(1).toInt();
+    const int minute = match.capturedView(2).isEmpty() ? 0 : match.capturedView(2).toInt();
+    if (const QStringView half = match.capturedView(3); !half.isEmpty()) {
+        if (hour < 1 || hour > 12)
+            return {};
+        hour = hour % 12 + (half.startsWith(u'p', Qt::CaseInsensitive) ? 12 : 0);
+    }
+    return QTime(hour, minute);
+}
+
+std::optional<LiveLine> liveLine(const DataFolder &folder, QDateTime now)
+{
+    const PlannerFiles files(folder);
+    if (const QList<Item> items = itemsOf(files.peek(now.date())); !items.isEmpty())
+        return today(items, now.time());
+    if (const QList<Item> items = itemsOf(files.peek(now.date().addDays(1))); !items.isEmpty())
+        return LiveLine{u"Tomorrow: "_s + lineOf(items.first()), LiveLine::Plain, {}};
+    return {};
+}
+
+} // namespace PlannerNews

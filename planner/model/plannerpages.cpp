@@ -1,0 +1,287 @@
+#include "planner/model/plannerpages.h"
+
+#include "planner/model/daylines.h"
+#include "shell/core/dates.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+using PlannerPages::Days;
+using PlannerPages::Paper;
+
+namespace {
+
+// Inches. Placed items stand between the title and the closing lines.
+constexpr double margin = 0.5;
+constexpr double placedTop = 1.12;
+constexpr double closingHeight = 0.55;
+constexpr double inset = 0.06;
+constexpr double bodyLine = 11 * 1.35 / 72;
+constexpr double smallLine = 10 * 1.35 / 72;
+/// Letters on an inch, in the widest of the common fonts.
+constexpr double bodyCharacters = 10.6;
+constexpr double smallCharacters = 11.6;
+
+constexpr int daysPerWeek = 7;
+/// Rows that the days of a listed week share on one sheet.
+constexpr int weekRows = 28;
+
+QRectF placedArea(const PageSetup &setup)
+{
+    const QSizeF sheet = setup.sheet();
+    return {margin, placedTop, sheet.width() - 2 * margin,
+            sheet.height() - placedTop - margin - closingHeight};
+}
+
+QString headRight(const Paper &paper)
+{
+    return paper.household.isEmpty() ? u"Personal Planner"_s : paper.household + u" Personal Planner"_s;
+}
+
+PlannerDay entriesOf(const Days &days, QDate date)
+{
+    const auto found = days.find(date);
+    return found == days.end() ? PlannerDay{} : found->second;
+}
+
+/// "Nov 16", or "16 Nov".
+QString shortDate(QDate date, DateStyle style)
+{
+    return QLocale::c().toString(date, style == DateStyle::Usa ? u"MMM d"_s : u"d MMM"_s);
+}
+
+QString dayName(QDate date)
+{
+    return QLocale::c().dayName(date.dayOfWeek());
+}
+
+/// How many rows each day of a listed week gets: its entries, and what is left over where there are fewest.
+std::array<int, daysPerWeek> sharedRows(QDate start, const Days &days)
+{
+    std::array<int, daysPerWeek> rows{};
+    int free = weekRows;
+    for (int i = 0; i < daysPerWeek; ++i) {
+        rows[std::size_t(i)] = std::max(1, entriesOf(days, start.addDays(i)).entryCount());
+        free -= rows[std::size_t(i)];
+    }
+    for (; free > 0; --free)
+        ++*std::min_element(rows.begin(), rows.end());
+    return rows;
+}
+
+QString weekTitle(QDate start, const Paper &paper)
+{
+    return u"Week of "_s + PlannerPages::rangeText(start, start.addDays(daysPerWeek - 1), paper.dateStyle);
+}
+
+Page listedWeek(QDate start, const Days &days, const Paper &paper)
+{
+    Page page(weekTitle(start, paper), headRight(paper));
+    const auto rows = sharedRows(start, days);
+    page.columns({1.85, 0.85, 4.8}, {}, {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft});
+    for (int i = 0; i < daysPerWeek; ++i) {
+        const QDate date = start.addDays(i);
+        const DayLines lines(entriesOf(days, date));
+        if (i > 0)
+            page.rule();
+        for (int row = 0; row < rows[std::size_t(i)]; ++row) {
+            const QString head =
+                row == 0 ? dayName(date) + u", "_s + shortDate(date, paper.dateStyle) : QString();
+            const bool isFilled = row < lines.count();
+            page.row({head, isFilled ? lines.time(row) : QString(), isFilled ? lines.text(row) : QString()});
+        }
+    }
+    return page.close(paper.printedOn, paper.dateStyle);
+}
+
+/// The fonts and line heights that entries are set in.
+struct Setting {
+    TextRole role;
+    double line;
+    double characters; ///< on an inch
+};
+constexpr Setting roomy{TextRole::Body, bodyLine, bodyCharacters};
+constexpr Setting dense{TextRole::Small, smallLine, smallCharacters};
+
+/// The block of a day in a wide week: the time before the text.
+constexpr double blockTime = 0.92;
+constexpr double blockHead = 0.3;
+constexpr int blocksAcross = 4;
+
+QSizeF blockSize(const Paper &paper)
+{
+    const QRectF area = placedArea(paper.setup);
+    return {area.width() / blocksAcross, area.height() / 2};
+}
+
+/// The place for the entries of a block.
+QRectF entriesPlace(const QRectF &block)
+{
+    return block.adjusted(inset, blockHead + inset, -inset, -inset);
+}
+
+/// Whether the entries fit into a block without a text being cut.
+bool fitsBlock(const DayLines &lines, const QRectF &place, const Setting &setting)
+{
+    const double textWidth = place.width() - blockTime;
+    return lines.lineCount(int(textWidth * setting.characters)) <= int(place.height() / setting.line);
+}
+
+void placeBlockEntries(Page &page, const QRectF &place, const DayLines &lines)
+{
+    const Setting &setting = fitsBlock(lines, place, roomy) ? roomy : dense;
+    const double textWidth = place.width() - blockTime;
+    const auto shares = lines.share(int(textWidth * setting.characters), int(place.height() / setting.line));
+    double y = place.top();
+    for (int i = 0; i < int(shares.size()); ++i) {
+        const double height = shares[std::size_t(i)] * setting.line;
+        page.placeText({place.left(), y, blockTime - 2 * inset, setting.line}, lines.time(i), setting.role,
+                       Qt::AlignRight | Qt::AlignTop);
+        page.placeText({place.left() + blockTime, y, textWidth, height}, lines.text(i), setting.role);
+        y += height;
+    }
+}
+
+bool fitsBlocks(QDate start, const Days &days, const Paper &paper)
+{
+    const QRectF place = entriesPlace({{0, 0}, blockSize(paper)});
+    for (int i = 0; i < daysPerWeek; ++i) {
+        if (!fitsBlock(DayLines(entriesOf(days, start.addDays(i))), place, dense))
+            return false;
+    }
+    return true;
+}
+
+Page wideWeek(QDate start, const Days &days, const Paper &paper)
+{
+    Page page(weekTitle(start, paper), headRight(paper));
+    const QPointF origin = placedArea(paper.setup).topLeft();
+    const QSizeF size = blockSize(paper);
+    for (int i = 0; i <= daysPerWeek; ++i) {
+        const QPointF corner =
+            origin + QPointF((i % blocksAcross) * size.width(), (i / blocksAcross) * size.height());
+        const QRectF block(corner, size);
+        page.placeRule(block);
+        page.placeRule({block.left(), block.top() + blockHead, size.width(), 0});
+        const QRectF head(block.left() + inset, block.top() + inset, size.width() - 2 * inset, bodyLine);
+        if (i == daysPerWeek) {
+            page.placeText(head, u"Notes"_s, TextRole::Strong);
+            break;
+        }
+        const QDate date = start.addDays(i);
+        page.placeText(head, dayName(date), TextRole::Strong);
+        page.placeText(head, shortDate(date, paper.dateStyle), TextRole::Body, Qt::AlignRight | Qt::AlignTop);
+        placeBlockEntries(page, entriesPlace(block), DayLines(entriesOf(days, date)));
+    }
+    return page.close(paper.printedOn, paper.dateStyle);
+}
+
+void placeMonthDay(Page &page, const QRectF &cell, QDate date, const PlannerDay &entries)
+{
+    const QRectF place = cell.adjusted(inset, inset / 2, -inset, 0);
+    page.placeText({place.topLeft(), QSizeF(place.width(), bodyLine)}, QString::number(date.day()),
+                   TextRole::Strong);
+    const DayLines lines(entries);
+    const QRectF rest = place.adjusted(0, bodyLine, 0, 0);
+    const auto shares =
+        lines.share(int(rest.width() * dense.characters), int(rest.height() / dense.line), DayLines::Joined);
+    double y = rest.top();
+    for (int i = 0; i < int(shares.size()); ++i) {
+        const double height = shares[std::size_t(i)] * dense.line;
+        page.placeText({rest.left(), y, rest.width(), height}, lines.joined(i), dense.role);
+        y += height;
+    }
+    if (const int missing = lines.count() - int(shares.size()); missing > 0)
+        page.placeText({rest.left(), y, rest.width(), dense.line}, u"+ %1 more"_s.arg(missing), dense.role);
+}
+
+} // namespace
+
+QDate PlannerPages::weekStart(QDate date, Qt::DayOfWeek firstDay)
+{
+    return date.addDays(-((date.dayOfWeek() - firstDay + daysPerWeek) % daysPerWeek));
+}
+
+QString PlannerPages::rangeText(QDate from, QDate to, DateStyle style)
+{
+    const bool sameYear = from.year() == to.year();
+    const bool sameMonth = sameYear && from.month() == to.month();
+    const QString full = Dates::monthDayYear(to, style);
+    if (from == to)
+        return full;
+    const auto part = [&](QDate date, const QString &format) { return QLocale::c().toString(date, format); };
+    if (style == DateStyle::Usa) {
+        const QString end = sameMonth ? part(to, u"d, yyyy"_s) : full;
+        return part(from, sameYear ? u"MMMM d"_s : u"MMMM d, yyyy"_s) + u" to "_s + end;
+    }
+    return part(from, sameMonth ? u"d"_s : sameYear ? u"d MMMM"_s : u"d MMMM yyyy"_s) + u" to "_s + full;
+}
+
+Page PlannerPages::day(QDate date, const PlannerDay &entries, const Paper &paper)
+{
+    Page page(Dates::longText(date, paper.dateStyle), headRight(paper));
+    page.columns({1.0, 6.5}, {u"Time"_s, u"Appointment or activity"_s}, {Qt::AlignRight, Qt::AlignLeft});
+    const DayLines lines(entries);
+    for (int row = 0; row < int(PlannerDay::rowCount); ++row) {
+        const bool isFilled = row < lines.count();
+        page.row({isFilled ? lines.time(row) : QString(), isFilled ? lines.text(row) : QString()});
+    }
+    return page.close(paper.printedOn, paper.dateStyle);
+}
+
+Page PlannerPages::week(QDate start, const Days &days, const Paper &paper)
+{
+    const bool isWide = paper.setup.orientation == PageSetup::Landscape && fitsBlocks(start, days, paper);
+    return isWide ? wideWeek(start, days, paper) : listedWeek(start, days, paper);
+}
+
+Page PlannerPages::month(QDate date, const Days &days, const Paper &paper)
+{
+    constexpr double headHeight = 0.26;
+    const QDate first(date.year(), date.month(), 1);
+    const QDate start = weekStart(first, paper.firstDay);
+    const int weeks = int(start.daysTo(first) + first.daysInMonth() + daysPerWeek - 1) / daysPerWeek;
+    Page page(QLocale::c().toString(first, u"MMMM yyyy"_s), headRight(paper));
+    const QRectF area = placedArea(paper.setup);
+    const QSizeF size(area.width() / daysPerWeek, (area.height() - headHeight) / weeks);
+    for (int column = 0; column < daysPerWeek; ++column) {
+        const QRectF head(area.left() + column * size.width() + inset, area.top(), size.width() - 2 * inset,
+                          bodyLine);
+        const QDate day = start.addDays(column);
+        page.placeText(head,
+                       size.width() < 1.3 ? QLocale::c().dayName(day.dayOfWeek(), QLocale::ShortFormat)
+                                          : dayName(day),
+                       TextRole::Strong);
+    }
+    for (int i = 0; i < weeks * daysPerWeek; ++i) {
+        const QPointF corner(area.left() + (i % daysPerWeek) * size.width(),
+                             area.top() + headHeight + (i / daysPerWeek) * size.height());
+        const QDate shown = start.addDays(i);
+        page.placeRule({corner, size});
+        if (shown.month() == first.month())
+            placeMonthDay(page, {corner, size}, shown, entriesOf(days, shown));
+    }
+    return page.close(paper.printedOn, paper.dateStyle);
+}
+
+Page PlannerPages::range(QDate from, QDate to, const Days &days, const Paper &paper)
+{
+    Page page(rangeText(from, to, paper.dateStyle), headRight(paper));
+    page.columns({1.7, 0.9, 4.9}, {u"Date"_s, u"Time"_s, u"Appointment or activity"_s},
+                 {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft});
+    bool isEmpty = true;
+    for (auto day = days.lower_bound(from); day != days.end() && day->first <= to; ++day) {
+        const DayLines lines(day->second);
+        for (int row = 0; row < lines.count(); ++row) {
+            const QString head = row == 0 ? Dates::statusText(day->first, paper.dateStyle) : QString();
+            page.row({head, lines.time(row), lines.text(row)});
+            isEmpty = false;
+        }
+    }
+    if (isEmpty)
+        page.line(u"Nothing is planned for these days."_s);
+    return page.close(paper.printedOn, paper.dateStyle);
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "planner/model/plannerday.h"
+#include "shell/core/page.h"
+
+#include <QDate>
+
+#include <map>
+
+/// The planner on paper: a day, a week for the kitchen door, a month as a calendar, a range of dates as a
+/// list.
+namespace PlannerPages {
+
+/// What every page of the planner needs beside its entries.
+struct Paper {
+    PageSetup setup;
+    DateStyle dateStyle = DateStyle::Usa;
+    Qt::DayOfWeek firstDay = Qt::Sunday;
+    QDate printedOn;
+    QString household; ///< the family name, or empty
+};
+
+using Days = std::map<QDate, PlannerDay>;
+
+/// The first day of the week that `date` is in.
+QDate weekStart(QDate date, Qt::DayOfWeek firstDay);
+
+/// "November 16 to 22, 2026", or "16 to 22 November 2026"; months and years are told where they differ.
+QString rangeText(QDate from, QDate to, DateStyle style);
+
+/// The fourteen rows of `date`; empty ones are lines to write on.
+Page day(QDate date, const PlannerDay &entries, const Paper &paper);
+
+/// The seven days from `start`. Landscape, they stand in two rows of blocks with a place for notes; upright,
+/// or when a day has more than its block holds, as rows across the sheet, with lines to write on, which go on
+/// on a second one when they must.
+Page week(QDate start, const Days &days, const Paper &paper);
+
+/// The month of `date` as a calendar; a day with more entries than its place holds tells how many are
+/// missing.
+Page month(QDate date, const Days &days, const Paper &paper);
+
+/// The dates from `from` to `to` that have entries, as a list.
+Page range(QDate from, QDate to, const Days &days, const Paper &paper);
+
+} // namespace PlannerPages

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "planner/model/plannerday.h"
+
+#include <QByteArray>
+
+#include <array>
+#include <bitset>
+
+/// Finds the rows of a day record that hold a text, on the bytes as they stand in the file: thirty years are
+/// ten million bytes, and decoding them takes many times as long as reading them.
+class RowSearch
+{
+public:
+    using Rows = std::bitset<PlannerDay::rowCount>;
+
+    explicit RowSearch(QStringView text);
+
+    /// False for an empty text and for one with a character that no file can hold.
+    bool isPossible() const { return !m_text.isEmpty(); }
+
+    /// The rows of `record` whose time or text holds the text, upper and lower case alike; none of a record
+    /// that is cut short.
+    Rows find(QByteArrayView record) const;
+
+private:
+    /// A few of the text's letters, both cases, and where in it they stand.
+    struct Sample {
+        std::size_t offset;
+        uchar small;
+        uchar large;
+    };
+    static constexpr std::size_t sampleCount = 3;
+
+    bool mayHold(QByteArrayView fields) const;
+    bool holds(QByteArrayView field) const;
+
+    std::array<uchar, 256> m_folded; ///< one number for a letter's upper and lower case
+    QByteArray m_text;               ///< folded
+    std::array<Sample, sampleCount> m_samples{};
+};

@@ -1,0 +1,41 @@
+#include "planner/model/todoimport.h"
+
+#include "shell/core/dates.h"
+#include "storage/valuefile.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace ToDoImport {
+
+std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style, QDate today)
+{
+    const QStringList values = ValueFile::read(folder.filePath(u"TODOActv.FIL"_s));
+    std::vector<ToDoItem> items;
+    // Three values an item: text, date, and one that the planner has no use for. A cut last item may lack it.
+    for (qsizetype i = 0; i + 1 < values.size(); i += 3) {
+        const QString text = AnsiText::trimmedBlanks(values[i]).toString();
+        const QString dateText =
+            AnsiText::trimmedBlanks(AnsiText::trimmedBlanks(values[i + 1]).right(10)).toString();
+        if (text.isEmpty() || dateText.isEmpty())
+            continue;
+        if (const auto date = Dates::parse(dateText, style, today))
+            items.push_back({*date, text});
+    }
+    return items;
+}
+
+std::optional<Outcome> insert(const PlannerFiles &files, UntimedPlacement placement, const ToDoItem &item,
+                              QDate earliest)
+{
+    if (item.date < earliest)
+        return {};
+    if (!files.isReadable(item.date.year()))
+        return Outcome{item, DateResult::Failed}; // what cannot be read is not empty
+    PlannerDay day = files.read(item.date);
+    DateResult result = insertAppointment(day, Appointment::ofRow({}, item.text));
+    if (result == DateResult::Made && !files.write(item.date, inTimeOrder(day, placement)))
+        result = DateResult::Failed;
+    return Outcome{item, result};
+}
+
+} // namespace ToDoImport

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "planner/model/plannerfiles.h"
+#include "planner/model/recurrencerun.h"
+#include "shell/core/programstate.h"
+
+#include <QDate>
+#include <QString>
+
+#include <vector>
+
+/// A dated item of the To Do list, as the planner takes it in.
+struct ToDoItem {
+    QDate date;
+    QString text;
+
+    bool operator==(const ToDoItem &) const = default;
+};
+
+/// Taking the To Do list's active items (`TODOActv.FIL`) into the planner.
+namespace ToDoImport {
+
+/// The items that have a text and a date, in file order. The date is the last ten characters of the date
+/// text, read by `style` and the other way round when that is impossible; a date that cannot be read leaves
+/// the item out.
+std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style, QDate today);
+
+/// What became of each item dated on or after `earliest`; earlier ones are passed over.
+struct Outcome {
+    ToDoItem item;
+    DateResult result;
+};
+
+/// Inserts `item`, with an empty time, into its day; nothing when it is dated before `earliest`.
+std::optional<Outcome> insert(const PlannerFiles &files, UntimedPlacement placement, const ToDoItem &item,
+                              QDate earliest);
+
+} // namespace ToDoImport

@@ -1,0 +1,180 @@
+#include "planner/window/comingup.h"
+
+#include "planner/model/lines.h"
+#include "shell/controls/controls.h"
+#include "shell/core/area.h"
+#include "shell/core/dates.h"
+#include "shell/look/icons.h"
+#include "shell/look/theme.h"
+#include "shell/program/functionfaces.h"
+#include "shell/program/program.h"
+
+#include <QListView>
+#include <QLocale>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int daysAhead = 13;
+constexpr int signWidth = 32;
+constexpr int rowGap = 10;
+
+/// Two lines beside a sign: what there is, and from where.
+class NoteDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+    {
+        return {120, QFontMetrics(TypeScale::body()).height() + QFontMetrics(TypeScale::label()).height() +
+                         rowGap};
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        painter->save();
+        const QPalette &palette = option.widget->palette();
+        const QIcon icon = index.data(ComingUpModel::IconRole).value<QIcon>();
+        QPixmap sign = icon.pixmap(QSize(20, 20), painter->device()->devicePixelRatioF());
+        if (palette.color(QPalette::WindowText) != Theme::of(option.widget).text) {
+            // On a panel of the user's colour a sign in its own hue could vanish.
+            QPainter ink(&sign);
+            ink.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            ink.fillRect(sign.rect(), palette.color(QPalette::WindowText));
+        }
+        painter->drawPixmap(option.rect.topLeft(), sign);
+        const QRect place = option.rect.adjusted(signWidth, 0, 0, 0);
+        const auto line = [&](const QFont &font, QPalette::ColorRole role, int top, const QString &text) {
+            const QFontMetrics metrics(font);
+            painter->setFont(font);
+            painter->setPen(palette.color(role));
+            painter->drawText(QRect(place.left(), top, place.width(), metrics.height()), Qt::AlignLeft,
+                              metrics.elidedText(text, Qt::ElideRight, place.width()));
+            return top + metrics.height();
+        };
+        const int below = line(TypeScale::body(), QPalette::WindowText, place.top(), index.data().toString());
+        line(TypeScale::label(), ThemeRole::quiet, below, index.data(ComingUpModel::SourceRole).toString());
+        painter->restore();
+    }
+};
+
+QLatin1StringView iconOf(Function function)
+{
+    return function == Function::AddressBook ? "cake"_L1
+                                             : QLatin1StringView(FunctionFaces::of(function).icon);
+}
+
+} // namespace
+
+ComingUpModel::ComingUpModel(const Program &program, QObject *parent)
+    : QAbstractListModel(parent)
+    , m_program(program)
+{}
+
+void ComingUpModel::load(QDate from, QDate to)
+{
+    beginResetModel();
+    m_notes.clear();
+    for (const FunctionFace &face : FunctionFaces::cards()) {
+        const FunctionEntry *entry = m_program.functions.entry(face.function);
+        const bool isGuarded =
+            face.area != Area::None && m_program.state.protectedAreas.isProtected(face.area);
+        if (!entry || !entry->dayNotes || isGuarded)
+            continue;
+        for (const DayNote &note : entry->dayNotes(m_program, from, to))
+            m_notes.push_back({note, face.function});
+    }
+    std::stable_sort(m_notes.begin(), m_notes.end(),
+                     [](const Note &one, const Note &other) { return one.note.date < other.note.date; });
+    endResetModel();
+}
+
+int ComingUpModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_notes.size());
+}
+
+/// "today", "tomorrow", "on Tuesday" within the six days after today; any other date as it is.
+QString ComingUpModel::whenText(QDate date) const
+{
+    const qint64 days = m_program.clock.today().daysTo(date);
+    if (days == 0)
+        return u"today"_s;
+    if (days == 1)
+        return u"tomorrow"_s;
+    if (days > 1 && days < 7)
+        return u"on "_s + QLocale::c().dayName(date.dayOfWeek());
+    return Dates::statusText(date, m_program.state.dateStyle);
+}
+
+QVariant ComingUpModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    const Note &note = m_notes[std::size_t(index.row())];
+    const QString source = note.note.source + u", "_s + whenText(note.note.date);
+    switch (role) {
+    case Qt::DisplayRole:
+        return note.note.text;
+    case SourceRole:
+        return source;
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        return QString(note.note.text + u" ("_s + source + u')');
+    case IconRole:
+        return Icons::icon(iconOf(note.function), Theme::of(static_cast<QWidget *>(nullptr)).scheme);
+    default:
+        return {};
+    }
+}
+
+ComingUp::ComingUp(const Program &program, QWidget *parent)
+    : QWidget(parent)
+    , m_model(new ComingUpModel(program, this))
+    , m_list(named(new QListView(this), u"comingUp"_s))
+    , m_nothing(makeQuietLabel(PlannerLines::nothingComing(), this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(10);
+    layout->addWidget(makeHeading(u"Coming up"_s, this));
+    layout->addWidget(m_nothing);
+    layout->addWidget(m_list, 1);
+    m_nothing->setWordWrap(true);
+    m_list->setModel(m_model);
+    m_list->setItemDelegate(new NoteDelegate(m_list));
+    m_list->setAccessibleName(u"Coming up"_s);
+    m_list->setSelectionMode(QAbstractItemView::NoSelection);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setFocusPolicy(Qt::TabFocus);
+    m_list->setMinimumHeight(44);
+    // Lines on the panel and not a box of their own.
+    m_list->setStyleSheet(u"QListView { background: transparent; border: 0; padding: 0; }"
+                          u"QListView:focus { background: transparent; border: 0; padding: 0; }"_s);
+    m_list->viewport()->setAutoFillBackground(false);
+}
+
+void ComingUp::setDate(QDate date)
+{
+    m_date = date;
+    if (std::exchange(m_isLoading, true))
+        return;
+    QTimer::singleShot(0, this, &ComingUp::load);
+}
+
+void ComingUp::load()
+{
+    m_isLoading = false;
+    m_model->load(m_date, m_date.addDays(daysAhead));
+    m_nothing->setVisible(m_model->rowCount() == 0);
+    m_list->setVisible(m_model->rowCount() > 0);
+}

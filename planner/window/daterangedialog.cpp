@@ -1,0 +1,71 @@
+#include "planner/window/daterangedialog.h"
+
+#include "planner/model/lines.h"
+#include "shell/controls/controls.h"
+#include "shell/core/dates.h"
+#include "shell/look/theme.h"
+
+#include <QHBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+DateRangeDialog::DateRangeDialog(QDate from, QDate to, DateStyle style, QDate today, QWidget *parent)
+    : QDialog(parent)
+    , m_style(style)
+    , m_today(today)
+    , m_fromBox(named(new FieldBox(this), u"rangeFrom"_s))
+    , m_toBox(named(new FieldBox(this), u"rangeTo"_s))
+    , m_hint(makeQuietLabel({}, this))
+    , m_range(from, to)
+{
+    setObjectName(u"dateRangeDialog"_s);
+    setWindowTitle(u"Print Dates"_s);
+    setPalette(Theme::of(this).panelPalette());
+    auto *boxes = new QHBoxLayout;
+    boxes->setSpacing(12);
+    for (const auto &[box, caption, date] :
+         {std::tuple{m_fromBox, u"From"_s, from}, std::tuple{m_toBox, u"To"_s, to}}) {
+        box->setByteLimit(20);
+        box->setText(Dates::boxText(date, style));
+        auto *column = new QVBoxLayout;
+        column->setSpacing(3);
+        column->addWidget(makeFieldLabel(caption, box, this));
+        column->addWidget(box);
+        boxes->addLayout(column);
+    }
+    QPushButton *ok = makeButton(u"rangeOk"_s, u"OK"_s, this, ButtonKind::Main);
+    QPushButton *cancel = makeButton(u"rangeCancel"_s, u"Cancel"_s, this);
+    ok->setDefault(true);
+    ok->setMinimumWidth(88);
+    auto *foot = new QHBoxLayout;
+    foot->addStretch(1);
+    foot->addWidget(ok);
+    foot->addWidget(cancel);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(24, 20, 24, 20);
+    rows->setSpacing(12);
+    rows->addWidget(makeHeading(u"Which dates do you want to print?"_s, this));
+    rows->addLayout(boxes);
+    rows->addWidget(m_hint);
+    rows->addLayout(foot);
+    connect(ok, &QPushButton::clicked, this, &DateRangeDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    m_fromBox->selectAll();
+}
+
+void DateRangeDialog::accept()
+{
+    for (FieldBox *box : {m_fromBox, m_toBox}) {
+        const auto date = Dates::parse(box->text(), m_style, m_today);
+        if (!date) {
+            m_hint->setText(PlannerLines::noSuchDate(box->text()));
+            box->setFocus();
+            return;
+        }
+        (box == m_fromBox ? m_range.first : m_range.second) = *date;
+    }
+    // Whichever way round they were typed.
+    if (m_range.second < m_range.first)
+        std::swap(m_range.first, m_range.second);
+    QDialog::accept();
+}

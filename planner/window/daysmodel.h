@@ -1,0 +1,54 @@
+#pragma once
+
+#include "planner/model/plannerday.h"
+#include "shell/core/programstate.h"
+
+#include <QAbstractTableModel>
+#include <QDate>
+
+#include <map>
+
+/// A run of days as a table, for the views of a week and of a month.
+class DaysModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+public:
+    enum Role {
+        DateRole = Qt::UserRole,
+        DayRole,    ///< the entries, a `PlannerDay`
+        TodayRole,  ///< whether the day is today
+        OutsideRole ///< whether the day is beside the month that is shown
+    };
+
+    DaysModel(DateStyle style, QObject *parent);
+
+    /// `rows` times `columns` days from `start`; those from `from` to `to` are what is shown, others stand
+    /// beside it.
+    struct Span {
+        QDate start;
+        int rows = 0;
+        int columns = 1;
+        QDate from;
+        QDate to;
+    };
+    void setDays(const Span &span, std::map<QDate, PlannerDay> days, QDate today);
+
+    QDate date(const QModelIndex &index) const;
+    /// The cell of `date`; none when it is not in the table.
+    QModelIndex indexOf(QDate date) const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QString description(QDate date) const;
+
+    DateStyle m_style;
+    Span m_span;
+    std::map<QDate, PlannerDay> m_days;
+    QDate m_today;
+};
+
+Q_DECLARE_METATYPE(PlannerDay)

@@ -1,0 +1,151 @@
+#include "planner/window/monthgrid.h"
+
+#include "planner/model/daylines.h"
+#include "planner/model/plannerpages.h"
+#include "planner/window/daysmodel.h"
+#include "planner/window/steptitle.h"
+#include "planner/window/viewfoot.h"
+#include "shell/look/theme.h"
+
+#include <QHeaderView>
+#include <QLocale>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int daysPerWeek = 7;
+
+/// The number of the day and below it as many entries as fit, the last line telling how many do not.
+class DayCellDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override { return {80, 56}; }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const Theme &theme = Theme::of(option.widget);
+        const bool isOutside = index.data(DaysModel::OutsideRole).toBool();
+        const bool isCurrent = option.state & QStyle::State_Selected;
+        painter->save();
+        painter->fillRect(option.rect, isCurrent ? theme.mark : isOutside ? theme.locked : theme.field);
+        if (isCurrent) {
+            painter->setPen(QPen(theme.accent, 2));
+            painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+        }
+        const QRect place = option.rect.adjusted(8, 5, -6, -4);
+        paintNumber(*painter, place, index, theme, isOutside);
+        paintEntries(*painter, place.adjusted(0, 22, 0, 0), index, isOutside ? theme.quiet : theme.text,
+                     theme);
+        painter->restore();
+    }
+
+private:
+    static void paintNumber(QPainter &painter, const QRect &place, const QModelIndex &index,
+                            const Theme &theme, bool isOutside)
+    {
+        const bool isToday = index.data(DaysModel::TodayRole).toBool();
+        const QDate date = index.data(DaysModel::DateRole).toDate();
+        const QString number = isOutside && date.day() == 1 ? QLocale::c().toString(date, u"MMM d"_s)
+                                                            : QString::number(date.day());
+        painter.setFont(isToday ? TypeScale::strong() : TypeScale::body());
+        painter.setPen(isOutside ? theme.quiet : theme.text);
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, isToday ? number + u"  today"_s : number);
+        if (isToday) {
+            const int width = painter.fontMetrics().horizontalAdvance(number);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(QPen(theme.accent, 1.5));
+            painter.drawRoundedRect(QRectF(place.left() - 5, place.top() - 1, width + 10, 21), 6, 6);
+            painter.setRenderHint(QPainter::Antialiasing, false);
+        }
+    }
+
+    static void paintEntries(QPainter &painter, const QRect &place, const QModelIndex &index,
+                             const QColor &ink, const Theme &theme)
+    {
+        const DayLines lines(index.data(DaysModel::DayRole).value<PlannerDay>());
+        painter.setFont(TypeScale::label());
+        const QFontMetrics metrics = painter.fontMetrics();
+        const auto line = [&](int number, const QString &text, const QColor &color) {
+            painter.setPen(color);
+            painter.drawText(
+                QRect(place.left(), place.top() + number * metrics.height(), place.width(), metrics.height()),
+                Qt::AlignLeft, metrics.elidedText(text, Qt::ElideRight, place.width()));
+        };
+        const int shown = int(lines.share(1000, place.height() / metrics.height()).size());
+        for (int i = 0; i < shown; ++i)
+            line(i, lines.joined(i), ink);
+        if (shown < lines.count())
+            line(shown, (shown > 0 ? u"+ %1 more"_s : u"%1 entries"_s).arg(lines.count() - shown),
+                 theme.quiet);
+    }
+};
+
+} // namespace
+
+MonthGrid::MonthGrid(const PlannerFiles &files, DateStyle style, QWidget *parent)
+    : DaysView(parent)
+    , m_files(files)
+    , m_model(new DaysModel(style, this))
+    , m_title(new StepTitle({u"monthTitle"_s, u"month"_s, u"This Month"_s}, this))
+    , m_view(new QTableView(this))
+{
+    m_view->setObjectName(u"monthGrid"_s);
+    setUpView();
+    auto *foot = new ViewFoot(u"month"_s, u"Click a day, or press Enter, to open it"_s, this);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(24, 12, 24, 18);
+    rows->setSpacing(12);
+    rows->addWidget(m_title);
+    rows->addWidget(m_view, 1);
+    rows->addWidget(foot);
+    const auto open = [this](const QModelIndex &index) { emit dayOpened(m_model->date(index)); };
+    connect(m_view, &QTableView::clicked, this, open);
+    connect(foot, &ViewFoot::dayRequested, this, &MonthGrid::left);
+    connect(m_title, &StepTitle::stepped, this, &MonthGrid::stepped);
+    connect(m_title, &StepTitle::todayRequested, this, [this] { emit stepped(0); });
+}
+
+void MonthGrid::setUpView()
+{
+    m_view->setModel(m_model);
+    m_view->setItemDelegate(new DayCellDelegate(m_view));
+    m_view->setAccessibleName(u"Days of the month"_s);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setTabKeyNavigation(false);
+    m_view->setCornerButtonEnabled(false);
+    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_view->horizontalHeader()->setSectionsClickable(false);
+    m_view->horizontalHeader()->setHighlightSections(false);
+    m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_view->verticalHeader()->setMinimumSectionSize(84);
+    m_view->verticalHeader()->setSectionsClickable(false);
+    m_view->verticalHeader()->setHighlightSections(false);
+    m_view->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    takeKeysOf(m_view);
+}
+
+void MonthGrid::show(QDate date, const CalendarOptions &options, QDate today)
+{
+    const QDate first(date.year(), date.month(), 1);
+    const QDate start = PlannerPages::weekStart(first, options.firstDay());
+    const int weeks = int(start.daysTo(first) + first.daysInMonth() + daysPerWeek - 1) / daysPerWeek;
+    const QDate last = first.addMonths(1).addDays(-1);
+    m_model->setDays({start, weeks, daysPerWeek, first, last},
+                     m_files.days(start, start.addDays(weeks * daysPerWeek - 1)), today);
+    m_view->verticalHeader()->setVisible(options.showsWeekNumbers());
+    m_title->setTitle(QLocale::c().toString(first, u"MMMM yyyy"_s));
+    m_view->setCurrentIndex(m_model->indexOf(date));
+}
+
+QDate MonthGrid::date() const
+{
+    return m_model->date(m_view->currentIndex());
+}

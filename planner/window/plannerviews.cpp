@@ -1,0 +1,301 @@
+// The views of the planner's window beside the day itself, the walks over many days, and its printed pages.
+
+#include "planner/window/plannerwindow.h"
+
+#include "planner/model/lines.h"
+#include "planner/model/messages.h"
+#include "planner/model/plannersearch.h"
+#include "planner/window/calendaroptionspanel.h"
+#include "planner/window/daterangedialog.h"
+#include "planner/window/dayform.h"
+#include "planner/window/monthgrid.h"
+#include "planner/window/plannercalendar.h"
+#include "planner/window/recurrencepanel.h"
+#include "planner/window/searchpanel.h"
+#include "planner/window/weekview.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/flowtoolbar.h"
+#include "shell/core/dates.h"
+#include "shell/core/slicedwork.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QStackedWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// A page on the screen gives way: nothing goes on behind it.
+void Zcalandar1::showView(QWidget *view)
+{
+    closePreview();
+    m_views->setCurrentWidget(view);
+    // A month and the recurrence panel need the whole width, and have calendars of their own.
+    m_leftPane->setVisible(view != m_month && view != m_recurrence);
+    refreshCommands();
+}
+
+void Zcalandar1::showDayView()
+{
+    const bool isNew = m_views->currentWidget() != m_dayView;
+    showView(m_dayView);
+    if (isNew)
+        m_form->focusRow(m_form->firstEmptyRow());
+}
+
+void Zcalandar1::showWeek()
+{
+    if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
+        openWeek(viewedDate());
+}
+
+void Zcalandar1::showMonth()
+{
+    if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
+        openMonth(viewedDate());
+}
+
+void Zcalandar1::openWeek(QDate date)
+{
+    m_week->show(date, m_options, clock().today());
+    showView(m_week);
+    m_week->setFocus();
+    activity().say({});
+}
+
+void Zcalandar1::openMonth(QDate date)
+{
+    m_month->show(date, m_options, clock().today());
+    showView(m_month);
+    m_month->setFocus();
+    activity().say({});
+}
+
+void Zcalandar1::showOptions()
+{
+    m_optionsPanel->setOptions(CalendarOptions::read(program().settings));
+    showView(m_optionsPanel);
+    m_optionsPanel->setFocus();
+    activity().say({});
+}
+
+void Zcalandar1::takeOptions()
+{
+    const CalendarOptions options = m_optionsPanel->options();
+    if (options.months != m_options.months)
+        forgetPlace(m_splitter);
+    setOptions(options);
+    showDayView();
+    if (!options.write(program().settings))
+        activity().say(PlannerLines::settingNotSaved());
+}
+
+void Zcalandar1::focusSearch()
+{
+    closePreview();
+    if (!m_leftPane->isVisible())
+        showDayView();
+    m_searchBox->setFocus();
+    m_searchBox->selectAll();
+}
+
+void Zcalandar1::search()
+{
+    const QString text = m_searchBox->text().trimmed();
+    if (text.isEmpty())
+        return;
+    const BusyCursor busy;
+    PlannerSearch search(m_files, text);
+    while (search.step()) {}
+    if (search.hits().empty()) {
+        activity().say(PlannerLines::nothingFound(text));
+        return;
+    }
+    activity().say({});
+    m_searchPanel->show(text, search.hits(), clock().today());
+    showView(m_searchPanel);
+    m_searchPanel->setFocus();
+}
+
+void Zcalandar1::openHit(QDate date, int row)
+{
+    goTo(date);
+    if (m_loadedDate == date)
+        m_form->focusRow(row);
+}
+
+void Zcalandar1::showRecurrence()
+{
+    const int row = m_form->currentRow();
+    const PlannerDay day = typedDay();
+    const Appointment appointment =
+        Appointment::ofRow(day.times[std::size_t(row)], day.texts[std::size_t(row)]);
+    if (appointment.isEmpty()) {
+        activity().say(PlannerLines::rowIsEmpty());
+        return;
+    }
+    if (!mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
+        return;
+    activity().say({});
+    showView(m_recurrence);
+    m_recurrence->open(appointment, m_loadedDate, placement(), m_options);
+}
+
+void Zcalandar1::importToDoItems()
+{
+    if (ask(PlannerMessages::importToDoItems()) != Answer::Yes ||
+        !mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
+        return;
+    m_import = {};
+    m_import.items = ToDoImport::items(program().folder, program().state.dateStyle, clock().today());
+    if (m_import.items.empty()) {
+        ask(PlannerMessages::nothingToImport());
+        return;
+    }
+    m_import.earliest = m_loadedDate;
+    showDayView();
+    setWorking(true);
+    activity().say(PlannerLines::updating());
+    m_importWork->start([this] { return importNext(); });
+}
+
+bool Zcalandar1::importNext()
+{
+    if (m_import.next >= m_import.items.size())
+        return false;
+    const ToDoItem &item = m_import.items[m_import.next++];
+    const auto outcome = ToDoImport::insert(m_files, placement(), item, m_import.earliest);
+    m_import.passedOver += !outcome;
+    if (!outcome)
+        return true;
+    m_import.made += outcome->result == DateResult::Made;
+    m_import.there += outcome->result == DateResult::Exists;
+    m_import.full += outcome->result == DateResult::Full;
+    if (outcome->result == DateResult::Failed)
+        m_import.refused = item.date;
+    return outcome->result != DateResult::Failed;
+}
+
+void Zcalandar1::finishImport(bool wasStopped)
+{
+    setWorking(false);
+    activity().showProgress(0, 0);
+    filesChanged();
+    m_form->focusRow(m_form->currentRow());
+    QString done = PlannerLines::imported(m_import.made, m_import.there, m_import.full, m_import.passedOver);
+    if (wasStopped)
+        done += PlannerLines::stoppedBeforeEnd();
+    activity().say(
+        m_import.refused.isValid()
+            ? PlannerLines::diskRefused(Dates::numbers(m_import.refused, program().state.dateStyle), done)
+            : done);
+}
+
+/// While files are updated, only what stops it can be used.
+void Zcalandar1::setWorking(bool isWorking)
+{
+    setBusy(isWorking);
+    toolbar().setEnabled(!isWorking);
+    menuBar()->setEnabled(!isWorking);
+    m_leftPane->setEnabled(!isWorking);
+    m_dayView->setEnabled(!isWorking);
+}
+
+void Zcalandar1::filesChanged()
+{
+    m_calendar->refreshMarks();
+    reloadDay();
+}
+
+QDate Zcalandar1::viewedDate() const
+{
+    const QWidget *view = m_views->currentWidget();
+    const QDate date = view == m_week ? m_week->date() : view == m_month ? m_month->date() : QDate();
+    return date.isValid() ? date : m_loadedDate;
+}
+
+PlannerPages::Paper Zcalandar1::paper(const PageSetup &setup) const
+{
+    return {setup, program().state.dateStyle, m_options.firstDay(), clock().today(),
+            program().state.familyName.text()};
+}
+
+Page Zcalandar1::dayPage(const PageSetup &setup) const
+{
+    const QDate date = viewedDate();
+    return PlannerPages::day(date, date == m_loadedDate ? typedDay() : m_files.peek(date), paper(setup));
+}
+
+Page Zcalandar1::weekPage(const PageSetup &setup) const
+{
+    const QDate start = PlannerPages::weekStart(viewedDate(), m_options.firstDay());
+    return PlannerPages::week(start, m_files.days(start, start.addDays(6)), paper(setup));
+}
+
+Page Zcalandar1::monthPage(const PageSetup &setup) const
+{
+    const QDate date = viewedDate();
+    const QDate first(date.year(), date.month(), 1);
+    return PlannerPages::month(date, m_files.days(first, first.addMonths(1).addDays(-1)), paper(setup));
+}
+
+Page Zcalandar1::page(const PageSetup &setup) const
+{
+    const QWidget *view = m_views->currentWidget();
+    return view == m_week ? weekPage(setup) : view == m_month ? monthPage(setup) : dayPage(setup);
+}
+
+void Zcalandar1::preview(PageOf pageOf, const QString &jobName)
+{
+    showPreview([this, pageOf](const PageSetup &setup) { return (this->*pageOf)(setup); }, jobName);
+    refreshCommands();
+}
+
+void Zcalandar1::printShown()
+{
+    const QWidget *view = m_views->currentWidget();
+    if (view == m_week)
+        printWeek();
+    else if (view == m_month)
+        printMonth();
+    else
+        printDay();
+}
+
+void Zcalandar1::printDay()
+{
+    preview(&Zcalandar1::dayPage, u"Planner "_s + viewedDate().toString(Qt::ISODate));
+}
+
+void Zcalandar1::printWeek()
+{
+    // The page shows what the files hold.
+    if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
+        preview(&Zcalandar1::weekPage, u"Planner week "_s + viewedDate().toString(Qt::ISODate));
+}
+
+void Zcalandar1::printMonth()
+{
+    if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
+        preview(&Zcalandar1::monthPage, u"Planner "_s + viewedDate().toString(u"yyyy-MM"_s));
+}
+
+void Zcalandar1::printRange()
+{
+    if (!mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
+        return;
+    const QDate first = viewedDate();
+    DateRangeDialog dialog(first, first.addMonths(1).addDays(-1), program().state.dateStyle, clock().today(),
+                           this);
+    if (program().dialogs.run(dialog) != QDialog::Accepted)
+        return;
+    const QDate from = dialog.from();
+    const QDate to = dialog.to();
+    showPreview(
+        [this, from, to](const PageSetup &setup) {
+            return PlannerPages::range(from, to, m_files.days(from, to), paper(setup));
+        },
+        u"Planner dates"_s);
+    refreshCommands();
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "planner/model/recurrence.h"
+#include "shell/core/programstate.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class FieldBox;
+class QButtonGroup;
+class QGridLayout;
+class QLabel;
+class QVBoxLayout;
+
+/// The kinds of recurrence with their numbers and dates: six option buttons, none of them chosen at first.
+class RecurrenceForm final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit RecurrenceForm(DateStyle style, QWidget *parent = nullptr);
+
+    /// No kind chosen; the boxes propose what suits an appointment of `date`.
+    void reset(QDate date);
+
+    std::optional<Recurrence::Kind> kind() const;
+    /// Fills in kind, interval and days of the chosen kind; the reason when a box of that kind cannot be
+    /// read. Without a kind it is each day.
+    std::optional<QString> read(Recurrence &recurrence) const;
+
+signals:
+    void kindChosen();
+    void said(const QString &line);
+
+private:
+    FieldBox *makeNumberBox(const QString &name, const QString &accessibleName);
+    QWidget *makeKind(Recurrence::Kind kind, const QString &caption);
+    void addLine(QVBoxLayout *column, const QList<QWidget *> &parts);
+    void addDaily(QVBoxLayout *column);
+    void addWeekly(QVBoxLayout *column);
+    void addMonthly(QVBoxLayout *column);
+    void addYearly(QVBoxLayout *column);
+    QLabel *makeWords(const QString &words);
+
+    DateStyle m_style;
+    QButtonGroup *m_kinds;
+    QButtonGroup *m_weekdays;
+    FieldBox *m_dailyInterval;
+    FieldBox *m_weeklyInterval;
+    FieldBox *m_dayOfMonth;
+    FieldBox *m_monthlyInterval;
+    FieldBox *m_yearlyInterval;
+    FieldBox *m_yearDay;
+    FieldBox *m_yearDayInterval;
+};

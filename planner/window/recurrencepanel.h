@@ -1,0 +1,105 @@
+#pragma once
+
+#include "planner/model/calendaroptions.h"
+#include "planner/model/recurrencerun.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class ElidedLabel;
+class FieldBox;
+class MonthView;
+class QBoxLayout;
+class QButtonGroup;
+class QCheckBox;
+class QHBoxLayout;
+class QProgressBar;
+class QPushButton;
+class QStackedWidget;
+class QVBoxLayout;
+class RecurrenceForm;
+class SlicedWork;
+struct Message;
+struct Program;
+
+/// The "Recurrence Option" panel: repeats one appointment over many dates, or removes it from them. The walk
+/// over the dates goes in slices: the window lives, and the check box stops it.
+class RecurrencePanel final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit RecurrencePanel(Program &program, QWidget *parent = nullptr);
+    ~RecurrencePanel() override;
+
+    /// Gets ready for an appointment of `date`.
+    void open(const Appointment &appointment, QDate date, UntimedPlacement placement,
+              const CalendarOptions &options);
+    bool isRunning() const;
+
+signals:
+    /// A walk begins or is over: nothing else may be done meanwhile.
+    void busyChanged(bool isBusy);
+    /// A walk ended, whether it came to its end or not: days may have changed.
+    void filesChanged();
+    /// The panel has done its work, or was cancelled.
+    void left();
+    void said(const QString &line);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    enum EndBy { EndDate, Occurrences };
+    enum CalendarSets { Beginning, End };
+
+    // How it is put together.
+    QWidget *makeRangeFrame();
+    QWidget *makeProgressPanel();
+    QHBoxLayout *makeFoot();
+    void addEndLines(QVBoxLayout *column, QWidget *frame);
+    FieldBox *makeDateBox(const QString &name, const QString &accessibleName, QWidget *parent);
+    void connectRange();
+
+    std::optional<QDate> dateOf(const FieldBox *box) const;
+    /// What the boxes say, or the reason why it cannot be walked.
+    std::optional<QString> read(Recurrence &recurrence) const;
+    /// Brings the request within ten years, in the boxes too, and tells so.
+    Recurrence limited(const Recurrence &recurrence);
+    void checkLimit();
+    void calendarMoved();
+    void showCalendarDate();
+
+    QPushButton *defaultButton() const;
+    void insert();
+    void remove();
+    void walk(RecurrenceAction action, const Recurrence &recurrence);
+    void showProgress();
+    void finish(bool wasStopped);
+    void setRunning(bool isRunning);
+
+    Program &m_program;
+    Appointment m_appointment;
+    UntimedPlacement m_placement = UntimedPlacement::Last;
+    RecurrenceAction m_action = RecurrenceAction::Insert;
+    std::unique_ptr<RecurrenceRun> m_run;
+    SlicedWork *m_work;
+
+    ElidedLabel *m_title;
+    QBoxLayout *m_columns = nullptr;
+    RecurrenceForm *m_form;
+    FieldBox *m_beginning = nullptr;
+    FieldBox *m_end = nullptr;
+    FieldBox *m_occurrences = nullptr;
+    QButtonGroup *m_endBy;
+    QButtonGroup *m_calendarSets;
+    MonthView *m_month = nullptr;
+    QStackedWidget *m_body = nullptr; ///< the boxes, or the progress while a walk is under way
+    QWidget *m_progressPanel = nullptr;
+    QProgressBar *m_progress = nullptr;
+    QCheckBox *m_stop = nullptr;
+    QPushButton *m_ok = nullptr;
+    QPushButton *m_remove = nullptr;
+    QPushButton *m_cancel = nullptr;
+};

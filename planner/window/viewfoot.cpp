@@ -1,0 +1,24 @@
+#include "planner/window/viewfoot.h"
+
+#include "shell/controls/controls.h"
+
+#include <QHBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+ViewFoot::ViewFoot(const QString &name, const QString &hint, QWidget *parent)
+    : QWidget(parent)
+{
+    QPushButton *day = makeButton(name + u"_dayView"_s, u"&Day View"_s, this, ButtonKind::Main);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(makeQuietLabel(hint, this));
+    row->addStretch(1);
+    row->addWidget(day);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    layout->addWidget(makeLine(this));
+    layout->addLayout(row);
+    connect(day, &QPushButton::clicked, this, &ViewFoot::dayRequested);
+}

@@ -1,0 +1,182 @@
+#include "planner/window/weekview.h"
+
+#include "planner/model/daylines.h"
+#include "planner/model/plannerpages.h"
+#include "planner/window/daysmodel.h"
+#include "planner/window/steptitle.h"
+#include "planner/window/viewfoot.h"
+#include "shell/look/theme.h"
+
+#include <QListView>
+#include <QLocale>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int daysPerWeek = 7;
+constexpr int headWidth = 132;
+constexpr int timeWidth = 80;
+/// Entries stand in two columns only where each is at least this wide.
+constexpr int narrowestColumn = 300;
+constexpr int padding = 10;
+/// Above and below the entries, where the week is full.
+constexpr int narrowPadding = 6;
+
+/// One band: the day at the left, its entries beside it.
+class DayBandDelegate final : public QStyledItemDelegate
+{
+public:
+    DayBandDelegate(DateStyle style, QListView *view)
+        : QStyledItemDelegate(view)
+        , m_style(style)
+        , m_view(view)
+    {}
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &index) const override
+    {
+        // Where the week is short, its days share what is left of the view.
+        const int columns = columnCount();
+        const int share = (m_view->viewport()->height() - neededHeight(columns)) / daysPerWeek;
+        return {headWidth, neededHeight(index, columns) + std::max(0, share)};
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const Theme &theme = Theme::of(option.widget);
+        const bool isCurrent = option.state & QStyle::State_Selected;
+        painter->save();
+        painter->fillRect(option.rect, isCurrent              ? theme.mark
+                                       : index.row() % 2 == 0 ? theme.field
+                                                              : theme.alternate);
+        if (isCurrent) {
+            painter->setPen(QPen(theme.accent, 2));
+            painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+        }
+        const QRect place = option.rect.adjusted(padding, narrowPadding + 1, -padding, -narrowPadding);
+        paintHead(*painter, place, index, theme);
+        paintEntries(*painter, place.adjusted(headWidth, 0, 0, 0), index, theme);
+        painter->restore();
+    }
+
+private:
+    static int neededHeight(const QModelIndex &index, int columns)
+    {
+        const DayLines lines(index.data(DaysModel::DayRole).value<PlannerDay>());
+        const int rows = (lines.count() + columns - 1) / columns;
+        return std::max(2, rows) * lineHeight() + 2 * narrowPadding;
+    }
+    int neededHeight(int columns) const
+    {
+        int needed = 0;
+        for (int day = 0; day < daysPerWeek; ++day)
+            needed += neededHeight(m_view->model()->index(day, 0), columns);
+        return needed;
+    }
+    static int lineHeight() { return QFontMetrics(TypeScale::body()).height() + 3; }
+    /// Two where a full week would not fit otherwise.
+    int columnCount() const
+    {
+        const bool isWide = m_view->viewport()->width() - headWidth - 2 * padding >= 2 * narrowestColumn;
+        return isWide && neededHeight(1) > m_view->viewport()->height() ? 2 : 1;
+    }
+
+    void paintHead(QPainter &painter, const QRect &place, const QModelIndex &index, const Theme &theme) const
+    {
+        const QDate date = index.data(DaysModel::DateRole).toDate();
+        const bool isToday = index.data(DaysModel::TodayRole).toBool();
+        painter.setFont(TypeScale::strong());
+        painter.setPen(isToday ? theme.accent : theme.text);
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, QLocale::c().dayName(date.dayOfWeek()));
+        painter.setFont(TypeScale::label());
+        painter.setPen(theme.quiet);
+        const QString day = QLocale::c().toString(date, m_style == DateStyle::Usa ? u"MMM d"_s : u"d MMM"_s);
+        painter.drawText(place.adjusted(0, lineHeight(), 0, 0), Qt::AlignLeft | Qt::AlignTop,
+                         isToday ? day + u", today"_s : day);
+    }
+
+    void paintEntries(QPainter &painter, const QRect &place, const QModelIndex &index,
+                      const Theme &theme) const
+    {
+        const DayLines lines(index.data(DaysModel::DayRole).value<PlannerDay>());
+        const int columns = columnCount();
+        const int perColumn = (lines.count() + columns - 1) / columns;
+        const int width = place.width() / columns;
+        painter.setFont(TypeScale::body());
+        const QFontMetrics metrics = painter.fontMetrics();
+        for (int i = 0; i < lines.count(); ++i) {
+            const QRect line(place.left() + i / perColumn * width, place.top() + i % perColumn * lineHeight(),
+                             width - padding, metrics.height());
+            painter.setPen(theme.quiet);
+            painter.drawText(QRect(line.left(), line.top(), timeWidth, line.height()), Qt::AlignRight,
+                             metrics.elidedText(lines.time(i), Qt::ElideRight, timeWidth));
+            const QRect text = line.adjusted(timeWidth + padding, 0, 0, 0);
+            painter.setPen(theme.text);
+            painter.drawText(text, Qt::AlignLeft,
+                             metrics.elidedText(lines.text(i), Qt::ElideRight, text.width()));
+        }
+    }
+
+    DateStyle m_style;
+    QListView *m_view;
+};
+
+/// "Dec 28 - Jan 3, 2027", or "28 Dec - 3 Jan 2027".
+QString shortRange(QDate from, QDate to, DateStyle style)
+{
+    const bool isUsa = style == DateStyle::Usa;
+    const QLocale words = QLocale::c();
+    return words.toString(from, isUsa ? u"MMM d"_s : u"d MMM"_s) + u" - "_s +
+           words.toString(to, isUsa ? u"MMM d, yyyy"_s : u"d MMM yyyy"_s);
+}
+
+} // namespace
+
+WeekView::WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent)
+    : DaysView(parent)
+    , m_files(files)
+    , m_style(style)
+    , m_model(new DaysModel(style, this))
+    , m_title(new StepTitle({u"weekTitle"_s, u"week"_s, u"This Week"_s}, this))
+    , m_view(new QListView(this))
+{
+    m_view->setObjectName(u"weekView"_s);
+    m_view->setAccessibleName(u"Days of the week"_s);
+    m_view->setModel(m_model);
+    m_view->setItemDelegate(new DayBandDelegate(style, m_view));
+    m_view->setResizeMode(QListView::Adjust);
+    m_view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    takeKeysOf(m_view);
+    auto *foot = new ViewFoot(u"week"_s, u"Click a day, or press Enter, to open it"_s, this);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(24, 12, 24, 18);
+    rows->setSpacing(12);
+    rows->addWidget(m_title);
+    rows->addWidget(m_view, 1);
+    rows->addWidget(foot);
+    connect(m_view, &QListView::clicked, this,
+            [this](const QModelIndex &index) { emit dayOpened(m_model->date(index)); });
+    connect(foot, &ViewFoot::dayRequested, this, &WeekView::left);
+    connect(m_title, &StepTitle::stepped, this, &WeekView::stepped);
+    connect(m_title, &StepTitle::todayRequested, this, [this] { emit stepped(0); });
+}
+
+void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
+{
+    const QDate start = PlannerPages::weekStart(date, options.firstDay());
+    const QDate end = start.addDays(daysPerWeek - 1);
+    m_model->setDays({start, daysPerWeek, 1, start, end}, m_files.days(start, end), today);
+    m_title->setTitle(PlannerPages::rangeText(start, end, m_style), shortRange(start, end, m_style));
+    m_view->setCurrentIndex(m_model->indexOf(date));
+}
+
+QDate WeekView::date() const
+{
+    return m_model->date(m_view->currentIndex());
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "planner/model/calendaroptions.h"
+#include "planner/model/plannerfiles.h"
+#include "planner/window/daysview.h"
+#include "shell/core/programstate.h"
+
+class DaysModel;
+class QListView;
+class StepTitle;
+
+/// A week as seven bands with all their entries. A click or Enter opens the day.
+class WeekView final : public DaysView
+{
+    Q_OBJECT
+public:
+    WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent = nullptr);
+
+    /// Reads the week of `date` and puts the focus on that day.
+    void show(QDate date, const CalendarOptions &options, QDate today) override;
+    QDate date() const override;
+
+private:
+    const PlannerFiles &m_files;
+    DateStyle m_style;
+    DaysModel *m_model;
+    StepTitle *m_title;
+    QListView *m_view;
+};
