@@ -1,5 +1,6 @@
 #include "shell/controls/busycursor.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
 void Hourglass::on()
