@@ -1,5 +1,6 @@
 #include "addressbook/entry/picturepanel.h"
 
+#include "addressbook/model/addressentry.h"
 #include "addressbook/model/entrylines.h"
 #include "addressbook/model/messages.h"
 #include "shell/controls/busycursor.h"

@@ -15,6 +15,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/gridview.h"
+#include "shell/core/area.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/pictures/picturecopies.h"
 #include "storage/saving.h"

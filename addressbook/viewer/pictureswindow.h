@@ -1,5 +1,6 @@
 #pragma once
 
+#include "addressbook/model/addressviewer.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/pictures/picturecopies.h"
 

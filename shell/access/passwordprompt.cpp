@@ -7,6 +7,7 @@
 #include "shell/core/area.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
+#include "shell/program/sharedprocedures.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -2,6 +2,7 @@
 
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
+#include "shell/program/dialogs.h"
 
 #include <QFontDialog>
 #include <QHBoxLayout>

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+class Dialogs;
 class QFontDialog;
 class QPushButton;
 

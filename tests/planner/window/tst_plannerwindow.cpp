@@ -4,6 +4,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
+#include "shell/core/area.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>
@@ -602,4 +603,4 @@ void TestZcalandar1::keepsTheTextWhenTheSameDayIsChosen()
 }
 
 QTEST_MAIN(TestZcalandar1)
-#include "tst_zcalandar1.moc"
+#include "tst_plannerwindow.moc"

@@ -1,4 +1,4 @@
-#include "addressfiles.h"
+#include "tests/addressbook/model/addressfiles.h"
 #include "shell/pictures/picturefolder.h"
 
 #include <QDir>

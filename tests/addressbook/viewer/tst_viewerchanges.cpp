@@ -178,4 +178,4 @@ void TestAddbkdisplayChanges::sortsByNothingUnseen()
 }
 
 QTEST_MAIN(TestAddbkdisplayChanges)
-#include "tst_addbkdisplaychanges.moc"
+#include "tst_viewerchanges.moc"

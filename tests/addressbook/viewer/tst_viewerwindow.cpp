@@ -5,6 +5,7 @@
 #include "addressbook/viewer/viewerwindow.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/gridview.h"
+#include "shell/core/area.h"
 #include "shell/core/settingskeys.h"
 #include "shell/preview/previewpane.h"
 #include "tests/support/testprogram.h"
@@ -672,4 +673,4 @@ void TestAddbkdisplay::survivesMissingAndBadFiles()
 }
 
 QTEST_MAIN(TestAddbkdisplay)
-#include "tst_addbkdisplay.moc"
+#include "tst_viewerwindow.moc"

@@ -330,4 +330,4 @@ void TestStartfrm::survivesDamagedSettings()
 }
 
 QTEST_MAIN(TestStartfrm)
-#include "tst_startfrm.moc"
+#include "tst_mainmenuwindow.moc"

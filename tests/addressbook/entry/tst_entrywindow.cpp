@@ -1,4 +1,4 @@
-#include "tests/addressbook/openaddressbook.h"
+#include "tests/addressbook/entry/openaddressbook.h"
 
 #include <QDir>
 
@@ -393,4 +393,4 @@ void TestAddbkview::asksBeforeItCloses()
 }
 
 QTEST_MAIN(TestAddbkview)
-#include "tst_addbkview.moc"
+#include "tst_entrywindow.moc"

@@ -177,4 +177,4 @@ void TestYearFiles::tellsTheTruthAboutAFullDisk()
 }
 
 QTEST_GUILESS_MAIN(TestYearFiles)
-#include "tst_yearfiles.moc"
+#include "tst_plannerfiles.moc"

@@ -202,4 +202,4 @@ void TestForm32::showsThePasswordOnlyWhenAsked()
 }
 
 QTEST_MAIN(TestForm32)
-#include "tst_form32.moc"
+#include "tst_passwordprompt.moc"

@@ -258,4 +258,4 @@ void TestForm31::printsWhatIsGuarded()
 }
 
 QTEST_MAIN(TestForm31)
-#include "tst_form31.moc"
+#include "tst_passwordcontrol.moc"

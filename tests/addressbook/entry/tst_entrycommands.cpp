@@ -1,4 +1,4 @@
-#include "tests/addressbook/openaddressbook.h"
+#include "tests/addressbook/entry/openaddressbook.h"
 
 #include "shell/controls/monthview.h"
 #include "shell/core/settingskeys.h"
@@ -260,4 +260,4 @@ void TestAddbkcommands::warnsBeforePrintingManyPictures()
 }
 
 QTEST_MAIN(TestAddbkcommands)
-#include "tst_addbkcommands.moc"
+#include "tst_entrycommands.moc"

@@ -211,4 +211,4 @@ void TestHinfo1::waitsForTheNextSecond()
 }
 
 QTEST_MAIN(TestHinfo1)
-#include "tst_hinfo1.moc"
+#include "tst_sharedprocedures.moc"

@@ -258,4 +258,4 @@ void TestAddbkdisplay2::saysWhenThereIsNoPicture()
 }
 
 QTEST_MAIN(TestAddbkdisplay2)
-#include "tst_addbkdisplay2.moc"
+#include "tst_pictureswindow.moc"

@@ -253,4 +253,4 @@ void TestStartDispatch::showsTheDesignedBar()
 }
 
 QTEST_MAIN(TestStartDispatch)
-#include "tst_startdispatch.moc"
+#include "tst_topbuttons.moc"
