@@ -10,6 +10,12 @@
 namespace {
 constexpr int gap = 8;
 constexpr int groupGap = 16;
+
+int widthOf(const QPushButton *button)
+{
+    return std::max(button->sizeHint().width(), button->minimumWidth());
+}
+
 } // namespace
 
 ButtonRow::ButtonRow(QWidget *parent)
@@ -26,7 +32,7 @@ int ButtonRow::groupWidth(const QVector<QPushButton *> &group) const
     int width = 0;
     for (const QPushButton *button : group) {
         if (!button->isHidden())
-            width += (width ? gap : 0) + button->sizeHint().width();
+            width += (width ? gap : 0) + widthOf(button);
     }
     return width;
 }
@@ -37,15 +43,22 @@ void ButtonRow::setWords(const QString &words)
     rearrange();
 }
 
+/// Where what follows the left group begins.
+int ButtonRow::behindLeft() const
+{
+    const int left = groupWidth(m_left);
+    return left > 0 ? left + groupGap : 0;
+}
+
 bool ButtonRow::haveWordsRoom() const
 {
-    const int beside = groupWidth(m_left) + groupGap + m_words->fontMetrics().horizontalAdvance(m_text);
+    const int beside = behindLeft() + m_words->fontMetrics().horizontalAdvance(m_text);
     return (fitsOneRow(width()) ? beside + groupGap + groupWidth(m_right) : beside) <= width();
 }
 
 bool ButtonRow::fitsOneRow(int width) const
 {
-    return groupWidth(m_left) + groupGap + groupWidth(m_right) <= width;
+    return groupWidth(m_left) == 0 || behindLeft() + groupWidth(m_right) <= width;
 }
 
 int ButtonRow::rowHeight() const
@@ -65,7 +78,7 @@ int ButtonRow::heightForWidth(int width) const
 
 QSize ButtonRow::sizeHint() const
 {
-    return {groupWidth(m_left) + groupGap + groupWidth(m_right), rowHeight()};
+    return {behindLeft() + groupWidth(m_right), rowHeight()};
 }
 
 QSize ButtonRow::minimumSizeHint() const
@@ -78,7 +91,7 @@ void ButtonRow::place(const QVector<QPushButton *> &group, int x, int y) const
     for (QPushButton *button : group) {
         if (button->isHidden())
             continue;
-        const int width = button->sizeHint().width();
+        const int width = widthOf(button);
         button->setGeometry(x, y, width, rowHeight());
         x += width + gap;
     }
@@ -91,7 +104,7 @@ void ButtonRow::rearrange()
     place(m_left, 0, 0);
     const bool haveRoom = haveWordsRoom();
     m_words->setText(haveRoom ? m_text : QString());
-    m_words->setGeometry(groupWidth(m_left) + groupGap, 0, m_words->sizeHint().width(), height);
+    m_words->setGeometry(behindLeft(), 0, m_words->sizeHint().width(), height);
     place(m_right, std::max(0, width() - groupWidth(m_right)), oneRow ? 0 : height + gap);
     updateGeometry();
     emit wordsLeftOut(haveRoom ? QString() : m_text);

@@ -35,6 +35,7 @@ protected:
 
 private:
     int groupWidth(const QVector<QPushButton *> &group) const;
+    int behindLeft() const;
     bool haveWordsRoom() const;
     bool fitsOneRow(int width) const;
     int rowHeight() const;

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QWidget>
+
+class QAbstractItemView;
+class QLabel;
+class SearchBox;
+
+/// The pane at the left of a window: a search box, and below it the list that it searches, at whole rows,
+/// with a count under them.
+class ListPane final : public QWidget
+{
+    Q_OBJECT
+public:
+    ListPane(SearchBox *search, QAbstractItemView *view, QLabel *count, QWidget *parent = nullptr);
+};

@@ -1,0 +1,34 @@
+#include "shell/controls/searchbox.h"
+
+#include "shell/look/theme.h"
+
+#include <QKeyEvent>
+
+using namespace Qt::Literals::StringLiterals;
+
+SearchBox::SearchBox(const QString &name, const QString &words, const QString &tip, QWidget *parent)
+    : QLineEdit(parent)
+{
+    setObjectName(name);
+    setPlaceholderText(words);
+    setAccessibleName(words);
+    setToolTip(tip);
+    setClearButtonEnabled(true);
+    addAction(Icons::icon("search"_L1, Theme::of(this).scheme), LeadingPosition);
+}
+
+void SearchBox::startAgain()
+{
+    setFocus();
+    selectAll();
+}
+
+void SearchBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && !text().isEmpty())
+        clear();
+    else if (event->key() == Qt::Key_Down && m_target)
+        m_target->setFocus();
+    else
+        QLineEdit::keyPressEvent(event);
+}

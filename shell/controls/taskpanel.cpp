@@ -1,0 +1,89 @@
+#include "shell/controls/taskpanel.h"
+
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/titleline.h"
+
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// What the names of a panel's parts begin with: "picture" for "picturePanel".
+QString stem(const QString &name)
+{
+    constexpr auto ending = "Panel"_L1;
+    return name.endsWith(ending) ? name.chopped(ending.size()) : name;
+}
+
+} // namespace
+
+TaskPanel::TaskPanel(const QString &name, const QString &title, QWidget *parent)
+    : QWidget(parent)
+    , m_title(new TitleLine(stem(name) + u"Title"_s, title, this))
+    , m_rows(new QVBoxLayout(this))
+    , m_foot(named(new ButtonRow(this), stem(name) + u"Buttons"_s))
+{
+    setObjectName(name);
+    m_rows->setContentsMargins(24, 16, 24, 18);
+    m_rows->setSpacing(12);
+    m_rows->addWidget(m_title);
+    m_rows->addWidget(makeLine(this));
+    m_rows->addWidget(m_foot);
+}
+
+void TaskPanel::setTitle(const QString &title)
+{
+    m_title->setTitle(title);
+}
+
+void TaskPanel::setContent(QWidget *content)
+{
+    setWork(makeScrolling(content, stem(objectName()) + u"Scroll"_s, this));
+}
+
+void TaskPanel::setWork(QWidget *work)
+{
+    m_rows->insertWidget(1, work, 1);
+}
+
+QPushButton *TaskPanel::addButton(const QString &name, const QString &caption, ButtonKind kind, Side side)
+{
+    QPushButton *button = makeButton(name, caption, m_foot, kind);
+    addButton(button, side);
+    return button;
+}
+
+void TaskPanel::addButton(QPushButton *button, Side side)
+{
+    button->setParent(m_foot);
+    side == Side::Left ? m_foot->addLeft(button) : m_foot->addRight(button);
+    m_foot->rearrange();
+}
+
+QPushButton *TaskPanel::setLeaveButton(const QString &name, const QString &caption, ButtonKind kind)
+{
+    QPushButton *button = addButton(name, caption, kind);
+    connect(button, &QPushButton::clicked, this, &TaskPanel::leave);
+    return button;
+}
+
+void TaskPanel::setWords(const QString &words)
+{
+    m_foot->setWords(words);
+}
+
+void TaskPanel::leave()
+{
+    emit left();
+}
+
+void TaskPanel::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        leave();
+    else
+        QWidget::keyPressEvent(event);
+}
