@@ -2,10 +2,9 @@
 
 #include "addressbook/model/datefacts.h"
 #include "addressbook/model/entrylines.h"
-#include "shell/controls/controls.h"
+#include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
 #include "shell/core/clock.h"
-#include "shell/core/dates.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/pictureframe.h"
 
@@ -72,7 +71,6 @@ AddressForm::AddressForm(const Clock &clock, const DateStyle &style, QWidget *wi
     : QWidget(parent)
     , m_clock(clock)
     , m_style(style)
-    , m_boxes(controlArray<FieldBox, AddressFieldCount>(u"Text1"_s, this))
     , m_picker(new DatePicker(clock, window))
 {
     makeBoxes();
@@ -83,14 +81,14 @@ AddressForm::AddressForm(const Clock &clock, const DateStyle &style, QWidget *wi
     m_columns->addWidget(makeHomeColumn(), 5);
     m_columns->addWidget(makeOtherColumn(), 3);
     setMaximumWidth(2 * greatestWidth + columnGap);
-    connectDates();
     paintIcons();
 }
 
 void AddressForm::makeBoxes()
 {
     for (std::size_t i = 0; i < m_boxes.size(); ++i) {
-        FieldBox *box = m_boxes[i];
+        FieldBox *box = named(makeBox(AddressField(i)), u"Text1_"_s + QString::number(i));
+        m_boxes[i] = box;
         box->setByteLimit(i == LastName ? lastNameWidth : int(addressTextWidth));
         box->setMinimumWidth(40);
         box->setAccessibleName(i == Address2 ? u"Address, second line"_s : QString(captions[i]).chopped(1));
@@ -98,6 +96,17 @@ void AddressForm::makeBoxes()
         connect(box, &QLineEdit::textChanged, this, &AddressForm::edited);
         connect(box, &FieldBox::refused, this, &AddressForm::said);
     }
+}
+
+FieldBox *AddressForm::makeBox(AddressField field)
+{
+    if (field != BirthDate && field != AnniversaryDate)
+        return new FieldBox(this);
+    auto *box = new DateBox({m_style, m_clock}, m_picker, this);
+    (field == BirthDate ? m_birth : m_anniversary) = box;
+    connect(box, &DateBox::dateChanged, this, &AddressForm::refreshFacts);
+    connect(box, &DateBox::lockedDateShown, this, [this] { emit said(AddressLines::lockedDate()); });
+    return box;
 }
 
 void AddressForm::makeDialButtons()
@@ -210,49 +219,10 @@ QWidget *AddressForm::makeOtherColumn()
     return column;
 }
 
-void AddressForm::connectDates()
-{
-    for (const AddressField dateField : {BirthDate, AnniversaryDate}) {
-        FieldBox *box = m_boxes[dateField];
-        m_picker->addBox(box);
-        connect(box, &QLineEdit::textChanged, this, &AddressForm::refreshFacts);
-        connect(box, &QLineEdit::editingFinished, this, [this, dateField] { tidyDate(dateField); });
-    }
-    connect(m_picker, &DatePicker::opening, this, [this](const FieldBox *box) {
-        m_picker->setDate(date(box == m_boxes[BirthDate] ? BirthDate : AnniversaryDate));
-        if (box->isLocked())
-            emit said(AddressLines::lockedDate());
-    });
-    connect(m_picker, &DatePicker::dayChosen, this, [this](const FieldBox *box, QDate day) {
-        if (!box->isLocked())
-            setDate(box == m_boxes[BirthDate] ? BirthDate : AnniversaryDate, day);
-    });
-}
-
-void AddressForm::setDate(AddressField field, QDate date)
-{
-    m_boxes[field]->setText(Dates::boxText(date, m_style));
-}
-
-QDate AddressForm::date(AddressField field) const
-{
-    return Dates::parse(m_boxes[field]->text(), m_style, m_clock.today()).value_or(QDate());
-}
-
-/// A date that was typed gets the form that the file keeps; anything else stays as it was typed.
-void AddressForm::tidyDate(AddressField field)
-{
-    FieldBox *box = m_boxes[field];
-    if (box->isLocked() || !box->isModified())
-        return;
-    if (const QDate typed = date(field); typed.isValid())
-        setDate(field, typed);
-}
-
 void AddressForm::tidyDates()
 {
-    tidyDate(BirthDate);
-    tidyDate(AnniversaryDate);
+    m_birth->tidy();
+    m_anniversary->tidy();
 }
 
 AddressForm::Texts AddressForm::texts() const
@@ -300,8 +270,8 @@ void AddressForm::setRequiredShown(bool shown)
 void AddressForm::refreshFacts()
 {
     const QDate today = m_clock.today();
-    m_birthFact->setText(DateFacts::ofBirth(date(BirthDate), today, m_style));
-    m_anniversaryFact->setText(DateFacts::ofAnniversary(date(AnniversaryDate), today));
+    m_birthFact->setText(DateFacts::ofBirth(m_birth->date().value_or(QDate()), today, m_style));
+    m_anniversaryFact->setText(DateFacts::ofAnniversary(m_anniversary->date().value_or(QDate()), today));
 }
 
 QVector<QWidget *> AddressForm::tabOrder() const

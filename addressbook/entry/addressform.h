@@ -8,6 +8,7 @@
 #include <array>
 
 class Clock;
+class DateBox;
 class DatePicker;
 class FieldBox;
 class PictureFrame;
@@ -69,21 +70,21 @@ protected:
 private:
     void makeBoxes();
     void makeDialButtons();
-    void connectDates();
     QWidget *makeHomeColumn();
     QWidget *makeOtherColumn();
     void addPhones(QVBoxLayout *column);
     QLabel *label(AddressField field, const QString &hint = {}) const;
-    void setDate(AddressField field, QDate date);
-    QDate date(AddressField field) const;
-    void tidyDate(AddressField field);
+    FieldBox *makeBox(AddressField field);
     void fitPicture();
     void placeEnlargeButton();
     void paintIcons();
 
     const Clock &m_clock;
     const DateStyle &m_style;
-    std::array<FieldBox *, AddressFieldCount> m_boxes;
+    DatePicker *m_picker;
+    std::array<FieldBox *, AddressFieldCount> m_boxes{};
+    DateBox *m_birth = nullptr;
+    DateBox *m_anniversary = nullptr;
     std::array<QPushButton *, 2> m_dialButtons{};
     QLabel *m_lastNameLabel = nullptr;
     QLabel *m_requiredLabel = nullptr;
@@ -93,6 +94,5 @@ private:
     QLabel *m_dialing = nullptr;
     PictureFrame *m_picture = nullptr;
     QPushButton *m_enlarge = nullptr;
-    DatePicker *m_picker;
     QBoxLayout *m_columns;
 };

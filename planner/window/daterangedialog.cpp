@@ -1,20 +1,17 @@
 #include "planner/window/daterangedialog.h"
 
 #include "planner/model/lines.h"
-#include "shell/controls/controls.h"
-#include "shell/core/dates.h"
+#include "shell/controls/datebox.h"
 #include "shell/look/theme.h"
 
 #include <QHBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
-DateRangeDialog::DateRangeDialog(QDate from, QDate to, DateStyle style, QDate today, QWidget *parent)
+DateRangeDialog::DateRangeDialog(QDate from, QDate to, const DateReading &reading, QWidget *parent)
     : QDialog(parent)
-    , m_style(style)
-    , m_today(today)
-    , m_fromBox(named(new FieldBox(this), u"rangeFrom"_s))
-    , m_toBox(named(new FieldBox(this), u"rangeTo"_s))
+    , m_fromBox(named(new DateBox(reading, nullptr, this), u"rangeFrom"_s))
+    , m_toBox(named(new DateBox(reading, nullptr, this), u"rangeTo"_s))
     , m_hint(makeQuietLabel({}, this))
     , m_range(from, to)
 {
@@ -25,8 +22,7 @@ DateRangeDialog::DateRangeDialog(QDate from, QDate to, DateStyle style, QDate to
     boxes->setSpacing(12);
     for (const auto &[box, caption, date] :
          {std::tuple{m_fromBox, u"From"_s, from}, std::tuple{m_toBox, u"To"_s, to}}) {
-        box->setByteLimit(20);
-        box->setText(Dates::boxText(date, style));
+        box->setDate(date);
         auto *column = new QVBoxLayout;
         column->setSpacing(3);
         column->addWidget(makeFieldLabel(caption, box, this));
@@ -55,8 +51,8 @@ DateRangeDialog::DateRangeDialog(QDate from, QDate to, DateStyle style, QDate to
 
 void DateRangeDialog::accept()
 {
-    for (FieldBox *box : {m_fromBox, m_toBox}) {
-        const auto date = Dates::parse(box->text(), m_style, m_today);
+    for (DateBox *box : {m_fromBox, m_toBox}) {
+        const auto date = box->date();
         if (!date) {
             m_hint->setText(PlannerLines::noSuchDate(box->text()));
             box->setFocus();

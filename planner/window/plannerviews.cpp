@@ -15,6 +15,7 @@
 #include "planner/window/weekview.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
+#include "shell/controls/datebox.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/dates.h"
 #include "shell/core/slicedwork.h"
@@ -286,8 +287,7 @@ void Zcalandar1::printRange()
     if (!mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
         return;
     const QDate first = viewedDate();
-    DateRangeDialog dialog(first, first.addMonths(1).addDays(-1), program().state.dateStyle, clock().today(),
-                           this);
+    DateRangeDialog dialog(first, first.addMonths(1).addDays(-1), {program().state.dateStyle, clock()}, this);
     if (program().dialogs.run(dialog) != QDialog::Accepted)
         return;
     const QDate from = dialog.from();

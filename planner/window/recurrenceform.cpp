@@ -1,8 +1,7 @@
 #include "planner/window/recurrenceform.h"
 
 #include "planner/model/lines.h"
-#include "shell/controls/controls.h"
-#include "shell/core/dates.h"
+#include "shell/controls/datebox.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -26,9 +25,8 @@ int numberOf(const FieldBox *box)
 
 } // namespace
 
-RecurrenceForm::RecurrenceForm(DateStyle style, QWidget *parent)
+RecurrenceForm::RecurrenceForm(const DateReading &reading, QWidget *parent)
     : QWidget(parent)
-    , m_style(style)
     , m_kinds(new QButtonGroup(this))
     , m_weekdays(new QButtonGroup(this))
     , m_dailyInterval(makeNumberBox(u"dailyInterval"_s, u"Days"_s))
@@ -36,11 +34,12 @@ RecurrenceForm::RecurrenceForm(DateStyle style, QWidget *parent)
     , m_dayOfMonth(makeNumberBox(u"dayOfMonth"_s, u"Day of the month"_s))
     , m_monthlyInterval(makeNumberBox(u"monthlyInterval"_s, u"Months"_s))
     , m_yearlyInterval(makeNumberBox(u"yearlyInterval"_s, u"Years"_s))
-    , m_yearDay(makeNumberBox(u"yearDay"_s, u"Date of the year"_s))
+    , m_yearDay(named(new DateBox(reading, nullptr, this), u"yearDay"_s))
     , m_yearDayInterval(makeNumberBox(u"yearDayInterval"_s, u"Years from date to date"_s))
 {
-    m_yearDay->setByteLimit(20);
     m_yearDay->setFixedWidth(dateWidth);
+    m_yearDay->setAccessibleName(u"Date of the year"_s);
+    connect(m_yearDay, &FieldBox::refused, this, &RecurrenceForm::said);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(6);
@@ -142,7 +141,7 @@ void RecurrenceForm::reset(QDate date)
         box->setText(u"1"_s);
     m_weekdays->button(date.dayOfWeek())->setChecked(true);
     m_dayOfMonth->setText(QString::number(date.day()));
-    m_yearDay->setText(Dates::boxText(date, m_style));
+    m_yearDay->setDate(date);
 }
 
 std::optional<Recurrence::Kind> RecurrenceForm::kind() const
@@ -174,7 +173,7 @@ std::optional<QString> RecurrenceForm::read(Recurrence &recurrence) const
         break;
     case Recurrence::YearlyOnDate:
         interval = m_yearDayInterval;
-        recurrence.yearDay = Dates::parse(m_yearDay->text(), m_style).value_or(QDate());
+        recurrence.yearDay = m_yearDay->date().value_or(QDate());
         if (!recurrence.yearDay.isValid())
             return PlannerLines::noYearDay();
         break;

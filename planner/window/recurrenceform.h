@@ -1,24 +1,24 @@
 #pragma once
 
 #include "planner/model/recurrence.h"
-#include "shell/core/programstate.h"
-
 #include <QWidget>
 
 #include <optional>
 
+class DateBox;
 class FieldBox;
 class QButtonGroup;
 class QGridLayout;
 class QLabel;
 class QVBoxLayout;
+struct DateReading;
 
 /// The kinds of recurrence with their numbers and dates: six option buttons, none of them chosen at first.
 class RecurrenceForm final : public QWidget
 {
     Q_OBJECT
 public:
-    explicit RecurrenceForm(DateStyle style, QWidget *parent = nullptr);
+    explicit RecurrenceForm(const DateReading &reading, QWidget *parent = nullptr);
 
     /// No kind chosen; the boxes propose what suits an appointment of `date`.
     void reset(QDate date);
@@ -42,7 +42,6 @@ private:
     void addYearly(QVBoxLayout *column);
     QLabel *makeWords(const QString &words);
 
-    DateStyle m_style;
     QButtonGroup *m_kinds;
     QButtonGroup *m_weekdays;
     FieldBox *m_dailyInterval;
@@ -50,6 +49,6 @@ private:
     FieldBox *m_dayOfMonth;
     FieldBox *m_monthlyInterval;
     FieldBox *m_yearlyInterval;
-    FieldBox *m_yearDay;
+    DateBox *m_yearDay;
     FieldBox *m_yearDayInterval;
 };

@@ -3,7 +3,7 @@
 #include "planner/window/recurrencepanel.h"
 
 #include "planner/window/recurrenceform.h"
-#include "shell/controls/controls.h"
+#include "shell/controls/datebox.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/slicedwork.h"
 #include "shell/look/theme.h"
@@ -41,7 +41,7 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     , m_program(program)
     , m_work(new SlicedWork(this))
     , m_title(named(new ElidedLabel(this), u"recurrenceTitle"_s))
-    , m_form(new RecurrenceForm(program.state.dateStyle, this))
+    , m_form(new RecurrenceForm({program.state.dateStyle, program.clock}, this))
     , m_endBy(new QButtonGroup(this))
     , m_calendarSets(new QButtonGroup(this))
 {

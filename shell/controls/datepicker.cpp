@@ -1,6 +1,6 @@
 #include "shell/controls/datepicker.h"
 
-#include "shell/controls/controls.h"
+#include "shell/controls/datebox.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/clock.h"
 #include "shell/look/theme.h"
@@ -43,23 +43,26 @@ DatePicker::DatePicker(const Clock &clock, QWidget *window)
     hide();
 }
 
-void DatePicker::addBox(FieldBox *box)
+void DatePicker::addBox(DateBox *box)
 {
     m_boxes.append(box);
     box->installEventFilter(this);
 }
 
-void DatePicker::setDate(QDate date)
+/// The date of the box, or today where it has none.
+void DatePicker::showDate()
 {
     const QDate today = m_clock.today();
     m_month->setToday(today);
-    m_month->setSelectedDate(date.isValid() ? date : today);
+    m_month->setSelectedDate(m_box->date().value_or(today));
 }
 
-void DatePicker::open(FieldBox *box)
+void DatePicker::open(DateBox *box)
 {
     m_box = box;
-    emit opening(box);
+    showDate();
+    if (box->isLocked())
+        emit box->lockedDateShown();
     const Theme &theme = Theme::of(box);
     setStyleSheet(u"#datePicker { background: %1; border: 1px solid %2; border-radius: 10px; }"_s.arg(
         theme.panel.name(), theme.edge.name()));
@@ -104,9 +107,10 @@ void DatePicker::reposition()
 
 void DatePicker::choose(QDate day)
 {
-    FieldBox *box = m_box;
+    DateBox *box = m_box;
     dismiss();
-    emit dayChosen(box, day);
+    if (!box->isLocked())
+        box->setDate(day);
 }
 
 bool DatePicker::holdsFocus() const
@@ -139,7 +143,7 @@ bool DatePicker::eventFilter(QObject *watched, QEvent *event)
     return QFrame::eventFilter(watched, event);
 }
 
-bool DatePicker::boxEvent(FieldBox *box, QEvent *event)
+bool DatePicker::boxEvent(DateBox *box, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::FocusIn: {
@@ -173,7 +177,7 @@ bool DatePicker::boxEvent(FieldBox *box, QEvent *event)
     }
 }
 
-bool DatePicker::keyPressed(FieldBox *box, int key)
+bool DatePicker::keyPressed(DateBox *box, int key)
 {
     if (key == Qt::Key_Escape) {
         dismiss();
@@ -182,7 +186,7 @@ bool DatePicker::keyPressed(FieldBox *box, int key)
     if (!isVisible())
         open(box);
     if (!box->isLocked()) {
-        emit opening(box);
+        showDate();
         m_month->setFocus(Qt::OtherFocusReason);
     }
     return true;

@@ -1,0 +1,45 @@
+#include "shell/controls/datebox.h"
+
+#include "shell/controls/datepicker.h"
+#include "shell/core/clock.h"
+#include "shell/core/dates.h"
+
+#include <utility>
+
+namespace {
+constexpr int longestDate = 20;
+} // namespace
+
+DateBox::DateBox(const DateReading &reading, DatePicker *picker, QWidget *parent)
+    : FieldBox(parent)
+    , m_reading(reading)
+{
+    setByteLimit(longestDate);
+    if (picker)
+        picker->addBox(this);
+    connect(this, &QLineEdit::editingFinished, this, &DateBox::tidy);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        const auto now = date();
+        if (std::exchange(m_date, now) != now)
+            emit dateChanged();
+    });
+}
+
+std::optional<QDate> DateBox::date() const
+{
+    return Dates::parse(text(), m_reading.style, m_reading.clock.today());
+}
+
+void DateBox::setDate(QDate date)
+{
+    setText(date.isValid() ? Dates::boxText(date, m_reading.style) : QString());
+}
+
+void DateBox::tidy()
+{
+    if (isLocked() || !isModified())
+        return;
+    setModified(false);
+    if (const auto typed = date())
+        setDate(*typed);
+}

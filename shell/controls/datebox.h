@@ -1,0 +1,44 @@
+#pragma once
+
+#include "shell/controls/controls.h"
+#include "shell/core/programstate.h"
+
+#include <QDate>
+
+#include <optional>
+
+class Clock;
+class DatePicker;
+
+/// How typed dates are read: the order of day and month, and the day that tells the century.
+struct DateReading {
+    const DateStyle &style;
+    const Clock &clock;
+};
+
+/// A box for a date: typed in any usual form, tidied on leaving, with the calendar beside it.
+class DateBox final : public FieldBox
+{
+    Q_OBJECT
+public:
+    /// Without a `picker` it has no calendar.
+    DateBox(const DateReading &reading, DatePicker *picker, QWidget *parent);
+
+    /// Nothing when the text is no date.
+    std::optional<QDate> date() const;
+    /// An invalid date empties the box.
+    void setDate(QDate date);
+    /// Puts a date that was typed since the box was last tidied into the form that the files keep; anything
+    /// else stays as it was typed. Leaving the box does the same: call it before a save that comes by its
+    /// access key.
+    void tidy();
+
+signals:
+    void dateChanged();
+    /// The calendar opened beside the locked box, for reading only.
+    void lockedDateShown();
+
+private:
+    DateReading m_reading;
+    std::optional<QDate> m_date; ///< as it was told last
+};
