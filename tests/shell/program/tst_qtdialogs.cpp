@@ -35,7 +35,8 @@ private:
         QTimer::singleShot(50, this, [action] {
             QWidget *box = QApplication::activeModalWidget();
             QVERIFY(box);
-            QApplication::setActiveWindow(box);
+            box->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(box));
             action(*box);
         });
     }
