@@ -2,6 +2,8 @@
 #include "shell/access/passwordfile.h"
 #include "tests/support/testprogram.h"
 
+#include <QSet>
+
 using namespace Qt::Literals::StringLiterals;
 
 class TestFunctions : public QObject
@@ -18,14 +20,21 @@ void TestFunctions::opensTheWindowsThatAreBuiltIn()
 {
     TestProgram test(TestProgram::Household);
     addFunctions(test.functions, test.clock);
-    const auto nameOf = [&](Function function) {
-        const QWidget *window = test.functions.open(function, test.program);
-        return window ? window->objectName() : QString();
-    };
-    QCOMPARE(nameOf(Function::AddressBook), u"ADDBKVIEW"_s);
-    QCOMPARE(nameOf(Function::PasswordControl), u"Form31"_s);
-    for (QWidget *window : test.functions.openWindows())
+    QSet<QString> opened;
+    for (int number = 0; number <= int(Function::AddressViewer); ++number) {
+        const auto function = Function(number);
+        const QPointer<QWidget> window = test.functions.open(function, test.program);
+        QCOMPARE(window != nullptr, test.functions.has(function));
+        if (!window)
+            continue;
+        QVERIFY2(window->isVisible() && !window->windowTitle().isEmpty(), qPrintable(window->objectName()));
+        QVERIFY2(!opened.contains(window->objectName()), qPrintable(window->objectName()));
+        opened.insert(window->objectName());
+        QCOMPARE(test.functions.openWindows(), {window});
         QVERIFY(window->close());
+        QTRY_VERIFY(!window);
+    }
+    QVERIFY(opened.contains(u"ADDBKVIEW"_s));
 }
 
 void TestFunctions::tellsTheNewsOfTheHousehold()
