@@ -1,5 +1,5 @@
 #include "storage/datafolder.h"
-#include "testfiles.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
 #include "storage/folderlock.h"
-#include "testfiles.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QProcess>

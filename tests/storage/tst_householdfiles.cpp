@@ -2,7 +2,7 @@
 #include "storage/recordfile.h"
 #include "storage/recordvalue.h"
 #include "storage/valuefile.h"
-#include "testfiles.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

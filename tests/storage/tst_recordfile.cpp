@@ -1,6 +1,6 @@
-#include "filesizelimit.h"
 #include "storage/recordfile.h"
-#include "testfiles.h"
+#include "tests/support/filesizelimit.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
 #include "storage/valuefile.h"
-#include "testfiles.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -5,6 +5,7 @@
 #include "addressbook/model/messages.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "tests/support/scriptedmodem.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>
@@ -13,31 +14,6 @@
 #include <QPointer>
 #include <QPushButton>
 
-/// A modem that writes down what it is told.
-class NotedModem final : public Modem
-{
-public:
-    NotedModem(QStringList &log, int workingPort)
-        : m_log(log)
-        , m_workingPort(workingPort)
-    {}
-    bool open(int port) override
-    {
-        m_log.append(QStringLiteral("open ") + QString::number(port));
-        return port == m_workingPort;
-    }
-    bool write(QByteArrayView text) override
-    {
-        m_log.append(QString::fromLatin1(text));
-        return true;
-    }
-    void close() override { m_log.append(QStringLiteral("close")); }
-
-private:
-    QStringList &m_log;
-    int m_workingPort;
-};
-
 /// The address book's screen on a folder of its own, and the hands that work it.
 class OpenAddressBook : public QObject
 {
@@ -45,11 +21,10 @@ protected:
     void open(TestProgram::Content content)
     {
         delete m_window;
-        m_modemLog.clear();
-        m_workingPort = 3;
+        m_line = {};
         m_test = std::make_unique<TestProgram>(content);
         m_window = new ADDBKVIEW(m_test->program, nullptr,
-                                 [this] { return std::make_unique<NotedModem>(m_modemLog, m_workingPort); });
+                                 [this] { return std::make_unique<ScriptedModem>(m_line); });
         showActive(*m_window);
     }
     void close()
@@ -113,6 +88,5 @@ protected:
 
     std::unique_ptr<TestProgram> m_test;
     QPointer<ADDBKVIEW> m_window;
-    QStringList m_modemLog;
-    int m_workingPort = 3;
+    TelephoneLine m_line;
 };

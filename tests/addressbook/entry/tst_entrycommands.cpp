@@ -189,7 +189,7 @@ void TestAddbkcommands::dials()
     m_test->dialogs.willAnswer(Answer::Cancel);
     click("Image2_0");
     QCOMPARE(asked(), {AddressMessages::numberDialed(u"(440) 555-0100"_s)});
-    QCOMPARE(m_modemLog, QStringList({u"open 3"_s, u"ATDT (440) 555-0100;\r"_s, u"ATH\r"_s, u"close"_s}));
+    QCOMPARE(m_line.log, QStringList({u"open 3"_s, u"ATDT (440) 555-0100;\r"_s, u"ATH\r"_s, u"close"_s}));
     QVERIFY(!control<QLabel>(*m_window, "Label3")->isVisible());
 }
 
@@ -198,12 +198,12 @@ void TestAddbkcommands::neverOpensThePortWithoutANumber()
     select(2); // no mobile phone
     click("Image2_1");
     QCOMPARE(asked(), {AddressMessages::telephoneNumberMissing()});
-    QVERIFY(m_modemLog.isEmpty());
+    QVERIFY(m_line.log.isEmpty());
 }
 
 void TestAddbkcommands::asksForAnotherPort()
 {
-    m_workingPort = 101;
+    m_line.workingPorts = {101};
     m_test->dialogs.willInput(u"101"_s);
     m_test->dialogs.willAnswer(Answer::Ok);
     m_test->dialogs.willAnswer(Answer::Ok);
@@ -212,9 +212,9 @@ void TestAddbkcommands::asksForAnotherPort()
                                       AddressMessages::numberDialed(u"440 555 0100"_s)}));
     QVERIFY(m_test->dialogs.takePrompts().contains(AddressMessages::newPortPrompt()));
     QCOMPARE(m_test->settings.number(SettingsKeys::modemPort), 101);
-    QVERIFY(m_modemLog.contains(u"ATDT 440 555 0100;\r"_s));
+    QVERIFY(m_line.log.contains(u"ATDT 440 555 0100;\r"_s));
 
-    m_workingPort = 0;
+    m_line.workingPorts.clear();
     m_test->dialogs.willInput(std::nullopt);
     click("Image2_1");
     QVERIFY(!control<QLabel>(*m_window, "Label3")->isVisible());

@@ -1,7 +1,7 @@
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/indexline.h"
-#include "addressfiles.h"
-#include "tests/storage/filesizelimit.h"
+#include "tests/addressbook/model/addressrecords.h"
+#include "tests/support/filesizelimit.h"
 
 #include <QDir>
 #include <QLoggingCategory>
@@ -48,7 +48,7 @@ private:
     QByteArray entries() const { return m_files->bytes(u"Addbk1.Fil"_s); }
     QByteArray lines() const { return m_files->bytes(u"Addbk2.Fil"_s); }
 
-    std::unique_ptr<AddressFiles> m_files;
+    std::unique_ptr<TestFolder> m_files;
 };
 
 namespace {
@@ -78,7 +78,7 @@ QStringList linesOf(const NameList &names)
 
 void TestAddressBook::init()
 {
-    m_files = std::make_unique<AddressFiles>();
+    m_files = std::make_unique<TestFolder>();
 }
 
 void TestAddressBook::loadsTheLinesThatCount()

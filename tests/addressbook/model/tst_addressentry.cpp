@@ -1,5 +1,5 @@
 #include "addressbook/model/addressentry.h"
-#include "addressfiles.h"
+#include "tests/addressbook/model/addressrecords.h"
 
 #include <QTest>
 

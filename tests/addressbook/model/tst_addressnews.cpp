@@ -1,5 +1,5 @@
 #include "addressbook/model/addressnews.h"
-#include "addressfiles.h"
+#include "tests/addressbook/model/addressrecords.h"
 
 #include <QTest>
 
@@ -20,7 +20,7 @@ private slots:
 private:
     void put(const QList<QByteArray> &entries) const;
 
-    AddressFiles m_files;
+    TestFolder m_files;
 };
 
 namespace {
@@ -100,7 +100,7 @@ void TestAddressNews::readsDatesInTheirStyle()
 
 void TestAddressNews::saysNothingOfAnEmptyFolder()
 {
-    const AddressFiles empty;
+    const TestFolder empty;
     QVERIFY(!AddressNews::liveLine(empty.folder(), DateStyle::Usa, saturday));
     QVERIFY(!QFile::exists(empty.path(u"Addbk2.Fil"_s)));
 }

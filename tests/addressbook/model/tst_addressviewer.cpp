@@ -1,6 +1,6 @@
 #include "addressbook/model/addressviewer.h"
-#include "addressfiles.h"
 #include "storage/bytecase.h"
+#include "tests/addressbook/model/addressrecords.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -82,7 +82,7 @@ QByteArray person(const QByteArray &last, const QByteArray &first, const QByteAr
 }
 
 /// Four persons in records 2 to 5.
-void putFour(const AddressFiles &files)
+void putFour(const TestFolder &files)
 {
     files.put(u"Addbk2.Fil"_s, neverWritten(60) + lineBytes(lineOf("Zabel, Ida", 2)) +
                                    lineBytes(lineOf("\xC5ngstr\xF6m, Bo", 3)) +
@@ -257,7 +257,7 @@ void TestAddressViewer::readsATypedMonth()
 
 void TestAddressViewer::followsTheLinesToTheirRecords()
 {
-    const AddressFiles files;
+    const TestFolder files;
     const QByteArray tooLong = "Featherstone-Brookfield, Louis Vera Xenia X2nd     5";
     files.put(u"Addbk2.Fil"_s, lineBytes(lineOf("In record one", 3)) + neverWritten(60) +
                                    lineBytes(lineOf("Backwards", 4)) + lineBytes(lineOf("Same again", 4)) +
@@ -280,7 +280,7 @@ void TestAddressViewer::followsTheLinesToTheirRecords()
 
 void TestAddressViewer::readsOnlyTheFirstRows()
 {
-    const AddressFiles files;
+    const TestFolder files;
     putFour(files);
     AddressViewer viewer(files.folder(), DateStyle::Usa);
     viewer.load(Information::EmailAddress, everyone, 2);
@@ -306,7 +306,7 @@ void TestAddressViewer::searchesNamesAndInformation_data()
 void TestAddressViewer::searchesNamesAndInformation()
 {
     QFETCH(QString, text);
-    const AddressFiles files;
+    const TestFolder files;
     putFour(files);
     AddressViewer viewer(files.folder(), DateStyle::Usa);
     viewer.load(Information::EmailAddress, everyone);
@@ -340,7 +340,7 @@ void TestAddressViewer::findsTextsInBytes()
 
 void TestAddressViewer::bringsARemovedRowBack()
 {
-    const AddressFiles files;
+    const TestFolder files;
     putFour(files);
     AddressViewer viewer(files.folder(), DateStyle::Usa);
     viewer.load(Information::EmailAddress, everyone);
@@ -372,7 +372,7 @@ void TestAddressViewer::sortsAndReturnsToRecordOrder()
     QFETCH(Information, information);
     QFETCH(Column, column);
     QFETCH(bool, descending);
-    const AddressFiles files;
+    const TestFolder files;
     putFour(files);
     AddressViewer viewer(files.folder(), DateStyle::Usa);
     viewer.load(information, everyone);
@@ -392,7 +392,7 @@ void TestAddressViewer::sortsAndReturnsToRecordOrder()
 
 void TestAddressViewer::handsOutTheEntriesShown()
 {
-    const AddressFiles files;
+    const TestFolder files;
     putFour(files);
     AddressViewer viewer(files.folder(), DateStyle::Usa);
     viewer.load(Information::State, everyone);
@@ -429,7 +429,7 @@ void TestAddressViewer::survivesBadFiles()
 {
     QFETCH(QByteArray, index);
     QFETCH(QByteArray, entries);
-    const AddressFiles files;
+    const TestFolder files;
     files.put(u"Addbk2.Fil"_s, index);
     files.put(u"Addbk1.Fil"_s, entries);
     AddressViewer viewer(files.folder(), DateStyle::Other);
@@ -458,7 +458,7 @@ void TestAddressViewer::makesNoFiles()
 {
     QFETCH(QString, folder);
     QFETCH(int, rows);
-    const AddressFiles files;
+    const TestFolder files;
     if (rows > 0) {
         putFour(files);
         QVERIFY(QFile::remove(files.folder().filePath(folder)));
@@ -477,7 +477,7 @@ void TestAddressViewer::makesNoFiles()
 
 void TestAddressViewer::staysCompact()
 {
-    const AddressFiles files;
+    const TestFolder files;
     QByteArray lines = neverWritten(60), entries = neverWritten(724);
     for (int record = 2; record < 3000; ++record) {
         lines += lineBytes(lineOf("Whitlock, Elisabeth", record));

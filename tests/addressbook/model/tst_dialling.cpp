@@ -1,13 +1,47 @@
 #include "addressbook/model/dialling.h"
 #include "addressbook/model/messages.h"
-#include "addressfiles.h"
 #include "shell/core/settings.h"
+#include "tests/support/scriptedmodem.h"
+#include "tests/support/testfiles.h"
 
 #include <QTest>
 
 #include <deque>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The desk of a call: its turns stand in the log of the line, among those of the modem.
+class ScriptedDesk final : public CallDesk
+{
+public:
+    explicit ScriptedDesk(TelephoneLine &line)
+        : m_log(line.log)
+    {}
+    std::deque<std::optional<QString>> answers;
+    Answer closesWith = Answer::Ok;
+
+    void setDialing(bool isDialing) override { m_log << (isDialing ? u"show"_s : u"hide"_s); }
+    Answer ask(const Message &message) override
+    {
+        m_log << message.text.section(u'\n', 0, 0);
+        return closesWith;
+    }
+    std::optional<QString> askPort(const QString &prompt, int current) override
+    {
+        m_log << prompt + u" [%1]"_s.arg(current);
+        const auto answer = answers.empty() ? std::nullopt : answers.front();
+        if (!answers.empty())
+            answers.pop_front();
+        return answer;
+    }
+
+private:
+    QStringList &m_log;
+};
+
+} // namespace
 
 class TestDialling : public QObject
 {
@@ -28,58 +62,25 @@ private slots:
     void sendsNoCommandOfItsOwn();
 
 private:
-    std::unique_ptr<AddressFiles> m_files;
+    Dialling::Outcome call(ScriptedDesk &desk, const QString &number = u"555"_s);
+
+    std::unique_ptr<TestFolder> m_files;
     std::unique_ptr<Settings> m_settings;
+    TelephoneLine m_line;
 };
-
-namespace {
-
-/// Modem and desk in one, so that their turns stand in one record.
-class Telephone final : public Modem, public CallDesk
-{
-public:
-    QStringList record;
-    QList<int> workingPorts{1};
-    std::deque<std::optional<QString>> answers;
-    QStringList offered;
-    bool takesText = true;
-    Answer closesWith = Answer::Ok;
-
-    bool open(int port) override
-    {
-        record << u"open %1"_s.arg(port);
-        return workingPorts.contains(port);
-    }
-    bool write(QByteArrayView text) override
-    {
-        record << u"send "_s + QString::fromLatin1(text).replace(u'\r', u"<CR>"_s);
-        return takesText;
-    }
-    void close() override { record << u"close"_s; }
-    QStringList ports() const override { return offered; }
-
-    void setDialing(bool isDialing) override { record << (isDialing ? u"show"_s : u"hide"_s); }
-    Answer ask(const Message &message) override
-    {
-        record << message.text.section(u'\n', 0, 0);
-        return closesWith;
-    }
-    std::optional<QString> askPort(const QString &prompt, int current) override
-    {
-        record << prompt + u" [%1]"_s.arg(current);
-        const auto answer = answers.empty() ? std::nullopt : answers.front();
-        if (!answers.empty())
-            answers.pop_front();
-        return answer;
-    }
-};
-
-} // namespace
 
 void TestDialling::init()
 {
-    m_files = std::make_unique<AddressFiles>();
+    m_files = std::make_unique<TestFolder>();
     m_settings = std::make_unique<Settings>(m_files->folder());
+    m_line = {};
+    m_line.workingPorts = {1};
+}
+
+Dialling::Outcome TestDialling::call(ScriptedDesk &desk, const QString &number)
+{
+    ScriptedModem modem(m_line);
+    return Dialling::call(number, modem, *m_settings, desk);
 }
 
 void TestDialling::dialsAndHangsUp_data()
@@ -92,13 +93,12 @@ void TestDialling::dialsAndHangsUp_data()
 void TestDialling::dialsAndHangsUp()
 {
     QFETCH(Answer, answer);
-    Telephone telephone;
-    telephone.closesWith = answer;
-    QCOMPARE(Dialling::call(u"(440) 555-0100"_s, telephone, *m_settings, telephone),
-             Dialling::Outcome::Called);
-    QCOMPARE(telephone.record,
-             (QStringList{u"show"_s, u"open 1"_s, u"send ATDT (440) 555-0100;<CR>"_s,
-                          u"Number Dialed: (440) 555-0100"_s, u"send ATH<CR>"_s, u"close"_s, u"hide"_s}));
+    ScriptedDesk desk(m_line);
+    desk.closesWith = answer;
+    QCOMPARE(call(desk, u"(440) 555-0100"_s), Dialling::Outcome::Called);
+    QCOMPARE(m_line.log,
+             (QStringList{u"show"_s, u"open 1"_s, u"ATDT (440) 555-0100;\r"_s,
+                          u"Number Dialed: (440) 555-0100"_s, u"ATH\r"_s, u"close"_s, u"hide"_s}));
 }
 
 void TestDialling::neverOpensThePortWithoutANumber_data()
@@ -112,9 +112,9 @@ void TestDialling::neverOpensThePortWithoutANumber_data()
 void TestDialling::neverOpensThePortWithoutANumber()
 {
     QFETCH(QString, number);
-    Telephone telephone;
-    QCOMPARE(Dialling::call(number, telephone, *m_settings, telephone), Dialling::Outcome::NoNumber);
-    QCOMPARE(telephone.record, QStringList{u"Please Enter a Valid Telephone Number!"_s});
+    ScriptedDesk desk(m_line);
+    QCOMPARE(call(desk, number), Dialling::Outcome::NoNumber);
+    QCOMPARE(m_line.log, QStringList{u"Please Enter a Valid Telephone Number!"_s});
 }
 
 void TestDialling::takesThePortFromTheSettings_data()
@@ -140,46 +140,45 @@ void TestDialling::takesThePortFromTheSettings()
 void TestDialling::asksForAnotherPort()
 {
     m_files->put(u"GColor1.Fil"_s, QByteArray(24 * 20, 'x') + QByteArray("\3\0tail", 6));
-    Telephone telephone;
-    telephone.workingPorts = {258};
-    telephone.answers = {u"4"_s, u" 258 "_s};
-    telephone.offered = {u"258: ttyUSB0"_s};
-    QCOMPARE(Dialling::call(u"555"_s, telephone, *m_settings, telephone), Dialling::Outcome::Called);
+    ScriptedDesk desk(m_line);
+    m_line.workingPorts = {258};
+    desk.answers = {u"4"_s, u" 258 "_s};
+    m_line.offeredPorts = {u"258: ttyUSB0"_s};
+    QCOMPARE(call(desk), Dialling::Outcome::Called);
     const QString prompt = u"ENTER NEW PORT NUMBER BELOW:\n258: ttyUSB0"_s;
-    QCOMPARE(telephone.record,
+    QCOMPARE(m_line.log,
              (QStringList{u"show"_s, u"open 3"_s, u"CommPort is currently set at: 3"_s, prompt + u" [3]",
                           u"open 4"_s, u"CommPort is currently set at: 4"_s, prompt + u" [4]", u"open 258"_s,
-                          u"send ATDT 555;<CR>"_s, u"Number Dialed: 555"_s, u"send ATH<CR>"_s, u"close"_s,
-                          u"hide"_s}));
+                          u"ATDT 555;\r"_s, u"Number Dialed: 555"_s, u"ATH\r"_s, u"close"_s, u"hide"_s}));
     QCOMPARE(m_files->bytes(u"GColor1.Fil"_s), QByteArray(24 * 20, 'x') + QByteArray("\2\1tail", 6));
 }
 
 void TestDialling::asksAgainForWhatIsNoPort()
 {
-    Telephone telephone;
-    telephone.workingPorts = {2};
-    telephone.answers = {QString(), u"COM2"_s, u"0"_s, u"-2"_s, u"32768"_s, u"99999999999"_s, u"2"_s};
-    QCOMPARE(Dialling::call(u"555"_s, telephone, *m_settings, telephone), Dialling::Outcome::Called);
-    QCOMPARE(telephone.record.filter(u"open"_s), (QStringList{u"open 1"_s, u"open 2"_s}));
+    ScriptedDesk desk(m_line);
+    m_line.workingPorts = {2};
+    desk.answers = {QString(), u"COM2"_s, u"0"_s, u"-2"_s, u"32768"_s, u"99999999999"_s, u"2"_s};
+    QCOMPARE(call(desk), Dialling::Outcome::Called);
+    QCOMPARE(m_line.log.filter(u"open"_s), (QStringList{u"open 1"_s, u"open 2"_s}));
     QCOMPARE(Dialling::port(*m_settings), 2);
 }
 
 void TestDialling::givesUpWhenThePersonDoes()
 {
-    Telephone telephone;
-    telephone.workingPorts.clear();
-    QCOMPARE(Dialling::call(u"555"_s, telephone, *m_settings, telephone), Dialling::Outcome::NoPort);
-    QCOMPARE(telephone.record, (QStringList{u"show"_s, u"open 1"_s, u"CommPort is currently set at: 1"_s,
-                                            u"ENTER NEW PORT NUMBER BELOW: [1]"_s, u"hide"_s}));
+    ScriptedDesk desk(m_line);
+    m_line.workingPorts.clear();
+    QCOMPARE(call(desk), Dialling::Outcome::NoPort);
+    QCOMPARE(m_line.log, (QStringList{u"show"_s, u"open 1"_s, u"CommPort is currently set at: 1"_s,
+                                      u"ENTER NEW PORT NUMBER BELOW: [1]"_s, u"hide"_s}));
     QCOMPARE(m_files->bytes(u"GColor1.Fil"_s), QByteArray());
 }
 
 void TestDialling::aLineThatTakesNothingIsNoPort()
 {
-    Telephone telephone;
-    telephone.takesText = false;
-    QCOMPARE(Dialling::call(u"555"_s, telephone, *m_settings, telephone), Dialling::Outcome::NoPort);
-    QCOMPARE(telephone.record.mid(1, 3), (QStringList{u"open 1"_s, u"send ATDT 555;<CR>"_s, u"close"_s}));
+    ScriptedDesk desk(m_line);
+    m_line.takesText = false;
+    QCOMPARE(call(desk), Dialling::Outcome::NoPort);
+    QCOMPARE(m_line.log.mid(1, 3), (QStringList{u"open 1"_s, u"ATDT 555;\r"_s, u"close"_s}));
 }
 
 void TestDialling::sendsNoCommandOfItsOwn()

@@ -1,8 +1,8 @@
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/addressnews.h"
 #include "addressbook/model/indexline.h"
-#include "addressfiles.h"
 #include "shell/pictures/picturefolder.h"
+#include "tests/addressbook/model/addressrecords.h"
 
 #include <QDir>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 #include "addressbook/model/addressviewer.h"
 #include "addressbook/model/labelsheet.h"
-#include "addressfiles.h"
+#include "tests/addressbook/model/addressrecords.h"
 
 #include <QTest>
 
@@ -159,7 +159,7 @@ void TestLabelSheet::sharesLabelsByAddress_data()
 
 void TestLabelSheet::sharesLabelsByAddress()
 {
-    const AddressFiles files;
+    const TestFolder files;
     QByteArray lines = neverWritten(60), entries = neverWritten(724);
     const auto add = [&](const QByteArray &first, const QByteArray &street, const QByteArray &flat) {
         const int record = int(lines.size() / 60) + 1;

@@ -1,6 +1,6 @@
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/model/viewerpages.h"
-#include "addressfiles.h"
+#include "tests/addressbook/model/addressrecords.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -34,7 +34,7 @@ private slots:
     void namesTheExport();
 
 private:
-    std::unique_ptr<AddressFiles> m_files;
+    std::unique_ptr<TestFolder> m_files;
     std::unique_ptr<AddressViewer> m_viewer;
 };
 
@@ -70,7 +70,7 @@ std::vector<ListedPicture> pictures(int count)
 
 void TestViewerPages::init()
 {
-    m_files = std::make_unique<AddressFiles>();
+    m_files = std::make_unique<TestFolder>();
     m_files->put(u"Addbk2.Fil"_s, neverWritten(60) + lineBytes(lineOf("Lind, Anne", 2)) +
                                       lineBytes(lineOf("M\xFCller, Karl", 3)) +
                                       lineBytes(lineOf("Holm, Mats", 4)));

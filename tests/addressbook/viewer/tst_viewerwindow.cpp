@@ -8,6 +8,7 @@
 #include "shell/core/area.h"
 #include "shell/core/settingskeys.h"
 #include "shell/preview/previewpane.h"
+#include "tests/support/scriptedmodem.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>
@@ -24,33 +25,6 @@
 #include <QSpinBox>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-/// A modem that writes down what it is told.
-class NotedModem final : public Modem
-{
-public:
-    explicit NotedModem(QStringList &log)
-        : m_log(log)
-    {}
-    bool open(int port) override
-    {
-        m_log << u"open "_s + QString::number(port);
-        return true;
-    }
-    bool write(QByteArrayView text) override
-    {
-        m_log << QString::fromLatin1(text);
-        return true;
-    }
-    void close() override { m_log << u"close"_s; }
-
-private:
-    QStringList &m_log;
-};
-
-} // namespace
 
 class TestAddbkdisplay : public QObject
 {
@@ -113,14 +87,14 @@ private:
 
     std::unique_ptr<TestProgram> m_test;
     QPointer<ADDBKDISPLAY> m_window;
-    QStringList m_modem;
+    TelephoneLine m_line;
     QList<QUrl> m_mail;
 };
 
 void TestAddbkdisplay::init()
 {
     m_test = std::make_unique<TestProgram>(TestProgram::Household);
-    m_modem.clear();
+    m_line = {};
     m_mail.clear();
 }
 
@@ -136,7 +110,7 @@ void TestAddbkdisplay::open(TestProgram::Content content)
     if (content == TestProgram::Empty)
         m_test = std::make_unique<TestProgram>(TestProgram::Empty);
     m_window = new ADDBKDISPLAY(m_test->program, nullptr,
-                                {[this] { return std::make_unique<NotedModem>(m_modem); },
+                                {[this] { return std::make_unique<ScriptedModem>(m_line); },
                                  [this](const QUrl &url) {
                                      m_mail << url;
                                      return true;
@@ -403,7 +377,7 @@ void TestAddbkdisplay::dialsTheHighlightedNumber()
     grid()->setCurrentIndex(grid()->model()->index(0, 1));
     m_test->dialogs.willAnswer(Answer::Ok);
     click("Image2");
-    QCOMPARE(m_modem, QStringList({u"open 3"_s, u"ATDT (440) 555-0100;\r"_s, u"ATH\r"_s, u"close"_s}));
+    QCOMPARE(m_line.log, QStringList({u"open 3"_s, u"ATDT (440) 555-0100;\r"_s, u"ATH\r"_s, u"close"_s}));
     QCOMPARE(m_test->dialogs.takeShown(), {AddressMessages::numberDialed(u"(440) 555-0100"_s)});
 }
 
@@ -418,7 +392,7 @@ void TestAddbkdisplay::neverOpensThePortWithoutANumber()
     grid()->setCurrentIndex(grid()->model()->index(row, 1));
     click("Image2");
     QCOMPARE(m_test->dialogs.takeShown(), {AddressMessages::telephoneNumberMissing()});
-    QVERIFY(m_modem.isEmpty());
+    QVERIFY(m_line.log.isEmpty());
 }
 
 void TestAddbkdisplay::opensTheMailProgram()

@@ -1,6 +1,7 @@
 #include "planner/model/calendaroptions.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannerfiles.h"
+#include "tests/support/plannerdays.h"
 #include "tests/support/testprogram.h"
 
 #include <QJsonArray>
@@ -10,16 +11,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-PlannerDay dayOf(const QList<std::pair<QString, QString>> &rows)
-{
-    PlannerDay day;
-    for (qsizetype i = 0; i < rows.size(); ++i) {
-        day.times[std::size_t(i)] = rows[i].first;
-        day.texts[std::size_t(i)] = rows[i].second;
-    }
-    return day;
-}
 
 QStringList rowsOf(const PlannerDay &day)
 {

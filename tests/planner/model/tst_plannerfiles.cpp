@@ -2,7 +2,7 @@
 #include "planner/model/plannernews.h"
 #include "planner/model/plannersearch.h"
 #include "planner/model/recurrencerun.h"
-#include "tests/storage/filesizelimit.h"
+#include "tests/support/filesizelimit.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>

@@ -16,10 +16,10 @@ PlannerPages::Paper paperOf(PageSetup::Orientation orientation, DateStyle style 
     return paper;
 }
 
-PlannerDay dayOf(int entries)
+PlannerDay numberedEntries(int count)
 {
     PlannerDay day;
-    for (int row = 0; row < entries; ++row) {
+    for (int row = 0; row < count; ++row) {
         day.times[std::size_t(row)] = u"%1:30 PM"_s.arg(row % 12 + 1);
         day.texts[std::size_t(row)] = u"entry %1"_s.arg(row + 1);
     }
@@ -96,14 +96,14 @@ void TestPlannerPages::sharesTheLinesOfAPlace()
     QFETCH(int, entries);
     QFETCH(int, characters);
     QFETCH(int, capacity);
-    const auto shares = DayLines(dayOf(entries)).share(characters, capacity);
+    const auto shares = DayLines(numberedEntries(entries)).share(characters, capacity);
     QTEST(QList<int>(shares.begin(), shares.end()), "shares");
 }
 
 void TestPlannerPages::listsADay()
 {
     const QDate date(2026, 11, 21);
-    const Page page = PlannerPages::day(date, dayOf(2), paperOf(PageSetup::Portrait));
+    const Page page = PlannerPages::day(date, numberedEntries(2), paperOf(PageSetup::Portrait));
     QCOMPARE(linesOf(page),
              (QStringList{u"Saturday, November 21, 2026\tPersonal Planner"_s,
                           u"Time\tAppointment or activity"_s, u"1:30 PM\tentry 1"_s, u"2:30 PM\tentry 2"_s}));
@@ -115,7 +115,8 @@ void TestPlannerPages::listsADay()
 
 void TestPlannerPages::listsAnUprightWeek()
 {
-    const PlannerPages::Days days{{QDate(2026, 11, 17), dayOf(2)}, {QDate(2026, 11, 22), dayOf(1)}};
+    const PlannerPages::Days days{{QDate(2026, 11, 17), numberedEntries(2)},
+                                  {QDate(2026, 11, 22), numberedEntries(1)}};
     const QDate start = PlannerPages::weekStart(QDate(2026, 11, 21), Qt::Monday);
     QCOMPARE(start, QDate(2026, 11, 16));
     QCOMPARE(linesOf(PlannerPages::week(start, days, paperOf(PageSetup::Portrait))),
@@ -127,7 +128,7 @@ void TestPlannerPages::listsAnUprightWeek()
 
 void TestPlannerPages::cutsNothingOfACrowdedWeek()
 {
-    PlannerDay day = dayOf(14);
+    PlannerDay day = numberedEntries(14);
     const QDate start(2026, 11, 16);
     const auto asBlocks = [&] {
         return linesOf(PlannerPages::week(start, {{start, day}}, paperOf(PageSetup::Landscape)))
@@ -141,8 +142,8 @@ void TestPlannerPages::cutsNothingOfACrowdedWeek()
 
 void TestPlannerPages::drawsAMonthAsACalendar()
 {
-    PlannerDay crowded = dayOf(14);
-    const PlannerPages::Days days{{QDate(2026, 2, 28), crowded}, {QDate(2026, 3, 1), dayOf(1)}};
+    PlannerDay crowded = numberedEntries(14);
+    const PlannerPages::Days days{{QDate(2026, 2, 28), crowded}, {QDate(2026, 3, 1), numberedEntries(1)}};
     const Page page = PlannerPages::month(QDate(2026, 2, 10), days, paperOf(PageSetup::Landscape));
     const QStringList lines = linesOf(page);
     QCOMPARE(lines.first(), u"February 2026\tPersonal Planner"_s);
@@ -160,10 +161,10 @@ void TestPlannerPages::drawsAMonthAsACalendar()
 
 void TestPlannerPages::listsARangeOfDates()
 {
-    const PlannerPages::Days days{{QDate(2026, 10, 31), dayOf(1)},
-                                  {QDate(2026, 11, 2), dayOf(2)},
+    const PlannerPages::Days days{{QDate(2026, 10, 31), numberedEntries(1)},
+                                  {QDate(2026, 11, 2), numberedEntries(2)},
                                   {QDate(2026, 11, 3), {}},
-                                  {QDate(2026, 11, 30), dayOf(1)}};
+                                  {QDate(2026, 11, 30), numberedEntries(1)}};
     const auto lines = [&](QDate from, QDate to) {
         return linesOf(PlannerPages::range(from, to, days, paperOf(PageSetup::Portrait))).mid(2);
     };

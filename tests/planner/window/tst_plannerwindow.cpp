@@ -5,6 +5,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/area.h"
+#include "tests/support/plannerdays.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>
@@ -22,16 +23,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QDate today(2026, 11, 21);
-
-PlannerDay dayOf(const QList<std::pair<QString, QString>> &rows)
-{
-    PlannerDay day;
-    for (qsizetype i = 0; i < rows.size(); ++i) {
-        day.times[std::size_t(i)] = rows[i].first;
-        day.texts[std::size_t(i)] = rows[i].second;
-    }
-    return day;
-}
 
 /// The planner open on 21 November 2026.
 class Screen

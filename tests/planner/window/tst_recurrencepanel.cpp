@@ -6,7 +6,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/controls/monthview.h"
-#include "tests/storage/filesizelimit.h"
+#include "tests/support/filesizelimit.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

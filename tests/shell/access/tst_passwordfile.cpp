@@ -1,5 +1,5 @@
 #include "shell/access/passwordfile.h"
-#include "tests/storage/filesizelimit.h"
+#include "tests/support/filesizelimit.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
-#include "tests/addressbook/model/addressfiles.h"
 #include "shell/pictures/picturefolder.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QTest>
@@ -11,7 +11,7 @@ class TestPictureFolder : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { m_files = std::make_unique<AddressFiles>(); }
+    void init() { m_files = std::make_unique<TestFolder>(); }
     void startsWhereItWasLast_data();
     void startsWhereItWasLast();
     void remembersAFolderAsOneLine();
@@ -24,7 +24,7 @@ private slots:
 private:
     PictureFolder pictures() const { return PictureFolder(m_files->folder()); }
 
-    std::unique_ptr<AddressFiles> m_files;
+    std::unique_ptr<TestFolder> m_files;
 };
 
 void TestPictureFolder::startsWhereItWasLast_data()
@@ -99,7 +99,7 @@ void TestPictureFolder::findsWhatAStoredPathMeans()
 
 void TestPictureFolder::prefersThePathAsItStands()
 {
-    const AddressFiles elsewhere;
+    const TestFolder elsewhere;
     elsewhere.put(u"a.jpg"_s, "a");
     m_files->put(u"a.jpg"_s, "b");
     QCOMPARE(pictures().locate(elsewhere.path(u"a.jpg"_s)), elsewhere.path(u"a.jpg"_s));

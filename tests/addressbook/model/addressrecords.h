@@ -1,30 +1,8 @@
 #pragma once
 
-#include "storage/datafolder.h"
-#include "tests/storage/testfiles.h"
-
-#include <QTemporaryDir>
+#include "tests/support/testfiles.h"
 
 #include <initializer_list>
-
-/// A data folder of its own, with bytes put in and taken out by hand.
-class AddressFiles
-{
-public:
-    QString path(const QString &name) const { return m_dir.filePath(name); }
-    QByteArray bytes(const QString &name) const { return contentOf(path(name)); }
-    void put(const QString &name, const QByteArray &content) const { QVERIFY(makeFile(path(name), content)); }
-    const DataFolder &folder() const { return m_folder; }
-
-private:
-    QTemporaryDir m_dir;
-    DataFolder m_folder{m_dir.path()};
-};
-
-inline QByteArray padded(const QByteArray &text, qsizetype width)
-{
-    return text + QByteArray(width - text.size(), ' ');
-}
 
 /// A record of Addbk1.Fil: the first texts given, the rest blank.
 inline QByteArray entryBytes(std::initializer_list<QByteArray> texts, const QByteArray &picture = "**")

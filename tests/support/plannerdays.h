@@ -1,0 +1,16 @@
+#pragma once
+
+#include "planner/model/plannerday.h"
+
+#include <QList>
+
+/// A day with these times and texts, from its first row on.
+inline PlannerDay dayOf(const QList<std::pair<QString, QString>> &rows)
+{
+    PlannerDay day;
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        day.times[std::size_t(i)] = rows[i].first;
+        day.texts[std::size_t(i)] = rows[i].second;
+    }
+    return day;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "storage/datafolder.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+inline QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline bool makeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+/// `text`, blanks up to `width`.
+inline QByteArray padded(const QByteArray &text, qsizetype width)
+{
+    return text + QByteArray(width - text.size(), ' ');
+}
+
+/// A data folder of its own, with bytes put in and taken out by hand.
+class TestFolder
+{
+public:
+    QString path(const QString &name) const { return m_dir.filePath(name); }
+    QByteArray bytes(const QString &name) const { return contentOf(path(name)); }
+    void put(const QString &name, const QByteArray &content) const { QVERIFY(makeFile(path(name), content)); }
+    const DataFolder &folder() const { return m_folder; }
+
+private:
+    QTemporaryDir m_dir;
+    DataFolder m_folder{m_dir.path()};
+};
+
+/// The test fails unless the log gets a line that matches `pattern`.
+inline void expectWarning(const char *pattern)
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QString::fromLatin1(pattern)));
+}
