@@ -13,6 +13,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/pictures/enlargedpicture.h"
 #include "shell/pictures/pictureframe.h"
 
 #include <QApplication>
@@ -275,9 +276,9 @@ void ADDBKVIEW::takePicture(const QString &path)
 
 void ADDBKVIEW::enlargePicture()
 {
-    m_enlarged->setPicture(m_pictures.locate(m_picture));
-    showPage(m_enlargedPage);
-    m_enlargedPage->setFocus();
+    m_enlarged->enlarge(m_picture);
+    showPage(m_enlarged);
+    m_enlarged->setFocus();
 }
 
 void ADDBKVIEW::dial(const QString &number)

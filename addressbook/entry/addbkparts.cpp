@@ -13,11 +13,12 @@
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/datepicker.h"
+#include "shell/controls/emptypage.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
-#include "shell/pictures/pictureframe.h"
+#include "shell/pictures/enlargedpicture.h"
 
 #include <QAction>
 #include <QLabel>
@@ -128,10 +129,11 @@ QWidget *ADDBKVIEW::makeWorkPanel()
     layout->addWidget(m_pages);
     m_entryPage = makeEntryPage();
     m_emptyPage = makeEmptyPage();
-    m_enlargedPage = makeEnlargedPage();
+    m_enlarged = new EnlargedPicture(program().folder, u"pictureNormal"_s, u"Normal"_s);
+    connect(m_enlarged, &EnlargedPicture::left, this, &ADDBKVIEW::leavePanel);
     m_picturePanel = named(new PicturePanel(program()), u"picturePanel"_s);
     m_printOptions = named(new PrintOptions, u"printOptions"_s);
-    for (QWidget *page : std::initializer_list<QWidget *>{m_entryPage, m_emptyPage, m_enlargedPage,
+    for (QWidget *page : std::initializer_list<QWidget *>{m_entryPage, m_emptyPage, m_enlarged,
                                                           m_picturePanel, m_printOptions})
         m_pages->addWidget(page);
     return panel;
@@ -169,55 +171,14 @@ QWidget *ADDBKVIEW::makeEntryPage()
 
 QWidget *ADDBKVIEW::makeEmptyPage()
 {
-    auto *page = new QWidget;
-    QVBoxLayout *layout = pageLayout(page);
-    auto *sign = new QLabel(page);
-    sign->setPixmap(Icons::pixmap("address-book"_L1, Theme::of(this).scheme, 72, devicePixelRatioF()));
-    auto *sentence = new QLabel(u"Nobody is in the address book yet"_s, page);
-    sentence->setFont(TypeScale::emptyTitle());
-    QLabel *line = makeQuietLabel(u"Type the first entry, or take in addresses you already have."_s, page);
-    line->setFont(TypeScale::body());
+    auto *page = new EmptyPage("address-book"_L1, u"Nobody is in the address book yet"_s,
+                               u"Type the first entry, or take in addresses you already have."_s);
     QPushButton *start = makeButton(u"emptyEntryScreen"_s, u"E&ntry Screen"_s, page, ButtonKind::Main);
     connect(start, &QPushButton::clicked, this, &ADDBKVIEW::startEntry);
-    page->setFocusProxy(start);
     m_restoreButton = makeButton(u"emptyRestore"_s, u"&Restore Files from Disk"_s, page);
     connect(m_restoreButton, &QPushButton::clicked, this, &ADDBKVIEW::openBackup);
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(12);
-    buttons->addStretch(1);
-    buttons->addWidget(start);
-    buttons->addWidget(m_restoreButton);
-    buttons->addStretch(1);
-    layout->addStretch(1);
-    for (QLabel *label : {sign, sentence, line}) {
-        label->setAlignment(Qt::AlignCenter);
-        label->setWordWrap(label != sign);
-        layout->addWidget(label);
-    }
-    layout->addSpacing(4);
-    layout->addLayout(buttons);
-    layout->addStretch(1);
-    return page;
-}
-
-QWidget *ADDBKVIEW::makeEnlargedPage()
-{
-    auto *page = new QWidget;
-    QVBoxLayout *layout = pageLayout(page);
-    m_enlarged = named(new PictureFrame(page), u"enlargedPicture"_s);
-    m_enlarged->setAlignment(Qt::AlignCenter);
-    m_enlarged->setGreatestStretch(12);
-    m_enlarged->setAccessibleName(u"Picture, enlarged"_s);
-    QPushButton *normal = makeButton(u"pictureNormal"_s, u"Normal"_s, page, ButtonKind::Main);
-    normal->setIcon(Icons::tinted("zoom-out"_L1, Theme::of(this).scheme, Theme::of(this).onAccent));
-    connect(normal, &QPushButton::clicked, this, &ADDBKVIEW::leavePanel);
-    page->setFocusProxy(normal);
-    auto *foot = new QHBoxLayout;
-    foot->addStretch(1);
-    foot->addWidget(normal);
-    layout->addWidget(m_enlarged, 1);
-    layout->addWidget(makeLine(page));
-    layout->addLayout(foot);
+    page->addButton(start);
+    page->addButton(m_restoreButton);
     return page;
 }
 

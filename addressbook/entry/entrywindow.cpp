@@ -10,6 +10,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/pictures/enlargedpicture.h"
 #include "shell/pictures/pictureframe.h"
 
 #include <QItemSelectionModel>
@@ -120,7 +121,7 @@ void ADDBKVIEW::showPage(QWidget *page)
 
 void ADDBKVIEW::leavePanel()
 {
-    const bool wasEnlarged = m_pages->currentWidget() == m_enlargedPage;
+    const bool wasEnlarged = m_pages->currentWidget() == m_enlarged;
     showPage(isEmptyShown() ? m_emptyPage : m_entryPage);
     if (wasEnlarged && m_form->enlargeButton()->isVisible())
         m_form->enlargeButton()->setFocus();

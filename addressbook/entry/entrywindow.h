@@ -11,9 +11,9 @@
 class AddressForm;
 class ButtonRow;
 class ElidedLabel;
+class EnlargedPicture;
 class NameListModel;
 class NameListView;
-class PictureFrame;
 class PicturePanel;
 class PrintOptions;
 class QLabel;
@@ -58,7 +58,6 @@ private:
     QWidget *makeWorkPanel();
     QWidget *makeEntryPage();
     QWidget *makeEmptyPage();
-    QWidget *makeEnlargedPage();
     QWidget *makeButtonRow();
     void makeMenus();
     void makeOptionsMenu();
@@ -146,8 +145,7 @@ private:
     QStackedWidget *m_pages = nullptr;
     QWidget *m_entryPage = nullptr;
     QWidget *m_emptyPage = nullptr;
-    QWidget *m_enlargedPage = nullptr;
-    PictureFrame *m_enlarged = nullptr;
+    EnlargedPicture *m_enlarged = nullptr;
     PicturePanel *m_picturePanel = nullptr;
     PrintOptions *m_printOptions = nullptr;
     ElidedLabel *m_title = nullptr;

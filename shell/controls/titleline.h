@@ -17,6 +17,7 @@ public:
 
     void setTitle(const QString &title);
     QString title() const;
+    ElidedLabel *label() const { return m_title; }
 
     /// Puts a chip behind the title; it is shown once it has a text.
     QLabel *addChip(const QString &name);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QPushButton;
+
+/// What stands in the place of a view that has nothing to show yet: a sign, a sentence, a quiet line, and the
+/// buttons that lead on.
+class EmptyPage final : public QWidget
+{
+    Q_OBJECT
+public:
+    EmptyPage(QLatin1StringView icon, const QString &sentence, const QString &line,
+              QWidget *parent = nullptr);
+
+    /// The first one is the main button and takes the focus; there should be at most one other.
+    void addButton(QPushButton *button);
+
+private:
+    QHBoxLayout *m_buttons;
+};
