@@ -14,7 +14,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenuBar>
+#include <QMenu>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -69,10 +69,10 @@ Form31::Form31(Program &program, PasswordCost cost, std::chrono::milliseconds st
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(16);
     m_pane = new PasswordPane(m_file, step, work);
+    makeMenus();
     row->addWidget(makePasswordPanel());
     row->addWidget(makeAreasPanel(), 1);
     setWork(work);
-    makeMenus();
     connectPane();
     finishFrame();
     refresh();
@@ -82,28 +82,22 @@ Form31::Form31(Program &program, PasswordCost cost, std::chrono::milliseconds st
 
 void Form31::makeMenus()
 {
-    QAction *color = makeAction(u"mOC"_s, u"Panel C&olor"_s, this);
-    m_saveAction = makeAction(u"mOSave"_s, u"&Save"_s, this);
-    QAction *printing = makeAction(u"mOPrt"_s, u"&Print"_s, this);
-    QAction *leaving = makeAction(u"mOEx"_s, u"E&xit"_s, this);
-    QAction *help = makeAction(u"mHPage"_s, u"&Password Control"_s, this);
-    connect(color, &QAction::triggered, this, [this] { colors().choosePanelColor(); });
-    connect(m_saveAction, &QAction::triggered, this, &Form31::save);
-    connect(printing, &QAction::triggered, this, &Form31::print);
-    connect(leaving, &QAction::triggered, this, &QWidget::close);
-    connect(help, &QAction::triggered, this,
-            [this] { emit program().changes.helpRequested(HelpContext::PasswordControl); });
-
-    QMenu *options = named(menuBar()->addMenu(u"&Options"_s), u"mO"_s);
-    options->addActions({color, m_saveAction, printing});
+    QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
+    options->addAction(standard(Standard::PanelColor));
+    m_saveAction = commands().add(
+        options, u"mOSave"_s, u"&Save"_s, [this] { save(); },
+        [this] { return isModified() ? QString() : PasswordMessages::nothingToSave(); });
+    QAction *printing = commands().add(options, u"mOPrt"_s, u"&Print"_s, [this] { print(); });
     options->addSeparator();
-    options->addAction(leaving);
-    named(menuBar()->addMenu(u"&Help"_s), u"mH"_s)->addAction(help);
+    options->addAction(standard(Standard::Exit));
+    QAction *help =
+        commands().add(addMenu(u"mH"_s, u"&Help"_s), u"mHPage"_s, u"&Password Control"_s,
+                       [this] { emit program().changes.helpRequested(HelpContext::PasswordControl); });
 
-    addTool(printing, "print"_L1, u"Print"_s);
-    addToolSeparator();
-    addTool(color, "palette"_L1, u"Panel Color"_s);
-    addTool(help, "help"_L1, u"Help"_s);
+    commands().tool(printing, "print"_L1, u"Print"_s);
+    commands().separateTools();
+    addStandardTool(Standard::PanelColor);
+    commands().tool(help, "help"_L1, u"Help"_s);
 }
 
 QWidget *Form31::makePasswordPanel()
@@ -181,10 +175,8 @@ QWidget *Form31::makeFoot()
     rows->addWidget(makeLine(foot));
     rows->addLayout(row);
     m_unsaved = named(makeQuietLabel(u"Unsaved changes"_s, foot), u"unsavedWords"_s);
-    m_saveButton = makeButton(u"Command1"_s, u"&Save"_s, foot, ButtonKind::Main);
-    QPushButton *leave = makeButton(u"Command2"_s, u"E&xit"_s, foot);
-    connect(m_saveButton, &QPushButton::clicked, this, &Form31::save);
-    connect(leave, &QPushButton::clicked, this, &QWidget::close);
+    m_saveButton = commands().button(m_saveAction, u"Command1"_s, u"&Save"_s, foot, ButtonKind::Main);
+    QPushButton *leave = commands().button(standard(Standard::Exit), u"Command2"_s, u"E&xit"_s, foot);
     row->addStretch();
     row->addWidget(m_unsaved);
     row->addSpacing(8);
@@ -235,11 +227,8 @@ void Form31::loadMarks()
 
 void Form31::marksChanged()
 {
-    const bool changed = isModified();
-    m_unsaved->setVisible(changed);
-    const QString reason = changed ? QString() : PasswordMessages::nothingToSave();
-    setUnavailable(m_saveButton, reason);
-    setUnavailable(m_saveAction, reason);
+    m_unsaved->setVisible(isModified());
+    commands().refresh();
 }
 
 bool Form31::isModified() const
@@ -277,19 +266,9 @@ bool Form31::save()
     return true;
 }
 
-bool Form31::mayDiscard()
+Message Form31::leaveQuestion() const
 {
-    if (!isModified())
-        return true;
-    switch (ask(PasswordMessages::saveChanges())) {
-    case Answer::Yes:
-        return save();
-    case Answer::No:
-        loadMarks();
-        return true;
-    default:
-        return false;
-    }
+    return PasswordMessages::saveChanges();
 }
 
 void Form31::tellDamage()
@@ -300,11 +279,9 @@ void Form31::tellDamage()
 
 void Form31::print()
 {
-    showPreview([this](const PageSetup &setup) { return page(setup); }, PasswordMessages::title());
-}
-
-Page Form31::page(const PageSetup &) const
-{
-    return passwordPage(m_file.state() == PasswordFile::State::Set, shownAreas(), clock().today(),
-                        program().state.dateStyle);
+    const auto page = [this](const PageSetup &) {
+        return passwordPage(m_file.state() == PasswordFile::State::Set, shownAreas(), clock().today(),
+                            program().state.dateStyle);
+    };
+    showPreview(page, PasswordMessages::title());
 }

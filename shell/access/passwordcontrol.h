@@ -24,8 +24,9 @@ public:
     bool isModified() const override;
 
 protected:
-    Page page(const PageSetup &setup) const override;
-    bool mayDiscard() override;
+    bool save() override;
+    void drop() override { loadMarks(); }
+    Message leaveQuestion() const override;
 
 private:
     void makeMenus();
@@ -38,7 +39,6 @@ private:
     void refresh();
     void loadMarks();
     void marksChanged();
-    bool save();
     void tellDamage();
     void print();
 
@@ -50,6 +50,6 @@ private:
     PasswordPane *m_pane = nullptr;
     std::array<QCheckBox *, ProtectedAreas::count> m_marks{};
     QLabel *m_unsaved = nullptr;
-    QPushButton *m_saveButton = nullptr;
     QAction *m_saveAction = nullptr;
+    QPushButton *m_saveButton = nullptr;
 };

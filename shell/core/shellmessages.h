@@ -130,6 +130,11 @@ inline QString stillBusy()
     return QStringLiteral("This window closes when the work under way has ended");
 }
 
+inline QString backupNotThere()
+{
+    return QStringLiteral("Backup is not part of this edition yet");
+}
+
 inline QString settingNotSaved()
 {
     return QStringLiteral("The setting could not be saved");

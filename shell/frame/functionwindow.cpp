@@ -4,7 +4,9 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/shellmessages.h"
+#include "shell/frame/sidesplitter.h"
 #include "shell/frame/toolbars.h"
+#include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "shell/preview/previewpane.h"
 
@@ -40,6 +42,7 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     , m_activity(new ActivityBar(program.clock, program.state.dateStyle, this))
     , m_colors(new PanelColors(program, m_traits.colors, this, *m_activity))
     , m_toolbar(named(new FlowToolBar(Qt::Horizontal, this), u"toolbar"_s))
+    , m_commands(new Commands(this))
     , m_stack(new QStackedWidget(this))
 {
     setObjectName(m_traits.name);
@@ -85,6 +88,33 @@ bool FunctionWindow::mayLeave()
     return m_leaveAgreed;
 }
 
+bool FunctionWindow::mayReplace(const Message &question)
+{
+    if (!isModified())
+        return true;
+    Message asked = question;
+    if (qApp->isSavingSession())
+        asked.answers.removeAll(Answer::Cancel);
+    switch (ask(asked)) {
+    case Answer::Yes:
+        return save();
+    case Answer::No:
+        drop();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void FunctionWindow::setBusy(bool busy)
+{
+    m_busy = busy;
+    menuBar()->setEnabled(!busy);
+    m_toolbar->setEnabled(!busy);
+    if (m_sideSplitter)
+        m_sideSplitter->side()->setEnabled(!busy);
+}
+
 void FunctionWindow::showPreview(std::function<Page(const PageSetup &)> builder, const QString &jobName)
 {
     if (!isPreviewShown())
@@ -100,6 +130,7 @@ void FunctionWindow::showPreview(std::function<Page(const PageSetup &)> builder,
     };
     pane.show(headed, jobName);
     pane.setFocus();
+    m_commands->refresh();
 }
 
 void FunctionWindow::closePreview()
@@ -109,6 +140,7 @@ void FunctionWindow::closePreview()
     m_stack->setCurrentIndex(0);
     if (m_focusBeforePreview)
         m_focusBeforePreview->setFocus();
+    m_commands->refresh();
     previewClosed();
 }
 
@@ -135,6 +167,18 @@ void FunctionWindow::setWork(QWidget *work)
     m_workPlace->addWidget(work);
 }
 
+void FunctionWindow::setWork(SideSplitter *splitter)
+{
+    m_sideSplitter = splitter;
+    setWork(static_cast<QWidget *>(splitter));
+}
+
+void FunctionWindow::setViews(WorkViews *views)
+{
+    m_views = views;
+    connect(views, &WorkViews::changed, m_commands, &Commands::refresh);
+}
+
 QWidget *FunctionWindow::makePanel(const QString &name)
 {
     auto *panel = named(new PanelFrame(this), name);
@@ -148,6 +192,65 @@ void FunctionWindow::rememberSplitter(QSplitter *splitter)
     connect(splitter, &QSplitter::splitterMoved, this, [this, splitter] { m_placed.insert(splitter); });
     splitter->setHandleWidth(windowMargin);
     splitter->setChildrenCollapsible(false);
+}
+
+QAction *FunctionWindow::standard(Standard command)
+{
+    if (const auto made = m_standard.find(command); made != m_standard.end())
+        return made->second;
+    const auto add = [this, command](const QString &name, const QString &caption, std::function<void()> run,
+                                     Commands::Reason unless = {}) {
+        return m_standard[command] =
+                   m_commands->add(nullptr, name, caption, std::move(run), std::move(unless));
+    };
+    const auto openBackup = [this] { m_program.functions.open(Function::Backup, m_program); };
+    const auto noBackup = [this] {
+        return m_program.functions.has(Function::Backup) ? QString() : ShellMessages::backupNotThere();
+    };
+    switch (command) {
+    case Standard::PanelColor:
+        return add(u"mOC"_s, u"Panel C&olor"_s, [this] { m_colors->choosePanelColor(); });
+    case Standard::TextColor:
+        return add(u"mOTC"_s, u"&Text Color"_s, [this] { m_colors->chooseTextColor(); });
+    case Standard::Backup:
+        return add(u"mUB"_s, u"&Backup Files to Disk"_s, openBackup, noBackup);
+    case Standard::Restore:
+        return add(u"mUR"_s, u"&Restore Files from Disk"_s, openBackup, noBackup);
+    case Standard::Help:
+        return add(u"mH"_s, u"&Help"_s,
+                   [this] { emit m_program.changes.helpRequested(m_traits.helpContext); });
+    case Standard::Exit:
+        return add(u"mOEx"_s, u"E&xit"_s, [this] { close(); });
+    }
+    Q_UNREACHABLE();
+}
+
+void FunctionWindow::addStandardTool(Standard command, const QString &name)
+{
+    QAction *action = standard(command);
+    switch (command) {
+    case Standard::PanelColor:
+        m_commands->tool(action, "palette"_L1, u"Panel Color"_s, name);
+        break;
+    case Standard::Backup:
+        m_commands->tool(action, "backup-command"_L1, u"Backup"_s, name);
+        break;
+    case Standard::Help:
+        m_commands->tool(action, "help"_L1, u"Help"_s, name.isEmpty() ? u"toolHelp"_s : name);
+        break;
+    default:
+        Q_UNREACHABLE(); // no toolbar has it
+    }
+}
+
+void FunctionWindow::addUtilitiesMenu()
+{
+    addMenu(u"mU"_s, u"&Utilities"_s)->addActions({standard(Standard::Backup), standard(Standard::Restore)});
+}
+
+void FunctionWindow::addHelpEntry()
+{
+    menuBar()->addAction(standard(Standard::Help));
 }
 
 QMenu *FunctionWindow::addMenu(const QString &name, const QString &caption)
@@ -170,35 +273,33 @@ QAction *FunctionWindow::addEntry(QMenu *menu, const QString &name, const QStrin
 
 void FunctionWindow::addTool(QAction *action, QLatin1StringView icon, const QString &text)
 {
-    action->setIcon(Icons::icon(icon, Theme::of(this).scheme));
-    action->setIconVisibleInMenu(false);
-    action->setIconText(text);
-    m_tools.append(action);
-    m_toolNames.append(action->objectName());
+    m_commands->tool(action, icon, text);
 }
 
 void FunctionWindow::addToolSeparator()
 {
-    m_toolNames.append(QString::fromLatin1(ToolbarLayout::separatorName));
+    m_commands->separateTools();
 }
 
 void FunctionWindow::addMainMenuTool()
 {
-    QAction *mainMenu = makeAction(u"mainMenu"_s, u"Main Menu"_s, this);
+    QAction *mainMenu = m_commands->add(nullptr, u"mainMenu"_s, u"Main Menu"_s,
+                                        [this] { emit m_program.changes.mainMenuRequested(); });
     mainMenu->setToolTip(u"Brings the main menu to the front"_s);
-    connect(mainMenu, &QAction::triggered, &m_program.changes, &ProgramSignals::mainMenuRequested);
-    addTool(mainMenu, "home"_L1, u"Main Menu"_s);
-    addToolSeparator();
+    m_commands->tool(mainMenu, "home"_L1, u"Main Menu"_s);
+    m_commands->separateTools();
 }
 
 void FunctionWindow::finishFrame()
 {
-    m_toolbarLayout =
-        new ToolbarLayout(m_program, m_toolbar, u"Toolbar1"_s + m_traits.name, m_tools, m_toolNames);
+    m_toolbarLayout = new ToolbarLayout(m_program, m_toolbar, u"Toolbar1"_s + m_traits.name,
+                                        m_commands->tools(), m_commands->toolNames());
     m_toolbarLayout->restore();
     showTopToolbar();
     m_colors->load();
     restoreGeometryOnScreen();
+    if (m_sideSplitter)
+        m_sideSplitter->restore(m_program.store, storeKey(m_sideSplitter->objectName()));
     for (QSplitter *splitter : std::as_const(m_splitters)) {
         const QByteArray place = m_program.store.value(storeKey(splitter->objectName())).toByteArray();
         if (splitter->restoreState(place))
@@ -220,6 +321,8 @@ void FunctionWindow::closeEvent(QCloseEvent *event)
         else
             m_program.store.remove(storeKey(splitter->objectName()));
     }
+    if (m_sideSplitter)
+        m_sideSplitter->save(m_program.store, storeKey(m_sideSplitter->objectName()));
     event->accept();
 }
 
@@ -228,7 +331,7 @@ void FunctionWindow::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
         if (isPreviewShown())
             closePreview();
-        else
+        else if (!m_views || !m_views->leave())
             close();
     } else if (event->key() == Qt::Key_F1) {
         emit m_program.changes.helpRequested(m_traits.helpContext);

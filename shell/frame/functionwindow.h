@@ -3,6 +3,7 @@
 #include "shell/core/message.h"
 #include "shell/core/page.h"
 #include "shell/core/settingskeys.h"
+#include "shell/frame/commands.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/program/program.h"
 
@@ -12,6 +13,8 @@
 #include <QPointer>
 #include <QSet>
 
+#include <map>
+
 class ActivityBar;
 class FlowToolBar;
 class PreviewPane;
@@ -19,7 +22,9 @@ class QMenu;
 class QSplitter;
 class QStackedWidget;
 class QVBoxLayout;
+class SideSplitter;
 class ToolbarLayout;
+class WorkViews;
 
 /// How a window of a function differs from the others in its frame.
 struct WindowTraits {
@@ -30,6 +35,16 @@ struct WindowTraits {
     int helpContext = 0; ///< page of the manual that F1 opens
     TextSetting topToolbar = SettingsKeys::topToolbar;
     QSize openingSize{1280, 800};
+};
+
+/// The commands that every window has, by their given names and captions.
+enum class Standard {
+    PanelColor, ///< mOC
+    TextColor,  ///< mOTC
+    Backup,     ///< mUB
+    Restore,    ///< mUR
+    Help,       ///< mH
+    Exit        ///< mOEx
 };
 
 /// The frame of a function window: menu bar, one toolbar, the work area, the page preview in its place when a
@@ -56,9 +71,19 @@ public:
 
 protected:
     /// What this window prints, as it stands now.
-    virtual Page page(const PageSetup &setup) const = 0;
+    virtual Page page(const PageSetup &) const { return Page(); }
+    /// Writes what was typed. False: refused, and the user was told.
+    virtual bool save() { return true; }
+    /// The user wants what the files have.
+    virtual void drop() {}
+    /// The question in front of leaving; only asked while the window is modified.
+    virtual Message leaveQuestion() const { return {}; }
+    /// Before something takes the place of unsaved work: Yes saves, No drops, Cancel stays. At the end of a
+    /// desktop session nobody can go back, and there is no Cancel. False: the user stays.
+    bool mayReplace(const Message &question);
+
     /// Asks about unsaved data and saves or drops it. False: the user stays.
-    virtual bool mayDiscard() { return true; }
+    virtual bool mayDiscard() { return mayReplace(leaveQuestion()); }
     /// Called when the work comes back from the preview.
     virtual void previewClosed() {}
 
@@ -69,8 +94,24 @@ protected:
     PanelColors &colors() const { return *m_colors; }
     PreviewPane &preview();
 
+    Commands &commands() const { return *m_commands; }
+    /// A command that every window has; made when first asked for. Backup and restore say when there is none
+    /// in this program.
+    QAction *standard(Standard command);
+    /// The same on the toolbar, with its icon and word; a name makes it a tool of its own.
+    void addStandardTool(Standard command, const QString &name = {});
+    /// The "Utilities" menu: backup and restore.
+    void addUtilitiesMenu();
+    /// "Help" at the end of the menu bar.
+    void addHelpEntry();
+
     /// The widget that fills the window between toolbar and status bar (margin 16 is added around it).
     void setWork(QWidget *work);
+    /// The same with a side pane; while the window is busy, that cannot be used.
+    void setWork(SideSplitter *splitter);
+    /// The views in the work panel: Esc leaves what stands over their home before it leaves the window. Call
+    /// when they are complete.
+    void setViews(WorkViews *views);
     /// A panel: rounded, coloured by the user's panel colour, registered with `colors()`.
     QWidget *makePanel(const QString &name);
     /// The splitter's place (its object name tells it from others) is remembered.
@@ -104,8 +145,10 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
-    /// A long walk is under way: the window does not close.
-    void setBusy(bool busy) { m_busy = busy; }
+    /// A long walk is under way: the window does not close, and neither menus nor toolbar nor side pane can
+    /// be used.
+    void setBusy(bool busy);
+    bool isBusy() const { return m_busy; }
 
 private:
     void addMainMenuTool();
@@ -123,12 +166,14 @@ private:
     ActivityBar *m_activity;
     PanelColors *m_colors;
     FlowToolBar *m_toolbar;
+    Commands *m_commands;
     QStackedWidget *m_stack;
     QVBoxLayout *m_workPlace;
     ToolbarLayout *m_toolbarLayout = nullptr;
     PreviewPane *m_preview = nullptr; ///< made when first asked for
-    QList<QAction *> m_tools;
-    QStringList m_toolNames; ///< of `m_tools` and the separators between them
+    std::map<Standard, QAction *> m_standard;
+    SideSplitter *m_sideSplitter = nullptr;
+    WorkViews *m_views = nullptr;
     QList<QSplitter *> m_splitters;
     QSet<const QSplitter *> m_placed;
     QPointer<QWidget> m_focusBeforePreview;

@@ -3,6 +3,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/sidesplitter.h"
 #include "shell/look/theme.h"
 #include "shell/manual/helpentry.h"
 #include "shell/manual/manualbrowser.h"
@@ -12,8 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenuBar>
-#include <QSplitter>
+#include <QMenu>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -46,24 +46,17 @@ HelpViewer::HelpViewer(Program &program, QWidget *parent)
     , m_manual(program.folder.path())
 {
     setAttribute(Qt::WA_DeleteOnClose, false);
-    auto *splitter = named(new QSplitter(this), u"contentsSplitter"_s);
-    splitter->addWidget(makeContents());
-    splitter->addWidget(makePagePanel());
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({contentsWidth, 1});
-    rememberSplitter(splitter);
-    setWork(splitter);
+    QWidget *contents = makeContents();
+    setWork(new SideSplitter(u"contentsSplitter"_s, contents, makePagePanel(),
+                             [](QSize) { return contentsWidth; }));
     makeMenus();
+    commands().refresh();
     finishFrame();
 
     // Not sourceChanged(), which comes while source() is still the page before.
     connect(m_browser, &QTextBrowser::historyChanged, this, &HelpViewer::pageShown);
-    connect(m_browser, &QTextBrowser::backwardAvailable, this, [this](bool available) {
-        setUnavailable(m_back, available ? QString() : u"No page was shown before this one."_s);
-    });
-    connect(m_browser, &QTextBrowser::forwardAvailable, this, [this](bool available) {
-        setUnavailable(m_forward, available ? QString() : u"This is the last page that was shown."_s);
-    });
+    for (const auto available : {&QTextBrowser::backwardAvailable, &QTextBrowser::forwardAvailable})
+        connect(m_browser, available, &commands(), &Commands::refresh);
     connect(m_search, &QLineEdit::textChanged, this, &HelpViewer::search);
     connect(m_search, &QLineEdit::returnPressed, this, &HelpViewer::openHit);
     connect(m_list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem *item) {
@@ -115,35 +108,38 @@ QWidget *HelpViewer::makePagePanel()
 
 void HelpViewer::makeMenus()
 {
-    m_back = makeAction(u"mGBack"_s, u"&Back"_s, this);
-    m_forward = makeAction(u"mGForward"_s, u"&Forward"_s, this);
-    m_back->setShortcut(QKeySequence::Back);
-    m_forward->setShortcut(QKeySequence::Forward);
-    setUnavailable(m_back, u"No page was shown before this one."_s);
-    setUnavailable(m_forward, u"This is the last page that was shown."_s);
-    QAction *color = makeAction(u"mOC"_s, u"Panel C&olor"_s, this);
-    QAction *printing = makeAction(u"mOPrt"_s, u"&Print"_s, this);
-    QAction *leaving = makeAction(u"mOEx"_s, u"E&xit"_s, this);
-    connect(m_back, &QAction::triggered, m_browser, &QTextBrowser::backward);
-    connect(m_forward, &QAction::triggered, m_browser, &QTextBrowser::forward);
-    connect(color, &QAction::triggered, this, [this] { colors().choosePanelColor(); });
-    connect(printing, &QAction::triggered, this, [this] {
-        showPreview([this](const PageSetup &setup) { return page(setup); },
-                    m_manual.page(currentContext()).title);
-    });
-    connect(leaving, &QAction::triggered, this, &QWidget::close);
-
-    QMenu *options = named(menuBar()->addMenu(u"&Options"_s), u"mO"_s);
-    options->addActions({color, printing});
+    QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
+    options->addAction(standard(Standard::PanelColor));
+    QAction *printing = commands().add(options, u"mOPrt"_s, u"&Print"_s, [this] { print(); });
     options->addSeparator();
-    options->addAction(leaving);
-    named(menuBar()->addMenu(u"&Go"_s), u"mG"_s)->addActions({m_back, m_forward});
+    options->addAction(standard(Standard::Exit));
+    QMenu *go = addMenu(u"mG"_s, u"&Go"_s);
+    QAction *back = commands().add(
+        go, u"mGBack"_s, u"&Back"_s, [this] { m_browser->backward(); },
+        [this] {
+            return m_browser->isBackwardAvailable() ? QString() : u"No page was shown before this one."_s;
+        },
+        QKeySequence::Back);
+    QAction *forward = commands().add(
+        go, u"mGForward"_s, u"&Forward"_s, [this] { m_browser->forward(); },
+        [this] {
+            return m_browser->isForwardAvailable() ? QString() : u"This is the last page that was shown."_s;
+        },
+        QKeySequence::Forward);
 
-    addTool(m_back, "previous"_L1, u"Back"_s);
-    addTool(m_forward, "next"_L1, u"Forward"_s);
-    addToolSeparator();
-    addTool(printing, "print"_L1, u"Print"_s);
-    addTool(color, "palette"_L1, u"Panel Color"_s);
+    commands().tool(back, "previous"_L1, u"Back"_s);
+    commands().tool(forward, "next"_L1, u"Forward"_s);
+    commands().separateTools();
+    commands().tool(printing, "print"_L1, u"Print"_s);
+    addStandardTool(Standard::PanelColor);
+}
+
+void HelpViewer::print()
+{
+    const auto page = [this](const PageSetup &) {
+        return printedManualPage(m_manual.page(currentContext()), clock().today(), program().state.dateStyle);
+    };
+    showPreview(page, m_manual.page(currentContext()).title);
 }
 
 void HelpViewer::openPage(int context)
@@ -219,11 +215,6 @@ void HelpViewer::pageShown()
 void HelpViewer::markWords()
 {
     m_browser->markWords(m_search->text().simplified().split(u' ', Qt::SkipEmptyParts));
-}
-
-Page HelpViewer::page(const PageSetup &) const
-{
-    return printedManualPage(m_manual.page(currentContext()), clock().today(), program().state.dateStyle);
 }
 
 void HelpViewer::keyPressEvent(QKeyEvent *event)

@@ -23,13 +23,13 @@ public:
     int currentContext() const;
 
 protected:
-    Page page(const PageSetup &setup) const override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QWidget *makeContents();
     QWidget *makePagePanel();
     void makeMenus();
+    void print();
 
     void showContents();
     void search();
@@ -42,6 +42,4 @@ private:
     QListWidget *m_list = nullptr;
     QLabel *m_count = nullptr;
     ManualBrowser *m_browser = nullptr;
-    QAction *m_back = nullptr;
-    QAction *m_forward = nullptr;
 };

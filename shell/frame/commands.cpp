@@ -1,0 +1,103 @@
+#include "shell/frame/commands.h"
+
+#include "shell/frame/toolbars.h"
+#include "shell/look/theme.h"
+
+#include <QMenu>
+
+#include <algorithm>
+#include <utility>
+
+Commands::Commands(QWidget *window)
+    : QObject(window)
+    , m_window(window)
+{}
+
+QAction *Commands::add(QMenu *menu, const QString &name, const QString &caption, std::function<void()> run,
+                       Reason unless, const QKeySequence &shortcut)
+{
+    QAction *action = makeAction(name, caption, m_window);
+    action->setShortcut(shortcut);
+    if (menu)
+        menu->addAction(action);
+    connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
+    m_commands.push_back({action, std::move(unless), {}, {}, {}});
+    return action;
+}
+
+QAction *Commands::repeat(QAction *command, QMenu *menu, const QString &name, const QString &caption)
+{
+    QAction *twin = addTwin(find(command), name, caption);
+    menu->addAction(twin);
+    return twin;
+}
+
+QAction *Commands::tool(QAction *command, QLatin1StringView icon, const QString &word, const QString &name)
+{
+    QAction *tool = name.isEmpty() ? command : addTwin(find(command), name, {});
+    tool->setIcon(Icons::icon(icon, Theme::of(m_window).scheme));
+    tool->setIconVisibleInMenu(false);
+    tool->setIconText(word);
+    m_tools.append(tool);
+    m_toolNames.append(tool->objectName());
+    return tool;
+}
+
+void Commands::separateTools()
+{
+    m_toolNames.append(QString::fromLatin1(ToolbarLayout::separatorName));
+}
+
+QPushButton *Commands::button(QAction *command, const QString &name, const QString &caption, QWidget *parent,
+                              ButtonKind kind)
+{
+    QPushButton *button = makeButton(name, caption, parent, kind);
+    connect(button, &QPushButton::clicked, command, &QAction::trigger);
+    Command &its = find(command);
+    its.buttons.push_back(button);
+    if (caption == command->text())
+        its.sameCaption.push_back(button);
+    return button;
+}
+
+void Commands::setCaption(QAction *command, const QString &caption)
+{
+    command->setText(caption);
+    for (QObject *shown : find(command).sameCaption)
+        shown->setProperty("text", caption);
+}
+
+void Commands::refresh()
+{
+    for (const Command &command : m_commands)
+        show(command);
+}
+
+void Commands::show(const Command &command)
+{
+    if (!command.unless)
+        return;
+    const QString reason = command.unless();
+    setUnavailable(command.action, reason);
+    for (QAction *twin : command.twins)
+        setUnavailable(twin, reason);
+    for (QPushButton *button : command.buttons)
+        setUnavailable(button, reason);
+}
+
+Commands::Command &Commands::find(const QAction *action)
+{
+    const auto found = std::ranges::find(m_commands, action, &Command::action);
+    Q_ASSERT_X(found != m_commands.end(), "Commands", "an action that is no command of this window");
+    return *found;
+}
+
+QAction *Commands::addTwin(Command &command, const QString &name, const QString &caption)
+{
+    QAction *twin = makeAction(name, caption.isEmpty() ? command.action->text() : caption, m_window);
+    connect(twin, &QAction::triggered, command.action, &QAction::trigger);
+    command.twins.push_back(twin);
+    if (caption.isEmpty())
+        command.sameCaption.push_back(twin);
+    return twin;
+}

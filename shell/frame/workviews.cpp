@@ -1,0 +1,56 @@
+#include "shell/frame/workviews.h"
+
+WorkViews::WorkViews(QWidget *parent)
+    : QStackedWidget(parent)
+{
+    connect(this, &QStackedWidget::currentChanged, this, [this] { emit changed(currentWidget()); });
+}
+
+void WorkViews::addHome(QWidget *home)
+{
+    m_homes.append(home);
+    if (!m_home)
+        m_home = home;
+    addWidget(home);
+}
+
+void WorkViews::addView(QWidget *view)
+{
+    addWidget(view);
+}
+
+void WorkViews::setHome(QWidget *home)
+{
+    const bool wasHome = m_homes.contains(currentWidget());
+    m_home = home;
+    if (wasHome)
+        setCurrentWidget(home);
+}
+
+void WorkViews::open(QWidget *view)
+{
+    if (isHome() && view != m_home)
+        m_focusAtHome = window()->focusWidget();
+    setCurrentWidget(view);
+}
+
+void WorkViews::goHome()
+{
+    if (isHome())
+        return;
+    setCurrentWidget(m_home);
+    QWidget *before = m_focusAtHome;
+    m_focusAtHome = nullptr;
+    if (before && before->isVisible() && before->isEnabled())
+        before->setFocus();
+    else
+        m_home->setFocus();
+}
+
+bool WorkViews::leave()
+{
+    if (isHome())
+        return false;
+    goHome();
+    return true;
+}
