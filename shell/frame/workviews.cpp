@@ -1,5 +1,7 @@
 #include "shell/frame/workviews.h"
 
+#include "shell/controls/taskpanel.h"
+
 WorkViews::WorkViews(QWidget *parent)
     : QStackedWidget(parent)
 {
@@ -17,6 +19,12 @@ void WorkViews::addHome(QWidget *home)
 void WorkViews::addView(QWidget *view)
 {
     addWidget(view);
+}
+
+void WorkViews::addPanel(TaskPanel *panel)
+{
+    addWidget(panel);
+    connect(panel, &TaskPanel::left, this, &WorkViews::goHome);
 }
 
 void WorkViews::setHome(QWidget *home)
@@ -51,6 +59,9 @@ bool WorkViews::leave()
 {
     if (isHome())
         return false;
-    goHome();
+    if (auto *panel = qobject_cast<TaskPanel *>(currentWidget()))
+        panel->leave();
+    else
+        goHome();
     return true;
 }

@@ -17,6 +17,8 @@ public:
     void addHome(QWidget *home);
     /// A view that stands over the home until it is left.
     void addView(QWidget *view);
+    /// A view that says itself when it is left, and may refuse.
+    void addPanel(TaskPanel *panel);
 
     QWidget *home() const { return m_home; }
     /// The view that the others give way to from now on; it is shown where another home was.
@@ -28,7 +30,8 @@ public:
     void open(QWidget *view);
     /// Back to the home; the focus returns to where it was when another view took its place.
     void goHome();
-    /// What Esc does: leaves what stands over the home. False where nothing does.
+    /// What Esc does: leaves what stands over the home, if that lets itself be left. False where nothing
+    /// does.
     bool leave();
 
 signals:
