@@ -90,9 +90,9 @@ void Form31::makeMenus()
     QAction *printing = commands().add(options, u"mOPrt"_s, u"&Print"_s, [this] { print(); });
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
-    QAction *help =
-        commands().add(addMenu(u"mH"_s, u"&Help"_s), u"mHPage"_s, u"&Password Control"_s,
-                       [this] { emit program().changes.helpRequested(HelpContext::PasswordControl); });
+    QAction *help = commands().add(addMenu(u"mH"_s, u"&Help"_s), u"mHPage"_s, u"&Password Control"_s, [this] {
+        emit program().changes.helpRequested(HelpContext::PasswordControl);
+    });
 
     commands().tool(printing, "print"_L1, u"Print"_s);
     commands().separateTools();
