@@ -17,6 +17,10 @@ function(quillery_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC quillery_options ${ARG_LINK})
+    # Looks for Q_OBJECT anew when a file has come or gone, which the build alone would not notice.
+    set(list "${CMAKE_CURRENT_BINARY_DIR}/${name}.sources")
+    file(CONFIGURE OUTPUT "${list}" CONTENT "${ARG_SOURCES}")
+    set_target_properties(${name} PROPERTIES AUTOGEN_TARGET_DEPENDS "${list}")
 endfunction()
 
 # quillery_room(NAME LINK target... [MODEL unit... MODEL_LINK target...]): the library quillery_NAME of this folder. The
