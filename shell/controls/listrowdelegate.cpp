@@ -4,8 +4,11 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QEvent>
+#include <QHeaderView>
 #include <QListView>
 #include <QPainter>
+#include <QTableView>
 
 #include <algorithm>
 
@@ -14,8 +17,6 @@ namespace {
 constexpr int leastHeight = 33;
 constexpr int inset = 8;
 constexpr int footGap = 6;
-/// Rim and padding of a view, above and below its rows together.
-constexpr int viewFrame = 8;
 
 } // namespace
 
@@ -72,6 +73,23 @@ void setListRows(QAbstractItemView *view)
         list->setUniformItemSizes(true);
 }
 
+void setGridRows(QTableView *view)
+{
+    view->setItemDelegate(new ListRowDelegate(view));
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setSelectionMode(QAbstractItemView::SingleSelection);
+    view->setAlternatingRowColors(true);
+    view->setShowGrid(false);
+    view->setTabKeyNavigation(false);
+    view->setWordWrap(false);
+    view->verticalHeader()->hide();
+    view->verticalHeader()->setDefaultSectionSize(ListRowDelegate::rowHeight());
+    view->horizontalHeader()->setFixedHeight(ListRowDelegate::rowHeight());
+    view->horizontalHeader()->setStretchLastSection(true);
+    view->horizontalHeader()->setSectionsClickable(false);
+    view->horizontalHeader()->setHighlightSections(false);
+}
+
 WholeRows::WholeRows(QAbstractItemView *view, QWidget *foot, QWidget *parent)
     : QWidget(parent)
     , m_view(view)
@@ -86,21 +104,49 @@ WholeRows::WholeRows(QAbstractItemView *view, QWidget *foot, QWidget *parent)
 
 QSize WholeRows::sizeHint() const
 {
-    return {m_view->sizeHint().width(), 8 * ListRowDelegate::rowHeight() + viewFrame + footHeight()};
+    return {m_view->sizeHint().width(), 8 * rowHeight() + aroundRows() + footHeight()};
 }
 
 QSize WholeRows::minimumSizeHint() const
 {
-    return {m_view->minimumSizeHint().width(), 3 * ListRowDelegate::rowHeight() + viewFrame + footHeight()};
+    return {std::max(m_view->minimumSizeHint().width(), m_view->minimumWidth()),
+            3 * rowHeight() + aroundRows() + footHeight()};
+}
+
+bool WholeRows::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest) { // the foot has other words
+        updateGeometry();
+        place();
+    }
+    return QWidget::event(event);
 }
 
 void WholeRows::resizeEvent(QResizeEvent *)
 {
-    const int row = ListRowDelegate::rowHeight();
-    const int rows = std::max(1, (height() - footHeight() - viewFrame) / row);
-    m_view->setGeometry(0, 0, width(), rows * row + viewFrame);
+    place();
+}
+
+void WholeRows::place()
+{
+    const int rows = std::max(1, (height() - footHeight() - aroundRows()) / rowHeight());
+    m_view->setGeometry(0, 0, width(), rows * rowHeight() + aroundRows());
     if (m_foot)
         m_foot->setGeometry(0, m_view->height() + footGap, width(), m_foot->sizeHint().height());
+}
+
+int WholeRows::rowHeight() const
+{
+    const auto *table = qobject_cast<const QTableView *>(m_view);
+    return table ? table->verticalHeader()->defaultSectionSize() : ListRowDelegate::rowHeight();
+}
+
+/// Rim and padding of the view, and the head of a table.
+int WholeRows::aroundRows() const
+{
+    m_view->ensurePolished(); // the sheet of the application sets the padding
+    const auto *table = qobject_cast<const QTableView *>(m_view);
+    return 2 * m_view->frameWidth() + (table ? table->horizontalHeader()->height() : 0);
 }
 
 int WholeRows::footHeight() const

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class QAbstractItemView;
+class QTableView;
 
 /// Rows of a list: 33 pixels high or what the font needs, words 8 pixels from the edge, hover in the soft
 /// fill.
@@ -23,7 +24,11 @@ public:
 /// Gives a list the program's rows: the delegate, alternate rows, no grid, hover.
 void setListRows(QAbstractItemView *view);
 
-/// Holds a list at a height of whole rows; `foot` (a count, say) stands right under it, wherever that is.
+/// Gives a table whose rows are chosen as a whole the same rows, under a head that is one row high.
+void setGridRows(QTableView *view);
+
+/// Holds a list or a table at a height of whole rows; `foot` (a count, say) stands right under it, wherever
+/// that is.
 class WholeRows final : public QWidget
 {
     Q_OBJECT
@@ -34,9 +39,13 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void place();
+    int rowHeight() const;
+    int aroundRows() const;
     int footHeight() const;
 
     QAbstractItemView *m_view;

@@ -2,6 +2,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/monthview.h"
+#include "shell/controls/rowsmodel.h"
 #include "shell/look/theme.h"
 #include "shell/program/messagebox.h"
 #include "tests/support/testprogram.h"
@@ -9,10 +10,11 @@
 #include <QAction>
 #include <QClipboard>
 #include <QHelpEvent>
-#include <QListWidget>
+#include <QListView>
 #include <QMainWindow>
 #include <QSignalSpy>
 #include <QStatusTipEvent>
+#include <QTableView>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -28,6 +30,7 @@ private slots:
     void aLockedBoxIsSkipped();
     void aDisabledControlSaysWhy();
     void requiredFollowsTheInkOfItsPanel();
+    void aListShowsWholeRows_data();
     void aListShowsWholeRows();
     void theBarKeepsActivityAndMessageApart();
     void theClockShowsTheProgramsTime();
@@ -118,18 +121,37 @@ void TestControls::requiredFollowsTheInkOfItsPanel()
     QCOMPARE(box.palette().color(QPalette::PlaceholderText), Theme::light().quiet);
 }
 
+void TestControls::aListShowsWholeRows_data()
+{
+    QTest::addColumn<bool>("isTable");
+    QTest::newRow("list") << false;
+    QTest::newRow("table") << true;
+}
+
 void TestControls::aListShowsWholeRows()
 {
-    auto *list = new QListWidget;
-    setListRows(list);
-    for (int i = 0; i < 50; ++i)
-        list->addItem(QString::number(i));
-    WholeRows rows(list);
+    QFETCH(const bool, isTable);
+    QAbstractItemView *view = nullptr;
+    RowsModel<int> numbers(
+        {{u"Number"_s, Qt::AlignRight, [](int number) { return QString::number(number); }}});
+    numbers.setRows(std::vector<int>(50, 7));
+    if (isTable) {
+        auto *table = new QTableView;
+        setGridRows(table);
+        view = table;
+    } else {
+        view = new QListView;
+        setListRows(view);
+    }
+    view->setModel(&numbers);
+    auto *count = new QLabel(u"50 numbers"_s);
+    WholeRows rows(view, count);
     rows.show();
     for (const int height : {200, 333, 480}) {
         rows.resize(200, height);
-        QCOMPARE(list->viewport()->height() % ListRowDelegate::rowHeight(), 0);
-        QVERIFY(list->height() <= height && list->height() > height - ListRowDelegate::rowHeight());
+        QCOMPARE(view->viewport()->height() % ListRowDelegate::rowHeight(), 0);
+        const int bottom = count->geometry().bottom();
+        QVERIFY(bottom < height && bottom >= height - ListRowDelegate::rowHeight());
     }
 }
 
