@@ -20,7 +20,6 @@ namespace {
 
 constexpr int rowGap = 12;
 constexpr int boxGap = 14;
-constexpr int labelGap = 3;
 constexpr int columnGap = 28;
 /// Boxes are never wider than this.
 constexpr int greatestWidth = 640;
@@ -37,15 +36,6 @@ constexpr std::array<QLatin1StringView, AddressFieldCount> captions{
     "Fax Number:"_L1, "Email Address:"_L1, "Anniversary Date:"_L1};
 
 constexpr QLatin1StringView dateHint("(mmm-dd-yyyy)");
-
-QVBoxLayout *field(QLabel *label, QWidget *box)
-{
-    auto *layout = new QVBoxLayout;
-    layout->setSpacing(labelGap);
-    layout->addWidget(label);
-    layout->addWidget(box);
-    return layout;
-}
 
 QHBoxLayout *row()
 {
@@ -123,11 +113,6 @@ void AddressForm::makeDialButtons()
     }
 }
 
-QLabel *AddressForm::label(AddressField field, const QString &hint) const
-{
-    return makeFieldLabel(captions[field], m_boxes[field], const_cast<AddressForm *>(this), hint);
-}
-
 QWidget *AddressForm::makeHomeColumn()
 {
     auto *column = new QWidget(this);
@@ -137,7 +122,7 @@ QWidget *AddressForm::makeHomeColumn()
     layout->setSpacing(rowGap);
     layout->addWidget(makeHeading(u"Individual and Home Address Information"_s, this));
 
-    m_lastNameLabel = label(LastName);
+    m_lastNameLabel = makeFieldLabel(captions[LastName], m_boxes[LastName], this);
     m_requiredLabel = makeFieldLabel(captions[LastName], m_boxes[LastName], this, {}, true);
     // Rich text is a little higher, and would push the box out of its row.
     m_requiredLabel->setFixedHeight(m_lastNameLabel->sizeHint().height());
@@ -145,25 +130,25 @@ QWidget *AddressForm::makeHomeColumn()
     m_nameHint->setWordWrap(true);
     m_nameHint->hide();
     QHBoxLayout *names = row();
-    QVBoxLayout *lastName = field(m_lastNameLabel, m_boxes[LastName]);
+    QVBoxLayout *lastName = labelled(m_lastNameLabel, m_boxes[LastName]);
     lastName->insertWidget(1, m_requiredLabel);
     names->addLayout(lastName, 1);
-    names->addLayout(field(label(FirstName), m_boxes[FirstName]), 1);
+    names->addLayout(labelled(captions[FirstName], m_boxes[FirstName]), 1);
     layout->addLayout(names);
     layout->addWidget(m_nameHint);
 
     m_birthFact = makeFact(u"birthFact"_s, this);
     QHBoxLayout *birth = row();
-    birth->addLayout(field(label(BirthDate, dateHint), m_boxes[BirthDate]), 1);
+    birth->addLayout(labelled(captions[BirthDate], m_boxes[BirthDate], dateHint), 1);
     birth->addWidget(m_birthFact, 1, Qt::AlignBottom);
     layout->addLayout(birth);
 
-    layout->addLayout(field(label(Address1), m_boxes[Address1]));
+    layout->addLayout(labelled(captions[Address1], m_boxes[Address1]));
     layout->addWidget(m_boxes[Address2]);
     QHBoxLayout *place = row();
-    place->addLayout(field(label(City), m_boxes[City]), 3);
-    place->addLayout(field(label(State), m_boxes[State]), 3);
-    place->addLayout(field(label(PostalCode), m_boxes[PostalCode]), 2);
+    place->addLayout(labelled(captions[City], m_boxes[City]), 3);
+    place->addLayout(labelled(captions[State], m_boxes[State]), 3);
+    place->addLayout(labelled(captions[PostalCode], m_boxes[PostalCode]), 2);
     layout->addLayout(place);
     addPhones(layout);
     layout->addStretch(1);
@@ -177,7 +162,7 @@ void AddressForm::addPhones(QVBoxLayout *column)
     for (std::size_t i = 0; i < fields.size(); ++i) {
         auto *boxAndDial = new QHBoxLayout;
         boxAndDial->setSpacing(6);
-        boxAndDial->addLayout(field(label(fields[i]), m_boxes[fields[i]]), 1);
+        boxAndDial->addLayout(labelled(captions[fields[i]], m_boxes[fields[i]]), 1);
         boxAndDial->addWidget(m_dialButtons[i], 0, Qt::AlignBottom);
         phones->addLayout(boxAndDial, 1);
     }
@@ -204,17 +189,17 @@ QWidget *AddressForm::makeOtherColumn()
     QLabel *heading = makeHeading(u"Other Important Information and Dates"_s, this);
     heading->setWordWrap(true);
     layout->addWidget(heading);
-    layout->addLayout(field(label(Fax), m_boxes[Fax]));
-    layout->addLayout(field(label(Email), m_boxes[Email]));
+    layout->addLayout(labelled(captions[Fax], m_boxes[Fax]));
+    layout->addLayout(labelled(captions[Email], m_boxes[Email]));
     m_anniversaryFact = makeFact(u"anniversaryFact"_s, this);
-    QHBoxLayout *anniversary = row();
-    anniversary->addWidget(m_boxes[AnniversaryDate], 1);
+    auto *boxAndFact = new QWidget(this);
+    auto *anniversary = new QHBoxLayout(boxAndFact);
+    anniversary->setContentsMargins(0, 0, 0, 0);
+    anniversary->setSpacing(boxGap);
+    anniversary->addWidget(m_anniversary, 1);
     anniversary->addWidget(m_anniversaryFact, 1);
-    auto *labelled = new QVBoxLayout;
-    labelled->setSpacing(labelGap);
-    labelled->addWidget(label(AnniversaryDate, dateHint));
-    labelled->addLayout(anniversary);
-    layout->addLayout(labelled);
+    layout->addLayout(
+        labelled(makeFieldLabel(captions[AnniversaryDate], m_anniversary, this, dateHint), boxAndFact));
     layout->addStretch(1);
     return column;
 }

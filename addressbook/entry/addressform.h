@@ -73,7 +73,6 @@ private:
     QWidget *makeHomeColumn();
     QWidget *makeOtherColumn();
     void addPhones(QVBoxLayout *column);
-    QLabel *label(AddressField field, const QString &hint = {}) const;
     FieldBox *makeBox(AddressField field);
     void fitPicture();
     void placeEnlargeButton();

@@ -33,15 +33,6 @@ QStringList pictureFilter()
     return u"*.bmp;*.wmf;*.emf;*.jpg;*.gif"_s.split(u';');
 }
 
-QVBoxLayout *labelled(const QString &caption, QWidget *control, QWidget *parent)
-{
-    auto *layout = new QVBoxLayout;
-    layout->setSpacing(3);
-    layout->addWidget(makeFieldLabel(caption, control, parent));
-    layout->addWidget(control, 1);
-    return layout;
-}
-
 QListWidget *makeList(const QString &name, QWidget *parent)
 {
     auto *list = named(new QListWidget(parent), name);
@@ -102,10 +93,10 @@ QWidget *PicturePanel::makeLists()
     m_fileList = makeList(u"File1"_s, this);
     auto *places = new QVBoxLayout;
     places->setSpacing(12);
-    places->addLayout(labelled(u"Drives:"_s, m_driveList, this));
-    places->addLayout(labelled(u"Folders:"_s, wholeRows(m_folderList), this), 1);
+    places->addLayout(labelled(u"Drives:"_s, m_driveList));
+    places->addLayout(labelled(u"Folders:"_s, wholeRows(m_folderList)), 1);
     layout->addLayout(places, 1);
-    layout->addLayout(labelled(u"File:"_s, wholeRows(m_fileList), this), 1);
+    layout->addLayout(labelled(u"File:"_s, wholeRows(m_fileList)), 1);
     connect(m_driveList, &QComboBox::activated, this, &PicturePanel::chooseDrive);
     connect(m_folderList, &QListWidget::itemActivated, this,
             [this](QListWidgetItem *item) { openFolder(m_folderList->row(item)); });

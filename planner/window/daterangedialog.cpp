@@ -23,11 +23,7 @@ DateRangeDialog::DateRangeDialog(QDate from, QDate to, const DateReading &readin
     for (const auto &[box, caption, date] :
          {std::tuple{m_fromBox, u"From"_s, from}, std::tuple{m_toBox, u"To"_s, to}}) {
         box->setDate(date);
-        auto *column = new QVBoxLayout;
-        column->setSpacing(3);
-        column->addWidget(makeFieldLabel(caption, box, this));
-        column->addWidget(box);
-        boxes->addLayout(column);
+        boxes->addLayout(labelled(caption, box));
     }
     QPushButton *ok = makeButton(u"rangeOk"_s, u"OK"_s, this, ButtonKind::Main);
     QPushButton *cancel = makeButton(u"rangeCancel"_s, u"Cancel"_s, this);

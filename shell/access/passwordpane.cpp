@@ -84,19 +84,16 @@ QWidget *PasswordPane::makeForm()
     m_oldPart = new QWidget(form);
     m_old = makePasswordBox(u"Text1_0"_s, m_oldPart);
     QVBoxLayout *column = makeColumn(m_oldPart);
-    column->addWidget(makeFieldLabel(u"Password until now"_s, m_old, m_oldPart));
-    column->addWidget(m_old);
+    column->addLayout(labelled(u"Password until now"_s, m_old));
 
     m_newPart = new QWidget(form);
     m_new = makePasswordBox(u"Text1_1"_s, m_newPart);
     m_repeat = makePasswordBox(u"Text1_2"_s, m_newPart);
     column = makeColumn(m_newPart);
-    column->addWidget(makeFieldLabel(u"New password"_s, m_new, m_newPart));
-    column->addWidget(m_new);
+    column->addLayout(labelled(u"New password"_s, m_new));
     column->addWidget(makeWrapped(makeQuietLabel(PasswordMessages::lengthHint(), m_newPart)));
     column->addSpacing(9);
-    column->addWidget(makeFieldLabel(u"The new password again"_s, m_repeat, m_newPart));
-    column->addWidget(m_repeat);
+    column->addLayout(labelled(u"The new password again"_s, m_repeat));
 
     m_showPasswords = named(new QCheckBox(u"Sho&w what is typed"_s, form), u"showPasswords"_s);
     m_refusal = makeWrapped(named(makeQuietLabel({}, form), u"refusal"_s));

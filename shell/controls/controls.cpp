@@ -11,10 +11,12 @@
 #include <QScrollArea>
 #include <QStyle>
 #include <QToolTip>
+#include <QVBoxLayout>
 #include <QValidator>
 #include <QVariant>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,6 +24,7 @@ namespace {
 
 constexpr int unlimited = 32767;
 constexpr double panelCorner = 10;
+constexpr int labelGap = 3;
 constexpr auto ownToolTip = "ownToolTip";
 
 /// A label above a box. Its words beside the caption take their colours from the palette, so that they follow
@@ -241,6 +244,20 @@ QLabel *makeFieldLabel(const QString &caption, QWidget *buddy, QWidget *parent, 
             buddy->setAccessibleName(QString(caption).remove(u'&'));
     }
     return label;
+}
+
+QVBoxLayout *labelled(QLabel *label, QWidget *box)
+{
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(labelGap);
+    layout->addWidget(label);
+    layout->addWidget(box);
+    return layout;
+}
+
+QVBoxLayout *labelled(const QString &caption, QWidget *box, const QString &hint)
+{
+    return labelled(makeFieldLabel(caption, box, box->parentWidget(), hint), box);
 }
 
 QLabel *makeQuietLabel(const QString &text, QWidget *parent)

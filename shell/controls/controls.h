@@ -10,6 +10,7 @@
 
 class QAction;
 class QScrollArea;
+class QVBoxLayout;
 
 /// Gives `object` its name and returns it: each name stands once, where the control is made.
 template <typename T>
@@ -99,6 +100,10 @@ QAction *makeAction(const QString &name, const QString &caption, QObject *parent
 /// A quiet label above a box, with an optional hint in the same line and the accented word "required".
 QLabel *makeFieldLabel(const QString &caption, QWidget *buddy, QWidget *parent, const QString &hint = {},
                        bool required = false);
+
+/// `box` with its label above it.
+QVBoxLayout *labelled(QLabel *label, QWidget *box);
+QVBoxLayout *labelled(const QString &caption, QWidget *box, const QString &hint = {});
 
 /// A quiet line: a hint, a count, a derived fact.
 QLabel *makeQuietLabel(const QString &text, QWidget *parent);
