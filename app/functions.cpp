@@ -1,6 +1,7 @@
 #include "app/functions.h"
 
 #include "addressbook/entry/entrywindow.h"
+#include "addressbook/model/addressbook.h"
 #include "addressbook/model/addressnews.h"
 #include "addressbook/viewer/viewerwindow.h"
 #include "planner/model/dayrecord.h"
@@ -58,9 +59,8 @@ std::optional<LiveLine> passwordNews(const Program &program, QDate)
 
 void addFunctions(FunctionCatalogue &functions, const Clock &clock)
 {
-    const QStringList addressFiles{u"Addbk1.Fil"_s, u"Addbk2.Fil"_s};
     functions.add(Function::AddressBook,
-                  {makeWindow<ADDBKVIEW>, addressNews, addressFiles, addressNotes, false});
+                  {makeWindow<ADDBKVIEW>, addressNews, AddressBook::fileNames(), addressNotes, false});
     functions.add(Function::AddressViewer, {makeWindow<ADDBKDISPLAY>, {}, {}, {}, false});
     const int year = clock.today().year();
     const QStringList yearFiles{DayRecord::yearFileName(year), DayRecord::yearFileName(year + 1)};

@@ -7,6 +7,7 @@
 #include "addressbook/model/messages.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -111,7 +112,7 @@ void ADDBKVIEW::refreshCommands()
     setUnavailable(m_pictureButton, isEntry ? QString() : unchangeable);
 
     const bool hasBackup = program().functions.has(Function::Backup);
-    const QString noBackup = hasBackup ? QString() : AddressLines::backupNotThere();
+    const QString noBackup = hasBackup ? QString() : FrameLines::backupNotThere();
     setUnavailable(m_backupAction, noBackup);
     setUnavailable(m_restoreAction, noBackup);
     setUnavailable(m_restoreButton, noBackup);

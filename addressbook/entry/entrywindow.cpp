@@ -10,6 +10,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
 #include "shell/pictures/enlargedpicture.h"
 #include "shell/pictures/pictureframe.h"
 
@@ -102,7 +103,7 @@ void ADDBKVIEW::refreshCount()
 
 void ADDBKVIEW::refreshModified()
 {
-    m_buttonRow->setWords(isModified() ? AddressLines::unsavedChanges() : QString());
+    m_buttonRow->setWords(isModified() ? FrameLines::unsavedChanges() : QString());
     refreshNameHint();
 }
 

@@ -14,6 +14,9 @@ namespace {
 constexpr qsizetype lineRecordLength = 60;
 static_assert(lineRecordLength - 2 == IndexLine::maximumLength);
 
+constexpr QLatin1StringView entriesName("Addbk1.Fil");
+constexpr QLatin1StringView indexName("Addbk2.Fil");
+
 constexpr QByteArrayView deletedName("*****");
 
 bool isDeleted(QByteArrayView record)
@@ -203,12 +206,17 @@ bool AddressBook::isOutgrownLine(int record, QStringView line, const AddressEntr
            RecordValue::decodeText(index().read(record)) == line;
 }
 
+QStringList AddressBook::fileNames()
+{
+    return {entriesName, indexName};
+}
+
 RecordFile AddressBook::entries() const
 {
-    return RecordFile(m_folder.filePath(u"Addbk1.Fil"_s), addressLayout.size());
+    return RecordFile(m_folder.filePath(entriesName), addressLayout.size());
 }
 
 RecordFile AddressBook::index() const
 {
-    return RecordFile(m_folder.filePath(u"Addbk2.Fil"_s), lineRecordLength);
+    return RecordFile(m_folder.filePath(indexName), lineRecordLength);
 }

@@ -3,8 +3,11 @@
 #include "addressbook/model/addressentry.h"
 #include "addressbook/model/namelist.h"
 #include "storage/datafolder.h"
+#include "storage/filestamp.h"
 #include "storage/openrecordfile.h"
 #include "storage/recordfile.h"
+
+#include <QStringList>
 
 #include <functional>
 
@@ -85,6 +88,10 @@ public:
 
     /// The same with the bytes of the entry: at most 724, fewer at the end of the file.
     void forEachLiveRecord(const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
+
+    /// What the two files are like now.
+    FileStamp stamp() const { return FileStamp::of(m_folder, fileNames()); }
+    static QStringList fileNames();
 
     /// The two files themselves, for readers that walk over all of them at once.
     RecordFile entries() const;

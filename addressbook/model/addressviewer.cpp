@@ -6,8 +6,6 @@
 #include "storage/openrecordfile.h"
 #include "storage/recordvalue.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -95,7 +93,7 @@ AddressViewer::AddressViewer(const DataFolder &folder, DateStyle style)
 
 void AddressViewer::load(Information information, const DisplayRange &range, int mostRows)
 {
-    m_stamp = stamp();
+    m_stamp = m_book.stamp();
     m_information = information;
     m_range = range;
     m_bytes.clear();
@@ -137,12 +135,6 @@ void AddressViewer::removeAgain(const RemovedLine &line)
     }
     if (renamed)
         renamed->isRemoved = true;
-}
-
-AddressViewer::Stamp AddressViewer::stamp() const
-{
-    const QFileInfo lines(m_book.index().path()), entries(m_book.entries().path());
-    return {{lines.lastModified(), entries.lastModified()}, {lines.size(), entries.size()}};
 }
 
 bool AddressViewer::isLongerThan(int mostRows) const

@@ -4,10 +4,8 @@
 #include "addressbook/model/dayofyear.h"
 
 #include <QByteArray>
-#include <QDateTime>
 #include <QString>
 
-#include <array>
 #include <functional>
 #include <limits>
 #include <optional>
@@ -54,7 +52,7 @@ public:
     /// Reads all the rows of the same information and range anew; rows that were removed stay away.
     void reload();
     /// Whether the files are others than at the last `load`.
-    bool isOutdated() const { return stamp() != m_stamp; }
+    bool isOutdated() const { return m_book.stamp() != m_stamp; }
     Information information() const { return m_information; }
     const DisplayRange &range() const { return m_range; }
     /// Whether a list of more than `mostRows` lines may follow.
@@ -108,14 +106,6 @@ private:
         bool isRemoved = false;
     };
 
-    /// When the two files were written, and how long they are.
-    struct Stamp {
-        std::array<QDateTime, 2> written;
-        std::array<qint64, 2> lengths{};
-        bool operator==(const Stamp &) const = default;
-    };
-    Stamp stamp() const;
-
     using RemovedLine = std::pair<int, QByteArray>; ///< its record and name
     void removeAgain(const RemovedLine &line);
     void readNames(int mostRows);
@@ -133,7 +123,7 @@ private:
 
     AddressBook m_book;
     DateStyle m_style;
-    Stamp m_stamp;
+    FileStamp m_stamp;
     Information m_information = Information::Address;
     DisplayRange m_range;
     QString m_searchText;

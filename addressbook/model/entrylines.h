@@ -28,11 +28,6 @@ inline QString deleted(const QString &names)
     return u"Deleted: "_s + names;
 }
 
-inline QString unsavedChanges()
-{
-    return u"Unsaved changes"_s;
-}
-
 inline QString pictureNotFound(const QString &stored)
 {
     return u"The picture is not there: "_s + stored;
@@ -44,11 +39,6 @@ inline QString lockedDate()
 }
 
 // Reasons.
-
-inline QString backupNotThere()
-{
-    return u"Backup is not part of this edition yet"_s;
-}
 
 inline QString chooseNameFirst()
 {

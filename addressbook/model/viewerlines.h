@@ -7,16 +7,6 @@ namespace ViewerLines {
 
 using namespace Qt::Literals::StringLiterals;
 
-inline QString firstPage()
-{
-    return u"This is the first page"_s;
-}
-
-inline QString lastPage()
-{
-    return u"This is the last page"_s;
-}
-
 inline QString noPictures()
 {
     return u"No entry has a picture"_s;
@@ -75,11 +65,6 @@ inline QString noMailProgram()
 inline QString rangeShown(bool isBirthday, const QString &month)
 {
     return (isBirthday ? u"Birthdays in "_s : u"Anniversaries in "_s) + month;
-}
-
-inline QString exported(const QString &path)
-{
-    return u"Saved as "_s + path;
 }
 
 inline QString notExported(const QString &name)

@@ -16,6 +16,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/gridview.h"
 #include "shell/core/area.h"
+#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/pictures/picturecopies.h"
 #include "storage/saving.h"
@@ -106,7 +107,7 @@ void ADDBKDISPLAY::exportRows()
     const QByteArray content = ViewerPages::exportText(m_rows->viewer(), program().state.dateStyle);
     const bool isSaved = Saving::replaceFile(program().folder, name, content);
     const QString path = QDir::toNativeSeparators(program().folder.filePath(name));
-    activity().say(isSaved ? ViewerLines::exported(path) : ViewerLines::notExported(name));
+    activity().say(isSaved ? FrameLines::savedAs(path) : ViewerLines::notExported(name));
 }
 
 Page ADDBKDISPLAY::page(const PageSetup &) const

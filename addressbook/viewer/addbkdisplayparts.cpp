@@ -1,6 +1,5 @@
 // How the viewer is put together.
 
-#include "addressbook/model/entrylines.h"
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/shared/serialmodem.h"
 #include "addressbook/viewer/addressgrid.h"
@@ -13,6 +12,7 @@
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/gridview.h"
+#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
@@ -205,7 +205,7 @@ void ADDBKDISPLAY::makeMenus()
     m_helpAction = addCommand(nullptr, u"mH"_s, u"&Help"_s, &ADDBKDISPLAY::showHelp);
     menuBar()->addAction(m_helpAction);
     const QString noBackup =
-        program().functions.has(Function::Backup) ? QString() : AddressLines::backupNotThere();
+        program().functions.has(Function::Backup) ? QString() : FrameLines::backupNotThere();
     setUnavailable(m_backupAction, noBackup);
     setUnavailable(m_restoreAction, noBackup);
 }

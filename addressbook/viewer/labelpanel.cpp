@@ -4,6 +4,7 @@
 #include "addressbook/model/viewermessages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/pages/pagetype.h"
@@ -293,8 +294,8 @@ void LabelPanel::showSheet(int index)
     m_view->setSheet(painter.get(), 0);
     m_painter = std::move(painter);
     m_pageNumber->setText(ViewerMessages::pageOf(m_index + 1, m_sheetCount));
-    setUnavailable(m_previous, m_index == 0 ? ViewerLines::firstPage() : QString());
-    setUnavailable(m_next, m_index + 1 == m_sheetCount ? ViewerLines::lastPage() : QString());
+    setUnavailable(m_previous, m_index == 0 ? FrameLines::firstPage() : QString());
+    setUnavailable(m_next, m_index + 1 == m_sheetCount ? FrameLines::lastPage() : QString());
 }
 
 bool LabelPanel::eventFilter(QObject *watched, QEvent *event)

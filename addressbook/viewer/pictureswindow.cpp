@@ -1,12 +1,12 @@
 #include "addressbook/viewer/pictureswindow.h"
 
-#include "addressbook/model/entrylines.h"
 #include "addressbook/model/viewerlines.h"
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/model/viewerpages.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
@@ -176,8 +176,8 @@ void ADDBKDISPLAY2::makeMenus()
     QAction *restore =
         addCommand(utilities, u"mUR"_s, u"&Restore Files from Disk"_s, &ADDBKDISPLAY2::openBackup);
     for (QAction *action : {backup, restore})
-        setUnavailable(action, program().functions.has(Function::Backup) ? QString()
-                                                                         : AddressLines::backupNotThere());
+        setUnavailable(action,
+                       program().functions.has(Function::Backup) ? QString() : FrameLines::backupNotThere());
     m_helpAction = addCommand(nullptr, u"mH"_s, u"&Help"_s, &ADDBKDISPLAY2::showHelp);
     menuBar()->addAction(m_helpAction);
 
@@ -229,8 +229,8 @@ void ADDBKDISPLAY2::showPage(int page)
         return;
     m_page = page;
     m_pageNumber->setText(ViewerMessages::pageOf(page + 1, pageCount()));
-    setUnavailable(m_previous, page == 0 ? ViewerLines::firstPage() : QString());
-    setUnavailable(m_next, page + 1 == pageCount() ? ViewerLines::lastPage() : QString());
+    setUnavailable(m_previous, page == 0 ? FrameLines::firstPage() : QString());
+    setUnavailable(m_next, page + 1 == pageCount() ? FrameLines::lastPage() : QString());
     const QString reason = m_pictures.empty() ? ViewerLines::noPictures() : QString();
     setUnavailable(m_enlargeButton, reason);
     setUnavailable(m_printAction, reason);

@@ -8,11 +8,6 @@ namespace PlannerLines {
 
 using namespace Qt::Literals::StringLiterals;
 
-inline QString unsavedChanges()
-{
-    return u"Unsaved changes"_s;
-}
-
 inline QString row(int row)
 {
     return u"Row %1 of 14"_s.arg(row + 1);
@@ -44,11 +39,6 @@ inline QString pasted(int entries)
 inline QString noSuchDate(const QString &text)
 {
     return u"This is not a date: "_s + text;
-}
-
-inline QString settingNotSaved()
-{
-    return u"The setting could not be saved"_s;
 }
 
 // Views and search
@@ -168,11 +158,6 @@ inline QString imported(int made, int there, int full, int passedOver)
 }
 
 // Reasons
-
-inline QString backupNotThere()
-{
-    return u"Backup is not part of this edition yet"_s;
-}
 
 inline QString copyFirst()
 {

@@ -6,6 +6,7 @@
 #include "planner/window/monthgrid.h"
 #include "planner/window/weekview.h"
 #include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -137,5 +138,5 @@ void Zcalandar1::refreshCommands()
     setUnavailable(m_printAction, isPrintable ? QString() : PlannerLines::inCalendarViewsOnly());
     const bool hasBackup = program().functions.has(Function::Backup);
     for (QAction *action : {m_backupAction, m_restoreAction})
-        setUnavailable(action, hasBackup ? QString() : PlannerLines::backupNotThere());
+        setUnavailable(action, hasBackup ? QString() : FrameLines::backupNotThere());
 }

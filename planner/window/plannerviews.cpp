@@ -18,6 +18,7 @@
 #include "shell/controls/datebox.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/dates.h"
+#include "shell/core/framelines.h"
 #include "shell/core/slicedwork.h"
 
 #include <QAction>
@@ -89,7 +90,7 @@ void Zcalandar1::takeOptions()
     setOptions(options);
     showDayView();
     if (!options.write(program().settings))
-        activity().say(PlannerLines::settingNotSaved());
+        activity().say(FrameLines::settingNotSaved());
 }
 
 void Zcalandar1::focusSearch()

@@ -11,6 +11,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/dates.h"
+#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 
@@ -54,7 +55,7 @@ void Zcalandar1::loadDay(QDate date)
 
 void Zcalandar1::refreshModified()
 {
-    m_unsaved->setText(isModified() ? PlannerLines::unsavedChanges() : QString());
+    m_unsaved->setText(isModified() ? FrameLines::unsavedChanges() : QString());
 }
 
 UntimedPlacement Zcalandar1::placement() const
@@ -65,7 +66,7 @@ UntimedPlacement Zcalandar1::placement() const
 void Zcalandar1::setPlacement(int placement)
 {
     if (!program().settings.setNumber(SettingsKeys::plannerPlacement, placement))
-        activity().say(PlannerLines::settingNotSaved());
+        activity().say(FrameLines::settingNotSaved());
 }
 
 bool Zcalandar1::mayReplaceDay(const Message &question)

@@ -7,6 +7,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/area.h"
+#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/look/theme.h"
 
@@ -174,7 +175,7 @@ QWidget *Form31::makeFoot()
     row->setSpacing(8);
     rows->addWidget(makeLine(foot));
     rows->addLayout(row);
-    m_unsaved = named(makeQuietLabel(u"Unsaved changes"_s, foot), u"unsavedWords"_s);
+    m_unsaved = named(makeQuietLabel(FrameLines::unsavedChanges(), foot), u"unsavedWords"_s);
     m_saveButton = commands().button(m_saveAction, u"Command1"_s, u"&Save"_s, foot, ButtonKind::Main);
     QPushButton *leave = commands().button(standard(Standard::Exit), u"Command2"_s, u"E&xit"_s, foot);
     row->addStretch();

@@ -125,19 +125,4 @@ inline QString characterRefused(const QString &characters)
     return QStringLiteral("The files cannot hold the character %1").arg(characters);
 }
 
-inline QString stillBusy()
-{
-    return QStringLiteral("This window closes when the work under way has ended");
-}
-
-inline QString backupNotThere()
-{
-    return QStringLiteral("Backup is not part of this edition yet");
-}
-
-inline QString settingNotSaved()
-{
-    return QStringLiteral("The setting could not be saved");
-}
-
 } // namespace ShellMessages

@@ -3,7 +3,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
-#include "shell/core/shellmessages.h"
+#include "shell/core/framelines.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/toolbars.h"
 #include "shell/frame/workviews.h"
@@ -80,7 +80,7 @@ FunctionWindow::~FunctionWindow() = default;
 bool FunctionWindow::mayLeave()
 {
     if (m_busy) {
-        m_activity->say(ShellMessages::stillBusy());
+        m_activity->say(FrameLines::stillBusy());
         return false;
     }
     if (!m_leaveAgreed)
@@ -205,7 +205,7 @@ QAction *FunctionWindow::standard(Standard command)
     };
     const auto openBackup = [this] { m_program.functions.open(Function::Backup, m_program); };
     const auto noBackup = [this] {
-        return m_program.functions.has(Function::Backup) ? QString() : ShellMessages::backupNotThere();
+        return m_program.functions.has(Function::Backup) ? QString() : FrameLines::backupNotThere();
     };
     switch (command) {
     case Standard::PanelColor:

@@ -1,6 +1,7 @@
 #include "shell/frame/panelcolors.h"
 
 #include "shell/controls/activitybar.h"
+#include "shell/core/framelines.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"
@@ -141,7 +142,7 @@ void PanelColors::save()
         isSaved &= settings.setText(*m_settings.text,
                                     m_text ? ColorText::encode(*m_text) : ColorText::defaultText());
     if (!isSaved)
-        m_activity.say(ShellMessages::settingNotSaved());
+        m_activity.say(FrameLines::settingNotSaved());
     if (panelChanged) {
         // A colour that could not be written stays on this window until it closes.
         const QScopedValueRollback<bool> saving(m_isSaving, !isSaved);

@@ -5,6 +5,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
+#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
@@ -192,7 +193,7 @@ void Startfrm::chooseBackground()
     const bool isSaved = m_program.settings.setTagged(SettingsKeys::background, m_background.recordText());
     closeBackgroundSelector();
     if (!isSaved)
-        m_activity->say(ShellMessages::settingNotSaved());
+        m_activity->say(FrameLines::settingNotSaved());
 }
 
 /// Back to the main menu with the background that was chosen last.

@@ -4,7 +4,6 @@
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 
-#include <QFileInfo>
 #include <QLocale>
 
 using namespace Qt::Literals::StringLiterals;
@@ -53,12 +52,7 @@ MenuNews::Reading MenuNews::readingOf(const FunctionFace &face, const FunctionEn
     const bool guarded = face.area != Area::None && state.protectedAreas.isProtected(face.area);
     const QDateTime now = m_program.clock.now();
     const int minute = entry.followsClock ? now.time().hour() * 60 + now.time().minute() : 0;
-    Reading reading{{}, now.date(), minute, state.dateStyle, guarded};
-    for (const QString &name : entry.liveFiles) {
-        const QFileInfo file(m_program.folder.filePath(name));
-        reading.files.append({file.filePath(), file.lastModified(), file.size()});
-    }
-    return reading;
+    return {FileStamp::of(m_program.folder, entry.liveFiles), now.date(), minute, state.dateStyle, guarded};
 }
 
 std::optional<LiveLine> MenuNews::line(Function function) const

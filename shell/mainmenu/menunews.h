@@ -2,6 +2,7 @@
 
 #include "shell/core/programstate.h"
 #include "shell/program/functions.h"
+#include "storage/filestamp.h"
 
 #include <QDateTime>
 #include <QList>
@@ -36,15 +37,8 @@ public:
     static QString sentence(const QDateTime &now, const QList<LiveLine> &lines);
 
 private:
-    /// One file as it was when it was read; a missing one has no time.
-    struct FileState {
-        QString path;
-        QDateTime changed;
-        qint64 size = 0;
-        bool operator==(const FileState &) const = default;
-    };
     struct Reading {
-        QList<FileState> files;
+        FileStamp files;
         QDate day;
         int minute; ///< of the day, for news that go on with the clock; else 0
         DateStyle style;

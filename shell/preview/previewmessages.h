@@ -21,24 +21,7 @@ inline QString pageOf(int page, int count)
     return QStringLiteral("Page %1 of %2").arg(page).arg(count);
 }
 
-// Why a step is not offered
-
-inline QString firstPage()
-{
-    return QStringLiteral("This is the first page");
-}
-
-inline QString lastPage()
-{
-    return QStringLiteral("This is the last page");
-}
-
 // Quiet lines of the status bar
-
-inline QString savedAs(const QString &path)
-{
-    return QStringLiteral("Saved as %1").arg(path);
-}
 
 inline QString notSaved(const QString &path, const QString &reason)
 {

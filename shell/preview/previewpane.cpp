@@ -3,6 +3,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/preview/previewcontrols.h"
@@ -321,8 +322,8 @@ void PreviewPane::showSheet(int sheet, SheetView::Edge edge)
     m_sheet = std::clamp(sheet, 0, sheetCount() - 1);
     m_view->setSheet(m_painter.get(), m_sheet, edge);
     m_pageNumber->setText(PreviewMessages::pageOf(m_sheet + 1, sheetCount()));
-    setUnavailable(m_previous, m_sheet == 0 ? PreviewMessages::firstPage() : QString());
-    setUnavailable(m_next, m_sheet + 1 == sheetCount() ? PreviewMessages::lastPage() : QString());
+    setUnavailable(m_previous, m_sheet == 0 ? FrameLines::firstPage() : QString());
+    setUnavailable(m_next, m_sheet + 1 == sheetCount() ? FrameLines::lastPage() : QString());
 }
 
 void PreviewPane::showOrientation()

@@ -2,6 +2,7 @@
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
+#include "shell/core/framelines.h"
 #include "shell/preview/previewmessages.h"
 #include "shell/program/program.h"
 
@@ -181,7 +182,7 @@ bool PrintJob::toPrinter(const PagePainter &painter, const PageSetup &setup, int
     if (outcome == Outcome::Done)
         m_activity.say(printer.outputFileName().isEmpty()
                            ? PreviewMessages::printed(int(sheets.size()))
-                           : PreviewMessages::savedAs(QDir::toNativeSeparators(printer.outputFileName())));
+                           : FrameLines::savedAs(QDir::toNativeSeparators(printer.outputFileName())));
     return outcome == Outcome::Done;
 }
 
@@ -209,7 +210,7 @@ bool PrintJob::toFile(const PagePainter &painter)
         m_activity.say(PreviewMessages::notSaved(shownName, file.errorString()));
         return false;
     }
-    m_activity.say(PreviewMessages::savedAs(shownName));
+    m_activity.say(FrameLines::savedAs(shownName));
     return true;
 }
 

@@ -1,4 +1,5 @@
 #include "previewwindow.h"
+#include "shell/core/framelines.h"
 
 #include <QClipboard>
 #include <QMimeData>
@@ -64,7 +65,7 @@ void TestPreviewPane::startsWithTheFirstSheetInPortrait()
     QVERIFY(m_window->pane->sheetCount() > 2);
     QCOMPARE(m_window->label("pageNumber"), u"Page 1 of %1"_s.arg(m_window->pane->sheetCount()));
     QVERIFY(!control<QPushButton>(*m_window, "previousPage")->isEnabled());
-    QCOMPARE(control<QPushButton>(*m_window, "previousPage")->toolTip(), PreviewMessages::firstPage());
+    QCOMPARE(control<QPushButton>(*m_window, "previousPage")->toolTip(), FrameLines::firstPage());
     QVERIFY(control<QPushButton>(*m_window, "nextPage")->isEnabled());
     m_window->showList(1);
     QCOMPARE(m_window->label("pageNumber"), u"Page 1 of 1"_s);

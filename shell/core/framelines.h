@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+/// Quiet lines that every window says in the same words: of the status bar, beside a button, or as the reason
+/// why a command cannot be used.
+namespace FrameLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString unsavedChanges()
+{
+    return u"Unsaved changes"_s;
+}
+
+inline QString settingNotSaved()
+{
+    return u"The setting could not be saved"_s;
+}
+
+inline QString stillBusy()
+{
+    return u"This window closes when the work under way has ended"_s;
+}
+
+inline QString savedAs(const QString &path)
+{
+    return u"Saved as "_s + path;
+}
+
+// Reasons
+
+inline QString backupNotThere()
+{
+    return u"Backup is not part of this edition yet"_s;
+}
+
+inline QString firstPage()
+{
+    return u"This is the first page"_s;
+}
+
+inline QString lastPage()
+{
+    return u"This is the last page"_s;
+}
+
+} // namespace FrameLines

@@ -1,0 +1,13 @@
+#include "storage/filestamp.h"
+
+#include <QFileInfo>
+
+FileStamp FileStamp::of(const DataFolder &folder, const QStringList &names)
+{
+    FileStamp stamp;
+    for (const QString &name : names) {
+        const QFileInfo file(folder.filePath(name));
+        stamp.m_files.append({file.filePath(), file.lastModified(), file.size()});
+    }
+    return stamp;
+}
