@@ -63,12 +63,6 @@ QString dayName(QDate day, QDate today)
     return day == today ? u"today"_s : QLocale::c().dayName(day.dayOfWeek());
 }
 
-/// "Sep 6", or "6 Sep" under `Other`.
-QString shortDate(QDate day, DateStyle style)
-{
-    return QLocale::c().toString(day, style == DateStyle::Usa ? u"MMM d" : u"d MMM");
-}
-
 /// "Anne Lind turns 48"
 QString noteText(const Occasion &occasion)
 {
@@ -119,7 +113,7 @@ std::optional<LiveLine> Ahead::line() const
     if (!m_later)
         return std::nullopt;
     return LiveLine{u"Next "_s + word(m_later->kind) + u": "_s + m_later->name + u", "_s +
-                        shortDate(m_later->day, m_style),
+                        Dates::shortText(m_later->day, m_style),
                     LiveLine::Plain,
                     {}};
 }

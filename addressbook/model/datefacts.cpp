@@ -8,17 +8,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// "today", "tomorrow", "on Tuesday"; empty when `day` is further away than that.
-QString nearDay(QDate day, QDate today)
-{
-    const qint64 days = today.daysTo(day);
-    if (days == 0)
-        return u"today"_s;
-    if (days == 1)
-        return u"tomorrow"_s;
-    return days < 7 ? u"on "_s + QLocale::c().dayName(day.dayOfWeek()) : QString();
-}
-
 QString monthAndDay(QDate day, DateStyle style)
 {
     const QString month = QLocale::c().monthName(day.month());
@@ -36,7 +25,7 @@ QString DateFacts::ofBirth(QDate birth, QDate today, DateStyle style)
         return u"Born today"_s;
     const QDate next = Dates::nextAnniversary(birth, today);
     const QString age = QString::number(next.year() - birth.year());
-    if (const QString when = nearDay(next, today); !when.isEmpty())
+    if (const QString when = Dates::nearDay(next, today); !when.isEmpty())
         return u"Birthday "_s + when + u", turning "_s + age;
     return u"Turning "_s + age + u" on "_s + monthAndDay(next, style);
 }
@@ -48,6 +37,6 @@ QString DateFacts::ofAnniversary(QDate date, QDate today)
     const QDate next = Dates::nextAnniversary(date, today);
     const int years = next.year() - date.year();
     const QString count = QString::number(years) + (years == 1 ? u" year "_s : u" years "_s);
-    const QString when = nearDay(next, today);
+    const QString when = Dates::nearDay(next, today);
     return count + (when.isEmpty() ? u"in "_s + QLocale::c().monthName(next.month()) : when);
 }

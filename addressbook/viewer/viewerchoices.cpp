@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QLocale>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -22,8 +23,10 @@ constexpr int monthIndent = 24;
 
 QStringList monthNames()
 {
-    return {u"Jan"_s, u"Feb"_s, u"Mar"_s, u"Apr"_s, u"May"_s, u"Jun"_s,
-            u"Jul"_s, u"Aug"_s, u"Sep"_s, u"Oct"_s, u"Nov"_s, u"Dec"_s};
+    QStringList names;
+    for (int month = 1; month <= 12; ++month)
+        names << QLocale::c().monthName(month, QLocale::ShortFormat);
+    return names;
 }
 
 } // namespace

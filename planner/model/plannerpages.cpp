@@ -47,12 +47,6 @@ PlannerDay entriesOf(const Days &days, QDate date)
     return found == days.end() ? PlannerDay{} : found->second;
 }
 
-/// "Nov 16", or "16 Nov".
-QString shortDate(QDate date, DateStyle style)
-{
-    return QLocale::c().toString(date, style == DateStyle::Usa ? u"MMM d"_s : u"d MMM"_s);
-}
-
 QString dayName(QDate date)
 {
     return QLocale::c().dayName(date.dayOfWeek());
@@ -89,7 +83,7 @@ Page listedWeek(QDate start, const Days &days, const Paper &paper)
             page.rule();
         for (int row = 0; row < rows[std::size_t(i)]; ++row) {
             const QString head =
-                row == 0 ? dayName(date) + u", "_s + shortDate(date, paper.dateStyle) : QString();
+                row == 0 ? dayName(date) + u", "_s + Dates::shortText(date, paper.dateStyle) : QString();
             const bool isFilled = row < lines.count();
             page.row({head, isFilled ? lines.time(row) : QString(), isFilled ? lines.text(row) : QString()});
         }
@@ -173,7 +167,8 @@ Page wideWeek(QDate start, const Days &days, const Paper &paper)
         }
         const QDate date = start.addDays(i);
         page.placeText(head, dayName(date), TextRole::Strong);
-        page.placeText(head, shortDate(date, paper.dateStyle), TextRole::Body, Qt::AlignRight | Qt::AlignTop);
+        page.placeText(head, Dates::shortText(date, paper.dateStyle), TextRole::Body,
+                       Qt::AlignRight | Qt::AlignTop);
         placeBlockEntries(page, entriesPlace(block), DayLines(entriesOf(days, date)));
     }
     return page.close(paper.printedOn, paper.dateStyle);

@@ -10,13 +10,13 @@
 #include "shell/program/program.h"
 
 #include <QListView>
-#include <QLocale>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -105,14 +105,8 @@ int ComingUpModel::rowCount(const QModelIndex &parent) const
 /// "today", "tomorrow", "on Tuesday" within the six days after today; any other date as it is.
 QString ComingUpModel::whenText(QDate date) const
 {
-    const qint64 days = m_program.clock.today().daysTo(date);
-    if (days == 0)
-        return u"today"_s;
-    if (days == 1)
-        return u"tomorrow"_s;
-    if (days > 1 && days < 7)
-        return u"on "_s + QLocale::c().dayName(date.dayOfWeek());
-    return Dates::statusText(date, m_program.state.dateStyle);
+    const QString day = Dates::nearDay(date, m_program.clock.today());
+    return day.isEmpty() ? Dates::statusText(date, m_program.state.dateStyle) : day;
 }
 
 QVariant ComingUpModel::data(const QModelIndex &index, int role) const

@@ -5,6 +5,7 @@
 #include "planner/window/daysmodel.h"
 #include "planner/window/steptitle.h"
 #include "planner/window/viewfoot.h"
+#include "shell/core/dates.h"
 #include "shell/look/theme.h"
 
 #include <QHeaderView>
@@ -24,7 +25,10 @@ constexpr int daysPerWeek = 7;
 class DayCellDelegate final : public QStyledItemDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    DayCellDelegate(DateStyle style, QObject *parent)
+        : QStyledItemDelegate(parent)
+        , m_style(style)
+    {}
 
     QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override { return {80, 56}; }
 
@@ -47,13 +51,13 @@ public:
     }
 
 private:
-    static void paintNumber(QPainter &painter, const QRect &place, const QModelIndex &index,
-                            const Theme &theme, bool isOutside)
+    void paintNumber(QPainter &painter, const QRect &place, const QModelIndex &index, const Theme &theme,
+                     bool isOutside) const
     {
         const bool isToday = index.data(DaysModel::TodayRole).toBool();
         const QDate date = index.data(DaysModel::DateRole).toDate();
-        const QString number = isOutside && date.day() == 1 ? QLocale::c().toString(date, u"MMM d"_s)
-                                                            : QString::number(date.day());
+        const QString number =
+            isOutside && date.day() == 1 ? Dates::shortText(date, m_style) : QString::number(date.day());
         painter.setFont(isToday ? TypeScale::strong() : TypeScale::body());
         painter.setPen(isOutside ? theme.quiet : theme.text);
         painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, isToday ? number + u"  today"_s : number);
@@ -85,6 +89,8 @@ private:
             line(shown, (shown > 0 ? u"+ %1 more"_s : u"%1 entries"_s).arg(lines.count() - shown),
                  theme.quiet);
     }
+
+    DateStyle m_style;
 };
 
 } // namespace
@@ -97,6 +103,7 @@ MonthGrid::MonthGrid(const PlannerFiles &files, DateStyle style, QWidget *parent
     , m_view(new QTableView(this))
 {
     m_view->setObjectName(u"monthGrid"_s);
+    m_view->setItemDelegate(new DayCellDelegate(style, m_view));
     setUpView();
     auto *foot = new ViewFoot(u"month"_s, u"Click a day, or press Enter, to open it"_s, this);
     auto *rows = new QVBoxLayout(this);
@@ -115,7 +122,6 @@ MonthGrid::MonthGrid(const PlannerFiles &files, DateStyle style, QWidget *parent
 void MonthGrid::setUpView()
 {
     m_view->setModel(m_model);
-    m_view->setItemDelegate(new DayCellDelegate(m_view));
     m_view->setAccessibleName(u"Days of the month"_s);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setTabKeyNavigation(false);

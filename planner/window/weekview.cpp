@@ -5,6 +5,7 @@
 #include "planner/window/daysmodel.h"
 #include "planner/window/steptitle.h"
 #include "planner/window/viewfoot.h"
+#include "shell/core/dates.h"
 #include "shell/look/theme.h"
 
 #include <QListView>
@@ -95,7 +96,7 @@ private:
         painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, QLocale::c().dayName(date.dayOfWeek()));
         painter.setFont(TypeScale::label());
         painter.setPen(theme.quiet);
-        const QString day = QLocale::c().toString(date, m_style == DateStyle::Usa ? u"MMM d"_s : u"d MMM"_s);
+        const QString day = Dates::shortText(date, m_style);
         painter.drawText(place.adjusted(0, lineHeight(), 0, 0), Qt::AlignLeft | Qt::AlignTop,
                          isToday ? day + u", today"_s : day);
     }
@@ -129,10 +130,8 @@ private:
 /// "Dec 28 - Jan 3, 2027", or "28 Dec - 3 Jan 2027".
 QString shortRange(QDate from, QDate to, DateStyle style)
 {
-    const bool isUsa = style == DateStyle::Usa;
-    const QLocale words = QLocale::c();
-    return words.toString(from, isUsa ? u"MMM d"_s : u"d MMM"_s) + u" - "_s +
-           words.toString(to, isUsa ? u"MMM d, yyyy"_s : u"d MMM yyyy"_s);
+    return Dates::shortText(from, style) + u" - "_s +
+           QLocale::c().toString(to, style == DateStyle::Usa ? u"MMM d, yyyy"_s : u"d MMM yyyy"_s);
 }
 
 } // namespace

@@ -1,7 +1,10 @@
 #include "shell/core/dates.h"
 
+#include "shell/core/datetoken.h"
+
 #include <QLocale>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -9,128 +12,84 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestDate = 40;
 constexpr int lastTwoDigitYear = 2029;
 constexpr int yearsAhead = 20;
+constexpr int daysPerWeek = 7;
 constexpr std::size_t partCount = 3;
 
-constexpr std::array monthNames{u"january", u"february", u"march",     u"april",   u"may",      u"june",
-                                u"july",    u"august",   u"september", u"october", u"november", u"december"};
+using Parts = std::array<DateToken, partCount>;
 
-/// One of the three parts of a date: a number as it stands, or the number of a named month.
-struct Part {
-    int number = 0;
-    int digits = 0; ///< 0 for a month's name
-
-    bool isName() const { return digits == 0; }
-    bool isYear() const { return digits > 2; }
-};
-
-using Parts = std::array<Part, partCount>;
-
-bool isDigit(QChar character)
+bool isSeparator(const DateToken &token)
 {
-    return character >= u'0' && character <= u'9';
+    return token.kind == DateToken::Other && QByteArrayView("/-., ").contains(token.character);
 }
 
-bool isLetter(QChar character)
+/// A month's name, or a number that can be a day, a month or a year.
+bool isPart(const DateToken &token)
 {
-    const QChar lower = character.toLower();
-    return lower >= u'a' && lower <= u'z';
+    if (token.kind == DateToken::Number)
+        return token.length <= 4 && token.length != 3;
+    return token.kind == DateToken::Word && token.value > 0;
 }
 
-bool isSeparator(QChar character)
+bool isName(const DateToken &part)
 {
-    return character == u'/' || character == u'-' || character == u'.' || character == u',' ||
-           character == u' ';
-}
-
-/// The month that `name` begins, with three letters at least; 0 for any other word.
-int monthOf(QStringView name)
-{
-    if (name.size() < 3)
-        return 0;
-    for (std::size_t i = 0; i < monthNames.size(); ++i)
-        if (QStringView(monthNames[i]).startsWith(name, Qt::CaseInsensitive))
-            return int(i) + 1;
-    return name.compare("sept"_L1, Qt::CaseInsensitive) == 0 ? 9 : 0;
-}
-
-/// The part of `text` from `at` on, which moves behind it.
-std::optional<Part> takePart(QStringView text, qsizetype &at)
-{
-    const qsizetype start = at;
-    Part part;
-    if (isLetter(text[at])) {
-        while (at < text.size() && isLetter(text[at]))
-            ++at;
-        part.number = monthOf(text.sliced(start, at - start));
-        return part.number > 0 ? std::optional(part) : std::nullopt;
-    }
-    for (; at < text.size() && isDigit(text[at]); ++at) {
-        if (++part.digits > 4)
-            return {};
-        part.number = part.number * 10 + (text[at].unicode() - u'0');
-    }
-    return part.digits > 0 && part.digits != 3 ? std::optional(part) : std::nullopt;
+    return part.kind == DateToken::Word;
 }
 
 /// The three parts of `text`; nothing when there are more or fewer, or anything else stands between them.
-std::optional<Parts> partsOf(QStringView text)
+std::optional<Parts> partsOf(QByteArrayView text)
 {
-    text = text.trimmed();
     Parts parts;
     std::size_t count = 0;
-    for (qsizetype at = 0; at < text.size();) {
-        const std::optional<Part> part = count < partCount ? takePart(text, at) : std::nullopt;
-        if (!part)
+    while (!text.isEmpty()) {
+        const DateToken token = DateToken::take(text);
+        if (count > 0 && isSeparator(token))
+            continue;
+        if (count == partCount || !isPart(token))
             return {};
-        parts[count++] = *part;
-        if (at < text.size() && !isSeparator(text[at]) && isLetter(text[at]) == part->isName())
-            return {};
-        while (at < text.size() && isSeparator(text[at]))
-            ++at;
+        parts[count++] = token;
     }
     return count == partCount ? std::optional(parts) : std::nullopt;
 }
 
-int fullYear(const Part &year, QDate today)
+int fullYear(const DateToken &year, QDate today)
 {
     if (year.isYear())
-        return year.number;
+        return year.value;
     const int last = today.isValid() ? today.year() + yearsAhead : lastTwoDigitYear;
-    return last - ((last - year.number) % 100 + 100) % 100;
+    return last - ((last - year.value) % 100 + 100) % 100;
 }
 
-std::optional<QDate> dateOf(const Part &year, int month, const Part &day, QDate today)
+std::optional<QDate> dateOf(const DateToken &year, int month, const DateToken &day, QDate today)
 {
-    if (year.isName() || day.isName() || day.isYear() || (year.isYear() && year.number == 0))
+    if (isName(year) || isName(day) || day.isYear() || (year.isYear() && year.value == 0))
         return {};
-    const QDate date(fullYear(year, today), month, day.number);
+    const QDate date(fullYear(year, today), month, day.value);
     return date.isValid() ? std::optional(date) : std::nullopt;
 }
 
 std::optional<QDate> namedMonth(const Parts &parts, QDate today)
 {
-    if (parts[0].isName()) // Nov 24 1978
-        return dateOf(parts[2], parts[0].number, parts[1], today);
-    if (!parts[1].isName())
+    if (isName(parts[0])) // Nov 24 1978
+        return dateOf(parts[2], parts[0].value, parts[1], today);
+    if (!isName(parts[1]))
         return {};
-    return parts[0].isYear() ? dateOf(parts[0], parts[1].number, parts[2], today)  // 1978 Nov 24
-                             : dateOf(parts[2], parts[1].number, parts[0], today); // 24 Nov 1978
+    return parts[0].isYear() ? dateOf(parts[0], parts[1].value, parts[2], today)  // 1978 Nov 24
+                             : dateOf(parts[2], parts[1].value, parts[0], today); // 24 Nov 1978
 }
 
 std::optional<QDate> numbersOnly(const Parts &parts, DateStyle style, QDate today)
 {
     if (parts[0].isYear()) // 1978-11-24
-        return parts[1].isYear() ? std::nullopt : dateOf(parts[0], parts[1].number, parts[2], today);
-    const Part &first = parts[0], &second = parts[1], &year = parts[2];
-    const Part &month = style == DateStyle::Usa ? first : second;
-    const Part &day = style == DateStyle::Usa ? second : first;
+        return parts[1].isYear() ? std::nullopt : dateOf(parts[0], parts[1].value, parts[2], today);
+    const DateToken &first = parts[0], &second = parts[1], &year = parts[2];
+    const DateToken &month = style == DateStyle::Usa ? first : second;
+    const DateToken &day = style == DateStyle::Usa ? second : first;
     if (month.isYear() || day.isYear())
         return {};
-    const bool fitsOnlySwapped = month.number > 12 && day.number <= 12;
-    return fitsOnlySwapped ? dateOf(year, day.number, month, today) : dateOf(year, month.number, day, today);
+    const bool fitsOnlySwapped = month.value > 12 && day.value <= 12;
+    return fitsOnlySwapped ? dateOf(year, day.value, month, today) : dateOf(year, month.value, day, today);
 }
 
 QString english(QDate date, QStringView format)
@@ -158,13 +117,13 @@ DateStyle Dates::styleOfShortDate(QStringView shortDate)
 
 std::optional<QDate> Dates::parse(QStringView text, DateStyle style, QDate today)
 {
-    if (text.size() > longestDate)
+    if (text.size() > DateToken::longestDate)
         return {};
-    const auto parts = partsOf(text);
+    const auto parts = partsOf(QByteArrayView(DateToken::bytes(text.trimmed())));
     if (!parts)
         return {};
-    const bool hasName = (*parts)[0].isName() || (*parts)[1].isName() || (*parts)[2].isName();
-    return hasName ? namedMonth(*parts, today) : numbersOnly(*parts, style, today);
+    return std::ranges::any_of(*parts, isName) ? namedMonth(*parts, today)
+                                               : numbersOnly(*parts, style, today);
 }
 
 QString Dates::boxText(QDate date, DateStyle style)
@@ -190,6 +149,23 @@ QString Dates::monthDayYear(QDate date, DateStyle style)
 QString Dates::statusText(QDate date, DateStyle style)
 {
     return english(date, style == DateStyle::Usa ? u"ddd, MMM d, yyyy" : u"ddd, d MMM yyyy");
+}
+
+QString Dates::shortText(QDate date, DateStyle style)
+{
+    return english(date, style == DateStyle::Usa ? u"MMM d" : u"d MMM");
+}
+
+QString Dates::nearDay(QDate date, QDate today)
+{
+    if (!date.isValid() || !today.isValid())
+        return {};
+    const qint64 days = today.daysTo(date);
+    if (days == 0)
+        return u"today"_s;
+    if (days == 1)
+        return u"tomorrow"_s;
+    return days > 1 && days < daysPerWeek ? u"on "_s + QLocale::c().dayName(date.dayOfWeek()) : QString();
 }
 
 QDate Dates::nextAnniversary(QDate date, QDate today)

@@ -39,6 +39,12 @@ QString monthDayYear(QDate date, DateStyle style);
 /// "Sat, Nov 21, 2026", or "Sat, 21 Nov 2026" under `Other`: the status bar's date.
 QString statusText(QDate date, DateStyle style);
 
+/// "Nov 21", or "21 Nov" under `Other`.
+QString shortText(QDate date, DateStyle style);
+
+/// "today", "tomorrow", or "on Tuesday" within the six days after `today`; empty for any other date.
+QString nearDay(QDate date, QDate today);
+
 /// The next day on or after `today` that has `date`'s day and month; 29 February counts as the 28th in other
 /// years.
 QDate nextAnniversary(QDate date, QDate today);

@@ -18,6 +18,7 @@ private slots:
     void placesTwoDigitYears_data();
     void placesTwoDigitYears();
     void writesDatesInEnglish();
+    void namesTheDaysAtHand();
     void findsTheNextAnniversary_data();
     void findsTheNextAnniversary();
 };
@@ -164,7 +165,19 @@ void TestDates::writesDatesInEnglish()
     QCOMPARE(Dates::monthDayYear(date, DateStyle::Other), u"7 March 2026"_s);
     QCOMPARE(Dates::statusText(date, DateStyle::Usa), u"Sat, Mar 7, 2026"_s);
     QCOMPARE(Dates::statusText(date, DateStyle::Other), u"Sat, 7 Mar 2026"_s);
+    QCOMPARE(Dates::shortText(date, DateStyle::Usa), u"Mar 7"_s);
+    QCOMPARE(Dates::shortText(date, DateStyle::Other), u"7 Mar"_s);
     QLocale::setDefault(before);
+}
+
+void TestDates::namesTheDaysAtHand()
+{
+    const QDate today(2026, 11, 21);
+    const QStringList words{QString(),        u"today"_s,      u"tomorrow"_s,
+                            u"on Monday"_s,   u"on Tuesday"_s, u"on Wednesday"_s,
+                            u"on Thursday"_s, u"on Friday"_s,  QString()};
+    for (qsizetype i = 0; i < words.size(); ++i)
+        QCOMPARE(Dates::nearDay(today.addDays(i - 1), today), words[i]);
 }
 
 void TestDates::findsTheNextAnniversary_data()
