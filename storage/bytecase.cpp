@@ -98,6 +98,19 @@ bool ByteCase::contains(QByteArrayView bytes, QByteArrayView foldedText)
     return false;
 }
 
+char ByteCase::otherCase(char byte)
+{
+    const ByteTable &upper = upperTable();
+    const char large = upper[quint8(byte)];
+    if (large != byte)
+        return large;
+    for (std::size_t small = 0; small < upper.size(); ++small) {
+        if (upper[small] == byte && char(small) != byte)
+            return char(small);
+    }
+    return byte;
+}
+
 int ByteCase::compare(QByteArrayView one, QByteArrayView other)
 {
     const ByteTable &filed = filingTable();

@@ -14,6 +14,9 @@ std::optional<QByteArray> folded(QStringView text);
 /// Whether `foldedText` stands anywhere in `bytes`, upper and lower case alike. The empty text does.
 bool contains(QByteArrayView bytes, QByteArrayView foldedText);
 
+/// The same letter in the other case; `byte` itself where the code page has none.
+char otherCase(char byte);
+
 /// Orders two texts as a telephone book does: case and accents only decide between texts that are otherwise
 /// alike. Negative, zero or positive.
 int compare(QByteArrayView one, QByteArrayView other);

@@ -1,43 +1,24 @@
 #include "planner/model/rowsearch.h"
 
-#include <algorithm>
+#include "storage/bytecase.h"
 
 namespace {
 
 constexpr qsizetype timesLength = qsizetype(PlannerDay::rowCount) * PlannerDay::timeWidth;
 constexpr qsizetype fieldsLength = timesLength + qsizetype(PlannerDay::rowCount) * PlannerDay::textWidth;
 
-/// Letters of the code page whose small form it lacks stay themselves.
-std::array<uchar, 256> caseTable()
-{
-    std::array<uchar, 256> table{};
-    for (std::size_t byte = 0; byte < table.size(); ++byte) {
-        const char one = char(byte);
-        const QString small = AnsiText::decode({&one, 1}).toCaseFolded();
-        const bool isHeld = small.size() == 1 && AnsiText::isHoldable(small);
-        table[byte] = isHeld ? uchar(AnsiText::encode(small).front()) : uchar(byte);
-    }
-    return table;
-}
-
 } // namespace
 
 RowSearch::RowSearch(QStringView text)
-    : m_folded(caseTable())
-    , m_text(AnsiText::isHoldable(text) ? AnsiText::encode(text) : QByteArray())
+    : m_text(ByteCase::folded(text).value_or(QByteArray()))
 {
-    for (char &byte : m_text)
-        byte = char(m_folded[uchar(byte)]);
     if (m_text.isEmpty())
         return;
     // First, middle and last: neighbours would all stand in the same common syllable.
     for (std::size_t i = 0; i < sampleCount; ++i) {
         const std::size_t offset = i * (std::size_t(m_text.size()) - 1) / (sampleCount - 1);
-        const uchar small = uchar(m_text[qsizetype(offset)]);
-        uchar large = small;
-        for (std::size_t byte = 0; byte < m_folded.size(); ++byte)
-            large = m_folded[byte] == small && byte != small ? uchar(byte) : large;
-        m_samples[i] = {offset, small, large};
+        const char letter = m_text[qsizetype(offset)];
+        m_samples[i] = {offset, uchar(letter), uchar(ByteCase::otherCase(letter))};
     }
 }
 
@@ -48,7 +29,7 @@ bool RowSearch::mayHold(QByteArrayView fields) const
     const auto *bytes = reinterpret_cast<const uchar *>(fields.data());
     const auto [first, middle, last] = m_samples;
     const auto is = [](uchar byte, const Sample &sample) {
-        return uchar(uchar(byte == sample.small) | uchar(byte == sample.large));
+        return uchar(uchar(byte == sample.letter) | uchar(byte == sample.otherCase));
     };
     uchar found = 0;
     for (qsizetype i = 0, end = fields.size() - m_text.size() + 1; i < end; ++i) {
@@ -58,12 +39,6 @@ bool RowSearch::mayHold(QByteArrayView fields) const
     return found != 0;
 }
 
-bool RowSearch::holds(QByteArrayView field) const
-{
-    const auto isSame = [this](char byte, char wanted) { return m_folded[uchar(byte)] == uchar(wanted); };
-    return std::search(field.begin(), field.end(), m_text.begin(), m_text.end(), isSame) != field.end();
-}
-
 RowSearch::Rows RowSearch::find(QByteArrayView record) const
 {
     Rows rows;
@@ -71,9 +46,10 @@ RowSearch::Rows RowSearch::find(QByteArrayView record) const
         return rows;
     for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
         const auto at = qsizetype(row);
-        rows.set(row,
-                 holds(record.sliced(at * PlannerDay::timeWidth, PlannerDay::timeWidth)) ||
-                     holds(record.sliced(timesLength + at * PlannerDay::textWidth, PlannerDay::textWidth)));
+        const QByteArrayView time = record.sliced(at * PlannerDay::timeWidth, PlannerDay::timeWidth);
+        const QByteArrayView words =
+            record.sliced(timesLength + at * PlannerDay::textWidth, PlannerDay::textWidth);
+        rows.set(row, ByteCase::contains(time, m_text) || ByteCase::contains(words, m_text));
     }
     return rows;
 }

@@ -24,18 +24,16 @@ public:
     Rows find(QByteArrayView record) const;
 
 private:
-    /// A few of the text's letters, both cases, and where in it they stand.
+    /// One of the text's letters, in both cases, and where in it it stands.
     struct Sample {
         std::size_t offset;
-        uchar small;
-        uchar large;
+        uchar letter;
+        uchar otherCase;
     };
     static constexpr std::size_t sampleCount = 3;
 
     bool mayHold(QByteArrayView fields) const;
-    bool holds(QByteArrayView field) const;
 
-    std::array<uchar, 256> m_folded; ///< one number for a letter's upper and lower case
-    QByteArray m_text;               ///< folded
+    QByteArray m_text; ///< folded
     std::array<Sample, sampleCount> m_samples{};
 };
