@@ -280,9 +280,8 @@ void Form31::tellDamage()
 
 void Form31::print()
 {
-    const auto page = [this](const PageSetup &) {
-        return passwordPage(m_file.state() == PasswordFile::State::Set, shownAreas(), clock().today(),
-                            program().state.dateStyle);
+    const auto page = [this](const PageContext &context) {
+        return passwordPage(m_file.state() == PasswordFile::State::Set, shownAreas(), context);
     };
     showPreview(page, PasswordMessages::title());
 }

@@ -4,7 +4,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Page passwordPage(bool isPasswordSet, const ProtectedAreas &areas, QDate printedOn, DateStyle style)
+Page passwordPage(bool isPasswordSet, const ProtectedAreas &areas, const PageContext &context)
 {
     Page page(u"Password Control"_s);
     page.line(isPasswordSet ? u"A password is set."_s
@@ -15,5 +15,5 @@ Page passwordPage(bool isPasswordSet, const ProtectedAreas &areas, QDate printed
         if (GuardedAreas::isOfThisEdition(area))
             page.row({GuardedAreas::name(area), areas.isProtected(area) ? u"asked"_s : u"not asked"_s});
     }
-    return page.close(printedOn, style);
+    return page.close(context.today, context.style);
 }

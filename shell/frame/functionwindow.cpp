@@ -115,7 +115,7 @@ void FunctionWindow::setBusy(bool busy)
         m_sideSplitter->side()->setEnabled(!busy);
 }
 
-void FunctionWindow::showPreview(std::function<Page(const PageSetup &)> builder, const QString &jobName)
+void FunctionWindow::showPreview(std::function<Page(const PageContext &)> builder, const QString &jobName)
 {
     if (!isPreviewShown())
         m_focusBeforePreview = focusWidget();
@@ -123,7 +123,8 @@ void FunctionWindow::showPreview(std::function<Page(const PageSetup &)> builder,
     m_stack->setCurrentWidget(&pane);
     // The household's name heads a page with a title where it has no other word at its right.
     const auto headed = [this, build = std::move(builder)](const PageSetup &setup) {
-        Page page = build(setup);
+        Page page = build(
+            {setup, m_program.state.dateStyle, m_program.clock.today(), m_program.state.familyName.text()});
         if (page.headRight().isEmpty() && !page.title().isEmpty())
             page.setHeadRight(m_program.state.familyName.text());
         return page;
@@ -331,7 +332,7 @@ void FunctionWindow::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
         if (isPreviewShown())
             closePreview();
-        else if (!m_views || !m_views->leave())
+        else if (!leaveView())
             close();
     } else if (event->key() == Qt::Key_F1) {
         emit m_program.changes.helpRequested(m_traits.helpContext);
@@ -422,6 +423,33 @@ void FunctionWindow::showEvent(QShowEvent *event)
     // The window manager tells the size of the frame only when it has put one around.
     if (!std::exchange(m_wasShown, true) && QGuiApplication::platformName() != "offscreen"_L1)
         QTimer::singleShot(framingMilliseconds, this, &FunctionWindow::fitScreen);
+}
+
+bool FunctionWindow::leaveView()
+{
+    return m_views && m_views->leave();
+}
+
+void FunctionWindow::watchFiles(const QStringList &names)
+{
+    m_watchedFiles = names;
+    filesSeen();
+}
+
+void FunctionWindow::filesSeen()
+{
+    m_seen = FileStamp::of(m_program.folder, m_watchedFiles);
+}
+
+void FunctionWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || m_watchedFiles.isEmpty())
+        return;
+    if (FileStamp now = FileStamp::of(m_program.folder, m_watchedFiles); now != m_seen) {
+        m_seen = std::move(now);
+        filesChanged();
+    }
 }
 
 QString FunctionWindow::storeKey(const QString &what) const

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "shell/core/message.h"
-#include "shell/core/page.h"
+#include "shell/core/pagecontext.h"
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/program/program.h"
+#include "storage/filestamp.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -65,7 +66,7 @@ public:
     bool mayLeave();
 
     /// Shows `builder`'s page over the work area; Esc or "Close Preview" brings the work back.
-    void showPreview(std::function<Page(const PageSetup &)> builder, const QString &jobName);
+    void showPreview(std::function<Page(const PageContext &)> builder, const QString &jobName);
     void closePreview();
     bool isPreviewShown() const;
 
@@ -84,8 +85,13 @@ protected:
 
     /// Asks about unsaved data and saves or drops it. False: the user stays.
     virtual bool mayDiscard() { return mayReplace(leaveQuestion()); }
+    /// What Esc does before it leaves the window, when no page is shown; false where there is nothing to do.
+    virtual bool leaveView();
     /// Called when the work comes back from the preview.
     virtual void previewClosed() {}
+    /// One of the watched files was changed by somebody else since this window saw it last; called when the
+    /// user comes back to the window.
+    virtual void filesChanged() {}
 
     Program &program() const { return m_program; }
     const Clock &clock() const { return m_program.clock; }
@@ -93,6 +99,11 @@ protected:
     ActivityBar &activity() const { return *m_activity; }
     PanelColors &colors() const { return *m_colors; }
     PreviewPane &preview();
+
+    /// The files of the data folder whose changes concern this window; they count as seen now.
+    void watchFiles(const QStringList &names);
+    /// The watched files are as this window knows them: call after reading or writing them.
+    void filesSeen();
 
     Commands &commands() const { return *m_commands; }
     /// A command that every window has; made when first asked for. Backup and restore say when there is none
@@ -144,6 +155,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
     /// A long walk is under way: the window does not close, and neither menus nor toolbar nor side pane can
     /// be used.
@@ -177,6 +189,8 @@ private:
     QList<QSplitter *> m_splitters;
     QSet<const QSplitter *> m_placed;
     QPointer<QWidget> m_focusBeforePreview;
+    QStringList m_watchedFiles;
+    FileStamp m_seen;
     bool m_busy = false;
     bool m_leaveAgreed = false;
     bool m_wasShown = false;

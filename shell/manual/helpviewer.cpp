@@ -2,6 +2,7 @@
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/searchbox.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/look/theme.h"
@@ -9,9 +10,7 @@
 #include "shell/manual/manualbrowser.h"
 #include "shell/manual/manualprint.h"
 
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QVBoxLayout>
@@ -74,11 +73,7 @@ QWidget *HelpViewer::makeContents()
     auto *rows = new QVBoxLayout(contents);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(8);
-    m_search = named(new QLineEdit(contents), u"search"_s);
-    m_search->setPlaceholderText(u"Search the manual"_s);
-    m_search->setAccessibleName(m_search->placeholderText());
-    m_search->setClearButtonEnabled(true);
-    m_search->addAction(Icons::icon("search"_L1, Theme::of(this).scheme), QLineEdit::LeadingPosition);
+    m_search = new SearchBox(u"search"_s, u"Search the manual"_s, {}, contents);
     m_list = named(new QListWidget(contents), u"contents"_s);
     m_list->setAccessibleName(u"Pages of the manual"_s);
     m_list->setItemDelegate(new HelpEntryDelegate(m_list));
@@ -86,6 +81,7 @@ QWidget *HelpViewer::makeContents()
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setResizeMode(QListView::Adjust);
     m_list->setMouseTracking(true);
+    m_search->setTarget(m_list);
     m_count = named(makeQuietLabel({}, contents), u"count"_s);
     m_count->setContentsMargins(4, 0, 0, 0);
     rows->addWidget(m_search);
@@ -136,8 +132,8 @@ void HelpViewer::makeMenus()
 
 void HelpViewer::print()
 {
-    const auto page = [this](const PageSetup &) {
-        return printedManualPage(m_manual.page(currentContext()), clock().today(), program().state.dateStyle);
+    const auto page = [this](const PageContext &context) {
+        return printedManualPage(m_manual.page(currentContext()), context);
     };
     showPreview(page, m_manual.page(currentContext()).title);
 }
@@ -217,12 +213,11 @@ void HelpViewer::markWords()
     m_browser->markWords(m_search->text().simplified().split(u' ', Qt::SkipEmptyParts));
 }
 
-void HelpViewer::keyPressEvent(QKeyEvent *event)
+/// From anywhere in the window: the whole manual comes back before the window goes.
+bool HelpViewer::leaveView()
 {
-    if (event->key() == Qt::Key_Escape && !isPreviewShown() && !m_search->text().isEmpty())
-        m_search->clear();
-    else if (event->key() == Qt::Key_Down && m_search->hasFocus())
-        m_list->setFocus();
-    else
-        FunctionWindow::keyPressEvent(event);
+    if (m_search->text().isEmpty())
+        return false;
+    m_search->clear();
+    return true;
 }

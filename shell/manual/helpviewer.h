@@ -5,8 +5,8 @@
 
 class ManualBrowser;
 class QLabel;
-class QLineEdit;
 class QListWidget;
+class SearchBox;
 
 /// The built-in manual: its contents and a search at the left, the page at the right. It is kept when it is
 /// closed, so that it opens again at the page where it was left.
@@ -23,7 +23,7 @@ public:
     int currentContext() const;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    bool leaveView() override;
 
 private:
     QWidget *makeContents();
@@ -38,7 +38,7 @@ private:
     void markWords();
 
     Manual m_manual;
-    QLineEdit *m_search = nullptr;
+    SearchBox *m_search = nullptr;
     QListWidget *m_list = nullptr;
     QLabel *m_count = nullptr;
     ManualBrowser *m_browser = nullptr;

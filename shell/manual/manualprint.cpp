@@ -4,7 +4,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Page printedManualPage(const ManualPage &manualPage, QDate printedOn, DateStyle style)
+Page printedManualPage(const ManualPage &manualPage, const PageContext &context)
 {
     static const QRegularExpression block(u"<(ol|ul)>|<(h2|p|li)>(.*?)</\\2>"_s,
                                           QRegularExpression::DotMatchesEverythingOption);
@@ -26,5 +26,5 @@ Page printedManualPage(const ManualPage &manualPage, QDate printedOn, DateStyle 
         else
             page.line(u"\u2022  "_s + text);
     }
-    return page.close(printedOn, style);
+    return page.close(context.today, context.style);
 }

@@ -250,7 +250,8 @@ void TestForm31::printsWhatIsGuarded()
     open();
     control<QAction>(*m_window, "mOPrt")->trigger();
     QVERIFY(m_window->isPreviewShown());
-    const QString text = passwordPage(true, file().areas(), QDate(2026, 11, 21), DateStyle::Usa).toText();
+    const QString text =
+        passwordPage(true, file().areas(), PageContext{.today = QDate(2026, 11, 21)}).toText();
     QVERIFY(text.contains("A password is set."_L1));
     QVERIFY(text.contains("Automobile Tracker\tasked"_L1));
     QVERIFY(text.contains("Personal Journal\tnot asked"_L1));

@@ -147,8 +147,8 @@ void TestHelpViewer::isKeptWhenItIsClosed()
 void TestHelpViewer::printsThePage()
 {
     const Manual manual(m_program->folder.path());
-    const Page page =
-        printedManualPage(manual.page(HelpContext::BackupAndRestore), QDate(2026, 11, 21), DateStyle::Usa);
+    const Page page = printedManualPage(manual.page(HelpContext::BackupAndRestore),
+                                        PageContext{.today = QDate(2026, 11, 21)});
     QCOMPARE(page.title(), u"Backup and Restore"_s);
     const QString text = page.toText();
     QVERIFY(text.contains(u"\n2.  Connect the stick or drive.\n"_s));
