@@ -9,8 +9,11 @@
 /// What every page is built for: the sheet, how dates are written, the day of printing and the household's
 /// name.
 struct PageContext {
-    PageSetup setup;
+    PageSetup setup{};
     DateStyle style = DateStyle::Usa;
-    QDate today;
-    QString family;
+    QDate today{};
+    QString family{};
+
+    /// For builders that need no more than the sheet.
+    operator const PageSetup &() const { return setup; }
 };
