@@ -22,7 +22,7 @@ public:
 
     bool hasFailed() const { return m_file.hasFailed(); }
 
-    bool write(QDate date, PlannerDay day)
+    [[nodiscard]] bool write(QDate date, PlannerDay day)
     {
         day.mark = PlannerDay::savedMark;
         return m_file.write(DayRecord::number(date), plannerDayLayout.encode(day));

@@ -130,7 +130,7 @@ void TestBackgroundSelector::marksTheSlotInUse()
     QFETCH(bool, plain);
     StartWindow start;
     if (!record.isEmpty())
-        start.test.settings.setTagged(SettingsKeys::background, record);
+        QVERIFY(start.test.settings.setTagged(SettingsKeys::background, record));
     Startfrm &window = start.show();
     start.trigger("mOBC");
     for (int i = 0; i < BackgroundChoice::slotCount; ++i) {
@@ -156,7 +156,7 @@ void TestBackgroundSelector::walksAndChoosesByKeys()
 void TestBackgroundSelector::looksForPicturesInTheProgramsFolder()
 {
     StartWindow start;
-    start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s);
+    QVERIFY(start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s));
     QImage picture(64, 40, QImage::Format_RGB32);
     picture.fill(Qt::blue);
     QVERIFY(picture.save(start.test.programFolder.filePath(u"wp3.JPG"_s), "jpg", 100));
@@ -178,7 +178,7 @@ void TestBackgroundSelector::takesAnyPicture()
 {
     QFETCH(QSize, size);
     StartWindow start;
-    start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s);
+    QVERIFY(start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s));
     if (size.isEmpty())
         start.test.setBytes(u"WP3.jpg"_s, "\xff\xd8\xff\xe0 no picture");
     else
