@@ -30,9 +30,6 @@ public:
         bool isLineWritten = false;
         bool isLineTooLong =
             false; ///< the line was left out, or the old one left, since no record can hold it
-
-        /// The entry is on disk and can be found by its name.
-        bool isComplete() const { return isEntryWritten && isLineWritten; }
     };
 
     /// What a line of the list leads to.
