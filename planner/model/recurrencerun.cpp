@@ -3,6 +3,8 @@
 #include "planner/model/dayrecord.h"
 #include "storage/openrecordfile.h"
 
+#include <utility>
+
 /// The year file that a walk is in.
 class RecurrenceRun::YearFile
 {

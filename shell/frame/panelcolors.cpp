@@ -12,6 +12,8 @@
 #include <QScopedValueRollback>
 #include <QWidget>
 
+#include <utility>
+
 PanelColors::PanelColors(Program &program, PanelColorSettings settings, QWidget *window,
                          ActivityBar &activity)
     : QObject(window)

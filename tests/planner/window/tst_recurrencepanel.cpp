@@ -331,8 +331,8 @@ void TestRecurrencePanel::livesAndStopsDuringAWalk()
     panel.finish();
     QVERIFY(atClick > 0 && atClick < 3653);
     QCOMPARE(days().size(), atClick);
-    QCOMPARE(test.dialogs.takeShown(),
-             QList<Message>{PlannerMessages::recurrenceStopped(days().rbegin()->first, true)});
+    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::recurrenceStopped(
+                                           days().rbegin()->first, RecurrenceAction::Insert)});
     QVERIFY(control<QPushButton>(panel.window(), "recurrenceOk")->isEnabled());
     QVERIFY(control<FlowToolBar>(panel.window(), "toolbar")->isEnabled());
     QVERIFY(panel.isOpen());
