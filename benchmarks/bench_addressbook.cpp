@@ -109,7 +109,7 @@ void loadNames(benchmark::State &state)
 
 void saveIntoFullBook(benchmark::State &state)
 {
-    const AddressBook book = fullBook().book();
+    AddressBook book = fullBook().book();
     const AddressEntry entry = person(1);
     Limit limit(state, 2);
     for ([[maybe_unused]] auto round : state) {

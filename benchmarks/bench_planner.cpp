@@ -16,7 +16,7 @@ constexpr int tenYears = 3652;
 constexpr int searchedYears = 30;
 
 /// Fourteen different entries for every date of the year.
-void fillYear(const PlannerFiles &files, int year)
+void fillYear(PlannerFiles &files, int year)
 {
     for (QDate date(year, 1, 1); date.year() == year; date = date.addDays(1)) {
         PlannerDay day;
@@ -25,7 +25,8 @@ void fillYear(const PlannerFiles &files, int year)
             day.texts[row] =
                 u"Appointment %1 with the gardener's cousin, no. %2"_s.arg(row).arg(date.dayOfYear());
         }
-        files.write(date, day);
+        if (!files.write(date, day))
+            qFatal("cannot fill a year");
     }
 }
 
@@ -87,7 +88,7 @@ void showMonthOfFullYear(benchmark::State &state)
 {
     const QTemporaryDir temporary;
     const DataFolder folder(temporary.path());
-    const PlannerFiles files(folder);
+    PlannerFiles files(folder);
     fillYear(files, 2026);
     const QString path = files.yearFilePath(2026);
     Limit limit(state, 10);
@@ -101,7 +102,7 @@ void searchThirtyFullYears(benchmark::State &state, const QString &text)
 {
     const QTemporaryDir temporary;
     const DataFolder folder(temporary.path());
-    const PlannerFiles files(folder);
+    PlannerFiles files(folder);
     for (int year = 2000; year < 2000 + searchedYears; ++year)
         fillYear(files, year);
     Limit limit(state, 5);

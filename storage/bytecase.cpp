@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -18,7 +18,7 @@ public:
     bool hasFailed() const { return m_hasFailed; }
 
     /// As `RecordFile::write`.
-    bool write(int number, QByteArrayView value);
+    [[nodiscard]] bool write(int number, QByteArrayView value);
 
 private:
     bool seek(int number);

@@ -62,7 +62,7 @@ QByteArray RecordFile::read(int first, int last) const
     return bytes;
 }
 
-bool RecordFile::write(int number, QByteArrayView value) const
+bool RecordFile::write(int number, QByteArrayView value)
 {
     if (number < 1 || value.size() > m_recordLength) {
         qCWarning(storageLog).noquote()
@@ -80,15 +80,13 @@ bool RecordFile::write(int number, QByteArrayView value) const
     return isWritten;
 }
 
-bool RecordFile::create() const
+void RecordFile::create()
 {
     if (QFileInfo(m_path).isFile())
-        return true;
+        return;
     QFile file(m_path);
-    if (file.open(QIODevice::ReadWrite))
-        return true;
-    qCWarning(storageLog).noquote() << "Cannot create" << m_path << '-' << file.errorString();
-    return false;
+    if (!file.open(QIODevice::ReadWrite))
+        qCWarning(storageLog).noquote() << "Cannot create" << m_path << '-' << file.errorString();
 }
 
 int RecordFile::recordCount() const

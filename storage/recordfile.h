@@ -24,10 +24,10 @@ public:
     /// Writes `value` at the start of record `number`; bytes of the record behind it keep what they held.
     /// False, with a line in the log, when the value is longer than a record, `number` is below 1, or the
     /// disk refuses.
-    bool write(int number, QByteArrayView value) const;
+    [[nodiscard]] bool write(int number, QByteArrayView value);
 
-    /// Creates the file, empty, when it is missing.
-    bool create() const;
+    /// Creates the file, empty, when it is missing. Where that fails, the log says so.
+    void create();
 
     /// Records of the file, a short last one included; 0 when it is missing.
     int recordCount() const;

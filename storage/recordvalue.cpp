@@ -78,11 +78,6 @@ std::optional<QByteArray> RecordValue::encodeTaggedText(QStringView text, qsizet
     return counted ? std::optional<QByteArray>(encodeNumber(textTag) + *counted) : std::nullopt;
 }
 
-QByteArray RecordValue::encodeTaggedNumber(std::int16_t number)
-{
-    return encodeNumber(numberTag) + encodeNumber(number);
-}
-
 QString RecordValue::decodeTagged(QByteArrayView bytes)
 {
     if (bytes.size() < 2 * numberLength)

@@ -29,10 +29,8 @@ QByteArrayView textBytes(QByteArrayView bytes);
 
 /// A tagged text: type code 8, then the counted text; the empty text is type code 0 alone.
 std::optional<QByteArray> encodeTaggedText(QStringView text, qsizetype recordLength);
-/// A tagged whole number: type code 2, then the number.
-QByteArray encodeTaggedNumber(std::int16_t number);
-/// The tagged value at the start of `bytes` as text (a number in decimal); empty for type code 0 and unknown
-/// codes.
+/// The tagged value at the start of `bytes` as text (a whole number, type code 2, in decimal); empty for type
+/// code 0 and unknown codes.
 QString decodeTagged(QByteArrayView bytes);
 
 } // namespace RecordValue

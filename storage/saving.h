@@ -17,7 +17,7 @@ inline constexpr QLatin1StringView stagedSuffix(".quillery-staged");
 /// Replaces `name` in `folder` by `content`: writes it to a neighbouring staged file, flushes it to disk,
 /// then gives it the name. False, with the old file untouched and a line in the log, when any step fails,
 /// when a folder is in the file's place, or when the file is write-protected.
-bool replaceFile(const DataFolder &folder, const QString &name, QByteArrayView content);
+[[nodiscard]] bool replaceFile(const DataFolder &folder, const QString &name, QByteArrayView content);
 
 /// Finishes what a crash interrupted: a complete staged file beside a missing or emptied original takes its
 /// place; other leftovers are removed. Called once at start, before anything is read.

@@ -12,6 +12,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/pictures/enlargedpicture.h"
 #include "shell/pictures/pictureframe.h"
@@ -283,7 +284,8 @@ void ADDBKVIEW::enlargePicture()
 
 void ADDBKVIEW::dial(const QString &number)
 {
-    m_dialler->call(number);
+    if (!m_dialler->call(number))
+        activity().say(FrameLines::settingNotSaved());
 }
 
 void ADDBKVIEW::openBackup()

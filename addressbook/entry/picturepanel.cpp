@@ -7,6 +7,7 @@
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
+#include "shell/core/framelines.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/program/program.h"
@@ -274,8 +275,10 @@ void PicturePanel::enterPicture()
         emit said(AddressLines::pathNotStorable());
         return;
     }
-    m_pictures.remember(m_folder);
+    const bool isRemembered = m_pictures.remember(m_folder);
     emit pictureEntered(path);
+    if (!isRemembered)
+        emit said(FrameLines::settingNotSaved());
 }
 
 void PicturePanel::keyPressEvent(QKeyEvent *event)

@@ -63,7 +63,7 @@ AddressBook::AddressBook(const DataFolder &folder)
 
 NameList AddressBook::loadNames() const
 {
-    const RecordFile lines = index();
+    RecordFile lines = index();
     lines.create();
     const QByteArray records = lines.read(firstRecord, overflowRecord);
     NameList names(records);
@@ -82,7 +82,7 @@ AddressEntry AddressBook::read(int record) const
 {
     if (!isEntryRecord(record))
         return {};
-    const RecordFile file = entries();
+    RecordFile file = entries();
     file.create();
     return addressLayout.decode(file.read(record));
 }
@@ -127,7 +127,7 @@ int AddressBook::nextFreeRecord() const
     return visited + 1;
 }
 
-AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry) const
+AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry)
 {
     const int record = nextFreeRecord();
     if (record == 0)
@@ -140,7 +140,7 @@ AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry) const
     return result;
 }
 
-AddressBook::SaveResult AddressBook::saveChanged(int record, const AddressEntry &entry) const
+AddressBook::SaveResult AddressBook::saveChanged(int record, const AddressEntry &entry)
 {
     if (!isEntryRecord(record))
         return {};
@@ -151,7 +151,7 @@ AddressBook::SaveResult AddressBook::saveChanged(int record, const AddressEntry 
     return result;
 }
 
-bool AddressBook::remove(int record) const
+bool AddressBook::remove(int record)
 {
     if (!isEntryRecord(record))
         return false;
@@ -193,7 +193,7 @@ AddressBook::SaveResult AddressBook::prepared(int record, const AddressEntry &en
     return result;
 }
 
-void AddressBook::writeLine(SaveResult &result) const
+void AddressBook::writeLine(SaveResult &result)
 {
     const auto bytes = RecordValue::encodeText(result.line, lineRecordLength);
     result.isLineTooLong = !bytes;

@@ -23,16 +23,13 @@ public:
     static constexpr int overflowRecord = lastRecord + 1;
 
     /// How a save went.
-    struct SaveResult {
+    struct [[nodiscard]] SaveResult {
         int record = 0; ///< where the entry went; 0 when nothing was tried
         QString line;   ///< the entry's line for the name list
         bool isEntryWritten = false;
         bool isLineWritten = false;
         bool isLineTooLong =
             false; ///< the line was left out, or the old one left, since no record can hold it
-
-        /// The entry is on disk and can be found by its name.
-        bool isComplete() const { return isEntryWritten && isLineWritten; }
     };
 
     /// What a line of the list leads to.
@@ -72,15 +69,15 @@ public:
 
     /// Writes `entry` to the first free record, then its line. A write that fails leaves the line out too, so
     /// that no name leads nowhere. The last name is not checked here.
-    SaveResult saveNew(const AddressEntry &entry) const;
+    SaveResult saveNew(const AddressEntry &entry);
 
     /// Writes the line of `record`, then the entry. A line that is too long, or that the disk refuses, stays
     /// as it was; the entry is written all the same.
-    SaveResult saveChanged(int record, const AddressEntry &entry) const;
+    SaveResult saveChanged(int record, const AddressEntry &entry);
 
     /// Marks entry and line as deleted. False, with a line in the log, when either write failed; when the
     /// first one did, nothing was changed.
-    bool remove(int record) const;
+    [[nodiscard]] bool remove(int record);
 
     /// Visits the live entries in record order, in one pass over each file; the visitor returns false to
     /// stop. An entry is live when its own record of the index holds a line.
@@ -99,7 +96,7 @@ public:
 
 private:
     SaveResult prepared(int record, const AddressEntry &entry) const;
-    void writeLine(SaveResult &result) const;
+    void writeLine(SaveResult &result);
     /// Whether `line` is the one that `entry` left in its own record when its names grew too long for the
     /// index.
     bool isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const;

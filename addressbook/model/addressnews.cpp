@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;

@@ -8,6 +8,7 @@
 #include <QScopeGuard>
 
 #include <limits>
+#include <tuple>
 
 namespace {
 
@@ -46,8 +47,7 @@ std::optional<int> anotherPort(CallDesk &desk, const QStringList &ports, int cur
 
 } // namespace
 
-Dialling::Outcome Dialling::call(const QString &number, Modem &modem, const Settings &settings,
-                                 CallDesk &desk)
+Dialling::Outcome Dialling::call(const QString &number, Modem &modem, Settings &settings, CallDesk &desk)
 {
     const QString text = dialable(number);
     if (text.isEmpty()) {
@@ -62,10 +62,12 @@ Dialling::Outcome Dialling::call(const QString &number, Modem &modem, const Sett
         if (!another)
             return Outcome::NoPort;
         current = *another;
-        settings.setNumber(SettingsKeys::modemPort, current);
+        if (!settings.setNumber(SettingsKeys::modemPort, current))
+            desk.portNotSaved();
     }
     desk.ask(AddressMessages::numberDialed(text));
-    modem.write(hangUpCommand());
+    // Where the line refuses the command, closing the port ends the call.
+    std::ignore = modem.write(hangUpCommand());
     modem.close();
     return Outcome::Called;
 }

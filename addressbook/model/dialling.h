@@ -19,7 +19,7 @@ public:
     /// Opens serial port `port` (from 1); false when there is none or it is taken.
     virtual bool open(int port) = 0;
     /// False when the line did not take all of it.
-    virtual bool write(QByteArrayView text) = 0;
+    [[nodiscard]] virtual bool write(QByteArrayView text) = 0;
     /// Does nothing when no port is open.
     virtual void close() = 0;
     /// The ports that are there, one line each, for the question for another port: "33: ttyUSB0".
@@ -37,6 +37,8 @@ public:
     virtual Answer ask(const Message &message) = 0;
     /// A number typed under `prompt`; nothing when cancelled.
     virtual std::optional<QString> askPort(const QString &prompt, int current) = 0;
+    /// The port that was typed serves this call, but could not be stored for the next one.
+    virtual void portNotSaved() = 0;
 };
 
 /// Dialling a number through a modem, and hanging up again.
@@ -50,7 +52,7 @@ enum class Outcome {
 
 /// The whole call: dials, waits at the message, hangs up. A port that cannot be opened is reported and
 /// another one asked for, which is stored for the next time.
-Outcome call(const QString &number, Modem &modem, const Settings &settings, CallDesk &desk);
+Outcome call(const QString &number, Modem &modem, Settings &settings, CallDesk &desk);
 
 /// The stored serial port: 1 when none, or none above 0, is stored.
 int port(const Settings &settings);

@@ -12,14 +12,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr double millimetersPerInch = 25.4;
 /// Words keep clear of a label's edge: sheets lie in the printer a little askew.
 constexpr QSizeF labelInset(0.16, 0.06);
 constexpr QRectF returnPlace(0.4, 0.35, 2.6, 0.95);
 
 double inches(double millimeters)
 {
-    return millimeters / millimetersPerInch;
+    return millimeters / PageMetrics::millimetersPerInch;
 }
 
 QSizeF metric(double width, double height)
@@ -32,7 +31,7 @@ LabelSheet a4Labels(int rows, double labelHeight, double top)
 {
     LabelSheet sheet;
     sheet.name = u"A4, 3 x %1, 63.5 x %2 mm"_s.arg(rows).arg(labelHeight);
-    sheet.paper = metric(210, 297);
+    sheet.paper = PageMetrics::a4;
     sheet.columns = 3;
     sheet.rows = rows;
     sheet.first = {inches(7.21), inches(top)};
@@ -45,7 +44,7 @@ LabelSheet letterLabels()
 {
     LabelSheet sheet;
     sheet.name = u"US Letter, 3 x 10, 2 5/8 x 1 in"_s;
-    sheet.paper = {8.5, 11};
+    sheet.paper = PageMetrics::letter;
     sheet.columns = 3;
     sheet.rows = 10;
     sheet.first = {0.1875, 0.5};

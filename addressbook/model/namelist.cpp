@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -14,10 +14,12 @@ Dialler::Dialler(Program &program, QWidget *window, QLabel *dialing, MakeModem m
     , m_makeModem(std::move(makeModem))
 {}
 
-void Dialler::call(const QString &number)
+bool Dialler::call(const QString &number)
 {
     const std::unique_ptr<Modem> modem = m_makeModem();
+    m_isPortSaved = true;
     Dialling::call(number, *modem, m_program.settings, *this);
+    return m_isPortSaved;
 }
 
 void Dialler::setDialing(bool isDialing)

@@ -17,7 +17,7 @@ public:
     Q_DISABLE_COPY_MOVE(SerialModem)
 
     bool open(int port) override;
-    bool write(QByteArrayView text) override;
+    [[nodiscard]] bool write(QByteArrayView text) override;
     void close() override;
     QStringList ports() const override;
 

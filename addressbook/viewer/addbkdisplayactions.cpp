@@ -52,7 +52,9 @@ void ADDBKDISPLAY::removeRow()
 void ADDBKDISPLAY::dial()
 {
     const int row = currentRow();
-    m_dialler->call(row < 0 ? QString() : m_rows->viewer().information(row).trimmed());
+    const QString number = row < 0 ? QString() : m_rows->viewer().information(row).trimmed();
+    if (!m_dialler->call(number))
+        activity().say(FrameLines::settingNotSaved());
 }
 
 void ADDBKDISPLAY::writeMail()

@@ -45,8 +45,7 @@ PageFont pageFont(const LabelSheet &sheet)
 /// The fonts of the pages, measured for the room of a label.
 LabelType labelType(const PageTypes &types, const LabelSheet &sheet)
 {
-    constexpr double pointsPerInch = 72;
-    const QSizeF room = sheet.room(0).size() * pointsPerInch;
+    const QSizeF room = sheet.room(0).size() * PageMetrics::pointsPerInch;
     return {[&types, room](const QString &line, TextRole role) {
                 return types.of(role).wrapped(line, room.width());
             },

@@ -22,7 +22,7 @@ CalendarOptions CalendarOptions::read(const Settings &settings)
             choice(settings, weekStartSetting, 1, 7), choice(settings, todaySetting, 0, 1)};
 }
 
-bool CalendarOptions::write(const Settings &settings) const
+bool CalendarOptions::write(Settings &settings) const
 {
     bool written = settings.setNumber(monthsSetting, months);
     written = settings.setNumber(weekNumbersSetting, weekNumbers) && written;

@@ -14,7 +14,7 @@ struct CalendarOptions {
     /// The options of the file; a missing record or a number that is no choice gives the default.
     static CalendarOptions read(const Settings &settings);
     /// Writes all four; false when the disk refuses one.
-    bool write(const Settings &settings) const;
+    [[nodiscard]] bool write(Settings &settings) const;
 
     int shownMonths() const { return months == 1 ? 2 : 1; }
     bool showsWeekNumbers() const { return weekNumbers == 0; }

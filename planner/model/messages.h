@@ -1,9 +1,12 @@
 #pragma once
 
+#include "planner/model/recurrence.h"
 #include "shell/core/message.h"
 
 #include <QDate>
 #include <QLocale>
+
+#include <optional>
 
 /// The planner's questions and notices.
 namespace PlannerMessages {
@@ -101,14 +104,15 @@ inline std::optional<Message> recurrenceReport(int made, int full)
     return Message{u"Recurrence Option"_s, text};
 }
 
-inline Message recurrenceStopped(QDate last, bool inserting)
+inline Message recurrenceStopped(QDate last, RecurrenceAction action)
 {
-    return {u"Recurrence Interruption!"_s,
-            u"Recurrence File Update has been Stopped Prior to Completion!\n"_s +
-                u"Not all updates have been accomplished!\n"_s +
-                (inserting ? u"Last entry date was: "_s : u"Last entry date was:"_s) +
-                QLocale::c().toString(last, u"ddd - MM/dd/yyyy"_s),
-            Message::Critical};
+    return {
+        u"Recurrence Interruption!"_s,
+        u"Recurrence File Update has been Stopped Prior to Completion!\n"_s +
+            u"Not all updates have been accomplished!\n"_s +
+            (action == RecurrenceAction::Insert ? u"Last entry date was: "_s : u"Last entry date was:"_s) +
+            QLocale::c().toString(last, u"ddd - MM/dd/yyyy"_s),
+        Message::Critical};
 }
 
 inline Message importToDoItems()

@@ -57,13 +57,13 @@ PlannerDay PlannerFiles::read(QDate date) const
     return peek(date);
 }
 
-bool PlannerFiles::write(QDate date, const PlannerDay &day) const
+bool PlannerFiles::write(QDate date, const PlannerDay &day)
 {
     if (!date.isValid())
         return false;
     PlannerDay saved = day;
     saved.mark = PlannerDay::savedMark;
-    const RecordFile file(yearFilePath(date.year()), DayRecord::length);
+    RecordFile file(yearFilePath(date.year()), DayRecord::length);
     return file.write(DayRecord::number(date), plannerDayLayout.encode(saved));
 }
 

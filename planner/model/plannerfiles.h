@@ -27,7 +27,7 @@ public:
 
     /// Writes `day`, marked as saved, into `date`'s record: 850 bytes, cut and padded to the fields' widths.
     /// False when the disk refuses; the rest of the file keeps what it held.
-    bool write(QDate date, const PlannerDay &day) const;
+    [[nodiscard]] bool write(QDate date, const PlannerDay &day);
 
     /// Visits the saved days of `year` by date, after one read of its file; nothing when the file is missing.
     void forEachDay(int year, const std::function<void(QDate date, const PlannerDay &day)> &visit) const;

@@ -19,11 +19,7 @@ constexpr double margin = 0.5;
 constexpr double placedTop = 1.12;
 constexpr double closingHeight = 0.55;
 constexpr double inset = 0.06;
-constexpr double bodyLine = 11 * 1.35 / 72;
-constexpr double smallLine = 10 * 1.35 / 72;
-/// Letters on an inch, in the widest of the common fonts.
-constexpr double bodyCharacters = 10.6;
-constexpr double smallCharacters = 11.6;
+constexpr double bodyLine = PageMetrics::lineHeight(TextRole::Body);
 
 constexpr int daysPerWeek = 7;
 /// Rows that the days of a listed week share on one sheet.
@@ -94,11 +90,11 @@ Page listedWeek(QDate start, const Days &days, const Paper &paper)
 /// The fonts and line heights that entries are set in.
 struct Setting {
     TextRole role;
-    double line;
-    double characters; ///< on an inch
+    double line = PageMetrics::lineHeight(role);
+    double characters = PageMetrics::charactersPerInch(role); ///< on an inch
 };
-constexpr Setting roomy{TextRole::Body, bodyLine, bodyCharacters};
-constexpr Setting dense{TextRole::Small, smallLine, smallCharacters};
+constexpr Setting roomy{TextRole::Body};
+constexpr Setting dense{TextRole::Small};
 
 /// The block of a day in a wide week: the time before the text.
 constexpr double blockTime = 0.92;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 PlannerSearch::PlannerSearch(const PlannerFiles &files, const QString &text)
     : m_files(files)

@@ -34,7 +34,6 @@ public:
     /// What was found so far, by date.
     const std::vector<PlannerHit> &hits() const { return m_hits; }
     int yearCount() const { return int(m_years.size()); }
-    int yearsDone() const { return m_done; }
 
 private:
     void look(QByteArrayView record, int number, int year);

@@ -17,6 +17,9 @@ struct Appointment {
     bool operator==(const Appointment &) const = default;
 };
 
+/// What is done with the appointment on the dates of its recurrence.
+enum class RecurrenceAction { Insert, Remove };
+
 /// When an appointment comes back: a kind with its interval, from a beginning date to an end date or for a
 /// number of occurrences.
 struct Recurrence {

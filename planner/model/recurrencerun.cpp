@@ -3,6 +3,8 @@
 #include "planner/model/dayrecord.h"
 #include "storage/openrecordfile.h"
 
+#include <utility>
+
 /// The year file that a walk is in.
 class RecurrenceRun::YearFile
 {
@@ -22,7 +24,7 @@ public:
 
     bool hasFailed() const { return m_file.hasFailed(); }
 
-    bool write(QDate date, PlannerDay day)
+    [[nodiscard]] bool write(QDate date, PlannerDay day)
     {
         day.mark = PlannerDay::savedMark;
         return m_file.write(DayRecord::number(date), plannerDayLayout.encode(day));

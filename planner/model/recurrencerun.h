@@ -5,8 +5,6 @@
 
 #include <memory>
 
-enum class RecurrenceAction { Insert, Remove };
-
 /// What one date's operation came to.
 enum class DateResult {
     Made,    ///< the appointment was put into the day

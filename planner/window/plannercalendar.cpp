@@ -9,6 +9,8 @@
 #include <QBoxLayout>
 #include <QScopedValueRollback>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -162,7 +162,7 @@ void RecurrencePanel::finish(bool wasStopped)
     if (wasStopped) {
         emit said({});
         if (run->lastDate().isValid())
-            m_program.dialogs.ask(this, PlannerMessages::recurrenceStopped(run->lastDate(), isInsert));
+            m_program.dialogs.ask(this, PlannerMessages::recurrenceStopped(run->lastDate(), m_action));
         return;
     }
     if (run->failed() > 0) {

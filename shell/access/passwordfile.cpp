@@ -139,7 +139,7 @@ bool PasswordFile::matches(const QString &password) const
     return crypto_pwhash_str_verify(content.verifier.constData(), typed.data(), typed.size()) == 0;
 }
 
-bool PasswordFile::setPassword(const QString &password) const
+bool PasswordFile::setPassword(const QString &password)
 {
     const Content content = read();
     if (content.state == State::Damaged || password.isEmpty())
@@ -163,7 +163,7 @@ bool PasswordFile::setPassword(const QString &password) const
     return writeVerifier(verifier, content.verifier);
 }
 
-bool PasswordFile::removePassword() const
+bool PasswordFile::removePassword()
 {
     const Content content = read();
     if (content.state == State::Damaged)
@@ -176,7 +176,7 @@ bool PasswordFile::removePassword() const
     return writeVerifier({}, content.verifier);
 }
 
-bool PasswordFile::saveAreas(const ProtectedAreas &areas) const
+bool PasswordFile::saveAreas(const ProtectedAreas &areas)
 {
     const Content content = read();
     if (content.state == State::Damaged)
@@ -242,16 +242,16 @@ PasswordFile::Content PasswordFile::read() const
     return file.error() == QFile::NoError ? parsed(bytes) : damaged();
 }
 
-bool PasswordFile::writeFlag(int area, const QString &flag) const
+bool PasswordFile::writeFlag(int area, const QString &flag)
 {
-    const RecordFile file(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
+    RecordFile file(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
     const std::optional<QByteArray> bytes = RecordValue::encodeText(flag, passwordFile.recordLength);
     return bytes && file.write(firstFlagRecord + area, *bytes);
 }
 
-bool PasswordFile::writeVerifier(const QByteArray &verifier, const QByteArray &old) const
+bool PasswordFile::writeVerifier(const QByteArray &verifier, const QByteArray &old)
 {
-    const RecordFile file(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
+    RecordFile file(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
     std::optional<QByteArray> bytes =
         RecordValue::encodeText(QString::fromLatin1(verifier), passwordFile.recordLength);
     if (!bytes)

@@ -46,14 +46,14 @@ public:
 
     /// Sets or replaces the password; whoever calls has asked for the old one. False, with the old password
     /// in force, when `password` is empty, the file is damaged, or the disk refuses.
-    bool setPassword(const QString &password) const;
+    [[nodiscard]] bool setPassword(const QString &password);
 
     /// Takes the password away, and all flags with it. False when the file is damaged or the disk refuses.
-    bool removePassword() const;
+    [[nodiscard]] bool removePassword();
 
     /// Writes the flags that differ from those in the file. False when the file is damaged, when a flag would
     /// be set without a password, or when the disk refuses.
-    bool saveAreas(const ProtectedAreas &areas) const;
+    [[nodiscard]] bool saveAreas(const ProtectedAreas &areas);
 
 private:
     struct Content {
@@ -65,8 +65,8 @@ private:
     static Content damaged();
     static Content parsed(QByteArrayView bytes);
     Content read() const;
-    bool writeFlag(int area, const QString &flag) const;
-    bool writeVerifier(const QByteArray &verifier, const QByteArray &old) const;
+    [[nodiscard]] bool writeFlag(int area, const QString &flag);
+    [[nodiscard]] bool writeVerifier(const QByteArray &verifier, const QByteArray &old);
 
     const DataFolder &m_folder;
     PasswordCost m_cost;

@@ -39,7 +39,7 @@ QLabel *makeWrapped(QLabel *label)
 
 } // namespace
 
-PasswordPane::PasswordPane(const PasswordFile &file, std::chrono::milliseconds step, QWidget *parent)
+PasswordPane::PasswordPane(PasswordFile &file, std::chrono::milliseconds step, QWidget *parent)
     : QWidget(parent)
     , m_file(file)
     , m_attempts(step)

@@ -18,7 +18,7 @@ class PasswordPane final : public QWidget
 {
     Q_OBJECT
 public:
-    PasswordPane(const PasswordFile &file, std::chrono::milliseconds step, QWidget *parent = nullptr);
+    PasswordPane(PasswordFile &file, std::chrono::milliseconds step, QWidget *parent = nullptr);
 
     /// Shows what the file says now.
     void refresh();
@@ -50,7 +50,7 @@ private:
     void endWait();
     void endAsking();
 
-    const PasswordFile &m_file;
+    PasswordFile &m_file;
     Attempts m_attempts;
     Task m_task = Task::None;
 

@@ -41,7 +41,6 @@ public:
 
     /// 0: no limit. One character is one byte; what is pasted beyond the limit is cut.
     void setByteLimit(int limit);
-    int byteLimit() const { return m_limit; }
     void setLocked(bool locked);
     bool isLocked() const { return isReadOnly(); }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 #include <type_traits>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 

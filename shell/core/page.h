@@ -12,25 +12,57 @@
 #include <variant>
 #include <vector>
 
-/// The sheet that pages are built for, in inches, as it lies: landscape has the longer side across.
-struct PageSetup {
-    enum Orientation { Portrait, Landscape };
-
-    QSizeF paper{8.5, 11.0}; ///< portrait size
-    Orientation orientation = Portrait;
-
-    /// Width and height of the sheet as it lies.
-    QSizeF sheet() const { return orientation == Portrait ? paper : paper.transposed(); }
-
-    bool operator==(const PageSetup &) const = default;
-};
-
 /// How a line of a page is set.
 enum class TextRole {
     Body,    ///< 11 pt in the page font
     Strong,  ///< body, semibold
     Heading, ///< 13 pt semibold
     Small    ///< 10 pt
+};
+
+/// Measures of paper and print that pages are built with, before any font is known.
+namespace PageMetrics {
+
+inline constexpr double pointsPerInch = 72;
+inline constexpr double millimetersPerInch = 25.4;
+/// Upright sheets, in inches.
+inline constexpr QSizeF letter{8.5, 11.0};
+inline constexpr QSizeF a4{210 / millimetersPerInch, 297 / millimetersPerInch};
+
+inline constexpr double bodyPoints = 11;
+inline constexpr double headingPoints = 13;
+inline constexpr double smallPoints = 10;
+/// The distance of two lines, in sizes of their font.
+inline constexpr double lineFactor = 1.35;
+
+/// The distance of two lines in inches, where the page font has its usual size.
+constexpr double lineHeight(TextRole role)
+{
+    const double points = role == TextRole::Heading ? headingPoints
+                          : role == TextRole::Small ? smallPoints
+                                                    : bodyPoints;
+    return points * lineFactor / pointsPerInch;
+}
+
+/// How many letters of a text fit on an inch, in the widest of the common fonts; `role` is Body or Small.
+constexpr double charactersPerInch(TextRole role)
+{
+    return role == TextRole::Small ? 11.6 : 10.6;
+}
+
+} // namespace PageMetrics
+
+/// The sheet that pages are built for, in inches, as it lies: landscape has the longer side across.
+struct PageSetup {
+    enum Orientation { Portrait, Landscape };
+
+    QSizeF paper = PageMetrics::letter; ///< portrait size
+    Orientation orientation = Portrait;
+
+    /// Width and height of the sheet as it lies.
+    QSizeF sheet() const { return orientation == Portrait ? paper : paper.transposed(); }
+
+    bool operator==(const PageSetup &) const = default;
 };
 
 /// The lines that part the cells of a table.

@@ -11,7 +11,7 @@ QString Settings::text(const TextSetting &setting) const
     return RecordValue::decodeText(open(setting.file).read(setting.record));
 }
 
-bool Settings::setText(const TextSetting &setting, const QString &text) const
+bool Settings::setText(const TextSetting &setting, const QString &text)
 {
     const auto bytes = RecordValue::encodeText(text, setting.file.recordLength);
     return bytes && open(setting.file).write(setting.record, *bytes);
@@ -22,7 +22,7 @@ int Settings::number(const NumberSetting &setting) const
     return RecordValue::decodeNumber(open(setting.file).read(setting.record));
 }
 
-bool Settings::setNumber(const NumberSetting &setting, int number) const
+bool Settings::setNumber(const NumberSetting &setting, int number)
 {
     const auto clamped = RecordValue::clampedNumber(number);
     return open(setting.file).write(setting.record, RecordValue::encodeNumber(clamped));
@@ -33,7 +33,7 @@ QString Settings::tagged(const TaggedSetting &setting) const
     return RecordValue::decodeTagged(open(setting.file).read(setting.record));
 }
 
-bool Settings::setTagged(const TaggedSetting &setting, const QString &text) const
+bool Settings::setTagged(const TaggedSetting &setting, const QString &text)
 {
     const auto bytes = RecordValue::encodeTaggedText(text, setting.file.recordLength);
     return bytes && open(setting.file).write(setting.record, *bytes);

@@ -37,22 +37,21 @@ struct TaggedSetting {
 };
 
 /// The household's settings. Nothing is cached: each call opens its file, reads or writes one value and
-/// closes it. A missing, short or damaged file reads as the empty value; a write that fails returns false and
-/// is otherwise ignored.
+/// closes it. A missing, short or damaged file reads as the empty value; a write that fails returns false.
 class Settings
 {
 public:
     explicit Settings(const DataFolder &folder);
 
     QString text(const TextSetting &setting) const;
-    bool setText(const TextSetting &setting, const QString &text) const;
+    [[nodiscard]] bool setText(const TextSetting &setting, const QString &text);
 
     int number(const NumberSetting &setting) const;
     /// Numbers outside the signed 16-bit range are clamped to it.
-    bool setNumber(const NumberSetting &setting, int number) const;
+    [[nodiscard]] bool setNumber(const NumberSetting &setting, int number);
 
     QString tagged(const TaggedSetting &setting) const;
-    bool setTagged(const TaggedSetting &setting, const QString &text) const;
+    [[nodiscard]] bool setTagged(const TaggedSetting &setting, const QString &text);
 
 private:
     RecordFile open(const SettingsFile &file) const;

@@ -2,6 +2,8 @@
 
 #include <QElapsedTimer>
 
+#include <utility>
+
 namespace {
 
 constexpr int sliceMilliseconds = 12;

@@ -372,8 +372,10 @@ void FunctionWindow::showTopToolbar()
 
 void FunctionWindow::restoreTopToolbar()
 {
-    m_program.settings.setNumber(SettingsKeys::sideToolbarMarker, SettingsKeys::sideToolbarsRemoved);
-    TopToolbar::setRemoved(m_program, false);
+    const bool isMarked =
+        m_program.settings.setNumber(SettingsKeys::sideToolbarMarker, SettingsKeys::sideToolbarsRemoved);
+    if (!TopToolbar::setRemoved(m_program, false) || !isMarked)
+        m_activity->say(FrameLines::settingNotSaved());
     if (m_toolbarLayout)
         m_toolbarLayout->restore();
 }
@@ -385,7 +387,10 @@ void FunctionWindow::showToolbarMenu(const QPoint &place)
     QAction *remove = makeAction(u"removeTopToolbar"_s, u"&Remove Top Toolbar"_s, menu);
     QAction *customize = makeAction(u"customizeToolbar"_s, u"&Customize Toolbar"_s, menu);
     menu->addActions({remove, customize});
-    connect(remove, &QAction::triggered, this, [this] { TopToolbar::setRemoved(m_program, true); });
+    connect(remove, &QAction::triggered, this, [this] {
+        if (!TopToolbar::setRemoved(m_program, true))
+            m_activity->say(FrameLines::settingNotSaved());
+    });
     connect(customize, &QAction::triggered, this, [this] {
         ToolbarCustomizer customizer(*m_toolbarLayout, this);
         m_program.dialogs.run(customizer);

@@ -12,6 +12,8 @@
 #include <QScopedValueRollback>
 #include <QWidget>
 
+#include <utility>
+
 PanelColors::PanelColors(Program &program, PanelColorSettings settings, QWidget *window,
                          ActivityBar &activity)
     : QObject(window)
@@ -131,7 +133,7 @@ void PanelColors::apply()
 
 void PanelColors::save()
 {
-    const Settings &settings = m_program.settings;
+    Settings &settings = m_program.settings;
     const QString panel = ColorText::encode(m_panel.value_or(Theme::of(m_window).panel));
     const bool panelChanged = std::exchange(m_panelChanged, false);
     const bool textChanged = std::exchange(m_textChanged, false);
@@ -141,12 +143,12 @@ void PanelColors::save()
     if (textChanged && m_settings.text)
         isSaved &= settings.setText(*m_settings.text,
                                     m_text ? ColorText::encode(*m_text) : ColorText::defaultText());
-    if (!isSaved)
-        m_activity.say(FrameLines::settingNotSaved());
     if (panelChanged) {
         // A colour that could not be written stays on this window until it closes.
         const QScopedValueRollback<bool> saving(m_isSaving, !isSaved);
         QString pending = panel;
-        HINFO1::updateProgramColors(m_program, m_window, pending, 0);
+        isSaved = HINFO1::updateProgramColors(m_program, m_window, pending, 0) && isSaved;
     }
+    if (!isSaved)
+        m_activity.say(FrameLines::settingNotSaved());
 }

@@ -75,11 +75,12 @@ bool TopToolbar::isRemoved(const Program &program, const TextSetting &setting)
     return program.state.topToolbarRemoved.value_or(program.settings.text(setting) == "OFF"_L1);
 }
 
-void TopToolbar::setRemoved(Program &program, bool removed)
+bool TopToolbar::setRemoved(Program &program, bool removed)
 {
     program.state.topToolbarRemoved = removed;
     const QString state = removed ? u"OFF"_s : u"ON"_s;
-    program.settings.setText(SettingsKeys::topToolbar, state);
-    program.settings.setText(SettingsKeys::weightTopToolbar, state);
+    const bool isWritten = program.settings.setText(SettingsKeys::topToolbar, state);
+    const bool isCopied = program.settings.setText(SettingsKeys::weightTopToolbar, state);
     emit program.changes.topToolbarChanged();
+    return isWritten && isCopied;
 }

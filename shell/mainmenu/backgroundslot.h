@@ -19,7 +19,6 @@ public:
     void load(const QString &path);
 
     void setInUse(bool inUse);
-    bool isInUse() const { return m_inUse; }
 
     /// Shows the picture at `size`; the name below may make the slot wider, up to `widest` pixels.
     void setPictureSize(QSize size, int widest);

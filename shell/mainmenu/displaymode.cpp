@@ -61,7 +61,7 @@ void DisplayMode::useDefaultSize()
     m_window->setWindowState(Qt::WindowNoState);
     const QSize size = HINFO1::minimumTwips / HINFO1::twipsPerPixel;
     m_window->resize(size);
-    HINFO1::saveMainWindowSize(m_program, false, size);
+    tellUnless(HINFO1::saveMainWindowSize(m_program, false, size));
 }
 
 void DisplayMode::toggle()
@@ -93,7 +93,13 @@ void DisplayMode::save()
 {
     const bool maximized = m_window->windowState().testFlag(Qt::WindowMaximized);
     setMode(maximized ? ScreenMode::FullScreen : ScreenMode::Smaller);
-    HINFO1::saveMainWindowSize(m_program, maximized, m_window->size());
+    tellUnless(HINFO1::saveMainWindowSize(m_program, maximized, m_window->size()));
+}
+
+void DisplayMode::tellUnless(bool isSaved)
+{
+    if (!isSaved)
+        emit notSaved();
 }
 
 void DisplayMode::setMode(ScreenMode mode)
@@ -106,7 +112,8 @@ void DisplayMode::setMode(ScreenMode mode)
 void DisplayMode::write(ScreenMode mode)
 {
     setMode(mode);
-    m_program.settings.setText(SettingsKeys::smallerScreen, mode == ScreenMode::Smaller ? u"Yes"_s : u"No"_s);
+    const QString text = mode == ScreenMode::Smaller ? u"Yes"_s : u"No"_s;
+    tellUnless(m_program.settings.setText(SettingsKeys::smallerScreen, text));
 }
 
 QSize DisplayMode::rememberedSize() const

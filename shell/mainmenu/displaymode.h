@@ -37,7 +37,12 @@ public:
     /// Takes the mode from the window and writes it with the size: at exit.
     void save();
 
+signals:
+    /// The disk refused the mode or the size: it holds for this run.
+    void notSaved();
+
 private:
+    void tellUnless(bool isSaved);
     void setMode(ScreenMode mode);
     void write(ScreenMode mode);
     QSize rememberedSize() const;

@@ -104,8 +104,15 @@ void Startfrm::showListFile(const TopButtons::ShowsListFile &button)
 void Startfrm::askFamilyName()
 {
     m_activity->setActivity(u"Family Name"_s);
-    HINFO1::askFamilyName(m_program, this);
+    const bool isSaved = HINFO1::askFamilyName(m_program, this);
     showMainMenu();
+    if (!isSaved)
+        tellSettingNotSaved();
+}
+
+void Startfrm::tellSettingNotSaved()
+{
+    m_activity->say(FrameLines::settingNotSaved());
 }
 
 void Startfrm::showAbout()
@@ -135,8 +142,11 @@ void Startfrm::openBackupHelp()
 
 void Startfrm::toggleTopToolbar()
 {
-    TopToolbar::setRemoved(m_program, !TopToolbar::isRemoved(m_program, SettingsKeys::topToolbar));
+    const bool isRemoved = TopToolbar::isRemoved(m_program, SettingsKeys::topToolbar);
+    const bool isSaved = TopToolbar::setRemoved(m_program, !isRemoved);
     setUp();
+    if (!isSaved)
+        tellSettingNotSaved();
 }
 
 void Startfrm::showTopToolbarMenu(const QPoint &place)
@@ -164,8 +174,10 @@ void Startfrm::customizeTopToolbar()
 void Startfrm::useDefaultPanelColor()
 {
     QString pending = ColorText::encode(Theme::of(this).panel);
-    HINFO1::updateProgramColors(m_program, this, pending, HINFO1::updateWithoutAsking);
-    m_activity->say(u"The default panel color is set for the whole program."_s);
+    if (HINFO1::updateProgramColors(m_program, this, pending, HINFO1::updateWithoutAsking))
+        m_activity->say(u"The default panel color is set for the whole program."_s);
+    else
+        tellSettingNotSaved();
 }
 
 void Startfrm::openBackgroundSelector()
@@ -193,7 +205,7 @@ void Startfrm::chooseBackground()
     const bool isSaved = m_program.settings.setTagged(SettingsKeys::background, m_background.recordText());
     closeBackgroundSelector();
     if (!isSaved)
-        m_activity->say(FrameLines::settingNotSaved());
+        tellSettingNotSaved();
 }
 
 /// Back to the main menu with the background that was chosen last.

@@ -80,6 +80,7 @@ void Startfrm::makeOptionsMenu(QMenu &menu)
     addSeparator(*display, "mO67");
     display->addAction(usualSize);
     m_displayMode = new DisplayMode(m_program, this, fullScreen, smaller);
+    connect(m_displayMode, &DisplayMode::notSaved, this, [this] { tellSettingNotSaved(); });
     connect(fullScreen, &QAction::triggered, m_displayMode, &DisplayMode::useFullScreen);
     connect(smaller, &QAction::triggered, m_displayMode, &DisplayMode::useSmallerScreen);
     connect(usualSize, &QAction::triggered, m_displayMode, &DisplayMode::useDefaultSize);

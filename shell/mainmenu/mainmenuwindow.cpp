@@ -94,8 +94,10 @@ void Startfrm::listen()
         refreshNews();
         checkScreen();
     });
-    connect(m_activity, &ActivityBar::restoreTopToolbarRequested, this,
-            [this] { TopToolbar::setRemoved(m_program, false); });
+    connect(m_activity, &ActivityBar::restoreTopToolbarRequested, this, [this] {
+        if (!TopToolbar::setRemoved(m_program, false))
+            tellSettingNotSaved();
+    });
     connect(m_activity, &ActivityBar::restoreSideToolbarsRequested, this, [this] { showSideToolbars(true); });
     connect(&m_program.changes, &ProgramSignals::topToolbarChanged, this, &Startfrm::showTopToolbar);
     connect(&m_program.changes, &ProgramSignals::familyNameChanged, this, &Startfrm::showMainMenu);
@@ -132,10 +134,8 @@ void Startfrm::activate()
     m_background = BackgroundChoice::ofRecord(m_program.settings.tagged(SettingsKeys::background));
     m_colors->load();
     setUp();
-    // The marker is read and then overruled: the side toolbars always start removed.
-    int marker = m_program.settings.number(SettingsKeys::sideToolbarMarker);
-    marker = SettingsKeys::sideToolbarsRemoved;
-    showSideToolbars(marker != SettingsKeys::sideToolbarsRemoved);
+    // Whatever the marker's record says: they always start removed.
+    showSideToolbars(false);
     m_program.state.startup = StartupDone;
     m_picture->desk().focusFirstCard();
 }
@@ -209,9 +209,12 @@ void Startfrm::showSideToolbars(bool shown)
 void Startfrm::removeSideToolbars()
 {
     showSideToolbars(false);
-    m_program.settings.setNumber(SettingsKeys::sideToolbarMarker, SettingsKeys::sideToolbarsRemoved);
+    const bool isSaved =
+        m_program.settings.setNumber(SettingsKeys::sideToolbarMarker, SettingsKeys::sideToolbarsRemoved);
     setUp();
     m_picture->desk().focusFirstCard();
+    if (!isSaved)
+        tellSettingNotSaved();
 }
 
 void Startfrm::refreshNews()

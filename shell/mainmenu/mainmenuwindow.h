@@ -78,6 +78,7 @@ private:
     void openForeignFunction(int area);
     void showListFile(const TopButtons::ShowsListFile &button);
     void askFamilyName();
+    void tellSettingNotSaved();
     void showAbout();
     void openWebSite();
     void openOverview();

@@ -8,10 +8,10 @@
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
+using PageMetrics::pointsPerInch;
 
 namespace {
 
-constexpr double pointsPerInch = 72;
 constexpr double margin = 0.5 * pointsPerInch;
 /// The narrowest and the widest sheet that is laid out, in inches: a damaged paper size must not end in no
 /// room at all.

@@ -10,9 +10,10 @@
 #include <algorithm>
 #include <numeric>
 
+using PageMetrics::pointsPerInch;
+
 namespace {
 
-constexpr double pointsPerInch = 72;
 constexpr double metersPerInch = 0.0254;
 /// A sheet at more dots would not fit into an image.
 constexpr double maximumDotsPerInch = 1200;

@@ -1,5 +1,7 @@
 #include "shell/pages/pagepicture.h"
 
+#include "shell/core/page.h"
+
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
@@ -10,7 +12,7 @@
 namespace {
 
 /// What a printer can show; a screen asks for fewer.
-constexpr double maximumDotsPerPoint = 300 / 72.0;
+constexpr double maximumDotsPerPoint = 300 / PageMetrics::pointsPerInch;
 constexpr QColor rimColor(0xDD, 0xDD, 0xDD);
 
 QSize pixelsOf(const QPainter &painter, QSizeF points)

@@ -10,14 +10,14 @@
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
+using PageMetrics::bodyPoints;
+using PageMetrics::headingPoints;
+using PageMetrics::lineFactor;
+using PageMetrics::smallPoints;
 
 namespace {
 
-constexpr double lineFactor = 1.35;
 constexpr double titlePoints = 16;
-constexpr double bodyPoints = 11;
-constexpr double headingPoints = 13;
-constexpr double smallPoints = 10;
 constexpr int longestWord = 1000;
 constexpr QColor footColor(0x5A, 0x5A, 0x5A);
 

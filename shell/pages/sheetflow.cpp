@@ -9,10 +9,10 @@
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
+using PageMetrics::pointsPerInch;
 
 namespace {
 
-constexpr double pointsPerInch = 72;
 constexpr double margin = 0.5 * pointsPerInch;
 constexpr double thin = 0.5;
 constexpr double rule = 0.75;

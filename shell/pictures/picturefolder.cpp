@@ -40,7 +40,7 @@ QString PictureFolder::lastUsed() const
     return stored.isEmpty() ? u"C:\\"_s : stored;
 }
 
-bool PictureFolder::remember(const QString &folder) const
+bool PictureFolder::remember(const QString &folder)
 {
     QString line = QDir::toNativeSeparators(folder);
     if (!line.endsWith(QDir::separator()))

@@ -15,7 +15,7 @@ public:
     QString lastUsed() const;
     /// Stores `folder` with a separator at its end. False, with a line in the log, when the disk refuses or
     /// the path holds characters that the file cannot.
-    bool remember(const QString &folder) const;
+    [[nodiscard]] bool remember(const QString &folder);
 
     /// The file that a stored path means: the path as it stands, else a file of its name in the data folder
     /// or the `Pictures` folder in it; empty when there is none.

@@ -37,7 +37,6 @@ constexpr int tightSpacing = 4;
 constexpr int looseFrom = 560; ///< height of the pane
 constexpr int defaultPoints = 11;
 constexpr double clipboardDotsPerInch = 150;
-constexpr double millimetersPerInch = 25.4;
 
 /// The zoom button tells its state by its caption: the command that it offers next.
 QString enlargeCaption()
@@ -54,9 +53,7 @@ void offerZoom(QPushButton &button, bool enlarge)
 
 QSizeF usualPaper(DateStyle style)
 {
-    const QSizeF letter(8.5, 11);
-    const QSizeF a4(210 / millimetersPerInch, 297 / millimetersPerInch);
-    return style == DateStyle::Usa ? letter : a4;
+    return style == DateStyle::Usa ? PageMetrics::letter : PageMetrics::a4;
 }
 
 ColumnButton *makeColumnButton(const QString &name, const QString &caption, QLatin1StringView icon,

@@ -144,9 +144,8 @@ const QImage &SheetView::picture(QSize pixels)
     // while.
     const bool isSettling = m_settling.isActive() && !m_picture.isNull();
     if (m_picture.size() != pixels && !isSettling) {
-        constexpr double pointsPerInch = 72;
-        m_picture =
-            m_painter->image(m_index, pixels.width() * pointsPerInch / m_painter->sheetSize().width());
+        m_picture = m_painter->image(m_index, pixels.width() * PageMetrics::pointsPerInch /
+                                                  m_painter->sheetSize().width());
     }
     return m_picture;
 }

@@ -19,13 +19,15 @@ namespace {
 constexpr int clockStep = 20; // ms
 
 template <std::size_t Count>
-void writeToAll(const Program &program, const SettingsFile &file, const std::array<int, Count> &records,
+bool writeToAll(Program &program, const SettingsFile &file, const std::array<int, Count> &records,
                 const QString &text)
 {
+    bool isWritten = true;
     for (const int record : records)
-        program.settings.setText({file, record}, text);
+        isWritten = program.settings.setText({file, record}, text) && isWritten;
     // The screen repaints between the files; what the user does meanwhile waits.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    return isWritten;
 }
 
 /// A side of the window in twips, as a record holds it.
@@ -52,7 +54,7 @@ void HINFO1::showColorConflict(Program &program, QWidget *parent)
     program.dialogs.ask(parent, ShellMessages::colorConflict());
 }
 
-void HINFO1::askFamilyName(Program &program, QWidget *parent)
+bool HINFO1::askFamilyName(Program &program, QWidget *parent)
 {
     const FamilyName stored(program.settings.text(SettingsKeys::familyName));
     hourglassOff();
@@ -64,9 +66,10 @@ void HINFO1::askFamilyName(Program &program, QWidget *parent)
     if (given.isEmpty() && !stored.isEmpty() &&
         program.dialogs.ask(parent, ShellMessages::deleteFamilyName(stored.text())) != Answer::Yes)
         kept = stored;
-    program.settings.setText(SettingsKeys::familyName, kept.text());
+    const bool isWritten = program.settings.setText(SettingsKeys::familyName, kept.text());
     program.state.familyName = kept;
     emit program.changes.familyNameChanged();
+    return isWritten;
 }
 
 void HINFO1::pauseOneSecond(const Program &program)
@@ -85,7 +88,7 @@ void HINFO1::pauseOneSecond(const Program &program)
     loop.exec();
 }
 
-void HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder)
+bool HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder)
 {
     if (answerHolder != updateWithoutAsking &&
         program.dialogs.ask(parent, ShellMessages::updateWholeProgram()) != Answer::Yes)
@@ -93,20 +96,26 @@ void HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pen
     const QString text = pending.trimmed();
     pending.clear();
     if (text.isEmpty() || text.size() > ColorText::maximumLength)
-        return;
-    writeToAll(program, SettingsKeys::colorFile1, SettingsKeys::programColors1, text);
-    writeToAll(program, SettingsKeys::colorFile2, SettingsKeys::programColors2, text);
-    writeToAll(program, SettingsKeys::colorFile3, SettingsKeys::programColors3, text);
+        return true;
+    bool isWritten = writeToAll(program, SettingsKeys::colorFile1, SettingsKeys::programColors1, text);
+    isWritten =
+        writeToAll(program, SettingsKeys::colorFile2, SettingsKeys::programColors2, text) && isWritten;
+    isWritten =
+        writeToAll(program, SettingsKeys::colorFile3, SettingsKeys::programColors3, text) && isWritten;
     emit program.changes.panelColorsChanged(text);
+    return isWritten;
 }
 
-void HINFO1::saveMainWindowSize(Program &program, bool maximized, QSize size)
+bool HINFO1::saveMainWindowSize(Program &program, bool maximized, QSize size)
 {
     program.state.screenMode = maximized ? ScreenMode::FullScreen : ScreenMode::Smaller;
-    program.settings.setText(SettingsKeys::smallerScreen,
-                             maximized ? QStringLiteral("No") : QStringLiteral("Yes"));
+    Settings &settings = program.settings;
+    bool isWritten = settings.setText(SettingsKeys::smallerScreen,
+                                      maximized ? QStringLiteral("No") : QStringLiteral("Yes"));
     if (maximized)
-        return;
-    program.settings.setNumber(SettingsKeys::windowHeight, storedTwips(size.height(), minimumTwips.height()));
-    program.settings.setNumber(SettingsKeys::windowWidth, storedTwips(size.width(), minimumTwips.width()));
+        return isWritten;
+    const int height = storedTwips(size.height(), minimumTwips.height());
+    const int width = storedTwips(size.width(), minimumTwips.width());
+    isWritten = settings.setNumber(SettingsKeys::windowHeight, height) && isWritten;
+    return settings.setNumber(SettingsKeys::windowWidth, width) && isWritten;
 }

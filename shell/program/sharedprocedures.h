@@ -17,8 +17,9 @@ void hourglassOff();
 void showColorConflict(Program &program, QWidget *parent);
 
 /// Asks for the family name, writes it to the family name file and makes it the program-wide one. Cancel or
-/// an empty answer deletes a stored name after asking.
-void askFamilyName(Program &program, QWidget *parent);
+/// an empty answer deletes a stored name after asking. False when the name could not be written: it holds for
+/// this run.
+[[nodiscard]] bool askFamilyName(Program &program, QWidget *parent);
 
 /// Waits, processing window messages, until the wall-clock second has moved on by one.
 void pauseOneSecond(const Program &program);
@@ -28,12 +29,12 @@ inline constexpr int updateWithoutAsking = 9786;
 
 /// Writes `pending` (the decimal text of a colour) to every program-wide colour record. Asks first unless
 /// `answerHolder` holds `updateWithoutAsking`; any answer but Yes, or an empty text, writes nothing. Clears
-/// `pending`.
-void updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder);
+/// `pending`. False when one of the records could not be written.
+[[nodiscard]] bool updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder);
 
 /// Writes display mode and, for a smaller-screen window, its size: `size` is in pixels at 15 twips each,
-/// raised to 12000 by 9000 twips and clamped to 32767.
-void saveMainWindowSize(Program &program, bool maximized, QSize size);
+/// raised to 12000 by 9000 twips and clamped to 32767. False when any of it could not be written.
+[[nodiscard]] bool saveMainWindowSize(Program &program, bool maximized, QSize size);
 
 inline constexpr int twipsPerPixel = 15;
 inline constexpr QSize minimumTwips{12000, 9000};

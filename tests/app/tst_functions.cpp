@@ -58,7 +58,7 @@ void TestFunctions::tellsWhatThePasswordGuards()
         return test.functions.entry(Function::PasswordControl)->liveLine(test.program, {})->text;
     };
     QCOMPARE(line(), u"No password is set"_s);
-    const PasswordFile file(test.folder, PasswordCost::minimum());
+    PasswordFile file(test.folder, PasswordCost::minimum());
     QVERIFY(file.setPassword(u"Klavier"_s));
     QCOMPARE(line(), u"Nothing is protected"_s);
     test.state.protectedAreas.setFlag(0, u"YES"_s);

@@ -56,7 +56,7 @@ void TestHouseholdFiles::recordsOfTextsComeBack()
     QFETCH(QList<int>, numbers);
     int texts = 0;
     QList<int> numbersFound;
-    const RecordFile file(DataFolder(m_dir.path()).filePath(name), recordLength);
+    RecordFile file(DataFolder(m_dir.path()).filePath(name), recordLength);
     file.forEach(1, [&](int number, QByteArrayView bytes) {
         const QString text = RecordValue::decodeText(bytes);
         const std::optional<QByteArray> again = RecordValue::encodeText(text, recordLength);

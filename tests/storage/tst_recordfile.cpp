@@ -58,7 +58,7 @@ void TestRecordFile::readsRecords()
 
 void TestRecordFile::readsRunsOfRecords()
 {
-    const RecordFile file(path(), 4);
+    RecordFile file(path(), 4);
     QCOMPARE(file.read(1, 2), QByteArray());
     QVERIFY(makeFile(path(), "abcdefghij"));
     QCOMPARE(file.read(1, 2), "abcdefgh"_ba);
@@ -80,7 +80,7 @@ void TestRecordFile::touchesOnlyTheBytesOfAValue()
 
 void TestRecordFile::leavesZerosBeforeAFarRecord()
 {
-    const RecordFile file(path(), 4);
+    RecordFile file(path(), 4);
     QVERIFY(file.write(3, "abc"));
     QCOMPARE(contentOf(path()), QByteArray("\0\0\0\0\0\0\0\0abc", 11));
     QCOMPARE(file.read(2), QByteArray(4, '\0'));
@@ -117,13 +117,13 @@ void TestRecordFile::countsRecords_data()
 void TestRecordFile::countsRecords()
 {
     QFETCH(int, length);
-    const RecordFile file(path(), 4);
+    RecordFile file(path(), 4);
     QCOMPARE(file.recordCount(), 0);
-    QVERIFY(file.create());
+    file.create();
     QVERIFY(QFile::exists(path()));
     QVERIFY(makeFile(path(), QByteArray(length, 'x')));
     QTEST(file.recordCount(), "count");
-    QVERIFY(file.create());
+    file.create();
     QCOMPARE(contentOf(path()).size(), length);
 }
 
@@ -147,7 +147,7 @@ void TestRecordFile::stopsAVisit()
 {
     QVERIFY(makeFile(path(), "abcdefghij"));
     QList<int> visited;
-    const RecordFile file(path(), 4);
+    RecordFile file(path(), 4);
     const auto visit = [&](int number, QByteArrayView) {
         visited += number;
         return number < 2;
@@ -161,13 +161,13 @@ void TestRecordFile::stopsAVisit()
 void TestRecordFile::survivesAFolderInTheFilesPlace()
 {
     QVERIFY(QDir().mkpath(path()));
-    const RecordFile file(path(), 4);
+    RecordFile file(path(), 4);
     expectWarning("^Cannot read .*Test.Fil");
     QCOMPARE(file.read(1), QByteArray());
     expectWarning("^Cannot write record 1 of .*Test.Fil");
     QVERIFY(!file.write(1, "a"));
     expectWarning("^Cannot create .*Test.Fil");
-    QVERIFY(!file.create());
+    file.create();
     QCOMPARE(file.recordCount(), 0);
     expectWarning("^Cannot read .*Test.Fil");
     file.forEach(1, [](int, QByteArrayView) -> bool { qFatal("a folder has no records"); });
@@ -175,7 +175,7 @@ void TestRecordFile::survivesAFolderInTheFilesPlace()
 
 void TestRecordFile::survivesAMissingFolder()
 {
-    const RecordFile file(m_dir->filePath(u"none/Test.Fil"_s), 4);
+    RecordFile file(m_dir->filePath(u"none/Test.Fil"_s), 4);
     QCOMPARE(file.read(1), QByteArray());
     expectWarning("^Cannot write record 1 of ");
     QVERIFY(!file.write(1, "a"));
@@ -185,7 +185,7 @@ void TestRecordFile::survivesAMissingFolder()
 void TestRecordFile::reportsAFullDisk()
 {
 #ifdef Q_OS_UNIX
-    const RecordFile file(path(), 724);
+    RecordFile file(path(), 724);
     QVERIFY(file.write(1, "kept"));
     {
         const FileSizeLimit limit(1024 * 1024);
@@ -208,7 +208,7 @@ void TestRecordFile::reportsAFullDisk()
 void TestRecordFile::reachesRecordsBeyondTwoGigabytes()
 {
     // A sparse file: only its last block takes room.
-    const RecordFile file(path(), 900);
+    RecordFile file(path(), 900);
     QVERIFY(file.write(3'000'000, "far"));
     QCOMPARE(QFileInfo(path()).size(), 2'999'999LL * 900 + 3);
     QCOMPARE(file.read(3'000'000), "far"_ba);

@@ -159,7 +159,7 @@ void TestAddressBook::savesANewEntry()
     const AddressBook::SaveResult result = book().saveNew(anneLind());
     QCOMPARE(result.record, 2);
     QCOMPARE(result.line, u"Lind, Anne                                     2"_s);
-    QVERIFY(result.isComplete());
+    QVERIFY(result.isLineWritten);
     QCOMPARE(entries(), first724 + lindBytes + entryBytes({"Quill"}));
     QByteArray expected = linesBefore;
     expected.replace(60, 50, QByteArray("\x30\0Lind, Anne                                     2", 50));
@@ -172,7 +172,7 @@ void TestAddressBook::savesAChangedEntryOverItsBytesOnly()
         first60 + lineBytes(lineOf("Lind, Anna", 2)) + lineBytes(lineOf("Quill,", 3)));
     AddressEntry entry = anneLind();
     entry.picture = u"**"_s;
-    QVERIFY(book().saveChanged(2, entry).isComplete());
+    QVERIFY(book().saveChanged(2, entry).isLineWritten);
     QCOMPARE(entries(), first724 + lindBytes + entryBytes({"Quill"}));
     QCOMPARE(lines(), first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes(lineOf("Quill,", 3)));
 }
@@ -251,7 +251,7 @@ void TestAddressBook::anOutgrownNameCanBeShortenedAgain()
     // The list still bears the old name; it stands in the entry's own record, so it is no other's.
     QVERIFY(book().open(u"Lind, Anne                                     2").mayChange);
     QVERIFY(!book().open(u"Lind, Anna                                     2").mayChange);
-    QVERIFY(book().saveChanged(2, anneLind()).isComplete());
+    QVERIFY(book().saveChanged(2, anneLind()).isLineWritten);
     QCOMPARE(entries(), first724 + lindBytes);
 }
 
@@ -276,7 +276,7 @@ void TestAddressBook::findsItsFilesUnderAnySpelling()
 {
     m_files->put(u"ADDBK1.FIL"_s, first724);
     m_files->put(u"addbk2.fil"_s, first60);
-    QVERIFY(book().saveNew(anneLind()).isComplete());
+    QVERIFY(book().saveNew(anneLind()).isLineWritten);
     QCOMPARE(m_files->bytes(u"ADDBK1.FIL"_s), first724 + lindBytes);
     QCOMPARE(book().loadNames().count(), 1);
     QCOMPARE(QDir(m_files->path({})).entryList(QDir::Files).size(), 2);

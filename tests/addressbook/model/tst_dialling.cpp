@@ -4,6 +4,7 @@
 #include "tests/support/scriptedmodem.h"
 #include "tests/support/testfiles.h"
 
+#include <QDir>
 #include <QTest>
 
 #include <deque>
@@ -36,6 +37,7 @@ public:
             answers.pop_front();
         return answer;
     }
+    void portNotSaved() override { m_log << u"not saved"_s; }
 
 private:
     QStringList &m_log;
@@ -56,6 +58,7 @@ private slots:
     void takesThePortFromTheSettings_data();
     void takesThePortFromTheSettings();
     void asksForAnotherPort();
+    void tellsThatAPortIsNotKept();
     void asksAgainForWhatIsNoPort();
     void givesUpWhenThePersonDoes();
     void aLineThatTakesNothingIsNoPort();
@@ -151,6 +154,16 @@ void TestDialling::asksForAnotherPort()
                           u"open 4"_s, u"CommPort is currently set at: 4"_s, prompt + u" [4]", u"open 258"_s,
                           u"ATDT 555;\r"_s, u"Number Dialed: 555"_s, u"ATH\r"_s, u"close"_s, u"hide"_s}));
     QCOMPARE(m_files->bytes(u"GColor1.Fil"_s), QByteArray(24 * 20, 'x') + QByteArray("\2\1tail", 6));
+}
+
+void TestDialling::tellsThatAPortIsNotKept()
+{
+    QVERIFY(QDir().mkdir(m_files->path(u"GColor1.Fil"_s)));
+    ScriptedDesk desk(m_line);
+    m_line.workingPorts = {2};
+    desk.answers = {u"2"_s};
+    QCOMPARE(call(desk), Dialling::Outcome::Called);
+    QCOMPARE(m_line.log.mid(4, 2), (QStringList{u"not saved"_s, u"open 2"_s}));
 }
 
 void TestDialling::asksAgainForWhatIsNoPort()

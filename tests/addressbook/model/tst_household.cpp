@@ -185,14 +185,14 @@ void TestHousehold::keepsEveryOtherByteOnSaving()
     const QByteArray lines = bytes(u"Addbk2.Fil"_s);
     AddressEntry karl = book().read(14);
     karl[HomePhone] = u"(440) 555-0999"_s;
-    QVERIFY(book().saveChanged(14, karl).isComplete());
+    QVERIFY(book().saveChanged(14, karl).isLineWritten);
     QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 13 * 724 + 320, "(440) 555-0999"));
     QCOMPARE(bytes(u"Addbk2.Fil"_s), lines);
 
     // The last record of the index stays as short as it is.
     AddressEntry elisabeth = book().read(49);
     elisabeth[FirstName] = u"Eliza"_s;
-    QVERIFY(book().saveChanged(49, elisabeth).isComplete());
+    QVERIFY(book().saveChanged(49, elisabeth).isLineWritten);
     QCOMPARE(bytes(u"Addbk2.Fil"_s), replaced(lines, 48 * 60 + 2, "Calloway, Eliza    "));
 }
 
@@ -215,7 +215,7 @@ void TestHousehold::fillsTheGapWithANewEntry()
     AddressEntry entry;
     entry[LastName] = u"Åberg"_s;
     entry[FirstName] = u"Zoë"_s;
-    QVERIFY(book().saveNew(entry).isComplete());
+    QVERIFY(book().saveNew(entry).isLineWritten);
     QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 23 * 724,
                                               entryBytes({"\xC5"
                                                           "berg",

@@ -76,6 +76,7 @@ public:
             m_line.answer("\r\nOK\r\n");
         return Answer::Cancel;
     }
+    void portNotSaved() override {}
     std::optional<QString> askPort(const QString &, int current) override
     {
         return QString::number(current + 1);
@@ -197,7 +198,7 @@ void TestSerialModem::callsOverTheLine()
 {
     const QTemporaryDir folder;
     const DataFolder data(folder.path());
-    const Settings settings(data);
+    Settings settings(data);
     const PseudoLine line;
     Caller caller(line);
     SerialModem modem([&line](int port) { return port == 2 ? line.device() : QString(); });

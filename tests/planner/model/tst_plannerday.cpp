@@ -113,7 +113,7 @@ void TestPlannerDay::ordersByGroupTimeAndText()
 void TestPlannerDay::writesOnlyItsOwnBytes()
 {
     const TestProgram test;
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     test.setBytes(u" 2026.Cal"_s, QByteArray(900 * 21, 'x')); // record 21 is 1 February less: 2 January is 21
     QVERIFY(files.write(QDate(2026, 1, 2), dayOf({{u"9:30 AM"_s, u"Café"_s}})));
 
@@ -133,7 +133,7 @@ void TestPlannerDay::writesOnlyItsOwnBytes()
 void TestPlannerDay::readsDaysThatWereNeverSavedAsEmpty()
 {
     const TestProgram test;
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     QVERIFY(files.peek(QDate(2031, 3, 1)).isEmpty());
     QVERIFY(!test.folder.exists(u" 2031.Cal"_s));
     QVERIFY(files.read(QDate(2031, 3, 1)).isEmpty());
@@ -148,7 +148,7 @@ void TestPlannerDay::readsDaysThatWereNeverSavedAsEmpty()
 void TestPlannerDay::survivesFilesThatAreNoYearFiles()
 {
     const TestProgram test;
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     QVERIFY(QDir(test.folder.path()).mkdir(u" 2026.Cal"_s));
     QVERIFY(files.read(QDate(2026, 5, 1)).isEmpty());
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
@@ -166,7 +166,7 @@ void TestPlannerDay::survivesFilesThatAreNoYearFiles()
 void TestPlannerDay::readsTheHousehold()
 {
     const TestProgram test(TestProgram::Household);
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     QFile expectedFile(QStringLiteral(QUILLERY_TEST_DATA "/household/expected.json"));
     QVERIFY(expectedFile.open(QIODevice::ReadOnly));
     const QJsonObject years =

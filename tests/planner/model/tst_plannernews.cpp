@@ -42,11 +42,11 @@ void TestPlannerNews::tellsTheNextAppointment()
     QVERIFY(!PlannerNews::liveLine(test.folder, now));
     QVERIFY(!test.folder.exists(u" 2026.Cal"_s));
 
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     PlannerDay day;
     day.times = {QString(), u"8:30 AM"_s, u"11:30 AM"_s};
     day.texts = {u"Ferns"_s, u"Market"_s, u"Dentist"_s};
-    files.write(now.date(), day);
+    QVERIFY(files.write(now.date(), day));
     QCOMPARE(PlannerNews::liveLine(test.folder, now),
              (LiveLine{u"11:30 AM  Dentist"_s, LiveLine::Plain,
                        u"Three appointments today, the next one at 11:30 AM."_s}));

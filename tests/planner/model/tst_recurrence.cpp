@@ -145,13 +145,13 @@ void TestRecurrence::insertsOncePerDate()
 void TestRecurrence::countsFullDates()
 {
     const TestProgram test;
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     PlannerDay day;
     for (std::size_t row = 0; row < 13; ++row)
         day.times[row] = u"8:%1 PM"_s.arg(10 + row);
-    files.write(QDate(2026, 3, 2), day);
+    QVERIFY(files.write(QDate(2026, 3, 2), day));
     day.texts[13] = u"the fourteenth"_s;
-    files.write(QDate(2026, 3, 1), day);
+    QVERIFY(files.write(QDate(2026, 3, 1), day));
 
     RecurrenceRun run(test.folder, UntimedPlacement::First, RecurrenceAction::Insert,
                       {u"7:00 AM"_s, u"Run"_s}, times(Recurrence::Daily, QDate(2026, 3, 1), 2));
@@ -176,11 +176,11 @@ void TestRecurrence::crossesTheYear()
 void TestRecurrence::removesOneCopyPerDate()
 {
     const TestProgram test;
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     PlannerDay day;
     day.times = {u"9:00 AM"_s, u"9:00 AM"_s, u"8:00 AM"_s};
     day.texts = {u"Twice"_s, u"Twice"_s, u"Stays"_s};
-    files.write(QDate(2026, 5, 5), day);
+    QVERIFY(files.write(QDate(2026, 5, 5), day));
     const QByteArray other(850, 'y');
     test.setBytes(u" 2025.Cal"_s, other);
 

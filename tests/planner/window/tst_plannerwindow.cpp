@@ -120,7 +120,7 @@ private slots:
 void TestZcalandar1::opensOnTheDayOfToday()
 {
     TestProgram test;
-    PlannerFiles(test.folder).write(today, dayOf({{u"8:30 AM"_s, u"Market"_s}}));
+    QVERIFY(PlannerFiles(test.folder).write(today, dayOf({{u"8:30 AM"_s, u"Market"_s}})));
     const Screen screen(test);
     QCOMPARE(screen.caption(), u"Saturday, November 21, 2026"_s);
     QCOMPARE(screen.rows(), QStringList{u"8:30 AM|Market"_s});
@@ -430,7 +430,7 @@ void TestZcalandar1::keepsTheCalendarOptions()
 void TestZcalandar1::opensDaysFromWeekAndMonth()
 {
     TestProgram test;
-    PlannerFiles(test.folder).write(QDate(2026, 11, 18), dayOf({{u"8:30 AM"_s, u"Market"_s}}));
+    QVERIFY(PlannerFiles(test.folder).write(QDate(2026, 11, 18), dayOf({{u"8:30 AM"_s, u"Market"_s}})));
     const Screen screen(test);
     screen.type(0, {}, u"unsaved"_s);
     test.dialogs.willAnswer(Answer::No);
@@ -463,9 +463,9 @@ void TestZcalandar1::opensDaysFromWeekAndMonth()
 void TestZcalandar1::opensDaysFromTheSearch()
 {
     TestProgram test;
-    const PlannerFiles files(test.folder);
-    files.write(QDate(2019, 2, 1), dayOf({{u"9:00"_s, u"Piano tuner"_s}}));
-    files.write(QDate(2027, 5, 5), dayOf({{u"8:00"_s, u"Bus"_s}, {u"9:00"_s, u"piano"_s}}));
+    PlannerFiles files(test.folder);
+    QVERIFY(files.write(QDate(2019, 2, 1), dayOf({{u"9:00"_s, u"Piano tuner"_s}})));
+    QVERIFY(files.write(QDate(2027, 5, 5), dayOf({{u"8:00"_s, u"Bus"_s}, {u"9:00"_s, u"piano"_s}})));
     const Screen screen(test);
     auto *box = control<QLineEdit>(screen.window(), "plannerSearch");
     auto *hits = control<QTableView>(screen.window(), "searchHits");
@@ -491,7 +491,7 @@ void TestZcalandar1::importsDatedToDoItems()
     test.setBytes(u"TODOActv.FIL"_s, "\"Paint\",\"12/01/2026\",\"\"\r\n\"Old\",\"11/20/2026\",\"\"\r\n"
                                      "\"Someday\",\"\",\"\"\r\n\"Call\",\"Sat 11/21/2026\",\"x\"\r\n");
     const Screen screen(test);
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     for (int round = 0; round < 2; ++round) {
         test.dialogs.willAnswer(Answer::Yes);
         if (round == 0)

@@ -189,7 +189,7 @@ void TestRecurrencePanel::insertsEachKind()
     QVERIFY(!panel.isOpen());
 
     QStringList found;
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     for (const auto &[date, day] : files.days(QDate(2026, 1, 1), QDate(2036, 12, 31))) {
         QCOMPARE(day.texts[0], u"Yoga"_s);
         found << date.toString(Qt::ISODate);
@@ -219,7 +219,7 @@ void TestRecurrencePanel::reportsFullDates()
     QFETCH(QString, report);
     TestProgram test;
     for (int i = 0; i < fullDates; ++i)
-        PlannerFiles(test.folder).write(QDate(2026, 11, 22).addDays(i), fullDay());
+        QVERIFY(PlannerFiles(test.folder).write(QDate(2026, 11, 22).addDays(i), fullDay()));
     const Panel panel(test);
     panel.choose("kind_0");
     panel.set("occurrences", u"3"_s);
@@ -234,12 +234,12 @@ void TestRecurrencePanel::reportsFullDates()
 void TestRecurrencePanel::removesAfterAQuestion()
 {
     TestProgram test;
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
     PlannerDay day;
     day.times = {u"9:00 AM"_s, u"9:00 AM"_s, u"9:00 AM"_s};
     day.texts = {u"Yoga"_s, u"Yoga"_s, u"Stays"_s};
-    files.write(QDate(2026, 12, 1), day);
-    files.write(QDate(2026, 12, 8), day);
+    QVERIFY(files.write(QDate(2026, 12, 1), day));
+    QVERIFY(files.write(QDate(2026, 12, 8), day));
     const Panel panel(test);
     panel.until(u"12/5/2026"_s);
     for (const Answer answer : {Answer::No, Answer::Cancel, Answer::Yes}) {
@@ -331,8 +331,8 @@ void TestRecurrencePanel::livesAndStopsDuringAWalk()
     panel.finish();
     QVERIFY(atClick > 0 && atClick < 3653);
     QCOMPARE(days().size(), atClick);
-    QCOMPARE(test.dialogs.takeShown(),
-             QList<Message>{PlannerMessages::recurrenceStopped(days().rbegin()->first, true)});
+    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::recurrenceStopped(
+                                           days().rbegin()->first, RecurrenceAction::Insert)});
     QVERIFY(control<QPushButton>(panel.window(), "recurrenceOk")->isEnabled());
     QVERIFY(control<FlowToolBar>(panel.window(), "toolbar")->isEnabled());
     QVERIFY(panel.isOpen());

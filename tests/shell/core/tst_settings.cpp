@@ -55,7 +55,7 @@ void TestSettings::setBytes(const QString &name, const QByteArray &bytes) const
 
 void TestSettings::readsEmptyValuesWithoutFiles()
 {
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     QCOMPARE(settings.text(SettingsKeys::familyName), QString());
     QCOMPARE(settings.number(SettingsKeys::windowHeight), 0);
     QCOMPARE(settings.tagged(SettingsKeys::background), QString());
@@ -63,14 +63,14 @@ void TestSettings::readsEmptyValuesWithoutFiles()
 
 void TestSettings::makesAMissingFileEmpty()
 {
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     settings.text(SettingsKeys::familyName);
     QCOMPARE(bytes(u"HINVNAME.FIL"_s), QByteArray());
 }
 
 void TestSettings::writesTheFamilyNameByteForByte()
 {
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     QVERIFY(settings.setText(SettingsKeys::familyName, u"Jos\u00e9 Ortega M\u00fcl"_s));
     QCOMPARE(bytes(u"HINVNAME.FIL"_s), QByteArray("\x0f\0Jos\xe9 Ortega M\xfcl", 17));
     QVERIFY(settings.setText(SettingsKeys::familyName, QString()));
@@ -80,7 +80,7 @@ void TestSettings::writesTheFamilyNameByteForByte()
 
 void TestSettings::leavesOtherRecordsAlone()
 {
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     const QByteArray before = QByteArray(54 * 20, 'a') + QByteArray(20, 'b') + QByteArray(30, 'c');
     setBytes(u"GColor1.Fil"_s, before);
     QVERIFY(settings.setText(SettingsKeys::topToolbar, u"OFF"_s));
@@ -90,7 +90,7 @@ void TestSettings::leavesOtherRecordsAlone()
 
 void TestSettings::writesNumbersAndTaggedValues()
 {
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     QVERIFY(settings.setNumber(SettingsKeys::sideToolbarMarker, 88));
     QVERIFY(settings.setTagged(SettingsKeys::background, u"WP16"_s));
     QCOMPARE(bytes(u"GHINV1.Fil"_s), QByteArray(20, '\0') + QByteArray("\x08\0\x04\0WP16", 8) +
@@ -111,14 +111,14 @@ void TestSettings::clampsNumbers_data()
 void TestSettings::clampsNumbers()
 {
     QFETCH(int, number);
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     QVERIFY(settings.setNumber(SettingsKeys::windowWidth, number));
     QTEST(settings.number(SettingsKeys::windowWidth), "stored");
 }
 
 void TestSettings::refusesATextThatDoesNotFit()
 {
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     QVERIFY(settings.setText(SettingsKeys::mainMenuColor, QString(18, u'1')));
     const QByteArray before = bytes(u"GColor1.Fil"_s);
     QVERIFY(!settings.setText(SettingsKeys::mainMenuColor, QString(19, u'2')));
@@ -140,7 +140,7 @@ void TestSettings::takesBadFiles()
 {
     QFETCH(QByteArray, content);
     setBytes(u"HINVNAME.FIL"_s, content);
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     QTEST(settings.text(SettingsKeys::familyName), "text");
     QTEST(settings.number({SettingsKeys::familyNameFile, 1}), "number");
 }
@@ -148,7 +148,7 @@ void TestSettings::takesBadFiles()
 void TestSettings::findsFilesUnderAnySpelling()
 {
     setBytes(u"hinvname.Fil"_s, QByteArray("\x04\0Holm", 6));
-    const Settings settings(*m_folder);
+    Settings settings(*m_folder);
     QCOMPARE(settings.text(SettingsKeys::familyName), u"Holm"_s);
     QVERIFY(settings.setText(SettingsKeys::familyName, u"Lind"_s));
     QCOMPARE(QDir(m_temporary->path()).entryList(QDir::Files), QStringList{u"hinvname.Fil"_s});

@@ -107,9 +107,9 @@ void TestPanelColors::takesTheStoredColor()
     QFETCH(QString, own);
     QFETCH(QString, programWide);
     QFETCH(QString, text);
-    m_program->settings.setText(withText.panel, own);
-    m_program->settings.setText(withText.programWide, programWide);
-    m_program->settings.setText(*withText.text, text);
+    QVERIFY(m_program->settings.setText(withText.panel, own));
+    QVERIFY(m_program->settings.setText(withText.programWide, programWide));
+    QVERIFY(m_program->settings.setText(*withText.text, text));
     const PanelColors &colors = make(withText);
     QTEST(m_panel->palette().color(QPalette::Window), "panel");
     QTEST(m_panel->palette().color(QPalette::WindowText), "ink");
@@ -121,7 +121,7 @@ void TestPanelColors::colorsWordsAndLeavesBoxesAlone()
     auto *box = new FieldBox(m_panel);
     auto *list = new QListWidget(m_panel);
     QPushButton *button = makeButton(u"Command1"_s, u"&Save"_s, m_panel, ButtonKind::Main);
-    m_program->settings.setText(panelOnly.panel, QString::fromLatin1(blueText));
+    QVERIFY(m_program->settings.setText(panelOnly.panel, QString::fromLatin1(blueText)));
     make(panelOnly);
     QCOMPARE(m_label->palette().color(m_label->foregroundRole()), QColor(Qt::white));
     const Theme &theme = Theme::light();
@@ -236,7 +236,7 @@ void TestPanelColors::asksOnLeavingWhereThereIsATextColor()
 
 void TestPanelColors::noGivesTheDesignedColor()
 {
-    m_program->settings.setText(panelOnly.panel, QString::fromLatin1(blueText));
+    QVERIFY(m_program->settings.setText(panelOnly.panel, QString::fromLatin1(blueText)));
     PanelColors &colors = make(panelOnly);
     m_program->dialogs.willAnswer(Answer::No);
     m_program->dialogs.willAnswer(Answer::Yes);

@@ -171,12 +171,12 @@ void TestToolbars::removalIsWrittenForAllWindows()
 {
     QSignalSpy changed(&m_program->changes, &ProgramSignals::topToolbarChanged);
     QVERIFY(!TopToolbar::isRemoved(m_program->program, SettingsKeys::topToolbar));
-    TopToolbar::setRemoved(m_program->program, true);
+    QVERIFY(TopToolbar::setRemoved(m_program->program, true));
     QVERIFY(TopToolbar::isRemoved(m_program->program, SettingsKeys::topToolbar));
     QVERIFY(TopToolbar::isRemoved(m_program->program, SettingsKeys::weightTopToolbar));
     QCOMPARE(m_program->bytes(u"GColor1.Fil"_s).mid(54 * 20, 5), QByteArray("\x03\0OFF", 5));
     QCOMPARE(m_program->bytes(u"GColor1.Fil"_s).mid(80 * 20, 5), QByteArray("\x03\0OFF", 5));
-    TopToolbar::setRemoved(m_program->program, false);
+    QVERIFY(TopToolbar::setRemoved(m_program->program, false));
     QCOMPARE(m_program->settings.text(SettingsKeys::topToolbar), u"ON"_s);
     QCOMPARE(changed.size(), 2);
 }

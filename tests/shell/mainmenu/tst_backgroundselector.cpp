@@ -38,6 +38,11 @@ bool isLike(const QColor &one, const QColor &other)
            std::abs(one.blue() - other.blue()) < 6;
 }
 
+bool isInUse(const Startfrm &window, const char *slot)
+{
+    return control<BackgroundSlot>(window, slot)->accessibleName().endsWith(", in use"_L1);
+}
+
 } // namespace
 
 class TestBackgroundSelector : public QObject
@@ -64,12 +69,12 @@ void TestBackgroundSelector::showsAChoiceAtOnceAndWritesIt()
     start.trigger("mOBC");
     QCOMPARE(start.activity(), u"Background Selector"_s);
     QVERIFY(!control<FlowToolBar>(window, "Toolbar1")->isVisible());
-    QVERIFY(control<BackgroundSlot>(window, "backgroundSlot_1")->isInUse());
+    QVERIFY(isInUse(window, "backgroundSlot_1"));
 
     QTest::mouseClick(control<BackgroundSlot>(window, "backgroundSlot_6"), Qt::LeftButton);
     QVERIFY(isLike(cornerOf(window), Qt::red));
-    QVERIFY(control<BackgroundSlot>(window, "backgroundSlot_6")->isInUse());
-    QVERIFY(!control<BackgroundSlot>(window, "backgroundSlot_1")->isInUse());
+    QVERIFY(isInUse(window, "backgroundSlot_6"));
+    QVERIFY(!isInUse(window, "backgroundSlot_1"));
     QCOMPARE(start.record(u"GHINV1.Fil"_s, settingsLength, 3).left(7), QByteArray("\x08\x00\x03\x00WP2", 7));
 
     QTest::mouseClick(control<QPushButton>(window, "Command1"), Qt::LeftButton);
@@ -130,12 +135,11 @@ void TestBackgroundSelector::marksTheSlotInUse()
     QFETCH(bool, plain);
     StartWindow start;
     if (!record.isEmpty())
-        start.test.settings.setTagged(SettingsKeys::background, record);
+        QVERIFY(start.test.settings.setTagged(SettingsKeys::background, record));
     Startfrm &window = start.show();
     start.trigger("mOBC");
     for (int i = 0; i < BackgroundChoice::slotCount; ++i) {
-        const auto *found = control<BackgroundSlot>(window, qPrintable(u"backgroundSlot_%1"_s.arg(i)));
-        QCOMPARE(found->isInUse(), i == slot);
+        QCOMPARE(isInUse(window, qPrintable(u"backgroundSlot_%1"_s.arg(i))), i == slot);
     }
     QCOMPARE(control<QRadioButton>(window, "Option1")->isChecked(), plain);
 }
@@ -150,13 +154,13 @@ void TestBackgroundSelector::walksAndChoosesByKeys()
     QTest::keyClick(window.focusWidget(), Qt::Key_Right);
     QCOMPARE(window.focusWidget()->objectName(), u"backgroundSlot_6"_s);
     QTest::keyClick(window.focusWidget(), Qt::Key_Return);
-    QVERIFY(control<BackgroundSlot>(window, "backgroundSlot_6")->isInUse());
+    QVERIFY(isInUse(window, "backgroundSlot_6"));
 }
 
 void TestBackgroundSelector::looksForPicturesInTheProgramsFolder()
 {
     StartWindow start;
-    start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s);
+    QVERIFY(start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s));
     QImage picture(64, 40, QImage::Format_RGB32);
     picture.fill(Qt::blue);
     QVERIFY(picture.save(start.test.programFolder.filePath(u"wp3.JPG"_s), "jpg", 100));
@@ -178,7 +182,7 @@ void TestBackgroundSelector::takesAnyPicture()
 {
     QFETCH(QSize, size);
     StartWindow start;
-    start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s);
+    QVERIFY(start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s));
     if (size.isEmpty())
         start.test.setBytes(u"WP3.jpg"_s, "\xff\xd8\xff\xe0 no picture");
     else

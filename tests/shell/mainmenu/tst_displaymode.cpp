@@ -92,7 +92,7 @@ void TestDisplayMode::followsUnmaximisingByHand()
 void TestDisplayMode::opensAtTheSmallestSizeForAnEmptySize()
 {
     StartWindow start;
-    start.test.settings.setText(SettingsKeys::smallerScreen, u"Yes"_s);
+    QVERIFY(start.test.settings.setText(SettingsKeys::smallerScreen, u"Yes"_s));
     QCOMPARE(start.show().size(), QSize(800, 600));
 }
 

@@ -214,7 +214,7 @@ void TestStartfrm::removesAndRestoresTheTopToolbar()
 void TestStartfrm::refusesToCustomizeARemovedToolbar()
 {
     StartWindow start;
-    start.test.settings.setText(SettingsKeys::topToolbar, u"OFF"_s);
+    QVERIFY(start.test.settings.setText(SettingsKeys::topToolbar, u"OFF"_s));
     Startfrm &window = start.show();
     QVERIFY(!control<FlowToolBar>(window, "Toolbar1")->isVisible());
     start.trigger("Toolbar2_3");

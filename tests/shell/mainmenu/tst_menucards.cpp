@@ -70,7 +70,7 @@ void TestMenuCards::walksByArrowKeys()
     start.addFunction(Function::AddressBook);     // first row, first place
     start.addFunction(Function::Planner);         // first row, second place
     start.addFunction(Function::PasswordControl); // last row, third place
-    start.test.settings.setText(SettingsKeys::smallerScreen, u"Yes"_s);
+    QVERIFY(start.test.settings.setText(SettingsKeys::smallerScreen, u"Yes"_s));
     Startfrm &window = start.show();
     window.resize(1280, 800);
     const auto press = [&](Qt::Key key) {
@@ -170,7 +170,7 @@ void TestMenuCards::takesTheUsersPanelColor()
 {
     StartWindow start;
     start.addFunction(Function::AddressBook);
-    start.test.settings.setText(SettingsKeys::mainMenuColor, u"255"_s); // red
+    QVERIFY(start.test.settings.setText(SettingsKeys::mainMenuColor, u"255"_s)); // red
     Startfrm &window = start.show();
     const QImage card = control<FunctionCard>(window, "card_addressBook")->grab().toImage();
     const QColor fill = card.pixelColor(card.width() - 30, card.height() / 2);

@@ -27,6 +27,7 @@ private slots:
     void asksBeforeItWritesAllColors();
     void savesTheSizeOfTheMainWindow_data();
     void savesTheSizeOfTheMainWindow();
+    void tellsWhatIsNotWritten();
     void waitsForTheNextSecond();
 
 private:
@@ -84,7 +85,7 @@ void TestHinfo1::asksForTheFamilyName()
         m_program->dialogs.willAnswer(answer.first());
     QSignalSpy changed(&m_program->changes, &ProgramSignals::familyNameChanged);
 
-    HINFO1::askFamilyName(m_program->program, nullptr);
+    QVERIFY(HINFO1::askFamilyName(m_program->program, nullptr));
 
     QCOMPARE(m_program->bytes(u"HINVNAME.FIL"_s), after);
     QCOMPARE(m_program->state.familyName, FamilyName(m_program->settings.text(SettingsKeys::familyName)));
@@ -110,7 +111,7 @@ void TestHinfo1::asksForTheFamilyName()
 void TestHinfo1::cutsTheFamilyNameToFifteen()
 {
     m_program->dialogs.willInput(u"ABCDEFGHIJKLMNOP"_s);
-    HINFO1::askFamilyName(m_program->program, nullptr);
+    QVERIFY(HINFO1::askFamilyName(m_program->program, nullptr));
     QCOMPARE(m_program->bytes(u"HINVNAME.FIL"_s), QByteArray("\x0f\0ABCDEFGHIJKLMNO", 17));
     QCOMPARE(m_program->state.familyName.caption(), u"ABCDEFGHIJKLMNO Quillery"_s);
     QCOMPARE(FamilyName().caption(), u"Quillery"_s);
@@ -120,7 +121,7 @@ void TestHinfo1::writesAllProgramColors()
 {
     QSignalSpy changed(&m_program->changes, &ProgramSignals::panelColorsChanged);
     QString pending = u" 255 "_s;
-    HINFO1::updateProgramColors(m_program->program, nullptr, pending, HINFO1::updateWithoutAsking);
+    QVERIFY(HINFO1::updateProgramColors(m_program->program, nullptr, pending, HINFO1::updateWithoutAsking));
     QCOMPARE(pending, QString());
     QCOMPARE(changed.size(), 1);
     QVERIFY(m_program->dialogs.takeShown().isEmpty());
@@ -157,7 +158,7 @@ void TestHinfo1::asksBeforeItWritesAllColors()
     QFETCH(Answer, answer);
     QFETCH(QString, pending);
     m_program->dialogs.willAnswer(answer);
-    HINFO1::updateProgramColors(m_program->program, nullptr, pending, 0);
+    QVERIFY(HINFO1::updateProgramColors(m_program->program, nullptr, pending, 0));
     QCOMPARE(pending, QString());
     QTEST(!m_program->bytes(u"GColor1.Fil"_s).isEmpty(), "writes");
     QCOMPARE(m_program->dialogs.takeShown(),
@@ -191,9 +192,22 @@ void TestHinfo1::savesTheSizeOfTheMainWindow()
 {
     QFETCH(bool, maximized);
     QFETCH(QSize, size);
-    HINFO1::saveMainWindowSize(m_program->program, maximized, size);
+    QVERIFY(HINFO1::saveMainWindowSize(m_program->program, maximized, size));
     QTEST(m_program->bytes(u"GColor3.Fil"_s).mid(34 * 20), "records");
     QCOMPARE(m_program->state.screenMode, maximized ? ScreenMode::FullScreen : ScreenMode::Smaller);
+}
+
+void TestHinfo1::tellsWhatIsNotWritten()
+{
+    for (const QString &name : {u"HINVNAME.FIL"_s, u"GColor3.Fil"_s})
+        QVERIFY(QDir().mkdir(m_program->path(name)));
+    m_program->dialogs.willInput(u"Holm"_s);
+    QVERIFY(!HINFO1::askFamilyName(m_program->program, nullptr));
+    QCOMPARE(m_program->state.familyName, FamilyName(u"Holm"_s));
+    QString pending = u"255"_s;
+    QVERIFY(!HINFO1::updateProgramColors(m_program->program, nullptr, pending, HINFO1::updateWithoutAsking));
+    QVERIFY(!HINFO1::saveMainWindowSize(m_program->program, true, {}));
+    QVERIFY(!HINFO1::saveMainWindowSize(m_program->program, false, {1024, 768}));
 }
 
 void TestHinfo1::waitsForTheNextSecond()
