@@ -102,11 +102,11 @@ bool SerialModem::write(QByteArrayView text)
         const ssize_t taken = ::write(int(m_handle), text.data(), size_t(text.size()));
         if (taken > 0) {
             text = text.sliced(taken);
-        } else if (taken < 0 && errno != EINTR && errno != EAGAIN) {
-            return false;
-        } else if (!waitForRoom(int(m_handle))) {
-            return false;
+            continue;
         }
+        const bool mayWait = taken == 0 || errno == EINTR || errno == EAGAIN;
+        if (!mayWait || !waitForRoom(int(m_handle)))
+            return false;
     }
     return true;
 }

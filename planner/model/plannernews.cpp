@@ -86,7 +86,7 @@ QTime timeOfDay(QStringView text)
     return QTime(hour, minute);
 }
 
-std::optional<LiveLine> liveLine(const DataFolder &folder, QDateTime now)
+std::optional<LiveLine> liveLine(const DataFolder &folder, const QDateTime &now)
 {
     const PlannerFiles files(folder);
     if (const QList<Item> items = itemsOf(files.peek(now.date())); !items.isEmpty())

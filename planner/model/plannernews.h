@@ -13,7 +13,7 @@ namespace PlannerNews {
 /// The next appointment of today ("11:30 AM  Dentist") or, when none is left, the first of tomorrow; with a
 /// sentence about today: "Three appointments today, the next one at 11:30 AM." Nothing when both days are
 /// free.
-std::optional<LiveLine> liveLine(const DataFolder &folder, QDateTime now);
+std::optional<LiveLine> liveLine(const DataFolder &folder, const QDateTime &now);
 
 /// The time of day that a row's time text names; invalid when it names none. "9:30 AM", "9.30pm", "14:05",
 /// "8".

@@ -200,7 +200,7 @@ QString PlannerPages::rangeText(QDate from, QDate to, DateStyle style)
 {
     const bool sameYear = from.year() == to.year();
     const bool sameMonth = sameYear && from.month() == to.month();
-    const QString full = Dates::monthDayYear(to, style);
+    QString full = Dates::monthDayYear(to, style);
     if (from == to)
         return full;
     const auto part = [&](QDate date, const QString &format) { return QLocale::c().toString(date, format); };

@@ -65,7 +65,7 @@ QDate RecurrenceDates::dateAt(int step) const
 {
     const qint64 units = qint64(step) * m_recurrence.interval;
     // Nothing lasts longer than ten years; this only keeps absurd intervals from overflowing.
-    if (units > 10 * longestRecurrenceDays)
+    if (units > qint64(10) * longestRecurrenceDays)
         return {};
     switch (m_recurrence.kind) {
     case Recurrence::Weekly:

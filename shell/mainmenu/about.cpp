@@ -35,8 +35,7 @@ QString purpose()
 QString licence()
 {
     return u"Free software under the GNU General Public License, version 3 or later (GPL-3.0-or-later). It "
-           u"comes "
-           "without any warranty."_s;
+           "comes without any warranty."_s;
 }
 
 QString libraries()
@@ -57,6 +56,22 @@ About1::About1(QWidget *parent)
     auto *sign = new QLabel(this);
     sign->setPixmap(Icons::applicationIcon().pixmap(QSize(iconSide, iconSide), devicePixelRatioF()));
     sign->setAlignment(Qt::AlignTop);
+    auto *top = new QHBoxLayout;
+    top->setSpacing(20);
+    top->addWidget(sign, 0, Qt::AlignTop);
+    top->addLayout(makeWords(), 1);
+    QPushButton *ok = makeOk();
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(24, 24, 24, 20);
+    column->setSpacing(12);
+    column->addLayout(top);
+    column->addWidget(ok, 0, Qt::AlignRight);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    ok->setFocus();
+}
+
+QLayout *About1::makeWords()
+{
     auto *words = new QVBoxLayout;
     words->setSpacing(4);
     words->addWidget(makeTitle(u"Quillery"_s, this));
@@ -69,7 +84,12 @@ About1::About1(QWidget *parent)
         words->addWidget(paragraph);
         words->addSpacing(8);
     }
+    return words;
+}
 
+/// The button, and the same as an entry of the context menu.
+QPushButton *About1::makeOk()
+{
     QPushButton *ok = makeButton(u"Command1"_s, u"&OK"_s, this, ButtonKind::Main);
     ok->setAccessibleName(u"OK"_s);
     ok->setDefault(true);
@@ -79,18 +99,7 @@ About1::About1(QWidget *parent)
     setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(close, &QAction::triggered, this, &QDialog::accept);
-
-    auto *top = new QHBoxLayout;
-    top->setSpacing(20);
-    top->addWidget(sign, 0, Qt::AlignTop);
-    top->addLayout(words, 1);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 24, 24, 20);
-    column->setSpacing(12);
-    column->addLayout(top);
-    column->addWidget(ok, 0, Qt::AlignRight);
-    column->setSizeConstraint(QLayout::SetFixedSize);
-    ok->setFocus();
+    return ok;
 }
 
 void About1::paintEvent(QPaintEvent *)

@@ -2,6 +2,9 @@
 
 #include <QDialog>
 
+class QLayout;
+class QPushButton;
+
 /// The About box: what the program is, its version, its licence and what it is built with.
 class About1 final : public QDialog
 {
@@ -11,4 +14,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QLayout *makeWords();
+    QPushButton *makeOk();
 };

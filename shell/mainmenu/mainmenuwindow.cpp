@@ -1,27 +1,39 @@
 #include "shell/mainmenu/mainmenuwindow.h"
 
 #include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/dates.h"
+#include "shell/core/framelines.h"
+#include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
+#include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
-#include "shell/frame/toolbars.h"
-#include "shell/mainmenu/backgroundchoice.h"
+#include "shell/frame/panelcolors.h"
+#include "shell/look/colortext.h"
+#include "shell/look/theme.h"
+#include "shell/mainmenu/about.h"
+#include "shell/mainmenu/backgroundflow.h"
 #include "shell/mainmenu/carddesk.h"
+#include "shell/mainmenu/displaymode.h"
+#include "shell/mainmenu/functionsmenu.h"
 #include "shell/mainmenu/mainmenumessages.h"
 #include "shell/mainmenu/menupicture.h"
+#include "shell/mainmenu/menutoolbars.h"
 #include "shell/mainmenu/sidetoolbar.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/sharedprocedures.h"
 
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QHBoxLayout>
-#include <QScreen>
+#include <QMenu>
+#include <QMenuBar>
+#include <QShortcut>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,17 +42,24 @@ namespace {
 constexpr PanelColorSettings menuColors{SettingsKeys::mainMenuColor, SettingsKeys::mainMenuColor,
                                         std::nullopt};
 constexpr int dayCheckMilliseconds = 60 * 1000;
+/// The maker's home page.
+constexpr auto webAddress = "https://quillery.example/";
+
+/// A menu whose own entry has the same object name.
+QMenu *makeMenu(const QString &name, const QString &caption, QWidget *parent)
+{
+    auto *menu = named(new QMenu(caption, parent), name);
+    menu->menuAction()->setObjectName(name);
+    menu->setToolTipsVisible(true);
+    return menu;
+}
+
+void addSeparator(QMenu &menu, const QString &name)
+{
+    menu.addSeparator()->setObjectName(name);
+}
 
 } // namespace
-
-Surroundings Surroundings::ofDesktop()
-{
-    return {[](const QUrl &address) { QDesktopServices::openUrl(address); }, [] { return QLocale::system(); },
-            [](const QWidget &window) {
-                const QScreen &screen = *window.screen();
-                return (QSizeF(screen.size()) * screen.devicePixelRatio()).toSize();
-            }};
-}
 
 Startfrm::Startfrm(Program &program, Surroundings surroundings, QWidget *parent)
     : QMainWindow(parent)
@@ -48,31 +67,19 @@ Startfrm::Startfrm(Program &program, Surroundings surroundings, QWidget *parent)
     , m_surroundings(std::move(surroundings))
     , m_activity(new ActivityBar(program.clock, program.state.dateStyle, this))
     , m_picture(new MenuPicture(this))
-    , m_topBar(named(new FlowToolBar(Qt::Horizontal, this), u"Toolbar1"_s))
-    , m_leftBar(new SideToolbar(u"Toolbar2"_s, SideToolbar::Left, this))
-    , m_rightBar(new SideToolbar(u"Toolbar3"_s, SideToolbar::Right, this))
+    , m_commands(new Commands(this))
     , m_colors(new PanelColors(program, menuColors, this, *m_activity))
+    , m_background(new BackgroundFlow(program, *m_picture, *m_colors, *m_activity, this))
+    , m_opener(program, *m_activity, this)
+    , m_toolBars(new MenuToolBars(program, *m_activity, m_opener, this))
     , m_news(program)
     , m_dayWatch(new QTimer(this))
 {
     named(this, u"Startfrm"_s);
     setStatusBar(m_activity);
     makeMenus();
-    makeToolbars();
-
-    auto *work = new QWidget(this);
-    auto *column = new QVBoxLayout(work);
-    auto *row = new QHBoxLayout;
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    row->setSpacing(0);
-    column->addWidget(m_topBar);
-    column->addLayout(row, 1);
-    row->addWidget(m_leftBar);
-    row->addWidget(m_picture, 1);
-    row->addWidget(m_rightBar);
-    setCentralWidget(work);
-    setMinimumSize(640, 400);
+    makeSideTools();
+    layOut();
     orderTabs();
     for (QWidget *card : m_picture->desk().panels())
         m_colors->addPanel(card);
@@ -82,28 +89,134 @@ Startfrm::Startfrm(Program &program, Surroundings surroundings, QWidget *parent)
 
 Startfrm::~Startfrm()
 {
-    HINFO1::hourglassOff();
+    Hourglass::off();
+}
+
+void Startfrm::makeMenus()
+{
+    QMenu *options = makeMenu(u"mO"_s, u"&Options"_s, this);
+    QMenu *functions = makeMenu(u"Mf"_s, u"&Program Functions"_s, this);
+    QMenu *help = makeMenu(u"mH"_s, u"&Help"_s, this);
+    for (QMenu *menu : {options, functions, help})
+        menuBar()->addMenu(menu);
+    makeOptionsMenu(*options);
+    fillFunctionsMenu(*functions, *m_commands, m_program, m_opener);
+    makeHelpMenu(*help);
+    m_commands->refresh();
+    // No shortcut of the menu entry, which would then show it.
+    auto *overview = new QShortcut(Qt::Key_F1, this);
+    connect(overview, &QShortcut::activated, this, [this] { openManual(HelpContext::ProgramOverview); });
+}
+
+void Startfrm::makeOptionsMenu(QMenu &menu)
+{
+    m_commands->add(&menu, u"mOBC"_s, u"&Background Selector"_s, [this] { m_background->openSelector(); });
+    QMenu *display = makeMenu(u"mOP"_s, u"&Program Display"_s, &menu);
+    menu.addMenu(display);
+    QAction *fullScreen = m_commands->add(display, u"mOPF"_s, u"&Full Screen Display"_s,
+                                          [this] { m_displayMode->useFullScreen(); });
+    QAction *smaller = m_commands->add(display, u"mOPS"_s, u"&Smaller Screen Display"_s,
+                                       [this] { m_displayMode->useSmallerScreen(); });
+    m_displayMode = new DisplayMode(m_program, this, fullScreen, smaller);
+    connect(m_displayMode, &DisplayMode::notSaved, this, [this] { tellUnless(false); });
+    addSeparator(*display, u"mO67"_s);
+    m_commands->add(display, u"mOPDefault"_s, u"&Default Screen Size"_s,
+                    [this] { m_displayMode->useDefaultSize(); });
+    addSeparator(menu, u"mO2"_s);
+    m_commands->add(&menu, u"mOPCDefault"_s, u"Default Panel Color"_s, [this] { useDefaultPanelColor(); });
+    addSeparator(menu, u"mO12"_s);
+    addSeparator(menu, u"mO1"_s);
+    m_commands->add(&menu, u"mOE"_s, u"E&xit"_s, [this] { close(); });
+}
+
+void Startfrm::makeHelpMenu(QMenu &menu)
+{
+    m_commands->add(&menu, u"mHI"_s, u"&Program Overview"_s,
+                    [this] { openManual(HelpContext::ProgramOverview); });
+    addSeparator(menu, u"mH1"_s);
+    m_commands->add(&menu, u"mHBR"_s, u"&Backup and Restore Option"_s,
+                    [this] { openManual(HelpContext::BackupAndRestore); });
+    addSeparator(menu, u"mH4"_s);
+    m_commands->add(&menu, u"mHA"_s, u"&About Quillery"_s, [this] { showAbout(); });
+    addSeparator(menu, u"mO21"_s);
+    m_commands->add(&menu, u"mHWeb"_s, u"&Quillery on the Web"_s, [this] { openWebSite(); });
+}
+
+/// Position 6 of the left bar is the line between what changes the window and what leads out of it.
+void Startfrm::makeSideTools()
+{
+    const auto left = [this](int position, QLatin1StringView icon, const QString &word, const QString &tip,
+                             std::function<void()> run) {
+        m_toolBars->addTool(m_toolBars->left(), position, icon, word, tip, std::move(run));
+    };
+    left(0, "palette"_L1, u"Background"_s, u"Chooses the picture of the main menu"_s,
+         [this] { m_background->openSelector(); });
+    left(1, "screen-size"_L1, u"Screen Size"_s, u"Switches between full screen and a smaller window"_s,
+         [this] { m_displayMode->toggle(); });
+    left(2, "family-name"_L1, u"Family Name"_s, u"Asks for the name in the title of the program"_s,
+         [this] { askFamilyName(); });
+    left(3, "edit"_L1, u"Customize"_s, u"Customize Toolbar"_s, [this] { m_toolBars->customizeTop(); });
+    left(4, "top-toolbar"_L1, u"Top Toolbar"_s, u"Removes or restores the top toolbar"_s,
+         [this] { m_toolBars->toggleTop(); });
+    left(5, "side-toolbars"_L1, u"Side Toolbars"_s, u"Removes both side toolbars"_s, [this] {
+        m_toolBars->removeSides();
+        m_picture->desk().focusFirstCard();
+    });
+    m_toolBars->left().bar().addSeparator();
+    left(7, "web"_L1, u"Web Site"_s, u"Opens Quillery's web site"_s, [this] { openWebSite(); });
+    left(8, "help"_L1, u"Overview"_s, u"Opens the manual at its first page"_s,
+         [this] { openManual(HelpContext::ProgramOverview); });
+    left(9, "exit"_L1, u"Exit"_s, u"Exit Quillery"_s, [this] { close(); });
+
+    const SideToolbar &right = m_toolBars->right();
+    m_toolBars->addTool(right, 0, "palette"_L1, u"Panel Color"_s, u"Chooses the color of the cards"_s,
+                        [this] { m_colors->choosePanelColor(); });
+    m_toolBars->addTool(right, 1, "backup-command"_L1, u"Backup Help"_s,
+                        u"Opens the manual at backup and restore"_s,
+                        [this] { openManual(HelpContext::BackupAndRestore); });
+    m_toolBars->addTool(right, 2, "about"_L1, u"About"_s, u"About Quillery"_s, [this] { showAbout(); });
+}
+
+void Startfrm::layOut()
+{
+    auto *work = new QWidget(this);
+    auto *column = new QVBoxLayout(work);
+    auto *row = new QHBoxLayout;
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    row->setSpacing(0);
+    column->addWidget(&m_toolBars->top());
+    column->addLayout(row, 1);
+    row->addWidget(&m_toolBars->left());
+    row->addWidget(m_picture, 1);
+    row->addWidget(&m_toolBars->right());
+    setCentralWidget(work);
+    setMinimumSize(640, 400);
 }
 
 void Startfrm::listen()
 {
     connect(&m_picture->desk(), &CardDesk::opened, this,
-            [this](Function function) { openFunction(function); });
+            [this](Function function) { m_opener.open(function); });
     connect(m_picture, &MenuPicture::firstPainted, this, [this] {
-        m_newsShown = true;
+        m_isNewsShown = true;
         refreshNews();
         checkScreen();
     });
-    connect(m_activity, &ActivityBar::restoreTopToolbarRequested, this, [this] {
-        if (!TopToolbar::setRemoved(m_program, false))
-            tellSettingNotSaved();
+    connect(m_background, &BackgroundFlow::selectorOpened, this, [this] {
+        m_toolBars->setCovered(true);
+        showMainMenu();
     });
-    connect(m_activity, &ActivityBar::restoreSideToolbarsRequested, this, [this] { showSideToolbars(true); });
-    connect(&m_program.changes, &ProgramSignals::topToolbarChanged, this, &Startfrm::showTopToolbar);
+    connect(m_background, &BackgroundFlow::selectorClosed, this, [this] {
+        m_toolBars->setCovered(false);
+        showMainMenu();
+        m_picture->desk().focusFirstCard();
+    });
+    connect(m_toolBars, &MenuToolBars::rearranged, this, &Startfrm::setUp);
     connect(&m_program.changes, &ProgramSignals::familyNameChanged, this, &Startfrm::showMainMenu);
     connect(&m_program.changes, &ProgramSignals::mainMenuRequested, this, [this] { bringToFront(*this); });
     connect(m_dayWatch, &QTimer::timeout, this, [this] {
-        if (m_newsShown)
+        if (m_isNewsShown)
             refreshNews();
     });
     m_dayWatch->setTimerType(Qt::VeryCoarseTimer);
@@ -112,11 +225,11 @@ void Startfrm::listen()
 /// What comes before the window is seen.
 void Startfrm::load()
 {
-    HINFO1::hourglassOn();
+    Hourglass::on();
     decideDateStyle();
     m_program.state.familyName = FamilyName(m_program.settings.text(SettingsKeys::familyName));
     showMainMenu();
-    m_topActions.front()->setEnabled(false);
+    m_toolBars->setFirstButtonEnabled(false);
     QDir::setCurrent(m_program.folder.path());
 }
 
@@ -131,11 +244,10 @@ void Startfrm::setVisible(bool visible)
 void Startfrm::activate()
 {
     m_displayMode->load();
-    m_background = BackgroundChoice::ofRecord(m_program.settings.tagged(SettingsKeys::background));
+    m_background->load();
     m_colors->load();
     setUp();
-    // Whatever the marker's record says: they always start removed.
-    showSideToolbars(false);
+    m_toolBars->showSides(false); // whatever the record of the side toolbars says
     m_program.state.startup = StartupDone;
     m_picture->desk().focusFirstCard();
 }
@@ -144,18 +256,17 @@ void Startfrm::activate()
 void Startfrm::setUp()
 {
     decideDateStyle();
-    showTopToolbar();
+    m_toolBars->showTop();
     for (const FunctionFace &face : FunctionFaces::cards())
         m_picture->desk().setAvailable(face.function, m_program.functions.has(face.function));
-    showBackground(m_background);
-    m_picture->setDate(Dates::longText(m_program.clock.today(), m_program.state.dateStyle));
-    m_picture->showNews(m_news);
+    m_background->show();
+    showNews();
     m_activity->startClock();
     m_dayWatch->start(dayCheckMilliseconds);
     m_program.state.passwordGateResult = PasswordGateResult::Open;
     QDir::setCurrent(m_program.folder.path());
-    m_topActions.front()->setEnabled(m_program.functions.has(Function::AddressBook));
-    HINFO1::hourglassOff();
+    m_toolBars->setFirstButtonEnabled(m_program.functions.has(Function::AddressBook));
+    Hourglass::off();
 }
 
 void Startfrm::decideDateStyle()
@@ -172,59 +283,22 @@ void Startfrm::checkScreen()
 void Startfrm::showMainMenu()
 {
     setWindowTitle(m_program.state.familyName.caption());
-    m_activity->setActivity(m_selector ? u"Background Selector"_s : u"Main Menu"_s);
+    m_activity->setActivity(m_background->isSelectorOpen() ? u"Background Selector"_s : u"Main Menu"_s);
 }
 
-/// The household's own picture of that name, else the one that came with the program; empty for none.
-QString Startfrm::picturePath(const BackgroundChoice &choice) const
+void Startfrm::showNews()
 {
-    if (choice.isPlain())
-        return {};
-    const QString own = m_program.folder.existingFile({}, choice.fileName());
-    return own.isEmpty() ? m_program.programFolder.existingFile({}, choice.fileName()) : own;
-}
-
-void Startfrm::showBackground(const BackgroundChoice &choice)
-{
-    m_picture->setPicture(picturePath(choice));
-}
-
-void Startfrm::showTopToolbar()
-{
-    const bool removed = TopToolbar::isRemoved(m_program, SettingsKeys::topToolbar);
-    if (!removed && (m_topBar->isHidden() || m_topBar->actions().isEmpty()))
-        m_topLayout->restore();
-    m_topBar->setVisible(!removed && !m_selector);
-    m_activity->offerTopToolbar(removed && !m_selector);
-}
-
-void Startfrm::showSideToolbars(bool shown)
-{
-    m_sideToolbarsShown = shown;
-    m_leftBar->setVisible(shown && !m_selector);
-    m_rightBar->setVisible(shown && !m_selector);
-    m_activity->offerSideToolbars(!shown && !m_selector);
-}
-
-void Startfrm::removeSideToolbars()
-{
-    showSideToolbars(false);
-    const bool isSaved =
-        m_program.settings.setNumber(SettingsKeys::sideToolbarMarker, SettingsKeys::sideToolbarsRemoved);
-    setUp();
-    m_picture->desk().focusFirstCard();
-    if (!isSaved)
-        tellSettingNotSaved();
+    m_picture->setDate(Dates::longText(m_program.clock.today(), m_program.state.dateStyle));
+    m_picture->showNews(m_news);
 }
 
 void Startfrm::refreshNews()
 {
     m_news.refresh();
-    m_picture->setDate(Dates::longText(m_program.clock.today(), m_program.state.dateStyle));
-    m_picture->showNews(m_news);
+    showNews();
 }
 
-/// The cards come first on the way of the Tab key; then the links of the status bar and the toolbars.
+/// The Tab key comes to the cards first, then to the links of the status bar.
 void Startfrm::orderTabs()
 {
     QWidget *before = m_picture->desk().panels().last();
@@ -234,25 +308,68 @@ void Startfrm::orderTabs()
     }
 }
 
+void Startfrm::askFamilyName()
+{
+    m_activity->setActivity(u"Family Name"_s);
+    const bool isSaved = HINFO1::askFamilyName(m_program, this);
+    showMainMenu();
+    tellUnless(isSaved);
+}
+
+void Startfrm::tellUnless(bool isSaved)
+{
+    if (!isSaved)
+        m_activity->say(FrameLines::settingNotSaved());
+}
+
+void Startfrm::showAbout()
+{
+    m_activity->setActivity(u"About Quillery"_s);
+    About1 box(this);
+    m_program.dialogs.run(box);
+    showMainMenu();
+}
+
+void Startfrm::openWebSite()
+{
+    m_activity->setActivity(u"Launching Web Site"_s);
+    m_surroundings.openAddress(QUrl(QString::fromLatin1(webAddress)));
+    showMainMenu();
+}
+
+void Startfrm::openManual(int context)
+{
+    emit m_program.changes.helpRequested(context);
+}
+
+void Startfrm::useDefaultPanelColor()
+{
+    QString pending = ColorText::encode(Theme::of(this).panel);
+    if (HINFO1::updateProgramColors(m_program, this, pending, HINFO1::updateWithoutAsking))
+        m_activity->say(u"The default panel color is set for the whole program."_s);
+    else
+        tellUnless(false);
+}
+
 void Startfrm::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && m_displayMode && m_program.state.startup == StartupDone)
         m_displayMode->windowStateChanged(static_cast<QWindowStateChangeEvent *>(event)->oldState());
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_newsShown)
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_isNewsShown)
         refreshNews();
 }
 
 /// However the window is closed, the same questions are asked.
 void Startfrm::closeEvent(QCloseEvent *event)
 {
-    if (!m_exiting && !mayExit()) {
+    if (!m_isExiting && !mayExit()) {
         event->ignore();
         return;
     }
-    m_exiting = true;
+    m_isExiting = true;
     if (!closeFunctionWindows()) {
-        m_exiting = false;
+        m_isExiting = false;
         event->ignore();
         return;
     }
@@ -263,7 +380,7 @@ void Startfrm::closeEvent(QCloseEvent *event)
 
 bool Startfrm::mayExit()
 {
-    HINFO1::hourglassOff();
+    Hourglass::off();
     for (QWidget *window : m_program.functions.openWindows())
         if (auto *functionWindow = qobject_cast<FunctionWindow *>(window);
             functionWindow && !functionWindow->mayLeave()) {

@@ -43,19 +43,19 @@ struct ShowsListFile {
 /// No button: a gap in the count.
 struct Gap {};
 
-using Deed = std::variant<OpensFunction, SameAsEntry, OtherEdition, ShowsListFile, Gap>;
+using Effect = std::variant<OpensFunction, SameAsEntry, OtherEdition, ShowsListFile, Gap>;
 
 struct TopButton {
     const char *word; ///< at most 9 letters; empty for a gap
     const char *description;
     const char *icon;
-    Deed deed;
+    Effect effect;
     /// The function that must be built in for the button to be of use; none for those that always are.
     std::optional<Function> needs = std::nullopt;
 
     QString wordText() const { return QString::fromLatin1(word); }
     QString descriptionText() const { return QString::fromLatin1(description); }
-    bool isGap() const { return std::holds_alternative<Gap>(deed); }
+    bool isGap() const { return std::holds_alternative<Gap>(effect); }
 };
 
 /// All buttons by position.

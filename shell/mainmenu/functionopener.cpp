@@ -1,0 +1,102 @@
+#include "shell/mainmenu/functionopener.h"
+
+#include "shell/access/gate.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/busycursor.h"
+#include "shell/mainmenu/listfile.h"
+#include "shell/program/functionfaces.h"
+#include "shell/program/program.h"
+
+#include <QAction>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// "Loading" in the status bar and the hourglass, until what was asked for is there.
+class Loading
+{
+public:
+    explicit Loading(ActivityBar &bar)
+        : m_bar(bar)
+        , m_before(bar.activity())
+    {
+        m_bar.setActivity(u"Loading"_s);
+    }
+    ~Loading() { m_bar.setActivity(m_before); }
+    Loading(const Loading &) = delete;
+    Loading &operator=(const Loading &) = delete;
+
+private:
+    ActivityBar &m_bar;
+    QString m_before;
+    BusyCursor m_busy;
+};
+
+template <typename... Effects>
+struct Either : Effects... {
+    using Effects::operator()...;
+};
+
+} // namespace
+
+FunctionOpener::FunctionOpener(Program &program, ActivityBar &activity, QWidget *window)
+    : m_program(program)
+    , m_activity(activity)
+    , m_window(window)
+{}
+
+void FunctionOpener::open(Function function) const
+{
+    if (function == Function::PasswordControl)
+        openWhenAllowed(function,
+                        [this] { return m_program.gate.mayOpenPasswordControl(m_program, m_window); });
+    else
+        open(function, FunctionFaces::of(function).area);
+}
+
+void FunctionOpener::open(Function function, int area) const
+{
+    openWhenAllowed(function, [this, area] { return m_program.gate.mayOpen(m_program, area, m_window); });
+}
+
+void FunctionOpener::openWhenAllowed(Function function, const std::function<bool()> &mayOpen) const
+{
+    if (!m_program.functions.has(function))
+        return;
+    const Loading loading(m_activity);
+    m_activity.say({});
+    if (mayOpen())
+        m_program.functions.open(function, m_program);
+}
+
+void FunctionOpener::press(const TopButtons::TopButton &button) const
+{
+    const Loading loading(m_activity);
+    std::visit(Either{[this](const TopButtons::OpensFunction &effect) { open(effect.function, effect.area); },
+                      [this](const TopButtons::SameAsEntry &effect) {
+                          if (auto *same = m_window->findChild<QAction *>(QString::fromLatin1(effect.entry)))
+                              same->trigger();
+                      },
+                      [this](const TopButtons::OtherEdition &effect) { openForeign(effect.area); },
+                      [this](const TopButtons::ShowsListFile &effect) { showListFile(effect); },
+                      [](const TopButtons::Gap &) {}},
+               button.effect);
+}
+
+/// A function that another edition has: its guard is asked, and there is no window to show.
+void FunctionOpener::openForeign(int area) const
+{
+    (void)m_program.gate.mayOpen(m_program, area, m_window);
+}
+
+void FunctionOpener::showListFile(const TopButtons::ShowsListFile &button) const
+{
+    const QString file = m_program.folder.existingFile({}, QString::fromLatin1(button.file));
+    if (ListFile::hasUsableLine(file)) {
+        openForeign(button.area);
+        return;
+    }
+    Hourglass::off(); // while a notice is read
+    m_program.dialogs.ask(m_window, TopButtons::emptyListNotice(button));
+}

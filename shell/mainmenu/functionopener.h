@@ -1,0 +1,33 @@
+#pragma once
+
+#include "shell/mainmenu/topbuttons.h"
+
+#include <functional>
+
+class ActivityBar;
+class QWidget;
+struct Program;
+
+/// Opens functions from the main menu, each behind its guard, and does what the buttons of the top toolbar
+/// do. Meanwhile the status bar says "Loading".
+class FunctionOpener
+{
+public:
+    FunctionOpener(Program &program, ActivityBar &activity, QWidget *window);
+
+    /// As the function's menu entry and its card do.
+    void open(Function function) const;
+
+    /// What a click on the button does.
+    void press(const TopButtons::TopButton &button) const;
+
+private:
+    void open(Function function, int area) const;
+    void openWhenAllowed(Function function, const std::function<bool()> &mayOpen) const;
+    void openForeign(int area) const;
+    void showListFile(const TopButtons::ShowsListFile &button) const;
+
+    Program &m_program;
+    ActivityBar &m_activity;
+    QWidget *m_window;
+};
