@@ -29,12 +29,13 @@ install_missing() {
     rm -f "$log"
 }
 
-# build PRESET [TARGET...]: configures once, then builds what changed; quiet unless something fails.
+# build PRESET [TARGET...]: configures when the presets have changed, then builds what changed; quiet unless something
+# fails.
 build() {
     local preset=$1 log
     shift
     log=$(mktemp)
-    if ! { { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+    if ! { { [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset"; } &&
            cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1 </dev/null; then
         tail -n 60 "$log"
         echo "The build failed."

@@ -4,8 +4,10 @@
 
 #include <QFile>
 #include <QIconEngine>
+#include <QLibraryInfo>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QVersionNumber>
 
 #include <algorithm>
 #include <array>
@@ -42,32 +44,27 @@ public:
         loadIconFiles();
     }
 
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
         const qreal ratio = painter->device()->devicePixelRatioF();
-        QPixmap picture = scaledPixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state, ratio);
+        QPixmap picture = pictureOf((QSizeF(rect.size()) * ratio).toSize(), mode);
         picture.setDevicePixelRatio(ratio);
         QRectF target(QPointF(), picture.deviceIndependentSize());
         target.moveCenter(QRectF(rect).center());
         painter->drawPixmap(target.topLeft(), picture);
     }
 
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
     {
-        return scaledPixmap(size, mode, state, 1);
+        return pictureOf(size, mode);
     }
 
-    QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State, qreal) override
+    QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State, qreal ratio) override
     {
-        const int side = std::min(size.width(), size.height());
-        const QColor ink = inkIn(mode);
-        const QString key = fileOf(m_name, m_scheme, side) + (ink.isValid() ? ink.name() : QString());
-        QPixmap picture;
-        if (!QPixmapCache::find(key, &picture)) {
-            picture = drawn(side, ink);
-            QPixmapCache::insert(key, picture);
-        }
-        return picture;
+        // The size is in pixels of the screen before Qt 6.8 and in logical ones since. The library that runs
+        // decides, since a program outlives an upgrade of it.
+        static const bool isLogical = QLibraryInfo::version() >= QVersionNumber(6, 8);
+        return pictureOf(isLogical ? (QSizeF(size) * ratio).toSize() : size, mode);
     }
 
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
@@ -86,6 +83,19 @@ public:
     QIconEngine *clone() const override { return new DrawnIcon(*this); }
 
 private:
+    QPixmap pictureOf(const QSize &pixels, QIcon::Mode mode)
+    {
+        const int side = std::min(pixels.width(), pixels.height());
+        const QColor ink = inkIn(mode);
+        const QString key = fileOf(m_name, m_scheme, side) + (ink.isValid() ? ink.name() : QString());
+        QPixmap picture;
+        if (!QPixmapCache::find(key, &picture)) {
+            picture = drawn(side, ink);
+            QPixmapCache::insert(key, picture);
+        }
+        return picture;
+    }
+
     /// An invalid colour leaves the drawing as it is.
     QColor inkIn(QIcon::Mode mode) const
     {

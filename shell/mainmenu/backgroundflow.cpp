@@ -4,7 +4,6 @@
 #include "shell/controls/busycursor.h"
 #include "shell/core/framelines.h"
 #include "shell/core/settingskeys.h"
-#include "shell/core/shellmessages.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/mainmenu/backgroundselector.h"
 #include "shell/mainmenu/menupicture.h"

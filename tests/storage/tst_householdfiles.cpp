@@ -2,11 +2,8 @@
 #include "storage/recordfile.h"
 #include "storage/recordvalue.h"
 #include "storage/valuefile.h"
+#include "tests/support/household.h"
 #include "tests/support/testfiles.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,7 +13,6 @@ class TestHouseholdFiles : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void recordsOfTextsComeBack_data();
     void recordsOfTextsComeBack();
     void valueFilesComeBack_data();
@@ -24,17 +20,8 @@ private slots:
     void readsCommentsOfSeveralLines();
 
 private:
-    QTemporaryDir m_dir;
+    const DataFolder m_folder{householdPath()};
 };
-
-void TestHouseholdFiles::initTestCase()
-{
-    const QDir original(QStringLiteral(QUILLERY_TEST_DATA "/household/data"));
-    const QStringList names = original.entryList(QDir::Files);
-    QVERIFY(names.size() > 40);
-    for (const QString &name : names)
-        QVERIFY(QFile::copy(original.filePath(name), m_dir.filePath(name)));
-}
 
 void TestHouseholdFiles::recordsOfTextsComeBack_data()
 {
@@ -56,7 +43,7 @@ void TestHouseholdFiles::recordsOfTextsComeBack()
     QFETCH(QList<int>, numbers);
     int texts = 0;
     QList<int> numbersFound;
-    RecordFile file(DataFolder(m_dir.path()).filePath(name), recordLength);
+    RecordFile file(m_folder.filePath(name), recordLength);
     file.forEach(1, [&](int number, QByteArrayView bytes) {
         const QString text = RecordValue::decodeText(bytes);
         const std::optional<QByteArray> again = RecordValue::encodeText(text, recordLength);
@@ -87,7 +74,7 @@ void TestHouseholdFiles::valueFilesComeBack_data()
 void TestHouseholdFiles::valueFilesComeBack()
 {
     QFETCH(QString, name);
-    const QString path = DataFolder(m_dir.path()).filePath(name);
+    const QString path = m_folder.filePath(name);
     const QStringList values = ValueFile::read(path);
     QTEST(int(values.size()), "count");
     QCOMPARE(ValueFile::encode(values), contentOf(path));
@@ -95,7 +82,7 @@ void TestHouseholdFiles::valueFilesComeBack()
 
 void TestHouseholdFiles::readsCommentsOfSeveralLines()
 {
-    const QStringList values = ValueFile::read(m_dir.filePath(u"Nils Holm 2026.Fil"_s));
+    const QStringList values = ValueFile::read(householdPath(u"Nils Holm 2026.Fil"_s));
     QVERIFY(values.contains(u"Knee is still weak, no running.\r\nSays the doctor: \"Swim\" instead.\r\n"
                             "Next check in May."_s));
 }

@@ -18,8 +18,6 @@ private slots:
     void readsRecords();
     void readsRunsOfRecords();
     void touchesOnlyTheBytesOfAValue();
-    void leavesZerosBeforeAFarRecord();
-    void refusesWhatIsNoRecord_data();
     void refusesWhatIsNoRecord();
     void countsRecords_data();
     void countsRecords();
@@ -78,29 +76,13 @@ void TestRecordFile::touchesOnlyTheBytesOfAValue()
     QCOMPARE(contentOf(path()), QByteArray("abcdXYghZj\0\0end", 15));
 }
 
-void TestRecordFile::leavesZerosBeforeAFarRecord()
-{
-    RecordFile file(path(), 4);
-    QVERIFY(file.write(3, "abc"));
-    QCOMPARE(contentOf(path()), QByteArray("\0\0\0\0\0\0\0\0abc", 11));
-    QCOMPARE(file.read(2), QByteArray(4, '\0'));
-}
-
-void TestRecordFile::refusesWhatIsNoRecord_data()
-{
-    QTest::addColumn<int>("number");
-    QTest::addColumn<QByteArray>("value");
-    QTest::newRow("longer than a record") << 1 << "abcde"_ba;
-    QTest::newRow("record 0") << 0 << "a"_ba;
-    QTest::newRow("negative record") << -1 << "a"_ba;
-}
-
 void TestRecordFile::refusesWhatIsNoRecord()
 {
-    QFETCH(int, number);
-    QFETCH(QByteArray, value);
-    expectWarning("^Refused to write \\d bytes to record -?\\d of ");
-    QVERIFY(!RecordFile(path(), 4).write(number, value));
+    const std::pair<int, QByteArray> values[]{{1, "longer"}, {0, "a"}, {-1, "a"}};
+    for (const auto &[number, value] : values) {
+        expectWarning("^Refused to write \\d bytes to record -?\\d of ");
+        QVERIFY(!RecordFile(path(), 4).write(number, value));
+    }
     QVERIFY(!QFile::exists(path()));
 }
 

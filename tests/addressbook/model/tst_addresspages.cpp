@@ -1,4 +1,5 @@
 #include "addressbook/model/addresspages.h"
+#include "tests/support/pageitems.h"
 
 #include <QTest>
 
@@ -32,17 +33,6 @@ AddressPages::Source times(int count, const AddressEntry &entry)
     return [count, entry](const auto &visit) {
         for (int i = 0; i < count && visit(entry); ++i) {}
     };
-}
-
-template <typename Item>
-std::vector<Item> itemsOf(const Page &page)
-{
-    std::vector<Item> items;
-    for (const Page::Item &item : page.items()) {
-        if (const auto *found = std::get_if<Item>(&item))
-            items.push_back(*found);
-    }
-    return items;
 }
 
 } // namespace
@@ -117,14 +107,11 @@ void TestAddressPages::keepsCardsApart_data()
     QTest::addColumn<int>("perSheet");
     QTest::addColumn<QSizeF>("paper");
     QTest::addColumn<PageSetup::Orientation>("orientation");
-    for (const int perSheet : {2, 4, 8}) {
-        QTest::addRow("%d, letter portrait", perSheet) << perSheet << QSizeF(8.5, 11) << PageSetup::Portrait;
-        QTest::addRow("%d, letter landscape", perSheet)
-            << perSheet << QSizeF(8.5, 11) << PageSetup::Landscape;
-        QTest::addRow("%d, A4 portrait", perSheet) << perSheet << QSizeF(8.27, 11.69) << PageSetup::Portrait;
-        QTest::addRow("%d, A4 landscape", perSheet)
-            << perSheet << QSizeF(8.27, 11.69) << PageSetup::Landscape;
-    }
+    for (const int perSheet : {2, 4, 8})
+        for (const QSizeF paper : {QSizeF(8.5, 11), QSizeF(8.27, 11.69)})
+            for (const auto orientation : {PageSetup::Portrait, PageSetup::Landscape})
+                QTest::addRow("%d, %g wide, %d", perSheet, paper.width(), int(orientation))
+                    << perSheet << paper << orientation;
 }
 
 void TestAddressPages::keepsCardsApart()
@@ -132,9 +119,7 @@ void TestAddressPages::keepsCardsApart()
     QFETCH(int, perSheet);
     QFETCH(QSizeF, paper);
     QFETCH(PageSetup::Orientation, orientation);
-    PageSetup setup;
-    setup.paper = paper;
-    setup.orientation = orientation;
+    const PageSetup setup{paper, orientation};
     const Page page = AddressPages::cards(
         AddressPages::PerSheet(perSheet), setup, times(perSheet, m_anne),
         [](const QString &stored) { return stored; }, DateStyle::Usa, printedOn);

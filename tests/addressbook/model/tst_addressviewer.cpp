@@ -1,11 +1,9 @@
 #include "addressbook/model/addressviewer.h"
-#include "storage/bytecase.h"
 #include "tests/addressbook/model/addressrecords.h"
+#include "tests/support/household.h"
 
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -16,13 +14,11 @@ class TestAddressViewer : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void showsTheHousehold_data();
     void showsTheHousehold();
     void narrowsTheHouseholdByMonth_data();
     void narrowsTheHouseholdByMonth();
     void searchesTheHousehold();
-    void findsThePictures();
     void readsTheDayOfTheYear_data();
     void readsTheDayOfTheYear();
     void readsATypedMonth_data();
@@ -31,8 +27,6 @@ private slots:
     void readsOnlyTheFirstRows();
     void searchesNamesAndInformation_data();
     void searchesNamesAndInformation();
-    void findsTextsInBytes_data();
-    void findsTextsInBytes();
     void bringsARemovedRowBack();
     void sortsAndReturnsToRecordOrder_data();
     void sortsAndReturnsToRecordOrder();
@@ -44,7 +38,8 @@ private slots:
     void staysCompact();
 
 private:
-    QJsonObject m_expected;
+    const QJsonObject m_expected = expectedOf(u"address_book"_s);
+    const DataFolder m_household{householdPath()};
 };
 
 namespace {
@@ -69,11 +64,6 @@ QStringList rowsOf(const AddressViewer &viewer)
     return rows;
 }
 
-DataFolder household()
-{
-    return DataFolder(u"" QUILLERY_TEST_DATA "/household/data"_s);
-}
-
 /// An entry with these names, e-mail address and date of birth.
 QByteArray person(const QByteArray &last, const QByteArray &first, const QByteArray &email,
                   const QByteArray &birth = {})
@@ -95,13 +85,6 @@ void putFour(const TestFolder &files)
 
 } // namespace
 
-void TestAddressViewer::initTestCase()
-{
-    const QByteArray json = contentOf(u"" QUILLERY_TEST_DATA "/household/expected.json"_s);
-    m_expected = QJsonDocument::fromJson(json)["address_book"_L1].toObject();
-    QVERIFY(!m_expected.isEmpty());
-}
-
 void TestAddressViewer::showsTheHousehold_data()
 {
     QTest::addColumn<int>("choice");
@@ -114,8 +97,7 @@ void TestAddressViewer::showsTheHousehold_data()
 void TestAddressViewer::showsTheHousehold()
 {
     QFETCH(int, choice);
-    const DataFolder folder = household();
-    AddressViewer viewer(folder, DateStyle::Usa);
+    AddressViewer viewer(m_household, DateStyle::Usa);
     viewer.load(Information(choice), everyone);
     QStringList expected;
     for (const QJsonValue &row :
@@ -148,8 +130,7 @@ void TestAddressViewer::narrowsTheHouseholdByMonth()
     QFETCH(DateStyle, style);
     QFETCH(DisplayRange::Kind, kind);
     QFETCH(QJsonObject, expected);
-    const DataFolder folder = household();
-    AddressViewer viewer(folder, style);
+    AddressViewer viewer(m_household, style);
     QCOMPARE(expected.size(), 12);
     for (auto it = expected.begin(); it != expected.end(); ++it) {
         // The choice of information has no part in it.
@@ -161,8 +142,7 @@ void TestAddressViewer::narrowsTheHouseholdByMonth()
 
 void TestAddressViewer::searchesTheHousehold()
 {
-    const DataFolder folder = household();
-    AddressViewer viewer(folder, DateStyle::Usa);
+    AddressViewer viewer(m_household, DateStyle::Usa);
     const QJsonObject counts = m_expected["viewer_name_search_counts"_L1].toObject();
     QVERIFY(!counts.isEmpty());
     for (const Information information : {Information::HomePhone, Information::Pictures}) {
@@ -174,13 +154,6 @@ void TestAddressViewer::searchesTheHousehold()
     }
     viewer.search({});
     QCOMPARE(viewer.count(), 40);
-}
-
-void TestAddressViewer::findsThePictures()
-{
-    const DataFolder folder = household();
-    AddressViewer viewer(folder, DateStyle::Usa);
-    viewer.load(Information::Pictures, everyone);
     for (const QJsonValue &picture : m_expected["pictures"_L1].toArray())
         QVERIFY(
             rowsOf(viewer).contains(picture["name"_L1].toString() + u'|' + picture["path"_L1].toString()));
@@ -301,6 +274,7 @@ void TestAddressViewer::searchesNamesAndInformation_data()
     QTest::newRow("not over both") << u"Alal@"_s << QStringList();
     QTest::newRow("letters that no file holds") << u"日本"_s << QStringList();
     QTest::newRow("longer than any row") << QString(500, u'x') << QStringList();
+    QTest::newRow("the end of a row") << u"ida@x.org"_s << QStringList{u"Zabel, Ida"_s};
 }
 
 void TestAddressViewer::searchesNamesAndInformation()
@@ -316,26 +290,6 @@ void TestAddressViewer::searchesNamesAndInformation()
     QCOMPARE(viewer.nameCount(), 4);
     viewer.load(Information::EmailAddress, everyone);
     QTEST(namesOf(viewer), "names");
-}
-
-void TestAddressViewer::findsTextsInBytes_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<bool>("isThere");
-    QTest::newRow("at the end") << QByteArray("Mill") << QByteArray("ILL") << true;
-    QTest::newRow("the whole line") << QByteArray("mill") << QByteArray("MILL") << true;
-    QTest::newRow("longer than the line") << QByteArray("mill") << QByteArray("MILLE") << false;
-    QTest::newRow("much longer") << QByteArray("m") << QByteArray(1000, 'M') << false;
-    QTest::newRow("in an empty line") << QByteArray() << QByteArray("M") << false;
-    QTest::newRow("nothing in an empty line") << QByteArray() << QByteArray() << true;
-}
-
-void TestAddressViewer::findsTextsInBytes()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QByteArray, text);
-    QTEST(ByteCase::contains(bytes, text), "isThere");
 }
 
 void TestAddressViewer::bringsARemovedRowBack()

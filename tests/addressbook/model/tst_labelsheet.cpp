@@ -1,6 +1,7 @@
 #include "addressbook/model/addressviewer.h"
 #include "addressbook/model/labelsheet.h"
 #include "tests/addressbook/model/addressrecords.h"
+#include "tests/support/pageitems.h"
 
 #include <QTest>
 
@@ -27,17 +28,6 @@ private slots:
 };
 
 namespace {
-
-template <typename Item>
-QList<Item> itemsOf(const Page &page)
-{
-    QList<Item> items;
-    for (const Page::Item &item : page.items()) {
-        if (const auto *wanted = std::get_if<Item>(&item))
-            items << *wanted;
-    }
-    return items;
-}
 
 const LabelSheet &sheetNamed(const QString &part)
 {

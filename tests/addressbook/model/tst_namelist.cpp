@@ -11,7 +11,6 @@ class TestNameList : public QObject
 
 private slots:
     void keepsItsLinesApart();
-    void tellsItsCount();
     void searchesAnywhereAndWithoutCase_data();
     void searchesAnywhereAndWithoutCase();
     void searchesLongLists_data();
@@ -56,15 +55,6 @@ void TestNameList::keepsItsLinesApart()
     QCOMPARE(list.name(2), u"Müller-Lind, Karl"_s);
     QCOMPARE(list.line(3), QString());
     QCOMPARE(list.recordAt(-1), 0);
-}
-
-void TestNameList::tellsItsCount()
-{
-    NameList list;
-    QCOMPARE(list.countCaption(), u" 0 - Entries "_s);
-    for (int i = 0; i < 12; ++i)
-        list.append(u"Lind, Anne");
-    QCOMPARE(list.countCaption(), u" 12 - Entries "_s);
 }
 
 void TestNameList::searchesAnywhereAndWithoutCase_data()

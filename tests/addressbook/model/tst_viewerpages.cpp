@@ -1,9 +1,8 @@
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/model/viewerpages.h"
 #include "tests/addressbook/model/addressrecords.h"
+#include "tests/support/pageitems.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -19,15 +18,13 @@ private slots:
     void headsTheColumns();
     void listsWhatIsShown_data();
     void listsWhatIsShown();
-    void numbersEachPageInItsHeading();
-    void describesTheTable();
+    void followsTheOptions();
     void saysWhenNothingIsLeft();
     void placesPicturesToTheHundredth();
     void placesPicturesOnOtherSheets_data();
     void placesPicturesOnOtherSheets();
     void scalesPictures_data();
     void scalesPictures();
-    void fillsSheetsOfTwenty();
     void copiesHeadingsAndRows();
     void exportsBytes();
     void namesTheExport_data();
@@ -41,17 +38,6 @@ private:
 namespace {
 
 const QDate today(2026, 11, 21);
-
-template <typename Item>
-QList<Item> itemsOf(const Page &page)
-{
-    QList<Item> items;
-    for (const Page::Item &item : page.items()) {
-        if (const auto *wanted = std::get_if<Item>(&item))
-            items << *wanted;
-    }
-    return items;
-}
 
 QList<QStringList> rowsOf(const Page &page)
 {
@@ -133,31 +119,25 @@ void TestViewerPages::listsWhatIsShown()
     QTEST(rowsOf(ViewerPages::list(*m_viewer, options, DateStyle::Usa, today)), "rows");
 }
 
-void TestViewerPages::numbersEachPageInItsHeading()
+void TestViewerPages::followsTheOptions()
 {
+    const auto list = [this](const ViewerPages::ListOptions &options) {
+        return ViewerPages::list(*m_viewer, options, DateStyle::Usa, today);
+    };
+    QCOMPARE(list({}).headRight(), QString());
+    const auto plain = itemsOf<PageItem::Columns>(list({})).constFirst();
+    QCOMPARE(plain.across, 1);
+    QVERIFY(plain.lines == TableLines::None);
+    QCOMPARE(plain.headings, QStringList({u"Name"_s, u"State"_s}));
+
     ViewerPages::ListOptions options;
-    QCOMPARE(ViewerPages::list(*m_viewer, options, DateStyle::Usa, today).headRight(), QString());
-    options.hasAsOf = true;
-    const Page page = ViewerPages::list(*m_viewer, options, DateStyle::Usa, today);
+    options.hasAsOf = options.isTwoColumns = options.hasGridLines = true;
+    const Page page = list(options);
     QCOMPARE(page.titleOf(3), u"Family/Friends State List - Page No. 3"_s);
     QCOMPARE(page.headRight(), u"As of  Saturday, November 21, 2026"_s);
     QCOMPARE(page.printedLine(), u"Printed on 11/21/2026"_s);
-}
-
-void TestViewerPages::describesTheTable()
-{
-    ViewerPages::ListOptions options;
-    const auto table = [&] {
-        return itemsOf<PageItem::Columns>(ViewerPages::list(*m_viewer, options, DateStyle::Usa, today))
-            .constFirst();
-    };
-    QCOMPARE(table().across, 1);
-    QVERIFY(table().lines == TableLines::None);
-    QCOMPARE(table().headings, QStringList({u"Name"_s, u"State"_s}));
-    options.isTwoColumns = true;
-    options.hasGridLines = true;
-    QCOMPARE(table().across, 2);
-    QVERIFY(table().lines == TableLines::Grid);
+    QCOMPARE(itemsOf<PageItem::Columns>(page).constFirst().across, 2);
+    QVERIFY(itemsOf<PageItem::Columns>(page).constFirst().lines == TableLines::Grid);
 }
 
 void TestViewerPages::saysWhenNothingIsLeft()
@@ -234,21 +214,6 @@ void TestViewerPages::scalesPictures()
     const QSizeF size = itemsOf<PageItem::PlacedPicture>(page).constFirst().place.size();
     QVERIFY(std::abs(size.width() - inches.width()) < 0.0001);
     QVERIFY(std::abs(size.height() - inches.height()) < 0.0001);
-}
-
-void TestViewerPages::fillsSheetsOfTwenty()
-{
-    const QByteArray json = contentOf(u"" QUILLERY_TEST_DATA "/household/expected.json"_s);
-    const QJsonValue expected = QJsonDocument::fromJson(json)["address_book"_L1]["picture_list_pages"_L1];
-    const DataFolder folder(u"" QUILLERY_TEST_DATA "/household/data"_s);
-    AddressViewer viewer(folder, DateStyle::Usa);
-    viewer.load(Information::Pictures, {});
-    int withPicture = 0;
-    for (int row = 0; row < viewer.count(); ++row)
-        withPicture += viewer.information(row).size() >= 5;
-    const Page page = ViewerPages::pictureList(pictures(withPicture), {}, DateStyle::Usa, today);
-    QCOMPARE(int(itemsOf<PageItem::Break>(page).size()), expected.toInt());
-    QVERIFY(page.toText().contains(u"Page 2 of 2"_s));
 }
 
 void TestViewerPages::copiesHeadingsAndRows()

@@ -1,12 +1,11 @@
 #include "planner/model/calendaroptions.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannerfiles.h"
+#include "tests/support/household.h"
 #include "tests/support/plannerdays.h"
 #include "tests/support/testprogram.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -167,10 +166,7 @@ void TestPlannerDay::readsTheHousehold()
 {
     const TestProgram test(TestProgram::Household);
     PlannerFiles files(test.folder);
-    QFile expectedFile(QStringLiteral(QUILLERY_TEST_DATA "/household/expected.json"));
-    QVERIFY(expectedFile.open(QIODevice::ReadOnly));
-    const QJsonObject years =
-        QJsonDocument::fromJson(expectedFile.readAll())["planner"_L1]["years"_L1].toObject();
+    const QJsonObject years = expectedOf(u"planner"_s)["years"_L1].toObject();
     QCOMPARE(files.years().size(), years.size());
 
     for (auto year = years.begin(); year != years.end(); ++year) {

@@ -54,7 +54,6 @@ private slots:
     void crossesTheYear();
     void removesOneCopyPerDate();
     void doesNothingWithoutAnAppointment();
-    void reportsWhatTheDiskRefuses();
 };
 
 void TestRecurrence::givesTheDatesOfAKind_data()
@@ -201,18 +200,6 @@ void TestRecurrence::doesNothingWithoutAnAppointment()
                       Appointment::ofRow(u"  "_s, {}), times(Recurrence::Daily, QDate(2026, 1, 1), 5));
     QVERIFY(!run.step());
     QVERIFY(!test.folder.exists(u" 2026.Cal"_s));
-}
-
-void TestRecurrence::reportsWhatTheDiskRefuses()
-{
-    const TestProgram test;
-    QVERIFY(QDir(test.folder.path()).mkdir(u" 2027.Cal"_s));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot open"_s));
-    RecurrenceRun run(test.folder, UntimedPlacement::First, RecurrenceAction::Insert, {u"1:00 PM"_s, u"x"_s},
-                      times(Recurrence::Daily, QDate(2026, 12, 30), 4));
-    runThrough(run);
-    QCOMPARE(run.made(), 2);
-    QCOMPARE(run.failed(), 2);
 }
 
 QTEST_GUILESS_MAIN(TestRecurrence)

@@ -1,9 +1,8 @@
 #include "planner/model/todoimport.h"
+#include "tests/support/household.h"
 #include "tests/support/testprogram.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -49,10 +48,7 @@ private slots:
 void TestToDoImport::importsTheHousehold()
 {
     const TestProgram test(TestProgram::Household);
-    QFile file(QStringLiteral(QUILLERY_TEST_DATA "/household/expected.json"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QJsonObject expected =
-        QJsonDocument::fromJson(file.readAll())["planner"_L1]["todo_import"_L1].toObject();
+    const QJsonObject expected = expectedOf(u"planner"_s)["todo_import"_L1].toObject();
     const QDate selected = QDate::fromString(expected["selected"_L1].toString(), Qt::ISODate);
     QStringList lines;
     for (const auto &row : expected["insertions"_L1].toArray())

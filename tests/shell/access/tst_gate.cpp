@@ -13,7 +13,6 @@ private slots:
     void init();
     void asksInFrontOfGuardedAreas_data();
     void asksInFrontOfGuardedAreas();
-    void aRefusalHoldsOnlyOnce();
     void asksForPasswordControlOnlyWithAPassword_data();
     void asksForPasswordControlOnlyWithAPassword();
     void aDamagedFileGuardsEverything();
@@ -71,14 +70,6 @@ void TestGate::asksInFrontOfGuardedAreas()
     QTEST(m_areas, "asked");
     QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);
     QCOMPARE(m_program->state.guardedArea, Area::None);
-}
-
-void TestGate::aRefusalHoldsOnlyOnce()
-{
-    m_program->state.protectedAreas.setFlag(Area::CarLog, u"YES"_s);
-    QVERIFY(!gate(PasswordGateResult::Refused).mayOpen(m_program->program, Area::CarLog, nullptr));
-    QVERIFY(gate(PasswordGateResult::Open).mayOpen(m_program->program, Area::CarLog, nullptr));
-    QVERIFY(gate(PasswordGateResult::Refused).mayOpen(m_program->program, Area::Journal, nullptr));
 }
 
 void TestGate::asksForPasswordControlOnlyWithAPassword_data()

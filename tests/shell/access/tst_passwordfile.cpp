@@ -1,12 +1,9 @@
 #include "shell/access/passwordfile.h"
 #include "tests/support/filesizelimit.h"
+#include "tests/support/testfiles.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -66,26 +63,13 @@ private slots:
     void aFullDiskKeepsTheOldPassword();
 
 private:
-    QByteArray bytes() const;
-    void setBytes(const QByteArray &bytes) const;
-    PasswordFile file() const { return PasswordFile(m_data, PasswordCost::minimum()); }
+    QByteArray bytes() const { return m_files.bytes(u"PCtrl1.Fil"_s); }
+    void setBytes(const QByteArray &bytes) const { m_files.put(u"PCtrl1.Fil"_s, bytes); }
+    PasswordFile file() const { return PasswordFile(m_files.folder(), PasswordCost::minimum()); }
 
-    QTemporaryDir m_dir;
-    QString m_path = m_dir.filePath(u"PCtrl1.Fil"_s);
-    DataFolder m_data{m_dir.path()};
+    TestFolder m_files;
+    QString m_path = m_files.path(u"PCtrl1.Fil"_s);
 };
-
-QByteArray TestPasswordFile::bytes() const
-{
-    QFile file(m_path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void TestPasswordFile::setBytes(const QByteArray &bytes) const
-{
-    QFile file(m_path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
 
 void TestPasswordFile::init()
 {
@@ -271,12 +255,12 @@ void TestPasswordFile::noiseOpensNothing()
 
 void TestPasswordFile::aFolderInItsPlaceIsDamage()
 {
-    QVERIFY(QDir(m_dir.path()).mkdir(u"pctrl1.fil"_s));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Cannot read .*pctrl1.fil$"_s));
+    QVERIFY(QDir(m_files.path({})).mkdir(u"pctrl1.fil"_s));
+    expectWarning("^Cannot read .*pctrl1.fil$");
     QCOMPARE(file().state(), PasswordFile::State::Damaged);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Cannot read .*pctrl1.fil$"_s));
+    expectWarning("^Cannot read .*pctrl1.fil$");
     QVERIFY(!file().setPassword(u"Sesame"_s));
-    QVERIFY(QDir(m_dir.path()).rmdir(u"pctrl1.fil"_s));
+    QVERIFY(QDir(m_files.path({})).rmdir(u"pctrl1.fil"_s));
 }
 
 void TestPasswordFile::aDamagedFileIsNotTouched()
@@ -293,12 +277,11 @@ void TestPasswordFile::aFullDiskKeepsTheOldPassword()
 {
 #ifdef Q_OS_UNIX
     setBytes(sesameFile());
-    const QRegularExpression warning(u"^Cannot write record "_s);
     {
         const FileSizeLimit full(0);
-        QTest::ignoreMessage(QtWarningMsg, warning);
+        expectWarning("^Cannot write record ");
         QVERIFY(!file().setPassword(u"Tulips"_s));
-        QTest::ignoreMessage(QtWarningMsg, warning);
+        expectWarning("^Cannot write record ");
         QVERIFY(!file().removePassword());
     }
     QVERIFY(file().matches(u"Sesame"_s));

@@ -1,4 +1,4 @@
-#include "sheettools.h"
+#include "tests/support/sheettools.h"
 
 #include <QElapsedTimer>
 #include <QPageLayout>

@@ -1,4 +1,4 @@
-#include "sheettools.h"
+#include "tests/support/sheettools.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -47,9 +47,8 @@ QString TestPagePicture::picture(QSize size) const
 void TestPagePicture::putsPicturesToTheHundredthOfAnInch_data()
 {
     QTest::addColumn<QPointF>("corner");
-    for (const QPointF corner :
-         {QPointF(0.25, 0.8), QPointF(2.25, 2.8), QPointF(4.25, 4.8), QPointF(6.25, 8.8)})
-        QTest::addRow("%.2f, %.2f", corner.x(), corner.y()) << corner;
+    QTest::newRow("the first place") << QPointF(0.25, 0.8);
+    QTest::newRow("the last place") << QPointF(6.25, 8.8);
     QTest::newRow("an odd hundredth") << QPointF(3.33, 5.67);
 }
 

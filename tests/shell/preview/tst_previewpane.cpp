@@ -22,7 +22,6 @@ private slots:
     void startsWithTheFirstSheetInPortrait();
     void takesThePaperOfTheDateStyle();
     void turnsThePageThereAndBack();
-    void cancellingTheFontChangesNothing();
     void aChosenFontIsShownAndUsed();
     void enlargesAndComesBack();
     void hidesItsButtonsAndShowsThem();
@@ -32,7 +31,6 @@ private slots:
     void turnsWithTheWheel();
     void copiesTheShownSheet();
     void copiesAnEmptyPageToo();
-    void closesItself();
     void keepsThePageWhiteOnAColouredDesk();
     void isNotBuiltInsideItsOwnBuilding();
 
@@ -95,19 +93,13 @@ void TestPreviewPane::turnsThePageThereAndBack()
     QCOMPARE(m_window->builtFor.at(2), m_window->builtFor.at(0));
 }
 
-void TestPreviewPane::cancellingTheFontChangesNothing()
-{
-    m_window->showList(10);
-    const QFont font = control<QLabel>(*m_window, "Panel3d82")->font();
-    m_test->dialogs.willChooseFont({});
-    m_window->click("SSCommand80_0");
-    QCOMPARE(control<QLabel>(*m_window, "Panel3d82")->font(), font);
-    QCOMPARE(m_window->builtFor.size(), 1);
-}
-
 void TestPreviewPane::aChosenFontIsShownAndUsed()
 {
     m_window->showList(100);
+    m_test->dialogs.willChooseFont({}); // cancelled
+    m_window->click("SSCommand80_0");
+    QCOMPARE(m_window->builtFor.size(), 1);
+
     const int sheets = m_window->pane->sheetCount();
     PageFont chosen{QFont(u"DejaVu Serif"_s, 22, QFont::Bold, true), QColor(0, 0, 200)};
     chosen.font.setUnderline(true);
@@ -240,13 +232,6 @@ void TestPreviewPane::copiesAnEmptyPageToo()
     m_window->click("SSCommand80_3");
     QCOMPARE(m_test->dialogs.takeShown(), {PreviewMessages::pageCopied()});
     QVERIFY(QApplication::clipboard()->mimeData()->hasImage());
-}
-
-void TestPreviewPane::closesItself()
-{
-    const QSignalSpy closed(m_window->pane, &PreviewPane::closed);
-    m_window->click("SSCommand2");
-    QCOMPARE(closed.count(), 1);
 }
 
 void TestPreviewPane::keepsThePageWhiteOnAColouredDesk()

@@ -1,8 +1,8 @@
 #include "previewwindow.h"
+#include "tests/support/sheettools.h"
 
 #include <QDir>
 #include <QPrinter>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -12,11 +12,7 @@ namespace {
 
 QStringList sheetsOf(const QString &pdf)
 {
-    QProcess process;
-    process.start(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s});
-    if (!process.waitForFinished() || process.exitCode() != 0)
-        QTest::qFail(qPrintable(pdf + u" cannot be read"_s), __FILE__, __LINE__);
-    return QString::fromUtf8(process.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
+    return SheetTools::output(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s}).split(u'\f', Qt::SkipEmptyParts);
 }
 
 /// The numbers that "Page n of m" gives to the sheets of a PDF, in its order.
