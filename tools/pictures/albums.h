@@ -1,0 +1,17 @@
+#pragma once
+
+struct Camera;
+
+/// The pictures of each part of the program, taken one after the other as a person comes to them.
+namespace Albums {
+
+void mainMenu(const Camera &camera);
+void password(const Camera &camera);
+void manual(const Camera &camera);
+void addressBook(const Camera &camera);
+void addressPages(const Camera &camera);
+void viewer(const Camera &camera);
+void viewerPanels(const Camera &camera);
+void planner(const Camera &camera);
+
+} // namespace Albums
