@@ -2,21 +2,21 @@
 
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
-#include "planner/window/plannercalendar.h"
 #include "planner/window/recurrenceform.h"
+#include "planner/window/recurrencerange.h"
 #include "shell/controls/controls.h"
-#include "shell/controls/monthview.h"
 #include "shell/core/dates.h"
 #include "shell/core/slicedwork.h"
+#include "shell/look/theme.h"
 #include "shell/program/program.h"
 
 #include <QApplication>
-#include <QButtonGroup>
 #include <QCheckBox>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QProgressBar>
 #include <QRadioButton>
-#include <QSignalBlocker>
+#include <QScrollArea>
 #include <QStackedWidget>
 
 #include <algorithm>
@@ -24,7 +24,104 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr int widestBar = 640;
+constexpr int twoColumnsFrom = 960;
+
+} // namespace
+
+RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
+    : QWidget(parent)
+    , m_program(program)
+    , m_work(new SlicedWork(this))
+    , m_title(named(new ElidedLabel(this), u"recurrenceTitle"_s))
+    , m_columns(new QBoxLayout(QBoxLayout::LeftToRight))
+    , m_range(new RecurrenceRange(program, this))
+    , m_form(new RecurrenceForm(program.state.dateStyle, this))
+    , m_body(new QStackedWidget(this))
+{
+    m_title->setFont(TypeScale::windowTitle());
+    auto *content = new QWidget;
+    content->setLayout(m_columns);
+    m_columns->setContentsMargins(0, 0, 8, 0);
+    m_columns->setSpacing(32);
+    m_columns->addWidget(m_range);
+    m_columns->addWidget(m_form, 1);
+    m_body->addWidget(makeScrolling(content, u"recurrenceScroll"_s, this));
+    m_body->addWidget(makeProgressPanel());
+
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(24, 16, 24, 18);
+    rows->setSpacing(12);
+    rows->addWidget(m_title);
+    rows->addWidget(m_body, 1);
+    rows->addWidget(makeLine(this));
+    rows->addLayout(makeFoot());
+    connect(m_form, &RecurrenceForm::kindChosen, this, &RecurrencePanel::checkLimit);
+    connect(m_form, &RecurrenceForm::said, this, &RecurrencePanel::said);
+    connect(m_range, &RecurrenceRange::said, this, &RecurrencePanel::said);
+    connect(m_work, &SlicedWork::progressed, this, &RecurrencePanel::showProgress);
+    connect(m_work, &SlicedWork::finished, this, &RecurrencePanel::finish);
+}
+
 RecurrencePanel::~RecurrencePanel() = default;
+
+QWidget *RecurrencePanel::makeProgressPanel()
+{
+    auto *panel = named(new QWidget(this), u"progressPanel"_s);
+    m_progress = named(new QProgressBar(panel), u"updateProgress"_s);
+    m_progress->setAccessibleName(u"Progress of the update"_s);
+    m_progress->setMaximumWidth(widestBar);
+    m_stop = named(new QCheckBox(u"If Needed - Click ONCE to Stop Updating!"_s, panel), u"stopUpdating"_s);
+    QLabel *note = makeQuietLabel(
+        u" Please Do Not Try to Cancel Program Operation during this action or Program may Stop "
+        u"Functioning or Files may "_s,
+        panel);
+    note->setWordWrap(true);
+    auto *column = new QVBoxLayout;
+    column->setSpacing(12);
+    column->addStretch(1);
+    column->addWidget(makeHeading(u"Program is Updating Files:(This may take a minute of two)"_s, panel));
+    column->addWidget(m_progress);
+    column->addWidget(m_stop, 0, Qt::AlignLeft);
+    column->addWidget(note);
+    column->addStretch(2);
+    auto *middle = new QHBoxLayout(panel);
+    middle->addStretch(1);
+    middle->addLayout(column, 100);
+    middle->addStretch(1);
+    connect(m_stop, &QCheckBox::toggled, this, [this](bool isTicked) {
+        if (isTicked)
+            m_work->stop();
+    });
+    return panel;
+}
+
+QHBoxLayout *RecurrencePanel::makeFoot()
+{
+    m_remove = makeButton(u"recurrenceRemove"_s, u"Remove This Recurrence"_s, this);
+    m_ok = makeButton(u"recurrenceOk"_s, u"OK"_s, this, ButtonKind::Main);
+    m_cancel = makeButton(u"recurrenceCancel"_s, u"Cancel"_s, this);
+    m_ok->setMinimumWidth(88);
+    auto *foot = new QHBoxLayout;
+    foot->setSpacing(8);
+    foot->addWidget(m_remove);
+    foot->addStretch(1);
+    foot->addWidget(m_ok);
+    foot->addWidget(m_cancel);
+    connect(m_ok, &QPushButton::clicked, this, &RecurrencePanel::insert);
+    connect(m_remove, &QPushButton::clicked, this, &RecurrencePanel::remove);
+    connect(m_cancel, &QPushButton::clicked, this, &RecurrencePanel::left);
+    return foot;
+}
+
+/// Where dates and kinds do not fit beside each other, they stand below each other and scroll.
+void RecurrencePanel::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_columns->setDirection(width() < twoColumnsFrom ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
 
 void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPlacement placement,
                            const CalendarOptions &options)
@@ -35,13 +132,7 @@ void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPl
         appointment.time.isEmpty() ? appointment.text : QString(appointment.time + u' ' + appointment.text);
     m_title->setText(u"Recurrence Option: \u201c"_s + words.trimmed() + u'\u201d');
     m_form->reset(date);
-    m_beginning->setText(Dates::boxText(date, m_program.state.dateStyle));
-    m_end->setText(Dates::boxText(date.addYears(1), m_program.state.dateStyle));
-    m_occurrences->setText(u"10"_s);
-    m_endBy->button(EndDate)->setChecked(true);
-    m_calendarSets->button(Beginning)->setChecked(true);
-    applyOptions(*m_month, options, m_program.clock.today());
-    showCalendarDate();
+    m_range->reset(date, options);
     m_body->setCurrentIndex(0);
     m_form->findChild<QRadioButton *>()->setFocus();
 }
@@ -51,28 +142,10 @@ bool RecurrencePanel::isRunning() const
     return m_work->isRunning();
 }
 
-std::optional<QDate> RecurrencePanel::dateOf(const FieldBox *box) const
-{
-    return Dates::parse(box->text(), m_program.state.dateStyle, m_program.clock.today());
-}
-
 std::optional<QString> RecurrencePanel::read(Recurrence &recurrence) const
 {
-    if (const auto reason = m_form->read(recurrence))
-        return reason;
-    const auto beginning = dateOf(m_beginning);
-    if (!beginning)
-        return PlannerLines::noBeginning();
-    recurrence.beginning = *beginning;
-    if (m_endBy->checkedId() == Occurrences) {
-        recurrence.end.reset();
-        recurrence.occurrences = m_occurrences->text().trimmed().toInt();
-        return recurrence.occurrences < 1 ? std::optional(PlannerLines::noOccurrences()) : std::nullopt;
-    }
-    recurrence.end = dateOf(m_end);
-    if (!recurrence.end)
-        return PlannerLines::noEnd();
-    return *recurrence.end < *beginning ? std::optional(PlannerLines::endBeforeBeginning()) : std::nullopt;
+    const auto reason = m_form->read(recurrence);
+    return reason ? reason : m_range->read(recurrence);
 }
 
 Recurrence RecurrencePanel::limited(const Recurrence &recurrence)
@@ -81,11 +154,7 @@ Recurrence RecurrencePanel::limited(const Recurrence &recurrence)
     if (within == recurrence && !exceedsTenYears(recurrence))
         return within;
     m_program.dialogs.ask(this, PlannerMessages::tenYearLimit());
-    if (within.end)
-        m_end->setText(Dates::boxText(*within.end, m_program.state.dateStyle));
-    else
-        m_occurrences->setText(QString::number(within.occurrences));
-    showCalendarDate();
+    m_range->showEnd(within);
     return within;
 }
 
@@ -94,21 +163,6 @@ void RecurrencePanel::checkLimit()
     Recurrence recurrence;
     if (!read(recurrence))
         limited(recurrence);
-}
-
-void RecurrencePanel::calendarMoved()
-{
-    FieldBox *box = m_calendarSets->checkedId() == End ? m_end : m_beginning;
-    box->setText(Dates::boxText(m_month->selectedDate(), m_program.state.dateStyle));
-    if (box == m_end)
-        m_endBy->button(EndDate)->setChecked(true);
-}
-
-void RecurrencePanel::showCalendarDate()
-{
-    const QSignalBlocker quiet(m_month);
-    if (const auto date = dateOf(m_calendarSets->checkedId() == End ? m_end : m_beginning))
-        m_month->setSelectedDate(*date);
 }
 
 void RecurrencePanel::insert()
@@ -189,7 +243,7 @@ void RecurrencePanel::setRunning(bool isRunning)
         setUnavailable(button, reason);
     m_stop->setChecked(false);
     m_progress->setValue(0);
-    m_body->setCurrentIndex(isRunning ? m_body->indexOf(m_progressPanel) : 0);
+    m_body->setCurrentIndex(isRunning ? 1 : 0);
     emit busyChanged(isRunning);
     (isRunning ? static_cast<QWidget *>(m_stop) : m_ok)->setFocus();
 }

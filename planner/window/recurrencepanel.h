@@ -8,23 +8,19 @@
 #include <memory>
 
 class ElidedLabel;
-class FieldBox;
-class MonthView;
 class QBoxLayout;
-class QButtonGroup;
 class QCheckBox;
 class QHBoxLayout;
 class QProgressBar;
 class QPushButton;
 class QStackedWidget;
-class QVBoxLayout;
 class RecurrenceForm;
+class RecurrenceRange;
 class SlicedWork;
-struct Message;
 struct Program;
 
 /// The "Recurrence Option" panel: repeats one appointment over many dates, or removes it from them. The walk
-/// over the dates goes in slices: the window lives, and the check box stops it.
+/// over the dates goes in slices: the window stays responsive, and the check box stops it.
 class RecurrencePanel final : public QWidget
 {
     Q_OBJECT
@@ -51,25 +47,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    enum EndBy { EndDate, Occurrences };
-    enum CalendarSets { Beginning, End };
-
-    // How it is put together.
-    QWidget *makeRangeFrame();
     QWidget *makeProgressPanel();
     QHBoxLayout *makeFoot();
-    void addEndLines(QVBoxLayout *column, QWidget *frame);
-    FieldBox *makeDateBox(const QString &name, const QString &accessibleName, QWidget *parent);
-    void connectRange();
 
-    std::optional<QDate> dateOf(const FieldBox *box) const;
     /// What the boxes say, or the reason why it cannot be walked.
     std::optional<QString> read(Recurrence &recurrence) const;
     /// Brings the request within ten years, in the boxes too, and tells so.
     Recurrence limited(const Recurrence &recurrence);
     void checkLimit();
-    void calendarMoved();
-    void showCalendarDate();
 
     QPushButton *defaultButton() const;
     void insert();
@@ -87,16 +72,10 @@ private:
     SlicedWork *m_work;
 
     ElidedLabel *m_title;
-    QBoxLayout *m_columns = nullptr;
+    QBoxLayout *m_columns;
+    RecurrenceRange *m_range;
     RecurrenceForm *m_form;
-    FieldBox *m_beginning = nullptr;
-    FieldBox *m_end = nullptr;
-    FieldBox *m_occurrences = nullptr;
-    QButtonGroup *m_endBy;
-    QButtonGroup *m_calendarSets;
-    MonthView *m_month = nullptr;
-    QStackedWidget *m_body = nullptr; ///< the boxes, or the progress while a walk is under way
-    QWidget *m_progressPanel = nullptr;
+    QStackedWidget *m_body; ///< the boxes, or the progress while a walk is under way
     QProgressBar *m_progress = nullptr;
     QCheckBox *m_stop = nullptr;
     QPushButton *m_ok = nullptr;

@@ -1,0 +1,175 @@
+#include "planner/window/recurrencerange.h"
+
+#include "planner/model/lines.h"
+#include "planner/window/plannercalendar.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/monthview.h"
+#include "shell/core/dates.h"
+#include "shell/program/program.h"
+
+#include <QButtonGroup>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int dateWidth = 128;
+constexpr int numberWidth = 64;
+
+} // namespace
+
+RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
+    : QWidget(parent)
+    , m_program(program)
+    , m_beginning(makeDateBox(u"beginningDate"_s, u"Beginning Date"_s))
+    , m_end(makeDateBox(u"endDate"_s, u"End Date"_s))
+    , m_occurrences(makeDateBox(u"occurrences"_s, u"Number of occurrences"_s))
+    , m_endBy(new QButtonGroup(this))
+    , m_calendarSets(new QButtonGroup(this))
+{
+    m_occurrences->setByteLimit(5);
+    m_occurrences->setFixedWidth(numberWidth);
+    setFixedWidth(384);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(6);
+    column->addWidget(makeHeading(u"Beginning and End Date For Recurrence"_s, this));
+    auto *beginning = new QHBoxLayout;
+    beginning->addWidget(new QLabel(u"  Beginning Date:"_s, this));
+    beginning->addStretch(1);
+    beginning->addWidget(m_beginning);
+    column->addLayout(beginning);
+    addEndLines(column);
+    addCalendar(column);
+    connectBoxes();
+}
+
+FieldBox *RecurrenceRange::makeDateBox(const QString &name, const QString &accessibleName)
+{
+    auto *box = named(new FieldBox(this), name);
+    box->setByteLimit(20);
+    box->setFixedWidth(dateWidth);
+    box->setAccessibleName(accessibleName);
+    connect(box, &FieldBox::refused, this, &RecurrenceRange::said);
+    return box;
+}
+
+void RecurrenceRange::addEndLines(QVBoxLayout *column)
+{
+    const auto addLine = [&](EndBy id, const QString &caption, FieldBox *box, const QString &words) {
+        auto *button = named(new QRadioButton(caption, this), u"endBy_"_s + QString::number(id));
+        m_endBy->addButton(button, id);
+        auto *line = new QHBoxLayout;
+        line->addWidget(button);
+        line->addStretch(1);
+        line->addWidget(box);
+        if (!words.isEmpty())
+            line->addWidget(new QLabel(words, this));
+        column->addLayout(line);
+    };
+    addLine(EndDate, u"End Date:"_s, m_end, {});
+    addLine(Occurrences, u"End Date after:"_s, m_occurrences, u"occurance(s)"_s);
+    QLabel *note = makeQuietLabel(u"[Note: Recommend - To Keep Files Manageable -    Ending Dates should be "
+                                  u"between 5 to 10 years.]"_s,
+                                  this);
+    note->setWordWrap(true);
+    column->addWidget(note);
+}
+
+void RecurrenceRange::addCalendar(QVBoxLayout *column)
+{
+    column->addSpacing(4);
+    column->addWidget(new QLabel(u"Use Calendar to change either date:"_s, this));
+    auto *sets = new QHBoxLayout;
+    sets->setSpacing(16);
+    for (const auto &[id, caption] :
+         {std::pair{Beginning, u"Beginning Date"_s}, std::pair{End, u"End Date"_s}}) {
+        auto *button = named(new QRadioButton(caption, this), u"calendarSets_"_s + QString::number(id));
+        m_calendarSets->addButton(button, id);
+        sets->addWidget(button);
+    }
+    sets->addStretch(1);
+    column->addLayout(sets);
+    m_month = named(new MonthView(this), u"MonthView2"_s);
+    m_month->setAccessibleName(u"Calendar for the beginning and the end date"_s);
+    m_month->setFixedHeight(240);
+    column->addWidget(m_month);
+    column->addStretch(1);
+}
+
+void RecurrenceRange::connectBoxes()
+{
+    connect(m_month, &QCalendarWidget::selectionChanged, this, &RecurrenceRange::calendarMoved);
+    connect(m_calendarSets, &QButtonGroup::idClicked, this, &RecurrenceRange::showCalendarDate);
+    for (const FieldBox *box : {m_beginning, m_end})
+        connect(box, &QLineEdit::editingFinished, this, &RecurrenceRange::showCalendarDate);
+    // Typing into a box means that the recurrence ends by it.
+    connect(m_end, &QLineEdit::textEdited, this, [this] { m_endBy->button(EndDate)->setChecked(true); });
+    connect(m_occurrences, &QLineEdit::textEdited, this,
+            [this] { m_endBy->button(Occurrences)->setChecked(true); });
+}
+
+void RecurrenceRange::reset(QDate date, const CalendarOptions &options)
+{
+    const DateStyle style = m_program.state.dateStyle;
+    m_beginning->setText(Dates::boxText(date, style));
+    m_end->setText(Dates::boxText(date.addYears(1), style));
+    m_occurrences->setText(u"10"_s);
+    m_endBy->button(EndDate)->setChecked(true);
+    m_calendarSets->button(Beginning)->setChecked(true);
+    applyOptions(*m_month, options, m_program.clock.today());
+    showCalendarDate();
+}
+
+std::optional<QString> RecurrenceRange::read(Recurrence &recurrence) const
+{
+    const auto beginning = dateOf(m_beginning);
+    if (!beginning)
+        return PlannerLines::noBeginning();
+    recurrence.beginning = *beginning;
+    if (m_endBy->checkedId() == Occurrences) {
+        recurrence.end.reset();
+        recurrence.occurrences = m_occurrences->text().trimmed().toInt();
+        return recurrence.occurrences < 1 ? std::optional(PlannerLines::noOccurrences()) : std::nullopt;
+    }
+    recurrence.end = dateOf(m_end);
+    if (!recurrence.end)
+        return PlannerLines::noEnd();
+    return *recurrence.end < *beginning ? std::optional(PlannerLines::endBeforeBeginning()) : std::nullopt;
+}
+
+void RecurrenceRange::showEnd(const Recurrence &recurrence)
+{
+    if (recurrence.end)
+        m_end->setText(Dates::boxText(*recurrence.end, m_program.state.dateStyle));
+    else
+        m_occurrences->setText(QString::number(recurrence.occurrences));
+    showCalendarDate();
+}
+
+std::optional<QDate> RecurrenceRange::dateOf(const FieldBox *box) const
+{
+    return Dates::parse(box->text(), m_program.state.dateStyle, m_program.clock.today());
+}
+
+FieldBox *RecurrenceRange::calendarBox() const
+{
+    return m_calendarSets->checkedId() == End ? m_end : m_beginning;
+}
+
+void RecurrenceRange::calendarMoved()
+{
+    calendarBox()->setText(Dates::boxText(m_month->selectedDate(), m_program.state.dateStyle));
+    if (calendarBox() == m_end)
+        m_endBy->button(EndDate)->setChecked(true);
+}
+
+void RecurrenceRange::showCalendarDate()
+{
+    const QSignalBlocker quiet(m_month);
+    if (const auto date = dateOf(calendarBox()))
+        m_month->setSelectedDate(*date);
+}
