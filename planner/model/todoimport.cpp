@@ -24,18 +24,4 @@ std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style, QDate tod
     return items;
 }
 
-std::optional<Outcome> insert(const PlannerFiles &files, UntimedPlacement placement, const ToDoItem &item,
-                              QDate earliest)
-{
-    if (item.date < earliest)
-        return {};
-    if (!files.isReadable(item.date.year()))
-        return Outcome{item, DateResult::Failed}; // what cannot be read is not empty
-    PlannerDay day = files.read(item.date);
-    DateResult result = insertAppointment(day, Appointment::ofRow({}, item.text));
-    if (result == DateResult::Made && !files.write(item.date, inTimeOrder(day, placement)))
-        result = DateResult::Failed;
-    return Outcome{item, result};
-}
-
 } // namespace ToDoImport

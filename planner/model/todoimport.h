@@ -1,7 +1,6 @@
 #pragma once
 
 #include "planner/model/plannerfiles.h"
-#include "planner/model/recurrencerun.h"
 #include "shell/core/programstate.h"
 
 #include <QDate>
@@ -24,15 +23,5 @@ namespace ToDoImport {
 /// text, read by `style` and the other way round when that is impossible; a date that cannot be read leaves
 /// the item out.
 std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style, QDate today);
-
-/// What became of each item dated on or after `earliest`; earlier ones are passed over.
-struct Outcome {
-    ToDoItem item;
-    DateResult result;
-};
-
-/// Inserts `item`, with an empty time, into its day; nothing when it is dated before `earliest`.
-std::optional<Outcome> insert(const PlannerFiles &files, UntimedPlacement placement, const ToDoItem &item,
-                              QDate earliest);
 
 } // namespace ToDoImport

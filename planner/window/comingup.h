@@ -45,6 +45,8 @@ public:
 
     /// Shows the notes of the two weeks from `date`; they are read once the window has been painted.
     void setDate(QDate date);
+    /// Reads the notes again.
+    void refresh() { setDate(m_date); }
 
 private:
     void load();

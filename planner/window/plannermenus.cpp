@@ -3,6 +3,7 @@
 #include "planner/window/plannerwindow.h"
 
 #include "planner/model/lines.h"
+#include "planner/window/dayeditor.h"
 #include "planner/window/monthgrid.h"
 #include "planner/window/weekview.h"
 #include "shell/controls/controls.h"
@@ -125,11 +126,11 @@ void Zcalandar1::fitToolbar(bool isWide)
 void Zcalandar1::refreshCommands()
 {
     const QWidget *view = m_views->currentWidget();
-    const bool isDay = view == m_dayView && !isPreviewShown();
+    const bool isDay = view == m_day && !isPreviewShown();
     const QString dayOnly = isDay ? QString() : PlannerLines::inDayViewOnly();
     for (QAction *action : {m_saveAction, m_clearAction, m_copyAction, m_repeatAction})
         setUnavailable(action, dayOnly);
-    setUnavailable(m_pasteAction, isDay && !m_copied ? PlannerLines::copyFirst() : dayOnly);
+    setUnavailable(m_pasteAction, isDay && !m_day->hasCopy() ? PlannerLines::copyFirst() : dayOnly);
     // In other views the page keys turn pages and scroll lists.
     const bool isSteppable = !isPreviewShown() && (isDay || view == m_week || view == m_month);
     for (QAction *action : {m_backAction, m_onAction})

@@ -5,11 +5,12 @@
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
 #include "planner/model/plannersearch.h"
+#include "planner/model/todoimportrun.h"
 #include "planner/window/calendaroptionspanel.h"
 #include "planner/window/daterangedialog.h"
-#include "planner/window/dayform.h"
+#include "planner/window/dayeditor.h"
 #include "planner/window/monthgrid.h"
-#include "planner/window/plannercalendar.h"
+#include "planner/window/plannersidepane.h"
 #include "planner/window/recurrencepanel.h"
 #include "planner/window/searchpanel.h"
 #include "planner/window/weekview.h"
@@ -22,7 +23,6 @@
 #include "shell/core/slicedwork.h"
 
 #include <QAction>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QStackedWidget>
 
@@ -34,16 +34,16 @@ void Zcalandar1::showView(QWidget *view)
     closePreview();
     m_views->setCurrentWidget(view);
     // A month and the recurrence panel need the whole width, and have calendars of their own.
-    m_leftPane->setVisible(view != m_month && view != m_recurrence);
+    m_side->setVisible(view != m_month && view != m_recurrence);
     refreshCommands();
 }
 
 void Zcalandar1::showDayView()
 {
-    const bool isNew = m_views->currentWidget() != m_dayView;
-    showView(m_dayView);
+    const bool isNew = m_views->currentWidget() != m_day;
+    showView(m_day);
     if (isNew)
-        m_form->focusRow(m_form->firstEmptyRow());
+        m_day->focusFirstEmptyRow();
 }
 
 void Zcalandar1::showWeek()
@@ -96,17 +96,13 @@ void Zcalandar1::takeOptions()
 void Zcalandar1::focusSearch()
 {
     closePreview();
-    if (!m_leftPane->isVisible())
+    if (!m_side->isVisible())
         showDayView();
-    m_searchBox->setFocus();
-    m_searchBox->selectAll();
+    m_side->focusSearch();
 }
 
-void Zcalandar1::search()
+void Zcalandar1::search(const QString &text)
 {
-    const QString text = m_searchBox->text().trimmed();
-    if (text.isEmpty())
-        return;
     const BusyCursor busy;
     PlannerSearch search(m_files, text);
     while (search.step()) {}
@@ -123,16 +119,13 @@ void Zcalandar1::search()
 void Zcalandar1::openHit(QDate date, int row)
 {
     goTo(date);
-    if (m_loadedDate == date)
-        m_form->focusRow(row);
+    if (m_day->date() == date)
+        m_day->focusRow(row);
 }
 
 void Zcalandar1::showRecurrence()
 {
-    const int row = m_form->currentRow();
-    const PlannerDay day = typedDay();
-    const Appointment appointment =
-        Appointment::ofRow(day.times[std::size_t(row)], day.texts[std::size_t(row)]);
+    const Appointment appointment = m_day->currentAppointment();
     if (appointment.isEmpty()) {
         activity().say(PlannerLines::rowIsEmpty());
         return;
@@ -141,7 +134,7 @@ void Zcalandar1::showRecurrence()
         return;
     activity().say({});
     showView(m_recurrence);
-    m_recurrence->open(appointment, m_loadedDate, placement(), m_options);
+    m_recurrence->open(appointment, m_day->date(), m_day->placement(), m_options);
 }
 
 void Zcalandar1::importToDoItems()
@@ -149,34 +142,16 @@ void Zcalandar1::importToDoItems()
     if (ask(PlannerMessages::importToDoItems()) != Answer::Yes ||
         !mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
         return;
-    m_import = {};
-    m_import.items = ToDoImport::items(program().folder, program().state.dateStyle, clock().today());
-    if (m_import.items.empty()) {
+    auto items = ToDoImport::items(program().folder, program().state.dateStyle, clock().today());
+    if (items.empty()) {
         ask(PlannerMessages::nothingToImport());
         return;
     }
-    m_import.earliest = m_loadedDate;
+    m_import = std::make_unique<ToDoImportRun>(m_files, m_day->placement(), std::move(items), m_day->date());
     showDayView();
     setWorking(true);
     activity().say(PlannerLines::updating());
-    m_importWork->start([this] { return importNext(); });
-}
-
-bool Zcalandar1::importNext()
-{
-    if (m_import.next >= m_import.items.size())
-        return false;
-    const ToDoItem &item = m_import.items[m_import.next++];
-    const auto outcome = ToDoImport::insert(m_files, placement(), item, m_import.earliest);
-    m_import.passedOver += !outcome;
-    if (!outcome)
-        return true;
-    m_import.made += outcome->result == DateResult::Made;
-    m_import.there += outcome->result == DateResult::Exists;
-    m_import.full += outcome->result == DateResult::Full;
-    if (outcome->result == DateResult::Failed)
-        m_import.refused = item.date;
-    return outcome->result != DateResult::Failed;
+    m_importWork->start([this] { return m_import->step(); });
 }
 
 void Zcalandar1::finishImport(bool wasStopped)
@@ -184,14 +159,9 @@ void Zcalandar1::finishImport(bool wasStopped)
     setWorking(false);
     activity().showProgress(0, 0);
     filesChanged();
-    m_form->focusRow(m_form->currentRow());
-    QString done = PlannerLines::imported(m_import.made, m_import.there, m_import.full, m_import.passedOver);
-    if (wasStopped)
-        done += PlannerLines::stoppedBeforeEnd();
-    activity().say(
-        m_import.refused.isValid()
-            ? PlannerLines::diskRefused(Dates::numbers(m_import.refused, program().state.dateStyle), done)
-            : done);
+    m_day->focusCurrentRow();
+    activity().say(m_import->report(wasStopped, program().state.dateStyle));
+    m_import.reset();
 }
 
 /// While files are updated, only what stops it can be used.
@@ -200,21 +170,21 @@ void Zcalandar1::setWorking(bool isWorking)
     setBusy(isWorking);
     toolbar().setEnabled(!isWorking);
     menuBar()->setEnabled(!isWorking);
-    m_leftPane->setEnabled(!isWorking);
-    m_dayView->setEnabled(!isWorking);
+    m_side->setEnabled(!isWorking);
+    m_day->setEnabled(!isWorking);
 }
 
 void Zcalandar1::filesChanged()
 {
-    m_calendar->refreshMarks();
-    reloadDay();
+    m_side->refreshMarks();
+    m_day->reload();
 }
 
 QDate Zcalandar1::viewedDate() const
 {
     const QWidget *view = m_views->currentWidget();
     const QDate date = view == m_week ? m_week->date() : view == m_month ? m_month->date() : QDate();
-    return date.isValid() ? date : m_loadedDate;
+    return date.isValid() ? date : m_day->date();
 }
 
 PlannerPages::Paper Zcalandar1::paper(const PageSetup &setup) const
@@ -226,7 +196,7 @@ PlannerPages::Paper Zcalandar1::paper(const PageSetup &setup) const
 Page Zcalandar1::dayPage(const PageSetup &setup) const
 {
     const QDate date = viewedDate();
-    return PlannerPages::day(date, date == m_loadedDate ? typedDay() : m_files.peek(date), paper(setup));
+    return PlannerPages::day(date, date == m_day->date() ? m_day->typed() : m_files.peek(date), paper(setup));
 }
 
 Page Zcalandar1::weekPage(const PageSetup &setup) const

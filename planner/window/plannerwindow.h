@@ -1,29 +1,22 @@
 #pragma once
 
 #include "planner/model/calendaroptions.h"
-#include "planner/model/dayorder.h"
 #include "planner/model/plannerfiles.h"
 #include "planner/model/plannerpages.h"
-#include "planner/model/todoimport.h"
 #include "shell/frame/functionwindow.h"
 
-#include <optional>
+#include <memory>
 
 class CalendarOptionsPanel;
-class ComingUp;
-class DayForm;
+class DayEditor;
 class MonthGrid;
-class PlannerCalendar;
-class QButtonGroup;
-class QLabel;
-class QLineEdit;
+class PlannerSidePane;
 class QSplitter;
 class QStackedWidget;
-class QVBoxLayout;
 class RecurrencePanel;
 class SearchPanel;
 class SlicedWork;
-class StepTitle;
+class ToDoImportRun;
 class WeekView;
 
 /// The daily planner: the appointments of one day to be typed and saved; the week and the month at a glance;
@@ -36,8 +29,6 @@ public:
     ~Zcalandar1() override;
 
     bool isModified() const override;
-    /// The day whose entries are loaded.
-    QDate loadedDate() const { return m_loadedDate; }
 
 protected:
     Page page(const PageSetup &setup) const override;
@@ -48,11 +39,7 @@ protected:
 
 private:
     // The parts of the window.
-    QWidget *makeLeftPane();
     QWidget *makeWorkPanel();
-    QWidget *makeDayView();
-    QWidget *makeRowHeads();
-    QWidget *makeDayFoot();
     void makeMenus();
     void makeOptionsMenu();
     void makeEditMenu();
@@ -67,17 +54,9 @@ private:
     void placeSplitter();
     void setOptions(const CalendarOptions &options);
 
-    // The day on the screen.
-    void loadDay(QDate date);
-    void reloadDay() { loadDay(m_loadedDate); }
-    PlannerDay typedDay() const;
-    void refreshModified();
     void refreshCommands();
-    UntimedPlacement placement() const;
-    void setPlacement(int placement);
     /// Asks about unsaved changes before something takes the day's place; false: the user stays.
     bool mayReplaceDay(const Message &question);
-    bool writeDay();
 
     // The commands.
     void goTo(QDate date);
@@ -104,13 +83,12 @@ private:
     void showOptions();
     void takeOptions();
     void focusSearch();
-    void search();
+    void search(const QString &text);
     void openHit(QDate date, int row);
 
     // Long walks.
     void showRecurrence();
     void importToDoItems();
-    bool importNext();
     void finishImport(bool wasStopped);
     void setWorking(bool isWorking);
     void filesChanged();
@@ -131,34 +109,13 @@ private:
 
     PlannerFiles m_files;
     CalendarOptions m_options;
-    QDate m_loadedDate;
-    PlannerDay m_loaded; ///< as the file has it
-    PlannerDay m_shown;  ///< as the boxes took it
-    std::optional<PlannerDay> m_copied;
-    struct Import {
-        std::vector<ToDoItem> items;
-        QDate earliest; ///< the day that was shown when the import began
-        std::size_t next = 0;
-        int made = 0;
-        int there = 0;
-        int full = 0;
-        int passedOver = 0;
-        QDate refused; ///< the date that the disk refused
-    };
-    Import m_import;
+    std::unique_ptr<ToDoImportRun> m_import;
     SlicedWork *m_importWork;
 
     QSplitter *m_splitter = nullptr;
-    QWidget *m_leftPane = nullptr;
-    QLineEdit *m_searchBox = nullptr;
-    PlannerCalendar *m_calendar = nullptr;
-    ComingUp *m_comingUp = nullptr;
+    PlannerSidePane *m_side = nullptr;
     QStackedWidget *m_views = nullptr;
-    QWidget *m_dayView = nullptr;
-    StepTitle *m_caption = nullptr;
-    DayForm *m_form = nullptr;
-    QButtonGroup *m_placement = nullptr;
-    QLabel *m_unsaved = nullptr;
+    DayEditor *m_day = nullptr;
     WeekView *m_week = nullptr;
     MonthGrid *m_month = nullptr;
     SearchPanel *m_searchPanel = nullptr;

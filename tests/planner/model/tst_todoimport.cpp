@@ -1,4 +1,5 @@
-#include "planner/model/todoimport.h"
+#include "planner/model/todoimportrun.h"
+#include "tests/support/filesizelimit.h"
 #include "tests/support/household.h"
 #include "tests/support/testprogram.h"
 
@@ -8,28 +9,21 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString nameOf(DateResult result)
-{
-    switch (result) {
-    case DateResult::Made:
-        return u"made"_s;
-    case DateResult::Exists:
-        return u"exists"_s;
-    case DateResult::Full:
-        return u"full"_s;
-    default:
-        return u"failed"_s;
-    }
-}
-
 /// What an import into the household does, as "date|result" lines.
-QStringList importAll(const TestProgram &test, QDate selected)
+QStringList importAll(const TestProgram &test, QDate earliest)
 {
-    const PlannerFiles files(test.folder);
+    PlannerFiles files(test.folder);
+    const auto items = ToDoImport::items(test.folder, DateStyle::Usa, QDate(2026, 11, 21));
+    ToDoImportRun run(files, UntimedPlacement::First, items, earliest);
     QStringList done;
-    for (const ToDoItem &item : ToDoImport::items(test.folder, DateStyle::Usa, QDate(2026, 11, 21))) {
-        if (const auto outcome = ToDoImport::insert(files, UntimedPlacement::First, item, selected))
-            done << item.date.toString(Qt::ISODate) + u'|' + nameOf(outcome->result);
+    for (const ToDoItem &item : items) {
+        const int made = run.made(), there = run.there(), full = run.full();
+        if (!run.step())
+            return {};
+        if (run.made() + run.there() + run.full() > made + there + full)
+            done << item.date.toString(Qt::ISODate) + (run.made() > made     ? u"|made"_s
+                                                       : run.there() > there ? u"|exists"_s
+                                                                             : u"|full"_s);
     }
     return done;
 }
@@ -43,6 +37,7 @@ private slots:
     void importsTheHousehold();
     void readsDatesEitherWay_data();
     void readsDatesEitherWay();
+    void endsWhereTheDiskRefuses();
 };
 
 void TestToDoImport::importsTheHousehold()
@@ -83,6 +78,38 @@ void TestToDoImport::readsDatesEitherWay()
     test.setBytes(u"TODOACTV.fil"_s, file);
     const auto items = ToDoImport::items(test.folder, DateStyle::Usa, QDate(2026, 11, 21));
     QCOMPARE(items.empty() ? QDate() : items.front().date, date);
+}
+
+void TestToDoImport::endsWhereTheDiskRefuses()
+{
+#ifdef Q_OS_UNIX
+    const TestProgram test;
+    PlannerFiles files(test.folder);
+    const QDate first(2026, 11, 21);
+    ToDoImportRun run(files, UntimedPlacement::Last,
+                      {{first.addDays(-1), u"Old"_s},
+                       {first, u"Call"_s},
+                       {first, u"Call"_s},
+                       {QDate(2026, 12, 5), u"Paint"_s},
+                       {QDate(2026, 12, 6), u"Ferns"_s}},
+                      first);
+    {
+        const FileSizeLimit fullDisk(404 * 900); // 5 December is record 405
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
+        while (run.step()) {}
+    }
+    QCOMPARE(run.done(), 4);
+    QCOMPARE(run.report(false, DateStyle::Usa),
+             u"The disk refused 12/05/2026: the update ended there. Before it, 1 To Do item entered, "
+             u"1 there already, 1 dated before this day."_s);
+    QCOMPARE(files.peek(first).texts[0], u"Call"_s);
+    QVERIFY(files.peek(QDate(2026, 12, 6)).isEmpty());
+
+    ToDoImportRun stopped(files, UntimedPlacement::Last, {{first, u"Call"_s}, {first, u"Bus"_s}}, first);
+    QVERIFY(stopped.step());
+    QCOMPARE(stopped.report(true, DateStyle::Usa),
+             u"0 To Do items entered, 1 there already, stopped before the end"_s);
+#endif
 }
 
 QTEST_GUILESS_MAIN(TestToDoImport)

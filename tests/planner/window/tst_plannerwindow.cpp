@@ -1,5 +1,6 @@
 #include "planner/model/messages.h"
 #include "planner/model/plannerfiles.h"
+#include "planner/window/dayeditor.h"
 #include "planner/window/plannerwindow.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
@@ -64,6 +65,7 @@ public:
         control<MonthView>(*m_window, "MonthView1")->setSelectedDate(date);
         QCoreApplication::processEvents();
     }
+    QDate loadedDate() const { return m_window->findChild<DayEditor *>()->date(); }
     QString caption() const { return control<QLabel>(*m_window, "SSPanel4")->accessibleName(); }
     QString said() const { return m_window->findChild<ActivityBar *>()->message(); }
     QStringList rows() const
@@ -323,21 +325,21 @@ void TestZcalandar1::walksRowsAndDaysByKeys()
 
     test.dialogs.willAnswer(Answer::No);
     QTest::keyClick(focus(), Qt::Key_PageDown);
-    QCOMPARE(screen.window().loadedDate(), today.addDays(1));
+    QCOMPARE(screen.loadedDate(), today.addDays(1));
     QTest::keyClick(focus(), Qt::Key_PageUp);
     QTest::keyClick(focus(), Qt::Key_PageUp);
-    QCOMPARE(screen.window().loadedDate(), today.addDays(-1));
+    QCOMPARE(screen.loadedDate(), today.addDays(-1));
     QTest::keyClick(focus(), Qt::Key_T, Qt::ControlModifier);
-    QCOMPARE(screen.window().loadedDate(), today);
+    QCOMPARE(screen.loadedDate(), today);
     screen.click("next_day");
-    QCOMPARE(screen.window().loadedDate(), today.addDays(1));
+    QCOMPARE(screen.loadedDate(), today.addDays(1));
 
     auto *days = control<MonthView>(screen.window(), "MonthView1")->findChild<QTableView *>();
     days->setFocus();
     QTest::keyClick(days, Qt::Key_Right);
-    QTRY_COMPARE(screen.window().loadedDate(), today.addDays(2));
+    QTRY_COMPARE(screen.loadedDate(), today.addDays(2));
     QTest::keyClick(days, Qt::Key_Left);
-    QTRY_COMPARE(screen.window().loadedDate(), today.addDays(1));
+    QTRY_COMPARE(screen.loadedDate(), today.addDays(1));
     QCOMPARE(focus(), days);
     QTest::keyClick(days, Qt::Key_Return);
     QTRY_COMPARE(focus(), screen.time(0));
@@ -350,10 +352,10 @@ void TestZcalandar1::goesToATypedDate()
     const Screen screen(test);
     test.dialogs.willInput(u"2/29/2028"_s);
     screen.trigger("mVGo");
-    QCOMPARE(screen.window().loadedDate(), QDate(2028, 2, 29));
+    QCOMPARE(screen.loadedDate(), QDate(2028, 2, 29));
     test.dialogs.willInput(u"the day after"_s);
     screen.trigger("mVGo");
-    QCOMPARE(screen.window().loadedDate(), QDate(2028, 2, 29));
+    QCOMPARE(screen.loadedDate(), QDate(2028, 2, 29));
     QVERIFY(screen.said().contains("the day after"_L1));
 }
 
@@ -372,7 +374,7 @@ void TestZcalandar1::keepsTypedTextWhenTheDiskRefuses()
     // Nor does another day take the place of what is on the screen.
     test.dialogs.willAnswer(Answer::Yes);
     screen.choose(QDate(2027, 3, 3));
-    QCOMPARE(screen.window().loadedDate(), today);
+    QCOMPARE(screen.loadedDate(), today);
     QCOMPARE(screen.rows(), QStringList{u"8:00|Bus"_s});
     QVERIFY(screen.window().isModified());
 }
@@ -423,7 +425,7 @@ void TestZcalandar1::keepsTheCalendarOptions()
     QVERIFY(second->isVisible());
     QCOMPARE(second->monthShown(), 12);
     second->setSelectedDate(QDate(2026, 12, 24));
-    QTRY_COMPARE(screen.window().loadedDate(), QDate(2026, 12, 24));
+    QTRY_COMPARE(screen.loadedDate(), QDate(2026, 12, 24));
     QCOMPARE(first->monthShown(), 11);
 }
 
@@ -440,7 +442,7 @@ void TestZcalandar1::opensDaysFromWeekAndMonth()
     const QModelIndex wednesday = month->model()->index(2, 3); // the third week, from Sunday
     QVERIFY(wednesday.data(Qt::AccessibleTextRole).toString().contains("8:30 AM Market"_L1));
     QTest::mouseClick(month->viewport(), Qt::LeftButton, {}, month->visualRect(wednesday).center());
-    QCOMPARE(screen.window().loadedDate(), QDate(2026, 11, 18));
+    QCOMPARE(screen.loadedDate(), QDate(2026, 11, 18));
     QCOMPARE(screen.rows(), QStringList{u"8:30 AM|Market"_s});
 
     screen.trigger("mVWeek");
@@ -449,7 +451,7 @@ void TestZcalandar1::opensDaysFromWeekAndMonth()
     QTest::keyClick(week, Qt::Key_Down);
     QTest::keyClick(week, Qt::Key_PageDown);
     QTest::keyClick(week, Qt::Key_Return);
-    QCOMPARE(screen.window().loadedDate(), QDate(2026, 11, 26));
+    QCOMPARE(screen.loadedDate(), QDate(2026, 11, 26));
     QVERIFY(!week->isVisible());
 
     screen.trigger("mVMonth");
@@ -481,7 +483,7 @@ void TestZcalandar1::opensDaysFromTheSearch()
     QCOMPARE(hits->model()->rowCount(), 2);
     // The nearest one to come is chosen.
     QTest::keyClick(hits, Qt::Key_Return);
-    QCOMPARE(screen.window().loadedDate(), QDate(2027, 5, 5));
+    QCOMPARE(screen.loadedDate(), QDate(2027, 5, 5));
     QCOMPARE(screen.window().focusWidget(), screen.text(1));
 }
 

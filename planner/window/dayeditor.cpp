@@ -1,0 +1,248 @@
+#include "planner/window/dayeditor.h"
+
+#include "planner/model/lines.h"
+#include "planner/model/messages.h"
+#include "planner/window/dayform.h"
+#include "planner/window/steptitle.h"
+#include "shell/controls/controls.h"
+#include "shell/core/dates.h"
+#include "shell/core/framelines.h"
+#include "shell/core/settingskeys.h"
+#include "shell/look/theme.h"
+#include "shell/program/program.h"
+
+#include <QButtonGroup>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// In windows below this width the head of the texts has no words.
+constexpr int narrowBelow = 1000;
+
+} // namespace
+
+DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
+    : QWidget(parent)
+    , m_program(program)
+    , m_files(files)
+    , m_title(new StepTitle({u"SSPanel4"_s, u"day"_s, u"Today"_s}, this))
+    , m_form(new DayForm)
+    , m_scroll(makeScrolling(m_form, u"dayScroll"_s, this))
+{
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(20, 10, 20, 14);
+    rows->setSpacing(4);
+    rows->addWidget(m_title);
+    rows->addWidget(makeRowHeads());
+    rows->addWidget(m_scroll, 1);
+    rows->addWidget(makeLine(this));
+    rows->addSpacing(4);
+    rows->addWidget(makeFoot());
+    connect(m_title, &StepTitle::stepped, this, &DayEditor::stepped);
+    connect(m_title, &StepTitle::todayRequested, this, &DayEditor::todayRequested);
+    connect(m_form, &DayForm::edited, this, &DayEditor::refreshModified);
+    connect(m_form, &DayForm::rowEntered, this, &DayEditor::enterRow);
+    connect(m_form, &DayForm::said, this, &DayEditor::said);
+}
+
+/// The heads of the two columns, and where entries without AM or PM stand.
+QWidget *DayEditor::makeRowHeads()
+{
+    auto *line = new QWidget;
+    auto *layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    QFont head = TypeScale::label();
+    head.setWeight(QFont::DemiBold);
+    QLabel *time = makeQuietLabel(u"Time"_s, line);
+    m_textHead = named(makeQuietLabel({}, line), u"textHead"_s);
+    time->setFont(head);
+    m_textHead->setFont(head);
+    time->setFixedWidth(112);
+    layout->addSpacing(28);
+    layout->addWidget(time);
+    layout->addWidget(m_textHead);
+    layout->addStretch(1);
+    layout->addWidget(named(makeQuietLabel(u"Without AM/PM:"_s, line), u"placementHead"_s));
+    m_placement = new QButtonGroup(this);
+    for (const auto &[id, caption] :
+         {std::pair{UntimedPlacement::Last, u"Last"_s}, {UntimedPlacement::First, u"First"_s}}) {
+        auto *button = named(new QRadioButton(caption, line), u"Option7_"_s + QString::number(int(id)));
+        button->setAccessibleName(u"Entries without AM/PM: "_s + caption);
+        button->setToolTip(u"Where entries without AM or PM stand when the day is saved"_s);
+        button->setFont(TypeScale::label());
+        m_placement->addButton(button, int(id));
+        layout->addWidget(button);
+    }
+    const int placement = m_program.settings.number(SettingsKeys::plannerPlacement);
+    m_placement->button(placement == int(UntimedPlacement::First) ? 1 : 0)->setChecked(true);
+    connect(m_placement, &QButtonGroup::idClicked, this, &DayEditor::setPlacement);
+    return line;
+}
+
+QWidget *DayEditor::makeFoot()
+{
+    auto *foot = new QWidget;
+    QPushButton *clear = makeButton(u"clearDay"_s, u"&Clear Day"_s, foot);
+    QPushButton *save = makeButton(u"saveDay"_s, u"&Save Day"_s, foot, ButtonKind::Main);
+    QPushButton *exit = makeButton(u"exitPlanner"_s, u"E&xit"_s, foot);
+    m_unsaved = named(makeQuietLabel({}, foot), u"unsavedWords"_s);
+    auto *layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    layout->addWidget(clear);
+    layout->addWidget(m_unsaved);
+    layout->addStretch(1);
+    layout->addWidget(save);
+    layout->addWidget(exit);
+    connect(clear, &QPushButton::clicked, this, &DayEditor::clear);
+    connect(save, &QPushButton::clicked, this, &DayEditor::saveByCommand);
+    connect(exit, &QPushButton::clicked, this, [this] { window()->close(); });
+    return foot;
+}
+
+void DayEditor::load(QDate date)
+{
+    m_date = date;
+    m_loaded = m_files.read(date);
+    m_form->setDay(m_loaded);
+    m_shown = m_form->day();
+    const DateStyle style = m_program.state.dateStyle;
+    m_title->setTitle(Dates::longText(date, style), Dates::statusText(date, style));
+    refreshModified();
+    emit loaded(date);
+}
+
+PlannerDay DayEditor::typed() const
+{
+    PlannerDay day = m_form->day();
+    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+        if (day.times[row] == m_shown.times[row])
+            day.times[row] = m_loaded.times[row];
+        if (day.texts[row] == m_shown.texts[row])
+            day.texts[row] = m_loaded.texts[row];
+    }
+    return day;
+}
+
+bool DayEditor::isModified() const
+{
+    return m_form->day() != m_shown;
+}
+
+Appointment DayEditor::currentAppointment() const
+{
+    const PlannerDay day = typed();
+    const auto row = std::size_t(m_form->currentRow());
+    return Appointment::ofRow(day.times[row], day.texts[row]);
+}
+
+UntimedPlacement DayEditor::placement() const
+{
+    return UntimedPlacement(m_placement->checkedId());
+}
+
+void DayEditor::setPlacement(int placement)
+{
+    if (!m_program.settings.setNumber(SettingsKeys::plannerPlacement, placement))
+        emit said(FrameLines::settingNotSaved());
+}
+
+void DayEditor::focusRow(int row)
+{
+    m_form->focusRow(row);
+}
+
+void DayEditor::focusCurrentRow()
+{
+    m_form->focusRow(m_form->currentRow());
+}
+
+void DayEditor::focusFirstEmptyRow()
+{
+    m_form->focusRow(m_form->firstEmptyRow());
+}
+
+bool DayEditor::save()
+{
+    if (!m_files.write(m_date, inTimeOrder(typed(), placement()))) {
+        emit said(PlannerLines::notSaved());
+        return false;
+    }
+    emit saved();
+    reload();
+    m_program.dialogs.ask(window(), PlannerMessages::daySaved());
+    return true;
+}
+
+void DayEditor::saveByCommand()
+{
+    if (typed().isEmpty() && m_program.dialogs.ask(window(), PlannerMessages::nothingToSave()) == Answer::No)
+        return;
+    if (save())
+        focusFirstEmptyRow();
+}
+
+void DayEditor::clear()
+{
+    if (typed().isEmpty()) {
+        m_program.dialogs.ask(window(), PlannerMessages::nothingToClear());
+        return;
+    }
+    if (m_program.dialogs.ask(window(), PlannerMessages::clearDay(m_title->title())) != Answer::Yes)
+        return;
+    m_form->setDay({});
+    refreshModified();
+    focusRow(0);
+    emit said(PlannerLines::cleared());
+}
+
+void DayEditor::copy()
+{
+    const PlannerDay day = typed();
+    if (day.isEmpty()) {
+        m_program.dialogs.ask(window(), PlannerMessages::nothingToCopy());
+        return;
+    }
+    m_copied = day;
+    emit said(PlannerLines::copied(day.entryCount()));
+}
+
+void DayEditor::paste()
+{
+    if (!m_copied)
+        return;
+    PlannerDay day = m_form->day();
+    int pasted = 0;
+    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+        if (!day.isRowEmpty(row) || m_copied->isRowEmpty(row))
+            continue;
+        day.times[row] = m_copied->times[row];
+        day.texts[row] = m_copied->texts[row];
+        ++pasted;
+    }
+    m_form->setDay(day);
+    refreshModified();
+    emit said(PlannerLines::pasted(pasted));
+}
+
+void DayEditor::refreshModified()
+{
+    m_unsaved->setText(isModified() ? FrameLines::unsavedChanges() : QString());
+}
+
+void DayEditor::enterRow(int row)
+{
+    m_scroll->ensureWidgetVisible(m_form->textBox(row), 0, 40);
+    emit said(PlannerLines::row(row));
+}
+
+void DayEditor::resizeEvent(QResizeEvent *event)
+{
+    m_textHead->setText(window()->width() < narrowBelow ? QString() : u"Appointment or activity"_s);
+    QWidget::resizeEvent(event);
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "planner/model/plannerfiles.h"
+#include "planner/model/recurrence.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class DayForm;
+class QButtonGroup;
+class QLabel;
+class QScrollArea;
+class StepTitle;
+struct Program;
+
+/// A day of the planner while it is edited: its title, its fourteen rows, and what is typed into them beside
+/// what its file has.
+class DayEditor final : public QWidget
+{
+    Q_OBJECT
+public:
+    DayEditor(Program &program, PlannerFiles &files, QWidget *parent = nullptr);
+
+    /// Shows what the file has for `date`; what was typed is dropped.
+    void load(QDate date);
+    void reload() { load(m_date); }
+    QDate date() const { return m_date; }
+
+    /// What the boxes hold. A text that nobody touched stays as the file has it, even where a box shows it
+    /// otherwise.
+    PlannerDay typed() const;
+    bool isModified() const;
+    /// The appointment of the row that has the focus, or had it last.
+    Appointment currentAppointment() const;
+    UntimedPlacement placement() const;
+
+    void focusRow(int row);
+    void focusCurrentRow();
+    void focusFirstEmptyRow();
+
+    /// Writes the rows, in time order, into the day that was loaded, and says so; false when the disk
+    /// refuses.
+    bool save();
+    /// Saves by the user's command, who is asked when there is nothing to save.
+    void saveByCommand();
+    void clear();
+    void copy();
+    /// Puts the rows of the copied day into the rows that are empty here.
+    void paste();
+    bool hasCopy() const { return m_copied.has_value(); }
+
+signals:
+    void loaded(QDate date);
+    void saved();
+    void stepped(int days);
+    void todayRequested();
+    /// A quiet line for the status bar.
+    void said(const QString &line);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QWidget *makeRowHeads();
+    QWidget *makeFoot();
+    void setPlacement(int placement);
+    void refreshModified();
+    void enterRow(int row);
+
+    Program &m_program;
+    PlannerFiles &m_files;
+    QDate m_date;
+    PlannerDay m_loaded; ///< as the file has it
+    PlannerDay m_shown;  ///< as the boxes took it
+    std::optional<PlannerDay> m_copied;
+
+    StepTitle *m_title;
+    DayForm *m_form;
+    QScrollArea *m_scroll;
+    QLabel *m_textHead = nullptr;
+    QButtonGroup *m_placement = nullptr;
+    QLabel *m_unsaved = nullptr;
+};
