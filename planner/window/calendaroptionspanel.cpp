@@ -1,7 +1,5 @@
 #include "planner/window/calendaroptionspanel.h"
 
-#include "shell/controls/controls.h"
-
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -10,13 +8,11 @@
 using namespace Qt::Literals::StringLiterals;
 
 CalendarOptionsPanel::CalendarOptionsPanel(QWidget *parent)
-    : QWidget(parent)
+    : TaskPanel(u"calendarOptionsPanel"_s, u"Calendar Options"_s, parent)
 {
-    auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(24, 16, 24, 18);
-    rows->setSpacing(16);
-    rows->addWidget(makeTitle(u"Calendar Options"_s, this));
-    auto *columns = new QHBoxLayout;
+    auto *content = new QWidget(this);
+    auto *columns = new QHBoxLayout(content);
+    columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(48);
     auto *left = new QVBoxLayout;
     auto *right = new QVBoxLayout;
@@ -37,20 +33,11 @@ CalendarOptionsPanel::CalendarOptionsPanel(QWidget *parent)
         columns->addLayout(column);
     }
     columns->addStretch(1);
-    rows->addLayout(columns, 1);
-    rows->addWidget(makeLine(this));
-    QPushButton *ok = makeButton(u"calendarOptionsOk"_s, u"OK"_s, this, ButtonKind::Main);
-    QPushButton *cancel = makeButton(u"calendarOptionsCancel"_s, u"Cancel"_s, this);
+    setContent(content);
+    QPushButton *ok = addButton(u"calendarOptionsOk"_s, u"OK"_s, ButtonKind::Main);
     ok->setMinimumWidth(88);
-    auto *foot = new QHBoxLayout;
-    foot->setSpacing(8);
-    foot->addStretch(1);
-    foot->addWidget(ok);
-    foot->addWidget(cancel);
-    rows->addLayout(foot);
-    m_cancel = cancel;
+    m_cancel = setLeaveButton(u"calendarOptionsCancel"_s, u"Cancel"_s);
     connect(ok, &QPushButton::clicked, this, &CalendarOptionsPanel::accepted);
-    connect(cancel, &QPushButton::clicked, this, &CalendarOptionsPanel::left);
 }
 
 QButtonGroup *CalendarOptionsPanel::addFrame(QVBoxLayout *column, const QString &name, const QString &caption,
@@ -86,9 +73,9 @@ CalendarOptions CalendarOptionsPanel::options() const
 void CalendarOptionsPanel::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
-        QWidget::keyPressEvent(event);
+        TaskPanel::keyPressEvent(event);
     else if (m_cancel->hasFocus())
-        emit left();
+        leave();
     else
         emit accepted();
 }

@@ -1,15 +1,14 @@
 #pragma once
 
 #include "planner/model/calendaroptions.h"
-
-#include <QWidget>
+#include "shell/controls/taskpanel.h"
 
 class QButtonGroup;
 class QPushButton;
 class QVBoxLayout;
 
 /// The panel that says how the planner's calendar is shown; OK writes all four choices.
-class CalendarOptionsPanel final : public QWidget
+class CalendarOptionsPanel final : public TaskPanel
 {
     Q_OBJECT
 public:
@@ -20,7 +19,6 @@ public:
 
 signals:
     void accepted();
-    void left();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

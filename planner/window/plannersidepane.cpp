@@ -3,8 +3,8 @@
 #include "planner/window/comingup.h"
 #include "planner/window/plannercalendar.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/searchbox.h"
 #include "shell/frame/panelcolors.h"
-#include "shell/look/theme.h"
 #include "shell/program/program.h"
 
 #include <QScrollArea>
@@ -41,15 +41,11 @@ QSet<QDate> daysWithEntries(const PlannerFiles &files, int year)
 PlannerSidePane::PlannerSidePane(const Program &program, PanelColors &colors, const PlannerFiles &files,
                                  QWidget *parent)
     : QWidget(parent)
-    , m_search(named(new QLineEdit(this), u"plannerSearch"_s))
+    , m_search(new SearchBox(u"plannerSearch"_s, u"Search all years"_s,
+                             u"Type a part of an appointment and press Enter"_s, this))
 {
     setObjectName(u"leftPane"_s);
     setMinimumWidth(oneMonthWidth - 4);
-    m_search->setPlaceholderText(u"Search all years"_s);
-    m_search->setAccessibleName(u"Search all years"_s);
-    m_search->setClearButtonEnabled(true);
-    m_search->addAction(Icons::icon("search"_L1, Theme::of(this).scheme), QLineEdit::LeadingPosition);
-    m_search->setToolTip(u"Type a part of an appointment and press Enter"_s);
     QScrollArea *scroll = makeScrolling(makePanels(program, colors, files), u"leftPaneScroll"_s, this);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *rows = new QVBoxLayout(this);
@@ -57,7 +53,7 @@ PlannerSidePane::PlannerSidePane(const Program &program, PanelColors &colors, co
     rows->setSpacing(12);
     rows->addWidget(m_search);
     rows->addWidget(scroll, 1);
-    connect(m_search, &QLineEdit::returnPressed, this, [this] {
+    connect(m_search, &SearchBox::returnPressed, this, [this] {
         if (const QString text = m_search->text().trimmed(); !text.isEmpty())
             emit searchRequested(text);
     });
@@ -118,8 +114,7 @@ void PlannerSidePane::showToday()
 
 void PlannerSidePane::focusSearch()
 {
-    m_search->setFocus();
-    m_search->selectAll();
+    m_search->startAgain();
 }
 
 int PlannerSidePane::fitWindow(QSize window)

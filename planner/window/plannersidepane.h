@@ -8,7 +8,7 @@
 class ComingUp;
 class PanelColors;
 class PlannerCalendar;
-class QLineEdit;
+class SearchBox;
 struct Program;
 
 /// The pane beside the planner's work: the search over all years, the calendar, what is coming up.
@@ -41,7 +41,7 @@ private:
     QWidget *makePanels(const Program &program, PanelColors &colors, const PlannerFiles &files);
 
     int m_shownMonths = 1;
-    QLineEdit *m_search;
+    SearchBox *m_search;
     PlannerCalendar *m_calendar = nullptr;
     ComingUp *m_comingUp = nullptr;
 };

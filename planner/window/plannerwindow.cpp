@@ -82,8 +82,8 @@ QWidget *Zcalandar1::makeWorkPanel()
     m_week = new WeekView(m_files, style);
     m_month = new MonthGrid(m_files, style);
     m_searchPanel = new SearchPanel(style);
-    m_recurrence = named(new RecurrencePanel(program()), u"recurrencePanel"_s);
-    m_optionsPanel = named(new CalendarOptionsPanel, u"calendarOptionsPanel"_s);
+    m_recurrence = new RecurrencePanel(program());
+    m_optionsPanel = new CalendarOptionsPanel;
     for (QWidget *view : std::initializer_list<QWidget *>{m_day, m_week, m_month, m_searchPanel, m_recurrence,
                                                           m_optionsPanel})
         m_views->addWidget(view);

@@ -4,10 +4,8 @@
 #include "planner/model/messages.h"
 #include "planner/window/recurrenceform.h"
 #include "planner/window/recurrencerange.h"
-#include "shell/controls/controls.h"
 #include "shell/core/dates.h"
 #include "shell/core/slicedwork.h"
-#include "shell/look/theme.h"
 #include "shell/program/program.h"
 
 #include <QApplication>
@@ -32,16 +30,14 @@ constexpr int twoColumnsFrom = 960;
 } // namespace
 
 RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
-    : QWidget(parent)
+    : TaskPanel(u"recurrencePanel"_s, u"Recurrence Option"_s, parent)
     , m_program(program)
     , m_work(new SlicedWork(this))
-    , m_title(named(new ElidedLabel(this), u"recurrenceTitle"_s))
     , m_columns(new QBoxLayout(QBoxLayout::LeftToRight))
     , m_range(new RecurrenceRange(program, this))
     , m_form(new RecurrenceForm(program.state.dateStyle, this))
     , m_body(new QStackedWidget(this))
 {
-    m_title->setFont(TypeScale::windowTitle());
     auto *content = new QWidget;
     content->setLayout(m_columns);
     m_columns->setContentsMargins(0, 0, 8, 0);
@@ -50,14 +46,8 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     m_columns->addWidget(m_form, 1);
     m_body->addWidget(makeScrolling(content, u"recurrenceScroll"_s, this));
     m_body->addWidget(makeProgressPanel());
-
-    auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(24, 16, 24, 18);
-    rows->setSpacing(12);
-    rows->addWidget(m_title);
-    rows->addWidget(m_body, 1);
-    rows->addWidget(makeLine(this));
-    rows->addLayout(makeFoot());
+    setWork(m_body);
+    makeFoot();
     connect(m_form, &RecurrenceForm::kindChosen, this, &RecurrencePanel::checkLimit);
     connect(m_form, &RecurrenceForm::said, this, &RecurrencePanel::said);
     connect(m_range, &RecurrenceRange::said, this, &RecurrencePanel::said);
@@ -98,28 +88,20 @@ QWidget *RecurrencePanel::makeProgressPanel()
     return panel;
 }
 
-QHBoxLayout *RecurrencePanel::makeFoot()
+void RecurrencePanel::makeFoot()
 {
-    m_remove = makeButton(u"recurrenceRemove"_s, u"Remove This Recurrence"_s, this);
-    m_ok = makeButton(u"recurrenceOk"_s, u"OK"_s, this, ButtonKind::Main);
-    m_cancel = makeButton(u"recurrenceCancel"_s, u"Cancel"_s, this);
+    m_remove = addButton(u"recurrenceRemove"_s, u"Remove This Recurrence"_s, ButtonKind::Plain, Side::Left);
+    m_ok = addButton(u"recurrenceOk"_s, u"OK"_s, ButtonKind::Main);
     m_ok->setMinimumWidth(88);
-    auto *foot = new QHBoxLayout;
-    foot->setSpacing(8);
-    foot->addWidget(m_remove);
-    foot->addStretch(1);
-    foot->addWidget(m_ok);
-    foot->addWidget(m_cancel);
+    m_cancel = setLeaveButton(u"recurrenceCancel"_s, u"Cancel"_s);
     connect(m_ok, &QPushButton::clicked, this, &RecurrencePanel::insert);
     connect(m_remove, &QPushButton::clicked, this, &RecurrencePanel::remove);
-    connect(m_cancel, &QPushButton::clicked, this, &RecurrencePanel::left);
-    return foot;
 }
 
 /// Where dates and kinds do not fit beside each other, they stand below each other and scroll.
 void RecurrencePanel::resizeEvent(QResizeEvent *event)
 {
-    QWidget::resizeEvent(event);
+    TaskPanel::resizeEvent(event);
     m_columns->setDirection(width() < twoColumnsFrom ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
@@ -130,7 +112,7 @@ void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPl
     m_placement = placement;
     const QString words =
         appointment.time.isEmpty() ? appointment.text : QString(appointment.time + u' ' + appointment.text);
-    m_title->setText(u"Recurrence Option: \u201c"_s + words.trimmed() + u'\u201d');
+    setTitle(u"Recurrence Option: \u201c"_s + words.trimmed() + u'\u201d');
     m_form->reset(date);
     m_range->reset(date, options);
     m_body->setCurrentIndex(0);
@@ -140,6 +122,12 @@ void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPl
 bool RecurrencePanel::isRunning() const
 {
     return m_work->isRunning();
+}
+
+void RecurrencePanel::leave()
+{
+    if (!isRunning())
+        TaskPanel::leave();
 }
 
 std::optional<QString> RecurrencePanel::read(Recurrence &recurrence) const
@@ -231,7 +219,7 @@ void RecurrencePanel::finish(bool wasStopped)
     const auto report = isInsert ? PlannerMessages::recurrenceReport(run->made(), run->full()) : std::nullopt;
     if (report)
         m_program.dialogs.ask(this, *report);
-    emit left();
+    leave();
     // Last, since the day that comes back says in which row it is.
     emit said(isInsert && !report ? PlannerLines::nothingMade() : done);
 }
@@ -257,17 +245,8 @@ QPushButton *RecurrencePanel::defaultButton() const
 
 void RecurrencePanel::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Escape:
-        if (!isRunning())
-            emit left();
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!isRunning())
-            defaultButton()->click();
-        break;
-    default:
-        QWidget::keyPressEvent(event);
-    }
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        TaskPanel::keyPressEvent(event);
+    else if (!isRunning())
+        defaultButton()->click();
 }

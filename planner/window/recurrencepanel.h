@@ -2,17 +2,13 @@
 
 #include "planner/model/calendaroptions.h"
 #include "planner/model/recurrencerun.h"
-
-#include <QWidget>
+#include "shell/controls/taskpanel.h"
 
 #include <memory>
 
-class ElidedLabel;
 class QBoxLayout;
 class QCheckBox;
-class QHBoxLayout;
 class QProgressBar;
-class QPushButton;
 class QStackedWidget;
 class RecurrenceForm;
 class RecurrenceRange;
@@ -21,7 +17,7 @@ struct Program;
 
 /// The "Recurrence Option" panel: repeats one appointment over many dates, or removes it from them. The walk
 /// over the dates goes in slices: the window stays responsive, and the check box stops it.
-class RecurrencePanel final : public QWidget
+class RecurrencePanel final : public TaskPanel
 {
     Q_OBJECT
 public:
@@ -32,14 +28,13 @@ public:
     void open(const Appointment &appointment, QDate date, UntimedPlacement placement,
               const CalendarOptions &options);
     bool isRunning() const;
+    void leave() override;
 
 signals:
     /// A walk begins or is over: nothing else may be done meanwhile.
     void busyChanged(bool isBusy);
     /// A walk ended, whether it came to its end or not: days may have changed.
     void filesChanged();
-    /// The panel has done its work, or was cancelled.
-    void left();
     void said(const QString &line);
 
 protected:
@@ -48,7 +43,7 @@ protected:
 
 private:
     QWidget *makeProgressPanel();
-    QHBoxLayout *makeFoot();
+    void makeFoot();
 
     /// What the boxes say, or the reason why it cannot be walked.
     std::optional<QString> read(Recurrence &recurrence) const;
@@ -71,7 +66,6 @@ private:
     std::unique_ptr<RecurrenceRun> m_run;
     SlicedWork *m_work;
 
-    ElidedLabel *m_title;
     QBoxLayout *m_columns;
     RecurrenceRange *m_range;
     RecurrenceForm *m_form;
