@@ -4,6 +4,7 @@
 #include "planner/model/messages.h"
 #include "planner/window/recurrenceform.h"
 #include "planner/window/recurrencerange.h"
+#include "shell/controls/datebox.h"
 #include "shell/core/dates.h"
 #include "shell/core/slicedwork.h"
 #include "shell/program/program.h"
@@ -35,7 +36,7 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     , m_work(new SlicedWork(this))
     , m_columns(new QBoxLayout(QBoxLayout::LeftToRight))
     , m_range(new RecurrenceRange(program, this))
-    , m_form(new RecurrenceForm(program.state.dateStyle, this))
+    , m_form(new RecurrenceForm({program.state.dateStyle, program.clock}, this))
     , m_body(new QStackedWidget(this))
 {
     auto *content = new QWidget;

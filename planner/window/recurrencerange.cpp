@@ -2,9 +2,8 @@
 
 #include "planner/model/lines.h"
 #include "planner/window/plannercalendar.h"
-#include "shell/controls/controls.h"
+#include "shell/controls/datebox.h"
 #include "shell/controls/monthview.h"
-#include "shell/core/dates.h"
 #include "shell/program/program.h"
 
 #include <QButtonGroup>
@@ -23,15 +22,16 @@ constexpr int numberWidth = 64;
 
 RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
     : QWidget(parent)
-    , m_program(program)
-    , m_beginning(makeDateBox(u"beginningDate"_s, u"Beginning Date"_s))
-    , m_end(makeDateBox(u"endDate"_s, u"End Date"_s))
-    , m_occurrences(makeDateBox(u"occurrences"_s, u"Number of occurrences"_s))
+    , m_clock(program.clock)
+    , m_beginning(setUp(new DateBox({program.state.dateStyle, program.clock}, nullptr, this),
+                        u"beginningDate"_s, u"Beginning Date"_s, dateWidth))
+    , m_end(setUp(new DateBox({program.state.dateStyle, program.clock}, nullptr, this), u"endDate"_s,
+                  u"End Date"_s, dateWidth))
+    , m_occurrences(setUp(new FieldBox(this), u"occurrences"_s, u"Number of occurrences"_s, numberWidth))
     , m_endBy(new QButtonGroup(this))
     , m_calendarSets(new QButtonGroup(this))
 {
     m_occurrences->setByteLimit(5);
-    m_occurrences->setFixedWidth(numberWidth);
     setFixedWidth(384);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -47,12 +47,12 @@ RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
     connectBoxes();
 }
 
-FieldBox *RecurrenceRange::makeDateBox(const QString &name, const QString &accessibleName)
+template <typename Box>
+Box *RecurrenceRange::setUp(Box *box, const QString &name, const QString &accessibleName, int width)
 {
-    auto *box = named(new FieldBox(this), name);
-    box->setByteLimit(20);
-    box->setFixedWidth(dateWidth);
+    box->setObjectName(name);
     box->setAccessibleName(accessibleName);
+    box->setFixedWidth(width);
     connect(box, &FieldBox::refused, this, &RecurrenceRange::said);
     return box;
 }
@@ -104,7 +104,7 @@ void RecurrenceRange::connectBoxes()
 {
     connect(m_month, &QCalendarWidget::selectionChanged, this, &RecurrenceRange::calendarMoved);
     connect(m_calendarSets, &QButtonGroup::idClicked, this, &RecurrenceRange::showCalendarDate);
-    for (const FieldBox *box : {m_beginning, m_end})
+    for (const DateBox *box : {m_beginning, m_end})
         connect(box, &QLineEdit::editingFinished, this, &RecurrenceRange::showCalendarDate);
     // Typing into a box means that the recurrence ends by it.
     connect(m_end, &QLineEdit::textEdited, this, [this] { m_endBy->button(EndDate)->setChecked(true); });
@@ -114,19 +114,18 @@ void RecurrenceRange::connectBoxes()
 
 void RecurrenceRange::reset(QDate date, const CalendarOptions &options)
 {
-    const DateStyle style = m_program.state.dateStyle;
-    m_beginning->setText(Dates::boxText(date, style));
-    m_end->setText(Dates::boxText(date.addYears(1), style));
+    m_beginning->setDate(date);
+    m_end->setDate(date.addYears(1));
     m_occurrences->setText(u"10"_s);
     m_endBy->button(EndDate)->setChecked(true);
     m_calendarSets->button(Beginning)->setChecked(true);
-    applyOptions(*m_month, options, m_program.clock.today());
+    applyOptions(*m_month, options, m_clock.today());
     showCalendarDate();
 }
 
 std::optional<QString> RecurrenceRange::read(Recurrence &recurrence) const
 {
-    const auto beginning = dateOf(m_beginning);
+    const auto beginning = m_beginning->date();
     if (!beginning)
         return PlannerLines::noBeginning();
     recurrence.beginning = *beginning;
@@ -135,7 +134,7 @@ std::optional<QString> RecurrenceRange::read(Recurrence &recurrence) const
         recurrence.occurrences = m_occurrences->text().trimmed().toInt();
         return recurrence.occurrences < 1 ? std::optional(PlannerLines::noOccurrences()) : std::nullopt;
     }
-    recurrence.end = dateOf(m_end);
+    recurrence.end = m_end->date();
     if (!recurrence.end)
         return PlannerLines::noEnd();
     return *recurrence.end < *beginning ? std::optional(PlannerLines::endBeforeBeginning()) : std::nullopt;
@@ -144,25 +143,20 @@ std::optional<QString> RecurrenceRange::read(Recurrence &recurrence) const
 void RecurrenceRange::showEnd(const Recurrence &recurrence)
 {
     if (recurrence.end)
-        m_end->setText(Dates::boxText(*recurrence.end, m_program.state.dateStyle));
+        m_end->setDate(*recurrence.end);
     else
         m_occurrences->setText(QString::number(recurrence.occurrences));
     showCalendarDate();
 }
 
-std::optional<QDate> RecurrenceRange::dateOf(const FieldBox *box) const
-{
-    return Dates::parse(box->text(), m_program.state.dateStyle, m_program.clock.today());
-}
-
-FieldBox *RecurrenceRange::calendarBox() const
+DateBox *RecurrenceRange::calendarBox() const
 {
     return m_calendarSets->checkedId() == End ? m_end : m_beginning;
 }
 
 void RecurrenceRange::calendarMoved()
 {
-    calendarBox()->setText(Dates::boxText(m_month->selectedDate(), m_program.state.dateStyle));
+    calendarBox()->setDate(m_month->selectedDate());
     if (calendarBox() == m_end)
         m_endBy->button(EndDate)->setChecked(true);
 }
@@ -170,6 +164,6 @@ void RecurrenceRange::calendarMoved()
 void RecurrenceRange::showCalendarDate()
 {
     const QSignalBlocker quiet(m_month);
-    if (const auto date = dateOf(calendarBox()))
+    if (const auto date = calendarBox()->date())
         m_month->setSelectedDate(*date);
 }

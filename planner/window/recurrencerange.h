@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+class Clock;
+class DateBox;
 class FieldBox;
 class MonthView;
 class QButtonGroup;
@@ -35,18 +37,19 @@ private:
 
     void addEndLines(QVBoxLayout *column);
     void addCalendar(QVBoxLayout *column);
-    FieldBox *makeDateBox(const QString &name, const QString &accessibleName);
+    /// Gives a box its names, and tells what it refuses.
+    template <typename Box>
+    Box *setUp(Box *box, const QString &name, const QString &accessibleName, int width);
     void connectBoxes();
 
-    std::optional<QDate> dateOf(const FieldBox *box) const;
     /// The box whose date the calendar sets.
-    FieldBox *calendarBox() const;
+    DateBox *calendarBox() const;
     void calendarMoved();
     void showCalendarDate();
 
-    const Program &m_program;
-    FieldBox *m_beginning;
-    FieldBox *m_end;
+    const Clock &m_clock;
+    DateBox *m_beginning;
+    DateBox *m_end;
     FieldBox *m_occurrences;
     QButtonGroup *m_endBy;
     QButtonGroup *m_calendarSets;
