@@ -10,7 +10,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 using PlannerPages::Days;
-using PlannerPages::Paper;
 
 namespace {
 
@@ -32,9 +31,9 @@ QRectF placedArea(const PageSetup &setup)
             sheet.height() - placedTop - margin - closingHeight};
 }
 
-QString headRight(const Paper &paper)
+QString headRight(const PageContext &context)
 {
-    return paper.household.isEmpty() ? u"Personal Planner"_s : paper.household + u" Personal Planner"_s;
+    return context.family.isEmpty() ? u"Personal Planner"_s : context.family + u" Personal Planner"_s;
 }
 
 PlannerDay entriesOf(const Days &days, QDate date)
@@ -62,14 +61,14 @@ std::array<int, daysPerWeek> sharedRows(QDate start, const Days &days)
     return rows;
 }
 
-QString weekTitle(QDate start, const Paper &paper)
+QString weekTitle(QDate start, const PageContext &context)
 {
-    return u"Week of "_s + PlannerPages::rangeText(start, start.addDays(daysPerWeek - 1), paper.dateStyle);
+    return u"Week of "_s + PlannerPages::rangeText(start, start.addDays(daysPerWeek - 1), context.style);
 }
 
-Page listedWeek(QDate start, const Days &days, const Paper &paper)
+Page listedWeek(QDate start, const Days &days, const PageContext &context)
 {
-    Page page(weekTitle(start, paper), headRight(paper));
+    Page page(weekTitle(start, context), headRight(context));
     const auto rows = sharedRows(start, days);
     page.columns({1.85, 0.85, 4.8}, {}, {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft});
     for (int i = 0; i < daysPerWeek; ++i) {
@@ -79,12 +78,12 @@ Page listedWeek(QDate start, const Days &days, const Paper &paper)
             page.rule();
         for (int row = 0; row < rows[std::size_t(i)]; ++row) {
             const QString head =
-                row == 0 ? dayName(date) + u", "_s + Dates::shortText(date, paper.dateStyle) : QString();
+                row == 0 ? dayName(date) + u", "_s + Dates::shortText(date, context.style) : QString();
             const bool isFilled = row < lines.count();
             page.row({head, isFilled ? lines.time(row) : QString(), isFilled ? lines.text(row) : QString()});
         }
     }
-    return page.close(paper.printedOn, paper.dateStyle);
+    return page.close(context.today, context.style);
 }
 
 /// The fonts and line heights that entries are set in.
@@ -101,9 +100,9 @@ constexpr double blockTime = 0.92;
 constexpr double blockHead = 0.3;
 constexpr int blocksAcross = 4;
 
-QSizeF blockSize(const Paper &paper)
+QSizeF blockSize(const PageContext &context)
 {
-    const QRectF area = placedArea(paper.setup);
+    const QRectF area = placedArea(context.setup);
     return {area.width() / blocksAcross, area.height() / 2};
 }
 
@@ -135,9 +134,9 @@ void placeBlockEntries(Page &page, const QRectF &place, const DayLines &lines)
     }
 }
 
-bool fitsBlocks(QDate start, const Days &days, const Paper &paper)
+bool fitsBlocks(QDate start, const Days &days, const PageContext &context)
 {
-    const QRectF place = entriesPlace({{0, 0}, blockSize(paper)});
+    const QRectF place = entriesPlace({{0, 0}, blockSize(context)});
     for (int i = 0; i < daysPerWeek; ++i) {
         if (!fitsBlock(DayLines(entriesOf(days, start.addDays(i))), place, dense))
             return false;
@@ -145,11 +144,11 @@ bool fitsBlocks(QDate start, const Days &days, const Paper &paper)
     return true;
 }
 
-Page wideWeek(QDate start, const Days &days, const Paper &paper)
+Page wideWeek(QDate start, const Days &days, const PageContext &context)
 {
-    Page page(weekTitle(start, paper), headRight(paper));
-    const QPointF origin = placedArea(paper.setup).topLeft();
-    const QSizeF size = blockSize(paper);
+    Page page(weekTitle(start, context), headRight(context));
+    const QPointF origin = placedArea(context.setup).topLeft();
+    const QSizeF size = blockSize(context);
     for (int i = 0; i <= daysPerWeek; ++i) {
         const QPointF corner =
             origin + QPointF((i % blocksAcross) * size.width(), (i / blocksAcross) * size.height());
@@ -163,11 +162,11 @@ Page wideWeek(QDate start, const Days &days, const Paper &paper)
         }
         const QDate date = start.addDays(i);
         page.placeText(head, dayName(date), TextRole::Strong);
-        page.placeText(head, Dates::shortText(date, paper.dateStyle), TextRole::Body,
+        page.placeText(head, Dates::shortText(date, context.style), TextRole::Body,
                        Qt::AlignRight | Qt::AlignTop);
         placeBlockEntries(page, entriesPlace(block), DayLines(entriesOf(days, date)));
     }
-    return page.close(paper.printedOn, paper.dateStyle);
+    return page.close(context.today, context.style);
 }
 
 void placeMonthDay(Page &page, const QRectF &cell, QDate date, const PlannerDay &entries)
@@ -211,32 +210,32 @@ QString PlannerPages::rangeText(QDate from, QDate to, DateStyle style)
     return part(from, sameMonth ? u"d"_s : sameYear ? u"d MMMM"_s : u"d MMMM yyyy"_s) + u" to "_s + full;
 }
 
-Page PlannerPages::day(QDate date, const PlannerDay &entries, const Paper &paper)
+Page PlannerPages::day(QDate date, const PlannerDay &entries, const PageContext &context)
 {
-    Page page(Dates::longText(date, paper.dateStyle), headRight(paper));
+    Page page(Dates::longText(date, context.style), headRight(context));
     page.columns({1.0, 6.5}, {u"Time"_s, u"Appointment or activity"_s}, {Qt::AlignRight, Qt::AlignLeft});
     const DayLines lines(entries);
     for (int row = 0; row < int(PlannerDay::rowCount); ++row) {
         const bool isFilled = row < lines.count();
         page.row({isFilled ? lines.time(row) : QString(), isFilled ? lines.text(row) : QString()});
     }
-    return page.close(paper.printedOn, paper.dateStyle);
+    return page.close(context.today, context.style);
 }
 
-Page PlannerPages::week(QDate start, const Days &days, const Paper &paper)
+Page PlannerPages::week(QDate start, const Days &days, const PageContext &context)
 {
-    const bool isWide = paper.setup.orientation == PageSetup::Landscape && fitsBlocks(start, days, paper);
-    return isWide ? wideWeek(start, days, paper) : listedWeek(start, days, paper);
+    const bool isWide = context.setup.orientation == PageSetup::Landscape && fitsBlocks(start, days, context);
+    return isWide ? wideWeek(start, days, context) : listedWeek(start, days, context);
 }
 
-Page PlannerPages::month(QDate date, const Days &days, const Paper &paper)
+Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, const PageContext &context)
 {
     constexpr double headHeight = 0.26;
     const QDate first(date.year(), date.month(), 1);
-    const QDate start = weekStart(first, paper.firstDay);
+    const QDate start = weekStart(first, firstDay);
     const int weeks = int(start.daysTo(first) + first.daysInMonth() + daysPerWeek - 1) / daysPerWeek;
-    Page page(QLocale::c().toString(first, u"MMMM yyyy"_s), headRight(paper));
-    const QRectF area = placedArea(paper.setup);
+    Page page(QLocale::c().toString(first, u"MMMM yyyy"_s), headRight(context));
+    const QRectF area = placedArea(context.setup);
     const QSizeF size(area.width() / daysPerWeek, (area.height() - headHeight) / weeks);
     for (int column = 0; column < daysPerWeek; ++column) {
         const QRectF head(area.left() + column * size.width() + inset, area.top(), size.width() - 2 * inset,
@@ -255,24 +254,44 @@ Page PlannerPages::month(QDate date, const Days &days, const Paper &paper)
         if (shown.month() == first.month())
             placeMonthDay(page, {corner, size}, shown, entriesOf(days, shown));
     }
-    return page.close(paper.printedOn, paper.dateStyle);
+    return page.close(context.today, context.style);
 }
 
-Page PlannerPages::range(QDate from, QDate to, const Days &days, const Paper &paper)
+Page PlannerPages::range(QDate from, QDate to, const Days &days, const PageContext &context)
 {
-    Page page(rangeText(from, to, paper.dateStyle), headRight(paper));
+    Page page(rangeText(from, to, context.style), headRight(context));
     page.columns({1.7, 0.9, 4.9}, {u"Date"_s, u"Time"_s, u"Appointment or activity"_s},
                  {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft});
     bool isEmpty = true;
     for (auto day = days.lower_bound(from); day != days.end() && day->first <= to; ++day) {
         const DayLines lines(day->second);
         for (int row = 0; row < lines.count(); ++row) {
-            const QString head = row == 0 ? Dates::statusText(day->first, paper.dateStyle) : QString();
+            const QString head = row == 0 ? Dates::statusText(day->first, context.style) : QString();
             page.row({head, lines.time(row), lines.text(row)});
             isEmpty = false;
         }
     }
     if (isEmpty)
         page.line(u"Nothing is planned for these days."_s);
-    return page.close(paper.printedOn, paper.dateStyle);
+    return page.close(context.today, context.style);
+}
+
+Page PlannerPages::weekOf(const PlannerFiles &files, QDate date, const CalendarOptions &options,
+                          const PageContext &context)
+{
+    const QDate start = weekStart(date, options.firstDay());
+    return week(start, files.days(start, start.addDays(daysPerWeek - 1)), context);
+}
+
+Page PlannerPages::monthOf(const PlannerFiles &files, QDate date, const CalendarOptions &options,
+                           const PageContext &context)
+{
+    const QDate first(date.year(), date.month(), 1);
+    const QDate last = first.addMonths(1).addDays(-1);
+    return month(date, files.days(first, last), options.firstDay(), context);
+}
+
+Page PlannerPages::rangeOf(const PlannerFiles &files, QDate from, QDate to, const PageContext &context)
+{
+    return range(from, to, files.days(from, to), context);
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "planner/model/plannerday.h"
-#include "shell/core/page.h"
+#include "planner/model/calendaroptions.h"
+#include "planner/model/plannerfiles.h"
+#include "shell/core/pagecontext.h"
 
 #include <QDate>
 
@@ -10,15 +11,6 @@
 /// The planner on paper: a day, a week for the kitchen door, a month as a calendar, a range of dates as a
 /// list.
 namespace PlannerPages {
-
-/// What every page of the planner needs beside its entries.
-struct Paper {
-    PageSetup setup;
-    DateStyle dateStyle = DateStyle::Usa;
-    Qt::DayOfWeek firstDay = Qt::Sunday;
-    QDate printedOn;
-    QString household; ///< the family name, or empty
-};
 
 using Days = std::map<QDate, PlannerDay>;
 
@@ -29,18 +21,26 @@ QDate weekStart(QDate date, Qt::DayOfWeek firstDay);
 QString rangeText(QDate from, QDate to, DateStyle style);
 
 /// The fourteen rows of `date`; empty ones are lines to write on.
-Page day(QDate date, const PlannerDay &entries, const Paper &paper);
+Page day(QDate date, const PlannerDay &entries, const PageContext &context);
 
 /// The seven days from `start`. Landscape, they stand in two rows of blocks with a place for notes; upright,
 /// or when a day has more than its block holds, as rows across the sheet, with lines to write on, which go on
 /// on a second one when they must.
-Page week(QDate start, const Days &days, const Paper &paper);
+Page week(QDate start, const Days &days, const PageContext &context);
 
 /// The month of `date` as a calendar; a day with more entries than its place holds tells how many are
 /// missing.
-Page month(QDate date, const Days &days, const Paper &paper);
+Page month(QDate date, const Days &days, Qt::DayOfWeek firstDay, const PageContext &context);
 
 /// The dates from `from` to `to` that have entries, as a list.
-Page range(QDate from, QDate to, const Days &days, const Paper &paper);
+Page range(QDate from, QDate to, const Days &days, const PageContext &context);
+
+// The same of what the files hold: the week and the month that `date` is in.
+
+Page weekOf(const PlannerFiles &files, QDate date, const CalendarOptions &options,
+            const PageContext &context);
+Page monthOf(const PlannerFiles &files, QDate date, const CalendarOptions &options,
+             const PageContext &context);
+Page rangeOf(const PlannerFiles &files, QDate from, QDate to, const PageContext &context);
 
 } // namespace PlannerPages

@@ -42,8 +42,10 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
     rows->addWidget(makeLine(this));
     rows->addSpacing(4);
     rows->addWidget(makeFoot());
-    connect(m_title, &StepTitle::stepped, this, &DayEditor::stepped);
-    connect(m_title, &StepTitle::todayRequested, this, &DayEditor::todayRequested);
+    connect(m_title, &StepTitle::stepped, this,
+            [this](int days) { emit dateRequested(m_date.addDays(days)); });
+    connect(m_title, &StepTitle::todayRequested, this,
+            [this] { emit dateRequested(m_program.clock.today()); });
     connect(m_form, &DayForm::edited, this, &DayEditor::refreshModified);
     connect(m_form, &DayForm::rowEntered, this, &DayEditor::enterRow);
     connect(m_form, &DayForm::said, this, &DayEditor::said);
@@ -108,9 +110,11 @@ QWidget *DayEditor::makeFoot()
 void DayEditor::load(QDate date)
 {
     m_date = date;
-    m_loaded = m_files.read(date);
-    m_form->setDay(m_loaded);
-    m_shown = m_form->day();
+    const PlannerDay asFile = m_files.read(date);
+    m_form->setDay(asFile);
+    const PlannerDay asShown = m_form->day();
+    m_times.load(asFile.times, asShown.times);
+    m_texts.load(asFile.texts, asShown.texts);
     const DateStyle style = m_program.state.dateStyle;
     m_title->setTitle(Dates::longText(date, style), Dates::statusText(date, style));
     refreshModified();
@@ -120,18 +124,15 @@ void DayEditor::load(QDate date)
 PlannerDay DayEditor::typed() const
 {
     PlannerDay day = m_form->day();
-    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
-        if (day.times[row] == m_shown.times[row])
-            day.times[row] = m_loaded.times[row];
-        if (day.texts[row] == m_shown.texts[row])
-            day.texts[row] = m_loaded.texts[row];
-    }
+    day.times = m_times.typed(day.times);
+    day.texts = m_texts.typed(day.texts);
     return day;
 }
 
 bool DayEditor::isModified() const
 {
-    return m_form->day() != m_shown;
+    const PlannerDay day = m_form->day();
+    return m_times.isModified(day.times) || m_texts.isModified(day.texts);
 }
 
 Appointment DayEditor::currentAppointment() const
@@ -228,6 +229,19 @@ void DayEditor::paste()
     m_form->setDay(day);
     refreshModified();
     emit said(PlannerLines::pasted(pasted));
+}
+
+void DayEditor::askForDate()
+{
+    const DateStyle style = m_program.state.dateStyle;
+    const auto answer = m_program.dialogs.input(window(), u"Go to Date"_s, u"Which day do you want to see?"_s,
+                                                Dates::boxText(m_date, style));
+    if (!answer || answer->trimmed().isEmpty())
+        return;
+    if (const auto date = Dates::parse(*answer, style, m_program.clock.today()))
+        emit dateRequested(*date);
+    else
+        emit said(PlannerLines::noSuchDate(*answer));
 }
 
 void DayEditor::refreshModified()

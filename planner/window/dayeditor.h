@@ -2,6 +2,7 @@
 
 #include "planner/model/plannerfiles.h"
 #include "planner/model/recurrence.h"
+#include "shell/core/editedtexts.h"
 
 #include <QWidget>
 
@@ -42,19 +43,21 @@ public:
     /// Writes the rows, in time order, into the day that was loaded, and says so; false when the disk
     /// refuses.
     bool save();
-    /// Saves by the user's command, who is asked when there is nothing to save.
+    /// Saves on the user's command, after asking when there is nothing to save.
     void saveByCommand();
     void clear();
     void copy();
     /// Puts the rows of the copied day into the rows that are empty here.
     void paste();
+    /// Asks which day the user wants to see.
+    void askForDate();
     bool hasCopy() const { return m_copied.has_value(); }
 
 signals:
     void loaded(QDate date);
     void saved();
-    void stepped(int days);
-    void todayRequested();
+    /// Another day is wanted in the place of this one.
+    void dateRequested(QDate date);
     /// A quiet line for the status bar.
     void said(const QString &line);
 
@@ -71,8 +74,8 @@ private:
     Program &m_program;
     PlannerFiles &m_files;
     QDate m_date;
-    PlannerDay m_loaded; ///< as the file has it
-    PlannerDay m_shown;  ///< as the boxes took it
+    EditedTexts<PlannerDay::rowCount> m_times;
+    EditedTexts<PlannerDay::rowCount> m_texts;
     std::optional<PlannerDay> m_copied;
 
     StepTitle *m_title;

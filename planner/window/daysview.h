@@ -1,6 +1,7 @@
 #pragma once
 
 #include "planner/model/calendaroptions.h"
+#include "shell/core/pagecontext.h"
 
 #include <QDate>
 #include <QWidget>
@@ -19,11 +20,18 @@ public:
     virtual void show(QDate date, const CalendarOptions &options, QDate today) = 0;
     /// The day that has the focus.
     virtual QDate date() const = 0;
+    /// The day that is as many weeks or months on from `date`.
+    virtual QDate after(QDate date, int steps) const = 0;
+
+    /// The days around `date` on paper, as the files have them.
+    virtual Page page(QDate date, const CalendarOptions &options, const PageContext &context) const = 0;
+    virtual QString printName(QDate date) const = 0;
 
 signals:
     void dayOpened(QDate date);
-    /// Steps of a week or a month; 0 is that of today.
+    /// Steps of a week or a month.
     void stepped(int steps);
+    void todayRequested();
     void left();
 
 protected:

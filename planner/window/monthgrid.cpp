@@ -116,7 +116,7 @@ MonthGrid::MonthGrid(const PlannerFiles &files, DateStyle style, QWidget *parent
     connect(m_view, &QTableView::clicked, this, open);
     connect(foot, &ViewFoot::dayRequested, this, &MonthGrid::left);
     connect(m_title, &StepTitle::stepped, this, &MonthGrid::stepped);
-    connect(m_title, &StepTitle::todayRequested, this, [this] { emit stepped(0); });
+    connect(m_title, &StepTitle::todayRequested, this, &MonthGrid::todayRequested);
 }
 
 void MonthGrid::setUpView()
@@ -154,4 +154,19 @@ void MonthGrid::show(QDate date, const CalendarOptions &options, QDate today)
 QDate MonthGrid::date() const
 {
     return m_model->date(m_view->currentIndex());
+}
+
+QDate MonthGrid::after(QDate date, int steps) const
+{
+    return date.addMonths(steps);
+}
+
+Page MonthGrid::page(QDate date, const CalendarOptions &options, const PageContext &context) const
+{
+    return PlannerPages::monthOf(m_files, date, options, context);
+}
+
+QString MonthGrid::printName(QDate date) const
+{
+    return u"Planner "_s + date.toString(u"yyyy-MM"_s);
 }

@@ -19,6 +19,9 @@ public:
     /// Reads the month of `date` and puts the focus on that day.
     void show(QDate date, const CalendarOptions &options, QDate today) override;
     QDate date() const override;
+    QDate after(QDate date, int steps) const override;
+    Page page(QDate date, const CalendarOptions &options, const PageContext &context) const override;
+    QString printName(QDate date) const override;
 
 private:
     void setUpView();

@@ -1,272 +1,70 @@
-// The views of the planner's window beside the day itself, the walks over many days, and its printed pages.
+#include "planner/window/plannerviews.h"
 
-#include "planner/window/plannerwindow.h"
-
-#include "planner/model/lines.h"
-#include "planner/model/messages.h"
-#include "planner/model/plannersearch.h"
-#include "planner/model/todoimportrun.h"
-#include "planner/window/calendaroptionspanel.h"
-#include "planner/window/daterangedialog.h"
 #include "planner/window/dayeditor.h"
 #include "planner/window/monthgrid.h"
-#include "planner/window/plannersidepane.h"
-#include "planner/window/recurrencepanel.h"
-#include "planner/window/searchpanel.h"
 #include "planner/window/weekview.h"
-#include "shell/controls/activitybar.h"
-#include "shell/controls/busycursor.h"
-#include "shell/controls/datebox.h"
-#include "shell/controls/flowtoolbar.h"
-#include "shell/core/dates.h"
-#include "shell/core/framelines.h"
-#include "shell/core/slicedwork.h"
+#include "shell/core/clock.h"
+#include "shell/frame/workviews.h"
+#include "shell/program/program.h"
 
-#include <QAction>
-#include <QMenuBar>
-#include <QStackedWidget>
+#include <QVBoxLayout>
 
-using namespace Qt::Literals::StringLiterals;
-
-/// A page on the screen gives way: nothing goes on behind it.
-void Zcalandar1::showView(QWidget *view)
+PlannerViews::PlannerViews(const Program &program, const PlannerFiles &files, const CalendarOptions &options,
+                           DayEditor *day)
+    : m_clock(program.clock)
+    , m_options(options)
+    , m_day(day)
+    , m_week(new WeekView(files, program.state.dateStyle))
+    , m_month(new MonthGrid(files, program.state.dateStyle))
+    , m_stack(new WorkViews(this))
 {
-    closePreview();
-    m_views->setCurrentWidget(view);
-    // A month and the recurrence panel need the whole width, and have calendars of their own.
-    m_side->setVisible(view != m_month && view != m_recurrence);
-    refreshCommands();
-}
-
-void Zcalandar1::showDayView()
-{
-    const bool isNew = m_views->currentWidget() != m_day;
-    showView(m_day);
-    if (isNew)
-        m_day->focusFirstEmptyRow();
-}
-
-void Zcalandar1::showWeek()
-{
-    if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        openWeek(viewedDate());
-}
-
-void Zcalandar1::showMonth()
-{
-    if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        openMonth(viewedDate());
-}
-
-void Zcalandar1::openWeek(QDate date)
-{
-    m_week->show(date, m_options, clock().today());
-    showView(m_week);
-    m_week->setFocus();
-    activity().say({});
-}
-
-void Zcalandar1::openMonth(QDate date)
-{
-    m_month->show(date, m_options, clock().today());
-    showView(m_month);
-    m_month->setFocus();
-    activity().say({});
-}
-
-void Zcalandar1::showOptions()
-{
-    m_optionsPanel->setOptions(CalendarOptions::read(program().settings));
-    showView(m_optionsPanel);
-    m_optionsPanel->setFocus();
-    activity().say({});
-}
-
-void Zcalandar1::takeOptions()
-{
-    const CalendarOptions options = m_optionsPanel->options();
-    if (options.months != m_options.months)
-        forgetPlace(m_splitter);
-    setOptions(options);
-    showDayView();
-    if (!options.write(program().settings))
-        activity().say(FrameLines::settingNotSaved());
-}
-
-void Zcalandar1::focusSearch()
-{
-    closePreview();
-    if (!m_side->isVisible())
-        showDayView();
-    m_side->focusSearch();
-}
-
-void Zcalandar1::search(const QString &text)
-{
-    const BusyCursor busy;
-    PlannerSearch search(m_files, text);
-    while (search.step()) {}
-    if (search.hits().empty()) {
-        activity().say(PlannerLines::nothingFound(text));
-        return;
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_stack);
+    m_stack->addHome(m_day);
+    for (DaysView *view : {m_week, m_month}) {
+        m_stack->addView(view);
+        connect(view, &DaysView::dayOpened, this, &PlannerViews::dayOpened);
+        connect(view, &DaysView::stepped, this, &PlannerViews::step);
+        connect(view, &DaysView::todayRequested, this, [this, view] { openDays(view, m_clock.today()); });
+        connect(view, &DaysView::left, m_stack, &WorkViews::goHome);
     }
-    activity().say({});
-    m_searchPanel->show(text, search.hits(), clock().today());
-    showView(m_searchPanel);
-    m_searchPanel->setFocus();
 }
 
-void Zcalandar1::openHit(QDate date, int row)
+DaysView *PlannerViews::shownDays() const
 {
-    goTo(date);
-    if (m_day->date() == date)
-        m_day->focusRow(row);
+    return qobject_cast<DaysView *>(m_stack->currentWidget());
 }
 
-void Zcalandar1::showRecurrence()
+bool PlannerViews::areDatesShown() const
 {
-    const Appointment appointment = m_day->currentAppointment();
-    if (appointment.isEmpty()) {
-        activity().say(PlannerLines::rowIsEmpty());
-        return;
-    }
-    if (!mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        return;
-    activity().say({});
-    showView(m_recurrence);
-    m_recurrence->open(appointment, m_day->date(), m_day->placement(), m_options);
+    return m_stack->isHome() || shownDays();
 }
 
-void Zcalandar1::importToDoItems()
+QDate PlannerViews::date() const
 {
-    if (ask(PlannerMessages::importToDoItems()) != Answer::Yes ||
-        !mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        return;
-    auto items = ToDoImport::items(program().folder, program().state.dateStyle, clock().today());
-    if (items.empty()) {
-        ask(PlannerMessages::nothingToImport());
-        return;
-    }
-    m_import = std::make_unique<ToDoImportRun>(m_files, m_day->placement(), std::move(items), m_day->date());
-    showDayView();
-    setWorking(true);
-    activity().say(PlannerLines::updating());
-    m_importWork->start([this] { return m_import->step(); });
+    const DaysView *view = shownDays();
+    return view && view->date().isValid() ? view->date() : m_day->date();
 }
 
-void Zcalandar1::finishImport(bool wasStopped)
+void PlannerViews::openDays(DaysView *view, QDate date)
 {
-    setWorking(false);
-    activity().showProgress(0, 0);
-    filesChanged();
-    m_day->focusCurrentRow();
-    activity().say(m_import->report(wasStopped, program().state.dateStyle));
-    m_import.reset();
+    view->show(date, m_options, m_clock.today());
+    m_stack->open(view);
+    view->setFocus();
+    emit said({});
 }
 
-/// While files are updated, only what stops it can be used.
-void Zcalandar1::setWorking(bool isWorking)
+void PlannerViews::step(int steps)
 {
-    setBusy(isWorking);
-    toolbar().setEnabled(!isWorking);
-    menuBar()->setEnabled(!isWorking);
-    m_side->setEnabled(!isWorking);
-    m_day->setEnabled(!isWorking);
-}
-
-void Zcalandar1::filesChanged()
-{
-    m_side->refreshMarks();
-    m_day->reload();
-}
-
-QDate Zcalandar1::viewedDate() const
-{
-    const QWidget *view = m_views->currentWidget();
-    const QDate date = view == m_week ? m_week->date() : view == m_month ? m_month->date() : QDate();
-    return date.isValid() ? date : m_day->date();
-}
-
-PlannerPages::Paper Zcalandar1::paper(const PageSetup &setup) const
-{
-    return {setup, program().state.dateStyle, m_options.firstDay(), clock().today(),
-            program().state.familyName.text()};
-}
-
-Page Zcalandar1::dayPage(const PageSetup &setup) const
-{
-    const QDate date = viewedDate();
-    return PlannerPages::day(date, date == m_day->date() ? m_day->typed() : m_files.peek(date), paper(setup));
-}
-
-Page Zcalandar1::weekPage(const PageSetup &setup) const
-{
-    const QDate start = PlannerPages::weekStart(viewedDate(), m_options.firstDay());
-    return PlannerPages::week(start, m_files.days(start, start.addDays(6)), paper(setup));
-}
-
-Page Zcalandar1::monthPage(const PageSetup &setup) const
-{
-    const QDate date = viewedDate();
-    const QDate first(date.year(), date.month(), 1);
-    return PlannerPages::month(date, m_files.days(first, first.addMonths(1).addDays(-1)), paper(setup));
-}
-
-Page Zcalandar1::page(const PageSetup &setup) const
-{
-    const QWidget *view = m_views->currentWidget();
-    return view == m_week ? weekPage(setup) : view == m_month ? monthPage(setup) : dayPage(setup);
-}
-
-void Zcalandar1::preview(PageOf pageOf, const QString &jobName)
-{
-    showPreview([this, pageOf](const PageSetup &setup) { return (this->*pageOf)(setup); }, jobName);
-    refreshCommands();
-}
-
-void Zcalandar1::printShown()
-{
-    const QWidget *view = m_views->currentWidget();
-    if (view == m_week)
-        printWeek();
-    else if (view == m_month)
-        printMonth();
+    if (DaysView *view = shownDays())
+        openDays(view, view->after(date(), steps));
     else
-        printDay();
+        emit dayOpened(m_day->date().addDays(steps));
 }
 
-void Zcalandar1::printDay()
+void PlannerViews::showToday()
 {
-    preview(&Zcalandar1::dayPage, u"Planner "_s + viewedDate().toString(Qt::ISODate));
-}
-
-void Zcalandar1::printWeek()
-{
-    // The page shows what the files hold.
-    if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        preview(&Zcalandar1::weekPage, u"Planner week "_s + viewedDate().toString(Qt::ISODate));
-}
-
-void Zcalandar1::printMonth()
-{
-    if (mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        preview(&Zcalandar1::monthPage, u"Planner "_s + viewedDate().toString(u"yyyy-MM"_s));
-}
-
-void Zcalandar1::printRange()
-{
-    if (!mayReplaceDay(PlannerMessages::saveBeforeNextAction()))
-        return;
-    const QDate first = viewedDate();
-    DateRangeDialog dialog(first, first.addMonths(1).addDays(-1), {program().state.dateStyle, clock()}, this);
-    if (program().dialogs.run(dialog) != QDialog::Accepted)
-        return;
-    const QDate from = dialog.from();
-    const QDate to = dialog.to();
-    showPreview(
-        [this, from, to](const PageSetup &setup) {
-            return PlannerPages::range(from, to, m_files.days(from, to), paper(setup));
-        },
-        u"Planner dates"_s);
-    refreshCommands();
+    if (DaysView *view = shownDays())
+        view->show(view->date(), m_options, m_clock.today());
 }

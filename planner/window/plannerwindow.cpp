@@ -2,25 +2,24 @@
 
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
-#include "planner/model/todoimportrun.h"
+#include "planner/model/plannerpages.h"
 #include "planner/window/calendaroptionspanel.h"
-#include "planner/window/dayeditor.h"
-#include "planner/window/monthgrid.h"
+#include "planner/window/daterangedialog.h"
+#include "planner/window/daysview.h"
 #include "planner/window/plannersidepane.h"
+#include "planner/window/plannerviews.h"
 #include "planner/window/recurrencepanel.h"
 #include "planner/window/searchpanel.h"
-#include "planner/window/weekview.h"
+#include "planner/window/todoimporter.h"
 #include "shell/controls/activitybar.h"
-#include "shell/controls/controls.h"
+#include "shell/controls/datebox.h"
 #include "shell/core/dates.h"
+#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
-#include "shell/core/settingskeys.h"
-#include "shell/core/slicedwork.h"
+#include "shell/frame/sidesplitter.h"
+#include "shell/frame/workviews.h"
 
-#include <QAction>
-#include <QKeyEvent>
-#include <QSplitter>
-#include <QStackedWidget>
+#include <QMenu>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -32,14 +31,11 @@ constexpr int wideFrom = 1200;
 
 WindowTraits traits()
 {
-    WindowTraits traits;
-    traits.name = u"Zcalandar1"_s;
-    traits.caption = u"Personal Planner"_s;
-    traits.activity = u"Personal Planner"_s;
-    traits.colors = {SettingsKeys::plannerColor, SettingsKeys::plannerProgramColor, {}};
-    traits.helpContext = HelpContext::Planner;
-    traits.topToolbar = SettingsKeys::topToolbar;
-    return traits;
+    return {.name = u"Zcalandar1"_s,
+            .caption = u"Personal Planner"_s,
+            .activity = u"Personal Planner"_s,
+            .colors = {SettingsKeys::plannerColor, SettingsKeys::plannerProgramColor, {}},
+            .helpContext = HelpContext::Planner};
 }
 
 } // namespace
@@ -47,229 +43,354 @@ WindowTraits traits()
 Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
     : FunctionWindow(program, traits(), parent)
     , m_files(program.folder)
-    , m_importWork(new SlicedWork(this))
-    , m_side(new PlannerSidePane(program, colors(), m_files, this))
+    , m_options(CalendarOptions::read(program.settings))
+    , m_import(new ToDoImporter(program, m_files, activity(), this))
+    , m_side(new PlannerSidePane(program, colors(), m_files))
+    , m_day(new DayEditor(program, m_files))
+    , m_views(new PlannerViews(program, m_files, m_options, m_day))
+    , m_hits(new SearchPanel(m_files, program.state.dateStyle))
+    , m_recurrence(new RecurrencePanel(program))
+    , m_optionsPanel(new CalendarOptionsPanel)
+    , m_splitter(new SideSplitter(u"leftPaneSplitter"_s, m_side, makeWorkPanel(),
+                                  [this](QSize window) { return m_side->fitWindow(window); }))
 {
-    m_splitter = named(new QSplitter(Qt::Horizontal), u"leftPaneSplitter"_s);
-    m_splitter->addWidget(m_side);
-    m_splitter->addWidget(makeWorkPanel());
-    m_splitter->setStretchFactor(1, 1);
     setWork(m_splitter);
-    makeMenus();
-    makeToolbar();
-    connectParts();
+    setViews(&m_views->stack());
+    makeCommands();
+    connectDay();
     connectViews();
     connectWalks();
-    rememberSplitter(m_splitter);
+    m_side->setOptions(m_options);
     finishFrame();
     m_day->load(clock().today());
-    setOptions(CalendarOptions::read(program.settings));
-    refreshCommands();
+    commands().refresh();
     m_day->focusFirstEmptyRow();
 }
-
-Zcalandar1::~Zcalandar1() = default;
 
 QWidget *Zcalandar1::makeWorkPanel()
 {
     QWidget *panel = makePanel(u"dayPanel"_s);
     auto *layout = new QVBoxLayout(panel);
     layout->setContentsMargins(1, 1, 1, 1);
-    m_views = new QStackedWidget(panel);
     layout->addWidget(m_views);
-    const DateStyle style = program().state.dateStyle;
-    m_day = new DayEditor(program(), m_files);
-    m_week = new WeekView(m_files, style);
-    m_month = new MonthGrid(m_files, style);
-    m_searchPanel = new SearchPanel(style);
-    m_recurrence = new RecurrencePanel(program());
-    m_optionsPanel = new CalendarOptionsPanel;
-    for (QWidget *view : std::initializer_list<QWidget *>{m_day, m_week, m_month, m_searchPanel, m_recurrence,
-                                                          m_optionsPanel})
-        m_views->addWidget(view);
+    for (TaskPanel *task : std::initializer_list<TaskPanel *>{m_hits, m_recurrence, m_optionsPanel})
+        m_views->stack().addPanel(task);
     return panel;
 }
 
-void Zcalandar1::connectParts()
+/// The tools stand in the order in which their commands are made: the View menu's first.
+void Zcalandar1::makeCommands()
+{
+    QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
+    QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
+    addViewCommands(addMenu(u"mV"_s, u"&View"_s));
+    addEditCommands(edit);
+    addOptionCommands(options);
+    QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
+    commands().add(utilities, u"mUImport"_s, u"&Import To Do List Items"_s, [this] { importToDoItems(); });
+    utilities->addSeparator();
+    utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
+    addHelpEntry();
+    addStandardTool(Standard::PanelColor);
+    addStandardTool(Standard::Backup);
+    addStandardTool(Standard::Help, u"mH_tool"_s);
+}
+
+void Zcalandar1::addViewCommands(QMenu *menu)
+{
+    const auto look = [this](DaysView *view) {
+        if (!mayReplaceDay())
+            return;
+        closePreview();
+        m_views->openDays(view, m_views->date());
+    };
+    const auto whyNot = [this] { return whyNoStep(); };
+    Commands &all = commands();
+    all.add(menu, u"mVDay"_s, u"&Day View"_s, [this] { showDay(); })->setShortcut(Qt::CTRL | Qt::Key_1);
+    QAction *week = all.add(
+        menu, u"mVWeek"_s, u"&Week View"_s, [=, this] { look(m_views->week()); }, {}, Qt::CTRL | Qt::Key_2);
+    QAction *month = all.add(
+        menu, u"mVMonth"_s, u"&Month View"_s, [=, this] { look(m_views->month()); }, {},
+        Qt::CTRL | Qt::Key_3);
+    menu->addSeparator();
+    all.add(
+           menu, u"mVBack"_s, u"&Previous"_s, [this] { m_views->step(-1); }, whyNot)
+        ->setShortcuts({Qt::Key_PageUp, Qt::CTRL | Qt::Key_Left});
+    all.add(
+           menu, u"mVNext"_s, u"&Next"_s, [this] { m_views->step(1); }, whyNot)
+        ->setShortcuts({Qt::Key_PageDown, Qt::CTRL | Qt::Key_Right});
+    all.add(menu, u"mVToday"_s, u"&Today"_s, [this] { goTo(clock().today()); })
+        ->setShortcut(Qt::CTRL | Qt::Key_T);
+    all.add(menu, u"mVGo"_s, u"&Go to Date"_s, [this] { m_day->askForDate(); })
+        ->setShortcut(Qt::CTRL | Qt::Key_G);
+    all.tool(month, "month-view"_L1, u"Month"_s);
+    m_wideTools << all.tool(week, "week-view"_L1, u"Week"_s, u"mVWeek_tool"_s);
+}
+
+void Zcalandar1::addEditCommands(QMenu *menu)
+{
+    const auto dayOnly = [this] { return whyNoDay(); };
+    const auto copy = [this] {
+        m_day->copy();
+        commands().refresh();
+    };
+    const auto whyNoPaste = [this] {
+        return whyNoDay().isEmpty() && !m_day->hasCopy() ? PlannerLines::copyFirst() : whyNoDay();
+    };
+    Commands &all = commands();
+    m_copy = all.add(menu, u"mECopy"_s, u"&Copy Day"_s, copy, dayOnly);
+    QAction *paste = all.add(
+        menu, u"mEPaste"_s, u"&Paste Day"_s, [this] { m_day->paste(); }, whyNoPaste);
+    menu->addSeparator();
+    QAction *repeat = all.add(
+        menu, u"mERec"_s, u"&Recurrence Option"_s, [this] { showRecurrence(); }, dayOnly,
+        Qt::CTRL | Qt::Key_R);
+    menu->addSeparator();
+    all.add(menu, u"mEFind"_s, u"&Search All Years"_s, [this] { startSearch(); })
+        ->setShortcut(QKeySequence::Find);
+    all.tool(repeat, "repeat"_L1, u"Repeat"_s);
+    all.separateTools();
+    all.tool(m_copy, "copy"_L1, u"Copy Day"_s);
+    m_wideTools << all.tool(paste, "edit"_L1, u"Paste Day"_s, u"mEPaste_tool"_s);
+}
+
+void Zcalandar1::addOptionCommands(QMenu *menu)
+{
+    const auto dayOnly = [this] { return whyNoDay(); };
+    const auto whyNoPrint = [this] {
+        return m_views->areDatesShown() || isPreviewShown() ? QString() : PlannerLines::inCalendarViewsOnly();
+    };
+    Commands &all = commands();
+    menu->addAction(standard(Standard::PanelColor));
+    all.add(menu, u"mOCal"_s, u"&Calendar Options"_s, [this] {
+        m_optionsPanel->setOptions(CalendarOptions::read(program().settings));
+        showView(m_optionsPanel);
+    });
+    menu->addSeparator();
+    all.add(
+        menu, u"mOSave"_s, u"&Save Day"_s, [this] { m_day->saveByCommand(); }, dayOnly, QKeySequence::Save);
+    all.add(
+        menu, u"mOClr"_s, u"C&lear Day"_s, [this] { m_day->clear(); }, dayOnly);
+    menu->addSeparator();
+    QAction *print = all.add(
+        menu, u"mOPrt"_s, u"&Print"_s,
+        [this] {
+            if (const DaysView *view = m_views->shownDays())
+                printDays(view);
+            else
+                printDay();
+        },
+        whyNoPrint, QKeySequence::Print);
+    all.add(menu, u"mOPDay"_s, u"Print &Day"_s, [this] { printDay(); });
+    all.add(menu, u"mOPWeek"_s, u"Print &Week"_s, [this] { printDays(m_views->week()); });
+    all.add(menu, u"mOPMonth"_s, u"Print &Month"_s, [this] { printDays(m_views->month()); });
+    all.add(menu, u"mOPRange"_s, u"Print D&ates"_s, [this] { printRange(); });
+    menu->addSeparator();
+    menu->addAction(standard(Standard::Exit));
+    all.tool(print, "print"_L1, u"Print"_s);
+    all.separateTools();
+}
+
+/// In a narrow window the toolbar keeps to one row, so that the fourteen rows of the day have their place;
+/// the menus have what it leaves out.
+void Zcalandar1::resizeEvent(QResizeEvent *event)
+{
+    FunctionWindow::resizeEvent(event);
+    const bool isWide = width() >= wideFrom;
+    for (QAction *tool : m_wideTools)
+        tool->setVisible(isWide);
+    m_copy->setIconText(isWide ? u"Copy Day"_s : u"Copy"_s);
+}
+
+void Zcalandar1::connectDay()
 {
     connect(m_side, &PlannerSidePane::searchRequested, this, &Zcalandar1::search);
     connect(m_side, &PlannerSidePane::dateChosen, this, &Zcalandar1::goTo);
     connect(m_side, &PlannerSidePane::dayEntered, this, [this] {
-        showDayView();
+        showDay();
         m_day->focusFirstEmptyRow();
-    });
-    connect(&activity(), &ActivityBar::dayBegan, this, [this] {
-        m_side->showToday();
-        for (DaysView *view : std::initializer_list<DaysView *>{m_week, m_month})
-            if (view->isVisible())
-                view->show(view->date(), m_options, clock().today());
     });
     connect(m_day, &DayEditor::loaded, m_side, &PlannerSidePane::setDate);
     connect(m_day, &DayEditor::saved, m_side, &PlannerSidePane::refreshMarks);
-    connect(m_day, &DayEditor::stepped, this, &Zcalandar1::stepDay);
-    connect(m_day, &DayEditor::todayRequested, this, &Zcalandar1::goToToday);
+    connect(m_day, &DayEditor::dateRequested, this, &Zcalandar1::goTo);
     connect(m_day, &DayEditor::said, &activity(), &ActivityBar::say);
 }
 
 void Zcalandar1::connectViews()
 {
-    const auto today = [this] { return clock().today(); };
-    connect(m_week, &WeekView::dayOpened, this, &Zcalandar1::goTo);
-    connect(m_week, &WeekView::left, this, &Zcalandar1::showDayView);
-    connect(m_week, &WeekView::stepped, this,
-            [this, today](int weeks) { openWeek(weeks == 0 ? today() : m_week->date().addDays(7 * weeks)); });
-    connect(m_month, &MonthGrid::dayOpened, this, &Zcalandar1::goTo);
-    connect(m_month, &MonthGrid::left, this, &Zcalandar1::showDayView);
-    connect(m_month, &MonthGrid::stepped, this, [this, today](int months) {
-        openMonth(months == 0 ? today() : m_month->date().addMonths(months));
-    });
-    connect(m_searchPanel, &SearchPanel::hitOpened, this, &Zcalandar1::openHit);
-    connect(m_searchPanel, &SearchPanel::left, this, &Zcalandar1::showDayView);
+    connect(m_views, &PlannerViews::dayOpened, this, &Zcalandar1::goTo);
+    connect(m_views, &PlannerViews::said, &activity(), &ActivityBar::say);
+    connect(m_hits, &SearchPanel::hitOpened, this, &Zcalandar1::openHit);
     connect(m_optionsPanel, &CalendarOptionsPanel::accepted, this, &Zcalandar1::takeOptions);
-    connect(m_optionsPanel, &CalendarOptionsPanel::left, this, &Zcalandar1::showDayView);
+    // A month and the recurrence panel need the whole width, and have calendars of their own.
+    connect(&m_views->stack(), &WorkViews::changed, this,
+            [this](QWidget *view) { m_side->setVisible(view != m_views->month() && view != m_recurrence); });
+    connect(&activity(), &ActivityBar::dayBegan, m_side, &PlannerSidePane::showToday);
+    connect(&activity(), &ActivityBar::dayBegan, m_views, &PlannerViews::showToday);
 }
 
 void Zcalandar1::connectWalks()
 {
-    connect(m_recurrence, &RecurrencePanel::busyChanged, this, &Zcalandar1::setWorking);
-    connect(m_recurrence, &RecurrencePanel::filesChanged, this, &Zcalandar1::filesChanged);
-    connect(m_recurrence, &RecurrencePanel::left, this, &Zcalandar1::showDayView);
+    connect(m_recurrence, &RecurrencePanel::busyChanged, this, &Zcalandar1::setUpdating);
+    connect(m_recurrence, &RecurrencePanel::filesChanged, this, &Zcalandar1::refreshFromFiles);
     connect(m_recurrence, &RecurrencePanel::said, &activity(), &ActivityBar::say);
-    connect(m_importWork, &SlicedWork::progressed, this,
-            [this] { activity().showProgress(m_import->done(), m_import->count(), true); });
-    connect(m_importWork, &SlicedWork::finished, this, &Zcalandar1::finishImport);
-    connect(&activity(), &ActivityBar::stopRequested, m_importWork, &SlicedWork::stop);
+    connect(m_import, &ToDoImporter::busyChanged, this, &Zcalandar1::setUpdating);
+    connect(m_import, &ToDoImporter::filesChanged, this, &Zcalandar1::refreshFromFiles);
+    connect(m_import, &ToDoImporter::filesChanged, m_day, &DayEditor::focusCurrentRow);
 }
 
-void Zcalandar1::setOptions(const CalendarOptions &options)
+Message Zcalandar1::leaveQuestion() const
 {
-    m_options = options;
-    m_side->setOptions(options);
-    placeSplitter();
+    return PlannerMessages::saveBeforeExiting();
 }
 
-/// Until the user moves it, the left pane is as wide as suits the window and the months in it.
-void Zcalandar1::placeSplitter()
+bool Zcalandar1::mayReplaceDay()
 {
-    fitToolbar(width() >= wideFrom);
-    const int left = m_side->fitWindow(size());
-    if (!isPlaced(m_splitter))
-        m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
+    return mayReplace(PlannerMessages::saveBeforeNextAction());
 }
 
-bool Zcalandar1::isModified() const
+QString Zcalandar1::whyNoDay() const
 {
-    return m_day->isModified();
+    return m_views->stack().isHome() && !isPreviewShown() ? QString() : PlannerLines::inDayViewOnly();
 }
 
-bool Zcalandar1::mayReplaceDay(const Message &question)
+/// In other views the page keys turn pages and scroll lists.
+QString Zcalandar1::whyNoStep() const
 {
-    if (!isModified())
-        return true;
-    if (ask(question) == Answer::Yes)
-        return m_day->save();
-    m_day->reload();
-    return true;
-}
-
-bool Zcalandar1::mayDiscard()
-{
-    return mayReplaceDay(PlannerMessages::saveBeforeExiting());
+    return m_views->areDatesShown() && !isPreviewShown() ? QString() : PlannerLines::inCalendarViewsOnly();
 }
 
 void Zcalandar1::goTo(QDate date)
 {
     // Nothing is replaced by the day that is there.
-    if (date.isValid() && date == m_day->date() && isModified()) {
-        m_side->setDate(date);
-        showDayView();
-        return;
-    }
-    if (!date.isValid() || !mayReplaceDay(PlannerMessages::saveBeforeNextAction())) {
+    const bool isThere = date == m_day->date() && isModified();
+    if (!date.isValid() || (!isThere && !mayReplaceDay())) {
         m_side->setDate(m_day->date());
         return;
     }
+    if (isThere) {
+        m_side->setDate(date);
+    } else {
+        activity().say({});
+        m_day->load(date);
+    }
+    const bool wasElsewhere = !m_views->stack().isHome();
+    showDay();
+    if (wasElsewhere)
+        m_day->focusFirstEmptyRow();
+}
+
+/// A page on the screen gives way: nothing goes on behind it.
+void Zcalandar1::showView(QWidget *view)
+{
+    closePreview();
+    m_views->stack().open(view);
+    view->setFocus();
     activity().say({});
-    m_day->load(date);
-    showDayView();
 }
 
-void Zcalandar1::stepDay(int days)
+void Zcalandar1::showDay()
 {
-    const QDate date = viewedDate();
-    if (m_views->currentWidget() == m_day)
-        goTo(date.addDays(days));
-    else if (m_views->currentWidget() == m_week)
-        openWeek(date.addDays(7 * days));
-    else
-        openMonth(date.addMonths(days));
+    closePreview();
+    m_views->stack().goHome();
 }
 
-void Zcalandar1::goToToday()
+void Zcalandar1::takeOptions()
 {
-    goTo(clock().today());
+    const bool hasOtherMonths = m_optionsPanel->options().months != m_options.months;
+    m_options = m_optionsPanel->options();
+    m_side->setOptions(m_options);
+    if (hasOtherMonths)
+        m_splitter->forgetPlace();
+    showDay();
+    if (!m_options.write(program().settings))
+        activity().say(FrameLines::settingNotSaved());
 }
 
-void Zcalandar1::askForDate()
+void Zcalandar1::startSearch()
 {
-    const DateStyle style = program().state.dateStyle;
-    const auto answer = program().dialogs.input(this, u"Go to Date"_s, u"Which day do you want to see?"_s,
-                                                Dates::boxText(m_day->date(), style));
-    if (!answer || answer->trimmed().isEmpty())
+    closePreview();
+    if (!m_side->isVisible())
+        showDay();
+    m_side->focusSearch();
+}
+
+void Zcalandar1::search(const QString &text)
+{
+    if (!m_hits->search(text, clock().today())) {
+        activity().say(PlannerLines::nothingFound(text));
         return;
-    if (const auto date = Dates::parse(*answer, style, clock().today()))
-        goTo(*date);
-    else
-        activity().say(PlannerLines::noSuchDate(*answer));
+    }
+    showView(m_hits);
 }
 
-void Zcalandar1::saveDay()
+void Zcalandar1::openHit(QDate date, int row)
 {
-    m_day->saveByCommand();
+    goTo(date);
+    if (m_day->date() == date)
+        m_day->focusRow(row);
 }
 
-void Zcalandar1::clearDay()
+void Zcalandar1::showRecurrence()
 {
-    m_day->clear();
+    const Appointment appointment = m_day->currentAppointment();
+    if (appointment.isEmpty()) {
+        activity().say(PlannerLines::rowIsEmpty());
+        return;
+    }
+    if (!mayReplaceDay())
+        return;
+    showView(m_recurrence);
+    m_recurrence->open(appointment, m_day->date(), m_day->placement(), m_options);
 }
 
-void Zcalandar1::copyDay()
+void Zcalandar1::importToDoItems()
 {
-    m_day->copy();
-    refreshCommands();
+    if (ask(PlannerMessages::importToDoItems()) == Answer::Yes && mayReplaceDay() &&
+        m_import->start(m_day->placement(), m_day->date()))
+        showDay();
 }
 
-void Zcalandar1::pasteDay()
+void Zcalandar1::setUpdating(bool isUpdating)
 {
-    m_day->paste();
+    setBusy(isUpdating);
+    m_day->setEnabled(!isUpdating);
 }
 
-void Zcalandar1::choosePanelColor()
+void Zcalandar1::refreshFromFiles()
 {
-    colors().choosePanelColor();
+    m_side->refreshMarks();
+    m_day->reload();
 }
 
-void Zcalandar1::openBackup()
+void Zcalandar1::printDay()
 {
-    program().functions.open(Function::Backup, program());
+    const QDate date = m_views->date();
+    const PlannerDay day = date == m_day->date() ? m_day->typed() : m_files.peek(date);
+    showPreview([=](const PageContext &context) { return PlannerPages::day(date, day, context); },
+                u"Planner "_s + date.toString(Qt::ISODate));
 }
 
-void Zcalandar1::showHelp()
+void Zcalandar1::printDays(const DaysView *view)
 {
-    emit program().changes.helpRequested(HelpContext::Planner);
+    // The page shows what the files hold.
+    if (!mayReplaceDay())
+        return;
+    const QDate date = m_views->date();
+    showPreview([=, this](const PageContext &context) { return view->page(date, m_options, context); },
+                view->printName(date));
 }
 
-void Zcalandar1::keyPressEvent(QKeyEvent *event)
+void Zcalandar1::printRange()
 {
-    const bool isOverDay = m_views->currentWidget() != m_day;
-    if (event->key() != Qt::Key_Escape || isPreviewShown() || !isOverDay)
-        FunctionWindow::keyPressEvent(event);
-    else if (!m_recurrence->isRunning())
-        showDayView();
-}
-
-void Zcalandar1::resizeEvent(QResizeEvent *event)
-{
-    FunctionWindow::resizeEvent(event);
-    placeSplitter();
+    if (!mayReplaceDay())
+        return;
+    const QDate first = m_views->date();
+    DateRangeDialog dialog(first, first.addMonths(1).addDays(-1), {program().state.dateStyle, clock()}, this);
+    if (program().dialogs.run(dialog) != QDialog::Accepted)
+        return;
+    const auto page = [this, from = dialog.from(), to = dialog.to()](const PageContext &context) {
+        return PlannerPages::rangeOf(m_files, from, to, context);
+    };
+    showPreview(page, u"Planner dates"_s);
 }

@@ -1,8 +1,7 @@
 #include "planner/window/searchpanel.h"
 
 #include "planner/model/lines.h"
-#include "planner/window/viewfoot.h"
-#include "shell/controls/controls.h"
+#include "shell/controls/busycursor.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/rowsmodel.h"
 #include "shell/core/dates.h"
@@ -33,14 +32,13 @@ std::vector<TableColumn<PlannerHit>> hitColumns(DateStyle style)
 
 } // namespace
 
-SearchPanel::SearchPanel(DateStyle style, QWidget *parent)
-    : QWidget(parent)
+SearchPanel::SearchPanel(const PlannerFiles &files, DateStyle style, QWidget *parent)
+    : TaskPanel(u"searchPanel"_s, {}, parent)
+    , m_files(files)
     , m_model(new RowsModel<PlannerHit>(hitColumns(style), this))
-    , m_title(named(new ElidedLabel(this), u"searchTitle"_s))
     , m_count(makeQuietLabel({}, this))
     , m_view(named(new QTableView(this), u"searchHits"_s))
 {
-    m_title->setFont(TypeScale::windowTitle());
     m_count->setObjectName(u"searchCount"_s);
     m_view->setModel(m_model);
     setGridRows(m_view);
@@ -50,28 +48,35 @@ SearchPanel::SearchPanel(DateStyle style, QWidget *parent)
     m_view->setColumnWidth(Time, 104);
     m_view->installEventFilter(this);
     setFocusProxy(m_view);
-    auto *foot = new ViewFoot(u"search"_s, u"Click an appointment, or press Enter, to open its day"_s, this);
-    auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(24, 16, 24, 18);
+    auto *work = new QWidget(this);
+    auto *rows = new QVBoxLayout(work);
+    rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(12);
-    rows->addWidget(m_title);
     rows->addWidget(m_count);
     rows->addWidget(new WholeRows(m_view), 1);
-    rows->addWidget(foot);
+    setWork(work);
+    setWords(u"Click an appointment, or press Enter, to open its day"_s);
+    setLeaveButton(u"search_dayView"_s, u"&Day View"_s, ButtonKind::Main);
     connect(m_view, &QTableView::clicked, this, [this](const QModelIndex &index) { open(index.row()); });
-    connect(foot, &ViewFoot::dayRequested, this, &SearchPanel::left);
 }
 
-void SearchPanel::show(const QString &text, std::vector<PlannerHit> hits, QDate today)
+bool SearchPanel::search(const QString &text, QDate today)
 {
+    const BusyCursor busy;
+    PlannerSearch search(m_files, text);
+    while (search.step()) {}
+    std::vector<PlannerHit> hits = search.hits();
+    if (hits.empty())
+        return false;
     const auto nearest =
         std::find_if(hits.begin(), hits.end(), [today](const PlannerHit &hit) { return hit.date >= today; });
     const int row = nearest == hits.end() ? int(hits.size()) - 1 : int(nearest - hits.begin());
-    m_title->setText(u"Appointments with \u201c"_s + text + u'\u201d');
+    setTitle(u"Appointments with \u201c"_s + text + u'\u201d');
     m_count->setText(PlannerLines::found(hits.size(), hits.size() >= PlannerSearch::mostHits));
     m_model->setRows(std::move(hits));
     m_view->selectRow(row);
     m_view->scrollTo(m_model->index(row, 0), QAbstractItemView::PositionAtCenter);
+    return true;
 }
 
 void SearchPanel::open(int row)
@@ -89,5 +94,5 @@ bool SearchPanel::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     }
-    return QWidget::eventFilter(watched, event);
+    return TaskPanel::eventFilter(watched, event);
 }

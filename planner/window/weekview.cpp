@@ -163,7 +163,7 @@ WeekView::WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent)
             [this](const QModelIndex &index) { emit dayOpened(m_model->date(index)); });
     connect(foot, &ViewFoot::dayRequested, this, &WeekView::left);
     connect(m_title, &StepTitle::stepped, this, &WeekView::stepped);
-    connect(m_title, &StepTitle::todayRequested, this, [this] { emit stepped(0); });
+    connect(m_title, &StepTitle::todayRequested, this, &WeekView::todayRequested);
 }
 
 void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
@@ -178,4 +178,19 @@ void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
 QDate WeekView::date() const
 {
     return m_model->date(m_view->currentIndex());
+}
+
+QDate WeekView::after(QDate date, int steps) const
+{
+    return date.addDays(daysPerWeek * steps);
+}
+
+Page WeekView::page(QDate date, const CalendarOptions &options, const PageContext &context) const
+{
+    return PlannerPages::weekOf(m_files, date, options, context);
+}
+
+QString WeekView::printName(QDate date) const
+{
+    return u"Planner week "_s + date.toString(Qt::ISODate);
 }

@@ -7,13 +7,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-PlannerPages::Paper paperOf(PageSetup::Orientation orientation, DateStyle style = DateStyle::Usa)
+PageContext contextOf(PageSetup::Orientation orientation, DateStyle style = DateStyle::Usa)
 {
-    PlannerPages::Paper paper;
-    paper.setup.orientation = orientation;
-    paper.dateStyle = style;
-    paper.printedOn = QDate(2026, 11, 21);
-    return paper;
+    PageContext context;
+    context.setup.orientation = orientation;
+    context.style = style;
+    context.today = QDate(2026, 11, 21);
+    return context;
 }
 
 PlannerDay numberedEntries(int count)
@@ -103,13 +103,13 @@ void TestPlannerPages::sharesTheLinesOfAPlace()
 void TestPlannerPages::listsADay()
 {
     const QDate date(2026, 11, 21);
-    const Page page = PlannerPages::day(date, numberedEntries(2), paperOf(PageSetup::Portrait));
+    const Page page = PlannerPages::day(date, numberedEntries(2), contextOf(PageSetup::Portrait));
     QCOMPARE(linesOf(page),
              (QStringList{u"Saturday, November 21, 2026\tPersonal Planner"_s,
                           u"Time\tAppointment or activity"_s, u"1:30 PM\tentry 1"_s, u"2:30 PM\tentry 2"_s}));
-    PlannerPages::Paper paper = paperOf(PageSetup::Portrait, DateStyle::Other);
-    paper.household = u"Holm"_s;
-    QCOMPARE(linesOf(PlannerPages::day(date, {}, paper)).first(),
+    PageContext context = contextOf(PageSetup::Portrait, DateStyle::Other);
+    context.family = u"Holm"_s;
+    QCOMPARE(linesOf(PlannerPages::day(date, {}, context)).first(),
              u"Saturday, 21 November 2026\tHolm Personal Planner"_s);
 }
 
@@ -119,7 +119,7 @@ void TestPlannerPages::listsAnUprightWeek()
                                   {QDate(2026, 11, 22), numberedEntries(1)}};
     const QDate start = PlannerPages::weekStart(QDate(2026, 11, 21), Qt::Monday);
     QCOMPARE(start, QDate(2026, 11, 16));
-    QCOMPARE(linesOf(PlannerPages::week(start, days, paperOf(PageSetup::Portrait))),
+    QCOMPARE(linesOf(PlannerPages::week(start, days, contextOf(PageSetup::Portrait))),
              (QStringList{u"Week of November 16 to 22, 2026\tPersonal Planner"_s, u"Monday, Nov 16\t\t"_s,
                           u"Tuesday, Nov 17\t1:30 PM\tentry 1"_s, u"\t2:30 PM\tentry 2"_s,
                           u"Wednesday, Nov 18\t\t"_s, u"Thursday, Nov 19\t\t"_s, u"Friday, Nov 20\t\t"_s,
@@ -131,7 +131,7 @@ void TestPlannerPages::cutsNothingOfACrowdedWeek()
     PlannerDay day = numberedEntries(14);
     const QDate start(2026, 11, 16);
     const auto asBlocks = [&] {
-        return linesOf(PlannerPages::week(start, {{start, day}}, paperOf(PageSetup::Landscape)))
+        return linesOf(PlannerPages::week(start, {{start, day}}, contextOf(PageSetup::Landscape)))
             .contains(u"Notes"_s);
     };
     QVERIFY(asBlocks());
@@ -144,7 +144,8 @@ void TestPlannerPages::drawsAMonthAsACalendar()
 {
     PlannerDay crowded = numberedEntries(14);
     const PlannerPages::Days days{{QDate(2026, 2, 28), crowded}, {QDate(2026, 3, 1), numberedEntries(1)}};
-    const Page page = PlannerPages::month(QDate(2026, 2, 10), days, paperOf(PageSetup::Landscape));
+    const Page page =
+        PlannerPages::month(QDate(2026, 2, 10), days, Qt::Sunday, contextOf(PageSetup::Landscape));
     const QStringList lines = linesOf(page);
     QCOMPARE(lines.first(), u"February 2026\tPersonal Planner"_s);
     QCOMPARE(lines.mid(1, 8), (QStringList{u"Sunday"_s, u"Monday"_s, u"Tuesday"_s, u"Wednesday"_s,
@@ -166,7 +167,7 @@ void TestPlannerPages::listsARangeOfDates()
                                   {QDate(2026, 11, 3), {}},
                                   {QDate(2026, 11, 30), numberedEntries(1)}};
     const auto lines = [&](QDate from, QDate to) {
-        return linesOf(PlannerPages::range(from, to, days, paperOf(PageSetup::Portrait))).mid(2);
+        return linesOf(PlannerPages::range(from, to, days, contextOf(PageSetup::Portrait))).mid(2);
     };
     QCOMPARE(lines(QDate(2026, 11, 1), QDate(2026, 11, 30)),
              (QStringList{u"Mon, Nov 2, 2026\t1:30 PM\tentry 1"_s, u"\t2:30 PM\tentry 2"_s,
@@ -179,10 +180,10 @@ void TestPlannerPages::endsEveryPageWithTheDayOfPrinting()
 {
     const QDate date(2026, 11, 21);
     for (const auto orientation : {PageSetup::Portrait, PageSetup::Landscape}) {
-        const PlannerPages::Paper paper = paperOf(orientation);
-        for (const Page &page :
-             {PlannerPages::day(date, {}, paper), PlannerPages::week(date, {}, paper),
-              PlannerPages::month(date, {}, paper), PlannerPages::range(date, date, {}, paper)})
+        const PageContext context = contextOf(orientation);
+        for (const Page &page : {PlannerPages::day(date, {}, context), PlannerPages::week(date, {}, context),
+                                 PlannerPages::month(date, {}, Qt::Sunday, context),
+                                 PlannerPages::range(date, date, {}, context)})
             QVERIFY(page.toText().endsWith("Quillery\nPrinted on 11/21/2026"_L1));
     }
 }

@@ -1,7 +1,6 @@
 #include "shell/core/area.h"
 #include "tests/planner/window/openplanner.h"
 
-#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
@@ -214,19 +213,10 @@ void TestZcalandar1::takesWhatARowCanHold()
     QTest::keyClicks(screen.text(0), QString(60, u'w'));
     QCOMPARE(screen.time(0)->text(), u"12:00 in t"_s);
     QCOMPARE(screen.text(0)->text().size(), 50);
-    QVERIFY(!screen.said().isEmpty());
     for (const QString &foreign : {u"\u4e00"_s, u"\u0142"_s, u"\u2192"_s}) {
-        screen.window().findChild<ActivityBar *>()->say({});
         OpenPlanner::typeInto(screen.text(1), foreign);
         QCOMPARE(screen.text(1)->text(), QString());
         QVERIFY(screen.said().contains(foreign));
-        screen.window().findChild<ActivityBar *>()->say({});
-        QGuiApplication::clipboard()->setText(u"to "_s + foreign);
-        screen.text(1)->setFocus();
-        QTest::keySequence(screen.text(1), QKeySequence::Paste);
-        QVERIFY(!screen.text(1)->text().contains(foreign));
-        QVERIFY(screen.said().contains(foreign));
-        screen.text(1)->clear();
     }
 }
 
@@ -338,11 +328,9 @@ void TestZcalandar1::keepsTheCalendarOptions()
     QCOMPARE(test.bytes(u"SWR2.fil"_s), QByteArray());
     screen.click("calendarOptionsOk");
     const QByteArray bytes = test.bytes(u"SWR2.fil"_s);
-    QCOMPARE(bytes.mid(13 * 20, 2), QByteArray("\x01\x00", 2));
-    QCOMPARE(bytes.mid(14 * 20, 2), QByteArray("\x01\x00", 2));
-    QCOMPARE(bytes.mid(15 * 20, 2), QByteArray("\x04\x00", 2));
-    QCOMPARE(bytes.mid(16 * 20, 2), QByteArray("\x01\x00", 2));
     QCOMPARE(bytes.size(), 16 * 20 + 2);
+    for (const auto &[record, number] : {std::pair{13, '\1'}, {14, '\1'}, {15, '\4'}, {16, '\1'}})
+        QCOMPARE(bytes.mid(record * 20, 2), QByteArray{}.append(number).append('\0'));
 
     QCOMPARE(first->firstDayOfWeek(), Qt::Wednesday);
     QCOMPARE(first->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "planner/model/calendaroptions.h"
+#include "planner/model/plannerfiles.h"
+
+#include <QWidget>
+
+class Clock;
+class DayEditor;
+class DaysView;
+class WorkViews;
+struct Program;
+
+/// The views of the planner's work panel: the day, the week and the month, one of which is in front, and
+/// panels over them.
+class PlannerViews final : public QWidget
+{
+    Q_OBJECT
+public:
+    /// `options` are read whenever a view is opened.
+    PlannerViews(const Program &program, const PlannerFiles &files, const CalendarOptions &options,
+                 DayEditor *day);
+
+    WorkViews &stack() const { return *m_stack; }
+    DaysView *week() const { return m_week; }
+    DaysView *month() const { return m_month; }
+
+    /// The week or the month when it is in front, else nothing.
+    DaysView *shownDays() const;
+    /// Whether a view of dates is in front, and no panel.
+    bool areDatesShown() const;
+    /// The day that the view in front is about.
+    QDate date() const;
+
+    /// Opens the week or the month that `date` is in.
+    void openDays(DaysView *view, QDate date);
+    /// By as many days, weeks or months as the view in front shows.
+    void step(int steps);
+    /// A new day has begun.
+    void showToday();
+
+signals:
+    /// The day of `date` is to be shown.
+    void dayOpened(QDate date);
+    void said(const QString &line);
+
+private:
+    const Clock &m_clock;
+    const CalendarOptions &m_options;
+    DayEditor *m_day;
+    DaysView *m_week;
+    DaysView *m_month;
+    WorkViews *m_stack;
+};
