@@ -5,16 +5,14 @@
 #include "addressbook/model/viewerlines.h"
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/model/viewerpages.h"
-#include "addressbook/viewer/addressgrid.h"
+#include "addressbook/viewer/gridpane.h"
 #include "addressbook/viewer/labelpanel.h"
 #include "addressbook/viewer/listoptionspanel.h"
 #include "addressbook/viewer/pictureswindow.h"
 #include "addressbook/viewer/viewerwindow.h"
 #include "shell/access/gate.h"
 #include "shell/controls/activitybar.h"
-#include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
-#include "shell/controls/gridview.h"
 #include "shell/core/area.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
@@ -33,49 +31,42 @@ using namespace Qt::Literals::StringLiterals;
 void ADDBKDISPLAY::removeRow()
 {
     showGrid();
-    int row = currentRow();
-    const AddressGrid::Identity asked = m_rows->identity(row);
-    if (row < 0 || ask(ViewerMessages::removeRow()) != Answer::Yes)
+    const AddressGrid::Identity asked = m_grid->current();
+    if (m_grid->row() < 0 || ask(ViewerMessages::removeRow()) != Answer::Yes)
         return;
     // Coming back from the question may have read the rows anew.
-    if (m_rows->identity(row) != asked)
-        row = m_rows->rowOf(asked);
-    if (row < 0)
+    if (!m_grid->remove(asked))
         return;
-    m_rows->removeEntry(row);
-    refresh();
-    if (m_rows->isEmpty()) // the focus would fall on the next button
-        m_grid->setFocus();
     activity().say(ViewerLines::removed(asked.name));
 }
 
 void ADDBKDISPLAY::dial()
 {
-    const int row = currentRow();
-    const QString number = row < 0 ? QString() : m_rows->viewer().information(row).trimmed();
+    const int row = m_grid->row();
+    const QString number = row < 0 ? QString() : m_grid->viewer().information(row).trimmed();
     if (!m_dialler->call(number))
         activity().say(FrameLines::settingNotSaved());
 }
 
 void ADDBKDISPLAY::writeMail()
 {
-    if (currentRow() >= 0)
-        openMail(m_rows->index(currentRow(), AddressGrid::InformationColumn));
+    if (m_grid->row() >= 0)
+        openMail(m_grid->viewer().information(m_grid->row()));
 }
 
-void ADDBKDISPLAY::openMail(const QModelIndex &index)
+void ADDBKDISPLAY::openMail(const QString &address)
 {
-    QUrl address;
-    address.setScheme(u"mailto"_s);
-    address.setPath(index.data().toString().trimmed());
-    activity().say(m_surroundings.openAddress(address) ? QString() : ViewerLines::noMailProgram());
+    QUrl url;
+    url.setScheme(u"mailto"_s);
+    url.setPath(address.trimmed());
+    activity().say(m_surroundings.openAddress(url) ? QString() : ViewerLines::noMailProgram());
 }
 
 void ADDBKDISPLAY::openEntry()
 {
     showGrid();
-    const int row = currentRow();
-    const int record = row < 0 ? 0 : m_rows->viewer().record(row);
+    const int row = m_grid->row();
+    const int record = row < 0 ? 0 : m_grid->viewer().record(row);
     if (record == 0)
         return;
     const QList<QWidget *> open = program().functions.openWindows();
@@ -93,20 +84,20 @@ void ADDBKDISPLAY::openEntry()
 
 void ADDBKDISPLAY::copyRows()
 {
-    loadRest();
+    m_grid->loadRest();
     QApplication::clipboard()->setText(
-        ViewerPages::clipboardText(m_rows->viewer(), program().state.dateStyle));
+        ViewerPages::clipboardText(m_grid->viewer(), program().state.dateStyle));
     ask(AddressMessages::dataCopied());
 }
 
 void ADDBKDISPLAY::exportRows()
 {
-    loadRest();
+    m_grid->loadRest();
     const QString name = ViewerPages::exportName(m_title->text());
     const QString folder = QDir::toNativeSeparators(program().folder.path());
     if (ask(ViewerMessages::exportNotice(folder, name)) != Answer::Ok)
         return;
-    const QByteArray content = ViewerPages::exportText(m_rows->viewer(), program().state.dateStyle);
+    const QByteArray content = ViewerPages::exportText(m_grid->viewer(), program().state.dateStyle);
     const bool isSaved = Saving::replaceFile(program().folder, name, content);
     const QString path = QDir::toNativeSeparators(program().folder.filePath(name));
     activity().say(isSaved ? FrameLines::savedAs(path) : ViewerLines::notExported(name));
@@ -114,15 +105,15 @@ void ADDBKDISPLAY::exportRows()
 
 Page ADDBKDISPLAY::page(const PageSetup &) const
 {
-    return ViewerPages::list(m_rows->viewer(), m_listOptions->options(), program().state.dateStyle,
+    return ViewerPages::list(m_grid->viewer(), m_listOptions->options(), program().state.dateStyle,
                              clock().today());
 }
 
 void ADDBKDISPLAY::showPrintOptions()
 {
-    loadRest();
+    m_grid->loadRest();
     closePreview();
-    if (m_rows->viewer().information() == Information::Pictures) {
+    if (m_grid->viewer().information() == Information::Pictures) {
         printPictures();
         return;
     }
@@ -137,7 +128,7 @@ void ADDBKDISPLAY::printList()
 
 void ADDBKDISPLAY::printPictures()
 {
-    const std::vector<NamedPicture> pictures = ViewerPages::picturesOf(m_rows->viewer());
+    const std::vector<NamedPicture> pictures = ViewerPages::picturesOf(m_grid->viewer());
     if (pictures.empty()) {
         activity().say(ViewerLines::noPictures());
         return;
@@ -175,10 +166,10 @@ void ADDBKDISPLAY::showPictures()
 
 void ADDBKDISPLAY::showLabels()
 {
-    loadRest();
+    m_grid->loadRest();
     closePreview();
     m_pages->setCurrentWidget(m_labels);
-    m_labels->start(m_rows->viewer());
+    m_labels->start(m_grid->viewer());
 }
 
 void ADDBKDISPLAY::openBackup()

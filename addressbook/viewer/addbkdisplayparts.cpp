@@ -3,6 +3,7 @@
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/shared/serialmodem.h"
 #include "addressbook/viewer/addressgrid.h"
+#include "addressbook/viewer/gridpane.h"
 #include "addressbook/viewer/labelpanel.h"
 #include "addressbook/viewer/listoptionspanel.h"
 #include "addressbook/viewer/pictureswindow.h"
@@ -11,7 +12,6 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
-#include "shell/controls/gridview.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
@@ -19,14 +19,12 @@
 #include "shell/pictures/picturecopies.h"
 
 #include <QDesktopServices>
-#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScopedValueRollback>
 #include <QScrollArea>
-#include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -39,16 +37,6 @@ constexpr int leftPaneWidth = 272;
 constexpr int narrowLeftPaneWidth = 236;
 /// Windows narrower than this have the narrow left pane.
 constexpr int wideFrom = 1200;
-constexpr int widestNameColumn = 352; ///< unless the user wants more
-constexpr int leastNameColumn = 160;
-constexpr int leastInformationColumn = 120;
-constexpr double nameColumnShare = 0.42;
-
-QString nameColumnKey()
-{
-    return u"Windows/ADDBKDISPLAY/nameColumn"_s;
-}
-
 WindowTraits traits()
 {
     WindowTraits traits;
@@ -65,7 +53,6 @@ WindowTraits traits()
 ADDBKDISPLAY::ADDBKDISPLAY(Program &program, QWidget *parent, Surroundings surroundings)
     : FunctionWindow(program, traits(), parent)
     , m_surroundings(std::move(surroundings))
-    , m_rows(new AddressGrid(program.folder, program.state.dateStyle, this))
     , m_copies(new PictureCopies(program.folder, this))
 {
     if (!m_surroundings.makeModem)
@@ -84,10 +71,9 @@ ADDBKDISPLAY::ADDBKDISPLAY(Program &program, QWidget *parent, Surroundings surro
     setTabOrders();
     m_splitter->setSizes({leftPaneWidth, 1000});
     rememberSplitter(m_splitter);
-    rememberNameColumn();
     finishFrame();
     placeSplitter();
-    load({});
+    m_grid->load(m_choices->information(), {});
     m_grid->setFocus();
 }
 
@@ -141,30 +127,12 @@ QWidget *ADDBKDISPLAY::makeGridPage()
     head->addStretch(1);
     head->addWidget(m_dialing);
 
-    m_grid = named(new GridView(AddressGrid::LinkRole), u"VSFlexGrid1"_s);
-    m_grid->setAccessibleName(u"Names and information"_s);
-    m_grid->setModel(m_rows);
     layout->addLayout(head);
-    layout->addWidget(new GridPlace(m_grid, makeGridFoot(), page), 1);
+    m_grid = new GridPane(program(), page);
+    layout->addWidget(m_grid, 1);
     layout->addWidget(makeLine(page));
     layout->addWidget(makeButtonRow(page));
     return page;
-}
-
-/// How many names there are, and why so many.
-QWidget *ADDBKDISPLAY::makeGridFoot()
-{
-    auto *foot = new QWidget;
-    m_count = named(makeQuietLabel({}, foot), u"nameCount"_s);
-    m_count->setFont(TypeScale::body());
-    m_modeButton = makeButton(u"displayMode"_s, {}, foot);
-    m_modeButton->setToolTip(u"Shows all names again after a search, or leads to the search"_s);
-    m_foot = new QHBoxLayout(foot);
-    m_foot->setContentsMargins({});
-    m_foot->addWidget(m_count);
-    m_foot->addStretch(1);
-    m_foot->addWidget(m_modeButton, 0, Qt::AlignRight);
-    return foot;
 }
 
 QWidget *ADDBKDISPLAY::makeButtonRow(QWidget *parent)
@@ -264,7 +232,7 @@ void ADDBKDISPLAY::makeToolbar()
 
 void ADDBKDISPLAY::connectParts()
 {
-    connect(m_choices, &ViewerChoices::searchTyped, this, &ADDBKDISPLAY::narrow);
+    connect(m_choices, &ViewerChoices::searchTyped, m_grid, &GridPane::search);
     connect(m_choices, &ViewerChoices::searchPressed, this, &ADDBKDISPLAY::search);
     connect(m_choices, &ViewerChoices::informationChosen, this, &ADDBKDISPLAY::chooseInformation);
     connect(m_choices, &ViewerChoices::updateRequested, this, &ADDBKDISPLAY::updateDisplay);
@@ -272,18 +240,14 @@ void ADDBKDISPLAY::connectParts()
         showGrid();
         m_grid->setFocus();
     });
-    connect(m_modeButton, &QPushButton::clicked, this, &ADDBKDISPLAY::switchDisplayMode);
-    connect(m_grid->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &ADDBKDISPLAY::refreshCommands);
-    connect(m_rows, &AddressGrid::modelAboutToBeReset, this, &ADDBKDISPLAY::keepPlace);
-    connect(m_rows, &AddressGrid::modelReset, this, &ADDBKDISPLAY::followRows);
-    connect(m_grid, &GridView::removalRequested, this, &ADDBKDISPLAY::removeRow);
-    connect(m_grid, &GridView::linkFollowed, this, &ADDBKDISPLAY::openMail);
-    connect(m_grid, &GridView::opened, this, &ADDBKDISPLAY::openEntry);
-    connect(m_grid, &GridView::resized, this, &ADDBKDISPLAY::placeNameColumn);
-    connect(m_grid, &GridView::resized, this, &ADDBKDISPLAY::refreshMode);
-    connect(m_grid, &GridView::resized, this, &ADDBKDISPLAY::refreshHead);
-    connect(m_grid, &GridView::firstPainted, this, &ADDBKDISPLAY::loadRest);
+    connect(m_grid, &GridPane::modeRequested, this, &ADDBKDISPLAY::switchDisplayMode);
+    connect(m_grid, &GridPane::modeChanged, m_modeAction, &QAction::setText);
+    connect(m_grid, &GridPane::rowsChanged, this, &ADDBKDISPLAY::refresh);
+    connect(m_grid, &GridPane::currentChanged, this, &ADDBKDISPLAY::refreshCommands);
+    connect(m_grid, &GridPane::removalRequested, this, &ADDBKDISPLAY::removeRow);
+    connect(m_grid, &GridPane::linkFollowed, this, &ADDBKDISPLAY::openMail);
+    connect(m_grid, &GridPane::opened, this, &ADDBKDISPLAY::openEntry);
+    connect(m_grid, &GridPane::resized, this, &ADDBKDISPLAY::refreshHead);
     connect(m_listOptions, &ListOptionsPanel::printRequested, this, &ADDBKDISPLAY::printList);
     connect(m_listOptions, &ListOptionsPanel::left, this, &ADDBKDISPLAY::leavePanel);
     connect(m_labels, &LabelPanel::left, this, &ADDBKDISPLAY::leavePanel);
@@ -296,7 +260,8 @@ void ADDBKDISPLAY::connectParts()
 void ADDBKDISPLAY::setTabOrders()
 {
     QVector<QWidget *> order = m_choices->tabOrder();
-    order += {m_grid, m_modeButton, m_removeButton, m_dialButton, m_mailButton, m_openButton};
+    order += m_grid->tabOrder();
+    order += {m_removeButton, m_dialButton, m_mailButton, m_openButton};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
@@ -313,35 +278,4 @@ void ADDBKDISPLAY::placeSplitter()
         return;
     const int left = std::max(needed, width() < wideFrom ? narrowLeftPaneWidth : leftPaneWidth);
     m_splitter->setSizes({left, std::max(1, m_splitter->width() - left - m_splitter->handleWidth())});
-}
-
-/// The information takes what the names leave, so that one width is all there is to remember.
-void ADDBKDISPLAY::rememberNameColumn()
-{
-    m_nameColumn = program().store.value(nameColumnKey()).toInt();
-    placeNameColumn();
-    connect(m_grid->horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this](int section, int, int width) {
-                if (section != 0 || m_isFollowing || m_rows->columnCount() == 1)
-                    return;
-                m_nameColumn = std::clamp(width, leastNameColumn, mostNameColumn());
-                program().store.setValue(nameColumnKey(), m_nameColumn);
-                placeNameColumn();
-            });
-}
-
-/// Wider, it would push the information out of the grid.
-int ADDBKDISPLAY::mostNameColumn() const
-{
-    return std::max(leastNameColumn, m_grid->viewport()->width() - leastInformationColumn);
-}
-
-void ADDBKDISPLAY::placeNameColumn()
-{
-    if (!m_grid || m_rows->columnCount() == 1)
-        return;
-    const int suitable = std::min(int(nameColumnShare * m_grid->width()), widestNameColumn);
-    const QScopedValueRollback<bool> following(m_isFollowing, true);
-    m_grid->horizontalHeader()->resizeSection(
-        0, std::clamp(m_nameColumn > 0 ? m_nameColumn : suitable, leastNameColumn, mostNameColumn()));
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "addressbook/model/addressviewer.h"
 #include "addressbook/shared/dialler.h"
-#include "addressbook/viewer/addressgrid.h"
 #include "shell/frame/functionwindow.h"
 
 #include <QPointer>
@@ -10,12 +10,11 @@
 class ADDBKDISPLAY2;
 class ButtonRow;
 class ElidedLabel;
-class GridView;
+class GridPane;
 class LabelPanel;
 class ListOptionsPanel;
 class PictureCopies;
 class ViewerChoices;
-class QHBoxLayout;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -49,7 +48,6 @@ private:
     QWidget *makeLeftPane();
     QWidget *makeWorkPanel();
     QWidget *makeGridPage();
-    QWidget *makeGridFoot();
     QWidget *makeButtonRow(QWidget *parent);
     void makeMenus();
     void makeOptionsMenu();
@@ -58,17 +56,8 @@ private:
     void connectParts();
     void setTabOrders();
     void placeSplitter();
-    void rememberNameColumn();
-    int mostNameColumn() const;
-    void placeNameColumn();
-    void keepPlace();
-    void followRows();
 
     // What is on the screen.
-    void load(const DisplayRange &range);
-    void reload();
-    void loadRest();
-    void showAll(const DisplayRange &range, int mostRows);
     void chooseInformation();
     void updateDisplay();
     void sayRange();
@@ -76,19 +65,17 @@ private:
     void narrow(const QString &text);
     void switchDisplayMode();
     void refresh();
-    void refreshMode();
     void refreshHead();
     void refreshCommands();
     void sortBy(int column);
     void showGrid();
     void leavePanel();
-    int currentRow() const; ///< of the grid; -1 when no entry is under it
 
     // The commands.
     void removeRow();
     void dial();
     void writeMail();
-    void openMail(const QModelIndex &index);
+    void openMail(const QString &address);
     void openEntry();
     void copyRows();
     void exportRows();
@@ -104,15 +91,7 @@ private:
     void choosePanelColor();
 
     Surroundings m_surroundings;
-    AddressGrid *m_rows;
     PictureCopies *m_copies;
-    bool m_isLoaded = false; ///< all rows, and not the first ones alone
-    bool m_isLoadingRest = false;
-    bool m_isFollowing = false; ///< other rows are on their way into the grid
-    bool m_isReloading = false; ///< the same rows, as the files have them now
-    AddressGrid::Identity m_kept;
-    int m_keptColumn = 0;
-    int m_nameColumn = 0; ///< its width as the user chose it; 0 while it suits the window
     std::unique_ptr<Dialler> m_dialler;
     QPointer<ADDBKDISPLAY2> m_pictures;
 
@@ -125,10 +104,7 @@ private:
     ElidedLabel *m_title = nullptr;
     QLabel *m_chip = nullptr;
     QLabel *m_dialing = nullptr;
-    QPushButton *m_modeButton = nullptr;
-    GridView *m_grid = nullptr;
-    QLabel *m_count = nullptr;
-    QHBoxLayout *m_foot = nullptr; ///< holds the count and the mode
+    GridPane *m_grid = nullptr;
     ButtonRow *m_buttonRow = nullptr;
     QPushButton *m_removeButton = nullptr;
     QPushButton *m_dialButton = nullptr;
