@@ -25,10 +25,13 @@ void SearchBox::startAgain()
 
 void SearchBox::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape && !text().isEmpty())
+    if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
         clear();
-    else if (event->key() == Qt::Key_Down && m_target)
-        m_target->setFocus();
-    else
+    } else if (event->key() == Qt::Key_Down) {
+        if (m_target)
+            m_target->setFocus();
+        emit leftDown();
+    } else {
         QLineEdit::keyPressEvent(event);
+    }
 }

@@ -17,6 +17,10 @@ public:
     /// Puts the cursor into it, to type something else.
     void startAgain();
 
+signals:
+    /// Down was pressed; the target, if there is one, has the focus now.
+    void leftDown();
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 

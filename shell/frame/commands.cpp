@@ -51,12 +51,16 @@ void Commands::separateTools()
 QPushButton *Commands::button(QAction *command, const QString &name, const QString &caption, QWidget *parent,
                               ButtonKind kind)
 {
-    QPushButton *button = makeButton(name, caption, parent, kind);
-    connect(button, &QPushButton::clicked, command, &QAction::trigger);
-    Command &its = find(command);
-    its.buttons.push_back(button);
+    QPushButton *button = addButton(command, makeButton(name, caption, parent, kind));
     if (caption == command->text())
-        its.sameCaption.push_back(button);
+        find(command).sameCaption.push_back(button);
+    return button;
+}
+
+QPushButton *Commands::addButton(QAction *command, QPushButton *button)
+{
+    connect(button, &QPushButton::clicked, command, &QAction::trigger);
+    find(command).buttons.push_back(button);
     return button;
 }
 

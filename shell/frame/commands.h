@@ -37,6 +37,8 @@ public:
     /// A button that does the same in the same state. With the command's caption it always has it.
     QPushButton *button(QAction *command, const QString &name, const QString &caption, QWidget *parent,
                         ButtonKind kind = ButtonKind::Plain);
+    /// Lets a button that was made elsewhere, with an icon alone say, do the same in the same state.
+    QPushButton *addButton(QAction *command, QPushButton *button);
     /// Renames the command wherever it is shown under its own caption.
     void setCaption(QAction *command, const QString &caption);
 
