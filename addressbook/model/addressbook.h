@@ -3,7 +3,6 @@
 #include "addressbook/model/addressentry.h"
 #include "addressbook/model/namelist.h"
 #include "storage/datafolder.h"
-#include "storage/filestamp.h"
 #include "storage/openrecordfile.h"
 #include "storage/recordfile.h"
 
@@ -86,8 +85,7 @@ public:
     /// The same with the bytes of the entry: at most 724, fewer at the end of the file.
     void forEachLiveRecord(const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
 
-    /// What the two files are like now.
-    FileStamp stamp() const { return FileStamp::of(m_folder, fileNames()); }
+    /// The two files, as the data folder names them.
     static QStringList fileNames();
 
     /// The two files themselves, for readers that walk over all of them at once.

@@ -93,7 +93,6 @@ AddressViewer::AddressViewer(const DataFolder &folder, DateStyle style)
 
 void AddressViewer::load(Information information, const DisplayRange &range, int mostRows)
 {
-    m_stamp = m_book.stamp();
     m_information = information;
     m_range = range;
     m_bytes.clear();

@@ -51,8 +51,6 @@ public:
     void load(Information information, const DisplayRange &range, int mostRows = allRows);
     /// Reads all the rows of the same information and range anew; rows that were removed stay away.
     void reload();
-    /// Whether the files are others than at the last `load`.
-    bool isOutdated() const { return m_book.stamp() != m_stamp; }
     Information information() const { return m_information; }
     const DisplayRange &range() const { return m_range; }
     /// Whether a list of more than `mostRows` lines may follow.
@@ -123,7 +121,6 @@ private:
 
     AddressBook m_book;
     DateStyle m_style;
-    FileStamp m_stamp;
     Information m_information = Information::Address;
     DisplayRange m_range;
     QString m_searchText;

@@ -181,13 +181,14 @@ QString ViewerPages::heading(Information information, DateStyle style)
     return u"Address, Address Line 2, "_s + town;
 }
 
-Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, DateStyle style, QDate today)
+Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, const PageContext &context)
 {
     const bool isPictures = viewer.information() == Information::Pictures;
     Page page(ViewerMessages::listTitle(isPictures ? QString() : choice(viewer.information())),
-              options.hasAsOf ? ViewerMessages::asOf(Dates::longText(today, style)) : QString());
+              options.hasAsOf ? ViewerMessages::asOf(Dates::longText(context.today, context.style))
+                              : QString());
     page.numberSheets(SheetNumbers::Title);
-    page.table(listColumns(viewer, options, style));
+    page.table(listColumns(viewer, options, context.style));
     const bool hasInformation = hasColumn(viewer, options);
     const TextRole role = options.isTwoColumns ? TextRole::Small : TextRole::Body;
     const auto addRow = [&](int row, const QString &telephone) {
@@ -206,22 +207,22 @@ Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, 
     }
     if (viewer.count() == 0)
         page.row({ViewerMessages::nothingToShow(!viewer.searchText().isEmpty())});
-    return page.close(today, style);
+    return page.close(context.today, context.style);
 }
 
-Page ViewerPages::pictureList(const std::vector<ListedPicture> &pictures, const PageSetup &setup,
-                              DateStyle style, QDate today)
+Page ViewerPages::pictureList(const std::vector<ListedPicture> &pictures, const PageContext &context)
 {
-    const PictureGrid grid(setup.sheet());
+    const QSizeF sheet = context.setup.sheet();
+    const PictureGrid grid(sheet);
     const int count = int(pictures.size());
     const int sheets = std::max(1, (count + grid.count() - 1) / grid.count());
-    const double width = setup.sheet().width() - 2 * firstPicture.x();
+    const double width = sheet.width() - 2 * firstPicture.x();
     const QRectF head(firstPicture.x(), headTop, width, headHeight);
     Page page;
     page.numberSheets(SheetNumbers::None); // the last row of pictures stands where the number would
     for (int sheet = 0; sheet < sheets; ++sheet) {
         page.breakPage();
-        page.placeText(head, ViewerMessages::pictureListTitle(Dates::longText(today, style)),
+        page.placeText(head, ViewerMessages::pictureListTitle(Dates::longText(context.today, context.style)),
                        TextRole::Heading);
         if (sheets > 1)
             page.placeText(head, ViewerMessages::pageOf(sheet + 1, sheets), TextRole::Body, Qt::AlignRight);
@@ -233,7 +234,7 @@ Page ViewerPages::pictureList(const std::vector<ListedPicture> &pictures, const 
             page.placeText({corner + QPointF(0, nameTop), nameRoom}, picture.name, TextRole::Small);
         }
     }
-    return page.close(today, style);
+    return page.close(context.today, context.style);
 }
 
 std::vector<NamedPicture> ViewerPages::picturesOf(const AddressViewer &viewer)

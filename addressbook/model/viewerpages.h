@@ -1,7 +1,7 @@
 #pragma once
 
 #include "addressbook/model/addressviewer.h"
-#include "shell/core/page.h"
+#include "shell/core/pagecontext.h"
 #include "shell/pictures/storedpicture.h"
 
 #include <vector>
@@ -25,7 +25,7 @@ struct ListOptions {
 };
 
 /// The rows as they are shown. Where the viewer shows pictures, the names alone.
-Page list(const AddressViewer &viewer, const ListOptions &options, DateStyle style, QDate today);
+Page list(const AddressViewer &viewer, const ListOptions &options, const PageContext &context);
 
 /// Pictures on a portrait sheet: four columns of five.
 inline constexpr int picturesPerSheet = 20;
@@ -33,8 +33,7 @@ inline constexpr int picturesPerSheet = 20;
 /// The pictures with their names under them, from 0.25 inches of the left and 0.8 of the top on, two inches
 /// apart. Each is drawn at 16.54 % of its size at 96 dots an inch, as far as its place allows and not below
 /// an inch.
-Page pictureList(const std::vector<ListedPicture> &pictures, const PageSetup &setup, DateStyle style,
-                 QDate today);
+Page pictureList(const std::vector<ListedPicture> &pictures, const PageContext &context);
 
 /// The rows that have a picture; the viewer was loaded with `Information::Pictures`.
 std::vector<NamedPicture> picturesOf(const AddressViewer &viewer);

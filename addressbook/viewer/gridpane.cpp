@@ -1,5 +1,6 @@
 #include "addressbook/viewer/gridpane.h"
 
+#include "addressbook/model/viewerlines.h"
 #include "addressbook/model/viewermessages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
@@ -79,12 +80,49 @@ void GridPane::connectGrid()
     connect(m_grid, &GridView::firstPainted, this, &GridPane::loadRest);
     connect(m_grid, &GridView::resized, this, &GridPane::placeNameColumn);
     connect(m_grid, &GridView::resized, this, &GridPane::refreshMode);
-    connect(m_grid, &GridView::resized, this, &GridPane::resized);
 }
 
 int GridPane::row() const
 {
     return m_rows->isEmpty() ? -1 : m_grid->currentIndex().row();
+}
+
+QString GridPane::whyNoRows() const
+{
+    return m_rows->isEmpty() ? ViewerLines::nothingShown() : QString();
+}
+
+QString GridPane::whyNoRow() const
+{
+    return !m_rows->isEmpty() && row() < 0 ? ViewerLines::chooseNameFirst() : whyNoRows();
+}
+
+QString GridPane::whyNoEntry() const
+{
+    const bool isUnreadable = row() >= 0 && current().record <= 0;
+    return isUnreadable ? ViewerLines::noEntry() : whyNoRow();
+}
+
+QString GridPane::whyNoOrder() const
+{
+    const bool isPictures = viewer().information() == Information::Pictures;
+    return isPictures ? ViewerLines::nothingToSortBy() : QString();
+}
+
+QString GridPane::whyNoCall() const
+{
+    const Information shown = viewer().information();
+    const bool isTelephone = shown == Information::HomePhone || shown == Information::MobilePhone ||
+                             shown == Information::FaxNumber;
+    return isTelephone ? whyNoRow() : ViewerLines::chooseTelephones();
+}
+
+QString GridPane::whyNoMail() const
+{
+    if (viewer().information() != Information::EmailAddress)
+        return ViewerLines::chooseMailAddresses();
+    const bool isNone = row() >= 0 && !AddressGrid::isMailAddress(information());
+    return isNone ? ViewerLines::noMailAddress() : whyNoRow();
 }
 
 void GridPane::load(Information information, const DisplayRange &range)
@@ -106,9 +144,9 @@ void GridPane::loadRest()
     m_rows->load(viewer().information(), viewer().range());
 }
 
-void GridPane::followFiles()
+void GridPane::reload()
 {
-    if (!m_isLoaded || !viewer().isOutdated())
+    if (!m_isLoaded)
         return;
     const BusyCursor busy;
     const QScopedValueRollback arrival(m_arrival, Arrival::Reload);
@@ -139,11 +177,6 @@ bool GridPane::remove(const AddressGrid::Identity &entry)
     if (m_rows->isEmpty()) // the focus would fall on the next button
         m_grid->setFocus();
     return true;
-}
-
-QVector<QWidget *> GridPane::tabOrder() const
-{
-    return {m_grid, m_mode};
 }
 
 void GridPane::keepPlace()

@@ -23,21 +23,28 @@ public:
     /// The current row; -1 when no entry is under it.
     int row() const;
     AddressGrid::Identity current() const { return m_rows->identity(row()); }
+    /// What stands beside the current name; empty when there is none.
+    QString information() const { return row() < 0 ? QString() : viewer().information(row()); }
+
+    // Why a command cannot be used on the rows as they are now; nothing when it can.
+    QString whyNoRows() const;
+    QString whyNoRow() const;
+    QString whyNoEntry() const;
+    QString whyNoOrder() const; ///< by information
+    QString whyNoCall() const;
+    QString whyNoMail() const;
 
     /// The rows of `range`; of a long book the first ones are painted before the rest is read.
     void load(Information information, const DisplayRange &range);
     void loadRest();
-    /// Reads the same rows anew once all of them are there and the files are others.
-    void followFiles();
+    /// Reads the same rows anew, once all of them are there.
+    void reload();
     /// Shows only rows with `text`; an empty one shows all.
     void search(const QString &text);
     /// By the column of a heading; once more the other way round. Below 0 the order of the records.
     void sortBy(int column);
     /// Takes the entry off the grid. False: it is not there any more.
     bool remove(const AddressGrid::Identity &entry);
-
-    /// What takes the focus, in reading order.
-    QVector<QWidget *> tabOrder() const;
 
 signals:
     void rowsChanged();
@@ -48,7 +55,6 @@ signals:
     void removalRequested();
     void opened();
     void linkFollowed(const QString &text);
-    void resized();
 
 private:
     /// Why other rows come into the grid.

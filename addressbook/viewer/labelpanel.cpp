@@ -63,30 +63,19 @@ QString storeKey(QLatin1StringView what)
 } // namespace
 
 LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
-    : QWidget(parent)
+    : TaskPanel(u"labels"_s, u"Labels and Envelopes"_s, parent)
     , m_program(program)
     , m_activity(activity)
 {
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 16, 24, 18);
-    column->setSpacing(12);
-    auto *title = new ElidedLabel(this);
-    title->setText(u"Labels and Envelopes"_s);
-    title->setFont(TypeScale::windowTitle());
-    auto *row = new QHBoxLayout;
+    auto *work = new QWidget;
+    auto *row = new QHBoxLayout(work);
+    row->setContentsMargins({});
     row->setSpacing(16);
     row->addWidget(makeChoices(), 3);
     row->addWidget(makePreview(), 2);
-    QPushButton *back = makeButton(u"leaveLabels"_s, u"&Back to the Grid"_s, this);
-    m_print = makeButton(u"printLabels"_s, u"&Print"_s, this, ButtonKind::Main);
-    auto *foot = new QHBoxLayout;
-    foot->addStretch(1);
-    foot->addWidget(back);
-    foot->addWidget(m_print);
-    column->addWidget(title);
-    column->addLayout(row, 1);
-    column->addWidget(makeLine(this));
-    column->addLayout(foot);
+    setWork(work);
+    setLeaveButton(u"leaveLabels"_s, u"&Back to the Grid"_s);
+    m_print = addButton(u"printLabels"_s, u"&Print"_s, ButtonKind::Main);
 
     connect(m_sheets, &QComboBox::currentIndexChanged, this, &LabelPanel::sheetChosen);
     connect(m_start, &QSpinBox::valueChanged, this, &LabelPanel::refresh);
@@ -97,7 +86,6 @@ LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
     connect(m_view, &SheetView::stepRequested, this, [this](int step) { showSheet(m_index + step); });
     connect(m_view, &SheetView::firstRequested, this, [this] { showSheet(0); });
     connect(m_view, &SheetView::lastRequested, this, [this] { showSheet(m_sheetCount - 1); });
-    connect(back, &QPushButton::clicked, this, &LabelPanel::left);
     connect(m_print, &QPushButton::clicked, this, &LabelPanel::print);
     m_gathering.setSingleShot(true);
     m_gathering.setInterval(typingPause);
@@ -301,7 +289,7 @@ bool LabelPanel::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress)
         chooseStart(static_cast<QMouseEvent *>(event)->pos());
-    return QWidget::eventFilter(watched, event);
+    return TaskPanel::eventFilter(watched, event);
 }
 
 /// The label under `place` of the first sheet is where printing starts.

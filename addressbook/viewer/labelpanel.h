@@ -1,9 +1,9 @@
 #pragma once
 
 #include "addressbook/model/labelsheet.h"
+#include "shell/controls/taskpanel.h"
 
 #include <QTimer>
-#include <QWidget>
 
 #include <memory>
 
@@ -22,7 +22,7 @@ struct Program;
 
 /// Labels and envelopes for the names that the viewer shows: the kind of sheet, where to start on a used one,
 /// and the sheets as they will be printed.
-class LabelPanel final : public QWidget
+class LabelPanel final : public TaskPanel
 {
     Q_OBJECT
 public:
@@ -33,9 +33,6 @@ public:
     void start(const AddressViewer &viewer);
     /// The same when other rows are shown meanwhile, once the typing rests; the focus stays where it is.
     void follow(const AddressViewer &viewer);
-
-signals:
-    void left();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -4,36 +4,23 @@
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
 ListOptionsPanel::ListOptionsPanel(QWidget *parent)
-    : QWidget(parent)
+    : TaskPanel(u"listOptions"_s, u"Print Options"_s, parent)
     , m_content(named(makeQuietLabel({}, this), u"listContent"_s))
     , m_telephones(named(new QCheckBox(u"Print Telephone Number Also"_s, this), u"printTelephones"_s))
     , m_asOf(named(new QCheckBox(u"Print 'As of' date on each page"_s, this), u"printAsOf"_s))
     , m_gridLines(named(new QCheckBox(u"Print Grid Lines on each page"_s, this), u"printGridLines"_s))
     , m_oneColumn(named(new QRadioButton(u"One Column Output"_s, this), u"oneColumn"_s))
     , m_twoColumns(named(new QRadioButton(u"Two Column Output"_s, this), u"twoColumns"_s))
-    , m_print(makeButton(u"printList"_s, u"&Print List"_s, this, ButtonKind::Main))
 {
-    auto *columns = new QButtonGroup(this);
-    columns->addButton(m_oneColumn);
-    columns->addButton(m_twoColumns);
     m_oneColumn->setChecked(true);
-    QPushButton *back = makeButton(u"leavePrintOptions"_s, u"&Back to the Grid"_s, this);
-
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 20, 24, 18);
-    column->setSpacing(10);
-    column->addWidget(makeTitle(u"Print Options"_s, this));
     m_content->setFont(TypeScale::body());
     m_content->setWordWrap(true);
     auto *content = new QWidget;
@@ -48,15 +35,11 @@ ListOptionsPanel::ListOptionsPanel(QWidget *parent)
     options->addWidget(m_oneColumn);
     options->addWidget(m_twoColumns);
     options->addStretch(1);
-    column->addWidget(makeScrolling(content, u"listOptionsScroll"_s, this), 1);
-    column->addWidget(makeLine(this));
-    auto *foot = new QHBoxLayout;
-    foot->addStretch(1);
-    foot->addWidget(back);
-    foot->addWidget(m_print);
-    column->addLayout(foot);
+    setContent(content);
+    setLeaveButton(u"leavePrintOptions"_s, u"&Back to the Grid"_s);
+    m_print = addButton(u"printList"_s, u"&Print List"_s, ButtonKind::Main);
+    setFocusProxy(m_print);
     connect(m_print, &QPushButton::clicked, this, &ListOptionsPanel::printRequested);
-    connect(back, &QPushButton::clicked, this, &ListOptionsPanel::left);
 }
 
 ViewerPages::ListOptions ListOptionsPanel::options() const
@@ -70,17 +53,4 @@ void ListOptionsPanel::describe(const AddressViewer &viewer)
     m_content->setText(ViewerLines::listHolds(viewer.count(), ViewerPages::choice(viewer.information()),
                                               viewer.information() != Information::Pictures));
     setUnavailable(m_print, viewer.count() == 0 ? ViewerLines::nothingShown() : QString());
-}
-
-void ListOptionsPanel::focusFirst()
-{
-    m_print->setFocus();
-}
-
-void ListOptionsPanel::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape)
-        emit left();
-    else
-        QWidget::keyPressEvent(event);
 }

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "addressbook/model/viewerpages.h"
-
-#include <QWidget>
+#include "shell/controls/taskpanel.h"
 
 class QCheckBox;
 class QLabel;
@@ -10,7 +9,7 @@ class QPushButton;
 class QRadioButton;
 
 /// How the viewer's list is printed.
-class ListOptionsPanel final : public QWidget
+class ListOptionsPanel final : public TaskPanel
 {
     Q_OBJECT
 public:
@@ -19,14 +18,9 @@ public:
     ViewerPages::ListOptions options() const;
     /// Tells what the list would hold now.
     void describe(const AddressViewer &viewer);
-    void focusFirst();
 
 signals:
     void printRequested();
-    void left();
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QLabel *m_content;

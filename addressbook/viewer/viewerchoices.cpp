@@ -2,21 +2,26 @@
 
 #include "addressbook/model/viewerpages.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/searchbox.h"
 #include "shell/look/theme.h"
 
-#include <QAction>
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QLocale>
 #include <QRadioButton>
+#include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int usualWidth = 272;
+constexpr int narrowWidth = 236;
+/// Windows narrower than this have the narrow pane.
+constexpr int wideFrom = 1200;
 constexpr int groupGap = 16;
 constexpr int headingGap = 4;
 constexpr int monthIndent = 24;
@@ -45,22 +50,18 @@ ViewerChoices::ViewerChoices(QWidget *parent)
 
 void ViewerChoices::addSearch(QVBoxLayout &column)
 {
-    m_searchBox = named(new QLineEdit(this), u"searchText"_s);
-    m_searchBox->setPlaceholderText(u"Search text"_s);
-    m_searchBox->setAccessibleName(u"Search text"_s);
-    m_searchBox->setToolTip(u"The grid shows what fits while you type"_s);
-    m_searchBox->setClearButtonEnabled(true);
-    m_searchBox->addAction(Icons::icon("search"_L1, Theme::of(this).scheme), QLineEdit::LeadingPosition);
-    m_searchBox->installEventFilter(this);
-    m_searchButton = makeButton(u"searchButton"_s, u"Sea&rch"_s, this);
+    m_searchBox =
+        new SearchBox(u"searchText"_s, u"Search text"_s, u"The grid shows what fits while you type"_s, this);
+    QPushButton *search = makeButton(u"searchButton"_s, u"Sea&rch"_s, this);
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(m_searchBox, 1);
-    row->addWidget(m_searchButton);
+    row->addWidget(search);
     column.addLayout(row);
     connect(m_searchBox, &QLineEdit::textChanged, this, &ViewerChoices::searchTyped);
     connect(m_searchBox, &QLineEdit::returnPressed, this, &ViewerChoices::searchPressed);
-    connect(m_searchButton, &QPushButton::clicked, this, &ViewerChoices::searchPressed);
+    connect(m_searchBox, &SearchBox::leftDown, this, &ViewerChoices::leftForNames);
+    connect(search, &QPushButton::clicked, this, &ViewerChoices::searchPressed);
 }
 
 void ViewerChoices::addInformation(QVBoxLayout &column)
@@ -108,10 +109,10 @@ void ViewerChoices::addRange(QVBoxLayout &column)
     addChoice(DisplayRange::AnniversaryMonth, u"Display-If Anniv.Month Is"_s);
     addMonth(DisplayRange::AnniversaryMonth, u"anniversaryMonth"_s, u"Anniv Month:"_s);
     m_range->button(DisplayRange::All)->setChecked(true);
-    m_update = makeButton(u"updateDisplay"_s, u"Update Display"_s, this);
+    QPushButton *update = makeButton(u"updateDisplay"_s, u"Update Display"_s, this);
     column.addSpacing(10);
-    column.addWidget(m_update);
-    connect(m_update, &QPushButton::clicked, this, &ViewerChoices::updateRequested);
+    column.addWidget(update);
+    connect(update, &QPushButton::clicked, this, &ViewerChoices::updateRequested);
 }
 
 QComboBox *ViewerChoices::makeMonthBox(const QString &name, const QString &caption, DisplayRange::Kind kind)
@@ -146,8 +147,7 @@ void ViewerChoices::clearSearch()
 
 void ViewerChoices::focusSearch()
 {
-    m_searchBox->setFocus();
-    m_searchBox->selectAll();
+    m_searchBox->startAgain();
 }
 
 Information ViewerChoices::information() const
@@ -173,31 +173,12 @@ void ViewerChoices::focusMonth(DisplayRange::Kind kind)
     m_months[kind]->lineEdit()->selectAll();
 }
 
-QVector<QWidget *> ViewerChoices::tabOrder() const
+int ViewerChoices::leastWidth() const
 {
-    QVector<QWidget *> order{m_searchBox, m_searchButton};
-    for (QAbstractButton *button : m_information->buttons())
-        order << button;
-    for (QAbstractButton *button : m_range->buttons()) {
-        order << button;
-        if (QComboBox *month = m_months[std::size_t(m_range->id(button))])
-            order << month;
-    }
-    return order << m_update;
+    return minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
 }
 
-bool ViewerChoices::eventFilter(QObject *watched, QEvent *event)
+int ViewerChoices::suitableWidth(QSize window) const
 {
-    if (watched == m_searchBox && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Escape && !m_searchBox->text().isEmpty()) {
-            m_searchBox->clear();
-            return true;
-        }
-        if (key == Qt::Key_Down) {
-            emit leftForNames();
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
+    return std::max(leastWidth(), window.width() < wideFrom ? narrowWidth : usualWidth);
 }

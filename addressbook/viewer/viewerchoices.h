@@ -8,10 +8,9 @@
 
 class QButtonGroup;
 class QComboBox;
-class QLineEdit;
 class QPushButton;
-class QRadioButton;
 class QVBoxLayout;
+class SearchBox;
 
 /// The left pane of the viewer: the search, the information to view, and whose names are shown.
 class ViewerChoices final : public QWidget
@@ -30,8 +29,9 @@ public:
     int month(DisplayRange::Kind kind) const;
     void focusMonth(DisplayRange::Kind kind);
 
-    /// Everything that takes the focus, in reading order.
-    QVector<QWidget *> tabOrder() const;
+    /// So wide that no choice is cut, with the bar that scrolls them.
+    int leastWidth() const;
+    int suitableWidth(QSize window) const;
 
 signals:
     void searchTyped(const QString &text);
@@ -41,19 +41,14 @@ signals:
     /// The key that leads from the search to the names was pressed.
     void leftForNames();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void addSearch(QVBoxLayout &column);
     void addInformation(QVBoxLayout &column);
     void addRange(QVBoxLayout &column);
     QComboBox *makeMonthBox(const QString &name, const QString &caption, DisplayRange::Kind kind);
 
-    QLineEdit *m_searchBox = nullptr;
-    QPushButton *m_searchButton = nullptr;
+    SearchBox *m_searchBox = nullptr;
     QButtonGroup *m_information = nullptr;
     QButtonGroup *m_range = nullptr;
     std::array<QComboBox *, 3> m_months{}; ///< by the kind of range; none for all
-    QPushButton *m_update = nullptr;
 };

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "addressbook/model/addressviewer.h"
 #include "addressbook/shared/dialler.h"
 #include "shell/frame/functionwindow.h"
 
@@ -9,18 +8,14 @@
 
 class ADDBKDISPLAY2;
 class ButtonRow;
-class ElidedLabel;
 class GridPane;
 class LabelPanel;
 class ListOptionsPanel;
-class PictureCopies;
+class PicturePrint;
+class TitleLine;
 class ViewerChoices;
-class QLabel;
-class QMenu;
-class QPushButton;
-class QScrollArea;
-class QSplitter;
-class QStackedWidget;
+class WorkViews;
+struct DisplayRange;
 
 /// The viewer of the address book: all names in one grid with one piece of information beside each, to be
 /// searched, narrowed, dialled, copied, exported and printed. It never writes to the address book.
@@ -38,92 +33,47 @@ public:
     ~ADDBKDISPLAY() override;
 
 protected:
-    Page page(const PageSetup &setup) const override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
-    void changeEvent(QEvent *event) override;
+    void filesChanged() override;
 
 private:
     // The parts of the window.
-    QWidget *makeLeftPane();
     QWidget *makeWorkPanel();
     QWidget *makeGridPage();
-    QWidget *makeButtonRow(QWidget *parent);
-    void makeMenus();
-    void makeOptionsMenu();
-    void makeToolbar();
+    void makeCommands();
+    void addRowCommands(QMenu &options);
+    void addPrintCommands(QMenu &options);
     void addSortMenu(QMenu &options);
+    void addButtons(QAction *remove, QAction *open);
     void connectParts();
-    void setTabOrders();
-    void placeSplitter();
 
     // What is on the screen.
-    void chooseInformation();
     void updateDisplay();
-    void sayRange();
+    void showRange(const DisplayRange &range);
     void search();
-    void narrow(const QString &text);
     void switchDisplayMode();
-    void refresh();
-    void refreshHead();
-    void refreshCommands();
-    void sortBy(int column);
+    void followRows();
     void showGrid();
-    void leavePanel();
 
     // The commands.
     void removeRow();
-    void dial();
-    void writeMail();
-    void openMail(const QString &address);
+    void writeMail(const QString &address);
     void openEntry();
     void copyRows();
     void exportRows();
     void showPrintOptions();
     void printList();
-    void printPictures();
-    void showPictureList();
-    void showPictures();
     void showLabels();
-    void stop();
-    void openBackup();
-    void showHelp();
-    void choosePanelColor();
+    void showPictures();
 
     Surroundings m_surroundings;
-    PictureCopies *m_copies;
-    std::unique_ptr<Dialler> m_dialler;
-    QPointer<ADDBKDISPLAY2> m_pictures;
-
-    QSplitter *m_splitter = nullptr;
+    PicturePrint *m_pictureList;
     ViewerChoices *m_choices = nullptr;
-    QStackedWidget *m_pages = nullptr;
-    QWidget *m_gridPage = nullptr;
+    WorkViews *m_views = nullptr; ///< the grid's page; print options and labels over it
+    TitleLine *m_title = nullptr;
+    GridPane *m_grid = nullptr;
+    ButtonRow *m_buttons = nullptr;
     ListOptionsPanel *m_listOptions = nullptr;
     LabelPanel *m_labels = nullptr;
-    ElidedLabel *m_title = nullptr;
-    QLabel *m_chip = nullptr;
-    QLabel *m_dialing = nullptr;
-    GridPane *m_grid = nullptr;
-    ButtonRow *m_buttonRow = nullptr;
-    QPushButton *m_removeButton = nullptr;
-    QPushButton *m_dialButton = nullptr;
-    QPushButton *m_mailButton = nullptr;
-    QPushButton *m_openButton = nullptr;
-
-    QAction *m_modeAction = nullptr;
-    QAction *m_openAction = nullptr;
-    QAction *m_copyAction = nullptr;
-    QAction *m_editCopyAction = nullptr;
-    QAction *m_exportAction = nullptr;
-    QAction *m_removeAction = nullptr;
-    QAction *m_sortInformationAction = nullptr;
-    QAction *m_editRemoveAction = nullptr;
-    QAction *m_printAction = nullptr;
-    QAction *m_picturesAction = nullptr;
-    QAction *m_labelsAction = nullptr;
-    QAction *m_panelColorAction = nullptr;
-    QAction *m_backupAction = nullptr;
-    QAction *m_restoreAction = nullptr;
-    QAction *m_helpAction = nullptr;
+    std::unique_ptr<Dialler> m_dialler;
+    QPointer<ADDBKDISPLAY2> m_pictures;
 };

@@ -37,7 +37,7 @@ private:
 
 namespace {
 
-const QDate today(2026, 11, 21);
+const PageContext context{{}, DateStyle::Usa, QDate(2026, 11, 21), {}};
 
 QList<QStringList> rowsOf(const Page &page)
 {
@@ -116,13 +116,13 @@ void TestViewerPages::listsWhatIsShown()
     m_viewer->load(information, {});
     ViewerPages::ListOptions options;
     options.hasTelephones = telephones;
-    QTEST(rowsOf(ViewerPages::list(*m_viewer, options, DateStyle::Usa, today)), "rows");
+    QTEST(rowsOf(ViewerPages::list(*m_viewer, options, context)), "rows");
 }
 
 void TestViewerPages::followsTheOptions()
 {
     const auto list = [this](const ViewerPages::ListOptions &options) {
-        return ViewerPages::list(*m_viewer, options, DateStyle::Usa, today);
+        return ViewerPages::list(*m_viewer, options, context);
     };
     QCOMPARE(list({}).headRight(), QString());
     const auto plain = itemsOf<PageItem::Columns>(list({})).constFirst();
@@ -143,17 +143,17 @@ void TestViewerPages::followsTheOptions()
 void TestViewerPages::saysWhenNothingIsLeft()
 {
     m_viewer->search(u"nobody"_s);
-    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, DateStyle::Usa, today)),
+    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, context)),
              QList<QStringList>{{u"No Matches were Found!"_s}});
     m_viewer->load(Information::State, {DisplayRange::BirthMonth, 4});
     m_viewer->search({});
-    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, DateStyle::Usa, today)),
+    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, context)),
              QList<QStringList>{{u"No Names Found with Info..."_s}});
 }
 
 void TestViewerPages::placesPicturesToTheHundredth()
 {
-    const Page page = ViewerPages::pictureList(pictures(20), {}, DateStyle::Usa, today);
+    const Page page = ViewerPages::pictureList(pictures(20), context);
     const auto placed = itemsOf<PageItem::PlacedPicture>(page);
     QCOMPARE(placed.size(), 20);
     for (int i = 0; i < 20; ++i) {
@@ -187,7 +187,8 @@ void TestViewerPages::placesPicturesOnOtherSheets()
     QFETCH(PageSetup::Orientation, orientation);
     QFETCH(int, perSheet);
     const PageSetup setup{paper, orientation};
-    const Page page = ViewerPages::pictureList(pictures(perSheet + 1), setup, DateStyle::Usa, today);
+    const Page page =
+        ViewerPages::pictureList(pictures(perSheet + 1), {setup, context.style, context.today, {}});
     QCOMPARE(itemsOf<PageItem::Break>(page).size(), 2);
     const auto placed = itemsOf<PageItem::PlacedPicture>(page);
     QCOMPARE(placed.last().place.topLeft(), placed.first().place.topLeft());
@@ -210,7 +211,7 @@ void TestViewerPages::scalesPictures()
 {
     QFETCH(QSize, pixels);
     QFETCH(QSizeF, inches);
-    const Page page = ViewerPages::pictureList({{u"A"_s, QString(), pixels}}, {}, DateStyle::Usa, today);
+    const Page page = ViewerPages::pictureList({{u"A"_s, QString(), pixels}}, context);
     const QSizeF size = itemsOf<PageItem::PlacedPicture>(page).constFirst().place.size();
     QVERIFY(std::abs(size.width() - inches.width()) < 0.0001);
     QVERIFY(std::abs(size.height() - inches.height()) < 0.0001);

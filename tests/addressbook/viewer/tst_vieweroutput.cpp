@@ -1,0 +1,150 @@
+#include "addressbook/model/messages.h"
+#include "openviewer.h"
+#include "shell/controls/activitybar.h"
+#include "shell/preview/previewpane.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QSpinBox>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// What leaves the viewer: the clipboard's text, the exported file, paper.
+class TestViewerOutput : public OpenViewer
+{
+    Q_OBJECT
+
+private slots:
+    void init() { open(); }
+    void cleanup() { close(); }
+
+    void copiesTheRows();
+    void exportsTheGrid_data();
+    void exportsTheGrid();
+    void printsTheListAsChosen();
+    void printsThePictureList();
+    void makesLabels();
+
+private:
+    QString printedPage();
+};
+
+/// The text of the page that the preview shows.
+QString TestViewerOutput::printedPage()
+{
+    click("SSCommand80_3");
+    asked();
+    return QApplication::clipboard()->text();
+}
+
+void TestViewerOutput::copiesTheRows()
+{
+    choose(Information::State);
+    type(u"Ortega"_s);
+    trigger("mOCopy");
+    QCOMPARE(asked(), {AddressMessages::dataCopied()});
+    QCOMPARE(QApplication::clipboard()->text(), u"Name\tState\nOrtega, José\tOH\n"_s);
+}
+
+void TestViewerOutput::exportsTheGrid_data()
+{
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<bool>("isInTheWay"); // a folder of the name
+    QTest::addColumn<QByteArray>("written");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("saved") << Answer::Ok << false << QByteArray("Name\tState\r\nOrtega, Jos\xE9\tOH\r\n")
+                           << u"Saved as "_s;
+    QTest::newRow("cancelled") << Answer::Cancel << false << QByteArray("an older file") << QString();
+    QTest::newRow("failed") << Answer::Ok << true << QByteArray()
+                            << u"The file Family-Friends Data Viewer.xls could not be saved"_s;
+}
+
+void TestViewerOutput::exportsTheGrid()
+{
+    QFETCH(Answer, answer);
+    QFETCH(bool, isInTheWay);
+    QFETCH(QString, said);
+    const QString name = u"Family-Friends Data Viewer.xls"_s;
+    if (isInTheWay) {
+        QVERIFY(QDir(m_test->folder.path()).mkdir(name));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Family-Friends"_s));
+    } else {
+        m_test->setBytes(name, "an older file");
+    }
+    choose(Information::State);
+    type(u"ortega"_s);
+    m_test->dialogs.willAnswer(answer);
+    trigger("mOExp");
+    const Message notice = asked().constFirst();
+    QCOMPARE(notice.title, u"Export File in Excel/Spreadsheet Format"_s);
+    QVERIFY(notice.text.contains(m_test->folder.path()) && notice.text.contains(name));
+    QTEST(m_test->bytes(name), "written");
+    QVERIFY(said.isEmpty() || m_window->findChild<ActivityBar *>()->message().startsWith(said));
+}
+
+void TestViewerOutput::printsTheListAsChosen()
+{
+    choose(Information::State);
+    trigger("mOPrt");
+    control<QRadioButton>(*m_window, "twoColumns")->click();
+    click("printList");
+    QVERIFY(m_window->isPreviewShown());
+    auto *preview = m_window->findChild<PreviewPane *>();
+    QCOMPARE(preview->sheetCount(), 1); // forty names in two columns
+    const QString names = printedPage();
+    QVERIFY(names.contains(u"Family/Friends State List - Page No. 1\n"_s));
+    QVERIFY(names.contains(u"Kessler, Tessa\tGermany"_s));
+    QVERIFY(names.endsWith(u"Quillery\nPrinted on 11/21/2026"_s));
+
+    QTest::keyClick(preview, Qt::Key_Escape);
+    QVERIFY(!m_window->isPreviewShown());
+    for (const char *option : {"printTelephones", "printAsOf", "printGridLines"})
+        control<QCheckBox>(*m_window, option)->click();
+    control<QRadioButton>(*m_window, "oneColumn")->click();
+    click("printList");
+    const QString text = printedPage();
+    QVERIFY(text.contains(u"Family/Friends State List - Page No. 1\tAs of  Saturday, November 21, 2026"_s));
+    QVERIFY(text.contains(u"Kessler, Tessa    Phone: (440) 555-0100\tGermany"_s));
+}
+
+void TestViewerOutput::printsThePictureList()
+{
+    choose(Information::Pictures);
+    trigger("mOPrt");
+    QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
+    QCOMPARE(m_window->findChild<PreviewPane *>()->sheetCount(), 2);
+    const QString text = printedPage();
+    QVERIFY(text.contains(u"Family/Friends Picture List - Saturday, November 21, 2026"_s));
+    QVERIFY(text.contains(u"Vance, Ulrich"_s)); // whose picture is not there
+    QVERIFY(!text.contains(u"Quill, David"_s));
+}
+
+void TestViewerOutput::makesLabels()
+{
+    type(u"Drummond"_s);
+    trigger("mOLab");
+    auto *sheets = control<QComboBox>(*m_window, "labelSheet");
+    QVERIFY(sheets->currentText().contains(u"US Letter"_s));
+    const auto words = [this] { return control<QLabel>(*m_window, "labelCount")->text(); };
+    QCOMPARE(words(), u"4 labels on 1 sheet"_s);
+    type(u"Drummond, F"_s); // the labels follow the grid
+    QTRY_COMPARE(words(), u"1 label on 1 sheet"_s);
+    type(u"Drummond"_s);
+    QTRY_COMPARE(words(), u"4 labels on 1 sheet"_s);
+    control<QSpinBox>(*m_window, "startPosition")->setValue(28);
+    QCOMPARE(words(), u"4 labels on 2 sheets"_s);
+    m_test->dialogs.willChooseFile(m_test->temporary.filePath(u"labels.pdf"_s));
+    click("printLabels");
+    QVERIFY(QFile::exists(m_test->temporary.filePath(u"labels.pdf"_s)));
+    sheets->setCurrentText(u"Envelope DL, 220 x 110 mm"_s);
+    QCOMPARE(words(), u"4 envelopes"_s);
+    QVERIFY(!control<QSpinBox>(*m_window, "startPosition")->isVisible());
+    QTest::keyClick(sheets, Qt::Key_Escape);
+    QVERIFY(grid()->isVisible());
+}
+
+QTEST_MAIN(TestViewerOutput)
+#include "tst_vieweroutput.moc"
