@@ -27,6 +27,14 @@ ButtonRow::ButtonRow(QWidget *parent)
     setSizePolicy(policy);
 }
 
+void ButtonRow::add(QPushButton *button, QVector<QPushButton *> &group)
+{
+    group.append(button);
+    const QVector<QPushButton *> all = m_left + m_right;
+    for (qsizetype i = 1; i < all.size(); ++i)
+        setTabOrder(all[i - 1], all[i]);
+}
+
 int ButtonRow::groupWidth(const QVector<QPushButton *> &group) const
 {
     int width = 0;

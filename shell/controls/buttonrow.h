@@ -13,8 +13,9 @@ class ButtonRow final : public QWidget
 public:
     explicit ButtonRow(QWidget *parent = nullptr);
 
-    void addLeft(QPushButton *button) { m_left.append(button); }
-    void addRight(QPushButton *button) { m_right.append(button); }
+    /// Tab goes through the buttons from left to right.
+    void addLeft(QPushButton *button) { add(button, m_left); }
+    void addRight(QPushButton *button) { add(button, m_right); }
     /// Quiet words behind the left group; empty takes them away.
     void setWords(const QString &words);
     /// Call after buttons were shown, hidden or renamed.
@@ -34,6 +35,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void add(QPushButton *button, QVector<QPushButton *> &group);
     int groupWidth(const QVector<QPushButton *> &group) const;
     int behindLeft() const;
     bool haveWordsRoom() const;
