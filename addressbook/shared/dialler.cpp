@@ -1,6 +1,7 @@
 #include "addressbook/shared/dialler.h"
 
 #include "addressbook/model/messages.h"
+#include "addressbook/shared/serialmodem.h"
 #include "shell/program/program.h"
 
 #include <QLabel>
@@ -12,7 +13,10 @@ Dialler::Dialler(Program &program, QWidget *window, QLabel *dialing, MakeModem m
     , m_window(window)
     , m_dialing(dialing)
     , m_makeModem(std::move(makeModem))
-{}
+{
+    if (!m_makeModem)
+        m_makeModem = [] { return std::make_unique<SerialModem>(); };
+}
 
 bool Dialler::call(const QString &number)
 {

@@ -16,7 +16,8 @@ class Dialler final : private CallDesk
 public:
     using MakeModem = std::function<std::unique_ptr<Modem>()>;
 
-    /// `dialing` is the label "Dialing...", shown while a call is being set up.
+    /// `dialing` is the label "Dialing...", shown while a call is being set up. Without `makeModem`, calls go
+    /// over the machine's serial ports.
     Dialler(Program &program, QWidget *window, QLabel *dialing, MakeModem makeModem);
 
     /// Dials `number` and waits until the person has taken the call or given up. False when another port was
