@@ -71,6 +71,7 @@ AddressForm::AddressForm(const Clock &clock, const DateStyle &style, QWidget *wi
     m_columns->addWidget(makeHomeColumn(), 5);
     m_columns->addWidget(makeOtherColumn(), 3);
     setMaximumWidth(2 * greatestWidth + columnGap);
+    setTabOrders();
     paintIcons();
 }
 
@@ -259,12 +260,16 @@ void AddressForm::refreshFacts()
     m_anniversaryFact->setText(DateFacts::ofAnniversary(m_anniversary->date().value_or(QDate()), today));
 }
 
-QVector<QWidget *> AddressForm::tabOrder() const
+/// Tab goes through the form in reading order.
+void AddressForm::setTabOrders()
 {
-    return {m_boxes[LastName],  m_boxes[FirstName], m_boxes[BirthDate],   m_boxes[Address1],
-            m_boxes[Address2],  m_boxes[City],      m_boxes[State],       m_boxes[PostalCode],
-            m_boxes[HomePhone], m_dialButtons[0],   m_boxes[MobilePhone], m_dialButtons[1],
-            m_enlarge,          m_boxes[Fax],       m_boxes[Email],       m_boxes[AnniversaryDate]};
+    const std::array<QWidget *, 16> order{
+        m_boxes[LastName],  m_boxes[FirstName], m_boxes[BirthDate],   m_boxes[Address1],
+        m_boxes[Address2],  m_boxes[City],      m_boxes[State],       m_boxes[PostalCode],
+        m_boxes[HomePhone], m_dialButtons[0],   m_boxes[MobilePhone], m_dialButtons[1],
+        m_enlarge,          m_boxes[Fax],       m_boxes[Email],       m_boxes[AnniversaryDate]};
+    for (std::size_t i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 /// The picture takes the height that the second group leaves, but no more than it can fill.

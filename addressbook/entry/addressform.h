@@ -52,9 +52,6 @@ public:
 
     QSize minimumSizeHint() const override;
 
-    /// Everything that takes the focus, in reading order.
-    QVector<QWidget *> tabOrder() const;
-
 signals:
     void edited();
     /// A quiet line for the status bar.
@@ -70,6 +67,7 @@ protected:
 private:
     void makeBoxes();
     void makeDialButtons();
+    void setTabOrders();
     QWidget *makeHomeColumn();
     QWidget *makeOtherColumn();
     void addPhones(QVBoxLayout *column);

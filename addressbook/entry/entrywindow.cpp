@@ -1,26 +1,22 @@
 #include "addressbook/entry/entrywindow.h"
 
 #include "addressbook/entry/addressform.h"
-#include "addressbook/entry/namelistmodel.h"
-#include "addressbook/entry/namelistview.h"
+#include "addressbook/entry/entrylist.h"
 #include "addressbook/entry/picturepanel.h"
 #include "addressbook/model/entrylines.h"
-#include "addressbook/model/indexline.h"
 #include "addressbook/model/messages.h"
 #include "shell/controls/activitybar.h"
-#include "shell/controls/buttonrow.h"
-#include "shell/controls/controls.h"
+#include "shell/controls/emptypage.h"
 #include "shell/core/framelines.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/frame/sidesplitter.h"
+#include "shell/frame/workviews.h"
 #include "shell/pictures/enlargedpicture.h"
-#include "shell/pictures/pictureframe.h"
 
-#include <QItemSelectionModel>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
+#include <QApplication>
+#include <QClipboard>
 #include <QMenu>
-#include <QScopedValueRollback>
-#include <QStackedWidget>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -29,269 +25,271 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// An entry that nobody has typed into.
-AddressEntry blankEntry()
+WindowTraits traits()
 {
-    AddressEntry entry;
-    entry.picture = noPicture;
-    return entry;
+    WindowTraits traits;
+    traits.name = u"ADDBKVIEW"_s;
+    traits.caption = u"Family/Friends Data View Screen"_s;
+    traits.activity = u"View Screen"_s;
+    traits.colors = {SettingsKeys::addressEntryColor, SettingsKeys::addressEntryProgramColor,
+                     SettingsKeys::addressEntryTextColor};
+    traits.helpContext = HelpContext::AddressBook;
+    return traits;
 }
 
-/// "Miller, Anne", as the name list writes it.
-QString listName(const AddressEntry &entry)
+int listWidth(QSize window)
 {
-    const QString last = entry[LastName].trimmed();
-    const QString first = entry[FirstName].trimmed();
-    return first.isEmpty() ? last : QString(last + u", "_s + first);
+    constexpr int wideFrom = 1200;
+    return window.width() < wideFrom ? 212 : 272;
 }
 
 } // namespace
 
-bool ADDBKVIEW::isModified() const
+ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeModem)
+    : FunctionWindow(program, traits(), parent)
+    , m_book(program.folder)
+    , m_list(new EntryList({[this] { return isModified(); }, [this] { return mayReplaceShown(); }}, this))
+    , m_editor(new EntryEditor(program, this))
+    , m_dialler(program, this, m_editor->form().dialingLabel(), std::move(makeModem))
+    , m_views(new WorkViews(this))
+    , m_emptyPage(new EmptyPage("address-book"_L1, u"Nobody is in the address book yet"_s,
+                                u"Type the first entry, or take in addresses you already have."_s, this))
+    , m_picturePanel(new PicturePanel(program, PicturePanel::systemDrives, this))
+    , m_printOptions(new PrintOptions(program, m_book, *m_list, *m_editor, this))
 {
-    return m_mode != Mode::View && typedEntry() != m_loaded;
+    setWork(new SideSplitter(u"leftPaneSplitter"_s, m_list, makeWorkPanel(), listWidth));
+    makeMenus();
+    connectParts();
+    setViews(m_views);
+    finishFrame();
+    openBook(0);
 }
 
-/// What the boxes hold. A text that nobody touched stays as the file has it, even where a box cannot show all
-/// of it.
-AddressEntry ADDBKVIEW::typedEntry() const
+QWidget *ADDBKVIEW::makeWorkPanel()
 {
-    AddressEntry entry;
-    entry.texts = m_form->texts();
-    for (std::size_t i = 0; i < entry.texts.size(); ++i) {
-        if (entry.texts[i] == m_shownTexts[i])
-            entry.texts[i] = m_loaded.texts[i];
-    }
-    entry.picture = m_picture;
-    return entry;
+    QWidget *panel = makePanel(u"Panel3D1"_s);
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->addWidget(m_views);
+    m_views->addHome(m_editor);
+    m_views->addHome(m_emptyPage);
+    m_views->addPanel(m_picturePanel);
+    m_views->addPanel(m_printOptions);
+    makeEnlargedPicture();
+    return panel;
 }
 
-void ADDBKVIEW::setMode(Mode mode)
+void ADDBKVIEW::makeEnlargedPicture()
 {
-    // A page on the screen would hide what is typed into from now on.
-    closePreview();
-    m_mode = mode;
-    const bool isEntry = mode == Mode::Entry;
-    setWindowTitle(isEntry ? u"Family/Friends Data Entry Screen"_s : u"Family/Friends Data View Screen"_s);
-    activity().setActivity(isEntry ? u"Entry Screen"_s : u"View Screen"_s);
-    m_form->setLocked(mode == Mode::View);
-    m_form->setRequiredShown(mode != Mode::View);
-    refreshTitle();
-    refreshCommands();
-    refreshModified();
-    showPage(isEmptyShown() ? m_emptyPage : m_entryPage);
+    auto *enlarged = new EnlargedPicture(program().folder, u"pictureNormal"_s, u"Normal"_s, this);
+    m_views->addPanel(enlarged);
+    connect(m_editor->form().enlargeButton(), &QPushButton::clicked, this, [this, enlarged] {
+        enlarged->enlarge(m_editor->picture());
+        m_views->open(enlarged);
+        enlarged->setFocus();
+    });
+}
+
+void ADDBKVIEW::makeMenus()
+{
+    QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
+    QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
+    addUtilitiesMenu();
+    addHelpEntry();
+    addCommands(options, edit);
+    // Alt+E belongs to "Enter Picture Into Program" while the panel of pictures is open.
+    connect(m_views, &WorkViews::changed, edit, [this, edit](const QWidget *view) {
+        edit->setTitle(view == m_picturePanel ? u"Edit"_s : u"&Edit"_s);
+    });
+}
+
+void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
+{
+    const auto entryOnly = [this] { return isNew() ? QString() : AddressLines::onEntryScreenOnly(); };
+    const auto noneShown = [this] { return isEmptyShown() ? AddressLines::bookIsEmpty() : QString(); };
+    const auto fixed = [this] { return whyUnchangeable(); };
+    const auto viewed = [this] { return mode() == Mode::View ? AddressLines::alreadyThere() : QString(); };
+    const auto entered = [this] { return isNew() ? AddressLines::alreadyThere() : QString(); };
+    const auto add = [this, options](const QString &name, const QString &caption, void (ADDBKVIEW::*run)(),
+                                     Commands::Reason unless = {}) {
+        return commands().add(
+            options, name, caption, [this, run] { (this->*run)(); }, std::move(unless));
+    };
+    options->addActions({standard(Standard::PanelColor), standard(Standard::TextColor)});
+    add(u"mOV"_s, u"&View"_s, &ADDBKVIEW::viewSelected);
+    options->addSeparator();
+    QAction *clear = add(u"mOClr"_s, u"&Clear Current Data"_s, &ADDBKVIEW::clearData, entryOnly);
+    QAction *saveNew = add(u"mONS"_s, u"&Save && New Screen"_s, &ADDBKVIEW::saveAndNew, entryOnly);
+    QAction *copy = add(u"mOCopy"_s, u"Cop&y"_s, &ADDBKVIEW::copyShown, noneShown);
+    QAction *remove = add(u"mODel"_s, u"Delete &File"_s, &ADDBKVIEW::deleteShown, fixed);
+    QAction *print = add(u"mOPrt"_s, u"&Print File"_s, &ADDBKVIEW::printShown, noneShown);
+    m_modify = add(u"mOMod"_s, u"&Make Modifications"_s, &ADDBKVIEW::modifyOrSave, fixed);
+    options->addSeparator();
+    add(u"mOVS"_s, u"&View Screen"_s, &ADDBKVIEW::viewSelected, viewed);
+    QAction *enter = add(u"mOES"_s, u"E&ntry Screen"_s, &ADDBKVIEW::switchMode, entered);
+    add(u"mOW"_s, u"Print &Worksheet"_s, &ADDBKVIEW::printWorksheet);
+    options->addSeparator();
+    options->addAction(standard(Standard::Exit));
+    commands().repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
+    commands().repeat(m_modify, edit, u"mEMod1"_s);
+    makeToolbar(copy, print);
+    makeButtons(clear, saveNew, remove);
+    makeEmptyButtons(enter);
+}
+
+void ADDBKVIEW::makeEmptyButtons(QAction *enter)
+{
+    Commands &can = commands();
+    m_emptyPage->addButton(
+        can.button(enter, u"emptyEntryScreen"_s, u"E&ntry Screen"_s, m_emptyPage, ButtonKind::Main));
+    m_emptyPage->addButton(can.button(standard(Standard::Restore), u"emptyRestore"_s,
+                                      u"&Restore Files from Disk"_s, m_emptyPage));
+}
+
+void ADDBKVIEW::makeToolbar(QAction *copy, QAction *print)
+{
+    commands().tool(copy, "copy"_L1, u"Copy"_s);
+    commands().tool(print, "print"_L1, u"Print File"_s);
+    commands().separateTools();
+    addStandardTool(Standard::PanelColor);
+    addStandardTool(Standard::Backup);
+    addStandardTool(Standard::Help);
+}
+
+void ADDBKVIEW::makeButtons(QAction *clear, QAction *saveNew, QAction *remove)
+{
+    using On = EntryEditor::On;
+    using Side = TaskPanel::Side;
+    Commands &can = commands();
+    const auto add = [this](QPushButton *button, Side side, On screen = On::BothScreens) {
+        m_editor->addButton(button, side, screen);
+    };
+    QAction *picture = can.add(
+        nullptr, u"loadPicture"_s, u"&Load Picture"_s, [this] { loadPicture(); },
+        [this] { return isNew() ? QString() : whyUnchangeable(); });
+    QAction *printOptions =
+        can.add(nullptr, u"showPrintOptions"_s, u"&Print Options"_s, [this] { showPrintOptions(); });
+    m_otherScreen = can.add(nullptr, u"otherScreen"_s, u"&View Screen"_s, [this] { switchMode(); });
+    add(can.button(clear, u"Command2"_s, u"&Clear Current Data"_s, this), Side::Left, On::EntryScreen);
+    add(can.button(remove, u"Command3"_s, u"Delete &File"_s, this), Side::Left, On::ViewScreen);
+    add(can.button(picture, u"Command7"_s, u"&Load Picture"_s, this), Side::Left);
+    add(can.button(printOptions, u"Command5"_s, u"&Print Options"_s, this), Side::Left, On::ViewScreen);
+    add(can.button(m_otherScreen, u"Command6"_s, u"&View Screen"_s, this), Side::Right);
+    add(can.button(m_modify, u"Command4"_s, u"&Make Modifications"_s, this, ButtonKind::Main), Side::Right,
+        On::ViewScreen);
+    add(can.button(saveNew, u"Command1"_s, u"&Save && New Screen"_s, this, ButtonKind::Main), Side::Right,
+        On::EntryScreen);
+    add(can.button(standard(Standard::Exit), u"Command8"_s, u"E&xit"_s, this), Side::Right);
+}
+
+void ADDBKVIEW::connectParts()
+{
+    connect(m_list, &EntryList::rowShown, this, &ADDBKVIEW::showLine);
+    connect(m_list, &EntryList::nothingFound, this, [this] { ask(AddressMessages::noMatch()); });
+    connect(m_editor, &EntryEditor::changed, this, &ADDBKVIEW::refreshScreen);
+    connect(m_editor, &EntryEditor::said, &activity(), &ActivityBar::say);
+    connect(&m_editor->form(), &AddressForm::dialRequested, this, [this](const QString &number) {
+        if (!m_dialler.call(number))
+            activity().say(FrameLines::settingNotSaved());
+    });
+    connect(m_picturePanel, &PicturePanel::pictureEntered, this, &ADDBKVIEW::takePicture);
+    connect(m_picturePanel, &PicturePanel::pictureDeleted, this, [this] { takePicture(noPicture); });
+    connect(m_picturePanel, &PicturePanel::said, &activity(), &ActivityBar::say);
+    connect(m_printOptions, &PrintOptions::pageRequested, this,
+            [this](const PrintOptions::PageBuilder &page, const QString &job) { showPreview(page, job); });
 }
 
 bool ADDBKVIEW::isEmptyShown() const
 {
-    return m_mode != Mode::Entry && m_names->names().isEmpty();
+    return !isNew() && m_list->names().isEmpty();
 }
 
-void ADDBKVIEW::refreshTitle()
+QString ADDBKVIEW::whyUnchangeable() const
 {
-    QString title = m_mode == Mode::Entry ? u"New entry"_s : listName(m_loaded);
-    if (title.isEmpty())
-        title = m_list->currentIndex().data().toString();
-    m_title->setText(title);
-    m_chip->setText(m_mode == Mode::Entry ? u"Entry"_s : m_mode == Mode::Modify ? u"Modify"_s : u"View"_s);
+    return isEmptyShown() ? AddressLines::bookIsEmpty() : m_editor->whyUnchangeable();
 }
 
-void ADDBKVIEW::refreshCount()
+void ADDBKVIEW::refreshScreen()
 {
-    m_count->setText(m_names->names().countCaption());
+    // A page on the screen would hide what is typed into from now on.
+    closePreview();
+    setWindowTitle(isNew() ? u"Family/Friends Data Entry Screen"_s : u"Family/Friends Data View Screen"_s);
+    activity().setActivity(isNew() ? u"Entry Screen"_s : u"View Screen"_s);
+    const bool isModifying = mode() == Mode::Modify;
+    commands().setCaption(m_modify, isModifying ? u"&Save Modifications"_s : u"&Make Modifications"_s);
+    commands().setCaption(m_otherScreen, isNew() ? u"&View Screen"_s : u"E&ntry Screen"_s);
+    m_editor->rearrangeButtons();
+    m_views->setHome(isEmptyShown() ? static_cast<QWidget *>(m_emptyPage) : m_editor);
+    m_views->goHome();
+    commands().refresh();
 }
 
-void ADDBKVIEW::refreshModified()
+void ADDBKVIEW::openBook(int row)
 {
-    m_buttonRow->setWords(isModified() ? FrameLines::unsavedChanges() : QString());
-    refreshNameHint();
+    m_list->setNames(m_book.loadNames());
+    if (m_list->names().isEmpty()) {
+        showNothing();
+    } else {
+        m_list->showRow(std::min(row, m_list->names().count() - 1));
+        m_list->setFocus();
+    }
 }
 
-void ADDBKVIEW::refreshNameHint()
+void ADDBKVIEW::showLine(int row)
 {
-    const bool fits = IndexLine::fits(m_form->box(LastName)->text(), m_form->box(FirstName)->text());
-    m_form->setNameHint(m_mode == Mode::View || fits ? QString() : AddressMessages::nameTooLong());
-}
-
-void ADDBKVIEW::showPage(QWidget *page)
-{
-    m_pages->setCurrentWidget(page);
-    // Alt+E belongs to "Enter Picture Into Program" while the panel of pictures is open.
-    m_editMenu->setTitle(page == m_picturePanel ? u"Edit"_s : u"&Edit"_s);
-}
-
-void ADDBKVIEW::leavePanel()
-{
-    const bool wasEnlarged = m_pages->currentWidget() == m_enlarged;
-    showPage(isEmptyShown() ? m_emptyPage : m_entryPage);
-    if (wasEnlarged && m_form->enlargeButton()->isVisible())
-        m_form->enlargeButton()->setFocus();
-    else
-        (m_mode == Mode::View ? static_cast<QWidget *>(m_list) : m_form->box(LastName))->setFocus();
-}
-
-void ADDBKVIEW::showEntry(const AddressEntry &entry)
-{
-    m_loaded = entry;
-    m_picture = entry.picture;
-    m_form->setTexts(entry.texts);
-    m_shownTexts = m_form->texts();
     activity().say(std::exchange(m_toSay, {}));
-    showPicture();
-    refreshTitle();
-    refreshModified();
-}
-
-void ADDBKVIEW::showPicture()
-{
-    AddressEntry shown;
-    shown.picture = m_picture;
-    PictureFrame *frame = m_form->picture();
-    frame->clear();
-    if (!shown.hasPicture())
-        return;
-    const QString path = m_pictures.locate(m_picture);
-    if (path.isEmpty() || !frame->setPicture(path))
-        activity().say(AddressLines::pictureNotFound(m_picture));
-}
-
-void ADDBKVIEW::loadNames()
-{
-    const QScopedValueRollback<bool> still(m_isFollowing, false);
-    m_names->setNames(m_book.loadNames());
-    refreshCount();
-}
-
-int ADDBKVIEW::selectedRow() const
-{
-    const QModelIndexList rows = m_list->selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : rows.first().row();
-}
-
-void ADDBKVIEW::selectRow(int row)
-{
-    const QScopedValueRollback<bool> still(m_isFollowing, false);
-    if (row < 0) {
-        m_list->selectionModel()->clear();
-        return;
-    }
-    m_list->setCurrentIndex(m_names->index(row));
-    m_list->scrollTo(m_names->index(row));
-}
-
-void ADDBKVIEW::selectionMoved()
-{
-    if (!m_isFollowing || m_isAsking || selectedRow() < 0)
-        return;
-    if (!isModified()) {
-        showSelected();
-        return;
-    }
-    // The question waits until the list has done with the click: an answer may have to take the selection
-    // back.
-    m_isAsking = true;
-    QMetaObject::invokeMethod(this, &ADDBKVIEW::followSelection, Qt::QueuedConnection);
-}
-
-void ADDBKVIEW::followSelection()
-{
-    const QPersistentModelIndex wanted = m_names->index(selectedRow());
-    const bool mayGo = mayReplaceShown();
-    m_isAsking = false;
-    selectRow(mayGo ? wanted.row() : m_shown.row());
-    if (mayGo)
-        showSelected();
-}
-
-void ADDBKVIEW::showSelected()
-{
-    const int row = selectedRow();
-    const QString line = m_names->names().line(row);
-    const AddressBook::Found found = m_book.open(line);
-    m_shown = m_names->index(row);
-    m_record = found.record;
-    m_mayChange = found.mayChange;
-    m_mode = Mode::View;
-    showEntry(found.entry);
-    setMode(Mode::View);
-    if (found.record == 0 && !line.isEmpty())
-        activity().say(AddressMessages::lineWithoutNumber());
-    else if (found.record == 0 || found.entry.isEmpty())
-        activity().say(AddressMessages::entryNotFound());
-    else if (!found.mayChange)
-        activity().say(AddressMessages::lineOfAnotherEntry());
+    const QString line = m_list->names().line(row);
+    m_editor->show(m_book.open(line), line);
 }
 
 void ADDBKVIEW::showNothing()
 {
-    m_shown = QPersistentModelIndex();
-    m_record = 0;
-    m_mayChange = false;
-    m_mode = Mode::View;
-    showEntry(blankEntry());
-    setMode(Mode::View);
+    m_list->showNone();
+    m_editor->show({});
     activity().say(AddressLines::nothingSaved());
-    m_emptyPage->setFocus(); // its main button
+    m_emptyPage->setFocus();
 }
 
 bool ADDBKVIEW::showRecord(int record)
 {
-    if (m_names->names().positionOf(record) < 0)
+    if (m_list->names().positionOf(record) < 0)
         return false;
     closePreview();
-    if (mayReplaceShown()) {
-        // Only now: what was saved has moved its line to the end of the list.
-        const int row = m_names->names().positionOf(record);
-        if (row < 0)
-            return true; // its own line has outgrown the list: the saved entry is shown
-        selectRow(row);
-        showSelected();
-        m_list->setFocus();
-    }
+    m_list->showRecord(record);
     return true;
 }
 
-void ADDBKVIEW::searchNames()
+Message ADDBKVIEW::leaveQuestion() const
 {
-    const int row = m_names->names().find(m_searchBox->text());
-    if (row < 0) {
-        ask(AddressMessages::noMatch());
-        focusSearchBox();
-        return;
-    }
-    m_list->setFocus();
-    m_list->setCurrentIndex(m_names->index(row));
+    return AddressMessages::saveChanges();
 }
 
-void ADDBKVIEW::focusSearchBox()
+bool ADDBKVIEW::mayReplaceShown()
 {
-    m_searchBox->setFocus();
-    m_searchBox->selectAll();
+    const bool wasModified = isModified();
+    if (!mayReplace(leaveQuestion()))
+        return false;
+    // What a save told stays when another entry takes the screen.
+    if (wasModified && !isModified())
+        m_toSay = activity().message();
+    return true;
 }
 
 void ADDBKVIEW::viewSelected()
 {
-    if (m_names->names().isEmpty()) {
+    if (m_list->names().isEmpty()) {
         ask(AddressMessages::nothingToView());
-        return;
-    }
-    if (selectedRow() < 0) {
+    } else if (m_list->selectedRow() < 0) {
         ask(AddressMessages::nameNotSelected());
-        focusSearchBox();
-        return;
+        m_list->startSearch();
+    } else if (m_list->showSelected()) {
+        m_list->setFocus();
     }
-    const QPersistentModelIndex wanted = m_names->index(selectedRow());
-    if (!mayReplaceShown())
-        return;
-    if (wanted.isValid())
-        selectRow(wanted.row());
-    showSelected();
-    m_list->setFocus();
 }
 
 void ADDBKVIEW::switchMode()
 {
-    if (m_mode == Mode::Entry)
+    if (isNew())
         viewSelected();
     else if (mayReplaceShown())
         startEntry();
@@ -299,45 +297,108 @@ void ADDBKVIEW::switchMode()
 
 void ADDBKVIEW::startEntry()
 {
-    selectRow(-1);
-    m_shown = QPersistentModelIndex();
-    m_record = 0;
-    m_mayChange = false;
-    m_mode = Mode::Entry;
-    showEntry(blankEntry());
-    setMode(Mode::Entry);
+    m_list->showNone();
+    m_toSay.clear();
+    m_editor->startNew();
     activity().say(AddressLines::onlyLastName());
-    m_form->box(LastName)->setFocus();
+    m_editor->form().box(LastName)->setFocus();
 }
 
-void ADDBKVIEW::keyPressEvent(QKeyEvent *event)
+/// A new entry that was saved is shown as the entry that it now is: saved once more it would be there twice.
+bool ADDBKVIEW::save()
 {
-    const bool isOverWork =
-        m_pages->currentWidget() != m_entryPage && m_pages->currentWidget() != m_emptyPage;
-    if (event->key() == Qt::Key_Escape && isOverWork && !isPreviewShown())
-        leavePanel();
+    if (!isLastNameGiven())
+        return false;
+    const AddressBook::SaveResult result = m_editor->save(m_book);
+    if (!result.isEntryWritten)
+        return false;
+    m_list->replaceShown(result.line);
+    m_editor->lock();
+    return true;
+}
+
+bool ADDBKVIEW::isLastNameGiven()
+{
+    FieldBox *box = m_editor->form().box(LastName);
+    const bool isMark = box->text().startsWith("****"_L1) || box->text().trimmed().startsWith("####"_L1);
+    if (!box->text().isEmpty() && !isMark)
+        return true;
+    if (isMark)
+        activity().say(AddressMessages::markedName());
     else
-        FunctionWindow::keyPressEvent(event);
+        ask(AddressMessages::lastNameMissing());
+    closePreview();
+    m_views->goHome();
+    box->setFocus();
+    return false;
 }
 
-bool ADDBKVIEW::eventFilter(QObject *watched, QEvent *event)
+void ADDBKVIEW::saveAndNew()
 {
-    if (watched == m_searchBox && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Escape && !m_searchBox->text().isEmpty()) {
-            m_searchBox->clear();
-            return true;
-        }
-        if (key == Qt::Key_Down) {
-            m_list->setFocus();
-            return true;
-        }
+    if (!save())
+        return;
+    const QString said = activity().message();
+    startEntry();
+    activity().say(said);
+}
+
+void ADDBKVIEW::clearData()
+{
+    if (ask(AddressMessages::clearCurrentData()) == Answer::Yes)
+        startEntry();
+}
+
+void ADDBKVIEW::modifyOrSave()
+{
+    if (mode() == Mode::View) {
+        m_editor->modify();
+        m_editor->form().box(LastName)->setFocus();
+        return;
     }
-    return FunctionWindow::eventFilter(watched, event);
+    const bool wasTyping = m_editor->form().isAncestorOf(QApplication::focusWidget());
+    if (save() && wasTyping)
+        m_list->setFocus();
 }
 
-void ADDBKVIEW::resizeEvent(QResizeEvent *event)
+void ADDBKVIEW::deleteShown()
 {
-    FunctionWindow::resizeEvent(event);
-    placeSplitter();
+    const AddressEntry &entry = m_editor->loaded();
+    const QString names = entry.fullName();
+    if (ask(AddressMessages::deleteEntry(names)) != Answer::Yes)
+        return;
+    if (!m_book.remove(m_editor->record())) {
+        const bool isGone = m_book.read(m_editor->record())[LastName] != entry[LastName];
+        activity().say(isGone ? AddressMessages::lineNotDeleted() : AddressMessages::deleteFailed());
+        return;
+    }
+    openBook(m_list->shownRow());
+    activity().say(AddressLines::deleted(names));
+}
+
+void ADDBKVIEW::copyShown()
+{
+    QApplication::clipboard()->setText(AddressPages::clipboardText(m_editor->typed()));
+    ask(AddressMessages::dataCopied());
+}
+
+void ADDBKVIEW::showPrintOptions()
+{
+    closePreview();
+    m_views->open(m_printOptions);
+    m_printOptions->start();
+}
+
+void ADDBKVIEW::loadPicture()
+{
+    closePreview();
+    m_views->open(m_picturePanel);
+    const QString picture = m_editor->picture();
+    m_picturePanel->start(picture != noPicture && !picture.isEmpty());
+}
+
+void ADDBKVIEW::takePicture(const QString &path)
+{
+    m_editor->setPicture(path);
+    m_views->goHome();
+    m_editor->form().box(LastName)->setFocus();
 }

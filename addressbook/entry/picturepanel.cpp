@@ -4,7 +4,6 @@
 #include "addressbook/model/entrylines.h"
 #include "addressbook/model/messages.h"
 #include "shell/controls/busycursor.h"
-#include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/core/framelines.h"
@@ -14,7 +13,6 @@
 
 #include <QComboBox>
 #include <QDir>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -58,15 +56,15 @@ bool isReadableFolder(const QString &path)
 } // namespace
 
 PicturePanel::PicturePanel(Program &program, Drives drives, QWidget *parent)
-    : QWidget(parent)
+    : TaskPanel(u"picturePanel"_s, u"Select Family/Friends Picture"_s, parent)
     , m_program(program)
     , m_pictures(program.folder)
     , m_drives(std::move(drives))
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(24, 20, 24, 20);
+    auto *work = new QWidget(this);
+    auto *layout = new QVBoxLayout(work);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);
-    layout->addWidget(named(makeTitle(u"Select Family/Friends Picture"_s, this), u"pictureTitle"_s));
     auto *pathLine = new QHBoxLayout;
     pathLine->setSpacing(8);
     m_path = named(new ElidedLabel(this), u"picturePath"_s);
@@ -78,8 +76,8 @@ PicturePanel::PicturePanel(Program &program, Drives drives, QWidget *parent)
     middle->addWidget(makeLists(), 3);
     middle->addWidget(makePreview(), 2);
     layout->addLayout(middle, 1);
-    layout->addWidget(makeLine(this));
-    layout->addWidget(makeButtons());
+    setWork(work);
+    makeButtons();
 }
 
 QWidget *PicturePanel::makeLists()
@@ -119,19 +117,14 @@ QWidget *PicturePanel::makePreview()
     return side;
 }
 
-QWidget *PicturePanel::makeButtons()
+void PicturePanel::makeButtons()
 {
-    auto *row = named(new ButtonRow(this), u"pictureButtons"_s);
-    m_delete = makeButton(u"pictureDelete"_s, u"Exit an &Delete Current Picture"_s, row);
-    QPushButton *leave = makeButton(u"pictureExit"_s, u"E&xit Without Entering Picture"_s, row);
-    m_enter = makeButton(u"pictureEnter"_s, u"&Enter Picture Into Program"_s, row, ButtonKind::Main);
-    row->addLeft(m_delete);
-    row->addRight(m_enter);
-    row->addRight(leave);
+    m_delete =
+        addButton(u"pictureDelete"_s, u"Exit an &Delete Current Picture"_s, ButtonKind::Plain, Side::Left);
+    m_enter = addButton(u"pictureEnter"_s, u"&Enter Picture Into Program"_s, ButtonKind::Main);
+    setLeaveButton(u"pictureExit"_s, u"E&xit Without Entering Picture"_s);
     connect(m_delete, &QPushButton::clicked, this, &PicturePanel::pictureDeleted);
-    connect(leave, &QPushButton::clicked, this, &PicturePanel::left);
     connect(m_enter, &QPushButton::clicked, this, &PicturePanel::enterPicture);
-    return row;
 }
 
 QStringList PicturePanel::systemDrives()
@@ -279,12 +272,4 @@ void PicturePanel::enterPicture()
     emit pictureEntered(path);
     if (!isRemembered)
         emit said(FrameLines::settingNotSaved());
-}
-
-void PicturePanel::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape)
-        emit left();
-    else
-        QWidget::keyPressEvent(event);
 }

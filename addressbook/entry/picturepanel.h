@@ -1,8 +1,7 @@
 #pragma once
 
+#include "shell/controls/taskpanel.h"
 #include "shell/pictures/picturefolder.h"
-
-#include <QWidget>
 
 #include <functional>
 
@@ -16,7 +15,7 @@ struct Program;
 
 /// "Select Family/Friends Picture": drives, folders and picture files, with a preview. It starts in the
 /// folder used last and remembers the one that a picture was taken from.
-class PicturePanel final : public QWidget
+class PicturePanel final : public TaskPanel
 {
     Q_OBJECT
 public:
@@ -33,17 +32,13 @@ public:
 signals:
     void pictureEntered(const QString &path);
     void pictureDeleted();
-    void left();
     /// A quiet line for the status bar.
     void said(const QString &line);
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QWidget *makeLists();
     QWidget *makePreview();
-    QWidget *makeButtons();
+    void makeButtons();
     void fillDrives();
     QString startFolder() const;
     bool showFolder(const QString &path);

@@ -1,13 +1,16 @@
 #include "addressbook/entry/printoptions.h"
 
+#include "addressbook/entry/entryeditor.h"
+#include "addressbook/entry/entrylist.h"
 #include "addressbook/model/entrylines.h"
-#include "shell/controls/controls.h"
+#include "addressbook/model/messages.h"
+#include "shell/controls/busycursor.h"
+#include "shell/pictures/picturefolder.h"
+#include "shell/program/program.h"
 
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QSpinBox>
 
 #include <algorithm>
@@ -21,14 +24,14 @@ namespace {
 constexpr int recommended = 16;
 } // namespace
 
-PrintOptions::PrintOptions(QWidget *parent)
-    : QWidget(parent)
+PrintOptions::PrintOptions(Program &program, const AddressBook &book, const EntryList &list,
+                           const EntryEditor &editor, QWidget *parent)
+    : TaskPanel(u"printOptions"_s, u"Print Options"_s, parent)
+    , m_program(program)
+    , m_book(book)
+    , m_list(list)
+    , m_editor(editor)
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(24, 20, 24, 20);
-    layout->setSpacing(12);
-    layout->addWidget(makeTitle(u"Print Options"_s, this));
-    layout->addSpacing(4);
     auto *content = new QWidget;
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
@@ -37,14 +40,8 @@ PrintOptions::PrintOptions(QWidget *parent)
     column->addWidget(makeRange());
     column->addWidget(makeChoices());
     column->addStretch(1);
-    layout->addWidget(makeScrolling(content, u"printOptionsScroll"_s, this), 1);
-    layout->addWidget(makeLine(this));
-    auto *foot = new QHBoxLayout;
-    QPushButton *leave = makeButton(u"printOptionsExit"_s, u"Close"_s, this);
-    connect(leave, &QPushButton::clicked, this, &PrintOptions::left);
-    foot->addStretch(1);
-    foot->addWidget(leave);
-    layout->addLayout(foot);
+    setContent(content);
+    setLeaveButton(u"printOptionsExit"_s, u"Close"_s);
 }
 
 QWidget *PrintOptions::makeRange()
@@ -89,7 +86,7 @@ QWidget *PrintOptions::makeChoices()
     for (const auto &[perSheet, words] : sizes) {
         const QString number = QString::number(int(perSheet));
         QPushButton *button = makeButton(u"print"_s + number, u"Print "_s + number, choices);
-        connect(button, &QPushButton::clicked, this, [this, size = perSheet] { emit cardsRequested(size); });
+        connect(button, &QPushButton::clicked, this, [this, size = perSheet] { printCards(size); });
         addChoice(button, words);
         m_cards.append(button);
     }
@@ -99,17 +96,17 @@ QWidget *PrintOptions::makeChoices()
     addChoice(m_entry, u"The entry that is shown"_s);
     QPushButton *worksheet = makeButton(u"printWorksheet"_s, u"Print &Worksheet"_s, choices);
     addChoice(worksheet, u"An empty form to fill in by hand"_s);
-    connect(m_entry, &QPushButton::clicked, this, &PrintOptions::entryRequested);
-    connect(worksheet, &QPushButton::clicked, this, &PrintOptions::worksheetRequested);
+    connect(m_entry, &QPushButton::clicked, this, &PrintOptions::printShown);
+    connect(worksheet, &QPushButton::clicked, this, &PrintOptions::printWorksheet);
     return choices;
 }
 
-void PrintOptions::start(int selected, int total)
+void PrintOptions::start()
 {
-    m_selected = selected;
-    m_total = total;
-    m_all->setText(u"All entries: %1"_s.arg(total));
+    const int total = m_list.names().count();
+    const int selected = m_list.selectedRow();
     const int following = selected < 0 ? 0 : total - selected;
+    m_all->setText(u"All entries: %1"_s.arg(total));
     m_count->setRange(1, std::max(1, following));
     m_count->setValue(std::min(recommended, following));
     setUnavailable(m_some, following > 0 ? QString() : AddressLines::chooseNameFirst());
@@ -118,6 +115,7 @@ void PrintOptions::start(int selected, int total)
     for (QPushButton *button : std::as_const(m_cards))
         setUnavailable(button, total > 0 ? QString() : AddressLines::bookIsEmpty());
     setUnavailable(m_entry, selected >= 0 ? QString() : AddressLines::chooseNameFirst());
+    m_cards.first()->setFocus();
 }
 
 void PrintOptions::offerCount()
@@ -125,22 +123,39 @@ void PrintOptions::offerCount()
     setUnavailable(m_count, m_some->isChecked() ? QString() : AddressLines::allArePrinted());
 }
 
-void PrintOptions::focusFirst()
+void PrintOptions::printShown()
 {
-    m_cards.first()->setFocus();
+    const auto page = [this](const PageContext &context) {
+        return AddressPages::entryPage(m_editor.typed(), m_editor.picturePath(), context);
+    };
+    const QString names = m_editor.typed().fullName();
+    emit pageRequested(page, names.isEmpty() ? u"Entry"_s : names);
 }
 
-PrintOptions::Range PrintOptions::range() const
+void PrintOptions::printWorksheet()
 {
-    if (m_some->isChecked())
-        return {m_selected, m_count->value()};
-    return {0, m_total};
+    emit pageRequested(AddressPages::worksheet, u"Family and Friends Worksheet"_s);
 }
 
-void PrintOptions::keyPressEvent(QKeyEvent *event)
+AddressPages::Source PrintOptions::chosenEntries() const
 {
-    if (event->key() == Qt::Key_Escape)
-        emit left();
-    else
-        QWidget::keyPressEvent(event);
+    const NameList &names = m_list.names();
+    return m_some->isChecked()
+               ? AddressPages::entriesOf(m_book, names, m_list.selectedRow(), m_count->value())
+               : AddressPages::entriesOf(m_book, names, 0, names.count());
+}
+
+void PrintOptions::printCards(AddressPages::PerSheet perSheet)
+{
+    const AddressPages::Source entries = chosenEntries();
+    if (AddressPages::hasManyPictures(entries) &&
+        m_program.dialogs.ask(this, AddressMessages::manyPictures()) != Answer::Ok)
+        return;
+    const auto page = [pictures = PictureFolder(m_program.folder), perSheet,
+                       entries](const PageContext &context) {
+        const BusyCursor busy;
+        const auto find = [&pictures](const QString &stored) { return pictures.locate(stored); };
+        return AddressPages::cards(perSheet, entries, find, context);
+    };
+    emit pageRequested(page, u"Family and Friends"_s);
 }

@@ -1,48 +1,46 @@
 #pragma once
 
 #include "addressbook/model/addresspages.h"
+#include "shell/controls/taskpanel.h"
 
-#include <QWidget>
-
-class QPushButton;
+class EntryEditor;
+class EntryList;
 class QRadioButton;
 class QSpinBox;
+struct Program;
 
-/// The print options: several entries on a sheet, with their pictures; all of them, or so many from the
-/// selected name on.
-class PrintOptions final : public QWidget
+/// The print options, and the pages that they lead to: several entries on a sheet with their pictures, all of
+/// them or so many from the selected name on; the shown entry; the worksheet.
+class PrintOptions final : public TaskPanel
 {
     Q_OBJECT
 public:
-    explicit PrintOptions(QWidget *parent = nullptr);
+    using PageBuilder = std::function<Page(const PageContext &)>;
 
-    /// Which lines of the name list to print.
-    struct Range {
-        int first = 0;
-        int count = 0;
-    };
+    PrintOptions(Program &program, const AddressBook &book, const EntryList &list, const EntryEditor &editor,
+                 QWidget *parent = nullptr);
 
-    /// `selected` is the position of the selected name, or -1; `total` the number of names.
-    void start(int selected, int total);
-    Range range() const;
-    void focusFirst();
+    /// Offers what the list has now.
+    void start();
+
+    void printShown();
+    void printWorksheet();
 
 signals:
-    void entryRequested();
-    void worksheetRequested();
-    void cardsRequested(AddressPages::PerSheet perSheet);
-    void left();
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    /// `builder` may be called again, for another sheet.
+    void pageRequested(const PageBuilder &builder, const QString &jobName);
 
 private:
     QWidget *makeChoices();
     QWidget *makeRange();
     void offerCount();
+    void printCards(AddressPages::PerSheet perSheet);
+    AddressPages::Source chosenEntries() const;
 
-    int m_selected = -1;
-    int m_total = 0;
+    Program &m_program;
+    const AddressBook &m_book;
+    const EntryList &m_list;
+    const EntryEditor &m_editor;
     QVector<QPushButton *> m_cards;
     QPushButton *m_entry = nullptr;
     QRadioButton *m_all = nullptr;

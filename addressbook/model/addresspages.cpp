@@ -1,5 +1,7 @@
 #include "addressbook/model/addresspages.h"
 
+#include "addressbook/model/addressbook.h"
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -116,8 +118,33 @@ void placeCard(Page &page, const CardGrid &grid, const QRectF &place, const Addr
 
 } // namespace
 
-Page AddressPages::entryPage(const AddressEntry &entry, const QString &picturePath, DateStyle style,
-                             QDate printedOn)
+AddressPages::Source AddressPages::entriesOf(const AddressBook &book, const NameList &names, int first,
+                                             int count)
+{
+    return [&book, &names, first, count](const std::function<bool(const AddressEntry &)> &visit) {
+        AddressBook::Reader entries(book);
+        const int end = std::min(first + count, names.count());
+        for (int row = first; row < end; ++row) {
+            const int record = names.recordAt(row);
+            if (record != 0 && !visit(entries.read(record)))
+                return;
+        }
+    };
+}
+
+bool AddressPages::hasManyPictures(const Source &entries)
+{
+    constexpr int recommended = 16;
+    int pictures = 0;
+    entries([&pictures](const AddressEntry &entry) {
+        pictures += entry.hasPicture();
+        return pictures <= recommended;
+    });
+    return pictures > recommended;
+}
+
+Page AddressPages::entryPage(const AddressEntry &entry, const QString &picturePath,
+                             const PageContext &context)
 {
     Page page(u"Information For "_s + entry.fullName());
     if (!picturePath.isEmpty())
@@ -131,10 +158,10 @@ Page AddressPages::entryPage(const AddressEntry &entry, const QString &picturePa
     page.line(u"Fax:     "_s + entry[Fax]);
     page.line(u"Email:  "_s + entry[Email]);
     page.line(u"Anniversary Date:  "_s + entry[AnniversaryDate]);
-    return page.close(printedOn, style);
+    return page.close(context.today, context.style);
 }
 
-Page AddressPages::worksheet(DateStyle style, QDate printedOn)
+Page AddressPages::worksheet(const PageContext &context)
 {
     Page page(u"Family/Friends Data Worksheet"_s);
     for (const QString &label : {u"Last Name:"_s, u"First Name:"_s, u"Date of  Birth:"_s})
@@ -148,14 +175,14 @@ Page AddressPages::worksheet(DateStyle style, QDate printedOn)
     constexpr int linesForNotes = 5;
     for (int i = 0; i < linesForNotes; ++i)
         page.blank({});
-    return page.close(printedOn, style);
+    return page.close(context.today, context.style);
 }
 
-Page AddressPages::cards(PerSheet perSheet, const PageSetup &setup, const Source &entries,
-                         const PictureFinder &find, DateStyle style, QDate printedOn)
+Page AddressPages::cards(PerSheet perSheet, const Source &entries, const PictureFinder &find,
+                         const PageContext &context)
 {
     Page page(u"Family/Friends Data"_s);
-    const CardGrid grid = gridFor(perSheet, setup);
+    const CardGrid grid = gridFor(perSheet, context.setup);
     int placed = 0;
     entries([&](const AddressEntry &entry) {
         const int index = placed++ % int(perSheet);
@@ -165,7 +192,7 @@ Page AddressPages::cards(PerSheet perSheet, const PageSetup &setup, const Source
         placeCard(page, grid, grid.place(index), entry, picture);
         return true;
     });
-    return page.close(printedOn, style);
+    return page.close(context.today, context.style);
 }
 
 QString AddressPages::townLine(const AddressEntry &entry)

@@ -21,19 +21,13 @@ inline Message clearCurrentData()
             Answer::No};
 }
 
-/// Whether the person may still go back when asked to save.
-enum class GoingBack { Possible, Impossible };
-
-inline Message saveChanges(GoingBack goingBack)
+inline Message saveChanges()
 {
-    Message message{u"Entry/View Screen"_s,
-                    u"Save changes made to data?"_s,
-                    Message::Question,
-                    {Answer::Yes, Answer::No},
-                    Answer::Yes};
-    if (goingBack == GoingBack::Possible)
-        message.answers.append(Answer::Cancel);
-    return message;
+    return {u"Entry/View Screen"_s,
+            u"Save changes made to data?"_s,
+            Message::Question,
+            {Answer::Yes, Answer::No, Answer::Cancel},
+            Answer::Yes};
 }
 
 inline Message noMatch()

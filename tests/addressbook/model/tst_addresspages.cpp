@@ -26,7 +26,10 @@ private:
 
 namespace {
 
-const QDate printedOn(2026, 11, 21);
+PageContext context(DateStyle style = DateStyle::Usa, const PageSetup &setup = {})
+{
+    return {setup, style, QDate(2026, 11, 21), {}};
+}
 
 AddressPages::Source times(int count, const AddressEntry &entry)
 {
@@ -48,7 +51,7 @@ void TestAddressPages::init()
 
 void TestAddressPages::printsAnEntry()
 {
-    const Page page = AddressPages::entryPage(m_anne, u"/home/anne.jpg"_s, DateStyle::Usa, printedOn);
+    const Page page = AddressPages::entryPage(m_anne, u"/home/anne.jpg"_s, context());
     const QStringList lines = page.toText().split(u'\n', Qt::SkipEmptyParts);
     QCOMPARE(lines,
              (QStringList{u"Information For Anne Lind"_s, u"Date of Birth: Nov-24-1978"_s,
@@ -57,13 +60,12 @@ void TestAddressPages::printsAnEntry()
                           u"Email:  a@example.org"_s, u"Anniversary Date:  Jun-12-2004"_s, u"Quillery"_s,
                           u"Printed on 11/21/2026"_s}));
     QCOMPARE(itemsOf<PageItem::Picture>(page).at(0).path, u"/home/anne.jpg"_s);
-    QVERIFY(
-        itemsOf<PageItem::Picture>(AddressPages::entryPage(m_anne, {}, DateStyle::Usa, printedOn)).empty());
+    QVERIFY(itemsOf<PageItem::Picture>(AddressPages::entryPage(m_anne, {}, context())).empty());
 }
 
 void TestAddressPages::printsTheWorksheet()
 {
-    const Page page = AddressPages::worksheet(DateStyle::Other, printedOn);
+    const Page page = AddressPages::worksheet(context(DateStyle::Other));
     const QStringList lines = page.toText().split(u'\n', Qt::SkipEmptyParts);
     QCOMPARE(lines,
              (QStringList{u"Family/Friends Data Worksheet"_s, u"Last Name:"_s, u"First Name:"_s,
@@ -94,8 +96,8 @@ void TestAddressPages::sharesASheetOutEvenly()
         sought << stored;
         return u"/found.jpg"_s;
     };
-    const Page page = AddressPages::cards(AddressPages::PerSheet(perSheet), {}, times(entries, m_anne), find,
-                                          DateStyle::Usa, printedOn);
+    const Page page =
+        AddressPages::cards(AddressPages::PerSheet(perSheet), times(entries, m_anne), find, context());
     QTEST(int(itemsOf<PageItem::Break>(page).size()), "breaks");
     QCOMPARE(int(itemsOf<PageItem::PlacedPicture>(page).size()), entries);
     QCOMPARE(sought, QStringList(entries, m_anne.picture));
@@ -121,8 +123,8 @@ void TestAddressPages::keepsCardsApart()
     QFETCH(PageSetup::Orientation, orientation);
     const PageSetup setup{paper, orientation};
     const Page page = AddressPages::cards(
-        AddressPages::PerSheet(perSheet), setup, times(perSheet, m_anne),
-        [](const QString &stored) { return stored; }, DateStyle::Usa, printedOn);
+        AddressPages::PerSheet(perSheet), times(perSheet, m_anne),
+        [](const QString &stored) { return stored; }, context(DateStyle::Usa, setup));
 
     QList<QRectF> places;
     for (const auto &text : itemsOf<PageItem::PlacedText>(page))
@@ -142,8 +144,7 @@ void TestAddressPages::keepsCardsApart()
 
 void TestAddressPages::printsCardsWithoutEntries()
 {
-    const Page page = AddressPages::cards(AddressPages::PerSheet::Four, {}, times(0, m_anne), {},
-                                          DateStyle::Usa, printedOn);
+    const Page page = AddressPages::cards(AddressPages::PerSheet::Four, times(0, m_anne), {}, context());
     QVERIFY(page.isEmpty());
     QCOMPARE(page.printedLine(), u"Printed on 11/21/2026"_s);
 }

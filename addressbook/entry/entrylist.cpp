@@ -1,0 +1,148 @@
+#include "addressbook/entry/entrylist.h"
+
+#include "addressbook/entry/namelistmodel.h"
+#include "addressbook/entry/namelistview.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listpane.h"
+#include "shell/controls/searchbox.h"
+
+#include <QItemSelectionModel>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+EntryList::EntryList(Guard guard, QWidget *parent)
+    : QWidget(parent)
+    , m_guard(std::move(guard))
+    , m_names(new NameListModel(this))
+    , m_view(named(new NameListView(this), u"List1"_s))
+    , m_search(new SearchBox(u"Text2"_s, u"Search names"_s, u"Type a part of a name and press Enter"_s, this))
+    , m_count(named(makeQuietLabel({}, this), u"Label1"_s))
+{
+    m_view->setAccessibleName(u"Names"_s);
+    m_view->setModel(m_names);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(new ListPane(m_search, m_view, m_count, this));
+    setTabOrder(m_search, m_view);
+    setFocusProxy(m_view);
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &EntryList::selectionMoved);
+    connect(m_search, &QLineEdit::returnPressed, this, &EntryList::search);
+}
+
+const NameList &EntryList::names() const
+{
+    return m_names->names();
+}
+
+void EntryList::setNames(NameList names)
+{
+    const QScopedValueRollback<bool> still(m_isFollowing, false);
+    m_names->setNames(std::move(names));
+    refreshCount();
+}
+
+void EntryList::refreshCount()
+{
+    m_count->setText(names().countCaption());
+}
+
+int EntryList::selectedRow() const
+{
+    return m_view->selectionModel()->selectedRows().value(0).row();
+}
+
+void EntryList::select(int row)
+{
+    const QScopedValueRollback<bool> still(m_isFollowing, false);
+    if (row < 0) {
+        m_view->selectionModel()->clear();
+        return;
+    }
+    m_view->setCurrentIndex(m_names->index(row));
+    m_view->scrollTo(m_names->index(row));
+}
+
+void EntryList::showRow(int row)
+{
+    select(row);
+    m_shown = m_names->index(row);
+    emit rowShown(row);
+}
+
+void EntryList::showNone()
+{
+    select(-1);
+    m_shown = QPersistentModelIndex();
+}
+
+void EntryList::selectionMoved()
+{
+    if (!m_isFollowing || m_isAsking || selectedRow() < 0)
+        return;
+    if (!m_guard.isModified()) {
+        showRow(selectedRow());
+        return;
+    }
+    // The question waits until the list has done with the click: an answer may have to take the selection
+    // back.
+    m_isAsking = true;
+    QMetaObject::invokeMethod(this, &EntryList::showSelected, Qt::QueuedConnection);
+}
+
+bool EntryList::showSelected()
+{
+    const QPersistentModelIndex wanted = m_names->index(selectedRow());
+    m_isAsking = true;
+    const bool mayGo = m_guard.mayReplace();
+    m_isAsking = false;
+    if (!mayGo)
+        select(m_shown.row());
+    else
+        showRow(wanted.isValid() ? wanted.row() : selectedRow());
+    return mayGo;
+}
+
+void EntryList::showRecord(int record)
+{
+    if (!m_guard.mayReplace())
+        return;
+    // Only now: what was saved has moved its line to the end of the list. A line that has outgrown the list
+    // is not found any more; the saved entry stays.
+    const int row = names().positionOf(record);
+    if (row < 0)
+        return;
+    showRow(row);
+    setFocus();
+}
+
+void EntryList::replaceShown(const QString &line)
+{
+    const QScopedValueRollback<bool> still(m_isFollowing, false);
+    m_names->removeAt(m_shown.row());
+    m_names->append(line);
+    refreshCount();
+    select(names().count() - 1);
+    m_shown = m_names->index(names().count() - 1);
+}
+
+void EntryList::search()
+{
+    const int row = names().find(m_search->text());
+    if (row < 0) {
+        emit nothingFound();
+        startSearch();
+        return;
+    }
+    setFocus();
+    m_view->setCurrentIndex(m_names->index(row));
+}
+
+void EntryList::startSearch()
+{
+    m_search->startAgain();
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "addressbook/model/namelist.h"
+
+#include <QPersistentModelIndex>
+#include <QWidget>
+
+#include <functional>
+
+class NameListModel;
+class NameListView;
+class QLabel;
+class SearchBox;
+
+/// The names of the address book beside the entry: a search box, the list and its count. Knows whose entry is
+/// shown, and lets another one take its place only when that may be.
+class EntryList final : public QWidget
+{
+    Q_OBJECT
+public:
+    /// What stands before another entry takes the place of the shown one.
+    struct Guard {
+        std::function<bool()> isModified;
+        std::function<bool()> mayReplace; ///< asks the user when it is modified
+    };
+
+    explicit EntryList(Guard guard, QWidget *parent = nullptr);
+
+    const NameList &names() const;
+    void setNames(NameList names);
+
+    int selectedRow() const; ///< -1: none
+    int shownRow() const { return m_shown.row(); }
+
+    /// Selects and shows the line of `row`; asks nothing.
+    void showRow(int row);
+    /// No line is selected or shown from now on.
+    void showNone();
+    /// Shows the selected line, asking first. False: the user stays.
+    bool showSelected();
+    /// The same for the line of `record`.
+    void showRecord(int record);
+    /// The shown entry was saved: its new line stands at the end, selected and shown.
+    void replaceShown(const QString &line);
+
+    void startSearch();
+
+signals:
+    /// The line of `row` is the shown one now.
+    void rowShown(int row);
+    void nothingFound();
+
+private:
+    void select(int row);
+    void selectionMoved();
+    void search();
+    void refreshCount();
+
+    Guard m_guard;
+    NameListModel *m_names;
+    NameListView *m_view;
+    SearchBox *m_search;
+    QLabel *m_count;
+    QPersistentModelIndex m_shown; ///< none for a new entry
+    bool m_isFollowing = true;     ///< a change of the selection shows its entry
+    bool m_isAsking = false;       ///< a question about unsaved changes is on its way
+};
