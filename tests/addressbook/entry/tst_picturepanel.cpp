@@ -17,23 +17,26 @@ class TestPicturePanel : public QObject
     Q_OBJECT
 private slots:
     void init();
-    void startsInTheFolderUsedLast();
-    void startsInThePicturesFolderWhenThatIsGone();
+    void startsWhereThePicturesAre_data();
+    void startsWhereThePicturesAre();
     void listsPictureFilesOnly();
     void entersAPictureAndRemembersItsFolder();
     void saysSoWhenAFileIsNoPicture();
     void walksThroughFolders();
-    void fallsBackFromADriveThatIsNotThere();
-    void fallsBackFromAFolderThatHasGone();
+    void fallsBackFromWhatIsNotThere();
     void refusesAPathThatNoEntryCanHold();
     void deletesOnlyAPictureThatIsThere();
-    void readsPicturesThatAreTooLargeInTheirScale();
 
 private:
-    QString makePicture(const QString &name, QSize size = {40, 30}) const;
+    QString makePicture(const QString &name) const;
     std::unique_ptr<PicturePanel> makePanel();
     QStringList files(const PicturePanel &panel) const;
     void choose(const PicturePanel &panel, const QString &name) const;
+    void openFolder(const PicturePanel &panel, int row) const;
+    QString shownFolder(const PicturePanel &panel) const
+    {
+        return control<QLabel>(panel, "picturePath")->text();
+    }
 
     std::unique_ptr<TestProgram> m_test;
     QString m_album;
@@ -49,10 +52,10 @@ void TestPicturePanel::init()
     m_test->setBytes(u"GColor4.Fil"_s, (m_album + u"/\r\n"_s).toLatin1());
 }
 
-QString TestPicturePanel::makePicture(const QString &name, QSize size) const
+QString TestPicturePanel::makePicture(const QString &name) const
 {
     const QString path = m_album + u'/' + name;
-    QImage image(size, QImage::Format_RGB32);
+    QImage image(40, 30, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
     if (!image.save(path))
         QTest::qFail("no picture", __FILE__, __LINE__);
@@ -83,19 +86,30 @@ void TestPicturePanel::choose(const PicturePanel &panel, const QString &name) co
     list->setCurrentItem(list->findItems(name, Qt::MatchExactly).value(0));
 }
 
-void TestPicturePanel::startsInTheFolderUsedLast()
+void TestPicturePanel::openFolder(const PicturePanel &panel, int row) const
 {
-    const auto panel = makePanel();
-    QCOMPARE(control<QLabel>(*panel, "picturePath")->text(), m_album);
-    QCOMPARE(control<QComboBox>(*panel, "Drive1")->currentText(), m_test->temporary.path());
+    auto *folders = control<QListWidget>(panel, "Dir1");
+    folders->setFocus();
+    folders->setCurrentRow(row);
+    QTest::keyClick(folders, Qt::Key_Return);
 }
 
-void TestPicturePanel::startsInThePicturesFolderWhenThatIsGone()
+void TestPicturePanel::startsWhereThePicturesAre_data()
 {
-    m_test->setBytes(u"GColor4.Fil"_s, "C:\\QUILLERY\\Pictures\\\r\n");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("in the folder used last") << true;
+    QTest::newRow("in the household's folder when that is gone") << false;
+}
+
+void TestPicturePanel::startsWhereThePicturesAre()
+{
+    QFETCH(bool, isThere);
     QVERIFY(QDir().mkpath(m_test->path(u"Pictures"_s)));
+    if (!isThere)
+        m_test->setBytes(u"GColor4.Fil"_s, "C:\\QUILLERY\\Pictures\\\r\n");
     const auto panel = makePanel();
-    QCOMPARE(control<QLabel>(*panel, "picturePath")->text(), m_test->path(u"Pictures"_s));
+    QCOMPARE(shownFolder(*panel), isThere ? m_album : m_test->path(u"Pictures"_s));
+    QCOMPARE(control<QComboBox>(*panel, "Drive1")->currentText(), m_test->temporary.path());
     QVERIFY(m_test->dialogs.takeShown().isEmpty());
 }
 
@@ -146,41 +160,29 @@ void TestPicturePanel::walksThroughFolders()
 {
     QVERIFY(QDir(m_album).mkdir(u"summer"_s));
     const auto panel = makePanel();
-    auto *folders = control<QListWidget>(*panel, "Dir1");
-    QCOMPARE(folders->item(0)->text(), u".."_s);
-    QCOMPARE(folders->item(1)->text(), u"summer"_s);
-    folders->setFocus();
-    folders->setCurrentRow(1);
-    QTest::keyClick(folders, Qt::Key_Return);
-    QCOMPARE(control<QLabel>(*panel, "picturePath")->text(), QString(m_album + u"/summer"_s));
-    folders->setCurrentRow(0);
-    QTest::keyClick(folders, Qt::Key_Return);
-    QCOMPARE(control<QLabel>(*panel, "picturePath")->text(), m_album);
+    QCOMPARE(control<QListWidget>(*panel, "Dir1")->item(0)->text(), u".."_s);
+    openFolder(*panel, 1);
+    QCOMPARE(shownFolder(*panel), QString(m_album + u"/summer"_s));
+    openFolder(*panel, 0);
+    QCOMPARE(shownFolder(*panel), m_album);
 }
 
-void TestPicturePanel::fallsBackFromADriveThatIsNotThere()
+void TestPicturePanel::fallsBackFromWhatIsNotThere()
 {
+    QVERIFY(QDir(m_album).mkdir(u"summer"_s));
     m_drives.append(m_test->temporary.filePath(u"pulled-out"_s));
     const auto panel = makePanel();
+    QVERIFY(QDir(m_album).rmdir(u"summer"_s));
+    openFolder(*panel, 1);
+    QCOMPARE(m_test->dialogs.takeShown(), {AddressMessages::deviceUnavailable()});
+    QCOMPARE(shownFolder(*panel), m_test->temporary.path());
+
     auto *drives = control<QComboBox>(*panel, "Drive1");
     drives->setFocus();
     QTest::keyClick(drives, Qt::Key_Down);
     QCOMPARE(m_test->dialogs.takeShown(), {AddressMessages::driveUnavailable()});
     QCOMPARE(drives->currentIndex(), 0);
-    QCOMPARE(control<QLabel>(*panel, "picturePath")->text(), m_test->temporary.path());
-}
-
-void TestPicturePanel::fallsBackFromAFolderThatHasGone()
-{
-    QVERIFY(QDir(m_album).mkdir(u"summer"_s));
-    const auto panel = makePanel();
-    QVERIFY(QDir(m_album).rmdir(u"summer"_s));
-    auto *folders = control<QListWidget>(*panel, "Dir1");
-    folders->setFocus();
-    folders->setCurrentRow(1);
-    QTest::keyClick(folders, Qt::Key_Return);
-    QCOMPARE(m_test->dialogs.takeShown(), {AddressMessages::deviceUnavailable()});
-    QCOMPARE(control<QLabel>(*panel, "picturePath")->text(), m_test->temporary.path());
+    QCOMPARE(shownFolder(*panel), m_test->temporary.path());
 }
 
 void TestPicturePanel::refusesAPathThatNoEntryCanHold()
@@ -207,14 +209,6 @@ void TestPicturePanel::deletesOnlyAPictureThatIsThere()
     QCOMPARE(deleted.count(), 1);
     panel->start(false);
     QVERIFY(!button->isEnabled());
-}
-
-void TestPicturePanel::readsPicturesThatAreTooLargeInTheirScale()
-{
-    const QString path = makePicture(u"large.jpg"_s, {5000, 2500});
-    QCOMPARE(PictureFile::read(path, {400, 400}).size(), QSize(400, 200));
-    QVERIFY(PictureFile::read(m_album, {400, 400}).isNull());
-    QVERIFY(PictureFile::read(m_album + u"/none.jpg"_s, {400, 400}).isNull());
 }
 
 QTEST_MAIN(TestPicturePanel)

@@ -1,0 +1,58 @@
+#include "shell/pictures/enlargedpicture.h"
+#include "shell/pictures/pictureframe.h"
+#include "tests/support/testprogram.h"
+
+#include <QImage>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestPictureFrame : public QObject
+{
+    Q_OBJECT
+private slots:
+    void readsPicturesThatAreTooLargeInTheirScale();
+    void enlargesWhatWasAskedForLast();
+
+private:
+    QString makePicture(const QString &name, QSize size) const;
+
+    TestProgram m_test;
+};
+
+QString TestPictureFrame::makePicture(const QString &name, QSize size) const
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    const QString path = m_test.path(name);
+    if (!image.save(path))
+        QTest::qFail("no picture", __FILE__, __LINE__);
+    return path;
+}
+
+void TestPictureFrame::readsPicturesThatAreTooLargeInTheirScale()
+{
+    const QString path = makePicture(u"large.jpg"_s, {5000, 2500});
+    QCOMPARE(PictureFile::read(path, {400, 400}).size(), QSize(400, 200));
+    QVERIFY(PictureFile::read(m_test.path({}), {400, 400}).isNull());
+    QVERIFY(PictureFile::read(m_test.path(u"none.jpg"_s), {400, 400}).isNull());
+}
+
+void TestPictureFrame::enlargesWhatWasAskedForLast()
+{
+    EnlargedPicture enlarged(m_test.folder, u"back"_s, u"Normal"_s);
+    const auto *frame = control<PictureFrame>(enlarged, "enlargedPicture");
+    const auto *name = control<QLabel>(enlarged, "enlargedName");
+    enlarged.resize(400, 300);
+    enlarged.show();
+    enlarged.enlarge(makePicture(u"slow.jpg"_s, {5000, 2500}), u"Anne"_s);
+    QVERIFY(name->isVisible());
+    QVERIFY(!frame->words().isEmpty());
+    enlarged.enlarge(m_test.path(u"none.jpg"_s));
+    QVERIFY(!name->isVisible());
+    QTRY_COMPARE(frame->words(), u"Picture not found"_s);
+    QTest::qWait(300); // the slow one comes too late
+    QVERIFY(!frame->hasPicture());
+}
+
+QTEST_MAIN(TestPictureFrame)
+#include "tst_pictureframe.moc"
