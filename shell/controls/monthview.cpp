@@ -1,12 +1,13 @@
 #include "shell/controls/monthview.h"
 
+#include "shell/controls/monthheading.h"
 #include "shell/look/theme.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QPainter>
 #include <QTableView>
 #include <QTextCharFormat>
-#include <QToolButton>
 
 #include <algorithm>
 #include <utility>
@@ -17,9 +18,6 @@ namespace {
 
 constexpr QSize designedSize(316, 296);
 constexpr double corner = 8;
-constexpr int narrowBelow = 264;
-constexpr QLatin1StringView previousName("monthPrevious");
-constexpr QLatin1StringView nextName("monthNext");
 
 /// What the sheet of the whole application would otherwise give to every table and tool button; the heading's
 /// buttons take their colour from a sheet alone.
@@ -28,7 +26,6 @@ QString ownSheet(const QColor &ink)
     return uR"(
 QTableView, QTableView:focus { border: 0; background: transparent; padding: 0;
     selection-background-color: transparent; }
-QWidget#qt_calendar_navigationbar { background: transparent; }
 QToolButton { padding: 0 1px; min-height: 32px; color: %1; }
 QToolButton#monthPrevious, QToolButton#monthNext { min-width: 32px; padding: 0; }
 QToolButton::menu-indicator { image: none; width: 0; }
@@ -83,7 +80,11 @@ QSize MonthView::sizeHint() const
 
 QSize MonthView::minimumSizeHint() const
 {
-    return QSize(266, 236).expandedTo(QCalendarWidget::minimumSizeHint());
+    // The calendar counts its own heading only while it is shown.
+    const QSize heading = m_heading ? m_heading->sizeHint() : QSize(0, 0);
+    const QSize days = QCalendarWidget::minimumSizeHint();
+    return QSize(266, 236).expandedTo(
+        {std::max(days.width(), heading.width()), days.height() + heading.height()});
 }
 
 void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) const
@@ -129,16 +130,6 @@ void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) cons
     painter->restore();
 }
 
-/// In a narrow sheet the heading takes a smaller step, so that "September" stays whole.
-void MonthView::resizeEvent(QResizeEvent *event)
-{
-    QCalendarWidget::resizeEvent(event);
-    const QFont font = width() < narrowBelow ? TypeScale::strong() : TypeScale::group();
-    for (const QLatin1StringView name : {"qt_calendar_monthbutton"_L1, "qt_calendar_yearbutton"_L1})
-        if (auto *button = findChild<QToolButton *>(name); button && button->font() != font)
-            button->setFont(font);
-}
-
 void MonthView::changeEvent(QEvent *event)
 {
     QCalendarWidget::changeEvent(event);
@@ -146,20 +137,20 @@ void MonthView::changeEvent(QEvent *event)
         showPaletteColors();
 }
 
+/// The calendar's own heading can be reached by names of the toolkit's alone; ours takes its place.
 void MonthView::setUpHeading()
 {
-    struct Step {
-        QLatin1StringView given, name, word;
-    };
-    for (const Step &step : {Step{"qt_calendar_prevmonth"_L1, previousName, "Previous month"_L1},
-                             Step{"qt_calendar_nextmonth"_L1, nextName, "Next month"_L1}}) {
-        if (auto *button = findChild<QToolButton *>(step.given)) {
-            button->setObjectName(step.name);
-            button->setIconSize(QSize(20, 20));
-            button->setToolTip(step.word);
-            button->setAccessibleName(step.word);
-        }
-    }
+    auto *rows = qobject_cast<QBoxLayout *>(layout());
+    if (!rows)
+        return;
+    setNavigationBarVisible(false);
+    m_heading = new MonthHeading(this);
+    m_heading->setMonth(yearShown(), monthShown());
+    rows->insertWidget(0, m_heading);
+    connect(m_heading, &MonthHeading::stepped, this,
+            [this](int months) { months < 0 ? showPreviousMonth() : showNextMonth(); });
+    connect(m_heading, &MonthHeading::picked, this, &QCalendarWidget::setCurrentPage);
+    connect(this, &QCalendarWidget::currentPageChanged, m_heading, &MonthHeading::setMonth);
 }
 
 void MonthView::showPaletteColors()
@@ -174,10 +165,6 @@ void MonthView::showPaletteColors()
     // The weekend like any other day: its names as well.
     for (const Qt::DayOfWeek free : {Qt::Saturday, Qt::Sunday})
         setWeekdayTextFormat(free, QTextCharFormat());
-    const QColor ink = palette().color(QPalette::WindowText);
-    for (const auto &[name, icon] : {std::pair(previousName, "previous"_L1), std::pair(nextName, "next"_L1)})
-        if (auto *button = findChild<QToolButton *>(name))
-            button->setIcon(Icons::tinted(icon, Theme::of(this).scheme, ink));
-    if (const QString sheet = ownSheet(ink); sheet != styleSheet())
+    if (const QString sheet = ownSheet(palette().color(QPalette::WindowText)); sheet != styleSheet())
         setStyleSheet(sheet);
 }

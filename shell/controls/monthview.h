@@ -3,6 +3,7 @@
 #include <QCalendarWidget>
 #include <QSet>
 
+class MonthHeading;
 class QTableView;
 
 /// A month calendar in the program's look: heading with steps, week numbers, today ringed, the chosen day
@@ -24,12 +25,12 @@ public:
 protected:
     void paintCell(QPainter *painter, const QRect &rect, QDate date) const override;
     void changeEvent(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void setUpHeading();
     void showPaletteColors();
 
+    MonthHeading *m_heading = nullptr;
     QTableView *m_view = nullptr;
     QDate m_today;
     QSet<QDate> m_marked;

@@ -7,12 +7,15 @@
 #include "shell/program/messagebox.h"
 #include "tests/support/testprogram.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QClipboard>
 #include <QHelpEvent>
 #include <QListView>
 #include <QMainWindow>
+#include <QMenu>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QStatusTipEvent>
 #include <QTableView>
 #include <QToolButton>
@@ -38,6 +41,7 @@ private slots:
     void escAnswersOnlyWhereNothingIsLost_data();
     void escAnswersOnlyWhereNothingIsLost();
     void aMessageBoxHasItsButtonsInOrder();
+    void aMessageBoxIsHeardAndCopied();
     void anInputBoxRefusesWhatTheFilesCannotHold();
     void theMonthIsAlwaysInEnglish();
 };
@@ -258,6 +262,22 @@ void TestControls::aMessageBoxHasItsButtonsInOrder()
     QVERIFY(!box.isVisible());
 }
 
+void TestControls::aMessageBoxIsHeardAndCopied()
+{
+    QAccessible::setActive(true);
+    static QList<QObject *> alerted;
+    const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        if (event->type() == QAccessible::Alert)
+            alerted.append(event->object());
+    });
+    MessageBox box({u"Exit"_s, u"First\nSecond"_s});
+    showActive(box);
+    QCOMPARE(alerted, QList<QObject *>{&box});
+    QAccessible::installUpdateHandler(before);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), u"Exit\n\nFirst\nSecond"_s);
+}
+
 void TestControls::anInputBoxRefusesWhatTheFilesCannotHold()
 {
     InputBox box(u"Family Name"_s, u"Prompt"_s, u"Holm"_s);
@@ -281,10 +301,19 @@ void TestControls::theMonthIsAlwaysInEnglish()
     QLocale::setDefault(QLocale(u"de_DE"_s));
     MonthView month;
     month.setSelectedDate(QDate(2026, 3, 7));
-    month.show();
-    QCOMPARE(control<QToolButton>(month, "qt_calendar_monthbutton")->text(), u"March"_s);
+    showActive(month);
+    QCOMPARE(control<QToolButton>(month, "monthName")->text(), u"March"_s);
     QTest::mouseClick(control<QToolButton>(month, "monthNext"), Qt::LeftButton);
     QCOMPARE(month.monthShown(), 4);
+    control<QToolButton>(month, "monthName")->menu()->actions()[8]->trigger();
+    QCOMPARE(month.monthShown(), 9);
+    QCOMPARE(control<QToolButton>(month, "monthName")->text(), u"September"_s);
+    QTest::mouseClick(control<QToolButton>(month, "monthYear"), Qt::LeftButton);
+    auto *year = control<QSpinBox>(month, "monthYearBox");
+    QTest::keyClicks(year, u"2031"_s);
+    QTest::keyClick(year, Qt::Key_Return);
+    QCOMPARE(month.yearShown(), 2031);
+    QVERIFY(year->isHidden() && control<QToolButton>(month, "monthYear")->isVisible());
     QLocale::setDefault(before);
 }
 
