@@ -3,8 +3,12 @@
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 
 #include <algorithm>
@@ -69,6 +73,7 @@ AskingBox::AskingBox(const QString &title, const QString &text, Message::Icon ic
     : QDialog(parent)
     , m_texts(new QVBoxLayout)
     , m_buttons(new QHBoxLayout)
+    , m_text(text)
 {
     setWindowTitle(title);
     setModal(true);
@@ -121,6 +126,22 @@ void AskingBox::settle()
     const int width = std::clamp(text + around, narrowest, widest);
     setFixedWidth(std::max(width, layout()->minimumSize().width()));
     setFixedHeight(std::max(layout()->totalHeightForWidth(this->width()), layout()->minimumSize().height()));
+}
+
+/// Screen readers read the box out of themselves when it alerts them.
+void AskingBox::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void AskingBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        QApplication::clipboard()->setText(windowTitle() + u"\n\n"_s + m_text);
+    else
+        QDialog::keyPressEvent(event);
 }
 
 MessageBox::MessageBox(const Message &message, QWidget *parent)

@@ -10,7 +10,7 @@ class QLabel;
 class QVBoxLayout;
 
 /// What message and input boxes share: a sign, the first line of the text as heading, the rest below it, and
-/// the buttons at the right. Between 420 and 560 pixels wide.
+/// the buttons at the right. Between 420 and 560 pixels wide. Ctrl+C copies title and text.
 class AskingBox : public QDialog
 {
     Q_OBJECT
@@ -22,12 +22,15 @@ protected:
     QPushButton *addButton(Answer answer, bool preselected);
     /// Call last: gives the box its size.
     void settle();
+    void showEvent(QShowEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QVBoxLayout *m_texts;
     QHBoxLayout *m_buttons;
     QLabel *m_heading;
     QLabel *m_rest = nullptr;
+    QString m_text;
 };
 
 /// One message with its answers. Esc answers Cancel, or OK where there is nothing else; in a Yes/No box it
