@@ -3,6 +3,7 @@
 #include "shell/access/passwordmessages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/titleline.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -43,7 +44,7 @@ PasswordPane::PasswordPane(PasswordFile &file, std::chrono::milliseconds step, Q
     : QWidget(parent)
     , m_file(file)
     , m_attempts(step)
-    , m_chip(makeChip(u"passwordState"_s, {}, this))
+    , m_title(new TitleLine(u"passwordTitle"_s, u"Password"_s, this))
     , m_summary(makeWrapped(named(makeQuietLabel({}, this), u"passwordSummary"_s)))
     , m_set(makeButton(u"setPassword"_s, u"Se&t Password"_s, this))
     , m_change(makeButton(u"changePassword"_s, u"&Change"_s, this))
@@ -51,11 +52,7 @@ PasswordPane::PasswordPane(PasswordFile &file, std::chrono::milliseconds step, Q
     , m_heading(nullptr)
     , m_form(makeForm())
 {
-    auto *title = new QHBoxLayout;
-    title->setSpacing(16);
-    title->addWidget(makeTitle(u"Password"_s, this));
-    title->addWidget(m_chip);
-    title->addStretch();
+    m_title->addChip(u"passwordState"_s);
     m_change->setAccessibleName(u"Change Password"_s);
     m_remove->setAccessibleName(u"Remove Password"_s);
     auto *buttons = new QHBoxLayout;
@@ -67,7 +64,7 @@ PasswordPane::PasswordPane(PasswordFile &file, std::chrono::milliseconds step, Q
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(12);
-    all->addLayout(title);
+    all->addWidget(m_title);
     all->addWidget(m_summary);
     all->addLayout(buttons);
     all->addWidget(m_form);
@@ -140,7 +137,7 @@ void PasswordPane::refresh()
     const PasswordFile::State state = m_file.state();
     const bool isSet = state == PasswordFile::State::Set;
     const bool isDamaged = state == PasswordFile::State::Damaged;
-    m_chip->setText(isDamaged ? u"Damaged"_s : isSet ? u"Set"_s : u"Not set"_s);
+    m_title->setChip(isDamaged ? u"Damaged"_s : isSet ? u"Set"_s : u"Not set"_s);
     m_summary->setText(isDamaged ? PasswordMessages::damagedSummary()
                        : isSet   ? PasswordMessages::setSummary()
                                  : PasswordMessages::notSetSummary());

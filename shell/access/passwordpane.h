@@ -11,6 +11,7 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class TitleLine;
 
 /// The part of password control that sets, changes and removes the password. What is done here is in force at
 /// once.
@@ -54,7 +55,7 @@ private:
     Attempts m_attempts;
     Task m_task = Task::None;
 
-    QLabel *m_chip;
+    TitleLine *m_title;
     QLabel *m_summary;
     QPushButton *m_set;
     QPushButton *m_change;

@@ -2,6 +2,7 @@
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/listpane.h"
 #include "shell/controls/searchbox.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/sidesplitter.h"
@@ -69,24 +70,17 @@ HelpViewer::HelpViewer(Program &program, QWidget *parent)
 
 QWidget *HelpViewer::makeContents()
 {
-    auto *contents = new QWidget(this);
-    auto *rows = new QVBoxLayout(contents);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(8);
-    m_search = new SearchBox(u"search"_s, u"Search the manual"_s, {}, contents);
-    m_list = named(new QListWidget(contents), u"contents"_s);
+    m_search = new SearchBox(u"search"_s, u"Search the manual"_s, {}, this);
+    m_list = named(new QListWidget(this), u"contents"_s);
     m_list->setAccessibleName(u"Pages of the manual"_s);
     m_list->setItemDelegate(new HelpEntryDelegate(m_list));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setResizeMode(QListView::Adjust);
     m_list->setMouseTracking(true);
-    m_search->setTarget(m_list);
-    m_count = named(makeQuietLabel({}, contents), u"count"_s);
+    m_count = named(makeQuietLabel({}, this), u"count"_s);
     m_count->setContentsMargins(4, 0, 0, 0);
-    rows->addWidget(m_search);
-    rows->addWidget(m_list, 1);
-    rows->addWidget(m_count);
+    auto *contents = new ListPane(m_search, m_list, m_count, this);
     contents->setMinimumWidth(200);
     return contents;
 }
