@@ -28,6 +28,12 @@ inline QString savedAs(const QString &path)
     return u"Saved as "_s + path;
 }
 
+/// Both count from 1.
+inline QString pageOf(int page, int count)
+{
+    return u"Page "_s + QString::number(page) + u" of "_s + QString::number(count);
+}
+
 // Reasons
 
 inline QString backupNotThere()

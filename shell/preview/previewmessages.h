@@ -16,11 +16,6 @@ inline QString printToFileTitle()
     return QStringLiteral("Print to File (PDF)");
 }
 
-inline QString pageOf(int page, int count)
-{
-    return QStringLiteral("Page %1 of %2").arg(page).arg(count);
-}
-
 // Quiet lines of the status bar
 
 inline QString notSaved(const QString &path, const QString &reason)

@@ -3,9 +3,9 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
-#include "shell/core/framelines.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
+#include "shell/preview/pagestepper.h"
 #include "shell/preview/previewcontrols.h"
 #include "shell/preview/previewmessages.h"
 #include "shell/preview/printjob.h"
@@ -31,7 +31,6 @@ constexpr int columnWidth = 208;
 constexpr int deskPadding = 14;
 constexpr int buttonHeight = 40;
 constexpr int leastButtonHeight = 34;
-constexpr int stepWidth = 30; ///< narrow, for "Page 12 of 1516" between the two
 constexpr int looseSpacing = 10;
 constexpr int tightSpacing = 4;
 constexpr int looseFrom = 560; ///< height of the pane
@@ -134,6 +133,8 @@ void PreviewPane::fillButtonPanel()
     offerZoom(*m_zoom, true);
     m_fontSample = named(new FontSample(u"Sample of the page font"_s, m_buttonPanel), u"Panel3d82"_s);
     m_close = makeColumnButton(u"SSCommand2"_s, u"Close Previe&w"_s, "exit"_L1, m_buttonPanel);
+    m_steps = new PageStepper({u"previousPage"_s, u"pageNumber"_s, u"nextPage"_s}, m_buttonPanel,
+                              PageStepper::Width::OfColumn);
 
     m_buttonPanel->setFixedWidth(columnWidth);
     // In a low window the column scrolls: it must not keep the window from shrinking.
@@ -149,7 +150,7 @@ void PreviewPane::fillButtonPanel()
     column->setSpacing(looseSpacing);
     column->addWidget(makeHeading(u"Page"_s, m_buttonPanel));
     column->addWidget(m_orientation);
-    column->addLayout(makeSteps());
+    column->addWidget(m_steps);
     for (const Command command : {Print, ChooseFont, TurnPage, CopyPage})
         column->addWidget(m_commands[command]);
     column->addWidget(m_zoom);
@@ -159,23 +160,6 @@ void PreviewPane::fillButtonPanel()
     column->addWidget(m_close);
 }
 
-QHBoxLayout *PreviewPane::makeSteps()
-{
-    m_previous = makeIconButton(u"previousPage"_s, "previous"_L1, u"Previous page"_s, m_buttonPanel);
-    m_next = makeIconButton(u"nextPage"_s, "next"_L1, u"Next page"_s, m_buttonPanel);
-    m_pageNumber = named(new ElidedLabel(m_buttonPanel), u"pageNumber"_s);
-    m_pageNumber->setFont(TypeScale::strong());
-    m_pageNumber->setAlignment(Qt::AlignCenter);
-    for (QPushButton *step : {m_previous, m_next})
-        step->setFixedWidth(stepWidth);
-    auto *steps = new QHBoxLayout;
-    steps->setSpacing(2);
-    steps->addWidget(m_previous);
-    steps->addWidget(m_pageNumber, 1);
-    steps->addWidget(m_next);
-    return steps;
-}
-
 void PreviewPane::connectControls()
 {
     for (std::size_t i = 0; i < CommandCount; ++i)
@@ -183,22 +167,15 @@ void PreviewPane::connectControls()
     connect(m_zoom, &QPushButton::clicked, this, &PreviewPane::toggleZoom);
     connect(m_close, &QPushButton::clicked, this, &PreviewPane::closed);
     connect(m_showButtons, &QPushButton::clicked, this, [this] { run(ToggleButtons); });
-    connect(m_previous, &QPushButton::clicked, this, [this] { showSheet(m_sheet - 1); });
-    connect(m_next, &QPushButton::clicked, this, [this] { showSheet(m_sheet + 1); });
-    connect(m_view, &SheetView::stepRequested, this, [this](int step, SheetView::Edge edge) {
-        const int sheet = m_sheet + step;
-        if (sheet >= 0 && sheet < sheetCount())
-            showSheet(sheet, edge);
-    });
-    connect(m_view, &SheetView::firstRequested, this, [this] { showSheet(0); });
-    connect(m_view, &SheetView::lastRequested, this, [this] { showSheet(sheetCount() - 1); });
+    connect(m_steps, &PageStepper::pageRequested, this, &PreviewPane::showSheet);
+    m_steps->listenTo(m_view);
 }
 
 void PreviewPane::show(Builder builder, const QString &jobName)
 {
     m_builder = std::move(builder);
     m_jobName = jobName;
-    m_sheet = 0;
+    m_steps->setPage(0, 1);
     rebuild();
 }
 
@@ -215,7 +192,7 @@ void PreviewPane::rebuild()
         m_painter = std::move(painter);
     }
     m_isBuilding = false;
-    showSheet(m_sheet);
+    showSheet(currentSheet());
 }
 
 PagePainter PreviewPane::paginated(const PageSetup &setup) const
@@ -228,7 +205,8 @@ bool PreviewPane::print()
     if (!m_painter || m_isBuilding)
         return false;
     PrintJob job(m_program, m_activity, window(), m_jobName);
-    return job.run(*m_painter, m_setup, m_sheet, [this](const PageSetup &setup) { return paginated(setup); });
+    return job.run(*m_painter, m_setup, currentSheet(),
+                   [this](const PageSetup &setup) { return paginated(setup); });
 }
 
 void PreviewPane::setDeskColor(const QColor &color)
@@ -239,6 +217,11 @@ void PreviewPane::setDeskColor(const QColor &color)
 QList<QWidget *> PreviewPane::panels() const
 {
     return {m_deskPanel, m_buttonPanel};
+}
+
+int PreviewPane::currentSheet() const
+{
+    return m_steps->page();
 }
 
 int PreviewPane::sheetCount() const
@@ -300,8 +283,8 @@ void PreviewPane::copyPage()
     const PagePainter empty{Page(), m_setup, m_font};
     const PagePainter &page = m_painter ? *m_painter : empty;
     auto *data = new QMimeData;
-    data->setImageData(page.image(m_sheet, clipboardDotsPerInch));
-    data->setText(page.text(m_sheet));
+    data->setImageData(page.image(currentSheet(), clipboardDotsPerInch));
+    data->setText(page.text(currentSheet()));
     QApplication::clipboard()->setMimeData(data);
     m_program.dialogs.ask(this, PreviewMessages::pageCopied());
 }
@@ -316,11 +299,9 @@ void PreviewPane::toggleZoom()
 
 void PreviewPane::showSheet(int sheet, SheetView::Edge edge)
 {
-    m_sheet = std::clamp(sheet, 0, sheetCount() - 1);
-    m_view->setSheet(m_painter.get(), m_sheet, edge);
-    m_pageNumber->setText(PreviewMessages::pageOf(m_sheet + 1, sheetCount()));
-    setUnavailable(m_previous, m_sheet == 0 ? FrameLines::firstPage() : QString());
-    setUnavailable(m_next, m_sheet + 1 == sheetCount() ? FrameLines::lastPage() : QString());
+    const int shown = std::clamp(sheet, 0, sheetCount() - 1);
+    m_view->setSheet(m_painter.get(), shown, edge);
+    m_steps->setPage(shown, sheetCount());
 }
 
 void PreviewPane::showOrientation()

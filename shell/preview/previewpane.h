@@ -13,8 +13,8 @@
 class ActivityBar;
 class ColumnButton;
 class PagePainter;
+class PageStepper;
 class PanelFrame;
-class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -46,7 +46,7 @@ public:
     QList<QWidget *> panels() const;
 
     int sheetCount() const;
-    int currentSheet() const { return m_sheet; }
+    int currentSheet() const;
     const PageSetup &setup() const { return m_setup; }
 
 signals:
@@ -62,7 +62,6 @@ private:
 
     void makeCommands();
     void fillButtonPanel();
-    QHBoxLayout *makeSteps();
     void connectControls();
     void run(Command command);
     void chooseFont();
@@ -82,7 +81,6 @@ private:
     PageSetup m_setup;
     PageFont m_font;
     std::unique_ptr<PagePainter> m_painter;
-    int m_sheet = 0;
     bool m_isBuilding = false;
 
     PanelFrame *m_deskPanel;
@@ -93,9 +91,7 @@ private:
     std::array<QPushButton *, CommandCount> m_commands{};
     ColumnButton *m_zoom = nullptr;
     QPushButton *m_close = nullptr;
-    QPushButton *m_previous = nullptr;
-    QPushButton *m_next = nullptr;
-    QLabel *m_pageNumber = nullptr;
+    PageStepper *m_steps = nullptr;
     QLabel *m_orientation = nullptr;
     QLabel *m_fontSample = nullptr;
 };

@@ -1,0 +1,62 @@
+#include "shell/preview/pagestepper.h"
+
+#include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
+#include "shell/look/theme.h"
+
+#include <QHBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int gap = 8;
+constexpr int narrowGap = 2;
+constexpr int narrowButton = 30; ///< leaves room for "Page 12 of 1516" between the two
+} // namespace
+
+PageStepper::PageStepper(const Names &names, QWidget *parent, Width width)
+    : QWidget(parent)
+    , m_previous(makeIconButton(names.previous, "previous"_L1, u"Previous page"_s, this))
+    , m_next(makeIconButton(names.next, "next"_L1, u"Next page"_s, this))
+{
+    const bool isNarrow = width == Width::OfColumn;
+    m_number = named(isNarrow ? new ElidedLabel(this) : new QLabel(this), names.number);
+    m_number->setFont(TypeScale::strong());
+    m_number->setAlignment(Qt::AlignCenter);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(isNarrow ? narrowGap : gap);
+    row->addWidget(m_previous);
+    row->addWidget(m_number, isNarrow ? 1 : 0);
+    row->addWidget(m_next);
+    if (isNarrow) {
+        for (QPushButton *button : {m_previous, m_next})
+            button->setFixedWidth(narrowButton);
+    }
+    connect(m_previous, &QPushButton::clicked, this, [this] { request(m_page - 1); });
+    connect(m_next, &QPushButton::clicked, this, [this] { request(m_page + 1); });
+    setPage(0, 1);
+}
+
+void PageStepper::setPage(int page, int count)
+{
+    m_page = page;
+    m_count = count;
+    m_number->setText(FrameLines::pageOf(page + 1, count));
+    setUnavailable(m_previous, page == 0 ? FrameLines::firstPage() : QString());
+    setUnavailable(m_next, page + 1 == count ? FrameLines::lastPage() : QString());
+}
+
+void PageStepper::listenTo(SheetView *view)
+{
+    connect(view, &SheetView::stepRequested, this,
+            [this](int step, SheetView::Edge edge) { request(m_page + step, edge); });
+    connect(view, &SheetView::firstRequested, this, [this] { request(0); });
+    connect(view, &SheetView::lastRequested, this, [this] { request(m_count - 1); });
+}
+
+void PageStepper::request(int page, SheetView::Edge edge)
+{
+    if (page >= 0 && page < m_count)
+        emit pageRequested(page, edge);
+}
