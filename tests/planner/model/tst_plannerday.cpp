@@ -194,7 +194,7 @@ void TestPlannerDay::keepsTheCalendarOptions()
     QCOMPARE(options.firstDay(), Qt::Monday);
     QVERIFY(options.marksToday());
 
-    const TestProgram test;
+    TestProgram test;
     QCOMPARE(CalendarOptions::read(test.settings), CalendarOptions());
     QVERIFY((CalendarOptions{1, 1, 7, 1}.write(test.settings)));
     QByteArray expected(20 * 16 + 2, '\0');
