@@ -236,11 +236,6 @@ void AddressForm::setLocked(bool locked)
         box->setLocked(locked);
 }
 
-bool AddressForm::isLocked() const
-{
-    return m_boxes[LastName]->isLocked();
-}
-
 void AddressForm::setNameHint(const QString &hint)
 {
     m_nameHint->setText(hint);

@@ -32,7 +32,6 @@ public:
     void setTexts(const Texts &texts);
 
     void setLocked(bool locked);
-    bool isLocked() const;
 
     FieldBox *box(AddressField field) const { return m_boxes[field]; }
     PictureFrame *picture() const { return m_picture; }
@@ -47,8 +46,6 @@ public:
     /// Puts dates that were typed into the form that the file keeps, as leaving their boxes does: before a
     /// save that comes by its access key.
     void tidyDates();
-    /// Reads the dates again: a new day has begun, or texts were set.
-    void refreshFacts();
 
     QSize minimumSizeHint() const override;
 
@@ -72,6 +69,7 @@ private:
     QWidget *makeOtherColumn();
     void addPhones(QVBoxLayout *column);
     FieldBox *makeBox(AddressField field);
+    void refreshFacts();
     void fitPicture();
     void placeEnlargeButton();
     void paintIcons();

@@ -46,9 +46,14 @@ void WorkViews::goHome()
 {
     if (isHome())
         return;
+    // Who is at work in another part of the window, a list beside the views say, stays there.
+    const QWidget *focused = window()->focusWidget();
+    const bool isElsewhere = focused && focused->isVisible() && !isAncestorOf(focused);
     setCurrentWidget(m_home);
     QWidget *before = m_focusAtHome;
     m_focusAtHome = nullptr;
+    if (isElsewhere)
+        return;
     if (before && before->isVisible() && before->isEnabled())
         before->setFocus();
     else

@@ -28,7 +28,7 @@ public:
 
     /// Brings `view` to the front.
     void open(QWidget *view);
-    /// Back to the home; the focus returns to where it was when another view took its place.
+    /// Back to the home; a focus in the view that goes returns to where it was before.
     void goHome();
     /// What Esc does: leaves what stands over the home, if that lets itself be left. False where nothing
     /// does.

@@ -31,6 +31,7 @@ private slots:
     void asksForAnotherPort();
     void copiesTheEntry();
     void showsWhatItPrints();
+    void leavesPanelsWhereTheUserIs();
     void warnsBeforePrintingManyPictures();
 };
 
@@ -221,6 +222,17 @@ void TestAddbkcommands::showsWhatItPrints()
     click("print4");
     asked();
     QVERIFY(m_window->isPreviewShown());
+}
+
+void TestAddbkcommands::leavesPanelsWhereTheUserIs()
+{
+    click("Command5");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(control<QWidget>(*m_window, "Command5")->hasFocus());
+    click("Command5");
+    clickRow(3); // another entry takes the panel's place
+    QVERIFY(box(0)->isVisible());
+    QVERIFY(list()->hasFocus());
 }
 
 void TestAddbkcommands::warnsBeforePrintingManyPictures()
