@@ -1,15 +1,13 @@
 #include "addressbook/viewer/labelpanel.h"
 
 #include "addressbook/model/viewerlines.h"
-#include "addressbook/model/viewermessages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
-#include "shell/core/framelines.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/pages/pagetype.h"
 #include "shell/preview/printjob.h"
-#include "shell/preview/sheetview.h"
+#include "shell/preview/sheetpane.h"
 #include "shell/program/program.h"
 
 #include <QAbstractItemView>
@@ -72,7 +70,10 @@ LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
     row->setContentsMargins({});
     row->setSpacing(16);
     row->addWidget(makeChoices(), 3);
-    row->addWidget(makePreview(), 2);
+    m_pane = new SheetPane(u"labelPreview"_s, {u"previousSheet"_s, u"sheetNumber"_s, u"nextSheet"_s}, work);
+    m_pane->view()->setAccessibleName(u"Labels as they will be printed"_s);
+    m_pane->view()->viewport()->installEventFilter(this);
+    row->addWidget(m_pane, 2);
     setWork(work);
     setLeaveButton(u"leaveLabels"_s, u"&Back to the Grid"_s);
     m_print = addButton(u"printLabels"_s, u"&Print"_s, ButtonKind::Main);
@@ -81,11 +82,6 @@ LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
     connect(m_start, &QSpinBox::valueChanged, this, &LabelPanel::refresh);
     connect(m_share, &QCheckBox::toggled, this, &LabelPanel::gather);
     connect(m_returnAddress, &QPlainTextEdit::textChanged, this, &LabelPanel::refresh);
-    connect(m_previous, &QPushButton::clicked, this, [this] { showSheet(m_index - 1); });
-    connect(m_next, &QPushButton::clicked, this, [this] { showSheet(m_index + 1); });
-    connect(m_view, &SheetView::stepRequested, this, [this](int step) { showSheet(m_index + step); });
-    connect(m_view, &SheetView::firstRequested, this, [this] { showSheet(0); });
-    connect(m_view, &SheetView::lastRequested, this, [this] { showSheet(m_sheetCount - 1); });
     connect(m_print, &QPushButton::clicked, this, &LabelPanel::print);
     m_gathering.setSingleShot(true);
     m_gathering.setInterval(typingPause);
@@ -153,28 +149,6 @@ void LabelPanel::addSheetChoice(QVBoxLayout &column)
     column.addWidget(m_start, 0, Qt::AlignLeft);
 }
 
-QWidget *LabelPanel::makePreview()
-{
-    auto *preview = new QWidget(this);
-    m_view = named(new SheetView(preview), u"labelPreview"_s);
-    m_view->setAccessibleName(u"Labels as they will be printed"_s);
-    m_view->viewport()->installEventFilter(this);
-    m_previous = makeIconButton(u"previousSheet"_s, "previous"_L1, u"Previous page"_s, preview);
-    m_next = makeIconButton(u"nextSheet"_s, "next"_L1, u"Next page"_s, preview);
-    m_pageNumber = named(new QLabel(preview), u"sheetNumber"_s);
-    m_pageNumber->setFont(TypeScale::strong());
-    auto *steps = new QHBoxLayout;
-    steps->addStretch(1);
-    for (QWidget *part : std::initializer_list<QWidget *>{m_previous, m_pageNumber, m_next})
-        steps->addWidget(part);
-    steps->addStretch(1);
-    auto *column = new QVBoxLayout(preview);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(m_view, 1);
-    column->addLayout(steps);
-    return preview;
-}
-
 void LabelPanel::restoreChoices()
 {
     const QString chosen = m_program.store.value(storeKey("labelSheet"_L1)).toString();
@@ -208,7 +182,7 @@ LabelPages::Options LabelPanel::options() const
 void LabelPanel::start(const AddressViewer &viewer)
 {
     m_viewer = &viewer;
-    m_index = 0;
+    m_pane->startOver();
     gather();
     m_sheets->setFocus();
 }
@@ -216,7 +190,7 @@ void LabelPanel::start(const AddressViewer &viewer)
 void LabelPanel::follow(const AddressViewer &viewer)
 {
     m_viewer = &viewer;
-    m_index = 0;
+    m_pane->startOver();
     m_gathering.start();
 }
 
@@ -228,7 +202,7 @@ void LabelPanel::sheetChosen()
         control->setVisible(!isEnvelope);
     for (QWidget *control : std::initializer_list<QWidget *>{m_returnLabel, m_returnAddress})
         control->setVisible(isEnvelope);
-    m_index = 0;
+    m_pane->startOver();
     m_sheets->setToolTip(sheet().name);
     fit();
 }
@@ -259,8 +233,8 @@ void LabelPanel::fit()
 void LabelPanel::refresh()
 {
     const int labels = int(m_labels.texts.size());
-    m_sheetCount = LabelPages::sheetCount(sheet(), labels, options().used);
-    m_count->setText(ViewerLines::labelCount(labels, m_sheetCount, sheet().isEnvelope));
+    const int sheets = LabelPages::sheetCount(sheet(), labels, options().used);
+    m_count->setText(ViewerLines::labelCount(labels, sheets, sheet().isEnvelope));
     QStringList remarks;
     if (m_labels.leftOut > 0)
         remarks << ViewerLines::leftOut(m_labels.leftOut);
@@ -268,26 +242,17 @@ void LabelPanel::refresh()
         remarks << ViewerLines::shortened(m_shortened);
     m_leftOut->setText(remarks.join(u'\n'));
     setUnavailable(m_print, labels == 0 ? ViewerLines::noLabels() : QString());
-    showSheet(m_index);
-}
-
-void LabelPanel::showSheet(int index)
-{
-    m_index = std::clamp(index, 0, m_sheetCount - 1);
-    LabelPages::Options shown = options();
-    shown.hasRims = !sheet().isEnvelope;
-    auto painter = std::make_unique<PagePainter>(LabelPages::sheet(sheet(), m_set, shown, m_index),
-                                                 sheet().setup(), pageFont(sheet()));
-    m_view->setSheet(painter.get(), 0);
-    m_painter = std::move(painter);
-    m_pageNumber->setText(ViewerMessages::pageOf(m_index + 1, m_sheetCount));
-    setUnavailable(m_previous, m_index == 0 ? FrameLines::firstPage() : QString());
-    setUnavailable(m_next, m_index + 1 == m_sheetCount ? FrameLines::lastPage() : QString());
+    m_pane->setSheets(sheets, [this](int index) {
+        LabelPages::Options shown = options();
+        shown.hasRims = !sheet().isEnvelope;
+        return PagePainter(LabelPages::sheet(sheet(), m_set, shown, index), sheet().setup(),
+                           pageFont(sheet()));
+    });
 }
 
 bool LabelPanel::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress)
+    if (watched == m_pane->view()->viewport() && event->type() == QEvent::MouseButtonPress)
         chooseStart(static_cast<QMouseEvent *>(event)->pos());
     return TaskPanel::eventFilter(watched, event);
 }
@@ -295,8 +260,8 @@ bool LabelPanel::eventFilter(QObject *watched, QEvent *event)
 /// The label under `place` of the first sheet is where printing starts.
 void LabelPanel::chooseStart(QPoint place)
 {
-    const QRectF shown = m_view->sheetRect();
-    if (sheet().isEnvelope || m_index != 0 || !shown.isValid())
+    const QRectF shown = m_pane->view()->sheetRect();
+    if (sheet().isEnvelope || m_pane->sheet() != 0 || !shown.isValid())
         return;
     const double inch = shown.width() / sheet().paper.width();
     const QPointF inches = (QPointF(place) - shown.topLeft()) / inch;
@@ -316,5 +281,5 @@ void LabelPanel::print()
         return PagePainter(LabelPages::sheets(sheet(), m_set, options()), setup, pageFont(sheet()));
     };
     PrintJob job(m_program, m_activity, window(), sheet().isEnvelope ? u"Envelopes"_s : u"Labels"_s);
-    job.run(laidOut(sheet().setup()), sheet().setup(), m_index, laidOut);
+    job.run(laidOut(sheet().setup()), sheet().setup(), m_pane->sheet(), laidOut);
 }

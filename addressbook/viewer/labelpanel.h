@@ -5,12 +5,9 @@
 
 #include <QTimer>
 
-#include <memory>
-
 class ActivityBar;
 class AddressViewer;
-class PagePainter;
-class SheetView;
+class SheetPane;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -39,7 +36,6 @@ protected:
 
 private:
     QWidget *makeChoices();
-    QWidget *makePreview();
     void addSheetChoice(QVBoxLayout &column);
     void restoreChoices();
     void storeChoices() const;
@@ -49,7 +45,6 @@ private:
     void gather();
     void fit();
     void refresh();
-    void showSheet(int index);
     void chooseStart(QPoint place);
     void print();
 
@@ -60,9 +55,6 @@ private:
     std::vector<SetLabel> m_set; ///< the same, fitted into the chosen sheet
     int m_shortened = 0;
     QTimer m_gathering;
-    int m_index = 0;
-    int m_sheetCount = 1;
-    std::unique_ptr<PagePainter> m_painter;
 
     QComboBox *m_sheets = nullptr;
     QLabel *m_startLabel = nullptr;
@@ -72,9 +64,6 @@ private:
     QPlainTextEdit *m_returnAddress = nullptr;
     QLabel *m_count = nullptr;
     QLabel *m_leftOut = nullptr;
-    SheetView *m_view = nullptr;
-    QPushButton *m_previous = nullptr;
-    QPushButton *m_next = nullptr;
-    QLabel *m_pageNumber = nullptr;
+    SheetPane *m_pane = nullptr;
     QPushButton *m_print = nullptr;
 };

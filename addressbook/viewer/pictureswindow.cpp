@@ -7,12 +7,12 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/titleline.h"
-#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/enlargedpicture.h"
 #include "shell/pictures/picturegallery.h"
+#include "shell/preview/pagestepper.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
@@ -71,33 +71,19 @@ QWidget *ADDBKDISPLAY2::makeGalleryPage()
         named(new PictureGallery(program().folder, ViewerPages::picturesPerSheet, page), u"pictures"_s);
     m_gallery->setAccessibleName(u"Pictures"_s);
     page->setFocusProxy(m_gallery);
-    layout->addWidget(makeHead());
+    auto *head = new TitleLine(u"Panel3D2"_s, ViewerMessages::picturesTitle(), page);
+    m_steps = new PageStepper({u"previousPictures"_s, u"picturePage"_s, u"nextPictures"_s}, head);
+    head->addAtRight(m_steps);
+    layout->addWidget(head);
     layout->addWidget(m_gallery, 1);
     layout->addWidget(makeLine(page));
     layout->addWidget(makeFoot());
-    connect(m_gallery, &PictureGallery::stepRequested, this, [this](int step) { showPage(m_page + step); });
+    connect(m_steps, &PageStepper::pageRequested, this, &ADDBKDISPLAY2::showPage);
+    connect(m_gallery, &PictureGallery::stepRequested, this,
+            [this](int step) { showPage(m_steps->page() + step); });
     connect(m_gallery, &PictureGallery::progressed, this, &ADDBKDISPLAY2::showProgress);
     connect(m_gallery, &PictureGallery::opened, this, &ADDBKDISPLAY2::enlarge);
     return page;
-}
-
-QWidget *ADDBKDISPLAY2::makeHead()
-{
-    auto *head = new TitleLine(u"Panel3D2"_s, ViewerMessages::picturesTitle(), this);
-    m_pageNumber = named(new QLabel(head), u"picturePage"_s);
-    m_pageNumber->setFont(TypeScale::strong());
-    const auto step = [this, head](const QString &name, QLatin1StringView icon, const QString &word,
-                                   int pages, Commands::Reason unless) {
-        QAction *command = commands().add(
-            nullptr, name, word, [this, pages] { showPage(m_page + pages); }, std::move(unless));
-        return commands().addButton(command, makeIconButton(name, icon, word, head));
-    };
-    head->addAtRight(step(u"previousPictures"_s, "previous"_L1, u"Previous page"_s, -1,
-                          [this] { return m_page == 0 ? FrameLines::firstPage() : QString(); }));
-    head->addAtRight(m_pageNumber);
-    head->addAtRight(step(u"nextPictures"_s, "next"_L1, u"Next page"_s, 1,
-                          [this] { return m_page + 1 == pageCount() ? FrameLines::lastPage() : QString(); }));
-    return head;
 }
 
 QWidget *ADDBKDISPLAY2::makeFoot()
@@ -160,7 +146,7 @@ void ADDBKDISPLAY2::readBook()
     m_viewer.load(Information::Pictures, {});
     m_pictures = ViewerPages::picturesOf(m_viewer);
     m_total->setText(ViewerMessages::pictureTotal(int(m_pictures.size())));
-    showPage(std::min(m_page, pageCount() - 1));
+    showPage(std::min(m_steps->page(), pageCount() - 1));
 }
 
 int ADDBKDISPLAY2::pageCount() const
@@ -171,7 +157,7 @@ int ADDBKDISPLAY2::pageCount() const
 
 std::vector<NamedPicture> ADDBKDISPLAY2::picturesOfPage() const
 {
-    const auto first = std::size_t(m_page * ViewerPages::picturesPerSheet);
+    const auto first = std::size_t(m_steps->page() * ViewerPages::picturesPerSheet);
     const auto end = std::min(m_pictures.size(), first + std::size_t(ViewerPages::picturesPerSheet));
     return {m_pictures.begin() + std::ptrdiff_t(first), m_pictures.begin() + std::ptrdiff_t(end)};
 }
@@ -180,8 +166,7 @@ void ADDBKDISPLAY2::showPage(int page)
 {
     if (page < 0 || page >= pageCount())
         return;
-    m_page = page;
-    m_pageNumber->setText(ViewerMessages::pageOf(page + 1, pageCount()));
+    m_steps->setPage(page, pageCount());
     commands().refresh();
     m_gallery->setPictures(picturesOfPage());
     activity().say(whyNoPicture());

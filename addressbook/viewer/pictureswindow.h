@@ -5,6 +5,7 @@
 #include "shell/pictures/storedpicture.h"
 
 class EnlargedPicture;
+class PageStepper;
 class PictureGallery;
 class PicturePrint;
 class WorkViews;
@@ -24,7 +25,6 @@ protected:
 
 private:
     QWidget *makeGalleryPage();
-    QWidget *makeHead();
     QWidget *makeFoot();
     void makeMenus();
     QString whyNoPicture() const;
@@ -40,12 +40,11 @@ private:
 
     AddressViewer m_viewer;
     std::vector<NamedPicture> m_pictures;
-    int m_page = 0; ///< from 0
     bool m_hasWarned = false;
     PicturePrint *m_print;
     WorkViews *m_views = nullptr; ///< the gallery; one picture over it
+    PageStepper *m_steps = nullptr;
     PictureGallery *m_gallery = nullptr;
     EnlargedPicture *m_enlarged = nullptr;
-    QLabel *m_pageNumber = nullptr;
     QLabel *m_total = nullptr;
 };
