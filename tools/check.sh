@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Checks the C++ files that have changed since this branch left BASE (origin/main, else main), committed or not: their
-# layout (clang-format) and what clang-tidy finds in the program's own (tests are only laid out).
+# layout (clang-format) and what clang-tidy finds in the program's own (tests and tools are only laid out).
 #   tools/check.sh [--format] [--all | BASE]     --format: the layout alone    --all: every file
 # Both tools are of version 14, since each version has a layout and opinions of its own.
 set -euo pipefail
@@ -54,7 +54,7 @@ echo "Checking the layout of ${#changed[@]} files"
 clang-format-14 --dry-run -Werror "${changed[@]}"
 [ -z "$format_only" ] || exit 0
 
-mapfile -t own < <(files ':!tests' ':!benchmarks')
+mapfile -t own < <(files ':!tests' ':!benchmarks' ':!tools')
 mapfile -t units < <(translation_units "${own[@]}")
 [ ${#units[@]} -gt 0 ] || exit 0
 install_missing "${quillery_build_packages[@]}" clang-tidy-14

@@ -6,6 +6,11 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/packages.sh
 
+# What the documents show and a newcomer wants to see: one for each new function, thirty at most.
+documents=(main-menu main-menu-dark main-menu-200 background-selector message-save-changes page-preview password-control
+    manual address-book-view address-book-view-1024 address-book-modify address-book-date viewer-address viewer-labels
+    viewer-pictures planner-day planner-day-dark planner-week planner-month planner-recurrence)
+
 docs=
 if [ "${1:-}" = --docs ]; then
     docs=1
@@ -15,8 +20,9 @@ install_missing "${quillery_build_packages[@]}" fonts-dejavu-core
 build release pictures
 [ $# -gt 0 ] || rm -rf build/pictures
 build/release/tools/pictures/pictures build/pictures "$@"
-[ -z "$docs" ] || for picture in docs/screenshots/*.png; do
-    new=build/pictures/${picture##*/}
-    [ ! -f "$new" ] || cp "$new" "$picture"
-done
+if [ -n "$docs" ]; then
+    for name in "${documents[@]}"; do
+        [ ! -f "build/pictures/$name.png" ] || cp "build/pictures/$name.png" docs/screenshots/
+    done
+fi
 echo "The pictures are in build/pictures."

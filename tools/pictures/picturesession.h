@@ -25,9 +25,9 @@ struct Camera {
 /// A whole program on a fresh copy of the sample household, worked as a person would: controls by their
 /// object names, keys and clicks. It ends with its object.
 ///
-/// A picture more: in the album of its function (mainmenu.cpp, planner.cpp, ...) go to what it shows, then
-/// take("its-name"). An album more: a file with a function like those, declared in albums.h and listed in
-/// main.cpp. A step that finds no control of its name ends the run and says which.
+/// To add a picture: go to what it shows in the album of its function (mainmenu.cpp, planner.cpp, ...), then
+/// take("its-name"). To add an album: write a function like those in a file of its own, declare it in
+/// albums.h and list it in main.cpp. A step that finds no control of its name ends the run and says which.
 class PictureSession
 {
 public:

@@ -4,6 +4,7 @@
 #include "planner/model/plannerfiles.h"
 
 #include <QFile>
+#include <QProgressBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -102,7 +103,8 @@ void takeRecurrence(PictureSession &session)
     session.fill("endDate", u"Nov-20-2036"_s);
     session.click("recurrenceOk");
     // A walk over ten years is a matter of moments.
-    for (int moment = 0; moment < 8; ++moment)
+    const auto &progress = session.find<QProgressBar>("updateProgress");
+    while (progress.value() < progress.maximum() / 5)
         QCoreApplication::processEvents();
     session.takeAtOnce("planner-recurrence-walk");
 }
