@@ -19,7 +19,9 @@ if(QUILLERY_FUZZ)
     target_compile_options(quillery_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+# ccache makes warm builds fast, and cannot look into precompiled headers, which make cold ones fast: one or the other.
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE}")
+    set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
 endif()
