@@ -35,7 +35,6 @@ private slots:
     void survivesBadFiles();
     void makesNoFiles_data();
     void makesNoFiles();
-    void staysCompact();
 
 private:
     const QJsonObject m_expected = expectedOf(u"address_book"_s);
@@ -427,24 +426,6 @@ void TestAddressViewer::makesNoFiles()
     viewer.forEachShown([](int, const AddressEntry &) { return true; });
     QCOMPARE(viewer.count(), rows);
     QCOMPARE(QDir(files.folder().path()).entryList(), before);
-}
-
-void TestAddressViewer::staysCompact()
-{
-    const TestFolder files;
-    QByteArray lines = neverWritten(60), entries = neverWritten(724);
-    for (int record = 2; record < 3000; ++record) {
-        lines += lineBytes(lineOf("Whitlock, Elisabeth", record));
-        entries +=
-            entryBytes({"Whitlock", "Elisabeth", "", "31 Orchard Lane", "", "Lakewood", "NJ", "08701"});
-    }
-    files.put(u"Addbk2.Fil"_s, lines);
-    files.put(u"Addbk1.Fil"_s, entries);
-    AddressViewer viewer(files.folder(), DateStyle::Usa);
-    viewer.load(Information::Address, everyone);
-    QCOMPARE(viewer.count(), 2998);
-    const qsizetype text = 2998 * (19 + 37);
-    QVERIFY2(viewer.memoryUsed() < 2 * text, qPrintable(QString::number(viewer.memoryUsed())));
 }
 
 QTEST_GUILESS_MAIN(TestAddressViewer)

@@ -51,9 +51,7 @@ class TestDialling : public QObject
 
 private slots:
     void init();
-    void dialsAndHangsUp_data();
     void dialsAndHangsUp();
-    void neverOpensThePortWithoutANumber_data();
     void neverOpensThePortWithoutANumber();
     void takesThePortFromTheSettings_data();
     void takesThePortFromTheSettings();
@@ -86,38 +84,27 @@ Dialling::Outcome TestDialling::call(ScriptedDesk &desk, const QString &number)
     return Dialling::call(number, modem, *m_settings, desk);
 }
 
-void TestDialling::dialsAndHangsUp_data()
-{
-    QTest::addColumn<Answer>("answer");
-    QTest::newRow("OK") << Answer::Ok;
-    QTest::newRow("Cancel") << Answer::Cancel;
-}
-
 void TestDialling::dialsAndHangsUp()
 {
-    QFETCH(Answer, answer);
-    ScriptedDesk desk(m_line);
-    desk.closesWith = answer;
-    QCOMPARE(call(desk, u"(440) 555-0100"_s), Dialling::Outcome::Called);
-    QCOMPARE(m_line.log,
-             (QStringList{u"show"_s, u"open 1"_s, u"ATDT (440) 555-0100;\r"_s,
-                          u"Number Dialed: (440) 555-0100"_s, u"ATH\r"_s, u"close"_s, u"hide"_s}));
-}
-
-void TestDialling::neverOpensThePortWithoutANumber_data()
-{
-    QTest::addColumn<QString>("number");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("blanks") << u"   "_s;
-    QTest::newRow("a line end") << u"\r\n"_s;
+    for (const Answer answer : {Answer::Ok, Answer::Cancel}) {
+        ScriptedDesk desk(m_line);
+        desk.closesWith = answer;
+        m_line.log.clear();
+        QCOMPARE(call(desk, u"(440) 555-0100"_s), Dialling::Outcome::Called);
+        QCOMPARE(m_line.log,
+                 (QStringList{u"show"_s, u"open 1"_s, u"ATDT (440) 555-0100;\r"_s,
+                              u"Number Dialed: (440) 555-0100"_s, u"ATH\r"_s, u"close"_s, u"hide"_s}));
+    }
 }
 
 void TestDialling::neverOpensThePortWithoutANumber()
 {
-    QFETCH(QString, number);
-    ScriptedDesk desk(m_line);
-    QCOMPARE(call(desk, number), Dialling::Outcome::NoNumber);
-    QCOMPARE(m_line.log, QStringList{u"Please Enter a Valid Telephone Number!"_s});
+    for (const QString &number : {QString(), u"   "_s, u"\r\n"_s}) {
+        ScriptedDesk desk(m_line);
+        m_line.log.clear();
+        QCOMPARE(call(desk, number), Dialling::Outcome::NoNumber);
+        QCOMPARE(m_line.log, QStringList{u"Please Enter a Valid Telephone Number!"_s});
+    }
 }
 
 void TestDialling::takesThePortFromTheSettings_data()

@@ -14,8 +14,6 @@ class TestLabelSheet : public QObject
 
 private slots:
     void fitsEveryLabelOnItsSheet();
-    void knowsTheMeasures_data();
-    void knowsTheMeasures();
     void namesPersonsTogether_data();
     void namesPersonsTogether();
     void sharesLabelsByAddress_data();
@@ -73,37 +71,6 @@ void TestLabelSheet::fitsEveryLabelOnItsSheet()
                 QVERIFY(!sheet.place(i).adjusted(0.001, 0.001, -0.001, -0.001).intersects(sheet.place(j)));
         }
     }
-}
-
-void TestLabelSheet::knowsTheMeasures_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<QSizeF>("paper"); // in millimetres
-    QTest::addColumn<QSizeF>("label");
-    QTest::newRow("3 x 7") << u"3 x 7"_s << 21 << QSizeF(210, 297) << QSizeF(63.5, 38.1);
-    QTest::newRow("3 x 8") << u"3 x 8"_s << 24 << QSizeF(210, 297) << QSizeF(63.5, 33.9);
-    QTest::newRow("3 x 10") << u"3 x 10"_s << 30 << QSizeF(215.9, 279.4) << QSizeF(66.675, 25.4);
-    QTest::newRow("DL") << u"DL"_s << 1 << QSizeF(220, 110) << QSizeF();
-    QTest::newRow("C6") << u"C6"_s << 1 << QSizeF(162, 114) << QSizeF();
-    QTest::newRow("C5") << u"C5"_s << 1 << QSizeF(229, 162) << QSizeF();
-    QTest::newRow("US #10") << u"#10"_s << 1 << QSizeF(241.3, 104.775) << QSizeF();
-}
-
-void TestLabelSheet::knowsTheMeasures()
-{
-    QFETCH(QString, name);
-    QFETCH(QSizeF, paper);
-    QFETCH(QSizeF, label);
-    const LabelSheet &sheet = sheetNamed(name);
-    const auto isSame = [](QSizeF inches, QSizeF millimeters) {
-        return (QPointF(inches.width(), inches.height()) * 25.4 -
-                QPointF(millimeters.width(), millimeters.height()))
-                   .manhattanLength() < 0.01;
-    };
-    QTEST(sheet.count(), "count");
-    QVERIFY(isSame(sheet.paper, paper));
-    QVERIFY(sheet.isEnvelope || isSame(sheet.label, label));
 }
 
 void TestLabelSheet::namesPersonsTogether_data()

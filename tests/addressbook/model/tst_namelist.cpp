@@ -15,7 +15,6 @@ private slots:
     void searchesAnywhereAndWithoutCase();
     void searchesLongLists_data();
     void searchesLongLists();
-    void staysSmall();
     void listsWithinBytesItIsGiven();
 };
 
@@ -116,15 +115,6 @@ void TestNameList::searchesLongLists()
     for (int i = 0; i < lines; ++i)
         list.append(matches.contains(i) ? u"Lind, Anne" : u"Quill, David");
     QTEST(list.find(u"anne"), "selected");
-}
-
-void TestNameList::staysSmall()
-{
-    NameList list;
-    for (int record = 2; record <= 50000; ++record)
-        list.append(IndexLine::make(u"Miller", u"Anne", record));
-    QVERIFY(list.memoryUsed() < 3 * list.textLength());
-    QCOMPARE(list.recordAt(49998), 50000);
 }
 
 void TestNameList::listsWithinBytesItIsGiven()

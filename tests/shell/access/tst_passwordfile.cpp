@@ -3,7 +3,6 @@
 #include "tests/support/testfiles.h"
 
 #include <QDir>
-#include <QRandomGenerator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -57,7 +56,6 @@ private slots:
     void tellsDamagedFiles_data();
     void tellsDamagedFiles();
     void everyCutIsDamage();
-    void noiseOpensNothing();
     void aFolderInItsPlaceIsDamage();
     void aDamagedFileIsNotTouched();
     void aFullDiskKeepsTheOldPassword();
@@ -238,18 +236,6 @@ void TestPasswordFile::everyCutIsDamage()
     for (qsizetype length = 1; length < whole.size(); ++length) {
         setBytes(whole.left(length));
         QVERIFY2(file().state() == PasswordFile::State::Damaged, qPrintable(QString::number(length)));
-    }
-}
-
-void TestPasswordFile::noiseOpensNothing()
-{
-    QRandomGenerator random(20261121);
-    for (int round = 0; round < 300; ++round) {
-        QByteArray noise(random.bounded(1, 4000), Qt::Uninitialized);
-        for (char &byte : noise)
-            byte = char(random.bounded(1, 256));
-        setBytes(noise);
-        QCOMPARE(file().state(), PasswordFile::State::Damaged);
     }
 }
 

@@ -39,9 +39,7 @@ private slots:
     void eachWrongAnswerWaitsLonger();
     void theThirdWrongAnswerEndsIt();
     void nothingIsTriedDuringTheWait();
-    void leavesItsVerdictForTheGate_data();
     void leavesItsVerdictForTheGate();
-    void tellsThatTheFileIsDamaged_data();
     void tellsThatTheFileIsDamaged();
     void showsThePasswordOnlyWhenAsked();
 
@@ -155,41 +153,29 @@ void TestForm32::nothingIsTriedDuringTheWait()
     QCOMPARE(finished.size(), 1);
 }
 
-void TestForm32::leavesItsVerdictForTheGate_data()
-{
-    QTest::addColumn<QDialog::DialogCode>("code");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("the password") << QDialog::Accepted << true;
-    QTest::newRow("cancelled") << QDialog::Rejected << false;
-}
-
 void TestForm32::leavesItsVerdictForTheGate()
 {
-    QFETCH(QDialog::DialogCode, code);
-    QFETCH(bool, opens);
     m_program->state.protectedAreas.setFlag(Area::Budget, u"YES"_s);
-    m_program->dialogs.willRun([code](QDialog &) { return code; });
-    QCOMPARE(m_program->gate.mayOpen(m_program->program, Area::Budget, nullptr), opens);
-    m_program->dialogs.willRun([code](QDialog &) { return code; });
-    QCOMPARE(m_program->gate.mayOpenPasswordControl(m_program->program, nullptr), opens);
-    QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);
+    for (const QDialog::DialogCode code : {QDialog::Accepted, QDialog::Rejected}) {
+        const bool opens = code == QDialog::Accepted;
+        m_program->dialogs.willRun([code](QDialog &) { return code; });
+        QCOMPARE(m_program->gate.mayOpen(m_program->program, Area::Budget, nullptr), opens);
+        m_program->dialogs.willRun([code](QDialog &) { return code; });
+        QCOMPARE(m_program->gate.mayOpenPasswordControl(m_program->program, nullptr), opens);
+        QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);
+    }
     QVERIFY(m_program->dialogs.isDone());
-}
-
-void TestForm32::tellsThatTheFileIsDamaged_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("noise") << "\x12\x34\x56"_ba;
-    QTest::newRow("emptied while the program runs") << QByteArray();
 }
 
 void TestForm32::tellsThatTheFileIsDamaged()
 {
-    QFETCH(QByteArray, bytes);
     m_program->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
-    m_program->setBytes(u"PCtrl1.Fil"_s, bytes);
-    QVERIFY(!m_program->gate.mayOpen(m_program->program, Area::AddressBook, nullptr));
-    QCOMPARE(m_program->dialogs.takeShown(), {PasswordMessages::fileDamaged(m_program->folder.path())});
+    for (const QByteArray &bytes :
+         {"\x12\x34\x56"_ba, QByteArray()}) { // noise; emptied while the program runs
+        m_program->setBytes(u"PCtrl1.Fil"_s, bytes);
+        QVERIFY(!m_program->gate.mayOpen(m_program->program, Area::AddressBook, nullptr));
+        QCOMPARE(m_program->dialogs.takeShown(), {PasswordMessages::fileDamaged(m_program->folder.path())});
+    }
 }
 
 void TestForm32::showsThePasswordOnlyWhenAsked()

@@ -300,7 +300,6 @@ void TestPagePainter::laysOutFiftyThousandRowsInOneGo()
     const qint64 many = fastest(50'000);
     // Ten times the rows: a layout that goes back for each sheet would take a hundred times as long.
     QVERIFY2(many < 40 * few, qPrintable(u"%1 ns for ten times what takes %2 ns"_s.arg(many).arg(few)));
-    QVERIFY(many < 2'000'000'000);
 
     const PagePainter painter(numbered(50'000), {}, bodyFont());
     QVERIFY(painter.text(painter.sheetCount() - 1).contains(u"\t49999\n"_s));
