@@ -13,7 +13,4 @@ struct PageContext {
     DateStyle style = DateStyle::Usa;
     QDate today{};
     QString family{};
-
-    /// For builders that need no more than the sheet.
-    operator const PageSetup &() const { return setup; }
 };

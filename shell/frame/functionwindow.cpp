@@ -6,6 +6,7 @@
 #include "shell/core/framelines.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/toolbars.h"
+#include "shell/frame/windowplace.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "shell/preview/previewpane.h"
@@ -15,23 +16,17 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <QSettings>
-#include <QSplitter>
 #include <QStackedWidget>
-#include <QTimer>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QSize smallestSize(800, 600);
 constexpr int windowMargin = 16;
-constexpr int framingMilliseconds = 120;
 
 } // namespace
 
@@ -84,7 +79,7 @@ bool FunctionWindow::mayLeave()
         return false;
     }
     if (!m_leaveAgreed)
-        setLeaveAgreed(mayDiscard() && m_colors->askToSave());
+        setLeaveAgreed(mayReplace(leaveQuestion()) && m_colors->askToSave());
     return m_leaveAgreed;
 }
 
@@ -187,14 +182,6 @@ QWidget *FunctionWindow::makePanel(const QString &name)
     return panel;
 }
 
-void FunctionWindow::rememberSplitter(QSplitter *splitter)
-{
-    m_splitters.append(splitter);
-    connect(splitter, &QSplitter::splitterMoved, this, [this, splitter] { m_placed.insert(splitter); });
-    splitter->setHandleWidth(windowMargin);
-    splitter->setChildrenCollapsible(false);
-}
-
 QAction *FunctionWindow::standard(Standard command)
 {
     if (const auto made = m_standard.find(command); made != m_standard.end())
@@ -262,26 +249,6 @@ QMenu *FunctionWindow::addMenu(const QString &name, const QString &caption)
     return menu;
 }
 
-QAction *FunctionWindow::addEntry(QMenu *menu, const QString &name, const QString &caption,
-                                  const QKeySequence &shortcut)
-{
-    QAction *action = makeAction(name, caption, this);
-    action->setShortcut(shortcut);
-    if (menu)
-        menu->addAction(action);
-    return action;
-}
-
-void FunctionWindow::addTool(QAction *action, QLatin1StringView icon, const QString &text)
-{
-    m_commands->tool(action, icon, text);
-}
-
-void FunctionWindow::addToolSeparator()
-{
-    m_commands->separateTools();
-}
-
 void FunctionWindow::addMainMenuTool()
 {
     QAction *mainMenu = m_commands->add(nullptr, u"mainMenu"_s, u"Main Menu"_s,
@@ -298,14 +265,10 @@ void FunctionWindow::finishFrame()
     m_toolbarLayout->restore();
     showTopToolbar();
     m_colors->load();
-    restoreGeometryOnScreen();
+    WindowPlace::open(*this, m_traits.openingSize,
+                      m_program.store.value(storeKey(u"geometry"_s)).toByteArray());
     if (m_sideSplitter)
         m_sideSplitter->restore(m_program.store, storeKey(m_sideSplitter->objectName()));
-    for (QSplitter *splitter : std::as_const(m_splitters)) {
-        const QByteArray place = m_program.store.value(storeKey(splitter->objectName())).toByteArray();
-        if (splitter->restoreState(place))
-            m_placed.insert(splitter);
-    }
     m_activity->startClock();
 }
 
@@ -316,12 +279,6 @@ void FunctionWindow::closeEvent(QCloseEvent *event)
         return;
     }
     m_program.store.setValue(storeKey(u"geometry"_s), saveGeometry());
-    for (const QSplitter *splitter : std::as_const(m_splitters)) {
-        if (isPlaced(splitter))
-            m_program.store.setValue(storeKey(splitter->objectName()), splitter->saveState());
-        else
-            m_program.store.remove(storeKey(splitter->objectName()));
-    }
     if (m_sideSplitter)
         m_sideSplitter->save(m_program.store, storeKey(m_sideSplitter->objectName()));
     event->accept();
@@ -398,36 +355,11 @@ void FunctionWindow::showToolbarMenu(const QPoint &place)
     menu->popup(m_toolbar->mapToGlobal(place));
 }
 
-void FunctionWindow::restoreGeometryOnScreen()
-{
-    const QSize available = screen()->availableSize();
-    setMinimumSize(smallestSize.boundedTo(available));
-    resize(m_traits.openingSize.boundedTo(available));
-    if (!restoreGeometry(m_program.store.value(storeKey(u"geometry"_s)).toByteArray()))
-        move(screen()->availableGeometry().center() - rect().center());
-    fitScreen();
-}
-
-/// Brings the window, with its frame, onto the screen where it stands.
-void FunctionWindow::fitScreen()
-{
-    if (isMaximized() || isFullScreen())
-        return;
-    const QScreen *here = QGuiApplication::screenAt(frameGeometry().center());
-    const QRect room = (here ? here : screen())->availableGeometry();
-    const QSize frame = frameGeometry().size() - size();
-    resize(size().boundedTo(room.size() - frame));
-    const QRect outside = frameGeometry();
-    move(std::clamp(outside.x(), room.left(), std::max(room.left(), room.right() + 1 - outside.width())),
-         std::clamp(outside.y(), room.top(), std::max(room.top(), room.bottom() + 1 - outside.height())));
-}
-
 void FunctionWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    // The window manager tells the size of the frame only when it has put one around.
-    if (!std::exchange(m_wasShown, true) && QGuiApplication::platformName() != "offscreen"_L1)
-        QTimer::singleShot(framingMilliseconds, this, &FunctionWindow::fitScreen);
+    if (!std::exchange(m_wasShown, true))
+        WindowPlace::fitScreenWhenFramed(*this);
 }
 
 bool FunctionWindow::leaveView()

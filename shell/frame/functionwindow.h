@@ -9,10 +9,8 @@
 #include "storage/filestamp.h"
 
 #include <QAction>
-#include <QKeySequence>
 #include <QMainWindow>
 #include <QPointer>
-#include <QSet>
 
 #include <map>
 
@@ -20,7 +18,6 @@ class ActivityBar;
 class FlowToolBar;
 class PreviewPane;
 class QMenu;
-class QSplitter;
 class QStackedWidget;
 class QVBoxLayout;
 class SideSplitter;
@@ -71,8 +68,6 @@ public:
     bool isPreviewShown() const;
 
 protected:
-    /// What this window prints, as it stands now.
-    virtual Page page(const PageSetup &) const { return Page(); }
     /// Writes what was typed. False: refused, and the user was told.
     virtual bool save() { return true; }
     /// The user wants what the files have.
@@ -83,8 +78,6 @@ protected:
     /// desktop session nobody can go back, and there is no Cancel. False: the user stays.
     bool mayReplace(const Message &question);
 
-    /// Asks about unsaved data and saves or drops it. False: the user stays.
-    virtual bool mayDiscard() { return mayReplace(leaveQuestion()); }
     /// What Esc does before it leaves the window, when no page is shown; false where there is nothing to do.
     virtual bool leaveView();
     /// Called when the work comes back from the preview.
@@ -125,34 +118,16 @@ protected:
     void setViews(WorkViews *views);
     /// A panel: rounded, coloured by the user's panel colour, registered with `colors()`.
     QWidget *makePanel(const QString &name);
-    /// The splitter's place (its object name tells it from others) is remembered.
-    void rememberSplitter(QSplitter *splitter);
-    /// Whether the user has given `splitter` its place, now or in an earlier run; until then the window does.
-    bool isPlaced(const QSplitter *splitter) const { return m_placed.contains(splitter); }
-    void forgetPlace(const QSplitter *splitter) { m_placed.remove(splitter); }
     /// The one toolbar; "Main Menu" stands first in it.
     FlowToolBar &toolbar() const { return *m_toolbar; }
-    /// Adds `action` to the toolbar with the icon of this name and the word `text` beside it.
-    void addTool(QAction *action, QLatin1StringView icon, const QString &text);
-    void addToolSeparator();
     /// A menu of the menu bar; menu and its action bear `name`.
     QMenu *addMenu(const QString &name, const QString &caption);
-    /// An action named `name` that runs a command of this window; it stands in `menu` when there is one.
-    template <typename Window>
-    QAction *addCommand(QMenu *menu, const QString &name, const QString &caption, void (Window::*command)(),
-                        const QKeySequence &shortcut = {})
-    {
-        QAction *action = addEntry(menu, name, caption, shortcut);
-        connect(action, &QAction::triggered, static_cast<Window *>(this), command);
-        return action;
-    }
-
     /// Call once when menus and toolbar are complete: restores the toolbar's layout, colours and window
     /// geometry.
     void finishFrame();
 
     void closeEvent(QCloseEvent *event) final;
-    void keyPressEvent(QKeyEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) final;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -168,9 +143,6 @@ private:
     void showTopToolbar();
     void restoreTopToolbar();
     void showToolbarMenu(const QPoint &place);
-    QAction *addEntry(QMenu *menu, const QString &name, const QString &caption, const QKeySequence &shortcut);
-    void restoreGeometryOnScreen();
-    void fitScreen();
     QString storeKey(const QString &what) const;
 
     Program &m_program;
@@ -186,8 +158,6 @@ private:
     std::map<Standard, QAction *> m_standard;
     SideSplitter *m_sideSplitter = nullptr;
     WorkViews *m_views = nullptr;
-    QList<QSplitter *> m_splitters;
-    QSet<const QSplitter *> m_placed;
     QPointer<QWidget> m_focusBeforePreview;
     QStringList m_watchedFiles;
     FileStamp m_seen;

@@ -209,7 +209,7 @@ void TestFunctionWindow::escLeavesPreviewThenViewThenWindow()
     box->setFocus();
     window->openOver();
     over->setFocus();
-    window->showPreview([](const PageSetup &) { return Page(u"Sample"_s); }, u"Sample"_s);
+    window->showPreview([](const PageContext &) { return Page(u"Sample"_s); }, u"Sample"_s);
     QVERIFY(window->isPreviewShown());
     QTest::keyClick(window.get(), Qt::Key_Escape);
     QVERIFY(!window->isPreviewShown() && over->hasFocus());

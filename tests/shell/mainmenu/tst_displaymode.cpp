@@ -8,6 +8,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+Message leaveUnsaved()
+{
+    return {u"Unsaved"_s, u"Save?"_s, Message::Question, {Answer::Yes, Answer::No}, Answer::Yes};
+}
+
 /// A function window with something typed in it.
 class UnsavedWindow final : public FunctionWindow
 {
@@ -24,8 +29,9 @@ public:
     }
 
 protected:
-    Page page(const PageSetup &) const override { return Page(); }
-    bool mayDiscard() override { return m_leaves; }
+    bool isModified() const override { return true; }
+    bool save() override { return m_leaves; }
+    Message leaveQuestion() const override { return leaveUnsaved(); }
 
 private:
     bool &m_leaves;
@@ -136,11 +142,13 @@ void TestDisplayMode::letsAWindowStopTheExit()
         Function::Budget, {[&](Program &program) { return new UnsavedWindow(program, leaves); }, {}, {}, {}});
     Startfrm &window = start.show();
     start.trigger("mMB");
+    start.test.dialogs.willAnswer(Answer::Yes);
     QVERIFY(!window.close());
-    QVERIFY(start.test.dialogs.takeShown().isEmpty());
+    QCOMPARE(start.test.dialogs.takeShown(), {leaveUnsaved()});
 
     leaves = true;
-    start.test.dialogs.willAnswer(Answer::Yes);
+    start.test.dialogs.willAnswer(Answer::Yes); // to saving
+    start.test.dialogs.willAnswer(Answer::Yes); // to the exit
     QVERIFY(window.close());
     QVERIFY(start.test.functions.openWindows().isEmpty());
 }
