@@ -120,11 +120,6 @@ inline QString pictureListTitle(const QString &date)
 
 // The pictures screen.
 
-inline QString pageOf(int page, int count)
-{
-    return u"Page "_s + QString::number(page) + u" of "_s + QString::number(count);
-}
-
 inline QString pictureTotal(int count)
 {
     return u" Total = "_s + QString::number(count);

@@ -2,6 +2,7 @@
 
 #include "addressbook/model/viewermessages.h"
 #include "shell/core/dates.h"
+#include "shell/core/framelines.h"
 #include "storage/ansitext.h"
 
 #include <algorithm>
@@ -225,7 +226,7 @@ Page ViewerPages::pictureList(const std::vector<ListedPicture> &pictures, const 
         page.placeText(head, ViewerMessages::pictureListTitle(Dates::longText(context.today, context.style)),
                        TextRole::Heading);
         if (sheets > 1)
-            page.placeText(head, ViewerMessages::pageOf(sheet + 1, sheets), TextRole::Body, Qt::AlignRight);
+            page.placeText(head, FrameLines::pageOf(sheet + 1, sheets), TextRole::Body, Qt::AlignRight);
         const int end = std::min(count, (sheet + 1) * grid.count());
         for (int i = sheet * grid.count(); i < end; ++i) {
             const ListedPicture &picture = pictures[std::size_t(i)];

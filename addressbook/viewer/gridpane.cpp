@@ -5,6 +5,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/gridview.h"
+#include "shell/controls/listrowdelegate.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 
@@ -45,7 +46,7 @@ GridPane::GridPane(Program &program, QWidget *parent)
     m_grid->setModel(m_rows);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(new GridPlace(m_grid, makeFoot(), this));
+    layout->addWidget(new WholeRows(m_grid, makeFoot(), this));
     setFocusProxy(m_grid);
     connectGrid();
     rememberNameColumn();

@@ -14,11 +14,11 @@
 
 namespace {
 
+constexpr int leastWidth = 240;
 constexpr int leastRowHeight = 28;
 constexpr int inset = 8;
 constexpr int headerHeight = 34;
 constexpr int sortMarkWidth = 20;
-constexpr int footGap = 8;
 
 /// The part of a cell that holds its text.
 QRect textPlace(const QRect &cell)
@@ -98,6 +98,7 @@ GridView::GridView(int linkRole, QWidget *parent)
     : QTableView(parent)
     , m_linkRole(linkRole)
 {
+    setMinimumWidth(leastWidth);
     setItemDelegate(new CellDelegate(this));
     setAlternatingRowColors(true);
     setSelectionMode(SingleSelection);
@@ -127,13 +128,6 @@ GridView::GridView(int linkRole, QWidget *parent)
 int GridView::rowHeight()
 {
     return std::max(leastRowHeight, QFontMetrics(QApplication::font()).height() + 8);
-}
-
-int GridView::wholeHeight(int height) const
-{
-    const int frame = horizontalHeader()->height() + 2 * frameWidth();
-    const int rows = std::max(1, (height - frame) / rowHeight());
-    return frame + rows * rowHeight();
 }
 
 bool GridView::isOnLink(QPoint place) const
@@ -232,51 +226,4 @@ bool GridView::viewportEvent(QEvent *event)
     const bool isCut = fontMetrics().horizontalAdvance(text) > textPlace(visualRect(index)).width();
     QToolTip::showText(help->globalPos(), isCut ? text : QString(), this);
     return true;
-}
-
-GridPlace::GridPlace(GridView *grid, QWidget *foot, QWidget *parent)
-    : QWidget(parent)
-    , m_grid(grid)
-    , m_foot(foot)
-{
-    grid->setParent(this);
-    foot->setParent(this);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setFocusProxy(grid);
-}
-
-QSize GridPlace::sizeHint() const
-{
-    return {600, m_grid->wholeHeight(16 * GridView::rowHeight()) + footHeight()};
-}
-
-QSize GridPlace::minimumSizeHint() const
-{
-    return {240, m_grid->wholeHeight(4 * GridView::rowHeight()) + footHeight()};
-}
-
-bool GridPlace::event(QEvent *event)
-{
-    if (event->type() == QEvent::LayoutRequest) { // the foot has other words
-        updateGeometry();
-        place();
-    }
-    return QWidget::event(event);
-}
-
-void GridPlace::resizeEvent(QResizeEvent *)
-{
-    place();
-}
-
-void GridPlace::place()
-{
-    const int gridHeight = m_grid->wholeHeight(height() - footHeight());
-    m_grid->setGeometry(0, 0, width(), gridHeight);
-    m_foot->setGeometry(0, gridHeight + footGap, width(), m_foot->sizeHint().height());
-}
-
-int GridPlace::footHeight() const
-{
-    return footGap + m_foot->sizeHint().height();
 }

@@ -14,9 +14,6 @@ public:
     static int rowHeight();
     int linkRole() const { return m_linkRole; }
 
-    /// As high as fits into `height` with whole rows.
-    int wholeHeight(int height) const;
-
 signals:
     void linkFollowed(const QModelIndex &index);
     void removalRequested();
@@ -45,26 +42,4 @@ private:
     int m_linkRole;
     QPersistentModelIndex m_pressedLink;
     bool m_wasPainted = false;
-};
-
-/// Keeps a grid at a height of whole rows, with a line of words right under it.
-class GridPlace final : public QWidget
-{
-    Q_OBJECT
-public:
-    GridPlace(GridView *grid, QWidget *foot, QWidget *parent = nullptr);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-protected:
-    bool event(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
-
-private:
-    void place();
-    int footHeight() const;
-
-    GridView *m_grid;
-    QWidget *m_foot;
 };
