@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Checks the C++ files that have changed since this branch left BASE (origin/main, else main), committed or not: their
-# layout (clang-format) and what clang-tidy finds in the program's own (tests and tools are only laid out).
+# layout (clang-format) and what clang-tidy finds in those that the program is built from.
 #   tools/check.sh [--format] [--all | BASE]     --format: the layout alone    --all: every file
 # Both tools are of version 14, since each version has a layout and opinions of its own.
 set -euo pipefail
@@ -17,17 +17,18 @@ for argument in "$@"; do
     esac
 done
 
-# The names of the files to check: headers and sources below the given folders, or anywhere.
+# The headers and sources to check.
 files() {
     if [ -n "$all" ]; then
-        git ls-files --cached --others --exclude-standard -- "$@"
+        git ls-files --cached --others --exclude-standard
     else
-        git diff --name-only --diff-filter=d "$since" -- "$@"
-        git ls-files --others --exclude-standard -- "$@"
+        git diff --name-only --diff-filter=d "$since"
+        git ls-files --others --exclude-standard
     fi | grep -E '\.(h|cpp)$' | sort -u || true
 }
 
-# The files through which clang-tidy sees FILE...: each source itself; for a header its source, or one that includes it.
+# The sources through which clang-tidy sees FILE...: each source itself; for a header its source, or one that includes it.
+# Tests and tools are no part of the program.
 translation_units() {
     local file
     for file in "$@"; do
@@ -36,9 +37,11 @@ translation_units() {
         elif [ -f "${file%.h}.cpp" ]; then
             echo "${file%.h}.cpp"
         else
-            git grep -lF "#include \"$file\"" -- '*.cpp' ':!tests' ':!benchmarks' | head -n 1 || true
+            git grep -lF "#include \"$file\"" -- '*.cpp' ':!tests' ':!tools' ':!benchmarks' | head -n 1 || true
         fi
-    done | grep -vE '_win\.cpp$' | sort -u
+    done | sort -u | while read -r file; do
+        ! grep -qF "\"file\": \"$PWD/$file\"" build/tidy/compile_commands.json || echo "$file"
+    done
 }
 
 if [ -z "$all" ]; then
@@ -54,10 +57,9 @@ echo "Checking the layout of ${#changed[@]} files"
 clang-format-14 --dry-run -Werror "${changed[@]}"
 [ -z "$format_only" ] || exit 0
 
-mapfile -t own < <(files ':!tests' ':!benchmarks' ':!tools')
-mapfile -t units < <(translation_units "${own[@]}")
-[ ${#units[@]} -gt 0 ] || exit 0
 install_missing "${quillery_build_packages[@]}" clang-tidy-14
 cmake --preset tidy >/dev/null # how each file is compiled; nothing is built
+mapfile -t units < <(translation_units "${changed[@]}")
+[ ${#units[@]} -gt 0 ] || exit 0
 echo "Running clang-tidy on ${#units[@]} files"
 printf '%s\n' "${units[@]}" | xargs -n 1 -P "$(nproc)" clang-tidy-14 -p build/tidy --quiet 2>/dev/null

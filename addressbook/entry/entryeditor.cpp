@@ -142,7 +142,7 @@ AddressBook::SaveResult EntryEditor::save(AddressBook &book)
 {
     m_form->tidyDates();
     const AddressEntry entry = typed();
-    const AddressBook::SaveResult result = isNew() ? book.saveNew(entry) : book.saveChanged(m_record, entry);
+    AddressBook::SaveResult result = isNew() ? book.saveNew(entry) : book.saveChanged(m_record, entry);
     if (!result.isEntryWritten) {
         emit said(AddressMessages::saveFailed());
         return result;
