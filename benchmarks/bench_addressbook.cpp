@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/addressnews.h"
 #include "addressbook/model/indexline.h"

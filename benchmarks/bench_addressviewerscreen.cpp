@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long the screen stands still while a page of the family's photographs is read: the longest time between
 // two turns of the event loop.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long the program takes until its main menu is painted, the splash's two seconds aside, and what memory
 // it takes at most, beside an empty window of the same toolkit. Each start is a process of its own: this
 // executable started again with the word that says what to open.

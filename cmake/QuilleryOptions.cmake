@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # How every target of the program is compiled.
 add_library(quillery_options INTERFACE)
 target_compile_features(quillery_options INTERFACE cxx_std_20)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # What a folder of the project is built into. A folder is a room: every source file in it belongs to its library, so
 # that a new file needs no line here; configuring happens by itself when one comes or goes.
 

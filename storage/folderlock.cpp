@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/folderlock.h"
 
 #include "storage/log.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Checks the C++ files that have changed since this branch left BASE (origin/main, else main), committed or not: their
 # layout (clang-format) and what clang-tidy finds in those that the program is built from.
 #   tools/check.sh [--format] [--all | BASE]     --format: the layout alone    --all: every file
@@ -12,7 +13,7 @@ for argument in "$@"; do
     case $argument in
         --format) format_only=yes ;;
         --all) all=yes ;;
-        -*) sed -n '2,5s/^# //p' "$0"; exit 2 ;;
+        -*) sed -n '3,6s/^# //p' "$0"; exit 2 ;;
         *) base=$argument ;;
     esac
 done

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tools/screenshots.sh [--docs] [ALBUM or PICTURE...]: builds tools/pictures and takes the program's pictures into
 # build/pictures/, without a screen: all of them, or those named ("planner", "main-menu", "main-menu-dark"). With --docs
 # those that stand in docs/screenshots are then replaced; do that once, at the end of a larger change.

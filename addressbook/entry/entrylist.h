@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "addressbook/model/namelist.h"
@@ -63,5 +64,5 @@ private:
     QLabel *m_count;
     QPersistentModelIndex m_shown; ///< none for a new entry
     bool m_isFollowing = true;     ///< a change of the selection shows its entry
-    bool m_isAsking = false;       ///< a question about unsaved changes is on its way
+    bool m_isAsking = false;       ///< a question about unsaved changes is about to be asked
 };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/datefacts.h"
 
 #include "shell/core/dates.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/plannerday.h"
 
 bool PlannerDay::isRowEmpty(std::size_t row) const

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "planner/model/plannerfiles.h"
@@ -21,9 +22,9 @@ DateResult insertAppointment(PlannerDay &day, const Appointment &appointment);
 /// Empties the first row that holds the appointment.
 DateResult removeAppointment(PlannerDay &day, const Appointment &appointment);
 
-/// The walk over a recurrence's dates, a date a step, so that whoever drives it can show progress, let
-/// windows breathe and stop it. Each date is written before the next one is looked at. The year file of the
-/// current date is kept open between steps of one walk.
+/// The walk over a recurrence's dates, a date a step, so that whoever drives it can show progress, keep
+/// the window responsive and stop it. Each date is written before the next one is looked at. The year file of
+/// the current date is kept open between steps of one walk.
 class RecurrenceRun
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Paints the background pictures of the main menu, WP1.jpg to WP16.jpg, when the program is built.
 //
 //   paintbackgrounds paint PAINTED PROGRAM    paints them into PAINTED and brings PROGRAM up to date

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Turns the SVG sources beside this script into the PNG files of the program's icon resource.
 
 Usage: render.py OUTPUT-FOLDER RSVG-CONVERT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/attempts.h"
 
 Attempts::Attempts(std::chrono::milliseconds step, QObject *parent)

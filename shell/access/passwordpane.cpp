@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordpane.h"
 
 #include "shell/access/passwordmessages.h"

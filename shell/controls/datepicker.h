@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QFrame>
@@ -7,7 +8,7 @@ class Clock;
 class DateBox;
 class MonthView;
 
-/// The calendar that opens beside a date box when the box gets the focus. It goes with Esc, with a click
+/// The calendar that opens beside a date box when the box gets the focus. It closes with Esc, with a click
 /// elsewhere and with the next box; typing goes on in the box while it is open. A locked box shows its date
 /// in it and keeps it.
 class DatePicker final : public QFrame

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/flowtoolbar.h"
 
 #include "shell/controls/controls.h"
@@ -23,7 +24,7 @@ constexpr QMargins tallBarMargins(4, 4, 4, 4);
 constexpr int separatorWidth = 17;
 constexpr int tallPadding = 4;
 
-/// A thin line between two groups, upright in a lying bar.
+/// A thin line between two groups, vertical in a horizontal bar.
 class Separator final : public QWidget
 {
 public:
@@ -55,7 +56,7 @@ private:
 
 } // namespace
 
-/// Places the items of a bar in rows; a standing bar is one column.
+/// Places the items of a bar in rows; a vertical bar is one column.
 class FlowToolBar::Layout final : public QLayout
 {
 public:
@@ -109,14 +110,15 @@ public:
     QSize sizeHint() const override
     {
         QSize size;
-        const bool lying = m_orientation == Qt::Horizontal;
-        const int gaps = (lying ? gapWidth() : gap) * std::max(0, count() - 1);
+        const bool isHorizontal = m_orientation == Qt::Horizontal;
+        const int gaps = (isHorizontal ? gapWidth() : gap) * std::max(0, count() - 1);
         for (const QLayoutItem *item : m_items) {
             const QSize hint = item->sizeHint();
-            size = lying ? QSize(size.width() + widthOf(item, 0), std::max(size.height(), hint.height()))
-                         : QSize(std::max(size.width(), hint.width()), size.height() + hint.height());
+            size = isHorizontal
+                       ? QSize(size.width() + widthOf(item, 0), std::max(size.height(), hint.height()))
+                       : QSize(std::max(size.width(), hint.width()), size.height() + hint.height());
         }
-        size += lying ? QSize(gaps, 0) : QSize(0, gaps);
+        size += isHorizontal ? QSize(gaps, 0) : QSize(0, gaps);
         return size.grownBy(contentsMargins());
     }
 
@@ -259,14 +261,14 @@ void FlowToolBar::setToolButtonStyle(Qt::ToolButtonStyle style)
     m_style = style;
     m_layout->setContentsMargins(style == Qt::ToolButtonTextUnderIcon ? tallBarMargins : barMargins);
     for (QToolButton *button : std::as_const(m_buttons))
-        dress(*button);
+        styleButton(*button);
 }
 
 void FlowToolBar::setIconSize(int pixels)
 {
     m_iconSize = pixels;
     for (QToolButton *button : std::as_const(m_buttons))
-        dress(*button);
+        styleButton(*button);
 }
 
 void FlowToolBar::setEqualWidths(int maximum)
@@ -312,7 +314,7 @@ void FlowToolBar::actionEvent(QActionEvent *event)
         // The button hears of the change after its bar and takes the action's own word then.
         if (QToolButton *button = m_buttons.value(action))
             QMetaObject::invokeMethod(
-                button, [this, button] { dress(*button); }, Qt::QueuedConnection);
+                button, [this, button] { styleButton(*button); }, Qt::QueuedConnection);
     }
     updateGeometry();
 }
@@ -337,13 +339,13 @@ QWidget *FlowToolBar::makeItem(QAction *action)
     button->setFocusPolicy(Qt::TabFocus);
     // Of equal widths: a button fills the place that it is given.
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    dress(*button);
+    styleButton(*button);
     m_buttons.insert(action, button);
     m_items.insert(action, button);
     return button;
 }
 
-void FlowToolBar::dress(QToolButton &button) const
+void FlowToolBar::styleButton(QToolButton &button) const
 {
     const bool tall = m_style == Qt::ToolButtonTextUnderIcon;
     button.setProperty("tall",

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QHash>
@@ -37,7 +38,7 @@ private:
     class Layout;
 
     QWidget *makeItem(QAction *action);
-    void dress(QToolButton &button) const;
+    void styleButton(QToolButton &button) const;
 
     Qt::Orientation m_orientation;
     Qt::ToolButtonStyle m_style = Qt::ToolButtonTextBesideIcon;

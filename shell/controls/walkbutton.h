@@ -1,8 +1,9 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QAbstractButton>
 
-/// A button in a grid of its like: Enter presses it as Space does, the arrow keys, Home and End walk on.
+/// One of a grid of buttons: Enter presses it as Space does; the arrow keys, Home and End move to another.
 class WalkButton : public QAbstractButton
 {
     Q_OBJECT

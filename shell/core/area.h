@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// The 21 areas that a password can guard, by their index in `ProtectedAreas`. Areas of other editions are

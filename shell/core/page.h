@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "shell/core/programstate.h"
@@ -65,7 +66,7 @@ struct PageSetup {
     bool operator==(const PageSetup &) const = default;
 };
 
-/// The lines that part the cells of a table.
+/// The lines that separate the cells of a table.
 enum class TableLines {
     Rows, ///< hairlines between the rows
     None,

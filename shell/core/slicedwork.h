@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QObject>
@@ -5,8 +6,8 @@
 
 #include <functional>
 
-/// Does long work in slices of a few milliseconds, so that the window lives in between and a stop is heard at
-/// once.
+/// Does long work in slices of a few milliseconds, so that the window stays responsive and a stop takes
+/// effect at once.
 class SlicedWork final : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frame/functionwindow.h"
 
 #include "shell/controls/activitybar.h"
@@ -298,7 +299,7 @@ void FunctionWindow::keyPressEvent(QKeyEvent *event)
     }
 }
 
-/// Watches the whole program only while leaving is agreed: going on working takes the agreement back.
+/// Watches the whole program only once the user has agreed to close: working on takes that back.
 bool FunctionWindow::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isWork = event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress ||

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/mainmenu/displaymode.h"
 
 #include "shell/core/settingskeys.h"
@@ -121,7 +122,7 @@ QSize DisplayMode::rememberedSize() const
     const QSize twips(m_program.settings.number(SettingsKeys::windowWidth),
                       m_program.settings.number(SettingsKeys::windowHeight));
     const QSize size = twips.expandedTo(HINFO1::minimumTwips) / HINFO1::twipsPerPixel;
-    // A screen that nobody sees bounds nothing.
+    // A screen that nobody sees does not limit the window.
     return QGuiApplication::platformName() == "offscreen"_L1
                ? size
                : size.boundedTo(m_window->screen()->availableSize());

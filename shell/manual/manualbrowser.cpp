@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/manual/manualbrowser.h"
 
 #include "shell/look/theme.h"
@@ -39,7 +40,7 @@ ManualBrowser::ManualBrowser(const Manual &manual, QWidget *parent)
         u"QTextBrowser { background: transparent; border: 2px solid transparent; }"
         "QTextBrowser:focus { background: transparent; border-color: %1; }"_s.arg(theme.accent.name()));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    dress();
+    applyTheme();
 }
 
 void ManualBrowser::openPage(int context)
@@ -90,7 +91,7 @@ void ManualBrowser::changeEvent(QEvent *event)
 {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
-        dress();
+        applyTheme();
 }
 
 void ManualBrowser::resizeEvent(QResizeEvent *event)
@@ -100,7 +101,7 @@ void ManualBrowser::resizeEvent(QResizeEvent *event)
     QTextBrowser::resizeEvent(event);
 }
 
-void ManualBrowser::dress()
+void ManualBrowser::applyTheme()
 {
     QPalette ink = palette();
     if (ink.color(QPalette::Text) != ink.color(QPalette::WindowText)) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QTextBrowser>
@@ -25,7 +26,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void dress();
+    void applyTheme();
 
     const Manual &m_manual;
 };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pages/pagelayout.h"
 
 #include "shell/pages/sheetflow.h"
@@ -93,7 +94,7 @@ bool PageLayout::cut(std::size_t mostSheets)
     return true;
 }
 
-/// A last sheet with nothing but the closing lines looks like a mistake: the last row goes with them.
+/// A last sheet with nothing but the closing lines looks like a mistake: the last row moves along.
 void PageLayout::keepClosingInCompany()
 {
     const std::size_t count = m_page.items().size();

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pages/sheetflow.h"
 
 #include "shell/pages/pagepicture.h"
@@ -137,7 +138,7 @@ bool SheetFlow::place(const PageItem::Line &line)
     const PageType &type = types().of(line.role);
     m_rowAbove = false;
     if (line.text.isEmpty()) {
-        // A blank line parts two texts; at the top or the foot of a sheet it has nothing to part.
+        // A blank line separates two texts; at the top or the foot of a sheet there is nothing to separate.
         if (!m_isFresh || m_isFirst)
             m_y += type.lineHeight();
         return true;
@@ -237,7 +238,7 @@ bool SheetFlow::place(const PageItem::PlacedRule &rule)
 bool SheetFlow::place(const PageItem::Rule &)
 {
     if (room() < ruleGap)
-        return true; // the edge of the sheet parts the texts as well
+        return true; // the edge of the sheet separates the texts as well
     drawRule(m_y + ruleGap / 2, thin, ruleColor);
     m_y += ruleGap;
     m_rowAbove = false;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tables on a sheet: their columns, headings and rows.
 
 #include "shell/pages/sheetflow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/picturecopies.h"
 
 #include <algorithm>
@@ -57,7 +58,7 @@ void PictureCopies::take(std::size_t index, const LoadedPicture &picture)
     else
         m_copies[index].pixels = picture.pixels;
     emit progressed(++m_done, int(m_originals.size()));
-    if (!m_isBusy) // stopped by whoever heard of it
+    if (!m_isBusy) // somebody stopped it on that signal
         return;
     if (m_next < m_originals.size())
         startNext();

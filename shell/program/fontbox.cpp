@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/program/fontbox.h"
 
 #include "shell/controls/controls.h"
@@ -47,7 +48,7 @@ FontBox::FontBox(Dialogs &dialogs, const PageFont &preset, QWidget *parent)
     });
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    // Esc and Enter inside the chooser close it alone: the box goes with it.
+    // Esc and Enter inside the chooser close it alone: the box closes with it.
     connect(m_fonts, &QDialog::finished, this, &QDialog::done);
     showColor();
 }

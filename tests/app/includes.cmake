@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # cmake -DSOURCE=<project folder> -P includes.cmake: includes point one way between folders and between rooms.
 cmake_minimum_required(VERSION 3.25)
 

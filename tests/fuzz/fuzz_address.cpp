@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/addressentry.h"
 #include "addressbook/model/indexline.h"
 #include "addressbook/model/namelist.h"

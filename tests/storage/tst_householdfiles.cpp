@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/datafolder.h"
 #include "storage/recordfile.h"
 #include "storage/recordvalue.h"

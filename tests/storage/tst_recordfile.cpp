@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/recordfile.h"
 #include "tests/support/filesizelimit.h"
 #include "tests/support/testfiles.h"

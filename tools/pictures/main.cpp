@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // pictures FOLDER [NAME...]: takes the program's pictures on every desk into FOLDER; all of them, or the
 // albums and pictures named. pictures --desk DESK FOLDER [NAME...]: the same on one desk, in surroundings
 // that fit it; run by the first.

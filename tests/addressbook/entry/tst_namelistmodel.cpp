@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/entry/namelistmodel.h"
 #include "addressbook/entry/namelistview.h"
 

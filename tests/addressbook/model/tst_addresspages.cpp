@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/addresspages.h"
 #include "tests/support/pageitems.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/dialling.h"
 #include "addressbook/model/messages.h"
 #include "shell/core/settings.h"

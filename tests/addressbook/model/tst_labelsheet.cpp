@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/addressviewer.h"
 #include "addressbook/model/labelsheet.h"
 #include "tests/addressbook/model/addressrecords.h"

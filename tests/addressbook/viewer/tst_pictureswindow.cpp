@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/viewer/pictureswindow.h"
 #include "shell/controls/activitybar.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/messages.h"
 #include "openviewer.h"
 #include "shell/controls/activitybar.h"

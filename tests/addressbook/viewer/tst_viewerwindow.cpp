@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/entry/entrywindow.h"
 #include "addressbook/model/messages.h"
 #include "addressbook/model/viewermessages.h"

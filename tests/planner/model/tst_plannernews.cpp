@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/plannerfiles.h"
 #include "planner/model/plannernews.h"
 #include "tests/support/testprogram.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/lines.h"
 #include "shell/controls/flowtoolbar.h"
 #include "tests/planner/window/openplanner.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/gate.h"
 #include "shell/access/passwordfile.h"
 #include "shell/core/area.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordfile.h"
 #include "tests/support/filesizelimit.h"
 #include "tests/support/testfiles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"

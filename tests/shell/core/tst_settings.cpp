@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/settings.h"
 #include "shell/core/settingskeys.h"
 #include "tests/support/testfiles.h"

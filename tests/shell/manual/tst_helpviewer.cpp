@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/helpcontexts.h"
 #include "shell/manual/helpentry.h"
 #include "shell/manual/helpviewer.h"

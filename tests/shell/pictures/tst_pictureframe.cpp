@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/enlargedpicture.h"
 #include "shell/pictures/pictureframe.h"
 #include "tests/support/testprogram.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/busycursor.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
