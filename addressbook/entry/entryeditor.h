@@ -50,6 +50,7 @@ public:
     /// A picture taken while the entry is locked opens it, so that it can be saved.
     void setPicture(const QString &stored);
     QString picture() const { return m_picture; }
+    bool hasPicture() const;
     /// The file of the picture; empty when the entry has none, or it is not there.
     QString picturePath() const;
 
@@ -70,7 +71,6 @@ signals:
 private:
     void load(const AddressEntry &entry);
     void setMode(Mode mode);
-    bool hasPicture() const;
     void showPicture();
     void refreshModified();
 

@@ -196,8 +196,7 @@ void ADDBKVIEW::connectParts()
     connect(m_picturePanel, &PicturePanel::pictureEntered, this, &ADDBKVIEW::takePicture);
     connect(m_picturePanel, &PicturePanel::pictureDeleted, this, [this] { takePicture(noPicture); });
     connect(m_picturePanel, &PicturePanel::said, &activity(), &ActivityBar::say);
-    connect(m_printOptions, &PrintOptions::pageRequested, this,
-            [this](const PrintOptions::PageBuilder &page, const QString &job) { showPreview(page, job); });
+    connect(m_printOptions, &PrintOptions::pageRequested, this, &ADDBKVIEW::showPreview);
 }
 
 bool ADDBKVIEW::isEmptyShown() const
@@ -229,7 +228,10 @@ void ADDBKVIEW::openBook(int row)
 {
     m_list->setNames(m_book.loadNames());
     if (m_list->names().isEmpty()) {
-        showNothing();
+        m_list->showNone();
+        m_editor->show({});
+        activity().say(AddressLines::nothingSaved());
+        m_emptyPage->setFocus();
     } else {
         m_list->showRow(std::min(row, m_list->names().count() - 1));
         m_list->setFocus();
@@ -241,14 +243,6 @@ void ADDBKVIEW::showLine(int row)
     activity().say(std::exchange(m_toSay, {}));
     const QString line = m_list->names().line(row);
     m_editor->show(m_book.open(line), line);
-}
-
-void ADDBKVIEW::showNothing()
-{
-    m_list->showNone();
-    m_editor->show({});
-    activity().say(AddressLines::nothingSaved());
-    m_emptyPage->setFocus();
 }
 
 bool ADDBKVIEW::showRecord(int record)
@@ -393,8 +387,7 @@ void ADDBKVIEW::loadPicture()
 {
     closePreview();
     m_views->open(m_picturePanel);
-    const QString picture = m_editor->picture();
-    m_picturePanel->start(picture != noPicture && !picture.isEmpty());
+    m_picturePanel->start(m_editor->hasPicture());
 }
 
 void ADDBKVIEW::takePicture(const QString &path)

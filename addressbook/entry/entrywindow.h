@@ -50,7 +50,6 @@ private:
 
     void openBook(int row); ///< and shows the entry of this row, or the last one
     void showLine(int row);
-    void showNothing(); ///< the empty book
     bool mayReplaceShown();
     bool isLastNameGiven();
 
