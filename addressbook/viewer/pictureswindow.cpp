@@ -158,8 +158,9 @@ int ADDBKDISPLAY2::pageCount() const
 
 std::vector<NamedPicture> ADDBKDISPLAY2::picturesOfPage() const
 {
-    const auto first = std::size_t(m_steps->page() * ViewerPages::picturesPerSheet);
-    const auto end = std::min(m_pictures.size(), first + std::size_t(ViewerPages::picturesPerSheet));
+    constexpr auto perPage = std::size_t(ViewerPages::picturesPerSheet);
+    const auto first = std::size_t(m_steps->page()) * perPage;
+    const auto end = std::min(m_pictures.size(), first + perPage);
     return {m_pictures.begin() + std::ptrdiff_t(first), m_pictures.begin() + std::ptrdiff_t(end)};
 }
 

@@ -30,7 +30,7 @@ QDate DaysModel::date(const QModelIndex &index) const
 QModelIndex DaysModel::indexOf(QDate date) const
 {
     const qint64 days = m_span.start.daysTo(date);
-    if (days < 0 || days >= m_span.rows * m_span.columns)
+    if (days < 0 || days >= qint64(m_span.rows) * m_span.columns)
         return {};
     return index(int(days) / m_span.columns, int(days) % m_span.columns);
 }
@@ -91,7 +91,7 @@ QVariant DaysModel::headerData(int section, Qt::Orientation orientation, int rol
     if (orientation == Qt::Horizontal)
         return QLocale::c().dayName(m_span.start.addDays(section).dayOfWeek());
     // A row's week is the one of its Monday.
-    QDate monday = m_span.start.addDays(section * m_span.columns);
+    QDate monday = m_span.start.addDays(qint64(section) * m_span.columns);
     while (monday.dayOfWeek() != Qt::Monday)
         monday = monday.addDays(1);
     return monday.weekNumber();

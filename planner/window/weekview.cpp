@@ -183,7 +183,7 @@ QDate WeekView::date() const
 
 QDate WeekView::after(QDate date, int steps) const
 {
-    return date.addDays(daysPerWeek * steps);
+    return date.addDays(qint64(daysPerWeek) * steps);
 }
 
 Page WeekView::page(QDate date, const CalendarOptions &options, const PageContext &context) const

@@ -37,12 +37,13 @@ QImage Canvas::finished()
         const auto *from = reinterpret_cast<const QRgba64 *>(m_image.constScanLine(y));
         auto *to = reinterpret_cast<QRgb *>(picture.scanLine(y));
         for (int x = 0; x < width; ++x) {
-            const auto small = std::size_t(y / 8 * (width / 8) + x / 8);
-            const auto large = std::size_t(y / 16 * (width / 16) + x / 16);
-            const int dither = int(m_random.bounded(unit)) + light[small];
+            const int small = y / 8 * (width / 8) + x / 8;
+            const int large = y / 16 * (width / 16) + x / 16;
+            const int dither = int(m_random.bounded(unit)) + light[std::size_t(small)];
             const auto channel = [](int value) { return std::clamp(value / unit, 0, 255); };
-            to[x] = qRgb(channel(from[x].red() + dither + red[large]), channel(from[x].green() + dither),
-                         channel(from[x].blue() + dither + blue[large]));
+            to[x] = qRgb(channel(from[x].red() + dither + red[std::size_t(large)]),
+                         channel(from[x].green() + dither),
+                         channel(from[x].blue() + dither + blue[std::size_t(large)]));
         }
     }
     return picture;

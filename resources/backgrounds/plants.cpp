@@ -99,14 +99,13 @@ QPainterPath Plants::leaf(Leaf kind, qreal length)
     case Leaf::Oak: {
         QPainterPath lobes;
         for (const auto &[y, half] :
-             {std::pair{0.22, 0.13}, {0.40, 0.20}, {0.58, 0.19}, {0.75, 0.14}, {0.88, 0.09}})
-            lobes = lobes.united([&] {
-                QPainterPath lobe;
-                lobe.addRoundedRect(
-                    QRectF(-half * length, (0.5 - y - 0.075) * length, 2 * half * length, 0.15 * length),
-                    0.075 * length, 0.075 * length);
-                return lobe;
-            }());
+             {std::pair{0.22, 0.13}, {0.40, 0.20}, {0.58, 0.19}, {0.75, 0.14}, {0.88, 0.09}}) {
+            QPainterPath lobe;
+            lobe.addRoundedRect(
+                QRectF(-half * length, (0.5 - y - 0.075) * length, 2 * half * length, 0.15 * length),
+                0.075 * length, 0.075 * length);
+            lobes = lobes.united(lobe);
+        }
         QPainterPath stem;
         stem.addRoundedRect(QRectF(-0.07 * length, -0.45 * length, 0.14 * length, 0.8 * length), 8, 8);
         return lobes.united(stem);

@@ -38,6 +38,8 @@ template <typename... Effects>
 struct Either : Effects... {
     using Effects::operator()...;
 };
+template <typename... Effects>
+Either(Effects...) -> Either<Effects...>; // for compilers that do not find it by themselves
 
 } // namespace
 

@@ -64,7 +64,7 @@ QStringList PageLayout::linesOf(std::size_t item, const PageItem::Line &line) co
 {
     if (item == m_longItem)
         return m_longLines;
-    const QStringList lines = m_types.of(line.role).wrapped(line.text, body().width());
+    QStringList lines = m_types.of(line.role).wrapped(line.text, body().width());
     if (lines.size() >= manyLines) {
         m_longItem = item;
         m_longLines = lines;

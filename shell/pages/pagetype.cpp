@@ -82,9 +82,9 @@ PageType::PageType(const QFont &font, double points, QColor color)
     m_lineHeight = std::max(points * lineFactor, height);
     m_baseline = (m_lineHeight - height) / 2 + m_metrics.ascent() / fine;
     m_advances.fill(-1);
-    for (char16_t code = u' '; code < m_advances.size(); ++code) {
+    for (std::size_t code = u' '; code < m_advances.size(); ++code) {
         if (code < 0x7F || code > 0xA0)
-            m_advances[code] = float(m_metrics.horizontalAdvance(QChar(code)) / fine);
+            m_advances[code] = float(m_metrics.horizontalAdvance(QChar(char16_t(code))) / fine);
     }
 }
 
