@@ -6,7 +6,6 @@
 #include "addressbook/model/viewerlines.h"
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/model/viewerpages.h"
-#include "addressbook/shared/serialmodem.h"
 #include "addressbook/viewer/gridpane.h"
 #include "addressbook/viewer/labelpanel.h"
 #include "addressbook/viewer/listoptionspanel.h"
@@ -57,8 +56,6 @@ ADDBKDISPLAY::ADDBKDISPLAY(Program &program, QWidget *parent, Surroundings surro
     , m_surroundings(std::move(surroundings))
     , m_pictureList(new PicturePrint(program, activity(), this))
 {
-    if (!m_surroundings.makeModem)
-        m_surroundings.makeModem = [] { return std::make_unique<SerialModem>(); };
     if (!m_surroundings.openAddress)
         m_surroundings.openAddress = &QDesktopServices::openUrl;
     m_choices = named(new ViewerChoices, u"choices"_s);
