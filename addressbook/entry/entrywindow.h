@@ -31,7 +31,7 @@ public:
 
 protected:
     Message leaveQuestion() const override;
-    bool save() override;
+    [[nodiscard]] bool save() override;
 
 private:
     QWidget *makeWorkPanel();

@@ -16,6 +16,7 @@ QString choice(Information information);
 /// The heading of the information column; empty under `Pictures`, which has none.
 QString heading(Information information, DateStyle style);
 
+/// What the panel of print options chooses for a list.
 struct ListOptions {
     bool hasTelephones = false; ///< behind each name its home number, or the mobile one
     bool hasAsOf = false;       ///< today's date on each page

@@ -38,6 +38,7 @@ private:
     std::vector<Note> m_notes;
 };
 
+/// The list of what is coming up, beside the day.
 class ComingUp final : public QWidget
 {
     Q_OBJECT

@@ -43,7 +43,7 @@ public:
 
     /// Writes the rows, in time order, into the day that was loaded, and says so; false when the disk
     /// refuses.
-    bool save();
+    [[nodiscard]] bool save();
     /// Saves on the user's command, after asking when there is nothing to save.
     void saveByCommand();
     void clear();

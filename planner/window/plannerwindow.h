@@ -25,7 +25,7 @@ public:
     bool isModified() const override { return m_day->isModified(); }
 
 protected:
-    bool save() override { return m_day->save(); }
+    [[nodiscard]] bool save() override { return m_day->save(); }
     void drop() override { m_day->reload(); }
     Message leaveQuestion() const override;
     void resizeEvent(QResizeEvent *event) override;

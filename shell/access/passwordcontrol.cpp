@@ -20,6 +20,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <tuple>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -86,9 +88,10 @@ void Form31::makeMenus()
 {
     QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
     options->addAction(standard(Standard::PanelColor));
-    m_saveAction = commands().add(
-        options, u"mOSave"_s, u"&Save"_s, [this] { save(); },
-        [this] { return isModified() ? QString() : PasswordMessages::nothingToSave(); });
+    const auto saveMarks = [this] { std::ignore = save(); }; // it says itself how it went
+    m_saveAction = commands().add(options, u"mOSave"_s, u"&Save"_s, saveMarks, [this] {
+        return isModified() ? QString() : PasswordMessages::nothingToSave();
+    });
     QAction *printing = commands().add(options, u"mOPrt"_s, u"&Print"_s, [this] { print(); });
     options->addSeparator();
     options->addAction(standard(Standard::Exit));

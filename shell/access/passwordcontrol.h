@@ -25,7 +25,7 @@ public:
     bool isModified() const override;
 
 protected:
-    bool save() override;
+    [[nodiscard]] bool save() override;
     void drop() override { loadMarks(); }
     Message leaveQuestion() const override;
 

@@ -27,6 +27,7 @@ QRect textPlace(const QRect &cell)
     return cell.adjusted(inset, 0, -inset, 0);
 }
 
+/// Draws a cell: its text with an inset at both sides, links underlined, the current cell with its mark.
 class CellDelegate final : public QStyledItemDelegate
 {
 public:

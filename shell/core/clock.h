@@ -12,6 +12,7 @@ public:
     QDate today() const { return now().date(); }
 };
 
+/// The time of the computer.
 class SystemClock final : public Clock
 {
 public:

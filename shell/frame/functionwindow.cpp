@@ -6,6 +6,7 @@
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/sidesplitter.h"
+#include "shell/frame/toolbarcustomizer.h"
 #include "shell/frame/toolbars.h"
 #include "shell/frame/windowplace.h"
 #include "shell/frame/workviews.h"
@@ -138,7 +139,6 @@ void FunctionWindow::closePreview()
     if (m_focusBeforePreview)
         m_focusBeforePreview->setFocus();
     m_commands->refresh();
-    previewClosed();
 }
 
 bool FunctionWindow::isPreviewShown() const

@@ -70,7 +70,7 @@ public:
 
 protected:
     /// Writes what was typed. False: refused, and the user was told.
-    virtual bool save() { return true; }
+    [[nodiscard]] virtual bool save() { return true; }
     /// The user wants what the files have.
     virtual void drop() {}
     /// The question in front of leaving; only asked while the window is modified.
@@ -81,8 +81,6 @@ protected:
 
     /// What Esc does before it leaves the window, when no page is shown; false where there is nothing to do.
     virtual bool leaveView();
-    /// Called when the work comes back from the preview.
-    virtual void previewClosed() {}
     /// One of the watched files was changed by somebody else since this window saw it last; called when the
     /// user comes back to the window.
     virtual void filesChanged() {}

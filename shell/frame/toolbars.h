@@ -3,14 +3,11 @@
 
 #include "shell/core/settings.h"
 
-#include <QDialog>
 #include <QObject>
 #include <QStringList>
 
 class FlowToolBar;
 class QAction;
-class QListWidget;
-class QPushButton;
 struct Program;
 
 /// The layout of one toolbar: which of its actions stand on it and in which order. It is kept in the user's
@@ -53,36 +50,6 @@ private:
     QString m_storeKey;
     QList<QAction *> m_actions;
     QStringList m_defaults;
-};
-
-/// The customisation dialog of a toolbar: pick, order, separators, drag, reset. Every change applies and is
-/// saved at once.
-class ToolbarCustomizer final : public QDialog
-{
-    Q_OBJECT
-public:
-    ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent);
-
-private:
-    void arrange();
-    void fill();
-    void addRow(QListWidget *list, const QString &name);
-    QStringList order() const;
-    void apply(const QStringList &names, int current);
-    void applyOrder();
-    void insert(const QString &name);
-    void addChosen();
-    void removeChosen();
-    void moveChosen(int by);
-    void offerButtons();
-
-    ToolbarLayout &m_layout;
-    QListWidget *m_available;
-    QListWidget *m_shown;
-    QPushButton *m_add;
-    QPushButton *m_remove;
-    QPushButton *m_up;
-    QPushButton *m_down;
 };
 
 /// Removal and restoration of the top toolbar, which all windows share.

@@ -7,6 +7,7 @@
 #include "shell/core/framelines.h"
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
+#include "shell/frame/toolbarcustomizer.h"
 #include "shell/frame/toolbars.h"
 #include "shell/look/theme.h"
 #include "shell/mainmenu/functionopener.h"

@@ -46,6 +46,7 @@ struct Gap {};
 
 using Effect = std::variant<OpensFunction, SameAsEntry, OtherEdition, ShowsListFile, Gap>;
 
+/// A place of the top toolbar: what it shows and what it does.
 struct TopButton {
     const char *word; ///< at most 9 letters; empty for a gap
     const char *description;

@@ -10,7 +10,8 @@ struct Program;
 /// Procedures that every window calls.
 namespace HINFO1 {
 
-/// Switch the screen-wide mouse pointer. "On" twice is still one hourglass; "off" always ends it.
+/// Switch the screen-wide mouse pointer, as `Hourglass` does. "On" twice is still one hourglass; "off" always
+/// ends it.
 void hourglassOn();
 void hourglassOff();
 

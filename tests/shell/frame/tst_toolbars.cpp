@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
+#include "shell/frame/toolbarcustomizer.h"
 #include "shell/frame/toolbars.h"
 #include "shell/look/theme.h"
 #include "tests/support/testprogram.h"

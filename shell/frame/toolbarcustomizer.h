@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+
+class QListWidget;
+class QPushButton;
+class ToolbarLayout;
+
+/// The customisation dialog of a toolbar: pick, order, separators, drag, reset. Every change applies and is
+/// saved at once.
+class ToolbarCustomizer final : public QDialog
+{
+    Q_OBJECT
+public:
+    ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent);
+
+private:
+    void arrange();
+    void fill();
+    void addRow(QListWidget *list, const QString &name);
+    QStringList order() const;
+    void apply(const QStringList &names, int current);
+    void applyOrder();
+    void insert(const QString &name);
+    void addChosen();
+    void removeChosen();
+    void moveChosen(int by);
+    void offerButtons();
+
+    ToolbarLayout &m_layout;
+    QListWidget *m_available;
+    QListWidget *m_shown;
+    QPushButton *m_add;
+    QPushButton *m_remove;
+    QPushButton *m_up;
+    QPushButton *m_down;
+};
