@@ -12,8 +12,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-ToolbarLayout::ToolbarLayout(Program &program, FlowToolBar *bar, QString storeKey, QList<QAction *> actions,
-                             QStringList defaults)
+ToolbarLayout::ToolbarLayout(Program &program, FlowToolBar *bar, const QString &storeKey,
+                             QList<QAction *> actions, QStringList defaults)
     : QObject(bar)
     , m_program(program)
     , m_bar(bar)

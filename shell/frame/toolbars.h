@@ -22,7 +22,7 @@ public:
     /// `storeKey`: "Toolbar1" or the like, without its section. `actions`: everything that can stand on the
     /// bar, in default order; `defaults`: the object names shown by default (with `separatorName` between
     /// groups).
-    ToolbarLayout(Program &program, FlowToolBar *bar, QString storeKey, QList<QAction *> actions,
+    ToolbarLayout(Program &program, FlowToolBar *bar, const QString &storeKey, QList<QAction *> actions,
                   QStringList defaults);
 
     /// Puts the stored layout on the bar; the default one when none is stored or it names no action that
