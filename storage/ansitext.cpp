@@ -47,7 +47,7 @@ bool isAscii(QByteArrayView bytes)
     const char *at = bytes.data();
     const char *const end = at + bytes.size();
     for (; end - at >= 8; at += 8) {
-        std::uint64_t eight;
+        std::uint64_t eight = 0;
         std::memcpy(&eight, at, sizeof eight);
         if ((eight & 0x8080808080808080U) != 0)
             return false;

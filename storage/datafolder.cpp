@@ -18,7 +18,7 @@ QString entryPath(const QString &folder, const QString &name)
 {
     if (name.isEmpty())
         return {};
-    if (const QString exact = joined(folder, name); QFileInfo::exists(exact))
+    if (QString exact = joined(folder, name); QFileInfo::exists(exact))
         return exact;
 
     QString match;
@@ -34,7 +34,7 @@ QString entryPath(const QString &folder, const QString &name)
 
 } // namespace
 
-DataFolder::DataFolder(QString path)
+DataFolder::DataFolder(const QString &path)
     : m_path(path.isEmpty() ? QStringLiteral(".") : QDir::cleanPath(path))
 {}
 

@@ -8,7 +8,7 @@
 class DataFolder
 {
 public:
-    explicit DataFolder(QString path);
+    explicit DataFolder(const QString &path);
 
     const QString &path() const { return m_path; }
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr qsizetype blockLength = 256 * 1024;
+constexpr qsizetype blockLength = qsizetype(256) * 1024;
 
 /// Opens `file` for reading. A missing file is an everyday thing and stays quiet; any other trouble is
 /// logged.

@@ -14,7 +14,7 @@ namespace {
 constexpr char endOfText = 26;
 
 // A plain one-line file holds a path; what is longer is not one of ours.
-constexpr qint64 longestLine = 32 * 1024;
+constexpr qint64 longestLine = qint64(32) * 1024;
 
 bool isSeparator(char byte)
 {
@@ -53,7 +53,7 @@ public:
 
     QString takeValue()
     {
-        const QString value = m_rest.startsWith('"') ? takeQuoted() : takeUnquoted();
+        QString value = m_rest.startsWith('"') ? takeQuoted() : takeUnquoted();
         takeSeparator();
         skipBlanks();
         return value;
