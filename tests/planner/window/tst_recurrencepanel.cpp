@@ -3,6 +3,7 @@
 #include "shell/controls/flowtoolbar.h"
 #include "tests/planner/window/openplanner.h"
 #include "tests/support/filesizelimit.h"
+#include "tests/support/rows.h"
 
 #include <QCheckBox>
 #include <QProgressBar>
@@ -71,27 +72,21 @@ void TestRecurrencePanel::asksForAKind()
 
 void TestRecurrencePanel::refusesQuietly_data()
 {
-    QTest::addColumn<QByteArray>("kind");
-    QTest::addColumn<QByteArray>("box");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, const char *kind, const char *box, const QString &text) {
-        QTest::newRow(name) << QByteArray(kind) << QByteArray(box) << text;
-    };
-    row("an interval of nothing", "kind_0", "dailyInterval", u"0"_s);
-    row("an interval that is no number", "kind_2", "weeklyInterval", u"two"_s);
-    row("a day that no month has", "kind_3", "dayOfMonth", u"32"_s);
-    row("a date of the year that is none", "kind_5", "yearDay", u"soon"_s);
-    row("a beginning that is no date", "kind_1", "beginningDate", u"soon"_s);
-    row("an end that is no date", "kind_1", "endDate", u"later"_s);
-    row("an end before the beginning", "kind_1", "endDate", u"11/20/2026"_s);
-    row("no occurrences", "kind_1", "occurrences", u"0"_s);
+    rows<QByteArray, QByteArray, QString>({
+        {"an interval of nothing", "kind_0", "dailyInterval", u"0"_s},
+        {"an interval that is no number", "kind_2", "weeklyInterval", u"two"_s},
+        {"a day that no month has", "kind_3", "dayOfMonth", u"32"_s},
+        {"a date of the year that is none", "kind_5", "yearDay", u"soon"_s},
+        {"a beginning that is no date", "kind_1", "beginningDate", u"soon"_s},
+        {"an end that is no date", "kind_1", "endDate", u"later"_s},
+        {"an end before the beginning", "kind_1", "endDate", u"11/20/2026"_s},
+        {"no occurrences", "kind_1", "occurrences", u"0"_s},
+    });
 }
 
 void TestRecurrencePanel::refusesQuietly()
 {
-    QFETCH(QByteArray, kind);
-    QFETCH(QByteArray, box);
-    QFETCH(QString, text);
+    const auto [kind, box, text] = row<QByteArray, QByteArray, QString>();
     TestProgram test;
     const Panel panel(test);
     panel.tick(kind);
