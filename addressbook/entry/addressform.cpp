@@ -147,14 +147,19 @@ QWidget *AddressForm::makeHomeColumn()
 
     layout->addLayout(labelled(captions[Address1], m_boxes[Address1]));
     layout->addWidget(m_boxes[Address2]);
+    addPlace(layout);
+    addPhones(layout);
+    layout->addStretch(1);
+    return column;
+}
+
+void AddressForm::addPlace(QVBoxLayout *column)
+{
     QHBoxLayout *place = row();
     place->addLayout(labelled(captions[City], m_boxes[City]), 3);
     place->addLayout(labelled(captions[State], m_boxes[State]), 3);
     place->addLayout(labelled(captions[PostalCode], m_boxes[PostalCode]), 2);
-    layout->addLayout(place);
-    addPhones(layout);
-    layout->addStretch(1);
-    return column;
+    column->addLayout(place);
 }
 
 void AddressForm::addPhones(QVBoxLayout *column)

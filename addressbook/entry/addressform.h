@@ -68,6 +68,7 @@ private:
     void setTabOrders();
     QWidget *makeHomeColumn();
     QWidget *makeOtherColumn();
+    void addPlace(QVBoxLayout *column);
     void addPhones(QVBoxLayout *column);
     FieldBox *makeBox(AddressField field);
     void refreshFacts();

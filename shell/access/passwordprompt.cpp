@@ -64,10 +64,27 @@ Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step
 
 void Form32::buildForm(const QString &functionName)
 {
-    const Theme &theme = Theme::of(this);
     auto *icon = new QLabel(this);
-    icon->setPixmap(Icons::pixmap("password-control"_L1, theme.scheme, iconSize, devicePixelRatioF()));
+    icon->setPixmap(
+        Icons::pixmap("password-control"_L1, Theme::of(this).scheme, iconSize, devicePixelRatioF()));
+    auto *top = new QHBoxLayout;
+    top->setSpacing(16);
+    top->addWidget(icon, 0, Qt::AlignTop);
+    top->addLayout(makeQuestion(functionName), 1);
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(24, 24, 24, 20);
+    all->setSpacing(12);
+    all->addLayout(top);
+    all->addSpacing(4);
+    all->addLayout(makeFoot());
+    // As high as its content from the start: the line of a refusal has its place.
+    setMinimumHeight(sizeHint().height());
+    setFixedWidth(promptWidth);
+    m_password->setFocus();
+}
 
+QLayout *Form32::makeQuestion(const QString &functionName)
+{
     auto *form = new QVBoxLayout;
     form->setSpacing(3);
     form->addWidget(makeHeading(functionName, this));
@@ -81,11 +98,11 @@ void Form32::buildForm(const QString &functionName)
     // Always there, so that nothing moves when something is said.
     m_refusal->setMinimumHeight(m_refusal->fontMetrics().lineSpacing() + 2);
     form->addWidget(m_refusal);
+    return form;
+}
 
-    auto *top = new QHBoxLayout;
-    top->setSpacing(16);
-    top->addWidget(icon, 0, Qt::AlignTop);
-    top->addLayout(form, 1);
+QLayout *Form32::makeFoot()
+{
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     buttons->addStretch();
@@ -93,16 +110,7 @@ void Form32::buildForm(const QString &functionName)
         button->setMinimumWidth(buttonWidth);
         buttons->addWidget(button);
     }
-    auto *all = new QVBoxLayout(this);
-    all->setContentsMargins(24, 24, 24, 20);
-    all->setSpacing(12);
-    all->addLayout(top);
-    all->addSpacing(4);
-    all->addLayout(buttons);
-    // As high as its content from the start: the line of a refusal has its place.
-    setMinimumHeight(sizeHint().height());
-    setFixedWidth(promptWidth);
-    m_password->setFocus();
+    return buttons;
 }
 
 void Form32::accept()

@@ -10,6 +10,7 @@
 
 class QCheckBox;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 struct Program;
@@ -30,6 +31,8 @@ public:
 
 private:
     void buildForm(const QString &functionName);
+    QLayout *makeQuestion(const QString &functionName);
+    QLayout *makeFoot();
     void showWait(int seconds);
     void endWait();
 

@@ -90,45 +90,55 @@ QSize MonthView::minimumSizeHint() const
 
 void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) const
 {
-    const Theme &theme = Theme::of(this);
-    const bool chosen = date == selectedDate();
-    const bool ofThisMonth = date.month() == monthShown() && date.year() == yearShown();
     painter->save();
     // The line under the names of the days, drawn with the first row since the view gives it no place.
     if (rect.y() < 2 * rect.height())
         painter->fillRect(QRect(rect.x(), rect.y(), rect.width(), 1), palette().color(ThemeRole::line));
     painter->setRenderHint(QPainter::Antialiasing);
-    QRectF mark = QRectF(rect).adjusted(2.5, 2.5, -2.5, -1.5);
-    mark.setWidth(std::min(mark.width(), 36.0));
-    mark.moveCenter(QRectF(rect).center() + QPointF(0, 0.5));
-    const bool focused = chosen && m_view && m_view->hasFocus();
-    if (focused) {
-        // A ring outside the day, with a gap between.
-        painter->setPen(QPen(palette().color(ThemeRole::strong), 2));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(mark.adjusted(-1, -1, 1, 1), corner, corner);
-        mark.adjust(2, 2, -2, -2);
-    }
-    if (chosen || (m_todayMarked && date == m_today)) {
-        painter->setPen(QPen(palette().color(ThemeRole::strong), 1.5));
-        painter->setBrush(chosen ? QBrush(theme.accent) : QBrush(Qt::NoBrush));
-        painter->drawRoundedRect(mark, corner - (focused ? 2 : 0), corner - (focused ? 2 : 0));
-    }
-
-    const QColor ink =
-        chosen ? theme.onAccent
-               : palette().color(ofThisMonth && isEnabled() ? QPalette::WindowText : ThemeRole::quiet);
-    QFont font = TypeScale::body();
-    font.setWeight(chosen || (m_todayMarked && date == m_today) ? QFont::DemiBold : QFont::Normal);
-    painter->setFont(font);
-    painter->setPen(ink);
-    painter->drawText(mark.adjusted(0, 0, 0, -4), Qt::AlignCenter, QString::number(date.day()));
+    const QRectF mark = paintMark(*painter, rect, date);
+    paintNumber(*painter, mark, date);
     if (m_marked.contains(date)) {
         painter->setPen(Qt::NoPen);
-        painter->setBrush(chosen ? theme.onAccent : palette().color(ThemeRole::strong));
+        painter->setBrush(date == selectedDate() ? Theme::of(this).onAccent
+                                                 : palette().color(ThemeRole::strong));
         painter->drawEllipse(QPointF(mark.center().x(), mark.bottom() - 5), 2.5, 2.5);
     }
     painter->restore();
+}
+
+QRectF MonthView::paintMark(QPainter &painter, const QRect &cell, QDate date) const
+{
+    const bool chosen = date == selectedDate();
+    QRectF mark = QRectF(cell).adjusted(2.5, 2.5, -2.5, -1.5);
+    mark.setWidth(std::min(mark.width(), 36.0));
+    mark.moveCenter(QRectF(cell).center() + QPointF(0, 0.5));
+    const bool focused = chosen && m_view && m_view->hasFocus();
+    if (focused) {
+        // A ring outside the day, with a gap between.
+        painter.setPen(QPen(palette().color(ThemeRole::strong), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(mark.adjusted(-1, -1, 1, 1), corner, corner);
+        mark.adjust(2, 2, -2, -2);
+    }
+    if (chosen || isMarkedToday(date)) {
+        painter.setPen(QPen(palette().color(ThemeRole::strong), 1.5));
+        painter.setBrush(chosen ? QBrush(Theme::of(this).accent) : QBrush(Qt::NoBrush));
+        painter.drawRoundedRect(mark, corner - (focused ? 2 : 0), corner - (focused ? 2 : 0));
+    }
+    return mark;
+}
+
+void MonthView::paintNumber(QPainter &painter, const QRectF &mark, QDate date) const
+{
+    const bool chosen = date == selectedDate();
+    const bool ofThisMonth = date.month() == monthShown() && date.year() == yearShown();
+    QFont font = TypeScale::body();
+    font.setWeight(chosen || isMarkedToday(date) ? QFont::DemiBold : QFont::Normal);
+    painter.setFont(font);
+    painter.setPen(
+        chosen ? Theme::of(this).onAccent
+               : palette().color(ofThisMonth && isEnabled() ? QPalette::WindowText : ThemeRole::quiet));
+    painter.drawText(mark.adjusted(0, 0, 0, -4), Qt::AlignCenter, QString::number(date.day()));
 }
 
 void MonthView::changeEvent(QEvent *event)

@@ -28,6 +28,10 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    /// Ring and filling of the chosen day and of today; gives what they leave to the number.
+    QRectF paintMark(QPainter &painter, const QRect &cell, QDate date) const;
+    void paintNumber(QPainter &painter, const QRectF &mark, QDate date) const;
+    bool isMarkedToday(QDate date) const { return m_todayMarked && date == m_today; }
     void setUpHeading();
     void showPaletteColors();
 

@@ -43,11 +43,11 @@ void Albums::viewer(const Camera &camera)
     session.box([&] { session.trigger("mOExp"); }, [&] { session.take("viewer-export"); });
 }
 
-/// What takes the place of the grid, and the pages.
-void Albums::viewerPanels(const Camera &camera)
+namespace {
+
+/// The print options and the lists that they print.
+void takePrintedLists(PictureSession &session)
 {
-    PictureSession session(camera);
-    session.open(Function::AddressViewer);
     session.trigger("mOPrt");
     session.take("viewer-print-options");
     session.click("printList");
@@ -66,7 +66,11 @@ void Albums::viewerPanels(const Camera &camera)
     session.take("viewer-preview-pictures");
     session.takePage("viewer-page-pictures");
     session.key(Qt::Key_Escape);
+}
 
+/// Labels, and an envelope.
+void takeLabels(PictureSession &session)
+{
     session.click("information_0");
     session.trigger("mOLab");
     session.fill("startPosition", u"4"_s);
@@ -78,7 +82,11 @@ void Albums::viewerPanels(const Camera &camera)
     session.take("viewer-envelope");
     session.takePage("viewer-page-envelope", "labelPreview");
     session.click("leaveLabels");
+}
 
+/// The window of the pictures.
+void takePictures(PictureSession &session)
+{
     session.box([&] { session.trigger("mOPic"); },
                 [&] {
                     session.use("ADDBKDISPLAY2");
@@ -89,4 +97,16 @@ void Albums::viewerPanels(const Camera &camera)
     session.key(Qt::Key_Right);
     session.key(Qt::Key_Return);
     session.take("viewer-picture-enlarged");
+}
+
+} // namespace
+
+/// What takes the place of the grid, and the pages.
+void Albums::viewerPanels(const Camera &camera)
+{
+    PictureSession session(camera);
+    session.open(Function::AddressViewer);
+    takePrintedLists(session);
+    takeLabels(session);
+    takePictures(session);
 }
