@@ -14,14 +14,14 @@ public:
 
     /// False when another running program holds the folder. A folder in which no lock can be made is held by
     /// nobody: true, with a line in the log.
-    bool take();
+    [[nodiscard]] bool take();
 
     /// Who holds the folder: "process 4711 on the computer castle", for the user to find that program.
     QString holder() const;
 
     /// Takes a lock over that nobody answers for: it may have come with a copy of the folder. False when it
     /// cannot be removed.
-    bool takeOver();
+    [[nodiscard]] bool takeOver();
 
 private:
     QLockFile m_lock;
