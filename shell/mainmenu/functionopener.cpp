@@ -3,12 +3,14 @@
 
 #include "shell/access/gate.h"
 #include "shell/controls/activitybar.h"
-#include "shell/controls/busycursor.h"
 #include "shell/mainmenu/listfile.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
+#include "shell/program/sharedprocedures.h"
 
 #include <QAction>
+
+#include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,18 +24,23 @@ public:
         : m_bar(bar)
         , m_before(bar.activity())
     {
+        HINFO1::hourglassOn();
         m_bar.setActivity(u"Loading"_s);
     }
-    ~Loading() { m_bar.setActivity(m_before); }
+    ~Loading()
+    {
+        m_bar.setActivity(m_before);
+        HINFO1::hourglassOff();
+    }
     Loading(const Loading &) = delete;
     Loading &operator=(const Loading &) = delete;
 
 private:
     ActivityBar &m_bar;
     QString m_before;
-    BusyCursor m_busy;
 };
 
+/// What a press does, by the effect of the button: one function object made of several.
 template <typename... Effects>
 struct Either : Effects... {
     using Effects::operator()...;
@@ -90,7 +97,7 @@ void FunctionOpener::press(const TopButtons::TopButton &button) const
 /// A function that another edition has: its guard is asked, and there is no window to show.
 void FunctionOpener::openForeign(int area) const
 {
-    (void)m_program.gate.mayOpen(m_program, area, m_window);
+    std::ignore = m_program.gate.mayOpen(m_program, area, m_window);
 }
 
 void FunctionOpener::showListFile(const TopButtons::ShowsListFile &button) const
@@ -100,6 +107,6 @@ void FunctionOpener::showListFile(const TopButtons::ShowsListFile &button) const
         openForeign(button.area);
         return;
     }
-    Hourglass::off(); // while a notice is read
+    HINFO1::hourglassOff(); // while a notice is read
     m_program.dialogs.ask(m_window, TopButtons::emptyListNotice(button));
 }
