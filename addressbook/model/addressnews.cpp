@@ -20,6 +20,7 @@ constexpr int daysAhead = 30;
 
 enum class Kind { Birthday, Anniversary };
 
+/// A birthday or an anniversary that comes round.
 struct Occasion {
     Kind kind;
     QDate day; ///< when it comes next

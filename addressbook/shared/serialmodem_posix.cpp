@@ -17,6 +17,7 @@ namespace {
 
 constexpr int patience = 1000; ///< milliseconds
 
+/// A kind of port: the number that its first one has here, and what its device files are called.
 struct PortFamily {
     int firstPort;
     QLatin1StringView name;

@@ -38,6 +38,7 @@ QLatin1StringView groupPrefix(QStringView time, UntimedPlacement placement)
     return choose("zzzc", "zzzb", "zzza");
 }
 
+/// A filled row with what it is sorted by.
 struct Entry {
     QString key; ///< upper case, for the comparison
     QString time;

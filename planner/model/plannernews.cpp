@@ -12,6 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// A filled row of today, its time read where it can be.
 struct Item {
     QTime time; ///< invalid: any time of the day
     QString timeText;

@@ -10,6 +10,7 @@
 
 namespace {
 
+/// An entry of the menu, which opens a function.
 struct Entry {
     const char *name;
     const char *caption;
