@@ -18,6 +18,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 

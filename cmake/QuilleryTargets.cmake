@@ -88,9 +88,9 @@ function(quillery_room name)
     quillery_library(quillery_${name} SOURCES ${sources} LINK ${ARG_LINK})
 endfunction()
 
-# quillery_function(NAME MODEL_LINK target... WINDOW_LINK target...): a function of the program, made of its rooms model/
-# (quillery_NAME_model) and window/, or shared/ and a room for each of its windows, each on top of the one before it.
-# quillery_NAME is all of them.
+# quillery_function(NAME MODEL_LINK target... WINDOW_LINK target...): a function of the program, made of its rooms
+# model/ (quillery_NAME_model) and window/, or shared/ and a room for each of its windows, each on top of the one before
+# it. quillery_NAME is all of them.
 function(quillery_function name)
     cmake_parse_arguments(ARG "" "" "MODEL_LINK;WINDOW_LINK" ${ARGN})
     quillery_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}/model")
