@@ -156,6 +156,7 @@ QWidget *PasswordPane::firstControl() const
     return m_set->isHidden() ? m_change : m_set;
 }
 
+/// No TaskPanel: the form opens below the buttons of the pane, which stays where it is.
 void PasswordPane::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && m_task != Task::None)

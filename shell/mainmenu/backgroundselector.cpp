@@ -152,6 +152,7 @@ bool BackgroundSelector::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
+/// No TaskPanel: it stands over the picture, with a margin all round, and its OK keeps what Esc takes back.
 void BackgroundSelector::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)
