@@ -17,6 +17,11 @@ constexpr int framingMilliseconds = 120;
 
 } // namespace
 
+bool WindowPlace::hasScreen()
+{
+    return QGuiApplication::platformName() != "offscreen"_L1;
+}
+
 void WindowPlace::open(QWidget &window, QSize openingSize, const QByteArray &stored)
 {
     const QSize available = window.screen()->availableSize();
@@ -43,7 +48,6 @@ void WindowPlace::fitScreen(QWidget &window)
 
 void WindowPlace::fitScreenWhenFramed(QWidget &window)
 {
-    // Without a screen there are no frames.
-    if (QGuiApplication::platformName() != "offscreen"_L1)
+    if (hasScreen())
         QTimer::singleShot(framingMilliseconds, &window, [&window] { fitScreen(window); });
 }

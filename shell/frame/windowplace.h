@@ -9,6 +9,10 @@ class QWidget;
 /// Where a window stands on the screen. All sizes are in logical pixels.
 namespace WindowPlace {
 
+/// False where the program draws into memory alone, for tests and pictures: no frames, and a screen of any
+/// size.
+bool hasScreen();
+
 /// Gives a window that is not shown yet its place: the one in `stored` (what `saveGeometry` gave), else
 /// `openingSize` in the middle of the screen. Nothing of it lies off the screen.
 void open(QWidget &window, QSize openingSize, const QByteArray &stored);

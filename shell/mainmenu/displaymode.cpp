@@ -2,10 +2,10 @@
 #include "shell/mainmenu/displaymode.h"
 
 #include "shell/core/settingskeys.h"
+#include "shell/frame/windowplace.h"
 #include "shell/program/sharedprocedures.h"
 
 #include <QAction>
-#include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
@@ -122,8 +122,5 @@ QSize DisplayMode::rememberedSize() const
     const QSize twips(m_program.settings.number(SettingsKeys::windowWidth),
                       m_program.settings.number(SettingsKeys::windowHeight));
     const QSize size = twips.expandedTo(HINFO1::minimumTwips) / HINFO1::twipsPerPixel;
-    // A screen that nobody sees does not limit the window.
-    return QGuiApplication::platformName() == "offscreen"_L1
-               ? size
-               : size.boundedTo(m_window->screen()->availableSize());
+    return WindowPlace::hasScreen() ? size.boundedTo(m_window->screen()->availableSize()) : size;
 }
