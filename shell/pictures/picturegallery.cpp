@@ -214,12 +214,6 @@ int PictureGallery::waitingCount() const
     return m_waiting;
 }
 
-bool PictureGallery::isSeen(int index) const
-{
-    return index >= 0 && index < m_model->rowCount() &&
-           m_model->state(index) == PictureGalleryModel::State::Seen;
-}
-
 void PictureGallery::resizeEvent(QResizeEvent *event)
 {
     QListView::resizeEvent(event);

@@ -23,8 +23,6 @@ public:
     void setPictures(std::vector<NamedPicture> pictures);
     /// Pictures that are still being read.
     int waitingCount() const;
-    /// Whether the picture at `index` has been read and can be seen.
-    bool isSeen(int index) const;
 
 signals:
     /// A picture was read, or could not be.
