@@ -136,6 +136,16 @@ QString PageType::elided(const QString &line, double width) const
     return m_metrics.elidedText(line, Qt::ElideRight, width * fine);
 }
 
+QStringList PageType::shortened(QStringList lines, qsizetype most, double width) const
+{
+    if (lines.size() > most) {
+        const QString rest = lines.mid(most - 1).join(u' ');
+        lines = lines.mid(0, most - 1);
+        lines << elided(rest, width);
+    }
+    return lines;
+}
+
 void PageType::draw(QPainter &painter, QPointF top, const QString &line) const
 {
     if (line.isEmpty())

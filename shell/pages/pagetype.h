@@ -31,6 +31,8 @@ public:
     QStringList wrapped(const QString &text, double width) const;
     /// One line, ended by an ellipsis where it is wider than `width`.
     QString elided(const QString &line, double width) const;
+    /// At most `most` of these lines; the last one kept takes up what follows, ended by an ellipsis.
+    QStringList shortened(QStringList lines, qsizetype most, double width) const;
 
     /// Draws a line without wrapping; `top` is the upper left corner of its line height.
     void draw(QPainter &painter, QPointF top, const QString &line) const;

@@ -18,12 +18,15 @@ constexpr double margin = 0.5 * pointsPerInch;
 constexpr double thin = 0.5;
 constexpr double rule = 0.75;
 constexpr double columnGap = 10;
+constexpr double rowGap = 4.5;
 constexpr double ruleGap = 9;
 constexpr double pictureGap = 6;
 constexpr double titleGap = 12; ///< from the rule under the title to the body
 constexpr qsizetype titleLines = 4;
 constexpr double blankFactor = 1.6; ///< room to write by hand
 constexpr QColor ruleColor(0x9A, 0x9A, 0x9A);
+constexpr QColor rowColor(0xDD, 0xDD, 0xDD);
+constexpr QColor gridColor(0xB0, 0xB0, 0xB0);
 
 QRectF inPoints(const QRectF &inches)
 {
@@ -39,17 +42,8 @@ SheetFlow::SheetFlow(const PageLayout &layout, int number, QPainter *painter)
     , m_body(layout.body())
     , m_y(m_body.top())
     , m_bottom(m_body.bottom())
+    , m_table(layout.types(), m_body)
 {}
-
-QStringList SheetFlow::shortened(QStringList lines, qsizetype most, const PageType &type, double width)
-{
-    if (lines.size() > most) {
-        const QString rest = lines.mid(most - 1).join(u' ');
-        lines = lines.mid(0, most - 1);
-        lines << type.elided(rest, width);
-    }
-    return lines;
-}
 
 std::optional<SheetStart> SheetFlow::fill(SheetStart start, std::size_t end)
 {
@@ -60,11 +54,11 @@ std::optional<SheetStart> SheetFlow::fill(SheetStart start, std::size_t end)
     placeTitle();
     for (; m_at.item < std::min(end, items.size()); m_at = {m_at.item + 1, 0, nullptr}) {
         if (!std::visit([this](const auto &item) { return place(item); }, items[m_at.item]))
-            return SheetStart{m_at.item, m_at.line, m_columns};
+            return SheetStart{m_at.item, m_at.line, m_table.columns()};
     }
     if (end <= items.size() || !m_layout.page().isClosed() || placeClosing())
         return std::nullopt;
-    return SheetStart{items.size(), 0, m_columns};
+    return SheetStart{items.size(), 0, m_table.columns()};
 }
 
 void SheetFlow::placeTitle()
@@ -77,7 +71,7 @@ void SheetFlow::placeTitle()
     const QString head = right.elided(page.headRight(), m_body.width() / 2);
     const double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + 2 * columnGap);
     const QStringList lines =
-        shortened(title.wrapped(page.titleOf(m_number), titleWidth), titleLines, title, titleWidth);
+        title.shortened(title.wrapped(page.titleOf(m_number), titleWidth), titleLines, titleWidth);
     for (const QString &line : lines) {
         if (m_painter)
             title.draw(*m_painter, {m_body.left(), m_y}, line);
@@ -94,18 +88,10 @@ void SheetFlow::placeTitle()
     m_y += rule + titleGap;
 }
 
-qsizetype SheetFlow::lineCount(const std::vector<Cell> &cells)
-{
-    qsizetype most = 1;
-    for (const Cell &cell : cells)
-        most = std::max(most, cell.lines.size());
-    return most;
-}
-
-void SheetFlow::drawCells(const std::vector<Cell> &cells, const PageType &type, double top,
+void SheetFlow::drawCells(const std::vector<SheetCell> &cells, const PageType &type, double top,
                           qsizetype count) const
 {
-    for (const Cell &cell : cells) {
+    for (const SheetCell &cell : cells) {
         const qsizetype end = std::min(m_at.line + count, cell.lines.size());
         for (qsizetype i = m_at.line; m_painter && i < end; ++i) {
             const QPointF place(cell.left, top + double(i - m_at.line) * type.lineHeight());
@@ -114,9 +100,9 @@ void SheetFlow::drawCells(const std::vector<Cell> &cells, const PageType &type, 
     }
 }
 
-bool SheetFlow::placeCells(const std::vector<Cell> &cells, const PageType &type, double gap, Split split)
+bool SheetFlow::placeCells(const std::vector<SheetCell> &cells, const PageType &type, double gap, Split split)
 {
-    const qsizetype left = lineCount(cells) - m_at.line;
+    const qsizetype left = SheetTable::lineCount(cells) - m_at.line;
     const double fitting = std::clamp((room() - gap + 0.01) / type.lineHeight(), 0.0, double(left));
     qsizetype count = qsizetype(fitting);
     // Only what is taller than a whole sheet is cut against its will; a fresh sheet always takes something.
@@ -133,6 +119,82 @@ bool SheetFlow::placeCells(const std::vector<Cell> &cells, const PageType &type,
     return count == left;
 }
 
+void SheetFlow::startTable(const PageItem::Columns *columns)
+{
+    m_y = m_table.leaveColumns(m_y);
+    m_table.start(columns);
+    m_rowAbove = false;
+}
+
+bool SheetFlow::nextColumn()
+{
+    const std::optional<double> top = m_table.nextColumn(m_y);
+    if (!top)
+        return false;
+    m_y = *top;
+    m_rowAbove = false;
+    return true;
+}
+
+void SheetFlow::placeHeadings(const std::vector<SheetCell> &headings)
+{
+    m_table.beginRows(m_y);
+    if (headings.empty())
+        return;
+    const int line = std::exchange(m_at.line, 0);
+    drawCells(headings, types().strong, m_y, SheetTable::lineCount(headings));
+    m_at.line = line;
+    m_y += m_table.headingHeight(headings);
+    const QRectF body = m_table.columnBody();
+    fillLine({body.left(), m_y - rule - 1, body.width(), rule}, Qt::black);
+}
+
+bool SheetFlow::place(const PageItem::Columns &columns)
+{
+    startTable(&columns);
+    const std::vector<SheetCell> headings = m_table.headings();
+    // Headings never stand alone at the foot of a sheet.
+    if (!m_isFresh && room() < m_table.headingHeight(headings) + rowGap + types().body.lineHeight())
+        return false;
+    placeHeadings(headings);
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::Row &row)
+{
+    const PageType &type = types().of(row.role);
+    std::vector<SheetCell> cells = m_table.cellsOf(row.cells, type);
+    std::vector<SheetCell> headings = m_table.headings();
+    const double height =
+        rowGap + double(SheetTable::lineCount(cells)) * type.lineHeight() + closingReserve();
+    if (!m_isFresh && m_at.line == 0 && room() < m_table.headingHeight(headings) + height) {
+        if (!nextColumn())
+            return false;
+        cells = m_table.cellsOf(row.cells, type);
+        headings = m_table.headings();
+    }
+    placeHeadings(headings);
+    const double top = m_y;
+    const QRectF body = m_table.columnBody();
+    if (m_rowAbove && m_table.has(TableLines::Rows))
+        fillLine({body.left(), top, body.width(), thin}, rowColor);
+    m_rowAbove = true;
+    const bool isWhole = placeCells(cells, type, rowGap, Split::Never);
+    if (m_painter && m_table.has(TableLines::Grid)) {
+        for (const QRectF &line : m_table.grid(top, m_y, thin))
+            fillLine(line, gridColor);
+    }
+    return isWhole;
+}
+
+/// Rows that run down several columns fill the first to the foot even on the last sheet, so room for the
+/// closing lines is left on each.
+double SheetFlow::closingReserve() const
+{
+    const bool isNeeded = m_table.runsAcross() && m_layout.page().isClosed();
+    return isNeeded ? types().body.lineHeight() + closingHeight() : 0;
+}
+
 bool SheetFlow::place(const PageItem::Line &line)
 {
     const PageType &type = types().of(line.role);
@@ -146,7 +208,7 @@ bool SheetFlow::place(const PageItem::Line &line)
     const bool leads = line.role == TextRole::Heading;
     if (leads && !m_isFresh && room() < type.lineHeight() + types().body.lineHeight())
         return false;
-    const Cell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line)};
+    const SheetCell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line)};
     return placeCells({cell}, type, 0, Split::AtLines);
 }
 
@@ -193,7 +255,7 @@ bool SheetFlow::place(const PageItem::PlacedText &text)
     const QRectF place = inPoints(text.place);
     // A rectangle as high as a line on paper may be a hair lower than the line height.
     const auto most = std::max<qsizetype>(1, qsizetype(place.height() / type.lineHeight() + 0.1));
-    const QStringList lines = shortened(type.wrapped(text.text, place.width()), most, type, place.width());
+    const QStringList lines = type.shortened(type.wrapped(text.text, place.width()), most, place.width());
     const double height = double(lines.size()) * type.lineHeight();
     double top = place.top();
     if (text.alignment & Qt::AlignBottom)
@@ -263,7 +325,7 @@ double SheetFlow::closingHeight() const
 bool SheetFlow::placeClosing()
 {
     const PageType &type = types().foot;
-    leaveColumns();
+    m_y = m_table.leaveColumns(m_y);
     const double top = std::max(m_y, m_lowestPlaced);
     // Placed items may reach below the margin; a quarter of an inch every printer can print on.
     const double lowest = m_layout.sheet().height() - (m_lowestPlaced > 0 ? margin / 2 : margin);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/pages/pagelayout.h"
+#include "shell/pages/sheettable.h"
 
 #include <limits>
 #include <optional>
@@ -24,17 +25,7 @@ public:
     std::optional<SheetStart> fill(SheetStart start, std::size_t end = toTheEnd);
 
 private:
-    /// A text between two edges of the sheet, cut into lines.
-    struct Cell {
-        double left = 0;
-        double width = 0;
-        Qt::Alignment alignment = Qt::AlignLeft;
-        QStringList lines;
-    };
     enum class Split { Never, AtLines };
-    static qsizetype lineCount(const std::vector<Cell> &cells);
-    /// At most `most` lines; the last one kept takes up what follows, ended by an ellipsis.
-    static QStringList shortened(QStringList lines, qsizetype most, const PageType &type, double width);
 
     /// Each places one item at the current height, or as much of it as fits. False: the rest goes to the next
     /// sheet.
@@ -51,23 +42,17 @@ private:
     bool placeClosing();
 
     void placeTitle();
-    void placeHeadings(const std::vector<Cell> &cells);
-    double headingHeight(const std::vector<Cell> &cells) const;
+    void placeHeadings(const std::vector<SheetCell> &headings);
     /// Draws `count` lines of each cell, from the item's current line on.
-    void drawCells(const std::vector<Cell> &cells, const PageType &type, double top, qsizetype count) const;
-    bool placeCells(const std::vector<Cell> &cells, const PageType &type, double gap, Split split);
-    std::vector<Cell> headingCells() const;
-    std::vector<Cell> cellsOf(const QStringList &texts, const PageType &type) const;
+    void drawCells(const std::vector<SheetCell> &cells, const PageType &type, double top,
+                   qsizetype count) const;
+    bool placeCells(const std::vector<SheetCell> &cells, const PageType &type, double gap, Split split);
     void startTable(const PageItem::Columns *columns);
     /// Goes on at the top of the table's next column of rows; false when this was the last.
     bool nextColumn();
-    /// Goes on below a table that runs down several columns.
-    void leaveColumns();
     double closingReserve() const;
     /// Of the closing lines with the rule above them.
     double closingHeight() const;
-    QRectF columnBody() const;
-    void drawGrid(double top) const;
     void drawRule(double y, double thickness, const QColor &color, double indent = 0) const;
     void fillLine(QRectF line, const QColor &color) const;
 
@@ -85,11 +70,6 @@ private:
     double m_lowestPlaced = 0;
     bool m_isFresh = true; ///< nothing but title and headings stands on the sheet yet
 
-    const PageItem::Columns *m_columns = nullptr;
-    std::vector<Cell> m_boxes; ///< the table's columns, without lines
-    bool m_headingsShown = false;
+    SheetTable m_table;
     bool m_rowAbove = false;
-    int m_column = 0; ///< of those that the rows run down
-    double m_columnTop = 0;
-    double m_columnBottom = 0; ///< of the longest so far
 };

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/core/page.h"
+#include "shell/pages/pagetype.h"
+
+#include <QRectF>
+
+#include <optional>
+#include <vector>
+
+/// A text between two edges of a sheet, cut into lines.
+struct SheetCell {
+    double left = 0;
+    double width = 0;
+    Qt::Alignment alignment = Qt::AlignLeft;
+    QStringList lines;
+};
+
+/// The table in force on a sheet: where its columns, headings and cells stand. It measures and draws nothing.
+class SheetTable
+{
+public:
+    /// Between the edges of `body`, in points. The page's types must outlive the table.
+    SheetTable(const PageTypes &types, const QRectF &body);
+
+    /// Rows from here on stand in these columns; null: outside a table, in columns of equal width.
+    void start(const PageItem::Columns *columns);
+    const PageItem::Columns *columns() const { return m_columns; }
+    bool has(TableLines lines) const { return m_columns && m_columns->lines == lines; }
+
+    /// Lines of the highest cell, at least one.
+    static qsizetype lineCount(const std::vector<SheetCell> &cells);
+    std::vector<SheetCell> cellsOf(const QStringList &texts, const PageType &type) const;
+    /// None once `beginRows` was called.
+    std::vector<SheetCell> headings() const;
+    double headingHeight(const std::vector<SheetCell> &headings) const;
+    /// The part of the sheet that rows are placed in now; only its left and right edges count.
+    QRectF columnBody() const;
+    /// The lines around the cells of a row from `top` to `bottom`.
+    std::vector<QRectF> grid(double top, double bottom, double thickness) const;
+
+    /// The headings of this column of rows stand at `y`, and rows follow.
+    void beginRows(double y);
+    /// Whether the rows run down several columns.
+    bool runsAcross() const { return m_columns && m_columns->across > 1; }
+    /// Goes on in the next column of rows, since the one that ends at `y` is full: gives the top of it, or
+    /// nothing when this was the last.
+    std::optional<double> nextColumn(double y);
+    /// Leaves a table whose last row ends at `y`: gives the end of the longest column of rows.
+    double leaveColumns(double y);
+
+private:
+    const PageTypes &m_types;
+    QRectF m_body;
+    const PageItem::Columns *m_columns = nullptr;
+    std::vector<SheetCell> m_boxes; ///< the table's columns, without lines
+    bool m_headingsShown = false;
+    int m_column = 0; ///< of those that the rows run down
+    double m_columnTop = 0;
+    double m_columnBottom = 0; ///< of the longest so far
+};
