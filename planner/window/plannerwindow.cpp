@@ -17,6 +17,7 @@
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/narrowtoolbar.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/workviews.h"
 
@@ -26,9 +27,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// Windows from this width on have room for all tools.
-constexpr int wideFrom = 1200;
 
 WindowTraits traits()
 {
@@ -54,6 +52,7 @@ Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
     , m_optionsPanel(new CalendarOptionsPanel)
     , m_splitter(new SideSplitter(u"leftPaneSplitter"_s, m_side, makeWorkPanel(),
                                   [this](QSize window) { return m_side->fitWindow(window); }))
+    , m_narrowToolbar(new NarrowToolbar(this))
 {
     setWork(m_splitter);
     setViews(&m_views->stack());
@@ -125,7 +124,7 @@ void Zcalandar1::addViewCommands(QMenu *menu)
     all.add(menu, u"mVGo"_s, u"&Go to Date"_s, [this] { m_day->askForDate(); })
         ->setShortcut(Qt::CTRL | Qt::Key_G);
     all.tool(month, "month-view"_L1, u"Month"_s);
-    m_wideTools << all.tool(week, "week-view"_L1, u"Week"_s, u"mVWeek_tool"_s);
+    m_narrowToolbar->leaveOut(all.tool(week, "week-view"_L1, u"Week"_s, u"mVWeek_tool"_s));
 }
 
 void Zcalandar1::addEditCommands(QMenu *menu)
@@ -139,7 +138,7 @@ void Zcalandar1::addEditCommands(QMenu *menu)
         return whyNoDay().isEmpty() && !m_day->hasCopy() ? PlannerLines::copyFirst() : whyNoDay();
     };
     Commands &all = commands();
-    m_copy = all.add(menu, u"mECopy"_s, u"&Copy Day"_s, copy, dayOnly);
+    QAction *copyDay = all.add(menu, u"mECopy"_s, u"&Copy Day"_s, copy, dayOnly);
     QAction *paste = all.add(
         menu, u"mEPaste"_s, u"&Paste Day"_s, [this] { m_day->paste(); }, whyNoPaste);
     menu->addSeparator();
@@ -151,8 +150,8 @@ void Zcalandar1::addEditCommands(QMenu *menu)
         ->setShortcut(QKeySequence::Find);
     all.tool(repeat, "repeat"_L1, u"Repeat"_s);
     all.separateTools();
-    all.tool(m_copy, "copy"_L1, u"Copy Day"_s);
-    m_wideTools << all.tool(paste, "edit"_L1, u"Paste Day"_s, u"mEPaste_tool"_s);
+    m_narrowToolbar->shorten(all.tool(copyDay, "copy"_L1, u"Copy Day"_s), u"Copy"_s);
+    m_narrowToolbar->leaveOut(all.tool(paste, "edit"_L1, u"Paste Day"_s, u"mEPaste_tool"_s));
 }
 
 void Zcalandar1::addOptionCommands(QMenu *menu)
@@ -190,17 +189,6 @@ void Zcalandar1::addOptionCommands(QMenu *menu)
     menu->addAction(standard(Standard::Exit));
     all.tool(print, "print"_L1, u"Print"_s);
     all.separateTools();
-}
-
-/// In a narrow window the toolbar keeps to one row, so that the fourteen rows of the day have their place;
-/// the menus have what it leaves out.
-void Zcalandar1::resizeEvent(QResizeEvent *event)
-{
-    FunctionWindow::resizeEvent(event);
-    const bool isWide = width() >= wideFrom;
-    for (QAction *tool : m_wideTools)
-        tool->setVisible(isWide);
-    m_copy->setIconText(isWide ? u"Copy Day"_s : u"Copy"_s);
 }
 
 void Zcalandar1::connectDay()

@@ -8,6 +8,7 @@
 
 class CalendarOptionsPanel;
 class DaysView;
+class NarrowToolbar;
 class PlannerSidePane;
 class PlannerViews;
 class RecurrencePanel;
@@ -28,7 +29,6 @@ protected:
     [[nodiscard]] bool save() override { return m_day->save(); }
     void drop() override { m_day->reload(); }
     Message leaveQuestion() const override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *makeWorkPanel();
@@ -75,6 +75,5 @@ private:
     RecurrencePanel *m_recurrence;
     CalendarOptionsPanel *m_optionsPanel;
     SideSplitter *m_splitter;
-    QAction *m_copy = nullptr;
-    QList<QAction *> m_wideTools; ///< those that only wide windows show
+    NarrowToolbar *m_narrowToolbar; ///< leaves the fourteen rows of the day their place
 };
