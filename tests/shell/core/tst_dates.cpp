@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/dates.h"
+#include "tests/support/rows.h"
 
 #include <QLocale>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,99 +26,64 @@ private slots:
 
 void TestDates::decidesTheStyle_data()
 {
-    QTest::addColumn<QString>("shortDate");
-    QTest::addColumn<DateStyle>("style");
-    QTest::newRow("month first") << u"9/30/2006"_s << DateStyle::Usa;
-    QTest::newRow("month first, two digits") << u"09/30/06"_s << DateStyle::Usa;
-    QTest::newRow("day first") << u"30/09/2006"_s << DateStyle::Other;
-    QTest::newRow("day first with points") << u"30.09.06"_s << DateStyle::Other;
-    QTest::newRow("year first") << u"2006-09-30"_s << DateStyle::Other;
-    QTest::newRow("a month's name") << u"Sep 30, 2006"_s << DateStyle::Other;
-    QTest::newRow("nothing") << QString() << DateStyle::Other;
-    QTest::newRow("a long number") << u"9999999999999999999"_s << DateStyle::Other;
-    QTest::newRow("the United States")
-        << QLocale(u"en_US"_s).toString(QDate(2006, 9, 30), QLocale::ShortFormat) << DateStyle::Usa;
-    QTest::newRow("Germany") << QLocale(u"de_DE"_s).toString(QDate(2006, 9, 30), QLocale::ShortFormat)
-                             << DateStyle::Other;
+    const auto shortDate = [](const char *locale) {
+        return QLocale(QString::fromLatin1(locale)).toString(QDate(2006, 9, 30), QLocale::ShortFormat);
+    };
+    rows<QString, DateStyle>({
+        {"month first, two digits", u"09/30/06"_s, DateStyle::Usa},
+        {"day first", u"30/09/2006"_s, DateStyle::Other},
+        {"year first", u"2006-09-30"_s, DateStyle::Other},
+        {"a month's name", u"Sep 30, 2006"_s, DateStyle::Other},
+        {"nothing", {}, DateStyle::Other},
+        {"a long number", u"9999999999999999999"_s, DateStyle::Other},
+        {"the United States", shortDate("en_US"), DateStyle::Usa},
+        {"Germany", shortDate("de_DE"), DateStyle::Other},
+    });
 }
 
 void TestDates::decidesTheStyle()
 {
-    QFETCH(QString, shortDate);
-    QTEST(Dates::styleOfShortDate(shortDate), "style");
+    const auto [shortDate, style] = row<QString, DateStyle>();
+    QCOMPARE(Dates::styleOfShortDate(shortDate), style);
 }
 
 void TestDates::readsStoredDates_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QDate>("monthFirst");
-    QTest::addColumn<QDate>("dayFirst");
-    const QDate november(1978, 11, 24), march(1980, 3, 4), april(1980, 4, 3), none;
-    const auto both = [](const char *text, QDate date) {
-        QTest::newRow(text) << QString::fromLatin1(text) << date << date;
+    QTest::addColumn<std::optional<QDate>>("monthFirst");
+    QTest::addColumn<std::optional<QDate>>("dayFirst");
+    using Date = std::optional<QDate>;
+    const auto add = [](const QString &texts, const Date &monthFirst, const Date &dayFirst) {
+        for (const QString &text : texts.split(u';'))
+            QTest::addRow("\"%s\"", qPrintable(text)) << text << monthFirst << dayFirst;
     };
-    both("Nov-24-1978", november);
-    both("24-Nov-1978", november);
-    both("nov/24/1978", november);
-    both("November 24, 1978", november);
-    both("24 November 1978", november);
-    both("24Nov1978", november);
-    both("1978-Nov-24", november);
-    both("Sept-3-1980", QDate(1980, 9, 3));
-    both("1978-11-24", november);
-    both("1978.11.24", november);
-    both("11/24/1978", november);
-    both("24.11.1978", november);
-    both("  11 - 24 - 1978 ", november);
-    both("13/05/1990", QDate(1990, 5, 13));
-    both("Feb-29-2024", QDate(2024, 2, 29));
-    both("2/29/2024", QDate(2024, 2, 29));
-    QTest::newRow("either way round") << u"3/4/1980"_s << march << april;
-    QTest::newRow("two-digit year") << u"3/4/80"_s << march << april;
-
-    for (const char *text : {"",
-                             " ",
-                             "-",
-                             "1978",
-                             "Nov-1978",
-                             "Nov 24",
-                             "Feb-29-2023",
-                             "2/29/2023",
-                             "04/31/1990",
-                             "31/04/1990",
-                             "13/13/1990",
-                             "0/5/1990",
-                             "5/0/1990",
-                             "1/1/0000",
-                             "1/1/12345",
-                             "1/1/198",
-                             "Nov-Nov-1978",
-                             "24-1978-Nov",
-                             "1978-24-11",
-                             "Nix-24-1978",
-                             "No-24-1978",
-                             "24th Nov 1978",
-                             "11/24/1978x",
-                             "11/24/1978 5",
-                             "11+24+1978",
-                             "11-24-1978-1",
-                             "99999999999999999999/1/1",
-                             "Nov-24-1978-and-a-very-long-rest-of-the-line"})
-        both(text, none);
+    const QDate november(1978, 11, 24), september(1980, 9, 3), may(1990, 5, 13), leapDay(2024, 2, 29);
+    add(u"Nov-24-1978;24-Nov-1978;nov/24/1978;November 24, 1978;24 November 1978;24Nov1978;1978-Nov-24;"
+        "1978-11-24;1978.11.24;11/24/1978;24.11.1978;  11 - 24 - 1978 "_s,
+        november, november);
+    add(u"Sept-3-1980"_s, september, september);
+    add(u"13/05/1990"_s, may, may);
+    add(u"Feb-29-2024;2/29/2024"_s, leapDay, leapDay);
+    add(u"3/4/1980;3/4/80"_s, QDate(1980, 3, 4), QDate(1980, 4, 3));
+    add(u"; ;-;1978;Nov-1978;Nov 24;Feb-29-2023;2/29/2023;04/31/1990;31/04/1990;13/13/1990;0/5/1990;5/0/1990;"
+        "1/1/0000;1/1/12345;1/1/198;Nov-Nov-1978;24-1978-Nov;1978-24-11;Nix-24-1978;No-24-1978;24th Nov 1978;"
+        "11/24/1978x;11/24/1978 5;11+24+1978;11-24-1978-1;99999999999999999999/1/1;"
+        "Nov-24-1978-and-a-very-long-rest-of-the-line"_s,
+        {}, {});
 }
 
 void TestDates::readsStoredDates()
 {
     QFETCH(QString, text);
-    QTEST(Dates::parse(text, DateStyle::Usa).value_or(QDate()), "monthFirst");
-    QTEST(Dates::parse(text, DateStyle::Other).value_or(QDate()), "dayFirst");
+    QTEST(Dates::parse(text, DateStyle::Usa), "monthFirst");
+    QTEST(Dates::parse(text, DateStyle::Other), "dayFirst");
 }
 
 void TestDates::takesAnyTextForADate()
 {
     QVERIFY(!Dates::parse(QString(1'000'000, u'1'), DateStyle::Usa));
-    QVERIFY(!Dates::parse(u"\u0661/\u0662/\u0663\u0664\u0665\u0666"_s,
-                          DateStyle::Usa)); // digits of another script
+    const QString otherDigits = u"\u0661/\u0662/\u0663\u0664\u0665\u0666"_s; // of another script
+    QVERIFY(!Dates::parse(otherDigits, DateStyle::Usa));
     const QString noise(u"1/.-,J\u00e4n\0\u2028"_s);
     for (int i = 0; i < 20'000; ++i) {
         QString text;
@@ -130,25 +95,20 @@ void TestDates::takesAnyTextForADate()
 
 void TestDates::placesTwoDigitYears_data()
 {
-    QTest::addColumn<QDate>("today");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("year");
     const QDate today(2026, 11, 21);
-    QTest::newRow("twenty years ahead") << today << u"1/1/46"_s << 2046;
-    QTest::newRow("no further") << today << u"1/1/47"_s << 1947;
-    QTest::newRow("this century") << today << u"1/1/05"_s << 2005;
-    QTest::newRow("one digit") << today << u"1/1/5"_s << 2005;
-    QTest::newRow("without today, the end") << QDate() << u"1/1/29"_s << 2029;
-    QTest::newRow("without today, the start") << QDate() << u"1/1/30"_s << 1930;
+    rows<QDate, QString, int>({
+        {"twenty years ahead", today, u"1/1/46"_s, 2046},
+        {"no further", today, u"1/1/47"_s, 1947},
+        {"one digit", today, u"1/1/5"_s, 2005},
+        {"without today, the end", {}, u"1/1/29"_s, 2029},
+        {"without today, the start", {}, u"1/1/30"_s, 1930},
+    });
 }
 
 void TestDates::placesTwoDigitYears()
 {
-    QFETCH(QDate, today);
-    QFETCH(QString, text);
-    const auto date = Dates::parse(text, DateStyle::Usa, today);
-    QVERIFY(date);
-    QTEST(date->year(), "year");
+    const auto [today, text, year] = row<QDate, QString, int>();
+    QCOMPARE(Dates::parse(text, DateStyle::Usa, today), QDate(year, 1, 1));
 }
 
 void TestDates::writesDatesInEnglish()
@@ -174,32 +134,28 @@ void TestDates::writesDatesInEnglish()
 void TestDates::namesTheDaysAtHand()
 {
     const QDate today(2026, 11, 21);
-    const QStringList words{QString(),        u"today"_s,      u"tomorrow"_s,
-                            u"on Monday"_s,   u"on Tuesday"_s, u"on Wednesday"_s,
-                            u"on Thursday"_s, u"on Friday"_s,  QString()};
-    for (qsizetype i = 0; i < words.size(); ++i)
-        QCOMPARE(Dates::nearDay(today.addDays(i - 1), today), words[i]);
+    const QString words = u";today;tomorrow;on Monday;on Tuesday;on Wednesday;on Thursday;on Friday;"_s;
+    for (int days = -1; days <= 7; ++days)
+        QCOMPARE(Dates::nearDay(today.addDays(days), today), words.section(u';', days + 1, days + 1));
 }
 
 void TestDates::findsTheNextAnniversary_data()
 {
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QDate>("today");
-    QTest::addColumn<QDate>("next");
-    const QDate leapDay(1980, 2, 29);
-    QTest::newRow("today") << QDate(1978, 11, 21) << QDate(2026, 11, 21) << QDate(2026, 11, 21);
-    QTest::newRow("yesterday") << QDate(1978, 11, 20) << QDate(2026, 11, 21) << QDate(2027, 11, 20);
-    QTest::newRow("leap day in an ordinary year") << leapDay << QDate(2026, 2, 1) << QDate(2026, 2, 28);
-    QTest::newRow("leap day in a leap year") << leapDay << QDate(2028, 2, 1) << QDate(2028, 2, 29);
-    QTest::newRow("leap day, the year before") << leapDay << QDate(2027, 3, 1) << QDate(2028, 2, 29);
-    QTest::newRow("no date") << QDate() << QDate(2026, 2, 1) << QDate();
+    const QDate today(2026, 11, 21), leapDay(1980, 2, 29);
+    rows<QDate, QDate, QDate>({
+        {"today", QDate(1978, 11, 21), today, today},
+        {"yesterday", QDate(1978, 11, 20), today, QDate(2027, 11, 20)},
+        {"leap day in an ordinary year", leapDay, QDate(2026, 2, 1), QDate(2026, 2, 28)},
+        {"leap day in a leap year", leapDay, QDate(2028, 2, 1), QDate(2028, 2, 29)},
+        {"leap day, the year before", leapDay, QDate(2027, 3, 1), QDate(2028, 2, 29)},
+        {"no date", {}, today, {}},
+    });
 }
 
 void TestDates::findsTheNextAnniversary()
 {
-    QFETCH(QDate, date);
-    QFETCH(QDate, today);
-    QTEST(Dates::nextAnniversary(date, today), "next");
+    const auto [date, today, next] = row<QDate, QDate, QDate>();
+    QCOMPARE(Dates::nextAnniversary(date, today), next);
 }
 
 QTEST_APPLESS_MAIN(TestDates)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/settings.h"
 #include "shell/core/settingskeys.h"
+#include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 
 #include <QDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -13,113 +13,87 @@ class TestSettings : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { m_files = std::make_unique<TestFolder>(); }
-    void readsEmptyValuesWithoutFiles();
+    void init();
     void makesAMissingFileEmpty();
-    void writesTheFamilyNameByteForByte();
-    void leavesOtherRecordsAlone();
+    void writesOneRecordWithinItsLength();
     void writesNumbersAndTaggedValues();
-    void refusesATextThatDoesNotFit();
     void takesBadFiles_data();
     void takesBadFiles();
     void findsFilesUnderAnySpelling();
 
 private:
-    QByteArray bytes(const QString &name) const { return m_files->bytes(name); }
-
     std::unique_ptr<TestFolder> m_files;
+    std::unique_ptr<Settings> m_settings;
 };
 
-void TestSettings::readsEmptyValuesWithoutFiles()
+void TestSettings::init()
 {
-    Settings settings(m_files->folder());
-    QCOMPARE(settings.text(SettingsKeys::familyName), QString());
-    QCOMPARE(settings.number(SettingsKeys::windowHeight), 0);
-    QCOMPARE(settings.tagged(SettingsKeys::background), QString());
+    m_files = std::make_unique<TestFolder>();
+    m_settings = std::make_unique<Settings>(m_files->folder());
 }
 
 void TestSettings::makesAMissingFileEmpty()
 {
-    Settings settings(m_files->folder());
-    settings.text(SettingsKeys::familyName);
+    QCOMPARE(m_settings->text(SettingsKeys::familyName), QString());
+    QCOMPARE(m_settings->number(SettingsKeys::windowHeight), 0);
+    QCOMPARE(m_settings->tagged(SettingsKeys::background), QString());
     QVERIFY(QFile::exists(m_files->path(u"HINVNAME.FIL"_s)));
-    QCOMPARE(bytes(u"HINVNAME.FIL"_s), QByteArray());
+    QCOMPARE(m_files->bytes(u"HINVNAME.FIL"_s), QByteArray());
 }
 
-void TestSettings::writesTheFamilyNameByteForByte()
+void TestSettings::writesOneRecordWithinItsLength()
 {
-    Settings settings(m_files->folder());
-    QVERIFY(settings.setText(SettingsKeys::familyName, u"Jos\u00e9 Ortega M\u00fcl"_s));
-    QCOMPARE(bytes(u"HINVNAME.FIL"_s), QByteArray("\x0f\0Jos\xe9 Ortega M\xfcl", 17));
-    QVERIFY(settings.setText(SettingsKeys::familyName, QString()));
-    QCOMPARE(bytes(u"HINVNAME.FIL"_s), QByteArray("\0\0Jos\xe9 Ortega M\xfcl", 17));
-    QCOMPARE(settings.text(SettingsKeys::familyName), QString());
-}
-
-void TestSettings::leavesOtherRecordsAlone()
-{
-    Settings settings(m_files->folder());
-    const QByteArray before = QByteArray(54 * 20, 'a') + QByteArray(20, 'b') + QByteArray(30, 'c');
-    m_files->put(u"GColor1.Fil"_s, before);
-    QVERIFY(settings.setText(SettingsKeys::topToolbar, u"OFF"_s));
-    QCOMPARE(bytes(u"GColor1.Fil"_s),
-             QByteArray(54 * 20, 'a') + QByteArray("\3\0OFF", 5) + QByteArray(15, 'b') + QByteArray(30, 'c'));
+    const QByteArray before(54 * 20, 'a'), after(30, 'c');
+    m_files->put(u"GColor1.Fil"_s, before + QByteArray(20, 'b') + after);
+    QVERIFY(m_settings->setText(SettingsKeys::topToolbar, u"OFF"_s));
+    QVERIFY(!m_settings->setText(SettingsKeys::topToolbar, QString(19, u'2')));
+    QCOMPARE(m_files->bytes(u"GColor1.Fil"_s),
+             before + QByteArray("\3\0OFF", 5) + QByteArray(15, 'b') + after);
+    QVERIFY(m_settings->setText(SettingsKeys::topToolbar, QString(18, u'1')));
+    QCOMPARE(m_settings->text(SettingsKeys::topToolbar), QString(18, u'1'));
 }
 
 void TestSettings::writesNumbersAndTaggedValues()
 {
-    Settings settings(m_files->folder());
-    QVERIFY(settings.setNumber(SettingsKeys::sideToolbarMarker, 88));
-    QVERIFY(settings.setTagged(SettingsKeys::background, u"WP16"_s));
-    QCOMPARE(bytes(u"GHINV1.Fil"_s), QByteArray(20, '\0') + QByteArray("\x08\0\x04\0WP16", 8) +
-                                         QByteArray(62, '\0') + QByteArray("\x58\0", 2));
-    QCOMPARE(settings.tagged(SettingsKeys::background), u"WP16"_s);
-    QCOMPARE(settings.number(SettingsKeys::sideToolbarMarker), 88);
-    QVERIFY(settings.setNumber(SettingsKeys::windowWidth, 60000));
-    QCOMPARE(settings.number(SettingsKeys::windowWidth), 32767);
-}
-
-void TestSettings::refusesATextThatDoesNotFit()
-{
-    Settings settings(m_files->folder());
-    QVERIFY(settings.setText(SettingsKeys::mainMenuColor, QString(18, u'1')));
-    const QByteArray before = bytes(u"GColor1.Fil"_s);
-    QVERIFY(!settings.setText(SettingsKeys::mainMenuColor, QString(19, u'2')));
-    QCOMPARE(bytes(u"GColor1.Fil"_s), before);
+    QVERIFY(m_settings->setNumber(SettingsKeys::sideToolbarMarker, 88));
+    QVERIFY(m_settings->setTagged(SettingsKeys::background, u"WP16"_s));
+    QCOMPARE(m_files->bytes(u"GHINV1.Fil"_s), QByteArray(20, '\0') + QByteArray("\x08\0\x04\0WP16", 8) +
+                                                  QByteArray(62, '\0') + QByteArray("\x58\0", 2));
+    QCOMPARE(m_settings->tagged(SettingsKeys::background), u"WP16"_s);
+    QCOMPARE(m_settings->number(SettingsKeys::sideToolbarMarker), 88);
+    QVERIFY(m_settings->setNumber(SettingsKeys::windowWidth, 60000));
+    QCOMPARE(m_settings->number(SettingsKeys::windowWidth), 32767);
 }
 
 void TestSettings::takesBadFiles_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("number");
-    QTest::newRow("cut in the count") << QByteArray("\x05") << QString() << 0;
-    QTest::newRow("cut in the text") << QByteArray("\x05\0Hol", 5) << QString() << 5;
-    QTest::newRow("a count beyond everything") << QByteArray("\xff\xffHolm", 6) << QString() << -1;
-    QTest::newRow("whole") << QByteArray("\x04\0Holm", 6) << u"Holm"_s << 4;
+    rows<QByteArray, QString, int>({
+        {"cut in the count", "\x05", {}, 0},
+        {"cut in the text", QByteArray("\x05\0Hol", 5), {}, 5},
+        {"a count beyond everything", "\xff\xffHolm", {}, -1},
+        {"whole", QByteArray("\x04\0Holm", 6), u"Holm"_s, 4},
+    });
 }
 
 void TestSettings::takesBadFiles()
 {
-    QFETCH(QByteArray, content);
+    const auto [content, text, number] = row<QByteArray, QString, int>();
     m_files->put(u"HINVNAME.FIL"_s, content);
-    Settings settings(m_files->folder());
-    QTEST(settings.text(SettingsKeys::familyName), "text");
-    QTEST(settings.number({SettingsKeys::familyNameFile, 1}), "number");
+    QCOMPARE(m_settings->text(SettingsKeys::familyName), text);
+    QCOMPARE(m_settings->number({SettingsKeys::familyNameFile, 1}), number);
 }
 
 void TestSettings::findsFilesUnderAnySpelling()
 {
     m_files->put(u"hinvname.Fil"_s, QByteArray("\x04\0Holm", 6));
-    Settings settings(m_files->folder());
-    QCOMPARE(settings.text(SettingsKeys::familyName), u"Holm"_s);
-    QVERIFY(settings.setText(SettingsKeys::familyName, u"Lind"_s));
+    QCOMPARE(m_settings->text(SettingsKeys::familyName), u"Holm"_s);
+    QVERIFY(m_settings->setText(SettingsKeys::familyName, u"Lind"_s));
     QCOMPARE(QDir(m_files->path({})).entryList(QDir::Files), QStringList{u"hinvname.Fil"_s});
 
     // A folder where the file should be: nothing to read, nothing to write, no crash.
     QVERIFY(QDir(m_files->path({})).mkdir(u"GColor3.Fil"_s));
-    QCOMPARE(settings.text(SettingsKeys::smallerScreen), QString());
-    QVERIFY(!settings.setText(SettingsKeys::smallerScreen, u"Yes"_s));
+    QCOMPARE(m_settings->text(SettingsKeys::smallerScreen), QString());
+    QVERIFY(!m_settings->setText(SettingsKeys::smallerScreen, u"Yes"_s));
 }
 
 QTEST_GUILESS_MAIN(TestSettings)
