@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"
-
-#include <QTest>
+#include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,7 +13,6 @@ private slots:
     void keepsRedInTheLowByte();
     void readsStoredColors_data();
     void readsStoredColors();
-    void keepsTheDesignedColorsAsTextColors();
 };
 
 void TestColorText::keepsRedInTheLowByte()
@@ -22,35 +20,33 @@ void TestColorText::keepsRedInTheLowByte()
     QCOMPARE(ColorText::encode(QColor(0x12, 0x34, 0x56)), u"5649426"_s);
     QCOMPARE(ColorText::encode(Qt::red), u"255"_s);
     QCOMPARE(ColorText::encode(Qt::white), u"16777215"_s);
-    QCOMPARE(ColorText::encode(Theme::light().panel), u"16383487"_s);
-    QCOMPARE(ColorText::encode(Theme::dark().panel), u"2500907"_s);
 }
 
 void TestColorText::readsStoredColors_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QColor>("color");
-    QTest::newRow("red") << u"255"_s << QColor(255, 0, 0);
-    QTest::newRow("mixed") << u"5649426"_s << QColor(0x12, 0x34, 0x56);
-    QTest::newRow("black") << u"0"_s << QColor(0, 0, 0);
-    QTest::newRow("blanks around it") << u" 255 "_s << QColor(255, 0, 0);
-    QTest::newRow("the system's button face") << u"-2147483633"_s << Theme::light().ground;
-    QTest::newRow("the system's highlight") << u"-2147483635"_s << Theme::light().accent;
-    for (const char *text : {"", "   ", "Default", "default", "16383487", "2500907", "16777216", "-1",
-                             "-2147483648000", "-2147483600", "red", "12x", "1e3", "99999999999999999999"})
-        QTest::addRow("designed: \"%s\"", text) << QString::fromLatin1(text) << QColor();
+    using Color = std::optional<QColor>;
+    const Theme &light = Theme::light();
+    const QColor red(255, 0, 0), mixed(0x12, 0x34, 0x56), black(0, 0, 0);
+    rows<QString, Color, Color>({
+        {"red", u"255"_s, red, red},
+        {"mixed", u"5649426"_s, mixed, mixed},
+        {"black", u"0"_s, black, black},
+        {"blanks around it", u" 255 "_s, red, red},
+        {"the system's button face", u"-2147483633"_s, light.ground, light.ground},
+        {"the system's highlight", u"-2147483635"_s, light.accent, light.accent},
+        {"a panel as designed", u"16383487"_s, {}, light.panel},
+        {"a panel as designed for the dark", u"2500907"_s, {}, Theme::dark().panel},
+    });
+    for (const char *text : {"", "   ", "Default", "default", "16777216", "-1", "-2147483648000",
+                             "-2147483600", "red", "12x", "1e3", "99999999999999999999"})
+        QTest::addRow("designed: \"%s\"", text) << std::tuple(QString::fromLatin1(text), Color(), Color());
 }
 
 void TestColorText::readsStoredColors()
 {
-    QFETCH(QString, text);
-    QTEST(ColorText::decode(text, Theme::light().palette()).value_or(QColor()), "color");
-}
-
-void TestColorText::keepsTheDesignedColorsAsTextColors()
-{
-    QCOMPARE(ColorText::decodeInk(u"16383487"_s, Theme::light().palette()), Theme::light().panel);
-    QVERIFY(!ColorText::decodeInk(u"Default"_s, Theme::light().palette()));
+    const auto [text, panel, ink] = row<QString, std::optional<QColor>, std::optional<QColor>>();
+    QCOMPARE(ColorText::decode(text, Theme::light().palette()), panel);
+    QCOMPARE(ColorText::decodeInk(text, Theme::light().palette()), ink);
 }
 
 QTEST_GUILESS_MAIN(TestColorText)

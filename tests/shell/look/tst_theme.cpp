@@ -13,8 +13,7 @@ private slots:
     void everythingIsSeenOnItsSurfaces_data();
     void everythingIsSeenOnItsSurfaces();
     void inkSuitsEveryPanel();
-    void followsThePlatform();
-    void aPanelColorDoesNotChangeTheScheme();
+    void followsThePlatformAndNoPanel();
     void nothingIsSmallerThanNineAndAHalfPoints();
     void theSheetHasNoPlaceholdersLeft();
 };
@@ -67,14 +66,10 @@ void TestTheme::inkSuitsEveryPanel()
             }
 }
 
-void TestTheme::followsThePlatform()
+void TestTheme::followsThePlatformAndNoPanel()
 {
     QCOMPARE(&Theme::of(QPalette(QColor(0xf0, 0xf0, 0xf0))), &Theme::light());
     QCOMPARE(&Theme::of(QPalette(QColor(0x2a, 0x2a, 0x2e))), &Theme::dark());
-}
-
-void TestTheme::aPanelColorDoesNotChangeTheScheme()
-{
     QWidget panel;
     panel.setPalette(Theme::light().panelPalette(QColor(0x10, 0x20, 0x30), Qt::white));
     QCOMPARE(&Theme::of(&panel), &Theme::of(QApplication::palette()));

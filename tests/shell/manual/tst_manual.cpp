@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/helpcontexts.h"
 #include "shell/manual/manual.h"
+#include "tests/support/rows.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -13,12 +13,10 @@ class TestManual : public QObject
 
 private slots:
     void hasAPageForEveryContext();
-    void anUnknownContextOpensTheOverview();
     void linksLeadToPages();
     void namesTheFolderOfTheRecords();
     void findsPagesByWords_data();
     void findsPagesByWords();
-    void pagesWithTheWordInTheirTitleComeFirst();
     void excerptsShowTheWord();
 
 private:
@@ -35,12 +33,8 @@ void TestManual::hasAPageForEveryContext()
         QVERIFY(!page.title.isEmpty());
         QVERIFY(!page.text.contains(QRegularExpression(u"&\\w+;|</"_s)));
     }
-}
-
-void TestManual::anUnknownContextOpensTheOverview()
-{
-    for (const int context : {0, -1, 999, 31000})
-        QCOMPARE(m_manual.page(context).context, HelpContext::ProgramOverview);
+    for (const int unknown : {0, -1, 999, 31000})
+        QCOMPARE(m_manual.page(unknown).context, HelpContext::ProgramOverview);
 }
 
 void TestManual::linksLeadToPages()
@@ -64,31 +58,25 @@ void TestManual::namesTheFolderOfTheRecords()
 
 void TestManual::findsPagesByWords_data()
 {
-    QTest::addColumn<QString>("words");
-    QTest::addColumn<QList<int>>("contexts");
-    QTest::newRow("nothing") << QString() << QList<int>();
-    QTest::newRow("blanks") << u"  "_s << QList<int>();
-    QTest::newRow("one page") << u"modem"_s << QList{1001};
-    QTest::newRow("any case, within words") << u"ODEM"_s << QList{1001};
-    QTest::newRow("every word must be there") << u"modem picture"_s << QList{1001};
-    QTest::newRow("one word is nowhere") << u"modem zeppelin"_s << QList<int>();
-    QTest::newRow("a mark of the page is no word") << u"h2"_s << QList<int>();
+    rows<QString, QList<int>>({
+        {"nothing", {}, {}},
+        {"blanks", u"  "_s, {}},
+        {"one page", u"modem"_s, {1001}},
+        {"any case, within words", u"ODEM"_s, {1001}},
+        {"every word must be there", u"modem picture"_s, {1001}},
+        {"one word is nowhere", u"modem zeppelin"_s, {}},
+        {"the word in the title first", u"backup"_s, {1009, 1000, 1002}},
+        {"a mark of the page is no word", u"h2"_s, {}},
+    });
 }
 
 void TestManual::findsPagesByWords()
 {
-    QFETCH(QString, words);
+    const auto [words, expected] = row<QString, QList<int>>();
     QList<int> contexts;
     for (const ManualHit &hit : m_manual.find(words))
         contexts << hit.context;
-    QTEST(contexts, "contexts");
-}
-
-void TestManual::pagesWithTheWordInTheirTitleComeFirst()
-{
-    const QList<ManualHit> hits = m_manual.find(u"backup"_s);
-    QCOMPARE(hits.first().context, HelpContext::BackupAndRestore);
-    QVERIFY(hits.size() > 1);
+    QCOMPARE(contexts, expected);
 }
 
 void TestManual::excerptsShowTheWord()

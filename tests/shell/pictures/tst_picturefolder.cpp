@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/picturefolder.h"
+#include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 
 #include <QDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,7 +16,6 @@ private slots:
     void startsWhereItWasLast_data();
     void startsWhereItWasLast();
     void remembersAFolderAsOneLine();
-    void refusesAFolderThatNoLineHolds();
     void findsWhatAStoredPathMeans_data();
     void findsWhatAStoredPathMeans();
     void prefersThePathAsItStands();
@@ -30,22 +29,21 @@ private:
 
 void TestPictureFolder::startsWhereItWasLast_data()
 {
-    QTest::addColumn<std::optional<QByteArray>>("content");
-    QTest::addColumn<QString>("folder");
-    using Content = std::optional<QByteArray>;
-    QTest::newRow("no file") << Content() << u"C:\\"_s;
-    QTest::newRow("empty file") << Content("") << u"C:\\"_s;
-    QTest::newRow("one line") << Content("C:\\Bilder\\M\xFCller\\\r\n") << u"C:\\Bilder\\Müller\\"_s;
-    QTest::newRow("bare line end, and more lines") << Content("/home/anne/\nsecond\n") << u"/home/anne/"_s;
-    QTest::newRow("no line end") << Content("C:\\Pictures") << u"C:\\Pictures"_s;
+    rows<std::optional<QByteArray>, QString>({
+        {"no file", {}, u"C:\\"_s},
+        {"empty file", "", u"C:\\"_s},
+        {"one line", "C:\\Bilder\\M\xFCller\\\r\n", u"C:\\Bilder\\Müller\\"_s},
+        {"bare line end, and more lines", "/home/anne/\nsecond\n", u"/home/anne/"_s},
+        {"no line end", "C:\\Pictures", u"C:\\Pictures"_s},
+    });
 }
 
 void TestPictureFolder::startsWhereItWasLast()
 {
-    QFETCH(std::optional<QByteArray>, content);
+    const auto [content, folder] = row<std::optional<QByteArray>, QString>();
     if (content)
         m_files->put(u"GColor4.Fil"_s, *content);
-    QTEST(pictures().lastUsed(), "folder");
+    QCOMPARE(pictures().lastUsed(), folder);
 }
 
 void TestPictureFolder::remembersAFolderAsOneLine()
@@ -57,38 +55,32 @@ void TestPictureFolder::remembersAFolderAsOneLine()
              separator + "home" + separator + "Zo\xEB" + separator + "\r\n");
     QVERIFY(pictures().remember(u"/"_s));
     QCOMPARE(m_files->bytes(u"gcolor4.fil"_s), separator + "\r\n");
-}
-
-void TestPictureFolder::refusesAFolderThatNoLineHolds()
-{
     QVERIFY(!pictures().remember(u"/home/Ωmega"_s));
     QVERIFY(!pictures().remember(u"/home/a\nb"_s));
-    QVERIFY(!QFile::exists(m_files->path(u"GColor4.Fil"_s)));
+    QCOMPARE(m_files->bytes(u"gcolor4.fil"_s), separator + "\r\n");
 }
 
 void TestPictureFolder::findsWhatAStoredPathMeans_data()
 {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("found");
-    QTest::newRow("moved to the Pictures folder")
-        << u"C:\\OLD\\Pictures\\photo01.jpg"_s << u"pictures/Photo01.JPG"_s;
-    QTest::newRow("other slashes") << u"/old/photo01.jpg"_s << u"pictures/Photo01.JPG"_s;
-    QTest::newRow("both slashes") << u"C:\\old/photo01.jpg"_s << u"pictures/Photo01.JPG"_s;
-    QTest::newRow("a bare name") << u"PHOTO01.jpg"_s << u"pictures/Photo01.JPG"_s;
-    QTest::newRow("a drive only") << u"C:photo01.jpg"_s << u"pictures/Photo01.JPG"_s;
-    QTest::newRow("the data folder first") << u"D:\\both.bmp"_s << u"both.bmp"_s;
-    QTest::newRow("nowhere") << u"C:\\Pictures\\moved away.jpg"_s << QString();
-    QTest::newRow("a folder of that name") << u"C:\\folder.jpg"_s << QString();
-    QTest::newRow("no picture") << u"**"_s << QString();
-    QTest::newRow("empty") << QString() << QString();
-    QTest::newRow("only a folder") << u"C:\\Pictures\\"_s << QString();
-    QTest::newRow("the folder itself") << u"C:\\Pictures\\.."_s << QString();
+    rows<QString, QString>({
+        {"moved to the Pictures folder", u"C:\\OLD\\Pictures\\photo01.jpg"_s, u"pictures/Photo01.JPG"_s},
+        {"other slashes", u"/old/photo01.jpg"_s, u"pictures/Photo01.JPG"_s},
+        {"both slashes", u"C:\\old/photo01.jpg"_s, u"pictures/Photo01.JPG"_s},
+        {"a bare name", u"PHOTO01.jpg"_s, u"pictures/Photo01.JPG"_s},
+        {"a drive only", u"C:photo01.jpg"_s, u"pictures/Photo01.JPG"_s},
+        {"the data folder first", u"D:\\both.bmp"_s, u"both.bmp"_s},
+        {"nowhere", u"C:\\Pictures\\moved away.jpg"_s, {}},
+        {"a folder of that name", u"C:\\folder.jpg"_s, {}},
+        {"no picture", u"**"_s, {}},
+        {"empty", {}, {}},
+        {"only a folder", u"C:\\Pictures\\"_s, {}},
+        {"the folder itself", u"C:\\Pictures\\.."_s, {}},
+    });
 }
 
 void TestPictureFolder::findsWhatAStoredPathMeans()
 {
-    QFETCH(QString, stored);
-    QFETCH(QString, found);
+    const auto [stored, found] = row<QString, QString>();
     QDir folder(m_files->path({}));
     QVERIFY(folder.mkdir(u"pictures"_s) && folder.mkdir(u"folder.jpg"_s));
     m_files->put(u"pictures/Photo01.JPG"_s, "a");
