@@ -10,18 +10,19 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-/// A window with the pane in it, as a function window holds it.
-class PreviewWindow final : public QWidget
+/// A program with the pane in a window, as a function window holds it.
+class PreviewWindow final
 {
 public:
-    explicit PreviewWindow(TestProgram &test)
-        : activity(new ActivityBar(test.clock, test.state.dateStyle, this))
-        , pane(new PreviewPane(test.program, *activity, this))
+    PreviewWindow()
+        : activity(new ActivityBar(test.clock, test.state.dateStyle, &window))
+        , pane(new PreviewPane(test.program, *activity, &window))
     {
-        auto *rows = new QVBoxLayout(this);
+        auto *rows = new QVBoxLayout(&window);
         rows->addWidget(pane, 1);
         rows->addWidget(activity);
-        resize(1000, 800);
+        window.resize(1000, 800);
+        showActive(window);
     }
 
     /// Shows a list of so many rows; the setups that it was built for are kept.
@@ -40,26 +41,28 @@ public:
     }
 
     /// Shows a page of exactly so many sheets.
-    void showSheets(int count)
+    void showSheets(int count) const
     {
-        pane->show(
-            [count](const PageSetup &) {
-                Page page(QStringLiteral("Sheets"));
-                for (int i = 0; i < count; ++i)
-                    page.line(QStringLiteral("sheet ") + QString::number(i)).breakPage();
-                return page;
-            },
-            QStringLiteral("Sheets"));
+        Page page(QStringLiteral("Sheets"));
+        for (int i = 0; i < count; ++i)
+            page.line(QString::number(i)).breakPage();
+        pane->show([page](const PageSetup &) { return page; }, page.title());
     }
 
     void click(const char *name) const
     {
-        QTest::mouseClick(control<QPushButton>(*this, name), Qt::LeftButton);
+        QTest::mouseClick(control<QPushButton>(window, name), Qt::LeftButton);
     }
-    QString caption(const char *name) const { return control<QPushButton>(*this, name)->text().remove(u'&'); }
-    QString label(const char *name) const { return control<QLabel>(*this, name)->text(); }
-    SheetView &view() const { return *control<SheetView>(*this, "VSPrinter1"); }
+    QString caption(const char *name) const
+    {
+        return control<QPushButton>(window, name)->text().remove(u'&');
+    }
+    QString label(const char *name) const { return control<QLabel>(window, name)->text(); }
+    SheetView &view() const { return *control<SheetView>(window, "VSPrinter1"); }
 
+    TestProgram test;
+    ScriptedDialogs &dialogs = test.dialogs;
+    QWidget window;
     ActivityBar *activity;
     PreviewPane *pane;
     QList<PageSetup> builtFor;

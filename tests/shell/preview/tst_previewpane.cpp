@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "previewwindow.h"
-#include "shell/core/framelines.h"
+#include "tests/support/rows.h"
 
 #include <QClipboard>
 #include <QMimeData>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -17,64 +15,44 @@ class TestPreviewPane final : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_window.emplace(); }
+    void cleanup() { QVERIFY(m_window->dialogs.isDone()); }
 
-    void startsWithTheFirstSheetInPortrait();
+    void startsWithTheFirstSheet();
     void takesThePaperOfTheDateStyle();
     void turnsThePageThereAndBack();
     void aChosenFontIsShownAndUsed();
-    void enlargesAndComesBack();
     void hidesItsButtonsAndShowsThem();
     void stepsThroughTheSheets_data();
     void stepsThroughTheSheets();
-    void scrollsAnEnlargedSheetBeforeTurning();
+    void enlargesASheetAndScrollsItBeforeTurning();
     void turnsWithTheWheel();
     void copiesTheShownSheet();
     void keepsThePageWhiteOnAColouredDesk();
     void isNotBuiltInsideItsOwnBuilding();
 
 private:
-    std::unique_ptr<TestProgram> m_test;
-    std::unique_ptr<PreviewWindow> m_window;
+    std::optional<PreviewWindow> m_window;
 };
 
-void TestPreviewPane::init()
+void TestPreviewPane::startsWithTheFirstSheet()
 {
-    m_test = std::make_unique<TestProgram>();
-    m_window = std::make_unique<PreviewWindow>(*m_test);
-    showActive(*m_window);
-}
-
-void TestPreviewPane::cleanup()
-{
-    QVERIFY(m_test->dialogs.isDone());
-    m_window.reset();
-    m_test.reset();
-}
-
-void TestPreviewPane::startsWithTheFirstSheetInPortrait()
-{
-    QCOMPARE(m_window->label("Panel3D80"), u" Portrait"_s);
-    QCOMPARE(m_window->caption("SSCommand1"), u"Enlarge"_s);
     QCOMPARE(m_window->label("Panel3d82"), u"Sample of the page font"_s);
+    m_window->showSheets(3);
+    m_window->click("nextPage");
     m_window->showList(100);
     QCOMPARE(m_window->pane->currentSheet(), 0);
     QVERIFY(m_window->pane->sheetCount() > 2);
     QCOMPARE(m_window->label("pageNumber"), u"Page 1 of %1"_s.arg(m_window->pane->sheetCount()));
-    QVERIFY(!control<QPushButton>(*m_window, "previousPage")->isEnabled());
-    QCOMPARE(control<QPushButton>(*m_window, "previousPage")->toolTip(), FrameLines::firstPage());
-    QVERIFY(control<QPushButton>(*m_window, "nextPage")->isEnabled());
-    m_window->showList(1);
-    QCOMPARE(m_window->label("pageNumber"), u"Page 1 of 1"_s);
+    QVERIFY(!control<QPushButton>(m_window->window, "previousPage")->isEnabled());
 }
 
 void TestPreviewPane::takesThePaperOfTheDateStyle()
 {
     QCOMPARE(m_window->pane->setup().paper, QSizeF(8.5, 11));
-    m_test->state.dateStyle = DateStyle::Other;
-    const PreviewWindow other(*m_test);
-    QCOMPARE(other.pane->setup().paper, QSizeF(210 / 25.4, 297 / 25.4));
+    m_window->test.state.dateStyle = DateStyle::Other;
+    const PreviewPane other(m_window->test.program, *m_window->activity);
+    QCOMPARE(other.setup().paper, QSizeF(210 / 25.4, 297 / 25.4));
 }
 
 void TestPreviewPane::turnsThePageThereAndBack()
@@ -96,7 +74,7 @@ void TestPreviewPane::turnsThePageThereAndBack()
 void TestPreviewPane::aChosenFontIsShownAndUsed()
 {
     m_window->showList(100);
-    m_test->dialogs.willChooseFont({}); // cancelled
+    m_window->dialogs.willChooseFont({}); // cancelled
     m_window->click("SSCommand80_0");
     QCOMPARE(m_window->builtFor.size(), 1);
 
@@ -104,9 +82,9 @@ void TestPreviewPane::aChosenFontIsShownAndUsed()
     PageFont chosen{QFont(u"DejaVu Serif"_s, 22, QFont::Bold, true), QColor(0, 0, 200)};
     chosen.font.setUnderline(true);
     chosen.font.setStrikeOut(true);
-    m_test->dialogs.willChooseFont(chosen);
+    m_window->dialogs.willChooseFont(chosen);
     m_window->click("SSCommand80_0");
-    const auto *sample = control<QLabel>(*m_window, "Panel3d82");
+    const auto *sample = control<QLabel>(m_window->window, "Panel3d82");
     QCOMPARE(sample->font().family(), chosen.font.family());
     QCOMPARE(sample->font().pointSize(), 22);
     QVERIFY(sample->font().bold() && sample->font().italic() && sample->font().underline());
@@ -115,24 +93,10 @@ void TestPreviewPane::aChosenFontIsShownAndUsed()
     QVERIFY(m_window->pane->sheetCount() > sheets);
 }
 
-void TestPreviewPane::enlargesAndComesBack()
-{
-    m_window->showList(100);
-    const QRectF normal = m_window->view().sheetRect();
-    QVERIFY(QRectF(m_window->view().viewport()->rect()).contains(normal));
-    m_window->click("SSCommand1");
-    QCOMPARE(m_window->caption("SSCommand1"), u"Normal"_s);
-    QVERIFY(m_window->view().sheetRect().width() > normal.width() * 1.15);
-    QVERIFY(m_window->view().verticalScrollBar()->maximum() > 0);
-    m_window->click("SSCommand1");
-    QCOMPARE(m_window->caption("SSCommand1"), u"Enlarge"_s);
-    QCOMPARE(m_window->view().sheetRect(), normal);
-}
-
 void TestPreviewPane::hidesItsButtonsAndShowsThem()
 {
-    auto *buttons = control<QWidget>(*m_window, "SSPanel80");
-    auto *tab = control<QPushButton>(*m_window, "showButtons");
+    auto *buttons = control<QWidget>(m_window->window, "SSPanel80");
+    auto *tab = control<QPushButton>(m_window->window, "showButtons");
     QVERIFY(buttons->isVisible() && !tab->isVisible());
     m_window->click("SSCommand80_2");
     QVERIFY(!buttons->isVisible() && tab->isVisible());
@@ -143,42 +107,46 @@ void TestPreviewPane::hidesItsButtonsAndShowsThem()
 
 void TestPreviewPane::stepsThroughTheSheets_data()
 {
-    QTest::addColumn<QList<int>>("keys");
-    QTest::addColumn<int>("sheet");
-    QTest::newRow("forward") << QList<int>{Qt::Key_Right, Qt::Key_PageDown} << 2;
-    QTest::newRow("back") << QList<int>{Qt::Key_End, Qt::Key_Left, Qt::Key_PageUp} << 3;
-    QTest::newRow("to the last") << QList<int>{Qt::Key_End} << 5;
-    QTest::newRow("not beyond it") << QList<int>{Qt::Key_End, Qt::Key_Right, Qt::Key_PageDown} << 5;
-    QTest::newRow("to the first") << QList<int>{Qt::Key_End, Qt::Key_Home} << 0;
-    QTest::newRow("not before it") << QList<int>{Qt::Key_Left, Qt::Key_PageUp} << 0;
+    using Keys = QList<Qt::Key>;
+    rows<Keys, int>({
+        {"forward", {Qt::Key_Right, Qt::Key_PageDown}, 2},
+        {"back", {Qt::Key_End, Qt::Key_Left, Qt::Key_PageUp}, 3},
+        {"not beyond the last", {Qt::Key_End, Qt::Key_Right, Qt::Key_PageDown}, 5},
+        {"to the first", {Qt::Key_End, Qt::Key_Home}, 0},
+        {"not before it", {Qt::Key_Left, Qt::Key_PageUp}, 0},
+    });
 }
 
 void TestPreviewPane::stepsThroughTheSheets()
 {
-    QFETCH(QList<int>, keys);
+    const auto [keys, sheet] = row<QList<Qt::Key>, int>();
     m_window->showSheets(6);
-    for (const int key : keys)
-        QTest::keyClick(&m_window->view(), Qt::Key(key));
-    QTEST(m_window->pane->currentSheet(), "sheet");
+    for (const Qt::Key key : keys)
+        QTest::keyClick(&m_window->view(), key);
+    QCOMPARE(m_window->pane->currentSheet(), sheet);
 
     m_window->click("nextPage");
     m_window->click("previousPage");
     m_window->pane->setFocus(); // on a button
-    QTest::keyClick(m_window->focusWidget(), Qt::Key_End);
+    QTest::keyClick(m_window->window.focusWidget(), Qt::Key_End);
     QCOMPARE(m_window->pane->currentSheet(), 5);
 }
 
-void TestPreviewPane::scrollsAnEnlargedSheetBeforeTurning()
+void TestPreviewPane::enlargesASheetAndScrollsItBeforeTurning()
 {
     m_window->showList(100);
-    m_window->click("SSCommand1");
     SheetView &view = m_window->view();
+    const QRectF normal = view.sheetRect();
+    QVERIFY(QRectF(view.viewport()->rect()).contains(normal));
+    m_window->click("SSCommand1");
+    QCOMPARE(m_window->caption("SSCommand1"), u"Normal"_s);
+    QVERIFY(view.sheetRect().width() > normal.width() * 1.15);
+
     const QScrollBar *bar = view.verticalScrollBar();
-    QTest::keyClick(&view, Qt::Key_PageDown);
-    QCOMPARE(m_window->pane->currentSheet(), 0);
-    QVERIFY(bar->value() > 0);
-    while (bar->value() < bar->maximum())
+    int presses = 0;
+    for (; bar->value() < bar->maximum(); ++presses)
         QTest::keyClick(&view, Qt::Key_PageDown);
+    QVERIFY(presses > 0);
     QCOMPARE(m_window->pane->currentSheet(), 0);
     QTest::keyClick(&view, Qt::Key_PageDown);
     QCOMPARE(m_window->pane->currentSheet(), 1);
@@ -186,6 +154,10 @@ void TestPreviewPane::scrollsAnEnlargedSheetBeforeTurning()
     QTest::keyClick(&view, Qt::Key_PageUp);
     QCOMPARE(m_window->pane->currentSheet(), 0);
     QCOMPARE(bar->value(), bar->maximum());
+
+    m_window->click("SSCommand1");
+    QCOMPARE(m_window->caption("SSCommand1"), u"Enlarge"_s);
+    QCOMPARE(view.sheetRect(), normal);
 }
 
 void TestPreviewPane::turnsWithTheWheel()
@@ -213,9 +185,7 @@ void TestPreviewPane::copiesTheShownSheet()
     m_window->showList(100);
     m_window->click("nextPage");
     m_window->click("SSCommand80_3");
-    const Message copied{u"Copy Option"_s, u"Current Page has been copied to the Windows Clipboard."_s,
-                         Message::Information};
-    QCOMPARE(m_test->dialogs.takeShown(), {copied});
+    QCOMPARE(m_window->dialogs.takeShown(), {PreviewMessages::pageCopied()});
     const QMimeData *data = QApplication::clipboard()->mimeData();
     QVERIFY(data && data->hasImage() && data->hasText());
     const QImage picture = qvariant_cast<QImage>(data->imageData());
@@ -225,7 +195,7 @@ void TestPreviewPane::copiesTheShownSheet()
 
     m_window->pane->show([](const PageSetup &) { return Page(); }, u"Empty"_s);
     m_window->click("SSCommand80_3");
-    QCOMPARE(m_test->dialogs.takeShown(), {copied});
+    QCOMPARE(m_window->dialogs.takeShown(), {PreviewMessages::pageCopied()});
     QVERIFY(QApplication::clipboard()->mimeData()->hasImage());
 }
 
@@ -248,12 +218,11 @@ void TestPreviewPane::isNotBuiltInsideItsOwnBuilding()
     m_window->showList(1);
     int built = 0;
     QTimer::singleShot(0, m_window->pane, &PreviewPane::rebuild);
-    m_window->pane->show(
-        [&built](const PageSetup &) {
-            ++built;
-            return Page();
-        },
-        {});
+    const auto build = [&built](const PageSetup &) {
+        ++built;
+        return Page();
+    };
+    m_window->pane->show(build, {});
     QCOMPARE(built, 1);
     QCoreApplication::processEvents();
     QCOMPARE(built, 1);

@@ -15,6 +15,7 @@ class TestSheetPane : public QObject
 
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
+    void init() { m_laidOut.clear(); }
     void laysOutTheSheetsThatAreShown();
     void staysWhereItWasAsFarAsThereAreSheets();
 
@@ -48,7 +49,7 @@ void TestSheetPane::laysOutTheSheetsThatAreShown()
     QCOMPARE(next->toolTip(), u"This is the last page"_s);
     QCOMPARE(previous->toolTip(), u"Previous page"_s);
     pane.view()->handleKey(Qt::Key_Home);
-    QCOMPARE(std::exchange(m_laidOut, {}), (QList{0, 1, 2, 0}));
+    QCOMPARE(m_laidOut, (QList{0, 1, 2, 0}));
 }
 
 void TestSheetPane::staysWhereItWasAsFarAsThereAreSheets()
