@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/rows.h"
 #include "tests/support/sheettools.h"
 
 #include <QElapsedTimer>
@@ -17,8 +18,6 @@ using namespace SheetTools;
 namespace {
 
 const QDate printedOn(2026, 11, 21);
-constexpr double letterWidth = 8.5;
-constexpr double letterHeight = 11;
 
 Page numbered(int rows, const QString &cell = u"Müller, Zoë"_s)
 {
@@ -36,8 +35,7 @@ class TestPagePainter final : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void cutsPagesIntoSheets_data();
     void cutsPagesIntoSheets();
     void everyTextIsOnItsSheetOnce();
@@ -46,8 +44,6 @@ private slots:
     void givesPdfsTheirPaper();
     void pdfsAreReadInOrder();
     void printersBreakAsImagesDo();
-    void printsTheSheetsAskedFor();
-    void stopsWhenTold();
     void nothingLeavesTheMargins_data();
     void nothingLeavesTheMargins();
     void numbersStandRight();
@@ -56,7 +52,10 @@ private slots:
     void survivesOddPages();
 
 private:
-    QString pdf(const Page &page, const PageSetup &setup = {}) const;
+    QString pdf(const Page &page, const PageSetup &setup = {}) const
+    {
+        return savePdf(m_folder->filePath(u"page.pdf"_s), page, setup);
+    }
     QString pdfText(const QString &path) const
     {
         return output(u"pdftotext"_s, {u"-layout"_s, path, u"-"_s});
@@ -65,48 +64,35 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void TestPagePainter::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-}
-
-QString TestPagePainter::pdf(const Page &page, const PageSetup &setup) const
-{
-    return savePdf(m_folder->filePath(u"page.pdf"_s), page, setup);
-}
-
 void TestPagePainter::cutsPagesIntoSheets_data()
 {
-    QTest::addColumn<Page>("page");
-    QTest::addColumn<int>("sheets");
-    QTest::newRow("nothing") << Page() << 1;
-    QTest::newRow("only closing lines") << Page().close(printedOn, DateStyle::Usa) << 1;
-    QTest::newRow("a break") << Page().line(u"a"_s).breakPage().line(u"b"_s) << 2;
-    QTest::newRow("a break before anything") << Page(u"T"_s).breakPage().line(u"b"_s) << 1;
-    QTest::newRow("a break behind everything")
-        << Page().line(u"a"_s).breakPage().close(printedOn, DateStyle::Usa) << 1;
-    QTest::newRow("two breaks in a row") << Page().line(u"a"_s).breakPage().breakPage().line(u"b"_s) << 2;
-    QTest::newRow("placed items alone")
-        << Page().placeText({1, 1, 1, 1}, u"a"_s).breakPage().placeText({1, 1, 1, 1}, u"b"_s) << 2;
     Page blank;
     for (int i = 0; i < 200; ++i)
         blank.blankLine();
-    QTest::newRow("blank lines never start a sheet") << blank << 1;
-    QTest::newRow("a picture that finds no room")
-        << Page().picture({}, {7, 6}).picture({}, {7, 6}).close(printedOn, DateStyle::Usa) << 2;
-    QTest::newRow("closing lines below placed items")
-        << Page().placeText({0.5, 9.7, 3, 0.3}, u"a"_s).close(printedOn, DateStyle::Usa) << 1;
-    QTest::newRow("closing lines with no room below placed items")
-        << Page().placeText({0.5, 10.5, 3, 0.3}, u"a"_s).close(printedOn, DateStyle::Usa) << 2;
+    const QRectF place(1, 1, 1, 1);
+    rows<Page, int>({
+        {"nothing", Page(), 1},
+        {"only closing lines", Page().close(printedOn, DateStyle::Usa), 1},
+        {"a break", Page().line(u"a"_s).breakPage().line(u"b"_s), 2},
+        {"a break before anything", Page(u"T"_s).breakPage().line(u"b"_s), 1},
+        {"a break behind everything", Page().line(u"a"_s).breakPage().close(printedOn, DateStyle::Usa), 1},
+        {"two breaks in a row", Page().line(u"a"_s).breakPage().breakPage().line(u"b"_s), 2},
+        {"placed items alone", Page().placeText(place, u"a"_s).breakPage().placeText(place, u"b"_s), 2},
+        {"blank lines never start a sheet", blank, 1},
+        {"a picture that finds no room",
+         Page().picture({}, {7, 6}).picture({}, {7, 6}).close(printedOn, DateStyle::Usa), 2},
+        {"closing lines below placed items",
+         Page().placeText({0.5, 9.7, 3, 0.3}, u"a"_s).close(printedOn, DateStyle::Usa), 1},
+        {"closing lines with no room below placed items",
+         Page().placeText({0.5, 10.5, 3, 0.3}, u"a"_s).close(printedOn, DateStyle::Usa), 2},
+    });
 }
 
 void TestPagePainter::cutsPagesIntoSheets()
 {
-    QFETCH(Page, page);
-    const PagePainter painter(page, {}, bodyFont());
-    QTEST(painter.sheetCount(), "sheets");
-    QCOMPARE(output(u"pdfinfo"_s, {pdf(page)}).contains(u"Pages:           %1\n"_s.arg(painter.sheetCount())),
-             true);
+    const auto [page, sheets] = row<Page, int>();
+    QCOMPARE(PagePainter(page, {}, bodyFont()).sheetCount(), sheets);
+    QVERIFY(output(u"pdfinfo"_s, {pdf(page)}).contains(u"Pages:           %1\n"_s.arg(sheets)));
 }
 
 void TestPagePainter::everyTextIsOnItsSheetOnce()
@@ -146,22 +132,18 @@ void TestPagePainter::repeatsTitleAndHeadings()
 
 void TestPagePainter::givesPdfsTheirPaper_data()
 {
-    QTest::addColumn<QSizeF>("paper");
-    QTest::addColumn<PageSetup::Orientation>("orientation");
-    QTest::addColumn<QString>("size");
-    const QSizeF a4(210 / 25.4, 297 / 25.4);
-    QTest::newRow("letter") << QSizeF(8.5, 11) << PageSetup::Portrait << u"612 x 792 pts (letter)"_s;
-    QTest::newRow("letter, landscape")
-        << QSizeF(8.5, 11) << PageSetup::Landscape << u"792 x 612 pts (letter)"_s;
-    QTest::newRow("A4") << a4 << PageSetup::Portrait << u"595 x 842 pts (A4)"_s;
-    QTest::newRow("A4, landscape") << a4 << PageSetup::Landscape << u"842 x 595 pts (A4)"_s;
+    const QSizeF letter(8.5, 11), a4(210 / 25.4, 297 / 25.4);
+    rows<QSizeF, PageSetup::Orientation, QString>({
+        {"letter", letter, PageSetup::Portrait, u"612 x 792 pts (letter)"_s},
+        {"letter, landscape", letter, PageSetup::Landscape, u"792 x 612 pts (letter)"_s},
+        {"A4", a4, PageSetup::Portrait, u"595 x 842 pts (A4)"_s},
+        {"A4, landscape", a4, PageSetup::Landscape, u"842 x 595 pts (A4)"_s},
+    });
 }
 
 void TestPagePainter::givesPdfsTheirPaper()
 {
-    QFETCH(QSizeF, paper);
-    QFETCH(PageSetup::Orientation, orientation);
-    QFETCH(QString, size);
+    const auto [paper, orientation, size] = row<QSizeF, PageSetup::Orientation, QString>();
     const PageSetup setup{paper, orientation};
     const QString info = output(u"pdfinfo"_s, {pdf(numbered(3), setup)});
     QVERIFY2(info.contains(size), qPrintable(info));
@@ -211,49 +193,19 @@ void TestPagePainter::printersBreakAsImagesDo()
     }
 }
 
-void TestPagePainter::printsTheSheetsAskedFor()
-{
-    const PagePainter painter(numbered(100), {}, bodyFont());
-    const QString path = m_folder->filePath(u"some.pdf"_s);
-    QPdfWriter writer(path);
-    QVERIFY(painter.print(writer, std::vector<int>{2, 0}));
-    const QStringList sheets = pdfText(path).split(u'\f', Qt::SkipEmptyParts);
-    QCOMPARE(sheets.size(), 2);
-    QVERIFY(sheets[0].contains(u"Page 3 of"_s));
-    QVERIFY(sheets[1].contains(u"Page 1 of"_s));
-
-    QPdfWriter nowhere(m_folder->filePath(u"missing/folder/x.pdf"_s));
-    QVERIFY(!painter.print(nowhere));
-    QVERIFY(!painter.print(writer, std::vector<int>{}));
-}
-
-void TestPagePainter::stopsWhenTold()
-{
-    const PagePainter painter(numbered(100), {}, bodyFont());
-    QVERIFY(painter.sheetCount() >= 3);
-    QList<int> asked;
-    QPdfWriter writer(m_folder->filePath(u"stopped.pdf"_s));
-    QVERIFY(!painter.print(writer, [&asked](int sheet) {
-        asked << sheet;
-        return sheet < 1;
-    }));
-    QCOMPARE(asked, (QList<int>{0, 1}));
-}
-
 void TestPagePainter::nothingLeavesTheMargins_data()
 {
-    QTest::addColumn<double>("points");
-    QTest::addColumn<PageSetup::Orientation>("orientation");
-    QTest::newRow("usual") << 11.0 << PageSetup::Portrait;
-    QTest::newRow("small") << 6.0 << PageSetup::Landscape;
-    QTest::newRow("large") << 30.0 << PageSetup::Portrait;
-    QTest::newRow("huge") << 96.0 << PageSetup::Landscape;
+    rows<double, PageSetup::Orientation>({
+        {"usual", 11, PageSetup::Portrait},
+        {"small", 6, PageSetup::Landscape},
+        {"large", 30, PageSetup::Portrait},
+        {"huge", 96, PageSetup::Landscape},
+    });
 }
 
 void TestPagePainter::nothingLeavesTheMargins()
 {
-    QFETCH(double, points);
-    QFETCH(PageSetup::Orientation, orientation);
+    const auto [points, orientation] = row<double, PageSetup::Orientation>();
     const QString word(60, u'W');
     Page page(word + word, u"a date"_s);
     page.line(word + word)
@@ -261,16 +213,15 @@ void TestPagePainter::nothingLeavesTheMargins()
     for (int i = 0; i < 8; ++i)
         page.row({word, u"many words "_s.repeated(20), word, u"and a cell too many"_s});
     page.blank(word).picture({}, {30, 30}).close(printedOn, DateStyle::Usa);
-    const PageSetup setup{{letterWidth, letterHeight}, orientation};
+    const PageSetup setup{{8.5, 11}, orientation};
     const PagePainter painter(page, setup, bodyFont(points));
-    constexpr double dotsPerInch = 50;
     const QSizeF sheet = setup.sheet();
+    const QRectF atLeft(0, 0, 0.46, sheet.height()), atTop(0, 0, sheet.width(), 0.46);
     for (int i = 0; i < painter.sheetCount(); ++i) {
-        const QImage image = painter.image(i, dotsPerInch);
-        QVERIFY(isBlank(image, {0, 0, 0.46, sheet.height()}, dotsPerInch));
-        QVERIFY(isBlank(image, {sheet.width() - 0.46, 0, 0.46, sheet.height()}, dotsPerInch));
-        QVERIFY(isBlank(image, {0, 0, sheet.width(), 0.46}, dotsPerInch));
-        QVERIFY(isBlank(image, {0, sheet.height() - 0.46, sheet.width(), 0.46}, dotsPerInch));
+        const QImage image = painter.image(i, 50);
+        for (const QRectF &margin : {atLeft, atLeft.translated(sheet.width() - 0.46, 0), atTop,
+                                     atTop.translated(0, sheet.height() - 0.46)})
+            QVERIFY(isBlank(image, margin, 50));
     }
 }
 
@@ -301,46 +252,36 @@ void TestPagePainter::laysOutFiftyThousandRowsInOneGo()
     const qint64 many = fastest(50'000);
     // Ten times the rows: a layout that goes back for each sheet would take a hundred times as long.
     QVERIFY2(many < 40 * few, qPrintable(u"%1 ns for ten times what takes %2 ns"_s.arg(many).arg(few)));
-
-    const PagePainter painter(numbered(50'000), {}, bodyFont());
-    QVERIFY(painter.text(painter.sheetCount() - 1).contains(u"\t49999\n"_s));
-    QVERIFY(!painter.image(painter.sheetCount() - 1, 50).isNull());
 }
 
 void TestPagePainter::survivesOddPages_data()
 {
-    QTest::addColumn<Page>("page");
-    QTest::addColumn<PageSetup>("setup");
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const PageSetup letter;
-    QTest::newRow("no weights") << Page().columns({}, {u"a"_s}).row({u"b"_s, u"c"_s}).row({}) << letter;
-    QTest::newRow("weights that are none")
-        << Page().columns({0, -1, nan}).row({u"b"_s, u"c"_s, u"d"_s, u"e"_s}) << letter;
-    QTest::newRow("rows without columns") << Page().row({u"a"_s, u"b"_s}).row({}) << letter;
-    QTest::newRow("sizes that are none") << Page()
-                                                .picture(u"x"_s, {-1, nan})
-                                                .placePicture({nan, nan, nan, nan}, u"x"_s)
-                                                .placeText({1, 1, -1, -1}, u"y"_s)
-                                         << letter;
-    QTest::newRow("places off the sheet") << Page().placeText({1e9, -1e9, 5, 5}, u"far away"_s) << letter;
-    QTest::newRow("control characters")
-        << Page(u"\x01\x02\t"_s).line(u"a\r\nb\rc\u2028d\te\x1b"_s).row({u"\n\n"_s, QString(3, QChar(0))})
-        << letter;
-    QTest::newRow("one enormous line")
-        << Page().line(QString(100'000, u'x')).line(u"y "_s.repeated(50'000)) << letter;
-    QTest::newRow("a row higher than a sheet")
-        << Page().columns({1, 1}, {u"h"_s}).row({u"a"_s, u"word "_s.repeated(3'000)}).row({u"last"_s})
-        << letter;
-    QTest::newRow("no paper") << Page(u"T"_s).line(u"a"_s).close(printedOn, DateStyle::Usa)
-                              << PageSetup{{0, 0}, PageSetup::Portrait};
-    QTest::newRow("an endless strip of paper")
-        << Page(u"T"_s).line(u"a"_s) << PageSetup{{1, 1e9}, PageSetup::Landscape};
+    rows<Page, PageSetup>({
+        {"no weights", Page().columns({}, {u"a"_s}).row({u"b"_s, u"c"_s}).row({}), letter},
+        {"weights that are none", Page().columns({0, -1, nan}).row({u"b"_s, u"c"_s, u"d"_s, u"e"_s}), letter},
+        {"rows without columns", Page().row({u"a"_s, u"b"_s}).row({}), letter},
+        {"pictures that have no size", Page().picture(u"x"_s, {-1, nan}), letter},
+        {"places that are none",
+         Page().placePicture({nan, nan, nan, nan}, u"x"_s).placeText({1, 1, -1, -1}, u"y"_s), letter},
+        {"places off the sheet", Page().placeText({1e9, -1e9, 5, 5}, u"far away"_s), letter},
+        {"control characters",
+         Page(u"\x01\x02\t"_s).line(u"a\r\nb\rc\u2028d\te\x1b"_s).row({u"\n\n"_s, QString(3, QChar(0))}),
+         letter},
+        {"an enormous line", Page().line(QString(100'000, u'x')).line(u"y "_s.repeated(50'000)), letter},
+        {"a row higher than a sheet",
+         Page().columns({1, 1}, {u"h"_s}).row({u"a"_s, u"word "_s.repeated(3'000)}).row({u"last"_s}), letter},
+        {"no paper",
+         Page(u"T"_s).line(u"a"_s).close(printedOn, DateStyle::Usa),
+         {{0, 0}, PageSetup::Portrait}},
+        {"an endless strip of paper", Page(u"T"_s).line(u"a"_s), {{1, 1e9}, PageSetup::Landscape}},
+    });
 }
 
 void TestPagePainter::survivesOddPages()
 {
-    QFETCH(Page, page);
-    QFETCH(PageSetup, setup);
+    const auto [page, setup] = row<Page, PageSetup>();
     const PagePainter painter(page, setup, bodyFont());
     QVERIFY(painter.sheetCount() >= 1);
     for (int sheet = -1; sheet <= painter.sheetCount(); ++sheet)

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/rows.h"
 #include "tests/support/sheettools.h"
-
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/support/testfiles.h"
 
 #include <cmath>
 
@@ -21,24 +20,22 @@ class TestPagePicture final : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
-
+    void init() { m_files = std::make_unique<TestFolder>(); }
     void putsPicturesToTheHundredthOfAnInch_data();
     void putsPicturesToTheHundredthOfAnInch();
-    void keepsTheAspectOfPictures();
     void leavesAnEmptyPlaceForPicturesThatCannotBeRead_data();
     void leavesAnEmptyPlaceForPicturesThatCannotBeRead();
     void turnsPicturesAsTheCameraWasHeld();
 
 private:
-    QString picture(QSize size) const;
+    QString picture(QSize size, const QString &name = u"picture.png"_s) const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestFolder> m_files;
 };
 
-QString TestPagePicture::picture(QSize size) const
+QString TestPagePicture::picture(QSize size, const QString &name) const
 {
-    const QString path = m_folder->filePath(u"picture.png"_s);
+    const QString path = m_files->path(name);
     QImage image(size, QImage::Format_RGB32);
     image.fill(red);
     image.save(path);
@@ -47,68 +44,58 @@ QString TestPagePicture::picture(QSize size) const
 
 void TestPagePicture::putsPicturesToTheHundredthOfAnInch_data()
 {
-    QTest::addColumn<QPointF>("corner");
-    QTest::newRow("the first place") << QPointF(0.25, 0.8);
-    QTest::newRow("the last place") << QPointF(6.25, 8.8);
-    QTest::newRow("an odd hundredth") << QPointF(3.33, 5.67);
+    const QRectF first(0.25, 0.8, 1.5, 1.5), last(6.25, 8.8, 1.5, 1.5), odd(3.33, 5.67, 1.5, 1.5);
+    rows<QSize, QRectF, QRectF>({
+        {"the first place", {900, 900}, first, first},
+        {"the last place", {900, 900}, last, last},
+        {"an odd hundredth", {900, 900}, odd, odd},
+        {"a picture that is wider than high", {600, 200}, {1, 2, 3, 3}, {1, 2, 3, 1}},
+    });
 }
 
 void TestPagePicture::putsPicturesToTheHundredthOfAnInch()
 {
-    QFETCH(QPointF, corner);
+    const auto [size, place, expected] = row<QSize, QRectF, QRectF>();
     constexpr double dotsPerInch = 200;
-    const Page page = Page(u"Pictures"_s).placePicture({corner, QSizeF(1.5, 1.5)}, picture({900, 900}));
+    const Page page = Page(u"Pictures"_s).placePicture(place, picture(size));
     const QImage onScreen = PagePainter(page, {}, bodyFont()).image(0, dotsPerInch);
     QCOMPARE(onScreen.size(), (letter * dotsPerInch).toSize());
     const QRectF ink = inkOf(onScreen, red, dotsPerInch);
-    QVERIFY(std::abs(ink.left() - corner.x()) <= 0.01);
-    QVERIFY(std::abs(ink.top() - corner.y()) <= 0.01);
-    QVERIFY(std::abs(ink.width() - 1.5) <= 0.01);
-    QVERIFY(std::abs(ink.height() - 1.5) <= 0.01);
+    for (const double off : {ink.left() - expected.left(), ink.top() - expected.top(),
+                             ink.width() - expected.width(), ink.height() - expected.height()})
+        QVERIFY2(std::abs(off) <= 0.01, qPrintable(QString::number(off)));
 
-    const QString prefix = m_folder->filePath(u"paper"_s);
+    const QString prefix = m_files->path(u"paper"_s);
     output(u"pdftoppm"_s, {u"-r"_s, u"200"_s, u"-png"_s, u"-singlefile"_s,
-                           savePdf(m_folder->filePath(u"page.pdf"_s), page), prefix});
+                           savePdf(m_files->path(u"page.pdf"_s), page), prefix});
     const QImage onPaper(prefix + u".png"_s);
-    const int row = qRound((corner.y() + 0.75) * dotsPerInch);
+    const int middle = qRound(expected.center().y() * dotsPerInch);
     int first = 0;
     while (first < onPaper.width() &&
-           qRed(onPaper.pixel(first, row)) - qGreen(onPaper.pixel(first, row)) < 100)
+           qRed(onPaper.pixel(first, middle)) - qGreen(onPaper.pixel(first, middle)) < 100)
         ++first;
-    QVERIFY(std::abs(first / dotsPerInch - corner.x()) <= 0.01);
-}
-
-void TestPagePicture::keepsTheAspectOfPictures()
-{
-    constexpr double dotsPerInch = 100;
-    const Page page = Page().placePicture({1, 2, 3, 3}, picture({60, 20}));
-    const QRectF ink = inkOf(PagePainter(page, {}, bodyFont()).image(0, dotsPerInch), red, dotsPerInch);
-    QCOMPARE(ink.topLeft(), QPointF(1, 2));
-    QVERIFY(std::abs(ink.width() - 3) <= 0.02);
-    QVERIFY(std::abs(ink.height() - 1) <= 0.02);
+    QVERIFY(std::abs(first / dotsPerInch - expected.left()) <= 0.01);
 }
 
 void TestPagePicture::leavesAnEmptyPlaceForPicturesThatCannotBeRead_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("no file") << QByteArray();
-    QTest::newRow("noise") << QByteArray("BM noise that begins as a picture would \xff\xd8\xff\x00\x01", 44);
-    QTest::newRow("a picture cut off")
-        << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000003e8000003e808");
-    QTest::newRow("a picture larger than the memory") << QByteArray::fromHex(
-        "424d3600000000000000360000002800000000ffff7f00ffff7f01001800000000000000000000000000");
+    rows<QByteArray>({
+        {"nothing in it", {}},
+        {"noise", {"BM noise that begins as a picture would \xff\xd8\xff\x00\x01", 44}},
+        {"a picture cut off", QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000003e8000003e808")},
+        {"a picture larger than the memory",
+         QByteArray::fromHex("424d3600000000000000360000002800000000ffff7f00ffff7f0100180000000000"
+                             "0000000000000000000000")},
+    });
 }
 
 void TestPagePicture::leavesAnEmptyPlaceForPicturesThatCannotBeRead()
 {
-    QFETCH(QByteArray, bytes);
-    const QString path = m_folder->filePath(u"broken.jpg"_s);
-    if (!bytes.isEmpty()) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
+    const auto [bytes] = row<QByteArray>();
+    m_files->put(u"broken.jpg"_s, bytes);
     Page page;
-    for (const QString &name : {path, m_folder->path(), QString()})
+    for (const QString &name :
+         {m_files->path(u"broken.jpg"_s), m_files->path({}), m_files->path(u"none.jpg"_s), QString()})
         page.placePicture({4, 4, 2, 2}, name).picture(name, {2, 2});
     const QImage image = PagePainter(page, {}, bodyFont()).image(0, 100);
     QVERIFY(isBlank(image, {4.1, 4.1, 1.8, 1.8}, 100));
@@ -118,25 +105,13 @@ void TestPagePicture::leavesAnEmptyPlaceForPicturesThatCannotBeRead()
 void TestPagePicture::turnsPicturesAsTheCameraWasHeld()
 {
     // A picture that lies on its side, with the mark of a camera held upright before its data.
-    QImage image(40, 20, QImage::Format_RGB32);
-    image.fill(qRgb(200, 0, 0));
-    const QString path = m_folder->filePath(u"upright.jpg"_s);
-    image.save(path, "JPG", 100);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QByteArray bytes = file.readAll();
+    const QString path = picture({40, 20}, u"upright.jpg"_s);
+    QByteArray bytes = m_files->bytes(u"upright.jpg"_s);
     bytes.insert(2, QByteArray::fromHex("ffe10022457869660000" // an Exif part of 34 bytes
                                         "4d4d002a00000008"     // big endian, its directory at 8
-                                        "0001"
-                                        "0112"
-                                        "0003"
-                                        "00000001"
-                                        "0006"
-                                        "0000"
-                                        "00000000"));
-    file.seek(0);
-    file.write(bytes);
-    file.close();
+                                        "0001"                 // with one entry, which tells how it was held
+                                        "01120003000000010006000000000000"));
+    m_files->put(u"upright.jpg"_s, bytes);
 
     constexpr double dotsPerInch = 100;
     const Page page = Page().placePicture({1, 1, 2, 2}, path);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/rows.h"
 #include "tests/support/sheettools.h"
 
 #include <QRegularExpression>
@@ -46,47 +47,39 @@ private slots:
     void runsDownSeveralColumns_data();
     void runsDownSeveralColumns();
     void goesOnBelowItsColumns();
-    void numbersSheetsInTheTitle();
-    void leavesSheetsUnnumbered();
+    void numbersSheetsAsAsked();
     void drawsLinesAsAsked();
 };
 
 void TestSheetTable::runsDownSeveralColumns_data()
 {
-    QTest::addColumn<int>("across");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("sheets");
-    QTest::newRow("one") << 1 << 60 << 2;
-    QTest::newRow("two") << 2 << 60 << 1;
-    QTest::newRow("two over two sheets") << 2 << 100 << 2;
-    QTest::newRow("three") << 3 << 90 << 1;
-    QTest::newRow("nonsense") << -5 << 60 << 2;
-    QTest::newRow("more than fit") << 1000 << 60 << 1;
+    rows<int, int, int>({
+        {"one", 1, 60, 2},
+        {"two", 2, 60, 1},
+        {"two over two sheets", 2, 100, 2},
+        {"three", 3, 90, 1},
+        {"nonsense", -5, 60, 2},
+        {"more than fit", 1000, 60, 1},
+    });
 }
 
 void TestSheetTable::runsDownSeveralColumns()
 {
-    QFETCH(int, across);
-    QFETCH(int, rows);
-    const PagePainter painter(list(rows, names(across)), {}, bodyFont());
-    QTEST(painter.sheetCount(), "sheets");
+    const auto [across, count, sheets] = row<int, int, int>();
+    const PagePainter painter(list(count, names(across)), {}, bodyFont());
+    QCOMPARE(painter.sheetCount(), sheets);
+    static const QRegularExpression line(u"Row (\\d+)\\tWI"_s);
     int next = 0;
     for (const QString &sheet : sheetsOf(painter)) {
-        static const QRegularExpression row(u"Row (\\d+)\\tWI"_s);
-        for (auto it = row.globalMatch(sheet); it.hasNext();)
+        for (auto it = line.globalMatch(sheet); it.hasNext();)
             QCOMPARE(it.next().captured(1).toInt(), next++);
     }
-    QCOMPARE(next, rows);
+    QCOMPARE(next, count);
 }
 
 void TestSheetTable::goesOnBelowItsColumns()
 {
-    Page page(u"T"_s);
-    page.table(names(2));
-    for (int i = 0; i < 50; ++i)
-        page.row({u"Row %1"_s.arg(i), u"WI"_s});
-    page.close(QDate(2026, 11, 21), DateStyle::Usa);
-    const PagePainter painter(page, {}, bodyFont());
+    const PagePainter painter(list(50, names(2)), {}, bodyFont());
     QCOMPARE(painter.sheetCount(), 1);
     // The first column reaches further down than the second: the closing lines stay clear of it.
     QVERIFY(painter.text(0).endsWith(u"Quillery\nPrinted on 11/21/2026"_s));
@@ -97,21 +90,16 @@ void TestSheetTable::goesOnBelowItsColumns()
     QVERIFY(rule.top() > 9 && rule.bottom() < 10.2);
 }
 
-void TestSheetTable::numbersSheetsInTheTitle()
+void TestSheetTable::numbersSheetsAsAsked()
 {
     const PagePainter painter(list(60, names(1)), {}, bodyFont());
     QVERIFY(painter.text(0).contains(u"Family List - Page No. 1\tAs of today"_s));
     QVERIFY(painter.text(1).contains(u"Family List - Page No. 2\tAs of today"_s));
-}
 
-void TestSheetTable::leavesSheetsUnnumbered()
-{
     Page page;
     page.numberSheets(SheetNumbers::None);
     page.placeText({1, 1, 2, 1}, u"one"_s).breakPage().placeText({1, 1, 2, 1}, u"two"_s);
-    const PagePainter painter(page, {}, bodyFont());
-    QCOMPARE(painter.sheetCount(), 2);
-    QVERIFY(isBlank(painter.image(0, 72), {0, 9, 8.5, 2}, 72));
+    QVERIFY(isBlank(PagePainter(page, {}, bodyFont()).image(0, 72), {0, 9, 8.5, 2}, 72));
     page.numberSheets(SheetNumbers::Foot);
     QVERIFY(!isBlank(PagePainter(page, {}, bodyFont()).image(0, 72), {0, 9, 8.5, 2}, 72));
 }
