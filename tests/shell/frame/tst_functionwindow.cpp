@@ -7,6 +7,7 @@
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QMenu>
@@ -18,15 +19,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-Message saveQuestion()
-{
-    return {u"Sample"_s,
-            u"Save changes?"_s,
-            Message::Question,
-            {Answer::Yes, Answer::No, Answer::Cancel},
-            Answer::Yes};
-}
 
 /// The smallest window on the frame: one box whose text is its data.
 class SampleWindow final : public FunctionWindow
@@ -63,9 +55,6 @@ public:
     using FunctionWindow::activity;
     using FunctionWindow::setBusy;
     using FunctionWindow::toolbar;
-
-    using FunctionWindow::mayReplace;
-    using FunctionWindow::standard;
     QStringList done; ///< what the frame had done with the text
 
 protected:
@@ -75,7 +64,10 @@ protected:
         return m_box->text() != "refused"_L1;
     }
     void drop() override { done << u"dropped"_s; }
-    Message leaveQuestion() const override { return saveQuestion(); }
+    Message leaveQuestion() const override
+    {
+        return {u"Sample"_s, u"Save?"_s, Message::Question, {Answer::Yes, Answer::Cancel}, Answer::Yes};
+    }
 
 private:
     WorkViews *m_views;
@@ -90,89 +82,71 @@ class TestFunctionWindow : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void initTestCase() { Theme::apply(*qApp); }
+    void init() { m_program = std::make_unique<TestProgram>(); }
     void standsInItsFrame();
     void asksBeforeItCloses_data();
     void asksBeforeItCloses();
     void asksOnceUntilWorkGoesOn();
     void staysWhileItIsBusy();
     void escLeavesPreviewThenViewThenWindow();
-    void f1AsksForItsPage();
-    void theMainMenuComesToTheFront();
+    void asksForTheManualAndTheMainMenu();
     void removesTheToolbarInEveryWindow();
     void remembersItsPlace();
     void opensOnceAndIsRaisedThen();
 
 private:
-    QPointer<SampleWindow> open();
+    std::unique_ptr<SampleWindow> open() const;
 
     std::unique_ptr<TestProgram> m_program;
 };
 
-void TestFunctionWindow::initTestCase()
+std::unique_ptr<SampleWindow> TestFunctionWindow::open() const
 {
-    Theme::apply(*qApp);
-}
-
-void TestFunctionWindow::init()
-{
-    m_program = std::make_unique<TestProgram>();
-}
-
-QPointer<SampleWindow> TestFunctionWindow::open()
-{
-    auto *window = new SampleWindow(m_program->program);
+    auto window = std::make_unique<SampleWindow>(m_program->program);
+    window->setAttribute(Qt::WA_DeleteOnClose, false);
     showActive(*window);
     return window;
 }
 
 void TestFunctionWindow::standsInItsFrame()
 {
-    const std::unique_ptr<SampleWindow> window(open().data());
+    const auto window = open();
     QCOMPARE(window->objectName(), u"SAMPLE"_s);
     QCOMPARE(window->windowTitle(), u"Sample Screen"_s);
     QCOMPARE(window->activity().activity(), u"Sample"_s);
     QVERIFY(control<QToolButton>(*window, "mOPrt_button")->isVisible());
     QCOMPARE(window->toolbar().actions().first()->objectName(), u"mainMenu"_s);
-    const QSize screen = window->screen()->availableSize();
-    QVERIFY(window->width() <= screen.width() && window->height() <= screen.height());
-    QVERIFY(!window->isModified());
+    QVERIFY(QRect(QPoint(), window->screen()->availableSize()).contains(QRect(QPoint(), window->size())));
 }
 
 void TestFunctionWindow::asksBeforeItCloses_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("closes");
-    QTest::addColumn<QStringList>("done");
-    QTest::newRow("nothing typed") << QString() << Answer::Ok << true << QStringList();
-    QTest::newRow("saved") << u"text"_s << Answer::Yes << true << QStringList{u"saved text"_s};
-    QTest::newRow("a save that is refused")
-        << u"refused"_s << Answer::Yes << false << QStringList{u"saved refused"_s};
-    QTest::newRow("dropped") << u"text"_s << Answer::No << true << QStringList{u"dropped"_s};
-    QTest::newRow("stays") << u"text"_s << Answer::Cancel << false << QStringList();
+    rows<QString, Answer, bool, QStringList>({
+        {"nothing typed", {}, Answer::Ok, true, {}},
+        {"saved", u"text"_s, Answer::Yes, true, {u"saved text"_s}},
+        {"a save that is refused", u"refused"_s, Answer::Yes, false, {u"saved refused"_s}},
+        {"dropped", u"text"_s, Answer::No, true, {u"dropped"_s}},
+        {"stays", u"text"_s, Answer::Cancel, false, {}},
+    });
 }
 
 void TestFunctionWindow::asksBeforeItCloses()
 {
-    QFETCH(QString, typed);
-    QFETCH(Answer, answer);
-    QFETCH(bool, closes);
-    const std::unique_ptr<SampleWindow> window(open().data());
-    window->setAttribute(Qt::WA_DeleteOnClose, false);
+    const auto [typed, answer, closes, done] = row<QString, Answer, bool, QStringList>();
+    const auto window = open();
     QTest::keyClicks(control<QLineEdit>(*window, "box"), typed);
     if (!typed.isEmpty())
         m_program->dialogs.willAnswer(answer);
     QTest::keyClick(window.get(), Qt::Key_Escape);
     QCOMPARE(window->isVisible(), !closes);
-    QTEST(window->done, "done");
+    QCOMPARE(window->done, done);
     QVERIFY(m_program->dialogs.isDone());
 }
 
 void TestFunctionWindow::asksOnceUntilWorkGoesOn()
 {
-    const QPointer<SampleWindow> window = open();
+    const auto window = open();
     auto *box = control<QLineEdit>(*window, "box");
     QTest::keyClicks(box, u"text"_s);
     m_program->dialogs.willAnswer(Answer::No);
@@ -184,13 +158,11 @@ void TestFunctionWindow::asksOnceUntilWorkGoesOn()
     m_program->dialogs.willAnswer(Answer::Cancel);
     QVERIFY(!window->mayLeave());
     QVERIFY(m_program->dialogs.isDone());
-    delete window;
 }
 
 void TestFunctionWindow::staysWhileItIsBusy()
 {
-    const std::unique_ptr<SampleWindow> window(open().data());
-    window->setAttribute(Qt::WA_DeleteOnClose, false);
+    const auto window = open();
     window->setBusy(true);
     QVERIFY(!window->toolbar().isEnabled() && !window->menuBar()->isEnabled());
     QVERIFY(!control<QWidget>(*window, "side")->isEnabled() &&
@@ -203,8 +175,7 @@ void TestFunctionWindow::staysWhileItIsBusy()
 
 void TestFunctionWindow::escLeavesPreviewThenViewThenWindow()
 {
-    const std::unique_ptr<SampleWindow> window(open().data());
-    window->setAttribute(Qt::WA_DeleteOnClose, false);
+    const auto window = open();
     auto *box = control<QLineEdit>(*window, "box");
     auto *over = control<QLineEdit>(*window, "over");
     box->setFocus();
@@ -220,33 +191,32 @@ void TestFunctionWindow::escLeavesPreviewThenViewThenWindow()
     QVERIFY(!window->isVisible());
 }
 
-void TestFunctionWindow::f1AsksForItsPage()
+void TestFunctionWindow::asksForTheManualAndTheMainMenu()
 {
-    const std::unique_ptr<SampleWindow> window(open().data());
-    QSignalSpy asked(&m_program->changes, &ProgramSignals::helpRequested);
+    const auto window = open();
+    QSignalSpy manual(&m_program->changes, &ProgramSignals::helpRequested);
     QTest::keyClick(control<QLineEdit>(*window, "box"), Qt::Key_F1);
-    QCOMPARE(asked, (QList<QVariantList>{{1004}}));
-}
-
-void TestFunctionWindow::theMainMenuComesToTheFront()
-{
-    const std::unique_ptr<SampleWindow> window(open().data());
-    QSignalSpy asked(&m_program->changes, &ProgramSignals::mainMenuRequested);
+    QCOMPARE(manual, (QList<QVariantList>{{1004}}));
+    QSignalSpy mainMenu(&m_program->changes, &ProgramSignals::mainMenuRequested);
     QTest::mouseClick(control<QToolButton>(*window, "mainMenu_button"), Qt::LeftButton);
-    QCOMPARE(asked.size(), 1);
+    QCOMPARE(mainMenu.size(), 1);
 }
 
 void TestFunctionWindow::removesTheToolbarInEveryWindow()
 {
-    const std::unique_ptr<SampleWindow> one(open().data()), other(open().data());
+    const auto one = open(), other = open();
     emit one->toolbar().customContextMenuRequested(QPoint(5, 5));
-    auto *menu = control<QMenu>(*one, "toolbarMenu");
-    menu->actions().first()->trigger();
+    control<QMenu>(*one, "toolbarMenu")->actions().first()->trigger();
     QVERIFY(!one->toolbar().isVisible() && !other->toolbar().isVisible());
-    const std::unique_ptr<SampleWindow> later(open().data());
+    for (const TextSetting &setting : {SettingsKeys::topToolbar, SettingsKeys::weightTopToolbar})
+        QCOMPARE(m_program->settings.text(setting), u"OFF"_s);
+    m_program->state.topToolbarRemoved.reset(); // as at the next start
+    const auto later = open();
     QVERIFY(!later->toolbar().isVisible());
 
-    QTest::mouseClick(control<QToolButton>(*other, "StatusBar1_RestoreTop"), Qt::LeftButton);
+    auto *link = control<QToolButton>(*other, "StatusBar1_RestoreTop");
+    QCOMPARE(link->text(), u"Click to Restore Top Toolbar"_s);
+    QTest::mouseClick(link, Qt::LeftButton);
     QVERIFY(one->toolbar().isVisible() && other->toolbar().isVisible() && later->toolbar().isVisible());
     QVERIFY(!control<QToolButton>(*one, "StatusBar1_RestoreTop")->isVisible());
     QCOMPARE(m_program->settings.number(SettingsKeys::sideToolbarMarker), 88);
@@ -255,7 +225,7 @@ void TestFunctionWindow::removesTheToolbarInEveryWindow()
 
 void TestFunctionWindow::remembersItsPlace()
 {
-    const QPointer<SampleWindow> window = open();
+    const auto window = open();
     window->setMinimumSize(200, 200);
     window->resize(640, 480);
     auto *splitter = control<QSplitter>(*window, "splitter");
@@ -264,14 +234,13 @@ void TestFunctionWindow::remembersItsPlace()
     const QList<int> sizes = splitter->sizes();
     emit splitter->splitterMoved(sizes[0], 1); // the place is the user's, and not the window's own
     window->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(m_program->store.contains(u"Windows/SAMPLE/geometry"_s));
 
-    const std::unique_ptr<SampleWindow> again(open().data());
+    const auto again = open();
     QCOMPARE(control<QSplitter>(*again, "splitter")->sizes().first(), sizes.first());
     // A record that is no geometry is ignored.
     m_program->store.setValue(u"Windows/SAMPLE/geometry"_s, QByteArray("noise"));
-    const std::unique_ptr<SampleWindow> third(open().data());
+    const auto third = open();
     QVERIFY(third->isVisible());
 }
 

@@ -5,6 +5,7 @@
 #include "shell/core/shellmessages.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/look/theme.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QLabel>
@@ -18,7 +19,7 @@ constexpr PanelColorSettings withText{SettingsKeys::addressEntryColor, SettingsK
                                       SettingsKeys::addressEntryTextColor};
 constexpr PanelColorSettings panelOnly{SettingsKeys::helpColor, SettingsKeys::helpProgramColor, {}};
 const QColor blue(0x30, 0x5a, 0x70);
-constexpr auto blueText = "7363120";
+constexpr auto blueText = "7363120"_L1;
 
 } // namespace
 
@@ -28,22 +29,16 @@ class TestPanelColors : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { Theme::apply(*qApp); }
     void init();
     void takesTheStoredColor_data();
     void takesTheStoredColor();
     void colorsWordsAndLeavesBoxesAlone();
-    void refusesExactlyTheInkInUse_data();
-    void refusesExactlyTheInkInUse();
-    void cancellingChangesNothing_data();
-    void cancellingChangesNothing();
     void asksAtOnceWhereThereIsNoTextColor_data();
     void asksAtOnceWhereThereIsNoTextColor();
     void asksOnLeavingWhereThereIsATextColor_data();
     void asksOnLeavingWhereThereIsATextColor();
-    void noGivesTheDesignedColor();
     void keepsAChosenTextColor();
-    void coloursTheWholeProgramOnRequest();
     void followsAnotherWindowsUpdate();
 
 private:
@@ -55,11 +50,6 @@ private:
     PanelFrame *m_panel = nullptr;
     QLabel *m_label = nullptr;
 };
-
-void TestPanelColors::initTestCase()
-{
-    Theme::apply(*qApp);
-}
 
 void TestPanelColors::init()
 {
@@ -83,38 +73,30 @@ PanelColors &TestPanelColors::make(const PanelColorSettings &settings)
 
 void TestPanelColors::takesTheStoredColor_data()
 {
-    QTest::addColumn<QString>("own");
-    QTest::addColumn<QString>("programWide");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QColor>("panel");
-    QTest::addColumn<QColor>("ink");
-    const QColor designed = Theme::light().panel, text = Theme::light().text;
-    const QString blueNumber = QString::fromLatin1(blueText);
-    QTest::newRow("nothing stored") << u""_s << u""_s << u""_s << designed << text;
-    QTest::newRow("its own") << blueNumber << u"255"_s << u""_s << blue << QColor(Qt::white);
-    QTest::newRow("the program's, when it has none")
-        << u""_s << blueNumber << u""_s << blue << QColor(Qt::white);
-    QTest::newRow("the program's, for Default")
-        << u"Default"_s << u"65535"_s << u""_s << QColor(Qt::yellow) << QColor(Qt::black);
-    QTest::newRow("the designed number of the other scheme")
-        << u"2500907"_s << u"255"_s << u""_s << designed << text;
-    QTest::newRow("a text colour") << blueNumber << u""_s << u"65535"_s << blue << QColor(Qt::yellow);
-    QTest::newRow("a text colour alone") << u""_s << u""_s << u"255"_s << designed << QColor(Qt::red);
-    QTest::newRow("damaged") << u"blue"_s << u""_s << u"#"_s << designed << text;
+    const QColor designed = Theme::light().panel, ink = Theme::light().text;
+    const QColor white(Qt::white), yellow(Qt::yellow), red(Qt::red), black(Qt::black);
+    rows<QString, QString, QString, QColor, QColor>({
+        {"nothing stored", {}, {}, {}, designed, ink},
+        {"its own", blueText, u"255"_s, {}, blue, white},
+        {"the program's, when it has none", {}, blueText, {}, blue, white},
+        {"the program's, for Default", u"Default"_s, u"65535"_s, {}, yellow, black},
+        {"the designed number of the other scheme", u"2500907"_s, u"255"_s, {}, designed, ink},
+        {"a text colour", blueText, {}, u"65535"_s, blue, yellow},
+        {"a text colour alone", {}, {}, u"255"_s, designed, red},
+        {"damaged", u"blue"_s, {}, u"#"_s, designed, ink},
+    });
 }
 
 void TestPanelColors::takesTheStoredColor()
 {
-    QFETCH(QString, own);
-    QFETCH(QString, programWide);
-    QFETCH(QString, text);
+    const auto [own, programWide, text, panel, ink] = row<QString, QString, QString, QColor, QColor>();
     QVERIFY(m_program->settings.setText(withText.panel, own));
     QVERIFY(m_program->settings.setText(withText.programWide, programWide));
     QVERIFY(m_program->settings.setText(*withText.text, text));
     const PanelColors &colors = make(withText);
-    QTEST(m_panel->palette().color(QPalette::Window), "panel");
-    QTEST(m_panel->palette().color(QPalette::WindowText), "ink");
-    QTEST(colors.ink(), "ink");
+    QCOMPARE(m_panel->palette().color(QPalette::Window), panel);
+    QCOMPARE(m_panel->palette().color(QPalette::WindowText), ink);
+    QCOMPARE(colors.ink(), ink);
 }
 
 void TestPanelColors::colorsWordsAndLeavesBoxesAlone()
@@ -122,7 +104,7 @@ void TestPanelColors::colorsWordsAndLeavesBoxesAlone()
     auto *box = new FieldBox(m_panel);
     auto *list = new QListWidget(m_panel);
     QPushButton *button = makeButton(u"Command1"_s, u"&Save"_s, m_panel, ButtonKind::Main);
-    QVERIFY(m_program->settings.setText(panelOnly.panel, QString::fromLatin1(blueText)));
+    QVERIFY(m_program->settings.setText(panelOnly.panel, blueText));
     make(panelOnly);
     QCOMPARE(m_label->palette().color(m_label->foregroundRole()), QColor(Qt::white));
     const Theme &theme = Theme::light();
@@ -134,91 +116,63 @@ void TestPanelColors::colorsWordsAndLeavesBoxesAlone()
     QVERIFY(button->grab().toImage().pixelColor(6, 18).rgb() == theme.accent.rgb());
 }
 
-void TestPanelColors::refusesExactlyTheInkInUse_data()
-{
-    QTest::addColumn<QColor>("chosen");
-    QTest::addColumn<bool>("refused");
-    const QColor ink = Theme::light().text;
-    QTest::newRow("the ink") << ink << true;
-    QTest::newRow("one unit beside it") << QColor(ink.red(), ink.green(), ink.blue() + 1) << false;
-}
-
-void TestPanelColors::refusesExactlyTheInkInUse()
-{
-    QFETCH(QColor, chosen);
-    QFETCH(bool, refused);
-    PanelColors &colors = make(panelOnly);
-    m_program->dialogs.willAnswer(Answer::Yes);
-    m_program->dialogs.willChooseColor(chosen);
-    m_program->dialogs.willAnswer(refused ? Answer::Ok : Answer::No);
-    colors.choosePanelColor();
-    QList<Message> expected{ShellMessages::newOrDefaultColor(u"Panel Color"_s)};
-    expected << (refused ? ShellMessages::colorConflict() : ShellMessages::savePanelColor());
-    QCOMPARE(m_program->dialogs.takeShown(), expected);
-    QCOMPARE(m_panel->palette().color(QPalette::Window), refused ? Theme::light().panel : chosen);
-    QCOMPARE(m_activity->activity(), u"Entry Screen"_s);
-    QVERIFY(m_program->dialogs.isDone());
-}
-
-void TestPanelColors::cancellingChangesNothing_data()
-{
-    QTest::addColumn<bool>("inTheDialog");
-    QTest::newRow("the question") << false;
-    QTest::newRow("the colour dialog") << true;
-}
-
-void TestPanelColors::cancellingChangesNothing()
-{
-    QFETCH(bool, inTheDialog);
-    PanelColors &colors = make(panelOnly);
-    const QByteArray before = m_program->bytes(u"GColor3.Fil"_s);
-    m_program->dialogs.willAnswer(inTheDialog ? Answer::Yes : Answer::Cancel);
-    if (inTheDialog)
-        m_program->dialogs.willChooseColor(std::nullopt);
-    colors.choosePanelColor();
-    QCOMPARE(m_panel->palette().color(QPalette::Window), Theme::light().panel);
-    QCOMPARE(m_program->bytes(u"GColor3.Fil"_s), before);
-    QVERIFY(!colors.hasUnsavedChanges());
-    QCOMPARE(m_activity->activity(), u"Entry Screen"_s);
-    QVERIFY(m_program->dialogs.isDone());
-}
-
 void TestPanelColors::asksAtOnceWhereThereIsNoTextColor_data()
 {
-    QTest::addColumn<bool>("saves");
-    QTest::newRow("Yes writes it") << true;
-    QTest::newRow("No keeps it until the window closes") << false;
+    using Answers = QList<Answer>;
+    using Color = std::optional<QColor>;
+    const QColor designed = Theme::light().panel, yellow(Qt::yellow), black(Qt::black), almost(0, 0, 1);
+    const QString before = u"65535"_s;
+    const Message start = ShellMessages::newOrDefaultColor(u"Panel Color"_s),
+                  conflict = ShellMessages::colorConflict(), keep = ShellMessages::savePanelColor(),
+                  everywhere = ShellMessages::updateWholeProgram();
+    const Answer yes = Answer::Yes, no = Answer::No, cancel = Answer::Cancel;
+    rows<Answers, Color, Message, QColor, QString>({
+        {"the question is cancelled", {cancel}, {}, start, yellow, before},
+        {"the dialog is cancelled", {yes}, {}, start, yellow, before},
+        {"the ink in use is refused", {yes, Answer::Ok}, black, conflict, yellow, before},
+        {"almost the ink, until the window closes", {yes, no}, almost, keep, almost, before},
+        {"for the window", {yes, yes, no}, blue, everywhere, blue, blueText},
+        {"for the program", {yes, yes, yes}, blue, everywhere, blue, blueText},
+        {"as designed", {no, yes, cancel}, {}, everywhere, designed, u"16383487"_s},
+    });
 }
 
 void TestPanelColors::asksAtOnceWhereThereIsNoTextColor()
 {
-    QFETCH(bool, saves);
+    const auto [answers, chosen, last, panel, stored] =
+        row<QList<Answer>, std::optional<QColor>, Message, QColor, QString>();
+    QVERIFY(m_program->settings.setText(panelOnly.panel, u"65535"_s));
     PanelColors &colors = make(panelOnly);
-    m_program->dialogs.willAnswer(Answer::Yes);
-    m_program->dialogs.willChooseColor(blue);
-    m_program->dialogs.willAnswer(saves ? Answer::Yes : Answer::No);
-    if (saves)
-        m_program->dialogs.willAnswer(Answer::No); // not for the whole program
+    for (const Answer answer : answers)
+        m_program->dialogs.willAnswer(answer);
+    if (answers.first() == Answer::Yes)
+        m_program->dialogs.willChooseColor(chosen);
     colors.choosePanelColor();
-    QCOMPARE(m_panel->palette().color(QPalette::Window), blue);
-    QCOMPARE(m_program->settings.text(panelOnly.panel), saves ? QString::fromLatin1(blueText) : QString());
-    QVERIFY(colors.askToSave()); // asks nothing more
+    QCOMPARE(m_program->dialogs.takeShown().last(), last);
+    QCOMPARE(m_panel->palette().color(QPalette::Window), panel);
+    QCOMPARE(m_program->settings.text(panelOnly.panel), stored);
+    const bool isForAll = answers.value(2) == Answer::Yes;
+    QCOMPARE(m_program->settings.text(SettingsKeys::mainMenuColor), isForAll ? stored : QString());
+    const bool isDesigned = panel == Theme::light().panel;
+    QCOMPARE(m_label->palette().color(m_label->foregroundRole()),
+             isDesigned ? Theme::light().quiet : inkOn(panel));
+    QCOMPARE(m_activity->activity(), u"Entry Screen"_s);
+    QVERIFY(!colors.hasUnsavedChanges());
     QVERIFY(m_program->dialogs.isDone());
 }
 
 void TestPanelColors::asksOnLeavingWhereThereIsATextColor_data()
 {
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("leaves");
-    QTest::addColumn<QString>("stored");
-    QTest::newRow("Yes") << Answer::Yes << true << QString::fromLatin1(blueText);
-    QTest::newRow("No") << Answer::No << true << QString();
-    QTest::newRow("Cancel") << Answer::Cancel << false << QString();
+    rows<Answer, bool, QString>({
+        {"Yes", Answer::Yes, true, blueText},
+        {"No", Answer::No, true, {}},
+        {"Cancel", Answer::Cancel, false, {}},
+    });
 }
 
 void TestPanelColors::asksOnLeavingWhereThereIsATextColor()
 {
-    QFETCH(Answer, answer);
+    const auto [answer, leaves, stored] = row<Answer, bool, QString>();
     PanelColors &colors = make(withText);
     m_program->dialogs.willAnswer(Answer::Yes);
     m_program->dialogs.willChooseColor(blue);
@@ -229,23 +183,10 @@ void TestPanelColors::asksOnLeavingWhereThereIsATextColor()
     m_program->dialogs.willAnswer(answer);
     if (answer == Answer::Yes)
         m_program->dialogs.willAnswer(Answer::No);
-    QTEST(colors.askToSave(), "leaves");
-    QTEST(m_program->settings.text(withText.panel), "stored");
+    QCOMPARE(colors.askToSave(), leaves);
+    QCOMPARE(m_program->settings.text(withText.panel), stored);
     QCOMPARE(m_program->dialogs.takeShown().first(), ShellMessages::saveColors());
     QVERIFY(m_program->dialogs.isDone());
-}
-
-void TestPanelColors::noGivesTheDesignedColor()
-{
-    QVERIFY(m_program->settings.setText(panelOnly.panel, QString::fromLatin1(blueText)));
-    PanelColors &colors = make(panelOnly);
-    m_program->dialogs.willAnswer(Answer::No);
-    m_program->dialogs.willAnswer(Answer::Yes);
-    m_program->dialogs.willAnswer(Answer::Cancel);
-    colors.choosePanelColor();
-    QCOMPARE(m_panel->palette().color(QPalette::Window), Theme::light().panel);
-    QCOMPARE(m_label->palette().color(m_label->foregroundRole()), Theme::light().quiet);
-    QCOMPARE(m_program->settings.text(panelOnly.panel), u"16383487"_s);
 }
 
 void TestPanelColors::keepsAChosenTextColor()
@@ -274,23 +215,10 @@ void TestPanelColors::keepsAChosenTextColor()
     QCOMPARE(m_program->settings.text(*withText.text), u"Default"_s);
 }
 
-void TestPanelColors::coloursTheWholeProgramOnRequest()
-{
-    PanelColors &colors = make(panelOnly);
-    m_program->dialogs.willAnswer(Answer::Yes);
-    m_program->dialogs.willChooseColor(blue);
-    m_program->dialogs.willAnswer(Answer::Yes);
-    m_program->dialogs.willAnswer(Answer::Yes);
-    colors.choosePanelColor();
-    QCOMPARE(m_program->dialogs.takeShown().last(), ShellMessages::updateWholeProgram());
-    QCOMPARE(m_program->settings.text(SettingsKeys::mainMenuColor), QString::fromLatin1(blueText));
-    QCOMPARE(m_program->settings.text({SettingsKeys::colorFile3, 105}), QString::fromLatin1(blueText));
-}
-
 void TestPanelColors::followsAnotherWindowsUpdate()
 {
     const PanelColors &colors = make(withText);
-    emit m_program->changes.panelColorsChanged(QString::fromLatin1(blueText));
+    emit m_program->changes.panelColorsChanged(blueText);
     QCOMPARE(colors.panelColor(), blue);
     QCOMPARE(m_panel->palette().color(QPalette::Window), blue);
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/flowtoolbar.h"
-#include "shell/core/settingskeys.h"
 #include "shell/frame/toolbarcustomizer.h"
 #include "shell/frame/toolbars.h"
 #include "shell/look/theme.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>
@@ -19,7 +19,7 @@ class TestToolbars : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { Theme::apply(*qApp); }
     void init();
     void hidesNothingWhenItIsNarrow();
     void aHiddenActionTakesNoPlace();
@@ -27,8 +27,6 @@ private slots:
     void restoresTheStoredLayout();
     void everyChangeIsAppliedAndStored();
     void dragsAButtonToItsPlace();
-    void aButtonThatCannotBeMovedSaysWhy();
-    void removalIsWrittenForAllWindows();
 
 private:
     QListWidget &shownList(ToolbarCustomizer &dialog) { return *control<QListWidget>(dialog, "shownList"); }
@@ -43,11 +41,6 @@ private:
     ToolbarLayout *m_layout = nullptr;
     QStringList m_defaults;
 };
-
-void TestToolbars::initTestCase()
-{
-    Theme::apply(*qApp);
-}
 
 void TestToolbars::init()
 {
@@ -99,24 +92,24 @@ void TestToolbars::aHiddenActionTakesNoPlace()
 
 void TestToolbars::restoresTheStoredLayout_data()
 {
-    QTest::addColumn<QStringList>("stored");
-    QTest::addColumn<QStringList>("shown");
     const QStringList defaults{u"one"_s, u"two"_s, u"separator"_s, u"three"_s};
-    QTest::newRow("nothing stored") << QStringList() << defaults;
-    QTest::newRow("an order of the user's") << QStringList{u"five"_s, u"separator"_s, u"one"_s}
-                                            << QStringList{u"five"_s, u"separator"_s, u"one"_s};
-    QTest::newRow("names that are gone") << QStringList{u"gone"_s, u"two"_s} << QStringList{u"two"_s};
-    QTest::newRow("only names that are gone") << QStringList{u"gone"_s, u"separator"_s} << defaults;
-    QTest::newRow("a name twice") << QStringList{u"two"_s, u"two"_s} << QStringList{u"two"_s};
+    const QStringList another{u"five"_s, u"separator"_s, u"one"_s};
+    rows<QStringList, QStringList>({
+        {"nothing stored", {}, defaults},
+        {"an order of the user's", another, another},
+        {"names that are gone", {u"gone"_s, u"two"_s}, {u"two"_s}},
+        {"only names that are gone", {u"gone"_s, u"separator"_s}, defaults},
+        {"a name twice", {u"two"_s, u"two"_s}, {u"two"_s}},
+    });
 }
 
 void TestToolbars::restoresTheStoredLayout()
 {
-    QFETCH(QStringList, stored);
+    const auto [stored, shown] = row<QStringList, QStringList>();
     if (!stored.isEmpty())
         m_program->store.setValue(u"User1/Toolbar1"_s, stored);
     m_layout->restore();
-    QTEST(m_layout->shown(), "shown");
+    QCOMPARE(m_layout->shown(), shown);
 }
 
 void TestToolbars::everyChangeIsAppliedAndStored()
@@ -128,6 +121,8 @@ void TestToolbars::everyChangeIsAppliedAndStored()
     };
     control<QListWidget>(dialog, "availableList")->setCurrentRow(1);
     shownList(dialog).setCurrentRow(0);
+    auto *up = control<QPushButton>(dialog, "moveToolUp");
+    QVERIFY(!up->isEnabled() && !up->toolTip().isEmpty());
     press(dialog, "addTool");
     QVERIFY(is({u"one"_s, u"five"_s, u"two"_s, u"separator"_s, u"three"_s}));
     press(dialog, "moveToolUp");
@@ -156,31 +151,6 @@ void TestToolbars::dragsAButtonToItsPlace()
     QVERIFY(rows->moveRow({}, 3, {}, 0));
     QCOMPARE(m_layout->shown(), (QStringList{u"three"_s, u"one"_s, u"two"_s, u"separator"_s}));
     QCOMPARE(stored(), m_layout->shown());
-}
-
-void TestToolbars::aButtonThatCannotBeMovedSaysWhy()
-{
-    ToolbarCustomizer dialog(*m_layout, nullptr);
-    showActive(dialog);
-    shownList(dialog).setCurrentRow(0);
-    auto *up = control<QPushButton>(dialog, "moveToolUp");
-    QVERIFY(!up->isEnabled());
-    QVERIFY(!up->toolTip().isEmpty());
-    QVERIFY(control<QPushButton>(dialog, "moveToolDown")->isEnabled());
-}
-
-void TestToolbars::removalIsWrittenForAllWindows()
-{
-    QSignalSpy changed(&m_program->changes, &ProgramSignals::topToolbarChanged);
-    QVERIFY(!TopToolbar::isRemoved(m_program->program, SettingsKeys::topToolbar));
-    QVERIFY(TopToolbar::setRemoved(m_program->program, true));
-    QVERIFY(TopToolbar::isRemoved(m_program->program, SettingsKeys::topToolbar));
-    QVERIFY(TopToolbar::isRemoved(m_program->program, SettingsKeys::weightTopToolbar));
-    QCOMPARE(m_program->bytes(u"GColor1.Fil"_s).mid(54 * 20, 5), QByteArray("\x03\0OFF", 5));
-    QCOMPARE(m_program->bytes(u"GColor1.Fil"_s).mid(80 * 20, 5), QByteArray("\x03\0OFF", 5));
-    QVERIFY(TopToolbar::setRemoved(m_program->program, false));
-    QCOMPARE(m_program->settings.text(SettingsKeys::topToolbar), u"ON"_s);
-    QCOMPARE(changed.size(), 2);
 }
 
 QTEST_MAIN(TestToolbars)
