@@ -6,11 +6,10 @@
 #include "shell/controls/rowsmodel.h"
 #include "shell/look/theme.h"
 #include "shell/program/messagebox.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
-#include <QAction>
 #include <QClipboard>
-#include <QHelpEvent>
 #include <QListView>
 #include <QMainWindow>
 #include <QMenu>
@@ -27,50 +26,42 @@ class TestControls : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { Theme::apply(*qApp); }
     void aBoxTakesWhatItsFileHolds_data();
     void aBoxTakesWhatItsFileHolds();
     void aLockedBoxIsSkipped();
     void aDisabledControlSaysWhy();
     void requiredFollowsTheInkOfItsPanel();
-    void aListShowsWholeRows_data();
     void aListShowsWholeRows();
+    void aTableShowsWholeRows();
     void theBarKeepsActivityAndMessageApart();
     void theClockShowsTheProgramsTime();
-    void theBarOffersRemovedToolbars();
     void escAnswersOnlyWhereNothingIsLost_data();
     void escAnswersOnlyWhereNothingIsLost();
     void aMessageBoxHasItsButtonsInOrder();
-    void aMessageBoxIsCopied();
     void anInputBoxRefusesWhatTheFilesCannotHold();
     void theMonthIsAlwaysInEnglish();
-};
 
-void TestControls::initTestCase()
-{
-    Theme::apply(*qApp);
-}
+private:
+    void showsWholeRows(QAbstractItemView *view);
+};
 
 void TestControls::aBoxTakesWhatItsFileHolds_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("pasted");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("refused");
-    QTest::newRow("plain") << u"Lin"_s << u"d"_s << u"Lind"_s << false;
-    QTest::newRow("accents and a long dash")
-        << u""_s << u"Jos\u00e9 \u2013"_s << u"Jos\u00e9 \u2013"_s << false;
-    QTest::newRow("accent as a character of its own") << u""_s << u"Jose\u0301"_s << u"Jose\u0301"_s << false;
-    QTest::newRow("a letter that the files lack") << u"Anna"_s << u"\u0141"_s << u"Anna"_s << true;
-    QTest::newRow("a word with such a letter") << u"Anna"_s << u" \u0141ukasz"_s << u"Anna"_s << true;
-    QTest::newRow("beyond the limit") << u"12345678"_s << u"9012"_s << u"1234567890"_s << true;
-    QTest::newRow("line ends") << u""_s << u"a\tb\nc"_s << u"a b c"_s << false;
+    rows<QString, QString, QString, bool>({
+        {"plain", u"Lin"_s, u"d"_s, u"Lind"_s, false},
+        {"accents and a long dash", {}, u"Jos\u00e9 \u2013"_s, u"Jos\u00e9 \u2013"_s, false},
+        {"accent as a character of its own", {}, u"Jose\u0301"_s, u"Jose\u0301"_s, false},
+        {"a letter that the files lack", u"Anna"_s, u"\u0141"_s, u"Anna"_s, true},
+        {"a word with such a letter", u"Anna"_s, u" \u0141ukasz"_s, u"Anna"_s, true},
+        {"beyond the limit", u"12345678"_s, u"9012"_s, u"1234567890"_s, true},
+        {"line ends", {}, u"a\tb\nc"_s, u"a b c"_s, false},
+    });
 }
 
 void TestControls::aBoxTakesWhatItsFileHolds()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, pasted);
+    const auto [before, pasted, text, isRefused] = row<QString, QString, QString, bool>();
     FieldBox box;
     box.setByteLimit(10);
     box.setText(before);
@@ -78,8 +69,8 @@ void TestControls::aBoxTakesWhatItsFileHolds()
     QSignalSpy refused(&box, &FieldBox::refused);
     QApplication::clipboard()->setText(pasted);
     box.paste();
-    QTEST(box.text(), "text");
-    QTEST(!refused.isEmpty(), "refused");
+    QCOMPARE(box.text(), text);
+    QCOMPARE(!refused.isEmpty(), isRefused);
 }
 
 void TestControls::aLockedBoxIsSkipped()
@@ -125,28 +116,25 @@ void TestControls::requiredFollowsTheInkOfItsPanel()
     QCOMPARE(box.palette().color(QPalette::PlaceholderText), Theme::light().quiet);
 }
 
-void TestControls::aListShowsWholeRows_data()
-{
-    QTest::addColumn<bool>("isTable");
-    QTest::newRow("list") << false;
-    QTest::newRow("table") << true;
-}
-
 void TestControls::aListShowsWholeRows()
 {
-    QFETCH(const bool, isTable);
-    QAbstractItemView *view = nullptr;
+    auto *list = new QListView;
+    setListRows(list);
+    showsWholeRows(list);
+}
+
+void TestControls::aTableShowsWholeRows()
+{
+    auto *table = new QTableView;
+    setGridRows(table);
+    showsWholeRows(table);
+}
+
+void TestControls::showsWholeRows(QAbstractItemView *view)
+{
     RowsModel<int> numbers(
         {{u"Number"_s, Qt::AlignRight, [](int number) { return QString::number(number); }}});
     numbers.setRows(std::vector<int>(50, 7));
-    if (isTable) {
-        auto *table = new QTableView;
-        setGridRows(table);
-        view = table;
-    } else {
-        view = new QListView;
-        setListRows(view);
-    }
     view->setModel(&numbers);
     auto *count = new QLabel(u"50 numbers"_s);
     WholeRows rows(view, count);
@@ -194,38 +182,19 @@ void TestControls::theClockShowsTheProgramsTime()
     QTRY_COMPARE(control<QLabel>(bar, "Label4")->text(), u"12:00 AM"_s);
 }
 
-void TestControls::theBarOffersRemovedToolbars()
-{
-    TestProgram program;
-    ActivityBar bar(program.clock, program.state.dateStyle);
-    bar.show();
-    auto *top = control<QToolButton>(bar, "StatusBar1_RestoreTop");
-    QVERIFY(!top->isVisible());
-    bar.offerTopToolbar(true);
-    QVERIFY(top->isVisible());
-    QCOMPARE(top->text(), u"Click to Restore Top Toolbar"_s);
-    QSignalSpy asked(&bar, &ActivityBar::restoreTopToolbarRequested);
-    QTest::mouseClick(top, Qt::LeftButton);
-    QCOMPARE(asked.size(), 1);
-}
-
 void TestControls::escAnswersOnlyWhereNothingIsLost_data()
 {
-    QTest::addColumn<QVector<Answer>>("answers");
-    QTest::addColumn<bool>("closes");
-    QTest::addColumn<Answer>("answer");
-    using Answers = QVector<Answer>;
-    QTest::newRow("a notice") << Answers{Answer::Ok} << true << Answer::Ok;
-    QTest::newRow("with Cancel") << Answers{Answer::Yes, Answer::No, Answer::Cancel} << true
-                                 << Answer::Cancel;
-    QTest::newRow("OK or Cancel") << Answers{Answer::Ok, Answer::Cancel} << true << Answer::Cancel;
-    QTest::newRow("Yes or No") << Answers{Answer::Yes, Answer::No} << false << Answer::Cancel;
+    rows<QVector<Answer>, bool, Answer>({
+        {"a notice", {Answer::Ok}, true, Answer::Ok},
+        {"with Cancel", {Answer::Yes, Answer::No, Answer::Cancel}, true, Answer::Cancel},
+        {"OK or Cancel", {Answer::Ok, Answer::Cancel}, true, Answer::Cancel},
+        {"Yes or No", {Answer::Yes, Answer::No}, false, Answer::Cancel},
+    });
 }
 
 void TestControls::escAnswersOnlyWhereNothingIsLost()
 {
-    QFETCH(QVector<Answer>, answers);
-    QFETCH(bool, closes);
+    const auto [answers, closes, answer] = row<QVector<Answer>, bool, Answer>();
     for (const bool byKey : {true, false}) {
         MessageBox box({u"Title"_s, u"Text"_s, Message::Question, answers, answers.first()});
         showActive(box);
@@ -235,7 +204,7 @@ void TestControls::escAnswersOnlyWhereNothingIsLost()
             box.close();
         QCOMPARE(box.isVisible(), !closes);
         if (closes)
-            QTEST(box.answer(), "answer");
+            QCOMPARE(box.answer(), answer);
     }
 }
 
@@ -256,18 +225,11 @@ void TestControls::aMessageBoxHasItsButtonsInOrder()
     QVERIFY(no->hasFocus());
     QVERIFY(yes->x() < no->x() && no->x() < cancel->x());
     QVERIFY(yes->width() >= 104 && box.width() >= 420 && box.width() <= 560);
-    QCOMPARE(yes->text(), u"&Yes"_s);
+    QTest::keyClick(no, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), u"Exit\n\nFirst\nSecond\nThird"_s);
     QTest::mouseClick(yes, Qt::LeftButton);
     QCOMPARE(box.answer(), Answer::Yes);
     QVERIFY(!box.isVisible());
-}
-
-void TestControls::aMessageBoxIsCopied()
-{
-    MessageBox box({u"Exit"_s, u"First\nSecond"_s});
-    showActive(box);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), u"Exit\n\nFirst\nSecond"_s);
 }
 
 void TestControls::anInputBoxRefusesWhatTheFilesCannotHold()

@@ -5,6 +5,7 @@
 #include "shell/controls/taskpanel.h"
 #include "shell/controls/titleline.h"
 #include "shell/look/theme.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QListWidget>
@@ -132,20 +133,17 @@ void TestPanels::escClearsAFilledSearchBoxAndIsUsedUp()
 
 void TestPanels::theChipGivesWayBeforeTheTitleIsCut_data()
 {
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("words");
-    QTest::addColumn<bool>("isChipShown");
-    const QString longTitle = u"A name that fills the whole of a line"_s;
-    QTest::newRow("all fit") << u"Miller, Anne"_s << u"Unsaved changes"_s << true;
-    QTest::newRow("a long title") << longTitle << QString() << false;
-    QTest::newRow("words that take its room") << u"Miller, Anne"_s << longTitle << false;
+    const QString longText = u"A name that fills the whole of a line"_s;
+    rows<QString, QString, bool>({
+        {"all fit", u"Miller, Anne"_s, u"Unsaved changes"_s, true},
+        {"a long title", longText, {}, false},
+        {"words that take its room", u"Miller, Anne"_s, longText, false},
+    });
 }
 
 void TestPanels::theChipGivesWayBeforeTheTitleIsCut()
 {
-    QFETCH(const QString, title);
-    QFETCH(const QString, words);
-    QFETCH(const bool, isChipShown);
+    const auto [title, words, isChipShown] = row<QString, QString, bool>();
     TitleLine line(u"title"_s, u"Short"_s, nullptr);
     const QLabel *chip = line.addChip(u"chip"_s);
     QLabel *atRight = line.addWords(u"words"_s);

@@ -3,6 +3,7 @@
 #include "shell/core/settingskeys.h"
 #include "shell/core/shellmessages.h"
 #include "shell/program/sharedprocedures.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QApplication>
@@ -18,11 +19,10 @@ class TestHinfo1 : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { m_program = std::make_unique<TestProgram>(); }
     void oneHourglassIsEnough();
     void asksForTheFamilyName_data();
     void asksForTheFamilyName();
-    void cutsTheFamilyNameToFifteen();
     void writesAllProgramColors();
     void asksBeforeItWritesAllColors_data();
     void asksBeforeItWritesAllColors();
@@ -34,11 +34,6 @@ private slots:
 private:
     std::unique_ptr<TestProgram> m_program;
 };
-
-void TestHinfo1::init()
-{
-    m_program = std::make_unique<TestProgram>();
-}
 
 void TestHinfo1::oneHourglassIsEnough()
 {
@@ -56,34 +51,28 @@ void TestHinfo1::oneHourglassIsEnough()
 
 void TestHinfo1::asksForTheFamilyName_data()
 {
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QString>("typed"); ///< "<cancel>" for Cancel
-    QTest::addColumn<QVector<Answer>>("answer");
-    QTest::addColumn<QByteArray>("after");
+    using Typed = std::optional<QString>; // nothing for Cancel
     const QByteArray holm("\x04\0Holm", 6), lind("\x04\0Lind", 6), none("\0\0", 2), deleted("\0\0Holm", 6);
-    const QVector<Answer> notAsked;
-    QTest::newRow("a first name") << QByteArray() << u"Holm"_s << notAsked << holm;
-    QTest::newRow("another name") << holm << u"Lind"_s << notAsked << lind;
-    QTest::newRow("none stored, Cancel") << QByteArray() << u"<cancel>"_s << notAsked << none;
-    QTest::newRow("Cancel, then Yes") << holm << u"<cancel>"_s << QVector<Answer>{Answer::Yes} << deleted;
-    QTest::newRow("an empty box, then Yes") << holm << u""_s << QVector<Answer>{Answer::Yes} << deleted;
-    QTest::newRow("an empty box, then No") << holm << u""_s << QVector<Answer>{Answer::No} << holm;
+    rows<QByteArray, Typed, QList<Answer>, QByteArray>({
+        {"a first name", {}, u"Holm"_s, {}, holm},
+        {"another name", holm, u"Lind"_s, {}, lind},
+        {"cut to fifteen", {}, u"Jos\u00e9 Ortega M\u00fcller"_s, {}, {"\x0f\0Jos\xe9 Ortega M\xfcl", 17}},
+        {"none stored, Cancel", {}, {}, {}, none},
+        {"Cancel, then Yes", holm, {}, {Answer::Yes}, deleted},
+        {"an empty box, then Yes", holm, u""_s, {Answer::Yes}, deleted},
+        {"an empty box, then No", holm, u""_s, {Answer::No}, holm},
+    });
 }
 
 void TestHinfo1::asksForTheFamilyName()
 {
-    QFETCH(QByteArray, before);
-    QFETCH(QString, typed);
-    QFETCH(QVector<Answer>, answer);
-    QFETCH(QByteArray, after);
+    const auto [before, typed, answers, after] =
+        row<QByteArray, std::optional<QString>, QList<Answer>, QByteArray>();
     if (!before.isEmpty())
         m_program->setBytes(u"HINVNAME.FIL"_s, before);
-    if (typed == "<cancel>"_L1)
-        m_program->dialogs.willInput(std::nullopt);
-    else
-        m_program->dialogs.willInput(typed);
-    if (!answer.isEmpty())
-        m_program->dialogs.willAnswer(answer.first());
+    m_program->dialogs.willInput(typed);
+    for (const Answer answer : answers)
+        m_program->dialogs.willAnswer(answer);
     QSignalSpy changed(&m_program->changes, &ProgramSignals::familyNameChanged);
 
     QVERIFY(HINFO1::askFamilyName(m_program->program, nullptr));
@@ -92,30 +81,11 @@ void TestHinfo1::asksForTheFamilyName()
     QCOMPARE(m_program->state.familyName, FamilyName(m_program->settings.text(SettingsKeys::familyName)));
     QCOMPARE(changed.size(), 1);
     const QString stored = before.isEmpty() ? QString() : u"Holm"_s;
-    QCOMPARE(
-        m_program->dialogs.takePrompts(),
-        (QStringList{u"Family Name"_s,
-                     u"Please Enter Family Name for use in the Various Program areas.\n\nTo Accept name,\n"
-                     "click OK.\n\nTo Delete name,\nclick Cancel or press <Esc> key."_s,
-                     stored}));
-    const QList<Message> shown = m_program->dialogs.takeShown();
-    QCOMPARE(shown.size(), answer.size());
-    if (!shown.isEmpty())
-        QCOMPARE(shown.first(), (Message{u"Family Name"_s,
-                                         u"Delete Family Name - Holm?"_s,
-                                         Message::Question,
-                                         {Answer::Yes, Answer::No},
-                                         Answer::No}));
+    QCOMPARE(m_program->dialogs.takePrompts(),
+             (QStringList{ShellMessages::familyNameTitle(), ShellMessages::familyNamePrompt(), stored}));
+    const QList<Message> asked(answers.size(), ShellMessages::deleteFamilyName(u"Holm"_s));
+    QCOMPARE(m_program->dialogs.takeShown(), asked);
     QVERIFY(m_program->dialogs.isDone());
-}
-
-void TestHinfo1::cutsTheFamilyNameToFifteen()
-{
-    m_program->dialogs.willInput(u"ABCDEFGHIJKLMNOP"_s);
-    QVERIFY(HINFO1::askFamilyName(m_program->program, nullptr));
-    QCOMPARE(m_program->bytes(u"HINVNAME.FIL"_s), QByteArray("\x0f\0ABCDEFGHIJKLMNO", 17));
-    QCOMPARE(m_program->state.familyName.caption(), u"ABCDEFGHIJKLMNO Quillery"_s);
-    QCOMPARE(FamilyName().caption(), u"Quillery"_s);
 }
 
 void TestHinfo1::writesAllProgramColors()
@@ -134,67 +104,50 @@ void TestHinfo1::writesAllProgramColors()
     for (const auto &[name, records] : expected) {
         QByteArray file((records.last() - 1) * 20 + 5, '\0');
         for (const int record : records)
-            file.replace((record - 1) * 20, 5,
-                         QByteArray("\x03\0"
-                                    "255",
-                                    5));
+            file.replace((record - 1) * 20, 5, QByteArray::fromHex("0300323535"));
         QCOMPARE(m_program->bytes(name), file);
     }
 }
 
 void TestHinfo1::asksBeforeItWritesAllColors_data()
 {
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<QString>("pending");
-    QTest::addColumn<bool>("writes");
-    QTest::newRow("Yes") << Answer::Yes << u"255"_s << true;
-    QTest::newRow("No") << Answer::No << u"255"_s << false;
-    QTest::newRow("Cancel") << Answer::Cancel << u"255"_s << false;
-    QTest::newRow("nothing pending") << Answer::Yes << u"  "_s << false;
-    QTest::newRow("too long for a record") << Answer::Yes << u"1234567890123456789"_s << false;
+    rows<Answer, QString, bool>({
+        {"Yes", Answer::Yes, u"255"_s, true},
+        {"No", Answer::No, u"255"_s, false},
+        {"Cancel", Answer::Cancel, u"255"_s, false},
+        {"nothing pending", Answer::Yes, u"  "_s, false},
+        {"too long for a record", Answer::Yes, u"1234567890123456789"_s, false},
+    });
 }
 
 void TestHinfo1::asksBeforeItWritesAllColors()
 {
-    QFETCH(Answer, answer);
-    QFETCH(QString, pending);
+    auto [answer, pending, writes] = row<Answer, QString, bool>();
     m_program->dialogs.willAnswer(answer);
     QVERIFY(HINFO1::updateProgramColors(m_program->program, nullptr, pending, 0));
     QCOMPARE(pending, QString());
-    QTEST(!m_program->bytes(u"GColor1.Fil"_s).isEmpty(), "writes");
-    QCOMPARE(m_program->dialogs.takeShown(),
-             QList<Message>{(Message{u"Complete Program Panel Color Update Option"_s,
-                                     u"Save Panel Color Changes for ALL of the Program Functions?"_s,
-                                     Message::Question,
-                                     {Answer::Yes, Answer::No, Answer::Cancel},
-                                     Answer::No})});
+    QCOMPARE(!m_program->bytes(u"GColor1.Fil"_s).isEmpty(), writes);
+    QCOMPARE(m_program->dialogs.takeShown(), {ShellMessages::updateWholeProgram()});
 }
 
 void TestHinfo1::savesTheSizeOfTheMainWindow_data()
 {
-    QTest::addColumn<bool>("maximized");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QByteArray>("records"); ///< 35 to 37
-    const auto records = [](const char *mode, const QByteArray &height, const QByteArray &width) {
-        const QByteArray first = QByteArray(1, char(qstrlen(mode))) + '\0' + mode;
-        return height.isEmpty() ? first
-                                : first.leftJustified(20, '\0') + height.leftJustified(20, '\0') + width;
+    const auto records = [](const QByteArray &height, const QByteArray &width) -> QByteArray { // 35 to 37
+        return QByteArray("\3\0Yes", 5).leftJustified(20, '\0') + height.leftJustified(20, '\0') + width;
     };
-    QTest::newRow("full screen") << true << QSize(1920, 1080) << records("No", {}, {});
-    QTest::newRow("restored") << false << QSize(1024, 768)
-                              << records("Yes", QByteArray("\x00\x2d", 2), QByteArray("\x00\x3c", 2));
-    QTest::newRow("too small") << false << QSize(300, 200)
-                               << records("Yes", QByteArray("\x28\x23", 2), QByteArray("\xe0\x2e", 2));
-    QTest::newRow("too large for a number")
-        << false << QSize(3840, 2160) << records("Yes", QByteArray("\x90\x7e", 2), QByteArray("\xff\x7f", 2));
+    rows<bool, QSize, QByteArray>({
+        {"full screen", true, {1920, 1080}, {"\2\0No", 4}},
+        {"restored", false, {1024, 768}, records({"\x00\x2d", 2}, {"\x00\x3c", 2})},
+        {"too small", false, {300, 200}, records("\x28\x23", "\xe0\x2e")},
+        {"too large for a number", false, {3840, 2160}, records("\x90\x7e", "\xff\x7f")},
+    });
 }
 
 void TestHinfo1::savesTheSizeOfTheMainWindow()
 {
-    QFETCH(bool, maximized);
-    QFETCH(QSize, size);
+    const auto [maximized, size, records] = row<bool, QSize, QByteArray>();
     QVERIFY(HINFO1::saveMainWindowSize(m_program->program, maximized, size));
-    QTEST(m_program->bytes(u"GColor3.Fil"_s).mid(34 * 20), "records");
+    QCOMPARE(m_program->bytes(u"GColor3.Fil"_s).mid(34 * 20), records);
     QCOMPARE(m_program->state.screenMode, maximized ? ScreenMode::FullScreen : ScreenMode::Smaller);
 }
 
