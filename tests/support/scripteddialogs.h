@@ -9,6 +9,7 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 
 /// Answers the program's questions from a script, in order, and remembers what was shown. A question that the
 /// script does not expect fails the test and is answered Cancel.
