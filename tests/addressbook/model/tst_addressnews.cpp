@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/addressnews.h"
 #include "tests/addressbook/model/addressrecords.h"
-
-#include <QTest>
+#include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,7 +18,7 @@ private slots:
     void notesTheDaysOfARange();
 
 private:
-    void put(const QList<QByteArray> &entries) const;
+    void put(const QByteArray &entries) const;
 
     TestFolder m_files;
 };
@@ -36,64 +35,56 @@ QByteArray person(const QByteArray &first, const QByteArray &last, const QByteAr
 
 } // namespace
 
-void TestAddressNews::put(const QList<QByteArray> &entries) const
+/// Whatever entry a line leads to, it stands for the one of its own record.
+void TestAddressNews::put(const QByteArray &entries) const
 {
-    QByteArray lines = neverWritten(60);
-    for (qsizetype i = 0; i < entries.size(); ++i)
-        lines += lineBytes(lineOf("a name", int(i) + 2));
-    m_files.put(u"Addbk1.Fil"_s, neverWritten(724) + entries.join());
-    m_files.put(u"Addbk2.Fil"_s, lines);
+    m_files.put(u"Addbk1.Fil"_s, neverWritten(724) + entries);
+    m_files.put(u"Addbk2.Fil"_s,
+                neverWritten(60) + lineBytes(lineOf("a name", 99)).repeated(entries.size() / 724));
 }
 
 void TestAddressNews::tellsWhatIsNear_data()
 {
-    QTest::addColumn<QList<QByteArray>>("entries");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("sentence");
-    using List = QList<QByteArray>;
-    QTest::newRow("a birthday this week")
-        << List{person("Anne", "Lind", "Nov-24-1978")} << u"Anne Lind: birthday Tuesday"_s
-        << u"Anne Lind has a birthday on Tuesday."_s;
-    QTest::newRow("a birthday today") << List{person("Anne", "Lind", "Nov-21-1978")}
-                                      << u"Anne Lind: birthday today"_s << u"Anne Lind turns 48 today."_s;
-    QTest::newRow("an anniversary today")
-        << List{person("Anne", "Lind", "", "Nov-21-2004")} << u"Anne Lind: anniversary today"_s
-        << u"Anne Lind has an anniversary today."_s;
-    QTest::newRow("several birthdays: the first is named")
-        << List{person("Anne", "Lind", "Nov-24-1978"), person("Karl", "Quill", "Nov-22-1944")}
-        << u"2 birthdays this week"_s << u"Karl Quill has a birthday on Sunday."_s;
-    QTest::newRow("both kinds") << List{person("Anne", "Lind", "Nov-27-1978", "Nov-25-2004")}
-                                << u"1 birthday, 1 anniversary this week"_s
-                                << u"Anne Lind has an anniversary on Wednesday."_s;
-    QTest::newRow("a week ahead bears a date")
-        << List{person("Anne", "Lind", "Nov-28-1978")} << u"Next birthday: Anne Lind, Nov 28"_s << QString();
-    QTest::newRow("the next of this month's")
-        << List{person("Anne", "Lind", "Dec-21-1978"), person("Karl", "Quill", "", "Dec-06-1944")}
-        << u"Next anniversary: Karl Quill, Dec 6"_s << QString();
-    QTest::newRow("31 days ahead") << List{person("Anne", "Lind", "Dec-22-1978")} << QString() << QString();
-    QTest::newRow("yesterday") << List{person("Anne", "Lind", "Nov-20-1978")} << QString() << QString();
-    QTest::newRow("born today") << List{person("Anne", "Lind", "Nov-21-2026")} << QString() << QString();
-    QTest::newRow("a wedding still to come")
-        << List{person("Anne", "Lind", "", "Nov-24-2027")} << QString() << QString();
-    QTest::newRow("no date at all") << List{person("Anne", "Lind", "in spring")} << QString() << QString();
-    QTest::newRow("only a last name") << List{person("", "Lind", "Nov-24-1978")}
-                                      << u"Lind: birthday Tuesday"_s << u"Lind has a birthday on Tuesday."_s;
+    const auto born = [](const QByteArray &date) { return person("Anne", "Lind", date); };
+    const auto wed = [](const QByteArray &date) { return person("Anne", "Lind", "", date); };
+    rows<QByteArray, QString, QString>({
+        {"a birthday this week", born("Nov-24-1978"), u"Anne Lind: birthday Tuesday"_s,
+         u"Anne Lind has a birthday on Tuesday."_s},
+        {"a birthday today", born("Nov-21-1978"), u"Anne Lind: birthday today"_s,
+         u"Anne Lind turns 48 today."_s},
+        {"an anniversary today", wed("Nov-21-2004"), u"Anne Lind: anniversary today"_s,
+         u"Anne Lind has an anniversary today."_s},
+        {"several birthdays: the first is named",
+         born("Nov-24-1978") + person("Karl", "Quill", "Nov-22-1944"), u"2 birthdays this week"_s,
+         u"Karl Quill has a birthday on Sunday."_s},
+        {"both kinds", person("Anne", "Lind", "Nov-27-1978", "Nov-25-2004"),
+         u"1 birthday, 1 anniversary this week"_s, u"Anne Lind has an anniversary on Wednesday."_s},
+        {"a week ahead bears a date", born("Nov-28-1978"), u"Next birthday: Anne Lind, Nov 28"_s, {}},
+        {"the next of this month's",
+         born("Dec-21-1978") + wed("Dec-06-1944"),
+         u"Next anniversary: Anne Lind, Dec 6"_s,
+         {}},
+        {"31 days ahead", born("Dec-22-1978"), {}, {}},
+        {"yesterday", born("Nov-20-1978"), {}, {}},
+        {"born today", born("Nov-21-2026"), {}, {}},
+        {"a wedding still to come", wed("Nov-24-2027"), {}, {}},
+        {"no date at all", born("in spring"), {}, {}},
+    });
 }
 
 void TestAddressNews::tellsWhatIsNear()
 {
-    QFETCH(QList<QByteArray>, entries);
-    QFETCH(QString, text);
+    const auto [entries, text, sentence] = row<QByteArray, QString, QString>();
     put(entries);
     const auto line = AddressNews::liveLine(m_files.folder(), DateStyle::Usa, saturday);
     QCOMPARE(line.has_value(), !text.isEmpty());
     QCOMPARE(line.value_or(LiveLine{}).text, text);
-    QTEST(line.value_or(LiveLine{}).sentence, "sentence");
+    QCOMPARE(line.value_or(LiveLine{}).sentence, sentence);
 }
 
 void TestAddressNews::readsDatesInTheirStyle()
 {
-    put({person("Anne", "Lind", "06/12/1978")});
+    put(person("Anne", "Lind", "06/12/1978"));
     QVERIFY(!AddressNews::liveLine(m_files.folder(), DateStyle::Usa, saturday));
     QCOMPARE(AddressNews::liveLine(m_files.folder(), DateStyle::Other, saturday)->text,
              u"Next birthday: Anne Lind, 6 Dec"_s);
@@ -108,7 +99,7 @@ void TestAddressNews::saysNothingOfAnEmptyFolder()
 
 void TestAddressNews::passesOverWhoIsNotListed()
 {
-    put({person("", "*****", "Nov-24-1978"), person("Anne", "Lind", "Nov-24-1978"), neverWritten(724)});
+    put(person("", "*****", "Nov-24-1978") + person("Anne", "Lind", "Nov-24-1978") + neverWritten(724));
     QByteArray lines = m_files.bytes(u"Addbk2.Fil"_s);
     lines.replace(120, 7, QByteArray("\x2D\0#####", 7));
     m_files.put(u"Addbk2.Fil"_s, lines);
@@ -117,8 +108,8 @@ void TestAddressNews::passesOverWhoIsNotListed()
 
 void TestAddressNews::notesTheDaysOfARange()
 {
-    put({person("Anne", "Lind", "Nov-24-1978", "Nov-30-2025"), person("Leap", "Day", "Feb-29-2004"),
-         person("Karl", "Quill", "Nov-21-1944")});
+    put(person("Anne", "Lind", "Nov-24-1978", "Nov-30-2025") + person("Leap", "Day", "Feb-29-2004") +
+        person("Karl", "Quill", "Nov-21-1944"));
     const auto texts = [this](QDate from, QDate to) {
         QStringList lines;
         for (const DayNote &note : AddressNews::dayNotes(m_files.folder(), DateStyle::Usa, from, to))

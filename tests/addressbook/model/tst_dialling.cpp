@@ -2,11 +2,11 @@
 #include "addressbook/model/dialling.h"
 #include "addressbook/model/messages.h"
 #include "shell/core/settings.h"
+#include "tests/support/rows.h"
 #include "tests/support/scriptedmodem.h"
 #include "tests/support/testfiles.h"
 
 #include <QDir>
-#include <QTest>
 
 #include <deque>
 
@@ -51,7 +51,12 @@ class TestDialling : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_files = std::make_unique<TestFolder>();
+        m_settings = std::make_unique<Settings>(m_files->folder());
+        m_line = {{1}, {}, true, {}};
+    }
     void dialsAndHangsUp();
     void neverOpensThePortWithoutANumber();
     void takesThePortFromTheSettings_data();
@@ -64,26 +69,16 @@ private slots:
     void sendsNoCommandOfItsOwn();
 
 private:
-    Dialling::Outcome call(ScriptedDesk &desk, const QString &number = u"555"_s);
+    Dialling::Outcome call(ScriptedDesk &desk, const QString &number = u"555"_s)
+    {
+        ScriptedModem modem(m_line);
+        return Dialling::call(number, modem, *m_settings, desk);
+    }
 
     std::unique_ptr<TestFolder> m_files;
     std::unique_ptr<Settings> m_settings;
     TelephoneLine m_line;
 };
-
-void TestDialling::init()
-{
-    m_files = std::make_unique<TestFolder>();
-    m_settings = std::make_unique<Settings>(m_files->folder());
-    m_line = {};
-    m_line.workingPorts = {1};
-}
-
-Dialling::Outcome TestDialling::call(ScriptedDesk &desk, const QString &number)
-{
-    ScriptedModem modem(m_line);
-    return Dialling::call(number, modem, *m_settings, desk);
-}
 
 void TestDialling::dialsAndHangsUp()
 {
@@ -110,22 +105,21 @@ void TestDialling::neverOpensThePortWithoutANumber()
 
 void TestDialling::takesThePortFromTheSettings_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<int>("port");
     const QByteArray before(24 * 20, '\0');
-    QTest::newRow("no file") << QByteArray() << 1;
-    QTest::newRow("never written") << before + QByteArray(20, '\0') << 1;
-    QTest::newRow("three") << before + QByteArray("\3\0", 2) << 3;
-    QTest::newRow("above a byte") << before + QByteArray("\1\1", 2) << 257;
-    QTest::newRow("negative") << before + QByteArray("\xFF\xFF", 2) << 1;
-    QTest::newRow("cut short") << before + QByteArray("\3", 1) << 1;
+    rows<QByteArray, int>({
+        {"no file", {}, 1},
+        {"never written", before + QByteArray(20, '\0'), 1},
+        {"above a byte", before + QByteArray("\1\1", 2), 257},
+        {"negative", before + QByteArray("\xFF\xFF", 2), 1},
+        {"cut short", before + QByteArray("\3", 1), 1},
+    });
 }
 
 void TestDialling::takesThePortFromTheSettings()
 {
-    QFETCH(QByteArray, content);
+    const auto [content, port] = row<QByteArray, int>();
     m_files->put(u"GColor1.Fil"_s, content);
-    QTEST(Dialling::port(*m_settings), "port");
+    QCOMPARE(Dialling::port(*m_settings), port);
 }
 
 void TestDialling::asksForAnotherPort()

@@ -3,8 +3,7 @@
 #include "addressbook/model/labelsheet.h"
 #include "tests/addressbook/model/addressrecords.h"
 #include "tests/support/pageitems.h"
-
-#include <QTest>
+#include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,7 +16,6 @@ private slots:
     void fitsEveryLabelOnItsSheet();
     void namesPersonsTogether_data();
     void namesPersonsTogether();
-    void sharesLabelsByAddress_data();
     void sharesLabelsByAddress();
     void neverLosesTheTown_data();
     void neverLosesTheTown();
@@ -76,43 +74,26 @@ void TestLabelSheet::fitsEveryLabelOnItsSheet()
 
 void TestLabelSheet::namesPersonsTogether_data()
 {
-    QTest::addColumn<QStringList>("persons"); // "last/first"
-    QTest::addColumn<QString>("names");
-    QTest::newRow("one") << QStringList{u"Miller/Anne"_s} << u"Anne Miller"_s;
-    QTest::newRow("one family") << QStringList{u"Miller/Anne"_s, u"Miller/Karl"_s} << u"Anne & Karl Miller"_s;
-    QTest::newRow("typed otherwise") << QStringList{u"Miller/Anne"_s, u"MILLER/Karl"_s}
-                                     << u"Anne & Karl Miller"_s;
-    QTest::newRow("two families") << QStringList{u"Miller/Anne"_s, u"Holm/Karl"_s}
-                                  << u"Anne Miller & Karl Holm"_s;
-    QTest::newRow("with a child") << QStringList{u"Miller/Anne"_s, u"Miller/Karl"_s, u"Miller/Ida"_s}
-                                  << u"Anne, Karl & Ida Miller"_s;
-    QTest::newRow("a lodger") << QStringList{u"Miller/Anne"_s, u"Miller/Karl"_s, u"Holm/Ida"_s}
-                              << u"Anne & Karl Miller & Ida Holm"_s;
-    QTest::newRow("without first names") << QStringList{u"Miller/"_s, u"Miller/"_s} << u"Miller"_s;
-    QTest::newRow("without last name") << QStringList{u"/Anne"_s} << u"Anne"_s;
+    rows<QString, QString>({
+        // "last/first"
+        {"one", u"Miller/Anne"_s, u"Anne Miller"_s},
+        {"one family", u"Miller/Anne Miller/Karl"_s, u"Anne & Karl Miller"_s},
+        {"typed otherwise", u"Miller/Anne MILLER/Karl"_s, u"Anne & Karl Miller"_s},
+        {"two families", u"Miller/Anne Holm/Karl"_s, u"Anne Miller & Karl Holm"_s},
+        {"with a child", u"Miller/Anne Miller/Karl Miller/Ida"_s, u"Anne, Karl & Ida Miller"_s},
+        {"a lodger", u"Miller/Anne Miller/Karl Holm/Ida"_s, u"Anne & Karl Miller & Ida Holm"_s},
+        {"without first names", u"Miller/ Miller/"_s, u"Miller"_s},
+        {"without last name", u"/Anne"_s, u"Anne"_s},
+    });
 }
 
 void TestLabelSheet::namesPersonsTogether()
 {
-    QFETCH(QStringList, persons);
+    const auto [persons, names] = row<QString, QString>();
     std::vector<LabelPerson> all;
-    for (const QString &person : persons)
+    for (const QString &person : persons.split(u' '))
         all.push_back({person.section(u'/', 0, 0), person.section(u'/', 1)});
-    QTEST(LabelPages::names(all), "names");
-}
-
-void TestLabelSheet::sharesLabelsByAddress_data()
-{
-    QTest::addColumn<LabelSharing>("sharing");
-    QTest::addColumn<QStringList>("labels");
-    const QString oak = u"9 Oak Lane\nAshford, NL 75944"_s;
-    QTest::newRow("shared") << LabelSharing::OneForAnAddress
-                            << QStringList{u"Anne & Karl Miller\n"_s + oak,
-                                           u"Ida Miller\n9 Oak Lane\nFlat 2\nAshford, NL 75944"_s};
-    QTest::newRow("each") << LabelSharing::EachTheirOwn
-                          << QStringList{u"Anne Miller\n"_s + oak,
-                                         u"Ida Miller\n9 Oak Lane\nFlat 2\nAshford, NL 75944"_s,
-                                         u"Karl Miller\n9 OAK Lane\nAshford, NL 75944"_s};
+    QCOMPARE(LabelPages::names(all), names);
 }
 
 void TestLabelSheet::sharesLabelsByAddress()
@@ -136,58 +117,59 @@ void TestLabelSheet::sharesLabelsByAddress()
     AddressViewer viewer(files.folder(), DateStyle::Usa);
     viewer.load(Information::HomePhone, {});
 
-    QFETCH(LabelSharing, sharing);
-    const LabelTexts labels = LabelTexts::of(viewer, sharing);
-    QTEST(QStringList(labels.texts.begin(), labels.texts.end()), "labels");
-    QCOMPARE(labels.leftOut, 2);
+    const auto texts = [&viewer](LabelSharing sharing) {
+        const LabelTexts labels = LabelTexts::of(viewer, sharing);
+        return QStringList(labels.texts.begin(), labels.texts.end());
+    };
+    const QString anne = u"Anne Miller\n9 Oak Lane\nAshford, NL 75944"_s;
+    const QString ida = u"Ida Miller\n9 Oak Lane\nFlat 2\nAshford, NL 75944"_s;
+    const QString karl = u"Karl Miller\n9 OAK Lane\nAshford, NL 75944"_s;
+    QCOMPARE(texts(LabelSharing::EachTheirOwn), QStringList({anne, ida, karl}));
+    QCOMPARE(texts(LabelSharing::OneForAnAddress),
+             QStringList({QString(anne).replace(u"Anne"_s, u"Anne & Karl"_s), ida}));
+    QCOMPARE(LabelTexts::of(viewer, LabelSharing::EachTheirOwn).leftOut, 2);
+    QCOMPARE(LabelTexts::of(viewer, LabelSharing::OneForAnAddress).leftOut, 2);
 }
 
 void TestLabelSheet::neverLosesTheTown_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("set");
-    QTest::addColumn<TextRole>("role");
-    QTest::addColumn<bool>("isShortened");
-    const auto row = [](const char *name, const QString &text, const QString &set, TextRole role,
-                        bool isShortened) { QTest::newRow(name) << text << set << role << isShortened; };
-    row("all fits", u"Anne\nOak Lane 9 B\nAshford"_s, u"Anne\nOak Lane 9\n B\nAshford"_s, TextRole::Body,
-        false);
-    row("in small type", u"Anne Miller\nOak Lane 123\nFlat 2\nAshford"_s,
-        u"Anne Miller\nOak Lane 123\nFlat 2\nAshford"_s, TextRole::Small, false);
-    row("names too long", u"Anne, Karl, Ida, Bo & Jo Miller\nOak Lane 123\nFlat 2\nAshford"_s,
-        u"Anne, Karl, \nIda, Bo & J~\nOak Lane 123\nFlat 2\nAshford"_s, TextRole::Small, true);
-    row("names give way", u"Anne, Karl & Ida\nOak Lane 123\nFlat 2\nAshford, NL 75944"_s,
-        u"Anne, Karl ~\nOak Lane 123\nFlat 2\nAshford, NL \n75944"_s, TextRole::Small, true);
-    row("the street, too", u"Anne, Karl & Ida\nOak Lane 12345\nFlat 2\nAshford, NL 75944"_s,
-        u"Anne, Karl ~\nOak Lane 12~\nFlat 2\nAshford, NL \n75944"_s, TextRole::Small, true);
+    rows<QString, QString, TextRole, bool>({
+        {"all fits", u"Anne\nOak Lane 9 B\nAshford"_s, u"Anne\nOak Lane 9\n B\nAshford"_s, TextRole::Body,
+         false},
+        {"in small type", u"Anne Miller\nOak Lane 123\nFlat 2\nAshford"_s,
+         u"Anne Miller\nOak Lane 123\nFlat 2\nAshford"_s, TextRole::Small, false},
+        {"names too long", u"Anne, Karl, Ida, Bo & Jo Miller\nOak Lane 123\nFlat 2\nAshford"_s,
+         u"Anne, Karl, \nIda, Bo & J~\nOak Lane 123\nFlat 2\nAshford"_s, TextRole::Small, true},
+        {"names give way", u"Anne, Karl & Ida\nOak Lane 123\nFlat 2\nAshford, NL 75944"_s,
+         u"Anne, Karl ~\nOak Lane 123\nFlat 2\nAshford, NL \n75944"_s, TextRole::Small, true},
+        {"the street, too", u"Anne, Karl & Ida\nOak Lane 12345\nFlat 2\nAshford, NL 75944"_s,
+         u"Anne, Karl ~\nOak Lane 12~\nFlat 2\nAshford, NL \n75944"_s, TextRole::Small, true},
+    });
 }
 
 void TestLabelSheet::neverLosesTheTown()
 {
-    QFETCH(QString, text);
+    const auto [text, set, role, isShortened] = row<QString, QString, TextRole, bool>();
     const SetLabel label = LabelPages::fitted(text, smallRoom());
-    QTEST(label.text, "set");
-    QTEST(label.role, "role");
-    QTEST(label.isShortened, "isShortened");
+    QCOMPARE(label.text, set);
+    QCOMPARE(label.role, role);
+    QCOMPARE(label.isShortened, isShortened);
 }
 
 void TestLabelSheet::startsOnAUsedSheet_data()
 {
-    QTest::addColumn<int>("labels");
-    QTest::addColumn<int>("used");
-    QTest::addColumn<int>("sheets");
-    QTest::newRow("a full sheet") << 21 << 0 << 1;
-    QTest::newRow("one more") << 22 << 0 << 2;
-    QTest::newRow("the last place") << 1 << 20 << 1;
-    QTest::newRow("over the edge") << 2 << 20 << 2;
-    QTest::newRow("none") << 0 << 0 << 1;
+    rows<int, int, int>({
+        {"a full sheet", 21, 0, 1},
+        {"one more", 22, 0, 2},
+        {"the last place", 1, 20, 1},
+        {"over the edge", 2, 20, 2},
+        {"none", 0, 0, 1},
+    });
 }
 
 void TestLabelSheet::startsOnAUsedSheet()
 {
-    QFETCH(int, labels);
-    QFETCH(int, used);
-    QFETCH(int, sheets);
+    const auto [labels, used, sheets] = row<int, int, int>();
     const LabelSheet &sheet = sheetNamed(u"3 x 7"_s);
     LabelPages::Options options;
     options.used = used;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/indexline.h"
 #include "addressbook/model/namelist.h"
-
-#include <QTest>
+#include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -59,63 +58,57 @@ void TestNameList::keepsItsLinesApart()
 
 void TestNameList::searchesAnywhereAndWithoutCase_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("position");
-    QTest::newRow("start of a line") << u"quill"_s << 0;
-    QTest::newRow("inside a line") << u"ILL"_s << 0;
-    QTest::newRow("the first of several") << u"miller"_s << 1;
-    QTest::newRow("accents keep their case alike") << u"MÜLLER"_s << 3;
-    QTest::newRow("composed of two") << u"mu\u0308ller"_s << 3;
-    QTest::newRow("ring and stroke") << u"åNGSTRÖM, BJØRN"_s << 4;
-    QTest::newRow("a capital beyond Latin-1") << u"\u0178"_s << 5;
-    QTest::newRow("a letter without a capital") << u"stra\u00DF"_s << 5;
-    QTest::newRow("two letters are not one") << u"strass"_s << -1;
-    QTest::newRow("the number") << u" 14"_s << 3;
-    QTest::newRow("across two lines") << u"2Miller"_s << -1;
-    QTest::newRow("blanks count") << u" Anne"_s << 1;
-    QTest::newRow("no line has it") << u"Wintergreen"_s << -1;
-    QTest::newRow("what no file can hold") << u"Ωmega"_s << -1;
-    QTest::newRow("longer than a line") << QString(100, u'a') << -1;
-    QTest::newRow("nothing") << QString() << 0;
+    rows<QString, int>({
+        {"inside a line", u"ILL"_s, 0},
+        {"the first of several", u"miller"_s, 1},
+        {"accents keep their case alike", u"MÜLLER"_s, 3},
+        {"composed of two", u"mu\u0308ller"_s, 3},
+        {"ring and stroke", u"åNGSTRÖM, BJØRN"_s, 4},
+        {"a capital beyond Latin-1", u"\u0178"_s, 5},
+        {"a letter without a capital", u"stra\u00DF"_s, 5},
+        {"two letters are not one", u"strass"_s, -1},
+        {"the number", u" 14"_s, 3},
+        {"across two lines", u"2Miller"_s, -1},
+        {"blanks count", u" Anne"_s, 1},
+        {"what no file can hold", u"Ωmega"_s, -1},
+        {"longer than a line", QString(100, u'a'), -1},
+        {"nothing", {}, 0},
+    });
 }
 
 void TestNameList::searchesAnywhereAndWithoutCase()
 {
-    QFETCH(QString, text);
+    const auto [text, position] = row<QString, int>();
     const NameList list =
         listOf({IndexLine::make(u"Quill", u"David", 2), IndexLine::make(u"Miller", u"Anne", 4),
                 IndexLine::make(u"Miller", u"Anne", 8), IndexLine::make(u"Müller", u"Karl", 14),
                 IndexLine::make(u"Ångström", u"Bjørn", 23), IndexLine::make(u"Straß", u"L\u00FF", 24)});
-    QTEST(list.find(text), "position");
+    QCOMPARE(list.find(text), position);
     QCOMPARE(NameList().find(text), -1);
 }
 
 void TestNameList::searchesLongLists_data()
 {
-    QTest::addColumn<int>("lines");
-    QTest::addColumn<QList<int>>("matches");
-    QTest::addColumn<int>("selected");
-    QTest::newRow("2000 lines: the first") << 2000 << QList<int>{5, 700, 1999} << 5;
-    QTest::newRow("2001 lines: the first") << 2001 << QList<int>{5, 2000} << 5;
-    QTest::newRow("2002 lines: position 2001 is passed over") << 2002 << QList<int>{5, 2001} << 5;
-    QTest::newRow("2003 lines: the match at 2002") << 2003 << QList<int>{5, 700, 2002} << 2002;
-    QTest::newRow("2003 lines: no further match") << 2003 << QList<int>{700, 701} << 700;
-    QTest::newRow("2003 lines: only position 2001") << 2003 << QList<int>{2001} << 2001;
-    QTest::newRow("5000 lines: the first beyond the bound")
-        << 5000 << QList<int>{5, 2001, 3000, 4999} << 3000;
-    QTest::newRow("5000 lines: all beyond the bound") << 5000 << QList<int>{2002, 4000} << 2002;
-    QTest::newRow("5000 lines: the last") << 5000 << QList<int>{4999} << 4999;
-    QTest::newRow("5000 lines: none") << 5000 << QList<int>{} << -1;
+    using Matches = QList<int>;
+    rows<int, Matches, int>({
+        {"2001 lines: the first", 2001, Matches({5, 2000}), 5},
+        {"2002 lines: position 2001 is passed over", 2002, Matches({5, 2001}), 5},
+        {"2003 lines: the match at 2002", 2003, Matches({5, 700, 2002}), 2002},
+        {"2003 lines: no further match", 2003, Matches({700, 701}), 700},
+        {"2003 lines: only position 2001", 2003, Matches({2001}), 2001},
+        {"5000 lines: the first beyond the bound", 5000, Matches({5, 2001, 3000, 4999}), 3000},
+        {"5000 lines: all beyond the bound", 5000, Matches({2002, 4000}), 2002},
+        {"5000 lines: none", 5000, {}, -1},
+    });
 }
 
 void TestNameList::searchesLongLists()
 {
-    QFETCH(int, lines);
-    QFETCH(QList<int>, matches);
+    const auto [lines, matches, selected] = row<int, QList<int>, int>();
     NameList list;
     for (int i = 0; i < lines; ++i)
         list.append(matches.contains(i) ? u"Lind, Anne" : u"Quill, David");
-    QTEST(list.find(u"anne"), "selected");
+    QCOMPARE(list.find(u"anne"), selected);
 }
 
 void TestNameList::listsWithinBytesItIsGiven()

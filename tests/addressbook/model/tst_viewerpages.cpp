@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "addressbook/model/viewermessages.h"
 #include "addressbook/model/viewerpages.h"
 #include "tests/addressbook/model/addressrecords.h"
 #include "tests/support/pageitems.h"
-
-#include <QTest>
+#include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,9 +24,7 @@ private slots:
     void placesPicturesOnOtherSheets();
     void scalesPictures_data();
     void scalesPictures();
-    void copiesHeadingsAndRows();
     void exportsBytes();
-    void namesTheExport_data();
     void namesTheExport();
 
 private:
@@ -40,12 +36,13 @@ namespace {
 
 const PageContext context{{}, DateStyle::Usa, QDate(2026, 11, 21), {}};
 
-QList<QStringList> rowsOf(const Page &page)
+/// A line for each row, its cells parted by bars.
+QString rowsOf(const Page &page)
 {
-    QList<QStringList> rows;
+    QStringList rows;
     for (const auto &row : itemsOf<PageItem::Row>(page))
-        rows << row.cells;
-    return rows;
+        rows << row.cells.join(u'|');
+    return rows.join(u'\n');
 }
 
 std::vector<ListedPicture> pictures(int count)
@@ -73,51 +70,39 @@ void TestViewerPages::init()
 
 void TestViewerPages::headsTheColumns_data()
 {
-    QTest::addColumn<Information>("information");
-    QTest::addColumn<DateStyle>("style");
-    QTest::addColumn<QString>("heading");
-    QTest::newRow("USA") << Information::Address << DateStyle::Usa
-                         << u"Address, Address Line 2, City, State, Zip Code"_s;
-    QTest::newRow("OTHER") << Information::Address << DateStyle::Other
-                           << u"Address, Address Line 2, Suburb, Town/City, Postal Code"_s;
-    QTest::newRow("fax") << Information::FaxNumber << DateStyle::Other << u"Fax Number"_s;
-    QTest::newRow("pictures") << Information::Pictures << DateStyle::Usa << QString();
+    rows<Information, DateStyle, QString>({
+        {"USA", Information::Address, DateStyle::Usa, u"Address, Address Line 2, City, State, Zip Code"_s},
+        {"OTHER", Information::Address, DateStyle::Other,
+         u"Address, Address Line 2, Suburb, Town/City, Postal Code"_s},
+        {"pictures", Information::Pictures, DateStyle::Usa, {}},
+    });
 }
 
 void TestViewerPages::headsTheColumns()
 {
-    QFETCH(Information, information);
-    QFETCH(DateStyle, style);
-    QTEST(ViewerPages::heading(information, style), "heading");
+    const auto [information, style, heading] = row<Information, DateStyle, QString>();
+    QCOMPARE(ViewerPages::heading(information, style), heading);
 }
 
 void TestViewerPages::listsWhatIsShown_data()
 {
-    QTest::addColumn<Information>("information");
-    QTest::addColumn<bool>("telephones");
-    QTest::addColumn<QList<QStringList>>("rows");
-    const QString anne = u"Lind, Anne"_s, karl = u"Müller, Karl"_s, mats = u"Holm, Mats"_s;
-    const QList<QStringList> called{
-        {u"Lind, Anne    Phone: 555-0142"_s}, {u"Müller, Karl    Phone: 555-0187"_s}, {mats}};
-    QTest::newRow("information") << Information::State << false
-                                 << QList<QStringList>{{anne, u"NL"_s}, {karl, QString()}, {mats, u"WI"_s}};
-    QTest::newRow("telephones too") << Information::State << true
-                                    << QList<QStringList>{{called[0][0], u"NL"_s},
-                                                          {called[1][0], QString()},
-                                                          {mats, u"WI"_s}};
-    QTest::newRow("home numbers once") << Information::HomePhone << true << called;
-    QTest::newRow("pictures have no column")
-        << Information::Pictures << false << QList<QStringList>{{anne}, {karl}, {mats}};
+    rows<Information, bool, QString>({
+        {"information", Information::State, false, u"Lind, Anne|NL\nMüller, Karl|\nHolm, Mats|WI"_s},
+        {"telephones too", Information::State, true,
+         u"Lind, Anne    Phone: 555-0142|NL\nMüller, Karl    Phone: 555-0187|\nHolm, Mats|WI"_s},
+        {"home numbers once", Information::HomePhone, true,
+         u"Lind, Anne    Phone: 555-0142\nMüller, Karl    Phone: 555-0187\nHolm, Mats"_s},
+        {"pictures have no column", Information::Pictures, false, u"Lind, Anne\nMüller, Karl\nHolm, Mats"_s},
+    });
 }
 
 void TestViewerPages::listsWhatIsShown()
 {
-    QFETCH(Information, information);
-    QFETCH(bool, telephones);
+    const auto [information, telephones, shown] = row<Information, bool, QString>();
     m_viewer->load(information, {});
     ViewerPages::ListOptions options;
     options.hasTelephones = telephones;
-    QTEST(rowsOf(ViewerPages::list(*m_viewer, options, context)), "rows");
+    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, options, context)), shown);
 }
 
 void TestViewerPages::followsTheOptions()
@@ -144,12 +129,10 @@ void TestViewerPages::followsTheOptions()
 void TestViewerPages::saysWhenNothingIsLeft()
 {
     m_viewer->search(u"nobody"_s);
-    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, context)),
-             QList<QStringList>{{u"No Matches were Found!"_s}});
+    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, context)), u"No Matches were Found!"_s);
     m_viewer->load(Information::State, {DisplayRange::BirthMonth, 4});
     m_viewer->search({});
-    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, context)),
-             QList<QStringList>{{u"No Names Found with Info..."_s}});
+    QCOMPARE(rowsOf(ViewerPages::list(*m_viewer, {}, context)), u"No Names Found with Info..."_s);
 }
 
 void TestViewerPages::placesPicturesToTheHundredth()
@@ -172,21 +155,18 @@ void TestViewerPages::placesPicturesToTheHundredth()
 
 void TestViewerPages::placesPicturesOnOtherSheets_data()
 {
-    QTest::addColumn<QSizeF>("paper");
-    QTest::addColumn<PageSetup::Orientation>("orientation");
-    QTest::addColumn<int>("perSheet");
-    QTest::newRow("letter") << QSizeF(8.5, 11) << PageSetup::Portrait << 20;
-    QTest::newRow("A4") << QSizeF(8.27, 11.69) << PageSetup::Portrait << 20;
-    QTest::newRow("letter, landscape") << QSizeF(8.5, 11) << PageSetup::Landscape << 15;
-    QTest::newRow("A4, landscape") << QSizeF(8.27, 11.69) << PageSetup::Landscape << 15;
-    QTest::newRow("smaller than one place") << QSizeF(1.5, 1.5) << PageSetup::Portrait << 1;
+    rows<QSizeF, PageSetup::Orientation, int>({
+        {"letter", QSizeF(8.5, 11), PageSetup::Portrait, 20},
+        {"A4", QSizeF(8.27, 11.69), PageSetup::Portrait, 20},
+        {"letter, landscape", QSizeF(8.5, 11), PageSetup::Landscape, 15},
+        {"A4, landscape", QSizeF(8.27, 11.69), PageSetup::Landscape, 15},
+        {"smaller than one place", QSizeF(1.5, 1.5), PageSetup::Portrait, 1},
+    });
 }
 
 void TestViewerPages::placesPicturesOnOtherSheets()
 {
-    QFETCH(QSizeF, paper);
-    QFETCH(PageSetup::Orientation, orientation);
-    QFETCH(int, perSheet);
+    const auto [paper, orientation, perSheet] = row<QSizeF, PageSetup::Orientation, int>();
     const PageSetup setup{paper, orientation};
     const Page page =
         ViewerPages::pictureList(pictures(perSheet + 1), {setup, context.style, context.today, {}});
@@ -199,29 +179,22 @@ void TestViewerPages::placesPicturesOnOtherSheets()
 
 void TestViewerPages::scalesPictures_data()
 {
-    QTest::addColumn<QSize>("pixels");
-    QTest::addColumn<QSizeF>("inches");
-    QTest::newRow("16.54 % of its size") << QSize(900, 560) << QSizeF(1.550625, 0.964833);
-    QTest::newRow("as far as its place allows") << QSize(4000, 3000) << QSizeF(1.333333, 1);
-    QTest::newRow("a panorama") << QSize(8000, 1000) << QSizeF(1.8, 0.225);
-    QTest::newRow("not below an inch") << QSize(64, 80) << QSizeF(0.8, 1);
-    QTest::newRow("without a file") << QSize() << QSizeF(1.8, 1);
+    rows<QSize, QSizeF>({
+        {"16.54 % of its size", QSize(900, 560), QSizeF(1.550625, 0.964833)},
+        {"as far as its place allows", QSize(4000, 3000), QSizeF(1.333333, 1)},
+        {"a panorama", QSize(8000, 1000), QSizeF(1.8, 0.225)},
+        {"not below an inch", QSize(64, 80), QSizeF(0.8, 1)},
+        {"without a file", QSize(), QSizeF(1.8, 1)},
+    });
 }
 
 void TestViewerPages::scalesPictures()
 {
-    QFETCH(QSize, pixels);
-    QFETCH(QSizeF, inches);
+    const auto [pixels, inches] = row<QSize, QSizeF>();
     const Page page = ViewerPages::pictureList({{u"A"_s, QString(), pixels}}, context);
     const QSizeF size = itemsOf<PageItem::PlacedPicture>(page).constFirst().place.size();
     QVERIFY(std::abs(size.width() - inches.width()) < 0.0001);
     QVERIFY(std::abs(size.height() - inches.height()) < 0.0001);
-}
-
-void TestViewerPages::copiesHeadingsAndRows()
-{
-    QCOMPARE(ViewerPages::clipboardText(*m_viewer, DateStyle::Usa),
-             u"Name\tState\nLind, Anne\tNL\nMüller, Karl\t\nHolm, Mats\tWI\n"_s);
 }
 
 void TestViewerPages::exportsBytes()
@@ -232,18 +205,9 @@ void TestViewerPages::exportsBytes()
              "Lind, Anne\t14 Orchard Lane, Ashford, NL, 75944\r\nM\xFCller, Karl\t\r\nHolm, Mats\tWI\r\n");
 }
 
-void TestViewerPages::namesTheExport_data()
-{
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("the viewer") << ViewerMessages::viewerTitle() << u"Family-Friends Data Viewer.xls"_s;
-    QTest::newRow("what no file name holds") << u"a\\b:c\n?"_s << u"a-b-c--.xls"_s;
-}
-
 void TestViewerPages::namesTheExport()
 {
-    QFETCH(QString, title);
-    QTEST(ViewerPages::exportName(title), "name");
+    QCOMPARE(ViewerPages::exportName(u"a/b\\c:d\n?"_s), u"a-b-c-d--.xls"_s);
 }
 
 QTEST_GUILESS_MAIN(TestViewerPages)

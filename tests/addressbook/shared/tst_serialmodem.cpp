@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "addressbook/model/messages.h"
 #include "addressbook/shared/serialmodem.h"
-#include "shell/core/settings.h"
-#include "shell/core/settingskeys.h"
+#include "tests/support/rows.h"
 
 #include <QElapsedTimer>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <array>
 #include <cstdlib>
 #include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
 
 /// A serial line whose other end the test holds.
 class PseudoLine
@@ -60,37 +58,6 @@ private:
     QString m_device;
 };
 
-/// A person who dials, and the modem at the other end of the line: it answers what it hears.
-class Caller final : public CallDesk
-{
-public:
-    explicit Caller(const PseudoLine &line)
-        : m_line(line)
-    {}
-
-    void setDialing(bool isDialing) override { isDialingShown = isDialing; }
-    Answer ask(const Message &message) override
-    {
-        asked.append(message);
-        heard.append(m_line.received());
-        if (!heard.last().isEmpty())
-            m_line.answer("\r\nOK\r\n");
-        return Answer::Cancel;
-    }
-    void portNotSaved() override {}
-    std::optional<QString> askPort(const QString &, int current) override
-    {
-        return QString::number(current + 1);
-    }
-
-    bool isDialingShown = false;
-    QList<Message> asked;
-    QList<QByteArray> heard;
-
-private:
-    const PseudoLine &m_line;
-};
-
 class TestSerialModem : public QObject
 {
     Q_OBJECT
@@ -103,41 +70,46 @@ private slots:
     void numbersTheDevices_data();
     void numbersTheDevices();
     void sendsBytesAsTheyAre();
-    void opensAgainAfterClosing();
     void refusesWhatIsNoSerialLine_data();
     void refusesWhatIsNoSerialLine();
     void givesUpOnALineThatTakesNothing();
     void offersThePortsThatAreThere();
-    void callsOverTheLine();
 };
 
 void TestSerialModem::numbersTheDevices_data()
 {
-    QTest::addColumn<int>("port");
-    QTest::addColumn<QString>("device");
-    QTest::newRow("first serial port") << 1 << QStringLiteral("/dev/ttyS0");
-    QTest::newRow("last serial port") << 100 << QStringLiteral("/dev/ttyS99");
-    QTest::newRow("first USB modem") << 101 << QStringLiteral("/dev/ttyACM0");
-    QTest::newRow("third USB adapter") << 203 << QStringLiteral("/dev/ttyUSB2");
-    QTest::newRow("no port") << 0 << QString();
-    QTest::newRow("beyond all ports") << 301 << QString();
+    rows<int, QString>({
+        {"first serial port", 1, u"/dev/ttyS0"_s},
+        {"last serial port", 100, u"/dev/ttyS99"_s},
+        {"first USB modem", 101, u"/dev/ttyACM0"_s},
+        {"third USB adapter", 203, u"/dev/ttyUSB2"_s},
+        {"no port", 0, {}},
+        {"beyond all ports", 301, {}},
+    });
 }
 
 void TestSerialModem::numbersTheDevices()
 {
-    QFETCH(int, port);
-    QTEST(SerialModem::deviceOf(port), "device");
+    const auto [port, device] = row<int, QString>();
+    QCOMPARE(SerialModem::deviceOf(port), device);
 }
 
+/// The modem's answers do not come back to it, and a line that was closed is opened again.
 void TestSerialModem::sendsBytesAsTheyAre()
 {
     const PseudoLine line;
     SerialModem modem([&line](int port) { return port == 4 ? line.device() : QString(); });
     QVERIFY(!modem.open(1));
     QVERIFY(!modem.write("AT\r"));
-    QVERIFY(modem.open(4));
-    QVERIFY(modem.write("ATDT 555-1234;\r"));
-    QCOMPARE(line.received(), QByteArray("ATDT 555-1234;\r"));
+    for (int call = 0; call < 2; ++call) {
+        QVERIFY(modem.open(4));
+        QVERIFY(modem.write("ATDT 555-1234;\r"));
+        QCOMPARE(line.received(), "ATDT 555-1234;\r"_ba);
+        line.answer("\r\nOK\r\n");
+        QVERIFY(modem.write("ATH\r"));
+        QCOMPARE(line.received(), "ATH\r"_ba);
+        modem.close();
+    }
 
     const termios settings = line.settings();
     QCOMPARE(cfgetospeed(&settings), speed_t(B9600));
@@ -146,32 +118,21 @@ void TestSerialModem::sendsBytesAsTheyAre()
     QCOMPARE(settings.c_cflag & (PARENB | CSTOPB), tcflag_t(0));
 }
 
-void TestSerialModem::opensAgainAfterClosing()
-{
-    const PseudoLine line;
-    SerialModem modem([&line](int) { return line.device(); });
-    for (int i = 0; i < 2; ++i) {
-        QVERIFY(modem.open(1));
-        QVERIFY(modem.write("ATH\r"));
-        QCOMPARE(line.received(), QByteArray("ATH\r"));
-        modem.close();
-    }
-}
-
 void TestSerialModem::refusesWhatIsNoSerialLine_data()
 {
-    QTest::addColumn<QString>("device");
-    QTest::newRow("nothing there") << QStringLiteral("/dev/no-such-line");
-    QTest::newRow("a file") << QStringLiteral(QUILLERY_TEST_DATA "/household/expected.json");
-    QTest::newRow("a folder") << QStringLiteral(QUILLERY_TEST_DATA);
-    QTest::newRow("another device") << QStringLiteral("/dev/null");
-    QTest::newRow("no name") << QString();
+    rows<QString>({
+        {"nothing there", u"/dev/no-such-line"_s},
+        {"a file", QStringLiteral(QUILLERY_TEST_DATA "/household/expected.json")},
+        {"a folder", QStringLiteral(QUILLERY_TEST_DATA)},
+        {"another device", u"/dev/null"_s},
+        {"no name", {}},
+    });
 }
 
 void TestSerialModem::refusesWhatIsNoSerialLine()
 {
-    QFETCH(QString, device);
-    SerialModem modem([device](int) { return device; });
+    const auto [device] = row<QString>();
+    SerialModem modem([name = device](int) { return name; });
     QVERIFY(!modem.open(1));
 }
 
@@ -192,24 +153,7 @@ void TestSerialModem::offersThePortsThatAreThere()
 {
     const PseudoLine line;
     const SerialModem modem([&line](int port) { return port == 101 ? line.device() : QString(); });
-    QCOMPARE(modem.ports(), QStringList(QStringLiteral("101: ") + line.device().section(u'/', -1)));
-}
-
-void TestSerialModem::callsOverTheLine()
-{
-    const QTemporaryDir folder;
-    const DataFolder data(folder.path());
-    Settings settings(data);
-    const PseudoLine line;
-    Caller caller(line);
-    SerialModem modem([&line](int port) { return port == 2 ? line.device() : QString(); });
-    QCOMPARE(Dialling::call(QStringLiteral("555-1234"), modem, settings, caller), Dialling::Outcome::Called);
-    QCOMPARE(caller.asked, QList<Message>({AddressMessages::portNotAvailable(1),
-                                           AddressMessages::numberDialed(QStringLiteral("555-1234"))}));
-    QCOMPARE(caller.heard, QList<QByteArray>({"", "ATDT 555-1234;\r"}));
-    QCOMPARE(line.received(), QByteArray("ATH\r"));
-    QCOMPARE(settings.number(SettingsKeys::modemPort), 2);
-    QVERIFY(!caller.isDialingShown);
+    QCOMPARE(modem.ports(), QStringList(u"101: "_s + line.device().section(u'/', -1)));
 }
 
 QTEST_GUILESS_MAIN(TestSerialModem)
