@@ -4,19 +4,14 @@
 #include "addressbook/entry/entrywindow.h"
 #include "addressbook/entry/namelistmodel.h"
 #include "addressbook/model/messages.h"
-#include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "tests/support/openwindow.h"
 #include "tests/support/scriptedmodem.h"
-#include "tests/support/testprogram.h"
 
-#include <QAction>
-#include <QLabel>
 #include <QListView>
-#include <QPointer>
-#include <QPushButton>
 
 /// The address book's screen on a folder of its own, and the hands that work it.
-class OpenAddressBook : public QObject
+class OpenAddressBook : public OpenWindow<ADDBKVIEW>
 {
 protected:
     void open(TestProgram::Content content)
@@ -28,14 +23,7 @@ protected:
                                  [this] { return std::make_unique<ScriptedModem>(m_line); });
         showActive(*m_window);
     }
-    void close()
-    {
-        QVERIFY(m_test->dialogs.isDone());
-        delete m_window;
-    }
 
-    void click(const char *name) { QTest::mouseClick(control<QPushButton>(*m_window, name), Qt::LeftButton); }
-    void trigger(const char *name) { control<QAction>(*m_window, name)->trigger(); }
     /// Types any characters; the toolkit's own keyClicks takes ASCII only.
     static void typeInto(QWidget *box, const QString &text)
     {
@@ -56,11 +44,8 @@ protected:
         QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, place.center());
     }
 
-    FieldBox *box(int field) const
-    {
-        return control<FieldBox>(*m_window, qPrintable(QStringLiteral("Text1_%1").arg(field)));
-    }
-    QListView *list() const { return control<QListView>(*m_window, "List1"); }
+    FieldBox *box(int field) const { return find<FieldBox>("Text1_" + QByteArray::number(field)); }
+    QListView *list() const { return find<QListView>("List1"); }
     QString lineAt(int row) const
     {
         return list()->model()->index(row, 0).data(NameListModel::LineRole).toString();
@@ -69,13 +54,11 @@ protected:
     {
         return list()->selectionModel()->selectedRows().value(0).data().toString();
     }
-    QString count() const { return control<QLabel>(*m_window, "Label1")->text(); }
-    QString said() const { return m_window->findChild<ActivityBar *>()->message(); }
+    QString count() const { return labelText("Label1"); }
     /// In the button row, or in the title line of a narrow window.
     QString words() const
     {
-        return control<QLabel>(*control<QWidget>(*m_window, "buttonRow"), "rowWords")->text() +
-               control<QLabel>(*m_window, "titleWords")->text();
+        return control<QLabel>(*find<QWidget>("buttonRow"), "rowWords")->text() + labelText("titleWords");
     }
     QByteArray record(int number) const
     {
@@ -85,9 +68,6 @@ protected:
     {
         return m_test->bytes(QStringLiteral("Addbk2.Fil")).mid((number - 1) * 60, 60);
     }
-    QList<Message> asked() { return m_test->dialogs.takeShown(); }
 
-    std::unique_ptr<TestProgram> m_test;
-    QPointer<ADDBKVIEW> m_window;
     TelephoneLine m_line;
 };

@@ -2,23 +2,22 @@
 #include "addressbook/entry/picturepanel.h"
 #include "addressbook/model/messages.h"
 #include "shell/pictures/pictureframe.h"
-#include "tests/support/testprogram.h"
+#include "tests/support/openwindow.h"
 
 #include <QComboBox>
 #include <QImage>
-#include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 #include <QSignalSpy>
 
 using namespace Qt::Literals::StringLiterals;
 
-class TestPicturePanel : public QObject
+class TestPicturePanel : public OpenWindow<PicturePanel>
 {
     Q_OBJECT
 private slots:
     void init();
-    void startsWhereThePicturesAre_data();
+    void cleanup() { close(); }
+
     void startsWhereThePicturesAre();
     void listsPictureFilesOnly();
     void entersAPictureAndRemembersItsFolder();
@@ -29,17 +28,13 @@ private slots:
     void deletesOnlyAPictureThatIsThere();
 
 private:
+    void open();
     QString makePicture(const QString &name) const;
-    std::unique_ptr<PicturePanel> makePanel();
-    QStringList files(const PicturePanel &panel) const;
-    void choose(const PicturePanel &panel, const QString &name) const;
-    void openFolder(const PicturePanel &panel, int row) const;
-    QString shownFolder(const PicturePanel &panel) const
-    {
-        return control<QLabel>(panel, "picturePath")->text();
-    }
+    QStringList files() const;
+    void chooseFile(const QString &name) const;
+    void openFolder(int row) const;
+    QString shownFolder() const { return labelText("picturePath"); }
 
-    std::unique_ptr<TestProgram> m_test;
     QString m_album;
     QStringList m_drives;
 };
@@ -53,149 +48,132 @@ void TestPicturePanel::init()
     m_test->setBytes(u"GColor4.Fil"_s, (m_album + u"/\r\n"_s).toLatin1());
 }
 
+void TestPicturePanel::open()
+{
+    delete m_window;
+    m_window = new PicturePanel(m_test->program, [this] { return m_drives; });
+    m_window->resize(800, 500);
+    showActive(*m_window);
+    m_window->start(true);
+}
+
 QString TestPicturePanel::makePicture(const QString &name) const
 {
-    const QString path = m_album + u'/' + name;
     QImage image(40, 30, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
-    if (!image.save(path))
+    if (!image.save(m_album + u'/' + name))
         QTest::qFail("no picture", __FILE__, __LINE__);
-    return path;
+    return m_album + u'/' + name;
 }
 
-std::unique_ptr<PicturePanel> TestPicturePanel::makePanel()
-{
-    auto panel = std::make_unique<PicturePanel>(m_test->program, [this] { return m_drives; });
-    panel->resize(800, 500);
-    showActive(*panel);
-    panel->start(true);
-    return panel;
-}
-
-QStringList TestPicturePanel::files(const PicturePanel &panel) const
+QStringList TestPicturePanel::files() const
 {
     QStringList names;
-    const auto *list = control<QListWidget>(panel, "File1");
+    const auto *list = find<QListWidget>("File1");
     for (int row = 0; row < list->count(); ++row)
         names.append(list->item(row)->text());
     return names;
 }
 
-void TestPicturePanel::choose(const PicturePanel &panel, const QString &name) const
+void TestPicturePanel::chooseFile(const QString &name) const
 {
-    auto *list = control<QListWidget>(panel, "File1");
+    auto *list = find<QListWidget>("File1");
     list->setCurrentItem(list->findItems(name, Qt::MatchExactly).value(0));
 }
 
-void TestPicturePanel::openFolder(const PicturePanel &panel, int row) const
+void TestPicturePanel::openFolder(int row) const
 {
-    auto *folders = control<QListWidget>(panel, "Dir1");
+    auto *folders = find<QListWidget>("Dir1");
     folders->setFocus();
     folders->setCurrentRow(row);
     QTest::keyClick(folders, Qt::Key_Return);
 }
 
-void TestPicturePanel::startsWhereThePicturesAre_data()
-{
-    QTest::addColumn<bool>("isThere");
-    QTest::newRow("in the folder used last") << true;
-    QTest::newRow("in the household's folder when that is gone") << false;
-}
-
 void TestPicturePanel::startsWhereThePicturesAre()
 {
-    QFETCH(bool, isThere);
-    QVERIFY(QDir().mkpath(m_test->path(u"Pictures"_s)));
-    if (!isThere)
-        m_test->setBytes(u"GColor4.Fil"_s, "C:\\QUILLERY\\Pictures\\\r\n");
-    const auto panel = makePanel();
-    QCOMPARE(shownFolder(*panel), isThere ? m_album : m_test->path(u"Pictures"_s));
-    QCOMPARE(control<QComboBox>(*panel, "Drive1")->currentText(), m_test->temporary.path());
-    QVERIFY(m_test->dialogs.takeShown().isEmpty());
+    const QString household = m_test->path(u"Pictures"_s);
+    QVERIFY(QDir().mkpath(household));
+    open();
+    QCOMPARE(shownFolder(), m_album); // used last
+    QCOMPARE(find<QComboBox>("Drive1")->currentText(), m_test->temporary.path());
+    m_test->setBytes(u"GColor4.Fil"_s, "C:\\QUILLERY\\Pictures\\\r\n");
+    m_window->start(false);
+    QCOMPARE(shownFolder(), household);
+    QVERIFY(asked().isEmpty());
 }
 
 void TestPicturePanel::listsPictureFilesOnly()
 {
-    for (const char *name : {"b.jpg", "A.BMP", "c.Gif", "d.wmf", "e.EMF", "f.png", "notes.txt", "jpg"}) {
-        QFile file(m_album + u'/' + QString::fromLatin1(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    const auto panel = makePanel();
-    QCOMPARE(files(*panel), QStringList({u"A.BMP"_s, u"b.jpg"_s, u"c.Gif"_s, u"d.wmf"_s, u"e.EMF"_s}));
+    for (const char *name : {"b.jpg", "A.BMP", "c.Gif", "d.wmf", "e.EMF", "f.png", "notes.txt", "jpg"})
+        QVERIFY(makeFile(m_album + u'/' + QString::fromLatin1(name), {}));
+    open();
+    QCOMPARE(files(), QStringList({u"A.BMP"_s, u"b.jpg"_s, u"c.Gif"_s, u"d.wmf"_s, u"e.EMF"_s}));
 }
 
 void TestPicturePanel::entersAPictureAndRemembersItsFolder()
 {
     const QString path = makePicture(u"anne.jpg"_s);
-    QFile::remove(m_test->path(u"GColor4.Fil"_s));
-    const auto panel = makePanel();
-    m_test->setBytes(u"GColor4.Fil"_s, (m_album + u"/\r\n"_s).toLatin1());
-    panel->start(false);
-    QSignalSpy entered(panel.get(), &PicturePanel::pictureEntered);
-    QPushButton *enter = control<QPushButton>(*panel, "pictureEnter");
-    QVERIFY(!enter->isEnabled());
-    QVERIFY(!enter->toolTip().isEmpty());
-    choose(*panel, u"anne.jpg"_s);
-    QVERIFY(control<PictureFrame>(*panel, "picturePreview")->hasPicture());
-    QTest::mouseClick(enter, Qt::LeftButton);
-    QCOMPARE(entered.count(), 1);
-    QCOMPARE(entered.first().first().toString(), path);
+    open();
+    QVERIFY(QFile::remove(m_test->path(u"GColor4.Fil"_s)));
+    const QSignalSpy entered(m_window, &PicturePanel::pictureEntered);
+    QVERIFY(!isOffered("pictureEnter"));
+    QVERIFY(!find<QPushButton>("pictureEnter")->toolTip().isEmpty());
+    chooseFile(u"anne.jpg"_s);
+    QVERIFY(find<PictureFrame>("picturePreview")->hasPicture());
+    click("pictureEnter");
+    QCOMPARE(entered, QList<QVariantList>{{path}});
     QCOMPARE(m_test->bytes(u"GColor4.Fil"_s), (m_album + u"/\r\n"_s).toLatin1());
 }
 
 void TestPicturePanel::saysSoWhenAFileIsNoPicture()
 {
-    QFile file(m_album + u"/old.wmf"_s);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("\xd7\xcd\xc6\x9a not a picture here");
-    file.close();
-    const auto panel = makePanel();
-    choose(*panel, u"old.wmf"_s);
-    const auto *preview = control<PictureFrame>(*panel, "picturePreview");
+    QVERIFY(makeFile(m_album + u"/old.wmf"_s, "\xd7\xcd\xc6\x9a not a picture here"));
+    open();
+    chooseFile(u"old.wmf"_s);
+    const auto *preview = find<PictureFrame>("picturePreview");
     QVERIFY(!preview->hasPicture());
     QCOMPARE(preview->words(), u"Program is unable to load this file as a Picture File!!!"_s);
-    QVERIFY(!control<QPushButton>(*panel, "pictureEnter")->isEnabled());
+    QVERIFY(!isOffered("pictureEnter"));
 }
 
 void TestPicturePanel::walksThroughFolders()
 {
     QVERIFY(QDir(m_album).mkdir(u"summer"_s));
-    const auto panel = makePanel();
-    QCOMPARE(control<QListWidget>(*panel, "Dir1")->item(0)->text(), u".."_s);
-    openFolder(*panel, 1);
-    QCOMPARE(shownFolder(*panel), QString(m_album + u"/summer"_s));
-    openFolder(*panel, 0);
-    QCOMPARE(shownFolder(*panel), m_album);
+    open();
+    QCOMPARE(find<QListWidget>("Dir1")->item(0)->text(), u".."_s);
+    openFolder(1);
+    QCOMPARE(shownFolder(), QString(m_album + u"/summer"_s));
+    openFolder(0);
+    QCOMPARE(shownFolder(), m_album);
 }
 
 void TestPicturePanel::fallsBackFromWhatIsNotThere()
 {
     QVERIFY(QDir(m_album).mkdir(u"summer"_s));
     m_drives.append(m_test->temporary.filePath(u"pulled-out"_s));
-    const auto panel = makePanel();
+    open();
     QVERIFY(QDir(m_album).rmdir(u"summer"_s));
-    openFolder(*panel, 1);
-    QCOMPARE(m_test->dialogs.takeShown(), {AddressMessages::deviceUnavailable()});
-    QCOMPARE(shownFolder(*panel), m_test->temporary.path());
+    openFolder(1);
+    QCOMPARE(asked(), {AddressMessages::deviceUnavailable()});
+    QCOMPARE(shownFolder(), m_test->temporary.path());
 
-    auto *drives = control<QComboBox>(*panel, "Drive1");
+    auto *drives = find<QComboBox>("Drive1");
     drives->setFocus();
     QTest::keyClick(drives, Qt::Key_Down);
-    QCOMPARE(m_test->dialogs.takeShown(), {AddressMessages::driveUnavailable()});
+    QCOMPARE(asked(), {AddressMessages::driveUnavailable()});
     QCOMPARE(drives->currentIndex(), 0);
-    QCOMPARE(shownFolder(*panel), m_test->temporary.path());
+    QCOMPARE(shownFolder(), m_test->temporary.path());
 }
 
 void TestPicturePanel::refusesAPathThatNoEntryCanHold()
 {
-    makePicture(QString::fromUtf8("\xce\xb1\xce\xbd\xce\xbd\xce\xb1.jpg"));
+    makePicture(u"αννα.jpg"_s);
     makePicture(QString(180, u'x') + u".jpg"_s);
-    const auto panel = makePanel();
-    QSignalSpy entered(panel.get(), &PicturePanel::pictureEntered);
-    QSignalSpy said(panel.get(), &PicturePanel::said);
-    for (const QString &name : files(*panel)) {
-        choose(*panel, name);
-        QTest::mouseClick(control<QPushButton>(*panel, "pictureEnter"), Qt::LeftButton);
+    open();
+    const QSignalSpy entered(m_window, &PicturePanel::pictureEntered), said(m_window, &PicturePanel::said);
+    for (const QString &name : files()) {
+        chooseFile(name);
+        click("pictureEnter");
     }
     QCOMPARE(said.count(), 2);
     QCOMPARE(entered.count(), 0);
@@ -203,13 +181,12 @@ void TestPicturePanel::refusesAPathThatNoEntryCanHold()
 
 void TestPicturePanel::deletesOnlyAPictureThatIsThere()
 {
-    const auto panel = makePanel();
-    QSignalSpy deleted(panel.get(), &PicturePanel::pictureDeleted);
-    QPushButton *button = control<QPushButton>(*panel, "pictureDelete");
-    QTest::mouseClick(button, Qt::LeftButton);
+    open();
+    const QSignalSpy deleted(m_window, &PicturePanel::pictureDeleted);
+    click("pictureDelete");
     QCOMPARE(deleted.count(), 1);
-    panel->start(false);
-    QVERIFY(!button->isEnabled());
+    m_window->start(false);
+    QVERIFY(!isOffered("pictureDelete"));
 }
 
 QTEST_MAIN(TestPicturePanel)

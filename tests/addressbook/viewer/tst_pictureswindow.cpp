@@ -1,30 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/viewermessages.h"
 #include "addressbook/viewer/pictureswindow.h"
-#include "shell/controls/activitybar.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/pictures/picturegallery.h"
 #include "shell/preview/previewpane.h"
 #include "tests/addressbook/model/addressrecords.h"
-#include "tests/support/testprogram.h"
+#include "tests/support/openwindow.h"
 
-#include <QAction>
 #include <QDir>
 #include <QImage>
-#include <QLabel>
-#include <QPushButton>
 #include <QRandomGenerator>
 
 using namespace Qt::Literals::StringLiterals;
 
-class TestAddbkdisplay2 : public QObject
+class TestAddbkdisplay2 : public OpenWindow<ADDBKDISPLAY2>
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_test = std::make_unique<TestProgram>(TestProgram::Household); }
+    void cleanup() { close(); }
 
     void warnsOnce();
     void showsThePicturesPageByPage();
@@ -39,34 +35,17 @@ private slots:
 private:
     void open();
     void putPictures(const QStringList &stored);
-    void click(const char *name) { QTest::mouseClick(control<QPushButton>(*m_window, name), Qt::LeftButton); }
-    QString words(const char *name) const { return control<QLabel>(*m_window, name)->text(); }
-    PictureGallery *gallery() const { return control<PictureGallery>(*m_window, "pictures"); }
+    PictureGallery *gallery() const { return find<PictureGallery>("pictures"); }
     QString name(int index) const { return gallery()->model()->index(index, 0).data().toString(); }
     bool isSeen(int index) const;
-
-    std::unique_ptr<TestProgram> m_test;
-    QPointer<ADDBKDISPLAY2> m_window;
 };
-
-void TestAddbkdisplay2::init()
-{
-    m_test = std::make_unique<TestProgram>(TestProgram::Household);
-}
-
-void TestAddbkdisplay2::cleanup()
-{
-    delete m_window;
-    QVERIFY(m_test->dialogs.isDone());
-    m_test.reset();
-}
 
 void TestAddbkdisplay2::open()
 {
     m_window = new ADDBKDISPLAY2(m_test->program);
     showActive(*m_window);
     QList<Message> shown;
-    QVERIFY(QTest::qWaitFor([&] { return !(shown = m_test->dialogs.takeShown()).isEmpty(); }));
+    QVERIFY(QTest::qWaitFor([&] { return !(shown = asked()).isEmpty(); }));
     QCOMPARE(shown, {ViewerMessages::picturesRestraint()});
 }
 
@@ -99,14 +78,14 @@ void TestAddbkdisplay2::warnsOnce()
     m_window->hide();
     m_window->show();
     QCoreApplication::processEvents();
-    QVERIFY(m_test->dialogs.takeShown().isEmpty());
+    QVERIFY(asked().isEmpty());
 }
 
 void TestAddbkdisplay2::showsThePicturesPageByPage()
 {
     open();
-    QCOMPARE(words("picturePage"), u"Page 1 of 2"_s);
-    QCOMPARE(words("pictureTotal"), u" Total = 26"_s);
+    QCOMPARE(labelText("picturePage"), u"Page 1 of 2"_s);
+    QCOMPARE(labelText("pictureTotal"), u" Total = 26"_s);
     QCOMPARE(gallery()->model()->rowCount(), 20);
     QCOMPARE(name(0), u"Kessler, Tessa"_s);
     QTRY_COMPARE(gallery()->waitingCount(), 0);
@@ -118,16 +97,16 @@ void TestAddbkdisplay2::showsThePicturesPageByPage()
     const QRect tile = gallery()->visualRect(gallery()->model()->index(19, 0));
     QVERIFY(gallery()->viewport()->rect().contains(tile));
     QCOMPARE(tile.size(), gallery()->gridSize());
-    QVERIFY(!control<QPushButton>(*m_window, "previousPictures")->isEnabled());
+    QVERIFY(!isOffered("previousPictures"));
     click("nextPictures");
-    QCOMPARE(words("picturePage"), u"Page 2 of 2"_s);
+    QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
     QCOMPARE(gallery()->model()->rowCount(), 6);
     QCOMPARE(name(5), u"Calloway, Elisabeth"_s);
-    QVERIFY(!control<QPushButton>(*m_window, "nextPictures")->isEnabled());
+    QVERIFY(!isOffered("nextPictures"));
     QTest::keyClick(gallery(), Qt::Key_PageDown);
-    QCOMPARE(words("picturePage"), u"Page 2 of 2"_s);
+    QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
     QTest::keyClick(gallery(), Qt::Key_PageUp);
-    QCOMPARE(words("picturePage"), u"Page 1 of 2"_s);
+    QCOMPARE(labelText("picturePage"), u"Page 1 of 2"_s);
     QTRY_COMPARE(gallery()->waitingCount(), 0);
 }
 
@@ -135,16 +114,10 @@ void TestAddbkdisplay2::followsTheAddressBook()
 {
     open();
     click("nextPictures");
-    QWidget other;
-    showActive(other);
-    m_test->setBytes(u"Addbk2.Fil"_s,
-                     m_test->bytes(u"Addbk2.Fil"_s).replace("Kessler, Tessa", "####ler, Tessa"));
-    QFile file(m_test->path(u"Addbk2.Fil"_s));
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.setFileTime(QDateTime(QDate(2030, 1, 1), QTime()), QFileDevice::FileModificationTime));
-    showActive(*m_window);
-    QCOMPARE(words("pictureTotal"), u" Total = 25"_s);
-    QCOMPARE(words("picturePage"), u"Page 2 of 2"_s);
+    changeElsewhere(u"Addbk2.Fil"_s,
+                    m_test->bytes(u"Addbk2.Fil"_s).replace("Kessler, Tessa", "####ler, Tessa"));
+    QCOMPARE(labelText("pictureTotal"), u" Total = 25"_s);
+    QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
 }
 
 void TestAddbkdisplay2::enlargesAPicture()
@@ -152,8 +125,8 @@ void TestAddbkdisplay2::enlargesAPicture()
     open();
     gallery()->setCurrentIndex(gallery()->model()->index(1, 0));
     click("enlargePicture");
-    QCOMPARE(words("enlargedName"), u"Garland, Anne"_s);
-    QTRY_VERIFY(control<PictureFrame>(*m_window, "enlargedPicture")->hasPicture());
+    QCOMPARE(labelText("enlargedName"), u"Garland, Anne"_s);
+    QTRY_VERIFY(find<PictureFrame>("enlargedPicture")->hasPicture());
     QTest::keyClick(m_window, Qt::Key_Escape);
     QVERIFY(gallery()->hasFocus());
     QVERIFY(m_window->isVisible());
@@ -163,21 +136,21 @@ void TestAddbkdisplay2::printsThePageShown()
 {
     open();
     click("nextPictures");
-    control<QAction>(*m_window, "mOPrt")->trigger();
+    trigger("mOPrt");
     QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
     QCOMPARE(m_window->findChild<PreviewPane *>()->sheetCount(), 1);
-    control<QAction>(*m_window, "mOPrt")->trigger(); // the pictures of that preview are gone
+    trigger("mOPrt"); // the pictures of that preview are gone
     QVERIFY(!m_window->isPreviewShown());
 }
 
 void TestAddbkdisplay2::stopsMakingCopies()
 {
     open();
-    control<QAction>(*m_window, "mOPrt")->trigger();
+    trigger("mOPrt");
     emit m_window->findChild<ActivityBar *>()->stopRequested();
     QTest::qWait(200);
     QVERIFY(!m_window->isPreviewShown());
-    QCOMPARE(m_window->findChild<ActivityBar *>()->message(), u"Stopped"_s);
+    QCOMPARE(said(), u"Stopped"_s);
 }
 
 void TestAddbkdisplay2::survivesFilesThatAreNoPictures()
@@ -203,7 +176,7 @@ void TestAddbkdisplay2::survivesFilesThatAreNoPictures()
     QCOMPARE(gallery()->model()->rowCount(), 8);
     QTRY_COMPARE(gallery()->waitingCount(), 0);
     QVERIFY(!m_window->grab().isNull());
-    control<QAction>(*m_window, "mOPrt")->trigger();
+    trigger("mOPrt");
     QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
     QVERIFY(!m_window->grab().isNull());
 }
@@ -220,16 +193,16 @@ void TestAddbkdisplay2::neverWaitsForPhotographs()
     showActive(*m_window);
     QTRY_COMPARE_WITH_TIMEOUT(gallery()->waitingCount(), 0, 60000);
     QVERIFY(isSeen(2));
-    m_test->dialogs.takeShown();
+    asked();
 }
 
 void TestAddbkdisplay2::saysWhenThereIsNoPicture()
 {
     putPictures({});
     open();
-    QCOMPARE(words("picturePage"), u"Page 1 of 1"_s);
-    QVERIFY(!control<QPushButton>(*m_window, "enlargePicture")->isEnabled());
-    QVERIFY(!control<QAction>(*m_window, "mOPrt")->isEnabled());
+    QCOMPARE(labelText("picturePage"), u"Page 1 of 1"_s);
+    QVERIFY(!isOffered("enlargePicture"));
+    QVERIFY(!find<QAction>("mOPrt")->isEnabled());
 }
 
 QTEST_MAIN(TestAddbkdisplay2)

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/messages.h"
-#include "openviewer.h"
-#include "shell/controls/activitybar.h"
 #include "shell/preview/previewpane.h"
+#include "tests/addressbook/viewer/openviewer.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -52,26 +51,21 @@ void TestViewerOutput::copiesTheRows()
 
 void TestViewerOutput::exportsTheGrid_data()
 {
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("isInTheWay"); // a folder of the name
-    QTest::addColumn<QByteArray>("written");
-    QTest::addColumn<QString>("said");
-    QTest::newRow("saved") << Answer::Ok << false << QByteArray("Name\tState\r\nOrtega, Jos\xE9\tOH\r\n")
-                           << u"Saved as "_s;
-    QTest::newRow("cancelled") << Answer::Cancel << false << QByteArray("an older file") << QString();
-    QTest::newRow("failed") << Answer::Ok << true << QByteArray()
-                            << u"The file Family-Friends Data Viewer.xls could not be saved"_s;
+    rows<Answer, bool, QByteArray, QString>({
+        // a folder of the name is in the way
+        {"saved", Answer::Ok, false, "Name\tState\r\nOrtega, Jos\xE9\tOH\r\n", u"Saved as "_s},
+        {"cancelled", Answer::Cancel, false, "an older file", {}},
+        {"failed", Answer::Ok, true, {}, u"The file Family-Friends Data Viewer.xls could not be saved"_s},
+    });
 }
 
 void TestViewerOutput::exportsTheGrid()
 {
-    QFETCH(Answer, answer);
-    QFETCH(bool, isInTheWay);
-    QFETCH(QString, said);
+    const auto [answer, isInTheWay, written, words] = row<Answer, bool, QByteArray, QString>();
     const QString name = u"Family-Friends Data Viewer.xls"_s;
     if (isInTheWay) {
         QVERIFY(QDir(m_test->folder.path()).mkdir(name));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Family-Friends"_s));
+        expectWarning("Family-Friends");
     } else {
         m_test->setBytes(name, "an older file");
     }
@@ -82,15 +76,15 @@ void TestViewerOutput::exportsTheGrid()
     const Message notice = asked().constFirst();
     QCOMPARE(notice.title, u"Export File in Excel/Spreadsheet Format"_s);
     QVERIFY(notice.text.contains(m_test->folder.path()) && notice.text.contains(name));
-    QTEST(m_test->bytes(name), "written");
-    QVERIFY(said.isEmpty() || m_window->findChild<ActivityBar *>()->message().startsWith(said));
+    QCOMPARE(m_test->bytes(name), written);
+    QVERIFY(words.isEmpty() || said().startsWith(words));
 }
 
 void TestViewerOutput::printsTheListAsChosen()
 {
     choose(Information::State);
     trigger("mOPrt");
-    control<QRadioButton>(*m_window, "twoColumns")->click();
+    find<QRadioButton>("twoColumns")->click();
     click("printList");
     QVERIFY(m_window->isPreviewShown());
     auto *preview = m_window->findChild<PreviewPane *>();
@@ -103,8 +97,8 @@ void TestViewerOutput::printsTheListAsChosen()
     QTest::keyClick(preview, Qt::Key_Escape);
     QVERIFY(!m_window->isPreviewShown());
     for (const char *option : {"printTelephones", "printAsOf", "printGridLines"})
-        control<QCheckBox>(*m_window, option)->click();
-    control<QRadioButton>(*m_window, "oneColumn")->click();
+        find<QCheckBox>(option)->click();
+    find<QRadioButton>("oneColumn")->click();
     click("printList");
     const QString text = printedPage();
     QVERIFY(text.contains(u"Family/Friends State List - Page No. 1\tAs of  Saturday, November 21, 2026"_s));
@@ -127,22 +121,21 @@ void TestViewerOutput::makesLabels()
 {
     type(u"Drummond"_s);
     trigger("mOLab");
-    auto *sheets = control<QComboBox>(*m_window, "labelSheet");
+    auto *sheets = find<QComboBox>("labelSheet");
     QVERIFY(sheets->currentText().contains(u"US Letter"_s));
-    const auto words = [this] { return control<QLabel>(*m_window, "labelCount")->text(); };
-    QCOMPARE(words(), u"4 labels on 1 sheet"_s);
+    QCOMPARE(labelText("labelCount"), u"4 labels on 1 sheet"_s);
     type(u"Drummond, F"_s); // the labels follow the grid
-    QTRY_COMPARE(words(), u"1 label on 1 sheet"_s);
+    QTRY_COMPARE(labelText("labelCount"), u"1 label on 1 sheet"_s);
     type(u"Drummond"_s);
-    QTRY_COMPARE(words(), u"4 labels on 1 sheet"_s);
-    control<QSpinBox>(*m_window, "startPosition")->setValue(28);
-    QCOMPARE(words(), u"4 labels on 2 sheets"_s);
+    QTRY_COMPARE(labelText("labelCount"), u"4 labels on 1 sheet"_s);
+    find<QSpinBox>("startPosition")->setValue(28);
+    QCOMPARE(labelText("labelCount"), u"4 labels on 2 sheets"_s);
     m_test->dialogs.willChooseFile(m_test->temporary.filePath(u"labels.pdf"_s));
     click("printLabels");
     QVERIFY(QFile::exists(m_test->temporary.filePath(u"labels.pdf"_s)));
     sheets->setCurrentText(u"Envelope DL, 220 x 110 mm"_s);
-    QCOMPARE(words(), u"4 envelopes"_s);
-    QVERIFY(!control<QSpinBox>(*m_window, "startPosition")->isVisible());
+    QCOMPARE(labelText("labelCount"), u"4 envelopes"_s);
+    QVERIFY(!find<QSpinBox>("startPosition")->isVisible());
     QTest::keyClick(sheets, Qt::Key_Escape);
     QVERIFY(grid()->isVisible());
 }

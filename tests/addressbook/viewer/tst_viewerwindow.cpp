@@ -2,9 +2,8 @@
 #include "addressbook/entry/entrywindow.h"
 #include "addressbook/model/messages.h"
 #include "addressbook/model/viewermessages.h"
-#include "openviewer.h"
-#include "shell/controls/activitybar.h"
 #include "shell/core/area.h"
+#include "tests/addressbook/viewer/openviewer.h"
 
 #include <QComboBox>
 #include <QScrollArea>
@@ -30,24 +29,11 @@ private slots:
     void dialsTheHighlightedNumber();
     void opensTheMailProgram();
     void opensTheEntry();
-    void keepsAGuardedAddressBookClosed();
     void showsTheGridToItsCommands_data();
     void showsTheGridToItsCommands();
     void saysWhyACommandIsNotOffered();
     void keepsItsPanelColor();
     void fitsASmallWindow();
-
-private:
-    QString heading(int column) const
-    {
-        return grid()->model()->headerData(column, Qt::Horizontal).toString();
-    }
-    QString said() const { return m_window->findChild<ActivityBar *>()->message(); }
-    void addAddressBook()
-    {
-        m_test->functions.add(Function::AddressBook,
-                              {[](Program &program) { return new ADDBKVIEW(program); }, {}, {}, {}, {}});
-    }
 };
 
 void TestAddbkdisplay::opensWithEveryName()
@@ -65,49 +51,46 @@ void TestAddbkdisplay::opensWithEveryName()
 
 void TestAddbkdisplay::showsTheChosenInformation_data()
 {
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<QString>("heading");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("State") << 1 << u"State"_s << u"Germany"_s;
-    QTest::newRow("Home Phone") << 2 << u"Home Phone"_s << u"(440) 555-0100"_s;
-    QTest::newRow("Date of Birth") << 6 << u"Date of Birth"_s << u"Apr-21-1997"_s;
-    QTest::newRow("Pictures - Print Only") << 8 << QString() << QString();
+    rows<Information, QString, QString>({
+        {"State", Information::State, u"State"_s, u"Germany"_s},
+        {"Home Phone", Information::HomePhone, u"Home Phone"_s, u"(440) 555-0100"_s},
+        {"Date of Birth", Information::BirthDate, u"Date of Birth"_s, u"Apr-21-1997"_s},
+        {"Pictures - Print Only", Information::Pictures, {}, {}},
+    });
 }
 
 void TestAddbkdisplay::showsTheChosenInformation()
 {
-    QFETCH(int, choice);
+    const auto [information, head, text] = row<Information, QString, QString>();
     open();
     select(4, 1);
-    choose(Information(choice));
-    QCOMPARE(grid()->model()->columnCount(), choice == 8 ? 1 : 2);
-    QTEST(heading(1), "heading");
-    QTEST(cell(0, 1), "text");
-    QCOMPARE(control<QLabel>(*m_window, "informationChip")->text(),
-             QString::fromLatin1(QTest::currentDataTag()));
+    choose(information);
+    QCOMPARE(grid()->model()->columnCount(), head.isEmpty() ? 1 : 2);
+    QCOMPARE(grid()->model()->headerData(1, Qt::Horizontal).toString(), head);
+    QCOMPARE(cell(0, 1), text);
+    QCOMPARE(labelText("informationChip"), QString::fromLatin1(QTest::currentDataTag()));
     QCOMPARE(grid()->currentIndex().row(), 4);
 }
 
 void TestAddbkdisplay::asksForAMonth_data()
 {
-    QTest::addColumn<DisplayRange::Kind>("kind");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("question");
-    const QString birth = u"Please enter Birthday Month!"_s,
-                  anniversary = u"Please enter Anniversary Month!"_s;
-    QTest::newRow("birthday") << DisplayRange::BirthMonth << QString() << birth;
-    QTest::newRow("anniversary") << DisplayRange::AnniversaryMonth << QString() << anniversary;
-    QTest::newRow("no month") << DisplayRange::BirthMonth << u"Foo"_s << birth;
+    const QString birth = u"Please enter Birthday Month!"_s;
+    rows<DisplayRange::Kind, QByteArray, QString, QString>({
+        {"birthday", DisplayRange::BirthMonth, "birthMonth", {}, birth},
+        {"anniversary",
+         DisplayRange::AnniversaryMonth,
+         "anniversaryMonth",
+         {},
+         u"Please enter Anniversary Month!"_s},
+        {"no month", DisplayRange::BirthMonth, "birthMonth", u"Foo"_s, birth},
+    });
 }
 
 void TestAddbkdisplay::asksForAMonth()
 {
-    QFETCH(DisplayRange::Kind, kind);
-    QFETCH(QString, typed);
-    QFETCH(QString, question);
+    const auto [kind, box, typed, question] = row<DisplayRange::Kind, QByteArray, QString, QString>();
     open();
-    auto *month =
-        control<QComboBox>(*m_window, kind == DisplayRange::BirthMonth ? "birthMonth" : "anniversaryMonth");
+    auto *month = find<QComboBox>(box);
     month->setEditText(typed);
     chooseRange(kind);
     click("updateDisplay");
@@ -119,7 +102,7 @@ void TestAddbkdisplay::asksForAMonth()
 void TestAddbkdisplay::narrowsToAMonth()
 {
     open();
-    auto *month = control<QComboBox>(*m_window, "birthMonth");
+    auto *month = find<QComboBox>("birthMonth");
     month->setFocus();
     QTest::keyClicks(month->lineEdit(), u"april"_s); // which chooses the range, too
     QTest::keyClick(month->lineEdit(), Qt::Key_Return);
@@ -133,7 +116,7 @@ void TestAddbkdisplay::narrowsToAMonth()
     click("updateDisplay");
     QCOMPARE(count(), u"No. Of Names: 40"_s);
     // A month that has nobody.
-    control<QComboBox>(*m_window, "anniversaryMonth")->setCurrentText(u"Dec"_s);
+    find<QComboBox>("anniversaryMonth")->setCurrentText(u"Dec"_s);
     click("updateDisplay");
     QCOMPARE(grid()->model()->rowCount(), 1);
     QCOMPARE(cell(0, 0), u"No Names Found with Info..."_s);
@@ -150,7 +133,7 @@ void TestAddbkdisplay::searches()
     type(u"mill"_s);
     QCOMPARE(count(), u"No. Of Matches Found: 2"_s);
     QCOMPARE(mode(), u"Current Display Mode: &Search For: [mill]"_s);
-    QCOMPARE(control<QAction>(*m_window, "mOM")->text(), mode());
+    QCOMPARE(find<QAction>("mOM")->text(), mode());
     QCOMPARE(cell(1, 0), u"Miller, Anne"_s);
     click("searchButton");
     QVERIFY(grid()->hasFocus());
@@ -233,7 +216,8 @@ void TestAddbkdisplay::opensTheMailProgram()
 void TestAddbkdisplay::opensTheEntry()
 {
     open();
-    addAddressBook();
+    m_test->functions.add(Function::AddressBook,
+                          {[](Program &program) { return new ADDBKVIEW(program); }, {}, {}, {}, {}});
     const QPoint place = grid()->visualRect(grid()->model()->index(4, 0)).center();
     QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(grid()->viewport(), Qt::LeftButton, {}, place);
@@ -244,12 +228,6 @@ void TestAddbkdisplay::opensTheEntry()
     click("openEntry");
     QCOMPARE(control<QLineEdit>(*windows.first(), "Text1_0")->text(), u"Ortega"_s);
     delete windows.first();
-}
-
-void TestAddbkdisplay::keepsAGuardedAddressBookClosed()
-{
-    open();
-    addAddressBook();
     m_test->gate = AccessGate(
         [](Program &program, QWidget *) { program.state.passwordGateResult = PasswordGateResult::Refused; });
     m_test->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
@@ -259,21 +237,18 @@ void TestAddbkdisplay::keepsAGuardedAddressBookClosed()
 
 void TestAddbkdisplay::showsTheGridToItsCommands_data()
 {
-    QTest::addColumn<bool>("isPreview");
-    QTest::addColumn<QByteArray>("panel");
-    QTest::addColumn<QByteArray>("command"); // none: the search
-    QTest::newRow("delete, preview") << true << QByteArray("mOPrt") << QByteArray("mODel");
-    QTest::newRow("delete, labels") << false << QByteArray("mOLab") << QByteArray("mEDel");
-    QTest::newRow("mode, preview") << true << QByteArray("mOPrt") << QByteArray("mOM");
-    QTest::newRow("sort, preview") << true << QByteArray("mOPrt") << QByteArray("mOSName");
-    QTest::newRow("search, print options") << false << QByteArray("mOPrt") << QByteArray();
+    rows<bool, QByteArray, QByteArray>({
+        {"delete, preview", true, "mOPrt", "mODel"},
+        {"delete, labels", false, "mOLab", "mEDel"},
+        {"mode, preview", true, "mOPrt", "mOM"},
+        {"sort, preview", true, "mOPrt", "mOSName"},
+        {"search, print options", false, "mOPrt", {}},
+    });
 }
 
 void TestAddbkdisplay::showsTheGridToItsCommands()
 {
-    QFETCH(bool, isPreview);
-    QFETCH(QByteArray, panel);
-    QFETCH(QByteArray, command);
+    const auto [isPreview, panel, command] = row<bool, QByteArray, QByteArray>();
     open();
     trigger(panel);
     if (isPreview)
@@ -297,7 +272,7 @@ void TestAddbkdisplay::saysWhyACommandIsNotOffered()
     open();
     for (const char *name : {"Image2", "writeMail"}) {
         QVERIFY(!isOffered(name));
-        QVERIFY(control<QPushButton>(*m_window, name)->toolTip().startsWith(u"Choose"_s));
+        QVERIFY(find<QPushButton>(name)->toolTip().startsWith(u"Choose"_s));
     }
     // A name too long for its line leads to no entry.
     select(rowWhere(0, [](const QString &name) { return name.endsWith(u"Xenia"_s); }));
@@ -317,7 +292,7 @@ void TestAddbkdisplay::keepsItsPanelColor()
                                                                           "197121",
                                                                           8));
     show();
-    QCOMPARE(control<QWidget>(*m_window, "Panel3D1")->palette().color(QPalette::Window), QColor(1, 2, 3));
+    QCOMPARE(find<QWidget>("Panel3D1")->palette().color(QPalette::Window), QColor(1, 2, 3));
 }
 
 void TestAddbkdisplay::fitsASmallWindow()
@@ -326,13 +301,13 @@ void TestAddbkdisplay::fitsASmallWindow()
     m_window->resize(800, 600);
     QCOMPARE(m_window->size(), QSize(800, 600));
     const auto isWhole = [this](const char *name) {
-        const auto *scroll = control<QScrollArea>(*m_window, name);
+        const auto *scroll = find<QScrollArea>(name);
         return scroll->viewport()->width() >= scroll->widget()->minimumSizeHint().width();
     };
     QVERIFY(isWhole("choicesScroll"));
     type(u"a text longer than its button"_s);
     QCoreApplication::processEvents();
-    const auto *button = control<QPushButton>(*m_window, "displayMode");
+    const auto *button = find<QPushButton>("displayMode");
     QVERIFY(mode().contains(u"[a"_s) && button->width() >= button->sizeHint().width());
     searchBox()->clear();
     trigger("mOLab");
