@@ -30,6 +30,13 @@ inline QString output(const QString &tool, const QStringList &arguments)
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
+/// The text of each sheet of a PDF, as it stands there.
+inline QStringList pdfSheets(const QString &path)
+{
+    return output(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")})
+        .split(u'\f', Qt::SkipEmptyParts);
+}
+
 /// Prints the page into a PDF at `path` and returns the path.
 inline QString savePdf(const QString &path, const Page &page, const PageSetup &setup = {})
 {

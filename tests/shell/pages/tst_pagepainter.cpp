@@ -56,10 +56,6 @@ private:
     {
         return savePdf(m_folder->filePath(u"page.pdf"_s), page, setup);
     }
-    QString pdfText(const QString &path) const
-    {
-        return output(u"pdftotext"_s, {u"-layout"_s, path, u"-"_s});
-    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -119,7 +115,7 @@ void TestPagePainter::everyTextIsOnItsSheetOnce()
 
 void TestPagePainter::repeatsTitleAndHeadings()
 {
-    const QStringList sheets = pdfText(pdf(numbered(60))).split(u'\f', Qt::SkipEmptyParts);
+    const QStringList sheets = pdfSheets(pdf(numbered(60)));
     QCOMPARE(sheets.size(), 2);
     for (int i = 0; i < sheets.size(); ++i) {
         QVERIFY(sheets[i].contains(u"Family List"_s));
@@ -160,7 +156,7 @@ void TestPagePainter::pdfsAreReadInOrder()
     page.line(u"Señor Núñez – café “Bœuf” €"_s, TextRole::Small).blank(u"Last Name:"_s);
     page.close(printedOn, DateStyle::Other);
     const QString path = pdf(page);
-    QStringList lines = pdfText(path).remove(u'\f').split(u'\n', Qt::SkipEmptyParts);
+    QStringList lines = pdfSheets(path).join(u'\n').split(u'\n', Qt::SkipEmptyParts);
     for (QString &line : lines)
         line = line.simplified();
     QCOMPARE(lines,
@@ -186,7 +182,7 @@ void TestPagePainter::printersBreakAsImagesDo()
         printer.setResolution(resolution);
         printer.setOutputFileName(path);
         QVERIFY(painter.print(printer));
-        const QStringList sheets = pdfText(path).split(u'\f', Qt::SkipEmptyParts);
+        const QStringList sheets = pdfSheets(path);
         QCOMPARE(sheets.size(), expected.size());
         for (int i = 0; i + 1 < sheets.size(); ++i)
             QVERIFY(sheets[i].contains(QRegularExpression(u" %1\n"_s.arg(expected[i]))));

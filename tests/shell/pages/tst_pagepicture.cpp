@@ -2,6 +2,7 @@
 #include "tests/support/rows.h"
 #include "tests/support/sheettools.h"
 #include "tests/support/testfiles.h"
+#include "tests/support/testpictures.h"
 
 #include <cmath>
 
@@ -28,19 +29,8 @@ private slots:
     void turnsPicturesAsTheCameraWasHeld();
 
 private:
-    QString picture(QSize size, const QString &name = u"picture.png"_s) const;
-
     std::unique_ptr<TestFolder> m_files;
 };
-
-QString TestPagePicture::picture(QSize size, const QString &name) const
-{
-    const QString path = m_files->path(name);
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(red);
-    image.save(path);
-    return path;
-}
 
 void TestPagePicture::putsPicturesToTheHundredthOfAnInch_data()
 {
@@ -57,7 +47,8 @@ void TestPagePicture::putsPicturesToTheHundredthOfAnInch()
 {
     const auto [size, place, expected] = row<QSize, QRectF, QRectF>();
     constexpr double dotsPerInch = 200;
-    const Page page = Page(u"Pictures"_s).placePicture(place, picture(size));
+    const QString path = makePicture(m_files->path(u"picture.png"_s), size, red);
+    const Page page = Page(u"Pictures"_s).placePicture(place, path);
     const QImage onScreen = PagePainter(page, {}, bodyFont()).image(0, dotsPerInch);
     QCOMPARE(onScreen.size(), (letter * dotsPerInch).toSize());
     const QRectF ink = inkOf(onScreen, red, dotsPerInch);
@@ -105,7 +96,7 @@ void TestPagePicture::leavesAnEmptyPlaceForPicturesThatCannotBeRead()
 void TestPagePicture::turnsPicturesAsTheCameraWasHeld()
 {
     // A picture that lies on its side, with the mark of a camera held upright before its data.
-    const QString path = picture({40, 20}, u"upright.jpg"_s);
+    const QString path = makePicture(m_files->path(u"upright.jpg"_s), {40, 20}, red);
     QByteArray bytes = m_files->bytes(u"upright.jpg"_s);
     bytes.insert(2, QByteArray::fromHex("ffe10022457869660000" // an Exif part of 34 bytes
                                         "4d4d002a00000008"     // big endian, its directory at 8

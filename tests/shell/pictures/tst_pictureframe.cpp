@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/enlargedpicture.h"
 #include "shell/pictures/pictureframe.h"
+#include "tests/support/testpictures.h"
 #include "tests/support/testprogram.h"
-
-#include <QImage>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,24 +14,12 @@ private slots:
     void enlargesWhatWasAskedForLast();
 
 private:
-    QString makePicture(const QString &name, QSize size) const;
-
     TestProgram m_test;
 };
 
-QString TestPictureFrame::makePicture(const QString &name, QSize size) const
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    const QString path = m_test.path(name);
-    if (!image.save(path))
-        QTest::qFail("no picture", __FILE__, __LINE__);
-    return path;
-}
-
 void TestPictureFrame::readsPicturesThatAreTooLargeInTheirScale()
 {
-    const QString path = makePicture(u"large.jpg"_s, {5000, 2500});
+    const QString path = makePicture(m_test.path(u"large.jpg"_s), {5000, 2500});
     QCOMPARE(PictureFile::read(path, {400, 400}).size(), QSize(400, 200));
     QVERIFY(PictureFile::read(m_test.path({}), {400, 400}).isNull());
     QVERIFY(PictureFile::read(m_test.path(u"none.jpg"_s), {400, 400}).isNull());
@@ -45,7 +32,7 @@ void TestPictureFrame::enlargesWhatWasAskedForLast()
     const auto *name = control<QLabel>(enlarged, "enlargedName");
     enlarged.resize(400, 300);
     enlarged.show();
-    enlarged.enlarge(makePicture(u"slow.jpg"_s, {5000, 2500}), u"Anne"_s);
+    enlarged.enlarge(makePicture(m_test.path(u"slow.jpg"_s), {5000, 2500}), u"Anne"_s);
     QVERIFY(name->isVisible());
     QVERIFY(!frame->words().isEmpty());
     enlarged.enlarge(m_test.path(u"none.jpg"_s));

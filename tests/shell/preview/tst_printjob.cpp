@@ -10,19 +10,15 @@
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace SheetTools;
 
 namespace {
-
-QStringList sheetsOf(const QString &pdf)
-{
-    return SheetTools::output(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s}).split(u'\f', Qt::SkipEmptyParts);
-}
 
 /// The numbers that "Page n of m" gives to the sheets of a PDF, in its order.
 QList<int> pageNumbers(const QString &pdf)
 {
     QList<int> numbers;
-    for (const QString &sheet : sheetsOf(pdf))
+    for (const QString &sheet : pdfSheets(pdf))
         numbers << sheet.mid(sheet.lastIndexOf(u"Page "_s) + 5).section(u' ', 0, 0).toInt();
     return numbers;
 }
@@ -41,7 +37,6 @@ private slots:
     void savesAPdfWithoutAPrinter_data();
     void savesAPdfWithoutAPrinter();
     void leavesAFileAloneThatNobodyAgreedToReplace();
-    void proposesANameThatFileSystemsTake();
     void saysQuietlyThatAPdfCannotBeSaved();
     void printsWhatTheDialogAskedFor_data();
     void printsWhatTheDialogAskedFor();
@@ -72,24 +67,27 @@ bool TestPrintJob::print(const std::function<void(QPrinter &)> &choose, bool isC
 
 void TestPrintJob::savesAPdfWithoutAPrinter_data()
 {
-    rows<QString, QString>({
-        {"as typed", u"names.pdf"_s, u"names.pdf"_s},
-        {"without the suffix", u"names"_s, u"names.pdf"_s},
-        {"another spelling of it", u"names.PDF"_s, u"names.PDF"_s},
-        {"a dot in the name", u"names 11.2026"_s, u"names 11.2026.pdf"_s},
+    const QString title = u"Name List"_s, proposed = u"Name List.pdf"_s, pdf = u"names.pdf"_s;
+    rows<QString, QString, QString, QString>({
+        {"as typed", title, proposed, pdf, pdf},
+        {"without the suffix", title, proposed, u"names"_s, pdf},
+        {"another spelling of it", title, proposed, u"names.PDF"_s, u"names.PDF"_s},
+        {"a dot in the name", title, proposed, u"names 11.2026"_s, u"names 11.2026.pdf"_s},
+        {"a title that no file system takes", u"../Miller/Anne: \"list\"\n"_s, u"-Miller-Anne- -list--.pdf"_s,
+         pdf, pdf},
     });
 }
 
 void TestPrintJob::savesAPdfWithoutAPrinter()
 {
-    const auto [typed, written] = row<QString, QString>();
-    m_window->showList(60, u"Name List"_s);
+    const auto [title, proposed, typed, written] = row<QString, QString, QString, QString>();
+    m_window->showList(60, title);
     m_window->dialogs.willChooseFile(path(typed));
     m_window->click("SSCommand80_4");
     const QStringList asked = m_window->dialogs.takePrompts();
     QCOMPARE(asked.value(0), u"Print to File (PDF)"_s);
-    QCOMPARE(asked.value(1), QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-                                 .filePath(u"Name List.pdf"_s));
+    QCOMPARE(asked.value(1),
+             QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath(proposed));
     QCOMPARE(m_window->activity->message(), u"Saved as "_s + QDir::toNativeSeparators(path(written)));
     QCOMPARE(pageNumbers(path(written)), (QList<int>{1, 2}));
     QVERIFY(m_window->dialogs.takeShown().isEmpty());
@@ -106,15 +104,7 @@ void TestPrintJob::leavesAFileAloneThatNobodyAgreedToReplace()
     m_window->dialogs.willChooseFile(path(u"names"_s));
     QVERIFY(m_window->pane->print());
     QCOMPARE(contentOf(path(u"names.pdf"_s)), "mine");
-    QCOMPARE(sheetsOf(path(u"names (2).pdf"_s)).size(), 1);
-}
-
-void TestPrintJob::proposesANameThatFileSystemsTake()
-{
-    m_window->showList(1, u"../Miller/Anne: \"list\"\n"_s);
-    m_window->dialogs.willChooseFile({});
-    m_window->click("SSCommand80_4");
-    QCOMPARE(QFileInfo(m_window->dialogs.takePrompts().value(1)).fileName(), u"-Miller-Anne- -list--.pdf"_s);
+    QCOMPARE(pdfSheets(path(u"names (2).pdf"_s)).size(), 1);
 }
 
 void TestPrintJob::saysQuietlyThatAPdfCannotBeSaved()
@@ -182,7 +172,7 @@ void TestPrintJob::paginatesAnewForThePaperOfTheDialog()
     }));
     QCOMPARE(preset.id(), QPageSize::Letter);
     QCOMPARE(m_window->builtFor.constLast().orientation, PageSetup::Landscape);
-    QCOMPARE(sheetsOf(path(m_printed)).size(), 3);
+    QCOMPARE(pdfSheets(path(m_printed)).size(), 3);
     QCOMPARE(m_window->pane->setup().orientation, PageSetup::Portrait); // the preview stays as it is
     QCOMPARE(m_window->pane->sheetCount(), 2);
 }
@@ -198,19 +188,13 @@ void TestPrintJob::cancellingThePrintDialogPrintsNothing()
 void TestPrintJob::printingManySheetsCanBeStopped()
 {
     m_window->showList(2000);
-    QTimer::singleShot(0, this, [this] {
-        const QList<QPushButton *> buttons = m_window->activity->findChildren<QPushButton *>();
-        for (QPushButton *button : buttons) {
-            if (button->isVisible())
-                QTest::mouseClick(button, Qt::LeftButton);
-        }
-    });
+    auto *stop = control<QPushButton>(m_window->window, "statusStop");
+    QTimer::singleShot(0, stop, &QPushButton::click);
     m_window->dialogs.willChooseFile(path(u"names.pdf"_s));
     QVERIFY(!m_window->pane->print());
     QCOMPARE(m_window->activity->message(), PreviewMessages::printingStopped());
     QVERIFY(!QFile::exists(path(u"names.pdf"_s)));
-    for (const QPushButton *button : m_window->activity->findChildren<QPushButton *>())
-        QVERIFY(!button->isVisible());
+    QVERIFY(!stop->isVisible());
 }
 
 void TestPrintJob::nothingButStopListensWhilePrinting()
@@ -227,7 +211,7 @@ void TestPrintJob::nothingButStopListensWhilePrinting()
     QVERIFY(!isClosed);
     QCOMPARE(m_window->label("Panel3D80"), u" Portrait"_s);
     QCOMPARE(m_window->pane->currentSheet(), 0);
-    QCOMPARE(sheetsOf(path(u"names.pdf"_s)).size(), m_window->pane->sheetCount());
+    QCOMPARE(pdfSheets(path(u"names.pdf"_s)).size(), m_window->pane->sheetCount());
     m_window->click("SSCommand80_1"); // and all is as before
     QCOMPARE(m_window->label("Panel3D80"), u" Landscape"_s);
 }
