@@ -25,7 +25,11 @@ class SampleWindow final : public FunctionWindow
 {
 public:
     explicit SampleWindow(Program &program)
-        : FunctionWindow(program, traits())
+        : FunctionWindow(program, {u"SAMPLE"_s,
+                                   u"Sample Screen"_s,
+                                   u"Sample"_s,
+                                   {SettingsKeys::helpColor, SettingsKeys::helpProgramColor, {}},
+                                   1004})
         , m_views(new WorkViews(makePanel(u"panel"_s)))
         , m_box(named(new QLineEdit, u"box"_s))
         , m_over(named(new QLineEdit, u"over"_s))
@@ -41,15 +45,6 @@ public:
         finishFrame();
     }
     void openOver() { m_views->open(m_over); }
-
-    static WindowTraits traits()
-    {
-        return {u"SAMPLE"_s,
-                u"Sample Screen"_s,
-                u"Sample"_s,
-                {SettingsKeys::helpColor, SettingsKeys::helpProgramColor, {}},
-                1004};
-    }
 
     bool isModified() const override { return !m_box->text().isEmpty(); }
     using FunctionWindow::activity;
@@ -251,7 +246,6 @@ void TestFunctionWindow::opensOnceAndIsRaisedThen()
     FunctionEntry entry;
     entry.open = [](Program &program) -> QWidget * { return new SampleWindow(program); };
     functions.add(Function::Budget, entry);
-    QVERIFY(functions.has(Function::Budget) && !functions.has(Function::Journal));
     QPointer<QWidget> window = functions.open(Function::Budget, m_program->program);
     QCOMPARE(functions.open(Function::Budget, m_program->program), window.data());
     QCOMPARE(functions.openWindows(), QList<QWidget *>{window.data()});
