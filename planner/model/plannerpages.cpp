@@ -64,7 +64,7 @@ std::array<int, daysPerWeek> sharedRows(QDate start, const Days &days)
 
 QString weekTitle(QDate start, const PageContext &context)
 {
-    return u"Week of "_s + PlannerPages::rangeText(start, start.addDays(daysPerWeek - 1), context.style);
+    return u"Week of "_s + Dates::range(start, start.addDays(daysPerWeek - 1), context.style);
 }
 
 Page listedWeek(QDate start, const Days &days, const PageContext &context)
@@ -196,21 +196,6 @@ QDate PlannerPages::weekStart(QDate date, Qt::DayOfWeek firstDay)
     return date.addDays(-((date.dayOfWeek() - firstDay + daysPerWeek) % daysPerWeek));
 }
 
-QString PlannerPages::rangeText(QDate from, QDate to, DateStyle style)
-{
-    const bool sameYear = from.year() == to.year();
-    const bool sameMonth = sameYear && from.month() == to.month();
-    QString full = Dates::monthDayYear(to, style);
-    if (from == to)
-        return full;
-    const auto part = [&](QDate date, const QString &format) { return QLocale::c().toString(date, format); };
-    if (style == DateStyle::Usa) {
-        const QString end = sameMonth ? part(to, u"d, yyyy"_s) : full;
-        return part(from, sameYear ? u"MMMM d"_s : u"MMMM d, yyyy"_s) + u" to "_s + end;
-    }
-    return part(from, sameMonth ? u"d"_s : sameYear ? u"d MMMM"_s : u"d MMMM yyyy"_s) + u" to "_s + full;
-}
-
 Page PlannerPages::day(QDate date, const PlannerDay &entries, const PageContext &context)
 {
     Page page(Dates::longText(date, context.style), headRight(context));
@@ -235,7 +220,7 @@ Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, c
     const QDate first(date.year(), date.month(), 1);
     const QDate start = weekStart(first, firstDay);
     const int weeks = int(start.daysTo(first) + first.daysInMonth() + daysPerWeek - 1) / daysPerWeek;
-    Page page(QLocale::c().toString(first, u"MMMM yyyy"_s), headRight(context));
+    Page page(Dates::monthYear(first), headRight(context));
     const QRectF area = placedArea(context.setup);
     const QSizeF size(area.width() / daysPerWeek, (area.height() - headHeight) / weeks);
     for (int column = 0; column < daysPerWeek; ++column) {
@@ -260,7 +245,7 @@ Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, c
 
 Page PlannerPages::range(QDate from, QDate to, const Days &days, const PageContext &context)
 {
-    Page page(rangeText(from, to, context.style), headRight(context));
+    Page page(Dates::range(from, to, context.style), headRight(context));
     page.columns({1.7, 0.9, 4.9}, {u"Date"_s, u"Time"_s, u"Appointment or activity"_s},
                  {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft});
     bool isEmpty = true;

@@ -18,9 +18,6 @@ using Days = std::map<QDate, PlannerDay>;
 /// The first day of the week that `date` is in.
 QDate weekStart(QDate date, Qt::DayOfWeek firstDay);
 
-/// "November 16 to 22, 2026", or "16 to 22 November 2026"; months and years are told where they differ.
-QString rangeText(QDate from, QDate to, DateStyle style);
-
 /// The fourteen rows of `date`; empty ones are lines to write on.
 Page day(QDate date, const PlannerDay &entries, const PageContext &context);
 

@@ -10,7 +10,6 @@
 #include "shell/look/theme.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QTableView>
@@ -148,7 +147,7 @@ void MonthGrid::show(QDate date, const CalendarOptions &options, QDate today)
     m_model->setDays({start, weeks, daysPerWeek, first, last},
                      m_files.days(start, start.addDays(weeks * daysPerWeek - 1)), today);
     m_view->verticalHeader()->setVisible(options.showsWeekNumbers());
-    m_title->setTitle(QLocale::c().toString(first, u"MMMM yyyy"_s));
+    m_title->setTitle(Dates::monthYear(first));
     m_view->setCurrentIndex(m_model->indexOf(date));
 }
 

@@ -131,8 +131,7 @@ private:
 /// "Dec 28 - Jan 3, 2027", or "28 Dec - 3 Jan 2027".
 QString shortRange(QDate from, QDate to, DateStyle style)
 {
-    return Dates::shortText(from, style) + u" - "_s +
-           QLocale::c().toString(to, style == DateStyle::Usa ? u"MMM d, yyyy"_s : u"d MMM yyyy"_s);
+    return Dates::shortText(from, style) + u" - "_s + Dates::shortWithYear(to, style);
 }
 
 } // namespace
@@ -172,7 +171,7 @@ void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
     const QDate start = PlannerPages::weekStart(date, options.firstDay());
     const QDate end = start.addDays(daysPerWeek - 1);
     m_model->setDays({start, daysPerWeek, 1, start, end}, m_files.days(start, end), today);
-    m_title->setTitle(PlannerPages::rangeText(start, end, m_style), shortRange(start, end, m_style));
+    m_title->setTitle(Dates::range(start, end, m_style), shortRange(start, end, m_style));
     m_view->setCurrentIndex(m_model->indexOf(date));
 }
 

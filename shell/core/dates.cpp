@@ -157,6 +157,30 @@ QString Dates::shortText(QDate date, DateStyle style)
     return english(date, style == DateStyle::Usa ? u"MMM d" : u"d MMM");
 }
 
+QString Dates::shortWithYear(QDate date, DateStyle style)
+{
+    return english(date, style == DateStyle::Usa ? u"MMM d, yyyy" : u"d MMM yyyy");
+}
+
+QString Dates::monthYear(QDate date)
+{
+    return english(date, u"MMMM yyyy");
+}
+
+QString Dates::range(QDate from, QDate to, DateStyle style)
+{
+    const QString end = monthDayYear(to, style);
+    if (from == to)
+        return end;
+    const bool sameYear = from.year() == to.year();
+    const bool sameMonth = sameYear && from.month() == to.month();
+    if (style == DateStyle::Usa) {
+        const QString begin = english(from, sameYear ? u"MMMM d" : u"MMMM d, yyyy");
+        return begin + u" to "_s + (sameMonth ? english(to, u"d, yyyy") : end);
+    }
+    return english(from, sameMonth ? u"d" : sameYear ? u"d MMMM" : u"d MMMM yyyy") + u" to "_s + end;
+}
+
 QString Dates::nearDay(QDate date, QDate today)
 {
     if (!date.isValid() || !today.isValid())

@@ -43,6 +43,16 @@ QString statusText(QDate date, DateStyle style);
 /// "Nov 21", or "21 Nov" under `Other`.
 QString shortText(QDate date, DateStyle style);
 
+/// "Nov 21, 2026", or "21 Nov 2026" under `Other`.
+QString shortWithYear(QDate date, DateStyle style);
+
+/// "November 2026".
+QString monthYear(QDate date);
+
+/// "November 16 to 22, 2026", or "16 to 22 November 2026" under `Other`; months and years are told where they
+/// differ. A single day is its `monthDayYear`.
+QString range(QDate from, QDate to, DateStyle style);
+
 /// "today", "tomorrow", or "on Tuesday" within the six days after `today`; empty for any other date.
 QString nearDay(QDate date, QDate today);
 

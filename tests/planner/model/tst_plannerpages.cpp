@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/daylines.h"
 #include "planner/model/plannerpages.h"
+#include "shell/core/dates.h"
 
 #include <QTest>
 
@@ -75,8 +76,8 @@ void TestPlannerPages::tellsRangesOfDates()
 {
     QFETCH(QDate, from);
     QFETCH(QDate, to);
-    QTEST(PlannerPages::rangeText(from, to, DateStyle::Usa), "usa");
-    QTEST(PlannerPages::rangeText(from, to, DateStyle::Other), "other");
+    QTEST(Dates::range(from, to, DateStyle::Usa), "usa");
+    QTEST(Dates::range(from, to, DateStyle::Other), "other");
 }
 
 void TestPlannerPages::sharesTheLinesOfAPlace_data()
