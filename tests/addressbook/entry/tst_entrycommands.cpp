@@ -171,11 +171,6 @@ void TestAddbkcommands::dials()
     QVERIFY(m_test->dialogs.takePrompts().contains(AddressMessages::newPortPrompt()));
     QCOMPARE(m_test->settings.number(SettingsKeys::modemPort), 101);
     QVERIFY(m_line.log.contains(u"ATDT 440 555 0100;\r"_s));
-
-    m_line.workingPorts.clear();
-    m_test->dialogs.willInput(std::nullopt);
-    click("Image2_1");
-    QVERIFY(!find<QLabel>("Label3")->isVisible());
 }
 
 void TestAddbkcommands::copiesTheEntry()

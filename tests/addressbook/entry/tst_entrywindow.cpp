@@ -35,7 +35,6 @@ private slots:
     void keepsTheTextWhenSavingFails();
     void asksBeforeClearing();
     void deletesAfterAsking();
-    void asksBeforeItCloses();
 };
 
 void TestAddbkview::opensWithTheFirstName()
@@ -339,20 +338,6 @@ void TestAddbkview::deletesAfterAsking()
     QCOMPARE(count(), u" 39 - Entries "_s);
     QCOMPARE(selectedName(), u"Garland, Anne"_s);
     QCOMPARE(box(0)->text(), u"Garland"_s);
-}
-
-void TestAddbkview::asksBeforeItCloses()
-{
-    click("Command6");
-    type(0, u"Novak"_s);
-    m_test->dialogs.willAnswer(Answer::Cancel);
-    click("Command8");
-    QVERIFY(m_window && m_window->isVisible());
-    QCOMPARE(box(0)->text(), u"Novak"_s);
-    m_test->dialogs.willAnswer(Answer::Yes);
-    click("Command8");
-    QCOMPARE(record(24).first(40), padded("Novak", 40));
-    QTRY_VERIFY(!m_window);
 }
 
 QTEST_MAIN(TestAddbkview)

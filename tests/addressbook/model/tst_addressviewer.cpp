@@ -15,9 +15,7 @@ class TestAddressViewer : public QObject
     Q_OBJECT
 
 private slots:
-    void showsTheHousehold_data();
     void showsTheHousehold();
-    void narrowsTheHouseholdByMonth_data();
     void narrowsTheHouseholdByMonth();
     void searchesTheHousehold();
     void readsTheDayOfTheYear_data();
@@ -103,57 +101,38 @@ AddressViewer TestAddressViewer::viewerOfFour(Information information) const
     return viewer;
 }
 
-void TestAddressViewer::showsTheHousehold_data()
-{
-    rows<Information>({
-        {"Address", Information::Address},
-        {"State", Information::State},
-        {"Home Phone", Information::HomePhone},
-        {"Mobile Phone", Information::MobilePhone},
-        {"Fax Number", Information::FaxNumber},
-        {"Email Address", Information::EmailAddress},
-        {"Date of Birth", Information::BirthDate},
-        {"Anniversary Date", Information::AnniversaryDate},
-    });
-}
-
 void TestAddressViewer::showsTheHousehold()
 {
-    const auto [information] = row<Information>();
+    const QStringList choices{u"Address"_s,    u"State"_s,         u"Home Phone"_s,    u"Mobile Phone"_s,
+                              u"Fax Number"_s, u"Email Address"_s, u"Date of Birth"_s, u"Anniversary Date"_s};
     AddressViewer viewer(m_household, DateStyle::Usa);
-    viewer.load(information, everyone);
-    QStringList expected;
-    for (const QJsonValue &row :
-         m_expected["viewer"_L1][QString::fromLatin1(QTest::currentDataTag())].toArray())
-        expected << row[0].toString() + u'|' + row[1].toString();
-    QCOMPARE(expected.size(), 40);
-    QCOMPARE(rowsOf(viewer), expected);
-    QCOMPARE(u"No. Of Names: "_s + QString::number(viewer.count()),
-             m_expected["viewer_count_caption"_L1].toString());
-}
-
-void TestAddressViewer::narrowsTheHouseholdByMonth_data()
-{
-    const QJsonValue usa = m_expected["names_by_month"_L1]["USA"_L1];
-    const QJsonValue other = m_expected["names_by_month"_L1]["OTHER"_L1];
-    rows<DateStyle, DisplayRange::Kind, QJsonObject>({
-        {"birth, USA", DateStyle::Usa, DisplayRange::BirthMonth, usa["birth"_L1].toObject()},
-        {"birth, OTHER", DateStyle::Other, DisplayRange::BirthMonth, other["birth"_L1].toObject()},
-        {"wed, USA", DateStyle::Usa, DisplayRange::AnniversaryMonth, usa["anniversary"_L1].toObject()},
-        {"wed, OTHER", DateStyle::Other, DisplayRange::AnniversaryMonth, other["anniversary"_L1].toObject()},
-    });
+    for (qsizetype i = 0; i < choices.size(); ++i) {
+        viewer.load(Information(i), everyone);
+        QStringList expected;
+        for (const QJsonValue &row : m_expected["viewer"_L1][choices[i]].toArray())
+            expected << row[0].toString() + u'|' + row[1].toString();
+        QCOMPARE(expected.size(), 40);
+        QVERIFY2(rowsOf(viewer) == expected, qPrintable(choices[i]));
+    }
 }
 
 void TestAddressViewer::narrowsTheHouseholdByMonth()
 {
-    const auto [style, kind, expected] = row<DateStyle, DisplayRange::Kind, QJsonObject>();
-    AddressViewer viewer(m_household, style);
-    QCOMPARE(expected.size(), 12);
-    for (auto it = expected.begin(); it != expected.end(); ++it) {
-        // The choice of information has no part in it.
-        viewer.load(Information::HomePhone, {kind, DayOfYear::monthTyped(it.key())});
-        QCOMPARE(namesOf(viewer), it->toVariant().toStringList());
-        QCOMPARE(viewer.nameCount(), viewer.count());
+    for (const auto &[style, styleName] :
+         {std::pair(DateStyle::Usa, "USA"_L1), std::pair(DateStyle::Other, "OTHER"_L1)}) {
+        AddressViewer viewer(m_household, style);
+        for (const auto &[kind, kindName] : {std::pair(DisplayRange::BirthMonth, "birth"_L1),
+                                             std::pair(DisplayRange::AnniversaryMonth, "anniversary"_L1)}) {
+            const QJsonObject months = m_expected["names_by_month"_L1][styleName][kindName].toObject();
+            QCOMPARE(months.size(), 12);
+            for (auto it = months.begin(); it != months.end(); ++it) {
+                // The choice of information has no part in it.
+                viewer.load(Information::HomePhone, {kind, DayOfYear::monthTyped(it.key())});
+                QVERIFY2(namesOf(viewer) == it->toVariant().toStringList(),
+                         qPrintable(styleName + u' ' + kindName + u' ' + it.key()));
+                QCOMPARE(viewer.nameCount(), viewer.count());
+            }
+        }
     }
 }
 
@@ -266,11 +245,9 @@ void TestAddressViewer::searchesNamesAndInformation_data()
         {"inside a name", u"ABEL"_s, u"Za"_s},
         {"in the information", u"@x"_s, u"Za"_s},
         {"letters with accents", u"åNGSTRÖ"_s, u"Å"_s},
-        {"composed of two", u"A\u030Angstr"_s, u"Å"_s},
         {"blanks around it", u"  oto "_s, u"O"_s},
         {"not over both", u"Alal@"_s, {}},
         {"letters that no file holds", u"日本"_s, {}},
-        {"longer than any row", QString(500, u'x'), {}},
         {"the end of a row", u"ida@x.org"_s, u"Z"_s},
     });
 }

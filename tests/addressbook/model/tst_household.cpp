@@ -17,7 +17,6 @@ private slots:
     void init();
     void listsTheNames();
     void readsEveryEntry();
-    void searchesAsBefore_data();
     void searchesAsBefore();
     void keepsEveryOtherByteOnSaving();
     void keepsEveryOtherByteOnDeleting();
@@ -89,22 +88,15 @@ void TestHousehold::readsEveryEntry()
         QVERIFY2(book().read(it.key().toInt()) == entryOf(it->toObject()), qPrintable(it.key()));
 }
 
-void TestHousehold::searchesAsBefore_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("line");
-    for (const auto key : {"name_search_selects"_L1, "name_search_first_match"_L1}) {
-        const QJsonObject searches = m_expected[key].toObject();
-        for (auto it = searches.begin(); it != searches.end(); ++it)
-            QTest::newRow(qPrintable(key + u' ' + it.key())) << it.key() << it->toString();
-    }
-}
-
 void TestHousehold::searchesAsBefore()
 {
-    QFETCH(QString, text);
     const NameList names = book().loadNames();
-    QTEST(names.line(names.find(text)), "line");
+    for (const auto key : {"name_search_selects"_L1, "name_search_first_match"_L1}) {
+        const QJsonObject searches = m_expected[key].toObject();
+        QVERIFY(!searches.isEmpty());
+        for (auto it = searches.begin(); it != searches.end(); ++it)
+            QVERIFY2(names.line(names.find(it.key())) == it->toString(), qPrintable(it.key()));
+    }
 }
 
 void TestHousehold::keepsEveryOtherByteOnSaving()

@@ -67,7 +67,6 @@ private slots:
         if (!PseudoLine().isThere())
             QSKIP("no pseudo-terminals here");
     }
-    void numbersTheDevices_data();
     void numbersTheDevices();
     void sendsBytesAsTheyAre();
     void refusesWhatIsNoSerialLine_data();
@@ -76,22 +75,14 @@ private slots:
     void offersThePortsThatAreThere();
 };
 
-void TestSerialModem::numbersTheDevices_data()
-{
-    rows<int, QString>({
-        {"first serial port", 1, u"/dev/ttyS0"_s},
-        {"last serial port", 100, u"/dev/ttyS99"_s},
-        {"first USB modem", 101, u"/dev/ttyACM0"_s},
-        {"third USB adapter", 203, u"/dev/ttyUSB2"_s},
-        {"no port", 0, {}},
-        {"beyond all ports", 301, {}},
-    });
-}
-
 void TestSerialModem::numbersTheDevices()
 {
-    const auto [port, device] = row<int, QString>();
-    QCOMPARE(SerialModem::deviceOf(port), device);
+    QCOMPARE(SerialModem::deviceOf(1), u"/dev/ttyS0"_s);
+    QCOMPARE(SerialModem::deviceOf(100), u"/dev/ttyS99"_s);
+    QCOMPARE(SerialModem::deviceOf(101), u"/dev/ttyACM0"_s);
+    QCOMPARE(SerialModem::deviceOf(203), u"/dev/ttyUSB2"_s);
+    QCOMPARE(SerialModem::deviceOf(0), QString());
+    QCOMPARE(SerialModem::deviceOf(301), QString());
 }
 
 /// The modem's answers do not come back to it, and a line that was closed is opened again.

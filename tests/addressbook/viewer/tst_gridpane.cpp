@@ -16,8 +16,7 @@ private slots:
 
     void sortsByItsHeadings();
     void sortsByNothingUnseen();
-    void remembersTheNameColumn();
-    void keepsTheInformationInSight();
+    void keepsTheWidthOfTheNames();
     void walksThroughARowByTab();
     void showsWhatTheFilesHaveNow();
     void keepsToItsEntry_data();
@@ -66,7 +65,7 @@ void TestGridPane::sortsByNothingUnseen()
     QCOMPARE(cell(0, 0), first);
 }
 
-void TestGridPane::remembersTheNameColumn()
+void TestGridPane::keepsTheWidthOfTheNames()
 {
     open();
     grid()->horizontalHeader()->resizeSection(0, 217);
@@ -75,11 +74,7 @@ void TestGridPane::remembersTheNameColumn()
     QCOMPARE(grid()->columnWidth(0), 217);
     show();
     QCOMPARE(grid()->columnWidth(0), 217);
-}
-
-void TestGridPane::keepsTheInformationInSight()
-{
-    open();
+    // The information stays in sight; what was wished for is not forgotten.
     m_window->resize(1280, 800);
     grid()->horizontalHeader()->resizeSection(0, 5000);
     const int wide = grid()->columnWidth(0);
@@ -88,7 +83,7 @@ void TestGridPane::keepsTheInformationInSight()
     QTRY_VERIFY(grid()->columnWidth(0) < wide);
     QVERIFY(grid()->columnViewportPosition(1) + 100 <= grid()->viewport()->width());
     m_window->resize(1280, 800);
-    QTRY_COMPARE(grid()->columnWidth(0), wide); // what was wished for is not forgotten
+    QTRY_COMPARE(grid()->columnWidth(0), wide);
 }
 
 void TestGridPane::walksThroughARowByTab()
