@@ -169,7 +169,7 @@ QString Dates::monthYear(QDate date)
 
 QString Dates::range(QDate from, QDate to, DateStyle style)
 {
-    const QString end = monthDayYear(to, style);
+    QString end = monthDayYear(to, style);
     if (from == to)
         return end;
     const bool sameYear = from.year() == to.year();
