@@ -2,9 +2,6 @@
 #include "storage/filestamp.h"
 #include "tests/support/testfiles.h"
 
-#include <QTemporaryDir>
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 class TestFileStamp : public QObject
@@ -17,26 +14,23 @@ private slots:
 
 void TestFileStamp::tellsWhatHappenedToAFile()
 {
-    const QTemporaryDir dir;
-    const DataFolder folder(dir.path());
-    const QStringList names{u"Addbk1.Fil"_s, u"Addbk2.Fil"_s};
-    const QString path = dir.filePath(u"addbk2.fil"_s);
-    const auto stamp = [&] { return FileStamp::of(folder, names); };
+    const TestFolder disk;
+    const QString name = u"addbk2.fil"_s;
+    const auto stamp = [&] { return FileStamp::of(disk.folder(), {u"Addbk1.Fil"_s, u"Addbk2.Fil"_s}); };
 
     const FileStamp missing = stamp();
-    QCOMPARE(stamp(), missing);
-    QVERIFY(makeFile(path, "one"));
+    disk.put(name, "one");
     const FileStamp made = stamp();
     QVERIFY(made != missing);
     QCOMPARE(stamp(), made);
-    QVERIFY(makeFile(path, "longer"));
+    disk.put(name, "longer");
     const FileStamp longer = stamp();
     QVERIFY(longer != made);
 
-    QFile file(path);
+    QFile file(disk.path(name));
     QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.setFileTime(file.fileTime(QFileDevice::FileModificationTime).addSecs(-9),
-                             QFileDevice::FileModificationTime));
+    QVERIFY(file.setFileTime(file.fileTime(QFile::FileModificationTime).addSecs(-9),
+                             QFile::FileModificationTime));
     file.close();
     QVERIFY2(stamp() != longer, "as long as before, written at another time");
     QVERIFY(file.remove());

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/folderlock.h"
+#include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 
 #include <QDir>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,43 +19,40 @@ private slots:
     void takesOverTheLockOfADeadProgram();
     void takesOverADamagedLock_data();
     void takesOverADamagedLock();
-    void respectsADamagedLockThatIsHeld();
     void runsWhereNoLockCanBeMade();
 
 private:
     QString lockPath() const { return m_dir->filePath(u"Quillery.lock"_s); }
+    FolderLock lock() const { return FolderLock(DataFolder(m_dir->path())); }
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
 void TestFolderLock::onlyOneHoldsAFolder()
 {
-    const DataFolder folder(m_dir->path());
     {
-        FolderLock first(folder);
+        FolderLock first = lock();
         QVERIFY(first.take());
-        FolderLock second(folder);
-        QVERIFY(!second.take());
-        const QTemporaryDir otherDir;
-        FolderLock other{DataFolder(otherDir.path())};
-        QVERIFY(other.take());
+        QVERIFY(!lock().take());
+        const QTemporaryDir other;
+        QVERIFY(FolderLock(DataFolder(other.path())).take());
+        // A damaged lock is respected while it is held.
+        QVERIFY(makeFile(lockPath(), ""));
+        QVERIFY(!lock().take());
     }
-    FolderLock next(folder);
-    QVERIFY(next.take());
+    QVERIFY(lock().take());
 }
 
 void TestFolderLock::takesOverALockThatNobodyAnswersFor()
 {
-    const DataFolder folder(m_dir->path());
-    FolderLock held(folder);
+    FolderLock held = lock();
     QVERIFY(held.take());
     // A copy of the folder brings the lock of the program that runs on the original.
-    FolderLock lock(folder);
-    QVERIFY(!lock.take());
-    QVERIFY(lock.holder().contains(QString::number(QCoreApplication::applicationPid())));
-    QVERIFY(lock.takeOver());
-    FolderLock next(folder);
-    QVERIFY(!next.take());
+    FolderLock copied = lock();
+    QVERIFY(!copied.take());
+    QVERIFY(copied.holder().contains(QString::number(QCoreApplication::applicationPid())));
+    QVERIFY(copied.takeOver());
+    QVERIFY(!lock().take());
 }
 
 void TestFolderLock::takesOverTheLockOfADeadProgram()
@@ -65,51 +61,33 @@ void TestFolderLock::takesOverTheLockOfADeadProgram()
     process.start(u"sleep"_s, {u"60"_s});
     if (!process.waitForStarted())
         QSKIP("needs a program to end");
-    const qint64 id = process.processId();
+    const QByteArray id = QByteArray::number(process.processId());
     process.kill();
     QVERIFY(process.waitForFinished());
-    QVERIFY(makeFile(lockPath(),
-                     QByteArray::number(id) + "\nquillery\n" + QSysInfo::machineHostName().toUtf8() + '\n'));
-
-    FolderLock lock{DataFolder(m_dir->path())};
-    QVERIFY(lock.take());
+    QVERIFY(makeFile(lockPath(), id + "\nquillery\n" + QSysInfo::machineHostName().toUtf8() + '\n'));
+    QVERIFY(lock().take());
 }
 
 void TestFolderLock::takesOverADamagedLock_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("zeros") << QByteArray(64, '\0');
-    QTest::newRow("noise") << "\x9F\x01 no number\n"_ba;
+    rows<QByteArray>({{"empty", {}}, {"zeros", QByteArray(64, '\0')}, {"noise", "\x9F\x01 no number\n"}});
 }
 
 void TestFolderLock::takesOverADamagedLock()
 {
-    QFETCH(QByteArray, content);
+    const auto [content] = row<QByteArray>();
     QVERIFY(makeFile(lockPath(), content));
-    FolderLock lock{DataFolder(m_dir->path())};
-    QVERIFY(lock.take());
-}
-
-void TestFolderLock::respectsADamagedLockThatIsHeld()
-{
-    FolderLock first{DataFolder(m_dir->path())};
-    QVERIFY(first.take());
-    QVERIFY(makeFile(lockPath(), ""));
-    FolderLock second{DataFolder(m_dir->path())};
-    QVERIFY(!second.take());
+    QVERIFY(lock().take());
 }
 
 void TestFolderLock::runsWhereNoLockCanBeMade()
 {
     expectWarning("^Running without a lock");
-    FolderLock missing{DataFolder(m_dir->filePath(u"missing"_s))};
-    QVERIFY(missing.take());
+    QVERIFY(FolderLock(DataFolder(m_dir->filePath(u"missing"_s))).take());
 
     QVERIFY(QDir().mkdir(lockPath()));
     expectWarning("^Running without a lock");
-    FolderLock lock{DataFolder(m_dir->path())};
-    QVERIFY(lock.take());
+    QVERIFY(lock().take());
     QVERIFY(QFileInfo(lockPath()).isDir());
 }
 

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/saving.h"
 #include "tests/support/filesizelimit.h"
+#include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QDirIterator>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+using Files = QMap<QString, QByteArray>;
 
 const QString name = u"2026.Fil"_s;
 const QString part = name + u".quillery-part";
@@ -22,57 +23,60 @@ class TestSaving : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { m_dir = std::make_unique<QTemporaryDir>(); }
+    void init() { m_files = std::make_unique<TestFolder>(); }
     void replacesAFile();
-    void replacesTheFileOfAnotherSpelling();
     void keepsTheOldFileOnAFullDisk();
     void keepsAFolderInTheFilesPlace();
     void failsInAMissingFolder();
     void finishesWhatACrashInterrupted_data();
     void finishesWhatACrashInterrupted();
-    void recoversUnderAnotherSpelling();
 
 private:
-    QString path(const QString &file) const { return m_dir->filePath(file); }
-    QStringList files() const
+    /// All files of the folder, those of its folders too.
+    Files files() const;
+    [[nodiscard]] bool replace(const QString &file, const QByteArray &content) const
     {
-        return QDir(m_dir->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+        return Saving::replaceFile(m_files->folder(), file, content);
     }
 
-    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<TestFolder> m_files;
 };
+
+Files TestSaving::files() const
+{
+    const QDir folder(m_files->path({}));
+    Files files;
+    QDirIterator all(folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+        const QString path = all.next();
+        files[folder.relativeFilePath(path)] = contentOf(path);
+    }
+    return files;
+}
 
 void TestSaving::replacesAFile()
 {
-    const DataFolder folder(m_dir->path());
-    QVERIFY(Saving::replaceFile(folder, name, "first, longer"));
-    QCOMPARE(contentOf(path(name)), "first, longer"_ba);
-    QVERIFY(Saving::replaceFile(folder, name, "second"));
-    QCOMPARE(contentOf(path(name)), "second"_ba);
-    QVERIFY(Saving::replaceFile(folder, name, ""));
-    QCOMPARE(contentOf(path(name)), QByteArray());
-    QCOMPARE(files(), QStringList{name});
-}
-
-void TestSaving::replacesTheFileOfAnotherSpelling()
-{
-    QVERIFY(makeFile(path(u"WEIGHTTRKER.FIL"_s), "old"));
-    QVERIFY(Saving::replaceFile(DataFolder(m_dir->path()), u"WeightTrker.Fil"_s, "new"));
-    QCOMPARE(files(), QStringList{u"WEIGHTTRKER.FIL"_s});
-    QCOMPARE(contentOf(path(u"WEIGHTTRKER.FIL"_s)), "new"_ba);
+    m_files->put(u"WEIGHTTRKER.FIL"_s, "old");
+    QVERIFY(replace(u"WeightTrker.Fil"_s, "new"));
+    QVERIFY(replace(name, "first, longer"));
+    QCOMPARE(files(), (Files{{name, "first, longer"}, {u"WEIGHTTRKER.FIL"_s, "new"}}));
+    for (const QByteArray &content : {"second"_ba, ""_ba}) {
+        QVERIFY(replace(name, content));
+        QCOMPARE(files()[name], content);
+    }
+    QCOMPARE(files().size(), 2);
 }
 
 void TestSaving::keepsTheOldFileOnAFullDisk()
 {
 #ifdef Q_OS_UNIX
-    QVERIFY(makeFile(path(name), "old"));
+    m_files->put(name, "old");
     expectWarning("^Cannot write .*2026.Fil");
     {
         const FileSizeLimit limit(1024 * 1024);
-        QVERIFY(!Saving::replaceFile(DataFolder(m_dir->path()), name, QByteArray(1024 * 1024 + 1, 'x')));
+        QVERIFY(!replace(name, QByteArray(1024 * 1024 + 1, 'x')));
     }
-    QCOMPARE(contentOf(path(name)), "old"_ba);
-    QCOMPARE(files(), QStringList{name});
+    QCOMPARE(files(), (Files{{name, "old"}}));
 #else
     QSKIP("needs a limit on file sizes");
 #endif
@@ -80,59 +84,44 @@ void TestSaving::keepsTheOldFileOnAFullDisk()
 
 void TestSaving::keepsAFolderInTheFilesPlace()
 {
-    QVERIFY(QDir(m_dir->path()).mkdir(name));
-    QVERIFY(makeFile(path(name + u"/inside"), "kept"));
+    QVERIFY(QDir().mkdir(m_files->path(name)));
+    m_files->put(name + u"/inside", "kept");
     expectWarning("^Cannot replace .*2026.Fil");
-    QVERIFY(!Saving::replaceFile(DataFolder(m_dir->path()), name, "new"));
-    QCOMPARE(contentOf(path(name + u"/inside")), "kept"_ba);
-    QCOMPARE(files(), QStringList{name});
+    QVERIFY(!replace(name, "new"));
+    QCOMPARE(files(), (Files{{name + u"/inside", "kept"}}));
 }
 
 void TestSaving::failsInAMissingFolder()
 {
     expectWarning("^Cannot write .*2026.Fil");
-    QVERIFY(!Saving::replaceFile(DataFolder(path(u"missing"_s)), name, "new"));
-    QCOMPARE(files(), QStringList());
+    QVERIFY(!Saving::replaceFile(DataFolder(m_files->path(u"missing"_s)), name, "new"));
+    QVERIFY(!QFile::exists(m_files->path(u"missing"_s)));
 }
 
 void TestSaving::finishesWhatACrashInterrupted_data()
 {
-    using Files = QMap<QString, QByteArray>;
-    QTest::addColumn<Files>("before");
-    QTest::addColumn<Files>("after");
-    QTest::newRow("nothing happened") << Files{{name, "old"}} << Files{{name, "old"}};
-    QTest::newRow("while writing") << Files{{name, "old"}, {part, "ne"}} << Files{{name, "old"}};
-    QTest::newRow("while writing the first time") << Files{{part, "ne"}} << Files{};
-    QTest::newRow("all on disk, old file there")
-        << Files{{name, "old"}, {staged, "new"}} << Files{{name, "old"}};
-    QTest::newRow("old file gone") << Files{{staged, "new"}} << Files{{name, "new"}};
-    QTest::newRow("old file emptied") << Files{{name, ""}, {staged, "new"}} << Files{{name, "new"}};
-    QTest::newRow("files of others") << Files{{u"film.part"_s, "x"}, {u".quillery-part"_s, "x"}}
-                                     << Files{{u"film.part"_s, "x"}, {u".quillery-part"_s, "x"}};
+    const Files others{{u"film.part"_s, "x"}, {u".quillery-part"_s, "x"}};
+    rows<Files, Files>({
+        {"nothing happened", {{name, "old"}}, {{name, "old"}}},
+        {"while writing", {{name, "old"}, {part, "ne"}}, {{name, "old"}}},
+        {"while writing the first time", {{part, "ne"}}, {}},
+        {"all on disk, old file there", {{name, "old"}, {staged, "new"}}, {{name, "old"}}},
+        {"old file gone", {{staged, "new"}}, {{name, "new"}}},
+        {"old file emptied", {{name, ""}, {staged, "new"}}, {{name, "new"}}},
+        {"old file emptied, other spelling",
+         {{u"2026.FIL"_s, ""}, {staged, "new"}},
+         {{u"2026.FIL"_s, "new"}}},
+        {"files of others", others, others},
+    });
 }
 
 void TestSaving::finishesWhatACrashInterrupted()
 {
-    using Files = QMap<QString, QByteArray>;
-    QFETCH(Files, before);
+    const auto [before, after] = row<Files, Files>();
     for (auto file = before.cbegin(); file != before.cend(); ++file)
-        QVERIFY(makeFile(path(file.key()), file.value()));
-
-    Saving::recover(DataFolder(m_dir->path()));
-
-    Files after;
-    for (const QString &file : QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden))
-        after[file] = contentOf(path(file));
-    QTEST(after, "after");
-}
-
-void TestSaving::recoversUnderAnotherSpelling()
-{
-    QVERIFY(makeFile(path(u"2026.FIL"_s), ""));
-    QVERIFY(makeFile(path(staged), "new"));
-    Saving::recover(DataFolder(m_dir->path()));
-    QCOMPARE(files(), QStringList{u"2026.FIL"_s});
-    QCOMPARE(contentOf(path(u"2026.FIL"_s)), "new"_ba);
+        m_files->put(file.key(), file.value());
+    Saving::recover(m_files->folder());
+    QCOMPARE(files(), after);
 }
 
 QTEST_APPLESS_MAIN(TestSaving)

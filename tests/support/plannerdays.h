@@ -15,3 +15,10 @@ inline PlannerDay dayOf(const QList<std::pair<QString, QString>> &rows)
     }
     return day;
 }
+
+/// Takes every step of a walk over dates or files.
+template <typename Run>
+void runThrough(Run &run)
+{
+    while (run.step()) {}
+}

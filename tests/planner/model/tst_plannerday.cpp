@@ -4,6 +4,7 @@
 #include "planner/model/plannerfiles.h"
 #include "tests/support/household.h"
 #include "tests/support/plannerdays.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QJsonArray>
@@ -42,22 +43,21 @@ private slots:
 
 void TestPlannerDay::findsTheRecordOfADate_data()
 {
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<int>("record");
-    QTest::newRow("first day of the year") << QDate(2026, 1, 1) << 11;
-    QTest::newRow("day and month as digits") << QDate(2026, 9, 9) << 99;
-    QTest::newRow("last day of January") << QDate(2026, 1, 31) << 311;
-    QTest::newRow("leap day") << QDate(2024, 2, 29) << 292;
-    QTest::newRow("end of the digit block") << QDate(2026, 8, 31) << 318;
-    QTest::newRow("October starts a block of its own") << QDate(2026, 10, 1) << 321;
-    QTest::newRow("November does") << QDate(2026, 11, 30) << 390;
-    QTest::newRow("December does") << QDate(2026, 12, 31) << 431;
+    rows<QDate, int>({
+        {"first day of the year", {2026, 1, 1}, 11},
+        {"day and month as digits", {2026, 9, 9}, 99},
+        {"last day of January", {2026, 1, 31}, 311},
+        {"leap day", {2024, 2, 29}, 292},
+        {"end of the digit block", {2026, 8, 31}, 318},
+        {"October starts a block of its own", {2026, 10, 1}, 321},
+        {"November does", {2026, 11, 30}, 390},
+        {"December does", {2026, 12, 31}, 431},
+    });
 }
 
 void TestPlannerDay::findsTheRecordOfADate()
 {
-    QFETCH(QDate, date);
-    QFETCH(int, record);
+    const auto [date, record] = row<QDate, int>();
     QCOMPARE(DayRecord::number(date), record);
     QCOMPARE(DayRecord::date(record, date.year()), date);
 }
@@ -66,11 +66,10 @@ void TestPlannerDay::everyDateHasARecordOfItsOwn()
 {
     int dates = 0;
     for (int record = -5; record <= 1000; ++record) {
-        const QDate date = DayRecord::date(record, 2024);
-        if (!date.isValid())
-            continue;
-        QCOMPARE(DayRecord::number(date), record);
-        ++dates;
+        if (const QDate date = DayRecord::date(record, 2024); date.isValid()) {
+            QCOMPARE(DayRecord::number(date), record);
+            ++dates;
+        }
     }
     QCOMPARE(dates, 366);
     QVERIFY(!DayRecord::date(292, 2026).isValid());
@@ -78,26 +77,21 @@ void TestPlannerDay::everyDateHasARecordOfItsOwn()
 
 void TestPlannerDay::ordersByGroupTimeAndText_data()
 {
-    QTest::addColumn<QString>("times");
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("last");
-    QTest::newRow("untimed, morning, noon, evening")
-        << u"10:00 AM,9:00 AM,12:00 PM,1:00 PM,8:00"_s << u"8:00,9:00 AM,10:00 AM,12:00 PM,1:00 PM"_s
-        << u"9:00 AM,10:00 AM,12:00 PM,1:00 PM,8:00"_s;
-    QTest::newRow("midnight is before the morning")
-        << u"6:00 AM,12:30 AM,11:00 PM,12:15 PM"_s << u"12:30 AM,6:00 AM,12:15 PM,11:00 PM"_s
-        << u"12:30 AM,6:00 AM,12:15 PM,11:00 PM"_s;
-    QTest::newRow("small letters count as AM and PM")
-        << u"8:00pm,7:00am,7:00 PM"_s << u"7:00am,7:00 PM,8:00pm"_s << u"7:00am,7:00 PM,8:00pm"_s;
-    QTest::newRow("untimed ones keep their own order, late ones behind the evening")
-        << u"12:10,9:15,10:30,11:45 PM"_s << u"9:15,10:30,12:10,11:45 PM"_s << u"11:45 PM,9:15,10:30,12:10"_s;
+    rows<QString, QString, QString>({
+        {"untimed, morning, noon, evening", u"10:00 AM,9:00 AM,12:00 PM,1:00 PM,8:00"_s,
+         u"8:00,9:00 AM,10:00 AM,12:00 PM,1:00 PM"_s, u"9:00 AM,10:00 AM,12:00 PM,1:00 PM,8:00"_s},
+        {"midnight is before the morning", u"6:00 AM,12:30 AM,11:00 PM,12:15 PM"_s,
+         u"12:30 AM,6:00 AM,12:15 PM,11:00 PM"_s, u"12:30 AM,6:00 AM,12:15 PM,11:00 PM"_s},
+        {"small letters count as AM and PM", u"8:00pm,7:00am,7:00 PM"_s, u"7:00am,7:00 PM,8:00pm"_s,
+         u"7:00am,7:00 PM,8:00pm"_s},
+        {"untimed ones keep their own order, late ones behind the evening", u"12:10,9:15,10:30,11:45 PM"_s,
+         u"9:15,10:30,12:10,11:45 PM"_s, u"11:45 PM,9:15,10:30,12:10"_s},
+    });
 }
 
 void TestPlannerDay::ordersByGroupTimeAndText()
 {
-    QFETCH(QString, times);
-    QFETCH(QString, first);
-    QFETCH(QString, last);
+    const auto [times, first, last] = row<QString, QString, QString>();
     PlannerDay day;
     const QStringList list = times.split(u',');
     for (qsizetype i = 0; i < list.size(); ++i)
@@ -114,18 +108,14 @@ void TestPlannerDay::writesOnlyItsOwnBytes()
 {
     const TestProgram test;
     PlannerFiles files(test.folder);
-    test.setBytes(u" 2026.Cal"_s, QByteArray(900 * 21, 'x')); // record 21 is 1 February less: 2 January is 21
+    test.setBytes(u" 2026.Cal"_s, QByteArray(900 * 21, 'x')); // 2 January is the 21st record
     QVERIFY(files.write(QDate(2026, 1, 2), dayOf({{u"9:30 AM"_s, u"Café"_s}})));
 
     const QByteArray bytes = test.bytes(u" 2026.Cal"_s);
     QCOMPARE(bytes.size(), 900 * 21);
     const QByteArray record = bytes.mid(900 * 20);
-    QCOMPARE(record.left(10), QByteArray("9:30 AM   "));
-    QCOMPARE(record.mid(10, 130), QByteArray(130, ' '));
-    QCOMPARE(record.mid(140, 50), QByteArray("Caf\xe9").leftJustified(50));
-    QCOMPARE(record.mid(190, 650), QByteArray(650, ' '));
-    QCOMPARE(record.mid(840, 10), QByteArray("Full      "));
-    QCOMPARE(record.mid(850), QByteArray(50, 'x'));
+    QCOMPARE(record, QByteArray("9:30 AM").leftJustified(140) + QByteArray("Caf\xe9").leftJustified(700) +
+                         "Full      " + QByteArray(50, 'x'));
     QCOMPARE(bytes.left(900 * 20), QByteArray(900 * 20, 'x'));
     QCOMPARE(rowsOf(files.read(QDate(2026, 1, 2))), QStringList{u"9:30 AM|Café"_s});
 }

@@ -4,6 +4,8 @@
 #include "planner/model/plannersearch.h"
 #include "planner/model/recurrencerun.h"
 #include "tests/support/filesizelimit.h"
+#include "tests/support/plannerdays.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>
@@ -41,24 +43,19 @@ RecurrenceRun walk(const DataFolder &folder, RecurrenceAction action, int days)
     return {folder, UntimedPlacement::First, action, ferns, daily};
 }
 
-void runThrough(RecurrenceRun &run)
-{
-    while (run.step()) {}
-}
-
 /// Whether every byte is as it was, or zero where there was none, apart from the fields of dates in the walk.
 bool isRestUntouched(const QByteArray &before, const QByteArray &after, int days)
 {
-    QByteArray one = before.leftJustified(std::max(before.size(), after.size()), '\0');
-    QByteArray other = after;
-    for (int i = 0; i < days; ++i) {
-        const qsizetype at = (DayRecord::number(newYear.addDays(i)) - 1) * 900;
-        for (QByteArray *bytes : {&one, &other})
-            if (at < bytes->size())
-                bytes->replace(at, std::min<qsizetype>(850, bytes->size() - at),
-                               QByteArray(std::min<qsizetype>(850, bytes->size() - at), '-'));
-    }
-    return one == other;
+    const auto rest = [&](QByteArray bytes) {
+        bytes = bytes.leftJustified(std::max(before.size(), after.size()), '\0');
+        for (int i = 0; i < days; ++i) {
+            const qsizetype at = (DayRecord::number(newYear.addDays(i)) - 1) * 900;
+            for (qsizetype byte = at; byte < std::min(at + 850, bytes.size()); ++byte)
+                bytes[byte] = '-';
+        }
+        return bytes;
+    };
+    return rest(before) == rest(after);
 }
 
 } // namespace
@@ -77,26 +74,27 @@ private slots:
 
 void TestYearFiles::survivesAnyBytes_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("a byte") << QByteArray(1, '\xff');
-    QTest::newRow("a day") << firstDays();
-    QTest::newRow("zeros") << QByteArray(431 * 900, '\0');
-    QTest::newRow("noise") << noise(431 * 900);
-    QTest::newRow("noise that counts as saved")
-        << QByteArray(noise(840) + "Full      " + noise(50)).repeated(431);
-    QTest::newRow("more than a year") << noise(500 * 900 + 17);
+    rows<QByteArray>({
+        {"empty", {}},
+        {"a byte", QByteArray(1, '\xff')},
+        {"a day", firstDays()},
+        {"zeros", QByteArray(431 * 900, '\0')},
+        {"noise", noise(431 * 900)},
+        {"noise that counts as saved", QByteArray(noise(840) + "Full      " + noise(50)).repeated(431)},
+        {"more than a year", noise(500 * 900 + 17)},
+    });
 }
 
 void TestYearFiles::survivesAnyBytes()
 {
-    QFETCH(QByteArray, bytes);
+    const auto [bytes] = row<QByteArray>();
     const TestProgram test;
     test.setBytes(yearFile, bytes);
     const PlannerFiles files(test.folder);
     const auto lookAtEverything = [&] {
         files.days(QDate(2025, 12, 1), QDate(2027, 1, 31));
-        for (PlannerSearch search(files, u"e"_s); search.step();) {}
+        PlannerSearch search(files, u"e"_s);
+        runThrough(search);
         PlannerNews::liveLine(test.folder, newYear.startOfDay());
         return files.read(newYear);
     };
@@ -148,19 +146,18 @@ void TestYearFiles::readsWhatACutFileStillHolds()
 
 void TestYearFiles::tellsTheTruthAboutAFullDisk_data()
 {
-    QTest::addColumn<int>("room");
-    QTest::addColumn<int>("made");
-    QTest::newRow("no room at all") << 0 << 0;
-    QTest::newRow("within the first day") << 10 * 900 + 300 << 0;
-    QTest::newRow("within the mark of the fourth") << 40 * 900 + 842 << 3;
-    QTest::newRow("behind the fourth") << 40 * 900 + 850 << 4;
+    rows<int, int>({
+        {"no room at all", 0, 0},
+        {"within the first day", 10 * 900 + 300, 0},
+        {"within the mark of the fourth", 40 * 900 + 842, 3},
+        {"behind the fourth", 40 * 900 + 850, 4},
+    });
 }
 
 void TestYearFiles::tellsTheTruthAboutAFullDisk()
 {
 #ifdef Q_OS_UNIX
-    QFETCH(int, room);
-    QFETCH(int, made);
+    const auto [room, made] = row<int, int>();
     const TestProgram test;
     RecurrenceRun run = walk(test.folder, RecurrenceAction::Insert, 6);
     {

@@ -2,8 +2,7 @@
 #include "planner/model/daylines.h"
 #include "planner/model/plannerpages.h"
 #include "shell/core/dates.h"
-
-#include <QTest>
+#include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -56,50 +55,40 @@ private slots:
 
 void TestPlannerPages::tellsRangesOfDates_data()
 {
-    QTest::addColumn<QDate>("from");
-    QTest::addColumn<QDate>("to");
-    QTest::addColumn<QString>("usa");
-    QTest::addColumn<QString>("other");
-    QTest::newRow("a day") << QDate(2026, 11, 1) << QDate(2026, 11, 1) << u"November 1, 2026"_s
-                           << u"1 November 2026"_s;
-    QTest::newRow("within a month") << QDate(2026, 11, 16) << QDate(2026, 11, 22)
-                                    << u"November 16 to 22, 2026"_s << u"16 to 22 November 2026"_s;
-    QTest::newRow("over two months") << QDate(2026, 11, 30) << QDate(2026, 12, 6)
-                                     << u"November 30 to December 6, 2026"_s
-                                     << u"30 November to 6 December 2026"_s;
-    QTest::newRow("over two years") << QDate(2026, 12, 28) << QDate(2027, 1, 3)
-                                    << u"December 28, 2026 to January 3, 2027"_s
-                                    << u"28 December 2026 to 3 January 2027"_s;
+    rows<QDate, QDate, QString, QString>({
+        {"a day", {2026, 11, 1}, {2026, 11, 1}, u"November 1, 2026"_s, u"1 November 2026"_s},
+        {"within a month", QDate(2026, 11, 16), QDate(2026, 11, 22), u"November 16 to 22, 2026"_s,
+         u"16 to 22 November 2026"_s},
+        {"over two months", QDate(2026, 11, 30), QDate(2026, 12, 6), u"November 30 to December 6, 2026"_s,
+         u"30 November to 6 December 2026"_s},
+        {"over two years", QDate(2026, 12, 28), QDate(2027, 1, 3), u"December 28, 2026 to January 3, 2027"_s,
+         u"28 December 2026 to 3 January 2027"_s},
+    });
 }
 
 void TestPlannerPages::tellsRangesOfDates()
 {
-    QFETCH(QDate, from);
-    QFETCH(QDate, to);
-    QTEST(Dates::range(from, to, DateStyle::Usa), "usa");
-    QTEST(Dates::range(from, to, DateStyle::Other), "other");
+    const auto [from, to, usa, other] = row<QDate, QDate, QString, QString>();
+    QCOMPARE(Dates::range(from, to, DateStyle::Usa), usa);
+    QCOMPARE(Dates::range(from, to, DateStyle::Other), other);
 }
 
 void TestPlannerPages::sharesTheLinesOfAPlace_data()
 {
-    QTest::addColumn<int>("entries");
-    QTest::addColumn<int>("characters");
-    QTest::addColumn<int>("capacity");
-    QTest::addColumn<QList<int>>("shares");
-    QTest::newRow("a line each") << 3 << 20 << 5 << QList<int>{1, 1, 1};
-    QTest::newRow("long texts get more, as far as it goes") << 3 << 4 << 5 << QList<int>{2, 2, 1};
-    QTest::newRow("the last line tells what is missing") << 6 << 20 << 5 << QList<int>{1, 1, 1, 1};
-    QTest::newRow("no room at all") << 2 << 20 << 0 << QList<int>{};
-    QTest::newRow("no entry") << 0 << 20 << 5 << QList<int>{};
+    rows<int, int, int, QList<int>>({
+        {"a line each", 3, 20, 5, {1, 1, 1}},
+        {"long texts get more, as far as it goes", 3, 4, 5, {2, 2, 1}},
+        {"the last line tells what is missing", 6, 20, 5, {1, 1, 1, 1}},
+        {"no room at all", 2, 20, 0, {}},
+        {"no entry", 0, 20, 5, {}},
+    });
 }
 
 void TestPlannerPages::sharesTheLinesOfAPlace()
 {
-    QFETCH(int, entries);
-    QFETCH(int, characters);
-    QFETCH(int, capacity);
+    const auto [entries, characters, capacity, expected] = row<int, int, int, QList<int>>();
     const auto shares = DayLines(numberedEntries(entries)).share(characters, capacity);
-    QTEST(QList<int>(shares.begin(), shares.end()), "shares");
+    QCOMPARE(QList<int>(shares.begin(), shares.end()), expected);
 }
 
 void TestPlannerPages::listsADay()

@@ -2,6 +2,8 @@
 #include "planner/model/todoimportrun.h"
 #include "tests/support/filesizelimit.h"
 #include "tests/support/household.h"
+#include "tests/support/plannerdays.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QJsonArray>
@@ -57,24 +59,21 @@ void TestToDoImport::importsTheHousehold()
 
 void TestToDoImport::readsDatesEitherWay_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QDate>("date");
-    QTest::newRow("month first") << QByteArray("\"Call\",\"05/06/2026\",\"\"\r\n") << QDate(2026, 5, 6);
-    QTest::newRow("only day first fits")
-        << QByteArray("\"Call\",\"25/06/2026\",\"\"\r\n") << QDate(2026, 6, 25);
-    QTest::newRow("the last ten characters")
-        << QByteArray("\"Call\",\"Fri 05/06/2026 \",\"x\"") << QDate(2026, 5, 6);
-    QTest::newRow("no date") << QByteArray("\"Call\",\"\",\"\"") << QDate();
-    QTest::newRow("no text") << QByteArray("\" \",\"05/06/2026\",\"\"") << QDate();
-    QTest::newRow("no day") << QByteArray("\"Call\",\"02/30/2026\",\"\"") << QDate();
-    QTest::newRow("cut before the third value") << QByteArray("\"Call\",\"05/06/2026\"") << QDate(2026, 5, 6);
-    QTest::newRow("noise") << QByteArray("\0\xff\"\",,\"", 7) << QDate();
+    rows<QByteArray, QDate>({
+        {"month first", "\"Call\",\"05/06/2026\",\"\"\r\n", {2026, 5, 6}},
+        {"only day first fits", "\"Call\",\"25/06/2026\",\"\"\r\n", {2026, 6, 25}},
+        {"the last ten characters", "\"Call\",\"Fri 05/06/2026 \",\"x\"", {2026, 5, 6}},
+        {"no date", "\"Call\",\"\",\"\"", {}},
+        {"no text", "\" \",\"05/06/2026\",\"\"", {}},
+        {"no day", "\"Call\",\"02/30/2026\",\"\"", {}},
+        {"cut before the third value", "\"Call\",\"05/06/2026\"", {2026, 5, 6}},
+        {"noise", "\0\xff\"\",,\""_ba, {}},
+    });
 }
 
 void TestToDoImport::readsDatesEitherWay()
 {
-    QFETCH(QByteArray, file);
-    QFETCH(QDate, date);
+    const auto [file, date] = row<QByteArray, QDate>();
     const TestProgram test;
     test.setBytes(u"TODOACTV.fil"_s, file);
     const auto items = ToDoImport::items(test.folder, DateStyle::Usa, QDate(2026, 11, 21));
@@ -97,7 +96,7 @@ void TestToDoImport::endsWhereTheDiskRefuses()
     {
         const FileSizeLimit fullDisk(404 * 900); // 5 December is record 405
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
-        while (run.step()) {}
+        runThrough(run);
     }
     QCOMPARE(run.done(), 4);
     QCOMPARE(run.report(false, DateStyle::Usa),

@@ -9,6 +9,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
 #include "tests/support/plannerdays.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

@@ -2,6 +2,7 @@
 #include "shell/access/gate.h"
 #include "shell/access/passwordfile.h"
 #include "shell/core/area.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -45,54 +46,46 @@ AccessGate TestGate::gate(PasswordGateResult verdict)
 
 void TestGate::asksInFrontOfGuardedAreas_data()
 {
-    QTest::addColumn<QString>("flag");
-    QTest::addColumn<int>("area");
-    QTest::addColumn<PasswordGateResult>("verdict");
-    QTest::addColumn<QList<int>>("asked");
-    QTest::addColumn<bool>("opens");
     using Result = PasswordGateResult;
     const QList<int> budget{Area::Budget};
-    QTest::newRow("not guarded") << u"NO"_s << Area::Budget << Result::Refused << QList<int>() << true;
-    QTest::newRow("another area") << u"YES"_s << Area::Planner << Result::Refused << QList<int>() << true;
-    QTest::newRow("no area") << u"YES"_s << Area::None << Result::Refused << QList<int>() << true;
-    QTest::newRow("the right password") << u"YES"_s << Area::Budget << Result::Open << budget << true;
-    QTest::newRow("refused") << u"YES"_s << Area::Budget << Result::Refused << budget << false;
-    QTest::newRow("blanks behind the flag")
-        << u"YES  "_s << Area::Budget << Result::Refused << budget << false;
+    rows<QString, int, PasswordGateResult, QList<int>, bool>({
+        {"not guarded", u"NO"_s, Area::Budget, Result::Refused, {}, true},
+        {"another area", u"YES"_s, Area::Planner, Result::Refused, {}, true},
+        {"no area", u"YES"_s, Area::None, Result::Refused, {}, true},
+        {"the right password", u"YES"_s, Area::Budget, Result::Open, budget, true},
+        {"refused", u"YES"_s, Area::Budget, Result::Refused, budget, false},
+        {"blanks behind the flag", u"YES  "_s, Area::Budget, Result::Refused, budget, false},
+    });
 }
 
 void TestGate::asksInFrontOfGuardedAreas()
 {
-    QFETCH(QString, flag);
-    QFETCH(int, area);
-    QFETCH(PasswordGateResult, verdict);
+    const auto [flag, area, verdict, asked, opens] =
+        row<QString, int, PasswordGateResult, QList<int>, bool>();
     m_program->state.protectedAreas.setFlag(Area::Budget, flag);
-    QTEST(gate(verdict).mayOpen(m_program->program, area, nullptr), "opens");
-    QTEST(m_areas, "asked");
+    QCOMPARE(gate(verdict).mayOpen(m_program->program, area, nullptr), opens);
+    QCOMPARE(m_areas, asked);
     QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);
     QCOMPARE(m_program->state.guardedArea, Area::None);
 }
 
 void TestGate::asksForPasswordControlOnlyWithAPassword_data()
 {
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<PasswordGateResult>("verdict");
-    QTest::addColumn<int>("questions");
-    QTest::addColumn<bool>("opens");
     using Result = PasswordGateResult;
-    QTest::newRow("none set") << QString() << Result::Refused << 0 << true;
-    QTest::newRow("passed") << u"Sesame"_s << Result::PasswordControl << 1 << true;
-    QTest::newRow("refused") << u"Sesame"_s << Result::Refused << 1 << false;
+    rows<QString, PasswordGateResult, int, bool>({
+        {"none set", {}, Result::Refused, 0, true},
+        {"passed", u"Sesame"_s, Result::PasswordControl, 1, true},
+        {"refused", u"Sesame"_s, Result::Refused, 1, false},
+    });
 }
 
 void TestGate::asksForPasswordControlOnlyWithAPassword()
 {
-    QFETCH(QString, password);
-    QFETCH(PasswordGateResult, verdict);
+    const auto [password, verdict, questions, opens] = row<QString, PasswordGateResult, int, bool>();
     if (!password.isEmpty())
         QVERIFY(PasswordFile(m_program->folder, PasswordCost::minimum()).setPassword(password));
-    QTEST(gate(verdict).mayOpenPasswordControl(m_program->program, nullptr), "opens");
-    QTEST(int(m_before.size()), "questions");
+    QCOMPARE(gate(verdict).mayOpenPasswordControl(m_program->program, nullptr), opens);
+    QCOMPARE(int(m_before.size()), questions);
     for (const PasswordGateResult before : m_before)
         QCOMPARE(before, PasswordGateResult::PasswordControl);
     QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);

@@ -4,6 +4,7 @@
 #include "shell/access/passwordpage.h"
 #include "shell/controls/activitybar.h"
 #include "shell/core/area.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>
@@ -128,24 +129,22 @@ void TestForm31::marksNeedAPassword()
 
 void TestForm31::refusesNewPasswords_data()
 {
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("empty") << QString() << QString() << PasswordMessages::newPasswordMissing();
-    QTest::newRow("different") << u"Tulips"_s << u"Tulip"_s << PasswordMessages::passwordsDiffer();
-    QTest::newRow("typed once") << u"Tulips"_s << QString() << PasswordMessages::passwordsDiffer();
+    rows<QString, QString, QString>({
+        {"empty", {}, {}, PasswordMessages::newPasswordMissing()},
+        {"different", u"Tulips"_s, u"Tulip"_s, PasswordMessages::passwordsDiffer()},
+        {"typed once", u"Tulips"_s, {}, PasswordMessages::passwordsDiffer()},
+    });
 }
 
 void TestForm31::refusesNewPasswords()
 {
-    QFETCH(QString, first);
-    QFETCH(QString, second);
+    const auto [first, second, reason] = row<QString, QString, QString>();
     open();
     click("setPassword");
     type("Text1_1", first);
     type("Text1_2", second);
     click("passwordOk");
-    QTEST(refusal(), "reason");
+    QCOMPARE(refusal(), reason);
     QCOMPARE(file().state(), PasswordFile::State::NotSet);
 }
 
@@ -207,24 +206,23 @@ void TestForm31::keepsTheFlagsOfOtherEditions()
 
 void TestForm31::asksBeforeMarksAreLost_data()
 {
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("closes");
-    QTest::addColumn<bool>("saved");
-    QTest::newRow("Yes") << Answer::Yes << true << true;
-    QTest::newRow("No") << Answer::No << true << false;
-    QTest::newRow("Cancel") << Answer::Cancel << false << false;
+    rows<Answer, bool, bool>({
+        {"Yes", Answer::Yes, true, true},
+        {"No", Answer::No, true, false},
+        {"Cancel", Answer::Cancel, false, false},
+    });
 }
 
 void TestForm31::asksBeforeMarksAreLost()
 {
-    QFETCH(Answer, answer);
+    const auto [answer, closes, saved] = row<Answer, bool, bool>();
     guard(Area::Planner);
     open();
     mark(Area::Journal)->click();
     m_program->dialogs.willAnswer(answer);
-    QTEST(m_window->close(), "closes");
+    QCOMPARE(m_window->close(), closes);
     QCOMPARE(m_program->dialogs.takeShown(), {PasswordMessages::saveChanges()});
-    QTEST(file().areas().isProtected(Area::Journal), "saved");
+    QCOMPARE(file().areas().isProtected(Area::Journal), saved);
 }
 
 void TestForm31::doesNotWriteIntoADamagedFile()

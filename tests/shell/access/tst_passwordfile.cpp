@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordfile.h"
 #include "tests/support/filesizelimit.h"
+#include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 
 #include <QDir>
@@ -129,26 +130,24 @@ void TestPasswordFile::neverStoresThePassword()
 
 void TestPasswordFile::comparesPasswords_data()
 {
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("matches");
-    QTest::newRow("the same") << u"Sesame"_s << u"Sesame"_s << true;
-    QTest::newRow("case counts") << u"Sesame"_s << u"sesame"_s << false;
-    QTest::newRow("blanks count") << u"Sesame"_s << u"Sesame "_s << false;
-    QTest::newRow("only a part") << u"Sesame"_s << u"Sesam"_s << false;
-    QTest::newRow("nothing typed") << u"Sesame"_s << QString() << false;
-    QTest::newRow("beyond the code page") << u"Ωμέγα 中文"_s << u"Ωμέγα 中文"_s << true;
-    QTest::newRow("not the question marks of it") << u"Ωμέγα"_s << u"?????"_s << false;
-    QTest::newRow("an accent typed in two") << u"José"_s << u"Jose\u0301"_s << true;
-    QTest::newRow("longer than a record") << QString(300, u'x') << QString(300, u'x') << true;
+    rows<QString, QString, bool>({
+        {"the same", u"Sesame"_s, u"Sesame"_s, true},
+        {"case counts", u"Sesame"_s, u"sesame"_s, false},
+        {"blanks count", u"Sesame"_s, u"Sesame "_s, false},
+        {"only a part", u"Sesame"_s, u"Sesam"_s, false},
+        {"nothing typed", u"Sesame"_s, {}, false},
+        {"beyond the code page", u"Ωμέγα 中文"_s, u"Ωμέγα 中文"_s, true},
+        {"not the question marks of it", u"Ωμέγα"_s, u"?????"_s, false},
+        {"an accent typed in two", u"José"_s, u"Jose\u0301"_s, true},
+        {"longer than a record", QString(300, u'x'), QString(300, u'x'), true},
+    });
 }
 
 void TestPasswordFile::comparesPasswords()
 {
-    QFETCH(QString, password);
-    QFETCH(QString, typed);
+    const auto [password, typed, matches] = row<QString, QString, bool>();
     QVERIFY(file().setPassword(password));
-    QTEST(file().matches(typed), "matches");
+    QCOMPARE(file().matches(typed), matches);
 }
 
 void TestPasswordFile::savingTouchesOnlyTheFlagsThatChanged()
@@ -187,43 +186,41 @@ void TestPasswordFile::removalLeavesNothingToGuessFrom()
 
 void TestPasswordFile::tellsDamagedFiles_data()
 {
-    QTest::addColumn<int>("record");
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<PasswordFile::State>("state");
     using State = PasswordFile::State;
     const QByteArray verifier(sesameVerifier);
     const auto changed = [&verifier](const char *from, const char *to) {
         return counted(QByteArray(verifier).replace(from, to));
     };
-    QTest::newRow("untouched") << 1 << counted(verifier) << State::Set;
-    QTest::newRow("verifier of another kind") << 1 << changed("argon2id", "argon2i") << State::Damaged;
-    QTest::newRow("verifier that asks for hours") << 1 << changed("t=1", "t=4000000") << State::Damaged;
-    QTest::newRow("verifier that asks for all memory") << 1 << changed("m=8", "m=4194304") << State::Damaged;
-    QTest::newRow("verifier without its end") << 1 << counted(verifier.left(60)) << State::Damaged;
-    QTest::newRow("verifier with a foreign letter") << 1 << changed("EA12", "E~12") << State::Damaged;
-    QTest::newRow("zero byte in the verifier")
-        << 1 << counted(QByteArray(verifier).replace(40, 1, QByteArray(1, '\0'))) << State::Damaged;
-    QTest::newRow("count beyond the record") << 1 << QByteArray("\xFF\xFF", 2) << State::Damaged;
-    QTest::newRow("count that fills the record too far") << 1 << QByteArray("\x8B\0", 2) << State::Damaged;
-    QTest::newRow("flags without a verifier") << 1 << QByteArray(2, '\0') << State::Damaged;
-    QTest::newRow("a plain word") << 1 << counted("Sesame") << State::Damaged;
-    QTest::newRow("flag in small letters") << 2 << counted("yes") << State::Damaged;
-    QTest::newRow("flag behind a blank") << 2 << counted(" YES") << State::Damaged;
-    QTest::newRow("flag with a blank behind it") << 2 << counted("YES ") << State::Set;
-    QTest::newRow("empty flag") << 3 << counted({}) << State::Set;
-    QTest::newRow("blank flag") << 3 << counted("  ") << State::Set;
-    QTest::newRow("flag of zero bytes") << 3 << counted(QByteArray(2, '\0')) << State::Damaged;
-    QTest::newRow("noise in the last flag") << 22 << counted("\xC3\x28") << State::Damaged;
-    QTest::newRow("bytes behind the last record") << 23 << QByteArray("\xFF\xFF", 2) << State::Set;
+    rows<int, QByteArray, PasswordFile::State>({
+        {"untouched", 1, counted(verifier), State::Set},
+        {"verifier of another kind", 1, changed("argon2id", "argon2i"), State::Damaged},
+        {"verifier that asks for hours", 1, changed("t=1", "t=4000000"), State::Damaged},
+        {"verifier that asks for all memory", 1, changed("m=8", "m=4194304"), State::Damaged},
+        {"verifier without its end", 1, counted(verifier.left(60)), State::Damaged},
+        {"verifier with a foreign letter", 1, changed("EA12", "E~12"), State::Damaged},
+        {"zero byte in the verifier", 1, counted(QByteArray(verifier).replace(40, 1, QByteArray(1, '\0'))),
+         State::Damaged},
+        {"count beyond the record", 1, "\xFF\xFF", State::Damaged},
+        {"count that fills the record too far", 1, "\x8B\0"_ba, State::Damaged},
+        {"flags without a verifier", 1, QByteArray(2, '\0'), State::Damaged},
+        {"a plain word", 1, counted("Sesame"), State::Damaged},
+        {"flag in small letters", 2, counted("yes"), State::Damaged},
+        {"flag behind a blank", 2, counted(" YES"), State::Damaged},
+        {"flag with a blank behind it", 2, counted("YES "), State::Set},
+        {"empty flag", 3, counted({}), State::Set},
+        {"blank flag", 3, counted("  "), State::Set},
+        {"flag of zero bytes", 3, counted(QByteArray(2, '\0')), State::Damaged},
+        {"noise in the last flag", 22, counted("\xC3\x28"), State::Damaged},
+        {"bytes behind the last record", 23, "\xFF\xFF", State::Set},
+    });
 }
 
 void TestPasswordFile::tellsDamagedFiles()
 {
-    QFETCH(int, record);
-    QFETCH(QByteArray, value);
+    const auto [record, value, state] = row<int, QByteArray, PasswordFile::State>();
     QByteArray content = sesameFile();
     setBytes(put(content, record, value));
-    QTEST(file().state(), "state");
+    QCOMPARE(file().state(), state);
     if (file().state() != PasswordFile::State::Damaged)
         return;
     QVERIFY(!file().matches(u"Sesame"_s));

@@ -2,6 +2,7 @@
 #include "shell/access/passwordmessages.h"
 #include "shell/access/passwordprompt.h"
 #include "shell/core/area.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QCheckBox>
@@ -57,21 +58,18 @@ void TestForm32::init()
 
 void TestForm32::namesWhatItGuards_data()
 {
-    QTest::addColumn<int>("area");
-    QTest::addColumn<PasswordGateResult>("result");
-    QTest::addColumn<QString>("name");
     using Result = PasswordGateResult;
-    QTest::newRow("a function") << Area::Planner << Result::Open << u"Personal Planner"_s;
-    QTest::newRow("its button") << Area::AddressBookButton << Result::Open << u"Family/Friends Data"_s;
-    QTest::newRow("another edition's") << 8 << Result::Open << u"Video Library"_s;
-    QTest::newRow("password control") << Area::None << Result::PasswordControl << u"Password Control"_s;
+    rows<int, PasswordGateResult, QString>({
+        {"a function", Area::Planner, Result::Open, u"Personal Planner"_s},
+        {"its button", Area::AddressBookButton, Result::Open, u"Family/Friends Data"_s},
+        {"another edition's", 8, Result::Open, u"Video Library"_s},
+        {"password control", Area::None, Result::PasswordControl, u"Password Control"_s},
+    });
 }
 
 void TestForm32::namesWhatItGuards()
 {
-    QFETCH(QString, name);
-    QFETCH(int, area);
-    QFETCH(PasswordGateResult, result);
+    const auto [area, result, name] = row<int, PasswordGateResult, QString>();
     m_program->state.guardedArea = area;
     m_program->state.passwordGateResult = result;
     const Form32 prompt(m_program->program);
@@ -82,21 +80,21 @@ void TestForm32::namesWhatItGuards()
 
 void TestForm32::opensWithThePasswordAlone_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("the password") << u"Sesame"_s << true;
-    QTest::newRow("another") << u"sesame"_s << false;
-    QTest::newRow("nothing") << QString() << false;
+    rows<QString, bool>({
+        {"the password", u"Sesame"_s, true},
+        {"another", u"sesame"_s, false},
+        {"nothing", {}, false},
+    });
 }
 
 void TestForm32::opensWithThePasswordAlone()
 {
-    QFETCH(QString, typed);
+    const auto [typed, opens] = row<QString, bool>();
     Form32 prompt(m_program->program, nullptr, 1ms);
     const QSignalSpy accepted(&prompt, &QDialog::accepted);
     showActive(prompt);
     type(prompt, typed);
-    QTEST(!accepted.isEmpty(), "opens");
+    QCOMPARE(!accepted.isEmpty(), opens);
     QVERIFY(control<QLineEdit>(prompt, "Text1")->text().isEmpty());
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/mainmenu/mainmenuwindow.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>

@@ -119,21 +119,18 @@ void TestBackgroundSelector::leavesEverythingOnEscape()
 
 void TestBackgroundSelector::marksTheSlotInUse_data()
 {
-    QTest::addColumn<QString>("record");
-    QTest::addColumn<int>("slot");
-    QTest::addColumn<bool>("plain");
-    QTest::newRow("never written") << QString() << -1 << true;
-    QTest::newRow("default") << u"Def"_s << -1 << true;
-    QTest::newRow("first") << u"WP1"_s << 0 << false;
-    QTest::newRow("last") << u"WP16"_s << 15 << false;
-    QTest::newRow("none of them") << u"WP99"_s << -1 << false;
+    rows<QString, int, bool>({
+        {"never written", {}, -1, true},
+        {"default", u"Def"_s, -1, true},
+        {"first", u"WP1"_s, 0, false},
+        {"last", u"WP16"_s, 15, false},
+        {"none of them", u"WP99"_s, -1, false},
+    });
 }
 
 void TestBackgroundSelector::marksTheSlotInUse()
 {
-    QFETCH(QString, record);
-    QFETCH(int, slot);
-    QFETCH(bool, plain);
+    const auto [record, slot, plain] = row<QString, int, bool>();
     StartWindow start;
     if (!record.isEmpty())
         QVERIFY(start.test.settings.setTagged(SettingsKeys::background, record));
@@ -170,18 +167,19 @@ void TestBackgroundSelector::looksForPicturesInTheProgramsFolder()
 
 void TestBackgroundSelector::takesAnyPicture_data()
 {
-    QTest::addColumn<QSize>("size"); // empty: no picture at all
-    QTest::newRow("tiny") << QSize(1, 1);
-    QTest::newRow("tall") << QSize(40, 900);
-    QTest::newRow("wide") << QSize(3000, 20);
-    QTest::newRow("its own size") << Backdrop::largest;
-    QTest::newRow("very large") << QSize(4000, 3000);
-    QTest::newRow("damaged") << QSize();
+    rows<QSize>({
+        {"tiny", {1, 1}},
+        {"tall", {40, 900}},
+        {"wide", {3000, 20}},
+        {"its own size", Backdrop::largest},
+        {"very large", {4000, 3000}},
+        {"damaged", {}},
+    });
 }
 
 void TestBackgroundSelector::takesAnyPicture()
 {
-    QFETCH(QSize, size);
+    const auto [size] = row<QSize>();
     StartWindow start;
     QVERIFY(start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s));
     if (size.isEmpty())

@@ -105,17 +105,16 @@ void TestDisplayMode::opensAtTheSmallestSizeForAnEmptySize()
 
 void TestDisplayMode::asksBeforeItExits_data()
 {
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<bool>("leaves");
-    QTest::newRow("yes") << Answer::Yes << true;
-    QTest::newRow("no") << Answer::No << false;
-    QTest::newRow("cancel") << Answer::Cancel << false;
+    rows<Answer, bool>({
+        {"yes", Answer::Yes, true},
+        {"no", Answer::No, false},
+        {"cancel", Answer::Cancel, false},
+    });
 }
 
 void TestDisplayMode::asksBeforeItExits()
 {
-    QFETCH(Answer, answer);
-    QFETCH(bool, leaves);
+    const auto [answer, leaves] = row<Answer, bool>();
     StartWindow start(TestProgram::Household);
     start.addFunction(Function::AddressBook);
     Startfrm &window = start.show();

@@ -94,25 +94,24 @@ void TestStartfrm::startsWithTheHousehold()
 
 void TestStartfrm::decidesTheDateStyle_data()
 {
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<DateStyle>("style");
-    QTest::addColumn<QString>("date");
-    QTest::newRow("month first") << QLocale(QLocale::English, QLocale::UnitedStates) << DateStyle::Usa
-                                 << u"Saturday, November 21, 2026"_s;
-    QTest::newRow("day first") << QLocale(QLocale::German, QLocale::Germany) << DateStyle::Other
-                               << u"Saturday, 21 November 2026"_s;
-    QTest::newRow("year first") << QLocale(QLocale::Swedish, QLocale::Sweden) << DateStyle::Other
-                                << u"Saturday, 21 November 2026"_s;
+    rows<QLocale, DateStyle, QString>({
+        {"month first", QLocale(QLocale::English, QLocale::UnitedStates), DateStyle::Usa,
+         u"Saturday, November 21, 2026"_s},
+        {"day first", QLocale(QLocale::German, QLocale::Germany), DateStyle::Other,
+         u"Saturday, 21 November 2026"_s},
+        {"year first", QLocale(QLocale::Swedish, QLocale::Sweden), DateStyle::Other,
+         u"Saturday, 21 November 2026"_s},
+    });
 }
 
 void TestStartfrm::decidesTheDateStyle()
 {
-    QFETCH(QLocale, locale);
+    const auto [locale, style, date] = row<QLocale, DateStyle, QString>();
     StartWindow start;
     start.systemLocale = locale;
     Startfrm &window = start.show();
-    QTEST(start.test.state.dateStyle, "style");
-    QTEST(control<QLabel>(window, "dateLabel")->text(), "date");
+    QCOMPARE(start.test.state.dateStyle, style);
+    QCOMPARE(control<QLabel>(window, "dateLabel")->text(), date);
 }
 
 void TestStartfrm::hasItsMenus()

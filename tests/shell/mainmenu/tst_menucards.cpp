@@ -139,20 +139,19 @@ void TestMenuCards::readsTheNewsAgainOnlyWhenAFileHasChanged()
 
 void TestMenuCards::choosesColumnsByWidth_data()
 {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("columns");
-    QTest::newRow("600") << 600 << 2;
-    QTest::newRow("719") << 719 << 2;
-    QTest::newRow("720") << 720 << 3;
-    QTest::newRow("960, full HD at 200 %") << 960 << 3;
-    QTest::newRow("1024") << 1024 << 4;
-    QTest::newRow("2560") << 2560 << 4;
+    rows<int, int>({
+        {"600", 600, 2},
+        {"719", 719, 2},
+        {"720", 720, 3},
+        {"960, full HD at 200 %", 960, 3},
+        {"1024", 1024, 4},
+        {"2560", 2560, 4},
+    });
 }
 
 void TestMenuCards::choosesColumnsByWidth()
 {
-    QFETCH(int, width);
-    QFETCH(int, columns);
+    const auto [width, columns] = row<int, int>();
     CardDesk desk(nullptr);
     desk.resize(width, desk.heightForWidth(width));
     desk.show();

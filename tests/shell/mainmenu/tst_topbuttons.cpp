@@ -123,28 +123,25 @@ void TestStartDispatch::pressesAButton()
 
 void TestStartDispatch::opensAMenuEntryBehindItsGuard_data()
 {
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<int>("function");
-    QTest::addColumn<int>("area");
-    QTest::newRow("car") << u"mIMain"_s << opens(Function::CarLog) << 13;
-    QTest::newRow("calendar") << u"mFCal"_s << opens(Function::CalendarMaker) << none;
-    QTest::newRow("address book") << u"mFB"_s << opens(Function::AddressBook) << 0;
-    QTest::newRow("viewer") << u"MfViewer"_s << opens(Function::AddressViewer) << 1;
-    QTest::newRow("budget") << u"mMB"_s << opens(Function::Budget) << 9;
-    QTest::newRow("journal") << u"mFJour"_s << opens(Function::Journal) << 14;
-    QTest::newRow("planner") << u"mFP"_s << opens(Function::Planner) << 2;
-    QTest::newRow("to do") << u"mFToDo"_s << opens(Function::ToDoList) << none;
-    QTest::newRow("photos") << u"mUPhoto"_s << opens(Function::PhotoAlbum) << none;
-    QTest::newRow("keeper") << u"mPWKpr"_s << opens(Function::PasswordKeeper) << 11;
-    QTest::newRow("control") << u"mUP"_s << opens(Function::PasswordControl) << none;
-    QTest::newRow("weight") << u"mFWeight"_s << opens(Function::WeightTracker) << none;
+    rows<QString, int, int>({
+        {"car", u"mIMain"_s, opens(Function::CarLog), 13},
+        {"calendar", u"mFCal"_s, opens(Function::CalendarMaker), none},
+        {"address book", u"mFB"_s, opens(Function::AddressBook), 0},
+        {"viewer", u"MfViewer"_s, opens(Function::AddressViewer), 1},
+        {"budget", u"mMB"_s, opens(Function::Budget), 9},
+        {"journal", u"mFJour"_s, opens(Function::Journal), 14},
+        {"planner", u"mFP"_s, opens(Function::Planner), 2},
+        {"to do", u"mFToDo"_s, opens(Function::ToDoList), none},
+        {"photos", u"mUPhoto"_s, opens(Function::PhotoAlbum), none},
+        {"keeper", u"mPWKpr"_s, opens(Function::PasswordKeeper), 11},
+        {"control", u"mUP"_s, opens(Function::PasswordControl), none},
+        {"weight", u"mFWeight"_s, opens(Function::WeightTracker), none},
+    });
 }
 
 void TestStartDispatch::opensAMenuEntryBehindItsGuard()
 {
-    QFETCH(QString, entry);
-    QFETCH(int, function);
-    QFETCH(int, area);
+    const auto [entry, function, area] = row<QString, int, int>();
     StartWindow start;
     start.addAllFunctions();
     start.protectAll();
@@ -176,25 +173,19 @@ void TestStartDispatch::opensNothingWhenThePromptRefuses()
 
 void TestStartDispatch::tellsAnEmptyList_data()
 {
-    QTest::addColumn<int>("position");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("text");
     const QString view = u"There are currently no files to view!"_s;
     const QString rollup = u"There are currently no files to display rollup information!"_s;
-    QTest::newRow("no file") << 24 << QByteArray() << u"Home Inventory View"_s << view;
-    QTest::newRow("only marked lines")
-        << 25 << QByteArray("N*Kitchen\r\n") << u"Home Inventory Rollup"_s << rollup;
-    QTest::newRow("videos") << 27 << QByteArray("\r\n") << u"Video Library View"_s << view;
-    QTest::newRow("video rollup") << 28 << QByteArray() << u"Video Library Rollup"_s << rollup;
+    rows<int, QByteArray, QString, QString>({
+        {"no file", 24, {}, u"Home Inventory View"_s, view},
+        {"only marked lines", 25, "N*Kitchen\r\n", u"Home Inventory Rollup"_s, rollup},
+        {"videos", 27, "\r\n", u"Video Library View"_s, view},
+        {"video rollup", 28, {}, u"Video Library Rollup"_s, rollup},
+    });
 }
 
 void TestStartDispatch::tellsAnEmptyList()
 {
-    QFETCH(int, position);
-    QFETCH(QByteArray, content);
-    QFETCH(QString, title);
-    QFETCH(QString, text);
+    const auto [position, content, title, text] = row<int, QByteArray, QString, QString>();
     StartWindow start;
     start.protectAll();
     if (!content.isEmpty())
