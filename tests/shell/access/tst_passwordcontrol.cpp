@@ -27,7 +27,6 @@ private slots:
     void init();
     void cleanup();
     void setsAPasswordAndGuardsAFunction();
-    void marksNeedAPassword();
     void refusesNewPasswords_data();
     void refusesNewPasswords();
     void changesThePassword();
@@ -49,6 +48,8 @@ private:
     }
     QCheckBox *mark(int area) const;
     void type(const char *box, const QString &text) const;
+    /// Types into the boxes from `box` on: the old password, the new one, the new one again.
+    void answer(int box, const QStringList &texts) const;
     QString refusal() const { return control<QLabel>(*m_window, "refusal")->text(); }
     QString said() const { return m_window->findChild<ActivityBar *>()->message(); }
 
@@ -94,10 +95,20 @@ void TestForm31::type(const char *box, const QString &text) const
     QTest::keyClicks(edit, text);
 }
 
+void TestForm31::answer(int box, const QStringList &texts) const
+{
+    for (const QString &text : texts)
+        type(qPrintable(u"Text1_%1"_s.arg(box++)), text);
+    click("passwordOk");
+}
+
 void TestForm31::setsAPasswordAndGuardsAFunction()
 {
     open();
     QVERIFY(!control<QPushButton>(*m_window, "changePassword")->isVisible());
+    QVERIFY(!control<QPushButton>(*m_window, "Command1")->isEnabled());
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        QVERIFY(!mark(area)->isEnabled() && !mark(area)->toolTip().isEmpty());
     click("setPassword");
     type("Text1_1", u"Tulips"_s);
     type("Text1_2", u"Tulips"_s);
@@ -117,16 +128,6 @@ void TestForm31::setsAPasswordAndGuardsAFunction()
     QVERIFY(m_window->close());
 }
 
-void TestForm31::marksNeedAPassword()
-{
-    open();
-    for (int area = 0; area < ProtectedAreas::count; ++area) {
-        QVERIFY(!mark(area)->isEnabled());
-        QVERIFY(!mark(area)->toolTip().isEmpty());
-    }
-    QVERIFY(!control<QPushButton>(*m_window, "Command1")->isEnabled());
-}
-
 void TestForm31::refusesNewPasswords_data()
 {
     rows<QString, QString, QString>({
@@ -141,9 +142,7 @@ void TestForm31::refusesNewPasswords()
     const auto [first, second, reason] = row<QString, QString, QString>();
     open();
     click("setPassword");
-    type("Text1_1", first);
-    type("Text1_2", second);
-    click("passwordOk");
+    answer(1, {first, second});
     QCOMPARE(refusal(), reason);
     QCOMPARE(file().state(), PasswordFile::State::NotSet);
 }
@@ -153,10 +152,7 @@ void TestForm31::changesThePassword()
     guard(Area::Planner);
     open();
     click("changePassword");
-    type("Text1_0", u"Sesame"_s);
-    type("Text1_1", u"Tulips"_s);
-    type("Text1_2", u"Tulips"_s);
-    click("passwordOk");
+    answer(0, {u"Sesame"_s, u"Tulips"_s, u"Tulips"_s});
     QVERIFY(file().matches(u"Tulips"_s));
     QVERIFY(file().areas().isProtected(Area::Planner));
 }
@@ -165,11 +161,10 @@ void TestForm31::askingForTheOldPasswordIsLimited()
 {
     guard(Area::Planner);
     open();
-    for (int answer = 1; answer <= 3; ++answer) {
+    for (int round = 1; round <= 3; ++round) {
         click("removePassword");
         QTRY_VERIFY(control<QPushButton>(*m_window, "passwordOk")->isEnabled());
-        type("Text1_0", u"Roses"_s);
-        click("passwordOk");
+        answer(0, {u"Roses"_s});
     }
     QVERIFY(!control<QPushButton>(*m_window, "removePassword")->isEnabled());
     QCOMPARE(control<QPushButton>(*m_window, "changePassword")->toolTip(), PasswordMessages::answersSpent());
@@ -183,8 +178,7 @@ void TestForm31::removesThePasswordWithAllMarks()
     open();
     QVERIFY(mark(Area::Planner)->isChecked());
     click("removePassword");
-    type("Text1_0", u"Sesame"_s);
-    click("passwordOk");
+    answer(0, {u"Sesame"_s});
     QCOMPARE(file().state(), PasswordFile::State::NotSet);
     QVERIFY(!mark(Area::Planner)->isChecked());
     QVERIFY(!m_program->state.protectedAreas.isProtected(Area::Planner));

@@ -36,8 +36,7 @@ private slots:
     void init();
     void namesWhatItGuards_data();
     void namesWhatItGuards();
-    void opensWithThePasswordAlone_data();
-    void opensWithThePasswordAlone();
+    void opensWithThePassword();
     void eachWrongAnswerWaitsLonger();
     void theThirdWrongAnswerEndsIt();
     void nothingIsTriedDuringTheWait();
@@ -78,23 +77,13 @@ void TestForm32::namesWhatItGuards()
                         [&name](const QLabel *label) { return label->text() == name; }));
 }
 
-void TestForm32::opensWithThePasswordAlone_data()
+void TestForm32::opensWithThePassword()
 {
-    rows<QString, bool>({
-        {"the password", u"Sesame"_s, true},
-        {"another", u"sesame"_s, false},
-        {"nothing", {}, false},
-    });
-}
-
-void TestForm32::opensWithThePasswordAlone()
-{
-    const auto [typed, opens] = row<QString, bool>();
     Form32 prompt(m_program->program, nullptr, 1ms);
     const QSignalSpy accepted(&prompt, &QDialog::accepted);
     showActive(prompt);
-    type(prompt, typed);
-    QCOMPARE(!accepted.isEmpty(), opens);
+    type(prompt, u"Sesame"_s);
+    QCOMPARE(accepted.size(), 1);
     QVERIFY(control<QLineEdit>(prompt, "Text1")->text().isEmpty());
 }
 
@@ -132,7 +121,8 @@ void TestForm32::theThirdWrongAnswerEndsIt()
         QVERIFY(rejected.isEmpty());
         // An answer that was not given is not a wrong one.
         type(prompt, QString());
-        type(prompt, u"Tulips"_s);
+        type(prompt, u"sesame"_s);
+        QVERIFY(control<QLineEdit>(prompt, "Text1")->text().isEmpty());
     }
     QCOMPARE(rejected.size(), 1);
 }
@@ -169,8 +159,7 @@ void TestForm32::leavesItsVerdictForTheGate()
 void TestForm32::tellsThatTheFileIsDamaged()
 {
     m_program->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
-    for (const QByteArray &bytes :
-         {"\x12\x34\x56"_ba, QByteArray()}) { // noise; emptied while the program runs
+    for (const QByteArray &bytes : {"noise"_ba, ""_ba}) { // emptied while the program runs
         m_program->setBytes(u"PCtrl1.Fil"_s, bytes);
         QVERIFY(!m_program->gate.mayOpen(m_program->program, Area::AddressBook, nullptr));
         QCOMPARE(m_program->dialogs.takeShown(), {PasswordMessages::fileDamaged(m_program->folder.path())});

@@ -17,13 +17,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int settingsLength = 10;
+/// The record of the chosen background.
+QByteArray chosen(const StartWindow &start)
+{
+    return start.record(u"GHINV1.Fil"_s, 10, 3).left(7);
+}
 
-void savePicture(const StartWindow &start, const QString &name, QSize size, const QColor &color)
+void savePicture(const QString &path, QSize size, const QColor &color)
 {
     QImage picture(size, QImage::Format_RGB32);
     picture.fill(color);
-    QVERIFY(picture.save(start.test.path(name), "jpg", 100));
+    QVERIFY(picture.save(path, "jpg", 100));
 }
 
 /// The colour in the lowest corner of the main menu's picture.
@@ -54,8 +58,6 @@ private slots:
     void showsAChoiceAtOnceAndWritesIt();
     void goesBackToTheDefault();
     void leavesEverythingOnEscape();
-    void marksTheSlotInUse_data();
-    void marksTheSlotInUse();
     void walksAndChoosesByKeys();
     void looksForPicturesInTheProgramsFolder();
     void takesAnyPicture_data();
@@ -65,7 +67,7 @@ private slots:
 void TestBackgroundSelector::showsAChoiceAtOnceAndWritesIt()
 {
     StartWindow start(TestProgram::Household);
-    savePicture(start, u"WP7.jpg"_s, QSize(64, 40), Qt::red);
+    savePicture(start.test.path(u"WP7.jpg"_s), QSize(64, 40), Qt::red);
     Startfrm &window = start.show();
     start.trigger("mOBC");
     QCOMPARE(start.activity(), u"Background Selector"_s);
@@ -76,10 +78,10 @@ void TestBackgroundSelector::showsAChoiceAtOnceAndWritesIt()
     QVERIFY(isLike(cornerOf(window), Qt::red));
     QVERIFY(isInUse(window, "backgroundSlot_6"));
     QVERIFY(!isInUse(window, "backgroundSlot_1"));
-    QCOMPARE(start.record(u"GHINV1.Fil"_s, settingsLength, 3).left(7), QByteArray("\x08\x00\x03\x00WP2", 7));
+    QCOMPARE(chosen(start), "\x08\0\x03\0WP2"_ba);
 
     QTest::mouseClick(control<QPushButton>(window, "Command1"), Qt::LeftButton);
-    QCOMPARE(start.record(u"GHINV1.Fil"_s, settingsLength, 3).left(7), QByteArray("\x08\x00\x03\x00WP7", 7));
+    QCOMPARE(chosen(start), "\x08\0\x03\0WP7"_ba);
     QCOMPARE(start.activity(), u"Main Menu"_s);
     QVERIFY(control<FlowToolBar>(window, "Toolbar1")->isVisible());
     QVERIFY(isLike(cornerOf(window), Qt::red));
@@ -98,9 +100,10 @@ void TestBackgroundSelector::goesBackToTheDefault()
     plain->click(); // a second click leaves it set
     QVERIFY(plain->isChecked());
     QTest::mouseClick(control<QPushButton>(window, "Command1"), Qt::LeftButton);
-    QCOMPARE(start.record(u"GHINV1.Fil"_s, settingsLength, 3).left(7), QByteArray("\x08\x00\x03\x00"
-                                                                                  "Def",
-                                                                                  7));
+    QCOMPARE(chosen(start), "\x08\0\x03\0\x44\x65\x66"_ba); // Def
+    start.trigger("mOBC");
+    QVERIFY(plain->isChecked());
+    QVERIFY(!isInUse(window, "backgroundSlot_1"));
 }
 
 void TestBackgroundSelector::leavesEverythingOnEscape()
@@ -115,31 +118,6 @@ void TestBackgroundSelector::leavesEverythingOnEscape()
     QCOMPARE(start.activity(), u"Main Menu"_s);
     QCOMPARE(start.test.bytes(u"GHINV1.Fil"_s), settings);
     QVERIFY(isLike(cornerOf(window), before));
-}
-
-void TestBackgroundSelector::marksTheSlotInUse_data()
-{
-    rows<QString, int, bool>({
-        {"never written", {}, -1, true},
-        {"default", u"Def"_s, -1, true},
-        {"first", u"WP1"_s, 0, false},
-        {"last", u"WP16"_s, 15, false},
-        {"none of them", u"WP99"_s, -1, false},
-    });
-}
-
-void TestBackgroundSelector::marksTheSlotInUse()
-{
-    const auto [record, slot, plain] = row<QString, int, bool>();
-    StartWindow start;
-    if (!record.isEmpty())
-        QVERIFY(start.test.settings.setTagged(SettingsKeys::background, record));
-    Startfrm &window = start.show();
-    start.trigger("mOBC");
-    for (int i = 0; i < BackgroundChoice::slotCount; ++i) {
-        QCOMPARE(isInUse(window, qPrintable(u"backgroundSlot_%1"_s.arg(i))), i == slot);
-    }
-    QCOMPARE(control<QRadioButton>(window, "Option1")->isChecked(), plain);
 }
 
 void TestBackgroundSelector::walksAndChoosesByKeys()
@@ -159,9 +137,7 @@ void TestBackgroundSelector::looksForPicturesInTheProgramsFolder()
 {
     StartWindow start;
     QVERIFY(start.test.settings.setTagged(SettingsKeys::background, u"WP3"_s));
-    QImage picture(64, 40, QImage::Format_RGB32);
-    picture.fill(Qt::blue);
-    QVERIFY(picture.save(start.test.programFolder.filePath(u"wp3.JPG"_s), "jpg", 100));
+    savePicture(start.test.programFolder.filePath(u"wp3.JPG"_s), QSize(64, 40), Qt::blue);
     QVERIFY(isLike(cornerOf(start.show()), Qt::blue));
 }
 
@@ -185,7 +161,7 @@ void TestBackgroundSelector::takesAnyPicture()
     if (size.isEmpty())
         start.test.setBytes(u"WP3.jpg"_s, "\xff\xd8\xff\xe0 no picture");
     else
-        savePicture(start, u"WP3.jpg"_s, size, QColor(60, 120, 60));
+        savePicture(start.test.path(u"WP3.jpg"_s), size, QColor(60, 120, 60));
     Startfrm &window = start.show();
     const QColor expected = size.isEmpty() ? Theme::of(&window).ground : QColor(60, 120, 60);
     QVERIFY(isLike(cornerOf(window), expected));

@@ -38,7 +38,11 @@ private:
     bool &m_leaves;
 };
 
-constexpr int colorLength = 20;
+/// The beginning of a record of the colours' file: the display mode is 35, height and width are 36 and 37.
+QByteArray record(const StartWindow &start, int number, int length)
+{
+    return start.record(u"GColor3.Fil"_s, 20, number).left(length);
+}
 
 } // namespace
 
@@ -60,27 +64,25 @@ void TestDisplayMode::keepsTheDisplayMode()
 {
     StartWindow start;
     Startfrm &window = start.show();
-    const auto mode = [&] { return start.record(u"GColor3.Fil"_s, colorLength, 35).left(5); };
-
     start.trigger("mOPS");
     QVERIFY(!window.isMaximized());
-    QCOMPARE(mode(), QByteArray("\x03\x00Yes", 5));
+    QCOMPARE(record(start, 35, 5), "\x03\0Yes"_ba);
     QCOMPARE(window.size(), QSize(800, 600));
     QVERIFY(control<QAction>(window, "mOPS")->isChecked());
     QVERIFY(!control<QAction>(window, "mOPF")->isChecked());
 
     start.trigger("mOPF");
     QVERIFY(window.isMaximized());
-    QCOMPARE(mode().left(4), QByteArray("\x02\x00No", 4));
+    QCOMPARE(record(start, 35, 4), "\x02\0No"_ba);
     QCOMPARE(start.test.state.screenMode, ScreenMode::FullScreen);
 
     start.trigger("Toolbar2_1"); // toggles
-    QCOMPARE(mode(), QByteArray("\x03\x00Yes", 5));
+    QCOMPARE(record(start, 35, 5), "\x03\0Yes"_ba);
     window.resize(1000, 700);
     start.trigger("mOPDefault");
     QCOMPARE(window.size(), QSize(800, 600));
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 36).left(2), QByteArray("\x28\x23", 2)); // 9000
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 37).left(2), QByteArray("\xe0\x2e", 2)); // 12000
+    QCOMPARE(record(start, 36, 2), "\x28\x23"_ba); // 9000
+    QCOMPARE(record(start, 37, 2), "\xe0\x2e"_ba); // 12000
 }
 
 void TestDisplayMode::followsUnmaximisingByHand()
@@ -89,7 +91,7 @@ void TestDisplayMode::followsUnmaximisingByHand()
     Startfrm &window = start.show();
     start.trigger("mOPF");
     window.showNormal();
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 35).left(5), QByteArray("\x03\x00Yes", 5));
+    QCOMPARE(record(start, 35, 5), "\x03\0Yes"_ba);
     QCOMPARE(start.test.state.screenMode, ScreenMode::Smaller);
     QVERIFY(control<QAction>(window, "mOPS")->isChecked());
     QVERIFY(!control<QAction>(window, "mOPF")->isChecked());
@@ -105,11 +107,8 @@ void TestDisplayMode::opensAtTheSmallestSizeForAnEmptySize()
 
 void TestDisplayMode::asksBeforeItExits_data()
 {
-    rows<Answer, bool>({
-        {"yes", Answer::Yes, true},
-        {"no", Answer::No, false},
-        {"cancel", Answer::Cancel, false},
-    });
+    rows<Answer, bool>(
+        {{"yes", Answer::Yes, true}, {"no", Answer::No, false}, {"cancel", Answer::Cancel, false}});
 }
 
 void TestDisplayMode::asksBeforeItExits()
@@ -128,10 +127,10 @@ void TestDisplayMode::asksBeforeItExits()
     QCOMPARE(window.isVisible(), !leaves);
     QCOMPARE(start.test.functions.openWindows().size(), leaves ? 0 : 1);
     // 500 pixels are 7500 twips, raised to 9000; 1000 are 15000.
-    const QByteArray height = leaves ? QByteArray("\x28\x23", 2) : QByteArray("\x20\x2b", 2);
-    const QByteArray width = leaves ? QByteArray("\x98\x3a", 2) : QByteArray("\xd8\x45", 2);
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 36).left(2), height);
-    QCOMPARE(start.record(u"GColor3.Fil"_s, colorLength, 37).left(2), width);
+    const QByteArray height = leaves ? "\x28\x23"_ba : "\x20\x2b"_ba;
+    const QByteArray width = leaves ? "\x98\x3a"_ba : "\xd8\x45"_ba;
+    QCOMPARE(record(start, 36, 2), height);
+    QCOMPARE(record(start, 37, 2), width);
 }
 
 void TestDisplayMode::letsAWindowStopTheExit()

@@ -140,12 +140,11 @@ void TestMenuCards::readsTheNewsAgainOnlyWhenAFileHasChanged()
 void TestMenuCards::choosesColumnsByWidth_data()
 {
     rows<int, int>({
-        {"600", 600, 2},
-        {"719", 719, 2},
-        {"720", 720, 3},
-        {"960, full HD at 200 %", 960, 3},
-        {"1024", 1024, 4},
-        {"2560", 2560, 4},
+        {"the last of two columns", 719, 2},
+        {"the first of three", 720, 3},
+        {"full HD at 200 %", 960, 3},
+        {"four", 1024, 4},
+        {"never more", 2560, 4},
     });
 }
 
