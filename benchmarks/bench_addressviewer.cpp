@@ -148,7 +148,7 @@ void describeList(benchmark::State &state)
     ViewerPages::ListOptions options;
     options.hasTelephones = true;
     for ([[maybe_unused]] auto round : state)
-        benchmark::DoNotOptimize(ViewerPages::list(viewer, options, DateStyle::Usa, QDate(2026, 11, 21)));
+        benchmark::DoNotOptimize(ViewerPages::list(viewer, options, {.today = QDate(2026, 11, 21)}));
 }
 
 } // namespace

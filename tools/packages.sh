@@ -3,6 +3,7 @@
 
 quillery_build_packages=(g++ cmake ninja-build pkg-config python3 qt6-base-dev libsodium-dev librsvg2-bin)
 quillery_test_packages=(poppler-utils)
+quillery_benchmark_packages=(libbenchmark-dev)
 
 # install_missing PACKAGE...: quick when nothing is missing; needs root or sudo otherwise.
 install_missing() {
