@@ -4,7 +4,10 @@
 #include "app/functions.h"
 #include "shell/access/passwordfile.h"
 #include "shell/access/passwordprompt.h"
+#include "storage/changeset.h"
 #include "storage/saving.h"
+
+#include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,6 +15,7 @@ namespace {
 
 const DataFolder &recovered(const DataFolder &folder)
 {
+    std::ignore = ChangeSet::recover(folder); // what cannot be finished now is tried again by the next save
     Saving::recover(folder);
     return folder;
 }

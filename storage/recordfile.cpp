@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/recordfile.h"
 
+#include "storage/disk.h"
 #include "storage/log.h"
 
 #include <QFile>
@@ -72,13 +73,18 @@ bool RecordFile::write(int number, QByteArrayView value)
     }
     // Unbuffered, so that the bytes leave in one piece and a full disk shows here and not while closing.
     QFile file(m_path);
-    const bool isWritten = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) &&
-                           file.seek(qint64(number - 1) * m_recordLength) &&
-                           file.write(value.data(), value.size()) == value.size() && file.flush();
-    if (!isWritten)
-        qCWarning(storageLog).noquote()
-            << "Cannot write record" << number << "of" << m_path << '-' << file.errorString();
-    return isWritten;
+    const bool isOpen = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    const qint64 offset = qint64(number - 1) * m_recordLength;
+    const qint64 size = file.size();
+    const QByteArray former = isOpen && file.seek(offset) ? file.read(value.size()) : QByteArray();
+    if (isOpen && Disk::writeAt(file, offset, value) && Disk::flush(file))
+        return true;
+    qCWarning(storageLog).noquote() << "Cannot write record" << number << "of" << m_path << '-'
+                                    << file.errorString();
+    // Half a record is worse than none.
+    if (isOpen && !(Disk::writeAt(file, offset, former) && file.resize(size)))
+        qCWarning(storageLog).noquote() << "Record" << number << "of" << m_path << "is torn";
+    return false;
 }
 
 void RecordFile::create()

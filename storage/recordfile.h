@@ -23,8 +23,8 @@ public:
     QByteArray read(int first, int last) const;
 
     /// Writes `value` at the start of record `number`; bytes of the record behind it keep what they held.
-    /// False, with a line in the log, when the value is longer than a record, `number` is below 1, or the
-    /// disk refuses.
+    /// True once it is on the disk itself. False, with a line in the log and the record as it was, when the
+    /// value is longer than a record, `number` is below 1, or the disk refuses.
     [[nodiscard]] bool write(int number, QByteArrayView value);
 
     /// Creates the file, empty, when it is missing. Where that fails, the log says so.

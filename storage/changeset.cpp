@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/changeset.h"
+
+#include "storage/disk.h"
+#include "storage/log.h"
+
+#include <QCryptographicHash>
+#include <QDataStream>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <ranges>
+#include <tuple>
+
+namespace {
+
+constexpr quint32 magic = 0x51434831; // "QCH1"
+constexpr auto streamVersion = QDataStream::Qt_6_4;
+constexpr qsizetype checksumLength = 32;
+
+QByteArray checksum(QByteArrayView bytes)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(bytes);
+    return hash.result();
+}
+
+QString journalPath(const DataFolder &folder)
+{
+    return folder.path() + u'/' + ChangeSet::journalName;
+}
+
+QString waitingPath(const DataFolder &folder, const QString &name)
+{
+    return folder.filePath(name) + ChangeSet::waitingSuffix;
+}
+
+/// A bare name of the folder; a journal that came from elsewhere reaches nothing outside it.
+bool isOwnName(const QString &name)
+{
+    return !name.isEmpty() && QFileInfo(name).fileName() == name && name != QLatin1StringView("..");
+}
+
+} // namespace
+
+ChangeSet::ChangeSet(const DataFolder &folder)
+    : m_folder(folder)
+{}
+
+void ChangeSet::write(const RecordFile &file, int number, QByteArrayView value)
+{
+    if (number < 1 || value.size() > file.recordLength()) {
+        qCWarning(storageLog).noquote()
+            << "Refused to write" << value.size() << "bytes to record" << number << "of" << file.path();
+        m_isRefused = true;
+        return;
+    }
+    m_changes.push_back(
+        {QFileInfo(file.path()).fileName(), (qint64(number) - 1) * file.recordLength(), value.toByteArray()});
+}
+
+void ChangeSet::replace(const QString &name, const QByteArray &content)
+{
+    m_changes.push_back({QFileInfo(m_folder.filePath(name)).fileName(), -1, content});
+}
+
+bool ChangeSet::commit()
+{
+    // What could not be finished before must not overtake what comes now.
+    if (m_isRefused || !finish(m_folder))
+        return false;
+    if (!stage() || !Disk::writeWhole(journalPath(m_folder), encode(m_changes))) {
+        std::ignore = Disk::remove(journalPath(m_folder)); // torn, so it counts for nothing where it stays
+        dropStaged();
+        return false;
+    }
+    Disk::flushNames(m_folder.path());
+
+    std::vector<Former> formers;
+    if (!writePlaces(m_folder, m_changes, formers) || !takeNames(m_folder, m_changes)) {
+        // Where even the old bytes cannot be put back, the journal stays, to be finished later.
+        if (!hasTakenNames() && restore(formers) && removeJournal(m_folder))
+            dropStaged();
+        return false;
+    }
+    Disk::flushNames(m_folder.path());
+    // A journal that cannot be removed now says again what the files hold already.
+    std::ignore = removeJournal(m_folder);
+    return true;
+}
+
+bool ChangeSet::finish(const DataFolder &folder)
+{
+    QFile file(journalPath(folder));
+    if (!file.exists())
+        return true;
+    Changes changes;
+    const bool isRead = file.open(QIODevice::ReadOnly);
+    const bool isWhole = isRead && decode(file.readAll(), changes);
+    file.close();
+    std::vector<Former> formers;
+    if (!isRead || (isWhole && (!writePlaces(folder, changes, formers) || !takeNames(folder, changes)))) {
+        qCWarning(storageLog).noquote() << "Cannot finish" << file.fileName();
+        return false;
+    }
+    Disk::flushNames(folder.path());
+    return removeJournal(folder);
+}
+
+bool ChangeSet::recover(const DataFolder &folder)
+{
+    if (!finish(folder))
+        return false;
+    QDir dir(folder.path());
+    for (const QString &name : dir.entryList({u'*' + waitingSuffix}, QDir::Files | QDir::Hidden))
+        dir.remove(name);
+    return true;
+}
+
+QByteArray ChangeSet::encode(const Changes &changes)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(streamVersion);
+    stream << magic << quint32(changes.size());
+    for (const Change &change : changes)
+        stream << change.name << change.offset << (change.isWholeFile() ? QByteArray() : change.bytes);
+    return bytes + checksum(bytes);
+}
+
+bool ChangeSet::decode(const QByteArray &journal, Changes &changes)
+{
+    const QByteArray bytes = journal.chopped(std::min(checksumLength, journal.size()));
+    if (journal.last(journal.size() - bytes.size()) != checksum(bytes))
+        return false;
+    QDataStream stream(bytes);
+    stream.setVersion(streamVersion);
+    quint32 start = 0;
+    quint32 count = 0;
+    stream >> start >> count;
+    if (start != magic)
+        return false;
+    for (; count > 0 && stream.status() == QDataStream::Ok; --count) {
+        Change change;
+        stream >> change.name >> change.offset >> change.bytes;
+        if (!isOwnName(change.name))
+            return false;
+        changes.push_back(change);
+    }
+    return stream.status() == QDataStream::Ok;
+}
+
+bool ChangeSet::writeFile(const DataFolder &folder, const Changes &changes, const QString &name,
+                          std::vector<Former> &formers)
+{
+    QFile file(folder.filePath(name));
+    formers.push_back({file.fileName(), file.exists() ? file.size() : -1, {}});
+    bool isWritten = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    if (!isWritten)
+        qCWarning(storageLog).noquote() << "Cannot write" << file.fileName() << '-' << file.errorString();
+    for (const Change &change : changes) {
+        if (!isWritten)
+            break;
+        if (change.isWholeFile() || change.name != name)
+            continue;
+        isWritten = file.seek(change.offset);
+        formers.back().places.emplace_back(change.offset, file.read(change.bytes.size()));
+        isWritten = isWritten && Disk::writeAt(file, change.offset, change.bytes);
+    }
+    return isWritten && Disk::flush(file);
+}
+
+bool ChangeSet::writePlaces(const DataFolder &folder, const Changes &changes, std::vector<Former> &formers)
+{
+    QStringList names;
+    for (const Change &change : changes) {
+        if (!change.isWholeFile() && !names.contains(change.name))
+            names += change.name;
+    }
+    return std::ranges::all_of(
+        names, [&](const QString &name) { return writeFile(folder, changes, name, formers); });
+}
+
+bool ChangeSet::takeNames(const DataFolder &folder, const Changes &changes)
+{
+    return std::ranges::all_of(changes, [&folder](const Change &change) {
+        const QString waiting = waitingPath(folder, change.name);
+        // One that does not wait any more has its name already.
+        return !change.isWholeFile() || !QFile::exists(waiting) ||
+               Disk::renameOver(waiting, folder.filePath(change.name));
+    });
+}
+
+bool ChangeSet::restore(const std::vector<Former> &formers)
+{
+    bool isRestored = true;
+    for (const Former &former : formers | std::views::reverse) {
+        if (former.size < 0) {
+            isRestored = Disk::remove(former.path) && isRestored;
+            continue;
+        }
+        QFile file(former.path);
+        if (former.places.empty())
+            continue;
+        bool isDone = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+        for (const auto &[offset, bytes] : former.places | std::views::reverse)
+            isDone = isDone && Disk::writeAt(file, offset, bytes);
+        isRestored = isDone && file.resize(former.size) && Disk::flush(file) && isRestored;
+    }
+    return isRestored;
+}
+
+bool ChangeSet::removeJournal(const DataFolder &folder)
+{
+    if (!Disk::remove(journalPath(folder)))
+        return false;
+    Disk::flushNames(folder.path());
+    return true;
+}
+
+bool ChangeSet::stage() const
+{
+    return std::ranges::all_of(m_changes, [this](const Change &change) {
+        if (!change.isWholeFile())
+            return true;
+        const QFileInfo original(m_folder.filePath(change.name));
+        if (original.exists() && !(original.isFile() && original.isWritable())) {
+            qCWarning(storageLog).noquote() << "Cannot replace" << original.filePath();
+            return false;
+        }
+        return Disk::writeWhole(waitingPath(m_folder, change.name), change.bytes);
+    });
+}
+
+bool ChangeSet::hasTakenNames() const
+{
+    return std::ranges::any_of(m_changes, [this](const Change &change) {
+        return change.isWholeFile() && !QFile::exists(waitingPath(m_folder, change.name));
+    });
+}
+
+void ChangeSet::dropStaged() const
+{
+    for (const Change &change : m_changes) {
+        if (change.isWholeFile())
+            std::ignore = Disk::remove(waitingPath(m_folder, change.name));
+    }
+}

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/datafolder.h"
+#include "storage/recordfile.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <utility>
+#include <vector>
+
+/// The writes of one action that belong together: after `commit`, and after any crash or power cut, all of
+/// them are on the disk or none is.
+///
+/// What is to be written is first laid down beside the data, in the file `journalName`, and flushed; then it
+/// is done and flushed; then the journal goes. A journal that a crash left behind is finished by the next
+/// start when it is whole, and dropped when it is not. It holds the very bytes that the files get, so a
+/// sealed function's journal holds sealed bytes.
+class ChangeSet
+{
+public:
+    /// A magic number, the writes, and the SHA-256 of both.
+    inline static const QString journalName = QStringLiteral("Quillery.changes");
+    /// The end of the names of files that wait for their journal.
+    static constexpr QLatin1StringView waitingSuffix{".quillery-waiting"};
+
+    explicit ChangeSet(const DataFolder &folder);
+
+    /// Adds: `value` at the start of record `number` of `file`, a file of the folder, as `RecordFile::write`.
+    void write(const RecordFile &file, int number, QByteArrayView value);
+
+    /// Adds: the file `name` of the folder, which then holds `content`.
+    void replace(const QString &name, const QByteArray &content);
+
+    /// Does what was added, in that order but for whole files, which come last. False, with a line in the
+    /// log and everything as it was, when a step is refused; it can be called again then.
+    [[nodiscard]] bool commit();
+
+    /// Finishes or drops what a crash interrupted in `folder`. Called once at start, before anything is read.
+    /// False when a change cannot be finished now: its journal stays for the next time.
+    [[nodiscard]] static bool recover(const DataFolder &folder);
+
+private:
+    /// Bytes for a place in a file; a whole file that waits under its waiting name when `offset` is -1.
+    struct Change {
+        QString name;
+        qint64 offset = 0;
+        QByteArray bytes;
+
+        bool isWholeFile() const { return offset < 0; }
+    };
+    using Changes = std::vector<Change>;
+
+    /// What a file held before a change touched it.
+    struct Former {
+        QString path;
+        qint64 size; ///< -1: the file was not there
+        std::vector<std::pair<qint64, QByteArray>> places;
+    };
+
+    static bool finish(const DataFolder &folder);
+    static QByteArray encode(const Changes &changes);
+    static bool decode(const QByteArray &journal, Changes &changes);
+    static bool writeFile(const DataFolder &folder, const Changes &changes, const QString &name,
+                          std::vector<Former> &formers);
+    static bool writePlaces(const DataFolder &folder, const Changes &changes, std::vector<Former> &formers);
+    static bool takeNames(const DataFolder &folder, const Changes &changes);
+    static bool restore(const std::vector<Former> &formers);
+    static bool removeJournal(const DataFolder &folder);
+
+    bool stage() const;
+    bool hasTakenNames() const;
+    void dropStaged() const;
+
+    DataFolder m_folder;
+    Changes m_changes;
+    bool m_isRefused = false;
+};

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/changeset.h"
+#include "storage/disk.h"
+#include "tests/support/rows.h"
+#include "tests/support/testfiles.h"
+
+#include <QDir>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString first = u"First.Fil"_s;
+const QString second = u"Second.Fil"_s;
+const QString whole = u"Whole.Fil"_s;
+const QByteArray former = "0000000011111111"_ba;
+
+using Files = QMap<QString, QByteArray>;
+const Files before{{first, former}, {whole, "old"}};
+const Files after{{first, "00000000aaa11111bb"}, {second, "12345678"_ba}, {whole, "new"}};
+
+} // namespace
+
+class TestChangeSet : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void writesAll();
+    void refusesWhatDoesNotFit();
+    void leavesEverythingWhereAStepIsRefused_data();
+    void leavesEverythingWhereAStepIsRefused();
+    void isOldOrNewAfterEveryFailure_data();
+    void isOldOrNewAfterEveryFailure();
+    void dropsWhatIsNoJournal_data();
+    void dropsWhatIsNoJournal();
+
+private:
+    static Files filesOf(const TestFolder &folder);
+    /// The change that makes `after` from `before`.
+    ChangeSet change() const;
+
+    std::unique_ptr<TestFolder> m_test;
+};
+
+void TestChangeSet::init()
+{
+    m_test = std::make_unique<TestFolder>();
+    for (auto file = before.cbegin(); file != before.cend(); ++file)
+        m_test->put(file.key(), file.value());
+}
+
+Files TestChangeSet::filesOf(const TestFolder &folder)
+{
+    Files files;
+    for (const QString &name :
+         QDir(folder.folder().path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
+        files[name] = folder.bytes(name);
+    return files;
+}
+
+ChangeSet TestChangeSet::change() const
+{
+    const DataFolder &folder = m_test->folder();
+    ChangeSet set(folder);
+    set.write(RecordFile(folder.filePath(first), 8), 2, "aaa");
+    set.write(RecordFile(folder.filePath(second), 8), 1, "12345678");
+    set.replace(whole, "new");
+    set.write(RecordFile(folder.filePath(first), 8), 3, "bb");
+    return set;
+}
+
+void TestChangeSet::writesAll()
+{
+    QVERIFY(change().commit());
+    QCOMPARE(filesOf(*m_test), after);
+}
+
+void TestChangeSet::refusesWhatDoesNotFit()
+{
+    ChangeSet set = change();
+    expectWarning("^Refused to write 9 bytes");
+    set.write(RecordFile(m_test->path(first), 8), 1, "123456789");
+    QVERIFY(!set.commit());
+    QCOMPARE(filesOf(*m_test), before);
+}
+
+void TestChangeSet::leavesEverythingWhereAStepIsRefused_data()
+{
+    rows<QString>({{"a folder in the place of a record file", second},
+                   {"a folder in the place of a whole file", whole},
+                   {"a folder in the place of the journal", ChangeSet::journalName},
+                   {"a folder where the whole file waits", whole + ChangeSet::waitingSuffix}});
+}
+
+void TestChangeSet::leavesEverythingWhereAStepIsRefused()
+{
+    const auto [obstacle] = row<QString>();
+    QFile::remove(m_test->path(obstacle));
+    QVERIFY(QDir(m_test->folder().path()).mkpath(obstacle + u"/kept"_s));
+    const Files all = filesOf(*m_test);
+    expectWarning("^Cannot (write|replace|finish) ");
+    QVERIFY(!change().commit());
+    QCOMPARE(filesOf(*m_test), all);
+    // It can be tried again.
+    QVERIFY(QDir(m_test->path(obstacle)).removeRecursively());
+    QVERIFY(change().commit());
+    QCOMPARE(filesOf(*m_test), after);
+}
+
+void TestChangeSet::isOldOrNewAfterEveryFailure_data()
+{
+    rows<bool>({{"one step refused", false}, {"the end of the program", true}});
+}
+
+void TestChangeSet::isOldOrNewAfterEveryFailure()
+{
+    const auto [isEnd] = row<bool>();
+    int outcomes[2] = {0, 0};
+    int steps = 1;
+    for (int refused = 1; refused <= steps + 1; ++refused) {
+        init();
+        steps = 0;
+        Disk::setGate([&steps, refused, isEnd = isEnd] {
+            ++steps;
+            return isEnd ? steps < refused : steps != refused;
+        });
+        const bool isDone = change().commit();
+        Disk::setGate({});
+        if (!isEnd)
+            QCOMPARE(m_test->bytes(first), isDone ? after[first] : before[first]);
+        QVERIFY(ChangeSet::recover(m_test->folder()));
+        const Files files = filesOf(*m_test);
+        QVERIFY2(files == before || files == after, qPrintable(u"step %1"_s.arg(refused)));
+        if (isDone)
+            QCOMPARE(files, after);
+        ++outcomes[files == after];
+    }
+    QVERIFY(outcomes[0] > 2);
+    QVERIFY(outcomes[1] > 1);
+}
+
+void TestChangeSet::dropsWhatIsNoJournal_data()
+{
+    rows<QByteArray>({{"empty", ""},
+                      {"foreign", "Quillery was here, long enough to have room for a checksum."},
+                      {"cut short", "cut"},
+                      {"a bit turned", "bit"}});
+}
+
+void TestChangeSet::dropsWhatIsNoJournal()
+{
+    auto [content] = row<QByteArray>();
+    if (content.size() == 3) {
+        // The program ends when the journal is on the disk.
+        int steps = 0;
+        Disk::setGate([&steps] { return ++steps <= 4; });
+        QVERIFY(!change().commit());
+        Disk::setGate({});
+        QByteArray journal = m_test->bytes(ChangeSet::journalName);
+        QVERIFY(!journal.isEmpty());
+        if (content == "cut")
+            journal.chop(1);
+        else
+            journal[20] = char(journal[20] ^ 1);
+        content = journal;
+    }
+    m_test->put(ChangeSet::journalName, content);
+    QVERIFY(ChangeSet::recover(m_test->folder()));
+    QCOMPARE(filesOf(*m_test), before);
+}
+
+QTEST_APPLESS_MAIN(TestChangeSet)
+#include "tst_changeset.moc"
