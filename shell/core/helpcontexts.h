@@ -11,4 +11,7 @@ inline constexpr int PagePreview = 1004;
 inline constexpr int Planner = 1005;
 inline constexpr int AddressViewer = 1006;
 inline constexpr int BackupAndRestore = 1009;
+
+inline constexpr int all[] = {ProgramOverview, AddressBook, PasswordControl, Appearance,
+                              PagePreview,     Planner,     AddressViewer,   BackupAndRestore};
 } // namespace HelpContext

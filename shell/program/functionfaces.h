@@ -25,7 +25,7 @@ struct FunctionFace {
 
 namespace FunctionFaces {
 
-/// The twelve functions with a card, in the order of the cards.
+/// The functions with a card, in the order of the cards.
 std::span<const FunctionFace> cards();
 
 /// Any function's face; the address viewer has one too.

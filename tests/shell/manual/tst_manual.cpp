@@ -25,9 +25,7 @@ private:
 
 void TestManual::hasAPageForEveryContext()
 {
-    for (const int context :
-         {HelpContext::ProgramOverview, HelpContext::AddressBook, HelpContext::PasswordControl,
-          HelpContext::Appearance, HelpContext::PagePreview, HelpContext::BackupAndRestore}) {
+    for (const int context : HelpContext::all) {
         const ManualPage &page = m_manual.page(context);
         QCOMPARE(page.context, context);
         QVERIFY(!page.title.isEmpty());
