@@ -68,6 +68,8 @@ void ChangeSet::replace(const QString &name, const QByteArray &content)
 
 bool ChangeSet::commit()
 {
+    if (m_changes.empty())
+        return !m_isRefused;
     // What could not be finished before must not overtake what comes now.
     if (m_isRefused || !finish(m_folder))
         return false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/openrecordfile.h"
 
+#include "storage/disk.h"
 #include "storage/log.h"
 
 OpenRecordFile::OpenRecordFile(const QString &path, qsizetype recordLength)
@@ -30,10 +31,24 @@ QByteArrayView OpenRecordFile::read(int number)
 
 bool OpenRecordFile::write(int number, QByteArrayView value)
 {
-    if (m_isWritable && value.size() <= m_recordLength && seek(number) &&
-        m_file.write(value.data(), value.size()) == value.size())
-        return true;
+    if (m_isWritable && value.size() <= m_recordLength && seek(number)) {
+        const qint64 offset = m_file.pos();
+        const qint64 size = m_file.size();
+        const QByteArray former = m_file.read(value.size());
+        m_isFlushed = false;
+        if (Disk::writeAt(m_file, offset, value))
+            return true;
+        // Half a record is worse than none.
+        if (!Disk::writeAt(m_file, offset, former) || !m_file.resize(size))
+            qCWarning(storageLog).noquote() << "Record" << number << "of" << m_file.fileName() << "is torn";
+    }
     qCWarning(storageLog).noquote() << "Cannot write record" << number << "of" << m_file.fileName() << '-'
                                     << m_file.errorString();
     return false;
+}
+
+bool OpenRecordFile::flush()
+{
+    m_isFlushed = m_isFlushed || Disk::flush(m_file);
+    return m_isFlushed;
 }

@@ -5,8 +5,8 @@
 #include <QFile>
 
 /// A random-access file that stays open over many reads and writes, for walks over thousands of records. The
-/// rules are those of `RecordFile`; every write goes to the system at once. It is opened, and made when
-/// missing, at once; a file that can only be read is read.
+/// rules are those of `RecordFile`; every write goes to the system at once, and to the disk itself with
+/// `flush`. It is opened, and made when missing, at once; a file that can only be read is read.
 class OpenRecordFile
 {
 public:
@@ -21,6 +21,9 @@ public:
     /// As `RecordFile::write`.
     [[nodiscard]] bool write(int number, QByteArrayView value);
 
+    /// Puts on the disk what was written since the last time.
+    [[nodiscard]] bool flush();
+
 private:
     bool seek(int number);
 
@@ -29,4 +32,5 @@ private:
     QByteArray m_record;
     bool m_isWritable = false;
     bool m_hasFailed = false;
+    bool m_isFlushed = true;
 };

@@ -144,7 +144,7 @@ AddressBook::SaveResult EntryEditor::save(AddressBook &book)
     m_form->tidyDates();
     const AddressEntry entry = typed();
     AddressBook::SaveResult result = isNew() ? book.saveNew(entry) : book.saveChanged(m_record, entry);
-    if (!result.isEntryWritten) {
+    if (!result.isSaved) {
         emit said(AddressMessages::saveFailed());
         return result;
     }
@@ -153,10 +153,7 @@ AddressBook::SaveResult EntryEditor::save(AddressBook &book)
     m_loaded = entry;
     m_texts.load(entry.texts, m_form->texts());
     m_title->setTitle(listName(entry));
-    if (result.isLineWritten)
-        emit said(AddressLines::saved(entry.fullName()));
-    else
-        emit said(result.isLineTooLong ? AddressMessages::lineTooLong() : AddressMessages::lineNotSaved());
+    emit said(result.isLineTooLong ? AddressMessages::lineTooLong() : AddressLines::saved(entry.fullName()));
     return result;
 }
 

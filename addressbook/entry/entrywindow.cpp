@@ -305,7 +305,7 @@ bool ADDBKVIEW::save()
     if (!isLastNameGiven())
         return false;
     const AddressBook::SaveResult result = m_editor->save(m_book);
-    if (!result.isEntryWritten)
+    if (!result.isSaved)
         return false;
     m_list->replaceShown(result.line);
     m_editor->lock();
@@ -357,13 +357,11 @@ void ADDBKVIEW::modifyOrSave()
 
 void ADDBKVIEW::deleteShown()
 {
-    const AddressEntry &entry = m_editor->loaded();
-    const QString names = entry.fullName();
+    const QString names = m_editor->loaded().fullName();
     if (ask(AddressMessages::deleteEntry(names)) != Answer::Yes)
         return;
     if (!m_book.remove(m_editor->record())) {
-        const bool isGone = m_book.read(m_editor->record())[LastName] != entry[LastName];
-        activity().say(isGone ? AddressMessages::lineNotDeleted() : AddressMessages::deleteFailed());
+        activity().say(AddressMessages::deleteFailed());
         return;
     }
     openBook(m_list->shownRow());

@@ -3,6 +3,7 @@
 
 #include "addressbook/model/indexline.h"
 #include "storage/ansitext.h"
+#include "storage/changeset.h"
 #include "storage/recordvalue.h"
 
 #include <algorithm>
@@ -130,26 +131,12 @@ int AddressBook::nextFreeRecord() const
 
 AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry)
 {
-    const int record = nextFreeRecord();
-    if (record == 0)
-        return {};
-    SaveResult result = prepared(record, entry);
-    const QByteArray bytes = addressLayout.encode(withPictureMark(entry));
-    result.isEntryWritten = entries().write(record, bytes);
-    if (result.isEntryWritten)
-        writeLine(result);
-    return result;
+    return write(nextFreeRecord(), entry);
 }
 
 AddressBook::SaveResult AddressBook::saveChanged(int record, const AddressEntry &entry)
 {
-    if (!isEntryRecord(record))
-        return {};
-    SaveResult result = prepared(record, entry);
-    writeLine(result);
-    const QByteArray bytes = addressLayout.encode(withPictureMark(entry));
-    result.isEntryWritten = entries().write(record, bytes);
-    return result;
+    return write(record, entry);
 }
 
 bool AddressBook::remove(int record)
@@ -158,8 +145,10 @@ bool AddressBook::remove(int record)
         return false;
     AddressEntry cleared;
     cleared[LastName] = QString::fromLatin1(deletedName);
-    const auto mark = RecordValue::encodeText(IndexLine::deletionMark(), lineRecordLength);
-    return entries().write(record, addressLayout.encode(cleared)) && index().write(record, *mark);
+    ChangeSet change(m_folder);
+    change.write(entries(), record, addressLayout.encode(cleared));
+    change.write(index(), record, *RecordValue::encodeText(IndexLine::deletionMark(), lineRecordLength));
+    return change.commit();
 }
 
 void AddressBook::forEachLive(const std::function<bool(int, const AddressEntry &)> &visit) const
@@ -184,21 +173,25 @@ void AddressBook::forEachLiveRecord(const std::function<bool(int, QByteArrayView
     });
 }
 
-AddressBook::SaveResult AddressBook::prepared(int record, const AddressEntry &entry) const
+AddressBook::SaveResult AddressBook::write(int record, const AddressEntry &entry)
 {
+    if (!isEntryRecord(record))
+        return {};
     // The line names the entry as the file will hold it: composed, and cut to the width of its fields.
-    const AddressEntry stored = addressLayout.decode(addressLayout.encode(entry));
+    const QByteArray bytes = addressLayout.encode(withPictureMark(entry));
+    const AddressEntry stored = addressLayout.decode(bytes);
     SaveResult result;
     result.record = record;
     result.line = IndexLine::make(stored[LastName], stored[FirstName], record);
-    return result;
-}
+    const auto line = RecordValue::encodeText(result.line, lineRecordLength);
+    result.isLineTooLong = !line;
 
-void AddressBook::writeLine(SaveResult &result)
-{
-    const auto bytes = RecordValue::encodeText(result.line, lineRecordLength);
-    result.isLineTooLong = !bytes;
-    result.isLineWritten = bytes && index().write(result.record, *bytes);
+    ChangeSet change(m_folder);
+    change.write(entries(), record, bytes);
+    if (line)
+        change.write(index(), record, *line);
+    result.isSaved = change.commit();
+    return result;
 }
 
 bool AddressBook::isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const

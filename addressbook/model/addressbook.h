@@ -26,10 +26,8 @@ public:
     struct [[nodiscard]] SaveResult {
         int record = 0; ///< where the entry went; 0 when nothing was tried
         QString line;   ///< the entry's line for the name list
-        bool isEntryWritten = false;
-        bool isLineWritten = false;
-        bool isLineTooLong =
-            false; ///< the line was left out, or the old one left, since no record can hold it
+        bool isSaved = false;
+        bool isLineTooLong = false; ///< no record can hold the line: none was written, an old one stays
     };
 
     /// What a line of the list leads to.
@@ -67,16 +65,15 @@ public:
     /// The number that the next new entry takes; 0 when the entries cannot be read to their end.
     int nextFreeRecord() const;
 
-    /// Writes `entry` to the first free record, then its line. A write that fails leaves the line out too, so
-    /// that no name leads nowhere. The last name is not checked here.
+    /// Writes `entry` to the first free record, and its line: both or, when the disk refuses, neither. The
+    /// last name is not checked here.
     SaveResult saveNew(const AddressEntry &entry);
 
-    /// Writes the line of `record`, then the entry. A line that is too long, or that the disk refuses, stays
-    /// as it was; the entry is written all the same.
+    /// Writes the entry of `record` and its line: both or neither. A line that is too long is left out.
     SaveResult saveChanged(int record, const AddressEntry &entry);
 
-    /// Marks entry and line as deleted. False, with a line in the log, when either write failed; when the
-    /// first one did, nothing was changed.
+    /// Marks entry and line as deleted. False, with a line in the log and both as they were, when the disk
+    /// refuses.
     [[nodiscard]] bool remove(int record);
 
     /// Visits the live entries in record order, in one pass over each file; the visitor returns false to
@@ -94,8 +91,7 @@ public:
     RecordFile index() const;
 
 private:
-    SaveResult prepared(int record, const AddressEntry &entry) const;
-    void writeLine(SaveResult &result);
+    SaveResult write(int record, const AddressEntry &entry);
     /// Whether `line` is the one that `entry` left in its own record when its names grew too long for the
     /// index.
     bool isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const;

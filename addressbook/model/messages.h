@@ -145,16 +145,6 @@ inline QString saveFailed()
     return u"The entry could not be saved. What you typed is still here."_s;
 }
 
-inline QString lineNotSaved()
-{
-    return u"The entry was saved, but its line in the name list could not be written."_s;
-}
-
-inline QString lineNotDeleted()
-{
-    return u"The entry was deleted, but its line in the name list could not be marked."_s;
-}
-
 inline QString markedName()
 {
     return u"A last name cannot begin with **** or ####: such entries count as deleted."_s;

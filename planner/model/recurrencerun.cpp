@@ -31,6 +31,8 @@ public:
         return m_file.write(DayRecord::number(date), plannerDayLayout.encode(day));
     }
 
+    [[nodiscard]] bool flush() { return m_file.flush(); }
+
 private:
     int m_year;
     OpenRecordFile m_file;
@@ -77,8 +79,11 @@ RecurrenceRun::~RecurrenceRun() = default;
 
 DateResult RecurrenceRun::work(QDate date)
 {
-    if (!m_file || m_file->year() != date.year())
+    if (!m_file || m_file->year() != date.year()) {
+        if (!finish())
+            return DateResult::Failed;
         m_file = std::make_unique<YearFile>(m_folder, date.year());
+    }
     PlannerDay day = m_file->read(date);
     if (m_file->hasFailed())
         return DateResult::Failed; // what cannot be read is not empty
@@ -92,8 +97,10 @@ bool RecurrenceRun::step()
 {
     // An empty appointment would match every empty row.
     const std::optional<QDate> date = m_appointment.isEmpty() ? std::nullopt : m_dates.next();
-    if (!date)
+    if (!date) {
+        m_failed += !finish();
         return false;
+    }
     const DateResult result = work(*date);
     m_lastDate = *date;
     ++m_done;
@@ -102,4 +109,9 @@ bool RecurrenceRun::step()
     m_failed += result == DateResult::Failed;
     m_removed += result == DateResult::Removed;
     return true;
+}
+
+bool RecurrenceRun::finish()
+{
+    return !m_file || m_file->flush();
 }

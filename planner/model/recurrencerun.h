@@ -24,7 +24,8 @@ DateResult removeAppointment(PlannerDay &day, const Appointment &appointment);
 
 /// The walk over a recurrence's dates, a date a step, so that whoever drives it can show progress, keep
 /// the window responsive and stop it. Each date is written before the next one is looked at. The year file of
-/// the current date is kept open between steps of one walk.
+/// the current date is kept open between steps of one walk, and put on the disk when the walk goes on to another
+/// or `finish` ends it.
 class RecurrenceRun
 {
 public:
@@ -34,6 +35,10 @@ public:
 
     /// Works on the next date; false when there is none left.
     bool step();
+
+    /// Puts what was written on the disk itself, for a walk that is stopped early; one that runs to its end
+    /// has done it. False when the disk refuses.
+    [[nodiscard]] bool finish();
 
     int made() const { return m_made; }
     int full() const { return m_full; }

@@ -203,13 +203,14 @@ void RecurrencePanel::finish(bool wasStopped)
     const auto run = std::exchange(m_run, {});
     const bool isInsert = m_action == RecurrenceAction::Insert;
     const QString done = isInsert ? PlannerLines::made(run->made()) : PlannerLines::removed(run->removed());
-    if (wasStopped) {
+    const bool isOnDisk = run->finish() && run->failed() == 0;
+    if (wasStopped && isOnDisk) {
         emit said({});
         if (run->lastDate().isValid())
             m_program.dialogs.ask(this, PlannerMessages::recurrenceStopped(run->lastDate(), m_action));
         return;
     }
-    if (run->failed() > 0) {
+    if (!isOnDisk) {
         emit said(
             PlannerLines::diskRefused(Dates::numbers(run->lastDate(), m_program.state.dateStyle), done));
         return;

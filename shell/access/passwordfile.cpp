@@ -3,6 +3,7 @@
 
 #include "shell/core/settingskeys.h"
 #include "storage/ansitext.h"
+#include "storage/changeset.h"
 #include "storage/log.h"
 #include "storage/recordvalue.h"
 
@@ -156,12 +157,14 @@ bool PasswordFile::setPassword(const QString &password)
     verifier.truncate(qsizetype(qstrlen(verifier.constData())));
 
     // With a password every flag is written, so that a file that was cut short anywhere can be told from a
-    // whole one. The verifier comes last: until it stands there, no password is set.
+    // whole one.
+    ChangeSet change(m_folder);
     for (int area = 0; area < ProtectedAreas::count; ++area) {
-        if (content.areas.flag(area).isEmpty() && !writeFlag(area, flagNotSet()))
-            return false;
+        if (content.areas.flag(area).isEmpty())
+            writeFlag(change, area, flagNotSet());
     }
-    return writeVerifier(verifier, content.verifier);
+    writeVerifier(change, verifier, content.verifier);
+    return change.commit();
 }
 
 bool PasswordFile::removePassword()
@@ -169,12 +172,11 @@ bool PasswordFile::removePassword()
     const Content content = read();
     if (content.state == State::Damaged)
         return false;
-    // The flags go first: flags without a password would be a damaged file.
-    for (int area = 0; area < ProtectedAreas::count; ++area) {
-        if (!writeFlag(area, flagNotSet()))
-            return false;
-    }
-    return writeVerifier({}, content.verifier);
+    ChangeSet change(m_folder);
+    for (int area = 0; area < ProtectedAreas::count; ++area)
+        writeFlag(change, area, flagNotSet());
+    writeVerifier(change, {}, content.verifier);
+    return change.commit();
 }
 
 bool PasswordFile::saveAreas(const ProtectedAreas &areas)
@@ -182,15 +184,15 @@ bool PasswordFile::saveAreas(const ProtectedAreas &areas)
     const Content content = read();
     if (content.state == State::Damaged)
         return false;
+    ChangeSet change(m_folder);
     for (int area = 0; area < ProtectedAreas::count; ++area) {
         if (areas.flag(area) == content.areas.flag(area))
             continue;
         if (areas.isProtected(area) && content.state != State::Set)
             return false;
-        if (!writeFlag(area, areas.isProtected(area) ? flagSet() : flagNotSet()))
-            return false;
+        writeFlag(change, area, areas.isProtected(area) ? flagSet() : flagNotSet());
     }
-    return true;
+    return change.commit();
 }
 
 PasswordFile::Content PasswordFile::damaged()
@@ -243,23 +245,23 @@ PasswordFile::Content PasswordFile::read() const
     return file.error() == QFile::NoError ? parsed(bytes) : damaged();
 }
 
-bool PasswordFile::writeFlag(int area, const QString &flag)
+RecordFile PasswordFile::records() const
 {
-    RecordFile file(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
-    const std::optional<QByteArray> bytes = RecordValue::encodeText(flag, passwordFile.recordLength);
-    return bytes && file.write(firstFlagRecord + area, *bytes);
+    return RecordFile(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
 }
 
-bool PasswordFile::writeVerifier(const QByteArray &verifier, const QByteArray &old)
+void PasswordFile::writeFlag(ChangeSet &change, int area, const QString &flag) const
 {
-    RecordFile file(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
-    std::optional<QByteArray> bytes =
-        RecordValue::encodeText(QString::fromLatin1(verifier), passwordFile.recordLength);
-    if (!bytes)
-        return false;
+    change.write(records(), firstFlagRecord + area,
+                 *RecordValue::encodeText(flag, passwordFile.recordLength));
+}
+
+void PasswordFile::writeVerifier(ChangeSet &change, const QByteArray &verifier, const QByteArray &old) const
+{
+    QByteArray bytes = *RecordValue::encodeText(QString::fromLatin1(verifier), passwordFile.recordLength);
     // Zeros over what the old verifier leaves behind the new one: nobody shall go on guessing from it.
     const qsizetype oldLength = countLength + old.size();
-    if (bytes->size() < oldLength)
-        bytes->resize(oldLength, '\0');
-    return file.write(verifierRecord, *bytes);
+    if (bytes.size() < oldLength)
+        bytes.resize(oldLength, '\0');
+    change.write(records(), verifierRecord, bytes);
 }

@@ -9,6 +9,9 @@
 
 #include <cstddef>
 
+class ChangeSet;
+class RecordFile;
+
 /// How much work it takes to check one password: what slows a guessing machine down.
 struct PasswordCost {
     unsigned long long operations;
@@ -66,8 +69,9 @@ private:
     static Content damaged();
     static Content parsed(QByteArrayView bytes);
     Content read() const;
-    [[nodiscard]] bool writeFlag(int area, const QString &flag);
-    [[nodiscard]] bool writeVerifier(const QByteArray &verifier, const QByteArray &old);
+    RecordFile records() const;
+    void writeFlag(ChangeSet &change, int area, const QString &flag) const;
+    void writeVerifier(ChangeSet &change, const QByteArray &verifier, const QByteArray &old) const;
 
     const DataFolder &m_folder;
     PasswordCost m_cost;

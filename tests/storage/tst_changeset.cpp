@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/changeset.h"
-#include "storage/disk.h"
+#include "tests/support/failingdisk.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 
@@ -113,24 +113,23 @@ void TestChangeSet::leavesEverythingWhereAStepIsRefused()
 
 void TestChangeSet::isOldOrNewAfterEveryFailure_data()
 {
-    rows<bool>({{"one step refused", false}, {"the end of the program", true}});
+    rows<DiskFailure>({{"a step refused", DiskFailure::OneStep}, {"the end", DiskFailure::TheEnd}});
 }
 
 void TestChangeSet::isOldOrNewAfterEveryFailure()
 {
-    const auto [isEnd] = row<bool>();
+    const auto [failure] = row<DiskFailure>();
     int outcomes[2] = {0, 0};
     int steps = 1;
     for (int refused = 1; refused <= steps + 1; ++refused) {
         init();
-        steps = 0;
-        Disk::setGate([&steps, refused, isEnd = isEnd] {
-            ++steps;
-            return isEnd ? steps < refused : steps != refused;
-        });
-        const bool isDone = change().commit();
-        Disk::setGate({});
-        if (!isEnd)
+        bool isDone = false;
+        {
+            const FailingDisk disk(failure, refused);
+            isDone = change().commit();
+            steps = disk.steps();
+        }
+        if (failure == DiskFailure::OneStep)
             QCOMPARE(m_test->bytes(first), isDone ? after[first] : before[first]);
         QVERIFY(ChangeSet::recover(m_test->folder()));
         const Files files = filesOf(*m_test);
@@ -156,10 +155,10 @@ void TestChangeSet::dropsWhatIsNoJournal()
     auto [content] = row<QByteArray>();
     if (content.size() == 3) {
         // The program ends when the journal is on the disk.
-        int steps = 0;
-        Disk::setGate([&steps] { return ++steps <= 4; });
-        QVERIFY(!change().commit());
-        Disk::setGate({});
+        {
+            const FailingDisk disk(DiskFailure::TheEnd, 5);
+            QVERIFY(!change().commit());
+        }
         QByteArray journal = m_test->bytes(ChangeSet::journalName);
         QVERIFY(!journal.isEmpty());
         if (content == "cut")

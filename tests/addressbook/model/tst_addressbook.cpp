@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/indexline.h"
+#include "storage/changeset.h"
 #include "tests/addressbook/model/addressrecords.h"
-#include "tests/support/filesizelimit.h"
+#include "tests/support/failingdisk.h"
 #include "tests/support/rows.h"
 
 #include <QDir>
@@ -29,7 +30,8 @@ private slots:
     void keepsTheLineOfANameTooLong();
     void findsItsFilesUnderAnySpelling();
     void visitsLiveEntries();
-    void leavesNoNameWithoutAnEntry();
+    void isOldOrNewAfterEveryFailure_data();
+    void isOldOrNewAfterEveryFailure();
     void survivesFoldersInPlaceOfFiles();
     void survivesFilesCutAnywhere();
 
@@ -196,7 +198,7 @@ void TestAddressBook::keepsTheLineOfANameTooLong()
     entry[LastName] = a20;
     entry[FirstName] = b30 + u'b'; // 59 characters with the number
     const AddressBook::SaveResult tooLong = book().saveChanged(2, entry);
-    QVERIFY(tooLong.isEntryWritten && tooLong.isLineTooLong && !tooLong.isLineWritten);
+    QVERIFY(tooLong.isSaved && tooLong.isLineTooLong);
     QCOMPARE(entries().mid(724, 20), QByteArray(20, 'a'));
     // The list still bears the old name; it stands in the entry's own record, so it is no other's.
     QVERIFY(book().open(u"Lind, Anne                                     2").mayChange);
@@ -204,7 +206,7 @@ void TestAddressBook::keepsTheLineOfANameTooLong()
 
     entry[FirstName] = b30;
     const AddressBook::SaveResult fits = book().saveChanged(2, entry);
-    QVERIFY(fits.isEntryWritten && fits.isLineWritten && !fits.isLineTooLong);
+    QVERIFY(fits.isSaved && !fits.isLineTooLong);
     QCOMPARE(fits.line, a20 + u", " + b30 + u"     2");
     QVERIFY(lines().contains("aaa, bbb"));
 }
@@ -213,7 +215,7 @@ void TestAddressBook::findsItsFilesUnderAnySpelling()
 {
     m_files->put(u"ADDBK1.FIL"_s, first724);
     m_files->put(u"addbk2.fil"_s, first60);
-    QVERIFY(book().saveNew(anneLind()).isLineWritten);
+    QVERIFY(book().saveNew(anneLind()).isSaved);
     QCOMPARE(m_files->bytes(u"ADDBK1.FIL"_s), first724 + lindBytes);
     QCOMPARE(book().loadNames().count(), 1);
     QCOMPARE(QDir(m_files->path({})).entryList(QDir::Files).size(), 2);
@@ -238,18 +240,50 @@ void TestAddressBook::visitsLiveEntries()
     }
 }
 
-void TestAddressBook::leavesNoNameWithoutAnEntry()
+void TestAddressBook::isOldOrNewAfterEveryFailure_data()
 {
-#ifdef Q_OS_UNIX
-    put(first724, first60);
-    const FileSizeLimit limit(1000);
-    expectWarning("Cannot write record 2");
-    const AddressBook::SaveResult result = book().saveNew(anneLind());
-    QCOMPARE(result.record, 2);
-    QVERIFY(!result.isEntryWritten);
-    QVERIFY(!result.isLineWritten);
-    QCOMPARE(lines(), first60);
-#endif
+    using Action = bool (*)(AddressBook &);
+    const Action add = [](AddressBook &book) { return book.saveNew(anneLind()).isSaved; };
+    const Action rename = [](AddressBook &book) {
+        AddressEntry entry = anneLind();
+        entry[LastName] = u"Quill"_s;
+        return book.saveChanged(2, entry).isSaved;
+    };
+    const Action remove = [](AddressBook &book) { return book.remove(2); };
+    rows<Action, DiskFailure>({
+        {"a new entry, a step refused", add, DiskFailure::OneStep},
+        {"a new entry, the end", add, DiskFailure::TheEnd},
+        {"another name, a step refused", rename, DiskFailure::OneStep},
+        {"another name, the end", rename, DiskFailure::TheEnd},
+        {"deleted, a step refused", remove, DiskFailure::OneStep},
+        {"deleted, the end", remove, DiskFailure::TheEnd},
+    });
+}
+
+/// Entry and line are both as they were or both new, whatever step fails.
+void TestAddressBook::isOldOrNewAfterEveryFailure()
+{
+    const auto [action, failure] = row<bool (*)(AddressBook &), DiskFailure>();
+    const QByteArray oldEntries = first724 + lindBytes;
+    const QByteArray oldLines = first60 + lineBytes(lineOf("Lind, Anne", 2));
+    const auto tryIt = [&, action = action, failure = failure](int refused, int &steps) {
+        put(oldEntries, oldLines);
+        AddressBook tried = book();
+        const FailingDisk disk(failure, refused);
+        const bool isDone = action(tried);
+        steps = disk.steps();
+        return isDone;
+    };
+    int steps = 0;
+    QVERIFY(tryIt(0x10000, steps));
+    const auto after = std::pair(entries(), lines());
+    for (int refused = 1, ignored = 0; refused <= steps; ++refused) {
+        const bool isDone = tryIt(refused, ignored);
+        QVERIFY(ChangeSet::recover(m_files->folder()));
+        const auto now = std::pair(entries(), lines());
+        QVERIFY2(now == after || (!isDone && now == std::pair(oldEntries, oldLines)),
+                 qPrintable(u"step %1"_s.arg(refused)));
+    }
 }
 
 void TestAddressBook::survivesFoldersInPlaceOfFiles()
@@ -260,8 +294,8 @@ void TestAddressBook::survivesFoldersInPlaceOfFiles()
     const auto speakAgain = qScopeGuard([] { QLoggingCategory::setFilterRules({}); });
     QCOMPARE(book().loadNames().count(), 0);
     QVERIFY(book().read(2).isEmpty());
-    QVERIFY(!book().saveNew(anneLind()).isEntryWritten);
-    QVERIFY(!book().saveChanged(2, anneLind()).isEntryWritten);
+    QVERIFY(!book().saveNew(anneLind()).isSaved);
+    QVERIFY(!book().saveChanged(2, anneLind()).isSaved);
     QVERIFY(!book().remove(2));
 }
 

@@ -104,14 +104,14 @@ void TestHousehold::keepsEveryOtherByteOnSaving()
     const QByteArray entries = bytes(u"Addbk1.Fil"_s), lines = bytes(u"Addbk2.Fil"_s);
     AddressEntry karl = book().read(14);
     karl[HomePhone] = u"(440) 555-0999"_s;
-    QVERIFY(book().saveChanged(14, karl).isLineWritten);
+    QVERIFY(book().saveChanged(14, karl).isSaved);
     QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 13 * 724 + 320, "(440) 555-0999"));
     QCOMPARE(bytes(u"Addbk2.Fil"_s), lines);
 
     // The last record of the index stays as short as it is.
     AddressEntry elisabeth = book().read(49);
     elisabeth[FirstName] = u"Eliza"_s;
-    QVERIFY(book().saveChanged(49, elisabeth).isLineWritten);
+    QVERIFY(book().saveChanged(49, elisabeth).isSaved);
     QCOMPARE(bytes(u"Addbk2.Fil"_s), replaced(lines, 48 * 60 + 2, "Calloway, Eliza    "));
 }
 
@@ -135,7 +135,7 @@ void TestHousehold::fillsTheGapWithANewEntry()
     const AddressBook::SaveResult saved = book().saveNew(entry);
     QCOMPARE(saved.record, 24);
     QCOMPARE(saved.line, u"Äst, Zoë                                       24"_s);
-    QVERIFY(saved.isLineWritten);
+    QVERIFY(saved.isSaved);
     QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 23 * 724, entryBytes({"\xC4st", "Zo\xEB"})));
     QCOMPARE(bytes(u"Addbk2.Fil"_s),
              replaced(lines, 23 * 60, "1" + QByteArray(1, '\0') + lineOf("\xC4st, Zo\xEB", 24)));
