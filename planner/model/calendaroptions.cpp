@@ -25,10 +25,12 @@ CalendarOptions CalendarOptions::read(const Settings &settings)
 
 bool CalendarOptions::write(Settings &settings) const
 {
-    bool written = settings.setNumber(monthsSetting, months);
-    written = settings.setNumber(weekNumbersSetting, weekNumbers) && written;
-    written = settings.setNumber(weekStartSetting, weekStart) && written;
-    return settings.setNumber(todaySetting, today) && written;
+    SettingsChange change(settings);
+    change.setNumber(monthsSetting, months);
+    change.setNumber(weekNumbersSetting, weekNumbers);
+    change.setNumber(weekStartSetting, weekStart);
+    change.setNumber(todaySetting, today);
+    return change.commit();
 }
 
 Qt::DayOfWeek CalendarOptions::firstDay() const

@@ -47,3 +47,28 @@ RecordFile Settings::open(const SettingsFile &file) const
     records.create();
     return records;
 }
+
+SettingsChange::SettingsChange(const Settings &settings)
+    : m_settings(settings)
+    , m_change(settings.m_folder)
+{}
+
+void SettingsChange::setText(const TextSetting &setting, const QString &text)
+{
+    const auto bytes = RecordValue::encodeText(text, setting.file.recordLength);
+    if (bytes)
+        m_change.write(m_settings.open(setting.file), setting.record, *bytes);
+    else
+        m_isTooLong = true;
+}
+
+void SettingsChange::setNumber(const NumberSetting &setting, int number)
+{
+    m_change.write(m_settings.open(setting.file), setting.record,
+                   RecordValue::encodeNumber(RecordValue::clampedNumber(number)));
+}
+
+bool SettingsChange::commit()
+{
+    return !m_isTooLong && m_change.commit();
+}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/changeset.h"
 #include "storage/datafolder.h"
 #include "storage/recordfile.h"
 
@@ -55,7 +56,27 @@ public:
     [[nodiscard]] bool setTagged(const TaggedSetting &setting, const QString &text);
 
 private:
+    friend class SettingsChange;
     RecordFile open(const SettingsFile &file) const;
 
     const DataFolder &m_folder;
+};
+
+/// Several settings that are written together: all of them, or none.
+class SettingsChange
+{
+public:
+    explicit SettingsChange(const Settings &settings);
+
+    void setText(const TextSetting &setting, const QString &text);
+    /// Clamped as in `Settings`.
+    void setNumber(const NumberSetting &setting, int number);
+
+    /// False, with everything as it was, when a text has no room in its record or the disk refuses.
+    [[nodiscard]] bool commit();
+
+private:
+    const Settings &m_settings;
+    ChangeSet m_change;
+    bool m_isTooLong = false;
 };

@@ -80,8 +80,10 @@ bool TopToolbar::setRemoved(Program &program, bool removed)
 {
     program.state.topToolbarRemoved = removed;
     const QString state = removed ? u"OFF"_s : u"ON"_s;
-    const bool isWritten = program.settings.setText(SettingsKeys::topToolbar, state);
-    const bool isCopied = program.settings.setText(SettingsKeys::weightTopToolbar, state);
+    SettingsChange change(program.settings);
+    change.setText(SettingsKeys::topToolbar, state);
+    change.setText(SettingsKeys::weightTopToolbar, state);
+    const bool isWritten = change.commit();
     emit program.changes.topToolbarChanged();
-    return isWritten && isCopied;
+    return isWritten;
 }

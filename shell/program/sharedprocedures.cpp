@@ -110,13 +110,11 @@ bool HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pen
 bool HINFO1::saveMainWindowSize(Program &program, bool maximized, QSize size)
 {
     program.state.screenMode = maximized ? ScreenMode::FullScreen : ScreenMode::Smaller;
-    Settings &settings = program.settings;
-    bool isWritten = settings.setText(SettingsKeys::smallerScreen,
-                                      maximized ? QStringLiteral("No") : QStringLiteral("Yes"));
-    if (maximized)
-        return isWritten;
-    const int height = storedTwips(size.height(), minimumTwips.height());
-    const int width = storedTwips(size.width(), minimumTwips.width());
-    isWritten = settings.setNumber(SettingsKeys::windowHeight, height) && isWritten;
-    return settings.setNumber(SettingsKeys::windowWidth, width) && isWritten;
+    SettingsChange change(program.settings);
+    change.setText(SettingsKeys::smallerScreen, maximized ? QStringLiteral("No") : QStringLiteral("Yes"));
+    if (!maximized) {
+        change.setNumber(SettingsKeys::windowHeight, storedTwips(size.height(), minimumTwips.height()));
+        change.setNumber(SettingsKeys::windowWidth, storedTwips(size.width(), minimumTwips.width()));
+    }
+    return change.commit();
 }
