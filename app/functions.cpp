@@ -8,8 +8,8 @@
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
 #include "planner/window/plannerwindow.h"
+#include "shell/access/passwordcheck.h"
 #include "shell/access/passwordcontrol.h"
-#include "shell/access/passwordfile.h"
 #include "shell/program/program.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,12 +39,12 @@ std::optional<LiveLine> plannerNews(const Program &program, QDate)
 
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
 {
-    switch (PasswordFile(program.folder).state()) {
-    case PasswordFile::State::NotSet:
+    switch (PasswordCheck(program.folder).state()) {
+    case PasswordCheck::State::NotSet:
         return LiveLine{u"No password is set"_s, LiveLine::Plain, {}};
-    case PasswordFile::State::Damaged:
+    case PasswordCheck::State::Damaged:
         return LiveLine{u"The password file is damaged"_s, LiveLine::Overdue, {}};
-    case PasswordFile::State::Set:
+    case PasswordCheck::State::Set:
         break;
     }
     int guarded = 0;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/gate.h"
 
-#include "shell/access/passwordfile.h"
+#include "shell/access/passwordcheck.h"
 #include "shell/core/area.h"
 #include "shell/program/program.h"
 
@@ -16,7 +16,7 @@ bool AccessGate::mayOpen(Program &program, int area, QWidget *parent) const
     if (area == Area::None)
         return true;
     const bool isGuarded = program.state.protectedAreas.isProtected(area) ||
-                           PasswordFile(program.folder).state() == PasswordFile::State::Damaged;
+                           PasswordCheck(program.folder).state() == PasswordCheck::State::Damaged;
     if (isGuarded) {
         program.state.guardedArea = area;
         m_prompt(program, parent);
@@ -27,7 +27,7 @@ bool AccessGate::mayOpen(Program &program, int area, QWidget *parent) const
 bool AccessGate::mayOpenPasswordControl(Program &program, QWidget *parent) const
 {
     program.state.passwordGateResult = PasswordGateResult::PasswordControl;
-    if (PasswordFile(program.folder).state() != PasswordFile::State::NotSet)
+    if (PasswordCheck(program.folder).state() != PasswordCheck::State::NotSet)
         m_prompt(program, parent);
     return takeVerdict(program);
 }

@@ -210,9 +210,9 @@ void Form31::connectPane()
 
 void Form31::refresh()
 {
-    const PasswordFile::State state = m_file.state();
-    const bool isSet = state == PasswordFile::State::Set;
-    const bool isDamaged = state == PasswordFile::State::Damaged;
+    const PasswordCheck::State state = m_file.state();
+    const bool isSet = state == PasswordCheck::State::Set;
+    const bool isDamaged = state == PasswordCheck::State::Damaged;
     const QString reason = isDamaged ? PasswordMessages::damagedSummary()
                            : isSet   ? QString()
                                      : PasswordMessages::marksNeedPassword();
@@ -254,7 +254,7 @@ ProtectedAreas Form31::shownAreas() const
 
 bool Form31::save()
 {
-    if (m_file.state() == PasswordFile::State::Damaged) {
+    if (m_file.state() == PasswordCheck::State::Damaged) {
         tellDamage();
         return false;
     }
@@ -285,7 +285,7 @@ void Form31::tellDamage()
 void Form31::print()
 {
     const auto page = [this](const PageContext &context) {
-        return passwordPage(m_file.state() == PasswordFile::State::Set, shownAreas(), context);
+        return passwordPage(m_file.state() == PasswordCheck::State::Set, shownAreas(), context);
     };
     showPreview(page, PasswordMessages::title());
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/access/passwordfile.h"
+#include "shell/access/passwordcheck.h"
 #include "shell/frame/functionwindow.h"
 
 #include <array>
@@ -46,7 +46,7 @@ private:
     /// The flags as the check boxes show them; those that stay as they are keep their text.
     ProtectedAreas shownAreas() const;
 
-    PasswordFile m_file;
+    PasswordCheck m_file;
     ProtectedAreas m_saved; ///< the flags when they were last read or written
     PasswordPane *m_pane = nullptr;
     std::array<QCheckBox *, ProtectedAreas::count> m_marks{};

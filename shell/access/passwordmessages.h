@@ -38,6 +38,12 @@ inline Message saveChanges()
 
 // Quiet lines beside the box.
 
+/// What the prompt asks for, below the function's name.
+inline QString typeThePassword()
+{
+    return QStringLiteral("Type the password to open this function.");
+}
+
 inline QString passwordMissing()
 {
     return QStringLiteral("Type the password first.");

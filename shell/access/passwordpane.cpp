@@ -41,7 +41,7 @@ QLabel *makeWrapped(QLabel *label)
 
 } // namespace
 
-PasswordPane::PasswordPane(PasswordFile &file, std::chrono::milliseconds step, QWidget *parent)
+PasswordPane::PasswordPane(PasswordCheck &file, std::chrono::milliseconds step, QWidget *parent)
     : QWidget(parent)
     , m_file(file)
     , m_attempts(step)
@@ -135,9 +135,9 @@ void PasswordPane::connectAll()
 
 void PasswordPane::refresh()
 {
-    const PasswordFile::State state = m_file.state();
-    const bool isSet = state == PasswordFile::State::Set;
-    const bool isDamaged = state == PasswordFile::State::Damaged;
+    const PasswordCheck::State state = m_file.state();
+    const bool isSet = state == PasswordCheck::State::Set;
+    const bool isDamaged = state == PasswordCheck::State::Damaged;
     m_title->setChip(isDamaged ? u"Damaged"_s : isSet ? u"Set"_s : u"Not set"_s);
     m_summary->setText(isDamaged ? PasswordMessages::damagedSummary()
                        : isSet   ? PasswordMessages::setSummary()
@@ -167,7 +167,7 @@ void PasswordPane::keyPressEvent(QKeyEvent *event)
 
 void PasswordPane::begin(Task task)
 {
-    if (m_file.state() == PasswordFile::State::Damaged) {
+    if (m_file.state() == PasswordCheck::State::Damaged) {
         emit damageFound();
         return;
     }
@@ -207,7 +207,7 @@ void PasswordPane::carryOut()
         const BusyCursor busy;
         return task == Task::Remove ? m_file.removePassword() : m_file.setPassword(m_new->text());
     }();
-    if (!isDone && m_file.state() == PasswordFile::State::Damaged) {
+    if (!isDone && m_file.state() == PasswordCheck::State::Damaged) {
         close();
         emit damageFound();
         return;
@@ -248,7 +248,7 @@ bool PasswordPane::isAcceptable()
         return true;
     }
     // A file that was damaged meanwhile knows no password: that is nobody's wrong answer.
-    if (m_file.state() != PasswordFile::State::Set) {
+    if (m_file.state() != PasswordCheck::State::Set) {
         close();
         refresh();
         emit damageFound();

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "shell/access/attempts.h"
-#include "shell/access/passwordfile.h"
+#include "shell/access/passwordcheck.h"
 
 #include <QWidget>
 
@@ -20,7 +20,7 @@ class PasswordPane final : public QWidget
 {
     Q_OBJECT
 public:
-    PasswordPane(PasswordFile &file, std::chrono::milliseconds step, QWidget *parent = nullptr);
+    PasswordPane(PasswordCheck &file, std::chrono::milliseconds step, QWidget *parent = nullptr);
 
     /// Shows what the file says now.
     void refresh();
@@ -52,7 +52,7 @@ private:
     void endWait();
     void endAsking();
 
-    PasswordFile &m_file;
+    PasswordCheck &m_file;
     Attempts m_attempts;
     Task m_task = Task::None;
 

@@ -88,7 +88,7 @@ QLayout *Form32::makeQuestion(const QString &functionName)
     auto *form = new QVBoxLayout;
     form->setSpacing(3);
     form->addWidget(makeHeading(functionName, this));
-    form->addWidget(makeQuietLabel(u"Type the password to open this function."_s, this));
+    form->addWidget(makeQuietLabel(PasswordMessages::typeThePassword(), this));
     form->addSpacing(12);
     form->addWidget(makeFieldLabel(u"&Password"_s, m_password, this));
     form->addWidget(m_password);
@@ -155,7 +155,7 @@ void showPasswordPrompt(Program &program, QWidget *parent)
     program.state.passwordGateResult = PasswordGateResult::Refused;
     // The caller shows the hourglass while it opens a function; nobody types under an hourglass.
     HINFO1::hourglassOff();
-    if (PasswordFile(program.folder).state() != PasswordFile::State::Set) {
+    if (PasswordCheck(program.folder).state() != PasswordCheck::State::Set) {
         program.dialogs.ask(parent, PasswordMessages::fileDamaged(program.folder.path()));
         return;
     }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "shell/access/attempts.h"
-#include "shell/access/passwordfile.h"
+#include "shell/access/passwordcheck.h"
 
 #include <QDialog>
 
@@ -36,7 +36,7 @@ private:
     void showWait(int seconds);
     void endWait();
 
-    PasswordFile m_file;
+    PasswordCheck m_file;
     Attempts m_attempts;
     QLineEdit *m_password;
     QCheckBox *m_showPassword;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frame/commands.h"
 
-#include "shell/frame/toolbars.h"
+#include "shell/frame/toolbarlayout.h"
 #include "shell/look/theme.h"
 
 #include <QMenu>

@@ -4,7 +4,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/core/shellmessages.h"
-#include "shell/frame/toolbars.h"
+#include "shell/frame/toolbarlayout.h"
 #include "shell/look/theme.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/functions.h"
-#include "shell/access/passwordfile.h"
+#include "shell/access/passwordcheck.h"
 #include "tests/support/testprogram.h"
 
 #include <QSet>
@@ -59,7 +59,7 @@ void TestFunctions::tellsWhatThePasswordGuards()
         return test.functions.entry(Function::PasswordControl)->liveLine(test.program, {})->text;
     };
     QCOMPARE(line(), u"No password is set"_s);
-    PasswordFile file(test.folder, PasswordCost::minimum());
+    PasswordCheck file(test.folder, PasswordCost::minimum());
     QVERIFY(file.setPassword(u"Klavier"_s));
     QCOMPARE(line(), u"Nothing is protected"_s);
     test.state.protectedAreas.setFlag(0, u"YES"_s);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/gate.h"
-#include "shell/access/passwordfile.h"
+#include "shell/access/passwordcheck.h"
 #include "shell/core/area.h"
 #include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
@@ -83,7 +83,7 @@ void TestGate::asksForPasswordControlOnlyWithAPassword()
 {
     const auto [password, verdict, questions, opens] = row<QString, PasswordGateResult, int, bool>();
     if (!password.isEmpty())
-        QVERIFY(PasswordFile(m_program->folder, PasswordCost::minimum()).setPassword(password));
+        QVERIFY(PasswordCheck(m_program->folder, PasswordCost::minimum()).setPassword(password));
     QCOMPARE(gate(verdict).mayOpenPasswordControl(m_program->program, nullptr), opens);
     QCOMPARE(int(m_before.size()), questions);
     for (const PasswordGateResult before : m_before)

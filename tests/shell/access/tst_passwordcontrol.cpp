@@ -39,7 +39,7 @@ private slots:
     void printsWhatIsGuarded();
 
 private:
-    PasswordFile file() const { return PasswordFile(m_program->folder, PasswordCost::minimum()); }
+    PasswordCheck file() const { return PasswordCheck(m_program->folder, PasswordCost::minimum()); }
     void guard(int area) const;
     void open();
     void click(const char *name) const
@@ -144,7 +144,7 @@ void TestForm31::refusesNewPasswords()
     click("setPassword");
     answer(1, {first, second});
     QCOMPARE(refusal(), reason);
-    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+    QCOMPARE(file().state(), PasswordCheck::State::NotSet);
 }
 
 void TestForm31::changesThePassword()
@@ -179,7 +179,7 @@ void TestForm31::removesThePasswordWithAllMarks()
     QVERIFY(mark(Area::Planner)->isChecked());
     click("removePassword");
     answer(0, {u"Sesame"_s});
-    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+    QCOMPARE(file().state(), PasswordCheck::State::NotSet);
     QVERIFY(!mark(Area::Planner)->isChecked());
     QVERIFY(!m_program->state.protectedAreas.isProtected(Area::Planner));
     QVERIFY(!m_window->isModified());

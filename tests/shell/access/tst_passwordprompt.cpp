@@ -52,7 +52,7 @@ void TestForm32::init()
 {
     m_program = std::make_unique<TestProgram>();
     m_program->gate = AccessGate(showPasswordPrompt);
-    QVERIFY(PasswordFile(m_program->folder, PasswordCost::minimum()).setPassword(u"Sesame"_s));
+    QVERIFY(PasswordCheck(m_program->folder, PasswordCost::minimum()).setPassword(u"Sesame"_s));
 }
 
 void TestForm32::namesWhatItGuards_data()

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/frame/toolbars.h"
+#include "shell/frame/toolbarlayout.h"
 
 #include "shell/controls/flowtoolbar.h"
-#include "shell/core/settingskeys.h"
 #include "shell/program/program.h"
 
 #include <QAction>
@@ -69,21 +68,4 @@ void ToolbarLayout::show(const QStringList &names)
             m_bar->addAction(known);
     }
     emit changed();
-}
-
-bool TopToolbar::isRemoved(const Program &program, const TextSetting &setting)
-{
-    return program.state.topToolbarRemoved.value_or(program.settings.text(setting) == "OFF"_L1);
-}
-
-bool TopToolbar::setRemoved(Program &program, bool removed)
-{
-    program.state.topToolbarRemoved = removed;
-    const QString state = removed ? u"OFF"_s : u"ON"_s;
-    SettingsChange change(program.settings);
-    change.setText(SettingsKeys::topToolbar, state);
-    change.setText(SettingsKeys::weightTopToolbar, state);
-    const bool isWritten = change.commit();
-    emit program.changes.topToolbarChanged();
-    return isWritten;
 }

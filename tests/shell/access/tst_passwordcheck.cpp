@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/access/passwordfile.h"
+#include "shell/access/passwordcheck.h"
 #include "storage/changeset.h"
 #include "tests/support/failingdisk.h"
 #include "tests/support/rows.h"
@@ -41,7 +41,7 @@ QByteArray sesameFile()
 
 } // namespace
 
-class TestPasswordFile : public QObject
+class TestPasswordCheck : public QObject
 {
     Q_OBJECT
 
@@ -66,20 +66,20 @@ private slots:
 private:
     QByteArray bytes() const { return m_files.bytes(u"PCtrl1.Fil"_s); }
     void setBytes(const QByteArray &bytes) const { m_files.put(u"PCtrl1.Fil"_s, bytes); }
-    PasswordFile file() const { return PasswordFile(m_files.folder(), PasswordCost::minimum()); }
+    PasswordCheck file() const { return PasswordCheck(m_files.folder(), PasswordCost::minimum()); }
 
     TestFolder m_files;
     QString m_path = m_files.path(u"PCtrl1.Fil"_s);
 };
 
-void TestPasswordFile::init()
+void TestPasswordCheck::init()
 {
     QFile::remove(m_path);
 }
 
-void TestPasswordFile::withoutAPasswordNothingIsGuarded()
+void TestPasswordCheck::withoutAPasswordNothingIsGuarded()
 {
-    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+    QCOMPARE(file().state(), PasswordCheck::State::NotSet);
     QCOMPARE(file().areas(), ProtectedAreas());
     QVERIFY(!file().matches(QString()));
     QVERIFY(!file().setPassword(QString()));
@@ -89,13 +89,13 @@ void TestPasswordFile::withoutAPasswordNothingIsGuarded()
     QVERIFY(!QFile::exists(m_path));
 
     setBytes({});
-    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+    QCOMPARE(file().state(), PasswordCheck::State::NotSet);
 }
 
-void TestPasswordFile::readsAFileWrittenByHand()
+void TestPasswordCheck::readsAFileWrittenByHand()
 {
     setBytes(sesameFile());
-    QCOMPARE(file().state(), PasswordFile::State::Set);
+    QCOMPARE(file().state(), PasswordCheck::State::Set);
     QVERIFY(file().matches(u"Sesame"_s));
     ProgramState state;
     file().load(state);
@@ -103,7 +103,7 @@ void TestPasswordFile::readsAFileWrittenByHand()
         QCOMPARE(state.protectedAreas.isProtected(area), area == 0 || area == 6);
 }
 
-void TestPasswordFile::writesVerifierAndFlagsAtTheirPlaces()
+void TestPasswordCheck::writesVerifierAndFlagsAtTheirPlaces()
 {
     QVERIFY(file().setPassword(u"Sesame"_s));
     ProtectedAreas areas = file().areas();
@@ -121,7 +121,7 @@ void TestPasswordFile::writesVerifierAndFlagsAtTheirPlaces()
     QCOMPARE(written, flags);
 }
 
-void TestPasswordFile::neverStoresThePassword()
+void TestPasswordCheck::neverStoresThePassword()
 {
     QVERIFY(file().setPassword(u"Open sesame"_s));
     QVERIFY(file().setPassword(u"Tulips"_s));
@@ -133,7 +133,7 @@ void TestPasswordFile::neverStoresThePassword()
     QVERIFY(bytes() != before);
 }
 
-void TestPasswordFile::comparesPasswords_data()
+void TestPasswordCheck::comparesPasswords_data()
 {
     rows<QString, QString, bool>({
         {"the same", u"Sesame"_s, u"Sesame"_s, true},
@@ -148,14 +148,14 @@ void TestPasswordFile::comparesPasswords_data()
     });
 }
 
-void TestPasswordFile::comparesPasswords()
+void TestPasswordCheck::comparesPasswords()
 {
     const auto [password, typed, matches] = row<QString, QString, bool>();
     QVERIFY(file().setPassword(password));
     QCOMPARE(file().matches(typed), matches);
 }
 
-void TestPasswordFile::savingTouchesOnlyTheFlagsThatChanged()
+void TestPasswordCheck::savingTouchesOnlyTheFlagsThatChanged()
 {
     QByteArray before = sesameFile();
     put(before, 6 + 2, counted("YES ") + "kept");
@@ -169,25 +169,25 @@ void TestPasswordFile::savingTouchesOnlyTheFlagsThatChanged()
     QCOMPARE(bytes(), put(before, 2 + 2, counted("YES") + "ept"));
 }
 
-void TestPasswordFile::removalLeavesNothingToGuessFrom()
+void TestPasswordCheck::removalLeavesNothingToGuessFrom()
 {
     setBytes(sesameFile());
     QVERIFY(file().removePassword());
-    QCOMPARE(file().state(), PasswordFile::State::NotSet);
+    QCOMPARE(file().state(), PasswordCheck::State::NotSet);
     QByteArray after(qsizetype(2) + qsizetype(qstrlen(sesameVerifier)), '\0');
     for (int area = 0; area < ProtectedAreas::count; ++area)
         put(after, area + 2, counted("NO") + (area == 0 || area == 6 ? "S" : ""));
     QCOMPARE(bytes(), after);
 }
 
-void TestPasswordFile::tellsDamagedFiles_data()
+void TestPasswordCheck::tellsDamagedFiles_data()
 {
-    using State = PasswordFile::State;
+    using State = PasswordCheck::State;
     const QByteArray verifier(sesameVerifier);
     const auto changed = [&verifier](const char *from, const char *to) {
         return counted(QByteArray(verifier).replace(from, to));
     };
-    rows<int, QByteArray, PasswordFile::State>({
+    rows<int, QByteArray, PasswordCheck::State>({
         {"untouched", 1, counted(verifier), State::Set},
         {"verifier of another kind", 1, changed("argon2id", "argon2i"), State::Damaged},
         {"verifier that asks for hours", 1, changed("t=1", "t=4000000"), State::Damaged},
@@ -211,39 +211,39 @@ void TestPasswordFile::tellsDamagedFiles_data()
     });
 }
 
-void TestPasswordFile::tellsDamagedFiles()
+void TestPasswordCheck::tellsDamagedFiles()
 {
-    const auto [record, value, state] = row<int, QByteArray, PasswordFile::State>();
+    const auto [record, value, state] = row<int, QByteArray, PasswordCheck::State>();
     QByteArray content = sesameFile();
     setBytes(put(content, record, value));
     QCOMPARE(file().state(), state);
-    if (file().state() != PasswordFile::State::Damaged)
+    if (file().state() != PasswordCheck::State::Damaged)
         return;
     QVERIFY(!file().matches(u"Sesame"_s));
     for (int area = 0; area < ProtectedAreas::count; ++area)
         QVERIFY(file().areas().isProtected(area));
 }
 
-void TestPasswordFile::everyCutIsDamage()
+void TestPasswordCheck::everyCutIsDamage()
 {
     const QByteArray whole = sesameFile();
     for (qsizetype length = 1; length < whole.size(); ++length) {
         setBytes(whole.left(length));
-        QVERIFY2(file().state() == PasswordFile::State::Damaged, qPrintable(QString::number(length)));
+        QVERIFY2(file().state() == PasswordCheck::State::Damaged, qPrintable(QString::number(length)));
     }
 }
 
-void TestPasswordFile::aFolderInItsPlaceIsDamage()
+void TestPasswordCheck::aFolderInItsPlaceIsDamage()
 {
     QVERIFY(QDir(m_files.path({})).mkdir(u"pctrl1.fil"_s));
     expectWarning("^Cannot read .*pctrl1.fil$");
-    QCOMPARE(file().state(), PasswordFile::State::Damaged);
+    QCOMPARE(file().state(), PasswordCheck::State::Damaged);
     expectWarning("^Cannot read .*pctrl1.fil$");
     QVERIFY(!file().setPassword(u"Sesame"_s));
     QVERIFY(QDir(m_files.path({})).rmdir(u"pctrl1.fil"_s));
 }
 
-void TestPasswordFile::aDamagedFileIsNotTouched()
+void TestPasswordCheck::aDamagedFileIsNotTouched()
 {
     const QByteArray cut = sesameFile().left(1000);
     setBytes(cut);
@@ -253,12 +253,12 @@ void TestPasswordFile::aDamagedFileIsNotTouched()
     QCOMPARE(bytes(), cut);
 }
 
-void TestPasswordFile::isOldOrNewAfterEveryFailure_data()
+void TestPasswordCheck::isOldOrNewAfterEveryFailure_data()
 {
-    using Action = bool (*)(PasswordFile);
-    const Action change = [](PasswordFile file) { return file.setPassword(u"Tulips"_s); };
-    const Action remove = [](PasswordFile file) { return file.removePassword(); };
-    const Action mark = [](PasswordFile file) {
+    using Action = bool (*)(PasswordCheck);
+    const Action change = [](PasswordCheck file) { return file.setPassword(u"Tulips"_s); };
+    const Action remove = [](PasswordCheck file) { return file.removePassword(); };
+    const Action mark = [](PasswordCheck file) {
         ProtectedAreas areas = file.areas();
         for (int area = 0; area < ProtectedAreas::count; ++area)
             areas.setFlag(area, area % 2 == 0 ? u"YES"_s : u"NO"_s);
@@ -275,9 +275,9 @@ void TestPasswordFile::isOldOrNewAfterEveryFailure_data()
 }
 
 /// The old password with the old marks, or what was asked for: nothing between them ever opens an area.
-void TestPasswordFile::isOldOrNewAfterEveryFailure()
+void TestPasswordCheck::isOldOrNewAfterEveryFailure()
 {
-    const auto [action, failure] = row<bool (*)(PasswordFile), DiskFailure>();
+    const auto [action, failure] = row<bool (*)(PasswordCheck), DiskFailure>();
     int steps = 1;
     for (int refused = 1; refused <= steps; ++refused) {
         setBytes(sesameFile());
@@ -303,5 +303,5 @@ void TestPasswordFile::isOldOrNewAfterEveryFailure()
     }
 }
 
-QTEST_APPLESS_MAIN(TestPasswordFile)
-#include "tst_passwordfile.moc"
+QTEST_APPLESS_MAIN(TestPasswordCheck)
+#include "tst_passwordcheck.moc"

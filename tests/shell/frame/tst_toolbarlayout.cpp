@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/flowtoolbar.h"
 #include "shell/frame/toolbarcustomizer.h"
-#include "shell/frame/toolbars.h"
+#include "shell/frame/toolbarlayout.h"
 #include "shell/look/theme.h"
 #include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
@@ -14,7 +14,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-class TestToolbars : public QObject
+class TestToolbarLayout : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private:
     QStringList m_defaults;
 };
 
-void TestToolbars::init()
+void TestToolbarLayout::init()
 {
     m_bar.reset();
     m_program = std::make_unique<TestProgram>();
@@ -57,7 +57,7 @@ void TestToolbars::init()
     m_layout->restore();
 }
 
-void TestToolbars::hidesNothingWhenItIsNarrow()
+void TestToolbarLayout::hidesNothingWhenItIsNarrow()
 {
     m_bar->show();
     m_layout->setShown({u"one"_s, u"separator"_s, u"two"_s, u"three"_s, u"four"_s, u"five"_s});
@@ -76,7 +76,7 @@ void TestToolbars::hidesNothingWhenItIsNarrow()
     }
 }
 
-void TestToolbars::aHiddenActionTakesNoPlace()
+void TestToolbarLayout::aHiddenActionTakesNoPlace()
 {
     m_bar->show();
     QToolButton *one = m_bar->button(m_layout->action(u"one"_s));
@@ -89,7 +89,7 @@ void TestToolbars::aHiddenActionTakesNoPlace()
     QVERIFY(!one->isVisible());
 }
 
-void TestToolbars::restoresTheStoredLayout_data()
+void TestToolbarLayout::restoresTheStoredLayout_data()
 {
     const QStringList defaults{u"one"_s, u"two"_s, u"separator"_s, u"three"_s};
     const QStringList another{u"five"_s, u"separator"_s, u"one"_s};
@@ -102,7 +102,7 @@ void TestToolbars::restoresTheStoredLayout_data()
     });
 }
 
-void TestToolbars::restoresTheStoredLayout()
+void TestToolbarLayout::restoresTheStoredLayout()
 {
     const auto [stored, shown] = row<QStringList, QStringList>();
     if (!stored.isEmpty())
@@ -111,7 +111,7 @@ void TestToolbars::restoresTheStoredLayout()
     QCOMPARE(m_layout->shown(), shown);
 }
 
-void TestToolbars::everyChangeIsAppliedAndStored()
+void TestToolbarLayout::everyChangeIsAppliedAndStored()
 {
     ToolbarCustomizer dialog(*m_layout, nullptr);
     showActive(dialog);
@@ -144,5 +144,5 @@ void TestToolbars::everyChangeIsAppliedAndStored()
     QVERIFY(!dialog.isVisible());
 }
 
-QTEST_MAIN(TestToolbars)
-#include "tst_toolbars.moc"
+QTEST_MAIN(TestToolbarLayout)
+#include "tst_toolbarlayout.moc"

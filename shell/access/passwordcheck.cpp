@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/access/passwordfile.h"
+#include "shell/access/passwordcheck.h"
 
 #include "shell/core/settingskeys.h"
 #include "storage/ansitext.h"
@@ -109,7 +109,7 @@ PasswordCost PasswordCost::minimum()
     return {crypto_pwhash_opslimit_min(), crypto_pwhash_memlimit_min()};
 }
 
-PasswordFile::PasswordFile(const DataFolder &folder, PasswordCost cost)
+PasswordCheck::PasswordCheck(const DataFolder &folder, PasswordCost cost)
     : m_folder(folder)
     , m_cost(cost)
 {
@@ -117,22 +117,22 @@ PasswordFile::PasswordFile(const DataFolder &folder, PasswordCost cost)
         qCWarning(storageLog) << "Passwords cannot be checked: no source of random numbers";
 }
 
-PasswordFile::State PasswordFile::state() const
+PasswordCheck::State PasswordCheck::state() const
 {
     return read().state;
 }
 
-ProtectedAreas PasswordFile::areas() const
+ProtectedAreas PasswordCheck::areas() const
 {
     return read().areas;
 }
 
-void PasswordFile::load(ProgramState &state) const
+void PasswordCheck::load(ProgramState &state) const
 {
     state.protectedAreas = areas();
 }
 
-bool PasswordFile::matches(const QString &password) const
+bool PasswordCheck::matches(const QString &password) const
 {
     const Content content = read();
     if (content.state != State::Set || password.isEmpty())
@@ -141,7 +141,7 @@ bool PasswordFile::matches(const QString &password) const
     return crypto_pwhash_str_verify(content.verifier.constData(), typed.data(), typed.size()) == 0;
 }
 
-bool PasswordFile::setPassword(const QString &password)
+bool PasswordCheck::setPassword(const QString &password)
 {
     const Content content = read();
     if (content.state == State::Damaged || password.isEmpty())
@@ -167,7 +167,7 @@ bool PasswordFile::setPassword(const QString &password)
     return change.commit();
 }
 
-bool PasswordFile::removePassword()
+bool PasswordCheck::removePassword()
 {
     const Content content = read();
     if (content.state == State::Damaged)
@@ -179,7 +179,7 @@ bool PasswordFile::removePassword()
     return change.commit();
 }
 
-bool PasswordFile::saveAreas(const ProtectedAreas &areas)
+bool PasswordCheck::saveAreas(const ProtectedAreas &areas)
 {
     const Content content = read();
     if (content.state == State::Damaged)
@@ -195,7 +195,7 @@ bool PasswordFile::saveAreas(const ProtectedAreas &areas)
     return change.commit();
 }
 
-PasswordFile::Content PasswordFile::damaged()
+PasswordCheck::Content PasswordCheck::damaged()
 {
     Content content;
     content.state = State::Damaged;
@@ -204,7 +204,7 @@ PasswordFile::Content PasswordFile::damaged()
     return content;
 }
 
-PasswordFile::Content PasswordFile::parsed(QByteArrayView bytes)
+PasswordCheck::Content PasswordCheck::parsed(QByteArrayView bytes)
 {
     const std::optional<QByteArray> verifier = wholeText(recordOf(bytes, verifierRecord));
     if (!verifier || (!verifier->isEmpty() && !isVerifier(*verifier)))
@@ -231,7 +231,7 @@ PasswordFile::Content PasswordFile::parsed(QByteArrayView bytes)
     return content.state == State::Set && !isWhole ? damaged() : content;
 }
 
-PasswordFile::Content PasswordFile::read() const
+PasswordCheck::Content PasswordCheck::read() const
 {
     const QFileInfo info(m_folder.filePath(QLatin1StringView(passwordFile.name)));
     if (!info.exists() && !info.isSymLink())
@@ -245,18 +245,18 @@ PasswordFile::Content PasswordFile::read() const
     return file.error() == QFile::NoError ? parsed(bytes) : damaged();
 }
 
-RecordFile PasswordFile::records() const
+RecordFile PasswordCheck::records() const
 {
     return RecordFile(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
 }
 
-void PasswordFile::writeFlag(ChangeSet &change, int area, const QString &flag) const
+void PasswordCheck::writeFlag(ChangeSet &change, int area, const QString &flag) const
 {
     change.write(records(), firstFlagRecord + area,
                  *RecordValue::encodeText(flag, passwordFile.recordLength));
 }
 
-void PasswordFile::writeVerifier(ChangeSet &change, const QByteArray &verifier, const QByteArray &old) const
+void PasswordCheck::writeVerifier(ChangeSet &change, const QByteArray &verifier, const QByteArray &old) const
 {
     QByteArray bytes = *RecordValue::encodeText(QString::fromLatin1(verifier), passwordFile.recordLength);
     // Zeros over what the old verifier leaves behind the new one: nobody shall go on guessing from it.

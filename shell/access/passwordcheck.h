@@ -26,7 +26,7 @@ struct PasswordCost {
 /// The password and the 21 flags of what it guards, in `PCtrl1.Fil` (record length 140): record 1 the
 /// password's verifier, records 2 to 22 the flags 0 to 20, all counted texts. The password itself is never
 /// stored. Nothing is cached: each call reads the file as it is now.
-class PasswordFile
+class PasswordCheck
 {
 public:
     enum class State {
@@ -35,7 +35,7 @@ public:
         Damaged ///< cannot be trusted: everything that can be guarded is, and nothing is written
     };
 
-    explicit PasswordFile(const DataFolder &folder, PasswordCost cost = PasswordCost::interactive());
+    explicit PasswordCheck(const DataFolder &folder, PasswordCost cost = PasswordCost::interactive());
 
     State state() const;
 
