@@ -130,4 +130,14 @@ inline Message nothingToImport()
     return {u"Import To Do List Items"_s, u"No To Do List Items to Import have been found!"_s};
 }
 
+inline QString whichDay()
+{
+    return u"Which day do you want to see?"_s;
+}
+
+inline QString whichDates()
+{
+    return u"Which dates do you want to print?"_s;
+}
+
 } // namespace PlannerMessages

@@ -24,8 +24,8 @@ DateResult removeAppointment(PlannerDay &day, const Appointment &appointment);
 
 /// The walk over a recurrence's dates, a date a step, so that whoever drives it can show progress, keep
 /// the window responsive and stop it. Each date is written before the next one is looked at. The year file of
-/// the current date is kept open between steps of one walk, and put on the disk when the walk goes on to another
-/// or `finish` ends it.
+/// the current date is kept open between steps of one walk, and put on the disk when the walk goes on to
+/// another or `finish` ends it.
 class RecurrenceRun
 {
 public:

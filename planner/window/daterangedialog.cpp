@@ -2,6 +2,7 @@
 #include "planner/window/daterangedialog.h"
 
 #include "planner/model/lines.h"
+#include "planner/model/messages.h"
 #include "shell/controls/datebox.h"
 #include "shell/look/theme.h"
 
@@ -37,7 +38,7 @@ DateRangeDialog::DateRangeDialog(QDate from, QDate to, const DateReading &readin
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(24, 20, 24, 20);
     rows->setSpacing(12);
-    rows->addWidget(makeHeading(u"Which dates do you want to print?"_s, this));
+    rows->addWidget(makeHeading(PlannerMessages::whichDates(), this));
     rows->addLayout(boxes);
     rows->addWidget(m_hint);
     rows->addLayout(foot);

@@ -235,7 +235,7 @@ void DayEditor::paste()
 void DayEditor::askForDate()
 {
     const DateStyle style = m_program.state.dateStyle;
-    const auto answer = m_program.dialogs.input(window(), u"Go to Date"_s, u"Which day do you want to see?"_s,
+    const auto answer = m_program.dialogs.input(window(), u"Go to Date"_s, PlannerMessages::whichDay(),
                                                 Dates::boxText(m_date, style));
     if (!answer || answer->trimmed().isEmpty())
         return;
