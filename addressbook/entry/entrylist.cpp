@@ -9,8 +9,10 @@
 
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,7 +22,8 @@ EntryList::EntryList(Guard guard, QWidget *parent)
     , m_guard(std::move(guard))
     , m_names(new NameListModel(this))
     , m_view(named(new NameListView(this), u"List1"_s))
-    , m_search(new SearchBox(u"Text2"_s, u"Search names"_s, u"Type a part of a name and press Enter"_s, this))
+    , m_search(new SearchBox(u"Text2"_s, u"Search names"_s,
+                             u"Type a part of a name and press Enter; F3 finds the next one"_s, this))
     , m_count(named(makeQuietLabel({}, this), u"Label1"_s))
 {
     m_view->setAccessibleName(u"Names"_s);
@@ -33,6 +36,9 @@ EntryList::EntryList(Guard guard, QWidget *parent)
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &EntryList::selectionMoved);
     connect(m_search, &QLineEdit::returnPressed, this, &EntryList::search);
+    new QShortcut(Qt::Key_F3, this, this, &EntryList::searchNext, Qt::WidgetWithChildrenShortcut);
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter})
+        new QShortcut(enter, m_view, this, &EntryList::searchNext, Qt::WidgetShortcut);
 }
 
 const NameList &EntryList::names() const
@@ -139,7 +145,28 @@ void EntryList::search()
         startSearch();
         return;
     }
+    showMatch(row, names().matches(m_search->text()));
+}
+
+/// After the selected line, and from the top again after the last match.
+void EntryList::searchNext()
+{
+    if (m_search->text().isEmpty())
+        return;
+    const QList<int> matches = names().matches(m_search->text());
+    if (matches.isEmpty()) {
+        search();
+        return;
+    }
+    const auto next = std::upper_bound(matches.cbegin(), matches.cend(), selectedRow());
+    showMatch(next == matches.cend() ? matches.first() : *next, matches);
+}
+
+void EntryList::showMatch(int row, const QList<int> &matches)
+{
     setFocus();
+    if (const int number = int(matches.indexOf(row)) + 1; number > 0)
+        emit matchFound(row, number, int(matches.size()));
     m_view->setCurrentIndex(m_names->index(row));
 }
 

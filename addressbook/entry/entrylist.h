@@ -50,11 +50,15 @@ signals:
     /// The line of `row` is the shown one now.
     void rowShown(int row);
     void nothingFound();
+    /// The search has come to the line of `row`, which is about to be shown: match `number` of `count`.
+    void matchFound(int row, int number, int count);
 
 private:
     void select(int row);
     void selectionMoved();
     void search();
+    void searchNext();
+    void showMatch(int row, const QList<int> &matches);
     void refreshCount();
 
     Guard m_guard;

@@ -187,6 +187,11 @@ void ADDBKVIEW::connectParts()
 {
     connect(m_list, &EntryList::rowShown, this, &ADDBKVIEW::showLine);
     connect(m_list, &EntryList::nothingFound, this, [this] { ask(AddressMessages::noMatch()); });
+    connect(m_list, &EntryList::matchFound, this, [this](int row, int number, int count) {
+        activity().say(AddressLines::matchOf(number, count));
+        if (row != m_list->shownRow())
+            m_toSay = activity().message();
+    });
     connect(m_editor, &EntryEditor::changed, this, &ADDBKVIEW::refreshScreen);
     connect(m_editor, &EntryEditor::said, &activity(), &ActivityBar::say);
     connect(&m_editor->form(), &AddressForm::dialRequested, this, [this](const QString &number) {
@@ -262,8 +267,10 @@ Message ADDBKVIEW::leaveQuestion() const
 bool ADDBKVIEW::mayReplaceShown()
 {
     const bool wasModified = isModified();
-    if (!mayReplace(leaveQuestion()))
+    if (!mayReplace(leaveQuestion())) {
+        m_toSay.clear();
         return false;
+    }
     // What a save told stays when another entry takes the screen.
     if (wasModified && !isModified())
         m_toSay = activity().message();

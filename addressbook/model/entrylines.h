@@ -29,6 +29,11 @@ inline QString deleted(const QString &names)
     return u"Deleted: "_s + names;
 }
 
+inline QString matchOf(int number, int count)
+{
+    return u"%1 of %2"_s.arg(number).arg(count);
+}
+
 inline QString pictureNotFound(const QString &stored)
 {
     return u"The picture is not there: "_s + stored;

@@ -72,6 +72,17 @@ int NameList::find(QStringView text) const
     return resumed < 0 ? first : resumed;
 }
 
+QList<int> NameList::matches(QStringView text) const
+{
+    const std::optional<QByteArray> folded = ByteCase::folded(text);
+    QList<int> positions;
+    if (!folded || folded->isEmpty())
+        return positions;
+    for (int at = firstMatch(*folded, 0); at >= 0; at = firstMatch(*folded, at + 1))
+        positions.append(at);
+    return positions;
+}
+
 int NameList::firstMatch(QByteArrayView foldedText, int from) const
 {
     for (int position = from; position < count(); ++position) {

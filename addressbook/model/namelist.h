@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <vector>
@@ -12,8 +13,8 @@
 class NameList
 {
 public:
-    /// The line on which a search that has found a match goes on; see `find`.
-    static constexpr int searchResumesAt = 2002;
+    /// The position of the 2002nd line, where a search that has found a match goes on; see `find`.
+    static constexpr int searchResumesAt = 2001;
 
     NameList() = default;
     /// An empty list that lists its lines within `bytes`, without copying them.
@@ -38,9 +39,11 @@ public:
 
     /// The line that a search for `text` selects, or -1. Upper and lower case are alike; the text may stand
     /// anywhere in a line. In a list of up to 2001 lines that is the first match. In a longer one a match
-    /// sends the search on to position 2002, and a match from there on is the one that it ends with. That is
+    /// sends the search on to line 2002, and a match from there on is the one that it ends with. That is
     /// how the list has always been searched, and it is kept. The empty text stands in every line.
     int find(QStringView text) const;
+    /// The positions of all lines that hold `text`; none for the empty text.
+    QList<int> matches(QStringView text) const;
 
     void append(QStringView line);
     /// A line as it stands in the file.

@@ -110,6 +110,14 @@ void TestAddbkview::searches()
     QCOMPARE(selectedName(), u"Quill, David"_s);
     QCOMPARE(box(0)->text(), u"Quill"_s);
     QVERIFY(list()->hasFocus());
+    QCOMPARE(said(), u"1 of 4"_s);
+    QTest::keyClick(list(), Qt::Key_Return);
+    QCOMPARE(said(), u"2 of 4"_s);
+    QVERIFY(selectedName() != u"Quill, David"_s && selectedName().contains(u"ill"_s));
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(search, Qt::Key_F3);
+    QCOMPARE(selectedName(), u"Quill, David"_s);
+    QCOMPARE(said(), u"1 of 4"_s);
 }
 
 void TestAddbkview::asksForANameToView()
