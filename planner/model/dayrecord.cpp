@@ -17,6 +17,8 @@ QString yearFileName(int year)
 
 int number(QDate date)
 {
+    if (!date.isValid())
+        return 0;
     switch (date.month()) {
     case 10:
         return 320 + date.day();
@@ -32,8 +34,9 @@ int number(QDate date)
 QByteArrayView ofNumber(QByteArrayView year, int number)
 {
     const qsizetype offset = qsizetype(number - 1) * length;
-    return offset < year.size() ? year.sliced(offset, std::min<qsizetype>(length, year.size() - offset))
-                                : QByteArrayView();
+    if (number < 1 || offset >= year.size())
+        return {};
+    return year.sliced(offset, std::min<qsizetype>(length, year.size() - offset));
 }
 
 bool isSaved(QByteArrayView record)

@@ -15,10 +15,12 @@ inline constexpr int last = 431;
 /// " 2026.Cal": the blank in front is part of the name on disk.
 QString yearFileName(int year);
 
-/// The record of `date`: day and month as digits up to September, a block of its own for each month after.
+/// The record of `date`: day and month as digits up to September, a block of its own for each month after. An
+/// invalid date has the number 0, which no record has.
 int number(QDate date);
 
-/// The bytes of a record in the bytes of its year's file; fewer or none when the file is short.
+/// The bytes of a record in the bytes of its year's file; fewer or none when the file is short, none for a
+/// number below 1.
 QByteArrayView ofNumber(QByteArrayView year, int number);
 
 /// Whether a record carries the mark of a saved day; asked before a record is decoded, since many are holes.

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "planner/model/plannerdates.h"
+#include "shell/core/dates.h"
+
 #include <QString>
 
 /// Lines that the planner writes into the status bar or beside a control; reasons of disabled commands among
@@ -40,6 +43,12 @@ inline QString pasted(int entries)
 inline QString noSuchDate(const QString &text)
 {
     return u"This is not a date: "_s + text;
+}
+
+inline QString beyondDates(DateStyle style)
+{
+    return u"The planner has the days from "_s + Dates::monthDayYear(PlannerDates::first(), style) +
+           u" to "_s + Dates::monthDayYear(PlannerDates::last(), style);
 }
 
 // Views and search

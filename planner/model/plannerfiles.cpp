@@ -2,6 +2,7 @@
 #include "planner/model/plannerfiles.h"
 
 #include "planner/model/dayrecord.h"
+#include "planner/model/plannerdates.h"
 #include "storage/log.h"
 #include "storage/recordfile.h"
 
@@ -44,7 +45,7 @@ bool PlannerFiles::isReadable(int year) const
 
 PlannerDay PlannerFiles::peek(QDate date) const
 {
-    if (!date.isValid())
+    if (!PlannerDates::has(date))
         return {};
     const RecordFile file(yearFilePath(date.year()), DayRecord::length);
     const PlannerDay day = plannerDayLayout.decode(file.read(DayRecord::number(date)));
@@ -53,14 +54,14 @@ PlannerDay PlannerFiles::peek(QDate date) const
 
 PlannerDay PlannerFiles::read(QDate date) const
 {
-    if (date.isValid())
+    if (PlannerDates::has(date))
         RecordFile(yearFilePath(date.year()), DayRecord::length).create();
     return peek(date);
 }
 
 bool PlannerFiles::write(QDate date, const PlannerDay &day)
 {
-    if (!date.isValid())
+    if (!PlannerDates::has(date))
         return false;
     PlannerDay saved = day;
     saved.mark = PlannerDay::savedMark;
@@ -82,7 +83,8 @@ QByteArray PlannerFiles::yearBytes(int year) const
 
 void PlannerFiles::forEachDay(int year, const std::function<void(QDate, const PlannerDay &)> &visit) const
 {
-    visitDays(yearBytes(year), QDate(year, 1, 1), QDate(year, 12, 31), visit);
+    if (year >= PlannerDates::firstYear && year <= PlannerDates::lastYear)
+        visitDays(yearBytes(year), QDate(year, 1, 1), QDate(year, 12, 31), visit);
 }
 
 std::map<QDate, PlannerDay> PlannerFiles::days(QDate from, QDate to) const
@@ -90,6 +92,8 @@ std::map<QDate, PlannerDay> PlannerFiles::days(QDate from, QDate to) const
     std::map<QDate, PlannerDay> days;
     if (!from.isValid() || !to.isValid())
         return days;
+    from = std::max(from, PlannerDates::first());
+    to = std::min(to, PlannerDates::last());
     for (int year = from.year(); year <= to.year(); ++year) {
         visitDays(yearBytes(year), std::max(from, QDate(year, 1, 1)), std::min(to, QDate(year, 12, 31)),
                   [&days](QDate date, const PlannerDay &day) { days.emplace_hint(days.end(), date, day); });
@@ -99,7 +103,8 @@ std::map<QDate, PlannerDay> PlannerFiles::days(QDate from, QDate to) const
 
 QList<int> PlannerFiles::years() const
 {
-    static const QRegularExpression name(u"^ (\\d{4})\\.cal$"_s, QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression name(u"^ ([1-9]\\d{3})\\.cal$"_s,
+                                         QRegularExpression::CaseInsensitiveOption);
     QList<int> years;
     for (const QString &entry : QDir(m_folder.path()).entryList(QDir::Files)) {
         if (const auto match = name.match(entry); match.hasMatch())

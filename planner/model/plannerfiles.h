@@ -10,7 +10,8 @@
 #include <functional>
 #include <map>
 
-/// The year files of the planner: reads and writes the day of a date. Nothing is kept open or cached.
+/// The year files of the planner: reads and writes the day of a date. Nothing is kept open or cached. A date
+/// beyond `PlannerDates` has no file: it is read as an empty day and cannot be written.
 class PlannerFiles
 {
 public:

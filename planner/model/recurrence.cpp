@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/recurrence.h"
 
+#include "planner/model/plannerdates.h"
 #include "planner/model/plannerday.h"
 #include "storage/ansitext.h"
 
@@ -88,7 +89,7 @@ QDate RecurrenceDates::dateAt(int step) const
 
 bool RecurrenceDates::isOver(QDate date) const
 {
-    if (!date.isValid())
+    if (!PlannerDates::has(date))
         return true;
     return m_recurrence.end ? date > *m_recurrence.end : m_given >= m_recurrence.occurrences;
 }
@@ -122,6 +123,12 @@ std::optional<QDate> RecurrenceDates::next()
     ++m_step;
     ++m_given;
     return date;
+}
+
+bool RecurrenceDates::isCutShort() const
+{
+    return !m_recurrence.end && m_given < m_recurrence.occurrences && m_first.isValid() &&
+           dateAt(m_step) > PlannerDates::last();
 }
 
 int RecurrenceDates::estimate() const

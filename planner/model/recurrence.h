@@ -47,7 +47,8 @@ struct Recurrence {
 
 /// The dates of a recurrence, one after another. 29 February falls on the 28th in other years. Every date
 /// that is given uses up an occurrence; looking for weekdays never goes over more than twice as many days as
-/// occurrences were asked for. An interval below 1 or an invalid beginning gives no date.
+/// occurrences were asked for. An interval below 1 or an invalid beginning gives no date, and the planner's
+/// last day ends every recurrence.
 class RecurrenceDates
 {
 public:
@@ -58,6 +59,9 @@ public:
 
     /// Roughly how many dates there are: what a progress bar counts to.
     int estimate() const;
+
+    /// Whether the planner's last day came before the number of occurrences was given.
+    bool isCutShort() const;
 
 private:
     QDate dateAt(int step) const;

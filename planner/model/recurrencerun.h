@@ -47,6 +47,7 @@ public:
     /// Dates worked on so far, and about how many there are in all.
     int done() const { return m_done; }
     int estimate() const { return m_dates.estimate(); }
+    bool isCutShort() const { return m_dates.isCutShort(); }
     /// The last date worked on; invalid before the first step.
     QDate lastDate() const { return m_lastDate; }
 

@@ -15,6 +15,7 @@ DateRangeDialog::DateRangeDialog(QDate from, QDate to, const DateReading &readin
     , m_fromBox(named(new DateBox(reading, nullptr, this), u"rangeFrom"_s))
     , m_toBox(named(new DateBox(reading, nullptr, this), u"rangeTo"_s))
     , m_hint(makeQuietLabel({}, this))
+    , m_style(reading.style)
     , m_range(from, to)
 {
     setObjectName(u"dateRangeDialog"_s);
@@ -51,8 +52,9 @@ void DateRangeDialog::accept()
 {
     for (DateBox *box : {m_fromBox, m_toBox}) {
         const auto date = box->date();
-        if (!date) {
-            m_hint->setText(PlannerLines::noSuchDate(box->text()));
+        if (!date || !PlannerDates::has(*date)) {
+            m_hint->setText(date ? PlannerLines::beyondDates(m_style)
+                                 : PlannerLines::noSuchDate(box->text()));
             box->setFocus();
             return;
         }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/programstate.h"
+
 #include <QDate>
 #include <QDialog>
 
@@ -24,5 +26,6 @@ private:
     DateBox *m_fromBox;
     DateBox *m_toBox;
     QLabel *m_hint;
+    const DateStyle &m_style;
     std::pair<QDate, QDate> m_range;
 };

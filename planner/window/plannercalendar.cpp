@@ -2,6 +2,7 @@
 #include "planner/window/plannercalendar.h"
 
 #include "planner/model/lines.h"
+#include "planner/model/plannerdates.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/clock.h"
@@ -28,6 +29,7 @@ constexpr int nameMargins = 6;
 
 void applyOptions(MonthView &month, const CalendarOptions &options, QDate today)
 {
+    month.setDateRange(PlannerDates::first(), PlannerDates::last());
     month.setFirstDayOfWeek(options.firstDay());
     month.setVerticalHeaderFormat(options.showsWeekNumbers() ? QCalendarWidget::ISOWeekNumbers
                                                              : QCalendarWidget::NoVerticalHeader);
@@ -61,12 +63,13 @@ PlannerCalendar::PlannerCalendar(const Clock &clock, MarkedDays markedDays, QWid
         connect(month, &QCalendarWidget::selectionChanged, this, [this, month] { announce(month); });
         connect(month, &QCalendarWidget::clicked, this, [this, month] { announce(month); });
         connect(month, &QCalendarWidget::activated, this, &PlannerCalendar::dayEntered, Qt::QueuedConnection);
+        connect(month, &MonthView::edgeReached, this, &PlannerCalendar::edgeReached);
     }
     connect(m_first, &QCalendarWidget::currentPageChanged, this, [this] { showPages(); });
     connect(m_second, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) {
         if (m_isSetting)
             return;
-        const QDate before = QDate(year, month, 1).addMonths(-1);
+        const QDate before = PlannerDates::within(QDate(year, month, 1).addMonths(-1));
         m_first->setCurrentPage(before.year(), before.month());
     });
 }
@@ -141,7 +144,12 @@ QDate PlannerCalendar::firstShown() const
 void PlannerCalendar::showPages()
 {
     const QScopedValueRollback<bool> setting(m_isSetting, true);
-    const QDate second = firstShown().addMonths(1);
+    QDate second = firstShown().addMonths(1);
+    if (m_second->isVisibleTo(this) && !PlannerDates::has(second)) {
+        // The last month of all stands below the one before it.
+        second = firstShown();
+        m_first->setCurrentPage(second.addMonths(-1).year(), second.addMonths(-1).month());
+    }
     m_second->setCurrentPage(second.year(), second.month());
     showMarks();
 }

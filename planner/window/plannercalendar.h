@@ -44,6 +44,8 @@ signals:
     void dateChosen(QDate date);
     /// Enter or a double click: the user wants to go on in the chosen day.
     void dayEntered();
+    /// The user stepped beyond the first or the last month.
+    void edgeReached();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

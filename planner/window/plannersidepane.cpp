@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/window/plannersidepane.h"
 
+#include "planner/model/lines.h"
 #include "planner/window/comingup.h"
 #include "planner/window/plannercalendar.h"
 #include "shell/controls/controls.h"
@@ -60,6 +61,8 @@ PlannerSidePane::PlannerSidePane(const Program &program, PanelColors &colors, co
     });
     connect(m_calendar, &PlannerCalendar::dateChosen, this, &PlannerSidePane::dateChosen);
     connect(m_calendar, &PlannerCalendar::dayEntered, this, &PlannerSidePane::dayEntered);
+    connect(m_calendar, &PlannerCalendar::edgeReached, this,
+            [this, &style = program.state.dateStyle] { emit said(PlannerLines::beyondDates(style)); });
 }
 
 QWidget *PlannerSidePane::makePanels(const Program &program, PanelColors &colors, const PlannerFiles &files)

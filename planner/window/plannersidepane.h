@@ -37,6 +37,7 @@ signals:
     void dateChosen(QDate date);
     /// The user wants to go on in the day that the calendar has.
     void dayEntered();
+    void said(const QString &line);
 
 private:
     QWidget *makePanels(const Program &program, PanelColors &colors, const PlannerFiles &files);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/window/plannerviews.h"
 
+#include "planner/model/lines.h"
 #include "planner/window/dayeditor.h"
 #include "planner/window/monthgrid.h"
 #include "planner/window/weekview.h"
@@ -13,6 +14,7 @@
 PlannerViews::PlannerViews(const Program &program, const PlannerFiles &files, const CalendarOptions &options,
                            DayEditor *day)
     : m_clock(program.clock)
+    , m_style(program.state.dateStyle)
     , m_options(options)
     , m_day(day)
     , m_week(new WeekView(files, program.state.dateStyle))
@@ -58,10 +60,15 @@ void PlannerViews::openDays(DaysView *view, QDate date)
 
 void PlannerViews::step(int steps)
 {
-    if (DaysView *view = shownDays())
-        openDays(view, view->after(date(), steps));
-    else
+    DaysView *view = shownDays();
+    if (!view) {
         emit dayOpened(m_day->date().addDays(steps));
+        return;
+    }
+    const QDate wanted = view->after(date(), steps);
+    openDays(view, PlannerDates::within(wanted));
+    if (!PlannerDates::has(wanted))
+        emit said(PlannerLines::beyondDates(m_style));
 }
 
 void PlannerViews::showToday()

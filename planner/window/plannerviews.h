@@ -3,6 +3,7 @@
 
 #include "planner/model/calendaroptions.h"
 #include "planner/model/plannerfiles.h"
+#include "shell/core/programstate.h"
 
 #include <QWidget>
 
@@ -35,7 +36,8 @@ public:
 
     /// Opens the week or the month that `date` is in.
     void openDays(DaysView *view, QDate date);
-    /// By as many days, weeks or months as the view in front shows.
+    /// By as many days, weeks or months as the view in front shows; stops at the planner's first and last
+    /// day.
     void step(int steps);
     /// A new day has begun.
     void showToday();
@@ -47,6 +49,7 @@ signals:
 
 private:
     const Clock &m_clock;
+    const DateStyle &m_style;
     const CalendarOptions &m_options;
     DayEditor *m_day;
     DaysView *m_week;

@@ -195,6 +195,7 @@ void Zcalandar1::connectDay()
 {
     connect(m_side, &PlannerSidePane::searchRequested, this, &Zcalandar1::search);
     connect(m_side, &PlannerSidePane::dateChosen, this, &Zcalandar1::goTo);
+    connect(m_side, &PlannerSidePane::said, &activity(), &ActivityBar::say);
     connect(m_side, &PlannerSidePane::dayEntered, this, [this] {
         showDay();
         m_day->focusFirstEmptyRow();
@@ -251,6 +252,11 @@ QString Zcalandar1::whyNoStep() const
 
 void Zcalandar1::goTo(QDate date)
 {
+    if (date.isValid() && !PlannerDates::has(date)) {
+        m_side->setDate(m_day->date());
+        activity().say(PlannerLines::beyondDates(program().state.dateStyle));
+        return;
+    }
     // Nothing is replaced by the day that is there.
     const bool isThere = date == m_day->date() && isModified();
     if (!date.isValid() || (!isThere && !mayReplaceDay())) {
@@ -375,7 +381,8 @@ void Zcalandar1::printRange()
     if (!mayReplaceDay())
         return;
     const QDate first = m_views->date();
-    DateRangeDialog dialog(first, first.addMonths(1).addDays(-1), {program().state.dateStyle, clock()}, this);
+    const QDate last = PlannerDates::within(first.addMonths(1).addDays(-1));
+    DateRangeDialog dialog(first, last, {program().state.dateStyle, clock()}, this);
     if (program().dialogs.run(dialog) != QDialog::Accepted)
         return;
     const auto page = [this, from = dialog.from(), to = dialog.to()](const PageContext &context) {

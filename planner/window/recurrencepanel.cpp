@@ -224,7 +224,9 @@ void RecurrencePanel::finish(bool wasStopped)
         m_program.dialogs.ask(this, *report);
     leave();
     // Last, since the day that comes back says in which row it is.
-    emit said(isInsert && !report ? PlannerLines::nothingMade() : done);
+    const QString line = isInsert && !report ? PlannerLines::nothingMade() : done;
+    emit said(run->isCutShort() ? line + u". "_s + PlannerLines::beyondDates(m_program.state.dateStyle)
+                                : line);
 }
 
 void RecurrencePanel::setRunning(bool isRunning)

@@ -24,6 +24,7 @@ constexpr int numberWidth = 64;
 RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
     : QWidget(parent)
     , m_clock(program.clock)
+    , m_style(program.state.dateStyle)
     , m_beginning(setUp(new DateBox({program.state.dateStyle, program.clock}, nullptr, this),
                         u"beginningDate"_s, u"Beginning Date"_s, dateWidth))
     , m_end(setUp(new DateBox({program.state.dateStyle, program.clock}, nullptr, this), u"endDate"_s,
@@ -104,6 +105,8 @@ void RecurrenceRange::addCalendar(QVBoxLayout *column)
 void RecurrenceRange::connectBoxes()
 {
     connect(m_month, &QCalendarWidget::selectionChanged, this, &RecurrenceRange::calendarMoved);
+    connect(m_month, &MonthView::edgeReached, this,
+            [this] { emit said(PlannerLines::beyondDates(m_style)); });
     connect(m_calendarSets, &QButtonGroup::idClicked, this, &RecurrenceRange::showCalendarDate);
     for (const DateBox *box : {m_beginning, m_end})
         connect(box, &QLineEdit::editingFinished, this, &RecurrenceRange::showCalendarDate);
@@ -116,7 +119,7 @@ void RecurrenceRange::connectBoxes()
 void RecurrenceRange::reset(QDate date, const CalendarOptions &options)
 {
     m_beginning->setDate(date);
-    m_end->setDate(date.addYears(1));
+    m_end->setDate(PlannerDates::within(date.addYears(1)));
     m_occurrences->setText(u"10"_s);
     m_endBy->button(EndDate)->setChecked(true);
     m_calendarSets->button(Beginning)->setChecked(true);
@@ -129,6 +132,8 @@ std::optional<QString> RecurrenceRange::read(Recurrence &recurrence) const
     const auto beginning = m_beginning->date();
     if (!beginning)
         return PlannerLines::noBeginning();
+    if (!PlannerDates::has(*beginning))
+        return PlannerLines::beyondDates(m_style);
     recurrence.beginning = *beginning;
     if (m_endBy->checkedId() == Occurrences) {
         recurrence.end.reset();
@@ -138,6 +143,8 @@ std::optional<QString> RecurrenceRange::read(Recurrence &recurrence) const
     recurrence.end = m_end->date();
     if (!recurrence.end)
         return PlannerLines::noEnd();
+    if (!PlannerDates::has(*recurrence.end))
+        return PlannerLines::beyondDates(m_style);
     return *recurrence.end < *beginning ? std::optional(PlannerLines::endBeforeBeginning()) : std::nullopt;
 }
 

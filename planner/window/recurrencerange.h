@@ -3,6 +3,7 @@
 
 #include "planner/model/calendaroptions.h"
 #include "planner/model/recurrence.h"
+#include "shell/core/programstate.h"
 
 #include <QWidget>
 
@@ -49,6 +50,7 @@ private:
     void showCalendarDate();
 
     const Clock &m_clock;
+    const DateStyle &m_style;
     DateBox *m_beginning;
     DateBox *m_end;
     FieldBox *m_occurrences;

@@ -19,7 +19,7 @@ namespace {
 constexpr int monthsPerYear = 12;
 constexpr int narrowBelow = 264;
 constexpr int firstYear = 1;
-constexpr int lastYear = 7999; ///< a calendar control goes no further
+constexpr int lastYear = 9999;
 
 QString monthName(int month)
 {

@@ -19,6 +19,7 @@ namespace {
 
 constexpr QSize designedSize(316, 296);
 constexpr double corner = 8;
+const QDate lastDay(9999, 12, 31);
 
 /// What the sheet of the whole application would otherwise give to every table and tool button; the heading's
 /// buttons take their colour from a sheet alone.
@@ -44,6 +45,7 @@ MonthView::MonthView(QWidget *parent)
     setHorizontalHeaderFormat(ShortDayNames);
     setVerticalHeaderFormat(ISOWeekNumbers);
     setGridVisible(false);
+    setMaximumDate(lastDay);
     setAutoFillBackground(false);
     // A letter meant for something else would open a box over the days that takes the arrow keys.
     setDateEditEnabled(false);
@@ -159,9 +161,21 @@ void MonthView::setUpHeading()
     m_heading->setMonth(yearShown(), monthShown());
     rows->insertWidget(0, m_heading);
     connect(m_heading, &MonthHeading::stepped, this,
-            [this](int months) { months < 0 ? showPreviousMonth() : showNextMonth(); });
-    connect(m_heading, &MonthHeading::picked, this, &QCalendarWidget::setCurrentPage);
+            [this](int months) { showMonth(yearShown(), monthShown() + months); });
+    connect(m_heading, &MonthHeading::picked, this, &MonthView::showMonth);
     connect(this, &QCalendarWidget::currentPageChanged, m_heading, &MonthHeading::setMonth);
+}
+
+/// The control itself would show months without a day that can be chosen. A month 0 or 13 is one of the year
+/// beside.
+void MonthView::showMonth(int year, int month)
+{
+    const QDate wanted = QDate(year, 1, 1).addMonths(month - 1);
+    const QDate least = minimumDate().addDays(1 - minimumDate().day());
+    const QDate shown = std::clamp(wanted, least, maximumDate());
+    setCurrentPage(shown.year(), shown.month());
+    if (shown != wanted)
+        emit edgeReached();
 }
 
 void MonthView::showPaletteColors()

@@ -23,6 +23,10 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+signals:
+    /// The heading was asked for a month before the first or after the last one that can be shown.
+    void edgeReached();
+
 protected:
     void paintCell(QPainter *painter, const QRect &rect, QDate date) const override;
     void changeEvent(QEvent *event) override;
@@ -33,6 +37,7 @@ private:
     void paintNumber(QPainter &painter, const QRectF &mark, QDate date) const;
     bool isMarkedToday(QDate date) const { return m_todayMarked && date == m_today; }
     void setUpHeading();
+    void showMonth(int year, int month);
     void showPaletteColors();
 
     MonthHeading *m_heading = nullptr;

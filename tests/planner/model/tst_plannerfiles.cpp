@@ -67,6 +67,7 @@ private slots:
     void survivesAnyBytes_data();
     void survivesAnyBytes();
     void tellsWhatItCannotRead();
+    void hasNoFileBeyondTheDatesOfThePlanner();
     void readsWhatACutFileStillHolds();
     void tellsTheTruthAboutAFullDisk_data();
     void tellsTheTruthAboutAFullDisk();
@@ -122,6 +123,22 @@ void TestYearFiles::tellsWhatItCannotRead()
         runThrough(run);
         QCOMPARE(run.failed(), 1);
     }
+}
+
+void TestYearFiles::hasNoFileBeyondTheDatesOfThePlanner()
+{
+    const TestProgram test;
+    PlannerFiles files(test.folder);
+    for (const QDate date : {QDate(-1, 5, 5), QDate(999, 12, 31), QDate(10000, 1, 1), QDate()}) {
+        QCOMPARE(files.read(date), PlannerDay());
+        QVERIFY(!files.write(date, {}));
+    }
+    files.forEachDay(0, [](QDate, const PlannerDay &) { QFAIL("no day is of the year 0"); });
+    QCOMPARE(files.days(QDate(-1, 12, 25), QDate(999, 12, 31)).size(), 0U);
+    test.setBytes(u" 0000.Cal"_s, QByteArray());
+    QCOMPARE(files.years(), QList<int>());
+    QCOMPARE(QDir(test.folder.path()).entryList(QDir::Files), QStringList{u" 0000.Cal"_s});
+    QVERIFY(DayRecord::ofNumber(firstDays(), DayRecord::number({})).isEmpty());
 }
 
 void TestYearFiles::readsWhatACutFileStillHolds()

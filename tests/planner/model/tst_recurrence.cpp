@@ -70,6 +70,7 @@ void TestRecurrence::givesTheDatesOfAKind_data()
         {"a day of the month that is over", fifthOfMonth, u"2026-02-05 2026-04-05 2026-06-05"_s},
         {"leap day", times(Recurrence::Yearly, {2024, 2, 29}, 3, 2), u"2024-02-29 2026-02-28 2028-02-29"_s},
         {"on a date of each year", yearly, u"2027-01-06 2028-01-06"_s},
+        {"to the last day of all", times(Recurrence::Daily, {9999, 12, 30}, 5), u"9999-12-30 9999-12-31"_s},
         {"no interval", times(Recurrence::Daily, friday, 5, 0), {}},
         {"end before the beginning", until(Recurrence::Daily, friday, QDate(2026, 1, 1)), {}},
         {"no beginning", times(Recurrence::Daily, {}, 5), {}},

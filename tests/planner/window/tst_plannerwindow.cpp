@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/calendaroptions.h"
+#include "planner/window/plannerviews.h"
 #include "shell/core/area.h"
 #include "tests/planner/window/openplanner.h"
 
@@ -35,6 +36,8 @@ private slots:
     void takesWhatARowCanHold();
     void walksRowsAndDaysByKeys();
     void goesToATypedDate();
+    void staysWithinYearsOfFourDigits_data();
+    void staysWithinYearsOfFourDigits();
     void keepsTypedTextWhenTheDiskRefuses();
     void leavesUntouchedTextsAsTheyAre();
     void keepsTheCalendarOptions();
@@ -271,6 +274,38 @@ void TestZcalandar1::goesToATypedDate()
     screen.trigger("mVGo");
     QCOMPARE(screen.date(), QDate(2028, 2, 29));
     QVERIFY(screen.said().contains("the day after"_L1));
+}
+
+void TestZcalandar1::staysWithinYearsOfFourDigits_data()
+{
+    const QDate first(1000, 1, 1), last(9999, 12, 31);
+    rows<QString, QByteArray, int, QDate>({
+        {"a date before the first", u"01/01/0001"_s, {}, 0, today},
+        {"a day before the first", u"01/01/1000"_s, "mVDay", -1, first},
+        {"a day after the last", u"12/31/9999"_s, "mVDay", 1, last},
+        {"a week before the first", u"01/03/1000"_s, "mVWeek", -1, first},
+        {"a week after the last", u"12/28/9999"_s, "mVWeek", 1, last},
+        {"a month before the first", u"01/20/1000"_s, "mVMonth", -1, first},
+        {"a month after the last", u"12/02/9999"_s, "mVMonth", 1, last},
+    });
+}
+
+void TestZcalandar1::staysWithinYearsOfFourDigits()
+{
+    const auto [typed, view, steps, expected] = row<QString, QByteArray, int, QDate>();
+    TestProgram test;
+    test.setBytes(u"SWR2.fil"_s, QByteArray(13 * 20, '\0').append('\1')); // two months
+    const OpenPlanner screen(test);
+    test.dialogs.willInput(typed);
+    screen.trigger("mVGo");
+    if (steps != 0) {
+        QVERIFY(screen.said().isEmpty() || screen.said().startsWith("Row"_L1));
+        screen.trigger(view.constData());
+        screen.trigger(steps < 0 ? "mVBack" : "mVNext");
+    }
+    QVERIFY2(screen.said().endsWith("January 1, 1000 to December 31, 9999"_L1), qPrintable(screen.said()));
+    QCOMPARE(screen.window().findChild<PlannerViews *>()->date(), expected);
+    QCOMPARE(QDir(test.folder.path()).entryList({u"* 999.Cal"_s, u"* 10000.Cal"_s}), QStringList());
 }
 
 void TestZcalandar1::keepsTypedTextWhenTheDiskRefuses()

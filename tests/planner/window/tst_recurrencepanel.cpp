@@ -79,6 +79,7 @@ void TestRecurrencePanel::refusesQuietly_data()
         {"a beginning that is no date", "kind_1", "beginningDate", u"soon"_s},
         {"an end that is no date", "kind_1", "endDate", u"later"_s},
         {"an end before the beginning", "kind_1", "endDate", u"11/20/2026"_s},
+        {"a beginning before the planner's dates", "kind_1", "beginningDate", u"12/31/0999"_s},
         {"no occurrences", "kind_1", "occurrences", u"0"_s},
     });
 }
