@@ -8,6 +8,7 @@
 #include "shell/core/clock.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/pictureframe.h"
+#include "shell/program/program.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -58,11 +59,11 @@ QLabel *makeFact(const QString &name, QWidget *parent)
 
 } // namespace
 
-AddressForm::AddressForm(const Clock &clock, const DateStyle &style, QWidget *window, QWidget *parent)
+AddressForm::AddressForm(Program &program, QWidget *window, QWidget *parent)
     : QWidget(parent)
-    , m_clock(clock)
-    , m_style(style)
-    , m_picker(new DatePicker(clock, window))
+    , m_clock(program.clock)
+    , m_style(program.state.dateStyle)
+    , m_picker(new DatePicker(program.clock, program.settings, window))
 {
     makeBoxes();
     makeDialButtons();

@@ -17,6 +17,7 @@ class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
+struct Program;
 
 /// The thirteen boxes of an entry in their two groups, the picture beside them, the dial buttons and the
 /// words that can be told from the dates. Two columns where there is room, one below the other where there is
@@ -26,7 +27,7 @@ class AddressForm final : public QWidget
     Q_OBJECT
 public:
     /// The calendar of the date boxes floats over `window`.
-    AddressForm(const Clock &clock, const DateStyle &style, QWidget *window, QWidget *parent = nullptr);
+    AddressForm(Program &program, QWidget *window, QWidget *parent = nullptr);
 
     using Texts = std::array<QString, AddressFieldCount>;
     Texts texts() const;

@@ -58,7 +58,7 @@ EntryEditor::EntryEditor(Program &program, QWidget *window)
     : QWidget(window)
     , m_pictures(program.folder)
     , m_title(new TitleLine(u"entryTitle"_s, {}, this))
-    , m_form(new AddressForm(program.clock, program.state.dateStyle, window, this))
+    , m_form(new AddressForm(program, window, this))
     , m_buttons(named(new ButtonRow(this), u"buttonRow"_s))
 {
     m_title->addChip(u"modeChip"_s);

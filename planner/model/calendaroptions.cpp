@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/calendaroptions.h"
 
+#include "shell/core/settingskeys.h"
+
 namespace {
 
-constexpr SettingsFile optionsFile{"SWR2.fil", 20};
-constexpr NumberSetting monthsSetting{optionsFile, 14};
-constexpr NumberSetting weekNumbersSetting{optionsFile, 15};
-constexpr NumberSetting weekStartSetting{optionsFile, 16};
-constexpr NumberSetting todaySetting{optionsFile, 17};
+constexpr NumberSetting monthsSetting{SettingsKeys::calendarFile, 14};
+constexpr NumberSetting weekNumbersSetting = SettingsKeys::calendarWeekNumbers;
+constexpr NumberSetting weekStartSetting{SettingsKeys::calendarFile, 16};
+constexpr NumberSetting todaySetting{SettingsKeys::calendarFile, 17};
 
 int choice(const Settings &settings, const NumberSetting &setting, int first, int last)
 {

@@ -4,6 +4,7 @@
 #include "shell/controls/datebox.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/clock.h"
+#include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,11 +20,42 @@ namespace {
 constexpr int gap = 8;
 /// At the window's foot, where it would cover the status bar.
 constexpr int foot = 32;
+
+/// Where a calendar of `size` stands within `room` without covering `box`: at its right, its left, below or
+/// above, whichever first has room for it; else where most of it is seen, in the room that there is.
+QRect placeBeside(QRect box, QRect room, QSize size, QSize least)
+{
+    const QRect right(QPoint(box.right() + 1 + gap, room.top()), room.bottomRight());
+    const QRect left(room.topLeft(), QPoint(box.left() - 1 - gap, room.bottom()));
+    const QRect below(QPoint(room.left(), box.bottom() + 1 + gap / 2), room.bottomRight());
+    const QRect above(room.topLeft(), QPoint(room.right(), box.top() - 1 - gap / 2));
+    const std::array sides{right, left, below, above};
+    const auto seenIn = [](const QRect &side, QSize wanted) {
+        const QSize seen = wanted.boundedTo(side.size()).expandedTo({0, 0});
+        return seen.width() * seen.height();
+    };
+    const auto bestFor = [&](QSize wanted) {
+        return *std::ranges::max_element(sides, {}, [&](const QRect &side) { return seenIn(side, wanted); });
+    };
+    QRect side = bestFor(size);
+    if (seenIn(side, size) < size.width() * size.height())
+        side = bestFor(least);
+    const QSize shown = size.boundedTo(side.size()).expandedTo({0, 0});
+    // As near to the box as the side allows.
+    const auto near = [](int wanted, int first, int last) {
+        return std::clamp(wanted, first, std::max(first, last));
+    };
+    return {QPoint(near(box.left(), side.left(), side.right() + 1 - shown.width()),
+                   near(box.top(), side.top(), side.bottom() + 1 - shown.height())),
+            shown};
+}
+
 } // namespace
 
-DatePicker::DatePicker(const Clock &clock, QWidget *window)
+DatePicker::DatePicker(const Clock &clock, const Settings &settings, QWidget *window)
     : QFrame(window)
     , m_clock(clock)
+    , m_settings(settings)
     , m_month(named(new MonthView(this), u"MonthView1"_s))
 {
     setObjectName(u"datePicker"_s);
@@ -48,20 +81,37 @@ void DatePicker::addBox(DateBox *box)
 {
     m_boxes.append(box);
     box->installEventFilter(this);
+    connect(box, &QLineEdit::textChanged, this, [this, box] {
+        if (this->box() == box)
+            follow();
+    });
 }
 
-/// The date of the box, or today where it has none.
-void DatePicker::showDate()
+void DatePicker::showDate(QDate date)
 {
-    const QDate today = m_clock.today();
-    m_month->setToday(today);
-    m_month->setSelectedDate(m_box->date().value_or(today));
+    m_month->setSelectedDate(date);
+    // The chosen day may be this one already, on a page that was turned.
+    m_month->setCurrentPage(date.year(), date.month());
+}
+
+/// A text that is no date yet leaves the calendar as it is.
+void DatePicker::follow()
+{
+    if (const auto date = m_box->date())
+        showDate(*date);
+    else if (m_box->text().isEmpty())
+        showDate(m_clock.today());
 }
 
 void DatePicker::open(DateBox *box)
 {
     m_box = box;
-    showDate();
+    m_month->setToday(m_clock.today());
+    m_month->setVerticalHeaderFormat(m_settings.number(SettingsKeys::calendarWeekNumbers) ==
+                                             SettingsKeys::calendarWeekNumbersHidden
+                                         ? QCalendarWidget::NoVerticalHeader
+                                         : QCalendarWidget::ISOWeekNumbers);
+    showDate(box->date().value_or(m_clock.today()));
     if (box->isLocked())
         emit box->lockedDateShown();
     const Theme &theme = Theme::of(box);
@@ -69,7 +119,6 @@ void DatePicker::open(DateBox *box)
         theme.panel.name(), theme.edge.name()));
     m_month->setSelectionMode(box->isLocked() ? QCalendarWidget::NoSelection
                                               : QCalendarWidget::SingleSelection);
-    adjustSize();
     reposition();
     show();
     raise();
@@ -93,17 +142,7 @@ void DatePicker::reposition()
         return;
     const QRect boxPlace(m_box->mapTo(parentWidget(), QPoint(0, 0)), m_box->size());
     const QRect room = parentWidget()->rect().adjusted(gap, gap, -gap, -gap - foot);
-    QPoint place(boxPlace.right() + 1 + gap, boxPlace.top());
-    if (place.x() + width() > room.right())
-        place.setX(boxPlace.left() - gap - width());
-    if (place.x() < room.left())
-        place = {boxPlace.left(), boxPlace.bottom() + 1 + gap / 2};
-    if (place.y() + height() > room.bottom()) {
-        const bool below = place.y() > boxPlace.bottom();
-        place.setY(below ? boxPlace.top() - gap / 2 - height() : room.bottom() - height());
-    }
-    move(std::clamp(place.x(), room.left(), std::max(room.left(), room.right() - width())),
-         std::max(room.top(), place.y()));
+    setGeometry(placeBeside(boxPlace, room, sizeHint(), minimumSizeHint()));
 }
 
 void DatePicker::choose(QDate day)
@@ -112,6 +151,13 @@ void DatePicker::choose(QDate day)
     dismiss();
     if (!box->isLocked())
         box->setDate(day);
+}
+
+/// Asked for once the focus has arrived, which may be in the next date box.
+void DatePicker::dismissUnlessUsed()
+{
+    if (!holdsFocus() && !m_box->hasFocus())
+        dismiss();
 }
 
 bool DatePicker::holdsFocus() const
@@ -133,9 +179,7 @@ bool DatePicker::eventFilter(QObject *watched, QEvent *event)
         return boxEvent(*found, event);
     if (watched->isWidgetType() && isAncestorOf(static_cast<QWidget *>(watched))) {
         if (event->type() == QEvent::FocusOut)
-            QMetaObject::invokeMethod(
-                this, [this] { return !holdsFocus() && !m_box->hasFocus() ? dismiss() : void(); },
-                Qt::QueuedConnection);
+            QMetaObject::invokeMethod(this, &DatePicker::dismissUnlessUsed, Qt::QueuedConnection);
         if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
             dismiss();
             return true;
@@ -157,9 +201,7 @@ bool DatePicker::boxEvent(DateBox *box, QEvent *event)
     }
     case QEvent::FocusOut:
         if (m_box == box)
-            QMetaObject::invokeMethod(
-                this, [this, box] { return !holdsFocus() && !box->hasFocus() ? dismiss() : void(); },
-                Qt::QueuedConnection);
+            QMetaObject::invokeMethod(this, &DatePicker::dismissUnlessUsed, Qt::QueuedConnection);
         return false;
     case QEvent::MouseButtonPress:
         if (!isVisible() && box->hasFocus())
@@ -187,7 +229,7 @@ bool DatePicker::keyPressed(DateBox *box, int key)
     if (!isVisible())
         open(box);
     if (!box->isLocked()) {
-        showDate();
+        follow();
         m_month->setFocus(Qt::OtherFocusReason);
     }
     return true;

@@ -7,16 +7,17 @@
 class Clock;
 class DateBox;
 class MonthView;
+class Settings;
 
 /// The calendar that opens beside a date box when the box gets the focus. It closes with Esc, with a click
-/// elsewhere and with the next box; typing goes on in the box while it is open. A locked box shows its date
-/// in it and keeps it.
+/// elsewhere and with the next box; typing goes on in the box while it is open, and the calendar follows. A
+/// locked box shows its date in it and keeps it.
 class DatePicker final : public QFrame
 {
     Q_OBJECT
 public:
     /// `window` is the widget that it floats over.
-    DatePicker(const Clock &clock, QWidget *window);
+    DatePicker(const Clock &clock, const Settings &settings, QWidget *window);
 
     /// A date box does so itself.
     void addBox(DateBox *box);
@@ -31,13 +32,16 @@ protected:
 
 private:
     void open(DateBox *box);
-    void showDate();
+    void showDate(QDate date);
+    void follow();
+    void dismissUnlessUsed();
     void choose(QDate day);
     bool boxEvent(DateBox *box, QEvent *event);
     bool keyPressed(DateBox *box, int key);
     bool holdsFocus() const;
 
     const Clock &m_clock;
+    const Settings &m_settings;
     QVector<DateBox *> m_boxes;
     DateBox *m_box = nullptr;
     MonthView *m_month;

@@ -13,6 +13,7 @@ inline constexpr SettingsFile familyNameFile{"HINVNAME.FIL", 40};
 inline constexpr SettingsFile colorFile1{"GColor1.Fil", 20};
 inline constexpr SettingsFile colorFile2{"GColor2.Fil", 20};
 inline constexpr SettingsFile colorFile3{"GColor3.Fil", 20};
+inline constexpr SettingsFile calendarFile{"SWR2.fil", 20};
 inline constexpr SettingsFile passwordFile{"PCtrl1.Fil", 140};
 
 /// "Def", or "WP" and the number of a background picture; empty counts as "Def".
@@ -37,6 +38,10 @@ inline constexpr NumberSetting modemPort{colorFile1, 25};
 
 /// Where the planner puts entries without AM or PM: the index of its option button, 0 when empty.
 inline constexpr NumberSetting plannerPlacement{colorFile3, 58};
+
+/// Whether calendars number the weeks: 0 or empty yes, 1 no.
+inline constexpr NumberSetting calendarWeekNumbers{calendarFile, 15};
+inline constexpr int calendarWeekNumbersHidden = 1;
 
 inline constexpr TextSetting mainMenuColor{colorFile1, 49};
 inline constexpr TextSetting addressEntryColor{colorFile3, 11};

@@ -2,7 +2,9 @@
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
 #include "shell/controls/monthview.h"
+#include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QSignalSpy>
@@ -21,14 +23,21 @@ private slots:
     void tidiesOnlyWhatWasTyped();
     void tellsAnotherDateOnce();
     void aLockedBoxShowsItsDateForReadingOnly();
+    void followsTheTyping();
+    void goesFromBoxToBox();
+    void neverCoversItsBox_data();
+    void neverCoversItsBox();
+    void numbersTheWeeksAsTheHouseholdChose();
 
 private:
     void leave() { m_other->setFocus(Qt::TabFocusReason); }
 
-    FixedClock m_clock;
+    TestProgram m_test;
     DateStyle m_style = DateStyle::Usa;
     std::unique_ptr<QWidget> m_window;
+    DatePicker *m_picker = nullptr;
     DateBox *m_box = nullptr;
+    DateBox *m_next = nullptr;
     QLineEdit *m_other = nullptr;
     MonthView *m_month = nullptr;
 };
@@ -37,12 +46,14 @@ void TestDateBox::init()
 {
     m_window = std::make_unique<QWidget>();
     m_window->resize(800, 600);
-    auto *picker = new DatePicker(m_clock, m_window.get());
-    m_box = new DateBox({m_style, m_clock}, picker, m_window.get());
+    m_picker = new DatePicker(m_test.clock, m_test.settings, m_window.get());
+    m_box = new DateBox({m_style, m_test.clock}, m_picker, m_window.get());
+    m_next = new DateBox({m_style, m_test.clock}, m_picker, m_window.get());
     m_other = new QLineEdit(m_window.get());
-    m_month = control<MonthView>(*picker, "MonthView1");
+    m_month = control<MonthView>(*m_picker, "MonthView1");
     auto *rows = new QVBoxLayout(m_window.get());
     rows->addWidget(m_box);
+    rows->addWidget(m_next);
     rows->addWidget(m_other);
     showActive(*m_window);
     m_other->setFocus();
@@ -92,6 +103,69 @@ void TestDateBox::aLockedBoxShowsItsDateForReadingOnly()
     QCOMPARE(shown.count(), 1);
     emit m_month->clicked(QDate(1978, 11, 30));
     QCOMPARE(m_box->text(), u"Nov-24-1978"_s);
+}
+
+void TestDateBox::followsTheTyping()
+{
+    m_box->setDate(QDate(1978, 11, 24));
+    m_box->setFocus(Qt::TabFocusReason);
+    m_month->showNextYear();
+    m_picker->dismiss();
+    QTest::keyClick(m_box, Qt::Key_Down);
+    QCOMPARE(m_month->yearShown(), 1978);
+    m_box->setFocus(Qt::TabFocusReason);
+    m_box->selectAll();
+    QTest::keyClicks(m_box, u"3/5/1990"_s);
+    QCOMPARE(m_month->selectedDate(), QDate(1990, 3, 5));
+    QTest::keyClicks(m_box, u"x"_s);
+    QCOMPARE(m_month->monthShown(), 3);
+    m_box->clear();
+    QCOMPARE(m_month->selectedDate(), m_test.clock.today());
+}
+
+void TestDateBox::goesFromBoxToBox()
+{
+    for (DateBox *box : {m_box, m_next, m_box}) {
+        QTest::mouseClick(box, Qt::LeftButton);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_picker->box(), box);
+    }
+    leave();
+    QTRY_VERIFY(!m_picker->isVisible());
+}
+
+void TestDateBox::neverCoversItsBox_data()
+{
+    rows<QSize, QRect>({
+        {"room at its right", {900, 600}, {20, 280, 300, 34}},
+        {"at its left", {900, 600}, {560, 280, 300, 34}},
+        {"above", {700, 420}, {200, 360, 300, 34}},
+        {"low and narrow", {520, 420}, {100, 300, 300, 34}},
+        {"no room at all", {500, 300}, {100, 120, 300, 34}},
+    });
+}
+
+void TestDateBox::neverCoversItsBox()
+{
+    const auto [window, place] = row<QSize, QRect>();
+    m_window->layout()->removeWidget(m_box);
+    m_window->resize(window);
+    m_box->setGeometry(place);
+    m_box->setFocus(Qt::TabFocusReason);
+    QVERIFY(m_month->isVisible());
+    QVERIFY(!m_picker->geometry().intersects(m_box->geometry()));
+    QVERIFY(m_window->rect().contains(m_picker->geometry()));
+}
+
+void TestDateBox::numbersTheWeeksAsTheHouseholdChose()
+{
+    m_box->setFocus(Qt::TabFocusReason);
+    QCOMPARE(m_month->verticalHeaderFormat(), QCalendarWidget::ISOWeekNumbers);
+    leave();
+    QVERIFY(m_test.settings.setNumber(SettingsKeys::calendarWeekNumbers, 1));
+    m_box->setFocus(Qt::TabFocusReason);
+    QCOMPARE(m_month->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
+    QVERIFY(m_test.settings.setNumber(SettingsKeys::calendarWeekNumbers, 0));
 }
 
 QTEST_MAIN(TestDateBox)
