@@ -29,7 +29,7 @@ Assembly::Assembly(const DataFolder &programFolder, const DataFolder &folder)
     , m_program{folder,    programFolder, m_settings, m_state, m_clock,
                 m_dialogs, m_functions,   m_gate,     m_store, m_changes}
 {
-    PasswordCheck(folder).load(m_state);
+    PasswordCheck(folder, PasswordCost::interactive(), &m_gate.memory()).load(m_state);
     addFunctions(m_functions, m_clock);
     QObject::connect(&m_changes, &ProgramSignals::helpRequested, &m_changes,
                      [this](int context) { openManual(context); });

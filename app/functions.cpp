@@ -8,6 +8,7 @@
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
 #include "planner/window/plannerwindow.h"
+#include "shell/access/gate.h"
 #include "shell/access/passwordcheck.h"
 #include "shell/access/passwordcontrol.h"
 #include "shell/program/program.h"
@@ -39,7 +40,7 @@ std::optional<LiveLine> plannerNews(const Program &program, QDate)
 
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
 {
-    switch (PasswordCheck(program.folder).state()) {
+    switch (PasswordCheck(program.folder, PasswordCost::interactive(), &program.gate.memory()).state()) {
     case PasswordCheck::State::NotSet:
         return LiveLine{u"No password is set"_s, LiveLine::Plain, {}};
     case PasswordCheck::State::Damaged:

@@ -1,23 +1,43 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/attempts.h"
 
-Attempts::Attempts(std::chrono::milliseconds step, QObject *parent)
+#include <algorithm>
+
+Attempts::Attempts(PasswordMemory &memory, std::chrono::milliseconds step, QObject *parent)
     : QObject(parent)
+    , m_memory(memory)
 {
     m_timer.setInterval(step);
     connect(&m_timer, &QTimer::timeout, this, &Attempts::countDown);
 }
 
+void Attempts::resume()
+{
+    if (m_memory.wait.hasExpired())
+        return;
+    const auto step = m_timer.interval();
+    m_stepsLeft = int((m_memory.wait.remainingTime() + step - 1) / step);
+    m_timer.start();
+    emit waiting(m_stepsLeft);
+}
+
 void Attempts::addWrong()
 {
     ++m_wrong;
-    if (isSpent()) {
+    ++m_memory.wrongAnswers;
+    m_memory.wait =
+        QDeadlineTimer(m_timer.intervalAsDuration() * std::min(m_memory.wrongAnswers, longestWait));
+    if (isSpent())
         emit spent();
-        return;
-    }
-    m_stepsLeft = m_wrong;
-    m_timer.start();
-    emit waiting(m_stepsLeft);
+    else
+        resume();
+}
+
+void Attempts::reset()
+{
+    m_wrong = 0;
+    m_memory.wrongAnswers = 0;
+    m_memory.wait = QDeadlineTimer(0);
 }
 
 void Attempts::countDown()

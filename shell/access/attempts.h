@@ -1,25 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/access/passwordmemory.h"
+
 #include <QObject>
 #include <QTimer>
 
 #include <chrono>
 
-/// Makes guessing a password slow: each wrong answer waits a step longer than the one before it, and the
-/// third ends the asking.
+/// Makes guessing a password slow: each wrong answer waits a step longer than the one before it, whichever
+/// prompt it was given to, and the third in one prompt ends the asking.
 class Attempts final : public QObject
 {
     Q_OBJECT
 public:
     static constexpr int allowed = 3;
 
-    /// `step` is a second for people; tests take less.
-    explicit Attempts(std::chrono::milliseconds step, QObject *parent = nullptr);
+    /// No answer waits longer, in steps.
+    static constexpr int longestWait = 60;
 
+    /// `step` is a second for people; tests take less. `memory` outlives the prompt.
+    Attempts(PasswordMemory &memory, std::chrono::milliseconds step, QObject *parent = nullptr);
+
+    /// Goes on with the wait of an earlier prompt.
+    void resume();
     void addWrong();
     /// A right answer: the next wrong one is the first again.
-    void reset() { m_wrong = 0; }
+    void reset();
     bool isSpent() const { return m_wrong >= allowed; }
     bool isWaiting() const { return m_timer.isActive(); }
 
@@ -32,6 +39,7 @@ signals:
 private:
     void countDown();
 
+    PasswordMemory &m_memory;
     QTimer m_timer;
     int m_wrong = 0;
     int m_stepsLeft = 0;

@@ -11,12 +11,17 @@ AccessGate::AccessGate(Prompt prompt)
     : m_prompt(std::move(prompt))
 {}
 
-bool AccessGate::mayOpen(Program &program, int area, QWidget *parent) const
+PasswordCheck AccessGate::check(Program &program)
+{
+    return PasswordCheck(program.folder, PasswordCost::interactive(), &m_memory);
+}
+
+bool AccessGate::mayOpen(Program &program, int area, QWidget *parent)
 {
     if (area == Area::None)
         return true;
     const bool isGuarded = program.state.protectedAreas.isProtected(area) ||
-                           PasswordCheck(program.folder).state() == PasswordCheck::State::Damaged;
+                           check(program).state() == PasswordCheck::State::Damaged;
     if (isGuarded) {
         program.state.guardedArea = area;
         m_prompt(program, parent);
@@ -24,10 +29,10 @@ bool AccessGate::mayOpen(Program &program, int area, QWidget *parent) const
     return takeVerdict(program);
 }
 
-bool AccessGate::mayOpenPasswordControl(Program &program, QWidget *parent) const
+bool AccessGate::mayOpenPasswordControl(Program &program, QWidget *parent)
 {
     program.state.passwordGateResult = PasswordGateResult::PasswordControl;
-    if (PasswordCheck(program.folder).state() != PasswordCheck::State::NotSet)
+    if (check(program).state() != PasswordCheck::State::NotSet)
         m_prompt(program, parent);
     return takeVerdict(program);
 }

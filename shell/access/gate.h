@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/access/passwordmemory.h"
 #include "shell/core/programstate.h"
 
 #include <QString>
 
 #include <functional>
 
+class PasswordCheck;
 class QWidget;
 struct Program;
 
@@ -21,13 +23,18 @@ public:
     explicit AccessGate(Prompt prompt);
 
     /// Whether the function behind `area` may open: asks when its flag is set. `Area::None` always opens.
-    bool mayOpen(Program &program, int area, QWidget *parent) const;
+    bool mayOpen(Program &program, int area, QWidget *parent);
 
     /// Whether password control itself may open: asks when a password is stored.
-    bool mayOpenPasswordControl(Program &program, QWidget *parent) const;
+    bool mayOpenPasswordControl(Program &program, QWidget *parent);
+
+    /// What all that ask for the password share.
+    PasswordMemory &memory() { return m_memory; }
 
 private:
+    PasswordCheck check(Program &program);
     bool takeVerdict(Program &program) const;
 
     Prompt m_prompt;
+    PasswordMemory m_memory;
 };

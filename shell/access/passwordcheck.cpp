@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordcheck.h"
 
+#include "shell/access/passwordmemory.h"
 #include "shell/core/settingskeys.h"
 #include "storage/ansitext.h"
 #include "storage/changeset.h"
@@ -16,6 +17,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -79,6 +81,12 @@ std::optional<QByteArray> wholeText(QByteArrayView record)
     return record.sliced(countLength, count).toByteArray();
 }
 
+/// Missing, or emptied: no file of ours is empty once it was read.
+bool isGone(const QFileInfo &file)
+{
+    return (!file.exists() && !file.isSymLink()) || (file.isFile() && file.size() == 0);
+}
+
 /// Whether `text` can be a verifier of ours. Costs far beyond what we ever ask for are noise: checking a
 /// password against them would take hours.
 bool isVerifier(const QByteArray &text)
@@ -109,9 +117,10 @@ PasswordCost PasswordCost::minimum()
     return {crypto_pwhash_opslimit_min(), crypto_pwhash_memlimit_min()};
 }
 
-PasswordCheck::PasswordCheck(const DataFolder &folder, PasswordCost cost)
+PasswordCheck::PasswordCheck(const DataFolder &folder, PasswordCost cost, PasswordMemory *memory)
     : m_folder(folder)
     , m_cost(cost)
+    , m_memory(memory)
 {
     if (sodium_init() < 0)
         qCWarning(storageLog) << "Passwords cannot be checked: no source of random numbers";
@@ -158,13 +167,13 @@ bool PasswordCheck::setPassword(const QString &password)
 
     // With a password every flag is written, so that a file that was cut short anywhere can be told from a
     // whole one.
-    ChangeSet change(m_folder);
+    ChangeSet change = startChange();
     for (int area = 0; area < ProtectedAreas::count; ++area) {
         if (content.areas.flag(area).isEmpty())
             writeFlag(change, area, flagNotSet());
     }
     writeVerifier(change, verifier, content.verifier);
-    return change.commit();
+    return commit(change);
 }
 
 bool PasswordCheck::removePassword()
@@ -172,11 +181,11 @@ bool PasswordCheck::removePassword()
     const Content content = read();
     if (content.state == State::Damaged)
         return false;
-    ChangeSet change(m_folder);
+    ChangeSet change = startChange();
     for (int area = 0; area < ProtectedAreas::count; ++area)
         writeFlag(change, area, flagNotSet());
     writeVerifier(change, {}, content.verifier);
-    return change.commit();
+    return commit(change);
 }
 
 bool PasswordCheck::saveAreas(const ProtectedAreas &areas)
@@ -184,7 +193,7 @@ bool PasswordCheck::saveAreas(const ProtectedAreas &areas)
     const Content content = read();
     if (content.state == State::Damaged)
         return false;
-    ChangeSet change(m_folder);
+    ChangeSet change = startChange();
     for (int area = 0; area < ProtectedAreas::count; ++area) {
         if (areas.flag(area) == content.areas.flag(area))
             continue;
@@ -192,7 +201,7 @@ bool PasswordCheck::saveAreas(const ProtectedAreas &areas)
             return false;
         writeFlag(change, area, areas.isProtected(area) ? flagSet() : flagNotSet());
     }
-    return change.commit();
+    return commit(change);
 }
 
 PasswordCheck::Content PasswordCheck::damaged()
@@ -234,15 +243,40 @@ PasswordCheck::Content PasswordCheck::parsed(QByteArrayView bytes)
 PasswordCheck::Content PasswordCheck::read() const
 {
     const QFileInfo info(m_folder.filePath(QLatin1StringView(passwordFile.name)));
-    if (!info.exists() && !info.isSymLink())
-        return {};
+    if (isGone(info))
+        return parsed(m_memory ? m_memory->file : QByteArray());
     QFile file(info.filePath());
     if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
         qCWarning(storageLog).noquote() << "Cannot read" << info.filePath();
         return damaged();
     }
     const QByteArray bytes = file.read(qint64(recordCount) * passwordFile.recordLength);
-    return file.error() == QFile::NoError ? parsed(bytes) : damaged();
+    if (file.error() != QFile::NoError)
+        return damaged();
+    const Content content = parsed(bytes);
+    if (m_memory && content.state != State::Damaged)
+        m_memory->file = bytes;
+    return content;
+}
+
+ChangeSet PasswordCheck::startChange() const
+{
+    ChangeSet change(m_folder);
+    // A file that vanished comes back as it was, before anything in it changes.
+    if (m_memory && isGone(QFileInfo(records().path()))) {
+        for (int record = 1; record <= recordCount; ++record) {
+            if (const QByteArrayView bytes = recordOf(m_memory->file, record); !bytes.isEmpty())
+                change.write(records(), record, bytes);
+        }
+    }
+    return change;
+}
+
+bool PasswordCheck::commit(ChangeSet &change) const
+{
+    const bool isDone = change.commit();
+    std::ignore = read(); // remembers what holds now
+    return isDone;
 }
 
 RecordFile PasswordCheck::records() const

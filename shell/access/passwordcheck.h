@@ -11,6 +11,7 @@
 
 class ChangeSet;
 class RecordFile;
+struct PasswordMemory;
 
 /// How much work it takes to check one password: what slows a guessing machine down.
 struct PasswordCost {
@@ -35,7 +36,9 @@ public:
         Damaged ///< cannot be trusted: everything that can be guarded is, and nothing is written
     };
 
-    explicit PasswordCheck(const DataFolder &folder, PasswordCost cost = PasswordCost::interactive());
+    /// With a `memory`, a file that is gone or emptied counts as it was when it was last read.
+    explicit PasswordCheck(const DataFolder &folder, PasswordCost cost = PasswordCost::interactive(),
+                           PasswordMemory *memory = nullptr);
 
     State state() const;
 
@@ -59,20 +62,26 @@ public:
     /// be set without a password, or when the disk refuses.
     [[nodiscard]] bool saveAreas(const ProtectedAreas &areas);
 
-private:
+    /// What a file holds.
     struct Content {
         State state = State::NotSet;
-        QByteArray verifier;
+        QByteArray verifier; ///< empty unless a password is set
         ProtectedAreas areas;
     };
 
-    static Content damaged();
+    /// The content of a file of these bytes, whatever they are.
     static Content parsed(QByteArrayView bytes);
+
+private:
+    static Content damaged();
     Content read() const;
     RecordFile records() const;
+    ChangeSet startChange() const;
+    [[nodiscard]] bool commit(ChangeSet &change) const;
     void writeFlag(ChangeSet &change, int area, const QString &flag) const;
     void writeVerifier(ChangeSet &change, const QByteArray &verifier, const QByteArray &old) const;
 
     const DataFolder &m_folder;
     PasswordCost m_cost;
+    PasswordMemory *m_memory;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordcontrol.h"
 
+#include "shell/access/gate.h"
 #include "shell/access/guardedareas.h"
 #include "shell/access/passwordmessages.h"
 #include "shell/access/passwordpage.h"
@@ -66,13 +67,13 @@ QScrollArea *makeScrolled(QWidget *content, const QString &name, QWidget *parent
 
 Form31::Form31(Program &program, PasswordCost cost, std::chrono::milliseconds step, QWidget *parent)
     : FunctionWindow(program, passwordControl(), parent)
-    , m_file(program.folder, cost)
+    , m_file(program.folder, cost, &program.gate.memory())
 {
     auto *work = new QWidget(this);
     auto *row = new QHBoxLayout(work);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(16);
-    m_pane = new PasswordPane(m_file, step, work);
+    m_pane = new PasswordPane(m_file, program.gate.memory(), step, work);
     makeMenus();
     row->addWidget(makePasswordPanel());
     row->addWidget(makeAreasPanel(), 1);

@@ -41,10 +41,11 @@ QLabel *makeWrapped(QLabel *label)
 
 } // namespace
 
-PasswordPane::PasswordPane(PasswordCheck &file, std::chrono::milliseconds step, QWidget *parent)
+PasswordPane::PasswordPane(PasswordCheck &file, PasswordMemory &memory, std::chrono::milliseconds step,
+                           QWidget *parent)
     : QWidget(parent)
     , m_file(file)
-    , m_attempts(step)
+    , m_attempts(memory, step)
     , m_title(new TitleLine(u"passwordTitle"_s, u"Password"_s, this))
     , m_summary(makeWrapped(named(makeQuietLabel({}, this), u"passwordSummary"_s)))
     , m_set(makeButton(u"setPassword"_s, u"Se&t Password"_s, this))
@@ -179,6 +180,8 @@ void PasswordPane::begin(Task task)
     m_oldPart->setVisible(task != Task::Set);
     m_newPart->setVisible(task != Task::Remove);
     m_form->show();
+    if (task != Task::Set && !m_attempts.isWaiting())
+        m_attempts.resume();
     (task == Task::Set ? m_new : m_old)->setFocus();
 }
 

@@ -20,7 +20,8 @@ class PasswordPane final : public QWidget
 {
     Q_OBJECT
 public:
-    PasswordPane(PasswordCheck &file, std::chrono::milliseconds step, QWidget *parent = nullptr);
+    PasswordPane(PasswordCheck &file, PasswordMemory &memory, std::chrono::milliseconds step,
+                 QWidget *parent = nullptr);
 
     /// Shows what the file says now.
     void refresh();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordprompt.h"
 
+#include "shell/access/gate.h"
 #include "shell/access/guardedareas.h"
 #include "shell/access/passwordmessages.h"
 #include "shell/controls/busycursor.h"
@@ -37,8 +38,8 @@ QString guardedFunction(const ProgramState &state)
 
 Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step)
     : QDialog(parent)
-    , m_file(program.folder)
-    , m_attempts(step)
+    , m_file(program.folder, PasswordCost::interactive(), &program.gate.memory())
+    , m_attempts(program.gate.memory(), step)
     , m_password(named(new QLineEdit(this), u"Text1"_s))
     , m_showPassword(named(new QCheckBox(u"&Show password"_s, this), u"showPassword"_s))
     , m_refusal(named(makeQuietLabel({}, this), u"refusal"_s))
@@ -60,6 +61,7 @@ Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step
     connect(&m_attempts, &Attempts::waiting, this, &Form32::showWait);
     connect(&m_attempts, &Attempts::waited, this, &Form32::endWait);
     connect(&m_attempts, &Attempts::spent, this, &Form32::reject);
+    m_attempts.resume();
 }
 
 void Form32::buildForm(const QString &functionName)
@@ -127,10 +129,12 @@ void Form32::accept()
         return m_file.matches(m_password->text());
     }();
     m_password->clear();
-    if (isRight)
-        QDialog::accept();
-    else
+    if (!isRight) {
         m_attempts.addWrong();
+        return;
+    }
+    m_attempts.reset();
+    QDialog::accept();
 }
 
 void Form32::showWait(int seconds)
@@ -155,7 +159,8 @@ void showPasswordPrompt(Program &program, QWidget *parent)
     program.state.passwordGateResult = PasswordGateResult::Refused;
     // The caller shows the hourglass while it opens a function; nobody types under an hourglass.
     HINFO1::hourglassOff();
-    if (PasswordCheck(program.folder).state() != PasswordCheck::State::Set) {
+    const PasswordCheck file(program.folder, PasswordCost::interactive(), &program.gate.memory());
+    if (file.state() != PasswordCheck::State::Set) {
         program.dialogs.ask(parent, PasswordMessages::fileDamaged(program.folder.path()));
         return;
     }

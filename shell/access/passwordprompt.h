@@ -46,5 +46,5 @@ private:
 };
 
 /// The gate's prompt: asks for the password and leaves the verdict in `ProgramState::passwordGateResult`. A
-/// file that is damaged, or gone since the flags were read, is told and refuses.
+/// file that is damaged is told and refuses.
 void showPasswordPrompt(Program &program, QWidget *parent);

@@ -94,7 +94,7 @@ void TestGate::asksForPasswordControlOnlyWithAPassword()
 void TestGate::aDamagedFileGuardsEverything()
 {
     m_program->setBytes(u"PCtrl1.Fil"_s, "#####");
-    const AccessGate refusing = gate(PasswordGateResult::Refused);
+    AccessGate refusing = gate(PasswordGateResult::Refused);
     QVERIFY(!refusing.mayOpen(m_program->program, Area::AddressBook, nullptr));
     QVERIFY(!refusing.mayOpen(m_program->program, Area::AddressViewerButton, nullptr));
     QVERIFY(!refusing.mayOpenPasswordControl(m_program->program, nullptr));

@@ -40,6 +40,7 @@ private slots:
     void eachWrongAnswerWaitsLonger();
     void theThirdWrongAnswerEndsIt();
     void nothingIsTriedDuringTheWait();
+    void guardsOnWhereTheFileVanishes();
     void leavesItsVerdictForTheGate();
     void tellsThatTheFileIsDamaged();
     void showsThePasswordOnlyWhenAsked();
@@ -140,6 +141,37 @@ void TestForm32::nothingIsTriedDuringTheWait()
     QTest::mouseClick(control<QPushButton>(prompt, "Command2"), Qt::LeftButton);
     QCOMPARE(prompt.result(), int(QDialog::Rejected));
     QCOMPARE(finished.size(), 1);
+    // Nor in the next prompt, which goes on waiting.
+    Form32 next(m_program->program, nullptr, 10s);
+    QCOMPARE(control<QLabel>(next, "refusal")->text(), u"That is not the password. Try again in 1 second."_s);
+    QVERIFY(!control<QLineEdit>(next, "Text1")->isEnabled());
+}
+
+void TestForm32::guardsOnWhereTheFileVanishes()
+{
+    m_program->state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
+    const auto cancel = [](QDialog &) { return int(QDialog::Rejected); };
+    m_program->dialogs.willRun(cancel);
+    QVERIFY(!m_program->gate.mayOpenPasswordControl(m_program->program, nullptr)); // has read the file
+    for (const bool isEmptied : {false, true}) {
+        QVERIFY(QFile::remove(m_program->path(u"PCtrl1.Fil"_s)));
+        if (isEmptied)
+            m_program->setBytes(u"PCtrl1.Fil"_s, {});
+        m_program->dialogs.willRun(cancel);
+        QVERIFY(!m_program->gate.mayOpenPasswordControl(m_program->program, nullptr));
+        m_program->dialogs.willRun([](QDialog &dialog) {
+            type(*qobject_cast<Form32 *>(&dialog), u"Sesame"_s);
+            return dialog.result();
+        });
+        QVERIFY(m_program->gate.mayOpen(m_program->program, Area::Planner, nullptr));
+        // What is saved then brings the whole file back.
+        PasswordCheck file(m_program->folder, PasswordCost::minimum(), &m_program->gate.memory());
+        ProtectedAreas areas = file.areas();
+        areas.setFlag(Area::Planner, u"YES"_s);
+        QVERIFY(file.saveAreas(areas));
+        const PasswordCheck anew(m_program->folder, PasswordCost::minimum());
+        QVERIFY(anew.matches(u"Sesame"_s) && anew.areas().isProtected(Area::Planner));
+    }
 }
 
 void TestForm32::leavesItsVerdictForTheGate()
