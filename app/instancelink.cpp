@@ -12,7 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int attempts = 10;
 constexpr int waitMilliseconds = 200;
 constexpr int answerMilliseconds = 3000;
 
@@ -53,7 +52,7 @@ bool InstanceLink::listen()
     return false;
 }
 
-bool InstanceLink::callOther() const
+bool InstanceLink::callOther(int attempts) const
 {
     for (int attempt = 0; attempt < attempts; ++attempt) {
         QLocalSocket call;
@@ -63,7 +62,8 @@ bool InstanceLink::callOther() const
         if (call.waitForConnected(waitMilliseconds))
             return call.state() == QLocalSocket::UnconnectedState ||
                    call.waitForDisconnected(answerMilliseconds);
-        QThread::msleep(waitMilliseconds);
+        if (attempt + 1 < attempts)
+            QThread::msleep(waitMilliseconds);
     }
     return false;
 }

@@ -18,8 +18,9 @@ public:
     /// from a program that died. Without a line the program runs as well: false, with a line in the log.
     bool listen();
 
-    /// Calls the program that holds the folder; it may still be starting. False when nobody answered.
-    bool callOther() const;
+    /// Calls the program that holds the folder; it may still be starting, so that it is called again, up to
+    /// `attempts` times. False when nobody answered.
+    bool callOther(int attempts = 10) const;
 
 signals:
     /// Another start asks for the main window.

@@ -83,6 +83,9 @@ int main(int argc, char *argv[])
         if (!mayTakeOver(lock, folder))
             return EXIT_FAILURE;
     }
+    // Without a lock the line itself tells whether another program is at work here.
+    if (!lock.isHeld() && link.callOther(2))
+        return EXIT_SUCCESS;
     link.listen();
     return run(application, programFolder, folder, link);
 }

@@ -12,9 +12,12 @@ class FolderLock
 public:
     explicit FolderLock(const DataFolder &folder);
 
-    /// False when another running program holds the folder. A folder in which no lock can be made is held by
-    /// nobody: true, with a line in the log.
+    /// False when another running program holds the folder. Where no lock can be made, on a full disk, this
+    /// is not known: true, with a line in the log, and not held.
     [[nodiscard]] bool take();
+
+    /// Whether this program holds the folder.
+    bool isHeld() const { return m_lock.isLocked(); }
 
     /// Who holds the folder: "process 4711 on the computer castle", for the user to find that program.
     QString holder() const;
