@@ -43,11 +43,11 @@ bool isSaved(QByteArrayView record)
 {
     constexpr QByteArrayView mark("Full      ");
     constexpr qsizetype markAt = plannerDayLayout.size() - mark.size();
-    if (record.size() <= markAt)
+    if (record.size() < markAt + PlannerDay::savedMark.size())
         return false;
+    // Where the file is cut, what is left of the blanks is enough.
     const QByteArrayView found = record.sliced(markAt, std::min(mark.size(), record.size() - markAt));
-    // Nearly every mark has these ten bytes; a cut or otherwise padded one is looked at more closely.
-    return found == mark || AnsiText::fieldText(found) == PlannerDay::savedMark;
+    return mark.startsWith(found);
 }
 
 QDate date(int record, int year)

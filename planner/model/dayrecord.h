@@ -23,7 +23,8 @@ int number(QDate date);
 /// number below 1.
 QByteArrayView ofNumber(QByteArrayView year, int number);
 
-/// Whether a record carries the mark of a saved day; asked before a record is decoded, since many are holes.
+/// Whether a record carries the mark of a saved day, followed by nothing but blanks; asked before a record is
+/// decoded, since many are holes.
 bool isSaved(QByteArrayView record);
 
 /// The date of `record` in `year`; an invalid date for a record that no date of that year produces.

@@ -18,7 +18,6 @@ struct PlannerDay {
     std::array<QString, rowCount> texts;
     QString mark; ///< "Full" when the day was saved; anything else means no entries
 
-    bool isSaved() const { return mark == savedMark; }
     bool isRowEmpty(std::size_t row) const;
     /// Whether no row holds anything but blanks.
     bool isEmpty() const;

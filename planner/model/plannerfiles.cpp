@@ -48,8 +48,8 @@ PlannerDay PlannerFiles::peek(QDate date) const
     if (!PlannerDates::has(date))
         return {};
     const RecordFile file(yearFilePath(date.year()), DayRecord::length);
-    const PlannerDay day = plannerDayLayout.decode(file.read(DayRecord::number(date)));
-    return day.isSaved() ? day : PlannerDay{};
+    const QByteArray record = file.read(DayRecord::number(date));
+    return DayRecord::isSaved(record) ? plannerDayLayout.decode(record) : PlannerDay{};
 }
 
 PlannerDay PlannerFiles::read(QDate date) const

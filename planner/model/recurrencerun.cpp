@@ -19,8 +19,8 @@ public:
 
     PlannerDay read(QDate date)
     {
-        const PlannerDay day = plannerDayLayout.decode(m_file.read(DayRecord::number(date)));
-        return day.isSaved() ? day : PlannerDay{};
+        const QByteArrayView record = m_file.read(DayRecord::number(date));
+        return DayRecord::isSaved(record) ? plannerDayLayout.decode(record) : PlannerDay{};
     }
 
     bool hasFailed() const { return m_file.hasFailed(); }

@@ -143,6 +143,7 @@ ComingUp::ComingUp(const Program &program, QWidget *parent)
     layout->addWidget(makeHeading(u"Coming up"_s, this));
     layout->addWidget(m_nothing);
     layout->addWidget(m_list, 1);
+    layout->addStretch(0); // takes the list's place below the words while there is none
     m_nothing->setWordWrap(true);
     m_list->setModel(m_model);
     m_list->setItemDelegate(new NoteDelegate(m_list));

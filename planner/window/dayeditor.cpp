@@ -143,6 +143,16 @@ Appointment DayEditor::currentAppointment() const
     return Appointment::ofRow(day.times[row], day.texts[row]);
 }
 
+bool DayEditor::has(const Appointment &appointment) const
+{
+    const PlannerDay day = typed();
+    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+        if (Appointment::ofRow(day.times[row], day.texts[row]) == appointment)
+            return true;
+    }
+    return false;
+}
+
 UntimedPlacement DayEditor::placement() const
 {
     return UntimedPlacement(m_placement->checkedId());

@@ -35,6 +35,8 @@ public:
     bool isModified() const;
     /// The appointment of the row that has the focus, or had it last.
     Appointment currentAppointment() const;
+    /// Whether one of the rows is `appointment`.
+    bool has(const Appointment &appointment) const;
     UntimedPlacement placement() const;
 
     void focusRow(int row);

@@ -151,6 +151,8 @@ void PlannerCalendar::showPages()
         m_first->setCurrentPage(second.addMonths(-1).year(), second.addMonths(-1).month());
     }
     m_second->setCurrentPage(second.year(), second.month());
+    m_first->setOwnDays({}, m_second->isVisibleTo(this) ? second.addDays(-1) : QDate());
+    m_second->setOwnDays(second, {});
     showMarks();
 }
 

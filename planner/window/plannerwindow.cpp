@@ -328,13 +328,16 @@ void Zcalandar1::openHit(QDate date, int row)
 
 void Zcalandar1::showRecurrence()
 {
-    const Appointment appointment = m_day->currentAppointment();
+    Appointment appointment = m_day->currentAppointment();
+    if (!appointment.isEmpty() && !mayReplaceDay())
+        return;
+    // What was saved may stand in another row now; what was dropped gives way to what the file has there.
+    if (!m_day->has(appointment))
+        appointment = m_day->currentAppointment();
     if (appointment.isEmpty()) {
         activity().say(PlannerLines::rowIsEmpty());
         return;
     }
-    if (!mayReplaceDay())
-        return;
     showView(m_recurrence);
     m_recurrence->open(appointment, m_day->date(), m_day->placement(), m_options);
 }

@@ -9,7 +9,7 @@
 
 #include <QButtonGroup>
 #include <QRadioButton>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -164,6 +164,8 @@ DateBox *RecurrenceRange::calendarBox() const
 
 void RecurrenceRange::calendarMoved()
 {
+    if (m_isShowing)
+        return;
     calendarBox()->setDate(m_month->selectedDate());
     if (calendarBox() == m_end)
         m_endBy->button(EndDate)->setChecked(true);
@@ -171,7 +173,7 @@ void RecurrenceRange::calendarMoved()
 
 void RecurrenceRange::showCalendarDate()
 {
-    const QSignalBlocker quiet(m_month);
+    const QScopedValueRollback<bool> showing(m_isShowing, true);
     if (const auto date = calendarBox()->date())
         m_month->setSelectedDate(*date);
 }

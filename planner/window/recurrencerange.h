@@ -57,4 +57,5 @@ private:
     QButtonGroup *m_endBy;
     QButtonGroup *m_calendarSets;
     MonthView *m_month = nullptr;
+    bool m_isShowing = false; ///< the calendar follows a box, and not the other way round
 };

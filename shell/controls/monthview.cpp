@@ -76,6 +76,13 @@ void MonthView::setTodayMarked(bool marked)
     updateCells();
 }
 
+void MonthView::setOwnDays(QDate from, QDate to)
+{
+    m_from = from;
+    m_to = to;
+    updateCells();
+}
+
 QSize MonthView::sizeHint() const
 {
     return designedSize.expandedTo(QCalendarWidget::sizeHint());
@@ -101,8 +108,7 @@ void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) cons
     paintNumber(*painter, mark, date);
     if (m_marked.contains(date)) {
         painter->setPen(Qt::NoPen);
-        painter->setBrush(date == selectedDate() ? Theme::of(this).onAccent
-                                                 : palette().color(ThemeRole::strong));
+        painter->setBrush(isChosen(date) ? Theme::of(this).onAccent : palette().color(ThemeRole::strong));
         painter->drawEllipse(QPointF(mark.center().x(), mark.bottom() - 5), 2.5, 2.5);
     }
     painter->restore();
@@ -110,7 +116,7 @@ void MonthView::paintCell(QPainter *painter, const QRect &rect, QDate date) cons
 
 QRectF MonthView::paintMark(QPainter &painter, const QRect &cell, QDate date) const
 {
-    const bool chosen = date == selectedDate();
+    const bool chosen = isChosen(date);
     QRectF mark = QRectF(cell).adjusted(2.5, 2.5, -2.5, -1.5);
     mark.setWidth(std::min(mark.width(), 36.0));
     mark.moveCenter(QRectF(cell).center() + QPointF(0, 0.5));
@@ -132,7 +138,7 @@ QRectF MonthView::paintMark(QPainter &painter, const QRect &cell, QDate date) co
 
 void MonthView::paintNumber(QPainter &painter, const QRectF &mark, QDate date) const
 {
-    const bool chosen = date == selectedDate();
+    const bool chosen = isChosen(date);
     const bool ofThisMonth = date.month() == monthShown() && date.year() == yearShown();
     QFont font = TypeScale::body();
     font.setWeight(chosen || isMarkedToday(date) ? QFont::DemiBold : QFont::Normal);

@@ -19,6 +19,9 @@ public:
     void setToday(QDate today);
     void setMarkedDays(const QSet<QDate> &days);
     void setTodayMarked(bool marked);
+    /// Of two months that show some of the same days, each marks its own: the chosen day and today are marked
+    /// from `from` to `to` alone, without a bound where that is invalid.
+    void setOwnDays(QDate from, QDate to);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -35,7 +38,12 @@ private:
     /// Ring and filling of the chosen day and of today; gives what they leave to the number.
     QRectF paintMark(QPainter &painter, const QRect &cell, QDate date) const;
     void paintNumber(QPainter &painter, const QRectF &mark, QDate date) const;
-    bool isMarkedToday(QDate date) const { return m_todayMarked && date == m_today; }
+    bool isMarkedToday(QDate date) const { return m_todayMarked && date == m_today && isOwn(date); }
+    bool isChosen(QDate date) const { return date == selectedDate() && isOwn(date); }
+    bool isOwn(QDate date) const
+    {
+        return (m_from.isNull() || date >= m_from) && (m_to.isNull() || date <= m_to);
+    }
     void setUpHeading();
     void showMonth(int year, int month);
     void showPaletteColors();
@@ -43,6 +51,8 @@ private:
     MonthHeading *m_heading = nullptr;
     QTableView *m_view = nullptr;
     QDate m_today;
+    QDate m_from;
+    QDate m_to;
     QSet<QDate> m_marked;
     bool m_todayMarked = true;
 };

@@ -131,8 +131,13 @@ void TestPlannerDay::readsDaysThatWereNeverSavedAsEmpty()
     QVERIFY(test.folder.exists(u" 2031.Cal"_s));
 
     // A record without its mark holds no entries, whatever its fields say.
-    test.setBytes(u" 2031.Cal"_s, QByteArray(900 * 31, 'x'));
-    QVERIFY(files.read(QDate(2031, 1, 1)).isEmpty());
+    const QByteArray fields(9000 + 840, 'x');
+    for (const QByteArray &mark :
+         {QByteArray("xxxxxxxxxx"), QByteArray("Full     x"), QByteArray("Fully     "),
+          QByteArray("full      "), QByteArray("Full\0zzzzz", 10)}) {
+        test.setBytes(u" 2031.Cal"_s, QByteArray(fields + mark + QByteArray(50, 'x')));
+        QVERIFY2(files.read(QDate(2031, 1, 1)).isEmpty(), mark.constData());
+    }
 }
 
 void TestPlannerDay::survivesFilesThatAreNoYearFiles()

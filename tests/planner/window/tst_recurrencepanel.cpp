@@ -18,10 +18,16 @@ public:
     explicit Panel(TestProgram &test)
         : OpenPlanner(test)
     {
+        const QByteArray before = test.bytes(u" 2026.Cal"_s);
         type(0, u"9:00 AM"_s, u"Yoga"_s);
-        test.dialogs.willAnswer(Answer::No);
+        test.dialogs.willAnswer(Answer::Yes);
         trigger("mERec");
         test.dialogs.takeShown();
+        // Only what the panel writes shall be found.
+        if (before.isEmpty())
+            QFile::remove(test.path(u" 2026.Cal"_s));
+        else
+            test.setBytes(u" 2026.Cal"_s, before);
     }
 
     bool isOpen() const { return isShown("recurrencePanel"); }
@@ -302,6 +308,22 @@ void TestRecurrencePanel::opensForTheRowOfTheFocus()
     test.dialogs.willAnswer(Answer::Yes); // saved, it stands in another row
     planner.trigger("mERec");
     QVERIFY(planner.find<QLabel>("recurrenceTitle")->text().contains("Ferns"_L1));
+
+    // What was dropped is not repeated: the file's text of that row is, or nothing where it has none.
+    planner.click("recurrenceCancel");
+    for (const auto &[row, title] : {std::pair{0, u"Recurrence Option: “Ferns”"_s}, {4, QString()}}) {
+        planner.time(row)->setFocus();
+        planner.type(row, {}, u"Never kept"_s);
+        planner.time(row)->setFocus();
+        test.dialogs.willAnswer(Answer::No);
+        planner.trigger("mERec");
+        QCOMPARE(planner.isShown("recurrencePanel"), !title.isEmpty());
+        if (!title.isEmpty())
+            QCOMPARE(planner.find<QLabel>("recurrenceTitle")->text(), title);
+        QVERIFY(!planner.window().isModified());
+        if (planner.isShown("recurrencePanel"))
+            planner.click("recurrenceCancel");
+    }
 }
 
 QTEST_MAIN(TestRecurrencePanel)
