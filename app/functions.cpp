@@ -30,7 +30,7 @@ std::optional<LiveLine> addressNews(const Program &program, QDate today)
 
 QList<DayNote> addressNotes(const Program &program, QDate from, QDate to)
 {
-    return AddressNews::dayNotes(program.folder, program.state.dateStyle, from, to);
+    return AddressNews::dayNotes(program.folder, program.state.dateStyle, from, to, program.clock.today());
 }
 
 std::optional<LiveLine> plannerNews(const Program &program, QDate)

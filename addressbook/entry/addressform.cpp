@@ -6,6 +6,7 @@
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
 #include "shell/core/clock.h"
+#include "shell/core/dates.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/program/program.h"
@@ -37,7 +38,10 @@ constexpr std::array<QLatin1StringView, AddressFieldCount> captions{
     "City:"_L1,       "State/Country:"_L1, "Postal Zip/Code:"_L1, "Home Phone:"_L1, "Mobile Phone:"_L1,
     "Fax Number:"_L1, "Email Address:"_L1, "Anniversary Date:"_L1};
 
-constexpr QLatin1StringView dateHint("(mmm-dd-yyyy)");
+QString dateHint(DateStyle style)
+{
+    return u'(' + Dates::boxForm(style) + u')';
+}
 
 QHBoxLayout *row()
 {
@@ -97,6 +101,8 @@ FieldBox *AddressForm::makeBox(AddressField field)
         return new FieldBox(this);
     auto *box = new DateBox({m_style, m_clock}, m_picker, this);
     (field == BirthDate ? m_birth : m_anniversary) = box;
+    if (field == BirthDate)
+        box->takeNoFuture();
     connect(box, &DateBox::dateChanged, this, &AddressForm::refreshFacts);
     connect(box, &DateBox::lockedDateShown, this, [this] { emit said(AddressLines::lockedDate()); });
     return box;
@@ -142,7 +148,7 @@ QWidget *AddressForm::makeHomeColumn()
 
     m_birthFact = makeFact(u"birthFact"_s, this);
     QHBoxLayout *birth = row();
-    birth->addLayout(labelled(captions[BirthDate], m_boxes[BirthDate], dateHint), 1);
+    birth->addLayout(labelled(captions[BirthDate], m_boxes[BirthDate], dateHint(m_style)), 1);
     birth->addWidget(m_birthFact, 1, Qt::AlignBottom);
     layout->addLayout(birth);
 
@@ -206,8 +212,8 @@ QWidget *AddressForm::makeOtherColumn()
     anniversary->setSpacing(boxGap);
     anniversary->addWidget(m_anniversary, 1);
     anniversary->addWidget(m_anniversaryFact, 1);
-    layout->addLayout(
-        labelled(makeFieldLabel(captions[AnniversaryDate], m_anniversary, this, dateHint), boxAndFact));
+    layout->addLayout(labelled(
+        makeFieldLabel(captions[AnniversaryDate], m_anniversary, this, dateHint(m_style)), boxAndFact));
     layout->addStretch(1);
     return column;
 }

@@ -30,14 +30,16 @@ struct Occasion {
 
 /// The first time that the date of `kind` comes round on or after `day`; nothing without a date that can be
 /// read. The name is left out: of a full book nearly all days are far away.
-std::optional<Occasion> nextOccasion(QByteArrayView record, Kind kind, DateStyle style, QDate day)
+std::optional<Occasion> nextOccasion(QByteArrayView record, Kind kind, DateStyle style, QDate day,
+                                     QDate today)
 {
     const qsizetype at = (kind == Kind::Birthday ? BirthDate : AnniversaryDate) * addressTextWidth;
     if (record.size() <= at)
         return {};
     const QString text =
         AnsiText::fieldText(record.sliced(at, std::min(addressTextWidth, record.size() - at)));
-    const auto date = text.isEmpty() ? std::nullopt : Dates::parse(text, style, day);
+    const QDate latest = kind == Kind::Birthday ? today : QDate();
+    const auto date = text.isEmpty() ? std::nullopt : Dates::parse(text, style, latest);
     if (!date)
         return {};
     const QDate next = Dates::nextAnniversary(*date, day);
@@ -98,7 +100,7 @@ private:
 
 void Ahead::add(Kind kind, QByteArrayView record)
 {
-    std::optional<Occasion> occasion = nextOccasion(record, kind, m_style, m_today);
+    std::optional<Occasion> occasion = nextOccasion(record, kind, m_style, m_today, m_today);
     const qint64 days = occasion ? m_today.daysTo(occasion->day) : daysAhead + 1;
     if (days > daysAhead)
         return;
@@ -160,14 +162,15 @@ std::optional<LiveLine> AddressNews::liveLine(const DataFolder &folder, DateStyl
     return ahead.line();
 }
 
-QList<DayNote> AddressNews::dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to)
+QList<DayNote> AddressNews::dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to,
+                                     QDate today)
 {
     QList<DayNote> notes;
     if (!from.isValid() || !to.isValid())
         return notes;
     const auto add = [&](QByteArrayView record, Kind kind) {
         for (QDate day = from; day <= to; day = day.addDays(1)) {
-            auto occasion = nextOccasion(record, kind, style, day);
+            auto occasion = nextOccasion(record, kind, style, day, today);
             if (!occasion || occasion->day > to)
                 return;
             day = occasion->day;

@@ -19,6 +19,6 @@ namespace AddressNews {
 std::optional<LiveLine> liveLine(const DataFolder &folder, DateStyle style, QDate today);
 
 /// The birthdays and anniversaries of the days `from` to `to`, in date order: "Anne Lind turns 48".
-QList<DayNote> dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to);
+QList<DayNote> dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to, QDate today);
 
 } // namespace AddressNews

@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ToDoImport {
 
-std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style, QDate today)
+std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style)
 {
     const QStringList values = ValueFile::read(folder.filePath(u"TODOActv.FIL"_s));
     std::vector<ToDoItem> items;
@@ -19,7 +19,7 @@ std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style, QDate tod
             AnsiText::trimmedBlanks(AnsiText::trimmedBlanks(values[i + 1]).right(10)).toString();
         if (text.isEmpty() || dateText.isEmpty())
             continue;
-        if (const auto date = Dates::parse(dateText, style, today))
+        if (const auto date = Dates::parse(dateText, style))
             items.push_back({*date, text});
     }
     return items;

@@ -23,6 +23,6 @@ namespace ToDoImport {
 /// The items that have a text and a date, in file order. The date is the last ten characters of the date
 /// text, read by `style` and the other way round when that is impossible; a date that cannot be read leaves
 /// the item out.
-std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style, QDate today);
+std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style);
 
 } // namespace ToDoImport

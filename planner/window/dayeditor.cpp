@@ -249,7 +249,7 @@ void DayEditor::askForDate()
                                                 Dates::boxText(m_date, style));
     if (!answer || answer->trimmed().isEmpty())
         return;
-    if (const auto date = Dates::parse(*answer, style, m_program.clock.today()))
+    if (const auto date = Dates::parse(*answer, style))
         emit dateRequested(*date);
     else
         emit said(PlannerLines::noSuchDate(*answer));

@@ -28,7 +28,7 @@ ToDoImporter::~ToDoImporter() = default;
 
 bool ToDoImporter::start(UntimedPlacement placement, QDate earliest)
 {
-    auto items = ToDoImport::items(m_program.folder, m_program.state.dateStyle, m_program.clock.today());
+    auto items = ToDoImport::items(m_program.folder, m_program.state.dateStyle);
     if (items.empty()) {
         m_program.dialogs.ask(m_window, PlannerMessages::nothingToImport());
         return false;

@@ -4,6 +4,7 @@
 #include "shell/controls/datepicker.h"
 #include "shell/core/clock.h"
 #include "shell/core/dates.h"
+#include "shell/core/framelines.h"
 
 #include <utility>
 
@@ -28,7 +29,11 @@ DateBox::DateBox(const DateReading &reading, DatePicker *picker, QWidget *parent
 
 std::optional<QDate> DateBox::date() const
 {
-    return Dates::parse(text(), m_reading.style, m_reading.clock.today());
+    if (m_takesFuture)
+        return Dates::parse(text(), m_reading.style);
+    const QDate today = m_reading.clock.today();
+    const auto past = Dates::parse(text(), m_reading.style, today);
+    return past && *past <= today ? past : std::nullopt;
 }
 
 void DateBox::setDate(QDate date)
@@ -43,4 +48,6 @@ void DateBox::tidy()
     setModified(false);
     if (const auto typed = date())
         setDate(*typed);
+    else if (!text().trimmed().isEmpty())
+        emit refused(FrameLines::notADate());
 }

@@ -11,7 +11,7 @@
 class Clock;
 class DatePicker;
 
-/// How typed dates are read: the order of day and month, and the day that tells the century.
+/// How typed dates are read: the order of day and month, and what day it is.
 struct DateReading {
     const DateStyle &style;
     const Clock &clock;
@@ -25,13 +25,15 @@ public:
     /// Without a `picker` it has no calendar.
     DateBox(const DateReading &reading, DatePicker *picker, QWidget *parent);
 
+    /// Makes it a box for a date of birth, which never lies after today.
+    void takeNoFuture() { m_takesFuture = false; }
     /// Nothing when the text is no date.
     std::optional<QDate> date() const;
     /// An invalid date empties the box.
     void setDate(QDate date);
     /// Puts a date that was typed since the box was last tidied into the form that the files keep; anything
-    /// else stays as it was typed. Leaving the box does the same: call it before a save that comes by its
-    /// access key.
+    /// else stays as it was typed, and `refused` says that it is no date. Leaving the box does the same: call
+    /// it before a save that comes by its access key.
     void tidy();
 
 signals:
@@ -41,5 +43,6 @@ signals:
 
 private:
     DateReading m_reading;
+    bool m_takesFuture = true;
     std::optional<QDate> m_date; ///< as it was told last
 };

@@ -13,8 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int lastTwoDigitYear = 2029;
-constexpr int yearsAhead = 20;
+constexpr int lastYearOfTwoThousands = 29;
 constexpr int daysPerWeek = 7;
 constexpr std::size_t partCount = 3;
 
@@ -54,43 +53,44 @@ std::optional<Parts> partsOf(QByteArrayView text)
     return count == partCount ? std::optional(parts) : std::nullopt;
 }
 
-int fullYear(const DateToken &year, QDate today)
+int fullYear(const DateToken &year)
 {
     if (year.isYear())
         return year.value;
-    const int last = today.isValid() ? today.year() + yearsAhead : lastTwoDigitYear;
-    return last - ((last - year.value) % 100 + 100) % 100;
+    return year.value + (year.value <= lastYearOfTwoThousands ? 2000 : 1900);
 }
 
-std::optional<QDate> dateOf(const DateToken &year, int month, const DateToken &day, QDate today)
+std::optional<QDate> dateOf(const DateToken &year, int month, const DateToken &day, QDate latest)
 {
     if (isName(year) || isName(day) || day.isYear() || (year.isYear() && year.value == 0))
         return {};
-    const QDate date(fullYear(year, today), month, day.value);
+    QDate date(fullYear(year), month, day.value);
+    if (!year.isYear() && latest.isValid() && date > latest)
+        date = QDate(date.year() - 100, month, day.value);
     return date.isValid() ? std::optional(date) : std::nullopt;
 }
 
-std::optional<QDate> namedMonth(const Parts &parts, QDate today)
+std::optional<QDate> namedMonth(const Parts &parts, QDate latest)
 {
     if (isName(parts[0])) // Nov 24 1978
-        return dateOf(parts[2], parts[0].value, parts[1], today);
+        return dateOf(parts[2], parts[0].value, parts[1], latest);
     if (!isName(parts[1]))
         return {};
-    return parts[0].isYear() ? dateOf(parts[0], parts[1].value, parts[2], today)  // 1978 Nov 24
-                             : dateOf(parts[2], parts[1].value, parts[0], today); // 24 Nov 1978
+    return parts[0].isYear() ? dateOf(parts[0], parts[1].value, parts[2], latest)  // 1978 Nov 24
+                             : dateOf(parts[2], parts[1].value, parts[0], latest); // 24 Nov 1978
 }
 
-std::optional<QDate> numbersOnly(const Parts &parts, DateStyle style, QDate today)
+std::optional<QDate> numbersOnly(const Parts &parts, DateStyle style, QDate latest)
 {
     if (parts[0].isYear()) // 1978-11-24
-        return parts[1].isYear() ? std::nullopt : dateOf(parts[0], parts[1].value, parts[2], today);
+        return parts[1].isYear() ? std::nullopt : dateOf(parts[0], parts[1].value, parts[2], latest);
     const DateToken &first = parts[0], &second = parts[1], &year = parts[2];
     const DateToken &month = style == DateStyle::Usa ? first : second;
     const DateToken &day = style == DateStyle::Usa ? second : first;
     if (month.isYear() || day.isYear())
         return {};
     const bool fitsOnlySwapped = month.value > 12 && day.value <= 12;
-    return fitsOnlySwapped ? dateOf(year, day.value, month, today) : dateOf(year, month.value, day, today);
+    return fitsOnlySwapped ? dateOf(year, day.value, month, latest) : dateOf(year, month.value, day, latest);
 }
 
 QString english(QDate date, QStringView format)
@@ -116,20 +116,25 @@ DateStyle Dates::styleOfShortDate(QStringView shortDate)
     return number == 9 ? DateStyle::Usa : DateStyle::Other;
 }
 
-std::optional<QDate> Dates::parse(QStringView text, DateStyle style, QDate today)
+std::optional<QDate> Dates::parse(QStringView text, DateStyle style, QDate latest)
 {
     if (text.size() > DateToken::longestDate)
         return {};
     const auto parts = partsOf(QByteArrayView(DateToken::bytes(text.trimmed())));
     if (!parts)
         return {};
-    return std::ranges::any_of(*parts, isName) ? namedMonth(*parts, today)
-                                               : numbersOnly(*parts, style, today);
+    return std::ranges::any_of(*parts, isName) ? namedMonth(*parts, latest)
+                                               : numbersOnly(*parts, style, latest);
 }
 
 QString Dates::boxText(QDate date, DateStyle style)
 {
     return english(date, style == DateStyle::Usa ? u"MMM-dd-yyyy" : u"dd-MMM-yyyy");
+}
+
+QString Dates::boxForm(DateStyle style)
+{
+    return style == DateStyle::Usa ? u"mmm-dd-yyyy"_s : u"dd-mmm-yyyy"_s;
 }
 
 QString Dates::numbers(QDate date, DateStyle style)

@@ -21,9 +21,11 @@ DateStyle styleOfShortDate(QStringView shortDate);
 
 /// A date as it may stand in a record: "Nov-24-1978", "24-Nov-1978", "11/24/1978" (day first under `Other`),
 /// "1978-11-24", separators / - . and blanks, full month names; numbers that fit only the other way round are
-/// read so. Two-digit years are of the hundred years that end 20 years after `today`'s year when given, else
-/// 1930 to 2029.
-std::optional<QDate> parse(QStringView text, DateStyle style, QDate today = {});
+/// read so. Two-digit years are of 1930 to 2029; where that is after `latest`, of the hundred years before.
+std::optional<QDate> parse(QStringView text, DateStyle style, QDate latest = {});
+
+/// What `boxText` looks like, as a hint beside a box: "mmm-dd-yyyy", or "dd-mmm-yyyy" under `Other`.
+QString boxForm(DateStyle style);
 
 /// The form that the date boxes keep: "Nov-24-1978", or "24-Nov-1978" under `Other`.
 QString boxText(QDate date, DateStyle style);

@@ -35,6 +35,11 @@ inline QString pageOf(int page, int count)
     return u"Page "_s + QString::number(page) + u" of "_s + QString::number(count);
 }
 
+inline QString notADate()
+{
+    return u"Not a date that can be counted with"_s;
+}
+
 // Reasons
 
 inline QString backupNotThere()

@@ -110,7 +110,8 @@ void TestAddressNews::notesTheDaysOfARange()
         person("Karl", "Quill", "Nov-21-1944"));
     const auto texts = [this](QDate from, QDate to) {
         QStringList lines;
-        for (const DayNote &note : AddressNews::dayNotes(m_files.folder(), DateStyle::Usa, from, to))
+        for (const DayNote &note :
+             AddressNews::dayNotes(m_files.folder(), DateStyle::Usa, from, to, saturday))
             lines << note.date.toString(Qt::ISODate) + u' ' + note.text;
         return lines;
     };

@@ -73,11 +73,25 @@ void TestDateBox::tidiesOnlyWhatWasTyped()
     leave();
     QCOMPARE(m_box->text(), u"Nov-24-1979"_s);
 
-    m_box->selectAll();
-    QTest::keyClicks(m_box, u"soon"_s);
-    leave();
-    QCOMPARE(m_box->text(), u"soon"_s);
+    QSignalSpy refused(m_box, &FieldBox::refused);
+    const auto type = [this](const QString &text) {
+        m_box->setFocus(Qt::TabFocusReason);
+        m_box->selectAll();
+        QTest::keyClicks(m_box, text);
+        leave();
+        return m_box->text();
+    };
+    QCOMPARE(type(u"1/2/29"_s), u"Jan-02-2029"_s);
+    QCOMPARE(refused.count(), 0);
+    QCOMPARE(type(u"soon"_s), u"soon"_s);
     QVERIFY(!m_box->date());
+    QCOMPARE(refused.takeFirst().at(0).toString(), u"Not a date that can be counted with"_s);
+
+    m_box->takeNoFuture();
+    QCOMPARE(type(u"1/2/29"_s), u"Jan-02-1929"_s);
+    QCOMPARE(type(u"1/2/2029"_s), u"1/2/2029"_s);
+    QVERIFY(!m_box->date());
+    QCOMPARE(refused.count(), 1);
 }
 
 void TestDateBox::tellsAnotherDateOnce()

@@ -95,20 +95,22 @@ void TestDates::takesAnyTextForADate()
 
 void TestDates::placesTwoDigitYears_data()
 {
-    const QDate today(2026, 11, 21);
+    const QDate newYear(2026, 1, 1);
     rows<QDate, QString, int>({
-        {"twenty years ahead", today, u"1/1/46"_s, 2046},
-        {"no further", today, u"1/1/47"_s, 1947},
-        {"one digit", today, u"1/1/5"_s, 2005},
-        {"without today, the end", {}, u"1/1/29"_s, 2029},
-        {"without today, the start", {}, u"1/1/30"_s, 1930},
+        {"the start", {}, u"1/1/30"_s, 1930},
+        {"the end", {}, u"1/1/29"_s, 2029},
+        {"one digit", {}, u"1/1/5"_s, 2005},
+        {"none", {}, u"1/1/00"_s, 2000},
+        {"the latest day", newYear, u"1/1/26"_s, 2026},
+        {"after the latest day", newYear.addDays(-1), u"1/1/26"_s, 1926},
+        {"four digits after the latest day", newYear, u"1/1/2027"_s, 2027},
     });
 }
 
 void TestDates::placesTwoDigitYears()
 {
-    const auto [today, text, year] = row<QDate, QString, int>();
-    QCOMPARE(Dates::parse(text, DateStyle::Usa, today), QDate(year, 1, 1));
+    const auto [latest, text, year] = row<QDate, QString, int>();
+    QCOMPARE(Dates::parse(text, DateStyle::Usa, latest), QDate(year, 1, 1));
 }
 
 void TestDates::writesDatesInEnglish()
