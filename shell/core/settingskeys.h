@@ -44,7 +44,9 @@ inline constexpr NumberSetting calendarWeekNumbers{calendarFile, 15};
 inline constexpr int calendarWeekNumbersHidden = 1;
 
 inline constexpr TextSetting mainMenuColor{colorFile1, 49};
-inline constexpr TextSetting addressEntryColor{colorFile3, 11};
+inline constexpr TextSetting addressEntryColor{colorFile3, 11}; ///< the photo album's, too
+inline constexpr TextSetting budgetColor{colorFile3, 12};
+inline constexpr TextSetting passwordKeeperColor{colorFile3, 26};
 inline constexpr TextSetting passwordControlColor{colorFile3, 104};
 // Records that no older window uses: 201 upwards.
 inline constexpr TextSetting addressEntryTextColor{colorFile3, 201};
@@ -58,6 +60,11 @@ inline constexpr std::array<int, 18> programColors1{10, 11, 12, 13, 16, 17, 18, 
                                                     32, 36, 38, 40, 49, 54, 56, 70, 80};
 inline constexpr std::array<int, 9> programColors2{5, 9, 12, 16, 19, 20, 22, 25, 40};
 inline constexpr std::array<int, 10> programColors3{8, 17, 91, 92, 100, 101, 102, 103, 104, 105};
+
+/// The windows' own colours, which would outrank a program-wide one: the update gives them its value, too.
+inline constexpr std::array windowColors{addressEntryColor,   budgetColor,  passwordKeeperColor,
+                                         helpColor,           plannerColor, addressViewerColor,
+                                         addressPicturesColor};
 
 /// The program-wide record that a window falls back to when its own is empty or "Default".
 inline constexpr TextSetting addressEntryProgramColor{colorFile1, 10};

@@ -10,7 +10,6 @@
 #include "shell/program/sharedprocedures.h"
 
 #include <QApplication>
-#include <QScopedValueRollback>
 #include <QWidget>
 
 #include <utility>
@@ -23,10 +22,7 @@ PanelColors::PanelColors(Program &program, PanelColorSettings settings, QWidget 
     , m_window(window)
     , m_activity(activity)
 {
-    connect(&program.changes, &ProgramSignals::panelColorsChanged, this, [this](const QString &color) {
-        if (!hasUnsavedChanges() && !m_isSaving)
-            load(color);
-    });
+    connect(&program.changes, &ProgramSignals::panelColorsChanged, this, &PanelColors::takeProgramColor);
 }
 
 void PanelColors::addPanel(QWidget *panel)
@@ -37,22 +33,23 @@ void PanelColors::addPanel(QWidget *panel)
 
 void PanelColors::load()
 {
-    load(m_program.settings.text(m_settings.programWide));
-}
-
-/// A window without a record of its own takes the program-wide colour, also where that could not be written.
-void PanelColors::load(const QString &programWide)
-{
     const QPalette palette = QApplication::palette();
-    const bool hasOwn = m_settings.panel != m_settings.programWide;
-    QString panel = hasOwn ? m_program.settings.text(m_settings.panel) : programWide;
+    QString panel = m_program.settings.text(m_settings.panel);
     if (ColorText::isDefault(panel))
-        panel = programWide;
+        panel = m_program.settings.text(m_settings.programWide);
     m_panel = ColorText::decode(panel, palette);
     m_text.reset();
     if (m_settings.text)
         m_text = ColorText::decodeInk(m_program.settings.text(*m_settings.text), palette);
     m_panelChanged = m_textChanged = false;
+    apply();
+}
+
+/// The latest choice is the one for all windows, also where it could not be written.
+void PanelColors::takeProgramColor(const QString &color)
+{
+    m_panel = ColorText::decode(color, QApplication::palette());
+    m_panelChanged = false;
     apply();
 }
 
@@ -117,7 +114,8 @@ bool PanelColors::askToSave()
 
 QColor PanelColors::ink() const
 {
-    if (m_text)
+    const QColor panel = m_panel.value_or(Theme::of(m_window).panel);
+    if (m_text && m_text->rgb() != panel.rgb())
         return *m_text;
     return m_panel ? inkOn(*m_panel) : Theme::of(m_window).text;
 }
@@ -134,19 +132,16 @@ void PanelColors::apply()
 
 void PanelColors::save()
 {
-    Settings &settings = m_program.settings;
     const QString panel = ColorText::encode(m_panel.value_or(Theme::of(m_window).panel));
     const bool panelChanged = std::exchange(m_panelChanged, false);
     const bool textChanged = std::exchange(m_textChanged, false);
-    bool isSaved = true;
+    SettingsChange change(m_program.settings);
     if (panelChanged)
-        isSaved = settings.setText(m_settings.panel, panel);
+        change.setText(m_settings.panel, panel);
     if (textChanged && m_settings.text)
-        isSaved &= settings.setText(*m_settings.text,
-                                    m_text ? ColorText::encode(*m_text) : ColorText::defaultText());
+        change.setText(*m_settings.text, m_text ? ColorText::encode(*m_text) : ColorText::defaultText());
+    bool isSaved = change.commit();
     if (panelChanged) {
-        // A colour that could not be written stays on this window until it closes.
-        const QScopedValueRollback<bool> saving(m_isSaving, !isSaved);
         QString pending = panel;
         isSaved = HINFO1::updateProgramColors(m_program, m_window, pending, 0) && isSaved;
     }

@@ -46,7 +46,8 @@ public:
 
     /// The colour of the panels as they are shown now; invalid while the designed one is.
     QColor panelColor() const { return m_panel.value_or(QColor()); }
-    /// The ink on the panels now.
+    /// The ink on the panels now; a text colour that is the panels' own, too, gives way to one that can be
+    /// read.
     QColor ink() const;
 
 signals:
@@ -57,7 +58,7 @@ private:
     /// Asks for a colour, given the one to preset and the one it must differ from. Nothing: leave it as it
     /// is; an invalid colour: the system's default.
     std::optional<QColor> choose(const QString &title, const QColor &preset, const QColor &forbidden);
-    void load(const QString &programWide);
+    void takeProgramColor(const QString &color);
     void apply();
     void save();
 
@@ -70,6 +71,4 @@ private:
     std::optional<QColor> m_text;  ///< nothing: the ink that suits the panel
     bool m_panelChanged = false;
     bool m_textChanged = false;
-    bool m_isSaving =
-        false; ///< colours that could not be written: what they bring about passes this window by
 };

@@ -7,7 +7,6 @@
 #include "shell/look/colortext.h"
 #include "shell/program/program.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
@@ -20,15 +19,11 @@ namespace {
 constexpr int clockStep = 20; // ms
 
 template <std::size_t Count>
-bool writeToAll(Program &program, const SettingsFile &file, const std::array<int, Count> &records,
-                const QString &text)
+void setAll(SettingsChange &change, const SettingsFile &file, const std::array<int, Count> &records,
+            const QString &text)
 {
-    bool isWritten = true;
     for (const int record : records)
-        isWritten = program.settings.setText({file, record}, text) && isWritten;
-    // The screen repaints between the files; what the user does meanwhile waits.
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    return isWritten;
+        change.setText({file, record}, text);
 }
 
 /// A side of the window in twips, as a record holds it.
@@ -98,11 +93,13 @@ bool HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pen
     pending.clear();
     if (text.isEmpty() || text.size() > ColorText::maximumLength)
         return true;
-    bool isWritten = writeToAll(program, SettingsKeys::colorFile1, SettingsKeys::programColors1, text);
-    isWritten =
-        writeToAll(program, SettingsKeys::colorFile2, SettingsKeys::programColors2, text) && isWritten;
-    isWritten =
-        writeToAll(program, SettingsKeys::colorFile3, SettingsKeys::programColors3, text) && isWritten;
+    SettingsChange change(program.settings);
+    setAll(change, SettingsKeys::colorFile1, SettingsKeys::programColors1, text);
+    setAll(change, SettingsKeys::colorFile2, SettingsKeys::programColors2, text);
+    setAll(change, SettingsKeys::colorFile3, SettingsKeys::programColors3, text);
+    for (const TextSetting &windowColor : SettingsKeys::windowColors)
+        change.setText(windowColor, text);
+    const bool isWritten = change.commit();
     emit program.changes.panelColorsChanged(text);
     return isWritten;
 }

@@ -29,9 +29,10 @@ void pauseOneSecond(const Program &program);
 /// Kept distinct from every answer of a message box: tells `updateProgramColors` not to ask.
 inline constexpr int updateWithoutAsking = 9786;
 
-/// Writes `pending` (the decimal text of a colour) to every program-wide colour record. Asks first unless
-/// `answerHolder` holds `updateWithoutAsking`; any answer but Yes, or an empty text, writes nothing. Clears
-/// `pending`. False when one of the records could not be written.
+/// Writes `pending` (the decimal text of a colour) to every program-wide colour record and to the windows'
+/// own ones. Asks first unless `answerHolder` holds `updateWithoutAsking`; any answer but Yes, or an empty
+/// text, writes nothing. Clears `pending`. False when nothing could be written: the colour holds for this
+/// run.
 [[nodiscard]] bool updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder);
 
 /// Writes display mode and, for a smaller-screen window, its size: `size` is in pixels at 15 twips each,

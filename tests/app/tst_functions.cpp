@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/functions.h"
 #include "shell/access/passwordcheck.h"
+#include "shell/controls/controls.h"
+#include "shell/core/settingskeys.h"
+#include "shell/program/sharedprocedures.h"
 #include "tests/support/testprogram.h"
 
 #include <QSet>
@@ -21,6 +24,11 @@ void TestFunctions::opensTheWindowsThatAreBuiltIn()
 {
     TestProgram test(TestProgram::Household);
     addFunctions(test.functions, test.clock);
+    // No window's own colour outranks the program's.
+    for (int record = 202; record < 240; ++record)
+        QVERIFY(test.settings.setText({SettingsKeys::colorFile3, record}, u"65535"_s));
+    QString red = u"255"_s;
+    QVERIFY(HINFO1::updateProgramColors(test.program, nullptr, red, HINFO1::updateWithoutAsking));
     QSet<QString> opened;
     for (int number = 0; number <= int(Function::AddressViewer); ++number) {
         const auto function = Function(number);
@@ -31,6 +39,7 @@ void TestFunctions::opensTheWindowsThatAreBuiltIn()
         QVERIFY2(window->isVisible() && !window->windowTitle().isEmpty(), qPrintable(window->objectName()));
         QVERIFY2(!opened.contains(window->objectName()), qPrintable(window->objectName()));
         opened.insert(window->objectName());
+        QCOMPARE(window->findChild<PanelFrame *>()->palette().color(QPalette::Window), QColor(Qt::red));
         QCOMPARE(test.functions.openWindows(), {window});
         QVERIFY(window->close());
         QTRY_VERIFY(!window);

@@ -83,6 +83,7 @@ void TestPanelColors::takesTheStoredColor_data()
         {"the designed number of the other scheme", u"2500907"_s, u"255"_s, {}, designed, ink},
         {"a text colour", blueText, {}, u"65535"_s, blue, yellow},
         {"a text colour alone", {}, {}, u"255"_s, designed, red},
+        {"a text colour that the panel has", blueText, {}, blueText, blue, white},
         {"damaged", u"blue"_s, {}, u"#"_s, designed, ink},
     });
 }
@@ -217,10 +218,16 @@ void TestPanelColors::keepsAChosenTextColor()
 
 void TestPanelColors::followsAnotherWindowsUpdate()
 {
-    const PanelColors &colors = make(withText);
-    emit m_program->changes.panelColorsChanged(blueText);
-    QCOMPARE(colors.panelColor(), blue);
-    QCOMPARE(m_panel->palette().color(QPalette::Window), blue);
+    PanelColors &colors = make(withText);
+    for (const bool isText : {false, true}) { // chosen here and not saved
+        m_program->dialogs.willAnswer(Answer::Yes);
+        m_program->dialogs.willChooseColor(QColor(Qt::yellow));
+        isText ? colors.chooseTextColor() : colors.choosePanelColor();
+        emit m_program->changes.panelColorsChanged(blueText);
+        QCOMPARE(m_panel->palette().color(QPalette::Window), blue);
+        QCOMPARE(colors.hasUnsavedChanges(), isText);
+    }
+    QCOMPARE(colors.ink(), QColor(Qt::yellow));
 }
 
 QTEST_MAIN(TestPanelColors)
