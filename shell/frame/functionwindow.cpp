@@ -353,6 +353,8 @@ void FunctionWindow::showToolbarMenu(const QPoint &place)
     connect(customize, &QAction::triggered, this, [this] {
         ToolbarCustomizer customizer(*m_toolbarLayout, this);
         m_program.dialogs.run(customizer);
+        if (!customizer.isSaved())
+            m_activity->say(FrameLines::settingNotSaved());
     });
     menu->popup(m_toolbar->mapToGlobal(place));
 }

@@ -3,12 +3,14 @@
 
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
+#include "shell/core/framelines.h"
 #include "shell/core/shellmessages.h"
 #include "shell/frame/toolbarlayout.h"
 #include "shell/look/theme.h"
 
 #include <QAction>
 #include <QGridLayout>
+#include <QLabel>
 #include <QListWidget>
 
 using namespace Qt::Literals::StringLiterals;
@@ -27,6 +29,11 @@ QListWidget *makeList(const QString &name, QWidget *parent)
     return list;
 }
 
+QString hint()
+{
+    return u"Drag a button to its place, or move it up and down. Changes apply at once."_s;
+}
+
 QString nameOf(const QListWidgetItem *item)
 {
     return item ? item->data(nameRole).toString() : QString();
@@ -39,6 +46,7 @@ ToolbarCustomizer::ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent)
     , m_layout(layout)
     , m_available(makeList(u"availableList"_s, this))
     , m_shown(makeList(u"shownList"_s, this))
+    , m_hint(makeQuietLabel(hint(), this))
     , m_add(makeButton(u"addTool"_s, u"&Add"_s, this))
     , m_remove(makeButton(u"removeTool"_s, u"&Remove"_s, this))
     , m_up(makeButton(u"moveToolUp"_s, u"Move &Up"_s, this))
@@ -74,7 +82,7 @@ void ToolbarCustomizer::arrange()
     connect(separator, &QPushButton::clicked, this,
             [this] { insert(QString::fromLatin1(ToolbarLayout::separatorName)); });
     connect(reset, &QPushButton::clicked, this, [this] {
-        m_layout.reset();
+        tell(m_layout.reset());
         fill();
     });
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
@@ -97,9 +105,7 @@ void ToolbarCustomizer::arrange()
     grid->addWidget(m_available, 1, 0);
     grid->addLayout(middle, 1, 1);
     grid->addWidget(m_shown, 1, 2);
-    grid->addWidget(
-        makeQuietLabel(u"Drag a button to its place, or move it up and down. Changes apply at once."_s, this),
-        2, 0, 1, 3);
+    grid->addWidget(m_hint, 2, 0, 1, 3);
     grid->setRowMinimumHeight(3, 8);
     grid->addLayout(foot, 4, 0, 1, 3);
 }
@@ -137,9 +143,15 @@ void ToolbarCustomizer::addRow(QListWidget *list, const QString &name)
     }
 }
 
+void ToolbarCustomizer::tell(bool isSaved)
+{
+    m_isSaved = isSaved;
+    m_hint->setText(isSaved ? hint() : FrameLines::settingNotSaved());
+}
+
 void ToolbarCustomizer::apply(const QStringList &names, int current)
 {
-    m_layout.setShown(names);
+    tell(m_layout.setShown(names));
     fill();
     m_shown->setCurrentRow(std::clamp(current, 0, std::max(0, m_shown->count() - 1)));
 }
@@ -154,7 +166,7 @@ QStringList ToolbarCustomizer::order() const
 
 void ToolbarCustomizer::applyOrder()
 {
-    m_layout.setShown(order());
+    tell(m_layout.setShown(order()));
     offerButtons();
 }
 

@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+class QLabel;
 class QListWidget;
 class QPushButton;
 class ToolbarLayout;
@@ -15,11 +16,15 @@ class ToolbarCustomizer final : public QDialog
 public:
     ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent);
 
+    /// Whether the last change could be saved; true without any.
+    bool isSaved() const { return m_isSaved; }
+
 private:
     void arrange();
     void fill();
     void addRow(QListWidget *list, const QString &name);
     QStringList order() const;
+    void tell(bool isSaved);
     void apply(const QStringList &names, int current);
     void applyOrder();
     void insert(const QString &name);
@@ -31,8 +36,10 @@ private:
     ToolbarLayout &m_layout;
     QListWidget *m_available;
     QListWidget *m_shown;
+    QLabel *m_hint; ///< what the dialog does, or that it could not be saved
     QPushButton *m_add;
     QPushButton *m_remove;
     QPushButton *m_up;
     QPushButton *m_down;
+    bool m_isSaved = true;
 };

@@ -27,9 +27,9 @@ public:
     /// exists.
     void restore();
     QStringList shown() const;
-    /// Changes the bar at once and saves the layout.
-    void setShown(const QStringList &names);
-    void reset();
+    /// Changes the bar at once and saves the layout. False when that was refused: it holds for this run.
+    [[nodiscard]] bool setShown(const QStringList &names);
+    [[nodiscard]] bool reset();
 
     const QList<QAction *> &actions() const { return m_actions; }
     const QStringList &defaults() const { return m_defaults; }

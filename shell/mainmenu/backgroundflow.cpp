@@ -66,8 +66,7 @@ void BackgroundFlow::accept()
     m_choice = m_selector->choice();
     const bool isSaved = m_program.settings.setTagged(SettingsKeys::background, m_choice.recordText());
     closeSelector();
-    if (!isSaved)
-        m_activity.say(FrameLines::settingNotSaved());
+    m_activity.say(isSaved ? QString() : FrameLines::settingNotSaved());
 }
 
 void BackgroundFlow::closeSelector()

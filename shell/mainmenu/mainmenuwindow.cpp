@@ -216,6 +216,7 @@ void Startfrm::listen()
     connect(m_toolBars, &MenuToolBars::rearranged, this, &Startfrm::setUp);
     connect(&m_program.changes, &ProgramSignals::familyNameChanged, this, &Startfrm::showMainMenu);
     connect(&m_program.changes, &ProgramSignals::mainMenuRequested, this, [this] { bringToFront(*this); });
+    connect(&m_program.changes, &ProgramSignals::settingNotSaved, this, [this] { tellUnless(false); });
     connect(m_dayWatch, &QTimer::timeout, this, [this] {
         if (m_isNewsShown)
             refreshNews();
@@ -319,8 +320,7 @@ void Startfrm::askFamilyName()
 
 void Startfrm::tellUnless(bool isSaved)
 {
-    if (!isSaved)
-        m_activity->say(FrameLines::settingNotSaved());
+    m_activity->say(isSaved ? QString() : FrameLines::settingNotSaved());
 }
 
 void Startfrm::showAbout()

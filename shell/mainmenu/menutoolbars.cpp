@@ -141,8 +141,7 @@ void MenuToolBars::removeSides()
 
 void MenuToolBars::tellUnless(bool isSaved)
 {
-    if (!isSaved)
-        m_activity.say(FrameLines::settingNotSaved());
+    m_activity.say(isSaved ? QString() : FrameLines::settingNotSaved());
 }
 
 void MenuToolBars::customizeTop()
@@ -153,6 +152,7 @@ void MenuToolBars::customizeTop()
     }
     ToolbarCustomizer customizer(*m_topLayout, m_window);
     m_program.dialogs.run(customizer);
+    tellUnless(customizer.isSaved());
 }
 
 void MenuToolBars::showTopMenu(const QPoint &place)

@@ -17,6 +17,8 @@ signals:
     void topToolbarChanged();
     /// The family name was changed.
     void familyNameChanged();
+    /// A window that is gone with it could not save a setting.
+    void settingNotSaved();
     /// The window asks for the manual's page of this context.
     void helpRequested(int context);
     /// The main window is to come to the front.

@@ -7,6 +7,7 @@
 #include "tests/support/testprogram.h"
 
 #include <QAction>
+#include <QDir>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -26,6 +27,7 @@ private slots:
     void restoresTheStoredLayout_data();
     void restoresTheStoredLayout();
     void everyChangeIsAppliedAndStored();
+    void tellsWhatIsNotStored();
 
 private:
     QListWidget &shownList(ToolbarCustomizer &dialog) { return *control<QListWidget>(dialog, "shownList"); }
@@ -60,7 +62,7 @@ void TestToolbarLayout::init()
 void TestToolbarLayout::hidesNothingWhenItIsNarrow()
 {
     m_bar->show();
-    m_layout->setShown({u"one"_s, u"separator"_s, u"two"_s, u"three"_s, u"four"_s, u"five"_s});
+    QVERIFY(m_layout->setShown({u"one"_s, u"separator"_s, u"two"_s, u"three"_s, u"four"_s, u"five"_s}));
     int rows = 0;
     for (const int width : {600, 230, 130}) {
         m_bar->resize(width, m_bar->heightForWidth(width));
@@ -142,6 +144,21 @@ void TestToolbarLayout::everyChangeIsAppliedAndStored()
     QVERIFY(!m_program->store.contains(u"User1/Toolbar1"_s));
     press(dialog, "closeCustomizer");
     QVERIFY(!dialog.isVisible());
+}
+
+void TestToolbarLayout::tellsWhatIsNotStored()
+{
+    QVERIFY(QDir().mkdir(m_program->store.fileName())); // a folder in its place
+    ToolbarCustomizer dialog(*m_layout, nullptr);
+    showActive(dialog);
+    press(dialog, "removeTool");
+    QVERIFY(!dialog.isSaved());
+    QCOMPARE(m_layout->shown().first(), u"two"_s);
+    QVERIFY(QDir().rmdir(m_program->store.fileName()));
+    press(dialog, "removeTool");
+    QVERIFY(dialog.isSaved());
+    QCOMPARE(QSettings(m_program->store.fileName(), QSettings::IniFormat).value(u"User1/Toolbar1"_s),
+             m_layout->shown());
 }
 
 QTEST_MAIN(TestToolbarLayout)
