@@ -81,27 +81,43 @@ bool FunctionWindow::mayLeave()
         m_activity->say(FrameLines::stillBusy());
         return false;
     }
-    if (!m_leaveAgreed)
-        setLeaveAgreed(mayReplace(leaveQuestion()) && m_colors->askToSave());
-    return m_leaveAgreed;
+    if (m_leaving)
+        return true;
+    Leaving leaving;
+    if (isModified())
+        leaving.data = askAbout(leaveQuestion());
+    if (leaving.data != Answer::Cancel)
+        leaving.colors = m_colors->askToSave();
+    if (leaving.data != Answer::Cancel && leaving.colors != Answer::Cancel)
+        m_leaving = leaving;
+    return m_leaving.has_value();
+}
+
+bool FunctionWindow::saveToLeave()
+{
+    if (m_leaving && m_leaving->data == Answer::Yes && save())
+        m_leaving->data = Answer::Ok;
+    return !m_leaving || m_leaving->data != Answer::Yes;
 }
 
 bool FunctionWindow::mayReplace(const Message &question)
 {
     if (!isModified())
         return true;
+    const Answer answer = askAbout(question);
+    if (answer == Answer::No)
+        drop();
+    return answer == Answer::No || (answer == Answer::Yes && save());
+}
+
+/// Yes, No, or Cancel for everything else.
+Answer FunctionWindow::askAbout(const Message &question)
+{
     Message asked = question;
     if (qApp->isSavingSession())
         asked.answers.removeAll(Answer::Cancel);
-    switch (ask(asked)) {
-    case Answer::Yes:
-        return save();
-    case Answer::No:
-        drop();
-        return true;
-    default:
-        return false;
-    }
+    const Answer answer = ask(asked);
+    return answer == Answer::Yes || answer == Answer::No ? answer : Answer::Cancel;
 }
 
 void FunctionWindow::setBusy(bool busy)
@@ -276,10 +292,16 @@ void FunctionWindow::finishFrame()
 
 void FunctionWindow::closeEvent(QCloseEvent *event)
 {
-    if (!mayLeave()) {
+    if (!mayLeave() || !saveToLeave()) {
+        stay();
         event->ignore();
         return;
     }
+    const Leaving leaving = *std::exchange(m_leaving, std::nullopt);
+    if (leaving.data == Answer::No)
+        drop();
+    if (leaving.colors == Answer::Yes && !m_colors->save())
+        emit m_program.changes.settingNotSaved();
     m_program.store.setValue(storeKey(u"geometry"_s), saveGeometry());
     if (m_sideSplitter)
         m_sideSplitter->save(m_program.store, storeKey(m_sideSplitter->objectName()));
@@ -298,28 +320,6 @@ void FunctionWindow::keyPressEvent(QKeyEvent *event)
     } else {
         QMainWindow::keyPressEvent(event);
     }
-}
-
-/// Watches the whole program only once the user has agreed to close: working on takes that back.
-bool FunctionWindow::eventFilter(QObject *watched, QEvent *event)
-{
-    const bool isWork = event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress ||
-                        event->type() == QEvent::InputMethod || event->type() == QEvent::Drop;
-    if (isWork && m_leaveAgreed)
-        if (const auto *widget = qobject_cast<QWidget *>(watched); widget && widget->window() == this)
-            setLeaveAgreed(false);
-    return QMainWindow::eventFilter(watched, event);
-}
-
-void FunctionWindow::setLeaveAgreed(bool agreed)
-{
-    if (m_leaveAgreed == agreed)
-        return;
-    m_leaveAgreed = agreed;
-    if (agreed)
-        qApp->installEventFilter(this);
-    else
-        qApp->removeEventFilter(this);
 }
 
 void FunctionWindow::showTopToolbar()

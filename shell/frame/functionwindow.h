@@ -14,6 +14,7 @@
 #include <QPointer>
 
 #include <map>
+#include <optional>
 
 class ActivityBar;
 class FlowToolBar;
@@ -58,10 +59,13 @@ public:
     /// Whether the window holds something typed that no file has.
     virtual bool isModified() const { return false; }
 
-    /// Asks what must be asked before the window goes (unsaved data, unsaved colours). False: the user stays.
-    /// Called by closing and by the program's exit; after a true answer, closing asks nothing again until the
-    /// user goes on working in the window.
+    /// Asks what must be asked before the window goes (unsaved data, unsaved colours) and keeps the answers;
+    /// nothing is saved or dropped yet. False: the user stays. Closing asks nothing again after that.
     bool mayLeave();
+    /// Saves the data where that was the answer. False: refused, and the user was told.
+    [[nodiscard]] bool saveToLeave();
+    /// The window does not go after all: it asks again the next time.
+    void stay() { m_leaving.reset(); }
 
     /// Shows `builder`'s page over the work area; Esc or "Close Preview" brings the work back.
     void showPreview(std::function<Page(const PageContext &)> builder, const QString &jobName);
@@ -127,7 +131,6 @@ protected:
 
     void closeEvent(QCloseEvent *event) final;
     void keyPressEvent(QKeyEvent *event) final;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -137,8 +140,14 @@ protected:
     bool isBusy() const { return m_busy; }
 
 private:
+    /// Yes and No are for saving; Ok where there is nothing to save.
+    struct Leaving {
+        Answer data = Answer::Ok;
+        Answer colors = Answer::Ok;
+    };
+
     void addMainMenuTool();
-    void setLeaveAgreed(bool agreed);
+    Answer askAbout(const Message &question);
     void showTopToolbar();
     void restoreTopToolbar();
     void showToolbarMenu(const QPoint &place);
@@ -161,6 +170,6 @@ private:
     QStringList m_watchedFiles;
     FileStamp m_seen;
     bool m_busy = false;
-    bool m_leaveAgreed = false;
+    std::optional<Leaving> m_leaving; ///< the answers, between the questions and the leaving
     bool m_wasShown = false;
 };

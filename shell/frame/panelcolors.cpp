@@ -100,16 +100,9 @@ void PanelColors::chooseTextColor()
     m_activity.setActivity(activity);
 }
 
-bool PanelColors::askToSave()
+Answer PanelColors::askToSave()
 {
-    if (!hasUnsavedChanges())
-        return true;
-    const Answer answer = m_program.dialogs.ask(m_window, ShellMessages::saveColors());
-    if (answer == Answer::Yes)
-        save();
-    if (answer == Answer::Yes || answer == Answer::No)
-        m_panelChanged = m_textChanged = false;
-    return !hasUnsavedChanges();
+    return hasUnsavedChanges() ? m_program.dialogs.ask(m_window, ShellMessages::saveColors()) : Answer::Ok;
 }
 
 QColor PanelColors::ink() const
@@ -130,7 +123,7 @@ void PanelColors::apply()
     emit changed();
 }
 
-void PanelColors::save()
+bool PanelColors::save()
 {
     const QString panel = ColorText::encode(m_panel.value_or(Theme::of(m_window).panel));
     const bool panelChanged = std::exchange(m_panelChanged, false);
@@ -147,4 +140,5 @@ void PanelColors::save()
     }
     if (!isSaved)
         m_activity.say(FrameLines::settingNotSaved());
+    return isSaved;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/message.h"
 #include "shell/core/programstate.h"
 #include "shell/core/settings.h"
 
@@ -40,8 +41,11 @@ public:
     void chooseTextColor();
 
     /// Asks whether to save colours that were changed and not saved yet: only windows that recolour text
-    /// leave the question for this moment. Cancel is false; No drops them.
-    bool askToSave();
+    /// leave the question for this moment. Yes, No or Cancel, and nothing is done yet; Ok without any.
+    Answer askToSave();
+    /// Writes what was changed, and offers the panels' colour to the whole program. False, with a line in the
+    /// status bar, when that was refused.
+    bool save();
     bool hasUnsavedChanges() const { return m_panelChanged || m_textChanged; }
 
     /// The colour of the panels as they are shown now; invalid while the designed one is.
@@ -60,7 +64,6 @@ private:
     std::optional<QColor> choose(const QString &title, const QColor &preset, const QColor &forbidden);
     void takeProgramColor(const QString &color);
     void apply();
-    void save();
 
     Program &m_program;
     PanelColorSettings m_settings;

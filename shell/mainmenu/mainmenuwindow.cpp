@@ -36,6 +36,8 @@
 #include <QToolButton>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -364,37 +366,35 @@ void Startfrm::changeEvent(QEvent *event)
 /// However the window is closed, the same questions are asked.
 void Startfrm::closeEvent(QCloseEvent *event)
 {
-    if (!m_isExiting && !mayExit()) {
-        event->ignore();
+    m_isExiting = m_isExiting || mayExit();
+    event->setAccepted(m_isExiting);
+    if (!m_isExiting)
         return;
-    }
-    m_isExiting = true;
-    if (!closeFunctionWindows()) {
-        m_isExiting = false;
-        event->ignore();
-        return;
-    }
     m_displayMode->save();
-    event->accept();
     emit exited();
 }
 
+/// Nothing is saved, dropped or closed before the exit was asked for and every window has agreed.
 bool Startfrm::mayExit()
 {
     Hourglass::off();
-    for (QWidget *window : m_program.functions.openWindows())
-        if (auto *functionWindow = qobject_cast<FunctionWindow *>(window);
-            functionWindow && !functionWindow->mayLeave()) {
-            bringToFront(*functionWindow);
-            return false;
-        }
-    return m_program.dialogs.ask(this, StartMessages::exit()) == Answer::Yes;
-}
-
-bool Startfrm::closeFunctionWindows()
-{
-    for (QWidget *window : m_program.functions.openWindows())
-        if (!window->close())
-            return false;
-    return true;
+    if (m_program.dialogs.ask(this, StartMessages::exit()) != Answer::Yes)
+        return false;
+    const QList<QWidget *> windows = m_program.functions.openWindows();
+    const auto each = [&windows](bool (FunctionWindow::*step)()) {
+        return std::all_of(windows.begin(), windows.end(), [step](QWidget *window) {
+            auto *functionWindow = qobject_cast<FunctionWindow *>(window);
+            const bool agrees = !functionWindow || (functionWindow->*step)();
+            if (!agrees)
+                bringToFront(*window);
+            return agrees;
+        });
+    };
+    if (each(&FunctionWindow::mayLeave) && each(&FunctionWindow::saveToLeave) &&
+        std::all_of(windows.begin(), windows.end(), [](QWidget *window) { return window->close(); }))
+        return true;
+    for (QWidget *window : windows)
+        if (auto *functionWindow = qobject_cast<FunctionWindow *>(window))
+            functionWindow->stay();
+    return false;
 }

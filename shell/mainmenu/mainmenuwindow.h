@@ -62,7 +62,6 @@ private:
     void openManual(int context);
     void useDefaultPanelColor();
     bool mayExit();
-    bool closeFunctionWindows();
 
     Program &m_program;
     Surroundings m_surroundings;

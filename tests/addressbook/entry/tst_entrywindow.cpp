@@ -202,7 +202,7 @@ void TestAddbkview::savesAnEntryOnceWhenItIsAskedFor()
     click("emptyEntryScreen");
     type(0, u"Novak"_s);
     m_test->dialogs.willAnswer(Answer::Yes);
-    QVERIFY(m_window->mayLeave());
+    QVERIFY(m_window->mayLeave() && m_window->saveToLeave());
     QCOMPARE(m_window->mode(), ADDBKVIEW::Mode::View);
     QVERIFY(selectedName().startsWith(u"Novak,"_s));
     QVERIFY(words().isEmpty());

@@ -82,7 +82,7 @@ private slots:
     void standsInItsFrame();
     void asksBeforeItCloses_data();
     void asksBeforeItCloses();
-    void asksOnceUntilWorkGoesOn();
+    void leavesOnceItIsAsked();
     void staysWhileItIsBusy();
     void escLeavesPreviewThenViewThenWindow();
     void asksForTheManualAndTheMainMenu();
@@ -139,19 +139,21 @@ void TestFunctionWindow::asksBeforeItCloses()
     QVERIFY(m_program->dialogs.isDone());
 }
 
-void TestFunctionWindow::asksOnceUntilWorkGoesOn()
+void TestFunctionWindow::leavesOnceItIsAsked()
 {
     const auto window = open();
-    auto *box = control<QLineEdit>(*window, "box");
-    QTest::keyClicks(box, u"text"_s);
+    QTest::keyClicks(control<QLineEdit>(*window, "box"), u"text"_s);
     m_program->dialogs.willAnswer(Answer::No);
     QVERIFY(window->mayLeave());
     QVERIFY(window->mayLeave()); // the exit asked already
-
-    // The exit was stopped by another window, and the user types on: the question comes again.
-    QTest::keyClicks(box, u"more"_s);
-    m_program->dialogs.willAnswer(Answer::Cancel);
-    QVERIFY(!window->mayLeave());
+    // The exit was stopped by another window: the question comes again.
+    window->stay();
+    QVERIFY(window->done.isEmpty());
+    m_program->dialogs.willAnswer(Answer::Yes);
+    QVERIFY(window->mayLeave());
+    QVERIFY(window->done.isEmpty());
+    QVERIFY(window->saveToLeave() && window->close());
+    QCOMPARE(window->done, {u"saved text"_s});
     QVERIFY(m_program->dialogs.isDone());
 }
 

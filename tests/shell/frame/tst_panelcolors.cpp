@@ -164,16 +164,16 @@ void TestPanelColors::asksAtOnceWhereThereIsNoTextColor()
 
 void TestPanelColors::asksOnLeavingWhereThereIsATextColor_data()
 {
-    rows<Answer, bool, QString>({
-        {"Yes", Answer::Yes, true, blueText},
-        {"No", Answer::No, true, {}},
-        {"Cancel", Answer::Cancel, false, {}},
+    rows<Answer, QString>({
+        {"Yes", Answer::Yes, blueText},
+        {"No", Answer::No, {}},
+        {"Cancel", Answer::Cancel, {}},
     });
 }
 
 void TestPanelColors::asksOnLeavingWhereThereIsATextColor()
 {
-    const auto [answer, leaves, stored] = row<Answer, bool, QString>();
+    const auto [answer, stored] = row<Answer, QString>();
     PanelColors &colors = make(withText);
     m_program->dialogs.willAnswer(Answer::Yes);
     m_program->dialogs.willChooseColor(blue);
@@ -184,7 +184,10 @@ void TestPanelColors::asksOnLeavingWhereThereIsATextColor()
     m_program->dialogs.willAnswer(answer);
     if (answer == Answer::Yes)
         m_program->dialogs.willAnswer(Answer::No);
-    QCOMPARE(colors.askToSave(), leaves);
+    QCOMPARE(colors.askToSave(), answer);
+    QCOMPARE(m_program->settings.text(withText.panel), QString());
+    if (answer == Answer::Yes)
+        QVERIFY(colors.save());
     QCOMPARE(m_program->settings.text(withText.panel), stored);
     QCOMPARE(m_program->dialogs.takeShown().first(), ShellMessages::saveColors());
     QVERIFY(m_program->dialogs.isDone());
@@ -203,16 +206,14 @@ void TestPanelColors::keepsAChosenTextColor()
     colors.chooseTextColor();
     QCOMPARE(colors.ink(), QColor(Qt::red));
     QCOMPARE(m_label->palette().color(m_label->foregroundRole()), QColor(Qt::red));
-    m_program->dialogs.willAnswer(Answer::Yes);
-    QVERIFY(colors.askToSave());
+    QVERIFY(colors.save());
     QCOMPARE(m_program->settings.text(*withText.text), u"255"_s);
     QCOMPARE(m_program->settings.text(withText.panel), QString());
 
     m_program->dialogs.willAnswer(Answer::No);
     colors.chooseTextColor();
     QCOMPARE(colors.ink(), Theme::light().text);
-    m_program->dialogs.willAnswer(Answer::Yes);
-    QVERIFY(colors.askToSave());
+    QVERIFY(colors.save());
     QCOMPARE(m_program->settings.text(*withText.text), u"Default"_s);
 }
 

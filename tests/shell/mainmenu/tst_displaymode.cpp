@@ -18,24 +18,25 @@ Message leaveUnsaved()
 class UnsavedWindow final : public FunctionWindow
 {
 public:
-    UnsavedWindow(Program &program, bool &leaves)
+    /// `saves`: what its saving answers, in turn.
+    UnsavedWindow(Program &program, QList<bool> &saves)
         : FunctionWindow(program,
                          {u"Unsaved"_s,
                           u"Unsaved"_s,
                           u"Unsaved"_s,
                           {SettingsKeys::addressEntryColor, SettingsKeys::addressEntryProgramColor, {}}})
-        , m_leaves(leaves)
+        , m_saves(saves)
     {
         finishFrame();
     }
 
 protected:
     bool isModified() const override { return true; }
-    bool save() override { return m_leaves; }
+    bool save() override { return m_saves.takeFirst(); }
     Message leaveQuestion() const override { return leaveUnsaved(); }
 
 private:
-    bool &m_leaves;
+    QList<bool> &m_saves;
 };
 
 /// The beginning of a record of the colours' file: the display mode is 35, height and width are 36 and 37.
@@ -57,7 +58,8 @@ private slots:
     void opensAtTheSmallestSizeForAnEmptySize();
     void asksBeforeItExits_data();
     void asksBeforeItExits();
-    void letsAWindowStopTheExit();
+    void savesNothingForAnExitThatIsRefused_data();
+    void savesNothingForAnExitThatIsRefused();
 };
 
 void TestDisplayMode::keepsTheDisplayMode()
@@ -133,23 +135,46 @@ void TestDisplayMode::asksBeforeItExits()
     QCOMPARE(record(start, 37, 2), width);
 }
 
-void TestDisplayMode::letsAWindowStopTheExit()
+void TestDisplayMode::savesNothingForAnExitThatIsRefused_data()
 {
+    using Answers = QList<Answer>; // to the exit, and to what two windows ask
+    using Saves = QList<bool>;
+    const Answer yes = Answer::Yes, no = Answer::No, cancel = Answer::Cancel;
+    rows<Answers, Saves, bool>({
+        {"no exit", {no}, {}, false},
+        {"the first window stays", {yes, cancel}, {}, false},
+        {"the second window stays", {yes, yes, cancel}, {}, false},
+        {"a save is refused", {yes, no, yes}, {false}, false},
+        {"saved and dropped", {yes, yes, no}, {true}, true},
+    });
+}
+
+void TestDisplayMode::savesNothingForAnExitThatIsRefused()
+{
+    auto [answers, saves, leaves] = row<QList<Answer>, QList<bool>, bool>();
     StartWindow start;
-    bool leaves = false;
-    start.test.functions.add(
-        Function::Budget, {[&](Program &program) { return new UnsavedWindow(program, leaves); }, {}, {}, {}});
+    const FunctionEntry entry{
+        [&saves = saves](Program &program) { return new UnsavedWindow(program, saves); }, {}, {}, {}};
+    start.test.functions.add(Function::Budget, entry);
+    start.test.functions.add(Function::WeightTracker, entry);
     Startfrm &window = start.show();
     start.trigger("mMB");
-    start.test.dialogs.willAnswer(Answer::Yes);
-    QVERIFY(!window.close());
-    QCOMPARE(start.test.dialogs.takeShown(), {leaveUnsaved()});
-
-    leaves = true;
-    start.test.dialogs.willAnswer(Answer::Yes); // to saving
-    start.test.dialogs.willAnswer(Answer::Yes); // to the exit
-    QVERIFY(window.close());
-    QVERIFY(start.test.functions.openWindows().isEmpty());
+    start.trigger("mFWeight");
+    for (const Answer answer : answers)
+        start.test.dialogs.willAnswer(answer);
+    QCOMPARE(window.close(), leaves);
+    QList<Message> asked(answers.size(), leaveUnsaved());
+    asked.first() = StartMessages::exit();
+    QCOMPARE(start.test.dialogs.takeShown(), asked);
+    QVERIFY(saves.isEmpty());
+    // Each window that stays asks again.
+    const QList<QWidget *> open = start.test.functions.openWindows();
+    QCOMPARE(open.size(), leaves ? 0 : 2);
+    for (QWidget *unsaved : open) {
+        start.test.dialogs.willAnswer(Answer::No);
+        QVERIFY(unsaved->close());
+        QCOMPARE(start.test.dialogs.takeShown(), {leaveUnsaved()});
+    }
 }
 
 QTEST_MAIN(TestDisplayMode)
