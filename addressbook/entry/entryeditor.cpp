@@ -108,22 +108,23 @@ void EntryEditor::show(const AddressBook::Found &found, const QString &line)
 {
     m_record = found.record;
     m_mayChange = found.mayChange;
+    m_isStray = found.isStray;
+    m_line = line;
     load(found.entry);
     const QString name = listName(found.entry);
     m_title->setTitle(name.isEmpty() ? IndexLine::name(line).toString() : name);
     setMode(Mode::View);
-    if (found.record == 0 && !line.isEmpty())
-        emit said(AddressMessages::lineWithoutNumber());
-    else if (found.record == 0 || found.entry.isEmpty())
-        emit said(AddressMessages::entryNotFound());
+    if (m_isStray)
+        emit said(AddressMessages::strayLine());
     else if (!found.mayChange)
-        emit said(AddressMessages::lineOfAnotherEntry());
+        emit said(whyUnchangeable());
 }
 
 void EntryEditor::startNew()
 {
     m_record = 0;
     m_mayChange = false;
+    m_isStray = false;
     load(blankEntry());
     m_title->setTitle(u"New entry"_s);
     setMode(Mode::Entry);
@@ -157,13 +158,27 @@ AddressBook::SaveResult EntryEditor::save(AddressBook &book)
     return result;
 }
 
+QString EntryEditor::names() const
+{
+    return m_isStray ? IndexLine::name(m_line).toString() : m_loaded.fullName();
+}
+
+bool EntryEditor::remove(AddressBook &book)
+{
+    return m_isStray ? book.removeStray(m_line) : book.remove(m_record);
+}
+
 QString EntryEditor::whyUnchangeable() const
 {
     if (isNew())
         return AddressLines::onViewScreenOnly();
     if (m_mayChange)
         return {};
-    return m_record == 0 ? AddressMessages::lineWithoutNumber() : AddressMessages::lineOfAnotherEntry();
+    if (m_isStray)
+        return AddressMessages::entryNotFound();
+    if (m_record == 0 && !m_line.isEmpty())
+        return AddressMessages::lineWithoutNumber();
+    return m_loaded.isEmpty() ? AddressMessages::lineBeforeEntry() : AddressMessages::lineOfAnotherEntry();
 }
 
 void EntryEditor::setMode(Mode mode)

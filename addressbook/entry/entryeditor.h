@@ -29,8 +29,10 @@ public:
     Mode mode() const { return m_mode; }
     bool isNew() const { return m_mode == Mode::Entry; }
     int record() const { return m_record; } ///< 0 for a new entry and where none can be shown
-    /// Why the entry can be neither changed nor deleted; empty when it can.
+    /// Why the entry cannot be changed; empty when it can.
     QString whyUnchangeable() const;
+    /// Whether the selected line leads to no entry, and can be deleted itself.
+    bool isStray() const { return m_isStray; }
     /// The entry as the file has it.
     const AddressEntry &loaded() const { return m_loaded; }
     /// The entry as it would be saved.
@@ -46,6 +48,9 @@ public:
     void lock() { setMode(Mode::View); }
     /// Writes what was typed and says how that went; what was written counts as loaded from here on.
     AddressBook::SaveResult save(AddressBook &book);
+    /// Whose entry, or which line, `remove` deletes.
+    QString names() const;
+    [[nodiscard]] bool remove(AddressBook &book);
 
     /// A picture taken while the entry is locked opens it, so that it can be saved.
     void setPicture(const QString &stored);
@@ -83,6 +88,8 @@ private:
     Mode m_mode = Mode::View;
     int m_record = 0;
     bool m_mayChange = false; ///< the selected line leads to the shown entry
+    bool m_isStray = false;   ///< the selected line leads to no entry
+    QString m_line;           ///< the selected one
     AddressEntry m_loaded;
     EditedTexts<AddressFieldCount> m_texts;
     QString m_picture; ///< path of the shown one

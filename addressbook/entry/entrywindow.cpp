@@ -28,14 +28,12 @@ namespace {
 
 WindowTraits traits()
 {
-    WindowTraits traits;
-    traits.name = u"ADDBKVIEW"_s;
-    traits.caption = u"Family/Friends Data View Screen"_s;
-    traits.activity = u"View Screen"_s;
-    traits.colors = {SettingsKeys::addressEntryColor, SettingsKeys::addressEntryProgramColor,
-                     SettingsKeys::addressEntryTextColor};
-    traits.helpContext = HelpContext::AddressBook;
-    return traits;
+    return {u"ADDBKVIEW"_s,
+            u"Family/Friends Data View Screen"_s,
+            u"View Screen"_s,
+            {SettingsKeys::addressEntryColor, SettingsKeys::addressEntryProgramColor,
+             SettingsKeys::addressEntryTextColor},
+            HelpContext::AddressBook};
 }
 
 int listWidth(QSize window)
@@ -109,6 +107,7 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     const auto entryOnly = [this] { return isNew() ? QString() : AddressLines::onEntryScreenOnly(); };
     const auto noneShown = [this] { return isEmptyShown() ? AddressLines::bookIsEmpty() : QString(); };
     const auto fixed = [this] { return whyUnchangeable(); };
+    const auto kept = [this] { return m_editor->isStray() ? QString() : whyUnchangeable(); };
     const auto viewed = [this] { return mode() == Mode::View ? AddressLines::alreadyThere() : QString(); };
     const auto entered = [this] { return isNew() ? AddressLines::alreadyThere() : QString(); };
     const auto add = [this, options](const QString &name, const QString &caption, void (ADDBKVIEW::*run)(),
@@ -122,7 +121,7 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     QAction *clear = add(u"mOClr"_s, u"&Clear Current Data"_s, &ADDBKVIEW::clearData, entryOnly);
     QAction *saveNew = add(u"mONS"_s, u"&Save && New Screen"_s, &ADDBKVIEW::saveAndNew, entryOnly);
     QAction *copy = add(u"mOCopy"_s, u"Cop&y"_s, &ADDBKVIEW::copyShown, noneShown);
-    QAction *remove = add(u"mODel"_s, u"Delete &File"_s, &ADDBKVIEW::deleteShown, fixed);
+    QAction *remove = add(u"mODel"_s, u"Delete &File"_s, &ADDBKVIEW::deleteShown, kept);
     QAction *print = add(u"mOPrt"_s, u"&Print File"_s, &ADDBKVIEW::printShown, noneShown);
     m_modify = add(u"mOMod"_s, u"&Make Modifications"_s, &ADDBKVIEW::modifyOrSave, fixed);
     options->addSeparator();
@@ -189,8 +188,7 @@ void ADDBKVIEW::connectParts()
     connect(m_list, &EntryList::nothingFound, this, [this] { ask(AddressMessages::noMatch()); });
     connect(m_list, &EntryList::matchFound, this, [this](int row, int number, int count) {
         activity().say(AddressLines::matchOf(number, count));
-        if (row != m_list->shownRow())
-            m_toSay = activity().message();
+        m_toSay = row == m_list->shownRow() ? QString() : activity().message();
     });
     connect(m_editor, &EntryEditor::changed, this, &ADDBKVIEW::refreshScreen);
     connect(m_editor, &EntryEditor::said, &activity(), &ActivityBar::say);
@@ -267,14 +265,11 @@ Message ADDBKVIEW::leaveQuestion() const
 bool ADDBKVIEW::mayReplaceShown()
 {
     const bool wasModified = isModified();
-    if (!mayReplace(leaveQuestion())) {
-        m_toSay.clear();
-        return false;
-    }
+    const bool mayGo = mayReplace(leaveQuestion());
     // What a save told stays when another entry takes the screen.
-    if (wasModified && !isModified())
-        m_toSay = activity().message();
-    return true;
+    if (!mayGo || (wasModified && !isModified()))
+        m_toSay = mayGo ? activity().message() : QString();
+    return mayGo;
 }
 
 void ADDBKVIEW::viewSelected()
@@ -312,6 +307,8 @@ bool ADDBKVIEW::save()
     if (!isLastNameGiven())
         return false;
     const AddressBook::SaveResult result = m_editor->save(m_book);
+    if (result.isBookFull)
+        ask(AddressMessages::bookFull());
     if (!result.isSaved)
         return false;
     m_list->replaceShown(result.line);
@@ -364,10 +361,10 @@ void ADDBKVIEW::modifyOrSave()
 
 void ADDBKVIEW::deleteShown()
 {
-    const QString names = m_editor->loaded().fullName();
+    const QString names = m_editor->names();
     if (ask(AddressMessages::deleteEntry(names)) != Answer::Yes)
         return;
-    if (!m_book.remove(m_editor->record())) {
+    if (!m_editor->remove(m_book)) {
         activity().say(AddressMessages::deleteFailed());
         return;
     }

@@ -102,16 +102,17 @@ AddressBook::Found AddressBook::open(QStringView line) const
 {
     Found found;
     found.record = IndexLine::record(line);
-    found.entry = read(found.record);
+    found.entry = addressLayout.decode(liveEntry(found.record));
     found.mayChange = isEntryRecord(found.record) && (IndexLine::belongs(line, found.entry) ||
                                                       isOutgrownLine(found.record, line, found.entry));
+    found.isStray = !found.mayChange && found.entry.isEmpty() && strayRecord(line) > 0;
     return found;
 }
 
 int AddressBook::nextFreeRecord() const
 {
     const RecordFile file = entries();
-    const int last = std::min(file.recordCount(), lastRecord);
+    const int last = std::min(file.recordCount(), overflowRecord);
     int visited = firstRecord - 1;
     bool isFound = false;
     file.forEach(firstRecord, [&](int record, QByteArrayView bytes) {
@@ -131,7 +132,12 @@ int AddressBook::nextFreeRecord() const
 
 AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry)
 {
-    return write(nextFreeRecord(), entry);
+    const int record = nextFreeRecord();
+    if (record <= overflowRecord)
+        return write(record, entry);
+    SaveResult result;
+    result.isBookFull = true;
+    return result;
 }
 
 AddressBook::SaveResult AddressBook::saveChanged(int record, const AddressEntry &entry)
@@ -147,6 +153,16 @@ bool AddressBook::remove(int record)
     cleared[LastName] = QString::fromLatin1(deletedName);
     ChangeSet change(m_folder);
     change.write(entries(), record, addressLayout.encode(cleared));
+    change.write(index(), record, *RecordValue::encodeText(IndexLine::deletionMark(), lineRecordLength));
+    return change.commit();
+}
+
+bool AddressBook::removeStray(QStringView line)
+{
+    const int record = strayRecord(line);
+    if (record == 0)
+        return false;
+    ChangeSet change(m_folder);
     change.write(index(), record, *RecordValue::encodeText(IndexLine::deletionMark(), lineRecordLength));
     return change.commit();
 }
@@ -192,6 +208,29 @@ AddressBook::SaveResult AddressBook::write(int record, const AddressEntry &entry
         change.write(index(), record, *line);
     result.isSaved = change.commit();
     return result;
+}
+
+QByteArray AddressBook::liveEntry(int record) const
+{
+    if (!isEntryRecord(record))
+        return {};
+    RecordFile file = entries();
+    file.create();
+    const QByteArray bytes = file.read(record);
+    return isEntry(bytes) && !addressLayout.decode(bytes).isEmpty() ? bytes : QByteArray();
+}
+
+int AddressBook::strayRecord(QStringView line) const
+{
+    const QByteArray wanted = AnsiText::encode(line);
+    int found = 0;
+    index().forEach(firstRecord, [&](int record, QByteArrayView bytes) {
+        if (RecordValue::textBytes(bytes) == wanted && liveEntry(record).isEmpty())
+            found = record;
+        // An empty line is listed in the first record only.
+        return found == 0 && !wanted.isEmpty() && record < overflowRecord;
+    });
+    return found;
 }
 
 bool AddressBook::isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const

@@ -27,6 +27,7 @@ public:
         int record = 0; ///< where the entry went; 0 when nothing was tried
         QString line;   ///< the entry's line for the name list
         bool isSaved = false;
+        bool isBookFull = false;    ///< nothing was tried: a new entry would take the place of another
         bool isLineTooLong = false; ///< no record can hold the line: none was written, an old one stays
     };
 
@@ -35,6 +36,7 @@ public:
         int record = 0; ///< 0: the line's number cannot be read, and there is no entry
         AddressEntry entry;
         bool mayChange = false; ///< false: the line bears another name than the entry
+        bool isStray = false;   ///< it leads to no entry and none stands in its own record: it may be removed
     };
 
     /// Reads entries one after another while `Addbk1.Fil` stays open: for pages of many of them.
@@ -62,7 +64,8 @@ public:
     /// The entry that `line` leads to, and whether it may be changed through it.
     Found open(QStringView line) const;
 
-    /// The number that the next new entry takes; 0 when the entries cannot be read to their end.
+    /// The number that the next new entry takes; 0 when the entries cannot be read to their end, and beyond
+    /// `overflowRecord` when the book is full.
     int nextFreeRecord() const;
 
     /// Writes `entry` to the first free record, and its line: both or, when the disk refuses, neither. The
@@ -75,6 +78,8 @@ public:
     /// Marks entry and line as deleted. False, with a line in the log and both as they were, when the disk
     /// refuses.
     [[nodiscard]] bool remove(int record);
+    /// Marks a stray line as deleted. False when there is none like it, or the disk refuses.
+    [[nodiscard]] bool removeStray(QStringView line);
 
     /// Visits the live entries in record order, in one pass over each file; the visitor returns false to
     /// stop. An entry is live when its own record of the index holds a line.
@@ -92,6 +97,10 @@ public:
 
 private:
     SaveResult write(int record, const AddressEntry &entry);
+    /// The bytes of an entry; empty where none stands.
+    QByteArray liveEntry(int record) const;
+    /// The record of the index in which this line stands while its own record holds no entry, or 0.
+    int strayRecord(QStringView line) const;
     /// Whether `line` is the one that `entry` left in its own record when its names grew too long for the
     /// index.
     bool isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const;

@@ -13,6 +13,13 @@ inline Message lastNameMissing()
     return {u"Save"_s, u"Last Name must be entered to save file!"_s};
 }
 
+/// All records are taken, the one behind the last too.
+inline Message bookFull()
+{
+    return {u"Save"_s, u"The address book is full: it holds 50,000 entries, and no more can be added.\n"
+                       u"Delete an entry that is not needed any more first. What you typed is still here."_s};
+}
+
 inline Message clearCurrentData()
 {
     return {u"Clear Current Data"_s,
@@ -122,6 +129,17 @@ inline QString notAPicture()
 inline QString lineWithoutNumber()
 {
     return u"The record number of this line cannot be read: the name is too long for the list."_s;
+}
+
+inline QString strayLine()
+{
+    return u"This line leads to no entry. Delete File takes it off the list."_s;
+}
+
+/// Its number leads nowhere, and yet an entry stands where the line does.
+inline QString lineBeforeEntry()
+{
+    return u"This line leads to no entry, but there is one in its place, which nobody would find without the line."_s;
 }
 
 inline QString lineOfAnotherEntry()

@@ -25,6 +25,8 @@ private slots:
     void choosesTheFreeRecord_data();
     void choosesTheFreeRecord();
     void aFullBookTakesTheRecordBehindIt();
+    void removesLinesThatLeadNowhere_data();
+    void removesLinesThatLeadNowhere();
     void opensWhatALineLeadsTo_data();
     void opensWhatALineLeadsTo();
     void keepsTheLineOfANameTooLong();
@@ -164,7 +166,41 @@ void TestAddressBook::aFullBookTakesTheRecordBehindIt()
     const AddressBook::SaveResult result = book().saveNew(anneLind());
     QCOMPARE(result.record, 50001);
     QCOMPARE(entries().size(), 50001 * 724);
+
+    const QByteArray full = entries();
+    const AddressBook::SaveResult refused = book().saveNew(anneLind());
+    QVERIFY(refused.isBookFull && !refused.isSaved);
+    QVERIFY(entries() == full);
+    QVERIFY(book().remove(50001));
     QCOMPARE(book().nextFreeRecord(), 50001);
+}
+
+void TestAddressBook::removesLinesThatLeadNowhere_data()
+{
+    rows<QByteArray, QByteArray, bool>({
+        {"to a record that was never written", lineOf("Lind, Anne", 9), neverWritten(724), true},
+        {"to a deleted entry", lineOf("Lind, Anne", 2), entryBytes({"*****"}, ""), true},
+        {"without a number", "Lind, Anne", neverWritten(724), true},
+        {"an empty one", "", neverWritten(724), true},
+        {"nowhere, in the place of an entry", lineOf("Lind, Anne", 9), lindBytes, false},
+        {"to its entry", lineOf("Lind, Anne", 2), lindBytes, false},
+    });
+}
+
+void TestAddressBook::removesLinesThatLeadNowhere()
+{
+    const auto [line, entry, isStray] = row<QByteArray, QByteArray, bool>();
+    put(first724 + entry, first60 + lineBytes(line) + lineBytes(lineOf("Quill, David", 3)));
+    QCOMPARE(book().loadNames().count(), 2);
+    const QString text = QString::fromLatin1(line);
+    QCOMPARE(book().open(text).isStray, isStray);
+    QCOMPARE(book().removeStray(text), isStray);
+    QCOMPARE(book().loadNames().count(), isStray ? 1 : 2);
+    QCOMPARE(entries(), first724 + entry);
+    QByteArray left = lineBytes(line);
+    if (isStray)
+        left.replace(0, 47, lineBytes(padded("#####", 45)).first(47)); // bytes behind the text mean nothing
+    QCOMPARE(lines().mid(60), left + lineBytes(lineOf("Quill, David", 3)));
 }
 
 void TestAddressBook::opensWhatALineLeadsTo_data()
@@ -173,7 +209,7 @@ void TestAddressBook::opensWhatALineLeadsTo_data()
         {"its entry", IndexLine::make(u"Lind", u"Anne", 2), 2, u"Lind"_s, true},
         {"no number", u"Lind, Anne"_s, 0, {}, false},
         {"another entry", u"Featherstone-Brookfield, Louis Vera Xenia 2nd     21"_s, 2, u"Lind"_s, false},
-        {"a deleted entry", IndexLine::make(u"Quill", u"David", 3), 3, u"*****"_s, false},
+        {"a deleted entry", IndexLine::make(u"Quill", u"David", 3), 3, {}, false},
         {"no entry", IndexLine::make(u"Quill", u"David", 9), 9, {}, false},
         {"no record", IndexLine::make(u"", u"", 99999), 99999, {}, false},
         {"the unused record", IndexLine::make(u"", u"", 1), 1, {}, false},
