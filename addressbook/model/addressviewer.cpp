@@ -99,6 +99,7 @@ void AddressViewer::load(Information information, const DisplayRange &range, int
     m_bytes.clear();
     m_rows.clear();
     readNames(mostRows);
+    m_isBookEmpty = m_rows.empty();
     readInformation();
     m_bytes.squeeze();
     refresh();
@@ -144,7 +145,8 @@ bool AddressViewer::isLongerThan(int mostRows) const
 
 void AddressViewer::readNames(int mostRows)
 {
-    const RecordFile lines = m_book.index();
+    RecordFile lines = m_book.index();
+    lines.create();
     const auto expected = std::size_t(std::min(lines.recordCount(), mostRows));
     m_rows.reserve(expected);
     m_bytes.reserve(qsizetype(expected) * 64);
@@ -180,7 +182,10 @@ void AddressViewer::readInformation()
     const std::vector<quint32> rows = rowsByRecord();
     const bool isNarrowed = m_range.kind != DisplayRange::All;
     std::size_t next = 0;
-    m_book.entries().forEach(AddressBook::firstRecord, [&](int record, QByteArrayView bytes) {
+    RecordFile entries = m_book.entries();
+    if (!m_isBookEmpty)
+        entries.create();
+    entries.forEach(AddressBook::firstRecord, [&](int record, QByteArrayView bytes) {
         for (; next < rows.size() && m_rows[rows[next]].record <= record; ++next) {
             Row &row = m_rows[rows[next]];
             row.isInRange = !isNarrowed || isInRange(bytes);

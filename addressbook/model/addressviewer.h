@@ -38,7 +38,8 @@ struct DisplayRange {
 };
 
 /// The rows of the viewer: a name and one piece of information for each live line of the name list, in record
-/// order, narrowed by month, by a search or by hand, and sorted. Nothing here writes. Rows keep the bytes of
+/// order, narrowed by month, by a search or by hand, and sorted. Nothing is written; a missing file is made,
+/// empty, as the address book does. Rows keep the bytes of
 /// the files and are decoded when they are shown, so that 50,000 of them are read in one pass over each file.
 class AddressViewer
 {
@@ -66,6 +67,8 @@ public:
     int record(int row) const;
     /// Rows of the book within the range, shown or not, without those that were removed.
     int nameCount() const;
+    /// Whether the book holds no line at all.
+    bool isBookEmpty() const { return m_isBookEmpty; }
 
     /// Shows only rows with `text` in the name or in the information, upper and lower case alike; blanks
     /// around it do not count. The empty text ends the search.
@@ -126,6 +129,7 @@ private:
     DisplayRange m_range;
     QString m_searchText;
     std::optional<Order> m_order;
+    bool m_isBookEmpty = true;
     QByteArray m_bytes; ///< names, then information
     std::vector<Row> m_rows;
     std::vector<quint32> m_shown; ///< indexes of `m_rows`

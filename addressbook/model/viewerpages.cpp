@@ -55,16 +55,18 @@ QString plainText(const AddressViewer &viewer, DateStyle style, QLatin1StringVie
     return text;
 }
 
-const QString &telephoneOf(const AddressEntry &entry)
+/// The number behind a name. One that has a column of its own does not stand there as well.
+QString telephoneOf(const AddressEntry &entry, Information column)
 {
-    return entry[HomePhone].isEmpty() ? entry[MobilePhone] : entry[HomePhone];
+    if (column == Information::HomePhone)
+        return {};
+    const bool isMobile = entry[HomePhone].isEmpty() && column != Information::MobilePhone;
+    return isMobile ? entry[MobilePhone] : entry[HomePhone];
 }
 
-/// Home numbers in a column of their own need not stand behind the names as well.
-bool hasColumn(const AddressViewer &viewer, const ViewerPages::ListOptions &options)
+bool hasColumn(const AddressViewer &viewer)
 {
-    const bool isTold = options.hasTelephones && viewer.information() == Information::HomePhone;
-    return viewer.information() != Information::Pictures && !isTold;
+    return viewer.information() != Information::Pictures;
 }
 
 /// The characters of a usual cell, from rows spread over the whole list.
@@ -89,7 +91,7 @@ double nameShare(const AddressViewer &viewer, const ViewerPages::ListOptions &op
     constexpr double leastInformation = 8;
     constexpr double least = 0.4, most = 0.8;
     double name = usualLength(viewer, &AddressViewer::name);
-    if (options.hasTelephones)
+    if (options.hasTelephones && viewer.information() != Information::HomePhone)
         name += telephoneLength;
     const double information = std::max(leastInformation, usualLength(viewer, &AddressViewer::information));
     return std::clamp(name / (name + information), least, most);
@@ -101,7 +103,7 @@ PageItem::Columns listColumns(const AddressViewer &viewer, const ViewerPages::Li
     PageItem::Columns columns;
     columns.weights = {1};
     columns.headings = {ViewerMessages::nameHeading()};
-    if (hasColumn(viewer, options)) {
+    if (hasColumn(viewer)) {
         const double share = nameShare(viewer, options);
         columns.weights = {share, 1 - share};
         columns.headings << ViewerPages::heading(viewer.information(), style);
@@ -191,7 +193,7 @@ Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, 
                               : QString());
     page.numberSheets(SheetNumbers::Title);
     page.table(listColumns(viewer, options, context.style));
-    const bool hasInformation = hasColumn(viewer, options);
+    const bool hasInformation = hasColumn(viewer);
     const TextRole role = options.isTwoColumns ? TextRole::Small : TextRole::Body;
     const auto addRow = [&](int row, const QString &telephone) {
         const QString name =
@@ -199,8 +201,8 @@ Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, 
         page.row(hasInformation ? QStringList{name, viewer.information(row)} : QStringList{name}, role);
     };
     if (options.hasTelephones) {
-        viewer.forEachShown([&addRow](int row, const AddressEntry &entry) {
-            addRow(row, telephoneOf(entry));
+        viewer.forEachShown([&](int row, const AddressEntry &entry) {
+            addRow(row, telephoneOf(entry, viewer.information()));
             return true;
         });
     } else {

@@ -18,7 +18,7 @@ QString heading(Information information, DateStyle style);
 
 /// What the panel of print options chooses for a list.
 struct ListOptions {
-    bool hasTelephones = false; ///< behind each name its home number, or the mobile one
+    bool hasTelephones = false; ///< behind each name its home number, or the mobile one, but not the column's
     bool hasAsOf = false;       ///< today's date on each page
     bool isTwoColumns = false;
     bool hasGridLines = false;

@@ -5,6 +5,7 @@
 #include "addressbook/model/viewermessages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/emptypage.h"
 #include "shell/controls/gridview.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/look/theme.h"
@@ -45,9 +46,15 @@ GridPane::GridPane(Program &program, QWidget *parent)
 {
     m_grid->setAccessibleName(u"Names and information"_s);
     m_grid->setModel(m_rows);
+    m_rowsAndFoot = new WholeRows(m_grid, makeFoot(), this);
+    m_emptyBook = named(new EmptyPage("address-book"_L1, u"Nobody is in the address book yet"_s,
+                                      u"Whoever is typed in on its Entry Screen is shown here."_s, this),
+                        u"emptyBook"_s);
+    m_emptyBook->hide();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(new WholeRows(m_grid, makeFoot(), this));
+    layout->addWidget(m_rowsAndFoot);
+    layout->addWidget(m_emptyBook);
     setFocusProxy(m_grid);
     connectGrid();
     rememberNameColumn();
@@ -203,6 +210,8 @@ void GridPane::followRows()
     if (m_rows->isEmpty() && m_rows->columnCount() > 1)
         m_grid->setSpan(0, 0, 1, m_rows->columnCount());
     m_isPlacing = false;
+    m_rowsAndFoot->setVisible(!viewer().isBookEmpty());
+    m_emptyBook->setVisible(viewer().isBookEmpty());
     placeNameColumn();
     refresh();
 }

@@ -78,6 +78,8 @@ private:
     QSettings &m_store;
     AddressGrid *m_rows;
     GridView *m_grid;
+    QWidget *m_rowsAndFoot = nullptr;
+    QWidget *m_emptyBook = nullptr; ///< stands in their place while nobody is in the book
     QLabel *m_count = nullptr;
     QPushButton *m_mode = nullptr;
     QHBoxLayout *m_foot = nullptr; ///< holds the count and the mode

@@ -7,6 +7,7 @@
 #include "addressbook/viewer/pictureprint.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
+#include "shell/controls/emptypage.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/workviews.h"
@@ -48,7 +49,12 @@ ADDBKDISPLAY2::ADDBKDISPLAY2(Program &program, QWidget *parent)
     layout->setContentsMargins(1, 1, 1, 1);
     m_views = new WorkViews(panel);
     m_enlarged = new EnlargedPicture(program.folder, u"normalPicture"_s, u"&Normal"_s);
-    m_views->addHome(makeGalleryPage());
+    m_galleryPage = makeGalleryPage();
+    m_emptyPage = named(new EmptyPage("picture"_L1, u"No entry has a picture yet"_s,
+                                      u"Load Picture on the address book's screen gives it one."_s),
+                        u"emptyPictures"_s);
+    m_views->addHome(m_galleryPage);
+    m_views->addHome(m_emptyPage);
     m_views->addPanel(m_enlarged);
     setViews(m_views);
     layout->addWidget(m_views);
@@ -131,7 +137,7 @@ QString ADDBKDISPLAY2::whyNoPicture() const
 void ADDBKDISPLAY2::showEvent(QShowEvent *event)
 {
     FunctionWindow::showEvent(event);
-    if (!std::exchange(m_hasWarned, true))
+    if (!m_pictures.empty() && !std::exchange(m_hasWarned, true))
         QMetaObject::invokeMethod(this, &ADDBKDISPLAY2::warn, Qt::QueuedConnection);
 }
 
@@ -147,6 +153,7 @@ void ADDBKDISPLAY2::readBook()
     m_viewer.load(Information::Pictures, {});
     m_pictures = ViewerPages::picturesOf(m_viewer);
     m_total->setText(ViewerMessages::pictureTotal(int(m_pictures.size())));
+    m_views->setHome(m_pictures.empty() ? m_emptyPage : m_galleryPage);
     showPage(std::min(m_steps->page(), pageCount() - 1));
 }
 

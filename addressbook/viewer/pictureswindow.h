@@ -43,7 +43,9 @@ private:
     std::vector<NamedPicture> m_pictures;
     bool m_hasWarned = false;
     PicturePrint *m_print;
-    WorkViews *m_views = nullptr; ///< the gallery; one picture over it
+    WorkViews *m_views = nullptr; ///< the gallery, or what stands in its place; one picture over it
+    QWidget *m_galleryPage = nullptr;
+    QWidget *m_emptyPage = nullptr;
     PageStepper *m_steps = nullptr;
     PictureGallery *m_gallery = nullptr;
     EnlargedPicture *m_enlarged = nullptr;

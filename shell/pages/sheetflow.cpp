@@ -33,6 +33,15 @@ QRectF inPoints(const QRectF &inches)
     return {inches.topLeft() * pointsPerInch, inches.size() * pointsPerInch};
 }
 
+/// "Page No. 1" behind the title is never parted.
+QString withUnbrokenNumber(QString title)
+{
+    const qsizetype at = title.lastIndexOf(u" - "_s) + 3;
+    if (at < 3)
+        return title;
+    return title.replace(at, title.size() - at, title.mid(at).replace(u' ', QChar::Nbsp));
+}
+
 } // namespace
 
 SheetFlow::SheetFlow(const PageLayout &layout, int number, QPainter *painter)
@@ -70,8 +79,9 @@ void SheetFlow::placeTitle()
     const PageType &right = types().headRight;
     const QString head = right.elided(page.headRight(), m_body.width() / 2);
     const double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + 2 * columnGap);
-    const QStringList lines =
-        title.shortened(title.wrapped(page.titleOf(m_number), titleWidth), titleLines, titleWidth);
+    const bool isNumbered = page.sheetNumbers() == SheetNumbers::Title;
+    const QString words = isNumbered ? withUnbrokenNumber(page.titleOf(m_number)) : page.titleOf(m_number);
+    const QStringList lines = title.shortened(title.wrapped(words, titleWidth), titleLines, titleWidth);
     for (const QString &line : lines) {
         if (m_painter)
             title.draw(*m_painter, {m_body.left(), m_y}, line);

@@ -199,7 +199,11 @@ void TestAddbkdisplay2::neverWaitsForPhotographs()
 void TestAddbkdisplay2::saysWhenThereIsNoPicture()
 {
     putPictures({});
-    open();
+    m_window = new ADDBKDISPLAY2(m_test->program);
+    showActive(*m_window);
+    QCoreApplication::processEvents();
+    QVERIFY(asked().isEmpty());
+    QVERIFY(find<QWidget>("emptyPictures")->isVisible());
     QCOMPARE(labelText("picturePage"), u"Page 1 of 1"_s);
     QVERIFY(!isOffered("enlargePicture"));
     QVERIFY(!find<QAction>("mOPrt")->isEnabled());
