@@ -11,7 +11,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <ranges>
 #include <tuple>
 
 namespace {
@@ -198,7 +197,8 @@ bool ChangeSet::takeNames(const DataFolder &folder, const Changes &changes)
 bool ChangeSet::restore(const std::vector<Former> &formers)
 {
     bool isRestored = true;
-    for (const Former &former : formers | std::views::reverse) {
+    for (auto it = formers.rbegin(); it != formers.rend(); ++it) {
+        const Former &former = *it;
         if (former.size < 0) {
             isRestored = Disk::remove(former.path) && isRestored;
             continue;
@@ -207,8 +207,8 @@ bool ChangeSet::restore(const std::vector<Former> &formers)
         if (former.places.empty())
             continue;
         bool isDone = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
-        for (const auto &[offset, bytes] : former.places | std::views::reverse)
-            isDone = isDone && Disk::writeAt(file, offset, bytes);
+        for (auto place = former.places.rbegin(); place != former.places.rend(); ++place)
+            isDone = isDone && Disk::writeAt(file, place->first, place->second);
         isRestored = isDone && file.resize(former.size) && Disk::flush(file) && isRestored;
     }
     return isRestored;

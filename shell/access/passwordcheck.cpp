@@ -253,7 +253,7 @@ PasswordCheck::Content PasswordCheck::read() const
     const QByteArray bytes = file.read(qint64(recordCount) * passwordFile.recordLength);
     if (file.error() != QFile::NoError)
         return damaged();
-    const Content content = parsed(bytes);
+    Content content = parsed(bytes);
     if (m_memory && content.state != State::Damaged)
         m_memory->file = bytes;
     return content;
