@@ -163,7 +163,7 @@ void TestLabelSheet::startsOnAUsedSheet_data()
 void TestLabelSheet::startsOnAUsedSheet()
 {
     const auto [labels, used, sheets] = row<int, int, int>();
-    const LabelSheet &sheet = sheetNamed(u"3 x 7"_s);
+    const LabelSheet sheet = sheetNamed(u"3 x 7"_s);
     LabelPages::Options options;
     options.used = used;
     const Page all = LabelPages::sheets(sheet, ::labels(labels), options);
@@ -186,7 +186,7 @@ void TestLabelSheet::writesEnvelopes()
 {
     LabelPages::Options options;
     options.returnAddress = u"Holm\n1 Elm Street"_s;
-    const LabelSheet &sheet = sheetNamed(u"DL"_s);
+    const LabelSheet sheet = sheetNamed(u"DL"_s);
     const auto placed = itemsOf<PageItem::PlacedText>(LabelPages::sheets(sheet, labels(2), options));
     QCOMPARE(placed.size(), 4);
     QCOMPARE(placed[2].text, options.returnAddress);
