@@ -3,13 +3,10 @@
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
-#include "shell/controls/flowtoolbar.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/sidesplitter.h"
-#include "shell/frame/toolbarcustomizer.h"
-#include "shell/frame/toolbarlayout.h"
-#include "shell/frame/toptoolbar.h"
 #include "shell/frame/windowplace.h"
+#include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "shell/preview/previewpane.h"
@@ -39,8 +36,10 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     , m_traits(std::move(traits))
     , m_activity(new ActivityBar(program.clock, program.state.dateStyle, this))
     , m_colors(new PanelColors(program, m_traits.colors, this, *m_activity))
-    , m_toolbar(named(new FlowToolBar(Qt::Horizontal, this), u"toolbar"_s))
     , m_commands(new Commands(this))
+    , m_standard(new StandardCommands(program, *m_commands, *m_colors, m_traits.helpContext, this))
+    , m_toolbar(named(new WindowToolbar(program, m_traits.topToolbar, *m_commands, *m_activity, this),
+                      u"toolbar"_s))
     , m_stack(new QStackedWidget(this))
 {
     setObjectName(m_traits.name);
@@ -62,11 +61,7 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     m_stack->addWidget(workPlace);
     setCentralWidget(content);
 
-    addMainMenuTool();
-    m_toolbar->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_toolbar, &QWidget::customContextMenuRequested, this, &FunctionWindow::showToolbarMenu);
-    connect(m_activity, &ActivityBar::restoreTopToolbarRequested, this, &FunctionWindow::restoreTopToolbar);
-    connect(&program.changes, &ProgramSignals::topToolbarChanged, this, &FunctionWindow::showTopToolbar);
+    m_standard->addMainMenuTool();
     connect(m_colors, &PanelColors::changed, this, [this] {
         if (m_preview)
             m_preview->setDeskColor(m_colors->panelColor());
@@ -202,51 +197,12 @@ QWidget *FunctionWindow::makePanel(const QString &name)
 
 QAction *FunctionWindow::standard(Standard command)
 {
-    if (const auto made = m_standard.find(command); made != m_standard.end())
-        return made->second;
-    const auto add = [this, command](const QString &name, const QString &caption, std::function<void()> run,
-                                     Commands::Reason unless = {}) {
-        return m_standard[command] =
-                   m_commands->add(nullptr, name, caption, std::move(run), std::move(unless));
-    };
-    const auto openBackup = [this] { m_program.functions.open(Function::Backup, m_program); };
-    const auto noBackup = [this] {
-        return m_program.functions.has(Function::Backup) ? QString() : FrameLines::backupNotThere();
-    };
-    switch (command) {
-    case Standard::PanelColor:
-        return add(u"mOC"_s, u"Panel C&olor"_s, [this] { m_colors->choosePanelColor(); });
-    case Standard::TextColor:
-        return add(u"mOTC"_s, u"&Text Color"_s, [this] { m_colors->chooseTextColor(); });
-    case Standard::Backup:
-        return add(u"mUB"_s, u"&Backup Files to Disk"_s, openBackup, noBackup);
-    case Standard::Restore:
-        return add(u"mUR"_s, u"&Restore Files from Disk"_s, openBackup, noBackup);
-    case Standard::Help:
-        return add(u"mH"_s, u"&Help"_s,
-                   [this] { emit m_program.changes.helpRequested(m_traits.helpContext); });
-    case Standard::Exit:
-        return add(u"mOEx"_s, u"E&xit"_s, [this] { close(); });
-    }
-    Q_UNREACHABLE();
+    return m_standard->action(command);
 }
 
 void FunctionWindow::addStandardTool(Standard command, const QString &name)
 {
-    QAction *action = standard(command);
-    switch (command) {
-    case Standard::PanelColor:
-        m_commands->tool(action, "palette"_L1, u"Panel Color"_s, name);
-        break;
-    case Standard::Backup:
-        m_commands->tool(action, "backup-command"_L1, u"Backup"_s, name);
-        break;
-    case Standard::Help:
-        m_commands->tool(action, "help"_L1, u"Help"_s, name.isEmpty() ? u"toolHelp"_s : name);
-        break;
-    default:
-        Q_UNREACHABLE(); // no toolbar has it
-    }
+    m_standard->addTool(command, name);
 }
 
 void FunctionWindow::addUtilitiesMenu()
@@ -267,21 +223,9 @@ QMenu *FunctionWindow::addMenu(const QString &name, const QString &caption)
     return menu;
 }
 
-void FunctionWindow::addMainMenuTool()
-{
-    QAction *mainMenu = m_commands->add(nullptr, u"mainMenu"_s, u"Main Menu"_s,
-                                        [this] { emit m_program.changes.mainMenuRequested(); });
-    mainMenu->setToolTip(u"Brings the main menu to the front"_s);
-    m_commands->tool(mainMenu, "home"_L1, u"Main Menu"_s);
-    m_commands->separateTools();
-}
-
 void FunctionWindow::finishFrame()
 {
-    m_toolbarLayout = new ToolbarLayout(m_program, m_toolbar, u"Toolbar1"_s + m_traits.name,
-                                        m_commands->tools(), m_commands->toolNames());
-    m_toolbarLayout->restore();
-    showTopToolbar();
+    m_toolbar->complete(u"Toolbar1"_s + m_traits.name);
     m_colors->load();
     WindowPlace::open(*this, m_traits.openingSize,
                       m_program.store.value(storeKey(u"geometry"_s)).toByteArray());
@@ -320,43 +264,6 @@ void FunctionWindow::keyPressEvent(QKeyEvent *event)
     } else {
         QMainWindow::keyPressEvent(event);
     }
-}
-
-void FunctionWindow::showTopToolbar()
-{
-    const bool isRemoved = TopToolbar::isRemoved(m_program, m_traits.topToolbar);
-    m_toolbar->setVisible(!isRemoved);
-    m_activity->offerTopToolbar(isRemoved);
-}
-
-void FunctionWindow::restoreTopToolbar()
-{
-    const bool isMarked =
-        m_program.settings.setNumber(SettingsKeys::sideToolbarMarker, SettingsKeys::sideToolbarsRemoved);
-    if (!TopToolbar::setRemoved(m_program, false) || !isMarked)
-        m_activity->say(FrameLines::settingNotSaved());
-    if (m_toolbarLayout)
-        m_toolbarLayout->restore();
-}
-
-void FunctionWindow::showToolbarMenu(const QPoint &place)
-{
-    auto *menu = named(new QMenu(this), u"toolbarMenu"_s);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction *remove = makeAction(u"removeTopToolbar"_s, u"&Remove Top Toolbar"_s, menu);
-    QAction *customize = makeAction(u"customizeToolbar"_s, u"&Customize Toolbar"_s, menu);
-    menu->addActions({remove, customize});
-    connect(remove, &QAction::triggered, this, [this] {
-        if (!TopToolbar::setRemoved(m_program, true))
-            m_activity->say(FrameLines::settingNotSaved());
-    });
-    connect(customize, &QAction::triggered, this, [this] {
-        ToolbarCustomizer customizer(*m_toolbarLayout, this);
-        m_program.dialogs.run(customizer);
-        if (!customizer.isSaved())
-            m_activity->say(FrameLines::settingNotSaved());
-    });
-    menu->popup(m_toolbar->mapToGlobal(place));
 }
 
 void FunctionWindow::showEvent(QShowEvent *event)

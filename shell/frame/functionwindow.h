@@ -6,6 +6,7 @@
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/panelcolors.h"
+#include "shell/frame/standardcommands.h"
 #include "shell/program/program.h"
 #include "storage/filestamp.h"
 
@@ -13,17 +14,15 @@
 #include <QMainWindow>
 #include <QPointer>
 
-#include <map>
 #include <optional>
 
 class ActivityBar;
-class FlowToolBar;
 class PreviewPane;
 class QMenu;
 class QStackedWidget;
 class QVBoxLayout;
 class SideSplitter;
-class ToolbarLayout;
+class WindowToolbar;
 class WorkViews;
 
 /// How a window of a function differs from the others in its frame.
@@ -35,16 +34,6 @@ struct WindowTraits {
     int helpContext = 0; ///< page of the manual that F1 opens
     TextSetting topToolbar = SettingsKeys::topToolbar;
     QSize openingSize{1280, 800};
-};
-
-/// The commands that every window has, by their given names and captions.
-enum class Standard {
-    PanelColor, ///< mOC
-    TextColor,  ///< mOTC
-    Backup,     ///< mUB
-    Restore,    ///< mUR
-    Help,       ///< mH
-    Exit        ///< mOEx
 };
 
 /// The frame of a function window: menu bar, one toolbar, the work area, the page preview in its place when a
@@ -122,7 +111,7 @@ protected:
     /// A panel: rounded, coloured by the user's panel colour, registered with `colors()`.
     QWidget *makePanel(const QString &name);
     /// The one toolbar; "Main Menu" stands first in it.
-    FlowToolBar &toolbar() const { return *m_toolbar; }
+    WindowToolbar &toolbar() const { return *m_toolbar; }
     /// A menu of the menu bar; menu and its action bear `name`.
     QMenu *addMenu(const QString &name, const QString &caption);
     /// Call once when menus and toolbar are complete: restores the toolbar's layout, colours and window
@@ -146,24 +135,19 @@ private:
         Answer colors = Answer::Ok;
     };
 
-    void addMainMenuTool();
     Answer askAbout(const Message &question);
-    void showTopToolbar();
-    void restoreTopToolbar();
-    void showToolbarMenu(const QPoint &place);
     QString storeKey(const QString &what) const;
 
     Program &m_program;
     WindowTraits m_traits;
     ActivityBar *m_activity;
     PanelColors *m_colors;
-    FlowToolBar *m_toolbar;
     Commands *m_commands;
+    StandardCommands *m_standard;
+    WindowToolbar *m_toolbar;
     QStackedWidget *m_stack;
     QVBoxLayout *m_workPlace;
-    ToolbarLayout *m_toolbarLayout = nullptr;
     PreviewPane *m_preview = nullptr; ///< made when first asked for
-    std::map<Standard, QAction *> m_standard;
     SideSplitter *m_sideSplitter = nullptr;
     WorkViews *m_views = nullptr;
     QPointer<QWidget> m_focusBeforePreview;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
-#include "shell/controls/flowtoolbar.h"
 #include "shell/core/settingskeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/sidesplitter.h"
+#include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "tests/support/rows.h"
