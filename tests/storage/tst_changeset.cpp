@@ -28,149 +28,136 @@ class TestChangeSet : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void writesAll();
-    void refusesWhatDoesNotFit();
-    void leavesEverythingWhereAStepIsRefused_data();
-    void leavesEverythingWhereAStepIsRefused();
-    void isOldOrNewAfterEveryFailure_data();
-    void isOldOrNewAfterEveryFailure();
-    void dropsWhatIsNoJournal_data();
-    void dropsWhatIsNoJournal();
+    void init()
+    {
+        m_test = std::make_unique<TestFolder>();
+        for (auto file = before.cbegin(); file != before.cend(); ++file)
+            m_test->put(file.key(), file.value());
+    }
+
+    void writesAll()
+    {
+        QVERIFY(change().commit());
+        QCOMPARE(filesOf(*m_test), after);
+    }
+
+    void refusesWhatDoesNotFit()
+    {
+        ChangeSet set = change();
+        expectWarning("^Refused to write 9 bytes");
+        set.write(RecordFile(m_test->path(first), 8), 1, "123456789");
+        QVERIFY(!set.commit());
+        QCOMPARE(filesOf(*m_test), before);
+    }
+
+    void leavesEverythingWhereAStepIsRefused_data()
+    {
+        rows<QString>({{"a folder in the place of a record file", second},
+                       {"a folder in the place of a whole file", whole},
+                       {"a folder in the place of the journal", ChangeSet::journalName},
+                       {"a folder where the whole file waits", whole + ChangeSet::waitingSuffix}});
+    }
+
+    void leavesEverythingWhereAStepIsRefused()
+    {
+        const auto [obstacle] = row<QString>();
+        QFile::remove(m_test->path(obstacle));
+        QVERIFY(QDir(m_test->folder().path()).mkpath(obstacle + u"/kept"_s));
+        const Files all = filesOf(*m_test);
+        expectWarning("^Cannot (write|replace|finish) ");
+        QVERIFY(!change().commit());
+        QCOMPARE(filesOf(*m_test), all);
+        // It can be tried again.
+        QVERIFY(QDir(m_test->path(obstacle)).removeRecursively());
+        QVERIFY(change().commit());
+        QCOMPARE(filesOf(*m_test), after);
+    }
+
+    void isOldOrNewAfterEveryFailure_data()
+    {
+        rows<DiskFailure>({{"a step refused", DiskFailure::OneStep}, {"the end", DiskFailure::TheEnd}});
+    }
+
+    void isOldOrNewAfterEveryFailure()
+    {
+        const auto [failure] = row<DiskFailure>();
+        int outcomes[2] = {0, 0};
+        int steps = 1;
+        for (int refused = 1; refused <= steps + 1; ++refused) {
+            init();
+            bool isDone = false;
+            {
+                const FailingDisk disk(failure, refused);
+                isDone = change().commit();
+                steps = disk.steps();
+            }
+            if (failure == DiskFailure::OneStep)
+                QCOMPARE(m_test->bytes(first), isDone ? after[first] : before[first]);
+            QVERIFY(ChangeSet::recover(m_test->folder()));
+            const Files files = filesOf(*m_test);
+            QVERIFY2(files == before || files == after, qPrintable(u"step %1"_s.arg(refused)));
+            if (isDone)
+                QCOMPARE(files, after);
+            ++outcomes[files == after];
+        }
+        QVERIFY(outcomes[0] > 2);
+        QVERIFY(outcomes[1] > 1);
+    }
+
+    void dropsWhatIsNoJournal_data()
+    {
+        rows<QByteArray>({{"empty", ""},
+                          {"foreign", "Quillery was here, long enough to have room for a checksum."},
+                          {"cut short", "cut"},
+                          {"a bit turned", "bit"}});
+    }
+
+    void dropsWhatIsNoJournal()
+    {
+        auto [content] = row<QByteArray>();
+        if (content.size() == 3) {
+            // The program ends when the journal is on the disk.
+            {
+                const FailingDisk disk(DiskFailure::TheEnd, 5);
+                QVERIFY(!change().commit());
+            }
+            QByteArray journal = m_test->bytes(ChangeSet::journalName);
+            QVERIFY(!journal.isEmpty());
+            if (content == "cut")
+                journal.chop(1);
+            else
+                journal[20] = char(journal[20] ^ 1);
+            content = journal;
+        }
+        m_test->put(ChangeSet::journalName, content);
+        QVERIFY(ChangeSet::recover(m_test->folder()));
+        QCOMPARE(filesOf(*m_test), before);
+    }
 
 private:
-    static Files filesOf(const TestFolder &folder);
+    static Files filesOf(const TestFolder &folder)
+    {
+        Files files;
+        for (const QString &name :
+             QDir(folder.folder().path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
+            files[name] = folder.bytes(name);
+        return files;
+    }
+
     /// The change that makes `after` from `before`.
-    ChangeSet change() const;
+    ChangeSet change() const
+    {
+        const DataFolder &folder = m_test->folder();
+        ChangeSet set(folder);
+        set.write(RecordFile(folder.filePath(first), 8), 2, "aaa");
+        set.write(RecordFile(folder.filePath(second), 8), 1, "12345678");
+        set.replace(whole, "new");
+        set.write(RecordFile(folder.filePath(first), 8), 3, "bb");
+        return set;
+    }
 
     std::unique_ptr<TestFolder> m_test;
 };
-
-void TestChangeSet::init()
-{
-    m_test = std::make_unique<TestFolder>();
-    for (auto file = before.cbegin(); file != before.cend(); ++file)
-        m_test->put(file.key(), file.value());
-}
-
-Files TestChangeSet::filesOf(const TestFolder &folder)
-{
-    Files files;
-    for (const QString &name :
-         QDir(folder.folder().path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
-        files[name] = folder.bytes(name);
-    return files;
-}
-
-ChangeSet TestChangeSet::change() const
-{
-    const DataFolder &folder = m_test->folder();
-    ChangeSet set(folder);
-    set.write(RecordFile(folder.filePath(first), 8), 2, "aaa");
-    set.write(RecordFile(folder.filePath(second), 8), 1, "12345678");
-    set.replace(whole, "new");
-    set.write(RecordFile(folder.filePath(first), 8), 3, "bb");
-    return set;
-}
-
-void TestChangeSet::writesAll()
-{
-    QVERIFY(change().commit());
-    QCOMPARE(filesOf(*m_test), after);
-}
-
-void TestChangeSet::refusesWhatDoesNotFit()
-{
-    ChangeSet set = change();
-    expectWarning("^Refused to write 9 bytes");
-    set.write(RecordFile(m_test->path(first), 8), 1, "123456789");
-    QVERIFY(!set.commit());
-    QCOMPARE(filesOf(*m_test), before);
-}
-
-void TestChangeSet::leavesEverythingWhereAStepIsRefused_data()
-{
-    rows<QString>({{"a folder in the place of a record file", second},
-                   {"a folder in the place of a whole file", whole},
-                   {"a folder in the place of the journal", ChangeSet::journalName},
-                   {"a folder where the whole file waits", whole + ChangeSet::waitingSuffix}});
-}
-
-void TestChangeSet::leavesEverythingWhereAStepIsRefused()
-{
-    const auto [obstacle] = row<QString>();
-    QFile::remove(m_test->path(obstacle));
-    QVERIFY(QDir(m_test->folder().path()).mkpath(obstacle + u"/kept"_s));
-    const Files all = filesOf(*m_test);
-    expectWarning("^Cannot (write|replace|finish) ");
-    QVERIFY(!change().commit());
-    QCOMPARE(filesOf(*m_test), all);
-    // It can be tried again.
-    QVERIFY(QDir(m_test->path(obstacle)).removeRecursively());
-    QVERIFY(change().commit());
-    QCOMPARE(filesOf(*m_test), after);
-}
-
-void TestChangeSet::isOldOrNewAfterEveryFailure_data()
-{
-    rows<DiskFailure>({{"a step refused", DiskFailure::OneStep}, {"the end", DiskFailure::TheEnd}});
-}
-
-void TestChangeSet::isOldOrNewAfterEveryFailure()
-{
-    const auto [failure] = row<DiskFailure>();
-    int outcomes[2] = {0, 0};
-    int steps = 1;
-    for (int refused = 1; refused <= steps + 1; ++refused) {
-        init();
-        bool isDone = false;
-        {
-            const FailingDisk disk(failure, refused);
-            isDone = change().commit();
-            steps = disk.steps();
-        }
-        if (failure == DiskFailure::OneStep)
-            QCOMPARE(m_test->bytes(first), isDone ? after[first] : before[first]);
-        QVERIFY(ChangeSet::recover(m_test->folder()));
-        const Files files = filesOf(*m_test);
-        QVERIFY2(files == before || files == after, qPrintable(u"step %1"_s.arg(refused)));
-        if (isDone)
-            QCOMPARE(files, after);
-        ++outcomes[files == after];
-    }
-    QVERIFY(outcomes[0] > 2);
-    QVERIFY(outcomes[1] > 1);
-}
-
-void TestChangeSet::dropsWhatIsNoJournal_data()
-{
-    rows<QByteArray>({{"empty", ""},
-                      {"foreign", "Quillery was here, long enough to have room for a checksum."},
-                      {"cut short", "cut"},
-                      {"a bit turned", "bit"}});
-}
-
-void TestChangeSet::dropsWhatIsNoJournal()
-{
-    auto [content] = row<QByteArray>();
-    if (content.size() == 3) {
-        // The program ends when the journal is on the disk.
-        {
-            const FailingDisk disk(DiskFailure::TheEnd, 5);
-            QVERIFY(!change().commit());
-        }
-        QByteArray journal = m_test->bytes(ChangeSet::journalName);
-        QVERIFY(!journal.isEmpty());
-        if (content == "cut")
-            journal.chop(1);
-        else
-            journal[20] = char(journal[20] ^ 1);
-        content = journal;
-    }
-    m_test->put(ChangeSet::journalName, content);
-    QVERIFY(ChangeSet::recover(m_test->folder()));
-    QCOMPARE(filesOf(*m_test), before);
-}
 
 QTEST_APPLESS_MAIN(TestChangeSet)
 #include "tst_changeset.moc"

@@ -14,12 +14,69 @@ class TestFolderLock : public QObject
 
 private slots:
     void init() { m_dir = std::make_unique<QTemporaryDir>(); }
-    void onlyOneHoldsAFolder();
-    void takesOverALockThatNobodyAnswersFor();
-    void takesOverTheLockOfADeadProgram();
-    void takesOverADamagedLock_data();
-    void takesOverADamagedLock();
-    void runsWhereNoLockCanBeMade();
+
+    void onlyOneHoldsAFolder()
+    {
+        {
+            FolderLock first = lock();
+            QVERIFY(first.take());
+            QVERIFY(!lock().take());
+            const QTemporaryDir other;
+            QVERIFY(FolderLock(DataFolder(other.path())).take());
+            // A damaged lock is respected while it is held.
+            QVERIFY(makeFile(lockPath(), ""));
+            QVERIFY(!lock().take());
+        }
+        QVERIFY(lock().take());
+    }
+
+    void takesOverALockThatNobodyAnswersFor()
+    {
+        FolderLock held = lock();
+        QVERIFY(held.take());
+        // A copy of the folder brings the lock of the program that runs on the original.
+        FolderLock copied = lock();
+        QVERIFY(!copied.take());
+        QVERIFY(copied.holder().contains(QString::number(QCoreApplication::applicationPid())));
+        QVERIFY(copied.takeOver());
+        QVERIFY(!lock().take());
+    }
+
+    void takesOverTheLockOfADeadProgram()
+    {
+        QProcess process;
+        process.start(u"sleep"_s, {u"60"_s});
+        if (!process.waitForStarted())
+            QSKIP("needs a program to end");
+        const QByteArray id = QByteArray::number(process.processId());
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        QVERIFY(makeFile(lockPath(), id + "\nquillery\n" + QSysInfo::machineHostName().toUtf8() + '\n'));
+        QVERIFY(lock().take());
+    }
+
+    void takesOverADamagedLock_data()
+    {
+        rows<QByteArray>({{"empty", {}}, {"zeros", QByteArray(64, '\0')}, {"noise", "\x9F\x01 no number\n"}});
+    }
+
+    void takesOverADamagedLock()
+    {
+        const auto [content] = row<QByteArray>();
+        QVERIFY(makeFile(lockPath(), content));
+        QVERIFY(lock().take());
+    }
+
+    void runsWhereNoLockCanBeMade()
+    {
+        expectWarning("^Running without a lock");
+        QVERIFY(FolderLock(DataFolder(m_dir->filePath(u"missing"_s))).take());
+
+        QVERIFY(QDir().mkdir(lockPath()));
+        expectWarning("^Running without a lock");
+        QVERIFY(lock().take());
+        QVERIFY(QFileInfo(lockPath()).isDir());
+    }
 
 private:
     QString lockPath() const { return m_dir->filePath(u"Quillery.lock"_s); }
@@ -27,69 +84,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-void TestFolderLock::onlyOneHoldsAFolder()
-{
-    {
-        FolderLock first = lock();
-        QVERIFY(first.take());
-        QVERIFY(!lock().take());
-        const QTemporaryDir other;
-        QVERIFY(FolderLock(DataFolder(other.path())).take());
-        // A damaged lock is respected while it is held.
-        QVERIFY(makeFile(lockPath(), ""));
-        QVERIFY(!lock().take());
-    }
-    QVERIFY(lock().take());
-}
-
-void TestFolderLock::takesOverALockThatNobodyAnswersFor()
-{
-    FolderLock held = lock();
-    QVERIFY(held.take());
-    // A copy of the folder brings the lock of the program that runs on the original.
-    FolderLock copied = lock();
-    QVERIFY(!copied.take());
-    QVERIFY(copied.holder().contains(QString::number(QCoreApplication::applicationPid())));
-    QVERIFY(copied.takeOver());
-    QVERIFY(!lock().take());
-}
-
-void TestFolderLock::takesOverTheLockOfADeadProgram()
-{
-    QProcess process;
-    process.start(u"sleep"_s, {u"60"_s});
-    if (!process.waitForStarted())
-        QSKIP("needs a program to end");
-    const QByteArray id = QByteArray::number(process.processId());
-    process.kill();
-    QVERIFY(process.waitForFinished());
-    QVERIFY(makeFile(lockPath(), id + "\nquillery\n" + QSysInfo::machineHostName().toUtf8() + '\n'));
-    QVERIFY(lock().take());
-}
-
-void TestFolderLock::takesOverADamagedLock_data()
-{
-    rows<QByteArray>({{"empty", {}}, {"zeros", QByteArray(64, '\0')}, {"noise", "\x9F\x01 no number\n"}});
-}
-
-void TestFolderLock::takesOverADamagedLock()
-{
-    const auto [content] = row<QByteArray>();
-    QVERIFY(makeFile(lockPath(), content));
-    QVERIFY(lock().take());
-}
-
-void TestFolderLock::runsWhereNoLockCanBeMade()
-{
-    expectWarning("^Running without a lock");
-    QVERIFY(FolderLock(DataFolder(m_dir->filePath(u"missing"_s))).take());
-
-    QVERIFY(QDir().mkdir(lockPath()));
-    expectWarning("^Running without a lock");
-    QVERIFY(lock().take());
-    QVERIFY(QFileInfo(lockPath()).isDir());
-}
 
 QTEST_GUILESS_MAIN(TestFolderLock)
 #include "tst_folderlock.moc"

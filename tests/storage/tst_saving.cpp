@@ -24,16 +24,91 @@ class TestSaving : public QObject
 
 private slots:
     void init() { m_files = std::make_unique<TestFolder>(); }
-    void replacesAFile();
-    void keepsTheOldFileOnAFullDisk();
-    void keepsAFolderInTheFilesPlace();
-    void failsInAMissingFolder();
-    void finishesWhatACrashInterrupted_data();
-    void finishesWhatACrashInterrupted();
+
+    void replacesAFile()
+    {
+        m_files->put(u"WEIGHTTRKER.FIL"_s, "old");
+        QVERIFY(replace(u"WeightTrker.Fil"_s, "new"));
+        QVERIFY(replace(name, "first, longer"));
+        QCOMPARE(files(), (Files{{name, "first, longer"}, {u"WEIGHTTRKER.FIL"_s, "new"}}));
+        for (const QByteArray &content : {"second"_ba, ""_ba}) {
+            QVERIFY(replace(name, content));
+            QCOMPARE(files()[name], content);
+        }
+        QCOMPARE(files().size(), 2);
+    }
+
+    void keepsTheOldFileOnAFullDisk()
+    {
+#ifdef Q_OS_UNIX
+        m_files->put(name, "old");
+        expectWarning("^Cannot write .*2026.Fil");
+        {
+            const FileSizeLimit limit(1024 * 1024);
+            QVERIFY(!replace(name, QByteArray(1024 * 1024 + 1, 'x')));
+        }
+        QCOMPARE(files(), (Files{{ name, "old" }}));
+#else
+        QSKIP("needs a limit on file sizes");
+#endif
+    }
+
+    void keepsAFolderInTheFilesPlace()
+    {
+        QVERIFY(QDir().mkdir(m_files->path(name)));
+        m_files->put(name + u"/inside", "kept");
+        expectWarning("^Cannot replace .*2026.Fil");
+        QVERIFY(!replace(name, "new"));
+        QCOMPARE(files(), (Files{{name + u"/inside", "kept"}}));
+    }
+
+    void failsInAMissingFolder()
+    {
+        expectWarning("^Cannot write .*2026.Fil");
+        QVERIFY(!Saving::replaceFile(DataFolder(m_files->path(u"missing"_s)), name, "new"));
+        QVERIFY(!QFile::exists(m_files->path(u"missing"_s)));
+    }
+
+    void finishesWhatACrashInterrupted_data()
+    {
+        const Files others{{u"film.part"_s, "x"}, {u".quillery-part"_s, "x"}};
+        rows<Files, Files>({
+            {"nothing happened", {{name, "old"}}, {{name, "old"}}},
+            {"while writing", {{name, "old"}, {part, "ne"}}, {{name, "old"}}},
+            {"while writing the first time", {{part, "ne"}}, {}},
+            {"all on disk, old file there", {{name, "old"}, {staged, "new"}}, {{name, "old"}}},
+            {"old file gone", {{staged, "new"}}, {{name, "new"}}},
+            {"old file emptied", {{name, ""}, {staged, "new"}}, {{name, "new"}}},
+            {"old file emptied, other spelling",
+             {{u"2026.FIL"_s, ""}, {staged, "new"}},
+             {{u"2026.FIL"_s, "new"}}},
+            {"files of others", others, others},
+        });
+    }
+
+    void finishesWhatACrashInterrupted()
+    {
+        const auto [before, after] = row<Files, Files>();
+        for (auto file = before.cbegin(); file != before.cend(); ++file)
+            m_files->put(file.key(), file.value());
+        Saving::recover(m_files->folder());
+        QCOMPARE(files(), after);
+    }
 
 private:
     /// All files of the folder, those of its folders too.
-    Files files() const;
+    Files files() const
+    {
+        const QDir folder(m_files->path({}));
+        Files files;
+        QDirIterator all(folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (all.hasNext()) {
+            const QString path = all.next();
+            files[folder.relativeFilePath(path)] = contentOf(path);
+        }
+        return files;
+    }
+
     [[nodiscard]] bool replace(const QString &file, const QByteArray &content) const
     {
         return Saving::replaceFile(m_files->folder(), file, content);
@@ -41,88 +116,6 @@ private:
 
     std::unique_ptr<TestFolder> m_files;
 };
-
-Files TestSaving::files() const
-{
-    const QDir folder(m_files->path({}));
-    Files files;
-    QDirIterator all(folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (all.hasNext()) {
-        const QString path = all.next();
-        files[folder.relativeFilePath(path)] = contentOf(path);
-    }
-    return files;
-}
-
-void TestSaving::replacesAFile()
-{
-    m_files->put(u"WEIGHTTRKER.FIL"_s, "old");
-    QVERIFY(replace(u"WeightTrker.Fil"_s, "new"));
-    QVERIFY(replace(name, "first, longer"));
-    QCOMPARE(files(), (Files{{name, "first, longer"}, {u"WEIGHTTRKER.FIL"_s, "new"}}));
-    for (const QByteArray &content : {"second"_ba, ""_ba}) {
-        QVERIFY(replace(name, content));
-        QCOMPARE(files()[name], content);
-    }
-    QCOMPARE(files().size(), 2);
-}
-
-void TestSaving::keepsTheOldFileOnAFullDisk()
-{
-#ifdef Q_OS_UNIX
-    m_files->put(name, "old");
-    expectWarning("^Cannot write .*2026.Fil");
-    {
-        const FileSizeLimit limit(1024 * 1024);
-        QVERIFY(!replace(name, QByteArray(1024 * 1024 + 1, 'x')));
-    }
-    QCOMPARE(files(), (Files{{name, "old"}}));
-#else
-    QSKIP("needs a limit on file sizes");
-#endif
-}
-
-void TestSaving::keepsAFolderInTheFilesPlace()
-{
-    QVERIFY(QDir().mkdir(m_files->path(name)));
-    m_files->put(name + u"/inside", "kept");
-    expectWarning("^Cannot replace .*2026.Fil");
-    QVERIFY(!replace(name, "new"));
-    QCOMPARE(files(), (Files{{name + u"/inside", "kept"}}));
-}
-
-void TestSaving::failsInAMissingFolder()
-{
-    expectWarning("^Cannot write .*2026.Fil");
-    QVERIFY(!Saving::replaceFile(DataFolder(m_files->path(u"missing"_s)), name, "new"));
-    QVERIFY(!QFile::exists(m_files->path(u"missing"_s)));
-}
-
-void TestSaving::finishesWhatACrashInterrupted_data()
-{
-    const Files others{{u"film.part"_s, "x"}, {u".quillery-part"_s, "x"}};
-    rows<Files, Files>({
-        {"nothing happened", {{name, "old"}}, {{name, "old"}}},
-        {"while writing", {{name, "old"}, {part, "ne"}}, {{name, "old"}}},
-        {"while writing the first time", {{part, "ne"}}, {}},
-        {"all on disk, old file there", {{name, "old"}, {staged, "new"}}, {{name, "old"}}},
-        {"old file gone", {{staged, "new"}}, {{name, "new"}}},
-        {"old file emptied", {{name, ""}, {staged, "new"}}, {{name, "new"}}},
-        {"old file emptied, other spelling",
-         {{u"2026.FIL"_s, ""}, {staged, "new"}},
-         {{u"2026.FIL"_s, "new"}}},
-        {"files of others", others, others},
-    });
-}
-
-void TestSaving::finishesWhatACrashInterrupted()
-{
-    const auto [before, after] = row<Files, Files>();
-    for (auto file = before.cbegin(); file != before.cend(); ++file)
-        m_files->put(file.key(), file.value());
-    Saving::recover(m_files->folder());
-    QCOMPARE(files(), after);
-}
 
 QTEST_APPLESS_MAIN(TestSaving)
 #include "tst_saving.moc"

@@ -19,205 +19,192 @@ private slots:
     void init() { open(TestProgram::Household); }
     void cleanup() { close(); }
 
-    void picksDates();
-    void closesTheCalendar();
-    void tidiesDatesBeforeTheyAreSaved();
-    void tellsWhatTheDatesMean();
-    void hintsAtNamesTooLongForTheList();
-    void showsPicturesWhereverTheyAre();
-    void takesAPictureFromThePanel();
-    void dials();
-    void copiesTheEntry();
-    void showsWhatItPrints();
-    void leavesPanelsWhereTheUserIs();
-    void warnsBeforePrintingManyPictures();
-};
-
-void TestAddbkcommands::picksDates()
-{
-    auto *calendar = find<MonthView>("MonthView1");
-    QVERIFY(!calendar->isVisible());
-    click("Command6");
-    const std::pair<int, DateStyle> turns[] = {{2, DateStyle::Other}, {12, DateStyle::Usa}};
-    for (const auto &[field, style] : turns) {
-        m_test->state.dateStyle = style;
-        box(field)->setFocus(Qt::TabFocusReason);
-        QVERIFY(calendar->isVisible());
-        QCOMPARE(calendar->selectedDate(), QDate(2026, 11, 21));
-        emit calendar->clicked(QDate(2026, 11, 17));
-        QCOMPARE(box(field)->text(), style == DateStyle::Usa ? u"Nov-17-2026"_s : u"17-Nov-2026"_s);
+    void picksDates()
+    {
+        auto *calendar = find<MonthView>("MonthView1");
         QVERIFY(!calendar->isVisible());
-        QVERIFY(box(field)->hasFocus());
-        QTest::mouseClick(box(field), Qt::LeftButton);
-        QVERIFY(calendar->isVisible());
-        QCOMPARE(calendar->selectedDate(), QDate(2026, 11, 17));
+        click("Command6");
+        const std::pair<int, DateStyle> turns[] = {{2, DateStyle::Other}, {12, DateStyle::Usa}};
+        for (const auto &[field, style] : turns) {
+            m_test->state.dateStyle = style;
+            box(field)->setFocus(Qt::TabFocusReason);
+            QVERIFY(calendar->isVisible());
+            QCOMPARE(calendar->selectedDate(), QDate(2026, 11, 21));
+            emit calendar->clicked(QDate(2026, 11, 17));
+            QCOMPARE(box(field)->text(), style == DateStyle::Usa ? u"Nov-17-2026"_s : u"17-Nov-2026"_s);
+            QVERIFY(!calendar->isVisible());
+            QVERIFY(box(field)->hasFocus());
+            QTest::mouseClick(box(field), Qt::LeftButton);
+            QVERIFY(calendar->isVisible());
+            QCOMPARE(calendar->selectedDate(), QDate(2026, 11, 17));
+        }
     }
-}
 
-void TestAddbkcommands::closesTheCalendar()
-{
-    auto *calendar = find<MonthView>("MonthView1");
-    click("Command6");
-    const auto open = [&] {
-        box(1)->setFocus();
-        QTest::keyClick(box(1), Qt::Key_Tab);
-        return calendar->isVisible();
-    };
-    QVERIFY(open());
-    QTest::keyClick(box(2), Qt::Key_Escape);
-    QVERIFY(!calendar->isVisible());
-    QVERIFY(m_window->isVisible());
-
-    QVERIFY(open());
-    QTest::keyClick(box(2), Qt::Key_Tab);
-    QTRY_VERIFY(!calendar->isVisible());
-
-    QVERIFY(open());
-    QTest::mouseClick(find<QWidget>("Panel3D1"), Qt::LeftButton, {}, QPoint(12, 12));
-    QVERIFY(!calendar->isVisible());
-
-    QVERIFY(open());
-    QTest::keyClick(box(2), Qt::Key_Down);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QCOMPARE(box(2)->text(), u"Nov-22-2026"_s);
-    QVERIFY(!calendar->isVisible());
-}
-
-/// An access key saves without leaving the box.
-void TestAddbkcommands::tidiesDatesBeforeTheyAreSaved()
-{
-    select(0);
-    click("Command4");
-    type(2, u"11/24/1978"_s);
-    trigger("mOMod");
-    QCOMPARE(box(2)->text(), u"Nov-24-1978"_s);
-    QVERIFY(record(2).contains("Nov-24-1978"));
-}
-
-void TestAddbkcommands::tellsWhatTheDatesMean()
-{
-    click("Command6");
-    type(2, u"Nov-24-1978"_s);
-    type(12, u"Jun-12-2004"_s);
-    QCOMPARE(labelText("birthFact"), u"Birthday on Tuesday, turning 48"_s);
-    QCOMPARE(labelText("anniversaryFact"), u"23 years in June"_s);
-}
-
-void TestAddbkcommands::hintsAtNamesTooLongForTheList()
-{
-    const auto *hint = find<QLabel>("nameHint");
-    click("Command6");
-    type(0, u"Featherstone-Brookfield"_s);
-    type(1, u"Frank David Marta"_s);
-    QVERIFY(!hint->isVisible());
-    type(1, u"Frank David Martas"_s);
-    QVERIFY(hint->isVisible());
-    QCOMPARE(hint->text(), AddressMessages::nameTooLong());
-}
-
-void TestAddbkcommands::showsPicturesWhereverTheyAre()
-{
-    auto *frame = find<PictureFrame>("Image1");
-    QVERIFY(frame->hasPicture()); // stored under C:\QUILLERY, found in the Pictures folder
-    select(1);
-    QVERIFY(!frame->hasPicture());
-    QCOMPARE(frame->words(), u"No Picture Currently Loaded"_s);
-    QVERIFY(said().isEmpty());
-    select(7);
-    QVERIFY(!frame->hasPicture());
-    QVERIFY(said().contains(u"moved away.jpg"_s));
-    select(0);
-    click("pictureEnlarge");
-    QVERIFY(find<PictureFrame>("enlargedPicture")->isVisible());
-    click("pictureNormal");
-    QVERIFY(frame->isVisible());
-}
-
-void TestAddbkcommands::takesAPictureFromThePanel()
-{
-    const QString path = m_test->path(u"Pictures/photo03.jpg"_s);
-    select(2);
-    click("Command7");
-    QVERIFY(find<QWidget>("picturePanel")->isVisible());
-    auto *files = find<QListWidget>("File1");
-    files->setCurrentItem(files->findItems(u"photo03.jpg"_s, Qt::MatchExactly).value(0));
-    click("pictureEnter");
-    QVERIFY(find<PictureFrame>("Image1")->hasPicture());
-    QVERIFY(m_window->isModified());
-    click("Command4");
-    QCOMPARE(record(4).mid(520, 200), path.toLatin1().leftJustified(200, ' '));
-    click("Command7");
-    click("pictureDelete");
-    click("Command4");
-    QCOMPARE(record(4).mid(520, 200), QByteArray("**").leftJustified(200, ' '));
-}
-
-void TestAddbkcommands::dials()
-{
-    m_test->dialogs.willAnswer(Answer::Cancel);
-    click("Image2_0");
-    QCOMPARE(asked(), {AddressMessages::numberDialed(u"(440) 555-0100"_s)});
-    QVERIFY(m_line.log.contains(u"ATDT (440) 555-0100;\r"_s));
-    QVERIFY(!find<QLabel>("Label3")->isVisible());
-
-    m_line.workingPorts = {101};
-    m_test->dialogs.willInput(u"101"_s);
-    m_test->dialogs.willAnswer(Answer::Ok);
-    m_test->dialogs.willAnswer(Answer::Ok);
-    click("Image2_1");
-    QCOMPARE(asked(), QList<Message>({AddressMessages::portNotAvailable(3),
-                                      AddressMessages::numberDialed(u"440 555 0100"_s)}));
-    QVERIFY(m_test->dialogs.takePrompts().contains(AddressMessages::newPortPrompt()));
-    QCOMPARE(m_test->settings.number(SettingsKeys::modemPort), 101);
-    QVERIFY(m_line.log.contains(u"ATDT 440 555 0100;\r"_s));
-}
-
-void TestAddbkcommands::copiesTheEntry()
-{
-    for (const char *command : {"mOCopy", "mECopy"}) {
-        QApplication::clipboard()->clear();
-        trigger(command);
-        QCOMPARE(asked(), {AddressMessages::dataCopied()});
-        QVERIFY(QApplication::clipboard()->text().contains(u"160 High Street"_s));
-    }
-}
-
-void TestAddbkcommands::showsWhatItPrints()
-{
-    for (const char *command : {"mOPrt", "mOW"}) {
-        trigger(command);
-        QVERIFY(m_window->isPreviewShown());
-        QTest::keyClick(m_window, Qt::Key_Escape);
-        QVERIFY(!m_window->isPreviewShown());
+    void closesTheCalendar()
+    {
+        auto *calendar = find<MonthView>("MonthView1");
+        click("Command6");
+        const auto open = [&] {
+            box(1)->setFocus();
+            QTest::keyClick(box(1), Qt::Key_Tab);
+            return calendar->isVisible();
+        };
+        QVERIFY(open());
+        QTest::keyClick(box(2), Qt::Key_Escape);
+        QVERIFY(!calendar->isVisible());
         QVERIFY(m_window->isVisible());
+
+        QVERIFY(open());
+        QTest::keyClick(box(2), Qt::Key_Tab);
+        QTRY_VERIFY(!calendar->isVisible());
+
+        QVERIFY(open());
+        QTest::mouseClick(find<QWidget>("Panel3D1"), Qt::LeftButton, {}, QPoint(12, 12));
+        QVERIFY(!calendar->isVisible());
+
+        QVERIFY(open());
+        QTest::keyClick(box(2), Qt::Key_Down);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(box(2)->text(), u"Nov-22-2026"_s);
+        QVERIFY(!calendar->isVisible());
     }
-}
 
-void TestAddbkcommands::leavesPanelsWhereTheUserIs()
-{
-    click("Command5");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    QVERIFY(find<QWidget>("Command5")->hasFocus());
-    click("Command5");
-    clickRow(3); // another entry takes the panel's place
-    QVERIFY(box(0)->isVisible());
-    QVERIFY(list()->hasFocus());
-}
+    /// An access key saves without leaving the box.
+    void tidiesDatesBeforeTheyAreSaved()
+    {
+        select(0);
+        click("Command4");
+        type(2, u"11/24/1978"_s);
+        trigger("mOMod");
+        QCOMPARE(box(2)->text(), u"Nov-24-1978"_s);
+        QVERIFY(record(2).contains("Nov-24-1978"));
+    }
 
-void TestAddbkcommands::warnsBeforePrintingManyPictures()
-{
-    click("Command5");
-    find<QAbstractButton>("printAll")->setChecked(true);
-    m_test->dialogs.willAnswer(Answer::Cancel);
-    click("print2");
-    QCOMPARE(asked(), {AddressMessages::manyPictures()});
-    QVERIFY(!m_window->isPreviewShown());
-    find<QAbstractButton>("printSome")->setChecked(true);
-    click("print2");
-    QVERIFY(asked().isEmpty());
-    QVERIFY(m_window->isPreviewShown());
-}
+    void tellsWhatTheDatesMean()
+    {
+        click("Command6");
+        type(2, u"Nov-24-1978"_s);
+        type(12, u"Jun-12-2004"_s);
+        QCOMPARE(labelText("birthFact"), u"Birthday on Tuesday, turning 48"_s);
+        QCOMPARE(labelText("anniversaryFact"), u"23 years in June"_s);
+    }
+
+    void hintsAtNamesTooLongForTheList()
+    {
+        const auto *hint = find<QLabel>("nameHint");
+        click("Command6");
+        type(0, u"Featherstone-Brookfield"_s);
+        type(1, u"Frank David Marta"_s);
+        QVERIFY(!hint->isVisible());
+        type(1, u"Frank David Martas"_s);
+        QVERIFY(hint->isVisible());
+        QCOMPARE(hint->text(), AddressMessages::nameTooLong());
+    }
+
+    void showsPicturesWhereverTheyAre()
+    {
+        auto *frame = find<PictureFrame>("Image1");
+        QVERIFY(frame->hasPicture()); // stored under C:\QUILLERY, found in the Pictures folder
+        select(1);
+        QVERIFY(!frame->hasPicture());
+        QCOMPARE(frame->words(), u"No Picture Currently Loaded"_s);
+        QVERIFY(said().isEmpty());
+        select(7);
+        QVERIFY(!frame->hasPicture());
+        QVERIFY(said().contains(u"moved away.jpg"_s));
+        select(0);
+        click("pictureEnlarge");
+        QVERIFY(find<PictureFrame>("enlargedPicture")->isVisible());
+        click("pictureNormal");
+        QVERIFY(frame->isVisible());
+    }
+
+    void takesAPictureFromThePanel()
+    {
+        const QString path = m_test->path(u"Pictures/photo03.jpg"_s);
+        select(2);
+        click("Command7");
+        QVERIFY(find<QWidget>("picturePanel")->isVisible());
+        auto *files = find<QListWidget>("File1");
+        files->setCurrentItem(files->findItems(u"photo03.jpg"_s, Qt::MatchExactly).value(0));
+        click("pictureEnter");
+        QVERIFY(find<PictureFrame>("Image1")->hasPicture());
+        QVERIFY(m_window->isModified());
+        click("Command4");
+        QCOMPARE(record(4).mid(520, 200), path.toLatin1().leftJustified(200, ' '));
+        click("Command7");
+        click("pictureDelete");
+        click("Command4");
+        QCOMPARE(record(4).mid(520, 200), QByteArray("**").leftJustified(200, ' '));
+    }
+
+    void dials()
+    {
+        m_test->dialogs.willAnswer(Answer::Cancel);
+        click("Image2_0");
+        QCOMPARE(asked(), {AddressMessages::numberDialed(u"(440) 555-0100"_s)});
+        QVERIFY(m_line.log.contains(u"ATDT (440) 555-0100;\r"_s));
+        QVERIFY(!find<QLabel>("Label3")->isVisible());
+
+        m_line.workingPorts = {101};
+        m_test->dialogs.willInput(u"101"_s);
+        m_test->dialogs.willAnswer(Answer::Ok);
+        m_test->dialogs.willAnswer(Answer::Ok);
+        click("Image2_1");
+        QCOMPARE(asked(), QList<Message>({AddressMessages::portNotAvailable(3),
+                                          AddressMessages::numberDialed(u"440 555 0100"_s)}));
+        QVERIFY(m_test->dialogs.takePrompts().contains(AddressMessages::newPortPrompt()));
+        QCOMPARE(m_test->settings.number(SettingsKeys::modemPort), 101);
+        QVERIFY(m_line.log.contains(u"ATDT 440 555 0100;\r"_s));
+    }
+
+    void copiesTheEntry()
+    {
+        for (const char *command : {"mOCopy", "mECopy"}) {
+            QApplication::clipboard()->clear();
+            trigger(command);
+            QCOMPARE(asked(), {AddressMessages::dataCopied()});
+            QVERIFY(QApplication::clipboard()->text().contains(u"160 High Street"_s));
+        }
+    }
+
+    void showsWhatItPrints()
+    {
+        for (const char *command : {"mOPrt", "mOW"}) {
+            trigger(command);
+            QVERIFY(m_window->isPreviewShown());
+            QTest::keyClick(m_window, Qt::Key_Escape);
+            QVERIFY(!m_window->isPreviewShown());
+            QVERIFY(m_window->isVisible());
+        }
+    }
+
+    void leavesPanelsWhereTheUserIs()
+    {
+        click("Command5");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(find<QWidget>("Command5")->hasFocus());
+        click("Command5");
+        clickRow(3); // another entry takes the panel's place
+        QVERIFY(box(0)->isVisible());
+        QVERIFY(list()->hasFocus());
+    }
+
+    void warnsBeforePrintingManyPictures()
+    {
+        click("Command5");
+        find<QAbstractButton>("printAll")->setChecked(true);
+        m_test->dialogs.willAnswer(Answer::Cancel);
+        click("print2");
+        QCOMPARE(asked(), {AddressMessages::manyPictures()});
+        QVERIFY(!m_window->isPreviewShown());
+        find<QAbstractButton>("printSome")->setChecked(true);
+        click("print2");
+        QVERIFY(asked().isEmpty());
+        QVERIFY(m_window->isPreviewShown());
+    }
+};
 
 QTEST_MAIN(TestAddbkcommands)
 #include "tst_entrycommands.moc"

@@ -15,179 +15,165 @@ class TestPicturePanel : public OpenWindow<PicturePanel>
 {
     Q_OBJECT
 private slots:
-    void init();
+    void init()
+    {
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+        m_album = m_test->temporary.filePath(u"album"_s);
+        m_drives = {m_test->temporary.path()};
+        QVERIFY(QDir().mkpath(m_album));
+        m_test->setBytes(u"GColor4.Fil"_s, (m_album + u"/\r\n"_s).toLatin1());
+    }
+
     void cleanup() { close(); }
 
-    void startsWhereThePicturesAre();
-    void listsPictureFilesOnly();
-    void entersAPictureAndRemembersItsFolder();
-    void saysSoWhenAFileIsNoPicture();
-    void walksThroughFolders();
-    void fallsBackFromWhatIsNotThere();
-    void refusesAPathThatNoEntryCanHold();
-    void deletesOnlyAPictureThatIsThere();
+    void startsWhereThePicturesAre()
+    {
+        const QString household = m_test->path(u"Pictures"_s);
+        QVERIFY(QDir().mkpath(household));
+        open();
+        QCOMPARE(shownFolder(), m_album); // used last
+        QCOMPARE(find<QComboBox>("Drive1")->currentText(), m_test->temporary.path());
+        m_test->setBytes(u"GColor4.Fil"_s, "C:\\QUILLERY\\Pictures\\\r\n");
+        m_window->start(false);
+        QCOMPARE(shownFolder(), household);
+        QVERIFY(asked().isEmpty());
+    }
+
+    void listsPictureFilesOnly()
+    {
+        for (const char *name : {"b.jpg", "A.BMP", "c.Gif", "d.wmf", "e.EMF", "f.png", "notes.txt", "jpg"})
+            QVERIFY(makeFile(m_album + u'/' + QString::fromLatin1(name), {}));
+        open();
+        QCOMPARE(files(), QStringList({u"A.BMP"_s, u"b.jpg"_s, u"c.Gif"_s, u"d.wmf"_s, u"e.EMF"_s}));
+    }
+
+    void entersAPictureAndRemembersItsFolder()
+    {
+        const QString path = makePicture(u"anne.jpg"_s);
+        open();
+        QVERIFY(QFile::remove(m_test->path(u"GColor4.Fil"_s)));
+        const QSignalSpy entered(m_window, &PicturePanel::pictureEntered);
+        QVERIFY(!isOffered("pictureEnter"));
+        QVERIFY(!find<QPushButton>("pictureEnter")->toolTip().isEmpty());
+        chooseFile(u"anne.jpg"_s);
+        QVERIFY(find<PictureFrame>("picturePreview")->hasPicture());
+        click("pictureEnter");
+        QCOMPARE(entered, QList<QVariantList>{{path}});
+        QCOMPARE(m_test->bytes(u"GColor4.Fil"_s), (m_album + u"/\r\n"_s).toLatin1());
+    }
+
+    void saysSoWhenAFileIsNoPicture()
+    {
+        QVERIFY(makeFile(m_album + u"/old.wmf"_s, "\xd7\xcd\xc6\x9a not a picture here"));
+        open();
+        chooseFile(u"old.wmf"_s);
+        const auto *preview = find<PictureFrame>("picturePreview");
+        QVERIFY(!preview->hasPicture());
+        QCOMPARE(preview->words(), u"Program is unable to load this file as a Picture File!!!"_s);
+        QVERIFY(!isOffered("pictureEnter"));
+    }
+
+    void walksThroughFolders()
+    {
+        QVERIFY(QDir(m_album).mkdir(u"summer"_s));
+        open();
+        QCOMPARE(find<QListWidget>("Dir1")->item(0)->text(), u".."_s);
+        openFolder(1);
+        QCOMPARE(shownFolder(), QString(m_album + u"/summer"_s));
+        openFolder(0);
+        QCOMPARE(shownFolder(), m_album);
+    }
+
+    void fallsBackFromWhatIsNotThere()
+    {
+        QVERIFY(QDir(m_album).mkdir(u"summer"_s));
+        m_drives.append(m_test->temporary.filePath(u"pulled-out"_s));
+        open();
+        QVERIFY(QDir(m_album).rmdir(u"summer"_s));
+        openFolder(1);
+        QCOMPARE(asked(), {AddressMessages::deviceUnavailable()});
+        QCOMPARE(shownFolder(), m_test->temporary.path());
+
+        auto *drives = find<QComboBox>("Drive1");
+        drives->setFocus();
+        QTest::keyClick(drives, Qt::Key_Down);
+        QCOMPARE(asked(), {AddressMessages::driveUnavailable()});
+        QCOMPARE(drives->currentIndex(), 0);
+        QCOMPARE(shownFolder(), m_test->temporary.path());
+    }
+
+    void refusesAPathThatNoEntryCanHold()
+    {
+        makePicture(u"αννα.jpg"_s);
+        makePicture(QString(180, u'x') + u".jpg"_s);
+        open();
+        const QSignalSpy entered(m_window, &PicturePanel::pictureEntered),
+            said(m_window, &PicturePanel::said);
+        for (const QString &name : files()) {
+            chooseFile(name);
+            click("pictureEnter");
+        }
+        QCOMPARE(said.count(), 2);
+        QCOMPARE(entered.count(), 0);
+    }
+
+    void deletesOnlyAPictureThatIsThere()
+    {
+        open();
+        const QSignalSpy deleted(m_window, &PicturePanel::pictureDeleted);
+        click("pictureDelete");
+        QCOMPARE(deleted.count(), 1);
+        m_window->start(false);
+        QVERIFY(!isOffered("pictureDelete"));
+    }
 
 private:
-    void open();
-    QString makePicture(const QString &name) const;
-    QStringList files() const;
-    void chooseFile(const QString &name) const;
-    void openFolder(int row) const;
+    void open()
+    {
+        delete m_window;
+        m_window = new PicturePanel(m_test->program, [this] { return m_drives; });
+        m_window->resize(800, 500);
+        showActive(*m_window);
+        m_window->start(true);
+    }
+
+    QString makePicture(const QString &name) const
+    {
+        QImage image(40, 30, QImage::Format_RGB32);
+        image.fill(Qt::darkGreen);
+        if (!image.save(m_album + u'/' + name))
+            QTest::qFail("no picture", __FILE__, __LINE__);
+        return m_album + u'/' + name;
+    }
+
+    QStringList files() const
+    {
+        QStringList names;
+        const auto *list = find<QListWidget>("File1");
+        for (int row = 0; row < list->count(); ++row)
+            names.append(list->item(row)->text());
+        return names;
+    }
+
+    void chooseFile(const QString &name) const
+    {
+        auto *list = find<QListWidget>("File1");
+        list->setCurrentItem(list->findItems(name, Qt::MatchExactly).value(0));
+    }
+
+    void openFolder(int row) const
+    {
+        auto *folders = find<QListWidget>("Dir1");
+        folders->setFocus();
+        folders->setCurrentRow(row);
+        QTest::keyClick(folders, Qt::Key_Return);
+    }
+
     QString shownFolder() const { return labelText("picturePath"); }
 
     QString m_album;
     QStringList m_drives;
 };
-
-void TestPicturePanel::init()
-{
-    m_test = std::make_unique<TestProgram>(TestProgram::Empty);
-    m_album = m_test->temporary.filePath(u"album"_s);
-    m_drives = {m_test->temporary.path()};
-    QVERIFY(QDir().mkpath(m_album));
-    m_test->setBytes(u"GColor4.Fil"_s, (m_album + u"/\r\n"_s).toLatin1());
-}
-
-void TestPicturePanel::open()
-{
-    delete m_window;
-    m_window = new PicturePanel(m_test->program, [this] { return m_drives; });
-    m_window->resize(800, 500);
-    showActive(*m_window);
-    m_window->start(true);
-}
-
-QString TestPicturePanel::makePicture(const QString &name) const
-{
-    QImage image(40, 30, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    if (!image.save(m_album + u'/' + name))
-        QTest::qFail("no picture", __FILE__, __LINE__);
-    return m_album + u'/' + name;
-}
-
-QStringList TestPicturePanel::files() const
-{
-    QStringList names;
-    const auto *list = find<QListWidget>("File1");
-    for (int row = 0; row < list->count(); ++row)
-        names.append(list->item(row)->text());
-    return names;
-}
-
-void TestPicturePanel::chooseFile(const QString &name) const
-{
-    auto *list = find<QListWidget>("File1");
-    list->setCurrentItem(list->findItems(name, Qt::MatchExactly).value(0));
-}
-
-void TestPicturePanel::openFolder(int row) const
-{
-    auto *folders = find<QListWidget>("Dir1");
-    folders->setFocus();
-    folders->setCurrentRow(row);
-    QTest::keyClick(folders, Qt::Key_Return);
-}
-
-void TestPicturePanel::startsWhereThePicturesAre()
-{
-    const QString household = m_test->path(u"Pictures"_s);
-    QVERIFY(QDir().mkpath(household));
-    open();
-    QCOMPARE(shownFolder(), m_album); // used last
-    QCOMPARE(find<QComboBox>("Drive1")->currentText(), m_test->temporary.path());
-    m_test->setBytes(u"GColor4.Fil"_s, "C:\\QUILLERY\\Pictures\\\r\n");
-    m_window->start(false);
-    QCOMPARE(shownFolder(), household);
-    QVERIFY(asked().isEmpty());
-}
-
-void TestPicturePanel::listsPictureFilesOnly()
-{
-    for (const char *name : {"b.jpg", "A.BMP", "c.Gif", "d.wmf", "e.EMF", "f.png", "notes.txt", "jpg"})
-        QVERIFY(makeFile(m_album + u'/' + QString::fromLatin1(name), {}));
-    open();
-    QCOMPARE(files(), QStringList({u"A.BMP"_s, u"b.jpg"_s, u"c.Gif"_s, u"d.wmf"_s, u"e.EMF"_s}));
-}
-
-void TestPicturePanel::entersAPictureAndRemembersItsFolder()
-{
-    const QString path = makePicture(u"anne.jpg"_s);
-    open();
-    QVERIFY(QFile::remove(m_test->path(u"GColor4.Fil"_s)));
-    const QSignalSpy entered(m_window, &PicturePanel::pictureEntered);
-    QVERIFY(!isOffered("pictureEnter"));
-    QVERIFY(!find<QPushButton>("pictureEnter")->toolTip().isEmpty());
-    chooseFile(u"anne.jpg"_s);
-    QVERIFY(find<PictureFrame>("picturePreview")->hasPicture());
-    click("pictureEnter");
-    QCOMPARE(entered, QList<QVariantList>{{path}});
-    QCOMPARE(m_test->bytes(u"GColor4.Fil"_s), (m_album + u"/\r\n"_s).toLatin1());
-}
-
-void TestPicturePanel::saysSoWhenAFileIsNoPicture()
-{
-    QVERIFY(makeFile(m_album + u"/old.wmf"_s, "\xd7\xcd\xc6\x9a not a picture here"));
-    open();
-    chooseFile(u"old.wmf"_s);
-    const auto *preview = find<PictureFrame>("picturePreview");
-    QVERIFY(!preview->hasPicture());
-    QCOMPARE(preview->words(), u"Program is unable to load this file as a Picture File!!!"_s);
-    QVERIFY(!isOffered("pictureEnter"));
-}
-
-void TestPicturePanel::walksThroughFolders()
-{
-    QVERIFY(QDir(m_album).mkdir(u"summer"_s));
-    open();
-    QCOMPARE(find<QListWidget>("Dir1")->item(0)->text(), u".."_s);
-    openFolder(1);
-    QCOMPARE(shownFolder(), QString(m_album + u"/summer"_s));
-    openFolder(0);
-    QCOMPARE(shownFolder(), m_album);
-}
-
-void TestPicturePanel::fallsBackFromWhatIsNotThere()
-{
-    QVERIFY(QDir(m_album).mkdir(u"summer"_s));
-    m_drives.append(m_test->temporary.filePath(u"pulled-out"_s));
-    open();
-    QVERIFY(QDir(m_album).rmdir(u"summer"_s));
-    openFolder(1);
-    QCOMPARE(asked(), {AddressMessages::deviceUnavailable()});
-    QCOMPARE(shownFolder(), m_test->temporary.path());
-
-    auto *drives = find<QComboBox>("Drive1");
-    drives->setFocus();
-    QTest::keyClick(drives, Qt::Key_Down);
-    QCOMPARE(asked(), {AddressMessages::driveUnavailable()});
-    QCOMPARE(drives->currentIndex(), 0);
-    QCOMPARE(shownFolder(), m_test->temporary.path());
-}
-
-void TestPicturePanel::refusesAPathThatNoEntryCanHold()
-{
-    makePicture(u"αννα.jpg"_s);
-    makePicture(QString(180, u'x') + u".jpg"_s);
-    open();
-    const QSignalSpy entered(m_window, &PicturePanel::pictureEntered), said(m_window, &PicturePanel::said);
-    for (const QString &name : files()) {
-        chooseFile(name);
-        click("pictureEnter");
-    }
-    QCOMPARE(said.count(), 2);
-    QCOMPARE(entered.count(), 0);
-}
-
-void TestPicturePanel::deletesOnlyAPictureThatIsThere()
-{
-    open();
-    const QSignalSpy deleted(m_window, &PicturePanel::pictureDeleted);
-    click("pictureDelete");
-    QCOMPARE(deleted.count(), 1);
-    m_window->start(false);
-    QVERIFY(!isOffered("pictureDelete"));
-}
 
 QTEST_MAIN(TestPicturePanel)
 #include "tst_picturepanel.moc"

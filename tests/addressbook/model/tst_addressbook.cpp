@@ -12,44 +12,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-class TestAddressBook : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init() { m_files = std::make_unique<TestFolder>(); }
-    void knowsWhetherAnEntryHasAPicture();
-    void tellsTheFullName();
-    void loadsTheLinesThatCount();
-    void keepsToItsRecords();
-    void choosesTheFreeRecord_data();
-    void choosesTheFreeRecord();
-    void aFullBookTakesTheRecordBehindIt();
-    void removesLinesThatLeadNowhere_data();
-    void removesLinesThatLeadNowhere();
-    void opensWhatALineLeadsTo_data();
-    void opensWhatALineLeadsTo();
-    void keepsTheLineOfANameTooLong();
-    void findsItsFilesUnderAnySpelling();
-    void visitsLiveEntries();
-    void isOldOrNewAfterEveryFailure_data();
-    void isOldOrNewAfterEveryFailure();
-    void survivesFoldersInPlaceOfFiles();
-    void survivesFilesCutAnywhere();
-
-private:
-    AddressBook book() const { return AddressBook(m_files->folder()); }
-    void put(const QByteArray &entries, const QByteArray &lines) const
-    {
-        m_files->put(u"Addbk1.Fil"_s, entries);
-        m_files->put(u"Addbk2.Fil"_s, lines);
-    }
-    QByteArray entries() const { return m_files->bytes(u"Addbk1.Fil"_s); }
-    QByteArray lines() const { return m_files->bytes(u"Addbk2.Fil"_s); }
-
-    std::unique_ptr<TestFolder> m_files;
-};
-
 namespace {
 
 AddressEntry anneLind()
@@ -75,280 +37,303 @@ QStringList linesOf(const NameList &names)
 
 } // namespace
 
-void TestAddressBook::knowsWhetherAnEntryHasAPicture()
+class TestAddressBook : public QObject
 {
-    AddressEntry entry;
-    entry.picture = u"C:\\Pictures\\a.jpg"_s;
-    QVERIFY(entry.hasPicture());
-    for (const QString &none : {u"**"_s, u" ** "_s, QString(), u"   "_s}) {
-        entry.picture = none;
-        QVERIFY2(!entry.hasPicture(), qPrintable(none));
-    }
-}
+    Q_OBJECT
 
-void TestAddressBook::tellsTheFullName()
-{
-    const auto fullName = [](const QString &last, const QString &first) {
+private slots:
+    void init() { m_files = std::make_unique<TestFolder>(); }
+
+    void knowsWhetherAnEntryHasAPicture()
+    {
         AddressEntry entry;
-        entry[LastName] = last;
-        entry[FirstName] = first;
-        return entry.fullName();
-    };
-    QCOMPARE(fullName(u" Lind "_s, u" Anne "_s), u"Anne Lind"_s);
-    QCOMPARE(fullName(u"Lind"_s, {}), u"Lind"_s);
-    QCOMPARE(fullName(u" "_s, u"Anne"_s), u"Anne"_s);
-    QCOMPARE(fullName({}, {}), QString());
-}
-
-void TestAddressBook::loadsTheLinesThatCount()
-{
-    QVERIFY(book().loadNames().isEmpty());
-    QVERIFY(QFile::exists(m_files->path(u"Addbk2.Fil"_s)));
-    m_files->put(u"Addbk2.Fil"_s,
-                 lineBytes("never a name") + neverWritten(60) + lineBytes(lineOf("M\xFCller, Karl", 3)) +
-                     lineBytes("#####" + QByteArray(40, ' ')) + neverWritten(60) + lineBytes("####anything") +
-                     lineBytes("a line of its own") + lineBytes(lineOf("Lind, Anne", 8)).first(52));
-    const NameList names = book().loadNames();
-    QCOMPARE(linesOf(names),
-             (QStringList{QString(), u"Müller, Karl                                   3"_s,
-                          u"a line of its own"_s, u"Lind, Anne                                     8"_s}));
-    QCOMPARE(names.countCaption(), u" 4 - Entries "_s);
-}
-
-void TestAddressBook::keepsToItsRecords()
-{
-    put(first724 + lindBytes + neverWritten(724), first60 + lineBytes(lineOf("Lind, Anne", 2)));
-    const auto before = std::pair(entries(), lines());
-    QCOMPARE(book().read(2)[City], u"Ashford"_s);
-    QCOMPARE(book().read(2).picture, noPicture);
-    QVERIFY(book().read(3).isEmpty());
-    for (const int record : {-1, 0, 1, 50002, std::numeric_limits<int>::max()}) {
-        QVERIFY(book().read(record).isEmpty());
-        QCOMPARE(book().saveChanged(record, anneLind()).record, 0);
-        QVERIFY(!book().remove(record));
+        entry.picture = u"C:\\Pictures\\a.jpg"_s;
+        QVERIFY(entry.hasPicture());
+        for (const QString &none : {u"**"_s, u" ** "_s, QString(), u"   "_s}) {
+            entry.picture = none;
+            QVERIFY2(!entry.hasPicture(), qPrintable(none));
+        }
     }
-    QVERIFY(book().read(4).isEmpty());
-    QCOMPARE(std::pair(entries(), lines()), before);
-}
 
-void TestAddressBook::choosesTheFreeRecord_data()
-{
-    const QByteArray deleted = entryBytes({"*****"}), a39(39, 'a');
-    rows<QByteArray, int>({
-        {"empty file", {}, 2},
-        {"only the unused record", first724, 2},
-        {"behind the last", first724 + lindBytes, 3},
-        {"deleted", first724 + lindBytes + deleted + lindBytes, 3},
-        {"four asterisks do", first724 + entryBytes({"****Lind"}), 2},
-        {"three do not", first724 + entryBytes({"*** Lind"}), 3},
-        {"never written", first724 + lindBytes + neverWritten(724) + lindBytes, 3},
-        {"a name of blanks is taken", first724 + entryBytes({""}), 3},
-        {"a name of 40 characters counts as free", first724 + entryBytes({a39 + 'a'}), 2},
-        {"39 characters are taken", first724 + entryBytes({a39}), 3},
-        {"39 characters behind a blank are taken", first724 + entryBytes({' ' + a39}), 3},
-        {"cut behind the last name", first724 + lindBytes.first(40), 3},
-        {"cut within the last name", first724 + lindBytes.first(39), 2},
-        {"first record cut", "abc", 2},
-    });
-}
-
-void TestAddressBook::choosesTheFreeRecord()
-{
-    const auto [content, record] = row<QByteArray, int>();
-    m_files->put(u"Addbk1.Fil"_s, content);
-    QCOMPARE(book().nextFreeRecord(), record);
-}
-
-void TestAddressBook::aFullBookTakesTheRecordBehindIt()
-{
-    m_files->put(u"Addbk1.Fil"_s, first724 + lindBytes.repeated(49999));
-    QCOMPARE(book().nextFreeRecord(), 50001);
-    const AddressBook::SaveResult result = book().saveNew(anneLind());
-    QCOMPARE(result.record, 50001);
-    QCOMPARE(entries().size(), 50001 * 724);
-
-    const QByteArray full = entries();
-    const AddressBook::SaveResult refused = book().saveNew(anneLind());
-    QVERIFY(refused.isBookFull && !refused.isSaved);
-    QVERIFY(entries() == full);
-    QVERIFY(book().remove(50001));
-    QCOMPARE(book().nextFreeRecord(), 50001);
-}
-
-void TestAddressBook::removesLinesThatLeadNowhere_data()
-{
-    rows<QByteArray, QByteArray, bool>({
-        {"to a record that was never written", lineOf("Lind, Anne", 9), neverWritten(724), true},
-        {"to a deleted entry", lineOf("Lind, Anne", 2), entryBytes({"*****"}, ""), true},
-        {"without a number", "Lind, Anne", neverWritten(724), true},
-        {"an empty one", "", neverWritten(724), true},
-        {"nowhere, in the place of an entry", lineOf("Lind, Anne", 9), lindBytes, false},
-        {"to its entry", lineOf("Lind, Anne", 2), lindBytes, false},
-    });
-}
-
-void TestAddressBook::removesLinesThatLeadNowhere()
-{
-    const auto [line, entry, isStray] = row<QByteArray, QByteArray, bool>();
-    put(first724 + entry, first60 + lineBytes(line) + lineBytes(lineOf("Quill, David", 3)));
-    QCOMPARE(book().loadNames().count(), 2);
-    const QString text = QString::fromLatin1(line);
-    QCOMPARE(book().open(text).isStray, isStray);
-    QCOMPARE(book().removeStray(text), isStray);
-    QCOMPARE(book().loadNames().count(), isStray ? 1 : 2);
-    QCOMPARE(entries(), first724 + entry);
-    QByteArray left = lineBytes(line);
-    if (isStray)
-        left.replace(0, 47, lineBytes(padded("#####", 45)).first(47)); // bytes behind the text mean nothing
-    QCOMPARE(lines().mid(60), left + lineBytes(lineOf("Quill, David", 3)));
-}
-
-void TestAddressBook::opensWhatALineLeadsTo_data()
-{
-    rows<QString, int, QString, bool>({
-        {"its entry", IndexLine::make(u"Lind", u"Anne", 2), 2, u"Lind"_s, true},
-        {"no number", u"Lind, Anne"_s, 0, {}, false},
-        {"another entry", u"Featherstone-Brookfield, Louis Vera Xenia 2nd     21"_s, 2, u"Lind"_s, false},
-        {"a deleted entry", IndexLine::make(u"Quill", u"David", 3), 3, {}, false},
-        {"no entry", IndexLine::make(u"Quill", u"David", 9), 9, {}, false},
-        {"no record", IndexLine::make(u"", u"", 99999), 99999, {}, false},
-        {"the unused record", IndexLine::make(u"", u"", 1), 1, {}, false},
-    });
-}
-
-void TestAddressBook::opensWhatALineLeadsTo()
-{
-    const auto [line, record, lastName, mayChange] = row<QString, int, QString, bool>();
-    put(first724 + lindBytes + entryBytes({"*****"}), {});
-    const AddressBook::Found found = book().open(line);
-    QCOMPARE(found.record, record);
-    QCOMPARE(found.entry[LastName], lastName);
-    QCOMPARE(found.mayChange, mayChange);
-}
-
-void TestAddressBook::keepsTheLineOfANameTooLong()
-{
-    put(first724 + lindBytes, first60 + lineBytes(lineOf("Lind, Anne", 2)));
-    const QString a20(20, u'a'), b30(30, u'b');
-    AddressEntry entry = anneLind();
-    entry[LastName] = a20;
-    entry[FirstName] = b30 + u'b'; // 59 characters with the number
-    const AddressBook::SaveResult tooLong = book().saveChanged(2, entry);
-    QVERIFY(tooLong.isSaved && tooLong.isLineTooLong);
-    QCOMPARE(entries().mid(724, 20), QByteArray(20, 'a'));
-    // The list still bears the old name; it stands in the entry's own record, so it is no other's.
-    QVERIFY(book().open(u"Lind, Anne                                     2").mayChange);
-    QVERIFY(!book().open(u"Lind, Anna                                     2").mayChange);
-
-    entry[FirstName] = b30;
-    const AddressBook::SaveResult fits = book().saveChanged(2, entry);
-    QVERIFY(fits.isSaved && !fits.isLineTooLong);
-    QCOMPARE(fits.line, a20 + u", " + b30 + u"     2");
-    QVERIFY(lines().contains("aaa, bbb"));
-}
-
-void TestAddressBook::findsItsFilesUnderAnySpelling()
-{
-    m_files->put(u"ADDBK1.FIL"_s, first724);
-    m_files->put(u"addbk2.fil"_s, first60);
-    QVERIFY(book().saveNew(anneLind()).isSaved);
-    QCOMPARE(m_files->bytes(u"ADDBK1.FIL"_s), first724 + lindBytes);
-    QCOMPARE(book().loadNames().count(), 1);
-    QCOMPARE(QDir(m_files->path({})).entryList(QDir::Files).size(), 2);
-}
-
-void TestAddressBook::visitsLiveEntries()
-{
-    const QByteArray longName(45, 'b');
-    put(first724 + lindBytes + entryBytes({"*****"}) + neverWritten(724) + entryBytes({"Quill"}) +
-            entryBytes({longName.first(40), "x"}) + entryBytes({"unlisted"}) +
-            entryBytes({"behind the index"}),
-        first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes("deleted entry, line left over") +
-            lineBytes("line without entry") + lineBytes("#####") + lineBytes(longName + ", x     6") +
-            neverWritten(60));
-    for (const bool goesOn : {true, false}) {
-        QList<int> visited;
-        book().forEachLive([&visited, goesOn](int record, const AddressEntry &) {
-            visited << record;
-            return goesOn;
-        });
-        QCOMPARE(visited, goesOn ? QList<int>({2, 6}) : QList<int>{2});
+    void tellsTheFullName()
+    {
+        const auto fullName = [](const QString &last, const QString &first) {
+            AddressEntry entry;
+            entry[LastName] = last;
+            entry[FirstName] = first;
+            return entry.fullName();
+        };
+        QCOMPARE(fullName(u" Lind "_s, u" Anne "_s), u"Anne Lind"_s);
+        QCOMPARE(fullName(u"Lind"_s, {}), u"Lind"_s);
+        QCOMPARE(fullName(u" "_s, u"Anne"_s), u"Anne"_s);
+        QCOMPARE(fullName({}, {}), QString());
     }
-}
 
-void TestAddressBook::isOldOrNewAfterEveryFailure_data()
-{
-    using Action = bool (*)(AddressBook &);
-    const Action add = [](AddressBook &book) { return book.saveNew(anneLind()).isSaved; };
-    const Action rename = [](AddressBook &book) {
-        AddressEntry entry = anneLind();
-        entry[LastName] = u"Quill"_s;
-        return book.saveChanged(2, entry).isSaved;
-    };
-    const Action remove = [](AddressBook &book) { return book.remove(2); };
-    rows<Action, DiskFailure>({
-        {"a new entry, a step refused", add, DiskFailure::OneStep},
-        {"a new entry, the end", add, DiskFailure::TheEnd},
-        {"another name, a step refused", rename, DiskFailure::OneStep},
-        {"another name, the end", rename, DiskFailure::TheEnd},
-        {"deleted, a step refused", remove, DiskFailure::OneStep},
-        {"deleted, the end", remove, DiskFailure::TheEnd},
-    });
-}
-
-/// Entry and line are both as they were or both new, whatever step fails.
-void TestAddressBook::isOldOrNewAfterEveryFailure()
-{
-    const auto [action, failure] = row<bool (*)(AddressBook &), DiskFailure>();
-    const QByteArray oldEntries = first724 + lindBytes;
-    const QByteArray oldLines = first60 + lineBytes(lineOf("Lind, Anne", 2));
-    const auto tryIt = [&, action = action, failure = failure](int refused, int &steps) {
-        put(oldEntries, oldLines);
-        AddressBook tried = book();
-        const FailingDisk disk(failure, refused);
-        const bool isDone = action(tried);
-        steps = disk.steps();
-        return isDone;
-    };
-    int steps = 0;
-    QVERIFY(tryIt(0x10000, steps));
-    const auto after = std::pair(entries(), lines());
-    for (int refused = 1, ignored = 0; refused <= steps; ++refused) {
-        const bool isDone = tryIt(refused, ignored);
-        QVERIFY(ChangeSet::recover(m_files->folder()));
-        const auto now = std::pair(entries(), lines());
-        QVERIFY2(now == after || (!isDone && now == std::pair(oldEntries, oldLines)),
-                 qPrintable(u"step %1"_s.arg(refused)));
-    }
-}
-
-void TestAddressBook::survivesFoldersInPlaceOfFiles()
-{
-    QVERIFY(QDir(m_files->path({})).mkdir(u"Addbk1.Fil"_s));
-    QVERIFY(QDir(m_files->path({})).mkdir(u"Addbk2.Fil"_s));
-    QLoggingCategory::setFilterRules(u"*.warning=false"_s);
-    const auto speakAgain = qScopeGuard([] { QLoggingCategory::setFilterRules({}); });
-    QCOMPARE(book().loadNames().count(), 0);
-    QVERIFY(book().read(2).isEmpty());
-    QVERIFY(!book().saveNew(anneLind()).isSaved);
-    QVERIFY(!book().saveChanged(2, anneLind()).isSaved);
-    QVERIFY(!book().remove(2));
-}
-
-void TestAddressBook::survivesFilesCutAnywhere()
-{
-    const QByteArray allEntries = first724 + lindBytes + lindBytes;
-    const QByteArray allLines =
-        first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes(lineOf("Lind, Anne", 3));
-    for (qsizetype length = 0; length <= allLines.size(); ++length) {
-        put(allEntries.first(length * 12), allLines.first(length));
+    void loadsTheLinesThatCount()
+    {
+        QVERIFY(book().loadNames().isEmpty());
+        QVERIFY(QFile::exists(m_files->path(u"Addbk2.Fil"_s)));
+        m_files->put(u"Addbk2.Fil"_s, lineBytes("never a name") + neverWritten(60) +
+                                          lineBytes(lineOf("M\xFCller, Karl", 3)) +
+                                          lineBytes("#####" + QByteArray(40, ' ')) + neverWritten(60) +
+                                          lineBytes("####anything") + lineBytes("a line of its own") +
+                                          lineBytes(lineOf("Lind, Anne", 8)).first(52));
         const NameList names = book().loadNames();
-        QVERIFY(names.count() <= 2);
-        for (int i = 0; i < names.count(); ++i)
-            QVERIFY(!book().open(names.line(i)).entry.hasPicture());
-        book().forEachLive([](int, const AddressEntry &entry) { return !entry[LastName].isEmpty(); });
+        QCOMPARE(
+            linesOf(names),
+            (QStringList{QString(), u"Müller, Karl                                   3"_s,
+                         u"a line of its own"_s, u"Lind, Anne                                     8"_s}));
+        QCOMPARE(names.countCaption(), u" 4 - Entries "_s);
     }
-}
+
+    void keepsToItsRecords()
+    {
+        put(first724 + lindBytes + neverWritten(724), first60 + lineBytes(lineOf("Lind, Anne", 2)));
+        const auto before = std::pair(entries(), lines());
+        QCOMPARE(book().read(2)[City], u"Ashford"_s);
+        QCOMPARE(book().read(2).picture, noPicture);
+        QVERIFY(book().read(3).isEmpty());
+        for (const int record : {-1, 0, 1, 50002, std::numeric_limits<int>::max()}) {
+            QVERIFY(book().read(record).isEmpty());
+            QCOMPARE(book().saveChanged(record, anneLind()).record, 0);
+            QVERIFY(!book().remove(record));
+        }
+        QVERIFY(book().read(4).isEmpty());
+        QCOMPARE(std::pair(entries(), lines()), before);
+    }
+
+    void choosesTheFreeRecord_data()
+    {
+        const QByteArray deleted = entryBytes({"*****"}), a39(39, 'a');
+        rows<QByteArray, int>({
+            {"empty file", {}, 2},
+            {"only the unused record", first724, 2},
+            {"behind the last", first724 + lindBytes, 3},
+            {"deleted", first724 + lindBytes + deleted + lindBytes, 3},
+            {"four asterisks do", first724 + entryBytes({"****Lind"}), 2},
+            {"three do not", first724 + entryBytes({"*** Lind"}), 3},
+            {"never written", first724 + lindBytes + neverWritten(724) + lindBytes, 3},
+            {"a name of blanks is taken", first724 + entryBytes({""}), 3},
+            {"a name of 40 characters counts as free", first724 + entryBytes({a39 + 'a'}), 2},
+            {"39 characters are taken", first724 + entryBytes({a39}), 3},
+            {"39 characters behind a blank are taken", first724 + entryBytes({' ' + a39}), 3},
+            {"cut behind the last name", first724 + lindBytes.first(40), 3},
+            {"cut within the last name", first724 + lindBytes.first(39), 2},
+            {"first record cut", "abc", 2},
+        });
+    }
+
+    void choosesTheFreeRecord()
+    {
+        const auto [content, record] = row<QByteArray, int>();
+        m_files->put(u"Addbk1.Fil"_s, content);
+        QCOMPARE(book().nextFreeRecord(), record);
+    }
+
+    void aFullBookTakesTheRecordBehindIt()
+    {
+        m_files->put(u"Addbk1.Fil"_s, first724 + lindBytes.repeated(49999));
+        QCOMPARE(book().nextFreeRecord(), 50001);
+        const AddressBook::SaveResult result = book().saveNew(anneLind());
+        QCOMPARE(result.record, 50001);
+        QCOMPARE(entries().size(), 50001 * 724);
+
+        const QByteArray full = entries();
+        const AddressBook::SaveResult refused = book().saveNew(anneLind());
+        QVERIFY(refused.isBookFull && !refused.isSaved);
+        QVERIFY(entries() == full);
+        QVERIFY(book().remove(50001));
+        QCOMPARE(book().nextFreeRecord(), 50001);
+    }
+
+    void removesLinesThatLeadNowhere_data()
+    {
+        rows<QByteArray, QByteArray, bool>({
+            {"to a record that was never written", lineOf("Lind, Anne", 9), neverWritten(724), true},
+            {"to a deleted entry", lineOf("Lind, Anne", 2), entryBytes({"*****"}, ""), true},
+            {"without a number", "Lind, Anne", neverWritten(724), true},
+            {"an empty one", "", neverWritten(724), true},
+            {"nowhere, in the place of an entry", lineOf("Lind, Anne", 9), lindBytes, false},
+            {"to its entry", lineOf("Lind, Anne", 2), lindBytes, false},
+        });
+    }
+
+    void removesLinesThatLeadNowhere()
+    {
+        const auto [line, entry, isStray] = row<QByteArray, QByteArray, bool>();
+        put(first724 + entry, first60 + lineBytes(line) + lineBytes(lineOf("Quill, David", 3)));
+        QCOMPARE(book().loadNames().count(), 2);
+        const QString text = QString::fromLatin1(line);
+        QCOMPARE(book().open(text).isStray, isStray);
+        QCOMPARE(book().removeStray(text), isStray);
+        QCOMPARE(book().loadNames().count(), isStray ? 1 : 2);
+        QCOMPARE(entries(), first724 + entry);
+        QByteArray left = lineBytes(line);
+        if (isStray)
+            left.replace(0, 47,
+                         lineBytes(padded("#####", 45)).first(47)); // bytes behind the text mean nothing
+        QCOMPARE(lines().mid(60), left + lineBytes(lineOf("Quill, David", 3)));
+    }
+
+    void opensWhatALineLeadsTo_data()
+    {
+        rows<QString, int, QString, bool>({
+            {"its entry", IndexLine::make(u"Lind", u"Anne", 2), 2, u"Lind"_s, true},
+            {"no number", u"Lind, Anne"_s, 0, {}, false},
+            {"another entry", u"Featherstone-Brookfield, Louis Vera Xenia 2nd     21"_s, 2, u"Lind"_s, false},
+            {"a deleted entry", IndexLine::make(u"Quill", u"David", 3), 3, {}, false},
+            {"no entry", IndexLine::make(u"Quill", u"David", 9), 9, {}, false},
+            {"no record", IndexLine::make(u"", u"", 99999), 99999, {}, false},
+            {"the unused record", IndexLine::make(u"", u"", 1), 1, {}, false},
+        });
+    }
+
+    void opensWhatALineLeadsTo()
+    {
+        const auto [line, record, lastName, mayChange] = row<QString, int, QString, bool>();
+        put(first724 + lindBytes + entryBytes({"*****"}), {});
+        const AddressBook::Found found = book().open(line);
+        QCOMPARE(found.record, record);
+        QCOMPARE(found.entry[LastName], lastName);
+        QCOMPARE(found.mayChange, mayChange);
+    }
+
+    void keepsTheLineOfANameTooLong()
+    {
+        put(first724 + lindBytes, first60 + lineBytes(lineOf("Lind, Anne", 2)));
+        const QString a20(20, u'a'), b30(30, u'b');
+        AddressEntry entry = anneLind();
+        entry[LastName] = a20;
+        entry[FirstName] = b30 + u'b'; // 59 characters with the number
+        const AddressBook::SaveResult tooLong = book().saveChanged(2, entry);
+        QVERIFY(tooLong.isSaved && tooLong.isLineTooLong);
+        QCOMPARE(entries().mid(724, 20), QByteArray(20, 'a'));
+        // The list still bears the old name; it stands in the entry's own record, so it is no other's.
+        QVERIFY(book().open(u"Lind, Anne                                     2").mayChange);
+        QVERIFY(!book().open(u"Lind, Anna                                     2").mayChange);
+
+        entry[FirstName] = b30;
+        const AddressBook::SaveResult fits = book().saveChanged(2, entry);
+        QVERIFY(fits.isSaved && !fits.isLineTooLong);
+        QCOMPARE(fits.line, a20 + u", " + b30 + u"     2");
+        QVERIFY(lines().contains("aaa, bbb"));
+    }
+
+    void findsItsFilesUnderAnySpelling()
+    {
+        m_files->put(u"ADDBK1.FIL"_s, first724);
+        m_files->put(u"addbk2.fil"_s, first60);
+        QVERIFY(book().saveNew(anneLind()).isSaved);
+        QCOMPARE(m_files->bytes(u"ADDBK1.FIL"_s), first724 + lindBytes);
+        QCOMPARE(book().loadNames().count(), 1);
+        QCOMPARE(QDir(m_files->path({})).entryList(QDir::Files).size(), 2);
+    }
+
+    void visitsLiveEntries()
+    {
+        const QByteArray longName(45, 'b');
+        put(first724 + lindBytes + entryBytes({"*****"}) + neverWritten(724) + entryBytes({"Quill"}) +
+                entryBytes({longName.first(40), "x"}) + entryBytes({"unlisted"}) +
+                entryBytes({"behind the index"}),
+            first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes("deleted entry, line left over") +
+                lineBytes("line without entry") + lineBytes("#####") + lineBytes(longName + ", x     6") +
+                neverWritten(60));
+        for (const bool goesOn : {true, false}) {
+            QList<int> visited;
+            book().forEachLive([&visited, goesOn](int record, const AddressEntry &) {
+                visited << record;
+                return goesOn;
+            });
+            QCOMPARE(visited, goesOn ? QList<int>({2, 6}) : QList<int>{2});
+        }
+    }
+
+    void isOldOrNewAfterEveryFailure_data()
+    {
+        using Action = bool (*)(AddressBook &);
+        const Action add = [](AddressBook &book) { return book.saveNew(anneLind()).isSaved; };
+        const Action rename = [](AddressBook &book) {
+            AddressEntry entry = anneLind();
+            entry[LastName] = u"Quill"_s;
+            return book.saveChanged(2, entry).isSaved;
+        };
+        const Action remove = [](AddressBook &book) { return book.remove(2); };
+        rows<Action, DiskFailure>({
+            {"a new entry, a step refused", add, DiskFailure::OneStep},
+            {"a new entry, the end", add, DiskFailure::TheEnd},
+            {"another name, a step refused", rename, DiskFailure::OneStep},
+            {"another name, the end", rename, DiskFailure::TheEnd},
+            {"deleted, a step refused", remove, DiskFailure::OneStep},
+            {"deleted, the end", remove, DiskFailure::TheEnd},
+        });
+    }
+
+    /// Entry and line are both as they were or both new, whatever step fails.
+    void isOldOrNewAfterEveryFailure()
+    {
+        const auto [action, failure] = row<bool (*)(AddressBook &), DiskFailure>();
+        const QByteArray oldEntries = first724 + lindBytes;
+        const QByteArray oldLines = first60 + lineBytes(lineOf("Lind, Anne", 2));
+        const auto tryIt = [&, action = action, failure = failure](int refused, int &steps) {
+            put(oldEntries, oldLines);
+            AddressBook tried = book();
+            const FailingDisk disk(failure, refused);
+            const bool isDone = action(tried);
+            steps = disk.steps();
+            return isDone;
+        };
+        int steps = 0;
+        QVERIFY(tryIt(0x10000, steps));
+        const auto after = std::pair(entries(), lines());
+        for (int refused = 1, ignored = 0; refused <= steps; ++refused) {
+            const bool isDone = tryIt(refused, ignored);
+            QVERIFY(ChangeSet::recover(m_files->folder()));
+            const auto now = std::pair(entries(), lines());
+            QVERIFY2(now == after || (!isDone && now == std::pair(oldEntries, oldLines)),
+                     qPrintable(u"step %1"_s.arg(refused)));
+        }
+    }
+
+    void survivesFoldersInPlaceOfFiles()
+    {
+        QVERIFY(QDir(m_files->path({})).mkdir(u"Addbk1.Fil"_s));
+        QVERIFY(QDir(m_files->path({})).mkdir(u"Addbk2.Fil"_s));
+        QLoggingCategory::setFilterRules(u"*.warning=false"_s);
+        const auto speakAgain = qScopeGuard([] { QLoggingCategory::setFilterRules({}); });
+        QCOMPARE(book().loadNames().count(), 0);
+        QVERIFY(book().read(2).isEmpty());
+        QVERIFY(!book().saveNew(anneLind()).isSaved);
+        QVERIFY(!book().saveChanged(2, anneLind()).isSaved);
+        QVERIFY(!book().remove(2));
+    }
+
+    void survivesFilesCutAnywhere()
+    {
+        const QByteArray allEntries = first724 + lindBytes + lindBytes;
+        const QByteArray allLines =
+            first60 + lineBytes(lineOf("Lind, Anne", 2)) + lineBytes(lineOf("Lind, Anne", 3));
+        for (qsizetype length = 0; length <= allLines.size(); ++length) {
+            put(allEntries.first(length * 12), allLines.first(length));
+            const NameList names = book().loadNames();
+            QVERIFY(names.count() <= 2);
+            for (int i = 0; i < names.count(); ++i)
+                QVERIFY(!book().open(names.line(i)).entry.hasPicture());
+            book().forEachLive([](int, const AddressEntry &entry) { return !entry[LastName].isEmpty(); });
+        }
+    }
+
+private:
+    AddressBook book() const { return AddressBook(m_files->folder()); }
+    void put(const QByteArray &entries, const QByteArray &lines) const
+    {
+        m_files->put(u"Addbk1.Fil"_s, entries);
+        m_files->put(u"Addbk2.Fil"_s, lines);
+    }
+    QByteArray entries() const { return m_files->bytes(u"Addbk1.Fil"_s); }
+    QByteArray lines() const { return m_files->bytes(u"Addbk2.Fil"_s); }
+
+    std::unique_ptr<TestFolder> m_files;
+};
 
 QTEST_GUILESS_MAIN(TestAddressBook)
 #include "tst_addressbook.moc"

@@ -8,30 +8,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-/// The address book of a household that has been kept for years, against what a reader of it must see.
-class TestHousehold : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init();
-    void listsTheNames();
-    void readsEveryEntry();
-    void searchesAsBefore();
-    void keepsEveryOtherByteOnSaving();
-    void keepsEveryOtherByteOnDeleting();
-    void fillsTheGapWithANewEntry();
-    void changesNothingThroughAnAmbiguousLine();
-
-private:
-    AddressBook book() const { return AddressBook(*m_folder); }
-    QByteArray bytes(const QString &name) const { return contentOf(m_dir->filePath(name)); }
-
-    const QJsonObject m_expected = expectedOf(u"address_book"_s);
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<DataFolder> m_folder;
-};
-
 namespace {
 
 /// The keys of an entry in the file of expectations, in the order of the fields.
@@ -55,105 +31,120 @@ QByteArray replaced(QByteArray whole, qsizetype at, const QByteArray &part)
 
 } // namespace
 
-void TestHousehold::init()
+/// The address book of a household that has been kept for years, against what a reader of it must see.
+class TestHousehold : public QObject
 {
-    m_dir = std::make_unique<QTemporaryDir>();
-    m_folder = std::make_unique<DataFolder>(m_dir->path());
-    for (const QString &name : {u"Addbk1.Fil"_s, u"Addbk2.Fil"_s, u"GColor4.Fil"_s})
-        QVERIFY(QFile::copy(householdPath(name), m_dir->filePath(name)));
-}
+    Q_OBJECT
 
-void TestHousehold::listsTheNames()
-{
-    const NameList names = book().loadNames();
-    const QJsonArray rows = m_expected["viewer"_L1]["State"_L1].toArray();
-    QStringList lines;
-    QVariantList records;
-    for (int i = 0; i < names.count(); ++i) {
-        lines << names.line(i);
-        records << names.recordAt(i);
-        QCOMPARE(names.name(i), rows[i][0].toString());
+private slots:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_folder = std::make_unique<DataFolder>(m_dir->path());
+        for (const QString &name : {u"Addbk1.Fil"_s, u"Addbk2.Fil"_s, u"GColor4.Fil"_s})
+            QVERIFY(QFile::copy(householdPath(name), m_dir->filePath(name)));
     }
-    QCOMPARE(lines, m_expected["name_list"_L1].toVariant().toStringList());
-    QCOMPARE(QJsonArray::fromVariantList(records), m_expected["record_numbers"_L1].toArray());
-    QCOMPARE(names.countCaption(), m_expected["count_caption"_L1].toString());
-    QCOMPARE(book().nextFreeRecord(), m_expected["next_new_record"_L1].toInt());
-}
 
-void TestHousehold::readsEveryEntry()
-{
-    const QJsonObject entries = m_expected["entries"_L1].toObject();
-    QVERIFY(entries.size() > 30);
-    for (auto it = entries.begin(); it != entries.end(); ++it)
-        QVERIFY2(book().read(it.key().toInt()) == entryOf(it->toObject()), qPrintable(it.key()));
-}
-
-void TestHousehold::searchesAsBefore()
-{
-    const NameList names = book().loadNames();
-    for (const auto key : {"name_search_selects"_L1, "name_search_first_match"_L1}) {
-        const QJsonObject searches = m_expected[key].toObject();
-        QVERIFY(!searches.isEmpty());
-        for (auto it = searches.begin(); it != searches.end(); ++it)
-            QVERIFY2(names.line(names.find(it.key())) == it->toString(), qPrintable(it.key()));
+    void listsTheNames()
+    {
+        const NameList names = book().loadNames();
+        const QJsonArray rows = m_expected["viewer"_L1]["State"_L1].toArray();
+        QStringList lines;
+        QVariantList records;
+        for (int i = 0; i < names.count(); ++i) {
+            lines << names.line(i);
+            records << names.recordAt(i);
+            QCOMPARE(names.name(i), rows[i][0].toString());
+        }
+        QCOMPARE(lines, m_expected["name_list"_L1].toVariant().toStringList());
+        QCOMPARE(QJsonArray::fromVariantList(records), m_expected["record_numbers"_L1].toArray());
+        QCOMPARE(names.countCaption(), m_expected["count_caption"_L1].toString());
+        QCOMPARE(book().nextFreeRecord(), m_expected["next_new_record"_L1].toInt());
     }
-}
 
-void TestHousehold::keepsEveryOtherByteOnSaving()
-{
-    const QByteArray entries = bytes(u"Addbk1.Fil"_s), lines = bytes(u"Addbk2.Fil"_s);
-    AddressEntry karl = book().read(14);
-    karl[HomePhone] = u"(440) 555-0999"_s;
-    QVERIFY(book().saveChanged(14, karl).isSaved);
-    QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 13 * 724 + 320, "(440) 555-0999"));
-    QCOMPARE(bytes(u"Addbk2.Fil"_s), lines);
-
-    // The last record of the index stays as short as it is.
-    AddressEntry elisabeth = book().read(49);
-    elisabeth[FirstName] = u"Eliza"_s;
-    QVERIFY(book().saveChanged(49, elisabeth).isSaved);
-    QCOMPARE(bytes(u"Addbk2.Fil"_s), replaced(lines, 48 * 60 + 2, "Calloway, Eliza    "));
-}
-
-void TestHousehold::keepsEveryOtherByteOnDeleting()
-{
-    const QByteArray entries = bytes(u"Addbk1.Fil"_s), lines = bytes(u"Addbk2.Fil"_s);
-    QVERIFY(book().remove(8));
-    QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 7 * 724, padded("*****", 724)));
-    QCOMPARE(bytes(u"Addbk2.Fil"_s),
-             replaced(lines, 7 * 60, QByteArray("\x2D\0#####", 7) + QByteArray(40, ' ')));
-    QCOMPARE(book().loadNames().countCaption(), u" 39 - Entries "_s);
-    QCOMPARE(book().nextFreeRecord(), 8);
-}
-
-void TestHousehold::fillsTheGapWithANewEntry()
-{
-    const QByteArray entries = bytes(u"Addbk1.Fil"_s), lines = bytes(u"Addbk2.Fil"_s);
-    AddressEntry entry;
-    entry[LastName] = u"Äst"_s;
-    entry[FirstName] = u"Zoë"_s;
-    const AddressBook::SaveResult saved = book().saveNew(entry);
-    QCOMPARE(saved.record, 24);
-    QCOMPARE(saved.line, u"Äst, Zoë                                       24"_s);
-    QVERIFY(saved.isSaved);
-    QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 23 * 724, entryBytes({"\xC4st", "Zo\xEB"})));
-    QCOMPARE(bytes(u"Addbk2.Fil"_s),
-             replaced(lines, 23 * 60, "1" + QByteArray(1, '\0') + lineOf("\xC4st, Zo\xEB", 24)));
-    QCOMPARE(book().nextFreeRecord(), 28);
-}
-
-void TestHousehold::changesNothingThroughAnAmbiguousLine()
-{
-    const NameList names = book().loadNames();
-    QStringList locked;
-    for (int i = 0; i < names.count(); ++i) {
-        if (!book().open(names.line(i)).mayChange)
-            locked << names.name(i);
+    void readsEveryEntry()
+    {
+        const QJsonObject entries = m_expected["entries"_L1].toObject();
+        QVERIFY(entries.size() > 30);
+        for (auto it = entries.begin(); it != entries.end(); ++it)
+            QVERIFY2(book().read(it.key().toInt()) == entryOf(it->toObject()), qPrintable(it.key()));
     }
-    QCOMPARE(locked, (QStringList{u"Lindqvist-Rosenbaum, Anne Marta Irene Xenia"_s,
-                                  u"Featherstone-Brookfield, Louis Vera Xenia 2nd"_s,
-                                  u"Lindqvist-Rosenbaum, Walter Nils Yvonne Isidor Bert"_s}));
-}
+
+    void searchesAsBefore()
+    {
+        const NameList names = book().loadNames();
+        for (const auto key : {"name_search_selects"_L1, "name_search_first_match"_L1}) {
+            const QJsonObject searches = m_expected[key].toObject();
+            QVERIFY(!searches.isEmpty());
+            for (auto it = searches.begin(); it != searches.end(); ++it)
+                QVERIFY2(names.line(names.find(it.key())) == it->toString(), qPrintable(it.key()));
+        }
+    }
+
+    void keepsEveryOtherByteOnSaving()
+    {
+        const QByteArray entries = bytes(u"Addbk1.Fil"_s), lines = bytes(u"Addbk2.Fil"_s);
+        AddressEntry karl = book().read(14);
+        karl[HomePhone] = u"(440) 555-0999"_s;
+        QVERIFY(book().saveChanged(14, karl).isSaved);
+        QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 13 * 724 + 320, "(440) 555-0999"));
+        QCOMPARE(bytes(u"Addbk2.Fil"_s), lines);
+
+        // The last record of the index stays as short as it is.
+        AddressEntry elisabeth = book().read(49);
+        elisabeth[FirstName] = u"Eliza"_s;
+        QVERIFY(book().saveChanged(49, elisabeth).isSaved);
+        QCOMPARE(bytes(u"Addbk2.Fil"_s), replaced(lines, 48 * 60 + 2, "Calloway, Eliza    "));
+    }
+
+    void keepsEveryOtherByteOnDeleting()
+    {
+        const QByteArray entries = bytes(u"Addbk1.Fil"_s), lines = bytes(u"Addbk2.Fil"_s);
+        QVERIFY(book().remove(8));
+        QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 7 * 724, padded("*****", 724)));
+        QCOMPARE(bytes(u"Addbk2.Fil"_s),
+                 replaced(lines, 7 * 60, QByteArray("\x2D\0#####", 7) + QByteArray(40, ' ')));
+        QCOMPARE(book().loadNames().countCaption(), u" 39 - Entries "_s);
+        QCOMPARE(book().nextFreeRecord(), 8);
+    }
+
+    void fillsTheGapWithANewEntry()
+    {
+        const QByteArray entries = bytes(u"Addbk1.Fil"_s), lines = bytes(u"Addbk2.Fil"_s);
+        AddressEntry entry;
+        entry[LastName] = u"Äst"_s;
+        entry[FirstName] = u"Zoë"_s;
+        const AddressBook::SaveResult saved = book().saveNew(entry);
+        QCOMPARE(saved.record, 24);
+        QCOMPARE(saved.line, u"Äst, Zoë                                       24"_s);
+        QVERIFY(saved.isSaved);
+        QCOMPARE(bytes(u"Addbk1.Fil"_s), replaced(entries, 23 * 724, entryBytes({"\xC4st", "Zo\xEB"})));
+        QCOMPARE(bytes(u"Addbk2.Fil"_s),
+                 replaced(lines, 23 * 60, "1" + QByteArray(1, '\0') + lineOf("\xC4st, Zo\xEB", 24)));
+        QCOMPARE(book().nextFreeRecord(), 28);
+    }
+
+    void changesNothingThroughAnAmbiguousLine()
+    {
+        const NameList names = book().loadNames();
+        QStringList locked;
+        for (int i = 0; i < names.count(); ++i) {
+            if (!book().open(names.line(i)).mayChange)
+                locked << names.name(i);
+        }
+        QCOMPARE(locked, (QStringList{u"Lindqvist-Rosenbaum, Anne Marta Irene Xenia"_s,
+                                      u"Featherstone-Brookfield, Louis Vera Xenia 2nd"_s,
+                                      u"Lindqvist-Rosenbaum, Walter Nils Yvonne Isidor Bert"_s}));
+    }
+
+private:
+    AddressBook book() const { return AddressBook(*m_folder); }
+    QByteArray bytes(const QString &name) const { return contentOf(m_dir->filePath(name)); }
+
+    const QJsonObject m_expected = expectedOf(u"address_book"_s);
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<DataFolder> m_folder;
+};
 
 QTEST_GUILESS_MAIN(TestHousehold)
 #include "tst_household.moc"

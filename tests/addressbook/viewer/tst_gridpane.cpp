@@ -14,166 +14,157 @@ class TestGridPane : public OpenViewer
 private slots:
     void cleanup() { close(); }
 
-    void sortsByItsHeadings();
-    void sortsByNothingUnseen();
-    void keepsTheWidthOfTheNames();
-    void walksThroughARowByTab();
-    void showsWhatTheFilesHaveNow();
-    void keepsToItsEntry_data();
-    void keepsToItsEntry();
-    void showsALongBook();
-    void survivesMissingAndBadFiles();
-};
+    void sortsByItsHeadings()
+    {
+        open();
+        QHeaderView *head = grid()->horizontalHeader();
+        const auto clickHeading = [head](int column) {
+            const QPoint place(head->sectionViewportPosition(column) + 20, head->height() / 2);
+            QTest::mouseClick(head->viewport(), Qt::LeftButton, {}, place);
+        };
+        const QString first = u"Ångström, Bjørn"_s, last = u"Ziegler, Louis"_s,
+                      recorded = u"Kessler, Tessa"_s;
+        clickHeading(0);
+        QCOMPARE(cell(0, 0), first);
+        QCOMPARE(grid()->currentIndex().data().toString(), recorded);
+        clickHeading(0);
+        QCOMPARE(cell(0, 0), last);
+        clickHeading(0);
+        QCOMPARE(cell(0, 0), recorded);
+        clickHeading(1);
+        QCOMPARE(cell(0, 1).left(2), u"10"_s);
+        // The same by the menu.
+        trigger("mOSName");
+        QCOMPARE(cell(0, 0), first);
+        trigger("mOSName");
+        QCOMPARE(cell(0, 0), last);
+        trigger("mOSRec");
+        QCOMPARE(cell(0, 0), recorded);
+    }
 
-void TestGridPane::sortsByItsHeadings()
-{
-    open();
-    QHeaderView *head = grid()->horizontalHeader();
-    const auto clickHeading = [head](int column) {
-        const QPoint place(head->sectionViewportPosition(column) + 20, head->height() / 2);
-        QTest::mouseClick(head->viewport(), Qt::LeftButton, {}, place);
-    };
-    const QString first = u"Ångström, Bjørn"_s, last = u"Ziegler, Louis"_s, recorded = u"Kessler, Tessa"_s;
-    clickHeading(0);
-    QCOMPARE(cell(0, 0), first);
-    QCOMPARE(grid()->currentIndex().data().toString(), recorded);
-    clickHeading(0);
-    QCOMPARE(cell(0, 0), last);
-    clickHeading(0);
-    QCOMPARE(cell(0, 0), recorded);
-    clickHeading(1);
-    QCOMPARE(cell(0, 1).left(2), u"10"_s);
-    // The same by the menu.
-    trigger("mOSName");
-    QCOMPARE(cell(0, 0), first);
-    trigger("mOSName");
-    QCOMPARE(cell(0, 0), last);
-    trigger("mOSRec");
-    QCOMPARE(cell(0, 0), recorded);
-}
+    /// The path of a picture is in the files only.
+    void sortsByNothingUnseen()
+    {
+        open();
+        trigger("mOSInfo");
+        const QString first = cell(0, 0);
+        choose(Information::Pictures);
+        QCOMPARE(cell(0, 0), u"Kessler, Tessa"_s);
+        QVERIFY(!find<QAction>("mOSInfo")->isEnabled());
+        choose(Information::Address);
+        QCOMPARE(cell(0, 0), first);
+    }
 
-/// The path of a picture is in the files only.
-void TestGridPane::sortsByNothingUnseen()
-{
-    open();
-    trigger("mOSInfo");
-    const QString first = cell(0, 0);
-    choose(Information::Pictures);
-    QCOMPARE(cell(0, 0), u"Kessler, Tessa"_s);
-    QVERIFY(!find<QAction>("mOSInfo")->isEnabled());
-    choose(Information::Address);
-    QCOMPARE(cell(0, 0), first);
-}
-
-void TestGridPane::keepsTheWidthOfTheNames()
-{
-    open();
-    grid()->horizontalHeader()->resizeSection(0, 217);
-    choose(Information::Pictures);
-    choose(Information::State);
-    QCOMPARE(grid()->columnWidth(0), 217);
-    show();
-    QCOMPARE(grid()->columnWidth(0), 217);
-    // The information stays in sight; what was wished for is not forgotten.
-    m_window->resize(1280, 800);
-    grid()->horizontalHeader()->resizeSection(0, 5000);
-    const int wide = grid()->columnWidth(0);
-    QVERIFY(grid()->columnWidth(1) >= 100 && wide > grid()->columnWidth(1));
-    m_window->resize(800, 600);
-    QTRY_VERIFY(grid()->columnWidth(0) < wide);
-    QVERIFY(grid()->columnViewportPosition(1) + 100 <= grid()->viewport()->width());
-    m_window->resize(1280, 800);
-    QTRY_COMPARE(grid()->columnWidth(0), wide);
-}
-
-void TestGridPane::walksThroughARowByTab()
-{
-    open();
-    grid()->setFocus();
-    QTest::keyClick(grid(), Qt::Key_Tab);
-    QCOMPARE(grid()->currentIndex().column(), 1);
-    QTest::keyClick(grid(), Qt::Key_Tab);
-    QVERIFY(find<QPushButton>("displayMode")->hasFocus());
-    QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
-    QVERIFY(find<QPushButton>("removeRow")->hasFocus());
-}
-
-void TestGridPane::showsWhatTheFilesHaveNow()
-{
-    open();
-    choose(Information::State);
-    type(u"Kessler"_s);
-    select(1, 1);
-    QCOMPARE(cell(0, 1), u"Germany"_s);
-    changeElsewhere(u"Addbk1.Fil"_s, m_test->bytes(u"Addbk1.Fil"_s).replace(724 + 6 * 40, 7, "Austria"));
-    QCOMPARE(cell(0, 1), u"Austria"_s);
-    QCOMPARE(grid()->currentIndex(), grid()->model()->index(1, 1));
-    QCOMPARE(mode(), u"Current Display Mode: &Search For: [Kessler]"_s);
-}
-
-void TestGridPane::keepsToItsEntry_data()
-{
-    rows<QByteArray, QString, QString>({
-        {"renamed", "Ortiga, ", u"Ortiga, José"_s, u"No. Of Names: 39"_s},
-        {"deleted", "####ga, ", {}, u"No. Of Names: 38"_s},
-    });
-}
-
-/// Also to what was removed by hand.
-void TestGridPane::keepsToItsEntry()
-{
-    const auto [line, current, names] = row<QByteArray, QString, QString>();
-    open();
-    choose(Information::HomePhone);
-    m_test->dialogs.willAnswer(Answer::Yes);
-    QTest::keyClick(grid(), Qt::Key_Delete);
-    asked();
-    select(rowWhere(0, [](const QString &name) { return name.startsWith(u"Ortega"_s); }));
-    changeElsewhere(u"Addbk2.Fil"_s, m_test->bytes(u"Addbk2.Fil"_s).replace("Ortega, ", line));
-    QCOMPARE(grid()->currentIndex().data().toString(), current);
-    QCOMPARE(count(), names);
-    for (const char *button : {"Image2", "removeRow", "openEntry"})
-        QCOMPARE(isOffered(button), grid()->currentIndex().isValid());
-}
-
-void TestGridPane::showsALongBook()
-{
-    QByteArray lines = neverWritten(60), entries = neverWritten(724);
-    entries += entryBytes({"Lind", "Anne"}).repeated(1000);
-    for (int record = 2; record < 1002; ++record)
-        lines += lineBytes(lineOf("Lind, Anne", record));
-    m_test = std::make_unique<TestProgram>();
-    m_test->setBytes(u"Addbk1.Fil"_s, entries);
-    m_test->setBytes(u"Addbk2.Fil"_s, lines);
-    m_window = new ADDBKDISPLAY(m_test->program);
-    QVERIFY(grid()->model()->rowCount() < 1000); // the first rows are there before the window is
-    showActive(*m_window);
-    QTRY_COMPARE(count(), u"No. Of Names: 1000"_s);
-    select(900);
-    choose(Information::State);
-    QCOMPARE(count(), u"No. Of Names: 1000"_s);
-    QCOMPARE(grid()->currentIndex().row(), 900);
-}
-
-void TestGridPane::survivesMissingAndBadFiles()
-{
-    m_test = std::make_unique<TestProgram>();
-    const QByteArray noise = QByteArray("\x03\x00zzz\xFF\xFE\x01", 8).repeated(999);
-    for (const QByteArray &bytes : {QByteArray(), noise, QByteArray(5000, '\0')}) {
-        if (!bytes.isEmpty()) {
-            m_test->setBytes(u"Addbk1.Fil"_s, bytes);
-            m_test->setBytes(u"Addbk2.Fil"_s, bytes);
-        }
+    void keepsTheWidthOfTheNames()
+    {
+        open();
+        grid()->horizontalHeader()->resizeSection(0, 217);
+        choose(Information::Pictures);
+        choose(Information::State);
+        QCOMPARE(grid()->columnWidth(0), 217);
         show();
-        QVERIFY(!bytes.isEmpty() || cell(0, 0) == u"No Names Found with Info..."_s);
-        for (int choice = 0; choice < informationCount; ++choice) {
-            choose(Information(choice));
-            grid()->selectAll();
-            type(u"z"_s);
-            searchBox()->clear();
+        QCOMPARE(grid()->columnWidth(0), 217);
+        // The information stays in sight; what was wished for is not forgotten.
+        m_window->resize(1280, 800);
+        grid()->horizontalHeader()->resizeSection(0, 5000);
+        const int wide = grid()->columnWidth(0);
+        QVERIFY(grid()->columnWidth(1) >= 100 && wide > grid()->columnWidth(1));
+        m_window->resize(800, 600);
+        QTRY_VERIFY(grid()->columnWidth(0) < wide);
+        QVERIFY(grid()->columnViewportPosition(1) + 100 <= grid()->viewport()->width());
+        m_window->resize(1280, 800);
+        QTRY_COMPARE(grid()->columnWidth(0), wide);
+    }
+
+    void walksThroughARowByTab()
+    {
+        open();
+        grid()->setFocus();
+        QTest::keyClick(grid(), Qt::Key_Tab);
+        QCOMPARE(grid()->currentIndex().column(), 1);
+        QTest::keyClick(grid(), Qt::Key_Tab);
+        QVERIFY(find<QPushButton>("displayMode")->hasFocus());
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+        QVERIFY(find<QPushButton>("removeRow")->hasFocus());
+    }
+
+    void showsWhatTheFilesHaveNow()
+    {
+        open();
+        choose(Information::State);
+        type(u"Kessler"_s);
+        select(1, 1);
+        QCOMPARE(cell(0, 1), u"Germany"_s);
+        changeElsewhere(u"Addbk1.Fil"_s, m_test->bytes(u"Addbk1.Fil"_s).replace(724 + 6 * 40, 7, "Austria"));
+        QCOMPARE(cell(0, 1), u"Austria"_s);
+        QCOMPARE(grid()->currentIndex(), grid()->model()->index(1, 1));
+        QCOMPARE(mode(), u"Current Display Mode: &Search For: [Kessler]"_s);
+    }
+
+    void keepsToItsEntry_data()
+    {
+        rows<QByteArray, QString, QString>({
+            {"renamed", "Ortiga, ", u"Ortiga, José"_s, u"No. Of Names: 39"_s},
+            {"deleted", "####ga, ", {}, u"No. Of Names: 38"_s},
+        });
+    }
+
+    /// Also to what was removed by hand.
+    void keepsToItsEntry()
+    {
+        const auto [line, current, names] = row<QByteArray, QString, QString>();
+        open();
+        choose(Information::HomePhone);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        QTest::keyClick(grid(), Qt::Key_Delete);
+        asked();
+        select(rowWhere(0, [](const QString &name) { return name.startsWith(u"Ortega"_s); }));
+        changeElsewhere(u"Addbk2.Fil"_s, m_test->bytes(u"Addbk2.Fil"_s).replace("Ortega, ", line));
+        QCOMPARE(grid()->currentIndex().data().toString(), current);
+        QCOMPARE(count(), names);
+        for (const char *button : {"Image2", "removeRow", "openEntry"})
+            QCOMPARE(isOffered(button), grid()->currentIndex().isValid());
+    }
+
+    void showsALongBook()
+    {
+        QByteArray lines = neverWritten(60), entries = neverWritten(724);
+        entries += entryBytes({"Lind", "Anne"}).repeated(1000);
+        for (int record = 2; record < 1002; ++record)
+            lines += lineBytes(lineOf("Lind, Anne", record));
+        m_test = std::make_unique<TestProgram>();
+        m_test->setBytes(u"Addbk1.Fil"_s, entries);
+        m_test->setBytes(u"Addbk2.Fil"_s, lines);
+        m_window = new ADDBKDISPLAY(m_test->program);
+        QVERIFY(grid()->model()->rowCount() < 1000); // the first rows are there before the window is
+        showActive(*m_window);
+        QTRY_COMPARE(count(), u"No. Of Names: 1000"_s);
+        select(900);
+        choose(Information::State);
+        QCOMPARE(count(), u"No. Of Names: 1000"_s);
+        QCOMPARE(grid()->currentIndex().row(), 900);
+    }
+
+    void survivesMissingAndBadFiles()
+    {
+        m_test = std::make_unique<TestProgram>();
+        const QByteArray noise = QByteArray("\x03\x00zzz\xFF\xFE\x01", 8).repeated(999);
+        for (const QByteArray &bytes : {QByteArray(), noise, QByteArray(5000, '\0')}) {
+            if (!bytes.isEmpty()) {
+                m_test->setBytes(u"Addbk1.Fil"_s, bytes);
+                m_test->setBytes(u"Addbk2.Fil"_s, bytes);
+            }
+            show();
+            QVERIFY(!bytes.isEmpty() || cell(0, 0) == u"No Names Found with Info..."_s);
+            for (int choice = 0; choice < informationCount; ++choice) {
+                choose(Information(choice));
+                grid()->selectAll();
+                type(u"z"_s);
+                searchBox()->clear();
+            }
         }
     }
-}
+};
 
 QTEST_MAIN(TestGridPane)
 #include "tst_gridpane.moc"

@@ -22,192 +22,179 @@ private slots:
     void init() { m_test = std::make_unique<TestProgram>(TestProgram::Household); }
     void cleanup() { close(); }
 
-    void warnsOnce();
-    void showsThePicturesPageByPage();
-    void followsTheAddressBook();
-    void enlargesAPicture();
-    void printsThePageShown();
-    void stopsMakingCopies();
-    void survivesFilesThatAreNoPictures();
-    void neverWaitsForPhotographs();
-    void saysWhenThereIsNoPicture();
+    void warnsOnce()
+    {
+        open();
+        QCOMPARE(m_window->windowTitle(), u"Family/Friends Pictures Display Screen"_s);
+        m_window->hide();
+        m_window->show();
+        QCoreApplication::processEvents();
+        QVERIFY(asked().isEmpty());
+    }
+
+    void showsThePicturesPageByPage()
+    {
+        open();
+        QCOMPARE(labelText("picturePage"), u"Page 1 of 2"_s);
+        QCOMPARE(labelText("pictureTotal"), u" Total = 26"_s);
+        QCOMPARE(gallery()->model()->rowCount(), 20);
+        QCOMPARE(name(0), u"Kessler, Tessa"_s);
+        QTRY_COMPARE(gallery()->waitingCount(), 0);
+        QVERIFY(isSeen(0));
+        QCOMPARE(name(3), u"Vance, Ulrich"_s); // whose picture is missing, and keeps its place
+        QVERIFY(!isSeen(3));
+        QVERIFY(isSeen(4));
+        // The page fills the view, and the whole of a tile is the picture's.
+        const QRect tile = gallery()->visualRect(gallery()->model()->index(19, 0));
+        QVERIFY(gallery()->viewport()->rect().contains(tile));
+        QCOMPARE(tile.size(), gallery()->gridSize());
+        QVERIFY(!isOffered("previousPictures"));
+        click("nextPictures");
+        QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
+        QCOMPARE(gallery()->model()->rowCount(), 6);
+        QCOMPARE(name(5), u"Calloway, Elisabeth"_s);
+        QVERIFY(!isOffered("nextPictures"));
+        QTest::keyClick(gallery(), Qt::Key_PageDown);
+        QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
+        QTest::keyClick(gallery(), Qt::Key_PageUp);
+        QCOMPARE(labelText("picturePage"), u"Page 1 of 2"_s);
+        QTRY_COMPARE(gallery()->waitingCount(), 0);
+    }
+
+    void followsTheAddressBook()
+    {
+        open();
+        click("nextPictures");
+        changeElsewhere(u"Addbk2.Fil"_s,
+                        m_test->bytes(u"Addbk2.Fil"_s).replace("Kessler, Tessa", "####ler, Tessa"));
+        QCOMPARE(labelText("pictureTotal"), u" Total = 25"_s);
+        QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
+    }
+
+    void enlargesAPicture()
+    {
+        open();
+        gallery()->setCurrentIndex(gallery()->model()->index(1, 0));
+        click("enlargePicture");
+        QCOMPARE(labelText("enlargedName"), u"Garland, Anne"_s);
+        QTRY_VERIFY(find<PictureFrame>("enlargedPicture")->hasPicture());
+        QTest::keyClick(m_window, Qt::Key_Escape);
+        QVERIFY(gallery()->hasFocus());
+        QVERIFY(m_window->isVisible());
+    }
+
+    void printsThePageShown()
+    {
+        open();
+        click("nextPictures");
+        trigger("mOPrt");
+        QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
+        QCOMPARE(m_window->findChild<PreviewPane *>()->sheetCount(), 1);
+        trigger("mOPrt"); // the pictures of that preview are gone
+        QVERIFY(!m_window->isPreviewShown());
+    }
+
+    void stopsMakingCopies()
+    {
+        open();
+        trigger("mOPrt");
+        emit m_window->findChild<ActivityBar *>()->stopRequested();
+        QTest::qWait(200);
+        QVERIFY(!m_window->isPreviewShown());
+        QCOMPARE(said(), u"Stopped"_s);
+    }
+
+    void survivesFilesThatAreNoPictures()
+    {
+        putPictures({u"noise.jpg"_s, u"empty.jpg"_s, u"folder.jpg"_s, u"cut.jpg"_s, u"huge.bmp"_s,
+                     u"../../etc/passwd"_s, QString(200, u'x'), u"\\\\?\\pipe"_s});
+        QByteArray noise(4000, '\0');
+        QRandomGenerator generator(7);
+        for (char &byte : noise)
+            byte = char(generator.bounded(256));
+        m_test->setBytes(u"noise.jpg"_s, noise);
+        m_test->setBytes(u"empty.jpg"_s, {});
+        QVERIFY(QDir(m_test->folder.path()).mkdir(u"folder.jpg"_s));
+        QImage whole(400, 300, QImage::Format_RGB32);
+        whole.fill(Qt::darkGreen);
+        QVERIFY(whole.save(m_test->path(u"whole.jpg"_s)));
+        m_test->setBytes(u"cut.jpg"_s, m_test->bytes(u"whole.jpg"_s).left(200));
+        m_test->setBytes(
+            u"huge.bmp"_s,
+            QByteArray::fromHex(
+                "424d3600000000000000360000002800000000ffff7f00ffff7f01001800000000000000000000000000"));
+        open();
+        QCOMPARE(gallery()->model()->rowCount(), 8);
+        QTRY_COMPARE(gallery()->waitingCount(), 0);
+        QVERIFY(!m_window->grab().isNull());
+        trigger("mOPrt");
+        QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
+        QVERIFY(!m_window->grab().isNull());
+    }
+
+    /// Photographs are read while the window goes on.
+    void neverWaitsForPhotographs()
+    {
+        putPictures(QStringList(3, u"large.jpg"_s));
+        QImage large(4000, 3000, QImage::Format_RGB32);
+        large.fill(Qt::darkCyan);
+        QVERIFY(large.save(m_test->path(u"large.jpg"_s)));
+        m_window = new ADDBKDISPLAY2(m_test->program);
+        QCOMPARE(gallery()->waitingCount(), 3);
+        showActive(*m_window);
+        QTRY_COMPARE_WITH_TIMEOUT(gallery()->waitingCount(), 0, 60000);
+        QVERIFY(isSeen(2));
+        asked();
+    }
+
+    void saysWhenThereIsNoPicture()
+    {
+        putPictures({});
+        m_window = new ADDBKDISPLAY2(m_test->program);
+        showActive(*m_window);
+        QCoreApplication::processEvents();
+        QVERIFY(asked().isEmpty());
+        QVERIFY(find<QWidget>("emptyPictures")->isVisible());
+        QCOMPARE(labelText("picturePage"), u"Page 1 of 1"_s);
+        QVERIFY(!isOffered("enlargePicture"));
+        QVERIFY(!find<QAction>("mOPrt")->isEnabled());
+    }
 
 private:
-    void open();
-    void putPictures(const QStringList &stored);
+    void open()
+    {
+        m_window = new ADDBKDISPLAY2(m_test->program);
+        showActive(*m_window);
+        QList<Message> shown;
+        QVERIFY(QTest::qWaitFor([&] { return !(shown = asked()).isEmpty(); }));
+        QCOMPARE(shown, {ViewerMessages::picturesRestraint()});
+    }
+
+    /// An address book of persons with these picture paths.
+    void putPictures(const QStringList &stored)
+    {
+        QByteArray lines = neverWritten(60), entries = neverWritten(724);
+        for (const QString &path : stored) {
+            const auto record = int(lines.size() / 60 + 1);
+            lines += lineBytes(lineOf("Person " + QByteArray::number(record), record));
+            entries += entryBytes({"Person"}, path.toLatin1());
+        }
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+        m_test->setBytes(u"Addbk1.Fil"_s, entries);
+        m_test->setBytes(u"Addbk2.Fil"_s, lines);
+    }
+
     PictureGallery *gallery() const { return find<PictureGallery>("pictures"); }
     QString name(int index) const { return gallery()->model()->index(index, 0).data().toString(); }
-    bool isSeen(int index) const;
-};
 
-void TestAddbkdisplay2::open()
-{
-    m_window = new ADDBKDISPLAY2(m_test->program);
-    showActive(*m_window);
-    QList<Message> shown;
-    QVERIFY(QTest::qWaitFor([&] { return !(shown = asked()).isEmpty(); }));
-    QCOMPARE(shown, {ViewerMessages::picturesRestraint()});
-}
-
-/// An address book of persons with these picture paths.
-void TestAddbkdisplay2::putPictures(const QStringList &stored)
-{
-    QByteArray lines = neverWritten(60), entries = neverWritten(724);
-    for (const QString &path : stored) {
-        const auto record = int(lines.size() / 60 + 1);
-        lines += lineBytes(lineOf("Person " + QByteArray::number(record), record));
-        entries += entryBytes({"Person"}, path.toLatin1());
+    /// The top of a tile without a picture has the ground of its dashed frame.
+    bool isSeen(int index) const
+    {
+        const QRect tile = gallery()->visualRect(gallery()->model()->index(index, 0));
+        const QImage shown = gallery()->viewport()->grab(tile).toImage();
+        return shown.pixelColor(tile.width() / 2, 10) != Theme::of(gallery()).locked;
     }
-    m_test = std::make_unique<TestProgram>(TestProgram::Empty);
-    m_test->setBytes(u"Addbk1.Fil"_s, entries);
-    m_test->setBytes(u"Addbk2.Fil"_s, lines);
-}
-
-/// The top of a tile without a picture has the ground of its dashed frame.
-bool TestAddbkdisplay2::isSeen(int index) const
-{
-    const QRect tile = gallery()->visualRect(gallery()->model()->index(index, 0));
-    const QImage shown = gallery()->viewport()->grab(tile).toImage();
-    return shown.pixelColor(tile.width() / 2, 10) != Theme::of(gallery()).locked;
-}
-
-void TestAddbkdisplay2::warnsOnce()
-{
-    open();
-    QCOMPARE(m_window->windowTitle(), u"Family/Friends Pictures Display Screen"_s);
-    m_window->hide();
-    m_window->show();
-    QCoreApplication::processEvents();
-    QVERIFY(asked().isEmpty());
-}
-
-void TestAddbkdisplay2::showsThePicturesPageByPage()
-{
-    open();
-    QCOMPARE(labelText("picturePage"), u"Page 1 of 2"_s);
-    QCOMPARE(labelText("pictureTotal"), u" Total = 26"_s);
-    QCOMPARE(gallery()->model()->rowCount(), 20);
-    QCOMPARE(name(0), u"Kessler, Tessa"_s);
-    QTRY_COMPARE(gallery()->waitingCount(), 0);
-    QVERIFY(isSeen(0));
-    QCOMPARE(name(3), u"Vance, Ulrich"_s); // whose picture is missing, and keeps its place
-    QVERIFY(!isSeen(3));
-    QVERIFY(isSeen(4));
-    // The page fills the view, and the whole of a tile is the picture's.
-    const QRect tile = gallery()->visualRect(gallery()->model()->index(19, 0));
-    QVERIFY(gallery()->viewport()->rect().contains(tile));
-    QCOMPARE(tile.size(), gallery()->gridSize());
-    QVERIFY(!isOffered("previousPictures"));
-    click("nextPictures");
-    QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
-    QCOMPARE(gallery()->model()->rowCount(), 6);
-    QCOMPARE(name(5), u"Calloway, Elisabeth"_s);
-    QVERIFY(!isOffered("nextPictures"));
-    QTest::keyClick(gallery(), Qt::Key_PageDown);
-    QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
-    QTest::keyClick(gallery(), Qt::Key_PageUp);
-    QCOMPARE(labelText("picturePage"), u"Page 1 of 2"_s);
-    QTRY_COMPARE(gallery()->waitingCount(), 0);
-}
-
-void TestAddbkdisplay2::followsTheAddressBook()
-{
-    open();
-    click("nextPictures");
-    changeElsewhere(u"Addbk2.Fil"_s,
-                    m_test->bytes(u"Addbk2.Fil"_s).replace("Kessler, Tessa", "####ler, Tessa"));
-    QCOMPARE(labelText("pictureTotal"), u" Total = 25"_s);
-    QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
-}
-
-void TestAddbkdisplay2::enlargesAPicture()
-{
-    open();
-    gallery()->setCurrentIndex(gallery()->model()->index(1, 0));
-    click("enlargePicture");
-    QCOMPARE(labelText("enlargedName"), u"Garland, Anne"_s);
-    QTRY_VERIFY(find<PictureFrame>("enlargedPicture")->hasPicture());
-    QTest::keyClick(m_window, Qt::Key_Escape);
-    QVERIFY(gallery()->hasFocus());
-    QVERIFY(m_window->isVisible());
-}
-
-void TestAddbkdisplay2::printsThePageShown()
-{
-    open();
-    click("nextPictures");
-    trigger("mOPrt");
-    QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
-    QCOMPARE(m_window->findChild<PreviewPane *>()->sheetCount(), 1);
-    trigger("mOPrt"); // the pictures of that preview are gone
-    QVERIFY(!m_window->isPreviewShown());
-}
-
-void TestAddbkdisplay2::stopsMakingCopies()
-{
-    open();
-    trigger("mOPrt");
-    emit m_window->findChild<ActivityBar *>()->stopRequested();
-    QTest::qWait(200);
-    QVERIFY(!m_window->isPreviewShown());
-    QCOMPARE(said(), u"Stopped"_s);
-}
-
-void TestAddbkdisplay2::survivesFilesThatAreNoPictures()
-{
-    putPictures({u"noise.jpg"_s, u"empty.jpg"_s, u"folder.jpg"_s, u"cut.jpg"_s, u"huge.bmp"_s,
-                 u"../../etc/passwd"_s, QString(200, u'x'), u"\\\\?\\pipe"_s});
-    QByteArray noise(4000, '\0');
-    QRandomGenerator generator(7);
-    for (char &byte : noise)
-        byte = char(generator.bounded(256));
-    m_test->setBytes(u"noise.jpg"_s, noise);
-    m_test->setBytes(u"empty.jpg"_s, {});
-    QVERIFY(QDir(m_test->folder.path()).mkdir(u"folder.jpg"_s));
-    QImage whole(400, 300, QImage::Format_RGB32);
-    whole.fill(Qt::darkGreen);
-    QVERIFY(whole.save(m_test->path(u"whole.jpg"_s)));
-    m_test->setBytes(u"cut.jpg"_s, m_test->bytes(u"whole.jpg"_s).left(200));
-    m_test->setBytes(
-        u"huge.bmp"_s,
-        QByteArray::fromHex(
-            "424d3600000000000000360000002800000000ffff7f00ffff7f01001800000000000000000000000000"));
-    open();
-    QCOMPARE(gallery()->model()->rowCount(), 8);
-    QTRY_COMPARE(gallery()->waitingCount(), 0);
-    QVERIFY(!m_window->grab().isNull());
-    trigger("mOPrt");
-    QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
-    QVERIFY(!m_window->grab().isNull());
-}
-
-/// Photographs are read while the window goes on.
-void TestAddbkdisplay2::neverWaitsForPhotographs()
-{
-    putPictures(QStringList(3, u"large.jpg"_s));
-    QImage large(4000, 3000, QImage::Format_RGB32);
-    large.fill(Qt::darkCyan);
-    QVERIFY(large.save(m_test->path(u"large.jpg"_s)));
-    m_window = new ADDBKDISPLAY2(m_test->program);
-    QCOMPARE(gallery()->waitingCount(), 3);
-    showActive(*m_window);
-    QTRY_COMPARE_WITH_TIMEOUT(gallery()->waitingCount(), 0, 60000);
-    QVERIFY(isSeen(2));
-    asked();
-}
-
-void TestAddbkdisplay2::saysWhenThereIsNoPicture()
-{
-    putPictures({});
-    m_window = new ADDBKDISPLAY2(m_test->program);
-    showActive(*m_window);
-    QCoreApplication::processEvents();
-    QVERIFY(asked().isEmpty());
-    QVERIFY(find<QWidget>("emptyPictures")->isVisible());
-    QCOMPARE(labelText("picturePage"), u"Page 1 of 1"_s);
-    QVERIFY(!isOffered("enlargePicture"));
-    QVERIFY(!find<QAction>("mOPrt")->isEnabled());
-}
+};
 
 QTEST_MAIN(TestAddbkdisplay2)
 #include "tst_pictureswindow.moc"

@@ -18,288 +18,273 @@ class TestAddbkdisplay : public OpenViewer
 private slots:
     void cleanup() { close(); }
 
-    void opensWithEveryName();
-    void showsTheChosenInformation_data();
-    void showsTheChosenInformation();
-    void asksForAMonth();
-    void narrowsToAMonth();
-    void searches();
-    void removesARowFromTheGridOnly();
-    void dialsTheHighlightedNumber();
-    void opensTheMailProgram();
-    void opensTheEntry();
-    void showsTheGridToItsCommands_data();
-    void showsTheGridToItsCommands();
-    void saysWhyACommandIsNotOffered();
-    void keepsItsPanelColor();
-    void fitsASmallWindow();
-};
+    void opensWithEveryName()
+    {
+        open();
+        QCOMPARE(m_window->windowTitle(), u"Family/Friends Data Viewer"_s);
+        QCOMPARE(count(), u"No. Of Names: 40"_s);
+        QCOMPARE(grid()->model()->rowCount(), 40);
+        QCOMPARE(cell(0, 0), u"Kessler, Tessa"_s);
+        QCOMPARE(cell(0, 1), u"160 High Street, Marburg, Germany, 35037"_s);
+        QCOMPARE(mode(), u"Current Display Mode: &View All"_s);
+        QVERIFY(grid()->hasFocus());
+        QCOMPARE(grid()->currentIndex(), grid()->model()->index(0, 0));
+    }
 
-void TestAddbkdisplay::opensWithEveryName()
-{
-    open();
-    QCOMPARE(m_window->windowTitle(), u"Family/Friends Data Viewer"_s);
-    QCOMPARE(count(), u"No. Of Names: 40"_s);
-    QCOMPARE(grid()->model()->rowCount(), 40);
-    QCOMPARE(cell(0, 0), u"Kessler, Tessa"_s);
-    QCOMPARE(cell(0, 1), u"160 High Street, Marburg, Germany, 35037"_s);
-    QCOMPARE(mode(), u"Current Display Mode: &View All"_s);
-    QVERIFY(grid()->hasFocus());
-    QCOMPARE(grid()->currentIndex(), grid()->model()->index(0, 0));
-}
+    void showsTheChosenInformation_data()
+    {
+        rows<Information, QString, QString>({
+            {"State", Information::State, u"State"_s, u"Germany"_s},
+            {"Home Phone", Information::HomePhone, u"Home Phone"_s, u"(440) 555-0100"_s},
+            {"Date of Birth", Information::BirthDate, u"Date of Birth"_s, u"Apr-21-1997"_s},
+            {"Pictures - Print Only", Information::Pictures, {}, {}},
+        });
+    }
 
-void TestAddbkdisplay::showsTheChosenInformation_data()
-{
-    rows<Information, QString, QString>({
-        {"State", Information::State, u"State"_s, u"Germany"_s},
-        {"Home Phone", Information::HomePhone, u"Home Phone"_s, u"(440) 555-0100"_s},
-        {"Date of Birth", Information::BirthDate, u"Date of Birth"_s, u"Apr-21-1997"_s},
-        {"Pictures - Print Only", Information::Pictures, {}, {}},
-    });
-}
+    void showsTheChosenInformation()
+    {
+        const auto [information, head, text] = row<Information, QString, QString>();
+        open();
+        select(4, 1);
+        choose(information);
+        QCOMPARE(grid()->model()->columnCount(), head.isEmpty() ? 1 : 2);
+        QCOMPARE(grid()->model()->headerData(1, Qt::Horizontal).toString(), head);
+        QCOMPARE(cell(0, 1), text);
+        QCOMPARE(labelText("informationChip"), QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(grid()->currentIndex().row(), 4);
+    }
 
-void TestAddbkdisplay::showsTheChosenInformation()
-{
-    const auto [information, head, text] = row<Information, QString, QString>();
-    open();
-    select(4, 1);
-    choose(information);
-    QCOMPARE(grid()->model()->columnCount(), head.isEmpty() ? 1 : 2);
-    QCOMPARE(grid()->model()->headerData(1, Qt::Horizontal).toString(), head);
-    QCOMPARE(cell(0, 1), text);
-    QCOMPARE(labelText("informationChip"), QString::fromLatin1(QTest::currentDataTag()));
-    QCOMPARE(grid()->currentIndex().row(), 4);
-}
+    void asksForAMonth()
+    {
+        open();
+        const auto asks = [this](DisplayRange::Kind kind, const char *box, const QString &typed) {
+            find<QComboBox>(box)->setEditText(typed);
+            chooseRange(kind);
+            click("updateDisplay");
+            return find<QComboBox>(box)->hasFocus() && count() == u"No. Of Names: 40"_s ? asked()
+                                                                                        : QList<Message>();
+        };
+        const Message birth{u"Display Option"_s, u"Please enter Birthday Month!"_s};
+        const Message anniversary{u"Display Option"_s, u"Please enter Anniversary Month!"_s};
+        QCOMPARE(asks(DisplayRange::BirthMonth, "birthMonth", {}), {birth});
+        QCOMPARE(asks(DisplayRange::AnniversaryMonth, "anniversaryMonth", {}), {anniversary});
+        QCOMPARE(asks(DisplayRange::BirthMonth, "birthMonth", u"Foo"_s), {birth});
+    }
 
-void TestAddbkdisplay::asksForAMonth()
-{
-    open();
-    const auto asks = [this](DisplayRange::Kind kind, const char *box, const QString &typed) {
-        find<QComboBox>(box)->setEditText(typed);
-        chooseRange(kind);
+    void narrowsToAMonth()
+    {
+        open();
+        auto *month = find<QComboBox>("birthMonth");
+        month->setFocus();
+        QTest::keyClicks(month->lineEdit(), u"april"_s); // which chooses the range, too
+        QTest::keyClick(month->lineEdit(), Qt::Key_Return);
+        QCOMPARE(count(), u"No. Of Names: 7"_s);
+        QCOMPARE(cell(0, 0), u"Kessler, Tessa"_s);
+        choose(Information::BirthDate); // within the same month
+        QCOMPARE(cell(6, 1), u"Apr-16-1958"_s);
+        QCOMPARE(said(), u"Birthdays in April"_s);
+        chooseRange(DisplayRange::All);
+        QCOMPARE(count(), u"No. Of Names: 7"_s);
         click("updateDisplay");
-        return find<QComboBox>(box)->hasFocus() && count() == u"No. Of Names: 40"_s ? asked()
-                                                                                    : QList<Message>();
-    };
-    const Message birth{u"Display Option"_s, u"Please enter Birthday Month!"_s};
-    const Message anniversary{u"Display Option"_s, u"Please enter Anniversary Month!"_s};
-    QCOMPARE(asks(DisplayRange::BirthMonth, "birthMonth", {}), {birth});
-    QCOMPARE(asks(DisplayRange::AnniversaryMonth, "anniversaryMonth", {}), {anniversary});
-    QCOMPARE(asks(DisplayRange::BirthMonth, "birthMonth", u"Foo"_s), {birth});
-}
+        QCOMPARE(count(), u"No. Of Names: 40"_s);
+        // A month that has nobody.
+        find<QComboBox>("anniversaryMonth")->setCurrentText(u"Dec"_s);
+        click("updateDisplay");
+        QCOMPARE(grid()->model()->rowCount(), 1);
+        QCOMPARE(cell(0, 0), u"No Names Found with Info..."_s);
+        QCOMPARE(count(), u"No. Of Names: 0"_s);
+        QVERIFY(!isOffered("removeRow"));
+    }
 
-void TestAddbkdisplay::narrowsToAMonth()
-{
-    open();
-    auto *month = find<QComboBox>("birthMonth");
-    month->setFocus();
-    QTest::keyClicks(month->lineEdit(), u"april"_s); // which chooses the range, too
-    QTest::keyClick(month->lineEdit(), Qt::Key_Return);
-    QCOMPARE(count(), u"No. Of Names: 7"_s);
-    QCOMPARE(cell(0, 0), u"Kessler, Tessa"_s);
-    choose(Information::BirthDate); // within the same month
-    QCOMPARE(cell(6, 1), u"Apr-16-1958"_s);
-    QCOMPARE(said(), u"Birthdays in April"_s);
-    chooseRange(DisplayRange::All);
-    QCOMPARE(count(), u"No. Of Names: 7"_s);
-    click("updateDisplay");
-    QCOMPARE(count(), u"No. Of Names: 40"_s);
-    // A month that has nobody.
-    find<QComboBox>("anniversaryMonth")->setCurrentText(u"Dec"_s);
-    click("updateDisplay");
-    QCOMPARE(grid()->model()->rowCount(), 1);
-    QCOMPARE(cell(0, 0), u"No Names Found with Info..."_s);
-    QCOMPARE(count(), u"No. Of Names: 0"_s);
-    QVERIFY(!isOffered("removeRow"));
-}
-
-void TestAddbkdisplay::searches()
-{
-    open();
-    choose(Information::HomePhone);
-    type(u"mil"_s);
-    QCOMPARE(count(), u"No. Of Matches Found: 3"_s);
-    type(u"mill"_s);
-    QCOMPARE(count(), u"No. Of Matches Found: 2"_s);
-    QCOMPARE(mode(), u"Current Display Mode: &Search For: [mill]"_s);
-    QCOMPARE(find<QAction>("mOM")->text(), mode());
-    QCOMPARE(cell(1, 0), u"Miller, Anne"_s);
-    click("searchButton");
-    QVERIFY(grid()->hasFocus());
-    QCOMPARE(count(), u"No. Of Matches Found: 2"_s);
-    choose(Information::Address); // the search goes through what is shown
-    QVERIFY(count() != u"No. Of Matches Found: 2"_s);
-    click("displayMode");
-    QCOMPARE(count(), u"No. Of Names: 40"_s);
-    QCOMPARE(mode(), u"Current Display Mode: &View All"_s);
-    // Where nobody is found.
-    type(u"a & b"_s);
-    QCOMPARE(cell(0, 0), u"No Matches were Found!"_s);
-    QCOMPARE(count(), u"No. Of Matches Found: 0"_s);
-    QCOMPARE(mode(), u"Current Display Mode: &Search For: [a && b]"_s);
-    QTest::keyClick(searchBox(), Qt::Key_Escape);
-    QCOMPARE(grid()->model()->rowCount(), 40);
-    // Without a text.
-    type(u"  "_s);
-    click("searchButton");
-    QCOMPARE(asked(), {(Message{u"Search"_s, u"Please Enter Search Text then press Search!"_s})});
-    QVERIFY(searchBox()->hasFocus());
-    QTest::keyClick(searchBox(), Qt::Key_Down);
-    QVERIFY(grid()->hasFocus());
-}
-
-void TestAddbkdisplay::removesARowFromTheGridOnly()
-{
-    open();
-    const QByteArray entries = m_test->bytes(u"Addbk1.Fil"_s), lines = m_test->bytes(u"Addbk2.Fil"_s);
-    select(1);
-    m_test->dialogs.willAnswer(Answer::No);
-    click("removeRow");
-    QCOMPARE(asked(), {ViewerMessages::removeRow()});
-    QCOMPARE(count(), u"No. Of Names: 40"_s);
-    m_test->dialogs.willAnswer(Answer::Yes);
-    QTest::keyClick(grid(), Qt::Key_Delete);
-    QCOMPARE(count(), u"No. Of Names: 39"_s);
-    QCOMPARE(cell(1, 0), u"Miller, Anne"_s);
-    QCOMPARE(m_test->bytes(u"Addbk1.Fil"_s), entries);
-    QCOMPARE(m_test->bytes(u"Addbk2.Fil"_s), lines);
-    asked();
-    show();
-    QCOMPARE(count(), u"No. Of Names: 40"_s);
-}
-
-void TestAddbkdisplay::dialsTheHighlightedNumber()
-{
-    open();
-    choose(Information::FaxNumber);
-    select(rowWhere(1, [](const QString &number) { return number.isEmpty(); }));
-    click("Image2");
-    QCOMPARE(asked(), {AddressMessages::telephoneNumberMissing()});
-    QVERIFY(m_line.log.isEmpty());
-    choose(Information::HomePhone);
-    select(0, 1);
-    m_test->dialogs.willAnswer(Answer::Ok);
-    click("Image2");
-    QCOMPARE(m_line.log, QStringList({u"open 3"_s, u"ATDT (440) 555-0100;\r"_s, u"ATH\r"_s, u"close"_s}));
-    QCOMPARE(asked(), {AddressMessages::numberDialed(u"(440) 555-0100"_s)});
-}
-
-void TestAddbkdisplay::opensTheMailProgram()
-{
-    open();
-    choose(Information::EmailAddress);
-    const int row = rowWhere(1, [](const QString &address) { return address.contains(u'@'); });
-    select(row, 1);
-    grid()->scrollTo(grid()->currentIndex());
-    click("writeMail");
-    const QRect place = grid()->visualRect(grid()->currentIndex());
-    QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {},
-                      place.topLeft() + QPoint(14, place.height() / 2));
-    // Beside the text nothing is followed.
-    QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {},
-                      place.topRight() + QPoint(-3, place.height() / 2));
-    const QUrl expected(u"mailto:"_s + cell(row, 1));
-    QCOMPARE(m_mail, QList({expected, expected}));
-}
-
-void TestAddbkdisplay::opensTheEntry()
-{
-    open();
-    m_test->functions.add(Function::AddressBook,
-                          {[](Program &program) { return new ADDBKVIEW(program); }, {}, {}, {}, {}});
-    const QPoint place = grid()->visualRect(grid()->model()->index(4, 0)).center();
-    QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(grid()->viewport(), Qt::LeftButton, {}, place);
-    const QList<QWidget *> windows = m_test->functions.openWindows();
-    QCOMPARE(windows.size(), 1);
-    QCOMPARE(control<QLineEdit>(*windows.first(), "Text1_0")->text(), u"Jarvis"_s);
-    select(5);
-    click("openEntry");
-    QCOMPARE(control<QLineEdit>(*windows.first(), "Text1_0")->text(), u"Ortega"_s);
-    delete windows.first();
-    m_test->gate = AccessGate(
-        [](Program &program, QWidget *) { program.state.passwordGateResult = PasswordGateResult::Refused; });
-    m_test->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
-    click("openEntry");
-    QVERIFY(m_test->functions.openWindows().isEmpty());
-}
-
-void TestAddbkdisplay::showsTheGridToItsCommands_data()
-{
-    rows<bool, QByteArray, QByteArray>({
-        {"delete, preview", true, "mOPrt", "mODel"},
-        {"delete, labels", false, "mOLab", "mEDel"},
-        {"mode, preview", true, "mOPrt", "mOM"},
-        {"sort, preview", true, "mOPrt", "mOSName"},
-        {"search, print options", false, "mOPrt", {}},
-    });
-}
-
-void TestAddbkdisplay::showsTheGridToItsCommands()
-{
-    const auto [isPreview, panel, command] = row<bool, QByteArray, QByteArray>();
-    open();
-    trigger(panel);
-    if (isPreview)
-        click("printList");
-    QVERIFY(!grid()->isVisible());
-    if (command.isEmpty()) {
+    void searches()
+    {
+        open();
+        choose(Information::HomePhone);
+        type(u"mil"_s);
+        QCOMPARE(count(), u"No. Of Matches Found: 3"_s);
         type(u"mill"_s);
-        QTest::keyClick(searchBox(), Qt::Key_Return);
-    } else {
-        if (command.endsWith("Del"))
-            m_test->dialogs.willAnswer(Answer::No);
-        trigger(command);
+        QCOMPARE(count(), u"No. Of Matches Found: 2"_s);
+        QCOMPARE(mode(), u"Current Display Mode: &Search For: [mill]"_s);
+        QCOMPARE(find<QAction>("mOM")->text(), mode());
+        QCOMPARE(cell(1, 0), u"Miller, Anne"_s);
+        click("searchButton");
+        QVERIFY(grid()->hasFocus());
+        QCOMPARE(count(), u"No. Of Matches Found: 2"_s);
+        choose(Information::Address); // the search goes through what is shown
+        QVERIFY(count() != u"No. Of Matches Found: 2"_s);
+        click("displayMode");
+        QCOMPARE(count(), u"No. Of Names: 40"_s);
+        QCOMPARE(mode(), u"Current Display Mode: &View All"_s);
+        // Where nobody is found.
+        type(u"a & b"_s);
+        QCOMPARE(cell(0, 0), u"No Matches were Found!"_s);
+        QCOMPARE(count(), u"No. Of Matches Found: 0"_s);
+        QCOMPARE(mode(), u"Current Display Mode: &Search For: [a && b]"_s);
+        QTest::keyClick(searchBox(), Qt::Key_Escape);
+        QCOMPARE(grid()->model()->rowCount(), 40);
+        // Without a text.
+        type(u"  "_s);
+        click("searchButton");
+        QCOMPARE(asked(), {(Message{u"Search"_s, u"Please Enter Search Text then press Search!"_s})});
+        QVERIFY(searchBox()->hasFocus());
+        QTest::keyClick(searchBox(), Qt::Key_Down);
+        QVERIFY(grid()->hasFocus());
+    }
+
+    void removesARowFromTheGridOnly()
+    {
+        open();
+        const QByteArray entries = m_test->bytes(u"Addbk1.Fil"_s), lines = m_test->bytes(u"Addbk2.Fil"_s);
+        select(1);
+        m_test->dialogs.willAnswer(Answer::No);
+        click("removeRow");
+        QCOMPARE(asked(), {ViewerMessages::removeRow()});
+        QCOMPARE(count(), u"No. Of Names: 40"_s);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        QTest::keyClick(grid(), Qt::Key_Delete);
+        QCOMPARE(count(), u"No. Of Names: 39"_s);
+        QCOMPARE(cell(1, 0), u"Miller, Anne"_s);
+        QCOMPARE(m_test->bytes(u"Addbk1.Fil"_s), entries);
+        QCOMPARE(m_test->bytes(u"Addbk2.Fil"_s), lines);
         asked();
+        show();
+        QCOMPARE(count(), u"No. Of Names: 40"_s);
     }
-    QVERIFY(grid()->isVisible());
-    QVERIFY(m_window->focusWidget()->isVisible());
-}
 
-void TestAddbkdisplay::saysWhyACommandIsNotOffered()
-{
-    open();
-    for (const char *name : {"Image2", "writeMail"}) {
-        QVERIFY(!isOffered(name));
-        QVERIFY(find<QPushButton>(name)->toolTip().startsWith(u"Choose"_s));
+    void dialsTheHighlightedNumber()
+    {
+        open();
+        choose(Information::FaxNumber);
+        select(rowWhere(1, [](const QString &number) { return number.isEmpty(); }));
+        click("Image2");
+        QCOMPARE(asked(), {AddressMessages::telephoneNumberMissing()});
+        QVERIFY(m_line.log.isEmpty());
+        choose(Information::HomePhone);
+        select(0, 1);
+        m_test->dialogs.willAnswer(Answer::Ok);
+        click("Image2");
+        QCOMPARE(m_line.log, QStringList({u"open 3"_s, u"ATDT (440) 555-0100;\r"_s, u"ATH\r"_s, u"close"_s}));
+        QCOMPARE(asked(), {AddressMessages::numberDialed(u"(440) 555-0100"_s)});
     }
-    // A name too long for its line leads to no entry.
-    select(rowWhere(0, [](const QString &name) { return name.endsWith(u"Xenia"_s); }));
-    QVERIFY(!isOffered("openEntry"));
-    QVERIFY(isOffered("removeRow"));
-}
 
-void TestAddbkdisplay::keepsItsPanelColor()
-{
-    open();
-    m_test->dialogs.willAnswer(Answer::Yes);
-    m_test->dialogs.willChooseColor(QColor(1, 2, 3));
-    m_test->dialogs.willAnswer(Answer::Yes); // save it
-    m_test->dialogs.willAnswer(Answer::No);  // but not for every window
-    trigger("mOC");
-    QCOMPARE(m_test->bytes(u"GColor3.Fil"_s).mid(203 * 20 + 2, 6), "197121"_ba);
-}
+    void opensTheMailProgram()
+    {
+        open();
+        choose(Information::EmailAddress);
+        const int row = rowWhere(1, [](const QString &address) { return address.contains(u'@'); });
+        select(row, 1);
+        grid()->scrollTo(grid()->currentIndex());
+        click("writeMail");
+        const QRect place = grid()->visualRect(grid()->currentIndex());
+        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {},
+                          place.topLeft() + QPoint(14, place.height() / 2));
+        // Beside the text nothing is followed.
+        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {},
+                          place.topRight() + QPoint(-3, place.height() / 2));
+        const QUrl expected(u"mailto:"_s + cell(row, 1));
+        QCOMPARE(m_mail, QList({expected, expected}));
+    }
 
-void TestAddbkdisplay::fitsASmallWindow()
-{
-    open();
-    m_window->resize(800, 600);
-    QCOMPARE(m_window->size(), QSize(800, 600));
-    const auto isWhole = [this](const char *name) {
-        const auto *scroll = find<QScrollArea>(name);
-        return scroll->viewport()->width() >= scroll->widget()->minimumSizeHint().width();
-    };
-    QVERIFY(isWhole("choicesScroll"));
-    type(u"a text longer than its button"_s);
-    QCoreApplication::processEvents();
-    const auto *button = find<QPushButton>("displayMode");
-    QVERIFY(mode().contains(u"[a"_s) && button->width() >= button->sizeHint().width());
-    searchBox()->clear();
-    trigger("mOLab");
-    QCoreApplication::processEvents();
-    QCOMPARE(m_window->size(), QSize(800, 600));
-    QVERIFY(isWhole("labelChoices"));
-}
+    void opensTheEntry()
+    {
+        open();
+        m_test->functions.add(Function::AddressBook,
+                              {[](Program &program) { return new ADDBKVIEW(program); }, {}, {}, {}, {}});
+        const QPoint place = grid()->visualRect(grid()->model()->index(4, 0)).center();
+        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(grid()->viewport(), Qt::LeftButton, {}, place);
+        const QList<QWidget *> windows = m_test->functions.openWindows();
+        QCOMPARE(windows.size(), 1);
+        QCOMPARE(control<QLineEdit>(*windows.first(), "Text1_0")->text(), u"Jarvis"_s);
+        select(5);
+        click("openEntry");
+        QCOMPARE(control<QLineEdit>(*windows.first(), "Text1_0")->text(), u"Ortega"_s);
+        delete windows.first();
+        m_test->gate = AccessGate([](Program &program, QWidget *) {
+            program.state.passwordGateResult = PasswordGateResult::Refused;
+        });
+        m_test->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
+        click("openEntry");
+        QVERIFY(m_test->functions.openWindows().isEmpty());
+    }
+
+    void showsTheGridToItsCommands_data()
+    {
+        rows<bool, QByteArray, QByteArray>({
+            {"delete, preview", true, "mOPrt", "mODel"},
+            {"delete, labels", false, "mOLab", "mEDel"},
+            {"mode, preview", true, "mOPrt", "mOM"},
+            {"sort, preview", true, "mOPrt", "mOSName"},
+            {"search, print options", false, "mOPrt", {}},
+        });
+    }
+
+    void showsTheGridToItsCommands()
+    {
+        const auto [isPreview, panel, command] = row<bool, QByteArray, QByteArray>();
+        open();
+        trigger(panel);
+        if (isPreview)
+            click("printList");
+        QVERIFY(!grid()->isVisible());
+        if (command.isEmpty()) {
+            type(u"mill"_s);
+            QTest::keyClick(searchBox(), Qt::Key_Return);
+        } else {
+            if (command.endsWith("Del"))
+                m_test->dialogs.willAnswer(Answer::No);
+            trigger(command);
+            asked();
+        }
+        QVERIFY(grid()->isVisible());
+        QVERIFY(m_window->focusWidget()->isVisible());
+    }
+
+    void saysWhyACommandIsNotOffered()
+    {
+        open();
+        for (const char *name : {"Image2", "writeMail"}) {
+            QVERIFY(!isOffered(name));
+            QVERIFY(find<QPushButton>(name)->toolTip().startsWith(u"Choose"_s));
+        }
+        // A name too long for its line leads to no entry.
+        select(rowWhere(0, [](const QString &name) { return name.endsWith(u"Xenia"_s); }));
+        QVERIFY(!isOffered("openEntry"));
+        QVERIFY(isOffered("removeRow"));
+    }
+
+    void keepsItsPanelColor()
+    {
+        open();
+        m_test->dialogs.willAnswer(Answer::Yes);
+        m_test->dialogs.willChooseColor(QColor(1, 2, 3));
+        m_test->dialogs.willAnswer(Answer::Yes); // save it
+        m_test->dialogs.willAnswer(Answer::No);  // but not for every window
+        trigger("mOC");
+        QCOMPARE(m_test->bytes(u"GColor3.Fil"_s).mid(203 * 20 + 2, 6), "197121"_ba);
+    }
+
+    void fitsASmallWindow()
+    {
+        open();
+        m_window->resize(800, 600);
+        QCOMPARE(m_window->size(), QSize(800, 600));
+        const auto isWhole = [this](const char *name) {
+            const auto *scroll = find<QScrollArea>(name);
+            return scroll->viewport()->width() >= scroll->widget()->minimumSizeHint().width();
+        };
+        QVERIFY(isWhole("choicesScroll"));
+        type(u"a text longer than its button"_s);
+        QCoreApplication::processEvents();
+        const auto *button = find<QPushButton>("displayMode");
+        QVERIFY(mode().contains(u"[a"_s) && button->width() >= button->sizeHint().width());
+        searchBox()->clear();
+        trigger("mOLab");
+        QCoreApplication::processEvents();
+        QCOMPARE(m_window->size(), QSize(800, 600));
+        QVERIFY(isWhole("labelChoices"));
+    }
+};
 
 QTEST_MAIN(TestAddbkdisplay)
 #include "tst_viewerwindow.moc"

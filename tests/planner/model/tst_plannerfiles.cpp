@@ -64,132 +64,124 @@ class TestYearFiles : public QObject
 {
     Q_OBJECT
 private slots:
-    void survivesAnyBytes_data();
-    void survivesAnyBytes();
-    void tellsWhatItCannotRead();
-    void hasNoFileBeyondTheDatesOfThePlanner();
-    void readsWhatACutFileStillHolds();
-    void tellsTheTruthAboutAFullDisk_data();
-    void tellsTheTruthAboutAFullDisk();
-};
-
-void TestYearFiles::survivesAnyBytes_data()
-{
-    rows<QByteArray>({
-        {"empty", {}},
-        {"a byte", QByteArray(1, '\xff')},
-        {"a day", firstDays()},
-        {"zeros", QByteArray(431 * 900, '\0')},
-        {"noise", noise(431 * 900)},
-        {"noise that counts as saved", QByteArray(noise(840) + "Full      " + noise(50)).repeated(431)},
-        {"more than a year", noise(500 * 900 + 17)},
-    });
-}
-
-void TestYearFiles::survivesAnyBytes()
-{
-    const auto [bytes] = row<QByteArray>();
-    const TestProgram test;
-    test.setBytes(yearFile, bytes);
-    const PlannerFiles files(test.folder);
-    const auto lookAtEverything = [&] {
-        files.days(QDate(2025, 12, 1), QDate(2027, 1, 31));
-        PlannerSearch search(files, u"e"_s);
-        runThrough(search);
-        PlannerNews::liveLine(test.folder, newYear.startOfDay());
-        return files.read(newYear);
-    };
-    lookAtEverything();
-    QCOMPARE(test.bytes(yearFile), bytes);
-
-    constexpr int days = 40;
-    RecurrenceRun insert = walk(test.folder, RecurrenceAction::Insert, days);
-    runThrough(insert);
-    QCOMPARE(insert.made() + insert.full(), days);
-    RecurrenceRun remove = walk(test.folder, RecurrenceAction::Remove, days);
-    runThrough(remove);
-    QCOMPARE(remove.removed(), insert.made());
-    QVERIFY(isRestUntouched(bytes, test.bytes(yearFile), days));
-    lookAtEverything();
-}
-
-/// Nobody can say that an appointment is not in a file that cannot be read.
-void TestYearFiles::tellsWhatItCannotRead()
-{
-    const TestProgram test;
-    QVERIFY(QDir().mkpath(test.path(yearFile)));
-    for (const RecurrenceAction action : {RecurrenceAction::Insert, RecurrenceAction::Remove}) {
-        RecurrenceRun run = walk(test.folder, action, 1);
-        runThrough(run);
-        QCOMPARE(run.failed(), 1);
-    }
-}
-
-void TestYearFiles::hasNoFileBeyondTheDatesOfThePlanner()
-{
-    const TestProgram test;
-    PlannerFiles files(test.folder);
-    for (const QDate date : {QDate(-1, 5, 5), QDate(999, 12, 31), QDate(10000, 1, 1), QDate()}) {
-        QCOMPARE(files.read(date), PlannerDay());
-        QVERIFY(!files.write(date, {}));
-    }
-    files.forEachDay(0, [](QDate, const PlannerDay &) { QFAIL("no day is of the year 0"); });
-    QCOMPARE(files.days(QDate(-1, 12, 25), QDate(999, 12, 31)).size(), 0U);
-    test.setBytes(u" 0000.Cal"_s, QByteArray());
-    QCOMPARE(files.years(), QList<int>());
-    QCOMPARE(QDir(test.folder.path()).entryList(QDir::Files), QStringList{u" 0000.Cal"_s});
-    QVERIFY(DayRecord::ofNumber(firstDays(), DayRecord::number({})).isEmpty());
-}
-
-void TestYearFiles::readsWhatACutFileStillHolds()
-{
-    const TestProgram test;
-    const PlannerFiles files(test.folder);
-    const QByteArray whole = firstDays();
-    for (qsizetype cut = 0; cut <= whole.size(); cut += cut < 9000 ? 499 : 1) {
-        const QByteArray bytes = whole.left(cut);
-        test.setBytes(yearFile, bytes);
-        // The mark stands at the end of a day: from its fourth letter on the day is there.
-        const int entries = cut >= 9000 + 844 ? 1 : 0;
-        QCOMPARE(files.read(newYear).entryCount(), entries);
-        if (cut % 50 != 0 && cut < whole.size())
-            continue;
-        RecurrenceRun run = walk(test.folder, RecurrenceAction::Insert, 1);
-        runThrough(run);
-        QCOMPARE(files.read(newYear).entryCount(), entries + 1);
-        QVERIFY(isRestUntouched(bytes, test.bytes(yearFile), 1));
-    }
-}
-
-void TestYearFiles::tellsTheTruthAboutAFullDisk_data()
-{
-    rows<int, int>({
-        {"no room at all", 0, 0},
-        {"within the first day", 10 * 900 + 300, 0},
-        {"within the mark of the fourth", 40 * 900 + 842, 3},
-        {"behind the fourth", 40 * 900 + 850, 4},
-    });
-}
-
-void TestYearFiles::tellsTheTruthAboutAFullDisk()
-{
-#ifdef Q_OS_UNIX
-    const auto [room, made] = row<int, int>();
-    const TestProgram test;
-    RecurrenceRun run = walk(test.folder, RecurrenceAction::Insert, 6);
+    void survivesAnyBytes_data()
     {
-        const FileSizeLimit fullDisk{rlim_t(room)};
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
-        while (run.failed() == 0 && run.step()) {}
+        rows<QByteArray>({
+            {"empty", {}},
+            {"a byte", QByteArray(1, '\xff')},
+            {"a day", firstDays()},
+            {"zeros", QByteArray(431 * 900, '\0')},
+            {"noise", noise(431 * 900)},
+            {"noise that counts as saved", QByteArray(noise(840) + "Full      " + noise(50)).repeated(431)},
+            {"more than a year", noise(500 * 900 + 17)},
+        });
     }
-    QCOMPARE(run.made(), made);
-    QCOMPARE(run.failed(), 1);
-    QCOMPARE(run.lastDate(), newYear.addDays(made));
-    const PlannerFiles files(test.folder);
-    for (int i = 0; i < 6; ++i)
-        QCOMPARE(files.read(newYear.addDays(i)).entryCount(), i < made ? 1 : 0);
+
+    void survivesAnyBytes()
+    {
+        const auto [bytes] = row<QByteArray>();
+        const TestProgram test;
+        test.setBytes(yearFile, bytes);
+        const PlannerFiles files(test.folder);
+        const auto lookAtEverything = [&] {
+            files.days(QDate(2025, 12, 1), QDate(2027, 1, 31));
+            PlannerSearch search(files, u"e"_s);
+            runThrough(search);
+            PlannerNews::liveLine(test.folder, newYear.startOfDay());
+            return files.read(newYear);
+        };
+        lookAtEverything();
+        QCOMPARE(test.bytes(yearFile), bytes);
+
+        constexpr int days = 40;
+        RecurrenceRun insert = walk(test.folder, RecurrenceAction::Insert, days);
+        runThrough(insert);
+        QCOMPARE(insert.made() + insert.full(), days);
+        RecurrenceRun remove = walk(test.folder, RecurrenceAction::Remove, days);
+        runThrough(remove);
+        QCOMPARE(remove.removed(), insert.made());
+        QVERIFY(isRestUntouched(bytes, test.bytes(yearFile), days));
+        lookAtEverything();
+    }
+
+    /// Nobody can say that an appointment is not in a file that cannot be read.
+    void tellsWhatItCannotRead()
+    {
+        const TestProgram test;
+        QVERIFY(QDir().mkpath(test.path(yearFile)));
+        for (const RecurrenceAction action : {RecurrenceAction::Insert, RecurrenceAction::Remove}) {
+            RecurrenceRun run = walk(test.folder, action, 1);
+            runThrough(run);
+            QCOMPARE(run.failed(), 1);
+        }
+    }
+
+    void hasNoFileBeyondTheDatesOfThePlanner()
+    {
+        const TestProgram test;
+        PlannerFiles files(test.folder);
+        for (const QDate date : {QDate(-1, 5, 5), QDate(999, 12, 31), QDate(10000, 1, 1), QDate()}) {
+            QCOMPARE(files.read(date), PlannerDay());
+            QVERIFY(!files.write(date, {}));
+        }
+        files.forEachDay(0, [](QDate, const PlannerDay &) { QFAIL("no day is of the year 0"); });
+        QCOMPARE(files.days(QDate(-1, 12, 25), QDate(999, 12, 31)).size(), 0U);
+        test.setBytes(u" 0000.Cal"_s, QByteArray());
+        QCOMPARE(files.years(), QList<int>());
+        QCOMPARE(QDir(test.folder.path()).entryList(QDir::Files), QStringList{u" 0000.Cal"_s});
+        QVERIFY(DayRecord::ofNumber(firstDays(), DayRecord::number({})).isEmpty());
+    }
+
+    void readsWhatACutFileStillHolds()
+    {
+        const TestProgram test;
+        const PlannerFiles files(test.folder);
+        const QByteArray whole = firstDays();
+        for (qsizetype cut = 0; cut <= whole.size(); cut += cut < 9000 ? 499 : 1) {
+            const QByteArray bytes = whole.left(cut);
+            test.setBytes(yearFile, bytes);
+            // The mark stands at the end of a day: from its fourth letter on the day is there.
+            const int entries = cut >= 9000 + 844 ? 1 : 0;
+            QCOMPARE(files.read(newYear).entryCount(), entries);
+            if (cut % 50 != 0 && cut < whole.size())
+                continue;
+            RecurrenceRun run = walk(test.folder, RecurrenceAction::Insert, 1);
+            runThrough(run);
+            QCOMPARE(files.read(newYear).entryCount(), entries + 1);
+            QVERIFY(isRestUntouched(bytes, test.bytes(yearFile), 1));
+        }
+    }
+
+    void tellsTheTruthAboutAFullDisk_data()
+    {
+        rows<int, int>({
+            {"no room at all", 0, 0},
+            {"within the first day", 10 * 900 + 300, 0},
+            {"within the mark of the fourth", 40 * 900 + 842, 3},
+            {"behind the fourth", 40 * 900 + 850, 4},
+        });
+    }
+
+    void tellsTheTruthAboutAFullDisk()
+    {
+#ifdef Q_OS_UNIX
+        const auto [room, made] = row<int, int>();
+        const TestProgram test;
+        RecurrenceRun run = walk(test.folder, RecurrenceAction::Insert, 6);
+        {
+            const FileSizeLimit fullDisk{rlim_t(room)};
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
+            while (run.failed() == 0 && run.step()) {}
+        }
+        QCOMPARE(run.made(), made);
+        QCOMPARE(run.failed(), 1);
+        QCOMPARE(run.lastDate(), newYear.addDays(made));
+        const PlannerFiles files(test.folder);
+        for (int i = 0; i < 6; ++i)
+            QCOMPARE(files.read(newYear.addDays(i)).entryCount(), i < made ? 1 : 0);
 #endif
-}
+    }
+};
 
 QTEST_GUILESS_MAIN(TestYearFiles)
 #include "tst_plannerfiles.moc"

@@ -11,48 +11,45 @@ class TestPlannerNews : public QObject
 {
     Q_OBJECT
 private slots:
-    void readsTimesOfDay_data();
-    void readsTimesOfDay();
-    void tellsTheNextAppointment();
+    void readsTimesOfDay_data()
+    {
+        rows<QString, QTime>({
+            {"morning", u"9:30 AM"_s, {9, 30}},
+            {"noon", u"12:00 PM"_s, {12, 0}},
+            {"midnight", u"12:15am"_s, {0, 15}},
+            {"24 hours", u"14:05"_s, {14, 5}},
+            {"hour alone", u" 8 "_s, {8, 0}},
+            {"no hour", u"25:00"_s, {}},
+            {"13 PM", u"13:00 PM"_s, {}},
+            {"words", u"noon"_s, {}},
+            {"empty", {}, {}},
+        });
+    }
+
+    void readsTimesOfDay()
+    {
+        const auto [text, time] = row<QString, QTime>();
+        QCOMPARE(PlannerNews::timeOfDay(text), time);
+    }
+
+    void tellsTheNextAppointment()
+    {
+        const TestProgram test;
+        const QDateTime now(QDate(2026, 11, 21), QTime(10, 24));
+        QVERIFY(!PlannerNews::liveLine(test.folder, now));
+        QVERIFY(!test.folder.exists(u" 2026.Cal"_s));
+
+        PlannerFiles files(test.folder);
+        QVERIFY(files.write(
+            now.date(),
+            dayOf({{{}, u"Ferns"_s}, {u"8:30 AM"_s, u"Market"_s}, {u"11:30 AM"_s, u"Dentist"_s}})));
+        QCOMPARE(PlannerNews::liveLine(test.folder, now),
+                 (LiveLine{u"11:30 AM  Dentist"_s, LiveLine::Plain,
+                           u"Three appointments today, the next one at 11:30 AM."_s}));
+        QCOMPARE(PlannerNews::liveLine(test.folder, now.addSecs(7200))->text, u"Ferns"_s);
+        QCOMPARE(PlannerNews::liveLine(test.folder, now.addDays(-1))->text, u"Tomorrow: Ferns"_s);
+    }
 };
-
-void TestPlannerNews::readsTimesOfDay_data()
-{
-    rows<QString, QTime>({
-        {"morning", u"9:30 AM"_s, {9, 30}},
-        {"noon", u"12:00 PM"_s, {12, 0}},
-        {"midnight", u"12:15am"_s, {0, 15}},
-        {"24 hours", u"14:05"_s, {14, 5}},
-        {"hour alone", u" 8 "_s, {8, 0}},
-        {"no hour", u"25:00"_s, {}},
-        {"13 PM", u"13:00 PM"_s, {}},
-        {"words", u"noon"_s, {}},
-        {"empty", {}, {}},
-    });
-}
-
-void TestPlannerNews::readsTimesOfDay()
-{
-    const auto [text, time] = row<QString, QTime>();
-    QCOMPARE(PlannerNews::timeOfDay(text), time);
-}
-
-void TestPlannerNews::tellsTheNextAppointment()
-{
-    const TestProgram test;
-    const QDateTime now(QDate(2026, 11, 21), QTime(10, 24));
-    QVERIFY(!PlannerNews::liveLine(test.folder, now));
-    QVERIFY(!test.folder.exists(u" 2026.Cal"_s));
-
-    PlannerFiles files(test.folder);
-    QVERIFY(files.write(
-        now.date(), dayOf({{{}, u"Ferns"_s}, {u"8:30 AM"_s, u"Market"_s}, {u"11:30 AM"_s, u"Dentist"_s}})));
-    QCOMPARE(PlannerNews::liveLine(test.folder, now),
-             (LiveLine{u"11:30 AM  Dentist"_s, LiveLine::Plain,
-                       u"Three appointments today, the next one at 11:30 AM."_s}));
-    QCOMPARE(PlannerNews::liveLine(test.folder, now.addSecs(7200))->text, u"Ferns"_s);
-    QCOMPARE(PlannerNews::liveLine(test.folder, now.addDays(-1))->text, u"Tomorrow: Ferns"_s);
-}
 
 QTEST_GUILESS_MAIN(TestPlannerNews)
 #include "tst_plannernews.moc"

@@ -41,143 +41,133 @@ class TestPlannerPages : public QObject
 {
     Q_OBJECT
 private slots:
-    void tellsRangesOfDates_data();
-    void tellsRangesOfDates();
-    void sharesTheLinesOfAPlace_data();
-    void sharesTheLinesOfAPlace();
-    void listsADay();
-    void listsAnUprightWeek();
-    void cutsNothingOfACrowdedWeek();
-    void drawsAMonthAsACalendar();
-    void listsARangeOfDates();
-    void endsEveryPageWithTheDayOfPrinting();
+    void tellsRangesOfDates_data()
+    {
+        rows<QDate, QDate, QString, QString>({
+            {"a day", {2026, 11, 1}, {2026, 11, 1}, u"November 1, 2026"_s, u"1 November 2026"_s},
+            {"within a month", QDate(2026, 11, 16), QDate(2026, 11, 22), u"November 16 to 22, 2026"_s,
+             u"16 to 22 November 2026"_s},
+            {"over two months", QDate(2026, 11, 30), QDate(2026, 12, 6), u"November 30 to December 6, 2026"_s,
+             u"30 November to 6 December 2026"_s},
+            {"over two years", QDate(2026, 12, 28), QDate(2027, 1, 3),
+             u"December 28, 2026 to January 3, 2027"_s, u"28 December 2026 to 3 January 2027"_s},
+        });
+    }
+
+    void tellsRangesOfDates()
+    {
+        const auto [from, to, usa, other] = row<QDate, QDate, QString, QString>();
+        QCOMPARE(Dates::range(from, to, DateStyle::Usa), usa);
+        QCOMPARE(Dates::range(from, to, DateStyle::Other), other);
+    }
+
+    void sharesTheLinesOfAPlace_data()
+    {
+        rows<int, int, int, QList<int>>({
+            {"a line each", 3, 20, 5, {1, 1, 1}},
+            {"long texts get more, as far as it goes", 3, 4, 5, {2, 2, 1}},
+            {"the last line tells what is missing", 6, 20, 5, {1, 1, 1, 1}},
+            {"no room at all", 2, 20, 0, {}},
+            {"no entry", 0, 20, 5, {}},
+        });
+    }
+
+    void sharesTheLinesOfAPlace()
+    {
+        const auto [entries, characters, capacity, expected] = row<int, int, int, QList<int>>();
+        const auto shares = DayLines(numberedEntries(entries)).share(characters, capacity);
+        QCOMPARE(QList<int>(shares.begin(), shares.end()), expected);
+    }
+
+    void listsADay()
+    {
+        const QDate date(2026, 11, 21);
+        const Page page = PlannerPages::day(date, numberedEntries(2), contextOf(PageSetup::Portrait));
+        QCOMPARE(linesOf(page), (QStringList{u"Saturday, November 21, 2026\tPersonal Planner"_s,
+                                             u"Time\tAppointment or activity"_s, u"1:30 PM\tentry 1"_s,
+                                             u"2:30 PM\tentry 2"_s}));
+        PageContext context = contextOf(PageSetup::Portrait, DateStyle::Other);
+        context.family = u"Holm"_s;
+        QCOMPARE(linesOf(PlannerPages::day(date, {}, context)).first(),
+                 u"Saturday, 21 November 2026\tHolm Personal Planner"_s);
+    }
+
+    void listsAnUprightWeek()
+    {
+        const PlannerPages::Days days{{QDate(2026, 11, 17), numberedEntries(2)},
+                                      {QDate(2026, 11, 22), numberedEntries(1)}};
+        const QDate start = PlannerPages::weekStart(QDate(2026, 11, 21), Qt::Monday);
+        QCOMPARE(start, QDate(2026, 11, 16));
+        QCOMPARE(linesOf(PlannerPages::week(start, days, contextOf(PageSetup::Portrait))),
+                 (QStringList{u"Week of November 16 to 22, 2026\tPersonal Planner"_s, u"Monday, Nov 16\t\t"_s,
+                              u"Tuesday, Nov 17\t1:30 PM\tentry 1"_s, u"\t2:30 PM\tentry 2"_s,
+                              u"Wednesday, Nov 18\t\t"_s, u"Thursday, Nov 19\t\t"_s, u"Friday, Nov 20\t\t"_s,
+                              u"Saturday, Nov 21\t\t"_s, u"Sunday, Nov 22\t1:30 PM\tentry 1"_s}));
+    }
+
+    void cutsNothingOfACrowdedWeek()
+    {
+        PlannerDay day = numberedEntries(14);
+        const QDate start(2026, 11, 16);
+        const auto asBlocks = [&] {
+            return linesOf(PlannerPages::week(start, {{start, day}}, contextOf(PageSetup::Landscape)))
+                .contains(u"Notes"_s);
+        };
+        QVERIFY(asBlocks());
+        for (QString &text : day.texts)
+            text = QString(50, u'w');
+        QVERIFY(!asBlocks());
+    }
+
+    void drawsAMonthAsACalendar()
+    {
+        PlannerDay crowded = numberedEntries(14);
+        const PlannerPages::Days days{{QDate(2026, 2, 28), crowded}, {QDate(2026, 3, 1), numberedEntries(1)}};
+        const Page page =
+            PlannerPages::month(QDate(2026, 2, 10), days, Qt::Sunday, contextOf(PageSetup::Landscape));
+        const QStringList lines = linesOf(page);
+        QCOMPARE(lines.first(), u"February 2026\tPersonal Planner"_s);
+        QCOMPARE(lines.mid(1, 8), (QStringList{u"Sunday"_s, u"Monday"_s, u"Tuesday"_s, u"Wednesday"_s,
+                                               u"Thursday"_s, u"Friday"_s, u"Saturday"_s, u"1"_s}));
+        QCOMPARE(lines.count(u"28"_s), 1);
+        QVERIFY(lines.contains(u"1:30 PM entry 1"_s));
+        QVERIFY(lines.last().startsWith("+ "_L1));
+        // Four weeks fill the sheet; no item stands beyond its edges.
+        for (const Page::Item &item : page.items()) {
+            if (const auto *text = std::get_if<PageItem::PlacedText>(&item))
+                QVERIFY(QRectF(0.5, 0.5, 10, 7.5).contains(text->place));
+        }
+    }
+
+    void listsARangeOfDates()
+    {
+        const PlannerPages::Days days{{QDate(2026, 10, 31), numberedEntries(1)},
+                                      {QDate(2026, 11, 2), numberedEntries(2)},
+                                      {QDate(2026, 11, 3), {}},
+                                      {QDate(2026, 11, 30), numberedEntries(1)}};
+        const auto lines = [&](QDate from, QDate to) {
+            return linesOf(PlannerPages::range(from, to, days, contextOf(PageSetup::Portrait))).mid(2);
+        };
+        QCOMPARE(lines(QDate(2026, 11, 1), QDate(2026, 11, 30)),
+                 (QStringList{u"Mon, Nov 2, 2026\t1:30 PM\tentry 1"_s, u"\t2:30 PM\tentry 2"_s,
+                              u"Mon, Nov 30, 2026\t1:30 PM\tentry 1"_s}));
+        QCOMPARE(lines(QDate(2026, 11, 3), QDate(2026, 11, 29)),
+                 QStringList{u"Nothing is planned for these days."_s});
+    }
+
+    void endsEveryPageWithTheDayOfPrinting()
+    {
+        const QDate date(2026, 11, 21);
+        for (const auto orientation : {PageSetup::Portrait, PageSetup::Landscape}) {
+            const PageContext context = contextOf(orientation);
+            for (const Page &page :
+                 {PlannerPages::day(date, {}, context), PlannerPages::week(date, {}, context),
+                  PlannerPages::month(date, {}, Qt::Sunday, context),
+                  PlannerPages::range(date, date, {}, context)})
+                QVERIFY(page.toText().endsWith("Quillery\nPrinted on 11/21/2026"_L1));
+        }
+    }
 };
-
-void TestPlannerPages::tellsRangesOfDates_data()
-{
-    rows<QDate, QDate, QString, QString>({
-        {"a day", {2026, 11, 1}, {2026, 11, 1}, u"November 1, 2026"_s, u"1 November 2026"_s},
-        {"within a month", QDate(2026, 11, 16), QDate(2026, 11, 22), u"November 16 to 22, 2026"_s,
-         u"16 to 22 November 2026"_s},
-        {"over two months", QDate(2026, 11, 30), QDate(2026, 12, 6), u"November 30 to December 6, 2026"_s,
-         u"30 November to 6 December 2026"_s},
-        {"over two years", QDate(2026, 12, 28), QDate(2027, 1, 3), u"December 28, 2026 to January 3, 2027"_s,
-         u"28 December 2026 to 3 January 2027"_s},
-    });
-}
-
-void TestPlannerPages::tellsRangesOfDates()
-{
-    const auto [from, to, usa, other] = row<QDate, QDate, QString, QString>();
-    QCOMPARE(Dates::range(from, to, DateStyle::Usa), usa);
-    QCOMPARE(Dates::range(from, to, DateStyle::Other), other);
-}
-
-void TestPlannerPages::sharesTheLinesOfAPlace_data()
-{
-    rows<int, int, int, QList<int>>({
-        {"a line each", 3, 20, 5, {1, 1, 1}},
-        {"long texts get more, as far as it goes", 3, 4, 5, {2, 2, 1}},
-        {"the last line tells what is missing", 6, 20, 5, {1, 1, 1, 1}},
-        {"no room at all", 2, 20, 0, {}},
-        {"no entry", 0, 20, 5, {}},
-    });
-}
-
-void TestPlannerPages::sharesTheLinesOfAPlace()
-{
-    const auto [entries, characters, capacity, expected] = row<int, int, int, QList<int>>();
-    const auto shares = DayLines(numberedEntries(entries)).share(characters, capacity);
-    QCOMPARE(QList<int>(shares.begin(), shares.end()), expected);
-}
-
-void TestPlannerPages::listsADay()
-{
-    const QDate date(2026, 11, 21);
-    const Page page = PlannerPages::day(date, numberedEntries(2), contextOf(PageSetup::Portrait));
-    QCOMPARE(linesOf(page),
-             (QStringList{u"Saturday, November 21, 2026\tPersonal Planner"_s,
-                          u"Time\tAppointment or activity"_s, u"1:30 PM\tentry 1"_s, u"2:30 PM\tentry 2"_s}));
-    PageContext context = contextOf(PageSetup::Portrait, DateStyle::Other);
-    context.family = u"Holm"_s;
-    QCOMPARE(linesOf(PlannerPages::day(date, {}, context)).first(),
-             u"Saturday, 21 November 2026\tHolm Personal Planner"_s);
-}
-
-void TestPlannerPages::listsAnUprightWeek()
-{
-    const PlannerPages::Days days{{QDate(2026, 11, 17), numberedEntries(2)},
-                                  {QDate(2026, 11, 22), numberedEntries(1)}};
-    const QDate start = PlannerPages::weekStart(QDate(2026, 11, 21), Qt::Monday);
-    QCOMPARE(start, QDate(2026, 11, 16));
-    QCOMPARE(linesOf(PlannerPages::week(start, days, contextOf(PageSetup::Portrait))),
-             (QStringList{u"Week of November 16 to 22, 2026\tPersonal Planner"_s, u"Monday, Nov 16\t\t"_s,
-                          u"Tuesday, Nov 17\t1:30 PM\tentry 1"_s, u"\t2:30 PM\tentry 2"_s,
-                          u"Wednesday, Nov 18\t\t"_s, u"Thursday, Nov 19\t\t"_s, u"Friday, Nov 20\t\t"_s,
-                          u"Saturday, Nov 21\t\t"_s, u"Sunday, Nov 22\t1:30 PM\tentry 1"_s}));
-}
-
-void TestPlannerPages::cutsNothingOfACrowdedWeek()
-{
-    PlannerDay day = numberedEntries(14);
-    const QDate start(2026, 11, 16);
-    const auto asBlocks = [&] {
-        return linesOf(PlannerPages::week(start, {{start, day}}, contextOf(PageSetup::Landscape)))
-            .contains(u"Notes"_s);
-    };
-    QVERIFY(asBlocks());
-    for (QString &text : day.texts)
-        text = QString(50, u'w');
-    QVERIFY(!asBlocks());
-}
-
-void TestPlannerPages::drawsAMonthAsACalendar()
-{
-    PlannerDay crowded = numberedEntries(14);
-    const PlannerPages::Days days{{QDate(2026, 2, 28), crowded}, {QDate(2026, 3, 1), numberedEntries(1)}};
-    const Page page =
-        PlannerPages::month(QDate(2026, 2, 10), days, Qt::Sunday, contextOf(PageSetup::Landscape));
-    const QStringList lines = linesOf(page);
-    QCOMPARE(lines.first(), u"February 2026\tPersonal Planner"_s);
-    QCOMPARE(lines.mid(1, 8), (QStringList{u"Sunday"_s, u"Monday"_s, u"Tuesday"_s, u"Wednesday"_s,
-                                           u"Thursday"_s, u"Friday"_s, u"Saturday"_s, u"1"_s}));
-    QCOMPARE(lines.count(u"28"_s), 1);
-    QVERIFY(lines.contains(u"1:30 PM entry 1"_s));
-    QVERIFY(lines.last().startsWith("+ "_L1));
-    // Four weeks fill the sheet; no item stands beyond its edges.
-    for (const Page::Item &item : page.items()) {
-        if (const auto *text = std::get_if<PageItem::PlacedText>(&item))
-            QVERIFY(QRectF(0.5, 0.5, 10, 7.5).contains(text->place));
-    }
-}
-
-void TestPlannerPages::listsARangeOfDates()
-{
-    const PlannerPages::Days days{{QDate(2026, 10, 31), numberedEntries(1)},
-                                  {QDate(2026, 11, 2), numberedEntries(2)},
-                                  {QDate(2026, 11, 3), {}},
-                                  {QDate(2026, 11, 30), numberedEntries(1)}};
-    const auto lines = [&](QDate from, QDate to) {
-        return linesOf(PlannerPages::range(from, to, days, contextOf(PageSetup::Portrait))).mid(2);
-    };
-    QCOMPARE(lines(QDate(2026, 11, 1), QDate(2026, 11, 30)),
-             (QStringList{u"Mon, Nov 2, 2026\t1:30 PM\tentry 1"_s, u"\t2:30 PM\tentry 2"_s,
-                          u"Mon, Nov 30, 2026\t1:30 PM\tentry 1"_s}));
-    QCOMPARE(lines(QDate(2026, 11, 3), QDate(2026, 11, 29)),
-             QStringList{u"Nothing is planned for these days."_s});
-}
-
-void TestPlannerPages::endsEveryPageWithTheDayOfPrinting()
-{
-    const QDate date(2026, 11, 21);
-    for (const auto orientation : {PageSetup::Portrait, PageSetup::Landscape}) {
-        const PageContext context = contextOf(orientation);
-        for (const Page &page : {PlannerPages::day(date, {}, context), PlannerPages::week(date, {}, context),
-                                 PlannerPages::month(date, {}, Qt::Sunday, context),
-                                 PlannerPages::range(date, date, {}, context)})
-            QVERIFY(page.toText().endsWith("Quillery\nPrinted on 11/21/2026"_L1));
-    }
-}
 
 QTEST_GUILESS_MAIN(TestPlannerPages)
 #include "tst_plannerpages.moc"

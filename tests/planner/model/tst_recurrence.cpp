@@ -37,142 +37,136 @@ class TestRecurrence : public QObject
 {
     Q_OBJECT
 private slots:
-    void givesTheDatesOfAKind_data();
-    void givesTheDatesOfAKind();
-    void staysWithinTenYears_data();
-    void staysWithinTenYears();
-    void insertsOncePerDate();
-    void countsFullDates();
-    void removesOneCopyPerDate();
-    void doesNothingWithoutAnAppointment();
-};
-
-void TestRecurrence::givesTheDatesOfAKind_data()
-{
-    const QDate friday(2026, 1, 30), saturday(2026, 1, 31);
-    Recurrence weekly = times(Recurrence::Weekly, friday, 3, 2);
-    weekly.weekday = Qt::Tuesday;
-    Recurrence lastOfMonth = times(Recurrence::Monthly, friday, 3);
-    lastOfMonth.dayOfMonth = 31;
-    Recurrence fifthOfMonth = times(Recurrence::Monthly, friday, 3, 2);
-    fifthOfMonth.dayOfMonth = 5;
-    Recurrence yearly = times(Recurrence::YearlyOnDate, friday, 2);
-    yearly.yearDay = QDate(2020, 1, 6);
-    rows<Recurrence, QString>({
-        {"every third day", times(Recurrence::Daily, friday, 3, 3), u"2026-01-30 2026-02-02 2026-02-05"_s},
-        {"to the end date, which counts", until(Recurrence::Daily, friday, QDate(2026, 2, 1)),
-         u"2026-01-30 2026-01-31 2026-02-01"_s},
-        {"weekdays look at twice as many days only", times(Recurrence::Weekdays, saturday, 2),
-         u"2026-02-02 2026-02-03"_s},
-        {"one weekday from a Saturday finds none", times(Recurrence::Weekdays, saturday, 1), {}},
-        {"every second Tuesday", weekly, u"2026-02-03 2026-02-17 2026-03-03"_s},
-        {"the last day of shorter months", lastOfMonth, u"2026-01-31 2026-02-28 2026-03-31"_s},
-        {"a day of the month that is over", fifthOfMonth, u"2026-02-05 2026-04-05 2026-06-05"_s},
-        {"leap day", times(Recurrence::Yearly, {2024, 2, 29}, 3, 2), u"2024-02-29 2026-02-28 2028-02-29"_s},
-        {"on a date of each year", yearly, u"2027-01-06 2028-01-06"_s},
-        {"to the last day of all", times(Recurrence::Daily, {9999, 12, 30}, 5), u"9999-12-30 9999-12-31"_s},
-        {"no interval", times(Recurrence::Daily, friday, 5, 0), {}},
-        {"end before the beginning", until(Recurrence::Daily, friday, QDate(2026, 1, 1)), {}},
-        {"no beginning", times(Recurrence::Daily, {}, 5), {}},
-    });
-}
-
-void TestRecurrence::givesTheDatesOfAKind()
-{
-    const auto [recurrence, expected] = row<Recurrence, QString>();
-    QStringList dates;
-    RecurrenceDates walk(recurrence);
-    while (const auto date = walk.next())
-        dates << date->toString(Qt::ISODate);
-    QCOMPARE(dates.join(u' '), expected);
-}
-
-void TestRecurrence::staysWithinTenYears_data()
-{
-    const QDate day(2026, 1, 1);
-    rows<Recurrence, int>({
-        {"exactly ten years of days", times(Recurrence::Daily, day, 3652), 3652},
-        {"a day more", times(Recurrence::Daily, day, 3653), 3652},
-        {"every second day", times(Recurrence::Daily, day, 1827, 2), 1826},
-        {"weeks", times(Recurrence::Weekly, day, 600), 521},
-        {"months", times(Recurrence::Monthly, day, 41, 3), 40},
-        {"years", times(Recurrence::Yearly, day, 11), 10},
-        {"one is always possible", times(Recurrence::Yearly, day, 1, 20), 1},
-    });
-}
-
-void TestRecurrence::staysWithinTenYears()
-{
-    const auto [recurrence, occurrences] = row<Recurrence, int>();
-    QCOMPARE(withinTenYears(recurrence).occurrences, occurrences);
-}
-
-void TestRecurrence::insertsOncePerDate()
-{
-    const TestProgram test;
-    const Appointment piano =
-        Appointment::ofRow(u" 5:00 PM "_s, u"Piano lesson with a text that is longer than its fifty bytes"_s);
-    for (const int made : {10, 0}) {
-        RecurrenceRun run =
-            inserting(test, piano, until(Recurrence::Weekdays, QDate(2026, 11, 2), QDate(2026, 11, 15)));
-        runThrough(run);
-        QCOMPARE(run.made(), made);
-        QCOMPARE(run.done(), 10);
-        QCOMPARE(run.lastDate(), QDate(2026, 11, 13));
+    void givesTheDatesOfAKind_data()
+    {
+        const QDate friday(2026, 1, 30), saturday(2026, 1, 31);
+        Recurrence weekly = times(Recurrence::Weekly, friday, 3, 2);
+        weekly.weekday = Qt::Tuesday;
+        Recurrence lastOfMonth = times(Recurrence::Monthly, friday, 3);
+        lastOfMonth.dayOfMonth = 31;
+        Recurrence fifthOfMonth = times(Recurrence::Monthly, friday, 3, 2);
+        fifthOfMonth.dayOfMonth = 5;
+        Recurrence yearly = times(Recurrence::YearlyOnDate, friday, 2);
+        yearly.yearDay = QDate(2020, 1, 6);
+        rows<Recurrence, QString>({
+            {"every third day", times(Recurrence::Daily, friday, 3, 3),
+             u"2026-01-30 2026-02-02 2026-02-05"_s},
+            {"to the end date, which counts", until(Recurrence::Daily, friday, QDate(2026, 2, 1)),
+             u"2026-01-30 2026-01-31 2026-02-01"_s},
+            {"weekdays look at twice as many days only", times(Recurrence::Weekdays, saturday, 2),
+             u"2026-02-02 2026-02-03"_s},
+            {"one weekday from a Saturday finds none", times(Recurrence::Weekdays, saturday, 1), {}},
+            {"every second Tuesday", weekly, u"2026-02-03 2026-02-17 2026-03-03"_s},
+            {"the last day of shorter months", lastOfMonth, u"2026-01-31 2026-02-28 2026-03-31"_s},
+            {"a day of the month that is over", fifthOfMonth, u"2026-02-05 2026-04-05 2026-06-05"_s},
+            {"leap day", times(Recurrence::Yearly, {2024, 2, 29}, 3, 2),
+             u"2024-02-29 2026-02-28 2028-02-29"_s},
+            {"on a date of each year", yearly, u"2027-01-06 2028-01-06"_s},
+            {"to the last day of all", times(Recurrence::Daily, {9999, 12, 30}, 5),
+             u"9999-12-30 9999-12-31"_s},
+            {"no interval", times(Recurrence::Daily, friday, 5, 0), {}},
+            {"end before the beginning", until(Recurrence::Daily, friday, QDate(2026, 1, 1)), {}},
+            {"no beginning", times(Recurrence::Daily, {}, 5), {}},
+        });
     }
-    const PlannerDay day = PlannerFiles(test.folder).read(QDate(2026, 11, 13));
-    QCOMPARE(day.times[0], u"5:00 PM"_s);
-    QCOMPARE(day.texts[0], u"Piano lesson with a text that is longer than its f"_s);
-    QCOMPARE(day.entryCount(), 1);
-}
 
-void TestRecurrence::countsFullDates()
-{
-    const TestProgram test;
-    PlannerFiles files(test.folder);
-    PlannerDay day;
-    for (std::size_t row = 0; row < 13; ++row)
-        day.times[row] = u"8:%1 PM"_s.arg(10 + row);
-    QVERIFY(files.write(QDate(2026, 3, 2), day));
-    day.texts[13] = u"the fourteenth"_s;
-    QVERIFY(files.write(QDate(2026, 3, 1), day));
+    void givesTheDatesOfAKind()
+    {
+        const auto [recurrence, expected] = row<Recurrence, QString>();
+        QStringList dates;
+        RecurrenceDates walk(recurrence);
+        while (const auto date = walk.next())
+            dates << date->toString(Qt::ISODate);
+        QCOMPARE(dates.join(u' '), expected);
+    }
 
-    RecurrenceRun run =
-        inserting(test, {u"7:00 AM"_s, u"Run"_s}, times(Recurrence::Daily, QDate(2026, 3, 1), 2));
-    runThrough(run);
-    QCOMPARE(run.full(), 1);
-    QCOMPARE(run.made(), 1);
-    QCOMPARE(files.read(QDate(2026, 3, 2)).times[0], u"7:00 AM"_s);
-    QCOMPARE(files.read(QDate(2026, 3, 2)).entryCount(), 14);
-}
+    void staysWithinTenYears_data()
+    {
+        const QDate day(2026, 1, 1);
+        rows<Recurrence, int>({
+            {"exactly ten years of days", times(Recurrence::Daily, day, 3652), 3652},
+            {"a day more", times(Recurrence::Daily, day, 3653), 3652},
+            {"every second day", times(Recurrence::Daily, day, 1827, 2), 1826},
+            {"weeks", times(Recurrence::Weekly, day, 600), 521},
+            {"months", times(Recurrence::Monthly, day, 41, 3), 40},
+            {"years", times(Recurrence::Yearly, day, 11), 10},
+            {"one is always possible", times(Recurrence::Yearly, day, 1, 20), 1},
+        });
+    }
 
-void TestRecurrence::removesOneCopyPerDate()
-{
-    const TestProgram test;
-    PlannerFiles files(test.folder);
-    const std::pair twice(u"9:00 AM"_s, u"Twice"_s), stays(u"8:00 AM"_s, u"Stays"_s);
-    QVERIFY(files.write(QDate(2026, 5, 5), dayOf({twice, twice, stays})));
-    const QByteArray other(850, 'y');
-    test.setBytes(u" 2025.Cal"_s, other);
+    void staysWithinTenYears()
+    {
+        const auto [recurrence, occurrences] = row<Recurrence, int>();
+        QCOMPARE(withinTenYears(recurrence).occurrences, occurrences);
+    }
 
-    RecurrenceRun run(test.folder, UntimedPlacement::First, RecurrenceAction::Remove,
-                      {twice.first, twice.second},
-                      until(Recurrence::Daily, QDate(2025, 12, 30), QDate(2026, 5, 31)));
-    runThrough(run);
-    QCOMPARE(run.removed(), 1);
-    QCOMPARE(files.read(QDate(2026, 5, 5)).entryCount(), 2);
-    QCOMPARE(files.read(QDate(2026, 5, 5)).texts[0], u"Stays"_s);
-    QCOMPARE(test.bytes(u" 2025.Cal"_s), other);
-}
+    void insertsOncePerDate()
+    {
+        const TestProgram test;
+        const Appointment piano = Appointment::ofRow(
+            u" 5:00 PM "_s, u"Piano lesson with a text that is longer than its fifty bytes"_s);
+        for (const int made : {10, 0}) {
+            RecurrenceRun run =
+                inserting(test, piano, until(Recurrence::Weekdays, QDate(2026, 11, 2), QDate(2026, 11, 15)));
+            runThrough(run);
+            QCOMPARE(run.made(), made);
+            QCOMPARE(run.done(), 10);
+            QCOMPARE(run.lastDate(), QDate(2026, 11, 13));
+        }
+        const PlannerDay day = PlannerFiles(test.folder).read(QDate(2026, 11, 13));
+        QCOMPARE(day.times[0], u"5:00 PM"_s);
+        QCOMPARE(day.texts[0], u"Piano lesson with a text that is longer than its f"_s);
+        QCOMPARE(day.entryCount(), 1);
+    }
 
-void TestRecurrence::doesNothingWithoutAnAppointment()
-{
-    const TestProgram test;
-    RecurrenceRun run =
-        inserting(test, Appointment::ofRow(u"  "_s, {}), times(Recurrence::Daily, QDate(2026, 1, 1), 5));
-    QVERIFY(!run.step());
-    QVERIFY(!test.folder.exists(u" 2026.Cal"_s));
-}
+    void countsFullDates()
+    {
+        const TestProgram test;
+        PlannerFiles files(test.folder);
+        PlannerDay day;
+        for (std::size_t row = 0; row < 13; ++row)
+            day.times[row] = u"8:%1 PM"_s.arg(10 + row);
+        QVERIFY(files.write(QDate(2026, 3, 2), day));
+        day.texts[13] = u"the fourteenth"_s;
+        QVERIFY(files.write(QDate(2026, 3, 1), day));
+
+        RecurrenceRun run =
+            inserting(test, {u"7:00 AM"_s, u"Run"_s}, times(Recurrence::Daily, QDate(2026, 3, 1), 2));
+        runThrough(run);
+        QCOMPARE(run.full(), 1);
+        QCOMPARE(run.made(), 1);
+        QCOMPARE(files.read(QDate(2026, 3, 2)).times[0], u"7:00 AM"_s);
+        QCOMPARE(files.read(QDate(2026, 3, 2)).entryCount(), 14);
+    }
+
+    void removesOneCopyPerDate()
+    {
+        const TestProgram test;
+        PlannerFiles files(test.folder);
+        const std::pair twice(u"9:00 AM"_s, u"Twice"_s), stays(u"8:00 AM"_s, u"Stays"_s);
+        QVERIFY(files.write(QDate(2026, 5, 5), dayOf({twice, twice, stays})));
+        const QByteArray other(850, 'y');
+        test.setBytes(u" 2025.Cal"_s, other);
+
+        RecurrenceRun run(test.folder, UntimedPlacement::First, RecurrenceAction::Remove,
+                          {twice.first, twice.second},
+                          until(Recurrence::Daily, QDate(2025, 12, 30), QDate(2026, 5, 31)));
+        runThrough(run);
+        QCOMPARE(run.removed(), 1);
+        QCOMPARE(files.read(QDate(2026, 5, 5)).entryCount(), 2);
+        QCOMPARE(files.read(QDate(2026, 5, 5)).texts[0], u"Stays"_s);
+        QCOMPARE(test.bytes(u" 2025.Cal"_s), other);
+    }
+
+    void doesNothingWithoutAnAppointment()
+    {
+        const TestProgram test;
+        RecurrenceRun run =
+            inserting(test, Appointment::ofRow(u"  "_s, {}), times(Recurrence::Daily, QDate(2026, 1, 1), 5));
+        QVERIFY(!run.step());
+        QVERIFY(!test.folder.exists(u" 2026.Cal"_s));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestRecurrence)
 #include "tst_recurrence.moc"

@@ -47,284 +47,270 @@ class TestRecurrencePanel : public QObject
 {
     Q_OBJECT
 private slots:
-    void asksForAKind();
-    void refusesQuietly_data();
-    void refusesQuietly();
-    void insertsEachKind_data();
-    void insertsEachKind();
-    void reportsFullDates_data();
-    void reportsFullDates();
-    void removesAfterAQuestion();
-    void saysWhenNoDateIsOfTheKind();
-    void staysWithinTenYears();
-    void setsDatesByTheCalendar();
-    void livesAndStopsDuringAWalk();
-    void endsWhereTheDiskRefuses();
-    void opensForTheRowOfTheFocus();
-};
-
-void TestRecurrencePanel::asksForAKind()
-{
-    TestProgram test;
-    const Panel panel(test);
-    panel.click("recurrenceOk");
-    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::noRecurrenceSelected()});
-    QVERIFY(panel.isOpen());
-    panel.click("recurrenceCancel");
-    QVERIFY(!panel.isOpen());
-    QCOMPARE(test.bytes(u" 2026.Cal"_s), QByteArray());
-}
-
-void TestRecurrencePanel::refusesQuietly_data()
-{
-    rows<QByteArray, QByteArray, QString>({
-        {"an interval of nothing", "kind_0", "dailyInterval", u"0"_s},
-        {"an interval that is no number", "kind_2", "weeklyInterval", u"two"_s},
-        {"a day that no month has", "kind_3", "dayOfMonth", u"32"_s},
-        {"a date of the year that is none", "kind_5", "yearDay", u"soon"_s},
-        {"a beginning that is no date", "kind_1", "beginningDate", u"soon"_s},
-        {"an end that is no date", "kind_1", "endDate", u"later"_s},
-        {"an end before the beginning", "kind_1", "endDate", u"11/20/2026"_s},
-        {"a beginning before the planner's dates", "kind_1", "beginningDate", u"12/31/0999"_s},
-        {"no occurrences", "kind_1", "occurrences", u"0"_s},
-    });
-}
-
-void TestRecurrencePanel::refusesQuietly()
-{
-    const auto [kind, box, text] = row<QByteArray, QByteArray, QString>();
-    TestProgram test;
-    const Panel panel(test);
-    panel.tick(kind);
-    panel.set(box, text);
-    panel.click("recurrenceOk");
-    QVERIFY(!panel.said().isEmpty());
-    QVERIFY(!panel.isRunning());
-    QVERIFY(panel.isOpen());
-    QVERIFY(test.dialogs.takeShown().isEmpty());
-    QCOMPARE(test.bytes(u" 2026.Cal"_s), QByteArray());
-}
-
-void TestRecurrencePanel::insertsEachKind_data()
-{
-    rows<QString, QString, QString>({
-        {"every third day", u"kind_0"_s, u"dailyInterval=3 occurrences=3"_s,
-         u"2026-11-21 2026-11-24 2026-11-27"_s},
-        {"weekdays", u"kind_1"_s, u"endDate=11/24/2026"_s, u"2026-11-23 2026-11-24"_s},
-        {"every second Tuesday", u"kind_2 weekday_2"_s, u"weeklyInterval=2 occurrences=2"_s,
-         u"2026-11-24 2026-12-08"_s},
-        {"the last day of every month", u"kind_3"_s, u"dayOfMonth=31 occurrences=4"_s,
-         u"2026-11-30 2026-12-31 2027-01-31 2027-02-28"_s},
-        {"every year", u"kind_4"_s, u"endDate=11/21/2028"_s, u"2026-11-21 2027-11-21 2028-11-21"_s},
-        {"a date of every second year", u"kind_5"_s, u"yearDay=2/29/2024 yearDayInterval=2 occurrences=2"_s,
-         u"2027-02-28 2029-02-28"_s},
-    });
-}
-
-void TestRecurrencePanel::insertsEachKind()
-{
-    const auto [choices, boxes, dates] = row<QString, QString, QString>();
-    TestProgram test;
-    const Panel panel(test);
-    for (const QString &choice : choices.split(u' '))
-        panel.tick(choice.toLatin1());
-    for (const QString &box : boxes.split(u' '))
-        panel.set(box.section(u'=', 0, 0).toLatin1(), box.section(u'=', 1));
-    panel.insert();
-    QStringList found;
-    PlannerFiles files(test.folder);
-    for (const auto &[date, day] : files.days(QDate(2026, 1, 1), QDate(2036, 12, 31))) {
-        QCOMPARE(day.texts[0], u"Yoga"_s);
-        found << date.toString(Qt::ISODate);
-    }
-    QCOMPARE(found.join(u' '), dates);
-    QCOMPARE(test.dialogs.takeShown(),
-             QList<Message>{*PlannerMessages::recurrenceReport(int(found.size()), 0)});
-    QVERIFY(!panel.isOpen());
-}
-
-void TestRecurrencePanel::reportsFullDates_data()
-{
-    rows<int, QString>({
-        {"one", 1,
-         u"There was 1 date that was full and this Appointment\ncould not entered for that date!\n\n"
-         "The recurrence option did make 2"_s},
-        {"two", 2,
-         u"There were 2 dates that were full and this Appointment\ncould not entered for those dates!\n\n"
-         "The recurrence option did make 1"_s},
-    });
-}
-
-void TestRecurrencePanel::reportsFullDates()
-{
-    const auto [fullDates, report] = row<int, QString>();
-    TestProgram test;
-    const PlannerDay fullDay = dayOf(QList<std::pair<QString, QString>>(14, {{}, u"entry"_s}));
-    for (int i = 0; i < fullDates; ++i)
-        writeDay(test, QDate(2026, 11, 22).addDays(i), fullDay);
-    const Panel panel(test);
-    panel.tick("kind_0");
-    panel.set("occurrences", u"3"_s);
-    panel.insert();
-    const QString end = u" entry(ies).\n[Note: If Appointment already exists it was not entered again!]"_s;
-    QCOMPARE(test.dialogs.takeShown(), (QList<Message>{{u"Recurrence Option"_s, report + end}}));
-    // The day of the calendar shows its new entry at once.
-    QCOMPARE(panel.rows(), QStringList{u"9:00 AM|Yoga"_s});
-}
-
-void TestRecurrencePanel::removesAfterAQuestion()
-{
-    TestProgram test;
-    PlannerFiles files(test.folder);
-    const QDate within(2026, 12, 1), after(2026, 12, 8);
-    for (const QDate date : {within, after})
-        writeDay(test, date, dayOf({{u"9:00 AM"_s, u"Yoga"_s}, {u"9:00 AM"_s, u"Stays"_s}}));
-    const Panel panel(test);
-    panel.set("endDate", u"12/5/2026"_s);
-    for (const Answer answer : {Answer::No, Answer::Cancel, Answer::Yes}) {
-        QCOMPARE(files.peek(within).entryCount(), 2);
-        test.dialogs.willAnswer(answer);
-        panel.click("recurrenceRemove"); // without a kind: each day
-        QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::removeRecurrence()});
-    }
-    panel.finish();
-    QCOMPARE(files.peek(within).entryCount(), 1);
-    QCOMPARE(files.peek(after).entryCount(), 2);
-    QCOMPARE(panel.said(), u"1 entry removed"_s);
-}
-
-void TestRecurrencePanel::saysWhenNoDateIsOfTheKind()
-{
-    TestProgram test;
-    const Panel panel(test); // on a Saturday
-    panel.tick("kind_1");
-    panel.set("occurrences", u"1"_s);
-    panel.insert();
-    QVERIFY(test.dialogs.takeShown().isEmpty());
-    QVERIFY(panel.isOpen());
-    QCOMPARE(panel.said(), PlannerLines::noDateInRange());
-}
-
-void TestRecurrencePanel::staysWithinTenYears()
-{
-    TestProgram test;
-    const Panel panel(test);
-    panel.set("occurrences", u"3652"_s);
-    panel.tick("kind_0");
-    QVERIFY(test.dialogs.takeShown().isEmpty());
-    panel.set("occurrences", u"3653"_s);
-    panel.tick("kind_1");
-    panel.tick("kind_0");
-    QCOMPARE(test.dialogs.takeShown(),
-             QList<Message>{PlannerMessages::tenYearLimit()}); // the weekdays brought it down already
-    QCOMPARE(panel.boxText("occurrences"), u"2608"_s);
-
-    panel.set("endDate", u"1/1/2060"_s);
-    panel.tick("kind_4");
-    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::tenYearLimit()});
-    QCOMPARE(panel.boxText("endDate"), u"Nov-20-2036"_s);
-}
-
-void TestRecurrencePanel::setsDatesByTheCalendar()
-{
-    TestProgram test;
-    const Panel panel(test);
-    auto *month = panel.find<MonthView>("MonthView2");
-    QCOMPARE(month->selectedDate(), QDate(2026, 11, 21));
-    month->setSelectedDate(QDate(2026, 11, 25));
-    QCOMPARE(panel.boxText("beginningDate"), u"Nov-25-2026"_s);
-    panel.tick("endBy_1");
-    panel.tick("calendarSets_1");
-    QCOMPARE(month->selectedDate(), QDate(2027, 11, 21));
-    month->setSelectedDate(QDate(2027, 12, 1));
-    QCOMPARE(panel.boxText("endDate"), u"Dec-01-2027"_s);
-    QVERIFY(panel.find<QRadioButton>("endBy_0")->isChecked());
-}
-
-void TestRecurrencePanel::livesAndStopsDuringAWalk()
-{
-    TestProgram test;
-    const Panel panel(test);
-    panel.tick("kind_0");
-    panel.set("endDate", u"11/20/2036"_s);
-    panel.click("recurrenceOk");
-    QVERIFY(panel.isRunning());
-    for (const char *name : {"recurrenceOk", "recurrenceRemove", "recurrenceCancel"})
-        QVERIFY(!panel.find<QPushButton>(name)->isEnabled());
-    QVERIFY(!panel.find<FlowToolBar>("toolbar")->isEnabled());
-    QVERIFY(!panel.window().close());
-    QVERIFY(panel.isRunning());
-
-    // The click comes as soon as the first progress is shown; no date is worked on after it.
-    const PlannerFiles files(test.folder);
-    const auto days = [&files] { return files.days(QDate(2026, 1, 1), QDate(2037, 1, 1)); };
-    std::size_t atClick = 0;
-    connect(panel.find<QProgressBar>("updateProgress"), &QProgressBar::valueChanged, this, [&] {
-        if (atClick > 0)
-            return;
-        atClick = days().size();
-        QTest::mouseClick(panel.find<QCheckBox>("stopUpdating"), Qt::LeftButton);
-    });
-    panel.finish();
-    QVERIFY(atClick > 0 && atClick < 3653);
-    QCOMPARE(days().size(), atClick);
-    QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::recurrenceStopped(
-                                           days().rbegin()->first, RecurrenceAction::Insert)});
-    QVERIFY(panel.find<QPushButton>("recurrenceOk")->isEnabled());
-    QVERIFY(panel.find<FlowToolBar>("toolbar")->isEnabled());
-    QVERIFY(panel.isOpen());
-}
-
-void TestRecurrencePanel::endsWhereTheDiskRefuses()
-{
-#ifdef Q_OS_UNIX
-    TestProgram test;
-    const Panel panel(test);
-    panel.tick("kind_0");
-    panel.set("endDate", u"12/31/2026"_s);
+    void asksForAKind()
     {
-        // Records up to 4 December fit; 5 December is record 405.
-        const FileSizeLimit fullDisk(404 * 900);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
+        TestProgram test;
+        const Panel panel(test);
+        panel.click("recurrenceOk");
+        QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::noRecurrenceSelected()});
+        QVERIFY(panel.isOpen());
+        panel.click("recurrenceCancel");
+        QVERIFY(!panel.isOpen());
+        QCOMPARE(test.bytes(u" 2026.Cal"_s), QByteArray());
+    }
+
+    void refusesQuietly_data()
+    {
+        rows<QByteArray, QByteArray, QString>({
+            {"an interval of nothing", "kind_0", "dailyInterval", u"0"_s},
+            {"an interval that is no number", "kind_2", "weeklyInterval", u"two"_s},
+            {"a day that no month has", "kind_3", "dayOfMonth", u"32"_s},
+            {"a date of the year that is none", "kind_5", "yearDay", u"soon"_s},
+            {"a beginning that is no date", "kind_1", "beginningDate", u"soon"_s},
+            {"an end that is no date", "kind_1", "endDate", u"later"_s},
+            {"an end before the beginning", "kind_1", "endDate", u"11/20/2026"_s},
+            {"a beginning before the planner's dates", "kind_1", "beginningDate", u"12/31/0999"_s},
+            {"no occurrences", "kind_1", "occurrences", u"0"_s},
+        });
+    }
+
+    void refusesQuietly()
+    {
+        const auto [kind, box, text] = row<QByteArray, QByteArray, QString>();
+        TestProgram test;
+        const Panel panel(test);
+        panel.tick(kind);
+        panel.set(box, text);
+        panel.click("recurrenceOk");
+        QVERIFY(!panel.said().isEmpty());
+        QVERIFY(!panel.isRunning());
+        QVERIFY(panel.isOpen());
+        QVERIFY(test.dialogs.takeShown().isEmpty());
+        QCOMPARE(test.bytes(u" 2026.Cal"_s), QByteArray());
+    }
+
+    void insertsEachKind_data()
+    {
+        rows<QString, QString, QString>({
+            {"every third day", u"kind_0"_s, u"dailyInterval=3 occurrences=3"_s,
+             u"2026-11-21 2026-11-24 2026-11-27"_s},
+            {"weekdays", u"kind_1"_s, u"endDate=11/24/2026"_s, u"2026-11-23 2026-11-24"_s},
+            {"every second Tuesday", u"kind_2 weekday_2"_s, u"weeklyInterval=2 occurrences=2"_s,
+             u"2026-11-24 2026-12-08"_s},
+            {"the last day of every month", u"kind_3"_s, u"dayOfMonth=31 occurrences=4"_s,
+             u"2026-11-30 2026-12-31 2027-01-31 2027-02-28"_s},
+            {"every year", u"kind_4"_s, u"endDate=11/21/2028"_s, u"2026-11-21 2027-11-21 2028-11-21"_s},
+            {"a date of every second year", u"kind_5"_s,
+             u"yearDay=2/29/2024 yearDayInterval=2 occurrences=2"_s, u"2027-02-28 2029-02-28"_s},
+        });
+    }
+
+    void insertsEachKind()
+    {
+        const auto [choices, boxes, dates] = row<QString, QString, QString>();
+        TestProgram test;
+        const Panel panel(test);
+        for (const QString &choice : choices.split(u' '))
+            panel.tick(choice.toLatin1());
+        for (const QString &box : boxes.split(u' '))
+            panel.set(box.section(u'=', 0, 0).toLatin1(), box.section(u'=', 1));
         panel.insert();
+        QStringList found;
+        PlannerFiles files(test.folder);
+        for (const auto &[date, day] : files.days(QDate(2026, 1, 1), QDate(2036, 12, 31))) {
+            QCOMPARE(day.texts[0], u"Yoga"_s);
+            found << date.toString(Qt::ISODate);
+        }
+        QCOMPARE(found.join(u' '), dates);
+        QCOMPARE(test.dialogs.takeShown(),
+                 QList<Message>{*PlannerMessages::recurrenceReport(int(found.size()), 0)});
+        QVERIFY(!panel.isOpen());
     }
-    QVERIFY(test.dialogs.takeShown().isEmpty());
-    QCOMPARE(panel.said(),
-             u"The disk refused 12/05/2026: the update ended there. Before it, 14 entries made."_s);
+
+    void reportsFullDates_data()
+    {
+        rows<int, QString>({
+            {"one", 1,
+             u"There was 1 date that was full and this Appointment\ncould not entered for that date!\n\n"
+             "The recurrence option did make 2"_s},
+            {"two", 2,
+             u"There were 2 dates that were full and this Appointment\ncould not entered for those dates!\n\n"
+             "The recurrence option did make 1"_s},
+        });
+    }
+
+    void reportsFullDates()
+    {
+        const auto [fullDates, report] = row<int, QString>();
+        TestProgram test;
+        const PlannerDay fullDay = dayOf(QList<std::pair<QString, QString>>(14, {{}, u"entry"_s}));
+        for (int i = 0; i < fullDates; ++i)
+            writeDay(test, QDate(2026, 11, 22).addDays(i), fullDay);
+        const Panel panel(test);
+        panel.tick("kind_0");
+        panel.set("occurrences", u"3"_s);
+        panel.insert();
+        const QString end =
+            u" entry(ies).\n[Note: If Appointment already exists it was not entered again!]"_s;
+        QCOMPARE(test.dialogs.takeShown(), (QList<Message>{{u"Recurrence Option"_s, report + end}}));
+        // The day of the calendar shows its new entry at once.
+        QCOMPARE(panel.rows(), QStringList{u"9:00 AM|Yoga"_s});
+    }
+
+    void removesAfterAQuestion()
+    {
+        TestProgram test;
+        PlannerFiles files(test.folder);
+        const QDate within(2026, 12, 1), after(2026, 12, 8);
+        for (const QDate date : {within, after})
+            writeDay(test, date, dayOf({{u"9:00 AM"_s, u"Yoga"_s}, {u"9:00 AM"_s, u"Stays"_s}}));
+        const Panel panel(test);
+        panel.set("endDate", u"12/5/2026"_s);
+        for (const Answer answer : {Answer::No, Answer::Cancel, Answer::Yes}) {
+            QCOMPARE(files.peek(within).entryCount(), 2);
+            test.dialogs.willAnswer(answer);
+            panel.click("recurrenceRemove"); // without a kind: each day
+            QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::removeRecurrence()});
+        }
+        panel.finish();
+        QCOMPARE(files.peek(within).entryCount(), 1);
+        QCOMPARE(files.peek(after).entryCount(), 2);
+        QCOMPARE(panel.said(), u"1 entry removed"_s);
+    }
+
+    void saysWhenNoDateIsOfTheKind()
+    {
+        TestProgram test;
+        const Panel panel(test); // on a Saturday
+        panel.tick("kind_1");
+        panel.set("occurrences", u"1"_s);
+        panel.insert();
+        QVERIFY(test.dialogs.takeShown().isEmpty());
+        QVERIFY(panel.isOpen());
+        QCOMPARE(panel.said(), PlannerLines::noDateInRange());
+    }
+
+    void staysWithinTenYears()
+    {
+        TestProgram test;
+        const Panel panel(test);
+        panel.set("occurrences", u"3652"_s);
+        panel.tick("kind_0");
+        QVERIFY(test.dialogs.takeShown().isEmpty());
+        panel.set("occurrences", u"3653"_s);
+        panel.tick("kind_1");
+        panel.tick("kind_0");
+        QCOMPARE(test.dialogs.takeShown(),
+                 QList<Message>{PlannerMessages::tenYearLimit()}); // the weekdays brought it down already
+        QCOMPARE(panel.boxText("occurrences"), u"2608"_s);
+
+        panel.set("endDate", u"1/1/2060"_s);
+        panel.tick("kind_4");
+        QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::tenYearLimit()});
+        QCOMPARE(panel.boxText("endDate"), u"Nov-20-2036"_s);
+    }
+
+    void setsDatesByTheCalendar()
+    {
+        TestProgram test;
+        const Panel panel(test);
+        auto *month = panel.find<MonthView>("MonthView2");
+        QCOMPARE(month->selectedDate(), QDate(2026, 11, 21));
+        month->setSelectedDate(QDate(2026, 11, 25));
+        QCOMPARE(panel.boxText("beginningDate"), u"Nov-25-2026"_s);
+        panel.tick("endBy_1");
+        panel.tick("calendarSets_1");
+        QCOMPARE(month->selectedDate(), QDate(2027, 11, 21));
+        month->setSelectedDate(QDate(2027, 12, 1));
+        QCOMPARE(panel.boxText("endDate"), u"Dec-01-2027"_s);
+        QVERIFY(panel.find<QRadioButton>("endBy_0")->isChecked());
+    }
+
+    void livesAndStopsDuringAWalk()
+    {
+        TestProgram test;
+        const Panel panel(test);
+        panel.tick("kind_0");
+        panel.set("endDate", u"11/20/2036"_s);
+        panel.click("recurrenceOk");
+        QVERIFY(panel.isRunning());
+        for (const char *name : {"recurrenceOk", "recurrenceRemove", "recurrenceCancel"})
+            QVERIFY(!panel.find<QPushButton>(name)->isEnabled());
+        QVERIFY(!panel.find<FlowToolBar>("toolbar")->isEnabled());
+        QVERIFY(!panel.window().close());
+        QVERIFY(panel.isRunning());
+
+        // The click comes as soon as the first progress is shown; no date is worked on after it.
+        const PlannerFiles files(test.folder);
+        const auto days = [&files] { return files.days(QDate(2026, 1, 1), QDate(2037, 1, 1)); };
+        std::size_t atClick = 0;
+        connect(panel.find<QProgressBar>("updateProgress"), &QProgressBar::valueChanged, this, [&] {
+            if (atClick > 0)
+                return;
+            atClick = days().size();
+            QTest::mouseClick(panel.find<QCheckBox>("stopUpdating"), Qt::LeftButton);
+        });
+        panel.finish();
+        QVERIFY(atClick > 0 && atClick < 3653);
+        QCOMPARE(days().size(), atClick);
+        QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::recurrenceStopped(
+                                               days().rbegin()->first, RecurrenceAction::Insert)});
+        QVERIFY(panel.find<QPushButton>("recurrenceOk")->isEnabled());
+        QVERIFY(panel.find<FlowToolBar>("toolbar")->isEnabled());
+        QVERIFY(panel.isOpen());
+    }
+
+    void endsWhereTheDiskRefuses()
+    {
+#ifdef Q_OS_UNIX
+        TestProgram test;
+        const Panel panel(test);
+        panel.tick("kind_0");
+        panel.set("endDate", u"12/31/2026"_s);
+        {
+            // Records up to 4 December fit; 5 December is record 405.
+            const FileSizeLimit fullDisk(404 * 900);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
+            panel.insert();
+        }
+        QVERIFY(test.dialogs.takeShown().isEmpty());
+        QCOMPARE(panel.said(),
+                 u"The disk refused 12/05/2026: the update ended there. Before it, 14 entries made."_s);
 #endif
-}
-
-void TestRecurrencePanel::opensForTheRowOfTheFocus()
-{
-    TestProgram test;
-    const OpenPlanner planner(test);
-    planner.text(3)->setFocus();
-    planner.trigger("mERec");
-    QVERIFY(!planner.isShown("recurrencePanel"));
-
-    planner.type(5, {}, u"Later"_s);
-    planner.type(3, {}, u"Ferns"_s);
-    planner.time(3)->setFocus();
-    test.dialogs.willAnswer(Answer::Yes); // saved, it stands in another row
-    planner.trigger("mERec");
-    QVERIFY(planner.find<QLabel>("recurrenceTitle")->text().contains("Ferns"_L1));
-
-    // What was dropped is not repeated: the file's text of that row is, or nothing where it has none.
-    planner.click("recurrenceCancel");
-    for (const auto &[row, title] : {std::pair{0, u"Recurrence Option: “Ferns”"_s}, {4, QString()}}) {
-        planner.time(row)->setFocus();
-        planner.type(row, {}, u"Never kept"_s);
-        planner.time(row)->setFocus();
-        test.dialogs.willAnswer(Answer::No);
-        planner.trigger("mERec");
-        QCOMPARE(planner.isShown("recurrencePanel"), !title.isEmpty());
-        if (!title.isEmpty())
-            QCOMPARE(planner.find<QLabel>("recurrenceTitle")->text(), title);
-        QVERIFY(!planner.window().isModified());
-        if (planner.isShown("recurrencePanel"))
-            planner.click("recurrenceCancel");
     }
-}
+
+    void opensForTheRowOfTheFocus()
+    {
+        TestProgram test;
+        const OpenPlanner planner(test);
+        planner.text(3)->setFocus();
+        planner.trigger("mERec");
+        QVERIFY(!planner.isShown("recurrencePanel"));
+
+        planner.type(5, {}, u"Later"_s);
+        planner.type(3, {}, u"Ferns"_s);
+        planner.time(3)->setFocus();
+        test.dialogs.willAnswer(Answer::Yes); // saved, it stands in another row
+        planner.trigger("mERec");
+        QVERIFY(planner.find<QLabel>("recurrenceTitle")->text().contains("Ferns"_L1));
+
+        // What was dropped is not repeated: the file's text of that row is, or nothing where it has none.
+        planner.click("recurrenceCancel");
+        for (const auto &[row, title] : {std::pair{0, u"Recurrence Option: “Ferns”"_s}, {4, QString()}}) {
+            planner.time(row)->setFocus();
+            planner.type(row, {}, u"Never kept"_s);
+            planner.time(row)->setFocus();
+            test.dialogs.willAnswer(Answer::No);
+            planner.trigger("mERec");
+            QCOMPARE(planner.isShown("recurrencePanel"), !title.isEmpty());
+            if (!title.isEmpty())
+                QCOMPARE(planner.find<QLabel>("recurrenceTitle")->text(), title);
+            QVERIFY(!planner.window().isModified());
+            if (planner.isShown("recurrencePanel"))
+                planner.click("recurrenceCancel");
+        }
+    }
+};
 
 QTEST_MAIN(TestRecurrencePanel)
 #include "tst_recurrencepanel.moc"

@@ -20,131 +20,122 @@ class TestHelpViewer : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void opensThePageOfAContext();
-    void goesBackAndForward();
-    void theContentsOpenPages();
-    void aSearchOpensTheFirstHit();
-    void escClearsTheSearchBeforeItLeaves();
-    void isKeptWhenItIsClosed();
-    void printsThePage();
+    void init()
+    {
+        m_window.reset();
+        m_program = std::make_unique<TestProgram>();
+        m_window = std::make_unique<HelpViewer>(m_program->program);
+        showActive(*m_window);
+    }
+
+    void opensThePageOfAContext()
+    {
+        const QString title = u"Backup and Restore"_s;
+        m_window->openPage(HelpContext::BackupAndRestore);
+        QVERIFY(shownText().startsWith(title));
+        QCOMPARE(control<QListWidget>(*m_window, "contents")->currentItem()->text(), title);
+        m_window->openPage(4711);
+        QVERIFY(shownText().startsWith(u"Program Overview"_s));
+    }
+
+    void goesBackAndForward()
+    {
+        auto *back = control<QAction>(*m_window, "mGBack");
+        auto *forward = control<QAction>(*m_window, "mGForward");
+        QVERIFY(!back->isEnabled());
+        m_window->openPage(HelpContext::Appearance);
+        back->trigger();
+        QCOMPARE(m_window->currentContext(), HelpContext::ProgramOverview);
+        QVERIFY(!back->isEnabled());
+        forward->trigger();
+        QCOMPARE(m_window->currentContext(), HelpContext::Appearance);
+    }
+
+    void theContentsOpenPages()
+    {
+        QCOMPARE(titles().first(), u"Program Overview"_s);
+        auto *list = control<QListWidget>(*m_window, "contents");
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(m_window->currentContext(), HelpContext::AddressBook);
+        const int last = list->count() - 1;
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(list->item(last)).center());
+        QVERIFY(shownText().startsWith(titles().last()));
+    }
+
+    void aSearchOpensTheFirstHit()
+    {
+        auto *box = control<QLineEdit>(*m_window, "search");
+        QTest::keyClicks(box, u"stick"_s);
+        QCOMPARE(control<QLabel>(*m_window, "count")->text(), u"Found on 1 page"_s);
+        auto *list = control<QListWidget>(*m_window, "contents");
+        QVERIFY(list->item(0)->data(HelpEntryDelegate::excerptRole).toString().contains("stick"_L1));
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(m_window->currentContext(), HelpContext::BackupAndRestore);
+        QVERIFY(!control<ManualBrowser>(*m_window, "manualPage")->extraSelections().isEmpty());
+        QVERIFY(list->hasFocus());
+    }
+
+    void escClearsTheSearchBeforeItLeaves()
+    {
+        auto *box = control<QLineEdit>(*m_window, "search");
+        const QStringList contents = titles();
+        QTest::keyClicks(box, u"stick"_s);
+        QTest::keyClick(box, Qt::Key_Escape);
+        QCOMPARE(titles(), contents);
+        QTest::keyClicks(box, u"zeppelin"_s);
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(control<QLabel>(*m_window, "count")->text(), u"Nothing found"_s);
+        QVERIFY(!titles().isEmpty()); // what was found last stays
+        QCOMPARE(m_window->currentContext(), HelpContext::ProgramOverview);
+        QTest::keyClick(box, Qt::Key_Escape);
+        QVERIFY(m_window->isVisible());
+        QTest::keyClick(box, Qt::Key_Escape);
+        QVERIFY(!m_window->isVisible());
+    }
+
+    void isKeptWhenItIsClosed()
+    {
+        m_window->openPage(HelpContext::PagePreview);
+        m_window->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        m_window->show();
+        QCOMPARE(m_window->currentContext(), HelpContext::PagePreview);
+    }
+
+    void printsThePage()
+    {
+        const Manual manual(m_program->folder.path());
+        const Page page = printedManualPage(manual.page(HelpContext::BackupAndRestore),
+                                            PageContext{.today = QDate(2026, 11, 21)});
+        QCOMPARE(page.title(), u"Backup and Restore"_s);
+        const QString text = page.toText();
+        QVERIFY(text.contains(u"\n2.  Connect the stick or drive.\n"_s));
+        QVERIFY(text.contains(u"\nRestoring a backup\n1.  Close Quillery.\n"_s));
+        QVERIFY(!text.contains(u'<'));
+
+        control<QAction>(*m_window, "mOPrt")->trigger();
+        QVERIFY(m_window->isPreviewShown());
+        m_window->openPage(HelpContext::AddressBook);
+        QVERIFY(!m_window->isPreviewShown());
+    }
 
 private:
-    QStringList titles() const;
+    QStringList titles() const
+    {
+        QStringList titles;
+        const auto *list = control<QListWidget>(*m_window, "contents");
+        for (int row = 0; row < list->count(); ++row)
+            titles << list->item(row)->text();
+        return titles;
+    }
+
     QString shownText() const { return control<ManualBrowser>(*m_window, "manualPage")->toPlainText(); }
 
     std::unique_ptr<TestProgram> m_program;
     std::unique_ptr<HelpViewer> m_window;
 };
-
-void TestHelpViewer::init()
-{
-    m_window.reset();
-    m_program = std::make_unique<TestProgram>();
-    m_window = std::make_unique<HelpViewer>(m_program->program);
-    showActive(*m_window);
-}
-
-QStringList TestHelpViewer::titles() const
-{
-    QStringList titles;
-    const auto *list = control<QListWidget>(*m_window, "contents");
-    for (int row = 0; row < list->count(); ++row)
-        titles << list->item(row)->text();
-    return titles;
-}
-
-void TestHelpViewer::opensThePageOfAContext()
-{
-    const QString title = u"Backup and Restore"_s;
-    m_window->openPage(HelpContext::BackupAndRestore);
-    QVERIFY(shownText().startsWith(title));
-    QCOMPARE(control<QListWidget>(*m_window, "contents")->currentItem()->text(), title);
-    m_window->openPage(4711);
-    QVERIFY(shownText().startsWith(u"Program Overview"_s));
-}
-
-void TestHelpViewer::goesBackAndForward()
-{
-    auto *back = control<QAction>(*m_window, "mGBack");
-    auto *forward = control<QAction>(*m_window, "mGForward");
-    QVERIFY(!back->isEnabled());
-    m_window->openPage(HelpContext::Appearance);
-    back->trigger();
-    QCOMPARE(m_window->currentContext(), HelpContext::ProgramOverview);
-    QVERIFY(!back->isEnabled());
-    forward->trigger();
-    QCOMPARE(m_window->currentContext(), HelpContext::Appearance);
-}
-
-void TestHelpViewer::theContentsOpenPages()
-{
-    QCOMPARE(titles().first(), u"Program Overview"_s);
-    auto *list = control<QListWidget>(*m_window, "contents");
-    list->setFocus();
-    QTest::keyClick(list, Qt::Key_Down);
-    QCOMPARE(m_window->currentContext(), HelpContext::AddressBook);
-    const int last = list->count() - 1;
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(last)).center());
-    QVERIFY(shownText().startsWith(titles().last()));
-}
-
-void TestHelpViewer::aSearchOpensTheFirstHit()
-{
-    auto *box = control<QLineEdit>(*m_window, "search");
-    QTest::keyClicks(box, u"stick"_s);
-    QCOMPARE(control<QLabel>(*m_window, "count")->text(), u"Found on 1 page"_s);
-    auto *list = control<QListWidget>(*m_window, "contents");
-    QVERIFY(list->item(0)->data(HelpEntryDelegate::excerptRole).toString().contains("stick"_L1));
-    QTest::keyClick(box, Qt::Key_Return);
-    QCOMPARE(m_window->currentContext(), HelpContext::BackupAndRestore);
-    QVERIFY(!control<ManualBrowser>(*m_window, "manualPage")->extraSelections().isEmpty());
-    QVERIFY(list->hasFocus());
-}
-
-void TestHelpViewer::escClearsTheSearchBeforeItLeaves()
-{
-    auto *box = control<QLineEdit>(*m_window, "search");
-    const QStringList contents = titles();
-    QTest::keyClicks(box, u"stick"_s);
-    QTest::keyClick(box, Qt::Key_Escape);
-    QCOMPARE(titles(), contents);
-    QTest::keyClicks(box, u"zeppelin"_s);
-    QTest::keyClick(box, Qt::Key_Return);
-    QCOMPARE(control<QLabel>(*m_window, "count")->text(), u"Nothing found"_s);
-    QVERIFY(!titles().isEmpty()); // what was found last stays
-    QCOMPARE(m_window->currentContext(), HelpContext::ProgramOverview);
-    QTest::keyClick(box, Qt::Key_Escape);
-    QVERIFY(m_window->isVisible());
-    QTest::keyClick(box, Qt::Key_Escape);
-    QVERIFY(!m_window->isVisible());
-}
-
-void TestHelpViewer::isKeptWhenItIsClosed()
-{
-    m_window->openPage(HelpContext::PagePreview);
-    m_window->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_window->show();
-    QCOMPARE(m_window->currentContext(), HelpContext::PagePreview);
-}
-
-void TestHelpViewer::printsThePage()
-{
-    const Manual manual(m_program->folder.path());
-    const Page page = printedManualPage(manual.page(HelpContext::BackupAndRestore),
-                                        PageContext{.today = QDate(2026, 11, 21)});
-    QCOMPARE(page.title(), u"Backup and Restore"_s);
-    const QString text = page.toText();
-    QVERIFY(text.contains(u"\n2.  Connect the stick or drive.\n"_s));
-    QVERIFY(text.contains(u"\nRestoring a backup\n1.  Close Quillery.\n"_s));
-    QVERIFY(!text.contains(u'<'));
-
-    control<QAction>(*m_window, "mOPrt")->trigger();
-    QVERIFY(m_window->isPreviewShown());
-    m_window->openPage(HelpContext::AddressBook);
-    QVERIFY(!m_window->isPreviewShown());
-}
 
 QTEST_MAIN(TestHelpViewer)
 #include "tst_helpviewer.moc"

@@ -44,82 +44,76 @@ class TestSheetTable final : public QObject
     Q_OBJECT
 
 private slots:
-    void runsDownSeveralColumns_data();
-    void runsDownSeveralColumns();
-    void goesOnBelowItsColumns();
-    void numbersSheetsAsAsked();
-    void drawsLinesAsAsked();
-};
-
-void TestSheetTable::runsDownSeveralColumns_data()
-{
-    rows<int, int, int>({
-        {"one", 1, 60, 2},
-        {"two", 2, 60, 1},
-        {"two over two sheets", 2, 100, 2},
-        {"three", 3, 90, 1},
-        {"nonsense", -5, 60, 2},
-        {"more than fit", 1000, 60, 1},
-    });
-}
-
-void TestSheetTable::runsDownSeveralColumns()
-{
-    const auto [across, count, sheets] = row<int, int, int>();
-    const PagePainter painter(list(count, names(across)), {}, bodyFont());
-    QCOMPARE(painter.sheetCount(), sheets);
-    static const QRegularExpression line(u"Row (\\d+)\\tWI"_s);
-    int next = 0;
-    for (const QString &sheet : sheetsOf(painter)) {
-        for (auto it = line.globalMatch(sheet); it.hasNext();)
-            QCOMPARE(it.next().captured(1).toInt(), next++);
+    void runsDownSeveralColumns_data()
+    {
+        rows<int, int, int>({
+            {"one", 1, 60, 2},
+            {"two", 2, 60, 1},
+            {"two over two sheets", 2, 100, 2},
+            {"three", 3, 90, 1},
+            {"nonsense", -5, 60, 2},
+            {"more than fit", 1000, 60, 1},
+        });
     }
-    QCOMPARE(next, count);
-}
 
-void TestSheetTable::goesOnBelowItsColumns()
-{
-    const PagePainter painter(list(50, names(2)), {}, bodyFont());
-    QCOMPARE(painter.sheetCount(), 1);
-    // The first column reaches further down than the second: the closing lines stay clear of it.
-    QVERIFY(painter.text(0).endsWith(u"Quillery\nPrinted on 11/21/2026"_s));
-    constexpr double dots = 144;
-    const QImage edge =
-        painter.image(0, dots).copy(QRect(int(7.7 * dots), 0, int(0.2 * dots), int(11 * dots)));
-    const QRectF rule = inkOf(edge, qRgb(0x9A, 0x9A, 0x9A), dots); // above the closing lines
-    QVERIFY(rule.top() > 9 && rule.bottom() < 10.2);
-}
+    void runsDownSeveralColumns()
+    {
+        const auto [across, count, sheets] = row<int, int, int>();
+        const PagePainter painter(list(count, names(across)), {}, bodyFont());
+        QCOMPARE(painter.sheetCount(), sheets);
+        static const QRegularExpression line(u"Row (\\d+)\\tWI"_s);
+        int next = 0;
+        for (const QString &sheet : sheetsOf(painter)) {
+            for (auto it = line.globalMatch(sheet); it.hasNext();)
+                QCOMPARE(it.next().captured(1).toInt(), next++);
+        }
+        QCOMPARE(next, count);
+    }
 
-void TestSheetTable::numbersSheetsAsAsked()
-{
-    const PagePainter painter(list(60, names(1)), {}, bodyFont());
-    QVERIFY(painter.text(0).contains(u"Family List - Page No. 1\tAs of today"_s));
-    QVERIFY(painter.text(1).contains(u"Family List - Page No. 2\tAs of today"_s));
+    void goesOnBelowItsColumns()
+    {
+        const PagePainter painter(list(50, names(2)), {}, bodyFont());
+        QCOMPARE(painter.sheetCount(), 1);
+        // The first column reaches further down than the second: the closing lines stay clear of it.
+        QVERIFY(painter.text(0).endsWith(u"Quillery\nPrinted on 11/21/2026"_s));
+        constexpr double dots = 144;
+        const QImage edge =
+            painter.image(0, dots).copy(QRect(int(7.7 * dots), 0, int(0.2 * dots), int(11 * dots)));
+        const QRectF rule = inkOf(edge, qRgb(0x9A, 0x9A, 0x9A), dots); // above the closing lines
+        QVERIFY(rule.top() > 9 && rule.bottom() < 10.2);
+    }
 
-    Page page;
-    page.numberSheets(SheetNumbers::None);
-    page.placeText({1, 1, 2, 1}, u"one"_s).breakPage().placeText({1, 1, 2, 1}, u"two"_s);
-    QVERIFY(isBlank(PagePainter(page, {}, bodyFont()).image(0, 72), {0, 9, 8.5, 2}, 72));
-    page.numberSheets(SheetNumbers::Foot);
-    QVERIFY(!isBlank(PagePainter(page, {}, bodyFont()).image(0, 72), {0, 9, 8.5, 2}, 72));
-}
+    void numbersSheetsAsAsked()
+    {
+        const PagePainter painter(list(60, names(1)), {}, bodyFont());
+        QVERIFY(painter.text(0).contains(u"Family List - Page No. 1\tAs of today"_s));
+        QVERIFY(painter.text(1).contains(u"Family List - Page No. 2\tAs of today"_s));
 
-void TestSheetTable::drawsLinesAsAsked()
-{
-    constexpr double dots = 144;
-    const auto below = [](TableLines lines) { // the rows, without title and headings
-        return PagePainter(list(8, names(1, lines)), {}, bodyFont())
-            .image(0, dots)
-            .copy(QRect(0, 190, 1224, 300));
-    };
-    const QRgb row = qRgb(0xDD, 0xDD, 0xDD), grid = qRgb(0xB0, 0xB0, 0xB0);
-    QVERIFY(inkOf(below(TableLines::Rows), row, dots).width() > 7);
-    // The edges of letters have such colours too, but none stands that far out.
-    QVERIFY(inkOf(below(TableLines::Rows), grid, dots).width() < 6);
-    QVERIFY(inkOf(below(TableLines::None), row, dots).width() < 6);
-    const QRectF lines = inkOf(below(TableLines::Grid), grid, dots);
-    QVERIFY(std::abs(lines.width() - 7.5) < 0.05 && lines.height() > 1.5);
-}
+        Page page;
+        page.numberSheets(SheetNumbers::None);
+        page.placeText({1, 1, 2, 1}, u"one"_s).breakPage().placeText({1, 1, 2, 1}, u"two"_s);
+        QVERIFY(isBlank(PagePainter(page, {}, bodyFont()).image(0, 72), {0, 9, 8.5, 2}, 72));
+        page.numberSheets(SheetNumbers::Foot);
+        QVERIFY(!isBlank(PagePainter(page, {}, bodyFont()).image(0, 72), {0, 9, 8.5, 2}, 72));
+    }
+
+    void drawsLinesAsAsked()
+    {
+        constexpr double dots = 144;
+        const auto below = [](TableLines lines) { // the rows, without title and headings
+            return PagePainter(list(8, names(1, lines)), {}, bodyFont())
+                .image(0, dots)
+                .copy(QRect(0, 190, 1224, 300));
+        };
+        const QRgb row = qRgb(0xDD, 0xDD, 0xDD), grid = qRgb(0xB0, 0xB0, 0xB0);
+        QVERIFY(inkOf(below(TableLines::Rows), row, dots).width() > 7);
+        // The edges of letters have such colours too, but none stands that far out.
+        QVERIFY(inkOf(below(TableLines::Rows), grid, dots).width() < 6);
+        QVERIFY(inkOf(below(TableLines::None), row, dots).width() < 6);
+        const QRectF lines = inkOf(below(TableLines::Grid), grid, dots);
+        QVERIFY(std::abs(lines.width() - 7.5) < 0.05 && lines.height() > 1.5);
+    }
+};
 
 QTEST_MAIN(TestSheetTable)
 #include "tst_sheettable.moc"
