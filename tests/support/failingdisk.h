@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/changeset.h"
 #include "storage/disk.h"
+
+#include <QTest>
 
 /// What can go wrong on the way to the disk.
 enum class DiskFailure {
@@ -29,3 +32,36 @@ public:
 private:
     int m_steps = 0;
 };
+
+/// Fails `change` at each of its steps, in both ways, from what `prepare` puts on the disk. After recovery
+/// `state` is as before or, always when the change said so, as it is where nothing fails. What was only
+/// refused is taken back at once.
+template <typename Prepare, typename Change, typename State>
+void failAtEachStep(const DataFolder &folder, Prepare prepare, Change change, State state)
+{
+    prepare();
+    const auto before = state();
+    int steps = 0;
+    {
+        const FailingDisk disk(DiskFailure::OneStep, 0);
+        QVERIFY(change());
+        steps = disk.steps();
+    }
+    const auto after = state();
+    QVERIFY(after != before && steps > 0);
+    for (const DiskFailure failure : {DiskFailure::OneStep, DiskFailure::TheEnd}) {
+        for (int refused = 1; refused <= steps; ++refused) {
+            prepare();
+            bool isDone = false;
+            {
+                const FailingDisk disk(failure, refused);
+                isDone = change();
+            }
+            const bool isTakenBack = isDone || failure == DiskFailure::TheEnd || state() == before;
+            QVERIFY(ChangeSet::recover(folder));
+            const auto now = state();
+            const QByteArray step = "step " + QByteArray::number(refused);
+            QVERIFY2(isTakenBack && (now == after || (!isDone && now == before)), step.constData());
+        }
+    }
+}
