@@ -22,6 +22,12 @@ protected:
     }
     void click(const char *name) const { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
     void trigger(const char *name) const { find<QAction>(name)->trigger(); }
+    /// Types any characters; the toolkit's own keyClicks takes ASCII only.
+    static void typeInto(QWidget *box, const QString &text)
+    {
+        for (const QChar character : text)
+            QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(character), Qt::NoModifier);
+    }
     bool isOffered(const char *button) const { return find<QPushButton>(button)->isEnabled(); }
     QString labelText(const char *name) const { return find<QLabel>(name)->text(); }
     QString said() const { return m_window->template findChild<ActivityBar *>()->message(); }

@@ -4,9 +4,12 @@
 #include "storage/datafolder.h"
 
 #include <QFile>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 inline QByteArray contentOf(const QString &path)
 {
@@ -24,6 +27,15 @@ inline bool makeFile(const QString &path, const QByteArray &content)
 inline QByteArray padded(const QByteArray &text, qsizetype width)
 {
     return text + QByteArray(width - text.size(), ' ');
+}
+
+/// Bytes of any kind, the same in each run.
+inline QByteArray noiseOf(qsizetype size)
+{
+    QByteArray noise(size, '\0');
+    QRandomGenerator generator(4);
+    std::ranges::generate(noise, [&generator] { return char(generator.bounded(256)); });
+    return noise;
 }
 
 /// A data folder of its own, with bytes put in and taken out by hand.

@@ -6,10 +6,10 @@
 #include "tests/support/filesizelimit.h"
 #include "tests/support/plannerdays.h"
 #include "tests/support/rows.h"
+#include "tests/support/testfiles.h"
 #include "tests/support/testprogram.h"
 
 #include <QDir>
-#include <QRandomGenerator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,15 +24,6 @@ QByteArray firstDays()
 {
     return QByteArray(10 * 900, 'o') + QByteArray("8:00 AM").leftJustified(140) +
            QByteArray("Run").leftJustified(700) + "Full      " + QByteArray(50, 'x') + QByteArray(900, 'y');
-}
-
-QByteArray noise(int length)
-{
-    QRandomGenerator random(7);
-    QByteArray bytes(length, '\0');
-    for (char &byte : bytes)
-        byte = char(random.bounded(256));
-    return bytes;
 }
 
 RecurrenceRun walk(const DataFolder &folder, RecurrenceAction action, int days)
@@ -71,9 +62,10 @@ private slots:
             {"a byte", QByteArray(1, '\xff')},
             {"a day", firstDays()},
             {"zeros", QByteArray(431 * 900, '\0')},
-            {"noise", noise(431 * 900)},
-            {"noise that counts as saved", QByteArray(noise(840) + "Full      " + noise(50)).repeated(431)},
-            {"more than a year", noise(500 * 900 + 17)},
+            {"noise", noiseOf(431 * 900)},
+            {"noise that counts as saved",
+             QByteArray(noiseOf(840) + "Full      " + noiseOf(50)).repeated(431)},
+            {"more than a year", noiseOf(500 * 900 + 17)},
         });
     }
 

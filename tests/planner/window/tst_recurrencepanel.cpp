@@ -9,54 +9,23 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-/// The planner with the recurrence panel open for "9:00 AM Yoga" of 21 November 2026, a Saturday.
-class Panel : public OpenPlanner
-{
-public:
-    explicit Panel(TestProgram &test)
-        : OpenPlanner(test)
-    {
-        const QByteArray before = test.bytes(u" 2026.Cal"_s);
-        type(0, u"9:00 AM"_s, u"Yoga"_s);
-        test.dialogs.willAnswer(Answer::Yes);
-        trigger("mERec");
-        test.dialogs.takeShown();
-        // Only what the panel writes shall be found.
-        if (before.isEmpty())
-            QFile::remove(test.path(u" 2026.Cal"_s));
-        else
-            test.setBytes(u" 2026.Cal"_s, before);
-    }
-
-    bool isOpen() const { return isShown("recurrencePanel"); }
-    bool isRunning() const { return isShown("progressPanel"); }
-    void insert() const
-    {
-        click("recurrenceOk");
-        finish();
-    }
-    void finish() const { QTRY_VERIFY_WITH_TIMEOUT(!isRunning(), 20000); }
-    QString boxText(const char *name) const { return find<QLineEdit>(name)->text(); }
-};
-
-} // namespace
-
-class TestRecurrencePanel : public QObject
+/// The recurrence panel for "9:00 AM Yoga" of 21 November 2026, a Saturday.
+class TestRecurrencePanel : public OpenPlanner
 {
     Q_OBJECT
 private slots:
+    void init() { open(); }
+    void cleanup() { close(); }
+
     void asksForAKind()
     {
-        TestProgram test;
-        const Panel panel(test);
-        panel.click("recurrenceOk");
-        QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::noRecurrenceSelected()});
-        QVERIFY(panel.isOpen());
-        panel.click("recurrenceCancel");
-        QVERIFY(!panel.isOpen());
-        QCOMPARE(test.bytes(u" 2026.Cal"_s), QByteArray());
+        openPanel();
+        click("recurrenceOk");
+        QCOMPARE(asked(), {PlannerMessages::noRecurrenceSelected()});
+        QVERIFY(isShown("recurrencePanel"));
+        click("recurrenceCancel");
+        QVERIFY(!isShown("recurrencePanel"));
+        QCOMPARE(m_test->bytes(u" 2026.Cal"_s), QByteArray());
     }
 
     void refusesQuietly_data()
@@ -77,16 +46,15 @@ private slots:
     void refusesQuietly()
     {
         const auto [kind, box, text] = row<QByteArray, QByteArray, QString>();
-        TestProgram test;
-        const Panel panel(test);
-        panel.tick(kind);
-        panel.set(box, text);
-        panel.click("recurrenceOk");
-        QVERIFY(!panel.said().isEmpty());
-        QVERIFY(!panel.isRunning());
-        QVERIFY(panel.isOpen());
-        QVERIFY(test.dialogs.takeShown().isEmpty());
-        QCOMPARE(test.bytes(u" 2026.Cal"_s), QByteArray());
+        openPanel();
+        tick(kind);
+        set(box, text);
+        click("recurrenceOk");
+        QVERIFY(!said().isEmpty());
+        QVERIFY(!isRunning());
+        QVERIFY(isShown("recurrencePanel"));
+        QVERIFY(asked().isEmpty());
+        QCOMPARE(m_test->bytes(u" 2026.Cal"_s), QByteArray());
     }
 
     void insertsEachKind_data()
@@ -108,23 +76,21 @@ private slots:
     void insertsEachKind()
     {
         const auto [choices, boxes, dates] = row<QString, QString, QString>();
-        TestProgram test;
-        const Panel panel(test);
+        openPanel();
         for (const QString &choice : choices.split(u' '))
-            panel.tick(choice.toLatin1());
+            tick(choice.toLatin1());
         for (const QString &box : boxes.split(u' '))
-            panel.set(box.section(u'=', 0, 0).toLatin1(), box.section(u'=', 1));
-        panel.insert();
+            set(box.section(u'=', 0, 0).toLatin1(), box.section(u'=', 1));
+        insert();
         QStringList found;
-        PlannerFiles files(test.folder);
+        PlannerFiles files(m_test->folder);
         for (const auto &[date, day] : files.days(QDate(2026, 1, 1), QDate(2036, 12, 31))) {
             QCOMPARE(day.texts[0], u"Yoga"_s);
             found << date.toString(Qt::ISODate);
         }
         QCOMPARE(found.join(u' '), dates);
-        QCOMPARE(test.dialogs.takeShown(),
-                 QList<Message>{*PlannerMessages::recurrenceReport(int(found.size()), 0)});
-        QVERIFY(!panel.isOpen());
+        QCOMPARE(asked(), {*PlannerMessages::recurrenceReport(int(found.size()), 0)});
+        QVERIFY(!isShown("recurrencePanel"));
     }
 
     void reportsFullDates_data()
@@ -142,173 +108,195 @@ private slots:
     void reportsFullDates()
     {
         const auto [fullDates, report] = row<int, QString>();
-        TestProgram test;
         const PlannerDay fullDay = dayOf(QList<std::pair<QString, QString>>(14, {{}, u"entry"_s}));
         for (int i = 0; i < fullDates; ++i)
-            writeDay(test, QDate(2026, 11, 22).addDays(i), fullDay);
-        const Panel panel(test);
-        panel.tick("kind_0");
-        panel.set("occurrences", u"3"_s);
-        panel.insert();
+            writeDay(QDate(2026, 11, 22).addDays(i), fullDay);
+        openPanel();
+        tick("kind_0");
+        set("occurrences", u"3"_s);
+        insert();
         const QString end =
             u" entry(ies).\n[Note: If Appointment already exists it was not entered again!]"_s;
-        QCOMPARE(test.dialogs.takeShown(), (QList<Message>{{u"Recurrence Option"_s, report + end}}));
+        QCOMPARE(asked(), (QList<Message>{{u"Recurrence Option"_s, report + end}}));
         // The day of the calendar shows its new entry at once.
-        QCOMPARE(panel.rows(), QStringList{u"9:00 AM|Yoga"_s});
+        QCOMPARE(shownRows(), QStringList{u"9:00 AM|Yoga"_s});
     }
 
     void removesAfterAQuestion()
     {
-        TestProgram test;
-        PlannerFiles files(test.folder);
+        PlannerFiles files(m_test->folder);
         const QDate within(2026, 12, 1), after(2026, 12, 8);
         for (const QDate date : {within, after})
-            writeDay(test, date, dayOf({{u"9:00 AM"_s, u"Yoga"_s}, {u"9:00 AM"_s, u"Stays"_s}}));
-        const Panel panel(test);
-        panel.set("endDate", u"12/5/2026"_s);
+            writeDay(date, dayOf({{u"9:00 AM"_s, u"Yoga"_s}, {u"9:00 AM"_s, u"Stays"_s}}));
+        openPanel();
+        set("endDate", u"12/5/2026"_s);
         for (const Answer answer : {Answer::No, Answer::Cancel, Answer::Yes}) {
             QCOMPARE(files.peek(within).entryCount(), 2);
-            test.dialogs.willAnswer(answer);
-            panel.click("recurrenceRemove"); // without a kind: each day
-            QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::removeRecurrence()});
+            m_test->dialogs.willAnswer(answer);
+            click("recurrenceRemove"); // without a kind: each day
+            QCOMPARE(asked(), {PlannerMessages::removeRecurrence()});
         }
-        panel.finish();
+        finish();
         QCOMPARE(files.peek(within).entryCount(), 1);
         QCOMPARE(files.peek(after).entryCount(), 2);
-        QCOMPARE(panel.said(), u"1 entry removed"_s);
+        QCOMPARE(said(), u"1 entry removed"_s);
     }
 
     void saysWhenNoDateIsOfTheKind()
     {
-        TestProgram test;
-        const Panel panel(test); // on a Saturday
-        panel.tick("kind_1");
-        panel.set("occurrences", u"1"_s);
-        panel.insert();
-        QVERIFY(test.dialogs.takeShown().isEmpty());
-        QVERIFY(panel.isOpen());
-        QCOMPARE(panel.said(), PlannerLines::noDateInRange());
+        openPanel(); // on a Saturday
+        tick("kind_1");
+        set("occurrences", u"1"_s);
+        insert();
+        QVERIFY(asked().isEmpty());
+        QVERIFY(isShown("recurrencePanel"));
+        QCOMPARE(said(), PlannerLines::noDateInRange());
     }
 
     void staysWithinTenYears()
     {
-        TestProgram test;
-        const Panel panel(test);
-        panel.set("occurrences", u"3652"_s);
-        panel.tick("kind_0");
-        QVERIFY(test.dialogs.takeShown().isEmpty());
-        panel.set("occurrences", u"3653"_s);
-        panel.tick("kind_1");
-        panel.tick("kind_0");
-        QCOMPARE(test.dialogs.takeShown(),
-                 QList<Message>{PlannerMessages::tenYearLimit()}); // the weekdays brought it down already
-        QCOMPARE(panel.boxText("occurrences"), u"2608"_s);
+        openPanel();
+        set("occurrences", u"3652"_s);
+        tick("kind_0");
+        QVERIFY(asked().isEmpty());
+        set("occurrences", u"3653"_s);
+        tick("kind_1");
+        tick("kind_0");
+        QCOMPARE(asked(), {PlannerMessages::tenYearLimit()}); // the weekdays brought it down already
+        QCOMPARE(boxText("occurrences"), u"2608"_s);
 
-        panel.set("endDate", u"1/1/2060"_s);
-        panel.tick("kind_4");
-        QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::tenYearLimit()});
-        QCOMPARE(panel.boxText("endDate"), u"Nov-20-2036"_s);
+        set("endDate", u"1/1/2060"_s);
+        tick("kind_4");
+        QCOMPARE(asked(), {PlannerMessages::tenYearLimit()});
+        QCOMPARE(boxText("endDate"), u"Nov-20-2036"_s);
     }
 
     void setsDatesByTheCalendar()
     {
-        TestProgram test;
-        const Panel panel(test);
-        auto *month = panel.find<MonthView>("MonthView2");
+        openPanel();
+        auto *month = find<MonthView>("MonthView2");
         QCOMPARE(month->selectedDate(), QDate(2026, 11, 21));
         month->setSelectedDate(QDate(2026, 11, 25));
-        QCOMPARE(panel.boxText("beginningDate"), u"Nov-25-2026"_s);
-        panel.tick("endBy_1");
-        panel.tick("calendarSets_1");
+        QCOMPARE(boxText("beginningDate"), u"Nov-25-2026"_s);
+        tick("endBy_1");
+        tick("calendarSets_1");
         QCOMPARE(month->selectedDate(), QDate(2027, 11, 21));
         month->setSelectedDate(QDate(2027, 12, 1));
-        QCOMPARE(panel.boxText("endDate"), u"Dec-01-2027"_s);
-        QVERIFY(panel.find<QRadioButton>("endBy_0")->isChecked());
+        QCOMPARE(boxText("endDate"), u"Dec-01-2027"_s);
+        QVERIFY(find<QRadioButton>("endBy_0")->isChecked());
     }
 
     void livesAndStopsDuringAWalk()
     {
-        TestProgram test;
-        const Panel panel(test);
-        panel.tick("kind_0");
-        panel.set("endDate", u"11/20/2036"_s);
-        panel.click("recurrenceOk");
-        QVERIFY(panel.isRunning());
+        openPanel();
+        tick("kind_0");
+        set("endDate", u"11/20/2036"_s);
+        click("recurrenceOk");
+        QVERIFY(isRunning());
         for (const char *name : {"recurrenceOk", "recurrenceRemove", "recurrenceCancel"})
-            QVERIFY(!panel.find<QPushButton>(name)->isEnabled());
-        QVERIFY(!panel.find<FlowToolBar>("toolbar")->isEnabled());
-        QVERIFY(!panel.window().close());
-        QVERIFY(panel.isRunning());
+            QVERIFY(!find<QPushButton>(name)->isEnabled());
+        QVERIFY(!find<FlowToolBar>("toolbar")->isEnabled());
+        QVERIFY(!m_window->close());
+        QVERIFY(isRunning());
 
         // The click comes as soon as the first progress is shown; no date is worked on after it.
-        const PlannerFiles files(test.folder);
+        const PlannerFiles files(m_test->folder);
         const auto days = [&files] { return files.days(QDate(2026, 1, 1), QDate(2037, 1, 1)); };
         std::size_t atClick = 0;
-        connect(panel.find<QProgressBar>("updateProgress"), &QProgressBar::valueChanged, this, [&] {
+        connect(find<QProgressBar>("updateProgress"), &QProgressBar::valueChanged, this, [&] {
             if (atClick > 0)
                 return;
             atClick = days().size();
-            QTest::mouseClick(panel.find<QCheckBox>("stopUpdating"), Qt::LeftButton);
+            QTest::mouseClick(find<QCheckBox>("stopUpdating"), Qt::LeftButton);
         });
-        panel.finish();
+        finish();
         QVERIFY(atClick > 0 && atClick < 3653);
         QCOMPARE(days().size(), atClick);
-        QCOMPARE(test.dialogs.takeShown(), QList<Message>{PlannerMessages::recurrenceStopped(
-                                               days().rbegin()->first, RecurrenceAction::Insert)});
-        QVERIFY(panel.find<QPushButton>("recurrenceOk")->isEnabled());
-        QVERIFY(panel.find<FlowToolBar>("toolbar")->isEnabled());
-        QVERIFY(panel.isOpen());
+        QCOMPARE(asked(),
+                 {PlannerMessages::recurrenceStopped(days().rbegin()->first, RecurrenceAction::Insert)});
+        QVERIFY(find<QPushButton>("recurrenceOk")->isEnabled());
+        QVERIFY(find<FlowToolBar>("toolbar")->isEnabled());
+        QVERIFY(isShown("recurrencePanel"));
     }
 
     void endsWhereTheDiskRefuses()
     {
 #ifdef Q_OS_UNIX
-        TestProgram test;
-        const Panel panel(test);
-        panel.tick("kind_0");
-        panel.set("endDate", u"12/31/2026"_s);
+        openPanel();
+        tick("kind_0");
+        set("endDate", u"12/31/2026"_s);
         {
             // Records up to 4 December fit; 5 December is record 405.
             const FileSizeLimit fullDisk(404 * 900);
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot write"_s));
-            panel.insert();
+            insert();
         }
-        QVERIFY(test.dialogs.takeShown().isEmpty());
-        QCOMPARE(panel.said(),
+        QVERIFY(asked().isEmpty());
+        QCOMPARE(said(),
                  u"The disk refused 12/05/2026: the update ended there. Before it, 14 entries made."_s);
 #endif
     }
 
     void opensForTheRowOfTheFocus()
     {
-        TestProgram test;
-        const OpenPlanner planner(test);
-        planner.text(3)->setFocus();
-        planner.trigger("mERec");
-        QVERIFY(!planner.isShown("recurrencePanel"));
+        text(3)->setFocus();
+        trigger("mERec");
+        QVERIFY(!isShown("recurrencePanel"));
 
-        planner.type(5, {}, u"Later"_s);
-        planner.type(3, {}, u"Ferns"_s);
-        planner.time(3)->setFocus();
-        test.dialogs.willAnswer(Answer::Yes); // saved, it stands in another row
-        planner.trigger("mERec");
-        QVERIFY(planner.find<QLabel>("recurrenceTitle")->text().contains("Ferns"_L1));
+        type(5, {}, u"Later"_s);
+        type(3, {}, u"Ferns"_s);
+        time(3)->setFocus();
+        m_test->dialogs.willAnswer(Answer::Yes); // saved, it stands in another row
+        trigger("mERec");
+        QVERIFY(labelText("recurrenceTitle").contains("Ferns"_L1));
 
         // What was dropped is not repeated: the file's text of that row is, or nothing where it has none.
-        planner.click("recurrenceCancel");
+        click("recurrenceCancel");
         for (const auto &[row, title] : {std::pair{0, u"Recurrence Option: “Ferns”"_s}, {4, QString()}}) {
-            planner.time(row)->setFocus();
-            planner.type(row, {}, u"Never kept"_s);
-            planner.time(row)->setFocus();
-            test.dialogs.willAnswer(Answer::No);
-            planner.trigger("mERec");
-            QCOMPARE(planner.isShown("recurrencePanel"), !title.isEmpty());
+            time(row)->setFocus();
+            type(row, {}, u"Never kept"_s);
+            time(row)->setFocus();
+            m_test->dialogs.willAnswer(Answer::No);
+            trigger("mERec");
+            QCOMPARE(isShown("recurrencePanel"), !title.isEmpty());
             if (!title.isEmpty())
-                QCOMPARE(planner.find<QLabel>("recurrenceTitle")->text(), title);
-            QVERIFY(!planner.window().isModified());
-            if (planner.isShown("recurrencePanel"))
-                planner.click("recurrenceCancel");
+                QCOMPARE(labelText("recurrenceTitle"), title);
+            QVERIFY(!m_window->isModified());
+            if (isShown("recurrencePanel"))
+                click("recurrenceCancel");
         }
+    }
+
+private:
+    void openPanel()
+    {
+        const QByteArray before = m_test->bytes(u" 2026.Cal"_s);
+        type(0, u"9:00 AM"_s, u"Yoga"_s);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        trigger("mERec");
+        asked();
+        // Only what the panel writes shall be found.
+        if (before.isEmpty())
+            QFile::remove(m_test->path(u" 2026.Cal"_s));
+        else
+            m_test->setBytes(u" 2026.Cal"_s, before);
+    }
+    bool isRunning() const
+    {
+        return isShown("progressPanel");
+    }
+    void insert() const
+    {
+        click("recurrenceOk");
+        finish();
+    }
+    void finish() const
+    {
+        QTRY_VERIFY_WITH_TIMEOUT(!isRunning(), 20000);
+    }
+    QString boxText(const char *name) const
+    {
+        return find<QLineEdit>(name)->text();
     }
 };
 
