@@ -8,6 +8,7 @@
 #include "tests/support/openwindow.h"
 #include "tests/support/scriptedmodem.h"
 
+#include <QAbstractItemModelTester>
 #include <QListView>
 
 /// The address book's screen on a folder of its own, and the hands that work it.
@@ -19,17 +20,19 @@ protected:
         delete m_window;
         m_line = {};
         m_test = std::make_unique<TestProgram>(content);
+        show();
+    }
+    /// A new window on the same folder.
+    void show()
+    {
+        delete m_window;
         m_window = new ADDBKVIEW(m_test->program, nullptr,
                                  [this] { return std::make_unique<ScriptedModem>(m_line); });
+        new QAbstractItemModelTester(list()->model(), QAbstractItemModelTester::FailureReportingMode::QtTest,
+                                     m_window);
         showActive(*m_window);
     }
 
-    /// Types any characters; the toolkit's own keyClicks takes ASCII only.
-    static void typeInto(QWidget *box, const QString &text)
-    {
-        for (const QChar character : text)
-            QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(character), Qt::NoModifier);
-    }
     void type(int field, const QString &text)
     {
         box(field)->setFocus(Qt::TabFocusReason);

@@ -3,9 +3,9 @@
 #include "addressbook/model/messages.h"
 #include "shell/pictures/pictureframe.h"
 #include "tests/support/openwindow.h"
+#include "tests/support/testpictures.h"
 
 #include <QComboBox>
-#include <QImage>
 #include <QListWidget>
 #include <QSignalSpy>
 
@@ -49,24 +49,30 @@ private slots:
 
     void entersAPictureAndRemembersItsFolder()
     {
-        const QString path = makePicture(u"anne.jpg"_s);
+        const QString path = makePicture(m_album + u"/anne.jpg", {40, 30});
         open();
         QVERIFY(QFile::remove(m_test->path(u"GColor4.Fil"_s)));
         const QSignalSpy entered(m_window, &PicturePanel::pictureEntered);
         QVERIFY(!isOffered("pictureEnter"));
         QVERIFY(!find<QPushButton>("pictureEnter")->toolTip().isEmpty());
-        chooseFile(u"anne.jpg"_s);
+        choose(u"anne.jpg"_s);
         QVERIFY(find<PictureFrame>("picturePreview")->hasPicture());
         click("pictureEnter");
         QCOMPARE(entered, QList<QVariantList>{{path}});
         QCOMPARE(m_test->bytes(u"GColor4.Fil"_s), (m_album + u"/\r\n"_s).toLatin1());
+
+        const QSignalSpy deleted(m_window, &PicturePanel::pictureDeleted);
+        click("pictureDelete");
+        QCOMPARE(deleted.count(), 1);
+        m_window->start(false);
+        QVERIFY(!isOffered("pictureDelete"));
     }
 
     void saysSoWhenAFileIsNoPicture()
     {
         QVERIFY(makeFile(m_album + u"/old.wmf"_s, "\xd7\xcd\xc6\x9a not a picture here"));
         open();
-        chooseFile(u"old.wmf"_s);
+        choose(u"old.wmf"_s);
         const auto *preview = find<PictureFrame>("picturePreview");
         QVERIFY(!preview->hasPicture());
         QCOMPARE(preview->words(), u"Program is unable to load this file as a Picture File!!!"_s);
@@ -76,19 +82,20 @@ private slots:
     void walksThroughFolders()
     {
         QVERIFY(QDir(m_album).mkdir(u"summer"_s));
+        m_drives.append(m_test->temporary.filePath(u"pulled-out"_s));
         open();
-        QCOMPARE(find<QListWidget>("Dir1")->item(0)->text(), u".."_s);
+        auto *folders = find<QListWidget>("Dir1");
+        const auto openFolder = [folders](int row) {
+            folders->setFocus();
+            folders->setCurrentRow(row);
+            QTest::keyClick(folders, Qt::Key_Return);
+        };
+        QCOMPARE(folders->item(0)->text(), u".."_s);
         openFolder(1);
         QCOMPARE(shownFolder(), QString(m_album + u"/summer"_s));
         openFolder(0);
         QCOMPARE(shownFolder(), m_album);
-    }
-
-    void fallsBackFromWhatIsNotThere()
-    {
-        QVERIFY(QDir(m_album).mkdir(u"summer"_s));
-        m_drives.append(m_test->temporary.filePath(u"pulled-out"_s));
-        open();
+        // What has gone meanwhile is said, and the drive itself is shown.
         QVERIFY(QDir(m_album).rmdir(u"summer"_s));
         openFolder(1);
         QCOMPARE(asked(), {AddressMessages::deviceUnavailable()});
@@ -104,27 +111,18 @@ private slots:
 
     void refusesAPathThatNoEntryCanHold()
     {
-        makePicture(u"αννα.jpg"_s);
-        makePicture(QString(180, u'x') + u".jpg"_s);
+        const QStringList names{u"αννα.jpg"_s, QString(180, u'x') + u".jpg"};
+        for (const QString &name : names)
+            makePicture(m_album + u'/' + name, {40, 30});
         open();
-        const QSignalSpy entered(m_window, &PicturePanel::pictureEntered),
-            said(m_window, &PicturePanel::said);
-        for (const QString &name : files()) {
-            chooseFile(name);
+        const QSignalSpy entered(m_window, &PicturePanel::pictureEntered);
+        const QSignalSpy said(m_window, &PicturePanel::said);
+        for (const QString &name : names) {
+            choose(name);
             click("pictureEnter");
         }
         QCOMPARE(said.count(), 2);
         QCOMPARE(entered.count(), 0);
-    }
-
-    void deletesOnlyAPictureThatIsThere()
-    {
-        open();
-        const QSignalSpy deleted(m_window, &PicturePanel::pictureDeleted);
-        click("pictureDelete");
-        QCOMPARE(deleted.count(), 1);
-        m_window->start(false);
-        QVERIFY(!isOffered("pictureDelete"));
     }
 
 private:
@@ -137,37 +135,20 @@ private:
         m_window->start(true);
     }
 
-    QString makePicture(const QString &name) const
-    {
-        QImage image(40, 30, QImage::Format_RGB32);
-        image.fill(Qt::darkGreen);
-        if (!image.save(m_album + u'/' + name))
-            QTest::qFail("no picture", __FILE__, __LINE__);
-        return m_album + u'/' + name;
-    }
-
     QStringList files() const
     {
         QStringList names;
-        const auto *list = find<QListWidget>("File1");
-        for (int row = 0; row < list->count(); ++row)
-            names.append(list->item(row)->text());
+        for (int row = 0; row < fileList()->count(); ++row)
+            names.append(fileList()->item(row)->text());
         return names;
     }
 
-    void chooseFile(const QString &name) const
+    void choose(const QString &file) const
     {
-        auto *list = find<QListWidget>("File1");
-        list->setCurrentItem(list->findItems(name, Qt::MatchExactly).value(0));
+        fileList()->setCurrentItem(fileList()->findItems(file, Qt::MatchExactly).value(0));
     }
 
-    void openFolder(int row) const
-    {
-        auto *folders = find<QListWidget>("Dir1");
-        folders->setFocus();
-        folders->setCurrentRow(row);
-        QTest::keyClick(folders, Qt::Key_Return);
-    }
+    QListWidget *fileList() const { return find<QListWidget>("File1"); }
 
     QString shownFolder() const { return labelText("picturePath"); }
 

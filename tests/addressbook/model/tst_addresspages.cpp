@@ -77,36 +77,34 @@ private slots:
 
     void keepsCardsApart_data()
     {
-        QTest::addColumn<int>("perSheet");
-        QTest::addColumn<PageSetup>("setup");
-        for (const int perSheet : {2, 4, 8})
-            for (const QSizeF paper : {QSizeF(8.5, 11), QSizeF(8.27, 11.69)})
-                for (const auto orientation : {PageSetup::Portrait, PageSetup::Landscape})
-                    QTest::addRow("%d, %g wide, %d", perSheet, paper.width(), int(orientation))
-                        << perSheet << PageSetup{paper, orientation};
+        const QSizeF letter(8.5, 11), a4(8.27, 11.69);
+        rows<PageSetup>({{"letter", {letter, PageSetup::Portrait}},
+                         {"letter, landscape", {letter, PageSetup::Landscape}},
+                         {"A4", {a4, PageSetup::Portrait}},
+                         {"A4, landscape", {a4, PageSetup::Landscape}}});
     }
 
     void keepsCardsApart()
     {
-        QFETCH(int, perSheet);
-        QFETCH(PageSetup, setup);
-        const Page page = AddressPages::cards(AddressPages::PerSheet(perSheet), times(perSheet, m_anne),
-                                              [](const QString &stored) { return stored; },
-                                              {setup, context.style, context.today, {}});
-
-        QList<QRectF> places;
-        for (const auto &text : itemsOf<PageItem::PlacedText>(page))
-            places << text.place;
-        for (const auto &picture : itemsOf<PageItem::PlacedPicture>(page))
-            places << picture.place;
-        // Every text of every card has found room: the name and nine more.
-        QCOMPARE(places.size(), perSheet * 11);
+        const auto [setup] = row<PageSetup>();
         const QRectF usable = QRectF({}, setup.sheet()).adjusted(0.49, 1.0, -0.49, -0.9);
-        for (qsizetype i = 0; i < places.size(); ++i) {
-            QVERIFY(usable.contains(places[i]));
-            QVERIFY(places[i].width() > 0.95 || places[i].height() > 1.2);
-            for (qsizetype j = i + 1; j < places.size(); ++j)
-                QVERIFY(!places[i].adjusted(0.001, 0.001, -0.001, -0.001).intersects(places[j]));
+        for (const int perSheet : {2, 4, 8}) {
+            const Page page = AddressPages::cards(AddressPages::PerSheet(perSheet), times(perSheet, m_anne),
+                                                  [](const QString &stored) { return stored; },
+                                                  {setup, context.style, context.today, {}});
+            QList<QRectF> places;
+            for (const auto &text : itemsOf<PageItem::PlacedText>(page))
+                places << text.place;
+            for (const auto &picture : itemsOf<PageItem::PlacedPicture>(page))
+                places << picture.place;
+            // Every text of every card has found room: the name and nine more.
+            QCOMPARE(places.size(), perSheet * 11);
+            for (qsizetype i = 0; i < places.size(); ++i) {
+                QVERIFY(usable.contains(places[i]));
+                QVERIFY(places[i].width() > 0.95 || places[i].height() > 1.2);
+                for (qsizetype j = i + 1; j < places.size(); ++j)
+                    QVERIFY(!places[i].adjusted(0.001, 0.001, -0.001, -0.001).intersects(places[j]));
+            }
         }
     }
 

@@ -7,10 +7,10 @@
 #include "shell/preview/previewpane.h"
 #include "tests/addressbook/model/addressrecords.h"
 #include "tests/support/openwindow.h"
+#include "tests/support/testpictures.h"
 
 #include <QDir>
 #include <QImage>
-#include <QRandomGenerator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,19 +22,10 @@ private slots:
     void init() { m_test = std::make_unique<TestProgram>(TestProgram::Household); }
     void cleanup() { close(); }
 
-    void warnsOnce()
-    {
-        open();
-        QCOMPARE(m_window->windowTitle(), u"Family/Friends Pictures Display Screen"_s);
-        m_window->hide();
-        m_window->show();
-        QCoreApplication::processEvents();
-        QVERIFY(asked().isEmpty());
-    }
-
     void showsThePicturesPageByPage()
     {
         open();
+        QCOMPARE(m_window->windowTitle(), u"Family/Friends Pictures Display Screen"_s);
         QCOMPARE(labelText("picturePage"), u"Page 1 of 2"_s);
         QCOMPARE(labelText("pictureTotal"), u" Total = 26"_s);
         QCOMPARE(gallery()->model()->rowCount(), 20);
@@ -59,21 +50,7 @@ private slots:
         QTest::keyClick(gallery(), Qt::Key_PageUp);
         QCOMPARE(labelText("picturePage"), u"Page 1 of 2"_s);
         QTRY_COMPARE(gallery()->waitingCount(), 0);
-    }
 
-    void followsTheAddressBook()
-    {
-        open();
-        click("nextPictures");
-        changeElsewhere(u"Addbk2.Fil"_s,
-                        m_test->bytes(u"Addbk2.Fil"_s).replace("Kessler, Tessa", "####ler, Tessa"));
-        QCOMPARE(labelText("pictureTotal"), u" Total = 25"_s);
-        QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
-    }
-
-    void enlargesAPicture()
-    {
-        open();
         gallery()->setCurrentIndex(gallery()->model()->index(1, 0));
         click("enlargePicture");
         QCOMPARE(labelText("enlargedName"), u"Garland, Anne"_s);
@@ -83,9 +60,25 @@ private slots:
         QVERIFY(m_window->isVisible());
     }
 
+    void followsTheAddressBook()
+    {
+        open();
+        click("nextPictures");
+        changeElsewhere(u"Addbk2.Fil"_s,
+                        m_test->bytes(u"Addbk2.Fil"_s).replace("Kessler, Tessa", "####ler, Tessa"));
+        QVERIFY(asked().isEmpty()); // what is said at first is not said again
+        QCOMPARE(labelText("pictureTotal"), u" Total = 25"_s);
+        QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
+    }
+
     void printsThePageShown()
     {
         open();
+        trigger("mOPrt");
+        emit m_window->findChild<ActivityBar *>()->stopRequested();
+        QTest::qWait(200);
+        QVERIFY(!m_window->isPreviewShown());
+        QCOMPARE(said(), u"Stopped"_s);
         click("nextPictures");
         trigger("mOPrt");
         QTRY_VERIFY_WITH_TIMEOUT(m_window->isPreviewShown(), 30000);
@@ -94,31 +87,15 @@ private slots:
         QVERIFY(!m_window->isPreviewShown());
     }
 
-    void stopsMakingCopies()
-    {
-        open();
-        trigger("mOPrt");
-        emit m_window->findChild<ActivityBar *>()->stopRequested();
-        QTest::qWait(200);
-        QVERIFY(!m_window->isPreviewShown());
-        QCOMPARE(said(), u"Stopped"_s);
-    }
-
     void survivesFilesThatAreNoPictures()
     {
         putPictures({u"noise.jpg"_s, u"empty.jpg"_s, u"folder.jpg"_s, u"cut.jpg"_s, u"huge.bmp"_s,
                      u"../../etc/passwd"_s, QString(200, u'x'), u"\\\\?\\pipe"_s});
-        QByteArray noise(4000, '\0');
-        QRandomGenerator generator(7);
-        for (char &byte : noise)
-            byte = char(generator.bounded(256));
-        m_test->setBytes(u"noise.jpg"_s, noise);
+        m_test->setBytes(u"noise.jpg"_s, noiseOf(4000));
         m_test->setBytes(u"empty.jpg"_s, {});
         QVERIFY(QDir(m_test->folder.path()).mkdir(u"folder.jpg"_s));
-        QImage whole(400, 300, QImage::Format_RGB32);
-        whole.fill(Qt::darkGreen);
-        QVERIFY(whole.save(m_test->path(u"whole.jpg"_s)));
-        m_test->setBytes(u"cut.jpg"_s, m_test->bytes(u"whole.jpg"_s).left(200));
+        makePicture(m_test->path(u"cut.jpg"_s), {400, 300});
+        m_test->setBytes(u"cut.jpg"_s, m_test->bytes(u"cut.jpg"_s).left(200));
         m_test->setBytes(
             u"huge.bmp"_s,
             QByteArray::fromHex(
@@ -136,9 +113,7 @@ private slots:
     void neverWaitsForPhotographs()
     {
         putPictures(QStringList(3, u"large.jpg"_s));
-        QImage large(4000, 3000, QImage::Format_RGB32);
-        large.fill(Qt::darkCyan);
-        QVERIFY(large.save(m_test->path(u"large.jpg"_s)));
+        makePicture(m_test->path(u"large.jpg"_s), {4000, 3000});
         m_window = new ADDBKDISPLAY2(m_test->program);
         QCOMPARE(gallery()->waitingCount(), 3);
         showActive(*m_window);

@@ -16,11 +16,11 @@ class TestAddbkdisplay : public OpenViewer
     Q_OBJECT
 
 private slots:
+    void init() { open(); }
     void cleanup() { close(); }
 
     void opensWithEveryName()
     {
-        open();
         QCOMPARE(m_window->windowTitle(), u"Family/Friends Data Viewer"_s);
         QCOMPARE(count(), u"No. Of Names: 40"_s);
         QCOMPARE(grid()->model()->rowCount(), 40);
@@ -31,32 +31,26 @@ private slots:
         QCOMPARE(grid()->currentIndex(), grid()->model()->index(0, 0));
     }
 
-    void showsTheChosenInformation_data()
-    {
-        rows<Information, QString, QString>({
-            {"State", Information::State, u"State"_s, u"Germany"_s},
-            {"Home Phone", Information::HomePhone, u"Home Phone"_s, u"(440) 555-0100"_s},
-            {"Date of Birth", Information::BirthDate, u"Date of Birth"_s, u"Apr-21-1997"_s},
-            {"Pictures - Print Only", Information::Pictures, {}, {}},
-        });
-    }
-
     void showsTheChosenInformation()
     {
-        const auto [information, head, text] = row<Information, QString, QString>();
-        open();
+        const std::tuple<Information, QString, QString> choices[]{
+            {Information::State, u"State"_s, u"Germany"_s},
+            {Information::HomePhone, u"Home Phone"_s, u"(440) 555-0100"_s},
+            {Information::BirthDate, u"Date of Birth"_s, u"Apr-21-1997"_s},
+            {Information::Pictures, {}, {}}};
         select(4, 1);
-        choose(information);
-        QCOMPARE(grid()->model()->columnCount(), head.isEmpty() ? 1 : 2);
-        QCOMPARE(grid()->model()->headerData(1, Qt::Horizontal).toString(), head);
-        QCOMPARE(cell(0, 1), text);
-        QCOMPARE(labelText("informationChip"), QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(grid()->currentIndex().row(), 4);
+        for (const auto &[information, head, text] : choices) {
+            choose(information);
+            QCOMPARE(grid()->model()->columnCount(), head.isEmpty() ? 1 : 2);
+            QCOMPARE(grid()->model()->headerData(1, Qt::Horizontal).toString(), head);
+            QCOMPARE(cell(0, 1), text);
+            QCOMPARE(labelText("informationChip"), head.isEmpty() ? u"Pictures - Print Only"_s : head);
+            QCOMPARE(grid()->currentIndex().row(), 4);
+        }
     }
 
     void asksForAMonth()
     {
-        open();
         const auto asks = [this](DisplayRange::Kind kind, const char *box, const QString &typed) {
             find<QComboBox>(box)->setEditText(typed);
             chooseRange(kind);
@@ -73,7 +67,6 @@ private slots:
 
     void narrowsToAMonth()
     {
-        open();
         auto *month = find<QComboBox>("birthMonth");
         month->setFocus();
         QTest::keyClicks(month->lineEdit(), u"april"_s); // which chooses the range, too
@@ -98,7 +91,6 @@ private slots:
 
     void searches()
     {
-        open();
         choose(Information::HomePhone);
         type(u"mil"_s);
         QCOMPARE(count(), u"No. Of Matches Found: 3"_s);
@@ -133,7 +125,6 @@ private slots:
 
     void removesARowFromTheGridOnly()
     {
-        open();
         const QByteArray entries = m_test->bytes(u"Addbk1.Fil"_s), lines = m_test->bytes(u"Addbk2.Fil"_s);
         select(1);
         m_test->dialogs.willAnswer(Answer::No);
@@ -153,23 +144,20 @@ private slots:
 
     void dialsTheHighlightedNumber()
     {
-        open();
         choose(Information::FaxNumber);
         select(rowWhere(1, [](const QString &number) { return number.isEmpty(); }));
         click("Image2");
         QCOMPARE(asked(), {AddressMessages::telephoneNumberMissing()});
-        QVERIFY(m_line.log.isEmpty());
         choose(Information::HomePhone);
         select(0, 1);
         m_test->dialogs.willAnswer(Answer::Ok);
         click("Image2");
-        QCOMPARE(m_line.log, QStringList({u"open 3"_s, u"ATDT (440) 555-0100;\r"_s, u"ATH\r"_s, u"close"_s}));
         QCOMPARE(asked(), {AddressMessages::numberDialed(u"(440) 555-0100"_s)});
+        QVERIFY(m_line.log.contains(u"ATDT (440) 555-0100;\r"_s));
     }
 
     void opensTheMailProgram()
     {
-        open();
         choose(Information::EmailAddress);
         const int row = rowWhere(1, [](const QString &address) { return address.contains(u'@'); });
         select(row, 1);
@@ -187,7 +175,6 @@ private slots:
 
     void opensTheEntry()
     {
-        open();
         m_test->functions.add(Function::AddressBook,
                               {[](Program &program) { return new ADDBKVIEW(program); }, {}, {}, {}, {}});
         const QPoint place = grid()->visualRect(grid()->model()->index(4, 0)).center();
@@ -222,7 +209,6 @@ private slots:
     void showsTheGridToItsCommands()
     {
         const auto [isPreview, panel, command] = row<bool, QByteArray, QByteArray>();
-        open();
         trigger(panel);
         if (isPreview)
             click("printList");
@@ -242,7 +228,6 @@ private slots:
 
     void saysWhyACommandIsNotOffered()
     {
-        open();
         for (const char *name : {"Image2", "writeMail"}) {
             QVERIFY(!isOffered(name));
             QVERIFY(find<QPushButton>(name)->toolTip().startsWith(u"Choose"_s));
@@ -255,7 +240,6 @@ private slots:
 
     void keepsItsPanelColor()
     {
-        open();
         m_test->dialogs.willAnswer(Answer::Yes);
         m_test->dialogs.willChooseColor(QColor(1, 2, 3));
         m_test->dialogs.willAnswer(Answer::Yes); // save it
@@ -266,7 +250,6 @@ private slots:
 
     void fitsASmallWindow()
     {
-        open();
         m_window->resize(800, 600);
         QCOMPARE(m_window->size(), QSize(800, 600));
         const auto isWhole = [this](const char *name) {
