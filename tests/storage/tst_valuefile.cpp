@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/valuefile.h"
+#include "tests/support/household.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 
@@ -70,6 +71,18 @@ private slots:
         QVERIFY(QDir().mkdir(files.path(u"Folder.Fil"_s)));
         expectWarning("^Cannot read .*Folder.Fil");
         QCOMPARE(ValueFile::read(files.path(u"Folder.Fil"_s)), QStringList());
+    }
+
+    void bringsBackTheHousehold()
+    {
+        const std::pair<QString, int> counts[]{{u"2025.Fil"_s, 662},  {u"WeightTrker.Fil"_s, 4},
+                                               {u"ACar1.Fil"_s, 325}, {u"Nils Holm 2026.Fil"_s, 110},
+                                               {u"ACar2.Fil"_s, 1},   {u"TODOActv.FIL"_s, 33}};
+        for (const auto &[name, count] : counts) {
+            const QStringList values = ValueFile::read(householdPath(name));
+            QCOMPARE(int(values.size()), count);
+            QCOMPARE(ValueFile::encode(values), contentOf(householdPath(name)));
+        }
     }
 
     void readsALine_data()

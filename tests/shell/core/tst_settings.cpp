@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/settings.h"
 #include "shell/core/settingskeys.h"
+#include "tests/support/household.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 
@@ -68,6 +69,23 @@ private slots:
         m_files->put(u"HINVNAME.FIL"_s, content);
         QCOMPARE(m_settings->text(SettingsKeys::familyName), text);
         QCOMPARE(m_settings->number({SettingsKeys::familyNameFile, 1}), number);
+    }
+
+    void readsTheHousehold()
+    {
+        const DataFolder folder(householdPath());
+        Settings settings(folder);
+        const QJsonObject expected = expectedOf(u"settings"_s);
+        QCOMPARE(settings.text(SettingsKeys::familyName), expected["family_name"_L1].toString());
+        QCOMPARE(settings.tagged(SettingsKeys::background), expected["background"_L1].toString());
+        QCOMPARE(settings.number(SettingsKeys::modemPort), expected["modem_port"_L1].toInt());
+        for (const SettingsFile &file :
+             {SettingsKeys::colorFile1, SettingsKeys::colorFile2, SettingsKeys::colorFile3}) {
+            const QJsonObject records = expected["colours"_L1][QLatin1StringView(file.name)].toObject();
+            QVERIFY(!records.isEmpty());
+            for (auto record = records.begin(); record != records.end(); ++record)
+                QCOMPARE(settings.text({file, record.key().toInt()}), record->toString());
+        }
     }
 
     void findsFilesUnderAnySpelling()
