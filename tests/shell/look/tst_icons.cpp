@@ -22,6 +22,7 @@ static bool isWhollyIn(const QColor &ink, const QImage &picture)
         }
     return painted > 0;
 }
+
 class TestIcons final : public QObject
 {
     Q_OBJECT

@@ -4,44 +4,40 @@
 #include "shell/manual/helpviewer.h"
 #include "shell/manual/manualbrowser.h"
 #include "shell/manual/manualprint.h"
-#include "tests/support/testprogram.h"
+#include "tests/support/openwindow.h"
 
-#include <QAction>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
-#include <memory>
-
 using namespace Qt::Literals::StringLiterals;
 
-class TestHelpViewer : public QObject
+class TestHelpViewer : public OpenWindow<HelpViewer>
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_window.reset();
-        m_program = std::make_unique<TestProgram>();
-        m_window = std::make_unique<HelpViewer>(m_program->program);
+        m_test = std::make_unique<TestProgram>();
+        m_window = new HelpViewer(m_test->program);
         showActive(*m_window);
     }
+    void cleanup() { close(); }
 
     void opensThePageOfAContext()
     {
         const QString title = u"Backup and Restore"_s;
         m_window->openPage(HelpContext::BackupAndRestore);
         QVERIFY(shownText().startsWith(title));
-        QCOMPARE(control<QListWidget>(*m_window, "contents")->currentItem()->text(), title);
+        QCOMPARE(find<QListWidget>("contents")->currentItem()->text(), title);
         m_window->openPage(4711);
         QVERIFY(shownText().startsWith(u"Program Overview"_s));
     }
 
     void goesBackAndForward()
     {
-        auto *back = control<QAction>(*m_window, "mGBack");
-        auto *forward = control<QAction>(*m_window, "mGForward");
+        auto *back = find<QAction>("mGBack");
+        auto *forward = find<QAction>("mGForward");
         QVERIFY(!back->isEnabled());
         m_window->openPage(HelpContext::Appearance);
         back->trigger();
@@ -54,7 +50,7 @@ private slots:
     void theContentsOpenPages()
     {
         QCOMPARE(titles().first(), u"Program Overview"_s);
-        auto *list = control<QListWidget>(*m_window, "contents");
+        auto *list = find<QListWidget>("contents");
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(m_window->currentContext(), HelpContext::AddressBook);
@@ -66,27 +62,27 @@ private slots:
 
     void aSearchOpensTheFirstHit()
     {
-        auto *box = control<QLineEdit>(*m_window, "search");
+        auto *box = find<QLineEdit>("search");
         QTest::keyClicks(box, u"stick"_s);
-        QCOMPARE(control<QLabel>(*m_window, "count")->text(), u"Found on 1 page"_s);
-        auto *list = control<QListWidget>(*m_window, "contents");
+        QCOMPARE(labelText("count"), u"Found on 1 page"_s);
+        auto *list = find<QListWidget>("contents");
         QVERIFY(list->item(0)->data(HelpEntryDelegate::excerptRole).toString().contains("stick"_L1));
         QTest::keyClick(box, Qt::Key_Return);
         QCOMPARE(m_window->currentContext(), HelpContext::BackupAndRestore);
-        QVERIFY(!control<ManualBrowser>(*m_window, "manualPage")->extraSelections().isEmpty());
+        QVERIFY(!find<ManualBrowser>("manualPage")->extraSelections().isEmpty());
         QVERIFY(list->hasFocus());
     }
 
     void escClearsTheSearchBeforeItLeaves()
     {
-        auto *box = control<QLineEdit>(*m_window, "search");
+        auto *box = find<QLineEdit>("search");
         const QStringList contents = titles();
         QTest::keyClicks(box, u"stick"_s);
         QTest::keyClick(box, Qt::Key_Escape);
         QCOMPARE(titles(), contents);
         QTest::keyClicks(box, u"zeppelin"_s);
         QTest::keyClick(box, Qt::Key_Return);
-        QCOMPARE(control<QLabel>(*m_window, "count")->text(), u"Nothing found"_s);
+        QCOMPARE(labelText("count"), u"Nothing found"_s);
         QVERIFY(!titles().isEmpty()); // what was found last stays
         QCOMPARE(m_window->currentContext(), HelpContext::ProgramOverview);
         QTest::keyClick(box, Qt::Key_Escape);
@@ -106,7 +102,7 @@ private slots:
 
     void printsThePage()
     {
-        const Manual manual(m_program->folder.path());
+        const Manual manual(m_test->folder.path());
         const Page page = printedManualPage(manual.page(HelpContext::BackupAndRestore),
                                             PageContext{.today = QDate(2026, 11, 21)});
         QCOMPARE(page.title(), u"Backup and Restore"_s);
@@ -115,7 +111,7 @@ private slots:
         QVERIFY(text.contains(u"\nRestoring a backup\n1.  Close Quillery.\n"_s));
         QVERIFY(!text.contains(u'<'));
 
-        control<QAction>(*m_window, "mOPrt")->trigger();
+        trigger("mOPrt");
         QVERIFY(m_window->isPreviewShown());
         m_window->openPage(HelpContext::AddressBook);
         QVERIFY(!m_window->isPreviewShown());
@@ -125,16 +121,13 @@ private:
     QStringList titles() const
     {
         QStringList titles;
-        const auto *list = control<QListWidget>(*m_window, "contents");
+        const auto *list = find<QListWidget>("contents");
         for (int row = 0; row < list->count(); ++row)
             titles << list->item(row)->text();
         return titles;
     }
 
-    QString shownText() const { return control<ManualBrowser>(*m_window, "manualPage")->toPlainText(); }
-
-    std::unique_ptr<TestProgram> m_program;
-    std::unique_ptr<HelpViewer> m_window;
+    QString shownText() const { return find<ManualBrowser>("manualPage")->toPlainText(); }
 };
 
 QTEST_MAIN(TestHelpViewer)
