@@ -129,7 +129,9 @@ QWidget *AddressForm::makeHomeColumn()
     auto *layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(rowGap);
-    layout->addWidget(makeHeading(u"Individual and Home Address Information"_s, this));
+    QLabel *heading = makeHeading(u"Individual and Home Address Information"_s, this);
+    heading->setWordWrap(true);
+    layout->addWidget(heading);
 
     m_lastNameLabel = makeFieldLabel(captions[LastName], m_boxes[LastName], this);
     m_requiredLabel = makeFieldLabel(captions[LastName], m_boxes[LastName], this, {}, true);

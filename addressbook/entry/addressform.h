@@ -39,7 +39,6 @@ public:
     PictureFrame *picture() const { return m_picture; }
     QPushButton *enlargeButton() const { return m_enlarge; }
     QLabel *dialingLabel() const { return m_dialing; }
-    DatePicker *datePicker() const { return m_picker; }
 
     /// A quiet line under the names; empty takes it away.
     void setNameHint(const QString &hint);

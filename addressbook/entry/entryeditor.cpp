@@ -14,7 +14,6 @@
 #include "shell/program/program.h"
 
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -64,8 +63,6 @@ EntryEditor::EntryEditor(Program &program, QWidget *window)
     m_title->addChip(u"modeChip"_s);
     QLabel *words = m_title->addWords(u"titleWords"_s);
     QScrollArea *scroll = makeScrolling(m_form, u"formScroll"_s, this);
-    connect(scroll->verticalScrollBar(), &QScrollBar::valueChanged, m_form->datePicker(),
-            &DatePicker::reposition);
     connect(m_form, &AddressForm::boxFocused, scroll,
             [scroll](QWidget *box) { scroll->ensureWidgetVisible(box, 8, 32); });
     connect(m_form, &AddressForm::edited, this, &EntryEditor::refreshModified);

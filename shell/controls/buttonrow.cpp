@@ -2,13 +2,20 @@
 #include "shell/controls/buttonrow.h"
 
 #include "shell/controls/controls.h"
+#include "shell/controls/lowwindow.h"
+#include "shell/controls/morebutton.h"
 
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
 constexpr int gap = 8;
 constexpr int groupGap = 16;
 
@@ -21,17 +28,22 @@ int widthOf(const QPushButton *button)
 
 ButtonRow::ButtonRow(QWidget *parent)
     : QWidget(parent)
-    , m_words(named(makeQuietLabel({}, this), QStringLiteral("rowWords")))
+    , m_words(named(makeQuietLabel({}, this), u"rowWords"_s))
+    , m_low(new LowWindow(this))
+    , m_more(makeButton(u"moreButtons"_s, MoreButton::word(), this))
 {
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    m_more->hide();
+    connect(m_more, &QPushButton::clicked, this, &ButtonRow::openMore);
+    connect(m_low, &LowWindow::changed, this, &ButtonRow::rearrange);
 }
 
 void ButtonRow::add(QPushButton *button, QVector<QPushButton *> &group)
 {
     group.append(button);
-    const QVector<QPushButton *> all = m_left + m_right;
+    const QVector<QPushButton *> all = m_left + QVector{m_more} + m_right;
     for (qsizetype i = 1; i < all.size(); ++i)
         setTabOrder(all[i - 1], all[i]);
 }
@@ -40,7 +52,7 @@ int ButtonRow::groupWidth(const QVector<QPushButton *> &group) const
 {
     int width = 0;
     for (const QPushButton *button : group) {
-        if (!button->isHidden())
+        if (!button->isHidden() && !m_held.contains(button))
             width += (width ? gap : 0) + widthOf(button);
     }
     return width;
@@ -52,10 +64,15 @@ void ButtonRow::setWords(const QString &words)
     rearrange();
 }
 
+int ButtonRow::leftWidth() const
+{
+    return groupWidth(m_left + QVector{m_more});
+}
+
 /// Where what follows the left group begins.
 int ButtonRow::behindLeft() const
 {
-    const int left = groupWidth(m_left);
+    const int left = leftWidth();
     return left > 0 ? left + groupGap : 0;
 }
 
@@ -67,7 +84,7 @@ bool ButtonRow::haveWordsRoom() const
 
 bool ButtonRow::fitsOneRow(int width) const
 {
-    return groupWidth(m_left) == 0 || behindLeft() + groupWidth(m_right) <= width;
+    return leftWidth() == 0 || behindLeft() + groupWidth(m_right) <= width;
 }
 
 int ButtonRow::rowHeight() const
@@ -82,7 +99,7 @@ int ButtonRow::rowHeight() const
 
 int ButtonRow::heightForWidth(int width) const
 {
-    return fitsOneRow(width) ? rowHeight() : 2 * rowHeight() + gap;
+    return m_low->isLow() || fitsOneRow(width) ? rowHeight() : 2 * rowHeight() + gap;
 }
 
 QSize ButtonRow::sizeHint() const
@@ -92,7 +109,9 @@ QSize ButtonRow::sizeHint() const
 
 QSize ButtonRow::minimumSizeHint() const
 {
-    return {std::max(groupWidth(m_left), groupWidth(m_right)), rowHeight()};
+    const int left = m_low->isLow() ? widthOf(m_more) : groupWidth(m_left);
+    const int right = groupWidth(m_right);
+    return {m_low->isLow() ? left + groupGap + right : std::max(left, right), rowHeight()};
 }
 
 void ButtonRow::place(const QVector<QPushButton *> &group, int x, int y) const
@@ -101,16 +120,53 @@ void ButtonRow::place(const QVector<QPushButton *> &group, int x, int y) const
         if (button->isHidden())
             continue;
         const int width = widthOf(button);
+        if (m_held.contains(button)) {
+            // Out of sight, but not hidden: its access key goes on working.
+            button->setGeometry(-2 * width, 0, width, rowHeight());
+            continue;
+        }
         button->setGeometry(x, y, width, rowHeight());
         x += width + gap;
     }
 }
 
+/// In a low window the buttons take one row, and "More" has those of the left group that find no room in it.
+void ButtonRow::holdWhatHasNoRoom()
+{
+    m_held.clear();
+    m_more->hide();
+    if (m_low->isLow() && !fitsOneRow(width())) {
+        m_more->show();
+        for (qsizetype i = m_left.size() - 1; i >= 0 && !fitsOneRow(width()); --i) {
+            if (!m_left[i]->isHidden())
+                m_held.prepend(m_left[i]);
+        }
+    }
+    for (QPushButton *button : std::as_const(m_left))
+        button->setFocusPolicy(m_held.contains(button) ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+void ButtonRow::openMore()
+{
+    QList<QAction *> actions;
+    for (QPushButton *button : std::as_const(m_held)) {
+        QAction *action = makeAction(button->objectName() + u"_more"_s, button->text(), m_more);
+        action->setEnabled(button->isEnabled());
+        action->setToolTip(button->toolTip());
+        connect(action, &QAction::triggered, button, &QPushButton::click);
+        actions << action;
+    }
+    QMenu *menu = MoreButton::openMenu(m_more, actions);
+    for (QAction *action : std::as_const(actions))
+        action->setParent(menu);
+}
+
 void ButtonRow::rearrange()
 {
+    holdWhatHasNoRoom();
     const int height = rowHeight();
-    const bool oneRow = fitsOneRow(width());
-    place(m_left, 0, 0);
+    const bool oneRow = m_low->isLow() || fitsOneRow(width());
+    place(m_left + QVector{m_more}, 0, 0);
     const bool haveRoom = haveWordsRoom();
     m_words->setText(haveRoom ? m_text : QString());
     m_words->setGeometry(behindLeft(), 0, m_words->sizeHint().width(), height);

@@ -3,11 +3,13 @@
 
 #include <QWidget>
 
+class LowWindow;
 class QLabel;
 class QPushButton;
 
 /// The row of buttons in a panel's foot: rare or dangerous ones at the left with a few quiet words behind
-/// them, the rest at the right. Where they do not fit side by side, the right group takes a second row.
+/// them, the rest at the right. Where they do not fit side by side, the right group takes a second row; in a
+/// low window a button "More" takes the place of those at the left that have no room.
 class ButtonRow final : public QWidget
 {
     Q_OBJECT
@@ -38,14 +40,20 @@ protected:
 private:
     void add(QPushButton *button, QVector<QPushButton *> &group);
     int groupWidth(const QVector<QPushButton *> &group) const;
+    int leftWidth() const;
     int behindLeft() const;
     bool haveWordsRoom() const;
     bool fitsOneRow(int width) const;
     int rowHeight() const;
+    void holdWhatHasNoRoom();
+    void openMore();
     void place(const QVector<QPushButton *> &group, int x, int y) const;
 
     QVector<QPushButton *> m_left;
     QVector<QPushButton *> m_right;
+    QVector<QPushButton *> m_held; ///< by "More"
     QLabel *m_words;
+    LowWindow *m_low;
+    QPushButton *m_more;
     QString m_text;
 };

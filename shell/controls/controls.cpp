@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/controls.h"
 
+#include "shell/controls/scrollpart.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"
 #include "storage/ansitext.h"
@@ -9,7 +10,6 @@
 #include <QEvent>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QScrollArea>
 #include <QStyle>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -297,14 +297,7 @@ QWidget *makeLine(QWidget *parent)
 
 QScrollArea *makeScrolling(QWidget *content, const QString &name, QWidget *parent)
 {
-    auto *scroll = named(new QScrollArea(parent), name);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content);
-    content->setAutoFillBackground(false);
-    scroll->viewport()->setAutoFillBackground(false);
-    return scroll;
+    return named(new ScrollPart(content, parent), name);
 }
 
 void setUnavailable(QWidget *control, const QString &reason)

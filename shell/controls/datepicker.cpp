@@ -175,6 +175,10 @@ bool DatePicker::eventFilter(QObject *watched, QEvent *event)
     }
     if (isVisible() && watched == parentWidget() && event->type() == QEvent::Resize)
         reposition();
+    // What the box stands on is scrolled.
+    if (isVisible() && event->type() == QEvent::Move && watched->isWidgetType() &&
+        static_cast<QWidget *>(watched)->isAncestorOf(m_box))
+        reposition();
     if (const auto found = std::find(m_boxes.cbegin(), m_boxes.cend(), watched); found != m_boxes.cend())
         return boxEvent(*found, event);
     if (watched->isWidgetType() && isAncestorOf(static_cast<QWidget *>(watched))) {

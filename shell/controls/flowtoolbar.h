@@ -4,11 +4,14 @@
 #include <QHash>
 #include <QWidget>
 
+class LowWindow;
+class MoreButton;
 class QToolButton;
+class ToolRows;
 
-/// A toolbar that hides nothing: what does not fit in one row goes to the next. Its actions become tool
-/// buttons in the order in which they were added, named after their action with "_button" behind. A bar takes
-/// no focus by a click.
+/// A toolbar that hides nothing: what does not fit in one row goes to the next, or in a low window into the
+/// menu of a button "More". Its actions become tool buttons in the order in which they were added, named
+/// after their action with "_button" behind. A bar takes no focus by a click.
 class FlowToolBar : public QWidget
 {
     Q_OBJECT
@@ -32,18 +35,20 @@ public:
 
 protected:
     void actionEvent(QActionEvent *event) override;
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    class Layout;
-
     QWidget *makeItem(QAction *action);
     void styleButton(QToolButton &button) const;
+    void fit();
 
     Qt::Orientation m_orientation;
     Qt::ToolButtonStyle m_style = Qt::ToolButtonTextBesideIcon;
     int m_iconSize = 20;
-    Layout *m_layout;
+    ToolRows *m_layout;
+    LowWindow *m_low = nullptr; ///< of a horizontal bar
+    MoreButton *m_more = nullptr;
     QHash<const QAction *, QToolButton *> m_buttons;
     QHash<const QAction *, QWidget *> m_items; ///< buttons and separators
 };

@@ -3,6 +3,7 @@
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/workscroll.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/windowplace.h"
@@ -173,13 +174,13 @@ PreviewPane &FunctionWindow::preview()
 
 void FunctionWindow::setWork(QWidget *work)
 {
-    m_workPlace->addWidget(work);
+    m_workPlace->addWidget(new WorkScroll(work));
 }
 
 void FunctionWindow::setWork(SideSplitter *splitter)
 {
     m_sideSplitter = splitter;
-    setWork(static_cast<QWidget *>(splitter));
+    m_workPlace->addWidget(splitter);
 }
 
 void FunctionWindow::setViews(WorkViews *views)
@@ -264,13 +265,6 @@ void FunctionWindow::keyPressEvent(QKeyEvent *event)
     } else {
         QMainWindow::keyPressEvent(event);
     }
-}
-
-void FunctionWindow::showEvent(QShowEvent *event)
-{
-    QMainWindow::showEvent(event);
-    if (!std::exchange(m_wasShown, true))
-        WindowPlace::fitScreenWhenFramed(*this);
 }
 
 bool FunctionWindow::leaveView()

@@ -120,7 +120,6 @@ protected:
 
     void closeEvent(QCloseEvent *event) final;
     void keyPressEvent(QKeyEvent *event) final;
-    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
     /// A long walk is under way: the window does not close, and neither menus nor toolbar nor side pane can
@@ -155,5 +154,4 @@ private:
     FileStamp m_seen;
     bool m_busy = false;
     std::optional<Leaving> m_leaving; ///< the answers, between the questions and the leaving
-    bool m_wasShown = false;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frame/narrowtoolbar.h"
 
+#include "shell/controls/lowwindow.h"
+
 #include <QAction>
 #include <QResizeEvent>
 #include <QWidget>
@@ -24,14 +26,15 @@ void NarrowToolbar::shorten(QAction *tool, const QString &word)
 bool NarrowToolbar::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Resize)
-        fit(static_cast<const QResizeEvent *>(event)->size().width() >= wideFrom);
+        fit(static_cast<const QResizeEvent *>(event)->size());
     return QObject::eventFilter(watched, event);
 }
 
-void NarrowToolbar::fit(bool isWide) const
+void NarrowToolbar::fit(QSize window) const
 {
+    const bool isWide = window.width() >= wideFrom;
     for (QAction *tool : m_leftOut)
-        tool->setVisible(isWide);
+        tool->setVisible(isWide || window.height() < LowWindow::below); // "More" has it then
     for (const Word &word : m_words)
         word.tool->setIconText(isWide ? word.wide : word.narrow);
 }

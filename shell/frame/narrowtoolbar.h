@@ -7,10 +7,11 @@
 #include <vector>
 
 class QAction;
+class QSize;
 class QWidget;
 
 /// Keeps the toolbar of a window to one row while the window is narrow, so that the work keeps its height:
-/// some tools are left out then, others bear a shorter word.
+/// some tools are left out then, others bear a shorter word. A low window leaves none out.
 class NarrowToolbar final : public QObject
 {
     Q_OBJECT
@@ -35,7 +36,7 @@ private:
         QString narrow;
     };
 
-    void fit(bool isWide) const;
+    void fit(QSize window) const;
 
     std::vector<QAction *> m_leftOut;
     std::vector<Word> m_words;

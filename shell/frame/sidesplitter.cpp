@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frame/sidesplitter.h"
 
+#include "shell/controls/workscroll.h"
+
 #include <QSettings>
 
 #include <algorithm>
@@ -18,7 +20,7 @@ SideSplitter::SideSplitter(const QString &name, QWidget *side, QWidget *work, Su
 {
     setObjectName(name);
     addWidget(side);
-    addWidget(work);
+    addWidget(new WorkScroll(work));
     setStretchFactor(1, 1);
     setHandleWidth(gap);
     setChildrenCollapsible(false);

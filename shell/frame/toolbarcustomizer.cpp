@@ -6,6 +6,7 @@
 #include "shell/core/framelines.h"
 #include "shell/core/shellmessages.h"
 #include "shell/frame/toolbarlayout.h"
+#include "shell/frame/windowplace.h"
 #include "shell/look/theme.h"
 
 #include <QAction>
@@ -13,19 +14,26 @@
 #include <QLabel>
 #include <QListWidget>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int nameRole = Qt::UserRole;
 constexpr int iconSize = 20;
+constexpr int usualRows = 12;
+constexpr int leastRows = 4;
+constexpr int roomAroundList = 200;
 
 QListWidget *makeList(const QString &name, QWidget *parent)
 {
     auto *list = named(new QListWidget(parent), name);
     setListRows(list);
     list->setIconSize(QSize(iconSize, iconSize));
-    list->setMinimumSize(250, 12 * ListRowDelegate::rowHeight() + 8);
+    const int row = ListRowDelegate::rowHeight();
+    const int rows = (WindowPlace::room(*parent).height() - roomAroundList) / row;
+    list->setMinimumSize(250, std::clamp(rows, leastRows, usualRows) * row + 8);
     return list;
 }
 

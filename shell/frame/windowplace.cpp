@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frame/windowplace.h"
 
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -13,7 +16,61 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QSize smallestSize(800, 600);
-constexpr int framingMilliseconds = 120;
+/// What a window manager adds at most, for windows that have no frame yet.
+constexpr QSize likelyFrame(16, 40);
+/// Window managers take their time to put the frame on, and nothing tells.
+constexpr int settlingMilliseconds = 2000;
+constexpr int framingMilliseconds[] = {0, 120, 500, settlingMilliseconds};
+
+/// Fits a window to its screen as long as it settles: when it was shown, left the whole screen, or when the
+/// screen has changed. Afterwards it stands where the user puts it.
+class ScreenKeeper final : public QObject
+{
+public:
+    explicit ScreenKeeper(QWidget &window)
+        : QObject(&window)
+        , m_window(window)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::Show:
+            connect(m_window.screen(), &QScreen::availableGeometryChanged, this, &ScreenKeeper::settle,
+                    Qt::UniqueConnection);
+            settle();
+            break;
+        case QEvent::WindowStateChange:
+            settle();
+            break;
+        case QEvent::Resize:
+        case QEvent::Move:
+            if (m_settling.isValid() && !m_settling.hasExpired(settlingMilliseconds))
+                fitIn(0);
+            break;
+        default:
+            break;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void settle()
+    {
+        m_settling.start();
+        for (const int milliseconds : framingMilliseconds)
+            fitIn(milliseconds);
+    }
+    void fitIn(int milliseconds)
+    {
+        QTimer::singleShot(milliseconds, this, [this] { WindowPlace::fitScreen(m_window); });
+    }
+
+    QWidget &m_window;
+    QElapsedTimer m_settling;
+};
 
 } // namespace
 
@@ -22,32 +79,42 @@ bool WindowPlace::hasScreen()
     return QGuiApplication::platformName() != "offscreen"_L1;
 }
 
+QSize WindowPlace::room(const QWidget &window)
+{
+    const QSize screen = window.screen()->availableSize();
+    return hasScreen() ? screen - likelyFrame : screen;
+}
+
 void WindowPlace::open(QWidget &window, QSize openingSize, const QByteArray &stored)
 {
-    const QSize available = window.screen()->availableSize();
-    window.setMinimumSize(smallestSize.boundedTo(available));
-    window.resize(openingSize.boundedTo(available));
+    const QSize most = room(window);
+    window.setMinimumSize(smallestSize.boundedTo(most));
+    window.resize(openingSize.boundedTo(most));
     if (!window.restoreGeometry(stored))
         window.move(window.screen()->availableGeometry().center() - window.rect().center());
     fitScreen(window);
+    keepOnScreen(window);
 }
 
 void WindowPlace::fitScreen(QWidget &window)
 {
-    if (window.isMaximized() || window.isFullScreen())
+    if (window.windowState().testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized))
         return;
-    const QScreen *here = QGuiApplication::screenAt(window.frameGeometry().center());
-    const QRect room = (here ? here : window.screen())->availableGeometry();
-    const QSize frame = window.frameGeometry().size() - window.size();
-    window.resize(window.size().boundedTo(room.size() - frame));
-    const QRect outside = window.frameGeometry();
+    const QMargins frame = window.windowHandle() ? window.windowHandle()->frameMargins() : QMargins();
+    const QScreen *here = QGuiApplication::screenAt(window.geometry().center());
+    const QRect screen = (here ? here : window.screen())->availableGeometry();
+    const QSize most = screen.marginsRemoved(frame).size();
+    window.setMinimumSize(window.minimumSize().boundedTo(most));
+    window.resize(window.size().boundedTo(most));
+    const QRect outside = window.geometry().marginsAdded(frame);
     window.move(
-        std::clamp(outside.x(), room.left(), std::max(room.left(), room.right() + 1 - outside.width())),
-        std::clamp(outside.y(), room.top(), std::max(room.top(), room.bottom() + 1 - outside.height())));
+        std::clamp(outside.x(), screen.left(), std::max(screen.left(), screen.right() + 1 - outside.width())),
+        std::clamp(outside.y(), screen.top(),
+                   std::max(screen.top(), screen.bottom() + 1 - outside.height())));
 }
 
-void WindowPlace::fitScreenWhenFramed(QWidget &window)
+void WindowPlace::keepOnScreen(QWidget &window)
 {
     if (hasScreen())
-        QTimer::singleShot(framingMilliseconds, &window, [&window] { fitScreen(window); });
+        new ScreenKeeper(window);
 }

@@ -13,14 +13,18 @@ namespace WindowPlace {
 /// size.
 bool hasScreen();
 
+/// What the screen has room for within the frame of a window that is not shown yet.
+QSize room(const QWidget &window);
+
 /// Gives a window that is not shown yet its place: the one in `stored` (what `saveGeometry` gave), else
-/// `openingSize` in the middle of the screen. Nothing of it lies off the screen.
+/// `openingSize` in the middle of the screen. Nothing of it lies off the screen, then and when it is shown.
 void open(QWidget &window, QSize openingSize, const QByteArray &stored);
 
-/// Brings the window, with its frame, onto the screen where it stands.
+/// Brings the window, with its frame, onto the screen where it stands; it may become smaller than it should.
 void fitScreen(QWidget &window);
 
-/// Fits it once more when the window manager has put its frame around it, which nothing tells.
-void fitScreenWhenFramed(QWidget &window);
+/// Fits the window whenever it is shown, until its window manager has put its frame around it, and when the
+/// screen changes.
+void keepOnScreen(QWidget &window);
 
 } // namespace WindowPlace

@@ -6,7 +6,10 @@
 WorkViews::WorkViews(QWidget *parent)
     : QStackedWidget(parent)
 {
-    connect(this, &QStackedWidget::currentChanged, this, [this] { emit changed(currentWidget()); });
+    connect(this, &QStackedWidget::currentChanged, this, [this] {
+        updateGeometry();
+        emit changed(currentWidget());
+    });
 }
 
 void WorkViews::addHome(QWidget *home)
@@ -70,4 +73,10 @@ bool WorkViews::leave()
     else
         goHome();
     return true;
+}
+
+QSize WorkViews::minimumSizeHint() const
+{
+    const QSize least = QStackedWidget::minimumSizeHint();
+    return currentWidget() ? QSize(least.width(), currentWidget()->minimumSizeHint().height()) : least;
 }

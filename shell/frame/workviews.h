@@ -35,6 +35,9 @@ public:
     /// does.
     bool leave();
 
+    /// As high as the view in front must be: where the work scrolls, it is no longer than that.
+    QSize minimumSizeHint() const override;
+
 signals:
     void changed(QWidget *view);
 

@@ -32,6 +32,7 @@ DisplayMode::DisplayMode(Program &program, QWidget *window, QAction *fullScreen,
 
 void DisplayMode::load()
 {
+    WindowPlace::keepOnScreen(*m_window);
     const QScopedValueRollback switching(m_switching, true);
     const bool smaller = m_program.settings.text(SettingsKeys::smallerScreen) == "Yes"_L1;
     setMode(smaller ? ScreenMode::Smaller : ScreenMode::FullScreen);
@@ -122,5 +123,5 @@ QSize DisplayMode::rememberedSize() const
     const QSize twips(m_program.settings.number(SettingsKeys::windowWidth),
                       m_program.settings.number(SettingsKeys::windowHeight));
     const QSize size = twips.expandedTo(HINFO1::minimumTwips) / HINFO1::twipsPerPixel;
-    return WindowPlace::hasScreen() ? size.boundedTo(m_window->screen()->availableSize()) : size;
+    return WindowPlace::hasScreen() ? size.boundedTo(WindowPlace::room(*m_window)) : size;
 }

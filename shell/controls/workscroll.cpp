@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/controls/workscroll.h"
+
+#include "shell/controls/lowwindow.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int leastHeight = 100;
+constexpr int roomAroundFocus = 12;
+
+} // namespace
+
+WorkScroll::WorkScroll(QWidget *work, QWidget *parent)
+    : QScrollArea(parent)
+    , m_low(new LowWindow(this))
+{
+    setObjectName(u"workScroll"_s);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins({});
+    layout->addWidget(work);
+    setWidget(content);
+    setFocusProxy(work->focusProxy());
+    content->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+    connect(m_low, &LowWindow::changed, this, &WorkScroll::fit);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { follow(now); });
+}
+
+QSize WorkScroll::sizeHint() const
+{
+    return widget()->sizeHint();
+}
+
+QSize WorkScroll::minimumSizeHint() const
+{
+    const QSize least = widget()->minimumSizeHint();
+    return {least.width(), std::min(least.height(), leastHeight)};
+}
+
+bool WorkScroll::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+        fit();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void WorkScroll::resizeEvent(QResizeEvent *event)
+{
+    fit();
+    QScrollArea::resizeEvent(event);
+}
+
+void WorkScroll::fit()
+{
+    const QSize whole = maximumViewportSize();
+    const int least = m_low->isLow() ? widget()->layout()->totalMinimumSize().height() : 0;
+    const int bar = least > whole.height() ? verticalScrollBar()->sizeHint().width() : 0;
+    widget()->resize(whole.width() - bar, std::max(whole.height(), least));
+}
+
+/// What is clicked is in sight, and stays where the mouse is.
+void WorkScroll::follow(QWidget *focused)
+{
+    if (focused && widget()->isAncestorOf(focused) && QGuiApplication::mouseButtons() == Qt::NoButton)
+        ensureWidgetVisible(focused, 0, roomAroundFocus);
+}

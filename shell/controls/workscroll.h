@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QScrollArea>
+
+class LowWindow;
+
+/// The work of a window. In a low window it scrolls as a whole, with what scrolls within it elsewhere, and
+/// follows the focus; anywhere else it has the height that there is.
+class WorkScroll final : public QScrollArea
+{
+    Q_OBJECT
+public:
+    explicit WorkScroll(QWidget *work, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    /// As wide as the work must be: it never scrolls sideways.
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void fit();
+    void follow(QWidget *focused);
+
+    LowWindow *m_low;
+};

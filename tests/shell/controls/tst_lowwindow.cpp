@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/flowtoolbar.h"
+#include "shell/controls/lowwindow.h"
+#include "shell/controls/workscroll.h"
+#include "shell/look/theme.h"
+#include "tests/support/rows.h"
+#include "tests/support/testprogram.h"
+
+#include <QMainWindow>
+#include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A window with ten tools, and a form of twenty boxes over four buttons.
+struct Sample {
+    explicit Sample(int height);
+
+    int moreTools();
+
+    QMainWindow window;
+    FlowToolBar *bar = new FlowToolBar(Qt::Horizontal);
+    ButtonRow *buttons = new ButtonRow;
+    QLineEdit *lastBox = nullptr;
+    QScrollArea *form = nullptr;
+    QWidget *work = new QWidget;
+    int clicked = 0;
+};
+
+Sample::Sample(int height)
+{
+    for (int i = 0; i < 10; ++i)
+        bar->addAction(makeAction(u"tool%1"_s.arg(i), u"A long word %1"_s.arg(i), bar));
+    for (int i = 0; i < 4; ++i)
+        buttons->addLeft(makeButton(u"left%1"_s.arg(i), u"A rare button %1"_s.arg(i), buttons));
+    buttons->addRight(makeButton(u"right"_s, u"A usual button"_s, buttons));
+    QObject::connect(buttons->findChild<QPushButton *>(u"left3"_s), &QPushButton::clicked, buttons,
+                     [this] { ++clicked; });
+    auto *boxes = new QWidget;
+    auto *rows = new QVBoxLayout(boxes);
+    for (int i = 0; i < 20; ++i)
+        rows->addWidget(lastBox = new QLineEdit(boxes));
+    form = makeScrolling(boxes, u"form"_s, work);
+    auto *panel = new QVBoxLayout(work);
+    panel->addWidget(form);
+    panel->addWidget(buttons);
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
+    column->addWidget(bar);
+    column->addWidget(new WorkScroll(work), 1);
+    window.setCentralWidget(content);
+    window.setMinimumSize(400, 300);
+    window.resize(640, height);
+    showActive(window);
+}
+
+/// What the menu of the toolbar's "More" offers.
+int Sample::moreTools()
+{
+    auto *more = control<QToolButton>(window, "more");
+    if (!more->isVisible())
+        return 0;
+    more->click();
+    auto *menu = control<QMenu>(window, "moreMenu");
+    const auto count = int(menu->actions().size());
+    delete menu;
+    return count;
+}
+
+} // namespace
+
+class TestLowWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Theme::apply(*qApp); }
+    void hasOneRowEachAndScrollsAsAWhole_data();
+    void hasOneRowEachAndScrollsAsAWhole();
+    void pressesWhatMoreHolds();
+};
+
+void TestLowWindow::hasOneRowEachAndScrollsAsAWhole_data()
+{
+    rows<int, bool>({{"high", LowWindow::below, false}, {"low", LowWindow::below - 1, true}});
+}
+
+void TestLowWindow::hasOneRowEachAndScrollsAsAWhole()
+{
+    const auto [height, isLow] = row<int, bool>();
+    Sample sample(height);
+    const int row = control<QToolButton>(sample.window, "tool0_button")->height();
+    QTRY_COMPARE(sample.bar->height() < 2 * row, isLow);
+    int shown = 0;
+    for (const QAction *tool : sample.bar->actions())
+        shown += sample.bar->button(tool)->isVisible();
+    QCOMPARE(shown + sample.moreTools(), 10);
+    QCOMPARE(shown < 10, isLow);
+
+    const int button = control<QPushButton>(sample.window, "right")->height();
+    QTRY_COMPARE(sample.buttons->height() < 2 * button, isLow);
+    QCOMPARE(control<QPushButton>(sample.window, "moreButtons")->isVisible(), isLow);
+
+    // One of the two scrolls, never both.
+    auto *whole = control<QScrollArea>(sample.window, "workScroll");
+    QTRY_COMPARE(whole->verticalScrollBar()->maximum() > 0, isLow);
+    QTRY_COMPARE(sample.form->verticalScrollBar()->maximum() > 0, !isLow);
+    sample.lastBox->setFocus();
+    const auto inSight = [&] { return !sample.lastBox->visibleRegion().isEmpty(); };
+    QCOMPARE(inSight(), isLow);
+}
+
+void TestLowWindow::pressesWhatMoreHolds()
+{
+    Sample sample(LowWindow::below - 1);
+    auto *held = control<QPushButton>(sample.window, "left3");
+    QTRY_COMPARE(held->focusPolicy(), Qt::NoFocus);
+    control<QPushButton>(sample.window, "moreButtons")->click();
+    auto *menu = control<QMenu>(sample.window, "moreMenu");
+    QCOMPARE(menu->actions().last()->text(), held->text());
+    menu->actions().last()->trigger();
+    QCOMPARE(sample.clicked, 1);
+    sample.window.resize(1600, LowWindow::below - 1);
+    QTRY_COMPARE(held->focusPolicy(), Qt::StrongFocus);
+    QVERIFY(!control<QPushButton>(sample.window, "moreButtons")->isVisible());
+}
+
+QTEST_MAIN(TestLowWindow)
+#include "tst_lowwindow.moc"
