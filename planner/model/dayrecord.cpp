@@ -33,7 +33,7 @@ int number(QDate date)
 
 QByteArrayView ofNumber(QByteArrayView year, int number)
 {
-    const qsizetype offset = qsizetype(number - 1) * length;
+    const qsizetype offset = (qsizetype(number) - 1) * length;
     if (number < 1 || offset >= year.size())
         return {};
     return year.sliced(offset, std::min<qsizetype>(length, year.size() - offset));
