@@ -60,6 +60,16 @@ bool Disk::writeAt(QFile &file, qint64 offset, QByteArrayView bytes)
     return said(isWritten && !isTorn, "write", file);
 }
 
+bool Disk::replaceAt(QFile &file, qint64 offset, QByteArrayView bytes, QByteArrayView former, bool andFlush)
+{
+    const qint64 size = file.size();
+    if (writeAt(file, offset, bytes) && (!andFlush || flush(file)))
+        return true;
+    if (!writeAt(file, offset, former) || !file.resize(size))
+        qCWarning(storageLog).noquote() << "Torn at" << offset << "bytes:" << file.fileName();
+    return false;
+}
+
 bool Disk::remove(const QString &path)
 {
     QFile file(path);

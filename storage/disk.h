@@ -14,6 +14,12 @@ namespace Disk {
 /// Writes `bytes` to the open file, from `offset` on. False when only a part of them, or nothing, got there.
 [[nodiscard]] bool writeAt(QFile &file, qint64 offset, QByteArrayView bytes);
 
+/// Puts `bytes` in the place of `former`, the bytes that the file has from `offset` on, as many or fewer at
+/// its end, and flushes them when asked to. False when that fails: then the file is as it was, since half a
+/// record is worse than none; where even that fails, the log says that it is torn.
+[[nodiscard]] bool replaceAt(QFile &file, qint64 offset, QByteArrayView bytes, QByteArrayView former,
+                             bool andFlush);
+
 /// Puts what was written to `file` on the disk.
 [[nodiscard]] bool flush(QFile &file);
 

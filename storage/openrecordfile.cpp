@@ -4,6 +4,9 @@
 #include "storage/disk.h"
 #include "storage/log.h"
 
+#include <algorithm>
+#include <utility>
+
 OpenRecordFile::OpenRecordFile(const QString &path, qsizetype recordLength)
     : m_file(path)
     , m_recordLength(recordLength)
@@ -22,25 +25,26 @@ bool OpenRecordFile::seek(int number)
 QByteArrayView OpenRecordFile::read(int number)
 {
     m_hasFailed = !m_file.isOpen() && m_file.exists();
+    m_readNumber = 0;
     if (!seek(number))
         return {};
     const qint64 count = m_file.read(m_record.data(), m_recordLength);
     m_hasFailed = count < 0;
-    return QByteArrayView(m_record).first(count > 0 ? qsizetype(count) : 0);
+    m_readNumber = m_hasFailed ? 0 : number;
+    m_readLength = count > 0 ? qsizetype(count) : 0;
+    return QByteArrayView(m_record).first(m_readLength);
 }
 
 bool OpenRecordFile::write(int number, QByteArrayView value)
 {
-    if (m_isWritable && value.size() <= m_recordLength && seek(number)) {
-        const qint64 offset = m_file.pos();
-        const qint64 size = m_file.size();
-        const QByteArray former = m_file.read(value.size());
+    if (m_isWritable && value.size() <= m_recordLength) {
+        const QByteArrayView known =
+            number == m_readNumber ? QByteArrayView(m_record).first(m_readLength) : read(number);
+        const QByteArray former = known.first(std::min(known.size(), value.size())).toByteArray();
+        const bool isRead = number == std::exchange(m_readNumber, 0);
         m_isFlushed = false;
-        if (Disk::writeAt(m_file, offset, value))
+        if (isRead && Disk::replaceAt(m_file, (qint64(number) - 1) * m_recordLength, value, former, false))
             return true;
-        // Half a record is worse than none.
-        if (!Disk::writeAt(m_file, offset, former) || !m_file.resize(size))
-            qCWarning(storageLog).noquote() << "Record" << number << "of" << m_file.fileName() << "is torn";
     }
     qCWarning(storageLog).noquote() << "Cannot write record" << number << "of" << m_file.fileName() << '-'
                                     << m_file.errorString();

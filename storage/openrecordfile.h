@@ -30,6 +30,8 @@ private:
     QFile m_file;
     qsizetype m_recordLength;
     QByteArray m_record;
+    int m_readNumber = 0; ///< the record whose bytes `m_record` begins with; 0: none
+    qsizetype m_readLength = 0;
     bool m_isWritable = false;
     bool m_hasFailed = false;
     bool m_isFlushed = true;

@@ -75,15 +75,11 @@ bool RecordFile::write(int number, QByteArrayView value)
     QFile file(m_path);
     const bool isOpen = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
     const qint64 offset = qint64(number - 1) * m_recordLength;
-    const qint64 size = file.size();
     const QByteArray former = isOpen && file.seek(offset) ? file.read(value.size()) : QByteArray();
-    if (isOpen && Disk::writeAt(file, offset, value) && Disk::flush(file))
+    if (isOpen && Disk::replaceAt(file, offset, value, former, true))
         return true;
     qCWarning(storageLog).noquote() << "Cannot write record" << number << "of" << m_path << '-'
                                     << file.errorString();
-    // Half a record is worse than none.
-    if (isOpen && !(Disk::writeAt(file, offset, former) && file.resize(size)))
-        qCWarning(storageLog).noquote() << "Record" << number << "of" << m_path << "is torn";
     return false;
 }
 
