@@ -216,7 +216,8 @@ bool ChangeSet::restore(const std::vector<Former> &formers)
 
 bool ChangeSet::removeJournal(const DataFolder &folder)
 {
-    if (!Disk::remove(journalPath(folder)))
+    // Emptied it counts for nothing: left whole, it would undo what is written to the same places later.
+    if (!Disk::remove(journalPath(folder)) && !Disk::writeWhole(journalPath(folder), {}))
         return false;
     Disk::flushNames(folder.path());
     return true;

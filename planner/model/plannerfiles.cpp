@@ -3,6 +3,7 @@
 
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannerdates.h"
+#include "storage/changeset.h"
 #include "storage/log.h"
 #include "storage/recordfile.h"
 
@@ -65,8 +66,10 @@ bool PlannerFiles::write(QDate date, const PlannerDay &day)
         return false;
     PlannerDay saved = day;
     saved.mark = PlannerDay::savedMark;
-    RecordFile file(yearFilePath(date.year()), DayRecord::length);
-    return file.write(DayRecord::number(date), plannerDayLayout.encode(saved));
+    ChangeSet change(m_folder);
+    change.write(RecordFile(yearFilePath(date.year()), DayRecord::length), DayRecord::number(date),
+                 plannerDayLayout.encode(saved));
+    return change.commit();
 }
 
 QByteArray PlannerFiles::yearBytes(int year) const

@@ -14,8 +14,9 @@ QString Settings::text(const TextSetting &setting) const
 
 bool Settings::setText(const TextSetting &setting, const QString &text)
 {
-    const auto bytes = RecordValue::encodeText(text, setting.file.recordLength);
-    return bytes && open(setting.file).write(setting.record, *bytes);
+    SettingsChange change(*this);
+    change.setText(setting, text);
+    return change.commit();
 }
 
 int Settings::number(const NumberSetting &setting) const
@@ -25,8 +26,9 @@ int Settings::number(const NumberSetting &setting) const
 
 bool Settings::setNumber(const NumberSetting &setting, int number)
 {
-    const auto clamped = RecordValue::clampedNumber(number);
-    return open(setting.file).write(setting.record, RecordValue::encodeNumber(clamped));
+    SettingsChange change(*this);
+    change.setNumber(setting, number);
+    return change.commit();
 }
 
 QString Settings::tagged(const TaggedSetting &setting) const
@@ -37,7 +39,11 @@ QString Settings::tagged(const TaggedSetting &setting) const
 bool Settings::setTagged(const TaggedSetting &setting, const QString &text)
 {
     const auto bytes = RecordValue::encodeTaggedText(text, setting.file.recordLength);
-    return bytes && open(setting.file).write(setting.record, *bytes);
+    if (!bytes)
+        return false;
+    ChangeSet change(m_folder);
+    change.write(open(setting.file), setting.record, *bytes);
+    return change.commit();
 }
 
 RecordFile Settings::open(const SettingsFile &file) const
