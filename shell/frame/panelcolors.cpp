@@ -133,11 +133,9 @@ bool PanelColors::save()
         change.setText(m_settings.panel, panel);
     if (textChanged && m_settings.text)
         change.setText(*m_settings.text, m_text ? ColorText::encode(*m_text) : ColorText::defaultText());
-    bool isSaved = change.commit();
-    if (panelChanged) {
-        QString pending = panel;
-        isSaved = HINFO1::updateProgramColors(m_program, m_window, pending, 0) && isSaved;
-    }
+    QString pending = panel;
+    const bool isSaved =
+        panelChanged ? HINFO1::updateProgramColors(m_program, m_window, pending, 0, change) : change.commit();
     if (!isSaved)
         m_activity.say(FrameLines::settingNotSaved());
     return isSaved;

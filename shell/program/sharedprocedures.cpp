@@ -86,20 +86,25 @@ void HINFO1::pauseOneSecond(const Program &program)
 
 bool HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder)
 {
+    return updateProgramColors(program, parent, pending, answerHolder, SettingsChange(program.settings));
+}
+
+bool HINFO1::updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder,
+                                 SettingsChange along)
+{
     if (answerHolder != updateWithoutAsking &&
         program.dialogs.ask(parent, ShellMessages::updateWholeProgram()) != Answer::Yes)
         pending.clear();
     const QString text = pending.trimmed();
     pending.clear();
     if (text.isEmpty() || text.size() > ColorText::maximumLength)
-        return true;
-    SettingsChange change(program.settings);
-    setAll(change, SettingsKeys::colorFile1, SettingsKeys::programColors1, text);
-    setAll(change, SettingsKeys::colorFile2, SettingsKeys::programColors2, text);
-    setAll(change, SettingsKeys::colorFile3, SettingsKeys::programColors3, text);
+        return along.commit();
+    setAll(along, SettingsKeys::colorFile1, SettingsKeys::programColors1, text);
+    setAll(along, SettingsKeys::colorFile2, SettingsKeys::programColors2, text);
+    setAll(along, SettingsKeys::colorFile3, SettingsKeys::programColors3, text);
     for (const TextSetting &windowColor : SettingsKeys::windowColors)
-        change.setText(windowColor, text);
-    const bool isWritten = change.commit();
+        along.setText(windowColor, text);
+    const bool isWritten = along.commit();
     emit program.changes.panelColorsChanged(text);
     return isWritten;
 }

@@ -5,6 +5,7 @@
 #include <QString>
 
 class QWidget;
+class SettingsChange;
 struct Program;
 
 /// Procedures that every window calls.
@@ -31,8 +32,10 @@ inline constexpr int updateWithoutAsking = 9786;
 
 /// Writes `pending` (the decimal text of a colour) to every program-wide colour record and to the windows'
 /// own ones. Asks first unless `answerHolder` holds `updateWithoutAsking`; any answer but Yes, or an empty
-/// text, writes nothing. Clears `pending`. False when nothing could be written: the colour holds for this
-/// run.
+/// text, writes none of them. Clears `pending`. False when nothing could be written: the colour holds for
+/// this run. What `along` changes is written with them, and where nothing else is written too.
+[[nodiscard]] bool updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder,
+                                       SettingsChange along);
 [[nodiscard]] bool updateProgramColors(Program &program, QWidget *parent, QString &pending, int answerHolder);
 
 /// Writes display mode and, for a smaller-screen window, its size: `size` is in pixels at 15 twips each,
