@@ -1,0 +1,367 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/functions.h"
+#include "planner/model/dayrecord.h"
+#include "planner/model/plannerday.h"
+#include "shell/access/passwordcheck.h"
+#include "shell/access/passwordcontrol.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/controls.h"
+#include "shell/mainmenu/mainmenuwindow.h"
+#include "storage/changeset.h"
+#include "storage/saving.h"
+#include "tests/support/failingdisk.h"
+#include "tests/support/rows.h"
+#include "tests/support/testprogram.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QDir>
+#include <QListView>
+#include <QLoggingCategory>
+#include <QMenuBar>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Files = QMap<QString, QByteArray>;
+
+/// "Sesame", with the address book guarded; made once, since each password has a salt of its own.
+const QByteArray &guardedFile()
+{
+    static const QByteArray bytes = [] {
+        const TestProgram test;
+        PasswordCheck file(test.folder, PasswordCost::minimum());
+        ProtectedAreas areas;
+        areas.setFlag(Area::AddressBook, u"YES"_s);
+        if (!file.setPassword(u"Sesame"_s) || !file.saveAreas(areas))
+            qFatal("no password file");
+        return test.bytes(u"PCtrl1.Fil"_s);
+    }();
+    return bytes;
+}
+
+/// A window on a folder of its own, and the hands that work it.
+class Desk
+{
+public:
+    explicit Desk(TestProgram::Content content)
+        : test(content)
+    {
+        addFunctions(test.functions, test.clock);
+        test.setBytes(u"PCtrl1.Fil"_s, guardedFile());
+        test.setBytes(u"TODOActv.FIL"_s, "\"Paint\",\"12/01/2026\",\"\"\r\n\"Call\",\"01/21/2027\",\"\"\r\n");
+    }
+    ~Desk() { delete window; } // without its questions
+    Q_DISABLE_COPY_MOVE(Desk)
+
+    void show(QWidget *shown)
+    {
+        window = shown;
+        showActive(*window);
+    }
+    void open(Function function) { show(test.functions.open(function, test.program)); }
+    void openPasswordControl() { show(new Form31(test.program, PasswordCost::minimum(), 1ms)); }
+    void openMainMenu() { show(new Startfrm(test.program)); }
+
+    template <typename T>
+    T *find(const char *name) const
+    {
+        return control<T>(*window, name);
+    }
+    void click(const char *name) const { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
+    void trigger(const char *name) const { find<QAction>(name)->trigger(); }
+    void answer(Answer answer) { test.dialogs.willAnswer(answer); }
+    void type(const char *box, const QString &text) const
+    {
+        find<QLineEdit>(box)->setFocus();
+        find<QLineEdit>(box)->selectAll();
+        QTest::keyClicks(find<QLineEdit>(box), text);
+    }
+    void selectName(int row) const
+    {
+        auto *list = find<QListView>("List1");
+        list->setCurrentIndex(list->model()->index(row, 0));
+    }
+    /// Waits for the end of a walk over many days.
+    void finish() const { QTRY_VERIFY(window->findChild<QMenuBar *>()->isEnabled()); }
+
+    /// What the folder holds, but for a journal that has done its work and files that are empty as yet.
+    Files files() const
+    {
+        Files files;
+        for (const QString &name : QDir(test.folder.path()).entryList(QDir::Files))
+            if (const QByteArray bytes = test.bytes(name); !bytes.isEmpty())
+                files.insert(name, bytes);
+        files.remove(ChangeSet::journalName);
+        return files;
+    }
+    /// All that the person has been told since the last time.
+    QStringList told()
+    {
+        QStringList texts;
+        for (const Message &message : test.dialogs.takeShown())
+            texts << message.text;
+        if (window)
+            texts << window->findChild<ActivityBar *>()->message();
+        for (const QLabel *refusal :
+             window ? window->findChildren<QLabel *>(u"refusal"_s) : QList<QLabel *>())
+            texts << refusal->text();
+        return texts;
+    }
+
+    TestProgram test;
+    QPointer<QWidget> window;
+};
+
+/// What a person does to be able to save, and how it is saved.
+struct Save {
+    enum Kind {
+        Record,
+        Setting, ///< holds in the window, saved or not
+        Walk     ///< each day is saved by itself
+    };
+    void (*prepare)(Desk &);
+    void (*press)(Desk &);
+    Kind kind = Record;
+};
+
+/// Each day of the planner's files is as in one or the other; nothing stands between the days.
+bool isMixedByDay(const Files &now, const Files &before, const Files &after)
+{
+    const auto day = [](const Files &files, const QString &name, int record) {
+        return DayRecord::ofNumber(files.value(name), record).toByteArray().left(plannerDayLayout.size());
+    };
+    for (const QString &name : after.keys()) {
+        for (int record = 1; record <= DayRecord::last; ++record) {
+            const QByteArray bytes = day(now, name, record);
+            if (bytes != day(after, name, record) && bytes != day(before, name, record))
+                return false;
+        }
+    }
+    return true;
+}
+
+const Save newEntry{[](Desk &desk) {
+                        desk.open(Function::AddressBook);
+                        desk.click("Command6");
+                        desk.type("Text1_0", u"Zorn"_s);
+                    },
+                    [](Desk &desk) { desk.click("Command1"); }};
+
+const Save changedName{[](Desk &desk) {
+                           desk.open(Function::AddressBook);
+                           desk.selectName(2);
+                           desk.click("Command4");
+                           desk.type("Text1_0", u"Zorn"_s);
+                       },
+                       [](Desk &desk) { desk.click("Command4"); }};
+
+const Save deletedEntry{[](Desk &desk) {
+                            desk.open(Function::AddressBook);
+                            desk.selectName(2);
+                        },
+                        [](Desk &desk) {
+                            desk.answer(Answer::Yes);
+                            desk.click("Command3");
+                        }};
+
+const Save savedDay{[](Desk &desk) {
+                        desk.open(Function::Planner);
+                        desk.type("Text2_13", u"Ferns"_s);
+                    },
+                    [](Desk &desk) { desk.click("saveDay"); }};
+
+const Save recurrence{[](Desk &desk) {
+                          desk.open(Function::Planner);
+                          desk.type("Text2_0", u"Yoga"_s);
+                          desk.click("saveDay");
+                          desk.find<QLineEdit>("Text2_0")->setFocus();
+                          desk.trigger("mERec");
+                          QTest::mouseClick(desk.find<QRadioButton>("kind_0"), Qt::LeftButton, {}, {10, 8});
+                          desk.type("endDate", u"11/25/2026"_s);
+                      },
+                      [](Desk &desk) {
+                          desk.click("recurrenceOk");
+                          desk.finish();
+                      },
+                      Save::Walk};
+
+const Save importedToDos{[](Desk &desk) { desk.open(Function::Planner); },
+                         [](Desk &desk) {
+                             desk.answer(Answer::Yes);
+                             desk.trigger("mUImport");
+                             desk.finish();
+                         },
+                         Save::Walk};
+
+const Save calendarOptions{[](Desk &desk) {
+                               desk.open(Function::Planner);
+                               desk.trigger("mOCal");
+                               desk.find<QRadioButton>("months_1")->setChecked(true);
+                               desk.find<QRadioButton>("weekStart_3")->setChecked(true);
+                           },
+                           [](Desk &desk) { desk.click("calendarOptionsOk"); }};
+
+const Save marks{[](Desk &desk) {
+                     desk.openPasswordControl();
+                     desk.find<QCheckBox>("Check1_2")->click();
+                 },
+                 [](Desk &desk) { desk.click("Command1"); }};
+
+const Save noPassword{[](Desk &desk) {
+                          desk.openPasswordControl();
+                          desk.click("removePassword");
+                      },
+                      [](Desk &desk) {
+                          desk.type("Text1_0", u"Sesame"_s);
+                          desk.click("passwordOk");
+                      }};
+
+const Save topToolbar{[](Desk &desk) { desk.openMainMenu(); }, [](Desk &desk) { desk.trigger("Toolbar2_4"); },
+                      Save::Setting};
+
+const Save sideToolbars{[](Desk &desk) { desk.openMainMenu(); },
+                        [](Desk &desk) { desk.trigger("Toolbar2_5"); }, Save::Setting};
+
+const Save familyName{[](Desk &desk) { desk.openMainMenu(); },
+                      [](Desk &desk) {
+                          desk.test.dialogs.willInput(u"Zorn"_s);
+                          desk.trigger("Toolbar2_2");
+                      },
+                      Save::Setting};
+
+const Save defaultColor{[](Desk &desk) { desk.openMainMenu(); },
+                        [](Desk &desk) { desk.trigger("mOPCDefault"); }, Save::Setting};
+
+const Save windowColor{[](Desk &desk) { desk.open(Function::Planner); },
+                       [](Desk &desk) {
+                           desk.test.dialogs.willChooseColor(QColor(Qt::yellow));
+                           for (int question = 0; question < 3; ++question)
+                               desk.answer(Answer::Yes);
+                           desk.trigger("mOC");
+                       },
+                       Save::Setting};
+
+const Save screenSize{[](Desk &desk) { desk.openMainMenu(); }, [](Desk &desk) { desk.trigger("mOPS"); },
+                      Save::Setting};
+
+} // namespace
+
+/// Every save of the program, with every step of it on the way to the disk refused in turn, and with the
+/// program ended at every step.
+class TestEverySave : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QLoggingCategory::setFilterRules(u"*.warning=false"_s); }
+    void isOldOrNewAndTold_data();
+    void isOldOrNewAndTold();
+
+private:
+    static TestProgram::Content content(const Save &save)
+    {
+        return save.kind == Save::Setting ? TestProgram::Empty : TestProgram::Household;
+    }
+    void succeed(const Save &save);
+    void refuse(const Save &save, int step) const;
+    void end(const Save &save, int step) const;
+
+    // after the save that succeeds
+    Files m_after;
+    QStringList m_told;
+    int m_steps = 0;
+};
+
+void TestEverySave::isOldOrNewAndTold_data()
+{
+    rows<Save>({
+        {"a new address", newEntry},
+        {"another name", changedName},
+        {"an address deleted", deletedEntry},
+        {"a day", savedDay},
+        {"a recurrence", recurrence},
+        {"to-dos imported", importedToDos},
+        {"calendar options", calendarOptions},
+        {"marks of areas", marks},
+        {"no password", noPassword},
+        {"top toolbar", topToolbar},
+        {"side toolbars", sideToolbars},
+        {"family name", familyName},
+        {"default panel color", defaultColor},
+        {"a window's color", windowColor},
+        {"screen size", screenSize},
+    });
+}
+
+void TestEverySave::isOldOrNewAndTold()
+{
+    const auto [save] = row<Save>();
+    succeed(save);
+    for (int step = 1; step <= m_steps && !QTest::currentTestFailed(); ++step) {
+        refuse(save, step);
+        if (save.kind != Save::Walk) // a power cut may tear the day that is being written
+            end(save, step);
+        if (QTest::currentTestFailed())
+            qInfo() << "at step" << step << "of" << m_steps;
+    }
+}
+
+void TestEverySave::succeed(const Save &save)
+{
+    Desk desk(content(save));
+    save.prepare(desk);
+    desk.told();
+    const Files before = desk.files();
+    const FailingDisk disk(DiskFailure::OneStep, 0);
+    save.press(desk);
+    m_steps = disk.steps();
+    m_told = desk.told();
+    m_after = desk.files();
+    QVERIFY(m_after != before);
+}
+
+/// Nobody is told of a success that is none, and what was refused can be tried again.
+void TestEverySave::refuse(const Save &save, int step) const
+{
+    Desk desk(content(save));
+    save.prepare(desk);
+    desk.told();
+    const Files before = desk.files();
+    {
+        const FailingDisk disk(DiskFailure::OneStep, step);
+        save.press(desk);
+    }
+    const Files now = desk.files();
+    if (now == m_after)
+        return;
+    QVERIFY(now == before || (save.kind == Save::Walk && isMixedByDay(now, before, m_after)));
+    QVERIFY(desk.told() != m_told);
+    if (save.kind == Save::Setting)
+        return;
+    save.press(desk);
+    QVERIFY(desk.files() == m_after);
+}
+
+/// The next start makes it old or new.
+void TestEverySave::end(const Save &save, int step) const
+{
+    Desk desk(content(save));
+    save.prepare(desk);
+    const Files before = desk.files();
+    {
+        const FailingDisk disk(DiskFailure::TheEnd, step);
+        save.press(desk);
+    }
+    QVERIFY(ChangeSet::recover(desk.test.folder));
+    Saving::recover(desk.test.folder);
+    QVERIFY(desk.files() == m_after || desk.files() == before);
+}
+
+QTEST_MAIN(TestEverySave)
+#include "tst_everysave.moc"
