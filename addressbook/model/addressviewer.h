@@ -39,8 +39,8 @@ struct DisplayRange {
 
 /// The rows of the viewer: a name and one piece of information for each live line of the name list, in record
 /// order, narrowed by month, by a search or by hand, and sorted. Nothing is written; a missing file is made,
-/// empty, as the address book does. Rows keep the bytes of
-/// the files and are decoded when they are shown, so that 50,000 of them are read in one pass over each file.
+/// empty, as the address book does. Rows keep the bytes of the files and are decoded when they are shown, so
+/// that 50,000 of them are read in one pass over each file.
 class AddressViewer
 {
 public:
