@@ -69,6 +69,10 @@ bool ChangeSet::commit()
 {
     if (m_changes.empty())
         return !m_isRefused;
+    if (m_folder.isReadOnly()) {
+        qCWarning(storageLog).noquote() << "Refused to write to" << m_folder.path();
+        return false;
+    }
     // What could not be finished before must not overtake what comes now.
     if (m_isRefused || !finish(m_folder))
         return false;
@@ -112,6 +116,8 @@ bool ChangeSet::finish(const DataFolder &folder)
 
 bool ChangeSet::recover(const DataFolder &folder)
 {
+    if (folder.isReadOnly())
+        return true;
     if (!finish(folder))
         return false;
     QDir dir(folder.path());

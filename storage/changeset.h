@@ -38,7 +38,8 @@ public:
     [[nodiscard]] bool commit();
 
     /// Finishes or drops what a crash interrupted in `folder`. Called once at start, before anything is read.
-    /// False when a change cannot be finished now: its journal stays for the next time.
+    /// False when a change cannot be finished now: its journal stays for the next time, as it does in a
+    /// folder for reading only.
     [[nodiscard]] static bool recover(const DataFolder &folder);
 
 private:

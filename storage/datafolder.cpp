@@ -6,6 +6,9 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 
+#include <cerrno>
+#include <utility>
+
 namespace {
 
 QString joined(const QString &folder, const QString &name)
@@ -34,8 +37,9 @@ QString entryPath(const QString &folder, const QString &name)
 
 } // namespace
 
-DataFolder::DataFolder(const QString &path)
+DataFolder::DataFolder(const QString &path, QString whyReadOnly)
     : m_path(path.isEmpty() ? QStringLiteral(".") : QDir::cleanPath(path))
+    , m_whyReadOnly(std::move(whyReadOnly))
 {}
 
 QString DataFolder::filePath(const QString &name) const
@@ -59,5 +63,5 @@ bool DataFolder::exists(const QString &name) const
 bool DataFolder::isWritable() const
 {
     QTemporaryFile probe(joined(m_path, QStringLiteral("Quillery.XXXXXX")));
-    return probe.open();
+    return probe.open() || probe.errorString() == qt_error_string(ENOSPC);
 }

@@ -8,9 +8,15 @@
 class DataFolder
 {
 public:
-    explicit DataFolder(const QString &path);
+    /// With a reason why it is for reading only, nothing in this room writes to the folder, not even where
+    /// the system would allow it.
+    explicit DataFolder(const QString &path, QString whyReadOnly = {});
 
     const QString &path() const { return m_path; }
+
+    bool isReadOnly() const { return !m_whyReadOnly.isEmpty(); }
+    /// A sentence for the user; empty where the folder is written to.
+    const QString &whyReadOnly() const { return m_whyReadOnly; }
 
     /// The path to read or write `name` at: the file that is there under any spelling, else `name` itself.
     QString filePath(const QString &name) const;
@@ -22,9 +28,10 @@ public:
     bool exists(const QString &name) const;
 
     /// Whether files can be made here; tried with a file, since permission bits do not tell on every
-    /// platform.
+    /// platform. A full disk is no answer to that: true, and each save tells.
     bool isWritable() const;
 
 private:
     QString m_path;
+    QString m_whyReadOnly;
 };

@@ -18,6 +18,8 @@ public:
 
     /// Whether this program holds the folder.
     bool isHeld() const { return m_lock.isLocked(); }
+    /// Leaves the folder to others, where it is held.
+    void release() { m_lock.unlock(); }
 
     /// Who holds the folder: "process 4711 on the computer castle", for the user to find that program.
     QString holder() const;

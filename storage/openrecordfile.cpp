@@ -7,14 +7,14 @@
 #include <algorithm>
 #include <utility>
 
-OpenRecordFile::OpenRecordFile(const QString &path, qsizetype recordLength)
-    : m_file(path)
-    , m_recordLength(recordLength)
-    , m_record(recordLength, '\0')
+OpenRecordFile::OpenRecordFile(const RecordFile &file)
+    : m_file(file.path())
+    , m_recordLength(file.recordLength())
+    , m_record(m_recordLength, '\0')
 {
-    m_isWritable = m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    m_isWritable = !file.isReadOnly() && m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
     if (!m_isWritable && !m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        qCWarning(storageLog).noquote() << "Cannot open" << path << '-' << m_file.errorString();
+        qCWarning(storageLog).noquote() << "Cannot open" << file.path() << '-' << m_file.errorString();
 }
 
 bool OpenRecordFile::seek(int number)

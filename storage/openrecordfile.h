@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/recordfile.h"
+
 #include <QByteArray>
 #include <QFile>
 
@@ -10,7 +12,7 @@
 class OpenRecordFile
 {
 public:
-    OpenRecordFile(const QString &path, qsizetype recordLength);
+    explicit OpenRecordFile(const RecordFile &file);
 
     /// As `RecordFile::read`; the view is good until the next call.
     QByteArrayView read(int number);

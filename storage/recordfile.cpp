@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 namespace {
 
@@ -38,9 +37,10 @@ qsizetype readAt(QFile &file, qint64 offset, char *buffer, qsizetype length)
 
 } // namespace
 
-RecordFile::RecordFile(QString path, qsizetype recordLength)
-    : m_path(std::move(path))
+RecordFile::RecordFile(const DataFolder &folder, const QString &name, qsizetype recordLength)
+    : m_path(folder.filePath(name))
     , m_recordLength(recordLength)
+    , m_isReadOnly(folder.isReadOnly())
 {
     Q_ASSERT(recordLength > 0);
 }
@@ -66,7 +66,7 @@ QByteArray RecordFile::read(int first, int last) const
 
 bool RecordFile::write(int number, QByteArrayView value)
 {
-    if (number < 1 || value.size() > m_recordLength) {
+    if (m_isReadOnly || number < 1 || value.size() > m_recordLength) {
         qCWarning(storageLog).noquote()
             << "Refused to write" << value.size() << "bytes to record" << number << "of" << m_path;
         return false;
@@ -85,7 +85,7 @@ bool RecordFile::write(int number, QByteArrayView value)
 
 void RecordFile::create()
 {
-    if (QFileInfo(m_path).isFile())
+    if (m_isReadOnly || QFileInfo(m_path).isFile())
         return;
     QFile file(m_path);
     if (!file.open(QIODevice::ReadWrite))

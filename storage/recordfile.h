@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/datafolder.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -12,7 +14,9 @@
 class RecordFile
 {
 public:
-    RecordFile(QString path, qsizetype recordLength);
+    /// The file `name` of `folder`. Where that is for reading only, the file is never made and no write is
+    /// done.
+    RecordFile(const DataFolder &folder, const QString &name, qsizetype recordLength);
 
     /// The bytes of record `number`: at most a record's length, fewer at the end of the file, none when the
     /// record, the file or its folder is missing or cannot be read, or when `number` is below 1.
@@ -39,8 +43,10 @@ public:
 
     qsizetype recordLength() const { return m_recordLength; }
     const QString &path() const { return m_path; }
+    bool isReadOnly() const { return m_isReadOnly; }
 
 private:
     QString m_path;
     qsizetype m_recordLength;
+    bool m_isReadOnly;
 };

@@ -43,7 +43,7 @@ QStringList filesEndingWith(const DataFolder &folder, QLatin1StringView suffix)
 bool Saving::replaceFile(const DataFolder &folder, const QString &name, QByteArrayView content)
 {
     const QString path = folder.filePath(name);
-    if (!isReplaceable(path)) {
+    if (folder.isReadOnly() || !isReplaceable(path)) {
         qCWarning(storageLog).noquote() << "Cannot replace" << path << "- it is a folder or write-protected";
         return false;
     }
@@ -64,6 +64,8 @@ bool Saving::replaceFile(const DataFolder &folder, const QString &name, QByteArr
 
 void Saving::recover(const DataFolder &folder)
 {
+    if (folder.isReadOnly())
+        return;
     for (const QString &part : filesEndingWith(folder, partSuffix))
         QFile::remove(folder.path() + u'/' + part);
 

@@ -90,7 +90,7 @@ AddressEntry AddressBook::read(int record) const
 }
 
 AddressBook::Reader::Reader(const AddressBook &book)
-    : m_file(book.entries().path(), addressLayout.size())
+    : m_file(book.entries())
 {}
 
 AddressEntry AddressBook::Reader::read(int record)
@@ -246,10 +246,10 @@ QStringList AddressBook::fileNames()
 
 RecordFile AddressBook::entries() const
 {
-    return RecordFile(m_folder.filePath(entriesName), addressLayout.size());
+    return RecordFile(m_folder, entriesName, addressLayout.size());
 }
 
 RecordFile AddressBook::index() const
 {
-    return RecordFile(m_folder.filePath(indexName), lineRecordLength);
+    return RecordFile(m_folder, indexName, lineRecordLength);
 }

@@ -325,7 +325,7 @@ void AddressViewer::forEachShown(const std::function<bool(int row, const Address
     // Opening for many reads makes a missing file; looking must not.
     std::optional<OpenRecordFile> open;
     if (entries.recordCount() > 0)
-        open.emplace(entries.path(), entries.recordLength());
+        open.emplace(entries);
     for (int row = 0; row < count(); ++row) {
         const int number = record(row);
         const bool isRead = open && isEntryRecord(number);

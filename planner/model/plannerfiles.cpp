@@ -5,7 +5,6 @@
 #include "planner/model/plannerdates.h"
 #include "storage/changeset.h"
 #include "storage/log.h"
-#include "storage/recordfile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -33,14 +32,14 @@ PlannerFiles::PlannerFiles(const DataFolder &folder)
     : m_folder(folder)
 {}
 
-QString PlannerFiles::yearFilePath(int year) const
+RecordFile PlannerFiles::yearFile(int year) const
 {
-    return m_folder.filePath(DayRecord::yearFileName(year));
+    return RecordFile(m_folder, DayRecord::yearFileName(year), DayRecord::length);
 }
 
 bool PlannerFiles::isReadable(int year) const
 {
-    const QFileInfo file(yearFilePath(year));
+    const QFileInfo file(yearFile(year).path());
     return !file.exists() || (file.isFile() && file.isReadable());
 }
 
@@ -48,7 +47,7 @@ PlannerDay PlannerFiles::peek(QDate date) const
 {
     if (!PlannerDates::has(date))
         return {};
-    const RecordFile file(yearFilePath(date.year()), DayRecord::length);
+    const RecordFile file = yearFile(date.year());
     const QByteArray record = file.read(DayRecord::number(date));
     return DayRecord::isSaved(record) ? plannerDayLayout.decode(record) : PlannerDay{};
 }
@@ -56,7 +55,7 @@ PlannerDay PlannerFiles::peek(QDate date) const
 PlannerDay PlannerFiles::read(QDate date) const
 {
     if (PlannerDates::has(date))
-        RecordFile(yearFilePath(date.year()), DayRecord::length).create();
+        yearFile(date.year()).create();
     return peek(date);
 }
 
@@ -67,14 +66,13 @@ bool PlannerFiles::write(QDate date, const PlannerDay &day)
     PlannerDay saved = day;
     saved.mark = PlannerDay::savedMark;
     ChangeSet change(m_folder);
-    change.write(RecordFile(yearFilePath(date.year()), DayRecord::length), DayRecord::number(date),
-                 plannerDayLayout.encode(saved));
+    change.write(yearFile(date.year()), DayRecord::number(date), plannerDayLayout.encode(saved));
     return change.commit();
 }
 
 QByteArray PlannerFiles::yearBytes(int year) const
 {
-    QFile file(yearFilePath(year));
+    QFile file(yearFile(year).path());
     if (!QFileInfo(file).isFile())
         return {};
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {

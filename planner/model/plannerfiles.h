@@ -4,6 +4,7 @@
 #include "planner/model/dayorder.h"
 #include "planner/model/plannerday.h"
 #include "storage/datafolder.h"
+#include "storage/recordfile.h"
 
 #include <QDate>
 
@@ -43,8 +44,8 @@ public:
     /// The years that have a file, in order.
     QList<int> years() const;
 
-    QString yearFilePath(int year) const;
-
 private:
+    RecordFile yearFile(int year) const;
+
     const DataFolder &m_folder;
 };

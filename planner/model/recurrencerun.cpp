@@ -12,7 +12,7 @@ class RecurrenceRun::YearFile
 public:
     YearFile(const DataFolder &folder, int year)
         : m_year(year)
-        , m_file(folder.filePath(DayRecord::yearFileName(year)), DayRecord::length)
+        , m_file(RecordFile(folder, DayRecord::yearFileName(year), DayRecord::length))
     {}
 
     int year() const { return m_year; }

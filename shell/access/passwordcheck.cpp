@@ -281,7 +281,7 @@ bool PasswordCheck::commit(ChangeSet &change) const
 
 RecordFile PasswordCheck::records() const
 {
-    return RecordFile(m_folder.filePath(QLatin1StringView(passwordFile.name)), passwordFile.recordLength);
+    return RecordFile(m_folder, QLatin1StringView(passwordFile.name), passwordFile.recordLength);
 }
 
 void PasswordCheck::writeFlag(ChangeSet &change, int area, const QString &flag) const

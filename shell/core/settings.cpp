@@ -48,7 +48,7 @@ bool Settings::setTagged(const TaggedSetting &setting, const QString &text)
 
 RecordFile Settings::open(const SettingsFile &file) const
 {
-    RecordFile records(m_folder.filePath(QString::fromLatin1(file.name)), file.recordLength);
+    RecordFile records(m_folder, QString::fromLatin1(file.name), file.recordLength);
     // Opening a settings file makes it, empty; where that fails, reading finds nothing and writing says so.
     records.create();
     return records;

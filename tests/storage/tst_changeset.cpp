@@ -44,7 +44,7 @@ private slots:
     {
         ChangeSet set = change();
         expectWarning("^Refused to write 9 bytes");
-        set.write(RecordFile(m_test.path(first), 8), 1, "123456789");
+        set.write(RecordFile(m_test.folder(), first, 8), 1, "123456789");
         QVERIFY(!set.commit());
         QCOMPARE(filesOf(m_test), before);
     }
@@ -124,10 +124,10 @@ private:
     {
         const DataFolder &folder = m_test.folder();
         ChangeSet set(folder);
-        set.write(RecordFile(folder.filePath(first), 8), 2, "aaa");
-        set.write(RecordFile(folder.filePath(second), 8), 1, "12345678");
+        set.write(RecordFile(folder, first, 8), 2, "aaa");
+        set.write(RecordFile(folder, second, 8), 1, "12345678");
         set.replace(whole, "new");
-        set.write(RecordFile(folder.filePath(first), 8), 3, "bb");
+        set.write(RecordFile(folder, first, 8), 3, "bb");
         return set;
     }
 

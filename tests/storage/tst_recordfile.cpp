@@ -8,6 +8,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+const QString name = u"Test.Fil"_s;
+} // namespace
+
 class TestRecordFile : public QObject
 {
     Q_OBJECT
@@ -34,7 +38,7 @@ private slots:
     void readsRecords()
     {
         const auto [first, last, bytes] = row<int, int, QByteArray>();
-        const RecordFile file(path(), 4);
+        const RecordFile file(m_files->folder(), name, 4);
         QCOMPARE(file.read(first, last), QByteArray());
         QVERIFY(makeFile(path(), "abcdefghij"));
         QCOMPARE(file.read(first, last), bytes);
@@ -45,7 +49,7 @@ private slots:
     void touchesOnlyTheBytesOfAValue()
     {
         QVERIFY(makeFile(path(), "abcdefghij"));
-        RecordFile file(path(), 4);
+        RecordFile file(m_files->folder(), name, 4);
         QVERIFY(file.write(2, "XY"));
         QCOMPARE(contentOf(path()), "abcdXYghij"_ba);
         QVERIFY(file.write(3, "Z"));
@@ -58,7 +62,7 @@ private slots:
         const std::pair<int, QByteArray> values[]{{1, "longer"}, {0, "a"}, {-1, "a"}};
         for (const auto &[number, value] : values) {
             expectWarning("^Refused to write \\d bytes to record -?\\d of ");
-            QVERIFY(!RecordFile(path(), 4).write(number, value));
+            QVERIFY(!RecordFile(m_files->folder(), name, 4).write(number, value));
         }
         QVERIFY(!QFile::exists(path()));
     }
@@ -71,7 +75,7 @@ private slots:
     void countsRecords()
     {
         const auto [length, count] = row<int, int>();
-        RecordFile file(path(), 4);
+        RecordFile file(m_files->folder(), name, 4);
         QCOMPARE(file.recordCount(), 0);
         file.create();
         QVERIFY(QFile::exists(path()));
@@ -90,7 +94,7 @@ private slots:
         content += "end";
         QVERIFY(makeFile(path(), content));
         int expected = 3;
-        RecordFile(path(), 60).forEach(3, [&](int number, QByteArrayView bytes) {
+        RecordFile(m_files->folder(), name, 60).forEach(3, [&](int number, QByteArrayView bytes) {
             const QByteArray record = content.mid(qsizetype(number - 1) * 60, 60);
             return number == expected && bytes == record && ++expected > 0;
         });
@@ -106,14 +110,14 @@ private slots:
             return number < 2;
         };
         for (const int first : {-5, 4})
-            RecordFile(path(), 4).forEach(first, visit);
+            RecordFile(m_files->folder(), name, 4).forEach(first, visit);
         QCOMPARE(visited, (QList<int>{1, 2}));
     }
 
     void survivesAFolderInTheFilesPlace()
     {
         QVERIFY(QDir().mkpath(path()));
-        RecordFile file(path(), 4);
+        RecordFile file(m_files->folder(), name, 4);
         expectWarning("^Cannot read .*Test.Fil");
         QCOMPARE(file.read(1), QByteArray());
         expectWarning("^Cannot write record 1 of .*Test.Fil");
@@ -127,7 +131,7 @@ private slots:
 
     void survivesAMissingFolder()
     {
-        RecordFile file(m_files->path(u"none/Test.Fil"_s), 4);
+        RecordFile file(m_files->folder(), u"none/Test.Fil"_s, 4);
         QCOMPARE(file.read(1), QByteArray());
         expectWarning("^Cannot write record 1 of ");
         QVERIFY(!file.write(1, "a"));
@@ -137,7 +141,7 @@ private slots:
     void reportsAFullDisk()
     {
 #ifdef Q_OS_UNIX
-        RecordFile file(path(), 724);
+        RecordFile file(m_files->folder(), name, 724);
         QVERIFY(file.write(1, "kept"));
         {
             const FileSizeLimit limit(1024 * 1024);
@@ -151,7 +155,7 @@ private slots:
         expectWarning("seek on a sequential device$"); // from Qt: a device is no place for records
         QVERIFY(QFile::link(u"/dev/full"_s, m_files->path(u"Full.Fil"_s)));
         expectWarning("^Cannot write record 1 of ");
-        QVERIFY(!RecordFile(m_files->path(u"Full.Fil"_s), 4).write(1, "a"));
+        QVERIFY(!RecordFile(m_files->folder(), u"Full.Fil"_s, 4).write(1, "a"));
 #else
         QSKIP("needs a limit on file sizes");
 #endif
@@ -160,7 +164,7 @@ private slots:
     void reachesRecordsBeyondTwoGigabytes()
     {
         // A sparse file: only its last block takes room.
-        RecordFile file(path(), 900);
+        RecordFile file(m_files->folder(), name, 900);
         QVERIFY(file.write(3'000'000, "far"));
         QCOMPARE(QFileInfo(path()).size(), 2'999'999LL * 900 + 3);
         QCOMPARE(file.read(3'000'000), "far"_ba);
@@ -170,7 +174,7 @@ private slots:
 private:
     QString path() const
     {
-        return m_files->path(u"Test.Fil"_s);
+        return m_files->path(name);
     }
 
     std::unique_ptr<TestFolder> m_files;
