@@ -52,18 +52,20 @@ bool InstanceLink::listen()
     return false;
 }
 
-bool InstanceLink::callOther(int attempts) const
+InstanceLink::Reply InstanceLink::callOther(int attempts) const
 {
     for (int attempt = 0; attempt < attempts; ++attempt) {
         QLocalSocket call;
         call.connectToServer(m_name);
         // A line is there before anybody answers: only that it is hung up again tells of a program that
         // lives.
-        if (call.waitForConnected(waitMilliseconds))
-            return call.state() == QLocalSocket::UnconnectedState ||
-                   call.waitForDisconnected(answerMilliseconds);
+        if (call.waitForConnected(waitMilliseconds)) {
+            const bool isAnswered = call.state() == QLocalSocket::UnconnectedState ||
+                                    call.waitForDisconnected(answerMilliseconds);
+            return isAnswered ? Reply::Answer : Reply::Silence;
+        }
         if (attempt + 1 < attempts)
             QThread::msleep(waitMilliseconds);
     }
-    return false;
+    return Reply::Nobody;
 }

@@ -14,13 +14,19 @@ class InstanceLink final : public QObject
 public:
     explicit InstanceLink(const DataFolder &folder, QObject *parent = nullptr);
 
-    /// Waits for calls; the caller holds the folder's lock, so that whatever stands in the way is left over
-    /// from a program that died. Without a line the program runs as well: false, with a line in the log.
-    bool listen();
+    enum class Reply {
+        Nobody,  ///< no program is there
+        Silence, ///< one is, and hangs
+        Answer   ///< one is, and comes to the front
+    };
 
-    /// Calls the program that holds the folder; it may still be starting, so that it is called again, up to
-    /// `attempts` times. False when nobody answered.
-    bool callOther(int attempts = 10) const;
+    /// Waits for calls. What stands in the way counts as left over from a program that died: call first.
+    /// Without a line the program runs as well: false, with a line in the log.
+    [[nodiscard]] bool listen();
+
+    /// Calls the program that is at work in the folder; it may still be starting, so that it is called again,
+    /// up to `attempts` times.
+    Reply callOther(int attempts = 10) const;
 
 signals:
     /// Another start asks for the main window.

@@ -38,8 +38,7 @@ WindowTraits traits()
 
 int listWidth(QSize window)
 {
-    constexpr int wideFrom = 1200;
-    return window.width() < wideFrom ? 212 : 272;
+    return window.width() < 1200 ? 212 : 272;
 }
 
 } // namespace
@@ -135,6 +134,8 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     makeToolbar(copy, print);
     makeButtons(clear, saveNew, remove);
     makeEmptyButtons(enter);
+    for (QAction *command : {clear, saveNew, remove, m_modify, enter, m_otherScreen})
+        commands().writing(command);
 }
 
 void ADDBKVIEW::makeEmptyButtons(QAction *enter)
@@ -151,9 +152,8 @@ void ADDBKVIEW::makeToolbar(QAction *copy, QAction *print)
     commands().tool(copy, "copy"_L1, u"Copy"_s);
     commands().tool(print, "print"_L1, u"Print File"_s);
     commands().separateTools();
-    addStandardTool(Standard::PanelColor);
-    addStandardTool(Standard::Backup);
-    addStandardTool(Standard::Help);
+    for (const Standard tool : {Standard::PanelColor, Standard::Backup, Standard::Help})
+        addStandardTool(tool);
 }
 
 void ADDBKVIEW::makeButtons(QAction *clear, QAction *saveNew, QAction *remove)
@@ -164,9 +164,9 @@ void ADDBKVIEW::makeButtons(QAction *clear, QAction *saveNew, QAction *remove)
     const auto add = [this](QPushButton *button, Side side, On screen = On::BothScreens) {
         m_editor->addButton(button, side, screen);
     };
-    QAction *picture = can.add(
+    QAction *picture = can.writing(can.add(
         nullptr, u"loadPicture"_s, u"&Load Picture"_s, [this] { loadPicture(); },
-        [this] { return isNew() ? QString() : whyUnchangeable(); });
+        [this] { return isNew() ? QString() : whyUnchangeable(); }));
     QAction *printOptions =
         can.add(nullptr, u"showPrintOptions"_s, u"&Print Options"_s, [this] { showPrintOptions(); });
     m_otherScreen = can.add(nullptr, u"otherScreen"_s, u"&View Screen"_s, [this] { switchMode(); });

@@ -146,8 +146,8 @@ void ADDBKDISPLAY::addRowCommands(QMenu &options)
     options.addSeparator();
     QAction *copy = all.add(
         &options, u"mOCopy"_s, u"Cop&y"_s, [this] { copyRows(); }, noRows);
-    QAction *out = all.add(
-        &options, u"mOExp"_s, u"Expor&t"_s, [this] { exportRows(); }, noRows);
+    QAction *out = all.writing(all.add(
+        &options, u"mOExp"_s, u"Expor&t"_s, [this] { exportRows(); }, noRows));
     QAction *remove = all.add(
         &options, u"mODel"_s, u"&Delete Row"_s, [this] { removeRow(); }, noRow);
     addSortMenu(options);

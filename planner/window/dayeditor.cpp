@@ -43,6 +43,7 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
     rows->addWidget(makeLine(this));
     rows->addSpacing(4);
     rows->addWidget(makeFoot());
+    m_form->setReadOnly(m_program.folder.isReadOnly());
     connect(m_title, &StepTitle::stepped, this,
             [this](int days) { emit dateRequested(m_date.addDays(days)); });
     connect(m_title, &StepTitle::todayRequested, this,
@@ -77,6 +78,7 @@ QWidget *DayEditor::makeRowHeads()
         auto *button = named(new QRadioButton(caption, line), u"Option7_"_s + QString::number(int(id)));
         button->setAccessibleName(u"Entries without AM/PM: "_s + caption);
         button->setToolTip(u"Where entries without AM or PM stand when the day is saved"_s);
+        setUnavailable(button, m_program.folder.whyReadOnly());
         button->setFont(TypeScale::label());
         m_placement->addButton(button, int(id));
         layout->addWidget(button);
@@ -102,6 +104,8 @@ QWidget *DayEditor::makeFoot()
     layout->addStretch(1);
     layout->addWidget(save);
     layout->addWidget(exit);
+    for (QPushButton *button : {clear, save})
+        setUnavailable(button, m_program.folder.whyReadOnly());
     connect(clear, &QPushButton::clicked, this, &DayEditor::clear);
     connect(save, &QPushButton::clicked, this, &DayEditor::saveByCommand);
     connect(exit, &QPushButton::clicked, this, [this] { window()->close(); });

@@ -120,6 +120,15 @@ void DayForm::setDay(const PlannerDay &day)
     }
 }
 
+void DayForm::setReadOnly(bool readOnly)
+{
+    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+        m_times[row]->setReadOnly(readOnly);
+        m_texts[row]->setReadOnly(readOnly);
+    }
+    m_timeList->setVisible(!readOnly);
+}
+
 PlannerDay DayForm::day() const
 {
     PlannerDay day;
@@ -151,7 +160,8 @@ void DayForm::enterRow(int row)
     textBox(m_row)->setPlaceholderText({});
     m_row = row;
     m_isEntered = true;
-    textBox(m_row)->setPlaceholderText(u"What is planned?"_s);
+    if (!textBox(m_row)->isReadOnly())
+        textBox(m_row)->setPlaceholderText(u"What is planned?"_s);
     m_timeList->setCurrentIndex(m_timeList->findText(timeBox(row)->text()));
     placeTimeList();
     emit rowEntered(row);
@@ -201,7 +211,7 @@ bool DayForm::keyPressed(int row, bool inTime, int key, Qt::KeyboardModifiers mo
         return true;
     };
     const bool opensList = (key == Qt::Key_Down && modifiers & Qt::AltModifier) || key == Qt::Key_F4;
-    if (opensList && inTime) {
+    if (opensList && inTime && !m_timeList->isHidden()) {
         m_timeList->showPopup();
         return true;
     }

@@ -36,6 +36,8 @@ public:
     explicit DayForm(QWidget *parent = nullptr);
 
     void setDay(const PlannerDay &day);
+    /// The texts can be read and copied, and not typed into.
+    void setReadOnly(bool readOnly);
     /// What the boxes hold; never marked as saved.
     PlannerDay day() const;
 

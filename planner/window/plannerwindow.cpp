@@ -87,7 +87,8 @@ void Zcalandar1::makeCommands()
     addEditCommands(edit);
     addOptionCommands(options);
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
-    commands().add(utilities, u"mUImport"_s, u"&Import To Do List Items"_s, [this] { importToDoItems(); });
+    commands().writing(commands().add(utilities, u"mUImport"_s, u"&Import To Do List Items"_s,
+                                      [this] { importToDoItems(); }));
     utilities->addSeparator();
     utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
     addHelpEntry();
@@ -139,12 +140,12 @@ void Zcalandar1::addEditCommands(QMenu *menu)
     };
     Commands &all = commands();
     QAction *copyDay = all.add(menu, u"mECopy"_s, u"&Copy Day"_s, copy, dayOnly);
-    QAction *paste = all.add(
-        menu, u"mEPaste"_s, u"&Paste Day"_s, [this] { m_day->paste(); }, whyNoPaste);
+    QAction *paste = all.writing(all.add(
+        menu, u"mEPaste"_s, u"&Paste Day"_s, [this] { m_day->paste(); }, whyNoPaste));
     menu->addSeparator();
-    QAction *repeat = all.add(
+    QAction *repeat = all.writing(all.add(
         menu, u"mERec"_s, u"&Recurrence Option"_s, [this] { showRecurrence(); }, dayOnly,
-        Qt::CTRL | Qt::Key_R);
+        Qt::CTRL | Qt::Key_R));
     menu->addSeparator();
     all.add(menu, u"mEFind"_s, u"&Search All Years"_s, [this] { startSearch(); })
         ->setShortcut(QKeySequence::Find);
@@ -162,15 +163,15 @@ void Zcalandar1::addOptionCommands(QMenu *menu)
     };
     Commands &all = commands();
     menu->addAction(standard(Standard::PanelColor));
-    all.add(menu, u"mOCal"_s, u"&Calendar Options"_s, [this] {
+    all.writing(all.add(menu, u"mOCal"_s, u"&Calendar Options"_s, [this] {
         m_optionsPanel->setOptions(CalendarOptions::read(program().settings));
         showView(m_optionsPanel);
-    });
+    }));
     menu->addSeparator();
-    all.add(
-        menu, u"mOSave"_s, u"&Save Day"_s, [this] { m_day->saveByCommand(); }, dayOnly, QKeySequence::Save);
-    all.add(
-        menu, u"mOClr"_s, u"C&lear Day"_s, [this] { m_day->clear(); }, dayOnly);
+    all.writing(all.add(
+        menu, u"mOSave"_s, u"&Save Day"_s, [this] { m_day->saveByCommand(); }, dayOnly, QKeySequence::Save));
+    all.writing(all.add(
+        menu, u"mOClr"_s, u"C&lear Day"_s, [this] { m_day->clear(); }, dayOnly));
     menu->addSeparator();
     QAction *print = all.add(
         menu, u"mOPrt"_s, u"&Print"_s,

@@ -73,7 +73,7 @@ Form31::Form31(Program &program, PasswordCost cost, std::chrono::milliseconds st
     auto *row = new QHBoxLayout(work);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(16);
-    m_pane = new PasswordPane(m_file, program.gate.memory(), step, work);
+    m_pane = new PasswordPane(m_file, program.gate.memory(), step, program.folder.whyReadOnly(), work);
     makeMenus();
     row->addWidget(makePasswordPanel());
     row->addWidget(makeAreasPanel(), 1);
@@ -90,9 +90,9 @@ void Form31::makeMenus()
     QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
     options->addAction(standard(Standard::PanelColor));
     const auto saveMarks = [this] { std::ignore = save(); }; // it says itself how it went
-    m_saveAction = commands().add(options, u"mOSave"_s, u"&Save"_s, saveMarks, [this] {
+    m_saveAction = commands().writing(commands().add(options, u"mOSave"_s, u"&Save"_s, saveMarks, [this] {
         return isModified() ? QString() : PasswordMessages::nothingToSave();
-    });
+    }));
     QAction *printing = commands().add(options, u"mOPrt"_s, u"&Print"_s, [this] { print(); });
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
@@ -215,7 +215,7 @@ void Form31::refresh()
     const bool isSet = state == PasswordCheck::State::Set;
     const bool isDamaged = state == PasswordCheck::State::Damaged;
     const QString reason = isDamaged ? PasswordMessages::damagedSummary()
-                           : isSet   ? QString()
+                           : isSet   ? program().folder.whyReadOnly()
                                      : PasswordMessages::marksNeedPassword();
     for (const int area : ownAreas)
         setUnavailable(m_marks[std::size_t(area)], reason);

@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -42,10 +44,11 @@ QLabel *makeWrapped(QLabel *label)
 } // namespace
 
 PasswordPane::PasswordPane(PasswordCheck &file, PasswordMemory &memory, std::chrono::milliseconds step,
-                           QWidget *parent)
+                           QString whyReadOnly, QWidget *parent)
     : QWidget(parent)
     , m_file(file)
     , m_attempts(memory, step)
+    , m_whyReadOnly(std::move(whyReadOnly))
     , m_title(new TitleLine(u"passwordTitle"_s, u"Password"_s, this))
     , m_summary(makeWrapped(named(makeQuietLabel({}, this), u"passwordSummary"_s)))
     , m_set(makeButton(u"setPassword"_s, u"Se&t Password"_s, this))
@@ -146,8 +149,8 @@ void PasswordPane::refresh()
     m_set->setVisible(!isSet);
     m_change->setVisible(isSet);
     m_remove->setVisible(isSet);
-    setUnavailable(m_set, isDamaged ? PasswordMessages::damagedSummary() : QString());
-    const QString spent = m_attempts.isSpent() ? PasswordMessages::answersSpent() : QString();
+    setUnavailable(m_set, isDamaged ? PasswordMessages::damagedSummary() : m_whyReadOnly);
+    const QString spent = m_attempts.isSpent() ? PasswordMessages::answersSpent() : m_whyReadOnly;
     setUnavailable(m_change, spent);
     setUnavailable(m_remove, spent);
 }

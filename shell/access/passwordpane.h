@@ -20,8 +20,9 @@ class PasswordPane final : public QWidget
 {
     Q_OBJECT
 public:
+    /// With a reason why the file is for reading only, nothing can be set.
     PasswordPane(PasswordCheck &file, PasswordMemory &memory, std::chrono::milliseconds step,
-                 QWidget *parent = nullptr);
+                 QString whyReadOnly, QWidget *parent);
 
     /// Shows what the file says now.
     void refresh();
@@ -55,6 +56,7 @@ private:
 
     PasswordCheck &m_file;
     Attempts m_attempts;
+    QString m_whyReadOnly;
     Task m_task = Task::None;
 
     TitleLine *m_title;

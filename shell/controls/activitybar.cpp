@@ -46,6 +46,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     , m_clock(clock)
     , m_dateStyle(dateStyle)
     , m_activity(named(new QLabel(this), u"StatusBar1_Panel1"_s))
+    , m_readOnly(makeChip(u"StatusBar1_ReadOnly"_s, u"For reading only"_s, this))
     , m_restoreTop(makeLink(u"StatusBar1_RestoreTop"_s, ShellMessages::restoreTopToolbar()))
     , m_restoreSide(makeLink(u"StatusBar1_RestoreSide"_s, ShellMessages::restoreSideToolbars()))
     , m_message(named(new ElidedLabel(this), u"statusMessage"_s))
@@ -69,6 +70,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     m_stop->setFixedHeight(26);
     m_progress->hide();
     m_stop->hide();
+    m_readOnly->hide();
 
     auto *row = new QWidget(this);
     auto *layout = new QHBoxLayout(row);
@@ -97,6 +99,7 @@ void ActivityBar::addToRow(QHBoxLayout &row)
     row.setSpacing(14);
     row.addWidget(m_activity);
     row.addWidget(new Rule(this));
+    row.addWidget(m_readOnly);
     row.addWidget(m_restoreTop);
     row.addWidget(m_restoreSide);
     row.addWidget(m_message, 1);
@@ -131,6 +134,13 @@ void ActivityBar::setActivity(const QString &activity)
 QString ActivityBar::activity() const
 {
     return m_activity->text();
+}
+
+void ActivityBar::showReadOnly(const QString &reason)
+{
+    m_readOnly->setToolTip(reason);
+    m_readOnly->setAccessibleDescription(reason);
+    m_readOnly->setVisible(!reason.isEmpty());
 }
 
 void ActivityBar::say(const QString &message)

@@ -26,6 +26,9 @@ public:
     void setActivity(const QString &activity);
     QString activity() const;
 
+    /// A panel "For reading only" with the reason; an empty one hides it.
+    void showReadOnly(const QString &reason);
+
     /// A quiet line that stays until the next action; it never takes the place of the activity.
     void say(const QString &message);
     QString message() const;
@@ -61,6 +64,7 @@ private:
     const DateStyle &m_dateStyle;
     QDate m_day; ///< that the bar shows
     QLabel *m_activity;
+    QLabel *m_readOnly;
     QToolButton *m_restoreTop;
     QToolButton *m_restoreSide;
     ElidedLabel *m_message;

@@ -42,6 +42,16 @@ inline QString notADate()
 
 // Reasons
 
+inline QString folderCannotBeWritten()
+{
+    return u"The household's folder cannot be written to"_s;
+}
+
+inline QString folderPerhapsInUse()
+{
+    return u"Another program may be using this household"_s;
+}
+
 inline QString backupNotThere()
 {
     return u"Backup is not part of this edition yet"_s;

@@ -9,9 +9,10 @@
 #include <algorithm>
 #include <utility>
 
-Commands::Commands(QWidget *window)
+Commands::Commands(QWidget *window, QString whyReadOnly)
     : QObject(window)
     , m_window(window)
+    , m_whyReadOnly(std::move(whyReadOnly))
 {}
 
 QAction *Commands::add(QMenu *menu, const QString &name, const QString &caption, std::function<void()> run,
@@ -22,8 +23,14 @@ QAction *Commands::add(QMenu *menu, const QString &name, const QString &caption,
     if (menu)
         menu->addAction(action);
     connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
-    m_commands.push_back({action, std::move(unless), {}, {}, {}});
+    m_commands.push_back({action, std::move(unless), false, {}, {}, {}});
     return action;
+}
+
+QAction *Commands::writing(QAction *command)
+{
+    find(command).isWriting = true;
+    return command;
 }
 
 QAction *Commands::repeat(QAction *command, QMenu *menu, const QString &name, const QString &caption)
@@ -78,11 +85,12 @@ void Commands::refresh()
         show(command);
 }
 
-void Commands::show(const Command &command)
+void Commands::show(const Command &command) const
 {
-    if (!command.unless)
+    const bool isForbidden = command.isWriting && !m_whyReadOnly.isEmpty();
+    if (!isForbidden && !command.unless)
         return;
-    const QString reason = command.unless();
+    const QString reason = isForbidden ? m_whyReadOnly : command.unless();
     setUnavailable(command.action, reason);
     for (QAction *twin : command.twins)
         setUnavailable(twin, reason);

@@ -22,11 +22,14 @@ public:
     /// Why a command cannot be used now; an empty text: it can.
     using Reason = std::function<QString()>;
 
-    explicit Commands(QWidget *window);
+    /// With a reason why the household is for reading only, no command that writes can be used.
+    explicit Commands(QWidget *window, QString whyReadOnly = {});
 
     /// A command named `name` that stands in `menu`, when there is one.
     QAction *add(QMenu *menu, const QString &name, const QString &caption, std::function<void()> run,
                  Reason unless = {}, const QKeySequence &shortcut = {});
+    /// Marks a command as one that changes the household's files, and returns it.
+    QAction *writing(QAction *command);
     /// A second menu entry that does the same in the same state; without a caption of its own it always has
     /// the command's.
     QAction *repeat(QAction *command, QMenu *menu, const QString &name, const QString &caption = {});
@@ -54,6 +57,7 @@ private:
     struct Command {
         QAction *action;
         Reason unless;
+        bool isWriting = false;
         std::vector<QAction *> twins; ///< further entries and tools
         std::vector<QPushButton *> buttons;
         std::vector<QObject *> sameCaption; ///< those of them that are renamed with it
@@ -61,9 +65,10 @@ private:
 
     Command &find(const QAction *action);
     QAction *addTwin(Command &command, const QString &name, const QString &caption);
-    static void show(const Command &command);
+    void show(const Command &command) const;
 
     QWidget *m_window;
+    QString m_whyReadOnly;
     std::vector<Command> m_commands;
     QList<QAction *> m_tools;
     QStringList m_toolNames;

@@ -37,7 +37,7 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     , m_traits(std::move(traits))
     , m_activity(new ActivityBar(program.clock, program.state.dateStyle, this))
     , m_colors(new PanelColors(program, m_traits.colors, this, *m_activity))
-    , m_commands(new Commands(this))
+    , m_commands(new Commands(this, program.folder.whyReadOnly()))
     , m_standard(new StandardCommands(program, *m_commands, *m_colors, m_traits.helpContext, this))
     , m_toolbar(named(new WindowToolbar(program, m_traits.topToolbar, *m_commands, *m_activity, this),
                       u"toolbar"_s))
@@ -49,6 +49,7 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     setAttribute(Qt::WA_DeleteOnClose);
     setStatusBar(m_activity);
     m_activity->setActivity(m_traits.activity);
+    m_activity->showReadOnly(program.folder.whyReadOnly());
 
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);

@@ -42,13 +42,13 @@ QAction *StandardCommands::make(Standard command)
     };
     switch (command) {
     case Standard::PanelColor:
-        return add(u"mOC"_s, u"Panel C&olor"_s, [this] { m_colors.choosePanelColor(); });
+        return m_commands.writing(add(u"mOC"_s, u"Panel C&olor"_s, [this] { m_colors.choosePanelColor(); }));
     case Standard::TextColor:
-        return add(u"mOTC"_s, u"&Text Color"_s, [this] { m_colors.chooseTextColor(); });
+        return m_commands.writing(add(u"mOTC"_s, u"&Text Color"_s, [this] { m_colors.chooseTextColor(); }));
     case Standard::Backup:
         return add(u"mUB"_s, u"&Backup Files to Disk"_s, openBackup, noBackup);
     case Standard::Restore:
-        return add(u"mUR"_s, u"&Restore Files from Disk"_s, openBackup, noBackup);
+        return m_commands.writing(add(u"mUR"_s, u"&Restore Files from Disk"_s, openBackup, noBackup));
     case Standard::Help:
         return add(u"mH"_s, u"&Help"_s, [this] { emit m_program.changes.helpRequested(m_helpContext); });
     case Standard::Exit:

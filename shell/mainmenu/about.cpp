@@ -4,11 +4,14 @@
 #include "shell/controls/controls.h"
 #include "shell/look/icons.h"
 #include "shell/look/theme.h"
+#include "storage/datafolder.h"
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 
@@ -45,9 +48,17 @@ QString libraries()
            QString::fromLatin1(sodium_version_string()) + u'.';
 }
 
+/// All lines have the same width, or the box is too low for those that are broken.
+QLabel *fitted(QLabel *paragraph)
+{
+    paragraph->setWordWrap(true);
+    paragraph->setFixedWidth(textWidth);
+    return paragraph;
+}
+
 } // namespace
 
-About1::About1(QWidget *parent)
+About1::About1(const DataFolder &folder, QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
 {
     named(this, u"About1"_s);
@@ -60,7 +71,7 @@ About1::About1(QWidget *parent)
     auto *top = new QHBoxLayout;
     top->setSpacing(20);
     top->addWidget(sign, 0, Qt::AlignTop);
-    top->addLayout(makeWords(), 1);
+    top->addLayout(makeWords(folder), 1);
     QPushButton *ok = makeOk();
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(24, 24, 24, 20);
@@ -71,7 +82,7 @@ About1::About1(QWidget *parent)
     ok->setFocus();
 }
 
-QLayout *About1::makeWords()
+QLayout *About1::makeWords(const DataFolder &folder)
 {
     auto *words = new QVBoxLayout;
     words->setSpacing(4);
@@ -79,13 +90,24 @@ QLayout *About1::makeWords()
     words->addWidget(named(makeQuietLabel(version(), this), u"versionLabel"_s));
     words->addSpacing(12);
     for (const QString &text : {purpose(), licence(), libraries()}) {
-        auto *paragraph = new QLabel(text, this);
-        paragraph->setWordWrap(true);
-        paragraph->setFixedWidth(textWidth);
-        words->addWidget(paragraph);
+        words->addWidget(fitted(new QLabel(text, this)));
         words->addSpacing(8);
     }
+    words->addLayout(labelled(u"The household's files are in this folder"_s, makeFolderBox(folder)));
+    if (folder.isReadOnly())
+        words->addWidget(fitted(named(makeQuietLabel(folder.whyReadOnly(), this), u"readOnlyLabel"_s)));
+    words->addSpacing(8);
     return words;
+}
+
+/// A path can be too long for its line, and it can be copied.
+QLineEdit *About1::makeFolderBox(const DataFolder &folder)
+{
+    auto *box = named(new QLineEdit(QDir::toNativeSeparators(folder.path()), this), u"folderBox"_s);
+    box->setReadOnly(true);
+    box->setFixedWidth(textWidth);
+    box->setCursorPosition(0);
+    return box;
 }
 
 /// The button, and the same as an entry of the context menu.

@@ -10,7 +10,6 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commands.h"
-#include "shell/frame/functionwindow.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"
@@ -19,6 +18,7 @@
 #include "shell/mainmenu/carddesk.h"
 #include "shell/mainmenu/displaymode.h"
 #include "shell/mainmenu/functionsmenu.h"
+#include "shell/mainmenu/leaving.h"
 #include "shell/mainmenu/mainmenumessages.h"
 #include "shell/mainmenu/menupicture.h"
 #include "shell/mainmenu/menutoolbars.h"
@@ -35,8 +35,6 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QUrl>
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -70,7 +68,7 @@ Startfrm::Startfrm(Program &program, Surroundings surroundings, QWidget *parent)
     , m_surroundings(std::move(surroundings))
     , m_activity(new ActivityBar(program.clock, program.state.dateStyle, this))
     , m_picture(new MenuPicture(this))
-    , m_commands(new Commands(this))
+    , m_commands(new Commands(this, program.folder.whyReadOnly()))
     , m_colors(new PanelColors(program, menuColors, this, *m_activity))
     , m_background(new BackgroundFlow(program, *m_picture, *m_colors, *m_activity, this))
     , m_opener(program, *m_activity, this)
@@ -80,6 +78,7 @@ Startfrm::Startfrm(Program &program, Surroundings surroundings, QWidget *parent)
 {
     named(this, u"Startfrm"_s);
     setStatusBar(m_activity);
+    m_activity->showReadOnly(program.folder.whyReadOnly());
     makeMenus();
     makeSideTools();
     layOut();
@@ -113,7 +112,8 @@ void Startfrm::makeMenus()
 
 void Startfrm::makeOptionsMenu(QMenu &menu)
 {
-    m_commands->add(&menu, u"mOBC"_s, u"&Background Selector"_s, [this] { m_background->openSelector(); });
+    m_commands->writing(m_commands->add(&menu, u"mOBC"_s, u"&Background Selector"_s,
+                                        [this] { m_background->openSelector(); }));
     QMenu *display = makeMenu(u"mOP"_s, u"&Program Display"_s, &menu);
     menu.addMenu(display);
     QAction *fullScreen = m_commands->add(display, u"mOPF"_s, u"&Full Screen Display"_s,
@@ -126,7 +126,8 @@ void Startfrm::makeOptionsMenu(QMenu &menu)
     m_commands->add(display, u"mOPDefault"_s, u"&Default Screen Size"_s,
                     [this] { m_displayMode->useDefaultSize(); });
     addSeparator(menu, u"mO2"_s);
-    m_commands->add(&menu, u"mOPCDefault"_s, u"Default Panel Color"_s, [this] { useDefaultPanelColor(); });
+    m_commands->writing(m_commands->add(&menu, u"mOPCDefault"_s, u"Default Panel Color"_s,
+                                        [this] { useDefaultPanelColor(); }));
     addSeparator(menu, u"mO12"_s);
     addSeparator(menu, u"mO1"_s);
     m_commands->add(&menu, u"mOE"_s, u"E&xit"_s, [this] { close(); });
@@ -150,14 +151,15 @@ void Startfrm::makeSideTools()
 {
     const auto left = [this](int position, QLatin1StringView icon, const QString &word, const QString &tip,
                              std::function<void()> run) {
-        m_toolBars->addTool(m_toolBars->left(), position, icon, word, tip, std::move(run));
+        return m_toolBars->addTool(m_toolBars->left(), position, icon, word, tip, std::move(run));
     };
-    left(0, "palette"_L1, u"Background"_s, u"Chooses the picture of the main menu"_s,
-         [this] { m_background->openSelector(); });
+    QAction *background = left(0, "palette"_L1, u"Background"_s, u"Chooses the picture of the main menu"_s,
+                               [this] { m_background->openSelector(); });
     left(1, "screen-size"_L1, u"Screen Size"_s, u"Switches between full screen and a smaller window"_s,
          [this] { m_displayMode->toggle(); });
-    left(2, "family-name"_L1, u"Family Name"_s, u"Asks for the name in the title of the program"_s,
-         [this] { askFamilyName(); });
+    QAction *familyName =
+        left(2, "family-name"_L1, u"Family Name"_s, u"Asks for the name in the title of the program"_s,
+             [this] { askFamilyName(); });
     left(3, "edit"_L1, u"Customize"_s, u"Customize Toolbar"_s, [this] { m_toolBars->customizeTop(); });
     left(4, "top-toolbar"_L1, u"Top Toolbar"_s, u"Removes or restores the top toolbar"_s,
          [this] { m_toolBars->toggleTop(); });
@@ -172,12 +174,15 @@ void Startfrm::makeSideTools()
     left(9, "exit"_L1, u"Exit"_s, u"Exit Quillery"_s, [this] { close(); });
 
     const SideToolbar &right = m_toolBars->right();
-    m_toolBars->addTool(right, 0, "palette"_L1, u"Panel Color"_s, u"Chooses the color of the cards"_s,
-                        [this] { m_colors->choosePanelColor(); });
+    QAction *color =
+        m_toolBars->addTool(right, 0, "palette"_L1, u"Panel Color"_s, u"Chooses the color of the cards"_s,
+                            [this] { m_colors->choosePanelColor(); });
     m_toolBars->addTool(right, 1, "backup-command"_L1, u"Backup Help"_s,
                         u"Opens the manual at backup and restore"_s,
                         [this] { openManual(HelpContext::BackupAndRestore); });
     m_toolBars->addTool(right, 2, "about"_L1, u"About"_s, u"About Quillery"_s, [this] { showAbout(); });
+    for (QAction *writing : {background, familyName, color})
+        setUnavailable(writing, m_program.folder.whyReadOnly());
 }
 
 void Startfrm::layOut()
@@ -254,6 +259,7 @@ void Startfrm::activate()
     m_toolBars->showSides(false); // whatever the record of the side toolbars says
     m_program.state.startup = StartupDone;
     m_picture->desk().focusFirstCard();
+    m_activity->say(m_program.folder.whyReadOnly());
 }
 
 /// The part of the activation that removing a toolbar repeats.
@@ -328,7 +334,7 @@ void Startfrm::tellUnless(bool isSaved)
 void Startfrm::showAbout()
 {
     m_activity->setActivity(u"About Quillery"_s);
-    About1 box(this);
+    About1 box(m_program.folder, this);
     m_program.dialogs.run(box);
     showMainMenu();
 }
@@ -374,27 +380,9 @@ void Startfrm::closeEvent(QCloseEvent *event)
     emit exited();
 }
 
-/// Nothing is saved, dropped or closed before the exit was asked for and every window has agreed.
+/// Nothing happens to the other windows before the exit was asked for.
 bool Startfrm::mayExit()
 {
     Hourglass::off();
-    if (m_program.dialogs.ask(this, StartMessages::exit()) != Answer::Yes)
-        return false;
-    const QList<QWidget *> windows = m_program.functions.openWindows();
-    const auto each = [&windows](bool (FunctionWindow::*step)()) {
-        return std::all_of(windows.begin(), windows.end(), [step](QWidget *window) {
-            auto *functionWindow = qobject_cast<FunctionWindow *>(window);
-            const bool agrees = !functionWindow || (functionWindow->*step)();
-            if (!agrees)
-                bringToFront(*window);
-            return agrees;
-        });
-    };
-    if (each(&FunctionWindow::mayLeave) && each(&FunctionWindow::saveToLeave) &&
-        std::all_of(windows.begin(), windows.end(), [](QWidget *window) { return window->close(); }))
-        return true;
-    for (QWidget *window : windows)
-        if (auto *functionWindow = qobject_cast<FunctionWindow *>(window))
-            functionWindow->stay();
-    return false;
+    return m_program.dialogs.ask(this, StartMessages::exit()) == Answer::Yes && leaveAllWindows(m_program);
 }

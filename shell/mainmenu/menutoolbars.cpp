@@ -82,8 +82,8 @@ void MenuToolBars::makeTop(const FunctionOpener &opener)
     m_topLayout = new ToolbarLayout(m_program, m_top, u"Toolbar1"_s, actions, designedTop());
 }
 
-void MenuToolBars::addTool(const SideToolbar &bar, int position, QLatin1StringView icon, const QString &word,
-                           const QString &tip, std::function<void()> run)
+QAction *MenuToolBars::addTool(const SideToolbar &bar, int position, QLatin1StringView icon,
+                               const QString &word, const QString &tip, std::function<void()> run)
 {
     const QString name = bar.bar().objectName() + u'_' + QString::number(position);
     QAction *action = makeAction(name, word, m_window);
@@ -91,6 +91,7 @@ void MenuToolBars::addTool(const SideToolbar &bar, int position, QLatin1StringVi
     action->setToolTip(tip);
     connect(action, &QAction::triggered, this, std::move(run));
     bar.bar().addAction(action);
+    return action;
 }
 
 void MenuToolBars::setFirstButtonEnabled(bool enabled)

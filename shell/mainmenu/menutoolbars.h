@@ -28,8 +28,8 @@ public:
     SideToolbar &right() const { return *m_right; }
 
     /// A button of a side toolbar, by its position, which never changes.
-    void addTool(const SideToolbar &bar, int position, QLatin1StringView icon, const QString &word,
-                 const QString &tip, std::function<void()> run);
+    QAction *addTool(const SideToolbar &bar, int position, QLatin1StringView icon, const QString &word,
+                     const QString &tip, std::function<void()> run);
 
     /// The first button of the top toolbar can be pressed only when the program is loaded.
     void setFirstButtonEnabled(bool enabled);

@@ -21,8 +21,8 @@ QString filledFolder(const QTemporaryDir &temporary, TestProgram::Content conten
 
 } // namespace
 
-TestProgram::TestProgram(Content content)
-    : folder(filledFolder(temporary, content))
+TestProgram::TestProgram(Content content, const QString &whyReadOnly)
+    : folder(filledFolder(temporary, content), whyReadOnly)
     , programFolder(temporary.filePath(QStringLiteral("program")))
     , settings(folder)
     , gate([](Program &, QWidget *) {})

@@ -24,7 +24,8 @@ class TestProgram
 public:
     enum Content { Empty, Household };
 
-    explicit TestProgram(Content content = Empty);
+    /// With a reason, the household is for reading only.
+    explicit TestProgram(Content content = Empty, const QString &whyReadOnly = {});
 
     /// Path of a file of the data folder.
     QString path(const QString &name) const { return temporary.filePath(u"data/" + name); }

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/folderhold.h"
+
+using Reply = InstanceLink::Reply;
+
+FolderHold::FolderHold(const DataFolder &folder)
+    : m_isReadOnly(folder.isReadOnly())
+    , m_lock(folder)
+    , m_line(folder)
+{}
+
+FolderHold::Result FolderHold::take()
+{
+    if (!m_isReadOnly && !m_lock.take())
+        return m_line.callOther() == Reply::Answer ? Result::Answered : Result::Locked;
+    // A program that found no room for its lock has the line alone, and may be starting this moment.
+    const Reply reply = m_line.callOther(m_isReadOnly || m_lock.isHeld() ? 1 : 2);
+    if (reply == Reply::Nobody)
+        return listen();
+    m_lock.release();
+    if (reply == Reply::Answer)
+        return Result::Answered;
+    return m_isReadOnly ? Result::Ours : Result::Unknown;
+}
+
+FolderHold::Result FolderHold::takeOver()
+{
+    return m_lock.takeOver() ? listen() : Result::Locked;
+}
+
+FolderHold::Result FolderHold::listen()
+{
+    const bool isListening = m_line.listen();
+    return isListening || m_isReadOnly || m_lock.isHeld() ? Result::Ours : Result::Unknown;
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/instancelink.h"
+#include "storage/folderlock.h"
+
+/// Holds the household's folder for this program: with the lock in it or, where none can be made, with the
+/// line that is named after it.
+class FolderHold
+{
+public:
+    enum class Result {
+        Ours,    ///< no other program writes here; of a folder for reading only nobody asks that
+        Unknown, ///< another program may be at work here
+        Locked,  ///< another program holds it and does not answer
+        Answered ///< another program is at work here, and has come to the front
+    };
+
+    explicit FolderHold(const DataFolder &folder);
+
+    Result take();
+    /// After `Locked`: the user knows that the lock is nobody's.
+    Result takeOver();
+
+    /// Who has locked the folder, as `FolderLock::holder`.
+    QString holder() const { return m_lock.holder(); }
+    /// Hears the calls of later starts.
+    const InstanceLink &line() const { return m_line; }
+
+private:
+    Result listen();
+
+    bool m_isReadOnly;
+    FolderLock m_lock;
+    InstanceLink m_line;
+};

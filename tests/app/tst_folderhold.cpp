@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/folderhold.h"
+#include "tests/support/rows.h"
+#include "tests/support/testfiles.h"
+
+#include <QDir>
+
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+using Result = FolderHold::Result;
+
+class TestFolderHold : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void holdsTheFolderByWhateverCanBeMade_data()
+    {
+        enum { Lock = true, NoLock = false, Line = true, NoLine = false, Hangs = true, Alone = false };
+        rows<bool, bool, bool, QString, int>({
+            {"lock and line", Lock, Line, Alone, {}, int(Result::Ours)},
+            {"the lock alone", Lock, NoLine, Alone, {}, int(Result::Ours)},
+            {"the line alone", NoLock, Line, Alone, {}, int(Result::Ours)},
+            {"neither", NoLock, NoLine, Alone, {}, int(Result::Unknown)},
+            {"another has the line alone", Lock, Line, Hangs, {}, int(Result::Unknown)},
+            {"for reading", NoLock, NoLine, Alone, u"For reading only"_s, int(Result::Ours)},
+        });
+    }
+
+    void holdsTheFolderByWhateverCanBeMade()
+    {
+        const auto [hasLock, hasLine, hangs, whyReadOnly, result] = row<bool, bool, bool, QString, int>();
+        const TestFolder test;
+        const DataFolder folder(test.path({}), whyReadOnly);
+        if (!hasLock)
+            QVERIFY(QDir().mkdir(test.path(u"Quillery.lock"_s)));
+        // A program that found no room for its lock, and takes no calls while this test waits for it.
+        std::optional<InstanceLink> other;
+        if (hangs)
+            QVERIFY(other.emplace(folder).listen());
+        const QByteArray temporary = qgetenv("TMPDIR");
+        if (!hasLine)
+            qputenv("TMPDIR", "/dev/null");
+        FolderHold hold(folder);
+        const Result taken = hold.take();
+        temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+        QCOMPARE(int(taken), result);
+        // Who only reads leaves the lock to others.
+        QCOMPARE(FolderLock(folder).take(), !hasLock || result != int(Result::Ours));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestFolderHold)
+#include "tst_folderhold.moc"
