@@ -6,16 +6,68 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <tuple>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+#endif
+
 using namespace Qt::Literals::StringLiterals;
 
 FolderLock::FolderLock(const DataFolder &folder)
-    : m_lock(folder.path() + u"/Quillery.lock")
+    : m_path(folder.path())
+    , m_lock(folder.path() + u"/Quillery.lock")
 {
     // A lock grows old only by the death of its program, however long that one runs.
     m_lock.setStaleLockTime(0);
 }
 
+FolderLock::~FolderLock()
+{
+    release();
+}
+
 bool FolderLock::take()
+{
+    if (lockFolder() && lockFile())
+        return true;
+    release();
+    return false;
+}
+
+void FolderLock::release()
+{
+    m_lock.unlock();
+#ifdef Q_OS_UNIX
+    if (m_handle >= 0)
+        close(m_handle);
+#endif
+    m_handle = -1;
+}
+
+/// False only when another program is known to have locked it.
+bool FolderLock::lockFolder()
+{
+#ifdef Q_OS_UNIX
+    if (m_handle >= 0)
+        return true;
+    m_handle = open(QFile::encodeName(m_path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (m_handle < 0 || flock(m_handle, LOCK_EX | LOCK_NB) == 0)
+        return true;
+    const bool isOthers = errno == EWOULDBLOCK;
+    close(m_handle);
+    m_handle = -1;
+    return !isOthers;
+#else
+    return true;
+#endif
+}
+
+/// False when another program holds it.
+bool FolderLock::lockFile()
 {
     if (m_lock.tryLock(0))
         return true;
@@ -33,7 +85,7 @@ bool FolderLock::take()
 
     const bool isHeld = m_lock.error() == QLockFile::LockFailedError && QFileInfo(m_lock.fileName()).isFile();
     if (!isHeld)
-        qCWarning(storageLog).noquote() << "Running without a lock: cannot make" << m_lock.fileName();
+        qCWarning(storageLog).noquote() << "Running without a lock file: cannot make" << m_lock.fileName();
     return !isHeld;
 }
 
@@ -51,5 +103,6 @@ bool FolderLock::takeOver()
 {
     // It may have gone by itself meanwhile.
     QFile::remove(m_lock.fileName());
-    return take();
+    std::ignore = lockFolder(); // where somebody has that, the user's word counts
+    return lockFile();
 }

@@ -48,6 +48,11 @@ QString libraries()
            QString::fromLatin1(sodium_version_string()) + u'.';
 }
 
+QString readOnlyWords(const DataFolder &folder)
+{
+    return u"For reading only. "_s + folder.whyReadOnly() + u'.';
+}
+
 /// All lines have the same width, or the box is too low for those that are broken.
 QLabel *fitted(QLabel *paragraph)
 {
@@ -95,7 +100,7 @@ QLayout *About1::makeWords(const DataFolder &folder)
     }
     words->addLayout(labelled(u"The household's files are in this folder"_s, makeFolderBox(folder)));
     if (folder.isReadOnly())
-        words->addWidget(fitted(named(makeQuietLabel(folder.whyReadOnly(), this), u"readOnlyLabel"_s)));
+        words->addWidget(fitted(named(makeQuietLabel(readOnlyWords(folder), this), u"readOnlyLabel"_s)));
     words->addSpacing(8);
     return words;
 }

@@ -18,21 +18,24 @@ private slots:
     void holdsTheFolderByWhateverCanBeMade_data()
     {
         enum { Lock = true, NoLock = false, Line = true, NoLine = false, Hangs = true, Alone = false };
-        rows<bool, bool, bool, QString, int>({
-            {"lock and line", Lock, Line, Alone, {}, int(Result::Ours)},
-            {"the lock alone", Lock, NoLine, Alone, {}, int(Result::Ours)},
-            {"the line alone", NoLock, Line, Alone, {}, int(Result::Ours)},
-            {"neither", NoLock, NoLine, Alone, {}, int(Result::Unknown)},
-            {"another has the line alone", Lock, Line, Hangs, {}, int(Result::Unknown)},
-            {"for reading", NoLock, NoLine, Alone, u"For reading only"_s, int(Result::Ours)},
+        rows<QString, bool, bool, bool, QString, int>({
+            {"lock and line", {}, Lock, Line, Alone, {}, int(Result::Ours)},
+            {"the lock alone", {}, Lock, NoLine, Alone, {}, int(Result::Ours)},
+            {"the folder and the line", {}, NoLock, Line, Alone, {}, int(Result::Ours)},
+            {"the folder alone", {}, NoLock, NoLine, Alone, {}, int(Result::Ours)},
+            {"the line alone", u"missing"_s, NoLock, Line, Alone, {}, int(Result::Ours)},
+            {"nothing", u"missing"_s, NoLock, NoLine, Alone, {}, int(Result::Unknown)},
+            {"another has the line alone", {}, Lock, Line, Hangs, {}, int(Result::Unknown)},
+            {"for reading", {}, NoLock, NoLine, Alone, u"For reading only"_s, int(Result::Ours)},
         });
     }
 
     void holdsTheFolderByWhateverCanBeMade()
     {
-        const auto [hasLock, hasLine, hangs, whyReadOnly, result] = row<bool, bool, bool, QString, int>();
+        const auto [name, hasLock, hasLine, hangs, whyReadOnly, result] =
+            row<QString, bool, bool, bool, QString, int>();
         const TestFolder test;
-        const DataFolder folder(test.path({}), whyReadOnly);
+        const DataFolder folder(test.path(name), whyReadOnly);
         if (!hasLock)
             QVERIFY(QDir().mkdir(test.path(u"Quillery.lock"_s)));
         // A program that found no room for its lock, and takes no calls while this test waits for it.
@@ -47,7 +50,8 @@ private slots:
         temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
         QCOMPARE(int(taken), result);
         // Who only reads leaves the lock to others.
-        QCOMPARE(FolderLock(folder).take(), !hasLock || result != int(Result::Ours));
+        QCOMPARE(FolderLock(folder).take(),
+                 !name.isEmpty() || !whyReadOnly.isEmpty() || taken != Result::Ours);
     }
 };
 

@@ -135,7 +135,7 @@ private slots:
         const DataFolder folder(QDir::tempPath(), m_why);
         const About1 about(folder, nullptr);
         QCOMPARE(control<QLineEdit>(about, "folderBox")->text(), QDir::toNativeSeparators(folder.path()));
-        QCOMPARE(control<QLabel>(about, "readOnlyLabel")->text(), m_why);
+        QVERIFY(control<QLabel>(about, "readOnlyLabel")->text().contains(m_why));
     }
 
 private:

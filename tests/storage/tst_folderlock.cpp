@@ -74,7 +74,9 @@ private slots:
 
         QVERIFY(QDir().mkdir(lockPath()));
         expectWarning("^Running without a lock");
-        QVERIFY(lock().take());
+        FolderLock first(DataFolder(m_dir->path()));
+        QVERIFY(first.take());
+        QVERIFY(!lock().take());
         QVERIFY(QFileInfo(lockPath()).isDir());
     }
 
