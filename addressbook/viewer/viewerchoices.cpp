@@ -3,6 +3,7 @@
 
 #include "addressbook/model/viewerpages.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/pastefilter.h"
 #include "shell/controls/searchbox.h"
 #include "shell/look/theme.h"
 
@@ -127,6 +128,7 @@ QComboBox *ViewerChoices::makeMonthBox(const QString &name, const QString &capti
     box->setAccessibleName(caption);
     box->setToolTip(u"A month as Apr, April or 4"_s);
     box->lineEdit()->setPlaceholderText(u"Month"_s);
+    new PasteFilter(box->lineEdit(), Characters::All);
     // Who names a month wants to see it.
     connect(box, &QComboBox::editTextChanged, this, [this, kind](const QString &text) {
         m_range->button(text.isEmpty() ? m_range->checkedId() : kind)->setChecked(true);

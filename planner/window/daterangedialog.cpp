@@ -26,6 +26,7 @@ DateRangeDialog::DateRangeDialog(QDate from, QDate to, const DateReading &readin
     for (const auto &[box, caption, date] :
          {std::tuple{m_fromBox, u"From"_s, from}, std::tuple{m_toBox, u"To"_s, to}}) {
         box->setDate(date);
+        connect(box, &FieldBox::refused, m_hint, &QLabel::setText);
         boxes->addLayout(labelled(caption, box));
     }
     QPushButton *ok = makeButton(u"rangeOk"_s, u"OK"_s, this, ButtonKind::Main);

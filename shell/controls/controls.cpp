@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/controls.h"
 
+#include "shell/controls/pastefilter.h"
 #include "shell/controls/scrollpart.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"
@@ -119,10 +120,7 @@ public:
 
     State validate(QString &input, int &) const override
     {
-        for (QChar &character : input)
-            if (character < u' ' || character == QChar(0x7f) || character == QChar::LineSeparator ||
-                character == QChar::ParagraphSeparator)
-                character = u' '; // line ends and tabs of the clipboard
+        std::ranges::replace_if(input, isControl, u' '); // a file may have them
         m_foreign = AnsiText::foreignCharacters(input);
         return m_foreign.isEmpty() ? Acceptable : Invalid;
     }
@@ -142,6 +140,15 @@ FieldBox::FieldBox(QWidget *parent)
         const QString foreign = m_validator->takeForeign();
         emit refused(foreign.isEmpty() ? ShellMessages::fieldIsFull(m_limit)
                                        : ShellMessages::characterRefused(foreign));
+    });
+    const auto *pasting = new PasteFilter(this, Characters::OfTheFiles);
+    connect(pasting, &PasteFilter::leftOut, this, [this](const QString &foreign, bool isFull) {
+        QStringList reasons;
+        if (!foreign.isEmpty())
+            reasons << ShellMessages::characterRefused(foreign);
+        if (isFull)
+            reasons << ShellMessages::fieldIsFull(maxLength());
+        emit refused(reasons.join(u". "_s));
     });
 }
 

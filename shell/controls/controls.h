@@ -31,8 +31,8 @@ std::array<T *, Count> controlArray(const QString &name, QWidget *parent)
     return controls;
 }
 
-/// A line edit for a field of a data file: takes at most `limit` bytes of the files' code page and refuses
-/// characters that the code page lacks, at the keyboard and from the clipboard, with a quiet line through
+/// A line edit for a field of a data file: takes at most `limit` bytes of the files' code page, and none of
+/// the characters that the code page lacks, typed, pasted or dropped; what it leaves out it tells through
 /// `refused`. Locked boxes are skipped by Tab and drawn as such.
 class FieldBox : public QLineEdit
 {
@@ -40,13 +40,14 @@ class FieldBox : public QLineEdit
 public:
     explicit FieldBox(QWidget *parent = nullptr);
 
-    /// 0: no limit. One character is one byte; what is pasted beyond the limit is cut.
+    /// 0: no limit. One character is one byte.
     void setByteLimit(int limit);
     void setLocked(bool locked);
     bool isLocked() const { return isReadOnly(); }
 
 signals:
-    /// Something typed or pasted could not be taken; `reason` is a sentence for the status bar.
+    /// Something typed or pasted could not be taken, or not all of it; `reason` is a sentence for the status
+    /// bar.
     void refused(const QString &reason);
 
 private:

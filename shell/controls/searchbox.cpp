@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/searchbox.h"
 
+#include "shell/controls/pastefilter.h"
 #include "shell/look/theme.h"
 
 #include <QKeyEvent>
@@ -15,6 +16,7 @@ SearchBox::SearchBox(const QString &name, const QString &words, const QString &t
     setAccessibleName(words);
     setToolTip(tip);
     setClearButtonEnabled(true);
+    new PasteFilter(this, Characters::All); // what no file can hold is simply not found
     addAction(Icons::icon("search"_L1, Theme::of(this).scheme), LeadingPosition);
 }
 

@@ -10,9 +10,11 @@
 #include "tests/support/testprogram.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QListView>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMimeData>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStatusTipEvent>
@@ -20,6 +22,22 @@
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Lets `text` fall behind the last character of `box`.
+void drop(QLineEdit &box, const QString &text)
+{
+    QMimeData mime;
+    mime.setText(text);
+    QDragEnterEvent enter(QPoint(box.width() - 2, box.height() / 2), Qt::CopyAction, &mime, Qt::LeftButton,
+                          {});
+    QApplication::sendEvent(&box, &enter);
+    QDropEvent event(QPointF(box.width() - 2, box.height() / 2.0), Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QApplication::sendEvent(&box, &event);
+}
+
+} // namespace
 
 class TestControls : public QObject
 {
@@ -48,29 +66,46 @@ private:
 
 void TestControls::aBoxTakesWhatItsFileHolds_data()
 {
-    rows<QString, QString, QString, bool>({
-        {"plain", u"Lin"_s, u"d"_s, u"Lind"_s, false},
-        {"accents and a long dash", {}, u"Jos\u00e9 \u2013"_s, u"Jos\u00e9 \u2013"_s, false},
-        {"accent as a character of its own", {}, u"Jose\u0301"_s, u"Jose\u0301"_s, false},
-        {"a letter that the files lack", u"Anna"_s, u"\u0141"_s, u"Anna"_s, true},
-        {"a word with such a letter", u"Anna"_s, u" \u0141ukasz"_s, u"Anna"_s, true},
-        {"beyond the limit", u"12345678"_s, u"9012"_s, u"1234567890"_s, true},
-        {"line ends", {}, u"a\tb\nc"_s, u"a b c"_s, false},
+    const QString foreign = u"The files cannot hold the character "_s;
+    const QString full = u"This box takes 10 characters at most"_s;
+    rows<QString, QString, QString, QString>({
+        {"plain", u"Lin"_s, u"d"_s, u"Lind"_s, {}},
+        {"accents and a long dash", {}, u"Jos\u00e9 \u2013"_s, u"Jos\u00e9 \u2013"_s, {}},
+        {"accent as a character of its own", {}, u"Jose\u0301"_s, u"Jos\u00e9"_s, {}},
+        {"only a letter that the files lack", u"Anna"_s, u"\u0141"_s, u"Anna"_s, foreign + u"\u0141"_s},
+        {"such letters among others", u"A "_s, u"\u0141uk\U0001f600\u0141a"_s, u"A uka"_s,
+         foreign + u"\u0141\U0001f600"_s},
+        {"beyond the limit", u"12345678"_s, u"9012"_s, u"1234567890"_s, full},
+        {"both", u"12345678"_s, u"\u0141901"_s, u"1234567890"_s, foreign + u"\u0141. "_s + full},
+        {"line ends", {}, u"\ta\tb\r\nc\n"_s, u"a b c"_s, {}},
     });
 }
 
 void TestControls::aBoxTakesWhatItsFileHolds()
 {
-    const auto [before, pasted, text, isRefused] = row<QString, QString, QString, bool>();
+    const auto [before, offered, text, reason] = row<QString, QString, QString, QString>();
     FieldBox box;
     box.setByteLimit(10);
-    box.setText(before);
-    box.setCursorPosition(int(before.size()));
     QSignalSpy refused(&box, &FieldBox::refused);
-    QApplication::clipboard()->setText(pasted);
-    box.paste();
-    QCOMPARE(box.text(), text);
-    QCOMPARE(!refused.isEmpty(), isRefused);
+    for (const bool isDropped : {false, true}) {
+        box.clear();
+        QTest::keyClicks(&box, before);
+        if (isDropped) {
+            drop(box, offered);
+        } else {
+            QApplication::clipboard()->setText(offered);
+            QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+        }
+        QCOMPARE(box.text(), text);
+        QCOMPARE(refused.isEmpty() ? QString() : refused.takeFirst().first().toString(), reason);
+        if (text == before)
+            continue;
+        QTest::keyClick(&box, Qt::Key_Backspace); // a step of its own
+        box.undo();
+        QCOMPARE(box.text(), text);
+        box.undo();
+        QCOMPARE(box.text(), before);
+    }
 }
 
 void TestControls::aLockedBoxIsSkipped()
