@@ -62,10 +62,14 @@ QString word(Kind kind, qsizetype count = 1)
     return count == 1 ? u"anniversary"_s : u"anniversaries"_s;
 }
 
-/// "today", or the name of the day.
-QString dayName(QDate day, QDate today)
+/// "Sunday: Irene Frank's birthday". The name gives way where not all of it has room.
+LiveLine lineOf(const QString &day, const Occasion &occasion, const QString &sentence)
 {
-    return day == today ? u"today"_s : QLocale::c().dayName(day.dayOfWeek());
+    LiveLine line{day + u": "_s, LiveLine::Plain, sentence};
+    line.nameAt = line.text.size();
+    line.nameLength = occasion.name.size();
+    line.text += occasion.name + u"'s "_s + word(occasion.kind);
+    return line;
 }
 
 /// "Anne Lind turns 48"
@@ -89,7 +93,7 @@ public:
     std::optional<LiveLine> line() const;
 
 private:
-    QString weekText() const;
+    QString countText() const;
     QString sentence() const;
 
     DateStyle m_style;
@@ -113,22 +117,20 @@ void Ahead::add(Kind kind, QByteArrayView record)
 
 std::optional<LiveLine> Ahead::line() const
 {
-    if (!m_thisWeek.empty())
-        return LiveLine{weekText(), LiveLine::Plain, sentence()};
-    if (!m_later)
-        return std::nullopt;
-    return LiveLine{u"Next "_s + word(m_later->kind) + u": "_s + m_later->name + u", "_s +
-                        Dates::shortText(m_later->day, m_style),
-                    LiveLine::Plain,
-                    {}};
-}
-
-QString Ahead::weekText() const
-{
+    if (m_thisWeek.size() > 1)
+        return LiveLine{countText(), LiveLine::Plain, sentence()};
     if (m_thisWeek.size() == 1) {
         const Occasion &only = m_thisWeek.front();
-        return only.name + u": "_s + word(only.kind) + u' ' + dayName(only.day, m_today);
+        return lineOf(only.day == m_today ? u"Today"_s : QLocale::c().dayName(only.day.dayOfWeek()), only,
+                      sentence());
     }
+    if (m_later)
+        return lineOf(Dates::shortText(m_later->day, m_style), *m_later, {});
+    return std::nullopt;
+}
+
+QString Ahead::countText() const
+{
     QStringList parts;
     for (const Kind kind : {Kind::Birthday, Kind::Anniversary}) {
         const auto count = std::ranges::count(m_thisWeek, kind, &Occasion::kind);
@@ -138,15 +140,16 @@ QString Ahead::weekText() const
     return parts.join(u", "_s) + u" this week"_s;
 }
 
-/// Of the first occasion: "Anne Lind turns 48 today.", "Anne Lind has a birthday on Tuesday."
+/// Of the first occasion: "Turning 48 today: Anne Lind.", "Birthday on Tuesday: Anne Lind."
 QString Ahead::sentence() const
 {
     const Occasion &first = *std::ranges::min_element(m_thisWeek, {}, &Occasion::day);
-    const bool isToday = first.day == m_today;
-    if (isToday && first.kind == Kind::Birthday)
-        return noteText(first) + u" today."_s;
-    return first.name + (first.kind == Kind::Birthday ? u" has a "_s : u" has an "_s) + word(first.kind) +
-           (isToday ? u" "_s : u" on "_s) + dayName(first.day, m_today) + u'.';
+    const bool isBirthday = first.kind == Kind::Birthday;
+    const QString what = isBirthday ? u"Birthday"_s : u"Anniversary"_s;
+    if (first.day != m_today)
+        return what + u" on "_s + QLocale::c().dayName(first.day.dayOfWeek()) + u": "_s + first.name + u'.';
+    return (isBirthday ? u"Turning "_s + QString::number(first.years) : what) + u" today: "_s + first.name +
+           u'.';
 }
 
 } // namespace

@@ -12,6 +12,9 @@ struct LiveLine {
     Urgency urgency = Plain;
     /// A whole sentence for the line under the date, or empty when the function has nothing to say there.
     QString sentence;
+    /// The part of `text` that is cut first where not all of it has room: a name. None when the length is 0.
+    qsizetype nameAt = 0;
+    qsizetype nameLength = 0;
 
     bool operator==(const LiveLine &) const = default;
 };

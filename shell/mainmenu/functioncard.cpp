@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPixmapCache>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
@@ -100,6 +101,19 @@ QSize FunctionCard::sizeHint() const
 QString FunctionCard::lineText() const
 {
     return m_line ? m_line->text : m_quietText;
+}
+
+/// The line in `width` pixels: a name in it gives way first.
+QString FunctionCard::cutLine(const QFontMetrics &metrics, int width) const
+{
+    QString line = lineText();
+    const int missing = metrics.horizontalAdvance(line) - width;
+    if (missing > 0 && m_line && m_line->nameLength > 0) {
+        const QString name = line.sliced(m_line->nameAt, m_line->nameLength);
+        const int room = std::max(0, metrics.horizontalAdvance(name) - missing);
+        line.replace(m_line->nameAt, m_line->nameLength, metrics.elidedText(name, Qt::ElideRight, room));
+    }
+    return metrics.elidedText(line, Qt::ElideRight, width);
 }
 
 /// Tool tip and accessible description follow the line: the whole of it when it is cut.
@@ -225,7 +239,7 @@ void FunctionCard::paintLine(QPainter &painter, const QRect &place) const
     painter.setFont(font);
     painter.setPen(lineInk(urgency));
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     QFontMetrics(font).elidedText(lineText(), Qt::ElideRight, text.width()));
+                     cutLine(QFontMetrics(font), text.width()));
 }
 
 void FunctionCard::paintEvent(QPaintEvent *)

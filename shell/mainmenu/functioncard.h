@@ -46,6 +46,7 @@ private:
     void paintLine(QPainter &painter, const QRect &place) const;
     void tellLine();
     QString lineText() const;
+    QString cutLine(const QFontMetrics &metrics, int width) const;
     bool hasUserColor() const;
     QColor fill() const;
     QColor lineInk(LiveLine::Urgency urgency) const;
