@@ -86,9 +86,7 @@ void ComingUpModel::load(QDate from, QDate to)
     m_notes.clear();
     for (const FunctionFace &face : FunctionFaces::cards()) {
         const FunctionEntry *entry = m_program.functions.entry(face.function);
-        const bool isGuarded =
-            face.area != Area::None && m_program.state.protectedAreas.isProtected(face.area);
-        if (!entry || !entry->dayNotes || isGuarded)
+        if (!entry || !entry->dayNotes || face.isGuarded(m_program.state.protectedAreas))
             continue;
         for (const DayNote &note : entry->dayNotes(m_program, from, to))
             m_notes.push_back({note, face.function});

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/mainmenu/menunews.h"
 
-#include "shell/core/area.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 
@@ -39,8 +38,8 @@ void MenuNews::refresh()
         if (known != m_known.end() && known->second.reading == reading)
             continue;
         std::optional<LiveLine> line;
-        if (reading.guarded)
-            line = LiveLine{u"Protected"_s, LiveLine::Plain, {}};
+        if (!reading.guarded.isEmpty())
+            line = LiveLine{reading.guarded, LiveLine::Plain, {}};
         else if (entry->liveLine)
             line = entry->liveLine(m_program, reading.day);
         m_known[face.function] = {reading, line};
@@ -50,7 +49,8 @@ void MenuNews::refresh()
 MenuNews::Reading MenuNews::readingOf(const FunctionFace &face, const FunctionEntry &entry) const
 {
     const ProgramState &state = m_program.state;
-    const bool guarded = face.area != Area::None && state.protectedAreas.isProtected(face.area);
+    const QString guarded =
+        face.isGuarded(state.protectedAreas) ? face.guardedText(state.protectedAreas) : QString();
     const QDateTime now = m_program.clock.now();
     const int minute = entry.followsClock ? now.time().hour() * 60 + now.time().minute() : 0;
     return {FileStamp::of(m_program.folder, entry.liveFiles), now.date(), minute, state.dateStyle, guarded};

@@ -43,7 +43,7 @@ private:
         QDate day;
         int minute; ///< of the day, for news that go on with the clock; else 0
         DateStyle style;
-        bool guarded;
+        QString guarded; ///< what the card says of it; empty while every way is open
         bool operator==(const Reading &) const = default;
     };
     struct Known {

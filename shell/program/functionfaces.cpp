@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/program/functionfaces.h"
 
-#include "shell/core/area.h"
-
 #include <algorithm>
 #include <array>
 
@@ -12,7 +10,7 @@ namespace {
 
 constexpr std::array faces{
     FunctionFace{Function::AddressBook, "addressBook", "address-book", "Address Book",
-                 "Names, numbers, birthdays", Area::AddressBook},
+                 "Names, numbers, birthdays", Area::AddressBook, Area::AddressBookButton},
     FunctionFace{Function::Planner, "planner", "planner", "Daily Planner", "Appointments day by day",
                  Area::Planner},
     FunctionFace{Function::CalendarMaker, "calendarMaker", "calendar", "Calendar Maker",
@@ -34,7 +32,7 @@ constexpr std::array faces{
                  "What the password guards", Area::None},
     FunctionFace{Function::Backup, "backup", "backup", "Backup", "A second copy of it all", Area::None},
     FunctionFace{Function::AddressViewer, "addressViewer", "address-viewer", "Address Viewer",
-                 "All names in one grid", Area::AddressViewer},
+                 "All names in one grid", Area::AddressViewer, Area::AddressViewerButton},
 };
 
 constexpr std::size_t cardCount = faces.size() - 1; // the viewer has none
@@ -49,6 +47,20 @@ QString FunctionFace::cardName() const
 QString FunctionFace::missingReason() const
 {
     return titleText() + u" is not part of this program yet."_s;
+}
+
+bool FunctionFace::isGuarded(const ProtectedAreas &areas) const
+{
+    return areas.isProtected(area) || areas.isProtected(buttonArea);
+}
+
+QString FunctionFace::guardedText(const ProtectedAreas &areas) const
+{
+    if (!areas.isProtected(area))
+        return u"Protected; open from this card"_s;
+    if (buttonArea != Area::None && !areas.isProtected(buttonArea))
+        return u"Protected; open from the toolbar"_s;
+    return u"Protected"_s;
 }
 
 std::span<const FunctionFace> FunctionFaces::cards()

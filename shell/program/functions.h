@@ -42,7 +42,7 @@ struct FunctionEntry {
     /// The files that the news comes from: it is read again only when one of them has changed.
     QStringList liveFiles;
     /// What the function has for the dates `from` to `to`, in date order; empty for a function without any.
-    /// It is not asked while the function is guarded.
+    /// It is not asked while any way into the function is guarded.
     std::function<QList<DayNote>(const Program &, QDate from, QDate to)> dayNotes;
     /// Whether the news change in the course of a day without any file having changed.
     bool followsClock = false;

@@ -428,7 +428,7 @@ private slots:
                  u"Anne Lind turns 48 (Address Book, on Tuesday)"_s);
         QCOMPARE(shownRows(), QStringList());
         from = {};
-        m_test->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
+        m_test->state.protectedAreas.setFlag(Area::AddressBookButton, u"YES"_s);
         show();
         QTest::qWait(20);
         QVERIFY(!from.isValid());

@@ -13,8 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const LiveLine birthday{u"Anne Lind: birthday Tuesday"_s, LiveLine::Plain,
-                        u"Anne Lind has a birthday on Tuesday."_s};
+const LiveLine birthday{u"Tuesday: Anne Lind's birthday"_s, LiveLine::Plain,
+                        u"Birthday on Tuesday: Anne Lind."_s, 9, 9};
 
 } // namespace
 
@@ -27,6 +27,7 @@ private slots:
     void saysWhyACardIsDisabled();
     void walksByArrowKeys();
     void showsTheNews();
+    void keepsAGuardedFunctionsNewsToItself_data();
     void keepsAGuardedFunctionsNewsToItself();
     void readsTheNewsAgainOnlyWhenAFileHasChanged();
     void choosesColumnsByWidth_data();
@@ -99,16 +100,27 @@ void TestMenuCards::showsTheNews()
     QCOMPARE(control<FunctionCard>(window, "card_planner")->accessibleDescription(),
              u"Appointments day by day"_s);
     QCOMPARE(control<QLabel>(window, "sentenceLabel")->text(),
-             u"Good morning. Anne Lind has a birthday on Tuesday."_s);
+             u"Good morning. Birthday on Tuesday: Anne Lind."_s);
+}
+
+void TestMenuCards::keepsAGuardedFunctionsNewsToItself_data()
+{
+    rows<QList<int>, QString>({
+        {"both ways", {Area::AddressBook, Area::AddressBookButton}, u"Protected"_s},
+        {"card", {Area::AddressBook}, u"Protected; open from the toolbar"_s},
+        {"button", {Area::AddressBookButton}, u"Protected; open from this card"_s},
+    });
 }
 
 void TestMenuCards::keepsAGuardedFunctionsNewsToItself()
 {
+    const auto [areas, text] = row<QList<int>, QString>();
     StartWindow start;
     start.addFunction(Function::AddressBook, birthday);
-    start.protectAll();
+    for (const int area : areas)
+        start.test.state.protectedAreas.setFlag(area, u"YES"_s);
     Startfrm &window = start.show();
-    QTRY_COMPARE(control<FunctionCard>(window, "card_addressBook")->accessibleDescription(), u"Protected"_s);
+    QTRY_COMPARE(control<FunctionCard>(window, "card_addressBook")->accessibleDescription(), text);
     QCOMPARE(control<QLabel>(window, "sentenceLabel")->text(), u"Good morning. Have a pleasant Saturday."_s);
     QCOMPARE(start.newsRead, 0);
 }
