@@ -40,6 +40,12 @@ inline QString notADate()
     return u"Not a date that can be counted with"_s;
 }
 
+/// Buttons and marks of functions that only other editions have.
+inline QString showOtherEditions()
+{
+    return u"Show those of other editions"_s;
+}
+
 // Reasons
 
 inline QString folderCannotBeWritten()

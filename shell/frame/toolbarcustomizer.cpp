@@ -10,6 +10,7 @@
 #include "shell/look/theme.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -24,7 +25,7 @@ constexpr int nameRole = Qt::UserRole;
 constexpr int iconSize = 20;
 constexpr int usualRows = 12;
 constexpr int leastRows = 4;
-constexpr int roomAroundList = 200;
+constexpr int roomAroundList = 232;
 
 QListWidget *makeList(const QString &name, QWidget *parent)
 {
@@ -54,6 +55,7 @@ ToolbarCustomizer::ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent)
     , m_layout(layout)
     , m_available(makeList(u"availableList"_s, this))
     , m_shown(makeList(u"shownList"_s, this))
+    , m_showOthers(named(new QCheckBox(FrameLines::showOtherEditions(), this), u"showOthers"_s))
     , m_hint(makeQuietLabel(hint(), this))
     , m_add(makeButton(u"addTool"_s, u"&Add"_s, this))
     , m_remove(makeButton(u"removeTool"_s, u"&Remove"_s, this))
@@ -72,11 +74,17 @@ ToolbarCustomizer::ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent)
     connect(m_up, &QPushButton::clicked, this, [this] { moveChosen(-1); });
     connect(m_down, &QPushButton::clicked, this, [this] { moveChosen(1); });
     connect(m_available, &QListWidget::itemDoubleClicked, this, &ToolbarCustomizer::addChosen);
+    m_showOthers->setVisible(!layout.ofOtherEditions().isEmpty());
+    connect(m_showOthers, &QCheckBox::toggled, this, [this] {
+        const int row = m_shown->currentRow();
+        fill();
+        choose(row);
+    });
     for (QListWidget *list : {m_available, m_shown})
         connect(list, &QListWidget::currentRowChanged, this, &ToolbarCustomizer::offerButtons);
     arrange();
     fill();
-    m_shown->setCurrentRow(0);
+    m_shown->setCurrentRow(shownRowFrom(0, 1));
     m_shown->setFocus();
 }
 
@@ -113,9 +121,10 @@ void ToolbarCustomizer::arrange()
     grid->addWidget(m_available, 1, 0);
     grid->addLayout(middle, 1, 1);
     grid->addWidget(m_shown, 1, 2);
-    grid->addWidget(m_hint, 2, 0, 1, 3);
-    grid->setRowMinimumHeight(3, 8);
-    grid->addLayout(foot, 4, 0, 1, 3);
+    grid->addWidget(m_showOthers, 2, 0, 1, 3);
+    grid->addWidget(m_hint, 3, 0, 1, 3);
+    grid->setRowMinimumHeight(4, 8);
+    grid->addLayout(foot, 5, 0, 1, 3);
 }
 
 void ToolbarCustomizer::fill()
@@ -127,7 +136,7 @@ void ToolbarCustomizer::fill()
     for (const QString &name : shown)
         addRow(m_shown, name);
     for (const QAction *action : m_layout.actions()) {
-        if (shown.contains(action->objectName()))
+        if (shown.contains(action->objectName()) || isHidden(action->objectName()))
             continue;
         addRow(m_available, action->objectName());
         if (action->objectName() == chosen)
@@ -149,6 +158,20 @@ void ToolbarCustomizer::addRow(QListWidget *list, const QString &name)
         item->setText(u"Separator"_s);
         item->setIcon(Icons::icon("separator"_L1, scheme));
     }
+    item->setHidden(isHidden(name)); // where it stands on the bar it keeps its place
+}
+
+bool ToolbarCustomizer::isHidden(const QString &name) const
+{
+    return !m_showOthers->isChecked() && m_layout.ofOtherEditions().contains(name);
+}
+
+/// The first row from `row` on, upwards or downwards, that is not hidden; -1 without any.
+int ToolbarCustomizer::shownRowFrom(int row, int by) const
+{
+    while (row >= 0 && row < m_shown->count() && m_shown->item(row)->isHidden())
+        row += by;
+    return row < m_shown->count() ? row : -1;
 }
 
 void ToolbarCustomizer::tell(bool isSaved)
@@ -161,7 +184,15 @@ void ToolbarCustomizer::apply(const QStringList &names, int current)
 {
     tell(m_layout.setShown(names));
     fill();
-    m_shown->setCurrentRow(std::clamp(current, 0, std::max(0, m_shown->count() - 1)));
+    choose(current);
+}
+
+/// Chooses `row` of the bar's buttons, or the nearest one.
+void ToolbarCustomizer::choose(int row)
+{
+    row = std::clamp(row, 0, std::max(0, m_shown->count() - 1));
+    const int below = shownRowFrom(row, 1);
+    m_shown->setCurrentRow(below >= 0 ? below : shownRowFrom(row, -1));
 }
 
 QStringList ToolbarCustomizer::order() const
@@ -206,10 +237,11 @@ void ToolbarCustomizer::moveChosen(int by)
 {
     QStringList names = order();
     const int row = m_shown->currentRow();
-    if (row < 0 || row + by < 0 || row + by >= names.size())
+    const int to = shownRowFrom(row + by, by);
+    if (row < 0 || to < 0)
         return;
-    names.move(row, row + by);
-    apply(names, row + by);
+    names.move(row, to);
+    apply(names, to);
 }
 
 void ToolbarCustomizer::offerButtons()
@@ -220,8 +252,10 @@ void ToolbarCustomizer::offerButtons()
                               ? QString()
                               : u"Choose a button in the list at the left first"_s);
     setUnavailable(m_remove, row >= 0 ? QString() : choose);
-    setUnavailable(m_up, row < 0 ? choose : row == 0 ? u"This is the first button"_s : QString());
-    setUnavailable(m_down, row < 0                       ? choose
-                           : row == m_shown->count() - 1 ? u"This is the last button"_s
+    setUnavailable(m_up, row < 0                         ? choose
+                         : shownRowFrom(row - 1, -1) < 0 ? u"This is the first button"_s
                                                          : QString());
+    setUnavailable(m_down, row < 0                        ? choose
+                           : shownRowFrom(row + 1, 1) < 0 ? u"This is the last button"_s
+                                                          : QString());
 }

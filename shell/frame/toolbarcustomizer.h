@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+class QCheckBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -23,6 +24,9 @@ private:
     void arrange();
     void fill();
     void addRow(QListWidget *list, const QString &name);
+    bool isHidden(const QString &name) const;
+    int shownRowFrom(int row, int by) const;
+    void choose(int row);
     QStringList order() const;
     void tell(bool isSaved);
     void apply(const QStringList &names, int current);
@@ -36,6 +40,7 @@ private:
     ToolbarLayout &m_layout;
     QListWidget *m_available;
     QListWidget *m_shown;
+    QCheckBox *m_showOthers;
     QLabel *m_hint; ///< what the dialog does, or that it could not be saved
     QPushButton *m_add;
     QPushButton *m_remove;

@@ -34,6 +34,10 @@ public:
     const QList<QAction *> &actions() const { return m_actions; }
     const QStringList &defaults() const { return m_defaults; }
 
+    /// Actions of functions that only other editions have: the customizer offers them when it is asked to.
+    void setOfOtherEditions(const QStringList &names) { m_ofOtherEditions = names; }
+    const QStringList &ofOtherEditions() const { return m_ofOtherEditions; }
+
     /// The action of this object name; null when there is none.
     QAction *action(const QString &name) const;
 
@@ -48,4 +52,5 @@ private:
     QString m_storeKey;
     QList<QAction *> m_actions;
     QStringList m_defaults;
+    QStringList m_ofOtherEditions;
 };

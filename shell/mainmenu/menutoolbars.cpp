@@ -60,6 +60,7 @@ void MenuToolBars::makeTop(const FunctionOpener &opener)
 {
     const Icons::Scheme scheme = Theme::of(m_window).scheme;
     QList<QAction *> actions;
+    QStringList ofOthers;
     for (int position = 0; position < TopButtons::count; ++position) {
         const TopButtons::TopButton &button = TopButtons::all()[std::size_t(position)];
         QAction *action = makeAction(TopButtons::objectName(position), button.wordText(), m_window);
@@ -71,6 +72,8 @@ void MenuToolBars::makeTop(const FunctionOpener &opener)
         if (button.needs && !m_program.functions.has(*button.needs))
             setUnavailable(action, FunctionFaces::of(*button.needs).missingReason());
         actions << action;
+        if (button.isOfOtherEdition())
+            ofOthers << action->objectName();
     }
     m_firstButton = actions.first();
     m_top->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -80,6 +83,7 @@ void MenuToolBars::makeTop(const FunctionOpener &opener)
     m_top->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_top, &QWidget::customContextMenuRequested, this, &MenuToolBars::showTopMenu);
     m_topLayout = new ToolbarLayout(m_program, m_top, u"Toolbar1"_s, actions, designedTop());
+    m_topLayout->setOfOtherEditions(ofOthers);
 }
 
 QAction *MenuToolBars::addTool(const SideToolbar &bar, int position, QLatin1StringView icon,

@@ -58,6 +58,10 @@ struct TopButton {
     QString wordText() const { return QString::fromLatin1(word); }
     QString descriptionText() const { return QString::fromLatin1(description); }
     bool isGap() const { return std::holds_alternative<Gap>(effect); }
+    bool isOfOtherEdition() const
+    {
+        return std::holds_alternative<OtherEdition>(effect) || std::holds_alternative<ShowsListFile>(effect);
+    }
 };
 
 /// All buttons by position.

@@ -7,6 +7,7 @@
 #include "tests/support/testprogram.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDir>
 #include <QListWidget>
 #include <QPushButton>
@@ -27,6 +28,7 @@ private slots:
     void restoresTheStoredLayout_data();
     void restoresTheStoredLayout();
     void everyChangeIsAppliedAndStored();
+    void keepsButtonsOfOtherEditionsOutOfSight();
     void tellsWhatIsNotStored();
 
 private:
@@ -144,6 +146,23 @@ void TestToolbarLayout::everyChangeIsAppliedAndStored()
     QVERIFY(!m_program->store.contains(u"User1/Toolbar1"_s));
     press(dialog, "closeCustomizer");
     QVERIFY(!dialog.isVisible());
+}
+
+void TestToolbarLayout::keepsButtonsOfOtherEditionsOutOfSight()
+{
+    m_layout->setOfOtherEditions({u"two"_s, u"five"_s});
+    ToolbarCustomizer dialog(*m_layout, nullptr);
+    showActive(dialog);
+    const auto *available = control<QListWidget>(dialog, "availableList");
+    QCOMPARE(available->count(), 1); // four
+    QVERIFY(shownList(dialog).item(1)->isHidden());
+    press(dialog, "moveToolDown");
+    QCOMPARE(stored(), (QStringList{u"two"_s, u"separator"_s, u"one"_s, u"three"_s}));
+    press(dialog, "moveToolUp");
+    QVERIFY(!control<QPushButton>(dialog, "moveToolUp")->isEnabled()); // only "two" stands before it
+    QTest::keyClick(control<QCheckBox>(dialog, "showOthers"), Qt::Key_Space);
+    QCOMPARE(available->count(), 2);
+    QVERIFY(control<QPushButton>(dialog, "moveToolUp")->isEnabled());
 }
 
 void TestToolbarLayout::tellsWhatIsNotStored()
