@@ -58,6 +58,22 @@ QString GuardedAreas::name(int area)
     return isButton ? functionName(area) + u" (toolbar button)"_s : functionName(area);
 }
 
+int GuardedAreas::otherWay(int area)
+{
+    switch (area) {
+    case Area::AddressBook:
+        return Area::AddressBookButton;
+    case Area::AddressBookButton:
+        return Area::AddressBook;
+    case Area::AddressViewer:
+        return Area::AddressViewerButton;
+    case Area::AddressViewerButton:
+        return Area::AddressViewer;
+    default:
+        return Area::None;
+    }
+}
+
 bool GuardedAreas::isOfThisEdition(int area)
 {
     return !ownFunction(area).isEmpty();

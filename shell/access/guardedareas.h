@@ -13,6 +13,9 @@ QString functionName(int area);
 /// The function and, where there are two ways to it, which of them `area` guards.
 QString name(int area);
 
+/// The area that guards the other way into the function behind `area`; `Area::None` where there is one way.
+int otherWay(int area);
+
 /// Whether this edition opens anything through `area`; the flags of the others are only kept.
 bool isOfThisEdition(int area);
 

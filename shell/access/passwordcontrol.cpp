@@ -129,6 +129,7 @@ QWidget *Form31::makeAreasPanel()
     rows->setSpacing(12);
     rows->addWidget(makeTitle(u"Protected areas"_s, panel));
     rows->addWidget(makeScrolled(makeMarks(), u"marksScroll"_s, panel), 1);
+    findChild<QWidget *>(u"otherMarks"_s)->hide(); // measured before, so that there is room to show them
     rows->addWidget(makeFoot());
     return panel;
 }
@@ -143,31 +144,51 @@ QWidget *Form31::makeMarks()
     rows->addSpacing(12);
     rows->addWidget(makeHeading(u"This program"_s, marks));
     rows->addSpacing(4);
-    const auto makeMark = [this, marks](int area) {
-        auto *mark = new QCheckBox(GuardedAreas::name(area), marks);
-        m_marks[std::size_t(area)] = named(mark, u"Check1_%1"_s.arg(area));
-        connect(mark, &QCheckBox::toggled, this, &Form31::marksChanged);
-        return mark;
-    };
     for (const int area : ownAreas)
-        rows->addWidget(makeMark(area));
+        rows->addWidget(makeMark(area, marks));
     rows->addSpacing(16);
-    QLabel *others = makeHeading(u"Kept for other editions"_s, marks);
-    others->setForegroundRole(ThemeRole::quiet);
+    m_showOthers = named(new QCheckBox(FrameLines::showOtherEditions(), marks), u"showOthers"_s);
+    rows->addWidget(m_showOthers);
+    QWidget *others = makeOtherMarks(marks);
     rows->addWidget(others);
-    rows->addSpacing(4);
+    connect(m_showOthers, &QCheckBox::toggled, others, &QWidget::setVisible);
+    rows->addStretch();
+    return marks;
+}
+
+/// The marks of functions that this edition does not have, which are kept and cannot be changed.
+QWidget *Form31::makeOtherMarks(QWidget *parent)
+{
+    auto *others = named(new QWidget(parent), u"otherMarks"_s);
+    auto *rows = new QVBoxLayout(others);
+    rows->setContentsMargins(0, 8, 0, 0);
+    rows->setSpacing(4);
+    QLabel *heading = makeHeading(u"Kept for other editions"_s, others);
+    heading->setForegroundRole(ThemeRole::quiet);
+    rows->addWidget(heading);
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(0);
     grid->setColumnStretch(3, 1);
     for (std::size_t i = 0; i < otherAreas.size(); ++i) {
-        QCheckBox *mark = makeMark(otherAreas[i]);
+        QCheckBox *mark = makeMark(otherAreas[i], others);
         setUnavailable(mark, PasswordMessages::markOfOtherEdition());
         grid->addWidget(mark, int(i) % otherRows, int(i) / otherRows);
     }
     rows->addLayout(grid);
-    rows->addStretch();
-    return marks;
+    return others;
+}
+
+QCheckBox *Form31::makeMark(int area, QWidget *parent)
+{
+    auto *mark = named(new QCheckBox(GuardedAreas::name(area), parent), u"Check1_%1"_s.arg(area));
+    m_marks[std::size_t(area)] = mark;
+    connect(mark, &QCheckBox::toggled, this, &Form31::marksChanged);
+    connect(mark, &QCheckBox::clicked, this, [this, area](bool isMarked) {
+        if (isMarked)
+            offerOtherWay(area);
+    });
+    return mark;
 }
 
 QWidget *Form31::makeFoot()
@@ -235,6 +256,18 @@ void Form31::marksChanged()
 {
     m_unsaved->setVisible(isModified());
     commands().refresh();
+}
+
+void Form31::offerOtherWay(int area)
+{
+    const int other = GuardedAreas::otherWay(area);
+    if (other == Area::None || m_marks[std::size_t(other)]->isChecked())
+        return;
+    const bool isButton = GuardedAreas::name(other) != GuardedAreas::functionName(other);
+    if (ask(PasswordMessages::markOtherWay(GuardedAreas::functionName(area),
+                                           isButton ? u"the toolbar button"_s
+                                                    : u"the menu entry and card"_s)) == Answer::Yes)
+        m_marks[std::size_t(other)]->setChecked(true);
 }
 
 bool Form31::isModified() const

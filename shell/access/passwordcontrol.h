@@ -35,11 +35,14 @@ private:
     QWidget *makeAreasPanel();
     QWidget *makeMarks();
     QWidget *makeFoot();
+    QWidget *makeOtherMarks(QWidget *parent);
+    QCheckBox *makeMark(int area, QWidget *parent);
     void connectPane();
 
     void refresh();
     void loadMarks();
     void marksChanged();
+    void offerOtherWay(int area);
     void tellDamage();
     void print();
 
@@ -50,6 +53,7 @@ private:
     ProtectedAreas m_saved; ///< the flags when they were last read or written
     PasswordPane *m_pane = nullptr;
     std::array<QCheckBox *, ProtectedAreas::count> m_marks{};
+    QCheckBox *m_showOthers = nullptr;
     QLabel *m_unsaved = nullptr;
     QAction *m_saveAction = nullptr;
     QPushButton *m_saveButton = nullptr;

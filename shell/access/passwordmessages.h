@@ -36,6 +36,18 @@ inline Message saveChanges()
             Answer::Yes};
 }
 
+/// Asked when one of two ways into `function` is marked and `otherWay`, "the toolbar button" or the like, is
+/// not.
+inline Message markOtherWay(const QString &function, const QString &otherWay)
+{
+    return {title(),
+            QStringLiteral("Mark %2 of %1 too?\nOtherwise it still opens there without the password.")
+                .arg(function, otherWay),
+            Message::Question,
+            {Answer::Yes, Answer::No},
+            Answer::Yes};
+}
+
 // Quiet lines beside the box.
 
 /// What the prompt asks for, below the function's name.

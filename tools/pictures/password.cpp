@@ -15,7 +15,11 @@ void Albums::password(const Camera &camera)
     session.fill("Text1_2", u"Klavier"_s);
     session.take("password-control-set-password");
     session.click("passwordOk");
-    session.click("Check1_0");
+    session.box([&] { session.click("Check1_0"); },
+                [&] {
+                    session.take("password-control-other-way");
+                    session.click("answerYes");
+                });
     session.click("Check1_2");
     session.take("password-control");
     session.click("Command1");

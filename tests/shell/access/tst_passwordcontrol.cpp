@@ -33,6 +33,7 @@ private slots:
     void askingForTheOldPasswordIsLimited();
     void removesThePasswordWithAllMarks();
     void keepsTheFlagsOfOtherEditions();
+    void offersToMarkTheOtherWay();
     void asksBeforeMarksAreLost_data();
     void asksBeforeMarksAreLost();
     void doesNotWriteIntoADamagedFile();
@@ -118,6 +119,7 @@ void TestForm31::setsAPasswordAndGuardsAFunction()
     QVERIFY(control<QLineEdit>(*m_window, "Text1_1")->text().isEmpty());
 
     QVERIFY(!m_window->isModified());
+    m_program->dialogs.willAnswer(Answer::No);
     QTest::keyClick(mark(Area::AddressBook), Qt::Key_Space);
     QVERIFY(m_window->isModified());
     QVERIFY(!m_program->state.protectedAreas.isProtected(Area::AddressBook));
@@ -192,10 +194,29 @@ void TestForm31::keepsTheFlagsOfOtherEditions()
     QByteArray before = m_program->bytes(u"PCtrl1.Fil"_s);
     open();
     QVERIFY(mark(6)->isChecked());
-    QVERIFY(!mark(6)->isEnabled());
+    QVERIFY(!mark(6)->isEnabled() && !mark(6)->isVisible());
+    control<QCheckBox>(*m_window, "showOthers")->click();
+    QVERIFY(mark(6)->isVisible());
     mark(Area::Budget)->click();
     click("Command1");
     QCOMPARE(m_program->bytes(u"PCtrl1.Fil"_s), before.replace(ofBudget, 5, QByteArray("\3\0YES", 5)));
+}
+
+void TestForm31::offersToMarkTheOtherWay()
+{
+    guard(Area::Planner);
+    open();
+    mark(Area::Budget)->click(); // there is one way only
+    QVERIFY(m_program->dialogs.takeShown().isEmpty());
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        m_program->dialogs.willAnswer(answer);
+        mark(Area::AddressViewerButton)->click();
+        QCOMPARE(m_program->dialogs.takeShown().size(), 1);
+        QCOMPARE(mark(Area::AddressViewer)->isChecked(), answer == Answer::Yes);
+        mark(Area::AddressViewerButton)->click();
+    }
+    mark(Area::AddressViewerButton)->click(); // the other one is marked
+    QVERIFY(m_program->dialogs.takeShown().isEmpty());
 }
 
 void TestForm31::asksBeforeMarksAreLost_data()
