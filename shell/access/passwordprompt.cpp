@@ -52,6 +52,7 @@ Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step
     buildForm(guardedFunction(program.state));
 
     m_password->setEchoMode(QLineEdit::Password);
+    m_password->setAccessibleName(u"Enter Password"_s);
     m_ok->setDefault(true);
     connect(m_showPassword, &QCheckBox::toggled, this,
             [this](bool shown) { m_password->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });

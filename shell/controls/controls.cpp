@@ -248,8 +248,14 @@ QLabel *makeFieldLabel(const QString &caption, QWidget *buddy, QWidget *parent, 
     auto *label = new FieldLabel(caption, hint, required, parent);
     if (buddy) {
         label->setBuddy(buddy);
-        if (buddy->accessibleName().isEmpty())
-            buddy->setAccessibleName(QString(caption).remove(u'&'));
+        QWidget *box = buddy; // what gets the focus is what is read out
+        while (box->focusProxy())
+            box = box->focusProxy();
+        QString name = QString(caption).remove(u'&');
+        if (name.endsWith(u':'))
+            name.chop(1);
+        if (box->accessibleName().isEmpty())
+            box->setAccessibleName(name);
     }
     return label;
 }

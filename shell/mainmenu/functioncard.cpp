@@ -182,11 +182,17 @@ QColor FunctionCard::fill() const
     return color;
 }
 
+/// Of a disabled card it is quiet, and not the ink of disabled controls, which is too faint over a picture.
+QColor FunctionCard::titleInk() const
+{
+    return isEnabled() || hasUserColor() ? palette().color(QPalette::WindowText) : Theme::of(this).quiet;
+}
+
 QColor FunctionCard::lineInk(LiveLine::Urgency urgency) const
 {
     const Theme &theme = Theme::of(this);
     if (!isEnabled() || hasUserColor())
-        return palette().color(QPalette::WindowText);
+        return titleInk();
     if (urgency == LiveLine::Plain)
         return theme.quiet;
     return urgency == LiveLine::Overdue ? theme.negative : theme.due;
@@ -262,7 +268,7 @@ void FunctionCard::paintEvent(QPaintEvent *)
     painter.setOpacity(1);
 
     painter.setFont(m_titleFont);
-    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setPen(titleInk());
     const QRect title(icon.x() + side + gap, card.top(), titleRoom(card.width()), 2 * (middle - card.top()));
     painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      QFontMetrics(m_titleFont).elidedText(text(), Qt::ElideRight, title.width()));

@@ -49,6 +49,7 @@ private:
     QString cutLine(const QFontMetrics &metrics, int width) const;
     bool hasUserColor() const;
     QColor fill() const;
+    QColor titleInk() const;
     QColor lineInk(LiveLine::Urgency urgency) const;
     QFont lineFont() const;
     QRect lineRect() const;

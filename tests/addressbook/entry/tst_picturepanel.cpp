@@ -85,6 +85,7 @@ private slots:
         m_drives.append(m_test->temporary.filePath(u"pulled-out"_s));
         open();
         auto *folders = find<QListWidget>("Dir1");
+        QCOMPARE(folders->accessibleName(), u"Folders"_s);
         const auto openFolder = [folders](int row) {
             folders->setFocus();
             folders->setCurrentRow(row);

@@ -5,6 +5,17 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// The fill of a card, 96 % opaque, over a picture of one grey.
+QColor onPicture(const QColor &fill, int grey)
+{
+    const auto part = [grey](int color) { return (96 * color + 4 * grey) / 100; };
+    return {part(fill.red()), part(fill.green()), part(fill.blue())};
+}
+
+} // namespace
+
 class TestTheme : public QObject
 {
     Q_OBJECT
@@ -31,6 +42,7 @@ private slots:
             rows("accent", t.accent, {t.ground, t.bar, t.panel, t.field, t.soft, t.alternate, t.head});
             rows("on accent", t.onAccent, {t.accent});
             rows("disabled", t.disabledText, {t.locked, t.bar, t.panel});
+            rows("line of a disabled card", t.quiet, {onPicture(t.locked, 0), onPicture(t.locked, 255)});
             rows("due", t.due, {t.panel, t.ground, t.field, t.alternate});
             rows("negative", t.negative, {t.panel, t.ground, t.field, t.alternate});
             rows("rim of a control", t.edge, {t.ground, t.panel, t.field, t.bar}, 3);
