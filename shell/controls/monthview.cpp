@@ -19,6 +19,7 @@ namespace {
 
 constexpr QSize designedSize(316, 296);
 constexpr double corner = 8;
+constexpr int nameMargin = 3; // as cells draw their text
 const QDate lastDay(9999, 12, 31);
 
 /// What the sheet of the whole application would otherwise give to every table and tool button; the heading's
@@ -154,6 +155,27 @@ void MonthView::changeEvent(QEvent *event)
     QCalendarWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         showPaletteColors();
+}
+
+void MonthView::resizeEvent(QResizeEvent *event)
+{
+    QCalendarWidget::resizeEvent(event);
+    fitDayNames();
+}
+
+void MonthView::showEvent(QShowEvent *event)
+{
+    QCalendarWidget::showEvent(event);
+    fitDayNames();
+}
+
+/// "Wed", or "W" where the columns are too narrow for it.
+void MonthView::fitDayNames()
+{
+    const int columns = verticalHeaderFormat() == NoVerticalHeader ? 7 : 8;
+    const int widest = QFontMetrics(headerTextFormat().font()).horizontalAdvance(u"Wed"_s);
+    setHorizontalHeaderFormat(width() / columns < widest + 2 * nameMargin ? SingleLetterDayNames
+                                                                          : ShortDayNames);
 }
 
 /// The calendar's own heading can be reached by names of the toolkit's alone; ours takes its place.

@@ -33,6 +33,8 @@ signals:
 protected:
     void paintCell(QPainter *painter, const QRect &rect, QDate date) const override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     /// Ring and filling of the chosen day and of today; gives what they leave to the number.
@@ -47,6 +49,7 @@ private:
     void setUpHeading();
     void showMonth(int year, int month);
     void showPaletteColors();
+    void fitDayNames();
 
     MonthHeading *m_heading = nullptr;
     QTableView *m_view = nullptr;

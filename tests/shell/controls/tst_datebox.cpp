@@ -169,6 +169,9 @@ void TestDateBox::neverCoversItsBox()
     QVERIFY(m_month->isVisible());
     QVERIFY(!m_picker->geometry().intersects(m_box->geometry()));
     QVERIFY(m_window->rect().contains(m_picker->geometry()));
+    QCOMPARE(m_month->horizontalHeaderFormat(), m_picker->width() < 250
+                                                    ? QCalendarWidget::SingleLetterDayNames
+                                                    : QCalendarWidget::ShortDayNames);
 }
 
 void TestDateBox::numbersTheWeeksAsTheHouseholdChose()
