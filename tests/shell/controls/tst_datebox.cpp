@@ -27,6 +27,7 @@ private slots:
     void goesFromBoxToBox();
     void neverCoversItsBox_data();
     void neverCoversItsBox();
+    void followsABoxThatScrolls();
     void numbersTheWeeksAsTheHouseholdChose();
 
 private:
@@ -155,6 +156,7 @@ void TestDateBox::neverCoversItsBox_data()
         {"at its left", {900, 600}, {560, 280, 300, 34}},
         {"above", {700, 420}, {200, 360, 300, 34}},
         {"low and narrow", {520, 420}, {100, 300, 300, 34}},
+        {"a narrow place at its right", {540, 330}, {20, 150, 280, 34}},
         {"no room at all", {500, 300}, {100, 120, 300, 34}},
     });
 }
@@ -172,6 +174,22 @@ void TestDateBox::neverCoversItsBox()
     QCOMPARE(m_month->horizontalHeaderFormat(), m_picker->width() < 250
                                                     ? QCalendarWidget::SingleLetterDayNames
                                                     : QCalendarWidget::ShortDayNames);
+}
+
+void TestDateBox::followsABoxThatScrolls()
+{
+    QWidget form(m_window.get());
+    form.resize(800, 1200);
+    m_box->setParent(&form);
+    m_box->setGeometry(400, 500, 390, 34);
+    form.show();
+    m_box->show();
+    m_box->setFocus(Qt::TabFocusReason);
+    const QRect before = m_picker->geometry();
+    form.move(-390, -300);
+    QVERIFY(m_picker->isVisible());
+    QVERIFY(m_picker->geometry() != before);
+    QVERIFY(!m_picker->geometry().intersects(m_box->geometry().translated(form.pos())));
 }
 
 void TestDateBox::numbersTheWeeksAsTheHouseholdChose()
