@@ -261,15 +261,20 @@ private slots:
         const QByteArray lines = neverWritten(60) + lineBytes(lineOf("Lind, Anne", 2));
         const QByteArray entry = neverWritten(724) + person("Lind", "Anne", "a@example.org");
         const QByteArray noise = noiseOf(300 * 724);
-        QList<std::pair<QByteArray, QByteArray>> files{
+        QList<std::pair<QByteArray, QByteArray>> all{
             {{}, {}}, {noise, noise}, {lines, noise}, {QByteArray(60 * 20, '\xFF'), entry}};
         for (int length = 1; length < 120; length += 7)
-            files.append({lines.left(length), entry});
+            all.append({lines.left(length), entry});
         for (int length = 724; length < 1448; length += 61)
-            files.append({lines, entry.left(length)});
-        for (const auto &[index, entries] : files) {
+            all.append({lines, entry.left(length)});
+        for (const auto &[index, entries] : all) {
             m_files.put(u"Addbk2.Fil"_s, index);
             m_files.put(u"Addbk1.Fil"_s, entries);
+            const AddressBook book(m_files.folder());
+            const NameList names = book.loadNames();
+            for (int i = 0; i < names.count(); ++i)
+                book.open(names.line(i));
+            book.forEachLive([](int, const AddressEntry &) { return true; });
             AddressViewer viewer(m_files.folder(), DateStyle::Other);
             for (int choice = 0; choice < informationCount; ++choice) {
                 viewer.load(Information(choice), everyone);

@@ -138,18 +138,15 @@ private slots:
 
     void givesUpWhenThePersonDoes()
     {
+        const QString prompt = u"ENTER NEW PORT NUMBER BELOW: [1]"_s;
         ScriptedDesk desk(m_line);
         m_line.workingPorts.clear();
         QCOMPARE(call(desk), Dialling::Outcome::NoPort);
         QCOMPARE(m_line.log, (QStringList{u"show"_s, u"open 1"_s, u"CommPort is currently set at: 1"_s,
-                                          u"ENTER NEW PORT NUMBER BELOW: [1]"_s, u"hide"_s}));
+                                          prompt, u"hide"_s}));
         QCOMPARE(m_files->bytes(u"GColor1.Fil"_s), QByteArray());
-    }
-
-    void aLineThatTakesNothingIsNoPort()
-    {
-        ScriptedDesk desk(m_line);
-        m_line.takesText = false;
+        // A line that takes nothing is no port.
+        m_line = {{1}, {}, false, {}};
         QCOMPARE(call(desk), Dialling::Outcome::NoPort);
         QCOMPARE(m_line.log.mid(1, 3), (QStringList{u"open 1"_s, u"ATDT 555;\r"_s, u"close"_s}));
     }
