@@ -15,69 +15,66 @@ class TestFunctions : public QObject
     Q_OBJECT
 
 private slots:
-    void opensTheWindowsThatAreBuiltIn();
-    void tellsTheNewsOfTheHousehold();
-    void tellsWhatThePasswordGuards();
-};
-
-void TestFunctions::opensTheWindowsThatAreBuiltIn()
-{
-    TestProgram test(TestProgram::Household);
-    addFunctions(test.functions, test.clock);
-    // No window's own colour outranks the program's.
-    for (int record = 202; record < 240; ++record)
-        QVERIFY(test.settings.setText({SettingsKeys::colorFile3, record}, u"65535"_s));
-    QString red = u"255"_s;
-    QVERIFY(HINFO1::updateProgramColors(test.program, nullptr, red, HINFO1::updateWithoutAsking));
-    QSet<QString> opened;
-    for (int number = 0; number <= int(Function::AddressViewer); ++number) {
-        const auto function = Function(number);
-        const QPointer<QWidget> window = test.functions.open(function, test.program);
-        QCOMPARE(window != nullptr, test.functions.has(function));
-        if (!window)
-            continue;
-        QVERIFY2(window->isVisible() && !window->windowTitle().isEmpty(), qPrintable(window->objectName()));
-        QVERIFY2(!opened.contains(window->objectName()), qPrintable(window->objectName()));
-        opened.insert(window->objectName());
-        QCOMPARE(window->findChild<PanelFrame *>()->palette().color(QPalette::Window), QColor(Qt::red));
-        QCOMPARE(test.functions.openWindows(), {window});
-        QVERIFY(window->close());
-        QTRY_VERIFY(!window);
+    void opensTheWindowsThatAreBuiltIn()
+    {
+        TestProgram test(TestProgram::Household);
+        addFunctions(test.functions, test.clock);
+        // No window's own colour outranks the program's.
+        for (int record = 202; record < 240; ++record)
+            QVERIFY(test.settings.setText({SettingsKeys::colorFile3, record}, u"65535"_s));
+        QString red = u"255"_s;
+        QVERIFY(HINFO1::updateProgramColors(test.program, nullptr, red, HINFO1::updateWithoutAsking));
+        QSet<QString> opened;
+        for (int number = 0; number <= int(Function::AddressViewer); ++number) {
+            const auto function = Function(number);
+            const QPointer<QWidget> window = test.functions.open(function, test.program);
+            QCOMPARE(window != nullptr, test.functions.has(function));
+            if (!window)
+                continue;
+            QVERIFY2(window->isVisible() && !window->windowTitle().isEmpty(),
+                     qPrintable(window->objectName()));
+            QVERIFY2(!opened.contains(window->objectName()), qPrintable(window->objectName()));
+            opened.insert(window->objectName());
+            QCOMPARE(window->findChild<PanelFrame *>()->palette().color(QPalette::Window), QColor(Qt::red));
+            QCOMPARE(test.functions.openWindows(), {window});
+            QVERIFY(window->close());
+            QTRY_VERIFY(!window);
+        }
+        QVERIFY(opened.contains(u"ADDBKVIEW"_s));
     }
-    QVERIFY(opened.contains(u"ADDBKVIEW"_s));
-}
 
-void TestFunctions::tellsTheNewsOfTheHousehold()
-{
-    TestProgram test(TestProgram::Household);
-    addFunctions(test.functions, test.clock);
-    const FunctionEntry *entry = test.functions.entry(Function::AddressBook);
-    // Josephine Moreau was born on 28 February.
-    const auto line = entry->liveLine(test.program, QDate(2027, 2, 28));
-    QVERIFY(line.has_value());
-    QVERIFY2(line->sentence.contains(u"Josephine Moreau"_s), qPrintable(line->sentence));
-    for (const QString &name : entry->liveFiles)
-        QVERIFY(test.folder.exists(name));
-}
+    void tellsTheNewsOfTheHousehold()
+    {
+        TestProgram test(TestProgram::Household);
+        addFunctions(test.functions, test.clock);
+        const FunctionEntry *entry = test.functions.entry(Function::AddressBook);
+        // Josephine Moreau was born on 28 February.
+        const auto line = entry->liveLine(test.program, QDate(2027, 2, 28));
+        QVERIFY(line.has_value());
+        QVERIFY2(line->sentence.contains(u"Josephine Moreau"_s), qPrintable(line->sentence));
+        for (const QString &name : entry->liveFiles)
+            QVERIFY(test.folder.exists(name));
+    }
 
-void TestFunctions::tellsWhatThePasswordGuards()
-{
-    TestProgram test;
-    addFunctions(test.functions, test.clock);
-    const auto line = [&] {
-        return test.functions.entry(Function::PasswordControl)->liveLine(test.program, {})->text;
-    };
-    QCOMPARE(line(), u"No password is set"_s);
-    PasswordCheck file(test.folder, PasswordCost::minimum());
-    QVERIFY(file.setPassword(u"Klavier"_s));
-    QCOMPARE(line(), u"Nothing is protected"_s);
-    test.state.protectedAreas.setFlag(0, u"YES"_s);
-    QCOMPARE(line(), u"1 area is protected"_s);
-    test.state.protectedAreas.setFlag(20, u"YES"_s);
-    QCOMPARE(line(), u"2 areas are protected"_s);
-    test.setBytes(u"PCtrl1.Fil"_s, "noise");
-    QCOMPARE(line(), u"The password file is damaged"_s);
-}
+    void tellsWhatThePasswordGuards()
+    {
+        TestProgram test;
+        addFunctions(test.functions, test.clock);
+        const auto line = [&] {
+            return test.functions.entry(Function::PasswordControl)->liveLine(test.program, {})->text;
+        };
+        QCOMPARE(line(), u"No password is set"_s);
+        PasswordCheck file(test.folder, PasswordCost::minimum());
+        QVERIFY(file.setPassword(u"Klavier"_s));
+        QCOMPARE(line(), u"Nothing is protected"_s);
+        test.state.protectedAreas.setFlag(0, u"YES"_s);
+        QCOMPARE(line(), u"1 area is protected"_s);
+        test.state.protectedAreas.setFlag(20, u"YES"_s);
+        QCOMPARE(line(), u"2 areas are protected"_s);
+        test.setBytes(u"PCtrl1.Fil"_s, "noise");
+        QCOMPARE(line(), u"The password file is damaged"_s);
+    }
+};
 
 QTEST_MAIN(TestFunctions)
 #include "tst_functions.moc"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordcheck.h"
-#include "storage/changeset.h"
 #include "tests/support/failingdisk.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
@@ -46,22 +45,211 @@ class TestPasswordCheck : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void withoutAPasswordNothingIsGuarded();
-    void readsAFileWrittenByHand();
-    void writesVerifierAndFlagsAtTheirPlaces();
-    void neverStoresThePassword();
-    void comparesPasswords_data();
-    void comparesPasswords();
-    void savingTouchesOnlyTheFlagsThatChanged();
-    void removalLeavesNothingToGuessFrom();
-    void tellsDamagedFiles_data();
-    void tellsDamagedFiles();
-    void everyCutIsDamage();
-    void aFolderInItsPlaceIsDamage();
-    void aDamagedFileIsNotTouched();
-    void isOldOrNewAfterEveryFailure_data();
-    void isOldOrNewAfterEveryFailure();
+    void init() { QFile::remove(m_path); }
+
+    void withoutAPasswordNothingIsGuarded()
+    {
+        QCOMPARE(file().state(), PasswordCheck::State::NotSet);
+        QCOMPARE(file().areas(), ProtectedAreas());
+        QVERIFY(!file().matches(QString()));
+        QVERIFY(!file().setPassword(QString()));
+        ProtectedAreas areas;
+        areas.setFlag(9, u"YES"_s);
+        QVERIFY(!file().saveAreas(areas));
+        QVERIFY(!QFile::exists(m_path));
+
+        setBytes({});
+        QCOMPARE(file().state(), PasswordCheck::State::NotSet);
+    }
+
+    void readsAFileWrittenByHand()
+    {
+        setBytes(sesameFile());
+        QCOMPARE(file().state(), PasswordCheck::State::Set);
+        QVERIFY(file().matches(u"Sesame"_s));
+        ProgramState state;
+        file().load(state);
+        for (int area = 0; area < ProtectedAreas::count; ++area)
+            QCOMPARE(state.protectedAreas.isProtected(area), area == 0 || area == 6);
+    }
+
+    void writesVerifierAndFlagsAtTheirPlaces()
+    {
+        QVERIFY(file().setPassword(u"Sesame"_s));
+        ProtectedAreas areas = file().areas();
+        areas.setFlag(2, u"YES"_s);
+        areas.setFlag(20, u"YES"_s);
+        QVERIFY(file().saveAreas(areas));
+
+        const QByteArray written = bytes();
+        QCOMPARE(written.size(), 21 * recordLength + 5);
+        QVERIFY(written.startsWith(QByteArray("\x5D\0$argon2id$v=19$m=8,t=1,p=1$", 29)));
+        QCOMPARE(written.mid(95, recordLength - 95), QByteArray(recordLength - 95, '\0'));
+        QByteArray flags = written.left(recordLength);
+        for (int area = 0; area < ProtectedAreas::count; ++area)
+            put(flags, area + 2, counted(area == 2 || area == 20 ? "YES" : "NO"));
+        QCOMPARE(written, flags);
+    }
+
+    void neverStoresThePassword()
+    {
+        QVERIFY(file().setPassword(u"Open sesame"_s));
+        QVERIFY(file().setPassword(u"Tulips"_s));
+        for (const char *part : {"sesame", "tulips"})
+            QVERIFY2(!bytes().toLower().contains(part), part);
+        // The same password gives another verifier each time, so that two households cannot be compared.
+        const QByteArray before = bytes();
+        QVERIFY(file().setPassword(u"Tulips"_s));
+        QVERIFY(bytes() != before);
+    }
+
+    void comparesPasswords_data()
+    {
+        rows<QString, QString, bool>({
+            {"the same", u"Sesame"_s, u"Sesame"_s, true},
+            {"case counts", u"Sesame"_s, u"sesame"_s, false},
+            {"blanks count", u"Sesame"_s, u"Sesame "_s, false},
+            {"only a part", u"Sesame"_s, u"Sesam"_s, false},
+            {"nothing typed", u"Sesame"_s, {}, false},
+            {"beyond the code page", u"Ωμέγα 中文"_s, u"Ωμέγα 中文"_s, true},
+            {"not the question marks of it", u"Ωμέγα"_s, u"?????"_s, false},
+            {"an accent typed in two", u"José"_s, u"Jose\u0301"_s, true},
+            {"longer than a record", QString(300, u'x'), QString(300, u'x'), true},
+        });
+    }
+
+    void comparesPasswords()
+    {
+        const auto [password, typed, matches] = row<QString, QString, bool>();
+        QVERIFY(file().setPassword(password));
+        QCOMPARE(file().matches(typed), matches);
+    }
+
+    void savingTouchesOnlyTheFlagsThatChanged()
+    {
+        QByteArray before = sesameFile();
+        put(before, 6 + 2, counted("YES ") + "kept");
+        put(before, 7 + 2, counted({}) + "kept");
+        put(before, 2 + 2, counted("NO") + "kept");
+        setBytes(before);
+
+        ProtectedAreas areas = file().areas();
+        areas.setFlag(2, u"YES"_s);
+        QVERIFY(file().saveAreas(areas));
+        QCOMPARE(bytes(), put(before, 2 + 2, counted("YES") + "ept"));
+    }
+
+    void removalLeavesNothingToGuessFrom()
+    {
+        setBytes(sesameFile());
+        QVERIFY(file().removePassword());
+        QCOMPARE(file().state(), PasswordCheck::State::NotSet);
+        QByteArray after(qsizetype(2) + qsizetype(qstrlen(sesameVerifier)), '\0');
+        for (int area = 0; area < ProtectedAreas::count; ++area)
+            put(after, area + 2, counted("NO") + (area == 0 || area == 6 ? "S" : ""));
+        QCOMPARE(bytes(), after);
+    }
+
+    void tellsDamagedFiles_data()
+    {
+        using State = PasswordCheck::State;
+        const QByteArray verifier(sesameVerifier);
+        const auto changed = [&verifier](const char *from, const char *to) {
+            return counted(QByteArray(verifier).replace(from, to));
+        };
+        rows<int, QByteArray, PasswordCheck::State>({
+            {"untouched", 1, counted(verifier), State::Set},
+            {"verifier of another kind", 1, changed("argon2id", "argon2i"), State::Damaged},
+            {"verifier that asks for hours", 1, changed("t=1", "t=4000000"), State::Damaged},
+            {"verifier that asks for all memory", 1, changed("m=8", "m=4194304"), State::Damaged},
+            {"verifier without its end", 1, counted(verifier.left(60)), State::Damaged},
+            {"verifier with a foreign letter", 1, changed("EA12", "E~12"), State::Damaged},
+            {"zero byte in the verifier", 1,
+             counted(QByteArray(verifier).replace(40, 1, QByteArray(1, '\0'))), State::Damaged},
+            {"count beyond the record", 1, "\xFF\xFF", State::Damaged},
+            {"count that fills the record too far", 1, "\x8B\0"_ba, State::Damaged},
+            {"flags without a verifier", 1, QByteArray(2, '\0'), State::Damaged},
+            {"a plain word", 1, counted("Sesame"), State::Damaged},
+            {"flag in small letters", 2, counted("yes"), State::Damaged},
+            {"flag behind a blank", 2, counted(" YES"), State::Damaged},
+            {"flag with a blank behind it", 2, counted("YES "), State::Set},
+            {"empty flag", 3, counted({}), State::Set},
+            {"blank flag", 3, counted("  "), State::Set},
+            {"flag of zero bytes", 3, counted(QByteArray(2, '\0')), State::Damaged},
+            {"noise in the last flag", 22, counted("\xC3\x28"), State::Damaged},
+            {"bytes behind the last record", 23, "\xFF\xFF", State::Set},
+        });
+    }
+
+    void tellsDamagedFiles()
+    {
+        const auto [record, value, state] = row<int, QByteArray, PasswordCheck::State>();
+        QByteArray content = sesameFile();
+        setBytes(put(content, record, value));
+        QCOMPARE(file().state(), state);
+        if (file().state() != PasswordCheck::State::Damaged)
+            return;
+        QVERIFY(!file().matches(u"Sesame"_s));
+        for (int area = 0; area < ProtectedAreas::count; ++area)
+            QVERIFY(file().areas().isProtected(area));
+    }
+
+    void everyCutIsDamage()
+    {
+        const QByteArray whole = sesameFile();
+        for (qsizetype length = 1; length < whole.size(); ++length) {
+            setBytes(whole.left(length));
+            QVERIFY2(file().state() == PasswordCheck::State::Damaged, qPrintable(QString::number(length)));
+        }
+    }
+
+    void aFolderInItsPlaceIsDamage()
+    {
+        QVERIFY(QDir(m_files.path({})).mkdir(u"pctrl1.fil"_s));
+        expectWarning("^Cannot read .*pctrl1.fil$");
+        QCOMPARE(file().state(), PasswordCheck::State::Damaged);
+        expectWarning("^Cannot read .*pctrl1.fil$");
+        QVERIFY(!file().setPassword(u"Sesame"_s));
+        QVERIFY(QDir(m_files.path({})).rmdir(u"pctrl1.fil"_s));
+    }
+
+    void aDamagedFileIsNotTouched()
+    {
+        const QByteArray cut = sesameFile().left(1000);
+        setBytes(cut);
+        QVERIFY(!file().setPassword(u"Tulips"_s));
+        QVERIFY(!file().removePassword());
+        QVERIFY(!file().saveAreas({}));
+        QCOMPARE(bytes(), cut);
+    }
+
+    void isOldOrNewAfterEveryFailure_data()
+    {
+        rows<bool (*)(PasswordCheck)>({
+            {"another password", [](PasswordCheck file) { return file.setPassword(u"Tulips"_s); }},
+            {"no password", [](PasswordCheck file) { return file.removePassword(); }},
+            {"marks",
+             [](PasswordCheck file) {
+                 ProtectedAreas areas = file.areas();
+                 for (int area = 0; area < ProtectedAreas::count; ++area)
+                     areas.setFlag(area, area % 2 == 0 ? u"YES"_s : u"NO"_s);
+                 return file.saveAreas(areas);
+             }},
+        });
+    }
+
+    /// The old password with the old marks, or what was asked for: nothing between them ever opens an area.
+    void isOldOrNewAfterEveryFailure()
+    {
+        const auto [action] = row<bool (*)(PasswordCheck)>();
+        failAtEachStep(
+            m_files.folder(), [this] { setBytes(sesameFile()); },
+            [this, action = action] { return action(file()); },
+            [this] { // but for the verifier, which salt makes another each time
+                return std::tuple(bytes() == sesameFile(), bytes().mid(recordLength),
+                                  file().matches(u"Sesame"_s), file().matches(u"Tulips"_s));
+            });
+    }
 
 private:
     QByteArray bytes() const { return m_files.bytes(u"PCtrl1.Fil"_s); }
@@ -71,237 +259,6 @@ private:
     TestFolder m_files;
     QString m_path = m_files.path(u"PCtrl1.Fil"_s);
 };
-
-void TestPasswordCheck::init()
-{
-    QFile::remove(m_path);
-}
-
-void TestPasswordCheck::withoutAPasswordNothingIsGuarded()
-{
-    QCOMPARE(file().state(), PasswordCheck::State::NotSet);
-    QCOMPARE(file().areas(), ProtectedAreas());
-    QVERIFY(!file().matches(QString()));
-    QVERIFY(!file().setPassword(QString()));
-    ProtectedAreas areas;
-    areas.setFlag(9, u"YES"_s);
-    QVERIFY(!file().saveAreas(areas));
-    QVERIFY(!QFile::exists(m_path));
-
-    setBytes({});
-    QCOMPARE(file().state(), PasswordCheck::State::NotSet);
-}
-
-void TestPasswordCheck::readsAFileWrittenByHand()
-{
-    setBytes(sesameFile());
-    QCOMPARE(file().state(), PasswordCheck::State::Set);
-    QVERIFY(file().matches(u"Sesame"_s));
-    ProgramState state;
-    file().load(state);
-    for (int area = 0; area < ProtectedAreas::count; ++area)
-        QCOMPARE(state.protectedAreas.isProtected(area), area == 0 || area == 6);
-}
-
-void TestPasswordCheck::writesVerifierAndFlagsAtTheirPlaces()
-{
-    QVERIFY(file().setPassword(u"Sesame"_s));
-    ProtectedAreas areas = file().areas();
-    areas.setFlag(2, u"YES"_s);
-    areas.setFlag(20, u"YES"_s);
-    QVERIFY(file().saveAreas(areas));
-
-    const QByteArray written = bytes();
-    QCOMPARE(written.size(), 21 * recordLength + 5);
-    QVERIFY(written.startsWith(QByteArray("\x5D\0$argon2id$v=19$m=8,t=1,p=1$", 29)));
-    QCOMPARE(written.mid(95, recordLength - 95), QByteArray(recordLength - 95, '\0'));
-    QByteArray flags = written.left(recordLength);
-    for (int area = 0; area < ProtectedAreas::count; ++area)
-        put(flags, area + 2, counted(area == 2 || area == 20 ? "YES" : "NO"));
-    QCOMPARE(written, flags);
-}
-
-void TestPasswordCheck::neverStoresThePassword()
-{
-    QVERIFY(file().setPassword(u"Open sesame"_s));
-    QVERIFY(file().setPassword(u"Tulips"_s));
-    for (const char *part : {"sesame", "tulips"})
-        QVERIFY2(!bytes().toLower().contains(part), part);
-    // The same password gives another verifier each time, so that two households cannot be compared.
-    const QByteArray before = bytes();
-    QVERIFY(file().setPassword(u"Tulips"_s));
-    QVERIFY(bytes() != before);
-}
-
-void TestPasswordCheck::comparesPasswords_data()
-{
-    rows<QString, QString, bool>({
-        {"the same", u"Sesame"_s, u"Sesame"_s, true},
-        {"case counts", u"Sesame"_s, u"sesame"_s, false},
-        {"blanks count", u"Sesame"_s, u"Sesame "_s, false},
-        {"only a part", u"Sesame"_s, u"Sesam"_s, false},
-        {"nothing typed", u"Sesame"_s, {}, false},
-        {"beyond the code page", u"Ωμέγα 中文"_s, u"Ωμέγα 中文"_s, true},
-        {"not the question marks of it", u"Ωμέγα"_s, u"?????"_s, false},
-        {"an accent typed in two", u"José"_s, u"Jose\u0301"_s, true},
-        {"longer than a record", QString(300, u'x'), QString(300, u'x'), true},
-    });
-}
-
-void TestPasswordCheck::comparesPasswords()
-{
-    const auto [password, typed, matches] = row<QString, QString, bool>();
-    QVERIFY(file().setPassword(password));
-    QCOMPARE(file().matches(typed), matches);
-}
-
-void TestPasswordCheck::savingTouchesOnlyTheFlagsThatChanged()
-{
-    QByteArray before = sesameFile();
-    put(before, 6 + 2, counted("YES ") + "kept");
-    put(before, 7 + 2, counted({}) + "kept");
-    put(before, 2 + 2, counted("NO") + "kept");
-    setBytes(before);
-
-    ProtectedAreas areas = file().areas();
-    areas.setFlag(2, u"YES"_s);
-    QVERIFY(file().saveAreas(areas));
-    QCOMPARE(bytes(), put(before, 2 + 2, counted("YES") + "ept"));
-}
-
-void TestPasswordCheck::removalLeavesNothingToGuessFrom()
-{
-    setBytes(sesameFile());
-    QVERIFY(file().removePassword());
-    QCOMPARE(file().state(), PasswordCheck::State::NotSet);
-    QByteArray after(qsizetype(2) + qsizetype(qstrlen(sesameVerifier)), '\0');
-    for (int area = 0; area < ProtectedAreas::count; ++area)
-        put(after, area + 2, counted("NO") + (area == 0 || area == 6 ? "S" : ""));
-    QCOMPARE(bytes(), after);
-}
-
-void TestPasswordCheck::tellsDamagedFiles_data()
-{
-    using State = PasswordCheck::State;
-    const QByteArray verifier(sesameVerifier);
-    const auto changed = [&verifier](const char *from, const char *to) {
-        return counted(QByteArray(verifier).replace(from, to));
-    };
-    rows<int, QByteArray, PasswordCheck::State>({
-        {"untouched", 1, counted(verifier), State::Set},
-        {"verifier of another kind", 1, changed("argon2id", "argon2i"), State::Damaged},
-        {"verifier that asks for hours", 1, changed("t=1", "t=4000000"), State::Damaged},
-        {"verifier that asks for all memory", 1, changed("m=8", "m=4194304"), State::Damaged},
-        {"verifier without its end", 1, counted(verifier.left(60)), State::Damaged},
-        {"verifier with a foreign letter", 1, changed("EA12", "E~12"), State::Damaged},
-        {"zero byte in the verifier", 1, counted(QByteArray(verifier).replace(40, 1, QByteArray(1, '\0'))),
-         State::Damaged},
-        {"count beyond the record", 1, "\xFF\xFF", State::Damaged},
-        {"count that fills the record too far", 1, "\x8B\0"_ba, State::Damaged},
-        {"flags without a verifier", 1, QByteArray(2, '\0'), State::Damaged},
-        {"a plain word", 1, counted("Sesame"), State::Damaged},
-        {"flag in small letters", 2, counted("yes"), State::Damaged},
-        {"flag behind a blank", 2, counted(" YES"), State::Damaged},
-        {"flag with a blank behind it", 2, counted("YES "), State::Set},
-        {"empty flag", 3, counted({}), State::Set},
-        {"blank flag", 3, counted("  "), State::Set},
-        {"flag of zero bytes", 3, counted(QByteArray(2, '\0')), State::Damaged},
-        {"noise in the last flag", 22, counted("\xC3\x28"), State::Damaged},
-        {"bytes behind the last record", 23, "\xFF\xFF", State::Set},
-    });
-}
-
-void TestPasswordCheck::tellsDamagedFiles()
-{
-    const auto [record, value, state] = row<int, QByteArray, PasswordCheck::State>();
-    QByteArray content = sesameFile();
-    setBytes(put(content, record, value));
-    QCOMPARE(file().state(), state);
-    if (file().state() != PasswordCheck::State::Damaged)
-        return;
-    QVERIFY(!file().matches(u"Sesame"_s));
-    for (int area = 0; area < ProtectedAreas::count; ++area)
-        QVERIFY(file().areas().isProtected(area));
-}
-
-void TestPasswordCheck::everyCutIsDamage()
-{
-    const QByteArray whole = sesameFile();
-    for (qsizetype length = 1; length < whole.size(); ++length) {
-        setBytes(whole.left(length));
-        QVERIFY2(file().state() == PasswordCheck::State::Damaged, qPrintable(QString::number(length)));
-    }
-}
-
-void TestPasswordCheck::aFolderInItsPlaceIsDamage()
-{
-    QVERIFY(QDir(m_files.path({})).mkdir(u"pctrl1.fil"_s));
-    expectWarning("^Cannot read .*pctrl1.fil$");
-    QCOMPARE(file().state(), PasswordCheck::State::Damaged);
-    expectWarning("^Cannot read .*pctrl1.fil$");
-    QVERIFY(!file().setPassword(u"Sesame"_s));
-    QVERIFY(QDir(m_files.path({})).rmdir(u"pctrl1.fil"_s));
-}
-
-void TestPasswordCheck::aDamagedFileIsNotTouched()
-{
-    const QByteArray cut = sesameFile().left(1000);
-    setBytes(cut);
-    QVERIFY(!file().setPassword(u"Tulips"_s));
-    QVERIFY(!file().removePassword());
-    QVERIFY(!file().saveAreas({}));
-    QCOMPARE(bytes(), cut);
-}
-
-void TestPasswordCheck::isOldOrNewAfterEveryFailure_data()
-{
-    using Action = bool (*)(PasswordCheck);
-    const Action change = [](PasswordCheck file) { return file.setPassword(u"Tulips"_s); };
-    const Action remove = [](PasswordCheck file) { return file.removePassword(); };
-    const Action mark = [](PasswordCheck file) {
-        ProtectedAreas areas = file.areas();
-        for (int area = 0; area < ProtectedAreas::count; ++area)
-            areas.setFlag(area, area % 2 == 0 ? u"YES"_s : u"NO"_s);
-        return file.saveAreas(areas);
-    };
-    rows<Action, DiskFailure>({
-        {"another password, a step refused", change, DiskFailure::OneStep},
-        {"another password, the end", change, DiskFailure::TheEnd},
-        {"no password, a step refused", remove, DiskFailure::OneStep},
-        {"no password, the end", remove, DiskFailure::TheEnd},
-        {"marks, a step refused", mark, DiskFailure::OneStep},
-        {"marks, the end", mark, DiskFailure::TheEnd},
-    });
-}
-
-/// The old password with the old marks, or what was asked for: nothing between them ever opens an area.
-void TestPasswordCheck::isOldOrNewAfterEveryFailure()
-{
-    const auto [action, failure] = row<bool (*)(PasswordCheck), DiskFailure>();
-    int steps = 1;
-    for (int refused = 1; refused <= steps; ++refused) {
-        setBytes(sesameFile());
-        bool isDone = false;
-        {
-            const FailingDisk disk(failure, refused);
-            isDone = action(file());
-            steps = disk.steps();
-        }
-        if (failure == DiskFailure::OneStep && !isDone)
-            QCOMPARE(bytes(), sesameFile());
-        QVERIFY(ChangeSet::recover(m_files.folder()));
-        if (bytes() == sesameFile()) {
-            QVERIFY(!isDone);
-            continue;
-        }
-        const QByteArray now = bytes();
-        const auto matches = file().matches(u"Sesame"_s);
-        QVERIFY(action(file()));
-        // Salt makes each verifier another one; all else is as the action leaves it.
-        QCOMPARE(bytes().sliced(140), now.sliced(140));
-        QCOMPARE(file().matches(u"Sesame"_s), matches);
-    }
-}
 
 QTEST_APPLESS_MAIN(TestPasswordCheck)
 #include "tst_passwordcheck.moc"

@@ -33,179 +33,169 @@ class TestForm32 : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void namesWhatItGuards_data();
-    void namesWhatItGuards();
-    void opensWithThePassword();
-    void eachWrongAnswerWaitsLonger();
-    void theThirdWrongAnswerEndsIt();
-    void nothingIsTriedDuringTheWait();
-    void guardsOnWhereTheFileVanishes();
-    void leavesItsVerdictForTheGate();
-    void tellsThatTheFileIsDamaged();
-    void showsThePasswordOnlyWhenAsked();
+    void init()
+    {
+        m_program = std::make_unique<TestProgram>();
+        m_program->gate = AccessGate(showPasswordPrompt);
+        QVERIFY(PasswordCheck(m_program->folder, PasswordCost::minimum()).setPassword(u"Sesame"_s));
+    }
+
+    void namesWhatItGuards_data()
+    {
+        using Result = PasswordGateResult;
+        rows<int, PasswordGateResult, QString>({
+            {"a function", Area::Planner, Result::Open, u"Personal Planner"_s},
+            {"its button", Area::AddressBookButton, Result::Open, u"Family/Friends Data"_s},
+            {"another edition's", 8, Result::Open, u"Video Library"_s},
+            {"password control", Area::None, Result::PasswordControl, u"Password Control"_s},
+        });
+    }
+
+    void namesWhatItGuards()
+    {
+        const auto [area, result, name] = row<int, PasswordGateResult, QString>();
+        m_program->state.guardedArea = area;
+        m_program->state.passwordGateResult = result;
+        const Form32 prompt(m_program->program);
+        const QList<QLabel *> labels = prompt.findChildren<QLabel *>();
+        QVERIFY(std::any_of(labels.begin(), labels.end(),
+                            [&name](const QLabel *label) { return label->text() == name; }));
+    }
+
+    void opensWithThePassword()
+    {
+        Form32 prompt(m_program->program, nullptr, 1ms);
+        const QSignalSpy accepted(&prompt, &QDialog::accepted);
+        showActive(prompt);
+        type(prompt, u"Sesame"_s);
+        QCOMPARE(accepted.size(), 1);
+        QVERIFY(control<QLineEdit>(prompt, "Text1")->text().isEmpty());
+    }
+
+    void eachWrongAnswerWaitsLonger()
+    {
+        Form32 prompt(m_program->program, nullptr, 100ms);
+        showActive(prompt);
+        auto *box = control<QLineEdit>(prompt, "Text1");
+        auto *line = control<QLabel>(prompt, "refusal");
+
+        QElapsedTimer clock;
+        clock.start();
+        type(prompt, u"Tulips"_s);
+        QVERIFY(!box->isEnabled());
+        QCOMPARE(line->text(), u"That is not the password. Try again in 1 second."_s);
+        QCOMPARE(box->toolTip(), u"Try again in 1 second."_s);
+        QTRY_VERIFY(box->isEnabled());
+        QVERIFY(clock.restart() >= 95);
+        QVERIFY(box->hasFocus());
+
+        type(prompt, u"Roses"_s);
+        QCOMPARE(line->text(), u"That is not the password. Try again in 2 seconds."_s);
+        QTRY_COMPARE(line->text(), u"That is not the password. Try again in 1 second."_s);
+        QTRY_COMPARE(line->text(), u"That is not the password."_s);
+        QVERIFY(clock.elapsed() >= 190);
+    }
+
+    void theThirdWrongAnswerEndsIt()
+    {
+        Form32 prompt(m_program->program, nullptr, 1ms);
+        const QSignalSpy rejected(&prompt, &QDialog::rejected);
+        showActive(prompt);
+        for (int answer = 1; answer <= 3; ++answer) {
+            QTRY_VERIFY(control<QLineEdit>(prompt, "Text1")->isEnabled());
+            QVERIFY(rejected.isEmpty());
+            // An answer that was not given is not a wrong one.
+            type(prompt, QString());
+            type(prompt, u"sesame"_s);
+            QVERIFY(control<QLineEdit>(prompt, "Text1")->text().isEmpty());
+        }
+        QCOMPARE(rejected.size(), 1);
+    }
+
+    void nothingIsTriedDuringTheWait()
+    {
+        Form32 prompt(m_program->program, nullptr, 10s);
+        const QSignalSpy finished(&prompt, &QDialog::finished);
+        showActive(prompt);
+        type(prompt, u"Tulips"_s);
+        control<QLineEdit>(prompt, "Text1")->setText(u"Sesame"_s);
+        prompt.accept();
+        QTest::mouseClick(control<QPushButton>(prompt, "Command1"), Qt::LeftButton);
+        QVERIFY(finished.isEmpty());
+        QTest::mouseClick(control<QPushButton>(prompt, "Command2"), Qt::LeftButton);
+        QCOMPARE(prompt.result(), int(QDialog::Rejected));
+        QCOMPARE(finished.size(), 1);
+        // Nor in the next prompt, which goes on waiting.
+        Form32 next(m_program->program, nullptr, 10s);
+        QCOMPARE(control<QLabel>(next, "refusal")->text(),
+                 u"That is not the password. Try again in 1 second."_s);
+        QVERIFY(!control<QLineEdit>(next, "Text1")->isEnabled());
+    }
+
+    void guardsOnWhereTheFileVanishes()
+    {
+        m_program->state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
+        const auto cancel = [](QDialog &) { return int(QDialog::Rejected); };
+        m_program->dialogs.willRun(cancel);
+        QVERIFY(!m_program->gate.mayOpenPasswordControl(m_program->program, nullptr)); // has read the file
+        for (const bool isEmptied : {false, true}) {
+            QVERIFY(QFile::remove(m_program->path(u"PCtrl1.Fil"_s)));
+            if (isEmptied)
+                m_program->setBytes(u"PCtrl1.Fil"_s, {});
+            m_program->dialogs.willRun(cancel);
+            QVERIFY(!m_program->gate.mayOpenPasswordControl(m_program->program, nullptr));
+            m_program->dialogs.willRun([](QDialog &dialog) {
+                type(*qobject_cast<Form32 *>(&dialog), u"Sesame"_s);
+                return dialog.result();
+            });
+            QVERIFY(m_program->gate.mayOpen(m_program->program, Area::Planner, nullptr));
+            // What is saved then brings the whole file back.
+            PasswordCheck file(m_program->folder, PasswordCost::minimum(), &m_program->gate.memory());
+            ProtectedAreas areas = file.areas();
+            areas.setFlag(Area::Planner, u"YES"_s);
+            QVERIFY(file.saveAreas(areas));
+            const PasswordCheck anew(m_program->folder, PasswordCost::minimum());
+            QVERIFY(anew.matches(u"Sesame"_s) && anew.areas().isProtected(Area::Planner));
+        }
+    }
+
+    void leavesItsVerdictForTheGate()
+    {
+        m_program->state.protectedAreas.setFlag(Area::Budget, u"YES"_s);
+        for (const QDialog::DialogCode code : {QDialog::Accepted, QDialog::Rejected}) {
+            const bool opens = code == QDialog::Accepted;
+            m_program->dialogs.willRun([code](QDialog &) { return code; });
+            QCOMPARE(m_program->gate.mayOpen(m_program->program, Area::Budget, nullptr), opens);
+            m_program->dialogs.willRun([code](QDialog &) { return code; });
+            QCOMPARE(m_program->gate.mayOpenPasswordControl(m_program->program, nullptr), opens);
+            QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);
+        }
+        QVERIFY(m_program->dialogs.isDone());
+    }
+
+    void tellsThatTheFileIsDamaged()
+    {
+        m_program->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
+        for (const QByteArray &bytes : {"noise"_ba, ""_ba}) { // emptied while the program runs
+            m_program->setBytes(u"PCtrl1.Fil"_s, bytes);
+            QVERIFY(!m_program->gate.mayOpen(m_program->program, Area::AddressBook, nullptr));
+            QCOMPARE(m_program->dialogs.takeShown(),
+                     {PasswordMessages::fileDamaged(m_program->folder.path())});
+        }
+    }
+
+    void showsThePasswordOnlyWhenAsked()
+    {
+        const Form32 prompt(m_program->program);
+        auto *box = control<QLineEdit>(prompt, "Text1");
+        QCOMPARE(box->echoMode(), QLineEdit::Password);
+        control<QCheckBox>(prompt, "showPassword")->setChecked(true);
+        QCOMPARE(box->echoMode(), QLineEdit::Normal);
+    }
 
 private:
     std::unique_ptr<TestProgram> m_program;
 };
-
-void TestForm32::init()
-{
-    m_program = std::make_unique<TestProgram>();
-    m_program->gate = AccessGate(showPasswordPrompt);
-    QVERIFY(PasswordCheck(m_program->folder, PasswordCost::minimum()).setPassword(u"Sesame"_s));
-}
-
-void TestForm32::namesWhatItGuards_data()
-{
-    using Result = PasswordGateResult;
-    rows<int, PasswordGateResult, QString>({
-        {"a function", Area::Planner, Result::Open, u"Personal Planner"_s},
-        {"its button", Area::AddressBookButton, Result::Open, u"Family/Friends Data"_s},
-        {"another edition's", 8, Result::Open, u"Video Library"_s},
-        {"password control", Area::None, Result::PasswordControl, u"Password Control"_s},
-    });
-}
-
-void TestForm32::namesWhatItGuards()
-{
-    const auto [area, result, name] = row<int, PasswordGateResult, QString>();
-    m_program->state.guardedArea = area;
-    m_program->state.passwordGateResult = result;
-    const Form32 prompt(m_program->program);
-    const QList<QLabel *> labels = prompt.findChildren<QLabel *>();
-    QVERIFY(std::any_of(labels.begin(), labels.end(),
-                        [&name](const QLabel *label) { return label->text() == name; }));
-}
-
-void TestForm32::opensWithThePassword()
-{
-    Form32 prompt(m_program->program, nullptr, 1ms);
-    const QSignalSpy accepted(&prompt, &QDialog::accepted);
-    showActive(prompt);
-    type(prompt, u"Sesame"_s);
-    QCOMPARE(accepted.size(), 1);
-    QVERIFY(control<QLineEdit>(prompt, "Text1")->text().isEmpty());
-}
-
-void TestForm32::eachWrongAnswerWaitsLonger()
-{
-    Form32 prompt(m_program->program, nullptr, 100ms);
-    showActive(prompt);
-    auto *box = control<QLineEdit>(prompt, "Text1");
-    auto *line = control<QLabel>(prompt, "refusal");
-
-    QElapsedTimer clock;
-    clock.start();
-    type(prompt, u"Tulips"_s);
-    QVERIFY(!box->isEnabled());
-    QCOMPARE(line->text(), u"That is not the password. Try again in 1 second."_s);
-    QCOMPARE(box->toolTip(), u"Try again in 1 second."_s);
-    QTRY_VERIFY(box->isEnabled());
-    QVERIFY(clock.restart() >= 95);
-    QVERIFY(box->hasFocus());
-
-    type(prompt, u"Roses"_s);
-    QCOMPARE(line->text(), u"That is not the password. Try again in 2 seconds."_s);
-    QTRY_COMPARE(line->text(), u"That is not the password. Try again in 1 second."_s);
-    QTRY_COMPARE(line->text(), u"That is not the password."_s);
-    QVERIFY(clock.elapsed() >= 190);
-}
-
-void TestForm32::theThirdWrongAnswerEndsIt()
-{
-    Form32 prompt(m_program->program, nullptr, 1ms);
-    const QSignalSpy rejected(&prompt, &QDialog::rejected);
-    showActive(prompt);
-    for (int answer = 1; answer <= 3; ++answer) {
-        QTRY_VERIFY(control<QLineEdit>(prompt, "Text1")->isEnabled());
-        QVERIFY(rejected.isEmpty());
-        // An answer that was not given is not a wrong one.
-        type(prompt, QString());
-        type(prompt, u"sesame"_s);
-        QVERIFY(control<QLineEdit>(prompt, "Text1")->text().isEmpty());
-    }
-    QCOMPARE(rejected.size(), 1);
-}
-
-void TestForm32::nothingIsTriedDuringTheWait()
-{
-    Form32 prompt(m_program->program, nullptr, 10s);
-    const QSignalSpy finished(&prompt, &QDialog::finished);
-    showActive(prompt);
-    type(prompt, u"Tulips"_s);
-    control<QLineEdit>(prompt, "Text1")->setText(u"Sesame"_s);
-    prompt.accept();
-    QTest::mouseClick(control<QPushButton>(prompt, "Command1"), Qt::LeftButton);
-    QVERIFY(finished.isEmpty());
-    QTest::mouseClick(control<QPushButton>(prompt, "Command2"), Qt::LeftButton);
-    QCOMPARE(prompt.result(), int(QDialog::Rejected));
-    QCOMPARE(finished.size(), 1);
-    // Nor in the next prompt, which goes on waiting.
-    Form32 next(m_program->program, nullptr, 10s);
-    QCOMPARE(control<QLabel>(next, "refusal")->text(), u"That is not the password. Try again in 1 second."_s);
-    QVERIFY(!control<QLineEdit>(next, "Text1")->isEnabled());
-}
-
-void TestForm32::guardsOnWhereTheFileVanishes()
-{
-    m_program->state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
-    const auto cancel = [](QDialog &) { return int(QDialog::Rejected); };
-    m_program->dialogs.willRun(cancel);
-    QVERIFY(!m_program->gate.mayOpenPasswordControl(m_program->program, nullptr)); // has read the file
-    for (const bool isEmptied : {false, true}) {
-        QVERIFY(QFile::remove(m_program->path(u"PCtrl1.Fil"_s)));
-        if (isEmptied)
-            m_program->setBytes(u"PCtrl1.Fil"_s, {});
-        m_program->dialogs.willRun(cancel);
-        QVERIFY(!m_program->gate.mayOpenPasswordControl(m_program->program, nullptr));
-        m_program->dialogs.willRun([](QDialog &dialog) {
-            type(*qobject_cast<Form32 *>(&dialog), u"Sesame"_s);
-            return dialog.result();
-        });
-        QVERIFY(m_program->gate.mayOpen(m_program->program, Area::Planner, nullptr));
-        // What is saved then brings the whole file back.
-        PasswordCheck file(m_program->folder, PasswordCost::minimum(), &m_program->gate.memory());
-        ProtectedAreas areas = file.areas();
-        areas.setFlag(Area::Planner, u"YES"_s);
-        QVERIFY(file.saveAreas(areas));
-        const PasswordCheck anew(m_program->folder, PasswordCost::minimum());
-        QVERIFY(anew.matches(u"Sesame"_s) && anew.areas().isProtected(Area::Planner));
-    }
-}
-
-void TestForm32::leavesItsVerdictForTheGate()
-{
-    m_program->state.protectedAreas.setFlag(Area::Budget, u"YES"_s);
-    for (const QDialog::DialogCode code : {QDialog::Accepted, QDialog::Rejected}) {
-        const bool opens = code == QDialog::Accepted;
-        m_program->dialogs.willRun([code](QDialog &) { return code; });
-        QCOMPARE(m_program->gate.mayOpen(m_program->program, Area::Budget, nullptr), opens);
-        m_program->dialogs.willRun([code](QDialog &) { return code; });
-        QCOMPARE(m_program->gate.mayOpenPasswordControl(m_program->program, nullptr), opens);
-        QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);
-    }
-    QVERIFY(m_program->dialogs.isDone());
-}
-
-void TestForm32::tellsThatTheFileIsDamaged()
-{
-    m_program->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
-    for (const QByteArray &bytes : {"noise"_ba, ""_ba}) { // emptied while the program runs
-        m_program->setBytes(u"PCtrl1.Fil"_s, bytes);
-        QVERIFY(!m_program->gate.mayOpen(m_program->program, Area::AddressBook, nullptr));
-        QCOMPARE(m_program->dialogs.takeShown(), {PasswordMessages::fileDamaged(m_program->folder.path())});
-    }
-}
-
-void TestForm32::showsThePasswordOnlyWhenAsked()
-{
-    const Form32 prompt(m_program->program);
-    auto *box = control<QLineEdit>(prompt, "Text1");
-    QCOMPARE(box->echoMode(), QLineEdit::Password);
-    control<QCheckBox>(prompt, "showPassword")->setChecked(true);
-    QCOMPARE(box->echoMode(), QLineEdit::Normal);
-}
 
 QTEST_MAIN(TestForm32)
 #include "tst_passwordprompt.moc"

@@ -48,117 +48,111 @@ class TestPanels : public QObject
 
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
-    void escLeavesAPanelUnlessItRefuses();
-    void aPanelScrollsWhatDoesNotFit();
-    void aFootTakesASecondRow();
-    void escClearsAFilledSearchBoxAndIsUsedUp();
-    void theChipGivesWayBeforeTheTitleIsCut_data();
-    void theChipGivesWayBeforeTheTitleIsCut();
+
+    void escLeavesAPanelUnlessItRefuses()
+    {
+        Window window;
+        WalkPanel panel(u"walkPanel"_s, u"Walk"_s, &window);
+        auto *box = new QLineEdit;
+        panel.setContent(box);
+        QPushButton *close = panel.setLeaveButton(u"walkClose"_s, u"Close"_s);
+        showActive(window);
+        box->setFocus();
+        const QSignalSpy left(&panel, &TaskPanel::left);
+
+        panel.isRunning = true;
+        QTest::keyClick(box, Qt::Key_Escape);
+        close->click();
+        QCOMPARE(left.count(), 0);
+        panel.isRunning = false;
+        QTest::keyClick(box, Qt::Key_Escape);
+        QCOMPARE(left.count(), 1);
+        close->click();
+        QCOMPARE(left.count(), 2);
+        QCOMPARE(window.escapes, 0);
+    }
+
+    void aPanelScrollsWhatDoesNotFit()
+    {
+        TaskPanel panel(u"longPanel"_s, u"A long one"_s);
+        auto *content = new QWidget;
+        content->setMinimumHeight(900);
+        panel.setContent(content);
+        QPushButton *ok = panel.addButton(u"longOk"_s, u"OK"_s, ButtonKind::Main);
+        ok->setMinimumWidth(88);
+        panel.resize(500, 300);
+        showActive(panel);
+        QCOMPARE(panel.height(), 300);
+        QVERIFY(control<QScrollArea>(panel, "longScroll")->height() < 300);
+        // Its buttons stay in sight, at the right end, as wide as they were asked to be.
+        const QRect place(ok->mapTo(&panel, QPoint()), ok->size());
+        QVERIFY(panel.rect().contains(place));
+        QCOMPARE(place.right(), panel.width() - 24 - 1);
+        QVERIFY(ok->width() >= 88);
+    }
+
+    void aFootTakesASecondRow()
+    {
+        TaskPanel panel(u"widePanel"_s, u"Wide"_s);
+        panel.setWork(new QWidget);
+        const QPushButton *rare =
+            panel.addButton(u"rare"_s, u"Remove This Recurrence"_s, ButtonKind::Plain, TaskPanel::Side::Left);
+        const QPushButton *usual = panel.addButton(u"usual"_s, u"Enter Picture Into Program"_s);
+        panel.resize(800, 300);
+        showActive(panel);
+        QCOMPARE(usual->y(), rare->y());
+        panel.resize(rare->width() + usual->width() + 48, 300);
+        QTRY_VERIFY(usual->y() >= rare->geometry().bottom());
+        QVERIFY(panel.buttonRow().rect().contains(usual->geometry()));
+    }
+
+    void escClearsAFilledSearchBoxAndIsUsedUp()
+    {
+        Window window;
+        auto *search = new SearchBox(u"find"_s, u"Search names"_s, {}, nullptr);
+        auto *list = new QListWidget;
+        (new QVBoxLayout(&window))->addWidget(new ListPane(search, list, new QLabel(u"2 names"_s)));
+        showActive(window);
+        search->setFocus();
+        QTest::keyClicks(search, u"an"_s);
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(search->text(), QString());
+        QCOMPARE(window.escapes, 0);
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(window.escapes, 1);
+        QTest::keyClick(search, Qt::Key_Down);
+        QVERIFY(list->hasFocus());
+    }
+
+    void theChipGivesWayBeforeTheTitleIsCut_data()
+    {
+        const QString longText = u"A name that fills the whole of a line"_s;
+        rows<QString, QString, bool>({
+            {"all fit", u"Miller, Anne"_s, u"Unsaved changes"_s, true},
+            {"a long title", longText, {}, false},
+            {"words that take its room", u"Miller, Anne"_s, longText, false},
+        });
+    }
+
+    void theChipGivesWayBeforeTheTitleIsCut()
+    {
+        const auto [title, words, isChipShown] = row<QString, QString, bool>();
+        TitleLine line(u"title"_s, u"Short"_s, nullptr);
+        const QLabel *chip = line.addChip(u"chip"_s);
+        QLabel *atRight = line.addWords(u"words"_s);
+        line.resize(420, 40);
+        showActive(line);
+        QVERIFY(chip->isHidden()); // without words of its own
+        line.setChip(u"Modify"_s);
+        line.setTitle(title);
+        atRight->setText(words);
+        QTRY_COMPARE(chip->isVisible(), isChipShown);
+        QCOMPARE(line.width(), 420);
+        line.setTitle(u"A"_s);
+        atRight->clear();
+        QTRY_VERIFY(chip->isVisible());
+    }
 };
-
-void TestPanels::escLeavesAPanelUnlessItRefuses()
-{
-    Window window;
-    WalkPanel panel(u"walkPanel"_s, u"Walk"_s, &window);
-    auto *box = new QLineEdit;
-    panel.setContent(box);
-    QPushButton *close = panel.setLeaveButton(u"walkClose"_s, u"Close"_s);
-    showActive(window);
-    box->setFocus();
-    const QSignalSpy left(&panel, &TaskPanel::left);
-
-    panel.isRunning = true;
-    QTest::keyClick(box, Qt::Key_Escape);
-    close->click();
-    QCOMPARE(left.count(), 0);
-    panel.isRunning = false;
-    QTest::keyClick(box, Qt::Key_Escape);
-    QCOMPARE(left.count(), 1);
-    close->click();
-    QCOMPARE(left.count(), 2);
-    QCOMPARE(window.escapes, 0);
-}
-
-void TestPanels::aPanelScrollsWhatDoesNotFit()
-{
-    TaskPanel panel(u"longPanel"_s, u"A long one"_s);
-    auto *content = new QWidget;
-    content->setMinimumHeight(900);
-    panel.setContent(content);
-    QPushButton *ok = panel.addButton(u"longOk"_s, u"OK"_s, ButtonKind::Main);
-    ok->setMinimumWidth(88);
-    panel.resize(500, 300);
-    showActive(panel);
-    QCOMPARE(panel.height(), 300);
-    QVERIFY(control<QScrollArea>(panel, "longScroll")->height() < 300);
-    // Its buttons stay in sight, at the right end, as wide as they were asked to be.
-    const QRect place(ok->mapTo(&panel, QPoint()), ok->size());
-    QVERIFY(panel.rect().contains(place));
-    QCOMPARE(place.right(), panel.width() - 24 - 1);
-    QVERIFY(ok->width() >= 88);
-}
-
-void TestPanels::aFootTakesASecondRow()
-{
-    TaskPanel panel(u"widePanel"_s, u"Wide"_s);
-    panel.setWork(new QWidget);
-    const QPushButton *rare =
-        panel.addButton(u"rare"_s, u"Remove This Recurrence"_s, ButtonKind::Plain, TaskPanel::Side::Left);
-    const QPushButton *usual = panel.addButton(u"usual"_s, u"Enter Picture Into Program"_s);
-    panel.resize(800, 300);
-    showActive(panel);
-    QCOMPARE(usual->y(), rare->y());
-    panel.resize(rare->width() + usual->width() + 48, 300);
-    QTRY_VERIFY(usual->y() >= rare->geometry().bottom());
-    QVERIFY(panel.buttonRow().rect().contains(usual->geometry()));
-}
-
-void TestPanels::escClearsAFilledSearchBoxAndIsUsedUp()
-{
-    Window window;
-    auto *search = new SearchBox(u"find"_s, u"Search names"_s, {}, nullptr);
-    auto *list = new QListWidget;
-    (new QVBoxLayout(&window))->addWidget(new ListPane(search, list, new QLabel(u"2 names"_s)));
-    showActive(window);
-    search->setFocus();
-    QTest::keyClicks(search, u"an"_s);
-    QTest::keyClick(search, Qt::Key_Escape);
-    QCOMPARE(search->text(), QString());
-    QCOMPARE(window.escapes, 0);
-    QTest::keyClick(search, Qt::Key_Escape);
-    QCOMPARE(window.escapes, 1);
-    QTest::keyClick(search, Qt::Key_Down);
-    QVERIFY(list->hasFocus());
-}
-
-void TestPanels::theChipGivesWayBeforeTheTitleIsCut_data()
-{
-    const QString longText = u"A name that fills the whole of a line"_s;
-    rows<QString, QString, bool>({
-        {"all fit", u"Miller, Anne"_s, u"Unsaved changes"_s, true},
-        {"a long title", longText, {}, false},
-        {"words that take its room", u"Miller, Anne"_s, longText, false},
-    });
-}
-
-void TestPanels::theChipGivesWayBeforeTheTitleIsCut()
-{
-    const auto [title, words, isChipShown] = row<QString, QString, bool>();
-    TitleLine line(u"title"_s, u"Short"_s, nullptr);
-    const QLabel *chip = line.addChip(u"chip"_s);
-    QLabel *atRight = line.addWords(u"words"_s);
-    line.resize(420, 40);
-    showActive(line);
-    QVERIFY(chip->isHidden()); // without words of its own
-    line.setChip(u"Modify"_s);
-    line.setTitle(title);
-    atRight->setText(words);
-    QTRY_COMPARE(chip->isVisible(), isChipShown);
-    QCOMPARE(line.width(), 420);
-    line.setTitle(u"A"_s);
-    atRight->clear();
-    QTRY_VERIFY(chip->isVisible());
-}
 
 QTEST_MAIN(TestPanels)
 #include "tst_panels.moc"

@@ -79,189 +79,177 @@ class TestFunctionWindow : public QObject
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
     void init() { m_program = std::make_unique<TestProgram>(); }
-    void standsInItsFrame();
-    void asksBeforeItCloses_data();
-    void asksBeforeItCloses();
-    void leavesOnceItIsAsked();
-    void staysWhileItIsBusy();
-    void escLeavesPreviewThenViewThenWindow();
-    void asksForTheManualAndTheMainMenu();
-    void removesTheToolbarInEveryWindow();
-    void remembersItsPlace();
-    void opensOnceAndIsRaisedThen();
+
+    void standsInItsFrame()
+    {
+        const auto window = open();
+        QCOMPARE(window->objectName(), u"SAMPLE"_s);
+        QCOMPARE(window->windowTitle(), u"Sample Screen"_s);
+        QCOMPARE(window->activity().activity(), u"Sample"_s);
+        QVERIFY(control<QToolButton>(*window, "mOPrt_button")->isVisible());
+        QCOMPARE(window->toolbar().actions().first()->objectName(), u"mainMenu"_s);
+        QVERIFY(QRect(QPoint(), window->screen()->availableSize()).contains(QRect(QPoint(), window->size())));
+    }
+
+    void asksBeforeItCloses_data()
+    {
+        rows<QString, Answer, bool, QStringList>({
+            {"nothing typed", {}, Answer::Ok, true, {}},
+            {"saved", u"text"_s, Answer::Yes, true, {u"saved text"_s}},
+            {"a save that is refused", u"refused"_s, Answer::Yes, false, {u"saved refused"_s}},
+            {"dropped", u"text"_s, Answer::No, true, {u"dropped"_s}},
+            {"stays", u"text"_s, Answer::Cancel, false, {}},
+        });
+    }
+
+    void asksBeforeItCloses()
+    {
+        const auto [typed, answer, closes, done] = row<QString, Answer, bool, QStringList>();
+        const auto window = open();
+        QTest::keyClicks(control<QLineEdit>(*window, "box"), typed);
+        if (!typed.isEmpty())
+            m_program->dialogs.willAnswer(answer);
+        QTest::keyClick(window.get(), Qt::Key_Escape);
+        QCOMPARE(window->isVisible(), !closes);
+        QCOMPARE(window->done, done);
+        QVERIFY(m_program->dialogs.isDone());
+    }
+
+    void leavesOnceItIsAsked()
+    {
+        const auto window = open();
+        QTest::keyClicks(control<QLineEdit>(*window, "box"), u"text"_s);
+        m_program->dialogs.willAnswer(Answer::No);
+        QVERIFY(window->mayLeave());
+        QVERIFY(window->mayLeave()); // the exit asked already
+        // The exit was stopped by another window: the question comes again.
+        window->stay();
+        QVERIFY(window->done.isEmpty());
+        m_program->dialogs.willAnswer(Answer::Yes);
+        QVERIFY(window->mayLeave());
+        QVERIFY(window->done.isEmpty());
+        QVERIFY(window->saveToLeave() && window->close());
+        QCOMPARE(window->done, {u"saved text"_s});
+        QVERIFY(m_program->dialogs.isDone());
+    }
+
+    void staysWhileItIsBusy()
+    {
+        const auto window = open();
+        window->setBusy(true);
+        QVERIFY(!window->toolbar().isEnabled() && !window->menuBar()->isEnabled());
+        QVERIFY(!control<QWidget>(*window, "side")->isEnabled() &&
+                control<QLineEdit>(*window, "box")->isEnabled());
+        QVERIFY(!window->close());
+        QVERIFY(!window->activity().message().isEmpty());
+        window->setBusy(false);
+        QVERIFY(window->close());
+    }
+
+    void escLeavesPreviewThenViewThenWindow()
+    {
+        const auto window = open();
+        auto *box = control<QLineEdit>(*window, "box");
+        auto *over = control<QLineEdit>(*window, "over");
+        box->setFocus();
+        window->openOver();
+        over->setFocus();
+        window->showPreview([](const PageContext &) { return Page(u"Sample"_s); }, u"Sample"_s);
+        QVERIFY(window->isPreviewShown());
+        QTest::keyClick(window.get(), Qt::Key_Escape);
+        QVERIFY(!window->isPreviewShown() && over->hasFocus());
+        QTest::keyClick(window.get(), Qt::Key_Escape);
+        QVERIFY(box->hasFocus() && window->isVisible());
+        QTest::keyClick(window.get(), Qt::Key_Escape);
+        QVERIFY(!window->isVisible());
+    }
+
+    void asksForTheManualAndTheMainMenu()
+    {
+        const auto window = open();
+        QSignalSpy manual(&m_program->changes, &ProgramSignals::helpRequested);
+        QTest::keyClick(control<QLineEdit>(*window, "box"), Qt::Key_F1);
+        QCOMPARE(manual, (QList<QVariantList>{{1004}}));
+        QSignalSpy mainMenu(&m_program->changes, &ProgramSignals::mainMenuRequested);
+        QTest::mouseClick(control<QToolButton>(*window, "mainMenu_button"), Qt::LeftButton);
+        QCOMPARE(mainMenu.size(), 1);
+    }
+
+    void removesTheToolbarInEveryWindow()
+    {
+        const auto one = open(), other = open();
+        emit one->toolbar().customContextMenuRequested(QPoint(5, 5));
+        control<QMenu>(*one, "toolbarMenu")->actions().first()->trigger();
+        QVERIFY(!one->toolbar().isVisible() && !other->toolbar().isVisible());
+        for (const TextSetting &setting : {SettingsKeys::topToolbar, SettingsKeys::weightTopToolbar})
+            QCOMPARE(m_program->settings.text(setting), u"OFF"_s);
+        m_program->state.topToolbarRemoved.reset(); // as at the next start
+        const auto later = open();
+        QVERIFY(!later->toolbar().isVisible());
+
+        auto *link = control<QToolButton>(*other, "StatusBar1_RestoreTop");
+        QCOMPARE(link->text(), u"Click to Restore Top Toolbar"_s);
+        QTest::mouseClick(link, Qt::LeftButton);
+        QVERIFY(one->toolbar().isVisible() && other->toolbar().isVisible() && later->toolbar().isVisible());
+        QVERIFY(!control<QToolButton>(*one, "StatusBar1_RestoreTop")->isVisible());
+        QCOMPARE(m_program->settings.number(SettingsKeys::sideToolbarMarker), 88);
+        QCOMPARE(m_program->settings.text(SettingsKeys::topToolbar), u"ON"_s);
+    }
+
+    void remembersItsPlace()
+    {
+        const auto window = open();
+        window->setMinimumSize(200, 200);
+        window->resize(640, 480);
+        auto *splitter = control<QSplitter>(*window, "splitter");
+        splitter->setSizes({200, 400});
+        QCOMPARE(splitter->sizes().first(), 200);
+        const QList<int> sizes = splitter->sizes();
+        emit splitter->splitterMoved(sizes[0], 1); // the place is the user's, and not the window's own
+        window->close();
+        QVERIFY(m_program->store.contains(u"Windows/SAMPLE/geometry"_s));
+
+        const auto again = open();
+        QCOMPARE(control<QSplitter>(*again, "splitter")->sizes().first(), sizes.first());
+        // A record that is no geometry is ignored.
+        m_program->store.setValue(u"Windows/SAMPLE/geometry"_s, QByteArray("noise"));
+        const auto third = open();
+        QVERIFY(third->isVisible());
+    }
+
+    void opensOnceAndIsRaisedThen()
+    {
+        FunctionCatalogue &functions = m_program->functions;
+        QVERIFY(!functions.open(Function::Budget, m_program->program));
+        FunctionEntry entry;
+        entry.open = [](Program &program) -> QWidget * { return new SampleWindow(program); };
+        functions.add(Function::Budget, entry);
+        QPointer<QWidget> window = functions.open(Function::Budget, m_program->program);
+        QCOMPARE(functions.open(Function::Budget, m_program->program), window.data());
+        QCOMPARE(functions.openWindows(), QList<QWidget *>{window.data()});
+        window->close();
+        QVERIFY(functions.openWindows().isEmpty());
+        // Opening it again at once, before the closed one is gone, gives a new one.
+        QPointer<QWidget> next = functions.open(Function::Budget, m_program->program);
+        QVERIFY(next && next != window);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(window.isNull() && next);
+        next->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(next.isNull());
+    }
 
 private:
-    std::unique_ptr<SampleWindow> open() const;
+    std::unique_ptr<SampleWindow> open() const
+    {
+        auto window = std::make_unique<SampleWindow>(m_program->program);
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        showActive(*window);
+        return window;
+    }
 
     std::unique_ptr<TestProgram> m_program;
 };
-
-std::unique_ptr<SampleWindow> TestFunctionWindow::open() const
-{
-    auto window = std::make_unique<SampleWindow>(m_program->program);
-    window->setAttribute(Qt::WA_DeleteOnClose, false);
-    showActive(*window);
-    return window;
-}
-
-void TestFunctionWindow::standsInItsFrame()
-{
-    const auto window = open();
-    QCOMPARE(window->objectName(), u"SAMPLE"_s);
-    QCOMPARE(window->windowTitle(), u"Sample Screen"_s);
-    QCOMPARE(window->activity().activity(), u"Sample"_s);
-    QVERIFY(control<QToolButton>(*window, "mOPrt_button")->isVisible());
-    QCOMPARE(window->toolbar().actions().first()->objectName(), u"mainMenu"_s);
-    QVERIFY(QRect(QPoint(), window->screen()->availableSize()).contains(QRect(QPoint(), window->size())));
-}
-
-void TestFunctionWindow::asksBeforeItCloses_data()
-{
-    rows<QString, Answer, bool, QStringList>({
-        {"nothing typed", {}, Answer::Ok, true, {}},
-        {"saved", u"text"_s, Answer::Yes, true, {u"saved text"_s}},
-        {"a save that is refused", u"refused"_s, Answer::Yes, false, {u"saved refused"_s}},
-        {"dropped", u"text"_s, Answer::No, true, {u"dropped"_s}},
-        {"stays", u"text"_s, Answer::Cancel, false, {}},
-    });
-}
-
-void TestFunctionWindow::asksBeforeItCloses()
-{
-    const auto [typed, answer, closes, done] = row<QString, Answer, bool, QStringList>();
-    const auto window = open();
-    QTest::keyClicks(control<QLineEdit>(*window, "box"), typed);
-    if (!typed.isEmpty())
-        m_program->dialogs.willAnswer(answer);
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    QCOMPARE(window->isVisible(), !closes);
-    QCOMPARE(window->done, done);
-    QVERIFY(m_program->dialogs.isDone());
-}
-
-void TestFunctionWindow::leavesOnceItIsAsked()
-{
-    const auto window = open();
-    QTest::keyClicks(control<QLineEdit>(*window, "box"), u"text"_s);
-    m_program->dialogs.willAnswer(Answer::No);
-    QVERIFY(window->mayLeave());
-    QVERIFY(window->mayLeave()); // the exit asked already
-    // The exit was stopped by another window: the question comes again.
-    window->stay();
-    QVERIFY(window->done.isEmpty());
-    m_program->dialogs.willAnswer(Answer::Yes);
-    QVERIFY(window->mayLeave());
-    QVERIFY(window->done.isEmpty());
-    QVERIFY(window->saveToLeave() && window->close());
-    QCOMPARE(window->done, {u"saved text"_s});
-    QVERIFY(m_program->dialogs.isDone());
-}
-
-void TestFunctionWindow::staysWhileItIsBusy()
-{
-    const auto window = open();
-    window->setBusy(true);
-    QVERIFY(!window->toolbar().isEnabled() && !window->menuBar()->isEnabled());
-    QVERIFY(!control<QWidget>(*window, "side")->isEnabled() &&
-            control<QLineEdit>(*window, "box")->isEnabled());
-    QVERIFY(!window->close());
-    QVERIFY(!window->activity().message().isEmpty());
-    window->setBusy(false);
-    QVERIFY(window->close());
-}
-
-void TestFunctionWindow::escLeavesPreviewThenViewThenWindow()
-{
-    const auto window = open();
-    auto *box = control<QLineEdit>(*window, "box");
-    auto *over = control<QLineEdit>(*window, "over");
-    box->setFocus();
-    window->openOver();
-    over->setFocus();
-    window->showPreview([](const PageContext &) { return Page(u"Sample"_s); }, u"Sample"_s);
-    QVERIFY(window->isPreviewShown());
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    QVERIFY(!window->isPreviewShown() && over->hasFocus());
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    QVERIFY(box->hasFocus() && window->isVisible());
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    QVERIFY(!window->isVisible());
-}
-
-void TestFunctionWindow::asksForTheManualAndTheMainMenu()
-{
-    const auto window = open();
-    QSignalSpy manual(&m_program->changes, &ProgramSignals::helpRequested);
-    QTest::keyClick(control<QLineEdit>(*window, "box"), Qt::Key_F1);
-    QCOMPARE(manual, (QList<QVariantList>{{1004}}));
-    QSignalSpy mainMenu(&m_program->changes, &ProgramSignals::mainMenuRequested);
-    QTest::mouseClick(control<QToolButton>(*window, "mainMenu_button"), Qt::LeftButton);
-    QCOMPARE(mainMenu.size(), 1);
-}
-
-void TestFunctionWindow::removesTheToolbarInEveryWindow()
-{
-    const auto one = open(), other = open();
-    emit one->toolbar().customContextMenuRequested(QPoint(5, 5));
-    control<QMenu>(*one, "toolbarMenu")->actions().first()->trigger();
-    QVERIFY(!one->toolbar().isVisible() && !other->toolbar().isVisible());
-    for (const TextSetting &setting : {SettingsKeys::topToolbar, SettingsKeys::weightTopToolbar})
-        QCOMPARE(m_program->settings.text(setting), u"OFF"_s);
-    m_program->state.topToolbarRemoved.reset(); // as at the next start
-    const auto later = open();
-    QVERIFY(!later->toolbar().isVisible());
-
-    auto *link = control<QToolButton>(*other, "StatusBar1_RestoreTop");
-    QCOMPARE(link->text(), u"Click to Restore Top Toolbar"_s);
-    QTest::mouseClick(link, Qt::LeftButton);
-    QVERIFY(one->toolbar().isVisible() && other->toolbar().isVisible() && later->toolbar().isVisible());
-    QVERIFY(!control<QToolButton>(*one, "StatusBar1_RestoreTop")->isVisible());
-    QCOMPARE(m_program->settings.number(SettingsKeys::sideToolbarMarker), 88);
-    QCOMPARE(m_program->settings.text(SettingsKeys::topToolbar), u"ON"_s);
-}
-
-void TestFunctionWindow::remembersItsPlace()
-{
-    const auto window = open();
-    window->setMinimumSize(200, 200);
-    window->resize(640, 480);
-    auto *splitter = control<QSplitter>(*window, "splitter");
-    splitter->setSizes({200, 400});
-    QCOMPARE(splitter->sizes().first(), 200);
-    const QList<int> sizes = splitter->sizes();
-    emit splitter->splitterMoved(sizes[0], 1); // the place is the user's, and not the window's own
-    window->close();
-    QVERIFY(m_program->store.contains(u"Windows/SAMPLE/geometry"_s));
-
-    const auto again = open();
-    QCOMPARE(control<QSplitter>(*again, "splitter")->sizes().first(), sizes.first());
-    // A record that is no geometry is ignored.
-    m_program->store.setValue(u"Windows/SAMPLE/geometry"_s, QByteArray("noise"));
-    const auto third = open();
-    QVERIFY(third->isVisible());
-}
-
-void TestFunctionWindow::opensOnceAndIsRaisedThen()
-{
-    FunctionCatalogue &functions = m_program->functions;
-    QVERIFY(!functions.open(Function::Budget, m_program->program));
-    FunctionEntry entry;
-    entry.open = [](Program &program) -> QWidget * { return new SampleWindow(program); };
-    functions.add(Function::Budget, entry);
-    QPointer<QWidget> window = functions.open(Function::Budget, m_program->program);
-    QCOMPARE(functions.open(Function::Budget, m_program->program), window.data());
-    QCOMPARE(functions.openWindows(), QList<QWidget *>{window.data()});
-    window->close();
-    QVERIFY(functions.openWindows().isEmpty());
-    // Opening it again at once, before the closed one is gone, gives a new one.
-    QPointer<QWidget> next = functions.open(Function::Budget, m_program->program);
-    QVERIFY(next && next != window);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(window.isNull() && next);
-    next->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(next.isNull());
-}
 
 QTEST_MAIN(TestFunctionWindow)
 #include "tst_functionwindow.moc"

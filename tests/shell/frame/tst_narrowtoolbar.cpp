@@ -12,25 +12,24 @@ class TestNarrowToolbar : public QObject
     Q_OBJECT
 
 private slots:
-    void leavesOutAndShortensWhileTheWindowIsNarrow();
-};
-
-void TestNarrowToolbar::leavesOutAndShortensWhileTheWindowIsNarrow()
-{
-    QWidget window;
-    QAction copy, paste;
-    copy.setIconText(u"Copy Day"_s);
-    auto *narrow = new NarrowToolbar(&window);
-    narrow->shorten(&copy, u"Copy"_s);
-    narrow->leaveOut(&paste);
-    window.show();
-    for (const int width : {NarrowToolbar::wideFrom, NarrowToolbar::wideFrom - 1, NarrowToolbar::wideFrom}) {
-        window.resize(width, 600);
-        const bool isWide = width == NarrowToolbar::wideFrom;
-        QCOMPARE(paste.isVisible(), isWide);
-        QCOMPARE(copy.iconText(), isWide ? u"Copy Day"_s : u"Copy"_s);
+    void leavesOutAndShortensWhileTheWindowIsNarrow()
+    {
+        QWidget window;
+        QAction copy, paste;
+        copy.setIconText(u"Copy Day"_s);
+        auto *narrow = new NarrowToolbar(&window);
+        narrow->shorten(&copy, u"Copy"_s);
+        narrow->leaveOut(&paste);
+        window.show();
+        for (const int width :
+             {NarrowToolbar::wideFrom, NarrowToolbar::wideFrom - 1, NarrowToolbar::wideFrom}) {
+            window.resize(width, 600);
+            const bool isWide = width == NarrowToolbar::wideFrom;
+            QCOMPARE(paste.isVisible(), isWide);
+            QCOMPARE(copy.iconText(), isWide ? u"Copy Day"_s : u"Copy"_s);
+        }
     }
-}
+};
 
 QTEST_MAIN(TestNarrowToolbar)
 #include "tst_narrowtoolbar.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/look/theme.h"
+
 #include <QColor>
 #include <QDir>
 #include <QFileInfo>
@@ -9,18 +11,6 @@
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
-
-/// The pictures that the build paints must leave the date and the cards of the main menu readable.
-class TestBackgroundPictures final : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void keepsToItsLimits_data();
-    void keepsToItsLimits();
-    void dateIsReadable_data();
-    void dateIsReadable();
-};
 
 static QString pathOf(int picture)
 {
@@ -39,21 +29,6 @@ static QImage underTheDate(int picture, QSize view)
               QRect(origin + QPoint(32, 20), QPoint(std::min(700, view.width() * 3 / 4), 110) + origin));
 }
 
-static double luminance(QRgb colour)
-{
-    const auto linear = [](int channel) {
-        const double share = channel / 255.0;
-        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
-}
-
-static double contrast(QRgb one, QRgb other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 /// Mean lightness, 0 to 1, of every square of `side` pixels.
 static QList<QList<double>> lightness(const QImage &picture, int side)
 {
@@ -68,68 +43,76 @@ static QList<QList<double>> lightness(const QImage &picture, int side)
     return rows;
 }
 
-void TestBackgroundPictures::keepsToItsLimits_data()
+/// The pictures that the build paints must leave the date and the cards of the main menu readable.
+class TestBackgroundPictures final : public QObject
 {
-    QTest::addColumn<int>("picture");
-    for (int picture = 1; picture <= 16; ++picture)
-        QTest::addRow("WP%d", picture) << picture;
-}
+    Q_OBJECT
 
-void TestBackgroundPictures::keepsToItsLimits()
-{
-    QFETCH(int, picture);
-    QVERIFY(QFileInfo(pathOf(picture)).size() <= 150 * 1000);
-    const QImage image(pathOf(picture));
-    QCOMPARE(image.size(), QSize(1920, 1200));
-    int span = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor colour(image.pixel(x, y));
-            const auto [least, most] = std::minmax({colour.red(), colour.green(), colour.blue()});
-            span = std::max(span, most - least);
-        }
-    QVERIFY2(span < 128, qPrintable(QString::number(span)));
+private slots:
+    void keepsToItsLimits_data()
+    {
+        QTest::addColumn<int>("picture");
+        for (int picture = 1; picture <= 16; ++picture)
+            QTest::addRow("WP%d", picture) << picture;
+    }
 
-    // The upper part is nearly even.
-    const auto rows = lightness(image.copy(0, 0, image.width(), image.height() * 2 / 5), 16);
-    int steps = 0;
-    int squares = 0;
-    for (qsizetype y = 1; y < rows.size(); ++y)
-        for (qsizetype x = 1; x < rows[y].size(); ++x, ++squares)
-            if (std::max(std::abs(rows[y][x] - rows[y][x - 1]), std::abs(rows[y][x] - rows[y - 1][x])) > 0.03)
-                ++steps;
-    // A sun or a moon may stand at the right.
-    QVERIFY2(steps < squares / 50, qPrintable(u"%1 of %2"_s.arg(steps).arg(squares)));
-}
+    void keepsToItsLimits()
+    {
+        QFETCH(int, picture);
+        QVERIFY(QFileInfo(pathOf(picture)).size() <= 150 * 1000);
+        const QImage image(pathOf(picture));
+        QCOMPARE(image.size(), QSize(1920, 1200));
+        int span = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor colour(image.pixel(x, y));
+                const auto [least, most] = std::minmax({colour.red(), colour.green(), colour.blue()});
+                span = std::max(span, most - least);
+            }
+        QVERIFY2(span < 128, qPrintable(QString::number(span)));
 
-void TestBackgroundPictures::dateIsReadable_data()
-{
-    QTest::addColumn<int>("picture");
-    QTest::addColumn<QSize>("view");
-    for (int picture = 1; picture <= 16; ++picture)
-        for (const QSize view : {QSize(800, 480), QSize(1280, 660), QSize(1920, 940), QSize(2560, 1300)})
-            QTest::addRow("WP%d at %d", picture, view.width()) << picture << view;
-}
+        // The upper part is nearly even.
+        const auto rows = lightness(image.copy(0, 0, image.width(), image.height() * 2 / 5), 16);
+        int steps = 0;
+        int squares = 0;
+        for (qsizetype y = 1; y < rows.size(); ++y)
+            for (qsizetype x = 1; x < rows[y].size(); ++x, ++squares)
+                if (std::max(std::abs(rows[y][x] - rows[y][x - 1]), std::abs(rows[y][x] - rows[y - 1][x])) >
+                    0.03)
+                    ++steps;
+        // A sun or a moon may stand at the right.
+        QVERIFY2(steps < squares / 50, qPrintable(u"%1 of %2"_s.arg(steps).arg(squares)));
+    }
 
-void TestBackgroundPictures::dateIsReadable()
-{
-    QFETCH(int, picture);
-    QFETCH(QSize, view);
-    const QRgb ink = picture == 8 || picture == 16 ? qRgb(255, 255, 255) : qRgb(0x2A, 0x28, 0x25);
-    const QImage ground = underTheDate(picture, view);
-    double least = 21;
-    for (int y = 0; y < ground.height(); ++y)
-        for (int x = 0; x < ground.width(); ++x)
-            least = std::min(least, contrast(ink, ground.pixel(x, y)));
-    QVERIFY2(least >= 4.5, qPrintable(QString::number(least)));
+    void dateIsReadable_data()
+    {
+        QTest::addColumn<int>("picture");
+        QTest::addColumn<QSize>("view");
+        for (int picture = 1; picture <= 16; ++picture)
+            for (const QSize view : {QSize(800, 480), QSize(1280, 660), QSize(1920, 940), QSize(2560, 1300)})
+                QTest::addRow("WP%d at %d", picture, view.width()) << picture << view;
+    }
 
-    // Nothing stands behind it.
-    QList<double> all;
-    for (const QList<double> &row : lightness(ground, 2))
-        all += row;
-    const auto [darkest, lightest] = std::ranges::minmax(all);
-    QVERIFY2(lightest - darkest < 0.08, qPrintable(QString::number(lightest - darkest)));
-}
+    void dateIsReadable()
+    {
+        QFETCH(int, picture);
+        QFETCH(QSize, view);
+        const QColor ink = picture == 8 || picture == 16 ? QColor(Qt::white) : QColor(0x2A, 0x28, 0x25);
+        const QImage ground = underTheDate(picture, view);
+        double least = 21;
+        for (int y = 0; y < ground.height(); ++y)
+            for (int x = 0; x < ground.width(); ++x)
+                least = std::min(least, contrast(ink, ground.pixelColor(x, y)));
+        QVERIFY2(least >= 4.5, qPrintable(QString::number(least)));
+
+        // Nothing stands behind it.
+        QList<double> all;
+        for (const QList<double> &row : lightness(ground, 2))
+            all += row;
+        const auto [darkest, lightest] = std::ranges::minmax(all);
+        QVERIFY2(lightest - darkest < 0.08, qPrintable(QString::number(lightest - darkest)));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestBackgroundPictures)
 #include "tst_backgroundpictures.moc"
