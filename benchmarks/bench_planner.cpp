@@ -91,7 +91,7 @@ void showMonthOfFullYear(benchmark::State &state)
     const DataFolder folder(temporary.path());
     PlannerFiles files(folder);
     fillYear(files, 2026);
-    const QString path = files.yearFilePath(2026);
+    const QString path = folder.filePath(DayRecord::yearFileName(2026));
     Limit limit(state, 10);
     for ([[maybe_unused]] auto round : state) {
         limit.measure([&] { benchmark::DoNotOptimize(files.days(QDate(2026, 11, 1), QDate(2026, 11, 30))); });
@@ -115,7 +115,7 @@ void searchThirtyFullYears(benchmark::State &state, const QString &text)
         });
         limit.reference([&] {
             for (const int year : files.years())
-                benchmark::DoNotOptimize(bytesOf(files.yearFilePath(year)));
+                benchmark::DoNotOptimize(bytesOf(folder.filePath(DayRecord::yearFileName(year))));
         });
     }
 }
