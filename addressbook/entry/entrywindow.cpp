@@ -2,6 +2,7 @@
 #include "addressbook/entry/entrywindow.h"
 
 #include "addressbook/entry/addressform.h"
+#include "addressbook/entry/entrybuttons.h"
 #include "addressbook/entry/entrylist.h"
 #include "addressbook/entry/picturepanel.h"
 #include "addressbook/model/entrylines.h"
@@ -10,6 +11,7 @@
 #include "shell/controls/emptypage.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/workviews.h"
 #include "shell/pictures/enlargedpicture.h"
@@ -103,6 +105,7 @@ void ADDBKVIEW::makeMenus()
 
 void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
 {
+    namespace Keys = CommonKeys;
     const auto entryOnly = [this] { return isNew() ? QString() : AddressLines::onEntryScreenOnly(); };
     const auto noneShown = [this] { return isEmptyShown() ? AddressLines::bookIsEmpty() : QString(); };
     const auto fixed = [this] { return whyUnchangeable(); };
@@ -110,27 +113,31 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     const auto viewed = [this] { return mode() == Mode::View ? AddressLines::alreadyThere() : QString(); };
     const auto entered = [this] { return isNew() ? AddressLines::alreadyThere() : QString(); };
     const auto add = [this, options](const QString &name, const QString &caption, void (ADDBKVIEW::*run)(),
-                                     Commands::Reason unless = {}) {
+                                     Commands::Reason unless = {}, const QKeySequence &key = {}) {
         return commands().add(
-            options, name, caption, [this, run] { (this->*run)(); }, std::move(unless));
+            options, name, caption, [this, run] { (this->*run)(); }, std::move(unless), key);
     };
     options->addActions({standard(Standard::PanelColor), standard(Standard::TextColor)});
     add(u"mOV"_s, u"&View"_s, &ADDBKVIEW::viewSelected);
     options->addSeparator();
     QAction *clear = add(u"mOClr"_s, u"&Clear Current Data"_s, &ADDBKVIEW::clearData, entryOnly);
-    QAction *saveNew = add(u"mONS"_s, u"&Save && New Screen"_s, &ADDBKVIEW::saveAndNew, entryOnly);
+    QAction *saveNew =
+        add(u"mONS"_s, u"&Save && New Screen"_s, &ADDBKVIEW::saveAndNew, entryOnly, Keys::save);
     QAction *copy = add(u"mOCopy"_s, u"Cop&y"_s, &ADDBKVIEW::copyShown, noneShown);
     QAction *remove = add(u"mODel"_s, u"Delete &File"_s, &ADDBKVIEW::deleteShown, kept);
-    QAction *print = add(u"mOPrt"_s, u"&Print File"_s, &ADDBKVIEW::printShown, noneShown);
+    QAction *print = add(u"mOPrt"_s, u"&Print File"_s, &ADDBKVIEW::printShown, noneShown, Keys::print);
     m_modify = add(u"mOMod"_s, u"&Make Modifications"_s, &ADDBKVIEW::modifyOrSave, fixed);
     options->addSeparator();
-    add(u"mOVS"_s, u"&View Screen"_s, &ADDBKVIEW::viewSelected, viewed);
-    QAction *enter = add(u"mOES"_s, u"E&ntry Screen"_s, &ADDBKVIEW::switchMode, entered);
+    add(u"mOVS"_s, u"&View Screen"_s, &ADDBKVIEW::viewSelected, viewed, Keys::views[0]);
+    QAction *enter = add(u"mOES"_s, u"E&ntry Screen"_s, &ADDBKVIEW::switchMode, entered, Keys::newEntry);
     add(u"mOW"_s, u"Print &Worksheet"_s, &ADDBKVIEW::printWorksheet);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
     commands().repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
     commands().repeat(m_modify, edit, u"mEMod1"_s);
+    commands().setKeyIn(m_list, remove, Keys::remove);
+    const auto search = [this] { startSearch(); };
+    commands().add(edit, u"mEFind"_s, u"&Find"_s, search, noneShown, Keys::search);
     makeToolbar(copy, print);
     makeButtons(clear, saveNew, remove);
     makeEmptyButtons(enter);
@@ -158,28 +165,16 @@ void ADDBKVIEW::makeToolbar(QAction *copy, QAction *print)
 
 void ADDBKVIEW::makeButtons(QAction *clear, QAction *saveNew, QAction *remove)
 {
-    using On = EntryEditor::On;
-    using Side = TaskPanel::Side;
     Commands &can = commands();
-    const auto add = [this](QPushButton *button, Side side, On screen = On::BothScreens) {
-        m_editor->addButton(button, side, screen);
-    };
     QAction *picture = can.writing(can.add(
         nullptr, u"loadPicture"_s, u"&Load Picture"_s, [this] { loadPicture(); },
         [this] { return isNew() ? QString() : whyUnchangeable(); }));
     QAction *printOptions =
         can.add(nullptr, u"showPrintOptions"_s, u"&Print Options"_s, [this] { showPrintOptions(); });
     m_otherScreen = can.add(nullptr, u"otherScreen"_s, u"&View Screen"_s, [this] { switchMode(); });
-    add(can.button(clear, u"Command2"_s, u"&Clear Current Data"_s, this), Side::Left, On::EntryScreen);
-    add(can.button(remove, u"Command3"_s, u"Delete &File"_s, this), Side::Left, On::ViewScreen);
-    add(can.button(picture, u"Command7"_s, u"&Load Picture"_s, this), Side::Left);
-    add(can.button(printOptions, u"Command5"_s, u"&Print Options"_s, this), Side::Left, On::ViewScreen);
-    add(can.button(m_otherScreen, u"Command6"_s, u"&View Screen"_s, this), Side::Right);
-    add(can.button(m_modify, u"Command4"_s, u"&Make Modifications"_s, this, ButtonKind::Main), Side::Right,
-        On::ViewScreen);
-    add(can.button(saveNew, u"Command1"_s, u"&Save && New Screen"_s, this, ButtonKind::Main), Side::Right,
-        On::EntryScreen);
-    add(can.button(standard(Standard::Exit), u"Command8"_s, u"E&xit"_s, this), Side::Right);
+    addEntryButtons(
+        *m_editor, can,
+        {clear, remove, picture, printOptions, m_otherScreen, m_modify, saveNew, standard(Standard::Exit)});
 }
 
 void ADDBKVIEW::connectParts()
@@ -220,6 +215,7 @@ void ADDBKVIEW::refreshScreen()
     activity().setActivity(isNew() ? u"Entry Screen"_s : u"View Screen"_s);
     const bool isModifying = mode() == Mode::Modify;
     commands().setCaption(m_modify, isModifying ? u"&Save Modifications"_s : u"&Make Modifications"_s);
+    m_modify->setShortcut(isModifying ? CommonKeys::save : CommonKeys::change);
     commands().setCaption(m_otherScreen, isNew() ? u"&View Screen"_s : u"E&ntry Screen"_s);
     m_editor->rearrangeButtons();
     m_views->setHome(isEmptyShown() ? static_cast<QWidget *>(m_emptyPage) : m_editor);
@@ -270,6 +266,12 @@ bool ADDBKVIEW::mayReplaceShown()
     if (!mayGo || (wasModified && !isModified()))
         m_toSay = mayGo ? activity().message() : QString();
     return mayGo;
+}
+
+void ADDBKVIEW::startSearch()
+{
+    closePreview();
+    m_list->startSearch();
 }
 
 void ADDBKVIEW::viewSelected()

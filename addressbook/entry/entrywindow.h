@@ -53,6 +53,7 @@ private:
     bool mayReplaceShown();
     bool isLastNameGiven();
 
+    void startSearch();
     void viewSelected();
     void switchMode();
     void startEntry();

@@ -82,7 +82,6 @@ void GridPane::connectGrid()
     connect(m_rows, &AddressGrid::modelAboutToBeReset, this, &GridPane::keepPlace);
     connect(m_rows, &AddressGrid::modelReset, this, &GridPane::followRows);
     connect(m_grid->selectionModel(), &QItemSelectionModel::currentChanged, this, &GridPane::currentChanged);
-    connect(m_grid, &GridView::removalRequested, this, &GridPane::removalRequested);
     connect(m_grid, &GridView::opened, this, &GridPane::opened);
     connect(m_grid, &GridView::linkFollowed, this,
             [this](const QModelIndex &index) { emit linkFollowed(index.data().toString()); });

@@ -53,7 +53,6 @@ signals:
     /// "Current Display Mode: ..." as it stands on the button now.
     void modeChanged(const QString &caption);
     void modeRequested();
-    void removalRequested();
     void opened();
     void linkFollowed(const QString &text);
 

@@ -10,6 +10,7 @@
 #include "shell/controls/emptypage.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/enlargedpicture.h"
@@ -117,7 +118,7 @@ void ADDBKDISPLAY2::makeMenus()
     options->addAction(standard(Standard::PanelColor));
     QAction *print = commands().add(
         options, u"mOPrt"_s, u"&Print Page"_s, [this] { m_print->start(picturesOfPage()); },
-        [this] { return whyNoPicture(); });
+        [this] { return whyNoPicture(); }, CommonKeys::print);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
     addUtilitiesMenu();

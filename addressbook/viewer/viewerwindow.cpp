@@ -19,6 +19,7 @@
 #include "shell/core/area.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
@@ -26,7 +27,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QDir>
 #include <QLocale>
 #include <QMenu>
@@ -56,8 +56,6 @@ ADDBKDISPLAY::ADDBKDISPLAY(Program &program, QWidget *parent, Surroundings surro
     , m_surroundings(std::move(surroundings))
     , m_pictureList(new PicturePrint(program, activity(), this))
 {
-    if (!m_surroundings.openAddress)
-        m_surroundings.openAddress = &QDesktopServices::openUrl;
     m_choices = named(new ViewerChoices, u"choices"_s);
     QScrollArea *side = makeScrolling(m_choices, u"choicesScroll"_s, this);
     side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -154,6 +152,12 @@ void ADDBKDISPLAY::addRowCommands(QMenu &options)
     QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
     all.repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
     all.repeat(remove, edit, u"mEDel"_s);
+    all.setKeyIn(m_grid, remove, CommonKeys::remove);
+    const auto find = [this] {
+        showGrid();
+        m_choices->focusSearch();
+    };
+    all.add(edit, u"mEFind"_s, u"&Find"_s, find, {}, CommonKeys::search);
     all.tool(copy, "copy"_L1, u"Copy"_s);
     all.tool(out, "export"_L1, u"Export"_s);
     addButtons(remove, open);
@@ -164,7 +168,7 @@ void ADDBKDISPLAY::addPrintCommands(QMenu &options)
     Commands &all = commands();
     const auto noRows = [this] { return m_grid->whyNoRows(); };
     QAction *list = all.add(
-        &options, u"mOPrt"_s, u"&Print Options"_s, [this] { showPrintOptions(); }, noRows);
+        &options, u"mOPrt"_s, u"&Print Options"_s, [this] { showPrintOptions(); }, noRows, CommonKeys::print);
     QAction *labels = all.add(
         &options, u"mOLab"_s, u"&Labels and Envelopes"_s, [this] { showLabels(); }, noRows);
     QAction *pictures =
@@ -230,7 +234,6 @@ void ADDBKDISPLAY::connectParts()
     connect(m_grid, &GridPane::modeRequested, this, &ADDBKDISPLAY::switchDisplayMode);
     connect(m_grid, &GridPane::rowsChanged, this, &ADDBKDISPLAY::followRows);
     connect(m_grid, &GridPane::currentChanged, &commands(), &Commands::refresh);
-    connect(m_grid, &GridPane::removalRequested, this, &ADDBKDISPLAY::removeRow);
     connect(m_grid, &GridPane::linkFollowed, this, &ADDBKDISPLAY::writeMail);
     connect(m_grid, &GridPane::opened, this, &ADDBKDISPLAY::openEntry);
     connect(m_listOptions, &ListOptionsPanel::printRequested, this, &ADDBKDISPLAY::printList);
@@ -335,8 +338,7 @@ void ADDBKDISPLAY::openEntry()
         return;
     auto *book = qobject_cast<ADDBKVIEW *>(program().functions.open(Function::AddressBook, program()));
     if (book && !book->showRecord(record)) {
-        raise(); // or nobody reads it
-        activateWindow();
+        bringToFront(*this); // or nobody reads it
         activity().say(ViewerLines::notInList());
     }
 }
@@ -394,7 +396,5 @@ void ADDBKDISPLAY::showPictures()
 {
     if (!m_pictures)
         m_pictures = new ADDBKDISPLAY2(program());
-    m_pictures->show();
-    m_pictures->raise();
-    m_pictures->activateWindow();
+    bringToFront(*m_pictures);
 }

@@ -4,6 +4,7 @@
 #include "addressbook/shared/dialler.h"
 #include "shell/frame/functionwindow.h"
 
+#include <QDesktopServices>
 #include <QPointer>
 #include <QUrl>
 
@@ -18,17 +19,19 @@ class ViewerChoices;
 class WorkViews;
 struct DisplayRange;
 
+/// What reaches out of the program; a test hands in its own.
+struct ViewerSurroundings {
+    Dialler::MakeModem makeModem; ///< empty: the machine's serial ports
+    std::function<bool(const QUrl &)> openAddress = &QDesktopServices::openUrl;
+};
+
 /// The viewer of the address book: all names in one grid with one piece of information beside each, to be
 /// searched, narrowed, dialled, copied, exported and printed. It never writes to the address book.
 class ADDBKDISPLAY final : public FunctionWindow
 {
     Q_OBJECT
 public:
-    /// What reaches out of the program; a test hands in its own.
-    struct Surroundings {
-        Dialler::MakeModem makeModem;                  ///< empty: the machine's serial ports
-        std::function<bool(const QUrl &)> openAddress; ///< empty: the desktop's mail program
-    };
+    using Surroundings = ViewerSurroundings;
 
     explicit ADDBKDISPLAY(Program &program, QWidget *parent = nullptr, Surroundings surroundings = {});
     ~ADDBKDISPLAY() override;

@@ -17,6 +17,7 @@
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/narrowtoolbar.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/workviews.h"
@@ -107,12 +108,12 @@ void Zcalandar1::addViewCommands(QMenu *menu)
     };
     const auto whyNot = [this] { return whyNoStep(); };
     Commands &all = commands();
-    all.add(menu, u"mVDay"_s, u"&Day View"_s, [this] { showDay(); })->setShortcut(Qt::CTRL | Qt::Key_1);
+    all.add(menu, u"mVDay"_s, u"&Day View"_s, [this] { showDay(); })->setShortcut(CommonKeys::views[0]);
     QAction *week = all.add(
-        menu, u"mVWeek"_s, u"&Week View"_s, [=, this] { look(m_views->week()); }, {}, Qt::CTRL | Qt::Key_2);
+        menu, u"mVWeek"_s, u"&Week View"_s, [=, this] { look(m_views->week()); }, {}, CommonKeys::views[1]);
     QAction *month = all.add(
         menu, u"mVMonth"_s, u"&Month View"_s, [=, this] { look(m_views->month()); }, {},
-        Qt::CTRL | Qt::Key_3);
+        CommonKeys::views[2]);
     menu->addSeparator();
     all.add(
            menu, u"mVBack"_s, u"&Previous"_s, [this] { m_views->step(-1); }, whyNot)
@@ -148,7 +149,7 @@ void Zcalandar1::addEditCommands(QMenu *menu)
         Qt::CTRL | Qt::Key_R));
     menu->addSeparator();
     all.add(menu, u"mEFind"_s, u"&Search All Years"_s, [this] { startSearch(); })
-        ->setShortcut(QKeySequence::Find);
+        ->setShortcut(CommonKeys::search);
     all.tool(repeat, "repeat"_L1, u"Repeat"_s);
     all.separateTools();
     m_narrowToolbar->shorten(all.tool(copyDay, "copy"_L1, u"Copy Day"_s), u"Copy"_s);
@@ -169,7 +170,7 @@ void Zcalandar1::addOptionCommands(QMenu *menu)
     }));
     menu->addSeparator();
     all.writing(all.add(
-        menu, u"mOSave"_s, u"&Save Day"_s, [this] { m_day->saveByCommand(); }, dayOnly, QKeySequence::Save));
+        menu, u"mOSave"_s, u"&Save Day"_s, [this] { m_day->saveByCommand(); }, dayOnly, CommonKeys::save));
     all.writing(all.add(
         menu, u"mOClr"_s, u"C&lear Day"_s, [this] { m_day->clear(); }, dayOnly));
     menu->addSeparator();
@@ -181,7 +182,7 @@ void Zcalandar1::addOptionCommands(QMenu *menu)
             else
                 printDay();
         },
-        whyNoPrint, QKeySequence::Print);
+        whyNoPrint, CommonKeys::print);
     all.add(menu, u"mOPDay"_s, u"Print &Day"_s, [this] { printDay(); });
     all.add(menu, u"mOPWeek"_s, u"Print &Week"_s, [this] { printDays(m_views->week()); });
     all.add(menu, u"mOPMonth"_s, u"Print &Month"_s, [this] { printDays(m_views->month()); });

@@ -11,6 +11,7 @@
 #include "shell/core/area.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/look/theme.h"
 
 #include <QCheckBox>
@@ -90,15 +91,16 @@ void Form31::makeMenus()
     QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
     options->addAction(standard(Standard::PanelColor));
     const auto saveMarks = [this] { std::ignore = save(); }; // it says itself how it went
-    m_saveAction = commands().writing(commands().add(options, u"mOSave"_s, u"&Save"_s, saveMarks, [this] {
-        return isModified() ? QString() : PasswordMessages::nothingToSave();
-    }));
-    QAction *printing = commands().add(options, u"mOPrt"_s, u"&Print"_s, [this] { print(); });
+    m_saveAction = commands().writing(commands().add(
+        options, u"mOSave"_s, u"&Save"_s, saveMarks,
+        [this] { return isModified() ? QString() : PasswordMessages::nothingToSave(); }, CommonKeys::save));
+    QAction *printing = commands().add(
+        options, u"mOPrt"_s, u"&Print"_s, [this] { print(); }, {}, CommonKeys::print);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
-    QAction *help = commands().add(addMenu(u"mH"_s, u"&Help"_s), u"mHPage"_s, u"&Password Control"_s, [this] {
-        emit program().changes.helpRequested(HelpContext::PasswordControl);
-    });
+    QAction *help = commands().add(
+        addMenu(u"mH"_s, u"&Help"_s), u"mHPage"_s, u"&Password Control"_s,
+        [this] { emit program().changes.helpRequested(HelpContext::PasswordControl); }, {}, CommonKeys::help);
 
     commands().tool(printing, "print"_L1, u"Print"_s);
     commands().separateTools();

@@ -2,6 +2,7 @@
 #include "shell/controls/activitybar.h"
 
 #include "shell/controls/controls.h"
+#include "shell/controls/enterkey.h"
 #include "shell/core/dates.h"
 #include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"
@@ -68,6 +69,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     m_progress->setFixedWidth(220);
     m_progress->setAccessibleName(u"Progress"_s);
     m_stop->setFixedHeight(26);
+    letEnterPress(m_stop);
     m_progress->hide();
     m_stop->hide();
     m_readOnly->hide();
@@ -122,6 +124,7 @@ QToolButton *ActivityBar::makeLink(const QString &name, const QString &text)
     link->setAccessibleName(text);
     link->setCursor(Qt::PointingHandCursor);
     link->setFocusPolicy(Qt::TabFocus);
+    letEnterPress(link);
     link->hide();
     return link;
 }

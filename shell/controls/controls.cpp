@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/controls.h"
 
+#include "shell/controls/enterkey.h"
 #include "shell/controls/pastefilter.h"
 #include "shell/controls/scrollpart.h"
 #include "shell/core/shellmessages.h"
@@ -213,6 +214,7 @@ QPushButton *makeButton(const QString &name, const QString &caption, QWidget *pa
 {
     auto *button = named(new QPushButton(caption, parent), name);
     button->setAutoDefault(false);
+    letEnterPress(button);
     setButtonKind(button, kind);
     return button;
 }
@@ -229,6 +231,7 @@ QPushButton *makeIconButton(const QString &name, QLatin1StringView icon, const Q
     auto *button = named(new QPushButton(parent), name);
     const Theme &theme = Theme::of(parent);
     button->setAutoDefault(false);
+    letEnterPress(button);
     button->setIcon(Icons::tinted(icon, theme.scheme, theme.accent));
     button->setIconSize(QSize(20, 20));
     button->setToolTip(word);

@@ -2,6 +2,7 @@
 #include "shell/controls/flowtoolbar.h"
 
 #include "shell/controls/controls.h"
+#include "shell/controls/enterkey.h"
 #include "shell/controls/lowwindow.h"
 #include "shell/controls/morebutton.h"
 #include "shell/controls/toolrows.h"
@@ -185,6 +186,7 @@ QWidget *FlowToolBar::makeItem(QAction *action)
     auto *button = named(new QToolButton(this), action->objectName() + u"_button"_s);
     button->setDefaultAction(action);
     button->setFocusPolicy(Qt::TabFocus);
+    letEnterPress(button);
     // Of equal widths: a button fills the place that it is given.
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     styleButton(*button);

@@ -174,11 +174,8 @@ void GridView::mouseDoubleClickEvent(QMouseEvent *event)
 
 void GridView::keyPressEvent(QKeyEvent *event)
 {
-    const bool isPlain = event->modifiers() == Qt::NoModifier;
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->key() == Qt::Key_Delete && isPlain)
-        emit removalRequested();
-    else if (isEnter && currentIndex().isValid())
+    if (isEnter && currentIndex().isValid())
         emit opened(currentIndex());
     else
         QTableView::keyPressEvent(event);

@@ -17,7 +17,6 @@ public:
 
 signals:
     void linkFollowed(const QModelIndex &index);
-    void removalRequested();
     /// Enter was pressed on a cell, or the cell clicked twice.
     void opened(const QModelIndex &index);
     /// The grid is on the screen for the first time.

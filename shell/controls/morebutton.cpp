@@ -2,6 +2,7 @@
 #include "shell/controls/morebutton.h"
 
 #include "shell/controls/controls.h"
+#include "shell/controls/enterkey.h"
 
 #include <QMenu>
 
@@ -17,6 +18,7 @@ MoreButton::MoreButton(QWidget *parent)
     setToolTip(u"What has no room here"_s);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    letEnterPress(this);
     hide();
     // No menu of the button's own, which would draw an arrow beside the word.
     connect(this, &QToolButton::clicked, this, [this] { openMenu(this, m_actions); });

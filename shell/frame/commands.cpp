@@ -33,6 +33,19 @@ QAction *Commands::writing(QAction *command)
     return command;
 }
 
+void Commands::setKeyIn(QWidget *view, QAction *command, const QKeySequence &key)
+{
+    command->setShortcut(key);
+    command->setShortcutContext(Qt::WidgetShortcut);
+    (view->focusProxy() ? view->focusProxy() : view)->addAction(command);
+}
+
+bool Commands::hasKey(const QKeySequence &key) const
+{
+    return std::ranges::any_of(
+        m_commands, [&key](const Command &command) { return command.action->shortcuts().contains(key); });
+}
+
 QAction *Commands::repeat(QAction *command, QMenu *menu, const QString &name, const QString &caption)
 {
     QAction *twin = addTwin(find(command), name, caption);

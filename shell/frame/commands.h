@@ -30,6 +30,10 @@ public:
                  Reason unless = {}, const QKeySequence &shortcut = {});
     /// Marks a command as one that changes the household's files, and returns it.
     QAction *writing(QAction *command);
+    /// Gives the command a key that works only while `view`, a list or grid, has the focus: elsewhere it
+    /// belongs to what is typed.
+    void setKeyIn(QWidget *view, QAction *command, const QKeySequence &key);
+    bool hasKey(const QKeySequence &key) const;
     /// A second menu entry that does the same in the same state; without a caption of its own it always has
     /// the command's.
     QAction *repeat(QAction *command, QMenu *menu, const QString &name, const QString &caption = {});

@@ -3,8 +3,10 @@
 
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/searchbox.h"
 #include "shell/controls/workscroll.h"
 #include "shell/core/framelines.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/windowplace.h"
 #include "shell/frame/windowtoolbar.h"
@@ -21,6 +23,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -254,23 +257,56 @@ void FunctionWindow::closeEvent(QCloseEvent *event)
     event->accept();
 }
 
+/// While a page is shown the keys are the page's, and no command acts behind it.
+bool FunctionWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isPreviewShown()) {
+        const QKeySequence key(static_cast<QKeyEvent *>(event)->keyCombination());
+        if (key != CommonKeys::help && m_commands->hasKey(key))
+            event->accept();
+    }
+    return QMainWindow::event(event);
+}
+
 void FunctionWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+    const QKeySequence key(event->keyCombination());
+    if (key == Qt::Key_Escape) {
         if (isPreviewShown())
             closePreview();
         else if (!leaveView())
             close();
-    } else if (event->key() == Qt::Key_F1) {
+    } else if (key == CommonKeys::help) {
         emit m_program.changes.helpRequested(m_traits.helpContext);
+    } else if (key == CommonKeys::redo) {
+        redo();
+    } else if (key == CommonKeys::print && isPreviewShown()) {
+        m_preview->print();
     } else {
         QMainWindow::keyPressEvent(event);
     }
 }
 
+/// Not every desktop gives this key to boxes for text.
+void FunctionWindow::redo() const
+{
+    if (QWidget *box = focusWidget(); box && box->metaObject()->indexOfSlot("redo()") >= 0)
+        QMetaObject::invokeMethod(box, "redo");
+}
+
+/// What Esc does before it leaves the window, when no page is shown: what stands over the work goes, then a
+/// search. False where there is nothing to do.
 bool FunctionWindow::leaveView()
 {
-    return m_views && m_views->leave();
+    if (m_views && m_views->leave())
+        return true;
+    const QList<SearchBox *> searches = findChildren<SearchBox *>();
+    const auto filled = std::ranges::find_if(
+        searches, [](const SearchBox *box) { return box->isVisible() && !box->text().isEmpty(); });
+    if (filled == searches.end())
+        return false;
+    (*filled)->clear();
+    return true;
 }
 
 void FunctionWindow::watchFiles(const QStringList &names)

@@ -72,8 +72,6 @@ protected:
     /// desktop session nobody can go back, and there is no Cancel. False: the user stays.
     bool mayReplace(const Message &question);
 
-    /// What Esc does before it leaves the window, when no page is shown; false where there is nothing to do.
-    virtual bool leaveView();
     /// One of the watched files was changed by somebody else since this window saw it last; called when the
     /// user comes back to the window.
     virtual void filesChanged() {}
@@ -118,6 +116,7 @@ protected:
     /// geometry.
     void finishFrame();
 
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) final;
     void keyPressEvent(QKeyEvent *event) final;
     void changeEvent(QEvent *event) override;
@@ -135,6 +134,8 @@ private:
     };
 
     Answer askAbout(const Message &question);
+    bool leaveView();
+    void redo() const;
     QString storeKey(const QString &what) const;
 
     Program &m_program;

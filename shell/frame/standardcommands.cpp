@@ -3,6 +3,7 @@
 
 #include "shell/core/framelines.h"
 #include "shell/frame/commands.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/program/program.h"
 
@@ -33,8 +34,8 @@ QAction *StandardCommands::action(Standard command)
 QAction *StandardCommands::make(Standard command)
 {
     const auto add = [this](const QString &name, const QString &caption, std::function<void()> run,
-                            Commands::Reason unless = {}) {
-        return m_commands.add(nullptr, name, caption, std::move(run), std::move(unless));
+                            Commands::Reason unless = {}, const QKeySequence &key = {}) {
+        return m_commands.add(nullptr, name, caption, std::move(run), std::move(unless), key);
     };
     const auto openBackup = [this] { m_program.functions.open(Function::Backup, m_program); };
     const auto noBackup = [this] {
@@ -50,7 +51,9 @@ QAction *StandardCommands::make(Standard command)
     case Standard::Restore:
         return m_commands.writing(add(u"mUR"_s, u"&Restore Files from Disk"_s, openBackup, noBackup));
     case Standard::Help:
-        return add(u"mH"_s, u"&Help"_s, [this] { emit m_program.changes.helpRequested(m_helpContext); });
+        return add(
+            u"mH"_s, u"&Help"_s, [this] { emit m_program.changes.helpRequested(m_helpContext); }, {},
+            CommonKeys::help);
     case Standard::Exit:
         return add(u"mOEx"_s, u"E&xit"_s, [this] { m_window->close(); });
     }

@@ -10,6 +10,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commands.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"
@@ -31,7 +32,6 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QShortcut>
 #include <QTimer>
 #include <QToolButton>
 #include <QUrl>
@@ -105,9 +105,6 @@ void Startfrm::makeMenus()
     fillFunctionsMenu(*functions, *m_commands, m_program, m_opener);
     makeHelpMenu(*help);
     m_commands->refresh();
-    // No shortcut of the menu entry, which would then show it.
-    auto *overview = new QShortcut(Qt::Key_F1, this);
-    connect(overview, &QShortcut::activated, this, [this] { openManual(HelpContext::ProgramOverview); });
 }
 
 void Startfrm::makeOptionsMenu(QMenu &menu)
@@ -135,8 +132,9 @@ void Startfrm::makeOptionsMenu(QMenu &menu)
 
 void Startfrm::makeHelpMenu(QMenu &menu)
 {
-    m_commands->add(&menu, u"mHI"_s, u"&Program Overview"_s,
-                    [this] { openManual(HelpContext::ProgramOverview); });
+    m_commands->add(
+        &menu, u"mHI"_s, u"&Program Overview"_s, [this] { openManual(HelpContext::ProgramOverview); }, {},
+        CommonKeys::help);
     addSeparator(menu, u"mH1"_s);
     m_commands->add(&menu, u"mHBR"_s, u"&Backup and Restore Option"_s,
                     [this] { openManual(HelpContext::BackupAndRestore); });

@@ -6,6 +6,7 @@
 #include "shell/controls/listpane.h"
 #include "shell/controls/searchbox.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/look/theme.h"
 #include "shell/manual/helpentry.h"
@@ -101,7 +102,8 @@ void HelpViewer::makeMenus()
 {
     QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
     options->addAction(standard(Standard::PanelColor));
-    QAction *printing = commands().add(options, u"mOPrt"_s, u"&Print"_s, [this] { print(); });
+    QAction *printing = commands().add(
+        options, u"mOPrt"_s, u"&Print"_s, [this] { print(); }, {}, CommonKeys::print);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
     QMenu *go = addMenu(u"mG"_s, u"&Go"_s);
@@ -117,6 +119,12 @@ void HelpViewer::makeMenus()
             return m_browser->isForwardAvailable() ? QString() : u"This is the last page that was shown."_s;
         },
         QKeySequence::Forward);
+    go->addSeparator();
+    const auto find = [this] {
+        closePreview();
+        m_search->startAgain();
+    };
+    commands().add(go, u"mGFind"_s, u"&Search the Manual"_s, find, {}, CommonKeys::search);
 
     commands().tool(back, "previous"_L1, u"Back"_s);
     commands().tool(forward, "next"_L1, u"Forward"_s);
@@ -206,13 +214,4 @@ void HelpViewer::pageShown()
 void HelpViewer::markWords()
 {
     m_browser->markWords(m_search->text().simplified().split(u' ', Qt::SkipEmptyParts));
-}
-
-/// From anywhere in the window: the whole manual comes back before the window goes.
-bool HelpViewer::leaveView()
-{
-    if (m_search->text().isEmpty())
-        return false;
-    m_search->clear();
-    return true;
 }

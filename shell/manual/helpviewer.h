@@ -23,9 +23,6 @@ public:
     /// The page that is shown.
     int currentContext() const;
 
-protected:
-    bool leaveView() override;
-
 private:
     QWidget *makeContents();
     QWidget *makePagePanel();

@@ -4,6 +4,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/enterkey.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/preview/pagestepper.h"
@@ -61,6 +62,7 @@ ColumnButton *makeColumnButton(const QString &name, const QString &caption, QLat
 {
     auto *button = named(new ColumnButton(caption, parent), name);
     button->setAutoDefault(false);
+    letEnterPress(button);
     button->setMinimumHeight(leastButtonHeight);
     button->setMaximumHeight(buttonHeight);
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
@@ -92,6 +94,7 @@ PreviewPane::PreviewPane(Program &program, ActivityBar &activity, QWidget *paren
     m_showButtons->setIcon(Icons::icon("show-buttons"_L1, Theme::of(this).scheme));
     m_showButtons->setFont(TypeScale::body());
     m_showButtons->hide();
+    letEnterPress(m_showButtons);
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);

@@ -3,10 +3,15 @@
 #include "shell/access/passwordcheck.h"
 #include "shell/controls/controls.h"
 #include "shell/core/settingskeys.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/program/sharedprocedures.h"
 #include "tests/support/testprogram.h"
 
+#include <QAction>
 #include <QSet>
+
+#include <utility>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,6 +46,43 @@ private slots:
             QTRY_VERIFY(!window);
         }
         QVERIFY(opened.contains(u"ADDBKVIEW"_s));
+    }
+
+    void givesTheSameKeysToTheSameCommands()
+    {
+        using Keys = std::vector<std::pair<QKeySequence, QStringList>>;
+        const Keys expected{
+            {CommonKeys::search, {u"ADDBKDISPLAY.mEFind"_s, u"ADDBKVIEW.mEFind"_s, u"Zcalandar1.mEFind"_s}},
+            {CommonKeys::newEntry, {u"ADDBKVIEW.mOES"_s}},
+            {CommonKeys::save, {u"ADDBKVIEW.mONS"_s, u"Form31.mOSave"_s, u"Zcalandar1.mOSave"_s}},
+            {CommonKeys::print,
+             {u"ADDBKDISPLAY.mOPrt"_s, u"ADDBKVIEW.mOPrt"_s, u"Form31.mOPrt"_s, u"Zcalandar1.mOPrt"_s}},
+            {CommonKeys::undo, {}},
+            {CommonKeys::redo, {}},
+            {CommonKeys::change, {u"ADDBKVIEW.mOMod"_s}},
+            {CommonKeys::remove, {u"ADDBKDISPLAY.mODel"_s, u"ADDBKVIEW.mODel"_s}},
+            {CommonKeys::help,
+             {u"ADDBKDISPLAY.mH"_s, u"ADDBKVIEW.mH"_s, u"Form31.mHPage"_s, u"Zcalandar1.mH"_s}},
+            {CommonKeys::views[0], {u"ADDBKVIEW.mOVS"_s, u"Zcalandar1.mVDay"_s}},
+            {CommonKeys::views[1], {u"Zcalandar1.mVWeek"_s}},
+            {CommonKeys::views[2], {u"Zcalandar1.mVMonth"_s}},
+            {CommonKeys::views[3], {}},
+        };
+        TestProgram test;
+        addFunctions(test.functions, test.clock);
+        for (int number = 0; number <= int(Function::AddressViewer); ++number)
+            test.functions.open(Function(number), test.program);
+        for (const auto &[key, commands] : expected) {
+            QStringList found;
+            for (const QWidget *window : test.functions.openWindows())
+                for (const QAction *action : window->findChildren<QAction *>())
+                    if (action->shortcuts().contains(key))
+                        found << window->objectName() + u'.' + action->objectName();
+            found.sort();
+            QCOMPARE(found, commands);
+        }
+        for (QWidget *window : test.functions.openWindows())
+            QVERIFY(window->close());
     }
 
     void tellsTheNewsOfTheHousehold()

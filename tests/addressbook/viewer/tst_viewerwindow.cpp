@@ -132,6 +132,7 @@ private slots:
         QCOMPARE(asked(), {ViewerMessages::removeRow()});
         QCOMPARE(count(), u"No. Of Names: 40"_s);
         m_test->dialogs.willAnswer(Answer::Yes);
+        grid()->setFocus();
         QTest::keyClick(grid(), Qt::Key_Delete);
         QCOMPARE(count(), u"No. Of Names: 39"_s);
         QCOMPARE(cell(1, 0), u"Miller, Anne"_s);

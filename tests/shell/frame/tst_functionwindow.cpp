@@ -2,6 +2,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/settingskeys.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/windowtoolbar.h"
@@ -39,7 +40,8 @@ public:
         setViews(m_views);
         setWork(new SideSplitter(u"splitter"_s, named(new QWidget, u"side"_s), m_views->parentWidget(),
                                  [](QSize window) { return window.width() / 4; }));
-        QAction *print = commands().add(nullptr, u"mOPrt"_s, u"&Print File"_s, [] {});
+        QAction *print = commands().add(
+            nullptr, u"mOPrt"_s, u"&Print File"_s, [this] { done << u"print"_s; }, {}, CommonKeys::print);
         commands().tool(print, "print"_L1, u"Print"_s);
         addUtilitiesMenu();
         finishFrame();
@@ -162,6 +164,32 @@ private slots:
         QVERIFY(box->hasFocus() && window->isVisible());
         QTest::keyClick(window.get(), Qt::Key_Escape);
         QVERIFY(!window->isVisible());
+    }
+
+    void leavesKeysToThePageThatIsShown()
+    {
+        const auto window = open();
+        QTest::keyClick(control<QLineEdit>(*window, "box"), Qt::Key_P, Qt::ControlModifier);
+        QCOMPARE(window->done, {u"print"_s});
+        window->showPreview([](const PageContext &) { return Page(u"Sample"_s); }, u"Sample"_s);
+        m_program->dialogs.willChooseFile({}); // without a printer the page asks for the name of a PDF
+        QTest::keyClick(window->focusWidget(), Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(m_program->dialogs.isDone());
+        // A tool with the focus is pressed by Enter.
+        window->closePreview();
+        QTest::keyClick(control<QToolButton>(*window, "mOPrt_button"), Qt::Key_Return);
+        QCOMPARE(window->done, (QStringList{u"print"_s, u"print"_s}));
+    }
+
+    void redoesWhatWasTyped()
+    {
+        const auto window = open();
+        auto *box = control<QLineEdit>(*window, "box");
+        QTest::keyClicks(box, u"text"_s);
+        QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(box->text() != "text"_L1);
+        QTest::keyClick(box, Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(box->text(), u"text"_s);
     }
 
     void asksForTheManualAndTheMainMenu()

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "addressbook/entry/entrybuttons.h"
+
+#include "addressbook/entry/entryeditor.h"
+#include "shell/frame/commands.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+void addEntryButtons(EntryEditor &editor, Commands &can, const EntryCommands &entry)
+{
+    using On = EntryEditor::On;
+    using Side = TaskPanel::Side;
+    const auto add = [&](QAction *command, const QString &name, const QString &caption, Side side,
+                         On screen = On::BothScreens, ButtonKind kind = ButtonKind::Plain) {
+        editor.addButton(can.button(command, name, caption, &editor, kind), side, screen);
+    };
+    add(entry.clear, u"Command2"_s, u"&Clear Current Data"_s, Side::Left, On::EntryScreen);
+    add(entry.remove, u"Command3"_s, u"Delete &File"_s, Side::Left, On::ViewScreen);
+    add(entry.picture, u"Command7"_s, u"&Load Picture"_s, Side::Left);
+    add(entry.printOptions, u"Command5"_s, u"&Print Options"_s, Side::Left, On::ViewScreen);
+    add(entry.otherScreen, u"Command6"_s, u"&View Screen"_s, Side::Right);
+    add(entry.modify, u"Command4"_s, u"&Make Modifications"_s, Side::Right, On::ViewScreen, ButtonKind::Main);
+    add(entry.saveNew, u"Command1"_s, u"&Save && New Screen"_s, Side::Right, On::EntryScreen,
+        ButtonKind::Main);
+    add(entry.exit, u"Command8"_s, u"E&xit"_s, Side::Right);
+}
