@@ -15,6 +15,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -82,55 +84,51 @@ class TestLowWindow : public QObject
 
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
-    void hasOneRowEachAndScrollsAsAWhole_data();
-    void hasOneRowEachAndScrollsAsAWhole();
-    void pressesWhatMoreHolds();
+
+    void hasOneRowEachAndScrollsAsAWhole_data()
+    {
+        rows<int, bool>({{"high", LowWindow::below, false}, {"low", LowWindow::below - 1, true}});
+    }
+
+    void hasOneRowEachAndScrollsAsAWhole()
+    {
+        const auto [height, isLow] = row<int, bool>();
+        Sample sample(height);
+        const int row = control<QToolButton>(sample.window, "tool0_button")->height();
+        QTRY_COMPARE(sample.bar->height() < 2 * row, isLow);
+        const QList<QAction *> tools = sample.bar->actions();
+        const auto shown = std::ranges::count_if(
+            tools, [&](const QAction *tool) { return sample.bar->button(tool)->isVisible(); });
+        QCOMPARE(shown + sample.moreTools(), 10);
+        QCOMPARE(shown < 10, isLow);
+
+        const int button = control<QPushButton>(sample.window, "right")->height();
+        QTRY_COMPARE(sample.buttons->height() < 2 * button, isLow);
+        QCOMPARE(control<QPushButton>(sample.window, "moreButtons")->isVisible(), isLow);
+
+        // One of the two scrolls, never both.
+        auto *whole = control<QScrollArea>(sample.window, "workScroll");
+        QTRY_COMPARE(whole->verticalScrollBar()->maximum() > 0, isLow);
+        QTRY_COMPARE(sample.form->verticalScrollBar()->maximum() > 0, !isLow);
+        sample.lastBox->setFocus();
+        QVERIFY(!isLow || !sample.lastBox->visibleRegion().isEmpty());
+    }
+
+    void pressesWhatMoreHolds()
+    {
+        Sample sample(LowWindow::below - 1);
+        auto *held = control<QPushButton>(sample.window, "left3");
+        QTRY_COMPARE(held->focusPolicy(), Qt::NoFocus);
+        control<QPushButton>(sample.window, "moreButtons")->click();
+        auto *menu = control<QMenu>(sample.window, "moreMenu");
+        QCOMPARE(menu->actions().last()->text(), held->text());
+        menu->actions().last()->trigger();
+        QCOMPARE(sample.clicked, 1);
+        sample.window.resize(1600, LowWindow::below - 1);
+        QTRY_COMPARE(held->focusPolicy(), Qt::StrongFocus);
+        QVERIFY(!control<QPushButton>(sample.window, "moreButtons")->isVisible());
+    }
 };
-
-void TestLowWindow::hasOneRowEachAndScrollsAsAWhole_data()
-{
-    rows<int, bool>({{"high", LowWindow::below, false}, {"low", LowWindow::below - 1, true}});
-}
-
-void TestLowWindow::hasOneRowEachAndScrollsAsAWhole()
-{
-    const auto [height, isLow] = row<int, bool>();
-    Sample sample(height);
-    const int row = control<QToolButton>(sample.window, "tool0_button")->height();
-    QTRY_COMPARE(sample.bar->height() < 2 * row, isLow);
-    int shown = 0;
-    for (const QAction *tool : sample.bar->actions())
-        shown += sample.bar->button(tool)->isVisible();
-    QCOMPARE(shown + sample.moreTools(), 10);
-    QCOMPARE(shown < 10, isLow);
-
-    const int button = control<QPushButton>(sample.window, "right")->height();
-    QTRY_COMPARE(sample.buttons->height() < 2 * button, isLow);
-    QCOMPARE(control<QPushButton>(sample.window, "moreButtons")->isVisible(), isLow);
-
-    // One of the two scrolls, never both.
-    auto *whole = control<QScrollArea>(sample.window, "workScroll");
-    QTRY_COMPARE(whole->verticalScrollBar()->maximum() > 0, isLow);
-    QTRY_COMPARE(sample.form->verticalScrollBar()->maximum() > 0, !isLow);
-    sample.lastBox->setFocus();
-    const auto inSight = [&] { return !sample.lastBox->visibleRegion().isEmpty(); };
-    QCOMPARE(inSight(), isLow);
-}
-
-void TestLowWindow::pressesWhatMoreHolds()
-{
-    Sample sample(LowWindow::below - 1);
-    auto *held = control<QPushButton>(sample.window, "left3");
-    QTRY_COMPARE(held->focusPolicy(), Qt::NoFocus);
-    control<QPushButton>(sample.window, "moreButtons")->click();
-    auto *menu = control<QMenu>(sample.window, "moreMenu");
-    QCOMPARE(menu->actions().last()->text(), held->text());
-    menu->actions().last()->trigger();
-    QCOMPARE(sample.clicked, 1);
-    sample.window.resize(1600, LowWindow::below - 1);
-    QTRY_COMPARE(held->focusPolicy(), Qt::StrongFocus);
-    QVERIFY(!control<QPushButton>(sample.window, "moreButtons")->isVisible());
-}
 
 QTEST_MAIN(TestLowWindow)
 #include "tst_lowwindow.moc"

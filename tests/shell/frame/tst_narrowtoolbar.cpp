@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/controls/lowwindow.h"
 #include "shell/frame/narrowtoolbar.h"
 
 #include <QAction>
@@ -28,6 +29,8 @@ private slots:
             QCOMPARE(paste.isVisible(), isWide);
             QCOMPARE(copy.iconText(), isWide ? u"Copy Day"_s : u"Copy"_s);
         }
+        window.resize(NarrowToolbar::wideFrom - 1, LowWindow::below - 1);
+        QVERIFY(paste.isVisible()); // "More" has it
     }
 };
 
