@@ -9,17 +9,6 @@
 
 #include <algorithm>
 
-namespace {
-
-bool isInWork(const QWidget *part)
-{
-    while (part && !qobject_cast<const WorkScroll *>(part))
-        part = part->parentWidget();
-    return part;
-}
-
-} // namespace
-
 ScrollPart::ScrollPart(QWidget *content, QWidget *parent)
     : QScrollArea(parent)
     , m_low(new LowWindow(this))
@@ -63,5 +52,5 @@ void ScrollPart::resizeEvent(QResizeEvent *event)
 
 bool ScrollPart::isWhole() const
 {
-    return m_low->isLow() && isInWork(this);
+    return m_low->isLow() && WorkScroll::around(this);
 }

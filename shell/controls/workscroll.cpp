@@ -39,6 +39,14 @@ WorkScroll::WorkScroll(QWidget *work, QWidget *parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { follow(now); });
 }
 
+WorkScroll *WorkScroll::around(const QWidget *part)
+{
+    QWidget *parent = part->parentWidget();
+    while (parent && !qobject_cast<WorkScroll *>(parent))
+        parent = parent->parentWidget();
+    return static_cast<WorkScroll *>(parent);
+}
+
 QSize WorkScroll::sizeHint() const
 {
     return widget()->sizeHint();
@@ -70,7 +78,12 @@ void WorkScroll::fit()
     const QSize whole = maximumViewportSize();
     const int least = m_low->isLow() ? widget()->layout()->totalMinimumSize().height() : 0;
     const int bar = least > whole.height() ? verticalScrollBar()->sizeHint().width() : 0;
-    widget()->resize(whole.width() - bar, std::max(whole.height(), least));
+    const QSize size(whole.width() - bar, std::max(whole.height(), least));
+    if (size == widget()->size())
+        return;
+    widget()->resize(size);
+    QMetaObject::invokeMethod(
+        this, [this] { follow(QApplication::focusWidget()); }, Qt::QueuedConnection);
 }
 
 /// What is clicked is in sight, and stays where the mouse is.

@@ -13,6 +13,9 @@ class WorkScroll final : public QScrollArea
 public:
     explicit WorkScroll(QWidget *work, QWidget *parent = nullptr);
 
+    /// The one that `part` stands in; null where there is none.
+    static WorkScroll *around(const QWidget *part);
+
     QSize sizeHint() const override;
     /// As wide as the work must be: it never scrolls sideways.
     QSize minimumSizeHint() const override;

@@ -2,12 +2,17 @@
 #include "shell/frame/workviews.h"
 
 #include "shell/controls/taskpanel.h"
+#include "shell/controls/workscroll.h"
+
+#include <QScrollBar>
 
 WorkViews::WorkViews(QWidget *parent)
     : QStackedWidget(parent)
 {
     connect(this, &QStackedWidget::currentChanged, this, [this] {
         updateGeometry();
+        if (WorkScroll *scroll = WorkScroll::around(this))
+            scroll->verticalScrollBar()->setValue(0);
         emit changed(currentWidget());
     });
 }
