@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -15,13 +16,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int leastHeight = 100;
-constexpr int roomAroundFocus = 12;
+constexpr int roomAroundFocus = 32; // the label above a box
 
 } // namespace
 
 WorkScroll::WorkScroll(QWidget *work, QWidget *parent)
     : QScrollArea(parent)
     , m_low(new LowWindow(this))
+    , m_settled(new QTimer(this))
 {
     setObjectName(u"workScroll"_s);
     setFrameShape(QFrame::NoFrame);
@@ -36,7 +38,12 @@ WorkScroll::WorkScroll(QWidget *work, QWidget *parent)
     content->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
     connect(m_low, &LowWindow::changed, this, &WorkScroll::fit);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { follow(now); });
+    m_settled->setSingleShot(true);
+    m_settled->setInterval(0);
+    connect(m_settled, &QTimer::timeout, this, &WorkScroll::follow);
+    // Now, and once more when what changes along with the focus has its place.
+    connect(qApp, &QApplication::focusChanged, this, &WorkScroll::follow);
+    connect(qApp, &QApplication::focusChanged, m_settled, qOverload<>(&QTimer::start));
 }
 
 WorkScroll *WorkScroll::around(const QWidget *part)
@@ -82,13 +89,13 @@ void WorkScroll::fit()
     if (size == widget()->size())
         return;
     widget()->resize(size);
-    QMetaObject::invokeMethod(
-        this, [this] { follow(QApplication::focusWidget()); }, Qt::QueuedConnection);
+    m_settled->start();
 }
 
 /// What is clicked is in sight, and stays where the mouse is.
-void WorkScroll::follow(QWidget *focused)
+void WorkScroll::follow()
 {
+    QWidget *focused = QApplication::focusWidget();
     if (focused && widget()->isAncestorOf(focused) && QGuiApplication::mouseButtons() == Qt::NoButton)
         ensureWidgetVisible(focused, 0, roomAroundFocus);
 }

@@ -4,6 +4,7 @@
 #include <QScrollArea>
 
 class LowWindow;
+class QTimer;
 
 /// The work of a window. In a low window it scrolls as a whole, with what scrolls within it elsewhere, and
 /// follows the focus; anywhere else it has the height that there is.
@@ -26,7 +27,8 @@ protected:
 
 private:
     void fit();
-    void follow(QWidget *focused);
+    void follow();
 
     LowWindow *m_low;
+    QTimer *m_settled; ///< the layout is done
 };
