@@ -7,7 +7,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestAnsiText : public QObject
 {
     Q_OBJECT
-
 private slots:
     void holdsText_data()
     {

@@ -10,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestDataFolder : public QObject
 {
     Q_OBJECT
-
 private slots:
     void findsAFileUnderAnySpelling_data()
     {

@@ -7,7 +7,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestFileStamp : public QObject
 {
     Q_OBJECT
-
 private slots:
     void tellsWhatHappenedToAFile()
     {

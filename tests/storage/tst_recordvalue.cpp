@@ -26,7 +26,6 @@ static_assert(contactLayout.size() == 13);
 class TestRecordValue : public QObject
 {
     Q_OBJECT
-
 private slots:
     void holdsNumbers_data()
     {

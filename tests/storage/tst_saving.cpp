@@ -21,7 +21,6 @@ const QString staged = name + u".quillery-staged";
 class TestSaving : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_files = std::make_unique<TestFolder>(); }
 

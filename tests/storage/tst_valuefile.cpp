@@ -11,7 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestValueFile : public QObject
 {
     Q_OBJECT
-
 private slots:
     void writesValuesAsItReadsThem_data()
     {

@@ -72,6 +72,7 @@ private slots:
         QVERIFY(!find<QLabel>("nameHint")->isVisible());
         type(1, u"Frank David Martas"_s);
         QVERIFY(find<QLabel>("nameHint")->isVisible());
+        QCOMPARE(labelText("nameHint"), AddressMessages::nameTooLong());
         // Nothing that the files cannot hold.
         type(0, QString(50, u'x'));
         QCOMPARE(box(0)->text().size(), 39);

@@ -21,7 +21,6 @@ AddressPages::Source times(int count, const AddressEntry &entry)
 class TestAddressPages : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

@@ -30,7 +30,6 @@ AddressEntry entryOf(const QJsonObject &expected)
 class TestHousehold : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

@@ -9,7 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestIndexLine : public QObject
 {
     Q_OBJECT
-
 private slots:
     void isMade()
     {

@@ -45,7 +45,6 @@ LabelType smallRoom()
 class TestLabelSheet : public QObject
 {
     Q_OBJECT
-
 private slots:
     void fitsEveryLabelOnItsSheet()
     {

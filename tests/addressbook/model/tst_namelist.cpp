@@ -20,7 +20,6 @@ NameList listOf(const QStringList &lines)
 class TestNameList : public QObject
 {
     Q_OBJECT
-
 private slots:
     void keepsItsLinesApart()
     {

@@ -30,7 +30,6 @@ std::vector<ListedPicture> pictures(int count)
 class TestViewerPages : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

@@ -10,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestGridPane : public OpenViewer
 {
     Q_OBJECT
-
 private slots:
     void init() { open(); }
     void cleanup() { close(); }

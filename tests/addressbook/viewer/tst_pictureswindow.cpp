@@ -17,7 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestAddbkdisplay2 : public OpenWindow<ADDBKDISPLAY2>
 {
     Q_OBJECT
-
 private slots:
     void init() { m_test = std::make_unique<TestProgram>(TestProgram::Household); }
     void cleanup() { close(); }
@@ -63,10 +62,13 @@ private slots:
     void followsTheAddressBook()
     {
         open();
+        m_window->hide();
+        m_window->show();
+        QCoreApplication::processEvents();
+        QVERIFY(asked().isEmpty()); // it warns once
         click("nextPictures");
         changeElsewhere(u"Addbk2.Fil"_s,
                         m_test->bytes(u"Addbk2.Fil"_s).replace("Kessler, Tessa", "####ler, Tessa"));
-        QVERIFY(asked().isEmpty()); // what is said at first is not said again
         QCOMPARE(labelText("pictureTotal"), u" Total = 25"_s);
         QCOMPARE(labelText("picturePage"), u"Page 2 of 2"_s);
     }

@@ -16,7 +16,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestViewerOutput : public OpenViewer
 {
     Q_OBJECT
-
 private slots:
     void init() { open(); }
     void cleanup() { close(); }

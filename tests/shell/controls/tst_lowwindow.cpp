@@ -81,7 +81,6 @@ int Sample::moreTools()
 class TestLowWindow : public QObject
 {
     Q_OBJECT
-
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
 

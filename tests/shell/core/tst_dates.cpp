@@ -9,7 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestDates : public QObject
 {
     Q_OBJECT
-
 private slots:
     void decidesTheStyle_data()
     {

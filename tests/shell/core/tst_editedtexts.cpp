@@ -8,7 +8,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestEditedTexts : public QObject
 {
     Q_OBJECT
-
 private slots:
     void keepsWhatNobodyTouched()
     {

@@ -21,7 +21,6 @@ Page phoneList()
 class TestPage final : public QObject
 {
     Q_OBJECT
-
 private slots:
     void readsAsText_data()
     {

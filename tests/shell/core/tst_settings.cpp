@@ -12,7 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestSettings : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

@@ -8,7 +8,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestColorText : public QObject
 {
     Q_OBJECT
-
 private slots:
     void keepsRedInTheLowByte()
     {

@@ -26,7 +26,6 @@ static bool isWhollyIn(const QColor &ink, const QImage &picture)
 class TestIcons final : public QObject
 {
     Q_OBJECT
-
 private slots:
     void everyDrawingIsInBothSchemes()
     {

@@ -14,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestHelpViewer : public OpenWindow<HelpViewer>
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

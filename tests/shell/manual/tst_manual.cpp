@@ -10,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestManual : public QObject
 {
     Q_OBJECT
-
 private slots:
     void hasAPageForEveryContext()
     {

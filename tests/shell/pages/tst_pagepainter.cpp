@@ -33,7 +33,6 @@ Page numbered(int rows, const QString &cell = u"Müller, Zoë"_s)
 class TestPagePainter final : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 

@@ -19,7 +19,6 @@ constexpr QRgb red = qRgb(200, 0, 0);
 class TestPagePicture final : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_files = std::make_unique<TestFolder>(); }
 

@@ -42,7 +42,6 @@ QStringList sheetsOf(const PagePainter &painter)
 class TestSheetTable final : public QObject
 {
     Q_OBJECT
-
 private slots:
     void runsDownSeveralColumns_data()
     {

@@ -10,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestPictureFolder : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_files = std::make_unique<TestFolder>(); }
 

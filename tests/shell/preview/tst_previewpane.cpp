@@ -13,7 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestPreviewPane final : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_window.emplace(); }
     void cleanup() { QVERIFY(m_window->dialogs.isDone()); }

@@ -28,7 +28,6 @@ QList<int> pageNumbers(const QString &pdf)
 class TestPrintJob final : public QObject
 {
     Q_OBJECT
-
 private slots:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void init() { m_window.emplace(); }

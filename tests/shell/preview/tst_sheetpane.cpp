@@ -12,7 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestSheetPane : public QObject
 {
     Q_OBJECT
-
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
     void init() { m_laidOut.clear(); }

@@ -17,7 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestQtDialogs : public QObject
 {
     Q_OBJECT
-
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
 

@@ -17,7 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestHinfo1 : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_program = std::make_unique<TestProgram>(); }
 
