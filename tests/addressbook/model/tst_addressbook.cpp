@@ -2,7 +2,6 @@
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/indexline.h"
 #include "tests/addressbook/model/addressrecords.h"
-#include "tests/support/failingdisk.h"
 #include "tests/support/rows.h"
 
 #include <QDir>
@@ -238,31 +237,6 @@ private slots:
             });
             QCOMPARE(visited, goesOn ? QList<int>({2, 6}) : QList<int>{2});
         }
-    }
-
-    void isOldOrNewAfterEveryFailure_data()
-    {
-        rows<bool (*)(AddressBook)>({
-            {"a new entry", [](AddressBook book) { return book.saveNew(anneLind()).isSaved; }},
-            {"another name",
-             [](AddressBook book) {
-                 AddressEntry entry = anneLind();
-                 entry[LastName] = u"Quill"_s;
-                 return book.saveChanged(2, entry).isSaved;
-             }},
-            {"deleted", [](AddressBook book) { return book.remove(2); }},
-        });
-    }
-
-    /// Entry and line are both as they were or both new, whatever step fails.
-    void isOldOrNewAfterEveryFailure()
-    {
-        const auto [action] = row<bool (*)(AddressBook)>();
-        failAtEachStep(
-            m_files->folder(),
-            [this] { put(first724 + lindBytes, first60 + lineBytes(lineOf("Lind, Anne", 2))); },
-            [this, action = action] { return action(book()); },
-            [this] { return std::pair(entries(), lines()); });
     }
 
     void survivesFoldersInPlaceOfFiles()
