@@ -2,9 +2,11 @@
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/indexline.h"
 #include "tests/addressbook/model/addressrecords.h"
+#include "tests/support/household.h"
 #include "tests/support/rows.h"
 
 #include <QDir>
+#include <QJsonArray>
 #include <QLoggingCategory>
 #include <QScopeGuard>
 
@@ -31,6 +33,20 @@ QStringList linesOf(const NameList &names)
     for (int i = 0; i < names.count(); ++i)
         lines << names.line(i);
     return lines;
+}
+
+/// The keys of an entry in the file of expectations, in the order of the fields.
+constexpr std::array<QLatin1StringView, AddressFieldCount> entryKeys{
+    "last"_L1, "first"_L1,      "birth"_L1,        "address1"_L1, "address2"_L1, "city"_L1,       "state"_L1,
+    "zip"_L1,  "home_phone"_L1, "mobile_phone"_L1, "fax"_L1,      "email"_L1,    "anniversary"_L1};
+
+AddressEntry entryOf(const QJsonObject &expected)
+{
+    AddressEntry entry;
+    for (std::size_t i = 0; i < entryKeys.size(); ++i)
+        entry.texts[i] = expected[entryKeys[i]].toString();
+    entry.picture = expected["picture"_L1].toString();
+    return entry;
 }
 
 } // namespace
@@ -75,6 +91,71 @@ private slots:
             (QStringList{QString(), u"Müller, Karl                                   3"_s,
                          u"a line of its own"_s, u"Lind, Anne                                     8"_s}));
         QCOMPARE(names.countCaption(), u" 4 - Entries "_s);
+    }
+
+    /// A book that has been kept for years, against what a reader of it must see.
+    void readsTheHousehold()
+    {
+        putHousehold();
+        const QJsonObject expected = expectedOf(u"address_book"_s);
+        const NameList names = book().loadNames();
+        const QJsonArray viewed = expected["viewer"_L1]["State"_L1].toArray();
+        QVariantList records;
+        for (int i = 0; i < names.count(); ++i) {
+            records << names.recordAt(i);
+            QCOMPARE(names.name(i), viewed[i][0].toString());
+        }
+        QCOMPARE(linesOf(names), expected["name_list"_L1].toVariant().toStringList());
+        QCOMPARE(QJsonArray::fromVariantList(records), expected["record_numbers"_L1].toArray());
+        QCOMPARE(names.countCaption(), expected["count_caption"_L1].toString());
+        QCOMPARE(book().nextFreeRecord(), expected["next_new_record"_L1].toInt());
+        const QJsonObject all = expected["entries"_L1].toObject();
+        QVERIFY(all.size() > 30);
+        for (auto it = all.begin(); it != all.end(); ++it)
+            QVERIFY2(book().read(it.key().toInt()) == entryOf(it->toObject()), qPrintable(it.key()));
+        for (const auto key : {"name_search_selects"_L1, "name_search_first_match"_L1}) {
+            const QJsonObject searches = expected[key].toObject();
+            QVERIFY(!searches.isEmpty());
+            for (auto it = searches.begin(); it != searches.end(); ++it)
+                QVERIFY2(names.line(names.find(it.key())) == it->toString(), qPrintable(it.key()));
+        }
+    }
+
+    void keepsEveryOtherByte()
+    {
+        putHousehold();
+        QByteArray newEntries = entries(), newLines = lines();
+        const auto replace = [](QByteArray &whole, qsizetype at, const QByteArray &part) {
+            whole.replace(at, part.size(), part);
+        };
+        AddressEntry karl = book().read(14);
+        karl[HomePhone] = u"(440) 555-0999"_s;
+        QVERIFY(book().saveChanged(14, karl).isSaved);
+        replace(newEntries, 13 * 724 + 320, "(440) 555-0999");
+
+        // The last record of the index stays as short as it is.
+        AddressEntry elisabeth = book().read(49);
+        elisabeth[FirstName] = u"Eliza"_s;
+        QVERIFY(book().saveChanged(49, elisabeth).isSaved);
+        replace(newEntries, 48 * 724 + 40, "Eliza    ");
+        replace(newLines, 48 * 60 + 2, "Calloway, Eliza    ");
+
+        // A new entry fills the gap.
+        AddressEntry zoe;
+        zoe[LastName] = u"Äst"_s;
+        zoe[FirstName] = u"Zoë"_s;
+        QCOMPARE(book().saveNew(zoe).line, u"Äst, Zoë                                       24"_s);
+        replace(newEntries, 23 * 724, entryBytes({"\xC4st", "Zo\xEB"}));
+        replace(newLines, 23 * 60, "1" + QByteArray(1, '\0') + lineOf("\xC4st, Zo\xEB", 24));
+        QCOMPARE(book().nextFreeRecord(), 28);
+
+        QVERIFY(book().remove(8));
+        replace(newEntries, 7 * 724, padded("*****", 724));
+        replace(newLines, 7 * 60, QByteArray("\x2D\0#####", 7) + QByteArray(40, ' '));
+        QCOMPARE(book().loadNames().countCaption(), u" 40 - Entries "_s);
+        QCOMPARE(book().nextFreeRecord(), 8);
+        QVERIFY(entries() == newEntries);
+        QCOMPARE(lines(), newLines);
     }
 
     void keepsToItsRecords()
@@ -258,6 +339,10 @@ private:
     {
         m_files->put(u"Addbk1.Fil"_s, entries);
         m_files->put(u"Addbk2.Fil"_s, lines);
+    }
+    void putHousehold() const
+    {
+        put(contentOf(householdPath(u"Addbk1.Fil"_s)), contentOf(householdPath(u"Addbk2.Fil"_s)));
     }
     QByteArray entries() const { return m_files->bytes(u"Addbk1.Fil"_s); }
     QByteArray lines() const { return m_files->bytes(u"Addbk2.Fil"_s); }
