@@ -205,6 +205,7 @@ private slots:
 
     void showsTheGridToItsCommands()
     {
+        // What stands over the grid, a preview or a panel, and what brings the grid back; at last the search.
         const std::tuple<bool, const char *, const char *> turns[]{{true, "mOPrt", "mODel"},
                                                                    {false, "mOLab", "mEDel"},
                                                                    {true, "mOPrt", "mOM"},
