@@ -11,7 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestAssembly : public QObject
 {
     Q_OBJECT
-
 private slots:
     /// Whoever asks for help sees the one manual at the page asked for.
     void opensTheManual()

@@ -257,111 +257,105 @@ const Save screenSize{[](Desk &desk) { desk.openMainMenu(); }, [](Desk &desk) { 
 class TestEverySave : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { QLoggingCategory::setFilterRules(u"*.warning=false"_s); }
-    void isOldOrNewAndTold_data();
-    void isOldOrNewAndTold();
+
+    void isOldOrNewAndTold_data()
+    {
+        rows<Save>({
+            {"a new address", newEntry},
+            {"another name", changedName},
+            {"an address deleted", deletedEntry},
+            {"a day", savedDay},
+            {"a recurrence", recurrence},
+            {"to-dos imported", importedToDos},
+            {"calendar options", calendarOptions},
+            {"marks of areas", marks},
+            {"no password", noPassword},
+            {"top toolbar", topToolbar},
+            {"side toolbars", sideToolbars},
+            {"family name", familyName},
+            {"default panel color", defaultColor},
+            {"a window's color", windowColor},
+            {"screen size", screenSize},
+        });
+    }
+
+    void isOldOrNewAndTold()
+    {
+        const auto [save] = row<Save>();
+        succeed(save);
+        for (int step = 1; step <= m_steps && !QTest::currentTestFailed(); ++step) {
+            refuse(save, step);
+            if (save.kind != Save::Walk) // a power cut may tear the day that is being written
+                end(save, step);
+            if (QTest::currentTestFailed())
+                qInfo() << "at step" << step << "of" << m_steps;
+        }
+    }
 
 private:
     static TestProgram::Content content(const Save &save)
     {
         return save.kind == Save::Setting ? TestProgram::Empty : TestProgram::Household;
     }
-    void succeed(const Save &save);
-    void refuse(const Save &save, int step) const;
-    void end(const Save &save, int step) const;
+
+    void succeed(const Save &save)
+    {
+        Desk desk(content(save));
+        save.prepare(desk);
+        desk.told();
+        const Files before = desk.files();
+        const FailingDisk disk(DiskFailure::OneStep, 0);
+        save.press(desk);
+        m_steps = disk.steps();
+        m_told = desk.told();
+        m_after = desk.files();
+        QVERIFY(m_after != before);
+    }
+
+    /// Nobody is told of a success that is none, and what was refused can be tried again.
+    void refuse(const Save &save, int step) const
+    {
+        Desk desk(content(save));
+        save.prepare(desk);
+        desk.told();
+        const Files before = desk.files();
+        {
+            const FailingDisk disk(DiskFailure::OneStep, step);
+            save.press(desk);
+        }
+        const Files now = desk.files();
+        if (now == m_after)
+            return;
+        QVERIFY(now == before || (save.kind == Save::Walk && isMixedByDay(now, before, m_after)));
+        QVERIFY(desk.told() != m_told);
+        if (save.kind == Save::Setting)
+            return;
+        save.press(desk);
+        QVERIFY(desk.files() == m_after);
+    }
+
+    /// The next start makes it old or new.
+    void end(const Save &save, int step) const
+    {
+        Desk desk(content(save));
+        save.prepare(desk);
+        const Files before = desk.files();
+        {
+            const FailingDisk disk(DiskFailure::TheEnd, step);
+            save.press(desk);
+        }
+        QVERIFY(ChangeSet::recover(desk.test.folder));
+        Saving::recover(desk.test.folder);
+        QVERIFY(desk.files() == m_after || desk.files() == before);
+    }
 
     // after the save that succeeds
     Files m_after;
     QStringList m_told;
     int m_steps = 0;
 };
-
-void TestEverySave::isOldOrNewAndTold_data()
-{
-    rows<Save>({
-        {"a new address", newEntry},
-        {"another name", changedName},
-        {"an address deleted", deletedEntry},
-        {"a day", savedDay},
-        {"a recurrence", recurrence},
-        {"to-dos imported", importedToDos},
-        {"calendar options", calendarOptions},
-        {"marks of areas", marks},
-        {"no password", noPassword},
-        {"top toolbar", topToolbar},
-        {"side toolbars", sideToolbars},
-        {"family name", familyName},
-        {"default panel color", defaultColor},
-        {"a window's color", windowColor},
-        {"screen size", screenSize},
-    });
-}
-
-void TestEverySave::isOldOrNewAndTold()
-{
-    const auto [save] = row<Save>();
-    succeed(save);
-    for (int step = 1; step <= m_steps && !QTest::currentTestFailed(); ++step) {
-        refuse(save, step);
-        if (save.kind != Save::Walk) // a power cut may tear the day that is being written
-            end(save, step);
-        if (QTest::currentTestFailed())
-            qInfo() << "at step" << step << "of" << m_steps;
-    }
-}
-
-void TestEverySave::succeed(const Save &save)
-{
-    Desk desk(content(save));
-    save.prepare(desk);
-    desk.told();
-    const Files before = desk.files();
-    const FailingDisk disk(DiskFailure::OneStep, 0);
-    save.press(desk);
-    m_steps = disk.steps();
-    m_told = desk.told();
-    m_after = desk.files();
-    QVERIFY(m_after != before);
-}
-
-/// Nobody is told of a success that is none, and what was refused can be tried again.
-void TestEverySave::refuse(const Save &save, int step) const
-{
-    Desk desk(content(save));
-    save.prepare(desk);
-    desk.told();
-    const Files before = desk.files();
-    {
-        const FailingDisk disk(DiskFailure::OneStep, step);
-        save.press(desk);
-    }
-    const Files now = desk.files();
-    if (now == m_after)
-        return;
-    QVERIFY(now == before || (save.kind == Save::Walk && isMixedByDay(now, before, m_after)));
-    QVERIFY(desk.told() != m_told);
-    if (save.kind == Save::Setting)
-        return;
-    save.press(desk);
-    QVERIFY(desk.files() == m_after);
-}
-
-/// The next start makes it old or new.
-void TestEverySave::end(const Save &save, int step) const
-{
-    Desk desk(content(save));
-    save.prepare(desk);
-    const Files before = desk.files();
-    {
-        const FailingDisk disk(DiskFailure::TheEnd, step);
-        save.press(desk);
-    }
-    QVERIFY(ChangeSet::recover(desk.test.folder));
-    Saving::recover(desk.test.folder);
-    QVERIFY(desk.files() == m_after || desk.files() == before);
-}
 
 QTEST_MAIN(TestEverySave)
 #include "tst_everysave.moc"

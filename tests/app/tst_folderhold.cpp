@@ -13,7 +13,6 @@ using Result = FolderHold::Result;
 class TestFolderHold : public QObject
 {
     Q_OBJECT
-
 private slots:
     void holdsTheFolderByWhateverCanBeMade_data()
     {

@@ -11,7 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestHouseholdFolder : public QObject
 {
     Q_OBJECT
-
 private slots:
     void isNeverLeftForAnother_data()
     {

@@ -32,45 +32,40 @@ bool isAnswered(const QString &path)
 class TestInstanceLink : public QObject
 {
     Q_OBJECT
-
 private slots:
-    void callsTheOtherOneOfAFolder();
-    void waitsForAnAnswer();
-    void listensAgainAfterTheOtherOneWent();
-};
-
-void TestInstanceLink::callsTheOtherOneOfAFolder()
-{
-    const QTemporaryDir folder, other;
-    InstanceLink first{DataFolder(folder.path())};
-    QVERIFY(first.listen());
-    QSignalSpy called(&first, &InstanceLink::called);
-    QVERIFY(!isAnswered(other.path()));
-    QCOMPARE(called.size(), 0);
-    QVERIFY(isAnswered(folder.path()));
-    QVERIFY(isAnswered(folder.path() + u"/../"_s + QDir(folder.path()).dirName()));
-    QTRY_COMPARE(called.size(), 2);
-}
-
-/// The line of a program that hangs can be called, and nobody answers.
-void TestInstanceLink::waitsForAnAnswer()
-{
-    const QTemporaryDir folder;
-    InstanceLink hanging{DataFolder(folder.path())};
-    QVERIFY(hanging.listen());
-    QCOMPARE(InstanceLink(DataFolder(folder.path())).callOther(), Reply::Silence);
-}
-
-void TestInstanceLink::listensAgainAfterTheOtherOneWent()
-{
-    const QTemporaryDir folder;
+    void callsTheOtherOneOfAFolder()
     {
+        const QTemporaryDir folder, other;
         InstanceLink first{DataFolder(folder.path())};
         QVERIFY(first.listen());
+        QSignalSpy called(&first, &InstanceLink::called);
+        QVERIFY(!isAnswered(other.path()));
+        QCOMPARE(called.size(), 0);
+        QVERIFY(isAnswered(folder.path()));
+        QVERIFY(isAnswered(folder.path() + u"/../"_s + QDir(folder.path()).dirName()));
+        QTRY_COMPARE(called.size(), 2);
     }
-    InstanceLink next{DataFolder(folder.path())};
-    QVERIFY(next.listen());
-}
+
+    /// The line of a program that hangs can be called, and nobody answers.
+    void waitsForAnAnswer()
+    {
+        const QTemporaryDir folder;
+        InstanceLink hanging{DataFolder(folder.path())};
+        QVERIFY(hanging.listen());
+        QCOMPARE(InstanceLink(DataFolder(folder.path())).callOther(), Reply::Silence);
+    }
+
+    void listensAgainAfterTheOtherOneWent()
+    {
+        const QTemporaryDir folder;
+        {
+            InstanceLink first{DataFolder(folder.path())};
+            QVERIFY(first.listen());
+        }
+        InstanceLink next{DataFolder(folder.path())};
+        QVERIFY(next.listen());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestInstanceLink)
 #include "tst_instancelink.moc"

@@ -64,7 +64,6 @@ QStringList unavailable(const QWidget &window, const QString &reason)
 class TestReadingOnly : public QObject
 {
     Q_OBJECT
-
 private slots:
     void offersNothingThatWrites_data()
     {

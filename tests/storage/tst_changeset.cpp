@@ -24,7 +24,6 @@ const Files after{{first, "00000000aaa11111bb"}, {second, "12345678"_ba}, {whole
 class TestChangeSet : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

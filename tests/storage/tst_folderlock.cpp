@@ -11,7 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestFolderLock : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_dir = std::make_unique<QTemporaryDir>(); }
 

@@ -27,7 +27,6 @@ bool commit(const DataFolder &folder)
 class TestReadOnly : public QObject
 {
     Q_OBJECT
-
 private slots:
     void writesNothingWhereTheSystemWouldAllowIt_data()
     {

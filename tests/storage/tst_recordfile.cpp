@@ -15,7 +15,6 @@ const QString name = u"Test.Fil"_s;
 class TestRecordFile : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_files = std::make_unique<TestFolder>(); }
 

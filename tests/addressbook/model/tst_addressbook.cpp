@@ -54,7 +54,6 @@ AddressEntry entryOf(const QJsonObject &expected)
 class TestAddressBook : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { m_files = std::make_unique<TestFolder>(); }
 

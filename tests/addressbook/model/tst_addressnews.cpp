@@ -20,7 +20,6 @@ QByteArray person(const QByteArray &first, const QByteArray &last, const QByteAr
 class TestAddressNews : public QObject
 {
     Q_OBJECT
-
 private slots:
     void tellsWhatIsNear_data()
     {

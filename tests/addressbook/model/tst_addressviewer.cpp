@@ -63,7 +63,6 @@ void putFour(const TestFolder &files)
 class TestAddressViewer : public QObject
 {
     Q_OBJECT
-
 private slots:
     void showsTheHousehold()
     {

@@ -49,7 +49,6 @@ private:
 class TestDialling : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

@@ -10,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestGate : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

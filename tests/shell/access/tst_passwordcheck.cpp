@@ -43,7 +43,6 @@ QByteArray sesameFile()
 class TestPasswordCheck : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init() { QFile::remove(m_path); }
 

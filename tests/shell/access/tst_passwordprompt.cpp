@@ -31,7 +31,6 @@ void type(const Form32 &prompt, const QString &password)
 class TestForm32 : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

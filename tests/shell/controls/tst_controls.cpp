@@ -42,265 +42,248 @@ void drop(QLineEdit &box, const QString &text)
 class TestControls : public QObject
 {
     Q_OBJECT
-
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
-    void aBoxTakesWhatItsFileHolds_data();
-    void aBoxTakesWhatItsFileHolds();
-    void aLockedBoxIsSkipped();
-    void aDisabledControlSaysWhy();
-    void requiredFollowsTheInkOfItsPanel();
-    void aListShowsWholeRows();
-    void aTableShowsWholeRows();
-    void theBarKeepsActivityAndMessageApart();
-    void theClockShowsTheProgramsTime();
-    void escAnswersOnlyWhereNothingIsLost_data();
-    void escAnswersOnlyWhereNothingIsLost();
-    void aMessageBoxHasItsButtonsInOrder();
-    void anInputBoxRefusesWhatTheFilesCannotHold();
-    void theMonthIsAlwaysInEnglish();
+
+    void aBoxTakesWhatItsFileHolds_data()
+    {
+        const QString foreign = u"The files cannot hold the character "_s;
+        const QString full = u"This box takes 10 characters at most"_s;
+        rows<QString, QString, QString, QString>({
+            {"plain", u"Lin"_s, u"d"_s, u"Lind"_s, {}},
+            {"accents and a long dash", {}, u"Jos\u00e9 \u2013"_s, u"Jos\u00e9 \u2013"_s, {}},
+            {"accent as a character of its own", {}, u"Jose\u0301"_s, u"Jos\u00e9"_s, {}},
+            {"only a letter that the files lack", u"Anna"_s, u"\u0141"_s, u"Anna"_s, foreign + u"\u0141"_s},
+            {"such letters among others", u"A "_s, u"\u0141uk\U0001f600\u0141a"_s, u"A uka"_s,
+             foreign + u"\u0141\U0001f600"_s},
+            {"beyond the limit", u"12345678"_s, u"9012"_s, u"1234567890"_s, full},
+            {"both", u"12345678"_s, u"\u0141901"_s, u"1234567890"_s, foreign + u"\u0141. "_s + full},
+            {"line ends", {}, u"\ta\tb\r\nc\n"_s, u"a b c"_s, {}},
+        });
+    }
+
+    void aBoxTakesWhatItsFileHolds()
+    {
+        const auto [before, offered, text, reason] = row<QString, QString, QString, QString>();
+        FieldBox box;
+        box.setByteLimit(10);
+        QSignalSpy refused(&box, &FieldBox::refused);
+        for (const bool isDropped : {false, true}) {
+            box.clear();
+            QTest::keyClicks(&box, before);
+            if (isDropped) {
+                drop(box, offered);
+            } else {
+                QApplication::clipboard()->setText(offered);
+                QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+            }
+            QCOMPARE(box.text(), text);
+            QCOMPARE(refused.isEmpty() ? QString() : refused.takeFirst().first().toString(), reason);
+            if (text == before)
+                continue;
+            QTest::keyClick(&box, Qt::Key_Backspace); // a step of its own
+            box.undo();
+            QCOMPARE(box.text(), text);
+            box.undo();
+            QCOMPARE(box.text(), before);
+        }
+    }
+
+    void aLockedBoxIsSkipped()
+    {
+        QWidget window;
+        FieldBox first(&window), second(&window), third(&window);
+        second.setLocked(true);
+        showActive(window);
+        first.setFocus();
+        QTest::keyClick(&first, Qt::Key_Tab);
+        QVERIFY(third.hasFocus());
+        second.setLocked(false);
+        first.setFocus();
+        QTest::keyClick(&first, Qt::Key_Tab);
+        QVERIFY(second.hasFocus());
+    }
+
+    void aDisabledControlSaysWhy()
+    {
+        QPushButton button;
+        button.setToolTip(u"Dial"_s);
+        setUnavailable(&button, u"No modem"_s);
+        setUnavailable(&button, u"No number"_s);
+        QVERIFY(!button.isEnabled());
+        QCOMPARE(button.toolTip(), u"No number"_s);
+        setUnavailable(&button, QString());
+        QVERIFY(button.isEnabled());
+        QCOMPARE(button.toolTip(), u"Dial"_s);
+        QCOMPARE(button.statusTip(), QString());
+    }
+
+    void requiredFollowsTheInkOfItsPanel()
+    {
+        PanelFrame panel;
+        FieldBox box(&panel);
+        const QLabel *label = makeFieldLabel(u"Last Name"_s, &box, &panel, {}, true);
+        QCOMPARE(box.accessibleName(), u"Last Name"_s);
+        panel.show();
+        QVERIFY(label->text().contains(Theme::light().accent.name()));
+        panel.setPalette(Theme::light().panelPalette(Qt::darkBlue, Qt::white));
+        QVERIFY(label->text().contains("#ffffff"_L1));
+        QCOMPARE(label->palette().color(label->foregroundRole()), QColor(Qt::white));
+        QCOMPARE(box.palette().color(QPalette::PlaceholderText), Theme::light().quiet);
+    }
+
+    void aListShowsWholeRows()
+    {
+        auto *list = new QListView;
+        setListRows(list);
+        showsWholeRows(list);
+    }
+
+    void aTableShowsWholeRows()
+    {
+        auto *table = new QTableView;
+        setGridRows(table);
+        showsWholeRows(table);
+    }
+
+    void theBarKeepsActivityAndMessageApart()
+    {
+        TestProgram program;
+        QMainWindow window;
+        auto *bar = new ActivityBar(program.clock, program.state.dateStyle, &window);
+        window.setStatusBar(bar);
+        window.show();
+        bar->setActivity(u"Main Menu"_s);
+        bar->say(u"Saved"_s);
+        QStatusTipEvent tip(u"No modem"_s);
+        QApplication::sendEvent(&window, &tip);
+        QCOMPARE(control<QLabel>(*bar, "statusMessage")->text(), u"No modem"_s);
+        QVERIFY(control<QLabel>(*bar, "StatusBar1_Panel1")->isVisible());
+        QStatusTipEvent noTip{QString()};
+        QApplication::sendEvent(&window, &noTip);
+        QCOMPARE(control<QLabel>(*bar, "statusMessage")->text(), u"Saved"_s);
+        QCOMPARE(bar->activity(), u"Main Menu"_s);
+    }
+
+    void theClockShowsTheProgramsTime()
+    {
+        TestProgram program;
+        ActivityBar bar(program.clock, program.state.dateStyle);
+        QCOMPARE(control<QLabel>(bar, "Label4")->text(), u"10:24 AM"_s);
+        QCOMPARE(control<QLabel>(bar, "statusDate")->text(), u"Sat, Nov 21, 2026"_s);
+        program.clock.time = QDateTime(QDate(2026, 11, 22), QTime(23, 59, 59, 950));
+        bar.startClock();
+        bar.show();
+        program.clock.time = QDateTime(QDate(2026, 11, 23), QTime(0, 0));
+        QTRY_COMPARE(control<QLabel>(bar, "Label4")->text(), u"12:00 AM"_s);
+    }
+
+    void escAnswersOnlyWhereNothingIsLost_data()
+    {
+        rows<QVector<Answer>, bool, Answer>({
+            {"a notice", {Answer::Ok}, true, Answer::Ok},
+            {"with Cancel", {Answer::Yes, Answer::No, Answer::Cancel}, true, Answer::Cancel},
+            {"Yes or No", {Answer::Yes, Answer::No}, false, Answer::Cancel},
+        });
+    }
+
+    void escAnswersOnlyWhereNothingIsLost()
+    {
+        const auto [answers, closes, answer] = row<QVector<Answer>, bool, Answer>();
+        for (const bool byKey : {true, false}) {
+            MessageBox box({u"Title"_s, u"Text"_s, Message::Question, answers, answers.first()});
+            showActive(box);
+            if (byKey)
+                QTest::keyClick(&box, Qt::Key_Escape);
+            else
+                box.close();
+            QCOMPARE(box.isVisible(), !closes);
+            if (closes)
+                QCOMPARE(box.answer(), answer);
+        }
+    }
+
+    void aMessageBoxHasItsButtonsInOrder()
+    {
+        MessageBox box({u"Exit"_s,
+                        u"First\nSecond\nThird"_s,
+                        Message::Question,
+                        {Answer::Yes, Answer::No, Answer::Cancel},
+                        Answer::No});
+        showActive(box);
+        QCOMPARE(box.windowTitle(), u"Exit"_s);
+        QCOMPARE(control<QLabel>(box, "messageHeading")->text(), u"First"_s);
+        QCOMPARE(control<QLabel>(box, "messageText")->text(), u"Second\nThird"_s);
+        auto *yes = control<QPushButton>(box, "answerYes");
+        auto *no = control<QPushButton>(box, "answerNo");
+        auto *cancel = control<QPushButton>(box, "answerCancel");
+        QVERIFY(no->hasFocus());
+        QVERIFY(yes->x() < no->x() && no->x() < cancel->x());
+        QVERIFY(yes->width() >= 104 && box.width() >= 420 && box.width() <= 560);
+        QTest::keyClick(no, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), u"Exit\n\nFirst\nSecond\nThird"_s);
+        QTest::mouseClick(yes, Qt::LeftButton);
+        QCOMPARE(box.answer(), Answer::Yes);
+        QVERIFY(!box.isVisible());
+    }
+
+    void anInputBoxRefusesWhatTheFilesCannotHold()
+    {
+        InputBox box(u"Family Name"_s, u"Prompt"_s, u"Holm"_s);
+        showActive(box);
+        auto *edit = control<FieldBox>(box, "inputEdit");
+        QVERIFY(edit->hasFocus());
+        QTest::keyClick(edit, Qt::Key_End);
+        QApplication::clipboard()->setText(u"\u0141"_s);
+        edit->paste();
+        QVERIFY(control<QLabel>(box, "inputRefusal")->text().contains(u'\u0141'));
+        QTest::keyClicks(edit, u"s"_s);
+        QCOMPARE(control<QLabel>(box, "inputRefusal")->text(), QString());
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCOMPARE(box.result(), int(QDialog::Accepted));
+        QCOMPARE(box.text(), u"Holms"_s);
+    }
+
+    void theMonthIsAlwaysInEnglish()
+    {
+        const QLocale before;
+        QLocale::setDefault(QLocale(u"de_DE"_s));
+        MonthView month;
+        month.setSelectedDate(QDate(2026, 3, 7));
+        showActive(month);
+        QCOMPARE(control<QToolButton>(month, "monthName")->text(), u"March"_s);
+        QTest::mouseClick(control<QToolButton>(month, "monthNext"), Qt::LeftButton);
+        QCOMPARE(month.monthShown(), 4);
+        control<QToolButton>(month, "monthName")->menu()->actions()[8]->trigger();
+        QCOMPARE(month.monthShown(), 9);
+        QCOMPARE(control<QToolButton>(month, "monthName")->text(), u"September"_s);
+        QTest::mouseClick(control<QToolButton>(month, "monthYear"), Qt::LeftButton);
+        auto *year = control<QSpinBox>(month, "monthYearBox");
+        QTest::keyClicks(year, u"2031"_s);
+        QTest::keyClick(year, Qt::Key_Return);
+        QCOMPARE(month.yearShown(), 2031);
+        QVERIFY(year->isHidden() && control<QToolButton>(month, "monthYear")->isVisible());
+        QLocale::setDefault(before);
+    }
 
 private:
-    void showsWholeRows(QAbstractItemView *view);
-};
-
-void TestControls::aBoxTakesWhatItsFileHolds_data()
-{
-    const QString foreign = u"The files cannot hold the character "_s;
-    const QString full = u"This box takes 10 characters at most"_s;
-    rows<QString, QString, QString, QString>({
-        {"plain", u"Lin"_s, u"d"_s, u"Lind"_s, {}},
-        {"accents and a long dash", {}, u"Jos\u00e9 \u2013"_s, u"Jos\u00e9 \u2013"_s, {}},
-        {"accent as a character of its own", {}, u"Jose\u0301"_s, u"Jos\u00e9"_s, {}},
-        {"only a letter that the files lack", u"Anna"_s, u"\u0141"_s, u"Anna"_s, foreign + u"\u0141"_s},
-        {"such letters among others", u"A "_s, u"\u0141uk\U0001f600\u0141a"_s, u"A uka"_s,
-         foreign + u"\u0141\U0001f600"_s},
-        {"beyond the limit", u"12345678"_s, u"9012"_s, u"1234567890"_s, full},
-        {"both", u"12345678"_s, u"\u0141901"_s, u"1234567890"_s, foreign + u"\u0141. "_s + full},
-        {"line ends", {}, u"\ta\tb\r\nc\n"_s, u"a b c"_s, {}},
-    });
-}
-
-void TestControls::aBoxTakesWhatItsFileHolds()
-{
-    const auto [before, offered, text, reason] = row<QString, QString, QString, QString>();
-    FieldBox box;
-    box.setByteLimit(10);
-    QSignalSpy refused(&box, &FieldBox::refused);
-    for (const bool isDropped : {false, true}) {
-        box.clear();
-        QTest::keyClicks(&box, before);
-        if (isDropped) {
-            drop(box, offered);
-        } else {
-            QApplication::clipboard()->setText(offered);
-            QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    void showsWholeRows(QAbstractItemView *view)
+    {
+        RowsModel<int> numbers(
+            {{u"Number"_s, Qt::AlignRight, [](int number) { return QString::number(number); }}});
+        numbers.setRows(std::vector<int>(50, 7));
+        view->setModel(&numbers);
+        auto *count = new QLabel(u"50 numbers"_s);
+        WholeRows rows(view, count);
+        rows.show();
+        for (const int height : {200, 333, 480}) {
+            rows.resize(200, height);
+            QCOMPARE(view->viewport()->height() % ListRowDelegate::rowHeight(), 0);
+            const int bottom = count->geometry().bottom();
+            QVERIFY(bottom < height && bottom >= height - ListRowDelegate::rowHeight());
         }
-        QCOMPARE(box.text(), text);
-        QCOMPARE(refused.isEmpty() ? QString() : refused.takeFirst().first().toString(), reason);
-        if (text == before)
-            continue;
-        QTest::keyClick(&box, Qt::Key_Backspace); // a step of its own
-        box.undo();
-        QCOMPARE(box.text(), text);
-        box.undo();
-        QCOMPARE(box.text(), before);
     }
-}
-
-void TestControls::aLockedBoxIsSkipped()
-{
-    QWidget window;
-    FieldBox first(&window), second(&window), third(&window);
-    second.setLocked(true);
-    showActive(window);
-    first.setFocus();
-    QTest::keyClick(&first, Qt::Key_Tab);
-    QVERIFY(third.hasFocus());
-    second.setLocked(false);
-    first.setFocus();
-    QTest::keyClick(&first, Qt::Key_Tab);
-    QVERIFY(second.hasFocus());
-}
-
-void TestControls::aDisabledControlSaysWhy()
-{
-    QPushButton button;
-    button.setToolTip(u"Dial"_s);
-    setUnavailable(&button, u"No modem"_s);
-    setUnavailable(&button, u"No number"_s);
-    QVERIFY(!button.isEnabled());
-    QCOMPARE(button.toolTip(), u"No number"_s);
-    setUnavailable(&button, QString());
-    QVERIFY(button.isEnabled());
-    QCOMPARE(button.toolTip(), u"Dial"_s);
-    QCOMPARE(button.statusTip(), QString());
-}
-
-void TestControls::requiredFollowsTheInkOfItsPanel()
-{
-    PanelFrame panel;
-    FieldBox box(&panel);
-    const QLabel *label = makeFieldLabel(u"Last Name"_s, &box, &panel, {}, true);
-    QCOMPARE(box.accessibleName(), u"Last Name"_s);
-    panel.show();
-    QVERIFY(label->text().contains(Theme::light().accent.name()));
-    panel.setPalette(Theme::light().panelPalette(Qt::darkBlue, Qt::white));
-    QVERIFY(label->text().contains("#ffffff"_L1));
-    QCOMPARE(label->palette().color(label->foregroundRole()), QColor(Qt::white));
-    QCOMPARE(box.palette().color(QPalette::PlaceholderText), Theme::light().quiet);
-}
-
-void TestControls::aListShowsWholeRows()
-{
-    auto *list = new QListView;
-    setListRows(list);
-    showsWholeRows(list);
-}
-
-void TestControls::aTableShowsWholeRows()
-{
-    auto *table = new QTableView;
-    setGridRows(table);
-    showsWholeRows(table);
-}
-
-void TestControls::showsWholeRows(QAbstractItemView *view)
-{
-    RowsModel<int> numbers(
-        {{u"Number"_s, Qt::AlignRight, [](int number) { return QString::number(number); }}});
-    numbers.setRows(std::vector<int>(50, 7));
-    view->setModel(&numbers);
-    auto *count = new QLabel(u"50 numbers"_s);
-    WholeRows rows(view, count);
-    rows.show();
-    for (const int height : {200, 333, 480}) {
-        rows.resize(200, height);
-        QCOMPARE(view->viewport()->height() % ListRowDelegate::rowHeight(), 0);
-        const int bottom = count->geometry().bottom();
-        QVERIFY(bottom < height && bottom >= height - ListRowDelegate::rowHeight());
-    }
-}
-
-void TestControls::theBarKeepsActivityAndMessageApart()
-{
-    TestProgram program;
-    QMainWindow window;
-    auto *bar = new ActivityBar(program.clock, program.state.dateStyle, &window);
-    window.setStatusBar(bar);
-    window.show();
-    bar->setActivity(u"Main Menu"_s);
-    bar->say(u"Saved"_s);
-    QStatusTipEvent tip(u"No modem"_s);
-    QApplication::sendEvent(&window, &tip);
-    QCOMPARE(control<QLabel>(*bar, "statusMessage")->text(), u"No modem"_s);
-    QVERIFY(control<QLabel>(*bar, "StatusBar1_Panel1")->isVisible());
-    QStatusTipEvent noTip{QString()};
-    QApplication::sendEvent(&window, &noTip);
-    QCOMPARE(control<QLabel>(*bar, "statusMessage")->text(), u"Saved"_s);
-    QCOMPARE(bar->activity(), u"Main Menu"_s);
-}
-
-void TestControls::theClockShowsTheProgramsTime()
-{
-    TestProgram program;
-    ActivityBar bar(program.clock, program.state.dateStyle);
-    QCOMPARE(control<QLabel>(bar, "Label4")->text(), u"10:24 AM"_s);
-    QCOMPARE(control<QLabel>(bar, "statusDate")->text(), u"Sat, Nov 21, 2026"_s);
-    program.clock.time = QDateTime(QDate(2026, 11, 22), QTime(23, 59, 59, 950));
-    bar.startClock();
-    bar.show();
-    program.clock.time = QDateTime(QDate(2026, 11, 23), QTime(0, 0));
-    QTRY_COMPARE(control<QLabel>(bar, "Label4")->text(), u"12:00 AM"_s);
-}
-
-void TestControls::escAnswersOnlyWhereNothingIsLost_data()
-{
-    rows<QVector<Answer>, bool, Answer>({
-        {"a notice", {Answer::Ok}, true, Answer::Ok},
-        {"with Cancel", {Answer::Yes, Answer::No, Answer::Cancel}, true, Answer::Cancel},
-        {"Yes or No", {Answer::Yes, Answer::No}, false, Answer::Cancel},
-    });
-}
-
-void TestControls::escAnswersOnlyWhereNothingIsLost()
-{
-    const auto [answers, closes, answer] = row<QVector<Answer>, bool, Answer>();
-    for (const bool byKey : {true, false}) {
-        MessageBox box({u"Title"_s, u"Text"_s, Message::Question, answers, answers.first()});
-        showActive(box);
-        if (byKey)
-            QTest::keyClick(&box, Qt::Key_Escape);
-        else
-            box.close();
-        QCOMPARE(box.isVisible(), !closes);
-        if (closes)
-            QCOMPARE(box.answer(), answer);
-    }
-}
-
-void TestControls::aMessageBoxHasItsButtonsInOrder()
-{
-    MessageBox box({u"Exit"_s,
-                    u"First\nSecond\nThird"_s,
-                    Message::Question,
-                    {Answer::Yes, Answer::No, Answer::Cancel},
-                    Answer::No});
-    showActive(box);
-    QCOMPARE(box.windowTitle(), u"Exit"_s);
-    QCOMPARE(control<QLabel>(box, "messageHeading")->text(), u"First"_s);
-    QCOMPARE(control<QLabel>(box, "messageText")->text(), u"Second\nThird"_s);
-    auto *yes = control<QPushButton>(box, "answerYes");
-    auto *no = control<QPushButton>(box, "answerNo");
-    auto *cancel = control<QPushButton>(box, "answerCancel");
-    QVERIFY(no->hasFocus());
-    QVERIFY(yes->x() < no->x() && no->x() < cancel->x());
-    QVERIFY(yes->width() >= 104 && box.width() >= 420 && box.width() <= 560);
-    QTest::keyClick(no, Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), u"Exit\n\nFirst\nSecond\nThird"_s);
-    QTest::mouseClick(yes, Qt::LeftButton);
-    QCOMPARE(box.answer(), Answer::Yes);
-    QVERIFY(!box.isVisible());
-}
-
-void TestControls::anInputBoxRefusesWhatTheFilesCannotHold()
-{
-    InputBox box(u"Family Name"_s, u"Prompt"_s, u"Holm"_s);
-    showActive(box);
-    auto *edit = control<FieldBox>(box, "inputEdit");
-    QVERIFY(edit->hasFocus());
-    QTest::keyClick(edit, Qt::Key_End);
-    QApplication::clipboard()->setText(u"\u0141"_s);
-    edit->paste();
-    QVERIFY(control<QLabel>(box, "inputRefusal")->text().contains(u'\u0141'));
-    QTest::keyClicks(edit, u"s"_s);
-    QCOMPARE(control<QLabel>(box, "inputRefusal")->text(), QString());
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCOMPARE(box.result(), int(QDialog::Accepted));
-    QCOMPARE(box.text(), u"Holms"_s);
-}
-
-void TestControls::theMonthIsAlwaysInEnglish()
-{
-    const QLocale before;
-    QLocale::setDefault(QLocale(u"de_DE"_s));
-    MonthView month;
-    month.setSelectedDate(QDate(2026, 3, 7));
-    showActive(month);
-    QCOMPARE(control<QToolButton>(month, "monthName")->text(), u"March"_s);
-    QTest::mouseClick(control<QToolButton>(month, "monthNext"), Qt::LeftButton);
-    QCOMPARE(month.monthShown(), 4);
-    control<QToolButton>(month, "monthName")->menu()->actions()[8]->trigger();
-    QCOMPARE(month.monthShown(), 9);
-    QCOMPARE(control<QToolButton>(month, "monthName")->text(), u"September"_s);
-    QTest::mouseClick(control<QToolButton>(month, "monthYear"), Qt::LeftButton);
-    auto *year = control<QSpinBox>(month, "monthYearBox");
-    QTest::keyClicks(year, u"2031"_s);
-    QTest::keyClick(year, Qt::Key_Return);
-    QCOMPARE(month.yearShown(), 2031);
-    QVERIFY(year->isHidden() && control<QToolButton>(month, "monthYear")->isVisible());
-    QLocale::setDefault(before);
-}
+};
 
 QTEST_MAIN(TestControls)
 #include "tst_controls.moc"

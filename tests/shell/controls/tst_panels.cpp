@@ -45,7 +45,6 @@ protected:
 class TestPanels : public QObject
 {
     Q_OBJECT
-
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
 

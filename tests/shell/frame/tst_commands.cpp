@@ -11,7 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestCommands : public QObject
 {
     Q_OBJECT
-
 private slots:
     void init()
     {

@@ -27,7 +27,6 @@ constexpr auto blueText = "7363120"_L1;
 class TestPanelColors : public QObject
 {
     Q_OBJECT
-
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
 

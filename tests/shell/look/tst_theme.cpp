@@ -19,7 +19,6 @@ QColor onPicture(const QColor &fill, int grey)
 class TestTheme : public QObject
 {
     Q_OBJECT
-
 private slots:
     void everythingIsSeenOnItsSurfaces_data()
     {

@@ -47,7 +47,6 @@ static QList<QList<double>> lightness(const QImage &picture, int side)
 class TestBackgroundPictures final : public QObject
 {
     Q_OBJECT
-
 private slots:
     void keepsToItsLimits_data()
     {

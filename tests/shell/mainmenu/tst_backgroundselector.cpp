@@ -29,7 +29,6 @@ bool isLike(const QColor &one, const QColor &other)
 class TestBackgroundSelector : public OpenMainMenu
 {
     Q_OBJECT
-
 private slots:
     void init() { make(); }
     void cleanup() { close(); }

@@ -45,7 +45,6 @@ private:
 class TestDisplayMode : public OpenMainMenu
 {
     Q_OBJECT
-
 private slots:
     void init() { make(); }
     void cleanup() { close(); }

@@ -33,7 +33,6 @@ void listMenu(const QMenu &menu, const QString &indent, QStringList &lines)
 class TestStartfrm : public OpenMainMenu
 {
     Q_OBJECT
-
 private slots:
     void init() { make(); }
     void cleanup() { close(); }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "startwindow.h"
+#include "openmainmenu.h"
 
 #include "shell/core/settingskeys.h"
 #include "shell/frame/panelcolors.h"
@@ -18,175 +18,157 @@ const LiveLine birthday{u"Tuesday: Anne Lind's birthday"_s, LiveLine::Plain,
 
 } // namespace
 
-class TestMenuCards : public QObject
+class TestMenuCards : public OpenMainMenu
 {
     Q_OBJECT
-
 private slots:
-    void opensByClickAndKey();
-    void saysWhyACardIsDisabled();
-    void walksByArrowKeys();
-    void showsTheNews();
-    void keepsAGuardedFunctionsNewsToItself_data();
-    void keepsAGuardedFunctionsNewsToItself();
-    void readsTheNewsAgainOnlyWhenAFileHasChanged();
-    void choosesColumnsByWidth_data();
-    void choosesColumnsByWidth();
-    void takesTheUsersPanelColor();
-};
+    void init() { make(); }
+    void cleanup() { close(); }
 
-void TestMenuCards::opensByClickAndKey()
-{
-    StartWindow start;
-    start.addAllFunctions();
-    start.protectAll();
-    Startfrm &window = start.show();
-    auto *first = control<FunctionCard>(window, "card_addressBook");
-    QCOMPARE(window.focusWidget(), first);
-    QTest::mouseClick(first, Qt::LeftButton);
-    QTest::keyClick(control<FunctionCard>(window, "card_planner"), Qt::Key_Return);
-    QTest::keyClick(control<FunctionCard>(window, "card_passwordControl"), Qt::Key_Space);
-    QTest::mouseClick(control<FunctionCard>(window, "card_backup"), Qt::LeftButton);
-    QCOMPARE(start.opened, (QList<int>{int(Function::AddressBook), int(Function::Planner),
-                                       int(Function::PasswordControl), int(Function::Backup)}));
-    QCOMPARE(start.asked, (QList<int>{0, 2})); // the guards of the menu entries
-}
-
-void TestMenuCards::saysWhyACardIsDisabled()
-{
-    StartWindow start;
-    start.addFunction(Function::AddressBook);
-    Startfrm &window = start.show();
-    auto *card = control<FunctionCard>(window, "card_planner");
-    QVERIFY(!card->isEnabled());
-    QCOMPARE(card->toolTip(), u"Daily Planner is not part of this program yet."_s);
-    QCOMPARE(card->accessibleDescription(), card->toolTip());
-    QTest::mouseClick(card, Qt::LeftButton);
-    QVERIFY(start.opened.isEmpty());
-    QCOMPARE(window.findChildren<FunctionCard *>().size(), 12);
-}
-
-void TestMenuCards::walksByArrowKeys()
-{
-    StartWindow start;
-    start.addFunction(Function::AddressBook);     // first row, first place
-    start.addFunction(Function::Planner);         // first row, second place
-    start.addFunction(Function::PasswordControl); // last row, third place
-    QVERIFY(start.test.settings.setText(SettingsKeys::smallerScreen, u"Yes"_s));
-    Startfrm &window = start.show();
-    window.resize(1280, 800);
-    const auto press = [&](Qt::Key key) {
-        QTest::keyClick(window.focusWidget(), key);
-        return window.focusWidget()->objectName();
-    };
-    QCOMPARE(press(Qt::Key_Right), u"card_planner"_s);
-    QCOMPARE(press(Qt::Key_Down), u"card_passwordControl"_s);
-    QCOMPARE(press(Qt::Key_Right), u"card_passwordControl"_s); // nothing further that way
-    QCOMPARE(press(Qt::Key_Home), u"card_addressBook"_s);
-    QCOMPARE(press(Qt::Key_End), u"card_passwordControl"_s);
-    QCOMPARE(press(Qt::Key_Up), u"card_planner"_s);
-    QCOMPARE(press(Qt::Key_Left), u"card_addressBook"_s);
-}
-
-void TestMenuCards::showsTheNews()
-{
-    StartWindow start;
-    start.addFunction(Function::AddressBook, birthday);
-    start.addFunction(Function::Planner);
-    Startfrm &window = start.show();
-    auto *card = control<FunctionCard>(window, "card_addressBook");
-    QTRY_COMPARE(card->accessibleDescription(), birthday.text);
-    QCOMPARE(card->accessibleName(), u"Address Book"_s);
-    QCOMPARE(control<FunctionCard>(window, "card_planner")->accessibleDescription(),
-             u"Appointments day by day"_s);
-    QCOMPARE(control<QLabel>(window, "sentenceLabel")->text(),
-             u"Good morning. Birthday on Tuesday: Anne Lind."_s);
-}
-
-void TestMenuCards::keepsAGuardedFunctionsNewsToItself_data()
-{
-    rows<QList<int>, QString>({
-        {"both ways", {Area::AddressBook, Area::AddressBookButton}, u"Protected"_s},
-        {"card", {Area::AddressBook}, u"Protected; open from the toolbar"_s},
-        {"button", {Area::AddressBookButton}, u"Protected; open from this card"_s},
-    });
-}
-
-void TestMenuCards::keepsAGuardedFunctionsNewsToItself()
-{
-    const auto [areas, text] = row<QList<int>, QString>();
-    StartWindow start;
-    start.addFunction(Function::AddressBook, birthday);
-    for (const int area : areas)
-        start.test.state.protectedAreas.setFlag(area, u"YES"_s);
-    Startfrm &window = start.show();
-    QTRY_COMPARE(control<FunctionCard>(window, "card_addressBook")->accessibleDescription(), text);
-    QCOMPARE(control<QLabel>(window, "sentenceLabel")->text(), u"Good morning. Have a pleasant Saturday."_s);
-    QCOMPARE(start.newsRead, 0);
-}
-
-void TestMenuCards::readsTheNewsAgainOnlyWhenAFileHasChanged()
-{
-    StartWindow start;
-    start.test.setBytes(u"Addbk2.Fil"_s, "one");
-    start.addFunction(Function::AddressBook, birthday, {u"ADDBK2.FIL"_s});
-    MenuNews news(start.test.program);
-    news.refresh();
-    news.refresh();
-    QCOMPARE(start.newsRead, 1);
-    QCOMPARE(news.line(Function::AddressBook), std::optional(birthday));
-    start.test.setBytes(u"Addbk2.Fil"_s, "another");
-    news.refresh();
-    QCOMPARE(start.newsRead, 2);
-    start.test.clock.time = start.test.clock.time.addDays(1);
-    news.refresh();
-    QCOMPARE(start.newsRead, 3);
-    start.protectAll();
-    news.refresh();
-    QCOMPARE(news.line(Function::AddressBook)->text, u"Protected"_s);
-    QVERIFY(QFile::remove(start.test.path(u"Addbk2.Fil"_s)));
-    news.refresh();
-    QCOMPARE(start.newsRead, 3);
-}
-
-void TestMenuCards::choosesColumnsByWidth_data()
-{
-    rows<int, int>({
-        {"the last of two columns", 719, 2},
-        {"the first of three", 720, 3},
-        {"full HD at 200 %", 960, 3},
-        {"four", 1024, 4},
-        {"never more", 2560, 4},
-    });
-}
-
-void TestMenuCards::choosesColumnsByWidth()
-{
-    const auto [width, columns] = row<int, int>();
-    CardDesk desk(nullptr);
-    desk.resize(width, desk.heightForWidth(width));
-    desk.show();
-    QCOMPARE(desk.columns(), columns);
-    QRect all;
-    for (const FunctionCard *card : desk.findChildren<FunctionCard *>()) {
-        const int proper = card->width() - 2 * FunctionCard::margin;
-        QVERIFY2(proper >= 216 && proper <= 320, qPrintable(QString::number(proper)));
-        all |= card->geometry();
+    void opensByClickAndKey()
+    {
+        addAllFunctions();
+        protectAll();
+        show();
+        auto *first = find<FunctionCard>("card_addressBook");
+        QCOMPARE(m_window->focusWidget(), first);
+        QTest::mouseClick(first, Qt::LeftButton);
+        QTest::keyClick(find<FunctionCard>("card_planner"), Qt::Key_Return);
+        QTest::keyClick(find<FunctionCard>("card_passwordControl"), Qt::Key_Space);
+        QTest::mouseClick(find<FunctionCard>("card_backup"), Qt::LeftButton);
+        QCOMPARE(m_done.opened, (QList<int>{int(Function::AddressBook), int(Function::Planner),
+                                            int(Function::PasswordControl), int(Function::Backup)}));
+        QCOMPARE(m_done.guards, (QList<int>{0, 2})); // the guards of the menu entries
     }
-    QVERIFY2(desk.rect().contains(all), "no card is cut");
-    QVERIFY(std::abs(all.center().x() - desk.rect().center().x()) <= 1);
-}
 
-void TestMenuCards::takesTheUsersPanelColor()
-{
-    StartWindow start;
-    start.addFunction(Function::AddressBook);
-    QVERIFY(start.test.settings.setText(SettingsKeys::mainMenuColor, u"255"_s)); // red
-    Startfrm &window = start.show();
-    const QImage card = control<FunctionCard>(window, "card_addressBook")->grab().toImage();
-    const QColor fill = card.pixelColor(card.width() - 30, card.height() / 2);
-    QVERIFY2(fill.red() > 240 && fill.green() < 30, qPrintable(fill.name()));
-}
+    void saysWhyACardIsDisabled()
+    {
+        addFunction(Function::AddressBook);
+        show();
+        auto *card = find<FunctionCard>("card_planner");
+        QVERIFY(!card->isEnabled());
+        QCOMPARE(card->toolTip(), u"Daily Planner is not part of this program yet."_s);
+        QCOMPARE(card->accessibleDescription(), card->toolTip());
+        QTest::mouseClick(card, Qt::LeftButton);
+        QVERIFY(m_done.opened.isEmpty());
+        QCOMPARE(m_window->findChildren<FunctionCard *>().size(), 12);
+    }
+
+    void walksByArrowKeys()
+    {
+        addFunction(Function::AddressBook);     // first row, first place
+        addFunction(Function::Planner);         // first row, second place
+        addFunction(Function::PasswordControl); // last row, third place
+        QVERIFY(m_test->settings.setText(SettingsKeys::smallerScreen, u"Yes"_s));
+        show();
+        m_window->resize(1280, 800);
+        const auto press = [&](Qt::Key key) {
+            QTest::keyClick(m_window->focusWidget(), key);
+            return m_window->focusWidget()->objectName();
+        };
+        QCOMPARE(press(Qt::Key_Right), u"card_planner"_s);
+        QCOMPARE(press(Qt::Key_Down), u"card_passwordControl"_s);
+        QCOMPARE(press(Qt::Key_Right), u"card_passwordControl"_s); // nothing further that way
+        QCOMPARE(press(Qt::Key_Home), u"card_addressBook"_s);
+        QCOMPARE(press(Qt::Key_End), u"card_passwordControl"_s);
+        QCOMPARE(press(Qt::Key_Up), u"card_planner"_s);
+        QCOMPARE(press(Qt::Key_Left), u"card_addressBook"_s);
+    }
+
+    void showsTheNews()
+    {
+        addFunction(Function::AddressBook, birthday);
+        addFunction(Function::Planner);
+        show();
+        auto *card = find<FunctionCard>("card_addressBook");
+        QTRY_COMPARE(card->accessibleDescription(), birthday.text);
+        QCOMPARE(card->accessibleName(), u"Address Book"_s);
+        QCOMPARE(find<FunctionCard>("card_planner")->accessibleDescription(), u"Appointments day by day"_s);
+        QCOMPARE(labelText("sentenceLabel"), u"Good morning. Birthday on Tuesday: Anne Lind."_s);
+    }
+
+    void keepsAGuardedFunctionsNewsToItself_data()
+    {
+        rows<QList<int>, QString>({
+            {"both ways", {Area::AddressBook, Area::AddressBookButton}, u"Protected"_s},
+            {"card", {Area::AddressBook}, u"Protected; open from the toolbar"_s},
+            {"button", {Area::AddressBookButton}, u"Protected; open from this card"_s},
+        });
+    }
+
+    void keepsAGuardedFunctionsNewsToItself()
+    {
+        const auto [areas, text] = row<QList<int>, QString>();
+        addFunction(Function::AddressBook, birthday);
+        for (const int area : areas)
+            m_test->state.protectedAreas.setFlag(area, u"YES"_s);
+        show();
+        QTRY_COMPARE(find<FunctionCard>("card_addressBook")->accessibleDescription(), text);
+        QCOMPARE(labelText("sentenceLabel"), u"Good morning. Have a pleasant Saturday."_s);
+        QCOMPARE(m_done.newsRead, 0);
+    }
+
+    void readsTheNewsAgainOnlyWhenAFileHasChanged()
+    {
+        m_test->setBytes(u"Addbk2.Fil"_s, "one");
+        addFunction(Function::AddressBook, birthday, {u"ADDBK2.FIL"_s});
+        MenuNews news(m_test->program);
+        news.refresh();
+        news.refresh();
+        QCOMPARE(m_done.newsRead, 1);
+        QCOMPARE(news.line(Function::AddressBook), std::optional(birthday));
+        m_test->setBytes(u"Addbk2.Fil"_s, "another");
+        news.refresh();
+        QCOMPARE(m_done.newsRead, 2);
+        m_test->clock.time = m_test->clock.time.addDays(1);
+        news.refresh();
+        QCOMPARE(m_done.newsRead, 3);
+        protectAll();
+        news.refresh();
+        QCOMPARE(news.line(Function::AddressBook)->text, u"Protected"_s);
+        QVERIFY(QFile::remove(m_test->path(u"Addbk2.Fil"_s)));
+        news.refresh();
+        QCOMPARE(m_done.newsRead, 3);
+    }
+
+    void choosesColumnsByWidth_data()
+    {
+        rows<int, int>({
+            {"the last of two columns", 719, 2},
+            {"the first of three", 720, 3},
+            {"full HD at 200 %", 960, 3},
+            {"four", 1024, 4},
+            {"never more", 2560, 4},
+        });
+    }
+
+    void choosesColumnsByWidth()
+    {
+        const auto [width, columns] = row<int, int>();
+        CardDesk desk(nullptr);
+        desk.resize(width, desk.heightForWidth(width));
+        desk.show();
+        QCOMPARE(desk.columns(), columns);
+        QRect all;
+        for (const FunctionCard *card : desk.findChildren<FunctionCard *>()) {
+            const int proper = card->width() - 2 * FunctionCard::margin;
+            QVERIFY2(proper >= 216 && proper <= 320, qPrintable(QString::number(proper)));
+            all |= card->geometry();
+        }
+        QVERIFY2(desk.rect().contains(all), "no card is cut");
+        QVERIFY(std::abs(all.center().x() - desk.rect().center().x()) <= 1);
+    }
+
+    void takesTheUsersPanelColor()
+    {
+        addFunction(Function::AddressBook);
+        QVERIFY(m_test->settings.setText(SettingsKeys::mainMenuColor, u"255"_s)); // red
+        show();
+        const QImage card = find<FunctionCard>("card_addressBook")->grab().toImage();
+        const QColor fill = card.pixelColor(card.width() - 30, card.height() / 2);
+        QVERIFY2(fill.red() > 240 && fill.green() < 30, qPrintable(fill.name()));
+    }
+};
 
 QTEST_MAIN(TestMenuCards)
 #include "tst_menucards.moc"

@@ -11,7 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 class TestStartModels : public QObject
 {
     Q_OBJECT
-
 private slots:
     void readsABackgroundRecord_data()
     {

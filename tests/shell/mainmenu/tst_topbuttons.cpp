@@ -29,7 +29,6 @@ QList<int> listOf(int number)
 class TestStartDispatch : public OpenMainMenu
 {
     Q_OBJECT
-
 private slots:
     void init() { make(); }
     void cleanup() { close(); }
