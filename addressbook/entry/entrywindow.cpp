@@ -136,7 +136,10 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     commands().repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
     commands().repeat(m_modify, edit, u"mEMod1"_s);
     commands().setKeyIn(m_list, remove, Keys::remove);
-    const auto search = [this] { startSearch(); };
+    const auto search = [this] {
+        closePreview();
+        m_list->startSearch();
+    };
     commands().add(edit, u"mEFind"_s, u"&Find"_s, search, noneShown, Keys::search);
     makeToolbar(copy, print);
     makeButtons(clear, saveNew, remove);
@@ -266,12 +269,6 @@ bool ADDBKVIEW::mayReplaceShown()
     if (!mayGo || (wasModified && !isModified()))
         m_toSay = mayGo ? activity().message() : QString();
     return mayGo;
-}
-
-void ADDBKVIEW::startSearch()
-{
-    closePreview();
-    m_list->startSearch();
 }
 
 void ADDBKVIEW::viewSelected()

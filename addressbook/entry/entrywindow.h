@@ -53,7 +53,6 @@ private:
     bool mayReplaceShown();
     bool isLastNameGiven();
 
-    void startSearch();
     void viewSelected();
     void switchMode();
     void startEntry();

@@ -40,15 +40,15 @@ ButtonRow::ButtonRow(QWidget *parent)
     connect(m_low, &LowWindow::changed, this, &ButtonRow::rearrange);
 }
 
-void ButtonRow::add(QPushButton *button, QVector<QPushButton *> &group)
+void ButtonRow::add(QPushButton *button, QList<QPushButton *> &group)
 {
     group.append(button);
-    const QVector<QPushButton *> all = m_left + QVector{m_more} + m_right;
+    const QList<QPushButton *> all = m_left + QList<QPushButton *>{m_more} + m_right;
     for (qsizetype i = 1; i < all.size(); ++i)
         setTabOrder(all[i - 1], all[i]);
 }
 
-int ButtonRow::groupWidth(const QVector<QPushButton *> &group) const
+int ButtonRow::groupWidth(const QList<QPushButton *> &group) const
 {
     int width = 0;
     for (const QPushButton *button : group) {
@@ -66,7 +66,7 @@ void ButtonRow::setWords(const QString &words)
 
 int ButtonRow::leftWidth() const
 {
-    return groupWidth(m_left + QVector{m_more});
+    return groupWidth(m_left + QList<QPushButton *>{m_more});
 }
 
 /// Where what follows the left group begins.
@@ -114,7 +114,7 @@ QSize ButtonRow::minimumSizeHint() const
     return {m_low->isLow() ? left + groupGap + right : std::max(left, right), rowHeight()};
 }
 
-void ButtonRow::place(const QVector<QPushButton *> &group, int x, int y) const
+void ButtonRow::place(const QList<QPushButton *> &group, int x, int y) const
 {
     for (QPushButton *button : group) {
         if (button->isHidden())
@@ -166,7 +166,7 @@ void ButtonRow::rearrange()
     holdWhatHasNoRoom();
     const int height = rowHeight();
     const bool oneRow = m_low->isLow() || fitsOneRow(width());
-    place(m_left + QVector{m_more}, 0, 0);
+    place(m_left + QList<QPushButton *>{m_more}, 0, 0);
     const bool haveRoom = haveWordsRoom();
     m_words->setText(haveRoom ? m_text : QString());
     m_words->setGeometry(behindLeft(), 0, m_words->sizeHint().width(), height);

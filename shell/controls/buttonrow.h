@@ -38,8 +38,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void add(QPushButton *button, QVector<QPushButton *> &group);
-    int groupWidth(const QVector<QPushButton *> &group) const;
+    void add(QPushButton *button, QList<QPushButton *> &group);
+    int groupWidth(const QList<QPushButton *> &group) const;
     int leftWidth() const;
     int behindLeft() const;
     bool haveWordsRoom() const;
@@ -47,11 +47,11 @@ private:
     int rowHeight() const;
     void holdWhatHasNoRoom();
     void openMore();
-    void place(const QVector<QPushButton *> &group, int x, int y) const;
+    void place(const QList<QPushButton *> &group, int x, int y) const;
 
-    QVector<QPushButton *> m_left;
-    QVector<QPushButton *> m_right;
-    QVector<QPushButton *> m_held; ///< by "More"
+    QList<QPushButton *> m_left;
+    QList<QPushButton *> m_right;
+    QList<QPushButton *> m_held; ///< by "More"
     QLabel *m_words;
     LowWindow *m_low;
     QPushButton *m_more;
