@@ -12,6 +12,7 @@
 #include <QListView>
 #include <QLocale>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
@@ -81,10 +82,13 @@ private:
         return needed;
     }
     static int lineHeight() { return QFontMetrics(TypeScale::body()).height() + 3; }
-    /// Two where a full week would not fit otherwise.
+    /// Two where a full week would not fit otherwise; the same with and without the scroll bar, which comes
+    /// after the days are measured.
     int columnCount() const
     {
-        const bool isWide = m_view->viewport()->width() - headWidth - 2 * padding >= 2 * narrowestColumn;
+        const int scrollBar = m_view->verticalScrollBar()->sizeHint().width();
+        const int width = m_view->contentsRect().width() - scrollBar - headWidth - 2 * padding;
+        const bool isWide = width >= 2 * narrowestColumn;
         return isWide && neededHeight(1) > m_view->viewport()->height() ? 2 : 1;
     }
 
@@ -173,6 +177,13 @@ void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
     m_model->setDays({start, daysPerWeek, 1, start, end}, m_files.days(start, end), today);
     m_title->setTitle(Dates::range(start, end, m_style), shortRange(start, end, m_style));
     m_view->setCurrentIndex(m_model->indexOf(date));
+}
+
+/// The list measures its days anew for another height alone, and late.
+void WeekView::resizeEvent(QResizeEvent *event)
+{
+    DaysView::resizeEvent(event);
+    m_view->doItemsLayout();
 }
 
 QDate WeekView::date() const

@@ -24,6 +24,9 @@ public:
     Page page(QDate date, const CalendarOptions &options, const PageContext &context) const override;
     QString printName(QDate date) const override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     const PlannerFiles &m_files;
     DateStyle m_style;
