@@ -17,7 +17,7 @@ class NarrowToolbar final : public QObject
     Q_OBJECT
 public:
     /// Windows from this width on have room for all of it.
-    static constexpr int wideFrom = 1200;
+    static constexpr int wideFrom = 1280;
 
     explicit NarrowToolbar(QWidget *window);
 

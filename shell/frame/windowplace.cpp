@@ -107,10 +107,14 @@ void WindowPlace::fitScreen(QWidget &window)
     window.setMinimumSize(window.minimumSize().boundedTo(most));
     window.resize(window.size().boundedTo(most));
     const QRect outside = window.geometry().marginsAdded(frame);
-    window.move(
+    const QPoint place(
         std::clamp(outside.x(), screen.left(), std::max(screen.left(), screen.right() + 1 - outside.width())),
         std::clamp(outside.y(), screen.top(),
                    std::max(screen.top(), screen.bottom() + 1 - outside.height())));
+    // Before the frame is there, a move to where it stands would shift a window by its frame, each time it
+    // opens.
+    if (place != outside.topLeft())
+        window.move(place);
 }
 
 void WindowPlace::keepOnScreen(QWidget &window)
