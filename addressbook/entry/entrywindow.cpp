@@ -38,11 +38,6 @@ WindowTraits traits()
             HelpContext::AddressBook};
 }
 
-int listWidth(QSize window)
-{
-    return window.width() < 1200 ? 212 : 272;
-}
-
 } // namespace
 
 ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeModem)
@@ -57,7 +52,8 @@ ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeM
     , m_picturePanel(new PicturePanel(program, PicturePanel::systemDrives, this))
     , m_printOptions(new PrintOptions(program, m_book, *m_list, *m_editor, this))
 {
-    setWork(new SideSplitter(u"leftPaneSplitter"_s, m_list, makeWorkPanel(), listWidth));
+    setWork(new SideSplitter(u"leftPaneSplitter"_s, m_list, makeWorkPanel(),
+                             [](QSize window) { return window.width() < 1200 ? 212 : 272; }));
     makeMenus();
     connectParts();
     setViews(m_views);
@@ -242,9 +238,11 @@ void ADDBKVIEW::openBook(int row)
 
 void ADDBKVIEW::showLine(int row)
 {
-    activity().say(std::exchange(m_toSay, {}));
     const QString line = m_list->names().line(row);
+    activity().say({});
     m_editor->show(m_book.open(line), line);
+    if (!m_toSay.isEmpty()) // rather than what the editor says of the picture
+        activity().say(std::exchange(m_toSay, {}));
 }
 
 bool ADDBKVIEW::showRecord(int record)
