@@ -42,6 +42,12 @@ QString without(const QString &foreign, QString text)
                              : text.removeIf([&](QChar character) { return foreign.contains(character); });
 }
 
+bool bringsText(QEvent::Type type)
+{
+    return type == QEvent::KeyPress || type == QEvent::MouseButtonRelease || type == QEvent::ContextMenu ||
+           type == QEvent::DragEnter || type == QEvent::DragMove || type == QEvent::Drop;
+}
+
 /// What is dragged stays where it comes from, since the box may not take all of it.
 void copyInstead(QDropEvent &event)
 {
@@ -69,7 +75,8 @@ PasteFilter::PasteFilter(QLineEdit *box, Characters characters)
 
 bool PasteFilter::eventFilter(QObject *, QEvent *event)
 {
-    if (m_box->isReadOnly())
+    // The last events reach what is no longer a box.
+    if (!bringsText(event->type()) || m_box->isReadOnly())
         return false;
     switch (event->type()) {
     case QEvent::KeyPress: {
