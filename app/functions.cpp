@@ -33,6 +33,18 @@ QList<DayNote> addressNotes(const Program &program, QDate from, QDate to)
     return AddressNews::dayNotes(program.folder, program.state.dateStyle, from, to, program.clock.today());
 }
 
+void showAddress(QWidget &window, const Place &place)
+{
+    if (auto *book = qobject_cast<ADDBKVIEW *>(&window))
+        book->showRecord(place.record);
+}
+
+void showInPlanner(QWidget &window, const Place &place)
+{
+    if (auto *planner = qobject_cast<Zcalandar1 *>(&window))
+        planner->showPlace(place);
+}
+
 std::optional<LiveLine> plannerNews(const Program &program, QDate)
 {
     return PlannerNews::liveLine(program.folder, program.clock.now());
@@ -61,12 +73,19 @@ std::optional<LiveLine> passwordNews(const Program &program, QDate)
 
 void addFunctions(FunctionCatalogue &functions, const Clock &clock)
 {
-    functions.add(Function::AddressBook,
-                  {makeWindow<ADDBKVIEW>, addressNews, AddressBook::fileNames(), addressNotes, false});
-    functions.add(Function::AddressViewer, {makeWindow<ADDBKDISPLAY>, {}, {}, {}, false});
+    functions.add(Function::AddressBook, {.open = makeWindow<ADDBKVIEW>,
+                                          .liveLine = addressNews,
+                                          .liveFiles = AddressBook::fileNames(),
+                                          .dayNotes = addressNotes,
+                                          .show = showAddress});
+    functions.add(Function::AddressViewer, {.open = makeWindow<ADDBKDISPLAY>});
     const int year = clock.today().year();
     const QStringList yearFiles{DayRecord::yearFileName(year), DayRecord::yearFileName(year + 1)};
-    functions.add(Function::Planner, {makeWindow<Zcalandar1>, plannerNews, yearFiles, {}, true});
+    functions.add(Function::Planner, {.open = makeWindow<Zcalandar1>,
+                                      .liveLine = plannerNews,
+                                      .liveFiles = yearFiles,
+                                      .followsClock = true,
+                                      .show = showInPlanner});
     functions.add(Function::PasswordControl,
-                  {makeWindow<Form31>, passwordNews, {u"PCtrl1.Fil"_s}, {}, false});
+                  {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

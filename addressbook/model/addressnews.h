@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/daynote.h"
 #include "shell/core/liveline.h"
 #include "shell/core/programstate.h"
 

@@ -212,7 +212,8 @@ void Zcalandar1::connectViews()
 {
     connect(m_views, &PlannerViews::dayOpened, this, &Zcalandar1::goTo);
     connect(m_views, &PlannerViews::said, &activity(), &ActivityBar::say);
-    connect(m_hits, &SearchPanel::hitOpened, this, &Zcalandar1::openHit);
+    connect(m_hits, &SearchPanel::hitOpened, this,
+            [this](QDate date, int row) { showPlace({.date = date, .row = row}); });
     connect(m_optionsPanel, &CalendarOptionsPanel::accepted, this, &Zcalandar1::takeOptions);
     // A month and the recurrence panel need the whole width, and have calendars of their own.
     connect(&m_views->stack(), &WorkViews::changed, this,
@@ -321,11 +322,11 @@ void Zcalandar1::search(const QString &text)
     showView(m_hits);
 }
 
-void Zcalandar1::openHit(QDate date, int row)
+void Zcalandar1::showPlace(const Place &place)
 {
-    goTo(date);
-    if (m_day->date() == date)
-        m_day->focusRow(row);
+    goTo(place.date);
+    if (place.row >= 0 && m_day->date() == place.date)
+        m_day->focusRow(place.row);
 }
 
 void Zcalandar1::showRecurrence()

@@ -25,6 +25,9 @@ public:
 
     bool isModified() const override { return m_day->isModified(); }
 
+    /// Shows the place's date, and its row when it names one, after asking about unsaved changes.
+    void showPlace(const Place &place);
+
 protected:
     [[nodiscard]] bool save() override { return m_day->save(); }
     void drop() override { m_day->reload(); }
@@ -52,7 +55,6 @@ private:
     void takeOptions();
     void startSearch();
     void search(const QString &text);
-    void openHit(QDate date, int row);
 
     void showRecurrence();
     void importToDoItems();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QDate>
 #include <QString>
 
 /// The one line of news that a function shows on its card on the main menu.
@@ -17,13 +16,4 @@ struct LiveLine {
     qsizetype nameLength = 0;
 
     bool operator==(const LiveLine &) const = default;
-};
-
-/// What a function has to say about one date, for the windows of other functions: "Anne Lind turns 48".
-struct DayNote {
-    QDate date;
-    QString text;
-    QString source; ///< the function it comes from: "Address Book"
-
-    bool operator==(const DayNote &) const = default;
 };

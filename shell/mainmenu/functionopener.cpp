@@ -65,19 +65,26 @@ void FunctionOpener::open(Function function) const
         open(function, FunctionFaces::of(function).area);
 }
 
-void FunctionOpener::open(Function function, int area) const
+void FunctionOpener::open(Function function, const Place &place) const
 {
-    openWhenAllowed(function, [this, area] { return m_program.gate.mayOpen(m_program, area, m_window); });
+    open(function, FunctionFaces::of(function).area, place);
 }
 
-void FunctionOpener::openWhenAllowed(Function function, const std::function<bool()> &mayOpen) const
+void FunctionOpener::open(Function function, int area, const Place &place) const
+{
+    openWhenAllowed(
+        function, [this, area] { return m_program.gate.mayOpen(m_program, area, m_window); }, place);
+}
+
+void FunctionOpener::openWhenAllowed(Function function, const std::function<bool()> &mayOpen,
+                                     const Place &place) const
 {
     if (!m_program.functions.has(function))
         return;
     const Loading loading(m_activity);
     m_activity.say({});
     if (mayOpen())
-        m_program.functions.open(function, m_program);
+        m_program.functions.open(function, m_program, place);
 }
 
 void FunctionOpener::press(const TopButtons::TopButton &button) const

@@ -18,13 +18,16 @@ public:
 
     /// As the function's menu entry and its card do.
     void open(Function function) const;
+    /// The same, and shows `place` there.
+    void open(Function function, const Place &place) const;
 
     /// What a click on the button does.
     void press(const TopButtons::TopButton &button) const;
 
 private:
-    void open(Function function, int area) const;
-    void openWhenAllowed(Function function, const std::function<bool()> &mayOpen) const;
+    void open(Function function, int area, const Place &place = {}) const;
+    void openWhenAllowed(Function function, const std::function<bool()> &mayOpen,
+                         const Place &place = {}) const;
     void openForeign(int area) const;
     void showListFile(const TopButtons::ShowsListFile &button) const;
 

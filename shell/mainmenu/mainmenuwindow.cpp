@@ -220,6 +220,8 @@ void Startfrm::listen()
     });
     connect(m_toolBars, &MenuToolBars::rearranged, this, &Startfrm::setUp);
     connect(&m_program.changes, &ProgramSignals::familyNameChanged, this, &Startfrm::showMainMenu);
+    connect(&m_program.changes, &ProgramSignals::placeRequested, this,
+            [this](Function function, const Place &place) { m_opener.open(function, place); });
     connect(&m_program.changes, &ProgramSignals::mainMenuRequested, this, [this] { bringToFront(*this); });
     connect(&m_program.changes, &ProgramSignals::settingNotSaved, this, [this] { tellUnless(false); });
     connect(m_dayWatch, &QTimer::timeout, this, [this] {

@@ -45,6 +45,15 @@ QWidget *FunctionCatalogue::open(Function function, Program &program)
     return window;
 }
 
+QWidget *FunctionCatalogue::open(Function function, Program &program, const Place &place)
+{
+    QWidget *window = open(function, program);
+    const FunctionEntry *found = entry(function);
+    if (window && found->show && !place.isNone())
+        found->show(*window, place);
+    return window;
+}
+
 QList<QWidget *> FunctionCatalogue::openWindows() const
 {
     QList<QWidget *> open;

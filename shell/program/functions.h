@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/daynote.h"
 #include "shell/core/liveline.h"
+#include "shell/core/searchsource.h"
 
 #include <QPointer>
 #include <QString>
@@ -9,6 +11,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 
 class DataFolder;
@@ -33,19 +36,24 @@ enum class Function {
     AddressViewer
 };
 
-/// How a function joins the program: what the main menu needs to know of it, and nothing more.
+/// How a function joins the program: the one place where it tells the household what it has. All of it comes
+/// from the function's model half. Nothing is asked of a function while any way into it is guarded, nor
+/// before the asking window has been painted.
 struct FunctionEntry {
     /// Makes the function's window. It deletes itself when it is closed.
-    std::function<QWidget *(Program &)> open;
+    std::function<QWidget *(Program &)> open{};
     /// Its news of the day, or nothing; empty for a function without any. Reads the function's files.
-    std::function<std::optional<LiveLine>(const Program &, QDate today)> liveLine;
+    std::function<std::optional<LiveLine>(const Program &, QDate today)> liveLine{};
     /// The files that the news comes from: it is read again only when one of them has changed.
-    QStringList liveFiles;
+    QStringList liveFiles{};
     /// What the function has for the dates `from` to `to`, in date order; empty for a function without any.
-    /// It is not asked while any way into the function is guarded.
-    std::function<QList<DayNote>(const Program &, QDate from, QDate to)> dayNotes;
+    std::function<QList<DayNote>(const Program &, QDate from, QDate to)> dayNotes{};
     /// Whether the news change in the course of a day without any file having changed.
     bool followsClock = false;
+    /// What the search over everything looks through; empty for a function without anything to find.
+    std::function<std::unique_ptr<SearchSource>(const Program &)> search{};
+    /// Shows a place in the function's own window; empty for a function without places.
+    std::function<void(QWidget &window, const Place &)> show{};
 };
 
 /// Shows `window`, as it was before it was minimised, in front of the others.
@@ -63,6 +71,8 @@ public:
 
     /// Opens the function's window, or raises the one that is open already. Null when it is not built in.
     QWidget *open(Function function, Program &program);
+    /// The same, and shows `place` there. No guard is asked here: `ProgramSignals::placeRequested` does.
+    QWidget *open(Function function, Program &program, const Place &place);
 
     /// The windows that are open now, in no particular order.
     QList<QWidget *> openWindows() const;

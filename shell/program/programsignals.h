@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/program/functions.h"
+
 #include <QObject>
 
 /// News that every open window should hear: another one changed what they share.
@@ -21,6 +23,8 @@ signals:
     void settingNotSaved();
     /// The window asks for the manual's page of this context.
     void helpRequested(int context);
+    /// A window wants a place of another function shown, behind that function's guard.
+    void placeRequested(Function function, const Place &place);
     /// The main window is to come to the front.
     void mainMenuRequested();
 };

@@ -130,7 +130,7 @@ private:
         return set;
     }
 
-    const TestFolder m_test;
+    TestFolder m_test;
 };
 
 QTEST_APPLESS_MAIN(TestChangeSet)
