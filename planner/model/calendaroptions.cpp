@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/calendaroptions.h"
 
+#include "shell/core/dates.h"
 #include "shell/core/settingskeys.h"
 
 namespace {
 
 constexpr NumberSetting monthsSetting{SettingsKeys::calendarFile, 14};
 constexpr NumberSetting weekNumbersSetting = SettingsKeys::calendarWeekNumbers;
-constexpr NumberSetting weekStartSetting{SettingsKeys::calendarFile, 16};
+constexpr NumberSetting weekStartSetting = SettingsKeys::calendarWeekStart;
 constexpr NumberSetting todaySetting{SettingsKeys::calendarFile, 17};
 
 int choice(const Settings &settings, const NumberSetting &setting, int first, int last)
@@ -36,5 +37,5 @@ bool CalendarOptions::write(Settings &settings) const
 
 Qt::DayOfWeek CalendarOptions::firstDay() const
 {
-    return weekStart == 1 ? Qt::Sunday : Qt::DayOfWeek(weekStart - 1);
+    return Dates::weekStart(weekStart);
 }

@@ -4,6 +4,7 @@
 #include "shell/controls/datebox.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/clock.h"
+#include "shell/core/dates.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
 
@@ -111,6 +112,7 @@ void DatePicker::open(DateBox *box)
                                              SettingsKeys::calendarWeekNumbersHidden
                                          ? QCalendarWidget::NoVerticalHeader
                                          : QCalendarWidget::ISOWeekNumbers);
+    m_month->setFirstDayOfWeek(Dates::weekStart(m_settings.number(SettingsKeys::calendarWeekStart)));
     showDate(box->date().value_or(m_clock.today()));
     if (box->isLocked())
         emit box->lockedDateShown();

@@ -186,6 +186,11 @@ QString Dates::range(QDate from, QDate to, DateStyle style)
     return english(from, sameMonth ? u"d" : sameYear ? u"d MMMM" : u"d MMMM yyyy") + u" to "_s + end;
 }
 
+Qt::DayOfWeek Dates::weekStart(int number)
+{
+    return number >= 2 && number <= 7 ? Qt::DayOfWeek(number - 1) : Qt::Sunday;
+}
+
 QString Dates::nearDay(QDate date, QDate today)
 {
     if (!date.isValid() || !today.isValid())

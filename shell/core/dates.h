@@ -55,6 +55,10 @@ QString monthYear(QDate date);
 /// differ. A single day is its `monthDayYear`.
 QString range(QDate from, QDate to, DateStyle style);
 
+/// The day that weeks begin with by the number that the settings have for it: 1 Sunday ... 7 Saturday;
+/// anything else is Sunday.
+Qt::DayOfWeek weekStart(int number);
+
 /// "today", "tomorrow", or "on Tuesday" within the six days after `today`; empty for any other date.
 QString nearDay(QDate date, QDate today);
 

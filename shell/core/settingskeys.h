@@ -42,6 +42,8 @@ inline constexpr NumberSetting plannerPlacement{colorFile3, 58};
 /// Whether calendars number the weeks: 0 or empty yes, 1 no.
 inline constexpr NumberSetting calendarWeekNumbers{calendarFile, 15};
 inline constexpr int calendarWeekNumbersHidden = 1;
+/// The day that a calendar's weeks begin with: 1 Sunday ... 7 Saturday; anything else is Sunday.
+inline constexpr NumberSetting calendarWeekStart{calendarFile, 16};
 
 inline constexpr TextSetting mainMenuColor{colorFile1, 49};
 inline constexpr TextSetting addressEntryColor{colorFile3, 11}; ///< the photo album's, too

@@ -272,6 +272,22 @@ double contrast(const QColor &one, const QColor &other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+QColor quietOn(const QColor &background, const QColor &ink)
+{
+    constexpr double leastContrast = 5;
+    constexpr int mostSteps = 20;
+    QColor quiet = ink;
+    for (int step = 1; step <= mostSteps; ++step) {
+        const auto nearer = [step](int from, int to) { return from + (to - from) * step / 40; };
+        const QColor next(nearer(ink.red(), background.red()), nearer(ink.green(), background.green()),
+                          nearer(ink.blue(), background.blue()));
+        if (contrast(next, background) < leastContrast)
+            break;
+        quiet = next;
+    }
+    return quiet;
+}
+
 QColor inkOn(const QColor &background)
 {
     const QColor black(0, 0, 0), white(255, 255, 255);

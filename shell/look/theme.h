@@ -62,5 +62,8 @@ QFont date();        ///< 22 pt semibold: the date on the main menu
 
 /// Contrast of two opaque colours after the WCAG formula: 1 to 21.
 double contrast(const QColor &one, const QColor &other);
+/// `ink` drawn nearer to `background`, to be quiet on it, as far as it stays well readable (5:1); `ink`
+/// itself where it is not.
+QColor quietOn(const QColor &background, const QColor &ink);
 /// Pure black or white, whichever contrasts more with `background`.
 QColor inkOn(const QColor &background);

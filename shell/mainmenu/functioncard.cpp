@@ -185,7 +185,10 @@ QColor FunctionCard::fill() const
 /// Of a disabled card it is quiet, and not the ink of disabled controls, which is too faint over a picture.
 QColor FunctionCard::titleInk() const
 {
-    return isEnabled() || hasUserColor() ? palette().color(QPalette::WindowText) : Theme::of(this).quiet;
+    const QColor ink = palette().color(QPalette::WindowText);
+    if (isEnabled())
+        return ink;
+    return hasUserColor() ? quietOn(palette().color(QPalette::Window), ink) : Theme::of(this).quiet;
 }
 
 QColor FunctionCard::lineInk(LiveLine::Urgency urgency) const

@@ -57,9 +57,9 @@ bool FunctionFace::isGuarded(const ProtectedAreas &areas) const
 QString FunctionFace::guardedText(const ProtectedAreas &areas) const
 {
     if (!areas.isProtected(area))
-        return u"Protected; open from this card"_s;
+        return u"Protected; this card opens"_s;
     if (buttonArea != Area::None && !areas.isProtected(buttonArea))
-        return u"Protected; open from the toolbar"_s;
+        return u"Protected; toolbar opens"_s;
     return u"Protected"_s;
 }
 

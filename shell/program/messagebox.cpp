@@ -149,6 +149,7 @@ MessageBox::MessageBox(const Message &message, QWidget *parent)
     : AskingBox(message.title, message.text, message.icon, parent)
     , m_answers(message.answers)
     , m_answer(message.answers.contains(Answer::Cancel) ? Answer::Cancel : Answer::Ok)
+    , m_isNoSafe(message.preselected == Answer::No)
 {
     setObjectName("messageBox"_L1);
     for (const Answer answer : message.answers) {
@@ -172,6 +173,8 @@ void MessageBox::reject()
         take(Answer::Cancel);
     else if (m_answers.size() < 2)
         take(m_answers.value(0, Answer::Ok));
+    else if (m_isNoSafe)
+        take(Answer::No);
 }
 
 void MessageBox::closeEvent(QCloseEvent *event)

@@ -54,6 +54,7 @@ private:
 
     QVector<Answer> m_answers;
     Answer m_answer;
+    bool m_isNoSafe; ///< No is preselected: Esc and the title bar's button answer it
 };
 
 /// A one-line question. The line takes what the files can hold and nothing else.

@@ -168,15 +168,19 @@ private slots:
         QVERIFY(!m_picker->geometry().intersects(m_box->geometry().translated(form.pos())));
     }
 
-    void numbersTheWeeksAsTheHouseholdChose()
+    void showsWeeksAsTheHouseholdChose()
     {
         m_box->setFocus(Qt::TabFocusReason);
+        QCOMPARE(m_month->firstDayOfWeek(), Qt::Sunday);
         QCOMPARE(m_month->verticalHeaderFormat(), QCalendarWidget::ISOWeekNumbers);
         leave();
         QVERIFY(m_test.settings.setNumber(SettingsKeys::calendarWeekNumbers, 1));
+        QVERIFY(m_test.settings.setNumber(SettingsKeys::calendarWeekStart, 2));
         m_box->setFocus(Qt::TabFocusReason);
+        QCOMPARE(m_month->firstDayOfWeek(), Qt::Monday);
         QCOMPARE(m_month->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
         QVERIFY(m_test.settings.setNumber(SettingsKeys::calendarWeekNumbers, 0));
+        QVERIFY(m_test.settings.setNumber(SettingsKeys::calendarWeekStart, 1));
     }
 
 private:

@@ -66,6 +66,7 @@ private slots:
                     const QColor panel(red, green, blue);
                     // The worst grey of all leaves black and white at 4.58, which is all that there is.
                     QVERIFY2(contrast(inkOn(panel), panel) >= 4.58, qPrintable(panel.name()));
+                    QVERIFY2(contrast(quietOn(panel, inkOn(panel)), panel) >= 4.58, qPrintable(panel.name()));
                 }
     }
 

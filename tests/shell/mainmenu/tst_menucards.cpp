@@ -91,8 +91,8 @@ private slots:
     {
         rows<QList<int>, QString>({
             {"both ways", {Area::AddressBook, Area::AddressBookButton}, u"Protected"_s},
-            {"card", {Area::AddressBook}, u"Protected; open from the toolbar"_s},
-            {"button", {Area::AddressBookButton}, u"Protected; open from this card"_s},
+            {"card", {Area::AddressBook}, u"Protected; toolbar opens"_s},
+            {"button", {Area::AddressBookButton}, u"Protected; this card opens"_s},
         });
     }
 

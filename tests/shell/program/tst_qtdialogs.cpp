@@ -36,6 +36,14 @@ private slots:
         QTRY_VERIFY(m_window->isActiveWindow());
     }
 
+    void takesEscapeForASafeNo()
+    {
+        whenAsked([](QWidget &box) { QTest::keyClick(&box, Qt::Key_Escape); });
+        const Message question{
+            u"Delete"_s, u"Really?"_s, Message::Warning, {Answer::Yes, Answer::No}, Answer::No};
+        QCOMPARE(m_dialogs.ask(m_window.get(), question), Answer::No);
+    }
+
     void tellsAnEmptyInputFromCancel()
     {
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
