@@ -24,6 +24,9 @@ constexpr int twoColumnsBelow = 720;
 constexpr int threeColumnsBelow = 961;
 constexpr int roomyWidth = 1200;
 constexpr qreal smallestTitle = 10.5;
+constexpr int narrowestTop = 260;
+constexpr int widestTop = 420;
+constexpr int topGap = 24;
 
 } // namespace
 
@@ -37,6 +40,7 @@ struct CardDesk::Measures {
     int top;
     QRect date;
     QRect sentence;
+    QRect topWidget;
     int cardsTop;
     int height;
 };
@@ -106,6 +110,19 @@ QList<QWidget *> CardDesk::panels() const
     return {m_cards.begin(), m_cards.end()};
 }
 
+void CardDesk::setTopWidget(QWidget *widget)
+{
+    m_top = widget;
+    m_top->setParent(this);
+    m_top->show();
+    for (QWidget *before = m_top; QWidget * card : m_cards) {
+        setTabOrder(before, card);
+        before = card;
+    }
+    updateGeometry();
+    place();
+}
+
 void CardDesk::setHeadInk(const QColor &ink, bool plate)
 {
     for (QLabel *label : {m_date, m_sentence}) {
@@ -156,17 +173,38 @@ CardDesk::Measures CardDesk::measuresFor(int width) const
     m.side = (width - block) / 2;
     m.cardHeight = FunctionCard::fullHeight() - 2 * FunctionCard::margin;
     m.top = roomy ? 28 : 20;
-
-    const int dateHeight = QFontMetrics(m_date->font()).height();
-    m.date = QRect(m.side, m.top, block, dateHeight);
-    const QRect bounds = QFontMetrics(m_sentence->font())
-                             .boundingRect(QRect(0, 0, block, 1000), Qt::TextWordWrap, m_sentence->text());
-    const int sentenceHeight = std::max(bounds.height(), QFontMetrics(m_sentence->font()).height());
-    m.sentence = QRect(m.side, m.date.bottom() + 3, block, sentenceHeight + 2);
-    m.cardsTop = m.sentence.bottom() + (roomy ? 18 : 14);
+    measureHead(m);
+    m.cardsTop += roomy ? 18 : 14;
     const int rows = (int(m_cards.size()) + m.columns - 1) / m.columns;
     m.height = m.cardsTop + rows * m.cardHeight + (rows - 1) * m.gap + 20;
     return m;
+}
+
+/// Date, sentence and what stands at the top. The cards may begin right below it.
+void CardDesk::measureHead(Measures &m) const
+{
+    const int block = m.columns * m.cardWidth + (m.columns - 1) * m.gap;
+    const QFontMetrics dates(m_date->font());
+    const QFontMetrics sentences(m_sentence->font());
+    const int beside = block - dates.horizontalAdvance(m_date->text()) - topGap;
+    const bool isBeside = m_top && beside >= narrowestTop;
+    const int topWidth = std::min(isBeside ? beside : block, widestTop);
+    const int words = isBeside ? block - topWidth - topGap : block;
+    m.date = QRect(m.side, m.top, words, dates.height());
+    const QRect bounds =
+        sentences.boundingRect(QRect(0, 0, words, 1000), Qt::TextWordWrap, m_sentence->text());
+    m.sentence = QRect(m.side, m.date.bottom() + 3, words, std::max(bounds.height(), sentences.height()) + 2);
+    m.cardsTop = m.sentence.bottom();
+    if (!m_top)
+        return;
+    const int height = m_top->sizeHint().height();
+    if (isBeside) {
+        m.topWidget = QRect(m.side + block - topWidth, m.date.center().y() - height / 2, topWidth, height);
+        m.cardsTop = std::max(m.cardsTop, m.topWidget.bottom());
+    } else {
+        m.topWidget = QRect(m.side, m.cardsTop + 10, topWidth, height);
+        m.cardsTop = m.topWidget.bottom();
+    }
 }
 
 int CardDesk::heightForWidth(int width) const
@@ -194,6 +232,8 @@ void CardDesk::place()
     const Measures m = measuresFor(width());
     m_date->setGeometry(m.date);
     m_sentence->setGeometry(m.sentence);
+    if (m_top)
+        m_top->setGeometry(m.topWidget);
     const QFont titles = titleFontFor(m.cardWidth);
     for (std::size_t i = 0; i < m_cards.size(); ++i) {
         const int column = int(i) % m.columns;

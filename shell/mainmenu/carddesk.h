@@ -26,6 +26,10 @@ public:
     /// The cards take the user's panel colour as panels do.
     QList<QWidget *> panels() const;
 
+    /// Gives `widget` (a search box, say) its place at the top: beside date and sentence, or between them and
+    /// the cards where that is too narrow. The Tab key comes to it before the cards.
+    void setTopWidget(QWidget *widget);
+
     /// The ink of date and sentence, by what lies under them; with `plate` they get a ground of their own.
     void setHeadInk(const QColor &ink, bool plate);
     /// The place of date and sentence in this widget.
@@ -52,12 +56,14 @@ private:
 
     static int columnsFor(int width);
     Measures measuresFor(int width) const;
+    void measureHead(Measures &m) const;
     void place();
     QFont titleFontFor(int cardWidth) const;
     FunctionCard *card(Function function) const;
 
     QLabel *m_date;
     QLabel *m_sentence;
+    QWidget *m_top = nullptr;
     std::vector<FunctionCard *> m_cards;
     mutable QFont m_titles; ///< as measured for a card of the width `m_titlesFor`
     mutable int m_titlesFor = -1;

@@ -63,6 +63,11 @@ void MenuPicture::showNews(const MenuNews &news)
         suitHeadInk();
 }
 
+void MenuPicture::setTopWidget(QWidget *widget)
+{
+    m_desk->setTopWidget(widget);
+}
+
 void MenuPicture::setPicture(const QString &path)
 {
     m_backdrop.setFile(path);

@@ -25,6 +25,9 @@ public:
     void setDate(const QString &date);
     void showNews(const MenuNews &news);
 
+    /// A widget at the top of the main menu, above the cards; see `CardDesk::setTopWidget`.
+    void setTopWidget(QWidget *widget);
+
     /// Shows the picture of this file, read when it is first painted; an empty path is the plain ground.
     void setPicture(const QString &path);
 

@@ -5,9 +5,12 @@
 #include "shell/frame/panelcolors.h"
 #include "shell/mainmenu/carddesk.h"
 #include "shell/mainmenu/functioncard.h"
+#include "shell/mainmenu/menupicture.h"
 #include "shell/program/functionfaces.h"
 
 #include <QFile>
+#include <QLabel>
+#include <QLineEdit>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -157,6 +160,22 @@ private slots:
         }
         QVERIFY2(desk.rect().contains(all), "no card is cut");
         QVERIFY(std::abs(all.center().x() - desk.rect().center().x()) <= 1);
+    }
+
+    void hasRoomForAWidgetAtTheTop()
+    {
+        addFunction(Function::AddressBook);
+        show();
+        auto *box = new QLineEdit;
+        m_window->findChild<MenuPicture *>()->setTopWidget(box);
+        const auto *date = find<QLabel>("dateLabel");
+        const auto *first = find<FunctionCard>("card_addressBook");
+        m_window->resize(1280, 800);
+        QVERIFY(box->geometry().left() > date->geometry().right());
+        QVERIFY(box->geometry().bottom() < first->y());
+        m_window->resize(640, 600);
+        QTRY_VERIFY(box->y() > find<QLabel>("sentenceLabel")->geometry().bottom());
+        QVERIFY(box->geometry().bottom() < first->y());
     }
 
     void takesTheUsersPanelColor()
