@@ -7,8 +7,10 @@
 #include "shell/controls/listpane.h"
 #include "shell/controls/searchbox.h"
 
+#include <QCheckBox>
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
+#include <QSettings>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -17,7 +19,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-EntryList::EntryList(Guard guard, QWidget *parent)
+namespace {
+constexpr QLatin1StringView orderKey("Windows/ADDBKVIEW/namesAToZ");
+} // namespace
+
+EntryList::EntryList(Guard guard, QSettings &desk, QWidget *parent)
     : QWidget(parent)
     , m_guard(std::move(guard))
     , m_names(new NameListModel(this))
@@ -25,20 +31,42 @@ EntryList::EntryList(Guard guard, QWidget *parent)
     , m_search(new SearchBox(u"Text2"_s, u"Search names"_s,
                              u"Type a part of a name and press Enter; F3 finds the next one"_s, this))
     , m_count(named(makeQuietLabel({}, this), u"Label1"_s))
+    , m_switch(named(new QCheckBox(u"A to &Z"_s, this), u"namesAToZ"_s))
 {
     m_view->setAccessibleName(u"Names"_s);
     m_view->setModel(m_names);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new ListPane(m_search, m_view, m_count, this));
-    setTabOrder(m_search, m_view);
+    auto *pane = new ListPane(m_search, m_view, m_count, this);
+    pane->addSwitch(m_switch);
+    layout->addWidget(pane);
+    makeSwitch(desk);
+    setTabOrder(m_search, m_switch);
+    setTabOrder(m_switch, m_view);
     setFocusProxy(m_view);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &EntryList::selectionMoved);
+    connect(m_view, &QListView::clicked, this, [this](const QModelIndex &at) { rowClicked(at.row()); });
     connect(m_search, &QLineEdit::returnPressed, this, &EntryList::search);
     new QShortcut(Qt::Key_F3, this, this, &EntryList::searchNext, Qt::WidgetWithChildrenShortcut);
     for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter})
         new QShortcut(enter, m_view, this, &EntryList::searchNext, Qt::WidgetShortcut);
+}
+
+void EntryList::makeSwitch(QSettings &desk)
+{
+    m_switch->setToolTip(u"Shows the names in the order of the alphabet"_s);
+    m_switch->setAccessibleName(u"Names from A to Z"_s);
+    const auto arrange = [this](bool aToZ) {
+        m_names->arrange(aToZ ? NameOrder::AToZ : NameOrder::Record);
+        m_view->scrollTo(m_view->currentIndex(), QAbstractItemView::PositionAtCenter);
+    };
+    m_switch->setChecked(desk.value(orderKey).toBool());
+    arrange(m_switch->isChecked());
+    connect(m_switch, &QCheckBox::toggled, this, [arrange, &desk](bool aToZ) {
+        arrange(aToZ);
+        desk.setValue(orderKey, aToZ);
+    });
 }
 
 const NameList &EntryList::names() const
@@ -87,6 +115,12 @@ void EntryList::showNone()
     m_shown = QPersistentModelIndex();
 }
 
+void EntryList::showNoneButSaved()
+{
+    m_shown = QPersistentModelIndex();
+    select(m_saved.row());
+}
+
 void EntryList::selectionMoved()
 {
     if (!m_isFollowing || m_isAsking || selectedRow() < 0)
@@ -108,7 +142,7 @@ bool EntryList::showSelected()
     const bool mayGo = m_guard.mayReplace();
     m_isAsking = false;
     if (!mayGo)
-        select(m_shown.row());
+        select(m_shown.isValid() ? m_shown.row() : m_saved.row());
     else
         showRow(wanted.isValid() ? wanted.row() : selectedRow());
     return mayGo;
@@ -131,10 +165,16 @@ void EntryList::replaceShown(const QString &line)
 {
     const QScopedValueRollback<bool> still(m_isFollowing, false);
     m_names->removeAt(m_shown.row());
-    m_names->append(line);
+    m_saved = m_shown = m_names->index(m_names->add(line));
     refreshCount();
-    select(names().count() - 1);
-    m_shown = m_names->index(names().count() - 1);
+    select(m_shown.row());
+}
+
+/// A row that is selected already, as the saved one is behind "Save & New Screen", is shown all the same.
+void EntryList::rowClicked(int row)
+{
+    if (row == selectedRow() && row != m_shown.row())
+        selectionMoved();
 }
 
 void EntryList::search()
@@ -151,8 +191,10 @@ void EntryList::search()
 /// After the selected line, and from the top again after the last match.
 void EntryList::searchNext()
 {
-    if (m_search->text().isEmpty())
+    if (m_search->text().isEmpty()) {
+        rowClicked(selectedRow());
         return;
+    }
     const QList<int> matches = names().matches(m_search->text());
     if (matches.isEmpty()) {
         search();

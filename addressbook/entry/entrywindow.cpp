@@ -43,7 +43,8 @@ WindowTraits traits()
 ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeModem)
     : FunctionWindow(program, traits(), parent)
     , m_book(program.folder)
-    , m_list(new EntryList({[this] { return isModified(); }, [this] { return mayReplaceShown(); }}, this))
+    , m_list(new EntryList({[this] { return isModified(); }, [this] { return mayReplaceShown(); }},
+                           program.store, this))
     , m_editor(new EntryEditor(program, this))
     , m_dialler(program, this, m_editor->form().dialingLabel(), std::move(makeModem))
     , m_views(new WorkViews(this))
@@ -335,6 +336,7 @@ void ADDBKVIEW::saveAndNew()
         return;
     const QString said = activity().message();
     startEntry();
+    m_list->showNoneButSaved();
     activity().say(said);
 }
 

@@ -6,15 +6,34 @@
 void NameListModel::setNames(NameList names)
 {
     beginResetModel();
+    const NameOrder order = m_names.order();
     m_names = std::move(names);
+    if (order != NameOrder::Record)
+        m_names.arrange(order);
     endResetModel();
 }
 
-void NameListModel::append(const QString &line)
+void NameListModel::arrange(NameOrder order)
 {
-    beginInsertRows({}, m_names.count(), m_names.count());
-    m_names.append(line);
+    if (order == m_names.order())
+        return;
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const std::vector<int> isAt = m_names.arrange(order);
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    for (const QModelIndex &kept : before)
+        after.append(index(isAt[std::size_t(kept.row())]));
+    changePersistentIndexList(before, after);
+    emit layoutChanged({}, VerticalSortHint);
+}
+
+int NameListModel::add(const QString &line)
+{
+    const int row = m_names.placeFor(line);
+    beginInsertRows({}, row, row);
+    m_names.insert(row, line);
     endInsertRows();
+    return row;
 }
 
 void NameListModel::removeAt(int position)

@@ -15,9 +15,13 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     const NameList &names() const { return m_names; }
+    /// Takes the names in the order that the list has.
     void setNames(NameList names);
+    /// The rows that are selected stay so, wherever they stand now.
+    void arrange(NameOrder order);
 
-    void append(const QString &line);
+    /// Adds `line` in its place and returns the row.
+    int add(const QString &line);
     void removeAt(int position);
 
     int rowCount(const QModelIndex &parent = {}) const override;

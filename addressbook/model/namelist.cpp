@@ -11,6 +11,28 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// A name as a telephone book files it. What follows the last name weighs less than any letter of it, so that
+/// "Lind, Zoe" comes before "Lind-Berg, Anne".
+struct Filed {
+    explicit Filed(QByteArrayView line)
+        : name(IndexLine::name(line))
+        , lastName(name.first(name.contains(',') ? name.indexOf(',') : name.size()))
+    {}
+
+    bool operator<(const Filed &other) const
+    {
+        const int lastNames = ByteCase::compare(lastName, other.lastName);
+        return lastNames == 0 ? ByteCase::compare(name, other.name) < 0 : lastNames < 0;
+    }
+
+    QByteArrayView name;
+    QByteArrayView lastName;
+};
+
+} // namespace
+
 NameList::NameList(QByteArray bytes)
     : m_bytes(std::move(bytes))
 {}
@@ -32,6 +54,34 @@ void NameList::squeeze()
     for (int position = 0; position < count(); ++position)
         lines.append(bytesAt(position));
     *this = std::move(lines);
+}
+
+std::vector<int> NameList::arrange(NameOrder order)
+{
+    m_order = order;
+    std::vector<Filed> filed;
+    filed.reserve(m_places.size());
+    for (const Place place : m_places)
+        filed.emplace_back(bytesOf(place));
+    std::vector<int> wasAt(m_places.size());
+    std::iota(wasAt.begin(), wasAt.end(), 0);
+    std::ranges::sort(wasAt, [&](int one, int other) {
+        const auto first = std::size_t(one), second = std::size_t(other);
+        if (order == NameOrder::AToZ && filed[first] < filed[second])
+            return true;
+        if (order == NameOrder::AToZ && filed[second] < filed[first])
+            return false;
+        return m_places[first].start < m_places[second].start;
+    });
+    std::vector<Place> places;
+    places.reserve(m_places.size());
+    std::vector<int> isAt(m_places.size());
+    for (const int position : wasAt) {
+        isAt[std::size_t(position)] = int(places.size());
+        places.push_back(m_places[std::size_t(position)]);
+    }
+    m_places = std::move(places);
+    return isAt;
 }
 
 QString NameList::line(int position) const
@@ -65,7 +115,7 @@ int NameList::find(QStringView text) const
     if (!folded)
         return -1;
     const int first = firstMatch(*folded, 0);
-    if (first < 0 || first >= searchResumesAt)
+    if (first < 0 || first >= searchResumesAt || m_order == NameOrder::AToZ)
         return first;
     // A further match would send the search back to where it resumed, and to itself again: it ends there.
     const int resumed = firstMatch(*folded, searchResumesAt);
@@ -103,6 +153,23 @@ void NameList::append(QByteArrayView line)
     m_bytes.append(line);
 }
 
+int NameList::placeFor(QStringView line) const
+{
+    if (m_order == NameOrder::Record)
+        return count();
+    const QByteArray bytes = AnsiText::encode(line);
+    const auto behind =
+        std::upper_bound(m_places.begin(), m_places.end(), Filed(bytes),
+                         [this](const Filed &one, Place other) { return one < Filed(bytesOf(other)); });
+    return int(behind - m_places.begin());
+}
+
+void NameList::insert(int position, QStringView line)
+{
+    append(line);
+    std::rotate(m_places.begin() + position, m_places.end() - 1, m_places.end());
+}
+
 void NameList::removeAt(int position)
 {
     if (position >= 0 && position < count())
@@ -129,6 +196,10 @@ QByteArrayView NameList::bytesAt(int position) const
 {
     if (position < 0 || position >= count())
         return {};
-    const Place place = m_places[std::size_t(position)];
+    return bytesOf(m_places[std::size_t(position)]);
+}
+
+QByteArrayView NameList::bytesOf(Place place) const
+{
     return {m_bytes.constData() + place.start, qsizetype(place.length)};
 }

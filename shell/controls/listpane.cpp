@@ -24,3 +24,8 @@ ListPane::ListPane(SearchBox *search, QAbstractItemView *view, QLabel *count, QW
     setMinimumWidth(leastWidth);
     setFocusProxy(view);
 }
+
+void ListPane::addSwitch(QWidget *control)
+{
+    static_cast<QVBoxLayout *>(layout())->insertWidget(1, control);
+}

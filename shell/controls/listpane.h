@@ -14,4 +14,7 @@ class ListPane final : public QWidget
     Q_OBJECT
 public:
     ListPane(SearchBox *search, QAbstractItemView *view, QLabel *count, QWidget *parent = nullptr);
+
+    /// A switch between the search and the list, for what the list shows.
+    void addSwitch(QWidget *control);
 };

@@ -121,12 +121,12 @@ private slots:
     {
         click("Command6");
         QStringList names;
-        for (const QWidget *at = find<QWidget>("Text2"); names.size() < 20; at = at->nextInFocusChain()) {
+        for (const QWidget *at = find<QWidget>("Text2"); names.size() < 21; at = at->nextInFocusChain()) {
             if (at->isVisible() && (at->focusPolicy() & Qt::TabFocus))
                 names.append(at->objectName());
         }
         QCOMPARE(names.join(u' '),
-                 u"Text2 List1 Text1_0 Text1_1 Text1_2 Text1_3 Text1_4 Text1_5 Text1_6 Text1_7 "
+                 u"Text2 namesAToZ List1 Text1_0 Text1_1 Text1_2 Text1_3 Text1_4 Text1_5 Text1_6 Text1_7 "
                  "Text1_8 Image2_0 Text1_9 Image2_1 Text1_10 Text1_11 Text1_12 Command2 Command7 "
                  "Command6"_s);
     }
@@ -148,6 +148,49 @@ private slots:
         QVERIFY(box(0)->hasFocus());
         QCOMPARE(m_window->mode(), ADDBKVIEW::Mode::Entry);
         QVERIFY(!m_window->isModified());
+    }
+
+    void selectsWhatWasSavedLast()
+    {
+        click("Command6");
+        for (const auto &name : {u"Novak"_s, u"Abel"_s}) {
+            type(0, name);
+            click("Command1");
+            QCOMPARE(selectedName(), name + u","_s);
+            QVERIFY(box(0)->text().isEmpty() && box(0)->hasFocus());
+        }
+        trigger("mOVS");
+        QCOMPARE(box(0)->text(), u"Abel"_s);
+        QVERIFY(box(0)->isLocked() && asked().isEmpty());
+        click("Command6");
+        type(0, u"Bauer"_s);
+        click("Command1");
+        clickRow(list()->currentIndex().row()); // which is selected already
+        QCOMPARE(box(0)->text(), u"Bauer"_s);
+        QCOMPARE(m_window->mode(), ADDBKVIEW::Mode::View);
+    }
+
+    void showsTheNamesFromAToZ()
+    {
+        QCOMPARE(lineAt(2).trimmed().section(u' ', 0, 1), u"Miller, Anne"_s);
+        select(2);
+        QTest::keyClick(find<QAbstractButton>("namesAToZ"), Qt::Key_Space);
+        QCOMPARE(selectedName(), u"Miller, Anne"_s); // wherever that is now
+        QVERIFY(list()->currentIndex().row() > 2);
+        show();
+        QVERIFY(find<QAbstractButton>("namesAToZ")->isChecked());
+        QCOMPARE(list()->currentIndex().row(), 0);
+        QCOMPARE(box(0)->text(), selectedName().section(u',', 0, 0));
+        select(7);
+        const QString name = selectedName();
+        click("Command4");
+        type(5, u"Lund"_s);
+        click("Command4");
+        QCOMPARE(list()->currentIndex().row(), 7); // a save leaves it where it is
+        QCOMPARE(selectedName(), name);
+        QTest::keyClick(find<QAbstractButton>("namesAToZ"), Qt::Key_Space);
+        QCOMPARE(list()->currentIndex().row(), 39);
+        QCOMPARE(selectedName(), name);
     }
 
     void refusesALastName_data()

@@ -102,6 +102,32 @@ private slots:
         QCOMPARE(list.matches(u"anne"), matches);
     }
 
+    void standsFromAToZ()
+    {
+        const QStringList byRecord{u"Lind-Berg, Anne"_s, u"Zoë, Bo"_s,     u"lind, Zoe"_s,
+                                   u"Ångström, Eva"_s,   u"Anders, Per"_s, u"Lind, Anne"_s};
+        NameList list = listOf(byRecord);
+        const auto lines = [&list] {
+            QStringList all;
+            for (int position = 0; position < list.count(); ++position)
+                all.append(list.line(position));
+            return all;
+        };
+        QCOMPARE(list.placeFor(u"Berg, Kai"), 6);
+        QCOMPARE(list.arrange(NameOrder::AToZ), std::vector<int>({4, 5, 3, 1, 0, 2}));
+        QCOMPARE(lines(), QStringList({u"Anders, Per"_s, u"Ångström, Eva"_s, u"Lind, Anne"_s, u"lind, Zoe"_s,
+                                       u"Lind-Berg, Anne"_s, u"Zoë, Bo"_s}));
+        QCOMPARE(list.find(u"anne"), 2);
+        QCOMPARE(list.placeFor(u"Lind, Anne"), 3); // behind its like
+        list.insert(list.placeFor(u"Berg, Kai"), u"Berg, Kai");
+        list.removeAt(0);
+        QCOMPARE(list.line(1), u"Berg, Kai"_s);
+        list.arrange(NameOrder::Record);
+        QStringList left = byRecord + QStringList{u"Berg, Kai"_s};
+        left.removeOne(u"Anders, Per"_s);
+        QCOMPARE(lines(), left);
+    }
+
     void listsWithinBytesItIsGiven()
     {
         NameList list("..Lind, Anne......Quill, David.."_ba + QByteArray(1000, '.'));
