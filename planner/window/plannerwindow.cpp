@@ -18,8 +18,9 @@
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
-#include "shell/frame/narrowtoolbar.h"
 #include "shell/frame/sidesplitter.h"
+#include "shell/frame/viewmarks.h"
+#include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 
 #include <QMenu>
@@ -53,7 +54,6 @@ Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
     , m_optionsPanel(new CalendarOptionsPanel)
     , m_splitter(new SideSplitter(u"leftPaneSplitter"_s, m_side, makeWorkPanel(),
                                   [this](QSize window) { return m_side->fitWindow(window); }))
-    , m_narrowToolbar(new NarrowToolbar(this))
 {
     setWork(m_splitter);
     setViews(&m_views->stack());
@@ -96,6 +96,9 @@ void Zcalandar1::makeCommands()
     addStandardTool(Standard::PanelColor);
     addStandardTool(Standard::Backup);
     addStandardTool(Standard::Help, u"mH_tool"_s);
+    // The fourteen rows of the day need the height that a second row of tools would take.
+    for (const char *name : {"mOC", "mEPaste_tool", "mUB", "mECopy", "mH_tool"})
+        toolbar().giveWay(findChild<QAction *>(QLatin1StringView(name)));
 }
 
 void Zcalandar1::addViewCommands(QMenu *menu)
@@ -108,7 +111,8 @@ void Zcalandar1::addViewCommands(QMenu *menu)
     };
     const auto whyNot = [this] { return whyNoStep(); };
     Commands &all = commands();
-    all.add(menu, u"mVDay"_s, u"&Day View"_s, [this] { showDay(); })->setShortcut(CommonKeys::views[0]);
+    QAction *day = all.add(
+        menu, u"mVDay"_s, u"&Day View"_s, [this] { showDay(); }, {}, CommonKeys::views[0]);
     QAction *week = all.add(
         menu, u"mVWeek"_s, u"&Week View"_s, [=, this] { look(m_views->week()); }, {}, CommonKeys::views[1]);
     QAction *month = all.add(
@@ -125,8 +129,14 @@ void Zcalandar1::addViewCommands(QMenu *menu)
         ->setShortcut(Qt::CTRL | Qt::Key_T);
     all.add(menu, u"mVGo"_s, u"&Go to Date"_s, [this] { m_day->askForDate(); })
         ->setShortcut(Qt::CTRL | Qt::Key_G);
+    all.tool(day, "day-view"_L1, u"Day"_s);
+    QAction *weekTool = all.tool(week, "week-view"_L1, u"Week"_s, u"mVWeek_tool"_s);
     all.tool(month, "month-view"_L1, u"Month"_s);
-    m_narrowToolbar->leaveOut(all.tool(week, "week-view"_L1, u"Week"_s, u"mVWeek_tool"_s));
+    all.separateTools();
+    auto *marks = new ViewMarks(&m_views->stack());
+    marks->add(m_day, {day});
+    marks->add(m_views->week(), {week, weekTool});
+    marks->add(m_views->month(), {month});
 }
 
 void Zcalandar1::addEditCommands(QMenu *menu)
@@ -145,15 +155,16 @@ void Zcalandar1::addEditCommands(QMenu *menu)
         menu, u"mEPaste"_s, u"&Paste Day"_s, [this] { m_day->paste(); }, whyNoPaste));
     menu->addSeparator();
     QAction *repeat = all.writing(all.add(
-        menu, u"mERec"_s, u"&Recurrence Option"_s, [this] { showRecurrence(); }, dayOnly,
-        Qt::CTRL | Qt::Key_R));
+        menu, u"mERec"_s, u"&Recurrence Option"_s, [this] { showRecurrence(); },
+        [this] { return whyNoStep(); }, Qt::CTRL | Qt::Key_R));
     menu->addSeparator();
-    all.add(menu, u"mEFind"_s, u"&Search All Years"_s, [this] { startSearch(); })
-        ->setShortcut(CommonKeys::search);
+    QAction *find = all.add(
+        menu, u"mEFind"_s, u"&Search All Years"_s, [this] { startSearch(); }, {}, CommonKeys::search);
     all.tool(repeat, "repeat"_L1, u"Repeat"_s);
+    all.tool(find, "search"_L1, u"Search"_s);
     all.separateTools();
-    m_narrowToolbar->shorten(all.tool(copyDay, "copy"_L1, u"Copy Day"_s), u"Copy"_s);
-    m_narrowToolbar->leaveOut(all.tool(paste, "edit"_L1, u"Paste Day"_s, u"mEPaste_tool"_s));
+    all.tool(copyDay, "copy"_L1, u"Copy Day"_s);
+    all.tool(paste, "edit"_L1, u"Paste Day"_s, u"mEPaste_tool"_s);
 }
 
 void Zcalandar1::addOptionCommands(QMenu *menu)
@@ -331,6 +342,8 @@ void Zcalandar1::showPlace(const Place &place)
 
 void Zcalandar1::showRecurrence()
 {
+    if (m_views->shownDays() && !openToRepeat())
+        return;
     Appointment appointment = m_day->currentAppointment();
     if (!appointment.isEmpty() && !mayReplaceDay())
         return;
@@ -343,6 +356,20 @@ void Zcalandar1::showRecurrence()
     }
     showView(m_recurrence);
     m_recurrence->open(appointment, m_day->date(), m_day->placement(), m_options);
+}
+
+/// Opens the day that a week or a month has in front; true when it is plain which entry is to be repeated.
+bool Zcalandar1::openToRepeat()
+{
+    goTo(m_views->date());
+    if (!m_views->stack().isHome())
+        return false;
+    if (m_day->typed().entryCount() != 1) {
+        activity().say(PlannerLines::rowIsEmpty());
+        return false;
+    }
+    m_day->focusRow(0);
+    return true;
 }
 
 void Zcalandar1::importToDoItems()

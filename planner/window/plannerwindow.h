@@ -8,7 +8,6 @@
 
 class CalendarOptionsPanel;
 class DaysView;
-class NarrowToolbar;
 class PlannerSidePane;
 class PlannerViews;
 class RecurrencePanel;
@@ -57,6 +56,7 @@ private:
     void search(const QString &text);
 
     void showRecurrence();
+    bool openToRepeat();
     void importToDoItems();
     /// While files are updated, only what stops it can be used.
     void setUpdating(bool isUpdating);
@@ -77,5 +77,4 @@ private:
     RecurrencePanel *m_recurrence;
     CalendarOptionsPanel *m_optionsPanel;
     SideSplitter *m_splitter;
-    NarrowToolbar *m_narrowToolbar; ///< leaves the fourteen rows of the day their place
 };

@@ -8,7 +8,7 @@ class ViewFoot final : public QWidget
 {
     Q_OBJECT
 public:
-    /// `name` begins the object name of its button: "month" makes "month_dayView".
+    /// `name` begins the object names of its buttons: "month" makes "month_dayView" and "month_exit".
     ViewFoot(const QString &name, const QString &hint, QWidget *parent);
 
 signals:

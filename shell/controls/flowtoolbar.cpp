@@ -150,20 +150,47 @@ bool FlowToolBar::event(QEvent *event)
     return isDone;
 }
 
+void FlowToolBar::giveWay(const QAction *action)
+{
+    m_givingWay.append(action);
+    fit();
+}
+
+QList<QWidget *> FlowToolBar::itemsOf(const QList<QAction *> &tools) const
+{
+    QList<QWidget *> items;
+    for (const QAction *tool : tools)
+        items << m_items.value(tool);
+    return items;
+}
+
+QList<QAction *> FlowToolBar::wantedTools() const
+{
+    QList<QAction *> tools = actions();
+    tools.removeIf([](const QAction *action) { return !action->isVisible(); });
+    if (m_low->isLow())
+        return tools; // "More" has what finds no room
+    for (const QAction *action : m_givingWay) {
+        if (m_layout->countInRow(itemsOf(tools), m_more) == tools.size())
+            break;
+        tools.removeIf([action](const QAction *tool) { return tool == action; });
+    }
+    return tools;
+}
+
 /// In a low window the tools take one row, and "More" has those that find no room in it.
 void FlowToolBar::fit()
 {
     if (!m_low)
         return;
-    QList<QAction *> tools = actions();
-    tools.removeIf([](const QAction *action) { return !action->isVisible(); });
-    QList<QWidget *> items;
-    for (const QAction *action : std::as_const(tools))
-        items << m_items.value(action);
+    const QList<QAction *> tools = wantedTools();
     const bool isOneRow = m_low->isLow();
-    const qsizetype shown = isOneRow ? m_layout->countInRow(items, m_more) : items.size();
-    for (qsizetype i = 0; i < items.size(); ++i)
-        items[i]->setVisible(i < shown);
+    const qsizetype shown = isOneRow ? m_layout->countInRow(itemsOf(tools), m_more) : tools.size();
+    const QList<QAction *> all = actions();
+    for (QAction *tool : all) {
+        if (tool->isVisible())
+            m_items.value(tool)->setVisible(tools.first(shown).contains(tool));
+    }
     m_more->hold(tools.mid(shown));
     m_layout->setOneRow(isOneRow);
 }

@@ -28,6 +28,8 @@ public:
     void setEqualWidths(int maximum);
 
     QAction *addSeparator();
+    /// `action` is left out where the bar would need a second row; what is named first goes first.
+    void giveWay(const QAction *action);
     /// Takes all actions off the bar; they live on, separators aside.
     void clear();
     /// The button of an action that is on the bar, else null.
@@ -41,6 +43,9 @@ protected:
 private:
     QWidget *makeItem(QAction *action);
     void styleButton(QToolButton &button) const;
+    /// The tools that are to stand in the bar, in their order.
+    QList<QAction *> wantedTools() const;
+    QList<QWidget *> itemsOf(const QList<QAction *> &tools) const;
     void fit();
 
     Qt::Orientation m_orientation;
@@ -49,6 +54,7 @@ private:
     ToolRows *m_layout;
     LowWindow *m_low = nullptr; ///< of a horizontal bar
     MoreButton *m_more = nullptr;
+    QList<const QAction *> m_givingWay;
     QHash<const QAction *, QToolButton *> m_buttons;
     QHash<const QAction *, QWidget *> m_items; ///< buttons and separators
 };

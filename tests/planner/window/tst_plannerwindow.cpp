@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QListView>
 #include <QTableView>
+#include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -351,6 +352,37 @@ private slots:
         QTest::keyClick(month, Qt::Key_Escape);
         QVERIFY(!month->isVisible());
         QVERIFY(isOpen());
+    }
+
+    void marksTheViewAndRepeatsInEach()
+    {
+        writeDay(today, dayOf({{u"8:30 AM"_s, u"Market"_s}}));
+        show();
+        const auto marked = [this] {
+            QStringList names;
+            for (const char *name : {"mVDay", "mVWeek", "mVWeek_tool", "mVMonth"}) {
+                if (find<QAction>(name)->isChecked())
+                    names << QString::fromLatin1(name);
+            }
+            return names.join(u' ');
+        };
+        for (const auto &[tool, marks] : {std::pair{"mVMonth_button", u"mVMonth"_s},
+                                          {"mVWeek_tool_button", u"mVWeek mVWeek_tool"_s},
+                                          {"mVDay_button", u"mVDay"_s},
+                                          {"mVDay_button", u"mVDay"_s}}) {
+            find<QToolButton>(tool)->click();
+            QCOMPARE(marked(), marks);
+        }
+        type(1, {}, u"unsaved"_s);
+        m_test->dialogs.willAnswer(Answer::Cancel);
+        find<QToolButton>("mVMonth_button")->click();
+        QCOMPARE(marked(), u"mVDay"_s);
+
+        m_test->dialogs.willAnswer(Answer::No);
+        find<QToolButton>("mVWeek_tool_button")->click();
+        find<QToolButton>("mERec_button")->click(); // the day's one entry
+        QVERIFY(isShown("recurrencePanel"));
+        QVERIFY(labelText("recurrenceTitle").contains("Market"_L1));
     }
 
     void opensDaysFromTheSearch()

@@ -113,6 +113,29 @@ private slots:
         QVERIFY(!isLow || !sample.lastBox->visibleRegion().isEmpty());
     }
 
+    void leavesOutInANarrowBarWhatGivesWay()
+    {
+        Sample sample(LowWindow::below);
+        const QList<QAction *> tools = sample.bar->actions();
+        const auto shown = [&] {
+            QStringList names;
+            for (const QAction *tool : tools) {
+                if (sample.bar->button(tool)->isVisible())
+                    names << tool->objectName();
+            }
+            return names;
+        };
+        const int row = sample.bar->button(tools[0])->height();
+        for (const int tool : {9, 3, 4, 5, 6, 7, 8})
+            sample.bar->giveWay(tools[tool]);
+        QTRY_VERIFY(sample.bar->height() < 2 * row);
+        QVERIFY(shown().size() < 10 && !shown().contains(u"tool9"_s) && !shown().contains(u"tool3"_s));
+        QCOMPARE(shown().first(3), (QStringList{u"tool0"_s, u"tool1"_s, u"tool2"_s}));
+        QCOMPARE(sample.moreTools(), 0);
+        sample.window.resize(3000, LowWindow::below);
+        QTRY_COMPARE(shown().size(), 10);
+    }
+
     void pressesWhatMoreHolds()
     {
         Sample sample(LowWindow::below - 1);
