@@ -3,6 +3,7 @@
 
 #include "addressbook/entry/entrywindow.h"
 #include "addressbook/model/addressbook.h"
+#include "addressbook/model/addressholdings.h"
 #include "addressbook/model/addressnews.h"
 #include "addressbook/viewer/viewerwindow.h"
 #include "planner/model/dayrecord.h"
@@ -33,6 +34,21 @@ QList<DayNote> addressNotes(const Program &program, QDate from, QDate to)
     return AddressNews::dayNotes(program.folder, program.state.dateStyle, from, to, program.clock.today());
 }
 
+QStringList addressNames(const Program &program)
+{
+    return AddressHoldings::names(program.folder);
+}
+
+QStringList addressFiles(const Program &program)
+{
+    return AddressHoldings::files(program.folder);
+}
+
+QStringList addressPictures(const Program &program)
+{
+    return AddressHoldings::pictures(program.folder);
+}
+
 void showAddress(QWidget &window, const Place &place)
 {
     if (auto *book = qobject_cast<ADDBKVIEW *>(&window))
@@ -43,6 +59,16 @@ void showInPlanner(QWidget &window, const Place &place)
 {
     if (auto *planner = qobject_cast<Zcalandar1 *>(&window))
         planner->showPlace(place);
+}
+
+QList<DayNote> plannerNotes(const Program &program, QDate from, QDate to)
+{
+    return PlannerNews::dayNotes(program.folder, from, to);
+}
+
+QStringList plannerFiles(const Program &program)
+{
+    return PlannerNews::files(program.folder);
 }
 
 std::optional<LiveLine> plannerNews(const Program &program, QDate)
@@ -77,15 +103,20 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                           .liveLine = addressNews,
                                           .liveFiles = AddressBook::fileNames(),
                                           .dayNotes = addressNotes,
-                                          .show = showAddress});
+                                          .show = showAddress,
+                                          .names = addressNames,
+                                          .files = addressFiles,
+                                          .pictures = addressPictures});
     functions.add(Function::AddressViewer, {.open = makeWindow<ADDBKDISPLAY>});
     const int year = clock.today().year();
     const QStringList yearFiles{DayRecord::yearFileName(year), DayRecord::yearFileName(year + 1)};
     functions.add(Function::Planner, {.open = makeWindow<Zcalandar1>,
                                       .liveLine = plannerNews,
                                       .liveFiles = yearFiles,
+                                      .dayNotes = plannerNotes,
                                       .followsClock = true,
-                                      .show = showInPlanner});
+                                      .show = showInPlanner,
+                                      .files = plannerFiles});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

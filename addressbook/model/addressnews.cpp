@@ -171,19 +171,20 @@ QList<DayNote> AddressNews::dayNotes(const DataFolder &folder, DateStyle style, 
     QList<DayNote> notes;
     if (!from.isValid() || !to.isValid())
         return notes;
-    const auto add = [&](QByteArrayView record, Kind kind) {
+    const auto add = [&](int number, QByteArrayView record, Kind kind) {
+        const NoteKind noteKind = kind == Kind::Birthday ? NoteKind::Birthday : NoteKind::Anniversary;
         for (QDate day = from; day <= to; day = day.addDays(1)) {
             auto occasion = nextOccasion(record, kind, style, day, today);
             if (!occasion || occasion->day > to)
                 return;
             day = occasion->day;
             occasion->name = nameOf(record);
-            notes.append({day, noteText(*occasion), u"Address Book"_s});
+            notes.append({day, noteText(*occasion), u"Address Book"_s, noteKind, {}, {.record = number}});
         }
     };
-    AddressBook(folder).forEachLiveRecord([&add](int, QByteArrayView record) {
-        add(record, Kind::Birthday);
-        add(record, Kind::Anniversary);
+    AddressBook(folder).forEachLiveRecord([&add](int number, QByteArrayView record) {
+        add(number, record, Kind::Birthday);
+        add(number, record, Kind::Anniversary);
         return true;
     });
     std::ranges::stable_sort(notes, {}, &DayNote::date);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/plannernews.h"
 
+#include "planner/model/dayrecord.h"
 #include "planner/model/plannerfiles.h"
 
 #include <QRegularExpression>
@@ -96,6 +97,36 @@ std::optional<LiveLine> liveLine(const DataFolder &folder, const QDateTime &now)
     if (const QList<Item> items = itemsOf(files.peek(now.date().addDays(1))); !items.isEmpty())
         return LiveLine{u"Tomorrow: "_s + lineOf(items.first()), LiveLine::Plain, {}};
     return {};
+}
+
+QList<DayNote> dayNotes(const DataFolder &folder, QDate from, QDate to)
+{
+    QList<DayNote> notes;
+    for (const auto &[date, day] : PlannerFiles(folder).days(from, to)) {
+        for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+            if (day.isRowEmpty(row))
+                continue;
+            const QString timeText = day.times[row].trimmed();
+            const QString text = day.texts[row].trimmed();
+            const QTime time = timeOfDay(timeText);
+            const bool isTimeRead = time.isValid() || timeText.isEmpty();
+            notes.append({date,
+                          isTimeRead ? text : QString(timeText + u"  "_s + text).trimmed(),
+                          u"Daily Planner"_s,
+                          NoteKind::Appointment,
+                          time,
+                          {.date = date, .row = int(row)}});
+        }
+    }
+    return notes;
+}
+
+QStringList files(const DataFolder &folder)
+{
+    QStringList files;
+    for (const int year : PlannerFiles(folder).years())
+        files << DayRecord::yearFileName(year);
+    return files;
 }
 
 } // namespace PlannerNews

@@ -86,6 +86,8 @@ void ComingUpModel::load(QDate from, QDate to)
     m_notes.clear();
     for (const FunctionFace &face : FunctionFaces::cards()) {
         const FunctionEntry *entry = m_program.functions.entry(face.function);
+        if (face.function == Function::Planner) // its own stand in the day beside
+            continue;
         if (!entry || !entry->dayNotes || face.isGuarded(m_program.state.protectedAreas))
             continue;
         for (const DayNote &note : entry->dayNotes(m_program, from, to))

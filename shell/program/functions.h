@@ -44,7 +44,7 @@ struct FunctionEntry {
     std::function<QWidget *(Program &)> open{};
     /// Its news of the day, or nothing; empty for a function without any. Reads the function's files.
     std::function<std::optional<LiveLine>(const Program &, QDate today)> liveLine{};
-    /// The files that the news comes from: it is read again only when one of them has changed.
+    /// The files that news and notes come from: they are read again only when one of these has changed.
     QStringList liveFiles{};
     /// What the function has for the dates `from` to `to`, in date order; empty for a function without any.
     std::function<QList<DayNote>(const Program &, QDate from, QDate to)> dayNotes{};
@@ -54,6 +54,12 @@ struct FunctionEntry {
     std::function<std::unique_ptr<SearchSource>(const Program &)> search{};
     /// Shows a place in the function's own window; empty for a function without places.
     std::function<void(QWidget &window, const Place &)> show{};
+    /// The persons that it knows by name: "Anne Lind"; empty for a function without any.
+    std::function<QStringList(const Program &)> names{};
+    /// Those of its files in the household's folder that are there, as `DataFolder` finds them.
+    std::function<QStringList(const Program &)> files{};
+    /// Its pictures that are there, as full paths: they may stand in any folder.
+    std::function<QStringList(const Program &)> pictures{};
 };
 
 /// Shows `window`, as it was before it was minimised, in front of the others.

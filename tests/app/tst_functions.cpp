@@ -98,6 +98,24 @@ private slots:
             QVERIFY(test.folder.exists(name));
     }
 
+    void tellsWhatTheHouseholdHolds()
+    {
+        TestProgram test(TestProgram::Household);
+        addFunctions(test.functions, test.clock);
+        const FunctionEntry *book = test.functions.entry(Function::AddressBook);
+        QVERIFY(book->names(test.program).contains(u"Josephine Moreau"_s));
+        QCOMPARE(book->files(test.program), (QStringList{u"Addbk1.Fil"_s, u"Addbk2.Fil"_s}));
+        const QStringList pictures = book->pictures(test.program);
+        QVERIFY(!pictures.isEmpty());
+        for (const QString &picture : pictures)
+            QVERIFY2(QFile::exists(picture), qPrintable(picture));
+        const FunctionEntry *planner = test.functions.entry(Function::Planner);
+        QCOMPARE(planner->files(test.program), (QStringList{u" 2026.Cal"_s, u" 2027.Cal"_s, u" 2028.Cal"_s}));
+        const TestProgram empty;
+        for (const FunctionEntry *entry : {book, planner})
+            QCOMPARE(entry->files(empty.program), QStringList());
+    }
+
     void tellsWhatThePasswordGuards()
     {
         TestProgram test;

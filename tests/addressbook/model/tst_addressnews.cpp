@@ -101,6 +101,12 @@ private slots:
         QCOMPARE(texts(QDate(2027, 2, 28), QDate(2028, 2, 29)).filter(u"Leap"_s),
                  (QStringList{u"2027-02-28 Leap Day turns 23"_s, u"2028-02-29 Leap Day turns 24"_s}));
         QCOMPARE(texts(saturday, QDate(2026, 11, 20)), QStringList());
+        const auto notes =
+            AddressNews::dayNotes(m_files.folder(), DateStyle::Usa, saturday, QDate(2026, 11, 30), saturday);
+        QCOMPARE(notes.last().kind, NoteKind::Anniversary);
+        QCOMPARE(notes.last().place, Place{.record = 2});
+        QCOMPARE(notes.first().kind, NoteKind::Birthday);
+        QCOMPARE(notes.first().place, Place{.record = 4});
         QCOMPARE(texts({}, saturday), QStringList());
     }
 

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "addressbook/model/addressholdings.h"
+
+#include "addressbook/model/addressbook.h"
+#include "shell/pictures/picturefolder.h"
+
+QStringList AddressHoldings::names(const DataFolder &folder)
+{
+    QStringList names;
+    AddressBook(folder).forEachLive([&names](int, const AddressEntry &entry) {
+        names << entry.fullName();
+        return true;
+    });
+    return names;
+}
+
+QStringList AddressHoldings::files(const DataFolder &folder)
+{
+    QStringList files = AddressBook::fileNames();
+    files.removeIf([&folder](const QString &name) { return !folder.exists(name); });
+    return files;
+}
+
+QStringList AddressHoldings::pictures(const DataFolder &folder)
+{
+    QStringList pictures;
+    const PictureFolder places(folder);
+    AddressBook(folder).forEachLive([&](int, const AddressEntry &entry) {
+        if (const QString path = entry.hasPicture() ? places.locate(entry.picture) : QString();
+            !path.isEmpty())
+            pictures << path;
+        return true;
+    });
+    pictures.removeDuplicates();
+    return pictures;
+}
