@@ -4,11 +4,15 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/gridwalk.h"
 #include "shell/look/theme.h"
+#include "shell/mainmenu/firstlook.h"
 #include "shell/mainmenu/functioncard.h"
 #include "shell/mainmenu/menunews.h"
+#include "shell/mainmenu/todaypanel.h"
 #include "shell/program/functionfaces.h"
 
+#include <QAbstractButton>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -27,6 +31,7 @@ constexpr qreal smallestTitle = 10.5;
 constexpr int narrowestTop = 260;
 constexpr int widestTop = 420;
 constexpr int topGap = 24;
+constexpr int below = 20;
 
 } // namespace
 
@@ -40,8 +45,10 @@ struct CardDesk::Measures {
     int top;
     QRect date;
     QRect sentence;
+    QRect firstLook;
     QRect topWidget;
     int cardsTop;
+    QRect today;
     int height;
 };
 
@@ -64,14 +71,27 @@ CardDesk::CardDesk(QWidget *parent)
     for (const FunctionFace &face : FunctionFaces::cards()) {
         auto *card = new FunctionCard(face, this);
         connect(card, &FunctionCard::clicked, this,
-                [this, function = face.function] { emit opened(function); });
+                [this, card, function = face.function] { emit opened(function, card->isPressedByKey()); });
         connect(card, &FunctionCard::focused, this, [this, card] { emit cardFocused(card); });
-        connect(card, &FunctionCard::walked, this, [this, card](int key) {
-            if (FunctionCard *next = GridWalk::next<FunctionCard>(m_cards, card, columns(), key))
-                next->setFocus(Qt::TabFocusReason);
-        });
+        connect(card, &FunctionCard::walked, this, [this, card](int key) { walk(card, key); });
         m_cards.push_back(card);
     }
+}
+
+void CardDesk::walk(const FunctionCard *card, int key)
+{
+    if (FunctionCard *next = GridWalk::next<FunctionCard>(m_cards, card, columns(), key))
+        next->setFocus(Qt::TabFocusReason);
+    else if (key == Qt::Key_Down && m_today && m_today->isVisible())
+        m_today->takeFocus();
+}
+
+void CardDesk::leaveToday()
+{
+    const auto last = std::find_if(m_cards.rbegin(), m_cards.rend(),
+                                   [](const FunctionCard *card) { return card->isEnabled(); });
+    if (last != m_cards.rend())
+        (*last)->setFocus(Qt::BacktabFocusReason);
 }
 
 FunctionCard *CardDesk::card(Function function) const
@@ -95,19 +115,23 @@ void CardDesk::showNews(const MenuNews &news)
     for (std::size_t i = 0; i < faces.size(); ++i)
         m_cards[i]->setLine(news.line(faces[i].function));
     m_sentence->setText(news.sentence());
-    updateGeometry();
-    place();
+    fit();
 }
 
 void CardDesk::setAvailable(Function function, bool available)
 {
     if (FunctionCard *found = card(function))
         found->setMissingReason(available ? QString() : FunctionFaces::of(function).missingReason());
+    if (function == Function::Planner)
+        m_date->setCursor(available ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
 QList<QWidget *> CardDesk::panels() const
 {
-    return {m_cards.begin(), m_cards.end()};
+    QList<QWidget *> panels(m_cards.begin(), m_cards.end());
+    if (m_today)
+        panels.append(m_today);
+    return panels;
 }
 
 void CardDesk::setTopWidget(QWidget *widget)
@@ -115,12 +139,45 @@ void CardDesk::setTopWidget(QWidget *widget)
     m_top = widget;
     m_top->setParent(this);
     m_top->show();
-    for (QWidget *before = m_top; QWidget * card : m_cards) {
-        setTabOrder(before, card);
-        before = card;
-    }
+    orderTabs();
+    fit();
+}
+
+void CardDesk::setFirstLook(FirstLook *firstLook)
+{
+    m_firstLook = firstLook;
+    m_firstLook->setParent(this);
+    orderTabs();
+    connect(m_firstLook, &FirstLook::changed, this, &CardDesk::fit);
+}
+
+/// What stands at the top comes first, then the links, then the cards.
+void CardDesk::orderTabs()
+{
+    QList<QWidget *> order;
+    if (m_top)
+        order << m_top;
+    if (m_firstLook)
+        for (QAbstractButton *link : m_firstLook->findChildren<QAbstractButton *>())
+            order << link;
+    order.append({m_cards.begin(), m_cards.end()});
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+void CardDesk::fit()
+{
     updateGeometry();
     place();
+}
+
+void CardDesk::setToday(TodayPanel *today)
+{
+    m_today = today;
+    m_today->setParent(this);
+    connect(m_today, &TodayPanel::leftUpward, this, &CardDesk::leaveToday);
+    connect(m_today, &TodayPanel::focused, this, [this] { emit cardFocused(m_today); });
+    connect(m_today, &TodayPanel::sizeChanged, this, &CardDesk::fit);
 }
 
 void CardDesk::setHeadInk(const QColor &ink, bool plate)
@@ -130,6 +187,8 @@ void CardDesk::setHeadInk(const QColor &ink, bool plate)
         colors.setColor(QPalette::WindowText, ink);
         label->setPalette(colors);
     }
+    if (m_firstLook)
+        m_firstLook->setInk(ink);
     m_plate = plate;
     update();
 }
@@ -141,6 +200,8 @@ QRect CardDesk::headRect() const
                                QFontMetrics(m_sentence->font()).horizontalAdvance(m_sentence->text()));
     QRect head = m_date->geometry().united(text);
     head.setWidth(std::min(width, head.width()));
+    if (m_firstLook && !m_firstLook->isHidden())
+        head |= QRect(m_firstLook->pos(), m_firstLook->sizeHint());
     return head;
 }
 
@@ -176,8 +237,22 @@ CardDesk::Measures CardDesk::measuresFor(int width) const
     measureHead(m);
     m.cardsTop += roomy ? 18 : 14;
     const int rows = (int(m_cards.size()) + m.columns - 1) / m.columns;
-    m.height = m.cardsTop + rows * m.cardHeight + (rows - 1) * m.gap + 20;
+    m.height = m.cardsTop + rows * m.cardHeight + (rows - 1) * m.gap + below;
+    if (m_today && m_today->hasSomething())
+        measureToday(m);
     return m;
+}
+
+/// What the cards leave of the view is the panel's; where that is too little, it is scrolled to.
+void CardDesk::measureToday(Measures &m) const
+{
+    constexpr int rim = FunctionCard::margin;
+    const int top = m.height - below + m.gap;
+    const int width = m.columns * m.cardWidth + (m.columns - 1) * m.gap + 2 * rim;
+    const int view = parentWidget() ? parentWidget()->height() : 0;
+    const int height = m_today->heightFor(width, view - below - top + 2 * rim);
+    m.today = QRect(m.side - rim, top - rim, width, height);
+    m.height = m.today.bottom() + 1 - rim + below;
 }
 
 /// Date, sentence and what stands at the top. The cards may begin right below it.
@@ -190,11 +265,17 @@ void CardDesk::measureHead(Measures &m) const
     const bool isBeside = m_top && beside >= narrowestTop;
     const int topWidth = std::min(isBeside ? beside : block, widestTop);
     const int words = isBeside ? block - topWidth - topGap : block;
-    m.date = QRect(m.side, m.top, words, dates.height());
+    m.date =
+        QRect(m.side, m.top, std::min(words, dates.horizontalAdvance(m_date->text()) + 2), dates.height());
     const QRect bounds =
         sentences.boundingRect(QRect(0, 0, words, 1000), Qt::TextWordWrap, m_sentence->text());
     m.sentence = QRect(m.side, m.date.bottom() + 3, words, std::max(bounds.height(), sentences.height()) + 2);
     m.cardsTop = m.sentence.bottom();
+    if (m_firstLook && !m_firstLook->isHidden()) {
+        m.firstLook = QRect(QPoint(m.side - FirstLook::indent, m.cardsTop + 4),
+                            QSize(words, m_firstLook->sizeHint().height()));
+        m.cardsTop = m.firstLook.bottom();
+    }
     if (!m_top)
         return;
     const int height = m_top->sizeHint().height();
@@ -232,6 +313,8 @@ void CardDesk::place()
     const Measures m = measuresFor(width());
     m_date->setGeometry(m.date);
     m_sentence->setGeometry(m.sentence);
+    if (m_firstLook)
+        m_firstLook->setGeometry(m.firstLook);
     if (m_top)
         m_top->setGeometry(m.topWidget);
     const QFont titles = titleFontFor(m.cardWidth);
@@ -244,6 +327,8 @@ void CardDesk::place()
         m_cards[i]->setTitleFont(titles);
         m_cards[i]->setGeometry(card.adjusted(-rim, -rim, rim, rim));
     }
+    if (m_today)
+        m_today->setGeometry(m.today);
 }
 
 /// The card title's step of the scale, less as much as wide platform fonts ask for.
@@ -263,6 +348,13 @@ QFont CardDesk::titleFontFor(int cardWidth) const
         font.setPointSizeF(font.pointSizeF() - 0.5);
     m_titlesFor = cardWidth;
     return m_titles = font;
+}
+
+void CardDesk::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && m_date->geometry().contains(event->pos()))
+        emit dateClicked();
+    QWidget::mouseReleaseEvent(event);
 }
 
 void CardDesk::paintEvent(QPaintEvent *)

@@ -8,9 +8,11 @@
 
 #include <vector>
 
+class FirstLook;
 class FunctionCard;
 class MenuNews;
 class QLabel;
+class TodayPanel;
 
 /// What stands on the background picture: the long date, the sentence of the day and a card for each
 /// function, in as many columns as the width allows. Too high for its place, it scrolls.
@@ -30,6 +32,11 @@ public:
     /// the cards where that is too narrow. The Tab key comes to it before the cards.
     void setTopWidget(QWidget *widget);
 
+    /// Shows `firstLook`, while it has something to say, under date and sentence.
+    void setFirstLook(FirstLook *firstLook);
+    /// Shows `today` below the cards, in what is left of the view's height where that is enough.
+    void setToday(TodayPanel *today);
+
     /// The ink of date and sentence, by what lies under them; with `plate` they get a ground of their own.
     void setHeadInk(const QColor &ink, bool plate);
     /// The place of date and sentence in this widget.
@@ -44,19 +51,28 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
-    void opened(Function function);
+    /// The function's card was clicked, or pressed by a key.
+    void opened(Function function, bool isByKey);
+    /// The date was clicked.
+    void dateClicked();
     void cardFocused(QWidget *card);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     struct Measures;
 
     static int columnsFor(int width);
+    void walk(const FunctionCard *card, int key);
+    void leaveToday();
+    void orderTabs();
+    void fit();
     Measures measuresFor(int width) const;
     void measureHead(Measures &m) const;
+    void measureToday(Measures &m) const;
     void place();
     QFont titleFontFor(int cardWidth) const;
     FunctionCard *card(Function function) const;
@@ -64,6 +80,8 @@ private:
     QLabel *m_date;
     QLabel *m_sentence;
     QWidget *m_top = nullptr;
+    FirstLook *m_firstLook = nullptr;
+    TodayPanel *m_today = nullptr;
     std::vector<FunctionCard *> m_cards;
     mutable QFont m_titles; ///< as measured for a card of the width `m_titlesFor`
     mutable int m_titlesFor = -1;

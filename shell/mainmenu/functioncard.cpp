@@ -3,10 +3,11 @@
 
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
+#include "shell/mainmenu/cardground.h"
 #include "shell/program/functionfaces.h"
 
 #include <QPainter>
-#include <QPixmapCache>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <cmath>
@@ -15,11 +16,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int corner = 10;
+constexpr int corner = CardGround::corner;
 constexpr int padding = 16;
 constexpr int markSide = 20;
 constexpr int markGap = 4;
-constexpr qreal opacity = 0.96;
 constexpr qreal disabledIcon = 0.55;
 constexpr int ringWidth = 3;
 
@@ -100,6 +100,8 @@ QSize FunctionCard::sizeHint() const
 
 QString FunctionCard::lineText() const
 {
+    if (!m_missingReason.isEmpty())
+        return u"Not yet"_s;
     return m_line ? m_line->text : m_quietText;
 }
 
@@ -152,6 +154,18 @@ void FunctionCard::resizeEvent(QResizeEvent *event)
     tellLine();
 }
 
+void FunctionCard::keyPressEvent(QKeyEvent *event)
+{
+    const QScopedValueRollback byKey(m_isPressedByKey, true);
+    WalkButton::keyPressEvent(event);
+}
+
+void FunctionCard::keyReleaseEvent(QKeyEvent *event)
+{
+    const QScopedValueRollback byKey(m_isPressedByKey, true);
+    WalkButton::keyReleaseEvent(event);
+}
+
 void FunctionCard::focusInEvent(QFocusEvent *event)
 {
     WalkButton::focusInEvent(event);
@@ -178,7 +192,7 @@ QColor FunctionCard::fill() const
     } else if (underMouse()) {
         color = theme.soft;
     }
-    color.setAlphaF(float(opacity));
+    color.setAlphaF(CardGround::opacity);
     return color;
 }
 
@@ -199,38 +213,6 @@ QColor FunctionCard::lineInk(LiveLine::Urgency urgency) const
     if (urgency == LiveLine::Plain)
         return theme.quiet;
     return urgency == LiveLine::Overdue ? theme.negative : theme.due;
-}
-
-/// Shadow, fill and rim. Cards of a desk share one drawing for each state.
-QPixmap FunctionCard::ground() const
-{
-    const Theme &theme = Theme::of(this);
-    const qreal ratio = devicePixelRatioF();
-    const QString key =
-        u"card %1x%2 %3 %4 %5"_s.arg(width()).arg(height()).arg(ratio).arg(fill().rgba()).arg(isEnabled());
-    QPixmap ground;
-    if (QPixmapCache::find(key, &ground))
-        return ground;
-    ground = QPixmap(size() * ratio);
-    ground.setDevicePixelRatio(ratio);
-    ground.fill(Qt::transparent);
-    QPainter painter(&ground);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    const QRectF card = rect().adjusted(margin, margin, -margin, -margin);
-    // A soft shadow: three rims, each a little wider and fainter, the whole of them a little lower than the
-    // card.
-    for (const int spread : {3, 2, 1}) {
-        painter.setBrush(QColor(0, 0, 0, isEnabled() ? 16 : 8));
-        painter.drawRoundedRect(card.adjusted(-spread, 2 - spread, spread, 1 + spread), corner + spread,
-                                corner + spread);
-    }
-    painter.setBrush(fill());
-    painter.setPen(QPen(theme.line, 1));
-    painter.drawRoundedRect(card.adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
-    painter.end();
-    QPixmapCache::insert(key, ground);
-    return ground;
 }
 
 void FunctionCard::paintLine(QPainter &painter, const QRect &place) const
@@ -256,7 +238,7 @@ void FunctionCard::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect card = rect().adjusted(margin, margin, -margin, -margin);
-    painter.drawPixmap(0, 0, ground());
+    painter.drawPixmap(0, 0, CardGround::of(*this, fill()));
     if (hasFocus()) {
         painter.setPen(QPen(Theme::of(this).accent, ringWidth));
         painter.drawRoundedRect(QRectF(card).adjusted(-1.5, -1.5, 1.5, 1.5), corner + 1.5, corner + 1.5);

@@ -3,6 +3,7 @@
 
 #include "shell/controls/walkbutton.h"
 #include "shell/core/liveline.h"
+#include "shell/mainmenu/cardground.h"
 
 #include <optional>
 
@@ -15,7 +16,7 @@ class FunctionCard final : public WalkButton
     Q_OBJECT
 public:
     /// Free pixels around the card proper, for its focus ring and its shadow.
-    static constexpr int margin = 6;
+    static constexpr int margin = CardGround::margin;
 
     FunctionCard(const FunctionFace &face, QWidget *parent);
 
@@ -30,6 +31,9 @@ public:
     /// Pixels that a title has beside its icon in a card `width` pixels wide, margins not counted.
     static int titleRoom(int width);
 
+    /// Whether the click that is told just now was a key.
+    bool isPressedByKey() const { return m_isPressedByKey; }
+
     QSize sizeHint() const override;
     static int fullHeight();
 
@@ -38,11 +42,12 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    QPixmap ground() const;
     void paintLine(QPainter &painter, const QRect &place) const;
     void tellLine();
     QString lineText() const;
@@ -59,4 +64,5 @@ private:
     std::optional<LiveLine> m_line;
     QString m_missingReason;
     QFont m_titleFont;
+    bool m_isPressedByKey = false;
 };

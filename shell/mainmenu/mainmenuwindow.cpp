@@ -17,13 +17,16 @@
 #include "shell/mainmenu/about.h"
 #include "shell/mainmenu/backgroundflow.h"
 #include "shell/mainmenu/carddesk.h"
+#include "shell/mainmenu/dayboard.h"
 #include "shell/mainmenu/displaymode.h"
+#include "shell/mainmenu/firstlook.h"
 #include "shell/mainmenu/functionsmenu.h"
 #include "shell/mainmenu/leaving.h"
 #include "shell/mainmenu/mainmenumessages.h"
 #include "shell/mainmenu/menupicture.h"
 #include "shell/mainmenu/menutoolbars.h"
 #include "shell/mainmenu/sidetoolbar.h"
+#include "shell/mainmenu/splash.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/sharedprocedures.h"
 
@@ -32,7 +35,6 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 
@@ -42,7 +44,6 @@ namespace {
 
 constexpr PanelColorSettings menuColors{SettingsKeys::mainMenuColor, SettingsKeys::mainMenuColor,
                                         std::nullopt};
-constexpr int dayCheckMilliseconds = 60 * 1000;
 /// The maker's home page.
 constexpr auto webAddress = "https://quillery.example/";
 
@@ -73,8 +74,7 @@ Startfrm::Startfrm(Program &program, Surroundings surroundings, QWidget *parent)
     , m_background(new BackgroundFlow(program, *m_picture, *m_colors, *m_activity, this))
     , m_opener(program, *m_activity, this)
     , m_toolBars(new MenuToolBars(program, *m_activity, m_opener, this))
-    , m_news(program)
-    , m_dayWatch(new QTimer(this))
+    , m_day(new DayBoard(program, *m_picture, m_opener, this))
 {
     named(this, u"Startfrm"_s);
     setStatusBar(m_activity);
@@ -202,13 +202,7 @@ void Startfrm::layOut()
 
 void Startfrm::listen()
 {
-    connect(&m_picture->desk(), &CardDesk::opened, this,
-            [this](Function function) { m_opener.open(function); });
-    connect(m_picture, &MenuPicture::firstPainted, this, [this] {
-        m_isNewsShown = true;
-        refreshNews();
-        checkScreen();
-    });
+    connect(m_picture, &MenuPicture::firstPainted, this, &Startfrm::checkScreen);
     connect(m_background, &BackgroundFlow::selectorOpened, this, [this] {
         m_toolBars->setCovered(true);
         showMainMenu();
@@ -218,17 +212,14 @@ void Startfrm::listen()
         showMainMenu();
         m_picture->desk().focusFirstCard();
     });
+    connect(&m_day->firstLook(), &FirstLook::nameWanted, this, &Startfrm::askFamilyName);
+    connect(&m_day->firstLook(), &FirstLook::pictureWanted, m_background, &BackgroundFlow::openSelector);
     connect(m_toolBars, &MenuToolBars::rearranged, this, &Startfrm::setUp);
     connect(&m_program.changes, &ProgramSignals::familyNameChanged, this, &Startfrm::showMainMenu);
     connect(&m_program.changes, &ProgramSignals::placeRequested, this,
             [this](Function function, const Place &place) { m_opener.open(function, place); });
     connect(&m_program.changes, &ProgramSignals::mainMenuRequested, this, [this] { bringToFront(*this); });
     connect(&m_program.changes, &ProgramSignals::settingNotSaved, this, [this] { tellUnless(false); });
-    connect(m_dayWatch, &QTimer::timeout, this, [this] {
-        if (m_isNewsShown)
-            refreshNews();
-    });
-    m_dayWatch->setTimerType(Qt::VeryCoarseTimer);
 }
 
 /// What comes before the window is seen.
@@ -270,9 +261,8 @@ void Startfrm::setUp()
     for (const FunctionFace &face : FunctionFaces::cards())
         m_picture->desk().setAvailable(face.function, m_program.functions.has(face.function));
     m_background->show();
-    showNews();
+    m_day->show();
     m_activity->startClock();
-    m_dayWatch->start(dayCheckMilliseconds);
     m_program.state.passwordGateResult = PasswordGateResult::Open;
     QDir::setCurrent(m_program.folder.path());
     m_toolBars->setFirstButtonEnabled(m_program.functions.has(Function::AddressBook));
@@ -293,19 +283,8 @@ void Startfrm::checkScreen()
 void Startfrm::showMainMenu()
 {
     setWindowTitle(m_program.state.familyName.caption());
+    m_day->firstLook().refresh();
     m_activity->setActivity(m_background->isSelectorOpen() ? u"Background Selector"_s : u"Main Menu"_s);
-}
-
-void Startfrm::showNews()
-{
-    m_picture->setDate(Dates::longText(m_program.clock.today(), m_program.state.dateStyle));
-    m_picture->showNews(m_news);
-}
-
-void Startfrm::refreshNews()
-{
-    m_news.refresh();
-    showNews();
 }
 
 /// The Tab key comes to the cards first, then to the links of the status bar.
@@ -365,8 +344,8 @@ void Startfrm::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && m_displayMode && m_program.state.startup == StartupDone)
         m_displayMode->windowStateChanged(static_cast<QWindowStateChangeEvent *>(event)->oldState());
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_isNewsShown)
-        refreshNews();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_day->refresh();
 }
 
 /// However the window is closed, the same questions are asked.

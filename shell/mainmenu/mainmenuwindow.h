@@ -2,7 +2,6 @@
 #pragma once
 
 #include "shell/mainmenu/functionopener.h"
-#include "shell/mainmenu/menunews.h"
 #include "shell/mainmenu/surroundings.h"
 
 #include <QMainWindow>
@@ -10,12 +9,12 @@
 class ActivityBar;
 class BackgroundFlow;
 class Commands;
+class DayBoard;
 class DisplayMode;
 class MenuPicture;
 class MenuToolBars;
 class PanelColors;
 class QMenu;
-class QTimer;
 
 /// The main menu (`Startfrm`): the window from which every function opens, by its menus, its three toolbars
 /// and the cards on its picture. It lives for the whole run.
@@ -51,8 +50,6 @@ private:
     void decideDateStyle();
     void checkScreen();
     void showMainMenu();
-    void showNews();
-    void refreshNews();
     void orderTabs();
 
     void askFamilyName();
@@ -73,8 +70,6 @@ private:
     BackgroundFlow *m_background;
     FunctionOpener m_opener;
     MenuToolBars *m_toolBars;
-    MenuNews m_news;
-    QTimer *m_dayWatch; ///< a new day has other news
-    bool m_isNewsShown = false;
+    DayBoard *m_day;
     bool m_isExiting = false;
 };

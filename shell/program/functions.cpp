@@ -54,6 +54,12 @@ QWidget *FunctionCatalogue::open(Function function, Program &program, const Plac
     return window;
 }
 
+bool FunctionCatalogue::isOpen(Function function) const
+{
+    const auto found = m_windows.find(function);
+    return found != m_windows.end() && found->second && found->second->isVisible();
+}
+
 QList<QWidget *> FunctionCatalogue::openWindows() const
 {
     QList<QWidget *> open;

@@ -80,6 +80,8 @@ public:
     /// The same, and shows `place` there. No guard is asked here: `ProgramSignals::placeRequested` does.
     QWidget *open(Function function, Program &program, const Place &place);
 
+    /// Whether the function's window is open now.
+    bool isOpen(Function function) const;
     /// The windows that are open now, in no particular order.
     QList<QWidget *> openWindows() const;
 

@@ -5,6 +5,7 @@
 #include "shell/frame/panelcolors.h"
 #include "shell/mainmenu/carddesk.h"
 #include "shell/mainmenu/functioncard.h"
+#include "shell/mainmenu/menunews.h"
 #include "shell/mainmenu/menupicture.h"
 #include "shell/program/functionfaces.h"
 

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class QLabel;
+struct Program;
+
+/// What leads somebody into a household that holds nothing yet: one line of links under the date. What has
+/// been done goes from it, and with the last of it the line; it can be sent away for good.
+class FirstLook final : public QWidget
+{
+    Q_OBJECT
+public:
+    /// Pixels from its edge to its first word.
+    static constexpr int indent = 6;
+
+    explicit FirstLook(Program &program, QWidget *parent = nullptr);
+
+    /// Looks whether the household is new; to be asked after the first paint. Shows the line if so.
+    void begin();
+    /// Looks what has been done by now.
+    void refresh();
+
+    /// The ink of its words on the background picture.
+    void setInk(const QColor &ink);
+
+signals:
+    void nameWanted();
+    void pictureWanted();
+    void addressWanted();
+    /// The line has come or gone.
+    void changed();
+
+private:
+    enum Step { Name, Picture, Address, StepCount };
+
+    class Link;
+
+    bool isNew() const;
+    bool isDone(Step step) const;
+    void sendAway();
+    void end();
+
+    Program &m_program;
+    std::array<Link *, StepCount> m_links{};
+    std::array<QLabel *, StepCount> m_dashes{}; ///< before each but the first
+    Link *m_notNow;
+    bool m_isRunning = false;
+};

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/mainmenu/todaymodel.h"
+
+#include "shell/core/dates.h"
+#include "shell/program/functionfaces.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using Line = TodayModel::Line;
+using Note = TodayNotes::Note;
+using Notes = std::span<const Note>;
+
+/// The first day of `notes`.
+Notes firstDay(Notes notes)
+{
+    const auto other = std::ranges::find_if(
+        notes, [&](const Note &note) { return note.note.date != notes.front().note.date; });
+    return notes.first(std::size_t(other - notes.begin()));
+}
+
+/// `notes` in `room` lines, the last of which counts those that find none.
+void cut(Notes notes, std::size_t room, QList<Line> &lines)
+{
+    if (room == 0)
+        return;
+    const std::size_t shown = notes.size() <= room ? notes.size() : room - 1;
+    for (const Note &note : notes.first(shown))
+        lines.append({note.note.date, note});
+    if (shown < notes.size())
+        lines.append({notes[shown].note.date, {}, int(notes.size() - shown)});
+}
+
+/// Each of the days in `most` lines; nothing when they do not find room.
+QList<Line> cutAlike(Notes notes, std::size_t most, std::size_t room)
+{
+    QList<Line> lines;
+    while (!notes.empty()) {
+        const Notes day = firstDay(notes);
+        cut(day, most, lines);
+        notes = notes.subspan(day.size());
+    }
+    return std::size_t(lines.size()) <= room ? lines : QList<Line>();
+}
+
+QLatin1StringView iconOf(const Note &note)
+{
+    switch (note.note.kind) {
+    case NoteKind::Birthday:
+        return "cake"_L1;
+    case NoteKind::Anniversary:
+        return "anniversary"_L1;
+    case NoteKind::Overdue:
+        return "overdue"_L1;
+    case NoteKind::Due:
+        return "due"_L1;
+    default:
+        return QLatin1StringView(FunctionFaces::of(note.function).icon);
+    }
+}
+
+} // namespace
+
+QList<TodayModel::Line> TodayModel::fit(const QList<Note> &notes, QDate today, int room)
+{
+    QList<Line> lines;
+    if (notes.isEmpty() || room < 1)
+        return lines;
+    Notes rest(notes);
+    const auto lineCount = std::size_t(room);
+    if (rest.front().note.date == today) {
+        const Notes day = firstDay(rest);
+        rest = rest.subspan(day.size());
+        const std::size_t free = lineCount - std::min(lineCount, rest.size());
+        cut(day, std::max(free, (lineCount + 1) / 2), lines);
+    }
+    const std::size_t left = lineCount - std::size_t(lines.size());
+    for (std::size_t most = left; most >= 2; --most) {
+        if (const QList<Line> days = cutAlike(rest, most, left); !days.isEmpty())
+            return lines + days;
+    }
+    cut(rest, left, lines);
+    return lines;
+}
+
+void TodayModel::show(const TodayNotes &notes, DateStyle style)
+{
+    m_notes = notes.notes();
+    m_today = notes.today();
+    m_style = style;
+    build();
+}
+
+void TodayModel::setRoom(int lines)
+{
+    if (lines == m_room)
+        return;
+    m_room = lines;
+    build();
+}
+
+void TodayModel::build()
+{
+    beginResetModel();
+    m_lines = fit(m_notes, m_today, m_room);
+    endResetModel();
+}
+
+bool TodayModel::hasTimes() const
+{
+    return std::ranges::any_of(m_lines, [](const Line &line) { return line.note.note.time.isValid(); });
+}
+
+QString TodayModel::dayText(QDate day) const
+{
+    if (day == m_today)
+        return u"Today"_s;
+    if (day == m_today.addDays(1))
+        return u"Tomorrow"_s;
+    return QLocale::c().dayName(day.dayOfWeek(), QLocale::ShortFormat) + u", "_s +
+           Dates::shortText(day, m_style);
+}
+
+int TodayModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_lines.size());
+}
+
+QVariant TodayModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    const Line &line = m_lines[index.row()];
+    const DayNote &note = line.note.note;
+    const QString text = line.more > 0 ? u"and "_s + QString::number(line.more) + u" more"_s : note.text;
+    const QString time = note.time.isValid() ? QLocale::c().toString(note.time, u"h:mm AP"_s) : QString();
+    switch (role) {
+    case Qt::DisplayRole:
+        return text;
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole: {
+        QStringList parts{dayText(line.day), time, text, note.source};
+        parts.removeAll({});
+        return parts.join(u", "_s);
+    }
+    case DayRole:
+        return dayText(line.day);
+    case TimeRole:
+        return time;
+    case IconRole:
+        return line.more > 0 ? QString() : QString(iconOf(line.note));
+    case SourceRole:
+        return note.source;
+    default:
+        return {};
+    }
+}

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/mainmenu/todaynotes.h"
+
+#include "shell/program/functionfaces.h"
+#include "shell/program/program.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Milliseconds of the day; what has no time comes before midnight.
+int momentOf(const DayNote &note)
+{
+    return note.time.isValid() ? note.time.msecsSinceStartOfDay() : -1;
+}
+
+} // namespace
+
+bool TodayNotes::refresh()
+{
+    m_today = m_program.clock.today();
+    bool isNew = false;
+    for (const FunctionFace &face : FunctionFaces::cards())
+        if (const FunctionEntry *entry = m_program.functions.entry(face.function); entry && entry->dayNotes)
+            isNew = read(face, *entry) || isNew;
+    if (isNew)
+        gather();
+    return isNew;
+}
+
+bool TodayNotes::read(const FunctionFace &face, const FunctionEntry &entry)
+{
+    const Reading reading{FileStamp::of(m_program.folder, entry.liveFiles), m_today,
+                          m_program.state.dateStyle, face.isGuarded(m_program.state.protectedAreas)};
+    const auto known = m_known.find(face.function);
+    if (known != m_known.end() && known->second.reading == reading)
+        return false;
+    QList<DayNote> notes;
+    if (!reading.isGuarded)
+        notes = entry.dayNotes(m_program, m_today, m_today.addDays(daysAhead));
+    m_known[face.function] = {reading, notes};
+    return true;
+}
+
+void TodayNotes::gather()
+{
+    m_notes.clear();
+    m_isWhole = true;
+    for (const FunctionFace &face : FunctionFaces::cards()) {
+        const auto known = m_known.find(face.function);
+        if (known == m_known.end())
+            continue;
+        m_isWhole = m_isWhole && !known->second.reading.isGuarded;
+        for (const DayNote &note : known->second.notes)
+            m_notes.append({note, face.function});
+    }
+    std::ranges::stable_sort(m_notes, [](const Note &one, const Note &other) {
+        return std::pair(one.note.date, momentOf(one.note)) <
+               std::pair(other.note.date, momentOf(other.note));
+    });
+}

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/mainmenu/todaypanel.h"
+
+#include "shell/controls/controls.h"
+#include "shell/look/theme.h"
+#include "shell/mainmenu/cardground.h"
+#include "shell/mainmenu/todaylist.h"
+#include "shell/mainmenu/todaymodel.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int side = CardGround::margin + 16;
+constexpr int top = CardGround::margin + 10;
+constexpr int twoColumnsFrom = 980;
+constexpr int widestColumn = 720;
+constexpr int slack = 6;
+constexpr int leastLines = 3;
+/// Where it is scrolled to, below the cards.
+constexpr int linesBelow = 8;
+
+} // namespace
+
+TodayPanel::TodayPanel(QWidget *parent)
+    : QWidget(parent)
+    , m_model(new TodayModel(this))
+    , m_list(new TodayList(m_model, this))
+    , m_nothing(makeQuietLabel(u"Nothing today or in the next seven days"_s, this))
+{
+    named(this, u"todayPanel"_s);
+    setPalette(Theme::of(this).panelPalette());
+    m_list->installEventFilter(this);
+    connect(m_list, &TodayList::opened, this, &TodayPanel::openLine);
+    connect(m_list, &TodayList::dayOpened, this,
+            [this](QDate day) { emit opened(Function::Planner, {.date = day}); });
+    connect(m_list, &TodayList::leftUpward, this, &TodayPanel::leftUpward);
+    hide();
+}
+
+void TodayPanel::show(const TodayNotes &notes, DateStyle style)
+{
+    m_model->show(notes, style);
+    const bool isEmpty = m_model->wanted() == 0;
+    m_hasSomething = !isEmpty || notes.isWhole();
+    m_list->setVisible(!isEmpty);
+    m_nothing->setVisible(isEmpty);
+    setVisible(m_hasSomething);
+    place();
+    emit sizeChanged();
+}
+
+int TodayPanel::columnsFor(int width) const
+{
+    return width >= twoColumnsFrom && m_model->wanted() > leastLines ? 2 : 1;
+}
+
+int TodayPanel::heightFor(int width, int room) const
+{
+    const int row = TodayList::rowHeight();
+    if (m_model->wanted() == 0)
+        return row + 2 * top;
+    const int columns = columnsFor(width);
+    const int wanted = (m_model->wanted() + columns - 1) / columns;
+    const int possible = (room - 2 * top) / row;
+    return std::min(wanted, possible >= std::min(leastLines, wanted) ? possible : linesBelow) * row + 2 * top;
+}
+
+void TodayPanel::takeFocus()
+{
+    m_list->setFocus(Qt::TabFocusReason);
+}
+
+void TodayPanel::openLine(int row)
+{
+    const TodayModel::Line &line = m_model->line(row);
+    if (line.more > 0)
+        emit opened(Function::Planner, {.date = line.day});
+    else
+        emit opened(line.note.function, line.note.note.place);
+}
+
+void TodayPanel::place()
+{
+    const int columns = columnsFor(width());
+    QRect inner = rect().adjusted(side, top, -side, -top);
+    // In one wide column the eye would lose the line on its way to the end.
+    inner.setWidth(std::min(inner.width(), columns * widestColumn));
+    m_model->setRoom(columns * std::max(1, inner.height() / TodayList::rowHeight()));
+    // A list as high as its lines would already wrap the last of them.
+    m_list->setGeometry(inner.adjusted(0, 0, 0, slack));
+    m_list->setColumns(columns);
+    m_nothing->setGeometry(inner);
+}
+
+void TodayPanel::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    place();
+}
+
+bool TodayPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn)
+        emit focused();
+    return QWidget::eventFilter(watched, event);
+}
+
+void TodayPanel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    QColor fill = palette().color(QPalette::Window);
+    fill.setAlphaF(CardGround::opacity);
+    painter.drawPixmap(0, 0, CardGround::of(*this, fill));
+}

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "openmainmenu.h"
+
+#include "shell/mainmenu/functioncard.h"
+#include "shell/mainmenu/todaylist.h"
+#include "shell/mainmenu/todaymodel.h"
+#include "shell/mainmenu/todaypanel.h"
+
+#include <QLabel>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QDate today(2026, 11, 21);
+
+DayNote noteOf(int daysAhead, QTime time, const QString &text, const Place &place = {})
+{
+    return {today.addDays(daysAhead), text, u"Daily Planner"_s, NoteKind::Appointment, time, place};
+}
+
+} // namespace
+
+class TestTodayPanel : public OpenMainMenu
+{
+    Q_OBJECT
+private slots:
+    void init()
+    {
+        make();
+        m_shown.clear();
+    }
+    void cleanup() { close(); }
+
+    /// Days ahead of the notes, and of the lines that they become: "+3" are three more.
+    void cutsWhatHasNoRoom_data()
+    {
+        rows<QList<int>, int, QString>({
+            {"room for all", {0, 0, 1, 7}, 4, u"0 0 1 7"_s},
+            {"today alone", {0, 0, 0, 0, 0}, 3, u"0 0 0+3"_s},
+            {"today has half", {0, 0, 0, 0, 1, 2, 3, 4}, 6, u"0 0 0+2 1 2 3+2"_s},
+            {"today takes what the others leave", {0, 0, 0, 0, 0, 1}, 5, u"0 0 0 0+2 1"_s},
+            {"long days are cut alike", {1, 1, 1, 1, 2, 3, 3, 3}, 7, u"1 1 1+2 2 3 3 3"_s},
+            {"too many days", {1, 2, 3, 4, 5}, 3, u"1 2 3+3"_s},
+            {"one line", {0, 1}, 1, u"0"_s},
+            {"nothing", {}, 3, {}},
+        });
+    }
+
+    void cutsWhatHasNoRoom()
+    {
+        const auto [days, room, expected] = row<QList<int>, int, QString>();
+        QList<TodayNotes::Note> notes;
+        for (const int day : days)
+            notes.append({noteOf(day, {}, u"Bus"_s), Function::Planner});
+        QStringList lines;
+        for (const TodayModel::Line &line : TodayModel::fit(notes, today, room)) {
+            const QString day = QString::number(today.daysTo(line.day));
+            lines << (line.more > 0 ? day + u'+' + QString::number(line.more) : day);
+        }
+        QCOMPARE(lines.join(u' '), expected);
+    }
+
+    void showsTheWeekInOrder()
+    {
+        add(Function::AddressBook, {{today, u"Anne Lind turns 48"_s, u"Address Book"_s, NoteKind::Birthday}});
+        add(Function::Planner, {noteOf(0, {11, 30}, u"Dentist"_s), noteOf(0, {8, 30}, u"Market"_s),
+                                noteOf(1, {}, u"Ferns"_s), noteOf(4, {9, 0}, u"Bus"_s)});
+        show();
+        QTRY_VERIFY(find<TodayPanel>("todayPanel")->isVisible());
+        QStringList lines;
+        for (int row = 0; row < list().model()->rowCount(); ++row)
+            lines << list().model()->index(row, 0).data(Qt::AccessibleTextRole).toString();
+        QCOMPARE(lines, (QStringList{u"Today, Anne Lind turns 48, Address Book"_s,
+                                     u"Today, 8:30 AM, Market, Daily Planner"_s,
+                                     u"Today, 11:30 AM, Dentist, Daily Planner"_s,
+                                     u"Tomorrow, Ferns, Daily Planner"_s,
+                                     u"Wed, Nov 25, 9:00 AM, Bus, Daily Planner"_s}));
+        QVERIFY(!list().visualRect(list().model()->index(4, 0)).isEmpty());
+        QVERIFY(list().viewport()->rect().contains(list().visualRect(list().model()->index(4, 0))));
+    }
+
+    void readsOnlyWhatIsNewAndOpen()
+    {
+        int read = 0;
+        m_test->setBytes(u"one.Fil"_s, "one");
+        FunctionEntry entry;
+        entry.liveFiles = QStringList{u"one.Fil"_s};
+        entry.dayNotes = [&](const Program &, QDate from, QDate to) {
+            ++read;
+            return from.daysTo(to) == 7 ? QList<DayNote>{noteOf(0, {}, u"Bus"_s)} : QList<DayNote>();
+        };
+        m_test->functions.add(Function::Planner, entry);
+        TodayNotes notes(m_test->program);
+        QVERIFY(notes.refresh());
+        QVERIFY(!notes.refresh());
+        m_test->setBytes(u"one.Fil"_s, "another");
+        QVERIFY(notes.refresh());
+        QCOMPARE(read, 2);
+        protectAll();
+        QVERIFY(notes.refresh());
+        QVERIFY(notes.notes().isEmpty() && !notes.isWhole());
+        QCOMPARE(read, 2);
+        m_test->clock.time = m_test->clock.time.addDays(1);
+        QVERIFY(notes.refresh());
+    }
+
+    void isQuietWhenThereIsNothing()
+    {
+        add(Function::Planner, {});
+        show();
+        auto *panel = find<TodayPanel>("todayPanel");
+        QTRY_VERIFY(panel->isVisible());
+        QCOMPARE(panel->findChild<QLabel *>()->text(), u"Nothing today or in the next seven days"_s);
+        // Of a guarded household it would not be true.
+        protectAll();
+        QWidget other;
+        showActive(other);
+        showActive(*m_window);
+        QTRY_VERIFY(!panel->isVisible());
+    }
+
+    void opensItsPlacesThroughTheGate()
+    {
+        const Place dentist{.date = today, .row = 3};
+        add(Function::Planner, {noteOf(0, {8, 30}, u"Market"_s), noteOf(0, {11, 30}, u"Dentist"_s, dentist)});
+        show();
+        QTRY_VERIFY(find<TodayPanel>("todayPanel")->isVisible());
+        m_window->resize(1280, 800);
+        QTest::keyClick(find<FunctionCard>("card_planner"), Qt::Key_Down);
+        QCOMPARE(m_window->focusWidget(), &list());
+        QTest::keyClick(&list(), Qt::Key_Down);
+        QTest::keyClick(&list(), Qt::Key_Return);
+        QCOMPARE(m_shown, QList<Place>{dentist});
+        QCOMPARE(m_done.guards, QList<int>());
+        m_given.verdict = PasswordGateResult::Refused;
+        m_test->state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
+        QTest::keyClick(&list(), Qt::Key_Return);
+        QCOMPARE(m_done.guards, QList<int>{Area::Planner});
+        QCOMPARE(m_shown.size(), 1);
+        m_test->state.protectedAreas.setFlag(Area::Planner, {});
+        const QRect second = list().visualRect(list().model()->index(1, 0));
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, second.center());
+        QCOMPARE(m_shown.size(), 2);
+        QTest::keyClick(&list(), Qt::Key_Up);
+        QTest::keyClick(&list(), Qt::Key_Up);
+        QCOMPARE(m_window->focusWidget(), find<FunctionCard>("card_planner"));
+    }
+
+    void leadsFromADateToThePlanner()
+    {
+        add(Function::Planner, {noteOf(2, {}, u"Ferns"_s, {.date = today.addDays(2), .row = 0})});
+        show();
+        QTRY_VERIFY(find<TodayPanel>("todayPanel")->isVisible());
+        QTRY_VERIFY(list().indexAt({10, 10}).isValid());
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, {10, 10});
+        QTest::mouseClick(find<QLabel>("dateLabel"), Qt::LeftButton);
+        const Place first{.date = today.addDays(2)}, second{.date = today};
+        QCOMPARE(m_shown, (QList<Place>{first, second}));
+        // The window is open: a click brings it back as it was, the key leads to today.
+        QTest::mouseClick(find<FunctionCard>("card_planner"), Qt::LeftButton);
+        QCOMPARE(m_shown.size(), 2);
+        QTest::keyClick(find<FunctionCard>("card_planner"), Qt::Key_Return);
+        QCOMPARE(m_shown.size(), 3);
+        QCOMPARE(m_shown.last(), second);
+    }
+
+private:
+    /// A function with these notes, which keeps the places that it is to show.
+    void add(Function function, const QList<DayNote> &notes)
+    {
+        addFunction(function);
+        FunctionEntry entry = *m_test->functions.entry(function);
+        entry.dayNotes = [notes](const Program &, QDate, QDate) { return notes; };
+        entry.show = [this](QWidget &, const Place &place) { m_shown << place; };
+        m_test->functions.add(function, entry);
+    }
+    TodayList &list() const { return *find<TodayList>("todayList"); }
+
+    QList<Place> m_shown;
+};
+
+QTEST_MAIN(TestTodayPanel)
+#include "tst_todaypanel.moc"
