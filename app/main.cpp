@@ -12,6 +12,8 @@
 #include <QApplication>
 #include <QStandardPaths>
 
+#include <optional>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -37,14 +39,16 @@ int run(QApplication &application, const DataFolder &programFolder, const DataFo
     Assembly assembly(programFolder, folder);
     Program &program = assembly.program();
     Theme::apply(application);
-    Splash1 splash(program);
-    splash.open();
+    std::optional<Splash1> splash;
+    if (Splash1::isWanted(program.store))
+        splash.emplace(program).open();
     // The main window is made ready while the splash stands, so that it is there at once when it goes.
     Startfrm mainMenu(program);
     QObject::connect(&line, &InstanceLink::called, &program.changes, &ProgramSignals::mainMenuRequested);
     // Later, when the main window has closed: what is left of the other windows is closed then.
     QObject::connect(&mainMenu, &Startfrm::exited, &application, &QApplication::quit, Qt::QueuedConnection);
-    splash.wait();
+    if (splash)
+        splash->wait();
     mainMenu.show();
     mainMenu.activateWindow();
     return QApplication::exec();

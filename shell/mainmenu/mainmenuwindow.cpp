@@ -126,6 +126,11 @@ void Startfrm::makeOptionsMenu(QMenu &menu)
     m_commands->writing(m_commands->add(&menu, u"mOPCDefault"_s, u"Default Panel Color"_s,
                                         [this] { useDefaultPanelColor(); }));
     addSeparator(menu, u"mO12"_s);
+    QSettings &store = m_program.store;
+    QAction *opening = m_commands->add(&menu, u"mOOpening"_s, u"Show &Opening Picture"_s,
+                                       [&store] { Splash1::setWanted(store, !Splash1::isWanted(store)); });
+    opening->setCheckable(true);
+    opening->setChecked(Splash1::isWanted(store));
     addSeparator(menu, u"mO1"_s);
     m_commands->add(&menu, u"mOE"_s, u"E&xit"_s, [this] { close(); });
 }

@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
+#include <QSettings>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,6 +21,7 @@ namespace {
 constexpr QSize windowSize(520, 300);
 constexpr int hillsHeight = 92;
 constexpr int iconSide = 96;
+constexpr auto wantedKey = "MainMenu/showOpeningPicture"_L1;
 
 /// One layer of hills along the lower edge: a slow wave, lower to the right.
 QPainterPath hills(const QRectF &area, qreal top, qreal rise)
@@ -50,6 +52,16 @@ Splash1::Splash1(const Program &program)
     setFixedSize(windowSize);
 }
 
+bool Splash1::isWanted(const QSettings &store)
+{
+    return store.value(wantedKey, true).toBool();
+}
+
+void Splash1::setWanted(QSettings &store, bool wanted)
+{
+    store.setValue(wantedKey, wanted);
+}
+
 void Splash1::open()
 {
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
@@ -62,8 +74,9 @@ void Splash1::open()
 void Splash1::wait()
 {
     QCoreApplication::processEvents();
-    HINFO1::pauseOneSecond(m_program);
-    HINFO1::pauseOneSecond(m_program);
+    const auto isEnough = [this] { return m_isEnough; };
+    HINFO1::pauseOneSecond(m_program, isEnough);
+    HINFO1::pauseOneSecond(m_program, isEnough);
     QCoreApplication::processEvents();
     close();
 }
@@ -86,6 +99,16 @@ void Splash1::paintCard(QPainter &painter, const QRectF &card) const
     painter.setPen(QPen(theme.edge, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(card.adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void Splash1::keyPressEvent(QKeyEvent *)
+{
+    m_isEnough = true;
+}
+
+void Splash1::mousePressEvent(QMouseEvent *)
+{
+    m_isEnough = true;
 }
 
 void Splash1::paintEvent(QPaintEvent *)

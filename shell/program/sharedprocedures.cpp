@@ -70,6 +70,13 @@ bool HINFO1::askFamilyName(Program &program, QWidget *parent)
 
 void HINFO1::pauseOneSecond(const Program &program)
 {
+    pauseOneSecond(program, [] { return false; });
+}
+
+void HINFO1::pauseOneSecond(const Program &program, const std::function<bool()> &isEnough)
+{
+    if (isEnough())
+        return;
     const int second = program.clock.now().time().second();
     QElapsedTimer waited;
     waited.start();
@@ -77,7 +84,7 @@ void HINFO1::pauseOneSecond(const Program &program)
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
         // A clock that stands still, or is set back all the time, must not hold the program up.
-        if (program.clock.now().time().second() != second || waited.hasExpired(2000))
+        if (program.clock.now().time().second() != second || waited.hasExpired(2000) || isEnough())
             loop.quit();
     });
     timer.start(clockStep);

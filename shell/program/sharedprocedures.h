@@ -4,6 +4,8 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 class SettingsChange;
 struct Program;
@@ -26,6 +28,8 @@ void showColorConflict(Program &program, QWidget *parent);
 
 /// Waits, processing window messages, until the wall-clock second has moved on by one.
 void pauseOneSecond(const Program &program);
+/// The same, but for not waiting any longer once `isEnough` says so.
+void pauseOneSecond(const Program &program, const std::function<bool()> &isEnough);
 
 /// Kept distinct from every answer of a message box: tells `updateProgramColors` not to ask.
 inline constexpr int updateWithoutAsking = 9786;

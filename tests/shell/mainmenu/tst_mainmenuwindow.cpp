@@ -104,6 +104,7 @@ private slots:
   mO2 -
   mOPCDefault Default Panel Color
   mO12 -
+  mOOpening Show &Opening Picture
   mO1 -
   mOE E&xit
 Mf &Program Functions
