@@ -89,3 +89,17 @@ std::vector<int> DayLines::share(int characters, int capacity, Style style) cons
     }
     return lines;
 }
+
+std::vector<int> DayLines::uncut(int characters, int capacity, Style style) const
+{
+    int free = lineCount(characters, style) <= capacity ? capacity : capacity - 1;
+    std::vector<int> lines;
+    for (int entry = 0; entry < count(); ++entry) {
+        const int own = wanted(entry, characters, style);
+        free -= own;
+        if (free < 0)
+            break;
+        lines.push_back(own);
+    }
+    return lines;
+}

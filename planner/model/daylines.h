@@ -28,6 +28,10 @@ public:
     /// there are more entries than lines, the last line is left for telling how many are missing.
     std::vector<int> share(int characters, int capacity, Style style = InColumns) const;
 
+    /// The lines of the first entries that `capacity` lines hold uncut; when those are not all, the last line
+    /// is left for telling how many are missing.
+    std::vector<int> uncut(int characters, int capacity, Style style = InColumns) const;
+
 private:
     struct Line {
         QString time;

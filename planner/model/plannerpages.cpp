@@ -170,23 +170,41 @@ Page wideWeek(QDate start, const Days &days, const PageContext &context)
     return page.close(context.today, context.style);
 }
 
-void placeMonthDay(Page &page, const QRectF &cell, QDate date, const PlannerDay &entries)
+/// Gives the number of entries that the place holds, none of them cut.
+int placeMonthDay(Page &page, const QRectF &cell, QDate date, const DayLines &lines)
 {
     const QRectF place = cell.adjusted(inset, inset / 2, -inset, 0);
     page.placeText({place.topLeft(), QSizeF(place.width(), bodyLine)}, QString::number(date.day()),
                    TextRole::Strong);
-    const DayLines lines(entries);
     const QRectF rest = place.adjusted(0, bodyLine, 0, 0);
-    const auto shares =
-        lines.share(int(rest.width() * dense.characters), int(rest.height() / dense.line), DayLines::Joined);
+    const auto uncut =
+        lines.uncut(int(rest.width() * dense.characters), int(rest.height() / dense.line), DayLines::Joined);
     double y = rest.top();
-    for (int i = 0; i < int(shares.size()); ++i) {
-        const double height = shares[std::size_t(i)] * dense.line;
+    for (int i = 0; i < int(uncut.size()); ++i) {
+        const double height = uncut[std::size_t(i)] * dense.line;
         page.placeText({rest.left(), y, rest.width(), height}, lines.joined(i), dense.role);
         y += height;
     }
-    if (const int missing = lines.count() - int(shares.size()); missing > 0)
-        page.placeText({rest.left(), y, rest.width(), dense.line}, u"+ %1 more"_s.arg(missing), dense.role);
+    if (const int missing = lines.count() - int(uncut.size()); missing > 0)
+        page.placeText({rest.left(), y, rest.width(), dense.line}, u"+ %1 in the list"_s.arg(missing),
+                       dense.role);
+    return int(uncut.size());
+}
+
+/// The table of dates with their entries.
+void startDateList(Page &page)
+{
+    page.columns({1.7, 0.9, 4.9}, {u"Date"_s, u"Time"_s, u"Appointment or activity"_s},
+                 {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft});
+}
+
+/// The entries of a day from `first` on; false when there are none.
+bool listDate(Page &page, QDate date, const DayLines &lines, int first, DateStyle style)
+{
+    for (int row = first; row < lines.count(); ++row)
+        page.row(
+            {row == first ? Dates::statusText(date, style) : QString(), lines.time(row), lines.text(row)});
+    return first < lines.count();
 }
 
 } // namespace
@@ -221,6 +239,7 @@ Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, c
     const QDate start = weekStart(first, firstDay);
     const int weeks = int(start.daysTo(first) + first.daysInMonth() + daysPerWeek - 1) / daysPerWeek;
     Page page(Dates::monthYear(first), headRight(context));
+    std::map<QDate, int> crowded; // with the number of entries that the calendar has
     const QRectF area = placedArea(context.setup);
     const QSizeF size(area.width() / daysPerWeek, (area.height() - headHeight) / weeks);
     for (int column = 0; column < daysPerWeek; ++column) {
@@ -237,26 +256,28 @@ Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, c
                              area.top() + headHeight + (i / daysPerWeek) * size.height());
         const QDate shown = start.addDays(i);
         page.placeRule({corner, size});
-        if (shown.month() == first.month())
-            placeMonthDay(page, {corner, size}, shown, entriesOf(days, shown));
+        if (shown.month() != first.month())
+            continue;
+        const DayLines lines(entriesOf(days, shown));
+        if (const int held = placeMonthDay(page, {corner, size}, shown, lines); held < lines.count())
+            crowded.emplace(shown, held);
     }
+    if (!crowded.empty()) {
+        page.breakPage();
+        startDateList(page);
+    }
+    for (const auto &[day, held] : crowded)
+        listDate(page, day, DayLines(entriesOf(days, day)), held, context.style);
     return page.close(context.today, context.style);
 }
 
 Page PlannerPages::range(QDate from, QDate to, const Days &days, const PageContext &context)
 {
     Page page(Dates::range(from, to, context.style), headRight(context));
-    page.columns({1.7, 0.9, 4.9}, {u"Date"_s, u"Time"_s, u"Appointment or activity"_s},
-                 {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft});
+    startDateList(page);
     bool isEmpty = true;
-    for (auto day = days.lower_bound(from); day != days.end() && day->first <= to; ++day) {
-        const DayLines lines(day->second);
-        for (int row = 0; row < lines.count(); ++row) {
-            const QString head = row == 0 ? Dates::statusText(day->first, context.style) : QString();
-            page.row({head, lines.time(row), lines.text(row)});
-            isEmpty = false;
-        }
-    }
+    for (auto day = days.lower_bound(from); day != days.end() && day->first <= to; ++day)
+        isEmpty = !listDate(page, day->first, DayLines(day->second), 0, context.style) && isEmpty;
     if (isEmpty)
         page.line(u"Nothing is planned for these days."_s);
     return page.close(context.today, context.style);

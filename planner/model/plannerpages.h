@@ -26,8 +26,8 @@ Page day(QDate date, const PlannerDay &entries, const PageContext &context);
 /// on a second one when they must.
 Page week(QDate start, const Days &days, const PageContext &context);
 
-/// The month of `date` as a calendar; a day with more entries than its place holds tells how many are
-/// missing.
+/// The month of `date` as a calendar. A day with more than its place holds tells how much is missing, and a
+/// list behind the calendar has that.
 Page month(QDate date, const Days &days, Qt::DayOfWeek firstDay, const PageContext &context);
 
 /// The dates from `from` to `to` that have entries, as a list.

@@ -3,17 +3,15 @@
 
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
-#include "planner/model/plannerpages.h"
 #include "planner/window/calendaroptionspanel.h"
-#include "planner/window/daterangedialog.h"
 #include "planner/window/daysview.h"
+#include "planner/window/plannerprint.h"
 #include "planner/window/plannersidepane.h"
 #include "planner/window/plannerviews.h"
 #include "planner/window/recurrencepanel.h"
 #include "planner/window/searchpanel.h"
 #include "planner/window/todoimporter.h"
 #include "shell/controls/activitybar.h"
-#include "shell/controls/datebox.h"
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
@@ -52,6 +50,8 @@ Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
     , m_hits(new SearchPanel(m_files, program.state.dateStyle))
     , m_recurrence(new RecurrencePanel(program))
     , m_optionsPanel(new CalendarOptionsPanel)
+    , m_print(new PlannerPrint(program, this, {m_files, m_options, m_day, m_views},
+                               [this] { return mayReplaceDay(); }))
     , m_splitter(new SideSplitter(u"leftPaneSplitter"_s, m_side, makeWorkPanel(),
                                   [this](QSize window) { return m_side->fitWindow(window); }))
 {
@@ -170,9 +170,6 @@ void Zcalandar1::addEditCommands(QMenu *menu)
 void Zcalandar1::addOptionCommands(QMenu *menu)
 {
     const auto dayOnly = [this] { return whyNoDay(); };
-    const auto whyNoPrint = [this] {
-        return m_views->areDatesShown() || isPreviewShown() ? QString() : PlannerLines::inCalendarViewsOnly();
-    };
     Commands &all = commands();
     menu->addAction(standard(Standard::PanelColor));
     all.writing(all.add(menu, u"mOCal"_s, u"&Calendar Options"_s, [this] {
@@ -185,23 +182,9 @@ void Zcalandar1::addOptionCommands(QMenu *menu)
     all.writing(all.add(
         menu, u"mOClr"_s, u"C&lear Day"_s, [this] { m_day->clear(); }, dayOnly));
     menu->addSeparator();
-    QAction *print = all.add(
-        menu, u"mOPrt"_s, u"&Print"_s,
-        [this] {
-            if (const DaysView *view = m_views->shownDays())
-                printDays(view);
-            else
-                printDay();
-        },
-        whyNoPrint, CommonKeys::print);
-    all.add(menu, u"mOPDay"_s, u"Print &Day"_s, [this] { printDay(); });
-    all.add(menu, u"mOPWeek"_s, u"Print &Week"_s, [this] { printDays(m_views->week()); });
-    all.add(menu, u"mOPMonth"_s, u"Print &Month"_s, [this] { printDays(m_views->month()); });
-    all.add(menu, u"mOPRange"_s, u"Print D&ates"_s, [this] { printRange(); });
+    m_print->addCommands(all, menu);
     menu->addSeparator();
     menu->addAction(standard(Standard::Exit));
-    all.tool(print, "print"_L1, u"Print"_s);
-    all.separateTools();
 }
 
 void Zcalandar1::connectDay()
@@ -389,37 +372,4 @@ void Zcalandar1::refreshFromFiles()
 {
     m_side->refreshMarks();
     m_day->reload();
-}
-
-void Zcalandar1::printDay()
-{
-    const QDate date = m_views->date();
-    const PlannerDay day = date == m_day->date() ? m_day->typed() : m_files.peek(date);
-    showPreview([=](const PageContext &context) { return PlannerPages::day(date, day, context); },
-                u"Planner "_s + date.toString(Qt::ISODate));
-}
-
-void Zcalandar1::printDays(const DaysView *view)
-{
-    // The page shows what the files hold.
-    if (!mayReplaceDay())
-        return;
-    const QDate date = m_views->date();
-    showPreview([=, this](const PageContext &context) { return view->page(date, m_options, context); },
-                view->printName(date));
-}
-
-void Zcalandar1::printRange()
-{
-    if (!mayReplaceDay())
-        return;
-    const QDate first = m_views->date();
-    const QDate last = PlannerDates::within(first.addMonths(1).addDays(-1));
-    DateRangeDialog dialog(first, last, {program().state.dateStyle, clock()}, this);
-    if (program().dialogs.run(dialog) != QDialog::Accepted)
-        return;
-    const auto page = [this, from = dialog.from(), to = dialog.to()](const PageContext &context) {
-        return PlannerPages::rangeOf(m_files, from, to, context);
-    };
-    showPreview(page, u"Planner dates"_s);
 }

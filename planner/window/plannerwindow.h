@@ -8,6 +8,7 @@
 
 class CalendarOptionsPanel;
 class DaysView;
+class PlannerPrint;
 class PlannerSidePane;
 class PlannerViews;
 class RecurrencePanel;
@@ -63,10 +64,6 @@ private:
     /// Days were written behind the window.
     void refreshFromFiles();
 
-    void printDay();
-    void printDays(const DaysView *view);
-    void printRange();
-
     PlannerFiles m_files;
     CalendarOptions m_options;
     ToDoImporter *m_import;
@@ -76,5 +73,6 @@ private:
     SearchPanel *m_hits;
     RecurrencePanel *m_recurrence;
     CalendarOptionsPanel *m_optionsPanel;
+    PlannerPrint *m_print;
     SideSplitter *m_splitter;
 };

@@ -131,21 +131,52 @@ void FunctionWindow::setBusy(bool busy)
 
 void FunctionWindow::showPreview(std::function<Page(const PageContext &)> builder, const QString &jobName)
 {
+    bringPreview().show([this, build = std::move(builder)](
+                            const PageSetup &setup) { return headed(build(pageContext(setup))); },
+                        jobName);
+}
+
+void FunctionWindow::showLandscape(std::function<Page(const PageContext &)> builder, const QString &jobName)
+{
+    bringPreview().show([this, build = std::move(builder)](
+                            const PageSetup &setup) { return headed(build(pageContext(setup))); },
+                        jobName, PreviewPane::Lie::Landscape);
+}
+
+void FunctionWindow::showSheets(std::function<PageSheets(const PageContext &)> builder,
+                                const QString &jobName)
+{
+    bringPreview().showSheets(
+        [this, build = std::move(builder)](const PageSetup &setup) {
+            const PageSheets sheets = build(pageContext(setup));
+            return PageSheets{sheets.count,
+                              [this, make = sheets.make](int sheet) { return headed(make(sheet)); }};
+        },
+        jobName);
+}
+
+PageContext FunctionWindow::pageContext(const PageSetup &setup) const
+{
+    return {setup, m_program.state.dateStyle, m_program.clock.today(), m_program.state.familyName.text()};
+}
+
+/// The household's name heads a page with a title where it has no other word at its right.
+Page FunctionWindow::headed(Page page) const
+{
+    if (page.headRight().isEmpty() && !page.title().isEmpty())
+        page.setHeadRight(m_program.state.familyName.text());
+    return page;
+}
+
+PreviewPane &FunctionWindow::bringPreview()
+{
     if (!isPreviewShown())
         m_focusBeforePreview = focusWidget();
     PreviewPane &pane = preview();
     m_stack->setCurrentWidget(&pane);
-    // The household's name heads a page with a title where it has no other word at its right.
-    const auto headed = [this, build = std::move(builder)](const PageSetup &setup) {
-        Page page = build(
-            {setup, m_program.state.dateStyle, m_program.clock.today(), m_program.state.familyName.text()});
-        if (page.headRight().isEmpty() && !page.title().isEmpty())
-            page.setHeadRight(m_program.state.familyName.text());
-        return page;
-    };
-    pane.show(headed, jobName);
     pane.setFocus();
     m_commands->refresh();
+    return pane;
 }
 
 void FunctionWindow::closePreview()

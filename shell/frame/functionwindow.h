@@ -3,6 +3,7 @@
 
 #include "shell/core/message.h"
 #include "shell/core/pagecontext.h"
+#include "shell/core/pagesheets.h"
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/panelcolors.h"
@@ -58,6 +59,10 @@ public:
 
     /// Shows `builder`'s page over the work area; Esc or "Close Preview" brings the work back.
     void showPreview(std::function<Page(const PageContext &)> builder, const QString &jobName);
+    /// The same on a sheet that lies on its side at first.
+    void showLandscape(std::function<Page(const PageContext &)> builder, const QString &jobName);
+    /// The same for more than should be built at once.
+    void showSheets(std::function<PageSheets(const PageContext &)> builder, const QString &jobName);
     void closePreview();
     bool isPreviewShown() const;
 
@@ -134,6 +139,9 @@ private:
     };
 
     Answer askAbout(const Message &question);
+    PreviewPane &bringPreview();
+    PageContext pageContext(const PageSetup &setup) const;
+    Page headed(Page page) const;
     bool leaveView();
     void redo() const;
     QString storeKey(const QString &what) const;

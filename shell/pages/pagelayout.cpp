@@ -111,12 +111,16 @@ void PageLayout::paint(QPainter &painter, int index) const
     if (index < 0 || index >= sheetCount())
         return;
     SheetFlow(*this, index + 1, &painter).fill(m_starts[std::size_t(index)], endOf(index));
-    if (sheetCount() > 1 && m_page.sheetNumbers() == SheetNumbers::Foot) {
-        const QString number =
-            u"Page "_s + QString::number(index + 1) + u" of "_s + QString::number(sheetCount());
-        const QPointF foot(margin, sheet().height() - margin - m_types.foot.lineHeight());
-        m_types.foot.draw(painter, foot, body().width(), Qt::AlignRight, number);
-    }
+    paintNumber(painter, index + 1, sheetCount());
+}
+
+void PageLayout::paintNumber(QPainter &painter, int number, int count) const
+{
+    if (count < 2 || m_page.sheetNumbers() != SheetNumbers::Foot)
+        return;
+    const QString words = u"Page "_s + QString::number(number) + u" of "_s + QString::number(count);
+    const QPointF foot(margin, sheet().height() - margin - m_types.foot.lineHeight());
+    m_types.foot.draw(painter, foot, body().width(), Qt::AlignRight, words);
 }
 
 QString PageLayout::text(int index) const

@@ -27,6 +27,8 @@ public:
     int sheetCount() const { return int(m_starts.size()); }
     /// Draws a sheet, in points from its top left corner; nothing for an index that is no sheet.
     void paint(QPainter &painter, int index) const;
+    /// Draws "Page 2 of 5" at the foot, where the page has its numbers there.
+    void paintNumber(QPainter &painter, int number, int count) const;
     /// The sheet's text as it is read.
     QString text(int index) const;
 

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 using PageMetrics::pointsPerInch;
 
@@ -22,7 +23,14 @@ constexpr double maximumDotsPerInch = 1200;
 } // namespace
 
 PagePainter::PagePainter(const Page &page, const PageSetup &setup, const PageFont &font)
-    : m_layout(std::make_unique<PageLayout>(page, setup, font))
+    : m_font(font)
+    , m_layout(std::make_unique<PageLayout>(page, setup, font))
+{}
+
+PagePainter::PagePainter(PageSheets sheets, const PageSetup &setup, const PageFont &font)
+    : m_sheets(std::move(sheets))
+    , m_font(font)
+    , m_layout(std::make_unique<PageLayout>(m_sheets.make(0), setup, font))
 {}
 
 PagePainter::~PagePainter() = default;
@@ -31,7 +39,17 @@ PagePainter &PagePainter::operator=(PagePainter &&) noexcept = default;
 
 int PagePainter::sheetCount() const
 {
-    return m_layout->sheetCount();
+    return m_sheets.make ? m_sheets.count : m_layout->sheetCount();
+}
+
+/// The layout that has sheet `index`, as its only one where sheets are made one at a time.
+const PageLayout &PagePainter::layoutOf(int index) const
+{
+    if (m_sheets.make && index != m_laidOut && index >= 0 && index < m_sheets.count) {
+        m_layout = std::make_unique<PageLayout>(m_sheets.make(index), m_layout->setup(), m_font);
+        m_laidOut = index;
+    }
+    return *m_layout;
 }
 
 QSizeF PagePainter::sheetSize() const
@@ -41,14 +59,17 @@ QSizeF PagePainter::sheetSize() const
 
 QString PagePainter::text(int index) const
 {
-    return m_layout->text(index);
+    return layoutOf(index).text(m_sheets.make ? 0 : index);
 }
 
 void PagePainter::paintSheet(QPainter &painter, int index) const
 {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    m_layout->paint(painter, index);
+    const PageLayout &layout = layoutOf(index);
+    layout.paint(painter, m_sheets.make ? 0 : index);
+    if (m_sheets.make)
+        layout.paintNumber(painter, index + 1, m_sheets.count);
     painter.restore();
 }
 

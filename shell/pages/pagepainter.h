@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/core/page.h"
+#include "shell/core/pagesheets.h"
 #include "shell/pages/pagefont.h"
 
 #include <QImage>
@@ -21,6 +21,8 @@ class PagePainter
 {
 public:
     PagePainter(const Page &page, const PageSetup &setup, const PageFont &font);
+    /// Makes and lays out each sheet when it is drawn.
+    PagePainter(PageSheets sheets, const PageSetup &setup, const PageFont &font);
     ~PagePainter();
     PagePainter(PagePainter &&) noexcept;
     PagePainter &operator=(PagePainter &&) noexcept;
@@ -54,5 +56,10 @@ public:
     static PageSetup setupOf(const QPageLayout &layout);
 
 private:
-    std::unique_ptr<PageLayout> m_layout;
+    const PageLayout &layoutOf(int index) const;
+
+    PageSheets m_sheets;
+    PageFont m_font;
+    mutable int m_laidOut = 0; ///< of the sheets that are made one at a time
+    mutable std::unique_ptr<PageLayout> m_layout;
 };

@@ -175,10 +175,28 @@ void PreviewPane::connectControls()
     m_steps->listenTo(m_view);
 }
 
-void PreviewPane::show(Builder builder, const QString &jobName)
+void PreviewPane::show(Builder builder, const QString &jobName, Lie lie)
 {
-    m_builder = std::move(builder);
+    m_lay = [this, build = std::move(builder)](const PageSetup &setup) {
+        return PagePainter(build(setup), setup, m_font);
+    };
+    start(jobName, lie);
+}
+
+void PreviewPane::showSheets(SheetsBuilder builder, const QString &jobName)
+{
+    m_lay = [this, build = std::move(builder)](const PageSetup &setup) {
+        return PagePainter(build(setup), setup, m_font);
+    };
+    start(jobName, Lie::AsTurned);
+}
+
+void PreviewPane::start(const QString &jobName, Lie lie)
+{
     m_jobName = jobName;
+    m_lie = lie;
+    m_setup.orientation = lie == Lie::Landscape ? PageSetup::Landscape : m_turned;
+    showOrientation();
     m_steps->setPage(0, 1);
     rebuild();
 }
@@ -201,7 +219,7 @@ void PreviewPane::rebuild()
 
 PagePainter PreviewPane::paginated(const PageSetup &setup) const
 {
-    return PagePainter(m_builder ? m_builder(setup) : Page(), setup, m_font);
+    return m_lay ? m_lay(setup) : PagePainter(Page(), setup, m_font);
 }
 
 bool PreviewPane::print()
@@ -266,6 +284,8 @@ void PreviewPane::turnPage()
 {
     const bool wasPortrait = m_setup.orientation == PageSetup::Portrait;
     m_setup.orientation = wasPortrait ? PageSetup::Landscape : PageSetup::Portrait;
+    if (m_lie == Lie::AsTurned)
+        m_turned = m_setup.orientation;
     showOrientation();
     rebuild();
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/core/page.h"
+#include "shell/core/pagesheets.h"
 #include "shell/pages/pagefont.h"
 #include "shell/preview/sheetview.h"
 
@@ -28,6 +28,9 @@ class PreviewPane final : public QWidget
     Q_OBJECT
 public:
     using Builder = std::function<Page(const PageSetup &)>;
+    using SheetsBuilder = std::function<PageSheets(const PageSetup &)>;
+    /// How the sheet lies at first: as the user has turned it, or on its side.
+    enum class Lie { AsTurned, Landscape };
 
     PreviewPane(Program &program, ActivityBar &activity, QWidget *parent = nullptr);
     ~PreviewPane() override;
@@ -35,7 +38,9 @@ public:
     using QWidget::show;
     /// Takes a new content and shows its first sheet. `jobName` is the proposed name of a PDF. The pane
     /// itself is made visible by its window.
-    void show(Builder builder, const QString &jobName);
+    void show(Builder builder, const QString &jobName, Lie lie = Lie::AsTurned);
+    /// The same for more than should be built at once.
+    void showSheets(SheetsBuilder builder, const QString &jobName);
     void rebuild();
 
     /// Prints what the builder gives: the platform's print dialog, or a PDF where there is no printer. Says
@@ -70,6 +75,7 @@ private:
     void toggleButtons();
     void copyPage();
     void toggleZoom();
+    void start(const QString &jobName, Lie lie);
     void showSheet(int sheet, SheetView::Edge edge = SheetView::Edge::Top);
     void showOrientation();
     void showFont();
@@ -77,9 +83,11 @@ private:
 
     Program &m_program;
     ActivityBar &m_activity;
-    Builder m_builder;
+    std::function<PagePainter(const PageSetup &)> m_lay; ///< lays the content out
     QString m_jobName;
     PageSetup m_setup;
+    Lie m_lie = Lie::AsTurned;
+    PageSetup::Orientation m_turned = PageSetup::Portrait; ///< of the pages that lie as they are turned
     PageFont m_font;
     std::unique_ptr<PagePainter> m_painter;
     bool m_isBuilding = false;

@@ -131,12 +131,26 @@ private slots:
                                                u"Thursday"_s, u"Friday"_s, u"Saturday"_s, u"1"_s}));
         QCOMPARE(lines.count(u"28"_s), 1);
         QVERIFY(lines.contains(u"1:30 PM entry 1"_s));
-        QVERIFY(lines.last().startsWith("+ "_L1));
+        // What the crowded day has no room for stands in a list behind the calendar.
+        const qsizetype head = lines.indexOf(u"Date\tTime\tAppointment or activity"_s);
+        const int missing = int(lines.size() - head) - 1;
+        QVERIFY(head > 0 && missing > 0 && missing < 14);
+        QCOMPARE(lines[head - 1], u"+ %1 in the list"_s.arg(missing));
+        QCOMPARE(lines[head + 1],
+                 u"Sat, Feb 28, 2026\t%1:30 PM\tentry %2"_s.arg((14 - missing) % 12 + 1).arg(15 - missing));
+        QCOMPARE(lines.last(), u"\t2:30 PM\tentry 14"_s);
+        QCOMPARE(lines.filter(u"entry "_s).size(), 14);
         // Four weeks fill the sheet; no item stands beyond its edges.
         for (const Page::Item &item : page.items()) {
             if (const auto *text = std::get_if<PageItem::PlacedText>(&item))
                 QVERIFY(QRectF(0.5, 0.5, 10, 7.5).contains(text->place));
         }
+        // A text that is longer than the whole place stands there as well.
+        PlannerDay endless = numberedEntries(13);
+        endless.texts[0] = QString(50, u'w');
+        const Page other = PlannerPages::month(QDate(2026, 5, 1), {{QDate(2026, 5, 31), endless}}, Qt::Sunday,
+                                               contextOf(PageSetup::Portrait));
+        QVERIFY(linesOf(other).contains(u"Sun, May 31, 2026\t1:30 PM\t"_s + endless.texts[0]));
     }
 
     void listsARangeOfDates()
