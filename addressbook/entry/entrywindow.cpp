@@ -157,7 +157,7 @@ void ADDBKVIEW::makeEmptyButtons(QAction *enter)
 void ADDBKVIEW::makeToolbar(QAction *copy, QAction *print)
 {
     commands().tool(copy, "copy"_L1, u"Copy"_s);
-    commands().tool(print, "print"_L1, u"Print File"_s);
+    commands().tool(print, "print"_L1, u"Print"_s);
     commands().separateTools();
     for (const Standard tool : {Standard::PanelColor, Standard::Backup, Standard::Help})
         addStandardTool(tool);
@@ -195,6 +195,7 @@ void ADDBKVIEW::connectParts()
     connect(m_picturePanel, &PicturePanel::pictureDeleted, this, [this] { takePicture(noPicture); });
     connect(m_picturePanel, &PicturePanel::said, &activity(), &ActivityBar::say);
     connect(m_printOptions, &PrintOptions::pageRequested, this, &ADDBKVIEW::showPreview);
+    connect(m_printOptions, &PrintOptions::sheetsRequested, this, &ADDBKVIEW::showSheets);
 }
 
 bool ADDBKVIEW::isEmptyShown() const

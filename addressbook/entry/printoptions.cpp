@@ -138,25 +138,32 @@ void PrintOptions::printWorksheet()
     emit pageRequested(AddressPages::worksheet, u"Family and Friends Worksheet"_s);
 }
 
-AddressPages::Source PrintOptions::chosenEntries() const
+std::vector<int> PrintOptions::chosenRecords() const
 {
     const NameList &names = m_list.names();
-    return m_some->isChecked()
-               ? AddressPages::entriesOf(m_book, names, m_list.selectedRow(), m_count->value())
-               : AddressPages::entriesOf(m_book, names, 0, names.count());
+    return m_some->isChecked() ? AddressPages::recordsOf(names, m_list.selectedRow(), m_count->value())
+                               : AddressPages::recordsOf(names, 0, names.count());
 }
 
 void PrintOptions::printCards(AddressPages::PerSheet perSheet)
 {
-    const AddressPages::Source entries = chosenEntries();
-    if (AddressPages::hasManyPictures(entries) &&
+    using AddressPages::PicturePlaces;
+    const AddressPages::Entries entries = AddressPages::entriesOf(m_book, chosenRecords());
+    int pictures = 0;
+    {
+        const BusyCursor busy;
+        pictures = AddressPages::countPictures(entries);
+    }
+    if (pictures > AddressPages::recommendedPictures &&
         m_program.dialogs.ask(this, AddressMessages::manyPictures()) != Answer::Ok)
         return;
-    const auto page = [pictures = PictureFolder(m_program.folder), perSheet,
-                       entries](const PageContext &context) {
-        const BusyCursor busy;
-        const auto find = [&pictures](const QString &stored) { return pictures.locate(stored); };
-        return AddressPages::cards(perSheet, entries, find, context);
+    const PicturePlaces places = pictures > 0 ? PicturePlaces::OnEachCard : PicturePlaces::None;
+    const auto find = [folder = PictureFolder(m_program.folder)](const QString &stored) {
+        return folder.locate(stored);
     };
-    emit pageRequested(page, u"Family and Friends"_s);
+    emit sheetsRequested(
+        [=](const PageContext &context) {
+            return AddressPages::cards(perSheet, entries, places, find, context);
+        },
+        u"Family and Friends"_s);
 }

@@ -17,6 +17,7 @@ class PrintOptions final : public TaskPanel
     Q_OBJECT
 public:
     using PageBuilder = std::function<Page(const PageContext &)>;
+    using SheetsBuilder = std::function<PageSheets(const PageContext &)>;
 
     PrintOptions(Program &program, const AddressBook &book, const EntryList &list, const EntryEditor &editor,
                  QWidget *parent = nullptr);
@@ -30,13 +31,14 @@ public:
 signals:
     /// `builder` may be called again, for another sheet.
     void pageRequested(const PageBuilder &builder, const QString &jobName);
+    void sheetsRequested(const SheetsBuilder &builder, const QString &jobName);
 
 private:
     QWidget *makeChoices();
     QWidget *makeRange();
     void offerCount();
     void printCards(AddressPages::PerSheet perSheet);
-    AddressPages::Source chosenEntries() const;
+    std::vector<int> chosenRecords() const;
 
     Program &m_program;
     const AddressBook &m_book;

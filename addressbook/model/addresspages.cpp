@@ -4,6 +4,8 @@
 #include "addressbook/model/addressbook.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -70,6 +72,9 @@ CardGrid gridFor(AddressPages::PerSheet perSheet, const PageSetup &setup)
     return grid;
 }
 
+/// As many as an entry has.
+constexpr int mostTexts = 9;
+
 QStringList cardTexts(const AddressEntry &entry)
 {
     const auto labelled = [&entry](AddressField field) {
@@ -96,52 +101,56 @@ void placeTexts(Page &page, const CardGrid &grid, QRectF place, const QString &n
         placeLine(text, grid.role, grid.lineHeight);
 }
 
-/// The picture at the left of a wide card, at the top of a narrow one, the texts in the rest.
-void placeCard(Page &page, const CardGrid &grid, const QRectF &place, const AddressEntry &entry,
-               const QString &picture)
+/// The place of the picture at the left of a wide card or at the top of a narrow one; texts take the `rest`.
+QRectF takePicturePlace(const CardGrid &grid, QRectF &rest)
 {
-    const QStringList texts = cardTexts(entry);
-    QRectF rest = place;
-    if (!picture.isEmpty()) {
-        QRectF frame = place;
-        if (place.width() > 1.15 * place.height()) {
-            frame.setWidth(std::min(grid.pictureShare * place.width(), place.height()));
-            rest.setLeft(frame.right() + gap);
-        } else {
-            const double textHeight = grid.nameHeight + grid.lineHeight * double(texts.size());
-            frame.setHeight(std::min(0.5 * place.height(), place.height() - textHeight - gap / 2));
-            rest.setTop(frame.bottom() + gap / 2);
-        }
-        page.placePicture(frame, picture);
+    QRectF frame = rest;
+    if (rest.width() > 1.15 * rest.height()) {
+        frame.setWidth(std::min(grid.pictureShare * rest.width(), rest.height()));
+        rest.setLeft(frame.right() + gap);
+    } else {
+        const double textHeight = grid.nameHeight + grid.lineHeight * mostTexts;
+        frame.setHeight(std::min(0.5 * rest.height(), rest.height() - textHeight - gap / 2));
+        rest.setTop(frame.bottom() + gap / 2);
     }
-    placeTexts(page, grid, rest, entry.fullName(), texts);
+    return frame;
 }
 
 } // namespace
 
-AddressPages::Source AddressPages::entriesOf(const AddressBook &book, const NameList &names, int first,
-                                             int count)
+std::vector<int> AddressPages::recordsOf(const NameList &names, int first, int count)
 {
-    return [&book, &names, first, count](const std::function<bool(const AddressEntry &)> &visit) {
-        AddressBook::Reader entries(book);
-        const int end = std::min(first + count, names.count());
-        for (int row = first; row < end; ++row) {
-            const int record = names.recordAt(row);
-            if (record != 0 && !visit(entries.read(record)))
-                return;
-        }
-    };
+    std::vector<int> records;
+    const int end = std::min(first + count, names.count());
+    for (int row = first; row < end; ++row) {
+        if (const int record = names.recordAt(row); record != 0)
+            records.push_back(record);
+    }
+    return records;
 }
 
-bool AddressPages::hasManyPictures(const Source &entries)
+AddressPages::Entries AddressPages::entriesOf(const AddressBook &book, std::vector<int> records)
 {
-    constexpr int recommended = 16;
+    const int all = int(records.size());
+    return {all, [&book, records = std::move(records)](int first, int count) {
+                AddressBook::Reader reader(book);
+                std::vector<AddressEntry> entries;
+                const int end = std::min(first + count, int(records.size()));
+                for (int i = first; i < end; ++i)
+                    entries.push_back(reader.read(records[std::size_t(i)]));
+                return entries;
+            }};
+}
+
+int AddressPages::countPictures(const Entries &entries)
+{
+    constexpr int atATime = 500;
     int pictures = 0;
-    entries([&pictures](const AddressEntry &entry) {
-        pictures += entry.hasPicture();
-        return pictures <= recommended;
-    });
-    return pictures > recommended;
+    for (int first = 0; first < entries.count && pictures <= recommendedPictures; first += atATime) {
+        const std::vector<AddressEntry> some = entries.read(first, atATime);
+        pictures += int(std::ranges::count_if(some, &AddressEntry::hasPicture));
+    }
+    return pictures;
 }
 
 Page AddressPages::entryPage(const AddressEntry &entry, const QString &picturePath,
@@ -150,15 +159,20 @@ Page AddressPages::entryPage(const AddressEntry &entry, const QString &picturePa
     Page page(u"Information For "_s + entry.fullName());
     if (!picturePath.isEmpty())
         page.picture(picturePath, QSizeF(2.5, 2.5)).blankLine();
-    page.line(u"Date of Birth: "_s + entry[BirthDate]);
-    page.line(
-        u"Address:  "_s +
-        joined({entry[Address1], entry[Address2], entry[City], entry[State], entry[PostalCode]}, ", "_L1));
-    page.line(u"Home Phone: "_s + entry[HomePhone]);
-    page.line(u"Mobile Phone: "_s + entry[MobilePhone]);
-    page.line(u"Fax:     "_s + entry[Fax]);
-    page.line(u"Email:  "_s + entry[Email]);
-    page.line(u"Anniversary Date:  "_s + entry[AnniversaryDate]);
+    const QString address =
+        joined({entry[Address1], entry[Address2], entry[City], entry[State], entry[PostalCode]}, ", "_L1);
+    const std::array<std::pair<QString, QString>, 7> information{
+        {{u"Date of Birth: "_s, entry[BirthDate]},
+         {u"Address:  "_s, address},
+         {u"Home Phone: "_s, entry[HomePhone]},
+         {u"Mobile Phone: "_s, entry[MobilePhone]},
+         {u"Fax:     "_s, entry[Fax]},
+         {u"Email:  "_s, entry[Email]},
+         {u"Anniversary Date:  "_s, entry[AnniversaryDate]}}};
+    for (const auto &[label, text] : information) {
+        if (!text.trimmed().isEmpty())
+            page.line(label + text);
+    }
     return page.close(context.today, context.style);
 }
 
@@ -179,21 +193,28 @@ Page AddressPages::worksheet(const PageContext &context)
     return page.close(context.today, context.style);
 }
 
-Page AddressPages::cards(PerSheet perSheet, const Source &entries, const PictureFinder &find,
-                         const PageContext &context)
+PageSheets AddressPages::cards(PerSheet perSheet, const Entries &entries, PicturePlaces pictures,
+                               const PictureFinder &find, const PageContext &context)
 {
-    Page page(u"Family/Friends Data"_s);
-    const CardGrid grid = gridFor(perSheet, context.setup);
-    int placed = 0;
-    entries([&](const AddressEntry &entry) {
-        const int index = placed++ % int(perSheet);
-        if (index == 0 && placed > 1)
-            page.breakPage();
-        const QString picture = entry.hasPicture() ? find(entry.picture) : QString();
-        placeCard(page, grid, grid.place(index), entry, picture);
-        return true;
-    });
-    return page.close(context.today, context.style);
+    const int each = int(perSheet);
+    const int count = std::max(1, (entries.count + each - 1) / each);
+    const auto sheet = [=](int index) {
+        Page page(u"Family/Friends Data"_s);
+        const CardGrid grid = gridFor(perSheet, context.setup);
+        int placed = 0;
+        for (const AddressEntry &entry : entries.read(index * each, each)) {
+            QRectF place = grid.place(placed++);
+            if (pictures == PicturePlaces::OnEachCard) {
+                const QRectF frame = takePicturePlace(grid, place);
+                if (const QString path = entry.hasPicture() ? find(entry.picture) : QString();
+                    !path.isEmpty())
+                    page.placePicture(frame, path);
+            }
+            placeTexts(page, grid, place, entry.fullName(), cardTexts(entry));
+        }
+        return index + 1 == count ? page.close(context.today, context.style) : page;
+    };
+    return {count, sheet};
 }
 
 QString AddressPages::townLine(const AddressEntry &entry)

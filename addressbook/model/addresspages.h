@@ -2,10 +2,11 @@
 #pragma once
 
 #include "addressbook/model/addressentry.h"
-#include "shell/core/page.h"
 #include "shell/core/pagecontext.h"
+#include "shell/core/pagesheets.h"
 
 #include <functional>
+#include <vector>
 
 class AddressBook;
 class NameList;
@@ -16,28 +17,41 @@ namespace AddressPages {
 /// How many entries share a sheet.
 enum class PerSheet { Two = 2, Four = 4, Eight = 8 };
 
-/// Walks over the entries to print and hands each to its visitor until that returns false, so that a full
-/// book is never held at once.
-using Source = std::function<void(const std::function<bool(const AddressEntry &)> &visit)>;
+/// The entries to print. They are read as they are needed: a full book is never held at once.
+struct Entries {
+    int count = 0;
+    /// Those from `first` on, at most `count`.
+    std::function<std::vector<AddressEntry>(int first, int count)> read;
+};
 
-/// The entries of `count` lines of `names` from `first` on, as far as there are so many; lines that lead
-/// nowhere are left out. Book and names must outlive it.
-Source entriesOf(const AddressBook &book, const NameList &names, int first, int count);
+/// The records that `count` lines of `names` from `first` on lead to, as far as there are so many; lines that
+/// lead nowhere are left out.
+std::vector<int> recordsOf(const NameList &names, int first, int count);
+/// The book must outlive the entries.
+Entries entriesOf(const AddressBook &book, std::vector<int> records);
 
-/// Whether the entries have more pictures than should be printed at once.
-bool hasManyPictures(const Source &entries);
+/// More pictures should not be printed at once.
+inline constexpr int recommendedPictures = 16;
+/// How many of the entries have a picture; who finds more than are recommended counts no further.
+int countPictures(const Entries &entries);
 
 /// Finds the file of a stored picture path; empty when there is none.
 using PictureFinder = std::function<QString(const QString &stored)>;
 
-/// One entry under "Information For " and its names; `picturePath` is the file to show beside it, or empty.
+/// One entry under "Information For " and its names, without what is empty; `picturePath` is the file to show
+/// beside it, or empty.
 Page entryPage(const AddressEntry &entry, const QString &picturePath, const PageContext &context);
 
 /// An empty form to fill in by hand.
 Page worksheet(const PageContext &context);
 
+/// Whether the cards leave a place for the picture, each at the same spot; one without a picture leaves it
+/// empty.
+enum class PicturePlaces { None, OnEachCard };
+
 /// The entries with their pictures, so many to a sheet. Places follow the sheet of the context.
-Page cards(PerSheet perSheet, const Source &entries, const PictureFinder &find, const PageContext &context);
+PageSheets cards(PerSheet perSheet, const Entries &entries, PicturePlaces pictures, const PictureFinder &find,
+                 const PageContext &context);
 
 /// "Ashford, Northland 75944": the last line of an address; empty without town, state and postal code.
 QString townLine(const AddressEntry &entry);

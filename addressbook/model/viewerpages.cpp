@@ -84,28 +84,54 @@ double usualLength(const AddressViewer &viewer, QString (AddressViewer::*cell)(i
     return double(characters) / std::max(1, cells);
 }
 
-/// The names' share of the width: each column gets what its texts need.
-double nameShare(const AddressViewer &viewer, const ViewerPages::ListOptions &options)
+/// "    Phone: 555-0142" of each row; nothing where a row has no number. Empty without telephones.
+std::vector<QString> telephones(const AddressViewer &viewer, const ViewerPages::ListOptions &options)
 {
-    constexpr double telephoneLength = 25;
-    constexpr double leastInformation = 8;
-    constexpr double least = 0.4, most = 0.8;
-    double name = usualLength(viewer, &AddressViewer::name);
-    if (options.hasTelephones && viewer.information() != Information::HomePhone)
-        name += telephoneLength;
-    const double information = std::max(leastInformation, usualLength(viewer, &AddressViewer::information));
-    return std::clamp(name / (name + information), least, most);
+    std::vector<QString> texts;
+    if (!options.hasTelephones || viewer.information() == Information::HomePhone)
+        return texts;
+    texts.resize(std::size_t(viewer.count()));
+    viewer.forEachShown([&](int row, const AddressEntry &entry) {
+        if (const QString number = telephoneOf(entry, viewer.information()); !number.isEmpty())
+            texts[std::size_t(row)] = ViewerMessages::telephone(number);
+        return true;
+    });
+    return texts;
+}
+
+/// The characters of the longest text, as far as that is no oddity.
+double telephoneLength(const std::vector<QString> &telephones)
+{
+    constexpr qsizetype mostLength = 30;
+    qsizetype longest = 0;
+    for (const QString &text : telephones)
+        longest = std::max(longest, std::min(text.size(), mostLength));
+    return double(longest);
 }
 
 PageItem::Columns listColumns(const AddressViewer &viewer, const ViewerPages::ListOptions &options,
-                              DateStyle style)
+                              const std::vector<QString> &telephones, DateStyle style)
 {
+    constexpr double leastInformation = 8;
+    constexpr double least = 0.4, most = 0.8;
     PageItem::Columns columns;
-    columns.weights = {1};
-    columns.headings = {ViewerMessages::nameHeading()};
+    const double name = usualLength(viewer, &AddressViewer::name);
+    const double telephone = telephoneLength(telephones);
+    double names = 1; // the share of names and telephones; the telephones stand under one another
     if (hasColumn(viewer)) {
-        const double share = nameShare(viewer, options);
-        columns.weights = {share, 1 - share};
+        const double information =
+            std::max(leastInformation, usualLength(viewer, &AddressViewer::information));
+        names = std::clamp((name + telephone) / (name + telephone + information), least, most);
+    }
+    const double share = telephone > 0 ? names * name / (name + telephone) : names;
+    columns.weights = {share};
+    columns.headings = {ViewerMessages::nameHeading()};
+    if (telephone > 0) {
+        columns.weights.push_back(names - share);
+        columns.headings << QString();
+    }
+    if (hasColumn(viewer)) {
+        columns.weights.push_back(1 - names);
         columns.headings << ViewerPages::heading(viewer.information(), style);
     }
     columns.lines = options.hasGridLines ? TableLines::Grid : TableLines::None;
@@ -192,22 +218,17 @@ Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, 
               options.hasAsOf ? ViewerMessages::asOf(Dates::longText(context.today, context.style))
                               : QString());
     page.numberSheets(SheetNumbers::Title);
-    page.table(listColumns(viewer, options, context.style));
-    const bool hasInformation = hasColumn(viewer);
+    const std::vector<QString> numbers = telephones(viewer, options);
+    const PageItem::Columns columns = listColumns(viewer, options, numbers, context.style);
+    page.table(columns);
     const TextRole role = options.isTwoColumns ? TextRole::Small : TextRole::Body;
-    const auto addRow = [&](int row, const QString &telephone) {
-        const QString name =
-            telephone.isEmpty() ? viewer.name(row) : viewer.name(row) + ViewerMessages::telephone(telephone);
-        page.row(hasInformation ? QStringList{name, viewer.information(row)} : QStringList{name}, role);
-    };
-    if (options.hasTelephones) {
-        viewer.forEachShown([&](int row, const AddressEntry &entry) {
-            addRow(row, telephoneOf(entry, viewer.information()));
-            return true;
-        });
-    } else {
-        for (int row = 0; row < viewer.count(); ++row)
-            addRow(row, {});
+    for (int row = 0; row < viewer.count(); ++row) {
+        QStringList cells{viewer.name(row)};
+        if (columns.weights.size() > (hasColumn(viewer) ? 2u : 1u))
+            cells << numbers[std::size_t(row)];
+        if (hasColumn(viewer))
+            cells << viewer.information(row);
+        page.row(cells, role);
     }
     if (viewer.count() == 0)
         page.row({ViewerMessages::nothingToShow(!viewer.searchText().isEmpty())});

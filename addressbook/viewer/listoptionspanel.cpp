@@ -38,7 +38,7 @@ ListOptionsPanel::ListOptionsPanel(QWidget *parent)
     options->addStretch(1);
     setContent(content);
     setLeaveButton(u"leavePrintOptions"_s, u"&Back to the Grid"_s);
-    m_print = addButton(u"printList"_s, u"&Print List"_s, ButtonKind::Main);
+    m_print = addButton(u"printList"_s, u"&Print"_s, ButtonKind::Main);
     setFocusProxy(m_print);
     connect(m_print, &QPushButton::clicked, this, &ListOptionsPanel::printRequested);
 }

@@ -117,7 +117,7 @@ void ADDBKDISPLAY2::makeMenus()
     QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
     options->addAction(standard(Standard::PanelColor));
     QAction *print = commands().add(
-        options, u"mOPrt"_s, u"&Print Page"_s, [this] { m_print->start(picturesOfPage()); },
+        options, u"mOPrt"_s, u"&Print"_s, [this] { m_print->start(picturesOfPage()); },
         [this] { return whyNoPicture(); }, CommonKeys::print);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));

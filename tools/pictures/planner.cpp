@@ -41,6 +41,14 @@ void plan(PictureSession &session)
            {"11:30 AM"_L1, "Dentist, Dr. Moreau (bring the X-ray)"_L1},
            {"2:00 PM"_L1, "Choir rehearsal, St. Olaf hall"_L1}});
     write(session, 22, {{"11:00 AM"_L1, "Walk around the lake with Anne and the dogs"_L1}});
+    write(session, 25,
+          {{"7:45 AM"_L1, "School bus, with gym bags"_L1},
+           {"9:00 AM"_L1, "Chimney sweep"_L1},
+           {"10:30 AM"_L1, "Flu shots for everybody at Dr. Bergman's"_L1},
+           {"12:15 PM"_L1, "Soup kitchen"_L1},
+           {"3:00 PM"_L1, "Violin lesson"_L1},
+           {"4:30 PM"_L1, "Collect the parcel from the post office"_L1},
+           {"7:00 PM"_L1, "House meeting"_L1}});
     write(session, 27, {{"9:00 AM"_L1, "Board meeting"_L1}, {"1:30 PM"_L1, "Collect dry cleaning"_L1}});
 }
 

@@ -9,11 +9,16 @@ namespace {
 
 const PageContext context{{}, DateStyle::Usa, QDate(2026, 11, 21), {}};
 
-AddressPages::Source times(int count, const AddressEntry &entry)
+AddressPages::Entries times(int count, const AddressEntry &entry)
 {
-    return [count, entry](const auto &visit) {
-        for (int i = 0; i < count && visit(entry); ++i) {}
-    };
+    return {count, [count, entry](int first, int wanted) {
+                return std::vector<AddressEntry>(std::size_t(std::min(wanted, count - first)), entry);
+            }};
+}
+
+QString asStored(const QString &stored)
+{
+    return stored;
 }
 
 } // namespace
@@ -45,33 +50,73 @@ private slots:
         QVERIFY(itemsOf<PageItem::Picture>(AddressPages::entryPage(m_anne, {}, context)).empty());
     }
 
+    void leavesOutWhatIsEmpty()
+    {
+        AddressEntry karl;
+        karl.texts = {u"Holm"_s, u"Karl"_s, {}, {}, {}, u"Lund"_s, {}, {}, {}, u"555-0100"_s};
+        QCOMPARE(
+            AddressPages::entryPage(karl, {}, context).toText().split(u'\n', Qt::SkipEmptyParts).mid(1, 2),
+            (QStringList{u"Address:  Lund"_s, u"Mobile Phone: 555-0100"_s}));
+    }
+
     void sharesASheetOutEvenly_data()
     {
-        rows<int, int, qsizetype>({
-            {"two, even", 2, 4, 1},
-            {"two, odd", 2, 5, 2},
-            {"four, one sheet", 4, 4, 0},
-            {"four, one more", 4, 5, 1},
-            {"eight", 8, 40, 4},
-            {"no entry", 4, 0, 0},
+        rows<int, int, int>({
+            {"two, even", 2, 4, 2},
+            {"two, odd", 2, 5, 3},
+            {"four, one sheet", 4, 4, 1},
+            {"four, one more", 4, 5, 2},
+            {"eight", 8, 40, 5},
+            {"no entry", 4, 0, 1},
         });
     }
 
     void sharesASheetOutEvenly()
     {
-        const auto [perSheet, entries, breaks] = row<int, int, qsizetype>();
-        QStringList sought;
-        const auto find = [&sought](const QString &stored) {
-            sought << stored;
-            return u"/found.jpg"_s;
+        const auto [perSheet, entries, count] = row<int, int, int>();
+        const PageSheets sheets =
+            AddressPages::cards(AddressPages::PerSheet(perSheet), times(entries, m_anne),
+                                AddressPages::PicturePlaces::OnEachCard, asStored, context);
+        QCOMPARE(sheets.count, count);
+        int pictures = 0;
+        for (int sheet = 0; sheet < count; ++sheet) {
+            const Page page = sheets.make(sheet);
+            const auto placed = int(itemsOf<PageItem::PlacedPicture>(page).size());
+            QVERIFY(placed == perSheet || sheet + 1 == count);
+            pictures += placed;
+            QCOMPARE(page.isClosed(), sheet + 1 == count);
+        }
+        QCOMPARE(pictures, entries);
+    }
+
+    void keepsThePlaceOfAMissingPicture()
+    {
+        AddressEntry plain;
+        plain[LastName] = u"Lind"_s;
+        AddressEntry pictured = plain;
+        pictured.picture = m_anne.picture;
+        const auto nameAt = [](const AddressEntry &entry, int perSheet, PageSetup::Orientation orientation,
+                               AddressPages::PicturePlaces places) {
+            PageContext lying = context;
+            lying.setup.orientation = orientation;
+            const Page page = AddressPages::cards(AddressPages::PerSheet(perSheet), times(1, entry), places,
+                                                  asStored, lying)
+                                  .make(0);
+            return itemsOf<PageItem::PlacedText>(page).at(0).place;
         };
-        const Page page =
-            AddressPages::cards(AddressPages::PerSheet(perSheet), times(entries, m_anne), find, context);
-        QCOMPARE(itemsOf<PageItem::Break>(page).size(), breaks);
-        QCOMPARE(int(itemsOf<PageItem::PlacedPicture>(page).size()), entries);
-        QCOMPARE(sought, QStringList(entries, m_anne.picture));
-        QCOMPARE(page.isEmpty(), entries == 0);
-        QVERIFY(page.isClosed());
+        using AddressPages::PicturePlaces;
+        for (const int perSheet : {2, 4, 8}) {
+            for (const auto orientation : {PageSetup::Portrait, PageSetup::Landscape}) {
+                const QRectF kept = nameAt(plain, perSheet, orientation, PicturePlaces::OnEachCard);
+                QCOMPARE(kept, nameAt(m_anne, perSheet, orientation, PicturePlaces::OnEachCard));
+                QVERIFY(kept != nameAt(plain, perSheet, orientation, PicturePlaces::None));
+            }
+        }
+        const auto count = [](const AddressEntry &entry) {
+            return AddressPages::countPictures(times(1000, entry));
+        };
+        QCOMPARE(count(plain), 0);
+        QVERIFY(count(pictured) > AddressPages::recommendedPictures);
     }
 
     void keepsCardsApart_data()
@@ -89,8 +134,9 @@ private slots:
         const QRectF usable = QRectF({}, setup.sheet()).adjusted(0.49, 1.0, -0.49, -0.9);
         for (const int perSheet : {2, 4, 8}) {
             const Page page = AddressPages::cards(AddressPages::PerSheet(perSheet), times(perSheet, m_anne),
-                                                  [](const QString &stored) { return stored; },
-                                                  {setup, context.style, context.today, {}});
+                                                  AddressPages::PicturePlaces::OnEachCard, asStored,
+                                                  {setup, context.style, context.today, {}})
+                                  .make(0);
             QList<QRectF> places;
             for (const auto &text : itemsOf<PageItem::PlacedText>(page))
                 places << text.place;

@@ -62,11 +62,11 @@ private slots:
         rows<Information, bool, QString>({
             {"information", Information::State, false, u"Lind, Anne|NL\nMüller, Karl|\nHolm, Mats|WI"_s},
             {"telephones too", Information::State, true,
-             u"Lind, Anne    Phone: 555-0142|NL\nMüller, Karl    Phone: 555-0187|\nHolm, Mats|WI"_s},
+             u"Lind, Anne|    Phone: 555-0142|NL\nMüller, Karl|    Phone: 555-0187|\nHolm, Mats||WI"_s},
             {"home numbers in their column", Information::HomePhone, true,
              u"Lind, Anne|555-0142\nMüller, Karl|\nHolm, Mats|"_s},
             {"mobile numbers in their column", Information::MobilePhone, true,
-             u"Lind, Anne    Phone: 555-0142|\nMüller, Karl|555-0187\nHolm, Mats|"_s},
+             u"Lind, Anne|    Phone: 555-0142|\nMüller, Karl||555-0187\nHolm, Mats||"_s},
             {"pictures have no column", Information::Pictures, false,
              u"Lind, Anne\nMüller, Karl\nHolm, Mats"_s},
         });
