@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "addressbook/viewer/labelpanel.h"
+#include "addressbook/shared/labelpanel.h"
 
 #include "addressbook/model/viewerlines.h"
 #include "shell/controls/busycursor.h"
