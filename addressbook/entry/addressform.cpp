@@ -24,6 +24,7 @@ namespace {
 constexpr int rowGap = 12;
 constexpr int boxGap = 14;
 constexpr int columnGap = 28;
+constexpr int linkGap = 6;
 /// Boxes are never wider than this.
 constexpr int greatestWidth = 640;
 constexpr int greatestPicture = 460;
@@ -154,12 +155,38 @@ QWidget *AddressForm::makeHomeColumn()
     birth->addWidget(m_birthFact, 1, Qt::AlignBottom);
     layout->addLayout(birth);
 
-    layout->addLayout(labelled(captions[Address1], m_boxes[Address1]));
+    layout->addLayout(labelledWithLinks(Address1));
     layout->addWidget(m_boxes[Address2]);
     addPlace(layout);
     addPhones(layout);
     layout->addStretch(1);
     return column;
+}
+
+QVBoxLayout *AddressForm::labelledWithLinks(AddressField field)
+{
+    auto *head = new QHBoxLayout;
+    head->setSpacing(linkGap);
+    head->addWidget(makeFieldLabel(captions[field], m_boxes[field], this), 1);
+    m_linkRows[field] = head;
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(1); // a link is a little higher than a label
+    layout->addLayout(head);
+    layout->addWidget(m_boxes[field]);
+    return layout;
+}
+
+void AddressForm::addLink(AddressField field, QWidget *link)
+{
+    m_linkRows[field]->addWidget(link);
+    setTabOrder(m_lastInOrder, link);
+    m_lastInOrder = link;
+}
+
+void AddressForm::addLinkBefore(AddressField field, QWidget *link)
+{
+    m_linkRows[field]->insertWidget(1, link);
+    setTabOrder(m_boxes[field]->previousInFocusChain(), link);
 }
 
 void AddressForm::addPlace(QVBoxLayout *column)
@@ -178,7 +205,7 @@ void AddressForm::addPhones(QVBoxLayout *column)
     for (std::size_t i = 0; i < fields.size(); ++i) {
         auto *boxAndDial = new QHBoxLayout;
         boxAndDial->setSpacing(6);
-        boxAndDial->addLayout(labelled(captions[fields[i]], m_boxes[fields[i]]), 1);
+        boxAndDial->addLayout(labelledWithLinks(fields[i]), 1);
         boxAndDial->addWidget(m_dialButtons[i], 0, Qt::AlignBottom);
         phones->addLayout(boxAndDial, 1);
     }
@@ -206,7 +233,7 @@ QWidget *AddressForm::makeOtherColumn()
     heading->setWordWrap(true);
     layout->addWidget(heading);
     layout->addLayout(labelled(captions[Fax], m_boxes[Fax]));
-    layout->addLayout(labelled(captions[Email], m_boxes[Email]));
+    layout->addLayout(labelledWithLinks(Email));
     m_anniversaryFact = makeFact(u"anniversaryFact"_s, this);
     auto *boxAndFact = new QWidget(this);
     auto *anniversary = new QHBoxLayout(boxAndFact);
@@ -280,6 +307,7 @@ void AddressForm::setTabOrders()
         m_enlarge,          m_boxes[Fax],       m_boxes[Email],       m_boxes[AnniversaryDate]};
     for (std::size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
+    m_lastInOrder = order.back();
 }
 
 /// The picture takes the height that the second group leaves, but no more than it can fill.

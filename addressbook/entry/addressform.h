@@ -14,6 +14,7 @@ class DatePicker;
 class FieldBox;
 class PictureFrame;
 class QBoxLayout;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -39,6 +40,12 @@ public:
     PictureFrame *picture() const { return m_picture; }
     QPushButton *enlargeButton() const { return m_enlarge; }
     QLabel *dialingLabel() const { return m_dialing; }
+
+    /// Puts a link beside the label of `field`, which must be one that has room for links: the address, a
+    /// telephone, the e-mail. Tab comes to it behind the boxes.
+    void addLink(AddressField field, QWidget *link);
+    /// The same where Tab comes to it before the box.
+    void addLinkBefore(AddressField field, QWidget *link);
 
     /// A quiet line under the names; empty takes it away.
     void setNameHint(const QString &hint);
@@ -71,6 +78,7 @@ private:
     void addPlace(QVBoxLayout *column);
     void addPhones(QVBoxLayout *column);
     FieldBox *makeBox(AddressField field);
+    QVBoxLayout *labelledWithLinks(AddressField field);
     void refreshFacts();
     void fitPicture();
     void placeEnlargeButton();
@@ -92,4 +100,6 @@ private:
     PictureFrame *m_picture = nullptr;
     QPushButton *m_enlarge = nullptr;
     QBoxLayout *m_columns;
+    std::array<QHBoxLayout *, AddressFieldCount> m_linkRows{};
+    QWidget *m_lastInOrder = nullptr; ///< of the boxes, the links and the picture
 };

@@ -2,6 +2,7 @@
 #include "addressbook/entry/entrybuttons.h"
 
 #include "addressbook/entry/entryeditor.h"
+#include "shell/controls/emptypage.h"
 #include "shell/frame/commands.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -23,4 +24,10 @@ void addEntryButtons(EntryEditor &editor, Commands &can, const EntryCommands &en
     add(entry.saveNew, u"Command1"_s, u"&Save && New Screen"_s, Side::Right, On::EntryScreen,
         ButtonKind::Main);
     add(entry.exit, u"Command8"_s, u"E&xit"_s, Side::Right);
+}
+
+void addEmptyButtons(EmptyPage &page, Commands &can, QAction *enter, QAction *restore)
+{
+    page.addButton(can.button(enter, u"emptyEntryScreen"_s, u"E&ntry Screen"_s, &page, ButtonKind::Main));
+    page.addButton(can.button(restore, u"emptyRestore"_s, u"&Restore Files from Disk"_s, &page));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 class Commands;
+class EmptyPage;
 class EntryEditor;
 class QAction;
 
@@ -19,3 +20,6 @@ struct EntryCommands {
 
 /// Puts the buttons into the foot, each on its screens.
 void addEntryButtons(EntryEditor &editor, Commands &can, const EntryCommands &entry);
+
+/// Puts what an empty book offers on its page.
+void addEmptyButtons(EmptyPage &page, Commands &can, QAction *enter, QAction *restore);

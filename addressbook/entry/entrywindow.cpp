@@ -5,6 +5,8 @@
 #include "addressbook/entry/entrybuttons.h"
 #include "addressbook/entry/entrylist.h"
 #include "addressbook/entry/picturepanel.h"
+#include "addressbook/entry/picturetaker.h"
+#include "addressbook/entry/sameaddresslink.h"
 #include "addressbook/model/entrylines.h"
 #include "addressbook/model/messages.h"
 #include "shell/controls/activitybar.h"
@@ -40,7 +42,8 @@ WindowTraits traits()
 
 } // namespace
 
-ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeModem)
+ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeModem,
+                     EntryLinks::OpenAddress openAddress)
     : FunctionWindow(program, traits(), parent)
     , m_book(program.folder)
     , m_list(new EntryList({[this] { return isModified(); }, [this] { return mayReplaceShown(); }},
@@ -56,7 +59,7 @@ ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeM
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_list, makeWorkPanel(),
                              [](QSize window) { return window.width() < 1200 ? 212 : 272; }));
     makeMenus();
-    connectParts();
+    connectParts(new EntryLinks(m_editor->form(), std::move(openAddress)));
     setViews(m_views);
     finishFrame();
     openBook(0);
@@ -140,18 +143,9 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     commands().add(edit, u"mEFind"_s, u"&Find"_s, search, noneShown, Keys::search);
     makeToolbar(copy, print);
     makeButtons(clear, saveNew, remove);
-    makeEmptyButtons(enter);
+    addEmptyButtons(*m_emptyPage, commands(), enter, standard(Standard::Restore));
     for (QAction *command : {clear, saveNew, remove, m_modify, enter, m_otherScreen})
         commands().writing(command);
-}
-
-void ADDBKVIEW::makeEmptyButtons(QAction *enter)
-{
-    Commands &can = commands();
-    m_emptyPage->addButton(
-        can.button(enter, u"emptyEntryScreen"_s, u"E&ntry Screen"_s, m_emptyPage, ButtonKind::Main));
-    m_emptyPage->addButton(can.button(standard(Standard::Restore), u"emptyRestore"_s,
-                                      u"&Restore Files from Disk"_s, m_emptyPage));
 }
 
 void ADDBKVIEW::makeToolbar(QAction *copy, QAction *print)
@@ -175,10 +169,13 @@ void ADDBKVIEW::makeButtons(QAction *clear, QAction *saveNew, QAction *remove)
     addEntryButtons(
         *m_editor, can,
         {clear, remove, picture, printOptions, m_otherScreen, m_modify, saveNew, standard(Standard::Exit)});
+    new PictureTaker(program(), *m_editor, *picture);
 }
 
-void ADDBKVIEW::connectParts()
+void ADDBKVIEW::connectParts(EntryLinks *links)
 {
+    connect(links, &EntryLinks::said, m_editor, &EntryEditor::said);
+    new SameAddressLink(m_book, *m_list, *m_editor, this);
     connect(m_list, &EntryList::rowShown, this, &ADDBKVIEW::showLine);
     connect(m_list, &EntryList::nothingFound, this, [this] { ask(AddressMessages::noMatch()); });
     connect(m_list, &EntryList::matchFound, this, [this](int row, int number, int count) {

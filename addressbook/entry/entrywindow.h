@@ -2,6 +2,7 @@
 #pragma once
 
 #include "addressbook/entry/entryeditor.h"
+#include "addressbook/entry/entrylinks.h"
 #include "addressbook/entry/printoptions.h"
 #include "addressbook/model/addressbook.h"
 #include "addressbook/shared/dialler.h"
@@ -18,7 +19,9 @@ class ADDBKVIEW final : public FunctionWindow
     Q_OBJECT
 public:
     /// `makeModem` makes the modem of a call; without it, calls go over the machine's serial ports.
-    explicit ADDBKVIEW(Program &program, QWidget *parent = nullptr, Dialler::MakeModem makeModem = {});
+    /// `openAddress` opens what the links lead to; without it, the desktop does.
+    explicit ADDBKVIEW(Program &program, QWidget *parent = nullptr, Dialler::MakeModem makeModem = {},
+                       EntryLinks::OpenAddress openAddress = {});
 
     using Mode = EntryEditor::Mode;
     Mode mode() const { return m_editor->mode(); }
@@ -39,9 +42,8 @@ private:
     void makeMenus();
     void addCommands(QMenu *options, QMenu *edit);
     void makeToolbar(QAction *copy, QAction *print);
-    void makeEmptyButtons(QAction *enter);
     void makeButtons(QAction *clear, QAction *saveNew, QAction *remove);
-    void connectParts();
+    void connectParts(EntryLinks *links);
 
     bool isNew() const { return m_editor->isNew(); }
     bool isEmptyShown() const;

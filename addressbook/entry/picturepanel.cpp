@@ -28,11 +28,6 @@ namespace {
 
 constexpr int PathRole = Qt::UserRole;
 
-QStringList pictureFilter()
-{
-    return u"*.bmp;*.wmf;*.emf;*.jpg;*.gif"_s.split(u';');
-}
-
 QListWidget *makeList(const QString &name, QWidget *parent)
 {
     auto *list = named(new QListWidget(parent), name);
@@ -201,7 +196,7 @@ bool PicturePanel::showFolder(const QString &path)
         item->setData(PathRole, folder.absoluteFilePath(name));
     }
     m_fileList->clear();
-    m_fileList->addItems(folder.entryList(pictureFilter(), QDir::Files, order));
+    m_fileList->addItems(folder.entryList(PictureFolder::fileKinds(), QDir::Files, order));
     previewFile();
     return true;
 }

@@ -25,10 +25,11 @@ QString DateFacts::ofBirth(QDate birth, QDate today, DateStyle style)
     if (birth == today)
         return u"Born today"_s;
     const QDate next = Dates::nextAnniversary(birth, today);
-    const QString age = QString::number(next.year() - birth.year());
-    if (const QString when = Dates::nearDay(next, today); !when.isEmpty())
-        return u"Birthday "_s + when + u", turning "_s + age;
-    return u"Turning "_s + age + u" on "_s + monthAndDay(next, style);
+    const int age = next.year() - birth.year();
+    const QString near = Dates::nearDay(next, today);
+    const QString when = near.isEmpty() ? u"on "_s + monthAndDay(next, style) : near;
+    const QString turns = u"urns %1 %2"_s.arg(age).arg(when);
+    return next == today ? u'T' + turns : u"%1, t%2"_s.arg(age - 1).arg(turns);
 }
 
 QString DateFacts::ofAnniversary(QDate date, QDate today)

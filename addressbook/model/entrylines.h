@@ -44,6 +44,42 @@ inline QString lockedDate()
     return u"Choose Make Modifications to change this date"_s;
 }
 
+inline QString nothingOpens(const QString &address)
+{
+    return u"No program on this computer opens "_s + address;
+}
+
+inline QString noAddressKept()
+{
+    return u"No address is kept for this name"_s;
+}
+
+inline QString replaces(const QString &texts)
+{
+    return u"Replaces: "_s + texts;
+}
+
+inline QString sameAddress(const QString &names, bool isReplacing)
+{
+    return u"Same address as "_s + names +
+           (isReplacing ? u". Ctrl+Z in a box brings back what stood there"_s : QString());
+}
+
+inline QString noPictureToTake()
+{
+    return u"There is no picture to take"_s;
+}
+
+inline QString pictureNotKept()
+{
+    return u"The picture could not be kept: the disk refused a copy of it"_s;
+}
+
+inline QString pictureKept(const QString &path)
+{
+    return u"The picture is kept as "_s + path;
+}
+
 // Reasons.
 
 inline QString chooseNameFirst()

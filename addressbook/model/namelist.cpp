@@ -133,6 +133,17 @@ QList<int> NameList::matches(QStringView text) const
     return positions;
 }
 
+QList<int> NameList::bestMatches(QStringView text) const
+{
+    QList<int> positions = matches(text);
+    const QByteArray folded = ByteCase::folded(text).value_or(QByteArray());
+    std::ranges::stable_partition(positions, [&](int position) {
+        return ByteCase::contains(bytesAt(position).first(std::min(folded.size(), bytesAt(position).size())),
+                                  folded);
+    });
+    return positions;
+}
+
 int NameList::firstMatch(QByteArrayView foldedText, int from) const
 {
     for (int position = from; position < count(); ++position) {

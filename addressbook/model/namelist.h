@@ -54,6 +54,8 @@ public:
     int find(QStringView text) const;
     /// The positions of all lines that hold `text`; none for the empty text.
     QList<int> matches(QStringView text) const;
+    /// The same with the lines that begin with `text` before the others.
+    QList<int> bestMatches(QStringView text) const;
 
     void append(QStringView line);
     /// A line as it stands in the file.

@@ -29,6 +29,19 @@ bool isFile(const QString &path)
     return file.isAbsolute() && file.isFile();
 }
 
+/// `name` as far as every file system takes it.
+QString plainFileName(const QString &name)
+{
+    QString plain = name;
+    const QString foreign = AnsiText::foreignCharacters(name);
+    plain.removeIf([&](QChar character) {
+        const bool isPlain = character.isLetterOrNumber() || u" -'"_s.contains(character);
+        return !isPlain || foreign.contains(character);
+    });
+    plain = plain.simplified();
+    return plain.isEmpty() ? u"Picture"_s : plain;
+}
+
 } // namespace
 
 PictureFolder::PictureFolder(const DataFolder &folder)
@@ -62,6 +75,27 @@ QString PictureFolder::locate(const QString &stored) const
         return {};
     const QString beside = m_folder.existingFile({}, name);
     return beside.isEmpty() ? m_folder.existingFile(u"Pictures"_s, name) : beside;
+}
+
+PictureFolder::Kept PictureFolder::keep(QByteArrayView photograph, const QString &name, qsizetype width)
+{
+    const QString place = m_folder.filePath(u"Pictures"_s);
+    const DataFolder pictures(place, m_folder.whyReadOnly());
+    const QString plain = plainFileName(name);
+    QString file = plain + u".jpg"_s;
+    for (int number = 2; QFileInfo::exists(pictures.filePath(file)); ++number)
+        file = plain + u' ' + QString::number(number) + u".jpg"_s;
+    const QString path = QDir::toNativeSeparators(pictures.filePath(file));
+    if (!isStorable(path, width))
+        return {{}, false};
+    const bool isKept = !m_folder.isReadOnly() && !photograph.isEmpty() && QDir().mkpath(place) &&
+                        Saving::replaceFile(pictures, file, photograph);
+    return {isKept ? path : QString(), true};
+}
+
+QStringList PictureFolder::fileKinds()
+{
+    return u"*.bmp;*.wmf;*.emf;*.jpg;*.gif"_s.split(u';');
 }
 
 bool PictureFolder::isStorable(const QString &path, qsizetype width)

@@ -3,6 +3,7 @@
 
 #include "shell/look/theme.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
@@ -40,6 +41,16 @@ QImage PictureFile::read(const QString &path, QSize bound)
             reader.setScaledSize(size.scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1}));
     }
     return reader.read();
+}
+
+QByteArray PictureFile::asPhotograph(const QImage &image)
+{
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(0, 0, image);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return opaque.save(&buffer, "JPG", 92) ? bytes : QByteArray();
 }
 
 PictureFrame::PictureFrame(QWidget *parent)
@@ -111,10 +122,16 @@ void PictureFrame::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!hasPicture()) {
-        paintEmpty(painter);
+    hasPicture() ? paintPicture(painter) : paintEmpty(painter);
+    if (!hasFocus())
         return;
-    }
+    painter.setPen(QPen(Theme::of(this).accent, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(mat()).adjusted(1, 1, -1, -1), 4, 4);
+}
+
+void PictureFrame::paintPicture(QPainter &painter) const
+{
     const Theme &theme = Theme::of(this);
     const bool dark = theme.scheme == Icons::Scheme::Dark;
     const QRect outside = mat();

@@ -12,6 +12,10 @@ namespace PictureFile {
 /// not there, not an ordinary file, or not a picture that this system can read.
 QImage read(const QString &path, QSize bound);
 
+/// The bytes of `image` as a JPEG file; what can be seen through is white. Empty when it cannot be written
+/// so.
+QByteArray asPhotograph(const QImage &image);
+
 } // namespace PictureFile
 
 /// An entry's picture on its white mat, or a dashed frame with a few words where there is none.
@@ -55,6 +59,7 @@ protected:
 
 private:
     QSize matFor(QSize room) const;
+    void paintPicture(QPainter &painter) const;
     void paintEmpty(QPainter &painter) const;
     void tellChange();
 

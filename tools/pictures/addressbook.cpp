@@ -48,6 +48,10 @@ void takeEntry(PictureSession &session)
     session.key(Qt::Key_Down);
     session.click("pictureEnter");
     session.take("address-book-entry");
+    session.fill("Text1_5", u"Lund"_s);
+    session.click("sameAddress");
+    session.type(u"ann"_s);
+    session.take("address-book-same-address");
 }
 
 } // namespace

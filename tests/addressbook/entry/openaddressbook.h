@@ -26,8 +26,12 @@ protected:
     void show()
     {
         delete m_window;
-        m_window = new ADDBKVIEW(m_test->program, nullptr,
-                                 [this] { return std::make_unique<ScriptedModem>(m_line); });
+        m_window = new ADDBKVIEW(
+            m_test->program, nullptr, [this] { return std::make_unique<ScriptedModem>(m_line); },
+            [this](const QUrl &url) {
+                m_opened.append(url.toString(QUrl::FullyEncoded));
+                return m_opens;
+            });
         new QAbstractItemModelTester(list()->model(), QAbstractItemModelTester::FailureReportingMode::QtTest,
                                      m_window);
         showActive(*m_window);
@@ -73,4 +77,6 @@ protected:
     }
 
     TelephoneLine m_line;
+    QStringList m_opened; ///< by the links
+    bool m_opens = true;
 };

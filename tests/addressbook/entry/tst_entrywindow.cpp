@@ -121,14 +121,15 @@ private slots:
     {
         click("Command6");
         QStringList names;
-        for (const QWidget *at = find<QWidget>("Text2"); names.size() < 21; at = at->nextInFocusChain()) {
+        for (const QWidget *at = find<QWidget>("Text2"); names.size() < 23; at = at->nextInFocusChain()) {
             if (at->isVisible() && (at->focusPolicy() & Qt::TabFocus))
                 names.append(at->objectName());
         }
         QCOMPARE(names.join(u' '),
-                 u"Text2 namesAToZ List1 Text1_0 Text1_1 Text1_2 Text1_3 Text1_4 Text1_5 Text1_6 Text1_7 "
-                 "Text1_8 Image2_0 Text1_9 Image2_1 Text1_10 Text1_11 Text1_12 Command2 Command7 "
-                 "Command6"_s);
+                 u"Text2 namesAToZ List1 Text1_0 Text1_1 Text1_2 sameAddress Text1_3 Text1_4 Text1_5 Text1_6 "
+                 u"Text1_7 "
+                 "Text1_8 Image2_0 Text1_9 Image2_1 Text1_10 Text1_11 Text1_12 Image1 Command2 "
+                 "Command7 Command6"_s);
     }
 
     void savesANewEntry()
