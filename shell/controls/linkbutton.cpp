@@ -5,6 +5,7 @@
 #include "shell/look/theme.h"
 
 #include <QPainter>
+#include <QShortcutEvent>
 #include <QStyle>
 
 namespace {
@@ -33,6 +34,17 @@ QSize LinkButton::sizeHint() const
 {
     const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
     return words + QSize(2 * sideGap, 2 * rimGap);
+}
+
+/// Its access key acts at once: the tenth of a second that a button takes to be seen pressed is longer than
+/// the way to the next key.
+bool LinkButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
+        click();
+        return true;
+    }
+    return QAbstractButton::event(event);
 }
 
 void LinkButton::paintEvent(QPaintEvent *)
