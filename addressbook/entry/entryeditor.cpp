@@ -160,7 +160,7 @@ QString EntryEditor::names() const
     return m_isStray ? IndexLine::name(m_line).toString() : m_loaded.fullName();
 }
 
-bool EntryEditor::remove(AddressBook &book)
+std::optional<RecordChange> EntryEditor::remove(AddressBook &book)
 {
     return m_isStray ? book.removeStray(m_line) : book.remove(m_record);
 }

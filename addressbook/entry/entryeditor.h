@@ -50,7 +50,7 @@ public:
     AddressBook::SaveResult save(AddressBook &book);
     /// Whose entry, or which line, `remove` deletes.
     QString names() const;
-    [[nodiscard]] bool remove(AddressBook &book);
+    [[nodiscard]] std::optional<RecordChange> remove(AddressBook &book);
 
     /// A picture taken while the entry is locked opens it, so that it can be saved.
     void setPicture(const QString &stored);

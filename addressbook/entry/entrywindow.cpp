@@ -2,6 +2,7 @@
 #include "addressbook/entry/entrywindow.h"
 
 #include "addressbook/entry/addressform.h"
+#include "addressbook/entry/bookchanges.h"
 #include "addressbook/entry/entrybuttons.h"
 #include "addressbook/entry/entrylist.h"
 #include "addressbook/entry/picturepanel.h"
@@ -15,6 +16,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
+#include "shell/frame/undostack.h"
 #include "shell/frame/workviews.h"
 #include "shell/pictures/enlargedpicture.h"
 
@@ -49,6 +51,9 @@ ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeM
     , m_list(new EntryList({[this] { return isModified(); }, [this] { return mayReplaceShown(); }},
                            program.store, this))
     , m_editor(new EntryEditor(program, this))
+    , m_changes(new BookChanges({m_book, *m_list, *m_editor, undoStack(),
+                                 [this](int record) { openBook(m_list->shownRow(), record); }},
+                                this))
     , m_dialler(program, this, m_editor->form().dialingLabel(), std::move(makeModem))
     , m_views(new WorkViews(this))
     , m_emptyPage(new EmptyPage("address-book"_L1, u"Nobody is in the address book yet"_s,
@@ -133,6 +138,7 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     add(u"mOW"_s, u"Print &Worksheet"_s, &ADDBKVIEW::printWorksheet);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
+    undoStack().addCommands(edit);
     commands().repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
     commands().repeat(m_modify, edit, u"mEMod1"_s);
     commands().setKeyIn(m_list, remove, Keys::remove);
@@ -184,6 +190,7 @@ void ADDBKVIEW::connectParts(EntryLinks *links)
     });
     connect(m_editor, &EntryEditor::changed, this, &ADDBKVIEW::refreshScreen);
     connect(m_editor, &EntryEditor::said, &activity(), &ActivityBar::say);
+    connect(m_changes, &BookChanges::said, &activity(), &ActivityBar::say);
     connect(&m_editor->form(), &AddressForm::dialRequested, this, [this](const QString &number) {
         if (!m_dialler.call(number))
             activity().say(FrameLines::settingNotSaved());
@@ -221,16 +228,17 @@ void ADDBKVIEW::refreshScreen()
     commands().refresh();
 }
 
-void ADDBKVIEW::openBook(int row)
+void ADDBKVIEW::openBook(int row, int record)
 {
     m_list->setNames(m_book.loadNames());
+    const int found = m_list->names().positionOf(record);
     if (m_list->names().isEmpty()) {
         m_list->showNone();
         m_editor->show({});
         activity().say(AddressLines::nothingSaved());
         m_emptyPage->setFocus();
     } else {
-        m_list->showRow(std::min(row, m_list->names().count() - 1));
+        m_list->showRow(found >= 0 ? found : std::clamp(row, 0, m_list->names().count() - 1));
         m_list->setFocus();
     }
 }
@@ -309,6 +317,7 @@ bool ADDBKVIEW::save()
         return false;
     m_list->replaceShown(result.line);
     m_editor->lock();
+    m_changes->saved(result);
     return true;
 }
 
@@ -336,6 +345,7 @@ void ADDBKVIEW::saveAndNew()
     startEntry();
     m_list->showNoneButSaved();
     activity().say(said);
+    undoStack().offer();
 }
 
 void ADDBKVIEW::clearData()
@@ -358,15 +368,8 @@ void ADDBKVIEW::modifyOrSave()
 
 void ADDBKVIEW::deleteShown()
 {
-    const QString names = m_editor->names();
-    if (ask(AddressMessages::deleteEntry(names)) != Answer::Yes)
-        return;
-    if (!m_editor->remove(m_book)) {
-        activity().say(AddressMessages::deleteFailed());
-        return;
-    }
-    openBook(m_list->shownRow());
-    activity().say(AddressLines::deleted(names));
+    if (ask(AddressMessages::deleteEntry(m_editor->names())) == Answer::Yes)
+        m_changes->removeShown();
 }
 
 void ADDBKVIEW::copyShown()
@@ -391,7 +394,7 @@ void ADDBKVIEW::loadPicture()
 
 void ADDBKVIEW::takePicture(const QString &path)
 {
-    m_editor->setPicture(path);
+    m_changes->takePicture(path);
     m_views->goHome();
     m_editor->form().box(LastName)->setFocus();
 }

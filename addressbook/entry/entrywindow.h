@@ -8,6 +8,7 @@
 #include "addressbook/shared/dialler.h"
 #include "shell/frame/functionwindow.h"
 
+class BookChanges;
 class EmptyPage;
 class EntryList;
 class PicturePanel;
@@ -50,7 +51,8 @@ private:
     QString whyUnchangeable() const;
     void refreshScreen();
 
-    void openBook(int row); ///< and shows the entry of this row, or the last one
+    /// Shows the entry of `record`; where the list has none, that of this row, or the last one.
+    void openBook(int row, int record = 0);
     void showLine(int row);
     bool mayReplaceShown();
     bool isLastNameGiven();
@@ -72,6 +74,7 @@ private:
     AddressBook m_book;
     EntryList *m_list;
     EntryEditor *m_editor;
+    BookChanges *m_changes;
     Dialler m_dialler;
     WorkViews *m_views;
     EmptyPage *m_emptyPage;

@@ -3,7 +3,6 @@
 
 #include "addressbook/model/indexline.h"
 #include "storage/ansitext.h"
-#include "storage/changeset.h"
 #include "storage/recordvalue.h"
 
 #include <algorithm>
@@ -43,6 +42,29 @@ bool isFree(QByteArrayView record)
 bool isEntry(QByteArrayView record)
 {
     return byteAt(record, 0) != '\0' && !isDeleted(record);
+}
+
+QByteArray deletedEntry()
+{
+    AddressEntry cleared;
+    cleared[LastName] = QString::fromLatin1(deletedName);
+    return addressLayout.encode(cleared);
+}
+
+QByteArray deletedLine()
+{
+    return *RecordValue::encodeText(IndexLine::deletionMark(), lineRecordLength);
+}
+
+/// Where the file ends before the record, a deleted one comes back: files never shrink, and a line of zeros
+/// in the first record would be listed.
+void put(RecordChange &change, const RecordFile &file, int record, QByteArrayView after,
+         QByteArrayView deleted)
+{
+    if (file.recordCount() < record)
+        change.write(file, record, after, deleted);
+    else
+        change.write(file, record, after);
 }
 
 bool isEntryRecord(int record)
@@ -145,26 +167,24 @@ AddressBook::SaveResult AddressBook::saveChanged(int record, const AddressEntry 
     return write(record, entry);
 }
 
-bool AddressBook::remove(int record)
+std::optional<RecordChange> AddressBook::remove(int record)
 {
     if (!isEntryRecord(record))
-        return false;
-    AddressEntry cleared;
-    cleared[LastName] = QString::fromLatin1(deletedName);
-    ChangeSet change(m_folder);
-    change.write(entries(), record, addressLayout.encode(cleared));
-    change.write(index(), record, *RecordValue::encodeText(IndexLine::deletionMark(), lineRecordLength));
-    return change.commit();
+        return {};
+    RecordChange change;
+    change.write(entries(), record, deletedEntry());
+    change.write(index(), record, deletedLine());
+    return change.commit(m_folder) ? std::optional(change) : std::nullopt;
 }
 
-bool AddressBook::removeStray(QStringView line)
+std::optional<RecordChange> AddressBook::removeStray(QStringView line)
 {
     const int record = strayRecord(line);
     if (record == 0)
-        return false;
-    ChangeSet change(m_folder);
-    change.write(index(), record, *RecordValue::encodeText(IndexLine::deletionMark(), lineRecordLength));
-    return change.commit();
+        return {};
+    RecordChange change;
+    change.write(index(), record, deletedLine());
+    return change.commit(m_folder) ? std::optional(change) : std::nullopt;
 }
 
 void AddressBook::forEachLive(const std::function<bool(int, const AddressEntry &)> &visit) const
@@ -202,11 +222,10 @@ AddressBook::SaveResult AddressBook::write(int record, const AddressEntry &entry
     const auto line = RecordValue::encodeText(result.line, lineRecordLength);
     result.isLineTooLong = !line;
 
-    ChangeSet change(m_folder);
-    change.write(entries(), record, bytes);
+    put(result.change, entries(), record, bytes, deletedEntry());
     if (line)
-        change.write(index(), record, *line);
-    result.isSaved = change.commit();
+        put(result.change, index(), record, *line, deletedLine());
+    result.isSaved = result.change.commit(m_folder);
     return result;
 }
 

@@ -5,11 +5,13 @@
 #include "addressbook/model/namelist.h"
 #include "storage/datafolder.h"
 #include "storage/openrecordfile.h"
+#include "storage/recordchange.h"
 #include "storage/recordfile.h"
 
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 /// The two files of the address book, which always move together: `Addbk1.Fil` holds the entries,
 /// `Addbk2.Fil` a line of the name list for each. Entry N is record N of both. No file stays open between
@@ -26,6 +28,7 @@ public:
     struct [[nodiscard]] SaveResult {
         int record = 0; ///< where the entry went; 0 when nothing was tried
         QString line;   ///< the entry's line for the name list
+        RecordChange change;
         bool isSaved = false;
         bool isBookFull = false;    ///< nothing was tried: a new entry would take the place of another
         bool isLineTooLong = false; ///< no record can hold the line: none was written, an old one stays
@@ -75,11 +78,11 @@ public:
     /// Writes the entry of `record` and its line: both or neither. A line that is too long is left out.
     SaveResult saveChanged(int record, const AddressEntry &entry);
 
-    /// Marks entry and line as deleted. False, with a line in the log and both as they were, when the disk
+    /// Marks entry and line as deleted. Nothing, with a line in the log and both as they were, when the disk
     /// refuses.
-    [[nodiscard]] bool remove(int record);
-    /// Marks a stray line as deleted. False when there is none like it, or the disk refuses.
-    [[nodiscard]] bool removeStray(QStringView line);
+    [[nodiscard]] std::optional<RecordChange> remove(int record);
+    /// Marks a stray line as deleted. Nothing when there is none like it, or the disk refuses.
+    [[nodiscard]] std::optional<RecordChange> removeStray(QStringView line);
 
     /// Visits the live entries in record order, in one pass over each file; the visitor returns false to
     /// stop. An entry is live when its own record of the index holds a line.

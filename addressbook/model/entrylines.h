@@ -29,6 +29,12 @@ inline QString deleted(const QString &names)
     return u"Deleted: "_s + names;
 }
 
+/// What a picture that is not saved yet is called where it can be undone.
+inline QString picture(bool isThere)
+{
+    return isThere ? u"Picture chosen"_s : u"Picture taken away"_s;
+}
+
 inline QString matchOf(int number, int count)
 {
     return u"%1 of %2"_s.arg(number).arg(count);

@@ -51,6 +51,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     , m_restoreTop(makeLink(u"StatusBar1_RestoreTop"_s, ShellMessages::restoreTopToolbar()))
     , m_restoreSide(makeLink(u"StatusBar1_RestoreSide"_s, ShellMessages::restoreSideToolbars()))
     , m_message(named(new ElidedLabel(this), u"statusMessage"_s))
+    , m_undo(makeLink(u"statusUndo"_s, u"Undo"_s))
     , m_progress(named(new QProgressBar(this), u"statusProgress"_s))
     , m_stop(named(new QPushButton(u"&Stop"_s, this), u"statusStop"_s))
     , m_date(named(new QLabel(this), u"statusDate"_s))
@@ -89,6 +90,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     connect(m_restoreTop, &QToolButton::clicked, this, &ActivityBar::restoreTopToolbarRequested);
     connect(m_restoreSide, &QToolButton::clicked, this, &ActivityBar::restoreSideToolbarsRequested);
     connect(m_stop, &QPushButton::clicked, this, &ActivityBar::stopRequested);
+    connect(m_undo, &QToolButton::clicked, this, &ActivityBar::undoRequested);
     // A status tip would otherwise take the place of the whole bar.
     if (parent)
         parent->installEventFilter(this);
@@ -104,7 +106,9 @@ void ActivityBar::addToRow(QHBoxLayout &row)
     row.addWidget(m_readOnly);
     row.addWidget(m_restoreTop);
     row.addWidget(m_restoreSide);
-    row.addWidget(m_message, 1);
+    row.addWidget(m_message);
+    row.addWidget(m_undo);
+    row.addStretch(1);
     row.addWidget(m_progress);
     row.addWidget(m_stop);
     row.addWidget(m_date);
@@ -150,11 +154,17 @@ void ActivityBar::say(const QString &message)
 {
     m_said = message;
     m_message->setText(message);
+    m_undo->hide();
 }
 
 QString ActivityBar::message() const
 {
     return m_said;
+}
+
+void ActivityBar::offerUndo()
+{
+    m_undo->show();
 }
 
 void ActivityBar::offerTopToolbar(bool offered)

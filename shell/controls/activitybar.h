@@ -32,6 +32,8 @@ public:
     /// A quiet line that stays until the next action; it never takes the place of the activity.
     void say(const QString &message);
     QString message() const;
+    /// Puts "Undo" behind the message until another one is said.
+    void offerUndo();
 
     void offerTopToolbar(bool offered);
     void offerSideToolbars(bool offered);
@@ -45,6 +47,7 @@ public:
 
 signals:
     void restoreTopToolbarRequested();
+    void undoRequested();
     void restoreSideToolbarsRequested();
     void stopRequested();
     /// The clock has passed midnight, or the bar comes back on another day.
@@ -68,6 +71,7 @@ private:
     QToolButton *m_restoreTop;
     QToolButton *m_restoreSide;
     ElidedLabel *m_message;
+    QToolButton *m_undo;
     QString m_said; ///< what the message shows when no control explains itself
     QProgressBar *m_progress;
     QPushButton *m_stop;

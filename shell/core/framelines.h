@@ -46,7 +46,27 @@ inline QString showOtherEditions()
     return u"Show those of other editions"_s;
 }
 
+inline QString changedSince(const QString &title)
+{
+    return u"What this wrote was changed by another window since; nothing was undone: "_s + title;
+}
+
+inline QString undoRefused(const QString &title)
+{
+    return u"The disk refused; it can be tried again: "_s + title;
+}
+
 // Reasons
+
+inline QString nothingToUndo()
+{
+    return u"Nothing to undo"_s;
+}
+
+inline QString nothingToRedo()
+{
+    return u"Nothing to redo"_s;
+}
 
 inline QString folderCannotBeWritten()
 {

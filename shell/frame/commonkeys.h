@@ -6,7 +6,7 @@
 #include <array>
 
 /// The keys that mean the same in every window: a command that does this there takes its key from here. Undo
-/// and redo belong to the box that is typed into.
+/// and redo belong to the box that is typed into while it has something to take back itself.
 namespace CommonKeys {
 
 inline constexpr QKeyCombination search = Qt::CTRL | Qt::Key_F;

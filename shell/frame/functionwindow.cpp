@@ -8,6 +8,8 @@
 #include "shell/core/framelines.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
+#include "shell/frame/undokeys.h"
+#include "shell/frame/undostack.h"
 #include "shell/frame/windowplace.h"
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
@@ -42,6 +44,13 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     , m_colors(new PanelColors(program, m_traits.colors, this, *m_activity))
     , m_commands(new Commands(this, program.folder.whyReadOnly()))
     , m_standard(new StandardCommands(program, *m_commands, *m_colors, m_traits.helpContext, this))
+    , m_undoStack(new UndoStack(
+          program, *m_commands, *m_activity,
+          [this] {
+              closePreview();
+              return mayReplace(replaceQuestion());
+          },
+          this))
     , m_toolbar(named(new WindowToolbar(program, m_traits.topToolbar, *m_commands, *m_activity, this),
                       u"toolbar"_s))
     , m_stack(new QStackedWidget(this))
@@ -66,6 +75,7 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     m_stack->addWidget(workPlace);
     setCentralWidget(content);
 
+    new UndoKeys(this);
     m_standard->addMainMenuTool();
     connect(m_colors, &PanelColors::changed, this, [this] {
         if (m_preview)

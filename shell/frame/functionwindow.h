@@ -23,6 +23,7 @@ class QMenu;
 class QStackedWidget;
 class QVBoxLayout;
 class SideSplitter;
+class UndoStack;
 class WindowToolbar;
 class WorkViews;
 
@@ -73,6 +74,8 @@ protected:
     virtual void drop() {}
     /// The question in front of leaving; only asked while the window is modified.
     virtual Message leaveQuestion() const { return {}; }
+    /// The question in front of a step that is undone or done again; only asked while the window is modified.
+    virtual Message replaceQuestion() const { return leaveQuestion(); }
     /// Before something takes the place of unsaved work: Yes saves, No drops, Cancel stays. At the end of a
     /// desktop session nobody can go back, and there is no Cancel. False: the user stays.
     bool mayReplace(const Message &question);
@@ -94,6 +97,8 @@ protected:
     void filesSeen();
 
     Commands &commands() const { return *m_commands; }
+    /// What was done here and can be taken back. A window that pushes steps has its commands in a menu.
+    UndoStack &undoStack() const { return *m_undoStack; }
     /// A command that every window has; made when first asked for. Backup and restore say when there is none
     /// in this program.
     QAction *standard(Standard command);
@@ -152,6 +157,7 @@ private:
     PanelColors *m_colors;
     Commands *m_commands;
     StandardCommands *m_standard;
+    UndoStack *m_undoStack;
     WindowToolbar *m_toolbar;
     QStackedWidget *m_stack;
     QVBoxLayout *m_workPlace;

@@ -170,6 +170,12 @@ const Save deletedEntry{[](Desk &desk) {
                             desk.click("Command3");
                         }};
 
+const Save undoneDeletion{[](Desk &desk) {
+                              deletedEntry.prepare(desk);
+                              deletedEntry.press(desk);
+                          },
+                          [](Desk &desk) { desk.trigger("mEUndo"); }};
+
 const Save savedDay{[](Desk &desk) {
                         desk.open(Function::Planner);
                         desk.type("Text2_13", u"Ferns"_s);
@@ -266,6 +272,7 @@ private slots:
             {"a new address", newEntry},
             {"another name", changedName},
             {"an address deleted", deletedEntry},
+            {"a deletion undone", undoneDeletion},
             {"a day", savedDay},
             {"a recurrence", recurrence},
             {"to-dos imported", importedToDos},

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/recordchange.h"
+
+#include "storage/changeset.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+void RecordChange::write(const RecordFile &file, int number, QByteArrayView after)
+{
+    const QByteArray former = file.read(number);
+    m_isUnknown = m_isUnknown || (former.isEmpty() && file.recordCount() >= number);
+    write(file, number, after, former);
+}
+
+void RecordChange::write(const RecordFile &file, int number, QByteArrayView after, QByteArrayView before)
+{
+    Place &place = m_places[{QFileInfo(file.path()).fileName(), number}];
+    place.recordLength = file.recordLength();
+    // What an earlier write of the same action did not reach still stands as it was.
+    const qsizetype known = place.after.size();
+    if (after.size() > known) {
+        place.before += before.sliced(std::min(known, before.size()))
+                            .first(std::clamp<qsizetype>(before.size() - known, 0, after.size() - known));
+        place.before.resize(after.size(), '\0');
+    }
+    place.after = after.toByteArray() + place.after.sliced(std::min(after.size(), known));
+}
+
+bool RecordChange::isEmpty() const
+{
+    return m_isUnknown || std::ranges::all_of(m_places, [](const auto &item) {
+               return item.second.before == item.second.after;
+           });
+}
+
+bool RecordChange::commit(const DataFolder &folder)
+{
+    return write(folder, &Place::after);
+}
+
+ChangeResult RecordChange::undo(const DataFolder &folder)
+{
+    return exchange(folder, &Place::after, &Place::before);
+}
+
+ChangeResult RecordChange::redo(const DataFolder &folder)
+{
+    return exchange(folder, &Place::before, &Place::after);
+}
+
+ChangeResult RecordChange::exchange(const DataFolder &folder, Bytes held, Bytes wanted)
+{
+    for (const auto &[where, place] : m_places) {
+        const QByteArray now = RecordFile(folder, where.first, place.recordLength).read(where.second);
+        if (!now.startsWith(place.*held))
+            return ChangeResult::Outdated;
+    }
+    return write(folder, wanted) ? ChangeResult::Done : ChangeResult::Refused;
+}
+
+bool RecordChange::write(const DataFolder &folder, Bytes wanted)
+{
+    ChangeSet change(folder);
+    for (const auto &[where, place] : m_places)
+        change.write(RecordFile(folder, where.first, place.recordLength), where.second, place.*wanted);
+    return change.commit();
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/datafolder.h"
+#include "storage/recordfile.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <map>
+#include <utility>
+
+/// How taking a change back, or making it again, went.
+enum class ChangeResult {
+    Done,
+    Outdated, ///< a place holds something else since: nothing was written
+    Refused   ///< the disk refused: nothing was written, and it can be tried again
+};
+
+/// What one action of a person changed in record files: each place as it was and as it became. It can be
+/// taken back and made again as long as nobody else has written to one of its places.
+class RecordChange
+{
+public:
+    /// Adds: record `number` of `file` begins with `after`. What stands there now is what comes back; bytes
+    /// that a file does not have yet come back as zeros, since files never shrink.
+    void write(const RecordFile &file, int number, QByteArrayView after);
+    /// The same, where it is `before` that comes back.
+    void write(const RecordFile &file, int number, QByteArrayView after, QByteArrayView before);
+
+    /// Makes the change: all of it or, where the disk refuses, nothing.
+    [[nodiscard]] bool commit(const DataFolder &folder);
+
+    /// Takes the change back, all of it or nothing.
+    [[nodiscard]] ChangeResult undo(const DataFolder &folder);
+    /// Makes the change once more, all of it or nothing.
+    [[nodiscard]] ChangeResult redo(const DataFolder &folder);
+
+    /// Whether there is something to take back.
+    bool isEmpty() const;
+
+private:
+    struct Place {
+        qsizetype recordLength = 0;
+        QByteArray before;
+        QByteArray after;
+    };
+    /// By file and record: an action that writes to a record twice has one place there.
+    using Places = std::map<std::pair<QString, int>, Place>;
+    using Bytes = QByteArray Place::*;
+
+    ChangeResult exchange(const DataFolder &folder, Bytes held, Bytes wanted);
+    bool write(const DataFolder &folder, Bytes wanted);
+
+    Places m_places;
+    bool m_isUnknown = false; ///< what stood there could not be read, and will not be guessed
+};
