@@ -8,6 +8,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -25,7 +27,8 @@ QFont dayFont()
 
 int timeWidth()
 {
-    return QFontMetrics(TypeScale::body()).horizontalAdvance(u"12:30 PM"_s);
+    const QFontMetrics metrics(TypeScale::body());
+    return std::max(metrics.horizontalAdvance(u"10:00 AM"_s), metrics.horizontalAdvance(u"12:00 AM"_s)) + 2;
 }
 
 bool hasUserColor(const QPalette &palette)

@@ -8,10 +8,21 @@
 
 namespace {
 
-/// Milliseconds of the day; what has no time comes before midnight.
+constexpr int millisecondsOfDay = 24 * 60 * 60 * 1000;
+
+/// Where a note stands in its day.
 int momentOf(const DayNote &note)
 {
-    return note.time.isValid() ? note.time.msecsSinceStartOfDay() : -1;
+    if (note.time.isValid())
+        return note.time.msecsSinceStartOfDay();
+    switch (note.kind) {
+    case NoteKind::Appointment:
+    case NoteKind::ToDo:
+    case NoteKind::Done:
+        return millisecondsOfDay;
+    default:
+        return -1;
+    }
 }
 
 } // namespace

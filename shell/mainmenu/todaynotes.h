@@ -32,7 +32,7 @@ public:
     /// Reads what is new. A guarded function is not read at all. False when everything is as it was.
     bool refresh();
 
-    /// By day; in a day first what has no time, then by time.
+    /// By day; in a day first what concerns the whole of it, then by time, then what is to be done some time.
     const QList<Note> &notes() const { return m_notes; }
     QDate today() const { return m_today; }
     /// Whether every function with notes was asked, and there is one.

@@ -17,9 +17,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int side = CardGround::margin + 16;
-constexpr int top = CardGround::margin + 10;
+constexpr int top = CardGround::margin + 8;
 constexpr int twoColumnsFrom = 980;
-constexpr int widestColumn = 720;
 constexpr int slack = 6;
 constexpr int leastLines = 3;
 /// Where it is scrolled to, below the cards.
@@ -55,9 +54,9 @@ void TodayPanel::show(const TodayNotes &notes, DateStyle style)
     emit sizeChanged();
 }
 
-int TodayPanel::columnsFor(int width) const
+int TodayPanel::columnsFor(int width)
 {
-    return width >= twoColumnsFrom && m_model->wanted() > leastLines ? 2 : 1;
+    return width >= twoColumnsFrom ? 2 : 1;
 }
 
 int TodayPanel::heightFor(int width, int room) const
@@ -66,7 +65,9 @@ int TodayPanel::heightFor(int width, int room) const
     if (m_model->wanted() == 0)
         return row + 2 * top;
     const int columns = columnsFor(width);
-    const int wanted = (m_model->wanted() + columns - 1) / columns;
+    // Few lines stand under one another.
+    const int wanted =
+        std::max((m_model->wanted() + columns - 1) / columns, std::min(m_model->wanted(), leastLines));
     const int possible = (room - 2 * top) / row;
     return std::min(wanted, possible >= std::min(leastLines, wanted) ? possible : linesBelow) * row + 2 * top;
 }
@@ -88,9 +89,7 @@ void TodayPanel::openLine(int row)
 void TodayPanel::place()
 {
     const int columns = columnsFor(width());
-    QRect inner = rect().adjusted(side, top, -side, -top);
-    // In one wide column the eye would lose the line on its way to the end.
-    inner.setWidth(std::min(inner.width(), columns * widestColumn));
+    const QRect inner = rect().adjusted(side, top, -side, -top);
     m_model->setRoom(columns * std::max(1, inner.height() / TodayList::rowHeight()));
     // A list as high as its lines would already wrap the last of them.
     m_list->setGeometry(inner.adjusted(0, 0, 0, slack));

@@ -42,7 +42,7 @@ protected:
 
 private:
     void openLine(int row);
-    int columnsFor(int width) const;
+    static int columnsFor(int width);
     void place();
 
     TodayModel *m_model;
