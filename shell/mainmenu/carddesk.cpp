@@ -83,7 +83,7 @@ void CardDesk::walk(const FunctionCard *card, int key)
     if (FunctionCard *next = GridWalk::next<FunctionCard>(m_cards, card, columns(), key))
         next->setFocus(Qt::TabFocusReason);
     else if (key == Qt::Key_Down && m_today && m_today->isVisible())
-        m_today->takeFocus();
+        m_today->setFocus(Qt::TabFocusReason);
 }
 
 void CardDesk::leaveToday()
@@ -151,7 +151,12 @@ void CardDesk::setFirstLook(FirstLook *firstLook)
     connect(m_firstLook, &FirstLook::changed, this, &CardDesk::fit);
 }
 
-/// What stands at the top comes first, then the links, then the cards.
+QWidget *CardDesk::lastStop() const
+{
+    return m_today ? m_today->focusProxy() : m_cards.back();
+}
+
+/// What stands at the top comes first, then the links, the cards and today's list.
 void CardDesk::orderTabs()
 {
     QList<QWidget *> order;
@@ -161,6 +166,7 @@ void CardDesk::orderTabs()
         for (QAbstractButton *link : m_firstLook->findChildren<QAbstractButton *>())
             order << link;
     order.append({m_cards.begin(), m_cards.end()});
+    order << lastStop();
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
@@ -175,6 +181,7 @@ void CardDesk::setToday(TodayPanel *today)
 {
     m_today = today;
     m_today->setParent(this);
+    orderTabs();
     connect(m_today, &TodayPanel::leftUpward, this, &CardDesk::leaveToday);
     connect(m_today, &TodayPanel::focused, this, [this] { emit cardFocused(m_today); });
     connect(m_today, &TodayPanel::sizeChanged, this, &CardDesk::fit);

@@ -37,6 +37,9 @@ public:
     /// Shows `today` below the cards, in what is left of the view's height where that is enough.
     void setToday(TodayPanel *today);
 
+    /// The last that the Tab key comes to.
+    QWidget *lastStop() const;
+
     /// The ink of date and sentence, by what lies under them; with `plate` they get a ground of their own.
     void setHeadInk(const QColor &ink, bool plate);
     /// The place of date and sentence in this widget.

@@ -295,7 +295,7 @@ void Startfrm::showMainMenu()
 /// The Tab key comes to the cards first, then to the links of the status bar.
 void Startfrm::orderTabs()
 {
-    QWidget *before = m_picture->desk().panels().last();
+    QWidget *before = m_picture->desk().lastStop();
     for (QToolButton *link : m_activity->findChildren<QToolButton *>()) {
         setTabOrder(before, link);
         before = link;

@@ -34,6 +34,7 @@ TodayPanel::TodayPanel(QWidget *parent)
 {
     named(this, u"todayPanel"_s);
     setPalette(Theme::of(this).panelPalette());
+    setFocusProxy(m_list);
     m_list->installEventFilter(this);
     connect(m_list, &TodayList::opened, this, &TodayPanel::openLine);
     connect(m_list, &TodayList::dayOpened, this,
@@ -70,11 +71,6 @@ int TodayPanel::heightFor(int width, int room) const
         std::max((m_model->wanted() + columns - 1) / columns, std::min(m_model->wanted(), leastLines));
     const int possible = (room - 2 * top) / row;
     return std::min(wanted, possible >= std::min(leastLines, wanted) ? possible : linesBelow) * row + 2 * top;
-}
-
-void TodayPanel::takeFocus()
-{
-    m_list->setFocus(Qt::TabFocusReason);
 }
 
 void TodayPanel::openLine(int row)

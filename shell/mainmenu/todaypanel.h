@@ -24,8 +24,6 @@ public:
     /// The height that it takes, margins included, when it is `width` wide and `room` high at most; it may be
     /// higher where the room is too small for anything.
     int heightFor(int width, int room) const;
-    /// The list, for keys that lead into it.
-    void takeFocus();
 
 signals:
     void opened(Function function, const Place &place);

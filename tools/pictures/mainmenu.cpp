@@ -14,6 +14,8 @@ void Albums::mainMenu(const Camera &camera)
 
     session.openMainMenu();
     session.take("main-menu");
+    session.focus("todayList");
+    session.take("main-menu-today");
     session.trigger("mOBC");
     session.take("background-selector");
     session.key(Qt::Key_Escape);

@@ -127,6 +127,10 @@ private slots:
         show();
         QTRY_VERIFY(find<TodayPanel>("todayPanel")->isVisible());
         m_window->resize(1280, 800);
+        QTest::keyClick(find<FunctionCard>("card_planner"), Qt::Key_Tab);
+        QCOMPARE(m_window->focusWidget(), &list());
+        QTest::keyClick(&list(), Qt::Key_Tab);
+        QCOMPARE(m_window->focusWidget()->objectName(), u"StatusBar1_RestoreSide"_s);
         QTest::keyClick(find<FunctionCard>("card_planner"), Qt::Key_Down);
         QCOMPARE(m_window->focusWidget(), &list());
         QTest::keyClick(&list(), Qt::Key_Down);
