@@ -132,10 +132,10 @@ void TodayDelegate::paintLine(QPainter &painter, const QStyleOptionViewItem &opt
         painter.drawText(where, align | Qt::AlignVCenter | Qt::TextSingleLine,
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, where.width()));
     };
+    const auto ink = index.data(TodayModel::IsOverRole).toBool() ? ThemeRole::quiet : QPalette::WindowText;
     if (static_cast<const TodayModel *>(index.model())->hasTimes()) {
         const QRect time(place.left(), place.top(), timeWidth(), place.height());
-        write(TypeScale::body(), QPalette::WindowText, time, Qt::AlignRight,
-              index.data(TodayModel::TimeRole).toString());
+        write(TypeScale::body(), ink, time, Qt::AlignRight, index.data(TodayModel::TimeRole).toString());
         place.setLeft(time.right() + gap);
     }
     const QString icon = index.data(TodayModel::IconRole).toString();
@@ -151,6 +151,6 @@ void TodayDelegate::paintLine(QPainter &painter, const QStyleOptionViewItem &opt
               source);
         place.setRight(place.right() - sourceWidth - gap);
     }
-    write(TypeScale::body(), icon.isEmpty() ? ThemeRole::strong : QPalette::WindowText, place, Qt::AlignLeft,
+    write(TypeScale::body(), icon.isEmpty() ? ThemeRole::strong : ink, place, Qt::AlignLeft,
           index.data().toString());
 }

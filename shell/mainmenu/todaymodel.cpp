@@ -7,6 +7,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,16 +25,27 @@ Notes firstDay(Notes notes)
     return notes.first(std::size_t(other - notes.begin()));
 }
 
-/// `notes` in `room` lines, the last of which counts those that find none.
+/// `notes` in `room` lines, the last of which counts those that find none: first what is over, then the last.
 void cut(Notes notes, std::size_t room, QList<Line> &lines)
 {
     if (room == 0)
         return;
-    const std::size_t shown = notes.size() <= room ? notes.size() : room - 1;
-    for (const Note &note : notes.first(shown))
-        lines.append({note.note.date, note});
-    if (shown < notes.size())
-        lines.append({notes[shown].note.date, {}, int(notes.size() - shown)});
+    const std::size_t most = notes.size() <= room ? room : room - 1;
+    std::vector<const Note *> shown;
+    std::size_t left = notes.size();
+    for (const Note &note : notes) {
+        if (left > most && note.isOver)
+            --left;
+        else
+            shown.push_back(&note);
+    }
+    const bool isCutAtEnd = shown.size() > most;
+    const QDate day = isCutAtEnd ? shown[most]->note.date : notes.empty() ? QDate() : notes.front().note.date;
+    shown.resize(std::min(shown.size(), most));
+    for (const Note *note : shown)
+        lines.append({note->note.date, *note});
+    if (shown.size() < notes.size())
+        lines.append({day, {}, int(notes.size() - shown.size())});
 }
 
 /// Each of the days in `most` lines; nothing when they do not find room.
@@ -156,6 +168,8 @@ QVariant TodayModel::data(const QModelIndex &index, int role) const
         return line.more > 0 ? QString() : QString(iconOf(line.note));
     case SourceRole:
         return note.source;
+    case IsOverRole:
+        return line.note.isOver;
     default:
         return {};
     }

@@ -16,7 +16,8 @@ public:
         DayRole = Qt::UserRole, ///< "Today", "Tomorrow", "Wed, Nov 25"
         TimeRole,               ///< "11:30 AM"; empty without one
         IconRole,               ///< name of its icon
-        SourceRole
+        SourceRole,
+        IsOverRole
     };
 
     /// A note, or how many more there are from `day` on.
@@ -42,7 +43,8 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
-    /// `notes` in `room` lines: half of them at least are today's, if it fills them; of the other days each
+    /// `notes` in `room` lines: half of them at least are today's, if it fills them, and what is
+    /// over gives way first; of the other days each
     /// is cut alike where that helps, else the last of them give way.
     static QList<Line> fit(const QList<TodayNotes::Note> &notes, QDate today, int room);
 

@@ -34,9 +34,17 @@ bool TodayNotes::refresh()
     for (const FunctionFace &face : FunctionFaces::cards())
         if (const FunctionEntry *entry = m_program.functions.entry(face.function); entry && entry->dayNotes)
             isNew = read(face, *entry) || isNew;
+    isNew = isNew || std::ranges::any_of(
+                         m_notes, [this](const Note &note) { return note.isOver != isOver(note.note); });
     if (isNew)
         gather();
     return isNew;
+}
+
+bool TodayNotes::isOver(const DayNote &note) const
+{
+    const QTime now = m_program.clock.now().time();
+    return note.date == m_today && note.time.isValid() && note.time < QTime(now.hour(), now.minute());
 }
 
 bool TodayNotes::read(const FunctionFace &face, const FunctionEntry &entry)
@@ -63,7 +71,7 @@ void TodayNotes::gather()
             continue;
         m_isWhole = m_isWhole && !known->second.reading.isGuarded;
         for (const DayNote &note : known->second.notes)
-            m_notes.append({note, face.function});
+            m_notes.append({note, face.function, isOver(note)});
     }
     std::ranges::stable_sort(m_notes, [](const Note &one, const Note &other) {
         return std::pair(one.note.date, momentOf(one.note)) <

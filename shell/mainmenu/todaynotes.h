@@ -22,6 +22,7 @@ public:
     struct Note {
         DayNote note;
         Function function;
+        bool isOver = false; ///< its time today has passed
         bool operator==(const Note &) const = default;
     };
 
@@ -29,7 +30,8 @@ public:
         : m_program(program)
     {}
 
-    /// Reads what is new. A guarded function is not read at all. False when everything is as it was.
+    /// Reads what is new. A guarded function is not read at all. False when everything is as it was, and
+    /// nothing is over that was not before.
     bool refresh();
 
     /// By day; in a day first what concerns the whole of it, then by time, then what is to be done some time.
@@ -53,6 +55,7 @@ private:
 
     bool read(const FunctionFace &face, const FunctionEntry &entry);
     void gather();
+    bool isOver(const DayNote &note) const;
 
     const Program &m_program;
     std::map<Function, Known> m_known;

@@ -45,7 +45,7 @@ TodayPanel::TodayPanel(QWidget *parent)
 
 void TodayPanel::show(const TodayNotes &notes, DateStyle style)
 {
-    m_model->show(notes, style);
+    keepLine([&] { m_model->show(notes, style); });
     const bool isEmpty = m_model->wanted() == 0;
     m_hasSomething = !isEmpty || notes.isWhole();
     m_list->setVisible(!isEmpty);
@@ -53,6 +53,15 @@ void TodayPanel::show(const TodayNotes &notes, DateStyle style)
     setVisible(m_hasSomething);
     place();
     emit sizeChanged();
+}
+
+/// The current line stays where it was while the lines are made anew.
+void TodayPanel::keepLine(const std::function<void()> &change)
+{
+    const int row = m_list->currentIndex().row();
+    change();
+    if (row >= 0)
+        m_list->setCurrentIndex(m_model->index(std::min(row, m_model->rowCount() - 1), 0));
 }
 
 int TodayPanel::columnsFor(int width)
@@ -86,7 +95,7 @@ void TodayPanel::place()
 {
     const int columns = columnsFor(width());
     const QRect inner = rect().adjusted(side, top, -side, -top);
-    m_model->setRoom(columns * std::max(1, inner.height() / TodayList::rowHeight()));
+    keepLine([&] { m_model->setRoom(columns * std::max(1, inner.height() / TodayList::rowHeight())); });
     // A list as high as its lines would already wrap the last of them.
     m_list->setGeometry(inner.adjusted(0, 0, 0, slack));
     m_list->setColumns(columns);

@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QLabel;
 class TodayList;
 class TodayModel;
@@ -40,6 +42,7 @@ protected:
 
 private:
     void openLine(int row);
+    void keepLine(const std::function<void()> &change);
     static int columnsFor(int width);
     void place();
 

@@ -52,13 +52,37 @@ private slots:
         const auto [days, room, expected] = row<QList<int>, int, QString>();
         QList<TodayNotes::Note> notes;
         for (const int day : days)
-            notes.append({noteOf(day, {}, u"Bus"_s), Function::Planner});
+            notes.append({noteOf(day, {}, u"Bus"_s), Function::Planner, false});
         QStringList lines;
         for (const TodayModel::Line &line : TodayModel::fit(notes, today, room)) {
             const QString day = QString::number(today.daysTo(line.day));
             lines << (line.more > 0 ? day + u'+' + QString::number(line.more) : day);
         }
         QCOMPARE(lines.join(u' '), expected);
+    }
+
+    void letsWhatIsOverGiveWay()
+    {
+        QList<DayNote> day;
+        for (const int hour : {8, 9, 11, 12, 13})
+            day << noteOf(0, {hour, 0}, QString::number(hour));
+        add(Function::Planner, day); // it is 10:24
+        TodayNotes notes(m_test->program);
+        QVERIFY(notes.refresh());
+        const auto shown = [&](int room) {
+            QStringList texts;
+            for (const TodayModel::Line &line : TodayModel::fit(notes.notes(), today, room))
+                texts << (line.more > 0 ? u"+%1"_s.arg(line.more) : line.note.note.text);
+            return texts.join(u' ');
+        };
+        QCOMPARE(shown(5), u"8 9 11 12 13"_s);
+        QCOMPARE(shown(4), u"11 12 13 +2"_s);
+        QCOMPARE(shown(3), u"11 12 +3"_s);
+        m_test->clock.time.setTime({11, 0});
+        QVERIFY(!notes.refresh());
+        m_test->clock.time.setTime({11, 1});
+        QVERIFY(notes.refresh());
+        QCOMPARE(shown(3), u"12 13 +3"_s);
     }
 
     void showsTheWeekInOrder()
@@ -134,6 +158,10 @@ private slots:
         QTest::keyClick(find<FunctionCard>("card_planner"), Qt::Key_Down);
         QCOMPARE(m_window->focusWidget(), &list());
         QTest::keyClick(&list(), Qt::Key_Down);
+        m_test->clock.time.setTime({11, 31}); // the dentist is over, and the line is drawn anew
+        QWidget other;
+        showActive(other);
+        showActive(*m_window);
         QTest::keyClick(&list(), Qt::Key_Return);
         QCOMPARE(m_shown, QList<Place>{dentist});
         QCOMPARE(m_done.guards, QList<int>());
