@@ -84,6 +84,8 @@ void CardDesk::walk(const FunctionCard *card, int key)
         next->setFocus(Qt::TabFocusReason);
     else if (key == Qt::Key_Down && m_today && m_today->isVisible())
         m_today->setFocus(Qt::TabFocusReason);
+    else if (key == Qt::Key_Up && m_firstLook && m_firstLook->isVisible())
+        m_firstLook->takeFocus();
 }
 
 void CardDesk::leaveToday()
@@ -149,6 +151,7 @@ void CardDesk::setFirstLook(FirstLook *firstLook)
     m_firstLook->setParent(this);
     orderTabs();
     connect(m_firstLook, &FirstLook::changed, this, &CardDesk::fit);
+    connect(m_firstLook, &FirstLook::leftDownward, this, &CardDesk::focusFirstCard);
 }
 
 QWidget *CardDesk::lastStop() const

@@ -2,6 +2,7 @@
 #include "shell/mainmenu/firstlook.h"
 
 #include "shell/controls/controls.h"
+#include "shell/controls/gridwalk.h"
 #include "shell/controls/walkbutton.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
@@ -104,7 +105,31 @@ FirstLook::FirstLook(Program &program, QWidget *parent)
     connect(m_links[Picture], &Link::clicked, this, &FirstLook::pictureWanted);
     connect(m_links[Address], &Link::clicked, this, &FirstLook::addressWanted);
     connect(m_notNow, &Link::clicked, this, &FirstLook::sendAway);
+    for (Link *link : findChildren<Link *>())
+        connect(link, &Link::walked, this, [this, link](int key) { walk(link, key); });
     hide();
+}
+
+std::vector<FirstLook::Link *> FirstLook::shownLinks() const
+{
+    std::vector<Link *> links(m_links.begin(), m_links.end());
+    links.push_back(m_notNow);
+    std::erase_if(links, [](const Link *link) { return link->isHidden(); });
+    return links;
+}
+
+void FirstLook::takeFocus()
+{
+    shownLinks().front()->setFocus(Qt::TabFocusReason);
+}
+
+void FirstLook::walk(const Link *link, int key)
+{
+    const std::vector<Link *> links = shownLinks();
+    if (key == Qt::Key_Down)
+        emit leftDownward();
+    else if (Link *next = GridWalk::next<Link>(links, link, int(links.size()), key))
+        next->setFocus(Qt::TabFocusReason);
 }
 
 void FirstLook::begin()

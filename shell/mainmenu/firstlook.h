@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include <array>
+#include <vector>
 
 class QLabel;
 struct Program;
@@ -24,6 +25,8 @@ public:
     /// Looks what has been done by now.
     void refresh();
 
+    /// Gives its first link the focus, for keys that lead into it.
+    void takeFocus();
     /// The ink of its words on the background picture.
     void setInk(const QColor &ink);
 
@@ -31,6 +34,8 @@ signals:
     void nameWanted();
     void pictureWanted();
     void addressWanted();
+    /// An arrow key leads down and out of the line.
+    void leftDownward();
     /// The line has come or gone.
     void changed();
 
@@ -41,6 +46,8 @@ private:
 
     bool isNew() const;
     bool isDone(Step step) const;
+    std::vector<Link *> shownLinks() const;
+    void walk(const Link *link, int key);
     void sendAway();
     void end();
 

@@ -30,7 +30,11 @@ private slots:
         QCOMPARE(shown(), (QStringList{u"Name your family"_s, u"Choose a picture"_s,
                                        u"Type the first address"_s, u"Not now"_s}));
         m_test->dialogs.willInput(u"Holm"_s);
-        QTest::keyClick(find<QAbstractButton>("firstLookName"), Qt::Key_Return);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Up); // from the first card
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Right);
+        QCOMPARE(m_window->focusWidget()->objectName(), u"firstLookPicture"_s);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Home);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
         QCOMPARE(m_window->windowTitle(), u"Holm Quillery"_s);
         QCOMPARE(shown(), (QStringList{u"Choose a picture"_s, u"Type the first address"_s, u"Not now"_s}));
         QTest::mouseClick(find<QAbstractButton>("firstLookAddress"), Qt::LeftButton);
