@@ -4,7 +4,9 @@
 #include "planner/model/plannerdates.h"
 #include "shell/core/dates.h"
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 /// Lines that the planner writes into the status bar or beside a control; reasons of disabled commands among
 /// them.
@@ -49,6 +51,17 @@ inline QString beyondDates(DateStyle style)
 {
     return u"The planner has the days from "_s + Dates::monthDayYear(PlannerDates::first(), style) +
            u" to "_s + Dates::monthDayYear(PlannerDates::last(), style);
+}
+
+/// `rows` count from 0; not empty.
+inline QString sortedLast(const QList<int> &rows)
+{
+    QStringList numbers;
+    for (const int row : rows)
+        numbers << QString::number(row + 1);
+    return numbers.size() == 1
+               ? u"Row %1 has no AM or PM: it will stand last"_s.arg(numbers.first())
+               : u"Rows %1 have no AM or PM: they will stand last"_s.arg(numbers.join(u", "_s));
 }
 
 // Views and search

@@ -3,6 +3,7 @@
 
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
+#include "planner/model/usualtime.h"
 #include "planner/window/dayform.h"
 #include "planner/window/steptitle.h"
 #include "shell/controls/controls.h"
@@ -96,12 +97,16 @@ QWidget *DayEditor::makeFoot()
     QPushButton *save = makeButton(u"saveDay"_s, u"&Save Day"_s, foot, ButtonKind::Main);
     QPushButton *exit = makeButton(u"exitPlanner"_s, u"E&xit"_s, foot);
     m_unsaved = named(makeQuietLabel({}, foot), u"unsavedWords"_s);
+    m_sortedLast = named(new ElidedLabel(foot), u"sortedLastWords"_s);
+    m_sortedLast->setFont(TypeScale::label());
+    m_sortedLast->setForegroundRole(ThemeRole::quiet);
     auto *layout = new QHBoxLayout(foot);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     layout->addWidget(clear);
     layout->addWidget(m_unsaved);
-    layout->addStretch(1);
+    layout->addSpacing(8);
+    layout->addWidget(m_sortedLast, 1);
     layout->addWidget(save);
     layout->addWidget(exit);
     for (QPushButton *button : {clear, save})
@@ -164,6 +169,7 @@ UntimedPlacement DayEditor::placement() const
 
 void DayEditor::setPlacement(int placement)
 {
+    refreshModified();
     if (!m_program.settings.setNumber(SettingsKeys::plannerPlacement, placement))
         emit said(FrameLines::settingNotSaved());
 }
@@ -262,6 +268,22 @@ void DayEditor::askForDate()
 void DayEditor::refreshModified()
 {
     m_unsaved->setText(isModified() ? FrameLines::unsavedChanges() : QString());
+    const QList<int> rows = rowsSortedLast();
+    m_sortedLast->setText(rows.isEmpty() ? QString() : PlannerLines::sortedLast(rows));
+}
+
+/// Rows with a time typed since the day was loaded, as their place in the file shows the others already.
+QList<int> DayEditor::rowsSortedLast() const
+{
+    QList<int> rows;
+    if (placement() != UntimedPlacement::Last)
+        return rows;
+    const PlannerDay day = m_form->day();
+    for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
+        if (UsualTime::hasNoHalf(day.times[row]) && m_times.isTyped(row, day.times[row]))
+            rows.append(int(row));
+    }
+    return rows;
 }
 
 void DayEditor::enterRow(int row)

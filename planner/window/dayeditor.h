@@ -72,6 +72,7 @@ private:
     QWidget *makeFoot();
     void setPlacement(int placement);
     void refreshModified();
+    QList<int> rowsSortedLast() const;
     void enterRow(int row);
 
     Program &m_program;
@@ -87,4 +88,5 @@ private:
     QLabel *m_textHead = nullptr;
     QButtonGroup *m_placement = nullptr;
     QLabel *m_unsaved = nullptr;
+    QLabel *m_sortedLast = nullptr;
 };

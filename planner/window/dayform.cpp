@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/window/dayform.h"
 
+#include "planner/window/timesuggestion.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/look/theme.h"
@@ -75,6 +76,7 @@ DayForm::DayForm(QWidget *parent)
     , m_times(controlArray<FieldBox, PlannerDay::rowCount>(u"Text1"_s, this))
     , m_texts(controlArray<FieldBox, PlannerDay::rowCount>(u"Text2"_s, this))
     , m_timeList(named(new TimeList(this), u"Combo1"_s))
+    , m_suggestion(new TimeSuggestion(this))
 {
     // Fourteen rows have to fit on the smallest screen.
     setStyleSheet(u"QLineEdit { min-height: 20px; }"_s);
@@ -92,6 +94,7 @@ DayForm::DayForm(QWidget *parent)
         setUpBox(textBox(row), PlannerDay::textWidth, u"Appointment or activity of row "_s + number);
         timeBox(row)->setAlignment(Qt::AlignRight);
         timeBox(row)->setFixedWidth(timeBoxWidth);
+        m_suggestion->watch(timeBox(row));
         grid->addWidget(label, row, 0);
         grid->addWidget(timeBox(row), row, 1);
         grid->addWidget(textBox(row), row, 2);
@@ -101,6 +104,10 @@ DayForm::DayForm(QWidget *parent)
     }
     grid->setRowStretch(lastRow + 1, 1);
     connect(m_timeList, &QComboBox::activated, this, &DayForm::pickTime);
+    connect(m_suggestion, &TimeSuggestion::taken, this, [this] {
+        textBox(m_row)->setFocus(Qt::TabFocusReason);
+        emit edited();
+    });
 }
 
 void DayForm::setUpBox(FieldBox *box, int limit, const QString &accessibleName)

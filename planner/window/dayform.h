@@ -9,6 +9,7 @@
 #include <array>
 
 class FieldBox;
+class TimeSuggestion;
 
 /// The list of times (`Combo1`): an arrow in the time box of the row that has the focus.
 class TimeList final : public QComboBox
@@ -71,6 +72,7 @@ private:
     std::array<FieldBox *, PlannerDay::rowCount> m_times;
     std::array<FieldBox *, PlannerDay::rowCount> m_texts;
     TimeList *m_timeList;
+    TimeSuggestion *m_suggestion;
     int m_row = 0;
     bool m_isEntered = false;
 };

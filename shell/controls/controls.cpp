@@ -143,12 +143,12 @@ FieldBox::FieldBox(QWidget *parent)
                                        : ShellMessages::characterRefused(foreign));
     });
     const auto *pasting = new PasteFilter(this, Characters::OfTheFiles);
-    connect(pasting, &PasteFilter::leftOut, this, [this](const QString &foreign, bool isFull) {
+    connect(pasting, &PasteFilter::leftOut, this, [this](const QString &foreign, const QString &cutOff) {
         QStringList reasons;
         if (!foreign.isEmpty())
             reasons << ShellMessages::characterRefused(foreign);
-        if (isFull)
-            reasons << ShellMessages::fieldIsFull(maxLength());
+        if (!cutOff.isEmpty())
+            reasons << ShellMessages::fieldIsFull(maxLength(), cutOff);
         emit refused(reasons.join(u". "_s));
     });
 }

@@ -153,11 +153,12 @@ void PasteFilter::take(const QString &offered)
         m_characters == Characters::OfTheFiles ? AnsiText::foreignCharacters(line) : QString();
     const QString holdable = without(foreign, line);
     const auto room = m_box->maxLength() - m_box->text().size() + m_box->selectedText().size();
-    const bool isFull = holdable.size() > room;
-    if (const QString taken = holdable.left(std::max<qsizetype>(room, 0)); !taken.isEmpty())
+    const QString taken = holdable.left(std::max<qsizetype>(room, 0));
+    const QString cutOff = holdable.mid(taken.size());
+    if (!taken.isEmpty())
         insertAsOneStep(taken);
-    if (!foreign.isEmpty() || isFull)
-        emit leftOut(foreign, isFull);
+    if (!foreign.isEmpty() || !cutOff.isEmpty())
+        emit leftOut(foreign, cutOff);
 }
 
 void PasteFilter::insertAsOneStep(const QString &text)

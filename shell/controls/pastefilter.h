@@ -24,9 +24,9 @@ public:
     PasteFilter(QLineEdit *box, Characters characters);
 
 signals:
-    /// Not all of the text was taken: for the characters `foreign` to the code page, because the box
-    /// `isFull`, or for both.
-    void leftOut(const QString &foreign, bool isFull);
+    /// Not all of the text was taken: for the characters `foreign` to the code page, because the box was full
+    /// before its end, which was `cutOff`, or for both.
+    void leftOut(const QString &foreign, const QString &cutOff);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

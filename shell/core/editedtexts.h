@@ -31,6 +31,9 @@ public:
         return boxes;
     }
 
+    /// Whether the box at `place`, which holds `box`, was typed into.
+    bool isTyped(std::size_t place, const QString &box) const { return box != m_asShown[place]; }
+
     /// Whether saving `boxes` would change the file.
     bool isModified(const Texts &boxes) const { return typed(boxes) != m_asFile; }
 

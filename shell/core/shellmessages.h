@@ -121,6 +121,12 @@ inline QString fieldIsFull(int limit)
     return QStringLiteral("This box takes %1 characters at most").arg(limit);
 }
 
+/// `cutOff`: the end of what was offered, which the box did not take.
+inline QString fieldIsFull(int limit, const QString &cutOff)
+{
+    return fieldIsFull(limit) + QStringLiteral(". Cut off: \u201c%1\u201d").arg(cutOff);
+}
+
 inline QString characterRefused(const QString &characters)
 {
     return QStringLiteral("The files cannot hold the character %1").arg(characters);

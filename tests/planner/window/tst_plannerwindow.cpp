@@ -4,6 +4,7 @@
 #include "shell/core/area.h"
 #include "tests/planner/window/openplanner.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
@@ -179,6 +180,47 @@ private slots:
             QCOMPARE(text(1)->text(), QString());
             QVERIFY(said().contains(foreign));
         }
+    }
+
+    void offersTheUsualFormOfATime()
+    {
+        const auto *offer = find<QAbstractButton>("timeSuggestion");
+        time(0)->setFocus();
+        typeInto(time(0), u"930"_s);
+        QVERIFY(offer->isVisible());
+        QCOMPARE(offer->text(), u"9:30 AM"_s);
+        QTest::keyClick(time(0), Qt::Key_Tab);
+        QCOMPARE(time(0)->text(), u"9:30 AM"_s);
+        QVERIFY(focus() == text(0) && !offer->isVisible() && m_window->isModified());
+        QTest::keyClick(time(0), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(time(0)->text(), u"930"_s);
+        time(1)->setFocus();
+        typeInto(time(1), u"8p"_s);
+        QTest::keyClick(time(1), Qt::Key_Return);
+        QCOMPARE(time(1)->text(), u"8:00 PM"_s);
+        QCOMPARE(focus(), text(1));
+        for (const Qt::Key away : {Qt::Key_Down, Qt::Key_Escape}) {
+            time(2)->setFocus();
+            time(2)->clear();
+            typeInto(time(2), u"14:30"_s);
+            QVERIFY(offer->isVisible());
+            QTest::keyClick(time(2), away);
+            QVERIFY(!offer->isVisible() && isOpen());
+            QTest::keyClick(time(2), Qt::Key_Tab);
+            QCOMPARE(time(2)->text(), u"14:30"_s); // kept as it was typed
+        }
+        QCOMPARE(labelText("sortedLastWords"), u"Rows 1, 3 have no AM or PM: they will stand last"_s);
+        tick("Option7_1");
+        QVERIFY(labelText("sortedLastWords").isEmpty());
+        tick("Option7_0");
+        QGuiApplication::clipboard()->setText(u"half past nine"_s);
+        time(4)->setFocus();
+        QTest::keyClick(time(4), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(time(4)->text(), u"half past "_s);
+        QVERIFY(said().contains(u"\u201cnine\u201d"_s));
+        click("saveDay");
+        asked();
+        QVERIFY(labelText("sortedLastWords").isEmpty()); // where the rows stand shows it now
     }
 
     void walksRowsAndDaysByKeys()
