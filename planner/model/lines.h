@@ -2,6 +2,7 @@
 #pragma once
 
 #include "planner/model/plannerdates.h"
+#include "planner/model/recurrencerun.h"
 #include "shell/core/dates.h"
 
 #include <QList>
@@ -128,6 +129,44 @@ inline QString noDayOfMonth()
 inline QString noYearDay()
 {
     return u"The date of the year cannot be read"_s;
+}
+
+inline QString noKindYet()
+{
+    return u"Choose how often it comes back"_s;
+}
+
+/// "53 dates, Sat Nov 21, 2026 to Sat Nov 20, 2027".
+inline QString dates(int count, const QString &first, const QString &last)
+{
+    return count == 1 ? u"1 date, "_s + first
+                      : u"%1 dates, %2 to %3"_s.arg(QString::number(count), first, last);
+}
+
+inline QString fullDates(int count)
+{
+    return count == 1 ? u"1 of these days is full: it is left out"_s
+                      : u"%1 of these days are full: they are left out"_s.arg(count);
+}
+
+/// What stands behind a date of the first ones.
+inline QString dateMark(DateResult result)
+{
+    return result == DateResult::Full     ? u" - full, left out"_s
+           : result == DateResult::Exists ? u" - there already"_s
+                                          : QString();
+}
+
+inline QString andMore(int dates)
+{
+    return dates == 1 ? u"and 1 more"_s : u"and %1 more"_s.arg(dates);
+}
+
+inline QString wouldRemove(int count, const QString &first, const QString &last)
+{
+    if (count == 0)
+        return u"Nothing to remove: no date of these has the appointment"_s;
+    return u"Remove This Recurrence takes it out of "_s + dates(count, first, last);
 }
 
 inline QString updating()

@@ -51,6 +51,10 @@ RecurrenceForm::RecurrenceForm(const DateReading &reading, QWidget *parent)
     column->addStretch(1);
     // A kind without a default: nothing is chosen until the user does.
     connect(m_kinds, &QButtonGroup::idClicked, this, &RecurrenceForm::kindChosen);
+    for (const QButtonGroup *group : {m_kinds, m_weekdays})
+        connect(group, &QButtonGroup::idToggled, this, &RecurrenceForm::changed);
+    for (const FieldBox *box : findChildren<FieldBox *>())
+        connect(box, &QLineEdit::textChanged, this, &RecurrenceForm::changed);
 }
 
 FieldBox *RecurrenceForm::makeNumberBox(const QString &name, const QString &accessibleName)
@@ -143,6 +147,19 @@ void RecurrenceForm::reset(QDate date)
     m_weekdays->button(date.dayOfWeek())->setChecked(true);
     m_dayOfMonth->setText(QString::number(date.day()));
     m_yearDay->setDate(date);
+}
+
+void RecurrenceForm::propose(const Recurrence &recurrence)
+{
+    m_kinds->button(recurrence.kind)->setChecked(true);
+    if (recurrence.kind == Recurrence::Weekly)
+        m_weeklyInterval->setText(QString::number(recurrence.interval));
+}
+
+void RecurrenceForm::focusKind()
+{
+    QAbstractButton *chosen = m_kinds->checkedButton();
+    (chosen ? chosen : m_kinds->button(Recurrence::Daily))->setFocus();
 }
 
 std::optional<Recurrence::Kind> RecurrenceForm::kind() const

@@ -23,6 +23,10 @@ public:
 
     /// No kind chosen; the boxes propose what suits an appointment of `date`.
     void reset(QDate date);
+    /// Chooses kind and interval of `recurrence`, as a proposal.
+    void propose(const Recurrence &recurrence);
+    /// Puts the focus on the chosen kind, or on the first.
+    void focusKind();
 
     std::optional<Recurrence::Kind> kind() const;
     /// Fills in kind, interval and days of the chosen kind; the reason when a box of that kind cannot be
@@ -31,6 +35,8 @@ public:
 
 signals:
     void kindChosen();
+    /// Any of the choices and boxes has changed.
+    void changed();
     void said(const QString &line);
 
 private:

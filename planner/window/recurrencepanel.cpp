@@ -4,6 +4,7 @@
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
 #include "planner/window/recurrenceform.h"
+#include "planner/window/recurrenceoutlook.h"
 #include "planner/window/recurrencerange.h"
 #include "shell/controls/datebox.h"
 #include "shell/core/dates.h"
@@ -15,9 +16,9 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QProgressBar>
-#include <QRadioButton>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -38,6 +39,8 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     , m_columns(new QBoxLayout(QBoxLayout::LeftToRight))
     , m_range(new RecurrenceRange(program, this))
     , m_form(new RecurrenceForm({program.state.dateStyle, program.clock}, this))
+    , m_outlook(new RecurrenceOutlook(program.folder, program.state.dateStyle, this))
+    , m_outlookSoon(new QTimer(this))
     , m_body(new QStackedWidget(this))
 {
     auto *content = new QWidget;
@@ -45,12 +48,21 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     m_columns->setContentsMargins(0, 0, 8, 0);
     m_columns->setSpacing(32);
     m_columns->addWidget(m_range);
-    m_columns->addWidget(m_form, 1);
+    auto *kinds = new QVBoxLayout;
+    kinds->setSpacing(16);
+    kinds->addWidget(m_form);
+    kinds->addWidget(m_outlook);
+    kinds->addStretch(1);
+    m_columns->addLayout(kinds, 1);
     m_body->addWidget(makeScrolling(content, u"recurrenceScroll"_s, this));
     m_body->addWidget(makeProgressPanel());
     setWork(m_body);
     makeFoot();
     connect(m_form, &RecurrenceForm::kindChosen, this, &RecurrencePanel::checkLimit);
+    connect(m_form, &RecurrenceForm::changed, m_outlookSoon, qOverload<>(&QTimer::start));
+    connect(m_range, &RecurrenceRange::changed, m_outlookSoon, qOverload<>(&QTimer::start));
+    connect(m_outlookSoon, &QTimer::timeout, this, &RecurrencePanel::refreshOutlook);
+    m_outlookSoon->setSingleShot(true);
     connect(m_form, &RecurrenceForm::said, this, &RecurrencePanel::said);
     connect(m_range, &RecurrenceRange::said, this, &RecurrencePanel::said);
     connect(m_work, &SlicedWork::progressed, this, &RecurrencePanel::showProgress);
@@ -118,7 +130,10 @@ void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPl
     m_form->reset(date);
     m_range->reset(date, options);
     m_body->setCurrentIndex(0);
-    m_form->findChild<QRadioButton *>()->setFocus();
+    if (const auto likely = likelyRecurrence(m_program.folder, appointment, date))
+        m_form->propose(*likely);
+    m_form->focusKind();
+    refreshOutlook();
 }
 
 bool RecurrencePanel::isRunning() const
@@ -155,6 +170,18 @@ void RecurrencePanel::checkLimit()
         limited(recurrence);
 }
 
+/// Of what would be walked: brought within ten years, as the walk is.
+void RecurrencePanel::refreshOutlook()
+{
+    Recurrence recurrence;
+    if (isRunning())
+        m_outlook->stop();
+    else if (const auto reason = read(recurrence))
+        m_outlook->showReason(*reason);
+    else
+        m_outlook->show(m_appointment, withinTenYears(recurrence), m_form->kind().has_value());
+}
+
 void RecurrencePanel::insert()
 {
     if (!m_form->kind()) {
@@ -184,6 +211,8 @@ void RecurrencePanel::walk(RecurrenceAction action, const Recurrence &recurrence
 {
     m_action = action;
     m_run = std::make_unique<RecurrenceRun>(m_program.folder, m_placement, action, m_appointment, recurrence);
+    m_outlookSoon->stop();
+    m_outlook->stop();
     setRunning(true);
     emit said(PlannerLines::updating());
     // What a full disk refuses once it would refuse for every date that follows.

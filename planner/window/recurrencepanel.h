@@ -11,7 +11,9 @@ class QBoxLayout;
 class QCheckBox;
 class QProgressBar;
 class QStackedWidget;
+class QTimer;
 class RecurrenceForm;
+class RecurrenceOutlook;
 class RecurrenceRange;
 class SlicedWork;
 struct Program;
@@ -51,6 +53,7 @@ private:
     /// Brings the request within ten years, in the boxes too, and tells so.
     Recurrence limited(const Recurrence &recurrence);
     void checkLimit();
+    void refreshOutlook();
 
     QPushButton *defaultButton() const;
     void insert();
@@ -70,6 +73,8 @@ private:
     QBoxLayout *m_columns;
     RecurrenceRange *m_range;
     RecurrenceForm *m_form;
+    RecurrenceOutlook *m_outlook;
+    QTimer *m_outlookSoon;  ///< once for all changes of a moment
     QStackedWidget *m_body; ///< the boxes, or the progress while a walk is under way
     QProgressBar *m_progress = nullptr;
     QCheckBox *m_stop = nullptr;

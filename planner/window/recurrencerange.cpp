@@ -110,6 +110,10 @@ void RecurrenceRange::connectBoxes()
     connect(m_calendarSets, &QButtonGroup::idClicked, this, &RecurrenceRange::showCalendarDate);
     for (const DateBox *box : {m_beginning, m_end})
         connect(box, &QLineEdit::editingFinished, this, &RecurrenceRange::showCalendarDate);
+    for (const FieldBox *box :
+         {static_cast<FieldBox *>(m_beginning), static_cast<FieldBox *>(m_end), m_occurrences})
+        connect(box, &QLineEdit::textChanged, this, &RecurrenceRange::changed);
+    connect(m_endBy, &QButtonGroup::idToggled, this, &RecurrenceRange::changed);
     // Typing into a box means that the recurrence ends by it.
     connect(m_end, &QLineEdit::textEdited, this, [this] { m_endBy->button(EndDate)->setChecked(true); });
     connect(m_occurrences, &QLineEdit::textEdited, this,

@@ -31,6 +31,8 @@ public:
     void showEnd(const Recurrence &recurrence);
 
 signals:
+    /// A date or the number has changed.
+    void changed();
     void said(const QString &line);
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/lines.h"
+#include "planner/model/recurrencepreview.h"
 #include "shell/controls/flowtoolbar.h"
 #include "tests/planner/window/openplanner.h"
 #include "tests/support/filesizelimit.h"
@@ -26,6 +27,62 @@ private slots:
         click("recurrenceCancel");
         QVERIFY(!isShown("recurrencePanel"));
         QCOMPARE(m_test->bytes(u" 2026.Cal"_s), QByteArray());
+    }
+
+    void showsWhatItWouldDo()
+    {
+        const PlannerDay full = dayOf(QList<std::pair<QString, QString>>(14, {{}, u"entry"_s}));
+        writeDay(QDate(2026, 11, 28), full);
+        writeDay(QDate(2027, 3, 6), full);
+        writeDay(QDate(2026, 12, 12), dayOf({{u"9:00 AM"_s, u"Yoga"_s}}));
+        openPanel();
+        QTRY_COMPARE(labelText("outlookRemoval"),
+                     u"Remove This Recurrence takes it out of 1 date, Sat Dec 12, 2026"_s);
+        QVERIFY(!isShown("outlookDates"));
+        tick("kind_2");
+        QTRY_COMPARE(labelText("outlookSum"), u"53 dates, Sat Nov 21, 2026 to Sat Nov 20, 2027"_s);
+        QCOMPARE(labelText("outlookFull"), u"2 of these days are full: they are left out"_s);
+        QCOMPARE(labelText("outlookDates"),
+                 u"Sat Nov 21, 2026\nSat Nov 28, 2026 - full, left out\nSat Dec 5, 2026\n"
+                 "Sat Dec 12, 2026 - there already\nSat Dec 19, 2026\nSat Dec 26, 2026\nand 47 more"_s);
+        set("endDate", u"11/21/2070"_s); // pulled in to ten years, as the walk is
+        QTRY_COMPARE(labelText("outlookSum"), u"522 dates, Sat Nov 21, 2026 to Sat Nov 15, 2036"_s);
+        set("endDate", u"soon"_s);
+        QTRY_COMPARE(labelText("outlookSum"), PlannerLines::noEnd());
+        QVERIFY(!isShown("outlookDates") && !isShown("outlookRemoval"));
+        click("recurrenceCancel");
+        QVERIFY(!QFile::exists(m_test->path(u" 2030.Cal"_s)));
+    }
+
+    void proposesTheKindThatTheDaysAroundHave_data()
+    {
+        using Dates = QList<QDate>;
+        const QDate date(2026, 11, 21);
+        rows<Dates, QString, int>({
+            {"nothing tells", {}, u"Yoga"_s, -1},
+            {"yesterday", {date.addDays(-1)}, u"Yoga"_s, 0},
+            {"last week", {date.addDays(-7)}, u"Yoga"_s, 2},
+            {"in two weeks", {date.addDays(14)}, u"Yoga"_s, 2},
+            {"next month", {date.addMonths(1)}, u"Yoga"_s, 3},
+            {"last year", {date.addYears(-1)}, u"Yoga"_s, 4},
+            {"a birthday", {date.addDays(1)}, u"Bo's Birthday"_s, 4},
+            {"another appointment", {date.addDays(7)}, u"Yoga class"_s, -1},
+        });
+    }
+
+    void proposesTheKindThatTheDaysAroundHave()
+    {
+        const auto [others, text, kind] = row<QList<QDate>, QString, int>();
+        for (const QDate other : others)
+            writeDay(other, dayOf({{u"9:00 AM"_s, u"Yoga"_s}}));
+        const auto likely =
+            likelyRecurrence(m_test->folder, Appointment::ofRow(u"9:00 AM"_s, text), QDate(2026, 11, 21));
+        QCOMPARE(likely ? int(likely->kind) : -1, kind);
+        if (text != u"Yoga"_s)
+            return;
+        openPanel();
+        for (int id = 0; id < 6; ++id)
+            QCOMPARE(find<QRadioButton>("kind_" + QByteArray::number(id))->isChecked(), id == kind);
     }
 
     void refusesQuietly_data()

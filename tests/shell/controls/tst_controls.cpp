@@ -56,8 +56,10 @@ private slots:
             {"only a letter that the files lack", u"Anna"_s, u"\u0141"_s, u"Anna"_s, foreign + u"\u0141"_s},
             {"such letters among others", u"A "_s, u"\u0141uk\U0001f600\u0141a"_s, u"A uka"_s,
              foreign + u"\u0141\U0001f600"_s},
-            {"beyond the limit", u"12345678"_s, u"9012"_s, u"1234567890"_s, full},
-            {"both", u"12345678"_s, u"\u0141901"_s, u"1234567890"_s, foreign + u"\u0141. "_s + full},
+            {"beyond the limit", u"12345678"_s, u"9012"_s, u"1234567890"_s,
+             full + u". Cut off: \u201c12\u201d"_s},
+            {"both", u"12345678"_s, u"\u0141901"_s, u"1234567890"_s,
+             foreign + u"\u0141. "_s + full + u". Cut off: \u201c1\u201d"_s},
             {"line ends", {}, u"\ta\tb\r\nc\n"_s, u"a b c"_s, {}},
         });
     }
