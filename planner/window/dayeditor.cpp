@@ -22,8 +22,30 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// In windows below this width the head of the texts has no words.
-constexpr int narrowBelow = 1000;
+/// The head of the texts: as many words as there is room for.
+class TextHead final : public QLabel
+{
+public:
+    explicit TextHead(QWidget *parent)
+        : QLabel(parent)
+    {
+        setFont(TypeScale::label());
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        setForegroundRole(ThemeRole::quiet);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QLabel::resizeEvent(event);
+        for (const QString &words : {u"Appointment or activity"_s, u"Appointment"_s, QString()}) {
+            if (fontMetrics().horizontalAdvance(words) > width())
+                continue;
+            setText(words);
+            return;
+        }
+    }
+};
 
 } // namespace
 
@@ -64,14 +86,13 @@ QWidget *DayEditor::makeRowHeads()
     QFont head = TypeScale::label();
     head.setWeight(QFont::DemiBold);
     QLabel *time = makeQuietLabel(u"Time"_s, line);
-    m_textHead = named(makeQuietLabel({}, line), u"textHead"_s);
+    auto *text = named(new TextHead(line), u"textHead"_s);
     time->setFont(head);
-    m_textHead->setFont(head);
+    text->setFont(head);
     time->setFixedWidth(112);
     layout->addSpacing(28);
     layout->addWidget(time);
-    layout->addWidget(m_textHead);
-    layout->addStretch(1);
+    layout->addWidget(text, 1);
     layout->addWidget(named(makeQuietLabel(u"Without AM/PM:"_s, line), u"placementHead"_s));
     m_placement = new QButtonGroup(this);
     for (const auto &[id, caption] :
@@ -290,10 +311,4 @@ void DayEditor::enterRow(int row)
 {
     m_scroll->ensureWidgetVisible(m_form->textBox(row), 0, 40);
     emit said(PlannerLines::row(row));
-}
-
-void DayEditor::resizeEvent(QResizeEvent *event)
-{
-    m_textHead->setText(window()->width() < narrowBelow ? QString() : u"Appointment or activity"_s);
-    QWidget::resizeEvent(event);
 }

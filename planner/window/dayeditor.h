@@ -64,9 +64,6 @@ signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
 
-protected:
-    void resizeEvent(QResizeEvent *event) override;
-
 private:
     QWidget *makeRowHeads();
     QWidget *makeFoot();
@@ -85,7 +82,6 @@ private:
     StepTitle *m_title;
     DayForm *m_form;
     QScrollArea *m_scroll;
-    QLabel *m_textHead = nullptr;
     QButtonGroup *m_placement = nullptr;
     QLabel *m_unsaved = nullptr;
     QLabel *m_sortedLast = nullptr;
