@@ -4,6 +4,7 @@
 #include "addressbook/entry/addressform.h"
 #include "addressbook/entry/bookchanges.h"
 #include "addressbook/entry/entrybuttons.h"
+#include "addressbook/entry/entrylabels.h"
 #include "addressbook/entry/entrylist.h"
 #include "addressbook/entry/picturepanel.h"
 #include "addressbook/entry/picturetaker.h"
@@ -60,6 +61,7 @@ ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeM
                                 u"Type the first entry, or take in addresses you already have."_s, this))
     , m_picturePanel(new PicturePanel(program, PicturePanel::systemDrives, this))
     , m_printOptions(new PrintOptions(program, m_book, *m_list, *m_editor, this))
+    , m_labels(new EntryLabels(program, activity(), *m_list, m_views, this))
 {
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_list, makeWorkPanel(),
                              [](QSize window) { return window.width() < 1200 ? 212 : 272; }));
@@ -136,6 +138,7 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     add(u"mOVS"_s, u"&View Screen"_s, &ADDBKVIEW::viewSelected, viewed, Keys::views[0]);
     QAction *enter = add(u"mOES"_s, u"E&ntry Screen"_s, &ADDBKVIEW::switchMode, entered, Keys::newEntry);
     add(u"mOW"_s, u"Print &Worksheet"_s, &ADDBKVIEW::printWorksheet);
+    m_labels->addCommand(commands(), options);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
     undoStack().addCommands(edit);
@@ -158,6 +161,7 @@ void ADDBKVIEW::makeToolbar(QAction *copy, QAction *print)
 {
     commands().tool(copy, "copy"_L1, u"Copy"_s);
     commands().tool(print, "print"_L1, u"Print"_s);
+    m_labels->addTool(commands());
     commands().separateTools();
     for (const Standard tool : {Standard::PanelColor, Standard::Backup, Standard::Help})
         addStandardTool(tool);
@@ -198,8 +202,6 @@ void ADDBKVIEW::connectParts(EntryLinks *links)
     connect(m_picturePanel, &PicturePanel::pictureEntered, this, &ADDBKVIEW::takePicture);
     connect(m_picturePanel, &PicturePanel::pictureDeleted, this, [this] { takePicture(noPicture); });
     connect(m_picturePanel, &PicturePanel::said, &activity(), &ActivityBar::say);
-    connect(m_printOptions, &PrintOptions::pageRequested, this, &ADDBKVIEW::showPreview);
-    connect(m_printOptions, &PrintOptions::sheetsRequested, this, &ADDBKVIEW::showSheets);
 }
 
 bool ADDBKVIEW::isEmptyShown() const

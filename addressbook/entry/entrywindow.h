@@ -10,6 +10,7 @@
 
 class BookChanges;
 class EmptyPage;
+class EntryLabels;
 class EntryList;
 class PicturePanel;
 
@@ -80,6 +81,7 @@ private:
     EmptyPage *m_emptyPage;
     PicturePanel *m_picturePanel;
     PrintOptions *m_printOptions;
+    EntryLabels *m_labels;
     QAction *m_modify = nullptr;
     QAction *m_otherScreen = nullptr;
     QString m_toSay; ///< in the status bar when the next entry is shown

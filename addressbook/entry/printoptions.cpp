@@ -6,6 +6,7 @@
 #include "addressbook/model/entrylines.h"
 #include "addressbook/model/messages.h"
 #include "shell/controls/busycursor.h"
+#include "shell/frame/functionwindow.h"
 #include "shell/pictures/picturefolder.h"
 #include "shell/program/program.h"
 
@@ -26,12 +27,13 @@ constexpr int recommended = 16;
 } // namespace
 
 PrintOptions::PrintOptions(Program &program, const AddressBook &book, const EntryList &list,
-                           const EntryEditor &editor, QWidget *parent)
-    : TaskPanel(u"printOptions"_s, u"Print Options"_s, parent)
+                           const EntryEditor &editor, FunctionWindow *window)
+    : TaskPanel(u"printOptions"_s, u"Print Options"_s, window)
     , m_program(program)
     , m_book(book)
     , m_list(list)
     , m_editor(editor)
+    , m_window(window)
 {
     auto *content = new QWidget;
     auto *column = new QVBoxLayout(content);
@@ -130,12 +132,12 @@ void PrintOptions::printShown()
         return AddressPages::entryPage(m_editor.typed(), m_editor.picturePath(), context);
     };
     const QString names = m_editor.typed().fullName();
-    emit pageRequested(page, names.isEmpty() ? u"Entry"_s : names);
+    m_window->showPreview(page, names.isEmpty() ? u"Entry"_s : names);
 }
 
 void PrintOptions::printWorksheet()
 {
-    emit pageRequested(AddressPages::worksheet, u"Family and Friends Worksheet"_s);
+    m_window->showPreview(AddressPages::worksheet, u"Family and Friends Worksheet"_s);
 }
 
 std::vector<int> PrintOptions::chosenRecords() const
@@ -161,7 +163,7 @@ void PrintOptions::printCards(AddressPages::PerSheet perSheet)
     const auto find = [folder = PictureFolder(m_program.folder)](const QString &stored) {
         return folder.locate(stored);
     };
-    emit sheetsRequested(
+    m_window->showSheets(
         [=](const PageContext &context) {
             return AddressPages::cards(perSheet, entries, places, find, context);
         },

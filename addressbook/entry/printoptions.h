@@ -6,6 +6,7 @@
 
 class EntryEditor;
 class EntryList;
+class FunctionWindow;
 class QRadioButton;
 class QSpinBox;
 struct Program;
@@ -16,22 +17,15 @@ class PrintOptions final : public TaskPanel
 {
     Q_OBJECT
 public:
-    using PageBuilder = std::function<Page(const PageContext &)>;
-    using SheetsBuilder = std::function<PageSheets(const PageContext &)>;
-
+    /// The pages are shown in `window`.
     PrintOptions(Program &program, const AddressBook &book, const EntryList &list, const EntryEditor &editor,
-                 QWidget *parent = nullptr);
+                 FunctionWindow *window);
 
     /// Offers what the list has now.
     void start();
 
     void printShown();
     void printWorksheet();
-
-signals:
-    /// `builder` may be called again, for another sheet.
-    void pageRequested(const PageBuilder &builder, const QString &jobName);
-    void sheetsRequested(const SheetsBuilder &builder, const QString &jobName);
 
 private:
     QWidget *makeChoices();
@@ -44,6 +38,7 @@ private:
     const AddressBook &m_book;
     const EntryList &m_list;
     const EntryEditor &m_editor;
+    FunctionWindow *m_window;
     QVector<QPushButton *> m_cards;
     QPushButton *m_entry = nullptr;
     QRadioButton *m_all = nullptr;

@@ -84,12 +84,15 @@ struct Household {
     QString address;
 };
 
-std::vector<Household> households(const AddressViewer &viewer, LabelSharing sharing, int &leftOut)
+std::vector<Household> households(const AddressViewer &viewer, LabelSharing sharing,
+                                  const std::function<bool(int record)> &wanted, int &leftOut)
 {
     std::vector<Household> all;
     QHash<QString, std::size_t> places;
     QSet<int> records;
     viewer.forEachShown([&](int row, const AddressEntry &entry) {
+        if (wanted && !wanted(viewer.record(row)))
+            return true;
         const QString address = addressLines(entry).join(u'\n');
         const LabelPerson person{entry[LastName].simplified(), entry[FirstName].simplified()};
         // Of two lines that lead to one entry, one bears another name: nobody knows where that person lives.
@@ -125,7 +128,7 @@ void placeLabels(Page &page, const LabelSheet &sheet, const std::vector<SetLabel
                  const LabelPages::Options &options, int index)
 {
     if (sheet.isEnvelope && !options.returnAddress.isEmpty())
-        page.placeText(returnPlace, options.returnAddress, TextRole::Small);
+        page.placeText(returnPlace.translated(options.offset), options.returnAddress, TextRole::Small);
     for (int position = 0; position < sheet.count(); ++position) {
         if (options.hasRims)
             page.placeRule(sheet.place(position));
@@ -135,7 +138,7 @@ void placeLabels(Page &page, const LabelSheet &sheet, const std::vector<SetLabel
         const auto alignment =
             sheet.isEnvelope ? Qt::AlignLeft | Qt::AlignTop : Qt::AlignLeft | Qt::AlignVCenter;
         const SetLabel &label = labels[std::size_t(number)];
-        page.placeText(sheet.room(position), label.text, label.role, alignment);
+        page.placeText(sheet.room(position).translated(options.offset), label.text, label.role, alignment);
     }
 }
 
@@ -175,10 +178,11 @@ const std::vector<LabelSheet> &LabelSheet::all()
     return sheets;
 }
 
-LabelTexts LabelTexts::of(const AddressViewer &viewer, LabelSharing sharing)
+LabelTexts LabelTexts::of(const AddressViewer &viewer, LabelSharing sharing,
+                          const std::function<bool(int record)> &wanted)
 {
     LabelTexts labels;
-    for (const Household &household : households(viewer, sharing, labels.leftOut))
+    for (const Household &household : households(viewer, sharing, wanted, labels.leftOut))
         labels.texts.push_back(LabelPages::names(household.persons) + u'\n' + household.address);
     return labels;
 }

@@ -40,8 +40,10 @@ struct LabelTexts {
     std::vector<QString> texts; ///< lines separated by '\n': names, address, town
     int leftOut = 0;            ///< rows without an address
 
-    /// In the order in which the rows are shown; a shared label stands where the first of its persons does.
-    static LabelTexts of(const AddressViewer &viewer, LabelSharing sharing);
+    /// Of the rows whose record is `wanted`, in the order in which they are shown; a shared label stands
+    /// where the first of its persons does.
+    static LabelTexts of(const AddressViewer &viewer, LabelSharing sharing,
+                         const std::function<bool(int record)> &wanted = {});
 };
 
 /// A person as a label names them.
@@ -81,6 +83,7 @@ struct Options {
     int used = 0;          ///< places of the first sheet that are gone already; 0 for envelopes
     QString returnAddress; ///< envelopes only; lines separated by '\n'
     bool hasRims = false;  ///< thin rims around the labels, for the screen
+    QPointF offset{};      ///< in inches, by which all texts are moved: printers are a little off
 };
 
 /// Sheet `index` alone, or all of them.

@@ -110,7 +110,17 @@ inline QString shortened(int labels)
 
 inline QString noLabels()
 {
-    return u"No name in the grid has an address"_s;
+    return u"None of the ticked names has an address"_s;
+}
+
+inline QString nothingTicked()
+{
+    return u"Tick a name first"_s;
+}
+
+inline QString ticked(int ticked, int names)
+{
+    return u"Names: %1 of %2"_s.arg(ticked).arg(names);
 }
 
 } // namespace ViewerLines

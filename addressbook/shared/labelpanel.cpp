@@ -2,14 +2,18 @@
 #include "addressbook/shared/labelpanel.h"
 
 #include "addressbook/model/viewerlines.h"
+#include "addressbook/shared/ticklist.h"
+#include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/core/framelines.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/pages/pagetype.h"
 #include "shell/preview/printjob.h"
 #include "shell/preview/sheetpane.h"
 #include "shell/program/program.h"
+#include "shell/program/storedsettings.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -28,8 +32,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int leastChoicesWidth = 220;
-constexpr int mostChoicesWidth = 300;
+constexpr int leastChoicesWidth = 240;
+constexpr int mostChoicesWidth = 340;
+constexpr int mostOffset = 20; ///< in millimetres, either way
 constexpr int envelopePoints = 11;
 constexpr int labelPoints = 10;
 constexpr int typingPause = 150; ///< in milliseconds
@@ -61,7 +66,7 @@ QString storeKey(QLatin1StringView what)
 
 } // namespace
 
-LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
+LabelPanel::LabelPanel(Program &program, ActivityBar &activity, const QString &leaveCaption, QWidget *parent)
     : TaskPanel(u"labels"_s, u"Labels and Envelopes"_s, parent)
     , m_program(program)
     , m_activity(activity)
@@ -76,11 +81,14 @@ LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
     m_pane->view()->viewport()->installEventFilter(this);
     row->addWidget(m_pane, 2);
     setWork(work);
-    setLeaveButton(u"leaveLabels"_s, u"&Back to the Grid"_s);
+    setLeaveButton(u"leaveLabels"_s, leaveCaption);
     m_print = addButton(u"printLabels"_s, u"&Print"_s, ButtonKind::Main);
 
     connect(m_sheets, &QComboBox::currentIndexChanged, this, &LabelPanel::sheetChosen);
     connect(m_start, &QSpinBox::valueChanged, this, &LabelPanel::refresh);
+    for (QSpinBox *offset : {m_right, m_down})
+        connect(offset, &QSpinBox::valueChanged, this, &LabelPanel::refresh);
+    connect(&m_ticks->names(), &TickedNames::ticksChanged, &m_gathering, qOverload<>(&QTimer::start));
     connect(m_share, &QCheckBox::toggled, this, &LabelPanel::gather);
     connect(m_returnAddress, &QPlainTextEdit::textChanged, this, &LabelPanel::refresh);
     connect(m_print, &QPushButton::clicked, this, &LabelPanel::print);
@@ -92,8 +100,9 @@ LabelPanel::LabelPanel(Program &program, ActivityBar &activity, QWidget *parent)
 
 LabelPanel::~LabelPanel()
 {
-    if (m_viewer) // somebody was here
-        storeChoices();
+    // The window's status bar may be gone already.
+    if (m_viewer && !storeChoices())
+        emit m_program.changes.settingNotSaved();
 }
 
 QWidget *LabelPanel::makeChoices()
@@ -107,6 +116,7 @@ QWidget *LabelPanel::makeChoices()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
     addSheetChoice(*column);
+    column->addLayout(makeOffset(choices));
     column->addSpacing(8);
     m_share = named(new QCheckBox(u"One label for each address"_s, choices), u"shareLabels"_s);
     m_share->setToolTip(u"Persons at one address share one label"_s);
@@ -125,7 +135,9 @@ QWidget *LabelPanel::makeChoices()
     m_leftOut->setWordWrap(true);
     column->addWidget(m_count);
     column->addWidget(m_leftOut);
-    column->addStretch(1);
+    column->addSpacing(8);
+    m_ticks = new TickList(choices);
+    column->addWidget(m_ticks, 1);
     return scroll;
 }
 
@@ -150,6 +162,32 @@ void LabelPanel::addSheetChoice(QVBoxLayout &column)
     column.addWidget(m_start, 0, Qt::AlignLeft);
 }
 
+/// For a printer that draws in paper a little askew: all text moves, on screen too.
+QLayout *LabelPanel::makeOffset(QWidget *parent)
+{
+    auto *offset = new QHBoxLayout;
+    offset->setSpacing(8);
+    const auto add = [&](const QString &name, const QString &label, const QString &words) {
+        auto *box = named(new QSpinBox(parent), name);
+        box->setRange(-mostOffset, mostOffset);
+        box->setSuffix(u" mm"_s);
+        box->setMinimumSize(96, 34);
+        box->setToolTip(words);
+        auto *place = new QVBoxLayout;
+        place->setSpacing(4);
+        place->addWidget(makeFieldLabel(label, box, parent));
+        place->addWidget(box);
+        offset->addLayout(place);
+        return box;
+    };
+    m_right = add(u"labelRight"_s, u"Print further right"_s,
+                  u"For a printer that prints too far left; less than 0 moves to the left"_s);
+    m_down =
+        add(u"labelDown"_s, u"Further down"_s, u"For a printer that prints too high; less than 0 moves up"_s);
+    offset->addStretch(1);
+    return offset;
+}
+
 void LabelPanel::restoreChoices()
 {
     const QString chosen = m_program.store.value(storeKey("labelSheet"_L1)).toString();
@@ -158,14 +196,27 @@ void LabelPanel::restoreChoices()
     m_sheets->setCurrentIndex(index < 0 ? usual : index);
     m_share->setChecked(m_program.store.value(storeKey("shareLabels"_L1), true).toBool());
     m_returnAddress->setPlainText(m_program.store.value(storeKey("returnAddress"_L1)).toString());
+    m_right->setValue(m_program.store.value(storeKey("labelRight"_L1), 0).toInt());
+    m_down->setValue(m_program.store.value(storeKey("labelDown"_L1), 0).toInt());
     sheetChosen();
 }
 
-void LabelPanel::storeChoices() const
+bool LabelPanel::storeChoices() const
 {
+    m_program.store.setValue(storeKey("labelRight"_L1), m_right->value());
+    m_program.store.setValue(storeKey("labelDown"_L1), m_down->value());
     m_program.store.setValue(storeKey("labelSheet"_L1), m_sheets->currentText());
     m_program.store.setValue(storeKey("shareLabels"_L1), m_share->isChecked());
     m_program.store.setValue(storeKey("returnAddress"_L1), m_returnAddress->toPlainText());
+    return StoredSettings::areOnDisk(m_program.store);
+}
+
+void LabelPanel::leave()
+{
+    const bool isStored = storeChoices();
+    TaskPanel::leave();
+    if (!isStored)
+        m_activity.say(FrameLines::settingNotSaved());
 }
 
 const LabelSheet &LabelPanel::sheet() const
@@ -176,14 +227,23 @@ const LabelSheet &LabelPanel::sheet() const
 LabelPages::Options LabelPanel::options() const
 {
     const bool isEnvelope = sheet().isEnvelope;
-    return {isEnvelope ? 0 : m_start->value() - 1,
-            isEnvelope ? m_returnAddress->toPlainText().trimmed() : QString()};
+    LabelPages::Options options;
+    options.used = isEnvelope ? 0 : m_start->value() - 1;
+    options.returnAddress = isEnvelope ? m_returnAddress->toPlainText().trimmed() : QString();
+    options.offset = QPointF(m_right->value(), m_down->value()) / PageMetrics::millimetersPerInch;
+    return options;
 }
 
-void LabelPanel::start(const AddressViewer &viewer)
+void LabelPanel::start(const AddressViewer &viewer, std::optional<int> record)
 {
     m_viewer = &viewer;
     m_pane->startOver();
+    m_ticks->names().list(viewer);
+    if (record)
+        m_ticks->names().tickOnly(*record);
+    else
+        m_ticks->names().tickAll(true);
+    m_ticks->showTicked();
     gather();
     m_sheets->setFocus();
 }
@@ -192,7 +252,7 @@ void LabelPanel::follow(const AddressViewer &viewer)
 {
     m_viewer = &viewer;
     m_pane->startOver();
-    m_gathering.start();
+    m_ticks->names().list(viewer);
 }
 
 void LabelPanel::sheetChosen()
@@ -214,8 +274,9 @@ void LabelPanel::gather()
         return;
     m_gathering.stop();
     const BusyCursor busy;
-    m_labels = LabelTexts::of(*m_viewer, m_share->isChecked() ? LabelSharing::OneForAnAddress
-                                                              : LabelSharing::EachTheirOwn);
+    m_labels = LabelTexts::of(
+        *m_viewer, m_share->isChecked() ? LabelSharing::OneForAnAddress : LabelSharing::EachTheirOwn,
+        [&names = m_ticks->names()](int record) { return names.isTicked(record); });
     fit();
 }
 
@@ -242,7 +303,10 @@ void LabelPanel::refresh()
     if (m_shortened > 0)
         remarks << ViewerLines::shortened(m_shortened);
     m_leftOut->setText(remarks.join(u'\n'));
-    setUnavailable(m_print, labels == 0 ? ViewerLines::noLabels() : QString());
+    const bool isNoneTicked = m_ticks->names().tickedCount() == 0;
+    setUnavailable(m_print, labels > 0     ? QString()
+                            : isNoneTicked ? ViewerLines::nothingTicked()
+                                           : ViewerLines::noLabels());
     m_pane->setSheets(sheets, [this](int index) {
         LabelPages::Options shown = options();
         shown.hasRims = !sheet().isEnvelope;
@@ -274,7 +338,7 @@ void LabelPanel::chooseStart(QPoint place)
 
 void LabelPanel::print()
 {
-    storeChoices();
+    const bool isStored = storeChoices();
     if (m_gathering.isActive())
         gather();
     const auto laidOut = [this](const PageSetup &setup) {
@@ -283,4 +347,6 @@ void LabelPanel::print()
     };
     PrintJob job(m_program, m_activity, window(), sheet().isEnvelope ? u"Envelopes"_s : u"Labels"_s);
     job.run(laidOut(sheet().setup()), sheet().setup(), m_pane->sheet(), laidOut);
+    if (!isStored)
+        m_activity.say(FrameLines::settingNotSaved());
 }

@@ -6,31 +6,40 @@
 
 #include <QTimer>
 
+#include <optional>
+
 class ActivityBar;
 class AddressViewer;
 class SheetPane;
+class TickList;
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLayout;
 class QPlainTextEdit;
 class QPushButton;
 class QSpinBox;
 class QVBoxLayout;
 struct Program;
 
-/// Labels and envelopes for the names that the viewer shows: the kind of sheet, where to start on a used one,
-/// and the sheets as they will be printed.
+/// Labels and envelopes for ticked names: the kind of sheet, where to start on a used one, how far a printer
+/// is off, and the sheets as they will be printed.
 class LabelPanel final : public TaskPanel
 {
     Q_OBJECT
 public:
-    LabelPanel(Program &program, ActivityBar &activity, QWidget *parent = nullptr);
+    /// `leaveCaption` is what the button says that leads back.
+    LabelPanel(Program &program, ActivityBar &activity, const QString &leaveCaption,
+               QWidget *parent = nullptr);
     ~LabelPanel() override;
 
-    /// Takes the rows as they are shown now; `viewer` must live as long as the panel is used.
-    void start(const AddressViewer &viewer);
+    /// Takes the rows as they are shown now; `viewer` must live as long as the panel is used. With a record
+    /// only that name is ticked, else all are.
+    void start(const AddressViewer &viewer, std::optional<int> record = std::nullopt);
     /// The same when other rows are shown meanwhile, once the typing rests; the focus stays where it is.
     void follow(const AddressViewer &viewer);
+
+    void leave() override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -38,8 +47,10 @@ protected:
 private:
     QWidget *makeChoices();
     void addSheetChoice(QVBoxLayout &column);
+    QLayout *makeOffset(QWidget *parent);
     void restoreChoices();
-    void storeChoices() const;
+    /// False when the store refuses them.
+    [[nodiscard]] bool storeChoices() const;
     const LabelSheet &sheet() const;
     LabelPages::Options options() const;
     void sheetChosen();
@@ -61,6 +72,9 @@ private:
     QLabel *m_startLabel = nullptr;
     QSpinBox *m_start = nullptr;
     QCheckBox *m_share = nullptr;
+    QSpinBox *m_right = nullptr; ///< in millimetres, as the next one
+    QSpinBox *m_down = nullptr;
+    TickList *m_ticks = nullptr;
     QLabel *m_returnLabel = nullptr;
     QPlainTextEdit *m_returnAddress = nullptr;
     QLabel *m_count = nullptr;

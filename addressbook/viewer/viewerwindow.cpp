@@ -85,7 +85,7 @@ QWidget *ADDBKDISPLAY::makeWorkPanel()
     m_views = new WorkViews(panel);
     layout->addWidget(m_views);
     m_listOptions = new ListOptionsPanel;
-    m_labels = new LabelPanel(program(), activity());
+    m_labels = new LabelPanel(program(), activity(), u"&Back to the Grid"_s);
     m_views->addHome(makeGridPage());
     m_views->addPanel(m_listOptions);
     m_views->addPanel(m_labels);

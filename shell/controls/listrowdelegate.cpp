@@ -9,6 +9,8 @@
 #include <QHeaderView>
 #include <QListView>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTableView>
 
 #include <algorithm>
@@ -47,6 +49,17 @@ void ListRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         painter->fillRect(row.rect, theme.alternate);
 
     QRect place = row.rect.adjusted(inset, 0, -inset, 0);
+    if (row.features & QStyleOptionViewItem::HasCheckIndicator) {
+        const QStyle *style = row.widget ? row.widget->style() : QApplication::style();
+        const int side = style->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, row.widget);
+        QStyleOptionButton box;
+        box.rect = QRect(place.left(), place.center().y() - side / 2, side, side);
+        box.palette = row.palette;
+        box.state =
+            QStyle::State_Enabled | (row.checkState == Qt::Checked ? QStyle::State_On : QStyle::State_Off);
+        style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter);
+        place.setLeft(box.rect.right() + inset);
+    }
     if (!row.icon.isNull()) {
         const QRect icon(place.left(), place.center().y() - row.decorationSize.height() / 2 + 1,
                          row.decorationSize.width(), row.decorationSize.height());
@@ -60,6 +73,18 @@ void ListRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->setFont(row.font);
     painter->drawText(place, int(Qt::AlignVCenter | (row.displayAlignment & Qt::AlignHorizontal_Mask)),
                       row.fontMetrics.elidedText(row.text, Qt::ElideRight, place.width()));
+}
+
+bool ListRowDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
+                                  const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const bool isTickable = index.flags() & Qt::ItemIsUserCheckable;
+    if (!isTickable || event->type() != QEvent::MouseButtonRelease)
+        return isTickable && event->type() == QEvent::MouseButtonDblClick
+                   ? true
+                   : QStyledItemDelegate::editorEvent(event, model, option, index);
+    const bool isTicked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    return model->setData(index, isTicked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
 void setListRows(QAbstractItemView *view)

@@ -8,7 +8,7 @@ class QAbstractItemView;
 class QTableView;
 
 /// Rows of a list: 33 pixels high or what the font needs, words 8 pixels from the edge, hover in the soft
-/// fill.
+/// fill. A row that can be ticked has its box before the words, and a click anywhere in it ticks it.
 class ListRowDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -20,6 +20,10 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
+
+protected:
+    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                     const QModelIndex &index) override;
 };
 
 /// Gives a list the program's rows: the delegate, alternate rows, no grid, hover.

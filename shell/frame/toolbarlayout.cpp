@@ -3,6 +3,7 @@
 
 #include "shell/controls/flowtoolbar.h"
 #include "shell/program/program.h"
+#include "shell/program/storedsettings.h"
 
 #include <QAction>
 #include <QSettings>
@@ -10,19 +11,6 @@
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-/// Whether everything that `store` was given is on the disk. It writes at its leisure and never takes back a
-/// refusal, so a fresh one of the same file is asked.
-bool isOnDisk(const QSettings &store)
-{
-    QSettings same(store.fileName(), store.format());
-    same.sync();
-    return same.status() == QSettings::NoError;
-}
-
-} // namespace
 
 ToolbarLayout::ToolbarLayout(Program &program, FlowToolBar *bar, const QString &storeKey,
                              QList<QAction *> actions, QStringList defaults)
@@ -56,14 +44,14 @@ bool ToolbarLayout::setShown(const QStringList &names)
 {
     show(names);
     m_program.store.setValue(m_storeKey, shown());
-    return isOnDisk(m_program.store);
+    return StoredSettings::areOnDisk(m_program.store);
 }
 
 bool ToolbarLayout::reset()
 {
     show(m_defaults);
     m_program.store.remove(m_storeKey);
-    return isOnDisk(m_program.store);
+    return StoredSettings::areOnDisk(m_program.store);
 }
 
 QAction *ToolbarLayout::action(const QString &name) const

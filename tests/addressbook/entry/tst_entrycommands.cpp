@@ -2,12 +2,15 @@
 #include "tests/addressbook/entry/openaddressbook.h"
 
 #include "shell/controls/monthview.h"
+#include "shell/core/framelines.h"
 #include "shell/core/settingskeys.h"
 #include "shell/pictures/pictureframe.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QListWidget>
+#include <QSpinBox>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -162,6 +165,30 @@ private slots:
         trigger("mOMod"); // what is typed into stands in front
         QVERIFY(box(0)->isVisible());
         QVERIFY(box(0)->hasFocus());
+    }
+
+    void printsLabelsOfTickedNames()
+    {
+        for (const bool isAgain : {false, true}) {
+            select(2);
+            trigger("mOLab");
+            QVERIFY(labelText("tickedCount").startsWith(u"Names: 1 of "_s));
+            QTRY_COMPARE(labelText("labelCount"), u"1 label on 1 sheet"_s);
+            for (const auto &[name, offset] : {std::pair{"labelRight", 3}, {"labelDown", -20}}) {
+                QCOMPARE(find<QSpinBox>(name)->value(), isAgain ? offset : 0);
+                find<QSpinBox>(name)->setValue(offset);
+            }
+            click("leaveLabels");
+            QVERIFY(box(0)->isVisible());
+            show();
+        }
+        // Where the store cannot be written, somebody says so.
+        const QString store = m_test->program.store.fileName();
+        m_test->program.store.sync();
+        QVERIFY(QFile::remove(store) && QDir().mkpath(store));
+        trigger("mOLab");
+        click("leaveLabels");
+        QCOMPARE(said(), FrameLines::settingNotSaved());
     }
 
     void leavesPanelsWhereTheUserIs()

@@ -112,6 +112,11 @@ private slots:
                  QStringList({QString(anne).replace(u"Anne"_s, u"Anne & Karl"_s), ida}));
         QCOMPARE(LabelTexts::of(viewer, LabelSharing::EachTheirOwn).leftOut, 2);
         QCOMPARE(LabelTexts::of(viewer, LabelSharing::OneForAnAddress).leftOut, 2);
+        const int second = viewer.record(1);
+        const LabelTexts one = LabelTexts::of(viewer, LabelSharing::OneForAnAddress,
+                                              [second](int record) { return record == second; });
+        QCOMPARE(one.texts, std::vector<QString>{ida});
+        QCOMPARE(one.leftOut, 0);
     }
 
     void neverLosesTheTown_data()
@@ -169,6 +174,11 @@ private slots:
         const auto last =
             itemsOf<PageItem::PlacedText>(LabelPages::sheet(sheet, ::labels(labels), options, sheets - 1));
         QCOMPARE(last, placed.mid(placed.size() - last.size()));
+        options.offset = {0.1, -0.2};
+        const auto moved =
+            itemsOf<PageItem::PlacedText>(LabelPages::sheets(sheet, ::labels(labels), options));
+        for (int i = 0; i < labels; ++i)
+            QCOMPARE(moved[i].place, placed[i].place.translated(options.offset));
         QVERIFY(all.sheetNumbers() == SheetNumbers::None && !all.isClosed());
     }
 

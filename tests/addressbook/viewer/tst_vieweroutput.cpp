@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QListView>
 #include <QSpinBox>
 
 using namespace Qt::Literals::StringLiterals;
@@ -108,6 +109,18 @@ private slots:
         type(u"Drummond, F"_s); // the labels follow the grid
         QTRY_COMPARE(labelText("labelCount"), u"1 label on 1 sheet"_s);
         type(u"Drummond"_s);
+        QTRY_COMPARE(labelText("labelCount"), u"4 labels on 1 sheet"_s);
+        auto *names = find<QListView>("labelNames");
+        click("tickNone");
+        QTRY_COMPARE(labelText("labelCount"), u"0 labels on 1 sheet"_s);
+        QVERIFY(!find<QPushButton>("printLabels")->isEnabled());
+        QTest::mouseClick(names->viewport(), Qt::LeftButton, {},
+                          names->visualRect(names->model()->index(1, 0)).center());
+        QTest::keyClick(names, Qt::Key_Down);
+        QTest::keyClick(names, Qt::Key_Space);
+        QTRY_COMPARE(labelText("labelCount"), u"2 labels on 1 sheet"_s);
+        QCOMPARE(labelText("tickedCount"), u"Names: 2 of 4"_s);
+        click("tickAll");
         QTRY_COMPARE(labelText("labelCount"), u"4 labels on 1 sheet"_s);
         find<QSpinBox>("startPosition")->setValue(28);
         QCOMPARE(labelText("labelCount"), u"4 labels on 2 sheets"_s);
