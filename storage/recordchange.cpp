@@ -65,5 +65,15 @@ bool RecordChange::write(const DataFolder &folder, Bytes wanted)
     ChangeSet change(folder);
     for (const auto &[where, place] : m_places)
         change.write(RecordFile(folder, where.first, place.recordLength), where.second, place.*wanted);
+    if (!m_thrownAway.empty() || !m_broughtBack.empty()) {
+        const bool isDone = wanted == &Place::after;
+        Trash trash(folder);
+        for (const Trash::Item &item : isDone ? m_thrownAway : m_broughtBack)
+            trash.put(item);
+        for (const Trash::Item &item : isDone ? m_broughtBack : m_thrownAway)
+            trash.take(item);
+        trash.addTo(change);
+        m_trashState = trash.state();
+    }
     return change.commit();
 }

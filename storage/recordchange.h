@@ -3,12 +3,14 @@
 
 #include "storage/datafolder.h"
 #include "storage/recordfile.h"
+#include "storage/trash.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <map>
 #include <utility>
+#include <vector>
 
 /// How taking a change back, or making it again, went.
 enum class ChangeResult {
@@ -27,6 +29,13 @@ public:
     void write(const RecordFile &file, int number, QByteArrayView after);
     /// The same, where it is `before` that comes back.
     void write(const RecordFile &file, int number, QByteArrayView after, QByteArrayView before);
+
+    /// Adds: `item` goes into the trash with the change, and comes out when it is taken back.
+    void throwAway(Trash::Item item) { m_thrownAway.push_back(std::move(item)); }
+    /// Adds: `item` comes out of the trash with the change, and goes in again when it is taken back.
+    void bringBack(Trash::Item item) { m_broughtBack.push_back(std::move(item)); }
+    /// How the trash took that the last time; never a reason to refuse the change.
+    Trash::State trashState() const { return m_trashState; }
 
     /// Makes the change: all of it or, where the disk refuses, nothing.
     [[nodiscard]] bool commit(const DataFolder &folder);
@@ -53,5 +62,8 @@ private:
     bool write(const DataFolder &folder, Bytes wanted);
 
     Places m_places;
+    std::vector<Trash::Item> m_thrownAway;
+    std::vector<Trash::Item> m_broughtBack;
+    Trash::State m_trashState = Trash::State::Whole;
     bool m_isUnknown = false; ///< what stood there could not be read, and will not be guessed
 };

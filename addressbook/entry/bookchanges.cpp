@@ -5,33 +5,73 @@
 #include "addressbook/entry/entrylist.h"
 #include "addressbook/model/entrylines.h"
 #include "addressbook/model/messages.h"
+#include "shell/core/framelines.h"
+#include "shell/frame/commands.h"
+#include "shell/frame/trashpanel.h"
 #include "shell/frame/undostack.h"
+#include "shell/frame/workviews.h"
+#include "shell/program/program.h"
+
+#include <QMenu>
+#include <QScopedValueRollback>
 
 #include <utility>
 
-BookChanges::BookChanges(Desk desk, QObject *parent)
+using namespace Qt::Literals::StringLiterals;
+
+BookChanges::BookChanges(Program &program, Desk desk, QObject *parent)
     : QObject(parent)
+    , m_program(program)
     , m_desk(std::move(desk))
 {
     connect(&m_desk.editor, &EntryEditor::changed, this, [this] {
         if (!m_desk.editor.isModified())
             m_desk.undo.forgetTyped();
     });
+    connect(&m_desk.editor, &EntryEditor::pictureExchanged, this, &BookChanges::pictureExchanged);
+}
+
+void BookChanges::addCommands(QMenu *edit, Commands &commands, WorkViews &views)
+{
+    m_trash = new TrashPanel(m_program.state.dateStyle, &views);
+    views.addPanel(m_trash);
+    connect(m_trash, &TrashPanel::chosen, this, &BookChanges::bringBack);
+    m_desk.undo.addCommands(edit);
+    commands.writing(commands.add(edit, u"mEBack"_s, u"Bring &Back Deleted..."_s, [this] { openTrash(); }));
+    edit->addSeparator();
+}
+
+void BookChanges::openTrash()
+{
+    m_trash->setItems(m_desk.book.deletedEntries(m_program.clock.now()));
+    m_desk.openPanel(m_trash);
+    m_trash->setFocus();
+}
+
+void BookChanges::bringBack(const Trash::Item &item)
+{
+    if (!m_desk.mayReplace())
+        return;
+    const AddressBook::SaveResult result = m_desk.book.bringBack(item);
+    if (!result.isSaved) {
+        emit said(result.isBookFull ? AddressLines::bookIsFull() : AddressMessages::saveFailed());
+        return;
+    }
+    m_desk.openBook(result.record);
+    add(AddressLines::broughtBack(item.title), result.change, result.record);
 }
 
 void BookChanges::removeShown()
 {
     const QString title = AddressLines::deleted(m_desk.editor.names());
     const int record = m_desk.editor.record();
-    auto change = m_desk.editor.remove(m_desk.book);
+    auto change = m_desk.editor.remove(m_desk.book, m_program.clock.now());
     if (!change) {
         emit said(AddressMessages::deleteFailed());
         return;
     }
     m_desk.openBook(0);
-    m_desk.undo.push(title, *std::move(change), [this, record] { show(record); });
-    emit said(title);
-    m_desk.undo.offer();
+    add(title, *std::move(change), record);
 }
 
 void BookChanges::saved(const AddressBook::SaveResult &result)
@@ -44,15 +84,26 @@ void BookChanges::saved(const AddressBook::SaveResult &result)
     m_desk.undo.offer();
 }
 
-void BookChanges::takePicture(const QString &path)
+/// Says what was done, with what the trash made of it.
+void BookChanges::add(const QString &title, RecordChange change, int record)
 {
-    const QString before = m_desk.editor.picture();
-    if (path == before)
+    QString line = title;
+    if (change.trashState() == Trash::State::Foreign)
+        line += u". "_s + FrameLines::trashSetAside();
+    else if (change.trashState() == Trash::State::OutOfReach)
+        line += u". "_s + FrameLines::trashOutOfReach();
+    m_desk.undo.push(title, std::move(change), [this, record] { show(record); });
+    emit said(line);
+    m_desk.undo.offer();
+}
+
+void BookChanges::pictureExchanged(const QString &before, const QString &now)
+{
+    if (m_isExchanging)
         return;
-    m_desk.editor.setPicture(path);
     m_desk.undo.push({AddressLines::picture(m_desk.editor.hasPicture()),
-                      [=, this] { return exchangePicture(path, before); },
-                      [=, this] { return exchangePicture(before, path); }, UndoStep::Typed});
+                      [=, this] { return exchangePicture(now, before); },
+                      [=, this] { return exchangePicture(before, now); }, UndoStep::Typed});
 }
 
 ChangeResult BookChanges::exchangePicture(const QString &shown, const QString &wanted)
@@ -60,6 +111,7 @@ ChangeResult BookChanges::exchangePicture(const QString &shown, const QString &w
     EntryEditor &editor = m_desk.editor;
     if (editor.picture() != shown)
         return ChangeResult::Outdated;
+    const QScopedValueRollback<bool> exchanging(m_isExchanging, true);
     editor.setPicture(wanted);
     if (!editor.isNew() && !editor.isModified())
         editor.lock();

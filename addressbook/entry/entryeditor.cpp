@@ -160,9 +160,9 @@ QString EntryEditor::names() const
     return m_isStray ? IndexLine::name(m_line).toString() : m_loaded.fullName();
 }
 
-std::optional<RecordChange> EntryEditor::remove(AddressBook &book)
+std::optional<RecordChange> EntryEditor::remove(AddressBook &book, const QDateTime &now)
 {
-    return m_isStray ? book.removeStray(m_line) : book.remove(m_record);
+    return m_isStray ? book.removeStray(m_line) : book.remove(m_record, now);
 }
 
 QString EntryEditor::whyUnchangeable() const
@@ -194,11 +194,13 @@ void EntryEditor::setMode(Mode mode)
 
 void EntryEditor::setPicture(const QString &stored)
 {
-    m_picture = stored;
+    const QString before = std::exchange(m_picture, stored);
     if (m_mode == Mode::View)
         setMode(Mode::Modify);
     showPicture();
     refreshModified();
+    if (before != m_picture)
+        emit pictureExchanged(before, m_picture);
 }
 
 bool EntryEditor::hasPicture() const

@@ -50,7 +50,7 @@ public:
     AddressBook::SaveResult save(AddressBook &book);
     /// Whose entry, or which line, `remove` deletes.
     QString names() const;
-    [[nodiscard]] std::optional<RecordChange> remove(AddressBook &book);
+    [[nodiscard]] std::optional<RecordChange> remove(AddressBook &book, const QDateTime &now);
 
     /// A picture taken while the entry is locked opens it, so that it can be saved.
     void setPicture(const QString &stored);
@@ -70,6 +70,8 @@ public:
 signals:
     /// Another entry is shown, or the same in another mode.
     void changed();
+    /// Another picture stands in the frame, and no file has it yet.
+    void pictureExchanged(const QString &before, const QString &now);
     /// A quiet line for the status bar.
     void said(const QString &line);
 

@@ -52,8 +52,11 @@ ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeM
     , m_list(new EntryList({[this] { return isModified(); }, [this] { return mayReplaceShown(); }},
                            program.store, this))
     , m_editor(new EntryEditor(program, this))
-    , m_changes(new BookChanges({m_book, *m_list, *m_editor, undoStack(),
-                                 [this](int record) { openBook(m_list->shownRow(), record); }},
+    , m_changes(new BookChanges(program,
+                                {m_book, *m_list, *m_editor, undoStack(),
+                                 [this](int record) { openBook(m_list->shownRow(), record); },
+                                 [this] { return mayReplaceShown(); },
+                                 [this](TaskPanel *panel) { openPanel(panel); }},
                                 this))
     , m_dialler(program, this, m_editor->form().dialingLabel(), std::move(makeModem))
     , m_views(new WorkViews(this))
@@ -141,7 +144,7 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     m_labels->addCommand(commands(), options);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
-    undoStack().addCommands(edit);
+    m_changes->addCommands(edit, commands(), *m_views);
     commands().repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
     commands().repeat(m_modify, edit, u"mEMod1"_s);
     commands().setKeyIn(m_list, remove, Keys::remove);
@@ -382,21 +385,25 @@ void ADDBKVIEW::copyShown()
 
 void ADDBKVIEW::showPrintOptions()
 {
-    closePreview();
-    m_views->open(m_printOptions);
+    openPanel(m_printOptions);
     m_printOptions->start();
+}
+
+void ADDBKVIEW::openPanel(TaskPanel *panel)
+{
+    closePreview();
+    m_views->open(panel);
 }
 
 void ADDBKVIEW::loadPicture()
 {
-    closePreview();
-    m_views->open(m_picturePanel);
+    openPanel(m_picturePanel);
     m_picturePanel->start(m_editor->hasPicture());
 }
 
 void ADDBKVIEW::takePicture(const QString &path)
 {
-    m_changes->takePicture(path);
+    m_editor->setPicture(path);
     m_views->goHome();
     m_editor->form().box(LastName)->setFocus();
 }

@@ -69,6 +69,7 @@ private:
     void printShown() { m_printOptions->printShown(); }
     void printWorksheet() { m_printOptions->printWorksheet(); }
     void showPrintOptions();
+    void openPanel(TaskPanel *panel);
     void loadPicture();
     void takePicture(const QString &path);
 

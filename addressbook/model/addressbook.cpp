@@ -18,6 +18,9 @@ static_assert(lineRecordLength - 2 == IndexLine::maximumLength);
 constexpr QLatin1StringView entriesName("Addbk1.Fil");
 constexpr QLatin1StringView indexName("Addbk2.Fil");
 
+/// Whose things in the trash are this book's.
+constexpr QLatin1StringView trashKind("AddressBook");
+
 constexpr QByteArrayView deletedName("*****");
 
 bool isDeleted(QByteArrayView record)
@@ -70,6 +73,13 @@ void put(RecordChange &change, const RecordFile &file, int record, QByteArrayVie
 bool isEntryRecord(int record)
 {
     return record >= AddressBook::firstRecord && record <= AddressBook::overflowRecord;
+}
+
+/// Whether the trash has a whole entry of this book here.
+bool isBroughtBack(const Trash::Item &item)
+{
+    return !item.pieces.empty() && item.pieces.front().file == entriesName &&
+           item.pieces.front().bytes.size() <= addressLayout.size() && isEntry(item.pieces.front().bytes);
 }
 
 AddressEntry withPictureMark(AddressEntry entry)
@@ -167,11 +177,16 @@ AddressBook::SaveResult AddressBook::saveChanged(int record, const AddressEntry 
     return write(record, entry);
 }
 
-std::optional<RecordChange> AddressBook::remove(int record)
+std::optional<RecordChange> AddressBook::remove(int record, const QDateTime &now)
 {
     if (!isEntryRecord(record))
         return {};
     RecordChange change;
+    if (const QByteArray entry = liveEntry(record); !entry.isEmpty())
+        change.throwAway({trashKind,
+                          now,
+                          addressLayout.decode(entry).fullName(),
+                          {{entriesName, record, entry}, {indexName, record, index().read(record)}}});
     change.write(entries(), record, deletedEntry());
     change.write(index(), record, deletedLine());
     return change.commit(m_folder) ? std::optional(change) : std::nullopt;
@@ -211,22 +226,61 @@ void AddressBook::forEachLiveRecord(const std::function<bool(int, QByteArrayView
 
 AddressBook::SaveResult AddressBook::write(int record, const AddressEntry &entry)
 {
+    return write(record, addressLayout.encode(withPictureMark(entry)), {}, {});
+}
+
+AddressBook::SaveResult AddressBook::write(int record, QByteArrayView entryBytes, QByteArrayView keptLine,
+                                           RecordChange change)
+{
     if (!isEntryRecord(record))
         return {};
     // The line names the entry as the file will hold it: composed, and cut to the width of its fields.
-    const QByteArray bytes = addressLayout.encode(withPictureMark(entry));
-    const AddressEntry stored = addressLayout.decode(bytes);
+    const AddressEntry stored = addressLayout.decode(entryBytes);
     SaveResult result;
     result.record = record;
-    result.line = IndexLine::make(stored[LastName], stored[FirstName], record);
-    const auto line = RecordValue::encodeText(result.line, lineRecordLength);
+    result.line = keptLine.isEmpty() ? IndexLine::make(stored[LastName], stored[FirstName], record)
+                                     : RecordValue::decodeText(keptLine);
+    const auto line = keptLine.isEmpty() ? RecordValue::encodeText(result.line, lineRecordLength)
+                                         : std::optional(keptLine.toByteArray());
     result.isLineTooLong = !line;
 
-    put(result.change, entries(), record, bytes, deletedEntry());
+    put(change, entries(), record, entryBytes, deletedEntry());
     if (line)
-        put(result.change, index(), record, *line, deletedLine());
-    result.isSaved = result.change.commit(m_folder);
+        put(change, index(), record, *line, deletedLine());
+    result.isSaved = change.commit(m_folder);
+    result.change = std::move(change);
     return result;
+}
+
+std::vector<Trash::Item> AddressBook::deletedEntries(const QDateTime &now) const
+{
+    std::vector<Trash::Item> items = Trash(m_folder).items(trashKind, now);
+    std::erase_if(items, [](const Trash::Item &item) { return !isBroughtBack(item); });
+    return items;
+}
+
+AddressBook::SaveResult AddressBook::bringBack(const Trash::Item &item)
+{
+    if (!isBroughtBack(item))
+        return {};
+    const int own = item.pieces.front().number;
+    const int record = isRecordFree(own) ? own : nextFreeRecord();
+    if (record > overflowRecord) {
+        SaveResult result;
+        result.isBookFull = true;
+        return result;
+    }
+    RecordChange change;
+    change.bringBack(item);
+    const bool isLineKept = record == own && item.pieces.size() > 1;
+    return write(record, item.pieces.front().bytes, isLineKept ? item.pieces[1].bytes : QByteArray(), change);
+}
+
+bool AddressBook::isRecordFree(int record) const
+{
+    const QByteArray line = RecordValue::textBytes(index().read(record)).toByteArray();
+    return isEntryRecord(record) && record <= entries().recordCount() && isFree(entries().read(record)) &&
+           (line.isEmpty() || IndexLine::isDeleted(QByteArrayView(line)));
 }
 
 QByteArray AddressBook::liveEntry(int record) const

@@ -78,11 +78,17 @@ public:
     /// Writes the entry of `record` and its line: both or neither. A line that is too long is left out.
     SaveResult saveChanged(int record, const AddressEntry &entry);
 
-    /// Marks entry and line as deleted. Nothing, with a line in the log and both as they were, when the disk
-    /// refuses.
-    [[nodiscard]] std::optional<RecordChange> remove(int record);
+    /// Marks entry and line as deleted, and puts them as they were into the trash. Nothing, with a line in
+    /// the log and both as they were, when the disk refuses.
+    [[nodiscard]] std::optional<RecordChange> remove(int record, const QDateTime &now);
     /// Marks a stray line as deleted. Nothing when there is none like it, or the disk refuses.
     [[nodiscard]] std::optional<RecordChange> removeStray(QStringView line);
+
+    /// The entries that were deleted in the 30 days before `now`, the newest first.
+    std::vector<Trash::Item> deletedEntries(const QDateTime &now) const;
+    /// Writes a deleted entry, byte for byte, into its own record where that is free, else into the one that
+    /// a new entry takes; it then leaves the trash.
+    SaveResult bringBack(const Trash::Item &item);
 
     /// Visits the live entries in record order, in one pass over each file; the visitor returns false to
     /// stop. An entry is live when its own record of the index holds a line.
@@ -100,6 +106,10 @@ public:
 
 private:
     SaveResult write(int record, const AddressEntry &entry);
+    /// A line that was kept from before is written as it was.
+    SaveResult write(int record, QByteArrayView entryBytes, QByteArrayView keptLine, RecordChange change);
+    /// Whether nothing would be lost of what a file holds, were an entry written to `record`.
+    bool isRecordFree(int record) const;
     /// The bytes of an entry; empty where none stands.
     QByteArray liveEntry(int record) const;
     /// The record of the index in which this line stands while its own record holds no entry, or 0.

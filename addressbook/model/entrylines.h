@@ -29,6 +29,16 @@ inline QString deleted(const QString &names)
     return u"Deleted: "_s + names;
 }
 
+inline QString broughtBack(const QString &names)
+{
+    return u"Brought back: "_s + names;
+}
+
+inline QString bookIsFull()
+{
+    return u"The address book is full: no record is free for this entry"_s;
+}
+
 /// What a picture that is not saved yet is called where it can be undone.
 inline QString picture(bool isThere)
 {

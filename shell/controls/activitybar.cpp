@@ -67,6 +67,8 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     m_date->setForegroundRole(ThemeRole::quiet);
     m_message->setForegroundRole(ThemeRole::quiet);
     m_message->setAccessibleDescription(u"Message"_s);
+    // As wide as what it says, so that what can be clicked stands right behind it.
+    m_message->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_progress->setFixedWidth(220);
     m_progress->setAccessibleName(u"Progress"_s);
     m_stop->setFixedHeight(26);

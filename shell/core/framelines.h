@@ -56,7 +56,27 @@ inline QString undoRefused(const QString &title)
     return u"The disk refused; it can be tried again: "_s + title;
 }
 
+inline QString trashKeeps()
+{
+    return u"What is deleted can be brought back for 30 days"_s;
+}
+
+inline QString trashSetAside()
+{
+    return u"The file of what was deleted before could not be read and was set aside"_s;
+}
+
+inline QString trashOutOfReach()
+{
+    return u"It was not kept among what can be brought back"_s;
+}
+
 // Reasons
+
+inline QString trashIsEmpty()
+{
+    return u"Nothing was deleted in the last 30 days"_s;
+}
 
 inline QString nothingToUndo()
 {

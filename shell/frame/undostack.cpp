@@ -56,7 +56,6 @@ void UndoStack::addCommands(QMenu *menu)
     m_redo = m_commands.writing(m_commands.add(
         menu, u"mERedo"_s, u"Re&do"_s, [this] { redo(); },
         [this, none] { return none(m_undone, FrameLines::nothingToRedo()); }, CommonKeys::redo));
-    menu->addSeparator();
 }
 
 void UndoStack::push(UndoStep step)

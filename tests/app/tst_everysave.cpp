@@ -176,6 +176,13 @@ const Save undoneDeletion{[](Desk &desk) {
                           },
                           [](Desk &desk) { desk.trigger("mEUndo"); }};
 
+const Save broughtBack{[](Desk &desk) {
+                           deletedEntry.prepare(desk);
+                           deletedEntry.press(desk);
+                           desk.trigger("mEBack");
+                       },
+                       [](Desk &desk) { desk.click("bringBack"); }};
+
 const Save savedDay{[](Desk &desk) {
                         desk.open(Function::Planner);
                         desk.type("Text2_13", u"Ferns"_s);
@@ -273,6 +280,7 @@ private slots:
             {"another name", changedName},
             {"an address deleted", deletedEntry},
             {"a deletion undone", undoneDeletion},
+            {"an address brought back", broughtBack},
             {"a day", savedDay},
             {"a recurrence", recurrence},
             {"to-dos imported", importedToDos},

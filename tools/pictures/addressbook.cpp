@@ -17,6 +17,11 @@ void takeView(PictureSession &session)
     session.click("Command5");
     session.take("print-options");
     session.key(Qt::Key_Escape);
+    session.box([&] { session.click("Command3"); }, [&] { session.key(Qt::Key_Y, Qt::AltModifier); });
+    session.take("address-book-deleted");
+    session.trigger("mEBack");
+    session.take("bring-back-deleted");
+    session.key(Qt::Key_Return);
     session.box([&] { session.trigger("mOC"); }, [&] { session.take("panel-color"); });
 
     session.trigger("mOPrt");

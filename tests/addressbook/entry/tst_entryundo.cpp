@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/entry/picturepanel.h"
+#include "shell/core/framelines.h"
 #include "tests/addressbook/entry/openaddressbook.h"
 #include "tests/support/rows.h"
 
+#include <QTableView>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -94,6 +96,63 @@ private slots:
         QCOMPARE(record(4).mid(520, path.size()), path);
         undo();
         QVERIFY(record(4).mid(520, path.size()) != path);
+    }
+
+    void bringsBackFromTheTrash_data()
+    {
+        rows<bool, int>({{"into its own record", false, 4}, {"beside who has that record now", true, 24}});
+    }
+
+    void bringsBackFromTheTrash()
+    {
+        const auto [isTaken, goesTo] = row<bool, int>();
+        const Files before = files();
+        const QByteArray entry = record(4);
+        remove();
+        if (isTaken) {
+            click("Command6");
+            type(0, u"Novak"_s);
+            click("Command1");
+            QCOMPARE(record(4).first(5), QByteArray("Novak"));
+        }
+        // Days later, in a new window.
+        m_test->clock.time = m_test->clock.time.addDays(29);
+        show();
+        trigger("mEBack");
+        auto *deleted = find<QTableView>("trashList");
+        QVERIFY(deleted->hasFocus());
+        QCOMPARE(deleted->model()->rowCount(), 1);
+        QCOMPARE(deleted->model()->index(0, 0).data().toString(), u"Sat, Nov 21, 2026  10:24 AM"_s);
+        QCOMPARE(deleted->model()->index(0, 1).data().toString(), u"Anne Miller"_s);
+        QTest::keyClick(deleted, Qt::Key_Return);
+        QCOMPARE(said(), u"Brought back: Anne Miller"_s);
+        QCOMPARE(selectedName(), u"Miller, Anne"_s);
+        QCOMPARE(record(goesTo), entry);
+        QCOMPARE(files() == before, !isTaken);
+        trigger("mEBack");
+        QVERIFY(!isOffered("bringBack"));
+        QTest::keyClick(deleted, Qt::Key_Escape);
+        QVERIFY(list()->hasFocus());
+        // It lies there again when that is undone.
+        undo();
+        trigger("mEBack");
+        QVERIFY(isOffered("bringBack"));
+    }
+
+    void emptiesTheTrashAgainWithUndo()
+    {
+        remove();
+        undo();
+        trigger("mEBack");
+        QCOMPARE(labelText("trashWords"), FrameLines::trashIsEmpty());
+    }
+
+    void deletesWithoutATrash()
+    {
+        m_test->setBytes(u"Quillery.trash"_s, "noise");
+        remove();
+        QVERIFY(said().startsWith(u"Deleted: Anne Miller. "_s));
+        QCOMPARE(m_test->bytes(u"Quillery.trash.kept"_s), QByteArray("noise"));
     }
 
     void asksBeforeTypedTextGivesWay()

@@ -148,7 +148,7 @@ private slots:
         replace(newLines, 23 * 60, "1" + QByteArray(1, '\0') + lineOf("\xC4st, Zo\xEB", 24));
         QCOMPARE(book().nextFreeRecord(), 28);
 
-        QVERIFY(book().remove(8).has_value());
+        QVERIFY(book().remove(8, now).has_value());
         replace(newEntries, 7 * 724, padded("*****", 724));
         replace(newLines, 7 * 60, QByteArray("\x2D\0#####", 7) + QByteArray(40, ' '));
         QCOMPARE(book().loadNames().countCaption(), u" 40 - Entries "_s);
@@ -167,7 +167,7 @@ private slots:
         for (const int record : {-1, 0, 1, 50002, std::numeric_limits<int>::max()}) {
             QVERIFY(book().read(record).isEmpty());
             QCOMPARE(book().saveChanged(record, anneLind()).record, 0);
-            QVERIFY(!book().remove(record).has_value());
+            QVERIFY(!book().remove(record, now).has_value());
         }
         QVERIFY(book().read(4).isEmpty());
         QCOMPARE(std::pair(entries(), lines()), before);
@@ -213,7 +213,7 @@ private slots:
         const AddressBook::SaveResult refused = book().saveNew(anneLind());
         QVERIFY(refused.isBookFull && !refused.isSaved);
         QVERIFY(entries() == full);
-        QVERIFY(book().remove(50001).has_value());
+        QVERIFY(book().remove(50001, now).has_value());
         QCOMPARE(book().nextFreeRecord(), 50001);
     }
 
@@ -329,10 +329,12 @@ private slots:
         QVERIFY(book().read(2).isEmpty());
         QVERIFY(!book().saveNew(anneLind()).isSaved);
         QVERIFY(!book().saveChanged(2, anneLind()).isSaved);
-        QVERIFY(!book().remove(2).has_value());
+        QVERIFY(!book().remove(2, now).has_value());
     }
 
 private:
+    const QDateTime now{QDate(2026, 11, 21), QTime(10, 24)};
+
     AddressBook book() const { return AddressBook(m_files->folder()); }
     void put(const QByteArray &entries, const QByteArray &lines) const
     {

@@ -121,6 +121,8 @@ private slots:
         QVERIFY(!link->isVisible());
         m_window->undoStack().offer();
         QVERIFY(link->isVisible());
+        const auto *message = find<QLabel>("statusMessage");
+        QTRY_VERIFY(message->width() >= message->sizeHint().width());
         QTest::mouseClick(link, Qt::LeftButton);
         QCOMPARE(m_window->done, {u"undo one"_s});
         QVERIFY(!link->isVisible() && said() == u"Undone: one"_s);
