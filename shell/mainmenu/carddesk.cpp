@@ -282,8 +282,8 @@ void CardDesk::measureHead(Measures &m) const
     m.sentence = QRect(m.side, m.date.bottom() + 3, words, std::max(bounds.height(), sentences.height()) + 2);
     m.cardsTop = m.sentence.bottom();
     if (m_firstLook && !m_firstLook->isHidden()) {
-        m.firstLook = QRect(QPoint(m.side - FirstLook::indent, m.cardsTop + 4),
-                            QSize(words, m_firstLook->sizeHint().height()));
+        m.firstLook = QRect(m.side - FirstLook::indent, m.cardsTop + 4, block + FirstLook::indent,
+                            m_firstLook->sizeHint().height());
         m.cardsTop = m.firstLook.bottom();
     }
     if (!m_top)

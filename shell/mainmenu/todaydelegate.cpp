@@ -18,7 +18,6 @@ constexpr int inset = 8;
 constexpr int gap = 10;
 constexpr int signSide = 20;
 constexpr int columnGap = 24;
-constexpr int leastText = 150;
 
 QFont dayFont()
 {
@@ -67,7 +66,7 @@ bool TodayDelegate::tellsDay(const QModelIndex &index) const
 
 QSize TodayDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
 {
-    return {dayWidth() + leastText, TodayList::rowHeight()};
+    return {dayWidth(), TodayList::rowHeight()};
 }
 
 void TodayDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -145,7 +144,8 @@ void TodayDelegate::paintLine(QPainter &painter, const QStyleOptionViewItem &opt
     place.setLeft(place.left() + signSide + gap);
     const QString source = index.data(TodayModel::SourceRole).toString();
     const int sourceWidth = QFontMetrics(TypeScale::label()).horizontalAdvance(source);
-    if (!source.isEmpty() && place.width() - sourceWidth - gap >= leastText) {
+    const int textWidth = QFontMetrics(TypeScale::body()).horizontalAdvance(index.data().toString());
+    if (place.width() - sourceWidth - gap >= textWidth) { // the sign tells where it comes from, too
         write(TypeScale::label(), ThemeRole::quiet,
               {place.right() - sourceWidth, place.top(), sourceWidth + 1, place.height()}, Qt::AlignRight,
               source);

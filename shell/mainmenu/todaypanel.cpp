@@ -19,6 +19,7 @@ namespace {
 constexpr int side = CardGround::margin + 16;
 constexpr int top = CardGround::margin + 8;
 constexpr int twoColumnsFrom = 980;
+constexpr int widestColumn = 760;
 constexpr int slack = 6;
 constexpr int leastLines = 3;
 /// Where it is scrolled to, below the cards.
@@ -64,9 +65,9 @@ void TodayPanel::keepLine(const std::function<void()> &change)
         m_list->setCurrentIndex(m_model->index(std::min(row, m_model->rowCount() - 1), 0));
 }
 
-int TodayPanel::columnsFor(int width)
+int TodayPanel::columnsFor(int width) const
 {
-    return width >= twoColumnsFrom ? 2 : 1;
+    return width >= twoColumnsFrom && m_model->wanted() > leastLines ? 2 : 1;
 }
 
 int TodayPanel::heightFor(int width, int room) const
@@ -94,7 +95,9 @@ void TodayPanel::openLine(int row)
 void TodayPanel::place()
 {
     const int columns = columnsFor(width());
-    const QRect inner = rect().adjusted(side, top, -side, -top);
+    QRect inner = rect().adjusted(side, top, -side, -top);
+    // In one wide column the eye would lose the line on its way to the end.
+    inner.setWidth(std::min(inner.width(), columns * widestColumn));
     keepLine([&] { m_model->setRoom(columns * std::max(1, inner.height() / TodayList::rowHeight())); });
     // A list as high as its lines would already wrap the last of them.
     m_list->setGeometry(inner.adjusted(0, 0, 0, slack));

@@ -43,7 +43,7 @@ protected:
 private:
     void openLine(int row);
     void keepLine(const std::function<void()> &change);
-    static int columnsFor(int width);
+    int columnsFor(int width) const;
     void place();
 
     TodayModel *m_model;
