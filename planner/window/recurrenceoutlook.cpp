@@ -32,6 +32,7 @@ RecurrenceOutlook::RecurrenceOutlook(const DataFolder &folder, const DateStyle &
         label->setTextInteractionFlags(Qt::NoTextInteraction);
         column->addWidget(label);
     }
+    column->addStretch(1);
     connect(m_work, &SlicedWork::finished, this, [this](bool wasStopped) {
         if (!wasStopped)
             tell();
@@ -52,6 +53,12 @@ void RecurrenceOutlook::showReason(const QString &reason)
     m_sum->setText(reason);
     for (QLabel *label : {m_full, m_dates, m_removal})
         label->hide();
+    emit told();
+}
+
+QString RecurrenceOutlook::sum() const
+{
+    return m_sum->text();
 }
 
 void RecurrenceOutlook::stop()
@@ -84,6 +91,7 @@ void RecurrenceOutlook::tell()
     m_removal->setText(
         PlannerLines::wouldRemove(seen.there(), dateText(seen.firstThere()), dateText(seen.lastThere())));
     m_removal->show();
+    emit told();
 }
 
 void RecurrenceOutlook::tellDates()

@@ -25,6 +25,12 @@ public:
     /// Shows why nothing can be counted.
     void showReason(const QString &reason);
     void stop();
+    /// "53 dates, Sat Nov 21, 2026 to Sat Nov 20, 2027", or why there are none.
+    QString sum() const;
+
+signals:
+    /// The sum is a new one.
+    void told();
 
 private:
     void tell();

@@ -29,6 +29,7 @@ namespace {
 
 constexpr int widestBar = 640;
 constexpr int twoColumnsFrom = 960;
+constexpr int threeColumnsFrom = 1160;
 
 } // namespace
 
@@ -37,6 +38,7 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     , m_program(program)
     , m_work(new SlicedWork(this))
     , m_columns(new QBoxLayout(QBoxLayout::LeftToRight))
+    , m_kinds(new QBoxLayout(QBoxLayout::LeftToRight))
     , m_range(new RecurrenceRange(program, this))
     , m_form(new RecurrenceForm({program.state.dateStyle, program.clock}, this))
     , m_outlook(new RecurrenceOutlook(program.folder, program.state.dateStyle, this))
@@ -48,12 +50,10 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     m_columns->setContentsMargins(0, 0, 8, 0);
     m_columns->setSpacing(32);
     m_columns->addWidget(m_range);
-    auto *kinds = new QVBoxLayout;
-    kinds->setSpacing(16);
-    kinds->addWidget(m_form);
-    kinds->addWidget(m_outlook);
-    kinds->addStretch(1);
-    m_columns->addLayout(kinds, 1);
+    m_columns->addLayout(m_kinds, 1);
+    m_kinds->setSpacing(24);
+    m_kinds->addWidget(m_form);
+    m_kinds->addWidget(m_outlook, 1);
     m_body->addWidget(makeScrolling(content, u"recurrenceScroll"_s, this));
     m_body->addWidget(makeProgressPanel());
     setWork(m_body);
@@ -63,6 +63,7 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     connect(m_range, &RecurrenceRange::changed, m_outlookSoon, qOverload<>(&QTimer::start));
     connect(m_outlookSoon, &QTimer::timeout, this, &RecurrencePanel::refreshOutlook);
     m_outlookSoon->setSingleShot(true);
+    connect(m_outlook, &RecurrenceOutlook::told, this, &RecurrencePanel::refreshWords);
     connect(m_form, &RecurrenceForm::said, this, &RecurrencePanel::said);
     connect(m_range, &RecurrenceRange::said, this, &RecurrencePanel::said);
     connect(m_work, &SlicedWork::progressed, this, &RecurrencePanel::showProgress);
@@ -116,6 +117,9 @@ void RecurrencePanel::makeFoot()
 void RecurrencePanel::resizeEvent(QResizeEvent *event)
 {
     TaskPanel::resizeEvent(event);
+    const bool hasRoom = width() >= threeColumnsFrom;
+    m_kinds->setDirection(hasRoom ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    refreshWords();
     m_columns->setDirection(width() < twoColumnsFrom ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
@@ -168,6 +172,12 @@ void RecurrencePanel::checkLimit()
     Recurrence recurrence;
     if (!read(recurrence))
         limited(recurrence);
+}
+
+/// Where the outlook may be scrolled out of sight, its sum stands in the foot.
+void RecurrencePanel::refreshWords()
+{
+    setWords(width() < threeColumnsFrom && !isRunning() ? m_outlook->sum() : QString());
 }
 
 /// Of what would be walked: brought within ten years, as the walk is.
@@ -263,6 +273,7 @@ void RecurrencePanel::setRunning(bool isRunning)
     const QString reason = isRunning ? PlannerLines::updating() : QString();
     for (QPushButton *button : {m_ok, m_remove, m_cancel})
         setUnavailable(button, reason);
+    refreshWords();
     m_stop->setChecked(false);
     m_progress->setValue(0);
     m_body->setCurrentIndex(isRunning ? 1 : 0);

@@ -54,6 +54,7 @@ private:
     Recurrence limited(const Recurrence &recurrence);
     void checkLimit();
     void refreshOutlook();
+    void refreshWords();
 
     QPushButton *defaultButton() const;
     void insert();
@@ -71,6 +72,7 @@ private:
     SlicedWork *m_work;
 
     QBoxLayout *m_columns;
+    QBoxLayout *m_kinds; ///< with what they would do beside or below them
     RecurrenceRange *m_range;
     RecurrenceForm *m_form;
     RecurrenceOutlook *m_outlook;

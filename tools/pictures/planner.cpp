@@ -62,7 +62,8 @@ void openWithoutOptions(PictureSession &session)
 
 void takeViews(PictureSession &session)
 {
-    session.type(u"6:30 PM"_s);
+    session.type(u"630p"_s);
+    session.take("planner-time");
     session.key(Qt::Key_Tab);
     session.take("planner-day");
     session.box([&] { session.trigger("mVMonth"); },
@@ -107,6 +108,7 @@ void takeRecurrence(PictureSession &session)
     session.trigger("mVDay");
     session.focus("Text2_2");
     session.trigger("mERec");
+    session.click("kind_2");
     session.take("planner-recurrence");
     session.click("kind_0");
     session.fill("endDate", u"Nov-20-2036"_s);
