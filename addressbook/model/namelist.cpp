@@ -21,10 +21,11 @@ struct Filed {
         , lastName(name.first(name.contains(',') ? name.indexOf(',') : name.size()))
     {}
 
-    bool operator<(const Filed &other) const
+    /// Negative, zero or positive.
+    int compare(const Filed &other) const
     {
         const int lastNames = ByteCase::compare(lastName, other.lastName);
-        return lastNames == 0 ? ByteCase::compare(name, other.name) < 0 : lastNames < 0;
+        return lastNames == 0 ? ByteCase::compare(name, other.name) : lastNames;
     }
 
     QByteArrayView name;
@@ -67,11 +68,8 @@ std::vector<int> NameList::arrange(NameOrder order)
     std::iota(wasAt.begin(), wasAt.end(), 0);
     std::ranges::sort(wasAt, [&](int one, int other) {
         const auto first = std::size_t(one), second = std::size_t(other);
-        if (order == NameOrder::AToZ && filed[first] < filed[second])
-            return true;
-        if (order == NameOrder::AToZ && filed[second] < filed[first])
-            return false;
-        return m_places[first].start < m_places[second].start;
+        const int compared = order == NameOrder::AToZ ? filed[first].compare(filed[second]) : 0;
+        return compared == 0 ? m_places[first].start < m_places[second].start : compared < 0;
     });
     std::vector<Place> places;
     places.reserve(m_places.size());
@@ -169,9 +167,9 @@ int NameList::placeFor(QStringView line) const
     if (m_order == NameOrder::Record)
         return count();
     const QByteArray bytes = AnsiText::encode(line);
-    const auto behind =
-        std::upper_bound(m_places.begin(), m_places.end(), Filed(bytes),
-                         [this](const Filed &one, Place other) { return one < Filed(bytesOf(other)); });
+    const auto behind = std::upper_bound(
+        m_places.begin(), m_places.end(), Filed(bytes),
+        [this](const Filed &one, Place other) { return one.compare(Filed(bytesOf(other))) < 0; });
     return int(behind - m_places.begin());
 }
 
