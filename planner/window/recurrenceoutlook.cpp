@@ -21,7 +21,7 @@ RecurrenceOutlook::RecurrenceOutlook(const DataFolder &folder, const DateStyle &
     , m_removal(named(makeQuietLabel({}, this), u"outlookRemoval"_s))
 {
     m_sum->setFont(TypeScale::strong());
-    m_full->setFont(TypeScale::label());
+    m_full->setFont(TypeScale::strong()); // in the panel's ink, which any color of a user leaves readable
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
@@ -75,9 +75,6 @@ QString RecurrenceOutlook::dateText(QDate date) const
 void RecurrenceOutlook::tell()
 {
     const RecurrencePreview &seen = *m_preview;
-    QPalette due = palette();
-    due.setColor(QPalette::WindowText, Theme::of(this).due);
-    m_full->setPalette(due);
     if (!m_hasKind)
         m_sum->setText(PlannerLines::noKindYet());
     else if (seen.count() == 0)
