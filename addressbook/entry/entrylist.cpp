@@ -77,7 +77,9 @@ const NameList &EntryList::names() const
 void EntryList::setNames(NameList names)
 {
     const QScopedValueRollback<bool> still(m_isFollowing, false);
+    const int saved = this->names().recordAt(savedRow());
     m_names->setNames(std::move(names));
+    m_saved = m_names->index(this->names().positionOf(saved));
     refreshCount();
 }
 

@@ -19,13 +19,12 @@ SameAddressLink::SameAddressLink(const AddressBook &book, const EntryList &list,
     , m_list(list)
     , m_editor(editor)
     , m_link(new LinkButton(u"sameAddress"_s, u"Same &Address as..."_s, &editor.form()))
-    , m_chooser(new AddressChooser(window, [this](const QString &line) { return outcome(line); }))
+    , m_window(window)
 {
     m_link->setAccessibleName(u"Same address as somebody else"_s);
     m_link->setToolTip(u"Takes street, town, country, postal code and home phone of another entry"_s);
     editor.form().addLinkBefore(Address1, m_link);
     connect(m_link, &LinkButton::clicked, this, &SameAddressLink::open);
-    connect(m_chooser, &AddressChooser::chosen, this, &SameAddressLink::take);
     connect(&editor, &EntryEditor::changed, this, &SameAddressLink::refresh);
     connect(this, &SameAddressLink::said, &editor, &EntryEditor::said);
     refresh();
@@ -33,13 +32,18 @@ SameAddressLink::SameAddressLink(const AddressBook &book, const EntryList &list,
 
 void SameAddressLink::refresh()
 {
-    m_chooser->dismiss();
+    if (m_chooser)
+        m_chooser->dismiss();
     m_link->setVisible(m_editor.mode() != EntryEditor::Mode::View && !m_list.names().isEmpty());
 }
 
 void SameAddressLink::open()
 {
     m_cameFrom = QApplication::focusWidget();
+    if (!m_chooser) {
+        m_chooser = new AddressChooser(m_window, [this](const QString &line) { return outcome(line); });
+        connect(m_chooser, &AddressChooser::chosen, this, &SameAddressLink::take);
+    }
     m_chooser->open(m_link, m_list.names(), m_list.savedRow(), m_list.shownRow());
 }
 

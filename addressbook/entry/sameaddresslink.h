@@ -34,6 +34,7 @@ private:
     const EntryList &m_list;
     EntryEditor &m_editor;
     LinkButton *m_link;
-    AddressChooser *m_chooser;
+    AddressChooser *m_chooser = nullptr; ///< made when it is first asked for
+    QWidget *m_window;
     QPointer<QWidget> m_cameFrom;
 };
