@@ -61,7 +61,10 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
     rows->setContentsMargins(20, 10, 20, 14);
     rows->setSpacing(4);
     rows->addWidget(m_title);
-    rows->addWidget(makeRowHeads());
+    auto *heads = new QHBoxLayout;
+    heads->addWidget(makeRowHeads(), 1);
+    heads->addStretch();
+    rows->addLayout(heads);
     rows->addWidget(m_scroll, 1);
     rows->addWidget(makeLine(this));
     rows->addSpacing(4);
@@ -80,6 +83,7 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
 QWidget *DayEditor::makeRowHeads()
 {
     auto *line = new QWidget;
+    line->setMaximumWidth(DayForm::greatestWidth);
     auto *layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);

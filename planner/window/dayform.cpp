@@ -78,6 +78,7 @@ DayForm::DayForm(QWidget *parent)
     , m_timeList(named(new TimeList(this), u"Combo1"_s))
     , m_suggestion(new TimeSuggestion(this))
 {
+    setMaximumWidth(greatestWidth);
     // Fourteen rows have to fit on the smallest screen.
     setStyleSheet(u"QLineEdit { min-height: 20px; }"_s);
     auto *grid = new QGridLayout(this);

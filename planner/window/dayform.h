@@ -34,6 +34,9 @@ class DayForm final : public QWidget
 {
     Q_OBJECT
 public:
+    /// The rows are never wider: a text of fifty letters has room, and the eye finds from its time to it.
+    static constexpr int greatestWidth = 788;
+
     explicit DayForm(QWidget *parent = nullptr);
 
     void setDay(const PlannerDay &day);

@@ -97,7 +97,7 @@ void Zcalandar1::makeCommands()
     addStandardTool(Standard::Backup);
     addStandardTool(Standard::Help, u"mH_tool"_s);
     // The fourteen rows of the day need the height that a second row of tools would take.
-    for (const char *name : {"mOC", "mEPaste_tool", "mUB", "mECopy", "mH_tool"})
+    for (const char *name : {"mEPaste_tool", "mECopy", "mH_tool"})
         toolbar().giveWay(findChild<QAction *>(QLatin1StringView(name)));
 }
 

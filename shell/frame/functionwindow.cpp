@@ -249,6 +249,8 @@ QAction *FunctionWindow::standard(Standard command)
 void FunctionWindow::addStandardTool(Standard command, const QString &name)
 {
     m_standard->addTool(command, name);
+    if (command != Standard::Help) // the menus have them as well, and nobody needs them often
+        m_toolbar->giveWay(m_standard->action(command));
 }
 
 void FunctionWindow::addUtilitiesMenu()

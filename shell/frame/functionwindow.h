@@ -102,7 +102,8 @@ protected:
     /// A command that every window has; made when first asked for. Backup and restore say when there is none
     /// in this program.
     QAction *standard(Standard command);
-    /// The same on the toolbar, with its icon and word; a name makes it a tool of its own.
+    /// The same on the toolbar, with its icon and word; a name makes it a tool of its own. Panel Color and
+    /// Backup give way in a narrow window.
     void addStandardTool(Standard command, const QString &name = {});
     /// The "Utilities" menu: backup and restore.
     void addUtilitiesMenu();

@@ -80,6 +80,11 @@ void Albums::addressPages(const Camera &camera)
     session.trigger("mOW");
     session.takePage("address-page-worksheet");
     session.key(Qt::Key_Escape);
+    session.trigger("mOLab");
+    session.click("tickAll");
+    session.fill("labelRight", u"5"_s);
+    session.take("address-book-labels");
+    session.key(Qt::Key_Escape);
     session.click("Command5");
     for (const auto &[button, name] :
          {std::pair("print2", "address-page-2"), std::pair("print4", "address-page-4"),

@@ -100,6 +100,8 @@ void takePages(PictureSession &session)
     session.takePage("planner-page-week-landscape");
     session.trigger("mOPMonth");
     session.takePage("planner-page-month");
+    session.key(Qt::Key_PageDown);
+    session.takePage("planner-page-month-list");
     session.key(Qt::Key_Escape);
 }
 

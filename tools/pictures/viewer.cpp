@@ -53,7 +53,7 @@ void takePrintedLists(PictureSession &session)
     session.click("printList");
     session.takePage("viewer-page-list");
     session.key(Qt::Key_Escape);
-    session.click("information_2");
+    session.click("information_1");
     for (const char *option : {"printTelephones", "printAsOf", "printGridLines", "twoColumns"})
         session.click(option);
     session.click("printList");
