@@ -16,13 +16,26 @@ void RecordChange::write(const RecordFile &file, int number, QByteArrayView afte
 
 void RecordChange::write(const RecordFile &file, int number, QByteArrayView after, QByteArrayView before)
 {
-    Place &place = m_places[{QFileInfo(file.path()).fileName(), number}];
-    place.recordLength = file.recordLength();
+    add({QFileInfo(file.path()).fileName(), number}, file.recordLength(), after, before);
+}
+
+void RecordChange::add(const RecordChange &later)
+{
+    for (const auto &[where, place] : later.m_places)
+        add(where, place.recordLength, place.after, place.before);
+    m_isUnknown = m_isUnknown || later.m_isUnknown;
+}
+
+void RecordChange::add(const Places::key_type &where, qsizetype recordLength, QByteArrayView after,
+                       QByteArrayView before)
+{
+    Place &place = m_places[where];
+    place.recordLength = recordLength;
     // What an earlier write of the same action did not reach still stands as it was.
     const qsizetype known = place.after.size();
     if (after.size() > known) {
-        place.before += before.sliced(std::min(known, before.size()))
-                            .first(std::clamp<qsizetype>(before.size() - known, 0, after.size() - known));
+        const qsizetype end = std::min(before.size(), after.size());
+        place.before += before.first(end).sliced(std::min(known, end));
         place.before.resize(after.size(), '\0');
     }
     place.after = after.toByteArray() + place.after.sliced(std::min(after.size(), known));

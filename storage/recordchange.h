@@ -30,6 +30,9 @@ public:
     /// The same, where it is `before` that comes back.
     void write(const RecordFile &file, int number, QByteArrayView after, QByteArrayView before);
 
+    /// Adds what another change did after this one.
+    void add(const RecordChange &later);
+
     /// Adds: `item` goes into the trash with the change, and comes out when it is taken back.
     void throwAway(Trash::Item item) { m_thrownAway.push_back(std::move(item)); }
     /// Adds: `item` comes out of the trash with the change, and goes in again when it is taken back.
@@ -58,6 +61,8 @@ private:
     using Places = std::map<std::pair<QString, int>, Place>;
     using Bytes = QByteArray Place::*;
 
+    void add(const Places::key_type &where, qsizetype recordLength, QByteArrayView after,
+             QByteArrayView before);
     ChangeResult exchange(const DataFolder &folder, Bytes held, Bytes wanted);
     bool write(const DataFolder &folder, Bytes wanted);
 

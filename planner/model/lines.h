@@ -43,6 +43,27 @@ inline QString pasted(int entries)
                         : u"%1 entries pasted; not saved yet"_s.arg(entries);
 }
 
+inline QString saved(QDate date, DateStyle style)
+{
+    return u"Saved: "_s + Dates::statusText(date, style);
+}
+
+/// What a walk over many days is called where it can be undone.
+inline QString repeated(const QString &words)
+{
+    return u"Repeated: "_s + words;
+}
+
+inline QString recurrenceRemoved(const QString &words)
+{
+    return u"Removed on many days: "_s + words;
+}
+
+inline QString toDosImported()
+{
+    return u"To Do items imported"_s;
+}
+
 inline QString noSuchDate(const QString &text)
 {
     return u"This is not a date: "_s + text;

@@ -3,7 +3,6 @@
 
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannerdates.h"
-#include "storage/changeset.h"
 #include "storage/log.h"
 
 #include <QDir>
@@ -61,13 +60,22 @@ PlannerDay PlannerFiles::read(QDate date) const
 
 bool PlannerFiles::write(QDate date, const PlannerDay &day)
 {
+    RecordChange change;
+    return write(date, day, change);
+}
+
+bool PlannerFiles::write(QDate date, const PlannerDay &day, RecordChange &change)
+{
     if (!PlannerDates::has(date))
         return false;
     PlannerDay saved = day;
     saved.mark = PlannerDay::savedMark;
-    ChangeSet change(m_folder);
-    change.write(yearFile(date.year()), DayRecord::number(date), plannerDayLayout.encode(saved));
-    return change.commit();
+    RecordChange written;
+    written.write(yearFile(date.year()), DayRecord::number(date), plannerDayLayout.encode(saved));
+    if (!written.commit(m_folder))
+        return false;
+    change.add(written);
+    return true;
 }
 
 QByteArray PlannerFiles::yearBytes(int year) const

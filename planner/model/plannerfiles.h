@@ -4,6 +4,7 @@
 #include "planner/model/dayorder.h"
 #include "planner/model/plannerday.h"
 #include "storage/datafolder.h"
+#include "storage/recordchange.h"
 #include "storage/recordfile.h"
 
 #include <QDate>
@@ -31,6 +32,8 @@ public:
     /// Writes `day`, marked as saved, into `date`'s record: 850 bytes, cut and padded to the fields' widths.
     /// False when the disk refuses; the rest of the file keeps what it held.
     [[nodiscard]] bool write(QDate date, const PlannerDay &day);
+    /// The same, noted in `change`.
+    [[nodiscard]] bool write(QDate date, const PlannerDay &day, RecordChange &change);
 
     /// Visits the saved days of `year` by date, after one read of its file; nothing when the file is missing.
     void forEachDay(int year, const std::function<void(QDate date, const PlannerDay &day)> &visit) const;

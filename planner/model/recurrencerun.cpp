@@ -12,7 +12,8 @@ class RecurrenceRun::YearFile
 public:
     YearFile(const DataFolder &folder, int year)
         : m_year(year)
-        , m_file(RecordFile(folder, DayRecord::yearFileName(year), DayRecord::length))
+        , m_records(folder, DayRecord::yearFileName(year), DayRecord::length)
+        , m_file(m_records)
     {}
 
     int year() const { return m_year; }
@@ -25,16 +26,23 @@ public:
 
     bool hasFailed() const { return m_file.hasFailed(); }
 
-    [[nodiscard]] bool write(QDate date, PlannerDay day)
+    [[nodiscard]] bool write(QDate date, PlannerDay day, RecordChange &change)
     {
         day.mark = PlannerDay::savedMark;
-        return m_file.write(DayRecord::number(date), plannerDayLayout.encode(day));
+        const int number = DayRecord::number(date);
+        const QByteArray before = m_file.read(number).toByteArray();
+        const QByteArray after = plannerDayLayout.encode(day);
+        if (m_file.hasFailed() || !m_file.write(number, after))
+            return false;
+        change.write(m_records, number, after, before);
+        return true;
     }
 
     [[nodiscard]] bool flush() { return m_file.flush(); }
 
 private:
     int m_year;
+    RecordFile m_records;
     OpenRecordFile m_file;
 };
 
@@ -90,7 +98,8 @@ DateResult RecurrenceRun::work(QDate date)
     const DateResult result = m_action == RecurrenceAction::Insert ? insertAppointment(day, m_appointment)
                                                                    : removeAppointment(day, m_appointment);
     const bool changed = result == DateResult::Made || result == DateResult::Removed;
-    return changed && !m_file->write(date, inTimeOrder(day, m_placement)) ? DateResult::Failed : result;
+    return changed && !m_file->write(date, inTimeOrder(day, m_placement), m_change) ? DateResult::Failed
+                                                                                    : result;
 }
 
 bool RecurrenceRun::step()

@@ -40,6 +40,9 @@ public:
     /// has done it. False when the disk refuses.
     [[nodiscard]] bool finish();
 
+    /// The days that were written so far, as they were and as they are.
+    const RecordChange &change() const { return m_change; }
+
     int made() const { return m_made; }
     int full() const { return m_full; }
     int failed() const { return m_failed; }
@@ -60,6 +63,7 @@ private:
     RecurrenceAction m_action;
     Appointment m_appointment;
     RecurrenceDates m_dates;
+    RecordChange m_change;
     std::unique_ptr<YearFile> m_file;
     QDate m_lastDate;
     int m_made = 0;

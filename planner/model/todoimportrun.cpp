@@ -38,8 +38,9 @@ DateResult ToDoImportRun::insert(const ToDoItem &item)
     PlannerDay day = m_files.read(item.date);
     const DateResult result = insertAppointment(day, Appointment::ofRow({}, item.text));
     const bool mustWrite = result == DateResult::Made;
-    return mustWrite && !m_files.write(item.date, inTimeOrder(day, m_placement)) ? DateResult::Failed
-                                                                                 : result;
+    return mustWrite && !m_files.write(item.date, inTimeOrder(day, m_placement), m_change)
+               ? DateResult::Failed
+               : result;
 }
 
 QString ToDoImportRun::report(bool wasStopped, DateStyle style) const

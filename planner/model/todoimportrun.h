@@ -16,6 +16,9 @@ public:
     /// Works on the next item; false when there is none left, or when the disk refused this one.
     bool step();
 
+    /// The days that were written so far, as they were and as they are.
+    const RecordChange &change() const { return m_change; }
+
     int made() const { return m_made; }
     int there() const { return m_there; }
     int full() const { return m_full; }
@@ -42,4 +45,5 @@ private:
     int m_full = 0;
     int m_passedOver = 0;
     QDate m_refused;
+    RecordChange m_change;
 };

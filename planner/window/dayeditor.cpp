@@ -216,12 +216,14 @@ void DayEditor::focusFirstEmptyRow()
 
 bool DayEditor::save()
 {
-    if (!m_files.write(m_date, inTimeOrder(typed(), placement()))) {
+    RecordChange change;
+    if (!m_files.write(m_date, inTimeOrder(typed(), placement()), change)) {
         emit said(PlannerLines::notSaved());
         return false;
     }
     emit saved();
     reload();
+    emit written(m_date, change);
     m_program.dialogs.ask(window(), PlannerMessages::daySaved());
     return true;
 }
@@ -230,8 +232,10 @@ void DayEditor::saveByCommand()
 {
     if (typed().isEmpty() && m_program.dialogs.ask(window(), PlannerMessages::nothingToSave()) == Answer::No)
         return;
-    if (save())
-        focusFirstEmptyRow();
+    if (!save())
+        return;
+    focusFirstEmptyRow();
+    emit savedByCommand();
 }
 
 void DayEditor::clear()
@@ -242,10 +246,12 @@ void DayEditor::clear()
     }
     if (m_program.dialogs.ask(window(), PlannerMessages::clearDay(m_title->title())) != Answer::Yes)
         return;
+    const PlannerDay before = m_form->day();
     m_form->setDay({});
     refreshModified();
     focusRow(0);
     emit said(PlannerLines::cleared());
+    noteExchange(PlannerLines::cleared(), before);
 }
 
 void DayEditor::copy()
@@ -263,7 +269,8 @@ void DayEditor::paste()
 {
     if (!m_copied)
         return;
-    PlannerDay day = m_form->day();
+    const PlannerDay before = m_form->day();
+    PlannerDay day = before;
     int pasted = 0;
     for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
         if (!day.isRowEmpty(row) || m_copied->isRowEmpty(row))
@@ -275,6 +282,24 @@ void DayEditor::paste()
     m_form->setDay(day);
     refreshModified();
     emit said(PlannerLines::pasted(pasted));
+    if (pasted > 0)
+        noteExchange(PlannerLines::pasted(pasted), before);
+}
+
+void DayEditor::noteExchange(const QString &title, const PlannerDay &before)
+{
+    const PlannerDay now = m_form->day();
+    emit exchanged({title, [=, this] { return exchange(now, before); },
+                    [=, this] { return exchange(before, now); }, UndoStep::Typed});
+}
+
+ChangeResult DayEditor::exchange(const PlannerDay &shown, const PlannerDay &wanted)
+{
+    if (m_form->day() != shown)
+        return ChangeResult::Outdated;
+    m_form->setDay(wanted);
+    refreshModified();
+    return ChangeResult::Done;
 }
 
 void DayEditor::askForDate()

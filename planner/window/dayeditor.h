@@ -4,6 +4,7 @@
 #include "planner/model/plannerfiles.h"
 #include "planner/model/recurrence.h"
 #include "shell/core/editedtexts.h"
+#include "shell/core/undostep.h"
 
 #include <QWidget>
 
@@ -59,6 +60,10 @@ public:
 signals:
     void loaded(QDate date);
     void saved();
+    void written(QDate date, const RecordChange &change);
+    void savedByCommand();
+    /// The rows were filled or emptied by a command, and no file has it yet.
+    void exchanged(const UndoStep &step);
     /// Another day is wanted in the place of this one.
     void dateRequested(QDate date);
     /// A quiet line for the status bar.
@@ -71,6 +76,9 @@ private:
     void refreshModified();
     QList<int> rowsSortedLast() const;
     void enterRow(int row);
+    void noteExchange(const QString &title, const PlannerDay &before);
+    /// Puts the rows of `wanted` in the place of those of `shown`, unless the boxes hold anything else.
+    ChangeResult exchange(const PlannerDay &shown, const PlannerDay &wanted);
 
     Program &m_program;
     PlannerFiles &m_files;

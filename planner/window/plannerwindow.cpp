@@ -5,6 +5,7 @@
 #include "planner/model/messages.h"
 #include "planner/window/calendaroptionspanel.h"
 #include "planner/window/daysview.h"
+#include "planner/window/plannerchanges.h"
 #include "planner/window/plannerprint.h"
 #include "planner/window/plannersidepane.h"
 #include "planner/window/plannerviews.h"
@@ -17,6 +18,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
+#include "shell/frame/undostack.h"
 #include "shell/frame/viewmarks.h"
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
@@ -149,6 +151,8 @@ void Zcalandar1::addEditCommands(QMenu *menu)
     const auto whyNoPaste = [this] {
         return whyNoDay().isEmpty() && !m_day->hasCopy() ? PlannerLines::copyFirst() : whyNoDay();
     };
+    undoStack().addCommands(menu);
+    menu->addSeparator();
     Commands &all = commands();
     QAction *copyDay = all.add(menu, u"mECopy"_s, u"&Copy Day"_s, copy, dayOnly);
     QAction *paste = all.writing(all.add(
@@ -224,6 +228,14 @@ void Zcalandar1::connectWalks()
     connect(m_import, &ToDoImporter::busyChanged, this, &Zcalandar1::setUpdating);
     connect(m_import, &ToDoImporter::filesChanged, this, &Zcalandar1::refreshFromFiles);
     connect(m_import, &ToDoImporter::filesChanged, m_day, &DayEditor::focusCurrentRow);
+    const auto show = [this](QDate date) {
+        m_side->refreshMarks();
+        m_day->load(date.isValid() ? date : m_day->date());
+        date.isValid() ? showDay() : m_views->showToday();
+    };
+    auto *changes =
+        new PlannerChanges(program(), {*m_day, *m_recurrence, *m_import, undoStack(), show}, this);
+    connect(changes, &PlannerChanges::said, &activity(), &ActivityBar::say);
 }
 
 Message Zcalandar1::leaveQuestion() const
@@ -231,9 +243,14 @@ Message Zcalandar1::leaveQuestion() const
     return PlannerMessages::saveBeforeExiting();
 }
 
+Message Zcalandar1::replaceQuestion() const
+{
+    return PlannerMessages::saveBeforeNextAction();
+}
+
 bool Zcalandar1::mayReplaceDay()
 {
-    return mayReplace(PlannerMessages::saveBeforeNextAction());
+    return mayReplace(replaceQuestion());
 }
 
 QString Zcalandar1::whyNoDay() const

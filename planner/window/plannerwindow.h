@@ -32,6 +32,7 @@ protected:
     [[nodiscard]] bool save() override { return m_day->save(); }
     void drop() override { m_day->reload(); }
     Message leaveQuestion() const override;
+    Message replaceQuestion() const override;
 
 private:
     QWidget *makeWorkPanel();

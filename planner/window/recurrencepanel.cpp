@@ -240,32 +240,40 @@ void RecurrencePanel::finish(bool wasStopped)
     setRunning(false);
     emit filesChanged();
     const auto run = std::exchange(m_run, {});
+    report(*run, wasStopped);
+    const QString words = QString(m_appointment.time + u' ' + m_appointment.text).trimmed();
+    emit walked(m_action == RecurrenceAction::Insert ? PlannerLines::repeated(words)
+                                                     : PlannerLines::recurrenceRemoved(words),
+                run->change());
+}
+
+void RecurrencePanel::report(RecurrenceRun &run, bool wasStopped)
+{
     const bool isInsert = m_action == RecurrenceAction::Insert;
-    const QString done = isInsert ? PlannerLines::made(run->made()) : PlannerLines::removed(run->removed());
-    const bool isOnDisk = run->finish() && run->failed() == 0;
+    const QString done = isInsert ? PlannerLines::made(run.made()) : PlannerLines::removed(run.removed());
+    const bool isOnDisk = run.finish() && run.failed() == 0;
     if (wasStopped && isOnDisk) {
         emit said({});
-        if (run->lastDate().isValid())
-            m_program.dialogs.ask(this, PlannerMessages::recurrenceStopped(run->lastDate(), m_action));
+        if (run.lastDate().isValid())
+            m_program.dialogs.ask(this, PlannerMessages::recurrenceStopped(run.lastDate(), m_action));
         return;
     }
     if (!isOnDisk) {
-        emit said(
-            PlannerLines::diskRefused(Dates::numbers(run->lastDate(), m_program.state.dateStyle), done));
+        emit said(PlannerLines::diskRefused(Dates::numbers(run.lastDate(), m_program.state.dateStyle), done));
         return;
     }
-    if (run->done() == 0) {
+    if (run.done() == 0) {
         emit said(PlannerLines::noDateInRange());
         return;
     }
-    const auto report = isInsert ? PlannerMessages::recurrenceReport(run->made(), run->full()) : std::nullopt;
+    const auto report = isInsert ? PlannerMessages::recurrenceReport(run.made(), run.full()) : std::nullopt;
     if (report)
         m_program.dialogs.ask(this, *report);
     leave();
     // Last, since the day that comes back says in which row it is.
     const QString line = isInsert && !report ? PlannerLines::nothingMade() : done;
-    emit said(run->isCutShort() ? line + u". "_s + PlannerLines::beyondDates(m_program.state.dateStyle)
-                                : line);
+    emit said(run.isCutShort() ? line + u". "_s + PlannerLines::beyondDates(m_program.state.dateStyle)
+                               : line);
 }
 
 void RecurrencePanel::setRunning(bool isRunning)

@@ -39,6 +39,8 @@ signals:
     /// A walk ended, whether it came to its end or not: days may have changed.
     void filesChanged();
     void said(const QString &line);
+    /// Last, when all was said: what the walk wrote.
+    void walked(const QString &title, const RecordChange &change);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -62,6 +64,7 @@ private:
     void walk(RecurrenceAction action, const Recurrence &recurrence);
     void showProgress();
     void finish(bool wasStopped);
+    void report(RecurrenceRun &run, bool wasStopped);
     void setRunning(bool isRunning);
 
     Program &m_program;

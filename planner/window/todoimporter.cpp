@@ -48,4 +48,5 @@ void ToDoImporter::finish(bool wasStopped)
     emit filesChanged();
     // Last, since the day that comes back says in which row it is.
     m_activity.say(run->report(wasStopped, m_program.state.dateStyle));
+    emit walked(PlannerLines::toDosImported(), run->change());
 }

@@ -30,6 +30,8 @@ signals:
     void busyChanged(bool isBusy);
     /// A walk ended, whether it came to its end or not: days may have changed.
     void filesChanged();
+    /// Last, when all was said: what the walk wrote.
+    void walked(const QString &title, const RecordChange &change);
 
 private:
     void finish(bool wasStopped);

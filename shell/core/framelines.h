@@ -51,6 +51,11 @@ inline QString changedSince(const QString &title)
     return u"What this wrote was changed by another window since; nothing was undone: "_s + title;
 }
 
+inline QString typedSince(const QString &title)
+{
+    return u"Something was typed since; nothing was undone: "_s + title;
+}
+
 inline QString undoRefused(const QString &title)
 {
     return u"The disk refused; it can be tried again: "_s + title;

@@ -114,7 +114,8 @@ void UndoStack::go(Steps &from, Steps &to, Way way, const QString &done)
     if (step->kind == UndoStep::Written && !m_mayReplace())
         return;
     const ChangeResult result = ((*step).*way)();
-    if (result != ChangeResult::Refused)
+    // Typed text may give way again to what a step of typing left.
+    if (result == ChangeResult::Done || (result == ChangeResult::Outdated && step->kind == UndoStep::Written))
         std::erase(from, step);
     if (result == ChangeResult::Done)
         to.push_back(step);
@@ -124,7 +125,8 @@ void UndoStack::go(Steps &from, Steps &to, Way way, const QString &done)
         m_activity.say(done + step->title);
         break;
     case ChangeResult::Outdated:
-        m_activity.say(FrameLines::changedSince(step->title));
+        m_activity.say(step->kind == UndoStep::Typed ? FrameLines::typedSince(step->title)
+                                                     : FrameLines::changedSince(step->title));
         break;
     case ChangeResult::Refused:
         m_activity.say(FrameLines::undoRefused(step->title));

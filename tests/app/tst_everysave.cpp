@@ -189,6 +189,12 @@ const Save savedDay{[](Desk &desk) {
                     },
                     [](Desk &desk) { desk.click("saveDay"); }};
 
+const Save undoneDay{[](Desk &desk) {
+                         savedDay.prepare(desk);
+                         savedDay.press(desk);
+                     },
+                     [](Desk &desk) { desk.trigger("mEUndo"); }};
+
 const Save recurrence{[](Desk &desk) {
                           desk.open(Function::Planner);
                           desk.type("Text2_0", u"Yoga"_s);
@@ -203,6 +209,12 @@ const Save recurrence{[](Desk &desk) {
                           desk.finish();
                       },
                       Save::Walk};
+
+const Save undoneRecurrence{[](Desk &desk) {
+                                recurrence.prepare(desk);
+                                recurrence.press(desk);
+                            },
+                            [](Desk &desk) { desk.trigger("mEUndo"); }};
 
 const Save importedToDos{[](Desk &desk) { desk.open(Function::Planner); },
                          [](Desk &desk) {
@@ -282,7 +294,9 @@ private slots:
             {"a deletion undone", undoneDeletion},
             {"an address brought back", broughtBack},
             {"a day", savedDay},
+            {"a day undone", undoneDay},
             {"a recurrence", recurrence},
+            {"a recurrence undone", undoneRecurrence},
             {"to-dos imported", importedToDos},
             {"calendar options", calendarOptions},
             {"marks of areas", marks},
