@@ -150,7 +150,12 @@ PlannerDay DayForm::day() const
 void DayForm::focusRow(int row)
 {
     row = std::clamp(row, 0, lastRow);
-    (timeBox(row)->text().isEmpty() ? timeBox(row) : textBox(row))->setFocus();
+    QWidget *box = timeBox(row)->text().isEmpty() ? timeBox(row) : textBox(row);
+    box->setFocus();
+    // Behind a question the focus comes only with the window, too late to take the place of what is said
+    // next.
+    if (row != m_row && !box->hasFocus())
+        enterRow(row);
 }
 
 int DayForm::firstEmptyRow() const
