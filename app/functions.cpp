@@ -5,9 +5,11 @@
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/addressholdings.h"
 #include "addressbook/model/addressnews.h"
+#include "addressbook/model/addresssearch.h"
 #include "addressbook/viewer/viewerwindow.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
+#include "planner/model/plannersource.h"
 #include "planner/window/plannerwindow.h"
 #include "shell/access/gate.h"
 #include "shell/access/passwordcheck.h"
@@ -49,10 +51,20 @@ QStringList addressPictures(const Program &program)
     return AddressHoldings::pictures(program.folder);
 }
 
+std::unique_ptr<SearchSource> addressSearch(const Program &program)
+{
+    return std::make_unique<AddressSearch>(program.folder);
+}
+
 void showAddress(QWidget &window, const Place &place)
 {
     if (auto *book = qobject_cast<ADDBKVIEW *>(&window))
         book->showRecord(place.record);
+}
+
+std::unique_ptr<SearchSource> plannerSearch(const Program &program)
+{
+    return std::make_unique<PlannerSource>(program.folder, program.clock, program.state.dateStyle);
 }
 
 void showInPlanner(QWidget &window, const Place &place)
@@ -103,6 +115,7 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                           .liveLine = addressNews,
                                           .liveFiles = AddressBook::fileNames(),
                                           .dayNotes = addressNotes,
+                                          .search = addressSearch,
                                           .show = showAddress,
                                           .names = addressNames,
                                           .files = addressFiles,
@@ -115,6 +128,7 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                       .liveFiles = yearFiles,
                                       .dayNotes = plannerNotes,
                                       .followsClock = true,
+                                      .search = plannerSearch,
                                       .show = showInPlanner,
                                       .files = plannerFiles});
     functions.add(Function::PasswordControl,

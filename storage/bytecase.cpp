@@ -100,6 +100,20 @@ bool ByteCase::contains(QByteArrayView bytes, QByteArrayView foldedText)
     return false;
 }
 
+std::optional<QByteArray> ByteCase::filed(QStringView text)
+{
+    if (!AnsiText::isHoldable(text))
+        return std::nullopt;
+    QByteArray bytes = AnsiText::encode(text);
+    std::ranges::transform(bytes, bytes.begin(), [](char byte) { return filed(byte); });
+    return bytes;
+}
+
+char ByteCase::filed(char byte)
+{
+    return filingTable()[quint8(byte)];
+}
+
 char ByteCase::otherCase(char byte)
 {
     const ByteTable &upper = upperTable();

@@ -15,6 +15,12 @@ std::optional<QByteArray> folded(QStringView text);
 /// Whether `foldedText` stands anywhere in `bytes`, upper and lower case alike. The empty text does.
 bool contains(QByteArrayView bytes, QByteArrayView foldedText);
 
+/// `text` as a search across accents compares it: each byte as the letter that it is filed under, "Élan" as
+/// "elan". Nothing when it holds a character that no file can.
+std::optional<QByteArray> filed(QStringView text);
+/// The letter that `byte` is filed under: in lower case and without its accent.
+char filed(char byte);
+
 /// The same letter in the other case; `byte` itself where the code page has none.
 char otherCase(char byte);
 

@@ -312,6 +312,27 @@ bool AddressBook::isOutgrownLine(int record, QStringView line, const AddressEntr
            RecordValue::decodeText(index().read(record)) == line;
 }
 
+bool AddressBook::visitLiveRecords(int first, int last,
+                                   const std::function<void(int, QByteArrayView)> &visit) const
+{
+    const RecordFile lines = index();
+    const RecordFile records = entries();
+    const QByteArray lineBytes = lines.read(first, last);
+    const QByteArray recordBytes = records.read(first, last);
+    const auto recordOf = [](QByteArrayView bytes, qsizetype at, qsizetype length) {
+        const qsizetype offset = std::min(at * length, bytes.size());
+        return bytes.sliced(offset, std::min(length, bytes.size() - offset));
+    };
+    for (int record = first; record <= last; ++record) {
+        const QByteArrayView line =
+            RecordValue::textBytes(recordOf(lineBytes, record - first, lines.recordLength()));
+        const QByteArrayView bytes = recordOf(recordBytes, record - first, records.recordLength());
+        if (!line.isEmpty() && !IndexLine::isDeleted(line) && isEntry(bytes))
+            visit(record, bytes);
+    }
+    return recordBytes.size() > (qsizetype(last) - first) * records.recordLength();
+}
+
 QStringList AddressBook::fileNames()
 {
     return {entriesName, indexName};

@@ -97,6 +97,10 @@ public:
     /// The same with the bytes of the entry: at most 724, fewer at the end of the file.
     void forEachLiveRecord(const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
 
+    /// The same of the records `first` to `last`. False when the files end before the last.
+    bool visitLiveRecords(int first, int last,
+                          const std::function<void(int record, QByteArrayView bytes)> &visit) const;
+
     /// The two files, as the data folder names them.
     static QStringList fileNames();
 
