@@ -7,6 +7,7 @@
 #include "shell/controls/workscroll.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/commonkeys.h"
+#include "shell/frame/searchoverlay.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undokeys.h"
 #include "shell/frame/undostack.h"
@@ -273,6 +274,7 @@ QMenu *FunctionWindow::addMenu(const QString &name, const QString &caption)
 
 void FunctionWindow::finishFrame()
 {
+    SearchOverlay::addCommand(m_program, *m_commands, this, [this] { return !m_busy; });
     m_toolbar->complete(u"Toolbar1"_s + m_traits.name);
     m_colors->load();
     WindowPlace::open(*this, m_traits.openingSize,
@@ -305,7 +307,7 @@ bool FunctionWindow::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride && isPreviewShown()) {
         const QKeySequence key(static_cast<QKeyEvent *>(event)->keyCombination());
-        if (key != CommonKeys::help && m_commands->hasKey(key))
+        if (key != CommonKeys::help && key != CommonKeys::everything && m_commands->hasKey(key))
             event->accept();
     }
     return QMainWindow::event(event);

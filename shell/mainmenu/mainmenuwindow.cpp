@@ -11,6 +11,7 @@
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
+#include "shell/frame/everythingbox.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"
@@ -69,6 +70,7 @@ Startfrm::Startfrm(Program &program, Surroundings surroundings, QWidget *parent)
     , m_surroundings(std::move(surroundings))
     , m_activity(new ActivityBar(program.clock, program.state.dateStyle, this))
     , m_picture(new MenuPicture(this))
+    , m_search(new EverythingBox(program, m_picture))
     , m_commands(new Commands(this, program.folder.whyReadOnly()))
     , m_colors(new PanelColors(program, menuColors, this, *m_activity))
     , m_background(new BackgroundFlow(program, *m_picture, *m_colors, *m_activity, this))
@@ -101,6 +103,10 @@ void Startfrm::makeMenus()
     QMenu *help = makeMenu(u"mH"_s, u"&Help"_s, this);
     for (QMenu *menu : {options, functions, help})
         menuBar()->addMenu(menu);
+    m_commands->add(
+        options, u"searchEverything"_s, u"Search E&verything"_s, [this] { m_search->start(); }, {},
+        CommonKeys::everything);
+    addSeparator(*options, u"mO0"_s);
     makeOptionsMenu(*options);
     fillFunctionsMenu(*functions, *m_commands, m_program, m_opener);
     makeHelpMenu(*help);
@@ -196,6 +202,7 @@ void Startfrm::layOut()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     row->setSpacing(0);
+    m_picture->setTopWidget(m_search);
     column->addWidget(&m_toolBars->top());
     column->addLayout(row, 1);
     row->addWidget(&m_toolBars->left());

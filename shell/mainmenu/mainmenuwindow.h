@@ -11,6 +11,7 @@ class BackgroundFlow;
 class Commands;
 class DayBoard;
 class DisplayMode;
+class EverythingBox;
 class MenuPicture;
 class MenuToolBars;
 class PanelColors;
@@ -64,6 +65,7 @@ private:
     Surroundings m_surroundings;
     ActivityBar *m_activity;
     MenuPicture *m_picture;
+    EverythingBox *m_search;
     Commands *m_commands;
     DisplayMode *m_displayMode = nullptr;
     PanelColors *m_colors;

@@ -60,6 +60,22 @@ bool FunctionCatalogue::isOpen(Function function) const
     return found != m_windows.end() && found->second && found->second->isVisible();
 }
 
+SearchSource *FunctionCatalogue::searchSource(Function function, const Program &program)
+{
+    const FunctionEntry *found = entry(function);
+    if (!found || !found->search)
+        return nullptr;
+    std::unique_ptr<SearchSource> &source = m_sources[function];
+    if (!source)
+        source = found->search(program);
+    return source.get();
+}
+
+void FunctionCatalogue::forgetSearch(Function function)
+{
+    m_sources.erase(function);
+}
+
 QList<QWidget *> FunctionCatalogue::openWindows() const
 {
     QList<QWidget *> open;

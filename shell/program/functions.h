@@ -82,10 +82,18 @@ public:
 
     /// Whether the function's window is open now.
     bool isOpen(Function function) const;
+
+    /// What can be found in the function: made when it is first asked for, and kept. Null where there is
+    /// nothing to find.
+    SearchSource *searchSource(Function function, const Program &program);
+    /// Lets go of what was read for searching in the function.
+    void forgetSearch(Function function);
+
     /// The windows that are open now, in no particular order.
     QList<QWidget *> openWindows() const;
 
 private:
     std::map<Function, FunctionEntry> m_entries;
     std::map<Function, QPointer<QWidget>> m_windows; ///< null when their window is gone
+    std::map<Function, std::unique_ptr<SearchSource>> m_sources;
 };

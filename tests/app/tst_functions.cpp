@@ -53,6 +53,9 @@ private slots:
         using Keys = std::vector<std::pair<QKeySequence, QStringList>>;
         const Keys expected{
             {CommonKeys::search, {u"ADDBKDISPLAY.mEFind"_s, u"ADDBKVIEW.mEFind"_s, u"Zcalandar1.mEFind"_s}},
+            {CommonKeys::everything,
+             {u"ADDBKDISPLAY.searchEverything"_s, u"ADDBKVIEW.searchEverything"_s,
+              u"Form31.searchEverything"_s, u"Zcalandar1.searchEverything"_s}},
             {CommonKeys::newEntry, {u"ADDBKVIEW.mOES"_s}},
             {CommonKeys::save, {u"ADDBKVIEW.mONS"_s, u"Form31.mOSave"_s, u"Zcalandar1.mOSave"_s}},
             {CommonKeys::print,

@@ -78,6 +78,10 @@ void takeViews(PictureSession &session)
     session.fill("plannerSearch", u"lunch"_s);
     session.key(Qt::Key_Return);
     session.take("planner-search");
+    session.trigger("searchEverything");
+    session.type(u"an"_s);
+    session.take("planner-search-everything");
+    session.key(Qt::Key_Escape);
     session.trigger("mOCal");
     session.take("planner-options");
     session.click("calendarOptionsCancel");

@@ -95,6 +95,8 @@ private slots:
             listMenu(*action->menu(), u"  "_s, lines);
         }
         const QString expected = uR"(mO &Options
+  searchEverything Search E&verything
+  mO0 -
   mOBC &Background Selector
   mOP &Program Display
     mOPF &Full Screen Display
