@@ -30,8 +30,10 @@ double letters(QStringView text)
 
 } // namespace
 
-DayLines::DayLines(const PlannerDay &day)
+DayLines::DayLines(const PlannerDay &day, const QStringList &notes)
 {
+    for (const QString &note : notes)
+        m_lines.push_back({{}, note});
     for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
         if (!day.isRowEmpty(row))
             m_lines.push_back({AnsiText::trimmedBlanks(day.times[row]).toString(),

@@ -3,14 +3,16 @@
 
 #include "planner/model/plannerday.h"
 
+#include <QStringList>
+
 #include <vector>
 
 /// The entries of a day as lines to be shown in a place of a certain size: the rows that hold anything, in
-/// their order, freed of blanks.
+/// their order, freed of blanks. Notes of other functions about the day may stand before them.
 class DayLines
 {
 public:
-    explicit DayLines(const PlannerDay &day);
+    explicit DayLines(const PlannerDay &day, const QStringList &notes = {});
 
     int count() const { return int(m_lines.size()); }
     const QString &time(int entry) const { return m_lines[std::size_t(entry)].time; }

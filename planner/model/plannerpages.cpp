@@ -8,9 +8,11 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 using namespace Qt::Literals::StringLiterals;
 using PlannerPages::Days;
+using PlannerPages::Notes;
 
 namespace {
 
@@ -43,18 +45,39 @@ PlannerDay entriesOf(const Days &days, QDate date)
     return found == days.end() ? PlannerDay{} : found->second;
 }
 
+QStringList notesOf(const Notes &notes, QDate date)
+{
+    const auto found = notes.find(date);
+    return found == notes.end() ? QStringList() : found->second;
+}
+
+DayLines linesOf(const Days &days, const Notes &notes, QDate date)
+{
+    return DayLines(entriesOf(days, date), notesOf(notes, date));
+}
+
+std::set<QDate> datesOf(const Days &days, const Notes &notes)
+{
+    std::set<QDate> dates;
+    for (const auto &[date, entries] : days)
+        dates.insert(date);
+    for (const auto &[date, texts] : notes)
+        dates.insert(date);
+    return dates;
+}
+
 QString dayName(QDate date)
 {
     return QLocale::c().dayName(date.dayOfWeek());
 }
 
-/// How many rows each day of a listed week gets: its entries, and what is left over where there are fewest.
-std::array<int, daysPerWeek> sharedRows(QDate start, const Days &days)
+/// How many rows each day of a listed week gets: its lines, and what is left over where there are fewest.
+std::array<int, daysPerWeek> sharedRows(QDate start, const Days &days, const Notes &notes)
 {
     std::array<int, daysPerWeek> rows{};
     int free = weekRows;
     for (int i = 0; i < daysPerWeek; ++i) {
-        rows[std::size_t(i)] = std::max(1, entriesOf(days, start.addDays(i)).entryCount());
+        rows[std::size_t(i)] = std::max(1, linesOf(days, notes, start.addDays(i)).count());
         free -= rows[std::size_t(i)];
     }
     for (; free > 0; --free)
@@ -67,14 +90,14 @@ QString weekTitle(QDate start, const PageContext &context)
     return u"Week of "_s + Dates::range(start, start.addDays(daysPerWeek - 1), context.style);
 }
 
-Page listedWeek(QDate start, const Days &days, const PageContext &context)
+Page listedWeek(QDate start, const Days &days, const PageContext &context, const Notes &notes)
 {
     Page page(weekTitle(start, context), headRight(context));
-    const auto rows = sharedRows(start, days);
+    const auto rows = sharedRows(start, days, notes);
     page.columns({1.85, 0.85, 4.8}, {}, {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft});
     for (int i = 0; i < daysPerWeek; ++i) {
         const QDate date = start.addDays(i);
-        const DayLines lines(entriesOf(days, date));
+        const DayLines lines = linesOf(days, notes, date);
         if (i > 0)
             page.rule();
         for (int row = 0; row < rows[std::size_t(i)]; ++row) {
@@ -135,17 +158,17 @@ void placeBlockEntries(Page &page, const QRectF &place, const DayLines &lines)
     }
 }
 
-bool fitsBlocks(QDate start, const Days &days, const PageContext &context)
+bool fitsBlocks(QDate start, const Days &days, const PageContext &context, const Notes &notes)
 {
     const QRectF place = entriesPlace({{0, 0}, blockSize(context)});
     for (int i = 0; i < daysPerWeek; ++i) {
-        if (!fitsBlock(DayLines(entriesOf(days, start.addDays(i))), place, dense))
+        if (!fitsBlock(linesOf(days, notes, start.addDays(i)), place, dense))
             return false;
     }
     return true;
 }
 
-Page wideWeek(QDate start, const Days &days, const PageContext &context)
+Page wideWeek(QDate start, const Days &days, const PageContext &context, const Notes &notes)
 {
     Page page(weekTitle(start, context), headRight(context));
     const QPointF origin = placedArea(context.setup).topLeft();
@@ -165,7 +188,7 @@ Page wideWeek(QDate start, const Days &days, const PageContext &context)
         page.placeText(head, dayName(date), TextRole::Strong);
         page.placeText(head, Dates::shortText(date, context.style), TextRole::Body,
                        Qt::AlignRight | Qt::AlignTop);
-        placeBlockEntries(page, entriesPlace(block), DayLines(entriesOf(days, date)));
+        placeBlockEntries(page, entriesPlace(block), linesOf(days, notes, date));
     }
     return page.close(context.today, context.style);
 }
@@ -214,9 +237,11 @@ QDate PlannerPages::weekStart(QDate date, Qt::DayOfWeek firstDay)
     return date.addDays(-((date.dayOfWeek() - firstDay + daysPerWeek) % daysPerWeek));
 }
 
-Page PlannerPages::day(QDate date, const PlannerDay &entries, const PageContext &context)
+Page PlannerPages::day(QDate date, const PlannerDay &entries, const PageContext &context, const Notes &notes)
 {
     Page page(Dates::longText(date, context.style), headRight(context));
+    for (const QString &note : notesOf(notes, date))
+        page.line(note);
     page.columns({1.0, 6.5}, {u"Time"_s, u"Appointment or activity"_s}, {Qt::AlignRight, Qt::AlignLeft});
     const DayLines lines(entries);
     for (int row = 0; row < int(PlannerDay::rowCount); ++row) {
@@ -226,13 +251,15 @@ Page PlannerPages::day(QDate date, const PlannerDay &entries, const PageContext 
     return page.close(context.today, context.style);
 }
 
-Page PlannerPages::week(QDate start, const Days &days, const PageContext &context)
+Page PlannerPages::week(QDate start, const Days &days, const PageContext &context, const Notes &notes)
 {
-    const bool isWide = context.setup.orientation == PageSetup::Landscape && fitsBlocks(start, days, context);
-    return isWide ? wideWeek(start, days, context) : listedWeek(start, days, context);
+    const bool isWide =
+        context.setup.orientation == PageSetup::Landscape && fitsBlocks(start, days, context, notes);
+    return isWide ? wideWeek(start, days, context, notes) : listedWeek(start, days, context, notes);
 }
 
-Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, const PageContext &context)
+Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, const PageContext &context,
+                         const Notes &notes)
 {
     constexpr double headHeight = 0.26;
     const QDate first(date.year(), date.month(), 1);
@@ -258,7 +285,7 @@ Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, c
         page.placeRule({corner, size});
         if (shown.month() != first.month())
             continue;
-        const DayLines lines(entriesOf(days, shown));
+        const DayLines lines = linesOf(days, notes, shown);
         if (const int held = placeMonthDay(page, {corner, size}, shown, lines); held < lines.count())
             crowded.emplace(shown, held);
     }
@@ -267,38 +294,42 @@ Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, c
         startDateList(page);
     }
     for (const auto &[day, held] : crowded)
-        listDate(page, day, DayLines(entriesOf(days, day)), held, context.style);
+        listDate(page, day, linesOf(days, notes, day), held, context.style);
     return page.close(context.today, context.style);
 }
 
-Page PlannerPages::range(QDate from, QDate to, const Days &days, const PageContext &context)
+Page PlannerPages::range(QDate from, QDate to, const Days &days, const PageContext &context,
+                         const Notes &notes)
 {
     Page page(Dates::range(from, to, context.style), headRight(context));
     startDateList(page);
     bool isEmpty = true;
-    for (auto day = days.lower_bound(from); day != days.end() && day->first <= to; ++day)
-        isEmpty = !listDate(page, day->first, DayLines(day->second), 0, context.style) && isEmpty;
+    for (const QDate date : datesOf(days, notes)) {
+        if (date >= from && date <= to)
+            isEmpty = !listDate(page, date, linesOf(days, notes, date), 0, context.style) && isEmpty;
+    }
     if (isEmpty)
         page.line(u"Nothing is planned for these days."_s);
     return page.close(context.today, context.style);
 }
 
 Page PlannerPages::weekOf(const PlannerFiles &files, QDate date, const CalendarOptions &options,
-                          const PageContext &context)
+                          const PageContext &context, const Notes &notes)
 {
     const QDate start = weekStart(date, options.firstDay());
-    return week(start, files.days(start, start.addDays(daysPerWeek - 1)), context);
+    return week(start, files.days(start, start.addDays(daysPerWeek - 1)), context, notes);
 }
 
 Page PlannerPages::monthOf(const PlannerFiles &files, QDate date, const CalendarOptions &options,
-                           const PageContext &context)
+                           const PageContext &context, const Notes &notes)
 {
     const QDate first(date.year(), date.month(), 1);
     const QDate last = first.addMonths(1).addDays(-1);
-    return month(date, files.days(first, last), options.firstDay(), context);
+    return month(date, files.days(first, last), options.firstDay(), context, notes);
 }
 
-Page PlannerPages::rangeOf(const PlannerFiles &files, QDate from, QDate to, const PageContext &context)
+Page PlannerPages::rangeOf(const PlannerFiles &files, QDate from, QDate to, const PageContext &context,
+                           const Notes &notes)
 {
-    return range(from, to, files.days(from, to), context);
+    return range(from, to, files.days(from, to), context, notes);
 }

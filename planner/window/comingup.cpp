@@ -12,6 +12,7 @@
 
 #include <QListView>
 #include <QPainter>
+#include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -26,6 +27,14 @@ namespace {
 constexpr int daysAhead = 13;
 constexpr int signWidth = 32;
 constexpr int rowGap = 10;
+
+/// Behind the row that has the focus, on a panel of any colour.
+QColor markOf(const QPalette &panel)
+{
+    QColor mark = panel.color(QPalette::WindowText);
+    mark.setAlphaF(0.12F);
+    return mark;
+}
 
 /// Two lines beside a sign: what there is, and from where.
 class NoteDelegate final : public QStyledItemDelegate
@@ -42,6 +51,8 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         painter->save();
+        if (option.state & QStyle::State_HasFocus)
+            painter->fillRect(option.rect.adjusted(0, 0, 0, -rowGap / 2), markOf(option.widget->palette()));
         const QPalette &palette = option.widget->palette();
         const QIcon icon = index.data(ComingUpModel::IconRole).value<QIcon>();
         QPixmap sign = icon.pixmap(QSize(20, 20), painter->device()->devicePixelRatioF());
@@ -78,24 +89,20 @@ QLatin1StringView iconOf(Function function)
 ComingUpModel::ComingUpModel(const Program &program, QObject *parent)
     : QAbstractListModel(parent)
     , m_program(program)
+    , m_source(program)
 {}
 
 void ComingUpModel::load(QDate from, QDate to)
 {
     beginResetModel();
-    m_notes.clear();
-    for (const FunctionFace &face : FunctionFaces::cards()) {
-        const FunctionEntry *entry = m_program.functions.entry(face.function);
-        if (face.function == Function::Planner) // its own stand in the day beside
-            continue;
-        if (!entry || !entry->dayNotes || face.isGuarded(m_program.state.protectedAreas))
-            continue;
-        for (const DayNote &note : entry->dayNotes(m_program, from, to))
-            m_notes.push_back({note, face.function});
-    }
-    std::stable_sort(m_notes.begin(), m_notes.end(),
-                     [](const Note &one, const Note &other) { return one.note.date < other.note.date; });
+    m_notes = m_source.all(from, to);
     endResetModel();
+}
+
+void ComingUpModel::open(const QModelIndex &index) const
+{
+    if (index.isValid())
+        m_source.open(m_notes.at(index.row()));
 }
 
 int ComingUpModel::rowCount(const QModelIndex &parent) const
@@ -114,7 +121,7 @@ QVariant ComingUpModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const Note &note = m_notes[std::size_t(index.row())];
+    const HouseholdNote &note = m_notes.at(index.row());
     const QString source = note.note.source + u", "_s + whenText(note.note.date);
     switch (role) {
     case Qt::DisplayRole:
@@ -157,6 +164,14 @@ ComingUp::ComingUp(const Program &program, QWidget *parent)
     m_list->setStyleSheet(u"QListView { background: transparent; border: 0; padding: 0; }"
                           u"QListView:focus { background: transparent; border: 0; padding: 0; }"_s);
     m_list->viewport()->setAutoFillBackground(false);
+    m_list->viewport()->setCursor(Qt::PointingHandCursor);
+    connect(m_list, &QListView::clicked, m_model, &ComingUpModel::open);
+    // Not activated(), which some desktops send with a click as well.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto *opens = new QShortcut(key, m_list);
+        opens->setContext(Qt::WidgetShortcut);
+        connect(opens, &QShortcut::activated, m_list, [this] { m_model->open(m_list->currentIndex()); });
+    }
 }
 
 void ComingUp::setDate(QDate date)

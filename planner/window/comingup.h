@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/program/functions.h"
+#include "planner/window/householdnotes.h"
 
 #include <QAbstractListModel>
 #include <QDate>
@@ -12,7 +12,7 @@ class QListView;
 struct Program;
 
 /// What other functions have for a day and the two weeks from it: birthdays, things that fall due. They are
-/// shown beside the day and never take one of its rows.
+/// shown beside the day and never take one of its rows. A click leads to where they come from.
 class ComingUpModel final : public QAbstractListModel
 {
     Q_OBJECT
@@ -24,18 +24,18 @@ public:
     /// Asks the functions that have notes; a guarded one is not asked.
     void load(QDate from, QDate to);
 
+    /// Shows where the note comes from, behind that function's guard.
+    void open(const QModelIndex &index) const;
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
-    struct Note {
-        DayNote note;
-        Function function;
-    };
     QString whenText(QDate date) const;
 
     const Program &m_program;
-    std::vector<Note> m_notes;
+    HouseholdNotes m_source;
+    QList<HouseholdNote> m_notes;
 };
 
 /// The list of what is coming up, beside the day.

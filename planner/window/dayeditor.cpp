@@ -5,6 +5,7 @@
 #include "planner/model/messages.h"
 #include "planner/model/usualtime.h"
 #include "planner/window/dayform.h"
+#include "planner/window/noteline.h"
 #include "planner/window/steptitle.h"
 #include "shell/controls/controls.h"
 #include "shell/core/dates.h"
@@ -53,6 +54,7 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
     : QWidget(parent)
     , m_program(program)
     , m_files(files)
+    , m_householdNotes(program)
     , m_title(new StepTitle({u"SSPanel4"_s, u"day"_s, u"Today"_s}, this))
     , m_form(new DayForm)
     , m_scroll(makeScrolling(m_form, u"dayScroll"_s, this))
@@ -97,6 +99,8 @@ QWidget *DayEditor::makeRowHeads()
     layout->addSpacing(28);
     layout->addWidget(time);
     layout->addWidget(text, 1);
+    layout->addWidget(m_notes = new NoteLine(m_householdNotes, line), 1, Qt::AlignLeft);
+    connect(m_notes, &NoteLine::filled, text, &QLabel::setHidden);
     layout->addWidget(named(makeQuietLabel(u"Without AM/PM:"_s, line), u"placementHead"_s));
     m_placement = new QButtonGroup(this);
     for (const auto &[id, caption] :
@@ -152,6 +156,7 @@ void DayEditor::load(QDate date)
     m_texts.load(asFile.texts, asShown.texts);
     const DateStyle style = m_program.state.dateStyle;
     m_title->setTitle(Dates::longText(date, style), Dates::statusText(date, style));
+    m_notes->setDate(date);
     refreshModified();
     emit loaded(date);
 }

@@ -3,6 +3,7 @@
 
 #include "planner/model/plannerfiles.h"
 #include "planner/model/recurrence.h"
+#include "planner/window/householdnotes.h"
 #include "shell/core/editedtexts.h"
 #include "shell/core/undostep.h"
 
@@ -11,6 +12,7 @@
 #include <optional>
 
 class DayForm;
+class NoteLine;
 class QButtonGroup;
 class QLabel;
 class QScrollArea;
@@ -86,10 +88,12 @@ private:
     EditedTexts<PlannerDay::rowCount> m_times;
     EditedTexts<PlannerDay::rowCount> m_texts;
     std::optional<PlannerDay> m_copied;
+    HouseholdNotes m_householdNotes;
 
     StepTitle *m_title;
     DayForm *m_form;
     QScrollArea *m_scroll;
+    NoteLine *m_notes = nullptr; ///< in the place of the head of the texts
     QButtonGroup *m_placement = nullptr;
     QLabel *m_unsaved = nullptr;
     QLabel *m_sortedLast = nullptr;

@@ -18,8 +18,17 @@ void DaysModel::setDays(const Span &span, std::map<QDate, PlannerDay> days, QDat
     beginResetModel();
     m_span = span;
     m_days = std::move(days);
+    m_notes.clear();
     m_today = today;
     endResetModel();
+}
+
+void DaysModel::setNotes(const QList<HouseholdNote> &notes)
+{
+    m_notes.clear();
+    for (const HouseholdNote &note : notes)
+        m_notes[note.note.date].append(note);
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
 QDate DaysModel::date(const QModelIndex &index) const
@@ -45,10 +54,12 @@ int DaysModel::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_span.columns;
 }
 
-/// The day in words: its date and its entries, a line each.
+/// The day in words: its date, its notes and its entries, a line each.
 QString DaysModel::description(QDate date) const
 {
     QString text = Dates::longText(date, m_style);
+    for (const HouseholdNote &note : notes(date))
+        text += u'\n' + note.note.text;
     const auto found = m_days.find(date);
     if (found == m_days.end())
         return text;
@@ -75,6 +86,8 @@ QVariant DaysModel::data(const QModelIndex &index, int role) const
         const auto found = m_days.find(day);
         return QVariant::fromValue(found == m_days.end() ? PlannerDay{} : found->second);
     }
+    case NoteRole:
+        return HouseholdNotes::joined(notes(day));
     case TodayRole:
         return day == m_today;
     case OutsideRole:

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "planner/model/plannerday.h"
+#include "planner/window/householdnotes.h"
 #include "shell/core/programstate.h"
 
 #include <QAbstractTableModel>
 #include <QDate>
+#include <QMap>
 
 #include <map>
 
@@ -17,6 +19,7 @@ public:
     enum Role {
         DateRole = Qt::UserRole,
         DayRole,    ///< the entries, a `PlannerDay`
+        NoteRole,   ///< the birthdays and anniversaries in one line; empty without any
         TodayRole,  ///< whether the day is today
         OutsideRole ///< whether the day is beside the month that is shown
     };
@@ -33,6 +36,12 @@ public:
         QDate to;
     };
     void setDays(const Span &span, std::map<QDate, PlannerDay> days, QDate today);
+    /// What other functions have for the days; new days have none at first.
+    void setNotes(const QList<HouseholdNote> &notes);
+    QList<HouseholdNote> notes(QDate date) const { return m_notes.value(date); }
+    /// The first and the last day of the table.
+    QDate first() const { return m_span.start; }
+    QDate last() const { return m_span.start.addDays(qint64(m_span.rows) * m_span.columns - 1); }
 
     QDate date(const QModelIndex &index) const;
     /// The cell of `date`; none when it is not in the table.
@@ -49,6 +58,7 @@ private:
     DateStyle m_style;
     Span m_span;
     std::map<QDate, PlannerDay> m_days;
+    QMap<QDate, QList<HouseholdNote>> m_notes;
     QDate m_today;
 };
 

@@ -2,20 +2,25 @@
 #pragma once
 
 #include "planner/model/calendaroptions.h"
+#include "planner/window/householdnotes.h"
 #include "shell/core/pagecontext.h"
 
 #include <QDate>
 #include <QWidget>
 
+#include <functional>
+
+class DaysModel;
 class QAbstractItemView;
 
 /// What the views of several days share: a day can be opened, the view steps on by its own measure and is
-/// left for the view of a day.
+/// left for the view of a day. Birthdays and anniversaries stand in the days; a click on them leads to the
+/// person.
 class DaysView : public QWidget
 {
     Q_OBJECT
 public:
-    using QWidget::QWidget;
+    DaysView(const HouseholdNotes &notes, QWidget *parent);
 
     /// Reads the days around `date` and puts the focus on that day.
     virtual void show(QDate date, const CalendarOptions &options, QDate today) = 0;
@@ -36,7 +41,24 @@ signals:
     void left();
 
 protected:
-    /// `view` shows the days: the page keys step, Enter opens the day that has the focus.
-    void takeKeysOf(QAbstractItemView *view);
+    /// `view` shows the days of `model`: the page keys step, Enter or a click opens a day; a click on its
+    /// note, which stands there in the day's cell, opens that.
+    using NotePlace = std::function<QRect(const QRect &cell)>;
+    void setView(QAbstractItemView *view, DaysModel *model, NotePlace notePlace);
+    /// Call when the model has other days: their notes are read once the window has been painted.
+    void readNotes();
+    const HouseholdNotes &notes() const { return m_notes; }
+    /// Notes have come: rows may be higher now.
+    virtual void notesShown() {}
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void open(const QModelIndex &day);
+
+    const HouseholdNotes &m_notes;
+    QAbstractItemView *m_view = nullptr;
+    DaysModel *m_model = nullptr;
+    NotePlace m_notePlace;
+    QPoint m_clicked; ///< in the view
+    bool m_isReading = false;
 };

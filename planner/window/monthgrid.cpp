@@ -4,6 +4,7 @@
 #include "planner/model/daylines.h"
 #include "planner/model/plannerpages.h"
 #include "planner/window/daysmodel.h"
+#include "planner/window/noteline.h"
 #include "planner/window/steptitle.h"
 #include "planner/window/viewfoot.h"
 #include "shell/core/dates.h"
@@ -20,8 +21,23 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int daysPerWeek = 7;
+constexpr int numberHeight = 22;
 
-/// The number of the day and below it as many entries as fit, the last line telling how many do not.
+QRect contentOf(const QRect &cell)
+{
+    return cell.adjusted(8, 5, -6, -4);
+}
+
+/// Where a cell's note stands: below the number.
+QRect notePlaceIn(const QRect &cell)
+{
+    const QRect place = contentOf(cell);
+    return {place.left(), place.top() + numberHeight, place.width(),
+            QFontMetrics(TypeScale::label()).height()};
+}
+
+/// The number of the day, its note, and below them as many entries as fit, the last line telling how many do
+/// not.
 class DayCellDelegate final : public QStyledItemDelegate
 {
 public:
@@ -43,10 +59,17 @@ public:
             painter->setPen(QPen(theme.accent, 2));
             painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
         }
-        const QRect place = option.rect.adjusted(8, 5, -6, -4);
+        const QRect place = contentOf(option.rect);
         paintNumber(*painter, place, index, theme, isOutside);
-        paintEntries(*painter, place.adjusted(0, 22, 0, 0), index, isOutside ? theme.quiet : theme.text,
-                     theme);
+        QRect entries = place.adjusted(0, numberHeight, 0, 0);
+        if (const QString note = index.data(DaysModel::NoteRole).toString(); !note.isEmpty()) {
+            const QRect line = notePlaceIn(option.rect);
+            painter->setFont(TypeScale::label());
+            painter->setPen(theme.quiet);
+            NoteLine::paint(*painter, line, note);
+            entries.setTop(line.bottom() + 1);
+        }
+        paintEntries(*painter, entries, index, isOutside ? theme.quiet : theme.text, theme);
         painter->restore();
     }
 
@@ -95,8 +118,8 @@ private:
 
 } // namespace
 
-MonthGrid::MonthGrid(const PlannerFiles &files, DateStyle style, QWidget *parent)
-    : DaysView(parent)
+MonthGrid::MonthGrid(const PlannerFiles &files, const HouseholdNotes &notes, DateStyle style, QWidget *parent)
+    : DaysView(notes, parent)
     , m_files(files)
     , m_model(new DaysModel(style, this))
     , m_title(new StepTitle({u"monthTitle"_s, u"month"_s, u"This Month"_s}, this))
@@ -112,8 +135,6 @@ MonthGrid::MonthGrid(const PlannerFiles &files, DateStyle style, QWidget *parent
     rows->addWidget(m_title);
     rows->addWidget(m_view, 1);
     rows->addWidget(foot);
-    const auto open = [this](const QModelIndex &index) { emit dayOpened(m_model->date(index)); };
-    connect(m_view, &QTableView::clicked, this, open);
     connect(foot, &ViewFoot::dayRequested, this, &MonthGrid::left);
     connect(m_title, &StepTitle::stepped, this, &MonthGrid::stepped);
     connect(m_title, &StepTitle::todayRequested, this, &MonthGrid::todayRequested);
@@ -135,7 +156,7 @@ void MonthGrid::setUpView()
     m_view->verticalHeader()->setSectionsClickable(false);
     m_view->verticalHeader()->setHighlightSections(false);
     m_view->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
-    takeKeysOf(m_view);
+    setView(m_view, m_model, notePlaceIn);
 }
 
 void MonthGrid::show(QDate date, const CalendarOptions &options, QDate today)
@@ -149,6 +170,7 @@ void MonthGrid::show(QDate date, const CalendarOptions &options, QDate today)
     m_view->verticalHeader()->setVisible(options.showsWeekNumbers());
     m_title->setTitle(Dates::monthYear(first));
     m_view->setCurrentIndex(m_model->indexOf(date));
+    readNotes();
 }
 
 QDate MonthGrid::date() const
@@ -163,7 +185,9 @@ QDate MonthGrid::after(QDate date, int steps) const
 
 Page MonthGrid::page(QDate date, const CalendarOptions &options, const PageContext &context) const
 {
-    return PlannerPages::monthOf(m_files, date, options, context);
+    const QDate first(date.year(), date.month(), 1);
+    return PlannerPages::monthOf(m_files, date, options, context,
+                                 notes().texts(first, first.addMonths(1).addDays(-1)));
 }
 
 QString MonthGrid::printName(QDate date) const

@@ -15,7 +15,8 @@ class MonthGrid final : public DaysView
 {
     Q_OBJECT
 public:
-    MonthGrid(const PlannerFiles &files, DateStyle style, QWidget *parent = nullptr);
+    MonthGrid(const PlannerFiles &files, const HouseholdNotes &notes, DateStyle style,
+              QWidget *parent = nullptr);
 
     /// Reads the month of `date` and puts the focus on that day.
     void show(QDate date, const CalendarOptions &options, QDate today) override;

@@ -60,8 +60,10 @@ void PlannerPrint::printDay()
 {
     const QDate date = m_from.views->date();
     const PlannerDay day = date == m_from.day->date() ? m_from.day->typed() : m_from.files.peek(date);
-    m_window->showPreview([=](const PageContext &context) { return PlannerPages::day(date, day, context); },
-                          u"Planner "_s + date.toString(Qt::ISODate));
+    const PlannerPages::Notes notes = m_from.views->notes().texts(date, date);
+    m_window->showPreview(
+        [=](const PageContext &context) { return PlannerPages::day(date, day, context, notes); },
+        u"Planner "_s + date.toString(Qt::ISODate));
 }
 
 void PlannerPrint::printDays(const DaysView *view)
@@ -89,7 +91,7 @@ void PlannerPrint::printRange()
     if (m_program.dialogs.run(dialog) != QDialog::Accepted)
         return;
     const auto page = [this, from = dialog.from(), to = dialog.to()](const PageContext &context) {
-        return PlannerPages::rangeOf(m_from.files, from, to, context);
+        return PlannerPages::rangeOf(m_from.files, from, to, context, m_from.views->notes().texts(from, to));
     };
     m_window->showPreview(page, u"Planner dates"_s);
 }

@@ -16,9 +16,10 @@ PlannerViews::PlannerViews(const Program &program, const PlannerFiles &files, co
     : m_clock(program.clock)
     , m_style(program.state.dateStyle)
     , m_options(options)
+    , m_notes(program)
     , m_day(day)
-    , m_week(new WeekView(files, program.state.dateStyle))
-    , m_month(new MonthGrid(files, program.state.dateStyle))
+    , m_week(new WeekView(files, m_notes, program.state.dateStyle))
+    , m_month(new MonthGrid(files, m_notes, program.state.dateStyle))
     , m_stack(new WorkViews(this))
 {
     auto *layout = new QVBoxLayout(this);

@@ -3,6 +3,7 @@
 
 #include "planner/model/calendaroptions.h"
 #include "planner/model/plannerfiles.h"
+#include "planner/window/householdnotes.h"
 #include "shell/core/programstate.h"
 
 #include <QWidget>
@@ -29,6 +30,8 @@ public:
 
     /// The week or the month when it is in front, else nothing.
     DaysView *shownDays() const;
+    /// What the other functions have for the days.
+    const HouseholdNotes &notes() const { return m_notes; }
     /// Whether a view of dates is in front, and no panel.
     bool areDatesShown() const;
     /// The day that the view in front is about.
@@ -51,6 +54,7 @@ private:
     const Clock &m_clock;
     const DateStyle &m_style;
     const CalendarOptions &m_options;
+    HouseholdNotes m_notes;
     DayEditor *m_day;
     DaysView *m_week;
     DaysView *m_month;

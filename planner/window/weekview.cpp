@@ -4,6 +4,7 @@
 #include "planner/model/daylines.h"
 #include "planner/model/plannerpages.h"
 #include "planner/window/daysmodel.h"
+#include "planner/window/noteline.h"
 #include "planner/window/steptitle.h"
 #include "planner/window/viewfoot.h"
 #include "shell/core/dates.h"
@@ -30,6 +31,24 @@ constexpr int narrowestColumn = 300;
 constexpr int padding = 10;
 /// Above and below the entries, where the week is full.
 constexpr int narrowPadding = 6;
+
+int lineHeight()
+{
+    return QFontMetrics(TypeScale::body()).height() + 3;
+}
+
+/// Where a band's entries stand, and above them its note.
+QRect entriesPlaceIn(const QRect &band)
+{
+    return band.adjusted(padding + headWidth, narrowPadding + 1, -padding, -narrowPadding);
+}
+
+QRect notePlaceIn(const QRect &band)
+{
+    QRect place = entriesPlaceIn(band);
+    place.setHeight(lineHeight());
+    return place;
+}
 
 /// One band: the day at the left, its entries beside it.
 class DayBandDelegate final : public QStyledItemDelegate
@@ -63,7 +82,14 @@ public:
         }
         const QRect place = option.rect.adjusted(padding, narrowPadding + 1, -padding, -narrowPadding);
         paintHead(*painter, place, index, theme);
-        paintEntries(*painter, place.adjusted(headWidth, 0, 0, 0), index, theme);
+        QRect entries = entriesPlaceIn(option.rect);
+        if (const QString note = index.data(DaysModel::NoteRole).toString(); !note.isEmpty()) {
+            painter->setFont(TypeScale::label());
+            painter->setPen(theme.quiet);
+            NoteLine::paint(*painter, notePlaceIn(option.rect).adjusted(0, 0, 0, -3), note);
+            entries.setTop(entries.top() + lineHeight());
+        }
+        paintEntries(*painter, entries, index, theme);
         painter->restore();
     }
 
@@ -71,7 +97,8 @@ private:
     static int neededHeight(const QModelIndex &index, int columns)
     {
         const DayLines lines(index.data(DaysModel::DayRole).value<PlannerDay>());
-        const int rows = (lines.count() + columns - 1) / columns;
+        const int notes = index.data(DaysModel::NoteRole).toString().isEmpty() ? 0 : 1;
+        const int rows = notes + (lines.count() + columns - 1) / columns;
         return std::max(2, rows) * lineHeight() + 2 * narrowPadding;
     }
     int neededHeight(int columns) const
@@ -81,7 +108,6 @@ private:
             needed += neededHeight(m_view->model()->index(day, 0), columns);
         return needed;
     }
-    static int lineHeight() { return QFontMetrics(TypeScale::body()).height() + 3; }
     /// Two where a full week would not fit otherwise; the same with and without the scroll bar, which comes
     /// after the days are measured.
     int columnCount() const
@@ -140,8 +166,8 @@ QString shortRange(QDate from, QDate to, DateStyle style)
 
 } // namespace
 
-WeekView::WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent)
-    : DaysView(parent)
+WeekView::WeekView(const PlannerFiles &files, const HouseholdNotes &notes, DateStyle style, QWidget *parent)
+    : DaysView(notes, parent)
     , m_files(files)
     , m_style(style)
     , m_model(new DaysModel(style, this))
@@ -155,7 +181,7 @@ WeekView::WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent)
     m_view->setResizeMode(QListView::Adjust);
     m_view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    takeKeysOf(m_view);
+    setView(m_view, m_model, notePlaceIn);
     auto *foot = new ViewFoot(u"week"_s, u"Click a day, or press Enter, to open it"_s, this);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(24, 12, 24, 18);
@@ -163,8 +189,6 @@ WeekView::WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent)
     rows->addWidget(m_title);
     rows->addWidget(m_view, 1);
     rows->addWidget(foot);
-    connect(m_view, &QListView::clicked, this,
-            [this](const QModelIndex &index) { emit dayOpened(m_model->date(index)); });
     connect(foot, &ViewFoot::dayRequested, this, &WeekView::left);
     connect(m_title, &StepTitle::stepped, this, &WeekView::stepped);
     connect(m_title, &StepTitle::todayRequested, this, &WeekView::todayRequested);
@@ -177,6 +201,12 @@ void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
     m_model->setDays({start, daysPerWeek, 1, start, end}, m_files.days(start, end), today);
     m_title->setTitle(Dates::range(start, end, m_style), shortRange(start, end, m_style));
     m_view->setCurrentIndex(m_model->indexOf(date));
+    readNotes();
+}
+
+void WeekView::notesShown()
+{
+    m_view->doItemsLayout();
 }
 
 /// The list measures its days anew for another height alone, and late.
@@ -198,7 +228,9 @@ QDate WeekView::after(QDate date, int steps) const
 
 Page WeekView::page(QDate date, const CalendarOptions &options, const PageContext &context) const
 {
-    return PlannerPages::weekOf(m_files, date, options, context);
+    const QDate start = PlannerPages::weekStart(date, options.firstDay());
+    return PlannerPages::weekOf(m_files, date, options, context,
+                                notes().texts(start, start.addDays(daysPerWeek - 1)));
 }
 
 QString WeekView::printName(QDate date) const

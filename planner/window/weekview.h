@@ -15,7 +15,8 @@ class WeekView final : public DaysView
 {
     Q_OBJECT
 public:
-    WeekView(const PlannerFiles &files, DateStyle style, QWidget *parent = nullptr);
+    WeekView(const PlannerFiles &files, const HouseholdNotes &notes, DateStyle style,
+             QWidget *parent = nullptr);
 
     /// Reads the week of `date` and puts the focus on that day.
     void show(QDate date, const CalendarOptions &options, QDate today) override;
@@ -25,6 +26,7 @@ public:
     QString printName(QDate date) const override;
 
 protected:
+    void notesShown() override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -41,6 +41,41 @@ class TestPlannerPages : public QObject
 {
     Q_OBJECT
 private slots:
+    /// Birthdays and the like: lines of their own, which count as no entries.
+    void printsNotesBeforeTheEntries_data()
+    {
+        rows<int>({{"day", 0}, {"week", 1}, {"week on its side", 2}, {"month", 3}, {"dates", 4}});
+    }
+    void printsNotesBeforeTheEntries()
+    {
+        const auto [kind] = row<int>();
+        const QDate date(2026, 11, 20);
+        const PlannerPages::Days days{{date, numberedEntries(2)}};
+        const PlannerPages::Notes notes{{date, {u"Anne Lind turns 48"_s}},
+                                        {date.addDays(1), {u"Tom Lind turns 12"_s}}};
+        const PageContext upright = contextOf(PageSetup::Portrait);
+        const PageContext wide = contextOf(PageSetup::Landscape);
+        const auto page = [&]() -> Page {
+            switch (kind) {
+            case 0:
+                return PlannerPages::day(date, numberedEntries(2), upright, notes);
+            case 1:
+                return PlannerPages::week(QDate(2026, 11, 16), days, upright, notes);
+            case 2:
+                return PlannerPages::week(QDate(2026, 11, 16), days, wide, notes);
+            case 3:
+                return PlannerPages::month(date, days, Qt::Sunday, wide, notes);
+            default:
+                return PlannerPages::range(date, date.addDays(9), days, upright, notes);
+            }
+        };
+        const QString text = page().toText();
+        const qsizetype note = text.indexOf(u"Anne Lind turns 48"_s);
+        QVERIFY2(note >= 0 && note < text.indexOf(u"entry 1"_s), qPrintable(text));
+        QCOMPARE(text.contains(u"Tom Lind turns 12"_s), kind != 0);
+        QVERIFY(!text.contains(u"more"_s));
+    }
+
     void tellsRangesOfDates_data()
     {
         rows<QDate, QDate, QString, QString>({

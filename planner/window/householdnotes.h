@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "planner/model/plannerpages.h"
+#include "shell/program/functions.h"
+
+#include <QDate>
+#include <QList>
+
+struct Program;
+class QWidget;
+
+/// A note of another function, and which that is.
+struct HouseholdNote {
+    DayNote note;
+    Function function;
+
+    bool operator==(const HouseholdNote &) const = default;
+};
+
+/// What the other functions have for dates. The planner shows it beside its own entries and never takes it in
+/// among them.
+class HouseholdNotes
+{
+public:
+    explicit HouseholdNotes(const Program &program)
+        : m_program(program)
+    {}
+
+    /// What all functions but the planner have for the days `from` to `to`, by date. One that the password
+    /// guards is not asked.
+    QList<HouseholdNote> all(QDate from, QDate to) const;
+    /// The birthdays and anniversaries among them: what stands with the days themselves.
+    QList<HouseholdNote> occasions(QDate from, QDate to) const;
+    /// The same as texts, for pages.
+    PlannerPages::Notes texts(QDate from, QDate to) const;
+
+    /// Shows where the note comes from, behind that function's guard; of several the user chooses in a menu
+    /// at `place`, which belongs to `owner`.
+    void open(const QList<HouseholdNote> &notes, QPoint place, QWidget *owner) const;
+    void open(const HouseholdNote &note) const;
+
+    /// "Anne Lind turns 48; Tom Lind turns 12".
+    static QString joined(const QList<HouseholdNote> &notes);
+
+private:
+    const Program &m_program;
+};
