@@ -126,6 +126,11 @@ bool ChangeSet::recover(const DataFolder &folder)
     return true;
 }
 
+bool ChangeSet::isPending(const DataFolder &folder)
+{
+    return QFileInfo(journalPath(folder)).size() > 0;
+}
+
 QByteArray ChangeSet::encode(const Changes &changes)
 {
     QByteArray bytes;
@@ -209,15 +214,30 @@ bool ChangeSet::restore(const std::vector<Former> &formers)
             isRestored = Disk::remove(former.path) && isRestored;
             continue;
         }
-        QFile file(former.path);
-        if (former.places.empty())
-            continue;
-        bool isDone = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
-        for (auto place = former.places.rbegin(); place != former.places.rend(); ++place)
-            isDone = isDone && Disk::writeAt(file, place->first, place->second);
-        isRestored = isDone && file.resize(former.size) && Disk::flush(file) && isRestored;
+        if (!former.places.empty())
+            isRestored = restoreFile(former) && isRestored;
     }
     return isRestored;
+}
+
+/// A disk that takes nothing any more may have taken nothing from the start: what stands as it was is not
+/// written again.
+bool ChangeSet::restoreFile(const Former &former)
+{
+    QFile file(former.path);
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return false;
+    bool isTouched = false;
+    for (auto place = former.places.rbegin(); place != former.places.rend(); ++place) {
+        if (file.seek(place->first) && file.read(place->second.size()) == place->second)
+            continue;
+        if (!Disk::writeAt(file, place->first, place->second))
+            return false;
+        isTouched = true;
+    }
+    if (file.size() == former.size && !isTouched)
+        return true;
+    return (file.size() == former.size || file.resize(former.size)) && Disk::flush(file);
 }
 
 bool ChangeSet::removeJournal(const DataFolder &folder)

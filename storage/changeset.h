@@ -42,6 +42,10 @@ public:
     /// folder for reading only.
     [[nodiscard]] static bool recover(const DataFolder &folder);
 
+    /// Whether a change waits in `folder` to be finished: one that was refused, and could not be taken back
+    /// either.
+    static bool isPending(const DataFolder &folder);
+
 private:
     /// Bytes for a place in a file; a whole file that waits under its waiting name when `offset` is -1.
     struct Change {
@@ -68,6 +72,7 @@ private:
     static bool writePlaces(const DataFolder &folder, const Changes &changes, std::vector<Former> &formers);
     static bool takeNames(const DataFolder &folder, const Changes &changes);
     static bool restore(const std::vector<Former> &formers);
+    static bool restoreFile(const Former &former);
     static bool removeJournal(const DataFolder &folder);
 
     bool stage() const;

@@ -54,7 +54,8 @@ void BookChanges::bringBack(const Trash::Item &item)
         return;
     const AddressBook::SaveResult result = m_desk.book.bringBack(item);
     if (!result.isSaved) {
-        emit said(result.isBookFull ? AddressLines::bookIsFull() : AddressMessages::saveFailed());
+        emit said(result.isBookFull ? AddressLines::bookIsFull()
+                                    : FrameLines::refused(m_program.folder, AddressMessages::saveFailed()));
         return;
     }
     m_desk.openBook(result.record);
@@ -67,7 +68,7 @@ void BookChanges::removeShown()
     const int record = m_desk.editor.record();
     auto change = m_desk.editor.remove(m_desk.book, m_program.clock.now());
     if (!change) {
-        emit said(AddressMessages::deleteFailed());
+        emit said(FrameLines::refused(m_program.folder, AddressMessages::deleteFailed()));
         return;
     }
     m_desk.openBook(0);

@@ -143,7 +143,7 @@ AddressBook::SaveResult EntryEditor::save(AddressBook &book)
     const AddressEntry entry = typed();
     AddressBook::SaveResult result = isNew() ? book.saveNew(entry) : book.saveChanged(m_record, entry);
     if (!result.isSaved) {
-        emit said(AddressMessages::saveFailed());
+        emit said(FrameLines::refused(book.folder(), AddressMessages::saveFailed()));
         return result;
     }
     m_record = result.record;

@@ -57,6 +57,8 @@ public:
 
     explicit AddressBook(const DataFolder &folder);
 
+    const DataFolder &folder() const { return m_folder; }
+
     /// The name list; creates a missing index file. Deleted entries are left out, and so are empty lines but
     /// that of the first record.
     NameList loadNames() const;

@@ -40,6 +40,8 @@ public:
     explicit PasswordCheck(const DataFolder &folder, PasswordCost cost = PasswordCost::interactive(),
                            PasswordMemory *memory = nullptr);
 
+    const DataFolder &folder() const { return m_folder; }
+
     State state() const;
 
     /// The flags as the file holds them; all of them set when the file is damaged.

@@ -84,7 +84,7 @@ inline QString passwordsDiffer()
 
 inline QString passwordNotSaved()
 {
-    return QStringLiteral("The password could not be saved. Everything is as it was.");
+    return QStringLiteral("The change could not be saved. Everything is as it was.");
 }
 
 inline QString answersSpent()

@@ -5,6 +5,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/titleline.h"
+#include "shell/core/framelines.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -219,7 +220,7 @@ void PasswordPane::carryOut()
         return;
     }
     if (!isDone) {
-        m_refusal->setText(PasswordMessages::passwordNotSaved());
+        m_refusal->setText(FrameLines::refused(m_file.folder(), PasswordMessages::passwordNotSaved()));
         return;
     }
     close();

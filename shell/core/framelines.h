@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/changeset.h"
+
 #include <QString>
 
 /// Quiet lines that every window says in the same words: of the status bar, beside a button, or as the reason
@@ -17,6 +19,14 @@ inline QString unsavedChanges()
 inline QString settingNotSaved()
 {
     return u"The setting could not be saved"_s;
+}
+
+/// What is said of a refused change: `asItWas` where nothing of it stays, else that it will be finished.
+inline QString refused(const DataFolder &folder, const QString &asItWas)
+{
+    return ChangeSet::isPending(folder)
+               ? u"The disk refused in the middle; this is finished as soon as it takes more"_s
+               : asItWas;
 }
 
 inline QString stillBusy()
