@@ -130,6 +130,7 @@ void ToolbarCustomizer::arrange()
 void ToolbarCustomizer::fill()
 {
     const QString chosen = nameOf(m_available->currentItem());
+    const int row = m_available->currentRow();
     m_available->clear();
     m_shown->clear();
     const QStringList shown = m_layout.shown();
@@ -142,6 +143,9 @@ void ToolbarCustomizer::fill()
         if (action->objectName() == chosen)
             m_available->setCurrentRow(m_available->count() - 1);
     }
+    // The chosen one went to the bar: its neighbour may follow.
+    if (m_available->currentRow() < 0 && !chosen.isEmpty())
+        m_available->setCurrentRow(std::min(row, m_available->count() - 1));
     offerButtons();
 }
 
@@ -182,9 +186,13 @@ void ToolbarCustomizer::tell(bool isSaved)
 
 void ToolbarCustomizer::apply(const QStringList &names, int current)
 {
+    QWidget *const pressed = focusWidget();
     tell(m_layout.setShown(names));
     fill();
     choose(current);
+    // While the lists were filled the button could not be used, and the focus went on to the next one.
+    if (pressed && pressed != focusWidget())
+        (pressed->isEnabled() ? pressed : pressed == m_add ? m_available : m_shown)->setFocus();
 }
 
 /// Chooses `row` of the bar's buttons, or the nearest one.
