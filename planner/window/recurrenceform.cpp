@@ -24,6 +24,22 @@ int numberOf(const FieldBox *box)
     return box->text().trimmed().toInt();
 }
 
+/// Lets the Tab key go through what `layout` holds in its order, behind `before`; returns the last of it.
+QWidget *orderTabs(const QLayout &layout, QWidget *before)
+{
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem *item = layout.itemAt(i);
+        if (QWidget *part = item->widget()) {
+            if (before)
+                QWidget::setTabOrder(before, part);
+            before = part;
+        } else if (const QLayout *inner = item->layout()) {
+            before = orderTabs(*inner, before);
+        }
+    }
+    return before;
+}
+
 } // namespace
 
 RecurrenceForm::RecurrenceForm(const DateReading &reading, QWidget *parent)
@@ -49,6 +65,7 @@ RecurrenceForm::RecurrenceForm(const DateReading &reading, QWidget *parent)
     addMonthly(column);
     addYearly(column);
     column->addStretch(1);
+    orderTabs(*column, nullptr);
     // A kind without a default: nothing is chosen until the user does.
     connect(m_kinds, &QButtonGroup::idClicked, this, &RecurrenceForm::kindChosen);
     for (const QButtonGroup *group : {m_kinds, m_weekdays})
