@@ -46,8 +46,12 @@ void DateBox::tidy()
     if (isLocked() || !isModified())
         return;
     setModified(false);
-    if (const auto typed = date())
+    const auto typed = date();
+    if (typed)
         setDate(*typed);
-    else if (!text().trimmed().isEmpty())
-        emit refused(FrameLines::notADate());
+    const bool isRefused = !typed && !text().trimmed().isEmpty();
+    // What was said of the text before does not outlast it.
+    if (isRefused || m_isRefused)
+        emit refused(isRefused ? FrameLines::notADate() : QString());
+    m_isRefused = isRefused;
 }
