@@ -12,6 +12,7 @@
 #include "shell/pictures/pictureframe.h"
 #include "shell/program/program.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -83,6 +84,8 @@ QWidget *PicturePanel::makeLists()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(14);
     m_driveList = named(new QComboBox(this), u"Drive1"_s);
+    m_driveList->setAccessibleName(u"Drives"_s);
+    m_driveList->view()->setAccessibleName(u"Drives"_s);
     m_driveList->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_folderList = makeList(u"Dir1"_s, this);
     m_fileList = makeList(u"File1"_s, this);

@@ -4,6 +4,7 @@
 #include "shell/controls/pastefilter.h"
 #include "shell/look/theme.h"
 
+#include <QAction>
 #include <QKeyEvent>
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,7 +18,9 @@ SearchBox::SearchBox(const QString &name, const QString &words, const QString &t
     setToolTip(tip);
     setClearButtonEnabled(true);
     new PasteFilter(this, Characters::All); // what no file can hold is simply not found
-    addAction(Icons::icon("search"_L1, Theme::of(this).scheme), LeadingPosition);
+    addAction(Icons::icon("search"_L1, Theme::of(this).scheme), LeadingPosition)->setText(words);
+    if (auto *clearing = findChild<QAction *>("_q_qlineeditclearaction"_L1))
+        clearing->setText(u"Clear the search"_s);
 }
 
 void SearchBox::startAgain()
