@@ -192,7 +192,8 @@ QColor FunctionCard::fill() const
     } else if (underMouse()) {
         color = theme.soft;
     }
-    color.setAlphaF(CardGround::opacity);
+    if (!hasUserColor()) // what shows through would take the contrast of a chosen colour's ink
+        color.setAlphaF(CardGround::opacity);
     return color;
 }
 

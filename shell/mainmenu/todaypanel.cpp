@@ -122,6 +122,7 @@ void TodayPanel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     QColor fill = palette().color(QPalette::Window);
-    fill.setAlphaF(CardGround::opacity);
+    if (fill == Theme::of(this).panel)
+        fill.setAlphaF(CardGround::opacity);
     painter.drawPixmap(0, 0, CardGround::of(*this, fill));
 }
