@@ -12,6 +12,7 @@
 #include "planner/model/plannersource.h"
 #include "planner/window/plannerwindow.h"
 #include "shell/access/gate.h"
+#include "shell/access/guardedareas.h"
 #include "shell/access/passwordcheck.h"
 #include "shell/access/passwordcontrol.h"
 #include "shell/program/program.h"
@@ -100,7 +101,8 @@ std::optional<LiveLine> passwordNews(const Program &program, QDate)
     }
     int guarded = 0;
     for (int area = 0; area < ProtectedAreas::count; ++area)
-        guarded += program.state.protectedAreas.isProtected(area) ? 1 : 0;
+        guarded +=
+            GuardedAreas::isOfThisEdition(area) && program.state.protectedAreas.isProtected(area) ? 1 : 0;
     if (guarded == 0)
         return LiveLine{u"Nothing is protected"_s, LiveLine::Plain, {}};
     const QString text = guarded == 1 ? u"1 area is protected"_s : u"%1 areas are protected"_s.arg(guarded);
