@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/entry/entrybuttons.h"
 
+#include "addressbook/entry/addressform.h"
 #include "addressbook/entry/entryeditor.h"
 #include "shell/controls/emptypage.h"
 #include "shell/frame/commands.h"
+#include "shell/frame/workviews.h"
+#include "shell/pictures/enlargedpicture.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,4 +33,16 @@ void addEmptyButtons(EmptyPage &page, Commands &can, QAction *enter, QAction *re
 {
     page.addButton(can.button(enter, u"emptyEntryScreen"_s, u"E&ntry Screen"_s, &page, ButtonKind::Main));
     page.addButton(can.button(restore, u"emptyRestore"_s, u"&Restore Files from Disk"_s, &page));
+}
+
+void addEnlargedPicture(EntryEditor &editor, WorkViews &views, const DataFolder &folder)
+{
+    auto *enlarged = new EnlargedPicture(folder, u"pictureNormal"_s, u"Normal"_s, &views);
+    views.addPanel(enlarged);
+    QObject::connect(editor.form().enlargeButton(), &QPushButton::clicked, enlarged,
+                     [&editor, &views, enlarged] {
+                         enlarged->enlarge(editor.picture());
+                         views.open(enlarged);
+                         enlarged->setFocus();
+                     });
 }

@@ -2,9 +2,11 @@
 #pragma once
 
 class Commands;
+class DataFolder;
 class EmptyPage;
 class EntryEditor;
 class QAction;
+class WorkViews;
 
 /// The commands whose buttons stand in the foot of an entry.
 struct EntryCommands {
@@ -23,3 +25,6 @@ void addEntryButtons(EntryEditor &editor, Commands &can, const EntryCommands &en
 
 /// Puts what an empty book offers on its page.
 void addEmptyButtons(EmptyPage &page, Commands &can, QAction *enter, QAction *restore);
+
+/// Lets the picture's button show it as large as the work panel is.
+void addEnlargedPicture(EntryEditor &editor, WorkViews &views, const DataFolder &folder);

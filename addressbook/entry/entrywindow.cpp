@@ -19,7 +19,6 @@
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undostack.h"
 #include "shell/frame/workviews.h"
-#include "shell/pictures/enlargedpicture.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -85,19 +84,8 @@ QWidget *ADDBKVIEW::makeWorkPanel()
     m_views->addHome(m_emptyPage);
     m_views->addPanel(m_picturePanel);
     m_views->addPanel(m_printOptions);
-    makeEnlargedPicture();
+    addEnlargedPicture(*m_editor, *m_views, program().folder);
     return panel;
-}
-
-void ADDBKVIEW::makeEnlargedPicture()
-{
-    auto *enlarged = new EnlargedPicture(program().folder, u"pictureNormal"_s, u"Normal"_s, this);
-    m_views->addPanel(enlarged);
-    connect(m_editor->form().enlargeButton(), &QPushButton::clicked, this, [this, enlarged] {
-        enlarged->enlarge(m_editor->picture());
-        m_views->open(enlarged);
-        enlarged->setFocus();
-    });
 }
 
 void ADDBKVIEW::makeMenus()
@@ -117,7 +105,7 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
 {
     namespace Keys = CommonKeys;
     const auto entryOnly = [this] { return isNew() ? QString() : AddressLines::onEntryScreenOnly(); };
-    const auto noneShown = [this] { return isEmptyShown() ? AddressLines::bookIsEmpty() : QString(); };
+    const auto noneShown = [this] { return whyNothingShown(); };
     const auto fixed = [this] { return whyUnchangeable(); };
     const auto kept = [this] { return m_editor->isStray() ? QString() : whyUnchangeable(); };
     const auto viewed = [this] { return mode() == Mode::View ? AddressLines::alreadyThere() : QString(); };
@@ -144,20 +132,26 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     m_labels->addCommand(commands(), options);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
-    m_changes->addCommands(edit, commands(), *m_views);
-    commands().repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
-    commands().repeat(m_modify, edit, u"mEMod1"_s);
-    commands().setKeyIn(m_list, remove, Keys::remove);
-    const auto search = [this] {
-        closePreview();
-        m_list->startSearch();
-    };
-    commands().add(edit, u"mEFind"_s, u"&Find"_s, search, noneShown, Keys::search);
+    addEditCommands(edit, copy, remove);
     makeToolbar(copy, print);
     makeButtons(clear, saveNew, remove);
     addEmptyButtons(*m_emptyPage, commands(), enter, standard(Standard::Restore));
     for (QAction *command : {clear, saveNew, remove, m_modify, enter, m_otherScreen})
         commands().writing(command);
+}
+
+void ADDBKVIEW::addEditCommands(QMenu *edit, QAction *copy, QAction *remove)
+{
+    m_changes->addCommands(edit, commands(), *m_views);
+    commands().repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
+    commands().repeat(m_modify, edit, u"mEMod1"_s);
+    commands().setKeyIn(m_list, remove, CommonKeys::remove);
+    const auto search = [this] {
+        closePreview();
+        m_list->startSearch();
+    };
+    commands().add(
+        edit, u"mEFind"_s, u"&Find"_s, search, [this] { return whyNothingShown(); }, CommonKeys::search);
 }
 
 void ADDBKVIEW::makeToolbar(QAction *copy, QAction *print)
@@ -190,7 +184,10 @@ void ADDBKVIEW::connectParts(EntryLinks *links)
     connect(links, &EntryLinks::said, m_editor, &EntryEditor::said);
     new SameAddressLink(m_book, *m_list, *m_editor, this);
     connect(m_list, &EntryList::rowShown, this, &ADDBKVIEW::showLine);
-    connect(m_list, &EntryList::nothingFound, this, [this] { ask(AddressMessages::noMatch()); });
+    connect(m_list, &EntryList::nothingFound, this, [this] {
+        activity().say({});
+        ask(AddressMessages::noMatch());
+    });
     connect(m_list, &EntryList::matchFound, this, [this](int row, int number, int count) {
         activity().say(AddressLines::matchOf(number, count));
         m_toSay = row == m_list->shownRow() ? QString() : activity().message();
@@ -215,6 +212,11 @@ bool ADDBKVIEW::isEmptyShown() const
 QString ADDBKVIEW::whyUnchangeable() const
 {
     return isEmptyShown() ? AddressLines::bookIsEmpty() : m_editor->whyUnchangeable();
+}
+
+QString ADDBKVIEW::whyNothingShown() const
+{
+    return isEmptyShown() ? AddressLines::bookIsEmpty() : QString();
 }
 
 void ADDBKVIEW::refreshScreen()

@@ -40,9 +40,9 @@ protected:
 
 private:
     QWidget *makeWorkPanel();
-    void makeEnlargedPicture();
     void makeMenus();
     void addCommands(QMenu *options, QMenu *edit);
+    void addEditCommands(QMenu *edit, QAction *copy, QAction *remove);
     void makeToolbar(QAction *copy, QAction *print);
     void makeButtons(QAction *clear, QAction *saveNew, QAction *remove);
     void connectParts(EntryLinks *links);
@@ -50,6 +50,7 @@ private:
     bool isNew() const { return m_editor->isNew(); }
     bool isEmptyShown() const;
     QString whyUnchangeable() const;
+    QString whyNothingShown() const;
     void refreshScreen();
 
     /// Shows the entry of `record`; where the list has none, that of this row, or the last one.
