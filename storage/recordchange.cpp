@@ -24,6 +24,9 @@ void RecordChange::add(const RecordChange &later)
     for (const auto &[where, place] : later.m_places)
         add(where, place.recordLength, place.after, place.before);
     m_isUnknown = m_isUnknown || later.m_isUnknown;
+    m_thrownAway.insert(m_thrownAway.end(), later.m_thrownAway.begin(), later.m_thrownAway.end());
+    m_broughtBack.insert(m_broughtBack.end(), later.m_broughtBack.begin(), later.m_broughtBack.end());
+    m_trashState = later.m_trashState;
 }
 
 void RecordChange::add(const Places::key_type &where, qsizetype recordLength, QByteArrayView after,

@@ -88,11 +88,7 @@ void BookChanges::saved(const AddressBook::SaveResult &result)
 /// Says what was done, with what the trash made of it.
 void BookChanges::add(const QString &title, RecordChange change, int record)
 {
-    QString line = title;
-    if (change.trashState() == Trash::State::Foreign)
-        line += u". "_s + FrameLines::trashSetAside();
-    else if (change.trashState() == Trash::State::OutOfReach)
-        line += u". "_s + FrameLines::trashOutOfReach();
+    const QString line = FrameLines::withTrash(title, change.trashState());
     m_desk.undo.push(title, std::move(change), [this, record] { show(record); });
     emit said(line);
     m_desk.undo.offer();

@@ -59,6 +59,19 @@ inline QString recurrenceRemoved(const QString &words)
     return u"Removed on many days: "_s + words;
 }
 
+inline QString broughtBack(const QString &words)
+{
+    return u"Brought back: "_s + words;
+}
+
+/// What stays in the trash for want of room; empty for none.
+inline QString withoutRoom(int days)
+{
+    if (days == 0)
+        return {};
+    return days == 1 ? u". One day has no room for it"_s : u". %1 days have no room for it"_s.arg(days);
+}
+
 inline QString toDosImported()
 {
     return u"To Do items imported"_s;

@@ -68,14 +68,21 @@ bool PlannerFiles::write(QDate date, const PlannerDay &day, RecordChange &change
 {
     if (!PlannerDates::has(date))
         return false;
-    PlannerDay saved = day;
-    saved.mark = PlannerDay::savedMark;
     RecordChange written;
-    written.write(yearFile(date.year()), DayRecord::number(date), plannerDayLayout.encode(saved));
+    add(date, day, written);
     if (!written.commit(m_folder))
         return false;
     change.add(written);
     return true;
+}
+
+void PlannerFiles::add(QDate date, const PlannerDay &day, RecordChange &change) const
+{
+    if (!PlannerDates::has(date))
+        return;
+    PlannerDay saved = day;
+    saved.mark = PlannerDay::savedMark;
+    change.write(yearFile(date.year()), DayRecord::number(date), plannerDayLayout.encode(saved));
 }
 
 QByteArray PlannerFiles::yearBytes(int year) const

@@ -32,7 +32,9 @@ public:
     /// Writes `day`, marked as saved, into `date`'s record: 850 bytes, cut and padded to the fields' widths.
     /// False when the disk refuses; the rest of the file keeps what it held.
     [[nodiscard]] bool write(QDate date, const PlannerDay &day);
-    /// The same, noted in `change`.
+    /// Adds to `change` that `day`, marked as saved, stands in `date`'s record; a date beyond has none.
+    void add(QDate date, const PlannerDay &day, RecordChange &change) const;
+    /// The same as `write`, noted in `change`.
     [[nodiscard]] bool write(QDate date, const PlannerDay &day, RecordChange &change);
 
     /// Visits the saved days of `year` by date, after one read of its file; nothing when the file is missing.

@@ -117,6 +117,8 @@ bool RecurrenceRun::step()
     m_full += result == DateResult::Full;
     m_failed += result == DateResult::Failed;
     m_removed += result == DateResult::Removed;
+    if (result == DateResult::Removed)
+        m_removedFrom.push_back(*date);
     return true;
 }
 

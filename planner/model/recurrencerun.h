@@ -43,6 +43,9 @@ public:
     /// The days that were written so far, as they were and as they are.
     const RecordChange &change() const { return m_change; }
 
+    /// The dates from which the appointment was removed.
+    const std::vector<QDate> &removedFrom() const { return m_removedFrom; }
+
     int made() const { return m_made; }
     int full() const { return m_full; }
     int failed() const { return m_failed; }
@@ -64,6 +67,7 @@ private:
     Appointment m_appointment;
     RecurrenceDates m_dates;
     RecordChange m_change;
+    std::vector<QDate> m_removedFrom;
     std::unique_ptr<YearFile> m_file;
     QDate m_lastDate;
     int m_made = 0;

@@ -3,6 +3,7 @@
 
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
+#include "planner/model/plannertrash.h"
 #include "planner/model/usualtime.h"
 #include "planner/window/dayform.h"
 #include "planner/window/noteline.h"
@@ -221,8 +222,14 @@ void DayEditor::focusFirstEmptyRow()
 
 bool DayEditor::save()
 {
+    const PlannerDay day = inTimeOrder(typed(), placement());
     RecordChange change;
-    if (!m_files.write(m_date, inTimeOrder(typed(), placement()), change)) {
+    m_files.add(m_date, day, change);
+    if (const auto lost =
+            PlannerTrash::ofDay(m_program.folder, m_date, m_program.state.dateStyle, m_program.clock.now());
+        lost && day.isEmpty())
+        change.throwAway(*lost);
+    if (!PlannerDates::has(m_date) || !change.commit(m_program.folder)) {
         emit said(PlannerLines::notSaved());
         return false;
     }

@@ -51,6 +51,11 @@ Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
     , m_views(new PlannerViews(program, m_files, m_options, m_day))
     , m_hits(new SearchPanel(m_files, program.state.dateStyle))
     , m_recurrence(new RecurrencePanel(program))
+    , m_changes(new PlannerChanges(
+          program,
+          {*m_day, *m_recurrence, *m_import, undoStack(), [this] { return mayReplaceDay(); },
+           [this](QWidget *panel) { showView(panel); }, [this](QDate date) { showChanged(date); }},
+          this))
     , m_optionsPanel(new CalendarOptionsPanel)
     , m_print(new PlannerPrint(program, this, {m_files, m_options, m_day, m_views},
                                [this] { return mayReplaceDay(); }))
@@ -151,8 +156,7 @@ void Zcalandar1::addEditCommands(QMenu *menu)
     const auto whyNoPaste = [this] {
         return whyNoDay().isEmpty() && !m_day->hasCopy() ? PlannerLines::copyFirst() : whyNoDay();
     };
-    undoStack().addCommands(menu);
-    menu->addSeparator();
+    m_changes->addCommands(menu, commands(), m_views->stack());
     Commands &all = commands();
     QAction *copyDay = all.add(menu, u"mECopy"_s, u"&Copy Day"_s, copy, dayOnly);
     QAction *paste = all.writing(all.add(
@@ -228,14 +232,7 @@ void Zcalandar1::connectWalks()
     connect(m_import, &ToDoImporter::busyChanged, this, &Zcalandar1::setUpdating);
     connect(m_import, &ToDoImporter::filesChanged, this, &Zcalandar1::refreshFromFiles);
     connect(m_import, &ToDoImporter::filesChanged, m_day, &DayEditor::focusCurrentRow);
-    const auto show = [this](QDate date) {
-        m_side->refreshMarks();
-        m_day->load(date.isValid() ? date : m_day->date());
-        date.isValid() ? showDay() : m_views->showToday();
-    };
-    auto *changes =
-        new PlannerChanges(program(), {*m_day, *m_recurrence, *m_import, undoStack(), show}, this);
-    connect(changes, &PlannerChanges::said, &activity(), &ActivityBar::say);
+    connect(m_changes, &PlannerChanges::said, &activity(), &ActivityBar::say);
 }
 
 Message Zcalandar1::leaveQuestion() const
@@ -389,4 +386,11 @@ void Zcalandar1::refreshFromFiles()
 {
     m_side->refreshMarks();
     m_day->reload();
+}
+
+void Zcalandar1::showChanged(QDate date)
+{
+    m_side->refreshMarks();
+    m_day->load(date.isValid() ? date : m_day->date());
+    date.isValid() ? showDay() : m_views->showToday();
 }

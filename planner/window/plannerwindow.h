@@ -8,6 +8,7 @@
 
 class CalendarOptionsPanel;
 class DaysView;
+class PlannerChanges;
 class PlannerPrint;
 class PlannerSidePane;
 class PlannerViews;
@@ -64,6 +65,8 @@ private:
     void setUpdating(bool isUpdating);
     /// Days were written behind the window.
     void refreshFromFiles();
+    /// The same, after what was undone; a valid date is shown.
+    void showChanged(QDate date);
 
     PlannerFiles m_files;
     CalendarOptions m_options;
@@ -73,6 +76,7 @@ private:
     PlannerViews *m_views; ///< day, week and month, and the panels over them
     SearchPanel *m_hits;
     RecurrencePanel *m_recurrence;
+    PlannerChanges *m_changes;
     CalendarOptionsPanel *m_optionsPanel;
     PlannerPrint *m_print;
     SideSplitter *m_splitter;

@@ -3,11 +3,13 @@
 
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
+#include "planner/model/plannertrash.h"
 #include "planner/window/recurrenceform.h"
 #include "planner/window/recurrenceoutlook.h"
 #include "planner/window/recurrencerange.h"
 #include "shell/controls/datebox.h"
 #include "shell/core/dates.h"
+#include "shell/core/framelines.h"
 #include "shell/core/slicedwork.h"
 #include "shell/program/program.h"
 
@@ -242,9 +244,25 @@ void RecurrencePanel::finish(bool wasStopped)
     const auto run = std::exchange(m_run, {});
     report(*run, wasStopped);
     const QString words = QString(m_appointment.time + u' ' + m_appointment.text).trimmed();
+    RecordChange change = run->change();
+    throwAway(*run, change);
     emit walked(m_action == RecurrenceAction::Insert ? PlannerLines::repeated(words)
                                                      : PlannerLines::recurrenceRemoved(words),
-                run->change());
+                change);
+}
+
+/// The walk writes each date by itself, so the trash learns of them behind it.
+void RecurrencePanel::throwAway(const RecurrenceRun &run, RecordChange &change)
+{
+    if (run.removedFrom().empty())
+        return;
+    RecordChange thrown;
+    thrown.throwAway(PlannerTrash::ofRemoval(m_appointment, run.removedFrom(), m_program.clock.now()));
+    const bool isKept = thrown.commit(m_program.folder);
+    if (isKept)
+        change.add(thrown);
+    if (!isKept || thrown.trashState() == Trash::State::OutOfReach)
+        emit said(FrameLines::trashOutOfReach());
 }
 
 void RecurrencePanel::report(RecurrenceRun &run, bool wasStopped)

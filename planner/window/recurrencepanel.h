@@ -64,6 +64,7 @@ private:
     void walk(RecurrenceAction action, const Recurrence &recurrence);
     void showProgress();
     void finish(bool wasStopped);
+    void throwAway(const RecurrenceRun &run, RecordChange &change);
     void report(RecurrenceRun &run, bool wasStopped);
     void setRunning(bool isRunning);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "storage/changeset.h"
+#include "storage/trash.h"
 
 #include <QString>
 
@@ -84,6 +85,20 @@ inline QString trashSetAside()
 inline QString trashOutOfReach()
 {
     return u"It was not kept among what can be brought back"_s;
+}
+
+/// `line`, with what the trash made of a deletion where that is worth a word.
+inline QString withTrash(const QString &line, Trash::State state)
+{
+    switch (state) {
+    case Trash::State::Whole:
+        return line;
+    case Trash::State::Foreign:
+        return line + u". "_s + trashSetAside();
+    case Trash::State::OutOfReach:
+        return line + u". "_s + trashOutOfReach();
+    }
+    Q_UNREACHABLE();
 }
 
 // Reasons

@@ -195,6 +195,24 @@ const Save undoneDay{[](Desk &desk) {
                      },
                      [](Desk &desk) { desk.trigger("mEUndo"); }};
 
+const Save emptiedDay{[](Desk &desk) {
+                          savedDay.prepare(desk);
+                          savedDay.press(desk);
+                          desk.answer(Answer::Yes);
+                          desk.click("clearDay");
+                      },
+                      [](Desk &desk) {
+                          desk.answer(Answer::Yes);
+                          desk.click("saveDay");
+                      }};
+
+const Save broughtBackDay{[](Desk &desk) {
+                              emptiedDay.prepare(desk);
+                              emptiedDay.press(desk);
+                              desk.trigger("mEBack");
+                          },
+                          [](Desk &desk) { desk.click("bringBack"); }};
+
 const Save recurrence{[](Desk &desk) {
                           desk.open(Function::Planner);
                           desk.type("Text2_0", u"Yoga"_s);
@@ -295,6 +313,8 @@ private slots:
             {"an address brought back", broughtBack},
             {"a day", savedDay},
             {"a day undone", undoneDay},
+            {"a day emptied", emptiedDay},
+            {"a day brought back", broughtBackDay},
             {"a recurrence", recurrence},
             {"a recurrence undone", undoneRecurrence},
             {"to-dos imported", importedToDos},

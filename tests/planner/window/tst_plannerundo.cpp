@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QMenuBar>
+#include <QTableView>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -105,7 +106,59 @@ private slots:
         QCOMPARE(said(), u"Undone: To Do items imported"_s);
     }
 
+    void bringsBackADayThatWasEmptied()
+    {
+        type(0, u"9:30"_s, u"Piano"_s);
+        type(1, {}, u"Bank"_s);
+        click("saveDay");
+        m_test->dialogs.willAnswer(Answer::Yes);
+        click("clearDay");
+        m_test->dialogs.willAnswer(Answer::Yes);
+        click("saveDay");
+        asked();
+        type(0, {}, u"Yoga"_s);
+        click("saveDay");
+        asked();
+        m_test->clock.time = m_test->clock.time.addDays(3);
+        show();
+        bringBack(u"Sat, Nov 21, 2026: 9:30 Piano, Bank"_s);
+        QCOMPARE(date(), QDate(2026, 11, 21));
+        QCOMPARE(shownRows().size(), 3);
+        QVERIFY(shownRows().contains(u"9:30|Piano"_s) && shownRows().contains(u"|Yoga"_s));
+        undo();
+        QCOMPARE(shownRows(), {u"|Yoga"_s});
+        bringBack(u"Sat, Nov 21, 2026: 9:30 Piano, Bank"_s);
+        trigger("mEBack");
+        QVERIFY(!isOffered("bringBack"));
+    }
+
+    void bringsBackARemovedAppointment()
+    {
+        type(0, {}, u"Yoga"_s);
+        click("saveDay");
+        repeat(u"recurrenceOk"_s);
+        repeat(u"recurrenceRemove"_s);
+        PlannerDay full;
+        for (std::size_t row = 0; row < PlannerDay::rowCount; ++row)
+            full.texts[row] = QString(QChar(u'a' + ushort(row)));
+        writeDay(QDate(2027, 1, 2), full);
+        bringBack(u"Yoga, on 46 days"_s);
+        QCOMPARE(said(), u"Brought back: Yoga, on 46 days. One day has no room for it"_s);
+        QCOMPARE(PlannerFiles(m_test->folder).peek(QDate(2027, 1, 1)).texts[0], u"Yoga"_s);
+        writeDay(QDate(2027, 1, 2), {});
+        bringBack(u"Yoga, on 46 days"_s); // the one that was left
+        QCOMPARE(PlannerFiles(m_test->folder).peek(QDate(2027, 1, 2)).texts[0], u"Yoga"_s);
+    }
+
 private:
+    /// The newest that was deleted.
+    void bringBack(const QString &title)
+    {
+        trigger("mEBack");
+        auto *deleted = find<QTableView>("trashList");
+        QCOMPARE(deleted->model()->index(0, 1).data().toString(), title);
+        QTest::keyClick(deleted, Qt::Key_Return);
+    }
     void undo() { trigger("mEUndo"); }
     void redo() { trigger("mERedo"); }
     void finish()
