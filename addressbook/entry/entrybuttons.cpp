@@ -3,6 +3,7 @@
 
 #include "addressbook/entry/addressform.h"
 #include "addressbook/entry/entryeditor.h"
+#include "addressbook/entry/entrylabels.h"
 #include "shell/controls/emptypage.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/workviews.h"
@@ -27,6 +28,14 @@ void addEntryButtons(EntryEditor &editor, Commands &can, const EntryCommands &en
     add(entry.saveNew, u"Command1"_s, u"&Save && New Screen"_s, Side::Right, On::EntryScreen,
         ButtonKind::Main);
     add(entry.exit, u"Command8"_s, u"E&xit"_s, Side::Right);
+}
+
+void addEntryTools(Commands &can, QAction *copy, QAction *print, EntryLabels &labels)
+{
+    can.tool(copy, "copy"_L1, u"Copy"_s);
+    can.tool(print, "print"_L1, u"Print"_s);
+    labels.addTool(can);
+    can.separateTools();
 }
 
 void addEmptyButtons(EmptyPage &page, Commands &can, QAction *enter, QAction *restore)

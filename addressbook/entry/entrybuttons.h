@@ -5,6 +5,7 @@ class Commands;
 class DataFolder;
 class EmptyPage;
 class EntryEditor;
+class EntryLabels;
 class QAction;
 class WorkViews;
 
@@ -22,6 +23,9 @@ struct EntryCommands {
 
 /// Puts the buttons into the foot, each on its screens.
 void addEntryButtons(EntryEditor &editor, Commands &can, const EntryCommands &entry);
+
+/// Puts what is done with the shown entry on the toolbar.
+void addEntryTools(Commands &can, QAction *copy, QAction *print, EntryLabels &labels);
 
 /// Puts what an empty book offers on its page.
 void addEmptyButtons(EmptyPage &page, Commands &can, QAction *enter, QAction *restore);

@@ -5,11 +5,11 @@
 #include "addressbook/entry/bookchanges.h"
 #include "addressbook/entry/entrybuttons.h"
 #include "addressbook/entry/entrylabels.h"
-#include "addressbook/entry/entrylist.h"
 #include "addressbook/entry/picturepanel.h"
 #include "addressbook/entry/picturetaker.h"
 #include "addressbook/entry/sameaddresslink.h"
 #include "addressbook/model/entrylines.h"
+#include "addressbook/model/indexline.h"
 #include "addressbook/model/messages.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/emptypage.h"
@@ -133,7 +133,9 @@ void ADDBKVIEW::addCommands(QMenu *options, QMenu *edit)
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
     addEditCommands(edit, copy, remove);
-    makeToolbar(copy, print);
+    addEntryTools(commands(), copy, print, *m_labels);
+    for (const Standard tool : {Standard::PanelColor, Standard::Backup, Standard::Help})
+        addStandardTool(tool);
     makeButtons(clear, saveNew, remove);
     addEmptyButtons(*m_emptyPage, commands(), enter, standard(Standard::Restore));
     for (QAction *command : {clear, saveNew, remove, m_modify, enter, m_otherScreen})
@@ -152,16 +154,6 @@ void ADDBKVIEW::addEditCommands(QMenu *edit, QAction *copy, QAction *remove)
     };
     commands().add(
         edit, u"mEFind"_s, u"&Find"_s, search, [this] { return whyNothingShown(); }, CommonKeys::search);
-}
-
-void ADDBKVIEW::makeToolbar(QAction *copy, QAction *print)
-{
-    commands().tool(copy, "copy"_L1, u"Copy"_s);
-    commands().tool(print, "print"_L1, u"Print"_s);
-    m_labels->addTool(commands());
-    commands().separateTools();
-    for (const Standard tool : {Standard::PanelColor, Standard::Backup, Standard::Help})
-        addStandardTool(tool);
 }
 
 void ADDBKVIEW::makeButtons(QAction *clear, QAction *saveNew, QAction *remove)
@@ -204,14 +196,9 @@ void ADDBKVIEW::connectParts(EntryLinks *links)
     connect(m_picturePanel, &PicturePanel::said, &activity(), &ActivityBar::say);
 }
 
-bool ADDBKVIEW::isEmptyShown() const
-{
-    return !isNew() && m_list->names().isEmpty();
-}
-
 QString ADDBKVIEW::whyUnchangeable() const
 {
-    return isEmptyShown() ? AddressLines::bookIsEmpty() : m_editor->whyUnchangeable();
+    return isEmptyShown() ? whyNothingShown() : m_editor->whyUnchangeable();
 }
 
 QString ADDBKVIEW::whyNothingShown() const
@@ -221,8 +208,7 @@ QString ADDBKVIEW::whyNothingShown() const
 
 void ADDBKVIEW::refreshScreen()
 {
-    // A page on the screen would hide what is typed into from now on.
-    closePreview();
+    closePreview(); // it would hide what is typed into from now on
     setWindowTitle(isNew() ? u"Family/Friends Data Entry Screen"_s : u"Family/Friends Data View Screen"_s);
     activity().setActivity(isNew() ? u"Entry Screen"_s : u"View Screen"_s);
     const bool isModifying = mode() == Mode::Modify;
@@ -330,17 +316,16 @@ bool ADDBKVIEW::save()
 
 bool ADDBKVIEW::isLastNameGiven()
 {
-    FieldBox *box = m_editor->form().box(LastName);
-    const bool isMark = box->text().startsWith("****"_L1) || box->text().trimmed().startsWith("####"_L1);
-    if (!box->text().isEmpty() && !isMark)
+    const QString name = m_editor->form().box(LastName)->text();
+    if (IndexLine::isLastName(name))
         return true;
-    if (isMark)
-        activity().say(AddressMessages::markedName());
-    else
+    if (name.isEmpty())
         ask(AddressMessages::lastNameMissing());
+    else
+        activity().say(AddressMessages::markedName());
     closePreview();
     m_views->goHome();
-    box->setFocus();
+    m_editor->form().box(LastName)->setFocus();
     return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include "addressbook/entry/entryeditor.h"
 #include "addressbook/entry/entrylinks.h"
+#include "addressbook/entry/entrylist.h"
 #include "addressbook/entry/printoptions.h"
 #include "addressbook/model/addressbook.h"
 #include "addressbook/shared/dialler.h"
@@ -11,7 +12,6 @@
 class BookChanges;
 class EmptyPage;
 class EntryLabels;
-class EntryList;
 class PicturePanel;
 
 /// The address book's screen (`ADDBKVIEW`): entries are typed in, looked at, changed, deleted, given a
@@ -43,12 +43,11 @@ private:
     void makeMenus();
     void addCommands(QMenu *options, QMenu *edit);
     void addEditCommands(QMenu *edit, QAction *copy, QAction *remove);
-    void makeToolbar(QAction *copy, QAction *print);
     void makeButtons(QAction *clear, QAction *saveNew, QAction *remove);
     void connectParts(EntryLinks *links);
 
     bool isNew() const { return m_editor->isNew(); }
-    bool isEmptyShown() const;
+    bool isEmptyShown() const { return !isNew() && m_list->names().isEmpty(); }
     QString whyUnchangeable() const;
     QString whyNothingShown() const;
     void refreshScreen();

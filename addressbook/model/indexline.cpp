@@ -123,6 +123,11 @@ QString IndexLine::deletionMark()
     return u"#####"_s + QString(40, u' ');
 }
 
+bool IndexLine::isLastName(QStringView name)
+{
+    return !name.isEmpty() && !name.startsWith("****"_L1) && !name.trimmed().startsWith("####"_L1);
+}
+
 bool IndexLine::isDeleted(QStringView line)
 {
     return line.startsWith(u"####");

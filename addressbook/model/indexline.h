@@ -32,6 +32,9 @@ QByteArrayView name(QByteArrayView line);
 /// What stands in place of the line of a deleted entry.
 QString deletionMark();
 
+/// Whether `name` can be the last name of a live entry: not empty, and not beginning as a mark does.
+bool isLastName(QStringView name);
+
 bool isDeleted(QStringView line);
 bool isDeleted(QByteArrayView line);
 
