@@ -28,6 +28,7 @@ constexpr int linkGap = 6;
 /// Boxes are never wider than this.
 constexpr int greatestWidth = 640;
 constexpr int greatestPicture = 460;
+constexpr int leastPicture = 110;
 constexpr int oneColumnWidth = 300;
 /// From this width on the second group stands beside the first.
 constexpr int twoColumnsFrom = 600;
@@ -314,7 +315,9 @@ void AddressForm::setTabOrders()
 void AddressForm::fitPicture()
 {
     const bool twoColumns = m_columns->direction() == QBoxLayout::LeftToRight;
-    const int least = m_picture->minimumSizeHint().height();
+    // Beside the home address it gives way to the boxes below it, which a screen of 768 rows would cut else.
+    const int least = twoColumns ? leastPicture : m_picture->minimumSizeHint().height();
+    m_picture->setMinimumHeight(least);
     m_picture->setMaximumHeight(
         std::clamp(m_picture->tallestMat(), least, twoColumns ? greatestPicture : 238));
 }

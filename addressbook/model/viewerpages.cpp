@@ -99,43 +99,47 @@ std::vector<QString> telephones(const AddressViewer &viewer, const ViewerPages::
     return texts;
 }
 
-/// The characters of the longest text, as far as that is no oddity.
+/// The characters that the longest text takes, as far as that is no oddity; blanks are narrow.
 double telephoneLength(const std::vector<QString> &telephones)
 {
-    constexpr qsizetype mostLength = 30;
-    qsizetype longest = 0;
+    constexpr double mostLength = 30;
+    double longest = 0;
     for (const QString &text : telephones)
-        longest = std::max(longest, std::min(text.size(), mostLength));
-    return double(longest);
+        longest = std::max(longest, std::min(mostLength, double(text.size()) - double(text.count(u' ')) / 2));
+    return longest;
 }
 
+/// The telephones stand under one another in a column of their own; names and information share the rest as
+/// their texts need it.
 PageItem::Columns listColumns(const AddressViewer &viewer, const ViewerPages::ListOptions &options,
-                              const std::vector<QString> &telephones, DateStyle style)
+                              const std::vector<QString> &telephones, TextRole role,
+                              const PageContext &context)
 {
     constexpr double leastInformation = 8;
-    constexpr double least = 0.4, most = 0.8;
+    constexpr double least = 0.4, most = 0.8, mostTelephone = 0.5;
     PageItem::Columns columns;
-    const double name = usualLength(viewer, &AddressViewer::name);
-    const double telephone = telephoneLength(telephones);
-    double names = 1; // the share of names and telephones; the telephones stand under one another
+    columns.lines = options.hasGridLines ? TableLines::Grid : TableLines::None;
+    columns.across = options.isTwoColumns ? 2 : 1;
+    const double width = (context.setup.sheet().width() - 1) / columns.across;
+    const double telephone =
+        std::min(telephoneLength(telephones) / (width * PageMetrics::charactersPerInch(role)), mostTelephone);
+    double names = 1 - telephone;
     if (hasColumn(viewer)) {
+        const double name = usualLength(viewer, &AddressViewer::name);
         const double information =
             std::max(leastInformation, usualLength(viewer, &AddressViewer::information));
-        names = std::clamp((name + telephone) / (name + telephone + information), least, most);
+        names *= std::clamp(name / (name + information), least, most);
     }
-    const double share = telephone > 0 ? names * name / (name + telephone) : names;
-    columns.weights = {share};
+    columns.weights = {names};
     columns.headings = {ViewerMessages::nameHeading()};
     if (telephone > 0) {
-        columns.weights.push_back(names - share);
+        columns.weights.push_back(telephone);
         columns.headings << QString();
     }
     if (hasColumn(viewer)) {
-        columns.weights.push_back(1 - names);
-        columns.headings << ViewerPages::heading(viewer.information(), style);
+        columns.weights.push_back(1 - names - telephone);
+        columns.headings << ViewerPages::heading(viewer.information(), context.style);
     }
-    columns.lines = options.hasGridLines ? TableLines::Grid : TableLines::None;
-    columns.across = options.isTwoColumns ? 2 : 1;
     return columns;
 }
 
@@ -219,9 +223,9 @@ Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, 
                               : QString());
     page.numberSheets(SheetNumbers::Title);
     const std::vector<QString> numbers = telephones(viewer, options);
-    const PageItem::Columns columns = listColumns(viewer, options, numbers, context.style);
-    page.table(columns);
     const TextRole role = options.isTwoColumns ? TextRole::Small : TextRole::Body;
+    const PageItem::Columns columns = listColumns(viewer, options, numbers, role, context);
+    page.table(columns);
     for (int row = 0; row < viewer.count(); ++row) {
         QStringList cells{viewer.name(row)};
         if (columns.weights.size() > (hasColumn(viewer) ? 2u : 1u))

@@ -116,6 +116,7 @@ QWidget *LabelPanel::makeChoices()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
     addSheetChoice(*column);
+    column->addSpacing(8);
     column->addLayout(makeOffset(choices));
     column->addSpacing(8);
     m_share = named(new QCheckBox(u"One label for each address"_s, choices), u"shareLabels"_s);

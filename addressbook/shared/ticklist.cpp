@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int leastRows = 5;
+constexpr int leastRows = 4;
 
 } // namespace
 

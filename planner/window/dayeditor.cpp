@@ -353,3 +353,10 @@ void DayEditor::enterRow(int row)
     m_scroll->ensureWidgetVisible(m_form->textBox(row), 0, 40);
     emit said(PlannerLines::row(row));
 }
+
+void DayEditor::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    m_form->fitHeight(m_scroll->viewport()->height());
+}

@@ -71,6 +71,9 @@ signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QWidget *makeRowHeads();
     QWidget *makeFoot();

@@ -20,6 +20,7 @@ namespace {
 
 constexpr int timeBoxWidth = 112;
 constexpr int numberWidth = 20;
+constexpr int rowGap = 2;
 constexpr int lastRow = int(PlannerDay::rowCount) - 1;
 
 } // namespace
@@ -84,7 +85,7 @@ DayForm::DayForm(QWidget *parent)
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(2);
+    grid->setVerticalSpacing(rowGap);
     grid->setColumnStretch(2, 1);
     for (int row = 0; row <= lastRow; ++row) {
         const QString number = QString::number(row + 1);
@@ -109,6 +110,13 @@ DayForm::DayForm(QWidget *parent)
         textBox(m_row)->setFocus(Qt::TabFocusReason);
         emit edited();
     });
+}
+
+void DayForm::fitHeight(int height)
+{
+    const int boxes = int(PlannerDay::rowCount) * timeBox(0)->sizeHint().height();
+    const bool isShort = height < boxes + lastRow * rowGap && height >= boxes;
+    static_cast<QGridLayout *>(layout())->setVerticalSpacing(isShort ? 0 : rowGap);
 }
 
 void DayForm::setUpBox(FieldBox *box, int limit, const QString &accessibleName)

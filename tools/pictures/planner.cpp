@@ -104,7 +104,7 @@ void takePages(PictureSession &session)
     session.takePage("planner-page-week-landscape");
     session.trigger("mOPMonth");
     session.takePage("planner-page-month");
-    session.key(Qt::Key_PageDown);
+    session.click("nextPage");
     session.takePage("planner-page-month-list");
     session.key(Qt::Key_Escape);
 }
