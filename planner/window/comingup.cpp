@@ -160,9 +160,6 @@ ComingUp::ComingUp(const Program &program, QWidget *parent)
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setFocusPolicy(Qt::TabFocus);
     m_list->setMinimumHeight(44);
-    // Lines on the panel and not a box of their own.
-    m_list->setStyleSheet(u"QListView { background: transparent; border: 0; padding: 0; }"
-                          u"QListView:focus { background: transparent; border: 0; padding: 0; }"_s);
     m_list->viewport()->setAutoFillBackground(false);
     m_list->viewport()->setCursor(Qt::PointingHandCursor);
     connect(m_list, &QListView::clicked, m_model, &ComingUpModel::open);

@@ -32,8 +32,6 @@ TimeList::TimeList(QWidget *parent)
     // The focus stays in the box whose time is picked.
     setFocusPolicy(Qt::NoFocus);
     setCurrentIndex(-1);
-    // A list below the box, and not one from the top of the screen to its foot.
-    setStyleSheet(u"QComboBox { combobox-popup: 0; }"_s);
     setItemDelegate(new ListRowDelegate(this));
     setMaxVisibleItems(10);
     view()->setMinimumWidth(timeBoxWidth);
@@ -80,8 +78,6 @@ DayForm::DayForm(QWidget *parent)
     , m_suggestion(new TimeSuggestion(this))
 {
     setMaximumWidth(greatestWidth);
-    // Fourteen rows have to fit on the smallest screen.
-    setStyleSheet(u"QLineEdit { min-height: 20px; }"_s);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(8);
@@ -121,6 +117,7 @@ void DayForm::fitHeight(int height)
 
 void DayForm::setUpBox(FieldBox *box, int limit, const QString &accessibleName)
 {
+    box->setProperty("tight", true); // fourteen rows have to fit on the smallest screen
     box->setByteLimit(limit);
     box->setAccessibleName(accessibleName);
     box->installEventFilter(this);

@@ -53,11 +53,14 @@ QListView, QTreeView, QTableView, QTextBrowser {
 QListView:focus, QTreeView:focus, QTableView:focus, QTextBrowser:focus {
     background: @field; border: 2px solid @accent; padding: 2px; }
 QListView:disabled, QTreeView:disabled, QTableView:disabled { background: @locked; }
+QListView#comingUp, QListView#comingUp:focus { background: transparent; border: 0; padding: 0; }
+TimeList { combobox-popup: 0; }
 QComboBoxPrivateContainer QListView, QComboBox QListView { border: 0; border-radius: 0; padding: 2px; }
 QHeaderView { background: @head; border: 0; }
 QHeaderView::section { background: @head; border: 0; border-bottom: 1px solid @line; padding: 5px 8px; }
 QTableCornerButton::section { background: @head; border: 0; }
 QToolButton { background: transparent; border: 2px solid transparent; border-radius: 6px; padding: 0 9px; }
+QLineEdit[tight="true"] { min-height: 20px; }
 QToolButton[tall="true"] { padding: 0 2px; }
 QToolButton:hover { background: @soft; }
 QToolButton:pressed, QToolButton:checked { background: @pressed; }
