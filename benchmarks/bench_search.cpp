@@ -20,12 +20,12 @@ constexpr int entryCount = 50000;
 constexpr int firstYear = 2000;
 constexpr int yearCount = 30;
 constexpr int hitsPerFunction = 100;
-const QDate today(2026, 11, 21);
+const QDate thisDay(2026, 11, 21);
 
 class StillClock final : public Clock
 {
 public:
-    QDateTime now() const override { return QDateTime(today, QTime(10, 24)); }
+    QDateTime now() const override { return QDateTime(thisDay, QTime(10, 24)); }
 };
 
 /// A full book: invented names of syllables, each with an address, numbers and mail.
@@ -33,7 +33,7 @@ void fillBook(const DataFolder &folder)
 {
     constexpr std::array<std::string_view, 16> syllables{"jo", "se", "phi", "ne", "an",  "ber", "lin", "dor",
                                                          "ma", "re", "au",  "ka", "rin", "tes", "sa",  "hol"};
-    const auto name = [&](int number, int length) {
+    const auto name = [&](int number, int length) -> QString {
         QString text;
         for (int i = 0; i < length; ++i, number = number * 7 / 3 + 11)
             text += QString::fromLatin1(syllables[std::size_t(number) % syllables.size()]);
