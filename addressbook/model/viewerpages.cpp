@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -222,14 +223,20 @@ Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, 
               options.hasAsOf ? ViewerMessages::asOf(Dates::longText(context.today, context.style))
                               : QString());
     page.numberSheets(SheetNumbers::Title);
-    const std::vector<QString> numbers = telephones(viewer, options);
+    std::vector<QString> numbers = telephones(viewer, options);
     const TextRole role = options.isTwoColumns ? TextRole::Small : TextRole::Body;
-    const PageItem::Columns columns = listColumns(viewer, options, numbers, role, context);
-    page.table(columns);
+    // Two lists side by side are too narrow for three columns: the telephones stand below the names there.
+    const std::vector<QString> below =
+        options.isTwoColumns && hasColumn(viewer) ? std::exchange(numbers, {}) : std::vector<QString>();
+    page.table(listColumns(viewer, options, numbers, role, context));
+    const bool hasNumbers = telephoneLength(numbers) > 0;
     for (int row = 0; row < viewer.count(); ++row) {
+        const auto at = std::size_t(row);
         QStringList cells{viewer.name(row)};
-        if (columns.weights.size() > (hasColumn(viewer) ? 2u : 1u))
-            cells << numbers[std::size_t(row)];
+        if (!below.empty() && !below[at].isEmpty())
+            cells[0] += u'\n' + below[at];
+        if (hasNumbers)
+            cells << numbers[at];
         if (hasColumn(viewer))
             cells << viewer.information(row);
         page.row(cells, role);
