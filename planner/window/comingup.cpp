@@ -78,10 +78,10 @@ public:
     }
 };
 
-QLatin1StringView iconOf(Function function)
+QLatin1StringView iconOf(const HouseholdNote &note)
 {
-    return function == Function::AddressBook ? "cake"_L1
-                                             : QLatin1StringView(FunctionFaces::of(function).icon);
+    return note.function == Function::AddressBook ? HouseholdNotes::sign({note})
+                                                  : QLatin1StringView(FunctionFaces::of(note.function).icon);
 }
 
 } // namespace
@@ -132,7 +132,7 @@ QVariant ComingUpModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleTextRole:
         return QString(note.note.text + u" ("_s + source + u')');
     case IconRole:
-        return Icons::icon(iconOf(note.function), Theme::of(static_cast<QWidget *>(nullptr)).scheme);
+        return Icons::icon(iconOf(note), Theme::of(static_cast<QWidget *>(nullptr)).scheme);
     default:
         return {};
     }

@@ -87,7 +87,7 @@ QVariant DaysModel::data(const QModelIndex &index, int role) const
         return QVariant::fromValue(found == m_days.end() ? PlannerDay{} : found->second);
     }
     case NoteRole:
-        return HouseholdNotes::joined(notes(day));
+        return QVariant::fromValue(notes(day));
     case TodayRole:
         return day == m_today;
     case OutsideRole:

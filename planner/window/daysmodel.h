@@ -19,7 +19,7 @@ public:
     enum Role {
         DateRole = Qt::UserRole,
         DayRole,    ///< the entries, a `PlannerDay`
-        NoteRole,   ///< the birthdays and anniversaries in one line; empty without any
+        NoteRole,   ///< the birthdays and anniversaries, a list of `HouseholdNote`
         TodayRole,  ///< whether the day is today
         OutsideRole ///< whether the day is beside the month that is shown
     };
@@ -39,6 +39,10 @@ public:
     /// What other functions have for the days; new days have none at first.
     void setNotes(const QList<HouseholdNote> &notes);
     QList<HouseholdNote> notes(QDate date) const { return m_notes.value(date); }
+    static QList<HouseholdNote> notesOf(const QModelIndex &index)
+    {
+        return index.data(NoteRole).value<QList<HouseholdNote>>();
+    }
     /// The first and the last day of the table.
     QDate first() const { return m_span.start; }
     QDate last() const { return m_span.start.addDays(qint64(m_span.rows) * m_span.columns - 1); }

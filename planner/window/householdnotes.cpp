@@ -70,3 +70,9 @@ QString HouseholdNotes::joined(const QList<HouseholdNote> &notes)
         texts << note.note.text;
     return texts.join(u"; "_s);
 }
+
+QLatin1StringView HouseholdNotes::sign(const QList<HouseholdNote> &notes)
+{
+    const bool isAnniversary = !notes.isEmpty() && notes.first().note.kind == NoteKind::Anniversary;
+    return isAnniversary ? "anniversary"_L1 : "cake"_L1;
+}

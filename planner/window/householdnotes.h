@@ -42,6 +42,8 @@ public:
 
     /// "Anne Lind turns 48; Tom Lind turns 12".
     static QString joined(const QList<HouseholdNote> &notes);
+    /// The drawing of the first of them: a cake, rings.
+    static QLatin1StringView sign(const QList<HouseholdNote> &notes);
 
 private:
     const Program &m_program;

@@ -62,11 +62,11 @@ public:
         const QRect place = contentOf(option.rect);
         paintNumber(*painter, place, index, theme, isOutside);
         QRect entries = place.adjusted(0, numberHeight, 0, 0);
-        if (const QString note = index.data(DaysModel::NoteRole).toString(); !note.isEmpty()) {
+        if (const auto notes = DaysModel::notesOf(index); !notes.isEmpty()) {
             const QRect line = notePlaceIn(option.rect);
             painter->setFont(TypeScale::label());
             painter->setPen(theme.quiet);
-            NoteLine::paint(*painter, line, note);
+            NoteLine::paint(*painter, line, notes);
             entries.setTop(line.bottom() + 1);
         }
         paintEntries(*painter, entries, index, isOutside ? theme.quiet : theme.text, theme);

@@ -61,14 +61,15 @@ QSize NoteLine::minimumSizeHint() const
     return {signSize + signGap + fontMetrics().horizontalAdvance(u"..."_s), sizeHint().height()};
 }
 
-void NoteLine::paint(QPainter &painter, const QRect &place, const QString &text)
+void NoteLine::paint(QPainter &painter, const QRect &place, const QList<HouseholdNote> &notes)
 {
     const Icons::Scheme scheme = Theme::of(static_cast<QWidget *>(nullptr)).scheme;
     const QRect sign(place.left(), place.center().y() - signSize / 2 + 1, signSize, signSize);
-    Icons::tinted("cake"_L1, scheme, painter.pen().color()).paint(&painter, sign);
+    Icons::tinted(HouseholdNotes::sign(notes), scheme, painter.pen().color()).paint(&painter, sign);
     const QRect words = place.adjusted(signSize + signGap, 0, 0, 0);
-    painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(text, Qt::ElideRight, words.width()));
+    painter.drawText(
+        words, Qt::AlignLeft | Qt::AlignVCenter,
+        painter.fontMetrics().elidedText(HouseholdNotes::joined(notes), Qt::ElideRight, words.width()));
 }
 
 void NoteLine::paintEvent(QPaintEvent *)
@@ -78,5 +79,5 @@ void NoteLine::paintEvent(QPaintEvent *)
     shown.setUnderline(underMouse() || hasFocus());
     painter.setFont(shown);
     painter.setPen(palette().color(underMouse() || hasFocus() ? ThemeRole::strong : ThemeRole::quiet));
-    paint(painter, rect(), text());
+    paint(painter, rect(), m_notes);
 }

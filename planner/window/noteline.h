@@ -20,8 +20,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /// Draws a cake and `text` into a line of this height; the pen is the text's.
-    static void paint(QPainter &painter, const QRect &place, const QString &text);
+    /// Draws their sign and words into a line of this height, in the painter's pen.
+    static void paint(QPainter &painter, const QRect &place, const QList<HouseholdNote> &notes);
 
 signals:
     /// There are notes now, or none any more.

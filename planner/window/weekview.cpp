@@ -83,10 +83,10 @@ public:
         const QRect place = option.rect.adjusted(padding, narrowPadding + 1, -padding, -narrowPadding);
         paintHead(*painter, place, index, theme);
         QRect entries = entriesPlaceIn(option.rect);
-        if (const QString note = index.data(DaysModel::NoteRole).toString(); !note.isEmpty()) {
+        if (const auto notes = DaysModel::notesOf(index); !notes.isEmpty()) {
             painter->setFont(TypeScale::label());
             painter->setPen(theme.quiet);
-            NoteLine::paint(*painter, notePlaceIn(option.rect).adjusted(0, 0, 0, -3), note);
+            NoteLine::paint(*painter, notePlaceIn(option.rect).adjusted(0, 0, 0, -3), notes);
             entries.setTop(entries.top() + lineHeight());
         }
         paintEntries(*painter, entries, index, theme);
@@ -97,7 +97,7 @@ private:
     static int neededHeight(const QModelIndex &index, int columns)
     {
         const DayLines lines(index.data(DaysModel::DayRole).value<PlannerDay>());
-        const int notes = index.data(DaysModel::NoteRole).toString().isEmpty() ? 0 : 1;
+        const int notes = DaysModel::notesOf(index).isEmpty() ? 0 : 1;
         const int rows = notes + (lines.count() + columns - 1) / columns;
         return std::max(2, rows) * lineHeight() + 2 * narrowPadding;
     }

@@ -86,7 +86,7 @@ private slots:
         auto *view = find<QAbstractItemView>(name);
         const QModelIndex day = view->currentIndex();
         m_asked.clear();
-        QTRY_COMPARE(day.data(DaysModel::NoteRole).toString(), u"Anne Lind turns 48"_s);
+        QTRY_COMPARE(HouseholdNotes::joined(DaysModel::notesOf(day)), u"Anne Lind turns 48"_s);
         QVERIFY(m_asked.size() <= 2); // the view, and what is coming up
         QVERIFY(day.data(Qt::ToolTipRole).toString().contains(u"2026\nAnne Lind turns 48"_s));
 
