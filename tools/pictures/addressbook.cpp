@@ -17,7 +17,11 @@ void takeView(PictureSession &session)
     session.click("Command5");
     session.take("print-options");
     session.key(Qt::Key_Escape);
-    session.box([&] { session.click("Command3"); }, [&] { session.key(Qt::Key_Y, Qt::AltModifier); });
+    session.box([&] { session.click("Command3"); },
+                [&] {
+                    session.key(Qt::Key_Backtab, Qt::ShiftModifier); // from No to Yes
+                    session.key(Qt::Key_Space);
+                });
     session.take("address-book-deleted");
     session.trigger("mEBack");
     session.take("bring-back-deleted");
