@@ -2,6 +2,7 @@
 #include "app/functions.h"
 #include "shell/access/passwordcheck.h"
 #include "shell/controls/controls.h"
+#include "shell/core/area.h"
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/program/sharedprocedures.h"
@@ -130,9 +131,9 @@ private slots:
         PasswordCheck file(test.folder, PasswordCost::minimum());
         QVERIFY(file.setPassword(u"Klavier"_s));
         QCOMPARE(line(), u"Nothing is protected"_s);
-        test.state.protectedAreas.setFlag(0, u"YES"_s);
+        test.state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
         QCOMPARE(line(), u"1 area is protected"_s);
-        test.state.protectedAreas.setFlag(20, u"YES"_s);
+        test.state.protectedAreas.setFlag(Area::Budget, u"YES"_s);
         QCOMPARE(line(), u"2 areas are protected"_s);
         test.setBytes(u"PCtrl1.Fil"_s, "noise");
         QCOMPARE(line(), u"The password file is damaged"_s);

@@ -66,6 +66,7 @@ private slots:
 
         m_box->takeNoFuture();
         QCOMPARE(type(u"1/2/29"_s), u"Jan-02-1929"_s);
+        QCOMPARE(refused.takeFirst().at(0).toString(), QString()); // what was said of it is taken back
         QCOMPARE(type(u"1/2/2029"_s), u"1/2/2029"_s);
         QVERIFY(!m_box->date());
         QCOMPARE(refused.count(), 1);
