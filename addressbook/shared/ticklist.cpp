@@ -4,6 +4,7 @@
 #include "addressbook/model/addressviewer.h"
 #include "addressbook/model/viewerlines.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/linkbutton.h"
 #include "shell/controls/listrowdelegate.h"
 
 #include <QHBoxLayout>
@@ -15,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int leastRows = 4;
+constexpr int leastRows = 3;
 
 } // namespace
 
@@ -111,23 +112,22 @@ TickList::TickList(QWidget *parent)
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     setListRows(m_view);
     m_view->setMinimumHeight(leastRows * ListRowDelegate::rowHeight());
-    QPushButton *all = makeButton(u"tickAll"_s, u"&All"_s, this);
-    QPushButton *none = makeButton(u"tickNone"_s, u"&None"_s, this);
+    auto *all = new LinkButton(u"tickAll"_s, u"&All"_s, this);
+    auto *none = new LinkButton(u"tickNone"_s, u"&None"_s, this);
     all->setToolTip(u"Tick all names"_s);
     none->setToolTip(u"Tick none of the names"_s);
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
-    buttons->addWidget(all);
-    buttons->addWidget(none);
-    buttons->addStretch(1);
+    auto *head = new QHBoxLayout;
+    head->setSpacing(12);
+    head->addWidget(m_count, 1);
+    head->addWidget(all);
+    head->addWidget(none);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins({});
     rows->setSpacing(4);
-    rows->addWidget(m_count);
+    rows->addLayout(head);
     rows->addWidget(m_view, 1);
-    rows->addLayout(buttons);
-    connect(all, &QPushButton::clicked, this, [this] { m_names->tickAll(true); });
-    connect(none, &QPushButton::clicked, this, [this] { m_names->tickAll(false); });
+    connect(all, &LinkButton::clicked, this, [this] { m_names->tickAll(true); });
+    connect(none, &LinkButton::clicked, this, [this] { m_names->tickAll(false); });
     connect(m_names, &TickedNames::ticksChanged, this, &TickList::refresh);
     refresh();
 }

@@ -20,7 +20,7 @@ protected:
     {
         return control<T>(*m_window, name.constData());
     }
-    void click(const char *name) const { QTest::mouseClick(find<QPushButton>(name), Qt::LeftButton); }
+    void click(const char *name) const { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
     void trigger(const char *name) const { find<QAction>(name)->trigger(); }
     /// Types any characters; the toolkit's own keyClicks takes ASCII only.
     static void typeInto(QWidget *box, const QString &text)
