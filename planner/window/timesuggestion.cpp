@@ -71,7 +71,7 @@ void TimeSuggestion::dismiss()
 /// As a person would type it, so that Ctrl+Z brings back what was typed.
 void TimeSuggestion::take()
 {
-    QLineEdit *box = m_box;
+    auto *box = qobject_cast<QLineEdit *>(m_box);
     if (!box)
         return;
     dismiss();

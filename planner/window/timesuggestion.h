@@ -30,5 +30,5 @@ private:
     void take();
     void dismiss();
 
-    QPointer<QLineEdit> m_box; ///< under which it stands
+    QPointer<QWidget> m_box; ///< under which it stands; it loses the focus while it is being destroyed, too
 };
