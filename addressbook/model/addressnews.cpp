@@ -75,8 +75,11 @@ LiveLine lineOf(const QString &day, const Occasion &occasion, const QString &sen
 /// "Anne Lind turns 48"
 QString noteText(const Occasion &occasion)
 {
-    if (occasion.kind == Kind::Anniversary)
+    if (occasion.kind == Kind::Anniversary && occasion.years < 1)
         return occasion.name + u": anniversary"_s;
+    if (occasion.kind == Kind::Anniversary)
+        return occasion.name + u": anniversary, "_s + QString::number(occasion.years) +
+               (occasion.years == 1 ? u" year"_s : u" years"_s);
     return occasion.name + u" turns "_s + QString::number(occasion.years);
 }
 
@@ -179,7 +182,13 @@ QList<DayNote> AddressNews::dayNotes(const DataFolder &folder, DateStyle style, 
                 return;
             day = occasion->day;
             occasion->name = nameOf(record);
-            notes.append({day, noteText(*occasion), u"Address Book"_s, noteKind, {}, {.record = number}});
+            notes.append({day,
+                          noteText(*occasion),
+                          u"Address Book"_s,
+                          noteKind,
+                          {},
+                          {.record = number},
+                          occasion->name.size()});
         }
     };
     AddressBook(folder).forEachLiveRecord([&add](int number, QByteArrayView record) {

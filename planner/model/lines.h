@@ -106,9 +106,21 @@ inline QString dotsExplained()
     return u"A dot marks a day with entries"_s;
 }
 
-inline QString nothingComing()
+/// `passedOver`: the functions that the password keeps from telling.
+inline QString nothingComing(const QStringList &passedOver)
 {
-    return u"Nothing from your other records in these two weeks."_s;
+    return passedOver.isEmpty() ? u"Nothing from your other records in these two weeks."_s
+                                : u"Protected and not asked: "_s + passedOver.join(u", "_s);
+}
+
+inline QString clearedDay(const QString &date)
+{
+    return u"Cleared: "_s + date;
+}
+
+inline QString pastedInto(const QString &date)
+{
+    return u"Pasted into "_s + date;
 }
 
 inline QString nothingFound(const QString &text)

@@ -142,7 +142,7 @@ ComingUp::ComingUp(const Program &program, QWidget *parent)
     : QWidget(parent)
     , m_model(new ComingUpModel(program, this))
     , m_list(named(new QListView(this), u"comingUp"_s))
-    , m_nothing(makeQuietLabel(PlannerLines::nothingComing(), this))
+    , m_nothing(makeQuietLabel({}, this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -183,6 +183,7 @@ void ComingUp::load()
 {
     m_isLoading = false;
     m_model->load(m_date, m_date.addDays(daysAhead));
+    m_nothing->setText(PlannerLines::nothingComing(m_model->source().passedOver()));
     m_nothing->setVisible(m_model->rowCount() == 0);
     m_list->setVisible(m_model->rowCount() > 0);
 }

@@ -24,6 +24,7 @@ public:
     /// Asks the functions that have notes; a guarded one is not asked.
     void load(QDate from, QDate to);
 
+    const HouseholdNotes &source() const { return m_source; }
     /// Shows where the note comes from, behind that function's guard.
     void open(const QModelIndex &index) const;
 

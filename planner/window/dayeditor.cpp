@@ -235,6 +235,7 @@ bool DayEditor::save()
     }
     emit saved();
     reload();
+    emit said({}); // a refusal of the disk before
     emit written(m_date, change);
     m_program.dialogs.ask(window(), PlannerMessages::daySaved());
     return true;
@@ -263,7 +264,7 @@ void DayEditor::clear()
     refreshModified();
     focusRow(0);
     emit said(PlannerLines::cleared());
-    noteExchange(PlannerLines::cleared(), before);
+    noteExchange(PlannerLines::clearedDay(dayText()), before);
 }
 
 void DayEditor::copy()
@@ -295,7 +296,12 @@ void DayEditor::paste()
     refreshModified();
     emit said(PlannerLines::pasted(pasted));
     if (pasted > 0)
-        noteExchange(PlannerLines::pasted(pasted), before);
+        noteExchange(PlannerLines::pastedInto(dayText()), before);
+}
+
+QString DayEditor::dayText() const
+{
+    return Dates::statusText(m_date, m_program.state.dateStyle);
 }
 
 void DayEditor::noteExchange(const QString &title, const PlannerDay &before)
@@ -352,11 +358,4 @@ void DayEditor::enterRow(int row)
 {
     m_scroll->ensureWidgetVisible(m_form->textBox(row), 0, 40);
     emit said(PlannerLines::row(row));
-}
-
-void DayEditor::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    layout()->activate();
-    m_form->fitHeight(m_scroll->viewport()->height());
 }

@@ -71,9 +71,6 @@ signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
 
-protected:
-    void resizeEvent(QResizeEvent *event) override;
-
 private:
     QWidget *makeRowHeads();
     QWidget *makeFoot();
@@ -81,6 +78,7 @@ private:
     void refreshModified();
     QList<int> rowsSortedLast() const;
     void enterRow(int row);
+    QString dayText() const;
     void noteExchange(const QString &title, const PlannerDay &before);
     /// Puts the rows of `wanted` in the place of those of `shown`, unless the boxes hold anything else.
     ChangeResult exchange(const PlannerDay &shown, const PlannerDay &wanted);

@@ -26,6 +26,18 @@ QList<HouseholdNote> HouseholdNotes::all(QDate from, QDate to) const
     return notes;
 }
 
+QStringList HouseholdNotes::passedOver() const
+{
+    QStringList titles;
+    for (const FunctionFace &face : FunctionFaces::cards()) {
+        const FunctionEntry *entry = m_program.functions.entry(face.function);
+        if (face.function != Function::Planner && entry && entry->dayNotes &&
+            face.isGuarded(m_program.state.protectedAreas))
+            titles.append(face.titleText());
+    }
+    return titles;
+}
+
 QList<HouseholdNote> HouseholdNotes::occasions(QDate from, QDate to) const
 {
     QList<HouseholdNote> notes = all(from, to);
@@ -69,6 +81,20 @@ QString HouseholdNotes::joined(const QList<HouseholdNote> &notes)
     for (const HouseholdNote &note : notes)
         texts << note.note.text;
     return texts.join(u"; "_s);
+}
+
+QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetrics &metrics, int width)
+{
+    const QString all = joined(notes);
+    if (notes.isEmpty() || metrics.horizontalAdvance(all) <= width)
+        return all;
+    const DayNote &first = notes.front().note;
+    QString fact = first.text.sliced(first.nameLength);
+    if (notes.size() > 1)
+        fact += u"; %1 more"_s.arg(notes.size() - 1);
+    const int room = std::max(0, width - metrics.horizontalAdvance(fact));
+    const QString name = metrics.elidedText(first.text.first(first.nameLength), Qt::ElideRight, room);
+    return metrics.elidedText(name + fact, Qt::ElideRight, width);
 }
 
 QLatin1StringView HouseholdNotes::sign(const QList<HouseholdNote> &notes)

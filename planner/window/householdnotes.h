@@ -5,6 +5,7 @@
 #include "shell/program/functions.h"
 
 #include <QDate>
+#include <QFontMetrics>
 #include <QList>
 
 struct Program;
@@ -35,6 +36,9 @@ public:
     /// The same as texts, for pages.
     PlannerPages::Notes texts(QDate from, QDate to) const;
 
+    /// The functions that the password keeps from being asked, by their titles.
+    QStringList passedOver() const;
+
     /// Shows where the note comes from, behind that function's guard; of several the user chooses in a menu
     /// at `place`, which belongs to `owner`.
     void open(const QList<HouseholdNote> &notes, QPoint place, QWidget *owner) const;
@@ -42,6 +46,9 @@ public:
 
     /// "Anne Lind turns 48; Tom Lind turns 12".
     static QString joined(const QList<HouseholdNote> &notes);
+    /// The same in `width` pixels: of the first its name is cut, and of others that find no room only their
+    /// number is told.
+    static QString cut(const QList<HouseholdNote> &notes, const QFontMetrics &metrics, int width);
     /// The drawing of the first of them: a cake, rings.
     static QLatin1StringView sign(const QList<HouseholdNote> &notes);
 

@@ -67,9 +67,8 @@ void NoteLine::paint(QPainter &painter, const QRect &place, const QList<Househol
     const QRect sign(place.left(), place.center().y() - signSize / 2 + 1, signSize, signSize);
     Icons::tinted(HouseholdNotes::sign(notes), scheme, painter.pen().color()).paint(&painter, sign);
     const QRect words = place.adjusted(signSize + signGap, 0, 0, 0);
-    painter.drawText(
-        words, Qt::AlignLeft | Qt::AlignVCenter,
-        painter.fontMetrics().elidedText(HouseholdNotes::joined(notes), Qt::ElideRight, words.width()));
+    painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
+                     HouseholdNotes::cut(notes, painter.fontMetrics(), words.width()));
 }
 
 void NoteLine::paintEvent(QPaintEvent *)

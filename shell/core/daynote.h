@@ -27,6 +27,8 @@ struct DayNote {
     NoteKind kind = NoteKind::Other;
     QTime time{};  ///< of an appointment; invalid where it has none
     Place place{}; ///< where a click on it leads in its function
+    /// Of the name that `text` begins with, which is cut first where not all has room; 0 without one.
+    qsizetype nameLength = 0;
 
     bool operator==(const DayNote &) const = default;
 };

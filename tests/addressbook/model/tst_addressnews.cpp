@@ -97,7 +97,7 @@ private slots:
         };
         QCOMPARE(texts(saturday, QDate(2026, 11, 30)),
                  (QStringList{u"2026-11-21 Karl Quill turns 82"_s, u"2026-11-24 Anne Lind turns 48"_s,
-                              u"2026-11-30 Anne Lind: anniversary"_s}));
+                              u"2026-11-30 Anne Lind: anniversary, 1 year"_s}));
         QCOMPARE(texts(QDate(2027, 2, 28), QDate(2028, 2, 29)).filter(u"Leap"_s),
                  (QStringList{u"2027-02-28 Leap Day turns 23"_s, u"2028-02-29 Leap Day turns 24"_s}));
         QCOMPARE(texts(saturday, QDate(2026, 11, 20)), QStringList());
