@@ -4,6 +4,7 @@
 #include "addressbook/entry/entryeditor.h"
 #include "addressbook/entry/entrylist.h"
 #include "addressbook/model/entrylines.h"
+#include "addressbook/model/indexline.h"
 #include "addressbook/model/messages.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/commands.h"
@@ -98,9 +99,11 @@ void BookChanges::pictureExchanged(const QString &before, const QString &now)
 {
     if (m_isExchanging)
         return;
-    m_desk.undo.push({AddressLines::picture(m_desk.editor.hasPicture()),
-                      [=, this] { return exchangePicture(now, before); },
+    const QString title = AddressLines::picture(m_desk.editor.hasPicture());
+    m_desk.undo.push({title, [=, this] { return exchangePicture(now, before); },
                       [=, this] { return exchangePicture(before, now); }, UndoStep::Typed});
+    emit said(title);
+    m_desk.undo.offer();
 }
 
 ChangeResult BookChanges::exchangePicture(const QString &shown, const QString &wanted)
@@ -124,5 +127,6 @@ void BookChanges::show(int record)
         if (m_desk.list.names().positionOf(record) < 0)
             return;
     }
-    m_desk.openBook(record);
+    // A misread line of a long name could lead to a deleted entry.
+    m_desk.openBook(IndexLine::isLastName(m_desk.book.read(record)[LastName]) ? record : 0);
 }

@@ -72,8 +72,9 @@ void UndoStack::push(const QString &title, RecordChange change, std::function<vo
     if (change.isEmpty())
         return;
     const auto shared = std::make_shared<RecordChange>(std::move(change));
+    // Where somebody else has written since, their work is shown in place of what this window knew.
     const auto shown = [show = std::move(show)](ChangeResult result) {
-        if (result == ChangeResult::Done)
+        if (result != ChangeResult::Refused)
             show();
         return result;
     };
