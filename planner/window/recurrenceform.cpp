@@ -24,12 +24,15 @@ int numberOf(const FieldBox *box)
     return box->text().trimmed().toInt();
 }
 
-/// Lets the Tab key go through what `layout` holds in its order, behind `before`; returns the last of it.
+/// Lets the Tab key go through what `layout` holds in its order, behind `before`; returns the last of it that
+/// takes the focus.
 QWidget *orderTabs(const QLayout &layout, QWidget *before)
 {
     for (int i = 0; i < layout.count(); ++i) {
         QLayoutItem *item = layout.itemAt(i);
         if (QWidget *part = item->widget()) {
+            if (part->focusPolicy() == Qt::NoFocus)
+                continue;
             if (before)
                 QWidget::setTabOrder(before, part);
             before = part;

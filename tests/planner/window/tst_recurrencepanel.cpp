@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/lines.h"
 #include "planner/model/recurrencepreview.h"
+#include "planner/window/recurrenceform.h"
 #include "shell/controls/flowtoolbar.h"
 #include "tests/planner/window/openplanner.h"
 #include "tests/support/filesizelimit.h"
@@ -83,6 +84,22 @@ private slots:
         openPanel();
         for (int id = 0; id < 6; ++id)
             QCOMPARE(find<QRadioButton>("kind_" + QByteArray::number(id))->isChecked(), id == kind);
+    }
+
+    void tabComesToTheBoxesAsTheyStand()
+    {
+        openPanel();
+        QStringList names;
+        const auto *form = m_window->findChild<RecurrenceForm *>();
+        const QWidget *first = find<QWidget>("kind_0");
+        for (const QWidget *at = first; names.isEmpty() || at != first; at = at->nextInFocusChain()) {
+            if (at->isVisible() && at->focusPolicy() != Qt::NoFocus && form->isAncestorOf(at))
+                names.append(at->objectName());
+        }
+        QCOMPARE(names.join(u' '),
+                 u"kind_0 dailyInterval kind_1 kind_2 weeklyInterval weekday_0 weekday_1 weekday_2 weekday_3 "
+                 "weekday_4 weekday_5 weekday_6 kind_3 dayOfMonth monthlyInterval kind_4 yearlyInterval "
+                 "kind_5 yearDay yearDayInterval"_s);
     }
 
     void refusesQuietly_data()
