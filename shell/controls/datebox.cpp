@@ -6,6 +6,7 @@
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -49,9 +50,16 @@ void DateBox::tidy()
     const auto typed = date();
     if (typed)
         setDate(*typed);
-    const bool isRefused = !typed && !text().trimmed().isEmpty();
-    // What was said of the text before does not outlast it.
-    if (isRefused || m_isRefused)
-        emit refused(isRefused ? FrameLines::notADate() : QString());
-    m_isRefused = isRefused;
+    const bool wasRefused = std::exchange(m_isRefused, !typed && !text().trimmed().isEmpty());
+    // What was said of the text before does not outlast it, but it may hold for another box.
+    if (m_isRefused)
+        emit refused(FrameLines::notADate());
+    else if (wasRefused && std::ranges::none_of(window()->findChildren<DateBox *>(), &DateBox::holdsNoDate))
+        emit refused({});
+}
+
+/// Whether the text that was refused still stands.
+bool DateBox::holdsNoDate() const
+{
+    return m_isRefused && isVisible() && !isLocked() && !text().trimmed().isEmpty() && !date();
 }

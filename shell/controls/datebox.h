@@ -32,8 +32,9 @@ public:
     /// An invalid date empties the box.
     void setDate(QDate date);
     /// Puts a date that was typed since the box was last tidied into the form that the files keep; anything
-    /// else stays as it was typed, and `refused` says that it is no date (and nothing once it is one).
-    /// Leaving the box does the same: call it before a save that comes by its access key.
+    /// else stays as it was typed, and `refused` says that it is no date (and nothing once
+    /// every date of the window is one). Leaving the box does the same: call it before a save that comes by
+    /// its access key.
     void tidy();
 
 signals:
@@ -42,6 +43,8 @@ signals:
     void lockedDateShown();
 
 private:
+    bool holdsNoDate() const;
+
     DateReading m_reading;
     bool m_takesFuture = true;
     bool m_isRefused = false;    ///< what it held when it was last tidied

@@ -72,6 +72,26 @@ private slots:
         QCOMPARE(refused.count(), 1);
     }
 
+    void takesTheRefusalBackOnceEveryDateIsOne()
+    {
+        QStringList said;
+        const auto type = [this](DateBox *box, const QString &text) {
+            box->setFocus(Qt::TabFocusReason);
+            box->selectAll();
+            QTest::keyClicks(box, text);
+            leave();
+        };
+        for (DateBox *box : {m_box, m_next})
+            connect(box, &FieldBox::refused, this, [&said](const QString &reason) { said << reason; });
+        type(m_box, u"soon"_s);
+        type(m_next, u"later"_s);
+        QCOMPARE(std::exchange(said, {}).size(), 2);
+        type(m_box, u"3/5/1990"_s);
+        QVERIFY(said.isEmpty());
+        type(m_next, u"3/6/1990"_s);
+        QCOMPARE(said, QStringList{QString()});
+    }
+
     void tellsAnotherDateOnce()
     {
         const QSignalSpy changed(m_box, &DateBox::dateChanged);
