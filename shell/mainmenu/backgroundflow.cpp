@@ -48,6 +48,7 @@ void BackgroundFlow::openSelector()
     if (m_selector)
         return;
     const BusyCursor busy;
+    m_before = m_picture.window()->focusWidget();
     const auto pathOf = [this](const BackgroundChoice &choice) { return picturePath(choice); };
     m_selector = new BackgroundSelector(m_choice, pathOf, &m_picture);
     m_colors.addPanel(m_selector->panel());
@@ -76,5 +77,7 @@ void BackgroundFlow::closeSelector()
     m_selector = nullptr;
     show();
     emit selectorClosed();
+    if (m_before && m_before->isVisible())
+        m_before->setFocus(Qt::OtherFocusReason);
     Hourglass::off();
 }

@@ -4,11 +4,13 @@
 #include "shell/mainmenu/backgroundchoice.h"
 
 #include <QObject>
+#include <QPointer>
 
 class ActivityBar;
 class BackgroundSelector;
 class MenuPicture;
 class PanelColors;
+class QWidget;
 struct Program;
 
 /// The background of the main menu: the choice that holds, its picture, and the selector in which the user
@@ -45,5 +47,6 @@ private:
     PanelColors &m_colors;
     ActivityBar &m_activity;
     BackgroundSelector *m_selector = nullptr; ///< while it is open
+    QPointer<QWidget> m_before;               ///< had the focus when the selector opened
     BackgroundChoice m_choice;
 };

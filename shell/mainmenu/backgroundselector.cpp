@@ -67,6 +67,7 @@ void BackgroundSelector::makeSlots(const PathOf &pathOf)
         auto *slot = new BackgroundSlot(i, m_board);
         const BackgroundChoice picture = BackgroundChoice::ofSlot(i);
         slot->load(pathOf(picture));
+        slot->installEventFilter(this);
         connect(slot, &BackgroundSlot::clicked, this, [this, picture] { choose(picture); });
         connect(slot, &BackgroundSlot::walked, this, [this, slot](int key) {
             if (BackgroundSlot *next = GridWalk::next<BackgroundSlot>(m_slots, slot, m_columns, key)) {
@@ -86,8 +87,9 @@ QWidget *BackgroundSelector::makeFoot()
     // Not exclusive: with a picture chosen no button of the group is set.
     m_plain->setAutoExclusive(false);
     m_plain->setAccessibleName(u"Default background, no picture"_s);
+    m_plain->installEventFilter(this);
     connect(m_plain, &QRadioButton::clicked, this, [this] { choose({}); });
-    auto *ok = makeButton(u"Command1"_s, u"&OK"_s, foot, ButtonKind::Main);
+    auto *ok = makeButton(u"Command1"_s, u"O&K"_s, foot, ButtonKind::Main);
     ok->setAccessibleName(u"OK"_s);
     ok->setAutoDefault(true);
     ok->setMinimumWidth(104);
@@ -147,9 +149,26 @@ void BackgroundSelector::arrange()
 
 bool BackgroundSelector::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize && watched == m_area->viewport())
         arrange();
-    return QWidget::eventFilter(watched, event);
+    auto *button = qobject_cast<QAbstractButton *>(watched);
+    if (!button || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    if (isEnter && !key->isAutoRepeat())
+        enter(button);
+    return isEnter;
+}
+
+/// Enter chooses, and on what is chosen already it is the OK.
+void BackgroundSelector::enter(QAbstractButton *button)
+{
+    const std::optional<int> slot = m_choice.slot();
+    if (m_choice.isPlain() ? button == m_plain : slot && button == m_slots[std::size_t(*slot)])
+        emit accepted();
+    else
+        button->click();
 }
 
 /// No TaskPanel: it stands over the picture, with a margin all round, and its OK keeps what Esc takes back.

@@ -9,6 +9,7 @@
 #include <vector>
 
 class BackgroundSlot;
+class QAbstractButton;
 class QGridLayout;
 class QRadioButton;
 class QScrollArea;
@@ -46,6 +47,7 @@ protected:
 private:
     void makeSlots(const PathOf &pathOf);
     QWidget *makeFoot();
+    void enter(QAbstractButton *button);
     void choose(const BackgroundChoice &choice);
     void mark();
     void arrange();

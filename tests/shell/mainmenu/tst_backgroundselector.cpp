@@ -100,6 +100,26 @@ private slots:
         QCOMPARE(m_window->focusWidget()->objectName(), u"backgroundSlot_6"_s);
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
         QVERIFY(isInUse("backgroundSlot_6"));
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Return); // chosen already
+        QCOMPARE(chosen(), "\x08\0\x03\0WP7"_ba);
+        QCOMPARE(activity(), u"Main Menu"_s);
+    }
+
+    void choosesTheDefaultByEnter()
+    {
+        make(TestProgram::Household);
+        show();
+        QWidget *before = m_window->focusWidget()->nextInFocusChain();
+        before->setFocus();
+        trigger("mOBC");
+        auto *plain = find<QRadioButton>("Option1");
+        plain->setFocus();
+        QTest::keyClick(plain, Qt::Key_Return);
+        QVERIFY(plain->isChecked());
+        QVERIFY(!isInUse("backgroundSlot_1"));
+        QTest::keyClick(plain, Qt::Key_Return);
+        QCOMPARE(chosen(), "\x08\0\x03\0\x44\x65\x66"_ba); // Def
+        QVERIFY(before->hasFocus());
     }
 
     void looksForPicturesInTheProgramsFolder()
