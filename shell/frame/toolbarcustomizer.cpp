@@ -93,7 +93,6 @@ void ToolbarCustomizer::arrange()
     QPushButton *separator = makeButton(u"addSeparator"_s, u"&Separator"_s, this);
     QPushButton *reset = makeButton(u"resetTools"_s, u"R&eset"_s, this);
     QPushButton *close = makeButton(u"closeCustomizer"_s, u"&Close"_s, this, ButtonKind::Main);
-    close->setDefault(true);
     close->setMinimumWidth(104);
     connect(separator, &QPushButton::clicked, this,
             [this] { insert(QString::fromLatin1(ToolbarLayout::separatorName)); });

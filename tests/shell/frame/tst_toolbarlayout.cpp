@@ -121,6 +121,8 @@ private slots:
         press(dialog, "resetTools");
         QCOMPARE(m_layout->shown(), m_defaults);
         QVERIFY(!m_program->store.contains(u"User1/Toolbar1"_s));
+        QTest::keyClick(&shownList(dialog), Qt::Key_Return); // one too many
+        QVERIFY(dialog.isVisible());
         press(dialog, "closeCustomizer");
         QVERIFY(!dialog.isVisible());
     }
