@@ -12,6 +12,7 @@
 #include <QEvent>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QShortcutEvent>
 #include <QStyle>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -72,6 +73,24 @@ private:
     QString m_caption;
     QString m_hint;
     bool m_required;
+};
+
+/// Its access key acts at once: the tenth of a second that a button takes to be seen pressed is longer than
+/// the way to the next key, which would still go into the box that is left.
+class PromptButton final : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent *>(event)->isAmbiguous()) {
+            click();
+            return true;
+        }
+        return QPushButton::event(event);
+    }
 };
 
 /// A line one logical pixel high.
@@ -212,7 +231,7 @@ void PanelFrame::paintEvent(QPaintEvent *)
 
 QPushButton *makeButton(const QString &name, const QString &caption, QWidget *parent, ButtonKind kind)
 {
-    auto *button = named(new QPushButton(caption, parent), name);
+    QPushButton *button = named(new PromptButton(caption, parent), name);
     button->setAutoDefault(false);
     letEnterPress(button);
     setButtonKind(button, kind);
@@ -228,7 +247,7 @@ void setButtonKind(QPushButton *button, ButtonKind kind)
 
 QPushButton *makeIconButton(const QString &name, QLatin1StringView icon, const QString &word, QWidget *parent)
 {
-    auto *button = named(new QPushButton(parent), name);
+    QPushButton *button = named(new PromptButton(parent), name);
     const Theme &theme = Theme::of(parent);
     button->setAutoDefault(false);
     letEnterPress(button);

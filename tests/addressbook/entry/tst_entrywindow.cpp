@@ -117,6 +117,19 @@ private slots:
         QCOMPARE(box(1)->text(), u"Anne"_s);
     }
 
+    void savesByTheAccessKeyBeforeTheNextLetter()
+    {
+        open(TestProgram::Empty);
+        click("emptyEntryScreen");
+        type(0, u"Novak"_s);
+        type(1, u"Jana"_s);
+        QTest::keyClick(box(1), Qt::Key_S, Qt::AltModifier);
+        QTest::keyClicks(m_window->focusWidget(), u"x"_s);
+        QCOMPARE(record(2), entryBytes({"Novak", "Jana"}));
+        QTest::qWait(150); // nothing comes later
+        QCOMPARE(box(0)->text(), u"x"_s);
+    }
+
     void tabWalksThroughTheScreen()
     {
         click("Command6");
