@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QListView>
+#include <QSignalSpy>
 #include <QTableView>
 #include <QToolButton>
 
@@ -322,6 +323,14 @@ private slots:
         QCOMPARE(date(), today);
         QCOMPARE(shownRows(), QStringList{u"8:00|Bus"_s});
         QVERIFY(m_window->isModified());
+
+        // Once the disk takes it, the box does not stand above the refusal.
+        QVERIFY(QDir().rmdir(m_test->path(u" 2026.Cal"_s)));
+        const QSignalSpy lines(m_window->findChild<DayEditor *>(), &DayEditor::said);
+        asked();
+        click("saveDay");
+        QCOMPARE(asked(), {PlannerMessages::daySaved()});
+        QVERIFY(!lines.isEmpty() && lines.first().at(0).toString().isEmpty());
     }
 
     void leavesUntouchedTextsAsTheyAre()
