@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -100,36 +99,45 @@ std::vector<QString> telephones(const AddressViewer &viewer, const ViewerPages::
     return texts;
 }
 
-/// The characters that the longest text takes, as far as that is no oddity; blanks are narrow.
+/// The characters that the longest text takes, as far as that is no oddity, and the room around a cell.
 double telephoneLength(const std::vector<QString> &telephones)
 {
-    constexpr double mostLength = 30;
-    double longest = 0;
-    for (const QString &text : telephones)
-        longest = std::max(longest, std::min(mostLength, double(text.size()) - double(text.count(u' ')) / 2));
-    return longest;
+    constexpr qsizetype mostLength = 30, padding = 3;
+    qsizetype longest = 0;
+    for (const QString &text : telephones) {
+        if (!text.isEmpty())
+            longest = std::max(longest, std::min(mostLength, text.size()) + padding);
+    }
+    return double(longest);
 }
 
-/// The telephones stand under one another in a column of their own; names and information share the rest as
-/// their texts need it.
+/// The telephones of a list: in a column of their own, under one another, or below the names.
+struct Telephones {
+    std::vector<QString> beside;
+    std::vector<QString> below;
+};
+
+/// Names and information share what the telephones leave as their texts need it.
 PageItem::Columns listColumns(const AddressViewer &viewer, const ViewerPages::ListOptions &options,
-                              const std::vector<QString> &telephones, TextRole role,
-                              const PageContext &context)
+                              const Telephones &telephones, TextRole role, const PageContext &context)
 {
     constexpr double leastInformation = 8;
-    constexpr double least = 0.4, most = 0.8, mostTelephone = 0.5;
+    constexpr double least = 0.4, most = 0.8, mostTelephone = 0.55;
     PageItem::Columns columns;
     columns.lines = options.hasGridLines ? TableLines::Grid : TableLines::None;
     columns.across = options.isTwoColumns ? 2 : 1;
-    const double width = (context.setup.sheet().width() - 1) / columns.across;
-    const double telephone =
-        std::min(telephoneLength(telephones) / (width * PageMetrics::charactersPerInch(role)), mostTelephone);
+    const double characters =
+        (context.setup.sheet().width() - 1) / columns.across * PageMetrics::charactersPerInch(role);
+    const auto share = [=](const std::vector<QString> &texts) {
+        return std::min(telephoneLength(texts) / characters, mostTelephone);
+    };
+    const double telephone = share(telephones.beside);
     double names = 1 - telephone;
     if (hasColumn(viewer)) {
         const double name = usualLength(viewer, &AddressViewer::name);
         const double information =
             std::max(leastInformation, usualLength(viewer, &AddressViewer::information));
-        names *= std::clamp(name / (name + information), least, most);
+        names *= std::clamp(name / (name + information), std::max(least, share(telephones.below)), most);
     }
     columns.weights = {names};
     columns.headings = {ViewerMessages::nameHeading()};
@@ -223,20 +231,20 @@ Page ViewerPages::list(const AddressViewer &viewer, const ListOptions &options, 
               options.hasAsOf ? ViewerMessages::asOf(Dates::longText(context.today, context.style))
                               : QString());
     page.numberSheets(SheetNumbers::Title);
-    std::vector<QString> numbers = telephones(viewer, options);
+    Telephones numbers{telephones(viewer, options), {}};
     const TextRole role = options.isTwoColumns ? TextRole::Small : TextRole::Body;
     // Two lists side by side are too narrow for three columns: the telephones stand below the names there.
-    const std::vector<QString> below =
-        options.isTwoColumns && hasColumn(viewer) ? std::exchange(numbers, {}) : std::vector<QString>();
+    if (options.isTwoColumns && hasColumn(viewer))
+        numbers.beside.swap(numbers.below);
     page.table(listColumns(viewer, options, numbers, role, context));
-    const bool hasNumbers = telephoneLength(numbers) > 0;
+    const bool hasNumbers = telephoneLength(numbers.beside) > 0;
     for (int row = 0; row < viewer.count(); ++row) {
         const auto at = std::size_t(row);
         QStringList cells{viewer.name(row)};
-        if (!below.empty() && !below[at].isEmpty())
-            cells[0] += u'\n' + below[at];
+        if (!numbers.below.empty() && !numbers.below[at].isEmpty())
+            cells[0] += u'\n' + numbers.below[at];
         if (hasNumbers)
-            cells << numbers[at];
+            cells << numbers.beside[at];
         if (hasColumn(viewer))
             cells << viewer.information(row);
         page.row(cells, role);

@@ -64,6 +64,28 @@ QStringList paragraphs(QString text)
     return plain.split(u'\n');
 }
 
+/// The same text with no-break spaces inside its numbers, "(440) 555-0100" and "221 00" say, as far as they
+/// are not endless.
+QString withUnbrokenNumbers(QString text)
+{
+    constexpr qsizetype longestNumber = 20;
+    const auto isNumeral = [](QChar c) { return (c >= u'0' && c <= u'9') || u"()+-/."_s.contains(c); };
+    qsizetype start = 0;
+    for (qsizetype i = 1; i + 1 < text.size(); ++i) {
+        if (text[i] != u' ')
+            continue;
+        const bool isInside = (text[i - 1].isDigit() || text[i - 1] == u')') && text[i + 1].isDigit();
+        qsizetype end = i + 1;
+        while (end < text.size() && isNumeral(text[end]))
+            ++end;
+        if (isInside && end - start <= longestNumber)
+            text[i] = QChar::Nbsp;
+        else
+            start = i + 1;
+    }
+    return text;
+}
+
 QString withoutTrailingBlanks(QString line)
 {
     while (line.endsWith(u' '))
@@ -117,7 +139,7 @@ QStringList PageType::wrapped(const QString &text, double width) const
             lines << paragraph;
             continue;
         }
-        QTextLayout layout(paragraph, m_font);
+        QTextLayout layout(withUnbrokenNumbers(paragraph), m_font);
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/pages/pagetype.h"
 #include "tests/support/rows.h"
 #include "tests/support/sheettools.h"
 
@@ -67,6 +68,24 @@ private slots:
                 QCOMPARE(it.next().captured(1).toInt(), next++);
         }
         QCOMPARE(next, count);
+    }
+
+    void keepsNumbersTogether_data()
+    {
+        rows<QString, QString>({
+            {"a telephone number", u"    Phone: (440) 555-0100"_s, u"(440) 555-0100"_s},
+            {"a postal code", u"Mill Street 4, 221 00 Lund"_s, u"221 00"_s},
+        });
+    }
+
+    void keepsNumbersTogether()
+    {
+        const auto [text, number] = row<QString, QString>();
+        const PageType type(bodyFont().font, PageMetrics::bodyPoints);
+        for (double width = type.width(number) + 2; width < type.width(text); width += 3) {
+            const QStringList lines = type.wrapped(text, width);
+            QCOMPARE(lines.filter(number).size(), 1);
+        }
     }
 
     void goesOnBelowItsColumns()
