@@ -20,6 +20,7 @@ namespace {
 
 constexpr int timeBoxWidth = 112;
 constexpr int numberWidth = 20;
+constexpr int rowHeight = 32; ///< where there is room; else a row shrinks
 constexpr int rowGap = 2;
 constexpr int lastRow = int(PlannerDay::rowCount) - 1;
 
@@ -94,6 +95,7 @@ DayForm::DayForm(QWidget *parent)
         timeBox(row)->setFixedWidth(timeBoxWidth);
         m_suggestion->watch(timeBox(row));
         grid->addWidget(label, row, 0);
+        grid->addItem(new QSpacerItem(0, rowHeight, QSizePolicy::Minimum, QSizePolicy::Preferred), row, 0);
         grid->addWidget(timeBox(row), row, 1);
         grid->addWidget(textBox(row), row, 2);
         setTabOrder(timeBox(row), textBox(row));
@@ -108,16 +110,10 @@ DayForm::DayForm(QWidget *parent)
     });
 }
 
-void DayForm::fitHeight(int height)
-{
-    const int boxes = int(PlannerDay::rowCount) * timeBox(0)->sizeHint().height();
-    const bool isShort = height < boxes + lastRow * rowGap && height >= boxes;
-    static_cast<QGridLayout *>(layout())->setVerticalSpacing(isShort ? 0 : rowGap);
-}
-
 void DayForm::setUpBox(FieldBox *box, int limit, const QString &accessibleName)
 {
     box->setProperty("tight", true); // fourteen rows have to fit on the smallest screen
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     box->setByteLimit(limit);
     box->setAccessibleName(accessibleName);
     box->installEventFilter(this);

@@ -39,9 +39,6 @@ public:
 
     explicit DayForm(QWidget *parent = nullptr);
 
-    /// Where the gaps between the rows are what `height` lacks for all fourteen, they go.
-    void fitHeight(int height);
-
     void setDay(const PlannerDay &day);
     /// The texts can be read and copied, and not typed into.
     void setReadOnly(bool readOnly);

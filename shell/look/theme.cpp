@@ -60,7 +60,8 @@ QHeaderView { background: @head; border: 0; }
 QHeaderView::section { background: @head; border: 0; border-bottom: 1px solid @line; padding: 5px 8px; }
 QTableCornerButton::section { background: @head; border: 0; }
 QToolButton { background: transparent; border: 2px solid transparent; border-radius: 6px; padding: 0 9px; }
-QLineEdit[tight="true"] { min-height: 20px; }
+QLineEdit[tight="true"] { min-height: 20px; padding: 3px 8px; }
+QLineEdit[tight="true"]:focus { padding: 2px 7px; }
 QToolButton[tall="true"] { padding: 0 2px; }
 QToolButton:hover { background: @soft; }
 QToolButton:pressed, QToolButton:checked { background: @pressed; }
