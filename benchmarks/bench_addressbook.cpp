@@ -118,7 +118,7 @@ void saveIntoFullBook(benchmark::State &state)
         limit.measure([&] { record = book.saveNew(entry).record; });
         limit.reference(readEntriesOnce);
         // The last place is free again for the next round.
-        if (!book.remove(record))
+        if (!book.remove(record, QDateTime::currentDateTime()))
             state.SkipWithError("The entry could not be removed");
     }
 }
