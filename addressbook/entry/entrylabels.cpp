@@ -30,7 +30,7 @@ void EntryLabels::addCommand(Commands &commands, QMenu *menu)
         return m_list.names().isEmpty() ? AddressLines::bookIsEmpty() : QString();
     };
     m_command = commands.add(
-        menu, u"mOLab"_s, u"Labels and Envelopes"_s, [this] { show(); }, noNames);
+        menu, u"mOLab"_s, u"&Labels and Envelopes"_s, [this] { show(); }, noNames);
 }
 
 void EntryLabels::addTool(Commands &commands)

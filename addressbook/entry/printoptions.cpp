@@ -88,7 +88,7 @@ QWidget *PrintOptions::makeChoices()
          {PerSheet::Eight, u"Small pictures, eight entries a page"_s}}};
     for (const auto &[perSheet, words] : sizes) {
         const QString number = QString::number(int(perSheet));
-        QPushButton *button = makeButton(u"print"_s + number, u"Print "_s + number, choices);
+        QPushButton *button = makeButton(u"print"_s + number, u"Print &"_s + number, choices);
         connect(button, &QPushButton::clicked, this, [this, size = perSheet] { printCards(size); });
         addChoice(button, words);
         m_cards.append(button);
