@@ -182,6 +182,9 @@ void SheetView::resizeEvent(QResizeEvent *event)
 
 bool SheetView::scrollPage(int direction)
 {
+    // A whole sheet has nothing to scroll, whatever range its hidden bar still has.
+    if (m_zoom != Zoom::Enlarged)
+        return false;
     QScrollBar *bar = verticalScrollBar();
     const int before = bar->value();
     bar->setValue(before + direction * (bar->pageStep() - arrowStep));
