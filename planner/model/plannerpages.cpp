@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <set>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 using PlannerPages::Days;
@@ -202,16 +204,68 @@ int placeMonthDay(Page &page, const QRectF &cell, QDate date, const DayLines &li
     const QRectF rest = place.adjusted(0, bodyLine, 0, 0);
     const auto uncut =
         lines.uncut(int(rest.width() * dense.characters), int(rest.height() / dense.line), DayLines::Joined);
-    double y = rest.top();
-    for (int i = 0; i < int(uncut.size()); ++i) {
-        const double height = uncut[std::size_t(i)] * dense.line;
-        page.placeText({rest.left(), y, rest.width(), height}, lines.joined(i), dense.role);
-        y += height;
-    }
+    // One text, so that entries follow one another whatever their lines take.
+    QStringList texts;
+    for (int i = 0; i < int(uncut.size()); ++i)
+        texts << lines.joined(i);
     if (const int missing = lines.count() - int(uncut.size()); missing > 0)
-        page.placeText({rest.left(), y, rest.width(), dense.line}, u"+ %1 in the list"_s.arg(missing),
-                       dense.role);
+        texts << u"+ %1 in the list"_s.arg(missing);
+    if (!texts.isEmpty())
+        page.placeText(rest, texts.join(u'\n'), dense.role);
     return int(uncut.size());
+}
+
+/// The names of the days over the calendar, short ones where columns are narrow.
+void placeDayNames(Page &page, QPointF corner, double width, QDate start)
+{
+    for (int column = 0; column < daysPerWeek; ++column) {
+        const QRectF head(corner.x() + column * width + inset, corner.y(), width - 2 * inset, bodyLine);
+        const QDate day = start.addDays(column);
+        const QString name =
+            width < 1.3 ? QLocale::c().dayName(day.dayOfWeek(), QLocale::ShortFormat) : dayName(day);
+        page.placeText(head, name, TextRole::Strong);
+    }
+}
+
+/// Brings the heights to `sum`: raises the lowest to one level, or lowers the highest to one.
+void level(std::vector<double> &heights, double sum)
+{
+    const bool isRaised = std::accumulate(heights.begin(), heights.end(), 0.0) < sum;
+    double level = sum / double(heights.size());
+    for (std::size_t round = 0; round < heights.size(); ++round) {
+        double rest = sum;
+        int moved = 0;
+        for (const double height : heights) {
+            const bool isMoved = (height < level) == isRaised;
+            moved += isMoved ? 1 : 0;
+            rest -= isMoved ? 0 : height;
+        }
+        level = moved > 0 ? rest / moved : level;
+    }
+    for (double &height : heights)
+        height = isRaised ? std::max(height, level) : std::min(height, level);
+}
+
+/// The height of each week from `start` on: what its fullest day needs, as far as it goes, and no less than
+/// those whose days need little.
+std::vector<double> weekHeights(QDate start, int weeks, QSizeF room, const Days &days, const Notes &notes,
+                                int month)
+{
+    constexpr double least = 0.5; // of an equal share
+    const double floor = least * room.height() / weeks;
+    const int characters = int((room.width() / daysPerWeek - 2 * inset) * dense.characters);
+    std::vector<double> heights(std::size_t(weeks), floor);
+    for (int week = 0; week < weeks; ++week) {
+        double &height = heights[std::size_t(week)];
+        for (int i = 0; i < daysPerWeek; ++i) {
+            const QDate day = start.addDays(week * daysPerWeek + i);
+            const int lines =
+                day.month() == month ? linesOf(days, notes, day).lineCount(characters, DayLines::Joined) : 0;
+            height = std::max(height, bodyLine + inset + lines * dense.line);
+        }
+    }
+    level(heights, room.height());
+    return heights;
 }
 
 /// The table of dates with their entries.
@@ -268,25 +322,21 @@ Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, c
     Page page(Dates::monthYear(first), headRight(context));
     std::map<QDate, int> crowded; // with the number of entries that the calendar has
     const QRectF area = placedArea(context.setup);
-    const QSizeF size(area.width() / daysPerWeek, (area.height() - headHeight) / weeks);
-    for (int column = 0; column < daysPerWeek; ++column) {
-        const QRectF head(area.left() + column * size.width() + inset, area.top(), size.width() - 2 * inset,
-                          bodyLine);
-        const QDate day = start.addDays(column);
-        page.placeText(head,
-                       size.width() < 1.3 ? QLocale::c().dayName(day.dayOfWeek(), QLocale::ShortFormat)
-                                          : dayName(day),
-                       TextRole::Strong);
-    }
+    const double width = area.width() / daysPerWeek;
+    const auto heights =
+        weekHeights(start, weeks, {area.width(), area.height() - headHeight}, days, notes, first.month());
+    placeDayNames(page, area.topLeft(), width, start);
+    double top = area.top() + headHeight;
     for (int i = 0; i < weeks * daysPerWeek; ++i) {
-        const QPointF corner(area.left() + (i % daysPerWeek) * size.width(),
-                             area.top() + headHeight + (i / daysPerWeek) * size.height());
+        const double height = heights[std::size_t(i / daysPerWeek)];
+        const QRectF cell(area.left() + (i % daysPerWeek) * width, top, width, height);
+        top += i % daysPerWeek + 1 == daysPerWeek ? height : 0;
         const QDate shown = start.addDays(i);
-        page.placeRule({corner, size});
+        page.placeRule(cell);
         if (shown.month() != first.month())
             continue;
         const DayLines lines = linesOf(days, notes, shown);
-        if (const int held = placeMonthDay(page, {corner, size}, shown, lines); held < lines.count())
+        if (const int held = placeMonthDay(page, cell, shown, lines); held < lines.count())
             crowded.emplace(shown, held);
     }
     if (!crowded.empty()) {

@@ -157,7 +157,9 @@ private slots:
     void drawsAMonthAsACalendar()
     {
         PlannerDay crowded = numberedEntries(14);
-        const PlannerPages::Days days{{QDate(2026, 2, 28), crowded}, {QDate(2026, 3, 1), numberedEntries(1)}};
+        PlannerPages::Days days{{QDate(2026, 2, 28), crowded}, {QDate(2026, 3, 1), numberedEntries(1)}};
+        for (const int full : {7, 14, 21}) // leave the last week not much more than its share
+            days.emplace(QDate(2026, 2, full), numberedEntries(6));
         const Page page =
             PlannerPages::month(QDate(2026, 2, 10), days, Qt::Sunday, contextOf(PageSetup::Landscape));
         const QStringList lines = linesOf(page);
@@ -174,7 +176,7 @@ private slots:
         QCOMPARE(lines[head + 1],
                  u"Sat, Feb 28, 2026\t%1:30 PM\tentry %2"_s.arg((14 - missing) % 12 + 1).arg(15 - missing));
         QCOMPARE(lines.last(), u"\t2:30 PM\tentry 14"_s);
-        QCOMPARE(lines.filter(u"entry "_s).size(), 14);
+        QCOMPARE(lines.filter(u"entry "_s).size(), 14 + 3 * 6);
         // Four weeks fill the sheet; no item stands beyond its edges.
         for (const Page::Item &item : page.items()) {
             if (const auto *text = std::get_if<PageItem::PlacedText>(&item))
@@ -182,10 +184,27 @@ private slots:
         }
         // A text that is longer than the whole place stands there as well.
         PlannerDay endless = numberedEntries(13);
-        endless.texts[0] = QString(50, u'w');
+        endless.texts[0] = QString(500, u'w');
         const Page other = PlannerPages::month(QDate(2026, 5, 1), {{QDate(2026, 5, 31), endless}}, Qt::Sunday,
                                                contextOf(PageSetup::Portrait));
         QVERIFY(linesOf(other).contains(u"Sun, May 31, 2026\t1:30 PM\t"_s + endless.texts[0]));
+    }
+
+    void givesFullWeeksMoreRoom()
+    {
+        const PlannerPages::Days days{{QDate(2026, 11, 19), numberedEntries(7)}};
+        const Page page =
+            PlannerPages::month(QDate(2026, 11, 1), days, Qt::Sunday, contextOf(PageSetup::Landscape));
+        QCOMPARE(linesOf(page).filter(u"in the list"_s).size(), 0);
+        QList<double> heights;
+        for (const Page::Item &item : page.items()) {
+            if (const auto *cell = std::get_if<PageItem::PlacedRule>(&item))
+                heights << cell->place.height();
+        }
+        QCOMPARE(heights.size(), 35);
+        QVERIFY(heights[14] > heights[0]);
+        QCOMPARE(heights[34], heights[0]);
+        QVERIFY(std::abs(heights[14] + 4 * heights[0] - 6.07) < 0.01);
     }
 
     void listsARangeOfDates()
