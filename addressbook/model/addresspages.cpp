@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -87,18 +88,36 @@ QStringList cardTexts(const AddressEntry &entry)
     return texts;
 }
 
-/// The name and `texts` from the top of `place` downwards; what finds no room is left out.
+/// The lines that a text takes at most, where its place is that wide.
+int mostLines(const QString &text, double width, TextRole role)
+{
+    const double characters =
+        width * PageMetrics::charactersPerInch(role == TextRole::Small ? role : TextRole::Body);
+    return std::max(1, int(std::ceil(double(text.size()) / characters)));
+}
+
+/// The name and `texts` from the top of `place` downwards. Long ones go on on further lines where there is
+/// room for all; what finds none is left out.
 void placeTexts(Page &page, const CardGrid &grid, QRectF place, const QString &name, const QStringList &texts)
 {
-    const auto placeLine = [&](const QString &text, TextRole role, double height) {
+    const auto placeText = [&](const QString &text, TextRole role, double height) {
         if (height > place.height() + 0.001)
             return;
         page.placeText({place.topLeft(), QSizeF(place.width(), height)}, text, role);
         place.setTop(place.top() + height);
     };
-    placeLine(name, grid.nameRole, grid.nameHeight);
+    const double nameHeight = mostLines(name, place.width(), grid.nameRole) * grid.nameHeight;
+    const bool isWhole = nameHeight + double(texts.size()) * grid.lineHeight <= place.height();
+    placeText(name, grid.nameRole, isWhole ? nameHeight : grid.nameHeight);
+    int lines = 0;
     for (const QString &text : texts)
-        placeLine(text, grid.role, grid.lineHeight);
+        lines += mostLines(text, place.width(), grid.role);
+    if (lines > texts.size() && lines * grid.lineHeight <= place.height()) {
+        placeText(texts.join(u'\n'), grid.role, lines * grid.lineHeight);
+        return;
+    }
+    for (const QString &text : texts)
+        placeText(text, grid.role, grid.lineHeight);
 }
 
 /// The place of the picture at the left of a wide card or at the top of a narrow one; texts take the `rest`.
