@@ -94,9 +94,9 @@ inline QString sortedLast(const QList<int> &rows)
     QStringList numbers;
     for (const int row : rows)
         numbers << QString::number(row + 1);
-    return numbers.size() == 1
-               ? u"Row %1 has no AM or PM: it will stand last"_s.arg(numbers.first())
-               : u"Rows %1 have no AM or PM: they will stand last"_s.arg(numbers.join(u", "_s));
+    const QString last = numbers.takeLast();
+    return numbers.isEmpty() ? u"Row %1 stands last: no AM or PM"_s.arg(last)
+                             : u"Rows %1 and %2 stand last: no AM or PM"_s.arg(numbers.join(u", "_s), last);
 }
 
 // Views and search

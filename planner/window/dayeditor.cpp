@@ -24,6 +24,23 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// Quiet words that are hidden while there is no room for them.
+class SpareWords final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    /// They may shrink to nothing.
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        if (width() >= sizeHint().width())
+            QLabel::paintEvent(event);
+    }
+};
+
 /// The head of the texts: as many words as there is room for.
 class TextHead final : public QLabel
 {
@@ -40,12 +57,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override
     {
         QLabel::resizeEvent(event);
-        for (const QString &words : {u"Appointment or activity"_s, u"Appointment"_s, QString()}) {
-            if (fontMetrics().horizontalAdvance(words) > width())
-                continue;
-            setText(words);
-            return;
-        }
+        const QString whole = u"Appointment or activity"_s;
+        setText(fontMetrics().horizontalAdvance(whole) > width() ? u"Appointment"_s : whole);
     }
 };
 
@@ -96,13 +109,17 @@ QWidget *DayEditor::makeRowHeads()
     auto *text = named(new TextHead(line), u"textHead"_s);
     time->setFont(head);
     text->setFont(head);
+    text->setMinimumWidth(QFontMetrics(head).horizontalAdvance(u"Appointment"_s) + 2);
     time->setFixedWidth(112);
     layout->addSpacing(28);
     layout->addWidget(time);
     layout->addWidget(text, 1);
     layout->addWidget(m_notes = new NoteLine(m_householdNotes, line), 1, Qt::AlignLeft);
     connect(m_notes, &NoteLine::filled, text, &QLabel::setHidden);
-    layout->addWidget(named(makeQuietLabel(u"Without AM/PM:"_s, line), u"placementHead"_s));
+    auto *placement = named(new SpareWords(u"Without AM/PM:"_s, line), u"placementHead"_s);
+    placement->setFont(TypeScale::label());
+    placement->setForegroundRole(ThemeRole::quiet);
+    layout->addWidget(placement);
     m_placement = new QButtonGroup(this);
     for (const auto &[id, caption] :
          {std::pair{UntimedPlacement::Last, u"Last"_s}, {UntimedPlacement::First, u"First"_s}}) {
@@ -114,8 +131,8 @@ QWidget *DayEditor::makeRowHeads()
         m_placement->addButton(button, int(id));
         layout->addWidget(button);
     }
-    const int placement = m_program.settings.number(SettingsKeys::plannerPlacement);
-    m_placement->button(placement == int(UntimedPlacement::First) ? 1 : 0)->setChecked(true);
+    const int stored = m_program.settings.number(SettingsKeys::plannerPlacement);
+    m_placement->button(stored == int(UntimedPlacement::First) ? 1 : 0)->setChecked(true);
     connect(m_placement, &QButtonGroup::idClicked, this, &DayEditor::setPlacement);
     return line;
 }
@@ -338,6 +355,17 @@ void DayEditor::refreshModified()
     m_unsaved->setText(isModified() ? FrameLines::unsavedChanges() : QString());
     const QList<int> rows = rowsSortedLast();
     m_sortedLast->setText(rows.isEmpty() ? QString() : PlannerLines::sortedLast(rows));
+    fitFootWords();
+}
+
+/// Where there is no room for both, the rows that stand last come first.
+void DayEditor::fitFootWords()
+{
+    const QString words = m_sortedLast->text();
+    const int begin = m_sortedLast->parentWidget()->layout()->itemAt(0)->geometry().right();
+    const int room = m_sortedLast->geometry().right() - begin - 24; // without the gaps
+    const int wanted = m_unsaved->sizeHint().width() + m_sortedLast->fontMetrics().horizontalAdvance(words);
+    m_unsaved->setHidden(!words.isEmpty() && wanted > room);
 }
 
 /// Rows with a time typed since the day was loaded, as their place in the file shows the others already.
@@ -358,4 +386,11 @@ void DayEditor::enterRow(int row)
 {
     m_scroll->ensureWidgetVisible(m_form->textBox(row), 0, 40);
     emit said(PlannerLines::row(row));
+}
+
+void DayEditor::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    fitFootWords();
 }

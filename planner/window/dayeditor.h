@@ -71,11 +71,15 @@ signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QWidget *makeRowHeads();
     QWidget *makeFoot();
     void setPlacement(int placement);
     void refreshModified();
+    void fitFootWords();
     QList<int> rowsSortedLast() const;
     void enterRow(int row);
     QString dayText() const;

@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QListView>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QToolButton>
@@ -29,6 +30,16 @@ class TestZcalandar1 : public OpenPlanner
 private slots:
     void init() { open(); }
     void cleanup() { close(); }
+
+    void showsAllRowsFromTheBeginning()
+    {
+        m_window->resize(1020, 700);
+        QCoreApplication::processEvents();
+        const QRect row = text(13)->rect().translated(text(13)->mapTo(m_window, QPoint()));
+        auto *scroll = find<QScrollArea>("dayScroll");
+        QVERIFY(scroll->rect().translated(scroll->mapTo(m_window, QPoint())).contains(row));
+        QVERIFY(row.height() >= 28);
+    }
 
     void opensOnTheDayOfToday()
     {
@@ -210,7 +221,7 @@ private slots:
             QTest::keyClick(time(2), Qt::Key_Tab);
             QCOMPARE(time(2)->text(), u"14:30"_s); // kept as it was typed
         }
-        QCOMPARE(labelText("sortedLastWords"), u"Rows 1, 3 have no AM or PM: they will stand last"_s);
+        QCOMPARE(labelText("sortedLastWords"), u"Rows 1 and 3 stand last: no AM or PM"_s);
         tick("Option7_1");
         QVERIFY(labelText("sortedLastWords").isEmpty());
         tick("Option7_0");
