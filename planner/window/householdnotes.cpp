@@ -92,7 +92,8 @@ QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetric
     QString fact = first.text.sliced(first.nameLength);
     if (notes.size() > 1)
         fact += u"; %1 more"_s.arg(notes.size() - 1);
-    const int room = std::max(0, width - metrics.horizontalAdvance(fact));
+    // In a narrow place both lose something: whose day it is must still be told.
+    const int room = std::max(width * 2 / 5, width - metrics.horizontalAdvance(fact));
     const QString name = metrics.elidedText(first.text.first(first.nameLength), Qt::ElideRight, room);
     return metrics.elidedText(name + fact, Qt::ElideRight, width);
 }
