@@ -3,6 +3,7 @@
 
 #include "addressbook/model/indexline.h"
 #include "storage/ansitext.h"
+#include "storage/changeset.h"
 #include "storage/recordvalue.h"
 
 #include <algorithm>
@@ -164,11 +165,19 @@ int AddressBook::nextFreeRecord() const
 
 AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry)
 {
-    const int record = nextFreeRecord();
-    if (record <= overflowRecord)
-        return write(record, entry);
+    // One that was refused in the middle is finished first: saved once more, it would be there twice.
+    if (ChangeSet::isPending(m_folder) && !ChangeSet::recover(m_folder))
+        return {};
+    const bool isAgain = m_refused && m_refused->second == entry;
+    const int record = isAgain ? m_refused->first : nextFreeRecord();
+    m_refused.reset();
     SaveResult result;
-    result.isBookFull = true;
+    result.isBookFull = record > overflowRecord;
+    if (result.isBookFull)
+        return result;
+    result = write(record, entry);
+    if (!result.isSaved && ChangeSet::isPending(m_folder))
+        m_refused = {record, entry};
     return result;
 }
 

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 /// The two files of the address book, which always move together: `Addbk1.Fil` holds the entries,
 /// `Addbk2.Fil` a line of the name list for each. Entry N is record N of both. No file stays open between
@@ -124,5 +125,7 @@ private:
     /// index.
     bool isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const;
 
+    /// The new entry that was refused in the middle, and the record that it gets nevertheless.
+    std::optional<std::pair<int, AddressEntry>> m_refused;
     const DataFolder &m_folder;
 };

@@ -2,6 +2,7 @@
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/indexline.h"
 #include "tests/addressbook/model/addressrecords.h"
+#include "tests/support/failingdisk.h"
 #include "tests/support/household.h"
 #include "tests/support/rows.h"
 
@@ -73,6 +74,23 @@ private slots:
         }
         entry.picture = u"C:\\Pictures\\a.jpg"_s;
         QVERIFY(entry.hasPicture());
+    }
+
+    void savesAnEntryOnceAfterADiskThatRefusedMore()
+    {
+        const auto filters = qScopeGuard([] { QLoggingCategory::setFilterRules({}); });
+        QLoggingCategory::setFilterRules(u"*.warning=false"_s);
+        for (int refused = 1; refused <= 8; ++refused) {
+            init();
+            AddressBook names = book();
+            bool isSaved = false;
+            {
+                const FailingDisk disk(DiskFailure::TheEnd, refused);
+                isSaved = names.saveNew(anneLind()).isSaved;
+            }
+            QVERIFY(names.saveNew(anneLind()).isSaved);
+            QCOMPARE(names.loadNames().count(), isSaved ? 2 : 1);
+        }
     }
 
     void loadsTheLinesThatCount()
