@@ -7,6 +7,7 @@
 #include "addressbook/model/addressnews.h"
 #include "addressbook/model/addresssearch.h"
 #include "addressbook/viewer/viewerwindow.h"
+#include "budget/window/budgetwindow.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
 #include "planner/model/plannersource.h"
@@ -133,6 +134,7 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                       .search = plannerSearch,
                                       .show = showInPlanner,
                                       .files = plannerFiles});
+    functions.add(Function::Budget, {.open = makeWindow<Budget1>});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

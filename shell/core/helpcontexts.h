@@ -11,8 +11,9 @@ inline constexpr int PagePreview = 1004;
 inline constexpr int Planner = 1005;
 inline constexpr int AddressViewer = 1006;
 inline constexpr int Keys = 1007;
+inline constexpr int Budget = 1008;
 inline constexpr int BackupAndRestore = 1009;
 
 inline constexpr int all[] = {ProgramOverview, AddressBook, PasswordControl, Appearance, PagePreview, Planner,
-                              AddressViewer,   Keys,        BackupAndRestore};
+                              AddressViewer,   Keys,        Budget,          BackupAndRestore};
 } // namespace HelpContext

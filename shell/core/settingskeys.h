@@ -72,6 +72,7 @@ inline constexpr std::array windowColors{addressEntryColor,   budgetColor,  pass
 inline constexpr TextSetting addressEntryProgramColor{colorFile1, 10};
 inline constexpr TextSetting helpProgramColor{colorFile1, 80};
 inline constexpr TextSetting plannerProgramColor{colorFile1, 11};
+inline constexpr TextSetting budgetProgramColor{colorFile1, 16};
 inline constexpr TextSetting addressViewerProgramColor{colorFile1, 12};
 inline constexpr TextSetting addressPicturesProgramColor{colorFile1, 13};
 
