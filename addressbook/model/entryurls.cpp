@@ -50,7 +50,7 @@ QUrl EntryUrls::web(const AddressEntry &entry)
 {
     for (const QString &text : entry.texts) {
         const QString found = webText(text);
-        if (const QUrl url = QUrl::fromUserInput(found); !found.isEmpty() && url.isValid())
+        if (QUrl url = QUrl::fromUserInput(found); !found.isEmpty() && url.isValid())
             return url;
     }
     return {};

@@ -135,7 +135,7 @@ QList<int> NameList::bestMatches(QStringView text) const
 {
     QList<int> positions = matches(text);
     const QByteArray folded = ByteCase::folded(text).value_or(QByteArray());
-    std::ranges::stable_partition(positions, [&](int position) {
+    std::stable_partition(positions.begin(), positions.end(), [&](int position) {
         return ByteCase::contains(bytesAt(position).first(std::min(folded.size(), bytesAt(position).size())),
                                   folded);
     });

@@ -85,7 +85,7 @@ QString HouseholdNotes::joined(const QList<HouseholdNote> &notes)
 
 QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetrics &metrics, int width)
 {
-    const QString all = joined(notes);
+    QString all = joined(notes);
     if (notes.isEmpty() || metrics.horizontalAdvance(all) <= width)
         return all;
     const DayNote &first = notes.front().note;

@@ -102,7 +102,7 @@ void SearchOverlay::paintEvent(QPaintEvent *)
 }
 
 void SearchOverlay::addCommand(Program &program, Commands &commands, QMainWindow *window,
-                               std::function<bool()> mayOpen)
+                               const std::function<bool()> &mayOpen)
 {
     const auto overlay = std::make_shared<QPointer<SearchOverlay>>(); // made when first asked for
     const auto open = [=, &program] {

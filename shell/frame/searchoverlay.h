@@ -22,7 +22,7 @@ public:
 
     /// The command and its key, at the end of the window's Edit menu or, without one, of another.
     static void addCommand(Program &program, Commands &commands, QMainWindow *window,
-                           std::function<bool()> mayOpen);
+                           const std::function<bool()> &mayOpen);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
