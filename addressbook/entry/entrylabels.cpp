@@ -46,6 +46,7 @@ void EntryLabels::show()
         m_names.load(Information::Address, {});
     }
     m_views->open(m_panel);
-    const int selected = m_list.names().recordAt(m_list.selectedRow());
-    m_panel->start(m_names, selected > 0 ? std::optional(selected) : std::nullopt);
+    const int selected = m_list.selectedRow();
+    const int row = m_names.rowOf(m_list.names().name(selected), m_list.names().recordAt(selected));
+    m_panel->start(m_names, row >= 0 ? std::optional(row) : std::nullopt);
 }

@@ -150,7 +150,7 @@ void AddressViewer::readNames(int mostRows)
     const auto expected = std::size_t(std::min(lines.recordCount(), mostRows));
     m_rows.reserve(expected);
     m_bytes.reserve(qsizetype(expected) * 64);
-    lines.forEach(1, [this, mostRows](int, QByteArrayView bytes) {
+    lines.forEach(1, [this, mostRows](int own, QByteArrayView bytes) {
         const QByteArrayView line = RecordValue::textBytes(bytes);
         if (line.isEmpty() || IndexLine::isDeleted(line))
             return true;
@@ -159,6 +159,7 @@ void AddressViewer::readNames(int mostRows)
         row.nameAt = quint32(m_bytes.size());
         row.nameLength = quint8(name.size());
         row.record = IndexLine::record(line);
+        row.line = own;
         m_bytes.append(name);
         m_rows.push_back(row);
         return int(m_rows.size()) < mostRows;
@@ -239,6 +240,26 @@ QString AddressViewer::information(int row) const
 int AddressViewer::record(int row) const
 {
     return shownRow(row).record;
+}
+
+int AddressViewer::line(int row) const
+{
+    return shownRow(row).line;
+}
+
+int AddressViewer::rowOf(QStringView name, int record) const
+{
+    const QByteArray bytes = AnsiText::encode(name);
+    int first = -1;
+    for (int row = 0; row < count(); ++row) {
+        if (this->record(row) != record)
+            continue;
+        if (nameBytes(shownRow(row)) == bytes)
+            return row;
+        if (first < 0 && record > 0)
+            first = row;
+    }
+    return first;
 }
 
 int AddressViewer::nameCount() const

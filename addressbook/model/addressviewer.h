@@ -65,6 +65,11 @@ public:
     QString information(int row) const;
     /// The record number of the row's entry; 0 when its line has none that can be read.
     int record(int row) const;
+    /// Where the row's line stands in the index file: no other row has the same, whatever record they lead to.
+    int line(int row) const;
+    /// The row of the line with this name that leads to `record`, else the first one that leads there; -1
+    /// when none is shown.
+    int rowOf(QStringView name, int record) const;
     /// Rows of the book within the range, shown or not, without those that were removed.
     int nameCount() const;
     /// Whether the book holds no line at all.
@@ -102,6 +107,7 @@ private:
         quint32 nameAt = 0; ///< in `m_bytes`
         quint32 informationAt = 0;
         int record = 0;
+        int line = 0; ///< its own record
         quint8 nameLength = 0;
         quint8 informationLength = 0;
         bool isInRange = false;

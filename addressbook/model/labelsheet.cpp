@@ -3,6 +3,7 @@
 
 #include "addressbook/model/addresspages.h"
 #include "addressbook/model/addressviewer.h"
+#include "addressbook/model/indexline.h"
 
 #include <QHash>
 #include <QSet>
@@ -85,23 +86,24 @@ struct Household {
 };
 
 std::vector<Household> households(const AddressViewer &viewer, LabelSharing sharing,
-                                  const std::function<bool(int record)> &wanted, int &leftOut)
+                                  const std::function<bool(int line)> &wanted, int &leftOut)
 {
     std::vector<Household> all;
     QHash<QString, std::size_t> places;
     QSet<int> records;
     viewer.forEachShown([&](int row, const AddressEntry &entry) {
-        if (wanted && !wanted(viewer.record(row)))
+        if (wanted && !wanted(viewer.line(row)))
             return true;
         const QString address = addressLines(entry).join(u'\n');
         const LabelPerson person{entry[LastName].simplified(), entry[FirstName].simplified()};
-        // Of two lines that lead to one entry, one bears another name: nobody knows where that person lives.
-        const bool isKnown = records.contains(viewer.record(row));
-        records.insert(viewer.record(row));
-        if (address.isEmpty() || isKnown) {
+        // A line may lead to the entry of another: nobody knows where its own person lives.
+        const bool isOthers =
+            viewer.line(row) != viewer.record(row) && !IndexLine::belongs(viewer.name(row), entry);
+        if (address.isEmpty() || isOthers || records.contains(viewer.record(row))) {
             ++leftOut;
             return true;
         }
+        records.insert(viewer.record(row));
         if (sharing == LabelSharing::OneForAnAddress) {
             const QString key = address.toCaseFolded();
             if (const auto known = places.constFind(key); known != places.constEnd()) {
@@ -179,7 +181,7 @@ const std::vector<LabelSheet> &LabelSheet::all()
 }
 
 LabelTexts LabelTexts::of(const AddressViewer &viewer, LabelSharing sharing,
-                          const std::function<bool(int record)> &wanted)
+                          const std::function<bool(int line)> &wanted)
 {
     LabelTexts labels;
     for (const Household &household : households(viewer, sharing, wanted, labels.leftOut))

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/shared/labelpanel.h"
 
+#include "addressbook/model/addressviewer.h"
 #include "addressbook/model/viewerlines.h"
 #include "addressbook/shared/ticklist.h"
 #include "shell/controls/activitybar.h"
@@ -235,13 +236,13 @@ LabelPages::Options LabelPanel::options() const
     return options;
 }
 
-void LabelPanel::start(const AddressViewer &viewer, std::optional<int> record)
+void LabelPanel::start(const AddressViewer &viewer, std::optional<int> row)
 {
     m_viewer = &viewer;
     m_pane->startOver();
     m_ticks->names().list(viewer);
-    if (record)
-        m_ticks->names().tickOnly(*record);
+    if (row)
+        m_ticks->names().tickOnly(viewer.line(*row));
     else
         m_ticks->names().tickAll(true);
     m_ticks->showTicked();
@@ -277,7 +278,7 @@ void LabelPanel::gather()
     const BusyCursor busy;
     m_labels = LabelTexts::of(
         *m_viewer, m_share->isChecked() ? LabelSharing::OneForAnAddress : LabelSharing::EachTheirOwn,
-        [&names = m_ticks->names()](int record) { return names.isTicked(record); });
+        [&names = m_ticks->names()](int line) { return names.isTicked(line); });
     fit();
 }
 

@@ -33,9 +33,9 @@ public:
                QWidget *parent = nullptr);
     ~LabelPanel() override;
 
-    /// Takes the rows as they are shown now; `viewer` must live as long as the panel is used. With a record
+    /// Takes the rows as they are shown now; `viewer` must live as long as the panel is used. With a row
     /// only that name is ticked, else all are.
-    void start(const AddressViewer &viewer, std::optional<int> record = std::nullopt);
+    void start(const AddressViewer &viewer, std::optional<int> row = std::nullopt);
     /// The same when other rows are shown meanwhile, once the typing rests; the focus stays where it is.
     void follow(const AddressViewer &viewer);
 

@@ -26,7 +26,7 @@ void TickedNames::list(const AddressViewer &viewer)
     m_names.clear();
     m_names.reserve(std::size_t(viewer.count()));
     for (int row = 0; row < viewer.count(); ++row)
-        m_names.push_back({viewer.name(row), viewer.record(row)});
+        m_names.push_back({viewer.name(row), viewer.line(row)});
     endResetModel();
     emit ticksChanged();
 }
@@ -38,10 +38,10 @@ void TickedNames::tickAll(bool isTicked)
     changeAll();
 }
 
-void TickedNames::tickOnly(int record)
+void TickedNames::tickOnly(int line)
 {
     m_isUsual = false;
-    m_others = {record};
+    m_others = {line};
     changeAll();
 }
 
@@ -54,13 +54,13 @@ void TickedNames::changeAll()
 
 int TickedNames::tickedCount() const
 {
-    return int(std::ranges::count_if(m_names, [this](const Name &name) { return isTicked(name.record); }));
+    return int(std::ranges::count_if(m_names, [this](const Name &name) { return isTicked(name.line); }));
 }
 
 int TickedNames::firstTicked() const
 {
     const auto found =
-        std::ranges::find_if(m_names, [this](const Name &name) { return isTicked(name.record); });
+        std::ranges::find_if(m_names, [this](const Name &name) { return isTicked(name.line); });
     return found == m_names.end() ? -1 : int(found - m_names.begin());
 }
 
@@ -77,7 +77,7 @@ QVariant TickedNames::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole)
         return name.text;
     if (role == Qt::CheckStateRole)
-        return isTicked(name.record) ? Qt::Checked : Qt::Unchecked;
+        return isTicked(name.line) ? Qt::Checked : Qt::Unchecked;
     return {};
 }
 
@@ -85,12 +85,13 @@ bool TickedNames::setData(const QModelIndex &index, const QVariant &value, int r
 {
     if (role != Qt::CheckStateRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
         return false;
-    const int record = m_names[std::size_t(index.row())].record;
+    const int line = m_names[std::size_t(index.row())].line;
     if ((value.toInt() == Qt::Checked) == m_isUsual)
-        m_others.remove(record);
+        m_others.remove(line);
     else
-        m_others.insert(record);
-    changeAll(); // two lines may lead to one entry
+        m_others.insert(line);
+    emit dataChanged(index, index, {Qt::CheckStateRole});
+    emit ticksChanged();
     return true;
 }
 

@@ -11,8 +11,8 @@ class AddressViewer;
 class QLabel;
 class QListView;
 
-/// Names that can be ticked one by one. What is ticked goes by the record of a name: it stays when other
-/// names are listed meanwhile.
+/// Names that can be ticked one by one. What is ticked goes by the line that a name has in the index: it stays
+/// when other names are listed meanwhile.
 class TickedNames final : public QAbstractListModel
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ public:
 
     /// All names or none, listed or not.
     void tickAll(bool isTicked);
-    void tickOnly(int record);
-    bool isTicked(int record) const { return m_isUsual != m_others.contains(record); }
+    void tickOnly(int line);
+    bool isTicked(int line) const { return m_isUsual != m_others.contains(line); }
     int tickedCount() const;
     int firstTicked() const; ///< row of the first one; -1 without any
 
@@ -40,14 +40,14 @@ signals:
 private:
     struct Name {
         QString text;
-        int record;
+        int line; ///< as the viewer has it
     };
 
     void changeAll();
 
     std::vector<Name> m_names;
     bool m_isUsual = true; ///< whether a name is ticked that is not among the others
-    QSet<int> m_others;
+    QSet<int> m_others; ///< lines
 };
 
 /// The list of such names, with "All" and "None" and the number of those that are ticked.

@@ -2,6 +2,7 @@
 #include "addressbook/model/addressviewer.h"
 #include "addressbook/model/labelsheet.h"
 #include "tests/addressbook/model/addressrecords.h"
+#include "tests/support/household.h"
 #include "tests/support/pageitems.h"
 #include "tests/support/rows.h"
 
@@ -112,11 +113,34 @@ private slots:
                  QStringList({QString(anne).replace(u"Anne"_s, u"Anne & Karl"_s), ida}));
         QCOMPARE(LabelTexts::of(viewer, LabelSharing::EachTheirOwn).leftOut, 2);
         QCOMPARE(LabelTexts::of(viewer, LabelSharing::OneForAnAddress).leftOut, 2);
-        const int second = viewer.record(1);
-        const LabelTexts one = LabelTexts::of(viewer, LabelSharing::OneForAnAddress,
-                                              [second](int record) { return record == second; });
-        QCOMPARE(one.texts, std::vector<QString>{ida});
-        QCOMPARE(one.leftOut, 0);
+    }
+
+    /// Of two lines that lead to one entry only its own gets a label, whichever is ticked.
+    void printsTheTickedRows_data()
+    {
+        rows<QString, int, QString>({
+            {"an entry", u"Kessler, Tessa"_s, 2, u"Tessa Kessler"_s},
+            {"a number that the name ran into", u"Featherstone-Brookfield, Louis Vera Xenia 2nd"_s, 2, {}},
+            {"the second of one name", u"Miller, Anne"_s, 8, u"Anne Miller"_s},
+            {"a name that the index has otherwise", u"Quillington, David"_s, 3, u"David Quill"_s},
+            {"a line that leads nowhere", u"Lindqvist-Rosenbaum, Walter Nils Yvonne Isidor Bert"_s, 0, {}},
+        });
+    }
+
+    void printsTheTickedRows()
+    {
+        const auto [name, record, person] = row<QString, int, QString>();
+        const DataFolder folder(householdPath());
+        AddressViewer viewer(folder, DateStyle::Usa);
+        viewer.load(Information::HomePhone, {});
+        const int line = viewer.line(viewer.rowOf(name, record));
+        QCOMPARE(viewer.rowOf(u"Nobody"_s, 0), -1);
+        const LabelTexts labels = LabelTexts::of(viewer, LabelSharing::OneForAnAddress,
+                                                 [line](int other) { return other == line; });
+        QCOMPARE(labels.leftOut, person.isEmpty() ? 1 : 0);
+        QCOMPARE(labels.texts.size(), std::size_t(1 - labels.leftOut));
+        if (!labels.texts.empty())
+            QCOMPARE(labels.texts.front().section(u'\n', 0, 0), person);
     }
 
     void neverLosesTheTown_data()
