@@ -2,6 +2,7 @@
 #include "planner/model/recurrencepreview.h"
 
 #include "planner/model/dayrecord.h"
+#include "planner/model/recurrencewords.h"
 
 #include <array>
 #include <utility>
@@ -10,23 +11,34 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-bool isOfTheYear(const QString &text)
-{
-    constexpr std::array words{"birthday"_L1, "b'day"_L1, "anniversary"_L1};
-    for (const QLatin1StringView word : words) {
-        if (text.contains(word, Qt::CaseInsensitive))
-            return true;
-    }
-    return false;
-}
-
-Recurrence everySo(Recurrence::Kind kind, int interval = 1)
+Recurrence everySo(Recurrence::Kind kind, int interval, QDate date)
 {
     Recurrence recurrence;
     recurrence.kind = kind;
     recurrence.interval = interval;
+    recurrence.weekday = Qt::DayOfWeek(date.dayOfWeek());
+    recurrence.dayOfMonth = date.day();
     return recurrence;
 }
+
+/// The distances that tell a kind, the likeliest first: in days and months before or after a date.
+struct Distance {
+    int days;
+    int months;
+    Recurrence::Kind kind;
+    int interval = 1;
+};
+
+// 29 to 31 days: a month later where the day fell on a weekend. 364 days: the same weekday a year later.
+constexpr std::array distances{
+    Distance{7, 0, Recurrence::Weekly},     Distance{14, 0, Recurrence::Weekly, 2},
+    Distance{0, 1, Recurrence::Monthly},    Distance{28, 0, Recurrence::Weekly, 4},
+    Distance{29, 0, Recurrence::Monthly},   Distance{30, 0, Recurrence::Monthly},
+    Distance{31, 0, Recurrence::Monthly},   Distance{0, 2, Recurrence::Monthly, 2},
+    Distance{0, 3, Recurrence::Monthly, 3}, Distance{0, 6, Recurrence::Monthly, 6},
+    Distance{0, 12, Recurrence::Yearly},    Distance{364, 0, Recurrence::Yearly},
+    Distance{365, 0, Recurrence::Yearly},
+};
 
 } // namespace
 
@@ -71,27 +83,23 @@ bool RecurrencePreview::step()
 std::optional<Recurrence> likelyRecurrence(const DataFolder &folder, const Appointment &appointment,
                                            QDate date)
 {
-    if (isOfTheYear(appointment.text))
-        return everySo(Recurrence::Yearly);
+    if (const auto words = RecurrenceWords::recurrence(appointment.text, date))
+        return words;
     const PlannerFiles files(folder);
     const auto has = [&](QDate other) {
         PlannerDay day = files.peek(other);
         return removeAppointment(day, appointment) == DateResult::Removed;
     };
-    const auto isNear = [&](int days) { return has(date.addDays(days)) || has(date.addDays(-days)); };
-    if (isNear(1)) {
+    if (has(date.addDays(1)) || has(date.addDays(-1))) {
         const QDate saturday = date.addDays(Qt::Saturday - date.dayOfWeek());
         const bool restsAtWeekend = !has(saturday) && !has(saturday.addDays(1)) &&
                                     has(saturday.addDays(-1)) && has(saturday.addDays(2));
-        return everySo(restsAtWeekend ? Recurrence::Weekdays : Recurrence::Daily);
+        return everySo(restsAtWeekend ? Recurrence::Weekdays : Recurrence::Daily, 1, date);
     }
-    if (isNear(7))
-        return everySo(Recurrence::Weekly);
-    if (isNear(14))
-        return everySo(Recurrence::Weekly, 2);
-    if (has(date.addMonths(1)) || has(date.addMonths(-1)))
-        return everySo(Recurrence::Monthly);
-    if (has(date.addYears(1)) || has(date.addYears(-1)))
-        return everySo(Recurrence::Yearly);
+    for (const Distance &distance : distances) {
+        if (has(date.addMonths(distance.months).addDays(distance.days)) ||
+            has(date.addMonths(-distance.months).addDays(-distance.days)))
+            return everySo(distance.kind, distance.interval, date);
+    }
     return {};
 }

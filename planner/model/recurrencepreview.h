@@ -56,7 +56,7 @@ private:
     int m_there = 0;
 };
 
-/// The kind that `appointment` of `date` is likely to come back by: yearly for a birthday or an anniversary,
-/// else the distance at which the days around already have it. Nothing where neither tells.
+/// How `appointment` of `date` is likely to come back: as its text says, else by the distance at which the
+/// days around already have it. Nothing where neither tells.
 std::optional<Recurrence> likelyRecurrence(const DataFolder &folder, const Appointment &appointment,
                                            QDate date);

@@ -172,8 +172,9 @@ void RecurrenceForm::reset(QDate date)
 void RecurrenceForm::propose(const Recurrence &recurrence)
 {
     m_kinds->button(recurrence.kind)->setChecked(true);
-    if (recurrence.kind == Recurrence::Weekly)
-        m_weeklyInterval->setText(QString::number(recurrence.interval));
+    m_weekdays->button(recurrence.weekday)->setChecked(true);
+    if (FieldBox *interval = intervalBox(recurrence.kind))
+        interval->setText(QString::number(recurrence.interval));
 }
 
 void RecurrenceForm::focusKind()
@@ -188,36 +189,43 @@ std::optional<Recurrence::Kind> RecurrenceForm::kind() const
     return id < 0 ? std::nullopt : std::optional(Recurrence::Kind(id));
 }
 
+FieldBox *RecurrenceForm::intervalBox(Recurrence::Kind kind) const
+{
+    switch (kind) {
+    case Recurrence::Daily:
+        return m_dailyInterval;
+    case Recurrence::Weekly:
+        return m_weeklyInterval;
+    case Recurrence::Monthly:
+        return m_monthlyInterval;
+    case Recurrence::Yearly:
+        return m_yearlyInterval;
+    case Recurrence::YearlyOnDate:
+        return m_yearDayInterval;
+    case Recurrence::Weekdays:
+        break;
+    }
+    return nullptr;
+}
+
 std::optional<QString> RecurrenceForm::read(Recurrence &recurrence) const
 {
     recurrence.kind = kind().value_or(Recurrence::Daily);
     recurrence.interval = 1;
-    if (!kind() || *kind() == Recurrence::Weekdays)
+    const FieldBox *interval = kind() ? intervalBox(*kind()) : nullptr;
+    if (!interval)
         return {};
-    const FieldBox *interval = m_dailyInterval;
-    switch (*kind()) {
-    case Recurrence::Weekly:
-        interval = m_weeklyInterval;
+    if (kind() == Recurrence::Weekly)
         recurrence.weekday = Qt::DayOfWeek(m_weekdays->checkedId());
-        break;
-    case Recurrence::Monthly:
-        interval = m_monthlyInterval;
+    if (kind() == Recurrence::Monthly) {
         recurrence.dayOfMonth = numberOf(m_dayOfMonth);
         if (recurrence.dayOfMonth < 1 || recurrence.dayOfMonth > lastDayOfMonth)
             return PlannerLines::noDayOfMonth();
-        break;
-    case Recurrence::Yearly:
-        interval = m_yearlyInterval;
-        break;
-    case Recurrence::YearlyOnDate:
-        interval = m_yearDayInterval;
+    }
+    if (kind() == Recurrence::YearlyOnDate) {
         recurrence.yearDay = m_yearDay->date().value_or(QDate());
         if (!recurrence.yearDay.isValid())
             return PlannerLines::noYearDay();
-        break;
-    case Recurrence::Daily:
-    case Recurrence::Weekdays:
-        break;
     }
     recurrence.interval = numberOf(interval);
     return recurrence.interval < 1 ? std::optional(PlannerLines::noInterval()) : std::nullopt;

@@ -23,7 +23,7 @@ public:
 
     /// No kind chosen; the boxes propose what suits an appointment of `date`.
     void reset(QDate date);
-    /// Chooses kind and interval of `recurrence`, as a proposal.
+    /// Chooses kind, interval and weekday of `recurrence`, as a proposal.
     void propose(const Recurrence &recurrence);
     /// Puts the focus on the chosen kind, or on the first.
     void focusKind();
@@ -40,6 +40,8 @@ signals:
     void said(const QString &line);
 
 private:
+    /// The box with the number of a kind; none for weekdays.
+    FieldBox *intervalBox(Recurrence::Kind kind) const;
     FieldBox *makeNumberBox(const QString &name, const QString &accessibleName);
     QWidget *makeKind(Recurrence::Kind kind, const QString &caption);
     void addLine(QVBoxLayout *column, const QList<QWidget *> &parts);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/lines.h"
-#include "planner/model/recurrencepreview.h"
 #include "planner/window/recurrenceform.h"
 #include "shell/controls/flowtoolbar.h"
 #include "tests/planner/window/openplanner.h"
@@ -59,31 +58,38 @@ private slots:
     {
         using Dates = QList<QDate>;
         const QDate date(2026, 11, 21);
-        rows<Dates, QString, int>({
-            {"nothing tells", {}, u"Yoga"_s, -1},
-            {"yesterday", {date.addDays(-1)}, u"Yoga"_s, 0},
-            {"last week", {date.addDays(-7)}, u"Yoga"_s, 2},
-            {"in two weeks", {date.addDays(14)}, u"Yoga"_s, 2},
-            {"next month", {date.addMonths(1)}, u"Yoga"_s, 3},
-            {"last year", {date.addYears(-1)}, u"Yoga"_s, 4},
-            {"a birthday", {date.addDays(1)}, u"Bo's Birthday"_s, 4},
-            {"another appointment", {date.addDays(7)}, u"Yoga class"_s, -1},
+        rows<Dates, QByteArray, QString>({
+            {"nothing tells", {}, {}, {}},
+            {"yesterday", {date.addDays(-1)}, "kind_0", u"1"_s},
+            {"last week", {date.addDays(-7)}, "kind_2", u"1"_s},
+            {"in two weeks", {date.addDays(14)}, "kind_2", u"2"_s},
+            {"four weeks ago", {date.addDays(-28)}, "kind_2", u"4"_s},
+            {"next month", {date.addMonths(1)}, "kind_3", u"1"_s},
+            {"29 days ago", {date.addDays(-29)}, "kind_3", u"1"_s},
+            {"a quarter ago", {date.addMonths(-3)}, "kind_3", u"3"_s},
+            {"last year", {date.addYears(-1)}, "kind_4", u"1"_s},
+            {"last year, the same weekday", {date.addDays(-364)}, "kind_4", u"1"_s},
+            {"40 days ago", {date.addDays(-40)}, {}, {}},
         });
     }
 
     void proposesTheKindThatTheDaysAroundHave()
     {
-        const auto [others, text, kind] = row<QList<QDate>, QString, int>();
+        const auto [others, kind, interval] = row<QList<QDate>, QByteArray, QString>();
         for (const QDate other : others)
             writeDay(other, dayOf({{u"9:00 AM"_s, u"Yoga"_s}}));
-        const auto likely =
-            likelyRecurrence(m_test->folder, Appointment::ofRow(u"9:00 AM"_s, text), QDate(2026, 11, 21));
-        QCOMPARE(likely ? int(likely->kind) : -1, kind);
-        if (text != u"Yoga"_s)
-            return;
         openPanel();
-        for (int id = 0; id < 6; ++id)
-            QCOMPARE(find<QRadioButton>("kind_" + QByteArray::number(id))->isChecked(), id == kind);
+        QMap<QByteArray, QByteArray> boxes{{"kind_0", "dailyInterval"},
+                                           {"kind_1", {}},
+                                           {"kind_2", "weeklyInterval"},
+                                           {"kind_3", "monthlyInterval"},
+                                           {"kind_4", "yearlyInterval"}};
+        for (const auto &[id, box] : boxes.asKeyValueRange()) {
+            QCOMPARE(find<QRadioButton>(id)->isChecked(), id == kind);
+            if (!box.isEmpty())
+                QCOMPARE(find<QLineEdit>(box)->text(), id == kind ? interval : u"1"_s);
+        }
+        QVERIFY(find<QRadioButton>("weekday_6")->isChecked());
     }
 
     void tabComesToTheBoxesAsTheyStand()
