@@ -65,7 +65,8 @@ public:
     QString information(int row) const;
     /// The record number of the row's entry; 0 when its line has none that can be read.
     int record(int row) const;
-    /// Where the row's line stands in the index file: no other row has the same, whatever record they lead to.
+    /// Where the row's line stands in the index file: no other row has the same, whatever record they lead
+    /// to.
     int line(int row) const;
     /// The row of the line with this name that leads to `record`, else the first one that leads there; -1
     /// when none is shown.

@@ -40,8 +40,8 @@ struct LabelTexts {
     std::vector<QString> texts; ///< lines separated by '\n': names, address, town
     int leftOut = 0;            ///< rows without an address
 
-    /// Of the rows whose line of the index is `wanted`, in the order in which they are shown; a shared label stands
-    /// where the first of its persons does.
+    /// Of the rows whose line of the index is `wanted`, in the order in which they are shown; a shared label
+    /// stands where the first of its persons does.
     static LabelTexts of(const AddressViewer &viewer, LabelSharing sharing,
                          const std::function<bool(int line)> &wanted = {});
 };

@@ -11,8 +11,8 @@ class AddressViewer;
 class QLabel;
 class QListView;
 
-/// Names that can be ticked one by one. What is ticked goes by the line that a name has in the index: it stays
-/// when other names are listed meanwhile.
+/// Names that can be ticked one by one. What is ticked goes by the line that a name has in the index: it
+/// stays when other names are listed meanwhile.
 class TickedNames final : public QAbstractListModel
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ private:
 
     std::vector<Name> m_names;
     bool m_isUsual = true; ///< whether a name is ticked that is not among the others
-    QSet<int> m_others; ///< lines
+    QSet<int> m_others;    ///< lines
 };
 
 /// The list of such names, with "All" and "None" and the number of those that are ticked.
