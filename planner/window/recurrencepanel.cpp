@@ -3,7 +3,7 @@
 
 #include "planner/model/lines.h"
 #include "planner/model/messages.h"
-#include "planner/model/plannertrash.h"
+#include "planner/model/removaltrash.h"
 #include "planner/window/recurrenceform.h"
 #include "planner/window/recurrenceoutlook.h"
 #include "planner/window/recurrencerange.h"
@@ -223,12 +223,15 @@ void RecurrencePanel::walk(RecurrenceAction action, const Recurrence &recurrence
 {
     m_action = action;
     m_run = std::make_unique<RecurrenceRun>(m_program.folder, m_placement, action, m_appointment, recurrence);
+    if (action == RecurrenceAction::Remove)
+        m_trash = std::make_unique<RemovalTrash>(m_program.folder, m_appointment, recurrence,
+                                                 m_program.clock.now());
     m_outlookSoon->stop();
     m_outlook->stop();
     setRunning(true);
     emit said(PlannerLines::updating());
     // What a full disk refuses once it would refuse for every date that follows.
-    m_work->start([this] { return m_run->step() && m_run->failed() == 0; });
+    m_work->start([this] { return (m_trash && m_trash->step()) || (m_run->step() && m_run->failed() == 0); });
 }
 
 void RecurrencePanel::showProgress()
@@ -245,24 +248,14 @@ void RecurrencePanel::finish(bool wasStopped)
     report(*run, wasStopped);
     const QString words = QString(m_appointment.time + u' ' + m_appointment.text).trimmed();
     RecordChange change = run->change();
-    throwAway(*run, change);
+    if (const auto trash = std::exchange(m_trash, {})) {
+        trash->settle(run->removedFrom(), change);
+        if (!trash->isKept())
+            emit said(FrameLines::trashOutOfReach());
+    }
     emit walked(m_action == RecurrenceAction::Insert ? PlannerLines::repeated(words)
                                                      : PlannerLines::recurrenceRemoved(words),
                 change);
-}
-
-/// The walk writes each date by itself, so the trash learns of them behind it.
-void RecurrencePanel::throwAway(const RecurrenceRun &run, RecordChange &change)
-{
-    if (run.removedFrom().empty())
-        return;
-    RecordChange thrown;
-    thrown.throwAway(PlannerTrash::ofRemoval(m_appointment, run.removedFrom(), m_program.clock.now()));
-    const bool isKept = thrown.commit(m_program.folder);
-    if (isKept)
-        change.add(thrown);
-    if (!isKept || thrown.trashState() == Trash::State::OutOfReach)
-        emit said(FrameLines::trashOutOfReach());
 }
 
 void RecurrencePanel::report(RecurrenceRun &run, bool wasStopped)

@@ -15,6 +15,7 @@ class QTimer;
 class RecurrenceForm;
 class RecurrenceOutlook;
 class RecurrenceRange;
+class RemovalTrash;
 class SlicedWork;
 struct Program;
 
@@ -64,7 +65,6 @@ private:
     void walk(RecurrenceAction action, const Recurrence &recurrence);
     void showProgress();
     void finish(bool wasStopped);
-    void throwAway(const RecurrenceRun &run, RecordChange &change);
     void report(RecurrenceRun &run, bool wasStopped);
     void setRunning(bool isRunning);
 
@@ -73,6 +73,7 @@ private:
     UntimedPlacement m_placement = UntimedPlacement::Last;
     RecurrenceAction m_action = RecurrenceAction::Insert;
     std::unique_ptr<RecurrenceRun> m_run;
+    std::unique_ptr<RemovalTrash> m_trash; ///< of a removal
     SlicedWork *m_work;
 
     QBoxLayout *m_columns;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/functions.h"
 #include "planner/model/dayrecord.h"
-#include "planner/model/plannerday.h"
+#include "planner/model/plannerfiles.h"
+#include "planner/model/plannertrash.h"
 #include "shell/access/passwordcheck.h"
 #include "shell/access/passwordcontrol.h"
 #include "shell/controls/activitybar.h"
@@ -228,6 +229,20 @@ const Save recurrence{[](Desk &desk) {
                       },
                       Save::Walk};
 
+const Save removal{[](Desk &desk) {
+                       recurrence.prepare(desk);
+                       recurrence.press(desk);
+                       desk.find<QLineEdit>("Text2_0")->setFocus();
+                       desk.trigger("mERec");
+                       desk.type("endDate", u"11/25/2026"_s);
+                   },
+                   [](Desk &desk) {
+                       desk.answer(Answer::Yes);
+                       desk.click("recurrenceRemove");
+                       desk.finish();
+                   },
+                   Save::Walk};
+
 const Save undoneRecurrence{[](Desk &desk) {
                                 recurrence.prepare(desk);
                                 recurrence.press(desk);
@@ -343,7 +358,50 @@ private slots:
         }
     }
 
+    /// What a removal takes from many days is in them or in the trash, wherever it is refused or cut off.
+    void keepsWhatARemovalTakes_data()
+    {
+        rows<DiskFailure>({{"refused", DiskFailure::OneStep}, {"cut off", DiskFailure::TheEnd}});
+    }
+
+    void keepsWhatARemovalTakes()
+    {
+        const auto [failure] = row<DiskFailure>();
+        int steps = 1;
+        for (int failing = 0; failing <= steps; ++failing) {
+            Desk desk(TestProgram::Household);
+            removal.prepare(desk);
+            {
+                const FailingDisk disk(failing == 0 ? DiskFailure::OneStep : failure, failing);
+                removal.press(desk);
+                steps = failing == 0 ? disk.steps() : steps;
+            }
+            QVERIFY(ChangeSet::recover(desk.test.folder));
+            const auto thrown = PlannerTrash::items(desk.test.folder, desk.test.clock.now());
+            if (failing == 0)
+                QVERIFY(thrown.size() == 1 && thrown.front().pieces.size() == 5);
+            for (QDate date(2026, 11, 21); date <= QDate(2026, 11, 25); date = date.addDays(1)) {
+                const Trash::Piece lost = PlannerTrash::ofRemoval({{}, u"Yoga"_s}, {date}, {}).pieces.front();
+                const bool isInTrash = !thrown.empty() && std::ranges::find(thrown.front().pieces, lost) !=
+                                                              thrown.front().pieces.end();
+                QVERIFY2(isInTrash || yogas(desk, date) == 1,
+                         qPrintable(u"step %1, %2"_s.arg(failing).arg(date.toString())));
+            }
+            // Where it stands still, bringing it back adds none.
+            if (!thrown.empty())
+                QVERIFY(
+                    PlannerTrash::bringBack(desk.test.folder, thrown.front(), UntimedPlacement::Last).isDone);
+            for (QDate date(2026, 11, 21); failure == DiskFailure::OneStep && date <= QDate(2026, 11, 25);
+                 date = date.addDays(1))
+                QCOMPARE(yogas(desk, date), 1);
+        }
+    }
+
 private:
+    static qsizetype yogas(const Desk &desk, QDate date)
+    {
+        return std::ranges::count(PlannerFiles(desk.test.folder).peek(date).texts, u"Yoga"_s);
+    }
     static TestProgram::Content content(const Save &save)
     {
         return save.kind == Save::Setting ? TestProgram::Empty : TestProgram::Household;
