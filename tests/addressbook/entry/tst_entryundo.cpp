@@ -172,6 +172,25 @@ private slots:
         QVERIFY(m_test->bytes(u"Addbk1.Fil"_s).contains("1 New Road"));
     }
 
+    void showsWhatWasWrittenSince()
+    {
+        for (const bool isRedo : {false, true}) {
+            click("Command4");
+            type(0, isRedo ? u"Yaro"_s : u"Zorn"_s);
+            click("Command4");
+            if (isRedo)
+                undo();
+            QByteArray changed = m_test->bytes(u"Addbk1.Fil"_s);
+            changed.replace(3 * 724 + 3 * 40, 5, isRedo ? "Beech" : "Alder");
+            m_test->setBytes(u"Addbk1.Fil"_s, changed);
+            isRedo ? redo() : undo();
+            QCOMPARE(m_test->bytes(u"Addbk1.Fil"_s), changed);
+            QVERIFY(said().startsWith(u"What this wrote was changed"_s));
+            QVERIFY(box(3)->text().startsWith(isRedo ? u"Beech"_s : u"Alder"_s));
+            QVERIFY(!m_window->isModified());
+        }
+    }
+
     void neverOverwritesWhatWasWrittenSince()
     {
         remove();

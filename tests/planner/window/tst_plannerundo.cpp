@@ -93,6 +93,17 @@ private slots:
         QCOMPARE(files(), now);
     }
 
+    void showsWhatWasWrittenSince()
+    {
+        type(0, u"9:30"_s, u"Piano"_s);
+        click("saveDay");
+        writeDay(QDate(2026, 11, 21), dayOf({{{}, u"Elsewhere"_s}}));
+        undo();
+        QVERIFY(said().startsWith(u"What this wrote was changed"_s));
+        QCOMPARE(shownRows(), {u"|Elsewhere"_s});
+        QVERIFY(!m_window->isModified());
+    }
+
     void takesBackAnImport()
     {
         m_test->setBytes(u"TODOActv.FIL"_s,
