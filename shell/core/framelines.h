@@ -59,7 +59,8 @@ inline QString showOtherEditions()
 
 inline QString changedSince(const QString &title)
 {
-    return u"What this wrote was changed elsewhere since; nothing was undone, and it is shown as it is: "_s + title;
+    return u"What this wrote was changed elsewhere since; nothing was undone, and it is shown as it is: "_s +
+           title;
 }
 
 inline QString typedSince(const QString &title)
