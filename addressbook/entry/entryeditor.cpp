@@ -129,6 +129,7 @@ void EntryEditor::startNew()
 
 void EntryEditor::load(const AddressEntry &entry)
 {
+    m_begunRecord = 0;
     m_mode = Mode::View; // until all boxes are filled, which nobody types
     m_loaded = entry;
     m_picture = entry.picture;
@@ -141,7 +142,9 @@ AddressBook::SaveResult EntryEditor::save(AddressBook &book)
 {
     m_form->tidyDates();
     const AddressEntry entry = typed();
-    AddressBook::SaveResult result = isNew() ? book.saveNew(entry) : book.saveChanged(m_record, entry);
+    AddressBook::SaveResult result =
+        isNew() ? book.saveNew(entry, m_begunRecord) : book.saveChanged(m_record, entry);
+    m_begunRecord = isNew() && !result.isSaved ? result.record : 0;
     if (!result.isSaved) {
         emit said(FrameLines::refused(book.folder(), AddressMessages::saveFailed()));
         return result;

@@ -89,6 +89,7 @@ private:
     QVector<QPushButton *> m_entryButtons;
     Mode m_mode = Mode::View;
     int m_record = 0;
+    int m_begunRecord = 0;    ///< of a new entry whose save was refused in the middle
     bool m_mayChange = false; ///< the selected line leads to the shown entry
     bool m_isStray = false;   ///< the selected line leads to no entry
     QString m_line;           ///< the selected one

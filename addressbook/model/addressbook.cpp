@@ -163,21 +163,20 @@ int AddressBook::nextFreeRecord() const
     return visited + 1;
 }
 
-AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry)
+AddressBook::SaveResult AddressBook::saveNew(const AddressEntry &entry, int begunRecord)
 {
+    SaveResult result;
+    result.record = begunRecord;
     // One that was refused in the middle is finished first: saved once more, it would be there twice.
     if (ChangeSet::isPending(m_folder) && !ChangeSet::recover(m_folder))
-        return {};
-    const bool isAgain = m_refused && m_refused->second == entry;
-    const int record = isAgain ? m_refused->first : nextFreeRecord();
-    m_refused.reset();
-    SaveResult result;
+        return result;
+    const int record = begunRecord > 0 ? begunRecord : nextFreeRecord();
     result.isBookFull = record > overflowRecord;
     if (result.isBookFull)
         return result;
     result = write(record, entry);
-    if (!result.isSaved && ChangeSet::isPending(m_folder))
-        m_refused = {record, entry};
+    if (!result.isSaved && !ChangeSet::isPending(m_folder))
+        result.record = begunRecord;
     return result;
 }
 

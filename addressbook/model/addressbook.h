@@ -27,7 +27,7 @@ public:
 
     /// How a save went.
     struct [[nodiscard]] SaveResult {
-        int record = 0; ///< where the entry went; 0 when nothing was tried
+        int record = 0; ///< where the entry went, or will go; 0 when nothing was tried
         QString line;   ///< the entry's line for the name list
         RecordChange change;
         bool isSaved = false;
@@ -75,8 +75,9 @@ public:
     int nextFreeRecord() const;
 
     /// Writes `entry` to the first free record, and its line: both or, when the disk refuses, neither. The
-    /// last name is not checked here.
-    SaveResult saveNew(const AddressEntry &entry);
+    /// last name is not checked here. One that the disk refused in the middle has a record, which is
+    /// `begunRecord` when the same entry is saved again, changed or not.
+    SaveResult saveNew(const AddressEntry &entry, int begunRecord = 0);
 
     /// Writes the entry of `record` and its line: both or neither. A line that is too long is left out.
     SaveResult saveChanged(int record, const AddressEntry &entry);
@@ -125,7 +126,5 @@ private:
     /// index.
     bool isOutgrownLine(int record, QStringView line, const AddressEntry &entry) const;
 
-    /// The new entry that was refused in the middle, and the record that it gets nevertheless.
-    std::optional<std::pair<int, AddressEntry>> m_refused;
     const DataFolder &m_folder;
 };
