@@ -183,6 +183,20 @@ void MessageBox::closeEvent(QCloseEvent *event)
     event->setAccepted(!isVisible());
 }
 
+/// No box can be typed into here, so the letter alone can mean nothing else.
+void MessageBox::keyPressEvent(QKeyEvent *event)
+{
+    const bool isLetter = !(event->modifiers() & ~Qt::ShiftModifier) && !event->isAutoRepeat();
+    for (QPushButton *button : findChildren<QPushButton *>()) {
+        const QKeySequence key(Qt::ALT | Qt::Key(event->key()));
+        if (isLetter && m_answers.size() > 1 && key == QKeySequence::mnemonic(button->text())) {
+            button->click();
+            return;
+        }
+    }
+    AskingBox::keyPressEvent(event);
+}
+
 InputBox::InputBox(const QString &title, const QString &prompt, const QString &preset, QWidget *parent)
     : AskingBox(title, prompt, Message::Question, parent)
     , m_edit(named(new FieldBox(this), u"inputEdit"_s))

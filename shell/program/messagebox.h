@@ -35,7 +35,7 @@ private:
 };
 
 /// One message with its answers. Esc answers Cancel, or OK where there is nothing else; in a Yes/No box it
-/// does nothing, since No may lose work.
+/// does nothing, since No may lose work. The underlined letter of an answer gives it, with Alt or alone.
 class MessageBox final : public AskingBox
 {
     Q_OBJECT
@@ -48,6 +48,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void take(Answer answer);

@@ -4,6 +4,7 @@
 #include "shell/look/theme.h"
 #include "shell/program/messagebox.h"
 #include "shell/program/qtdialogs.h"
+#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 #include <QApplication>
@@ -36,12 +37,28 @@ private slots:
         QTRY_VERIFY(m_window->isActiveWindow());
     }
 
-    void takesEscapeForASafeNo()
+    void takesKeysForAnAnswer_data()
     {
-        whenAsked([](QWidget &box) { QTest::keyClick(&box, Qt::Key_Escape); });
-        const Message question{
-            u"Delete"_s, u"Really?"_s, Message::Warning, {Answer::Yes, Answer::No}, Answer::No};
-        QCOMPARE(m_dialogs.ask(m_window.get(), question), Answer::No);
+        const QVector<Answer> yesNo{Answer::Yes, Answer::No}, all{Answer::Yes, Answer::No, Answer::Cancel};
+        rows<QVector<Answer>, QKeyCombination, Answer>({
+            {"a safe No", yesNo, Qt::Key_Escape, Answer::No},
+            {"Y", yesNo, Qt::Key_Y, Answer::Yes},
+            {"N", yesNo, Qt::Key_N, Answer::No},
+            {"a capital letter", all, Qt::SHIFT | Qt::Key_Y, Answer::Yes},
+            {"with Alt", all, Qt::ALT | Qt::Key_Y, Answer::Yes},
+            {"C", all, Qt::Key_C, Answer::Cancel},
+        });
+    }
+
+    void takesKeysForAnAnswer()
+    {
+        const auto [answers, key, answer] = row<QVector<Answer>, QKeyCombination, Answer>();
+        whenAsked([key = key](QWidget &box) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_X); // means nothing
+            QTest::keyClick(&box, key.key(), key.keyboardModifiers());
+        });
+        const Message question{u"Delete"_s, u"Really?"_s, Message::Warning, answers, Answer::No};
+        QCOMPARE(m_dialogs.ask(m_window.get(), question), answer);
     }
 
     void tellsAnEmptyInputFromCancel()
