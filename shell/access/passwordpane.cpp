@@ -128,7 +128,7 @@ void PasswordPane::connectAll()
     connect(m_ok, &QPushButton::clicked, this, &PasswordPane::carryOut);
     connect(m_cancel, &QPushButton::clicked, this, &PasswordPane::close);
     for (QLineEdit *box : {m_old, m_new, m_repeat}) {
-        connect(box, &QLineEdit::returnPressed, this, &PasswordPane::carryOut);
+        connect(box, &QLineEdit::returnPressed, this, [this, box] { enter(box); });
         connect(box, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
         connect(m_showPasswords, &QCheckBox::toggled, box,
                 [box](bool shown) { box->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });
@@ -203,6 +203,16 @@ void PasswordPane::close()
     m_form->hide();
     if (hadFocus)
         firstControl()->setFocus();
+}
+
+/// Enter leads through the boxes while the next one is empty, and carries out behind the last.
+void PasswordPane::enter(const QLineEdit *box)
+{
+    QLineEdit *next = box == m_old ? m_new : m_repeat;
+    if (box != m_repeat && next->isVisible() && next->text().isEmpty() && !box->text().isEmpty())
+        next->setFocus();
+    else
+        carryOut();
 }
 
 void PasswordPane::carryOut()

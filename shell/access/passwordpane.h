@@ -47,6 +47,7 @@ private:
     void connectAll();
     void begin(Task task);
     void close();
+    void enter(const QLineEdit *box);
     void carryOut();
     bool isAcceptable();
     bool refuse(QLineEdit *box, const QString &reason);

@@ -32,6 +32,8 @@ private slots:
             QVERIFY(!mark(area)->isEnabled() && !mark(area)->toolTip().isEmpty());
         click("setPassword");
         type("Text1_1", u"Tulips"_s);
+        QTest::keyClick(find<QLineEdit>("Text1_1"), Qt::Key_Return);
+        QVERIFY(find<QLineEdit>("Text1_2")->hasFocus() && labelText("refusal").isEmpty());
         type("Text1_2", u"Tulips"_s);
         QTest::keyClick(find<QLineEdit>("Text1_2"), Qt::Key_Return);
         QVERIFY(file().matches(u"Tulips"_s));
