@@ -184,6 +184,16 @@ void FieldBox::setLocked(bool locked)
     setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
+/// A long text shows its beginning when the box is left. A menu, and another window, are only a moment.
+void FieldBox::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+        reason != Qt::MenuBarFocusReason)
+        home(false);
+}
+
 ElidedLabel::ElidedLabel(QWidget *parent)
     : QLabel(parent)
 {

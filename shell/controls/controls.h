@@ -50,6 +50,9 @@ signals:
     /// bar.
     void refused(const QString &reason);
 
+protected:
+    void focusOutEvent(QFocusEvent *event) override;
+
 private:
     class Validator;
 

@@ -29,6 +29,13 @@ void SearchBox::startAgain()
     selectAll();
 }
 
+void SearchBox::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::OtherFocusReason)
+        selectAll();
+}
+
 void SearchBox::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && !text().isEmpty()) {

@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 /// The box of a search, with its sign before the words. Esc clears it while it is filled; Down leads to what
-/// it searches.
+/// it searches. Back from there its text is selected, to be typed over.
 class SearchBox final : public QLineEdit
 {
     Q_OBJECT
@@ -23,6 +23,7 @@ signals:
     void leftDown();
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -91,6 +91,19 @@ private slots:
         }
     }
 
+    void aLongTextShowsItsBeginningOnceItIsLeft()
+    {
+        QWidget window;
+        FieldBox box(&window), other(&window);
+        showActive(window);
+        box.setFocus();
+        QTest::keyClicks(&box, u"A text that is typed to its end"_s);
+        QMenu().popup({});
+        QCOMPARE(box.cursorPosition(), box.text().size());
+        other.setFocus();
+        QCOMPARE(box.cursorPosition(), 0);
+    }
+
     void aLockedBoxIsSkipped()
     {
         QWidget window;
