@@ -279,6 +279,19 @@ void AddressViewer::removeRow(int row)
     m_shown.erase(m_shown.begin() + row);
 }
 
+bool AddressViewer::bringBack(QStringView name, int record)
+{
+    const QByteArray bytes = AnsiText::encode(name);
+    const auto removed = std::ranges::find_if(m_rows, [&](const Row &row) {
+        return row.isRemoved && row.record == record && nameBytes(row) == bytes;
+    });
+    if (removed == m_rows.end())
+        return false;
+    removed->isRemoved = false;
+    refresh();
+    return true;
+}
+
 void AddressViewer::sort(std::optional<Order> order)
 {
     m_order = order;

@@ -84,6 +84,8 @@ public:
 
     /// Takes a row off the view until the next `load`.
     void removeRow(int row);
+    /// Brings back a row with this name and record that was taken off. False: there is none.
+    bool bringBack(QStringView name, int record);
 
     enum class Column { Name, Information };
     struct Order {

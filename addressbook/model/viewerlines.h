@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "addressbook/model/addressviewer.h"
+
+#include <QLocale>
 #include <QString>
 
 /// Quiet lines of the viewer and the pictures screen; reasons of disabled commands among them.
@@ -63,14 +66,23 @@ inline QString noMailProgram()
     return u"No mail program could be opened"_s;
 }
 
-inline QString rangeShown(bool isBirthday, const QString &month)
+/// Nothing of all names.
+inline QString rangeShown(const DisplayRange &range)
 {
-    return (isBirthday ? u"Birthdays in "_s : u"Anniversaries in "_s) + month;
+    if (range.kind == DisplayRange::All)
+        return {};
+    return (range.kind == DisplayRange::BirthMonth ? u"Birthdays in "_s : u"Anniversaries in "_s) +
+           QLocale::c().standaloneMonthName(range.month);
 }
 
 inline QString notExported(const QString &name)
 {
     return u"The file "_s + name + u" could not be saved"_s;
+}
+
+inline QString rowDeleted(const QString &name)
+{
+    return u"Row deleted: "_s + name;
 }
 
 inline QString removed(const QString &name)

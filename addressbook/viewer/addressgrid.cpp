@@ -83,6 +83,14 @@ int AddressGrid::rowOf(const Identity &identity) const
     return renamed;
 }
 
+bool AddressGrid::bringBack(const Identity &identity)
+{
+    beginResetModel();
+    const bool isBack = m_viewer.bringBack(identity.name, identity.record);
+    endResetModel();
+    return isBack;
+}
+
 int AddressGrid::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : std::max(1, m_viewer.count());

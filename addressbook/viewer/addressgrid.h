@@ -40,6 +40,8 @@ public:
     Identity identity(int row) const;
     /// The row of this entry, under another name where it was renamed, or -1.
     int rowOf(const Identity &identity) const;
+    /// Brings back what was removed by hand. False: it was not.
+    bool bringBack(const Identity &identity);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;

@@ -187,6 +187,15 @@ bool GridPane::remove(const AddressGrid::Identity &entry)
     return true;
 }
 
+bool GridPane::bringBack(const AddressGrid::Identity &entry)
+{
+    if (!m_rows->bringBack(entry))
+        return false;
+    if (const int row = m_rows->rowOf(entry); row >= 0) // a search may leave it out
+        m_grid->setCurrentIndex(m_rows->index(row, m_grid->currentIndex().column()));
+    return true;
+}
+
 void GridPane::keepPlace()
 {
     m_isPlacing = true;

@@ -46,6 +46,8 @@ public:
     void sortBy(int column);
     /// Takes the entry off the grid. False: it is not there any more.
     bool remove(const AddressGrid::Identity &entry);
+    /// Brings it back, as the current one. False: it is there, or was read anew since.
+    bool bringBack(const AddressGrid::Identity &entry);
 
 signals:
     void rowsChanged();

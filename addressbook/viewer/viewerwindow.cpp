@@ -11,6 +11,7 @@
 #include "addressbook/viewer/listoptionspanel.h"
 #include "addressbook/viewer/pictureprint.h"
 #include "addressbook/viewer/pictureswindow.h"
+#include "addressbook/viewer/rowremoval.h"
 #include "addressbook/viewer/viewerchoices.h"
 #include "shell/access/gate.h"
 #include "shell/controls/activitybar.h"
@@ -21,6 +22,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
+#include "shell/frame/undostack.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "storage/saving.h"
@@ -28,7 +30,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
-#include <QLocale>
 #include <QMenu>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -137,19 +138,21 @@ void ADDBKDISPLAY::addRowCommands(QMenu &options)
 {
     Commands &all = commands();
     const auto noRows = [this] { return m_grid->whyNoRows(); };
-    const auto noRow = [this] { return m_grid->whyNoRow(); };
-    const auto noEntry = [this] { return m_grid->whyNoEntry(); };
     QAction *open = all.add(
-        &options, u"mOEntry"_s, u"Ope&n Entry"_s, [this] { openEntry(); }, noEntry);
+        &options, u"mOEntry"_s, u"Ope&n Entry"_s, [this] { openEntry(); },
+        [this] { return m_grid->whyNoEntry(); });
     options.addSeparator();
     QAction *copy = all.add(
         &options, u"mOCopy"_s, u"Cop&y"_s, [this] { copyRows(); }, noRows);
     QAction *out = all.writing(all.add(
         &options, u"mOExp"_s, u"Expor&t"_s, [this] { exportRows(); }, noRows));
     QAction *remove = all.add(
-        &options, u"mODel"_s, u"&Delete Row"_s, [this] { removeRow(); }, noRow);
+        &options, u"mODel"_s, u"&Delete Row"_s, [this] { removeRow(); },
+        [this] { return m_grid->whyNoRow(); });
     addSortMenu(options);
     QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
+    undoStack().addCommands(edit);
+    edit->addSeparator();
     all.repeat(copy, edit, u"mECopy"_s, u"&Copy"_s);
     all.repeat(remove, edit, u"mEDel"_s);
     all.setKeyIn(m_grid, remove, CommonKeys::remove);
@@ -256,10 +259,8 @@ void ADDBKDISPLAY::updateDisplay()
 void ADDBKDISPLAY::showRange(const DisplayRange &range)
 {
     m_grid->load(m_choices->information(), range);
-    const bool isBirthday = range.kind == DisplayRange::BirthMonth;
-    activity().say(range.kind == DisplayRange::All
-                       ? QString()
-                       : ViewerLines::rangeShown(isBirthday, QLocale::c().standaloneMonthName(range.month)));
+    undoStack().forgetTyped(); // all rows are back
+    activity().say(ViewerLines::rangeShown(range));
 }
 
 void ADDBKDISPLAY::search()
@@ -310,11 +311,9 @@ void ADDBKDISPLAY::removeRow()
 {
     showGrid();
     const AddressGrid::Identity asked = m_grid->current();
-    if (m_grid->row() < 0 || ask(ViewerMessages::removeRow()) != Answer::Yes)
-        return;
     // Coming back from the question may have read the rows anew.
-    if (m_grid->remove(asked))
-        activity().say(ViewerLines::removed(asked.name));
+    if (m_grid->row() >= 0 && ask(ViewerMessages::removeRow()) == Answer::Yes)
+        removeFromGrid(*m_grid, asked, undoStack(), activity());
 }
 
 void ADDBKDISPLAY::writeMail(const QString &address)

@@ -139,8 +139,15 @@ private slots:
         QCOMPARE(m_test->bytes(u"Addbk1.Fil"_s), entries);
         QCOMPARE(m_test->bytes(u"Addbk2.Fil"_s), lines);
         asked();
-        show();
+        QTest::keyClick(grid(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(count(), u"No. Of Names: 40"_s);
+        QCOMPARE(grid()->currentIndex().row(), 1);
+        QCOMPARE(said(), u"Undone: Row deleted: Quill, David"_s);
+        QTest::keyClick(grid(), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(count(), u"No. Of Names: 39"_s);
+        choose(Information::FaxNumber); // which brings all back
+        QCOMPARE(count(), u"No. Of Names: 40"_s);
+        QVERIFY(!find<QAction>("mEUndo")->isEnabled());
     }
 
     void dialsTheHighlightedNumber()
