@@ -56,8 +56,8 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     m_kinds->setSpacing(24);
     m_kinds->addWidget(m_form);
     m_kinds->addWidget(m_outlook, 1);
-    m_body->addWidget(makeScrolling(content, u"recurrenceScroll"_s, this));
     m_body->addWidget(makeProgressPanel());
+    m_body->addWidget(makeScrolling(content, u"recurrenceScroll"_s, this));
     setWork(m_body);
     makeFoot();
     connect(m_form, &RecurrenceForm::kindChosen, this, &RecurrencePanel::checkLimit);
@@ -135,7 +135,7 @@ void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPl
     setTitle(u"Recurrence Option: \u201c"_s + words.trimmed() + u'\u201d');
     m_form->reset(date);
     m_range->reset(date, options);
-    m_body->setCurrentIndex(0);
+    m_body->setCurrentIndex(1);
     if (const auto likely = likelyRecurrence(m_program.folder, appointment, date))
         m_form->propose(*likely);
     m_form->focusKind();
@@ -295,7 +295,7 @@ void RecurrencePanel::setRunning(bool isRunning)
     refreshWords();
     m_stop->setChecked(false);
     m_progress->setValue(0);
-    m_body->setCurrentIndex(isRunning ? 1 : 0);
+    m_body->setCurrentIndex(isRunning ? 0 : 1);
     emit busyChanged(isRunning);
     (isRunning ? static_cast<QWidget *>(m_stop) : m_ok)->setFocus();
 }

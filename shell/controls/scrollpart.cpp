@@ -11,19 +11,35 @@
 
 ScrollPart::ScrollPart(QWidget *content, QWidget *parent)
     : QScrollArea(parent)
+    , m_content(content)
     , m_low(new LowWindow(this))
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
-    setWidget(content);
-    content->setAutoFillBackground(false);
+    content->setParent(viewport());
     viewport()->setAutoFillBackground(false);
     connect(m_low, &LowWindow::changed, this, &QWidget::updateGeometry);
 }
 
+bool ScrollPart::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish && !widget()) {
+        setWidget(m_content);
+        m_content->setAutoFillBackground(false);
+    }
+    return QScrollArea::event(event);
+}
+
+QSize ScrollPart::sizeHint() const
+{
+    ensurePolished();
+    return QScrollArea::sizeHint();
+}
+
 QSize ScrollPart::minimumSizeHint() const
 {
+    ensurePolished();
     const QSize least = QScrollArea::minimumSizeHint();
     return isWhole() ? QSize(least.width(), contentHeight()) : least;
 }

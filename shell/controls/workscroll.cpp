@@ -22,6 +22,7 @@ constexpr int roomAroundFocus = 32; // the label above a box
 
 WorkScroll::WorkScroll(QWidget *work, QWidget *parent)
     : QScrollArea(parent)
+    , m_content(new QWidget(viewport()))
     , m_low(new LowWindow(this))
     , m_settled(new QTimer(this))
 {
@@ -29,13 +30,10 @@ WorkScroll::WorkScroll(QWidget *work, QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
+    auto *layout = new QVBoxLayout(m_content);
     layout->setContentsMargins({});
     layout->addWidget(work);
-    setWidget(content);
     setFocusProxy(work->focusProxy());
-    content->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
     connect(m_low, &LowWindow::changed, this, &WorkScroll::fit);
     m_settled->setSingleShot(true);
@@ -54,13 +52,24 @@ WorkScroll *WorkScroll::around(const QWidget *part)
     return static_cast<WorkScroll *>(parent);
 }
 
+bool WorkScroll::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish && !widget()) {
+        setWidget(m_content);
+        m_content->setAutoFillBackground(false);
+    }
+    return QScrollArea::event(event);
+}
+
 QSize WorkScroll::sizeHint() const
 {
+    ensurePolished();
     return widget()->sizeHint();
 }
 
 QSize WorkScroll::minimumSizeHint() const
 {
+    ensurePolished();
     const QSize least = widget()->minimumSizeHint();
     return {least.width(), std::min(least.height(), leastHeight)};
 }
@@ -82,6 +91,8 @@ void WorkScroll::resizeEvent(QResizeEvent *event)
 
 void WorkScroll::fit()
 {
+    if (!widget())
+        return;
     const QSize whole = maximumViewportSize();
     const int least = m_low->isLow() ? widget()->layout()->totalMinimumSize().height() : 0;
     const int bar = least > whole.height() ? verticalScrollBar()->sizeHint().width() : 0;
@@ -96,6 +107,6 @@ void WorkScroll::fit()
 void WorkScroll::follow()
 {
     QWidget *focused = QApplication::focusWidget();
-    if (focused && widget()->isAncestorOf(focused) && QGuiApplication::mouseButtons() == Qt::NoButton)
+    if (focused && m_content->isAncestorOf(focused) && QGuiApplication::mouseButtons() == Qt::NoButton)
         ensureWidgetVisible(focused, 0, roomAroundFocus);
 }

@@ -7,7 +7,8 @@ class LowWindow;
 class QTimer;
 
 /// The work of a window. In a low window it scrolls as a whole, with what scrolls within it elsewhere, and
-/// follows the focus; anywhere else it has the height that there is.
+/// follows the focus; anywhere else it has the height that there is. It takes the work when it is given its
+/// style, as `ScrollPart` does.
 class WorkScroll final : public QScrollArea
 {
     Q_OBJECT
@@ -22,6 +23,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -29,6 +31,7 @@ private:
     void fit();
     void follow();
 
+    QWidget *m_content;
     LowWindow *m_low;
     QTimer *m_settled; ///< the layout is done
 };

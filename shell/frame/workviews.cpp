@@ -4,6 +4,8 @@
 #include "shell/controls/taskpanel.h"
 #include "shell/controls/workscroll.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QScrollBar>
 
 WorkViews::WorkViews(QWidget *parent)
@@ -17,22 +19,54 @@ WorkViews::WorkViews(QWidget *parent)
     });
 }
 
+WorkViews::~WorkViews()
+{
+    qDeleteAll(m_aside);
+}
+
 void WorkViews::addHome(QWidget *home)
 {
     m_homes.append(home);
     if (!m_home)
         m_home = home;
-    addWidget(home);
+    home->setParent(this);
+}
+
+/// The home comes to the front when the views are given their style, and not again with each move of theirs
+/// on the way into the window.
+bool WorkViews::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish && !currentWidget())
+        bring(m_home);
+    return QStackedWidget::event(event);
 }
 
 void WorkViews::addView(QWidget *view)
 {
-    addWidget(view);
+    keepAside(view);
+}
+
+/// Each widget asks for its style when it is made, and would get it before the window is painted.
+void WorkViews::keepAside(QWidget *view)
+{
+    view->setParent(nullptr);
+    QCoreApplication::removePostedEvents(view, QEvent::PolishRequest);
+    for (QWidget *part : view->findChildren<QWidget *>())
+        QCoreApplication::removePostedEvents(part, QEvent::PolishRequest);
+    m_aside.append(view);
+}
+
+void WorkViews::bring(QWidget *view)
+{
+    m_aside.removeOne(view);
+    if (indexOf(view) < 0)
+        addWidget(view);
+    setCurrentWidget(view);
 }
 
 void WorkViews::addPanel(TaskPanel *panel)
 {
-    addWidget(panel);
+    keepAside(panel);
     connect(panel, &TaskPanel::left, this, &WorkViews::goHome);
 }
 
@@ -41,14 +75,14 @@ void WorkViews::setHome(QWidget *home)
     const bool wasHome = m_homes.contains(currentWidget());
     m_home = home;
     if (wasHome)
-        setCurrentWidget(home);
+        bring(home);
 }
 
 void WorkViews::open(QWidget *view)
 {
     if (isHome() && view != m_home)
         m_focusAtHome = window()->focusWidget();
-    setCurrentWidget(view);
+    bring(view);
 }
 
 void WorkViews::goHome()
@@ -58,7 +92,7 @@ void WorkViews::goHome()
     // Who is at work in another part of the window, a list beside the views say, stays there.
     const QWidget *focused = window()->focusWidget();
     const bool isElsewhere = focused && focused->isVisible() && !isAncestorOf(focused);
-    setCurrentWidget(m_home);
+    bring(m_home);
     QWidget *before = m_focusAtHome;
     m_focusAtHome = nullptr;
     if (isElsewhere)

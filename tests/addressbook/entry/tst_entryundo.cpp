@@ -86,6 +86,7 @@ private slots:
     void takesBackAPictureThatIsNotSaved()
     {
         const QByteArray path = "/pictures/anne.jpg";
+        click("Command7");
         emit find<PicturePanel>("picturePanel")->pictureEntered(QString::fromLatin1(path));
         QCOMPARE(m_window->mode(), ADDBKVIEW::Mode::Modify);
         undo();

@@ -64,7 +64,12 @@ protected:
     bool isOpen() const { return m_window && m_window->isVisible(); }
     QString caption() const { return find<QLabel>("SSPanel4")->accessibleName(); }
     QWidget *focus() const { return m_window->focusWidget(); }
-    bool isShown(const char *name) const { return find<QWidget>(name)->isVisible(); }
+    /// False as well for a panel that was not opened yet.
+    bool isShown(const char *name) const
+    {
+        const auto *view = m_window->findChild<QWidget *>(QLatin1StringView(name));
+        return view && view->isVisible();
+    }
     /// What the rows hold, as "time|text", up to the last that holds anything.
     QStringList shownRows() const
     {

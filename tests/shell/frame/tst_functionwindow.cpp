@@ -152,9 +152,9 @@ private slots:
     {
         const auto window = open();
         auto *box = control<QLineEdit>(*window, "box");
-        auto *over = control<QLineEdit>(*window, "over");
         box->setFocus();
         window->openOver();
+        auto *over = control<QLineEdit>(*window, "over");
         over->setFocus();
         window->showPreview([](const PageContext &) { return Page(u"Sample"_s); }, u"Sample"_s);
         QVERIFY(window->isPreviewShown());
