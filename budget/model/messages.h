@@ -51,10 +51,14 @@ inline Message copyIncomeToTheRight()
             Answer::No};
 }
 
-inline Message copyYear(int year)
+/// `items`: how many the year after has already.
+inline Message copyYear(int year, int items = 0)
 {
+    const QString there = items == 0   ? QString()
+                          : items == 1 ? u"\n%1 has 1 item already, which goes."_s.arg(year + 1)
+                                       : u"\n%1 has %2 items already, which go."_s.arg(year + 1).arg(items);
     return {u"Copy Year"_s,
-            u"Copy "_s + QString::number(year) + u" file to "_s + QString::number(year + 1) + u'?',
+            u"Copy "_s + QString::number(year) + u" file to "_s + QString::number(year + 1) + u'?' + there,
             Message::Question,
             {Answer::Yes, Answer::No},
             Answer::No};
@@ -86,6 +90,27 @@ inline Message saveBeforeExiting(int year)
 inline Message saveBeforeBackup(int year)
 {
     return saveChanges(year, u"Backup"_s);
+}
+
+inline Message saveBeforeCopying(int year)
+{
+    return saveChanges(year, u"Copying"_s);
+}
+
+inline Message saveBeforeUndo(int year)
+{
+    return saveChanges(year, u"Undoing"_s);
+}
+
+/// In front of the first save of a file with values that no sheet has room for.
+inline Message dropSurplus(const QString &file, int surplus)
+{
+    const QString values = surplus == 1 ? u"1 value"_s : u"%1 values"_s.arg(surplus);
+    return {u"Personal Budget"_s,
+            file + u" holds "_s + values + u" more than a budget has. Save without them?"_s,
+            Message::Question,
+            {Answer::Yes, Answer::No},
+            Answer::No};
 }
 
 inline Message noCellChosen()

@@ -1,8 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "budget/model/budgetfiles.h"
 #include "shell/frame/functionwindow.h"
+
+class BudgetYear;
+class ButtonRow;
+class QComboBox;
+class SheetCommands;
+class SheetGrid;
+class SheetModel;
+class TitleLine;
+class WorkViews;
+class WorksheetPane;
 
 /// The home budget: the worksheet of one year, what it comes to month by month, and the year's totals.
 class Budget1 final : public FunctionWindow
@@ -11,6 +20,48 @@ class Budget1 final : public FunctionWindow
 public:
     explicit Budget1(Program &program, QWidget *parent = nullptr);
 
+    bool isModified() const override;
+
+protected:
+    [[nodiscard]] bool save() override;
+    void drop() override;
+    Message leaveQuestion() const override;
+    Message replaceQuestion() const override;
+    void filesChanged() override;
+
 private:
-    BudgetFiles m_files;
+    QWidget *makeWorkPanel();
+    void makeSheetView();
+    QWidget *makeYearBox();
+    void makeFoot();
+    void makeCommands();
+    void addOptionCommands(QMenu *menu);
+    void addEditCommands(QMenu *menu);
+    void addUtilityCommands(QMenu *menu);
+    void connectSheet();
+    void connectYear();
+
+    QString whyNoSheet() const;
+    void saveByCommand();
+    void chooseYear(int year);
+    void copyYear();
+    void backUp();
+    void viewTotals();
+    void refreshTitle();
+    void refreshWords();
+    void warnOfLimit();
+
+    SheetModel *m_model;
+    BudgetYear *m_year;
+    WorkViews *m_views; ///< the sheet, and what stands over it
+    QWidget *m_sheetView;
+    TitleLine *m_title = nullptr;
+    QComboBox *m_years = nullptr;
+    WorksheetPane *m_pane = nullptr;
+    ButtonRow *m_foot = nullptr;
+    SheetCommands *m_edits = nullptr;
+    QAction *m_save = nullptr;
+    QAction *m_copyYear = nullptr;
+    QAction *m_totals = nullptr;
+    bool m_isWarning = false;
 };

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "budget/model/amount.h"
+
+#include <QString>
+
+#include <cmath>
+
+/// Lines that the budget writes into the status bar or beside a control; reasons of disabled commands among
+/// them.
+namespace BudgetLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString saved(int year)
+{
+    return u"Saved: the budget of %1"_s.arg(year);
+}
+
+inline QString notSaved()
+{
+    return u"The budget could not be saved: the disk refuses it. What is typed stays here."_s;
+}
+
+inline QString fileEndsEarly(const QString &file)
+{
+    return file + u" ends early: what it lacks is empty here"_s;
+}
+
+inline QString fileHasMore(const QString &file, int surplus)
+{
+    return surplus == 1 ? file + u" holds one value more than a budget has"_s
+                        : u"%1 holds %2 values more than a budget has"_s.arg(file).arg(surplus);
+}
+
+inline QString changedElsewhere(const QString &file)
+{
+    return file + u" was changed by another window or program; this is what it holds now"_s;
+}
+
+inline QString changedElsewhereToo(const QString &file)
+{
+    return file + u" was changed by another window or program; a save here would replace that"_s;
+}
+
+inline QString copied(int year)
+{
+    return u"Copied: the budget of %1 to %2"_s.arg(year).arg(year + 1);
+}
+
+inline QString notCopied(int year)
+{
+    return u"The disk refused the budget of %1; it is as it was"_s.arg(year + 1);
+}
+
+inline QString nothingToCopy(int year)
+{
+    return u"There is no saved budget of %1 to copy"_s.arg(year);
+}
+
+inline QString nothingToBackUp(int year)
+{
+    return u"There is no saved budget of %1 yet"_s.arg(year);
+}
+
+/// "March 2026: 212.40 left", "March 2026: 35.00 over"; what is shown as nothing is left.
+inline QString balance(const QString &when, double amount)
+{
+    const QString text = Amount::text(std::abs(amount));
+    const QString whole = text.startsWith(u'.') ? u'0' + text : text;
+    return when + u": "_s + whole + (Amount::rounded(amount) < 0 ? u" over"_s : u" left"_s);
+}
+
+inline QString inSheetOnly()
+{
+    return u"This is done in the sheet"_s;
+}
+
+inline QString howToEnterIncome()
+{
+    return u"Click a Total Income figure to change it"_s;
+}
+
+/// What undo calls an edit of one cell: "Groceries, Mar".
+inline QString cell(const QString &item, const QString &month)
+{
+    if (month.isEmpty())
+        return item.isEmpty() ? u"Item"_s : item;
+    return item.isEmpty() ? month : item + u", "_s + month;
+}
+
+inline QString income(const QString &month)
+{
+    return u"Total Income, "_s + month;
+}
+
+inline QString deletedRow(const QString &item, int row)
+{
+    return u"Deleted row: "_s + (item.isEmpty() ? QString::number(row + 1) : item);
+}
+
+} // namespace BudgetLines

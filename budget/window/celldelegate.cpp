@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/celldelegate.h"
+
+#include "budget/window/sheetgrid.h"
+#include "budget/window/sheetlook.h"
+#include "budget/window/sheetmodel.h"
+#include "shell/controls/controls.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int signSize = 16;
+
+void drawRim(QPainter &painter, const QRect &cell, const Theme &theme, bool hasFocus)
+{
+    painter.setPen(QPen(hasFocus ? theme.accent : theme.edge, hasFocus ? 2 : 1));
+    const int half = hasFocus ? 1 : 0;
+    painter.drawRect(cell.adjusted(half, half, -1, -1));
+}
+
+} // namespace
+
+CellDelegate::CellDelegate(SheetGrid *grid)
+    : QStyledItemDelegate(grid)
+    , m_grid(grid)
+{}
+
+void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                         const QModelIndex &index) const
+{
+    const Theme &theme = Theme::of(m_grid);
+    const bool isCurrent = index == m_grid->currentIndex();
+    const bool isOver = index.data(SheetModel::overPlanRole).toBool();
+    if (isCurrent)
+        painter->fillRect(option.rect, theme.mark);
+    else if (option.state & QStyle::State_Selected)
+        painter->fillRect(option.rect, theme.soft);
+    else if (index.row() % 2 != 0)
+        painter->fillRect(option.rect, theme.alternate);
+    if (isOver)
+        painter->fillRect(option.rect, SheetLook::redFill(theme));
+    if (isCurrent)
+        drawRim(*painter, option.rect, theme, m_grid->hasFocus());
+    QRect place = option.rect.adjusted(SheetLook::inset, 0, -SheetLook::inset, 0);
+    if (isOver) {
+        const QRect sign(place.left() - 3, place.center().y() - signSize / 2 + 1, signSize, signSize);
+        painter->drawPixmap(sign.topLeft(),
+                            Icons::pixmap("overdue"_L1, theme.scheme, signSize, m_grid->devicePixelRatioF()));
+        place.setLeft(sign.right());
+    }
+    painter->setFont(option.font);
+    painter->setPen(isOver ? SheetLook::red(theme) : theme.text);
+    const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    painter->drawText(place, int(alignment),
+                      option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, place.width()));
+}
+
+QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
+                                    const QModelIndex &index) const
+{
+    auto *box = named(new FieldBox(parent), u"Text1"_s);
+    box->setFrame(false);
+    box->setProperty("cell", true);
+    box->setAlignment(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>());
+    connect(box, &FieldBox::refused, this, &CellDelegate::refused);
+    m_editor = box;
+    return box;
+}
+
+void CellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                        const QModelIndex &) const
+{
+    editor->setGeometry(option.rect);
+}
+
+void CellDelegate::finish()
+{
+    if (!m_editor || m_editor->isHidden()) // hidden: the grid has taken what it held
+        return;
+    emit commitData(m_editor);
+    emit closeEditor(m_editor);
+}
+
+/// Keys that lead out of the box: as in any worksheet, the arrows too where typing replaced the cell's text.
+bool CellDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && watched == m_editor) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (m_grid->isWayOut(*key)) {
+            finish();
+            m_grid->walk(*key);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::eventFilter(watched, event);
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPointer>
+#include <QStyledItemDelegate>
+
+class SheetGrid;
+
+/// Draws a cell of the worksheet, and holds the box in which one types into it.
+class CellDelegate final : public QStyledItemDelegate
+{
+    Q_OBJECT
+public:
+    explicit CellDelegate(SheetGrid *grid);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const override;
+
+    /// What is typed in the open box goes into its cell, and the box away.
+    void finish();
+
+signals:
+    /// Something typed or pasted could not be taken; a sentence for the status bar.
+    void refused(const QString &reason) const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    SheetGrid *m_grid;
+    mutable QPointer<QWidget> m_editor;
+};

@@ -1,0 +1,301 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/sheetgrid.h"
+
+#include "budget/window/celldelegate.h"
+#include "budget/window/sheetheadings.h"
+#include "budget/window/sheetlook.h"
+#include "budget/window/sheetmodel.h"
+
+#include <QKeyEvent>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int monthCount = int(BudgetSheet::monthCount);
+constexpr int frame = 4; ///< rim and padding
+
+bool isEnter(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// The narrowest columns in which a person can read.
+int leastMonthWidth()
+{
+    const QFontMetrics strong(TypeScale::strong());
+    const QFontMetrics body(TypeScale::body());
+    return std::max(strong.horizontalAdvance(u"-9999.99"_s), body.horizontalAdvance(u"99999.99"_s)) +
+           2 * SheetLook::inset + 1;
+}
+
+int leastItemWidth()
+{
+    return QFontMetrics(TypeScale::body()).horizontalAdvance(u"Doctor and dentist"_s) + 2 * SheetLook::inset;
+}
+
+} // namespace
+
+SheetGrid::SheetGrid(SheetModel &model, QWidget *parent)
+    : QTableView(parent)
+    , m_delegate(new CellDelegate(this))
+{
+    setModel(&model);
+    setItemDelegate(m_delegate);
+    setSelectionMode(ContiguousSelection);
+    setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerItem);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setFont(TypeScale::body());
+    setHorizontalHeader(new SheetHeadings(Qt::Horizontal, this));
+    setVerticalHeader(new SheetHeadings(Qt::Vertical, this));
+    connect(m_delegate, &CellDelegate::refused, this, &SheetGrid::said);
+}
+
+int SheetGrid::heightOfRows(int rows) const
+{
+    return horizontalHeader()->sizeHint().height() + rows * SheetLook::rowHeight() + 2 * frame;
+}
+
+/// The months share the room evenly; what is left over is the items'.
+void SheetGrid::fitColumns()
+{
+    const int room = viewport()->width();
+    const int least = leastMonthWidth();
+    m_monthsInView = std::clamp((room - leastItemWidth()) / least, 1, monthCount);
+    m_firstMonth = std::clamp(m_firstMonth, 0, monthCount - m_monthsInView);
+    const int item = std::max(leastItemWidth(), room / 7);
+    const int month = std::max(least, (room - item) / m_monthsInView);
+    setColumnWidth(SheetColumn::item, std::max(leastItemWidth(), room - month * m_monthsInView));
+    for (int i = 0; i < monthCount; ++i) {
+        const int column = SheetColumn::firstMonth + i;
+        setColumnWidth(column, month);
+        setColumnHidden(column, i < m_firstMonth || i >= m_firstMonth + m_monthsInView);
+    }
+    emit columnsMoved();
+}
+
+void SheetGrid::setFirstMonth(int month)
+{
+    month = std::clamp(month, 0, monthCount - m_monthsInView);
+    if (std::exchange(m_firstMonth, month) != month)
+        fitColumns();
+}
+
+void SheetGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    const int month = index.column() - SheetColumn::firstMonth;
+    if (month >= 0)
+        setFirstMonth(std::clamp(m_firstMonth, month - m_monthsInView + 1, month));
+    QTableView::scrollTo(index, hint);
+}
+
+SheetRange SheetGrid::range() const
+{
+    const QItemSelection selection = selectionModel()->selection();
+    if (!selection.isEmpty()) {
+        const QItemSelectionRange &chosen = selection.first();
+        return {chosen.top(), chosen.left(), chosen.bottom(), chosen.right()};
+    }
+    const QModelIndex current = currentIndex();
+    if (!current.isValid())
+        return {};
+    return {current.row(), current.column(), current.row(), current.column()};
+}
+
+void SheetGrid::choose(const SheetRange &range)
+{
+    if (range.isEmpty())
+        return;
+    const QModelIndex first = model()->index(range.top, range.left);
+    setCurrentIndex(first);
+    selectionModel()->select(QItemSelection(first, model()->index(range.bottom, range.right)),
+                             QItemSelectionModel::ClearAndSelect);
+    m_anchor = first;
+}
+
+void SheetGrid::finishEdit()
+{
+    m_delegate->finish();
+}
+
+bool SheetGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    if (state() != EditingState)
+        m_isTypedOver = trigger == AnyKeyPressed;
+    return QTableView::edit(index, trigger, event);
+}
+
+bool SheetGrid::isWayOut(const QKeyEvent &key) const
+{
+    switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        return m_isTypedOver && key.modifiers() == Qt::NoModifier;
+    default:
+        return false;
+    }
+}
+
+QModelIndex SheetGrid::beside(const QModelIndex &from, int rows, int columns, bool toEnd) const
+{
+    const auto isFilled = [](const QModelIndex &cell) { return !cell.data().toString().isEmpty(); };
+    QModelIndex at = from;
+    QModelIndex next = from.sibling(from.row() + rows, from.column() + columns);
+    if (!toEnd)
+        return next.isValid() ? next : from;
+    // To the last of the filled cells; from there, and from an empty one, to the next that is filled.
+    const bool isWithin = isFilled(at) && next.isValid() && isFilled(next);
+    while (next.isValid()) {
+        if (isWithin && !isFilled(next))
+            return at;
+        at = next;
+        if (!isWithin && isFilled(next))
+            return at;
+        next = at.sibling(at.row() + rows, at.column() + columns);
+    }
+    return at;
+}
+
+QModelIndex SheetGrid::afterTab(bool forward) const
+{
+    const QModelIndex from = currentIndex();
+    const int place = from.row() * SheetColumn::count + from.column() + (forward ? 1 : -1);
+    return place < 0 ? QModelIndex() : model()->index(place / SheetColumn::count, place % SheetColumn::count);
+}
+
+QModelIndex SheetGrid::target(const QKeyEvent &key) const
+{
+    const QModelIndex from = currentIndex();
+    const bool ctrl = key.modifiers().testFlag(Qt::ControlModifier);
+    const bool shift = key.modifiers().testFlag(Qt::ShiftModifier);
+    const int page = std::max(1, viewport()->height() / SheetLook::rowHeight() - 1);
+    const auto rowAt = [](int row) { return std::clamp(row, 0, int(BudgetSheet::rowCount) - 1); };
+    switch (key.key()) {
+    case Qt::Key_Left:
+        return beside(from, 0, -1, ctrl);
+    case Qt::Key_Right:
+        return beside(from, 0, 1, ctrl);
+    case Qt::Key_Up:
+        return beside(from, -1, 0, ctrl);
+    case Qt::Key_Down:
+        return beside(from, 1, 0, ctrl);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return beside(from, shift ? -1 : 1, 0, false);
+    case Qt::Key_Tab:
+        return afterTab(!shift);
+    case Qt::Key_Backtab:
+        return afterTab(false);
+    case Qt::Key_Home:
+        return model()->index(ctrl ? 0 : from.row(), 0);
+    case Qt::Key_End:
+        return model()->index(ctrl ? lastUsedRow() : from.row(), SheetColumn::count - 1);
+    case Qt::Key_PageUp:
+        return from.siblingAtRow(rowAt(from.row() - page));
+    case Qt::Key_PageDown:
+        return from.siblingAtRow(rowAt(from.row() + page));
+    default:
+        return {};
+    }
+}
+
+int SheetGrid::lastUsedRow() const
+{
+    for (int row = model()->rowCount() - 1; row > 0; --row) {
+        for (int column = 0; column < SheetColumn::count; ++column) {
+            if (!model()->index(row, column).data().toString().isEmpty())
+                return row;
+        }
+    }
+    return 0;
+}
+
+bool SheetGrid::walk(const QKeyEvent &key)
+{
+    if (key.modifiers().testFlag(Qt::AltModifier))
+        return false;
+    if (!currentIndex().isValid())
+        setCurrentIndex(model()->index(0, 0));
+    const QModelIndex to = target(key);
+    if (!to.isValid())
+        return false;
+    const bool isStep = isEnter(key.key()) || key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+    if (key.modifiers().testFlag(Qt::ShiftModifier) && !isStep) {
+        extendTo(to);
+    } else {
+        setCurrentIndex(to);
+        m_anchor = to;
+    }
+    return true;
+}
+
+void SheetGrid::extendTo(const QModelIndex &index)
+{
+    if (!m_anchor.isValid())
+        m_anchor = currentIndex();
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(QItemSelection(m_anchor, index), QItemSelectionModel::ClearAndSelect);
+}
+
+void SheetGrid::keyPressEvent(QKeyEvent *event)
+{
+    if (state() != EditingState && walk(*event))
+        event->accept();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void SheetGrid::mousePressEvent(QMouseEvent *event)
+{
+    QTableView::mousePressEvent(event);
+    if (!event->modifiers().testFlag(Qt::ShiftModifier))
+        m_anchor = currentIndex();
+}
+
+void SheetGrid::wheelEvent(QWheelEvent *event)
+{
+    const QPoint turned = event->angleDelta();
+    const int sideways = event->modifiers().testFlag(Qt::ShiftModifier) ? turned.y() : turned.x();
+    if (sideways == 0)
+        QTableView::wheelEvent(event);
+    else
+        setFirstMonth(m_firstMonth + (sideways < 0 ? 1 : -1));
+}
+
+void SheetGrid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    fitColumns();
+}
+
+void SheetGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    viewport()->update();
+    emit currentMoved(current);
+}
+
+/// Tab goes through the cells and out behind the last one.
+bool SheetGrid::focusNextPrevChild(bool next)
+{
+    const QModelIndex to = currentIndex().isValid() ? afterTab(next) : QModelIndex();
+    if (!to.isValid())
+        return QTableView::focusNextPrevChild(next);
+    setCurrentIndex(to);
+    m_anchor = to;
+    return true;
+}

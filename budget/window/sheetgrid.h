@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "budget/model/sheetrange.h"
+
+#include <QTableView>
+
+class CellDelegate;
+class SheetModel;
+
+/// The worksheet as a grid with the keys of a spreadsheet. Headings and items stay in sight: where twelve
+/// months have no room beside the items, some of them are shown, from `firstMonth` on.
+class SheetGrid final : public QTableView
+{
+    Q_OBJECT
+public:
+    explicit SheetGrid(SheetModel &model, QWidget *parent = nullptr);
+
+    int firstMonth() const { return m_firstMonth; }
+    int monthsInView() const { return m_monthsInView; }
+    void setFirstMonth(int month);
+
+    /// The chosen cells; empty where there are none.
+    SheetRange range() const;
+    /// Chooses `range`, with its first cell as the current one.
+    void choose(const SheetRange &range);
+    /// What is being typed goes into its cell.
+    void finishEdit();
+
+    /// Whether `key` ends the typing in a cell and leads to another.
+    bool isWayOut(const QKeyEvent &key) const;
+    /// Goes where `key` leads to; with Shift, the range grows. False for other keys.
+    bool walk(const QKeyEvent &key);
+
+    /// Room for so many whole rows below the headings.
+    int heightOfRows(int rows) const;
+
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+
+signals:
+    /// Columns have other places or widths.
+    void columnsMoved();
+    void currentMoved(const QModelIndex &current);
+    /// A sentence for the status bar.
+    void said(const QString &line);
+
+protected:
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void fitColumns();
+    /// The cell that lies where the arrow `key` leads to: the next one, or the end of what is filled.
+    QModelIndex beside(const QModelIndex &from, int rows, int columns, bool toEnd) const;
+    QModelIndex target(const QKeyEvent &key) const;
+    QModelIndex afterTab(bool forward) const;
+    int lastUsedRow() const;
+    void extendTo(const QModelIndex &index);
+
+    CellDelegate *m_delegate;
+    QPersistentModelIndex m_anchor;
+    int m_firstMonth = 0;
+    int m_monthsInView = 12;
+    bool m_isTypedOver = false; ///< the open box replaces what the cell held
+};

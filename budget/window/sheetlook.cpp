@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/sheetlook.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+
+#include <algorithm>
+
+namespace {
+constexpr int leastRowHeight = 28;
+constexpr QColor darkRed(0x80, 0, 0); ///< colour 4 of the sixteen-colour palette
+} // namespace
+
+int SheetLook::rowHeight()
+{
+    return std::max(leastRowHeight, QFontMetrics(QApplication::font()).height() + 8);
+}
+
+QColor SheetLook::red(const Theme &theme)
+{
+    return theme.scheme == Icons::Scheme::Dark ? theme.negative : darkRed;
+}
+
+QColor SheetLook::redFill(const Theme &theme)
+{
+    QColor fill = theme.negative;
+    fill.setAlphaF(0.12F);
+    return fill;
+}

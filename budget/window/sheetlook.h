@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/look/theme.h"
+
+/// What the grid and its totals rows have in common to look at.
+namespace SheetLook {
+
+inline constexpr int inset = 8; ///< between a text and the edges of its cell
+
+/// A row of the grid, and of the totals.
+int rowHeight();
+
+/// The red of a negative balance: dark red, or what reads as well on a dark ground.
+QColor red(const Theme &theme);
+/// The fill behind it.
+QColor redFill(const Theme &theme);
+
+} // namespace SheetLook

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/sheetmodel.h"
+
+#include "budget/model/amount.h"
+#include "budget/model/budgetentry.h"
+#include "budget/model/lines.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// `typed` in place of `original`, of which a box showed control characters as blanks: where nothing was
+/// typed, they stay.
+QString withControls(const QString &original, const QString &typed)
+{
+    const QString shown = inOneLine(original);
+    const qsizetype most = std::min(shown.size(), typed.size());
+    const auto same = std::ranges::mismatch(shown, typed).in1 - shown.begin();
+    qsizetype end = 0;
+    while (end < most - same && shown[shown.size() - 1 - end] == typed[typed.size() - 1 - end])
+        ++end;
+    return original.first(same) + typed.sliced(same, typed.size() - same - end) + original.last(end);
+}
+
+} // namespace
+
+SheetModel::SheetModel(QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_sheet(std::make_shared<BudgetSheet>())
+    , m_saved(m_sheet)
+{}
+
+void SheetModel::load(const BudgetSheet &sheet)
+{
+    m_saved = std::make_shared<BudgetSheet>(sheet);
+    show(m_saved);
+}
+
+void SheetModel::show(const Sheet &sheet)
+{
+    const SheetRange range = SheetRange::ofDifference(*m_sheet, *sheet);
+    m_sheet = sheet;
+    m_figures = BudgetFigures::of(*m_sheet);
+    if (!range.isEmpty())
+        emit dataChanged(index(range.top, range.left), index(range.bottom, range.right));
+    emit recomputed();
+}
+
+void SheetModel::change(const QString &title, const BudgetSheet &wanted)
+{
+    const Sheet before = m_beforePreview ? std::exchange(m_beforePreview, {}) : m_sheet;
+    if (wanted == *before) {
+        if (before != m_sheet)
+            show(before);
+        return;
+    }
+    const Sheet after = std::make_shared<BudgetSheet>(wanted);
+    show(after);
+    emit edited({title, [=, this] { return exchange(after, before); },
+                 [=, this] { return exchange(before, after); }, UndoStep::Typed});
+}
+
+void SheetModel::preview(const BudgetSheet &sheet)
+{
+    m_beforePreview = m_sheet;
+    show(std::make_shared<BudgetSheet>(sheet));
+}
+
+ChangeResult SheetModel::exchange(const Sheet &shown, const Sheet &wanted)
+{
+    if (*m_sheet != *shown)
+        return ChangeResult::Outdated;
+    show(wanted);
+    emit shownAgain(SheetRange::ofDifference(*shown, *wanted));
+    return ChangeResult::Done;
+}
+
+void SheetModel::setLayer(SheetLayer layer)
+{
+    if (layer == m_layer)
+        return;
+    m_layer = layer;
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    emit layerChanged();
+}
+
+void SheetModel::setSpent(const Sums &sums)
+{
+    m_spent = sums;
+    if (m_layer != SheetLayer::Spent)
+        return;
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    emit layerChanged();
+}
+
+int SheetModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(BudgetSheet::rowCount);
+}
+
+int SheetModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : SheetColumn::count;
+}
+
+QString SheetModel::cellShown(int row, int column) const
+{
+    if (m_layer == SheetLayer::Planned || column == SheetColumn::item)
+        return inOneLine(cellText(*m_sheet, row, column));
+    const double sum = m_spent[std::size_t(row)][std::size_t(column - SheetColumn::firstMonth)];
+    return sum == 0 ? QString() : Amount::text(sum);
+}
+
+bool SheetModel::isOverPlan(int row, int column) const
+{
+    if (m_layer == SheetLayer::Planned || column == SheetColumn::item)
+        return false;
+    const double sum = m_spent[std::size_t(row)][std::size_t(column - SheetColumn::firstMonth)];
+    return Amount::rounded(sum) > Amount::rounded(Amount::stored(cellText(*m_sheet, row, column)));
+}
+
+QVariant SheetModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return cellShown(index.row(), index.column());
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(Qt::AlignVCenter |
+                                   (index.column() == SheetColumn::item ? Qt::AlignLeft : Qt::AlignRight));
+    case overPlanRole:
+        return isOverPlan(index.row(), index.column());
+    default:
+        return {};
+    }
+}
+
+QVariant SheetModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Vertical)
+        return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(Qt::AlignVCenter |
+                                   (section == SheetColumn::item ? Qt::AlignLeft : Qt::AlignRight));
+    return role == Qt::DisplayRole ? SheetColumn::headings().value(section) : QVariant();
+}
+
+Qt::ItemFlags SheetModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return m_isReadOnly || !index.isValid() ? flags : flags | Qt::ItemIsEditable;
+}
+
+bool SheetModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
+        return false;
+    const QString typed = value.toString();
+    // Nothing was typed: what the file has stays, however it is written.
+    if (typed == cellShown(index.row(), index.column()))
+        return false;
+    return takeCell(index.row(), index.column(), typed);
+}
+
+bool SheetModel::takeCell(int row, int column, const QString &typed)
+{
+    if (column != SheetColumn::item && m_layer == SheetLayer::Spent) {
+        emit spentTyped(row, column - SheetColumn::firstMonth, typed);
+        return true;
+    }
+    BudgetSheet wanted = *m_sheet;
+    QString &text = cellText(wanted, row, column);
+    if (column == SheetColumn::item) {
+        text = withControls(text, typed);
+        change(BudgetLines::cell(inOneLine(text), {}), wanted);
+        return true;
+    }
+    const BudgetEntry entry = BudgetEntry::ofCell(typed);
+    text = entry.text;
+    change(BudgetLines::cell(inOneLine(cellText(wanted, row, SheetColumn::item)),
+                             SheetColumn::headings()[column]),
+           wanted);
+    if (entry.notice)
+        emit noticed(*entry.notice);
+    return true;
+}
