@@ -2,13 +2,19 @@
 #include "budget/model/budgetentry.h"
 
 #include "budget/model/amount.h"
+#include "budget/model/formula.h"
 #include "budget/model/messages.h"
 
 #include <algorithm>
 
+double BudgetEntry::amountOf(QStringView typed)
+{
+    return Amount::rounded(Formula::is(typed) ? Formula::value(typed).value_or(0) : Amount::typed(typed));
+}
+
 BudgetEntry BudgetEntry::ofCell(QStringView typed)
 {
-    const double amount = Amount::rounded(Amount::typed(typed));
+    const double amount = amountOf(typed);
     if (amount <= 0)
         return {{}, BudgetMessages::onlyNumbers()};
     if (amount > Amount::mostInCell)
@@ -18,7 +24,7 @@ BudgetEntry BudgetEntry::ofCell(QStringView typed)
 
 BudgetEntry BudgetEntry::ofIncome(QStringView typed)
 {
-    const double amount = Amount::rounded(Amount::typed(typed));
+    const double amount = amountOf(typed);
     if (amount > Amount::mostIncome)
         return {Amount::text(Amount::mostIncome), BudgetMessages::incomeLimit()};
     return {amount > 0 ? Amount::text(amount) : QString(), {}};

@@ -6,7 +6,8 @@
 
 #include <optional>
 
-/// What becomes of an amount that is typed into the worksheet, and what is said about it.
+/// What becomes of an amount that is typed into the worksheet, as a number or as a formula ("=3*42.50"), and
+/// what is said about it.
 struct BudgetEntry {
     QString text; ///< as it is shown and stored
     std::optional<Message> notice;
@@ -15,6 +16,9 @@ struct BudgetEntry {
     static BudgetEntry ofCell(QStringView typed);
     /// For a month's income: an amount below 100,000.
     static BudgetEntry ofIncome(QStringView typed);
+    /// What is typed in the place of an amount, to the nearest cent; 0 for a formula with something wrong in
+    /// it.
+    static double amountOf(QStringView typed);
 
     bool operator==(const BudgetEntry &) const = default;
 };
