@@ -72,6 +72,86 @@ inline QString balance(const QString &when, double amount)
     return when + u": "_s + whole + (Amount::rounded(amount) < 0 ? u" over"_s : u" left"_s);
 }
 
+// Edits, as undo and the status bar call them
+
+inline QString cut()
+{
+    return u"Cut cells"_s;
+}
+
+inline QString cleared()
+{
+    return u"Cleared cells"_s;
+}
+
+inline QString cellsCopied(int cells)
+{
+    return cells == 1 ? u"1 cell copied"_s : u"%1 cells copied"_s.arg(cells);
+}
+
+/// `leftOut`: cells that lay beyond the sheet; `foreign`: characters that the files cannot hold.
+inline QString pasted(int cells, int leftOut = 0, const QString &foreign = {})
+{
+    QString line = cells == 1 ? u"1 cell pasted"_s : u"%1 cells pasted"_s.arg(cells);
+    if (leftOut > 0)
+        line += u", %1 beyond the sheet left out"_s.arg(leftOut);
+    if (!foreign.isEmpty())
+        line += u". The files cannot hold: "_s + foreign;
+    return line;
+}
+
+inline QString nothingToPaste()
+{
+    return u"There is no text to paste"_s;
+}
+
+inline QString filledRight()
+{
+    return u"Filled to the right"_s;
+}
+
+inline QString everySecondMonth()
+{
+    return u"The same every second month"_s;
+}
+
+inline QString everyThirdMonth()
+{
+    return u"The same every third month"_s;
+}
+
+inline QString noAmountToRepeat()
+{
+    return u"Choose a cell with an amount first"_s;
+}
+
+inline QString spread(const QString &item)
+{
+    return item.isEmpty() ? u"Spread a sum"_s : u"Spread a sum: "_s + item;
+}
+
+inline QString insertedRow(int row)
+{
+    return u"Inserted row %1"_s.arg(row + 1);
+}
+
+inline QString noRoomForRow()
+{
+    return u"Row 50 is in use: there is no room for another row"_s;
+}
+
+inline QString movedRow(const QString &item, int row)
+{
+    return u"Moved row: "_s + (item.isEmpty() ? QString::number(row + 1) : item);
+}
+
+// Reasons
+
+inline QString inPlanOnly()
+{
+    return u"This is done where the plan is shown"_s;
+}
+
 inline QString inSheetOnly()
 {
     return u"This is done in the sheet"_s;

@@ -42,6 +42,19 @@ inline Message billsLimit()
             u"exceed 99999"_s};
 }
 
+inline QString spreadTitle()
+{
+    return u"Spread a Yearly Sum"_s;
+}
+
+/// `item`: empty for several of them.
+inline QString whichSum(const QString &item)
+{
+    return item.isEmpty()
+               ? u"Enter the sum that is to be spread evenly over the months."_s
+               : u"Enter the sum for "_s + item + u" that is to be spread evenly over the months."_s;
+}
+
 inline Message copyIncomeToTheRight()
 {
     return {u"Total Income Row"_s,

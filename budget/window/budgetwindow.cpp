@@ -133,6 +133,7 @@ void Budget1::addOptionCommands(QMenu *menu)
 {
     menu->addAction(standard(Standard::PanelColor));
     menu->addSeparator();
+    m_deleteRow = m_edits->addDeleteRow(menu);
     m_save = commands().writing(commands().add(
         menu, u"mOSave"_s, u"&Save"_s, [this] { saveByCommand(); }, [this] { return whyNoSheet(); },
         CommonKeys::save));
@@ -158,7 +159,7 @@ void Budget1::addUtilityCommands(QMenu *menu)
 void Budget1::makeFoot()
 {
     Commands &all = commands();
-    m_foot->addLeft(all.button(m_edits->deleteRowCommand(), u"Command6"_s, u"&Delete Row"_s, m_foot));
+    m_foot->addLeft(all.button(m_deleteRow, u"Command6"_s, u"&Delete Row"_s, m_foot));
     m_foot->addLeft(all.button(m_copyYear, u"Command7"_s, u"Copy &Year"_s, m_foot));
     m_foot->addRight(all.button(m_totals, u"Command8"_s, u"View &Totals"_s, m_foot));
     m_foot->addRight(all.button(m_save, u"saveBudget"_s, u"&Save"_s, m_foot, ButtonKind::Main));
@@ -179,6 +180,8 @@ void Budget1::connectSheet()
         m_model, &SheetModel::noticed, this, [this](const Message &message) { ask(message); },
         Qt::QueuedConnection);
     connect(&m_pane->grid(), &SheetGrid::said, &activity(), &ActivityBar::say);
+    connect(m_edits, &SheetCommands::said, &activity(), &ActivityBar::say);
+    connect(m_model, &SheetModel::layerChanged, &commands(), &Commands::refresh);
     connect(&m_pane->totals(), &TotalsRows::incomeClicked, this, [this](int month) {
         if (const QString reason = program().folder.whyReadOnly(); !reason.isEmpty())
             activity().say(reason);

@@ -60,6 +60,7 @@ private:
     WorksheetPane *m_pane = nullptr;
     ButtonRow *m_foot = nullptr;
     SheetCommands *m_edits = nullptr;
+    QAction *m_deleteRow = nullptr;
     QAction *m_save = nullptr;
     QAction *m_copyYear = nullptr;
     QAction *m_totals = nullptr;

@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/window/sheetcommands.h"
 
+#include "budget/model/amount.h"
 #include "budget/model/budgetentry.h"
 #include "budget/model/lines.h"
 #include "budget/model/messages.h"
+#include "budget/model/sheetedits.h"
 #include "budget/window/sheetgrid.h"
 #include "budget/window/sheetmodel.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/program/program.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QMenu>
 
 #include <algorithm>
@@ -24,29 +29,219 @@ SheetCommands::SheetCommands(Program &program, Desk desk, QWidget *window)
 
 void SheetCommands::addCommands(QMenu *edit)
 {
+    addClipboardCommands(edit);
+    edit->addSeparator();
+    addFillCommands(edit);
+    edit->addSeparator();
+    addRowCommands(edit);
+    m_desk.grid.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&m_desk.grid, &QWidget::customContextMenuRequested, edit,
+            [this, edit](QPoint place) { edit->popup(m_desk.grid.viewport()->mapToGlobal(place)); });
+}
+
+void SheetCommands::addClipboardCommands(QMenu *edit)
+{
+    const auto clear = [this](BudgetSheet &sheet, const SheetRange &range) {
+        SheetEdits::clear(sheet, range);
+    };
+    add(
+        edit, u"mECut"_s, u"Cu&t"_s,
+        [=, this] {
+            copy();
+            change(BudgetLines::cut(), clear);
+        },
+        QKeySequence::Cut);
+    QAction *copyCells = m_desk.commands.add(
+        edit, u"mECopyCells"_s, u"&Copy Cells"_s,
+        [this] {
+            if (isCellChosen())
+                copy();
+        },
+        m_desk.unless);
+    m_desk.commands.setKeyIn(&m_desk.grid, copyCells, QKeySequence::Copy);
+    add(
+        edit, u"mEPasteCells"_s, u"&Paste"_s, [this] { paste(); }, QKeySequence::Paste);
+    add(
+        edit, u"mEClear"_s, u"C&lear"_s, [=, this] { change(BudgetLines::cleared(), clear); },
+        CommonKeys::remove);
+}
+
+void SheetCommands::addFillCommands(QMenu *edit)
+{
+    add(
+        edit, u"mEFill"_s, u"&Fill Right"_s, [this] { repeatAmount(BudgetLines::filledRight(), 1); },
+        Qt::CTRL | Qt::Key_R);
+    add(edit, u"mESecond"_s, u"Every &Second Month"_s,
+        [this] { repeatAmount(BudgetLines::everySecondMonth(), 2); });
+    add(edit, u"mEThird"_s, u"Every T&hird Month"_s,
+        [this] { repeatAmount(BudgetLines::everyThirdMonth(), 3); });
+    add(edit, u"mESpread"_s, u"Spread a &Yearly Sum..."_s, [this] { spread(); });
+    add(
+        edit, u"mEIncome"_s, u"Total Inco&me..."_s,
+        [this] { enterIncome(std::max(0, m_desk.grid.currentIndex().column() - SheetColumn::firstMonth)); },
+        Qt::CTRL | Qt::Key_I);
+}
+
+void SheetCommands::addRowCommands(QMenu *edit)
+{
+    add(
+        edit, u"mEInsert"_s, u"&Insert Row"_s, [this] { insertRow(); }, CommonKeys::newEntry);
+    add(
+        edit, u"mEUp"_s, u"Move Row U&p"_s, [this] { moveRows(-1); }, Qt::ALT | Qt::Key_Up);
+    add(
+        edit, u"mEDown"_s, u"Move Row &Down"_s, [this] { moveRows(1); }, Qt::ALT | Qt::Key_Down);
+}
+
+QAction *SheetCommands::addDeleteRow(QMenu *menu)
+{
+    return add(menu, u"mODel"_s, u"&Delete Row"_s, [this] { deleteRow(); });
+}
+
+QAction *SheetCommands::add(QMenu *menu, const QString &name, const QString &caption,
+                            std::function<void()> run, const QKeySequence &key)
+{
     Commands &all = m_desk.commands;
-    m_deleteRow = all.writing(all.add(
-        edit, u"mODel"_s, u"&Delete Row"_s, [this] { deleteRow(); }, m_desk.unless));
+    QAction *command = all.writing(all.add(
+        menu, name, caption,
+        [this, run = std::move(run)] {
+            if (isCellChosen())
+                run();
+        },
+        [this] { return whyNoEdit(); }));
+    if (!key.isEmpty())
+        all.setKeyIn(&m_desk.grid, command, key);
+    return command;
+}
+
+QString SheetCommands::whyNoEdit() const
+{
+    if (const QString reason = m_desk.unless(); !reason.isEmpty())
+        return reason;
+    return m_desk.model.layer() == SheetLayer::Planned ? QString() : BudgetLines::inPlanOnly();
 }
 
 bool SheetCommands::isCellChosen()
 {
     m_desk.grid.finishEdit();
-    if (m_desk.grid.currentIndex().isValid())
+    if (!m_desk.grid.range().isEmpty())
         return true;
     m_program.dialogs.ask(m_window, BudgetMessages::noCellChosen());
     return false;
 }
 
+void SheetCommands::change(const QString &title, const Edit &edit)
+{
+    BudgetSheet wanted = m_desk.model.sheet();
+    edit(wanted, m_desk.grid.range());
+    m_desk.model.change(title, wanted);
+}
+
+void SheetCommands::show(const std::optional<Message> &message)
+{
+    if (message)
+        m_program.dialogs.ask(m_window, *message);
+}
+
+/// What the cells show, in the layer that is shown.
+void SheetCommands::copy()
+{
+    const SheetRange range = m_desk.grid.range();
+    GridText::Rows cells = SheetEdits::cells(m_desk.model.sheet(), range);
+    if (m_desk.model.layer() == SheetLayer::Spent) {
+        for (int row = 0; row < range.height(); ++row) {
+            for (int column = 0; column < range.width(); ++column)
+                cells[row][column] =
+                    m_desk.model.index(range.top + row, range.left + column).data().toString();
+        }
+    }
+    QApplication::clipboard()->setText(GridText::encode(cells));
+    emit said(BudgetLines::cellsCopied(range.height() * range.width()));
+}
+
+void SheetCommands::paste()
+{
+    const auto pasted = SheetEdits::pasted(m_desk.model.sheet(), m_desk.grid.range(),
+                                           GridText::decode(QApplication::clipboard()->text()));
+    if (pasted.cells == 0) {
+        emit said(BudgetLines::nothingToPaste());
+        return;
+    }
+    m_desk.model.change(BudgetLines::pasted(pasted.cells), pasted.sheet);
+    m_desk.grid.choose(pasted.range);
+    emit said(BudgetLines::pasted(pasted.cells, pasted.leftOut, pasted.foreign));
+    show(pasted.notice());
+}
+
+void SheetCommands::repeatAmount(const QString &title, int step)
+{
+    const SheetRange range = m_desk.grid.range();
+    const int first = std::max(range.left, SheetColumn::firstMonth);
+    bool hasAmount = false;
+    for (int row = range.top; row <= range.bottom; ++row)
+        hasAmount = hasAmount || !cellText(m_desk.model.sheet(), row, first).isEmpty();
+    if (!hasAmount) {
+        emit said(BudgetLines::noAmountToRepeat());
+        return;
+    }
+    change(title, [step](BudgetSheet &sheet, const SheetRange &chosen) {
+        SheetEdits::repeatToTheRight(sheet, chosen, step);
+    });
+    emit said(title);
+}
+
+void SheetCommands::spread()
+{
+    const SheetRange range = m_desk.grid.range();
+    const QString item = inOneLine(m_desk.model.sheet().rows[std::size_t(range.top)].item);
+    const auto answer =
+        m_program.dialogs.input(m_window, BudgetMessages::spreadTitle(),
+                                BudgetMessages::whichSum(range.height() == 1 ? item : QString()), {});
+    if (!answer || answer->trimmed().isEmpty())
+        return;
+    const double sum = BudgetEntry::amountOf(*answer);
+    BudgetSheet wanted = m_desk.model.sheet();
+    if (sum <= 0)
+        show(BudgetMessages::onlyNumbers());
+    else if (!SheetEdits::spread(wanted, range, sum))
+        show(BudgetMessages::cellLimit());
+    else
+        m_desk.model.change(BudgetLines::spread(item), wanted);
+}
+
+void SheetCommands::insertRow()
+{
+    BudgetSheet wanted = m_desk.model.sheet();
+    const int row = m_desk.grid.range().top;
+    if (!wanted.insertRow(std::size_t(row))) {
+        emit said(BudgetLines::noRoomForRow());
+        return;
+    }
+    m_desk.model.change(BudgetLines::insertedRow(row), wanted);
+    m_desk.grid.choose({row, 0, row, 0});
+}
+
 void SheetCommands::deleteRow()
 {
-    if (!isCellChosen() || m_program.dialogs.ask(m_window, BudgetMessages::deleteRow()) != Answer::Yes)
+    if (m_program.dialogs.ask(m_window, BudgetMessages::deleteRow()) != Answer::Yes)
         return;
     const int row = m_desk.grid.currentIndex().row();
     BudgetSheet wanted = m_desk.model.sheet();
     const QString item = inOneLine(wanted.rows[std::size_t(row)].item);
     wanted.removeRow(std::size_t(row));
     m_desk.model.change(BudgetLines::deletedRow(item, row), wanted);
+}
+
+void SheetCommands::moveRows(int by)
+{
+    SheetRange range = m_desk.grid.range();
+    const QString item = inOneLine(m_desk.model.sheet().rows[std::size_t(range.top)].item);
+    BudgetSheet wanted = m_desk.model.sheet();
+    if (!SheetEdits::moveRows(wanted, range, by))
+        return;
+    m_desk.model.change(BudgetLines::movedRow(item, range.top), wanted);
+    range.top += by;
+    range.bottom += by;
+    m_desk.grid.choose(range);
 }
 
 void SheetCommands::enterIncome(int month)
@@ -59,8 +254,7 @@ void SheetCommands::enterIncome(int month)
     if (!answer || answer->trimmed().isEmpty())
         return;
     const BudgetEntry entry = BudgetEntry::ofIncome(*answer);
-    if (entry.notice)
-        m_program.dialogs.ask(m_window, *entry.notice);
+    show(entry.notice);
     income = entry.text;
     m_desk.model.preview(wanted);
     if (m_program.dialogs.ask(m_window, BudgetMessages::copyIncomeToTheRight()) == Answer::Yes)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "budget/model/sheetrange.h"
 #include "shell/frame/commands.h"
 
 #include <QObject>
@@ -21,24 +22,46 @@ public:
         SheetModel &model;
         SheetGrid &grid;
         Commands &commands;
-        Commands::Reason unless; ///< why the sheet cannot be edited now
+        Commands::Reason unless; ///< why the sheet cannot be used now
     };
 
     SheetCommands(Program &program, Desk desk, QWidget *window);
 
-    /// Puts the commands into `edit`.
+    /// Puts the commands into `edit`, which opens beside a cell that is clicked with the other button too.
     void addCommands(QMenu *edit);
-    QAction *deleteRowCommand() const { return m_deleteRow; }
+    /// "Delete Row", which stands in `menu`.
+    QAction *addDeleteRow(QMenu *menu);
 
     /// Asks for the income of `month` (from 0), and whether the later months have the same.
     void enterIncome(int month);
 
+signals:
+    /// A quiet line for the status bar.
+    void said(const QString &line);
+
 private:
-    void deleteRow();
+    using Edit = std::function<void(BudgetSheet &sheet, const SheetRange &range)>;
+
+    void addClipboardCommands(QMenu *edit);
+    void addFillCommands(QMenu *edit);
+    void addRowCommands(QMenu *edit);
+    /// A command that does `run` once a cell is chosen, with a key that works in the grid.
+    QAction *add(QMenu *menu, const QString &name, const QString &caption, std::function<void()> run,
+                 const QKeySequence &key = {});
+    QString whyNoEdit() const;
     bool isCellChosen();
+    void change(const QString &title, const Edit &edit);
+    void show(const std::optional<Message> &message);
+
+    void copy();
+    void paste();
+    void repeatAmount(const QString &title, int step);
+    void spread();
+    void insertRow();
+    void deleteRow();
+    void moveRows(int by);
 
     Program &m_program;
     Desk m_desk;
     QWidget *m_window;
-    QAction *m_deleteRow = nullptr;
 };
