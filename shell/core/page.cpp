@@ -75,7 +75,13 @@ Page &Page::table(PageItem::Columns columns)
 
 Page &Page::row(QStringList cells, TextRole role)
 {
-    m_items.emplace_back(PageItem::Row{std::move(cells), role});
+    m_items.emplace_back(PageItem::Row{std::move(cells), role, false});
+    return *this;
+}
+
+Page &Page::rowWithNext(QStringList cells, TextRole role)
+{
+    m_items.emplace_back(PageItem::Row{std::move(cells), role, true});
     return *this;
 }
 
@@ -109,6 +115,12 @@ Page &Page::placeRule(const QRectF &inches)
     return *this;
 }
 
+Page &Page::belowPlaced()
+{
+    m_items.emplace_back(PageItem::BelowPlaced{});
+    return *this;
+}
+
 Page &Page::rule()
 {
     m_items.emplace_back(PageItem::Rule{});
@@ -129,7 +141,21 @@ Page &Page::numberSheets(SheetNumbers numbers)
 
 QString Page::titleOf(int number) const
 {
+    if (number > 1 && !m_continued.isEmpty())
+        return m_title + m_continued;
     return m_numbers == SheetNumbers::Title ? m_title + QString::number(number) : m_title;
+}
+
+Page &Page::continueTitle(const QString &words)
+{
+    m_continued = words;
+    return *this;
+}
+
+Page &Page::startAt(double inches)
+{
+    m_start = inches;
+    return *this;
 }
 
 Page &Page::close(QDate printedOn, DateStyle style)
@@ -143,6 +169,13 @@ Page &Page::setHeadRight(const QString &text)
 {
     m_headRight = text;
     return *this;
+}
+
+Page Page::withItems(std::vector<Item> items) const
+{
+    Page page = *this;
+    page.m_items = std::move(items);
+    return page;
 }
 
 QString Page::toText() const

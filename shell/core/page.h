@@ -30,6 +30,9 @@ inline constexpr double millimetersPerInch = 25.4;
 inline constexpr QSizeF letter{8.5, 11.0};
 inline constexpr QSizeF a4{210 / millimetersPerInch, 297 / millimetersPerInch};
 
+/// Around what flows, in inches.
+inline constexpr double margin = 0.5;
+
 inline constexpr double bodyPoints = 11;
 inline constexpr double headingPoints = 13;
 inline constexpr double smallPoints = 10;
@@ -107,6 +110,7 @@ struct Columns {
 struct Row {
     QStringList cells;
     TextRole role = TextRole::Body;
+    bool staysWithNext = false; ///< no sheet ends between it and the row that follows
     bool operator==(const Row &) const = default;
 };
 
@@ -149,6 +153,11 @@ struct PlacedRule {
     bool operator==(const PlacedRule &) const = default;
 };
 
+/// What follows stands below everything that is placed on its sheet.
+struct BelowPlaced {
+    bool operator==(const BelowPlaced &) const = default;
+};
+
 /// A thin rule across the page.
 struct Rule {
     bool operator==(const Rule &) const = default;
@@ -169,7 +178,7 @@ class Page
 public:
     using Item = std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank,
                               PageItem::Picture, PageItem::PlacedText, PageItem::PlacedPicture,
-                              PageItem::PlacedRule, PageItem::Rule, PageItem::Break>;
+                              PageItem::PlacedRule, PageItem::BelowPlaced, PageItem::Rule, PageItem::Break>;
 
     /// A page headed by `title`; `headRight` (usually a date) stands at the right of the title line.
     explicit Page(QString title = {}, QString headRight = {});
@@ -180,18 +189,29 @@ public:
                   std::vector<Qt::AlignmentFlag> alignments = {});
     Page &table(PageItem::Columns columns);
     Page &row(QStringList cells, TextRole role = TextRole::Body);
+    /// A row that no sheet separates from the next one.
+    Page &rowWithNext(QStringList cells, TextRole role = TextRole::Body);
     Page &blank(const QString &label);
     Page &picture(const QString &path, QSizeF inches);
     Page &placeText(const QRectF &inches, const QString &text, TextRole role = TextRole::Body,
                     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop);
     Page &placePicture(const QRectF &inches, const QString &path);
     Page &placeRule(const QRectF &inches);
+    Page &belowPlaced();
     Page &rule();
     Page &breakPage();
 
     /// `Foot` unless told otherwise.
     Page &numberSheets(SheetNumbers numbers);
     SheetNumbers sheetNumbers() const { return m_numbers; }
+
+    /// What stands behind the title of every sheet but the first, " (Continued)" say.
+    Page &continueTitle(const QString &words);
+
+    /// Where the title begins, in inches from the sheet's upper edge, for pages that have something placed
+    /// near it; half an inch unless told otherwise.
+    Page &startAt(double inches);
+    double start() const { return m_start; }
 
     /// Ends the page: a blank line, "Quillery" and "Printed on " with the short date of the day of building.
     /// The lines stand below everything else; a page of placed items leaves the half inch above the bottom
@@ -204,6 +224,8 @@ public:
     const QString &headRight() const { return m_headRight; }
     Page &setHeadRight(const QString &text);
     const std::vector<Item> &items() const { return m_items; }
+    /// The same page with other items.
+    Page withItems(std::vector<Item> items) const;
     bool isClosed() const { return m_closed; }
     /// The last line but one of a closed page.
     static QString productLine() { return QStringLiteral("Quillery"); }
@@ -221,6 +243,8 @@ public:
 
 private:
     QString m_title;
+    QString m_continued;
+    double m_start = PageMetrics::margin;
     QString m_headRight;
     std::vector<Item> m_items;
     SheetNumbers m_numbers = SheetNumbers::Foot;

@@ -13,7 +13,7 @@ using PageMetrics::pointsPerInch;
 
 namespace {
 
-constexpr double margin = 0.5 * pointsPerInch;
+constexpr double margin = PageMetrics::margin * pointsPerInch;
 /// The narrowest and the widest sheet that is laid out, in inches: a damaged paper size must not end in no
 /// room at all.
 constexpr double smallestSheet = 2;
@@ -57,7 +57,8 @@ QSizeF PageLayout::sheet() const
 
 QRectF PageLayout::body() const
 {
-    return QRectF({}, sheet()).adjusted(margin, margin, -margin, -margin - m_footHeight);
+    const double top = std::clamp(m_page.start(), 0.0, 1.0) * pointsPerInch;
+    return QRectF({}, sheet()).adjusted(margin, top, -margin, -margin - m_footHeight);
 }
 
 QStringList PageLayout::linesOf(std::size_t item, const PageItem::Line &line) const
@@ -100,10 +101,17 @@ void PageLayout::keepClosingInCompany()
     const std::size_t count = m_page.items().size();
     if (m_starts.size() < 2 || m_starts.back().item != count)
         return;
+    const auto staysWithNext = [this](std::size_t item) {
+        const auto *row = std::get_if<PageItem::Row>(&m_page.items()[item]);
+        return row && row->staysWithNext;
+    };
     const bool isText = std::holds_alternative<PageItem::Row>(m_page.items().back()) ||
                         std::holds_alternative<PageItem::Line>(m_page.items().back());
-    if (isText && m_starts[m_starts.size() - 2].item + 2 < count)
-        m_starts.back().item = count - 1;
+    std::size_t first = count - 1;
+    while (first > 0 && staysWithNext(first - 1))
+        --first;
+    if (isText && m_starts[m_starts.size() - 2].item + 1 < first)
+        m_starts.back().item = first;
 }
 
 void PageLayout::paint(QPainter &painter, int index) const

@@ -14,7 +14,7 @@ using PageMetrics::pointsPerInch;
 
 namespace {
 
-constexpr double margin = 0.5 * pointsPerInch;
+constexpr double margin = PageMetrics::margin * pointsPerInch;
 constexpr double thin = 0.5;
 constexpr double rule = 0.75;
 constexpr double columnGap = 10;
@@ -80,7 +80,9 @@ void SheetFlow::placeTitle()
     const QString head = right.elided(page.headRight(), m_body.width() / 2);
     const double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + 2 * columnGap);
     const bool isNumbered = page.sheetNumbers() == SheetNumbers::Title;
-    const QString words = isNumbered ? withUnbrokenNumber(page.titleOf(m_number)) : page.titleOf(m_number);
+    QString words = page.titleOf(m_number).trimmed(); // a blank before it would not stand over the rule
+    if (isNumbered)
+        words = withUnbrokenNumber(words);
     const QStringList lines = title.shortened(title.wrapped(words, titleWidth), titleLines, titleWidth);
     for (const QString &line : lines) {
         if (m_painter)
@@ -175,8 +177,8 @@ bool SheetFlow::place(const PageItem::Row &row)
     const PageType &type = types().of(row.role);
     std::vector<SheetCell> cells = m_table.cellsOf(row.cells, type);
     std::vector<SheetCell> headings = m_table.headings();
-    const double height =
-        rowGap + double(SheetTable::lineCount(cells)) * type.lineHeight() + closingReserve();
+    const double height = rowGap + double(SheetTable::lineCount(cells)) * type.lineHeight() +
+                          closingReserve() + heightOfCompany();
     if (!m_isFresh && m_at.line == 0 && room() < m_table.headingHeight(headings) + height) {
         if (!nextColumn())
             return false;
@@ -203,6 +205,25 @@ double SheetFlow::closingReserve() const
 {
     const bool isNeeded = m_table.runsAcross() && m_layout.page().isClosed();
     return isNeeded ? types().body.lineHeight() + closingHeight() : 0;
+}
+
+double SheetFlow::heightOfCompany() const
+{
+    const auto &items = m_layout.page().items();
+    const double most = m_body.height() / 2; // what is higher may as well be cut
+    double height = 0;
+    const auto *row = std::get_if<PageItem::Row>(&items[m_at.item]);
+    for (std::size_t next = m_at.item + 1; row && row->staysWithNext && next < items.size(); ++next) {
+        row = std::get_if<PageItem::Row>(&items[next]);
+        if (!row)
+            break;
+        const PageType &type = types().of(row->role);
+        const auto lines = double(SheetTable::lineCount(m_table.cellsOf(row->cells, type)));
+        height += rowGap + lines * type.lineHeight();
+        if (height > most)
+            return 0;
+    }
+    return height;
 }
 
 bool SheetFlow::place(const PageItem::Line &line)
@@ -304,6 +325,14 @@ bool SheetFlow::place(const PageItem::PlacedRule &rule)
         else
             m_painter->drawLine(place.topLeft(), place.bottomRight());
     }
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::BelowPlaced &)
+{
+    if (m_lowestPlaced > m_y)
+        m_y = m_lowestPlaced + pictureGap;
+    m_rowAbove = false;
     return true;
 }
 

@@ -37,6 +37,7 @@ private:
     bool place(const PageItem::PlacedText &text);
     bool place(const PageItem::PlacedPicture &picture);
     bool place(const PageItem::PlacedRule &rule);
+    bool place(const PageItem::BelowPlaced &);
     bool place(const PageItem::Rule &);
     bool place(const PageItem::Break &);
     bool placeClosing();
@@ -51,6 +52,8 @@ private:
     /// Goes on at the top of the table's next column of rows; false when this was the last.
     bool nextColumn();
     double closingReserve() const;
+    /// Of the rows that stay with the current one, which is placed in `cells`; 0 for most.
+    double heightOfCompany() const;
     /// Of the closing lines with the rule above them.
     double closingHeight() const;
     void drawRule(double y, double thickness, const QColor &color, double indent = 0) const;

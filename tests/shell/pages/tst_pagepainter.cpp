@@ -103,6 +103,40 @@ private slots:
         }
     }
 
+    void titlesGoOnWithTheirWords()
+    {
+        Page page = numbered(60).continueTitle(u" (Continued)"_s);
+        const PagePainter painter(page, {}, bodyFont());
+        QVERIFY(painter.text(0).startsWith(u"\nFamily List\tAs of"_s));
+        QVERIFY(painter.text(1).startsWith(u"\nFamily List (Continued)\tAs of"_s));
+        const QStringList sheets = pdfSheets(pdf(page));
+        QVERIFY(!sheets[0].contains(u"Continued"_s) && sheets[1].contains(u"Family List (Continued)"_s));
+    }
+
+    void rowsStayTogether()
+    {
+        for (int rows = 20; rows < 60; ++rows) {
+            Page page = numbered(rows);
+            page.rowWithNext({u"Expenses"_s, u"1"_s}).rowWithNext({u"Income"_s, u"2"_s});
+            page.row({u"Balance"_s, u"1"_s});
+            const PagePainter painter(page, {}, bodyFont());
+            for (int sheet = 0; sheet < painter.sheetCount(); ++sheet)
+                QCOMPARE(painter.text(sheet).contains(u"Expenses"_s),
+                         painter.text(sheet).contains(u"Balance"_s));
+        }
+    }
+
+    void whatFollowsStandsBelowWhatIsPlaced()
+    {
+        Page page(u"BUDGET TOTALS"_s);
+        page.startAt(0.3).placeRule({0.31, 0.7, 9.9, 4.4}).belowPlaced().line(u"Rent"_s);
+        constexpr double dotsPerInch = 100;
+        const QImage image = PagePainter(page, {}, bodyFont()).image(0, dotsPerInch);
+        QVERIFY(!isBlank(image, {0.5, 0.3, 3, 0.36}, dotsPerInch)); // the title, above the frame
+        QVERIFY(isBlank(image, {0.5, 0.75, 7.5, 4.3}, dotsPerInch));
+        QVERIFY(!isBlank(image, {0.5, 5.15, 3, 0.35}, dotsPerInch)); // the line
+    }
+
     void givesPdfsTheirPaper_data()
     {
         const QSizeF letter(8.5, 11), a4(210 / 25.4, 297 / 25.4);
