@@ -36,6 +36,7 @@ inline constexpr double margin = 0.5;
 inline constexpr double bodyPoints = 11;
 inline constexpr double headingPoints = 13;
 inline constexpr double smallPoints = 10;
+inline constexpr double smallestPoints = 9; ///< of what is made smaller to fit
 /// The distance of two lines, in sizes of their font.
 inline constexpr double lineFactor = 1.35;
 
@@ -76,6 +77,15 @@ enum class TableLines {
     Grid ///< around every cell
 };
 
+/// Where the columns of a table get their widths from.
+enum class TableWidths {
+    ByWeights,
+    /// The first column has words, the others numbers, none of which is ever broken: the letters shrink to 9
+    /// pt at most, and columns that find no room even so follow as a table of their own, behind the first
+    /// column again. What is left over is shared out.
+    ForNumbers
+};
+
 /// Where the number of a sheet stands, when there is more than one.
 enum class SheetNumbers {
     Foot,  ///< "Page 2 of 5" at the foot
@@ -102,6 +112,9 @@ struct Columns {
     /// its share of the page.
     int across = 1;
     static constexpr int mostAcross = 4;
+    TableWidths widths = TableWidths::ByWeights;
+    double points = 0;        ///< size of the letters; 0: as the page font has them
+    bool isToWriteIn = false; ///< rows high enough for handwriting
 
     bool operator==(const Columns &) const = default;
 };

@@ -2,6 +2,7 @@
 #include "shell/pages/pagelayout.h"
 
 #include "shell/pages/sheetflow.h"
+#include "shell/pages/tablefit.h"
 
 #include <QPainter>
 
@@ -44,9 +45,28 @@ PageLayout::PageLayout(const Page &page, const PageSetup &setup, const PageFont 
     , m_setup(setup)
     , m_types(font)
     , m_blankIndent(longestLabel(m_page, m_types.body, body().width()))
-    , m_longItem(m_page.items().size())
 {
+    fitTables(font);
+    m_longItem = m_page.items().size();
     cutIntoSheets();
+}
+
+void PageLayout::fitTables(const PageFont &font)
+{
+    TableFit fit(m_types, body().size());
+    m_page = fit.fitted(m_page);
+    m_isTableCut = fit.isCut();
+    for (const Page::Item &item : m_page.items()) {
+        const auto *columns = std::get_if<PageItem::Columns>(&item);
+        if (columns && columns->points > 0)
+            m_tableTypes.try_emplace(columns->points, font, columns->points);
+    }
+}
+
+const PageTypes &PageLayout::typesOf(const PageItem::Columns *columns) const
+{
+    const auto own = columns ? m_tableTypes.find(columns->points) : m_tableTypes.end();
+    return own != m_tableTypes.end() ? own->second : m_types;
 }
 
 QSizeF PageLayout::sheet() const

@@ -5,6 +5,7 @@
 #include "shell/pages/pagefont.h"
 #include "shell/pages/pagetype.h"
 
+#include <map>
 #include <vector>
 
 class QPainter;
@@ -35,6 +36,10 @@ public:
     const Page &page() const { return m_page; }
     const PageSetup &setup() const { return m_setup; }
     const PageTypes &types() const { return m_types; }
+    /// Those of a table, which may be smaller; null: of no table.
+    const PageTypes &typesOf(const PageItem::Columns *columns) const;
+    /// Whether a table of numbers was too wide for the sheet and goes on as a second one.
+    bool isTableCut() const { return m_isTableCut; }
 
     /// The sheet and the part of it that the flow fills, in points.
     QSizeF sheet() const;
@@ -47,6 +52,7 @@ public:
     QStringList linesOf(std::size_t item, const PageItem::Line &line) const;
 
 private:
+    void fitTables(const PageFont &font);
     void cutIntoSheets();
     bool cut(std::size_t mostSheets);
     void keepClosingInCompany();
@@ -56,9 +62,11 @@ private:
     Page m_page;
     PageSetup m_setup;
     PageTypes m_types;
+    std::map<double, PageTypes> m_tableTypes; ///< by size
+    bool m_isTableCut = false;
     double m_footHeight = 0; ///< room for "Page n of m", once there is more than one sheet
     double m_blankIndent;
     std::vector<SheetStart> m_starts;
-    mutable std::size_t m_longItem;
+    mutable std::size_t m_longItem = 0;
     mutable QStringList m_longLines;
 };

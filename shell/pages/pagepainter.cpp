@@ -57,6 +57,11 @@ QSizeF PagePainter::sheetSize() const
     return m_layout->sheet();
 }
 
+bool PagePainter::isTableCut() const
+{
+    return m_layout->isTableCut();
+}
+
 QString PagePainter::text(int index) const
 {
     return layoutOf(index).text(m_sheets.make ? 0 : index);

@@ -33,6 +33,9 @@ public:
     /// Width and height of the sheets in points.
     QSizeF sheetSize() const;
 
+    /// Whether a table of numbers is too wide for the sheet, and was cut in two.
+    bool isTableCut() const;
+
     /// The text of sheet `index`, with title and headings.
     QString text(int index) const;
 

@@ -191,13 +191,18 @@ void PageType::draw(QPainter &painter, QPointF top, double width, Qt::Alignment 
 }
 
 PageTypes::PageTypes(const PageFont &font)
-    : title(semibold(QFont()), titlePoints)
+    : PageTypes(font, chosenPoints(font.font))
+{}
+
+PageTypes::PageTypes(const PageFont &font, double points)
+    : points(points)
+    , title(semibold(QFont()), titlePoints)
     , headRight(QFont(), bodyPoints)
     , foot(QFont(), smallPoints, footColor)
-    , body(font.font, chosenPoints(font.font), font.color)
-    , strong(semibold(font.font), chosenPoints(font.font), font.color)
-    , heading(semibold(font.font), chosenPoints(font.font) * headingPoints / bodyPoints, font.color)
-    , small(font.font, chosenPoints(font.font) * smallPoints / bodyPoints, font.color)
+    , body(font.font, points, font.color)
+    , strong(semibold(font.font), points, font.color)
+    , heading(semibold(font.font), points * headingPoints / bodyPoints, font.color)
+    , small(font.font, points * smallPoints / bodyPoints, font.color)
 {}
 
 const PageType &PageTypes::of(TextRole role) const

@@ -58,8 +58,12 @@ private:
 /// The fonts of a page: the given one for the body, the program's own for title and closing lines.
 struct PageTypes {
     explicit PageTypes(const PageFont &font);
+    /// The body in another size than the font's own.
+    PageTypes(const PageFont &font, double points);
 
     const PageType &of(TextRole role) const;
+
+    double points; ///< size of the body
 
     PageType title;
     PageType headRight;

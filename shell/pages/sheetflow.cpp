@@ -2,6 +2,7 @@
 #include "shell/pages/sheetflow.h"
 
 #include "shell/pages/pagepicture.h"
+#include "shell/pages/sharpline.h"
 
 #include <QPainter>
 
@@ -18,7 +19,6 @@ constexpr double margin = PageMetrics::margin * pointsPerInch;
 constexpr double thin = 0.5;
 constexpr double rule = 0.75;
 constexpr double columnGap = 10;
-constexpr double rowGap = 4.5;
 constexpr double ruleGap = 9;
 constexpr double pictureGap = 6;
 constexpr double titleGap = 12; ///< from the rule under the title to the body
@@ -134,7 +134,7 @@ bool SheetFlow::placeCells(const std::vector<SheetCell> &cells, const PageType &
 void SheetFlow::startTable(const PageItem::Columns *columns)
 {
     m_y = m_table.leaveColumns(m_y);
-    m_table.start(columns);
+    m_table.start(columns, m_layout.typesOf(columns));
     m_rowAbove = false;
 }
 
@@ -154,7 +154,7 @@ void SheetFlow::placeHeadings(const std::vector<SheetCell> &headings)
     if (headings.empty())
         return;
     const int line = std::exchange(m_at.line, 0);
-    drawCells(headings, types().strong, m_y, SheetTable::lineCount(headings));
+    drawCells(headings, m_table.types().strong, m_y, SheetTable::lineCount(headings));
     m_at.line = line;
     m_y += m_table.headingHeight(headings);
     const QRectF body = m_table.columnBody();
@@ -166,7 +166,8 @@ bool SheetFlow::place(const PageItem::Columns &columns)
     startTable(&columns);
     const std::vector<SheetCell> headings = m_table.headings();
     // Headings never stand alone at the foot of a sheet.
-    if (!m_isFresh && room() < m_table.headingHeight(headings) + rowGap + types().body.lineHeight())
+    if (!m_isFresh &&
+        room() < m_table.headingHeight(headings) + m_table.rowGap() + m_table.types().body.lineHeight())
         return false;
     placeHeadings(headings);
     return true;
@@ -174,10 +175,10 @@ bool SheetFlow::place(const PageItem::Columns &columns)
 
 bool SheetFlow::place(const PageItem::Row &row)
 {
-    const PageType &type = types().of(row.role);
+    const PageType &type = m_table.types().of(row.role);
     std::vector<SheetCell> cells = m_table.cellsOf(row.cells, type);
     std::vector<SheetCell> headings = m_table.headings();
-    const double height = rowGap + double(SheetTable::lineCount(cells)) * type.lineHeight() +
+    const double height = m_table.rowGap() + double(SheetTable::lineCount(cells)) * type.lineHeight() +
                           closingReserve() + heightOfCompany();
     if (!m_isFresh && m_at.line == 0 && room() < m_table.headingHeight(headings) + height) {
         if (!nextColumn())
@@ -191,7 +192,7 @@ bool SheetFlow::place(const PageItem::Row &row)
     if (m_rowAbove && m_table.has(TableLines::Rows))
         fillLine({body.left(), top, body.width(), thin}, rowColor);
     m_rowAbove = true;
-    const bool isWhole = placeCells(cells, type, rowGap, Split::Never);
+    const bool isWhole = placeCells(cells, type, m_table.rowGap(), Split::Never);
     if (m_painter && m_table.has(TableLines::Grid)) {
         for (const QRectF &line : m_table.grid(top, m_y, thin))
             fillLine(line, gridColor);
@@ -217,9 +218,9 @@ double SheetFlow::heightOfCompany() const
         row = std::get_if<PageItem::Row>(&items[next]);
         if (!row)
             break;
-        const PageType &type = types().of(row->role);
+        const PageType &type = m_table.types().of(row->role);
         const auto lines = double(SheetTable::lineCount(m_table.cellsOf(row->cells, type)));
-        height += rowGap + lines * type.lineHeight();
+        height += m_table.rowGap() + lines * type.lineHeight();
         if (height > most)
             return 0;
     }
@@ -388,19 +389,8 @@ void SheetFlow::drawRule(double y, double thickness, const QColor &color, double
     fillLine({m_body.left() + indent, y, m_body.width() - indent, thickness}, color);
 }
 
-void SheetFlow::fillLine(QRectF line, const QColor &color) const
+void SheetFlow::fillLine(const QRectF &line, const QColor &color) const
 {
-    if (!m_painter)
-        return;
-    const QTransform transform = m_painter->combinedTransform();
-    if (transform.type() <= QTransform::TxScale) {
-        // Whole device dots, so that a thin line is sharp on the screen and never lost.
-        const QRectF dots = transform.mapRect(line);
-        const bool isLevel = dots.width() > dots.height();
-        const double thickness = std::max(1.0, std::round(std::min(dots.width(), dots.height())));
-        const QRectF sharp = isLevel ? QRectF(dots.left(), std::round(dots.top()), dots.width(), thickness)
-                                     : QRectF(std::round(dots.left()), dots.top(), thickness, dots.height());
-        line = transform.inverted().mapRect(sharp);
-    }
-    m_painter->fillRect(line, color);
+    if (m_painter)
+        fillSharpLine(*m_painter, line, color);
 }

@@ -57,7 +57,7 @@ private:
     /// Of the closing lines with the rule above them.
     double closingHeight() const;
     void drawRule(double y, double thickness, const QColor &color, double indent = 0) const;
-    void fillLine(QRectF line, const QColor &color) const;
+    void fillLine(const QRectF &line, const QColor &color) const;
 
     double room() const { return m_bottom - m_y; }
     const PageTypes &types() const { return m_layout.types(); }

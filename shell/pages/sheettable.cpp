@@ -9,21 +9,41 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr double columnGap = 10;
-constexpr double acrossGap = 24; ///< between the columns that rows run down
+constexpr double wideGap = 10;
+constexpr double plainRowGap = 4.5;
+constexpr double writingFactor = 0.8; ///< room to write by hand, beside a line of text
+constexpr double acrossGap = 24;      ///< between the columns that rows run down
 constexpr double gridInset = 5;
 constexpr double headingGap = 4.5;
 
 } // namespace
 
 SheetTable::SheetTable(const PageTypes &types, const QRectF &body)
-    : m_types(types)
+    : m_types(&types)
     , m_body(body)
 {}
 
-void SheetTable::start(const PageItem::Columns *columns)
+double SheetTable::numberGap(double points)
+{
+    return points / 2;
+}
+
+double SheetTable::columnGap() const
+{
+    const bool isNarrow = m_columns && m_columns->widths == TableWidths::ForNumbers;
+    return isNarrow ? numberGap(m_types->points) : wideGap;
+}
+
+double SheetTable::rowGap() const
+{
+    const bool isHigh = m_columns && m_columns->isToWriteIn;
+    return isHigh ? plainRowGap + writingFactor * m_types->body.lineHeight() : plainRowGap;
+}
+
+void SheetTable::start(const PageItem::Columns *columns, const PageTypes &types)
 {
     m_columns = columns;
+    m_types = &types;
     m_headingsShown = false;
     m_boxes.clear();
     if (!columns)
@@ -34,13 +54,13 @@ void SheetTable::start(const PageItem::Columns *columns)
         sum += weight(value);
     const QRectF body = columnBody();
     const double inset = columns->lines == TableLines::Grid ? gridInset : 0;
-    const double usable = body.width() - 2 * inset - columnGap * (double(columns->weights.size()) - 1);
+    const double usable = body.width() - 2 * inset - columnGap() * (double(columns->weights.size()) - 1);
     double left = body.left() + inset;
     for (std::size_t i = 0; i < columns->weights.size() && sum > 0; ++i) {
         const double width = usable * weight(columns->weights[i]) / sum;
         const auto alignment = i < columns->alignments.size() ? columns->alignments[i] : Qt::AlignLeft;
         m_boxes.push_back({left, width, alignment, {}});
-        left += width + columnGap;
+        left += width + columnGap();
     }
 }
 
@@ -58,7 +78,7 @@ std::vector<SheetCell> SheetTable::cellsOf(const QStringList &texts, const PageT
     if (cells.empty()) { // a row outside a table: equal columns
         const double width = m_body.width() / double(std::max<qsizetype>(1, texts.size()));
         for (qsizetype i = 0; i < texts.size(); ++i)
-            cells.push_back({m_body.left() + double(i) * width, width - columnGap, Qt::AlignLeft, {}});
+            cells.push_back({m_body.left() + double(i) * width, width - columnGap(), Qt::AlignLeft, {}});
     }
     for (std::size_t i = 0; i < cells.size() && qsizetype(i) < texts.size(); ++i) {
         const bool isLast = i + 1 == cells.size();
@@ -73,17 +93,17 @@ std::vector<SheetCell> SheetTable::headings() const
 {
     if (m_headingsShown || !m_columns || m_columns->headings.isEmpty())
         return {};
-    std::vector<SheetCell> cells = cellsOf(m_columns->headings, m_types.strong);
+    std::vector<SheetCell> cells = cellsOf(m_columns->headings, m_types->strong);
     // They come again on every sheet: whatever the font, most of it stays for the rows.
-    const auto most = std::max<qsizetype>(1, qsizetype(m_body.height() / 3 / m_types.strong.lineHeight()));
+    const auto most = std::max<qsizetype>(1, qsizetype(m_body.height() / 3 / m_types->strong.lineHeight()));
     for (SheetCell &cell : cells)
-        cell.lines = m_types.strong.shortened(std::move(cell.lines), most, cell.width);
+        cell.lines = m_types->strong.shortened(std::move(cell.lines), most, cell.width);
     return cells;
 }
 
 double SheetTable::headingHeight(const std::vector<SheetCell> &headings) const
 {
-    return headings.empty() ? 0 : double(lineCount(headings)) * m_types.strong.lineHeight() + headingGap;
+    return headings.empty() ? 0 : double(lineCount(headings)) * m_types->strong.lineHeight() + headingGap;
 }
 
 QRectF SheetTable::columnBody() const
@@ -100,7 +120,7 @@ std::vector<QRectF> SheetTable::grid(double top, double bottom, double thickness
     std::vector<QRectF> lines{{body.left(), bottom, body.width(), thickness},
                               {body.left(), top, thickness, height}};
     for (std::size_t i = 1; i < m_boxes.size(); ++i)
-        lines.emplace_back(m_boxes[i].left - columnGap / 2, top, thickness, height);
+        lines.emplace_back(m_boxes[i].left - columnGap() / 2, top, thickness, height);
     lines.emplace_back(body.right() - thickness, top, thickness, height);
     return lines;
 }

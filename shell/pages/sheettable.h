@@ -24,9 +24,15 @@ public:
     /// Between the edges of `body`, in points. The page's types must outlive the table.
     SheetTable(const PageTypes &types, const QRectF &body);
 
-    /// Rows from here on stand in these columns; null: outside a table, in columns of equal width.
-    void start(const PageItem::Columns *columns);
+    /// Rows from here on stand in these columns, in `types`; null: outside a table, in columns of equal
+    /// width.
+    void start(const PageItem::Columns *columns, const PageTypes &types);
     const PageItem::Columns *columns() const { return m_columns; }
+    const PageTypes &types() const { return *m_types; }
+    /// What a row takes beside the lines of its text.
+    double rowGap() const;
+    /// Between the columns of a table of numbers in letters of this size.
+    static double numberGap(double points);
     bool has(TableLines lines) const { return m_columns && m_columns->lines == lines; }
 
     /// Lines of the highest cell, at least one.
@@ -51,7 +57,9 @@ public:
     double leaveColumns(double y);
 
 private:
-    const PageTypes &m_types;
+    double columnGap() const;
+
+    const PageTypes *m_types;
     QRectF m_body;
     const PageItem::Columns *m_columns = nullptr;
     std::vector<SheetCell> m_boxes; ///< the table's columns, without lines

@@ -199,6 +199,13 @@ void PreviewPane::start(const QString &jobName, Lie lie)
     showOrientation();
     m_steps->setPage(0, 1);
     rebuild();
+    // Numbers that an upright sheet has no room for are seen whole on one that lies on its side.
+    if (m_painter && m_painter->isTableCut() && m_setup.orientation == PageSetup::Portrait) {
+        m_lie = Lie::Landscape;
+        m_setup.orientation = PageSetup::Landscape;
+        showOrientation();
+        rebuild();
+    }
 }
 
 void PreviewPane::rebuild()
