@@ -4,6 +4,7 @@
 #include "addressbook/model/viewermessages.h"
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
+#include "shell/core/tabtext.h"
 #include "storage/ansitext.h"
 
 #include <algorithm>
@@ -28,16 +29,6 @@ constexpr QSizeF nameRoom(1.85, 0.39);
 constexpr double headTop = 0.38;
 constexpr double headHeight = 0.3;
 
-/// A cell of a text file: tabs and line ends would be taken for the next cell or row.
-QString plainCell(QString cell)
-{
-    for (QChar &character : cell) {
-        if (character == u'\t' || character == u'\r' || character == u'\n')
-            character = u' ';
-    }
-    return cell;
-}
-
 QString plainText(const AddressViewer &viewer, DateStyle style, QLatin1StringView lineEnd)
 {
     const QString heading = ViewerPages::heading(viewer.information(), style);
@@ -47,9 +38,9 @@ QString plainText(const AddressViewer &viewer, DateStyle style, QLatin1StringVie
         text += u'\t' + heading;
     text += lineEnd;
     for (int row = 0; row < viewer.count(); ++row) {
-        text += plainCell(viewer.name(row));
+        text += TabText::cell(viewer.name(row));
         if (hasColumn)
-            text += u'\t' + plainCell(viewer.information(row));
+            text += u'\t' + TabText::cell(viewer.information(row));
         text += lineEnd;
     }
     return text;

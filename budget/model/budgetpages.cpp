@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/model/budgetpages.h"
+
+#include "budget/model/amount.h"
+#include "budget/model/papermessages.h"
+#include "budget/model/sheetlines.h"
+#include "shell/core/dates.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The title of the totals page must stand above its chart.
+constexpr double totalsStart = 0.3;
+constexpr int emptyRows = 4; ///< for what nobody has thought of yet
+
+Page started(const QString &title, const PageContext &context)
+{
+    Page page(title, BudgetPaper::printed(Dates::longText(context.today, context.style)));
+    page.continueTitle(BudgetPaper::continued());
+    return page;
+}
+
+/// The year's three sums in one line.
+void addSums(Page &page, const BudgetFigures &figures, BudgetBasis basis)
+{
+    const auto sum = [&](const QString &caption, double amount) {
+        const QString share = figures.share(amount, basis);
+        const QString text = caption.trimmed() + u"  "_s + Amount::text(amount);
+        return share.isEmpty() ? text : QString(text + u"  "_s + share);
+    };
+    PageItem::Columns columns;
+    columns.weights = {1, 1, 1};
+    columns.alignments = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+    columns.lines = TableLines::None;
+    page.table(columns);
+    page.row({sum(BudgetPaper::totalIncome(), figures.income),
+              sum(BudgetPaper::totalExpenses(), figures.expenses),
+              sum(BudgetPaper::balance(), figures.balance)},
+             TextRole::Strong);
+    page.line(BudgetPages::basisCaption(basis), TextRole::Small).blankLine();
+}
+
+/// An item's year as a month on average.
+QString monthly(double year)
+{
+    return Amount::text(year / double(BudgetSheet::monthCount));
+}
+
+} // namespace
+
+Page BudgetPages::sheet(int year, const BudgetSheet &sheet, const PageContext &context)
+{
+    Page page = started(BudgetPaper::sheetTitle(year), context);
+    PageItem::Columns columns;
+    columns.headings = BudgetPaper::headings();
+    columns.widths = TableWidths::ForNumbers;
+    page.table(columns);
+    for (std::size_t row = 0; row < SheetLines::usedRows(sheet); ++row)
+        page.row(SheetLines::cells(sheet.rows[row]));
+    const SheetLines::Sums sums = SheetLines::sums(BudgetFigures::of(sheet));
+    page.rule();
+    page.rowWithNext(QStringList(BudgetPaper::totalExpenses().trimmed()) + sums.expenses, TextRole::Strong);
+    page.rowWithNext(QStringList(BudgetPaper::totalIncome().trimmed()) + sums.incomes, TextRole::Strong);
+    page.row(QStringList(BudgetPaper::balance().trimmed()) + sums.balances, TextRole::Strong);
+    return page.close(context.today, context.style);
+}
+
+QRectF BudgetPages::chartFrame(PageSetup::Orientation orientation)
+{
+    return orientation == PageSetup::Landscape ? QRectF(0.31, 0.7, 9.9, 4.4) : QRectF(0.36, 0.84, 7.3, 4.15);
+}
+
+Page BudgetPages::totals(int year, const BudgetSheet &sheet, BudgetBasis basis, const QString &chartPicture,
+                         const PageContext &context)
+{
+    Page page = started(BudgetPaper::totalsTitle(year), context);
+    if (!chartPicture.isEmpty())
+        page.startAt(totalsStart)
+            .placePicture(chartFrame(context.setup.orientation), chartPicture)
+            .belowPlaced();
+    const BudgetFigures figures = BudgetFigures::of(sheet);
+    addSums(page, figures, basis);
+    PageItem::Columns columns;
+    columns.weights = {3, 1.2, 1.2};
+    columns.headings = BudgetPaper::totalsHeadings();
+    columns.alignments = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignRight};
+    // A wide sheet is low, and an item's total should stand near its name.
+    columns.across = context.setup.orientation == PageSetup::Landscape ? 2 : 1;
+    page.table(columns);
+    for (const BudgetFigures::Item &item : BudgetFigures::items(sheet))
+        page.row({item.item, Amount::text(item.total), figures.share(item.total, basis)});
+    return page.close(context.today, context.style);
+}
+
+Page BudgetPages::discussion(int year, const BudgetSheet &sheet, const PageContext &context)
+{
+    Page page = started(BudgetPaper::discussionTitle(year), context);
+    page.line(BudgetPaper::discussionHint(), TextRole::Small).blankLine();
+    PageItem::Columns columns;
+    columns.weights = {2.4, 1.1, 1.2, 1.3, 2.6};
+    columns.headings = BudgetPaper::discussionHeadings();
+    columns.alignments = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignRight};
+    columns.lines = TableLines::Grid;
+    columns.isToWriteIn = true;
+    page.table(columns);
+    const auto row = [](const QString &caption, double amount) {
+        return QStringList{caption.trimmed(), monthly(amount), Amount::text(amount), {}, {}};
+    };
+    for (const BudgetFigures::Item &item : BudgetFigures::items(sheet))
+        page.row(row(item.item, item.total));
+    for (int i = 0; i < emptyRows; ++i)
+        page.row({{}, {}, {}, {}, {}});
+    const BudgetFigures figures = BudgetFigures::of(sheet);
+    page.rowWithNext(row(BudgetPaper::totalExpenses(), figures.expenses), TextRole::Strong);
+    page.rowWithNext(row(BudgetPaper::totalIncome(), figures.income), TextRole::Strong);
+    page.row(row(BudgetPaper::balance(), figures.balance), TextRole::Strong);
+    return page.close(context.today, context.style);
+}
+
+QString BudgetPages::basisCaption(BudgetBasis basis)
+{
+    return basis == BudgetBasis::Income ? u"% = Item Totals divided by Total Income"_s
+                                        : u"% = Item Totals divided by Total Expenses"_s;
+}

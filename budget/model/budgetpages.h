@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "budget/model/budgetfigures.h"
+#include "shell/core/pagecontext.h"
+
+#include <QRectF>
+
+/// What the budget prints.
+namespace BudgetPages {
+
+/// The worksheet down to its last row in use, and what each month comes to.
+Page sheet(int year, const BudgetSheet &sheet, const PageContext &context);
+
+/// Where the chart stands on the totals page, in inches from the corner of the sheet as it lies.
+QRectF chartFrame(PageSetup::Orientation orientation);
+
+/// The year's totals: the chart in its frame, unless `chartPicture` (a path) is empty, the three sums and the
+/// items with what they cost in the year and their share by `basis`.
+Page totals(int year, const BudgetSheet &sheet, BudgetBasis basis, const QString &chartPicture,
+            const PageContext &context);
+
+/// The items with what they cost, beside empty columns and above empty rows to write on.
+Page discussion(int year, const BudgetSheet &sheet, const PageContext &context);
+
+/// "% = Item Totals divided by Total Income" or "... Total Expenses".
+QString basisCaption(BudgetBasis basis);
+
+} // namespace BudgetPages
