@@ -12,7 +12,7 @@ namespace {
 
 /// The title of the totals page must stand above its chart.
 constexpr double totalsStart = 0.3;
-constexpr int emptyRows = 4; ///< for what nobody has thought of yet
+constexpr int emptyRows = 3; ///< for what nobody has thought of yet
 
 Page started(const QString &title, const PageContext &context)
 {
@@ -21,23 +21,21 @@ Page started(const QString &title, const PageContext &context)
     return page;
 }
 
-/// The year's three sums in one line.
+/// The year's three sums beside one another.
 void addSums(Page &page, const BudgetFigures &figures, BudgetBasis basis)
 {
-    const auto sum = [&](const QString &caption, double amount) {
+    const auto sum = [&](double amount) {
         const QString share = figures.share(amount, basis);
-        const QString text = caption.trimmed() + u"  "_s + Amount::text(amount);
-        return share.isEmpty() ? text : QString(text + u"  "_s + share);
+        return share.isEmpty() ? Amount::text(amount) : QString(Amount::text(amount) + u"  "_s + share);
     };
     PageItem::Columns columns;
     columns.weights = {1, 1, 1};
     columns.alignments = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
     columns.lines = TableLines::None;
     page.table(columns);
-    page.row({sum(BudgetPaper::totalIncome(), figures.income),
-              sum(BudgetPaper::totalExpenses(), figures.expenses),
-              sum(BudgetPaper::balance(), figures.balance)},
-             TextRole::Strong);
+    page.rowWithNext({BudgetPaper::totalIncome().trimmed(), BudgetPaper::totalExpenses(),
+                      BudgetPaper::balance().trimmed()});
+    page.row({sum(figures.income), sum(figures.expenses), sum(figures.balance)}, TextRole::Strong);
     page.line(BudgetPages::basisCaption(basis), TextRole::Small).blankLine();
 }
 

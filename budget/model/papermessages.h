@@ -55,7 +55,7 @@ inline QStringList totalsHeadings()
 
 inline QStringList discussionHeadings()
 {
-    return {itemHeading(), u"A Month"_s, u"A Year"_s, u"From Now On"_s, u"Notes"_s};
+    return {itemHeading(), u"A Month"_s, u"A Year"_s, u"New Plan"_s, u"Notes"_s};
 }
 
 inline QString discussionHint()
@@ -99,10 +99,17 @@ inline QString exportTitle()
     return u"Export File in Excel/Spreadsheet Format"_s;
 }
 
-/// Its lines; the folder stands behind the first, the name behind the second.
+// Its lines; the folder stands below the first, the name below the second.
+
 inline QString exportFolder()
 {
     return u"A non-formatted Spreadsheet File (tab-delimited text file) will be saved in the program folder:  "_s;
+}
+
+/// In place of the first where another folder was chosen.
+inline QString exportElsewhere()
+{
+    return u"A non-formatted Spreadsheet File (tab-delimited text file) will be saved in this folder:  "_s;
 }
 
 inline QString exportName()

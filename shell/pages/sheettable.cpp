@@ -11,7 +11,7 @@ namespace {
 
 constexpr double wideGap = 10;
 constexpr double plainRowGap = 4.5;
-constexpr double writingFactor = 0.8; ///< room to write by hand, beside a line of text
+constexpr double writingFactor = 0.5; ///< room to write by hand, beside a line of text
 constexpr double acrossGap = 24;      ///< between the columns that rows run down
 constexpr double gridInset = 5;
 constexpr double headingGap = 4.5;
@@ -25,7 +25,7 @@ SheetTable::SheetTable(const PageTypes &types, const QRectF &body)
 
 double SheetTable::numberGap(double points)
 {
-    return points / 2;
+    return 0.7 * points;
 }
 
 double SheetTable::columnGap() const

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/budgetprint.h"
+
+#include "budget/model/budgetentry.h"
+#include "budget/model/budgetpages.h"
+#include "budget/model/papermessages.h"
+#include "budget/model/sheetlines.h"
+#include "budget/window/exportbox.h"
+#include "shell/frame/commonkeys.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/program/program.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+BudgetPrint::BudgetPrint(Program &program, FunctionWindow *window, Sources sources)
+    : QObject(window)
+    , m_program(program)
+    , m_window(window)
+    , m_from(std::move(sources))
+    , m_chart(program.folder)
+{}
+
+void BudgetPrint::addPrintCommands(Commands &commands, QMenu *menu)
+{
+    QAction *print = commands.add(
+        menu, u"mOPrt"_s, u"&Print"_s, [this] { printSheet(); }, {}, CommonKeys::print);
+    commands.add(menu, u"mOPTotals"_s, u"Print &Totals"_s, [this] { printTotals(); });
+    commands.add(menu, u"mOPDiscuss"_s, u"Print Sheet to &Discuss"_s, [this] { printDiscussion(); });
+    commands.tool(print, "print"_L1, u"Print"_s);
+}
+
+void BudgetPrint::addCopyCommand(Commands &commands, QMenu *menu)
+{
+    commands.add(menu, u"mECopyBudget"_s, u"Copy &Budget to Clipboard"_s, [this] { copy(); });
+}
+
+void BudgetPrint::addExportCommand(Commands &commands, QMenu *menu)
+{
+    QAction *command = commands.add(
+        menu, u"mUExcel"_s, u"&Export to Excel/Spreadsheet"_s, [this] { exportFile(); },
+        [this] {
+            return SheetLines::isWorthExporting(m_from.sheet()) ? QString() : BudgetPaper::nothingToExport();
+        });
+    commands.tool(command, "export"_L1, u"Export"_s);
+}
+
+/// The proposed name of a PDF.
+QString BudgetPrint::nameOf(const QString &what) const
+{
+    return what + u' ' + QString::number(m_from.year());
+}
+
+void BudgetPrint::printSheet()
+{
+    m_window->showPreview(
+        [year = m_from.year(), sheet = m_from.sheet()](const PageContext &context) {
+            return BudgetPages::sheet(year, sheet, context);
+        },
+        nameOf(u"Budget"_s));
+}
+
+void BudgetPrint::printTotals()
+{
+    const BudgetSheet sheet = m_from.sheet();
+    if (const auto refusal = whyNoTotals(sheet)) {
+        m_program.dialogs.ask(m_window, *refusal);
+        return;
+    }
+    const auto page = [this, year = m_from.year(), sheet,
+                       basis = m_from.basis()](const PageContext &context) {
+        const QSizeF frame = BudgetPages::chartFrame(context.setup.orientation).size();
+        const QString picture = m_chart.store(m_from.chart(sheet, basis, frame));
+        return BudgetPages::totals(year, sheet, basis, picture, context);
+    };
+    m_window->showPreview(page, nameOf(u"Budget Totals"_s));
+}
+
+void BudgetPrint::printDiscussion()
+{
+    m_window->showPreview(
+        [year = m_from.year(), sheet = m_from.sheet()](const PageContext &context) {
+            return BudgetPages::discussion(year, sheet, context);
+        },
+        nameOf(u"Budget to Discuss"_s));
+}
+
+void BudgetPrint::copy()
+{
+    QGuiApplication::clipboard()->setText(SheetLines::clipboardText(m_from.year(), m_from.sheet()));
+    m_program.dialogs.ask(m_window, BudgetPaper::copied());
+}
+
+void BudgetPrint::exportFile()
+{
+    ExportBox box(m_program, m_from.year(), SheetLines::exportText(m_from.sheet()), m_window);
+    m_program.dialogs.run(box);
+}
