@@ -7,6 +7,8 @@
 #include "addressbook/model/addressnews.h"
 #include "addressbook/model/addresssearch.h"
 #include "addressbook/viewer/viewerwindow.h"
+#include "budget/model/budgetnews.h"
+#include "budget/model/budgetsource.h"
 #include "budget/window/budgetwindow.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
@@ -90,6 +92,26 @@ std::optional<LiveLine> plannerNews(const Program &program, QDate)
     return PlannerNews::liveLine(program.folder, program.clock.now());
 }
 
+std::optional<LiveLine> budgetNews(const Program &program, QDate today)
+{
+    return BudgetNews::liveLine(program.folder, today);
+}
+
+QList<DayNote> budgetNotes(const Program &program, QDate from, QDate to)
+{
+    return BudgetNews::dayNotes(program.folder, from, to, program.clock.today());
+}
+
+QStringList budgetFiles(const Program &program)
+{
+    return BudgetNews::files(program.folder);
+}
+
+std::unique_ptr<SearchSource> budgetSearch(const Program &program)
+{
+    return std::make_unique<BudgetSource>(program.folder, program.clock, program.state.dateStyle);
+}
+
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
 {
     switch (PasswordCheck(program.folder, PasswordCost::interactive(), &program.gate.memory()).state()) {
@@ -134,7 +156,12 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                       .search = plannerSearch,
                                       .show = showInPlanner,
                                       .files = plannerFiles});
-    functions.add(Function::Budget, {.open = makeWindow<Budget1>});
+    functions.add(Function::Budget, {.open = makeWindow<Budget1>,
+                                     .liveLine = budgetNews,
+                                     .liveFiles = BudgetNews::liveFiles(clock.today()),
+                                     .dayNotes = budgetNotes,
+                                     .search = budgetSearch,
+                                     .files = budgetFiles});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }
