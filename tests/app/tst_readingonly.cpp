@@ -71,7 +71,7 @@ private slots:
             {"address book", open<Function::AddressBook>,
              u"loadPicture mEBack mEMod1 mERedo mEUndo mOC mOClr mODel mOES mOMod mONS mOTC mUR otherScreen"_s,
              u"Command1 Command2 Command3 Command4 Command6 Command7 emptyEntryScreen emptyRestore"_s},
-            {"viewer", open<Function::AddressViewer>, u"mOC mOExp mUR"_s, {}},
+            {"viewer", open<Function::AddressViewer>, u"mERedo mEUndo mOC mOExp mUR"_s, {}},
             {"pictures", make<ADDBKDISPLAY2>, u"mOC mUR"_s, {}},
             {"planner", open<Function::Planner>,
              u"mEBack mEPaste mEPaste_tool mERec mERedo mEUndo mOC mOCal mOClr mOSave mUImport mUR"_s,
