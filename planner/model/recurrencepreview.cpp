@@ -67,7 +67,7 @@ bool RecurrencePreview::step()
     PlannerDay day = dayOf(*date);
     PlannerDay after = day;
     const DateResult result = insertAppointment(after, m_appointment);
-    if (m_count < firstCount)
+    if (m_count < firstCount || (result == DateResult::Full && m_firstVisits.size() < firstCount + fullCount))
         m_firstVisits.append({*date, result});
     ++m_count;
     m_lastDate = *date;

@@ -23,7 +23,7 @@ public:
     /// Looks at the next date; false when there is none left.
     bool step();
 
-    /// The dates looked at so far, the first ones by name.
+    /// The dates looked at so far, the first ones by name, and behind them the first full ones.
     int count() const { return m_count; }
     const QList<Visit> &first() const { return m_firstVisits; }
     QDate firstDate() const { return m_firstVisits.isEmpty() ? QDate() : m_firstVisits.first().date; }
@@ -38,6 +38,8 @@ public:
 
     /// How many dates `first` names at most.
     static constexpr int firstCount = 6;
+    /// How many full ones it names behind them.
+    static constexpr int fullCount = 4;
 
 private:
     PlannerDay dayOf(QDate date);

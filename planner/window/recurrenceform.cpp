@@ -3,6 +3,7 @@
 
 #include "planner/model/lines.h"
 #include "shell/controls/datebox.h"
+#include "shell/controls/taborder.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -22,25 +23,6 @@ constexpr int lastDayOfMonth = 31;
 int numberOf(const FieldBox *box)
 {
     return box->text().trimmed().toInt();
-}
-
-/// Lets the Tab key go through what `layout` holds in its order, behind `before`; returns the last of it that
-/// takes the focus.
-QWidget *orderTabs(const QLayout &layout, QWidget *before)
-{
-    for (int i = 0; i < layout.count(); ++i) {
-        QLayoutItem *item = layout.itemAt(i);
-        if (QWidget *part = item->widget()) {
-            if (part->focusPolicy() == Qt::NoFocus)
-                continue;
-            if (before)
-                QWidget::setTabOrder(before, part);
-            before = part;
-        } else if (const QLayout *inner = item->layout()) {
-            before = orderTabs(*inner, before);
-        }
-    }
-    return before;
 }
 
 } // namespace
@@ -68,11 +50,13 @@ RecurrenceForm::RecurrenceForm(const DateReading &reading, QWidget *parent)
     addMonthly(column);
     addYearly(column);
     column->addStretch(1);
-    orderTabs(*column, nullptr);
+    TabOrder::follow(*column);
     // A kind without a default: nothing is chosen until the user does.
     connect(m_kinds, &QButtonGroup::idClicked, this, &RecurrenceForm::kindChosen);
-    for (const QButtonGroup *group : {m_kinds, m_weekdays})
+    for (QButtonGroup *group : {m_kinds, m_weekdays}) {
+        TabOrder::findTheChosen(*group);
         connect(group, &QButtonGroup::idToggled, this, &RecurrenceForm::changed);
+    }
     for (const FieldBox *box : findChildren<FieldBox *>())
         connect(box, &QLineEdit::textChanged, this, &RecurrenceForm::changed);
 }

@@ -5,6 +5,7 @@
 #include "planner/window/plannercalendar.h"
 #include "shell/controls/datebox.h"
 #include "shell/controls/monthview.h"
+#include "shell/controls/taborder.h"
 #include "shell/program/program.h"
 
 #include <QButtonGroup>
@@ -47,6 +48,9 @@ RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
     addEndLines(column);
     addCalendar(column);
     connectBoxes();
+    for (QButtonGroup *group : {m_endBy, m_calendarSets})
+        TabOrder::findTheChosen(*group);
+    TabOrder::follow(*column);
 }
 
 template <typename Box>

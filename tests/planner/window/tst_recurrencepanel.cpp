@@ -44,7 +44,8 @@ private slots:
         QCOMPARE(labelText("outlookFull"), u"2 of these days are full: they are left out"_s);
         QCOMPARE(labelText("outlookDates"),
                  u"Sat Nov 21, 2026\nSat Nov 28, 2026 - full, left out\nSat Dec 5, 2026\n"
-                 "Sat Dec 12, 2026 - there already\nSat Dec 19, 2026\nSat Dec 26, 2026\nand 47 more"_s);
+                 "Sat Dec 12, 2026 - there already\nSat Dec 19, 2026\nSat Dec 26, 2026\n"
+                 "Sat Mar 6, 2027 - full, left out\nand 46 more"_s);
         set("endDate", u"11/21/2070"_s); // pulled in to ten years, as the walk is
         QTRY_COMPARE(labelText("outlookSum"), u"522 dates, Sat Nov 21, 2026 to Sat Nov 15, 2036"_s);
         set("endDate", u"soon"_s);
@@ -96,16 +97,17 @@ private slots:
     {
         openPanel();
         QStringList names;
-        const auto *form = m_window->findChild<RecurrenceForm *>();
-        const QWidget *first = find<QWidget>("kind_0");
-        for (const QWidget *at = first; names.isEmpty() || at != first; at = at->nextInFocusChain()) {
-            if (at->isVisible() && at->focusPolicy() != Qt::NoFocus && form->isAncestorOf(at))
-                names.append(at->objectName());
-        }
+        const QWidget *first = QApplication::focusWidget();
+        do {
+            names.append(QApplication::focusWidget()->objectName());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        } while (QApplication::focusWidget() != first && names.size() < 60);
+        names.removeIf([](const QString &name) { return name.endsWith("_button"_L1); });
         QCOMPARE(names.join(u' '),
-                 u"kind_0 dailyInterval kind_1 kind_2 weeklyInterval weekday_0 weekday_1 weekday_2 weekday_3 "
-                 "weekday_4 weekday_5 weekday_6 kind_3 dayOfMonth monthlyInterval kind_4 yearlyInterval "
-                 "kind_5 yearDay yearDayInterval"_s);
+                 u"kind_0 dailyInterval weeklyInterval weekday_6 dayOfMonth monthlyInterval yearlyInterval "
+                 "yearDay yearDayInterval recurrenceRemove recurrenceOk recurrenceCancel beginningDate "
+                 "endBy_0 endDate "
+                 "occurrences calendarSets_0 qt_calendar_calendarview"_s);
     }
 
     void refusesQuietly_data()
