@@ -5,6 +5,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/pastefilter.h"
 #include "shell/controls/searchbox.h"
+#include "shell/controls/taborder.h"
 #include "shell/look/theme.h"
 
 #include <QButtonGroup>
@@ -79,6 +80,7 @@ void ViewerChoices::addInformation(QVBoxLayout &column)
         column.addWidget(choice);
     }
     m_information->button(0)->setChecked(true);
+    TabOrder::findTheChosen(*m_information);
     connect(m_information, &QButtonGroup::idToggled, this, [this](int, bool isChosen) {
         if (isChosen)
             emit informationChosen();
@@ -111,6 +113,7 @@ void ViewerChoices::addRange(QVBoxLayout &column)
     addChoice(DisplayRange::AnniversaryMonth, u"Display-If Anniv.Month Is"_s);
     addMonth(DisplayRange::AnniversaryMonth, u"anniversaryMonth"_s, u"Anniv Month:"_s);
     m_range->button(DisplayRange::All)->setChecked(true);
+    TabOrder::findTheChosen(*m_range);
     QPushButton *update = makeButton(u"updateDisplay"_s, u"Update Display"_s, this);
     column.addSpacing(10);
     column.addWidget(update);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/window/calendaroptionspanel.h"
 
+#include "shell/controls/taborder.h"
+
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -53,6 +55,7 @@ QButtonGroup *CalendarOptionsPanel::addFrame(QVBoxLayout *column, const QString 
         column->addWidget(button);
     }
     column->addSpacing(12);
+    TabOrder::findTheChosen(*group);
     return group;
 }
 

@@ -9,6 +9,7 @@
 #include "planner/window/noteline.h"
 #include "planner/window/steptitle.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/taborder.h"
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
 #include "shell/core/settingskeys.h"
@@ -133,6 +134,7 @@ QWidget *DayEditor::makeRowHeads()
     }
     const int stored = m_program.settings.number(SettingsKeys::plannerPlacement);
     m_placement->button(stored == int(UntimedPlacement::First) ? 1 : 0)->setChecked(true);
+    TabOrder::findTheChosen(*m_placement);
     connect(m_placement, &QButtonGroup::idClicked, this, &DayEditor::setPlacement);
     return line;
 }
