@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 
@@ -86,6 +87,17 @@ ToolbarCustomizer::ToolbarCustomizer(ToolbarLayout &layout, QWidget *parent)
     fill();
     m_shown->setCurrentRow(shownRowFrom(0, 1));
     m_shown->setFocus();
+}
+
+void ToolbarCustomizer::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && m_available->hasFocus())
+        addChosen();
+    else if (event->key() == Qt::Key_Delete && m_shown->hasFocus())
+        removeChosen();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void ToolbarCustomizer::arrange()

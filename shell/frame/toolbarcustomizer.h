@@ -10,7 +10,7 @@ class QPushButton;
 class ToolbarLayout;
 
 /// The customisation dialog of a toolbar: pick, order, separators, drag, reset. Every change applies and is
-/// saved at once.
+/// saved at once. Enter in the list of available buttons adds one, Del in the other takes one off.
 class ToolbarCustomizer final : public QDialog
 {
     Q_OBJECT
@@ -19,6 +19,9 @@ public:
 
     /// Whether the last change could be saved; true without any.
     bool isSaved() const { return m_isSaved; }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void arrange();

@@ -110,6 +110,14 @@ private slots:
         press(dialog, "moveToolDown");
         press(dialog, "moveToolDown");
         QVERIFY(is({u"one"_s, u"two"_s, u"five"_s, u"separator"_s, u"three"_s}));
+        shownList(dialog).setFocus();
+        QTest::keyClick(&shownList(dialog), Qt::Key_Delete);
+        QVERIFY(is({u"one"_s, u"two"_s, u"separator"_s, u"three"_s}));
+        auto *available = control<QListWidget>(dialog, "availableList");
+        available->setCurrentRow(1);
+        available->setFocus();
+        QTest::keyClick(available, Qt::Key_Return);
+        QVERIFY(is({u"one"_s, u"two"_s, u"separator"_s, u"five"_s, u"three"_s}));
         press(dialog, "removeTool");
         QVERIFY(is({u"one"_s, u"two"_s, u"separator"_s, u"three"_s}));
         shownList(dialog).setCurrentRow(0);
