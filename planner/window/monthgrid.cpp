@@ -16,23 +16,37 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int daysPerWeek = 7;
-constexpr int numberHeight = 22;
+constexpr QMargins cellMargins(8, 5, 6, 4);
+
+int numberHeight()
+{
+    return std::max(22, QFontMetrics(TypeScale::strong()).height() + 4);
+}
+
+/// Six weeks are in sight on a screen of 768 rows, each day with its number and two lines.
+int leastRowHeight()
+{
+    return cellMargins.top() + numberHeight() + 2 * QFontMetrics(TypeScale::label()).height() +
+           cellMargins.bottom();
+}
 
 QRect contentOf(const QRect &cell)
 {
-    return cell.adjusted(8, 5, -6, -4);
+    return cell.marginsRemoved(cellMargins);
 }
 
 /// Where a cell's note stands: below the number.
 QRect notePlaceIn(const QRect &cell)
 {
     const QRect place = contentOf(cell);
-    return {place.left(), place.top() + numberHeight, place.width(),
+    return {place.left(), place.top() + numberHeight(), place.width(),
             QFontMetrics(TypeScale::label()).height()};
 }
 
@@ -61,7 +75,7 @@ public:
         }
         const QRect place = contentOf(option.rect);
         paintNumber(*painter, place, index, theme, isOutside);
-        QRect entries = place.adjusted(0, numberHeight, 0, 0);
+        QRect entries = place.adjusted(0, numberHeight(), 0, 0);
         if (const auto notes = DaysModel::notesOf(index); !notes.isEmpty()) {
             const QRect line = notePlaceIn(option.rect);
             painter->setFont(TypeScale::label());
@@ -88,7 +102,7 @@ private:
             const int width = painter.fontMetrics().horizontalAdvance(number);
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setPen(QPen(theme.accent, 1.5));
-            painter.drawRoundedRect(QRectF(place.left() - 5, place.top() - 1, width + 10, 21), 6, 6);
+            painter.drawRoundedRect(QRectF(place.left() - 5, place.top() - 1, width + 10, numberHeight() - 1), 6, 6);
             painter.setRenderHint(QPainter::Antialiasing, false);
         }
     }
@@ -152,7 +166,7 @@ void MonthGrid::setUpView()
     m_view->horizontalHeader()->setSectionsClickable(false);
     m_view->horizontalHeader()->setHighlightSections(false);
     m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_view->verticalHeader()->setMinimumSectionSize(84);
+    m_view->verticalHeader()->setMinimumSectionSize(leastRowHeight());
     m_view->verticalHeader()->setSectionsClickable(false);
     m_view->verticalHeader()->setHighlightSections(false);
     m_view->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);

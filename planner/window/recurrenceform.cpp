@@ -14,8 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int numberWidth = 56;
-constexpr int dateWidth = 128;
+constexpr int sectionGap = 2;
 constexpr int daysPerWeek = 7;
 constexpr int lastDayOfMonth = 31;
 
@@ -39,12 +38,12 @@ RecurrenceForm::RecurrenceForm(const DateReading &reading, QWidget *parent)
     , m_yearDay(named(new DateBox(reading, nullptr, this), u"yearDay"_s))
     , m_yearDayInterval(makeNumberBox(u"yearDayInterval"_s, u"Years from date to date"_s))
 {
-    m_yearDay->setFixedWidth(dateWidth);
+    m_yearDay->setFixedWidth(boxWidth(u"Nov-28-2026"_s, 128));
     m_yearDay->setAccessibleName(u"Date of the year"_s);
     connect(m_yearDay, &FieldBox::refused, this, &RecurrenceForm::said);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
+    column->setSpacing(3); // what the choices do below them is in sight on a screen of 768 rows
     addDaily(column);
     addWeekly(column);
     addMonthly(column);
@@ -65,7 +64,7 @@ FieldBox *RecurrenceForm::makeNumberBox(const QString &name, const QString &acce
 {
     auto *box = named(new FieldBox(this), name);
     box->setByteLimit(4);
-    box->setFixedWidth(numberWidth);
+    box->setFixedWidth(boxWidth(u"1000"_s, 56));
     box->setAccessibleName(accessibleName);
     connect(box, &FieldBox::refused, this, &RecurrenceForm::said);
     return box;
@@ -98,7 +97,7 @@ void RecurrenceForm::addDaily(QVBoxLayout *column)
     column->addWidget(makeHeading(u"Daily Recurrence"_s, this));
     addLine(column, {makeKind(Recurrence::Daily, u"Show every"_s), m_dailyInterval, makeWords(u"day(s)"_s)});
     addLine(column, {makeKind(Recurrence::Weekdays, u"Weekdays Only (Monday - Friday)"_s)});
-    column->addSpacing(8);
+    column->addSpacing(sectionGap);
 }
 
 void RecurrenceForm::addWeekly(QVBoxLayout *column)
@@ -119,7 +118,7 @@ void RecurrenceForm::addWeekly(QVBoxLayout *column)
         days->addWidget(button, i / 4, i % 4);
     }
     column->addLayout(days);
-    column->addSpacing(8);
+    column->addSpacing(sectionGap);
 }
 
 void RecurrenceForm::addMonthly(QVBoxLayout *column)
@@ -127,7 +126,7 @@ void RecurrenceForm::addMonthly(QVBoxLayout *column)
     column->addWidget(makeHeading(u"Monthly Recurrence"_s, this));
     addLine(column, {makeKind(Recurrence::Monthly, u"Show on day:"_s), m_dayOfMonth,
                      makeWords(u"of every:"_s), m_monthlyInterval, makeWords(u"month(s)"_s)});
-    column->addSpacing(8);
+    column->addSpacing(sectionGap);
 }
 
 void RecurrenceForm::addYearly(QVBoxLayout *column)

@@ -8,6 +8,8 @@
 
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 RecurrenceOutlook::RecurrenceOutlook(const DataFolder &folder, const DateStyle &style, QWidget *parent)
@@ -24,7 +26,7 @@ RecurrenceOutlook::RecurrenceOutlook(const DataFolder &folder, const DateStyle &
     m_full->setFont(TypeScale::strong()); // in the panel's ink, which any color of a user leaves readable
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(4);
+    column->setSpacing(2);
     column->addWidget(makeHeading(u"What this does"_s, this));
     for (QLabel *label : {m_sum, m_full, m_dates, m_removal}) {
         label->setWordWrap(true);
@@ -51,6 +53,7 @@ void RecurrenceOutlook::showReason(const QString &reason)
 {
     stop();
     m_sum->setText(reason);
+    m_sum->show();
     for (QLabel *label : {m_full, m_dates, m_removal})
         label->hide();
     emit told();
@@ -65,6 +68,12 @@ void RecurrenceOutlook::stop()
 {
     if (m_work->isRunning())
         m_work->stop();
+}
+
+void RecurrenceOutlook::setTall(bool isTall)
+{
+    if (std::exchange(m_isTall, isTall) != isTall && m_preview && !m_work->isRunning())
+        tell();
 }
 
 QString RecurrenceOutlook::dateText(QDate date) const
@@ -82,6 +91,7 @@ void RecurrenceOutlook::tell()
     else
         m_sum->setText(
             PlannerLines::dates(seen.count(), dateText(seen.firstDate()), dateText(seen.lastDate())));
+    m_sum->setVisible(m_isTall || !m_hasKind);
     m_full->setText(PlannerLines::fullDates(seen.full()));
     m_full->setVisible(m_hasKind && seen.full() > 0);
     tellDates();
@@ -98,6 +108,9 @@ void RecurrenceOutlook::tellDates()
         lines << dateText(visit.date) + PlannerLines::dateMark(visit.result);
     if (const qsizetype more = m_preview->count() - lines.size(); more > 0)
         lines << PlannerLines::andMore(int(more));
-    m_dates->setText(lines.join(u'\n'));
+    // In a line, no date is broken at its end.
+    if (!m_isTall)
+        lines.replaceInStrings(u" "_s, QString(QChar::Nbsp));
+    m_dates->setText(lines.join(m_isTall ? u"\n"_s : u" \u00b7 "_s));
     m_dates->setVisible(m_hasKind && !lines.isEmpty());
 }

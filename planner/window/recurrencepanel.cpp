@@ -30,8 +30,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int widestBar = 640;
-constexpr int twoColumnsFrom = 960;
-constexpr int threeColumnsFrom = 1160;
+constexpr int besides = 72; ///< margins and the scroll bar
+constexpr int columnGap = 32;
+constexpr int outlookGap = 24;
+constexpr int leastOutlook = 170;
 
 } // namespace
 
@@ -50,10 +52,9 @@ RecurrencePanel::RecurrencePanel(Program &program, QWidget *parent)
     auto *content = new QWidget;
     content->setLayout(m_columns);
     m_columns->setContentsMargins(0, 0, 8, 0);
-    m_columns->setSpacing(32);
+    m_columns->setSpacing(columnGap);
     m_columns->addWidget(m_range);
     m_columns->addLayout(m_kinds, 1);
-    m_kinds->setSpacing(24);
     m_kinds->addWidget(m_form);
     m_kinds->addWidget(m_outlook, 1);
     m_body->addWidget(makeProgressPanel());
@@ -119,10 +120,15 @@ void RecurrencePanel::makeFoot()
 void RecurrencePanel::resizeEvent(QResizeEvent *event)
 {
     TaskPanel::resizeEvent(event);
-    const bool hasRoom = width() >= threeColumnsFrom;
-    m_kinds->setDirection(hasRoom ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const int room = width() - besides - columnGap - m_form->minimumSizeHint().width();
+    const int least = m_range->leastWidth();
+    m_isWide = room >= least + outlookGap + leastOutlook;
+    m_kinds->setDirection(m_isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_kinds->setSpacing(m_isWide ? outlookGap : outlookGap / 3);
+    m_outlook->setTall(m_isWide);
     refreshWords();
-    m_columns->setDirection(width() < twoColumnsFrom ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_columns->setDirection(room < least ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_range->fitWidth(room < least ? width() - besides : m_isWide ? room - outlookGap - leastOutlook : room);
 }
 
 void RecurrencePanel::open(const Appointment &appointment, QDate date, UntimedPlacement placement,
@@ -176,10 +182,10 @@ void RecurrencePanel::checkLimit()
         limited(recurrence);
 }
 
-/// Where the outlook may be scrolled out of sight, its sum stands in the foot.
+/// Where the outlook stands low, its sum stands in the foot.
 void RecurrencePanel::refreshWords()
 {
-    setWords(width() < threeColumnsFrom && !isRunning() ? m_outlook->sum() : QString());
+    setWords(!m_isWide && !isRunning() ? m_outlook->sum() : QString());
 }
 
 /// Of what would be walked: brought within ten years, as the walk is.

@@ -76,6 +76,7 @@ private:
     std::unique_ptr<RemovalTrash> m_trash; ///< of a removal
     SlicedWork *m_work;
 
+    bool m_isWide = true; ///< enough for the outlook beside the boxes
     QBoxLayout *m_columns;
     QBoxLayout *m_kinds; ///< with what they would do beside or below them
     RecurrenceRange *m_range;

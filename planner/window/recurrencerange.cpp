@@ -13,12 +13,19 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int dateWidth = 128;
-constexpr int numberWidth = 64;
+constexpr int usualWidth = 384;
+constexpr int narrowWidth = 316;
+
+int dateWidth()
+{
+    return boxWidth(u"Nov-28-2026"_s, 128);
+}
 
 } // namespace
 
@@ -27,19 +34,21 @@ RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
     , m_clock(program.clock)
     , m_style(program.state.dateStyle)
     , m_beginning(setUp(new DateBox({program.state.dateStyle, program.clock}, nullptr, this),
-                        u"beginningDate"_s, u"Beginning Date"_s, dateWidth))
+                        u"beginningDate"_s, u"Beginning Date"_s, dateWidth()))
     , m_end(setUp(new DateBox({program.state.dateStyle, program.clock}, nullptr, this), u"endDate"_s,
-                  u"End Date"_s, dateWidth))
-    , m_occurrences(setUp(new FieldBox(this), u"occurrences"_s, u"Number of occurrences"_s, numberWidth))
+                  u"End Date"_s, dateWidth()))
+    , m_occurrences(setUp(new FieldBox(this), u"occurrences"_s, u"Number of occurrences"_s,
+                          boxWidth(u"10000"_s, 64)))
     , m_endBy(new QButtonGroup(this))
     , m_calendarSets(new QButtonGroup(this))
 {
     m_occurrences->setByteLimit(5);
-    setFixedWidth(384);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(6);
-    column->addWidget(makeHeading(u"Beginning and End Date For Recurrence"_s, this));
+    QLabel *heading = makeHeading(u"Beginning and End Date For Recurrence"_s, this);
+    heading->setWordWrap(true);
+    column->addWidget(heading);
     auto *beginning = new QHBoxLayout;
     beginning->addWidget(new QLabel(u"  Beginning Date:"_s, this));
     beginning->addStretch(1);
@@ -51,6 +60,17 @@ RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
     for (QButtonGroup *group : {m_endBy, m_calendarSets})
         TabOrder::findTheChosen(*group);
     TabOrder::follow(*column);
+}
+
+int RecurrenceRange::leastWidth() const
+{
+    return std::max(narrowWidth, layout()->minimumSize().width());
+}
+
+void RecurrenceRange::fitWidth(int room)
+{
+    const int least = leastWidth();
+    setFixedWidth(std::clamp(room, least, std::max(least, usualWidth)));
 }
 
 template <typename Box>

@@ -27,6 +27,10 @@ public:
     void reset(QDate date, const CalendarOptions &options);
     /// Puts the range into `recurrence`, or gives the reason why it cannot be walked.
     std::optional<QString> read(Recurrence &recurrence) const;
+    /// The width below which it would be cut.
+    int leastWidth() const;
+    /// Takes the width that suits it, or as much of it as there is.
+    void fitWidth(int room);
     /// Shows the end of `recurrence`: its date, or its number of occurrences.
     void showEnd(const Recurrence &recurrence);
 

@@ -345,6 +345,12 @@ QScrollArea *makeScrolling(QWidget *content, const QString &name, QWidget *paren
     return named(new ScrollPart(content, parent), name);
 }
 
+int boxWidth(const QString &text, int usual)
+{
+    constexpr int margins = 28;
+    return std::max(usual, QFontMetrics(TypeScale::body()).horizontalAdvance(text) + margins);
+}
+
 void setUnavailable(QWidget *control, const QString &reason)
 {
     makeUnavailable(control, reason);

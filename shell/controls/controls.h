@@ -124,6 +124,9 @@ QLabel *makeChip(const QString &name, const QString &text, QWidget *parent);
 /// A thin horizontal line.
 QWidget *makeLine(QWidget *parent);
 
+/// How wide a box for texts like `text` is: `usual`, or more where the user's font needs it.
+int boxWidth(const QString &text, int usual);
+
 /// `content` in a view that scrolls where it does not fit; the colour of the panel shows through, and the
 /// focus goes to what stands in it.
 QScrollArea *makeScrolling(QWidget *content, const QString &name, QWidget *parent);

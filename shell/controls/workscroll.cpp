@@ -38,9 +38,14 @@ WorkScroll::WorkScroll(QWidget *work, QWidget *parent)
     connect(m_low, &LowWindow::changed, this, &WorkScroll::fit);
     m_settled->setSingleShot(true);
     m_settled->setInterval(0);
-    connect(m_settled, &QTimer::timeout, this, &WorkScroll::follow);
+    connect(m_settled, &QTimer::timeout, this, &WorkScroll::settle);
     // Now, and once more when what changes along with the focus has its place.
-    connect(qApp, &QApplication::focusChanged, this, &WorkScroll::follow);
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (m_hasSettled)
+            m_startsAtTop = false;
+        follow();
+    });
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { m_startsAtTop = false; });
     connect(qApp, &QApplication::focusChanged, m_settled, qOverload<>(&QTimer::start));
 }
 
@@ -101,6 +106,22 @@ void WorkScroll::fit()
         return;
     widget()->resize(size);
     m_settled->start();
+}
+
+void WorkScroll::startAtTop()
+{
+    verticalScrollBar()->setValue(0);
+    m_startsAtTop = true;
+    m_hasSettled = false;
+    m_settled->start();
+}
+
+void WorkScroll::settle()
+{
+    m_hasSettled = true;
+    if (m_startsAtTop)
+        verticalScrollBar()->setValue(0);
+    follow();
 }
 
 /// What is clicked is in sight, and stays where the mouse is.

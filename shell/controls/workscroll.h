@@ -18,6 +18,9 @@ public:
     /// The one that `part` stands in; null where there is none.
     static WorkScroll *around(const QWidget *part);
 
+    /// Other work is shown from its top on, as far as its focus allows, until the user goes on in it.
+    void startAtTop();
+
     QSize sizeHint() const override;
     /// As wide as the work must be: it never scrolls sideways.
     QSize minimumSizeHint() const override;
@@ -30,8 +33,11 @@ protected:
 private:
     void fit();
     void follow();
+    void settle();
 
     QWidget *m_content;
     LowWindow *m_low;
     QTimer *m_settled; ///< the layout is done
+    bool m_startsAtTop = false;
+    bool m_hasSettled = false;
 };

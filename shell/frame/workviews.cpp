@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QScrollBar>
 
 WorkViews::WorkViews(QWidget *parent)
     : QStackedWidget(parent)
@@ -14,7 +13,7 @@ WorkViews::WorkViews(QWidget *parent)
     connect(this, &QStackedWidget::currentChanged, this, [this] {
         updateGeometry();
         if (WorkScroll *scroll = WorkScroll::around(this))
-            scroll->verticalScrollBar()->setValue(0);
+            scroll->startAtTop();
         emit changed(currentWidget());
     });
 }
