@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -19,7 +20,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-constexpr int greatestWidth = 400;
+constexpr int greatestWidth = 480;
 constexpr int rowsShown = 7;
 constexpr int gap = 8;
 /// At the window's foot, where it would cover the status bar.
@@ -33,8 +34,9 @@ AddressChooser::AddressChooser(QWidget *window, Tell tell)
     , m_search(new SearchBox(u"sameAddressSearch"_s, u"Whose address?"_s,
                              u"Type a part of a name; Enter takes the address of the marked one"_s, this))
     , m_view(named(new NameListView(this), u"sameAddressNames"_s))
-    , m_gives(named(new ElidedLabel(this), u"sameAddressGives"_s))
-    , m_replaces(named(new ElidedLabel(this), u"sameAddressReplaces"_s))
+    , m_gives(named(new QLabel(this), u"sameAddressGives"_s))
+    , m_replaces(named(new QLabel(this), u"sameAddressReplaces"_s))
+    , m_words(new QWidget(this))
 {
     setObjectName(u"sameAddressPanel"_s);
     setAttribute(Qt::WA_StyledBackground);
@@ -43,15 +45,13 @@ AddressChooser::AddressChooser(QWidget *window, Tell tell)
     m_view->setAccessibleName(u"Names"_s);
     m_view->setFocusPolicy(Qt::NoFocus); // the box keeps the focus; its arrows walk the list
     m_view->setMinimumHeight(0);
-    for (ElidedLabel *label : {m_gives, m_replaces})
-        label->setFont(TypeScale::label());
+    makeWords();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
     layout->setSpacing(6);
     layout->addWidget(m_search);
     layout->addWidget(m_view, 1);
-    layout->addWidget(m_gives);
-    layout->addWidget(m_replaces);
+    layout->addWidget(m_words);
     m_search->installEventFilter(this);
     window->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this, &AddressChooser::narrow);
@@ -59,6 +59,22 @@ AddressChooser::AddressChooser(QWidget *window, Tell tell)
     connect(m_view, &QListView::clicked, this, &AddressChooser::choose);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, &AddressChooser::tell);
     hide();
+}
+
+/// An address, its telephone number and all, takes two lines at most.
+void AddressChooser::makeWords()
+{
+    auto *column = new QVBoxLayout(m_words);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    for (QLabel *label : {m_gives, m_replaces}) {
+        label->setFont(TypeScale::label());
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        column->addWidget(label);
+    }
+    column->addStretch(1);
+    m_words->setFixedHeight(4 * QFontMetrics(TypeScale::label()).lineSpacing() + column->spacing());
 }
 
 void AddressChooser::open(QWidget *opener, const NameList &names, int first, int without)
@@ -97,8 +113,8 @@ void AddressChooser::place()
 {
     const QRect opener(m_opener->mapTo(parentWidget(), QPoint(0, 0)), m_opener->size());
     const QRect room = parentWidget()->rect().adjusted(gap, gap, -gap, -gap - foot);
-    const int lines = m_gives->sizeHint().height() + m_replaces->sizeHint().height();
-    const int wanted = m_search->sizeHint().height() + rowsShown * ListRowDelegate::rowHeight() + lines + 54;
+    const int wanted =
+        m_search->sizeHint().height() + rowsShown * ListRowDelegate::rowHeight() + m_words->height() + 48;
     const QSize size = QSize(greatestWidth, wanted).boundedTo(room.size());
     const int left = std::clamp(opener.right() - size.width(), room.left(), room.right() + 1 - size.width());
     const int top = std::clamp(opener.bottom() + 4, room.top(), room.bottom() + 1 - size.height());

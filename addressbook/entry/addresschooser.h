@@ -5,10 +5,10 @@
 
 #include <functional>
 
-class ElidedLabel;
 class NameChoice;
 class NameList;
 class NameListView;
+class QLabel;
 class QModelIndex;
 class SearchBox;
 
@@ -39,6 +39,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void makeWords();
     void place();
     void narrow();
     void tell(const QModelIndex &current);
@@ -51,6 +52,7 @@ private:
     NameChoice *m_names;
     SearchBox *m_search;
     NameListView *m_view;
-    ElidedLabel *m_gives;
-    ElidedLabel *m_replaces;
+    QLabel *m_gives;
+    QLabel *m_replaces;
+    QWidget *m_words; ///< the two, as high as the longest of them need
 };

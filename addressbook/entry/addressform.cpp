@@ -172,6 +172,7 @@ QVBoxLayout *AddressForm::labelledWithLinks(AddressField field)
     m_linkRows[field] = head;
     auto *layout = new QVBoxLayout;
     layout->setSpacing(1); // a link is a little higher than a label
+    head->addStrut(QFontMetrics(TypeScale::label()).height() + 2); // also while no link is shown
     layout->addLayout(head);
     layout->addWidget(m_boxes[field]);
     return layout;
@@ -328,7 +329,10 @@ void AddressForm::placeEnlargeButton()
     m_enlarge->setVisible(m_picture->hasPicture());
     const QRect mat = m_picture->mat();
     m_enlarge->adjustSize();
-    m_enlarge->move(mat.bottomRight() - QPoint(m_enlarge->width() + 15, m_enlarge->height() + 15));
+    constexpr int inset = 15;
+    m_enlarge->move(std::max(mat.left() + std::min(inset, (mat.width() - m_enlarge->width()) / 2),
+                             mat.right() - m_enlarge->width() - inset),
+                    mat.bottom() - m_enlarge->height() - inset);
 }
 
 void AddressForm::paintIcons()
@@ -343,6 +347,11 @@ QSize AddressForm::minimumSizeHint() const
 {
     // Never as wide as two columns ask for: the form is what decides between one and two.
     return {oneColumnWidth, m_columns->minimumSize().height()};
+}
+
+int AddressForm::heightForWidth(int width) const
+{
+    return m_columns->minimumHeightForWidth(width);
 }
 
 void AddressForm::resizeEvent(QResizeEvent *event)

@@ -56,6 +56,8 @@ public:
     void tidyDates();
 
     QSize minimumSizeHint() const override;
+    /// With the picture as low as it may be: it gives way before anything is cut.
+    int heightForWidth(int width) const override;
 
 signals:
     void edited();

@@ -24,9 +24,7 @@ LinkButton::LinkButton(const QString &name, const QString &text, QWidget *parent
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
-    QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     letEnterPress(this);
 }
 
