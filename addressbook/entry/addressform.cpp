@@ -171,7 +171,7 @@ QVBoxLayout *AddressForm::labelledWithLinks(AddressField field)
     head->addWidget(makeFieldLabel(captions[field], m_boxes[field], this), 1);
     m_linkRows[field] = head;
     auto *layout = new QVBoxLayout;
-    layout->setSpacing(1); // a link is a little higher than a label
+    layout->setSpacing(1);                                         // a link is a little higher than a label
     head->addStrut(QFontMetrics(TypeScale::label()).height() + 2); // also while no link is shown
     layout->addLayout(head);
     layout->addWidget(m_boxes[field]);

@@ -58,6 +58,9 @@ void ViewerChoices::addSearch(QVBoxLayout &column)
     QPushButton *search = makeButton(u"searchButton"_s, u"Sea&rch"_s, this);
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
+    constexpr int signs = 88; // what it has on both sides of its text
+    m_searchBox->setMinimumWidth(
+        m_searchBox->fontMetrics().horizontalAdvance(m_searchBox->placeholderText()) + signs);
     row->addWidget(m_searchBox, 1);
     row->addWidget(search);
     column.addLayout(row);

@@ -102,7 +102,8 @@ private:
             const int width = painter.fontMetrics().horizontalAdvance(number);
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setPen(QPen(theme.accent, 1.5));
-            painter.drawRoundedRect(QRectF(place.left() - 5, place.top() - 1, width + 10, numberHeight() - 1), 6, 6);
+            painter.drawRoundedRect(QRectF(place.left() - 5, place.top() - 1, width + 10, numberHeight() - 1),
+                                    6, 6);
             painter.setRenderHint(QPainter::Antialiasing, false);
         }
     }

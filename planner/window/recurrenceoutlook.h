@@ -25,8 +25,8 @@ public:
     /// Shows why nothing can be counted.
     void showReason(const QString &reason);
     void stop();
-    /// Whether the first dates stand below each other, as beside other things, or in lines; then the sum stands
-    /// elsewhere.
+    /// Whether the first dates stand below each other, as beside other things, or in lines; then the sum
+    /// stands elsewhere.
     void setTall(bool isTall);
     /// "53 dates, Sat Nov 21, 2026 to Sat Nov 20, 2027", or why there are none.
     QString sum() const;

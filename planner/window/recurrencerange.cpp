@@ -37,8 +37,8 @@ RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
                         u"beginningDate"_s, u"Beginning Date"_s, dateWidth()))
     , m_end(setUp(new DateBox({program.state.dateStyle, program.clock}, nullptr, this), u"endDate"_s,
                   u"End Date"_s, dateWidth()))
-    , m_occurrences(setUp(new FieldBox(this), u"occurrences"_s, u"Number of occurrences"_s,
-                          boxWidth(u"10000"_s, 64)))
+    , m_occurrences(
+          setUp(new FieldBox(this), u"occurrences"_s, u"Number of occurrences"_s, boxWidth(u"10000"_s, 64)))
     , m_endBy(new QButtonGroup(this))
     , m_calendarSets(new QButtonGroup(this))
 {
