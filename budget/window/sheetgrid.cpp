@@ -7,6 +7,7 @@
 #include "budget/window/sheetmodel.h"
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -17,7 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int monthCount = int(BudgetSheet::monthCount);
-constexpr int frame = 4; ///< rim and padding
 
 bool isEnter(int key)
 {
@@ -50,6 +50,7 @@ SheetGrid::SheetGrid(SheetModel &model, QWidget *parent)
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerItem);
+    setTabKeyNavigation(false);
     setWordWrap(false);
     setCornerButtonEnabled(false);
     setFont(TypeScale::body());
@@ -60,7 +61,8 @@ SheetGrid::SheetGrid(SheetModel &model, QWidget *parent)
 
 int SheetGrid::heightOfRows(int rows) const
 {
-    return horizontalHeader()->sizeHint().height() + rows * SheetLook::rowHeight() + 2 * frame;
+    const int frame = height() - contentsRect().height();
+    return horizontalHeader()->sizeHint().height() + rows * SheetLook::rowHeight() + frame;
 }
 
 /// The months share the room evenly; what is left over is the items'.
@@ -117,7 +119,6 @@ void SheetGrid::choose(const SheetRange &range)
     setCurrentIndex(first);
     selectionModel()->select(QItemSelection(first, model()->index(range.bottom, range.right)),
                              QItemSelectionModel::ClearAndSelect);
-    m_anchor = first;
 }
 
 void SheetGrid::finishEdit()
@@ -234,19 +235,16 @@ bool SheetGrid::walk(const QKeyEvent &key)
     if (!to.isValid())
         return false;
     const bool isStep = isEnter(key.key()) || key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
-    if (key.modifiers().testFlag(Qt::ShiftModifier) && !isStep) {
+    if (key.modifiers().testFlag(Qt::ShiftModifier) && !isStep)
         extendTo(to);
-    } else {
+    else
         setCurrentIndex(to);
-        m_anchor = to;
-    }
     return true;
 }
 
 void SheetGrid::extendTo(const QModelIndex &index)
 {
-    if (!m_anchor.isValid())
-        m_anchor = currentIndex();
+    const QScopedValueRollback<bool> extending(m_isExtending, true);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     selectionModel()->select(QItemSelection(m_anchor, index), QItemSelectionModel::ClearAndSelect);
 }
@@ -261,9 +259,14 @@ void SheetGrid::keyPressEvent(QKeyEvent *event)
 
 void SheetGrid::mousePressEvent(QMouseEvent *event)
 {
+    const QScopedValueRollback<bool> extending(m_isExtending, event->modifiers().testFlag(Qt::ShiftModifier));
     QTableView::mousePressEvent(event);
-    if (!event->modifiers().testFlag(Qt::ShiftModifier))
-        m_anchor = currentIndex();
+}
+
+void SheetGrid::mouseMoveEvent(QMouseEvent *event)
+{
+    const QScopedValueRollback<bool> extending(m_isExtending, true);
+    QTableView::mouseMoveEvent(event);
 }
 
 void SheetGrid::wheelEvent(QWheelEvent *event)
@@ -285,6 +288,8 @@ void SheetGrid::resizeEvent(QResizeEvent *event)
 void SheetGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTableView::currentChanged(current, previous);
+    if (!m_isExtending || !m_anchor.isValid())
+        m_anchor = current;
     viewport()->update();
     emit currentMoved(current);
 }
@@ -296,6 +301,5 @@ bool SheetGrid::focusNextPrevChild(bool next)
     if (!to.isValid())
         return QTableView::focusNextPrevChild(next);
     setCurrentIndex(to);
-    m_anchor = to;
     return true;
 }

@@ -48,6 +48,7 @@ protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
@@ -63,7 +64,8 @@ private:
     void extendTo(const QModelIndex &index);
 
     CellDelegate *m_delegate;
-    QPersistentModelIndex m_anchor;
+    QPersistentModelIndex m_anchor; ///< where the range began
+    bool m_isExtending = false;
     int m_firstMonth = 0;
     int m_monthsInView = 12;
     bool m_isTypedOver = false; ///< the open box replaces what the cell held

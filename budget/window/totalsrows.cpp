@@ -17,6 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int frame = 3; ///< as the grid's
+constexpr int line = 1;  ///< between the columns
 constexpr qreal corner = 8;
 
 void setFigure(QLabel *label, const QString &text, const QString &what, std::size_t month)
@@ -126,7 +127,7 @@ void TotalsRows::place()
              std::initializer_list<QLabel *>{m_expenses[std::size_t(month)], m_incomes[std::size_t(month)],
                                              m_balances[std::size_t(month)]}) {
             label->setVisible(isInView);
-            label->setGeometry(x, y, m_grid.columnWidth(column), height);
+            label->setGeometry(x, y, m_grid.columnWidth(column) - line, height);
             y += height;
         }
     }
