@@ -72,6 +72,18 @@ inline QString balance(const QString &when, double amount)
     return when + u": "_s + whole + (Amount::rounded(amount) < 0 ? u" over"_s : u" left"_s);
 }
 
+inline QString howToBegin()
+{
+    return u"Type an item, Tab, then its amounts"_s;
+}
+
+/// What the chosen cells come to: "6 cells: 1027.09".
+inline QString chosen(int cells, double sum)
+{
+    const QString line = u"%1 cells"_s.arg(cells);
+    return sum == 0 ? line : line + u": "_s + Amount::text(sum);
+}
+
 // Edits, as undo and the status bar call them
 
 inline QString cut()

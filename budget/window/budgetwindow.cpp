@@ -62,7 +62,6 @@ Budget1::Budget1(Program &program, QWidget *parent)
     connectYear();
     finishFrame();
     m_year->load(BudgetFiles::yearOf(clock().today()));
-    m_pane->grid().setCurrentIndex(m_model->index(0, 0));
     m_pane->grid().setFocus();
     commands().refresh();
 }
@@ -200,6 +199,7 @@ void Budget1::connectYear()
         refreshTitle();
         refreshWords();
     });
+    connect(m_year, &BudgetYear::opened, this, &Budget1::goToBeginning);
     connect(m_year, &BudgetYear::fileTouched, this, [this] { watchFiles({m_year->fileName()}); });
     connect(m_year, &BudgetYear::copied, this, [this](const UndoStep &step) {
         undoStack().push(step);
@@ -308,7 +308,20 @@ void Budget1::refreshTitle()
 
 void Budget1::refreshWords()
 {
-    m_foot->setWords(m_model->isModified() ? FrameLines::unsavedChanges() : BudgetLines::howToEnterIncome());
+    const bool isEmpty = m_model->sheet() == BudgetSheet();
+    m_foot->setWords(m_model->isModified() ? FrameLines::unsavedChanges()
+                     : isEmpty             ? BudgetLines::howToBegin()
+                                           : BudgetLines::howToEnterIncome());
+}
+
+/// The month of today; where nothing is entered yet, the first item.
+void Budget1::goToBeginning()
+{
+    const QDate today = clock().today();
+    const bool isThisYear = BudgetFiles::yearOf(today) == m_year->year();
+    const bool isEmpty = m_model->sheet() == BudgetSheet();
+    const int column = isEmpty ? SheetColumn::item : isThisYear ? today.month() : SheetColumn::firstMonth;
+    m_pane->grid().setCurrentIndex(m_model->index(0, column));
 }
 
 /// Once a recompute, however many months have outgrown the page; when no box is open any more.

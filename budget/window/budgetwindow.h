@@ -49,6 +49,7 @@ private:
     void viewTotals();
     void refreshTitle();
     void refreshWords();
+    void goToBeginning();
     void warnOfLimit();
 
     SheetModel *m_model;

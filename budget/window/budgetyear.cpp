@@ -8,6 +8,7 @@
 #include "shell/program/program.h"
 
 #include <algorithm>
+#include <utility>
 
 BudgetYear::BudgetYear(Program &program, SheetModel &model, QWidget *window)
     : QObject(window)
@@ -19,12 +20,14 @@ BudgetYear::BudgetYear(Program &program, SheetModel &model, QWidget *window)
 
 void BudgetYear::load(int year)
 {
-    m_year = year;
+    const bool isOther = std::exchange(m_year, year) != year;
     const BudgetFiles::Found found = m_files.read(year);
     m_surplus = found.surplus();
     m_model.load(found.sheet);
     emit fileTouched();
     emit loaded(year);
+    if (isOther)
+        emit opened(year);
     if (m_surplus > 0)
         emit said(BudgetLines::fileHasMore(fileName(), m_surplus));
     else if (found.values > 0 && found.values < BudgetFiles::valueCount)

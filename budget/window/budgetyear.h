@@ -36,6 +36,8 @@ public:
 signals:
     /// A file was read, and shown.
     void loaded(int year);
+    /// The same, where it is another year than before.
+    void opened(int year);
     /// The file was read or written by this window.
     void fileTouched();
     void copied(const UndoStep &step);

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLocale>
 #include <QMenu>
 
 #include <algorithm>
@@ -25,7 +26,9 @@ SheetCommands::SheetCommands(Program &program, Desk desk, QWidget *window)
     , m_program(program)
     , m_desk(std::move(desk))
     , m_window(window)
-{}
+{
+    connect(&m_desk.grid, &SheetGrid::rangeChanged, this, &SheetCommands::sayRange);
+}
 
 void SheetCommands::addCommands(QMenu *edit)
 {
@@ -140,6 +143,26 @@ void SheetCommands::show(const std::optional<Message> &message)
 {
     if (message)
         m_program.dialogs.ask(m_window, *message);
+}
+
+/// Where one is, and what several cells come to.
+void SheetCommands::sayRange()
+{
+    const SheetRange range = m_desk.grid.range();
+    if (range.isEmpty())
+        return;
+    if (range.height() * range.width() == 1) {
+        const QString item = inOneLine(m_desk.model.sheet().rows[std::size_t(range.top)].item);
+        const QString month = QLocale::c().standaloneMonthName(range.left);
+        emit said(range.left == SheetColumn::item ? item : BudgetLines::cell(item, month));
+        return;
+    }
+    double sum = 0;
+    for (int row = range.top; row <= range.bottom; ++row) {
+        for (int column = std::max(range.left, SheetColumn::firstMonth); column <= range.right; ++column)
+            sum += Amount::stored(m_desk.model.index(row, column).data().toString());
+    }
+    emit said(BudgetLines::chosen(range.height() * range.width(), sum));
 }
 
 /// What the cells show, in the layer that is shown.

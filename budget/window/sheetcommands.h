@@ -52,6 +52,7 @@ private:
     bool isCellChosen();
     void change(const QString &title, const Edit &edit);
     void show(const std::optional<Message> &message);
+    void sayRange();
 
     void copy();
     void paste();

@@ -291,7 +291,14 @@ void SheetGrid::currentChanged(const QModelIndex &current, const QModelIndex &pr
     if (!m_isExtending || !m_anchor.isValid())
         m_anchor = current;
     viewport()->update();
-    emit currentMoved(current);
+    verticalHeader()->viewport()->update();
+    horizontalHeader()->viewport()->update();
+}
+
+void SheetGrid::selectionChanged(const QItemSelection &chosen, const QItemSelection &before)
+{
+    QTableView::selectionChanged(chosen, before);
+    emit rangeChanged();
 }
 
 /// Tab goes through the cells and out behind the last one.

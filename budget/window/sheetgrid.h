@@ -40,7 +40,8 @@ public:
 signals:
     /// Columns have other places or widths.
     void columnsMoved();
-    void currentMoved(const QModelIndex &current);
+    /// Other cells are chosen.
+    void rangeChanged();
     /// A sentence for the status bar.
     void said(const QString &line);
 
@@ -52,6 +53,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void selectionChanged(const QItemSelection &chosen, const QItemSelection &before) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
