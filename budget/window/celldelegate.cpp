@@ -77,6 +77,12 @@ void CellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewI
     editor->setGeometry(option.rect);
 }
 
+void CellDelegate::goToEnd() const
+{
+    if (m_editor)
+        m_editor->end(false);
+}
+
 void CellDelegate::finish()
 {
     if (!m_editor || m_editor->isHidden()) // hidden: the grid has taken what it held

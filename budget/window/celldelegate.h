@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLineEdit>
 #include <QPointer>
 #include <QStyledItemDelegate>
 
@@ -20,6 +21,8 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
 
+    /// Puts the cursor behind what the open box holds, for it to be edited.
+    void goToEnd() const;
     /// What is typed in the open box goes into its cell, and the box away.
     void finish();
 
@@ -32,5 +35,5 @@ protected:
 
 private:
     SheetGrid *m_grid;
-    mutable QPointer<QWidget> m_editor;
+    mutable QPointer<QLineEdit> m_editor;
 };

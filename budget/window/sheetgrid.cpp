@@ -18,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int monthCount = int(BudgetSheet::monthCount);
+constexpr int dragPause = 150; ///< milliseconds between two months
 
 bool isEnter(int key)
 {
@@ -128,9 +129,13 @@ void SheetGrid::finishEdit()
 
 bool SheetGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    if (state() != EditingState)
+    const bool wasOpen = state() == EditingState;
+    if (!wasOpen)
         m_isTypedOver = trigger == AnyKeyPressed;
-    return QTableView::edit(index, trigger, event);
+    const bool isOpen = QTableView::edit(index, trigger, event);
+    if (isOpen && !wasOpen && !m_isTypedOver)
+        m_delegate->goToEnd();
+    return isOpen;
 }
 
 bool SheetGrid::isWayOut(const QKeyEvent &key) const
@@ -251,9 +256,10 @@ void SheetGrid::extendTo(const QModelIndex &index)
 
 void SheetGrid::keyPressEvent(QKeyEvent *event)
 {
-    if (state() != EditingState && walk(*event))
-        event->accept();
-    else
+    const SheetRange chosen = range();
+    if (event->key() == Qt::Key_Escape && chosen.height() * chosen.width() > 1)
+        setCurrentIndex(currentIndex());
+    else if (state() == EditingState || !walk(*event))
         QTableView::keyPressEvent(event);
 }
 
@@ -266,7 +272,25 @@ void SheetGrid::mousePressEvent(QMouseEvent *event)
 void SheetGrid::mouseMoveEvent(QMouseEvent *event)
 {
     const QScopedValueRollback<bool> extending(m_isExtending, true);
+    if (event->buttons().testFlag(Qt::LeftButton))
+        dragMonths(event->pos().x());
     QTableView::mouseMoveEvent(event);
+}
+
+/// A range that is drawn beyond the months in view brings the next one.
+void SheetGrid::dragMonths(int x)
+{
+    const int months = columnViewportPosition(SheetColumn::firstMonth + m_firstMonth);
+    const bool isBeyond = x < months || x >= viewport()->width();
+    if (!isBeyond || m_anchor.column() < SheetColumn::firstMonth ||
+        (m_dragged.isValid() && m_dragged.elapsed() < dragPause))
+        return;
+    m_dragged.start();
+    const int month = m_firstMonth;
+    setFirstMonth(month + (x < months ? -1 : 1));
+    if (m_firstMonth != month)
+        extendTo(currentIndex().siblingAtColumn(
+            SheetColumn::firstMonth + (x < months ? m_firstMonth : m_firstMonth + m_monthsInView - 1)));
 }
 
 void SheetGrid::wheelEvent(QWheelEvent *event)

@@ -3,6 +3,7 @@
 
 #include "budget/model/sheetrange.h"
 
+#include <QElapsedTimer>
 #include <QTableView>
 
 class CellDelegate;
@@ -64,11 +65,13 @@ private:
     QModelIndex afterTab(bool forward) const;
     int lastUsedRow() const;
     void extendTo(const QModelIndex &index);
+    void dragMonths(int x);
 
     CellDelegate *m_delegate;
     QPersistentModelIndex m_anchor; ///< where the range began
     bool m_isExtending = false;
     int m_firstMonth = 0;
     int m_monthsInView = 12;
+    QElapsedTimer m_dragged;
     bool m_isTypedOver = false; ///< the open box replaces what the cell held
 };

@@ -100,6 +100,8 @@ void TotalsRows::showBalance(std::size_t month, double balance)
 {
     QLabel *label = m_balances[month];
     const QString text = Amount::text(balance);
+    if (text == label->text())
+        return;
     const bool isNegative = text.startsWith(u'-');
     const Theme &theme = Theme::of(this);
     setFigure(label, text, u"Balance"_s, month);
