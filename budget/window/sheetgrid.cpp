@@ -305,8 +305,12 @@ void SheetGrid::wheelEvent(QWheelEvent *event)
 
 void SheetGrid::resizeEvent(QResizeEvent *event)
 {
+    const int current = currentIndex().column();
+    const bool wasInView = current >= 0 && !isColumnHidden(current);
     QTableView::resizeEvent(event);
     fitColumns();
+    if (wasInView && isColumnHidden(current))
+        scrollTo(currentIndex());
 }
 
 void SheetGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
