@@ -67,9 +67,12 @@ inline Message copyIncomeToTheRight()
 /// `items`: how many the year after has already.
 inline Message copyYear(int year, int items = 0)
 {
-    const QString there = items == 0   ? QString()
-                          : items == 1 ? u"\n%1 has 1 item already, which goes."_s.arg(year + 1)
-                                       : u"\n%1 has %2 items already, which go."_s.arg(year + 1).arg(items);
+    const QString count = items == 1 ? u"1 item"_s : u"%1 items"_s.arg(items);
+    const QString there =
+        items == 0
+            ? QString()
+            : u"\n%1 has %2 already: what it holds is replaced, and Undo brings it back."_s.arg(year + 1).arg(
+                  count);
     return {u"Copy Year"_s,
             u"Copy "_s + QString::number(year) + u" file to "_s + QString::number(year + 1) + u'?' + there,
             Message::Question,

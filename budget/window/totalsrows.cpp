@@ -20,9 +20,24 @@ constexpr int frame = 3; ///< as the grid's
 constexpr int line = 1;  ///< between the columns
 constexpr qreal corner = 8;
 
+/// A sum that has outgrown its column is squeezed rather than cut.
+void squeeze(QLabel *label)
+{
+    QFont font = label->font();
+    font.setStretch(QFont::Unstretched);
+    const int room = label->width() - SheetLook::inset - line;
+    if (QFontMetrics(font).horizontalAdvance(label->text()) > room)
+        font.setStretch(QFont::ExtraCondensed);
+    if (font != label->font())
+        label->setFont(font);
+}
+
 void setFigure(QLabel *label, const QString &text, const QString &what, std::size_t month)
 {
+    if (text == label->text())
+        return;
     label->setText(text);
+    squeeze(label);
     label->setAccessibleName(what + u", "_s + SheetColumn::headings()[SheetColumn::firstMonth + int(month)] +
                              u": "_s + text);
 }
@@ -130,6 +145,7 @@ void TotalsRows::place()
                                              m_balances[std::size_t(month)]}) {
             label->setVisible(isInView);
             label->setGeometry(x, y, m_grid.columnWidth(column) - line, height);
+            squeeze(label);
             y += height;
         }
     }

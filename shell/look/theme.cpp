@@ -54,7 +54,7 @@ QListView:focus, QTreeView:focus, QTableView:focus, QTextBrowser:focus {
     background: @field; border: 2px solid @accent; padding: 2px; }
 QListView:disabled, QTreeView:disabled, QTableView:disabled { background: @locked; }
 QListView#comingUp, QListView#comingUp:focus { background: transparent; border: 0; padding: 0; }
-TimeList { combobox-popup: 0; }
+TimeList, QComboBox#Combo1 { combobox-popup: 0; }
 QComboBoxPrivateContainer QListView, QComboBox QListView { border: 0; border-radius: 0; padding: 2px; }
 QHeaderView { background: @head; border: 0; }
 QHeaderView::section { background: @head; border: 0; border-bottom: 1px solid @line; padding: 5px 8px; }
