@@ -44,9 +44,7 @@ void SheetCommands::addCommands(QMenu *edit)
 
 void SheetCommands::addClipboardCommands(QMenu *edit)
 {
-    const auto clear = [this](BudgetSheet &sheet, const SheetRange &range) {
-        SheetEdits::clear(sheet, range);
-    };
+    const auto clear = [](BudgetSheet &sheet, const SheetRange &range) { SheetEdits::clear(sheet, range); };
     add(
         edit, u"mECut"_s, u"Cu&t"_s,
         [=, this] {
