@@ -20,10 +20,11 @@ int BudgetFiles::yearOf(QDate today)
     return lastDigits < 90 ? 2000 + lastDigits : 1900 + lastDigits;
 }
 
-BudgetFiles::Found BudgetFiles::read(int year) const
+namespace {
+
+BudgetFiles::Found foundIn(const QStringList &values)
 {
-    const QStringList values = ValueFile::read(m_folder.filePath(fileName(year)));
-    Found found;
+    BudgetFiles::Found found;
     found.values = int(values.size());
     auto next = values.begin();
     const auto take = [&next, &values](QString &text) {
@@ -40,7 +41,19 @@ BudgetFiles::Found BudgetFiles::read(int year) const
     return found;
 }
 
-bool BudgetFiles::write(int year, const BudgetSheet &sheet) const
+} // namespace
+
+BudgetFiles::Found BudgetFiles::decode(QByteArrayView bytes)
+{
+    return foundIn(ValueFile::decode(bytes));
+}
+
+BudgetFiles::Found BudgetFiles::read(int year) const
+{
+    return foundIn(ValueFile::read(m_folder.filePath(fileName(year))));
+}
+
+QByteArray BudgetFiles::encode(const BudgetSheet &sheet)
 {
     QStringList values;
     values.reserve(valueCount);
@@ -51,7 +64,12 @@ bool BudgetFiles::write(int year, const BudgetSheet &sheet) const
     }
     for (const QString &income : sheet.incomes)
         values.append(income);
-    return Saving::replaceFile(m_folder, fileName(year), ValueFile::encode(values));
+    return ValueFile::encode(values);
+}
+
+bool BudgetFiles::write(int year, const BudgetSheet &sheet) const
+{
+    return Saving::replaceFile(m_folder, fileName(year), encode(sheet));
 }
 
 bool BudgetFiles::has(int year) const
