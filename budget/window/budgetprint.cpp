@@ -5,7 +5,10 @@
 #include "budget/model/budgetpages.h"
 #include "budget/model/papermessages.h"
 #include "budget/model/sheetlines.h"
+#include "budget/window/budgetyear.h"
 #include "budget/window/exportbox.h"
+#include "budget/window/sheetgrid.h"
+#include "budget/window/sheetmodel.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/program/program.h"
@@ -22,16 +25,22 @@ BudgetPrint::BudgetPrint(Program &program, FunctionWindow *window, Sources sourc
     : QObject(window)
     , m_program(program)
     , m_window(window)
-    , m_from(std::move(sources))
-    , m_chart(program.folder)
+    , m_from(sources)
+    , m_picture(program.folder)
 {}
+
+void BudgetPrint::setTotals(Chart chart, std::function<BudgetBasis()> basis)
+{
+    m_chart = std::move(chart);
+    m_basis = std::move(basis);
+}
 
 void BudgetPrint::addPrintCommands(Commands &commands, QMenu *menu)
 {
     QAction *print = commands.add(
         menu, u"mOPrt"_s, u"&Print"_s, [this] { printSheet(); }, {}, CommonKeys::print);
     commands.add(menu, u"mOPTotals"_s, u"Print &Totals"_s, [this] { printTotals(); });
-    commands.add(menu, u"mOPDiscuss"_s, u"Print Sheet to &Discuss"_s, [this] { printDiscussion(); });
+    commands.add(menu, u"mOPDiscuss"_s, u"Print S&heet to Discuss"_s, [this] { printDiscussion(); });
     commands.tool(print, "print"_L1, u"Print"_s);
 }
 
@@ -42,24 +51,31 @@ void BudgetPrint::addCopyCommand(Commands &commands, QMenu *menu)
 
 void BudgetPrint::addExportCommand(Commands &commands, QMenu *menu)
 {
-    QAction *command = commands.add(
+    commands.add(
         menu, u"mUExcel"_s, u"&Export to Excel/Spreadsheet"_s, [this] { exportFile(); },
         [this] {
-            return SheetLines::isWorthExporting(m_from.sheet()) ? QString() : BudgetPaper::nothingToExport();
+            const bool isWorthIt = SheetLines::isWorthExporting(m_from.model.sheet());
+            return isWorthIt ? QString() : BudgetPaper::nothingToExport();
         });
-    commands.tool(command, "export"_L1, u"Export"_s);
+}
+
+/// With what is still being typed into a cell.
+BudgetSheet BudgetPrint::sheet() const
+{
+    m_from.grid.finishEdit();
+    return m_from.model.sheet();
 }
 
 /// The proposed name of a PDF.
 QString BudgetPrint::nameOf(const QString &what) const
 {
-    return what + u' ' + QString::number(m_from.year());
+    return what + u' ' + QString::number(m_from.year.year());
 }
 
 void BudgetPrint::printSheet()
 {
     m_window->showPreview(
-        [year = m_from.year(), sheet = m_from.sheet()](const PageContext &context) {
+        [year = m_from.year.year(), sheet = sheet()](const PageContext &context) {
             return BudgetPages::sheet(year, sheet, context);
         },
         nameOf(u"Budget"_s));
@@ -67,15 +83,15 @@ void BudgetPrint::printSheet()
 
 void BudgetPrint::printTotals()
 {
-    const BudgetSheet sheet = m_from.sheet();
+    const BudgetSheet sheet = this->sheet();
     if (const auto refusal = whyNoTotals(sheet)) {
         m_program.dialogs.ask(m_window, *refusal);
         return;
     }
-    const auto page = [this, year = m_from.year(), sheet,
-                       basis = m_from.basis()](const PageContext &context) {
+    const BudgetBasis basis = m_basis ? m_basis() : BudgetBasis::Income;
+    const auto page = [this, year = m_from.year.year(), sheet, basis](const PageContext &context) {
         const QSizeF frame = BudgetPages::chartFrame(context.setup.orientation).size();
-        const QString picture = m_chart.store(m_from.chart(sheet, basis, frame));
+        const QString picture = m_chart ? m_picture.store(m_chart(sheet, basis, frame)) : QString();
         return BudgetPages::totals(year, sheet, basis, picture, context);
     };
     m_window->showPreview(page, nameOf(u"Budget Totals"_s));
@@ -84,7 +100,7 @@ void BudgetPrint::printTotals()
 void BudgetPrint::printDiscussion()
 {
     m_window->showPreview(
-        [year = m_from.year(), sheet = m_from.sheet()](const PageContext &context) {
+        [year = m_from.year.year(), sheet = sheet()](const PageContext &context) {
             return BudgetPages::discussion(year, sheet, context);
         },
         nameOf(u"Budget to Discuss"_s));
@@ -92,12 +108,12 @@ void BudgetPrint::printDiscussion()
 
 void BudgetPrint::copy()
 {
-    QGuiApplication::clipboard()->setText(SheetLines::clipboardText(m_from.year(), m_from.sheet()));
+    QGuiApplication::clipboard()->setText(SheetLines::clipboardText(m_from.year.year(), sheet()));
     m_program.dialogs.ask(m_window, BudgetPaper::copied());
 }
 
 void BudgetPrint::exportFile()
 {
-    ExportBox box(m_program, m_from.year(), SheetLines::exportText(m_from.sheet()), m_window);
+    ExportBox box(m_program, m_from.year.year(), SheetLines::exportText(sheet()), m_window);
     m_program.dialogs.run(box);
 }

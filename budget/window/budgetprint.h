@@ -10,8 +10,11 @@
 
 #include <functional>
 
+class BudgetYear;
 class FunctionWindow;
 class QMenu;
+class SheetGrid;
+class SheetModel;
 struct PageContext;
 struct Program;
 
@@ -21,15 +24,19 @@ class BudgetPrint final : public QObject
 {
     Q_OBJECT
 public:
+    /// What is printed; all of it outlives the printing.
     struct Sources {
-        std::function<int()> year;
-        std::function<BudgetSheet()> sheet; ///< as it is typed
-        std::function<BudgetBasis()> basis; ///< as it is chosen in the totals
-        /// The chart of the totals on paper, of this size in inches; a null picture where it cannot be drawn.
-        std::function<QImage(const BudgetSheet &, BudgetBasis, QSizeF)> chart;
+        const SheetModel &model;
+        SheetGrid &grid;
+        const BudgetYear &year;
     };
+    /// The chart of the totals on paper, of this size in inches.
+    using Chart = std::function<QImage(const BudgetSheet &, BudgetBasis, QSizeF)>;
 
     BudgetPrint(Program &program, FunctionWindow *window, Sources sources);
+
+    /// Where the totals page has its chart and its percentages from; without, it has no chart.
+    void setTotals(Chart chart, std::function<BudgetBasis()> basis);
 
     void addPrintCommands(Commands &commands, QMenu *menu);
     void addCopyCommand(Commands &commands, QMenu *menu);
@@ -42,10 +49,13 @@ private:
     void printDiscussion();
     void copy();
     void exportFile();
+    BudgetSheet sheet() const;
     QString nameOf(const QString &what) const;
 
     Program &m_program;
     FunctionWindow *m_window;
     Sources m_from;
-    ChartPicture m_chart;
+    Chart m_chart;
+    std::function<BudgetBasis()> m_basis;
+    ChartPicture m_picture;
 };

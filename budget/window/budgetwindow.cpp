@@ -5,6 +5,7 @@
 #include "budget/model/budgetentry.h"
 #include "budget/model/lines.h"
 #include "budget/model/messages.h"
+#include "budget/window/budgetprint.h"
 #include "budget/window/budgetyear.h"
 #include "budget/window/sheetcommands.h"
 #include "budget/window/sheetgrid.h"
@@ -54,6 +55,7 @@ Budget1::Budget1(Program &program, QWidget *parent)
     m_model->setReadOnly(program.folder.isReadOnly());
     m_edits = new SheetCommands(
         program, {*m_model, m_pane->grid(), commands(), [this] { return whyNoSheet(); }}, this);
+    m_print = new BudgetPrint(program, this, {*m_model, m_pane->grid(), *m_year});
     m_views->addHome(m_sheetView);
     setWork(makeWorkPanel());
     makeCommands();
@@ -110,6 +112,8 @@ void Budget1::makeCommands()
     m_totals = commands().add(
         view, u"mVTotals"_s, u"View &Totals"_s, [this] { viewTotals(); }, [this] { return whyNoSheet(); });
     addEditCommands(edit);
+    m_print->addPrintCommands(commands(), options);
+    options->addSeparator();
     addOptionCommands(options);
     addStandardTool(Standard::PanelColor);
     addUtilityCommands(utilities);
@@ -124,6 +128,7 @@ void Budget1::addEditCommands(QMenu *menu)
     menu->addSeparator();
     m_edits->addCommands(menu);
     menu->addSeparator();
+    m_print->addCopyCommand(commands(), menu);
     m_copyYear = commands().writing(commands().add(
         menu, u"mECY"_s, u"Copy &Year"_s, [this] { copyYear(); }, [this] { return whyNoSheet(); }));
 }
@@ -150,6 +155,7 @@ void Budget1::addUtilityCommands(QMenu *menu)
             return m_year->hasFile() ? QString() : BudgetLines::nothingToBackUp(m_year->year());
         });
     menu->addAction(standard(Standard::Restore));
+    m_print->addExportCommand(commands(), menu);
     connect(menu, &QMenu::aboutToShow, this, [this] { commands().refresh(); });
     commands().tool(backup, "backup-command"_L1, u"Backup"_s);
     toolbar().giveWay(backup);

@@ -3,6 +3,7 @@
 
 #include "shell/frame/functionwindow.h"
 
+class BudgetPrint;
 class BudgetYear;
 class ButtonRow;
 class QComboBox;
@@ -61,6 +62,7 @@ private:
     WorksheetPane *m_pane = nullptr;
     ButtonRow *m_foot = nullptr;
     SheetCommands *m_edits = nullptr;
+    BudgetPrint *m_print;
     QAction *m_deleteRow = nullptr;
     QAction *m_save = nullptr;
     QAction *m_copyYear = nullptr;
