@@ -112,6 +112,12 @@ std::unique_ptr<SearchSource> budgetSearch(const Program &program)
     return std::make_unique<BudgetSource>(program.folder, program.clock, program.state.dateStyle);
 }
 
+void showInBudget(QWidget &window, const Place &place)
+{
+    if (auto *budget = qobject_cast<Budget1 *>(&window))
+        budget->showPlace(place);
+}
+
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
 {
     switch (PasswordCheck(program.folder, PasswordCost::interactive(), &program.gate.memory()).state()) {
@@ -161,6 +167,7 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                      .liveFiles = BudgetNews::liveFiles(clock.today()),
                                      .dayNotes = budgetNotes,
                                      .search = budgetSearch,
+                                     .show = showInBudget,
                                      .files = budgetFiles});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});

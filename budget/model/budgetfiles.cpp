@@ -9,17 +9,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-QString BudgetFiles::fileName(int year)
-{
-    return QString::number(year) + u".Fil"_s;
-}
-
-int BudgetFiles::yearOf(QDate today)
-{
-    const int lastDigits = today.year() % 100;
-    return lastDigits < 90 ? 2000 + lastDigits : 1900 + lastDigits;
-}
-
 namespace {
 
 BudgetFiles::Found foundIn(const QStringList &values)
@@ -42,6 +31,17 @@ BudgetFiles::Found foundIn(const QStringList &values)
 }
 
 } // namespace
+
+QString BudgetFiles::fileName(int year)
+{
+    return QString::number(year) + u".Fil"_s;
+}
+
+int BudgetFiles::yearOf(QDate today)
+{
+    const int lastDigits = today.year() % 100;
+    return lastDigits < 90 ? 2000 + lastDigits : 1900 + lastDigits;
+}
 
 BudgetFiles::Found BudgetFiles::decode(QByteArrayView bytes)
 {

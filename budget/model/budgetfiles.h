@@ -44,6 +44,9 @@ public:
     /// Writes all values of `year`. False, with the old file untouched, when the disk refuses.
     [[nodiscard]] bool write(int year, const BudgetSheet &sheet) const;
 
+    /// The bytes of a file that holds `sheet`.
+    static QByteArray encode(const BudgetSheet &sheet);
+
     /// Whether the year's file is there and holds anything.
     bool has(int year) const;
 

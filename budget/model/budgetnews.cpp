@@ -71,7 +71,7 @@ private:
             return;
         notes.append({shown,
                       due.item + u": "_s + centsText(planned),
-                      u"Budget"_s,
+                      u"Home Budget"_s,
                       isDone      ? NoteKind::Done
                       : isOverdue ? NoteKind::Overdue
                                   : NoteKind::Due,

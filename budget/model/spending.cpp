@@ -167,6 +167,13 @@ QString BudgetItems::owned(const BudgetSheet &sheet, std::size_t row) const
     return this->row(item) == int(row) ? item : QString();
 }
 
+QDate spentDate(int year, int month, QDate today)
+{
+    const QDate first(year, month, 1);
+    const QDate last(year, month, first.daysInMonth());
+    return first > today ? first : std::min(today, last);
+}
+
 qint64 centsOf(QStringView stored)
 {
     return qint64(std::llround(Amount::rounded(Amount::stored(stored)) * 100));

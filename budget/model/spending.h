@@ -111,6 +111,10 @@ private:
     QHash<QString, int> m_rows;
 };
 
+/// The date of something that is entered into `month` (1 to 12) of `year`: `today` where that lies in it,
+/// else its last day, or its first as long as that is to come.
+QDate spentDate(int year, int month, QDate today);
+
 /// An amount of the worksheet in cents.
 qint64 centsOf(QStringView stored);
 

@@ -3,6 +3,7 @@
 
 #include "budget/model/amount.h"
 #include "budget/model/budgetentry.h"
+#include "budget/model/budgetnews.h"
 #include "budget/model/lines.h"
 #include "budget/model/messages.h"
 #include "budget/window/budgetprint.h"
@@ -10,6 +11,8 @@
 #include "budget/window/sheetcommands.h"
 #include "budget/window/sheetgrid.h"
 #include "budget/window/sheetmodel.h"
+#include "budget/window/spentdesk.h"
+#include "budget/window/spentyear.h"
 #include "budget/window/totalsrows.h"
 #include "budget/window/worksheetpane.h"
 #include "shell/controls/activitybar.h"
@@ -17,6 +20,7 @@
 #include "shell/controls/titleline.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
+#include "shell/core/place.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/undostack.h"
 #include "shell/frame/windowtoolbar.h"
@@ -47,16 +51,20 @@ WindowTraits traits()
 Budget1::Budget1(Program &program, QWidget *parent)
     : FunctionWindow(program, traits(), parent)
     , m_model(new SheetModel(this))
-    , m_year(new BudgetYear(program, *m_model, this))
+    , m_spent(new SpentYear(program.folder, *m_model, this))
+    , m_year(new BudgetYear(program, *m_model, *m_spent, this))
     , m_views(new WorkViews)
     , m_sheetView(named(new QWidget, u"sheetView"_s))
 {
     makeSheetView();
+    m_views->addHome(m_sheetView);
+    m_spentDesk = new SpentDesk(program, {*m_model, m_pane->grid(), *m_spent, *m_views, commands()}, this);
+    m_title->addAtRight(m_spentDesk->makeSwitch(m_title));
+    m_title->addAtRight(makeYearBox());
     m_model->setReadOnly(program.folder.isReadOnly());
     m_edits = new SheetCommands(
         program, {*m_model, m_pane->grid(), commands(), [this] { return whyNoSheet(); }}, this);
     m_print = new BudgetPrint(program, this, {*m_model, m_pane->grid(), *m_year});
-    m_views->addHome(m_sheetView);
     setWork(makeWorkPanel());
     makeCommands();
     setViews(m_views);
@@ -81,7 +89,6 @@ void Budget1::makeSheetView()
 {
     QWidget *view = m_sheetView;
     m_title = new TitleLine(u"budgetTitle"_s, {}, view);
-    m_title->addAtRight(makeYearBox());
     m_pane = new WorksheetPane(*m_model, view);
     m_foot = new ButtonRow(view);
     auto *rows = new QVBoxLayout(view);
@@ -111,6 +118,8 @@ void Budget1::makeCommands()
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_totals = commands().add(
         view, u"mVTotals"_s, u"View &Totals"_s, [this] { viewTotals(); }, [this] { return whyNoSheet(); });
+    view->addSeparator();
+    m_spentDesk->addCommands(view);
     addEditCommands(edit);
     m_print->addPrintCommands(commands(), options);
     options->addSeparator();
@@ -178,7 +187,17 @@ void Budget1::connectSheet()
         refreshWords();
         warnOfLimit();
     });
-    connect(m_model, &SheetModel::edited, this, [this](const UndoStep &step) { undoStack().push(step); });
+    connect(m_model, &SheetModel::edited, this,
+            [this](const UndoStep &step) { undoStack().push(m_spent->along(step)); });
+    connect(m_spent, &SpentYear::edited, this, [this](const UndoStep &step) { undoStack().push(step); });
+    connect(m_spent, &SpentYear::changed, this, [this] {
+        refreshTitle();
+        refreshWords();
+    });
+    connect(m_spentDesk, &SpentDesk::said, &activity(), &ActivityBar::say);
+    connect(
+        m_spentDesk, &SpentDesk::noticed, this, [this](const Message &message) { ask(message); },
+        Qt::QueuedConnection);
     connect(m_model, &SheetModel::shownAgain, &m_pane->grid(), &SheetGrid::choose);
     // The box that is typed into goes before anything is asked.
     connect(
@@ -206,7 +225,7 @@ void Budget1::connectYear()
         refreshWords();
     });
     connect(m_year, &BudgetYear::opened, this, &Budget1::goToBeginning);
-    connect(m_year, &BudgetYear::fileTouched, this, [this] { watchFiles({m_year->fileName()}); });
+    connect(m_year, &BudgetYear::fileTouched, this, [this] { watchFiles(m_year->fileNames()); });
     connect(m_year, &BudgetYear::copied, this, [this](const UndoStep &step) {
         undoStack().push(step);
         undoStack().offer();
@@ -222,7 +241,16 @@ QString Budget1::whyNoSheet() const
 bool Budget1::isModified() const
 {
     m_pane->grid().finishEdit();
-    return m_model->isModified();
+    return m_year->isModified();
+}
+
+void Budget1::showPlace(const Place &place)
+{
+    const int year = place.record > 0 ? place.record : place.date.year();
+    if (year != m_year->year())
+        chooseYear(year);
+    if (year == m_year->year())
+        m_spentDesk->show(place);
 }
 
 bool Budget1::save()
@@ -306,8 +334,10 @@ void Budget1::refreshTitle()
     const QDate today = clock().today();
     const BudgetFigures &figures = m_model->figures();
     const bool isThisYear = BudgetFiles::yearOf(today) == m_year->year();
+    const auto month = std::size_t(today.month() - 1);
     const double balance =
-        isThisYear ? double(figures.months[std::size_t(today.month() - 1)].balance) : figures.balance;
+        isThisYear ? double(BudgetNews::left(m_model->sheet(), m_spent->sums(), month).value_or(0)) / 100
+                   : figures.balance;
     const QString when = isThisYear ? QLocale::c().monthName(today.month()) + u' ' : QString();
     m_title->setTitle(BudgetLines::balance(when + QString::number(m_year->year()), balance));
 }
@@ -315,9 +345,9 @@ void Budget1::refreshTitle()
 void Budget1::refreshWords()
 {
     const bool isEmpty = m_model->sheet() == BudgetSheet();
-    m_foot->setWords(m_model->isModified() ? FrameLines::unsavedChanges()
-                     : isEmpty             ? BudgetLines::howToBegin()
-                                           : BudgetLines::howToEnterIncome());
+    m_foot->setWords(m_year->isModified() ? FrameLines::unsavedChanges()
+                     : isEmpty            ? BudgetLines::howToBegin()
+                                          : BudgetLines::howToEnterIncome());
 }
 
 /// The month of today; where nothing is entered yet, the first item.

@@ -10,9 +10,12 @@ class QComboBox;
 class SheetCommands;
 class SheetGrid;
 class SheetModel;
+class SpentDesk;
+class SpentYear;
 class TitleLine;
 class WorkViews;
 class WorksheetPane;
+struct Place;
 
 /// The home budget: the worksheet of one year, what it comes to month by month, and the year's totals.
 class Budget1 final : public FunctionWindow
@@ -22,6 +25,10 @@ public:
     explicit Budget1(Program &program, QWidget *parent = nullptr);
 
     bool isModified() const override;
+
+    /// Shows the row and month of `place` in its year, where unsaved work lets it; the amount with that date
+    /// where its record is the year.
+    void showPlace(const Place &place);
 
 protected:
     [[nodiscard]] bool save() override;
@@ -54,9 +61,11 @@ private:
     void warnOfLimit();
 
     SheetModel *m_model;
+    SpentYear *m_spent;
     BudgetYear *m_year;
     WorkViews *m_views; ///< the sheet, and what stands over it
     QWidget *m_sheetView;
+    SpentDesk *m_spentDesk = nullptr;
     TitleLine *m_title = nullptr;
     QComboBox *m_years = nullptr;
     WorksheetPane *m_pane = nullptr;

@@ -5,16 +5,19 @@
 #include "budget/model/messages.h"
 #include "budget/model/yearcopy.h"
 #include "budget/window/sheetmodel.h"
+#include "budget/window/spentyear.h"
 #include "shell/program/program.h"
+#include "storage/changeset.h"
 
 #include <algorithm>
 #include <utility>
 
-BudgetYear::BudgetYear(Program &program, SheetModel &model, QWidget *window)
+BudgetYear::BudgetYear(Program &program, SheetModel &model, SpentYear &spent, QWidget *window)
     : QObject(window)
     , m_program(program)
     , m_files(program.folder)
     , m_model(model)
+    , m_spent(spent)
     , m_window(window)
 {}
 
@@ -24,6 +27,7 @@ void BudgetYear::load(int year)
     const BudgetFiles::Found found = m_files.read(year);
     m_surplus = found.surplus();
     m_model.load(found.sheet);
+    m_spent.load(year);
     emit fileTouched();
     emit loaded(year);
     if (isOther)
@@ -34,17 +38,40 @@ void BudgetYear::load(int year)
         emit said(BudgetLines::fileEndsEarly(fileName()));
 }
 
+QStringList BudgetYear::fileNames() const
+{
+    return {fileName(), m_spent.fileName()};
+}
+
+bool BudgetYear::isModified() const
+{
+    return m_model.isModified() || m_spent.isModified();
+}
+
+/// Where both have changed, both are written or neither.
+bool BudgetYear::write()
+{
+    if (!m_spent.isModified())
+        return m_files.write(m_year, m_model.sheet());
+    ChangeSet change(m_program.folder);
+    if (m_model.isModified() || m_surplus > 0)
+        change.replace(fileName(), BudgetFiles::encode(m_model.sheet()));
+    m_spent.addTo(change);
+    return change.commit();
+}
+
 bool BudgetYear::save()
 {
     if (m_surplus > 0 &&
         m_program.dialogs.ask(m_window, BudgetMessages::dropSurplus(fileName(), m_surplus)) != Answer::Yes)
         return false;
-    if (!m_files.write(m_year, m_model.sheet())) {
+    if (!write()) {
         emit said(BudgetLines::notSaved());
         return false;
     }
     m_surplus = 0;
     m_model.setSaved();
+    m_spent.setSaved();
     emit fileTouched();
     emit said({}); // a refusal of the disk before
     return true;
@@ -84,7 +111,7 @@ void BudgetYear::showIfOpen(int year)
 
 void BudgetYear::takeChangedFile()
 {
-    if (m_model.isModified()) {
+    if (isModified()) {
         emit said(BudgetLines::changedElsewhereToo(fileName()));
         return;
     }

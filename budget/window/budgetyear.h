@@ -7,25 +7,29 @@
 #include <QObject>
 
 class SheetModel;
+class SpentYear;
 struct Message;
 struct Program;
 
-/// The year whose budget is open: its file is read into the sheet, and the sheet written into it.
+/// The year whose budget is open: its file is read into the sheet, and the sheet written into it
+/// together with what was spent.
 class BudgetYear final : public QObject
 {
     Q_OBJECT
 public:
     /// `window` is what questions are asked over.
-    BudgetYear(Program &program, SheetModel &model, QWidget *window);
+    BudgetYear(Program &program, SheetModel &model, SpentYear &spent, QWidget *window);
 
     int year() const { return m_year; }
     QString fileName() const { return BudgetFiles::fileName(m_year); }
     const BudgetFiles &files() const { return m_files; }
+    QStringList fileNames() const;
     bool hasFile() const { return m_files.has(m_year); }
 
     /// Shows what the file of `year` holds; what was typed is dropped.
     void load(int year);
     void reload() { load(m_year); }
+    bool isModified() const;
     /// Writes the sheet. False when the disk refuses, or when the user would rather keep what the file has.
     [[nodiscard]] bool save();
     /// Asks, then copies the file over that of the year after. Nothing that was typed is copied.
@@ -46,10 +50,12 @@ signals:
 
 private:
     void showIfOpen(int year);
+    bool write();
 
     Program &m_program;
     BudgetFiles m_files;
     SheetModel &m_model;
+    SpentYear &m_spent;
     QWidget *m_window;
     int m_year = 0;
     int m_surplus = 0; ///< values of the file that the next save would drop

@@ -87,9 +87,10 @@ void SheetModel::setLayer(SheetLayer layer)
     emit layerChanged();
 }
 
-void SheetModel::setSpent(const Sums &sums)
+void SheetModel::setSpent(const Sums &sums, const MonthSums &noRow)
 {
     m_spent = sums;
+    m_spentOnNoRow = noRow;
     if (m_layer != SheetLayer::Spent)
         return;
     emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
@@ -127,8 +128,12 @@ QVariant SheetModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     switch (role) {
-    case Qt::DisplayRole:
     case Qt::EditRole:
+        // What is typed there is added to what the cell shows.
+        if (m_layer == SheetLayer::Spent && index.column() != SheetColumn::item)
+            return QString();
+        [[fallthrough]];
+    case Qt::DisplayRole:
         return cellShown(index.row(), index.column());
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter |
@@ -162,7 +167,7 @@ bool SheetModel::setData(const QModelIndex &index, const QVariant &value, int ro
         return false;
     const QString typed = value.toString();
     // Nothing was typed: what the file has stays, however it is written.
-    if (typed == cellShown(index.row(), index.column()))
+    if (typed == data(index, Qt::EditRole).toString())
         return false;
     return takeCell(index.row(), index.column(), typed);
 }

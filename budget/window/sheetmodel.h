@@ -19,8 +19,9 @@ class SheetModel final : public QAbstractTableModel
 {
     Q_OBJECT
 public:
+    using MonthSums = std::array<double, BudgetSheet::monthCount>;
     /// What was spent in each row and month.
-    using Sums = std::array<std::array<double, BudgetSheet::monthCount>, BudgetSheet::rowCount>;
+    using Sums = std::array<MonthSums, BudgetSheet::rowCount>;
 
     /// True for an amount spent over its plan.
     static constexpr int overPlanRole = Qt::UserRole;
@@ -48,8 +49,10 @@ public:
     /// In the layer of what was spent, amounts that are typed are told by `spentTyped` and change no sheet.
     void setLayer(SheetLayer layer);
     SheetLayer layer() const { return m_layer; }
-    void setSpent(const Sums &sums);
+    /// What was spent, and what of it belongs to no row.
+    void setSpent(const Sums &sums, const MonthSums &noRow);
     const Sums &spent() const { return m_spent; }
+    const MonthSums &spentOnNoRow() const { return m_spentOnNoRow; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -85,5 +88,6 @@ private:
     BudgetFigures m_figures;
     SheetLayer m_layer = SheetLayer::Planned;
     Sums m_spent{};
+    MonthSums m_spentOnNoRow{};
     bool m_isReadOnly = false;
 };

@@ -99,7 +99,7 @@ void TotalsRows::refresh()
         double expenses = double(figures.expenses);
         double balance = double(figures.balance);
         if (isSpent) {
-            expenses = 0;
+            expenses = m_model.spentOnNoRow()[month];
             for (const auto &row : m_model.spent())
                 expenses += row[month];
             balance = double(figures.income) - expenses;

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "budget/model/spending.h"
+
+#include <QLocale>
+
+/// What the budget says about amounts that were spent; reasons of disabled commands among them.
+namespace SpentLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString noRow()
+{
+    return u"No row"_s;
+}
+
+/// `month` from 0; "Groceries, March 2026", or "Groceries, 2026" without a month.
+inline QString cell(const QString &item, int month, int year)
+{
+    const QString when = month < 0 ? QString() : QLocale::c().monthName(month + 1) + u' ';
+    return (item.isEmpty() ? noRow() : item) + u", "_s + when + QString::number(year);
+}
+
+inline QString added(qint64 cents, const QString &item, QDate date)
+{
+    return u"Spent: "_s + centsText(cents) + u" on "_s + (item.isEmpty() ? noRow() : item) + u", "_s +
+           QLocale::c().monthName(date.month());
+}
+
+inline QString changed(const QString &item)
+{
+    return u"Changed an amount spent on "_s + (item.isEmpty() ? noRow() : item);
+}
+
+inline QString deleted(qint64 cents, const QString &item)
+{
+    return u"Deleted: "_s + centsText(cents) + u" spent on "_s + (item.isEmpty() ? noRow() : item);
+}
+
+inline QString paid(const QString &item, int month)
+{
+    return u"Paid: "_s + item + u", "_s + QLocale::c().monthName(month);
+}
+
+inline QString notPaid(const QString &item, int month)
+{
+    return u"Not paid: "_s + item + u", "_s + QLocale::c().monthName(month);
+}
+
+inline QString dueDay(const QString &item, int day)
+{
+    if (day == 0)
+        return item + u" has no due day"_s;
+    return item + u": due on day "_s + QString::number(day);
+}
+
+/// "155.00 of 456.07 planned", "12.00 over the 30.00 planned"
+inline QString ofPlan(qint64 spent, qint64 planned)
+{
+    if (planned <= 0)
+        return u"Spent: "_s + centsText(spent);
+    if (spent > planned)
+        return centsText(spent - planned) + u" over the "_s + centsText(planned) + u" planned"_s;
+    return centsText(spent) + u" of "_s + centsText(planned) + u" planned"_s;
+}
+
+/// What is shown of amounts that belong to no row: "240.00 was spent on items that have no row".
+inline QString withoutRow(qint64 cents)
+{
+    return u"No row: "_s + centsText(cents);
+}
+
+inline QString noneYet()
+{
+    return u"Nothing was spent here yet"_s;
+}
+
+inline QString howToAdd()
+{
+    return u"An amount that is typed is added; Ctrl+Enter shows the single ones"_s;
+}
+
+inline QString notSaved()
+{
+    return u"What was spent could not be saved: the disk refuses it. What is typed stays here."_s;
+}
+
+// Refusals and reasons
+
+inline QString needsAnItem()
+{
+    return u"What was spent belongs to an item: give the row one first"_s;
+}
+
+inline QString typeAnAmount()
+{
+    return u"Type the amount that was spent; a minus is money that came back"_s;
+}
+
+inline QString dateOfYear(int year)
+{
+    return u"Type a date of "_s + QString::number(year);
+}
+
+inline QString noneChosen()
+{
+    return u"Choose an amount in the list first"_s;
+}
+
+inline QString newerFile(const QString &file)
+{
+    return file + u" was written by a later version of the program: it is only shown"_s;
+}
+
+inline QString unreadableFile(const QString &file)
+{
+    return file + u" cannot be read, so nothing can be entered that belongs there"_s;
+}
+
+inline QString notADay()
+{
+    return u"A due day is a number from 1 to 31"_s;
+}
+
+} // namespace SpentLines

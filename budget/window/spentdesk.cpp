@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/spentdesk.h"
+
+#include "budget/model/budgetentry.h"
+#include "budget/model/lines.h"
+#include "budget/model/spentlines.h"
+#include "budget/window/duepanel.h"
+#include "budget/window/sheetgrid.h"
+#include "budget/window/sheetmodel.h"
+#include "budget/window/spentpanel.h"
+#include "budget/window/spentyear.h"
+#include "shell/controls/linkbutton.h"
+#include "shell/core/place.h"
+#include "shell/frame/commonkeys.h"
+#include "shell/frame/workviews.h"
+#include "shell/program/program.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QMenu>
+
+#include <algorithm>
+#include <numeric>
+
+using namespace Qt::Literals::StringLiterals;
+
+SpentDesk::SpentDesk(Program &program, Desk desk, QWidget *window)
+    : QObject(window)
+    , m_program(program)
+    , m_desk(desk)
+    , m_amounts(new SpentPanel(program, desk.year, window))
+    , m_due(new DuePanel(program, desk.year))
+{
+    m_desk.views.addPanel(m_amounts);
+    m_desk.views.addPanel(m_due);
+    connect(m_amounts, &SpentPanel::said, this, &SpentDesk::said);
+    connect(m_due, &DuePanel::said, this, &SpentDesk::said);
+    connect(&m_desk.model, &SheetModel::spentTyped, this, &SpentDesk::addTyped);
+    connect(&m_desk.model, &SheetModel::layerChanged, this, &SpentDesk::refresh);
+    connect(&m_desk.year, &SpentYear::changed, this, &SpentDesk::refresh);
+}
+
+QWidget *SpentDesk::makeSwitch(QWidget *parent)
+{
+    auto *part = new QWidget(parent);
+    m_noRow = new LinkButton(u"spentNoRow"_s, {}, part);
+    m_noRow->hide();
+    m_layers = named(new QComboBox(part), u"budgetLayer"_s);
+    m_layers->addItems({u"Planned"_s, u"Spent"_s});
+    m_layers->setAccessibleName(u"What the cells show"_s);
+    auto *row = new QHBoxLayout(part);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(12);
+    row->addWidget(m_noRow);
+    row->addWidget(m_layers);
+    connect(m_layers, &QComboBox::activated, this, [this](int layer) { setLayer(layer == 1); });
+    connect(m_noRow, &LinkButton::clicked, this, [this] { openAmounts(-1, -1); });
+    return part;
+}
+
+void SpentDesk::addCommands(QMenu *view)
+{
+    Commands &all = m_desk.commands;
+    const auto unless = [this] { return whyNoSheet(); };
+    m_planned = all.add(
+        view, u"mVPlanned"_s, u"&Planned"_s, [this] { setLayer(false); }, unless, CommonKeys::views[0]);
+    m_spent = all.add(
+        view, u"mVSpent"_s, u"&Spent"_s, [this] { setLayer(true); }, unless, CommonKeys::views[1]);
+    for (QAction *layer : {m_planned, m_spent})
+        layer->setCheckable(true);
+    view->addSeparator();
+    all.add(
+        view, u"mVAmounts"_s, u"Amounts &of This Cell"_s, [this] { openCell(); }, unless,
+        Qt::CTRL | Qt::Key_Return);
+    QAction *due = all.add(
+        view, u"mVDue"_s, u"What Is &Due"_s,
+        [this] {
+            const QModelIndex current = m_desk.grid.currentIndex();
+            m_due->open(std::max(0, current.column() - SheetColumn::firstMonth), current.row());
+            m_desk.views.open(m_due);
+            m_due->setFocus();
+        },
+        unless);
+    all.tool(due, "calendar-day"_L1, u"Due"_s);
+    refresh();
+}
+
+QString SpentDesk::whyNoSheet() const
+{
+    return m_desk.views.isHome() ? QString() : BudgetLines::inSheetOnly();
+}
+
+void SpentDesk::setLayer(bool isSpent)
+{
+    m_desk.grid.finishEdit();
+    m_desk.model.setLayer(isSpent ? SheetLayer::Spent : SheetLayer::Planned);
+    m_desk.commands.refresh();
+    refresh();
+    emit said(isSpent ? SpentLines::howToAdd() : QString());
+    m_desk.grid.setFocus();
+}
+
+void SpentDesk::refresh()
+{
+    const bool isSpent = m_desk.model.layer() == SheetLayer::Spent;
+    if (m_layers) {
+        const auto &noRow = m_desk.year.sums().noRow;
+        const qint64 cents = std::accumulate(noRow.begin(), noRow.end(), qint64(0));
+        m_layers->setCurrentIndex(isSpent ? 1 : 0);
+        m_noRow->setText(SpentLines::withoutRow(cents));
+        m_noRow->updateGeometry();
+        m_noRow->setVisible(isSpent && std::ranges::any_of(noRow, [](qint64 sum) { return sum != 0; }));
+    }
+    if (m_spent) {
+        m_planned->setChecked(!isSpent);
+        m_spent->setChecked(isSpent);
+    }
+}
+
+void SpentDesk::addTyped(int row, int month, const QString &typed)
+{
+    if (const QString why = m_desk.year.whyReadOnly(); !why.isEmpty()) {
+        emit said(why);
+        return;
+    }
+    const QString item = m_desk.model.sheet().rows[std::size_t(row)].item.trimmed();
+    if (item.isEmpty()) {
+        emit said(SpentLines::needsAnItem());
+        return;
+    }
+    if (typed.trimmed().isEmpty())
+        return;
+    const BudgetEntry entry = BudgetEntry::ofCell(typed);
+    if (const qint64 cents = centsOf(entry.text); cents > 0) {
+        const SpentAmount amount{
+            spentDate(m_desk.year.year(), month + 1, m_program.clock.today()), cents, item, {}};
+        Spending wanted = m_desk.year.spending();
+        wanted.amounts.append(amount);
+        const QString title = SpentLines::added(cents, item, amount.date);
+        m_desk.year.change(title, wanted);
+        emit said(title);
+    }
+    if (entry.notice)
+        emit noticed(*entry.notice);
+}
+
+void SpentDesk::openCell()
+{
+    const QModelIndex current = m_desk.grid.currentIndex();
+    if (!current.isValid())
+        return;
+    if (m_desk.model.sheet().rows[std::size_t(current.row())].item.trimmed().isEmpty()) {
+        emit said(SpentLines::needsAnItem());
+        return;
+    }
+    openAmounts(current.row(), current.column() - SheetColumn::firstMonth);
+}
+
+void SpentDesk::openAmounts(int row, int month)
+{
+    m_desk.grid.finishEdit();
+    m_amounts->open(row, month);
+    m_desk.views.open(m_amounts);
+    m_amounts->setFocus();
+}
+
+void SpentDesk::show(const Place &place)
+{
+    m_desk.views.goHome();
+    const int column = place.date.isValid() ? SheetColumn::firstMonth + place.date.month() - 1 : 0;
+    if (place.row >= 0 && place.row < m_desk.model.rowCount()) {
+        m_desk.grid.setCurrentIndex(m_desk.model.index(place.row, column));
+        m_desk.grid.scrollTo(m_desk.grid.currentIndex());
+    }
+    // A date with a record is an amount that was found; without one, something due.
+    if (!place.date.isValid() || place.record == 0)
+        return;
+    setLayer(true);
+    openAmounts(place.row, place.row < 0 ? -1 : place.date.month() - 1);
+    m_amounts->choose(place.date);
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/frame/commands.h"
+
+#include <QObject>
+
+class DuePanel;
+class LinkButton;
+class QComboBox;
+class QMenu;
+class SheetGrid;
+class SheetModel;
+class SpentPanel;
+class SpentYear;
+class WorkViews;
+struct Message;
+struct Place;
+struct Program;
+
+/// The layer of what was spent: the switch beside the year, what is typed into its cells, and the panels
+/// over the sheet.
+class SpentDesk final : public QObject
+{
+    Q_OBJECT
+public:
+    /// What it works on.
+    struct Desk {
+        SheetModel &model;
+        SheetGrid &grid;
+        SpentYear &year;
+        WorkViews &views;
+        Commands &commands;
+    };
+
+    SpentDesk(Program &program, Desk desk, QWidget *window);
+
+    /// "Planned" and "Spent", and what was spent on items that have no row, as a link: for the title line.
+    QWidget *makeSwitch(QWidget *parent);
+    /// Puts the commands into the view menu.
+    void addCommands(QMenu *view);
+    /// The cell or the amount of `place`; the year is open.
+    void show(const Place &place);
+
+signals:
+    /// A quiet line for the status bar.
+    void said(const QString &line);
+    void noticed(const Message &message);
+
+private:
+    void addTyped(int row, int month, const QString &typed);
+    void openCell();
+    void openAmounts(int row, int month);
+    void setLayer(bool isSpent);
+    void refresh();
+    QString whyNoSheet() const;
+
+    Program &m_program;
+    Desk m_desk;
+    SpentPanel *m_amounts;
+    DuePanel *m_due;
+    QComboBox *m_layers = nullptr;
+    LinkButton *m_noRow = nullptr;
+    QAction *m_planned = nullptr;
+    QAction *m_spent = nullptr;
+};

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/model/budgetfiles.h"
+#include "budget/window/budgetwindow.h"
+#include "budget/window/duemodel.h"
+#include "budget/window/sheetgrid.h"
+#include "shell/core/place.h"
+#include "tests/support/openwindow.h"
+
+#include <QComboBox>
+#include <QTableView>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// What was spent, in the budget's window: typed into its layer, listed, ticked as paid.
+class TestSpent : public OpenWindow<Budget1>
+{
+    Q_OBJECT
+private slots:
+    void init()
+    {
+        m_test = std::make_unique<TestProgram>();
+        m_test->clock.time = {QDate(2026, 3, 20), QTime(10, 24)};
+        BudgetSheet sheet;
+        sheet.rows[0].item = u"Rent"_s;
+        sheet.rows[0].amounts[2] = u"100.00"_s;
+        sheet.rows[1].item = u"Fuel"_s;
+        m_test->setBytes(u"2026.Fil"_s, BudgetFiles::encode(sheet));
+        m_window = new Budget1(m_test->program);
+        showActive(*m_window);
+        m_grid = m_window->findChild<SheetGrid *>();
+    }
+    void cleanup() { close(); }
+
+    void addsWhatIsTyped()
+    {
+        trigger("mVSpent");
+        typeAt(0, 3, u"70"_s);
+        typeAt(0, 3, u"35.5"_s);
+        QCOMPARE(textAt(0, 3), u"105.50"_s);
+        QCOMPARE(labelText("Label3_2"), u"105.50"_s);
+        typeAt(2, 3, u"5"_s); // a row without an item
+        QCOMPARE(textAt(2, 3), QString());
+        trigger("mEUndo");
+        QCOMPARE(textAt(0, 3), u"70.00"_s);
+        trigger("mERedo");
+        const QByteArray yearFile = m_test->bytes(u"2026.Fil"_s);
+        trigger("mOSave");
+        QCOMPARE(m_test->bytes(u"Quillery.spent-2026"_s), QByteArray("Quillery spent amounts 1\n"
+                                                                     "spent\t2026-03-20\t70.00\tRent\t\n"
+                                                                     "spent\t2026-03-20\t35.50\tRent\t\n"));
+        QCOMPARE(m_test->bytes(u"2026.Fil"_s), yearFile);
+        QVERIFY(!m_window->isModified());
+    }
+
+    void renamesWithTheSheet()
+    {
+        trigger("mVSpent");
+        typeAt(0, 3, u"70"_s);
+        typeAt(0, 0, u"Flat"_s);
+        QCOMPARE(textAt(0, 3), u"70.00"_s);
+        trigger("mOSave");
+        QVERIFY(m_test->bytes(u"Quillery.spent-2026"_s).contains("\t70.00\tFlat\t\n"));
+        QVERIFY(m_test->bytes(u"2026.Fil"_s).startsWith("\"Flat\"\r\n"));
+        trigger("mEUndo");
+        QCOMPARE(textAt(0, 3), u"70.00"_s);
+        trigger("mERedo");
+        QVERIFY(!m_window->isModified());
+    }
+
+    void listsTheAmountsOfACell()
+    {
+        m_grid->setCurrentIndex(m_grid->model()->index(0, 3));
+        trigger("mVAmounts");
+        auto *amount = find<QLineEdit>("spentAmount");
+        typeInto(amount, u"12"_s);
+        find<QLineEdit>("spentNote")->setText(u"cash"_s);
+        click("spentTake");
+        typeInto(amount, u"-2"_s);
+        click("spentTake");
+        QCOMPARE(labelText("spentSum"), u"10.00 of 100.00 planned"_s);
+        auto *list = find<QTableView>("spentList");
+        list->selectRow(0);
+        amount->setText(u"120"_s);
+        click("spentTake");
+        QCOMPARE(labelText("spentSum"), u"18.00 over the 100.00 planned"_s);
+        click("spentDelete");
+        QCOMPARE(list->model()->rowCount(), 1);
+        trigger("mEUndo");
+        QCOMPARE(list->model()->index(0, 3).data().toString(), u"cash"_s);
+        find<QLineEdit>("spentDate")->setText(u"Mar-14-2025"_s);
+        click("spentTake");
+        QCOMPARE(said(), u"Type a date of 2026"_s);
+        m_test->dialogs.willAnswer(Answer::No);
+        m_window->close();
+    }
+
+    void ticksWhatIsPaid()
+    {
+        m_grid->setCurrentIndex(m_grid->model()->index(0, 3));
+        trigger("mVDue");
+        auto *list = find<QTableView>("dueList");
+        QCOMPARE(QApplication::focusWidget(), list);
+        QTest::keyClick(list, Qt::Key_3);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_1);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QTest::keyClick(list, Qt::Key_Space);
+        QCOMPARE(list->model()->index(0, DueModel::Spent).data().toString(), u"100.00"_s);
+        click("dueClose");
+        trigger("mOSave");
+        QCOMPARE(m_test->bytes(u"Quillery.spent-2026"_s),
+                 QByteArray("Quillery spent amounts 1\n"
+                            "due\t31\tRent\n"
+                            "paid\t3\t100.00\tRent\n"
+                            "spent\t2026-03-20\t100.00\tRent\tPaid\n"));
+    }
+
+    void leadsToAPlace()
+    {
+        m_test->setBytes(u"Quillery.spent-2025"_s, "spent\t2025-05-05\t7.00\tGone\tlost\n");
+        m_window->showPlace({.date = QDate(2026, 4, 1), .row = 1});
+        QCOMPARE(m_grid->currentIndex(), m_grid->model()->index(1, 4));
+        m_window->showPlace({.record = 2025, .date = QDate(2025, 5, 5), .row = -1});
+        QCOMPARE(find<QComboBox>("Combo1")->currentText(), u"2025"_s);
+        QCOMPARE(find<QTableView>("spentList")->model()->index(0, 2).data().toString(), u"Gone"_s);
+        // It gets a row of its own again.
+        find<QComboBox>("spentItem")->setCurrentText(u"No row"_s);
+        QVERIFY(labelText("spentSum").contains(u"7.00"_s));
+    }
+
+private:
+    void typeAt(int row, int column, const QString &text) const
+    {
+        m_grid->setCurrentIndex(m_grid->model()->index(row, column));
+        QTest::keyClicks(m_grid, text.first(1));
+        for (auto *box : m_grid->findChildren<QLineEdit *>(u"Text1"_s)) {
+            if (box->isHidden())
+                continue;
+            typeInto(box, text.sliced(1));
+            QTest::keyClick(box, Qt::Key_Return);
+        }
+        QCoreApplication::processEvents();
+    }
+    QString textAt(int row, int column) const
+    {
+        return m_grid->model()->index(row, column).data().toString();
+    }
+
+    SheetGrid *m_grid = nullptr;
+};
+
+QTEST_MAIN(TestSpent)
+#include "tst_spent.moc"
