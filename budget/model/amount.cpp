@@ -115,7 +115,9 @@ double Amount::rounded(double amount)
 QString Amount::text(double amount)
 {
     const double cents = std::abs(std::round(amount * 100 * (1 + 1e-15)));
-    QString text = QString::number(std::int64_t(cents)).rightJustified(2, u'0');
+    const bool isLong = cents >= powers.back(); // more than any whole number holds, as noise in a file has it
+    const QString digits = isLong ? QString::number(cents, 'f', 0) : QString::number(std::int64_t(cents));
+    QString text = digits.rightJustified(2, u'0');
     text.insert(text.size() - 2, u'.');
     return amount < 0 && cents > 0 ? u'-' + text : text;
 }

@@ -16,12 +16,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int boxWidth = 560;
+constexpr int textWidth = 512;
 
 QLabel *makeText(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
     label->setWordWrap(true);
+    label->setFixedWidth(textWidth); // else its height is asked for at another width
     return label;
 }
 
@@ -38,11 +39,11 @@ ExportBox::ExportBox(Program &program, int year, const QByteArray &content, QWid
     setObjectName(u"exportBox"_s);
     setWindowTitle(BudgetPaper::exportTitle());
     setPalette(Theme::of(this).panelPalette());
-    setFixedWidth(boxWidth);
     m_folder->setAccessibleName(u"Folder"_s);
     m_name->setAccessibleName(u"File name"_s);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(24, 20, 24, 20);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
     rows->setSpacing(8);
     rows->addWidget(m_folderLabel);
     rows->addLayout(makeFolderRow());

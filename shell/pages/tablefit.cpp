@@ -103,13 +103,14 @@ std::optional<TableFit::Fit> TableFit::fitIn(double points, double words,
     const auto count = double(numbers.size());
     const double room = m_body.width() - count * SheetTable::numberGap(points);
     const double wanted = words * scale + breath;
-    const double least = std::min(wanted, points > smallestPoints ? readableWords : leastWords);
+    const double readable = std::min(wanted, readableWords);
+    const double least = points > smallestPoints ? readable : std::min(wanted, leastWords);
     std::vector<double> widths;
     for (const double number : numbers)
         widths.push_back(number * scale + breath);
-    // Equal columns look better, but none at all would look worse.
+    // Equal columns look better, but not beside broken words.
     const double widest = *std::max_element(widths.begin(), widths.end());
-    if (room - count * widest >= least)
+    if (room - count * widest >= readable)
         std::fill(widths.begin(), widths.end(), widest);
     const double left = room - std::accumulate(widths.begin(), widths.end(), 0.0);
     if (left < least)

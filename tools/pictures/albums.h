@@ -14,5 +14,6 @@ void addressPages(const Camera &camera);
 void viewer(const Camera &camera);
 void viewerPanels(const Camera &camera);
 void planner(const Camera &camera);
+void budget(const Camera &camera);
 
 } // namespace Albums

@@ -32,7 +32,8 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"address-pages", Albums::addressPages},
                             Album{"viewer", Albums::viewer},
                             Album{"viewer-panels", Albums::viewerPanels},
-                            Album{"planner", Albums::planner}};
+                            Album{"planner", Albums::planner},
+                            Album{"budget", Albums::budget}};
 
 constexpr int longestMinutes = 10;
 

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/model/amount.h"
+#include "budget/model/budgetfiles.h"
+#include "tools/pictures/albums.h"
+#include "tools/pictures/picturesession.h"
+
+#include <QFile>
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int year = 2026;
+
+/// A household that comes out even: most is paid every month, some of it now and then.
+struct Plan {
+    QLatin1StringView item;
+    double amount;
+    int every; ///< months
+    int first; ///< from 0
+};
+
+constexpr std::array<Plan, 15> plans{{{"Rent"_L1, 980, 1, 0},
+                                      {"Electricity"_L1, 64.5, 1, 0},
+                                      {"Water"_L1, 38, 2, 1},
+                                      {"Heating"_L1, 112, 1, 0},
+                                      {"Internet & telephone"_L1, 49.9, 1, 0},
+                                      {"Groceries"_L1, 460, 1, 0},
+                                      {"Car insurance"_L1, 387.2, 12, 0},
+                                      {"Fuel"_L1, 95, 1, 0},
+                                      {"Violin lessons"_L1, 80, 1, 0},
+                                      {"Choir & book club"_L1, 15, 3, 2},
+                                      {"Clothing"_L1, 60, 1, 0},
+                                      {"Holidays by the lake"_L1, 1250, 12, 6},
+                                      {"Gifts"_L1, 140, 6, 5},
+                                      {"Dentist"_L1, 75, 6, 2},
+                                      {"Donations"_L1, 25, 1, 0}}};
+
+BudgetSheet household()
+{
+    BudgetSheet sheet;
+    for (std::size_t row = 0; row < plans.size(); ++row) {
+        sheet.rows[row].item = plans[row].item;
+        for (auto month = std::size_t(plans[row].first); month < BudgetSheet::monthCount;
+             month += std::size_t(plans[row].every))
+            sheet.rows[row].amounts[month] = Amount::text(plans[row].amount);
+    }
+    sheet.incomes.fill(u"2450.00"_s);
+    sheet.incomes[11] = u"3100.00"_s;
+    return sheet;
+}
+
+/// Every cell in use.
+BudgetSheet full()
+{
+    BudgetSheet sheet = household();
+    for (std::size_t row = plans.size(); row < sheet.rows.size(); ++row) {
+        sheet.rows[row].item = u"Item %1 of a long list"_s.arg(row + 1);
+        for (std::size_t month = 0; month < BudgetSheet::monthCount; ++month)
+            sheet.rows[row].amounts[month] = Amount::text(8.5 + double(row * 7 + month * 3));
+    }
+    return sheet;
+}
+
+void open(PictureSession &session, const BudgetSheet &sheet)
+{
+    const DataFolder &folder = session.program().folder;
+    QFile::remove(folder.filePath(BudgetFiles::fileName(year)));
+    if (sheet != BudgetSheet() && !BudgetFiles(folder).write(year, sheet))
+        qFatal("the budget's file cannot be written");
+    session.open(Function::Budget);
+}
+
+void takeSheet(PictureSession &session)
+{
+    session.take("budget-sheet");
+    session.type(u"995"_s);
+    session.key(Qt::Key_Return);
+    session.box([&] { session.trigger("mECY"); },
+                [&] {
+                    session.take("message-budget-copy-year");
+                    session.click("answerCancel");
+                });
+}
+
+void takePages(PictureSession &session)
+{
+    session.trigger("mOPrt");
+    session.take("budget-preview");
+    session.takePage("budget-page");
+    session.click("SSCommand80_1");
+    session.takePage("budget-page-turned");
+    session.key(Qt::Key_Escape);
+    session.trigger("mOPTotals");
+    session.takePage("budget-page-totals");
+    session.click("SSCommand80_1");
+    session.takePage("budget-page-totals-landscape");
+    session.click("SSCommand80_1");
+    session.trigger("mOPDiscuss");
+    session.takePage("budget-page-discuss");
+    session.key(Qt::Key_Escape);
+    session.box([&] { session.trigger("mUExcel"); },
+                [&] {
+                    session.fill("exportFolder", u"/home/anne/Documents"_s); // not where the tests run
+                    session.take("budget-export");
+                    session.click("exportCancel");
+                });
+}
+
+} // namespace
+
+void Albums::budget(const Camera &camera)
+{
+    {
+        PictureSession session(camera);
+        open(session, {});
+        session.take("budget-empty");
+    }
+    {
+        PictureSession session(camera);
+        open(session, full());
+        session.take("budget-full");
+        session.trigger("mOPrt");
+        session.takePage("budget-page-full");
+        session.click("nextPage");
+        session.takePage("budget-page-continued");
+    }
+    PictureSession session(camera);
+    open(session, household());
+    takePages(session);
+    takeSheet(session);
+}
