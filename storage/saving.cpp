@@ -49,12 +49,15 @@ bool Saving::replaceFile(const DataFolder &folder, const QString &name, QByteArr
     }
     const QString part = path + partSuffix;
     const QString staged = path + stagedSuffix;
+    const bool isNew = isMissingOrEmptied(path);
     if (!Disk::writeWhole(part, content) || !Disk::renameOver(part, staged)) {
         std::ignore = Disk::remove(part);
         return false;
     }
     if (!Disk::renameOver(staged, path)) {
-        if (!isMissingOrEmptied(path))
+        // Only where the old file went on the way is this one all that is left. A new one that was refused
+        // must not come at the next start.
+        if (isNew || !isMissingOrEmptied(path))
             std::ignore = Disk::remove(staged);
         return false;
     }
