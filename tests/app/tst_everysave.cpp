@@ -14,8 +14,10 @@
 #include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QCheckBox>
+#include <QDialog>
 #include <QDir>
 #include <QListView>
 #include <QLoggingCategory>
@@ -265,6 +267,35 @@ const Save calendarOptions{[](Desk &desk) {
                            },
                            [](Desk &desk) { desk.click("calendarOptionsOk"); }};
 
+const Save savedBudget{[](Desk &desk) {
+                           desk.open(Function::Budget);
+                           auto *grid = desk.find<QAbstractItemView>("VSGd1");
+                           QVERIFY(grid->model()->setData(grid->model()->index(0, 0), u"Zorn"_s));
+                       },
+                       [](Desk &desk) { desk.click("saveBudget"); }};
+
+const Save copiedYear{[](Desk &desk) { desk.open(Function::Budget); },
+                      [](Desk &desk) {
+                          desk.answer(Answer::Yes);
+                          desk.trigger("mECY");
+                      }};
+
+const Save undoneCopy{[](Desk &desk) {
+                          copiedYear.prepare(desk);
+                          copiedYear.press(desk);
+                      },
+                      [](Desk &desk) { desk.trigger("mEUndo"); }};
+
+const Save exportedBudget{[](Desk &desk) { desk.open(Function::Budget); },
+                          [](Desk &desk) {
+                              desk.answer(Answer::Ok);
+                              desk.test.dialogs.willRun([](QDialog &box) {
+                                  control<QPushButton>(box, "exportOk")->click();
+                                  return box.result();
+                              });
+                              desk.trigger("mUExcel");
+                          }};
+
 const Save marks{[](Desk &desk) {
                      desk.openPasswordControl();
                      desk.find<QCheckBox>("Check1_2")->click();
@@ -334,6 +365,10 @@ private slots:
             {"a recurrence undone", undoneRecurrence},
             {"to-dos imported", importedToDos},
             {"calendar options", calendarOptions},
+            {"a budget", savedBudget},
+            {"a budget for the next year", copiedYear},
+            {"a budget for the next year undone", undoneCopy},
+            {"a budget exported", exportedBudget},
             {"marks of areas", marks},
             {"no password", noPassword},
             {"top toolbar", topToolbar},
