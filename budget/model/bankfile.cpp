@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/model/bankfile.h"
+
+#include "storage/ansitext.h"
+
+#include <QHash>
+#include <QStringDecoder>
+
+#include <array>
+
+namespace {
+
+constexpr std::array separators{u';', u'\t', u','};
+constexpr int sampleLines = 40;
+/// A quote that is not closed within so many characters is none: the file goes on behind its line.
+constexpr qsizetype longestQuoted = 4000;
+
+} // namespace
+
+BankFile::BankFile(const QByteArray &bytes)
+    : m_text(decode(bytes))
+{
+    m_text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    m_text.replace(u'\r', u'\n');
+    m_separator = likelySeparator();
+    rewind();
+}
+
+QString BankFile::decode(const QByteArray &bytes)
+{
+    if (const auto encoding = QStringConverter::encodingForData(bytes))
+        return QStringDecoder(*encoding)(bytes);
+    return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : AnsiText::decode(bytes);
+}
+
+void BankFile::rewind()
+{
+    m_at = 0;
+    m_line = 0;
+}
+
+/// The one that cuts most of the first lines into the same number of cells, the more the better.
+QChar BankFile::likelySeparator()
+{
+    QChar best = separators.back();
+    int bestScore = 0;
+    for (const char16_t candidate : separators) {
+        m_separator = candidate;
+        rewind();
+        QHash<qsizetype, int> counts;
+        Line line;
+        for (int i = 0; i < sampleLines && next(line); ++i)
+            ++counts[line.cells.size()];
+        for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
+            const int score = count.key() > 1 ? int(count.key()) * count.value() : 0;
+            if (score > bestScore) {
+                bestScore = score;
+                best = candidate;
+            }
+        }
+    }
+    return best;
+}
+
+bool BankFile::next(Line &line)
+{
+    while (m_at < m_text.size()) {
+        const qsizetype start = m_at;
+        line = {m_line + 1, {}, true};
+        for (;;) {
+            line.cells.append(takeCell(line.isClosed));
+            if (isAtLineEnd())
+                break;
+            ++m_at; // the separator
+        }
+        ++m_at; // the line end
+        m_line += int(QStringView(m_text).sliced(start, std::min(m_at, m_text.size()) - start).count(u'\n'));
+        if (line.cells.size() > 1 || !line.cells.first().isEmpty())
+            return true;
+    }
+    return false;
+}
+
+QString BankFile::takeCell(bool &isClosed)
+{
+    while (!isAtLineEnd() && m_text[m_at] == u' ' && m_separator != u' ')
+        ++m_at;
+    QString cell;
+    if (!isAtLineEnd() && m_text[m_at] == u'"')
+        cell = takeQuoted(isClosed);
+    const qsizetype start = m_at;
+    while (!isAtLineEnd() && m_text[m_at] != m_separator)
+        ++m_at;
+    cell += QStringView(m_text).sliced(start, m_at - start);
+    return cell.simplified();
+}
+
+/// What stands up to the closing quote, which goes with it; two quotes are one. Without one the cell ends
+/// where it would without the first.
+QString BankFile::takeQuoted(bool &isClosed)
+{
+    const qsizetype start = ++m_at;
+    QString cell;
+    const qsizetype end = std::min(m_text.size(), start + longestQuoted);
+    for (qsizetype at = start; at < end; ++at) {
+        if (m_text[at] != u'"') {
+            cell += m_text[at];
+        } else if (at + 1 < m_text.size() && m_text[at + 1] == u'"') {
+            cell += m_text[++at];
+        } else {
+            m_at = at + 1;
+            return cell;
+        }
+    }
+    isClosed = false;
+    return {};
+}
