@@ -34,9 +34,8 @@ public:
     /// The year of `today` as the files have it: the two last digits, 90 and above of the nineteen-hundreds.
     static int yearOf(QDate today);
 
-    /// What the bytes of a year file say, and the file of `sheet`.
+    /// What the bytes of a year file say.
     static Found decode(QByteArrayView bytes);
-    static QByteArray encode(const BudgetSheet &sheet);
 
     /// The sheet of `year`; empty when its file is missing or empty, with the rest blank when it ends early.
     Found read(int year) const;
