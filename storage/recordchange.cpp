@@ -68,12 +68,25 @@ ChangeResult RecordChange::redo(const DataFolder &folder)
 
 ChangeResult RecordChange::exchange(const DataFolder &folder, Bytes held, Bytes wanted)
 {
-    for (const auto &[where, place] : m_places) {
-        const QByteArray now = RecordFile(folder, where.first, place.recordLength).read(where.second);
-        if (!now.startsWith(place.*held))
-            return ChangeResult::Outdated;
-    }
-    return write(folder, wanted) ? ChangeResult::Done : ChangeResult::Refused;
+    // What was refused in the middle is finished first, and it may have been this.
+    if (ChangeSet::isPending(folder) && !ChangeSet::recover(folder))
+        return ChangeResult::Refused;
+    const auto isThere = [&](Bytes bytes) {
+        return std::ranges::all_of(m_places, [&](const auto &item) {
+            const auto &[where, place] = item;
+            return RecordFile(folder, where.first, place.recordLength)
+                .read(where.second)
+                .startsWith(place.*bytes);
+        });
+    };
+    if (std::exchange(m_isBegun, false) && isThere(wanted))
+        return ChangeResult::Done;
+    if (!isThere(held))
+        return ChangeResult::Outdated;
+    if (write(folder, wanted))
+        return ChangeResult::Done;
+    m_isBegun = ChangeSet::isPending(folder);
+    return ChangeResult::Refused;
 }
 
 bool RecordChange::write(const DataFolder &folder, Bytes wanted)

@@ -70,5 +70,6 @@ private:
     std::vector<Trash::Item> m_thrownAway;
     std::vector<Trash::Item> m_broughtBack;
     Trash::State m_trashState = Trash::State::Whole;
+    bool m_isBegun = false;   ///< refused in the middle the last time
     bool m_isUnknown = false; ///< what stood there could not be read, and will not be guessed
 };

@@ -130,7 +130,7 @@ void UndoStack::go(Steps &from, Steps &to, Way way, const QString &done)
                                                      : FrameLines::changedSince(step->title));
         break;
     case ChangeResult::Refused:
-        m_activity.say(FrameLines::undoRefused(step->title));
+        m_activity.say(FrameLines::refused(m_program.folder, FrameLines::undoRefused(step->title)));
         break;
     }
 }

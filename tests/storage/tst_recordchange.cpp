@@ -75,6 +75,28 @@ private slots:
             [this] { return m_test.bytes(name); });
     }
 
+    /// What a disk refused in the middle, and would not even take back, is done at the next try.
+    void isTakenBackOnceTheDiskTakesMore()
+    {
+        QLoggingCategory::setFilterRules(u"*.warning=false"_s);
+        for (int refused = 1; refused <= 8; ++refused) {
+            init();
+            RecordChange change;
+            change.write(file(), 1, "xyz");
+            change.write(file(), 2, "xyz");
+            QVERIFY(change.commit(folder()));
+            {
+                const FailingDisk disk(DiskFailure::TheEnd, refused);
+                if (change.undo(folder()) == ChangeResult::Done)
+                    continue;
+                QCOMPARE(change.undo(folder()), ChangeResult::Refused);
+            }
+            QCOMPARE(change.undo(folder()), ChangeResult::Done);
+            QCOMPARE(m_test.bytes(name), QByteArray("aaaaabbbbbcc"));
+            QCOMPARE(change.redo(folder()), ChangeResult::Done);
+        }
+    }
+
 private:
     const QString name = u"Five.Fil"_s;
     const DataFolder &folder() const { return m_test.folder(); }
