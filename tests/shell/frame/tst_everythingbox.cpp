@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/area.h"
-#include "shell/core/settingskeys.h"
 #include "shell/frame/commonkeys.h"
-#include "shell/frame/functionwindow.h"
 #include "shell/frame/searchmodel.h"
+#include "tests/support/sampletraits.h"
 #include "tests/support/testprogram.h"
 
 #include <QLineEdit>
@@ -43,11 +42,7 @@ class SampleWindow final : public FunctionWindow
 {
 public:
     explicit SampleWindow(Program &program)
-        : FunctionWindow(program, {u"SAMPLE"_s,
-                                   u"Sample Screen"_s,
-                                   u"Sample"_s,
-                                   {SettingsKeys::helpColor, SettingsKeys::helpProgramColor, {}},
-                                   1004})
+        : FunctionWindow(program, sampleTraits())
         , box(new QLineEdit)
     {
         addMenu(u"mE"_s, u"&Edit"_s);

@@ -3,12 +3,12 @@
 #include "shell/controls/controls.h"
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commonkeys.h"
-#include "shell/frame/functionwindow.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "tests/support/rows.h"
+#include "tests/support/sampletraits.h"
 #include "tests/support/testprogram.h"
 
 #include <QMenu>
@@ -26,11 +26,7 @@ class SampleWindow final : public FunctionWindow
 {
 public:
     explicit SampleWindow(Program &program)
-        : FunctionWindow(program, {u"SAMPLE"_s,
-                                   u"Sample Screen"_s,
-                                   u"Sample"_s,
-                                   {SettingsKeys::helpColor, SettingsKeys::helpProgramColor, {}},
-                                   1004})
+        : FunctionWindow(program, sampleTraits())
         , m_views(new WorkViews(makePanel(u"panel"_s)))
         , m_box(named(new QLineEdit, u"box"_s))
         , m_over(named(new QLineEdit, u"over"_s))

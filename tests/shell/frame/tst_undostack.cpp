@@ -2,10 +2,9 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/framelines.h"
-#include "shell/core/settingskeys.h"
-#include "shell/frame/functionwindow.h"
 #include "shell/frame/undostack.h"
 #include "tests/support/rows.h"
+#include "tests/support/sampletraits.h"
 #include "tests/support/testprogram.h"
 
 #include <QListWidget>
@@ -22,11 +21,7 @@ class SampleWindow final : public FunctionWindow
 {
 public:
     explicit SampleWindow(Program &program)
-        : FunctionWindow(program, {u"SAMPLE"_s,
-                                   u"Sample Screen"_s,
-                                   u"Sample"_s,
-                                   {SettingsKeys::helpColor, SettingsKeys::helpProgramColor, {}},
-                                   1004})
+        : FunctionWindow(program, sampleTraits())
         , m_box(named(new QLineEdit, u"box"_s))
     {
         auto *work = new QWidget;
