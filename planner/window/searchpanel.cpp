@@ -3,14 +3,12 @@
 
 #include "planner/model/lines.h"
 #include "shell/controls/busycursor.h"
-#include "shell/controls/listrowdelegate.h"
 #include "shell/controls/rowsmodel.h"
+#include "shell/controls/tablework.h"
 #include "shell/core/dates.h"
 #include "shell/look/theme.h"
 
-#include <QKeyEvent>
 #include <QTableView>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -42,23 +40,16 @@ SearchPanel::SearchPanel(const PlannerFiles &files, DateStyle style, QWidget *pa
 {
     m_count->setObjectName(u"searchCount"_s);
     m_view->setModel(m_model);
-    setGridRows(m_view);
-    m_view->setAccessibleName(u"Appointments found"_s);
+    auto *work = new TableWork(m_count, m_view, u"Appointments found"_s, this);
     m_view->setColumnWidth(Date, QFontMetrics(TypeScale::body()).horizontalAdvance(u"Wed, 28 Nov 2026"_s) +
                                      4 * inset);
     m_view->setColumnWidth(Time, 104);
-    m_view->installEventFilter(this);
     setFocusProxy(m_view);
-    auto *work = new QWidget(this);
-    auto *rows = new QVBoxLayout(work);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(12);
-    rows->addWidget(m_count);
-    rows->addWidget(new WholeRows(m_view), 1);
     setWork(work);
     setWords(u"Click an appointment, or press Enter, to open its day"_s);
     setLeaveButton(u"search_dayView"_s, u"&Day View"_s, ButtonKind::Main);
     connect(m_view, &QTableView::clicked, this, [this](const QModelIndex &index) { open(index.row()); });
+    connect(work, &TableWork::entered, this, [this] { open(m_view->currentIndex().row()); });
 }
 
 bool SearchPanel::search(const QString &text, QDate today)
@@ -84,16 +75,4 @@ void SearchPanel::open(int row)
 {
     if (row >= 0 && row < m_model->rowCount())
         emit hitOpened(m_model->row(row).date, m_model->row(row).row);
-}
-
-bool SearchPanel::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_view && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            open(m_view->currentIndex().row());
-            return true;
-        }
-    }
-    return TaskPanel::eventFilter(watched, event);
 }

@@ -24,9 +24,6 @@ public:
 signals:
     void hitOpened(QDate date, int row);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void open(int row);
 

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frame/trashpanel.h"
 
-#include "shell/controls/listrowdelegate.h"
 #include "shell/controls/rowsmodel.h"
+#include "shell/controls/tablework.h"
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
 #include "shell/look/theme.h"
 
-#include <QKeyEvent>
 #include <QLocale>
 #include <QTableView>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -43,23 +41,16 @@ TrashPanel::TrashPanel(const DateStyle &style, QWidget *parent)
     , m_bringBack(nullptr)
 {
     m_view->setModel(m_model);
-    setGridRows(m_view);
-    m_view->setAccessibleName(u"Deleted in the last 30 days"_s);
+    auto *work = new TableWork(m_words, m_view, u"Deleted in the last 30 days"_s, this);
     const QFontMetrics body(TypeScale::body());
     m_view->setColumnWidth(When, body.horizontalAdvance(u"Wed, 28 Nov 2026  12:58 AM"_s) + 4 * inset);
-    m_view->installEventFilter(this);
     setFocusProxy(m_view);
-    auto *work = new QWidget(this);
-    auto *rows = new QVBoxLayout(work);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(12);
-    rows->addWidget(m_words);
-    rows->addWidget(new WholeRows(m_view), 1);
     setWork(work);
     m_bringBack = addButton(u"bringBack"_s, u"&Bring Back"_s, ButtonKind::Main);
     setLeaveButton(u"trashClose"_s, u"C&lose"_s);
     connect(m_bringBack, &QPushButton::clicked, this, &TrashPanel::choose);
     connect(m_view, &QTableView::doubleClicked, this, &TrashPanel::choose);
+    connect(work, &TableWork::entered, this, &TrashPanel::choose);
 }
 
 void TrashPanel::setItems(std::vector<Trash::Item> items)
@@ -80,16 +71,4 @@ void TrashPanel::choose()
 {
     if (const int row = m_view->currentIndex().row(); row >= 0)
         emit chosen(Trash::Item(m_model->row(row)));
-}
-
-bool TrashPanel::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_view && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            choose();
-            return true;
-        }
-    }
-    return TaskPanel::eventFilter(watched, event);
 }

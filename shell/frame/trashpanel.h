@@ -24,9 +24,6 @@ public:
 signals:
     void chosen(const Trash::Item &item);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void choose();
 
