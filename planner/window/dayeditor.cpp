@@ -73,11 +73,13 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
     , m_title(new StepTitle({u"SSPanel4"_s, u"day"_s, u"Today"_s}, this))
     , m_form(new DayForm)
     , m_scroll(makeScrolling(m_form, u"dayScroll"_s, this))
+    , m_notes(new NoteLine(m_householdNotes, this))
 {
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(20, 10, 20, 14);
     rows->setSpacing(4);
     rows->addWidget(m_title);
+    rows->addWidget(m_notes, 0, Qt::AlignLeft);
     auto *heads = new QHBoxLayout;
     heads->addWidget(makeRowHeads(), 1);
     heads->addStretch();
@@ -103,7 +105,7 @@ QWidget *DayEditor::makeRowHeads()
     line->setMaximumWidth(DayForm::greatestWidth);
     auto *layout = new QHBoxLayout(line);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
+    layout->setSpacing(DayForm::gap);
     QFont head = TypeScale::label();
     head.setWeight(QFont::DemiBold);
     QLabel *time = makeQuietLabel(u"Time"_s, line);
@@ -111,12 +113,10 @@ QWidget *DayEditor::makeRowHeads()
     time->setFont(head);
     text->setFont(head);
     text->setMinimumWidth(QFontMetrics(head).horizontalAdvance(u"Appointment"_s) + 2);
-    time->setFixedWidth(112);
-    layout->addSpacing(28);
+    time->setFixedWidth(DayForm::timeBoxWidth());
+    layout->addSpacing(DayForm::numberWidth() + DayForm::gap);
     layout->addWidget(time);
     layout->addWidget(text, 1);
-    layout->addWidget(m_notes = new NoteLine(m_householdNotes, line), 1, Qt::AlignLeft);
-    connect(m_notes, &NoteLine::filled, text, &QLabel::setHidden);
     auto *placement = named(new SpareWords(u"Without AM/PM:"_s, line), u"placementHead"_s);
     placement->setFont(TypeScale::label());
     placement->setForegroundRole(ThemeRole::quiet);

@@ -98,7 +98,7 @@ private:
     StepTitle *m_title;
     DayForm *m_form;
     QScrollArea *m_scroll;
-    NoteLine *m_notes = nullptr; ///< in the place of the head of the texts
+    NoteLine *m_notes; ///< below the title
     QButtonGroup *m_placement = nullptr;
     QLabel *m_unsaved = nullptr;
     QLabel *m_sortedLast = nullptr;

@@ -18,13 +18,21 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int timeBoxWidth = 112;
-constexpr int numberWidth = 20;
 constexpr int rowHeight = 32; ///< where there is room; else a row shrinks
 constexpr int rowGap = 2;
 constexpr int lastRow = int(PlannerDay::rowCount) - 1;
 
 } // namespace
+
+int DayForm::numberWidth()
+{
+    return TypeScale::wide(20);
+}
+
+int DayForm::timeBoxWidth()
+{
+    return TypeScale::wide(112);
+}
 
 TimeList::TimeList(QWidget *parent)
     : QComboBox(parent)
@@ -35,7 +43,7 @@ TimeList::TimeList(QWidget *parent)
     setCurrentIndex(-1);
     setItemDelegate(new ListRowDelegate(this));
     setMaxVisibleItems(10);
-    view()->setMinimumWidth(timeBoxWidth);
+    view()->setMinimumWidth(DayForm::timeBoxWidth());
     setToolTip(u"List of times (Alt+Down)"_s);
     setAccessibleName(u"List of times"_s);
 }
@@ -81,18 +89,18 @@ DayForm::DayForm(QWidget *parent)
     setMaximumWidth(greatestWidth);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(8);
+    grid->setHorizontalSpacing(gap);
     grid->setVerticalSpacing(rowGap);
     grid->setColumnStretch(2, 1);
     for (int row = 0; row <= lastRow; ++row) {
         const QString number = QString::number(row + 1);
         QLabel *label = makeQuietLabel(number, this);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        label->setFixedWidth(numberWidth);
+        label->setFixedWidth(numberWidth());
         setUpBox(timeBox(row), PlannerDay::timeWidth, u"Time of row "_s + number);
         setUpBox(textBox(row), PlannerDay::textWidth, u"Appointment or activity of row "_s + number);
         timeBox(row)->setAlignment(Qt::AlignRight);
-        timeBox(row)->setFixedWidth(timeBoxWidth);
+        timeBox(row)->setFixedWidth(timeBoxWidth());
         m_suggestion->watch(timeBox(row));
         grid->addWidget(label, row, 0);
         grid->addItem(new QSpacerItem(0, rowHeight, QSizePolicy::Minimum, QSizePolicy::Preferred), row, 0);

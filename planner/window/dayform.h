@@ -36,6 +36,10 @@ class DayForm final : public QWidget
 public:
     /// The rows are never wider: a text of fifty letters has room, and the eye finds from its time to it.
     static constexpr int greatestWidth = 788;
+    /// Between the columns: the numbers of the rows, the times and the texts.
+    static constexpr int gap = 8;
+    static int numberWidth();
+    static int timeBoxWidth();
 
     explicit DayForm(QWidget *parent = nullptr);
 

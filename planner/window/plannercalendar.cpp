@@ -174,7 +174,7 @@ void PlannerCalendar::showMarks()
 void PlannerCalendar::arrange()
 {
     const bool hasTwo = m_second->isVisibleTo(this);
-    const bool sideBySide = hasTwo && width() >= 2 * leastWidth + gap;
+    const bool sideBySide = hasTwo && width() >= 2 * TypeScale::wide(leastWidth) + gap;
     m_months->setDirection(sideBySide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_months->setSpacing(sideBySide ? gap : 4);
     QFont head = TypeScale::label();

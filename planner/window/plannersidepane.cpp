@@ -7,6 +7,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/searchbox.h"
 #include "shell/frame/panelcolors.h"
+#include "shell/look/theme.h"
 #include "shell/program/program.h"
 
 #include <QScrollArea>
@@ -47,7 +48,7 @@ PlannerSidePane::PlannerSidePane(const Program &program, PanelColors &colors, co
                              u"Type a part of an appointment and press Enter"_s, this))
 {
     setObjectName(u"leftPane"_s);
-    setMinimumWidth(oneMonthWidth - 4);
+    setMinimumWidth(TypeScale::wide(oneMonthWidth) - 4);
     QScrollArea *scroll = makeScrolling(makePanels(program, colors, files), u"leftPaneScroll"_s, this);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *rows = new QVBoxLayout(this);
@@ -123,8 +124,10 @@ void PlannerSidePane::focusSearch()
 
 int PlannerSidePane::fitWindow(QSize window)
 {
-    const int pane = window.width() < narrowBelow ? narrowWidth : oneMonthWidth;
+    const int pane =
+        TypeScale::wide(window.width() < TypeScale::wide(narrowBelow) ? narrowWidth : oneMonthWidth);
     setMinimumWidth(pane - 4);
-    const bool showsBoth = window.width() >= wideFrom && m_shownMonths == 2;
-    return (showsBoth ? twoMonthsWidth : pane) + (window.height() < shortBelow ? scrollBarRoom : 0);
+    const bool showsBoth = window.width() >= TypeScale::wide(wideFrom) && m_shownMonths == 2;
+    return (showsBoth ? TypeScale::wide(twoMonthsWidth) : pane) +
+           (window.height() < shortBelow ? scrollBarRoom : 0);
 }

@@ -24,13 +24,25 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int daysPerWeek = 7;
-constexpr int headWidth = 132;
-constexpr int timeWidth = 80;
-/// Entries stand in two columns only where each is at least this wide.
-constexpr int narrowestColumn = 300;
 constexpr int padding = 10;
 /// Above and below the entries, where the week is full.
 constexpr int narrowPadding = 6;
+
+int headWidth()
+{
+    return TypeScale::wide(132);
+}
+
+int timeWidth()
+{
+    return TypeScale::wide(80);
+}
+
+/// Entries stand in two columns only where each is at least this wide.
+int narrowestColumn()
+{
+    return TypeScale::wide(300);
+}
 
 int lineHeight()
 {
@@ -40,7 +52,7 @@ int lineHeight()
 /// Where a band's entries stand, and above them its note.
 QRect entriesPlaceIn(const QRect &band)
 {
-    return band.adjusted(padding + headWidth, narrowPadding + 1, -padding, -narrowPadding);
+    return band.adjusted(padding + headWidth(), narrowPadding + 1, -padding, -narrowPadding);
 }
 
 QRect notePlaceIn(const QRect &band)
@@ -65,7 +77,7 @@ public:
         // Where the week is short, its days share what is left of the view.
         const int columns = columnCount();
         const int share = (m_view->viewport()->height() - neededHeight(columns)) / daysPerWeek;
-        return {headWidth, neededHeight(index, columns) + std::max(0, share)};
+        return {headWidth(), neededHeight(index, columns) + std::max(0, share)};
     }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
@@ -113,8 +125,8 @@ private:
     int columnCount() const
     {
         const int scrollBar = m_view->verticalScrollBar()->sizeHint().width();
-        const int width = m_view->contentsRect().width() - scrollBar - headWidth - 2 * padding;
-        const bool isWide = width >= 2 * narrowestColumn;
+        const int width = m_view->contentsRect().width() - scrollBar - headWidth() - 2 * padding;
+        const bool isWide = width >= 2 * narrowestColumn();
         return isWide && neededHeight(1) > m_view->viewport()->height() ? 2 : 1;
     }
 
@@ -145,9 +157,9 @@ private:
             const QRect line(place.left() + i / perColumn * width, place.top() + i % perColumn * lineHeight(),
                              width - padding, metrics.height());
             painter.setPen(theme.quiet);
-            painter.drawText(QRect(line.left(), line.top(), timeWidth, line.height()), Qt::AlignRight,
-                             metrics.elidedText(lines.time(i), Qt::ElideRight, timeWidth));
-            const QRect text = line.adjusted(timeWidth + padding, 0, 0, 0);
+            painter.drawText(QRect(line.left(), line.top(), timeWidth(), line.height()), Qt::AlignRight,
+                             metrics.elidedText(lines.time(i), Qt::ElideRight, timeWidth()));
+            const QRect text = line.adjusted(timeWidth() + padding, 0, 0, 0);
             painter.setPen(theme.text);
             painter.drawText(text, Qt::AlignLeft,
                              metrics.elidedText(lines.text(i), Qt::ElideRight, text.width()));

@@ -138,7 +138,7 @@ void MonthHeading::changeEvent(QEvent *event)
 void MonthHeading::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    const QFont font = width() < narrowBelow ? TypeScale::strong() : TypeScale::group();
+    const QFont font = width() < TypeScale::wide(narrowBelow) ? TypeScale::strong() : TypeScale::group();
     for (QToolButton *word : {m_name, m_yearWord}) {
         if (word->font() != font)
             word->setFont(font);

@@ -99,12 +99,17 @@ double points(const QFont &font)
     return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
 }
 
+/// How much larger the user's base font is than one of 10.5 points.
+double growth()
+{
+    return std::max(1.0, points(QApplication::font()) / basePoints);
+}
+
 /// `size` is meant for a base font of 10.5 points and grows with a larger one.
 QFont step(double size, QFont::Weight weight = QFont::Normal)
 {
     QFont font = QApplication::font();
-    const double scale = std::max(1.0, points(font) / basePoints);
-    font.setPointSizeF(std::max(smallestPoints, size * scale));
+    font.setPointSizeF(std::max(smallestPoints, size * growth()));
     font.setWeight(weight);
     return font;
 }
@@ -267,6 +272,11 @@ QFont TypeScale::windowTitle()
 QFont TypeScale::date()
 {
     return step(22, QFont::DemiBold);
+}
+
+int TypeScale::wide(int pixels)
+{
+    return qRound(pixels * growth());
 }
 
 double contrast(const QColor &one, const QColor &other)

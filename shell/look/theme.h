@@ -58,6 +58,8 @@ QFont cardTitle();   ///< 13 pt semibold
 QFont emptyTitle();  ///< 16 pt semibold: the sentence of an empty panel
 QFont windowTitle(); ///< 17.5 pt semibold: record and window titles
 QFont date();        ///< 22 pt semibold: the date on the main menu
+/// A width that was designed for words, in the user's base font.
+int wide(int pixels);
 } // namespace TypeScale
 
 /// Contrast of two opaque colours after the WCAG formula: 1 to 21.
