@@ -164,18 +164,26 @@ QList<QWidget *> FlowToolBar::itemsOf(const QList<QAction *> &tools) const
     return items;
 }
 
-QList<QAction *> FlowToolBar::wantedTools() const
+QList<QAction *> FlowToolBar::withoutGivingWay(const QList<QAction *> &tools) const
 {
-    QList<QAction *> tools = actions();
-    tools.removeIf([](const QAction *action) { return !action->isVisible(); });
-    if (m_low->isLow())
-        return tools; // "More" has what finds no room
+    QList<QAction *> left = tools;
+    const auto isOneRow = [&] {
+        QList<QWidget *> items = itemsOf(left);
+        if (left.size() < tools.size())
+            items << m_more;
+        return m_layout->countInRow(items, m_more) == items.size();
+    };
     for (const QAction *action : m_givingWay) {
-        if (m_layout->countInRow(itemsOf(tools), m_more) == tools.size())
+        if (isOneRow())
             break;
-        tools.removeIf([action](const QAction *tool) { return tool == action; });
+        left.removeIf([action](const QAction *tool) { return tool == action; });
+        // What stood between two separators may be gone.
+        for (qsizetype i = left.size() - 1; i >= 0; --i) {
+            if (left[i]->isSeparator() && (i == 0 || left[i - 1]->isSeparator()))
+                left.removeAt(i);
+        }
     }
-    return tools;
+    return isOneRow() ? left : tools; // a second row has room for all
 }
 
 /// In a low window the tools take one row, and "More" has those that find no room in it.
@@ -183,15 +191,15 @@ void FlowToolBar::fit()
 {
     if (!m_low)
         return;
-    const QList<QAction *> tools = wantedTools();
+    QList<QAction *> held = actions();
+    held.removeIf([](const QAction *action) { return !action->isVisible(); });
     const bool isOneRow = m_low->isLow();
-    const qsizetype shown = isOneRow ? m_layout->countInRow(itemsOf(tools), m_more) : tools.size();
-    const QList<QAction *> all = actions();
-    for (QAction *tool : all) {
-        if (tool->isVisible())
-            m_items.value(tool)->setVisible(tools.first(shown).contains(tool));
-    }
-    m_more->hold(tools.mid(shown));
+    const QList<QAction *> shown =
+        isOneRow ? held.first(m_layout->countInRow(itemsOf(held), m_more)) : withoutGivingWay(held);
+    for (QAction *tool : std::as_const(held))
+        m_items.value(tool)->setVisible(shown.contains(tool));
+    held.removeIf([&shown](QAction *tool) { return shown.contains(tool); });
+    m_more->hold(held);
     m_layout->setOneRow(isOneRow);
 }
 

@@ -9,9 +9,9 @@ class MoreButton;
 class QToolButton;
 class ToolRows;
 
-/// A toolbar that hides nothing: what does not fit in one row goes to the next, or in a low window into the
-/// menu of a button "More". Its actions become tool buttons in the order in which they were added, named
-/// after their action with "_button" behind. A bar takes no focus by a click.
+/// A toolbar that hides nothing: what does not fit in one row goes to the next, or into the menu of a button
+/// "More" in a low window and where it gives way. Its actions become tool buttons in the order in which they
+/// were added, named after their action with "_button" behind. A bar takes no focus by a click.
 class FlowToolBar : public QWidget
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     void setEqualWidths(int maximum);
 
     QAction *addSeparator();
-    /// `action` is left out where the bar would need a second row; what is named first goes first.
+    /// `action` goes into "More" where that saves a second row; what is named first goes first.
     void giveWay(const QAction *action);
     /// Takes all actions off the bar; they live on, separators aside.
     void clear();
@@ -43,8 +43,8 @@ protected:
 private:
     QWidget *makeItem(QAction *action);
     void styleButton(QToolButton &button) const;
-    /// The tools that are to stand in the bar, in their order.
-    QList<QAction *> wantedTools() const;
+    /// Those of `tools` that are to stand in the bar when it is as high as it likes to be.
+    QList<QAction *> withoutGivingWay(const QList<QAction *> &tools) const;
     QList<QWidget *> itemsOf(const QList<QAction *> &tools) const;
     void fit();
 
