@@ -24,6 +24,7 @@
 #include <QMenuBar>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QStatusTipEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,6 +35,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int windowMargin = 16;
+
+/// The reason of a tool under the mouse may no longer be one when something else is in front.
+void forgetTip(QWidget *window)
+{
+    QStatusTipEvent none((QString()));
+    QCoreApplication::sendEvent(window, &none);
+}
 
 } // namespace
 
@@ -76,6 +84,7 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     m_stack->addWidget(workPlace);
     setCentralWidget(content);
 
+    connect(m_stack, &QStackedWidget::currentChanged, this, [this] { forgetTip(this); });
     new UndoKeys(this);
     m_standard->addMainMenuTool();
     connect(m_colors, &PanelColors::changed, this, [this] {
@@ -233,6 +242,7 @@ void FunctionWindow::setViews(WorkViews *views)
 {
     m_views = views;
     connect(views, &WorkViews::changed, m_commands, &Commands::refresh);
+    connect(views, &WorkViews::changed, this, [this] { forgetTip(this); });
 }
 
 QWidget *FunctionWindow::makePanel(const QString &name)

@@ -5,6 +5,7 @@
 #include "shell/controls/controls.h"
 #include "shell/core/framelines.h"
 #include "shell/core/settingskeys.h"
+#include "shell/core/shellmessages.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/toolbarcustomizer.h"
 #include "shell/frame/toolbarlayout.h"
@@ -33,7 +34,27 @@ void WindowToolbar::complete(const QString &storeKey)
 {
     m_layout = new ToolbarLayout(m_program, this, storeKey, m_commands.tools(), m_commands.toolNames());
     m_layout->restore();
+    addToMenu();
     showUnlessRemoved();
+}
+
+void WindowToolbar::addToMenu()
+{
+    auto *options = window()->findChild<QMenu *>(u"mO"_s);
+    if (!options || options->isEmpty())
+        return;
+    m_customize = m_commands.add(nullptr, u"mOCT"_s, u"Customi&ze Toolbar"_s, [this] { customize(); });
+    const QList<QAction *> entries = options->actions();
+    const bool isGroup = entries.size() > 1 && entries[entries.size() - 2]->isSeparator();
+    options->insertAction(entries[entries.size() - (isGroup ? 2 : 1)], m_customize);
+}
+
+void WindowToolbar::customize()
+{
+    ToolbarCustomizer customizer(*m_layout, window());
+    m_program.dialogs.run(customizer);
+    if (!customizer.isSaved())
+        m_activity.say(FrameLines::settingNotSaved());
 }
 
 void WindowToolbar::showUnlessRemoved()
@@ -41,6 +62,8 @@ void WindowToolbar::showUnlessRemoved()
     const bool isRemoved = TopToolbar::isRemoved(m_program, m_removal);
     setVisible(!isRemoved);
     m_activity.offerTopToolbar(isRemoved);
+    if (m_customize)
+        setUnavailable(m_customize, isRemoved ? ShellMessages::topToolbarIsRemoved().text : QString());
 }
 
 void WindowToolbar::restore()
@@ -64,11 +87,6 @@ void WindowToolbar::showMenu(const QPoint &place)
         if (!TopToolbar::setRemoved(m_program, true))
             m_activity.say(FrameLines::settingNotSaved());
     });
-    connect(customize, &QAction::triggered, this, [this] {
-        ToolbarCustomizer customizer(*m_layout, window());
-        m_program.dialogs.run(customizer);
-        if (!customizer.isSaved())
-            m_activity.say(FrameLines::settingNotSaved());
-    });
+    connect(customize, &QAction::triggered, this, &WindowToolbar::customize);
     menu->popup(mapToGlobal(place));
 }

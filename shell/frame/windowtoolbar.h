@@ -23,6 +23,9 @@ public:
     void complete(const QString &storeKey);
 
 private:
+    /// The customizer opens from the menu of the options as well, in front of what stands last in it.
+    void addToMenu();
+    void customize();
     void showUnlessRemoved();
     void restore();
     void showMenu(const QPoint &place);
@@ -32,4 +35,5 @@ private:
     Commands &m_commands;
     ActivityBar &m_activity;
     ToolbarLayout *m_layout = nullptr;
+    QAction *m_customize = nullptr; ///< of the menu
 };

@@ -15,6 +15,7 @@
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QSplitter>
+#include <QStatusTipEvent>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,6 +40,7 @@ public:
         QAction *print = commands().add(
             nullptr, u"mOPrt"_s, u"&Print File"_s, [this] { done << u"print"_s; }, {}, CommonKeys::print);
         commands().tool(print, "print"_L1, u"Print"_s);
+        addMenu(u"mO"_s, u"&Options"_s)->addAction(standard(Standard::Exit));
         addUtilitiesMenu();
         finishFrame();
     }
@@ -149,7 +151,11 @@ private slots:
         const auto window = open();
         auto *box = control<QLineEdit>(*window, "box");
         box->setFocus();
+        QStatusTipEvent tip(u"why a tool cannot be used"_s);
+        QCoreApplication::sendEvent(window.get(), &tip);
+        QVERIFY(!control<QLabel>(*window, "statusMessage")->text().isEmpty());
         window->openOver();
+        QVERIFY(control<QLabel>(*window, "statusMessage")->text().isEmpty());
         auto *over = control<QLineEdit>(*window, "over");
         over->setFocus();
         window->showPreview([](const PageContext &) { return Page(u"Sample"_s); }, u"Sample"_s);
@@ -205,6 +211,7 @@ private slots:
         emit one->toolbar().customContextMenuRequested(QPoint(5, 5));
         control<QMenu>(*one, "toolbarMenu")->actions().first()->trigger();
         QVERIFY(!one->toolbar().isVisible() && !other->toolbar().isVisible());
+        QVERIFY(!control<QAction>(*other, "mOCT")->isEnabled());
         for (const TextSetting &setting : {SettingsKeys::topToolbar, SettingsKeys::weightTopToolbar})
             QCOMPARE(m_program->settings.text(setting), u"OFF"_s);
         m_program->state.topToolbarRemoved.reset(); // as at the next start
@@ -214,6 +221,7 @@ private slots:
         auto *link = control<QToolButton>(*other, "StatusBar1_RestoreTop");
         QCOMPARE(link->text(), u"Click to Restore Top Toolbar"_s);
         QTest::mouseClick(link, Qt::LeftButton);
+        QVERIFY(control<QAction>(*other, "mOCT")->isEnabled());
         QVERIFY(one->toolbar().isVisible() && other->toolbar().isVisible() && later->toolbar().isVisible());
         QVERIFY(!control<QToolButton>(*one, "StatusBar1_RestoreTop")->isVisible());
         QCOMPARE(m_program->settings.number(SettingsKeys::sideToolbarMarker), 88);
