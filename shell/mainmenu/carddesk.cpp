@@ -32,6 +32,9 @@ constexpr int narrowestTop = 260;
 constexpr int widestTop = 420;
 constexpr int topGap = 24;
 constexpr int below = 20;
+/// What is left below the cards for the days to come before the cards stand lower.
+constexpr int roomForToday = 260;
+constexpr int lowest = 100;
 
 } // namespace
 
@@ -248,9 +251,21 @@ CardDesk::Measures CardDesk::measuresFor(int width) const
     m.cardsTop += roomy ? 18 : 14;
     const int rows = (int(m_cards.size()) + m.columns - 1) / m.columns;
     m.height = m.cardsTop + rows * m.cardHeight + (rows - 1) * m.gap + below;
+    lower(m);
     if (m_today && m_today->hasSomething())
         measureToday(m);
     return m;
+}
+
+/// On a high screen everything stands a little lower, the same whether the days to come are known yet or not.
+void CardDesk::lower(Measures &m) const
+{
+    const int spare = (parentWidget() ? parentWidget()->height() : 0) - m.height - roomForToday;
+    const int drop = std::clamp(spare / 3, 0, lowest);
+    for (QRect *rect : {&m.date, &m.sentence, &m.firstLook, &m.topWidget})
+        rect->translate(0, drop);
+    m.cardsTop += drop;
+    m.height += drop;
 }
 
 /// What the cards leave of the view is the panel's; where that is too little, it is scrolled to.

@@ -76,6 +76,7 @@ private:
     Measures measuresFor(int width) const;
     void measureHead(Measures &m) const;
     void measureToday(Measures &m) const;
+    void lower(Measures &m) const;
     void place();
     QFont titleFontFor(int cardWidth) const;
     FunctionCard *card(Function function) const;

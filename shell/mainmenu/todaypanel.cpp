@@ -19,7 +19,6 @@ namespace {
 constexpr int side = CardGround::margin + 16;
 constexpr int top = CardGround::margin + 8;
 constexpr int twoColumnsFrom = 980;
-constexpr int widestColumn = 760;
 constexpr int slack = 6;
 constexpr int leastLines = 3;
 /// Where it is scrolled to, below the cards.
@@ -95,9 +94,7 @@ void TodayPanel::openLine(int row)
 void TodayPanel::place()
 {
     const int columns = columnsFor(width());
-    QRect inner = rect().adjusted(side, top, -side, -top);
-    // In one wide column the eye would lose the line on its way to the end.
-    inner.setWidth(std::min(inner.width(), columns * widestColumn));
+    const QRect inner = rect().adjusted(side, top, -side, -top);
     keepLine([&] { m_model->setRoom(columns * std::max(1, inner.height() / TodayList::rowHeight())); });
     // A list as high as its lines would already wrap the last of them.
     m_list->setGeometry(inner.adjusted(0, 0, 0, slack));
