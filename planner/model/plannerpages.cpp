@@ -195,6 +195,13 @@ Page wideWeek(QDate start, const Days &days, const PageContext &context, const N
     return page.close(context.today, context.style);
 }
 
+/// How many entries stand in the list behind the calendar, in words that are not cut.
+QString inTheList(int entries, int characters)
+{
+    const QString words = u"+ %1 in the list"_s.arg(entries);
+    return words.size() <= characters ? words : u"+ %1 listed"_s.arg(entries);
+}
+
 /// Gives the number of entries that the place holds, none of them cut.
 int placeMonthDay(Page &page, const QRectF &cell, QDate date, const DayLines &lines)
 {
@@ -209,7 +216,7 @@ int placeMonthDay(Page &page, const QRectF &cell, QDate date, const DayLines &li
     for (int i = 0; i < int(uncut.size()); ++i)
         texts << lines.joined(i);
     if (const int missing = lines.count() - int(uncut.size()); missing > 0)
-        texts << u"+ %1 in the list"_s.arg(missing);
+        texts << inTheList(missing, int(rest.width() * dense.characters));
     if (!texts.isEmpty())
         page.placeText(rest, texts.join(u'\n'), dense.role);
     return int(uncut.size());

@@ -188,6 +188,7 @@ private slots:
         const Page other = PlannerPages::month(QDate(2026, 5, 1), {{QDate(2026, 5, 31), endless}}, Qt::Sunday,
                                                contextOf(PageSetup::Portrait));
         QVERIFY(linesOf(other).contains(u"Sun, May 31, 2026\t1:30 PM\t"_s + endless.texts[0]));
+        QCOMPARE(linesOf(other).filter(u" listed"_s).size(), 1);
     }
 
     void givesFullWeeksMoreRoom()
