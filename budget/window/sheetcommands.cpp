@@ -116,7 +116,7 @@ QAction *SheetCommands::add(QMenu *menu, const QString &name, const QString &cap
 
 QString SheetCommands::whyNoEdit() const
 {
-    if (const QString reason = m_desk.unless(); !reason.isEmpty())
+    if (QString reason = m_desk.unless(); !reason.isEmpty())
         return reason;
     return m_desk.model.layer() == SheetLayer::Planned ? QString() : BudgetLines::inPlanOnly();
 }
