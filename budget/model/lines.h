@@ -84,6 +84,12 @@ inline QString chosen(int cells, double sum)
     return sum == 0 ? line : line + u": "_s + Amount::text(sum);
 }
 
+/// "12.40 over the plan of 500.00".
+inline QString overPlan(double spent, double plan)
+{
+    return Amount::text(spent - plan) + u" over the plan of "_s + Amount::text(plan);
+}
+
 // Edits, as undo and the status bar call them
 
 inline QString cut()

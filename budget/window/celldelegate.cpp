@@ -6,8 +6,9 @@
 #include "budget/window/sheetmodel.h"
 #include "shell/controls/controls.h"
 
-#include <QKeyEvent>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -75,6 +76,17 @@ void CellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewI
                                         const QModelIndex &) const
 {
     editor->setGeometry(option.rect);
+}
+
+bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                             const QModelIndex &index)
+{
+    const QString text = index.data().toString();
+    const bool isCut =
+        view->fontMetrics().horizontalAdvance(text) > option.rect.width() - 2 * SheetLook::inset;
+    const QString words = index.data(Qt::ToolTipRole).toString();
+    QToolTip::showText(event->globalPos(), !words.isEmpty() ? words : isCut ? text : QString(), view);
+    return true;
 }
 
 void CellDelegate::goToEnd() const

@@ -21,6 +21,10 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
 
+    /// An item that is cut shows itself whole; an amount over its plan says by how much.
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) override;
+
     /// Puts the cursor behind what the open box holds, for it to be edited.
     void goToEnd() const;
     /// What is typed in the open box goes into its cell, and the box away.

@@ -107,11 +107,16 @@ int SheetModel::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : SheetColumn::count;
 }
 
+double SheetModel::spentIn(int row, int column) const
+{
+    return m_spent[std::size_t(row)][std::size_t(column - SheetColumn::firstMonth)];
+}
+
 QString SheetModel::cellShown(int row, int column) const
 {
     if (m_layer == SheetLayer::Planned || column == SheetColumn::item)
         return inOneLine(cellText(*m_sheet, row, column));
-    const double sum = m_spent[std::size_t(row)][std::size_t(column - SheetColumn::firstMonth)];
+    const double sum = spentIn(row, column);
     return sum == 0 ? QString() : Amount::text(sum);
 }
 
@@ -119,7 +124,7 @@ bool SheetModel::isOverPlan(int row, int column) const
 {
     if (m_layer == SheetLayer::Planned || column == SheetColumn::item)
         return false;
-    const double sum = m_spent[std::size_t(row)][std::size_t(column - SheetColumn::firstMonth)];
+    const double sum = spentIn(row, column);
     return Amount::rounded(sum) > Amount::rounded(Amount::stored(cellText(*m_sheet, row, column)));
 }
 
@@ -138,6 +143,13 @@ QVariant SheetModel::data(const QModelIndex &index, int role) const
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (index.column() == SheetColumn::item ? Qt::AlignLeft : Qt::AlignRight));
+    case Qt::ToolTipRole:
+        if (!isOverPlan(index.row(), index.column()))
+            return {};
+        return BudgetLines::overPlan(spentIn(index.row(), index.column()),
+                                     Amount::stored(cellText(*m_sheet, index.row(), index.column())));
+    case Qt::AccessibleDescriptionRole:
+        return data(index, Qt::ToolTipRole);
     case overPlanRole:
         return isOverPlan(index.row(), index.column());
     default:
@@ -191,6 +203,6 @@ bool SheetModel::takeCell(int row, int column, const QString &typed)
                              SheetColumn::headings()[column]),
            wanted);
     if (entry.notice)
-        emit noticed(*entry.notice);
+        emit noticed(*entry.notice, index(row, column));
     return true;
 }

@@ -69,8 +69,8 @@ signals:
     void edited(const UndoStep &step);
     /// An edit was taken back or made again in `range`.
     void shownAgain(const SheetRange &range);
-    /// The entry check has something to say.
-    void noticed(const Message &message);
+    /// The entry check has something to say about what was typed into `cell`.
+    void noticed(const Message &message, const QModelIndex &cell);
     void spentTyped(int row, int month, const QString &typed);
 
 private:
@@ -79,6 +79,7 @@ private:
     void show(const Sheet &sheet);
     ChangeResult exchange(const Sheet &shown, const Sheet &wanted);
     QString cellShown(int row, int column) const;
+    double spentIn(int row, int column) const;
     bool isOverPlan(int row, int column) const;
     bool takeCell(int row, int column, const QString &typed);
 
