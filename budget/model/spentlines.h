@@ -86,6 +86,65 @@ inline QString notSaved()
     return u"What was spent could not be saved: the disk refuses it. What is typed stays here."_s;
 }
 
+// Bank files
+
+inline QString bringIn()
+{
+    return u"Bring In a Bank File"_s;
+}
+
+inline QString bankFilter()
+{
+    return u"Bank files (*.csv *.txt *.tsv);;All files (*)"_s;
+}
+
+inline QString cannotRead(const QString &file)
+{
+    return file + u" cannot be read"_s;
+}
+
+inline QString tooLong(const QString &file)
+{
+    return file + u" is too long for a bank's file"_s;
+}
+
+inline QString noColumns()
+{
+    return u"No columns with dates and amounts were found in this file"_s;
+}
+
+inline QString whatIsSpending(bool areAllSpent)
+{
+    return areAllSpent ? u"No amount has a minus: all of them count as spent"_s
+                       : u"Only what went out counts as spent; what came in is left out"_s;
+}
+
+inline QString toBeTaken(int lines, qint64 cents, int total)
+{
+    return u"%1 of %2 lines to be taken, "_s.arg(lines).arg(total) + centsText(cents);
+}
+
+inline QString broughtIn(int lines, qint64 cents)
+{
+    return (lines == 1 ? u"Brought in: 1 amount, "_s : u"Brought in: %1 amounts, "_s.arg(lines)) +
+           centsText(cents);
+}
+
+inline QString nothingToTake()
+{
+    return u"No line can be taken yet: say by a rule what the texts belong to"_s;
+}
+
+inline QString ruleNeedsText()
+{
+    return u"Type what the text of the lines contains, and choose an item"_s;
+}
+
+inline QString ruleAdded(const QString &text, const QString &item)
+{
+    return u"\u201c"_s + text + u"\u201d belongs to "_s + item;
+}
+
 // Refusals and reasons
 
 inline QString needsAnItem()

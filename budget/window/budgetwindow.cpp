@@ -164,7 +164,9 @@ void Budget1::addUtilityCommands(QMenu *menu)
             return m_year->hasFile() ? QString() : BudgetLines::nothingToBackUp(m_year->year());
         });
     menu->addAction(standard(Standard::Restore));
+    menu->addSeparator();
     m_print->addExportCommand(commands(), menu);
+    m_spentDesk->addImport(menu);
     connect(menu, &QMenu::aboutToShow, this, [this] { commands().refresh(); });
     commands().tool(backup, "backup-command"_L1, u"Backup"_s);
     toolbar().giveWay(backup);
@@ -195,6 +197,9 @@ void Budget1::connectSheet()
         refreshWords();
     });
     connect(m_spentDesk, &SpentDesk::said, &activity(), &ActivityBar::say);
+    connect(m_spentDesk, &SpentDesk::progressed, this,
+            [this](int done, int total) { activity().showProgress(done, total, true); });
+    connect(&activity(), &ActivityBar::stopRequested, m_spentDesk, &SpentDesk::stop);
     connect(
         m_spentDesk, &SpentDesk::noticed, this, [this](const Message &message) { ask(message); },
         Qt::QueuedConnection);

@@ -5,6 +5,7 @@
 #include "budget/model/lines.h"
 #include "budget/model/spentlines.h"
 #include "budget/window/duepanel.h"
+#include "budget/window/importpanel.h"
 #include "budget/window/sheetgrid.h"
 #include "budget/window/sheetmodel.h"
 #include "budget/window/spentpanel.h"
@@ -16,8 +17,10 @@
 #include "shell/program/program.h"
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QSettings>
 
 #include <algorithm>
 #include <numeric>
@@ -28,11 +31,16 @@ SpentDesk::SpentDesk(Program &program, Desk desk, QWidget *window)
     : QObject(window)
     , m_program(program)
     , m_desk(desk)
+    , m_window(window)
     , m_amounts(new SpentPanel(program, desk.year, window))
     , m_due(new DuePanel(program, desk.year))
+    , m_import(new ImportPanel(program, desk.year))
 {
     m_desk.views.addPanel(m_amounts);
     m_desk.views.addPanel(m_due);
+    m_desk.views.addPanel(m_import);
+    connect(m_import, &ImportPanel::said, this, &SpentDesk::said);
+    connect(m_import, &ImportPanel::progressed, this, &SpentDesk::progressed);
     connect(m_amounts, &SpentPanel::said, this, &SpentDesk::said);
     connect(m_due, &DuePanel::said, this, &SpentDesk::said);
     connect(&m_desk.model, &SheetModel::spentTyped, this, &SpentDesk::addTyped);
@@ -83,6 +91,35 @@ void SpentDesk::addCommands(QMenu *view)
         unless);
     all.tool(due, "calendar-day"_L1, u"Due"_s);
     refresh();
+}
+
+void SpentDesk::addImport(QMenu *menu)
+{
+    m_desk.commands.writing(m_desk.commands.add(
+        menu, u"mUBank"_s, u"Bring &In a Bank File..."_s, [this] { openFile(); },
+        [this] {
+            const QString why = whyNoSheet();
+            return why.isEmpty() ? m_desk.year.whyReadOnly() : why;
+        }));
+}
+
+void SpentDesk::stop()
+{
+    if (m_desk.views.isShown(m_import))
+        m_import->leave();
+}
+
+void SpentDesk::openFile()
+{
+    m_desk.grid.finishEdit();
+    const QString key = u"Windows/Budget1/bankFolder"_s;
+    const auto path = m_program.dialogs.chooseFileToOpen(
+        m_window, SpentLines::bringIn(), m_program.store.value(key).toString(), SpentLines::bankFilter());
+    if (!path || !m_import->open(*path))
+        return;
+    m_program.store.setValue(key, QFileInfo(*path).path());
+    m_desk.views.open(m_import);
+    m_import->setFocus();
 }
 
 QString SpentDesk::whyNoSheet() const

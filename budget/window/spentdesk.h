@@ -6,6 +6,7 @@
 #include <QObject>
 
 class DuePanel;
+class ImportPanel;
 class LinkButton;
 class QComboBox;
 class QMenu;
@@ -39,6 +40,10 @@ public:
     QWidget *makeSwitch(QWidget *parent);
     /// Puts the commands into the view menu.
     void addCommands(QMenu *view);
+    /// Puts the command that reads a bank's file into `menu`.
+    void addImport(QMenu *menu);
+    /// Ends what takes its time.
+    void stop();
     /// The cell or the amount of `place`; the year is open.
     void show(const Place &place);
 
@@ -46,19 +51,24 @@ signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
     void noticed(const Message &message);
+    /// Of what takes its time; `total` 0: it is over.
+    void progressed(int done, int total);
 
 private:
     void addTyped(int row, int month, const QString &typed);
     void openCell();
     void openAmounts(int row, int month);
+    void openFile();
     void setLayer(bool isSpent);
     void refresh();
     QString whyNoSheet() const;
 
     Program &m_program;
     Desk m_desk;
+    QWidget *m_window;
     SpentPanel *m_amounts;
     DuePanel *m_due;
+    ImportPanel *m_import;
     QComboBox *m_layers = nullptr;
     LinkButton *m_noRow = nullptr;
     QAction *m_planned = nullptr;

@@ -28,6 +28,8 @@ public:
     virtual std::optional<PageFont> chooseFont(QWidget *parent, const PageFont &preset) = 0;
     virtual std::optional<QString> chooseFileToSave(QWidget *parent, const QString &title,
                                                     const QString &preset, const QString &filter) = 0;
+    virtual std::optional<QString> chooseFileToOpen(QWidget *parent, const QString &title,
+                                                    const QString &folder, const QString &filter) = 0;
     virtual std::optional<QString> chooseFolder(QWidget *parent, const QString &title,
                                                 const QString &preset) = 0;
     /// The platform's print dialog; false when cancelled.

@@ -88,6 +88,13 @@ std::optional<QString> QtDialogs::chooseFileToSave(QWidget *parent, const QStrin
     return unlessEmpty(QFileDialog::getSaveFileName(parent, title, preset, filter));
 }
 
+std::optional<QString> QtDialogs::chooseFileToOpen(QWidget *parent, const QString &title,
+                                                   const QString &folder, const QString &filter)
+{
+    const AroundModalBox around(parent);
+    return unlessEmpty(QFileDialog::getOpenFileName(parent, title, folder, filter));
+}
+
 std::optional<QString> QtDialogs::chooseFolder(QWidget *parent, const QString &title, const QString &preset)
 {
     const AroundModalBox around(parent);

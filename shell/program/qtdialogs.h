@@ -15,6 +15,8 @@ public:
     std::optional<PageFont> chooseFont(QWidget *parent, const PageFont &preset) override;
     std::optional<QString> chooseFileToSave(QWidget *parent, const QString &title, const QString &preset,
                                             const QString &filter) override;
+    std::optional<QString> chooseFileToOpen(QWidget *parent, const QString &title, const QString &folder,
+                                            const QString &filter) override;
     std::optional<QString> chooseFolder(QWidget *parent, const QString &title,
                                         const QString &preset) override;
     bool choosePrinter(QWidget *parent, QPrinter &printer) override;

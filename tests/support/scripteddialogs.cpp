@@ -60,6 +60,12 @@ std::optional<QString> ScriptedDialogs::chooseFileToSave(QWidget *, const QStrin
     return next(m_files, title, std::optional<QString>());
 }
 
+std::optional<QString> ScriptedDialogs::chooseFileToOpen(QWidget *, const QString &title, const QString &,
+                                                         const QString &)
+{
+    return next(m_files, title, std::optional<QString>());
+}
+
 std::optional<QString> ScriptedDialogs::chooseFolder(QWidget *, const QString &title, const QString &)
 {
     return next(m_files, title, std::optional<QString>());

@@ -115,6 +115,50 @@ private slots:
                             "spent\t2026-03-20\t100.00\tRent\tPaid\n"));
     }
 
+    void bringsInABankFile()
+    {
+        m_test->setBytes(u"bank.csv"_s, "Date;Payee;Amount\n"
+                                        "2026-03-02;City Garage 12;-40,00\n"
+                                        "2026-03-05;City Garage 9;-10,50\n"
+                                        "2026-03-06;Employer;900,00\n"
+                                        "2026-03-07;\n");
+        m_test->dialogs.willChooseFile(m_test->path(u"bank.csv"_s));
+        trigger("mUBank");
+        auto *list = find<QTableView>("importList");
+        QTRY_COMPARE(list->model()->rowCount(), 4);
+        QVERIFY(!isOffered("importTake"));
+        QCOMPARE(list->model()->index(3, 5).data().toString(), u"Not read: no amount"_s);
+        QCOMPARE(find<QLineEdit>("ruleText")->text(), u"City Garage"_s);
+        find<QComboBox>("ruleItem")->setCurrentText(u"Fuel"_s);
+        click("ruleAdd");
+        QTRY_VERIFY(isOffered("importTake"));
+        list->selectRow(1);
+        QTest::keyClick(list, Qt::Key_Space);
+        QCOMPARE(list->model()->index(1, 5).data().toString(), u"Left out"_s);
+        QTest::keyClick(list, Qt::Key_Space);
+        click("importTake");
+        QCOMPARE(said(), u"Brought in: 2 amounts, 50.50"_s);
+        trigger("mVSpent");
+        QCOMPARE(textAt(1, 3), u"50.50"_s);
+        trigger("mEUndo");
+        QCOMPARE(textAt(1, 3), QString());
+        trigger("mERedo");
+        trigger("mOSave");
+        QCOMPARE(m_test->bytes(u"Quillery.spent-2026"_s),
+                 QByteArray("Quillery spent amounts 1\n"
+                            "rule\tFuel\tCity Garage\n"
+                            "spent\t2026-03-02\t40.00\tFuel\tCity Garage 12\n"
+                            "spent\t2026-03-05\t10.50\tFuel\tCity Garage 9\n"));
+        m_test->dialogs.willChooseFile(m_test->path(u"bank.csv"_s));
+        trigger("mUBank");
+        QTRY_COMPARE(list->model()->rowCount(), 4);
+        QCOMPARE(list->model()->index(0, 5).data().toString(), u"Is there already"_s);
+        click("importClose");
+        m_test->dialogs.willChooseFile(m_test->path(u"none.csv"_s));
+        trigger("mUBank");
+        QCOMPARE(said(), u"none.csv cannot be read"_s);
+    }
+
     void leadsToAPlace()
     {
         m_test->setBytes(u"Quillery.spent-2025"_s, "spent\t2025-05-05\t7.00\tGone\tlost\n");

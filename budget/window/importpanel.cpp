@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/importpanel.h"
+
+#include "budget/model/spentlines.h"
+#include "budget/window/importmodel.h"
+#include "budget/window/sheetmodel.h"
+#include "budget/window/spentyear.h"
+#include "shell/controls/listrowdelegate.h"
+#include "shell/controls/pastefilter.h"
+#include "shell/controls/titleline.h"
+#include "shell/core/slicedwork.h"
+#include "shell/look/theme.h"
+#include "shell/program/program.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QTableView>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// What the rows keep free at the edges of a column.
+constexpr int inset = 8;
+constexpr qint64 mostBytes = qint64(64) * 1024 * 1024;
+constexpr int percent = 100;
+
+/// What a rule about lines like this one would look for: the words before the first number.
+QString likelyRule(const QString &text)
+{
+    QStringList words;
+    for (const QString &word : text.split(u' ', Qt::SkipEmptyParts)) {
+        if (std::ranges::any_of(word, [](QChar character) { return character.isDigit(); }) &&
+            !words.isEmpty())
+            break;
+        words.append(word);
+    }
+    return words.mid(0, 3).join(u' ');
+}
+
+} // namespace
+
+ImportPanel::ImportPanel(const Program &program, SpentYear &year, QWidget *parent)
+    : TaskPanel(u"importPanel"_s, {}, parent)
+    , m_program(program)
+    , m_year(year)
+    , m_work(new SlicedWork(this))
+    , m_model(new ImportModel(program.state.dateStyle, this))
+    , m_filter(named(new QComboBox, u"importFilter"_s))
+    , m_hint(named(makeQuietLabel({}, this), u"importHint"_s))
+    , m_view(named(new QTableView(this), u"importList"_s))
+{
+    m_filter->addItems({u"All lines"_s, u"To be taken"_s, u"Without an item"_s, u"There already"_s,
+                        u"No spending"_s, u"Not read"_s});
+    m_filter->setAccessibleName(u"Which lines are shown"_s);
+    titleLine().addAtRight(m_filter);
+    makeView();
+    auto *work = new QWidget(this);
+    auto *rows = new QVBoxLayout(work);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(12);
+    rows->addWidget(makeForm());
+    rows->addWidget(m_hint);
+    rows->addWidget(new WholeRows(m_view), 1);
+    setWork(work);
+    makeButtons();
+    setFocusProxy(m_view);
+    connect(m_filter, &QComboBox::currentIndexChanged, this,
+            [this](int filter) { m_model->setFilter(ImportModel::Filter(filter)); });
+    connect(m_model, &ImportModel::chosenChanged, this, &ImportPanel::refresh);
+    connect(m_work, &SlicedWork::progressed, this,
+            [this] { emit progressed(int(m_import->progress() * percent), percent); });
+    connect(m_work, &SlicedWork::finished, this, &ImportPanel::finish);
+}
+
+void ImportPanel::makeView()
+{
+    m_view->setModel(m_model);
+    setGridRows(m_view);
+    m_view->setAccessibleName(u"Lines of the bank's file"_s);
+    const QFontMetrics body(TypeScale::body());
+    QHeaderView *head = m_view->horizontalHeader();
+    head->setStretchLastSection(false);
+    m_view->setColumnWidth(ImportModel::Number, body.horizontalAdvance(u"100000"_s) + 6 * inset);
+    m_view->setColumnWidth(ImportModel::Date, body.horizontalAdvance(u"Wed, 28 Nov 2026"_s) + 3 * inset);
+    m_view->setColumnWidth(ImportModel::Amount, body.horizontalAdvance(u"-99999.99"_s) + 3 * inset);
+    m_view->setColumnWidth(ImportModel::Item, body.horizontalAdvance(u"Building work 12"_s) + 3 * inset);
+    m_view->setColumnWidth(ImportModel::What, body.horizontalAdvance(u"Not read: no amount"_s) + 3 * inset);
+    head->setSectionResizeMode(ImportModel::Text, QHeaderView::Stretch);
+    m_view->installEventFilter(this);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ImportPanel::follow);
+}
+
+QWidget *ImportPanel::makeForm()
+{
+    auto *form = new QWidget(this);
+    m_text = named(new QLineEdit(form), u"ruleText"_s);
+    new PasteFilter(m_text, Characters::All);
+    m_items = named(new QComboBox(form), u"ruleItem"_s);
+    m_items->setFixedWidth(200);
+    m_addRule = makeButton(u"ruleAdd"_s, u"Add &Rule"_s, form);
+    m_thisLine = makeButton(u"ruleThisLine"_s, u"This &Line Only"_s, form);
+    auto *row = new QHBoxLayout(form);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(12);
+    row->addLayout(labelled(u"Text contains"_s, m_text), 1);
+    row->addLayout(labelled(u"Item"_s, m_items));
+    row->addWidget(m_addRule, 0, Qt::AlignBottom);
+    row->addWidget(m_thisLine, 0, Qt::AlignBottom);
+    connect(m_text, &QLineEdit::returnPressed, this, &ImportPanel::addRule);
+    connect(m_addRule, &QPushButton::clicked, this, &ImportPanel::addRule);
+    connect(m_thisLine, &QPushButton::clicked, this, &ImportPanel::takeLine);
+    return form;
+}
+
+void ImportPanel::makeButtons()
+{
+    m_rules = addButton(u"importRules"_s, u"R&ules..."_s, ButtonKind::Plain, Side::Left);
+    m_take = addButton(u"importTake"_s, u"&Take These Amounts"_s, ButtonKind::Main);
+    setLeaveButton(u"importClose"_s, u"C&lose"_s);
+    connect(m_rules, &QPushButton::clicked, this, &ImportPanel::openRules);
+    connect(m_take, &QPushButton::clicked, this, &ImportPanel::take);
+}
+
+bool ImportPanel::open(const QString &path)
+{
+    const QString name = QFileInfo(path).fileName();
+    QFile file(path);
+    if (file.size() > mostBytes) {
+        emit said(SpentLines::tooLong(name));
+        return false;
+    }
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        emit said(SpentLines::cannotRead(name));
+        return false;
+    }
+    setTitle(name);
+    m_model->show(nullptr);
+    m_import = std::make_unique<BankImport>(file.readAll(), m_year.year(), m_program.state.dateStyle,
+                                            m_year.spending());
+    m_filter->setCurrentIndex(0);
+    m_items->clear();
+    for (const BudgetSheet::Row &row : m_year.sheet().sheet().rows) {
+        const QString item = row.item.trimmed();
+        if (!item.isEmpty() && m_items->findText(item) < 0)
+            m_items->addItem(item);
+    }
+    m_items->setCurrentIndex(-1);
+    m_text->clear();
+    work();
+    return true;
+}
+
+void ImportPanel::work()
+{
+    m_model->show(nullptr);
+    m_work->start([this] { return m_import->step(); });
+    refresh();
+}
+
+void ImportPanel::finish()
+{
+    emit progressed(0, 0);
+    m_model->show(m_import.get());
+    refresh();
+    if (m_model->rowCount() > 0)
+        m_view->selectRow(0);
+}
+
+void ImportPanel::refresh()
+{
+    const bool isBusy = m_work->isRunning();
+    m_hint->setText(m_import->isReadable() ? SpentLines::whatIsSpending(!isBusy && m_import->areAllSpent())
+                                           : SpentLines::noColumns());
+    setWords(isBusy ? QString()
+                    : SpentLines::toBeTaken(m_import->chosenCount(), m_import->chosenCents(),
+                                            int(m_import->lines().size())));
+    QString why = m_year.whyReadOnly();
+    if (why.isEmpty() && (isBusy || m_import->chosenCount() == 0))
+        why = SpentLines::nothingToTake();
+    setUnavailable(m_take, why);
+    setUnavailable(m_rules, m_import->rules().isEmpty() ? SpentLines::nothingToTake() : QString());
+}
+
+/// The boxes offer a rule for the line that is chosen.
+void ImportPanel::follow()
+{
+    const int row = m_view->currentIndex().row();
+    if (row < 0)
+        return;
+    const BankLine &line = m_import->lines()[m_model->line(row)];
+    if (line.state == BankLine::NotRead)
+        return;
+    m_text->setText(likelyRule(line.text));
+    if (!line.item.isEmpty())
+        m_items->setCurrentIndex(m_items->findText(line.item));
+}
+
+QString ImportPanel::chosenItem() const
+{
+    return m_items->currentIndex() < 0 ? QString() : m_items->currentText();
+}
+
+void ImportPanel::addRule()
+{
+    const QString text = m_text->text().simplified();
+    if (text.isEmpty() || chosenItem().isEmpty() || m_work->isRunning()) {
+        emit said(SpentLines::ruleNeedsText());
+        return;
+    }
+    QList<ImportRule> rules = m_import->rules();
+    rules.removeIf([&text](const ImportRule &rule) { return rule.text == text; });
+    // The newest one counts before those that it corrects.
+    rules.prepend({text, chosenItem()});
+    emit said(SpentLines::ruleAdded(text, chosenItem()));
+    setRules(rules);
+}
+
+void ImportPanel::setRules(const QList<ImportRule> &rules)
+{
+    m_import->setRules(rules);
+    work();
+}
+
+void ImportPanel::takeLine()
+{
+    const int row = m_view->currentIndex().row();
+    if (row < 0 || chosenItem().isEmpty()) {
+        emit said(SpentLines::ruleNeedsText());
+        return;
+    }
+    m_model->setItem(row, chosenItem());
+    m_view->setFocus();
+}
+
+/// Each rule as an entry that takes it away.
+void ImportPanel::openRules()
+{
+    QMenu menu(this);
+    menu.setObjectName(u"rulesMenu"_s);
+    const QList<ImportRule> rules = m_import->rules();
+    for (qsizetype at = 0; at < rules.size(); ++at) {
+        const QString words = u"Remove: "_s + SpentLines::ruleAdded(rules[at].text, rules[at].item);
+        connect(menu.addAction(QString(words).replace(u'&', u"&&"_s)), &QAction::triggered, this, [this, at] {
+            QList<ImportRule> left = m_import->rules();
+            left.removeAt(at);
+            setRules(left);
+        });
+    }
+    menu.exec(m_rules->mapToGlobal(QPoint(0, -menu.sizeHint().height())));
+}
+
+void ImportPanel::take()
+{
+    Spending wanted = m_year.spending();
+    wanted.amounts += m_import->amounts();
+    wanted.rules = m_import->rules();
+    const QString title = SpentLines::broughtIn(m_import->chosenCount(), m_import->chosenCents());
+    m_year.change(title, wanted);
+    leave();
+    emit said(title);
+}
+
+void ImportPanel::leave()
+{
+    if (m_work->isRunning())
+        m_work->stop();
+    TaskPanel::leave();
+}
+
+bool ImportPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_view && event->type() == QEvent::KeyPress && m_view->currentIndex().isValid()) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Space) {
+            m_model->toggle(m_view->currentIndex().row());
+            return true;
+        }
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            m_text->setFocus();
+            m_text->selectAll();
+            return true;
+        }
+    }
+    return TaskPanel::eventFilter(watched, event);
+}
