@@ -135,6 +135,16 @@ inline QString nothingToTake()
     return u"No line can be taken yet: say by a rule what the texts belong to"_s;
 }
 
+inline QString isBeingRead()
+{
+    return u"The file is still being read"_s;
+}
+
+inline QString noRules()
+{
+    return u"There are no rules yet"_s;
+}
+
 inline QString ruleNeedsText()
 {
     return u"Type what the text of the lines contains, and choose an item"_s;

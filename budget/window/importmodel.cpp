@@ -135,7 +135,8 @@ QVariant ImportModel::headerData(int section, Qt::Orientation orientation, int r
         return {};
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignVCenter | (section == Amount ? Qt::AlignRight : Qt::AlignLeft));
-    static const QStringList headings{u"Line"_s, u"Date"_s, u"Amount"_s, u"Text"_s, u"Item"_s, u""_s};
+    static const QStringList headings{u"Line"_s, u"Date"_s, u"Amount"_s,
+                                      u"Text"_s, u"Item"_s, u"What becomes of it"_s};
     return role == Qt::DisplayRole ? headings.value(section) : QVariant();
 }
 

@@ -40,7 +40,7 @@ QString likelyRule(const QString &text)
             break;
         words.append(word);
     }
-    return words.mid(0, 3).join(u' ');
+    return words.mid(0, 2).join(u' ');
 }
 
 } // namespace
@@ -181,10 +181,12 @@ void ImportPanel::refresh()
                     : SpentLines::toBeTaken(m_import->chosenCount(), m_import->chosenCents(),
                                             int(m_import->lines().size())));
     QString why = m_year.whyReadOnly();
-    if (why.isEmpty() && (isBusy || m_import->chosenCount() == 0))
+    if (why.isEmpty() && isBusy)
+        why = SpentLines::isBeingRead();
+    if (why.isEmpty() && m_import->chosenCount() == 0)
         why = SpentLines::nothingToTake();
     setUnavailable(m_take, why);
-    setUnavailable(m_rules, m_import->rules().isEmpty() ? SpentLines::nothingToTake() : QString());
+    setUnavailable(m_rules, m_import->rules().isEmpty() ? SpentLines::noRules() : QString());
 }
 
 /// The boxes offer a rule for the line that is chosen.
