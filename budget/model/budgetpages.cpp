@@ -6,6 +6,8 @@
 #include "budget/model/sheetlines.h"
 #include "shell/core/dates.h"
 
+#include <numeric>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -91,28 +93,38 @@ Page BudgetPages::totals(int year, const BudgetSheet &sheet, BudgetBasis basis, 
     return page.close(context.today, context.style);
 }
 
-Page BudgetPages::discussion(int year, const BudgetSheet &sheet, const PageContext &context)
+Page BudgetPages::discussion(int year, const BudgetSheet &sheet, const Spent &spent,
+                             const PageContext &context)
 {
     Page page = started(BudgetPaper::discussionTitle(year), context);
     page.line(BudgetPaper::discussionHint(), TextRole::Small).blankLine();
+    const bool isSpent = spent.has_value();
     PageItem::Columns columns;
-    columns.weights = {2.4, 1.1, 1.2, 1.3, 2.6};
-    columns.headings = BudgetPaper::discussionHeadings();
+    columns.weights =
+        isSpent ? std::vector{2.2, 1.1, 1.2, 1.2, 1.2, 2.0} : std::vector{2.4, 1.1, 1.2, 1.3, 2.6};
+    columns.headings = BudgetPaper::discussionHeadings(isSpent);
     columns.alignments = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignRight};
+    if (isSpent)
+        columns.alignments.push_back(Qt::AlignRight);
     columns.lines = TableLines::Grid;
     columns.isToWriteIn = true;
     page.table(columns);
-    const auto row = [](const QString &caption, double amount) {
-        return QStringList{caption.trimmed(), monthly(amount), Amount::text(amount), {}, {}};
+    const auto row = [&](const QString &caption, double amount, const QString &spentText) {
+        QStringList cells{caption.trimmed(), monthly(amount), Amount::text(amount)};
+        if (isSpent)
+            cells << spentText;
+        return cells << QString() << QString();
     };
     for (const BudgetFigures::Item &item : BudgetFigures::items(sheet))
-        page.row(row(item.item, item.total));
+        page.row(row(item.item, item.total, isSpent ? Amount::text((*spent)[item.row]) : QString()));
     for (int i = 0; i < emptyRows; ++i)
-        page.row({{}, {}, {}, {}, {}});
+        page.row(QStringList(columns.headings.size(), QString()));
     const BudgetFigures figures = BudgetFigures::of(sheet);
-    page.rowWithNext(row(BudgetPaper::totalExpenses(), figures.expenses), TextRole::Strong);
-    page.rowWithNext(row(BudgetPaper::totalIncome(), figures.income), TextRole::Strong);
-    page.row(row(BudgetPaper::balance(), figures.balance), TextRole::Strong);
+    const QString allSpent =
+        isSpent ? Amount::text(std::accumulate(spent->begin(), spent->end(), 0.0)) : QString();
+    page.rowWithNext(row(BudgetPaper::totalExpenses(), figures.expenses, allSpent), TextRole::Strong);
+    page.rowWithNext(row(BudgetPaper::totalIncome(), figures.income, {}), TextRole::Strong);
+    page.row(row(BudgetPaper::balance(), figures.balance, {}), TextRole::Strong);
     return page.close(context.today, context.style);
 }
 

@@ -6,6 +6,8 @@
 
 #include <QRectF>
 
+#include <optional>
+
 /// What the budget prints.
 namespace BudgetPages {
 
@@ -20,8 +22,12 @@ QRectF chartFrame(PageSetup::Orientation orientation);
 Page totals(int year, const BudgetSheet &sheet, BudgetBasis basis, const QString &chartPicture,
             const PageContext &context);
 
-/// The items with what they cost, beside empty columns and above empty rows to write on.
-Page discussion(int year, const BudgetSheet &sheet, const PageContext &context);
+/// What was spent on each row in the year; empty while nothing was.
+using Spent = std::optional<std::array<double, BudgetSheet::rowCount>>;
+
+/// The items with what they cost, as planned and as spent, beside empty columns and above empty rows to write
+/// on.
+Page discussion(int year, const BudgetSheet &sheet, const Spent &spent, const PageContext &context);
 
 /// "% = Item Totals divided by Total Income" or "... Total Expenses".
 QString basisCaption(BudgetBasis basis);

@@ -53,9 +53,12 @@ inline QStringList totalsHeadings()
     return {itemHeading(), u"Total"_s, u"Percentage"_s};
 }
 
-inline QStringList discussionHeadings()
+inline QStringList discussionHeadings(bool isSpent)
 {
-    return {itemHeading(), u"A Month"_s, u"A Year"_s, u"New Plan"_s, u"Notes"_s};
+    QStringList headings{itemHeading(), u"A Month"_s, u"A Year"_s};
+    if (isSpent)
+        headings << u"Spent"_s;
+    return headings << u"New Plan"_s << u"Notes"_s;
 }
 
 inline QString discussionHint()

@@ -100,10 +100,23 @@ void BudgetPrint::printTotals()
 void BudgetPrint::printDiscussion()
 {
     m_window->showPreview(
-        [year = m_from.year.year(), sheet = sheet()](const PageContext &context) {
-            return BudgetPages::discussion(year, sheet, context);
+        [year = m_from.year.year(), sheet = sheet(), spent = spent()](const PageContext &context) {
+            return BudgetPages::discussion(year, sheet, spent, context);
         },
         nameOf(u"Budget to Discuss"_s));
+}
+
+BudgetPages::Spent BudgetPrint::spent() const
+{
+    std::array<double, BudgetSheet::rowCount> rows{};
+    bool isAny = false;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        for (const double amount : m_from.model.spent()[row]) {
+            rows[row] += amount;
+            isAny = isAny || amount != 0;
+        }
+    }
+    return isAny ? BudgetPages::Spent(rows) : std::nullopt;
 }
 
 void BudgetPrint::copy()

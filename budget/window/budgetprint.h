@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "budget/model/budgetfigures.h"
+#include "budget/model/budgetpages.h"
 #include "budget/window/chartpicture.h"
 #include "shell/frame/commands.h"
 
@@ -50,6 +50,7 @@ private:
     void copy();
     void exportFile();
     BudgetSheet sheet() const;
+    BudgetPages::Spent spent() const;
     QString nameOf(const QString &what) const;
 
     Program &m_program;

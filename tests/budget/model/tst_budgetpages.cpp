@@ -112,12 +112,18 @@ private slots:
 
     void leavesRoomToWriteOn()
     {
-        const Page page = BudgetPages::discussion(2026, small(), paper(PageSetup::Portrait));
+        const Page page = BudgetPages::discussion(2026, small(), {}, paper(PageSetup::Portrait));
         QVERIFY(only<PageItem::Columns>(page).isToWriteIn);
         const QString text = page.toText();
         QVERIFY2(text.contains(u"\nRent\t163.33\t1960.00\t\t\n"_s), qPrintable(text));
         QVERIFY(text.contains(u"\n\t\t\t\t\n\t\t\t\t\n"_s));
         QVERIFY(text.contains(u"\nBalance:\t-100.88\t-1210.50\t\t\n"_s));
+
+        std::array<double, 50> rows{1000, 0, 99.5};
+        const QString both =
+            BudgetPages::discussion(2026, small(), rows, paper(PageSetup::Portrait)).toText();
+        QVERIFY2(both.contains(u"\nRent\t163.33\t1960.00\t1000.00\t\t\n"_s), qPrintable(both));
+        QVERIFY(both.contains(u"\nTotal Expenses:\t267.54\t3210.50\t1099.50\t\t\n"_s));
     }
 
     void copiesTheBudget()
