@@ -2,6 +2,10 @@
 #include "benchmarks/limit.h"
 #include "budget/model/amount.h"
 #include "budget/model/budgetfigures.h"
+#include "budget/model/spendingfiles.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -59,6 +63,41 @@ void recomputeASheet(benchmark::State &state)
     }
 }
 BENCHMARK(recomputeASheet)->UseManualTime()->MinTime(1);
+
+/// A year's file with as many amounts as a busy household enters.
+void fillSpending(const DataFolder &folder, int year)
+{
+    constexpr int amountCount = 5000;
+    Spending spending;
+    for (int number = 0; number < amountCount; ++number) {
+        const QDate date = QDate(year, 1, 1).addDays(number * 365 / amountCount);
+        const QString note = u"Corner market, receipt %1"_s.arg(number);
+        spending.amounts.append({date, 100 + number * 37 % 9000, u"Item %1"_s.arg(number % 40), note});
+    }
+    QFile file(folder.filePath(SpendingFiles::fileName(year)));
+    if (!file.open(QIODevice::WriteOnly) || file.write(SpendingFiles::encode(spending)) < amountCount)
+        qFatal("cannot write what was spent");
+}
+
+void loadWhatWasSpent(benchmark::State &state)
+{
+    constexpr double most = 6;
+    constexpr int year = 2026;
+    const QTemporaryDir temporary;
+    const DataFolder folder(temporary.path());
+    fillSpending(folder, year);
+    Limit limit(state, most);
+    for ([[maybe_unused]] const auto _ : state) {
+        limit.reference([&] {
+            QFile file(folder.filePath(SpendingFiles::fileName(year)));
+            if (!file.open(QIODevice::ReadOnly))
+                qFatal("no file");
+            benchmark::DoNotOptimize(file.readAll().split('\n'));
+        });
+        limit.measure([&] { benchmark::DoNotOptimize(SpendingFiles(folder).read(year)); });
+    }
+}
+BENCHMARK(loadWhatWasSpent)->UseManualTime()->MinTime(1);
 
 } // namespace
 
