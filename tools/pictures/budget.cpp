@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/model/amount.h"
 #include "budget/model/budgetfiles.h"
+#include "budget/model/spendingfiles.h"
 #include "tools/pictures/albums.h"
 #include "tools/pictures/picturesession.h"
 
@@ -73,6 +74,46 @@ void open(PictureSession &session, const BudgetSheet &sheet)
     session.open(Function::Budget);
 }
 
+/// What was spent until the day of the pictures, and what is due on which day.
+void spend(const DataFolder &folder)
+{
+    Spending spending;
+    for (std::size_t row = 0; row < plans.size(); ++row) {
+        const Plan &plan = plans[row];
+        for (int month = plan.first; month < 11; month += plan.every) {
+            const double factor = 1 + 0.04 * double((int(row) * 7 + month * 5) % 6 - 3);
+            spending.amounts.append({QDate(year, month + 1, 3 + int(row)),
+                                     qRound64(plan.amount * (row == 0 ? 1 : factor) * 100),
+                                     plan.item,
+                                     {}});
+        }
+    }
+    spending.amounts.append({QDate(year, 11, 7), 8640, u"Groceries"_s, u"Farmers' market, with Oskar"_s});
+    spending.amounts.append({QDate(year, 11, 12), 5210, u"Groceries"_s, u"Corner shop"_s});
+    spending.dueDays = {
+        {u"Rent"_s, 3}, {u"Electricity"_s, 15}, {u"Heating"_s, 15}, {u"Internet & telephone"_s, 28}};
+    QFile file(folder.filePath(SpendingFiles::fileName(year)));
+    if (!file.open(QIODevice::WriteOnly) || file.write(SpendingFiles::encode(spending)) < 1)
+        qFatal("what was spent cannot be written");
+}
+
+void takeLayers(PictureSession &session)
+{
+    session.trigger("mVSpent");
+    session.take("budget-spent");
+    session.clickRow("VSGd1", 5, 11);
+    session.trigger("mVAmounts");
+    session.take("budget-amounts");
+    session.key(Qt::Key_Escape);
+    session.trigger("mVDue");
+    session.take("budget-due");
+    session.key(Qt::Key_Escape);
+    session.trigger("mOPDiscuss");
+    session.takePage("budget-page-discuss-spent");
+    session.key(Qt::Key_Escape);
+    session.trigger("mVPlanned");
+}
+
 void takeSheet(PictureSession &session)
 {
     session.take("budget-sheet");
@@ -126,6 +167,12 @@ void Albums::budget(const Camera &camera)
         session.takePage("budget-page-full");
         session.click("nextPage");
         session.takePage("budget-page-continued");
+    }
+    {
+        PictureSession session(camera);
+        spend(session.program().folder);
+        open(session, household());
+        takeLayers(session);
     }
     PictureSession session(camera);
     open(session, household());
