@@ -2,7 +2,6 @@
 #include "budget/window/budgetwindow.h"
 
 #include "budget/model/amount.h"
-#include "budget/model/budgetentry.h"
 #include "budget/model/budgetnews.h"
 #include "budget/model/lines.h"
 #include "budget/model/messages.h"
@@ -13,6 +12,7 @@
 #include "budget/window/sheetmodel.h"
 #include "budget/window/spentdesk.h"
 #include "budget/window/spentyear.h"
+#include "budget/window/totalsdesk.h"
 #include "budget/window/totalsrows.h"
 #include "budget/window/worksheetpane.h"
 #include "shell/controls/activitybar.h"
@@ -65,6 +65,7 @@ Budget1::Budget1(Program &program, QWidget *parent)
     m_edits = new SheetCommands(
         program, {*m_model, m_pane->grid(), commands(), [this] { return whyNoSheet(); }}, this);
     m_print = new BudgetPrint(program, this, {*m_model, m_pane->grid(), *m_year});
+    m_totalsDesk = new TotalsDesk(program, {*m_model, *m_year, *m_views, *m_print}, this);
     setWork(makeWorkPanel());
     makeCommands();
     setViews(m_views);
@@ -329,8 +330,7 @@ void Budget1::backUp()
 void Budget1::viewTotals()
 {
     m_pane->grid().finishEdit();
-    if (const auto refusal = whyNoTotals(m_model->sheet()))
-        ask(*refusal);
+    m_totalsDesk->open();
 }
 
 /// The month of today in this year's budget; of another year, the year.

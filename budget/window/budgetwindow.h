@@ -13,6 +13,7 @@ class SheetModel;
 class SpentDesk;
 class SpentYear;
 class TitleLine;
+class TotalsDesk;
 class WorkViews;
 class WorksheetPane;
 struct Place;
@@ -72,6 +73,7 @@ private:
     ButtonRow *m_foot = nullptr;
     SheetCommands *m_edits = nullptr;
     BudgetPrint *m_print;
+    TotalsDesk *m_totalsDesk;
     QAction *m_deleteRow = nullptr;
     QAction *m_save = nullptr;
     QAction *m_copyYear = nullptr;

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/totalssums.h"
+
+#include "budget/window/sheetlook.h"
+#include "shell/controls/controls.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPainter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr double corner = 8;
+}
+
+TotalsSums::TotalsSums(QWidget *parent)
+    : QWidget(parent)
+    , m_row(new QHBoxLayout(this))
+{
+    setPalette(Theme::of(this).panelPalette()); // not the panel's ink: it has a ground of its own
+    m_row->setContentsMargins(16, 8, 16, 9);
+    m_row->setSpacing(24);
+    m_income = add(u"Total Income"_s, u"Label13"_s, u"Label18"_s);
+    m_expenses = add(u"Total Expenses"_s, u"Label14"_s, u"Label16"_s);
+    m_balance = add(u"Balance"_s, u"Label15"_s, u"Label17"_s);
+}
+
+/// The caption, under it the amount, and behind that "Percent" and the share.
+TotalsSums::Labels TotalsSums::add(const QString &caption, const QString &amountName,
+                                   const QString &shareName)
+{
+    const Labels labels{caption, named(makeTitle({}, this), amountName), named(new QLabel(this), shareName)};
+    labels.share->setFont(TypeScale::strong());
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(1);
+    grid->addWidget(makeQuietLabel(caption, this), 0, 0);
+    grid->addWidget(makeQuietLabel(u"Percent"_s, this), 0, 1);
+    grid->addWidget(labels.amount, 1, 0);
+    grid->addWidget(labels.share, 1, 1);
+    grid->setColumnStretch(2, 1);
+    m_row->addLayout(grid, 1);
+    return labels;
+}
+
+void TotalsSums::showSums(const BudgetTotals &totals)
+{
+    show(m_income, totals.income);
+    show(m_expenses, totals.expenses);
+    show(m_balance, totals.balance);
+}
+
+void TotalsSums::show(const Labels &labels, const BudgetTotals::Sum &sum) const
+{
+    labels.amount->setText(sum.amount);
+    labels.share->setText(sum.share);
+    labels.amount->setAccessibleName(labels.caption + u": "_s + sum.amount.trimmed());
+    labels.share->setAccessibleName(labels.caption + u", Percent: "_s + sum.share);
+    QPalette colors = palette();
+    if (sum.isNegative)
+        colors.setColor(QPalette::WindowText, SheetLook::red(Theme::of(this)));
+    labels.amount->setPalette(colors);
+}
+
+void TotalsSums::paintEvent(QPaintEvent *)
+{
+    const Theme &theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme.line);
+    painter.setBrush(theme.head);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+}

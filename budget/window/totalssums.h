@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "budget/model/totals.h"
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QLabel;
+
+/// The year's income (`Label13`), expenses (`Label14`) and balance (`Label15`), each with its percentage
+/// (`Label18`, `Label16`, `Label17`).
+class TotalsSums final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit TotalsSums(QWidget *parent = nullptr);
+
+    void showSums(const BudgetTotals &totals);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct Labels {
+        QString caption;
+        QLabel *amount;
+        QLabel *share;
+    };
+
+    Labels add(const QString &caption, const QString &amountName, const QString &shareName);
+    void show(const Labels &labels, const BudgetTotals::Sum &sum) const;
+
+    QHBoxLayout *m_row;
+    Labels m_income, m_expenses, m_balance;
+};

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/totalstable.h"
+
+#include "budget/model/amount.h"
+#include "budget/window/sheetheadings.h"
+#include "budget/window/sheetlook.h"
+
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int frame = 4; ///< rim and padding
+constexpr int fewestRows = 4;
+constexpr int leastItemWidth = 150;
+
+using Row = BudgetTotals::Row;
+
+std::vector<TableColumn<Row>> columns()
+{
+    const QStringList heads = TotalsLines::columns();
+    return {{heads[0], Qt::AlignLeft, [](const Row &row) { return row.item; }},
+            {heads[1], Qt::AlignRight, [](const Row &row) { return Amount::text(row.total); }},
+            {heads[2], Qt::AlignRight, [](const Row &row) { return row.share; }}};
+}
+
+/// The current row is marked as a whole.
+class RowDelegate final : public QStyledItemDelegate
+{
+public:
+    explicit RowDelegate(QTableView *view)
+        : QStyledItemDelegate(view)
+        , m_view(view)
+    {}
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const Theme &theme = Theme::of(m_view);
+        const QModelIndex current = m_view->currentIndex();
+        const bool isCurrent = current.isValid() && current.row() == index.row();
+        if (isCurrent)
+            painter->fillRect(option.rect, theme.mark);
+        else if (index.row() % 2 != 0)
+            painter->fillRect(option.rect, theme.alternate);
+        if (isCurrent && m_view->hasFocus()) {
+            painter->fillRect(QRect(option.rect.topLeft(), QSize(option.rect.width(), 2)), theme.accent);
+            painter->fillRect(QRect(option.rect.x(), option.rect.bottom() - 1, option.rect.width(), 2),
+                              theme.accent);
+        }
+        painter->setFont(option.font);
+        painter->setPen(theme.text);
+        const QRect place = option.rect.adjusted(SheetLook::inset, 0, -SheetLook::inset, 0);
+        const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+        painter->drawText(
+            place, int(alignment),
+            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, place.width()));
+    }
+
+private:
+    QTableView *m_view;
+};
+
+} // namespace
+
+TotalsTable::TotalsTable(QWidget *parent)
+    : QTableView(parent)
+    , m_model(columns())
+{
+    setModel(&m_model);
+    setItemDelegate(new RowDelegate(this));
+    setHorizontalHeader(new SheetHeadings(Qt::Horizontal, this));
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(SheetLook::rowHeight());
+    horizontalHeader()->setSectionsClickable(false);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerItem);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setFont(TypeScale::body());
+    setAccessibleName(u"Totals of the items"_s);
+}
+
+/// The current row stays, whatever it holds now.
+void TotalsTable::setRows(const QList<BudgetTotals::Row> &rows)
+{
+    const int row = currentIndex().row();
+    m_model.setRows({rows.begin(), rows.end()});
+    if (row >= 0 && m_model.rowCount() > 0)
+        setCurrentIndex(m_model.index(std::min(row, m_model.rowCount() - 1), 0));
+    updateGeometry();
+}
+
+int TotalsTable::heightOf(int rows) const
+{
+    return horizontalHeader()->sizeHint().height() + rows * SheetLook::rowHeight() + 2 * frame;
+}
+
+/// Of the columns with figures: a year's sum of the largest amounts, and "100.00%".
+int TotalsTable::figureWidth() const
+{
+    return QFontMetrics(TypeScale::strong()).horizontalAdvance(u"119999.88"_s) + 2 * SheetLook::inset;
+}
+
+QSize TotalsTable::sizeHint() const
+{
+    return {leastItemWidth + 2 * figureWidth() + 2 * frame, heightOf(m_model.rowCount())};
+}
+
+QSize TotalsTable::minimumSizeHint() const
+{
+    return {leastItemWidth + 2 * figureWidth() + 2 * frame, heightOf(fewestRows)};
+}
+
+void TotalsTable::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    setColumnWidth(1, figureWidth());
+    setColumnWidth(2, figureWidth());
+    setColumnWidth(0, std::max(leastItemWidth, viewport()->width() - 2 * figureWidth()));
+}
+
+void TotalsTable::focusInEvent(QFocusEvent *event)
+{
+    if (!currentIndex().isValid() && m_model.rowCount() > 0)
+        setCurrentIndex(m_model.index(0, 0));
+    QTableView::focusInEvent(event);
+}

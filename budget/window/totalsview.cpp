@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/totalsview.h"
+
+#include "budget/model/budgetpages.h"
+#include "budget/window/totalschart.h"
+#include "budget/window/totalssums.h"
+#include "budget/window/totalstable.h"
+#include "shell/charts/barchartview.h"
+#include "shell/controls/buttonrow.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+TotalsView::TotalsView(QWidget *parent)
+    : TaskPanel(u"totalsPanel"_s, {}, parent)
+    , m_switch(makeButton(u"Command12"_s, {}, this))
+    , m_sums(new TotalsSums)
+{
+    auto *work = new QWidget(this);
+    auto *rows = new QVBoxLayout(work);
+    rows->setContentsMargins({});
+    rows->setSpacing(12);
+    rows->addWidget(m_sums);
+    rows->addWidget(makeFigures(), 1);
+    setWork(work);
+    m_switch->setToolTip(u"Click to divide by the other total"_s);
+    connect(m_switch, &QPushButton::clicked, this, &TotalsView::switchBasis);
+    addButton(m_switch, Side::Left);
+    connect(addButton(u"totalsPrint"_s, u"&Print Totals"_s), &QPushButton::clicked, this,
+            &TotalsView::printWanted);
+    setLeaveButton(u"totalsClose"_s, u"&Back to Sheet"_s);
+    setFocusProxy(m_table);
+}
+
+QWidget *TotalsView::makeFigures()
+{
+    auto *row = new QWidget(this);
+    m_table = named(new TotalsTable(row), u"Grid2"_s);
+    m_chart = new BarChartView(u"totalsChart"_s, row);
+    auto *line = new QHBoxLayout(row);
+    line->setContentsMargins({});
+    line->setSpacing(16);
+    line->addWidget(m_table, 2);
+    line->addWidget(m_chart, 3);
+    return row;
+}
+
+void TotalsView::showTotals(int year, const BudgetSheet &sheet)
+{
+    if (std::exchange(m_year, year) == year && m_sheet == sheet)
+        return;
+    m_sheet = sheet;
+    refresh();
+}
+
+void TotalsView::switchBasis()
+{
+    m_basis = m_basis == BudgetBasis::Income ? BudgetBasis::Expenses : BudgetBasis::Income;
+    refresh();
+}
+
+void TotalsView::refresh()
+{
+    const BudgetTotals totals = BudgetTotals::of(m_sheet, m_basis);
+    setTitle(TotalsLines::heading(m_year));
+    m_switch->setText(BudgetPages::basisCaption(m_basis));
+    m_sums->showSums(totals);
+    m_table->setRows(totals.rows);
+    m_chart->setChart(TotalsChart::of(m_year, m_sheet, m_basis));
+    buttonRow().rearrange();
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+class QWidget;
+
+/// What charts are drawn with: on the screen the colours of the panel that they stand on, on paper black and
+/// what prints well.
+struct ChartStyle {
+    QColor ground, text, quiet, line;
+    QColor series; ///< bars
+    QFont title, body, label;
+    int rowHeight = 0; ///< of a bar with its name
+
+    static ChartStyle onScreen(const QWidget *widget);
+    /// For a picture of 96 points to the inch, drawn larger.
+    static ChartStyle onPaper();
+};

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/charts/barchart.h"
+
+#include <QImage>
+#include <QSizeF>
+
+/// Charts as pictures for a printed page.
+namespace PaperChart {
+
+/// How many bars can be read in a frame of this size in inches.
+int mostBars(QSizeF inches);
+
+/// `chart` in such a frame, for a page that is printed at 300 points to the inch.
+QImage draw(const BarChart &chart, QSizeF inches);
+
+} // namespace PaperChart
