@@ -58,8 +58,12 @@ void WorkViews::keepAside(QWidget *view)
 void WorkViews::bring(QWidget *view)
 {
     m_aside.removeOne(view);
-    if (indexOf(view) < 0)
+    if (indexOf(view) < 0) {
         addWidget(view);
+        // The move leaves the colours of the panel behind where that was given its style before.
+        if (!view->testAttribute(Qt::WA_SetPalette))
+            view->setPalette({});
+    }
     setCurrentWidget(view);
 }
 

@@ -146,6 +146,15 @@ private slots:
         QVERIFY(window->close());
     }
 
+    void givesAViewTheInkOfItsPanel()
+    {
+        QVERIFY(m_program->settings.setText(SettingsKeys::helpColor, u"0"_s));
+        const auto window = open();
+        window->openOver();
+        QCOMPARE(control<QLineEdit>(*window, "over")->palette().color(QPalette::WindowText),
+                 QColor(Qt::white));
+    }
+
     void escLeavesPreviewThenViewThenWindow()
     {
         const auto window = open();
