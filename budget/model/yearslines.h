@@ -52,18 +52,23 @@ inline QString noBudget(int year)
     return u"There is no budget of %1 to compare with."_s.arg(year);
 }
 
-/// "2026 and 2025: 120.00 more planned".
+/// "2026: 120.00 more planned than in 2025".
 inline QString headline(int year, const YearComparison &comparison)
 {
-    const double difference = comparison.table(Compared::Expenses).sum.difference.value_or(0);
-    const QString years = u"%1 and %2: "_s.arg(year).arg(year - 1);
     if (!comparison.hasBefore())
         return QString::number(year);
+    const double difference = comparison.table(Compared::Expenses).sum.difference.value_or(0);
     if (difference == 0)
-        return years + u"as much planned"_s;
+        return u"%1: as much planned as in %2"_s.arg(year).arg(year - 1);
     const QString amount = Amount::text(std::abs(difference));
-    return years + (amount.startsWith(u'.') ? u'0' + amount : amount) +
-           (difference > 0 ? u" more planned"_s : u" less planned"_s);
+    return u"%1: %2%3 %4 planned than in %5"_s.arg(year)
+        .arg(amount.startsWith(u'.') ? u"0"_s : QString(), amount, difference > 0 ? u"more"_s : u"less"_s)
+        .arg(year - 1);
+}
+
+inline QString pageTitle(int year)
+{
+    return u"Budgets of %1 and %2"_s.arg(year).arg(year - 1);
 }
 
 /// "1250.00"; empty for nothing.

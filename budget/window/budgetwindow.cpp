@@ -15,6 +15,7 @@
 #include "budget/window/totalsdesk.h"
 #include "budget/window/totalsrows.h"
 #include "budget/window/worksheetpane.h"
+#include "budget/window/yearsdesk.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/titleline.h"
@@ -119,6 +120,8 @@ void Budget1::makeCommands()
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_totals = commands().add(
         view, u"mVTotals"_s, u"View &Totals"_s, [this] { viewTotals(); }, [this] { return whyNoSheet(); });
+    auto *years = new YearsDesk(program(), {*m_model, m_pane->grid(), *m_year, *m_views}, this);
+    years->addCommand(commands(), view);
     view->addSeparator();
     m_spentDesk->addCommands(view);
     addEditCommands(edit);

@@ -57,10 +57,10 @@ private slots:
                                    u"Total Expenses|2522.50|2515.00|+7.50"_s};
         const YearComparison comparison(now, before);
         QCOMPARE(texts(comparison.table(Compared::Items)), compared);
-        QCOMPARE(YearsLines::headline(2026, comparison), u"2026 and 2025: 7.50 more planned"_s);
+        QCOMPARE(YearsLines::headline(2026, comparison), u"2026: 7.50 more planned than in 2025"_s);
         QCOMPARE(YearsLines::headline(2026, YearComparison(before, now)),
-                 u"2026 and 2025: 7.50 less planned"_s);
-        QCOMPARE(YearsLines::headline(2026, YearComparison(now, now)), u"2026 and 2025: as much planned"_s);
+                 u"2026: 7.50 less planned than in 2025"_s);
+        QCOMPARE(YearsLines::headline(2026, YearComparison(now, now)), u"2026: as much planned as in 2025"_s);
 
         const YearComparison alone(before, {});
         QCOMPARE(texts(alone.table(Compared::Items)),
