@@ -98,7 +98,7 @@ inline QString layAside()
 
 inline QString layAsideHow()
 {
-    return u"For what comes in one to three months of the year, shared out until it falls due."_s;
+    return u"For what comes in one to three months of the year"_s;
 }
 
 inline QString nothingToLayAside()

@@ -127,7 +127,12 @@ QWidget *YearsView::makeAside()
     m_asideSum = named(new SumRow(table), u"asideSum"_s);
     m_asideRows = new WholeRows(table, m_asideSum);
     QVBoxLayout *rows = column(part);
-    rows->addWidget(makeHeading(YearsLines::layAside(), part));
+    QLabel *heading = makeHeading(YearsLines::layAside(), part);
+    // Two rows high with what stands above the table: the sums of both tables are level then.
+    m_asideWords->setAlignment(Qt::AlignTop);
+    m_asideWords->setMinimumHeight(2 * (SheetLook::rowHeight() - rows->spacing()) -
+                                   heading->sizeHint().height());
+    rows->addWidget(heading);
     rows->addWidget(m_asideWords);
     rows->addWidget(m_asideRows, 1);
     rows->addStretch();

@@ -30,10 +30,11 @@ public:
         : FunctionWindow(program, sampleTraits())
         , m_views(new WorkViews(makePanel(u"panel"_s)))
         , m_box(named(new QLineEdit, u"box"_s))
-        , m_over(named(new QLineEdit, u"over"_s))
+        , m_overView(new QWidget)
+        , m_over(named(new QLineEdit(m_overView), u"over"_s))
     {
         m_views->addHome(m_box);
-        m_views->addView(m_over);
+        m_views->addView(m_overView);
         setViews(m_views);
         setWork(new SideSplitter(u"splitter"_s, named(new QWidget, u"side"_s), m_views->parentWidget(),
                                  [](QSize window) { return window.width() / 4; }));
@@ -44,7 +45,7 @@ public:
         addUtilitiesMenu();
         finishFrame();
     }
-    void openOver() { m_views->open(m_over); }
+    void openOver() { m_views->open(m_overView); }
 
     bool isModified() const override { return !m_box->text().isEmpty(); }
     using FunctionWindow::activity;
@@ -67,6 +68,7 @@ protected:
 private:
     WorkViews *m_views;
     QLineEdit *m_box;
+    QWidget *m_overView;
     QLineEdit *m_over;
 };
 
@@ -151,8 +153,8 @@ private slots:
         QVERIFY(m_program->settings.setText(SettingsKeys::helpColor, u"0"_s));
         const auto window = open();
         window->openOver();
-        QCOMPARE(control<QLineEdit>(*window, "over")->palette().color(QPalette::WindowText),
-                 QColor(Qt::white));
+        const QWidget *view = control<QLineEdit>(*window, "over")->parentWidget();
+        QCOMPARE(view->palette().color(QPalette::WindowText), QColor(Qt::white));
     }
 
     void escLeavesPreviewThenViewThenWindow()
