@@ -59,8 +59,7 @@ inline QString showOtherEditions()
 
 inline QString changedSince(const QString &title)
 {
-    return u"What this wrote was changed elsewhere since; nothing was undone, and it is shown as it is: "_s +
-           title;
+    return u"Changed elsewhere since; shown as it is now, nothing undone: "_s + title;
 }
 
 inline QString typedSince(const QString &title)

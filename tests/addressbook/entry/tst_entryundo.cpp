@@ -186,7 +186,7 @@ private slots:
             m_test->setBytes(u"Addbk1.Fil"_s, changed);
             isRedo ? redo() : undo();
             QCOMPARE(m_test->bytes(u"Addbk1.Fil"_s), changed);
-            QVERIFY(said().startsWith(u"What this wrote was changed"_s));
+            QVERIFY(said().startsWith(u"Changed elsewhere since"_s));
             QVERIFY(box(3)->text().startsWith(isRedo ? u"Beech"_s : u"Alder"_s));
             QVERIFY(!m_window->isModified());
         }
@@ -200,7 +200,7 @@ private slots:
         m_test->setBytes(u"Addbk1.Fil"_s, changed);
         undo();
         QCOMPARE(m_test->bytes(u"Addbk1.Fil"_s), changed);
-        QVERIFY(said().startsWith(u"What this wrote was changed"_s));
+        QVERIFY(said().startsWith(u"Changed elsewhere since"_s));
     }
 
 private:

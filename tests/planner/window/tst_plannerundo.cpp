@@ -99,7 +99,7 @@ private slots:
         click("saveDay");
         writeDay(QDate(2026, 11, 21), dayOf({{{}, u"Elsewhere"_s}}));
         undo();
-        QVERIFY(said().startsWith(u"What this wrote was changed"_s));
+        QVERIFY(said().startsWith(u"Changed elsewhere since"_s));
         QCOMPARE(shownRows(), {u"|Elsewhere"_s});
         QVERIFY(!m_window->isModified());
     }
