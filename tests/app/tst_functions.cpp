@@ -62,8 +62,10 @@ private slots:
              {u"ADDBKVIEW.mONS"_s, u"Budget1.mOSave"_s, u"Form31.mOSave"_s, u"Zcalandar1.mOSave"_s}},
             {CommonKeys::print,
              {u"ADDBKDISPLAY.mOPrt"_s, u"ADDBKVIEW.mOPrt"_s, u"Form31.mOPrt"_s, u"Zcalandar1.mOPrt"_s}},
-            {CommonKeys::undo, {u"ADDBKVIEW.mEUndo"_s, u"Budget1.mEUndo"_s, u"Zcalandar1.mEUndo"_s}},
-            {CommonKeys::redo, {u"ADDBKVIEW.mERedo"_s, u"Budget1.mERedo"_s, u"Zcalandar1.mERedo"_s}},
+            {CommonKeys::undo,
+             {u"ADDBKDISPLAY.mEUndo"_s, u"ADDBKVIEW.mEUndo"_s, u"Budget1.mEUndo"_s, u"Zcalandar1.mEUndo"_s}},
+            {CommonKeys::redo,
+             {u"ADDBKDISPLAY.mERedo"_s, u"ADDBKVIEW.mERedo"_s, u"Budget1.mERedo"_s, u"Zcalandar1.mERedo"_s}},
             {CommonKeys::change, {u"ADDBKVIEW.mOMod"_s}},
             {CommonKeys::remove, {u"ADDBKDISPLAY.mODel"_s, u"ADDBKVIEW.mODel"_s, u"Budget1.mEClear"_s}},
             {CommonKeys::help,
@@ -72,7 +74,7 @@ private slots:
             {CommonKeys::views[0], {u"ADDBKVIEW.mOVS"_s, u"Budget1.mVPlanned"_s, u"Zcalandar1.mVDay"_s}},
             {CommonKeys::views[1], {u"Budget1.mVSpent"_s, u"Zcalandar1.mVWeek"_s}},
             {CommonKeys::views[2], {u"Zcalandar1.mVMonth"_s}},
-            {CommonKeys::views[3], {}},
+            {CommonKeys::views[3], {u"Budget1.mVYears"_s}},
         };
         TestProgram test;
         addFunctions(test.functions, test.clock);
