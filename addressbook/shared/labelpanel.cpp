@@ -111,8 +111,8 @@ QWidget *LabelPanel::makeChoices()
     auto *choices = new QWidget;
     QScrollArea *scroll = makeScrolling(choices, u"labelChoices"_s, this);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setMinimumWidth(leastChoicesWidth);
-    scroll->setMaximumWidth(mostChoicesWidth);
+    scroll->setMinimumWidth(TypeScale::wide(leastChoicesWidth));
+    scroll->setMaximumWidth(TypeScale::wide(mostChoicesWidth));
     auto *column = new QVBoxLayout(choices);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);

@@ -119,7 +119,7 @@ QWidget *Form31::makePasswordPanel()
     inner->setContentsMargins(4, 0, scrollBarWidth, 0);
     inner->addWidget(m_pane);
     rows->addWidget(makeScrolled(padded, u"passwordScroll"_s, panel));
-    panel->setFixedWidth(passwordPanelWidth);
+    panel->setFixedWidth(TypeScale::wide(passwordPanelWidth));
     return panel;
 }
 

@@ -140,7 +140,7 @@ void PreviewPane::fillButtonPanel()
     m_steps = new PageStepper({u"previousPage"_s, u"pageNumber"_s, u"nextPage"_s}, m_buttonPanel,
                               PageStepper::Width::OfColumn);
 
-    m_buttonPanel->setFixedWidth(columnWidth);
+    m_buttonPanel->setFixedWidth(TypeScale::wide(columnWidth));
     // In a low window the column scrolls: it must not keep the window from shrinking.
     auto *content = new QWidget;
     QScrollArea *scroller = makeScrolling(content, u"buttonScroll"_s, m_buttonPanel);
