@@ -14,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int sectionGap = 2;
 constexpr int daysPerWeek = 7;
 constexpr int lastDayOfMonth = 31;
 
@@ -97,7 +96,6 @@ void RecurrenceForm::addDaily(QVBoxLayout *column)
     column->addWidget(makeHeading(u"Daily Recurrence"_s, this));
     addLine(column, {makeKind(Recurrence::Daily, u"Show every"_s), m_dailyInterval, makeWords(u"day(s)"_s)});
     addLine(column, {makeKind(Recurrence::Weekdays, u"Weekdays Only (Monday - Friday)"_s)});
-    column->addSpacing(sectionGap);
 }
 
 void RecurrenceForm::addWeekly(QVBoxLayout *column)
@@ -118,7 +116,6 @@ void RecurrenceForm::addWeekly(QVBoxLayout *column)
         days->addWidget(button, i / 4, i % 4);
     }
     column->addLayout(days);
-    column->addSpacing(sectionGap);
 }
 
 void RecurrenceForm::addMonthly(QVBoxLayout *column)
@@ -126,7 +123,6 @@ void RecurrenceForm::addMonthly(QVBoxLayout *column)
     column->addWidget(makeHeading(u"Monthly Recurrence"_s, this));
     addLine(column, {makeKind(Recurrence::Monthly, u"Show on day:"_s), m_dayOfMonth,
                      makeWords(u"of every:"_s), m_monthlyInterval, makeWords(u"month(s)"_s)});
-    column->addSpacing(sectionGap);
 }
 
 void RecurrenceForm::addYearly(QVBoxLayout *column)

@@ -8,6 +8,7 @@
 
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -104,7 +105,10 @@ void RecurrenceOutlook::tell()
 void RecurrenceOutlook::tellDates()
 {
     QStringList lines;
-    for (const RecurrencePreview::Visit &visit : m_preview->first())
+    constexpr qsizetype twoLinesOfDates = 4;
+    const QList<RecurrencePreview::Visit> &visits = m_preview->first();
+    for (const RecurrencePreview::Visit &visit :
+         visits.first(std::min(visits.size(), m_isTall ? visits.size() : twoLinesOfDates)))
         lines << dateText(visit.date) + PlannerLines::dateMark(visit.result);
     if (const qsizetype more = m_preview->count() - lines.size(); more > 0)
         lines << PlannerLines::andMore(int(more));

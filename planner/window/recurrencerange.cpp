@@ -45,7 +45,7 @@ RecurrenceRange::RecurrenceRange(const Program &program, QWidget *parent)
     m_occurrences->setByteLimit(5);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
+    column->setSpacing(4);
     QLabel *heading = makeHeading(u"Beginning and End Date For Recurrence"_s, this);
     heading->setWordWrap(true);
     column->addWidget(heading);
@@ -121,7 +121,7 @@ void RecurrenceRange::addCalendar(QVBoxLayout *column)
     column->addLayout(sets);
     m_month = named(new MonthView(this), u"MonthView2"_s);
     m_month->setAccessibleName(u"Calendar for the beginning and the end date"_s);
-    m_month->setFixedHeight(240);
+    m_month->setFixedHeight(226);
     column->addWidget(m_month);
     column->addStretch(1);
 }

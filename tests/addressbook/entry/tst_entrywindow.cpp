@@ -5,6 +5,8 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QScrollArea>
+#include <QScrollBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,6 +27,13 @@ private slots:
         QVERIFY(box(8)->isLocked());
         QVERIFY(list()->hasFocus());
         QVERIFY(asked().isEmpty());
+    }
+
+    void cutsNoBoxInASmallWindow()
+    {
+        m_window->resize(1024, 736);
+        QCoreApplication::processEvents();
+        QTRY_COMPARE(find<QScrollArea>("formScroll")->verticalScrollBar()->maximum(), 0);
     }
 
     void invitesToAnEmptyBook()

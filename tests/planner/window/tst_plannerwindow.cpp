@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QListView>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QToolButton>
@@ -39,6 +40,17 @@ private slots:
         auto *scroll = find<QScrollArea>("dayScroll");
         QVERIFY(scroll->rect().translated(scroll->mapTo(m_window, QPoint())).contains(row));
         QVERIFY(row.height() >= 28);
+    }
+
+    void showsSixWeeksInASmallWindow()
+    {
+        m_window->resize(1024, 736);
+        trigger("mVMonth");
+        trigger("mVNext");
+        trigger("mVNext"); // January 2027
+        auto *grid = find<QTableView>("monthGrid");
+        QCOMPARE(grid->model()->rowCount(), 6);
+        QTRY_COMPARE(grid->verticalScrollBar()->maximum(), 0);
     }
 
     void opensOnTheDayOfToday()

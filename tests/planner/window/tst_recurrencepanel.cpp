@@ -7,6 +7,8 @@
 
 #include <QCheckBox>
 #include <QProgressBar>
+#include <QScrollArea>
+#include <QScrollBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,6 +37,7 @@ private slots:
         writeDay(QDate(2026, 11, 28), full);
         writeDay(QDate(2027, 3, 6), full);
         writeDay(QDate(2026, 12, 12), dayOf({{u"9:00 AM"_s, u"Yoga"_s}}));
+        m_window->resize(1280, 800);
         openPanel();
         QTRY_COMPARE(labelText("outlookRemoval"),
                      u"Remove This Recurrence takes it out of 1 date, Sat Dec 12, 2026"_s);
@@ -46,6 +49,10 @@ private slots:
                  u"Sat Nov 21, 2026\nSat Nov 28, 2026 - full, left out\nSat Dec 5, 2026\n"
                  "Sat Dec 12, 2026 - there already\nSat Dec 19, 2026\nSat Dec 26, 2026\n"
                  "Sat Mar 6, 2027 - full, left out\nand 46 more"_s);
+        // Where the dates stand below the kinds they take less room, and all of it is in sight.
+        m_window->resize(1024, 768);
+        QTRY_VERIFY(labelText("outlookDates").contains(u" \u00b7 Sat\u00a0Dec\u00a05,"_s));
+        QTRY_COMPARE(find<QScrollArea>("recurrenceScroll")->verticalScrollBar()->maximum(), 0);
         set("endDate", u"11/21/2070"_s); // pulled in to ten years, as the walk is
         QTRY_COMPARE(labelText("outlookSum"), u"522 dates, Sat Nov 21, 2026 to Sat Nov 15, 2036"_s);
         set("endDate", u"soon"_s);
