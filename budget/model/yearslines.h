@@ -52,18 +52,18 @@ inline QString noBudget(int year)
     return u"There is no budget of %1 to compare with."_s.arg(year);
 }
 
-/// "2026: 120.00 more planned than in 2025".
+/// "2026: 120.00 more than in 2025"; "2026: 1250.00 planned" where there is no 2025.
 inline QString headline(int year, const YearComparison &comparison)
 {
+    const YearComparison::Line &sum = comparison.table(Compared::Expenses).sum;
+    const double shown = sum.difference.value_or(sum.now.value_or(0));
+    const QString text = Amount::text(std::abs(shown));
+    const QString amount = (text.startsWith(u'.') ? u"0"_s : QString()) + text;
     if (!comparison.hasBefore())
-        return QString::number(year);
-    const double difference = comparison.table(Compared::Expenses).sum.difference.value_or(0);
-    if (difference == 0)
-        return u"%1: as much planned as in %2"_s.arg(year).arg(year - 1);
-    const QString amount = Amount::text(std::abs(difference));
-    return u"%1: %2%3 %4 planned than in %5"_s.arg(year)
-        .arg(amount.startsWith(u'.') ? u"0"_s : QString(), amount, difference > 0 ? u"more"_s : u"less"_s)
-        .arg(year - 1);
+        return u"%1: %2 planned"_s.arg(year).arg(amount);
+    if (shown == 0)
+        return u"%1: as much as in %2"_s.arg(year).arg(year - 1);
+    return u"%1: %2 %3 than in %4"_s.arg(year).arg(amount, shown > 0 ? u"more"_s : u"less"_s).arg(year - 1);
 }
 
 inline QString pageTitle(int year)

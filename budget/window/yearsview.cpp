@@ -11,8 +11,8 @@
 
 #include <QComboBox>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QResizeEvent>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -23,6 +23,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int leastItemWidth = 90;
+constexpr int leastWidthForBoth = 860;
 const auto leastFigure = u"-99999.99"_s;
 
 /// Gives the figures room for the widest of `texts`.
@@ -78,12 +79,11 @@ YearsView::YearsView(QWidget *parent)
 {
     makeChoice();
     auto *work = new QWidget(this);
-    auto *sides = new QHBoxLayout(work);
-    sides->setContentsMargins(0, 0, 0, 0);
-    sides->setSpacing(24);
-    sides->addWidget(makeComparison(), 3);
-    sides->addWidget(makeAside(), 2);
-    setWork(work);
+    m_sides = new QBoxLayout(QBoxLayout::LeftToRight, work);
+    m_sides->setContentsMargins(0, 0, 0, 0);
+    m_sides->addWidget(makeComparison(), 3);
+    m_sides->addWidget(makeAside(), 2);
+    setContent(work);
     QPushButton *print = addButton(u"yearsPrint"_s, u"&Print"_s);
     connect(print, &QPushButton::clicked, this, &YearsView::printWanted);
     setLeaveButton(u"yearsClose"_s, u"C&lose"_s);
@@ -110,6 +110,7 @@ QWidget *YearsView::makeComparison()
     setFigureRows(m_table, leastFigure);
     m_sum = named(new SumRow(m_table), u"yearsSum"_s);
     QVBoxLayout *rows = column(part);
+    m_missing->setMinimumHeight(SheetLook::rowHeight() - rows->spacing());
     rows->addWidget(m_missing);
     rows->addWidget(new WholeRows(m_table, m_sum), 1);
     return part;
@@ -173,6 +174,15 @@ void YearsView::showComparison()
 void YearsView::refreshColors()
 {
     m_model->setRed(SheetLook::red(Theme::of(this)));
+}
+
+/// Both tables side by side where there is room for both.
+void YearsView::resizeEvent(QResizeEvent *event)
+{
+    const bool isNarrow = event->size().width() < leastWidthForBoth;
+    m_sides->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_sides->setSpacing(isNarrow ? 12 : 24);
+    TaskPanel::resizeEvent(event);
 }
 
 bool YearsView::event(QEvent *event)

@@ -6,6 +6,7 @@
 #include "shell/controls/taskpanel.h"
 
 class ComparisonModel;
+class QBoxLayout;
 class QComboBox;
 class QTableView;
 class SumRow;
@@ -27,6 +28,7 @@ signals:
 
 protected:
     bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void makeChoice();
@@ -39,6 +41,7 @@ private:
     YearComparison m_comparison;
     ComparisonModel *m_model;
     RowsModel<LayAside::Item> *m_asideModel;
+    QBoxLayout *m_sides = nullptr;
     QComboBox *m_compared = nullptr;
     QLabel *m_missing = nullptr;
     QTableView *m_table = nullptr;

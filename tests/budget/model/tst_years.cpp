@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/model/yearslines.h"
+#include "budget/model/yearspages.h"
 #include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -57,15 +58,14 @@ private slots:
                                    u"Total Expenses|2522.50|2515.00|+7.50"_s};
         const YearComparison comparison(now, before);
         QCOMPARE(texts(comparison.table(Compared::Items)), compared);
-        QCOMPARE(YearsLines::headline(2026, comparison), u"2026: 7.50 more planned than in 2025"_s);
-        QCOMPARE(YearsLines::headline(2026, YearComparison(before, now)),
-                 u"2026: 7.50 less planned than in 2025"_s);
-        QCOMPARE(YearsLines::headline(2026, YearComparison(now, now)), u"2026: as much planned as in 2025"_s);
+        QCOMPARE(YearsLines::headline(2026, comparison), u"2026: 7.50 more than in 2025"_s);
+        QCOMPARE(YearsLines::headline(2026, YearComparison(before, now)), u"2026: 7.50 less than in 2025"_s);
+        QCOMPARE(YearsLines::headline(2026, YearComparison(now, now)), u"2026: as much as in 2025"_s);
 
         const YearComparison alone(before, {});
         QCOMPARE(texts(alone.table(Compared::Items)),
                  (QStringList{u"Choir|15.00||"_s, u"Rent|2500.00||"_s, u"Total Expenses|2515.00||"_s}));
-        QCOMPARE(YearsLines::headline(2026, alone), u"2026"_s);
+        QCOMPARE(YearsLines::headline(2026, alone), u"2026: 2515.00 planned"_s);
     }
 
     void comparesMonths_data()
@@ -89,6 +89,23 @@ private slots:
         QCOMPARE(lines.first(), january);
         QCOMPARE(lines.last(), sum);
         QCOMPARE(YearComparison::isWorse(what, comparison.table(what).lines[0]), isWorse);
+    }
+
+    void printsBoth()
+    {
+        const BudgetSheet sheet = sheetOf({{u"Insurance"_s, {1}, u"90.00"_s}});
+        const auto text = [&](const YearComparison &comparison, const LayAside &aside) {
+            const PageContext context{.today = QDate(2026, 11, 21)};
+            return YearsPages::comparison(2026, comparison, Compared::Items, aside, context).toText();
+        };
+        const LayAside aside = LayAside::of(2026, sheet, {}, QDate(2026, 11, 21));
+        const QString both = text({sheet, BudgetSheet()}, aside);
+        QVERIFY(both.contains(u"Budgets of 2026 and 2025"_s));
+        QVERIFY(both.contains(u"Item\t2026\t2025\tDifference\nInsurance\t90.00\t\t+90.00\n"_s));
+        QVERIFY(both.contains(u"Insurance\tJan 2027\t90.00\t45.00\nTogether\t\t\t45.00\n"_s));
+        const QString alone = text({sheet, {}}, {});
+        QVERIFY(alone.contains(u"There is no budget of 2025"_s));
+        QVERIFY(!alone.contains(u"lay aside"_s));
     }
 
     void laysAside_data()

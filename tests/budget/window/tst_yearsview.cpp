@@ -25,7 +25,7 @@ private slots:
         enter(0, 3, u"950"_s);
         openView();
         QVERIFY(!isMissing());
-        QCOMPARE(labelText("yearsTitle"), u"2026: 50.00 more planned than in 2025"_s);
+        QCOMPARE(labelText("yearsTitle"), u"2026: 50.00 more than in 2025"_s);
         QCOMPARE(line("yearsTable", 0), u"Rent|950.00|900.00|+50.00"_s);
         QCOMPARE(line("asideTable", 0), u"Rent|Mar 2027|950.00|237.50"_s);
         QVERIFY(find<QWidget>("asideSum")->accessibleName().endsWith(u"237.50"_s));
@@ -35,7 +35,7 @@ private slots:
 
         // Undo reaches the sheet from here, and Esc leads back to it.
         QTest::keyClick(m_window, Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(labelText("yearsTitle"), u"2026: 900.00 less planned than in 2025"_s);
+        QCOMPARE(labelText("yearsTitle"), u"2026: 900.00 less than in 2025"_s);
         QTest::keyClick(find<QTableView>("yearsTable"), Qt::Key_Escape);
         QVERIFY(grid()->isVisible() && grid()->hasFocus());
     }
