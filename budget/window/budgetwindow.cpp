@@ -195,7 +195,11 @@ void Budget1::connectSheet()
     });
     connect(m_model, &SheetModel::edited, this,
             [this](const UndoStep &step) { undoStack().push(m_spent->along(step)); });
-    connect(m_spent, &SpentYear::edited, this, [this](const UndoStep &step) { undoStack().push(step); });
+    connect(m_spent, &SpentYear::edited, this, [this](const UndoStep &step) {
+        undoStack().push(step);
+        activity().say(step.title);
+        undoStack().offer();
+    });
     connect(m_spent, &SpentYear::changed, this, [this] {
         refreshTitle();
         refreshWords();

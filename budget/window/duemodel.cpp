@@ -146,7 +146,6 @@ bool DueModel::setDueDay(int row, const QString &typed)
         return false;
     wanted.setDueDay(of, day);
     m_year.change(SpentLines::dueDay(of, day), wanted);
-    emit said(SpentLines::dueDay(of, day));
     return true;
 }
 
@@ -166,7 +165,5 @@ void DueModel::toggle(int row)
         wanted.tick(of, isNow ? m_today : BudgetNews::dueDate(m_year.year(), month, day == 0 ? 1 : day),
                     planned(row));
     }
-    const QString title = wasPaid ? SpentLines::notPaid(of, month) : SpentLines::paid(of, month);
-    m_year.change(title, wanted);
-    emit said(title);
+    m_year.change(wasPaid ? SpentLines::notPaid(of, month) : SpentLines::paid(of, month), wanted);
 }

@@ -262,10 +262,8 @@ void ImportPanel::take()
     Spending wanted = m_year.spending();
     wanted.amounts += m_import->amounts();
     wanted.rules = m_import->rules();
-    const QString title = SpentLines::broughtIn(m_import->chosenCount(), m_import->chosenCents());
-    m_year.change(title, wanted);
     leave();
-    emit said(title);
+    m_year.change(SpentLines::broughtIn(m_import->chosenCount(), m_import->chosenCents()), wanted);
 }
 
 void ImportPanel::leave()

@@ -32,20 +32,19 @@ SpentDesk::SpentDesk(Program &program, Desk desk, QWidget *window)
     , m_program(program)
     , m_desk(desk)
     , m_window(window)
-    , m_amounts(new SpentPanel(program, desk.year, window))
-    , m_due(new DuePanel(program, desk.year))
-    , m_import(new ImportPanel(program, desk.year))
 {
-    m_desk.views.addPanel(m_amounts);
-    m_desk.views.addPanel(m_due);
-    m_desk.views.addPanel(m_import);
-    connect(m_import, &ImportPanel::said, this, &SpentDesk::said);
-    connect(m_import, &ImportPanel::progressed, this, &SpentDesk::progressed);
-    connect(m_amounts, &SpentPanel::said, this, &SpentDesk::said);
-    connect(m_due, &DuePanel::said, this, &SpentDesk::said);
     connect(&m_desk.model, &SheetModel::spentTyped, this, &SpentDesk::addTyped);
     connect(&m_desk.model, &SheetModel::layerChanged, this, &SpentDesk::refresh);
     connect(&m_desk.year, &SpentYear::changed, this, &SpentDesk::refresh);
+}
+
+/// `panel`, which was just made, among the views.
+template <typename Panel>
+Panel *SpentDesk::made(Panel *panel)
+{
+    m_desk.views.addPanel(panel);
+    connect(panel, &Panel::said, this, &SpentDesk::said);
+    return panel;
 }
 
 QWidget *SpentDesk::makeSwitch(QWidget *parent)
@@ -81,14 +80,7 @@ void SpentDesk::addCommands(QMenu *view)
         view, u"mVAmounts"_s, u"Amounts &of This Cell"_s, [this] { openCell(); }, unless,
         Qt::CTRL | Qt::Key_Return);
     QAction *due = all.add(
-        view, u"mVDue"_s, u"What Is &Due"_s,
-        [this] {
-            const QModelIndex current = m_desk.grid.currentIndex();
-            m_due->open(std::max(0, current.column() - SheetColumn::firstMonth), current.row());
-            m_desk.views.open(m_due);
-            m_due->setFocus();
-        },
-        unless);
+        view, u"mVDue"_s, u"What Is &Due"_s, [this] { openDue(); }, unless);
     all.tool(due, "calendar-day"_L1, u"Due"_s);
     refresh();
 }
@@ -105,7 +97,7 @@ void SpentDesk::addImport(QMenu *menu)
 
 void SpentDesk::stop()
 {
-    if (m_desk.views.isShown(m_import))
+    if (m_import && m_desk.views.isShown(m_import))
         m_import->leave();
 }
 
@@ -115,7 +107,13 @@ void SpentDesk::openFile()
     const QString key = u"Windows/Budget1/bankFolder"_s;
     const auto path = m_program.dialogs.chooseFileToOpen(
         m_window, SpentLines::bringIn(), m_program.store.value(key).toString(), SpentLines::bankFilter());
-    if (!path || !m_import->open(*path))
+    if (!path)
+        return;
+    if (!m_import) {
+        m_import = made(new ImportPanel(m_program, m_desk.year));
+        connect(m_import, &ImportPanel::progressed, this, &SpentDesk::progressed);
+    }
+    if (!m_import->open(*path))
         return;
     m_program.store.setValue(key, QFileInfo(*path).path());
     m_desk.views.open(m_import);
@@ -173,9 +171,7 @@ void SpentDesk::addTyped(int row, int month, const QString &typed)
             spentDate(m_desk.year.year(), month + 1, m_program.clock.today()), cents, item, {}};
         Spending wanted = m_desk.year.spending();
         wanted.amounts.append(amount);
-        const QString title = SpentLines::added(cents, item, amount.date);
-        m_desk.year.change(title, wanted);
-        emit said(title);
+        m_desk.year.change(SpentLines::added(cents, item, amount.date), wanted);
     }
     if (entry.notice)
         emit noticed(*entry.notice);
@@ -193,9 +189,22 @@ void SpentDesk::openCell()
     openAmounts(current.row(), current.column() - SheetColumn::firstMonth);
 }
 
+void SpentDesk::openDue()
+{
+    m_desk.grid.finishEdit();
+    if (!m_due)
+        m_due = made(new DuePanel(m_program, m_desk.year));
+    const QModelIndex current = m_desk.grid.currentIndex();
+    m_due->open(std::max(0, current.column() - SheetColumn::firstMonth), current.row());
+    m_desk.views.open(m_due);
+    m_due->setFocus();
+}
+
 void SpentDesk::openAmounts(int row, int month)
 {
     m_desk.grid.finishEdit();
+    if (!m_amounts)
+        m_amounts = made(new SpentPanel(m_program, m_desk.year, m_window));
     m_amounts->open(row, month);
     m_desk.views.open(m_amounts);
     m_amounts->setFocus();

@@ -58,7 +58,10 @@ private:
     void addTyped(int row, int month, const QString &typed);
     void openCell();
     void openAmounts(int row, int month);
+    void openDue();
     void openFile();
+    template <typename Panel>
+    Panel *made(Panel *panel);
     void setLayer(bool isSpent);
     void refresh();
     QString whyNoSheet() const;
@@ -66,9 +69,10 @@ private:
     Program &m_program;
     Desk m_desk;
     QWidget *m_window;
-    SpentPanel *m_amounts;
-    DuePanel *m_due;
-    ImportPanel *m_import;
+    // Panels are made when they are first opened.
+    SpentPanel *m_amounts = nullptr;
+    DuePanel *m_due = nullptr;
+    ImportPanel *m_import = nullptr;
     QComboBox *m_layers = nullptr;
     LinkButton *m_noRow = nullptr;
     QAction *m_planned = nullptr;

@@ -248,10 +248,9 @@ void SpentPanel::take()
         wanted.amounts.append(*amount);
     else
         wanted.amounts[at] = *amount;
-    const QString title = at < 0 ? SpentLines::added(amount->cents, amount->item, amount->date)
-                                 : SpentLines::changed(amount->item);
-    m_year.change(title, wanted);
-    emit said(title);
+    m_year.change(at < 0 ? SpentLines::added(amount->cents, amount->item, amount->date)
+                         : SpentLines::changed(amount->item),
+                  wanted);
     if (at < 0)
         startNew();
 }
@@ -264,7 +263,6 @@ void SpentPanel::remove()
     Spending wanted = m_year.spending();
     const SpentAmount gone = wanted.amounts.takeAt(at);
     m_year.change(SpentLines::deleted(gone.cents, gone.item), wanted);
-    emit said(SpentLines::deleted(gone.cents, gone.item));
     m_view->setFocus();
 }
 

@@ -93,7 +93,7 @@ void TotalsRows::refresh()
     const QString expensesHead = isSpent ? u"Total Spent"_s : u"Total Expenses"_s;
     m_heads[0]->setText(expensesHead);
     m_heads[1]->setText(u"Total Income"_s);
-    m_heads[2]->setText(u"Balance"_s);
+    m_heads[2]->setText(isSpent ? u"Not Spent Yet"_s : u"Balance"_s);
     for (std::size_t month = 0; month < monthCount; ++month) {
         const BudgetFigures::Month &figures = m_model.figures().months[month];
         double expenses = double(figures.expenses);

@@ -5,6 +5,7 @@
 #include "tools/pictures/albums.h"
 #include "tools/pictures/picturesession.h"
 
+#include <QComboBox>
 #include <QFile>
 
 #include <array>
@@ -112,6 +113,36 @@ void takeLayers(PictureSession &session)
     session.takePage("budget-page-discuss-spent");
     session.key(Qt::Key_Escape);
     session.trigger("mVPlanned");
+    takeBankFile(session);
+}
+
+/// A bank's file in the preview, with a rule for some of its lines.
+void takeBankFile(PictureSession &session)
+{
+    const QString path = session.program().folder.filePath(u"account.csv"_s);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write("Date;Payee;Amount\n"
+                                                       "02.11.2026;Lakeside Housing;-980,00\n"
+                                                       "04.11.2026;Corner shop 12;-23,45\n"
+                                                       "06.11.2026;Farmers' market;-86,40\n"
+                                                       "07.11.2026;Northern Light & Power;-64,50\n"
+                                                       "10.11.2026;Corner shop 12;-18,90\n"
+                                                       "12.11.2026;Corner shop 9;-52,10\n"
+                                                       "12.11.2026;Corner shop 9;-52,10\n"
+                                                       "15.11.2026;Employer;2450,00\n"
+                                                       "18.11.2026;Corner shop 12;many\n"
+                                                       "30.12.2025;Corner shop 12;-9,80\n") < 1)
+        qFatal("the bank's file cannot be written");
+    session.box([&] { session.trigger("mUBank"); },
+                [&] {
+                    session.fill("fileNameEdit", path);
+                    session.key(Qt::Key_Return);
+                });
+    session.clickRow("importList", 1);
+    session.find<QComboBox>("ruleItem").setCurrentText(u"Groceries"_s);
+    session.click("ruleAdd");
+    session.take("budget-bank");
+    session.click("importClose");
 }
 
 void takeSheet(PictureSession &session)
