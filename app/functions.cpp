@@ -99,7 +99,7 @@ std::optional<LiveLine> budgetNews(const Program &program, QDate today)
 
 QList<DayNote> budgetNotes(const Program &program, QDate from, QDate to)
 {
-    return BudgetNews::dayNotes(program.folder, from, to, program.clock.today());
+    return BudgetNews::dayNotes(program.folder, program.state.dateStyle, from, to, program.clock.today());
 }
 
 QStringList budgetFiles(const Program &program)

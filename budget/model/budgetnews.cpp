@@ -5,6 +5,7 @@
 #include "budget/model/budgetfigures.h"
 #include "budget/model/budgetfiles.h"
 #include "budget/model/spendingfiles.h"
+#include "shell/core/dates.h"
 
 #include <QLocale>
 
@@ -30,8 +31,9 @@ bool hasFigures(const BudgetSheet &sheet, std::size_t month)
 class YearNotes
 {
 public:
-    YearNotes(const DataFolder &folder, int year, QDate today)
+    YearNotes(const DataFolder &folder, int year, DateStyle style, QDate today)
         : m_year(year)
+        , m_style(style)
         , m_today(today)
         , m_spending(SpendingFiles(folder).read(year).spending)
     {
@@ -69,8 +71,11 @@ private:
         const QDate shown = isMoved ? m_today : date;
         if (shown < from || shown > to)
             return;
+        const QString words = isDone    ? u", paid"_s
+                              : isMoved ? u", due "_s + Dates::shortText(date, m_style)
+                                        : QString();
         notes.append({shown,
-                      due.item + u": "_s + centsText(planned),
+                      due.item + u": "_s + centsText(planned) + words,
                       u"Home Budget"_s,
                       isDone      ? NoteKind::Done
                       : isOverdue ? NoteKind::Overdue
@@ -81,6 +86,7 @@ private:
     }
 
     int m_year;
+    DateStyle m_style;
     QDate m_today;
     Spending m_spending;
     BudgetSheet m_sheet;
@@ -120,7 +126,8 @@ std::optional<LiveLine> BudgetNews::liveLine(const DataFolder &folder, QDate tod
     return {};
 }
 
-QList<DayNote> BudgetNews::dayNotes(const DataFolder &folder, QDate from, QDate to, QDate today)
+QList<DayNote> BudgetNews::dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to,
+                                    QDate today)
 {
     QList<DayNote> notes;
     if (!from.isValid() || !to.isValid() || from > to)
@@ -129,7 +136,7 @@ QList<DayNote> BudgetNews::dayNotes(const DataFolder &folder, QDate from, QDate 
     const QDate first = from <= today ? from.addDays(-daysOverdue) : from;
     for (int year = std::max(first.year(), BudgetFiles::firstYear);
          year <= std::min(to.year(), BudgetFiles::lastYear); ++year)
-        YearNotes(folder, year, today).add(from, to, notes);
+        YearNotes(folder, year, style, today).add(from, to, notes);
     std::ranges::stable_sort(notes, {}, &DayNote::date);
     return notes;
 }

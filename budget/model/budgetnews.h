@@ -4,6 +4,7 @@
 #include "budget/model/spending.h"
 #include "shell/core/daynote.h"
 #include "shell/core/liveline.h"
+#include "shell/core/programstate.h"
 #include "storage/datafolder.h"
 
 #include <QList>
@@ -26,7 +27,7 @@ std::optional<LiveLine> liveLine(const DataFolder &folder, QDate today);
 
 /// What falls due from `from` to `to` or was paid there, in date order. What should have been paid in the
 /// last days stands at its day; where that lies before `from`, at `today`.
-QList<DayNote> dayNotes(const DataFolder &folder, QDate from, QDate to, QDate today);
+QList<DayNote> dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to, QDate today);
 
 /// The files that news and notes come from.
 QStringList liveFiles(QDate today);

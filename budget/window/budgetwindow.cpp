@@ -197,8 +197,14 @@ void Budget1::connectSheet()
             [this](const UndoStep &step) { undoStack().push(m_spent->along(step)); });
     connect(m_spent, &SpentYear::edited, this, [this](const UndoStep &step) {
         undoStack().push(step);
-        activity().say(step.title);
-        undoStack().offer();
+        // Behind what the grid says of the cell that Enter leads to.
+        QMetaObject::invokeMethod(
+            this,
+            [this, title = step.title] {
+                activity().say(title);
+                undoStack().offer();
+            },
+            Qt::QueuedConnection);
     });
     connect(m_spent, &SpentYear::changed, this, [this] {
         refreshTitle();

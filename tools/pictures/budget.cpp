@@ -98,24 +98,6 @@ void spend(const DataFolder &folder)
         qFatal("what was spent cannot be written");
 }
 
-void takeLayers(PictureSession &session)
-{
-    session.trigger("mVSpent");
-    session.take("budget-spent");
-    session.clickRow("VSGd1", 5, 11);
-    session.trigger("mVAmounts");
-    session.take("budget-amounts");
-    session.key(Qt::Key_Escape);
-    session.trigger("mVDue");
-    session.take("budget-due");
-    session.key(Qt::Key_Escape);
-    session.trigger("mOPDiscuss");
-    session.takePage("budget-page-discuss-spent");
-    session.key(Qt::Key_Escape);
-    session.trigger("mVPlanned");
-    takeBankFile(session);
-}
-
 /// A bank's file in the preview, with a rule for some of its lines.
 void takeBankFile(PictureSession &session)
 {
@@ -143,6 +125,24 @@ void takeBankFile(PictureSession &session)
     session.click("ruleAdd");
     session.take("budget-bank");
     session.click("importClose");
+}
+
+void takeLayers(PictureSession &session)
+{
+    session.trigger("mVSpent");
+    session.take("budget-spent");
+    session.clickRow("VSGd1", 5, 11);
+    session.trigger("mVAmounts");
+    session.take("budget-amounts");
+    session.key(Qt::Key_Escape);
+    session.trigger("mVDue");
+    session.take("budget-due");
+    session.key(Qt::Key_Escape);
+    session.trigger("mOPDiscuss");
+    session.takePage("budget-page-discuss-spent");
+    session.key(Qt::Key_Escape);
+    session.trigger("mVPlanned");
+    takeBankFile(session);
 }
 
 void takeSheet(PictureSession &session)

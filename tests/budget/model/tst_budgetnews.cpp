@@ -62,26 +62,29 @@ private slots:
     {
         const QDate first(2026, 3, 1);
         const QDate due(2026, 3, 31);
-        rows<QByteArray, QDate, QDate, QDate, QDate, NoteKind>(
-            {{"due", "", first, due, first, due, NoteKind::Due},
-             {"ticked", "paid\t3\t0.00\tRent\n", first, due, first, due, NoteKind::Done},
-             {"spent", "spent\t2026-03-01\t850.00\tRent\t\n", first, due, first, due, NoteKind::Done},
+        const QString rent = u"Rent: 850.00"_s;
+        rows<QByteArray, QDate, QDate, QDate, QDate, NoteKind, QString>(
+            {{"due", "", first, due, first, due, NoteKind::Due, rent},
+             {"ticked", "paid\t3\t0.00\tRent\n", first, due, first, due, NoteKind::Done, rent + u", paid"_s},
+             {"spent", "spent\t2026-03-01\t850.00\tRent\t\n", first, due, first, due, NoteKind::Done,
+              rent + u", paid"_s},
              {"a shorter month", "", QDate(2026, 2, 1), QDate(2026, 2, 28), QDate(2026, 2, 3),
-              QDate(2026, 2, 28), NoteKind::Due},
-             {"overdue on its day", "", first, QDate(2026, 4, 4), QDate(2026, 4, 4), due, NoteKind::Overdue},
+              QDate(2026, 2, 28), NoteKind::Due, rent},
+             {"overdue on its day", "", first, QDate(2026, 4, 4), QDate(2026, 4, 4), due, NoteKind::Overdue,
+              rent},
              {"overdue today", "", QDate(2026, 4, 4), QDate(2026, 4, 11), QDate(2026, 4, 4),
-              QDate(2026, 4, 4), NoteKind::Overdue},
-             {"long overdue", "", first, due, QDate(2026, 5, 4), {}, NoteKind::Other},
+              QDate(2026, 4, 4), NoteKind::Overdue, rent + u", due Mar 31"_s},
+             {"long overdue", "", first, due, QDate(2026, 5, 4), {}, NoteKind::Other, {}},
              {"not planned", "", QDate(2026, 5, 1), QDate(2026, 5, 31), QDate(2026, 5, 31),
-              QDate(2026, 5, 31), NoteKind::Overdue}});
+              QDate(2026, 5, 31), NoteKind::Overdue, rent + u", due Apr 30"_s}});
     }
 
     void notesWhatIsDue()
     {
-        const auto [spent, from, to, today, date, kind] =
-            row<QByteArray, QDate, QDate, QDate, QDate, NoteKind>();
+        const auto [spent, from, to, today, date, kind, text] =
+            row<QByteArray, QDate, QDate, QDate, QDate, NoteKind, QString>();
         m_test->put(u"Quillery.spent-2026"_s, "due\t31\tRent\ndue\t1\tGone\n" + spent);
-        const QList<DayNote> notes = BudgetNews::dayNotes(m_test->folder(), from, to, today);
+        const QList<DayNote> notes = BudgetNews::dayNotes(m_test->folder(), DateStyle::Usa, from, to, today);
         if (!date.isValid()) {
             QVERIFY(notes.isEmpty());
             return;
@@ -89,7 +92,7 @@ private slots:
         QVERIFY(!notes.isEmpty());
         QCOMPARE(notes.last().date, date);
         QCOMPARE(notes.last().kind, kind);
-        QCOMPARE(notes.last().text, u"Rent: 850.00"_s);
+        QCOMPARE(notes.last().text, text);
         QCOMPARE(notes.last().place.row, 0);
     }
 

@@ -137,7 +137,7 @@ private slots:
         QCOMPARE(list->model()->index(1, 5).data().toString(), u"Left out"_s);
         QTest::keyClick(list, Qt::Key_Space);
         click("importTake");
-        QCOMPARE(said(), u"Brought in: 2 amounts, 50.50"_s);
+        QTRY_COMPARE(said(), u"Brought in: 2 amounts, 50.50"_s);
         trigger("mVSpent");
         QCOMPARE(textAt(1, 3), u"50.50"_s);
         trigger("mEUndo");
