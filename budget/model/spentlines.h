@@ -48,6 +48,17 @@ inline QString notPaid(const QString &item, int month)
     return u"Not paid: "_s + item + u", "_s + QLocale::c().monthName(month);
 }
 
+/// Beside the tick of what counts as paid without it.
+inline QString allSpent()
+{
+    return u"All of it was spent"_s;
+}
+
+inline QString overdue()
+{
+    return u"Overdue"_s;
+}
+
 inline QString dueDay(const QString &item, int day)
 {
     if (day == 0)

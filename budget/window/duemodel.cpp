@@ -81,9 +81,24 @@ QString DueModel::text(int row, int column) const
         return amount(planned(row));
     case Spent:
         return amount(spent(row));
+    case Paid:
+        return state(row);
     default:
         return {};
     }
+}
+
+/// What is to be known beside the tick.
+QString DueModel::state(int row) const
+{
+    const qint64 plan = planned(row);
+    if (plan <= 0 || m_year.spending().isPaid(item(row), m_month + 1))
+        return {};
+    if (spent(row) >= plan)
+        return SpentLines::allSpent();
+    const int day = m_year.spending().dueDay(item(row));
+    const bool isOverdue = day > 0 && BudgetNews::dueDate(m_year.year(), m_month + 1, day) < m_today;
+    return isOverdue ? SpentLines::overdue() : QString();
 }
 
 QVariant DueModel::data(const QModelIndex &index, int role) const

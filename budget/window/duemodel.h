@@ -42,6 +42,7 @@ private:
     qint64 planned(int row) const;
     qint64 spent(int row) const;
     QString text(int row, int column) const;
+    QString state(int row) const;
     bool setDueDay(int row, const QString &typed);
 
     SpentYear &m_year;

@@ -3,6 +3,7 @@
 
 #include "shell/core/dates.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
@@ -71,6 +72,13 @@ bool ImportModel::isShown(const BankLine &line) const
         return line.state == BankLine::NotRead;
     }
     Q_UNREACHABLE();
+}
+
+int ImportModel::firstWithoutItem() const
+{
+    const auto found = std::ranges::find_if(
+        m_shown, [this](std::size_t line) { return m_import->lines()[line].state == BankLine::NoItem; });
+    return found == m_shown.end() ? 0 : int(found - m_shown.begin());
 }
 
 void ImportModel::setItem(int row, const QString &item)

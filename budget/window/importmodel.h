@@ -21,6 +21,8 @@ public:
     void setFilter(Filter filter);
     /// The place in the file of what stands in `row`.
     std::size_t line(int row) const { return m_shown[std::size_t(row)]; }
+    /// The first row of which nobody knows the item; 0 where there is none.
+    int firstWithoutItem() const;
     void setItem(int row, const QString &item);
     void toggle(int row);
 

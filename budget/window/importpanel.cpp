@@ -168,8 +168,7 @@ void ImportPanel::finish()
     emit progressed(0, 0);
     m_model->show(m_import.get());
     refresh();
-    if (m_model->rowCount() > 0)
-        m_view->selectRow(0);
+    m_view->selectRow(m_model->firstWithoutItem());
 }
 
 void ImportPanel::refresh()
@@ -199,8 +198,7 @@ void ImportPanel::follow()
     if (line.state == BankLine::NotRead)
         return;
     m_text->setText(likelyRule(line.text));
-    if (!line.item.isEmpty())
-        m_items->setCurrentIndex(m_items->findText(line.item));
+    m_items->setCurrentIndex(line.item.isEmpty() ? -1 : m_items->findText(line.item));
 }
 
 QString ImportPanel::chosenItem() const

@@ -115,6 +115,7 @@ void takeBankFile(PictureSession &session)
                                                        "18.11.2026;Corner shop 12;many\n"
                                                        "30.12.2025;Corner shop 12;-9,80\n") < 1)
         qFatal("the bank's file cannot be written");
+    file.close();
     session.box([&] { session.trigger("mUBank"); },
                 [&] {
                     session.fill("fileNameEdit", path);

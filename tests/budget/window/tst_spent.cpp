@@ -22,7 +22,7 @@ private slots:
         m_test->clock.time = {QDate(2026, 3, 20), QTime(10, 24)};
         BudgetSheet sheet;
         sheet.rows[0].item = u"Rent"_s;
-        sheet.rows[0].amounts[2] = u"100.00"_s;
+        sheet.rows[0].amounts[1] = sheet.rows[0].amounts[2] = u"100.00"_s;
         sheet.rows[1].item = u"Fuel"_s;
         m_test->setBytes(u"2026.Fil"_s, BudgetFiles::encode(sheet));
         m_window = new Budget1(m_test->program);
@@ -104,6 +104,10 @@ private slots:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_1);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCoreApplication::processEvents();
+        QCOMPARE(list->model()->index(0, DueModel::Paid).data().toString(), QString());
+        find<QComboBox>("dueMonth")->setCurrentIndex(1);
+        QCOMPARE(list->model()->index(0, DueModel::Paid).data().toString(), u"Overdue"_s);
+        find<QComboBox>("dueMonth")->setCurrentIndex(2);
         QTest::keyClick(list, Qt::Key_Space);
         QCOMPARE(list->model()->index(0, DueModel::Spent).data().toString(), u"100.00"_s);
         click("dueClose");
