@@ -72,6 +72,11 @@ inline QString balance(const QString &when, double amount)
     return when + u": "_s + whole + (Amount::rounded(amount) < 0 ? u" over"_s : u" left"_s);
 }
 
+inline QString noBudgetYet(int year)
+{
+    return u"No budget for %1 yet"_s.arg(year);
+}
+
 inline QString howToBegin()
 {
     return u"Type an item, Tab, then its amounts"_s;

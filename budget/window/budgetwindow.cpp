@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/window/budgetwindow.h"
 
-#include "budget/model/amount.h"
-#include "budget/model/budgetnews.h"
 #include "budget/model/lines.h"
 #include "budget/model/messages.h"
 #include "budget/window/budgetprint.h"
@@ -14,11 +12,11 @@
 #include "budget/window/spentyear.h"
 #include "budget/window/totalsdesk.h"
 #include "budget/window/totalsrows.h"
-#include "budget/window/worksheetpane.h"
+#include "budget/window/worksheetview.h"
+#include "budget/window/yearbox.h"
 #include "budget/window/yearsdesk.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
-#include "shell/controls/titleline.h"
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/place.h"
@@ -27,12 +25,10 @@
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 
-#include <QComboBox>
 #include <QMenu>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include <utility>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,17 +51,15 @@ Budget1::Budget1(Program &program, QWidget *parent)
     , m_spent(new SpentYear(program.folder, *m_model, this))
     , m_year(new BudgetYear(program, *m_model, *m_spent, this))
     , m_views(new WorkViews)
-    , m_sheetView(named(new QWidget, u"sheetView"_s))
+    , m_sheet(new WorksheetView(program, {*m_model, *m_spent, *m_year}))
 {
-    makeSheetView();
-    m_views->addHome(m_sheetView);
-    m_spentDesk = new SpentDesk(program, {*m_model, m_pane->grid(), *m_spent, *m_views, commands()}, this);
-    m_title->addAtRight(m_spentDesk->makeSwitch(m_title));
-    m_title->addAtRight(makeYearBox());
+    m_views->addHome(m_sheet);
     m_model->setReadOnly(program.folder.isReadOnly());
-    m_edits = new SheetCommands(
-        program, {*m_model, m_pane->grid(), commands(), [this] { return whyNoSheet(); }}, this);
-    m_print = new BudgetPrint(program, this, {*m_model, m_pane->grid(), *m_year});
+    m_spentDesk = new SpentDesk(program, {*m_model, grid(), *m_spent, *m_views, commands()}, this);
+    m_sheet->setSwitch(m_spentDesk->makeSwitch(m_sheet));
+    m_edits =
+        new SheetCommands(program, {*m_model, grid(), commands(), [this] { return whyNoSheet(); }}, this);
+    m_print = new BudgetPrint(program, this, {*m_model, grid(), *m_year});
     m_totalsDesk = new TotalsDesk(program, {*m_model, *m_year, *m_views, *m_print}, this);
     setWork(makeWorkPanel());
     makeCommands();
@@ -74,7 +68,7 @@ Budget1::Budget1(Program &program, QWidget *parent)
     connectYear();
     finishFrame();
     m_year->load(BudgetFiles::yearOf(clock().today()));
-    m_pane->grid().setFocus();
+    m_sheet->setFocus();
     commands().refresh();
 }
 
@@ -87,30 +81,6 @@ QWidget *Budget1::makeWorkPanel()
     return panel;
 }
 
-void Budget1::makeSheetView()
-{
-    QWidget *view = m_sheetView;
-    m_title = new TitleLine(u"budgetTitle"_s, {}, view);
-    m_pane = new WorksheetPane(*m_model, view);
-    m_foot = new ButtonRow(view);
-    auto *rows = new QVBoxLayout(view);
-    rows->setContentsMargins(20, 14, 20, 14);
-    rows->setSpacing(12);
-    rows->addWidget(m_title);
-    rows->addWidget(m_pane, 1);
-    rows->addWidget(m_foot);
-}
-
-QWidget *Budget1::makeYearBox()
-{
-    m_years = named(new QComboBox, u"Combo1"_s);
-    for (int year = BudgetFiles::firstYear; year <= BudgetFiles::lastYear; ++year)
-        m_years->addItem(QString::number(year), year);
-    m_years->setMaxVisibleItems(12);
-    m_years->setAccessibleName(u"Year of the budget"_s);
-    return m_years;
-}
-
 /// The tools stand in the order in which their commands are made.
 void Budget1::makeCommands()
 {
@@ -120,7 +90,7 @@ void Budget1::makeCommands()
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_totals = commands().add(
         view, u"mVTotals"_s, u"View &Totals"_s, [this] { viewTotals(); }, [this] { return whyNoSheet(); });
-    auto *years = new YearsDesk(program(), {*m_model, m_pane->grid(), *m_year, *m_views}, this);
+    auto *years = new YearsDesk(program(), {*m_model, grid(), *m_year, *m_views}, this);
     years->addCommand(commands(), view);
     view->addSeparator();
     m_spentDesk->addCommands(view);
@@ -179,20 +149,17 @@ void Budget1::addUtilityCommands(QMenu *menu)
 void Budget1::makeFoot()
 {
     Commands &all = commands();
-    m_foot->addLeft(all.button(m_deleteRow, u"Command6"_s, u"&Delete Row"_s, m_foot));
-    m_foot->addLeft(all.button(m_copyYear, u"Command7"_s, u"Copy &Year"_s, m_foot));
-    m_foot->addRight(all.button(m_totals, u"Command8"_s, u"View &Totals"_s, m_foot));
-    m_foot->addRight(all.button(m_save, u"saveBudget"_s, u"&Save"_s, m_foot, ButtonKind::Main));
-    m_foot->addRight(all.button(standard(Standard::Exit), u"Command3"_s, u"E&xit"_s, m_foot));
+    ButtonRow &foot = m_sheet->foot();
+    foot.addLeft(all.button(m_deleteRow, u"Command6"_s, u"&Delete Row"_s, &foot));
+    foot.addLeft(all.button(m_copyYear, u"Command7"_s, u"Copy &Year"_s, &foot));
+    foot.addRight(all.button(m_totals, u"Command8"_s, u"View &Totals"_s, &foot));
+    foot.addRight(all.button(m_save, u"saveBudget"_s, u"&Save"_s, &foot, ButtonKind::Main));
+    foot.addRight(all.button(standard(Standard::Exit), u"Command3"_s, u"E&xit"_s, &foot));
 }
 
 void Budget1::connectSheet()
 {
-    connect(m_model, &SheetModel::recomputed, this, [this] {
-        refreshTitle();
-        refreshWords();
-        warnOfLimit();
-    });
+    connect(m_model, &SheetModel::recomputed, this, &Budget1::warnOfLimit);
     connect(m_model, &SheetModel::edited, this,
             [this](const UndoStep &step) { undoStack().push(m_spent->along(step)); });
     connect(m_spent, &SpentYear::edited, this, [this](const UndoStep &step) {
@@ -206,10 +173,6 @@ void Budget1::connectSheet()
             },
             Qt::QueuedConnection);
     });
-    connect(m_spent, &SpentYear::changed, this, [this] {
-        refreshTitle();
-        refreshWords();
-    });
     connect(m_spentDesk, &SpentDesk::said, &activity(), &ActivityBar::say);
     connect(m_spentDesk, &SpentDesk::progressed, this,
             [this](int done, int total) { activity().showProgress(done, total, true); });
@@ -217,15 +180,13 @@ void Budget1::connectSheet()
     connect(
         m_spentDesk, &SpentDesk::noticed, this, [this](const Message &message) { ask(message); },
         Qt::QueuedConnection);
-    connect(m_model, &SheetModel::shownAgain, &m_pane->grid(), &SheetGrid::choose);
+    connect(m_model, &SheetModel::shownAgain, &grid(), &SheetGrid::choose);
     // The box that is typed into goes before anything is asked.
-    connect(
-        m_model, &SheetModel::noticed, this, [this](const Message &message) { ask(message); },
-        Qt::QueuedConnection);
-    connect(&m_pane->grid(), &SheetGrid::said, &activity(), &ActivityBar::say);
+    connect(m_model, &SheetModel::noticed, this, &Budget1::notice, Qt::QueuedConnection);
+    connect(&grid(), &SheetGrid::said, &activity(), &ActivityBar::say);
     connect(m_edits, &SheetCommands::said, &activity(), &ActivityBar::say);
     connect(m_model, &SheetModel::layerChanged, &commands(), &Commands::refresh);
-    connect(&m_pane->totals(), &TotalsRows::incomeClicked, this, [this](int month) {
+    connect(&m_sheet->totals(), &TotalsRows::incomeClicked, this, [this](int month) {
         if (const QString reason = program().folder.whyReadOnly(); !reason.isEmpty())
             activity().say(reason);
         else
@@ -235,21 +196,27 @@ void Budget1::connectSheet()
 
 void Budget1::connectYear()
 {
-    connect(m_years, &QComboBox::activated, this,
-            [this](int place) { chooseYear(m_years->itemData(place).toInt()); });
-    connect(m_year, &BudgetYear::loaded, this, [this](int year) {
-        m_years->setCurrentText(QString::number(year));
-        undoStack().forgetTyped();
-        refreshTitle();
-        refreshWords();
-    });
-    connect(m_year, &BudgetYear::opened, this, &Budget1::goToBeginning);
+    connect(&m_sheet->years(), &YearBox::yearChosen, this, &Budget1::chooseYear);
+    connect(m_year, &BudgetYear::loaded, &undoStack(), &UndoStack::forgetTyped);
     connect(m_year, &BudgetYear::fileTouched, this, [this] { watchFiles(m_year->fileNames()); });
     connect(m_year, &BudgetYear::copied, this, [this](const UndoStep &step) {
         undoStack().push(step);
         undoStack().offer();
     });
     connect(m_year, &BudgetYear::said, &activity(), &ActivityBar::say);
+}
+
+SheetGrid &Budget1::grid() const
+{
+    return m_sheet->grid();
+}
+
+/// What the entry check has to say; a cell that it emptied is to be typed into again.
+void Budget1::notice(const Message &message, const QModelIndex &cell)
+{
+    ask(message);
+    if (cell.data().toString().isEmpty())
+        grid().setCurrentIndex(cell);
 }
 
 QString Budget1::whyNoSheet() const
@@ -259,7 +226,7 @@ QString Budget1::whyNoSheet() const
 
 bool Budget1::isModified() const
 {
-    m_pane->grid().finishEdit();
+    grid().finishEdit();
     return m_year->isModified();
 }
 
@@ -274,10 +241,8 @@ void Budget1::showPlace(const Place &place)
 
 bool Budget1::save()
 {
-    m_pane->grid().finishEdit();
-    const bool isSaved = m_year->save();
-    refreshWords();
-    return isSaved;
+    grid().finishEdit();
+    return m_year->save();
 }
 
 void Budget1::drop()
@@ -297,7 +262,7 @@ Message Budget1::replaceQuestion() const
 
 void Budget1::filesChanged()
 {
-    m_pane->grid().finishEdit();
+    grid().finishEdit();
     m_year->takeChangedFile();
 }
 
@@ -315,7 +280,7 @@ void Budget1::chooseYear(int year)
         activity().say({});
         m_year->load(year);
     }
-    m_years->setCurrentText(QString::number(m_year->year()));
+    m_sheet->years().setYear(m_year->year());
     commands().refresh();
 }
 
@@ -342,40 +307,8 @@ void Budget1::backUp()
 
 void Budget1::viewTotals()
 {
-    m_pane->grid().finishEdit();
+    grid().finishEdit();
     m_totalsDesk->open();
-}
-
-/// The month of today in this year's budget; of another year, the year.
-void Budget1::refreshTitle()
-{
-    const QDate today = clock().today();
-    const BudgetFigures &figures = m_model->figures();
-    const bool isThisYear = BudgetFiles::yearOf(today) == m_year->year();
-    const auto month = std::size_t(today.month() - 1);
-    const double balance =
-        isThisYear ? double(BudgetNews::left(m_model->sheet(), m_spent->sums(), month).value_or(0)) / 100
-                   : figures.balance;
-    const QString when = isThisYear ? QLocale::c().monthName(today.month()) + u' ' : QString();
-    m_title->setTitle(BudgetLines::balance(when + QString::number(m_year->year()), balance));
-}
-
-void Budget1::refreshWords()
-{
-    const bool isEmpty = m_model->sheet() == BudgetSheet();
-    m_foot->setWords(m_year->isModified() ? FrameLines::unsavedChanges()
-                     : isEmpty            ? BudgetLines::howToBegin()
-                                          : BudgetLines::howToEnterIncome());
-}
-
-/// The month of today; where nothing is entered yet, the first item.
-void Budget1::goToBeginning()
-{
-    const QDate today = clock().today();
-    const bool isThisYear = BudgetFiles::yearOf(today) == m_year->year();
-    const bool isEmpty = m_model->sheet() == BudgetSheet();
-    const int column = isEmpty ? SheetColumn::item : isThisYear ? today.month() : SheetColumn::firstMonth;
-    m_pane->grid().setCurrentIndex(m_model->index(0, column));
 }
 
 /// Once a recompute, however many months have outgrown the page; when no box is open any more.

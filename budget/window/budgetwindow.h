@@ -5,17 +5,14 @@
 
 class BudgetPrint;
 class BudgetYear;
-class ButtonRow;
-class QComboBox;
 class SheetCommands;
 class SheetGrid;
 class SheetModel;
 class SpentDesk;
 class SpentYear;
-class TitleLine;
 class TotalsDesk;
 class WorkViews;
-class WorksheetPane;
+class WorksheetView;
 struct Place;
 
 /// The home budget: the worksheet of one year, what it comes to month by month, and the year's totals.
@@ -40,8 +37,6 @@ protected:
 
 private:
     QWidget *makeWorkPanel();
-    void makeSheetView();
-    QWidget *makeYearBox();
     void makeFoot();
     void makeCommands();
     void addOptionCommands(QMenu *menu);
@@ -50,30 +45,25 @@ private:
     void connectSheet();
     void connectYear();
 
+    SheetGrid &grid() const;
+    void notice(const Message &message, const QModelIndex &cell);
     QString whyNoSheet() const;
     void saveByCommand();
     void chooseYear(int year);
     void copyYear();
     void backUp();
     void viewTotals();
-    void refreshTitle();
-    void refreshWords();
-    void goToBeginning();
     void warnOfLimit();
 
     SheetModel *m_model;
     SpentYear *m_spent;
     BudgetYear *m_year;
     WorkViews *m_views; ///< the sheet, and what stands over it
-    QWidget *m_sheetView;
+    WorksheetView *m_sheet;
     SpentDesk *m_spentDesk = nullptr;
-    TitleLine *m_title = nullptr;
-    QComboBox *m_years = nullptr;
-    WorksheetPane *m_pane = nullptr;
-    ButtonRow *m_foot = nullptr;
     SheetCommands *m_edits = nullptr;
-    BudgetPrint *m_print;
-    TotalsDesk *m_totalsDesk;
+    BudgetPrint *m_print = nullptr;
+    TotalsDesk *m_totalsDesk = nullptr;
     QAction *m_deleteRow = nullptr;
     QAction *m_save = nullptr;
     QAction *m_copyYear = nullptr;

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/worksheetview.h"
+
+#include "budget/model/budgetnews.h"
+#include "budget/model/lines.h"
+#include "budget/window/budgetyear.h"
+#include "budget/window/sheetgrid.h"
+#include "budget/window/sheetmodel.h"
+#include "budget/window/spentyear.h"
+#include "budget/window/worksheetpane.h"
+#include "budget/window/yearbox.h"
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/titleline.h"
+#include "shell/core/framelines.h"
+#include "shell/program/program.h"
+
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+WorksheetView::WorksheetView(const Program &program, Desk desk, QWidget *parent)
+    : QWidget(parent)
+    , m_program(program)
+    , m_desk(std::move(desk))
+    , m_title(new TitleLine(u"budgetTitle"_s, {}, this))
+    , m_years(new YearBox(this))
+    , m_pane(new WorksheetPane(m_desk.model, this))
+    , m_foot(new ButtonRow(this))
+{
+    setObjectName("sheetView"_L1);
+    m_title->addAtRight(m_years);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(20, 14, 20, 14);
+    rows->setSpacing(12);
+    rows->addWidget(m_title);
+    rows->addWidget(m_pane, 1);
+    rows->addWidget(m_foot);
+    setFocusProxy(m_pane);
+    connect(&m_desk.model, &SheetModel::recomputed, this, &WorksheetView::refresh);
+    connect(&m_desk.spent, &SpentYear::changed, this, &WorksheetView::refresh);
+    connect(&m_desk.year, &BudgetYear::fileTouched, this, &WorksheetView::refresh);
+    connect(&m_desk.year, &BudgetYear::loaded, m_years, &YearBox::setYear);
+    connect(&m_desk.year, &BudgetYear::opened, this, &WorksheetView::goToBeginning);
+}
+
+SheetGrid &WorksheetView::grid() const
+{
+    return m_pane->grid();
+}
+
+TotalsRows &WorksheetView::totals() const
+{
+    return m_pane->totals();
+}
+
+void WorksheetView::setSwitch(QWidget *layers)
+{
+    m_title->addAtRight(layers);
+    m_title->addAtRight(m_years);
+}
+
+void WorksheetView::refresh()
+{
+    m_title->setTitle(title());
+    m_foot->setWords(words());
+}
+
+bool WorksheetView::isEmpty() const
+{
+    return m_desk.model.sheet() == BudgetSheet();
+}
+
+bool WorksheetView::isOfThisYear() const
+{
+    return BudgetFiles::yearOf(m_program.clock.today()) == m_desk.year.year();
+}
+
+/// What is left of the month of today; of another year, what is left of that.
+QString WorksheetView::title() const
+{
+    const int year = m_desk.year.year();
+    if (isEmpty())
+        return BudgetLines::noBudgetYet(year);
+    if (!isOfThisYear())
+        return BudgetLines::balance(QString::number(year), m_desk.model.figures().balance);
+    const QDate today = m_program.clock.today();
+    const auto month = std::size_t(today.month() - 1);
+    const qint64 cents = BudgetNews::left(m_desk.model.sheet(), m_desk.spent.sums(), month).value_or(0);
+    return BudgetLines::balance(QLocale::c().monthName(today.month()) + u' ' + QString::number(year),
+                                double(cents) / 100);
+}
+
+QString WorksheetView::words() const
+{
+    if (m_desk.year.isModified())
+        return FrameLines::unsavedChanges();
+    return isEmpty() ? BudgetLines::howToBegin() : BudgetLines::howToEnterIncome();
+}
+
+/// The month of today; where nothing is entered yet, the first item.
+void WorksheetView::goToBeginning()
+{
+    const int month = isOfThisYear() ? m_program.clock.today().month() : SheetColumn::firstMonth;
+    grid().setCurrentIndex(m_desk.model.index(0, isEmpty() ? SheetColumn::item : month));
+}

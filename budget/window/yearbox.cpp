@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/window/yearbox.h"
+
+#include "budget/model/budgetfiles.h"
+
+#include <QAbstractItemView>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int yearsAtOnce = 11;
+} // namespace
+
+YearBox::YearBox(QWidget *parent)
+    : QComboBox(parent)
+{
+    setObjectName("Combo1"_L1);
+    setAccessibleName(u"Year of the budget"_s);
+    setMaxVisibleItems(yearsAtOnce);
+    for (int year = BudgetFiles::firstYear; year <= BudgetFiles::lastYear; ++year)
+        addItem(QString::number(year), year);
+    connect(this, &QComboBox::activated, this,
+            [this](int place) { emit yearChosen(itemData(place).toInt()); });
+}
+
+void YearBox::setYear(int year)
+{
+    setCurrentIndex(findData(year));
+}
+
+void YearBox::showPopup()
+{
+    QComboBox::showPopup();
+    view()->scrollTo(view()->currentIndex(), QAbstractItemView::PositionAtCenter);
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+
+/// The years that a budget can be of; its list opens around the one that is shown.
+class YearBox final : public QComboBox
+{
+    Q_OBJECT
+public:
+    explicit YearBox(QWidget *parent = nullptr);
+
+    void setYear(int year);
+    void showPopup() override;
+
+signals:
+    /// The user chose a year, perhaps the one that was shown.
+    void yearChosen(int year);
+};
