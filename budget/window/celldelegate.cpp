@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int signSize = 16;
+constexpr int signSize = 14;
 
 void drawRim(QPainter &painter, const QRect &cell, const Theme &theme, bool hasFocus)
 {
@@ -46,13 +46,12 @@ void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         painter->fillRect(option.rect, SheetLook::redFill(theme));
     if (isCurrent)
         drawRim(*painter, option.rect, theme, m_grid->hasFocus());
-    QRect place = option.rect.adjusted(SheetLook::inset, 0, -SheetLook::inset, 0);
-    if (isOver) {
-        const QRect sign(place.left() - 3, place.center().y() - signSize / 2 + 1, signSize, signSize);
-        painter->drawPixmap(sign.topLeft(),
+    // The sign takes the inset, so that the largest amount has its room beside it.
+    const int before = isOver ? signSize + 1 : SheetLook::inset;
+    const QRect place = option.rect.adjusted(before, 0, -SheetLook::inset, 0);
+    if (isOver)
+        painter->drawPixmap(option.rect.left() + 1, option.rect.center().y() - signSize / 2 + 1,
                             Icons::pixmap("overdue"_L1, theme.scheme, signSize, m_grid->devicePixelRatioF()));
-        place.setLeft(sign.right());
-    }
     painter->setFont(option.font);
     painter->setPen(isOver ? SheetLook::red(theme) : theme.text);
     const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();

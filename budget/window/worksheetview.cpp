@@ -38,6 +38,7 @@ WorksheetView::WorksheetView(const Program &program, Desk desk, QWidget *parent)
     rows->addWidget(m_pane, 1);
     rows->addWidget(m_foot);
     setFocusProxy(m_pane);
+    connect(m_years, &YearBox::done, m_pane, qOverload<>(&QWidget::setFocus));
     connect(&m_desk.model, &SheetModel::recomputed, this, &WorksheetView::refresh);
     connect(&m_desk.spent, &SpentYear::changed, this, &WorksheetView::refresh);
     connect(&m_desk.year, &BudgetYear::fileTouched, this, &WorksheetView::refresh);
@@ -77,19 +78,24 @@ bool WorksheetView::isOfThisYear() const
     return BudgetFiles::yearOf(m_program.clock.today()) == m_desk.year.year();
 }
 
-/// What is left of the month of today; of another year, what is left of that.
+/// What is left of the month of today; of another year, what is left of all its months.
 QString WorksheetView::title() const
 {
-    const int year = m_desk.year.year();
+    const QString year = QString::number(m_desk.year.year());
     if (isEmpty())
-        return BudgetLines::noBudgetYet(year);
-    if (!isOfThisYear())
-        return BudgetLines::balance(QString::number(year), m_desk.model.figures().balance);
-    const QDate today = m_program.clock.today();
-    const auto month = std::size_t(today.month() - 1);
-    const qint64 cents = BudgetNews::left(m_desk.model.sheet(), m_desk.spent.sums(), month).value_or(0);
-    return BudgetLines::balance(QLocale::c().monthName(today.month()) + u' ' + QString::number(year),
-                                double(cents) / 100);
+        return BudgetLines::noBudgetYet(m_desk.year.year());
+    const auto leftOf = [this](int month) {
+        const auto cents = BudgetNews::left(m_desk.model.sheet(), m_desk.spent.sums(), std::size_t(month));
+        return double(cents.value_or(0)) / 100;
+    };
+    if (isOfThisYear()) {
+        const int month = m_program.clock.today().month();
+        return BudgetLines::balance(QLocale::c().monthName(month) + u' ' + year, leftOf(month - 1));
+    }
+    double left = 0;
+    for (int month = 0; month < int(BudgetSheet::monthCount); ++month)
+        left += leftOf(month);
+    return BudgetLines::balance(year, left);
 }
 
 QString WorksheetView::words() const

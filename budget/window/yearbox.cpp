@@ -19,8 +19,11 @@ YearBox::YearBox(QWidget *parent)
     setMaxVisibleItems(yearsAtOnce);
     for (int year = BudgetFiles::firstYear; year <= BudgetFiles::lastYear; ++year)
         addItem(QString::number(year), year);
-    connect(this, &QComboBox::activated, this,
-            [this](int place) { emit yearChosen(itemData(place).toInt()); });
+    connect(this, &QComboBox::activated, this, [this](int place) {
+        emit yearChosen(itemData(place).toInt());
+        if (m_isListOpen)
+            emit done();
+    });
 }
 
 void YearBox::setYear(int year)
@@ -30,6 +33,15 @@ void YearBox::setYear(int year)
 
 void YearBox::showPopup()
 {
+    m_isListOpen = true;
     QComboBox::showPopup();
     view()->scrollTo(view()->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
+/// What is chosen in the list is told right after this.
+void YearBox::hidePopup()
+{
+    QComboBox::hidePopup();
+    QMetaObject::invokeMethod(
+        this, [this] { m_isListOpen = false; }, Qt::QueuedConnection);
 }

@@ -12,8 +12,14 @@ public:
 
     void setYear(int year);
     void showPopup() override;
+    void hidePopup() override;
 
 signals:
     /// The user chose a year, perhaps the one that was shown.
     void yearChosen(int year);
+    /// The year was chosen in the list, and the work goes on elsewhere.
+    void done();
+
+private:
+    bool m_isListOpen = false;
 };

@@ -3,6 +3,7 @@
 #include "tests/budget/window/openbudget.h"
 #include "tests/support/household.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QMenu>
@@ -102,6 +103,24 @@ private slots:
             chooseYear(2026);
             QCOMPARE(cell(0, 0), answer == Answer::Yes ? u"Rent"_s : QString());
         }
+    }
+
+    void goesOnInTheSheetOfTheChosenYear()
+    {
+        auto *years = find<QComboBox>("Combo1");
+        years->setFocus();
+        QTest::keyClick(years, Qt::Key_Down);
+        QCOMPARE(labelText("budgetTitle"), u"No budget for 2027 yet"_s);
+        QVERIFY(years->hasFocus()); // another key may lead on
+        years->showPopup();
+        QTest::keyClick(years->view(), Qt::Key_Down);
+        QTest::keyClick(years->view(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(years->currentText(), u"2028"_s);
+        QCOMPARE(m_window->focusWidget(), grid());
+        enter(0, 1, u"abc"_s);
+        QCOMPARE(asked(), {BudgetMessages::onlyNumbers()});
+        QCOMPARE(place(), u"0,1"_s); // to be typed into again
     }
 
     void takesAnIncome_data()
