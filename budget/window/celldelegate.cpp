@@ -52,11 +52,12 @@ void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     if (isOver)
         painter->drawPixmap(option.rect.left() + 1, option.rect.center().y() - signSize / 2 + 1,
                             Icons::pixmap("overdue"_L1, theme.scheme, signSize, m_grid->devicePixelRatioF()));
-    painter->setFont(option.font);
+    const QString text = index.data().toString();
+    const bool isItem = index.column() == SheetColumn::item;
+    painter->setFont(isItem ? option.font : SheetLook::fitting(option.font, text, place.width()));
     painter->setPen(isOver ? SheetLook::red(theme) : theme.text);
-    const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-    painter->drawText(place, int(alignment),
-                      option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, place.width()));
+    painter->drawText(place, int(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>()),
+                      painter->fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
 }
 
 QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
@@ -64,7 +65,6 @@ QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
 {
     auto *box = named(new FieldBox(parent), u"Text1"_s);
     box->setFrame(false);
-    box->setProperty("cell", true);
     box->setAlignment(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>());
     connect(box, &FieldBox::refused, this, &CellDelegate::refused);
     m_editor = box;

@@ -16,6 +16,19 @@ int SheetLook::rowHeight()
     return std::max(leastRowHeight, QFontMetrics(QApplication::font()).height() + 8);
 }
 
+QFont SheetLook::fitting(QFont font, const QString &number, int room)
+{
+    const auto fits = [&] { return QFontMetrics(font).horizontalAdvance(number) <= room; };
+    if (font.stretch() != QFont::AnyStretch)
+        font.setStretch(QFont::Unstretched);
+    for (const int stretch : {QFont::SemiCondensed, QFont::Condensed, QFont::ExtraCondensed}) {
+        if (fits())
+            break;
+        font.setStretch(stretch);
+    }
+    return font;
+}
+
 QColor SheetLook::red(const Theme &theme)
 {
     return theme.scheme == Icons::Scheme::Dark ? theme.negative : darkRed;

@@ -11,6 +11,9 @@ inline constexpr int inset = 8; ///< between a text and the edges of its cell
 /// A row of the grid, and of the totals.
 int rowHeight();
 
+/// `font`, squeezed as far as a number needs it to stand whole in `room` pixels.
+QFont fitting(QFont font, const QString &number, int room);
+
 /// The red of a negative balance: dark red, or what reads as well on a dark ground.
 QColor red(const Theme &theme);
 /// The fill behind it.

@@ -23,11 +23,8 @@ constexpr qreal corner = 8;
 /// A sum that has outgrown its column is squeezed rather than cut.
 void squeeze(QLabel *label)
 {
-    QFont font = label->font();
-    font.setStretch(QFont::Unstretched);
-    const int room = label->width() - SheetLook::inset - line;
-    if (QFontMetrics(font).horizontalAdvance(label->text()) > room)
-        font.setStretch(QFont::ExtraCondensed);
+    const QFont font =
+        SheetLook::fitting(label->font(), label->text(), label->width() - SheetLook::inset - line);
     if (font != label->font())
         label->setFont(font);
 }
