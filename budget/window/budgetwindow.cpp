@@ -88,12 +88,13 @@ void Budget1::makeCommands()
     QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
     QMenu *view = addMenu(u"mV"_s, u"&View"_s);
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
+    m_spentDesk->addCommands(view);
+    view->addSeparator();
     m_totals = commands().add(
-        view, u"mVTotals"_s, u"View &Totals"_s, [this] { viewTotals(); }, [this] { return whyNoSheet(); });
+        view, u"mVTotals"_s, u"View &Totals"_s, [this] { viewTotals(); }, [this] { return whyNoSheet(); },
+        CommonKeys::views[2]);
     auto *years = new YearsDesk(program(), {*m_model, grid(), *m_year, *m_views}, this);
     years->addCommand(commands(), view);
-    view->addSeparator();
-    m_spentDesk->addCommands(view);
     addEditCommands(edit);
     m_print->addPrintCommands(commands(), options);
     options->addSeparator();

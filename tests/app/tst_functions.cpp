@@ -61,7 +61,8 @@ private slots:
             {CommonKeys::save,
              {u"ADDBKVIEW.mONS"_s, u"Budget1.mOSave"_s, u"Form31.mOSave"_s, u"Zcalandar1.mOSave"_s}},
             {CommonKeys::print,
-             {u"ADDBKDISPLAY.mOPrt"_s, u"ADDBKVIEW.mOPrt"_s, u"Form31.mOPrt"_s, u"Zcalandar1.mOPrt"_s}},
+             {u"ADDBKDISPLAY.mOPrt"_s, u"ADDBKVIEW.mOPrt"_s, u"Budget1.mOPrt"_s, u"Form31.mOPrt"_s,
+              u"Zcalandar1.mOPrt"_s}},
             {CommonKeys::undo,
              {u"ADDBKDISPLAY.mEUndo"_s, u"ADDBKVIEW.mEUndo"_s, u"Budget1.mEUndo"_s, u"Zcalandar1.mEUndo"_s}},
             {CommonKeys::redo,
@@ -73,7 +74,7 @@ private slots:
               u"Zcalandar1.mH"_s}},
             {CommonKeys::views[0], {u"ADDBKVIEW.mOVS"_s, u"Budget1.mVPlanned"_s, u"Zcalandar1.mVDay"_s}},
             {CommonKeys::views[1], {u"Budget1.mVSpent"_s, u"Zcalandar1.mVWeek"_s}},
-            {CommonKeys::views[2], {u"Zcalandar1.mVMonth"_s}},
+            {CommonKeys::views[2], {u"Budget1.mVTotals"_s, u"Zcalandar1.mVMonth"_s}},
             {CommonKeys::views[3], {u"Budget1.mVYears"_s}},
         };
         TestProgram test;
