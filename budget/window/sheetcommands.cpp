@@ -76,7 +76,7 @@ void SheetCommands::addFillCommands(QMenu *edit)
         [this] { repeatAmount(BudgetLines::everySecondMonth(), 2); });
     add(edit, u"mEThird"_s, u"Every T&hird Month"_s,
         [this] { repeatAmount(BudgetLines::everyThirdMonth(), 3); });
-    add(edit, u"mESpread"_s, u"Spread a &Yearly Sum..."_s, [this] { spread(); });
+    add(edit, u"mESpread"_s, u"Spread &a Yearly Sum..."_s, [this] { spread(); });
     add(
         edit, u"mEIncome"_s, u"Total Inco&me..."_s,
         [this] { enterIncome(std::max(0, m_desk.grid.currentIndex().column() - SheetColumn::firstMonth)); },
@@ -88,7 +88,7 @@ void SheetCommands::addRowCommands(QMenu *edit)
     add(
         edit, u"mEInsert"_s, u"&Insert Row"_s, [this] { insertRow(); }, CommonKeys::newEntry);
     add(
-        edit, u"mEUp"_s, u"Move Row U&p"_s, [this] { moveRows(-1); }, Qt::ALT | Qt::Key_Up);
+        edit, u"mEUp"_s, u"Mo&ve Row Up"_s, [this] { moveRows(-1); }, Qt::ALT | Qt::Key_Up);
     add(
         edit, u"mEDown"_s, u"Move Row &Down"_s, [this] { moveRows(1); }, Qt::ALT | Qt::Key_Down);
 }
