@@ -10,7 +10,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # What the documents show and a newcomer wants to see: one for each new function, thirty at most.
 documents=(main-menu main-menu-dark main-menu-200 background-selector message-save-changes page-preview password-control
     manual address-book-view address-book-view-1024 address-book-modify address-book-date viewer-address viewer-labels
-    viewer-pictures planner-day planner-day-dark planner-week planner-month planner-recurrence budget-sheet budget-spent)
+    viewer-pictures planner-day planner-day-dark planner-week planner-month planner-recurrence
+    budget-sheet budget-spent budget-totals)
 
 docs=
 if [ "${1:-}" = --docs ]; then

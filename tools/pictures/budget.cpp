@@ -146,6 +146,33 @@ void takeLayers(PictureSession &session)
     takeBankFile(session);
 }
 
+/// The year before: somewhat cheaper, without violin lessons.
+BudgetSheet yearBefore()
+{
+    BudgetSheet sheet = household();
+    sheet.removeRow(8);
+    for (BudgetSheet::Row &row : sheet.rows) {
+        for (QString &amount : row.amounts) {
+            if (!amount.isEmpty())
+                amount = Amount::text(0.95 * Amount::stored(amount));
+        }
+    }
+    sheet.incomes.fill(u"2400.00"_s);
+    return sheet;
+}
+
+void takeTotals(PictureSession &session)
+{
+    session.trigger("mVTotals");
+    session.take("budget-totals");
+    session.click("Command12");
+    session.take("budget-totals-of-expenses");
+    session.key(Qt::Key_Escape);
+    session.trigger("mVYears");
+    session.take("budget-years");
+    session.key(Qt::Key_Escape);
+}
+
 void takeSheet(PictureSession &session)
 {
     session.take("budget-sheet");
@@ -199,6 +226,11 @@ void Albums::budget(const Camera &camera)
         session.takePage("budget-page-full");
         session.click("nextPage");
         session.takePage("budget-page-continued");
+        session.trigger("mOPTotals");
+        session.takePage("budget-page-totals-full");
+        session.key(Qt::Key_Escape);
+        session.trigger("mVTotals");
+        session.take("budget-totals-full");
     }
     {
         PictureSession session(camera);
@@ -207,7 +239,10 @@ void Albums::budget(const Camera &camera)
         takeLayers(session);
     }
     PictureSession session(camera);
+    if (!BudgetFiles(session.program().folder).write(year - 1, yearBefore()))
+        qFatal("the budget's file cannot be written");
     open(session, household());
     takePages(session);
+    takeTotals(session);
     takeSheet(session);
 }
