@@ -112,7 +112,7 @@ QString ImportModel::text(const BankLine &line, int column) const
     case Number:
         return QString::number(line.number);
     case Date:
-        return isRead ? Dates::statusText(line.date, m_style) : QString();
+        return isRead ? Dates::numbers(line.date, m_style) : QString();
     case Amount:
         return isRead ? centsText(std::abs(line.cents)) : QString();
     case Text:

@@ -86,11 +86,15 @@ void ImportPanel::makeView()
     const QFontMetrics body(TypeScale::body());
     QHeaderView *head = m_view->horizontalHeader();
     head->setStretchLastSection(false);
-    m_view->setColumnWidth(ImportModel::Number, body.horizontalAdvance(u"100000"_s) + 6 * inset);
-    m_view->setColumnWidth(ImportModel::Date, body.horizontalAdvance(u"Wed, 28 Nov 2026"_s) + 3 * inset);
-    m_view->setColumnWidth(ImportModel::Amount, body.horizontalAdvance(u"-99999.99"_s) + 3 * inset);
-    m_view->setColumnWidth(ImportModel::Item, body.horizontalAdvance(u"Building work 12"_s) + 3 * inset);
-    m_view->setColumnWidth(ImportModel::What, body.horizontalAdvance(u"Not read: no amount"_s) + 3 * inset);
+    // The text keeps as much room as it can have.
+    const auto setWidth = [&](int column, const QString &longest, int around) {
+        m_view->setColumnWidth(column, body.horizontalAdvance(longest) + around);
+    };
+    setWidth(ImportModel::Number, u"100000"_s, 5 * inset);
+    setWidth(ImportModel::Date, u"28/11/2026"_s, 2 * inset);
+    setWidth(ImportModel::Amount, u"99999.99"_s, 2 * inset);
+    setWidth(ImportModel::Item, u"Building work"_s, 2 * inset);
+    setWidth(ImportModel::What, u"Not read: no amount"_s, 2 * inset);
     head->setSectionResizeMode(ImportModel::Text, QHeaderView::Stretch);
     m_view->installEventFilter(this);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ImportPanel::follow);
