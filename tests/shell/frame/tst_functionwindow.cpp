@@ -179,6 +179,17 @@ private slots:
         QVERIFY(!window->isVisible());
     }
 
+    void givesWhatIsOpenedTheColorsOfItsPanel()
+    {
+        QVERIFY(m_program->settings.setText(SettingsKeys::helpColor, u"7363120"_s)); // a dark blue
+        const auto window = open();
+        window->openOver();
+        const QPalette panel = control<QWidget>(*window, "panel")->palette();
+        QCOMPARE(panel.color(QPalette::WindowText), QColor(Qt::white));
+        QCOMPARE(control<QLineEdit>(*window, "over")->palette().color(QPalette::WindowText),
+                 QColor(Qt::white));
+    }
+
     void leavesKeysToThePageThatIsShown()
     {
         const auto window = open();
