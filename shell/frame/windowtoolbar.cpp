@@ -14,6 +14,8 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 WindowToolbar::WindowToolbar(Program &program, TextSetting removal, Commands &commands, ActivityBar &activity,
@@ -45,8 +47,11 @@ void WindowToolbar::addToMenu()
         return;
     m_customize = m_commands.add(nullptr, u"mOCT"_s, u"Customi&ze Toolbar"_s, [this] { customize(); });
     const QList<QAction *> entries = options->actions();
-    const bool isGroup = entries.size() > 1 && entries[entries.size() - 2]->isSeparator();
-    options->insertAction(entries[entries.size() - (isGroup ? 2 : 1)], m_customize);
+    const auto isColor = [](const QAction *entry) {
+        return entry->objectName() == "mOC"_L1 || entry->objectName() == "mOTC"_L1;
+    };
+    const auto other = std::ranges::find_if_not(entries, isColor);
+    options->insertAction(other == entries.end() ? nullptr : *other, m_customize);
 }
 
 void WindowToolbar::customize()

@@ -23,7 +23,7 @@ public:
     void complete(const QString &storeKey);
 
 private:
-    /// The customizer opens from the menu of the options as well, in front of what stands last in it.
+    /// The customizer opens from the menu of the options as well, behind the colors.
     void addToMenu();
     void customize();
     void showUnlessRemoved();
