@@ -25,7 +25,7 @@ public:
         , m_at(int(at - file->bytes.constData()))
         , m_length(int(length))
     {}
-    FileText(const QString &text); // NOLINT(google-explicit-constructor): a text is what it stands for
+    FileText(const QString &text);
 
     QString text() const { return plain(bytes()); }
     bool isEmpty() const { return m_length == 0; }

@@ -110,10 +110,15 @@ void Spending::rename(const QString &from, const QString &to)
         if (amount.item == from)
             amount.item = to;
     }
-    for (PaidMark &mark : paid) {
+    QList<PaidMark> marks;
+    for (PaidMark mark : paid) {
+        if (mark.item == from && isPaid(to, mark.month))
+            continue; // one mark is enough
         if (mark.item == from)
             mark.item = to;
+        marks.append(mark);
     }
+    paid = marks;
     for (ImportRule &rule : rules) {
         if (rule.item == from)
             rule.item = to;

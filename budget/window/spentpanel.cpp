@@ -52,9 +52,9 @@ SpentPanel::SpentPanel(const Program &program, SpentYear &year, QWidget *window)
            {u"Note"_s, Qt::AlignLeft, [](const Line &line) { return line.amount.note.text().simplified(); }}},
           this))
     , m_view(named(new QTableView(this), u"spentList"_s))
+    , m_sum(titleLine().addWords(u"spentSum"_s))
     , m_empty(named(makeQuietLabel(SpentLines::noneYet(), this), u"spentEmpty"_s))
 {
-    titleLine().addWords(u"spentSum"_s);
     m_view->setModel(m_model);
     setGridRows(m_view);
     m_view->setAccessibleName(u"Amounts spent"_s);
@@ -169,7 +169,7 @@ void SpentPanel::refresh()
                            ? centsOf(sheet.rows[std::size_t(of)].amounts[std::size_t(month)])
                            : 0;
     }
-    findChild<QLabel *>(u"spentSum"_s)->setText(SpentLines::ofPlan(sum, planned));
+    m_sum->setText(SpentLines::ofPlan(sum, planned));
     if (wasChosen >= 0 && m_model->rowCount() > 0)
         m_view->selectRow(std::clamp(row, 0, m_model->rowCount() - 1));
     fill();
@@ -270,7 +270,8 @@ void SpentPanel::remove()
 qsizetype SpentPanel::chosen() const
 {
     const QModelIndexList rows = m_view->selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : m_model->row(rows.first().row()).at;
+    const qsizetype at = rows.isEmpty() ? -1 : m_model->row(rows.first().row()).at;
+    return at < m_year.spending().amounts.size() ? at : -1;
 }
 
 bool SpentPanel::eventFilter(QObject *watched, QEvent *event)

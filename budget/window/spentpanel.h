@@ -59,6 +59,7 @@ private:
     int m_month = -1;
     RowsModel<Line> *m_model;
     QTableView *m_view;
+    QLabel *m_sum;
     QLabel *m_empty;
     DateBox *m_date = nullptr;
     QLineEdit *m_amount = nullptr;

@@ -149,6 +149,16 @@ private slots:
         QCOMPARE(spending.rules.first().item, owner);
     }
 
+    void keepsOneMarkOfTwoItemsThatBecomeOne()
+    {
+        Spending spending;
+        spending.tick(u"Rent"_s, QDate(2026, 3, 1), 100);
+        spending.tick(u"Flat"_s, QDate(2026, 3, 1), 200);
+        spending.rename(u"Rent"_s, u"Flat"_s);
+        QCOMPARE(spending.paid.size(), 1);
+        QCOMPARE(spending.spent(u"Flat"_s, 3), 300);
+    }
+
     void ticksWhatIsPaid()
     {
         Spending spending;
