@@ -5,6 +5,7 @@
 #include "budget/window/sheetgrid.h"
 #include "shell/core/place.h"
 #include "tests/support/openwindow.h"
+#include "tests/support/rows.h"
 
 #include <QComboBox>
 #include <QTableView>
@@ -16,19 +17,8 @@ class TestSpent : public OpenWindow<Budget1>
 {
     Q_OBJECT
 private slots:
-    void init()
-    {
-        m_test = std::make_unique<TestProgram>();
-        m_test->clock.time = {QDate(2026, 3, 20), QTime(10, 24)};
-        BudgetSheet sheet;
-        sheet.rows[0].item = u"Rent"_s;
-        sheet.rows[0].amounts[1] = sheet.rows[0].amounts[2] = u"100.00"_s;
-        sheet.rows[1].item = u"Fuel"_s;
-        m_test->setBytes(u"2026.Fil"_s, BudgetFiles::encode(sheet));
-        m_window = new Budget1(m_test->program);
-        showActive(*m_window);
-        m_grid = m_window->findChild<SheetGrid *>();
-    }
+    void init() { open(); }
+
     void cleanup() { close(); }
 
     void addsWhatIsTyped()
@@ -163,6 +153,36 @@ private slots:
         QCOMPARE(said(), u"none.csv cannot be read"_s);
     }
 
+    void refusesWhatCannotBeWritten_data()
+    {
+        rows<QString, QByteArray, QString>(
+            {{"for reading only", u"Only to look at"_s, "spent\t2026-03-01\t5.00\tRent\t\n",
+              u"Only to look at"_s},
+             {"a later version",
+              {},
+              "Quillery spent amounts 2\nspent\t2026-03-01\t5.00\tRent\t\n",
+              u"Quillery.spent-2026 was written by a later version of the program: it is only shown"_s}});
+    }
+
+    void refusesWhatCannotBeWritten()
+    {
+        const auto [whyReadOnly, spent, reason] = row<QString, QByteArray, QString>();
+        open(whyReadOnly, spent);
+        trigger("mVSpent");
+        typeAt(0, 3, u"7"_s);
+        QCOMPARE(textAt(0, 3), u"5.00"_s);
+        m_grid->setCurrentIndex(m_grid->model()->index(0, 3));
+        trigger("mVAmounts");
+        QCOMPARE(find<QPushButton>("spentTake")->toolTip(), reason);
+        typeInto(find<QLineEdit>("spentAmount"), u"7"_s);
+        QTest::keyClick(find<QLineEdit>("spentAmount"), Qt::Key_Return);
+        click("spentClose");
+        trigger("mVDue");
+        QTest::keyClick(find<QTableView>("dueList"), Qt::Key_Space);
+        QVERIFY(!m_window->isModified());
+        QVERIFY(!find<QAction>("mUBank")->isEnabled());
+    }
+
     void leadsToAPlace()
     {
         m_test->setBytes(u"Quillery.spent-2025"_s, "spent\t2025-05-05\t7.00\tGone\tlost\n");
@@ -177,6 +197,23 @@ private slots:
     }
 
 private:
+    void open(const QString &whyReadOnly = {}, const QByteArray &spent = {})
+    {
+        delete m_window;
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty, whyReadOnly);
+        m_test->clock.time = {QDate(2026, 3, 20), QTime(10, 24)};
+        BudgetSheet sheet;
+        sheet.rows[0].item = u"Rent"_s;
+        sheet.rows[0].amounts[1] = sheet.rows[0].amounts[2] = u"100.00"_s;
+        sheet.rows[1].item = u"Fuel"_s;
+        m_test->setBytes(u"2026.Fil"_s, BudgetFiles::encode(sheet));
+        if (!spent.isEmpty())
+            m_test->setBytes(u"Quillery.spent-2026"_s, spent);
+        m_window = new Budget1(m_test->program);
+        showActive(*m_window);
+        m_grid = m_window->findChild<SheetGrid *>();
+    }
+
     void typeAt(int row, int column, const QString &text) const
     {
         m_grid->setCurrentIndex(m_grid->model()->index(row, column));
