@@ -23,22 +23,31 @@ Page started(const QString &title, const PageContext &context)
     return page;
 }
 
-/// The year's three sums beside one another.
-void addSums(Page &page, const BudgetFigures &figures, BudgetBasis basis)
+/// The year's three sums beside one another; a sheet on its side is low and has room for them in one line.
+void addSums(Page &page, const BudgetFigures &figures, BudgetBasis basis, PageSetup::Orientation orientation)
 {
     const auto sum = [&](double amount) {
         const QString share = figures.share(amount, basis);
         return share.isEmpty() ? Amount::text(amount) : QString(Amount::text(amount) + u"  "_s + share);
     };
+    const QStringList captions{BudgetPaper::totalIncome().trimmed(), BudgetPaper::totalExpenses(),
+                               BudgetPaper::balance().trimmed()};
+    QStringList sums{sum(figures.income), sum(figures.expenses), sum(figures.balance)};
     PageItem::Columns columns;
     columns.weights = {1, 1, 1};
     columns.alignments = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
     columns.lines = TableLines::None;
     page.table(columns);
-    page.rowWithNext({BudgetPaper::totalIncome().trimmed(), BudgetPaper::totalExpenses(),
-                      BudgetPaper::balance().trimmed()});
-    page.row({sum(figures.income), sum(figures.expenses), sum(figures.balance)}, TextRole::Strong);
-    page.line(BudgetPages::basisCaption(basis), TextRole::Small).blankLine();
+    if (orientation == PageSetup::Portrait)
+        page.rowWithNext(captions);
+    for (qsizetype i = 0; orientation == PageSetup::Landscape && i < sums.size(); ++i)
+        sums[i].prepend(captions[i] + u"  "_s);
+    page.row(sums, TextRole::Strong);
+    page.line(BudgetPages::basisCaption(basis), TextRole::Small);
+    if (orientation == PageSetup::Portrait)
+        page.blankLine();
+    else
+        page.rule();
 }
 
 /// An item's year as a month on average.
@@ -80,7 +89,7 @@ Page BudgetPages::totals(int year, const BudgetSheet &sheet, BudgetBasis basis, 
             .placePicture(chartFrame(context.setup.orientation), chartPicture)
             .belowPlaced();
     const BudgetFigures figures = BudgetFigures::of(sheet);
-    addSums(page, figures, basis);
+    addSums(page, figures, basis, context.setup.orientation);
     PageItem::Columns columns;
     columns.weights = {3, 1.2, 1.2};
     columns.headings = BudgetPaper::totalsHeadings();
