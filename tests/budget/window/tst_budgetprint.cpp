@@ -50,6 +50,18 @@ private slots:
         QCOMPARE(labelText("Panel3D80"), u" Portrait"_s);
     }
 
+    void theTotalsHaveTheirChartInItsFrame()
+    {
+        const auto shape = [this] {
+            const QSizeF size = QImage(m_test->path(u"Chartxxx.jpg"_s)).size();
+            return size.width() / size.height();
+        };
+        trigger("mOPTotals");
+        QVERIFY(qAbs(shape() - 7.3 / 4.15) < 0.01);
+        click("SSCommand80_1");
+        QVERIFY(qAbs(shape() - 9.9 / 4.4) < 0.01);
+    }
+
     void copiesWhatIsShown()
     {
         m_test->dialogs.willAnswer(Answer::Ok);
