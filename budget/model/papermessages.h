@@ -154,6 +154,13 @@ inline Message deviceUnavailable()
     return {u"Device Status"_s, u"Device Unavailable!  "_s, Message::Critical};
 }
 
+// The chart.
+
+inline QString chartNotSaved()
+{
+    return u"The disk refuses the picture of the chart; it is printed all the same"_s;
+}
+
 // Reasons why a command cannot be used.
 
 inline QString nothingToExport()

@@ -91,10 +91,21 @@ void BudgetPrint::printTotals()
     const BudgetBasis basis = m_basis ? m_basis() : BudgetBasis::Income;
     const auto page = [this, year = m_from.year.year(), sheet, basis](const PageContext &context) {
         const QSizeF frame = BudgetPages::chartFrame(context.setup.orientation).size();
-        const QString picture = m_chart ? m_picture.store(m_chart(sheet, basis, frame)) : QString();
-        return BudgetPages::totals(year, sheet, basis, picture, context);
+        return BudgetPages::totals(year, sheet, basis, storeChart(sheet, basis, frame), context);
     };
     m_window->showPreview(page, nameOf(u"Budget Totals"_s));
+}
+
+/// The path of its picture, wherever that could be kept.
+QString BudgetPrint::storeChart(const BudgetSheet &sheet, BudgetBasis basis, QSizeF inches)
+{
+    if (!m_chart)
+        return {};
+    const QString path = m_picture.store(m_chart(sheet, basis, inches));
+    const DataFolder &folder = m_program.folder;
+    if (!folder.isReadOnly() && path != folder.filePath(ChartPicture::fileName))
+        emit said(BudgetPaper::chartNotSaved());
+    return path;
 }
 
 void BudgetPrint::printDiscussion()

@@ -44,7 +44,12 @@ public:
 
     void printTotals();
 
+signals:
+    /// A quiet line for the status bar.
+    void said(const QString &line);
+
 private:
+    QString storeChart(const BudgetSheet &sheet, BudgetBasis basis, QSizeF inches);
     void printSheet();
     void printDiscussion();
     void copy();

@@ -174,6 +174,7 @@ void Budget1::connectSheet()
             },
             Qt::QueuedConnection);
     });
+    connect(m_print, &BudgetPrint::said, &activity(), &ActivityBar::say);
     connect(m_spentDesk, &SpentDesk::said, &activity(), &ActivityBar::say);
     connect(m_spentDesk, &SpentDesk::progressed, this,
             [this](int done, int total) { activity().showProgress(done, total, true); });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/window/totalschart.h"
 
+#include "budget/model/budgetpages.h"
 #include "budget/model/totals.h"
 #include "shell/charts/paperchart.h"
 
@@ -10,9 +11,22 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr double pageMargin = 0.5;
+
 BarChart::Bar bar(const QString &name, double total, const BudgetFigures &figures, BudgetBasis basis)
 {
     return {name.simplified(), total, TotalsLines::dollars(total), figures.share(total, basis)};
+}
+
+/// What is written begins in line with what stands on the page below the frame.
+double insetIn(QSizeF frame)
+{
+    for (const auto orientation : {PageSetup::Portrait, PageSetup::Landscape}) {
+        const QRectF place = BudgetPages::chartFrame(orientation);
+        if (place.size() == frame)
+            return pageMargin - place.left();
+    }
+    return 0;
 }
 
 } // namespace
@@ -42,5 +56,5 @@ BarChart TotalsChart::of(int year, const BudgetSheet &sheet, BudgetBasis basis, 
 
 QImage TotalsChart::onPaper(int year, const BudgetSheet &sheet, BudgetBasis basis, QSizeF inches)
 {
-    return PaperChart::draw(of(year, sheet, basis, PaperChart::mostBars(inches)), inches);
+    return PaperChart::draw(of(year, sheet, basis, PaperChart::mostBars(inches)), inches, insetIn(inches));
 }

@@ -12,7 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr double corner = 8;
-}
+constexpr int shareFoot = 3; ///< brings it down to the line of the amount
+} // namespace
 
 TotalsSums::TotalsSums(QWidget *parent)
     : QWidget(parent)
@@ -32,13 +33,14 @@ TotalsSums::Labels TotalsSums::add(const QString &caption, const QString &amount
 {
     const Labels labels{caption, named(makeTitle({}, this), amountName), named(new QLabel(this), shareName)};
     labels.share->setFont(TypeScale::strong());
+    labels.share->setContentsMargins(0, 0, 0, shareFoot);
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(1);
     grid->addWidget(makeQuietLabel(caption, this), 0, 0);
     grid->addWidget(makeQuietLabel(u"Percent"_s, this), 0, 1);
     grid->addWidget(labels.amount, 1, 0);
-    grid->addWidget(labels.share, 1, 1);
+    grid->addWidget(labels.share, 1, 1, Qt::AlignBottom);
     grid->setColumnStretch(2, 1);
     m_row->addLayout(grid, 1);
     return labels;

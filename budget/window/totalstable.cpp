@@ -16,7 +16,8 @@ namespace {
 
 constexpr int frame = 4; ///< rim and padding
 constexpr int fewestRows = 4;
-constexpr int leastItemWidth = 150;
+constexpr int scrollWidth = 14;
+constexpr int leastItemWidth = 170;
 
 using Row = BudgetTotals::Row;
 
@@ -26,6 +27,22 @@ std::vector<TableColumn<Row>> columns()
     return {{heads[0], Qt::AlignLeft, [](const Row &row) { return row.item; }},
             {heads[1], Qt::AlignRight, [](const Row &row) { return Amount::text(row.total); }},
             {heads[2], Qt::AlignRight, [](const Row &row) { return row.share; }}};
+}
+
+int widthOf(const QString &figure)
+{
+    return QFontMetrics(TypeScale::strong()).horizontalAdvance(figure) + 2 * SheetLook::inset;
+}
+
+/// The sum of a year's largest amounts.
+int totalWidth()
+{
+    return widthOf(u"119999.88"_s);
+}
+
+int shareWidth()
+{
+    return widthOf(u"100.00%"_s);
 }
 
 /// The current row is marked as a whole.
@@ -105,28 +122,29 @@ int TotalsTable::heightOf(int rows) const
     return horizontalHeader()->sizeHint().height() + rows * SheetLook::rowHeight() + 2 * frame;
 }
 
-/// Of the columns with figures: a year's sum of the largest amounts, and "100.00%".
-int TotalsTable::figureWidth() const
+int TotalsTable::heightIn(int room) const
 {
-    return QFontMetrics(TypeScale::strong()).horizontalAdvance(u"119999.88"_s) + 2 * SheetLook::inset;
+    const int rows = (room - heightOf(0)) / SheetLook::rowHeight();
+    return heightOf(std::clamp(rows, 1, std::max(1, m_model.rowCount())));
 }
 
 QSize TotalsTable::sizeHint() const
 {
-    return {leastItemWidth + 2 * figureWidth() + 2 * frame, heightOf(m_model.rowCount())};
+    return {leastItemWidth + totalWidth() + shareWidth() + scrollWidth + 2 * frame,
+            heightOf(m_model.rowCount())};
 }
 
 QSize TotalsTable::minimumSizeHint() const
 {
-    return {leastItemWidth + 2 * figureWidth() + 2 * frame, heightOf(fewestRows)};
+    return {leastItemWidth + totalWidth() + shareWidth() + scrollWidth + 2 * frame, heightOf(fewestRows)};
 }
 
 void TotalsTable::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
-    setColumnWidth(1, figureWidth());
-    setColumnWidth(2, figureWidth());
-    setColumnWidth(0, std::max(leastItemWidth, viewport()->width() - 2 * figureWidth()));
+    setColumnWidth(1, totalWidth());
+    setColumnWidth(2, shareWidth());
+    setColumnWidth(0, viewport()->width() - totalWidth() - shareWidth());
 }
 
 void TotalsTable::focusInEvent(QFocusEvent *event)

@@ -14,6 +14,8 @@ public:
     explicit TotalsTable(QWidget *parent = nullptr);
 
     void setRows(const QList<BudgetTotals::Row> &rows);
+    /// The height of the whole rows that have room in `room`.
+    int heightIn(int room) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -24,7 +26,6 @@ protected:
 
 private:
     int heightOf(int rows) const;
-    int figureWidth() const;
 
     RowsModel<BudgetTotals::Row> m_model;
 };

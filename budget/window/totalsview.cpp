@@ -3,12 +3,12 @@
 
 #include "budget/model/budgetpages.h"
 #include "budget/window/totalschart.h"
+#include "budget/window/totalspane.h"
 #include "budget/window/totalssums.h"
 #include "budget/window/totalstable.h"
 #include "shell/charts/barchartview.h"
 #include "shell/controls/buttonrow.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -17,36 +17,23 @@ using namespace Qt::Literals::StringLiterals;
 
 TotalsView::TotalsView(QWidget *parent)
     : TaskPanel(u"totalsPanel"_s, {}, parent)
-    , m_switch(makeButton(u"Command12"_s, {}, this))
     , m_sums(new TotalsSums)
+    , m_pane(new TotalsPane)
 {
     auto *work = new QWidget(this);
     auto *rows = new QVBoxLayout(work);
     rows->setContentsMargins({});
     rows->setSpacing(12);
     rows->addWidget(m_sums);
-    rows->addWidget(makeFigures(), 1);
+    rows->addWidget(m_pane, 1);
     setWork(work);
+    m_switch = addButton(u"Command12"_s, {}, ButtonKind::Plain, Side::Left);
     m_switch->setToolTip(u"Click to divide by the other total"_s);
     connect(m_switch, &QPushButton::clicked, this, &TotalsView::switchBasis);
-    addButton(m_switch, Side::Left);
     connect(addButton(u"totalsPrint"_s, u"&Print Totals"_s), &QPushButton::clicked, this,
             &TotalsView::printWanted);
     setLeaveButton(u"totalsClose"_s, u"&Back to Sheet"_s);
-    setFocusProxy(m_table);
-}
-
-QWidget *TotalsView::makeFigures()
-{
-    auto *row = new QWidget(this);
-    m_table = named(new TotalsTable(row), u"Grid2"_s);
-    m_chart = new BarChartView(u"totalsChart"_s, row);
-    auto *line = new QHBoxLayout(row);
-    line->setContentsMargins({});
-    line->setSpacing(16);
-    line->addWidget(m_table, 2);
-    line->addWidget(m_chart, 3);
-    return row;
+    setFocusProxy(m_pane);
 }
 
 void TotalsView::showTotals(int year, const BudgetSheet &sheet)
@@ -69,7 +56,8 @@ void TotalsView::refresh()
     setTitle(TotalsLines::heading(m_year));
     m_switch->setText(BudgetPages::basisCaption(m_basis));
     m_sums->showSums(totals);
-    m_table->setRows(totals.rows);
-    m_chart->setChart(TotalsChart::of(m_year, m_sheet, m_basis));
+    m_pane->table().setRows(totals.rows);
+    m_pane->chart().setChart(TotalsChart::of(m_year, m_sheet, m_basis));
+    m_pane->arrange();
     buttonRow().rearrange();
 }

@@ -4,9 +4,8 @@
 #include "budget/model/totals.h"
 #include "shell/controls/taskpanel.h"
 
-class BarChartView;
+class TotalsPane;
 class TotalsSums;
-class TotalsTable;
 
 /// The totals of a year over its sheet: what it comes to, item by item as a table and as a chart, with
 /// percentages of the income or of the expenses.
@@ -24,15 +23,13 @@ signals:
     void printWanted();
 
 private:
-    QWidget *makeFigures();
     void switchBasis();
     void refresh();
 
     int m_year = 0;
     BudgetSheet m_sheet;
     BudgetBasis m_basis = BudgetBasis::Income;
-    QPushButton *m_switch;
     TotalsSums *m_sums;
-    TotalsTable *m_table = nullptr;
-    BarChartView *m_chart = nullptr;
+    TotalsPane *m_pane;
+    QPushButton *m_switch;
 };

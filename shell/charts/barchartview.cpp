@@ -88,6 +88,11 @@ QSize BarChartView::sizeHint() const
     return {2 * leastWidth, headHeight() + m_plot->heightOf(rows, rowHeight) + frame};
 }
 
+int BarChartView::mostHeight() const
+{
+    return headHeight() + m_plot->heightOf(std::max(fewestRows, count()), mostRowHeight) + frame;
+}
+
 QSize BarChartView::minimumSizeHint() const
 {
     const int rowHeight = ChartStyle::onScreen(this).rowHeight;
@@ -105,7 +110,8 @@ void BarChartView::restyle()
 void BarChartView::arrange()
 {
     const int top = headHeight();
-    const int least = ChartStyle::onScreen(this).rowHeight;
+    const ChartStyle style = ChartStyle::onScreen(this);
+    const int least = style.rowHeight;
     const int room = height() - top - frame - m_plot->heightOf(0, least);
     const int rowHeight = count() > 0 ? std::clamp(room / count(), least, mostRowHeight) : least;
     m_inView = std::clamp(room / rowHeight, 1, std::max(1, count()));
@@ -117,7 +123,9 @@ void BarChartView::arrange()
     m_reading->setGeometry(frame + titleWidth + headGap, frame, std::max(0, width - titleWidth - headGap),
                            titleHeight);
     m_caption->setGeometry(frame, frame + titleHeight, width, m_caption->sizeHint().height());
-    m_plot->widget()->setGeometry(frame, top, width, m_plot->heightOf(m_inView, rowHeight));
+    // The names stand below the title.
+    m_plot->widget()->setGeometry(frame - style.inset, top, width + style.inset,
+                                  m_plot->heightOf(m_inView, rowHeight));
     m_bar->setGeometry(frame + width, top, barWidth, m_inView * rowHeight);
     m_bar->setVisible(!isWhole);
     m_bar->setRange(0, std::max(0, count() - m_inView));

@@ -30,6 +30,8 @@ public:
     /// Of the view; null for a bar that is not in view.
     QRect barRect(int bar) const;
 
+    /// The height in which no bar could stand further from the next.
+    int mostHeight() const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

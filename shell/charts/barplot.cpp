@@ -9,10 +9,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int gap = 10;       ///< between a name, its bar and its figures
-constexpr int axisGap = 6;    ///< between the bars and the numbers below them
-constexpr int thickest = 20;  ///< a bar
-constexpr double corner = 2;  ///< of a bar
+constexpr int gap = 10; ///< between a name, its bar and its figures
+constexpr int rightInset = 6;
+constexpr int readableName = 120;
+constexpr int axisGap = 6;   ///< between the bars and the numbers below them
+constexpr int thickest = 20; ///< a bar
+constexpr double corner = 2; ///< of a bar
+constexpr double bandCorner = 6;
 constexpr int tickRoom = 100; ///< for a number on the axis, at least
 
 /// Numbers on the axis as the chart writes them.
@@ -56,20 +59,23 @@ protected:
     }
 
 private:
+    int shareBegin(const BarChart::Bar &bar) const;
     void drawRow(QCPPainter *painter, int bar) const;
+    void clearFor(QCPPainter *painter, const BarChart::Bar &bar, const QRectF &place) const;
+    void drawName(QCPPainter *painter, const QString &name, const QRectF &place) const;
     void drawFigures(QCPPainter *painter, const BarChart::Bar &bar, const QRectF &place) const;
 
     const BarPlot &m_plot;
 };
 
-/// A third of the width at most: what is longer is cut.
+/// A third of the width at most, or what a name needs: what is longer is cut.
 int BarPlot::Rows::nameWidth(int width) const
 {
     const QFontMetrics metrics(m_plot.m_style.body);
     int widest = 0;
     for (const BarChart::Bar &bar : m_plot.m_chart.bars)
         widest = std::max(widest, metrics.horizontalAdvance(bar.name) + 1);
-    return std::min(widest, width * 3 / 10);
+    return std::min(widest, std::max(width * 3 / 10, std::min(readableName, width * 4 / 10)));
 }
 
 int BarPlot::Rows::figuresWidth() const
@@ -101,32 +107,49 @@ void BarPlot::Rows::drawRow(QCPPainter *painter, int bar) const
 {
     const ChartStyle &style = m_plot.m_style;
     const BarChart::Bar &of = m_plot.m_chart.bars[bar];
-    const QRect axes = keyAxis()->axisRect()->rect();
+    const double left = keyAxis()->axisRect()->left();
     const double middle = keyAxis()->coordToPixel(bar);
-    const QRectF row(0, middle - m_plot.m_rowHeight / 2.0, parentPlot()->viewport().width(),
-                     m_plot.m_rowHeight);
+    const double height = m_plot.m_rowHeight;
+    const QRectF row(0, middle - height / 2, parentPlot()->viewport().width(), height);
+    const double end = valueAxis()->coordToPixel(std::max(0.0, of.value));
+    const QRectF figures(end + gap, row.top(), row.right() - end - gap, height);
+    clearFor(painter, of, figures);
+    painter->setPen(Qt::NoPen);
     if (bar == current) {
         QColor band = style.series;
         band.setAlphaF(0.14F);
-        painter->setPen(Qt::NoPen);
         painter->setBrush(band);
-        painter->drawRoundedRect(row, 6, 6);
+        painter->drawRoundedRect(row, bandCorner, bandCorner);
     }
-    painter->setFont(style.body);
-    painter->setPen(style.text);
-    const int nameWidth = axes.left() - gap;
-    const QString name = QFontMetrics(style.body).elidedText(of.name, Qt::ElideRight, nameWidth);
-    painter->drawText(QRectF(0, row.top(), nameWidth, row.height()), int(Qt::AlignVCenter | Qt::AlignLeft),
-                      name);
-    const double end = valueAxis()->coordToPixel(std::max(0.0, of.value));
-    const double thickness = std::min<double>(thickest, m_plot.m_rowHeight * 0.64);
-    painter->setPen(Qt::NoPen);
     painter->setBrush(style.series);
+    const double thickness = std::min<double>(thickest, height * 0.64);
     if (of.value > 0)
-        painter->drawRoundedRect(
-            QRectF(axes.left(), middle - thickness / 2, std::max(1.0, end - axes.left()), thickness), corner,
-            corner);
-    drawFigures(painter, of, QRectF(end + gap, row.top(), row.width() - end - gap, row.height()));
+        painter->drawRoundedRect(QRectF(left, middle - thickness / 2, std::max(1.0, end - left), thickness),
+                                 corner, corner);
+    painter->setFont(style.body);
+    drawName(painter, of.name, QRectF(style.inset, row.top(), left - gap - style.inset, height));
+    drawFigures(painter, of, figures);
+}
+
+int BarPlot::Rows::shareBegin(const BarChart::Bar &bar) const
+{
+    return QFontMetrics(m_plot.m_style.body).horizontalAdvance(bar.amount) + gap;
+}
+
+/// No hairline runs through the figures.
+void BarPlot::Rows::clearFor(QCPPainter *painter, const BarChart::Bar &bar, const QRectF &place) const
+{
+    const QFontMetrics metrics(m_plot.m_style.body);
+    const int width = shareBegin(bar) + metrics.horizontalAdvance(bar.share) + 4;
+    painter->fillRect(QRectF(place.left() - 2, place.top(), width, place.height()), m_plot.m_style.ground);
+}
+
+void BarPlot::Rows::drawName(QCPPainter *painter, const QString &name, const QRectF &place) const
+{
+    const QFontMetrics metrics(m_plot.m_style.body);
+    painter->setPen(m_plot.m_style.text);
+    painter->drawText(place, int(Qt::AlignVCenter | Qt::AlignLeft),
+                      metrics.elidedText(name, Qt::ElideRight, int(place.width()) + 1));
 }
 
 void BarPlot::Rows::drawFigures(QCPPainter *painter, const BarChart::Bar &bar, const QRectF &place) const
@@ -135,8 +158,7 @@ void BarPlot::Rows::drawFigures(QCPPainter *painter, const BarChart::Bar &bar, c
     painter->setPen(m_plot.m_style.text);
     painter->drawText(place, align, bar.amount);
     painter->setPen(m_plot.m_style.quiet);
-    const int width = QFontMetrics(m_plot.m_style.body).horizontalAdvance(bar.amount) + gap;
-    painter->drawText(place.adjusted(width, 0, 0, 0), align, bar.share);
+    painter->drawText(place.adjusted(shareBegin(bar), 0, 0, 0), align, bar.share);
 }
 
 BarPlot::BarPlot(QWidget *parent)
@@ -215,8 +237,8 @@ int BarPlot::heightOf(int count, int height) const
 void BarPlot::fit(int width)
 {
     QCPAxisRect *axes = m_plot->axisRect();
-    const int left = m_rows->nameWidth(width) + gap;
-    const int right = m_rows->figuresWidth() + gap;
+    const int left = m_style.inset + m_rows->nameWidth(width) + gap;
+    const int right = gap + m_rows->figuresWidth() + rightInset;
     axes->setMargins({left, 0, right, axisHeight()});
     const int room = std::max(1, width - left - right);
     m_plot->xAxis->ticker()->setTickCount(std::clamp(room / tickRoom, 1, 6));

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int leastRowHeight = 28;
 constexpr int paperRowHeight = 17;
+constexpr int screenInset = 6;
 
 QFont pixels(int size, QFont::Weight weight = QFont::Normal)
 {
@@ -36,10 +37,11 @@ ChartStyle ChartStyle::onScreen(const QWidget *widget)
             .title = TypeScale::group(),
             .body = TypeScale::body(),
             .label = TypeScale::label(),
-            .rowHeight = std::max(leastRowHeight, QFontMetrics(TypeScale::body()).height() + 8)};
+            .rowHeight = std::max(leastRowHeight, QFontMetrics(TypeScale::body()).height() + 8),
+            .inset = screenInset};
 }
 
-ChartStyle ChartStyle::onPaper()
+ChartStyle ChartStyle::onPaper(int inset)
 {
     return {.ground = Qt::white,
             .text = Qt::black,
@@ -49,5 +51,6 @@ ChartStyle ChartStyle::onPaper()
             .title = pixels(15, QFont::DemiBold),
             .body = pixels(12),
             .label = pixels(12),
-            .rowHeight = paperRowHeight};
+            .rowHeight = paperRowHeight,
+            .inset = inset};
 }

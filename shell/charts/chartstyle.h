@@ -13,8 +13,9 @@ struct ChartStyle {
     QColor series; ///< bars
     QFont title, body, label;
     int rowHeight = 0; ///< of a bar with its name
+    int inset = 0;     ///< between the left edge and what is written
 
     static ChartStyle onScreen(const QWidget *widget);
     /// For a picture of 96 points to the inch, drawn larger.
-    static ChartStyle onPaper();
+    static ChartStyle onPaper(int inset = 0);
 };

@@ -14,7 +14,9 @@ namespace {
 constexpr double printed = 300; ///< points to the inch
 constexpr double drawn = 96;
 constexpr int mostRowHeight = 30;
+constexpr double narrowestColumn = 3.5; ///< in inches
 constexpr int headGap = 8;
+constexpr int edge = 6; ///< at the right, as the plot's
 
 QSize points(QSizeF inches)
 {
@@ -42,36 +44,53 @@ void drawHead(QPainter &painter, const BarChart &chart, const ChartStyle &style,
     const int height = QFontMetrics(style.title).height();
     painter.setPen(style.text);
     painter.setFont(style.title);
-    painter.drawText(QRect(0, 0, width, height), int(Qt::AlignLeft | Qt::AlignVCenter), chart.title);
+    painter.drawText(QRect(style.inset, 0, width, height), int(Qt::AlignLeft | Qt::AlignVCenter),
+                     chart.title);
     painter.setFont(style.label);
-    painter.drawText(QRect(0, 0, width, height), int(Qt::AlignRight | Qt::AlignVCenter), chart.caption);
+    painter.drawText(QRect(0, 0, width - edge, height), int(Qt::AlignRight | Qt::AlignVCenter),
+                     chart.caption);
+}
+
+/// Bars that have no room below one another stand side by side, as long as their figures stay readable.
+int mostColumns(QSizeF inches)
+{
+    return std::max(1, int(inches.width() / narrowestColumn));
+}
+
+int rowsIn(QSizeF inches, const ChartStyle &style)
+{
+    return std::max(1, barRoom(inches, style) / style.rowHeight);
 }
 
 } // namespace
 
 int PaperChart::mostBars(QSizeF inches)
 {
-    const ChartStyle style = ChartStyle::onPaper();
-    return std::max(1, barRoom(inches, style) / style.rowHeight);
+    return rowsIn(inches, ChartStyle::onPaper()) * mostColumns(inches);
 }
 
-QImage PaperChart::draw(const BarChart &chart, QSizeF inches)
+QImage PaperChart::draw(const BarChart &chart, QSizeF inches, double inset)
 {
     constexpr double scale = printed / drawn;
-    const ChartStyle style = ChartStyle::onPaper();
+    const ChartStyle style = ChartStyle::onPaper(int(std::round(inset * drawn)));
     const QSize size = points(inches);
     const int count = std::max(1, int(chart.bars.size()));
-    const int rowHeight = std::min(mostRowHeight, barRoom(inches, style) / count);
+    const int columns = std::min(mostColumns(inches), 1 + (count - 1) / rowsIn(inches, style));
+    const int rows = 1 + (count - 1) / columns;
+    const int rowHeight = std::min(mostRowHeight, barRoom(inches, style) / rows);
     BarPlot plot;
     plot.setChart(chart, style);
-    plot.setRows(0, count, rowHeight);
-    QImage image(size * scale, QImage::Format_RGB32);
+    QImage image((inches * printed).toSize(), QImage::Format_RGB32);
     image.fill(style.ground);
     QPainter painter(&image);
     painter.scale(scale, scale);
     drawHead(painter, chart, style, size.width());
-    const QSize below(size.width(), plot.heightOf(count, rowHeight));
-    const QPixmap bars = plot.picture(below, scale);
-    painter.drawPixmap(QRectF(QPointF(0, headHeight(style)), QSizeF(below)), bars, QRectF(bars.rect()));
+    const QSize part(size.width() / columns, plot.heightOf(rows, rowHeight));
+    for (int column = 0; column < columns; ++column) {
+        plot.setRows(column * rows, rows, rowHeight);
+        const QPixmap bars = plot.picture(part, scale);
+        painter.drawPixmap(QRectF(QPointF(column * part.width(), headHeight(style)), QSizeF(part)), bars,
+                           QRectF(bars.rect()));
+    }
     return image;
 }

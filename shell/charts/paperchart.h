@@ -12,7 +12,8 @@ namespace PaperChart {
 /// How many bars can be read in a frame of this size in inches.
 int mostBars(QSizeF inches);
 
-/// `chart` in such a frame, for a page that is printed at 300 points to the inch.
-QImage draw(const BarChart &chart, QSizeF inches);
+/// `chart` in such a frame, for a page that is printed at 300 points to the inch; what is written begins
+/// `inset` inches from the left.
+QImage draw(const BarChart &chart, QSizeF inches, double inset = 0);
 
 } // namespace PaperChart
