@@ -14,6 +14,7 @@ namespace {
 constexpr int leastRowHeight = 28;
 constexpr int paperRowHeight = 17;
 constexpr int screenInset = 6;
+constexpr double leastContrast = 3;
 
 QFont pixels(int size, QFont::Weight weight = QFont::Normal)
 {
@@ -25,15 +26,18 @@ QFont pixels(int size, QFont::Weight weight = QFont::Normal)
 
 } // namespace
 
-/// Of the palette: a panel of the user's colour passes its ink on.
+/// Of the palette: a panel of the user's colour passes its ink on. The bars keep their hue where it can be
+/// seen.
 ChartStyle ChartStyle::onScreen(const QWidget *widget)
 {
     const QPalette palette = widget->palette();
-    return {.ground = palette.color(QPalette::Window),
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor accent = Theme::of(widget).accent;
+    return {.ground = ground,
             .text = palette.color(QPalette::WindowText),
             .quiet = palette.color(ThemeRole::quiet),
             .line = palette.color(ThemeRole::line),
-            .series = palette.color(ThemeRole::strong),
+            .series = contrast(accent, ground) >= leastContrast ? accent : palette.color(ThemeRole::strong),
             .title = TypeScale::group(),
             .body = TypeScale::body(),
             .label = TypeScale::label(),
