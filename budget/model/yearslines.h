@@ -98,12 +98,12 @@ inline QString layAside()
 
 inline QString layAsideHow()
 {
-    return u"For what comes in one to three months of the year"_s;
+    return u"For items that are paid in one to three months of the year"_s;
 }
 
 inline QString nothingToLayAside()
 {
-    return u"No item comes in one to three months of the year only."_s;
+    return u"Items that are paid in one to three months of the year would stand here; there are none."_s;
 }
 
 inline QStringList asideHeadings()

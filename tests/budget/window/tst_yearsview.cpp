@@ -45,7 +45,9 @@ private slots:
         openView();
         QVERIFY(isMissing());
         QCOMPARE(labelText("yearsMissing"), u"There is no budget of 2025 to compare with."_s);
-        QCOMPARE(labelText("asideWords"), u"No item comes in one to three months of the year only."_s);
+        QCOMPARE(
+            labelText("asideWords"),
+            u"Items that are paid in one to three months of the year would stand here; there are none."_s);
         QVERIFY(!find<QTableView>("asideTable")->isVisible());
     }
 
