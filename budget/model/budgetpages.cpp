@@ -43,7 +43,7 @@ void addSums(Page &page, const BudgetFigures &figures, BudgetBasis basis, PageSe
     for (qsizetype i = 0; orientation == PageSetup::Landscape && i < sums.size(); ++i)
         sums[i].prepend(captions[i] + u"  "_s);
     page.row(sums, TextRole::Strong);
-    page.line(BudgetPages::basisCaption(basis), TextRole::Small);
+    page.line(BudgetPaper::totalsHint() + u' ' + BudgetPages::basisCaption(basis), TextRole::Small);
     if (orientation == PageSetup::Portrait)
         page.blankLine();
     else

@@ -20,6 +20,12 @@ inline QString totalsTitle(int year)
     return u"BUDGET TOTALS FOR "_s + QString::number(year);
 }
 
+/// Beside what the totals' shares are of.
+inline QString totalsHint()
+{
+    return u"What is planned, in the whole year."_s;
+}
+
 inline QString discussionTitle(int year)
 {
     return u"Budget to Discuss For "_s + QString::number(year);

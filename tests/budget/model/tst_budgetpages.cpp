@@ -102,7 +102,7 @@ private slots:
         QVERIFY(page.start() < frame.top() - 0.3);
         const QString text = page.toText();
         QVERIFY2(text.contains(u"\nItem\tTotal\tPercentage\n"_s + rent + u"\nCar"_s), qPrintable(text));
-        QVERIFY(text.contains(caption));
+        QVERIFY(text.contains(u"What is planned, in the whole year. "_s + caption));
         QVERIFY(!text.contains(u".50\t"_s)); // a row without an item counts in the months alone
 
         const Page plain = BudgetPages::totals(2026, small(), basis, {}, paper(orientation));
