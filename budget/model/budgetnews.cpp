@@ -71,11 +71,15 @@ private:
         const QDate shown = isMoved ? m_today : date;
         if (shown < from || shown > to)
             return;
-        const QString words = isDone    ? u", paid"_s
-                              : isMoved ? u", due "_s + Dates::shortText(date, m_style)
-                                        : QString();
+        const QString words = isDone      ? u", paid"_s
+                              : isMoved   ? u", overdue since "_s + Dates::shortText(date, m_style)
+                              : isOverdue ? u", overdue"_s
+                                          : u", due"_s;
+        const bool isBegun = !isDone && spent > 0;
+        const QString amount =
+            isBegun ? centsText(planned - spent) + u" of "_s + centsText(planned) : centsText(planned);
         notes.append({shown,
-                      due.item + u": "_s + centsText(planned) + words,
+                      due.item + u": "_s + amount + words,
                       u"Home Budget"_s,
                       isDone      ? NoteKind::Done
                       : isOverdue ? NoteKind::Overdue

@@ -64,19 +64,21 @@ private slots:
         const QDate due(2026, 3, 31);
         const QString rent = u"Rent: 850.00"_s;
         rows<QByteArray, QDate, QDate, QDate, QDate, NoteKind, QString>(
-            {{"due", "", first, due, first, due, NoteKind::Due, rent},
+            {{"due", "", first, due, first, due, NoteKind::Due, rent + u", due"_s},
              {"ticked", "paid\t3\t0.00\tRent\n", first, due, first, due, NoteKind::Done, rent + u", paid"_s},
              {"spent", "spent\t2026-03-01\t850.00\tRent\t\n", first, due, first, due, NoteKind::Done,
               rent + u", paid"_s},
+             {"spent in part", "spent\t2026-03-01\t99.50\tRent\t\n", first, due, first, due, NoteKind::Due,
+              u"Rent: 750.50 of 850.00, due"_s},
              {"a shorter month", "", QDate(2026, 2, 1), QDate(2026, 2, 28), QDate(2026, 2, 3),
-              QDate(2026, 2, 28), NoteKind::Due, rent},
+              QDate(2026, 2, 28), NoteKind::Due, rent + u", due"_s},
              {"overdue on its day", "", first, QDate(2026, 4, 4), QDate(2026, 4, 4), due, NoteKind::Overdue,
-              rent},
+              rent + u", overdue"_s},
              {"overdue today", "", QDate(2026, 4, 4), QDate(2026, 4, 11), QDate(2026, 4, 4),
-              QDate(2026, 4, 4), NoteKind::Overdue, rent + u", due Mar 31"_s},
+              QDate(2026, 4, 4), NoteKind::Overdue, rent + u", overdue since Mar 31"_s},
              {"long overdue", "", first, due, QDate(2026, 5, 4), {}, NoteKind::Other, {}},
              {"not planned", "", QDate(2026, 5, 1), QDate(2026, 5, 31), QDate(2026, 5, 31),
-              QDate(2026, 5, 31), NoteKind::Overdue, rent + u", due Apr 30"_s}});
+              QDate(2026, 5, 31), NoteKind::Overdue, rent + u", overdue since Apr 30"_s}});
     }
 
     void notesWhatIsDue()
