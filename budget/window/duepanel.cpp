@@ -15,6 +15,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -42,8 +44,6 @@ DuePanel::DuePanel(const Program &program, SpentYear &year, QWidget *parent)
     m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed |
                             QAbstractItemView::DoubleClicked);
     const QFontMetrics body(TypeScale::body());
-    m_view->setColumnWidth(DueModel::Item,
-                           body.horizontalAdvance(u"Building work and much more"_s) + 4 * inset);
     m_view->setColumnWidth(DueModel::DueDay, body.horizontalAdvance(u"Due day"_s) + 6 * inset);
     for (const int column : {DueModel::Planned, DueModel::Spent})
         m_view->setColumnWidth(column, body.horizontalAdvance(u"-99999.99"_s) + 4 * inset);
@@ -65,6 +65,13 @@ DuePanel::DuePanel(const Program &program, SpentYear &year, QWidget *parent)
 void DuePanel::open(int month, int row)
 {
     setTitle(u"What Is Due, "_s + QString::number(m_year.year()));
+    // The column of the items is as wide as they are, within reason.
+    const QFontMetrics body(TypeScale::body());
+    const QAbstractItemView &list = *m_view;
+    m_view->setColumnWidth(DueModel::Item,
+                           std::clamp(list.sizeHintForColumn(DueModel::Item) + inset,
+                                      body.horizontalAdvance(u"Building work and much more"_s) + 4 * inset,
+                                      body.horizontalAdvance(QString(48, u'n'))));
     m_months->setCurrentIndex(month);
     m_model->setMonth(month);
     int line = 0;

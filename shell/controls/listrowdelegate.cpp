@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QListView>
 #include <QPainter>
 #include <QStyle>
@@ -31,6 +32,19 @@ int ListRowDelegate::rowHeight()
 QSize ListRowDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     return {QStyledItemDelegate::sizeHint(option, index).width() + 2 * inset, rowHeight()};
+}
+
+/// What is typed stands where the text of its column stands.
+QWidget *ListRowDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                       const QModelIndex &index) const
+{
+    QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (auto *box = qobject_cast<QLineEdit *>(editor)) {
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        box->setAlignment(row.displayAlignment);
+    }
+    return editor;
 }
 
 void ListRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
