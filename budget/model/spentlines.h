@@ -2,6 +2,7 @@
 #pragma once
 
 #include "budget/model/spending.h"
+#include "shell/core/message.h"
 
 #include <QLocale>
 
@@ -164,6 +165,28 @@ inline QString ruleNeedsText()
 inline QString ruleAdded(const QString &text, const QString &item)
 {
     return u"\u201c"_s + text + u"\u201d belongs to "_s + item;
+}
+
+inline QString isNoSpending()
+{
+    return u"This line does not count as spent in this year, so that it needs no item"_s;
+}
+
+/// Asked before items that were chosen line by line are left behind.
+inline Message takeFirst(int lines, qint64 cents)
+{
+    return {bringIn(),
+            (lines == 1 ? u"Take the amount that is ticked, "_s
+                        : u"Take the %1 amounts that are ticked, "_s.arg(lines)) +
+                centsText(cents) + u"?\nThe items that you chose for single lines are not kept otherwise."_s,
+            Message::Question,
+            {Answer::Yes, Answer::No, Answer::Cancel},
+            Answer::Yes};
+}
+
+inline QString rulesKept()
+{
+    return u"Kept: the rules for bank files"_s;
 }
 
 // Refusals and reasons

@@ -118,7 +118,8 @@ QString ImportModel::text(const BankLine &line, int column) const
     case Text:
         return line.text;
     case Item:
-        return line.item;
+        // What does not count belongs to nothing, whatever the rules say of its text.
+        return line.state == BankLine::Incoming || line.state == BankLine::OtherYear ? QString() : line.item;
     default:
         return whatBecomesOf(line);
     }

@@ -238,6 +238,11 @@ void ImportPanel::takeLine()
         emit said(SpentLines::ruleNeedsText());
         return;
     }
+    const BankLine::State state = m_import->lines()[m_model->line(row)].state;
+    if (state == BankLine::Incoming || state == BankLine::OtherYear || state == BankLine::NotRead) {
+        emit said(SpentLines::isNoSpending());
+        return;
+    }
     m_model->setItem(row, chosenItem());
     m_view->setFocus();
 }
@@ -264,15 +269,41 @@ void ImportPanel::take()
     Spending wanted = m_year.spending();
     wanted.amounts += m_import->amounts();
     wanted.rules = m_import->rules();
-    leave();
+    goHome();
     m_year.change(SpentLines::broughtIn(m_import->chosenCount(), m_import->chosenCents()), wanted);
+    if (const QList<SpentAmount> amounts = m_import->amounts(); !amounts.isEmpty())
+        emit taken(amounts.first());
 }
 
+void ImportPanel::goHome()
+{
+    m_work->stop();
+    TaskPanel::leave();
+}
+
+/// Items that were chosen line by line would have to be chosen again.
+bool ImportPanel::mayLeave()
+{
+    const bool isLost = std::ranges::any_of(
+        m_import->lines(), [](const BankLine &line) { return line.isByHand && line.isChosen; });
+    if (!isLost || m_work->isRunning() || !m_year.whyReadOnly().isEmpty())
+        return true;
+    const Answer answer =
+        m_program.dialogs.ask(this, SpentLines::takeFirst(m_import->chosenCount(), m_import->chosenCents()));
+    if (answer == Answer::Yes)
+        take();
+    return answer == Answer::No;
+}
+
+/// Rules count the next time too, whether amounts are taken now or not.
 void ImportPanel::leave()
 {
-    if (m_work->isRunning())
-        m_work->stop();
-    TaskPanel::leave();
+    if (!mayLeave())
+        return;
+    goHome();
+    Spending wanted = m_year.spending();
+    wanted.rules = m_import->rules();
+    m_year.change(SpentLines::rulesKept(), wanted);
 }
 
 bool ImportPanel::eventFilter(QObject *watched, QEvent *event)

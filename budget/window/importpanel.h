@@ -32,6 +32,8 @@ signals:
     void said(const QString &line);
     /// Of the reading; `total` 0: it is over.
     void progressed(int done, int total);
+    /// The amounts were taken, `first` before the others.
+    void taken(const SpentAmount &first);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -49,6 +51,8 @@ private:
     void openRules();
     void setRules(const QList<ImportRule> &rules);
     void take();
+    bool mayLeave();
+    void goHome();
     QString chosenItem() const;
 
     const Program &m_program;

@@ -112,6 +112,7 @@ void SpentDesk::openFile()
     if (!m_import) {
         m_import = made(new ImportPanel(m_program, m_desk.year));
         connect(m_import, &ImportPanel::progressed, this, &SpentDesk::progressed);
+        connect(m_import, &ImportPanel::taken, this, &SpentDesk::showTaken);
     }
     if (!m_import->open(*path))
         return;
@@ -208,6 +209,17 @@ void SpentDesk::openAmounts(int row, int month)
     m_amounts->open(row, month);
     m_desk.views.open(m_amounts);
     m_amounts->setFocus();
+}
+
+/// What was brought in is to be seen at once.
+void SpentDesk::showTaken(const SpentAmount &first)
+{
+    setLayer(true);
+    const int row = BudgetItems(m_desk.model.sheet()).row(first.item);
+    if (row < 0)
+        return;
+    m_desk.grid.setCurrentIndex(m_desk.model.index(row, SheetColumn::firstMonth + first.date.month() - 1));
+    m_desk.grid.scrollTo(m_desk.grid.currentIndex());
 }
 
 void SpentDesk::show(const Place &place)

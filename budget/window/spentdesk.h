@@ -18,6 +18,7 @@ class WorkViews;
 struct Message;
 struct Place;
 struct Program;
+struct SpentAmount;
 
 /// The layer of what was spent: the switch beside the year, what is typed into its cells, and the panels
 /// over the sheet.
@@ -60,6 +61,7 @@ private:
     void openAmounts(int row, int month);
     void openDue();
     void openFile();
+    void showTaken(const SpentAmount &first);
     template <typename Panel>
     Panel *made(Panel *panel);
     void setLayer(bool isSpent);

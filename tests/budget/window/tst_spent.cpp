@@ -91,6 +91,7 @@ private slots:
         auto *list = find<QTableView>("dueList");
         QCOMPARE(QApplication::focusWidget(), list);
         QTest::keyClick(list, Qt::Key_3);
+        QVERIFY(list->findChild<QLineEdit *>()->alignment().testFlag(Qt::AlignRight));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_1);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCoreApplication::processEvents();
@@ -126,13 +127,19 @@ private slots:
         find<QComboBox>("ruleItem")->setCurrentText(u"Fuel"_s);
         click("ruleAdd");
         QTRY_VERIFY(isOffered("importTake"));
+        // The rule is still there when nothing is taken.
+        click("importClose");
+        QTRY_COMPARE(said(), u"Kept: the rules for bank files"_s);
+        m_test->dialogs.willChooseFile(m_test->path(u"bank.csv"_s));
+        trigger("mUBank");
+        QTRY_VERIFY(isOffered("importTake"));
         list->selectRow(1);
         QTest::keyClick(list, Qt::Key_Space);
         QCOMPARE(list->model()->index(1, 5).data().toString(), u"Left out"_s);
         QTest::keyClick(list, Qt::Key_Space);
         click("importTake");
         QTRY_COMPARE(said(), u"Brought in: 2 amounts, 50.50"_s);
-        trigger("mVSpent");
+        QCOMPARE(m_grid->currentIndex(), m_grid->model()->index(1, 3));
         QCOMPARE(textAt(1, 3), u"50.50"_s);
         trigger("mEUndo");
         QCOMPARE(textAt(1, 3), QString());
@@ -147,7 +154,26 @@ private slots:
         trigger("mUBank");
         QTRY_COMPARE(list->model()->rowCount(), 4);
         QCOMPARE(list->model()->index(0, 5).data().toString(), u"Is there already"_s);
+        // A line chosen by hand is asked about; what came in needs no item.
+        m_test->setBytes(u"more.csv"_s,
+                         "Date;Payee;Amount\n2026-03-09;Market;-5,00\n2026-03-06;Employer;900,00\n");
         click("importClose");
+        m_test->dialogs.willChooseFile(m_test->path(u"more.csv"_s));
+        trigger("mUBank");
+        QTRY_COMPARE(list->model()->rowCount(), 2);
+        find<QComboBox>("ruleItem")->setCurrentText(u"Fuel"_s);
+        click("ruleThisLine");
+        list->selectRow(1);
+        find<QComboBox>("ruleItem")->setCurrentText(u"Fuel"_s);
+        click("ruleThisLine");
+        QCOMPARE(said(), u"This line does not count as spent in this year, so that it needs no item"_s);
+        m_test->dialogs.willAnswer(Answer::Cancel);
+        click("importClose");
+        QVERIFY(list->isVisible());
+        m_test->dialogs.willAnswer(Answer::Yes);
+        click("importClose");
+        QTRY_COMPARE(said(), u"Brought in: 1 amount, 5.00"_s);
+        trigger("mEUndo");
         m_test->dialogs.willChooseFile(m_test->path(u"none.csv"_s));
         trigger("mUBank");
         QCOMPARE(said(), u"none.csv cannot be read"_s);
