@@ -75,11 +75,10 @@ private:
                               : isMoved   ? u", overdue since "_s + Dates::shortText(date, m_style)
                               : isOverdue ? u", overdue"_s
                                           : u", due"_s;
-        const bool isBegun = !isDone && spent > 0;
-        const QString amount =
-            isBegun ? centsText(planned - spent) + u" of "_s + centsText(planned) : centsText(planned);
+        // Of what was spent in part the rest is told.
+        const qint64 amount = isDone ? planned : planned - std::max(qint64(0), spent);
         notes.append({shown,
-                      due.item + u": "_s + amount + words,
+                      due.item + u": "_s + centsText(amount) + words,
                       u"Home Budget"_s,
                       isDone      ? NoteKind::Done
                       : isOverdue ? NoteKind::Overdue
