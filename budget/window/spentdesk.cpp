@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/window/spentdesk.h"
 
+#include "budget/model/amount.h"
 #include "budget/model/budgetentry.h"
 #include "budget/model/lines.h"
 #include "budget/model/spentlines.h"
@@ -166,8 +167,11 @@ void SpentDesk::addTyped(int row, int month, const QString &typed)
     }
     if (typed.trimmed().isEmpty())
         return;
-    const BudgetEntry entry = BudgetEntry::ofCell(typed);
-    if (const qint64 cents = centsOf(entry.text); cents > 0) {
+    BudgetEntry entry = BudgetEntry::ofCell(typed);
+    // A minus is money that came back.
+    if (const double amount = BudgetEntry::amountOf(typed); amount < 0 && amount >= -Amount::mostInCell)
+        entry = {Amount::text(amount), {}};
+    if (const qint64 cents = centsOf(entry.text); cents != 0) {
         const SpentAmount amount{
             spentDate(m_desk.year.year(), month + 1, m_program.clock.today()), cents, item, {}};
         Spending wanted = m_desk.year.spending();

@@ -24,7 +24,8 @@ private slots:
     void addsWhatIsTyped()
     {
         trigger("mVSpent");
-        typeAt(0, 3, u"70"_s);
+        typeAt(0, 3, u"80"_s);
+        typeAt(0, 3, u"-10"_s); // came back
         typeAt(0, 3, u"35.5"_s);
         QCOMPARE(textAt(0, 3), u"105.50"_s);
         QCOMPARE(labelText("Label3_2"), u"105.50"_s);
@@ -36,7 +37,8 @@ private slots:
         const QByteArray yearFile = m_test->bytes(u"2026.Fil"_s);
         trigger("mOSave");
         QCOMPARE(m_test->bytes(u"Quillery.spent-2026"_s), QByteArray("Quillery spent amounts 1\n"
-                                                                     "spent\t2026-03-20\t70.00\tRent\t\n"
+                                                                     "spent\t2026-03-20\t80.00\tRent\t\n"
+                                                                     "spent\t2026-03-20\t-10.00\tRent\t\n"
                                                                      "spent\t2026-03-20\t35.50\tRent\t\n"));
         QCOMPARE(m_test->bytes(u"2026.Fil"_s), yearFile);
         QVERIFY(!m_window->isModified());
