@@ -94,7 +94,7 @@ void ImportPanel::makeView()
     setWidth(ImportModel::Date, u"28/11/2026"_s, 2 * inset);
     setWidth(ImportModel::Amount, u"99999.99"_s, 2 * inset);
     setWidth(ImportModel::Item, u"Building work"_s, 2 * inset);
-    setWidth(ImportModel::What, u"Not read: no amount"_s, 2 * inset);
+    setWidth(ImportModel::What, u"Not read: no amount"_s, 3 * inset);
     head->setSectionResizeMode(ImportModel::Text, QHeaderView::Stretch);
     m_view->installEventFilter(this);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ImportPanel::follow);
@@ -108,7 +108,7 @@ QWidget *ImportPanel::makeForm()
     m_items = named(new QComboBox(form), u"ruleItem"_s);
     m_items->setFixedWidth(200);
     m_addRule = makeButton(u"ruleAdd"_s, u"Add &Rule"_s, form);
-    m_thisLine = makeButton(u"ruleThisLine"_s, u"This &Line Only"_s, form);
+    m_thisLine = makeButton(u"ruleThisLine"_s, u"This Line O&nly"_s, form);
     auto *row = new QHBoxLayout(form);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(12);
@@ -124,7 +124,7 @@ QWidget *ImportPanel::makeForm()
 
 void ImportPanel::makeButtons()
 {
-    m_rules = addButton(u"importRules"_s, u"R&ules..."_s, ButtonKind::Plain, Side::Left);
+    m_rules = addButton(u"importRules"_s, u"Rule&s..."_s, ButtonKind::Plain, Side::Left);
     m_take = addButton(u"importTake"_s, u"&Take These Amounts"_s, ButtonKind::Main);
     setLeaveButton(u"importClose"_s, u"C&lose"_s);
     connect(m_rules, &QPushButton::clicked, this, &ImportPanel::openRules);
