@@ -200,7 +200,11 @@ void SpentDesk::openDue()
     if (!m_due)
         m_due = made(new DuePanel(m_program, m_desk.year));
     const QModelIndex current = m_desk.grid.currentIndex();
-    m_due->open(std::max(0, current.column() - SheetColumn::firstMonth), current.row());
+    // On an item, the month of today is meant.
+    const QDate today = m_program.clock.today();
+    const int itemsMonth = today.year() == m_desk.year.year() ? today.month() - 1 : 0;
+    const int month = current.column() - SheetColumn::firstMonth;
+    m_due->open(month < 0 ? itemsMonth : month, current.row());
     m_desk.views.open(m_due);
     m_due->setFocus();
 }

@@ -88,8 +88,9 @@ private slots:
 
     void ticksWhatIsPaid()
     {
-        m_grid->setCurrentIndex(m_grid->model()->index(0, 3));
+        m_grid->setCurrentIndex(m_grid->model()->index(0, 0));
         trigger("mVDue");
+        QCOMPARE(find<QComboBox>("dueMonth")->currentIndex(), 2);
         auto *list = find<QTableView>("dueList");
         QCOMPARE(QApplication::focusWidget(), list);
         QTest::keyClick(list, Qt::Key_3);
