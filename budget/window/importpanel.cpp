@@ -95,9 +95,21 @@ void ImportPanel::makeView()
     setWidth(ImportModel::Amount, u"99999.99"_s, 2 * inset);
     setWidth(ImportModel::Item, u"Building work"_s, 2 * inset);
     setWidth(ImportModel::What, u"Not read: no amount"_s, 3 * inset);
-    head->setSectionResizeMode(ImportModel::Text, QHeaderView::Stretch);
     m_view->installEventFilter(this);
+    m_view->viewport()->installEventFilter(this);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ImportPanel::follow);
+}
+
+/// Lines cannot be told apart without their texts: in a narrow window the columns behind the text are
+/// scrolled to.
+void ImportPanel::shareWidth()
+{
+    int others = 0;
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        others += column == ImportModel::Text ? 0 : m_view->columnWidth(column);
+    const int least =
+        QFontMetrics(TypeScale::body()).horizontalAdvance(u"Northern Light & Power"_s) + 2 * inset;
+    m_view->setColumnWidth(ImportModel::Text, std::max(least, m_view->viewport()->width() - others));
 }
 
 QWidget *ImportPanel::makeForm()
@@ -308,6 +320,8 @@ void ImportPanel::leave()
 
 bool ImportPanel::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_view->viewport() && event->type() == QEvent::Resize)
+        shareWidth();
     if (watched == m_view && event->type() == QEvent::KeyPress && m_view->currentIndex().isValid()) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Space) {

@@ -42,6 +42,7 @@ private:
     QWidget *makeForm();
     void makeView();
     void makeButtons();
+    void shareWidth();
     void work();
     void finish();
     void refresh();
