@@ -2,6 +2,7 @@
 #include "planner/model/daylines.h"
 
 #include <QList>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,44 @@ double letters(QStringView text)
     return width;
 }
 
+enum class Breaks { AtBlanks, WithinWords };
+
+/// No painter of pages breaks within a number of several parts ("555 0100").
+bool isBreak(const QString &text, qsizetype at, Breaks breaks)
+{
+    if (text[at - 1] != u' ')
+        return breaks == Breaks::WithinWords;
+    const bool isBehindNumber = at > 1 && (text[at - 2].isDigit() || text[at - 2] == u')');
+    return !isBehindNumber || !text[at].isDigit();
+}
+
+/// Lines that the text takes when it is broken between its words, or also within them where a painter may
+/// break ("Lindqvist-"), and anywhere in what is longer than a line.
+int brokenLines(const QString &text, double perLine, Breaks breaks)
+{
+    QTextBoundaryFinder ends(QTextBoundaryFinder::Line, text);
+    int lines = 1;
+    double used = 0;
+    for (qsizetype from = 0; from < text.size();) {
+        const qsizetype next = ends.toNextBoundary();
+        const qsizetype end = next < 0 ? text.size() : next;
+        if (end < text.size() && !isBreak(text, end, breaks))
+            continue;
+        const QStringView piece = QStringView(text).sliced(from, end - from);
+        const double width = letters(AnsiText::trimmedBlanks(piece));
+        const double blanks = letters(piece) - width; // they may hang over the end of the line
+        if (used > 0 && used + width > perLine) {
+            ++lines;
+            used = 0;
+        }
+        const int more = std::max(0, int(std::ceil((used + width) / perLine)) - 1);
+        lines += more;
+        used += width - more * perLine + blanks;
+        from = end;
+    }
+    return lines;
+}
+
 } // namespace
 
 DayLines::DayLines(const PlannerDay &day, const QStringList &notes)
@@ -49,26 +88,13 @@ QString DayLines::joined(int entry) const
     return line.time + u' ' + line.text;
 }
 
-/// Lines that the text takes when it is broken between its words, and within those that are longer than a
-/// line.
+/// A painter breaks within words or not, as the widths of its font have it: the larger of the two holds both.
 int DayLines::wanted(int entry, int characters, Style style) const
 {
     const double perLine = std::max(1, characters);
-    const double blank = letters(u" ");
     const QString whole = style == Joined ? joined(entry) : text(entry);
-    int lines = 1;
-    double used = 0;
-    for (const QStringView word : QStringView(whole).split(u' ', Qt::SkipEmptyParts)) {
-        const double width = letters(word);
-        if (used > 0 && used + blank + width <= perLine) {
-            used += blank + width;
-            continue;
-        }
-        const int more = std::max(0, int(std::ceil(width / perLine)) - 1);
-        lines += (used > 0 ? 1 : 0) + more;
-        used = width - more * perLine;
-    }
-    return lines;
+    return std::max(brokenLines(whole, perLine, Breaks::AtBlanks),
+                    brokenLines(whole, perLine, Breaks::WithinWords));
 }
 
 int DayLines::lineCount(int characters, Style style) const

@@ -98,19 +98,23 @@ private slots:
 
     void sharesTheLinesOfAPlace_data()
     {
-        rows<int, int, int, QList<int>>({
-            {"a line each", 3, 20, 5, {1, 1, 1}},
-            {"long texts get more, as far as it goes", 3, 4, 5, {2, 2, 1}},
-            {"the last line tells what is missing", 6, 20, 5, {1, 1, 1, 1}},
-            {"no room at all", 2, 20, 0, {}},
-            {"no entry", 0, 20, 5, {}},
+        rows<QString, int, int, int, QList<int>>({
+            {"a line each", {}, 3, 20, 5, {1, 1, 1}},
+            {"long texts get more, as far as it goes", {}, 3, 4, 5, {2, 2, 1}},
+            {"the last line tells what is missing", {}, 6, 20, 5, {1, 1, 1, 1}},
+            {"no room at all", {}, 2, 20, 0, {}},
+            {"no entry", {}, 0, 20, 5, {}},
+            {"a name may be broken at its hyphen",
+             u"Walter Nils Yvonne Isidor Bert Lindqvist-Rosenbaum turns 71"_s, 0, 16, 9, QList<int>{5}},
         });
     }
 
     void sharesTheLinesOfAPlace()
     {
-        const auto [entries, characters, capacity, expected] = row<int, int, int, QList<int>>();
-        const auto shares = DayLines(numberedEntries(entries)).share(characters, capacity);
+        const auto [note, entries, characters, capacity, expected] =
+            row<QString, int, int, int, QList<int>>();
+        const QStringList notes = note.isEmpty() ? QStringList() : QStringList{note};
+        const auto shares = DayLines(numberedEntries(entries), notes).share(characters, capacity);
         QCOMPARE(QList<int>(shares.begin(), shares.end()), expected);
     }
 
