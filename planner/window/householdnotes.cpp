@@ -11,6 +11,23 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// Less and less of a birthday, the age in each of them: "Amy W. turns 69; 1 more" to "Amy 69".
+QStringList narrowTexts(const QString &name, const QString &fact, qsizetype others)
+{
+    const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
+    const QString given = words.value(0);
+    const QString initials = words.size() > 1 ? given + u' ' + words.last().front() + u'.' : given;
+    const QString age = QString(fact).replace(u" turns "_s, u" "_s);
+    const QString more = others > 0 ? u"; %1 more"_s.arg(others) : QString();
+    const QString plus = others > 0 ? u" +%1"_s.arg(others) : QString();
+    return {initials + fact + more, initials + age + more, given + age + more,
+            initials + age + plus,  given + age + plus,    given + age};
+}
+
+} // namespace
+
 QList<HouseholdNote> HouseholdNotes::all(QDate from, QDate to) const
 {
     QList<HouseholdNote> notes;
@@ -89,13 +106,20 @@ QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetric
     if (notes.isEmpty() || metrics.horizontalAdvance(all) <= width)
         return all;
     const DayNote &first = notes.front().note;
-    QString fact = first.text.sliced(first.nameLength);
-    if (notes.size() > 1)
-        fact += u"; %1 more"_s.arg(notes.size() - 1);
-    // In a narrow place both lose something: whose day it is must still be told.
-    const int room = std::max(width * 2 / 5, width - metrics.horizontalAdvance(fact));
-    const QString name = metrics.elidedText(first.text.first(first.nameLength), Qt::ElideRight, room);
-    return metrics.elidedText(name + fact, Qt::ElideRight, width);
+    const QString fact = first.text.sliced(first.nameLength);
+    const QString more = notes.size() > 1 ? u"; %1 more"_s.arg(notes.size() - 1) : QString();
+    // In a narrow place the name loses something: whose day it is must still be told.
+    const int least = width * 2 / 5;
+    const int room = width - metrics.horizontalAdvance(fact + more);
+    const QString name = first.text.first(first.nameLength);
+    if (room < least && first.kind == NoteKind::Birthday && first.nameLength > 0) {
+        for (const QString &narrow : narrowTexts(name, fact, notes.size() - 1)) {
+            if (metrics.horizontalAdvance(narrow) <= width)
+                return narrow;
+        }
+    }
+    const QString shownName = metrics.elidedText(name, Qt::ElideRight, std::max(least, room));
+    return metrics.elidedText(shownName + fact + more, Qt::ElideRight, width);
 }
 
 QLatin1StringView HouseholdNotes::sign(const QList<HouseholdNote> &notes)

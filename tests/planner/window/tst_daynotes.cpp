@@ -102,6 +102,23 @@ private slots:
         QCOMPARE(wanted.size(), 1);
     }
 
+    void keepTheAgeWhereAllHasNoRoom_data()
+    {
+        rows<QString>({{"two of them", u"Walter Lindqvist turns 70; 1 more"_s},
+                       {"a narrow month", u"Walter L. 70; 1 more"_s},
+                       {"the narrowest", u"Walter 70 +1"_s}});
+    }
+    void keepTheAgeWhereAllHasNoRoom()
+    {
+        const auto [expected] = row<QString>();
+        DayNote first{today, u"Walter Lindqvist turns 70"_s, {}, NoteKind::Birthday};
+        first.nameLength = 16;
+        const QFontMetrics metrics(m_window->font());
+        QCOMPARE(
+            HouseholdNotes::cut({{first, {}}, {first, {}}}, metrics, metrics.horizontalAdvance(expected)),
+            expected);
+    }
+
     void areNeverSaved()
     {
         type(0, u"8:00"_s, u"Bus"_s);
