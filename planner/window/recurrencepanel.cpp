@@ -108,10 +108,11 @@ QWidget *RecurrencePanel::makeProgressPanel()
 
 void RecurrencePanel::makeFoot()
 {
-    m_remove = addButton(u"recurrenceRemove"_s, u"Remove This Recurrence"_s, ButtonKind::Plain, Side::Left);
-    m_ok = addButton(u"recurrenceOk"_s, u"OK"_s, ButtonKind::Main);
+    m_remove = addButton(u"recurrenceRemove"_s, u"&Remove This Recurrence"_s, ButtonKind::Plain, Side::Left);
+    m_ok = addButton(u"recurrenceOk"_s, u"O&K"_s, ButtonKind::Main);
+    m_ok->setAccessibleName(u"OK"_s);
     m_ok->setMinimumWidth(88);
-    m_cancel = setLeaveButton(u"recurrenceCancel"_s, u"Cancel"_s);
+    m_cancel = setLeaveButton(u"recurrenceCancel"_s, u"&Cancel"_s);
     connect(m_ok, &QPushButton::clicked, this, &RecurrencePanel::insert);
     connect(m_remove, &QPushButton::clicked, this, &RecurrencePanel::remove);
 }
