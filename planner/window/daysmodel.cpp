@@ -4,7 +4,7 @@
 #include "planner/model/daylines.h"
 #include "shell/core/dates.h"
 
-#include <QLocale>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,6 +29,12 @@ void DaysModel::setNotes(const QList<HouseholdNote> &notes)
     for (const HouseholdNote &note : notes)
         m_notes[note.note.date].append(note);
     emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+void DaysModel::setDayNames(QLocale::FormatType names)
+{
+    if (std::exchange(m_dayNames, names) != names)
+        emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 QDate DaysModel::date(const QModelIndex &index) const
@@ -102,7 +108,7 @@ QVariant DaysModel::headerData(int section, Qt::Orientation orientation, int rol
     if (role != Qt::DisplayRole)
         return {};
     if (orientation == Qt::Horizontal)
-        return QLocale::c().dayName(m_span.start.addDays(section).dayOfWeek());
+        return QLocale::c().dayName(m_span.start.addDays(section).dayOfWeek(), m_dayNames);
     // A row's week is the one of its Monday.
     QDate monday = m_span.start.addDays(qint64(section) * m_span.columns);
     while (monday.dayOfWeek() != Qt::Monday)

@@ -7,6 +7,7 @@
 
 #include <QAbstractTableModel>
 #include <QDate>
+#include <QLocale>
 #include <QMap>
 
 #include <map>
@@ -43,6 +44,8 @@ public:
     {
         return index.data(NoteRole).value<QList<HouseholdNote>>();
     }
+    /// How long the names of the days are in the head of the columns.
+    void setDayNames(QLocale::FormatType names);
     /// The first and the last day of the table.
     QDate first() const { return m_span.start; }
     QDate last() const { return m_span.start.addDays(qint64(m_span.rows) * m_span.columns - 1); }
@@ -64,6 +67,7 @@ private:
     std::map<QDate, PlannerDay> m_days;
     QMap<QDate, QList<HouseholdNote>> m_notes;
     QDate m_today;
+    QLocale::FormatType m_dayNames = QLocale::LongFormat;
 };
 
 Q_DECLARE_METATYPE(PlannerDay)

@@ -37,6 +37,12 @@ int leastRowHeight()
            cellMargins.bottom();
 }
 
+int widestDayName(const QTableView &view)
+{
+    constexpr int margins = 16;
+    return view.horizontalHeader()->fontMetrics().horizontalAdvance(u"Wednesday"_s) + margins;
+}
+
 QRect contentOf(const QRect &cell)
 {
     return cell.marginsRemoved(cellMargins);
@@ -171,6 +177,12 @@ void MonthGrid::setUpView()
     m_view->verticalHeader()->setSectionsClickable(false);
     m_view->verticalHeader()->setHighlightSections(false);
     m_view->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    connect(m_view->horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int section, int, int width) {
+                if (section == 0)
+                    m_model->setDayNames(width < widestDayName(*m_view) ? QLocale::ShortFormat
+                                                                        : QLocale::LongFormat);
+            });
     setView(m_view, m_model, notePlaceIn);
 }
 

@@ -44,7 +44,10 @@ void StepTitle::showTitle()
     const bool isWhole = m_shorter.isEmpty() || fits(TypeScale::windowTitle(), m_text);
     const QString &shown = isWhole ? m_text : m_shorter;
     m_title->setText(shown);
-    m_title->setFont(fits(TypeScale::windowTitle(), shown) ? TypeScale::windowTitle() : TypeScale::group());
+    // A large font of the desktop in a small window leaves room for less than a title.
+    m_title->setFont(fits(TypeScale::windowTitle(), shown) ? TypeScale::windowTitle()
+                     : fits(TypeScale::group(), shown)     ? TypeScale::group()
+                                                           : TypeScale::strong());
 }
 
 void StepTitle::resizeEvent(QResizeEvent *event)
