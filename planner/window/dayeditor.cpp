@@ -7,63 +7,20 @@
 #include "planner/model/usualtime.h"
 #include "planner/window/dayform.h"
 #include "planner/window/noteline.h"
+#include "planner/window/rowheads.h"
 #include "planner/window/steptitle.h"
 #include "shell/controls/controls.h"
-#include "shell/controls/taborder.h"
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
-#include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 
-#include <QButtonGroup>
-#include <QRadioButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-/// Quiet words that are hidden while there is no room for them.
-class SpareWords final : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-    /// They may shrink to nothing.
-    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        if (width() >= sizeHint().width())
-            QLabel::paintEvent(event);
-    }
-};
-
-/// The head of the texts: as many words as there is room for.
-class TextHead final : public QLabel
-{
-public:
-    explicit TextHead(QWidget *parent)
-        : QLabel(parent)
-    {
-        setFont(TypeScale::label());
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        setForegroundRole(ThemeRole::quiet);
-    }
-
-protected:
-    void resizeEvent(QResizeEvent *event) override
-    {
-        QLabel::resizeEvent(event);
-        const QString whole = u"Appointment or activity"_s;
-        setText(fontMetrics().horizontalAdvance(whole) > width() ? u"Appointment"_s : whole);
-    }
-};
-
-} // namespace
 
 DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
     : QWidget(parent)
@@ -71,6 +28,7 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
     , m_files(files)
     , m_householdNotes(program)
     , m_title(new StepTitle({u"SSPanel4"_s, u"day"_s, u"Today"_s}, this))
+    , m_heads(new RowHeads(program, this))
     , m_form(new DayForm)
     , m_scroll(makeScrolling(m_form, u"dayScroll"_s, this))
     , m_notes(new NoteLine(m_householdNotes, this))
@@ -81,7 +39,7 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
     rows->addWidget(m_title);
     rows->addWidget(m_notes, 0, Qt::AlignLeft);
     auto *heads = new QHBoxLayout;
-    heads->addWidget(makeRowHeads(), 1);
+    heads->addWidget(m_heads, 1);
     heads->addStretch();
     rows->addLayout(heads);
     rows->addWidget(m_scroll, 1);
@@ -93,50 +51,11 @@ DayEditor::DayEditor(Program &program, PlannerFiles &files, QWidget *parent)
             [this](int days) { emit dateRequested(m_date.addDays(days)); });
     connect(m_title, &StepTitle::todayRequested, this,
             [this] { emit dateRequested(m_program.clock.today()); });
-    connect(m_form, &DayForm::edited, this, &DayEditor::refreshModified);
+    connect(m_heads, &RowHeads::placementChosen, this, &DayEditor::refreshModified);
+    connect(m_heads, &RowHeads::said, this, &DayEditor::said);
+    connect(m_form, &DayForm::edited, this, &DayEditor::noteEdited);
     connect(m_form, &DayForm::rowEntered, this, &DayEditor::enterRow);
     connect(m_form, &DayForm::said, this, &DayEditor::said);
-}
-
-/// The heads of the two columns, and where entries without AM or PM stand.
-QWidget *DayEditor::makeRowHeads()
-{
-    auto *line = new QWidget;
-    line->setMaximumWidth(DayForm::greatestWidth);
-    auto *layout = new QHBoxLayout(line);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(DayForm::gap);
-    QFont head = TypeScale::label();
-    head.setWeight(QFont::DemiBold);
-    QLabel *time = makeQuietLabel(u"Time"_s, line);
-    auto *text = named(new TextHead(line), u"textHead"_s);
-    time->setFont(head);
-    text->setFont(head);
-    text->setMinimumWidth(QFontMetrics(head).horizontalAdvance(u"Appointment"_s) + 2);
-    time->setFixedWidth(DayForm::timeBoxWidth());
-    layout->addSpacing(DayForm::numberWidth() + DayForm::gap);
-    layout->addWidget(time);
-    layout->addWidget(text, 1);
-    auto *placement = named(new SpareWords(u"Without AM/PM:"_s, line), u"placementHead"_s);
-    placement->setFont(TypeScale::label());
-    placement->setForegroundRole(ThemeRole::quiet);
-    layout->addWidget(placement);
-    m_placement = new QButtonGroup(this);
-    for (const auto &[id, caption] :
-         {std::pair{UntimedPlacement::Last, u"Last"_s}, {UntimedPlacement::First, u"First"_s}}) {
-        auto *button = named(new QRadioButton(caption, line), u"Option7_"_s + QString::number(int(id)));
-        button->setAccessibleName(u"Entries without AM/PM: "_s + caption);
-        button->setToolTip(u"Where entries without AM or PM stand when the day is saved"_s);
-        setUnavailable(button, m_program.folder.whyReadOnly());
-        button->setFont(TypeScale::label());
-        m_placement->addButton(button, int(id));
-        layout->addWidget(button);
-    }
-    const int stored = m_program.settings.number(SettingsKeys::plannerPlacement);
-    m_placement->button(stored == int(UntimedPlacement::First) ? 1 : 0)->setChecked(true);
-    TabOrder::findTheChosen(*m_placement);
-    connect(m_placement, &QButtonGroup::idClicked, this, &DayEditor::setPlacement);
-    return line;
 }
 
 QWidget *DayEditor::makeFoot()
@@ -168,7 +87,8 @@ QWidget *DayEditor::makeFoot()
 
 void DayEditor::load(QDate date)
 {
-    m_date = date;
+    if (std::exchange(m_date, date) != date)
+        m_lastTyped = {};
     const PlannerDay asFile = m_files.read(date);
     m_form->setDay(asFile);
     const PlannerDay asShown = m_form->day();
@@ -197,9 +117,20 @@ bool DayEditor::isModified() const
 
 Appointment DayEditor::currentAppointment() const
 {
+    const Appointment current = appointmentOf(m_form->currentRow());
+    return current.isEmpty() && has(m_lastTyped) ? m_lastTyped : current;
+}
+
+Appointment DayEditor::appointmentOf(int row) const
+{
     const PlannerDay day = typed();
-    const auto row = std::size_t(m_form->currentRow());
-    return Appointment::ofRow(day.times[row], day.texts[row]);
+    return Appointment::ofRow(day.times[std::size_t(row)], day.texts[std::size_t(row)]);
+}
+
+void DayEditor::noteEdited()
+{
+    m_lastTyped = appointmentOf(m_form->currentRow());
+    refreshModified();
 }
 
 bool DayEditor::has(const Appointment &appointment) const
@@ -214,14 +145,7 @@ bool DayEditor::has(const Appointment &appointment) const
 
 UntimedPlacement DayEditor::placement() const
 {
-    return UntimedPlacement(m_placement->checkedId());
-}
-
-void DayEditor::setPlacement(int placement)
-{
-    refreshModified();
-    if (!m_program.settings.setNumber(SettingsKeys::plannerPlacement, placement))
-        emit said(FrameLines::settingNotSaved());
+    return m_heads->placement();
 }
 
 void DayEditor::focusRow(int row)
@@ -237,6 +161,12 @@ void DayEditor::focusCurrentRow()
 void DayEditor::focusFirstEmptyRow()
 {
     m_form->focusRow(m_form->firstEmptyRow());
+}
+
+void DayEditor::leaveFilledRow()
+{
+    if (m_form->isAncestorOf(window()->focusWidget()) && !appointmentOf(m_form->currentRow()).isEmpty())
+        focusFirstEmptyRow();
 }
 
 bool DayEditor::save()

@@ -13,9 +13,9 @@
 
 class DayForm;
 class NoteLine;
-class QButtonGroup;
 class QLabel;
 class QScrollArea;
+class RowHeads;
 class StepTitle;
 struct Program;
 
@@ -36,7 +36,8 @@ public:
     /// otherwise.
     PlannerDay typed() const;
     bool isModified() const;
-    /// The appointment of the row that has the focus, or had it last.
+    /// The appointment of the row that has the focus, or had it last; when that row is empty, as it is after
+    /// saving, the one that was typed last.
     Appointment currentAppointment() const;
     /// Whether one of the rows is `appointment`.
     bool has(const Appointment &appointment) const;
@@ -45,6 +46,8 @@ public:
     void focusRow(int row);
     void focusCurrentRow();
     void focusFirstEmptyRow();
+    /// On another day, typing goes on in a row that is free.
+    void leaveFilledRow();
 
     /// Writes the rows, in time order, into the day that was loaded, and says so; false when the disk
     /// refuses.
@@ -75,9 +78,9 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    QWidget *makeRowHeads();
     QWidget *makeFoot();
-    void setPlacement(int placement);
+    Appointment appointmentOf(int row) const;
+    void noteEdited();
     void refreshModified();
     void fitFootWords();
     QList<int> rowsSortedLast() const;
@@ -93,13 +96,14 @@ private:
     EditedTexts<PlannerDay::rowCount> m_times;
     EditedTexts<PlannerDay::rowCount> m_texts;
     std::optional<PlannerDay> m_copied;
+    Appointment m_lastTyped; ///< into this day
     HouseholdNotes m_householdNotes;
 
     StepTitle *m_title;
+    RowHeads *m_heads;
     DayForm *m_form;
     QScrollArea *m_scroll;
     NoteLine *m_notes; ///< below the title
-    QButtonGroup *m_placement = nullptr;
     QLabel *m_unsaved = nullptr;
     QLabel *m_sortedLast = nullptr;
 };

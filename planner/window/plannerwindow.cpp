@@ -282,8 +282,7 @@ void Zcalandar1::goTo(QDate date)
     }
     const bool wasElsewhere = !m_views->stack().isHome();
     showDay();
-    if (wasElsewhere)
-        m_day->focusFirstEmptyRow();
+    wasElsewhere ? m_day->focusFirstEmptyRow() : m_day->leaveFilledRow();
 }
 
 /// A page on the screen gives way: nothing goes on behind it.

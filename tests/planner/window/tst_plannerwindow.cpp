@@ -40,6 +40,9 @@ private slots:
         auto *scroll = find<QScrollArea>("dayScroll");
         QVERIFY(scroll->rect().translated(scroll->mapTo(m_window, QPoint())).contains(row));
         QVERIFY(row.height() >= 28);
+        m_window->resize(800, 600); // the choice keeps its words
+        QCoreApplication::processEvents();
+        QVERIFY(find<QLabel>("placementHead")->width() >= find<QLabel>("placementHead")->sizeHint().width());
     }
 
     void showsSixWeeksInASmallWindow()
@@ -51,6 +54,11 @@ private slots:
         auto *grid = find<QTableView>("monthGrid");
         QCOMPARE(grid->model()->rowCount(), 6);
         QTRY_COMPARE(grid->verticalScrollBar()->maximum(), 0);
+        const auto sunday = [&] { return grid->model()->headerData(0, Qt::Horizontal).toString(); };
+        m_window->resize(1400, 736);
+        QTRY_COMPARE(sunday(), u"Sunday"_s);
+        grid->setFixedWidth(350); // a large font in a narrow window has as little room
+        QTRY_COMPARE(sunday(), u"Sun"_s);
     }
 
     void opensOnTheDayOfToday()
@@ -61,11 +69,16 @@ private slots:
         QCOMPARE(shownRows(), QStringList{u"8:30 AM|Market"_s});
         QCOMPARE(focus(), time(1));
         QVERIFY(!m_window->isModified());
+        // Nothing is typed over on the day that follows.
+        writeDay(today.addDays(1), dayOf({{u"9:00 AM"_s, u"Lake"_s}, {u"1:00 PM"_s, u"Lunch"_s}}));
+        QTest::keyClick(focus(), Qt::Key_PageDown);
+        QCOMPARE(focus(), time(2));
     }
 
     void savesTheDayInTimeOrder()
     {
         type(3, u"2:00 PM"_s, u"Choir"_s);
+        time(7)->setFocus();
         type(7, u"9:30 AM"_s, u"Zoë"_s);
         QVERIFY(m_window->isModified());
         click("saveDay");
@@ -76,6 +89,9 @@ private slots:
         const QByteArray record = m_test->bytes(u" 2026.Cal"_s).mid(recordOfToday);
         QVERIFY(record.startsWith("9:30 AM   2:00 PM   "));
         QCOMPARE(record.size(), 850);
+        // What was typed last is repeated from the free row as well.
+        trigger("mERec");
+        QVERIFY(isShown("recurrencePanel"));
     }
 
     void asksBeforeUnsavedTextsGo_data()
