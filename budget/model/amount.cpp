@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/model/amount.h"
 
+#include <QRegularExpression>
+
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -104,6 +108,13 @@ double Amount::typed(QStringView text)
     if (!hasThousandsGroups(trimmed))
         return leading(text);
     return leading(trimmed.toString().remove(u','));
+}
+
+bool Amount::isWholly(QStringView text)
+{
+    static const QRegularExpression number(uR"(^\s*[-+]?(\d{1,3}(,\d{3})+|\d*)(\.\d*)?(e[-+]?\d+)?\s*$)"_s,
+                                           QRegularExpression::CaseInsensitiveOption);
+    return number.match(text.toString()).hasMatch();
 }
 
 double Amount::rounded(double amount)

@@ -21,6 +21,9 @@ double stored(QStringView text);
 /// `leading`.
 double typed(QStringView text);
 
+/// Whether `text` is a number and nothing else, as `typed` reads it: not so "85,50", which counts as 85.
+bool isWholly(QStringView text);
+
 /// `amount` to the nearest cent, halves away from zero.
 double rounded(double amount);
 

@@ -97,6 +97,11 @@ inline QString overPlan(double spent, double plan)
 
 // Edits, as undo and the status bar call them
 
+inline QString partlyRead(const QString &typed, const QString &amount)
+{
+    return u"\"%1\" was read as %2: decimals stand behind a point"_s.arg(typed.trimmed(), amount);
+}
+
 inline QString cut()
 {
     return u"Cut cells"_s;

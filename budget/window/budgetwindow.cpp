@@ -185,7 +185,14 @@ void Budget1::connectSheet()
     connect(m_model, &SheetModel::shownAgain, &grid(), &SheetGrid::choose);
     // The box that is typed into goes before anything is asked.
     connect(m_model, &SheetModel::noticed, this, &Budget1::notice, Qt::QueuedConnection);
+    connect(
+        m_model, &SheetModel::partlyRead, this,
+        [this](const QString &typed, const QString &amount) {
+            activity().say(BudgetLines::partlyRead(typed, amount));
+        },
+        Qt::QueuedConnection);
     connect(&grid(), &SheetGrid::said, &activity(), &ActivityBar::say);
+    connect(&grid(), &SheetGrid::refused, this, [this] { activity().say(program().folder.whyReadOnly()); });
     connect(m_edits, &SheetCommands::said, &activity(), &ActivityBar::say);
     connect(m_model, &SheetModel::layerChanged, &commands(), &Commands::refresh);
     connect(&m_sheet->totals(), &TotalsRows::incomeClicked, this, [this](int month) {
@@ -265,6 +272,8 @@ Message Budget1::replaceQuestion() const
 void Budget1::filesChanged()
 {
     grid().finishEdit();
+    // Its pages would show what the file had before.
+    closePreview();
     m_year->takeChangedFile();
 }
 
@@ -317,7 +326,8 @@ void Budget1::viewTotals()
 void Budget1::warnOfLimit()
 {
     const auto &months = m_model->figures().months;
-    if (m_isWarning || std::ranges::none_of(months, &BudgetFigures::Month::isOverLimit))
+    if (m_isWarning || m_model->isPreviewed() ||
+        std::ranges::none_of(months, &BudgetFigures::Month::isOverLimit))
         return;
     m_isWarning = true;
     QMetaObject::invokeMethod(

@@ -3,6 +3,7 @@
 
 #include "budget/model/amount.h"
 #include "budget/model/budgetentry.h"
+#include "budget/model/formula.h"
 #include "budget/model/lines.h"
 #include "budget/model/messages.h"
 #include "budget/model/sheetedits.h"
@@ -187,10 +188,11 @@ void SheetCommands::paste()
         emit said(BudgetLines::nothingToPaste());
         return;
     }
+    // Beforehand: what the sums have to say comes after it, and not over it.
+    show(pasted.notice());
     m_desk.model.change(BudgetLines::pasted(pasted.cells), pasted.sheet);
     m_desk.grid.choose(pasted.range);
     emit said(BudgetLines::pasted(pasted.cells, pasted.leftOut, pasted.foreign));
-    show(pasted.notice());
 }
 
 void SheetCommands::repeatAmount(const QString &title, int step)
@@ -270,12 +272,16 @@ void SheetCommands::enterIncome(int month)
     m_desk.grid.finishEdit();
     BudgetSheet wanted = m_desk.model.sheet();
     QString &income = wanted.incomes[std::size_t(month)];
+    // The question does not name it.
+    emit said(BudgetLines::income(SheetColumn::headings()[SheetColumn::firstMonth + month]));
     const auto answer = m_program.dialogs.input(m_window, BudgetMessages::incomeTitle(),
                                                 BudgetMessages::whichIncome(), income);
     if (!answer || answer->trimmed().isEmpty())
         return;
     const BudgetEntry entry = BudgetEntry::ofIncome(*answer);
     show(entry.notice);
+    if (!entry.notice && !Formula::is(*answer) && !Amount::isWholly(*answer))
+        emit said(BudgetLines::partlyRead(*answer, entry.text));
     income = entry.text;
     m_desk.model.preview(wanted);
     if (m_program.dialogs.ask(m_window, BudgetMessages::copyIncomeToTheRight()) == Answer::Yes)

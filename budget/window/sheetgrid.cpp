@@ -6,6 +6,7 @@
 #include "budget/window/sheetlook.h"
 #include "budget/window/sheetmodel.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QWheelEvent>
@@ -96,6 +97,8 @@ void SheetGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
     const int month = index.column() - SheetColumn::firstMonth;
     if (month >= 0)
         setFirstMonth(std::clamp(m_firstMonth, month - m_monthsInView + 1, month));
+    else if (QGuiApplication::mouseButtons() == Qt::NoButton)
+        setFirstMonth(0); // a row begins here; who clicks an item may want to see later months beside it
     QTableView::scrollTo(index, hint);
 }
 
@@ -129,6 +132,10 @@ void SheetGrid::finishEdit()
 
 bool SheetGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
+    if (trigger == AnyKeyPressed || trigger == EditKeyPressed || trigger == DoubleClicked) {
+        if (index.isValid() && !index.flags().testFlag(Qt::ItemIsEditable))
+            emit refused();
+    }
     const bool wasOpen = state() == EditingState;
     if (!wasOpen)
         m_isTypedOver = trigger == AnyKeyPressed;

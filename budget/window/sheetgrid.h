@@ -45,6 +45,8 @@ signals:
     void rangeChanged();
     /// A sentence for the status bar.
     void said(const QString &line);
+    /// Something was typed into a sheet that cannot be changed.
+    void refused();
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;

@@ -3,6 +3,7 @@
 
 #include "budget/model/amount.h"
 #include "budget/model/budgetentry.h"
+#include "budget/model/formula.h"
 #include "budget/model/lines.h"
 
 #include <algorithm>
@@ -204,5 +205,7 @@ bool SheetModel::takeCell(int row, int column, const QString &typed)
            wanted);
     if (entry.notice)
         emit noticed(*entry.notice, index(row, column));
+    else if (!Formula::is(typed) && !Amount::isWholly(typed))
+        emit partlyRead(typed, entry.text);
     return true;
 }

@@ -43,6 +43,8 @@ public:
 
     /// Makes the sheet `wanted`, in one step that undo calls `title`; nothing happens where it is so already.
     void change(const QString &title, const BudgetSheet &wanted);
+    /// Whether a question stands between `preview` and `change`.
+    bool isPreviewed() const { return m_beforePreview != nullptr; }
     /// Shows `sheet` before a question that belongs to the edit; the `change` that follows is one step.
     void preview(const BudgetSheet &sheet);
 
@@ -71,6 +73,8 @@ signals:
     void shownAgain(const SheetRange &range);
     /// The entry check has something to say about what was typed into `cell`.
     void noticed(const Message &message, const QModelIndex &cell);
+    /// Only the number at the start of what was typed was taken, as `amount`.
+    void partlyRead(const QString &typed, const QString &amount);
     void spentTyped(int row, int month, const QString &typed);
 
 private:

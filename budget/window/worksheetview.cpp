@@ -102,6 +102,8 @@ QString WorksheetView::words() const
 {
     if (m_desk.year.isModified())
         return FrameLines::unsavedChanges();
+    if (m_desk.model.isReadOnly())
+        return {};
     return isEmpty() ? BudgetLines::howToBegin() : BudgetLines::howToEnterIncome();
 }
 

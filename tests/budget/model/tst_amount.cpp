@@ -37,6 +37,14 @@ private slots:
         QCOMPARE(Amount::leading(text), leading);
     }
 
+    void tellsWhatIsWhollyANumber()
+    {
+        for (const QString &text : {u"85"_s, u" 85.50 "_s, u"1,250"_s, u"-1,250.5"_s, u".5"_s, u"1e3"_s})
+            QVERIFY2(Amount::isWholly(text), qPrintable(text));
+        for (const QString &text : {u"85,50"_s, u"12abc"_s, u"1.2.3"_s, u"1,25"_s, u"5 -"_s})
+            QVERIFY2(!Amount::isWholly(text), qPrintable(text));
+    }
+
     void shows_data()
     {
         rows<double, QString>({{"nothing", 0, u".00"_s},

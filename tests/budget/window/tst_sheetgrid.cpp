@@ -152,6 +152,16 @@ private slots:
         QCOMPARE(cell(0, 1), QString());
     }
 
+    void saysWhatItDidNotRead()
+    {
+        enter(0, 1, u"85,50"_s);
+        QCOMPARE(cell(0, 1), u"85.00"_s);
+        QTRY_VERIFY(said().contains(u"\"85,50\" was read as 85.00"_s));
+        enter(0, 1, u"1,250"_s);
+        QCoreApplication::processEvents();
+        QVERIFY(!said().contains(u"was read"_s));
+    }
+
     void pastesWithOneWord()
     {
         goTo(0, 0);
