@@ -120,9 +120,12 @@ std::optional<LiveLine> BudgetNews::liveLine(const DataFolder &folder, QDate tod
     const BudgetSheet sheet = files.read(today.year()).sheet;
     const SpentSums spent = SpentSums::of(sheet, SpendingFiles(folder).read(today.year()).spending.amounts);
     if (const auto cents = left(sheet, spent, std::size_t(today.month() - 1)))
-        return LiveLine{QLocale::c().monthName(today.month()) + u": "_s + leftText(*cents),
-                        *cents < 0 ? LiveLine::Overdue : LiveLine::Plain,
-                        {}};
+        return LiveLine{.text = QLocale::c().monthName(today.month()) + u": "_s + leftText(*cents),
+                        .urgency = *cents < 0 ? LiveLine::Overdue : LiveLine::Plain,
+                        .sentence = {},
+                        .shorter = {QLocale::c().monthName(today.month(), QLocale::ShortFormat) + u": "_s +
+                                        leftText(*cents),
+                                    leftText(*cents)}};
     if (today.month() == december && !files.has(today.year() + 1))
         return LiveLine{
             u"No budget for "_s + QString::number(today.year() + 1) + u" yet"_s, LiveLine::Plain, {}};

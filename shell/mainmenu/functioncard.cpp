@@ -105,12 +105,17 @@ QString FunctionCard::lineText() const
     return m_line ? m_line->text : m_quietText;
 }
 
-/// The line in `width` pixels: a name in it gives way first.
+/// The line in `width` pixels: a shorter form of it stands in, or a name in it gives way first.
 QString FunctionCard::cutLine(const QFontMetrics &metrics, int width) const
 {
     QString line = lineText();
+    const QStringList shorter = m_missingReason.isEmpty() && m_line ? m_line->shorter : QStringList();
+    for (const QString &form : shorter) {
+        if (metrics.horizontalAdvance(line) > width)
+            line = form;
+    }
     const int missing = metrics.horizontalAdvance(line) - width;
-    if (missing > 0 && m_line && m_line->nameLength > 0) {
+    if (missing > 0 && shorter.isEmpty() && m_line && m_line->nameLength > 0) {
         const QString name = line.sliced(m_line->nameAt, m_line->nameLength);
         const int room = std::max(0, metrics.horizontalAdvance(name) - missing);
         line.replace(m_line->nameAt, m_line->nameLength, metrics.elidedText(name, Qt::ElideRight, room));

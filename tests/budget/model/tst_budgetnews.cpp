@@ -56,6 +56,8 @@ private slots:
         const std::optional<LiveLine> line = BudgetNews::liveLine(m_test->folder(), today);
         QCOMPARE(line.value_or(LiveLine()).text, text);
         QCOMPARE(line.value_or(LiveLine()).urgency, urgency);
+        if (text.startsWith(u"March"))
+            QCOMPARE(line->shorter, (QStringList{u"Mar"_s + text.sliced(5), text.sliced(7)}));
     }
 
     void notesWhatIsDue_data()
