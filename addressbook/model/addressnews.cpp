@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A day a week ahead would bear the name of today.
+// As many as the main menu's panel shows. The last of them would bear the name of today.
 constexpr int daysThisWeek = 7;
 constexpr int daysAhead = 30;
 
@@ -96,6 +96,7 @@ public:
     std::optional<LiveLine> line() const;
 
 private:
+    QString dayText(QDate day) const;
     QString countText() const;
     QString sentence() const;
 
@@ -112,7 +113,7 @@ void Ahead::add(Kind kind, QByteArrayView record)
     if (days > daysAhead)
         return;
     occasion->name = nameOf(record);
-    if (days < daysThisWeek)
+    if (days <= daysThisWeek)
         m_thisWeek.push_back(std::move(*occasion));
     else if (!m_later || occasion->day < m_later->day)
         m_later = std::move(occasion);
@@ -124,12 +125,17 @@ std::optional<LiveLine> Ahead::line() const
         return LiveLine{countText(), LiveLine::Plain, sentence()};
     if (m_thisWeek.size() == 1) {
         const Occasion &only = m_thisWeek.front();
-        return lineOf(only.day == m_today ? u"Today"_s : QLocale::c().dayName(only.day.dayOfWeek()), only,
-                      sentence());
+        return lineOf(only.day == m_today ? u"Today"_s : dayText(only.day), only, sentence());
     }
     if (m_later)
         return lineOf(Dates::shortText(m_later->day, m_style), *m_later, {});
     return std::nullopt;
+}
+
+QString Ahead::dayText(QDate day) const
+{
+    return m_today.daysTo(day) < daysThisWeek ? QLocale::c().dayName(day.dayOfWeek())
+                                              : Dates::shortText(day, m_style);
 }
 
 QString Ahead::countText() const
@@ -147,10 +153,12 @@ QString Ahead::countText() const
 QString Ahead::sentence() const
 {
     const Occasion &first = *std::ranges::min_element(m_thisWeek, {}, &Occasion::day);
+    if (m_thisWeek.size() == 1 && m_today.daysTo(first.day) == daysThisWeek)
+        return {};
     const bool isBirthday = first.kind == Kind::Birthday;
     const QString what = isBirthday ? u"Birthday"_s : u"Anniversary"_s;
     if (first.day != m_today)
-        return what + u" on "_s + QLocale::c().dayName(first.day.dayOfWeek()) + u": "_s + first.name + u'.';
+        return what + u" on "_s + dayText(first.day) + u": "_s + first.name + u'.';
     return (isBirthday ? u"Turning "_s + QString::number(first.years) : what) + u" today: "_s + first.name +
            u'.';
 }

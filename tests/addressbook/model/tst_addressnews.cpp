@@ -35,6 +35,8 @@ private slots:
             {"several birthdays: the first is named",
              born("Nov-24-1978") + person("Karl", "Quill", "Nov-22-1944"), u"2 birthdays this week"_s,
              u"Birthday on Sunday: Karl Quill."_s},
+            {"several a week ahead", born("Nov-28-1978") + person("Karl", "Quill", "Nov-28-1944"),
+             u"2 birthdays this week"_s, u"Birthday on Nov 28: Anne Lind."_s},
             {"both kinds", person("Anne", "Lind", "Nov-27-1978", "Nov-25-2004"),
              u"1 birthday, 1 anniversary this week"_s, u"Anniversary on Wednesday: Anne Lind."_s},
             {"a week ahead bears a date", born("Nov-28-1978"), u"Nov 28: Anne Lind's birthday"_s, {}},
