@@ -30,10 +30,10 @@ bool isBlank(QByteArrayView bytes)
     return std::ranges::all_of(bytes, [](char byte) { return byte == ' ' || byte == '\0'; });
 }
 
-/// "Saturday, November 21, 2026, 9:30 AM"
+/// "Sat, Nov 21, 2026, 9:30 AM"
 QString contextOf(QDate date, QStringView time, DateStyle style)
 {
-    const QString day = Dates::longText(date, style);
+    const QString day = Dates::statusText(date, style);
     return time.trimmed().isEmpty() ? day : day + u", "_s + time.trimmed();
 }
 
