@@ -95,6 +95,7 @@ FirstLook::FirstLook(Program &program, QWidget *parent)
         m_links[step] = new Link(names[step], texts[step], lineFont(), this);
         row->addWidget(m_dashes[step]);
         row->addWidget(m_links[step]);
+        connect(m_links[step], &Link::clicked, this, [this, step] { m_pressed = Step(step); });
     }
     m_notNow = new Link(u"firstLookNotNow"_s, u"Not now"_s, TypeScale::label(), this);
     m_notNow->setToolTip(u"Does not show this line again"_s);
@@ -176,8 +177,10 @@ void FirstLook::refresh()
     if (!m_isRunning)
         return;
     bool isAnyShown = false;
+    bool isPressedDone = false;
     for (std::size_t step = 0; step < StepCount; ++step) {
         const bool isOpen = !isDone(Step(step));
+        isPressedDone = isPressedDone || (!isOpen && m_pressed == Step(step));
         m_links[step]->setVisible(isOpen);
         m_dashes[step]->setVisible(isOpen && isAnyShown);
         isAnyShown = isAnyShown || isOpen;
@@ -188,6 +191,11 @@ void FirstLook::refresh()
         show();
         emit changed();
     }
+    if (!isPressedDone)
+        return;
+    m_pressed = StepCount;
+    if (isAnyShown)
+        takeFocus();
 }
 
 void FirstLook::sendAway()

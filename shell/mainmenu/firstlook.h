@@ -22,7 +22,7 @@ public:
 
     /// Looks whether the household is new; to be asked after the first paint. Shows the line if so.
     void begin();
-    /// Looks what has been done by now.
+    /// Looks what has been done by now. When it is what a link was pressed for, the next link has the focus.
     void refresh();
 
     /// Gives its first link the focus, for keys that lead into it.
@@ -55,5 +55,6 @@ private:
     std::array<Link *, StepCount> m_links{};
     std::array<QLabel *, StepCount> m_dashes{}; ///< before each but the first
     Link *m_notNow;
+    Step m_pressed = StepCount; ///< the last one; none before
     bool m_isRunning = false;
 };

@@ -221,8 +221,8 @@ void Startfrm::listen()
     });
     connect(m_background, &BackgroundFlow::selectorClosed, this, [this] {
         m_toolBars->setCovered(false);
-        showMainMenu();
         m_picture->desk().focusFirstCard();
+        showMainMenu();
     });
     connect(&m_day->firstLook(), &FirstLook::nameWanted, this, &Startfrm::askFamilyName);
     connect(&m_day->firstLook(), &FirstLook::pictureWanted, m_background, &BackgroundFlow::openSelector);

@@ -49,6 +49,23 @@ private slots:
         asked();
     }
 
+    void keepsTheFocusFromStepToStep()
+    {
+        addBook();
+        show();
+        QTRY_VERIFY(line()->isVisible());
+        m_test->dialogs.willInput(u"Holm"_s);
+        find<QAbstractButton>("firstLookName")->setFocus();
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+        QCOMPARE(m_window->focusWidget()->objectName(), u"firstLookPicture"_s);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Right);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Return); // chooses
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+        QCOMPARE(m_window->focusWidget()->objectName(), u"firstLookAddress"_s);
+        asked();
+    }
+
     void isSentAwayForGood()
     {
         addBook();
