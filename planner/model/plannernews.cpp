@@ -30,6 +30,13 @@ QList<Item> itemsOf(const PlannerDay &day)
     return items;
 }
 
+/// Whether `time`, read from `text`, may be twelve hours later as well.
+bool isHalfOpen(const QString &text, QTime time)
+{
+    return time.isValid() && time.hour() >= 1 && time.hour() <= 12 &&
+           !text.contains(u'm', Qt::CaseInsensitive);
+}
+
 QString lineOf(const Item &item)
 {
     return item.timeText.isEmpty() ? item.text : item.timeText + u"  "_s + item.text;
@@ -115,7 +122,9 @@ QList<DayNote> dayNotes(const DataFolder &folder, QDate from, QDate to)
                           u"Daily Planner"_s,
                           NoteKind::Appointment,
                           time,
-                          {.date = date, .row = int(row)}});
+                          {.date = date, .row = int(row)},
+                          0,
+                          isHalfOpen(timeText, time) ? timeText : QString()});
         }
     }
     return notes;

@@ -19,7 +19,7 @@ namespace PlannerNews {
 std::optional<LiveLine> liveLine(const DataFolder &folder, const QDateTime &now);
 
 /// The appointments of the days `from` to `to`, in date order and, in a day, in the order of its rows. A time
-/// that cannot be read stands before the text.
+/// that cannot be read stands before the text; one without AM and PM is noted as it was typed, too.
 QList<DayNote> dayNotes(const DataFolder &folder, QDate from, QDate to);
 
 /// Those of the year files that are there.

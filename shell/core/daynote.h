@@ -29,6 +29,8 @@ struct DayNote {
     Place place{}; ///< where a click on it leads in its function
     /// Of the name that `text` begins with, which is cut first where not all has room; 0 without one.
     qsizetype nameLength = 0;
+    /// What was typed for `time` where that may mean morning or evening: "8:00".
+    QString timeText{};
 
     bool operator==(const DayNote &) const = default;
 };

@@ -44,8 +44,11 @@ void cut(Notes notes, std::size_t room, QList<Line> &lines)
     shown.resize(std::min(shown.size(), most));
     for (const Note *note : shown)
         lines.append({note->note.date, *note});
-    if (shown.size() < notes.size())
-        lines.append({day, {}, int(notes.size() - shown.size())});
+    if (shown.size() == notes.size())
+        return;
+    Line line{day, {}, int(notes.size() - shown.size()), isCutAtEnd ? notes.back().note.date : day};
+    line.note.isOver = !isCutAtEnd;
+    lines.append(line);
 }
 
 /// Each of the days in `most` lines; nothing when they do not find room.
@@ -89,7 +92,9 @@ QList<TodayModel::Line> TodayModel::fit(const QList<Note> &notes, QDate today, i
         const Notes day = firstDay(rest);
         rest = rest.subspan(day.size());
         const std::size_t free = lineCount - std::min(lineCount, rest.size());
-        cut(day, std::max(free, (lineCount + 1) / 2), lines);
+        const auto over = std::size_t(std::ranges::count_if(day, &Note::isOver));
+        const std::size_t wanted = day.size() - over + (over > 0 ? 1 : 0);
+        cut(day, std::max(free, std::min(wanted, (lineCount + 1) / 2)), lines);
     }
     const std::size_t left = lineCount - std::size_t(lines.size());
     for (std::size_t most = left; most >= 2; --most) {
@@ -123,6 +128,17 @@ void TodayModel::build()
     endResetModel();
 }
 
+QString TodayModel::text(const Line &line) const
+{
+    if (line.more == 0)
+        return line.note.note.text;
+    const QString count = QString::number(line.more);
+    if (line.note.isOver)
+        return count + u" earlier"_s;
+    const QString text = u"and "_s + count + u" more"_s;
+    return line.last == line.day ? text : text + u" until "_s + dayText(line.last);
+}
+
 bool TodayModel::hasTimes() const
 {
     return std::ranges::any_of(m_lines, [](const Line &line) { return line.note.note.time.isValid(); });
@@ -149,19 +165,23 @@ QVariant TodayModel::data(const QModelIndex &index, int role) const
         return {};
     const Line &line = m_lines[index.row()];
     const DayNote &note = line.note.note;
-    const QString text = line.more > 0 ? u"and "_s + QString::number(line.more) + u" more"_s : note.text;
-    const QString time = note.time.isValid() ? QLocale::c().toString(note.time, u"h:mm AP"_s) : QString();
+    const QString text = this->text(line);
+    // A single date would be untrue of several days.
+    const QString day = line.more > 0 && line.last != line.day ? u"Later"_s : dayText(line.day);
+    const QString time = note.time.isValid() && note.timeText.isEmpty()
+                             ? QLocale::c().toString(note.time, u"h:mm AP"_s)
+                             : note.timeText;
     switch (role) {
     case Qt::DisplayRole:
         return text;
     case Qt::ToolTipRole:
     case Qt::AccessibleTextRole: {
-        QStringList parts{dayText(line.day), time, text, note.source};
+        QStringList parts{day, time, text, note.source};
         parts.removeAll({});
         return parts.join(u", "_s);
     }
     case DayRole:
-        return dayText(line.day);
+        return day;
     case TimeRole:
         return time;
     case IconRole:

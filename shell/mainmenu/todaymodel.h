@@ -20,11 +20,12 @@ public:
         IsOverRole
     };
 
-    /// A note, or how many more there are from `day` on.
+    /// A note, or how many more there are from `day` on; of what is over, how many of it there are.
     struct Line {
         QDate day;
         TodayNotes::Note note{};
         int more = 0; ///< above 0: no note
+        QDate last{}; ///< the last of the days of those `more`
         bool operator==(const Line &) const = default;
     };
 
@@ -43,13 +44,14 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
-    /// `notes` in `room` lines: half of them at least are today's, if it fills them, and what is
-    /// over gives way first; of the other days each
-    /// is cut alike where that helps, else the last of them give way.
+    /// `notes` in `room` lines: half of them at least are today's, if it fills them, but what is over gives
+    /// way to everything else; of the other days each is cut alike where that helps, else the last of them
+    /// give way.
     static QList<Line> fit(const QList<TodayNotes::Note> &notes, QDate today, int room);
 
 private:
     void build();
+    QString text(const Line &line) const;
 
     QList<TodayNotes::Note> m_notes;
     QList<Line> m_lines;

@@ -44,7 +44,8 @@ bool TodayNotes::refresh()
 bool TodayNotes::isOver(const DayNote &note) const
 {
     const QTime now = m_program.clock.now().time();
-    return note.date == m_today && note.time.isValid() && note.time < QTime(now.hour(), now.minute());
+    return note.date == m_today && note.timeText.isEmpty() && note.time.isValid() &&
+           note.time < QTime(now.hour(), now.minute());
 }
 
 bool TodayNotes::read(const FunctionFace &face, const FunctionEntry &entry)

@@ -18,11 +18,16 @@ namespace {
 
 constexpr int side = CardGround::margin + 16;
 constexpr int top = CardGround::margin + 8;
-constexpr int twoColumnsFrom = 980;
 constexpr int slack = 6;
 constexpr int leastLines = 3;
 /// Where it is scrolled to, below the cards.
 constexpr int linesBelow = 8;
+
+/// Half a small screen's window, and more of it when the letters are large.
+int leastColumn()
+{
+    return 26 * QFontMetrics(TypeScale::body()).height();
+}
 
 } // namespace
 
@@ -66,7 +71,7 @@ void TodayPanel::keepLine(const std::function<void()> &change)
 
 int TodayPanel::columnsFor(int width) const
 {
-    return width >= twoColumnsFrom && m_model->wanted() > leastLines ? 2 : 1;
+    return width >= 2 * leastColumn() && m_model->wanted() > leastLines ? 2 : 1;
 }
 
 int TodayPanel::heightFor(int width, int room) const

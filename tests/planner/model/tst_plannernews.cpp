@@ -54,17 +54,21 @@ private slots:
     {
         const TestProgram test;
         PlannerFiles files(test.folder);
-        QVERIFY(files.write(
-            {2026, 12, 31},
-            dayOf({{u"9:30 PM"_s, u"Fireworks"_s}, {{}, {}}, {u"late"_s, u"Tea"_s}, {{}, u"Ferns"_s}})));
+        QVERIFY(files.write({2026, 12, 31}, dayOf({{u"9:30 PM"_s, u"Fireworks"_s},
+                                                   {{}, {}},
+                                                   {u"late"_s, u"Tea"_s},
+                                                   {{}, u"Ferns"_s},
+                                                   {u"8:00"_s, u"Choir"_s}})));
         QVERIFY(files.write({2026, 12, 30}, dayOf({{u"8"_s, u"Market"_s}})));
         const QDate eve(2026, 12, 31);
         const auto note = [&](const QString &text, QTime time, int row) {
             return DayNote{eve, text, u"Daily Planner"_s, NoteKind::Appointment, time, {0, eve, row}};
         };
+        DayNote choir = note(u"Choir"_s, {8, 0}, 4);
+        choir.timeText = u"8:00"_s;
         QCOMPARE(PlannerNews::dayNotes(test.folder, eve, eve.addDays(7)),
                  (QList<DayNote>{note(u"Fireworks"_s, {21, 30}, 0), note(u"late  Tea"_s, {}, 2),
-                                 note(u"Ferns"_s, {}, 3)}));
+                                 note(u"Ferns"_s, {}, 3), choir}));
         QCOMPARE(PlannerNews::dayNotes(test.folder, {}, eve), QList<DayNote>());
         QCOMPARE(PlannerNews::files(test.folder), QStringList{u" 2026.Cal"_s}); // none was made for 2027
     }

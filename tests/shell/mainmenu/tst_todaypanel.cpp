@@ -78,6 +78,7 @@ private slots:
         QCOMPARE(shown(5), u"8 9 11 12 13"_s);
         QCOMPARE(shown(4), u"11 12 13 +2"_s);
         QCOMPARE(shown(3), u"11 12 +3"_s);
+        QCOMPARE(shown(2), u"11 +4"_s);
         m_test->clock.time.setTime({11, 0});
         QVERIFY(!notes.refresh());
         m_test->clock.time.setTime({11, 1});
@@ -87,21 +88,54 @@ private slots:
 
     void showsTheWeekInOrder()
     {
+        DayNote asTyped = noteOf(0, {8, 0}, u"Choir"_s); // in the evening, perhaps
+        asTyped.timeText = u"8:00"_s;
         add(Function::AddressBook, {{today, u"Anne Lind turns 48"_s, u"Address Book"_s, NoteKind::Birthday}});
         add(Function::Planner, {noteOf(0, {11, 30}, u"Dentist"_s), noteOf(0, {8, 30}, u"Market"_s),
-                                noteOf(1, {}, u"Ferns"_s), noteOf(4, {9, 0}, u"Bus"_s)});
+                                noteOf(1, {}, u"Ferns"_s), noteOf(4, {9, 0}, u"Bus"_s), asTyped});
         show();
         QTRY_VERIFY(find<TodayPanel>("todayPanel")->isVisible());
         QStringList lines;
         for (int row = 0; row < list().model()->rowCount(); ++row)
             lines << list().model()->index(row, 0).data(Qt::AccessibleTextRole).toString();
-        QCOMPARE(lines, (QStringList{u"Today, Anne Lind turns 48, Address Book"_s,
-                                     u"Today, 8:30 AM, Market, Daily Planner"_s,
-                                     u"Today, 11:30 AM, Dentist, Daily Planner"_s,
-                                     u"Tomorrow, Ferns, Daily Planner"_s,
-                                     u"Wed, Nov 25, 9:00 AM, Bus, Daily Planner"_s}));
-        QVERIFY(!list().visualRect(list().model()->index(4, 0)).isEmpty());
-        QVERIFY(list().viewport()->rect().contains(list().visualRect(list().model()->index(4, 0))));
+        QCOMPARE(lines,
+                 (QStringList{
+                     u"Today, Anne Lind turns 48, Address Book"_s, u"Today, 8:00, Choir, Daily Planner"_s,
+                     u"Today, 8:30 AM, Market, Daily Planner"_s, u"Today, 11:30 AM, Dentist, Daily Planner"_s,
+                     u"Tomorrow, Ferns, Daily Planner"_s, u"Wed, Nov 25, 9:00 AM, Bus, Daily Planner"_s}));
+        QVERIFY(!list().model()->index(1, 0).data(TodayModel::IsOverRole).toBool());
+        QVERIFY(list().model()->index(2, 0).data(TodayModel::IsOverRole).toBool());
+        QVERIFY(!list().visualRect(list().model()->index(5, 0)).isEmpty());
+        QVERIFY(list().viewport()->rect().contains(list().visualRect(list().model()->index(5, 0))));
+    }
+
+    void saysWhatStandsInALineOfSeveral_data()
+    {
+        rows<QList<int>, int, QString>(
+            {{"of one day", {0, 0, 1, 1, 1}, 4, u"Tomorrow, and 2 more"_s},
+             {"of several days", {1, 2, 3}, 2, u"Later, and 2 more until Tue, Nov 24"_s},
+             {"over, and not at the cost of what is to come", {-1, -1, 3, 4}, 3, u"Wed, Nov 25, Bus"_s}});
+    }
+
+    /// A day before today stands for what is over today.
+    void saysWhatStandsInALineOfSeveral()
+    {
+        const auto [days, room, last] = row<QList<int>, int, QString>();
+        QList<DayNote> given;
+        for (const int day : days)
+            given << noteOf(std::max(0, day), day < 0 ? QTime(8, 0) : QTime(), u"Bus"_s);
+        add(Function::Planner, given);
+        TodayNotes notes(m_test->program);
+        QVERIFY(notes.refresh());
+        TodayModel model;
+        model.setRoom(room);
+        model.show(notes, DateStyle::Usa);
+        const auto line = [&](int row) {
+            return model.index(row, 0).data(Qt::AccessibleTextRole).toString();
+        };
+        QVERIFY2(line(model.rowCount() - 1).startsWith(last), qPrintable(line(model.rowCount() - 1)));
+        if (days.first() < 0)
+            QCOMPARE(line(0), u"Today, 2 earlier"_s);
     }
 
     void readsOnlyWhatIsNewAndOpen()
