@@ -101,7 +101,7 @@ QString BudgetPrint::storeChart(const BudgetSheet &sheet, BudgetBasis basis, QSi
 {
     if (!m_chart)
         return {};
-    const QString path = m_picture.store(m_chart(sheet, basis, inches));
+    QString path = m_picture.store(m_chart(sheet, basis, inches));
     const DataFolder &folder = m_program.folder;
     if (!folder.isReadOnly() && path != folder.filePath(ChartPicture::fileName))
         emit said(BudgetPaper::chartNotSaved());
