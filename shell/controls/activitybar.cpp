@@ -40,6 +40,31 @@ public:
     }
 };
 
+/// The row of the bar: where the font is large and the window narrow, `date` gives way before the clock is
+/// cut.
+class Row final : public QWidget
+{
+public:
+    Row(QWidget *date, QWidget *bar)
+        : QWidget(bar)
+        , m_date(date)
+    {}
+
+protected:
+    bool event(QEvent *event) override
+    {
+        const bool handled = QWidget::event(event);
+        if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+            const int more = m_date->isHidden() ? m_date->sizeHint().width() + layout()->spacing() : 0;
+            m_date->setVisible(layout()->minimumSize().width() + more <= parentWidget()->width());
+        }
+        return handled;
+    }
+
+private:
+    QWidget *m_date;
+};
+
 } // namespace
 
 ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget *parent)
@@ -77,7 +102,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     m_stop->hide();
     m_readOnly->hide();
 
-    auto *row = new QWidget(this);
+    auto *row = new Row(m_date, this);
     auto *layout = new QHBoxLayout(row);
     addToRow(*layout);
     row->setMinimumHeight(barHeight - 2);

@@ -183,14 +183,22 @@ private slots:
     void theClockShowsTheProgramsTime()
     {
         TestProgram program;
-        ActivityBar bar(program.clock, program.state.dateStyle);
+        QWidget window;
+        ActivityBar bar(program.clock, program.state.dateStyle, &window);
         QCOMPARE(control<QLabel>(bar, "Label4")->text(), u"10:24 AM"_s);
         QCOMPARE(control<QLabel>(bar, "statusDate")->text(), u"Sat, Nov 21, 2026"_s);
         program.clock.time = QDateTime(QDate(2026, 11, 22), QTime(23, 59, 59, 950));
         bar.startClock();
-        bar.show();
+        window.show();
         program.clock.time = QDateTime(QDate(2026, 11, 23), QTime(0, 0));
         QTRY_COMPARE(control<QLabel>(bar, "Label4")->text(), u"12:00 AM"_s);
+        const auto *date = control<QLabel>(bar, "statusDate");
+        const auto *time = control<QLabel>(bar, "Label4");
+        for (const int width : {900, 260, 900}) {
+            bar.resize(width, bar.height());
+            QTRY_COMPARE(date->isVisible(), width == 900);
+            QTRY_VERIFY(bar.rect().contains(QRect(time->mapTo(&bar, QPoint()), time->size())));
+        }
     }
 
     void escAnswersOnlyWhereNothingIsLost_data()
