@@ -42,14 +42,20 @@ QString lineOf(const Item &item)
     return item.timeText.isEmpty() ? item.text : item.timeText + u"  "_s + item.text;
 }
 
-/// The first timed item that is not over yet.
+/// The first timed item that is not over yet; "8:00" may be that of the evening.
 const Item *nextItem(const QList<Item> &items, QTime now)
 {
     const QTime minute(now.hour(), now.minute());
     const Item *next = nullptr;
+    QTime first;
     for (const Item &item : items) {
-        if (item.time.isValid() && item.time >= minute && (!next || item.time < next->time))
+        QTime time = item.time;
+        if (time < minute && isHalfOpen(item.timeText, time))
+            time = time.addSecs(12 * 60 * 60);
+        if (time.isValid() && time >= minute && (!next || time < first)) {
             next = &item;
+            first = time;
+        }
     }
     return next;
 }

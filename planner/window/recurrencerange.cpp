@@ -121,7 +121,7 @@ void RecurrenceRange::addCalendar(QVBoxLayout *column)
     column->addLayout(sets);
     m_month = named(new MonthView(this), u"MonthView2"_s);
     m_month->setAccessibleName(u"Calendar for the beginning and the end date"_s);
-    m_month->setFixedHeight(226);
+    m_month->setFixedHeight(std::max(226, 8 * (fontMetrics().height() + 11))); // heading, names, six weeks
     column->addWidget(m_month);
     column->addStretch(1);
 }

@@ -48,6 +48,8 @@ private slots:
                            u"Three appointments today, the next one at 11:30 AM."_s}));
         QCOMPARE(PlannerNews::liveLine(test.folder, now.addSecs(7200))->text, u"Ferns"_s);
         QCOMPARE(PlannerNews::liveLine(test.folder, now.addDays(-1))->text, u"Tomorrow: Ferns"_s);
+        QVERIFY(files.write(now.date(), dayOf({{u"8:00"_s, u"Choir"_s}, {u"9:30 AM"_s, u"Market"_s}})));
+        QCOMPARE(PlannerNews::liveLine(test.folder, now)->text, u"8:00  Choir"_s); // of the evening, perhaps
     }
 
     void notesTheAppointmentsOfARange()
