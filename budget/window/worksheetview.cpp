@@ -16,14 +16,12 @@
 
 #include <QVBoxLayout>
 
-#include <utility>
-
 using namespace Qt::Literals::StringLiterals;
 
 WorksheetView::WorksheetView(const Program &program, Desk desk, QWidget *parent)
     : QWidget(parent)
     , m_program(program)
-    , m_desk(std::move(desk))
+    , m_desk(desk)
     , m_title(new TitleLine(u"budgetTitle"_s, {}, this))
     , m_years(new YearBox(this))
     , m_pane(new WorksheetPane(m_desk.model, this))

@@ -106,6 +106,7 @@ std::optional<TableFit::Fit> TableFit::fitIn(double points, double words,
     const double readable = std::min(wanted, readableWords);
     const double least = points > smallestPoints ? readable : std::min(wanted, leastWords);
     std::vector<double> widths;
+    widths.reserve(numbers.size() + 1);
     for (const double number : numbers)
         widths.push_back(number * scale + breath);
     // Equal columns look better, but not beside broken words.
