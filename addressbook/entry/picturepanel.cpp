@@ -8,6 +8,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/core/framelines.h"
+#include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/program/program.h"
@@ -220,7 +221,7 @@ void PicturePanel::selectDriveOf(const QString &path)
 void PicturePanel::chooseDrive(int index)
 {
     if (!showFolder(m_driveList->itemData(index).toString()))
-        fallBack(AddressMessages::driveUnavailable());
+        fallBack(ShellMessages::driveUnavailable());
 }
 
 void PicturePanel::openFolder(int row)
@@ -229,7 +230,7 @@ void PicturePanel::openFolder(int row)
     if (!item)
         return;
     if (!showFolder(item->data(PathRole).toString()))
-        fallBack(AddressMessages::deviceUnavailable());
+        fallBack(ShellMessages::deviceUnavailable());
     else
         m_folderList->setCurrentRow(0);
 }

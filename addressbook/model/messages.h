@@ -108,16 +108,6 @@ inline Message manyPictures()
             {Answer::Ok, Answer::Cancel}};
 }
 
-inline Message driveUnavailable()
-{
-    return {u"Device/Drive Error"_s, u"Device/Drive is Unavailable!"_s, Message::Critical};
-}
-
-inline Message deviceUnavailable()
-{
-    return {u"Device Status"_s, u"Device Unavailable!  "_s, Message::Critical};
-}
-
 /// Stands in the picture panel itself.
 inline QString notAPicture()
 {

@@ -148,18 +148,6 @@ inline Message exported()
     return {u"Export Function"_s, u"Export Completed to selected location!"_s};
 }
 
-/// The folder is not there.
-inline Message folderUnavailable()
-{
-    return {u"Device/Drive Error"_s, u"Device/Drive is Unavailable!"_s, Message::Critical};
-}
-
-/// The folder is there but does not take the file.
-inline Message deviceUnavailable()
-{
-    return {u"Device Status"_s, u"Device Unavailable!  "_s, Message::Critical};
-}
-
 // The chart.
 
 inline QString chartNotSaved()

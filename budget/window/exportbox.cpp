@@ -4,6 +4,7 @@
 #include "budget/model/papermessages.h"
 #include "budget/model/sheetlines.h"
 #include "shell/controls/controls.h"
+#include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "storage/saving.h"
@@ -127,10 +128,10 @@ void ExportBox::accept()
         return refuse(BudgetPaper::exportNameWrong(), m_name);
     const QString path = QDir::fromNativeSeparators(m_folder->text().trimmed());
     if (path.isEmpty() || QDir::isRelativePath(path) || !QFileInfo(path).isDir())
-        return refuse(BudgetPaper::folderUnavailable(), m_folder);
+        return refuse(ShellMessages::driveUnavailable(), m_folder);
     const DataFolder chosen(path);
     if (!Saving::replaceFile(isChosen ? chosen : m_program.folder, *name, m_content))
-        return refuse(BudgetPaper::deviceUnavailable(), m_folder);
+        return refuse(ShellMessages::deviceUnavailable(), m_folder);
     m_program.dialogs.ask(this, BudgetPaper::exported());
     QDialog::accept();
 }

@@ -13,6 +13,21 @@ inline Message colorConflict()
             Message::Critical};
 }
 
+// A folder that was chosen
+
+/// It is not there.
+inline Message driveUnavailable()
+{
+    return {QStringLiteral("Device/Drive Error"), QStringLiteral("Device/Drive is Unavailable!"),
+            Message::Critical};
+}
+
+/// It is there, but cannot be read, or does not take the file.
+inline Message deviceUnavailable()
+{
+    return {QStringLiteral("Device Status"), QStringLiteral("Device Unavailable!  "), Message::Critical};
+}
+
 // Family name
 
 inline QString familyNameTitle()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/entry/picturepanel.h"
 #include "addressbook/model/messages.h"
+#include "shell/core/shellmessages.h"
 #include "shell/pictures/pictureframe.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/testpictures.h"
@@ -99,13 +100,13 @@ private slots:
         // What has gone meanwhile is said, and the drive itself is shown.
         QVERIFY(QDir(m_album).rmdir(u"summer"_s));
         openFolder(1);
-        QCOMPARE(asked(), {AddressMessages::deviceUnavailable()});
+        QCOMPARE(asked(), {ShellMessages::deviceUnavailable()});
         QCOMPARE(shownFolder(), m_test->temporary.path());
 
         auto *drives = find<QComboBox>("Drive1");
         drives->setFocus();
         QTest::keyClick(drives, Qt::Key_Down);
-        QCOMPARE(asked(), {AddressMessages::driveUnavailable()});
+        QCOMPARE(asked(), {ShellMessages::driveUnavailable()});
         QCOMPARE(drives->currentIndex(), 0);
         QCOMPARE(shownFolder(), m_test->temporary.path());
     }

@@ -3,6 +3,7 @@
 #include "budget/model/messages.h"
 #include "budget/model/papermessages.h"
 #include "openbudget.h"
+#include "shell/core/shellmessages.h"
 
 #include <QClipboard>
 #include <QDialog>
@@ -116,8 +117,8 @@ private slots:
             {"no name", u" "_s, {}, BudgetPaper::exportNameWrong()},
             {"a name that is none", u"a/b"_s, {}, BudgetPaper::exportNameWrong()},
             {"a folder that is not there", u"Budget"_s, u"/nowhere/at/all"_s,
-             BudgetPaper::folderUnavailable()},
-            {"a folder that takes nothing", u"Budget"_s, u"/proc"_s, BudgetPaper::deviceUnavailable()},
+             ShellMessages::driveUnavailable()},
+            {"a folder that takes nothing", u"Budget"_s, u"/proc"_s, ShellMessages::deviceUnavailable()},
         });
     }
 
