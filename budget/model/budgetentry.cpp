@@ -12,6 +12,11 @@ double BudgetEntry::amountOf(QStringView typed)
     return Amount::rounded(Formula::is(typed) ? Formula::value(typed).value_or(0) : Amount::typed(typed));
 }
 
+bool BudgetEntry::isPartlyRead(QStringView typed)
+{
+    return !Formula::is(typed) && !Amount::isWholly(typed);
+}
+
 BudgetEntry BudgetEntry::ofCell(QStringView typed)
 {
     const double amount = amountOf(typed);

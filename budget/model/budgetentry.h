@@ -19,6 +19,8 @@ struct BudgetEntry {
     /// What is typed in the place of an amount, to the nearest cent; 0 for a formula with something wrong in
     /// it.
     static double amountOf(QStringView typed);
+    /// Whether only a number at the start of `typed` counts: "85,50" is 85.
+    static bool isPartlyRead(QStringView typed);
 
     bool operator==(const BudgetEntry &) const = default;
 };

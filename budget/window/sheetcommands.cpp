@@ -3,7 +3,6 @@
 
 #include "budget/model/amount.h"
 #include "budget/model/budgetentry.h"
-#include "budget/model/formula.h"
 #include "budget/model/lines.h"
 #include "budget/model/messages.h"
 #include "budget/model/sheetedits.h"
@@ -272,20 +271,19 @@ void SheetCommands::enterIncome(int month)
     m_desk.grid.finishEdit();
     BudgetSheet wanted = m_desk.model.sheet();
     QString &income = wanted.incomes[std::size_t(month)];
-    // The question does not name it.
-    emit said(BudgetLines::income(SheetColumn::headings()[SheetColumn::firstMonth + month]));
+    const QString title = BudgetLines::income(SheetColumn::headings()[SheetColumn::firstMonth + month]);
+    emit said(title); // the question does not name the month
     const auto answer = m_program.dialogs.input(m_window, BudgetMessages::incomeTitle(),
                                                 BudgetMessages::whichIncome(), income);
     if (!answer || answer->trimmed().isEmpty())
         return;
     const BudgetEntry entry = BudgetEntry::ofIncome(*answer);
     show(entry.notice);
-    if (!entry.notice && !Formula::is(*answer) && !Amount::isWholly(*answer))
+    if (!entry.notice && BudgetEntry::isPartlyRead(*answer))
         emit said(BudgetLines::partlyRead(*answer, entry.text));
     income = entry.text;
     m_desk.model.preview(wanted);
     if (m_program.dialogs.ask(m_window, BudgetMessages::copyIncomeToTheRight()) == Answer::Yes)
         std::fill(wanted.incomes.begin() + month + 1, wanted.incomes.end(), entry.text);
-    m_desk.model.change(BudgetLines::income(SheetColumn::headings()[SheetColumn::firstMonth + month]),
-                        wanted);
+    m_desk.model.change(title, wanted);
 }

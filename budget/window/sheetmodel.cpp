@@ -3,7 +3,6 @@
 
 #include "budget/model/amount.h"
 #include "budget/model/budgetentry.h"
-#include "budget/model/formula.h"
 #include "budget/model/lines.h"
 
 #include <algorithm>
@@ -205,7 +204,7 @@ bool SheetModel::takeCell(int row, int column, const QString &typed)
            wanted);
     if (entry.notice)
         emit noticed(*entry.notice, index(row, column));
-    else if (!Formula::is(typed) && !Amount::isWholly(typed))
+    else if (BudgetEntry::isPartlyRead(typed))
         emit partlyRead(typed, entry.text);
     return true;
 }
