@@ -142,9 +142,10 @@ void TableFit::place(const Table &table, Items &items)
         m_isCut = m_isCut || parts > 1;
         const bool areTogether = areOnOneSheet(table, fits.size(), fits.front().points);
         for (std::size_t i = 0; i < fits.size(); ++i) {
-            if (i > 0)
-                items.emplace_back(areTogether ? Page::Item(PageItem::Line{})
-                                               : Page::Item(PageItem::Break{}));
+            if (i > 0 && areTogether)
+                items.emplace_back(PageItem::Line{});
+            else if (i > 0)
+                items.emplace_back(PageItem::Break{});
             PageItem::Columns columns = table.columns;
             columns.headings = part(columns.headings, i * most, most);
             columns.weights = fits[i].widths;
