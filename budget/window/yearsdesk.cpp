@@ -63,23 +63,26 @@ void YearsDesk::open()
 
 void YearsDesk::refresh()
 {
+    m_view->show(m_desk.year.year(), comparison(), layAside());
+}
+
+YearComparison YearsDesk::comparison() const
+{
+    return {m_desk.model.sheet(), sheetOf(m_desk.year.files(), m_desk.year.year() - 1)};
+}
+
+LayAside YearsDesk::layAside() const
+{
     const int year = m_desk.year.year();
-    const BudgetFiles &files = m_desk.year.files();
-    const BudgetSheet &sheet = m_desk.model.sheet();
-    m_view->show(year, {sheet, sheetOf(files, year - 1)},
-                 LayAside::of(year, sheet, sheetOf(files, year + 1), m_program.clock.today()));
+    return LayAside::of(year, m_desk.model.sheet(), sheetOf(m_desk.year.files(), year + 1),
+                        m_program.clock.today());
 }
 
 void YearsDesk::print()
 {
     const int year = m_desk.year.year();
-    const BudgetFiles &files = m_desk.year.files();
-    const BudgetSheet sheet = m_desk.model.sheet();
-    const YearComparison comparison(sheet, sheetOf(files, year - 1));
-    const LayAside aside = LayAside::of(year, sheet, sheetOf(files, year + 1), m_program.clock.today());
     m_window->showPreview(
-        [=, what = m_view->compared()](const PageContext &context) {
-            return YearsPages::comparison(year, comparison, what, aside, context);
-        },
+        [year, years = comparison(), aside = layAside(), what = m_view->compared()](
+            const PageContext &context) { return YearsPages::comparison(year, years, what, aside, context); },
         u"Budgets %1 and %2"_s.arg(year - 1).arg(year));
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "budget/model/layaside.h"
+#include "budget/model/yearcomparison.h"
+
 #include <QObject>
 
 class BudgetYear;
@@ -33,6 +36,8 @@ private:
     void open();
     void refresh();
     void print();
+    YearComparison comparison() const;
+    LayAside layAside() const;
 
     Program &m_program;
     Desk m_desk;
