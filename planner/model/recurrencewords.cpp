@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include <array>
-#include <tuple>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -90,12 +89,15 @@ std::optional<Recurrence> RecurrenceWords::recurrence(const QString &text, QDate
     const QString plain = text.simplified();
     const auto ofTheMonth =
         wholeWords(u"(?:1st|2nd|3rd|4th|first|second|third|fourth|last) (?:%1)s?"_s.arg(weekday));
-    const auto found = ofTheMonth.match(plain).hasMatch() ? std::nullopt : named(plain);
+    if (ofTheMonth.match(plain).hasMatch())
+        return {};
+    const auto found = named(plain);
     const QList<Qt::DayOfWeek> days = weekdaysIn(plain);
     if (!found || (found->first == Recurrence::Weekly && days.size() > 1))
         return {};
     Recurrence recurrence;
-    std::tie(recurrence.kind, recurrence.interval) = *found;
+    recurrence.kind = found->first;
+    recurrence.interval = found->second;
     recurrence.weekday = days.value(0, Qt::DayOfWeek(date.dayOfWeek()));
     recurrence.dayOfMonth = date.day();
     return recurrence;
