@@ -182,6 +182,14 @@ void Budget1::connectSheet()
     connect(
         m_spentDesk, &SpentDesk::noticed, this, [this](const Message &message) { ask(message); },
         Qt::QueuedConnection);
+    // Behind what was added.
+    connect(
+        m_spentDesk, &SpentDesk::partlyRead, this,
+        [this](const QString &typed, const QString &amount) {
+            activity().say(BudgetLines::partlyRead(typed, amount));
+            undoStack().offer();
+        },
+        Qt::QueuedConnection);
     connect(m_model, &SheetModel::shownAgain, &grid(), &SheetGrid::choose);
     // The box that is typed into goes before anything is asked.
     connect(m_model, &SheetModel::noticed, this, &Budget1::notice, Qt::QueuedConnection);

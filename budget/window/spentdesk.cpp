@@ -180,6 +180,8 @@ void SpentDesk::addTyped(int row, int month, const QString &typed)
     }
     if (entry.notice)
         emit noticed(*entry.notice);
+    else if (BudgetEntry::isPartlyRead(typed))
+        emit partlyRead(typed, entry.text);
 }
 
 void SpentDesk::openCell()

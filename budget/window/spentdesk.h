@@ -52,6 +52,8 @@ signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
     void noticed(const Message &message);
+    /// Only the number at the start of what was typed was added, as `amount`.
+    void partlyRead(const QString &typed, const QString &amount);
     /// Of what takes its time; `total` 0: it is over.
     void progressed(int done, int total);
 

@@ -29,6 +29,10 @@ private slots:
         typeAt(0, 3, u"35.5"_s);
         QCOMPARE(textAt(0, 3), u"105.50"_s);
         QCOMPARE(labelText("Label3_2"), u"105.50"_s);
+        typeAt(1, 3, u"85,50"_s);
+        QCOMPARE(textAt(1, 3), u"85.00"_s);
+        QCOMPARE(said(), u"\"85,50\" was read as 85.00: decimals stand behind a point"_s);
+        trigger("mEUndo");
         typeAt(2, 3, u"5"_s); // a row without an item
         QCOMPARE(textAt(2, 3), QString());
         trigger("mEUndo");
