@@ -24,8 +24,8 @@ public:
 
     bool isModified() const override;
 
-    /// Shows the row and month of `place` in its year, where unsaved work lets it; the amount with that date
-    /// where its record is the year.
+    /// Shows the row of `place` in its year, where unsaved work lets it: what is due in its month, or the
+    /// amount with its date where its record is the year.
     void showPlace(const Place &place);
 
 protected:

@@ -240,9 +240,13 @@ void SpentDesk::show(const Place &place)
         m_desk.grid.setCurrentIndex(m_desk.model.index(place.row, column));
         m_desk.grid.scrollTo(m_desk.grid.currentIndex());
     }
-    // A date with a record is an amount that was found; without one, something due.
-    if (!place.date.isValid() || place.record == 0)
+    if (!place.date.isValid())
         return;
+    // A date with a record is an amount that was found; without one, something due.
+    if (place.record == 0) {
+        openDue();
+        return;
+    }
     setLayer(true);
     openAmounts(place.row, place.row < 0 ? -1 : place.date.month() - 1);
     m_amounts->choose(place.date);

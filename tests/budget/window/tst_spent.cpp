@@ -220,6 +220,10 @@ private slots:
     {
         m_test->setBytes(u"Quillery.spent-2025"_s, "spent\t2025-05-05\t7.00\tGone\tlost\n");
         m_window->showPlace({.date = QDate(2026, 4, 1), .row = 1});
+        QCOMPARE(find<QComboBox>("dueMonth")->currentIndex(), 3);
+        const QModelIndex due = find<QTableView>("dueList")->currentIndex();
+        QCOMPARE(due.siblingAtColumn(0).data().toString(), u"Fuel"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QCOMPARE(m_grid->currentIndex(), m_grid->model()->index(1, 4));
         m_window->showPlace({.record = 2025, .date = QDate(2025, 5, 5), .row = -1});
         QCOMPARE(find<QComboBox>("Combo1")->currentText(), u"2025"_s);
