@@ -24,14 +24,15 @@ Page started(const QString &title, const PageContext &context)
 }
 
 /// The year's three sums beside one another; a sheet on its side is low and has room for them in one line.
-void addSums(Page &page, const BudgetFigures &figures, BudgetBasis basis, PageSetup::Orientation orientation)
+void addSums(Page &page, const BudgetFigures &figures, SheetLayer layer, BudgetBasis basis,
+             PageSetup::Orientation orientation)
 {
     const auto sum = [&](double amount) {
         const QString share = figures.share(amount, basis);
         return share.isEmpty() ? Amount::text(amount) : QString(Amount::text(amount) + u"  "_s + share);
     };
-    const QStringList captions{BudgetPaper::totalIncome().trimmed(), BudgetPaper::totalExpenses(),
-                               BudgetPaper::balance().trimmed()};
+    const QStringList captions{BudgetPaper::totalIncome().trimmed(), BudgetPaper::expensesOf(layer),
+                               BudgetPaper::balanceOf(layer).trimmed()};
     QStringList sums{sum(figures.income), sum(figures.expenses), sum(figures.balance)};
     PageItem::Columns columns;
     columns.weights = {1, 1, 1};
@@ -43,7 +44,7 @@ void addSums(Page &page, const BudgetFigures &figures, BudgetBasis basis, PageSe
     for (qsizetype i = 0; orientation == PageSetup::Landscape && i < sums.size(); ++i)
         sums[i].prepend(captions[i] + u"  "_s);
     page.row(sums, TextRole::Strong);
-    page.line(BudgetPaper::totalsHint() + u' ' + BudgetPages::basisCaption(basis), TextRole::Small);
+    page.line(BudgetPaper::totalsHint(layer) + u' ' + BudgetPages::basisCaption(basis), TextRole::Small);
     if (orientation == PageSetup::Portrait)
         page.blankLine();
     else
@@ -58,9 +59,9 @@ QString monthly(double year)
 
 } // namespace
 
-Page BudgetPages::sheet(int year, const BudgetSheet &sheet, const PageContext &context)
+Page BudgetPages::sheet(ShownYear shown, const BudgetSheet &sheet, const PageContext &context)
 {
-    Page page = started(BudgetPaper::sheetTitle(year), context);
+    Page page = started(BudgetPaper::sheetTitle(shown), context);
     PageItem::Columns columns;
     columns.headings = BudgetPaper::headings();
     columns.widths = TableWidths::ForNumbers;
@@ -69,9 +70,9 @@ Page BudgetPages::sheet(int year, const BudgetSheet &sheet, const PageContext &c
         page.row(SheetLines::cells(sheet.rows[row]));
     const SheetLines::Sums sums = SheetLines::sums(BudgetFigures::of(sheet));
     page.rule();
-    page.rowWithNext(QStringList(BudgetPaper::totalExpenses().trimmed()) + sums.expenses, TextRole::Strong);
+    page.rowWithNext(QStringList(BudgetPaper::expensesOf(shown.layer)) + sums.expenses, TextRole::Strong);
     page.rowWithNext(QStringList(BudgetPaper::totalIncome().trimmed()) + sums.incomes, TextRole::Strong);
-    page.row(QStringList(BudgetPaper::balance().trimmed()) + sums.balances, TextRole::Strong);
+    page.row(QStringList(BudgetPaper::balanceOf(shown.layer).trimmed()) + sums.balances, TextRole::Strong);
     return page.close(context.today, context.style);
 }
 
@@ -80,16 +81,16 @@ QRectF BudgetPages::chartFrame(PageSetup::Orientation orientation)
     return orientation == PageSetup::Landscape ? QRectF(0.31, 0.7, 9.9, 4.4) : QRectF(0.36, 0.84, 7.3, 4.15);
 }
 
-Page BudgetPages::totals(int year, const BudgetSheet &sheet, BudgetBasis basis, const QString &chartPicture,
-                         const PageContext &context)
+Page BudgetPages::totals(ShownYear shown, const BudgetSheet &sheet, BudgetBasis basis,
+                         const QString &chartPicture, const PageContext &context)
 {
-    Page page = started(BudgetPaper::totalsTitle(year), context);
+    Page page = started(BudgetPaper::totalsTitle(shown), context);
     if (!chartPicture.isEmpty())
         page.startAt(totalsStart)
             .placePicture(chartFrame(context.setup.orientation), chartPicture)
             .belowPlaced();
     const BudgetFigures figures = BudgetFigures::of(sheet);
-    addSums(page, figures, basis, context.setup.orientation);
+    addSums(page, figures, shown.layer, basis, context.setup.orientation);
     PageItem::Columns columns;
     columns.weights = {3, 1.2, 1.2};
     columns.headings = BudgetPaper::totalsHeadings();

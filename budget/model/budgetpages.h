@@ -2,6 +2,7 @@
 #pragma once
 
 #include "budget/model/budgetfigures.h"
+#include "budget/model/shownyear.h"
 #include "shell/core/pagecontext.h"
 
 #include <QRectF>
@@ -12,14 +13,14 @@
 namespace BudgetPages {
 
 /// The worksheet down to its last row in use, and what each month comes to.
-Page sheet(int year, const BudgetSheet &sheet, const PageContext &context);
+Page sheet(ShownYear shown, const BudgetSheet &sheet, const PageContext &context);
 
 /// Where the chart stands on the totals page, in inches from the corner of the sheet as it lies.
 QRectF chartFrame(PageSetup::Orientation orientation);
 
 /// The year's totals: the chart in its frame, unless `chartPicture` (a path) is empty, the three sums and the
 /// items with what they cost in the year and their share by `basis`.
-Page totals(int year, const BudgetSheet &sheet, BudgetBasis basis, const QString &chartPicture,
+Page totals(ShownYear shown, const BudgetSheet &sheet, BudgetBasis basis, const QString &chartPicture,
             const PageContext &context);
 
 /// What was spent on each row in the year; empty while nothing was.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "budget/model/amount.h"
+#include "budget/model/shownyear.h"
 
 #include <QString>
 
@@ -70,6 +71,28 @@ inline QString balance(const QString &when, double amount)
     const QString text = Amount::text(std::abs(amount));
     const QString whole = text.startsWith(u'.') ? u'0' + text : text;
     return when + u": "_s + whole + (Amount::rounded(amount) < 0 ? u" over"_s : u" left"_s);
+}
+
+/// The same among what was spent: "March 2026: 812.40 not spent yet", "March 2026: 35.00 spent over the
+/// income".
+inline QString notSpent(const QString &when, double amount)
+{
+    const QString text = Amount::text(std::abs(amount));
+    const QString whole = text.startsWith(u'.') ? u'0' + text : text;
+    return when + u": "_s + whole +
+           (Amount::rounded(amount) < 0 ? u" spent over the income"_s : u" not spent yet"_s);
+}
+
+/// What the sums of the expenses are headed by.
+inline QString expensesHead(SheetLayer layer)
+{
+    return layer == SheetLayer::Spent ? u"Total Spent"_s : u"Total Expenses"_s;
+}
+
+/// What the sums under the income are headed by.
+inline QString balanceHead(SheetLayer layer)
+{
+    return layer == SheetLayer::Spent ? u"Not Spent Yet"_s : u"Balance"_s;
 }
 
 inline QString noBudgetYet(int year)

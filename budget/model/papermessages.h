@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "budget/model/shownyear.h"
 #include "shell/core/message.h"
 
 #include <QStringList>
@@ -10,20 +11,23 @@ namespace BudgetPaper {
 
 using namespace Qt::Literals::StringLiterals;
 
-inline QString sheetTitle(int year)
+inline QString sheetTitle(ShownYear shown)
 {
-    return u" Personal Budget For "_s + QString::number(year);
+    return u" Personal Budget For "_s + QString::number(shown.year) +
+           (shown.isSpent() ? u", Spent"_s : QString());
 }
 
-inline QString totalsTitle(int year)
+inline QString totalsTitle(ShownYear shown)
 {
-    return u"BUDGET TOTALS FOR "_s + QString::number(year);
+    return u"BUDGET TOTALS FOR "_s + QString::number(shown.year) +
+           (shown.isSpent() ? u", SPENT"_s : QString());
 }
 
 /// Beside what the totals' shares are of.
-inline QString totalsHint()
+inline QString totalsHint(SheetLayer layer)
 {
-    return u"What is planned, in the whole year."_s;
+    return layer == SheetLayer::Spent ? u"What was spent, in the whole year."_s
+                                      : u"What is planned, in the whole year."_s;
 }
 
 inline QString discussionTitle(int year)
@@ -87,6 +91,18 @@ inline QString totalIncome()
 inline QString balance()
 {
     return u"Balance:          "_s;
+}
+
+/// The first of these lines in the layer.
+inline QString expensesOf(SheetLayer layer)
+{
+    return layer == SheetLayer::Spent ? u"Total Spent:"_s : totalExpenses();
+}
+
+/// The last of them.
+inline QString balanceOf(SheetLayer layer)
+{
+    return layer == SheetLayer::Spent ? u"Not Spent Yet:"_s : balance();
 }
 
 // The clipboard.

@@ -2,6 +2,7 @@
 #include "budget/model/spending.h"
 
 #include "budget/model/amount.h"
+#include "budget/model/spentlines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -156,6 +157,43 @@ bool SpentSums::hasAny(std::size_t month) const
 {
     return noRow[month] != 0 ||
            std::ranges::any_of(rows, [month](const Months &months) { return months[month] != 0; });
+}
+
+bool SpentSums::hasAny() const
+{
+    for (std::size_t month = 0; month < BudgetSheet::monthCount; ++month) {
+        if (hasAny(month))
+            return true;
+    }
+    return false;
+}
+
+BudgetSheet SpentSums::asSheet(const BudgetSheet &plan) const
+{
+    BudgetSheet sheet;
+    sheet.incomes = plan.incomes;
+    const auto fill = [&sheet](std::size_t row, const QString &item, const Months &cents) {
+        sheet.rows[row].item = item;
+        for (std::size_t month = 0; month < BudgetSheet::monthCount; ++month)
+            sheet.rows[row].amounts[month] = cents[month] == 0 ? QString() : centsText(cents[month]);
+    };
+    for (std::size_t row = 0; row < BudgetSheet::rowCount; ++row)
+        fill(row, plan.rows[row].item, rows[row]);
+    if (noRow == Months{})
+        return sheet;
+    // In a full sheet it takes the place of an item that nothing was spent on, or stands with the last one.
+    const auto isFree = [&](std::size_t row) { return rows[row] == Months{}; };
+    std::size_t place = BudgetSheet::rowCount - 1;
+    while (place > 0 && sheet.rows[place].isEmpty() && sheet.rows[place - 1].isEmpty())
+        --place;
+    for (std::size_t row = place; row > 0 && !isFree(place); --row)
+        place = isFree(row) ? row : place;
+    Months cents = noRow;
+    for (std::size_t month = 0; month < BudgetSheet::monthCount; ++month)
+        cents[month] += rows[place][month];
+    const QString with = isFree(place) ? QString() : sheet.rows[place].item + u", "_s;
+    fill(place, with + SpentLines::noRow(), cents);
+    return sheet;
 }
 
 BudgetItems::BudgetItems(const BudgetSheet &sheet)

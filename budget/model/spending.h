@@ -94,6 +94,10 @@ struct SpentSums {
 
     /// Whether anything was spent in `month` (from 0) or on what has no row.
     bool hasAny(std::size_t month) const;
+    bool hasAny() const;
+    /// What was spent in place of what `plan` has, for totals and pages; what has no row stands in a row of
+    /// its own, "No row".
+    BudgetSheet asSheet(const BudgetSheet &plan) const;
 };
 
 /// The items of a worksheet and the first row of each.

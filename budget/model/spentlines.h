@@ -88,6 +88,11 @@ inline QString noneYet()
     return u"Nothing was spent here yet"_s;
 }
 
+inline QString nothingIn(int year)
+{
+    return u"Nothing was spent in "_s + QString::number(year) + u" yet"_s;
+}
+
 inline QString howToAdd()
 {
     return u"An amount that is typed is added; Ctrl+Enter shows the single ones"_s;

@@ -23,9 +23,9 @@ BudgetTotals BudgetTotals::of(const BudgetSheet &sheet, BudgetBasis basis)
     return totals;
 }
 
-QString TotalsLines::heading(int year)
+QString TotalsLines::heading(ShownYear shown)
 {
-    return u"Totals For Year "_s + QString::number(year);
+    return u"Totals For Year "_s + QString::number(shown.year) + (shown.isSpent() ? u", Spent"_s : QString());
 }
 
 QStringList TotalsLines::columns()
@@ -46,9 +46,10 @@ QString TotalsLines::percentageOf(BudgetBasis basis)
     return basis == BudgetBasis::Income ? u"Percentage of Total Income"_s : u"Percentage of Total Expenses"_s;
 }
 
-QString TotalsLines::chartTitle(int year)
+QString TotalsLines::chartTitle(ShownYear shown)
 {
-    return u"Where the money goes in %1"_s.arg(year);
+    return (shown.isSpent() ? u"Where the money went in %1"_s : u"Where the money goes in %1"_s)
+        .arg(shown.year);
 }
 
 QString TotalsLines::others(int count)

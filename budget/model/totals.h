@@ -2,6 +2,7 @@
 #pragma once
 
 #include "budget/model/budgetfigures.h"
+#include "budget/model/shownyear.h"
 
 /// The year's totals as they are shown.
 struct BudgetTotals {
@@ -27,14 +28,14 @@ struct BudgetTotals {
 /// What the totals say.
 namespace TotalsLines {
 
-QString heading(int year);
+QString heading(ShownYear shown);
 QStringList columns();
 /// "$11,760": whole dollars.
 QString dollars(double amount);
 /// What the chart's shares are of.
 QString percentageOf(BudgetBasis basis);
 /// The question that the chart answers.
-QString chartTitle(int year);
+QString chartTitle(ShownYear shown);
 /// The bar for `count` items that have none of their own.
 QString others(int count);
 

@@ -5,10 +5,10 @@
 #include "budget/model/budgetpages.h"
 #include "budget/model/papermessages.h"
 #include "budget/model/sheetlines.h"
-#include "budget/window/budgetyear.h"
 #include "budget/window/exportbox.h"
 #include "budget/window/sheetgrid.h"
 #include "budget/window/sheetmodel.h"
+#include "budget/window/spentyear.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/program/program.h"
@@ -39,7 +39,9 @@ void BudgetPrint::addPrintCommands(Commands &commands, QMenu *menu)
 {
     QAction *print = commands.add(
         menu, u"mOPrt"_s, u"&Print"_s, [this] { printSheet(); }, {}, CommonKeys::print);
-    commands.add(menu, u"mOPTotals"_s, u"Print &Totals"_s, [this] { printTotals(); });
+    commands.add(
+        menu, u"mOPTotals"_s, u"Print &Totals"_s, [this] { printTotals(); },
+        [this] { return m_from.year.whyNoTotals(); });
     commands.add(menu, u"mOPDiscuss"_s, u"Print S&heet to Discuss"_s, [this] { printDiscussion(); });
     commands.tool(print, "print"_L1, u"Print"_s);
 }
@@ -66,6 +68,13 @@ BudgetSheet BudgetPrint::sheet() const
     return m_from.model.sheet();
 }
 
+/// The same of the layer that the grid shows.
+BudgetSheet BudgetPrint::shownSheet() const
+{
+    m_from.grid.finishEdit();
+    return m_from.year.shownSheet();
+}
+
 /// The proposed name of a PDF.
 QString BudgetPrint::nameOf(const QString &what) const
 {
@@ -75,25 +84,26 @@ QString BudgetPrint::nameOf(const QString &what) const
 void BudgetPrint::printSheet()
 {
     m_window->showPreview(
-        [year = m_from.year.year(), sheet = sheet()](const PageContext &context) {
-            return BudgetPages::sheet(year, sheet, context);
+        [shown = m_from.year.shown(), sheet = shownSheet()](const PageContext &context) {
+            return BudgetPages::sheet(shown, sheet, context);
         },
-        nameOf(u"Budget"_s));
+        nameOf(m_from.year.shown().isSpent() ? u"Budget Spent"_s : u"Budget"_s));
 }
 
 void BudgetPrint::printTotals()
 {
-    const BudgetSheet sheet = this->sheet();
+    const BudgetSheet sheet = shownSheet();
     if (const auto refusal = whyNoTotals(sheet)) {
         m_program.dialogs.ask(m_window, *refusal);
         return;
     }
     const BudgetBasis basis = m_basis ? m_basis() : BudgetBasis::Income;
-    const auto page = [this, year = m_from.year.year(), sheet, basis](const PageContext &context) {
+    const auto page = [this, shown = m_from.year.shown(), sheet, basis](const PageContext &context) {
         const QSizeF frame = BudgetPages::chartFrame(context.setup.orientation).size();
-        return BudgetPages::totals(year, sheet, basis, storeChart(sheet, basis, frame), context);
+        return BudgetPages::totals(shown, sheet, basis, storeChart(sheet, basis, frame), context);
     };
-    m_window->showPreview(page, nameOf(u"Budget Totals"_s));
+    m_window->showPreview(
+        page, nameOf(m_from.year.shown().isSpent() ? u"Budget Totals Spent"_s : u"Budget Totals"_s));
 }
 
 /// The path of its picture, wherever that could be kept.

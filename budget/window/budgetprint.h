@@ -10,11 +10,11 @@
 
 #include <functional>
 
-class BudgetYear;
 class FunctionWindow;
 class QMenu;
 class SheetGrid;
 class SheetModel;
+class SpentYear;
 struct PageContext;
 struct Program;
 
@@ -28,7 +28,7 @@ public:
     struct Sources {
         const SheetModel &model;
         SheetGrid &grid;
-        const BudgetYear &year;
+        const SpentYear &year;
     };
     /// The chart of the totals on paper, of this size in inches.
     using Chart = std::function<QImage(const BudgetSheet &, BudgetBasis, QSizeF)>;
@@ -55,6 +55,7 @@ private:
     void copy();
     void exportFile();
     BudgetSheet sheet() const;
+    BudgetSheet shownSheet() const;
     BudgetPages::Spent spent() const;
     QString nameOf(const QString &what) const;
 

@@ -59,8 +59,8 @@ Budget1::Budget1(Program &program, QWidget *parent)
     m_sheet->setSwitch(m_spentDesk->makeSwitch(m_sheet));
     m_edits =
         new SheetCommands(program, {*m_model, grid(), commands(), [this] { return whyNoSheet(); }}, this);
-    m_print = new BudgetPrint(program, this, {*m_model, grid(), *m_year});
-    m_totalsDesk = new TotalsDesk(program, {*m_model, *m_year, *m_views, *m_print}, this);
+    m_print = new BudgetPrint(program, this, {*m_model, grid(), *m_spent});
+    m_totalsDesk = new TotalsDesk(program, {*m_model, *m_spent, *m_views, *m_print}, this);
     setWork(makeWorkPanel());
     makeCommands();
     setViews(m_views);
@@ -91,7 +91,11 @@ void Budget1::makeCommands()
     m_spentDesk->addCommands(view);
     view->addSeparator();
     m_totals = commands().add(
-        view, u"mVTotals"_s, u"View &Totals"_s, [this] { viewTotals(); }, [this] { return whyNoSheet(); },
+        view, u"mVTotals"_s, u"View &Totals"_s, [this] { viewTotals(); },
+        [this] {
+            const QString why = whyNoSheet();
+            return why.isEmpty() ? m_spent->whyNoTotals() : why;
+        },
         CommonKeys::views[2]);
     auto *years = new YearsDesk(program(), {*m_model, grid(), *m_year, *m_views}, this);
     years->addCommand(commands(), view);

@@ -3,15 +3,13 @@
 
 #include "budget/model/budgetfigures.h"
 #include "budget/model/sheetrange.h"
+#include "budget/model/shownyear.h"
 #include "shell/core/message.h"
 #include "shell/core/undostep.h"
 
 #include <QAbstractTableModel>
 
 #include <memory>
-
-/// What a cell of the grid shows: what is planned, or what was spent.
-enum class SheetLayer { Planned, Spent };
 
 /// The worksheet of a year while it is edited, beside what its file has. Every edit goes through the entry
 /// check, is one step of undo, and leaves the figures computed.

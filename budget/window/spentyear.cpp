@@ -44,6 +44,21 @@ void SpentYear::refresh()
     emit changed();
 }
 
+ShownYear SpentYear::shown() const
+{
+    return {m_year, m_model.layer()};
+}
+
+BudgetSheet SpentYear::shownSheet() const
+{
+    return shown().isSpent() ? m_sums.asSheet(m_model.sheet()) : m_model.sheet();
+}
+
+QString SpentYear::whyNoTotals() const
+{
+    return shown().isSpent() && !m_sums.hasAny() ? SpentLines::nothingIn(m_year) : QString();
+}
+
 QString SpentYear::whyReadOnly() const
 {
     if (m_folder.isReadOnly())

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "budget/model/shownyear.h"
 #include "budget/model/spendingfiles.h"
 #include "shell/core/undostep.h"
 
@@ -24,6 +25,12 @@ public:
     const SheetModel &sheet() const { return m_model; }
     const Spending &spending() const { return m_spending; }
     const SpentSums &sums() const { return m_sums; }
+    /// The year with the layer that the grid shows, and its worksheet: the plan, or what was spent in its
+    /// place.
+    ShownYear shown() const;
+    BudgetSheet shownSheet() const;
+    /// Why that has no totals; empty where it may have some.
+    QString whyNoTotals() const;
     /// Why nothing can be entered; empty where it can.
     QString whyReadOnly() const;
 

@@ -31,7 +31,7 @@ double insetIn(QSizeF frame)
 
 } // namespace
 
-BarChart TotalsChart::of(int year, const BudgetSheet &sheet, BudgetBasis basis, int most)
+BarChart TotalsChart::of(ShownYear year, const BudgetSheet &sheet, BudgetBasis basis, int most)
 {
     const BudgetFigures figures = BudgetFigures::of(sheet);
     QList<BudgetFigures::Item> items = BudgetFigures::items(sheet);
@@ -54,7 +54,7 @@ BarChart TotalsChart::of(int year, const BudgetSheet &sheet, BudgetBasis basis, 
     return chart;
 }
 
-QImage TotalsChart::onPaper(int year, const BudgetSheet &sheet, BudgetBasis basis, QSizeF inches)
+QImage TotalsChart::onPaper(ShownYear year, const BudgetSheet &sheet, BudgetBasis basis, QSizeF inches)
 {
     return PaperChart::draw(of(year, sheet, basis, PaperChart::mostBars(inches)), inches, insetIn(inches));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "budget/model/budgetfigures.h"
+#include "budget/model/shownyear.h"
 #include "shell/charts/barchart.h"
 
 #include <QImage>
@@ -11,9 +12,9 @@
 namespace TotalsChart {
 
 /// With more than `most` items, the cheapest are one bar at the end.
-BarChart of(int year, const BudgetSheet &sheet, BudgetBasis basis, int most = BudgetSheet::rowCount);
+BarChart of(ShownYear year, const BudgetSheet &sheet, BudgetBasis basis, int most = BudgetSheet::rowCount);
 
 /// For the printed page, in a frame of this size in inches.
-QImage onPaper(int year, const BudgetSheet &sheet, BudgetBasis basis, QSizeF inches);
+QImage onPaper(ShownYear year, const BudgetSheet &sheet, BudgetBasis basis, QSizeF inches);
 
 } // namespace TotalsChart

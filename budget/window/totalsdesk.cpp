@@ -3,8 +3,8 @@
 
 #include "budget/model/budgetentry.h"
 #include "budget/window/budgetprint.h"
-#include "budget/window/budgetyear.h"
 #include "budget/window/sheetmodel.h"
+#include "budget/window/spentyear.h"
 #include "budget/window/totalschart.h"
 #include "budget/window/totalsview.h"
 #include "shell/frame/functionwindow.h"
@@ -17,21 +17,22 @@ TotalsDesk::TotalsDesk(Program &program, Sources sources, FunctionWindow *window
     , m_window(window)
 {
     connect(&sources.model, &SheetModel::recomputed, this, &TotalsDesk::refresh);
+    connect(&sources.year, &SpentYear::changed, this, &TotalsDesk::refresh);
     const auto chart = [this](const BudgetSheet &sheet, BudgetBasis basis, QSizeF inches) {
-        return TotalsChart::onPaper(m_from.year.year(), sheet, basis, inches);
+        return TotalsChart::onPaper(m_from.year.shown(), sheet, basis, inches);
     };
     sources.print.setTotals(chart, [this] { return basis(); });
 }
 
 void TotalsDesk::open()
 {
-    if (const auto refusal = whyNoTotals(m_from.model.sheet())) {
+    if (const auto refusal = whyNoTotals(m_from.year.shownSheet())) {
         m_program.dialogs.ask(m_window, *refusal);
         return;
     }
     if (!m_view)
         makeView();
-    m_view->showTotals(m_from.year.year(), m_from.model.sheet());
+    m_view->showTotals(m_from.year.shown(), m_from.year.shownSheet());
     m_from.views.open(m_view);
     m_view->setFocus();
 }
@@ -51,5 +52,5 @@ BudgetBasis TotalsDesk::basis() const
 void TotalsDesk::refresh()
 {
     if (m_view && m_from.views.isShown(m_view))
-        m_view->showTotals(m_from.year.year(), m_from.model.sheet());
+        m_view->showTotals(m_from.year.shown(), m_from.year.shownSheet());
 }

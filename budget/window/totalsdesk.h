@@ -6,22 +6,22 @@
 #include <QObject>
 
 class BudgetPrint;
-class BudgetYear;
 class FunctionWindow;
 class SheetModel;
+class SpentYear;
 class TotalsView;
 class WorkViews;
 struct Program;
 
-/// Shows the year's totals over the sheet where there are any, keeps them as the sheet is, and has their
-/// chart printed.
+/// Shows the year's totals over the sheet where there are any, of the layer that the sheet shows, keeps them
+/// as it is, and has their chart printed.
 class TotalsDesk final : public QObject
 {
     Q_OBJECT
 public:
     struct Sources {
         const SheetModel &model;
-        const BudgetYear &year;
+        const SpentYear &year;
         WorkViews &views;
         BudgetPrint &print;
     };

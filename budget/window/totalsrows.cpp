@@ -87,10 +87,10 @@ QSize TotalsRows::sizeHint() const
 void TotalsRows::refresh()
 {
     const bool isSpent = m_model.layer() == SheetLayer::Spent;
-    const QString expensesHead = isSpent ? u"Total Spent"_s : u"Total Expenses"_s;
+    const QString expensesHead = BudgetLines::expensesHead(m_model.layer());
     m_heads[0]->setText(expensesHead);
     m_heads[1]->setText(u"Total Income"_s);
-    m_heads[2]->setText(isSpent ? u"Not Spent Yet"_s : u"Balance"_s);
+    m_heads[2]->setText(BudgetLines::balanceHead(m_model.layer()));
     for (std::size_t month = 0; month < monthCount; ++month) {
         const BudgetFigures::Month &figures = m_model.figures().months[month];
         double expenses = double(figures.expenses);
@@ -116,7 +116,7 @@ void TotalsRows::showBalance(std::size_t month, double balance)
         return;
     const bool isNegative = text.startsWith(u'-');
     const Theme &theme = Theme::of(this);
-    setFigure(label, text, u"Balance"_s, month);
+    setFigure(label, text, m_heads[2]->text(), month);
     QPalette colors = palette();
     if (isNegative)
         colors.setColor(QPalette::WindowText, SheetLook::red(theme));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/window/totalssums.h"
 
+#include "budget/model/lines.h"
 #include "budget/window/sheetlook.h"
 #include "shell/controls/controls.h"
 
@@ -31,13 +32,14 @@ TotalsSums::TotalsSums(QWidget *parent)
 TotalsSums::Labels TotalsSums::add(const QString &caption, const QString &amountName,
                                    const QString &shareName)
 {
-    const Labels labels{caption, named(makeTitle({}, this), amountName), named(new QLabel(this), shareName)};
+    const Labels labels{makeQuietLabel(caption, this), named(makeTitle({}, this), amountName),
+                        named(new QLabel(this), shareName)};
     labels.share->setFont(TypeScale::strong());
     labels.share->setContentsMargins(0, 0, 0, shareFoot);
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(1);
-    grid->addWidget(makeQuietLabel(caption, this), 0, 0);
+    grid->addWidget(labels.caption, 0, 0);
     grid->addWidget(makeQuietLabel(u"Percent"_s, this), 0, 1);
     grid->addWidget(labels.amount, 1, 0);
     grid->addWidget(labels.share, 1, 1, Qt::AlignBottom);
@@ -46,8 +48,11 @@ TotalsSums::Labels TotalsSums::add(const QString &caption, const QString &amount
     return labels;
 }
 
-void TotalsSums::showSums(const BudgetTotals &totals)
+/// Under the words that the sheet has for them in `layer`.
+void TotalsSums::showSums(const BudgetTotals &totals, SheetLayer layer)
 {
+    m_expenses.caption->setText(BudgetLines::expensesHead(layer));
+    m_balance.caption->setText(BudgetLines::balanceHead(layer));
     show(m_income, totals.income);
     show(m_expenses, totals.expenses);
     show(m_balance, totals.balance);
@@ -57,8 +62,9 @@ void TotalsSums::show(const Labels &labels, const BudgetTotals::Sum &sum) const
 {
     labels.amount->setText(sum.amount);
     labels.share->setText(sum.share);
-    labels.amount->setAccessibleName(labels.caption + u": "_s + sum.amount.trimmed());
-    labels.share->setAccessibleName(labels.caption + u", Percent: "_s + sum.share);
+    const QString caption = labels.caption->text();
+    labels.amount->setAccessibleName(caption + u": "_s + sum.amount.trimmed());
+    labels.share->setAccessibleName(caption + u", Percent: "_s + sum.share);
     QPalette colors = palette();
     if (sum.isNegative)
         colors.setColor(QPalette::WindowText, SheetLook::red(Theme::of(this)));

@@ -16,14 +16,14 @@ class TotalsSums final : public QWidget
 public:
     explicit TotalsSums(QWidget *parent = nullptr);
 
-    void showSums(const BudgetTotals &totals);
+    void showSums(const BudgetTotals &totals, SheetLayer layer);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     struct Labels {
-        QString caption;
+        QLabel *caption;
         QLabel *amount;
         QLabel *share;
     };

@@ -36,9 +36,9 @@ TotalsView::TotalsView(QWidget *parent)
     setFocusProxy(m_pane);
 }
 
-void TotalsView::showTotals(int year, const BudgetSheet &sheet)
+void TotalsView::showTotals(ShownYear shown, const BudgetSheet &sheet)
 {
-    if (std::exchange(m_year, year) == year && m_sheet == sheet)
+    if (std::exchange(m_shown, shown) == shown && m_sheet == sheet)
         return;
     m_sheet = sheet;
     refresh();
@@ -53,11 +53,11 @@ void TotalsView::switchBasis()
 void TotalsView::refresh()
 {
     const BudgetTotals totals = BudgetTotals::of(m_sheet, m_basis);
-    setTitle(TotalsLines::heading(m_year));
+    setTitle(TotalsLines::heading(m_shown));
     m_switch->setText(BudgetPages::basisCaption(m_basis));
-    m_sums->showSums(totals);
+    m_sums->showSums(totals, m_shown.layer);
     m_pane->table().setRows(totals.rows);
-    m_pane->chart().setChart(TotalsChart::of(m_year, m_sheet, m_basis));
+    m_pane->chart().setChart(TotalsChart::of(m_shown, m_sheet, m_basis));
     m_pane->arrange();
     buttonRow().rearrange();
 }

@@ -15,7 +15,7 @@ class TotalsView final : public TaskPanel
 public:
     explicit TotalsView(QWidget *parent = nullptr);
 
-    void showTotals(int year, const BudgetSheet &sheet);
+    void showTotals(ShownYear shown, const BudgetSheet &sheet);
 
     BudgetBasis basis() const { return m_basis; }
 
@@ -26,7 +26,7 @@ private:
     void switchBasis();
     void refresh();
 
-    int m_year = 0;
+    ShownYear m_shown{0};
     BudgetSheet m_sheet;
     BudgetBasis m_basis = BudgetBasis::Income;
     TotalsSums *m_sums;

@@ -3,6 +3,7 @@
 
 #include "budget/model/budgetnews.h"
 #include "budget/model/lines.h"
+#include "budget/model/spentlines.h"
 #include "budget/window/budgetyear.h"
 #include "budget/window/sheetgrid.h"
 #include "budget/window/sheetmodel.h"
@@ -15,6 +16,8 @@
 #include "shell/program/program.h"
 
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,6 +41,7 @@ WorksheetView::WorksheetView(const Program &program, Desk desk, QWidget *parent)
     setFocusProxy(m_pane);
     connect(m_years, &YearBox::done, m_pane, qOverload<>(&QWidget::setFocus));
     connect(&m_desk.model, &SheetModel::recomputed, this, &WorksheetView::refresh);
+    connect(&m_desk.model, &SheetModel::layerChanged, this, &WorksheetView::refresh);
     connect(&m_desk.spent, &SpentYear::changed, this, &WorksheetView::refresh);
     connect(&m_desk.year, &BudgetYear::fileTouched, this, &WorksheetView::refresh);
     connect(&m_desk.year, &BudgetYear::loaded, m_years, &YearBox::setYear);
@@ -76,24 +80,33 @@ bool WorksheetView::isOfThisYear() const
     return BudgetFiles::yearOf(m_program.clock.today()) == m_desk.year.year();
 }
 
+/// What is left of `month` (from 0): of what is planned, or of the income after what was spent.
+double WorksheetView::leftOf(std::size_t month) const
+{
+    if (m_desk.model.layer() == SheetLayer::Spent) {
+        const qint64 income = centsOf(m_desk.model.sheet().incomes[month]);
+        return double(std::max(qint64(0), income) - m_desk.spent.sums().months[month]) / 100;
+    }
+    const auto cents = BudgetNews::left(m_desk.model.sheet(), m_desk.spent.sums(), month);
+    return double(cents.value_or(0)) / 100;
+}
+
 /// What is left of the month of today; of another year, what is left of all its months.
 QString WorksheetView::title() const
 {
     const QString year = QString::number(m_desk.year.year());
-    if (isEmpty())
+    const bool isSpent = m_desk.model.layer() == SheetLayer::Spent;
+    if (isEmpty() && !(isSpent && m_desk.spent.sums().hasAny()))
         return BudgetLines::noBudgetYet(m_desk.year.year());
-    const auto leftOf = [this](int month) {
-        const auto cents = BudgetNews::left(m_desk.model.sheet(), m_desk.spent.sums(), std::size_t(month));
-        return double(cents.value_or(0)) / 100;
-    };
+    const auto words = isSpent ? BudgetLines::notSpent : BudgetLines::balance;
     if (isOfThisYear()) {
         const int month = m_program.clock.today().month();
-        return BudgetLines::balance(QLocale::c().monthName(month) + u' ' + year, leftOf(month - 1));
+        return words(QLocale::c().monthName(month) + u' ' + year, leftOf(std::size_t(month - 1)));
     }
     double left = 0;
-    for (int month = 0; month < int(BudgetSheet::monthCount); ++month)
+    for (std::size_t month = 0; month < BudgetSheet::monthCount; ++month)
         left += leftOf(month);
-    return BudgetLines::balance(year, left);
+    return words(year, left);
 }
 
 QString WorksheetView::words() const
@@ -102,7 +115,10 @@ QString WorksheetView::words() const
         return FrameLines::unsavedChanges();
     if (m_desk.model.isReadOnly())
         return {};
-    return isEmpty() ? BudgetLines::howToBegin() : BudgetLines::howToEnterIncome();
+    if (isEmpty())
+        return BudgetLines::howToBegin();
+    return m_desk.model.layer() == SheetLayer::Spent ? SpentLines::howToAdd()
+                                                     : BudgetLines::howToEnterIncome();
 }
 
 /// The month of today; where nothing is entered yet, the first item.

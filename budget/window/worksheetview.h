@@ -40,6 +40,7 @@ private:
     void refresh();
     QString title() const;
     QString words() const;
+    double leftOf(std::size_t month) const;
     bool isEmpty() const;
     bool isOfThisYear() const;
     void goToBeginning();

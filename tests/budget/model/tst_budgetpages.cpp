@@ -70,6 +70,11 @@ private slots:
         QCOMPARE(lines[10], u"Total Income:"_s + months({u"2000.00"_s}, u".00"_s));
         QCOMPARE(lines[11], u"Balance:\t-230.00\t-980.00"_s + u"\t.00"_s.repeated(9) + u"\t-.50"_s);
         QCOMPARE(lines.mid(12), (QStringList{{}, u"Quillery"_s, u"Printed on 11/22/2026"_s}));
+        const QString spent =
+            BudgetPages::sheet({2026, SheetLayer::Spent}, small(), paper(PageSetup::Portrait)).toText();
+        QVERIFY(spent.contains(u" Personal Budget For 2026, Spent"_s));
+        QVERIFY(spent.contains(u"\nTotal Spent:\t2230.00\t"_s) &&
+                spent.contains(u"\nNot Spent Yet:\t-230.00\t"_s));
     }
 
     void printsTheTotals_data()
@@ -104,6 +109,11 @@ private slots:
         QVERIFY2(text.contains(u"\nItem\tTotal\tPercentage\n"_s + rent + u"\nCar"_s), qPrintable(text));
         QVERIFY(text.contains(u"What is planned, in the whole year. "_s + caption));
         QVERIFY(!text.contains(u".50\t"_s)); // a row without an item counts in the months alone
+
+        const QString spent =
+            BudgetPages::totals({2026, SheetLayer::Spent}, small(), basis, {}, paper(orientation)).toText();
+        QVERIFY(spent.contains(u"BUDGET TOTALS FOR 2026, SPENT"_s));
+        QVERIFY(spent.contains(u"What was spent, in the whole year. "_s + caption));
 
         const Page plain = BudgetPages::totals(2026, small(), basis, {}, paper(orientation));
         QVERIFY(only<PageItem::PlacedPicture>(plain).path.isEmpty());

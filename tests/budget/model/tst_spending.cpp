@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "budget/model/amount.h"
+#include "budget/model/budgetfigures.h"
 #include "budget/model/spending.h"
 #include "budget/model/spendingfiles.h"
 #include "shell/core/reservednames.h"
@@ -113,6 +115,32 @@ private slots:
         QCOMPARE(sums.noRow[2], 8);
         QCOMPARE(sums.months[2], 119);
         QVERIFY(sums.hasAny(2) && !sums.hasAny(0));
+    }
+
+    void standsInThePlaceOfThePlan_data()
+    {
+        const QStringList full(50, u"Fuel"_s);
+        const auto with = [](QStringList items, int row, const QString &item) {
+            items[row] = item;
+            return items;
+        };
+        rows<QStringList, int, QString>(
+            {{"below the items", {u"Fuel"_s, {}, u"Rent"_s}, 3, u"No row|Mar 0.08"_s},
+             {"an empty sheet", {}, 0, u"No row|Mar 1.19"_s},
+             {"the last row is free", with(full, 49, {}), 49, u"No row|Mar 1.19"_s},
+             {"no row is free", with(full, 49, u"Rent"_s), 48, u"No row|Mar 0.08"_s}});
+    }
+
+    /// Also what has no row.
+    void standsInThePlaceOfThePlan()
+    {
+        const auto [items, row, text] = ::row<QStringList, int, QString>();
+        const BudgetSheet sheet = SpentSums::of(sheetOf(items), {spent(u"Rent"_s, 111), spent(u"Gone"_s, 8)})
+                                      .asSheet(sheetOf(items));
+        QCOMPARE(sheet.rows[std::size_t(row)].item + u"|Mar "_s + sheet.rows[std::size_t(row)].amounts[2],
+                 text);
+        const float march = BudgetFigures::of(sheet).months[2].expenses;
+        QCOMPARE(Amount::text(double(march)), u"1.19"_s);
     }
 
     void followsTheWorksheet_data()

@@ -48,6 +48,26 @@ private slots:
         QVERIFY(!m_window->isModified());
     }
 
+    void showsTheTotalsOfItsLayer()
+    {
+        QCOMPARE(labelText("budgetTitle"), u"March 2026: 50.00 left"_s);
+        trigger("mVSpent");
+        QCOMPARE(labelText("budgetTitle"), u"March 2026: 150.00 not spent yet"_s);
+        QCOMPARE(find<QPushButton>("Command8")->toolTip(), u"Nothing was spent in 2026 yet"_s);
+        typeAt(1, 3, u"160"_s);
+        QCOMPARE(labelText("budgetTitle"), u"March 2026: 10.00 spent over the income"_s);
+        click("Command8");
+        QCOMPARE(labelText("totalsTitle"), u"Totals For Year 2026, Spent"_s);
+        QCOMPARE(labelText("Label14"), u"160.00 "_s);
+        trigger("mEUndo");
+        QCOMPARE(labelText("Label14"), u".00 "_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        trigger("mVPlanned");
+        click("Command8");
+        QCOMPARE(labelText("totalsTitle"), u"Totals For Year 2026"_s);
+        QCOMPARE(labelText("Label14"), u"200.00 "_s);
+    }
+
     void renamesWithTheSheet()
     {
         trigger("mVSpent");
@@ -243,6 +263,7 @@ private:
         sheet.rows[0].item = u"Rent"_s;
         sheet.rows[0].amounts[1] = sheet.rows[0].amounts[2] = u"100.00"_s;
         sheet.rows[1].item = u"Fuel"_s;
+        sheet.incomes[2] = u"150.00"_s;
         m_test->setBytes(u"2026.Fil"_s, BudgetFiles::encode(sheet));
         if (!spent.isEmpty())
             m_test->setBytes(u"Quillery.spent-2026"_s, spent);
