@@ -4,6 +4,7 @@
 #include "shell/frame/toolbarlayout.h"
 #include "shell/look/theme.h"
 
+#include <QApplication>
 #include <QMenu>
 
 #include <algorithm>
@@ -44,6 +45,18 @@ bool Commands::hasKey(const QKeySequence &key) const
 {
     return std::ranges::any_of(
         m_commands, [&key](const Command &command) { return command.action->shortcuts().contains(key); });
+}
+
+QString Commands::whyNot(const QKeySequence &key) const
+{
+    for (const Command &command : m_commands) {
+        const QAction *action = command.action;
+        const bool isMeant = action->shortcutContext() != Qt::WidgetShortcut ||
+                             action->associatedObjects().contains(QApplication::focusWidget());
+        if (isMeant && !action->isEnabled() && action->shortcuts().contains(key))
+            return action->statusTip();
+    }
+    return {};
 }
 
 QAction *Commands::repeat(QAction *command, QMenu *menu, const QString &name, const QString &caption)

@@ -34,6 +34,8 @@ public:
     /// belongs to what is typed.
     void setKeyIn(QWidget *view, QAction *command, const QKeySequence &key);
     bool hasKey(const QKeySequence &key) const;
+    /// Why the command with `key` cannot be used where the focus is; empty where it can, and without one.
+    QString whyNot(const QKeySequence &key) const;
     /// A second menu entry that does the same in the same state; without a caption of its own it always has
     /// the command's.
     QAction *repeat(QAction *command, QMenu *menu, const QString &name, const QString &caption = {});

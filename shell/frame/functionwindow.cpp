@@ -7,6 +7,7 @@
 #include "shell/controls/workscroll.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/commonkeys.h"
+#include "shell/frame/refusedcommands.h"
 #include "shell/frame/searchoverlay.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undokeys.h"
@@ -286,6 +287,7 @@ void FunctionWindow::finishFrame()
 {
     SearchOverlay::addCommand(m_program, *m_commands, this, [this] { return !m_busy; });
     m_toolbar->complete(u"Toolbar1"_s + m_traits.name);
+    new RefusedCommands(*m_commands, *m_activity, this);
     m_colors->load();
     WindowPlace::open(*this, m_traits.openingSize,
                       m_program.store.value(storeKey(u"geometry"_s)).toByteArray());

@@ -5,6 +5,7 @@
 
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -25,6 +26,8 @@ Available availableIn(const QWidget *box)
     if (const auto *texts = qobject_cast<const QTextEdit *>(box); texts && !texts->isReadOnly())
         return {texts->document()->isUndoAvailable(), texts->document()->isRedoAvailable()};
     const auto *line = qobject_cast<const QLineEdit *>(box);
+    if (const auto *list = qobject_cast<const QComboBox *>(box))
+        line = list->lineEdit();
     if (qobject_cast<const QAbstractSpinBox *>(box))
         line = box->findChild<QLineEdit *>();
     return line ? Available{line->isUndoAvailable(), line->isRedoAvailable()} : Available{};
@@ -49,12 +52,15 @@ void UndoKeys::follow(QWidget *before, QWidget *now)
 
 bool UndoKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::ShortcutOverride)
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
     const QKeySequence key(static_cast<QKeyEvent *>(event)->keyCombination());
     if (key != CommonKeys::undo && key != CommonKeys::redo)
         return QObject::eventFilter(watched, event);
     const Available available = availableIn(qobject_cast<QWidget *>(watched));
-    event->setAccepted(key == CommonKeys::undo ? available.undo : available.redo);
+    const bool isOfTheBox = key == CommonKeys::undo ? available.undo : available.redo;
+    if (event->type() == QEvent::KeyPress)
+        return !isOfTheBox && QCoreApplication::sendEvent(m_window, event);
+    event->setAccepted(isOfTheBox);
     return true;
 }

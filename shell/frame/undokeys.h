@@ -6,7 +6,8 @@
 class QWidget;
 
 /// Whose Ctrl+Z and Ctrl+Y are: of the box that has the focus, as long as it has typed text to take back
-/// itself, else of the window. Left alone, a box keeps both keys even where it has nothing to do with them.
+/// itself, else of the window. Left alone, a box keeps both keys even where it has nothing to do with them,
+/// and the window could not say so.
 class UndoKeys final : public QObject
 {
     Q_OBJECT

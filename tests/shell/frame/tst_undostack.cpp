@@ -108,6 +108,37 @@ private slots:
         QVERIFY(!find<QAction>("mERedo")->isEnabled());
     }
 
+    void saysThatThereIsNothing_data()
+    {
+        rows<QByteArray, int, QString>({{"in a list", "list", Qt::Key_Z, FrameLines::nothingToUndo()},
+                                        {"in a box", "box", Qt::Key_Z, FrameLines::nothingToUndo()},
+                                        {"to do again", "box", Qt::Key_Y, FrameLines::nothingToRedo()}});
+    }
+
+    void saysThatThereIsNothing()
+    {
+        const auto [name, letter, line] = row<QByteArray, int, QString>();
+        auto *place = find<QWidget>(name.constData());
+        place->setFocus();
+        QTest::keyClick(place, Qt::Key(letter), Qt::ControlModifier);
+        QCOMPARE(said(), line);
+        m_window->activity().say({});
+        find<QLineEdit>("box")->setFocus();
+        QTest::keyClick(find<QLineEdit>("box"), Qt::Key_A);
+        QTest::keyClick(find<QLineEdit>("box"), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(find<QLineEdit>("box")->text() + said(), QString());
+    }
+
+    void saysSoOfAnEntryUnderTheMouse()
+    {
+        auto *menu = find<QMenu>("mE");
+        menu->popup({});
+        QTest::mouseMove(menu, menu->actionGeometry(find<QAction>("mEUndo")).center());
+        QTRY_COMPARE(find<QLabel>("statusMessage")->text(), FrameLines::nothingToUndo());
+        menu->close();
+        QCOMPARE(find<QLabel>("statusMessage")->text(), QString());
+    }
+
     void offersUndoInTheStatusBar()
     {
         auto *link = find<QToolButton>("statusUndo");

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/frame/refusedcommands.h"
+
+#include "shell/controls/activitybar.h"
+#include "shell/frame/commands.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QStatusTipEvent>
+
+#include <utility>
+
+RefusedCommands::RefusedCommands(const Commands &commands, ActivityBar &activity, QWidget *window)
+    : QObject(window)
+    , m_commands(commands)
+    , m_activity(activity)
+    , m_window(window)
+{
+    window->installEventFilter(this);
+    for (QMenu *menu : window->findChildren<QMenu *>())
+        menu->installEventFilter(this);
+}
+
+bool RefusedCommands::eventFilter(QObject *watched, QEvent *event)
+{
+    if (const auto *menu = qobject_cast<const QMenu *>(watched)) {
+        follow(*menu, *event);
+        return false;
+    }
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const QString reason = m_commands.whyNot(QKeySequence(static_cast<QKeyEvent *>(event)->keyCombination()));
+    if (!reason.isEmpty())
+        m_activity.say(reason);
+    return !reason.isEmpty();
+}
+
+/// A menu tells nothing itself of an entry that cannot be chosen.
+void RefusedCommands::follow(const QMenu &menu, const QEvent &event)
+{
+    QString tip;
+    if (event.type() == QEvent::MouseMove) {
+        const QAction *entry = menu.actionAt(static_cast<const QMouseEvent &>(event).position().toPoint());
+        tip = entry && !entry->isEnabled() ? entry->statusTip() : QString();
+    } else if (event.type() != QEvent::Leave && event.type() != QEvent::Hide) {
+        return;
+    }
+    if (std::exchange(m_tip, tip) == tip)
+        return;
+    QStatusTipEvent shown(tip);
+    QCoreApplication::sendEvent(m_window, &shown);
+}
