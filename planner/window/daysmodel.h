@@ -20,7 +20,7 @@ public:
     enum Role {
         DateRole = Qt::UserRole,
         DayRole,    ///< the entries, a `PlannerDay`
-        NoteRole,   ///< the birthdays and anniversaries, a list of `HouseholdNote`
+        NoteRole,   ///< birthdays and what is due, a list of `HouseholdNote`
         TodayRole,  ///< whether the day is today
         OutsideRole ///< whether the day is beside the month that is shown
     };

@@ -41,7 +41,7 @@ void DaysView::readNotes()
         return;
     QTimer::singleShot(0, this, [this] {
         m_isReading = false;
-        m_model->setNotes(m_notes.occasions(m_model->first(), m_model->last()));
+        m_model->setNotes(m_notes.inDays(m_model->first(), m_model->last()));
         notesShown();
     });
 }

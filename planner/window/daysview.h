@@ -14,8 +14,8 @@ class DaysModel;
 class QAbstractItemView;
 
 /// What the views of several days share: a day can be opened, the view steps on by its own measure and is
-/// left for the view of a day. Birthdays and anniversaries stand in the days; a click on them leads to the
-/// person.
+/// left for the view of a day. Birthdays, anniversaries and what is to be paid stand in the days; a click on
+/// them leads to where they come from.
 class DaysView : public QWidget
 {
     Q_OBJECT

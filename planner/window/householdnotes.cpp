@@ -8,6 +8,7 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,6 +25,24 @@ QStringList narrowTexts(const QString &name, const QString &fact, qsizetype othe
     const QString plus = others > 0 ? u" +%1"_s.arg(others) : QString();
     return {initials + fact + more, initials + age + more, given + age + more,
             initials + age + plus,  given + age + plus,    given + age};
+}
+
+/// The same of what is to be paid: its sign says already that it is.
+QStringList narrowDues(const QString &item, const QString &amount, qsizetype others)
+{
+    const QString more = others > 0 ? u"; %1 more"_s.arg(others) : QString();
+    const QString plus = others > 0 ? u" +%1"_s.arg(others) : QString();
+    return {item + amount + more, item + amount + plus, item + plus};
+}
+
+bool isOccasion(const HouseholdNote &note)
+{
+    return note.note.kind == NoteKind::Birthday || note.note.kind == NoteKind::Anniversary;
+}
+
+bool isToBePaid(const DayNote &note)
+{
+    return note.kind == NoteKind::Due || note.kind == NoteKind::Overdue;
 }
 
 } // namespace
@@ -58,9 +77,15 @@ QStringList HouseholdNotes::passedOver() const
 QList<HouseholdNote> HouseholdNotes::occasions(QDate from, QDate to) const
 {
     QList<HouseholdNote> notes = all(from, to);
-    notes.removeIf([](const HouseholdNote &note) {
-        return note.note.kind != NoteKind::Birthday && note.note.kind != NoteKind::Anniversary;
-    });
+    notes.removeIf(std::not_fn(isOccasion));
+    return notes;
+}
+
+QList<HouseholdNote> HouseholdNotes::inDays(QDate from, QDate to) const
+{
+    QList<HouseholdNote> notes = all(from, to);
+    notes.removeIf([](const HouseholdNote &note) { return !isOccasion(note) && !isToBePaid(note.note); });
+    std::ranges::stable_sort(notes, std::ranges::greater(), isOccasion);
     return notes;
 }
 
@@ -105,6 +130,11 @@ QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetric
     QString all = joined(notes);
     if (notes.isEmpty() || metrics.horizontalAdvance(all) <= width)
         return all;
+    for (qsizetype shown = notes.size() - 1; shown > 1; --shown) {
+        const QString some = joined(notes.first(shown)) + u"; %1 more"_s.arg(notes.size() - shown);
+        if (metrics.horizontalAdvance(some) <= width)
+            return some;
+    }
     const DayNote &first = notes.front().note;
     const QString fact = first.text.sliced(first.nameLength);
     const QString more = notes.size() > 1 ? u"; %1 more"_s.arg(notes.size() - 1) : QString();
@@ -118,12 +148,27 @@ QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetric
                 return narrow;
         }
     }
+    if (isToBePaid(first) && first.nameLength > 0) {
+        const QString amount = fact.section(u", "_s, 0, 0);
+        const QStringList narrow = narrowDues(name, amount, notes.size() - 1);
+        const auto fits = [&](const QString &text) { return metrics.horizontalAdvance(text) <= width; };
+        const auto found = std::ranges::find_if(narrow, fits);
+        return found == narrow.end() ? metrics.elidedText(narrow.last(), Qt::ElideMiddle, width) : *found;
+    }
     const QString shownName = metrics.elidedText(name, Qt::ElideRight, std::max(least, room));
     return metrics.elidedText(shownName + fact + more, Qt::ElideRight, width);
 }
 
 QLatin1StringView HouseholdNotes::sign(const QList<HouseholdNote> &notes)
 {
-    const bool isAnniversary = !notes.isEmpty() && notes.first().note.kind == NoteKind::Anniversary;
-    return isAnniversary ? "anniversary"_L1 : "cake"_L1;
+    switch (notes.isEmpty() ? NoteKind::Birthday : notes.first().note.kind) {
+    case NoteKind::Anniversary:
+        return "anniversary"_L1;
+    case NoteKind::Due:
+        return "due"_L1;
+    case NoteKind::Overdue:
+        return "overdue"_L1;
+    default:
+        return "cake"_L1;
+    }
 }

@@ -33,7 +33,10 @@ public:
     QList<HouseholdNote> all(QDate from, QDate to) const;
     /// The birthdays and anniversaries among them: what stands with the days themselves.
     QList<HouseholdNote> occasions(QDate from, QDate to) const;
-    /// The same as texts, for pages.
+    /// And what is to be paid, behind them: for the views of several days, which have no list of what is
+    /// coming up for each of them.
+    QList<HouseholdNote> inDays(QDate from, QDate to) const;
+    /// The occasions as texts, for pages, which may hang where everybody sees them.
     PlannerPages::Notes texts(QDate from, QDate to) const;
 
     /// The functions that the password keeps from being asked, by their titles.
@@ -49,7 +52,7 @@ public:
     /// The same in `width` pixels: of the first its name is cut, and of others that find no room only their
     /// number is told.
     static QString cut(const QList<HouseholdNote> &notes, const QFontMetrics &metrics, int width);
-    /// The drawing of the first of them: a cake, rings.
+    /// The drawing of the first of them: a cake, rings, the sign of what is due.
     static QLatin1StringView sign(const QList<HouseholdNote> &notes);
 
 private:

@@ -63,7 +63,11 @@ QSize NoteLine::minimumSizeHint() const
 
 void NoteLine::paint(QPainter &painter, const QRect &place, const QList<HouseholdNote> &notes)
 {
-    const Icons::Scheme scheme = Theme::of(static_cast<QWidget *>(nullptr)).scheme;
+    const Theme &theme = Theme::of(static_cast<QWidget *>(nullptr));
+    const Icons::Scheme scheme = theme.scheme;
+    const NoteKind kind = notes.isEmpty() ? NoteKind::Other : notes.first().note.kind;
+    if (kind == NoteKind::Due || kind == NoteKind::Overdue)
+        painter.setPen(kind == NoteKind::Due ? theme.due : theme.negative);
     const QRect sign(place.left(), place.center().y() - signSize / 2 + 1, signSize, signSize);
     Icons::tinted(HouseholdNotes::sign(notes), scheme, painter.pen().color()).paint(&painter, sign);
     const QRect words = place.adjusted(signSize + signGap, 0, 0, 0);

@@ -20,7 +20,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /// Draws their sign and words into a line of this height, in the painter's pen.
+    /// Draws their sign and words into a line of this height, in the painter's pen, or in the colour of what
+    /// is due.
     static void paint(QPainter &painter, const QRect &place, const QList<HouseholdNote> &notes);
 
 signals:

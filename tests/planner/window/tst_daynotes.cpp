@@ -18,7 +18,7 @@ constexpr Place tom{.record = 9};
 
 } // namespace
 
-/// Birthdays and anniversaries of the address book in the planner.
+/// What other functions have for the days of the planner.
 class TestDayNotes : public OpenPlanner
 {
     Q_OBJECT
@@ -35,6 +35,7 @@ private slots:
                 if (date >= from && date <= to)
                     notes.append({date, text, u"Address Book"_s, kind, {}, place});
             };
+            add(today.addDays(-1), u"Pay the gas"_s, NoteKind::Overdue);
             add(today, u"Anne Lind turns 48"_s, NoteKind::Birthday, anne);
             add(today.addDays(1), u"Pay the rent"_s, NoteKind::Due);
             add(today.addDays(2), u"Tom Lind turns 12"_s, NoteKind::Birthday, tom);
@@ -89,6 +90,8 @@ private slots:
         QTRY_COMPARE(HouseholdNotes::joined(DaysModel::notesOf(day)), u"Anne Lind turns 48"_s);
         QVERIFY(m_asked.size() <= 2); // the view, and what is coming up
         QVERIFY(day.data(Qt::ToolTipRole).toString().contains(u"2026\nAnne Lind turns 48"_s));
+        const auto *days = qobject_cast<const DaysModel *>(view->model());
+        QCOMPARE(HouseholdNotes::joined(days->notes(today.addDays(-1))), u"Pay the gas"_s);
 
         QSignalSpy wanted(&m_test->changes, &ProgramSignals::placeRequested);
         const QRect cell = view->visualRect(day);
@@ -104,19 +107,26 @@ private slots:
 
     void keepTheAgeWhereAllHasNoRoom_data()
     {
-        rows<QString>({{"two of them", u"Walter Lindqvist turns 70; 1 more"_s},
-                       {"a narrow month", u"Walter L. 70; 1 more"_s},
-                       {"the narrowest", u"Walter 70 +1"_s}});
+        const auto birthday = NoteKind::Birthday;
+        const QString walter = u"Walter Lindqvist turns 70"_s;
+        const QString power = u"Northern Lights: 64.50, due"_s;
+        rows<QString, NoteKind, QString>(
+            {{"as many as have room", walter, birthday, walter + u"; "_s + walter + u"; 1 more"_s},
+             {"one of them", walter, birthday, u"Walter Lindqvist turns 70; 2 more"_s},
+             {"a narrow month", walter, birthday, u"Walter L. 70; 2 more"_s},
+             {"the narrowest", walter, birthday, u"Walter 70 +2"_s},
+             {"to be paid", power, NoteKind::Due, u"Northern Lights: 64.50; 2 more"_s},
+             {"in a narrow month", power, NoteKind::Overdue, u"Northern Lights +2"_s}});
     }
     void keepTheAgeWhereAllHasNoRoom()
     {
-        const auto [expected] = row<QString>();
-        DayNote first{today, u"Walter Lindqvist turns 70"_s, {}, NoteKind::Birthday};
-        first.nameLength = 16;
+        const auto [text, kind, expected] = row<QString, NoteKind, QString>();
+        DayNote first{today, text, {}, kind};
+        first.nameLength = kind == NoteKind::Birthday ? 16 : 15;
         const QFontMetrics metrics(m_window->font());
-        QCOMPARE(
-            HouseholdNotes::cut({{first, {}}, {first, {}}}, metrics, metrics.horizontalAdvance(expected)),
-            expected);
+        QCOMPARE(HouseholdNotes::cut(QList<HouseholdNote>(3, {first, {}}), metrics,
+                                     metrics.horizontalAdvance(expected)),
+                 expected);
     }
 
     void areNeverSaved()
