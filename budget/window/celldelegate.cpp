@@ -14,7 +14,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int signSize = 14;
+constexpr int signSize = SheetLook::signRoom - 1;
+
+int insetOf(const QModelIndex &index)
+{
+    return index.column() == SheetColumn::item ? SheetLook::inset : SheetLook::amountInset;
+}
 
 void drawRim(QPainter &painter, const QRect &cell, const Theme &theme, bool hasFocus)
 {
@@ -47,8 +52,8 @@ void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     if (isCurrent)
         drawRim(*painter, option.rect, theme, m_grid->hasFocus());
     // The sign takes the inset, so that the largest amount has its room beside it.
-    const int before = isOver ? signSize + 1 : SheetLook::inset;
-    const QRect place = option.rect.adjusted(before, 0, -SheetLook::inset, 0);
+    const int before = isOver ? SheetLook::signRoom : insetOf(index);
+    const QRect place = option.rect.adjusted(before, 0, -insetOf(index), 0);
     if (isOver)
         painter->drawPixmap(option.rect.left() + 1, option.rect.center().y() - signSize / 2 + 1,
                             Icons::pixmap("overdue"_L1, theme.scheme, signSize, m_grid->devicePixelRatioF()));
@@ -81,8 +86,7 @@ bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const Q
                              const QModelIndex &index)
 {
     const QString text = index.data().toString();
-    const bool isCut =
-        view->fontMetrics().horizontalAdvance(text) > option.rect.width() - 2 * SheetLook::inset;
+    const bool isCut = view->fontMetrics().horizontalAdvance(text) > option.rect.width() - 2 * insetOf(index);
     const QString words = index.data(Qt::ToolTipRole).toString();
     QToolTip::showText(event->globalPos(), !words.isEmpty() ? words : isCut ? text : QString(), view);
     return true;

@@ -26,25 +26,13 @@ bool isEnter(int key)
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-/// The narrowest columns in which a person can read.
-int leastMonthWidth()
-{
-    const QFontMetrics strong(TypeScale::strong());
-    const QFontMetrics body(TypeScale::body());
-    return std::max(strong.horizontalAdvance(u"-9999.99"_s), body.horizontalAdvance(u"99999.99"_s)) +
-           2 * SheetLook::inset + 1;
-}
-
-int leastItemWidth()
-{
-    return QFontMetrics(TypeScale::body()).horizontalAdvance(u"Doctor and dentist"_s) + 2 * SheetLook::inset;
-}
-
 } // namespace
 
 SheetGrid::SheetGrid(SheetModel &model, QWidget *parent)
     : QTableView(parent)
+    , m_model(model)
     , m_delegate(new CellDelegate(this))
+    , m_needed(SheetColumns::needed(model))
 {
     setModel(&model);
     setItemDelegate(m_delegate);
@@ -56,9 +44,11 @@ SheetGrid::SheetGrid(SheetModel &model, QWidget *parent)
     setWordWrap(false);
     setCornerButtonEnabled(false);
     setFont(TypeScale::body());
-    setHorizontalHeader(new SheetHeadings(Qt::Horizontal, this));
+    setHorizontalHeader(new SheetHeadings(Qt::Horizontal, this, SheetLook::amountInset));
     setVerticalHeader(new SheetHeadings(Qt::Vertical, this));
     connect(m_delegate, &CellDelegate::refused, this, &SheetGrid::said);
+    connect(&model, &SheetModel::recomputed, this, &SheetGrid::measure);
+    connect(&model, &SheetModel::layerChanged, this, &SheetGrid::measure);
 }
 
 int SheetGrid::heightOfRows(int rows) const
@@ -67,19 +57,23 @@ int SheetGrid::heightOfRows(int rows) const
     return horizontalHeader()->sizeHint().height() + rows * SheetLook::rowHeight() + frame;
 }
 
-/// The months share the room evenly; what is left over is the items'.
+void SheetGrid::measure()
+{
+    const SheetColumns::Widths needed = SheetColumns::needed(m_model);
+    if (std::exchange(m_needed, needed) != needed)
+        fitColumns();
+}
+
 void SheetGrid::fitColumns()
 {
-    const int room = viewport()->width();
-    const int least = leastMonthWidth();
-    m_monthsInView = std::clamp((room - leastItemWidth()) / least, 1, monthCount);
+    const SheetColumns columns =
+        SheetColumns::in(viewport()->width(), SheetColumns::neededByItems(), m_needed);
+    m_monthsInView = columns.inView;
     m_firstMonth = std::clamp(m_firstMonth, 0, monthCount - m_monthsInView);
-    const int item = std::max(leastItemWidth(), room / 7);
-    const int month = std::max(least, (room - item) / m_monthsInView);
-    setColumnWidth(SheetColumn::item, std::max(leastItemWidth(), room - month * m_monthsInView));
+    setColumnWidth(SheetColumn::item, columns.item);
     for (int i = 0; i < monthCount; ++i) {
         const int column = SheetColumn::firstMonth + i;
-        setColumnWidth(column, month);
+        setColumnWidth(column, columns.months[std::size_t(i)]);
         setColumnHidden(column, i < m_firstMonth || i >= m_firstMonth + m_monthsInView);
     }
     emit columnsMoved();

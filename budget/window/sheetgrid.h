@@ -2,6 +2,7 @@
 #pragma once
 
 #include "budget/model/sheetrange.h"
+#include "budget/window/sheetcolumns.h"
 
 #include <QElapsedTimer>
 #include <QTableView>
@@ -60,6 +61,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    void measure();
     void fitColumns();
     /// The cell that lies where the arrow `key` leads to: the next one, or the end of what is filled.
     QModelIndex beside(const QModelIndex &from, int rows, int columns, bool toEnd) const;
@@ -69,7 +71,9 @@ private:
     void extendTo(const QModelIndex &index);
     void dragMonths(int x);
 
+    const SheetModel &m_model;
     CellDelegate *m_delegate;
+    SheetColumns::Widths m_needed;
     QPersistentModelIndex m_anchor; ///< where the range began
     bool m_isExtending = false;
     int m_firstMonth = 0;

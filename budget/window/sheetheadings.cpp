@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/window/sheetheadings.h"
 
-#include "budget/window/sheetlook.h"
-
 #include <QAbstractItemView>
 #include <QPainter>
 
@@ -15,8 +13,9 @@ constexpr int leastHeadHeight = 32;
 constexpr int leastNumberWidth = 38;
 } // namespace
 
-SheetHeadings::SheetHeadings(Qt::Orientation orientation, QWidget *parent)
+SheetHeadings::SheetHeadings(Qt::Orientation orientation, QWidget *parent, int amountInset)
     : QHeaderView(orientation, parent)
+    , m_amountInset(amountInset)
 {
     setFont(TypeScale::body());
     setSectionsClickable(true);
@@ -50,7 +49,8 @@ void SheetHeadings::paintSection(QPainter *painter, const QRect &rect, int secti
     painter->setFont(isStrong ? TypeScale::strong() : TypeScale::body());
     painter->setPen(isRow && !isCurrent ? theme.quiet : theme.text);
     const QVariant alignment = model()->headerData(section, orientation(), Qt::TextAlignmentRole);
-    painter->drawText(rect.adjusted(SheetLook::inset, 0, -SheetLook::inset, 0),
+    const int inset = isRow || section == 0 ? SheetLook::inset : m_amountInset;
+    painter->drawText(rect.adjusted(inset, 0, -inset, 0),
                       alignment.isValid() ? int(alignment.value<Qt::Alignment>()) : int(Qt::AlignCenter),
                       model()->headerData(section, orientation(), Qt::DisplayRole).toString());
 }

@@ -6,7 +6,9 @@
 /// What the grid and its totals rows have in common to look at.
 namespace SheetLook {
 
-inline constexpr int inset = 8; ///< between a text and the edges of its cell
+inline constexpr int inset = 8;       ///< between a text and the edges of its cell
+inline constexpr int amountInset = 6; ///< of a month in the sheet: twelve of them stand side by side
+inline constexpr int signRoom = 15;   ///< in place of the inset before an amount over its plan
 
 /// A row of the grid, and of the totals.
 int rowHeight();

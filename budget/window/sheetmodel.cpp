@@ -97,6 +97,18 @@ void SheetModel::setSpent(const Sums &sums, const MonthSums &noRow)
     emit layerChanged();
 }
 
+SheetModel::MonthFigures SheetModel::shownFigures(std::size_t month) const
+{
+    const BudgetFigures::Month &planned = m_figures.months[month];
+    const QString income = shownIncome(m_sheet->incomes[month]);
+    if (m_layer == SheetLayer::Planned)
+        return {Amount::text(double(planned.expenses)), income, Amount::text(double(planned.balance))};
+    double spent = m_spentOnNoRow[month];
+    for (const MonthSums &row : m_spent)
+        spent += row[month];
+    return {Amount::text(spent), income, Amount::text(double(planned.income) - spent)};
+}
+
 int SheetModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : int(BudgetSheet::rowCount);

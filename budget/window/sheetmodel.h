@@ -21,6 +21,13 @@ public:
     /// What was spent in each row and month.
     using Sums = std::array<MonthSums, BudgetSheet::rowCount>;
 
+    /// What stands below a month: what is planned or was spent, the income, and what is left of it.
+    struct MonthFigures {
+        QString expenses;
+        QString income;
+        QString balance;
+    };
+
     /// True for an amount spent over its plan.
     static constexpr int overPlanRole = Qt::UserRole;
 
@@ -53,6 +60,8 @@ public:
     void setSpent(const Sums &sums, const MonthSums &noRow);
     const Sums &spent() const { return m_spent; }
     const MonthSums &spentOnNoRow() const { return m_spentOnNoRow; }
+    /// In the layer that is shown; `month` from 0.
+    MonthFigures shownFigures(std::size_t month) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;

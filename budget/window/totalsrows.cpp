@@ -24,7 +24,7 @@ constexpr qreal corner = 8;
 void squeeze(QLabel *label)
 {
     const QFont font =
-        SheetLook::fitting(label->font(), label->text(), label->width() - SheetLook::inset - line);
+        SheetLook::fitting(label->font(), label->text(), label->width() - SheetLook::amountInset - line);
     if (font != label->font())
         label->setFont(font);
 }
@@ -62,7 +62,7 @@ TotalsRows::TotalsRows(const SheetModel &model, const SheetGrid &grid, QWidget *
         for (QLabel *label :
              std::initializer_list<QLabel *>{m_expenses[month], m_incomes[month], m_balances[month]}) {
             label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            label->setContentsMargins(0, 0, SheetLook::inset, 0);
+            label->setIndent(SheetLook::amountInset); // a margin would go with the next style
         }
         m_balances[month]->setFont(TypeScale::strong());
         m_incomes[month]->setCursor(Qt::PointingHandCursor);
@@ -86,32 +86,22 @@ QSize TotalsRows::sizeHint() const
 /// In the layer of what was spent, that takes the place of the planned expenses.
 void TotalsRows::refresh()
 {
-    const bool isSpent = m_model.layer() == SheetLayer::Spent;
     const QString expensesHead = BudgetLines::expensesHead(m_model.layer());
     m_heads[0]->setText(expensesHead);
     m_heads[1]->setText(u"Total Income"_s);
     m_heads[2]->setText(BudgetLines::balanceHead(m_model.layer()));
     for (std::size_t month = 0; month < monthCount; ++month) {
-        const BudgetFigures::Month &figures = m_model.figures().months[month];
-        double expenses = double(figures.expenses);
-        double balance = double(figures.balance);
-        if (isSpent) {
-            expenses = m_model.spentOnNoRow()[month];
-            for (const auto &row : m_model.spent())
-                expenses += row[month];
-            balance = double(figures.income) - expenses;
-        }
-        setFigure(m_expenses[month], Amount::text(expenses), expensesHead, month);
-        setFigure(m_incomes[month], shownIncome(m_model.sheet().incomes[month]), u"Total Income"_s, month);
-        showBalance(month, balance);
+        const SheetModel::MonthFigures figures = m_model.shownFigures(month);
+        setFigure(m_expenses[month], figures.expenses, expensesHead, month);
+        setFigure(m_incomes[month], figures.income, u"Total Income"_s, month);
+        showBalance(month, figures.balance);
     }
 }
 
 /// The colour follows what is shown: ".00" is black.
-void TotalsRows::showBalance(std::size_t month, double balance)
+void TotalsRows::showBalance(std::size_t month, const QString &text)
 {
     QLabel *label = m_balances[month];
-    const QString text = Amount::text(balance);
     if (text == label->text())
         return;
     const bool isNegative = text.startsWith(u'-');

@@ -45,7 +45,7 @@ private:
 
     void refresh();
     void place();
-    void showBalance(std::size_t month, double balance);
+    void showBalance(std::size_t month, const QString &text);
 
     const SheetModel &m_model;
     const SheetGrid &m_grid;

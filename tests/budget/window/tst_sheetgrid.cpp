@@ -222,6 +222,49 @@ private slots:
         QCOMPARE(cell(3, 1), QString());
     }
 
+    void dividesTheRoom_data()
+    {
+        // A month that is wider than the others; item, first and second month, how many are in view.
+        rows<int, int, QList<int>>({{"enough for all", 70, 1200, {180, 85, 85, 12}},
+                                    {"just enough", 70, 960, {120, 70, 70, 12}},
+                                    {"too little", 70, 959, {145, 74, 74, 11}},
+                                    {"a wide one among them", 100, 1000, {130, 100, 70, 12}},
+                                    {"a wide one where there is room", 100, 1400, {200, 100, 100, 12}},
+                                    {"next to none", 70, 100, {120, 70, 70, 1}}});
+    }
+
+    void dividesTheRoom()
+    {
+        const auto [first, room, expected] = row<int, int, QList<int>>();
+        SheetColumns::Widths needed;
+        needed.fill(70);
+        needed[0] = first;
+        const SheetColumns columns = SheetColumns::in(room, 120, needed);
+        QCOMPARE((QList{columns.item, columns.months[0], columns.months[1], columns.inView}), expected);
+    }
+
+    void showsTheWholeYear_data()
+    {
+        rows<QString>({{"small amounts", u"5"_s}, {"large ones", u"9999.99"_s}});
+    }
+
+    /// Each figure whole, in the size that the window opens with.
+    void showsTheWholeYear()
+    {
+        const auto [amount] = row<QString>();
+        m_window->resize(1280, 800);
+        QGuiApplication::clipboard()->setText(amount);
+        grid()->choose({0, 1, 0, 12});
+        trigger("mEPasteCells");
+        QCoreApplication::processEvents();
+        QCOMPARE(grid()->monthsInView(), 12);
+        for (const char *figure : {"Label3_11", "Label7_11"}) {
+            const auto *label = find<QLabel>(figure);
+            QVERIFY(label->font().stretch() == QFont::Unstretched);
+            QVERIFY(label->sizeHint().width() <= label->width());
+        }
+    }
+
     void keepsItemsAndSumsInSight()
     {
         m_window->resize(800, 600);
