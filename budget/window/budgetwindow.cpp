@@ -237,7 +237,7 @@ void Budget1::notice(const Message &message, const QModelIndex &cell)
 {
     ask(message);
     if (cell.data().toString().isEmpty())
-        grid().setCurrentIndex(cell);
+        grid().returnTo(cell);
 }
 
 QString Budget1::whyNoSheet() const

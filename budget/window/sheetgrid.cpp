@@ -119,6 +119,11 @@ void SheetGrid::choose(const SheetRange &range)
                              QItemSelectionModel::ClearAndSelect);
 }
 
+void SheetGrid::returnTo(const QModelIndex &cell)
+{
+    goOn(cell, m_runColumn);
+}
+
 void SheetGrid::finishEdit()
 {
     m_delegate->finish();
@@ -202,7 +207,7 @@ QModelIndex SheetGrid::target(const QKeyEvent &key) const
         return beside(from, 1, 0, ctrl);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return beside(from, shift ? -1 : 1, 0, false);
+        return m_runColumn >= 0 && !shift ? belowRun() : beside(from, shift ? -1 : 1, 0, false);
     case Qt::Key_Tab:
         return afterTab(!shift);
     case Qt::Key_Backtab:
@@ -218,6 +223,20 @@ QModelIndex SheetGrid::target(const QKeyEvent &key) const
     default:
         return {};
     }
+}
+
+/// Behind a run of Tabs, Enter leads to the next row in the column where they began.
+QModelIndex SheetGrid::belowRun() const
+{
+    const QModelIndex from = currentIndex();
+    const QModelIndex next = from.sibling(from.row() + 1, m_runColumn);
+    return next.isValid() ? next : from;
+}
+
+void SheetGrid::goOn(const QModelIndex &to, int runColumn)
+{
+    setCurrentIndex(to);
+    m_runColumn = runColumn;
 }
 
 int SheetGrid::lastUsedRow() const
@@ -240,8 +259,13 @@ bool SheetGrid::walk(const QKeyEvent &key)
     const QModelIndex to = target(key);
     if (!to.isValid())
         return false;
-    const bool isStep = isEnter(key.key()) || key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
-    if (key.modifiers().testFlag(Qt::ShiftModifier) && !isStep)
+    const bool isTab = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+    const bool isShifted = key.modifiers().testFlag(Qt::ShiftModifier);
+    if (isTab)
+        goOn(to, runColumn());
+    else if (isEnter(key.key()) && !isShifted)
+        goOn(to, m_runColumn); // a refused entry leads back into the run
+    else if (isShifted && !isEnter(key.key()))
         extendTo(to);
     else
         setCurrentIndex(to);
@@ -267,6 +291,7 @@ void SheetGrid::keyPressEvent(QKeyEvent *event)
 void SheetGrid::mousePressEvent(QMouseEvent *event)
 {
     const QScopedValueRollback<bool> extending(m_isExtending, event->modifiers().testFlag(Qt::ShiftModifier));
+    m_runColumn = -1;
     QTableView::mousePressEvent(event);
 }
 
@@ -317,6 +342,7 @@ void SheetGrid::resizeEvent(QResizeEvent *event)
 void SheetGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTableView::currentChanged(current, previous);
+    m_runColumn = -1;
     if (!m_isExtending || !m_anchor.isValid())
         m_anchor = current;
     viewport()->update();
@@ -336,6 +362,6 @@ bool SheetGrid::focusNextPrevChild(bool next)
     const QModelIndex to = currentIndex().isValid() ? afterTab(next) : QModelIndex();
     if (!to.isValid())
         return QTableView::focusNextPrevChild(next);
-    setCurrentIndex(to);
+    goOn(to, runColumn());
     return true;
 }

@@ -26,6 +26,8 @@ public:
     SheetRange range() const;
     /// Chooses `range`, with its first cell as the current one.
     void choose(const SheetRange &range);
+    /// Makes `cell` current again, to be typed into once more: a run of Tabs goes on from there.
+    void returnTo(const QModelIndex &cell);
     /// What is being typed goes into its cell.
     void finishEdit();
 
@@ -67,6 +69,9 @@ private:
     QModelIndex beside(const QModelIndex &from, int rows, int columns, bool toEnd) const;
     QModelIndex target(const QKeyEvent &key) const;
     QModelIndex afterTab(bool forward) const;
+    int runColumn() const { return m_runColumn < 0 ? currentIndex().column() : m_runColumn; }
+    QModelIndex belowRun() const;
+    void goOn(const QModelIndex &to, int runColumn);
     int lastUsedRow() const;
     void extendTo(const QModelIndex &index);
     void dragMonths(int x);
@@ -76,6 +81,7 @@ private:
     SheetColumns::Widths m_needed;
     QPersistentModelIndex m_anchor; ///< where the range began
     bool m_isExtending = false;
+    int m_runColumn = -1; ///< where a run of Tabs began; -1 behind anything else
     int m_firstMonth = 0;
     int m_monthsInView = 12;
     QElapsedTimer m_dragged;

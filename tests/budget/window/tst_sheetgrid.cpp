@@ -16,6 +16,8 @@ using Keys = QList<Key>;
 
 constexpr auto ctrl = Qt::ControlModifier;
 constexpr auto shift = Qt::ShiftModifier;
+constexpr Key tab{Qt::Key_Tab, {}};
+constexpr Key enterKey{Qt::Key_Return, {}};
 
 } // namespace
 
@@ -38,6 +40,11 @@ private slots:
              {"Shift+Tab", {{Qt::Key_Backtab, shift}}, u"1,2 1,2"_s},
              {"Enter", {{Qt::Key_Return, {}}}, u"2,3 2,3"_s},
              {"Shift+Enter", {{Qt::Key_Enter, shift}}, u"0,3 0,3"_s},
+             {"Tabs and Enter", {tab, tab, {Qt::Key_Backtab, shift}, enterKey}, u"2,3 2,3"_s},
+             {"Tabs and Enter twice", {tab, tab, enterKey, tab, enterKey}, u"3,3 3,3"_s},
+             {"Tabs into the next row", {{Qt::Key_End, {}}, tab, tab, enterKey}, u"3,12 3,12"_s},
+             {"an arrow among the Tabs", {tab, {Qt::Key_Down, {}}, tab, enterKey}, u"3,4 3,4"_s},
+             {"Tabs and Shift+Enter", {tab, {Qt::Key_Enter, shift}}, u"0,4 0,4"_s},
              {"Home", {{Qt::Key_Home, {}}}, u"1,0 1,0"_s},
              {"End", {{Qt::Key_End, {}}}, u"1,12 1,12"_s},
              {"Ctrl+Home", {{Qt::Key_Home, ctrl}}, u"0,0 0,0"_s},
