@@ -171,6 +171,11 @@ inline QString everyThirdMonth()
     return u"The same every third month"_s;
 }
 
+inline QString isSoAlready()
+{
+    return u"Nothing to change: it is so already"_s;
+}
+
 inline QString noAmountToRepeat()
 {
     return u"Choose a cell with an amount first"_s;

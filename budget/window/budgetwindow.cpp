@@ -206,6 +206,10 @@ void Budget1::connectSheet()
     connect(&grid(), &SheetGrid::said, &activity(), &ActivityBar::say);
     connect(&grid(), &SheetGrid::refused, this, [this] { activity().say(program().folder.whyReadOnly()); });
     connect(m_edits, &SheetCommands::said, &activity(), &ActivityBar::say);
+    connect(m_edits, &SheetCommands::done, this, [this](const QString &line) {
+        activity().say(line);
+        undoStack().offer();
+    });
     connect(m_model, &SheetModel::layerChanged, &commands(), &Commands::refresh);
     connect(&m_sheet->totals(), &TotalsRows::incomeClicked, this, [this](int month) {
         if (const QString reason = program().folder.whyReadOnly(); !reason.isEmpty())

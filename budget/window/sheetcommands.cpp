@@ -133,8 +133,22 @@ bool SheetCommands::isCellChosen()
 void SheetCommands::change(const QString &title, const Edit &edit)
 {
     BudgetSheet wanted = m_desk.model.sheet();
-    edit(wanted, m_desk.grid.range());
-    m_desk.model.change(title, wanted);
+    const SheetRange range = m_desk.grid.range();
+    edit(wanted, range);
+    finish(title, wanted, range);
+}
+
+/// Makes the sheet `wanted` in one step, goes to `range`, and tells of it.
+void SheetCommands::finish(const QString &title, const BudgetSheet &wanted, const SheetRange &range,
+                           const QString &line)
+{
+    const bool isChanged = m_desk.model.change(title, wanted, range);
+    if (range != m_desk.grid.range())
+        m_desk.grid.choose(range);
+    if (isChanged)
+        emit done(line.isEmpty() ? title : line);
+    else
+        emit said(BudgetLines::isSoAlready());
 }
 
 void SheetCommands::show(const std::optional<Message> &message)
@@ -189,9 +203,8 @@ void SheetCommands::paste()
     }
     // Beforehand: what the sums have to say comes after it, and not over it.
     show(pasted.notice());
-    m_desk.model.change(BudgetLines::pasted(pasted.cells), pasted.sheet);
-    m_desk.grid.choose(pasted.range);
-    emit said(BudgetLines::pasted(pasted.cells, pasted.leftOut, pasted.foreign));
+    finish(BudgetLines::pasted(pasted.cells), pasted.sheet, pasted.range,
+           BudgetLines::pasted(pasted.cells, pasted.leftOut, pasted.foreign));
 }
 
 void SheetCommands::repeatAmount(const QString &title, int step)
@@ -208,7 +221,6 @@ void SheetCommands::repeatAmount(const QString &title, int step)
     change(title, [step](BudgetSheet &sheet, const SheetRange &chosen) {
         SheetEdits::repeatToTheRight(sheet, chosen, step);
     });
-    emit said(title);
 }
 
 void SheetCommands::spread()
@@ -227,7 +239,7 @@ void SheetCommands::spread()
     else if (!SheetEdits::spread(wanted, range, sum))
         show(BudgetMessages::cellLimit());
     else
-        m_desk.model.change(BudgetLines::spread(item), wanted);
+        finish(BudgetLines::spread(item), wanted, range);
 }
 
 void SheetCommands::insertRow()
@@ -238,8 +250,7 @@ void SheetCommands::insertRow()
         emit said(BudgetLines::noRoomForRow());
         return;
     }
-    m_desk.model.change(BudgetLines::insertedRow(row), wanted);
-    m_desk.grid.choose({row, 0, row, 0});
+    finish(BudgetLines::insertedRow(row), wanted, {row, 0, row, 0});
 }
 
 void SheetCommands::deleteRow()
@@ -250,7 +261,8 @@ void SheetCommands::deleteRow()
     BudgetSheet wanted = m_desk.model.sheet();
     const QString item = inOneLine(wanted.rows[std::size_t(row)].item);
     wanted.removeRow(std::size_t(row));
-    m_desk.model.change(BudgetLines::deletedRow(item, row), wanted);
+    const int column = m_desk.grid.currentIndex().column();
+    finish(BudgetLines::deletedRow(item, row), wanted, {row, column, row, column});
 }
 
 void SheetCommands::moveRows(int by)
@@ -260,10 +272,10 @@ void SheetCommands::moveRows(int by)
     BudgetSheet wanted = m_desk.model.sheet();
     if (!SheetEdits::moveRows(wanted, range, by))
         return;
-    m_desk.model.change(BudgetLines::movedRow(item, range.top), wanted);
+    const int from = range.top;
     range.top += by;
     range.bottom += by;
-    m_desk.grid.choose(range);
+    finish(BudgetLines::movedRow(item, from), wanted, range);
 }
 
 void SheetCommands::enterIncome(int month)

@@ -38,6 +38,8 @@ public:
 signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
+    /// The same of what undo takes back.
+    void done(const QString &line);
 
 private:
     using Edit = std::function<void(BudgetSheet &sheet, const SheetRange &range)>;
@@ -51,6 +53,9 @@ private:
     QString whyNoEdit() const;
     bool isCellChosen();
     void change(const QString &title, const Edit &edit);
+    void finish(const QString &title, const BudgetSheet &wanted, const SheetRange &range,
+                const QString &line = {});
+    void openCellMenu(QPoint place, QAction *amounts);
     void show(const std::optional<Message> &message);
     void sayRange();
 

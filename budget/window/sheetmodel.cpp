@@ -49,18 +49,20 @@ void SheetModel::show(const Sheet &sheet)
     emit recomputed();
 }
 
-void SheetModel::change(const QString &title, const BudgetSheet &wanted)
+bool SheetModel::change(const QString &title, const BudgetSheet &wanted, const SheetRange &range)
 {
     const Sheet before = m_beforePreview ? std::exchange(m_beforePreview, {}) : m_sheet;
     if (wanted == *before) {
         if (before != m_sheet)
             show(before);
-        return;
+        return false;
     }
     const Sheet after = std::make_shared<BudgetSheet>(wanted);
     show(after);
-    emit edited({title, [=, this] { return exchange(after, before); },
-                 [=, this] { return exchange(before, after); }, UndoStep::Typed});
+    const SheetRange shown = range.isEmpty() ? SheetRange::ofDifference(*before, *after) : range;
+    emit edited({title, [=, this] { return exchange(after, before, shown); },
+                 [=, this] { return exchange(before, after, shown); }, UndoStep::Typed});
+    return true;
 }
 
 void SheetModel::preview(const BudgetSheet &sheet)
@@ -69,12 +71,12 @@ void SheetModel::preview(const BudgetSheet &sheet)
     show(std::make_shared<BudgetSheet>(sheet));
 }
 
-ChangeResult SheetModel::exchange(const Sheet &shown, const Sheet &wanted)
+ChangeResult SheetModel::exchange(const Sheet &shown, const Sheet &wanted, const SheetRange &range)
 {
     if (*m_sheet != *shown)
         return ChangeResult::Outdated;
     show(wanted);
-    emit shownAgain(SheetRange::ofDifference(*shown, *wanted));
+    emit shownAgain(range);
     return ChangeResult::Done;
 }
 

@@ -46,8 +46,10 @@ public:
     /// Of what is planned, whatever the layer.
     const BudgetFigures &figures() const { return m_figures; }
 
-    /// Makes the sheet `wanted`, in one step that undo calls `title`; nothing happens where it is so already.
-    void change(const QString &title, const BudgetSheet &wanted);
+    /// Makes the sheet `wanted`, in one step that undo calls `title`. False, and no step, where it is so
+    /// already.
+    /// Undo and redo show `range` again; by default, what they change.
+    bool change(const QString &title, const BudgetSheet &wanted, const SheetRange &range = {});
     /// Whether a question stands between `preview` and `change`.
     bool isPreviewed() const { return m_beforePreview != nullptr; }
     /// Shows `sheet` before a question that belongs to the edit; the `change` that follows is one step.
@@ -88,7 +90,7 @@ private:
     using Sheet = std::shared_ptr<const BudgetSheet>;
 
     void show(const Sheet &sheet);
-    ChangeResult exchange(const Sheet &shown, const Sheet &wanted);
+    ChangeResult exchange(const Sheet &shown, const Sheet &wanted, const SheetRange &range);
     QString cellShown(int row, int column) const;
     double spentIn(int row, int column) const;
     bool isOverPlan(int row, int column) const;

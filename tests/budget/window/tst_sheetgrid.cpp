@@ -203,6 +203,20 @@ private slots:
             QCOMPARE(asked(), {BudgetMessages::deleteRow()});
         }
         QCOMPARE(cell(0, 0) + cell(1, 0), u"GasRent"_s);
+        // Each can be taken back where it is told of, and leaves one at its row.
+        goTo(1, 4);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        trigger("mODel");
+        QCOMPARE(asked(), {BudgetMessages::deleteRow()});
+        QCOMPARE(said(), u"Deleted row: Rent"_s);
+        press(Qt::Key_Up);
+        QVERIFY(!find<QAbstractButton>("statusUndo")->isVisible());
+        trigger("mEInsert");
+        QCOMPARE(said(), u"Inserted row 1"_s);
+        click("statusUndo");
+        trigger("mEUndo");
+        QCOMPARE(cell(0, 0) + cell(1, 0), u"GasRent"_s);
+        QCOMPARE(chosen(), u"1,4 1,4"_s);
         grid()->clearSelection();
         grid()->setCurrentIndex({});
         trigger("mODel");
