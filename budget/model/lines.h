@@ -50,6 +50,11 @@ inline QString copied(int year)
     return u"Copied: the budget of %1 to %2"_s.arg(year).arg(year + 1);
 }
 
+inline QString openYear(int year)
+{
+    return u"Open %1"_s.arg(year);
+}
+
 inline QString notCopied(int year)
 {
     return u"The disk refused the budget of %1; it is as it was"_s.arg(year + 1);

@@ -226,6 +226,10 @@ void Budget1::connectYear()
     connect(m_year, &BudgetYear::fileTouched, this, [this] { watchFiles(m_year->fileNames()); });
     connect(m_year, &BudgetYear::copied, this, [this](const UndoStep &step) {
         undoStack().push(step);
+        activity().say(step.title);
+        const int next = m_year->year() + 1;
+        if (next <= BudgetFiles::lastYear)
+            activity().offerWay(BudgetLines::openYear(next), [this, next] { chooseYear(next); });
         undoStack().offer();
     });
     connect(m_year, &BudgetYear::said, &activity(), &ActivityBar::say);

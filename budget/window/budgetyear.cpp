@@ -79,6 +79,10 @@ bool BudgetYear::save()
 
 void BudgetYear::copyToNext()
 {
+    if (!hasFile()) {
+        emit said(BudgetLines::nothingToCopy(m_year));
+        return;
+    }
     const BudgetSheet there = m_files.read(m_year + 1).sheet;
     const auto items = std::ranges::count_if(
         there.rows, [](const BudgetSheet::Row &row) { return !row.item.trimmed().isEmpty(); });
@@ -98,7 +102,6 @@ void BudgetYear::copyToNext()
             showIfOpen(target);
         return result;
     };
-    emit said(BudgetLines::copied(m_year));
     emit copied({BudgetLines::copied(m_year), [=, this] { return shown(copy->undo(m_program.folder)); },
                  [=, this] { return shown(copy->redo(m_program.folder)); }});
 }

@@ -32,7 +32,8 @@ public:
     bool isModified() const;
     /// Writes the sheet. False when the disk refuses, or when the user would rather keep what the file has.
     [[nodiscard]] bool save();
-    /// Asks, then copies the file over that of the year after. Nothing that was typed is copied.
+    /// Asks, then copies the file, where there is one, over that of the year after. Nothing that was typed is
+    /// copied.
     void copyToNext();
     /// The file was changed by somebody else: shows what it holds, unless that would take what was typed.
     void takeChangedFile();
@@ -44,6 +45,7 @@ signals:
     void opened(int year);
     /// The file was read or written by this window.
     void fileTouched();
+    /// The year after has what this one has.
     void copied(const UndoStep &step);
     /// A quiet line for the status bar.
     void said(const QString &line);

@@ -76,6 +76,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     , m_restoreTop(makeLink(u"StatusBar1_RestoreTop"_s, ShellMessages::restoreTopToolbar()))
     , m_restoreSide(makeLink(u"StatusBar1_RestoreSide"_s, ShellMessages::restoreSideToolbars()))
     , m_message(named(new ElidedLabel(this), u"statusMessage"_s))
+    , m_way(makeLink(u"statusWay"_s, {}))
     , m_undo(makeLink(u"statusUndo"_s, u"Undo"_s))
     , m_progress(named(new QProgressBar(this), u"statusProgress"_s))
     , m_stop(named(new QPushButton(u"&Stop"_s, this), u"statusStop"_s))
@@ -118,6 +119,10 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     connect(m_restoreSide, &QToolButton::clicked, this, &ActivityBar::restoreSideToolbarsRequested);
     connect(m_stop, &QPushButton::clicked, this, &ActivityBar::stopRequested);
     connect(m_undo, &QToolButton::clicked, this, &ActivityBar::undoRequested);
+    connect(m_way, &QToolButton::clicked, this, [this] {
+        const auto go = m_go; // what it leads to may put another in its place
+        go();
+    });
     // A status tip would otherwise take the place of the whole bar.
     if (parent)
         parent->installEventFilter(this);
@@ -134,6 +139,7 @@ void ActivityBar::addToRow(QHBoxLayout &row)
     row.addWidget(m_restoreTop);
     row.addWidget(m_restoreSide);
     row.addWidget(m_message);
+    row.addWidget(m_way);
     row.addWidget(m_undo);
     row.addStretch(1);
     row.addWidget(m_progress);
@@ -182,6 +188,7 @@ void ActivityBar::say(const QString &message)
     m_said = message;
     m_message->setText(message);
     m_undo->hide();
+    m_way->hide();
 }
 
 QString ActivityBar::message() const
@@ -192,6 +199,14 @@ QString ActivityBar::message() const
 void ActivityBar::offerUndo()
 {
     m_undo->show();
+}
+
+void ActivityBar::offerWay(const QString &words, std::function<void()> go)
+{
+    m_way->setText(words);
+    m_way->setAccessibleName(words);
+    m_go = std::move(go);
+    m_way->show();
 }
 
 void ActivityBar::offerTopToolbar(bool offered)

@@ -6,6 +6,8 @@
 
 #include <QStatusBar>
 
+#include <functional>
+
 class ElidedLabel;
 class QHBoxLayout;
 class QLabel;
@@ -34,6 +36,8 @@ public:
     QString message() const;
     /// Puts "Undo" behind the message until another one is said.
     void offerUndo();
+    /// The same with a link that leads to what the message tells of.
+    void offerWay(const QString &words, std::function<void()> go);
 
     void offerTopToolbar(bool offered);
     void offerSideToolbars(bool offered);
@@ -71,6 +75,8 @@ private:
     QToolButton *m_restoreTop;
     QToolButton *m_restoreSide;
     ElidedLabel *m_message;
+    QToolButton *m_way;
+    std::function<void()> m_go; ///< where it leads
     QToolButton *m_undo;
     QString m_said; ///< what the message shows when no control explains itself
     QProgressBar *m_progress;

@@ -183,22 +183,23 @@ private slots:
         enter(0, 0, u"Rent"_s);
         m_test->setBytes(u"2027.Fil"_s, "\"Old\"");
         // Cancel; No copies what is saved, which is nothing; Yes saves first.
-        m_test->dialogs.willAnswer(Answer::Cancel);
-        trigger("mECY");
-        QCOMPARE(asked(), {BudgetMessages::saveBeforeCopying(2026)});
-        m_test->dialogs.willAnswer(Answer::No);
-        m_test->dialogs.willAnswer(Answer::Yes);
-        click("Command7");
-        QCOMPARE(asked()[1], BudgetMessages::copyYear(2026, 1));
+        for (const Answer answer : {Answer::Cancel, Answer::No}) {
+            m_test->dialogs.willAnswer(answer);
+            trigger("mECY");
+            QCOMPARE(asked(), {BudgetMessages::saveBeforeCopying(2026)});
+            QCOMPARE(said() == u"There is no saved budget of 2026 to copy"_s, answer == Answer::No);
+        }
         QCOMPARE(m_test->bytes(u"2027.Fil"_s), "\"Old\"");
         QVERIFY(!QFileInfo::exists(m_test->path(file)));
         QVERIFY(m_window->isModified());
         m_test->dialogs.willAnswer(Answer::Yes);
         m_test->dialogs.willAnswer(Answer::Yes);
         click("Command7");
-        QVERIFY(asked()[1].text.startsWith(u"Copy 2026 file to 2027?"_s));
+        QCOMPARE(asked()[1], BudgetMessages::copyYear(2026, 1));
+        QVERIFY(BudgetMessages::copyYear(2026, 1).text.startsWith(u"Copy 2026 file to 2027?"_s));
         QCOMPARE(m_test->bytes(u"2027.Fil"_s), m_test->bytes(file));
-        chooseYear(2027);
+        click("statusWay"); // to 2027
+        QVERIFY(!find<QAbstractButton>("statusWay")->isVisible());
         QCOMPARE(cell(0, 0), u"Rent"_s);
         trigger("mEUndo");
         QCOMPARE(cell(0, 0), u"Old"_s);
