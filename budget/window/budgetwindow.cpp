@@ -114,7 +114,7 @@ void Budget1::addEditCommands(QMenu *menu)
 {
     undoStack().addCommands(menu);
     menu->addSeparator();
-    m_edits->addCommands(menu);
+    m_edits->addCommands(menu, m_spentDesk->amounts());
     menu->addSeparator();
     m_print->addCopyCommand(commands(), menu);
     m_copyYear = commands().writing(commands().add(

@@ -30,16 +30,32 @@ SheetCommands::SheetCommands(Program &program, Desk desk, QWidget *window)
     connect(&m_desk.grid, &SheetGrid::rangeChanged, this, &SheetCommands::sayRange);
 }
 
-void SheetCommands::addCommands(QMenu *edit)
+void SheetCommands::addCommands(QMenu *edit, QAction *amounts)
 {
+    const qsizetype before = edit->actions().size();
     addClipboardCommands(edit);
     edit->addSeparator();
     addFillCommands(edit);
     edit->addSeparator();
     addRowCommands(edit);
+    m_cellActions = edit->actions().sliced(before);
     m_desk.grid.setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(&m_desk.grid, &QWidget::customContextMenuRequested, edit,
-            [this, edit](QPoint place) { edit->popup(m_desk.grid.viewport()->mapToGlobal(place)); });
+    connect(&m_desk.grid, &QWidget::customContextMenuRequested, this,
+            [this, amounts](QPoint place) { openCellMenu(place, amounts); });
+}
+
+/// What concerns the cell that was clicked, and its row.
+void SheetCommands::openCellMenu(QPoint place, QAction *amounts)
+{
+    auto *menu = named(new QMenu(m_window), u"cellMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setToolTipsVisible(true);
+    if (m_desk.model.layer() == SheetLayer::Spent) {
+        menu->addAction(amounts);
+        menu->addSeparator();
+    }
+    menu->addActions(m_cellActions);
+    menu->popup(m_desk.grid.viewport()->mapToGlobal(place));
 }
 
 void SheetCommands::addClipboardCommands(QMenu *edit)
@@ -95,7 +111,9 @@ void SheetCommands::addRowCommands(QMenu *edit)
 
 QAction *SheetCommands::addDeleteRow(QMenu *menu)
 {
-    return add(menu, u"mODel"_s, u"&Delete Row"_s, [this] { deleteRow(); });
+    QAction *command = add(menu, u"mODel"_s, u"&Delete Row"_s, [this] { deleteRow(); });
+    m_cellActions << command;
+    return command;
 }
 
 QAction *SheetCommands::add(QMenu *menu, const QString &name, const QString &caption,

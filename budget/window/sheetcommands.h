@@ -27,9 +27,10 @@ public:
 
     SheetCommands(Program &program, Desk desk, QWidget *window);
 
-    /// Puts the commands into `edit`, which opens beside a cell that is clicked with the other button too.
-    void addCommands(QMenu *edit);
-    /// "Delete Row", which stands in `menu`.
+    /// Puts the commands into `edit`. The menu of a cell has them too; in the layer of what was spent also
+    /// `amounts`, which opens what was spent in the cell.
+    void addCommands(QMenu *edit, QAction *amounts);
+    /// "Delete Row", which stands in `menu`, and last in the menu of a cell.
     QAction *addDeleteRow(QMenu *menu);
 
     /// Asks for the income of `month` (from 0), and whether the later months have the same.
@@ -70,4 +71,5 @@ private:
     Program &m_program;
     Desk m_desk;
     QWidget *m_window;
+    QList<QAction *> m_cellActions; ///< of the menu of a cell
 };

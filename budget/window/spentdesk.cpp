@@ -77,7 +77,7 @@ void SpentDesk::addCommands(QMenu *view)
     for (QAction *layer : {m_planned, m_spent})
         layer->setCheckable(true);
     view->addSeparator();
-    all.add(
+    m_amountsCommand = all.add(
         view, u"mVAmounts"_s, u"Amounts &of This Cell"_s, [this] { openCell(); }, unless,
         Qt::CTRL | Qt::Key_Return);
     QAction *due = all.add(

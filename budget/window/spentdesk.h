@@ -41,6 +41,8 @@ public:
     QWidget *makeSwitch(QWidget *parent);
     /// Puts the commands into the view menu.
     void addCommands(QMenu *view);
+    /// The command that lists the amounts of the current cell.
+    QAction *amounts() const { return m_amountsCommand; }
     /// Puts the command that reads a bank's file into `menu`.
     void addImport(QMenu *menu);
     /// Ends what takes its time.
@@ -81,4 +83,5 @@ private:
     LinkButton *m_noRow = nullptr;
     QAction *m_planned = nullptr;
     QAction *m_spent = nullptr;
+    QAction *m_amountsCommand = nullptr;
 };

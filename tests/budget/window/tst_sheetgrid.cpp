@@ -2,6 +2,7 @@
 #include "tests/budget/window/openbudget.h"
 
 #include <QClipboard>
+#include <QMenu>
 #include <QScrollBar>
 
 using namespace Qt::Literals::StringLiterals;
@@ -221,6 +222,22 @@ private slots:
         grid()->setCurrentIndex({});
         trigger("mODel");
         QCOMPARE(asked(), {BudgetMessages::noCellChosen()});
+    }
+
+    void opensTheMenuOfACell_data()
+    {
+        rows<bool, QString>({{"planned", false, u"Cut"_s}, {"spent", true, u"Amounts of This Cell"_s}});
+    }
+
+    void opensTheMenuOfACell()
+    {
+        const auto [isSpent, first] = row<bool, QString>();
+        trigger(isSpent ? "mVSpent" : "mVPlanned");
+        emit grid()->customContextMenuRequested({});
+        const auto *menu = find<QMenu>("cellMenu");
+        QCOMPARE(menu->actions().first()->text().remove(u'&'), first);
+        QCOMPARE(menu->actions().last()->text(), u"&Delete Row"_s);
+        QVERIFY(menu->actions().contains(find<QAction>("mEInsert")));
     }
 
     void fillsAndSpreads()
