@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/charts/linechart.h"
+
+#include "shell/core/dates.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString shown(const LineChart &chart, const LineChart::Point &point)
+{
+    const QString value = point.text.isEmpty() ? chart.up.text(point.y) : point.text;
+    return point.note.isEmpty() ? value : QString(value + u", "_s + point.note);
+}
+
+/// "Volvo, 12 points from Jan 3, 2026 to Nov 3, 2026, 28.0 mpg to 33.1 mpg"
+QString described(const LineChart &chart, const LineChart::Series &series)
+{
+    const QString name = series.name.isEmpty() ? chart.up.name : series.name;
+    if (series.points.isEmpty())
+        return name + u", no points"_s;
+    const auto [least, most] = std::ranges::minmax_element(series.points, {}, &LineChart::Point::y);
+    const qsizetype count = series.points.size();
+    const QString points = count == 1 ? u"1 point"_s : u"%1 points"_s.arg(count);
+    return name + u", "_s + points + u" from "_s + chart.acrossText(series.points.first().x) + u" to "_s +
+           chart.acrossText(series.points.last().x) + u", "_s + chart.up.text(least->y) + u" to "_s +
+           chart.up.text(most->y);
+}
+
+} // namespace
+
+QString LineChart::Axis::text(double value) const
+{
+    const double factor = std::pow(10.0, decimals);
+    const double rounded = std::round(value * factor) / factor; // there is no "-0"
+    const QLocale locale(QLocale::English, QLocale::UnitedStates);
+    return (rounded < 0 ? u"-"_s : QString()) + before + locale.toString(std::abs(rounded), 'f', decimals) +
+           behind;
+}
+
+bool LineChart::isEmpty() const
+{
+    return std::ranges::all_of(series, [](const Series &one) { return one.points.isEmpty(); });
+}
+
+QString LineChart::acrossText(double x) const
+{
+    return kind == Across::Days ? Dates::shortWithYear(dateAt(x), style) : across.text(x);
+}
+
+QString LineChart::pointText(qsizetype index, qsizetype point) const
+{
+    const Series &of = series[index];
+    const QString name = series.size() > 1 && !of.name.isEmpty() ? of.name + u", "_s : QString();
+    return name + acrossText(of.points[point].x) + u": "_s + shown(*this, of.points[point]);
+}
+
+QString LineChart::description() const
+{
+    if (isEmpty())
+        return title + u". "_s + (nothing.isEmpty() ? u"No points"_s : nothing) + u'.';
+    QString text = title + u". Line chart. Across: "_s + across.name + u". Up: "_s + up.name + u'.';
+    for (const Series &one : series)
+        text += u' ' + described(*this, one) + u'.';
+    for (const Level &level : levels)
+        text += u' ' + level.name + u": "_s + up.text(level.y) + u'.';
+    return caption.isEmpty() ? text : QString(text + u' ' + caption + u'.');
+}
+
+QStringList LineChart::headings() const
+{
+    QStringList headings{across.name};
+    for (const Series &one : series)
+        headings << (one.name.isEmpty() ? up.name : one.name);
+    return headings;
+}
+
+QList<QStringList> LineChart::rows() const
+{
+    // Series may have several points of one x, a day with two fill-ups.
+    std::map<double, std::vector<QStringList>> cells;
+    for (qsizetype index = 0; index < series.size(); ++index) {
+        for (const Point &point : series[index].points) {
+            auto &at = cells[point.x];
+            at.resize(std::size_t(series.size()));
+            at[std::size_t(index)] << shown(*this, point);
+        }
+    }
+    QList<QStringList> rows;
+    for (const auto &[x, values] : cells) {
+        const auto deepest = std::ranges::max_element(values, {}, &QStringList::size)->size();
+        for (qsizetype i = 0; i < deepest; ++i) {
+            QStringList row{acrossText(x)};
+            for (const QStringList &value : values)
+                row << value.value(i);
+            rows << row;
+        }
+    }
+    return rows;
+}

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/core/programstate.h"
+
+#include <QDate>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// What a chart of lines shows: values along days or numbers, each series named at the end of its line.
+struct LineChart {
+    struct Point {
+        double x = 0; ///< a number, or a day: see `dayAt`
+        double y = 0;
+        QString text = {};       ///< the value as it is shown; where it is empty, as the axis writes it
+        QString note = {};       ///< why it is not like the others, "partial fill-up"; such a point is hollow
+        bool startsAnew = false; ///< no line leads here from the point before
+
+        bool operator==(const Point &) const = default;
+    };
+    struct Series {
+        QString name;        ///< may be empty where there is only one
+        QList<Point> points; ///< in the order of x
+        bool operator==(const Series &) const = default;
+    };
+    /// A value that lies across the chart, named at its edge: a goal is dashed, a beginning dotted.
+    struct Level {
+        enum Kind { Goal, Beginning };
+        QString name;
+        double y = 0;
+        Kind kind = Goal;
+        bool operator==(const Level &) const = default;
+    };
+    /// An axis, and how its numbers are written: "$1,250.00", "31.4 mpg".
+    struct Axis {
+        QString name;
+        QString before = {}; ///< "$"
+        QString behind = {}; ///< " mpg"
+        int decimals = 0;    ///< of a value that is read out; the ticks have as many as they need
+        QString text(double value) const;
+        bool operator==(const Axis &) const = default;
+    };
+    enum class Across { Days, Numbers };
+
+    QString title;           ///< the question that it answers
+    QString caption;         ///< a quiet line under it; may be empty
+    QString nothing;         ///< what stands in a chart without points: "No fill-ups yet"
+    Axis across;             ///< of the days (the name is enough) or of the numbers
+    Axis up;                 ///< of the values
+    bool isFromZero = false; ///< the values are shown from 0 on
+    Across kind = Across::Days;
+    DateStyle style = DateStyle::Usa; ///< of the days
+    QList<Series> series;
+    QList<Level> levels;
+
+    /// The x of a day.
+    static double dayAt(QDate date) { return double(date.toJulianDay()); }
+    static QDate dateAt(double x) { return QDate::fromJulianDay(qRound64(x)); }
+
+    bool isEmpty() const;
+    /// "Nov 3, 2026", or the number as its axis writes it.
+    QString acrossText(double x) const;
+    /// "Volvo, Nov 3, 2026: 31.4 mpg, partial fill-up"; the name only where there are several series.
+    QString pointText(qsizetype series, qsizetype point) const;
+    /// Title, axes, series and ranges in words.
+    QString description() const;
+
+    /// The same figures as a table: a row for each x, a column for each series behind the first.
+    QStringList headings() const;
+    QList<QStringList> rows() const;
+
+    bool operator==(const LineChart &) const = default;
+};
