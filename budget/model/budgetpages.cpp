@@ -15,6 +15,8 @@ namespace {
 /// The title of the totals page must stand above its chart.
 constexpr double totalsStart = 0.3;
 constexpr int emptyRows = 3; ///< for what nobody has thought of yet
+constexpr std::size_t rowsBesideSums = 2;
+constexpr qsizetype mostInOneColumn = 8; ///< of an upright sheet with a chart
 
 Page started(const QString &title, const PageContext &context)
 {
@@ -51,6 +53,18 @@ void addSums(Page &page, const BudgetFigures &figures, SheetLayer layer, BudgetB
         page.rule();
 }
 
+/// Below the chart there is little room, and an item's total should stand near its name.
+void setSideBySide(PageItem::Columns &columns, qsizetype items, PageSetup::Orientation orientation)
+{
+    const bool isUpright = orientation == PageSetup::Portrait;
+    if (isUpright && items <= mostInOneColumn)
+        return;
+    columns.across = isUpright ? 2 : 3;
+    columns.points = isUpright ? PageMetrics::smallPoints : PageMetrics::smallestPoints;
+    columns.weights = {1.9, 1, 1.2}; // the widest of each, in the widest of the common fonts
+    columns.endsEven = true;
+}
+
 /// An item's year as a month on average.
 QString monthly(double year)
 {
@@ -66,8 +80,12 @@ Page BudgetPages::sheet(ShownYear shown, const BudgetSheet &sheet, const PageCon
     columns.headings = BudgetPaper::headings();
     columns.widths = TableWidths::ForNumbers;
     page.table(columns);
-    for (std::size_t row = 0; row < SheetLines::usedRows(sheet); ++row)
-        page.row(SheetLines::cells(sheet.rows[row]));
+    const std::size_t used = SheetLines::usedRows(sheet);
+    for (std::size_t row = 0; row < used; ++row) {
+        // The sums never stand alone on a sheet of their own.
+        const QStringList cells = SheetLines::cells(sheet.rows[row]);
+        row + rowsBesideSums < used ? page.row(cells) : page.rowWithNext(cells);
+    }
     const SheetLines::Sums sums = SheetLines::sums(BudgetFigures::of(sheet));
     page.rule();
     page.rowWithNext(QStringList(BudgetPaper::expensesOf(shown.layer)) + sums.expenses, TextRole::Strong);
@@ -95,10 +113,10 @@ Page BudgetPages::totals(ShownYear shown, const BudgetSheet &sheet, BudgetBasis 
     columns.weights = {3, 1.2, 1.2};
     columns.headings = BudgetPaper::totalsHeadings();
     columns.alignments = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignRight};
-    // A wide sheet is low, and an item's total should stand near its name.
-    columns.across = context.setup.orientation == PageSetup::Landscape ? 2 : 1;
+    const QList<BudgetFigures::Item> items = BudgetFigures::items(sheet);
+    setSideBySide(columns, items.size(), context.setup.orientation);
     page.table(columns);
-    for (const BudgetFigures::Item &item : BudgetFigures::items(sheet))
+    for (const BudgetFigures::Item &item : items)
         page.row({item.item, Amount::text(item.total), figures.share(item.total, basis)});
     return page.close(context.today, context.style);
 }

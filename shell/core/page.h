@@ -112,6 +112,7 @@ struct Columns {
     /// its share of the page.
     int across = 1;
     static constexpr int mostAcross = 4;
+    bool endsEven = false; ///< side by side, the last rows are as many in each; else they fill one first
     TableWidths widths = TableWidths::ByWeights;
     double points = 0;        ///< size of the letters; 0: as the page font has them
     bool isToWriteIn = false; ///< rows high enough for handwriting

@@ -104,6 +104,28 @@ void PageLayout::cutIntoSheets()
     keepClosingInCompany();
 }
 
+qsizetype PageLayout::rowsFrom(std::size_t item) const
+{
+    const auto &items = m_page.items();
+    const auto isRow = [](const Page::Item &one) { return std::holds_alternative<PageItem::Row>(one); };
+    const bool isTable = item < items.size() && std::holds_alternative<PageItem::Columns>(items[item]);
+    const auto begin = items.begin() + std::ptrdiff_t(std::min(isTable ? item + 1 : item, items.size()));
+    return std::find_if_not(begin, items.end(), isRow) - begin;
+}
+
+/// A rule between two rows belongs to the upper one.
+bool PageLayout::staysWithNext(std::size_t item) const
+{
+    const auto &items = m_page.items();
+    if (item + 1 >= items.size())
+        return false;
+    const bool isRule = std::holds_alternative<PageItem::Rule>(items[item]);
+    const auto *row = std::get_if<PageItem::Row>(&items[isRule && item > 0 ? item - 1 : item]);
+    const bool leadsToRow = std::holds_alternative<PageItem::Row>(items[item + 1]) ||
+                            std::holds_alternative<PageItem::Rule>(items[item + 1]);
+    return row && row->staysWithNext && leadsToRow;
+}
+
 bool PageLayout::cut(std::size_t mostSheets)
 {
     m_starts.assign(1, {});
@@ -121,10 +143,6 @@ void PageLayout::keepClosingInCompany()
     const std::size_t count = m_page.items().size();
     if (m_starts.size() < 2 || m_starts.back().item != count)
         return;
-    const auto staysWithNext = [this](std::size_t item) {
-        const auto *row = std::get_if<PageItem::Row>(&m_page.items()[item]);
-        return row && row->staysWithNext;
-    };
     const bool isText = std::holds_alternative<PageItem::Row>(m_page.items().back()) ||
                         std::holds_alternative<PageItem::Line>(m_page.items().back());
     std::size_t first = count - 1;

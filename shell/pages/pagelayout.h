@@ -41,6 +41,11 @@ public:
     /// Whether a table of numbers was too wide for the sheet and goes on as a second one.
     bool isTableCut() const { return m_isTableCut; }
 
+    /// How many rows follow one another from `item` on, or behind it where it begins their table.
+    qsizetype rowsFrom(std::size_t item) const;
+    /// Whether a row, or the rule below it, is never parted from the next item.
+    bool staysWithNext(std::size_t item) const;
+
     /// The sheet and the part of it that the flow fills, in points.
     QSizeF sheet() const;
     QRectF body() const;

@@ -134,7 +134,8 @@ bool SheetFlow::placeCells(const std::vector<SheetCell> &cells, const PageType &
 void SheetFlow::startTable(const PageItem::Columns *columns)
 {
     m_y = m_table.leaveColumns(m_y);
-    m_table.start(columns, m_layout.typesOf(columns));
+    const bool isCounted = columns && columns->endsEven;
+    m_table.start(columns, m_layout.typesOf(columns), isCounted ? m_layout.rowsFrom(m_at.item) : 0);
     m_rowAbove = false;
 }
 
@@ -150,7 +151,7 @@ bool SheetFlow::nextColumn()
 
 void SheetFlow::placeHeadings(const std::vector<SheetCell> &headings)
 {
-    m_table.beginRows(m_y);
+    m_table.beginRows(m_y, types().body.lineHeight() + closingHeight());
     if (headings.empty())
         return;
     const int line = std::exchange(m_at.line, 0);
@@ -180,13 +181,15 @@ bool SheetFlow::place(const PageItem::Row &row)
     std::vector<SheetCell> headings = m_table.headings();
     const double height = m_table.rowGap() + double(SheetTable::lineCount(cells)) * type.lineHeight() +
                           closingReserve() + heightOfCompany();
-    if (!m_isFresh && m_at.line == 0 && room() < m_table.headingHeight(headings) + height) {
+    const bool isFull = m_table.hasItsShare() || room() < m_table.headingHeight(headings) + height;
+    if (!m_isFresh && m_at.line == 0 && isFull) {
         if (!nextColumn())
             return false;
         cells = m_table.cellsOf(row.cells, type);
         headings = m_table.headings();
     }
     placeHeadings(headings);
+    m_table.countRow();
     const double top = m_y;
     const QRectF body = m_table.columnBody();
     if (m_rowAbove && m_table.has(TableLines::Rows))
@@ -204,23 +207,19 @@ bool SheetFlow::place(const PageItem::Row &row)
 /// closing lines is left on each.
 double SheetFlow::closingReserve() const
 {
-    const bool isNeeded = m_table.runsAcross() && m_layout.page().isClosed();
+    const bool isNeeded = m_table.runsAcross() && m_table.mayEndHere() && m_layout.page().isClosed();
     return isNeeded ? types().body.lineHeight() + closingHeight() : 0;
 }
 
 double SheetFlow::heightOfCompany() const
 {
-    const auto &items = m_layout.page().items();
     const double most = m_body.height() / 2; // what is higher may as well be cut
     double height = 0;
-    const auto *row = std::get_if<PageItem::Row>(&items[m_at.item]);
-    for (std::size_t next = m_at.item + 1; row && row->staysWithNext && next < items.size(); ++next) {
-        row = std::get_if<PageItem::Row>(&items[next]);
-        if (!row)
-            break;
-        const PageType &type = m_table.types().of(row->role);
-        const auto lines = double(SheetTable::lineCount(m_table.cellsOf(row->cells, type)));
-        height += m_table.rowGap() + lines * type.lineHeight();
+    for (std::size_t at = m_at.item; m_layout.staysWithNext(at); ++at) {
+        const auto *row = std::get_if<PageItem::Row>(&m_layout.page().items()[at + 1]);
+        const PageType &type = m_table.types().of(row ? row->role : TextRole::Body);
+        const auto lines = double(row ? SheetTable::lineCount(m_table.cellsOf(row->cells, type)) : 0);
+        height += row ? m_table.rowGap() + lines * type.lineHeight() : ruleGap;
         if (height > most)
             return 0;
     }

@@ -40,10 +40,13 @@ double SheetTable::rowGap() const
     return isHigh ? plainRowGap + writingFactor * m_types->body.lineHeight() : plainRowGap;
 }
 
-void SheetTable::start(const PageItem::Columns *columns, const PageTypes &types)
+void SheetTable::start(const PageItem::Columns *columns, const PageTypes &types, qsizetype rows)
 {
     m_columns = columns;
     m_types = &types;
+    m_rows = rows;
+    m_rowsInColumn = 0;
+    m_share = (rows + across() - 1) / across();
     m_headingsShown = false;
     m_boxes.clear();
     if (!columns)
@@ -106,10 +109,14 @@ double SheetTable::headingHeight(const std::vector<SheetCell> &headings) const
     return headings.empty() ? 0 : double(lineCount(headings)) * m_types->strong.lineHeight() + headingGap;
 }
 
+int SheetTable::across() const
+{
+    return m_columns ? std::clamp(m_columns->across, 1, PageItem::Columns::mostAcross) : 1;
+}
+
 QRectF SheetTable::columnBody() const
 {
-    const int across = m_columns ? std::clamp(m_columns->across, 1, PageItem::Columns::mostAcross) : 1;
-    const double width = (m_body.width() - acrossGap * (across - 1)) / across;
+    const double width = (m_body.width() - acrossGap * (across() - 1)) / across();
     return {m_body.left() + m_column * (width + acrossGap), m_body.top(), width, m_body.height()};
 }
 
@@ -125,16 +132,33 @@ std::vector<QRectF> SheetTable::grid(double top, double bottom, double thickness
     return lines;
 }
 
-void SheetTable::beginRows(double y)
+void SheetTable::beginRows(double y, double closing)
 {
-    if (!std::exchange(m_headingsShown, true) && m_column == 0)
+    if (!m_headingsShown && m_column == 0) {
         m_columnTop = y;
+        // Rows of one line each are reckoned with; a sheet more is no harm.
+        const double room = m_body.bottom() - y - headingHeight(headings()) - closing;
+        const double fitting = std::floor(room / (rowGap() + m_types->body.lineHeight()));
+        m_endsHere = !m_columns || !m_columns->endsEven || double(m_rows) <= fitting * across();
+    }
+    m_headingsShown = true;
+}
+
+void SheetTable::countRow()
+{
+    ++m_rowsInColumn;
+}
+
+bool SheetTable::hasItsShare() const
+{
+    return m_columns && m_columns->endsEven && m_rowsInColumn >= m_share && m_column + 1 < across();
 }
 
 std::optional<double> SheetTable::nextColumn(double y)
 {
-    if (!m_columns || m_column + 1 >= std::min(m_columns->across, PageItem::Columns::mostAcross))
+    if (m_column + 1 >= across())
         return {};
+    m_rowsInColumn = 0;
     m_columnBottom = std::max(m_columnBottom, y);
     const double left = columnBody().left();
     ++m_column;

@@ -25,8 +25,8 @@ public:
     SheetTable(const PageTypes &types, const QRectF &body);
 
     /// Rows from here on stand in these columns, in `types`; null: outside a table, in columns of equal
-    /// width.
-    void start(const PageItem::Columns *columns, const PageTypes &types);
+    /// width. `rows` of them are to come.
+    void start(const PageItem::Columns *columns, const PageTypes &types, qsizetype rows = 0);
     const PageItem::Columns *columns() const { return m_columns; }
     const PageTypes &types() const { return *m_types; }
     /// What a row takes beside the lines of its text.
@@ -46,10 +46,16 @@ public:
     /// The lines around the cells of a row from `top` to `bottom`.
     std::vector<QRectF> grid(double top, double bottom, double thickness) const;
 
-    /// The headings of this column of rows stand at `y`, and rows follow.
-    void beginRows(double y);
+    /// The headings of this column of rows stand at `y`, and rows follow; `closing` is what the page's end
+    /// takes.
+    void beginRows(double y, double closing);
+    void countRow();
     /// Whether the rows run down several columns.
     bool runsAcross() const { return m_columns && m_columns->across > 1; }
+    /// Whether this column of rows has its share of those that are left.
+    bool hasItsShare() const;
+    /// Whether all its rows may find room on the sheet where they begin.
+    bool mayEndHere() const { return m_endsHere; }
     /// Goes on in the next column of rows, since the one that ends at `y` is full: gives the top of it, or
     /// nothing when this was the last.
     std::optional<double> nextColumn(double y);
@@ -58,6 +64,7 @@ public:
 
 private:
     double columnGap() const;
+    int across() const;
 
     const PageTypes *m_types;
     QRectF m_body;
@@ -65,6 +72,10 @@ private:
     std::vector<SheetCell> m_boxes; ///< the table's columns, without lines
     bool m_headingsShown = false;
     int m_column = 0; ///< of those that the rows run down
+    bool m_endsHere = true;
+    qsizetype m_rows = 0;
+    qsizetype m_rowsInColumn = 0;
+    qsizetype m_share = 0; ///< the rows of a column where all of them end on the sheet
     double m_columnTop = 0;
     double m_columnBottom = 0; ///< of the longest so far
 };

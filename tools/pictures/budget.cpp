@@ -228,6 +228,10 @@ void Albums::budget(const Camera &camera)
         session.takePage("budget-page-continued");
         session.trigger("mOPTotals");
         session.takePage("budget-page-totals-full");
+        session.click("SSCommand80_1");
+        session.takePage("budget-page-totals-full-landscape");
+        session.click("nextPage");
+        session.takePage("budget-page-totals-continued");
         session.key(Qt::Key_Escape);
         session.trigger("mVTotals");
         session.take("budget-totals-full");

@@ -117,8 +117,8 @@ private slots:
     {
         for (int rows = 20; rows < 60; ++rows) {
             Page page = numbered(rows);
-            page.rowWithNext({u"Expenses"_s, u"1"_s}).rowWithNext({u"Income"_s, u"2"_s});
-            page.row({u"Balance"_s, u"1"_s});
+            page.rowWithNext({u"Expenses"_s, u"1"_s}).rule().rowWithNext({u"Income"_s, u"2"_s});
+            page.row({u"Balance"_s, u"1"_s}).close(QDate(2026, 11, 21), DateStyle::Usa);
             const PagePainter painter(page, {}, bodyFont());
             for (int sheet = 0; sheet < painter.sheetCount(); ++sheet)
                 QCOMPARE(painter.text(sheet).contains(u"Expenses"_s),

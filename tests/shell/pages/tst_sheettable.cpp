@@ -37,6 +37,15 @@ QStringList sheetsOf(const PagePainter &painter)
     return sheets;
 }
 
+/// The line above the closing lines of the last sheet.
+QRectF closingRule(const PagePainter &painter)
+{
+    constexpr double dots = 144;
+    const QImage edge = painter.image(painter.sheetCount() - 1, dots)
+                            .copy(QRect(int(7.7 * dots), 0, int(0.2 * dots), int(11 * dots)));
+    return inkOf(edge, qRgb(0x9A, 0x9A, 0x9A), dots);
+}
+
 } // namespace
 
 /// Tables that run down several columns, and numbers of sheets.
@@ -46,20 +55,24 @@ class TestSheetTable final : public QObject
 private slots:
     void runsDownSeveralColumns_data()
     {
-        rows<int, int, int>({
-            {"one", 1, 60, 2},
-            {"two", 2, 60, 1},
-            {"two over two sheets", 2, 100, 2},
-            {"three", 3, 90, 1},
-            {"nonsense", -5, 60, 2},
-            {"more than fit", 1000, 60, 1},
+        rows<int, bool, int, int>({
+            {"one", 1, false, 60, 2},
+            {"two", 2, false, 60, 1},
+            {"two over two sheets", 2, false, 100, 2},
+            {"three", 3, false, 90, 1},
+            {"three that end even", 3, true, 90, 1},
+            {"three that end even over two sheets", 3, true, 130, 2},
+            {"nonsense", -5, true, 60, 2},
+            {"more than fit", 1000, false, 60, 1},
         });
     }
 
     void runsDownSeveralColumns()
     {
-        const auto [across, count, sheets] = row<int, int, int>();
-        const PagePainter painter(list(count, names(across)), {}, bodyFont());
+        const auto [across, endsEven, count, sheets] = row<int, bool, int, int>();
+        PageItem::Columns columns = names(across);
+        columns.endsEven = endsEven;
+        const PagePainter painter(list(count, columns), {}, bodyFont());
         QCOMPARE(painter.sheetCount(), sheets);
         static const QRegularExpression line(u"Row (\\d+)\\tWI"_s);
         int next = 0;
@@ -94,11 +107,19 @@ private slots:
         QCOMPARE(painter.sheetCount(), 1);
         // The first column reaches further down than the second: the closing lines stay clear of it.
         QVERIFY(painter.text(0).endsWith(u"Quillery\nPrinted on 11/21/2026"_s));
-        constexpr double dots = 144;
-        const QImage edge =
-            painter.image(0, dots).copy(QRect(int(7.7 * dots), 0, int(0.2 * dots), int(11 * dots)));
-        const QRectF rule = inkOf(edge, qRgb(0x9A, 0x9A, 0x9A), dots); // above the closing lines
+        const QRectF rule = closingRule(painter);
         QVERIFY(rule.top() > 9 && rule.bottom() < 10.2);
+    }
+
+    void endsEven()
+    {
+        const auto end = [](int count, const PageItem::Columns &columns) {
+            return closingRule(PagePainter(list(count, columns), {}, bodyFont())).top();
+        };
+        PageItem::Columns columns = names(3);
+        columns.endsEven = true;
+        QCOMPARE(end(22, columns), end(8, names(1)));
+        QVERIFY(end(130, columns) < end(20, names(1))); // what is left on the second sheet
     }
 
     void numbersSheetsAsAsked()
