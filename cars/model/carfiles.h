@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cars/model/carchange.h"
+#include "cars/model/carrecord.h"
+#include "cars/model/vehiclefiles.h"
+#include "cars/model/vehiclelist.h"
+#include "shell/core/message.h"
+
+#include <QDateTime>
+#include <QStringList>
+
+#include <optional>
+
+/// The household's cars: the list and four files for each, which always move together. Every action is on the
+/// disk as a whole or not at all, and can be taken back.
+class CarFiles
+{
+public:
+    /// A car as it was read.
+    struct Found {
+        CarRecord record;
+        std::array<VehicleFiles::State, carParts.size()> states{}; ///< in the order of `CarPart`
+
+        VehicleFiles::State state(CarPart part) const { return states[std::size_t(part)]; }
+        /// Whether the file of `part` is neither out of reach nor of another kind.
+        bool mayBeWritten(CarPart part) const;
+    };
+
+    /// How an action went that gives a car a slot.
+    struct [[nodiscard]] Placed {
+        Vehicle vehicle;  ///< without a slot where none could be found
+        CarChange change; ///< to take it back
+        bool isDone = false;
+    };
+
+    explicit CarFiles(const DataFolder &folder)
+        : m_folder(folder)
+    {}
+
+    const DataFolder &folder() const { return m_folder; }
+
+    /// The cars in the order of their slots.
+    QList<Vehicle> vehicles() const;
+    /// All cars, for what is said of them together.
+    QList<CarRecord> all() const;
+    Found read(int slot) const;
+
+    /// What distances are counted in, as the first car's file says; miles without one.
+    DistanceUnit unit() const;
+    /// The same from now on for every car, in one go. Nothing where the disk refuses.
+    [[nodiscard]] std::optional<CarChange> changeUnit(DistanceUnit unit);
+
+    /// Why no car of that name can be made or renamed to; nothing where it can.
+    static std::optional<Message> whyNotNamed(const QString &name);
+    /// Why a new car cannot be made of `record`: its name, make or model, or the reading is missing.
+    static std::optional<Message> whyNotCreated(const CarRecord &record);
+
+    /// Makes a car of `record` in the first free slot, with histories as they are in it; what the files of
+    /// the slot held is gone. The slot in `record` does not count.
+    Placed create(const CarRecord &record);
+    /// Gives a car another name. Nothing where the disk refuses.
+    [[nodiscard]] std::optional<CarChange> rename(int slot, const QString &name);
+
+    /// Writes the files in which `after` differs from `before`, all or none of them. Nothing, with a line in
+    /// the log, where the disk refuses or a file must not be written.
+    [[nodiscard]] std::optional<CarChange> save(const CarRecord &before, const CarRecord &after);
+
+    /// Empties the files of `slot` and frees it; the car goes into the trash. Nothing where the disk refuses.
+    [[nodiscard]] std::optional<CarChange> remove(int slot, const QDateTime &now);
+    /// The cars that were deleted in the 30 days before `now`, the newest first.
+    std::vector<Trash::Item> deletedCars(const QDateTime &now) const;
+    /// Brings a deleted car back, byte for byte: into its own slot where that is free, else into the first
+    /// that is.
+    Placed bringBack(const Trash::Item &item);
+
+    /// The files of all cars that are there.
+    static QStringList files(const DataFolder &folder);
+
+private:
+    const DataFolder &m_folder;
+};
