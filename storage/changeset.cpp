@@ -56,13 +56,15 @@ void ChangeSet::write(const RecordFile &file, int number, QByteArrayView value)
         m_isRefused = true;
         return;
     }
-    m_changes.push_back(
-        {QFileInfo(file.path()).fileName(), (qint64(number) - 1) * file.recordLength(), value.toByteArray()});
+    m_changes.push_back({QFileInfo(file.path()).fileName(),
+                         (qint64(number) - 1) * file.recordLength(),
+                         value.toByteArray(),
+                         {}});
 }
 
-void ChangeSet::replace(const QString &name, const QByteArray &content)
+void ChangeSet::replace(const QString &name, const QByteArray &content, const QByteArray &inBetween)
 {
-    m_changes.push_back({QFileInfo(m_folder.filePath(name)).fileName(), -1, content});
+    m_changes.push_back({QFileInfo(m_folder.filePath(name)).fileName(), -1, content, inBetween});
 }
 
 bool ChangeSet::commit()
@@ -84,9 +86,11 @@ bool ChangeSet::commit()
     Disk::flushNames(m_folder.path());
 
     std::vector<Former> formers;
-    if (!writePlaces(m_folder, m_changes, formers) || !takeNames(m_folder, m_changes)) {
-        // Where even the old bytes cannot be put back, the journal stays, to be finished later.
-        if (!hasTakenNames() && restore(formers) && removeJournal(m_folder))
+    const bool areWritten = writePlaces(m_folder, m_changes, formers);
+    if (!areWritten || !takeNames(m_folder, m_changes)) {
+        // Where the old bytes are gone or cannot be put back, the journal stays, to be finished later.
+        const bool areGone = hasTakenNames() || (areWritten && isInBetween());
+        if (!areGone && restore(formers) && removeJournal(m_folder))
             dropStaged();
         return false;
     }
@@ -200,8 +204,14 @@ bool ChangeSet::takeNames(const DataFolder &folder, const Changes &changes)
     return std::ranges::all_of(changes, [&folder](const Change &change) {
         const QString waiting = waitingPath(folder, change.name);
         // One that does not wait any more has its name already.
-        return !change.isWholeFile() || !QFile::exists(waiting) ||
-               Disk::renameOver(waiting, folder.filePath(change.name));
+        if (!change.isWholeFile() || !QFile::exists(waiting))
+            return true;
+        const QString path = folder.filePath(change.name);
+        // Its new content is complete on the disk: it does not matter whether this gets there.
+        if (!change.inBetween.isEmpty() && QFile::exists(path))
+            std::ignore = Disk::writeWhole(path, change.inBetween);
+        // Once more where another program had the file open for a moment: the other files may be new already.
+        return Disk::renameOver(waiting, path) || Disk::renameOver(waiting, path);
     });
 }
 
@@ -268,6 +278,11 @@ bool ChangeSet::hasTakenNames() const
     return std::ranges::any_of(m_changes, [this](const Change &change) {
         return change.isWholeFile() && !QFile::exists(waitingPath(m_folder, change.name));
     });
+}
+
+bool ChangeSet::isInBetween() const
+{
+    return std::ranges::any_of(m_changes, [](const Change &change) { return !change.inBetween.isEmpty(); });
 }
 
 void ChangeSet::dropStaged() const

@@ -30,8 +30,9 @@ public:
     /// Adds: `value` at the start of record `number` of `file`, a file of the folder, as `RecordFile::write`.
     void write(const RecordFile &file, int number, QByteArrayView value);
 
-    /// Adds: the file `name` of the folder, which then holds `content`.
-    void replace(const QString &name, const QByteArray &content);
+    /// Adds: the file `name` of the folder, which then holds `content`. One that is there already holds
+    /// `inBetween` until it does, unless that is empty: other programs see by it that a save is under way.
+    void replace(const QString &name, const QByteArray &content, const QByteArray &inBetween = {});
 
     /// Does what was added, in that order but for whole files, which come last. False, with a line in the
     /// log and everything as it was, when a step is refused; it can be called again then.
@@ -52,6 +53,7 @@ private:
         QString name;
         qint64 offset = 0;
         QByteArray bytes;
+        QByteArray inBetween; ///< not in the journal: from there on the file only takes its new content
 
         bool isWholeFile() const { return offset < 0; }
     };
@@ -77,6 +79,7 @@ private:
 
     bool stage() const;
     bool hasTakenNames() const;
+    bool isInBetween() const;
     void dropStaged() const;
 
     DataFolder m_folder;

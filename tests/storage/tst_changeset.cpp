@@ -78,6 +78,33 @@ private slots:
             [this] { return filesOf(m_test); });
     }
 
+    /// Several whole files, each with a state between old and new, are all old or all new.
+    void isOldOrNewAfterEveryFailureOfWholeFiles()
+    {
+        failAtEachStep(
+            m_test.folder(), [this] { init(); },
+            [this] {
+                ChangeSet set = change();
+                set.replace(whole, "new", "between");
+                set.replace(second, "also new", "between");
+                return set.commit();
+            },
+            [this] { return filesOf(m_test); });
+    }
+
+    void showsWhatStandsInBetween()
+    {
+        ChangeSet set(m_test.folder());
+        set.replace(whole, "new", "between");
+        {
+            const FailingDisk disk(DiskFailure::TheEnd, 6);
+            QVERIFY(!set.commit());
+        }
+        QCOMPARE(m_test.bytes(whole), "between");
+        QVERIFY(ChangeSet::recover(m_test.folder()));
+        QCOMPARE(m_test.bytes(whole), "new");
+    }
+
     void dropsWhatIsNoJournal_data()
     {
         rows<QByteArray>({{"empty", ""},
