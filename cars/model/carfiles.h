@@ -56,9 +56,9 @@ public:
     /// Why a new car cannot be made of `record`: its name, make or model, or the reading is missing.
     static std::optional<Message> whyNotCreated(const CarRecord &record);
 
-    /// Makes a car of `record` in the first free slot, with histories as they are in it; what the files of
-    /// the slot held is gone. The slot in `record` does not count.
-    Placed create(const CarRecord &record);
+    /// Makes a car of `record` in the first free slot, whatever slot it has, with the histories in it. What
+    /// the files of the free slot still held goes into the trash.
+    Placed create(const CarRecord &record, const QDateTime &now);
     /// Gives a car another name. Nothing where the disk refuses.
     [[nodiscard]] std::optional<CarChange> rename(int slot, const QString &name);
 
@@ -78,5 +78,12 @@ public:
     static QStringList files(const DataFolder &folder);
 
 private:
+    void replace(CarChange &change, CarPart part, int slot, const QByteArray &bytes) const;
+    /// The same in a slot that a car gets: a file that would be empty is not made.
+    void begin(CarChange &change, CarPart part, int slot, const QByteArray &bytes) const;
+    Trash::Item trashItem(const Vehicle &vehicle, const QDateTime &now) const;
+    [[nodiscard]] std::optional<CarChange> done(CarChange change);
+    Placed placed(const Vehicle &vehicle, CarChange change);
+
     const DataFolder &m_folder;
 };

@@ -8,6 +8,7 @@
 #include <QByteArray>
 
 #include <array>
+#include <optional>
 
 /// The four files of a car.
 enum class CarPart { Sheet, Maintenance, Repairs, Fuel };
@@ -43,6 +44,9 @@ public:
     {}
 
     static QString fileName(CarPart part, int slot);
+
+    /// What the file `name` holds, an emptied one where it is missing; nothing where it is out of reach.
+    static std::optional<QByteArray> bytes(const DataFolder &folder, const QString &name);
 
     Found<VehicleSheet> readSheet(int slot) const;
     /// Of `Maintenance` or `Repairs`.

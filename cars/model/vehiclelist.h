@@ -31,6 +31,9 @@ public:
     /// The first free slot, or the one past the last; 0 when the list is there and cannot be read.
     int freeSlot() const;
 
+    /// Whether the list would take a record of this name for a free one.
+    static bool isFreeName(QStringView name);
+
     /// The name in the bytes of a record; empty for a free one. The length in front is never trusted.
     static QString decode(QByteArrayView record);
     /// The bytes that a record begins with; an empty name frees it.
