@@ -7,7 +7,7 @@
 namespace CarMakes {
 
 /// The 43 makes in the order of the alphabet.
-const QStringList &makes();
+QStringList makes();
 
 /// The models of `make`, whatever its case, in order; none for a make that is not among them.
 QStringList models(const QString &make);

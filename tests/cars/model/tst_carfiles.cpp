@@ -230,7 +230,6 @@ private slots:
     {
         using Action = bool (*)(CarFiles &);
         rows<Action>({
-            {"a car made", [](CarFiles &cars) { return cars.create(newCar(), now).isDone; }},
             {"a car deleted", [](CarFiles &cars) { return cars.remove(1, now).has_value(); }},
             {"a car saved",
              [](CarFiles &cars) {
@@ -242,8 +241,6 @@ private slots:
                  after.fuel.removeLast();
                  return cars.save(before, after).has_value();
              }},
-            {"another unit",
-             [](CarFiles &cars) { return cars.changeUnit(DistanceUnit::Kilometers).has_value(); }},
         });
     }
 
