@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/model/carfiles.h"
 #include "cars/model/messages.h"
+#include "shell/core/reservednames.h"
 #include "tests/support/failingdisk.h"
 #include "tests/support/household.h"
 #include "tests/support/rows.h"
@@ -257,8 +258,13 @@ private slots:
             });
     }
 
+    /// No person's file may take them.
     void namesItsFiles()
     {
+        for (const QString &name : {u"ACar1"_s, u"gcar12.FIL "_s, u"CarMnt1.Fil"_s})
+            QVERIFY2(ReservedNames::isReserved(name), qPrintable(name));
+        for (const QString &name : {u"McArthur"_s, u"ACar"_s, u"Car1"_s, u"A"_s, QString()})
+            QVERIFY2(!ReservedNames::isReserved(name), qPrintable(name));
         const QStringList files = CarFiles::files(m_test.folder());
         QCOMPARE(files.size(), 17);
         QCOMPARE(files.mid(0, 6), (QStringList{u"CarMnt1.Fil"_s, u"ACar1.Fil"_s, u"MCar1.Fil"_s,
