@@ -14,8 +14,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Less and less of a birthday, the age in each of them: "Amy W. turns 69; 1 more" to "Amy 69".
-QStringList narrowTexts(const QString &name, const QString &fact, qsizetype others)
+/// Less and less of a note; of the last text, the `tail` is kept where even that has no room.
+struct Narrow {
+    QStringList texts;
+    qsizetype tail = 0;
+};
+
+/// Of a birthday, the age in each text: "Amy W. turns 69; 1 more" to "Amy 69".
+Narrow narrowBirthday(const QString &name, const QString &fact, qsizetype others)
 {
     const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
     const QString given = words.value(0);
@@ -23,16 +29,29 @@ QStringList narrowTexts(const QString &name, const QString &fact, qsizetype othe
     const QString age = QString(fact).replace(u" turns "_s, u" "_s);
     const QString more = others > 0 ? u"; %1 more"_s.arg(others) : QString();
     const QString plus = others > 0 ? u" +%1"_s.arg(others) : QString();
-    return {initials + fact + more, initials + age + more, given + age + more,
-            initials + age + plus,  given + age + plus,    given + age};
+    return {{initials + fact + more, initials + age + more, given + age + more, initials + age + plus,
+             given + age + plus, given + age},
+            age.size()};
 }
 
-/// The same of what is to be paid: its sign says already that it is.
-QStringList narrowDues(const QString &item, const QString &amount, qsizetype others)
+/// Of what is to be paid: its sign says already that it is.
+Narrow narrowDue(const QString &item, const QString &amount, qsizetype others)
 {
     const QString more = others > 0 ? u"; %1 more"_s.arg(others) : QString();
     const QString plus = others > 0 ? u" +%1"_s.arg(others) : QString();
-    return {item + amount + more, item + amount + plus, item + plus};
+    return {{item + amount + more, item + amount + plus, item + plus, item}};
+}
+
+/// The first of the texts that has room; else the last with its head cut.
+QString fitting(const Narrow &narrow, const QFontMetrics &metrics, int width)
+{
+    const auto fits = [&](const QString &text) { return metrics.horizontalAdvance(text) <= width; };
+    if (const auto found = std::ranges::find_if(narrow.texts, fits); found != narrow.texts.end())
+        return *found;
+    const QString head = narrow.texts.last().chopped(narrow.tail);
+    const QString tail = narrow.texts.last().last(narrow.tail);
+    return metrics.elidedText(head, Qt::ElideRight, std::max(0, width - metrics.horizontalAdvance(tail))) +
+           tail;
 }
 
 bool isOccasion(const HouseholdNote &note)
@@ -142,19 +161,10 @@ QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetric
     const int least = width * 2 / 5;
     const int room = width - metrics.horizontalAdvance(fact + more);
     const QString name = first.text.first(first.nameLength);
-    if (room < least && first.kind == NoteKind::Birthday && first.nameLength > 0) {
-        for (const QString &narrow : narrowTexts(name, fact, notes.size() - 1)) {
-            if (metrics.horizontalAdvance(narrow) <= width)
-                return narrow;
-        }
-    }
-    if (isToBePaid(first) && first.nameLength > 0) {
-        const QString amount = fact.section(u", "_s, 0, 0);
-        const QStringList narrow = narrowDues(name, amount, notes.size() - 1);
-        const auto fits = [&](const QString &text) { return metrics.horizontalAdvance(text) <= width; };
-        const auto found = std::ranges::find_if(narrow, fits);
-        return found == narrow.end() ? metrics.elidedText(narrow.last(), Qt::ElideMiddle, width) : *found;
-    }
+    if (room < least && first.kind == NoteKind::Birthday && first.nameLength > 0)
+        return fitting(narrowBirthday(name, fact, notes.size() - 1), metrics, width);
+    if (isToBePaid(first) && first.nameLength > 0)
+        return fitting(narrowDue(name, fact.section(u", "_s, 0, 0), notes.size() - 1), metrics, width);
     const QString shownName = metrics.elidedText(name, Qt::ElideRight, std::max(least, room));
     return metrics.elidedText(shownName + fact + more, Qt::ElideRight, width);
 }

@@ -103,7 +103,10 @@ private:
             isOutside && date.day() == 1 ? Dates::shortText(date, m_style) : QString::number(date.day());
         painter.setFont(isToday ? TypeScale::strong() : TypeScale::body());
         painter.setPen(isOutside ? theme.quiet : theme.text);
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, isToday ? number + u"  today"_s : number);
+        // The ring says it too, where the word has no room.
+        const QString words = isToday ? number + u"  today"_s : number;
+        const bool hasRoom = painter.fontMetrics().horizontalAdvance(words) <= place.width();
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, hasRoom ? words : number);
         if (isToday) {
             const int width = painter.fontMetrics().horizontalAdvance(number);
             painter.setRenderHint(QPainter::Antialiasing);

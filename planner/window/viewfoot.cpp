@@ -2,6 +2,7 @@
 #include "planner/window/viewfoot.h"
 
 #include "shell/controls/controls.h"
+#include "shell/look/theme.h"
 
 #include <QHBoxLayout>
 
@@ -14,8 +15,11 @@ ViewFoot::ViewFoot(const QString &name, const QString &hint, QWidget *parent)
     QPushButton *exit = makeButton(name + u"_exit"_s, u"E&xit"_s, this);
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
-    row->addWidget(makeQuietLabel(hint, this));
-    row->addStretch(1);
+    auto *words = new ElidedLabel(this);
+    words->setText(hint);
+    words->setFont(TypeScale::label());
+    words->setForegroundRole(ThemeRole::quiet);
+    row->addWidget(words, 1);
     row->addWidget(day);
     row->addWidget(exit);
     auto *layout = new QVBoxLayout(this);
