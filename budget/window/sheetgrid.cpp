@@ -3,7 +3,6 @@
 
 #include "budget/window/celldelegate.h"
 #include "budget/window/sheetheadings.h"
-#include "budget/window/sheetlook.h"
 #include "budget/window/sheetmodel.h"
 
 #include <QGuiApplication>
@@ -32,6 +31,8 @@ SheetGrid::SheetGrid(SheetModel &model, QWidget *parent)
     : QTableView(parent)
     , m_model(model)
     , m_delegate(new CellDelegate(this))
+    , m_headings(new SheetHeadings(Qt::Horizontal, this, SheetLook::amountInset))
+    , m_numbers(new SheetHeadings(Qt::Vertical, this))
     , m_needed(SheetColumns::needed(model))
 {
     setModel(&model);
@@ -44,17 +45,24 @@ SheetGrid::SheetGrid(SheetModel &model, QWidget *parent)
     setWordWrap(false);
     setCornerButtonEnabled(false);
     setFont(TypeScale::body());
-    setHorizontalHeader(new SheetHeadings(Qt::Horizontal, this, SheetLook::amountInset));
-    setVerticalHeader(new SheetHeadings(Qt::Vertical, this));
+    setHorizontalHeader(m_headings);
+    setVerticalHeader(m_numbers);
     connect(m_delegate, &CellDelegate::refused, this, &SheetGrid::said);
     connect(&model, &SheetModel::recomputed, this, &SheetGrid::measure);
     connect(&model, &SheetModel::layerChanged, this, &SheetGrid::measure);
 }
 
+void SheetGrid::setRows(SheetLook::Rows rows)
+{
+    m_headings->setRows(rows);
+    m_numbers->setRows(rows);
+    updateGeometries();
+}
+
 int SheetGrid::heightOfRows(int rows) const
 {
     const int frame = height() - contentsRect().height();
-    return horizontalHeader()->sizeHint().height() + rows * SheetLook::rowHeight() + frame;
+    return horizontalHeader()->sizeHint().height() + rows * m_numbers->defaultSectionSize() + frame;
 }
 
 void SheetGrid::measure()
@@ -194,7 +202,7 @@ QModelIndex SheetGrid::target(const QKeyEvent &key) const
     const QModelIndex from = currentIndex();
     const bool ctrl = key.modifiers().testFlag(Qt::ControlModifier);
     const bool shift = key.modifiers().testFlag(Qt::ShiftModifier);
-    const int page = std::max(1, viewport()->height() / SheetLook::rowHeight() - 1);
+    const int page = std::max(1, viewport()->height() / m_numbers->defaultSectionSize() - 1);
     const auto rowAt = [](int row) { return std::clamp(row, 0, int(BudgetSheet::rowCount) - 1); };
     switch (key.key()) {
     case Qt::Key_Left:

@@ -3,11 +3,13 @@
 
 #include "budget/model/sheetrange.h"
 #include "budget/window/sheetcolumns.h"
+#include "budget/window/sheetlook.h"
 
 #include <QElapsedTimer>
 #include <QTableView>
 
 class CellDelegate;
+class SheetHeadings;
 class SheetModel;
 
 /// The worksheet as a grid with the keys of a spreadsheet. Headings and items stay in sight: where twelve
@@ -36,6 +38,7 @@ public:
     /// Goes where `key` leads to; with Shift, the range grows. False for other keys.
     bool walk(const QKeyEvent &key);
 
+    void setRows(SheetLook::Rows rows);
     /// Room for so many whole rows below the headings.
     int heightOfRows(int rows) const;
 
@@ -78,6 +81,8 @@ private:
 
     const SheetModel &m_model;
     CellDelegate *m_delegate;
+    SheetHeadings *m_headings;
+    SheetHeadings *m_numbers; ///< of the rows
     SheetColumns::Widths m_needed;
     QPersistentModelIndex m_anchor; ///< where the range began
     bool m_isExtending = false;

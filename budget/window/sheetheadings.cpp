@@ -22,13 +22,21 @@ SheetHeadings::SheetHeadings(Qt::Orientation orientation, QWidget *parent, int a
     setHighlightSections(true);
     setSectionResizeMode(Fixed);
     setMinimumSectionSize(1);
-    if (orientation == Qt::Vertical)
-        setDefaultSectionSize(SheetLook::rowHeight());
+    setRows(m_rows);
+}
+
+void SheetHeadings::setRows(SheetLook::Rows rows)
+{
+    m_rows = rows;
+    if (orientation() == Qt::Vertical)
+        setDefaultSectionSize(SheetLook::rowHeight(rows));
 }
 
 QSize SheetHeadings::sizeHint() const
 {
     const QFontMetrics metrics(TypeScale::strong());
+    if (orientation() == Qt::Horizontal && m_rows == SheetLook::Rows::Dense)
+        return {0, SheetLook::rowHeight(m_rows) + 2};
     if (orientation() == Qt::Horizontal)
         return {0, std::max(leastHeadHeight, metrics.height() + 12)};
     return {std::max(leastNumberWidth, metrics.horizontalAdvance(u"50"_s) + 2 * SheetLook::inset), 0};

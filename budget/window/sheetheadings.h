@@ -13,6 +13,8 @@ public:
     /// `amountInset`: of the columns behind the first.
     SheetHeadings(Qt::Orientation orientation, QWidget *parent, int amountInset = SheetLook::inset);
 
+    void setRows(SheetLook::Rows rows);
+
     QSize sizeHint() const override;
 
 protected:
@@ -20,4 +22,5 @@ protected:
 
 private:
     int m_amountInset;
+    SheetLook::Rows m_rows = SheetLook::Rows::Roomy;
 };

@@ -8,12 +8,14 @@
 
 namespace {
 constexpr int leastRowHeight = 28;
+constexpr int leastDenseHeight = 22;
 constexpr QColor darkRed(0x80, 0, 0); ///< colour 4 of the sixteen-colour palette
 } // namespace
 
-int SheetLook::rowHeight()
+int SheetLook::rowHeight(Rows rows)
 {
-    return std::max(leastRowHeight, QFontMetrics(QApplication::font()).height() + 8);
+    const int line = QFontMetrics(QApplication::font()).height();
+    return rows == Rows::Roomy ? std::max(leastRowHeight, line + 8) : std::max(leastDenseHeight, line + 4);
 }
 
 QFont SheetLook::fitting(QFont font, const QString &number, int room)

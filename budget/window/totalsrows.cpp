@@ -4,7 +4,6 @@
 #include "budget/model/amount.h"
 #include "budget/model/lines.h"
 #include "budget/window/sheetgrid.h"
-#include "budget/window/sheetlook.h"
 #include "budget/window/sheetmodel.h"
 #include "shell/controls/controls.h"
 
@@ -80,7 +79,14 @@ TotalsRows::TotalsRows(const SheetModel &model, const SheetGrid &grid, QWidget *
 
 QSize TotalsRows::sizeHint() const
 {
-    return {0, 3 * SheetLook::rowHeight() + 2 * frame};
+    return {0, 3 * SheetLook::rowHeight(m_rows) + 2 * frame};
+}
+
+void TotalsRows::setRows(SheetLook::Rows rows)
+{
+    m_rows = rows;
+    updateGeometry();
+    place();
 }
 
 /// In the layer of what was spent, that takes the place of the planned expenses.
@@ -117,7 +123,7 @@ void TotalsRows::showBalance(std::size_t month, const QString &text)
 /// The figures stand under their columns; those of months that are not in view are hidden.
 void TotalsRows::place()
 {
-    const int height = SheetLook::rowHeight();
+    const int height = SheetLook::rowHeight(m_rows);
     const int begin = m_grid.viewport()->mapTo(&m_grid, QPoint()).x();
     for (int row = 0; row < 3; ++row)
         m_heads[std::size_t(row)]->setGeometry(begin + SheetLook::inset, frame + row * height,
@@ -155,7 +161,7 @@ void TotalsRows::paintEvent(QPaintEvent *)
     }
     painter.setPen(theme.line);
     for (int row = 1; row < 3; ++row) {
-        const int y = frame + row * SheetLook::rowHeight();
+        const int y = frame + row * SheetLook::rowHeight(m_rows);
         painter.drawLine(0, y, width(), y);
     }
     for (const QLabel *label : m_expenses) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "budget/window/sheetlook.h"
+
 #include <QLabel>
 
 #include <array>
@@ -30,6 +32,8 @@ class TotalsRows final : public QWidget
 public:
     TotalsRows(const SheetModel &model, const SheetGrid &grid, QWidget *parent = nullptr);
 
+    void setRows(SheetLook::Rows rows);
+
     QSize sizeHint() const override;
 
 signals:
@@ -49,6 +53,7 @@ private:
 
     const SheetModel &m_model;
     const SheetGrid &m_grid;
+    SheetLook::Rows m_rows = SheetLook::Rows::Roomy;
     std::array<QLabel *, 3> m_heads;
     std::array<QLabel *, monthCount> m_expenses;
     std::array<FigureLabel *, monthCount> m_incomes;

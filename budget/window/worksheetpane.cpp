@@ -3,7 +3,6 @@
 
 #include "budget/model/budgetsheet.h"
 #include "budget/window/sheetgrid.h"
-#include "budget/window/sheetlook.h"
 #include "budget/window/totalsrows.h"
 #include "shell/controls/controls.h"
 
@@ -16,8 +15,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int gap = 8;
+constexpr int barGap = 4;
 constexpr int fewestRows = 4;
+constexpr int fewestDenseRows = 6;
 constexpr int leastWidth = 480;
 constexpr int monthCount = int(BudgetSheet::monthCount);
 
@@ -37,9 +37,28 @@ WorksheetPane::WorksheetPane(SheetModel &model, QWidget *parent)
     setFocusProxy(m_grid);
 }
 
+void WorksheetPane::setRows(SheetLook::Rows rows)
+{
+    m_rows = rows;
+    m_grid->setRows(rows);
+    m_totals->setRows(rows);
+    updateGeometry();
+    arrange();
+}
+
+int WorksheetPane::gap() const
+{
+    return m_rows == SheetLook::Rows::Roomy ? 8 : 4;
+}
+
+int WorksheetPane::barHeight() const
+{
+    return m_bar->isHidden() ? 0 : m_bar->sizeHint().height() + barGap;
+}
+
 int WorksheetPane::heightFor(int rows) const
 {
-    return m_grid->heightOfRows(rows) + gap + m_totals->sizeHint().height();
+    return m_grid->heightOfRows(rows) + gap() + m_totals->sizeHint().height() + barHeight();
 }
 
 QSize WorksheetPane::sizeHint() const
@@ -49,7 +68,7 @@ QSize WorksheetPane::sizeHint() const
 
 QSize WorksheetPane::minimumSizeHint() const
 {
-    return {leastWidth, heightFor(fewestRows)};
+    return {leastWidth, heightFor(m_rows == SheetLook::Rows::Roomy ? fewestRows : fewestDenseRows)};
 }
 
 void WorksheetPane::resizeEvent(QResizeEvent *event)
@@ -61,13 +80,12 @@ void WorksheetPane::resizeEvent(QResizeEvent *event)
 /// Whole rows, the totals right below them.
 void WorksheetPane::arrange()
 {
-    const int bar = m_bar->isHidden() ? 0 : m_bar->sizeHint().height() + gap / 2;
-    const int room = height() - heightFor(0) - bar;
-    const int rows = std::clamp(room / SheetLook::rowHeight(), 1, int(BudgetSheet::rowCount));
+    const int room = height() - heightFor(0);
+    const int rows = std::clamp(room / SheetLook::rowHeight(m_rows), 1, int(BudgetSheet::rowCount));
     m_grid->setGeometry(0, 0, width(), m_grid->heightOfRows(rows));
-    const int top = m_grid->height() + gap;
+    const int top = m_grid->height() + gap();
     m_totals->setGeometry(0, top, width(), m_totals->sizeHint().height());
-    m_bar->setGeometry(0, top + m_totals->height() + gap / 2, width(), m_bar->sizeHint().height());
+    m_bar->setGeometry(0, top + m_totals->height() + barGap, width(), m_bar->sizeHint().height());
 }
 
 void WorksheetPane::fitBar()
@@ -79,6 +97,7 @@ void WorksheetPane::fitBar()
     m_bar->setValue(m_grid->firstMonth());
     if (const bool isNeeded = inView < monthCount; isNeeded == m_bar->isHidden()) {
         m_bar->setVisible(isNeeded);
+        updateGeometry();
         arrange();
     }
 }

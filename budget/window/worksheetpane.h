@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "budget/window/sheetlook.h"
+
 #include <QWidget>
 
 class QScrollBar;
@@ -19,6 +21,8 @@ public:
     SheetGrid &grid() const { return *m_grid; }
     TotalsRows &totals() const { return *m_totals; }
 
+    void setRows(SheetLook::Rows rows);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -29,8 +33,11 @@ private:
     void arrange();
     void fitBar();
     int heightFor(int rows) const;
+    int gap() const;
+    int barHeight() const; ///< with the gap before it; 0 while all months are in view
 
     SheetGrid *m_grid;
     TotalsRows *m_totals;
     QScrollBar *m_bar;
+    SheetLook::Rows m_rows = SheetLook::Rows::Roomy;
 };

@@ -11,6 +11,7 @@
 #include "budget/window/worksheetpane.h"
 #include "budget/window/yearbox.h"
 #include "shell/controls/buttonrow.h"
+#include "shell/controls/lowwindow.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/framelines.h"
 #include "shell/program/program.h"
@@ -29,16 +30,17 @@ WorksheetView::WorksheetView(const Program &program, Desk desk, QWidget *parent)
     , m_years(new YearBox(this))
     , m_pane(new WorksheetPane(m_desk.model, this))
     , m_foot(new ButtonRow(this))
+    , m_layout(new QVBoxLayout(this))
+    , m_low(new LowWindow(this))
 {
     setObjectName("sheetView"_L1);
     m_title->addAtRight(m_years);
-    auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(20, 14, 20, 14);
-    rows->setSpacing(12);
-    rows->addWidget(m_title);
-    rows->addWidget(m_pane, 1);
-    rows->addWidget(m_foot);
+    m_layout->addWidget(m_title);
+    m_layout->addWidget(m_pane, 1);
+    m_layout->addWidget(m_foot);
+    fit(m_low->isLow());
     setFocusProxy(m_pane);
+    connect(m_low, &LowWindow::changed, this, &WorksheetView::fit);
     connect(m_years, &YearBox::done, m_pane, qOverload<>(&QWidget::setFocus));
     connect(&m_desk.model, &SheetModel::recomputed, this, &WorksheetView::refresh);
     connect(&m_desk.model, &SheetModel::layerChanged, this, &WorksheetView::refresh);
@@ -62,6 +64,15 @@ void WorksheetView::setSwitch(QWidget *layers)
 {
     m_title->addAtRight(layers);
     m_title->addAtRight(m_years);
+}
+
+/// In a low window the rows have what room there is.
+void WorksheetView::fit(bool isLow)
+{
+    const int edge = isLow ? 6 : 14;
+    m_layout->setContentsMargins(20, edge, 20, edge);
+    m_layout->setSpacing(isLow ? 6 : 12);
+    m_pane->setRows(isLow ? SheetLook::Rows::Dense : SheetLook::Rows::Roomy);
 }
 
 void WorksheetView::refresh()

@@ -4,7 +4,9 @@
 #include <QWidget>
 
 class BudgetYear;
+class QVBoxLayout;
 class ButtonRow;
+class LowWindow;
 class SheetGrid;
 class SheetModel;
 class SpentYear;
@@ -37,6 +39,7 @@ public:
     void setSwitch(QWidget *layers);
 
 private:
+    void fit(bool isLow);
     void refresh();
     QString title() const;
     QString words() const;
@@ -51,4 +54,6 @@ private:
     YearBox *m_years;
     WorksheetPane *m_pane;
     ButtonRow *m_foot;
+    QVBoxLayout *m_layout;
+    LowWindow *m_low;
 };
