@@ -46,6 +46,7 @@ QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled {
     background: @locked; border: 1px solid @line; padding: 5px 8px; }
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { background: transparent; border: 0; padding: 0; min-height: 0; }
 QAbstractItemView QLineEdit { border-radius: 0; padding: 0 6px; min-height: 0; }
+QAbstractItemView QLineEdit:focus { padding: 0 4px; }
 QListView, QTreeView, QTableView, QTextBrowser {
     background: @field; alternate-background-color: @alternate; border: 1px solid @line; border-radius: 8px;
     padding: 3px; selection-background-color: @accent; selection-color: @onAccent; outline: 0;
