@@ -323,6 +323,19 @@ private slots:
         QCOMPARE(grid()->viewport()->height() % grid()->rowHeight(0), 0);
     }
 
+    void showsSixRowsInALowWindow()
+    {
+        m_window->resize(944, 500); // a screen of 1920 x 1080 at 200 %
+        QCoreApplication::processEvents();
+        QCOMPARE(grid()->viewport()->height() % grid()->rowHeight(0), 0);
+        QVERIFY(grid()->viewport()->height() / grid()->rowHeight(0) >= 6);
+        const auto *exit = find<QPushButton>("Command3");
+        QCOMPARE(exit->visibleRegion().boundingRect().size(), exit->size());
+        m_window->resize(944, 700);
+        QCoreApplication::processEvents();
+        QVERIFY(grid()->rowHeight(0) >= 28);
+    }
+
 private:
     /// Amounts of 5.00 in rows 0 to 4, January to May, but for (1,4).
     void fillBlock()
