@@ -46,6 +46,12 @@ QString TotalsLines::percentageOf(BudgetBasis basis)
     return basis == BudgetBasis::Income ? u"Percentage of Total Income"_s : u"Percentage of Total Expenses"_s;
 }
 
+QString TotalsLines::switchBasis(BudgetBasis basis)
+{
+    return basis == BudgetBasis::Income ? u"Click to divide by Total Expenses"_s
+                                        : u"Click to divide by Total Income"_s;
+}
+
 QString TotalsLines::chartTitle(ShownYear shown)
 {
     return (shown.isSpent() ? u"Where the money went in %1"_s : u"Where the money goes in %1"_s)

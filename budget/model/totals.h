@@ -34,6 +34,8 @@ QStringList columns();
 QString dollars(double amount);
 /// What the chart's shares are of.
 QString percentageOf(BudgetBasis basis);
+/// What the button with the basis does.
+QString switchBasis(BudgetBasis basis);
 /// The question that the chart answers.
 QString chartTitle(ShownYear shown);
 /// The bar for `count` items that have none of their own.

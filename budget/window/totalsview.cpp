@@ -8,12 +8,17 @@
 #include "budget/window/totalstable.h"
 #include "shell/charts/barchartview.h"
 #include "shell/controls/buttonrow.h"
+#include "shell/look/theme.h"
 
 #include <QVBoxLayout>
 
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int iconSide = 20;
+} // namespace
 
 TotalsView::TotalsView(QWidget *parent)
     : TaskPanel(u"totalsPanel"_s, {}, parent)
@@ -28,7 +33,8 @@ TotalsView::TotalsView(QWidget *parent)
     rows->addWidget(m_pane, 1);
     setWork(work);
     m_switch = addButton(u"Command12"_s, {}, ButtonKind::Plain, Side::Left);
-    m_switch->setToolTip(u"Click to divide by the other total"_s);
+    m_switch->setIcon(Icons::tinted("repeat"_L1, Theme::of(this).scheme, Theme::of(this).accent));
+    m_switch->setIconSize(QSize(iconSide, iconSide));
     connect(m_switch, &QPushButton::clicked, this, &TotalsView::switchBasis);
     connect(addButton(u"totalsPrint"_s, u"&Print Totals"_s), &QPushButton::clicked, this,
             &TotalsView::printWanted);
@@ -55,6 +61,8 @@ void TotalsView::refresh()
     const BudgetTotals totals = BudgetTotals::of(m_sheet, m_basis);
     setTitle(TotalsLines::heading(m_shown));
     m_switch->setText(BudgetPages::basisCaption(m_basis));
+    m_switch->setToolTip(TotalsLines::switchBasis(m_basis));
+    setWords(TotalsLines::switchBasis(m_basis));
     m_sums->showSums(totals, m_shown.layer);
     m_pane->table().setRows(totals.rows);
     m_pane->chart().setChart(TotalsChart::of(m_shown, m_sheet, m_basis));
