@@ -79,7 +79,7 @@ private:
         const qint64 amount = isDone ? planned : planned - std::max(qint64(0), spent);
         notes.append({shown,
                       due.item + u": "_s + centsText(amount) + words,
-                      u"Home Budget"_s,
+                      u"Personal Budget"_s,
                       isDone      ? NoteKind::Done
                       : isOverdue ? NoteKind::Overdue
                                   : NoteKind::Due,

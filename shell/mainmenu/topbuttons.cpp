@@ -31,7 +31,7 @@ constexpr std::array<TopButton, count> buttons{{
     {"Menus", "Menu planner", "page", OtherEdition{}},
     {"Coupons", "Coupons", "label", OtherEdition{}},
     {"Gifts", "Gift list", "page", OtherEdition{}},
-    {"Budget", "Home budget", "budget", SameAsEntry{"mMB"}, Function::Budget},
+    {"Budget", "Personal budget", "budget", SameAsEntry{"mMB"}, Function::Budget},
     {"Car Log", "Automobile tracker", "car-log", SameAsEntry{"mIMain"}, Function::CarLog},
     {"Loans", "Loans", "worksheet", OtherEdition{4}},
     {"Bills", "Bills to pay", "worksheet", OtherEdition{5}},

@@ -19,7 +19,7 @@ constexpr std::array faces{
                  Area::None},
     FunctionFace{Function::Journal, "journal", "journal", "Daily Journal", "A page for every day",
                  Area::Journal},
-    FunctionFace{Function::Budget, "budget", "budget", "Home Budget", "What comes in and goes out",
+    FunctionFace{Function::Budget, "budget", "budget", "Personal Budget", "What comes in and goes out",
                  Area::Budget},
     FunctionFace{Function::CarLog, "carLog", "car-log", "Car Log", "Care, repairs and fuel", Area::CarLog},
     FunctionFace{Function::WeightTracker, "weightTracker", "weight", "Weight Tracker", "Weigh-ins and goals",
