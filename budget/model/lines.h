@@ -145,12 +145,15 @@ inline QString cellsCopied(int cells)
     return cells == 1 ? u"1 cell copied"_s : u"%1 cells copied"_s.arg(cells);
 }
 
-/// `leftOut`: cells that lay beyond the sheet; `foreign`: characters that the files cannot hold.
-inline QString pasted(int cells, int leftOut = 0, const QString &foreign = {})
+/// `leftOut`: cells that lay beyond the sheet; `foreign`: characters that the files cannot hold; `partly`:
+/// cells of which only the number at the start was read.
+inline QString pasted(int cells, int leftOut = 0, const QString &foreign = {}, int partly = 0)
 {
     QString line = cells == 1 ? u"1 cell pasted"_s : u"%1 cells pasted"_s.arg(cells);
     if (leftOut > 0)
         line += u", %1 beyond the sheet left out"_s.arg(leftOut);
+    if (partly > 0)
+        line += u", %1 read only in part: decimals stand behind a point"_s.arg(partly);
     if (!foreign.isEmpty())
         line += u". The files cannot hold: "_s + foreign;
     return line;

@@ -47,12 +47,14 @@ inline QString spreadTitle()
     return u"Spread a Yearly Sum"_s;
 }
 
-/// `item`: empty for several of them.
-inline QString whichSum(const QString &item)
+/// `item`: of a single row, where it has one.
+inline QString whichSum(const QString &item, int rows, int months)
 {
-    return item.isEmpty()
-               ? u"Enter the sum that is to be spread evenly over the months."_s
-               : u"Enter the sum for "_s + item + u" that is to be spread evenly over the months."_s;
+    const QString of = rows > 1         ? u" for each of the %1 rows"_s.arg(rows)
+                       : item.isEmpty() ? QString()
+                                        : u" for "_s + item;
+    const QString over = months == 12 ? u"twelve months"_s : u"%1 chosen months"_s.arg(months);
+    return u"Enter the sum"_s + of + u" that is to be spread evenly over the "_s + over + u'.';
 }
 
 inline Message copyIncomeToTheRight()

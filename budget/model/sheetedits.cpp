@@ -42,9 +42,10 @@ void pasteAmount(QString &amount, const QString &text, SheetEdits::Pasted &into)
     }
     const BudgetEntry entry = BudgetEntry::ofCell(text);
     amount = entry.text;
-    if (!entry.notice)
-        return;
-    ++(entry.text.isEmpty() ? into.noNumbers : into.limited);
+    if (entry.notice)
+        ++(entry.text.isEmpty() ? into.noNumbers : into.limited);
+    else if (BudgetEntry::isPartlyRead(text))
+        ++into.partly;
 }
 
 /// The months of `range`; the whole year where it is no wider than one column.
@@ -154,6 +155,21 @@ bool SheetEdits::spread(BudgetSheet &sheet, const SheetRange &range, double amou
         }
     }
     return true;
+}
+
+int SheetEdits::monthsToSpread(const SheetRange &range)
+{
+    const auto [first, last] = monthsOf(range);
+    return last - first + 1;
+}
+
+double SheetEdits::sumToSpread(const BudgetSheet &sheet, const SheetRange &range)
+{
+    const auto [first, last] = monthsOf(range);
+    double sum = 0;
+    for (int column = first; column <= last; ++column)
+        sum += Amount::stored(cellText(sheet, range.top, column));
+    return sum;
 }
 
 bool SheetEdits::moveRows(BudgetSheet &sheet, const SheetRange &range, int by)

@@ -19,6 +19,7 @@ struct Pasted {
     int noNumbers = 0; ///< cells that are empty now
     int limited = 0;   ///< cells that hold the most a cell may
     int leftOut = 0;   ///< cells beyond the last row or month
+    int partly = 0;    ///< cells of which only the number at the start was read
     QString foreign;   ///< characters of items that the files cannot hold, each once
 
     /// All that must be said about it, in one box; nothing where all was taken.
@@ -41,6 +42,10 @@ void repeatToTheRight(BudgetSheet &sheet, const SheetRange &range, int step);
 /// column, in each of its rows; the cents that are left go to the first months. False, with nothing changed,
 /// where a month would get too much.
 bool spread(BudgetSheet &sheet, const SheetRange &range, double amount);
+
+/// How many months `spread` fills, and what stands in them in the first row of `range`.
+int monthsToSpread(const SheetRange &range);
+double sumToSpread(const BudgetSheet &sheet, const SheetRange &range);
 
 /// Moves the rows of `range` by one, up (-1) or down (1). False where there is no room.
 bool moveRows(BudgetSheet &sheet, const SheetRange &range, int by);

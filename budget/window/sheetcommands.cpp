@@ -222,7 +222,7 @@ void SheetCommands::paste()
     // Beforehand: what the sums have to say comes after it, and not over it.
     show(pasted.notice());
     finish(BudgetLines::pasted(pasted.cells), pasted.sheet, pasted.range,
-           BudgetLines::pasted(pasted.cells, pasted.leftOut, pasted.foreign));
+           BudgetLines::pasted(pasted.cells, pasted.leftOut, pasted.foreign, pasted.partly));
 }
 
 void SheetCommands::repeatAmount(const QString &title, int step)
@@ -241,23 +241,29 @@ void SheetCommands::repeatAmount(const QString &title, int step)
     });
 }
 
+/// What a single row has already is offered, to be evened out.
 void SheetCommands::spread()
 {
     const SheetRange range = m_desk.grid.range();
-    const QString item = inOneLine(m_desk.model.sheet().rows[std::size_t(range.top)].item);
-    const auto answer =
-        m_program.dialogs.input(m_window, BudgetMessages::spreadTitle(),
-                                BudgetMessages::whichSum(range.height() == 1 ? item : QString()), {});
+    BudgetSheet wanted = m_desk.model.sheet();
+    const bool isOneRow = range.height() == 1;
+    const QString item = isOneRow ? inOneLine(wanted.rows[std::size_t(range.top)].item) : QString();
+    const double there = isOneRow ? SheetEdits::sumToSpread(wanted, range) : 0;
+    const auto answer = m_program.dialogs.input(
+        m_window, BudgetMessages::spreadTitle(),
+        BudgetMessages::whichSum(item, range.height(), SheetEdits::monthsToSpread(range)),
+        there > 0 ? Amount::text(there) : QString());
     if (!answer || answer->trimmed().isEmpty())
         return;
     const double sum = BudgetEntry::amountOf(*answer);
-    BudgetSheet wanted = m_desk.model.sheet();
+    const bool isPartly = BudgetEntry::isPartlyRead(*answer);
     if (sum <= 0)
         show(BudgetMessages::onlyNumbers());
     else if (!SheetEdits::spread(wanted, range, sum))
         show(BudgetMessages::cellLimit());
     else
-        finish(BudgetLines::spread(item), wanted, range);
+        finish(BudgetLines::spread(item), wanted, range,
+               isPartly ? BudgetLines::partlyRead(*answer, Amount::text(sum)) : QString());
 }
 
 void SheetCommands::insertRow()

@@ -100,6 +100,8 @@ private slots:
                  "1 of 8 pasted cells held more than 9,999.99, which they hold now."_s);
         QCOMPARE(SheetEdits::pasted(sheet, {0, 1, 0, 1}, {{u"0"_s}}).notice(), BudgetMessages::onlyNumbers());
         QCOMPARE(SheetEdits::pasted(sheet, {0, 1, 0, 1}, {{u"1"_s}}).notice(), std::nullopt);
+        QCOMPARE(pasted.partly, 0);
+        QCOMPARE(SheetEdits::pasted(sheet, {0, 0, 0, 0}, {{u"1,2"_s, u"85,50"_s, u"1,250.5"_s}}).partly, 1);
     }
 
     void pastesWhatFits()

@@ -246,9 +246,25 @@ private slots:
         goTo(0, 1);
         press(Qt::Key_R, ctrl);
         QCOMPARE(cell(0, 12), u"5.00"_s);
+        enter(0, 0, u"Gas"_s);
+        goTo(0, 1);
         m_test->dialogs.willInput(u"=2*60"_s);
         trigger("mESpread");
+        QCOMPARE(m_test->dialogs.takePrompts().join(u'|'),
+                 u"Spread a Yearly Sum|Enter the sum for Gas that is to be spread evenly over the twelve "
+                 "months.|60.00"_s);
         QCOMPARE(cell(0, 1) + cell(0, 12), u"10.0010.00"_s);
+        grid()->choose({0, 1, 1, 2});
+        m_test->dialogs.willInput(u"9,50"_s);
+        trigger("mESpread");
+        QCOMPARE(
+            m_test->dialogs.takePrompts().join(u'|'),
+            u"Spread a Yearly Sum|Enter the sum for each of the 2 rows that is to be spread evenly over the "
+            "2 chosen months.|"_s);
+        QCOMPARE(cell(0, 1) + cell(1, 2) + cell(0, 3), u"4.504.5010.00"_s);
+        QVERIFY(said().startsWith(u"\"9,50\" was read as 9.00"_s));
+        trigger("mEUndo");
+        QCOMPARE(cell(0, 1) + cell(1, 2), u"10.00"_s);
         goTo(3, 1);
         trigger("mESecond");
         QCOMPARE(cell(3, 3), QString());
