@@ -21,11 +21,16 @@ TotalsSums::TotalsSums(QWidget *parent)
     , m_row(new QHBoxLayout(this))
 {
     setPalette(Theme::of(this).panelPalette()); // not the panel's ink: it has a ground of its own
-    m_row->setContentsMargins(16, 8, 16, 9);
+    setLow(false);
     m_row->setSpacing(24);
     m_income = add(u"Total Income"_s, u"Label13"_s, u"Label18"_s);
     m_expenses = add(u"Total Expenses"_s, u"Label14"_s, u"Label16"_s);
     m_balance = add(u"Balance"_s, u"Label15"_s, u"Label17"_s);
+}
+
+void TotalsSums::setLow(bool isLow)
+{
+    m_row->setContentsMargins(16, isLow ? 4 : 8, 16, isLow ? 5 : 9);
 }
 
 /// The caption, under it the amount, and behind that "Percent" and the share.
@@ -56,6 +61,7 @@ void TotalsSums::showSums(const BudgetTotals &totals, SheetLayer layer)
     show(m_income, totals.income);
     show(m_expenses, totals.expenses);
     show(m_balance, totals.balance);
+    fit();
 }
 
 void TotalsSums::show(const Labels &labels, const BudgetTotals::Sum &sum) const
@@ -69,6 +75,24 @@ void TotalsSums::show(const Labels &labels, const BudgetTotals::Sum &sum) const
     if (sum.isNegative)
         colors.setColor(QPalette::WindowText, SheetLook::red(Theme::of(this)));
     labels.amount->setPalette(colors);
+}
+
+/// Amounts are squeezed rather than cut.
+void TotalsSums::fit()
+{
+    for (const QFont &font : {TypeScale::windowTitle(), TypeScale::group(), TypeScale::strong()}) {
+        for (const Labels *labels : {&m_income, &m_expenses, &m_balance})
+            labels->amount->setFont(font);
+        m_row->activate(); // measures its parts anew
+        if (m_row->minimumSize().width() <= width())
+            return;
+    }
+}
+
+void TotalsSums::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fit();
 }
 
 void TotalsSums::paintEvent(QPaintEvent *)

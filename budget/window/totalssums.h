@@ -16,9 +16,12 @@ class TotalsSums final : public QWidget
 public:
     explicit TotalsSums(QWidget *parent = nullptr);
 
+    /// In a low window they take less.
+    void setLow(bool isLow);
     void showSums(const BudgetTotals &totals, SheetLayer layer);
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -30,6 +33,7 @@ private:
 
     Labels add(const QString &caption, const QString &amountName, const QString &shareName);
     void show(const Labels &labels, const BudgetTotals::Sum &sum) const;
+    void fit();
 
     QHBoxLayout *m_row;
     Labels m_income, m_expenses, m_balance;

@@ -17,7 +17,8 @@ namespace {
 constexpr int frame = 4; ///< rim and padding
 constexpr int fewestRows = 4;
 constexpr int scrollWidth = 14;
-constexpr int leastItemWidth = 170;
+constexpr int leastItemWidth = 100;
+constexpr int mostItemWidth = 170; ///< what is longer is cut where there is no room
 
 using Row = BudgetTotals::Row;
 
@@ -86,6 +87,7 @@ private:
 TotalsTable::TotalsTable(QWidget *parent)
     : QTableView(parent)
     , m_model(columns())
+    , m_itemWidth(leastItemWidth)
 {
     setModel(&m_model);
     setItemDelegate(new RowDelegate(this));
@@ -112,6 +114,9 @@ void TotalsTable::setRows(const QList<BudgetTotals::Row> &rows)
 {
     const int row = currentIndex().row();
     m_model.setRows({rows.begin(), rows.end()});
+    m_itemWidth = leastItemWidth;
+    for (const BudgetTotals::Row &one : rows)
+        m_itemWidth = std::clamp(widthOf(one.item), m_itemWidth, mostItemWidth);
     if (row >= 0 && m_model.rowCount() > 0)
         setCurrentIndex(m_model.index(std::min(row, m_model.rowCount() - 1), 0));
     updateGeometry();
@@ -130,13 +135,13 @@ int TotalsTable::heightIn(int room) const
 
 QSize TotalsTable::sizeHint() const
 {
-    return {leastItemWidth + totalWidth() + shareWidth() + scrollWidth + 2 * frame,
+    return {m_itemWidth + totalWidth() + shareWidth() + scrollWidth + 2 * frame,
             heightOf(m_model.rowCount())};
 }
 
 QSize TotalsTable::minimumSizeHint() const
 {
-    return {leastItemWidth + totalWidth() + shareWidth() + scrollWidth + 2 * frame, heightOf(fewestRows)};
+    return {sizeHint().width(), heightOf(fewestRows)};
 }
 
 void TotalsTable::resizeEvent(QResizeEvent *event)

@@ -28,4 +28,5 @@ private:
     int heightOf(int rows) const;
 
     RowsModel<BudgetTotals::Row> m_model;
+    int m_itemWidth; ///< that the items need
 };

@@ -22,15 +22,16 @@ constexpr int iconSide = 20;
 
 TotalsView::TotalsView(QWidget *parent)
     : TaskPanel(u"totalsPanel"_s, {}, parent)
+    , m_work(new QVBoxLayout)
     , m_sums(new TotalsSums)
     , m_pane(new TotalsPane)
 {
     auto *work = new QWidget(this);
-    auto *rows = new QVBoxLayout(work);
-    rows->setContentsMargins({});
-    rows->setSpacing(12);
-    rows->addWidget(m_sums);
-    rows->addWidget(m_pane, 1);
+    work->setLayout(m_work);
+    m_work->setContentsMargins({});
+    m_work->addWidget(m_sums);
+    m_work->addWidget(m_pane, 1);
+    TotalsView::setLow(false);
     setWork(work);
     m_switch = addButton(u"Command12"_s, {}, ButtonKind::Plain, Side::Left);
     m_switch->setIcon(Icons::tinted("repeat"_L1, Theme::of(this).scheme, Theme::of(this).accent));
@@ -48,6 +49,13 @@ void TotalsView::showTotals(ShownYear shown, const BudgetSheet &sheet)
         return;
     m_sheet = sheet;
     refresh();
+}
+
+void TotalsView::setLow(bool isLow)
+{
+    TaskPanel::setLow(isLow);
+    m_work->setSpacing(isLow ? 8 : 12);
+    m_sums->setLow(isLow);
 }
 
 void TotalsView::switchBasis()

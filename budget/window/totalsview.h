@@ -5,6 +5,7 @@
 #include "shell/controls/taskpanel.h"
 
 class TotalsPane;
+class QVBoxLayout;
 class TotalsSums;
 
 /// The totals of a year over its sheet: what it comes to, item by item as a table and as a chart, with
@@ -22,6 +23,9 @@ public:
 signals:
     void printWanted();
 
+protected:
+    void setLow(bool isLow) override;
+
 private:
     void switchBasis();
     void refresh();
@@ -29,6 +33,7 @@ private:
     ShownYear m_shown{0};
     BudgetSheet m_sheet;
     BudgetBasis m_basis = BudgetBasis::Income;
+    QVBoxLayout *m_work;
     TotalsSums *m_sums;
     TotalsPane *m_pane;
     QPushButton *m_switch;

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int frame = 8; ///< around all of it, with the rim of the focus
 constexpr int headGap = 10;
-constexpr int fewestRows = 4;
+constexpr int fewestRows = 3;
 constexpr int leastWidth = 320;
 constexpr int mostRowHeight = 40;
 constexpr int barWidth = 14;

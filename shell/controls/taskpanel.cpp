@@ -2,6 +2,7 @@
 #include "shell/controls/taskpanel.h"
 
 #include "shell/controls/buttonrow.h"
+#include "shell/controls/lowwindow.h"
 #include "shell/controls/titleline.h"
 
 #include <QKeyEvent>
@@ -28,11 +29,18 @@ TaskPanel::TaskPanel(const QString &name, const QString &title, QWidget *parent)
     , m_foot(named(new ButtonRow(this), stem(name) + u"Buttons"_s))
 {
     setObjectName(name);
-    m_rows->setContentsMargins(24, 16, 24, 18);
-    m_rows->setSpacing(12);
+    auto *low = new LowWindow(this);
+    connect(low, &LowWindow::changed, this, &TaskPanel::setLow);
+    TaskPanel::setLow(low->isLow());
     m_rows->addWidget(m_title);
     m_rows->addWidget(makeLine(this));
     m_rows->addWidget(m_foot);
+}
+
+void TaskPanel::setLow(bool isLow)
+{
+    m_rows->setContentsMargins(24, isLow ? 8 : 16, 24, isLow ? 10 : 18);
+    m_rows->setSpacing(isLow ? 8 : 12);
 }
 
 void TaskPanel::setTitle(const QString &title)

@@ -49,6 +49,8 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    /// The window has become low, or is no longer: the work has what is spared around it.
+    virtual void setLow(bool isLow);
 
 private:
     TitleLine *m_title;
