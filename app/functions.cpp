@@ -10,6 +10,7 @@
 #include "budget/model/budgetnews.h"
 #include "budget/model/budgetsource.h"
 #include "budget/window/budgetwindow.h"
+#include "cars/window/automaint.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
 #include "planner/model/plannersource.h"
@@ -118,6 +119,12 @@ void showInBudget(QWidget &window, const Place &place)
         budget->showPlace(place);
 }
 
+void showCar(QWidget &window, const Place &place)
+{
+    if (auto *cars = qobject_cast<AutoMaint *>(&window))
+        cars->showPlace(place);
+}
+
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
 {
     switch (PasswordCheck(program.folder, PasswordCost::interactive(), &program.gate.memory()).state()) {
@@ -169,6 +176,7 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                      .search = budgetSearch,
                                      .show = showInBudget,
                                      .files = budgetFiles});
+    functions.add(Function::CarLog, {.open = makeWindow<AutoMaint>, .show = showCar});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

@@ -177,8 +177,10 @@ void WholeRows::place()
 
 int WholeRows::rowHeight() const
 {
-    const auto *table = qobject_cast<const QTableView *>(m_view);
-    return table ? table->verticalHeader()->defaultSectionSize() : ListRowDelegate::rowHeight();
+    if (const auto *table = qobject_cast<const QTableView *>(m_view))
+        return table->verticalHeader()->defaultSectionSize();
+    const int row = m_view->sizeHintForRow(0); // rows of two lines are higher
+    return row > 0 ? row : ListRowDelegate::rowHeight();
 }
 
 /// Rim and padding of the view, and the head of a table.

@@ -13,8 +13,9 @@ inline constexpr int AddressViewer = 1006;
 inline constexpr int Keys = 1007;
 inline constexpr int Budget = 1008;
 inline constexpr int BackupAndRestore = 1009;
+inline constexpr int CarLog = 1010;
 
-inline constexpr int all[] = {ProgramOverview, AddressBook,     PasswordControl, Appearance,
-                              PagePreview,     Planner,         AddressViewer,   Keys,
-                              Budget,          BackupAndRestore};
+inline constexpr int all[] = {ProgramOverview, AddressBook,      PasswordControl, Appearance,
+                              PagePreview,     Planner,          AddressViewer,   Keys,
+                              Budget,          BackupAndRestore, CarLog};
 } // namespace HelpContext

@@ -22,7 +22,8 @@ inline constexpr QKeyCombination change = Qt::Key_F2;
 inline constexpr QKeyCombination remove = Qt::Key_Delete;
 inline constexpr QKeyCombination help = Qt::Key_F1;
 /// The views of a window in the order of its View menu.
-inline constexpr std::array<QKeyCombination, 4> views{Qt::CTRL | Qt::Key_1, Qt::CTRL | Qt::Key_2,
-                                                      Qt::CTRL | Qt::Key_3, Qt::CTRL | Qt::Key_4};
+inline constexpr std::array<QKeyCombination, 5> views{Qt::CTRL | Qt::Key_1, Qt::CTRL | Qt::Key_2,
+                                                      Qt::CTRL | Qt::Key_3, Qt::CTRL | Qt::Key_4,
+                                                      Qt::CTRL | Qt::Key_5};
 
 } // namespace CommonKeys

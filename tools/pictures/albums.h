@@ -15,5 +15,6 @@ void viewer(const Camera &camera);
 void viewerPanels(const Camera &camera);
 void planner(const Camera &camera);
 void budget(const Camera &camera);
+void cars(const Camera &camera);
 
 } // namespace Albums

@@ -33,7 +33,8 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"viewer", Albums::viewer},
                             Album{"viewer-panels", Albums::viewerPanels},
                             Album{"planner", Albums::planner},
-                            Album{"budget", Albums::budget}};
+                            Album{"budget", Albums::budget},
+                            Album{"cars", Albums::cars}};
 
 constexpr int longestMinutes = 10;
 

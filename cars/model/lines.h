@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cars/model/vehiclefiles.h"
+
+#include <QString>
+
+/// The quiet words of the automobile tracker's window: titles, lines of the status bar, reasons.
+namespace CarLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString countOfCars(qsizetype count)
+{
+    return count == 1 ? u"1 car"_s : QString::number(count) + u" cars"_s;
+}
+
+inline QString newCar()
+{
+    return u"New car"_s;
+}
+
+inline QString saved(const QString &name)
+{
+    return u"Saved: "_s + name;
+}
+
+inline QString notSaved()
+{
+    return u"The disk refused; nothing was saved, and what was typed is still here"_s;
+}
+
+inline QString changedElsewhere(const QString &name)
+{
+    return name + u" was changed elsewhere and is shown as it is now"_s;
+}
+
+inline QString changedElsewhereToo(const QString &name)
+{
+    return name + u" was changed elsewhere too; saving writes over that"_s;
+}
+
+/// What is wrong with a file of the open car; empty when nothing is.
+inline QString stateOf(const QString &fileName, VehicleFiles::State state)
+{
+    switch (state) {
+    case VehicleFiles::State::Cut:
+        return fileName + u" ends early; the rest of it is blank here"_s;
+    case VehicleFiles::State::Foreign:
+        return fileName + u" is no file of a car; it is left as it is"_s;
+    case VehicleFiles::State::OutOfReach:
+        return fileName + u" cannot be read; it is left as it is"_s;
+    default:
+        return {};
+    }
+}
+
+// Reasons
+
+inline QString noCarYet()
+{
+    return u"No car is in the list yet"_s;
+}
+
+inline QString inViewsOnly()
+{
+    return u"This can be used when the car is in front again"_s;
+}
+
+inline QString notWhileCreating()
+{
+    return u"First finish the new car, or leave it"_s;
+}
+
+inline QString alreadyShown()
+{
+    return u"This is shown already"_s;
+}
+
+} // namespace CarLines

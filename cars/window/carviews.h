@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cars/window/cardesk.h"
+
+#include <QObject>
+
+#include <array>
+
+class CarView;
+class QAction;
+class QMenu;
+
+/// The views of the open car in the order of the View menu: due, information, maintenance, repairs, fuel. The
+/// first one is where the others lead back to.
+class CarViews final : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr std::size_t count = 5;
+    enum Place : std::size_t { Due, Information, Maintenance, Repairs, Fuel };
+
+    CarViews(const CarDesk &desk, QObject *parent);
+
+    const std::array<CarView *, count> &all() const { return m_views; }
+    CarView *view(Place place) const { return m_views[place]; }
+    /// The one in front; null while something else is.
+    CarView *shown() const;
+    /// Brings a view to the front, with the focus in it.
+    void open(Place place);
+    /// Puts the commands that open them into `menu` and on the toolbar.
+    void addCommands(QMenu *menu);
+    /// What is still being typed in the view in front goes into the open car.
+    void finishEdit() const;
+
+signals:
+    void said(const QString &line);
+
+private:
+    CarDesk m_desk;
+    std::array<CarView *, count> m_views{};
+};

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/window/opencar.h"
+
+#include "cars/model/lines.h"
+#include "shell/core/framelines.h"
+#include "shell/program/program.h"
+
+OpenCar::OpenCar(const Program &program, QObject *parent)
+    : QObject(parent)
+    , m_program(program)
+    , m_files(program.folder)
+    , m_record(std::make_shared<CarRecord>())
+    , m_saved(m_record)
+{}
+
+bool OpenCar::isModified() const
+{
+    return *m_record != *m_saved;
+}
+
+QString OpenCar::whyLocked(CarPart part) const
+{
+    if (!isOpen())
+        return CarLines::noCarYet();
+    if (const QString reason = m_program.folder.whyReadOnly(); !reason.isEmpty())
+        return reason;
+    const VehicleFiles::State state = m_states[std::size_t(part)];
+    const bool isLocked = state == VehicleFiles::State::Foreign || state == VehicleFiles::State::OutOfReach;
+    return isLocked ? CarLines::stateOf(VehicleFiles::fileName(part, slot()), state) : QString();
+}
+
+void OpenCar::load(int slot)
+{
+    if (slot == 0) {
+        CarRecord none;
+        none.sheet.unit = m_files.unit();
+        open(none, {}, false);
+        return;
+    }
+    const CarFiles::Found found = m_files.read(slot);
+    open(found.record, found.states, false);
+    for (const CarPart part : carParts) {
+        const QString state = CarLines::stateOf(VehicleFiles::fileName(part, slot), found.state(part));
+        if (!state.isEmpty()) {
+            emit said(state);
+            break;
+        }
+    }
+}
+
+void OpenCar::startNew(const CarRecord &record)
+{
+    open(record, {}, true);
+}
+
+void OpenCar::open(const CarRecord &record, const States &states, bool isNew)
+{
+    m_saved = m_record = std::make_shared<CarRecord>(record);
+    m_states = states;
+    m_isNew = isNew;
+    emit fileTouched();
+    emit loaded();
+    emit changed();
+}
+
+void OpenCar::change(const QString &title, const CarRecord &wanted)
+{
+    if (wanted == *m_record)
+        return;
+    const Record before = m_record;
+    const Record after = std::make_shared<CarRecord>(wanted);
+    m_record = after;
+    emit edited({title, [=, this] { return exchange(after, before); },
+                 [=, this] { return exchange(before, after); }, UndoStep::Typed});
+    emit changed();
+}
+
+ChangeResult OpenCar::exchange(const Record &shown, const Record &wanted)
+{
+    if (*m_record != *shown)
+        return ChangeResult::Outdated;
+    m_record = wanted;
+    emit changed();
+    return ChangeResult::Done;
+}
+
+bool OpenCar::save()
+{
+    if (!m_files.save(*m_saved, *m_record)) {
+        emit said(FrameLines::refused(m_program.folder, CarLines::notSaved()));
+        return false;
+    }
+    m_saved = m_record;
+    emit fileTouched();
+    emit changed();
+    emit said(CarLines::saved(m_record->vehicle.name));
+    return true;
+}
+
+QStringList OpenCar::fileNames() const
+{
+    QStringList names{VehicleList::fileName()};
+    for (const CarPart part : carParts) {
+        if (slot() > 0)
+            names.append(VehicleFiles::fileName(part, slot()));
+    }
+    return names;
+}

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cars/model/carfiles.h"
+#include "shell/core/undostep.h"
+
+#include <QObject>
+
+#include <memory>
+
+struct Program;
+
+/// The car that is open: what its files have, and what it has become since by typing. Every edit is a step
+/// that can be taken back; nothing is written before `save`.
+class OpenCar final : public QObject
+{
+    Q_OBJECT
+public:
+    explicit OpenCar(const Program &program, QObject *parent = nullptr);
+
+    CarFiles &files() { return m_files; }
+    const CarFiles &files() const { return m_files; }
+
+    /// Of the list; 0 where no car is open, and for a new one.
+    int slot() const { return m_record->vehicle.slot; }
+    bool isOpen() const { return slot() > 0 || m_isNew; }
+    /// Whether it is being created, and has no slot yet.
+    bool isNew() const { return m_isNew; }
+    /// As it is now. A copy of it shares what is not changed.
+    const CarRecord &record() const { return *m_record; }
+    DistanceUnit unit() const { return m_record->sheet.unit; }
+    bool isModified() const;
+    /// Why nothing may be typed into what the file of `part` holds; empty where it may.
+    QString whyLocked(CarPart part) const;
+
+    /// Shows what the files of `slot` hold; what was typed is dropped. 0: no car.
+    void load(int slot);
+    void reload() { load(slot()); }
+    /// A car that no file has yet begins as `record`.
+    void startNew(const CarRecord &record);
+    /// Makes the car `wanted`, in one step that undo calls `title`; nothing happens where it is so already.
+    void change(const QString &title, const CarRecord &wanted);
+    /// Writes what was typed. False when the disk refuses.
+    [[nodiscard]] bool save();
+    /// The names of its files, and of the list.
+    QStringList fileNames() const;
+
+signals:
+    /// Another car is open, or this one was read anew: what was typed before is gone.
+    void loaded();
+    /// The car is another than before: loaded, edited, or an edit taken back.
+    void changed();
+    /// Something was edited, and may be taken back.
+    void edited(const UndoStep &step);
+    /// The files were read or written by this window.
+    void fileTouched();
+    /// A quiet line for the status bar.
+    void said(const QString &line);
+
+private:
+    using Record = std::shared_ptr<const CarRecord>;
+    using States = std::array<VehicleFiles::State, carParts.size()>;
+
+    void open(const CarRecord &record, const States &states, bool isNew);
+    ChangeResult exchange(const Record &shown, const Record &wanted);
+
+    const Program &m_program;
+    CarFiles m_files;
+    Record m_record;
+    Record m_saved;
+    States m_states{};
+    bool m_isNew = false;
+};
