@@ -137,10 +137,7 @@ CarFiles::Placed CarFiles::create(const CarRecord &record, const QDateTime &now)
     const Vehicle vehicle{slot, record.vehicle.name.trimmed()};
     if (slot == 0 || whyNotNamed(vehicle.name))
         return {};
-    CarChange change;
-    if (Trash::Item left = trashItem({slot, nameOf(VehicleFiles(m_folder).readSheet(slot).value)}, now);
-        left.pieces.size() > 1)
-        change.throwAway(std::move(left));
+    CarChange change = inFreeSlot(slot, now);
     VehicleSheet sheet = record.sheet;
     if (!vehicles().isEmpty())
         sheet.unit = unit();
@@ -164,6 +161,10 @@ std::optional<CarChange> CarFiles::rename(int slot, const QString &name)
 std::optional<CarChange> CarFiles::save(const CarRecord &before, const CarRecord &after)
 {
     const int slot = before.vehicle.slot;
+    if (VehicleList(m_folder).name(slot).isEmpty()) {
+        qCWarning(storageLog) << "Refused to save a car that is not in the list any more:" << slot;
+        return {};
+    }
     CarChange change;
     if (after.vehicle.name != before.vehicle.name) {
         if (whyNotNamed(after.vehicle.name))
@@ -217,12 +218,13 @@ CarFiles::Placed CarFiles::bringBack(const Trash::Item &item)
     const int slot = isFree ? listed.number : list.freeSlot();
     if (slot == 0)
         return {};
-    CarChange change;
+    CarChange change = inFreeSlot(slot, item.deleted);
     change.setRecord(m_folder, slot, listed.bytes);
     for (const CarPart part : carParts) {
         const QString name = VehicleFiles::fileName(part, listed.number);
         const auto piece = std::ranges::find(item.pieces, name, &Trash::Piece::file);
-        begin(change, part, slot, piece == item.pieces.end() ? VehicleFiles::emptied() : piece->bytes);
+        const QByteArray bytes = piece == item.pieces.end() ? VehicleFiles::emptied() : piece->bytes;
+        begin(change, part, slot, part == CarPart::Sheet ? inUnitOfAll(bytes) : bytes);
     }
     change.bringBack(item);
     return placed({slot, VehicleList::decode(listed.bytes)}, std::move(change));
@@ -258,6 +260,24 @@ void CarFiles::begin(CarChange &change, CarPart part, int slot, const QByteArray
         replace(change, part, slot, {}); // of the first slot the two histories are there from the start
     else if (!isEmptied(bytes) || m_folder.exists(VehicleFiles::fileName(part, slot)))
         replace(change, part, slot, bytes);
+}
+
+CarChange CarFiles::inFreeSlot(int slot, const QDateTime &deleted) const
+{
+    CarChange change;
+    const Vehicle left{slot, nameOf(VehicleFiles(m_folder).readSheet(slot).value)};
+    if (Trash::Item item = trashItem(left, deleted); item.pieces.size() > 1)
+        change.throwAway(std::move(item));
+    return change;
+}
+
+QByteArray CarFiles::inUnitOfAll(const QByteArray &bytes) const
+{
+    auto sheet = VehicleFiles::decodeSheet(bytes);
+    if (vehicles().isEmpty() || sheet.state != VehicleFiles::State::Whole || sheet.value.unit == unit())
+        return bytes;
+    sheet.value.unit = unit();
+    return VehicleFiles::encode(sheet.value);
 }
 
 Trash::Item CarFiles::trashItem(const Vehicle &vehicle, const QDateTime &now) const

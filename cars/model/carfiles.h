@@ -63,15 +63,15 @@ public:
     [[nodiscard]] std::optional<CarChange> rename(int slot, const QString &name);
 
     /// Writes the files in which `after` differs from `before`, all or none of them. Nothing, with a line in
-    /// the log, where the disk refuses or a file must not be written.
+    /// the log, where the disk refuses, a file must not be written or the car was deleted elsewhere.
     [[nodiscard]] std::optional<CarChange> save(const CarRecord &before, const CarRecord &after);
 
     /// Empties the files of `slot` and frees it; the car goes into the trash. Nothing where the disk refuses.
     [[nodiscard]] std::optional<CarChange> remove(int slot, const QDateTime &now);
     /// The cars that were deleted in the 30 days before `now`, the newest first.
     std::vector<Trash::Item> deletedCars(const QDateTime &now) const;
-    /// Brings a deleted car back, byte for byte: into its own slot where that is free, else into the first
-    /// that is.
+    /// Brings a deleted car back, byte for byte but for the unit: into its own slot where that is free, else
+    /// into the first that is.
     Placed bringBack(const Trash::Item &item);
 
     /// The files of all cars that are there.
@@ -81,6 +81,10 @@ private:
     void replace(CarChange &change, CarPart part, int slot, const QByteArray &bytes) const;
     /// The same in a slot that a car gets: a file that would be empty is not made.
     void begin(CarChange &change, CarPart part, int slot, const QByteArray &bytes) const;
+    /// A change that begins with what the files of a free slot still hold: it goes into the trash.
+    CarChange inFreeSlot(int slot, const QDateTime &deleted) const;
+    /// The bytes of an information file, with distances counted as in those of the other cars.
+    QByteArray inUnitOfAll(const QByteArray &bytes) const;
     Trash::Item trashItem(const Vehicle &vehicle, const QDateTime &now) const;
     [[nodiscard]] std::optional<CarChange> done(CarChange change);
     Placed placed(const Vehicle &vehicle, CarChange change);

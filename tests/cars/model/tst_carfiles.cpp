@@ -95,8 +95,12 @@ private slots:
         expected[u"ACar2.Fil"_s] = newSheet('1');
         expected[u"MCar2.Fil"_s] = emptied;
         Files found = filesOf(m_test);
-        QVERIFY(found.remove(Trash::fileName) == 1); // what the history held
+        QVERIFY(found.remove(Trash::fileName) == 1);
         QCOMPARE(found, expected);
+        // What the history held is not lost.
+        const CarFiles::Placed back = m_cars.bringBack(m_cars.deletedCars(now).front());
+        QCOMPARE(m_cars.read(back.vehicle.slot).record.maintenance,
+                 History({{u"1"_s, u"2"_s, u"a"_s, u"3"_s}}));
     }
 
     void refusesACarWithoutWhatItNeeds_data()
@@ -149,6 +153,9 @@ private slots:
         QCOMPARE(m_cars.read(3).record, before);
         QCOMPARE(change->redo(m_test.folder()), ChangeResult::Done);
         QCOMPARE(filesOf(m_test), expected);
+        QVERIFY(m_cars.remove(3, now));
+        expectWarning("^Refused to save a car");
+        QVERIFY(!m_cars.save(before, after));
     }
 
     void neverWritesOverWhatItCannotRead_data()
@@ -225,6 +232,10 @@ private slots:
         QCOMPARE(m_cars.unit(), DistanceUnit::Kilometers);
         QCOMPARE(change->undo(m_test.folder()), ChangeResult::Done);
         QCOMPARE(m_cars.unit(), DistanceUnit::Miles);
+        // A car that comes back counts as the others do.
+        QVERIFY(m_cars.remove(1, now) && m_cars.changeUnit(DistanceUnit::Kilometers));
+        QVERIFY(m_cars.bringBack(m_cars.deletedCars(now).front()).isDone);
+        QCOMPARE(filesOf(m_test)[u"ACar1.Fil"_s], expected[u"ACar1.Fil"_s]);
     }
 
     void isOldOrNewAfterEveryFailure_data()
