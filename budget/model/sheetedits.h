@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "budget/model/gridtext.h"
 #include "budget/model/sheetrange.h"
+#include "shell/core/gridtext.h"
 #include "shell/core/message.h"
 
 #include <optional>

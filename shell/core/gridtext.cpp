@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "budget/model/gridtext.h"
+#include "shell/core/gridtext.h"
 
 #include <algorithm>
 
