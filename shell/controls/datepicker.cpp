@@ -53,11 +53,11 @@ QRect placeBeside(QRect box, QRect room, QSize size, QSize least)
 
 } // namespace
 
-DatePicker::DatePicker(const Clock &clock, const Settings &settings, QWidget *window)
+DatePicker::DatePicker(const Clock &clock, const Settings &settings, QWidget *window, const QString &name)
     : QFrame(window)
     , m_clock(clock)
     , m_settings(settings)
-    , m_month(named(new MonthView(this), u"MonthView1"_s))
+    , m_month(named(new MonthView(this), name))
 {
     setObjectName(u"datePicker"_s);
     setAttribute(Qt::WA_StyledBackground);
@@ -86,6 +86,18 @@ void DatePicker::addBox(DateBox *box)
         if (this->box() == box)
             follow();
     });
+    connect(box, &QObject::destroyed, this, &DatePicker::forget);
+}
+
+/// The box of a grid's cell lives as long as somebody types into it.
+void DatePicker::forget(QObject *box)
+{
+    m_boxes.removeIf([box](const DateBox *one) { return one == box; });
+    if (m_box != box)
+        return;
+    m_box = nullptr;
+    qApp->removeEventFilter(this);
+    hide();
 }
 
 void DatePicker::showDate(QDate date)
@@ -151,14 +163,16 @@ void DatePicker::choose(QDate day)
 {
     DateBox *box = m_box;
     dismiss();
-    if (!box->isLocked())
-        box->setDate(day);
+    if (box->isLocked())
+        return;
+    box->setDate(day);
+    emit picked(box);
 }
 
 /// Asked for once the focus has arrived, which may be in the next date box.
 void DatePicker::dismissUnlessUsed()
 {
-    if (!holdsFocus() && !m_box->hasFocus())
+    if (m_box && !holdsFocus() && !m_box->hasFocus())
         dismiss();
 }
 

@@ -16,22 +16,29 @@ class DatePicker final : public QFrame
 {
     Q_OBJECT
 public:
-    /// `window` is the widget that it floats over.
-    DatePicker(const Clock &clock, const Settings &settings, QWidget *window);
+    /// `window` is the widget that it floats over; the calendar in it bears `name`.
+    DatePicker(const Clock &clock, const Settings &settings, QWidget *window,
+               const QString &name = QStringLiteral("MonthView1"));
 
-    /// A date box does so itself.
+    /// A date box does so itself. The picker forgets it when it goes.
     void addBox(DateBox *box);
+    /// Opens beside `box`, one of its own.
+    void open(DateBox *box);
     /// The box that it stands beside; null while it is hidden.
     DateBox *box() const { return isVisible() ? m_box : nullptr; }
     void dismiss();
     /// Moves it beside its box again.
     void reposition();
 
+signals:
+    /// A day was chosen, and stands in `box` now.
+    void picked(DateBox *box);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void open(DateBox *box);
+    void forget(QObject *box);
     void showDate(QDate date);
     void follow();
     void dismissUnlessUsed();
