@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cars/model/fuelfigures.h"
+#include "cars/model/historysums.h"
+#include "cars/model/vehiclefiles.h"
+#include "shell/core/dates.h"
+
+#include <QLocale>
+#include <QString>
+
+/// The quiet words about the histories of a car and its fuel tracker.
+namespace HistoryLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString added(const QString &what)
+{
+    return u"Added: "_s + what;
+}
+
+inline QString deleted(const QString &what)
+{
+    return u"Deleted: "_s + what;
+}
+
+/// Of a cell: "Changed: Cost of Battery".
+inline QString changed(const QString &heading, const QString &what)
+{
+    return u"Changed: "_s + heading + u" of "_s + what;
+}
+
+inline QString pasted(qsizetype cells)
+{
+    return cells == 1 ? u"1 cell pasted"_s : QString::number(cells) + u" cells pasted"_s;
+}
+
+/// `leftOut` of the cells that were pasted are not as they were on the clipboard.
+inline QString pastedInPart(qsizetype cells, qsizetype leftOut)
+{
+    return pasted(cells) + u"; "_s + QString::number(leftOut) + u" could not be taken"_s;
+}
+
+inline QString copied(qsizetype cells)
+{
+    return cells == 1 ? u"1 cell copied"_s : QString::number(cells) + u" cells copied"_s;
+}
+
+inline QString nothingToPaste()
+{
+    return u"There is nothing on the clipboard that can be pasted here"_s;
+}
+
+/// What the row of something new asks for in its description.
+inline QString whatWasDone(CarPart part)
+{
+    return part == CarPart::Maintenance ? u"What was done?"_s : u"What was paid for?"_s;
+}
+
+inline QString nothingTyped(CarPart part)
+{
+    return part == CarPart::Fuel ? u"First type the readings and the fuel of the fill-up"_s
+                                 : u"First type what was done"_s;
+}
+
+// Reasons
+
+inline QString inHistoriesOnly()
+{
+    return u"This can be used in the histories and in the fuel tracker"_s;
+}
+
+inline QString chooseAnEntry()
+{
+    return u"First choose the entry to delete"_s;
+}
+
+inline QString chooseAFillUp()
+{
+    return u"First choose the fill-up to delete"_s;
+}
+
+inline QString noneYet(CarPart part)
+{
+    switch (part) {
+    case CarPart::Maintenance:
+        return u"No maintenance is entered yet. Type in the row above what was done, and press Enter."_s;
+    case CarPart::Repairs:
+        return u"No repair and no other expenditure is entered yet. Type in the row above what was paid for, "
+               "and press Enter."_s;
+    default:
+        return u"No fill-up is entered yet. Type the reading and the fuel in the row above, and press Enter."_s;
+    }
+}
+
+inline QString countOf(CarPart part, qsizetype count)
+{
+    const QString one = part == CarPart::Fuel ? u"1 fill-up"_s : u"1 entry"_s;
+    const QString many = part == CarPart::Fuel ? u" fill-ups"_s : u" entries"_s;
+    return count == 1 ? one : QString::number(count) + many;
+}
+
+/// "1,234.50"
+inline QString money(double cents)
+{
+    return QLocale(QLocale::English, QLocale::UnitedStates).toString(cents / 100, 'f', 2);
+}
+
+/// "Last done: Rotate Tires, May 6, 2025"
+inline QString newest(const HistorySums &sums, CarPart part, DateStyle style)
+{
+    if (sums.newest.isNull())
+        return part == CarPart::Maintenance ? u"Maintenance history"_s : u"Repairs and other expenditures"_s;
+    return (part == CarPart::Maintenance ? u"Last done: "_s : u"Last: "_s) +
+           (sums.newestName.isEmpty() ? QString() : sums.newestName + u", "_s) +
+           Dates::shortWithYear(sums.newest, style);
+}
+
+/// "none" for nothing.
+inline QString moneyOrNone(qint64 cents)
+{
+    return cents == 0 ? u"none"_s : money(double(cents));
+}
+
+/// What stands in place of a consumption that does not count, before the number where there is one.
+inline QString mark(FillUp::Kind kind, const QString &economy)
+{
+    const auto with = [&economy](const QString &word) {
+        return economy.isEmpty() ? word : word + u", "_s + economy;
+    };
+    switch (kind) {
+    case FillUp::Kind::Partial:
+        return with(u"partial"_s);
+    case FillUp::Kind::Missing:
+        return with(u"one missing"_s);
+    case FillUp::Kind::Unlikely:
+        return with(u"unlikely"_s);
+    default:
+        return economy;
+    }
+}
+
+/// Why a consumption does not count; empty where it does.
+inline QString why(FillUp::Kind kind)
+{
+    switch (kind) {
+    case FillUp::Kind::Partial:
+        return u"Not filled up: this fuel counts with that of the next full fill-up"_s;
+    case FillUp::Kind::Missing:
+        return u"The previous reading does not follow the fill-up before: one was not entered. "
+               "This one is left out of the averages."_s;
+    case FillUp::Kind::Unlikely:
+        return u"Less than half or more than twice the usual: probably not filled up. "
+               "This one is left out of the averages."_s;
+    case FillUp::Kind::Incomplete:
+        return u"Without a distance and an amount of fuel this is left out of the averages"_s;
+    default:
+        return {};
+    }
+}
+
+/// What an entry without a description is called.
+inline QString entry()
+{
+    return u"entry"_s;
+}
+
+inline QString fillUp()
+{
+    return u"fill-up"_s;
+}
+
+} // namespace HistoryLines
