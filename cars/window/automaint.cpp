@@ -6,6 +6,7 @@
 #include "cars/window/carlist.h"
 #include "cars/window/carview.h"
 #include "cars/window/carviews.h"
+#include "cars/window/historycommands.h"
 #include "cars/window/opencar.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
@@ -44,6 +45,8 @@ AutoMaint::AutoMaint(Program &program, QWidget *parent)
                          this))
     , m_stack(new WorkViews(this))
     , m_views(new CarViews({program, *this, *m_car, commands(), *m_stack}, this))
+    , m_histories(
+          new HistoryCommands({program, *this, *m_car, commands(), *m_stack}, m_views->histories(), this))
     , m_emptyPage(new EmptyPage(
           "car-log"_L1, u"No car is in the list yet"_s,
           u"A name, the make or model and what the odometer reads are enough to begin."_s, this))
@@ -74,6 +77,8 @@ void AutoMaint::makeCommands()
     QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
     m_views->addCommands(addMenu(u"mV"_s, u"&View"_s));
     undoStack().addCommands(edit);
+    edit->addSeparator();
+    m_histories->addCommands(edit);
     options->addAction(standard(Standard::PanelColor));
     options->addSeparator();
     m_save = commands().writing(commands().add(
@@ -105,6 +110,11 @@ void AutoMaint::connectCar()
 {
     connect(m_list, &CarList::chosen, this, &AutoMaint::openCar);
     connect(m_views, &CarViews::said, &activity(), &ActivityBar::say);
+    connect(m_histories, &HistoryCommands::said, &activity(), &ActivityBar::say);
+    connect(m_histories, &HistoryCommands::done, this, [this](const QString &line) {
+        activity().say(line);
+        undoStack().offer();
+    });
     connect(m_car, &OpenCar::said, &activity(), &ActivityBar::say);
     connect(m_car, &OpenCar::loaded, &undoStack(), &UndoStack::forgetTyped);
     connect(m_car, &OpenCar::edited, &undoStack(), qOverload<UndoStep>(&UndoStack::push));

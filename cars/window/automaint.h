@@ -5,6 +5,7 @@
 
 class CarList;
 class CarViews;
+class HistoryCommands;
 class EmptyPage;
 class OpenCar;
 class WorkViews;
@@ -44,6 +45,7 @@ private:
     CarList *m_list;
     WorkViews *m_stack; ///< the views, and what stands over them
     CarViews *m_views;
+    HistoryCommands *m_histories;
     EmptyPage *m_emptyPage;
     QAction *m_save = nullptr;
 };

@@ -59,6 +59,16 @@ CarViews::CarViews(const CarDesk &desk, QObject *parent)
     }
 }
 
+std::vector<LogView *> CarViews::histories() const
+{
+    std::vector<LogView *> views;
+    for (CarView *view : m_views) {
+        if (auto *history = qobject_cast<LogView *>(view))
+            views.push_back(history);
+    }
+    return views;
+}
+
 CarView *CarViews::shown() const
 {
     const auto found =

@@ -6,8 +6,10 @@
 #include <QObject>
 
 #include <array>
+#include <vector>
 
 class CarView;
+class LogView;
 class QAction;
 class QMenu;
 
@@ -24,6 +26,8 @@ public:
 
     const std::array<CarView *, count> &all() const { return m_views; }
     CarView *view(Place place) const { return m_views[place]; }
+    /// Those that show a history or the fuel tracker.
+    std::vector<LogView *> histories() const;
     /// The one in front; null while something else is.
     CarView *shown() const;
     /// Brings a view to the front, with the focus in it.

@@ -1,17 +1,64 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/fuelview.h"
 
+#include "cars/model/carnumbers.h"
+#include "cars/model/fuellines.h"
+#include "cars/window/figurestrip.h"
+#include "cars/window/logmodel.h"
+#include "cars/window/opencar.h"
 #include "shell/controls/titleline.h"
+#include "shell/program/program.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 FuelView::FuelView(const CarDesk &desk)
-    : CarView(u"fuel"_s, desk)
+    : LogView(u"fuel"_s, desk, CarPart::Fuel,
+              new LogPane(desk, CarPart::Fuel, {u"fuelEntry"_s, u"fuelGrid"_s, u"MonthView3"_s},
+                          {{u"12/30/2026 "_s},
+                           {u"Previous"_s},
+                           {u"Reading"_s},
+                           {u"Driven"_s},
+                           {u"Gallons"_s},
+                           {u"one missing"_s},
+                           {u"9999.99"_s}}),
+              u"&Add Fill-up"_s)
+    , m_figures(new FigureStrip(u"fuelFigures"_s, this))
 {
-    addContent(new QWidget(this), 1);
+    pane().setAmend([this](CarRecord &wanted, qsizetype row) { followReading(wanted, row); });
+    addContent(m_figures);
+    addContent(&pane(), 1);
 }
 
-void FuelView::refresh()
+/// A fill-up further on is where the car is now: the sheet's reading follows it.
+void FuelView::followReading(CarRecord &wanted, qsizetype row)
 {
-    titleLine().setTitle(u"Fuel"_s);
+    QString &odometer = wanted.sheet.field(VehicleSheet::Odometer);
+    const auto reading = CarNumbers::number(wanted.fuel[row].current);
+    const auto before = CarNumbers::number(odometer);
+    if (!reading || (before && *reading <= *before) || !car().whyLocked(CarPart::Sheet).isEmpty())
+        return;
+    odometer = CarNumbers::text(*reading);
+    emit said(FuelLines::readingFollowed(odometer));
+}
+
+void FuelView::showFigures()
+{
+    const DistanceUnit unit = car().unit();
+    const FuelFigures &figures = pane().model().figures();
+    const FuelSums sums = figures.sums();
+    titleLine().setTitle(FuelLines::answer(sums, unit));
+    QList<FigureStrip::Figure> strip;
+    if (const int newest = figures.newest(); newest >= 0)
+        strip.append({FuelLines::lastFillUp(figures.fillUps()[newest], desk().program.state.dateStyle),
+                      CarNumbers::text(*figures.fillUps()[newest].economy, 1)});
+    if (sums.best)
+        strip.append({u"Best and worst"_s,
+                      CarNumbers::text(*sums.best, 1) + u" and "_s + CarNumbers::text(*sums.worst, 1)});
+    if (sums.centsPerDistance)
+        strip.append({FuelLines::perDistance(unit), HistoryLines::money(*sums.centsPerDistance)});
+    if (sums.centsPerAmount)
+        strip.append({FuelLines::perFuel(unit), HistoryLines::money(*sums.centsPerAmount)});
+    if (sums.fillUps > 0)
+        strip.append({FuelLines::inAll(sums.fillUps), HistoryLines::money(double(sums.cents))});
+    m_figures->setFigures(strip);
 }

@@ -1,15 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cars/window/carview.h"
+#include "cars/window/logview.h"
 
-/// The fuel tracker of the open car, the newest fill-up first.
-class FuelView final : public CarView
+class FigureStrip;
+
+/// The fuel tracker of the open car: what it uses and costs, and its fill-ups, the newest first.
+class FuelView final : public LogView
 {
     Q_OBJECT
 public:
     explicit FuelView(const CarDesk &desk);
 
 protected:
-    void refresh() override;
+    void showFigures() override;
+
+private:
+    void followReading(CarRecord &wanted, qsizetype row);
+
+    FigureStrip *m_figures;
 };

@@ -86,14 +86,41 @@ ChangeResult OpenCar::exchange(const Record &shown, const Record &wanted)
 
 bool OpenCar::save()
 {
-    if (!m_files.save(*m_saved, *m_record)) {
+    if (!write(*m_record))
+        return false;
+    emit said(CarLines::saved(m_record->vehicle.name));
+    return true;
+}
+
+bool OpenCar::savePart(CarPart part)
+{
+    CarRecord wanted = *m_saved;
+    switch (part) {
+    case CarPart::Sheet:
+        wanted.sheet = m_record->sheet;
+        break;
+    case CarPart::Maintenance:
+        wanted.maintenance = m_record->maintenance;
+        break;
+    case CarPart::Repairs:
+        wanted.repairs = m_record->repairs;
+        break;
+    case CarPart::Fuel:
+        wanted.fuel = m_record->fuel;
+        break;
+    }
+    return write(wanted);
+}
+
+bool OpenCar::write(const CarRecord &wanted)
+{
+    if (!m_files.save(*m_saved, wanted)) {
         emit said(FrameLines::refused(m_program.folder, CarLines::notSaved()));
         return false;
     }
-    m_saved = m_record;
+    m_saved = std::make_shared<CarRecord>(wanted);
     emit fileTouched();
     emit changed();
-    emit said(CarLines::saved(m_record->vehicle.name));
     return true;
 }
 

@@ -42,6 +42,8 @@ public:
     void change(const QString &title, const CarRecord &wanted);
     /// Writes what was typed. False when the disk refuses.
     [[nodiscard]] bool save();
+    /// The same of what was typed into the file of `part` alone.
+    [[nodiscard]] bool savePart(CarPart part);
     /// The names of its files, and of the list.
     QStringList fileNames() const;
 
@@ -62,6 +64,7 @@ private:
     using States = std::array<VehicleFiles::State, carParts.size()>;
 
     void open(const CarRecord &record, const States &states, bool isNew);
+    bool write(const CarRecord &wanted);
     ChangeResult exchange(const Record &shown, const Record &wanted);
 
     const Program &m_program;

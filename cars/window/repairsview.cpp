@@ -1,17 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/repairsview.h"
 
+#include "cars/model/historylines.h"
+#include "cars/window/figurestrip.h"
+#include "cars/window/opencar.h"
 #include "shell/controls/titleline.h"
+#include "shell/program/program.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 RepairsView::RepairsView(const CarDesk &desk)
-    : CarView(u"repairs"_s, desk)
+    : LogView(
+          u"repairs"_s, desk, CarPart::Repairs,
+          new LogPane(
+              desk, CarPart::Repairs, {u"Grid3"_s, u"Grid1"_s, u"MonthView2"_s},
+              {{u"Kilometers"_s}, {u"12/30/2026 "_s}, {u"Inspect Brake Linings"_s, true}, {u"99999.99"_s}}),
+          u"&Add Entry"_s)
+    , m_figures(new FigureStrip(u"repairsFigures"_s, this))
 {
-    addContent(new QWidget(this), 1);
+    addContent(m_figures);
+    addContent(&pane(), 1);
 }
 
-void RepairsView::refresh()
+void RepairsView::showFigures()
 {
-    titleLine().setTitle(u"Repairs"_s);
+    const DateStyle style = desk().program.state.dateStyle;
+    const QDate today = desk().program.clock.today();
+    const HistorySums sums = HistorySums::of(car().record(), part(), style, today);
+    titleLine().setTitle(HistoryLines::newest(sums, part(), style));
+    if (sums.count == 0)
+        return m_figures->setFigures({});
+    m_figures->setFigures(
+        {{u"Entries"_s, QString::number(sums.count)},
+         {u"In all"_s, HistoryLines::money(double(sums.cents))},
+         {u"In "_s + QString::number(today.year()), HistoryLines::moneyOrNone(sums.thisYear)},
+         {u"In "_s + QString::number(today.year() - 1), HistoryLines::moneyOrNone(sums.lastYear)}});
 }

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/window/figurestrip.h"
+
+#include "shell/controls/controls.h"
+#include "shell/look/theme.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr double corner = 8;
+} // namespace
+
+FigureStrip::FigureStrip(const QString &name, QWidget *parent)
+    : QWidget(parent)
+    , m_row(new QHBoxLayout(this))
+{
+    setObjectName(name);
+    setPalette(Theme::of(this).panelPalette()); // not the panel's ink: it has a ground of its own
+    m_row->setContentsMargins(16, 7, 16, 8);
+    m_row->setSpacing(16);
+}
+
+FigureStrip::Labels FigureStrip::make()
+{
+    auto *place = new QWidget(this);
+    const Labels labels{place, new ElidedLabel(place), new ElidedLabel(place)};
+    labels.caption->setFont(TypeScale::label());
+    labels.caption->setForegroundRole(ThemeRole::quiet);
+    labels.value->setFont(TypeScale::cardTitle());
+    auto *rows = new QVBoxLayout(place);
+    rows->setContentsMargins({});
+    rows->setSpacing(1);
+    rows->addWidget(labels.caption);
+    rows->addWidget(labels.value);
+    m_row->addWidget(place, 1);
+    return labels;
+}
+
+void FigureStrip::setFigures(const QList<Figure> &figures)
+{
+    while (m_labels.size() < figures.size())
+        m_labels.append(make());
+    for (qsizetype i = 0; i < m_labels.size(); ++i) {
+        m_labels[i].place->setVisible(i < figures.size());
+        if (i >= figures.size())
+            continue;
+        m_labels[i].caption->setText(figures[i].caption);
+        m_labels[i].value->setText(figures[i].value);
+        m_labels[i].value->setAccessibleName(figures[i].caption + u": "_s + figures[i].value);
+    }
+    setVisible(!figures.isEmpty());
+}
+
+void FigureStrip::paintEvent(QPaintEvent *)
+{
+    const Theme &theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme.line);
+    painter.setBrush(theme.head);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+}

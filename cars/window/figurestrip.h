@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class ElidedLabel;
+class QHBoxLayout;
+class QLabel;
+
+/// A few figures side by side, each under what it says.
+class FigureStrip final : public QWidget
+{
+    Q_OBJECT
+public:
+    struct Figure {
+        QString caption;
+        QString value;
+    };
+
+    explicit FigureStrip(const QString &name, QWidget *parent = nullptr);
+
+    void setFigures(const QList<Figure> &figures);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct Labels {
+        QWidget *place;
+        ElidedLabel *caption;
+        ElidedLabel *value;
+    };
+
+    Labels make();
+
+    QHBoxLayout *m_row;
+    QList<Labels> m_labels;
+};
