@@ -16,5 +16,6 @@ void viewerPanels(const Camera &camera);
 void planner(const Camera &camera);
 void budget(const Camera &camera);
 void cars(const Camera &camera);
+void carHistories(const Camera &camera);
 
 } // namespace Albums

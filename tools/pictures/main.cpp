@@ -34,7 +34,8 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"viewer-panels", Albums::viewerPanels},
                             Album{"planner", Albums::planner},
                             Album{"budget", Albums::budget},
-                            Album{"cars", Albums::cars}};
+                            Album{"cars", Albums::cars},
+                            Album{"car-histories", Albums::carHistories}};
 
 constexpr int longestMinutes = 10;
 
