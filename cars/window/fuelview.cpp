@@ -52,8 +52,8 @@ void FuelView::showFigures()
         strip.append({FuelLines::lastFillUp(figures.fillUps()[newest], desk().program.state.dateStyle),
                       CarNumbers::text(*figures.fillUps()[newest].economy, 1)});
     if (sums.best)
-        strip.append({u"Best and worst"_s,
-                      CarNumbers::text(*sums.best, 1) + u" and "_s + CarNumbers::text(*sums.worst, 1)});
+        strip.append({u"Best / worst"_s,
+                      CarNumbers::text(*sums.best, 1) + u" / "_s + CarNumbers::text(*sums.worst, 1)});
     if (sums.centsPerDistance)
         strip.append({FuelLines::perDistance(unit), HistoryLines::money(*sums.centsPerDistance)});
     if (sums.centsPerAmount)

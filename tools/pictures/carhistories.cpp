@@ -21,7 +21,13 @@ void Albums::carHistories(const Camera &camera)
     session.key(Qt::Key_Escape);
     session.trigger("mVFuel");
     session.clickRow("fuelEntry", 0, 2);
-    session.type(u"83105\t\t9.1\t\t31.20"_s);
+    session.type(u"84260"_s);
+    session.key(Qt::Key_Tab);
+    session.key(Qt::Key_Tab);
+    session.type(u"41.1"_s);
+    session.key(Qt::Key_Tab);
+    session.key(Qt::Key_Tab);
+    session.type(u"139.74"_s);
     session.take("car-fuel-typing");
     session.key(Qt::Key_Return);
     session.take("car-fuel");
