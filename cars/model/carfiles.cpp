@@ -3,6 +3,7 @@
 
 #include "cars/model/carnumbers.h"
 #include "cars/model/messages.h"
+#include "shell/pictures/picturefolder.h"
 #include "storage/ansitext.h"
 #include "storage/log.h"
 
@@ -246,6 +247,20 @@ QStringList CarFiles::files(const DataFolder &folder)
     }
     names.removeIf([&folder](const QString &name) { return folder.existingFile({}, name).isEmpty(); });
     return names;
+}
+
+QStringList CarFiles::pictures(const DataFolder &folder)
+{
+    const PictureFolder places(folder);
+    QStringList pictures;
+    for (const Vehicle &vehicle : VehicleList(folder).vehicles()) {
+        const VehicleSheet sheet = VehicleFiles(folder).readSheet(vehicle.slot).value;
+        const QString &stored = sheet.field(VehicleSheet::Picture);
+        if (const QString path = stored.isEmpty() ? QString() : places.locate(stored); !path.isEmpty())
+            pictures << path;
+    }
+    pictures.removeDuplicates();
+    return pictures;
 }
 
 void CarFiles::replace(CarChange &change, CarPart part, int slot, const QByteArray &bytes) const

@@ -76,6 +76,8 @@ public:
 
     /// The files of all cars that are there.
     static QStringList files(const DataFolder &folder);
+    /// The pictures of the cars that are there, as full paths.
+    static QStringList pictures(const DataFolder &folder);
 
 private:
     void replace(CarChange &change, CarPart part, int slot, const QByteArray &bytes) const;

@@ -281,6 +281,12 @@ private slots:
         QCOMPARE(files.mid(0, 6), (QStringList{u"CarMnt1.Fil"_s, u"ACar1.Fil"_s, u"MCar1.Fil"_s,
                                                u"RCar1.Fil"_s, u"GCar1.Fil"_s, u"ACar2.Fil"_s}));
         QVERIFY(CarFiles::files(TestFolder().folder()).isEmpty());
+
+        CarRecord car = m_cars.read(3).record;
+        car.sheet.field(VehicleSheet::Picture) = u"C:\\Cars\\saab.jpg"_s;
+        QVERIFY(m_cars.save(m_cars.read(3).record, car));
+        m_test.put(u"Saab.jpg"_s, "picture");
+        QCOMPARE(CarFiles::pictures(m_test.folder()), QStringList(m_test.path(u"Saab.jpg"_s)));
     }
 
 private:
