@@ -139,6 +139,12 @@ inline Message calculatorIncomplete(DistanceUnit unit)
             Message::Critical};
 }
 
+/// `question`: whether a maintenance is the last time of an action of the schedule.
+inline Message lastTime(const QString &question)
+{
+    return {u"Maintenance Schedule"_s, question, Message::Question, {Answer::Yes, Answer::No}, Answer::Yes};
+}
+
 inline Message fuelFull()
 {
     return {entryError(),

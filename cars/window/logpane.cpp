@@ -121,7 +121,7 @@ void LogPane::finishEdit()
     m_entry->finishEdit();
     m_list->finishEdit();
     if (m_new->isTyped())
-        add();
+        add(Adding::OnLeaving);
 }
 
 void LogPane::take()
@@ -132,14 +132,14 @@ void LogPane::take()
         return;
     }
     if (m_new->isTyped())
-        add();
+        add(Adding::Asked);
     else
         emit said(HistoryLines::nothingTyped(m_model->part()));
     m_entry->setFocus();
     m_entry->setCurrentIndex(m_new->index(0, m_new->firstColumn()));
 }
 
-void LogPane::add()
+void LogPane::add(Adding adding)
 {
     CarRecord wanted = m_desk.car.record();
     const CarPart part = m_model->part();
@@ -151,12 +151,20 @@ void LogPane::add()
     const qsizetype row = CarRows::count(wanted, part) - 1;
     m_new->clear();
     if (m_amend)
-        m_amend(wanted, row);
+        m_amend(wanted, row, adding);
     const QString title = HistoryLines::added(m_model->titleOf(wanted, row));
     m_desk.car.change(title, wanted);
     m_list->setCurrentIndex(m_model->index(m_model->rowOf(row), 0));
     m_list->scrollTo(m_list->currentIndex());
     emit added(title);
+}
+
+void LogPane::propose(const QStringList &cells)
+{
+    m_new->clear();
+    m_new->paste(0, cells);
+    m_entry->setFocus();
+    m_entry->setCurrentIndex(m_new->index(0, m_new->columnCount() - 1));
 }
 
 bool LogPane::isRowChosen() const

@@ -28,8 +28,10 @@ public:
         QString list;     ///< the rows that are there
         QString calendar; ///< beside a date
     };
-    /// Has a say in what the car becomes by an entry; `row` stands in the file already.
-    using Amend = std::function<void(CarRecord &wanted, qsizetype row)>;
+    /// How an entry is added: by a person who asked for it, or because the view is left with it.
+    enum class Adding { Asked, OnLeaving };
+    /// Has a say in what the car becomes by an entry, its `row` in the file; nothing is asked on leaving.
+    using Amend = std::function<void(CarRecord &wanted, qsizetype row, Adding adding)>;
 
     LogPane(const CarDesk &desk, CarPart part, const Names &names, std::vector<CarGrid::Width> widths);
 
@@ -44,6 +46,8 @@ public:
     void finishEdit();
     /// Adds what stands in the row of something new. Without a word where nothing does.
     void take();
+    /// Puts `cells` into the row of something new, for a person to look at and to add.
+    void propose(const QStringList &cells);
     /// Whether a row is chosen.
     bool isRowChosen() const;
     /// Takes the chosen row away; what was done, in words.
@@ -63,7 +67,7 @@ signals:
 private:
     CarGrid *makeGrid(const QString &name, QAbstractItemModel *model, const QString &accessibleName);
     void connectGrids();
-    void add();
+    void add(Adding adding);
     void place();
     bool isEntryInUse() const;
 

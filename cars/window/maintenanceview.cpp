@@ -2,9 +2,12 @@
 #include "cars/window/maintenanceview.h"
 
 #include "cars/model/historylines.h"
+#include "cars/model/messages.h"
+#include "cars/model/scheduleupdate.h"
 #include "cars/window/figurestrip.h"
 #include "cars/window/opencar.h"
 #include "shell/controls/titleline.h"
+#include "shell/frame/functionwindow.h"
 #include "shell/program/program.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,8 +21,23 @@ MaintenanceView::MaintenanceView(const CarDesk &desk)
           u"&Add Entry"_s)
     , m_figures(new FigureStrip(u"maintenanceFigures"_s, this))
 {
+    pane().setAmend([this](CarRecord &wanted, qsizetype row, LogPane::Adding adding) {
+        offerSchedule(wanted, row, adding);
+    });
     addContent(m_figures);
     addContent(&pane(), 1);
+}
+
+/// What was done is the last time of an action of the schedule, if a person says so.
+void MaintenanceView::offerSchedule(CarRecord &wanted, qsizetype row, LogPane::Adding adding)
+{
+    if (adding == LogPane::Adding::OnLeaving || !car().whyLocked(CarPart::Sheet).isEmpty())
+        return;
+    const auto update =
+        ScheduleUpdate::of(wanted.maintenance[row], wanted.sheet, desk().program.state.dateStyle);
+    if (update &&
+        desk().program.dialogs.ask(&desk().window, CarMessages::lastTime(update->question())) == Answer::Yes)
+        wanted.sheet.actions[std::size_t(update->row)] = update->after;
 }
 
 void MaintenanceView::showFigures()

@@ -16,5 +16,7 @@ protected:
     void showFigures() override;
 
 private:
+    void offerSchedule(CarRecord &wanted, qsizetype row, LogPane::Adding adding);
+
     FigureStrip *m_figures;
 };
