@@ -3,6 +3,7 @@
 
 #include "cars/model/carnumbers.h"
 #include "cars/model/carwords.h"
+#include "cars/model/fuelcalculator.h"
 #include "cars/model/historylines.h"
 
 /// The quiet words about a car's fuel.
@@ -53,6 +54,30 @@ inline QString perFuel(DistanceUnit unit)
 inline QString inAll(int fillUps)
 {
     return HistoryLines::countOf(CarPart::Fuel, fillUps) + u" in all"_s;
+}
+
+/// "31.3 miles per gallon: 285 miles, 0.11 a mile"
+inline QString drive(const FuelCalculator::Drive &drive, DistanceUnit unit)
+{
+    const QString length =
+        CarNumbers::text(drive.driven) + u' ' + (unit == DistanceUnit::Miles ? u"miles"_s : u"km"_s);
+    const QString cost = drive.centsPerDistance ? u", "_s + HistoryLines::money(*drive.centsPerDistance) +
+                                                      u" a "_s + distance(unit)
+                                                : QString();
+    return CarNumbers::text(drive.economy, 1) + u' ' + perAmount(unit) + u": "_s + length + cost;
+}
+
+inline QString nothingDriven()
+{
+    return u"The current reading must be above the previous one"_s;
+}
+
+/// "8.4 gallons, 28.56"
+inline QString trip(const FuelCalculator::Trip &trip, DistanceUnit unit)
+{
+    const QString fuel =
+        CarNumbers::text(trip.fuel, 1) + u' ' + (unit == DistanceUnit::Miles ? u"gallons"_s : u"liters"_s);
+    return trip.cents ? fuel + u", "_s + HistoryLines::money(*trip.cents) : fuel;
 }
 
 } // namespace FuelLines

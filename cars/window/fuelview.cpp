@@ -4,9 +4,13 @@
 #include "cars/model/carnumbers.h"
 #include "cars/model/fuellines.h"
 #include "cars/window/figurestrip.h"
+#include "cars/window/fuelcalculatorpanel.h"
 #include "cars/window/logmodel.h"
 #include "cars/window/opencar.h"
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/controls.h"
 #include "shell/controls/titleline.h"
+#include "shell/frame/workviews.h"
 #include "shell/program/program.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,9 +28,36 @@ FuelView::FuelView(const CarDesk &desk)
               u"&Add Fill-up"_s)
     , m_figures(new FigureStrip(u"fuelFigures"_s, this))
 {
-    pane().setAmend([this](CarRecord &wanted, qsizetype row) { followReading(wanted, row); });
+    pane().setAmend(
+        [this](CarRecord &wanted, qsizetype row, LogPane::Adding) { followReading(wanted, row); });
+    QPushButton *calculator = makeButton(u"fuelCalculator"_s, u"&Calculators..."_s, &foot());
+    foot().addLeft(calculator);
+    connect(calculator, &QPushButton::clicked, this, &FuelView::openCalculator);
     addContent(m_figures);
     addContent(&pane(), 1);
+}
+
+void FuelView::openCalculator()
+{
+    finishEdit();
+    if (!m_calculator) {
+        m_calculator = new FuelCalculatorPanel(desk());
+        desk().views.addPanel(m_calculator);
+        connect(m_calculator, &FuelCalculatorPanel::said, this, &FuelView::said);
+        connect(m_calculator, &TaskPanel::left, this, [this] {
+            desk().views.open(this);
+            pane().setFocus();
+        });
+        connect(m_calculator, &FuelCalculatorPanel::fillUpWanted, this, [this](const FuelRow &fillUp) {
+            desk().views.open(this);
+            pane().propose({fillUp.date, fillUp.previous, fillUp.current, fillUp.driven, fillUp.used,
+                            fillUp.economy, fillUp.cost});
+        });
+    }
+    const FuelLog &log = car().record().fuel;
+    m_calculator->begin(pane().model().figures(), log.isEmpty() ? QString() : log.last().current);
+    desk().views.open(m_calculator);
+    m_calculator->setFocus();
 }
 
 /// A fill-up further on is where the car is now: the sheet's reading follows it.

@@ -4,6 +4,7 @@
 #include "cars/window/logview.h"
 
 class FigureStrip;
+class FuelCalculatorPanel;
 
 /// The fuel tracker of the open car: what it uses and costs, and its fill-ups, the newest first.
 class FuelView final : public LogView
@@ -16,7 +17,9 @@ protected:
     void showFigures() override;
 
 private:
+    void openCalculator();
     void followReading(CarRecord &wanted, qsizetype row);
 
     FigureStrip *m_figures;
+    FuelCalculatorPanel *m_calculator = nullptr; ///< made when it is first opened
 };
