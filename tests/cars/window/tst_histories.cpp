@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/model/historylines.h"
+#include "cars/model/messages.h"
+#include "cars/window/automaint.h"
+#include "cars/window/cargrid.h"
+#include "shell/controls/monthview.h"
+#include "shell/look/theme.h"
+#include "tests/support/openwindow.h"
+#include "tests/support/rows.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The histories and the fuel tracker of the household's van, on 21 November 2026.
+class TestHistories : public OpenWindow<AutoMaint>
+{
+    Q_OBJECT
+
+    CarGrid *grid(const char *name) const { return find<CarGrid>(name); }
+    QString cell(const char *name, int row, int column) const
+    {
+        return grid(name)->model()->index(row, column).data().toString();
+    }
+    QStringList cells(const char *name, int row) const
+    {
+        QStringList cells;
+        for (int column = 0; column < grid(name)->model()->columnCount(); ++column)
+            cells << cell(name, row, column);
+        return cells;
+    }
+    /// The grid, or the box in one of its cells.
+    QWidget *typingPlace(const char *name) const
+    {
+        for (auto *box : grid(name)->findChildren<QLineEdit *>(u"cellBox"_s)) {
+            if (!box->isHidden())
+                return box;
+        }
+        return grid(name);
+    }
+    void press(const char *name, int key) const
+    {
+        QTest::keyClick(typingPlace(name), Qt::Key(key));
+        QCoreApplication::processEvents();
+    }
+    void type(const char *name, int row, int column, const QString &text) const
+    {
+        grid(name)->setCurrentIndex(grid(name)->model()->index(row, column));
+        for (const QChar character : text)
+            QTest::sendKeyEvent(QTest::Click, typingPlace(name), Qt::Key_unknown, QString(character),
+                                Qt::NoModifier);
+    }
+    void enter(const char *name, int row, int column, const QString &text) const
+    {
+        type(name, row, column, text);
+        press(name, Qt::Key_Return);
+    }
+    QByteArray before(const QString &file) const { return m_before.value(file); }
+    void open(const char *view)
+    {
+        trigger(view);
+        QCoreApplication::processEvents();
+    }
+
+    QHash<QString, QByteArray> m_before;
+
+private slots:
+    void initTestCase() { Theme::apply(*qApp); }
+
+    void init()
+    {
+        m_test = std::make_unique<TestProgram>(TestProgram::Household);
+        for (const QString &file : {u"ACar1.Fil"_s, u"MCar1.Fil"_s, u"RCar1.Fil"_s, u"GCar1.Fil"_s})
+            m_before[file] = m_test->bytes(file);
+        m_window = new AutoMaint(m_test->program);
+        showActive(*m_window);
+    }
+
+    void cleanup()
+    {
+        delete m_window; // without its questions
+        QVERIFY(m_test->dialogs.isDone());
+    }
+
+    void takesWhatIsTypedInTheRowOfSomethingNew()
+    {
+        open("mVRep");
+        QCOMPARE(cells("Grid3", 0), QStringList({u"84210"_s, u"11/21/2026"_s, u"What was paid for?"_s, {}}));
+        type("Grid3", 0, 2, u"Winter tires"_s);
+        press("Grid3", Qt::Key_Tab);
+        for (const QChar character : u"312.40"_s)
+            QTest::keyClick(typingPlace("Grid3"), character.toLatin1());
+        press("Grid3", Qt::Key_Return);
+        QCOMPARE(cells("Grid1", 0),
+                 QStringList({u"84210"_s, u"11/21/2026"_s, u"Winter tires"_s, u"312.40"_s}));
+        QCOMPARE(said(), u"Added: Winter tires, Nov 21, 2026"_s);
+        QCOMPARE(labelText("repairsTitle"), u"Last: Winter tires, Nov 21, 2026"_s);
+        QCOMPARE(m_test->bytes(u"RCar1.Fil"_s), before(u"RCar1.Fil"_s));
+        trigger("mOSave");
+        QCOMPARE(m_test->bytes(u"RCar1.Fil"_s),
+                 before(u"RCar1.Fil"_s) +
+                     "\"84210\"\r\n\"11/21/2026\"\r\n\"Winter tires\"\r\n\"312.40\"\r\n");
+        trigger("mEUndo");
+        QCOMPARE(cell("Grid1", 0, 2), u"Brake light bulb"_s);
+    }
+
+    void keepsWhatWasTypedWhenTheViewIsLeft()
+    {
+        open("mVRep");
+        type("Grid3", 0, 2, u"Wash"_s);
+        open("mVFuel");
+        open("mVRep");
+        QCOMPARE(cell("Grid1", 0, 2), u"Wash"_s);
+        QVERIFY(m_window->isModified());
+    }
+
+    void checksWhatIsTypedIntoACell_data()
+    {
+        const Message above = CarMessages::aboveCurrentReading(DistanceUnit::Miles);
+        rows<QByteArray, QByteArray, int, QString, QList<Message>, QString>({
+            {"a reading beyond the present one",
+             "mVMaint",
+             "maintenanceList",
+             0,
+             u"84,211"_s,
+             {above},
+             u"80569"_s},
+            {"the present reading", "mVMaint", "maintenanceList", 0, u"84,210"_s, {}, u"84,210"_s},
+            {"something new, too", "mVMaint", "Grid2", 0, u"90000"_s, {above}, u"84210"_s},
+            {"no date", "mVRep", "Grid1", 1, u"soon"_s, {CarMessages::invalidDate()}, u"08/14/2024"_s},
+            {"tomorrow", "mVRep", "Grid3", 1, u"11/22/2026"_s, {CarMessages::dateToCome()}, u"11/21/2026"_s},
+            {"today in another form", "mVRep", "Grid1", 1, u"Nov-21-2026"_s, {}, u"11/21/2026"_s},
+            {"a date of a fill-up",
+             "mVFuel",
+             "fuelGrid",
+             0,
+             u"2/30/2026"_s,
+             {CarMessages::invalidDate()},
+             u"08/31/2026"_s},
+            {"a fill-up further on", "mVFuel", "fuelGrid", 2, u"90000"_s, {}, u"90000"_s},
+        });
+    }
+
+    void checksWhatIsTypedIntoACell()
+    {
+        const auto [view, name, column, typed, messages, shown] =
+            row<QByteArray, QByteArray, int, QString, QList<Message>, QString>();
+        open(view);
+        for (qsizetype i = 0; i < messages.size(); ++i)
+            m_test->dialogs.willAnswer(Answer::Ok);
+        enter(name, 0, column, typed);
+        QCOMPARE(m_test->dialogs.takeShown(), messages);
+        QCOMPARE(cell(name, 0, column), shown);
+    }
+
+    void takesADateFromTheCalendar()
+    {
+        open("mVMaint");
+        CarGrid *list = grid("maintenanceList");
+        list->setCurrentIndex(list->model()->index(9, 1));
+        press("maintenanceList", Qt::Key_F2);
+        auto *month = find<MonthView>("MonthView1");
+        QVERIFY(month->isVisible());
+        QCOMPARE(month->selectedDate(), QDate(2024, 2, 3));
+        emit month->clicked(QDate(2026, 11, 20));
+        QVERIFY(!month->isVisible());
+        // The row goes where its day belongs, and stays the current one.
+        QCOMPARE(list->currentIndex().row(), 0);
+        QCOMPARE(cells("maintenanceList", 0).mid(1, 2),
+                 QStringList({u"11/20/2026"_s, u"Inspect Brake Linings"_s}));
+    }
+
+    void pastesCells()
+    {
+        open("mVMaint");
+        grid("maintenanceList")->setFocus();
+        grid("maintenanceList")->setCurrentIndex(grid("maintenanceList")->model()->index(8, 2));
+        QGuiApplication::clipboard()->setText(u"Valves\t10.00\tand more\nBelt\t20\nlost\n"_s);
+        trigger("mEPasteCells");
+        QCOMPARE(said(), HistoryLines::pastedInPart(4, 2));
+        QCOMPARE(cells("maintenanceList", 9).mid(2), QStringList({u"Belt"_s, u"20"_s}));
+        trigger("mECopyCells");
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"Valves\n"_s);
+        trigger("mEUndo");
+        QVERIFY(!m_window->isModified());
+    }
+
+    void tellsTheScheduleWhatWasDone_data() { rows<Answer>({{"yes", Answer::Yes}, {"no", Answer::No}}); }
+
+    void tellsTheScheduleWhatWasDone()
+    {
+        const auto [answer] = row<Answer>();
+        open("mVMaint");
+        m_test->dialogs.willAnswer(answer);
+        type("Grid2", 0, 2, u"change oil and filter"_s);
+        click("maintenanceAdd");
+        const QList<Message> messages = asked();
+        QCOMPARE(messages.size(), 1);
+        QCOMPARE(messages.first().title, u"Maintenance Schedule"_s);
+        trigger("mOSave");
+        const bool isTold = m_test->bytes(u"ACar1.Fil"_s) != before(u"ACar1.Fil"_s);
+        QCOMPARE(isTold, answer == Answer::Yes);
+        QCOMPARE(cell("maintenanceList", 0, 2), u"change oil and filter"_s);
+    }
+
+    void calculatesAndEntersAFillUp()
+    {
+        open("mVFuel");
+        click("fuelCalculator");
+        QCOMPARE(find<QLineEdit>("calculatorPrevious")->text(), u"82820"_s);
+        m_test->dialogs.willAnswer(Answer::Ok);
+        click("calculatorCalculate");
+        QCOMPARE(asked(), {CarMessages::calculatorIncomplete(DistanceUnit::Miles)});
+        typeInto(find<QLineEdit>("calculatorCurrent"), u"83120"_s);
+        typeInto(find<QLineEdit>("calculatorUsed"), u"6+4"_s);
+        typeInto(find<QLineEdit>("calculatorCost"), u"33"_s);
+        click("calculatorCalculate");
+        QCOMPARE(labelText("calculatorDrive"), u"30.0 miles per gallon: 300 miles, 0.11 a mile"_s);
+        typeInto(find<QLineEdit>("calculatorDistance"), u"278"_s);
+        QCOMPARE(labelText("calculatorTrip"), u"10.0 gallons, 34.00"_s);
+        click("calculatorEnter");
+        QCOMPARE(cells("fuelEntry", 0), QStringList({u"11/21/2026"_s, u"82820"_s, u"83120"_s, u"300"_s,
+                                                     u"6+4"_s, u"30.0"_s, u"33"_s}));
+    }
+
+    void deletesAnEntryAtOnce()
+    {
+        open("mVRep");
+        grid("Grid1")->setFocus();
+        grid("Grid1")->setCurrentIndex(grid("Grid1")->model()->index(1, 2));
+        m_test->dialogs.willAnswer(Answer::No);
+        press("Grid1", Qt::Key_Delete);
+        QCOMPARE(asked(), {CarMessages::deleteEntry()});
+        QCOMPARE(m_test->bytes(u"RCar1.Fil"_s), before(u"RCar1.Fil"_s));
+        m_test->dialogs.willAnswer(Answer::Yes);
+        click("Command19_1");
+        QCOMPARE(asked(), {CarMessages::deleteEntry()});
+        QCOMPARE(said(), u"Deleted: New tires, front, May 22, 2024"_s);
+        const QByteArray left = "\"56355\"\r\n\"03/25/2024\"\r\n\"Battery\"\r\n\"517.55\"\r\n"
+                                "\"66234\"\r\n\"08/14/2024\"\r\n\"Brake light bulb\"\r\n\"95.18\"\r\n";
+        QCOMPARE(m_test->bytes(u"RCar1.Fil"_s), left);
+        QVERIFY(!m_window->isModified());
+        trigger("mEUndo");
+        trigger("mOSave");
+        QCOMPARE(m_test->bytes(u"RCar1.Fil"_s), before(u"RCar1.Fil"_s));
+    }
+
+    void deletesInTheHistoriesAlone()
+    {
+        open("mVFuel");
+        trigger("mEDelete");
+        QCOMPARE(asked(), {CarMessages::noEntryToDelete()});
+        grid("fuelGrid")->setCurrentIndex(grid("fuelGrid")->model()->index(0, 0));
+        click("fuelDelete");
+        QCOMPARE(said(), u"Deleted: fill-up, Aug 31, 2026"_s);
+        QCOMPARE(cell("fuelGrid", 0, 0), u"08/17/2026"_s);
+        QCOMPARE(m_test->bytes(u"GCar1.Fil"_s), before(u"GCar1.Fil"_s));
+    }
+
+    void worksOutAFillUp()
+    {
+        open("mVFuel");
+        type("fuelEntry", 0, 2, u"84260"_s);
+        press("fuelEntry", Qt::Key_Tab);
+        QCOMPARE(cells("fuelEntry", 0),
+                 QStringList({u"11/21/2026"_s, u"82820"_s, u"84260"_s, u"1440"_s, {}, {}, {}}));
+        press("fuelEntry", Qt::Key_Escape);
+        enter("fuelEntry", 0, 4, u"48"_s);
+        click("fuelAdd");
+        QCOMPARE(cells("fuelGrid", 0),
+                 QStringList({u"11/21/2026"_s, u"82820"_s, u"84260"_s, u"1440"_s, u"48"_s, u"30.0"_s, {}}));
+        // The sheet's reading follows, in the same step.
+        trigger("mOSave");
+        QVERIFY(m_test->bytes(u"ACar1.Fil"_s).contains("\"84260\""));
+        enter("fuelGrid", 0, 2, u"84276"_s);
+        QCOMPARE(cells("fuelGrid", 0).mid(2, 4), QStringList({u"84276"_s, u"1456"_s, u"48"_s, u"30.3"_s}));
+        trigger("mEUndo");
+        trigger("mEUndo");
+        QCOMPARE(cell("fuelGrid", 0, 0), u"08/31/2026"_s);
+        QVERIFY(m_window->isModified());
+    }
+};
+
+QTEST_MAIN(TestHistories)
+#include "tst_histories.moc"
