@@ -33,7 +33,7 @@ void BankImport::look(DateStyle style)
 {
     QList<QStringList> sample;
     QList<int> numbers;
-    BankFile::Line line;
+    CsvFile::Line line;
     while (sample.size() < sampleLines && m_file.next(line)) {
         sample.append(line.cells);
         numbers.append(line.number);
@@ -47,8 +47,8 @@ void BankImport::look(DateStyle style)
         amounts << cellOf(cells, m_columns.amount) << cellOf(cells, m_columns.debit);
         dates << cellOf(cells, m_columns.date);
     }
-    m_decimal = BankCells::decimalSign(amounts);
-    m_order = BankCells::dateOrder(dates, style);
+    m_decimal = CsvCells::decimalSign(amounts);
+    m_order = CsvCells::dateOrder(dates, style);
     m_hasSigns = m_columns.amount < 0 || m_columns.sign >= 0;
     m_file.rewind();
 }
@@ -68,7 +68,7 @@ void BankImport::know(const Spending &spending)
 bool BankImport::step()
 {
     if (!m_isRead) {
-        BankFile::Line line;
+        CsvFile::Line line;
         for (int i = 0; i < linesAStep; ++i) {
             if (!m_file.next(line)) {
                 m_isRead = true;
@@ -97,7 +97,7 @@ double BankImport::progress() const
     return m_lines.empty() ? 1 : reading + (1 - reading) * double(m_sorted) / double(m_lines.size());
 }
 
-BankLine BankImport::read(const BankFile::Line &line) const
+BankLine BankImport::read(const CsvFile::Line &line) const
 {
     BankLine read;
     read.number = line.number;
@@ -108,7 +108,7 @@ BankLine BankImport::read(const BankFile::Line &line) const
             texts.append(text);
     }
     read.text = texts.join(u' ').left(longestText);
-    read.date = BankCells::date(cellOf(line.cells, m_columns.date), m_order);
+    read.date = CsvCells::date(cellOf(line.cells, m_columns.date), m_order);
     const std::optional<qint64> amount = amountOf(line);
     read.cents = amount.value_or(0);
     if (!line.isClosed)
@@ -123,16 +123,16 @@ BankLine BankImport::read(const BankFile::Line &line) const
 }
 
 /// Below 0 what went out.
-std::optional<qint64> BankImport::amountOf(const BankFile::Line &line) const
+std::optional<qint64> BankImport::amountOf(const CsvFile::Line &line) const
 {
     if (m_columns.amount < 0) {
-        const auto debit = BankCells::amount(cellOf(line.cells, m_columns.debit), m_decimal);
-        const auto credit = BankCells::amount(cellOf(line.cells, m_columns.credit), m_decimal);
+        const auto debit = CsvCells::amount(cellOf(line.cells, m_columns.debit), m_decimal);
+        const auto credit = CsvCells::amount(cellOf(line.cells, m_columns.credit), m_decimal);
         if (debit && *debit != 0)
             return -std::abs(*debit);
         return credit ? credit : debit;
     }
-    const auto amount = BankCells::amount(cellOf(line.cells, m_columns.amount), m_decimal);
+    const auto amount = CsvCells::amount(cellOf(line.cells, m_columns.amount), m_decimal);
     if (const auto outgoing = isOutgoing(cellOf(line.cells, m_columns.sign)); amount && outgoing)
         return *outgoing ? -std::abs(*amount) : std::abs(*amount);
     return amount;

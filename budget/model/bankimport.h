@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "budget/model/bankcells.h"
-#include "budget/model/bankfile.h"
+#include "budget/model/bankcolumns.h"
 #include "budget/model/spending.h"
+#include "shell/core/csvcells.h"
+#include "shell/core/csvfile.h"
 
 #include <QHash>
 #include <QSet>
@@ -80,18 +81,18 @@ private:
 
     void look(DateStyle style);
     void know(const Spending &spending);
-    BankLine read(const BankFile::Line &line) const;
-    std::optional<qint64> amountOf(const BankFile::Line &line) const;
+    BankLine read(const CsvFile::Line &line) const;
+    std::optional<qint64> amountOf(const CsvFile::Line &line) const;
     void sort(BankLine &line);
     QString itemOf(const QString &text) const;
     bool isThere(const BankLine &line);
     void add(const BankLine &line, int by);
 
-    BankFile m_file;
+    CsvFile m_file;
     int m_year;
     BankColumns m_columns;
     QChar m_decimal = u'.';
-    BankCells::DateOrder m_order = BankCells::DateOrder::DayFirst;
+    CsvCells::DateOrder m_order = CsvCells::DateOrder::DayFirst;
     bool m_isRead = false;
     bool m_hasSigns = false;
     std::vector<BankLine> m_lines;

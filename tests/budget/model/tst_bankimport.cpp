@@ -54,7 +54,7 @@ private slots:
     void readsAmounts()
     {
         const auto [text, decimal, cents] = row<QString, QChar, qint64>();
-        QCOMPARE(BankCells::amount(text, decimal), cents);
+        QCOMPARE(CsvCells::amount(text, decimal), cents);
     }
 
     void readsNoAmount_data()
@@ -70,14 +70,14 @@ private slots:
     void readsNoAmount()
     {
         const auto [text] = row<QString>();
-        QCOMPARE(BankCells::amount(text, point), std::nullopt);
+        QCOMPARE(CsvCells::amount(text, point), std::nullopt);
     }
 
     void readsDates_data()
     {
-        using enum BankCells::DateOrder;
+        using enum CsvCells::DateOrder;
         const QDate day(2026, 3, 4);
-        rows<QString, BankCells::DateOrder, QDate>(
+        rows<QString, CsvCells::DateOrder, QDate>(
             {{"of the standard", u"2026-03-04"_s, DayFirst, day},
              {"in one", u"20260304"_s, MonthFirst, day},
              {"day first", u"04.03.26"_s, DayFirst, day},
@@ -91,8 +91,8 @@ private slots:
 
     void readsDates()
     {
-        const auto [text, order, date] = row<QString, BankCells::DateOrder, QDate>();
-        QCOMPARE(BankCells::date(text, order), date);
+        const auto [text, order, date] = row<QString, CsvCells::DateOrder, QDate>();
+        QCOMPARE(CsvCells::date(text, order), date);
     }
 
     void findsOutHowAFileIsWritten_data()

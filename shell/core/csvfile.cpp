@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "budget/model/bankfile.h"
+#include "shell/core/csvfile.h"
 
 #include "storage/ansitext.h"
 
@@ -17,7 +17,7 @@ constexpr qsizetype longestQuoted = 4000;
 
 } // namespace
 
-BankFile::BankFile(const QByteArray &bytes)
+CsvFile::CsvFile(const QByteArray &bytes)
     : m_text(decode(bytes))
 {
     m_text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
@@ -26,21 +26,21 @@ BankFile::BankFile(const QByteArray &bytes)
     rewind();
 }
 
-QString BankFile::decode(const QByteArray &bytes)
+QString CsvFile::decode(const QByteArray &bytes)
 {
     if (const auto encoding = QStringConverter::encodingForData(bytes))
         return QStringDecoder(*encoding)(bytes);
     return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : AnsiText::decode(bytes);
 }
 
-void BankFile::rewind()
+void CsvFile::rewind()
 {
     m_at = 0;
     m_line = 0;
 }
 
 /// The one that cuts most of the first lines into the same number of cells, the more the better.
-QChar BankFile::likelySeparator()
+QChar CsvFile::likelySeparator()
 {
     QChar best = separators.back();
     int bestScore = 0;
@@ -62,7 +62,7 @@ QChar BankFile::likelySeparator()
     return best;
 }
 
-bool BankFile::next(Line &line)
+bool CsvFile::next(Line &line)
 {
     while (m_at < m_text.size()) {
         const qsizetype start = m_at;
@@ -81,7 +81,7 @@ bool BankFile::next(Line &line)
     return false;
 }
 
-QString BankFile::takeCell(bool &isClosed)
+QString CsvFile::takeCell(bool &isClosed)
 {
     while (!isAtLineEnd() && m_text[m_at] == u' ' && m_separator != u' ')
         ++m_at;
@@ -97,7 +97,7 @@ QString BankFile::takeCell(bool &isClosed)
 
 /// What stands up to the closing quote, which goes with it; two quotes are one. Without one the cell ends
 /// where it would without the first.
-QString BankFile::takeQuoted(bool &isClosed)
+QString CsvFile::takeQuoted(bool &isClosed)
 {
     const qsizetype start = ++m_at;
     QString cell;

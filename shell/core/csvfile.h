@@ -5,9 +5,9 @@
 #include <QString>
 #include <QStringList>
 
-/// A bank's file of comma-separated values, cut into lines of cells: separated by commas, semicolons or tabs,
-/// in quotes where they hold such a character or a line end.
-class BankFile
+/// A file of comma-separated values, as banks and spreadsheets write them, cut into lines of cells: separated
+/// by commas, semicolons or tabs, in quotes where they hold such a character or a line end.
+class CsvFile
 {
 public:
     /// A line of the file; one whose quotes hold line ends goes over several.
@@ -17,7 +17,7 @@ public:
         bool isClosed = true; ///< false: a quote has no end, and what follows was not read as part of it
     };
 
-    explicit BankFile(const QByteArray &bytes);
+    explicit CsvFile(const QByteArray &bytes);
 
     QChar separator() const { return m_separator; }
     /// The next line that holds anything; false at the end.
