@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/model/carcsv.h"
+
+#include "cars/model/carwords.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype longestName = 60;
+
+/// The words by which a heading names a column of a grid, the surest first.
+struct Named {
+    std::size_t column;
+    QStringList words;
+};
+
+const QList<Named> &historyNames()
+{
+    static const QList<Named> names{
+        {1, {u"date"_s, u"datum"_s, u"day"_s}},
+        {0, {u"mileage"_s, u"odometer"_s, u"kilometer"_s, u"kilometre"_s, u"miles"_s, u"km"_s, u"reading"_s}},
+        {3, {u"cost"_s, u"price"_s, u"amount"_s, u"total"_s, u"paid"_s}},
+        {2,
+         {u"description"_s, u"action"_s, u"service"_s, u"work"_s, u"item"_s, u"note"_s, u"text"_s,
+          u"what"_s}}};
+    return names;
+}
+
+const QList<Named> &fuelNames()
+{
+    static const QList<Named> names{
+        {0, {u"date"_s, u"datum"_s, u"day"_s}},
+        {1, {u"previous"_s, u"last reading"_s, u"start"_s}},
+        {5, {u"per gallon"_s, u"per liter"_s, u"per litre"_s, u"mpg"_s, u"km/l"_s, u"economy"_s}},
+        {3, {u"driven"_s, u"distance"_s, u"trip"_s, u"since last"_s}},
+        {2, {u"current"_s, u"odometer"_s, u"mileage"_s, u"reading"_s, u"kilometer"_s, u"kilometre"_s}},
+        {6, {u"cost"_s, u"total"_s, u"paid"_s, u"amount"_s}},
+        {4, {u"used"_s, u"gallons"_s, u"liters"_s, u"litres"_s, u"volume"_s, u"quantity"_s, u"fuel"_s}}};
+    return names;
+}
+
+std::size_t columnCount(CarPart part)
+{
+    return part == CarPart::Fuel ? fuelColumns.size() : historyColumns.size();
+}
+
+qsizetype dateColumn(CarPart part)
+{
+    return part == CarPart::Fuel ? 0 : 1;
+}
+
+QString cell(const QString &text)
+{
+    if (!text.contains(u',') && !text.contains(u'"') && !text.contains(u'\n') && !text.contains(u'\r'))
+        return text;
+    return u'"' + QString(text).replace(u"\""_s, u"\"\""_s) + u'"';
+}
+
+template <typename Cells>
+QString line(const Cells &cells)
+{
+    QStringList texts;
+    for (const QString &text : cells)
+        texts << cell(text);
+    return texts.join(u',') + u"\r\n"_s;
+}
+
+template <typename Row, std::size_t count, typename Headings>
+QByteArray file(const QList<Row> &rows, const std::array<QString Row::*, count> &columns,
+                const Headings &headings)
+{
+    // Without the mark spreadsheets take the letters for those of an older code page.
+    QString text = QChar(QChar::ByteOrderMark) + line(headings);
+    for (const Row &row : rows) {
+        QStringList cells;
+        for (const auto column : columns)
+            cells << row.*column;
+        text += line(cells);
+    }
+    return text.toUtf8();
+}
+
+QList<int> namedBy(const QStringList &heading, CarPart part)
+{
+    QList<int> places(qsizetype(columnCount(part)), -1);
+    for (const Named &named : part == CarPart::Fuel ? fuelNames() : historyNames()) {
+        int &place = places[qsizetype(named.column)];
+        for (const QString &word : named.words) {
+            for (int i = 0; place < 0 && i < int(heading.size()); ++i) {
+                if (!places.contains(i) && heading[i].contains(word, Qt::CaseInsensitive))
+                    place = i;
+            }
+        }
+    }
+    return places;
+}
+
+} // namespace
+
+QByteArray CarCsv::text(const History &history, DistanceUnit unit)
+{
+    return file(history, historyColumns, CarWords::historyHeadings(unit));
+}
+
+QByteArray CarCsv::text(const FuelLog &fuel, DistanceUnit unit)
+{
+    return file(fuel, fuelColumns, CarWords::fuelHeadings(unit));
+}
+
+QString CarCsv::fileName(const QString &vehicle, CarPart part)
+{
+    QString name;
+    for (const QChar character : vehicle.simplified().left(longestName)) {
+        if (character.isPrint() && !u"/\\:*?\"<>|"_s.contains(character))
+            name += character;
+    }
+    while (name.startsWith(u'.'))
+        name.remove(0, 1);
+    const QString what = part == CarPart::Fuel      ? u"fuel"_s
+                         : part == CarPart::Repairs ? u"repairs"_s
+                                                    : u"maintenance"_s;
+    return QString(name + u' ' + what).trimmed() + u".csv"_s;
+}
+
+CarCsv::Columns CarCsv::Columns::find(const QList<QStringList> &lines, CarPart part)
+{
+    for (int i = 0; i < int(lines.size()); ++i) {
+        const Columns columns{namedBy(lines[i], part), i};
+        if (columns.isComplete() && std::ranges::count(columns.places, -1) + 2 <= columns.places.size())
+            return columns;
+    }
+    Columns columns;
+    const auto count = qsizetype(columnCount(part));
+    const bool fits = !lines.isEmpty() && lines.first().size() == count;
+    for (int i = 0; i < int(count); ++i)
+        columns.places.append(fits ? i : -1);
+    return columns;
+}
+
+bool CarCsv::Columns::isComplete() const
+{
+    const CarPart part =
+        places.size() == qsizetype(fuelColumns.size()) ? CarPart::Fuel : CarPart::Maintenance;
+    return !places.isEmpty() && places[dateColumn(part)] >= 0;
+}

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/model/carcsvimport.h"
+
+#include "cars/model/carnumbers.h"
+#include "cars/model/fuelfigures.h"
+#include "shell/core/dates.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int sampleLines = 200;
+constexpr int linesAStep = 50;
+constexpr qsizetype longestText = 400;
+constexpr int longestCurrency = 3;
+constexpr std::size_t historyDate = 1;
+constexpr std::size_t historyDescription = 2;
+
+template <typename Row, std::size_t count>
+Row rowOf(const QStringList &cells, const std::array<QString Row::*, count> &columns)
+{
+    Row row;
+    for (std::size_t i = 0; i < count; ++i)
+        row.*columns[i] = cells[qsizetype(i)];
+    return row;
+}
+
+template <typename Row, std::size_t count>
+QStringList cellsOf(const Row &row, const std::array<QString Row::*, count> &columns)
+{
+    QStringList cells;
+    for (const auto column : columns)
+        cells << row.*column;
+    return cells;
+}
+
+} // namespace
+
+CarCsvImport::CarCsvImport(const QByteArray &bytes, CarPart part, const CarRecord &car, DateStyle style,
+                           QDate today)
+    : m_file(bytes)
+    , m_part(part)
+    , m_car(car)
+    , m_style(style)
+    , m_today(today)
+{
+    look(style);
+    if (part == CarPart::Fuel) {
+        for (const FuelRow &row : car.fuel)
+            m_there.insert(keyOf(cellsOf(row, fuelColumns)));
+    } else {
+        for (const HistoryRow &row : part == CarPart::Repairs ? car.repairs : car.maintenance)
+            m_there.insert(keyOf(cellsOf(row, historyColumns)));
+    }
+}
+
+/// Finds out from the first lines how the file is written.
+void CarCsvImport::look(DateStyle style)
+{
+    QList<QStringList> sample;
+    QList<int> numbers;
+    CsvFile::Line line;
+    while (sample.size() < sampleLines && m_file.next(line)) {
+        sample.append(line.cells);
+        numbers.append(line.number);
+    }
+    m_file.rewind();
+    m_columns = CarCsv::Columns::find(sample, m_part);
+    m_headingNumber = m_columns.headingLine < 0 ? 0 : numbers[m_columns.headingLine];
+    QStringList dates;
+    QStringList amounts;
+    for (const QStringList &cells : sample) {
+        for (std::size_t column = 0; column < std::size_t(m_columns.places.size()); ++column) {
+            const int place = m_columns.places[qsizetype(column)];
+            if (place < 0)
+                continue;
+            // Readings have no decimals, but thousands that look like them.
+            const bool isAmount = isNumber(column) && (m_part == CarPart::Fuel ? column > 3 : column == 3);
+            if (isAmount)
+                amounts << cells.value(place);
+            else if (!isNumber(column))
+                dates << cells.value(place);
+        }
+    }
+    m_decimal = CsvCells::decimalSign(amounts);
+    m_order = CsvCells::dateOrder(dates, style);
+}
+
+bool CarCsvImport::isNumber(std::size_t column) const
+{
+    return m_part == CarPart::Fuel ? column != 0 : column != historyDate && column != historyDescription;
+}
+
+bool CarCsvImport::step()
+{
+    CsvFile::Line line;
+    for (int i = 0; i < linesAStep; ++i) {
+        if (!m_file.next(line))
+            return false;
+        if (line.number == m_headingNumber)
+            continue;
+        m_lines.push_back(read(line));
+        sort(m_lines.back());
+    }
+    return true;
+}
+
+CarCsvLine CarCsvImport::read(const CsvFile::Line &line) const
+{
+    CarCsvLine read{.number = line.number, .cells = {}, .date = {}, .problem = {}};
+    for (std::size_t column = 0; column < std::size_t(m_columns.places.size()); ++column) {
+        const int place = m_columns.places[qsizetype(column)];
+        read.cells << readCell(read, column, place < 0 ? QString() : line.cells.value(place));
+    }
+    if (!line.isClosed)
+        read.problem = u"a quote has no end"_s;
+    else if (read.date > m_today)
+        read.problem = u"a date to come"_s;
+    if (m_part != CarPart::Fuel && read.problem.isEmpty()) {
+        const auto current = CarNumbers::number(m_car.sheet.field(VehicleSheet::Odometer));
+        const auto reading = CarNumbers::number(read.cells.value(0));
+        if (current && reading && *reading > *current)
+            read.problem = u"above the current reading"_s;
+    }
+    return read;
+}
+
+/// The cell as it will be stored; what is wrong with it is put into `line`.
+QString CarCsvImport::readCell(CarCsvLine &line, std::size_t column, const QString &text) const
+{
+    const bool isDate = column == (m_part == CarPart::Fuel ? 0 : historyDate);
+    if (isDate) {
+        line.date = CsvCells::date(text, m_order);
+        if (!line.date.isValid())
+            line.problem = u"no date"_s;
+        return line.date.isValid() ? Dates::numbers(line.date, m_style) : text.left(longestText);
+    }
+    if (!isNumber(column) || text.isEmpty())
+        return text.left(longestText);
+    const QString found = number(text);
+    if (found.isEmpty() && line.problem.isEmpty())
+        line.problem = u"no number: "_s + text.left(20);
+    return found;
+}
+
+/// The number as it is stored: as it was typed where it can be read so, else its digits with a point before
+/// the decimals. Empty where `text` is none, or below 0.
+QString CarCsvImport::number(const QString &text) const
+{
+    if (m_decimal == u'.' && FuelFigures::sumOf(text))
+        return text.left(longestText);
+    QString digits;
+    int letters = 0;
+    for (const QChar character : text) {
+        if (character.isDigit())
+            digits += character;
+        else if (character == m_decimal)
+            digits += u'.';
+        else if (character == u'-' || character == u'(' || character == u'+')
+            return {};
+        else if (character.isLetter() && !digits.isEmpty())
+            break; // a unit
+        else if (character.isLetter() && ++letters > longestCurrency)
+            return {};
+    }
+    return digits.count(u'.') <= 1 && CarNumbers::number(digits) ? digits : QString();
+}
+
+/// A row is known by its date and, of a fill-up, its reading, else by what was done.
+QString CarCsvImport::keyOf(const QStringList &cells) const
+{
+    const bool isFuel = m_part == CarPart::Fuel;
+    const QString date = cells[qsizetype(isFuel ? 0 : historyDate)];
+    const QDate day = CarNumbers::date(date, m_style).value_or(QDate());
+    const auto figure = [&cells](qsizetype column) {
+        const auto number = CarNumbers::number(cells[column]);
+        return number ? CarNumbers::text(*number) : QString();
+    };
+    QString key = (day.isValid() ? day.toString(Qt::ISODate) : date) + u'\n';
+    if (!isFuel)
+        return key + figure(0) + u'\n' + cells[historyDescription].simplified().toLower();
+    // Two fill-ups of a day without a reading differ by what was filled in.
+    const QString reading = figure(2);
+    return key + (reading.isEmpty() ? figure(3) + u'\n' + figure(4) : reading);
+}
+
+qsizetype CarCsvImport::room() const
+{
+    return m_part == CarPart::Fuel ? mostFuelRows - m_car.fuel.size() - m_chosen : 1;
+}
+
+void CarCsvImport::sort(CarCsvLine &line)
+{
+    if (!line.problem.isEmpty() || line.cells.isEmpty())
+        return;
+    const QString key = keyOf(line.cells);
+    line.state = m_there.contains(key) ? CarCsvLine::Duplicate
+                 : room() <= 0         ? CarCsvLine::Full
+                                       : CarCsvLine::Ready;
+    m_there.insert(key);
+    line.isChosen = line.state == CarCsvLine::Ready;
+    m_chosen += line.isChosen ? 1 : 0;
+}
+
+void CarCsvImport::setChosen(std::size_t line, bool isChosen)
+{
+    CarCsvLine &changed = m_lines[line];
+    if (changed.isChosen == isChosen || changed.state == CarCsvLine::NotRead || (isChosen && room() <= 0))
+        return;
+    changed.isChosen = isChosen;
+    m_chosen += isChosen ? 1 : -1;
+}
+
+int CarCsvImport::count(CarCsvLine::State state) const
+{
+    return int(std::ranges::count(m_lines, state, &CarCsvLine::state));
+}
+
+CarRecord CarCsvImport::result() const
+{
+    std::vector<const CarCsvLine *> chosen;
+    for (const CarCsvLine &line : m_lines) {
+        if (line.isChosen)
+            chosen.push_back(&line);
+    }
+    std::ranges::stable_sort(chosen, {}, &CarCsvLine::date);
+    CarRecord car = m_car;
+    for (const CarCsvLine *line : chosen) {
+        if (m_part == CarPart::Fuel)
+            car.fuel.append(rowOf(line->cells, fuelColumns));
+        else
+            (m_part == CarPart::Repairs ? car.repairs : car.maintenance)
+                .append(rowOf(line->cells, historyColumns));
+    }
+    return car;
+}
