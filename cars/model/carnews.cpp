@@ -4,6 +4,7 @@
 #include "cars/model/carfiles.h"
 #include "cars/model/carneeds.h"
 #include "cars/model/carnumbers.h"
+#include "cars/model/carplace.h"
 #include "cars/model/duewords.h"
 #include "cars/model/fuelfigures.h"
 
@@ -127,7 +128,7 @@ QList<DayNote> CarNews::dayNotes(const DataFolder &folder, DateStyle style, QDat
                  .text = car.vehicle.name + u": "_s + noteWords(need, isMoved, car.sheet.unit, style, today),
                  .source = u"Car Log"_s,
                  .kind = isOverdue ? NoteKind::Overdue : NoteKind::Due,
-                 .place = {.record = car.vehicle.slot, .date = date, .row = need.row},
+                 .place = CarPlace{.slot = car.vehicle.slot, .row = need.row}.place(date),
                  .nameLength = car.vehicle.name.size()});
         }
     }

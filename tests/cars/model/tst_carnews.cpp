@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/model/carfiles.h"
 #include "cars/model/carnews.h"
+#include "cars/model/carplace.h"
+#include "cars/model/carsource.h"
 #include "cars/model/duewords.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
@@ -137,7 +139,7 @@ private slots:
         QCOMPARE(notes[0].date, date);
         QCOMPARE(notes[0].kind, kind);
         QCOMPARE(notes[0].text, u"Family car: "_s + words);
-        QCOMPARE(notes[0].place.row, 4);
+        QCOMPARE(CarPlace::of(notes[0].place), (CarPlace{1, CarPart::Sheet, 4}));
     }
 
     void saysWhatTheHouseholdsCarsNeed()
@@ -156,6 +158,30 @@ private slots:
                                     u"oil change: Overdue since Sep 2, 2,000 miles left, -81 days"_s,
                                     u"tires: Overdue since Nov 20, 3,000 miles left, -2 days"_s,
                                     u"registration: Runs out Aug 31, 2027, , 9 months"_s}));
+    }
+
+    void findsCarsAndWhatWasDone()
+    {
+        m_car.sheet.field(VehicleSheet::License) = u"QLA 947"_s;
+        m_car.maintenance = {{u"9000"_s, u"08/13/2025"_s, u"Wash"_s, {}},
+                             {u"9100"_s, u"08/13/2026"_s, u"Café stop, wash"_s, u"5"_s}};
+        m_car.repairs = {{u"9050"_s, {}, u"Bulb"_s, {}}};
+        create();
+        CarSource source(m_test->folder(), DateStyle::Usa);
+        while (source.prepare()) {}
+        QCOMPARE(source.matches(u"qla", 9),
+                 QList<SearchHit>({{u"Family car"_s, u"Toyota, QLA 947"_s, {.record = 1}}}));
+        const QList<SearchHit> washed = source.matches(u"wash", 9);
+        QCOMPARE(washed.size(), 2);
+        QCOMPARE(washed[0].context, u"Family car, Aug 13, 2026, 5"_s);
+        QCOMPARE(CarPlace::of(washed[0].place), (CarPlace{1, CarPart::Maintenance, 1}));
+        QCOMPARE(CarPlace::of(source.matches(u"bulb", 9)[0].place), (CarPlace{1, CarPart::Repairs, 0}));
+        QCOMPARE(CarPlace::of({.record = 1, .row = -1}), CarPlace{.slot = 1});
+
+        m_car.vehicle.name = u"Bulb car"_s;
+        create();
+        while (source.prepare()) {}
+        QCOMPARE(source.matches(u"bulb car", 9).first().title, u"Bulb car"_s);
     }
 
 private:
