@@ -69,7 +69,17 @@ void SheetGrid::measure()
 {
     const SheetColumns::Widths needed = SheetColumns::needed(m_model);
     if (std::exchange(m_needed, needed) != needed)
-        fitColumns();
+        fitAroundCurrent();
+}
+
+/// The month in which one is stays in view.
+void SheetGrid::fitAroundCurrent()
+{
+    const int current = currentIndex().column();
+    const bool wasInView = current >= 0 && !isColumnHidden(current);
+    fitColumns();
+    if (wasInView && isColumnHidden(current))
+        scrollTo(currentIndex());
 }
 
 void SheetGrid::fitColumns()
@@ -339,12 +349,8 @@ void SheetGrid::wheelEvent(QWheelEvent *event)
 
 void SheetGrid::resizeEvent(QResizeEvent *event)
 {
-    const int current = currentIndex().column();
-    const bool wasInView = current >= 0 && !isColumnHidden(current);
     QTableView::resizeEvent(event);
-    fitColumns();
-    if (wasInView && isColumnHidden(current))
-        scrollTo(currentIndex());
+    fitAroundCurrent();
 }
 
 void SheetGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -68,6 +68,7 @@ protected:
 private:
     void measure();
     void fitColumns();
+    void fitAroundCurrent();
     /// The cell that lies where the arrow `key` leads to: the next one, or the end of what is filled.
     QModelIndex beside(const QModelIndex &from, int rows, int columns, bool toEnd) const;
     QModelIndex target(const QKeyEvent &key) const;

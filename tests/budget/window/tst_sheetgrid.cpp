@@ -332,6 +332,14 @@ private slots:
         const int edge = grid()->visualRect(grid()->currentIndex()).right();
         QCOMPARE(grid()->viewport()->mapTo(m_window, QPoint(edge, 0)).x(),
                  december->mapTo(m_window, QPoint(december->width() - 1, 0)).x());
+        // Another month becomes wide, and fewer have room.
+        const int inView = grid()->monthsInView();
+        m_test->dialogs.willInput(u"99999.99"_s);
+        m_test->dialogs.willAnswer(Answer::No);
+        QTest::mouseClick(find<QLabel>("Label5_9"), Qt::LeftButton);
+        asked();
+        QVERIFY(grid()->monthsInView() < inView);
+        QVERIFY(!grid()->isColumnHidden(12));
         QVERIFY(find<QScrollBar>("monthBar")->isVisible());
         find<QScrollBar>("monthBar")->setValue(0);
         QVERIFY(!grid()->isColumnHidden(1));
