@@ -112,7 +112,8 @@ QWidget *YearsView::makeComparison()
     QVBoxLayout *rows = column(part);
     m_missing->setMinimumHeight(SheetLook::rowHeight() - rows->spacing());
     rows->addWidget(m_missing);
-    rows->addWidget(new WholeRows(m_table, m_sum), 1);
+    m_tableRows = new WholeRows(m_table, m_sum);
+    rows->addWidget(m_tableRows, 1);
     return part;
 }
 
@@ -182,6 +183,8 @@ void YearsView::resizeEvent(QResizeEvent *event)
     const bool isNarrow = event->size().width() < leastWidthForBoth;
     m_sides->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     m_sides->setSpacing(isNarrow ? 12 : 24);
+    for (WholeRows *rows : {m_tableRows, m_asideRows})
+        rows->setGivesWay(!isNarrow);
     TaskPanel::resizeEvent(event);
 }
 

@@ -10,6 +10,7 @@ class QBoxLayout;
 class QComboBox;
 class QTableView;
 class SumRow;
+class WholeRows;
 template <typename Row>
 class RowsModel;
 
@@ -47,6 +48,7 @@ private:
     QTableView *m_table = nullptr;
     SumRow *m_sum = nullptr;
     QLabel *m_asideWords = nullptr;
-    QWidget *m_asideRows = nullptr;
+    WholeRows *m_tableRows = nullptr;
+    WholeRows *m_asideRows = nullptr;
     SumRow *m_asideSum = nullptr;
 };

@@ -142,6 +142,19 @@ WholeRows::WholeRows(QAbstractItemView *view, QWidget *foot, QWidget *parent)
     setFocusProxy(view);
 }
 
+void WholeRows::setGivesWay(bool givesWay)
+{
+    QSizePolicy policy = sizePolicy();
+    policy.setHeightForWidth(givesWay);
+    setSizePolicy(policy);
+}
+
+/// What a part that scrolls takes for the least height, once some of it depends on the width.
+int WholeRows::heightForWidth(int) const
+{
+    return minimumSizeHint().height();
+}
+
 QSize WholeRows::sizeHint() const
 {
     return {m_view->sizeHint().width(), 8 * rowHeight() + aroundRows() + footHeight()};

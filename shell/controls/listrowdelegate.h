@@ -42,8 +42,13 @@ class WholeRows final : public QWidget
 public:
     explicit WholeRows(QAbstractItemView *view, QWidget *foot = nullptr, QWidget *parent = nullptr);
 
+    /// Beside words that wrap, in a part that scrolls: it asks for its fewest rows alone, so that the part is
+    /// not scrolled while the rows can be.
+    void setGivesWay(bool givesWay);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     bool event(QEvent *event) override;
