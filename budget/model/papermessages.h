@@ -13,14 +13,13 @@ using namespace Qt::Literals::StringLiterals;
 
 inline QString sheetTitle(ShownYear shown)
 {
-    return u" Personal Budget For "_s + QString::number(shown.year) +
-           (shown.isSpent() ? u", Spent"_s : QString());
+    return (shown.isSpent() ? u" Spent In "_s : u" Personal Budget For "_s) + QString::number(shown.year);
 }
 
 inline QString totalsTitle(ShownYear shown)
 {
-    return u"BUDGET TOTALS FOR "_s + QString::number(shown.year) +
-           (shown.isSpent() ? u", SPENT"_s : QString());
+    // No longer than that of the plan: the chart stands right below it.
+    return (shown.isSpent() ? u"TOTALS SPENT IN "_s : u"BUDGET TOTALS FOR "_s) + QString::number(shown.year);
 }
 
 /// Beside what the totals' shares are of.

@@ -72,7 +72,7 @@ private slots:
         QCOMPARE(lines.mid(12), (QStringList{{}, u"Quillery"_s, u"Printed on 11/22/2026"_s}));
         const QString spent =
             BudgetPages::sheet({2026, SheetLayer::Spent}, small(), paper(PageSetup::Portrait)).toText();
-        QVERIFY(spent.contains(u" Personal Budget For 2026, Spent"_s));
+        QVERIFY(spent.contains(u" Spent In 2026"_s));
         QVERIFY(spent.contains(u"\nTotal Spent:\t2230.00\t"_s) &&
                 spent.contains(u"\nNot Spent Yet:\t-230.00\t"_s));
     }
@@ -112,7 +112,7 @@ private slots:
 
         const QString spent =
             BudgetPages::totals({2026, SheetLayer::Spent}, small(), basis, {}, paper(orientation)).toText();
-        QVERIFY(spent.contains(u"BUDGET TOTALS FOR 2026, SPENT"_s));
+        QVERIFY(spent.contains(u"TOTALS SPENT IN 2026"_s));
         QVERIFY(spent.contains(u"What was spent, in the whole year. "_s + caption));
 
         const Page plain = BudgetPages::totals(2026, small(), basis, {}, paper(orientation));
