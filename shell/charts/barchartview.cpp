@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -20,8 +19,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int frame = 8; ///< around all of it, with the rim of the focus
-constexpr int headGap = 10;
 constexpr int fewestRows = 3;
 constexpr int leastWidth = 320;
 constexpr int mostRowHeight = 40;
@@ -30,21 +27,11 @@ constexpr int barWidth = 14;
 } // namespace
 
 BarChartView::BarChartView(const QString &name, QWidget *parent)
-    : QWidget(parent)
+    : ChartView(name, parent)
     , m_plot(std::make_unique<BarPlot>(this))
-    , m_title(makeHeading({}, this))
-    , m_caption(makeQuietLabel({}, this))
-    , m_reading(named(new ElidedLabel(this), name + u"Reading"_s))
     , m_bar(named(new QScrollBar(Qt::Vertical, this), name + u"Scroll"_s))
 {
-    setObjectName(name);
-    m_title->setObjectName(name + u"Title"_s);
-    m_caption->setObjectName(name + u"Caption"_s);
-    m_reading->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_bar->setAccessibleName(u"Bars in view"_s);
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     connect(m_bar, &QScrollBar::valueChanged, this, &BarChartView::scroll);
 }
 
@@ -55,10 +42,7 @@ void BarChartView::setChart(const BarChart &chart)
     const bool isSameBar = m_current >= 0 && m_current < chart.bars.size() &&
                            m_chart.bars[m_current].name == chart.bars[m_current].name;
     m_chart = chart;
-    setAccessibleName(chart.title);
-    setAccessibleDescription(chart.description());
-    m_title->setText(chart.title);
-    m_caption->setText(chart.caption);
+    setHead(chart.title, chart.caption, chart.description());
     m_current = isSameBar ? m_current : -1;
     restyle();
     arrange();
@@ -70,15 +54,9 @@ void BarChartView::setCurrent(int bar)
     m_current = bar >= 0 && bar < count() ? bar : -1;
     if (m_current >= 0)
         m_bar->setValue(std::clamp(m_bar->value(), m_current - m_inView + 1, m_current));
-    m_reading->setText(m_current >= 0 ? m_chart.bars[m_current].text() : QString());
+    setReading(m_current >= 0 ? m_chart.bars[m_current].text() : QString());
     m_plot->setCurrent(m_current);
     m_plot->draw();
-}
-
-int BarChartView::headHeight() const
-{
-    const int caption = m_chart.caption.isEmpty() ? 0 : m_caption->sizeHint().height();
-    return frame + m_title->sizeHint().height() + caption + headGap;
 }
 
 QSize BarChartView::sizeHint() const
@@ -99,10 +77,8 @@ QSize BarChartView::minimumSizeHint() const
     return {leastWidth, headHeight() + m_plot->heightOf(fewestRows, rowHeight) + frame};
 }
 
-void BarChartView::restyle()
+void BarChartView::setStyle(const ChartStyle &style)
 {
-    const ChartStyle style = ChartStyle::onScreen(this);
-    m_title->setFont(style.title);
     m_plot->setChart(m_chart, style);
 }
 
@@ -117,12 +93,7 @@ void BarChartView::arrange()
     m_inView = std::clamp(room / rowHeight, 1, std::max(1, count()));
     const bool isWhole = m_inView >= count();
     const int width = this->width() - 2 * frame - (isWhole ? 0 : barWidth);
-    const int titleHeight = m_title->sizeHint().height();
-    const int titleWidth = std::min(m_title->sizeHint().width(), width);
-    m_title->setGeometry(frame, frame, titleWidth, titleHeight);
-    m_reading->setGeometry(frame + titleWidth + headGap, frame, std::max(0, width - titleWidth - headGap),
-                           titleHeight);
-    m_caption->setGeometry(frame, frame + titleHeight, width, m_caption->sizeHint().height());
+    placeHead(width);
     // The names stand below the title.
     m_plot->widget()->setGeometry(frame - style.inset, top, width + style.inset,
                                   m_plot->heightOf(m_inView, rowHeight));
@@ -168,39 +139,6 @@ bool BarChartView::event(QEvent *event)
     QToolTip::showText(help->globalPos(), bar >= 0 ? m_chart.bars[bar].text() : QString(), this,
                        barRect(bar));
     return true;
-}
-
-void BarChartView::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
-        restyle();
-        arrange();
-    }
-}
-
-void BarChartView::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    arrange();
-}
-
-/// The panel's colours come with the style, when the view comes to the screen.
-void BarChartView::showEvent(QShowEvent *event)
-{
-    restyle();
-    arrange();
-    QWidget::showEvent(event);
-}
-
-void BarChartView::paintEvent(QPaintEvent *)
-{
-    if (!hasFocus())
-        return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(ThemeRole::strong), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 8, 8);
 }
 
 void BarChartView::keyPressEvent(QKeyEvent *event)
@@ -255,23 +193,8 @@ void BarChartView::wheelEvent(QWheelEvent *event)
         QCoreApplication::sendEvent(m_bar, event);
 }
 
-void BarChartView::leaveEvent(QEvent *event)
+void BarChartView::nameFirst()
 {
-    QWidget::leaveEvent(event);
-    if (!hasFocus())
-        setCurrent(-1);
-}
-
-void BarChartView::focusInEvent(QFocusEvent *event)
-{
-    QWidget::focusInEvent(event);
     if (m_current < 0)
         setCurrent(0);
-}
-
-void BarChartView::focusOutEvent(QFocusEvent *event)
-{
-    QWidget::focusOutEvent(event);
-    if (!underMouse())
-        setCurrent(-1);
 }

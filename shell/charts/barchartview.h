@@ -2,19 +2,16 @@
 #pragma once
 
 #include "shell/charts/barchart.h"
-
-#include <QWidget>
+#include "shell/charts/chartview.h"
 
 #include <memory>
 
 class BarPlot;
-class ElidedLabel;
-class QLabel;
 class QScrollBar;
 
-/// A chart of bars on a panel, in its colours: scrolls where the bars have no room, and names the bar that
-/// the mouse or the arrow keys point at. Its parts are named after it: "itemsChart" has itemsChartTitle.
-class BarChartView final : public QWidget
+/// A chart of bars on a panel: scrolls where the bars have no room, and names the bar that the mouse or the
+/// arrow keys point at.
+class BarChartView final : public ChartView
 {
     Q_OBJECT
 public:
@@ -36,32 +33,24 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void setStyle(const ChartStyle &style) override;
+    void arrange() override;
+    void nameFirst() override;
+    void nameNothing() override { setCurrent(-1); }
+
     bool event(QEvent *event) override;
-    void changeEvent(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     int count() const { return int(m_chart.bars.size()); }
-    int headHeight() const;
     int barAt(QPoint place) const;
-    void restyle();
-    void arrange();
     void scroll();
 
     BarChart m_chart;
     std::unique_ptr<BarPlot> m_plot;
-    QLabel *m_title;
-    QLabel *m_caption;
-    ElidedLabel *m_reading; ///< of the bar that is named
     QScrollBar *m_bar;
     int m_inView = 0;
     int m_current = -1;

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -24,7 +25,24 @@ QFont pixels(int size, QFont::Weight weight = QFont::Normal)
     return font;
 }
 
+/// Of the lines behind the first, which has the accent.
+constexpr std::array<QRgb, 5> hues{0x97501F, 0x2B6296, 0x7A4588, 0x4A7326, 0x505A66};
+
+QColor halfWayToWhite(QColor color)
+{
+    return {(color.red() + 255) / 2, (color.green() + 255) / 2, (color.blue() + 255) / 2};
+}
+
 } // namespace
+
+QPen ChartStyle::linePen(qsizetype index) const
+{
+    QPen pen(lineColor(index), isOnPaper ? 1.5 : 2, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    static const QList<QList<qreal>> dashes{{}, {6, 3}, {2, 2}, {8, 3, 2, 3}, {12, 4}, {2, 5}};
+    if (const QList<qreal> &pattern = dashes[index % dashes.size()]; isOnPaper && !pattern.isEmpty())
+        pen.setDashPattern(pattern);
+    return pen;
+}
 
 /// Of the palette: a panel of the user's colour passes its ink on. The bars keep their hue where it can be
 /// seen.
@@ -32,12 +50,19 @@ ChartStyle ChartStyle::onScreen(const QWidget *widget)
 {
     const QPalette palette = widget->palette();
     const QColor ground = palette.color(QPalette::Window);
-    const QColor accent = Theme::of(widget).accent;
+    const Theme &theme = Theme::of(widget);
+    const auto visible = [&](const QColor &color) {
+        return contrast(color, ground) >= leastContrast ? color : palette.color(ThemeRole::strong);
+    };
+    QList<QColor> lines{visible(theme.accent)};
+    for (const QRgb hue : hues)
+        lines << visible(theme.scheme == Icons::Scheme::Dark ? halfWayToWhite(hue) : QColor(hue));
     return {.ground = ground,
             .text = palette.color(QPalette::WindowText),
             .quiet = palette.color(ThemeRole::quiet),
             .line = palette.color(ThemeRole::line),
-            .series = contrast(accent, ground) >= leastContrast ? accent : palette.color(ThemeRole::strong),
+            .series = lines.first(),
+            .lines = lines,
             .title = TypeScale::group(),
             .body = TypeScale::body(),
             .label = TypeScale::label(),
@@ -52,6 +77,8 @@ ChartStyle ChartStyle::onPaper(int inset)
             .quiet = Qt::black,
             .line = QColor(0xDD, 0xDD, 0xDD),
             .series = QColor(0x0B, 0x67, 0x60),
+            .lines = {Qt::black},
+            .isOnPaper = true,
             .title = pixels(15, QFont::DemiBold),
             .body = pixels(12),
             .label = pixels(12),

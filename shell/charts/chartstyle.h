@@ -3,6 +3,8 @@
 
 #include <QColor>
 #include <QFont>
+#include <QList>
+#include <QPen>
 
 class QWidget;
 
@@ -10,10 +12,15 @@ class QWidget;
 /// what prints well.
 struct ChartStyle {
     QColor ground, text, quiet, line;
-    QColor series; ///< bars
+    QColor series;       ///< bars
+    QList<QColor> lines; ///< one after the other; on paper dashes tell them apart
+    bool isOnPaper = false;
     QFont title, body, label;
     int rowHeight = 0; ///< of a bar with its name
     int inset = 0;     ///< between the left edge and what is written
+
+    QColor lineColor(qsizetype index) const { return lines.value(index % lines.size(), series); }
+    QPen linePen(qsizetype index) const;
 
     static ChartStyle onScreen(const QWidget *widget);
     /// For a picture of 96 points to the inch, drawn larger.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/charts/linechart.h"
 
+#include "shell/charts/chartticks.h"
 #include "shell/core/dates.h"
 
 #include <QLocale>
@@ -33,15 +34,25 @@ QString described(const LineChart &chart, const LineChart::Series &series)
            chart.up.text(most->y);
 }
 
-} // namespace
-
-QString LineChart::Axis::text(double value) const
+/// "-$1,234.50"
+QString number(double value, int decimals, const QString &before)
 {
     const double factor = std::pow(10.0, decimals);
     const double rounded = std::round(value * factor) / factor; // there is no "-0"
     const QLocale locale(QLocale::English, QLocale::UnitedStates);
-    return (rounded < 0 ? u"-"_s : QString()) + before + locale.toString(std::abs(rounded), 'f', decimals) +
-           behind;
+    return (rounded < 0 ? u"-"_s : QString()) + before + locale.toString(std::abs(rounded), 'f', decimals);
+}
+
+} // namespace
+
+QString LineChart::Axis::text(double value) const
+{
+    return number(value, decimals, before) + behind;
+}
+
+QString LineChart::Axis::tickText(double value, double step) const
+{
+    return number(value, ChartTicks::decimals(step), before);
 }
 
 bool LineChart::isEmpty() const
@@ -54,11 +65,11 @@ QString LineChart::acrossText(double x) const
     return kind == Across::Days ? Dates::shortWithYear(dateAt(x), style) : across.text(x);
 }
 
-QString LineChart::pointText(qsizetype index, qsizetype point) const
+QString LineChart::textOf(const Spot &spot) const
 {
-    const Series &of = series[index];
-    const QString name = series.size() > 1 && !of.name.isEmpty() ? of.name + u", "_s : QString();
-    return name + acrossText(of.points[point].x) + u": "_s + shown(*this, of.points[point]);
+    const Series &of = series[spot.series];
+    const QString name = series.size() > 1 && !of.name.isEmpty() ? QString(of.name + u", "_s) : QString();
+    return name + acrossText(at(spot).x) + u": "_s + shown(*this, at(spot));
 }
 
 QString LineChart::description() const

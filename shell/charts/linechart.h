@@ -24,6 +24,12 @@ struct LineChart {
         QList<Point> points; ///< in the order of x
         bool operator==(const Series &) const = default;
     };
+    /// One of the points.
+    struct Spot {
+        qsizetype series = 0;
+        qsizetype point = 0;
+        bool operator==(const Spot &) const = default;
+    };
     /// A value that lies across the chart, named at its edge: a goal is dashed, a beginning dotted.
     struct Level {
         enum Kind { Goal, Beginning };
@@ -39,6 +45,8 @@ struct LineChart {
         QString behind = {}; ///< " mpg"
         int decimals = 0;    ///< of a value that is read out; the ticks have as many as they need
         QString text(double value) const;
+        /// At a tick, among others at this step: without what stands behind.
+        QString tickText(double value, double step) const;
         bool operator==(const Axis &) const = default;
     };
     enum class Across { Days, Numbers };
@@ -61,8 +69,9 @@ struct LineChart {
     bool isEmpty() const;
     /// "Nov 3, 2026", or the number as its axis writes it.
     QString acrossText(double x) const;
+    const Point &at(const Spot &spot) const { return series[spot.series].points[spot.point]; }
     /// "Volvo, Nov 3, 2026: 31.4 mpg, partial fill-up"; the name only where there are several series.
-    QString pointText(qsizetype series, qsizetype point) const;
+    QString textOf(const Spot &spot) const;
     /// Title, axes, series and ranges in words.
     QString description() const;
 

@@ -2,6 +2,7 @@
 #include "shell/charts/paperchart.h"
 
 #include "shell/charts/barplot.h"
+#include "shell/charts/lineplot.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -39,7 +40,7 @@ int barRoom(QSizeF inches, const ChartStyle &style)
     return points(inches).height() - headHeight(style) - plot.heightOf(0, 0);
 }
 
-void drawHead(QPainter &painter, const BarChart &chart, const ChartStyle &style, int width)
+void drawHead(QPainter &painter, const auto &chart, const ChartStyle &style, int width)
 {
     const int height = QFontMetrics(style.title).height();
     painter.setPen(style.text);
@@ -92,5 +93,24 @@ QImage PaperChart::draw(const BarChart &chart, QSizeF inches, double inset)
         painter.drawPixmap(QRectF(QPointF(column * part.width(), headHeight(style)), QSizeF(part)), bars,
                            QRectF(bars.rect()));
     }
+    return image;
+}
+
+QImage PaperChart::draw(const LineChart &chart, QSizeF inches, double inset)
+{
+    constexpr double scale = printed / drawn;
+    const ChartStyle style = ChartStyle::onPaper(int(std::round(inset * drawn)));
+    const QSize size = points(inches);
+    const int head = headHeight(style);
+    LinePlot plot;
+    plot.setChart(chart, style);
+    QImage image((inches * printed).toSize(), QImage::Format_RGB32);
+    image.fill(style.ground);
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    drawHead(painter, chart, style, size.width());
+    const QSize part(size.width(), std::max(1, size.height() - head));
+    const QPixmap lines = plot.picture(part, scale);
+    painter.drawPixmap(QRectF(QPointF(0, head), QSizeF(part)), lines, QRectF(lines.rect()));
     return image;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/charts/barchart.h"
+#include "shell/charts/linechart.h"
 
 #include <QImage>
 #include <QSizeF>
@@ -15,5 +16,6 @@ int mostBars(QSizeF inches);
 /// `chart` in such a frame, for a page that is printed at 300 points to the inch; what is written begins
 /// `inset` inches from the left.
 QImage draw(const BarChart &chart, QSizeF inches, double inset = 0);
+QImage draw(const LineChart &chart, QSizeF inches, double inset = 0);
 
 } // namespace PaperChart

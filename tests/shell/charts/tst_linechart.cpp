@@ -39,7 +39,7 @@ private slots:
             u"How far a gallon goes. Line chart. Across: Date. Up: Miles per gallon. Volvo, 2 points from "
             "Jan 3, 2026 to Jan 20, 2026, 30.0 mpg to 33.1 mpg. Van, 2 points from Jan 20, 2026 to "
             "Jan 20, 2026, 19.0 mpg to 1,250.5 mpg. Goal: 32.0 mpg."_s);
-        QCOMPARE(twoCars().pointText(0, 1), u"Volvo, Jan 20, 2026: 33.1 mpg, partial fill-up"_s);
+        QCOMPARE(twoCars().textOf({0, 1}), u"Volvo, Jan 20, 2026: 33.1 mpg, partial fill-up"_s);
         LineChart empty = twoCars();
         empty.series.clear();
         empty.nothing = u"No fill-ups yet"_s;

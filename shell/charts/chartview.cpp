@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/charts/chartview.h"
+
+#include "shell/controls/controls.h"
+#include "shell/look/theme.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int headGap = 10;
+} // namespace
+
+ChartView::ChartView(const QString &name, QWidget *parent)
+    : QWidget(parent)
+    , m_title(named(new ElidedLabel(this), name + u"Title"_s))
+    , m_caption(named(makeQuietLabel({}, this), name + u"Caption"_s))
+    , m_reading(named(new ElidedLabel(this), name + u"Reading"_s))
+{
+    setObjectName(name);
+    m_title->setFont(TypeScale::group());
+    m_reading->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ChartView::setHead(const QString &title, const QString &caption, const QString &description)
+{
+    setAccessibleName(title);
+    setAccessibleDescription(description);
+    m_title->setText(title);
+    m_caption->setText(caption);
+}
+
+void ChartView::setReading(const QString &words)
+{
+    m_reading->setText(words);
+}
+
+int ChartView::headHeight() const
+{
+    const int caption = m_caption->text().isEmpty() ? 0 : m_caption->sizeHint().height();
+    return frame + m_title->sizeHint().height() + caption + headGap;
+}
+
+void ChartView::placeHead(int width)
+{
+    const int titleHeight = m_title->sizeHint().height();
+    const int titleWidth = std::min(m_title->sizeHint().width(), width);
+    m_title->setGeometry(frame, frame, titleWidth, titleHeight);
+    m_reading->setGeometry(frame + titleWidth + headGap, frame, std::max(0, width - titleWidth - headGap),
+                           titleHeight);
+    m_caption->setGeometry(frame, frame + titleHeight, width, m_caption->sizeHint().height());
+}
+
+void ChartView::restyle()
+{
+    const ChartStyle style = ChartStyle::onScreen(this);
+    m_title->setFont(style.title);
+    setStyle(style);
+}
+
+void ChartView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+        restyle();
+        arrange();
+    }
+}
+
+void ChartView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    arrange();
+}
+
+/// The panel's colours come with the style, when the view comes to the screen.
+void ChartView::showEvent(QShowEvent *event)
+{
+    restyle();
+    arrange();
+    QWidget::showEvent(event);
+}
+
+void ChartView::paintEvent(QPaintEvent *)
+{
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(ThemeRole::strong), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 8, 8);
+}
+
+void ChartView::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    if (!hasFocus())
+        nameNothing();
+}
+
+void ChartView::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    nameFirst();
+}
+
+void ChartView::focusOutEvent(QFocusEvent *event)
+{
+    QWidget::focusOutEvent(event);
+    if (!underMouse())
+        nameNothing();
+}

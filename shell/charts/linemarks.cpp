@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/charts/linemarks.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int gap = 10;
+constexpr double pointSize = 6;
+constexpr double ringSize = 12;
+constexpr double pointSpace = 10; ///< points nearer to one another are left to the line
+constexpr double mostForNames = 0.3;
+
+} // namespace
+
+LineMarks::LineMarks(QCustomPlot *plot, const LineChart &chart, const ChartStyle &style)
+    : QCPLayerable(plot, u"overlay"_s)
+    , m_plot(plot)
+    , m_chart(chart)
+    , m_style(style)
+{}
+
+void LineMarks::applyDefaultAntialiasingHint(QCPPainter *painter) const
+{
+    painter->setAntialiasing(true);
+}
+
+QPointF LineMarks::placeOf(const LineChart::Point &point) const
+{
+    return {m_plot->xAxis->coordToPixel(point.x), m_plot->yAxis->coordToPixel(point.y)};
+}
+
+void LineMarks::draw(QCPPainter *painter)
+{
+    if (m_chart.isEmpty()) {
+        drawWords(painter);
+        return;
+    }
+    painter->save();
+    painter->setClipRect(m_plot->axisRect()->rect().adjusted(-4, -8, 4, 8));
+    drawLevels(painter);
+    drawPoints(painter);
+    drawCurrent(painter);
+    painter->restore();
+    drawNames(painter);
+    painter->setFont(m_style.label);
+    painter->setPen(m_style.quiet);
+    painter->drawText(
+        QRectF(m_style.inset, 0, m_plot->viewport().width(), QFontMetrics(m_style.label).height()),
+        int(Qt::AlignLeft | Qt::AlignVCenter), m_chart.up.name);
+}
+
+void LineMarks::drawLevels(QCPPainter *painter) const
+{
+    const QRect axes = m_plot->axisRect()->rect();
+    for (const LineChart::Level &level : m_chart.levels) {
+        const bool isGoal = level.kind == LineChart::Level::Goal;
+        const double y = std::round(m_plot->yAxis->coordToPixel(level.y)) + 0.5;
+        painter->setPen(QPen(m_style.quiet, 1, isGoal ? Qt::DashLine : Qt::DotLine, Qt::FlatCap));
+        painter->drawLine(QPointF(axes.left(), y), QPointF(axes.right(), y));
+    }
+}
+
+/// Hollow ones always, unless there is no telling them apart.
+void LineMarks::drawPoints(QCPPainter *painter) const
+{
+    const QCPRange view = m_plot->xAxis->range();
+    for (qsizetype index = 0; index < m_chart.series.size(); ++index) {
+        const auto &points = m_chart.series[index].points;
+        const auto first = std::ranges::lower_bound(points, view.lower, {}, &LineChart::Point::x);
+        const auto last = std::ranges::upper_bound(points, view.upper, {}, &LineChart::Point::x);
+        if (double(last - first) * pointSpace > m_plot->axisRect()->width())
+            continue;
+        const QColor color = m_style.lineColor(index);
+        for (auto point = first; point != last; ++point) {
+            const bool isHollow = !point->note.isEmpty();
+            painter->setPen(isHollow ? QPen(color, 1.5) : QPen(Qt::NoPen));
+            painter->setBrush(isHollow ? m_style.ground : color);
+            const double radius = isHollow ? pointSize / 2 + 0.5 : pointSize / 2;
+            painter->drawEllipse(placeOf(*point), radius, radius);
+        }
+    }
+}
+
+void LineMarks::drawCurrent(QCPPainter *painter) const
+{
+    if (!m_current)
+        return;
+    const QRect axes = m_plot->axisRect()->rect();
+    const QPointF place = placeOf(m_chart.at(*m_current));
+    painter->setPen(QPen(m_style.quiet, 1));
+    painter->drawLine(QPointF(place.x(), axes.top()), QPointF(place.x(), axes.bottom()));
+    painter->setPen(QPen(m_style.lineColor(m_current->series), 2));
+    painter->setBrush(m_style.ground);
+    painter->drawEllipse(place, ringSize / 2, ringSize / 2);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(m_style.lineColor(m_current->series));
+    painter->drawEllipse(place, pointSize / 2, pointSize / 2);
+}
+
+std::vector<QString> LineMarks::names() const
+{
+    std::vector<QString> names;
+    for (const LineChart::Series &series : m_chart.series)
+        names.push_back(series.name);
+    for (const LineChart::Level &level : m_chart.levels)
+        names.push_back(level.name);
+    return names;
+}
+
+int LineMarks::namesWidth(int width) const
+{
+    const QFontMetrics metrics(m_style.label);
+    int widest = 0;
+    for (const QString &name : names())
+        widest = std::max(widest, metrics.horizontalAdvance(name) + (name.isEmpty() ? 0 : 2));
+    return std::min(widest, int(width * mostForNames));
+}
+
+/// The height at which a line leaves the view at the right, or ends in it.
+std::optional<double> LineMarks::endOf(const LineChart::Series &series) const
+{
+    const QCPRange view = m_plot->xAxis->range();
+    const auto &points = series.points;
+    const auto after = std::ranges::upper_bound(points, view.upper, {}, &LineChart::Point::x);
+    if (after == points.begin())
+        return {};
+    const LineChart::Point &last = *(after - 1);
+    if (after == points.end() || after->startsAnew)
+        return last.x >= view.lower ? std::optional(last.y) : std::nullopt;
+    return last.y + (after->y - last.y) * (view.upper - last.x) / (after->x - last.x);
+}
+
+/// Each at its height; where two are too near to one another, they move apart.
+std::vector<LineMarks::Name> LineMarks::placedNames() const
+{
+    std::vector<Name> placed;
+    for (qsizetype index = 0; index < m_chart.series.size(); ++index) {
+        const LineChart::Series &series = m_chart.series[index];
+        if (const auto end = endOf(series); end && !series.name.isEmpty())
+            placed.push_back({series.name, m_style.lineColor(index), m_plot->yAxis->coordToPixel(*end)});
+    }
+    for (const LineChart::Level &level : m_chart.levels)
+        placed.push_back({level.name, m_style.quiet, m_plot->yAxis->coordToPixel(level.y)});
+    std::ranges::stable_sort(placed, {}, &Name::y);
+    const double height = QFontMetrics(m_style.label).height();
+    const QRect axes = m_plot->axisRect()->rect();
+    double least = axes.top() - height / 2;
+    for (Name &name : placed) {
+        name.y = std::max(name.y, least);
+        least = name.y + height;
+    }
+    double most = axes.bottom();
+    for (auto name = placed.rbegin(); name != placed.rend(); ++name) {
+        name->y = std::min(name->y, most);
+        most = name->y - height;
+    }
+    return placed;
+}
+
+void LineMarks::drawNames(QCPPainter *painter) const
+{
+    const QFontMetrics metrics(m_style.label);
+    const double left = m_plot->axisRect()->right() + gap;
+    const double width = m_plot->viewport().width() - left;
+    painter->setFont(m_style.label);
+    for (const Name &name : placedNames()) {
+        painter->setPen(name.color);
+        painter->drawText(QRectF(left, name.y - metrics.height() / 2.0, width, metrics.height()),
+                          int(Qt::AlignLeft | Qt::AlignVCenter),
+                          metrics.elidedText(name.text, Qt::ElideRight, int(width) + 1));
+    }
+}
+
+/// In place of lines.
+void LineMarks::drawWords(QCPPainter *painter) const
+{
+    painter->setFont(m_style.body);
+    painter->setPen(m_style.quiet);
+    painter->drawText(m_plot->axisRect()->rect(), int(Qt::AlignCenter | Qt::TextWordWrap), m_chart.nothing);
+}
