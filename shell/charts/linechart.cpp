@@ -60,6 +60,11 @@ bool LineChart::isEmpty() const
     return std::ranges::all_of(series, [](const Series &one) { return one.points.isEmpty(); });
 }
 
+QString LineChart::acrossName() const
+{
+    return across.name.isEmpty() && kind == Across::Days ? u"Date"_s : across.name;
+}
+
 QString LineChart::acrossText(double x) const
 {
     return kind == Across::Days ? Dates::shortWithYear(dateAt(x), style) : across.text(x);
@@ -76,7 +81,7 @@ QString LineChart::description() const
 {
     if (isEmpty())
         return title + u". "_s + (nothing.isEmpty() ? u"No points"_s : nothing) + u'.';
-    QString text = title + u". Line chart. Across: "_s + across.name + u". Up: "_s + up.name + u'.';
+    QString text = title + u". Line chart. Across: "_s + acrossName() + u". Up: "_s + up.name + u'.';
     for (const Series &one : series)
         text += u' ' + described(*this, one) + u'.';
     for (const Level &level : levels)
@@ -86,7 +91,7 @@ QString LineChart::description() const
 
 QStringList LineChart::headings() const
 {
-    QStringList headings{across.name};
+    QStringList headings{acrossName()};
     for (const Series &one : series)
         headings << (one.name.isEmpty() ? up.name : one.name);
     return headings;

@@ -54,7 +54,7 @@ struct LineChart {
     QString title;           ///< the question that it answers
     QString caption;         ///< a quiet line under it; may be empty
     QString nothing;         ///< what stands in a chart without points: "No fill-ups yet"
-    Axis across;             ///< of the days (the name is enough) or of the numbers
+    Axis across;             ///< of the numbers, or of the days, which need no name
     Axis up;                 ///< of the values
     bool isFromZero = false; ///< the values are shown from 0 on
     Across kind = Across::Days;
@@ -67,6 +67,8 @@ struct LineChart {
     static QDate dateAt(double x) { return QDate::fromJulianDay(qRound64(x)); }
 
     bool isEmpty() const;
+    /// The axis' name in a table.
+    QString acrossName() const;
     /// "Nov 3, 2026", or the number as its axis writes it.
     QString acrossText(double x) const;
     const Point &at(const Spot &spot) const { return series[spot.series].points[spot.point]; }

@@ -50,6 +50,7 @@ void LineChartView::setStyle(const ChartStyle &style)
     const LinePlot::Range whole = m_plot->whole();
     const LinePlot::Range view = m_plot->view();
     m_plot->setChart(m_chart, style);
+    m_inset = style.inset;
     if (m_plot->whole() == whole)
         m_plot->setView(view);
     m_plot->setCurrent(m_current);
@@ -59,7 +60,8 @@ void LineChartView::arrange()
 {
     placeHead(width() - 2 * frame);
     const int top = headHeight();
-    m_plot->widget()->setGeometry(frame, top, std::max(1, width() - 2 * frame),
+    // The axis' name stands below the title.
+    m_plot->widget()->setGeometry(frame - m_inset, top, std::max(1, width() - 2 * frame + m_inset),
                                   std::max(1, height() - top - frame));
     m_plot->draw();
 }

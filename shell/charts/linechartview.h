@@ -61,5 +61,6 @@ private:
     LineChart m_chart;
     std::unique_ptr<LinePlot> m_plot;
     std::optional<LineChart::Spot> m_current;
+    int m_inset = 0;
     QPoint m_dragged; ///< where the mouse was last, with its button down
 };

@@ -2,7 +2,9 @@
 #include "shell/charts/linemarks.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -40,7 +42,7 @@ void LineMarks::draw(QCPPainter *painter)
         return;
     }
     painter->save();
-    painter->setClipRect(m_plot->axisRect()->rect().adjusted(-4, -8, 4, 8));
+    painter->setClipRect(m_plot->axisRect()->rect().adjusted(-8, -8, 8, 8));
     drawLevels(painter);
     drawPoints(painter);
     drawCurrent(painter);
@@ -64,25 +66,46 @@ void LineMarks::drawLevels(QCPPainter *painter) const
     }
 }
 
-/// Hollow ones always, unless there is no telling them apart.
+/// Where they are too near to one another, the lines stand alone.
 void LineMarks::drawPoints(QCPPainter *painter) const
 {
     const QCPRange view = m_plot->xAxis->range();
-    for (qsizetype index = 0; index < m_chart.series.size(); ++index) {
-        const auto &points = m_chart.series[index].points;
-        const auto first = std::ranges::lower_bound(points, view.lower, {}, &LineChart::Point::x);
-        const auto last = std::ranges::upper_bound(points, view.upper, {}, &LineChart::Point::x);
-        if (double(last - first) * pointSpace > m_plot->axisRect()->width())
-            continue;
-        const QColor color = m_style.lineColor(index);
-        for (auto point = first; point != last; ++point) {
-            const bool isHollow = !point->note.isEmpty();
-            painter->setPen(isHollow ? QPen(color, 1.5) : QPen(Qt::NoPen));
+    std::vector<std::span<const LineChart::Point>> inView;
+    std::size_t most = 0;
+    for (const LineChart::Series &series : m_chart.series) {
+        const auto first = std::ranges::lower_bound(series.points, view.lower, {}, &LineChart::Point::x);
+        const auto last = std::ranges::upper_bound(series.points, view.upper, {}, &LineChart::Point::x);
+        inView.emplace_back(first, last);
+        most = std::max(most, inView.back().size());
+    }
+    if (double(most) * pointSpace > m_plot->axisRect()->width())
+        return;
+    for (std::size_t index = 0; index < inView.size(); ++index) {
+        const QColor color = m_style.lineColor(qsizetype(index));
+        for (const LineChart::Point &point : inView[index]) {
+            const bool isHollow = !point.note.isEmpty();
+            painter->setPen(QPen(color, 1.5));
             painter->setBrush(isHollow ? m_style.ground : color);
-            const double radius = isHollow ? pointSize / 2 + 0.5 : pointSize / 2;
-            painter->drawEllipse(placeOf(*point), radius, radius);
+            drawPoint(painter, placeOf(point), m_style.isOnPaper ? index : 0);
         }
     }
+}
+
+/// On paper each series has points of its own shape.
+void LineMarks::drawPoint(QCPPainter *painter, QPointF place, std::size_t shape)
+{
+    constexpr double radius = pointSize / 2 - 0.5;
+    constexpr double corner = radius * 1.4;
+    const std::array<QPolygonF, 3> shapes{
+        QPolygonF(QRectF(place.x() - radius, place.y() - radius, 2 * radius, 2 * radius)),
+        QPolygonF(
+            {place + QPointF(0, -corner), place + QPointF(corner, radius), place + QPointF(-corner, radius)}),
+        QPolygonF({place + QPointF(0, -corner), place + QPointF(corner, 0), place + QPointF(0, corner),
+                   place + QPointF(-corner, 0)})};
+    if (shape % 4 == 0)
+        painter->drawEllipse(place, radius, radius);
+    else
+        painter->drawPolygon(shapes[shape % 4 - 1]);
 }
 
 void LineMarks::drawCurrent(QCPPainter *painter) const

@@ -37,6 +37,7 @@ private:
     std::optional<double> endOf(const LineChart::Series &series) const;
     void drawLevels(QCPPainter *painter) const;
     void drawPoints(QCPPainter *painter) const;
+    static void drawPoint(QCPPainter *painter, QPointF place, std::size_t shape);
     void drawCurrent(QCPPainter *painter) const;
     void drawNames(QCPPainter *painter) const;
     void drawWords(QCPPainter *painter) const;

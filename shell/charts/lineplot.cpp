@@ -21,7 +21,8 @@ constexpr int tickHeight = 46;
 constexpr int tickSpace = 22; ///< between two words of the axis across
 constexpr int numberRoom = 90;
 constexpr double reach = 24;
-constexpr double air = 0.02; ///< at both ends, of the whole
+constexpr double leastAir = 0.1; ///< below the lowest value, of a step
+constexpr double air = 0.02;     ///< at both ends, of the whole
 constexpr double fewestDays = 4;
 constexpr double deepestZoom = 1000;
 
@@ -153,9 +154,9 @@ void LinePlot::style()
         axis->setTickLabelColor(m_style.quiet);
         axis->setLabelFont(m_style.label);
         axis->setLabelColor(m_style.quiet);
-        axis->setTickLabels(!m_chart.isEmpty());
-        axis->setTicks(!m_chart.isEmpty());
+        axis->setVisible(!m_chart.isEmpty());
     }
+    m_plot->yAxis->grid()->setVisible(!m_chart.isEmpty());
     m_plot->yAxis->grid()->setPen(QPen(hairline, 1));
     m_plot->xAxis->setBasePen(QPen(m_style.quiet, 1));
     m_plot->xAxis->setTickPen(QPen(m_style.quiet, 1));
@@ -215,7 +216,10 @@ void LinePlot::fitUp(int height)
 {
     const Range values = valuesInView();
     const double step = ChartTicks::step(values.width(), std::clamp(height / tickHeight, 2, 8));
-    const double from = std::floor(values.from / step + 1e-9) * step;
+    double from = std::floor(values.from / step + 1e-9) * step;
+    // A level does not lie on the axis; but there is nothing below 0 where no value is.
+    if (from != 0 && values.from - from < leastAir * step)
+        from -= step;
     const double to = std::ceil(values.to / step - 1e-9) * step;
     static_cast<Numbers *>(m_plot->yAxis->ticker().data())->step = step;
     m_plot->yAxis->setRange(from, to > from ? to : from + step);

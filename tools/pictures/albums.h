@@ -17,5 +17,6 @@ void planner(const Camera &camera);
 void budget(const Camera &camera);
 void cars(const Camera &camera);
 void carHistories(const Camera &camera);
+void charts(const Camera &camera);
 
 } // namespace Albums

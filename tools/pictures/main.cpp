@@ -35,7 +35,8 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"planner", Albums::planner},
                             Album{"budget", Albums::budget},
                             Album{"cars", Albums::cars},
-                            Album{"car-histories", Albums::carHistories}};
+                            Album{"car-histories", Albums::carHistories},
+                            Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;
 
