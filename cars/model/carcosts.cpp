@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr int mostYears = 50; ///< of which months are told: a mistyped year begins no earlier
+
 QDate monthOf(QDate date)
 {
     return {date.year(), date.month(), 1};
@@ -41,7 +43,7 @@ CarCosts::CarCosts(const CarRecord &car, DateStyle style, QDate today)
         if (!cost)
             return;
         const qint64 cents = std::llround(*cost * 100);
-        if (date)
+        if (date && *date <= m_today)
             m_costs.append({*date, kind, cents});
         else
             m_undated.cents[std::size_t(kind)] += cents;
@@ -108,7 +110,10 @@ CarCosts::YearAgainstLast CarCosts::yearAgainstLast(int year) const
 QList<CarCosts::Month> CarCosts::months(QDate from, QDate to) const
 {
     QList<Month> months;
-    for (QDate first = monthOf(from); from.isValid() && first <= to; first = first.addMonths(1))
+    if (!from.isValid() || !to.isValid())
+        return months;
+    for (QDate first = monthOf(std::max(from, to.addYears(-mostYears))); first <= to;
+         first = first.addMonths(1))
         months.append({first, sums(first, first.addMonths(1).addDays(-1))});
     return months;
 }

@@ -33,7 +33,6 @@ struct CostSums {
 class CarCosts
 {
 public:
-    /// One of the twelve months up to that of the last cost.
     struct Month {
         QDate first;
         CostSums sums;
@@ -51,7 +50,7 @@ public:
 
     /// From `from` to `to`, both included.
     CostSums sums(QDate from, QDate to) const;
-    /// Of everything, what has no date included.
+    /// Of everything, what has no date or one to come included.
     CostSums all() const;
     /// The average of a whole month, in cents: since the first cost, the month of `today` left out. Nothing
     /// in the first month.
@@ -60,7 +59,7 @@ public:
     /// The years with costs, newest first.
     QList<int> years() const;
     YearAgainstLast yearAgainstLast(int year) const;
-    /// The months from `from` on up to that of `to`.
+    /// The months from `from` on up to that of `to`, fifty years of them at most.
     QList<Month> months(QDate from, QDate to) const;
 
     /// The first and the last dated cost; invalid without any.
@@ -76,6 +75,6 @@ private:
 
     DrivingLog m_log;
     QDate m_today;
-    QList<Cost> m_costs; ///< those with a date, oldest first
+    QList<Cost> m_costs; ///< those with a date up to today, oldest first
     CostSums m_undated;
 };
