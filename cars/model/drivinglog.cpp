@@ -36,6 +36,8 @@ DrivingLog::DrivingLog(QList<OdometerReading> readings, std::optional<double> cu
         [today](const OdometerReading &reading) { return !reading.date.isValid() || reading.date > today; });
     std::ranges::sort(
         m_all, {}, [](const OdometerReading &reading) { return std::tuple(reading.date, reading.reading); });
+    // What a history and the schedule both tell is one reading.
+    m_all.erase(std::ranges::unique(m_all).begin(), m_all.end());
     leaveOutSingles(current);
     splitByOdometer(current);
     m_odometer = current;
