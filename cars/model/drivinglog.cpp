@@ -166,8 +166,9 @@ qsizetype DrivingLog::odometerOf(double reading, QDate date) const
     qsizetype found = m_odometers.size() - 1;
     if (date.isValid()) {
         const auto beginsLater = [&](qsizetype i) {
-            return m_odometers[i].isEmpty() ? m_odometer.value_or(0) < reading
-                                            : m_odometers[i].first().date > date;
+            if (!m_odometers[i].isEmpty())
+                return m_odometers[i].first().date > date;
+            return m_odometers[i - 1].last().date >= date || m_odometer.value_or(0) < reading;
         };
         while (found > 0 && beginsLater(found))
             --found;
