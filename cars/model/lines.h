@@ -55,6 +55,41 @@ inline QString stateOf(const QString &fileName, VehicleFiles::State state)
     }
 }
 
+inline QString pictureNotFound(const QString &path)
+{
+    return u"The picture cannot be shown: "_s + path;
+}
+
+inline QString nothingDue()
+{
+    return u"nothing due"_s;
+}
+
+/// "oil change and 2 more": what a car needs, as its row of the list says it.
+inline QString needAndMore(const QString &need, int others)
+{
+    return others == 0 ? need : QString(need + u" and "_s + QString::number(others) + u" more"_s);
+}
+
+/// Behind the cards of what is due; `count` more have no card.
+inline QString moreBelow(int count)
+{
+    return u"and "_s + QString::number(count) + u" more, marked in the schedule"_s;
+}
+
+/// `distance` as "84,210 miles", or as it was typed.
+inline QString odometer(const QString &distance)
+{
+    return distance.trimmed().isEmpty() ? u"Enter the odometer reading"_s : u"Odometer: "_s + distance;
+}
+
+inline QString howToBegin()
+{
+    return u"Enter in the schedule after what distance or how many months an action comes again, and when it "
+           u"was "
+           "done last. What is due then stands here."_s;
+}
+
 // Reasons
 
 inline QString noCarYet()

@@ -4,6 +4,7 @@
 #include "cars/model/lines.h"
 #include "cars/model/messages.h"
 #include "cars/window/carlist.h"
+#include "cars/window/carsigns.h"
 #include "cars/window/carview.h"
 #include "cars/window/carviews.h"
 #include "cars/window/historycommands.h"
@@ -43,6 +44,7 @@ AutoMaint::AutoMaint(Program &program, QWidget *parent)
     , m_list(new CarList(program.folder,
                          {[this] { return isModified(); }, [this] { return mayReplace(leaveQuestion()); }},
                          this))
+    , m_signs(new CarSigns(program, *m_car, *m_list, this))
     , m_stack(new WorkViews(this))
     , m_views(new CarViews({program, *this, *m_car, commands(), *m_stack}, this))
     , m_histories(
@@ -175,6 +177,7 @@ void AutoMaint::openList(int slot)
 {
     const QList<Vehicle> vehicles = m_car->files().vehicles();
     m_list->setVehicles(vehicles);
+    m_signs->readAll();
     const bool isThere =
         std::ranges::any_of(vehicles, [slot](const Vehicle &vehicle) { return vehicle.slot == slot; });
     openCar(isThere ? slot : vehicles.isEmpty() ? 0 : vehicles.first().slot);

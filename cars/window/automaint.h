@@ -4,6 +4,7 @@
 #include "shell/frame/functionwindow.h"
 
 class CarList;
+class CarSigns;
 class CarViews;
 class HistoryCommands;
 class EmptyPage;
@@ -43,6 +44,7 @@ private:
 
     OpenCar *m_car;
     CarList *m_list;
+    CarSigns *m_signs;
     WorkViews *m_stack; ///< the views, and what stands over them
     CarViews *m_views;
     HistoryCommands *m_histories;

@@ -13,7 +13,12 @@ enum Role {
     kindRole = Qt::UserRole, ///< a `Kind`; without one, words
     quietRole,               ///< true for a text that nobody typed: a proposal, or what was computed
     signRole,                ///< the name of a sign before the text; the tool tip says what it means
-    choicesRole              ///< a list of texts that are offered while one types
+    choicesRole,             ///< a list of texts that are offered while one types
+    alarmRole,               ///< an `Alarm`
+    groupRole                ///< of a heading: what stands above it and its neighbours of the same group
 };
+
+/// What a text tells of something to be done.
+enum Alarm { NoAlarm, Due, Overdue };
 
 } // namespace CarCell

@@ -21,6 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int signSize = 16;
+constexpr float overdueFill = 0.12F;
 constexpr auto shownBefore = "shownBefore";
 
 CarCell::Kind kindOf(const QModelIndex &index)
@@ -63,6 +64,12 @@ void CarCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         painter->fillRect(option.rect, m_grid->isEntry() ? theme.field : theme.soft);
     else if (option.features & QStyleOptionViewItem::Alternate)
         painter->fillRect(option.rect, theme.alternate);
+    const int alarm = index.data(CarCell::alarmRole).toInt();
+    if (alarm == CarCell::Overdue && !isCurrent) {
+        QColor fill = theme.negative;
+        fill.setAlphaF(overdueFill);
+        painter->fillRect(option.rect, fill);
+    }
     if (isCurrent)
         drawRim(*painter, option.rect, theme, m_grid->hasFocus());
     QRect place = option.rect.adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
@@ -75,7 +82,10 @@ void CarCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     }
     const QString text = index.data().toString();
     painter->setFont(option.font);
-    painter->setPen(index.data(CarCell::quietRole).toBool() ? theme.quiet : theme.text);
+    painter->setPen(alarm == CarCell::Overdue                 ? theme.negative
+                    : alarm == CarCell::Due                   ? theme.due
+                    : index.data(CarCell::quietRole).toBool() ? theme.quiet
+                                                              : theme.text);
     painter->drawText(place, int(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>()),
                       painter->fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/carheadings.h"
 
+#include "cars/window/carcell.h"
 #include "cars/window/cargrid.h"
 #include "shell/look/theme.h"
 
@@ -36,10 +37,56 @@ bool CarHeadings::isNarrow() const
     return false;
 }
 
+QString CarHeadings::groupOf(int section) const
+{
+    if (section < 0 || section >= count())
+        return {};
+    return model()->headerData(section, Qt::Horizontal, CarCell::groupRole).toString();
+}
+
+bool CarHeadings::hasGroups() const
+{
+    for (int section = 0; section < count(); ++section) {
+        if (!groupOf(section).isEmpty())
+            return true;
+    }
+    return false;
+}
+
 QSize CarHeadings::sizeHint() const
 {
     const QFontMetrics metrics(TypeScale::strong());
-    return {0, std::max(leastHeight, metrics.height() * (isNarrow() ? 2 : 1) + around)};
+    const int lines = (isNarrow() ? 2 : 1) + (hasGroups() ? 1 : 0);
+    return {0, std::max(leastHeight, metrics.height() * lines + around)};
+}
+
+/// The part of its group's heading that lies over `section`, in the middle of the group, with a line under
+/// it.
+void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) const
+{
+    const QString group = groupOf(section);
+    if (group.isEmpty())
+        return;
+    int first = section;
+    int last = section;
+    while (groupOf(first - 1) == group)
+        --first;
+    while (groupOf(last + 1) == group)
+        ++last;
+    const QFontMetrics metrics(TypeScale::label());
+    const int left = rect.left() - sectionPosition(section) + sectionPosition(first);
+    const int width = sectionPosition(last) + sectionSize(last) - sectionPosition(first);
+    const QRect place = QRect(left, rect.top() + around / 4, width, metrics.height() + 2)
+                            .adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
+    painter->save();
+    painter->setClipRect(rect);
+    painter->setFont(TypeScale::label());
+    painter->setPen(Theme::of(this).quiet);
+    painter->drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
+                      metrics.elidedText(group, Qt::ElideRight, place.width()));
+    painter->setPen(Theme::of(this).edge);
+    painter->drawLine(place.bottomLeft(), place.bottomRight());
+    painter->restore();
 }
 
 void CarHeadings::paintSection(QPainter *painter, const QRect &rect, int section) const
@@ -48,10 +95,14 @@ void CarHeadings::paintSection(QPainter *painter, const QRect &rect, int section
     painter->fillRect(rect, theme.head);
     painter->setPen(theme.line);
     painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    paintGroup(painter, rect, section);
     painter->setFont(TypeScale::strong());
     painter->setPen(theme.text);
     const QVariant alignment = model()->headerData(section, orientation(), Qt::TextAlignmentRole);
-    const QRect place = rect.adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
+    QRect place = rect.adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
+    if (hasGroups())
+        place.setTop(place.bottom() - QFontMetrics(TypeScale::strong()).height() * (isNarrow() ? 2 : 1) -
+                     around / 4);
     const int flags = int(alignment.isValid() ? alignment.value<Qt::Alignment>() : Qt::AlignVCenter);
     painter->drawText(place, flags | Qt::TextWordWrap,
                       model()->headerData(section, orientation(), Qt::DisplayRole).toString());

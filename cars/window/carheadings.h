@@ -4,7 +4,7 @@
 #include <QHeaderView>
 
 /// The headings of a car's grid, aligned as their columns; a heading of two words takes a second line where
-/// the column is narrow.
+/// the column is narrow. What the model groups has a common heading above its own.
 class CarHeadings final : public QHeaderView
 {
     Q_OBJECT
@@ -18,4 +18,7 @@ protected:
 
 private:
     bool isNarrow() const;
+    bool hasGroups() const;
+    QString groupOf(int section) const;
+    void paintGroup(QPainter *painter, const QRect &rect, int section) const;
 };

@@ -48,6 +48,7 @@ void CarList::setVehicles(const QList<Vehicle> &vehicles)
 {
     const QScopedValueRollback<bool> still(m_isFollowing, false);
     m_pictures->forget();
+    m_picturesShown.clear();
     m_shown = 0;
     m_model->setVehicles(vehicles);
     m_count->setText(CarLines::countOfCars(vehicles.size()));
@@ -55,6 +56,9 @@ void CarList::setVehicles(const QList<Vehicle> &vehicles)
 
 void CarList::setPicture(int slot, const QString &picture)
 {
+    if (m_picturesShown.contains(slot) && m_picturesShown[slot] == picture)
+        return;
+    m_picturesShown.insert(slot, picture);
     if (picture.trimmed().isEmpty()) {
         m_model->setPicture(slot, {});
         return;

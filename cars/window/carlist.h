@@ -4,6 +4,7 @@
 #include "cars/model/vehicle.h"
 #include "cars/window/carlistmodel.h"
 
+#include <QHash>
 #include <QWidget>
 
 #include <functional>
@@ -59,6 +60,7 @@ private:
     QLabel *m_count;
     QVBoxLayout *m_rows;
     PictureLoader *m_pictures;
+    QHash<int, QString> m_picturesShown;
     int m_shown = 0;
     bool m_isFollowing = true; ///< a change of the selection opens its car
     bool m_isAsking = false;   ///< a question about unsaved changes is about to be asked

@@ -1,17 +1,118 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/dueview.h"
 
+#include "cars/model/carnumbers.h"
+#include "cars/model/duewords.h"
+#include "cars/model/lines.h"
+#include "cars/window/cargrid.h"
+#include "cars/window/duecards.h"
+#include "cars/window/opencar.h"
+#include "cars/window/schedulemodel.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/datepicker.h"
+#include "shell/controls/linkbutton.h"
+#include "shell/controls/listrowdelegate.h"
 #include "shell/controls/titleline.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/look/theme.h"
+#include "shell/program/program.h"
+
+#include <QHBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// So many cards stand there while nothing is due.
+constexpr qsizetype comingCards = 2;
+
+} // namespace
+
 DueView::DueView(const CarDesk &desk)
     : CarView(u"due"_s, desk)
+    , m_model(new ScheduleModel(desk.program, desk.car, this))
+    , m_odometer(new LinkButton(u"newReading"_s, {}, this))
+    , m_cards(new DueCards(this))
+    , m_advice(named(makeQuietLabel({}, this), u"dueAdvice"_s))
+    , m_rate(named(makeQuietLabel({}, this), u"drivingRate"_s))
+    , m_schedule(makeSchedule())
 {
-    addContent(new QWidget(this), 1);
+    titleLine().addAtRight(m_odometer);
+    m_odometer->setToolTip(u"Enter what the odometer reads now"_s);
+    m_advice->setFont(TypeScale::body());
+    m_advice->setWordWrap(true);
+    auto *heading = new QWidget(this);
+    auto *words = new QHBoxLayout(heading);
+    words->setContentsMargins(0, 4, 0, 0);
+    words->addWidget(makeHeading(u"Maintenance Schedule"_s, this), 1);
+    words->addWidget(m_rate, 0, Qt::AlignBottom);
+    addContent(m_advice);
+    addContent(m_cards);
+    addContent(heading);
+    addContent(new WholeRows(m_schedule, nullptr, this), 1);
+    setFocusProxy(m_schedule);
+    connect(m_cards, &DueCards::chosen, this, &DueView::doneRequested);
+    connect(m_odometer, &LinkButton::clicked, this, &DueView::odometerRequested);
+}
+
+CarGrid *DueView::makeSchedule()
+{
+    const Program &program = desk().program;
+    auto *picker = new DatePicker(program.clock, program.settings, &desk().window, u"MonthView4"_s);
+    auto *grid = new CarGrid(program, u"Grid4"_s, picker, this);
+    grid->setModel(m_model);
+    grid->setAccessibleName(u"Maintenance schedule"_s);
+    grid->setWidths({{u"Inspect Brake Linings"_s, true},
+                     {u"Interval Be"_s},
+                     {u"tween Action"_s},
+                     {u"Kilometers"_s},
+                     {u"12/30/2026 "_s},
+                     {u"9999.99"_s},
+                     {u"-99999 __"_s},
+                     {u"-18 months __"_s}});
+    connect(grid, &CarGrid::said, this, &DueView::said);
+    connect(grid, &CarGrid::refused, this, [this] { emit said(car().whyLocked(CarPart::Sheet)); });
+    connect(m_model, &ScheduleModel::noticed, this, [this](const Message &message, const QModelIndex &cell) {
+        emit noticed(message);
+        // Behind the box in which that is told.
+        QMetaObject::invokeMethod(
+            this, [this, cell] { m_schedule->setCurrentIndex(cell); }, Qt::QueuedConnection);
+    });
+    return grid;
+}
+
+void DueView::finishEdit()
+{
+    m_schedule->finishEdit();
 }
 
 void DueView::refresh()
 {
-    titleLine().setTitle(u"Nothing is due"_s);
+    m_model->refresh();
+    showNeeds();
+    const QString &reading = car().record().sheet.field(VehicleSheet::Odometer);
+    const auto number = CarNumbers::number(reading);
+    m_odometer->setText(CarLines::odometer(number ? DueWords::distance(*number, car().unit()) : reading));
+    m_rate->setText(DueWords::rate(car().drivingLog(), car().unit(), desk().program.state.dateStyle,
+                                   desk().program.clock.today()));
+}
+
+/// What is due; where nothing is, what comes next.
+void DueView::showNeeds()
+{
+    const QList<CarNeed> needs = CarNeeds::byUrgency(car().needs());
+    QList<CarNeed> shown;
+    std::ranges::copy_if(needs, std::back_inserter(shown), &CarNeed::isUrgent);
+    if (shown.isEmpty()) {
+        std::ranges::copy_if(needs, std::back_inserter(shown),
+                             [](const CarNeed &need) { return need.state == CarNeed::State::Ahead; });
+        shown.resize(std::min(shown.size(), comingCards));
+    }
+    titleLine().setTitle(DueWords::title(car().needs()));
+    m_advice->setText(shown.isEmpty() ? CarLines::howToBegin() : QString());
+    m_advice->setVisible(shown.isEmpty());
+    m_cards->setVisible(!shown.isEmpty());
+    m_cards->show(shown, {car().unit(), desk().program.state.dateStyle, desk().program.clock.today()});
 }

@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cars/model/carneeds.h"
 #include "cars/window/carview.h"
+
+class CarGrid;
+class DueCards;
+class LinkButton;
+class QLabel;
+class ScheduleModel;
 
 /// What the open car needs: what is due and overdue, and the schedule that says so.
 class DueView final : public CarView
@@ -10,6 +17,26 @@ class DueView final : public CarView
 public:
     explicit DueView(const CarDesk &desk);
 
+    CarGrid &schedule() const { return *m_schedule; }
+    void finishEdit() override;
+
+signals:
+    /// The button of a card was clicked: something was done, or renewed.
+    void doneRequested(const CarNeed &need);
+    /// The reading of the odometer is to be typed anew.
+    void odometerRequested();
+
 protected:
     void refresh() override;
+
+private:
+    CarGrid *makeSchedule();
+    void showNeeds();
+
+    ScheduleModel *m_model;
+    LinkButton *m_odometer;
+    DueCards *m_cards;
+    QLabel *m_advice;
+    QLabel *m_rate;
+    CarGrid *m_schedule;
 };

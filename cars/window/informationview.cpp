@@ -1,18 +1,86 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/informationview.h"
 
+#include "cars/model/duewords.h"
+#include "cars/model/lines.h"
 #include "cars/window/opencar.h"
+#include "cars/window/sheetform.h"
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/controls.h"
 #include "shell/controls/titleline.h"
+#include "shell/core/framelines.h"
+#include "shell/pictures/pictureframe.h"
+#include "shell/program/program.h"
+
+#include <QScrollArea>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 InformationView::InformationView(const CarDesk &desk)
     : CarView(u"information"_s, desk)
+    , m_form(new SheetForm(this))
+    , m_pictures(desk.program.folder)
 {
-    addContent(new QWidget(this), 1);
+    QScrollArea *scroll = makeScrolling(m_form, u"sheetScroll"_s, this);
+    addContent(scroll, 1);
+    titleLine().addWords(u"carWords"_s);
+    setFocusProxy(m_form->box(SheetForm::nameBox));
+    connect(m_form, &SheetForm::boxFocused, scroll,
+            [scroll](QWidget *box) { scroll->ensureWidgetVisible(box, 8, 32); });
+    connect(m_form, &SheetForm::edited, this, [this] { foot().setWords(FrameLines::unsavedChanges()); });
+    connect(m_form, &SheetForm::entered, this, &InformationView::take);
+    connect(m_form, &SheetForm::said, this, &InformationView::said);
+}
+
+void InformationView::finishEdit()
+{
+    for (std::size_t i = 0; i < SheetForm::count; ++i)
+        take(i);
+}
+
+/// What was typed into a box is the car's.
+void InformationView::take(std::size_t place)
+{
+    const CarRecord wanted = m_form->typed(car().record());
+    if (wanted == car().record())
+        return;
+    car().change(m_form->box(place)->accessibleName(), wanted);
 }
 
 void InformationView::refresh()
 {
-    titleLine().setTitle(car().record().vehicle.name);
+    const CarRecord &record = car().record();
+    m_form->show(record);
+    m_form->setLocked(!car().whyLocked(CarPart::Sheet).isEmpty());
+    m_form->setNew(car().isNew());
+    titleLine().setTitle(car().isNew() ? CarLines::newCar() : record.vehicle.name);
+    showPicture();
+    showFacts();
+}
+
+void InformationView::showPicture()
+{
+    const QString stored = car().record().sheet.field(VehicleSheet::Picture).trimmed();
+    if (std::exchange(m_pictureShown, stored) == stored)
+        return;
+    m_form->picture()->clear();
+    if (!stored.isEmpty() && !m_form->picture()->setPicture(m_pictures.locate(stored)))
+        emit said(CarLines::pictureNotFound(stored));
+}
+
+void InformationView::showFacts()
+{
+    const DateStyle style = desk().program.state.dateStyle;
+    const QDate today = desk().program.clock.today();
+    bool isRegistrationDue = false;
+    QString insurance;
+    for (const CarNeed &need : car().needs()) {
+        if (need.kind == CarNeed::Kind::Registration)
+            isRegistrationDue = need.isUrgent();
+        if (need.kind == CarNeed::Kind::Insurance)
+            insurance = DueWords::when(need, car().unit(), style, today);
+    }
+    m_form->setFacts(isRegistrationDue, insurance);
 }

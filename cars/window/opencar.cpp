@@ -5,6 +5,8 @@
 #include "shell/core/framelines.h"
 #include "shell/program/program.h"
 
+#include <utility>
+
 OpenCar::OpenCar(const Program &program, QObject *parent)
     : QObject(parent)
     , m_program(program)
@@ -16,6 +18,24 @@ OpenCar::OpenCar(const Program &program, QObject *parent)
 bool OpenCar::isModified() const
 {
     return *m_record != *m_saved;
+}
+
+const OpenCar::Outlook &OpenCar::outlook() const
+{
+    if (!m_outlook) {
+        const DateStyle style = m_program.state.dateStyle;
+        const QDate today = m_program.clock.today();
+        DrivingLog log = CarNeeds::drivingLog(*m_record, style, today);
+        QList<CarNeed> needs = CarNeeds::of(*m_record, log, style, today);
+        m_outlook = {std::move(log), std::move(needs)};
+    }
+    return *m_outlook;
+}
+
+void OpenCar::setRecord(const Record &record)
+{
+    m_record = record;
+    m_outlook.reset();
 }
 
 QString OpenCar::whyLocked(CarPart part) const
@@ -55,7 +75,8 @@ void OpenCar::startNew(const CarRecord &record)
 
 void OpenCar::open(const CarRecord &record, const States &states, bool isNew)
 {
-    m_saved = m_record = std::make_shared<CarRecord>(record);
+    setRecord(std::make_shared<CarRecord>(record));
+    m_saved = m_record;
     m_states = states;
     m_isNew = isNew;
     emit fileTouched();
@@ -69,7 +90,7 @@ void OpenCar::change(const QString &title, const CarRecord &wanted)
         return;
     const Record before = m_record;
     const Record after = std::make_shared<CarRecord>(wanted);
-    m_record = after;
+    setRecord(after);
     emit edited({title, [=, this] { return exchange(after, before); },
                  [=, this] { return exchange(before, after); }, UndoStep::Typed});
     emit changed();
@@ -79,7 +100,7 @@ ChangeResult OpenCar::exchange(const Record &shown, const Record &wanted)
 {
     if (*m_record != *shown)
         return ChangeResult::Outdated;
-    m_record = wanted;
+    setRecord(wanted);
     emit changed();
     return ChangeResult::Done;
 }

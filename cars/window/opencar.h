@@ -2,11 +2,13 @@
 #pragma once
 
 #include "cars/model/carfiles.h"
+#include "cars/model/carneeds.h"
 #include "shell/core/undostep.h"
 
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 struct Program;
 
@@ -29,6 +31,9 @@ public:
     /// As it is now. A copy of it shares what is not changed.
     const CarRecord &record() const { return *m_record; }
     DistanceUnit unit() const { return m_record->sheet.unit; }
+    /// How it is driven, and what it needs, in the order of the schedule; as it is now.
+    const DrivingLog &drivingLog() const { return outlook().log; }
+    const QList<CarNeed> &needs() const { return outlook().needs; }
     bool isModified() const;
     /// Why nothing may be typed into what the file of `part` holds; empty where it may.
     QString whyLocked(CarPart part) const;
@@ -63,6 +68,14 @@ private:
     using Record = std::shared_ptr<const CarRecord>;
     using States = std::array<VehicleFiles::State, carParts.size()>;
 
+    /// Worked out when it is first asked for.
+    struct Outlook {
+        DrivingLog log;
+        QList<CarNeed> needs;
+    };
+
+    const Outlook &outlook() const;
+    void setRecord(const Record &record);
     void open(const CarRecord &record, const States &states, bool isNew);
     bool write(const CarRecord &wanted);
     ChangeResult exchange(const Record &shown, const Record &wanted);
@@ -73,4 +86,5 @@ private:
     Record m_saved;
     States m_states{};
     bool m_isNew = false;
+    mutable std::optional<Outlook> m_outlook;
 };

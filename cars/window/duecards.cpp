@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/window/duecards.h"
+
+#include "cars/model/lines.h"
+#include "shell/controls/controls.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int gap = 12;
+constexpr int mostRows = 2;
+constexpr int mostColumns = 4;
+constexpr int greatestWidth = 380;
+constexpr int moreGap = 6;
+
+} // namespace
+
+DueCards::DueCards(QWidget *parent)
+    : QWidget(parent)
+    , m_more(named(makeQuietLabel({}, this), u"moreDue"_s))
+{
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+void DueCards::show(const QList<CarNeed> &needs, const DueCard::Words &words)
+{
+    m_count = int(needs.size());
+    while (m_cards.size() < std::size_t(m_count)) {
+        auto *card = new DueCard(int(m_cards.size()), this);
+        if (!m_cards.empty())
+            setTabOrder(m_cards.back()->button(), card->button());
+        connect(card, &DueCard::clicked, this, [this, card] { emit chosen(card->need()); });
+        card->setPalette({}); // made late, it would have the colours of the window and not of its panel
+        m_cards.push_back(card);
+    }
+    for (int i = 0; i < m_count; ++i)
+        m_cards[std::size_t(i)]->show(needs[i], words);
+    updateGeometry();
+    place();
+}
+
+int DueCards::columnsIn(int width) const
+{
+    const int room = std::clamp((width + gap) / (DueCard::leastWidth() + gap), 1, mostColumns);
+    return std::max(1, std::min(room, m_count));
+}
+
+int DueCards::shownIn(int width) const
+{
+    return std::min(m_count, columnsIn(width) * mostRows);
+}
+
+int DueCards::cardHeight() const
+{
+    return m_cards.empty() ? 0 : m_cards.front()->sizeHint().height();
+}
+
+int DueCards::heightForWidth(int width) const
+{
+    if (m_count == 0)
+        return 0;
+    const int shown = shownIn(width);
+    const int rows = (shown + columnsIn(width) - 1) / columnsIn(width);
+    const int more = shown < m_count ? moreGap + m_more->sizeHint().height() : 0;
+    return rows * cardHeight() + (rows - 1) * gap + more;
+}
+
+QSize DueCards::sizeHint() const
+{
+    const int width = std::max(this->width(), DueCard::leastWidth());
+    return {width, heightForWidth(width)};
+}
+
+QSize DueCards::minimumSizeHint() const
+{
+    return {DueCard::leastWidth(), heightForWidth(std::max(width(), DueCard::leastWidth()))};
+}
+
+void DueCards::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    place();
+}
+
+void DueCards::place()
+{
+    const int columns = columnsIn(width());
+    const int shown = shownIn(width());
+    const int wide = std::min((width() - (columns - 1) * gap) / columns, greatestWidth);
+    const int high = cardHeight();
+    for (int i = 0; i < int(m_cards.size()); ++i) {
+        DueCard *card = m_cards[std::size_t(i)];
+        card->setVisible(i < shown);
+        card->setGeometry(i % columns * (wide + gap), i / columns * (high + gap), wide, high);
+    }
+    m_more->setVisible(shown < m_count);
+    m_more->setText(CarLines::moreBelow(m_count - shown));
+    m_more->adjustSize();
+    m_more->move(0, height() - m_more->height());
+}

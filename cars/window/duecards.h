@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cars/window/duecard.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QLabel;
+
+/// The cards of what the open car needs, the most urgent first, in at most two rows of equal widths. How many
+/// more there are is told behind them.
+class DueCards final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit DueCards(QWidget *parent = nullptr);
+
+    void show(const QList<CarNeed> &needs, const DueCard::Words &words);
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// The button of a card was clicked.
+    void chosen(const CarNeed &need);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    int columnsIn(int width) const;
+    int shownIn(int width) const;
+    int cardHeight() const;
+    void place();
+
+    std::vector<DueCard *> m_cards; ///< made when first needed, and kept
+    int m_count = 0;                ///< of those that stand for something
+    QLabel *m_more;
+};
