@@ -5,7 +5,6 @@
 #include "addressbook/entry/bookchanges.h"
 #include "addressbook/entry/entrybuttons.h"
 #include "addressbook/entry/entrylabels.h"
-#include "addressbook/entry/picturepanel.h"
 #include "addressbook/entry/picturetaker.h"
 #include "addressbook/entry/sameaddresslink.h"
 #include "addressbook/model/entrylines.h"
@@ -16,6 +15,7 @@
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
+#include "shell/frame/picturepanel.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undostack.h"
 #include "shell/frame/workviews.h"
@@ -61,7 +61,7 @@ ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeM
     , m_views(new WorkViews(this))
     , m_emptyPage(new EmptyPage("address-book"_L1, u"Nobody is in the address book yet"_s,
                                 u"Type the first entry, or take in addresses you already have."_s, this))
-    , m_picturePanel(new PicturePanel(program, PicturePanel::systemDrives, this))
+    , m_picturePanel(new PicturePanel(program, addressPictureUse(), PicturePanel::systemDrives, this))
     , m_printOptions(new PrintOptions(program, m_book, *m_list, *m_editor, this))
     , m_labels(new EntryLabels(program, activity(), *m_list, m_views, this))
 {

@@ -7,7 +7,9 @@
 #include "addressbook/model/messages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/core/framelines.h"
+#include "shell/frame/picturepanel.h"
 #include "shell/pictures/pictureframe.h"
+#include "shell/pictures/picturelines.h"
 #include "shell/program/program.h"
 
 #include <QAction>
@@ -47,6 +49,12 @@ bool isKindOfPanel(const QString &path)
 }
 
 } // namespace
+
+PictureUse addressPictureUse()
+{
+    return {u"Select Family/Friends Picture"_s, addressPictureWidth, AddressLines::pathNotStorable(),
+            AddressLines::noPictureToDelete()};
+}
 
 PictureTaker::PictureTaker(Program &program, EntryEditor &editor, const QAction &load)
     : QObject(&editor)
@@ -116,7 +124,7 @@ void PictureTaker::takeFile(const QString &path)
     const QImage image = PictureFile::read(path, {greatestSide, greatestSide});
     const QString native = QDir::toNativeSeparators(path);
     if (image.isNull()) {
-        emit said(AddressMessages::notAPicture());
+        emit said(PictureLines::notAPicture());
     } else if (!isKindOfPanel(path)) {
         keep(image); // other programs that read the records could not show it
     } else if (!PictureFolder::isStorable(native, addressPictureWidth)) {

@@ -9,7 +9,11 @@ class EntryEditor;
 class QAction;
 class QImage;
 class QMimeData;
+struct PictureUse;
 struct Program;
+
+/// What the panel of pictures chooses one for here.
+PictureUse addressPictureUse();
 
 /// Makes a picture that is dropped on an entry's frame, or pasted there, the picture of the entry: a file of
 /// a kind that the picture panel offers where it lies, anything else as a copy beside the records.

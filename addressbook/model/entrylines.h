@@ -128,11 +128,6 @@ inline QString allArePrinted()
     return u"All entries are printed: choose the other line to print some"_s;
 }
 
-inline QString choosePictureFirst()
-{
-    return u"Choose a picture in the list of files first"_s;
-}
-
 inline QString noPictureToDelete()
 {
     return u"The entry has no picture"_s;

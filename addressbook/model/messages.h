@@ -109,11 +109,6 @@ inline Message manyPictures()
 }
 
 /// Stands in the picture panel itself.
-inline QString notAPicture()
-{
-    return u"Program is unable to load this file as a Picture File!!!"_s;
-}
-
 // Quiet lines for the status bar.
 
 inline QString lineWithoutNumber()

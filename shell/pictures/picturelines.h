@@ -18,4 +18,14 @@ inline QString pictureNotFound()
     return u"Picture not found"_s;
 }
 
+inline QString notAPicture()
+{
+    return u"Program is unable to load this file as a Picture File!!!"_s;
+}
+
+inline QString choosePictureFirst()
+{
+    return u"Choose a picture in the list of files first"_s;
+}
+
 } // namespace PictureLines

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "addressbook/entry/picturepanel.h"
 #include "shell/core/framelines.h"
+#include "shell/frame/picturepanel.h"
 #include "tests/addressbook/entry/openaddressbook.h"
 #include "tests/support/rows.h"
 

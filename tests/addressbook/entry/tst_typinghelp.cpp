@@ -3,6 +3,7 @@
 #include "tests/addressbook/model/addressrecords.h"
 
 #include "shell/pictures/pictureframe.h"
+#include "shell/pictures/picturelines.h"
 #include "tests/support/testpictures.h"
 
 #include <QApplication>
@@ -94,7 +95,7 @@ private slots:
         const QString png = makePicture(m_test->temporary.filePath(u"anne.png"_s), {40, 30});
         m_test->setBytes(u"letter.jpg"_s, "no picture");
         paste({QUrl::fromLocalFile(m_test->path(u"letter.jpg"_s))});
-        QCOMPARE(said(), AddressMessages::notAPicture());
+        QCOMPARE(said(), PictureLines::notAPicture());
         QCOMPARE(m_window->mode(), ADDBKVIEW::Mode::View);
         paste({QUrl::fromLocalFile(jpg)});
         QVERIFY(frame->hasPicture() && frame->hasFocus());

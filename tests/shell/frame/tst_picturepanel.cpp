@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "addressbook/entry/picturepanel.h"
-#include "addressbook/model/messages.h"
 #include "shell/core/shellmessages.h"
+#include "shell/frame/picturepanel.h"
 #include "shell/pictures/pictureframe.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/testpictures.h"
@@ -131,7 +130,10 @@ private:
     void open()
     {
         delete m_window;
-        m_window = new PicturePanel(m_test->program, [this] { return m_drives; });
+        m_window = new PicturePanel(
+            m_test->program,
+            {u"Select Picture"_s, 200, u"The path cannot be kept"_s, u"There is no picture"_s},
+            [this] { return m_drives; });
         m_window->resize(800, 500);
         showActive(*m_window);
         m_window->start(true);

@@ -14,8 +14,16 @@ class QPushButton;
 struct Message;
 struct Program;
 
-/// "Select Family/Friends Picture": drives, folders and picture files, with a preview. It starts in the
-/// folder used last and remembers the one that a picture was taken from.
+/// What a panel of pictures chooses one for.
+struct PictureUse {
+    QString title;           ///< of the panel
+    qsizetype width;         ///< of the field that keeps the path, in bytes
+    QString notStorable;     ///< what is said of a path that the field cannot keep
+    QString nothingToDelete; ///< why there is no picture to be deleted
+};
+
+/// "Select Family/Friends Picture" and the like: drives, folders and picture files, with a preview. It starts
+/// in the folder used last and remembers the one that a picture was taken from.
 class PicturePanel final : public TaskPanel
 {
     Q_OBJECT
@@ -23,9 +31,9 @@ public:
     /// The roots that the drive list offers; the first one is where it falls back to.
     using Drives = std::function<QStringList()>;
 
-    explicit PicturePanel(Program &program, Drives drives = systemDrives, QWidget *parent = nullptr);
+    PicturePanel(Program &program, PictureUse use, Drives drives = systemDrives, QWidget *parent = nullptr);
 
-    /// Reads drives and folders anew; `hasPicture`: the entry has one, which may be deleted.
+    /// Reads drives and folders anew; `hasPicture`: there is one now, which may be deleted.
     void start(bool hasPicture);
 
     static QStringList systemDrives();
@@ -52,6 +60,7 @@ private:
     QString chosenFile() const;
 
     Program &m_program;
+    PictureUse m_use;
     PictureFolder m_pictures;
     Drives m_drives;
     QString m_folder;

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "addressbook/entry/picturepanel.h"
+#include "shell/frame/picturepanel.h"
 
-#include "addressbook/model/addressentry.h"
-#include "addressbook/model/entrylines.h"
-#include "addressbook/model/messages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
@@ -11,6 +8,7 @@
 #include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/pictureframe.h"
+#include "shell/pictures/picturelines.h"
 #include "shell/program/program.h"
 
 #include <QAbstractItemView>
@@ -53,9 +51,10 @@ bool isReadableFolder(const QString &path)
 
 } // namespace
 
-PicturePanel::PicturePanel(Program &program, Drives drives, QWidget *parent)
-    : TaskPanel(u"picturePanel"_s, u"Select Family/Friends Picture"_s, parent)
+PicturePanel::PicturePanel(Program &program, PictureUse use, Drives drives, QWidget *parent)
+    : TaskPanel(u"picturePanel"_s, use.title, parent)
     , m_program(program)
+    , m_use(std::move(use))
     , m_pictures(program.folder)
     , m_drives(std::move(drives))
 {
@@ -152,7 +151,7 @@ QStringList PicturePanel::systemDrives()
 
 void PicturePanel::start(bool hasPicture)
 {
-    setUnavailable(m_delete, hasPicture ? QString() : AddressLines::noPictureToDelete());
+    setUnavailable(m_delete, hasPicture ? QString() : m_use.nothingToDelete);
     fillDrives();
     if (!showFolder(startFolder()))
         showFolder(m_driveList->itemData(0).toString());
@@ -255,8 +254,8 @@ void PicturePanel::previewFile()
     if (file.isEmpty())
         m_preview->clear();
     const bool isUnreadable = !file.isEmpty() && !isPicture;
-    m_preview->setWords(isUnreadable ? AddressMessages::notAPicture() : QString());
-    setUnavailable(m_enter, isPicture ? QString() : AddressLines::choosePictureFirst());
+    m_preview->setWords(isUnreadable ? PictureLines::notAPicture() : QString());
+    setUnavailable(m_enter, isPicture ? QString() : PictureLines::choosePictureFirst());
 }
 
 void PicturePanel::enterPicture()
@@ -264,8 +263,8 @@ void PicturePanel::enterPicture()
     if (!m_preview->hasPicture())
         return;
     const QString path = QDir::toNativeSeparators(chosenFile());
-    if (!PictureFolder::isStorable(path, addressPictureWidth)) {
-        emit said(AddressLines::pathNotStorable());
+    if (!PictureFolder::isStorable(path, m_use.width)) {
+        emit said(m_use.notStorable);
         return;
     }
     const bool isRemembered = m_pictures.remember(m_folder);
