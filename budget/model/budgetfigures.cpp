@@ -54,8 +54,10 @@ QString BudgetFigures::share(double amount, BudgetBasis basis) const
     const double whole = basis == BudgetBasis::Income ? income : expenses;
     if (whole == 0)
         return {};
-    const QString text = Amount::text(amount / whole * 100);
-    return (text.startsWith(u'.') ? u'0' + text : text) + u'%';
+    QString text = Amount::text(amount / whole * 100);
+    if (const qsizetype point = text.startsWith(u'-') ? 1 : 0; text.mid(point).startsWith(u'.'))
+        text.insert(point, u'0');
+    return text + u'%';
 }
 
 QString shownIncome(const QString &income)

@@ -209,6 +209,8 @@ void Budget1::connectSheet()
     connect(m_edits, &SheetCommands::done, this, [this](const QString &line) {
         activity().say(line);
         undoStack().offer();
+        // Typing goes on in the cells, not on the button that did it.
+        m_sheet->setFocus();
     });
     connect(m_model, &SheetModel::layerChanged, &commands(), &Commands::refresh);
     connect(&m_sheet->totals(), &TotalsRows::incomeClicked, this, [this](int month) {
@@ -229,7 +231,10 @@ void Budget1::connectYear()
         activity().say(step.title);
         const int next = m_year->year() + 1;
         if (next <= BudgetFiles::lastYear)
-            activity().offerWay(BudgetLines::openYear(next), [this, next] { chooseYear(next); });
+            activity().offerWay(BudgetLines::openYear(next), [this, next] {
+                chooseYear(next);
+                m_sheet->setFocus();
+            });
         undoStack().offer();
     });
     connect(m_year, &BudgetYear::said, &activity(), &ActivityBar::say);
@@ -324,6 +329,7 @@ void Budget1::copyYear()
             return;
     }
     m_year->copyToNext();
+    m_sheet->setFocus();
 }
 
 void Budget1::backUp()

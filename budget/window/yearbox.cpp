@@ -20,8 +20,10 @@ YearBox::YearBox(QWidget *parent)
     for (int year = BudgetFiles::firstYear; year <= BudgetFiles::lastYear; ++year)
         addItem(QString::number(year), year);
     connect(this, &QComboBox::activated, this, [this](int place) {
+        // A question about the year that is left has its own event loop.
+        const bool isFromList = m_isListOpen;
         emit yearChosen(itemData(place).toInt());
-        if (m_isListOpen)
+        if (isFromList)
             emit done();
     });
 }

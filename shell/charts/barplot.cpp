@@ -241,7 +241,7 @@ void BarPlot::fit(int width)
     const int right = gap + m_rows->figuresWidth() + rightInset;
     axes->setMargins({left, 0, right, axisHeight()});
     const int room = std::max(1, width - left - right);
-    m_plot->xAxis->ticker()->setTickCount(room < tickRoom ? 1 : std::clamp(room / tickRoom, 2, 6));
+    m_plot->xAxis->ticker()->setTickCount(std::clamp(room / tickRoom, 2, 6)); // one would be 0 alone
 }
 
 void BarPlot::draw()
