@@ -28,6 +28,10 @@ bool RefusedCommands::eventFilter(QObject *watched, QEvent *event)
         follow(*menu, *event);
         return false;
     }
+    if (event->type() == QEvent::ChildPolished) {
+        if (auto *menu = qobject_cast<QMenu *>(static_cast<QChildEvent *>(event)->child()))
+            menu->installEventFilter(this);
+    }
     if (event->type() != QEvent::KeyPress)
         return false;
     const QString reason = m_commands.whyNot(QKeySequence(static_cast<QKeyEvent *>(event)->keyCombination()));
@@ -48,6 +52,6 @@ void RefusedCommands::follow(const QMenu &menu, const QEvent &event)
     }
     if (std::exchange(m_tip, tip) == tip)
         return;
-    QStatusTipEvent shown(tip);
-    QCoreApplication::sendEvent(m_window, &shown);
+    // Behind what the menu itself takes back of the entry before.
+    QCoreApplication::postEvent(m_window, new QStatusTipEvent(tip));
 }

@@ -14,7 +14,7 @@ class RefusedCommands final : public QObject
 {
     Q_OBJECT
 public:
-    /// For the menus that `window` has now.
+    /// For the menus that `window` has now, and for those that it opens later.
     RefusedCommands(const Commands &commands, ActivityBar &activity, QWidget *window);
 
 protected:
