@@ -93,10 +93,16 @@ void SheetCommands::addFillCommands(QMenu *edit)
     add(edit, u"mEThird"_s, u"Every T&hird Month"_s,
         [this] { repeatAmount(BudgetLines::everyThirdMonth(), 3); });
     add(edit, u"mESpread"_s, u"Spread &a Yearly Sum..."_s, [this] { spread(); });
-    add(
+    // The income is the same in both layers.
+    Commands &all = m_desk.commands;
+    QAction *income = all.writing(all.add(
         edit, u"mEIncome"_s, u"Total Inco&me..."_s,
-        [this] { enterIncome(std::max(0, m_desk.grid.currentIndex().column() - SheetColumn::firstMonth)); },
-        Qt::CTRL | Qt::Key_I);
+        [this] {
+            if (isCellChosen())
+                enterIncome(std::max(0, m_desk.grid.currentIndex().column() - SheetColumn::firstMonth));
+        },
+        m_desk.unless));
+    all.setKeyIn(&m_desk.grid, income, Qt::CTRL | Qt::Key_I);
 }
 
 void SheetCommands::addRowCommands(QMenu *edit)

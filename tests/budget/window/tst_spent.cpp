@@ -56,6 +56,7 @@ private slots:
         QCOMPARE(find<QPushButton>("Command8")->toolTip(), u"Nothing was spent in 2026 yet"_s);
         typeAt(1, 3, u"160"_s);
         QCOMPARE(labelText("budgetTitle"), u"March 2026: 10.00 spent over the income"_s);
+        QVERIFY(find<QAction>("mEIncome")->isEnabled() && !find<QAction>("mEFill")->isEnabled());
         click("Command8");
         QCOMPARE(labelText("totalsTitle"), u"Totals For Year 2026, Spent"_s);
         QCOMPARE(labelText("Label14"), u"160.00 "_s);
