@@ -132,6 +132,12 @@ void takeLayers(PictureSession &session)
 {
     session.trigger("mVSpent");
     session.take("budget-spent");
+    session.trigger("mVTotals");
+    session.take("budget-totals-spent");
+    session.key(Qt::Key_Escape);
+    session.trigger("mOPTotals");
+    session.takePage("budget-page-totals-spent");
+    session.key(Qt::Key_Escape);
     session.clickRow("VSGd1", 5, 11);
     session.trigger("mVAmounts");
     session.take("budget-amounts");
