@@ -10,6 +10,9 @@
 #include "budget/model/budgetnews.h"
 #include "budget/model/budgetsource.h"
 #include "budget/window/budgetwindow.h"
+#include "cars/model/carfiles.h"
+#include "cars/model/carnews.h"
+#include "cars/model/carsource.h"
 #include "cars/window/automaint.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
@@ -119,6 +122,31 @@ void showInBudget(QWidget &window, const Place &place)
         budget->showPlace(place);
 }
 
+std::optional<LiveLine> carNews(const Program &program, QDate today)
+{
+    return CarNews::liveLine(program.folder, program.state.dateStyle, today);
+}
+
+QList<DayNote> carNotes(const Program &program, QDate from, QDate to)
+{
+    return CarNews::dayNotes(program.folder, program.state.dateStyle, from, to, program.clock.today());
+}
+
+QStringList filesOfCars(const Program &program)
+{
+    return CarFiles::files(program.folder);
+}
+
+QStringList carPictures(const Program &program)
+{
+    return CarFiles::pictures(program.folder);
+}
+
+std::unique_ptr<SearchSource> carSearch(const Program &program)
+{
+    return std::make_unique<CarSource>(program.folder, program.state.dateStyle);
+}
+
 void showCar(QWidget &window, const Place &place)
 {
     if (auto *cars = qobject_cast<AutoMaint *>(&window))
@@ -176,7 +204,14 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                      .search = budgetSearch,
                                      .show = showInBudget,
                                      .files = budgetFiles});
-    functions.add(Function::CarLog, {.open = makeWindow<AutoMaint>, .show = showCar});
+    functions.add(Function::CarLog, {.open = makeWindow<AutoMaint>,
+                                     .liveLine = carNews,
+                                     .liveFiles = CarNews::liveFiles(),
+                                     .dayNotes = carNotes,
+                                     .search = carSearch,
+                                     .show = showCar,
+                                     .files = filesOfCars,
+                                     .pictures = carPictures});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

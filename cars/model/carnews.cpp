@@ -14,8 +14,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Files of cars that are made while the program runs are followed too.
-constexpr int watchedSlots = 12;
+/// No household has more; files that are not there cost nothing.
+constexpr int watchedSlots = 24;
+constexpr qsizetype mostNames = 3; ///< of what is overdue, in one note
 
 QList<CarNeed> needsOf(const CarRecord &car, DateStyle style, QDate today)
 {
@@ -73,23 +74,83 @@ std::optional<LiveLine> consumption(const QList<CarRecord> &cars, DateStyle styl
     return line;
 }
 
-/// What is said of a need at a day: "oil change overdue since Sep 2", "insurance runs out".
-QString noteWords(const CarNeed &need, bool isMoved, DistanceUnit unit, DateStyle style, QDate today)
+/// What is said of one car on some days.
+class CarNotes
 {
-    const QString name = DueWords::shortName(need);
-    const bool isOverdue = need.state == CarNeed::State::Overdue;
-    if (need.kind != CarNeed::Kind::Action && !isMoved)
-        return name + (isOverdue ? u" ran out"_s : u" runs out"_s);
-    if (isOverdue) {
-        const bool hasDay = isMoved && need.date().isValid();
-        const QString words = need.kind == CarNeed::Kind::Action ? u" overdue"_s : u" ran out"_s;
-        const QString since = need.kind == CarNeed::Kind::Action ? u" since "_s : u" "_s;
-        return name + words + (hasDay ? since + DueWords::day(need.date(), style, today) : QString());
+public:
+    CarNotes(const CarRecord &car, DateStyle style, QDate today)
+        : m_car(car)
+        , m_style(style)
+        , m_today(today)
+    {}
+
+    void add(QDate from, QDate to, QList<DayNote> &notes) const
+    {
+        QList<CarNeed> moved; // to today
+        for (const CarNeed &need : CarNeeds::byUrgency(needsOf(m_car, m_style, m_today))) {
+            const QDate date = need.date();
+            if (need.state == CarNeed::State::Overdue && (!date.isValid() || date < from))
+                moved.append(need);
+            else if (need.state >= CarNeed::State::Ahead && date >= from && date <= to)
+                notes.append(note(date, words(need), need));
+        }
+        if (moved.isEmpty() || m_today < from || m_today > to)
+            return;
+        notes.append(
+            note(m_today, moved.size() == 1 ? sinceWhen(moved.first()) : together(moved), moved.first()));
+        if (moved.size() > 1)
+            notes.last().place = CarPlace{.slot = m_car.vehicle.slot}.place();
     }
-    if (need.limit == CarNeed::Limit::Distance)
-        return name + u" due at about "_s + DueWords::distance(need.reading, unit);
-    return name + u" due"_s;
-}
+
+private:
+    DayNote note(QDate day, const QString &words, const CarNeed &need) const
+    {
+        return {.date = day,
+                .text = m_car.vehicle.name + u": "_s + words,
+                .source = u"Car Log"_s,
+                .kind = need.state == CarNeed::State::Overdue ? NoteKind::Overdue : NoteKind::Due,
+                .place = CarPlace{.slot = m_car.vehicle.slot, .row = need.row}.place(need.date()),
+                .nameLength = m_car.vehicle.name.size()};
+    }
+
+    /// "coolant due at about 10,500 miles", "insurance runs out".
+    QString words(const CarNeed &need) const
+    {
+        const QString name = DueWords::shortName(need);
+        const bool isOverdue = need.state == CarNeed::State::Overdue;
+        if (need.kind != CarNeed::Kind::Action)
+            return name + (isOverdue ? u" ran out"_s : u" runs out"_s);
+        if (isOverdue)
+            return name + u" overdue"_s;
+        if (need.limit == CarNeed::Limit::Distance)
+            return name + u" due at about "_s + DueWords::distance(need.reading, m_car.sheet.unit);
+        return name + u" due"_s;
+    }
+
+    /// "oil change overdue since Sep 2", "insurance ran out Nov 21".
+    QString sinceWhen(const CarNeed &need) const
+    {
+        if (!need.date().isValid())
+            return words(need);
+        const QString since = need.kind == CarNeed::Kind::Action ? u" since "_s : u" "_s;
+        return words(need) + since + DueWords::day(need.date(), m_style, m_today);
+    }
+
+    /// "oil change, tires overdue".
+    static QString together(const QList<CarNeed> &needs)
+    {
+        QStringList names;
+        for (const CarNeed &need : needs.first(std::min(needs.size(), mostNames)))
+            names << DueWords::shortName(need);
+        if (needs.size() > mostNames)
+            names << QString::number(needs.size() - mostNames) + u" more"_s;
+        return names.join(u", "_s) + u" overdue"_s;
+    }
+
+    const CarRecord &m_car;
+    DateStyle m_style;
+    QDate m_today;
+};
 
 } // namespace
 
@@ -113,36 +174,16 @@ std::optional<LiveLine> CarNews::liveLine(const DataFolder &folder, DateStyle st
 QList<DayNote> CarNews::dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to, QDate today)
 {
     QList<DayNote> notes;
-    for (const CarRecord &car : CarFiles(folder).all()) {
-        for (const CarNeed &need : needsOf(car, style, today)) {
-            if (need.state < CarNeed::State::Ahead)
-                continue;
-            const bool isOverdue = need.state == CarNeed::State::Overdue;
-            const QDate date = need.date();
-            const bool isMoved = isOverdue && (!date.isValid() || (date < from && today >= from));
-            const QDate shown = isMoved ? today : date;
-            if (!shown.isValid() || shown < from || shown > to)
-                continue;
-            notes.append(
-                {.date = shown,
-                 .text = car.vehicle.name + u": "_s + noteWords(need, isMoved, car.sheet.unit, style, today),
-                 .source = u"Car Log"_s,
-                 .kind = isOverdue ? NoteKind::Overdue : NoteKind::Due,
-                 .place = CarPlace{.slot = car.vehicle.slot, .row = need.row}.place(date),
-                 .nameLength = car.vehicle.name.size()});
-        }
-    }
+    for (const CarRecord &car : CarFiles(folder).all())
+        CarNotes(car, style, today).add(from, to, notes);
     std::ranges::stable_sort(notes, {}, &DayNote::date);
     return notes;
 }
 
-QStringList CarNews::liveFiles(const DataFolder &folder)
+QStringList CarNews::liveFiles()
 {
     QStringList files{VehicleList::fileName()};
-    int most = watchedSlots;
-    for (const Vehicle &vehicle : CarFiles(folder).vehicles())
-        most = std::max(most, vehicle.slot);
-    for (int slot = 1; slot <= most; ++slot) {
+    for (int slot = 1; slot <= watchedSlots; ++slot) {
         for (const CarPart part : carParts)
             files << VehicleFiles::fileName(part, slot);
     }

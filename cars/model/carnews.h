@@ -19,10 +19,10 @@ namespace CarNews {
 std::optional<LiveLine> liveLine(const DataFolder &folder, DateStyle style, QDate today);
 
 /// What comes from `from` to `to` by date or at the present rate of driving, in date order. What is overdue
-/// stands at its day or, where that lies before `from` or is not known, at `today`.
+/// stands at its day or, where that lies before `from` or is not known, at `today`: all of a car in one note.
 QList<DayNote> dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to, QDate today);
 
-/// The files that news and notes come from.
-QStringList liveFiles(const DataFolder &folder);
+/// The files that news and notes come from: those of the cars that are there and of some to come.
+QStringList liveFiles();
 
 } // namespace CarNews

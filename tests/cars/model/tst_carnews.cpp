@@ -142,6 +142,18 @@ private slots:
         QCOMPARE(CarPlace::of(notes[0].place), (CarPlace{1, CarPart::Sheet, 4}));
     }
 
+    void putsWhatIsOverdueIntoOneNote()
+    {
+        for (std::size_t row = 0; row < 5; ++row)
+            m_car.sheet.actions[row] = {
+                u"Work "_s + QString::number(row), {}, u"1"_s, {}, u"03/02/2026"_s, {}};
+        create();
+        const QList<DayNote> notes = CarNews::dayNotes(m_test->folder(), DateStyle::Usa, today, today, today);
+        QCOMPARE(notes.size(), 1);
+        QCOMPARE(notes[0].text, u"Family car: work 0, work 1, work 2, 2 more overdue"_s);
+        QCOMPARE(CarPlace::of(notes[0].place), CarPlace{.slot = 1});
+    }
+
     void saysWhatTheHouseholdsCarsNeed()
     {
         const DataFolder household(QStringLiteral(QUILLERY_TEST_DATA "/household/data"));
