@@ -23,17 +23,22 @@ QList<CarNeed> needsOf(const CarRecord &car, DateStyle style, QDate today)
     return CarNeeds::of(car, CarNeeds::drivingLog(car, style, today), style, today);
 }
 
-/// "Family car: oil change overdue"; where there is no room for the name "Oil change overdue".
-LiveLine lineOf(const Vehicle &vehicle, const QString &words, LiveLine::Urgency urgency,
-                const QString &shorter = {})
+/// "Family car: oil change overdue".
+LiveLine lineOf(const Vehicle &vehicle, const QString &words, LiveLine::Urgency urgency)
 {
-    LiveLine line{.text = vehicle.name + u": "_s + words,
-                  .urgency = urgency,
-                  .sentence = {},
-                  .nameLength = vehicle.name.size()};
-    QString alone = shorter.isEmpty() ? words : shorter;
-    alone[0] = alone[0].toUpper();
-    line.shorter = {alone};
+    return {.text = vehicle.name + u": "_s + words,
+            .urgency = urgency,
+            .sentence = {},
+            .nameLength = vehicle.name.size()};
+}
+
+/// The line of an only car can do without its name: "Oil change overdue".
+LiveLine withoutName(LiveLine line)
+{
+    const QStringList forms = QStringList(line.text) + line.shorter;
+    QString words = forms.last().sliced(line.nameLength + 2);
+    words[0] = words[0].toUpper();
+    line.shorter.append(words);
     return line;
 }
 
@@ -68,8 +73,9 @@ std::optional<LiveLine> consumption(const QList<CarRecord> &cars, DateStyle styl
         newest = figures.fillUps()[row].date;
         const double economy = *figures.fillUps()[row].economy;
         const bool isMiles = car.sheet.unit == DistanceUnit::Miles;
-        line = lineOf(car.vehicle, DueWords::economy(economy, car.sheet.unit), LiveLine::Plain,
-                      CarNumbers::text(economy, 1) + (isMiles ? u" mpg"_s : u" km/l"_s));
+        line = lineOf(car.vehicle, DueWords::economy(economy, car.sheet.unit), LiveLine::Plain);
+        line->shorter = {car.vehicle.name + u": "_s + CarNumbers::text(economy, 1) +
+                         (isMiles ? u" mpg"_s : u" km/l"_s)};
     }
     return line;
 }
@@ -168,7 +174,9 @@ std::optional<LiveLine> CarNews::liveLine(const DataFolder &folder, DateStyle st
         first = needs.first();
         line = lineOf(car, first, style, today);
     }
-    return line ? line : consumption(cars, style);
+    if (!line)
+        line = consumption(cars, style);
+    return line && cars.size() == 1 ? withoutName(*line) : line;
 }
 
 QList<DayNote> CarNews::dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to, QDate today)
