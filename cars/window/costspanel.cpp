@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/window/costspanel.h"
+
+#include "cars/model/carneeds.h"
+#include "cars/model/costwords.h"
+#include "cars/model/fuellines.h"
+#include "cars/window/carcharts.h"
+#include "cars/window/figurestrip.h"
+#include "cars/window/opencar.h"
+#include "shell/charts/barchartview.h"
+#include "shell/charts/linechartview.h"
+#include "shell/controls/listrowdelegate.h"
+#include "shell/controls/titleline.h"
+#include "shell/program/program.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QStackedWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int mostYearsInView = 5;
+} // namespace
+
+CostsPanel::CostsPanel(const CarDesk &desk)
+    : TaskPanel(u"costsPanel"_s, {})
+    , m_desk(desk)
+    , m_figures(new FigureStrip(u"costsFigures"_s, this))
+    , m_charts(named(new QComboBox(this), u"costsChart"_s))
+    , m_stack(new QStackedWidget(this))
+    , m_lines(new LineChartView(u"costsLines"_s, m_stack))
+    , m_bars(new BarChartView(u"costsBars"_s, m_stack))
+    , m_table(named(new QTableView(this), u"costsTable"_s))
+{
+    m_charts->addItems(
+        {u"Cost by month"_s, u"Cost by kind"_s, u"Cost by year"_s, u"Consumption"_s, u"Odometer"_s});
+    m_charts->setAccessibleName(u"What the chart shows"_s);
+    titleLine().addAtRight(m_charts);
+    m_stack->addWidget(m_lines);
+    m_stack->addWidget(m_bars);
+    makeTable();
+    auto *work = new QWidget(this);
+    auto *rows = new QVBoxLayout(work);
+    rows->setContentsMargins({});
+    rows->setSpacing(12);
+    rows->addWidget(m_figures);
+    rows->addWidget(m_stack, 1);
+    rows->addWidget(m_table);
+    setWork(work);
+    connect(addButton(u"costsPrint"_s, u"&Print Costs"_s), &QPushButton::clicked, this,
+            &CostsPanel::printWanted);
+    setLeaveButton(u"costsClose"_s, u"C&lose"_s);
+    setFocusProxy(m_charts);
+    connect(m_charts, &QComboBox::currentIndexChanged, this, &CostsPanel::showChart);
+    connect(&m_desk.car, &OpenCar::changed, this, [this] {
+        if (isVisible())
+            refresh();
+    });
+}
+
+void CostsPanel::makeTable()
+{
+    std::vector<TableColumn<Row>> columns;
+    const QStringList headings = CostWords::headings(u"Year"_s, m_desk.car.unit());
+    for (qsizetype i = 0; i < headings.size(); ++i)
+        columns.push_back({headings[i], i == 0 ? Qt::AlignLeft : Qt::AlignRight,
+                           [i](const Row &row) { return row.value(i); }});
+    m_model = new RowsModel<Row>(std::move(columns), this);
+    m_table->setModel(m_model);
+    m_table->setAccessibleName(u"Costs of the years"_s);
+    setGridRows(m_table);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+}
+
+void CostsPanel::setChart(Chart chart)
+{
+    m_charts->setCurrentIndex(chart);
+}
+
+void CostsPanel::refresh()
+{
+    const DateStyle style = m_desk.program.state.dateStyle;
+    const CarCosts costs(m_desk.car.record(), style, m_desk.program.clock.today());
+    showFigures(costs);
+    showYears(costs);
+    showChart();
+}
+
+void CostsPanel::showFigures(const CarCosts &costs)
+{
+    const CostSums all = costs.all();
+    const auto month = costs.perMonth();
+    setTitle(month ? HistoryLines::money(*month) + u" a month"_s : u"What the car costs"_s);
+    QList<FigureStrip::Figure> figures;
+    for (const CostKind kind : costKinds)
+        figures.append({CostWords::kind(kind), HistoryLines::moneyOrNone(all.of(kind))});
+    figures.append({u"Together"_s, HistoryLines::moneyOrNone(all.total())});
+    if (const auto each = all.perDistance())
+        figures.append(
+            {u"A "_s + FuelLines::distance(m_desk.car.unit()) + u" costs"_s, HistoryLines::money(*each)});
+    m_figures->setFigures(figures);
+}
+
+/// Each year, and under the present one the same days of the year before it.
+void CostsPanel::showYears(const CarCosts &costs)
+{
+    std::vector<Row> rows;
+    const DateStyle style = m_desk.program.state.dateStyle;
+    const int present = m_desk.program.clock.today().year();
+    for (const int year : costs.years()) {
+        if (year != present) {
+            rows.push_back(
+                CostWords::row(QString::number(year), costs.sums(QDate(year, 1, 1), QDate(year, 12, 31))));
+            continue;
+        }
+        const CarCosts::YearAgainstLast both = costs.yearAgainstLast(year);
+        rows.push_back(CostWords::row(CostWords::year(both, style, false), both.sums));
+        rows.push_back(CostWords::row(CostWords::year(both, style, true), both.before));
+    }
+    const int inView = std::clamp(int(rows.size()), 1, mostYearsInView);
+    m_model->setRows(std::move(rows));
+    m_table->ensurePolished();
+    m_table->setFixedHeight(m_table->horizontalHeader()->height() + inView * ListRowDelegate::rowHeight() +
+                            2 * m_table->frameWidth());
+    m_table->setVisible(m_model->rowCount() > 0);
+}
+
+void CostsPanel::showChart()
+{
+    const CarRecord &car = m_desk.car.record();
+    const DistanceUnit unit = car.sheet.unit;
+    const DateStyle style = m_desk.program.state.dateStyle;
+    const QDate today = m_desk.program.clock.today();
+    const auto chart = Chart(m_charts->currentIndex());
+    m_stack->setCurrentWidget(chart == Kinds || chart == Years ? static_cast<QWidget *>(m_bars) : m_lines);
+    switch (chart) {
+    case Months:
+        return m_lines->setChart(CarCharts::costs(CarCosts(car, style, today), style));
+    case Kinds:
+        return m_bars->setChart(CarCharts::kinds(CarCosts(car, style, today)));
+    case Years:
+        return m_bars->setChart(CarCharts::years(CarCosts(car, style, today)));
+    case Consumption:
+        return m_lines->setChart(CarCharts::consumption(FuelFigures(car.fuel, style), unit, style));
+    case Odometer:
+        return m_lines->setChart(CarCharts::odometer(CarNeeds::drivingLog(car, style, today), unit, style));
+    }
+}

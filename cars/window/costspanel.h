@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cars/window/cardesk.h"
+#include "shell/controls/rowsmodel.h"
+#include "shell/controls/taskpanel.h"
+
+class BarChartView;
+class CarCosts;
+class FigureStrip;
+class LineChartView;
+class QComboBox;
+class QStackedWidget;
+class QTableView;
+
+/// What the open car costs: by kinds, years and months, and its charts.
+class CostsPanel final : public TaskPanel
+{
+    Q_OBJECT
+public:
+    /// What the chart is of, in the order of the box.
+    enum Chart { Months, Kinds, Years, Consumption, Odometer };
+
+    explicit CostsPanel(const CarDesk &desk);
+
+    void setChart(Chart chart);
+    /// Shows the open car as it is now.
+    void refresh();
+
+signals:
+    void printWanted();
+
+private:
+    /// A row of the table: a year, and what it came to.
+    using Row = QStringList;
+
+    void makeTable();
+    void showFigures(const CarCosts &costs);
+    void showYears(const CarCosts &costs);
+    void showChart();
+
+    CarDesk m_desk;
+    FigureStrip *m_figures;
+    QComboBox *m_charts;
+    QStackedWidget *m_stack;
+    LineChartView *m_lines;
+    BarChartView *m_bars;
+    RowsModel<Row> *m_model = nullptr;
+    QTableView *m_table;
+};
