@@ -57,7 +57,8 @@ void CarCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
 {
     const Theme &theme = Theme::of(m_grid);
     const QModelIndex current = m_grid->currentIndex();
-    const bool isCurrent = index == current;
+    // Of two grids that stand together, only the one that is used shows its current cell.
+    const bool isCurrent = index == current && m_grid->isInUse();
     if (isCurrent)
         painter->fillRect(option.rect, theme.mark);
     else if ((option.state & QStyle::State_Selected) || (current.isValid() && current.row() == index.row()))

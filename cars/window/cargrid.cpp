@@ -46,6 +46,12 @@ CarGrid::CarGrid(const Program &program, const QString &name, DatePicker *picker
     connect(m_delegate, &CarCellDelegate::refused, this, &CarGrid::said);
 }
 
+bool CarGrid::isInUse() const
+{
+    const QWidget *focus = window()->focusWidget();
+    return focus && (focus == this || isAncestorOf(focus));
+}
+
 int CarGrid::rowHeight()
 {
     return std::max(leastRowHeight, QFontMetrics(QApplication::font()).height() + 8);
@@ -213,6 +219,12 @@ void CarGrid::focusInEvent(QFocusEvent *event)
 {
     if (event->reason() != Qt::ActiveWindowFocusReason || currentIndex().isValid())
         QTableView::focusInEvent(event);
+    viewport()->update();
+}
+
+void CarGrid::focusOutEvent(QFocusEvent *event)
+{
+    QTableView::focusOutEvent(event);
     viewport()->update();
 }
 

@@ -31,6 +31,8 @@ public:
     /// Makes it the single row in which something new is typed, a cell after the other as in boxes.
     void setEntry();
     bool isEntry() const { return m_isEntry; }
+    /// Whether it has the focus, itself or in the box of a cell.
+    bool isInUse() const;
     static int rowHeight();
 
     /// What is being typed goes into its cell.
@@ -63,6 +65,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     bool focusNextPrevChild(bool next) override;
 
