@@ -35,10 +35,20 @@ inline QString answer(const FuelSums &sums, DistanceUnit unit)
     return CarNumbers::text(*sums.economy, 1) + u' ' + perAmount(unit) + u" on average"_s;
 }
 
-/// "Last, Aug 31, 2026"
-inline QString lastFillUp(const FillUp &last, DateStyle style)
+/// "Last, Aug 31", with the year of another year
+inline QString lastFillUp(const FillUp &last, DateStyle style, QDate today)
 {
-    return u"Last, "_s + (last.date.isValid() ? Dates::shortWithYear(last.date, style) : u"undated"_s);
+    if (!last.date.isValid())
+        return u"Last fill-up"_s;
+    return u"Last, "_s + (last.date.year() == today.year() ? Dates::shortText(last.date, style)
+                                                           : Dates::shortWithYear(last.date, style));
+}
+
+/// Of the chart beside the rows, which names no axes.
+inline QString chartTitle(DistanceUnit unit)
+{
+    return unit == DistanceUnit::Miles ? u"Miles per gallon of each fill-up"_s
+                                       : u"Km per liter of each fill-up"_s;
 }
 
 inline QString perDistance(DistanceUnit unit)

@@ -4,6 +4,7 @@
 #include "cars/model/lines.h"
 #include "cars/model/messages.h"
 #include "cars/window/carlist.h"
+#include "cars/window/carprint.h"
 #include "cars/window/carsigns.h"
 #include "cars/window/carview.h"
 #include "cars/window/carviews.h"
@@ -49,6 +50,9 @@ AutoMaint::AutoMaint(Program &program, QWidget *parent)
     , m_views(new CarViews({program, *this, *m_car, commands(), *m_stack}, this))
     , m_histories(
           new HistoryCommands({program, *this, *m_car, commands(), *m_stack}, m_views->histories(), this))
+    , m_print(new CarPrint(
+          {program, *this, *m_car, commands(), *m_stack}, [this] { return m_views->sheet(); },
+          [this] { m_views->finishEdit(); }, this))
     , m_emptyPage(new EmptyPage(
           "car-log"_L1, u"No car is in the list yet"_s,
           u"A name, the make or model and what the odometer reads are enough to begin."_s, this))
@@ -77,10 +81,16 @@ void AutoMaint::makeCommands()
 {
     QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
     QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
-    m_views->addCommands(addMenu(u"mV"_s, u"&View"_s));
+    QMenu *view = addMenu(u"mV"_s, u"&View"_s);
+    QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
+    m_views->addCommands(view);
     undoStack().addCommands(edit);
     edit->addSeparator();
     m_histories->addCommands(edit);
+    view->addSeparator();
+    m_histories->addCosts(view);
+    toolbar().giveWay(m_print->addCommands(options));
+    options->addSeparator();
     options->addAction(standard(Standard::PanelColor));
     options->addSeparator();
     m_save = commands().writing(commands().add(
@@ -88,7 +98,10 @@ void AutoMaint::makeCommands()
         CommonKeys::save));
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
-    addUtilitiesMenu();
+    utilities->addAction(standard(Standard::Backup));
+    utilities->addAction(standard(Standard::Restore));
+    utilities->addSeparator();
+    m_histories->addFiles(utilities);
     addHelpEntry();
     commands().separateTools();
     for (const Standard tool : {Standard::PanelColor, Standard::Backup})
@@ -113,6 +126,7 @@ void AutoMaint::connectCar()
     connect(m_list, &CarList::chosen, this, &AutoMaint::openCar);
     connect(m_views, &CarViews::said, &activity(), &ActivityBar::say);
     connect(m_histories, &HistoryCommands::said, &activity(), &ActivityBar::say);
+    connect(m_histories, &HistoryCommands::costsPrintWanted, m_print, &CarPrint::printCosts);
     connect(m_histories, &HistoryCommands::done, this, [this](const QString &line) {
         activity().say(line);
         undoStack().offer();

@@ -4,6 +4,7 @@
 #include "shell/frame/functionwindow.h"
 
 class CarList;
+class CarPrint;
 class CarSigns;
 class CarViews;
 class HistoryCommands;
@@ -48,6 +49,7 @@ private:
     WorkViews *m_stack; ///< the views, and what stands over them
     CarViews *m_views;
     HistoryCommands *m_histories;
+    CarPrint *m_print;
     EmptyPage *m_emptyPage;
     QAction *m_save = nullptr;
 };

@@ -76,6 +76,15 @@ CarView *CarViews::shown() const
     return found == m_views.end() ? nullptr : *found;
 }
 
+CarPrint::Sheet CarViews::sheet() const
+{
+    using Sheet = CarPrint::Sheet;
+    static constexpr std::array sheets{Sheet::Schedule, Sheet::Information, Sheet::Maintenance,
+                                       Sheet::Repairs, Sheet::Fuel};
+    const auto found = std::ranges::find(m_views, shown());
+    return found == m_views.end() ? Sheet::Schedule : sheets.at(std::size_t(found - m_views.begin()));
+}
+
 void CarViews::open(Place place)
 {
     finishEdit();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cars/window/cardesk.h"
+#include "cars/window/carprint.h"
 
 #include <QObject>
 
@@ -30,6 +31,8 @@ public:
     std::vector<LogView *> histories() const;
     /// The one in front; null while something else is.
     CarView *shown() const;
+    /// What is printed of the one in front.
+    CarPrint::Sheet sheet() const;
     /// Brings a view to the front, with the focus in it.
     void open(Place place);
     /// Puts the commands that open them into `menu` and on the toolbar.

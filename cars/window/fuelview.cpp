@@ -3,17 +3,23 @@
 
 #include "cars/model/carnumbers.h"
 #include "cars/model/fuellines.h"
+#include "cars/window/carcharts.h"
 #include "cars/window/figurestrip.h"
 #include "cars/window/fuelcalculatorpanel.h"
 #include "cars/window/logmodel.h"
 #include "cars/window/opencar.h"
-#include "shell/controls/buttonrow.h"
-#include "shell/controls/controls.h"
+#include "shell/charts/linechartview.h"
 #include "shell/controls/titleline.h"
+#include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
 #include "shell/program/program.h"
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int chartHeight = 176;
+constexpr int leastHeightWithChart = 620;
+} // namespace
 
 FuelView::FuelView(const CarDesk &desk)
     : LogView(u"fuel"_s, desk, CarPart::Fuel,
@@ -27,17 +33,16 @@ FuelView::FuelView(const CarDesk &desk)
                            {u"9999.99"_s}}),
               u"&Add Fill-up"_s)
     , m_figures(new FigureStrip(u"fuelFigures"_s, this))
+    , m_chart(new LineChartView(u"fuelChart"_s, this))
 {
     pane().setAmend(
         [this](CarRecord &wanted, qsizetype row, LogPane::Adding) { followReading(wanted, row); });
-    QPushButton *calculator = makeButton(u"fuelCalculator"_s, u"&Calculators..."_s, &foot());
-    foot().addLeft(calculator);
-    connect(calculator, &QPushButton::clicked, this, &FuelView::openCalculator);
     addContent(m_figures);
+    addContent(m_chart);
     addContent(&pane(), 1);
 }
 
-void FuelView::openCalculator()
+void FuelView::openCalculators()
 {
     finishEdit();
     if (!m_calculator) {
@@ -54,8 +59,10 @@ void FuelView::openCalculator()
                             fillUp.economy, fillUp.cost});
         });
     }
+    desk().window.closePreview();
     const FuelLog &log = car().record().fuel;
-    m_calculator->begin(pane().model().figures(), log.isEmpty() ? QString() : log.last().current);
+    m_calculator->begin(FuelFigures(log, desk().program.state.dateStyle),
+                        log.isEmpty() ? QString() : log.last().current);
     desk().views.open(m_calculator);
     m_calculator->setFocus();
 }
@@ -75,12 +82,13 @@ void FuelView::followReading(CarRecord &wanted, qsizetype row)
 void FuelView::showFigures()
 {
     const DistanceUnit unit = car().unit();
+    const DateStyle style = desk().program.state.dateStyle;
     const FuelFigures &figures = pane().model().figures();
     const FuelSums sums = figures.sums();
     titleLine().setTitle(FuelLines::answer(sums, unit));
     QList<FigureStrip::Figure> strip;
     if (const int newest = figures.newest(); newest >= 0)
-        strip.append({FuelLines::lastFillUp(figures.fillUps()[newest], desk().program.state.dateStyle),
+        strip.append({FuelLines::lastFillUp(figures.fillUps()[newest], style, desk().program.clock.today()),
                       CarNumbers::text(*figures.fillUps()[newest].economy, 1)});
     if (sums.best)
         strip.append({u"Best / worst"_s,
@@ -92,4 +100,24 @@ void FuelView::showFigures()
     if (sums.fillUps > 0)
         strip.append({FuelLines::inAll(sums.fillUps), HistoryLines::money(double(sums.cents))});
     m_figures->setFigures(strip);
+    LineChart chart = CarCharts::consumption(figures, unit, style);
+    // The room is for the line; the title names what it shows.
+    chart.title = FuelLines::chartTitle(unit);
+    chart.across.name.clear();
+    chart.up.name.clear();
+    m_chart->setChart(chart);
+    placeChart();
+}
+
+/// In a low window the rows need the room, and the chart has a panel of its own.
+void FuelView::placeChart()
+{
+    m_chart->setFixedHeight(chartHeight);
+    m_chart->setVisible(height() >= leastHeightWithChart && !m_chart->chart().isEmpty());
+}
+
+void FuelView::resizeEvent(QResizeEvent *event)
+{
+    LogView::resizeEvent(event);
+    placeChart();
 }

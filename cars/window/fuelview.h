@@ -5,6 +5,7 @@
 
 class FigureStrip;
 class FuelCalculatorPanel;
+class LineChartView;
 
 /// The fuel tracker of the open car: what it uses and costs, and its fill-ups, the newest first.
 class FuelView final : public LogView
@@ -13,13 +14,17 @@ class FuelView final : public LogView
 public:
     explicit FuelView(const CarDesk &desk);
 
+    void openCalculators();
+
 protected:
     void showFigures() override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void openCalculator();
+    void placeChart();
     void followReading(CarRecord &wanted, qsizetype row);
 
     FigureStrip *m_figures;
+    LineChartView *m_chart;
     FuelCalculatorPanel *m_calculator = nullptr; ///< made when it is first opened
 };

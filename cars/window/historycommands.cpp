@@ -4,6 +4,9 @@
 #include "cars/model/historylines.h"
 #include "cars/model/lines.h"
 #include "cars/model/messages.h"
+#include "cars/window/costspanel.h"
+#include "cars/window/csvdesk.h"
+#include "cars/window/fuelview.h"
 #include "cars/window/logmodel.h"
 #include "cars/window/logview.h"
 #include "cars/window/opencar.h"
@@ -24,7 +27,11 @@ HistoryCommands::HistoryCommands(const CarDesk &desk, std::vector<LogView *> vie
     : QObject(parent)
     , m_desk(desk)
     , m_views(std::move(views))
+    , m_files(new CsvDesk(
+          desk, [this] { return shown(); }, this))
 {
+    connect(m_files, &CsvDesk::said, this, &HistoryCommands::said);
+    connect(m_files, &CsvDesk::done, this, &HistoryCommands::done);
     for (const LogView *view : m_views)
         connect(view, &LogView::done, this, &HistoryCommands::done);
 }
@@ -73,6 +80,45 @@ void HistoryCommands::addButtons(QAction *deleteEntry)
             foot.addLeft(all.button(deleteEntry, name, u"&Delete Entry"_s, &foot));
         }
     }
+}
+
+void HistoryCommands::addCosts(QMenu *view)
+{
+    Commands &all = m_desk.commands;
+    QAction *costs = all.add(
+        view, u"mVCosts"_s, u"&Costs and Charts"_s, [this] { openCosts(); },
+        [this] { return m_desk.car.isOpen() ? QString() : CarLines::noCarYet(); });
+    for (LogView *one : m_views) {
+        auto *fuel = qobject_cast<FuelView *>(one);
+        if (!fuel)
+            continue;
+        QAction *calculators = all.add(
+            view, u"mVCalculators"_s, u"Fuel Ca&lculators"_s, [fuel] { fuel->openCalculators(); },
+            [this] { return m_desk.car.isOpen() ? QString() : CarLines::noCarYet(); });
+        ButtonRow &foot = fuel->foot();
+        foot.addLeft(all.button(calculators, u"fuelCalculator"_s, u"&Calculators..."_s, &foot));
+        foot.addLeft(all.button(costs, u"fuelCosts"_s, u"C&harts..."_s, &foot));
+    }
+}
+
+void HistoryCommands::addFiles(QMenu *utilities)
+{
+    m_files->addCommands(utilities);
+}
+
+void HistoryCommands::openCosts()
+{
+    if (LogView *view = shown())
+        view->finishEdit();
+    m_desk.window.closePreview();
+    if (!m_costs) {
+        m_costs = new CostsPanel(m_desk);
+        m_desk.views.addPanel(m_costs);
+        connect(m_costs, &CostsPanel::printWanted, this, &HistoryCommands::costsPrintWanted);
+    }
+    m_costs->refresh();
+    m_desk.views.open(m_costs);
+    m_costs->setFocus();
 }
 
 LogView *HistoryCommands::shown() const

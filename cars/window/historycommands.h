@@ -7,11 +7,14 @@
 
 #include <vector>
 
+class CostsPanel;
+class CsvDesk;
 class LogView;
 class QAction;
 class QMenu;
 
-/// What is done with the rows of histories and fuel tracker beside typing: deleting, the clipboard.
+/// What is done with the rows of histories and fuel tracker beside typing: deleting, the clipboard, files,
+/// and what they come to.
 class HistoryCommands final : public QObject
 {
     Q_OBJECT
@@ -20,12 +23,17 @@ public:
 
     /// Puts the commands into the edit menu, and buttons into the feet of the views.
     void addCommands(QMenu *edit);
+    /// Puts the costs with their charts, and the calculators, into the view menu and the fuel view's foot.
+    void addCosts(QMenu *view);
+    /// Puts export and import into the utilities.
+    void addFiles(QMenu *utilities);
 
 signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
     /// Something was added or deleted, as `line` says, and can be taken back.
     void done(const QString &line);
+    void costsPrintWanted();
 
 private:
     void addButtons(QAction *deleteEntry);
@@ -34,7 +42,10 @@ private:
     QString whyNoRows() const;
     void deleteEntry();
     void deleteFillUp();
+    void openCosts();
 
     CarDesk m_desk;
     std::vector<LogView *> m_views;
+    CsvDesk *m_files;
+    CostsPanel *m_costs = nullptr; ///< made when it is first opened
 };

@@ -16,6 +16,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -33,6 +34,7 @@ LogPane::LogPane(const CarDesk &desk, CarPart part, const Names &names, std::vec
     , m_empty(named(makeQuietLabel(HistoryLines::noneYet(part), this), names.list + u"Empty"_s))
 {
     m_entry->setEntry();
+    m_entry->installEventFilter(this);
     m_list->horizontalHeader()->hide();
     m_empty->setWordWrap(true);
     for (CarGrid *grid : {m_entry, m_list})
@@ -46,6 +48,7 @@ LogPane::LogPane(const CarDesk &desk, CarPart part, const Names &names, std::vec
     rows->addStretch(0);
     setFocusProxy(m_entry);
     connectGrids();
+    m_entry->setCurrentIndex(m_new->index(0, m_new->firstColumn()));
 }
 
 CarGrid *LogPane::makeGrid(const QString &name, QAbstractItemModel *model, const QString &accessibleName)
@@ -108,12 +111,6 @@ void LogPane::place()
     m_entry->setFixedHeight(m_entry->horizontalHeader()->sizeHint().height() + CarGrid::rowHeight() +
                             2 * m_entry->frameWidth());
     m_entry->fitColumns(isEmpty ? m_entry->viewport()->width() : m_list->viewport()->width());
-}
-
-bool LogPane::isEntryInUse() const
-{
-    const QWidget *focus = m_entry->window()->focusWidget();
-    return focus && (focus == m_entry || m_entry->isAncestorOf(focus));
 }
 
 void LogPane::finishEdit()
@@ -182,7 +179,7 @@ QString LogPane::removeChosen()
 
 void LogPane::copy()
 {
-    const CarGrid *grid = isEntryInUse() ? m_entry : m_list;
+    const CarGrid *grid = m_entry->isInUse() ? m_entry : m_list;
     QItemSelection chosen = grid->selectionModel()->selection();
     if (chosen.isEmpty() && grid->currentIndex().isValid())
         chosen.select(grid->currentIndex(), grid->currentIndex());
@@ -204,13 +201,24 @@ void LogPane::copy()
 void LogPane::paste()
 {
     const GridText::Rows rows = GridText::decode(QGuiApplication::clipboard()->text());
-    const QModelIndex current = (isEntryInUse() ? m_entry : m_list)->currentIndex();
+    const QModelIndex current = (m_entry->isInUse() ? m_entry : m_list)->currentIndex();
     if (const QString why = m_desk.car.whyLocked(m_model->part()); !why.isEmpty())
         emit said(why);
     else if (rows.isEmpty() || !current.isValid())
         emit said(HistoryLines::nothingToPaste());
-    else if (isEntryInUse())
+    else if (m_entry->isInUse())
         m_new->paste(current.column(), rows.first());
     else
         emit said(m_model->paste(current, rows));
+}
+
+/// Esc gives up what was typed into the row of something new, before it leaves the view.
+bool LogPane::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isEscape = watched == m_entry && event->type() == QEvent::KeyPress &&
+                          static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    if (!isEscape || !m_new->isTyped())
+        return QWidget::eventFilter(watched, event);
+    m_new->clear();
+    return true;
 }

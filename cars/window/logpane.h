@@ -64,12 +64,14 @@ signals:
     /// Another row is chosen, or none.
     void chosen();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     CarGrid *makeGrid(const QString &name, QAbstractItemModel *model, const QString &accessibleName);
     void connectGrids();
     void add(Adding adding);
     void place();
-    bool isEntryInUse() const;
 
     CarDesk m_desk;
     Amend m_amend;

@@ -10,6 +10,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QTableView>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -113,6 +114,16 @@ private slots:
         open("mVRep");
         QCOMPARE(cell("Grid1", 0, 2), u"Wash"_s);
         QVERIFY(m_window->isModified());
+        // Esc gives it up.
+        type("Grid3", 0, 2, u"Polish"_s);
+        press("Grid3", Qt::Key_Escape);
+        enter("Grid3", 0, 2, u"Polish"_s);
+        grid("Grid3")->setFocus();
+        press("Grid3", Qt::Key_Escape);
+        press("Grid3", Qt::Key_Escape);
+        open("mVFuel");
+        open("mVRep");
+        QCOMPARE(cell("Grid1", 0, 2), u"Wash"_s);
     }
 
     void checksWhatIsTypedIntoACell_data()
@@ -222,6 +233,56 @@ private slots:
         click("calculatorEnter");
         QCOMPARE(cells("fuelEntry", 0), QStringList({u"11/21/2026"_s, u"82820"_s, u"83120"_s, u"300"_s,
                                                      u"6+4"_s, u"30.0"_s, u"33"_s}));
+    }
+
+    void takesRowsOutAndIn()
+    {
+        open("mVRep");
+        const QString path = m_test->temporary.filePath(u"repairs.csv"_s);
+        m_test->dialogs.willChooseFile(path);
+        trigger("mUExcel");
+        QByteArray file = contentOf(path);
+        QVERIFY(file.contains("Battery"));
+        file.replace("03/25/2024", "04/26/2024");
+        QVERIFY(makeFile(path, file));
+        m_test->dialogs.willChooseFile(path);
+        trigger("mUBringIn");
+        QTRY_VERIFY(isOffered("carImportTake"));
+        click("carImportTake");
+        QCOMPARE(said(), u"Brought in: 1 entry"_s);
+        QCOMPARE(cells("Grid1", 2).mid(1, 2), QStringList({u"04/26/2024"_s, u"Battery"_s}));
+        trigger("mEUndo");
+        QVERIFY(!m_window->isModified());
+    }
+
+    void showsWhatItCosts()
+    {
+        open("mVFuel");
+        click("fuelCosts");
+        const auto *table = find<QTableView>("costsTable")->model();
+        QCOMPARE(table->index(0, 1).data().toString(), u"564.06"_s);
+        click("costsClose");
+    }
+
+    void printsWhatIsShown_data()
+    {
+        rows<QByteArray, QByteArray>({{"schedule", "mVDue", "mOPrt"},
+                                      {"information", "mVInfo", "mOPrt"},
+                                      {"maintenance", "mVMaint", "mOPrt"},
+                                      {"repairs", "mVRep", "mOPrt"},
+                                      {"fuel", "mVFuel", "mOPrt"},
+                                      {"costs", "mVFuel", "mOPCosts"},
+                                      {"record", "mVFuel", "mOPRecord"},
+                                      {"for a buyer", "mVFuel", "mOPBuyer"},
+                                      {"all cars", "mVFuel", "mOPAll"}});
+    }
+
+    void printsWhatIsShown()
+    {
+        const auto [view, command] = row<QByteArray, QByteArray>();
+        open(view);
+        trigger(command);
+        QVERIFY(m_window->isPreviewShown());
     }
 
     void deletesAnEntryAtOnce()
