@@ -14,10 +14,13 @@
 #include "shell/program/program.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -72,8 +75,9 @@ void CostsPanel::makeTable()
     m_table->setModel(m_model);
     m_table->setAccessibleName(u"Costs of the years"_s);
     setGridRows(m_table);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->horizontalHeader()->setMinimumSectionSize(1);
+    m_table->viewport()->installEventFilter(this);
 }
 
 void CostsPanel::setChart(Chart chart)
@@ -127,6 +131,29 @@ void CostsPanel::showYears(const CarCosts &costs)
     m_table->setFixedHeight(m_table->horizontalHeader()->height() + inView * ListRowDelegate::rowHeight() +
                             2 * m_table->frameWidth());
     m_table->setVisible(m_model->rowCount() > 0);
+    shareWidth();
+}
+
+/// Each column has room for what stands in it; the columns share the rest.
+void CostsPanel::shareWidth()
+{
+    const int count = m_model->columnCount();
+    std::vector<int> widths;
+    int spare = m_table->viewport()->width();
+    for (int column = 0; column < count; ++column) {
+        const int content = static_cast<QAbstractItemView *>(m_table)->sizeHintForColumn(column);
+        widths.push_back(std::max(content, m_table->horizontalHeader()->sectionSizeHint(column)));
+        spare -= widths.back();
+    }
+    for (int column = 0; column < count; ++column)
+        m_table->setColumnWidth(column, widths[std::size_t(column)] + std::max(0, spare) / count);
+}
+
+bool CostsPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_table->viewport() && event->type() == QEvent::Resize)
+        shareWidth();
+    return TaskPanel::eventFilter(watched, event);
 }
 
 void CostsPanel::showChart()

@@ -30,6 +30,9 @@ public:
 signals:
     void printWanted();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     /// A row of the table: a year, and what it came to.
     using Row = QStringList;
@@ -37,6 +40,7 @@ private:
     void makeTable();
     void showFigures(const CarCosts &costs);
     void showYears(const CarCosts &costs);
+    void shareWidth();
     void showChart();
 
     CarDesk m_desk;
