@@ -25,6 +25,51 @@ inline QString saved(const QString &name)
     return u"Saved: "_s + name;
 }
 
+inline QString created(const QString &name)
+{
+    return u"Created: "_s + name;
+}
+
+inline QString deleted(const QString &name)
+{
+    return u"Deleted: "_s + name;
+}
+
+inline QString broughtBack(const QString &name)
+{
+    return u"Brought back: "_s + name;
+}
+
+/// "Done: Rotate Tires".
+inline QString done(const QString &action)
+{
+    return u"Done: "_s + action;
+}
+
+inline QString whereDoneGoes()
+{
+    return u"This goes into the maintenance history and into the schedule as the last time. A reading beyond "
+           u"the "
+           "present one becomes the present one."_s;
+}
+
+inline QString unitNow(DistanceUnit unit)
+{
+    return unit == DistanceUnit::Miles
+               ? u"All cars count in miles and gallons now; the figures stay as they were typed"_s
+               : u"All cars count in kilometers and liters now; the figures stay as they were typed"_s;
+}
+
+inline QString whatIsRequired()
+{
+    return u"A name, the make or model and the odometer reading are enough to begin"_s;
+}
+
+inline QString notDeleted()
+{
+    return u"The disk refused; nothing was deleted"_s;
+}
+
 inline QString notSaved()
 {
     return u"The disk refused; nothing was saved, and what was typed is still here"_s;
@@ -90,7 +135,19 @@ inline QString howToBegin()
            "done last. What is due then stands here."_s;
 }
 
+inline QString pathNotStorable()
+{
+    return u"This path cannot be kept: it is longer than 260 characters, or one of them is not in the "
+           u"character "
+           "set of the files"_s;
+}
+
 // Reasons
+
+inline QString noPictureToDelete()
+{
+    return u"The car has no picture"_s;
+}
 
 inline QString noCarYet()
 {

@@ -1,21 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/automaint.h"
 
+#include "cars/model/carneeds.h"
+#include "cars/model/carplace.h"
 #include "cars/model/lines.h"
 #include "cars/model/messages.h"
+#include "cars/window/carchanges.h"
 #include "cars/window/carlist.h"
 #include "cars/window/carprint.h"
 #include "cars/window/carsigns.h"
 #include "cars/window/carview.h"
 #include "cars/window/carviews.h"
+#include "cars/window/createroutine.h"
+#include "cars/window/donepanel.h"
+#include "cars/window/dueview.h"
 #include "cars/window/historycommands.h"
+#include "cars/window/informationview.h"
 #include "cars/window/opencar.h"
+#include "cars/window/sheetform.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/emptypage.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/place.h"
 #include "shell/frame/commonkeys.h"
+#include "shell/frame/picturepanel.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undostack.h"
 #include "shell/frame/windowtoolbar.h"
@@ -37,6 +46,13 @@ WindowTraits traits()
             .helpContext = HelpContext::CarLog};
 }
 
+/// No field of the sheet has a width, but a path is one of the system's.
+PictureUse carPictureUse()
+{
+    constexpr qsizetype longestPath = 260;
+    return {u"Select Car Picture"_s, longestPath, CarLines::pathNotStorable(), CarLines::noPictureToDelete()};
+}
+
 } // namespace
 
 AutoMaint::AutoMaint(Program &program, QWidget *parent)
@@ -53,6 +69,17 @@ AutoMaint::AutoMaint(Program &program, QWidget *parent)
     , m_print(new CarPrint(
           {program, *this, *m_car, commands(), *m_stack}, [this] { return m_views->sheet(); },
           [this] { m_views->finishEdit(); }, this))
+    , m_changes(new CarChanges({program, *this, *m_car, commands(), *m_stack},
+                               {undoStack(), [this](int slot) { openList(slot); },
+                                [this] { return mayReplace(leaveQuestion()); },
+                                [this] { return !m_list->vehicles().isEmpty(); }},
+                               this))
+    , m_create(new CreateRoutine({program, *this, *m_car, commands(), *m_stack},
+                                 {*m_views, *m_changes, [this](int slot) { openList(slot); },
+                                  [this] { return mayReplace(leaveQuestion()); }, [this] { return save(); }},
+                                 this))
+    , m_done(new DonePanel({program, *this, *m_car, commands(), *m_stack}))
+    , m_pictures(new PicturePanel(program, carPictureUse(), PicturePanel::systemDrives, this))
     , m_emptyPage(new EmptyPage(
           "car-log"_L1, u"No car is in the list yet"_s,
           u"A name, the make or model and what the odometer reads are enough to begin."_s, this))
@@ -62,6 +89,7 @@ AutoMaint::AutoMaint(Program &program, QWidget *parent)
     makeCommands();
     setViews(m_stack);
     connectCar();
+    connectViews();
     finishFrame();
     openList(0);
 }
@@ -73,6 +101,8 @@ QWidget *AutoMaint::makeWorkPanel()
     layout->setContentsMargins(1, 1, 1, 1);
     layout->addWidget(m_stack);
     m_stack->addHome(m_emptyPage);
+    m_stack->addPanel(m_done);
+    m_stack->addPanel(m_pictures);
     return panel;
 }
 
@@ -85,6 +115,7 @@ void AutoMaint::makeCommands()
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_views->addCommands(view);
     undoStack().addCommands(edit);
+    m_changes->addEditCommands(edit);
     edit->addSeparator();
     m_histories->addCommands(edit);
     view->addSeparator();
@@ -92,6 +123,11 @@ void AutoMaint::makeCommands()
     toolbar().giveWay(m_print->addCommands(options));
     options->addSeparator();
     options->addAction(standard(Standard::PanelColor));
+    options->addSeparator();
+    QAction *create = m_create->addCommand(options);
+    QAction *remove = m_changes->addDelete(options);
+    options->addSeparator();
+    m_changes->addUnitCommands(options);
     options->addSeparator();
     m_save = commands().writing(commands().add(
         options, u"mOSave"_s, u"&Save"_s, [this] { saveByCommand(); }, [this] { return whyNoCar(); },
@@ -107,17 +143,29 @@ void AutoMaint::makeCommands()
     for (const Standard tool : {Standard::PanelColor, Standard::Backup})
         addStandardTool(tool);
     addStandardTool(Standard::Help, u"mH_tool"_s);
-    makeFoot();
+    makeFoot(remove);
+    m_create->addButtons();
+    m_list->addButton(commands().button(create, u"createNew"_s, create->text(), m_list));
+    m_emptyPage->addButton(
+        commands().button(create, u"emptyCreate"_s, create->text(), m_emptyPage, ButtonKind::Main));
+    m_emptyPage->addButton(commands().button(standard(Standard::Restore), u"emptyRestore"_s,
+                                             standard(Standard::Restore)->text(), m_emptyPage));
+    commands().setKeyIn(m_list->focusProxy(), remove, CommonKeys::remove);
 }
 
 /// Each view has the same buttons at the right.
-void AutoMaint::makeFoot()
+void AutoMaint::makeFoot(QAction *remove)
 {
+    ButtonRow &sheet = m_views->view(CarViews::Information)->foot();
+    m_buttons.append(commands().button(remove, u"Command8"_s, remove->text(), &sheet));
+    sheet.addLeft(m_buttons.back());
     for (CarView *view : m_views->all()) {
         ButtonRow &foot = view->foot();
         const QString name = view->objectName();
-        foot.addRight(commands().button(m_save, name + u"Save"_s, u"&Save"_s, &foot, ButtonKind::Main));
-        foot.addRight(commands().button(standard(Standard::Exit), name + u"Exit"_s, u"E&xit"_s, &foot));
+        m_buttons.append(commands().button(m_save, name + u"Save"_s, u"&Save"_s, &foot, ButtonKind::Main));
+        foot.addRight(m_buttons.back());
+        m_buttons.append(commands().button(standard(Standard::Exit), name + u"Exit"_s, u"E&xit"_s, &foot));
+        foot.addRight(m_buttons.back());
     }
 }
 
@@ -137,11 +185,34 @@ void AutoMaint::connectCar()
     connect(m_car, &OpenCar::fileTouched, this, [this] { watchFiles(m_car->fileNames()); });
 }
 
+void AutoMaint::connectViews()
+{
+    connect(m_changes, &CarChanges::said, &activity(), &ActivityBar::say);
+    connect(m_create, &CreateRoutine::said, &activity(), &ActivityBar::say);
+    connect(m_create, &CreateRoutine::changed, this, &AutoMaint::refreshHome);
+    connect(m_done, &DonePanel::said, &activity(), &ActivityBar::say);
+    connect(m_done, &DonePanel::done, this, [this](const QString &line) {
+        activity().say(line);
+        undoStack().offer();
+    });
+    auto *due = static_cast<DueView *>(m_views->view(CarViews::Due));
+    connect(due, &DueView::doneRequested, this, &AutoMaint::enterDone);
+    connect(due, &DueView::odometerRequested, this,
+            [this] { typeInto(SheetForm::boxOf(VehicleSheet::Odometer)); });
+    auto *sheet = static_cast<InformationView *>(m_views->view(CarViews::Information));
+    QAction *picture = commands().writing(commands().add(
+        nullptr, u"loadPicture"_s, u"&Load Picture"_s, [this] { choosePicture(); },
+        [this] { return m_car->whyLocked(CarPart::Sheet); }));
+    sheet->form().setPictureButton(
+        commands().button(picture, u"carPicture"_s, picture->text(), &sheet->form()));
+    connect(m_pictures, &PicturePanel::pictureEntered, this, &AutoMaint::setPicture);
+    connect(m_pictures, &PicturePanel::pictureDeleted, this, [this] { setPicture({}); });
+    connect(m_pictures, &PicturePanel::said, &activity(), &ActivityBar::say);
+}
+
 QString AutoMaint::whyNoCar() const
 {
-    if (isPreviewShown())
-        return CarLines::inViewsOnly();
-    return m_car->isOpen() ? QString() : CarLines::noCarYet();
+    return isPreviewShown() ? CarLines::inViewsOnly() : QString();
 }
 
 bool AutoMaint::isModified() const
@@ -152,14 +223,33 @@ bool AutoMaint::isModified() const
 
 void AutoMaint::showPlace(const Place &place)
 {
-    if (place.record > 0 && place.record != m_car->slot() && mayReplace(leaveQuestion()))
-        openCar(place.record);
+    const CarPlace wanted = CarPlace::of(place);
+    if (wanted.slot > 0 && wanted.slot != m_car->slot() && mayReplace(leaveQuestion()))
+        openList(wanted.slot);
+    if (wanted.slot > 0 && wanted.slot == m_car->slot())
+        m_views->show(wanted);
 }
 
 bool AutoMaint::save()
 {
     m_views->finishEdit();
-    return m_car->save();
+    if (m_car->isNew())
+        return m_create->create();
+    const QString name = m_car->record().vehicle.name;
+    const bool isRenamed = name != m_car->savedName();
+    if (const auto refusal = CarFiles::whyNotNamed(name); refusal && isRenamed) {
+        ask(*refusal);
+        typeInto(SheetForm::nameBox);
+        return false;
+    }
+    if (!m_car->save())
+        return false;
+    if (isRenamed) {
+        m_list->setVehicles(m_car->files().vehicles());
+        m_list->show(m_car->slot());
+        m_signs->readAll();
+    }
+    return true;
 }
 
 void AutoMaint::drop()
@@ -203,16 +293,66 @@ void AutoMaint::openCar(int slot)
     activity().say({});
     m_list->show(slot);
     m_car->load(slot);
-    QWidget *home = slot > 0 ? static_cast<QWidget *>(m_views->view(CarViews::Due)) : m_emptyPage;
-    m_stack->setHome(home);
-    if (slot == 0)
+    m_create->end();
+    refreshHome();
+}
+
+/// What the other views lead back to. A car that is not made yet has its sheet only.
+void AutoMaint::refreshHome()
+{
+    if (m_car->isNew())
+        m_list->show(0);
+    const auto home = m_car->isNew() ? CarViews::Information : CarViews::Due;
+    m_stack->setHome(m_car->isOpen() ? static_cast<QWidget *>(m_views->view(home)) : m_emptyPage);
+    if (!m_car->isOpen())
         m_stack->goHome();
+    for (QPushButton *button : m_buttons)
+        button->setVisible(!m_create->isOn());
+    for (CarView *view : m_views->all())
+        view->foot().rearrange();
     commands().refresh();
 }
 
 void AutoMaint::saveByCommand()
 {
-    if (!save())
-        return;
-    commands().refresh();
+    if (!m_car->isOpen())
+        ask(CarMessages::noneSelected());
+    else if (save())
+        commands().refresh();
+}
+
+/// What was done is entered; what was renewed has a new date on the sheet.
+void AutoMaint::enterDone(const CarNeed &need)
+{
+    m_views->finishEdit();
+    if (const QString why = m_car->whyLocked(CarPart::Maintenance); !why.isEmpty())
+        activity().say(why);
+    else if (need.kind == CarNeed::Kind::Action)
+        m_done->start(need.row);
+    else
+        typeInto(SheetForm::boxOf(need.kind == CarNeed::Kind::Insurance ? VehicleSheet::InsuranceExpiration
+                                                                        : VehicleSheet::RegistrationMonth));
+}
+
+void AutoMaint::typeInto(std::size_t box)
+{
+    m_views->open(CarViews::Information);
+    FieldBox *place = static_cast<InformationView *>(m_views->view(CarViews::Information))->form().box(box);
+    place->setFocus();
+    place->selectAll();
+}
+
+void AutoMaint::choosePicture()
+{
+    m_views->finishEdit();
+    m_stack->open(m_pictures);
+    m_pictures->start(!m_car->record().sheet.field(VehicleSheet::Picture).trimmed().isEmpty());
+}
+
+void AutoMaint::setPicture(const QString &path)
+{
+    m_views->open(CarViews::Information);
+    CarRecord wanted = m_car->record();
+    wanted.sheet.field(VehicleSheet::Picture) = path;
+    m_car->change(u"Picture"_s, wanted);
 }

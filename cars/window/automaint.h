@@ -3,14 +3,19 @@
 
 #include "shell/frame/functionwindow.h"
 
+class CarChanges;
 class CarList;
 class CarPrint;
 class CarSigns;
 class CarViews;
-class HistoryCommands;
+class CreateRoutine;
+class DonePanel;
 class EmptyPage;
+class HistoryCommands;
 class OpenCar;
+class PicturePanel;
 class WorkViews;
+struct CarNeed;
 struct Place;
 
 /// The automobile tracker: the household's cars at the left, and of the open one what it needs, its sheet,
@@ -35,13 +40,19 @@ protected:
 private:
     QWidget *makeWorkPanel();
     void makeCommands();
-    void makeFoot();
+    void makeFoot(QAction *remove);
     void connectCar();
+    void connectViews();
 
     QString whyNoCar() const;
     void openList(int slot);
     void openCar(int slot);
+    void refreshHome();
     void saveByCommand();
+    void enterDone(const CarNeed &need);
+    void typeInto(std::size_t box);
+    void choosePicture();
+    void setPicture(const QString &path);
 
     OpenCar *m_car;
     CarList *m_list;
@@ -50,6 +61,11 @@ private:
     CarViews *m_views;
     HistoryCommands *m_histories;
     CarPrint *m_print;
+    CarChanges *m_changes;
+    CreateRoutine *m_create;
+    DonePanel *m_done;
+    PicturePanel *m_pictures;
     EmptyPage *m_emptyPage;
     QAction *m_save = nullptr;
+    QList<QPushButton *> m_buttons; ///< of every view, while no car is being made
 };

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/carviews.h"
 
+#include "cars/model/carplace.h"
 #include "cars/model/lines.h"
+#include "cars/model/messages.h"
 #include "cars/window/dueview.h"
 #include "cars/window/fuelview.h"
 #include "cars/window/informationview.h"
+#include "cars/window/logmodel.h"
 #include "cars/window/maintenanceview.h"
 #include "cars/window/opencar.h"
 #include "cars/window/repairsview.h"
@@ -93,6 +96,33 @@ void CarViews::open(Place place)
     m_views[place]->setFocus();
 }
 
+void CarViews::show(const CarPlace &place)
+{
+    if (place.part == CarPart::Sheet) {
+        open(Due);
+        if (place.row >= 0)
+            static_cast<DueView *>(m_views[Due])->showRow(place.row);
+        return;
+    }
+    open(place.part == CarPart::Maintenance ? Maintenance : place.part == CarPart::Repairs ? Repairs : Fuel);
+    for (const LogView *history : histories()) {
+        if (history->part() != place.part || place.row < 0)
+            continue;
+        CarGrid &rows = history->pane().list();
+        rows.setCurrentIndex(rows.model()->index(history->pane().model().rowOf(place.row), 0));
+        rows.scrollTo(rows.currentIndex());
+        rows.setFocus();
+    }
+}
+
+void CarViews::look(Place place)
+{
+    if (m_desk.car.isOpen())
+        open(place);
+    else
+        m_desk.program.dialogs.ask(&m_desk.window, CarMessages::noFiles());
+}
+
 void CarViews::addCommands(QMenu *menu)
 {
     static_assert(CommonKeys::views.size() >= count);
@@ -100,8 +130,11 @@ void CarViews::addCommands(QMenu *menu)
     for (std::size_t i = 0; i < count; ++i) {
         const Face &face = faces()[i];
         QAction *command = m_desk.commands.add(
-            menu, face.name, face.caption, [this, i] { open(Place(i)); },
-            [this] { return m_desk.car.isOpen() ? QString() : CarLines::noCarYet(); }, CommonKeys::views[i]);
+            menu, face.name, face.caption, [this, i] { look(Place(i)); },
+            [this, i] {
+                return m_desk.car.isNew() && i != Information ? CarLines::notWhileCreating() : QString();
+            },
+            CommonKeys::views[i]);
         QAction *tool = m_desk.commands.tool(command, face.icon, face.word, face.name + u"_tool"_s);
         marks->add(m_views[i], {command, tool});
     }

@@ -13,6 +13,7 @@ class CarView;
 class LogView;
 class QAction;
 class QMenu;
+struct CarPlace;
 
 /// The views of the open car in the order of the View menu: due, information, maintenance, repairs, fuel. The
 /// first one is where the others lead back to.
@@ -35,6 +36,8 @@ public:
     CarPrint::Sheet sheet() const;
     /// Brings a view to the front, with the focus in it.
     void open(Place place);
+    /// Brings a place of the open car to the front, in its row where it has one.
+    void show(const CarPlace &place);
     /// Puts the commands that open them into `menu` and on the toolbar.
     void addCommands(QMenu *menu);
     /// What is still being typed in the view in front goes into the open car.
@@ -44,6 +47,8 @@ signals:
     void said(const QString &line);
 
 private:
+    void look(Place place);
+
     CarDesk m_desk;
     std::array<CarView *, count> m_views{};
 };

@@ -88,6 +88,13 @@ void DueView::finishEdit()
     m_schedule->finishEdit();
 }
 
+void DueView::showRow(int row)
+{
+    m_schedule->setCurrentIndex(m_model->index(row, ScheduleColumn::action));
+    m_schedule->scrollTo(m_schedule->currentIndex());
+    m_schedule->setFocus();
+}
+
 void DueView::refresh()
 {
     m_model->refresh();

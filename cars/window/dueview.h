@@ -19,6 +19,8 @@ public:
 
     CarGrid &schedule() const { return *m_schedule; }
     void finishEdit() override;
+    /// Chooses a row of the schedule.
+    void showRow(int row);
 
 signals:
     /// The button of a card was clicked: something was done, or renewed.

@@ -28,6 +28,8 @@ public:
     bool isOpen() const { return slot() > 0 || m_isNew; }
     /// Whether it is being created, and has no slot yet.
     bool isNew() const { return m_isNew; }
+    /// What it is called in the list.
+    QString savedName() const { return m_saved->vehicle.name; }
     /// As it is now. A copy of it shares what is not changed.
     const CarRecord &record() const { return *m_record; }
     DistanceUnit unit() const { return m_record->sheet.unit; }

@@ -254,8 +254,12 @@ void SheetForm::show(const CarRecord &car)
 CarRecord SheetForm::typed(CarRecord car) const
 {
     for (std::size_t i = 0; i < count; ++i) {
-        if (m_boxes[i]->text() != m_shown[i])
-            (i == nameBox ? car.vehicle.name : car.sheet.fields[i - 1]) = m_boxes[i]->text();
+        if (m_boxes[i]->text() == m_shown[i])
+            continue;
+        if (i == nameBox)
+            car.vehicle.name = m_boxes[i]->text().trimmed();
+        else
+            car.sheet.fields[i - 1] = m_boxes[i]->text();
     }
     return car;
 }

@@ -1,12 +1,121 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/model/carfiles.h"
 #include "tools/pictures/albums.h"
 #include "tools/pictures/picturesession.h"
 
+#include <QPainter>
+#include <QPainterPath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A picture of a car, drawn: of this colour, in front of hills.
+QString paintedCar(const DataFolder &folder, const QString &name, const QColor &color)
+{
+    QImage image(900, 640, QImage::Format_RGB32);
+    image.fill(QColor(u"#CFE1E8"_s));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(u"#A9C4A0"_s));
+    painter.drawEllipse(-200, 300, 900, 700);
+    painter.setBrush(QColor(u"#8FB08A"_s));
+    painter.drawEllipse(300, 340, 900, 700);
+    painter.setBrush(QColor(u"#6F6A63"_s));
+    painter.drawRect(0, 520, 900, 120);
+    QPainterPath body;
+    body.moveTo(110, 500);
+    body.lineTo(110, 400);
+    body.quadTo(130, 360, 230, 350);
+    body.lineTo(330, 250);
+    body.quadTo(360, 225, 420, 225);
+    body.lineTo(600, 225);
+    body.quadTo(650, 225, 690, 270);
+    body.lineTo(750, 350);
+    body.quadTo(810, 365, 810, 420);
+    body.lineTo(810, 500);
+    body.closeSubpath();
+    painter.setBrush(color);
+    painter.drawPath(body);
+    painter.setBrush(QColor(u"#E9F2F5"_s));
+    painter.drawPolygon(QPolygon{{300, 350}, {375, 268}, {475, 262}, {475, 350}});
+    painter.drawPolygon(QPolygon{{500, 350}, {500, 262}, {600, 262}, {680, 350}});
+    for (const int x : {230, 610}) {
+        painter.setBrush(QColor(u"#2A2825"_s));
+        painter.drawEllipse(x, 430, 130, 130);
+        painter.setBrush(QColor(u"#C9C4BB"_s));
+        painter.drawEllipse(x + 37, 467, 56, 56);
+    }
+    painter.end();
+    const QString path = folder.filePath(u"Pictures/"_s + name);
+    if (!image.save(path))
+        qFatal("the picture of a car cannot be written");
+    return path;
+}
+
+/// A household whose cars have pictures, and of which one needs nothing and one something soon.
+void furnish(const DataFolder &folder)
+{
+    CarFiles files(folder);
+    const QList<QColor> colors{QColor(u"#2B6296"_s), QColor(u"#A8402E"_s), QColor(u"#D9A441"_s)};
+    const QList<Vehicle> vehicles = files.vehicles();
+    for (qsizetype i = 0; i < vehicles.size(); ++i) {
+        const CarRecord before = files.read(vehicles[i].slot).record;
+        CarRecord car = before;
+        car.sheet.field(VehicleSheet::Picture) =
+            paintedCar(folder, u"Car %1.jpg"_s.arg(i + 1), colors[i % colors.size()]);
+        auto &actions = car.sheet.actions;
+        if (i == 0) {
+            actions[2] = {
+                u"Inspect Brake Linings"_s, u"12000"_s, u"12"_s, u"75100"_s, u"12/04/2025"_s, u"60.00"_s};
+            actions[3] = {u"Replace Air Filter"_s, u"15000"_s, {}, u"78191"_s, u"02/08/2025"_s, u"28.40"_s};
+        } else {
+            for (ScheduledAction &action : actions) {
+                if (!action.date.isEmpty())
+                    action.date = i == 1 ? u"10/02/2026"_s : u"06/11/2026"_s;
+            }
+        }
+        if (!files.save(before, car))
+            qFatal("a car cannot be written");
+    }
+}
+
+void takeCreation(PictureSession &session)
+{
+    session.trigger("mONew");
+    session.take("cars-new");
+    session.fill("Text1_0", u"Grandmother's coupé"_s);
+    session.fill("Text1_20", u"Volvo"_s);
+    session.fill("Text1_21", u"P1800"_s);
+    session.fill("Text1_22", u"61,300"_s);
+    session.box([&] { session.trigger("createNext"); }, [&] { session.take("cars-new-asked"); });
+}
+
+} // namespace
+
 void Albums::cars(const Camera &camera)
 {
+    {
+        PictureSession session(camera);
+        session.open(Function::CarLog);
+        session.take("cars-household");
+    }
     PictureSession session(camera);
+    furnish(session.program().folder);
     session.open(Function::CarLog);
     session.take("cars-due");
+    session.click("done_0");
+    session.take("cars-done");
+    session.click("doneCancel");
     session.trigger("mVInfo");
     session.take("cars-information");
+    session.click("carPicture");
+    session.take("cars-picture");
+    session.key(Qt::Key_Escape);
+    session.clickRow("Combo1", 1);
+    session.trigger("mVDue");
+    session.take("cars-due-soon");
+    session.box([&] { session.trigger("mODel"); }, [&] { session.take("cars-delete"); });
+    takeCreation(session);
 }
