@@ -63,22 +63,20 @@ AutoMaint::AutoMaint(Program &program, QWidget *parent)
                          this))
     , m_signs(new CarSigns(program, *m_car, *m_list, this))
     , m_stack(new WorkViews(this))
-    , m_views(new CarViews({program, *this, *m_car, commands(), *m_stack}, this))
-    , m_histories(
-          new HistoryCommands({program, *this, *m_car, commands(), *m_stack}, m_views->histories(), this))
+    , m_views(new CarViews(desk(), this))
+    , m_histories(new HistoryCommands(desk(), m_views->histories(), this))
     , m_print(new CarPrint(
-          {program, *this, *m_car, commands(), *m_stack}, [this] { return m_views->sheet(); },
-          [this] { m_views->finishEdit(); }, this))
-    , m_changes(new CarChanges({program, *this, *m_car, commands(), *m_stack},
+          desk(), [this] { return m_views->sheet(); }, [this] { m_views->finishEdit(); }, this))
+    , m_changes(new CarChanges(desk(),
                                {undoStack(), [this](int slot) { openList(slot); },
                                 [this] { return mayReplace(leaveQuestion()); },
                                 [this] { return !m_list->vehicles().isEmpty(); }},
                                this))
-    , m_create(new CreateRoutine({program, *this, *m_car, commands(), *m_stack},
+    , m_create(new CreateRoutine(desk(),
                                  {*m_views, *m_changes, [this](int slot) { openList(slot); },
                                   [this] { return mayReplace(leaveQuestion()); }, [this] { return save(); }},
                                  this))
-    , m_done(new DonePanel({program, *this, *m_car, commands(), *m_stack}))
+    , m_done(new DonePanel(desk()))
     , m_pictures(new PicturePanel(program, carPictureUse(), PicturePanel::systemDrives, this))
     , m_emptyPage(new EmptyPage(
           "car-log"_L1, u"No car is in the list yet"_s,
@@ -92,6 +90,11 @@ AutoMaint::AutoMaint(Program &program, QWidget *parent)
     connectViews();
     finishFrame();
     openList(0);
+}
+
+CarDesk AutoMaint::desk()
+{
+    return {program(), *this, *m_car, commands(), *m_stack};
 }
 
 QWidget *AutoMaint::makeWorkPanel()
@@ -145,6 +148,11 @@ void AutoMaint::makeCommands()
     addStandardTool(Standard::Help, u"mH_tool"_s);
     makeFoot(remove);
     m_create->addButtons();
+    makeListButtons(create, remove);
+}
+
+void AutoMaint::makeListButtons(QAction *create, QAction *remove)
+{
     m_list->addButton(commands().button(create, u"createNew"_s, create->text(), m_list));
     m_emptyPage->addButton(
         commands().button(create, u"emptyCreate"_s, create->text(), m_emptyPage, ButtonKind::Main));

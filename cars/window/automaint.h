@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cars/window/cardesk.h"
 #include "shell/frame/functionwindow.h"
 
 class CarChanges;
@@ -38,9 +39,11 @@ protected:
     void filesChanged() override;
 
 private:
+    CarDesk desk();
     QWidget *makeWorkPanel();
     void makeCommands();
     void makeFoot(QAction *remove);
+    void makeListButtons(QAction *create, QAction *remove);
     void connectCar();
     void connectViews();
 
