@@ -7,6 +7,7 @@
 #include "shell/access/passwordcontrol.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "shell/frame/functionwindow.h"
 #include "shell/mainmenu/mainmenuwindow.h"
 #include "storage/changeset.h"
 #include "storage/saving.h"
@@ -296,6 +297,34 @@ const Save exportedBudget{[](Desk &desk) { desk.open(Function::Budget); },
                               desk.trigger("mUExcel");
                           }};
 
+/// Sheet, history and fuel tracker in one go.
+const Save savedCar{[](Desk &desk) {
+                        desk.open(Function::CarLog);
+                        desk.trigger("mVMaint");
+                        auto *history = desk.find<QAbstractItemView>("maintenanceList")->model();
+                        QVERIFY(history->setData(history->index(0, 2), u"Zorn"_s));
+                        desk.trigger("mVFuel");
+                        auto *fuel = desk.find<QAbstractItemView>("fuelGrid")->model();
+                        QVERIFY(fuel->setData(fuel->index(0, 2), u"84999"_s));
+                    },
+                    [](Desk &desk) { desk.trigger("mOSave"); }};
+
+const Save deletedCarEntry{[](Desk &desk) {
+                               desk.open(Function::CarLog);
+                               desk.trigger("mVRep");
+                               auto *list = desk.find<QAbstractItemView>("Grid1");
+                               list->setCurrentIndex(list->model()->index(0, 2));
+                           },
+                           [](Desk &desk) {
+                               // Where that was refused the entry is gone from the window, and can be saved.
+                               if (qobject_cast<FunctionWindow *>(desk.window)->isModified()) {
+                                   desk.trigger("mOSave");
+                                   return;
+                               }
+                               desk.answer(Answer::Yes);
+                               desk.trigger("mEDelete");
+                           }};
+
 const Save marks{[](Desk &desk) {
                      desk.openPasswordControl();
                      desk.find<QCheckBox>("Check1_2")->click();
@@ -369,6 +398,8 @@ private slots:
             {"a budget for the next year", copiedYear},
             {"a budget for the next year undone", undoneCopy},
             {"a budget exported", exportedBudget},
+            {"a car", savedCar},
+            {"an entry of a car deleted", deletedCarEntry},
             {"marks of areas", marks},
             {"no password", noPassword},
             {"top toolbar", topToolbar},
