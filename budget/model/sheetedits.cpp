@@ -34,9 +34,21 @@ void pasteItem(QString &item, const QString &text, SheetEdits::Pasted &into)
     item = composed;
 }
 
-void pasteAmount(QString &amount, const QString &text, SheetEdits::Pasted &into)
+/// Spreadsheets copy an amount of money as it is shown there: "$9.99".
+QString withoutCurrency(const QString &text)
 {
-    if (text.trimmed().isEmpty()) {
+    const auto isBeside = [](QChar character) {
+        return character.isSpace() || character.category() == QChar::Symbol_Currency;
+    };
+    const auto first = std::find_if_not(text.begin(), text.end(), isBeside);
+    const auto end = std::find_if_not(text.rbegin(), std::make_reverse_iterator(first), isBeside).base();
+    return QString(first, end - first);
+}
+
+void pasteAmount(QString &amount, const QString &pasted, SheetEdits::Pasted &into)
+{
+    const QString text = withoutCurrency(pasted);
+    if (text.isEmpty()) {
         amount.clear();
         return;
     }

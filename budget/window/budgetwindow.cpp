@@ -64,6 +64,10 @@ Budget1::Budget1(Program &program, QWidget *parent)
     setWork(makeWorkPanel());
     makeCommands();
     setViews(m_views);
+    connect(m_views, &WorkViews::changed, this, [this] {
+        if (m_views->isHome())
+            m_sheet->setFocus();
+    });
     connectSheet();
     connectYear();
     finishFrame();

@@ -211,10 +211,9 @@ void ImportPanel::follow()
     if (row < 0)
         return;
     const BankLine &line = m_import->lines()[m_model->line(row)];
-    if (line.state == BankLine::NotRead)
-        return;
-    m_text->setText(likelyRule(line.text));
-    m_items->setCurrentIndex(line.item.isEmpty() ? -1 : m_items->findText(line.item));
+    const bool isRead = line.state != BankLine::NotRead;
+    m_text->setText(isRead ? likelyRule(line.text) : QString());
+    m_items->setCurrentIndex(!isRead || line.item.isEmpty() ? -1 : m_items->findText(line.item));
 }
 
 QString ImportPanel::chosenItem() const

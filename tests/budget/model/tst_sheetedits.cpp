@@ -101,6 +101,9 @@ private slots:
         QCOMPARE(SheetEdits::pasted(sheet, {0, 1, 0, 1}, {{u"0"_s}}).notice(), BudgetMessages::onlyNumbers());
         QCOMPARE(SheetEdits::pasted(sheet, {0, 1, 0, 1}, {{u"1"_s}}).notice(), std::nullopt);
         QCOMPARE(pasted.partly, 0);
+        const QStringList money{u"$9.99"_s, u" 12 \u20AC"_s, u"$"_s, u" "_s};
+        const BudgetSheet withMoney = SheetEdits::pasted(sheet, {0, 1, 0, 1}, {money}).sheet;
+        QCOMPARE(amounts(withMoney, 0).left(12), u"9.99|12.00||"_s);
         QCOMPARE(SheetEdits::pasted(sheet, {0, 0, 0, 0}, {{u"1,2"_s, u"85,50"_s, u"1,250.5"_s}}).partly, 1);
     }
 
