@@ -63,6 +63,7 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
           this))
     , m_toolbar(named(new WindowToolbar(program, m_traits.topToolbar, *m_commands, *m_activity, this),
                       u"toolbar"_s))
+    , m_refused(new RefusedCommands(*m_commands, *m_activity, this))
     , m_stack(new QStackedWidget(this))
 {
     setObjectName(m_traits.name);
@@ -86,7 +87,7 @@ FunctionWindow::FunctionWindow(Program &program, WindowTraits traits, QWidget *p
     setCentralWidget(content);
 
     connect(m_stack, &QStackedWidget::currentChanged, this, [this] { forgetTip(this); });
-    new UndoKeys(this);
+    connect(new UndoKeys(this), &UndoKeys::refused, m_refused, &RefusedCommands::tell);
     m_standard->addMainMenuTool();
     connect(m_colors, &PanelColors::changed, this, [this] {
         if (m_preview)
@@ -287,7 +288,7 @@ void FunctionWindow::finishFrame()
 {
     SearchOverlay::addCommand(m_program, *m_commands, this, [this] { return !m_busy; });
     m_toolbar->complete(u"Toolbar1"_s + m_traits.name);
-    new RefusedCommands(*m_commands, *m_activity, this);
+    m_refused->followMenus();
     m_colors->load();
     WindowPlace::open(*this, m_traits.openingSize,
                       m_program.store.value(storeKey(u"geometry"_s)).toByteArray());
@@ -339,7 +340,7 @@ void FunctionWindow::keyPressEvent(QKeyEvent *event)
         redo();
     } else if (key == CommonKeys::print && isPreviewShown()) {
         m_preview->print();
-    } else {
+    } else if (!m_refused->tell(key)) {
         QMainWindow::keyPressEvent(event);
     }
 }

@@ -22,6 +22,7 @@ class PreviewPane;
 class QMenu;
 class QStackedWidget;
 class QVBoxLayout;
+class RefusedCommands;
 class SideSplitter;
 class UndoStack;
 class WindowToolbar;
@@ -160,6 +161,7 @@ private:
     StandardCommands *m_standard;
     UndoStack *m_undoStack;
     WindowToolbar *m_toolbar;
+    RefusedCommands *m_refused;
     QStackedWidget *m_stack;
     QVBoxLayout *m_workPlace;
     PreviewPane *m_preview = nullptr; ///< made when first asked for

@@ -5,8 +5,9 @@
 #include "shell/frame/commands.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
+#include <QKeySequence>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QStatusTipEvent>
 
 #include <utility>
@@ -18,26 +19,31 @@ RefusedCommands::RefusedCommands(const Commands &commands, ActivityBar &activity
     , m_window(window)
 {
     window->installEventFilter(this);
-    for (QMenu *menu : window->findChildren<QMenu *>())
+}
+
+void RefusedCommands::followMenus()
+{
+    for (QMenu *menu : m_window->findChildren<QMenu *>())
         menu->installEventFilter(this);
+}
+
+bool RefusedCommands::tell(const QKeySequence &key)
+{
+    const QString reason = m_commands.whyNot(key);
+    if (!reason.isEmpty())
+        m_activity.say(reason);
+    return !reason.isEmpty();
 }
 
 bool RefusedCommands::eventFilter(QObject *watched, QEvent *event)
 {
     if (const auto *menu = qobject_cast<const QMenu *>(watched)) {
         follow(*menu, *event);
-        return false;
-    }
-    if (event->type() == QEvent::ChildPolished) {
+    } else if (event->type() == QEvent::ChildPolished) {
         if (auto *menu = qobject_cast<QMenu *>(static_cast<QChildEvent *>(event)->child()))
             menu->installEventFilter(this);
     }
-    if (event->type() != QEvent::KeyPress)
-        return false;
-    const QString reason = m_commands.whyNot(QKeySequence(static_cast<QKeyEvent *>(event)->keyCombination()));
-    if (!reason.isEmpty())
-        m_activity.say(reason);
-    return !reason.isEmpty();
+    return false;
 }
 
 /// A menu tells nothing itself of an entry that cannot be chosen.

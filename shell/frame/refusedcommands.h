@@ -14,8 +14,12 @@ class RefusedCommands final : public QObject
 {
     Q_OBJECT
 public:
-    /// For the menus that `window` has now, and for those that it opens later.
     RefusedCommands(const Commands &commands, ActivityBar &activity, QWidget *window);
+
+    /// For the menus that the window has now; those that it opens for a click are followed anyway.
+    void followMenus();
+    /// Says why the command with `key` cannot be used; false where it can, and without one.
+    bool tell(const QKeySequence &key);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

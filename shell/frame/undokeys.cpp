@@ -59,8 +59,11 @@ bool UndoKeys::eventFilter(QObject *watched, QEvent *event)
         return QObject::eventFilter(watched, event);
     const Available available = availableIn(qobject_cast<QWidget *>(watched));
     const bool isOfTheBox = key == CommonKeys::undo ? available.undo : available.redo;
-    if (event->type() == QEvent::KeyPress)
-        return !isOfTheBox && QCoreApplication::sendEvent(m_window, event);
+    if (event->type() == QEvent::KeyPress) {
+        if (!isOfTheBox)
+            emit refused(key);
+        return !isOfTheBox;
+    }
     event->setAccepted(isOfTheBox);
     return true;
 }

@@ -127,6 +127,9 @@ private slots:
         QTest::keyClick(find<QLineEdit>("box"), Qt::Key_A);
         QTest::keyClick(find<QLineEdit>("box"), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(find<QLineEdit>("box")->text() + said(), QString());
+        QTest::keyClick(find<QLineEdit>("box"), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(find<QLineEdit>("box")->text() + said(), u"a"_s);
+        find<QLineEdit>("box")->clear();
     }
 
     void saysSoOfAnEntryUnderTheMouse_data()
