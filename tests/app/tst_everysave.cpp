@@ -325,6 +325,40 @@ const Save deletedCarEntry{[](Desk &desk) {
                                desk.trigger("mEDelete");
                            }};
 
+const Save newCar{[](Desk &desk) {
+                      desk.open(Function::CarLog);
+                      desk.trigger("mONew");
+                      desk.type("Text1_0", u"Zorn"_s);
+                      desk.type("Text1_20", u"Saab"_s);
+                      desk.type("Text1_22", u"61300"_s);
+                  },
+                  [](Desk &desk) {
+                      desk.answer(Answer::Yes);
+                      desk.click("informationViewSaveExit");
+                  }};
+
+const Save deletedCar{[](Desk &desk) { desk.open(Function::CarLog); },
+                      [](Desk &desk) {
+                          desk.answer(Answer::Yes);
+                          desk.trigger("mODel");
+                      }};
+
+const Save undoneCar{[](Desk &desk) {
+                         deletedCar.prepare(desk);
+                         deletedCar.press(desk);
+                     },
+                     [](Desk &desk) { desk.trigger("mEUndo"); }};
+
+const Save broughtBackCar{[](Desk &desk) {
+                              deletedCar.prepare(desk);
+                              deletedCar.press(desk);
+                              desk.trigger("mEBack");
+                          },
+                          [](Desk &desk) { desk.click("bringBack"); }};
+
+const Save otherUnit{[](Desk &desk) { desk.open(Function::CarLog); },
+                     [](Desk &desk) { desk.trigger("mOProgKilo"); }};
+
 const Save marks{[](Desk &desk) {
                      desk.openPasswordControl();
                      desk.find<QCheckBox>("Check1_2")->click();
@@ -400,6 +434,11 @@ private slots:
             {"a budget exported", exportedBudget},
             {"a car", savedCar},
             {"an entry of a car deleted", deletedCarEntry},
+            {"a new car", newCar},
+            {"a car deleted", deletedCar},
+            {"the deletion of a car undone", undoneCar},
+            {"a car brought back", broughtBackCar},
+            {"another unit for all cars", otherUnit},
             {"marks of areas", marks},
             {"no password", noPassword},
             {"top toolbar", topToolbar},
