@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// The folder that holds the household's files. Names match without regard to case: the exact spelling first,
 /// else the first match in the folder's order, so that writing never makes a twin of a file that is there.
@@ -20,6 +21,8 @@ public:
 
     /// The path to read or write `name` at: the file that is there under any spelling, else `name` itself.
     QString filePath(const QString &name) const;
+    /// The same for each of `names`, in one pass over the folder, however many of them are missing.
+    QStringList filePaths(const QStringList &names) const;
 
     /// The path of the file `name` in the subfolder `folder` (both case-blind; an empty `folder` is the data
     /// folder itself); empty when no such file is there, or only a folder of that name.

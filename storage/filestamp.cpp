@@ -6,8 +6,8 @@
 FileStamp FileStamp::of(const DataFolder &folder, const QStringList &names)
 {
     FileStamp stamp;
-    for (const QString &name : names) {
-        const QFileInfo file(folder.filePath(name));
+    for (const QString &path : folder.filePaths(names)) {
+        const QFileInfo file(path);
         stamp.m_files.append({file.filePath(), file.lastModified(), file.size()});
     }
     return stamp;

@@ -35,6 +35,8 @@ private slots:
             QSKIP("this disk keeps one spelling of a name");
         const DataFolder folder(disk.folder().path() + u'/');
         QCOMPARE(folder.filePath(name), disk.path(found));
+        QCOMPARE(folder.filePaths({name, u"missing"_s, name}),
+                 QStringList({disk.path(found), disk.path(u"missing"_s), disk.path(found)}));
         QCOMPARE(folder.exists(name), exists);
     }
 
