@@ -19,7 +19,7 @@ struct ChartStyle {
     int rowHeight = 0; ///< of a bar with its name
     int inset = 0;     ///< between the left edge and what is written
 
-    QColor lineColor(qsizetype index) const { return lines.value(index % lines.size(), series); }
+    QColor lineColor(qsizetype index) const { return lines.isEmpty() ? series : lines[index % lines.size()]; }
     QPen linePen(qsizetype index) const;
 
     static ChartStyle onScreen(const QWidget *widget);

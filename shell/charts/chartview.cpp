@@ -42,9 +42,15 @@ void ChartView::setReading(const QString &words)
     m_reading->setText(words);
 }
 
+void ChartView::setBesideCaption(QWidget *beside)
+{
+    m_beside = beside;
+}
+
 int ChartView::headHeight() const
 {
-    const int caption = m_caption->text().isEmpty() ? 0 : m_caption->sizeHint().height();
+    const int words = m_caption->text().isEmpty() ? 0 : m_caption->sizeHint().height();
+    const int caption = std::max(words, m_beside ? m_beside->sizeHint().height() : 0);
     return frame + m_title->sizeHint().height() + caption + headGap;
 }
 
@@ -55,7 +61,11 @@ void ChartView::placeHead(int width)
     m_title->setGeometry(frame, frame, titleWidth, titleHeight);
     m_reading->setGeometry(frame + titleWidth + headGap, frame, std::max(0, width - titleWidth - headGap),
                            titleHeight);
-    m_caption->setGeometry(frame, frame + titleHeight, width, m_caption->sizeHint().height());
+    const QSize beside = m_beside ? m_beside->sizeHint() : QSize(0, 0);
+    m_caption->setGeometry(frame, frame + titleHeight, width - beside.width(),
+                           m_caption->sizeHint().height());
+    if (m_beside)
+        m_beside->setGeometry(QRect({frame + width - beside.width(), frame + titleHeight}, beside));
 }
 
 void ChartView::restyle()

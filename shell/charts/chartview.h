@@ -22,6 +22,8 @@ protected:
 
     void setHead(const QString &title, const QString &caption, const QString &description);
     void setReading(const QString &words);
+    /// A few words at the right of the caption.
+    void setBesideCaption(QWidget *beside);
     int headHeight() const;
     void placeHead(int width);
 
@@ -44,5 +46,6 @@ protected:
 private:
     ElidedLabel *m_title;
     QLabel *m_caption;
+    QWidget *m_beside = nullptr;
     ElidedLabel *m_reading; ///< of what is named
 };

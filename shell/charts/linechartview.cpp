@@ -2,7 +2,13 @@
 #include "shell/charts/linechartview.h"
 
 #include "shell/charts/lineplot.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/gridview.h"
+#include "shell/controls/linkbutton.h"
+#include "shell/controls/rowsmodel.h"
+#include "shell/look/theme.h"
 
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QToolTip>
@@ -20,13 +26,26 @@ constexpr double step = 0.25; ///< of what is in view, with a key
 constexpr double wheelStep = 120;
 constexpr int wantedWidth = 640;
 constexpr int wantedHeight = 280;
+constexpr int columnGap = 24;
+constexpr int widestHeading = 160; ///< where its figures need no more
+constexpr int tableFrame = 4;      ///< rim and padding
+
+QString asTable()
+{
+    return u"As a Table"_s;
+}
 
 } // namespace
 
 LineChartView::LineChartView(const QString &name, QWidget *parent)
     : ChartView(name, parent)
     , m_plot(std::make_unique<LinePlot>(this))
-{}
+    , m_asTable(new LinkButton(name + u"AsTable"_s, asTable(), this))
+{
+    setBesideCaption(m_asTable);
+    m_asTable->hide();
+    connect(m_asTable, &LinkButton::clicked, this, &LineChartView::switchToTable);
+}
 
 LineChartView::~LineChartView() = default;
 
@@ -42,7 +61,69 @@ void LineChartView::setChart(const LineChart &chart)
     setHead(chart.title, chart.caption, chart.description());
     restyle();
     arrange();
+    m_asTable->setVisible(!chart.isEmpty() || isTable());
+    if (isTable())
+        fillTable();
     setCurrent(m_current);
+}
+
+bool LineChartView::isTable() const
+{
+    return m_table && !m_table->isHidden();
+}
+
+void LineChartView::switchToTable()
+{
+    if (!m_table)
+        makeTable();
+    const bool isTable = !this->isTable();
+    m_table->setVisible(isTable);
+    m_plot->widget()->setVisible(!isTable);
+    m_asTable->setText(isTable ? u"As a Chart"_s : asTable());
+    if (isTable)
+        fillTable();
+    arrange();
+    isTable ? m_table->setFocus() : setFocus();
+}
+
+void LineChartView::makeTable()
+{
+    m_table = named(new GridView(Qt::UserRole, this), objectName() + u"Table"_s);
+    m_table->hide();
+    m_table->setSortingEnabled(false);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_table->horizontalHeader()->setSectionsClickable(false);
+    m_table->horizontalHeader()->setSortIndicatorShown(false);
+    setTabOrder(m_asTable, m_table);
+}
+
+/// The newest, or the point that was named, is in sight.
+void LineChartView::fillTable()
+{
+    std::vector<TableColumn<QStringList>> columns;
+    const QStringList headings = m_chart.headings();
+    for (qsizetype i = 0; i < headings.size(); ++i)
+        columns.push_back({headings[i], i == 0 ? Qt::AlignLeft : Qt::AlignRight,
+                           [i](const QStringList &row) { return row.value(i); }});
+    const QList<QStringList> rows = m_chart.rows();
+    auto model = std::make_unique<RowsModel<QStringList>>(std::move(columns));
+    model->setRows({rows.begin(), rows.end()});
+    m_table->setModel(model.get());
+    m_rows = std::move(model);
+    m_table->setAccessibleName(m_chart.title);
+    const QFontMetrics metrics(TypeScale::strong());
+    for (int column = 0; column < int(headings.size()); ++column) {
+        int width = std::min(metrics.horizontalAdvance(headings[column]), TypeScale::wide(widestHeading));
+        for (const QStringList &row : rows)
+            width = std::max(width, metrics.horizontalAdvance(row[column]));
+        m_table->setColumnWidth(column, width + columnGap);
+    }
+    const QString named = m_current ? m_chart.acrossText(m_chart.at(*m_current).x) : QString();
+    int row = int(rows.size()) - 1;
+    while (!named.isEmpty() && row > 0 && rows[row].first() != named)
+        --row;
+    if (row >= 0)
+        m_table->setCurrentIndex(m_rows->index(row, 0));
 }
 
 void LineChartView::setStyle(const ChartStyle &style)
@@ -64,6 +145,12 @@ void LineChartView::arrange()
     m_plot->widget()->setGeometry(frame - m_inset, top, std::max(1, width() - 2 * frame + m_inset),
                                   std::max(1, height() - top - frame));
     m_plot->draw();
+    if (!m_table)
+        return;
+    // Whole rows of the table.
+    const int heads = m_table->horizontalHeader()->sizeHint().height() + 2 * tableFrame;
+    const int rows = std::max(1, (height() - top - frame - heads) / GridView::rowHeight());
+    m_table->setGeometry(frame, top, std::max(1, width() - 2 * frame), heads + rows * GridView::rowHeight());
 }
 
 void LineChartView::setCurrent(std::optional<LineChart::Spot> spot)

@@ -7,10 +7,15 @@
 #include <memory>
 #include <optional>
 
+class GridView;
 class LinePlot;
+class LinkButton;
+template <typename Row>
+class RowsModel;
 
 /// A chart of lines on a panel: names the point that the mouse or the arrow keys point at, and shows a part
-/// of it after the keys + and -, or the wheel while it has the focus or with Ctrl; 0 shows all of it.
+/// of it after the keys + and -, or the wheel while it has the focus or with Ctrl; 0 shows all of it. A link
+/// shows the same figures as a table: "costChart" has costChartAsTable and costChartTable.
 class LineChartView final : public ChartView
 {
     Q_OBJECT
@@ -32,6 +37,7 @@ public:
     void showAll();
     /// Whether a part of it is shown.
     bool isZoomed() const;
+    bool isTable() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -54,6 +60,9 @@ protected:
 private:
     std::optional<LineChart::Spot> beside(int key) const;
     std::optional<LineChart::Spot> spotAt(QPoint place) const;
+    void switchToTable();
+    void makeTable();
+    void fillTable();
     void pan(double by);
     void refresh();
     double middle() const;
@@ -61,6 +70,9 @@ private:
     LineChart m_chart;
     std::unique_ptr<LinePlot> m_plot;
     std::optional<LineChart::Spot> m_current;
+    LinkButton *m_asTable;
+    GridView *m_table = nullptr; ///< once it was asked for
+    std::unique_ptr<RowsModel<QStringList>> m_rows;
     int m_inset = 0;
     QPoint m_dragged; ///< where the mouse was last, with its button down
 };

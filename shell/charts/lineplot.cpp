@@ -25,6 +25,7 @@ constexpr double leastAir = 0.1; ///< below the lowest value, of a step
 constexpr double air = 0.02;     ///< at both ends, of the whole
 constexpr double fewestDays = 4;
 constexpr double deepestZoom = 1000;
+constexpr qsizetype manyPoints = 1000;
 
 } // namespace
 
@@ -79,8 +80,12 @@ LinePlot::LinePlot(QWidget *parent)
     , m_own(parent ? nullptr : m_plot)
     , m_marks(new LineMarks(m_plot, m_chart, m_style))
 {
+    m_up.reset(new Numbers(m_chart.up));
+    m_across.reset(new Numbers(m_chart.across));
+    m_days.reset(new DayTicks(m_chart.style));
+    m_plot->yAxis->setTicker(m_up);
+    m_plot->xAxis->setTicker(m_across);
     m_plot->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_plot->setPlottingHints({}); // labels kept as pictures would blur on paper
     m_plot->axisRect()->setAutoMargins(QCP::msNone);
     for (QCPAxis *axis : {m_plot->xAxis, m_plot->yAxis}) {
         axis->setSubTicks(false);
@@ -107,11 +112,16 @@ void LinePlot::setChart(const LineChart &chart, const ChartStyle &style)
     m_style = style;
     m_plot->clearGraphs();
     Range whole{std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest()};
+    qsizetype count = 0;
     for (qsizetype index = 0; index < chart.series.size(); ++index) {
         addSeries(index);
+        count += chart.series[index].points.size();
         for (const LineChart::Point &point : chart.series[index].points)
             whole = {std::min(whole.from, point.x), std::max(whole.to, point.x)};
     }
+    // Lines of many points are drawn piece by piece, ten times as fast; with few, the corners would show it.
+    // No other hint: labels kept as pictures would blur on paper.
+    m_plot->setPlottingHints(count > manyPoints ? QCP::phFastPolylines : QCP::PlottingHints());
     if (whole.from > whole.to)
         whole = {0, 0};
     const double width = std::max(whole.width(), chart.kind == LineChart::Across::Days ? fewestDays : 1);
@@ -162,11 +172,8 @@ void LinePlot::style()
     m_plot->xAxis->setTickPen(QPen(m_style.quiet, 1));
     m_plot->xAxis->setLabel(m_chart.across.name);
     m_plot->setBackground(m_style.ground);
-    QSharedPointer<QCPAxisTicker> across(new Numbers(m_chart.across));
-    if (m_chart.kind == LineChart::Across::Days)
-        across.reset(new DayTicks(m_chart.style));
-    m_plot->xAxis->setTicker(across);
-    m_plot->yAxis->setTicker(QSharedPointer<QCPAxisTicker>(new Numbers(m_chart.up)));
+    const bool hasDays = m_chart.kind == LineChart::Across::Days;
+    m_plot->xAxis->setTicker(hasDays ? m_days.staticCast<QCPAxisTicker>() : m_across);
 }
 
 void LinePlot::setView(Range view)
@@ -221,7 +228,7 @@ void LinePlot::fitUp(int height)
     if (from != 0 && values.from - from < leastAir * step)
         from -= step;
     const double to = std::ceil(values.to / step - 1e-9) * step;
-    static_cast<Numbers *>(m_plot->yAxis->ticker().data())->step = step;
+    m_up->step = step;
     m_plot->yAxis->setRange(from, to > from ? to : from + step);
 }
 
@@ -229,13 +236,11 @@ void LinePlot::fitAcross(int width)
 {
     m_plot->xAxis->setRange(m_view.from, m_view.to);
     const QFontMetrics metrics(m_style.label);
-    QCPAxisTicker *ticker = m_plot->xAxis->ticker().data();
     if (m_chart.kind == LineChart::Across::Numbers) {
-        static_cast<Numbers *>(ticker)->step =
-            ChartTicks::step(m_view.width(), std::clamp(width / numberRoom, 2, 12));
+        m_across->step = ChartTicks::step(m_view.width(), std::clamp(width / numberRoom, 2, 12));
         return;
     }
-    static_cast<DayTicks *>(ticker)->days =
+    m_days->days =
         ChartTicks::Days::fitting(width / m_view.width(), metrics.horizontalAdvance(u"2026"_s) + tickSpace,
                                   metrics.horizontalAdvance(u"30 Nov"_s) + tickSpace);
 }
@@ -255,7 +260,7 @@ void LinePlot::fit(QSize size)
     const int bottom = axisHeight();
     fitUp(size.height() - up - topRoom - bottom);
     const QCPRange values = m_plot->yAxis->range();
-    const double step = static_cast<Numbers *>(m_plot->yAxis->ticker().data())->step;
+    const double step = m_up->step;
     int widest = 0;
     for (const double value : {values.lower, values.upper, values.upper - step})
         widest = std::max(widest, metrics.horizontalAdvance(m_chart.up.tickText(value, step)));

@@ -5,6 +5,7 @@
 #include "shell/charts/linechart.h"
 
 #include <QPixmap>
+#include <QSharedPointer>
 
 #include <memory>
 #include <optional>
@@ -73,5 +74,8 @@ private:
     LineMarks *m_marks;
     LineChart m_chart;
     ChartStyle m_style;
-    Range m_whole, m_view;
+    Range m_whole{0, 1};
+    Range m_view{0, 1};
+    QSharedPointer<Numbers> m_up, m_across;
+    QSharedPointer<DayTicks> m_days; ///< across, where there are days
 };

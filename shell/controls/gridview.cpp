@@ -57,7 +57,7 @@ public:
         painter->setFont(font);
         painter->setPen(isLink ? theme.accent : theme.text);
         const QRect place = textPlace(cell.rect);
-        painter->drawText(place, int(Qt::AlignVCenter | Qt::AlignLeft),
+        painter->drawText(place, int(cell.displayAlignment),
                           cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, place.width()));
     }
 

@@ -2,11 +2,11 @@
 #include "shell/charts/linechartview.h"
 #include "shell/charts/paperchart.h"
 #include "shell/controls/controls.h"
-#include "shell/look/theme.h"
 #include "tools/pictures/albums.h"
 #include "tools/pictures/picturesession.h"
 
 #include <QLabel>
+#include <QTest>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -87,7 +87,6 @@ void takeOnPanel(PictureSession &session, const char *name, const LineChart &cha
                  const std::function<void(LineChartView &)> &use = {})
 {
     PanelFrame panel;
-    panel.setPalette(Theme::of(&panel).panelPalette());
     panel.resize(panelSize);
     auto *rows = new QVBoxLayout(&panel);
     rows->setContentsMargins(16, 16, 16, 16);
@@ -95,6 +94,7 @@ void takeOnPanel(PictureSession &session, const char *name, const LineChart &cha
     rows->addWidget(view);
     view->setChart(chart);
     panel.show();
+    view->setPalette({}); // of the panel, after the style has taken the view
     if (use)
         use(*view);
     session.takeWidget(name, panel);
@@ -121,6 +121,9 @@ void Albums::charts(const Camera &camera)
     takeOnPanel(session, "chart-lines-three", weights());
     takeOnPanel(session, "chart-lines-part", weights(), [](LineChartView &view) {
         view.zoom(0.15, LineChart::dayAt({2023, 3, 1}));
+    });
+    takeOnPanel(session, "chart-lines-table", weights(), [](LineChartView &view) {
+        QTest::mouseClick(view.findChild<QWidget *>(u"chartAsTable"_s), Qt::LeftButton);
     });
     takeOnPanel(session, "chart-lines-days", odometer());
     takeOnPanel(session, "chart-lines-none", none());
