@@ -250,7 +250,7 @@ int LinePlot::axisHeight() const
 {
     const int label = QFontMetrics(m_style.label).height();
     const int lines = m_chart.kind == LineChart::Across::Days ? 2 : 1;
-    return axisGap + lines * label + (m_chart.across.name.isEmpty() ? 0 : label + 4) + 4;
+    return axisGap + lines * label + (m_chart.across.name.isEmpty() ? 0 : label + 4) + 8;
 }
 
 void LinePlot::fit(QSize size)
