@@ -46,6 +46,12 @@ inline QString copied(qsizetype cells)
     return cells == 1 ? u"1 cell copied"_s : QString::number(cells) + u" cells copied"_s;
 }
 
+/// Of a block for the row of something new, which is one row.
+inline QString firstRowPasted()
+{
+    return u"The first row is pasted; \"Bring In a File\" in the Utilities menu takes many"_s;
+}
+
 inline QString nothingToPaste()
 {
     return u"There is nothing on the clipboard that can be pasted here"_s;
@@ -137,25 +143,6 @@ inline QString mark(FillUp::Kind kind, const QString &economy)
         return with(u"unlikely"_s);
     default:
         return economy;
-    }
-}
-
-/// Why a consumption does not count; empty where it does.
-inline QString why(FillUp::Kind kind)
-{
-    switch (kind) {
-    case FillUp::Kind::Partial:
-        return u"Not filled up: this fuel counts with that of the next full fill-up"_s;
-    case FillUp::Kind::Missing:
-        return u"The previous reading does not follow the fill-up before: one was not entered. "
-               "This one is left out of the averages."_s;
-    case FillUp::Kind::Unlikely:
-        return u"Less than half or more than twice the usual: probably not filled up. "
-               "This one is left out of the averages."_s;
-    case FillUp::Kind::Incomplete:
-        return u"Without a distance and an amount of fuel this is left out of the averages"_s;
-    default:
-        return {};
     }
 }
 

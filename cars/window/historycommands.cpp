@@ -30,6 +30,13 @@ HistoryCommands::HistoryCommands(const CarDesk &desk, std::vector<LogView *> vie
     , m_files(new CsvDesk(
           desk, [this] { return shown(); }, this))
 {
+    // What is still typed in a view is not lost when another takes its place.
+    connect(&m_desk.views, &WorkViews::changed, this, [this](const QWidget *front) {
+        for (LogView *view : m_views) {
+            if (view != front)
+                view->finishEdit();
+        }
+    });
     connect(m_files, &CsvDesk::said, this, &HistoryCommands::said);
     connect(m_files, &CsvDesk::done, this, &HistoryCommands::done);
     for (const LogView *view : m_views)

@@ -3,6 +3,7 @@
 
 #include "cars/model/carnumbers.h"
 #include "cars/model/carrows.h"
+#include "cars/model/costwords.h"
 #include "cars/model/historylines.h"
 #include "cars/window/opencar.h"
 #include "shell/core/dates.h"
@@ -168,7 +169,7 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
         return TabText::cell(text(index));
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
-        return fillUp ? HistoryLines::why(fillUp->kind) : QString();
+        return fillUp ? CostWords::whyNotCounted(fillUp->kind) : QString();
     case CarCell::quietRole:
         return fillUp && fillUp->kind != FillUp::Kind::Counted;
     case Qt::TextAlignmentRole:

@@ -141,7 +141,8 @@ void LogPane::add(Adding adding)
     CarRecord wanted = m_desk.car.record();
     const CarPart part = m_model->part();
     if (part == CarPart::Fuel && wanted.fuel.size() >= mostFuelRows) {
-        emit noticed(CarMessages::fuelFull());
+        if (adding == Adding::Asked)
+            emit noticed(CarMessages::fuelFull());
         return;
     }
     CarRows::append(wanted, part, m_new->cells());
@@ -206,9 +207,11 @@ void LogPane::paste()
         emit said(why);
     else if (rows.isEmpty() || !current.isValid())
         emit said(HistoryLines::nothingToPaste());
-    else if (m_entry->isInUse())
+    else if (m_entry->isInUse()) {
         m_new->paste(current.column(), rows.first());
-    else
+        if (rows.size() > 1)
+            emit said(HistoryLines::firstRowPasted());
+    } else
         emit said(m_model->paste(current, rows));
 }
 

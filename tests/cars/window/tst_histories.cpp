@@ -215,6 +215,26 @@ private slots:
         QCOMPARE(cell("maintenanceList", 0, 2), u"change oil and filter"_s);
     }
 
+    void refusesMoreFillUpsThanFit()
+    {
+        QByteArray full;
+        for (int row = 0; row < 3000; ++row)
+            full += "\"01/05/2026\"\r\n\"1\"\r\n\"2\"\r\n\"1\"\r\n\"1\"\r\n\"1\"\r\n\"1\"\r\n";
+        delete m_window;
+        m_test->setBytes(u"GCar1.Fil"_s, full);
+        m_window = new AutoMaint(m_test->program);
+        showActive(*m_window);
+        open("mVFuel");
+        m_test->dialogs.willAnswer(Answer::Ok);
+        type("fuelEntry", 0, 2, u"3"_s);
+        click("fuelAdd");
+        QCoreApplication::processEvents();
+        QCOMPARE(asked(), {CarMessages::fuelFull()});
+        grid("fuelEntry")->setFocus();
+        press("fuelEntry", Qt::Key_Escape);
+        QVERIFY(!m_window->isModified());
+    }
+
     void calculatesAndEntersAFillUp()
     {
         open("mVFuel");
