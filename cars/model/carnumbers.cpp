@@ -52,6 +52,30 @@ QString takeWhole(QStringView &text)
     return digits;
 }
 
+/// "03/02/2026": thousands of rows have their dates in the form in which they are kept, and are read again at
+/// each edit. Invalid for any other form, and where day and month stand the other way round.
+QDate usualDate(QStringView text, DateStyle style)
+{
+    constexpr qsizetype length = 10;
+    const auto isSlash = [&text](qsizetype at) { return text[at] == u'/'; };
+    if (text.size() != length || !isSlash(2) || !isSlash(5))
+        return {};
+    const auto number = [&text](qsizetype from, qsizetype digits) {
+        int value = 0;
+        for (const QChar digit : text.sliced(from, digits)) {
+            if (digit < u'0' || digit > u'9')
+                return -1;
+            value = 10 * value + digit.unicode() - u'0';
+        }
+        return value;
+    };
+    const int first = number(0, 2);
+    const int second = number(3, 2);
+    const int year = number(6, 4);
+    const bool isMonthFirst = style == DateStyle::Usa;
+    return year < 1000 ? QDate() : QDate(year, isMonthFirst ? first : second, isMonthFirst ? second : first);
+}
+
 } // namespace
 
 std::optional<double> CarNumbers::number(QStringView text)
@@ -81,7 +105,8 @@ std::optional<qint64> CarNumbers::cents(QStringView text)
 
 std::optional<QDate> CarNumbers::date(QStringView text, DateStyle style)
 {
-    return Dates::parse(text, style);
+    const QDate usual = usualDate(text, style);
+    return usual.isValid() ? usual : Dates::parse(text, style);
 }
 
 QString CarNumbers::text(double number)
