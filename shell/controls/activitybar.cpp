@@ -254,6 +254,9 @@ bool ActivityBar::eventFilter(QObject *watched, QEvent *event)
         return QStatusBar::eventFilter(watched, event);
     const QString tip = static_cast<QStatusTipEvent *>(event)->tip();
     m_message->setText(tip.isEmpty() ? m_said : tip);
+    // What can be clicked belongs to what was said.
+    for (QToolButton *link : {m_way, m_undo})
+        link->setMaximumWidth(tip.isEmpty() ? QWIDGETSIZE_MAX : 0);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "shell/controls/workscroll.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/commonkeys.h"
+#include "shell/frame/menufocus.h"
 #include "shell/frame/refusedcommands.h"
 #include "shell/frame/searchoverlay.h"
 #include "shell/frame/sidesplitter.h"
@@ -289,6 +290,7 @@ void FunctionWindow::finishFrame()
     SearchOverlay::addCommand(m_program, *m_commands, this, [this] { return !m_busy; });
     m_toolbar->complete(u"Toolbar1"_s + m_traits.name);
     m_refused->followMenus();
+    new MenuFocus(menuBar());
     m_colors->load();
     WindowPlace::open(*this, m_traits.openingSize,
                       m_program.store.value(storeKey(u"geometry"_s)).toByteArray());

@@ -12,6 +12,7 @@
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/everythingbox.h"
+#include "shell/frame/menufocus.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/look/colortext.h"
 #include "shell/look/theme.h"
@@ -103,6 +104,7 @@ void Startfrm::makeMenus()
     QMenu *help = makeMenu(u"mH"_s, u"&Help"_s, this);
     for (QMenu *menu : {options, functions, help})
         menuBar()->addMenu(menu);
+    new MenuFocus(menuBar());
     m_commands->add(
         options, u"searchEverything"_s, u"Search E&verything"_s, [this] { m_search->start(); }, {},
         CommonKeys::everything);
