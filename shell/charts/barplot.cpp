@@ -241,7 +241,11 @@ void BarPlot::fit(int width)
     const int right = gap + m_rows->figuresWidth() + rightInset;
     axes->setMargins({left, 0, right, axisHeight()});
     const int room = std::max(1, width - left - right);
-    m_plot->xAxis->ticker()->setTickCount(std::clamp(room / tickRoom, 2, 6)); // one would be 0 alone
+    // One would be the 0 alone; of two that are meant, no third comes between.
+    const auto ticker = m_plot->xAxis->ticker();
+    ticker->setTickCount(std::clamp(room / tickRoom, 2, 6));
+    ticker->setTickStepStrategy(room < 2 * tickRoom ? QCPAxisTicker::tssMeetTickCount
+                                                    : QCPAxisTicker::tssReadability);
 }
 
 void BarPlot::draw()
