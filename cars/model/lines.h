@@ -46,6 +46,19 @@ inline QString done(const QString &action)
     return u"Done: "_s + action;
 }
 
+/// When an action was done last, `reading` as "81,210 miles"; empty where nothing is known.
+inline QString lastDone(const QString &date, const QString &reading)
+{
+    if (date.isEmpty() && reading.isEmpty())
+        return u"It was never entered before."_s;
+    QString words = u"Last done"_s;
+    if (!date.isEmpty())
+        words += u" on "_s + date;
+    if (!reading.isEmpty())
+        words += u" at "_s + reading;
+    return words + u'.';
+}
+
 inline QString whereDoneGoes()
 {
     return u"This goes into the maintenance history and into the schedule as the last time. A reading beyond "
@@ -110,10 +123,10 @@ inline QString nothingDue()
     return u"nothing due"_s;
 }
 
-/// "oil change and 2 more": what a car needs, as its row of the list says it.
+/// "oil change +2": what a car needs, as its row of the list says it.
 inline QString needAndMore(const QString &need, int others)
 {
-    return others == 0 ? need : QString(need + u" and "_s + QString::number(others) + u" more"_s);
+    return others == 0 ? need : QString(need + u" +"_s + QString::number(others));
 }
 
 /// Behind the cards of what is due; `count` more have no card.

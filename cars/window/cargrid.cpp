@@ -79,7 +79,14 @@ void CarGrid::fitColumns(int room)
     std::vector<int> widths;
     for (const Width &width : m_widths)
         widths.push_back(body.horizontalAdvance(width.longest) + 2 * inset + 2);
-    const int least = std::accumulate(widths.begin(), widths.end(), 0);
+    int least = std::accumulate(widths.begin(), widths.end(), 0);
+    for (int column = 0; column < count && least > room; ++column) {
+        if (!m_widths[std::size_t(column)].grows)
+            continue; // words are still known where they are cut, numbers and dates are not
+        const int cut = std::min(least - room, widths[std::size_t(column)] * 2 / 5);
+        widths[std::size_t(column)] -= cut;
+        least -= cut;
+    }
     const auto growing = int(std::ranges::count_if(m_widths, &Width::grows));
     int left = room - least;
     for (int column = 0, to = growing == 0 ? count : growing; column < count; ++column) {

@@ -152,7 +152,8 @@ void CreateRoutine::cancel()
 {
     if (!m_hands.mayReplace())
         return;
-    const int slot = m_desk.car.isNew() ? m_slotBefore : m_desk.car.slot();
+    // None where the new car was given up; one where it was saved after all.
+    const int slot = m_desk.car.slot() > 0 ? m_desk.car.slot() : m_slotBefore;
     setOn(false);
     m_hands.openList(slot);
     if (slot > 0)

@@ -31,7 +31,8 @@ DonePanel::DonePanel(const CarDesk &desk)
                    u"doneDate"_s))
     , m_odometer(named(new FieldBox(this), u"doneOdometer"_s))
     , m_cost(named(new FieldBox(this), u"doneCost"_s))
-    , m_odometerLabel(makeFieldLabel({}, m_odometer, this))
+    , m_odometerLabel(makeQuietLabel({}, this))
+    , m_last(named(makeQuietLabel({}, this), u"doneLast"_s))
     , m_hint(makeQuietLabel(CarLines::whereDoneGoes(), this))
 {
     auto *content = new QWidget(this);
@@ -49,8 +50,11 @@ DonePanel::DonePanel(const CarDesk &desk)
         connect(box, &FieldBox::refused, this, &DonePanel::said);
         connect(box, &QLineEdit::returnPressed, this, &DonePanel::enter);
     }
+    m_odometerLabel->setBuddy(m_odometer);
+    m_last->setFont(TypeScale::body());
     m_hint->setFont(TypeScale::body());
     m_hint->setWordWrap(true);
+    rows->addWidget(m_last);
     rows->addLayout(boxes);
     rows->addWidget(m_hint);
     rows->addStretch(1);
@@ -70,6 +74,9 @@ void DonePanel::start(int row)
     const QString caption = CarWords::mileage(m_desk.car.unit()) + u':';
     m_odometerLabel->setText(caption);
     m_odometer->setAccessibleName(caption.chopped(1));
+    const auto last = CarNumbers::number(action.odometer);
+    m_last->setText(CarLines::lastDone(
+        action.date.trimmed(), last ? DueWords::distance(*last, m_desk.car.unit()) : action.odometer));
     m_date->setText(Dates::numbers(m_desk.program.clock.today(), m_desk.program.state.dateStyle));
     m_odometer->setText(car.sheet.field(VehicleSheet::Odometer));
     m_cost->setText(action.cost);

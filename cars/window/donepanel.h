@@ -38,5 +38,6 @@ private:
     FieldBox *m_odometer;
     FieldBox *m_cost;
     QLabel *m_odometerLabel;
+    QLabel *m_last;
     QLabel *m_hint;
 };

@@ -39,7 +39,6 @@ DueView::DueView(const CarDesk &desk)
     , m_rate(named(makeQuietLabel({}, this), u"drivingRate"_s))
     , m_schedule(makeSchedule())
 {
-    titleLine().addAtRight(m_odometer);
     m_odometer->setToolTip(u"Enter what the odometer reads now"_s);
     m_advice->setFont(TypeScale::body());
     m_advice->setWordWrap(true);
@@ -47,6 +46,8 @@ DueView::DueView(const CarDesk &desk)
     auto *words = new QHBoxLayout(heading);
     words->setContentsMargins(0, 4, 0, 0);
     words->addWidget(makeHeading(u"Maintenance Schedule"_s, this), 1);
+    words->setSpacing(12);
+    words->addWidget(m_odometer, 0, Qt::AlignBottom);
     words->addWidget(m_rate, 0, Qt::AlignBottom);
     addContent(m_advice);
     addContent(m_cards);
@@ -65,13 +66,13 @@ CarGrid *DueView::makeSchedule()
     grid->setModel(m_model);
     grid->setAccessibleName(u"Maintenance schedule"_s);
     grid->setWidths({{u"Inspect Brake Linings"_s, true},
-                     {u"Interval Be"_s},
-                     {u"tween Action"_s},
+                     {u"9999999_"_s},
+                     {u"Months___"_s},
                      {u"Kilometers"_s},
                      {u"12/30/2026 "_s},
                      {u"9999.99"_s},
-                     {u"-99999 __"_s},
-                     {u"-18 months __"_s}});
+                     {u"-999999"_s},
+                     {u"-18 months_"_s}});
     connect(grid, &CarGrid::said, this, &DueView::said);
     connect(grid, &CarGrid::refused, this, [this] { emit said(car().whyLocked(CarPart::Sheet)); });
     connect(m_model, &ScheduleModel::noticed, this, [this](const Message &message, const QModelIndex &cell) {

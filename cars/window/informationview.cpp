@@ -25,7 +25,6 @@ InformationView::InformationView(const CarDesk &desk)
 {
     QScrollArea *scroll = makeScrolling(m_form, u"sheetScroll"_s, this);
     addContent(scroll, 1);
-    titleLine().addWords(u"carWords"_s);
     setFocusProxy(m_form->box(SheetForm::nameBox));
     connect(m_form, &SheetForm::boxFocused, scroll,
             [scroll](QWidget *box) { scroll->ensureWidgetVisible(box, 8, 32); });
@@ -74,13 +73,13 @@ void InformationView::showFacts()
 {
     const DateStyle style = desk().program.state.dateStyle;
     const QDate today = desk().program.clock.today();
-    bool isRegistrationDue = false;
+    auto registration = CarNeed::State::NoInterval;
     QString insurance;
     for (const CarNeed &need : car().needs()) {
         if (need.kind == CarNeed::Kind::Registration)
-            isRegistrationDue = need.isUrgent();
+            registration = need.state;
         if (need.kind == CarNeed::Kind::Insurance)
             insurance = DueWords::when(need, car().unit(), style, today);
     }
-    m_form->setFacts(isRegistrationDue, insurance);
+    m_form->setFacts(registration, insurance);
 }

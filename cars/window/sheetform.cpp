@@ -3,8 +3,9 @@
 
 #include "cars/model/carmakes.h"
 #include "cars/model/carwords.h"
+#include "cars/window/signline.h"
 #include "shell/controls/controls.h"
-#include "shell/core/dates.h"
+#include "shell/core/shellmessages.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/pictureframe.h"
 
@@ -27,6 +28,8 @@ constexpr int oneColumnWidth = 300;
 constexpr int pictureHeight = 150;
 /// From this width on the second group stands beside the first.
 constexpr int twoColumnsFrom = 600;
+/// From this width on the word "required" has room beside the labels.
+constexpr int requiredBesideFrom = 840;
 
 using Field = VehicleSheet::Field;
 
@@ -104,6 +107,8 @@ QComboBox *SheetForm::makeChoice(const QString &name, std::size_t place)
     choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     choice->setMinimumContentsLength(6);
     choice->setMaxVisibleItems(12);
+    choice->setFocusPolicy(Qt::StrongFocus);
+    choice->installEventFilter(this);
     connect(choice, &QComboBox::activated, this, [this, place] { emit entered(place); });
     m_choices.push_back(choice);
     return choice;
@@ -125,11 +130,13 @@ QVBoxLayout *SheetForm::labelledBox(std::size_t place, bool isRequired)
     const auto choice = std::ranges::find(m_choices, static_cast<QLineEdit *>(box), &QComboBox::lineEdit);
     QWidget *control = choice == m_choices.end() ? static_cast<QWidget *>(box) : *choice;
     const QString caption = place == nameBox ? u"Name:"_s : CarWords::captions[place - 1].toString();
-    QLabel *label = makeFieldLabel(caption, control, this);
+    QLabel *label = place == nameBox ? makeQuietLabel(caption, this) : makeFieldLabel(caption, control, this);
     box->setAccessibleName(caption.chopped(1));
     auto *layout = labelled(label, control);
     if (place == boxOf(Field::Odometer))
         m_odometerLabel = label;
+    if (place == nameBox)
+        m_nameLabel = label;
     if (!isRequired)
         return layout;
     QLabel *required =
@@ -167,8 +174,7 @@ QWidget *SheetForm::makeGeneralColumn()
     addRow(layout, {Field::Vin, Field::License});
     QHBoxLayout *dates = row();
     QVBoxLayout *registration = labelledBox(boxOf(Field::RegistrationMonth));
-    m_registrationDue = named(new QLabel(CarWords::registrationIsDue.toString(), this), u"registrationDue"_s);
-    m_registrationDue->setFont(TypeScale::label());
+    m_registrationDue = named(new SignLine(this), u"registrationDue"_s);
     m_registrationDue->hide();
     registration->addWidget(m_registrationDue);
     dates->addLayout(registration, 1);
@@ -274,13 +280,25 @@ void SheetForm::setLocked(bool locked)
 
 void SheetForm::setNew(bool isNew)
 {
-    for (std::size_t i = 0; i < m_required.size(); ++i)
-        m_required[i]->setVisible((i % 2 != 0) == isNew);
+    m_isNew = isNew;
+    showRequired();
 }
 
-void SheetForm::setFacts(bool isRegistrationDue, const QString &insurance)
+/// Beside the labels where there is room, else in the boxes.
+void SheetForm::showRequired()
 {
-    m_registrationDue->setVisible(isRegistrationDue);
+    const bool isBeside = m_isNew && width() >= TypeScale::wide(requiredBesideFrom);
+    for (std::size_t i = 0; i < m_required.size(); ++i)
+        m_required[i]->setVisible((i % 2 != 0) == isBeside);
+    m_nameLabel->setText(m_isNew ? u"Enter File Name:"_s : u"Name:"_s);
+    for (const std::size_t place : {nameBox, boxOf(Field::Odometer), boxOf(Field::Make)})
+        m_boxes[place]->setPlaceholderText(m_isNew && !isBeside ? ShellMessages::required() : QString());
+}
+
+void SheetForm::setFacts(CarNeed::State registration, const QString &insurance)
+{
+    m_registrationDue->setWords(registration, CarWords::registrationIsDue.toString());
+    m_registrationDue->setVisible(registration >= CarNeed::State::Due);
     m_insuranceFact->setText(insurance);
 }
 
@@ -335,11 +353,20 @@ void SheetForm::resizeEvent(QResizeEvent *event)
         four->setDirection(direction);
         four->setSpacing(isWide ? boxGap : rowGap);
     }
+    showRequired();
     QWidget::resizeEvent(event);
 }
 
+/// The wheel scrolls the form, and chooses in no list that it happens to pass.
 bool SheetForm::eventFilter(QObject *watched, QEvent *event)
 {
+    if (const auto *choice = qobject_cast<QComboBox *>(watched)) {
+        if (event->type() == QEvent::Wheel && !choice->hasFocus() && !choice->lineEdit()->hasFocus()) {
+            event->ignore();
+            return true;
+        }
+        return QWidget::eventFilter(watched, event);
+    }
     if (event->type() == QEvent::FocusIn && watched->isWidgetType())
         emit boxFocused(static_cast<QWidget *>(watched));
     return QWidget::eventFilter(watched, event);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cars/model/carneeds.h"
 #include "cars/model/carrecord.h"
 
 #include <QWidget>
@@ -15,6 +16,7 @@ class QComboBox;
 class QPushButton;
 class QLabel;
 class QVBoxLayout;
+class SignLine;
 
 /// The boxes of a car's information sheet in their groups, its name above them and its picture beside them.
 /// Two columns where there is room, one below the other where there is not.
@@ -40,7 +42,7 @@ public:
     /// Whether the word "required" stands beside what a new car must have.
     void setNew(bool isNew);
     /// "Registration Is Due" beside its month; what is to be said of the insurance beside its date.
-    void setFacts(bool isRegistrationDue, const QString &insurance);
+    void setFacts(CarNeed::State registration, const QString &insurance);
     /// Puts a button under the picture.
     void setPictureButton(QPushButton *button);
 
@@ -69,6 +71,7 @@ private:
     QWidget *makeMaintenanceRows();
     void addRow(QVBoxLayout *column, std::initializer_list<VehicleSheet::Field> fields);
     void offerModels();
+    void showRequired();
     void setTabOrders();
 
     std::array<FieldBox *, count> m_boxes{};
@@ -77,11 +80,13 @@ private:
     std::vector<QLabel *> m_required; ///< labels that say so, each behind the one that does not
     QComboBox *m_make = nullptr;
     QComboBox *m_model = nullptr;
-    QLabel *m_registrationDue = nullptr;
+    SignLine *m_registrationDue = nullptr;
     QLabel *m_insuranceFact = nullptr;
+    QLabel *m_nameLabel = nullptr;
     QLabel *m_odometerLabel = nullptr;
     PictureFrame *m_picture = nullptr;
     QVBoxLayout *m_pictureColumn = nullptr;
     QBoxLayout *m_columns = nullptr;
     std::vector<QBoxLayout *> m_maintenanceRows;
+    bool m_isNew = false;
 };
