@@ -135,6 +135,12 @@ inline QString moreBelow(int count)
     return u"and "_s + QString::number(count) + u" more, marked in the schedule"_s;
 }
 
+/// On a card: the distance has probably been driven.
+inline QString lookAtOdometer()
+{
+    return u"Look at the odometer"_s;
+}
+
 /// `distance` as "84,210 miles", or as it was typed.
 inline QString odometer(const QString &distance)
 {

@@ -2,6 +2,7 @@
 #include "cars/window/duecard.h"
 
 #include "cars/model/duewords.h"
+#include "cars/model/lines.h"
 #include "cars/window/signline.h"
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
@@ -52,8 +53,8 @@ void DueCard::show(const CarNeed &need, const Words &words)
     const QString name = DueWords::name(need);
     m_name->setText(name);
     m_when->setWords(need.state, DueWords::when(need, words.unit, words.style, words.today));
-    const QString advice = DueWords::advice(need, words.unit);
-    m_howFar->setText(advice.isEmpty() ? DueWords::howFar(need, words.unit) : advice);
+    m_howFar->setText(need.isReadingOld ? CarLines::lookAtOdometer() : DueWords::howFar(need, words.unit));
+    setToolTip(DueWords::advice(need, words.unit));
     const bool isAction = need.kind == CarNeed::Kind::Action;
     m_button->setText(isAction ? u"Done..."_s : u"Renewed..."_s);
     m_button->setAccessibleName(name + u": "_s + m_button->text().chopped(3));

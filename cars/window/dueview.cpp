@@ -2,6 +2,7 @@
 #include "cars/window/dueview.h"
 
 #include "cars/model/carnumbers.h"
+#include "cars/model/carwords.h"
 #include "cars/model/duewords.h"
 #include "cars/model/lines.h"
 #include "cars/window/cargrid.h"
@@ -27,6 +28,19 @@ namespace {
 
 /// So many cards stand there while nothing is due.
 constexpr qsizetype comingCards = 2;
+
+/// The action gives way first where there is little room; where there is much, its intervals have some of it.
+std::vector<CarGrid::Width> widths(DistanceUnit unit)
+{
+    return {{u"Inspect Brake Linings"_s, true},
+            {u"99999"_s, true},
+            {u"Months_"_s, true},
+            {CarWords::mileage(unit) + u'_'},
+            {u"12/30/2026"_s},
+            {u"999.99"_s},
+            {u"-99999"_s},
+            {u"-80 days__"_s}};
+}
 
 } // namespace
 
@@ -65,14 +79,6 @@ CarGrid *DueView::makeSchedule()
     auto *grid = new CarGrid(program, u"Grid4"_s, picker, this);
     grid->setModel(m_model);
     grid->setAccessibleName(u"Maintenance schedule"_s);
-    grid->setWidths({{u"Inspect Brake Linings"_s, true},
-                     {u"9999999_"_s},
-                     {u"Months___"_s},
-                     {u"Kilometers"_s},
-                     {u"12/30/2026 "_s},
-                     {u"9999.99"_s},
-                     {u"-999999"_s},
-                     {u"-18 months_"_s}});
     connect(grid, &CarGrid::said, this, &DueView::said);
     connect(grid, &CarGrid::refused, this, [this] { emit said(car().whyLocked(CarPart::Sheet)); });
     connect(m_model, &ScheduleModel::noticed, this, [this](const Message &message, const QModelIndex &cell) {
@@ -99,6 +105,7 @@ void DueView::showRow(int row)
 void DueView::refresh()
 {
     m_model->refresh();
+    m_schedule->setWidths(widths(car().unit()));
     showNeeds();
     const QString &reading = car().record().sheet.field(VehicleSheet::Odometer);
     const auto number = CarNumbers::number(reading);

@@ -76,7 +76,11 @@ private slots:
             {"planner", open<Function::Planner>,
              u"mEBack mEPaste mEPaste_tool mERec mERedo mEUndo mOC mOCal mOClr mOSave mUImport mUR"_s,
              u"Option7_0 Option7_1 clearDay saveDay"_s},
-            {"cars", open<Function::CarLog>, u""_s, u""_s},
+            {"cars", open<Function::CarLog>,
+             u"createNext createSave deleteFillUp loadPicture mEBack mEDelete mEPasteCells mERedo mEUndo mOC "
+             u"mODel "
+             "mONew mOProgKilo mOProgMiles mOSave mUBringIn mUR"_s,
+             u"createNew dueViewNext dueViewSave dueViewSaveExit emptyCreate emptyRestore"_s},
             {"password control", open<Function::PasswordControl>, u"mOC mOSave"_s,
              u"Check1_0 Check1_1 Check1_11 Check1_13 Check1_14 Check1_15 Check1_16 Check1_2 Check1_9 "
              u"Command1 "

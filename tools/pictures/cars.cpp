@@ -73,7 +73,7 @@ void furnish(const DataFolder &folder)
         } else {
             for (ScheduledAction &action : actions) {
                 if (!action.date.isEmpty())
-                    action.date = i == 1 ? u"10/02/2026"_s : u"06/11/2026"_s;
+                    action.date = i == 1 ? u"06/02/2026"_s : u"06/11/2026"_s;
             }
         }
         if (!files.save(before, car))
