@@ -39,7 +39,7 @@ std::vector<CarGrid::Width> widths(DistanceUnit unit)
             {u"12/30/2026"_s},
             {u"999.99"_s},
             {u"-99999"_s},
-            {u"-80 days__"_s}};
+            {u"-180 days___"_s}};
 }
 
 } // namespace

@@ -124,11 +124,18 @@ void SheetForm::offerModels()
     m_model->setEditText(typed);
 }
 
+/// The box, or the list that it stands in.
+QWidget *SheetForm::controlOf(std::size_t place) const
+{
+    QLineEdit *box = m_boxes[place];
+    const auto choice = std::ranges::find(m_choices, box, &QComboBox::lineEdit);
+    return choice == m_choices.end() ? static_cast<QWidget *>(box) : *choice;
+}
+
 QVBoxLayout *SheetForm::labelledBox(std::size_t place, bool isRequired)
 {
     FieldBox *box = m_boxes[place];
-    const auto choice = std::ranges::find(m_choices, static_cast<QLineEdit *>(box), &QComboBox::lineEdit);
-    QWidget *control = choice == m_choices.end() ? static_cast<QWidget *>(box) : *choice;
+    QWidget *control = controlOf(place);
     const QString caption = place == nameBox ? u"Name:"_s : CarWords::captions[place - 1].toString();
     QLabel *label = place == nameBox ? makeQuietLabel(caption, this) : makeFieldLabel(caption, control, this);
     box->setAccessibleName(caption.chopped(1));
@@ -330,7 +337,7 @@ void SheetForm::setTabOrders()
                                boxOf(Field::Other)};
     static_assert(order.size() == count);
     for (std::size_t i = 1; i < order.size(); ++i)
-        setTabOrder(m_boxes[order[i - 1]], m_boxes[order[i]]);
+        setTabOrder(controlOf(order[i - 1]), controlOf(order[i]));
 }
 
 QSize SheetForm::minimumSizeHint() const

@@ -65,6 +65,7 @@ protected:
 private:
     void makeBoxes();
     QComboBox *makeChoice(const QString &name, std::size_t place);
+    QWidget *controlOf(std::size_t place) const;
     QVBoxLayout *labelledBox(std::size_t place, bool isRequired = false);
     QWidget *makeGeneralColumn();
     QWidget *makeSideColumn();

@@ -156,6 +156,9 @@ private slots:
         fill("Text1_20", u"Toyota"_s);
         QVERIFY(find<QComboBox>("Combo7")->findText(u"Sienna"_s) >= 0);
         fill("Text1_22", u"5"_s);
+        // Tab goes on to the lists, and what is typed there is finished from them.
+        QTest::keyClick(find<QLineEdit>("Text1_22"), Qt::Key_Tab);
+        QVERIFY(find<QComboBox>("carMake")->hasFocus() || find<QLineEdit>("Text1_20")->hasFocus());
         m_test->dialogs.willAnswer(Answer::Yes);
         click("informationViewSaveExit");
         QCOMPARE(asked(), {CarMessages::createFile()});
