@@ -51,7 +51,7 @@ QString paintedCar(const DataFolder &folder, const QString &name, const QColor &
     const QString path = folder.filePath(u"Pictures/"_s + name);
     if (!image.save(path))
         qFatal("the picture of a car cannot be written");
-    return path;
+    return name; // found in the household's pictures
 }
 
 /// A household whose cars have pictures, and of which one needs nothing and one something soon.
