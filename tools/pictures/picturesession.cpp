@@ -78,7 +78,7 @@ PictureSession::PictureSession(const Camera &camera)
                 m_dialogs,     m_test.functions, m_test.gate,     m_test.store, m_test.changes}
 {
     m_test.gate = AccessGate(showPasswordPrompt);
-    addFunctions(m_test.functions, m_test.clock, m_test.folder);
+    addFunctions(m_test.functions, m_test.clock);
     QObject::connect(&m_test.changes, &ProgramSignals::helpRequested, &m_test.changes, [this](int context) {
         m_manual = std::make_unique<HelpViewer>(m_program);
         m_manual->openPage(context);
