@@ -17,7 +17,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-constexpr int chartHeight = 176;
+constexpr int chartHeight = 204;
 constexpr int leastHeightWithChart = 620;
 } // namespace
 
