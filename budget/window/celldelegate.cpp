@@ -6,6 +6,7 @@
 #include "budget/window/sheetmodel.h"
 #include "shell/controls/controls.h"
 
+#include <QAction>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -106,6 +107,21 @@ void CellDelegate::finish()
     emit closeEditor(m_editor);
 }
 
+/// What the grid does at `key` with the whole cell; null where the key belongs to what is typed.
+QAction *CellDelegate::commandOf(const QKeyEvent &key) const
+{
+    for (const auto typing :
+         {QKeySequence::Cut, QKeySequence::Copy, QKeySequence::Paste, QKeySequence::Delete}) {
+        if (key.matches(typing))
+            return nullptr;
+    }
+    for (QAction *command : m_grid->actions()) {
+        if (command->isEnabled() && command->shortcut() == QKeySequence(key.keyCombination()))
+            return command;
+    }
+    return nullptr;
+}
+
 /// Keys that lead out of the box: as in any worksheet, the arrows too where typing replaced the cell's text.
 bool CellDelegate::eventFilter(QObject *watched, QEvent *event)
 {
@@ -114,6 +130,11 @@ bool CellDelegate::eventFilter(QObject *watched, QEvent *event)
         if (m_grid->isWayOut(*key)) {
             finish();
             m_grid->walk(*key);
+            return true;
+        }
+        if (QAction *command = commandOf(*key)) {
+            finish();
+            command->trigger();
             return true;
         }
     }

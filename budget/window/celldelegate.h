@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QStyledItemDelegate>
 
+class QAction;
 class SheetGrid;
 
 /// Draws a cell of the worksheet, and holds the box in which one types into it.
@@ -38,6 +39,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    QAction *commandOf(const QKeyEvent &key) const;
+
     SheetGrid *m_grid;
     mutable QPointer<QLineEdit> m_editor;
 };

@@ -83,6 +83,7 @@ private slots:
                                       {"Tab", {{Qt::Key_Tab, {}}}, u"7.00"_s, u"1,4"_s},
                                       {"an arrow", {{Qt::Key_Left, {}}}, u"7.00"_s, u"1,2"_s},
                                       {"an arrow up", {{Qt::Key_Up, {}}}, u"7.00"_s, u"0,3"_s},
+                                      {"Fill Right", {{Qt::Key_R, ctrl}}, u"7.00"_s, u"1,3"_s},
                                       {"Esc", {{Qt::Key_Escape, {}}}, u"5.00"_s, u"1,3"_s}});
     }
 
