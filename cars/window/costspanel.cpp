@@ -105,7 +105,7 @@ void CostsPanel::showFigures(const CarCosts &costs)
     figures.append({u"Together"_s, HistoryLines::moneyOrNone(all.total())});
     if (const auto each = all.perDistance())
         figures.append(
-            {u"A "_s + FuelLines::distance(m_desk.car.unit()) + u" costs"_s, HistoryLines::money(*each)});
+            {u"A %1 costs"_s.arg(FuelLines::distance(m_desk.car.unit())), HistoryLines::money(*each)});
     m_figures->setFigures(figures);
 }
 
