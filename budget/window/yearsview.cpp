@@ -69,6 +69,7 @@ YearsView::YearsView(QWidget *parent)
           [] {
               std::vector<TableColumn<LayAside::Item>> columns;
               const QStringList headings = YearsLines::asideHeadings();
+              columns.reserve(std::size_t(headings.size()));
               for (int i = 0; i < int(headings.size()); ++i)
                   columns.push_back(
                       {headings[i], i == 0 ? Qt::AlignLeft : Qt::AlignRight,

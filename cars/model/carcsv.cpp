@@ -129,7 +129,7 @@ QString CarCsv::fileName(const QString &vehicle, CarPart part)
 CarCsv::Columns CarCsv::Columns::find(const QList<QStringList> &lines, CarPart part)
 {
     for (int i = 0; i < int(lines.size()); ++i) {
-        const Columns columns{namedBy(lines[i], part), i};
+        Columns columns{namedBy(lines[i], part), i};
         if (columns.isComplete() && std::ranges::count(columns.places, -1) + 2 <= columns.places.size())
             return columns;
     }

@@ -139,7 +139,7 @@ QString CarCsvImport::readCell(CarCsvLine &line, std::size_t column, const QStri
     }
     if (!isNumber(column) || text.isEmpty())
         return text.left(longestText);
-    const QString found = number(text);
+    QString found = number(text);
     if (found.isEmpty() && line.problem.isEmpty())
         line.problem = u"no number: "_s + text.left(20);
     return found;
@@ -151,6 +151,7 @@ QString CarCsvImport::number(const QString &text) const
 {
     if (m_decimal == u'.' && FuelFigures::sumOf(text))
         return text.left(longestText);
+    constexpr QStringView signs = u"-(+";
     QString digits;
     int letters = 0;
     for (const QChar character : text) {
@@ -158,11 +159,9 @@ QString CarCsvImport::number(const QString &text) const
             digits += character;
         else if (character == m_decimal)
             digits += u'.';
-        else if (character == u'-' || character == u'(' || character == u'+')
-            return {};
         else if (character.isLetter() && !digits.isEmpty())
             break; // a unit
-        else if (character.isLetter() && ++letters > longestCurrency)
+        else if (signs.contains(character) || (character.isLetter() && ++letters > longestCurrency))
             return {};
     }
     return digits.count(u'.') <= 1 && CarNumbers::number(digits) ? digits : QString();

@@ -37,7 +37,7 @@ DrivingLog::DrivingLog(QList<OdometerReading> readings, std::optional<double> cu
     std::ranges::sort(
         m_all, {}, [](const OdometerReading &reading) { return std::tuple(reading.date, reading.reading); });
     // What a history and the schedule both tell is one reading.
-    m_all.erase(std::ranges::unique(m_all).begin(), m_all.end());
+    m_all.erase(std::unique(m_all.begin(), m_all.end()), m_all.end());
     leaveOutSingles(current);
     splitByOdometer(current);
     m_odometer = current;
