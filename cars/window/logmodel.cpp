@@ -131,7 +131,7 @@ void LogModel::setCell(CarRecord &car, qsizetype row, int column, const QString 
 QString LogModel::remove(int row)
 {
     CarRecord wanted = m_open.record();
-    const QString title = HistoryLines::deleted(titleOf(row));
+    QString title = HistoryLines::deleted(titleOf(row));
     CarRows::remove(wanted, m_part, m_order[row]);
     m_open.change(title, wanted);
     return title;

@@ -23,7 +23,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-LogPane::LogPane(const CarDesk &desk, CarPart part, const Names &names, std::vector<CarGrid::Width> widths)
+LogPane::LogPane(const CarDesk &desk, CarPart part, const Names &names,
+                 const std::vector<CarGrid::Width> &widths)
     : m_desk(desk)
     , m_model(new LogModel(desk.program, desk.car, part, this))
     , m_new(new EntryModel(desk.program, desk.car, *m_model, this))
@@ -173,7 +174,7 @@ bool LogPane::isRowChosen() const
 QString LogPane::removeChosen()
 {
     m_list->finishEdit();
-    const QString line = m_model->remove(m_list->currentIndex().row());
+    QString line = m_model->remove(m_list->currentIndex().row());
     m_list->setFocus();
     return line;
 }

@@ -42,7 +42,7 @@ QString OpenCar::whyLocked(CarPart part) const
 {
     if (!isOpen())
         return CarLines::noCarYet();
-    if (const QString reason = m_program.folder.whyReadOnly(); !reason.isEmpty())
+    if (QString reason = m_program.folder.whyReadOnly(); !reason.isEmpty())
         return reason;
     const VehicleFiles::State state = m_states[std::size_t(part)];
     const bool isLocked = state == VehicleFiles::State::Foreign || state == VehicleFiles::State::OutOfReach;

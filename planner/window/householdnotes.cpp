@@ -150,7 +150,7 @@ QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetric
     if (notes.isEmpty() || metrics.horizontalAdvance(all) <= width)
         return all;
     for (qsizetype shown = notes.size() - 1; shown > 1; --shown) {
-        const QString some = joined(notes.first(shown)) + u"; %1 more"_s.arg(notes.size() - shown);
+        QString some = joined(notes.first(shown)) + u"; %1 more"_s.arg(notes.size() - shown);
         if (metrics.horizontalAdvance(some) <= width)
             return some;
     }
