@@ -49,6 +49,12 @@ WorkScroll::WorkScroll(QWidget *work, QWidget *parent)
     connect(qApp, &QApplication::focusChanged, m_settled, qOverload<>(&QTimer::start));
 }
 
+/// The focus goes on once more when the work is deleted, and there is nothing left here to follow it.
+WorkScroll::~WorkScroll()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 WorkScroll *WorkScroll::around(const QWidget *part)
 {
     QWidget *parent = part->parentWidget();

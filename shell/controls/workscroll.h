@@ -14,6 +14,7 @@ class WorkScroll final : public QScrollArea
     Q_OBJECT
 public:
     explicit WorkScroll(QWidget *work, QWidget *parent = nullptr);
+    ~WorkScroll() override;
 
     /// The one that `part` stands in; null where there is none.
     static WorkScroll *around(const QWidget *part);
