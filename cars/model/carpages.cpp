@@ -48,16 +48,18 @@ public:
     {
         using enum VehicleSheet::Field;
         addFields(page, {}, {Make, Model, Odometer});
+        QList<VehicleSheet::Field> parts{OilFilter, AirFilter, PvcValve,     PlugType,
+                                         OilWeight, OilChange, CoolantChange};
         if (reader == Reader::Family) {
             addFields(page, CarWords::generalInformation.toString(),
                       {Vin, License, RegistrationMonth, PurchaseDate, Price, From});
             addFields(page, CarWords::insuranceInformation.toString(),
                       {Insurer, InsurerTelephone, Policy, InsuranceExpiration});
+            parts << Other; // where the spare key is
         } else {
             addFields(page, CarWords::generalInformation.toString(), {Vin, RegistrationMonth, PurchaseDate});
         }
-        addFields(page, CarWords::maintenanceInformation.toString(),
-                  {OilFilter, AirFilter, PvcValve, PlugType, OilWeight, OilChange, CoolantChange, Other});
+        addFields(page, CarWords::maintenanceInformation.toString(), parts);
     }
 
     void addDue(Page &page, Reader reader) const
@@ -209,8 +211,7 @@ public:
     QList<CarNeed> needs() const { return CarNeeds::of(m_car, m_log, m_context.style, m_context.today); }
 
 private:
-    void addFields(Page &page, const QString &heading,
-                   std::initializer_list<VehicleSheet::Field> fields) const
+    void addFields(Page &page, const QString &heading, const QList<VehicleSheet::Field> &fields) const
     {
         PageItem::Columns columns;
         columns.weights = {1.4, 3};

@@ -80,6 +80,7 @@ private slots:
                              {"consumption", u"27.8 miles per gallon"_s, true},
                              {"the chart of the odometer", u"Odometer"_s, true},
                              {"the price", u"18,450.00"_s, false},
+                             {"where the spare key is", u"Spare key"_s, false},
                              {"the policy", u"HM-640350"_s, false},
                              {"the insurance", u"Insurance"_s, false},
                              {"the costs of a year", u"2,204.38"_s, false}});
