@@ -54,6 +54,7 @@ void CarSigns::readOthers()
                        signOf(CarNeeds::of(car, CarNeeds::drivingLog(car, style, today), style, today)));
         m_list.setPicture(vehicle.slot, car.sheet.field(VehicleSheet::Picture));
     }
+    followOpenCar();
 }
 
 void CarSigns::followOpenCar()
