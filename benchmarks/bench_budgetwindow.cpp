@@ -3,6 +3,7 @@
 // painted sums.
 
 #include "benchmarks/limit.h"
+#include "benchmarks/paintwatch.h"
 #include "budget/model/budgetfiles.h"
 #include "budget/window/budgetwindow.h"
 #include "shell/access/gate.h"
@@ -22,31 +23,6 @@ namespace {
 
 constexpr double mostToOpen = 150; ///< milliseconds
 constexpr double mostToEdit = 16;  ///< a frame of the screen
-
-/// Sees the paintings of what it watches.
-class PaintWatch final : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *watched) { watched->installEventFilter(this); }
-
-    /// Until the next one.
-    void wait()
-    {
-        m_isPainted = false;
-        while (!m_isPainted)
-            QApplication::processEvents();
-    }
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        m_isPainted = m_isPainted || event->type() == QEvent::Paint;
-        return false;
-    }
-
-private:
-    bool m_isPainted = false;
-};
 
 /// A program with a full sheet for this year.
 class Desk

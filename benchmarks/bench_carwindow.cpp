@@ -3,6 +3,7 @@
 // each history, and from an edit to the painted figures.
 
 #include "benchmarks/limit.h"
+#include "benchmarks/paintwatch.h"
 #include "cars/model/carfiles.h"
 #include "cars/window/automaint.h"
 #include "shell/access/gate.h"
@@ -24,31 +25,6 @@ namespace {
 constexpr int rowCount = 3000;
 constexpr double mostToOpen = 150; ///< milliseconds
 constexpr double mostToEdit = 16;  ///< a frame of the screen
-
-/// Sees the paintings of what it watches.
-class PaintWatch final : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *watched) { watched->installEventFilter(this); }
-
-    /// Until the next one.
-    void wait()
-    {
-        m_isPainted = false;
-        while (!m_isPainted)
-            QApplication::processEvents();
-    }
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        m_isPainted = m_isPainted || event->type() == QEvent::Paint;
-        return false;
-    }
-
-private:
-    bool m_isPainted = false;
-};
 
 /// A program with a car of 3,000 rows in each history.
 class Desk
