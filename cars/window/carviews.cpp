@@ -6,11 +6,11 @@
 #include "cars/model/messages.h"
 #include "cars/window/dueview.h"
 #include "cars/window/fuelview.h"
+#include "cars/window/historyview.h"
 #include "cars/window/informationview.h"
 #include "cars/window/logmodel.h"
 #include "cars/window/maintenanceview.h"
 #include "cars/window/opencar.h"
-#include "cars/window/repairsview.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
@@ -47,8 +47,10 @@ const std::array<Face, CarViews::count> &faces()
 CarViews::CarViews(const CarDesk &desk, QObject *parent)
     : QObject(parent)
     , m_desk(desk)
-    , m_views{new DueView(desk), new InformationView(desk), new MaintenanceView(desk), new RepairsView(desk),
-              new FuelView(desk)}
+    , m_views{
+          new DueView(desk), new InformationView(desk), new MaintenanceView(desk),
+          new HistoryView(u"repairs"_s, desk, CarPart::Repairs, {u"Grid3"_s, u"Grid1"_s, u"MonthView2"_s}),
+          new FuelView(desk)}
 {
     m_desk.views.addHome(m_views[Due]);
     for (CarView *view : m_views) {

@@ -5,12 +5,12 @@
 
 class FigureStrip;
 
-/// The repairs and other expenditures of the open car, the newest first.
-class RepairsView final : public LogView
+/// What was done to the open car, or bought for it, and what that came to.
+class HistoryView : public LogView
 {
     Q_OBJECT
 public:
-    explicit RepairsView(const CarDesk &desk);
+    HistoryView(const QString &name, const CarDesk &desk, CarPart part, const LogPane::Names &names);
 
 protected:
     void showFigures() override;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cars/window/repairsview.h"
+#include "cars/window/historyview.h"
 
 #include "cars/model/historylines.h"
 #include "cars/window/figurestrip.h"
@@ -9,20 +9,20 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-RepairsView::RepairsView(const CarDesk &desk)
+HistoryView::HistoryView(const QString &name, const CarDesk &desk, CarPart part, const LogPane::Names &names)
     : LogView(
-          u"repairs"_s, desk, CarPart::Repairs,
+          name, desk, part,
           new LogPane(
-              desk, CarPart::Repairs, {u"Grid3"_s, u"Grid1"_s, u"MonthView2"_s},
+              desk, part, names,
               {{u"Kilometers"_s}, {u"12/30/2026 "_s}, {u"Inspect Brake Linings"_s, true}, {u"99999.99"_s}}),
           u"&Add Entry"_s)
-    , m_figures(new FigureStrip(u"repairsFigures"_s, this))
+    , m_figures(new FigureStrip(name + u"Figures"_s, this))
 {
     addContent(m_figures);
     addContent(&pane(), 1);
 }
 
-void RepairsView::showFigures()
+void HistoryView::showFigures()
 {
     const DateStyle style = desk().program.state.dateStyle;
     const QDate today = desk().program.clock.today();
