@@ -64,7 +64,14 @@ void ChangeSet::write(const RecordFile &file, int number, QByteArrayView value)
 
 void ChangeSet::replace(const QString &name, const QByteArray &content, const QByteArray &inBetween)
 {
-    m_changes.push_back({QFileInfo(m_folder.filePath(name)).fileName(), -1, content, inBetween});
+    m_changes.push_back({QFileInfo(m_folder.filePath(name)).fileName(), wholeFile, content, inBetween});
+}
+
+void ChangeSet::remove(const QString &name)
+{
+    const QFileInfo file(m_folder.filePath(name));
+    if (file.exists())
+        m_changes.push_back({file.fileName(), going, {}, {}});
 }
 
 bool ChangeSet::commit()
@@ -87,7 +94,7 @@ bool ChangeSet::commit()
 
     std::vector<Former> formers;
     const bool areWritten = writePlaces(m_folder, m_changes, formers);
-    if (!areWritten || !takeNames(m_folder, m_changes)) {
+    if (!areWritten || !takeNames(m_folder, m_changes) || !removeFiles(m_folder, m_changes)) {
         // Where the old bytes are gone or cannot be put back, the journal stays, to be finished later.
         const bool areGone = hasTakenNames() || (areWritten && isInBetween());
         if (!areGone && restore(formers) && removeJournal(m_folder))
@@ -110,7 +117,8 @@ bool ChangeSet::finish(const DataFolder &folder)
     const bool isWhole = isRead && decode(file.readAll(), changes);
     file.close();
     std::vector<Former> formers;
-    if (!isRead || (isWhole && (!writePlaces(folder, changes, formers) || !takeNames(folder, changes)))) {
+    if (!isRead || (isWhole && (!writePlaces(folder, changes, formers) || !takeNames(folder, changes) ||
+                                !removeFiles(folder, changes)))) {
         qCWarning(storageLog).noquote() << "Cannot finish" << file.fileName();
         return false;
     }
@@ -142,7 +150,7 @@ QByteArray ChangeSet::encode(const Changes &changes)
     stream.setVersion(streamVersion);
     stream << magic << quint32(changes.size());
     for (const Change &change : changes)
-        stream << change.name << change.offset << (change.isWholeFile() ? QByteArray() : change.bytes);
+        stream << change.name << change.offset << (change.isInPlace() ? change.bytes : QByteArray());
     return bytes + checksum(bytes);
 }
 
@@ -179,7 +187,7 @@ bool ChangeSet::writeFile(const DataFolder &folder, const Changes &changes, cons
     for (const Change &change : changes) {
         if (!isWritten)
             break;
-        if (change.isWholeFile() || change.name != name)
+        if (!change.isInPlace() || change.name != name)
             continue;
         isWritten = file.seek(change.offset);
         formers.back().places.emplace_back(change.offset, file.read(change.bytes.size()));
@@ -192,7 +200,7 @@ bool ChangeSet::writePlaces(const DataFolder &folder, const Changes &changes, st
 {
     QStringList names;
     for (const Change &change : changes) {
-        if (!change.isWholeFile() && !names.contains(change.name))
+        if (change.isInPlace() && !names.contains(change.name))
             names += change.name;
     }
     return std::ranges::all_of(
@@ -212,6 +220,14 @@ bool ChangeSet::takeNames(const DataFolder &folder, const Changes &changes)
             std::ignore = Disk::writeWhole(path, change.inBetween);
         // Once more where another program had the file open for a moment: the other files may be new already.
         return Disk::renameOver(waiting, path) || Disk::renameOver(waiting, path);
+    });
+}
+
+bool ChangeSet::removeFiles(const DataFolder &folder, const Changes &changes)
+{
+    return std::ranges::all_of(changes, [&folder](const Change &change) {
+        const QString path = folder.filePath(change.name);
+        return !change.isGoing() || !QFileInfo::exists(path) || Disk::remove(path);
     });
 }
 
@@ -262,21 +278,22 @@ bool ChangeSet::removeJournal(const DataFolder &folder)
 bool ChangeSet::stage() const
 {
     return std::ranges::all_of(m_changes, [this](const Change &change) {
-        if (!change.isWholeFile())
+        if (change.isInPlace())
             return true;
         const QFileInfo original(m_folder.filePath(change.name));
         if (original.exists() && !(original.isFile() && original.isWritable())) {
             qCWarning(storageLog).noquote() << "Cannot replace" << original.filePath();
             return false;
         }
-        return Disk::writeWhole(waitingPath(m_folder, change.name), change.bytes);
+        return change.isGoing() || Disk::writeWhole(waitingPath(m_folder, change.name), change.bytes);
     });
 }
 
 bool ChangeSet::hasTakenNames() const
 {
     return std::ranges::any_of(m_changes, [this](const Change &change) {
-        return change.isWholeFile() && !QFile::exists(waitingPath(m_folder, change.name));
+        return (change.isWholeFile() && !QFile::exists(waitingPath(m_folder, change.name))) ||
+               (change.isGoing() && !m_folder.exists(change.name));
     });
 }
 

@@ -34,8 +34,12 @@ public:
     /// `inBetween` until it does, unless that is empty: other programs see by it that a save is under way.
     void replace(const QString &name, const QByteArray &content, const QByteArray &inBetween = {});
 
-    /// Does what was added, in that order but for whole files, which come last. False, with a line in the
-    /// log and everything as it was, when a step is refused; it can be called again then.
+    /// Adds: the file `name` of the folder is gone, if it is there.
+    void remove(const QString &name);
+
+    /// Does what was added, in that order but for whole files, which come last, and those that go, behind
+    /// them. False, with a line in the log and everything as it was, when a step is refused; it can be called
+    /// again then.
     [[nodiscard]] bool commit();
 
     /// Finishes or drops what a crash interrupted in `folder`. Called once at start, before anything is read.
@@ -48,16 +52,21 @@ public:
     static bool isPending(const DataFolder &folder);
 
 private:
-    /// Bytes for a place in a file; a whole file that waits under its waiting name when `offset` is -1.
+    /// Bytes for a place in a file; a whole file that waits under its waiting name when `offset` is -1, one
+    /// that goes when it is -2.
     struct Change {
         QString name;
         qint64 offset = 0;
         QByteArray bytes;
         QByteArray inBetween; ///< not in the journal: from there on the file only takes its new content
 
-        bool isWholeFile() const { return offset < 0; }
+        bool isWholeFile() const { return offset == wholeFile; }
+        bool isGoing() const { return offset == going; }
+        bool isInPlace() const { return offset >= 0; }
     };
     using Changes = std::vector<Change>;
+    static constexpr qint64 wholeFile = -1;
+    static constexpr qint64 going = -2;
 
     /// What a file held before a change touched it.
     struct Former {
@@ -73,6 +82,7 @@ private:
                           std::vector<Former> &formers);
     static bool writePlaces(const DataFolder &folder, const Changes &changes, std::vector<Former> &formers);
     static bool takeNames(const DataFolder &folder, const Changes &changes);
+    static bool removeFiles(const DataFolder &folder, const Changes &changes);
     static bool restore(const std::vector<Former> &formers);
     static bool restoreFile(const Former &former);
     static bool removeJournal(const DataFolder &folder);
