@@ -37,4 +37,36 @@ inline bool isReserved(QStringView name)
            });
 }
 
+/// The files of the program whose names end in ".Fil", without that ending. The years, of which the budget
+/// has a file each, and the files of cars are beyond them.
+inline constexpr std::array programFiles{
+    "Addbk1"_L1,   "Addbk2"_L1,  "Auto1"_L1,   "Auto2"_L1,    "CarMnt1"_L1,  "GColor1"_L1, "GColor14"_L1,
+    "GColor2"_L1,  "GColor3"_L1, "GColor4"_L1, "GColor44"_L1, "GColor5"_L1,  "GHINV1"_L1,  "HINV2"_L1,
+    "HInvName"_L1, "PCtrl1"_L1,  "SWR2"_L1,    "Temp"_L1,     "TODOActv"_L1, "Video2"_L1,  "WeightTrker"_L1};
+
+/// Whether `name` with ".Fil" behind it is a file of the program's own, upper and lower case alike.
+inline bool isProgramFile(QStringView name)
+{
+    const bool isYear = name.size() == 4 &&
+                        std::ranges::all_of(name, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
+    return isYear || isOfACar(name) || std::ranges::any_of(programFiles, [name](QLatin1StringView file) {
+               return name.compare(file, Qt::CaseInsensitive) == 0;
+           });
+}
+
+/// Whether a system takes a file called `name`, whatever its ending, for a device: "Con", "LPT1.old".
+inline bool isDevice(QStringView name)
+{
+    static constexpr std::array devices{"CON"_L1,    "PRN"_L1,     "AUX"_L1,   "NUL"_L1,
+                                        "CONIN$"_L1, "CONOUT$"_L1, "CLOCK$"_L1};
+    const QStringView begin = name.left(name.indexOf(u'.') < 0 ? name.size() : name.indexOf(u'.')).trimmed();
+    const auto isCalled = [begin](QLatin1StringView device) {
+        return begin.compare(device, Qt::CaseInsensitive) == 0;
+    };
+    const bool isPort =
+        begin.size() == 4 && u"0123456789\u00b9\u00b2\u00b3"_s.contains(begin[3]) &&
+        (begin.startsWith("COM"_L1, Qt::CaseInsensitive) || begin.startsWith("LPT"_L1, Qt::CaseInsensitive));
+    return isPort || std::ranges::any_of(devices, isCalled);
+}
+
 } // namespace ReservedNames

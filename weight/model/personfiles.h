@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/core/message.h"
+#include "storage/datafolder.h"
+#include "storage/trash.h"
+#include "weight/model/weightchange.h"
+#include "weight/model/weightsheet.h"
+
+#include <QDateTime>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+/// The household's persons who weigh themselves: the list and a file for each, "Anne.Fil". Every action is on
+/// the disk as a whole or not at all, and can be taken back.
+class PersonFiles
+{
+public:
+    enum class State {
+        Missing,
+        Empty, ///< there is nothing in it
+        Whole,
+        Cut,       ///< it ends early: the rest is blank
+        Foreign,   ///< no person's file; never written
+        OutOfReach ///< there, but it cannot be read; never written
+    };
+
+    /// What a file holds.
+    struct Found {
+        WeightSheet sheet;
+        State state = State::Missing;
+        /// Weigh-ins behind the last that the file counts; they are not in the sheet, and a save drops them.
+        WeightTable uncounted{};
+
+        bool mayBeWritten() const { return state != State::Foreign && state != State::OutOfReach; }
+    };
+
+    /// How a deleted person was brought back.
+    struct [[nodiscard]] BroughtBack {
+        QString name;        ///< their own, or one beside it where that was given away
+        WeightChange change; ///< to take it back
+        bool isDone = false;
+    };
+
+    explicit PersonFiles(const DataFolder &folder)
+        : m_folder(folder)
+    {}
+
+    const DataFolder &folder() const { return m_folder; }
+
+    /// The file of a person of that name.
+    static QString fileName(const QString &name);
+
+    /// The persons in the order of the list. Where the list is missing or empty, those who have a file.
+    QStringList names() const;
+    /// The persons who have a file and are not in the list, by name.
+    QStringList unlisted() const;
+    /// The sheet of a person, with their name.
+    Found read(const QString &name) const;
+
+    /// What the bytes of a person's file say. The number of rows in front is trusted only as far as there are
+    /// values.
+    static Found decode(QByteArrayView bytes);
+    static QByteArray encode(const WeightSheet &sheet);
+
+    /// Why no file can have that name; nothing where it can.
+    static std::optional<Message> whyNotNamed(const QString &name);
+    /// Why nobody can be added under that name, or `former` be renamed to it.
+    std::optional<Message> whyNotNew(const QString &name, const QString &former = {}) const;
+
+    /// Makes the file of a new person and adds them to the list. Nothing where the name or the disk refuses.
+    [[nodiscard]] std::optional<WeightChange> create(const WeightSheet &sheet);
+    /// Writes the file of the person `name`; where the sheet has another name the file and the list take it.
+    /// Nothing, with a line in the log, where the name or the disk refuses or the file must not be written.
+    [[nodiscard]] std::optional<WeightChange> save(const QString &name, const WeightSheet &sheet);
+    /// Adds persons who have a file already. Nothing where the disk refuses.
+    [[nodiscard]] std::optional<WeightChange> addToList(const QStringList &names);
+
+    /// Deletes the person's file and takes them from the list; they go into the trash. Nothing where the disk
+    /// refuses.
+    [[nodiscard]] std::optional<WeightChange> remove(const QString &name, const QDateTime &now);
+    /// The persons who were deleted in the 30 days before `now`, the newest first.
+    std::vector<Trash::Item> deletedPersons(const QDateTime &now) const;
+    /// Brings a deleted person back, byte for byte, at the end of the list.
+    BroughtBack bringBack(const Trash::Item &item);
+
+    /// The files of all persons that are there.
+    static QStringList files(const DataFolder &folder);
+    /// The photos of all persons that are there, as full paths.
+    static QStringList pictures(const DataFolder &folder);
+
+private:
+    const DataFolder &m_folder;
+};
