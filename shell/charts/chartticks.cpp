@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/charts/chartticks.h"
 
-#include "shell/charts/linechart.h"
 #include "shell/core/dates.h"
 
 #include <QLocale>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -71,6 +71,21 @@ double ChartTicks::step(double span, int most)
 int ChartTicks::decimals(double step)
 {
     return step < 1 && step > 0 ? int(std::ceil(-std::log10(step) - 1e-9)) : 0;
+}
+
+QList<double> ChartTicks::atPoints(const QList<LineChart::Point> &points, double from, double to,
+                                   double apart)
+{
+    const auto first = std::ranges::lower_bound(points, from, {}, &LineChart::Point::x);
+    auto point = std::ranges::upper_bound(points, to, {}, &LineChart::Point::x);
+    QList<double> ticks;
+    while (point != first) {
+        --point;
+        if (ticks.isEmpty() || ticks.last() - point->x >= apart)
+            ticks << point->x;
+    }
+    std::ranges::reverse(ticks);
+    return ticks;
 }
 
 Days Days::fitting(double perDay, double width, double dayWidth)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/core/programstate.h"
+#include "shell/charts/linechart.h"
 
 #include <QList>
 #include <QStringList>
@@ -14,6 +14,9 @@ double step(double span, int most);
 
 /// How many decimals the multiples of a step have.
 int decimals(double step);
+
+/// The points between two values of x that are at least `apart` from one another, the last one first of all.
+QList<double> atPoints(const QList<LineChart::Point> &points, double from, double to, double apart);
 
 /// Days, months or years, and every how many of them there is a tick.
 struct Days {

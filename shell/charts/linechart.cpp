@@ -67,7 +67,10 @@ QString LineChart::acrossName() const
 
 QString LineChart::acrossText(double x) const
 {
-    return kind == Across::Days ? Dates::shortWithYear(dateAt(x), style) : across.text(x);
+    if (kind == Across::Numbers)
+        return across.text(x);
+    return dayForm.isEmpty() ? Dates::shortWithYear(dateAt(x), style)
+                             : QLocale::c().toString(dateAt(x), dayForm);
 }
 
 QString LineChart::textOf(const Spot &spot) const
@@ -94,6 +97,10 @@ QStringList LineChart::headings() const
     QStringList headings{acrossName()};
     for (const Series &one : series)
         headings << (one.name.isEmpty() ? up.name : one.name);
+    for (const Level &level : levels) {
+        if (level.isInTable)
+            headings << level.name;
+    }
     return headings;
 }
 
@@ -115,6 +122,10 @@ QList<QStringList> LineChart::rows() const
             QStringList row{acrossText(x)};
             for (const QStringList &value : values)
                 row << value.value(i);
+            for (const Level &level : levels) {
+                if (level.isInTable)
+                    row << up.text(level.y);
+            }
             rows << row;
         }
     }

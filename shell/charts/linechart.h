@@ -22,6 +22,8 @@ struct LineChart {
     struct Series {
         QString name;        ///< may be empty where there is only one
         QList<Point> points; ///< in the order of x
+        /// The course of another series, between its points: a line without points of its own.
+        bool isTrend = false;
         bool operator==(const Series &) const = default;
     };
     /// One of the points.
@@ -36,6 +38,7 @@ struct LineChart {
         QString name;
         double y = 0;
         Kind kind = Goal;
+        bool isInTable = false; ///< a column of the table: it has this value at every point
         bool operator==(const Level &) const = default;
     };
     /// An axis, and how its numbers are written: "$1,250.00", "31.4 mpg".
@@ -59,6 +62,8 @@ struct LineChart {
     bool isFromZero = false; ///< the values are shown from 0 on
     Across kind = Across::Days;
     DateStyle style = DateStyle::Usa; ///< of the days
+    QString dayForm = {};             ///< how a day is written, "MMM-dd-yy"; empty: as `style` has it
+    bool ticksAtPoints = false;       ///< days stand at the first series' points, as many as have room
     QList<Series> series;
     QList<Level> levels;
 
@@ -69,7 +74,7 @@ struct LineChart {
     bool isEmpty() const;
     /// The axis' name in a table.
     QString acrossName() const;
-    /// "Nov 3, 2026", or the number as its axis writes it.
+    /// "Nov 3, 2026", or as its form has it; or the number as its axis writes it.
     QString acrossText(double x) const;
     const Point &at(const Spot &spot) const { return series[spot.series].points[spot.point]; }
     /// "Volvo, Nov 3, 2026: 31.4 mpg, partial fill-up"; the name only where there are several series.

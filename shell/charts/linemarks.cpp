@@ -75,7 +75,7 @@ void LineMarks::drawPoints(QCPPainter *painter) const
     for (const LineChart::Series &series : m_chart.series) {
         const auto first = std::ranges::lower_bound(series.points, view.lower, {}, &LineChart::Point::x);
         const auto last = std::ranges::upper_bound(series.points, view.upper, {}, &LineChart::Point::x);
-        inView.emplace_back(first, last);
+        inView.emplace_back(first, series.isTrend ? first : last);
         most = std::max(most, inView.back().size());
     }
     if (double(most) * pointSpace > m_plot->axisRect()->width())

@@ -50,29 +50,35 @@ private:
     const LineChart::Axis &m_axis;
 };
 
-/// Ticks at days, months or years.
+/// Ticks at days, months or years, or at points.
 class LinePlot::DayTicks final : public QCPAxisTicker
 {
 public:
-    explicit DayTicks(const DateStyle &style)
-        : m_style(style)
+    explicit DayTicks(const LineChart &chart)
+        : m_chart(chart)
     {}
 
     ChartTicks::Days days;
+    QList<double> points;
 
 protected:
     double getTickStep(const QCPRange &) override { return 1; }
     QVector<double> createTickVector(double, const QCPRange &range) override
     {
-        return days.between(range.lower, range.upper);
+        return m_chart.ticksAtPoints ? points : days.between(range.lower, range.upper);
     }
     QVector<QString> createLabelVector(const QVector<double> &ticks, const QLocale &, QChar, int) override
     {
-        return days.labels(ticks, m_style);
+        if (!m_chart.ticksAtPoints)
+            return days.labels(ticks, m_chart.style);
+        QStringList labels;
+        for (const double tick : ticks)
+            labels << m_chart.acrossText(tick);
+        return labels;
     }
 
 private:
-    const DateStyle &m_style;
+    const LineChart &m_chart;
 };
 
 LinePlot::LinePlot(QWidget *parent)
@@ -82,7 +88,7 @@ LinePlot::LinePlot(QWidget *parent)
 {
     m_up.reset(new Numbers(m_chart.up));
     m_across.reset(new Numbers(m_chart.across));
-    m_days.reset(new DayTicks(m_chart.style));
+    m_days.reset(new DayTicks(m_chart));
     m_plot->yAxis->setTicker(m_up);
     m_plot->xAxis->setTicker(m_across);
     m_plot->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -240,16 +246,23 @@ void LinePlot::fitAcross(int width)
         m_across->step = ChartTicks::step(m_view.width(), std::clamp(width / numberRoom, 2, 12));
         return;
     }
+    if (m_chart.ticksAtPoints && !m_chart.series.isEmpty()) {
+        const double each = metrics.horizontalAdvance(m_chart.acrossText(m_view.to)) + tickSpace;
+        m_days->points = ChartTicks::atPoints(m_chart.series.first().points, m_view.from, m_view.to,
+                                              each * m_view.width() / width);
+        return;
+    }
     m_days->days =
         ChartTicks::Days::fitting(width / m_view.width(), metrics.horizontalAdvance(u"2026"_s) + tickSpace,
                                   metrics.horizontalAdvance(u"30 Nov"_s) + tickSpace);
 }
 
-/// Two lines of words for days, under them the axis' name.
+/// Two lines of words for days with their years, under them the axis' name.
 int LinePlot::axisHeight() const
 {
     const int label = QFontMetrics(m_style.label).height();
-    const int lines = m_chart.kind == LineChart::Across::Days ? 2 : 1;
+    const bool hasYears = m_chart.kind == LineChart::Across::Days && !m_chart.ticksAtPoints;
+    const int lines = hasYears ? 2 : 1;
     return axisGap + lines * label + (m_chart.across.name.isEmpty() ? 0 : label + 4) + 8;
 }
 

@@ -95,6 +95,32 @@ private slots:
         QCOMPARE(twoCars().rows(), rows);
     }
 
+    void tellsLevelsAtEveryPointAndDaysInAForm()
+    {
+        LineChart chart = twoCars();
+        chart.series.removeLast();
+        chart.levels.append({u"Beginning"_s, 28.5, LineChart::Level::Beginning, true});
+        chart.dayForm = u"MMM-dd-yy"_s;
+        QCOMPARE(chart.headings(), QStringList({u"Date"_s, u"Volvo"_s, u"Beginning"_s}));
+        QCOMPARE(chart.rows().first(), QStringList({u"Jan-03-26"_s, u"30.0 mpg"_s, u"28.5 mpg"_s}));
+    }
+
+    void placesTicksAtPoints_data()
+    {
+        rows<double, double, double, QList<double>>(
+            {{"all", 0, 9, 1, {1, 2, 4, 8}},
+             {"those that have room, the last one first", 0, 9, 3, {1, 4, 8}},
+             {"of the part in view", 1.5, 7, 1, {2, 4}},
+             {"none", 5, 7, 1, {}}});
+    }
+
+    void placesTicksAtPoints()
+    {
+        const auto [from, to, apart, ticks] = row<double, double, double, QList<double>>();
+        const QList<LineChart::Point> points{{1, 5}, {2, 5}, {4, 5}, {8, 5}};
+        QCOMPARE(ChartTicks::atPoints(points, from, to, apart), ticks);
+    }
+
     void placesTicksOfNumbers_data()
     {
         rows<double, int, double, int>({{"hundreds", 431, 5, 100, 0},
@@ -230,7 +256,9 @@ private slots:
     void fitsItsFrameOnPaper()
     {
         const QSizeF frame(7.3, 4.15);
-        for (const LineChart &chart : {twoCars(), daily(2000), LineChart{}}) {
+        LineChart atPoints = daily(50);
+        atPoints.ticksAtPoints = atPoints.series[1].isTrend = true;
+        for (const LineChart &chart : {twoCars(), daily(2000), atPoints, LineChart{}}) {
             const QImage picture = PaperChart::draw(chart, frame);
             QCOMPARE(picture.size(), (frame * 300).toSize());
             QCOMPARE(darkPoints(picture, picture.rect()) > 5000, !chart.isEmpty());
