@@ -14,8 +14,9 @@ inline constexpr int Keys = 1007;
 inline constexpr int Budget = 1008;
 inline constexpr int BackupAndRestore = 1009;
 inline constexpr int CarLog = 1010;
+inline constexpr int WeightTracker = 1011;
 
 inline constexpr int all[] = {ProgramOverview, AddressBook,      PasswordControl, Appearance,
                               PagePreview,     Planner,          AddressViewer,   Keys,
-                              Budget,          BackupAndRestore, CarLog};
+                              Budget,          BackupAndRestore, CarLog,          WeightTracker};
 } // namespace HelpContext
