@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/window/sheetgrid.h"
 
-#include "budget/window/celldelegate.h"
+#include "budget/window/sheetdelegate.h"
 #include "budget/window/sheetheadings.h"
 #include "budget/window/sheetmodel.h"
 
@@ -20,34 +20,19 @@ namespace {
 constexpr int monthCount = int(BudgetSheet::monthCount);
 constexpr int dragPause = 150; ///< milliseconds between two months
 
-bool isEnter(int key)
-{
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 } // namespace
 
 SheetGrid::SheetGrid(SheetModel &model, QWidget *parent)
-    : QTableView(parent)
+    : CellGrid(parent)
     , m_model(model)
-    , m_delegate(new CellDelegate(this))
     , m_headings(new SheetHeadings(Qt::Horizontal, this, SheetLook::amountInset))
     , m_numbers(new SheetHeadings(Qt::Vertical, this))
     , m_needed(SheetColumns::needed(model))
 {
     setModel(&model);
-    setItemDelegate(m_delegate);
-    setSelectionMode(ContiguousSelection);
-    setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollMode(ScrollPerItem);
-    setTabKeyNavigation(false);
-    setWordWrap(false);
-    setCornerButtonEnabled(false);
-    setFont(TypeScale::body());
+    setCells(new SheetDelegate(this));
     setHorizontalHeader(m_headings);
     setVerticalHeader(m_numbers);
-    connect(m_delegate, &CellDelegate::refused, this, &SheetGrid::said);
     connect(&model, &SheetModel::recomputed, this, &SheetGrid::measure);
     connect(&model, &SheetModel::layerChanged, this, &SheetGrid::measure);
 }
@@ -111,7 +96,7 @@ void SheetGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
         setFirstMonth(std::clamp(m_firstMonth, month - m_monthsInView + 1, month));
     else if (QGuiApplication::mouseButtons() == Qt::NoButton)
         setFirstMonth(0); // a row begins here; who clicks an item may want to see later months beside it
-    QTableView::scrollTo(index, hint);
+    CellGrid::scrollTo(index, hint);
 }
 
 SheetRange SheetGrid::range() const
@@ -140,44 +125,6 @@ void SheetGrid::choose(const SheetRange &range)
 void SheetGrid::returnTo(const QModelIndex &cell)
 {
     goOn(cell, m_runColumn);
-}
-
-void SheetGrid::finishEdit()
-{
-    m_delegate->finish();
-}
-
-bool SheetGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
-{
-    if (trigger == AnyKeyPressed || trigger == EditKeyPressed || trigger == DoubleClicked) {
-        if (index.isValid() && !index.flags().testFlag(Qt::ItemIsEditable))
-            emit refused();
-    }
-    const bool wasOpen = state() == EditingState;
-    if (!wasOpen)
-        m_isTypedOver = trigger == AnyKeyPressed;
-    const bool isOpen = QTableView::edit(index, trigger, event);
-    if (isOpen && !wasOpen && !m_isTypedOver)
-        m_delegate->goToEnd();
-    return isOpen;
-}
-
-bool SheetGrid::isWayOut(const QKeyEvent &key) const
-{
-    switch (key.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        return true;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        return m_isTypedOver && key.modifiers() == Qt::NoModifier;
-    default:
-        return false;
-    }
 }
 
 QModelIndex SheetGrid::beside(const QModelIndex &from, int rows, int columns, bool toEnd) const
@@ -281,9 +228,9 @@ bool SheetGrid::walk(const QKeyEvent &key)
     const bool isShifted = key.modifiers().testFlag(Qt::ShiftModifier);
     if (isTab)
         goOn(to, runColumn());
-    else if (isEnter(key.key()) && !isShifted)
+    else if (isEnter(key) && !isShifted)
         goOn(to, m_runColumn); // a refused entry leads back into the run
-    else if (isShifted && !isEnter(key.key()))
+    else if (isShifted && !isEnter(key))
         extendTo(to);
     else
         setCurrentIndex(to);
@@ -303,14 +250,14 @@ void SheetGrid::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape && chosen.height() * chosen.width() > 1)
         setCurrentIndex(currentIndex());
     else if (state() == EditingState || !walk(*event))
-        QTableView::keyPressEvent(event);
+        CellGrid::keyPressEvent(event);
 }
 
 void SheetGrid::mousePressEvent(QMouseEvent *event)
 {
     const QScopedValueRollback<bool> extending(m_isExtending, event->modifiers().testFlag(Qt::ShiftModifier));
     m_runColumn = -1;
-    QTableView::mousePressEvent(event);
+    CellGrid::mousePressEvent(event);
 }
 
 void SheetGrid::mouseMoveEvent(QMouseEvent *event)
@@ -318,7 +265,7 @@ void SheetGrid::mouseMoveEvent(QMouseEvent *event)
     const QScopedValueRollback<bool> extending(m_isExtending, true);
     if (event->buttons().testFlag(Qt::LeftButton))
         dragMonths(event->pos().x());
-    QTableView::mouseMoveEvent(event);
+    CellGrid::mouseMoveEvent(event);
 }
 
 /// A range that is drawn beyond the months in view brings the next one.
@@ -342,20 +289,20 @@ void SheetGrid::wheelEvent(QWheelEvent *event)
     const QPoint turned = event->angleDelta();
     const int sideways = event->modifiers().testFlag(Qt::ShiftModifier) ? turned.y() : turned.x();
     if (sideways == 0)
-        QTableView::wheelEvent(event);
+        CellGrid::wheelEvent(event);
     else
         setFirstMonth(m_firstMonth + (sideways < 0 ? 1 : -1));
 }
 
 void SheetGrid::resizeEvent(QResizeEvent *event)
 {
-    QTableView::resizeEvent(event);
+    CellGrid::resizeEvent(event);
     fitAroundCurrent();
 }
 
 void SheetGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
-    QTableView::currentChanged(current, previous);
+    CellGrid::currentChanged(current, previous);
     m_runColumn = -1;
     if (!m_isExtending || !m_anchor.isValid())
         m_anchor = current;
@@ -366,7 +313,7 @@ void SheetGrid::currentChanged(const QModelIndex &current, const QModelIndex &pr
 
 void SheetGrid::selectionChanged(const QItemSelection &chosen, const QItemSelection &before)
 {
-    QTableView::selectionChanged(chosen, before);
+    CellGrid::selectionChanged(chosen, before);
     emit rangeChanged();
 }
 
@@ -375,7 +322,7 @@ bool SheetGrid::focusNextPrevChild(bool next)
 {
     const QModelIndex to = currentIndex().isValid() ? afterTab(next) : QModelIndex();
     if (!to.isValid())
-        return QTableView::focusNextPrevChild(next);
+        return CellGrid::focusNextPrevChild(next);
     goOn(to, runColumn());
     return true;
 }

@@ -4,17 +4,16 @@
 #include "budget/model/sheetrange.h"
 #include "budget/window/sheetcolumns.h"
 #include "budget/window/sheetlook.h"
+#include "shell/controls/cellgrid.h"
 
 #include <QElapsedTimer>
-#include <QTableView>
 
-class CellDelegate;
 class SheetHeadings;
 class SheetModel;
 
 /// The worksheet as a grid with the keys of a spreadsheet. Headings and items stay in sight: where twelve
 /// months have no room beside the items, some of them are shown, from `firstMonth` on.
-class SheetGrid final : public QTableView
+class SheetGrid final : public CellGrid
 {
     Q_OBJECT
 public:
@@ -30,13 +29,9 @@ public:
     void choose(const SheetRange &range);
     /// Makes `cell` current again, to be typed into once more: a run of Tabs goes on from there.
     void returnTo(const QModelIndex &cell);
-    /// What is being typed goes into its cell.
-    void finishEdit();
 
-    /// Whether `key` ends the typing in a cell and leads to another.
-    bool isWayOut(const QKeyEvent &key) const;
     /// Goes where `key` leads to; with Shift, the range grows. False for other keys.
-    bool walk(const QKeyEvent &key);
+    bool walk(const QKeyEvent &key) override;
 
     void setRows(SheetLook::Rows rows);
     /// Room for so many whole rows below the headings.
@@ -49,13 +44,8 @@ signals:
     void columnsMoved();
     /// Other cells are chosen.
     void rangeChanged();
-    /// A sentence for the status bar.
-    void said(const QString &line);
-    /// Something was typed into a sheet that cannot be changed.
-    void refused();
 
 protected:
-    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -81,7 +71,6 @@ private:
     void dragMonths(int x);
 
     const SheetModel &m_model;
-    CellDelegate *m_delegate;
     SheetHeadings *m_headings;
     SheetHeadings *m_numbers; ///< of the rows
     SheetColumns::Widths m_needed;
@@ -91,5 +80,4 @@ private:
     int m_firstMonth = 0;
     int m_monthsInView = 12;
     QElapsedTimer m_dragged;
-    bool m_isTypedOver = false; ///< the open box replaces what the cell held
 };

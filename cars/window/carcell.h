@@ -1,24 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <Qt>
+#include "shell/controls/gridcell.h"
 
 /// What a model tells a `CarGrid` of a cell beside its text.
 namespace CarCell {
 
-/// What is typed into a cell, by which the box for it is chosen.
-enum class Kind { Words, Number, Date };
+using namespace GridCell;
 
-enum Role {
-    kindRole = Qt::UserRole, ///< a `Kind`; without one, words
-    quietRole,               ///< true for a text that nobody typed: a proposal, or what was computed
-    signRole,                ///< the name of a sign before the text; the tool tip says what it means
-    choicesRole,             ///< a list of texts that are offered while one types
-    alarmRole,               ///< an `Alarm`
-    groupRole                ///< of a heading: what stands above it and its neighbours of the same group
+enum HeadingRole {
+    groupRole = furtherRole ///< of a heading: what stands above it and its neighbours of the same group
 };
-
-/// What a text tells of something to be done.
-enum Alarm { NoAlarm, Due, Overdue };
 
 } // namespace CarCell

@@ -109,7 +109,7 @@ void LogPane::place()
     m_rows->setVisible(!isEmpty);
     m_empty->setVisible(isEmpty);
     m_entry->ensurePolished();
-    m_entry->setFixedHeight(m_entry->horizontalHeader()->sizeHint().height() + CarGrid::rowHeight() +
+    m_entry->setFixedHeight(m_entry->horizontalHeader()->sizeHint().height() + CarGrid::usualRowHeight() +
                             2 * m_entry->frameWidth());
     m_entry->fitColumns(isEmpty ? m_entry->viewport()->width() : m_list->viewport()->width());
 }
