@@ -8,7 +8,7 @@
 #include "storage/valuefile.h"
 #include "weight/model/messages.h"
 #include "weight/model/personlist.h"
-#include "weight/model/weightdates.h"
+#include "weight/model/toldfigures.h"
 
 #include <QDir>
 #include <QFile>
@@ -43,11 +43,23 @@ qsizetype countIn(const QString &text)
     return isNumber && count >= 0 ? count : -1;
 }
 
+QString trimmed(const QString &name)
+{
+    return AnsiText::trimmedBlanks(name).toString();
+}
+
+/// What a name that is in the list has in the trash: the place there and the name, then the file.
+bool isBroughtBack(const Trash::Item &item)
+{
+    return !item.pieces.empty() && item.pieces.front().file == PersonList::fileName() &&
+           !PersonList::decode(item.pieces.front().bytes).isEmpty();
+}
+
 } // namespace
 
 QString PersonFiles::fileName(const QString &name)
 {
-    return AnsiText::trimmedBlanks(name) + ending;
+    return trimmed(name) + ending;
 }
 
 QStringList PersonFiles::names() const
@@ -130,8 +142,8 @@ QByteArray PersonFiles::encode(const WeightSheet &sheet)
 
 std::optional<Message> PersonFiles::whyNotNamed(const QString &name)
 {
-    const QString text = AnsiText::trimmedBlanks(name).toString();
-    if (text.trimmed().isEmpty())
+    const QString text = trimmed(name);
+    if (QStringView(text).trimmed().isEmpty())
         return WeightMessages::nameMissing();
     if (const QString foreign = AnsiText::foreignCharacters(text); !foreign.isEmpty())
         return WeightMessages::nameForeign(foreign);
@@ -156,8 +168,158 @@ std::optional<Message> PersonFiles::whyNotNew(const QString &name, const QString
 {
     if (auto refusal = whyNotNamed(name))
         return refusal;
-    const QString text = AnsiText::trimmedBlanks(name).toString();
-    const bool isSame = text.compare(former.trimmed(), Qt::CaseInsensitive) == 0;
+    const QString text = trimmed(name);
+    const bool isSame = text.compare(trimmed(former), Qt::CaseInsensitive) == 0;
     const bool isThere = m_folder.exists(fileName(text)) || PersonList::place(names(), text) > 0;
     return isThere && !isSame ? std::optional(WeightMessages::nameTaken(text)) : std::nullopt;
+}
+
+std::optional<WeightChange> PersonFiles::create(const WeightSheet &sheet)
+{
+    const QString name = trimmed(sheet.field(WeightSheet::Name));
+    if (whyNotNew(name))
+        return {};
+    WeightChange change;
+    change.replace(m_folder, fileName(name), encode(sheet));
+    writeList(change, names() + QStringList(name));
+    return done(std::move(change));
+}
+
+std::optional<WeightChange> PersonFiles::save(const QString &name, const WeightSheet &sheet)
+{
+    const QString after = trimmed(sheet.field(WeightSheet::Name));
+    QStringList listed = names();
+    const int place = PersonList::place(listed, name);
+    if (place == 0 || !read(name).mayBeWritten()) {
+        qCWarning(storageLog).noquote() << "Refused to write" << fileName(name);
+        return {};
+    }
+    WeightChange change;
+    const bool isRenamed = after != listed[place - 1];
+    if (isRenamed && whyNotNew(after, name))
+        return {};
+    change.replace(m_folder, fileName(after), encode(sheet));
+    if (isRenamed) {
+        listed[place - 1] = after;
+        if (m_folder.filePath(fileName(after)) != m_folder.filePath(fileName(name)))
+            change.replace(m_folder, fileName(name), {});
+        renameTold(change, name, after);
+    }
+    writeList(change, listed);
+    return done(std::move(change));
+}
+
+std::optional<WeightChange> PersonFiles::addToList(const QStringList &names)
+{
+    QStringList listed = PersonList(m_folder).names();
+    for (const QString &name : names) {
+        if (PersonList::place(listed, name) == 0 && !whyNotNamed(name))
+            listed.append(trimmed(name));
+    }
+    WeightChange change;
+    writeList(change, listed);
+    return done(std::move(change));
+}
+
+std::optional<WeightChange> PersonFiles::remove(const QString &name, const QDateTime &now)
+{
+    QStringList listed = names();
+    const int place = PersonList::place(listed, name);
+    if (place == 0)
+        return {};
+    Trash::Item item{trashKind, now, listed[place - 1], {}};
+    item.pieces.push_back({PersonList::fileName(), place, PersonList::encode({listed[place - 1]})});
+    WeightChange change;
+    // What bears such a name is a file of another function.
+    if (!whyNotNamed(name)) {
+        change.replace(m_folder, fileName(name), {});
+        if (const auto bytes = change.before(fileName(name)))
+            item.pieces.push_back({fileName(name), 0, *bytes});
+    }
+    listed.removeAt(place - 1);
+    writeList(change, listed);
+    renameTold(change, name, {});
+    change.throwAway(std::move(item));
+    return done(std::move(change));
+}
+
+std::vector<Trash::Item> PersonFiles::deletedPersons(const QDateTime &now) const
+{
+    std::vector<Trash::Item> items = Trash(m_folder).items(trashKind, now);
+    std::erase_if(items, [](const Trash::Item &item) { return !isBroughtBack(item); });
+    return items;
+}
+
+PersonFiles::BroughtBack PersonFiles::bringBack(const Trash::Item &item)
+{
+    if (!isBroughtBack(item))
+        return {};
+    const Trash::Piece &listed = item.pieces.front();
+    const QString former = PersonList::decode(listed.bytes).front();
+    QString name = former;
+    for (int number = 2; whyNotNew(name) == WeightMessages::nameTaken(name); ++number)
+        name = u"%1 %2"_s.arg(former).arg(number);
+    WeightChange change;
+    if (item.pieces.size() > 1 && !whyNotNamed(name))
+        change.replace(m_folder, fileName(name), item.pieces[1].bytes);
+    QStringList after = names();
+    after.insert(std::clamp<qsizetype>(listed.number - 1, 0, after.size()), name);
+    writeList(change, after);
+    change.bringBack(item);
+    const bool isDone = change.commit(m_folder);
+    return {name, std::move(change), isDone};
+}
+
+QStringList PersonFiles::files(const DataFolder &folder)
+{
+    QStringList files{PersonList::fileName(), ToldFigures::fileName()};
+    const PersonFiles persons(folder);
+    for (const QString &name : persons.names() + persons.unlisted()) {
+        if (!whyNotNamed(name))
+            files.append(fileName(name));
+    }
+    files.removeDuplicates();
+    files.removeIf([&folder](const QString &name) { return folder.existingFile({}, name).isEmpty(); });
+    return files;
+}
+
+QStringList PersonFiles::pictures(const DataFolder &folder)
+{
+    const PictureFolder places(folder);
+    QStringList pictures;
+    const PersonFiles persons(folder);
+    for (const QString &name : persons.names()) {
+        const WeightSheet sheet = persons.read(name).sheet;
+        for (const QString &stored : {sheet.beginningPicture, sheet.currentPicture}) {
+            if (const QString path = stored.isEmpty() ? QString() : places.locate(stored); !path.isEmpty())
+                pictures.append(path);
+        }
+    }
+    pictures.removeDuplicates();
+    return pictures;
+}
+
+void PersonFiles::writeList(WeightChange &change, const QStringList &names) const
+{
+    change.replace(m_folder, PersonList::fileName(), PersonList::encode(names));
+}
+
+void PersonFiles::renameTold(WeightChange &change, const QString &name, const QString &after) const
+{
+    QStringList told = ToldFigures::names(m_folder);
+    const int place = PersonList::place(told, name);
+    if (place == 0)
+        return;
+    if (after.isEmpty())
+        told.removeAt(place - 1);
+    else
+        told[place - 1] = after;
+    change.replace(m_folder, ToldFigures::fileName(), PersonList::encode(told));
+}
+
+std::optional<WeightChange> PersonFiles::done(WeightChange change) const
+{
+    if (!change.isEmpty() && !change.commit(m_folder))
+        return {};
+    return change;
 }

@@ -83,7 +83,7 @@ public:
     [[nodiscard]] std::optional<WeightChange> remove(const QString &name, const QDateTime &now);
     /// The persons who were deleted in the 30 days before `now`, the newest first.
     std::vector<Trash::Item> deletedPersons(const QDateTime &now) const;
-    /// Brings a deleted person back, byte for byte, at the end of the list.
+    /// Brings a deleted person back, byte for byte, to the place in the list that was theirs.
     BroughtBack bringBack(const Trash::Item &item);
 
     /// The files of all persons that are there.
@@ -92,5 +92,10 @@ public:
     static QStringList pictures(const DataFolder &folder);
 
 private:
+    void writeList(WeightChange &change, const QStringList &names) const;
+    /// Lets the card of a person tell what it told before; of nobody where `after` is empty.
+    void renameTold(WeightChange &change, const QString &name, const QString &after) const;
+    [[nodiscard]] std::optional<WeightChange> done(WeightChange change) const;
+
     const DataFolder &m_folder;
 };

@@ -1,11 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "weight/model/personlist.h"
 
+#include "storage/ansitext.h"
 #include "storage/valuefile.h"
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QStringList namesIn(const QStringList &values)
+{
+    QStringList names;
+    for (const QString &value : values) {
+        const QString name = AnsiText::trimmedBlanks(value).toString();
+        if (!name.isEmpty() && PersonList::place(names, name) == 0)
+            names.append(name);
+    }
+    return names;
+}
+
+} // namespace
 
 QString PersonList::fileName()
 {
@@ -14,7 +30,7 @@ QString PersonList::fileName()
 
 QStringList PersonList::names() const
 {
-    return decode(ValueFile::encode(ValueFile::read(m_folder.filePath(fileName()))));
+    return namesIn(ValueFile::read(m_folder.filePath(fileName())));
 }
 
 QString PersonList::name(int place) const
@@ -24,8 +40,8 @@ QString PersonList::name(int place) const
 
 int PersonList::place(const QStringList &names, const QString &name)
 {
-    const auto isSame = [&name](const QString &other) {
-        return other.compare(name.trimmed(), Qt::CaseInsensitive) == 0;
+    const auto isSame = [wanted = AnsiText::trimmedBlanks(name)](const QString &other) {
+        return wanted.compare(other, Qt::CaseInsensitive) == 0;
     };
     const auto found = std::ranges::find_if(names, isSame);
     return found == names.end() ? 0 : int(found - names.begin()) + 1;
@@ -33,12 +49,7 @@ int PersonList::place(const QStringList &names, const QString &name)
 
 QStringList PersonList::decode(QByteArrayView bytes)
 {
-    QStringList names;
-    for (const QString &value : ValueFile::decode(bytes)) {
-        if (const QString name = value.trimmed(); !name.isEmpty() && place(names, name) == 0)
-            names.append(name);
-    }
-    return names;
+    return namesIn(ValueFile::decode(bytes));
 }
 
 QByteArray PersonList::encode(const QStringList &names)

@@ -37,6 +37,12 @@ void WeightChange::replace(const DataFolder &folder, const QString &name,
     m_places.push_back(std::move(place));
 }
 
+std::optional<QByteArray> WeightChange::before(const QString &name) const
+{
+    const auto place = std::ranges::find(m_places, name, &Place::name);
+    return place == m_places.end() ? std::nullopt : place->before;
+}
+
 bool WeightChange::isEmpty() const
 {
     return std::ranges::all_of(m_places, [](const Place &place) { return place.before == place.after; });

@@ -30,6 +30,9 @@ public:
     /// How the trash took that the last time; never a reason to refuse the change.
     Trash::State trashState() const { return m_trashState; }
 
+    /// What the file `name` held before; nothing where it was not there, or is no part of the change.
+    std::optional<QByteArray> before(const QString &name) const;
+
     /// Whether nothing would change.
     bool isEmpty() const;
 

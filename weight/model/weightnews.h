@@ -20,9 +20,4 @@ std::optional<LiveLine> liveLine(const DataFolder &folder, QDate today);
 /// The files that the line comes from.
 QStringList liveFiles(const DataFolder &folder);
 
-/// Whether the line may tell the last weight of `name`, and its change.
-bool tellsFigure(const DataFolder &folder, const QString &name);
-/// False where the disk refuses.
-[[nodiscard]] bool setTellsFigure(const DataFolder &folder, const QString &name, bool tells);
-
 } // namespace WeightNews
