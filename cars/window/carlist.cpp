@@ -7,9 +7,7 @@
 #include "shell/controls/listrowdelegate.h"
 #include "shell/pictures/pictureloader.h"
 
-#include <QItemSelectionModel>
 #include <QListView>
-#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -20,9 +18,8 @@ namespace {
 constexpr int leastWidth = 180;
 } // namespace
 
-CarList::CarList(const DataFolder &folder, Guard guard, QWidget *parent)
+CarList::CarList(const DataFolder &folder, GuardedChoice::Guard guard, QWidget *parent)
     : QWidget(parent)
-    , m_guard(std::move(guard))
     , m_model(new CarListModel(this))
     , m_view(named(new QListView(this), u"Combo1"_s))
     , m_count(named(makeQuietLabel({}, this), u"carCount"_s))
@@ -41,16 +38,16 @@ CarList::CarList(const DataFolder &folder, Guard guard, QWidget *parent)
     m_rows->addWidget(new WholeRows(m_view, m_count, this), 1);
     setMinimumWidth(leastWidth);
     setFocusProxy(m_view);
-    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &CarList::selectionMoved);
+    m_choice = new GuardedChoice(m_view, CarListModel::slotRole, std::move(guard));
+    connect(m_choice, &GuardedChoice::chosen, this,
+            [this](const QVariant &slot) { emit chosen(slot.toInt()); });
 }
 
 void CarList::setVehicles(const QList<Vehicle> &vehicles)
 {
-    const QScopedValueRollback<bool> still(m_isFollowing, false);
     m_pictures->forget();
     m_picturesShown.clear();
-    m_shown = 0;
-    m_model->setVehicles(vehicles);
+    m_choice->changeRows([&] { m_model->setVehicles(vehicles); });
     m_count->setText(CarLines::countOfCars(vehicles.size()));
 }
 
@@ -70,53 +67,10 @@ void CarList::setPicture(int slot, const QString &picture)
 
 void CarList::show(int slot)
 {
-    m_shown = m_model->rowOf(slot) >= 0 ? slot : 0;
-    select(m_shown);
+    m_choice->show(slot);
 }
 
 void CarList::addButton(QPushButton *button)
 {
     m_rows->addWidget(button);
-}
-
-int CarList::selectedSlot() const
-{
-    return m_view->selectionModel()->selectedRows().value(0).data(CarListModel::slotRole).toInt();
-}
-
-void CarList::select(int slot)
-{
-    const QScopedValueRollback<bool> still(m_isFollowing, false);
-    if (const int row = m_model->rowOf(slot); row >= 0)
-        m_view->setCurrentIndex(m_model->index(row));
-    else
-        m_view->selectionModel()->clear();
-}
-
-void CarList::selectionMoved()
-{
-    if (!m_isFollowing || m_isAsking || selectedSlot() == 0)
-        return;
-    if (!m_guard.isModified()) {
-        m_shown = selectedSlot();
-        emit chosen(m_shown);
-        return;
-    }
-    // The question waits until the list has done with the click: an answer may have to take the selection
-    // back.
-    m_isAsking = true;
-    QMetaObject::invokeMethod(this, &CarList::takeSelected, Qt::QueuedConnection);
-}
-
-void CarList::takeSelected()
-{
-    const int wanted = selectedSlot();
-    const bool mayGo = m_guard.mayReplace();
-    m_isAsking = false;
-    if (!mayGo || m_model->rowOf(wanted) < 0) {
-        select(m_shown);
-        return;
-    }
-    show(wanted);
-    emit chosen(wanted);
 }

@@ -3,11 +3,10 @@
 
 #include "cars/model/vehicle.h"
 #include "cars/window/carlistmodel.h"
+#include "shell/controls/guardedchoice.h"
 
 #include <QHash>
 #include <QWidget>
-
-#include <functional>
 
 class PictureLoader;
 class QLabel;
@@ -22,13 +21,7 @@ class CarList final : public QWidget
 {
     Q_OBJECT
 public:
-    /// What stands before another car takes the place of the open one.
-    struct Guard {
-        std::function<bool()> isModified;
-        std::function<bool()> mayReplace; ///< asks the user when it is modified
-    };
-
-    CarList(const DataFolder &folder, Guard guard, QWidget *parent = nullptr);
+    CarList(const DataFolder &folder, GuardedChoice::Guard guard, QWidget *parent = nullptr);
 
     const QList<Vehicle> &vehicles() const { return m_model->vehicles(); }
     /// None of them is shown until `show` says which.
@@ -38,7 +31,7 @@ public:
     void setPicture(int slot, const QString &picture);
 
     /// The slot of the car that is open; 0 without one.
-    int shownSlot() const { return m_shown; }
+    int shownSlot() const { return m_choice->shown().toInt(); }
     /// Marks the car of `slot` as the open one; 0: none. Asks nothing.
     void show(int slot);
     /// Puts a button under the list.
@@ -49,19 +42,11 @@ signals:
     void chosen(int slot);
 
 private:
-    int selectedSlot() const;
-    void select(int slot);
-    void selectionMoved();
-    void takeSelected();
-
-    Guard m_guard;
     CarListModel *m_model;
     QListView *m_view;
+    GuardedChoice *m_choice = nullptr;
     QLabel *m_count;
     QVBoxLayout *m_rows;
     PictureLoader *m_pictures;
     QHash<int, QString> m_picturesShown;
-    int m_shown = 0;
-    bool m_isFollowing = true; ///< a change of the selection opens its car
-    bool m_isAsking = false;   ///< a question about unsaved changes is about to be asked
 };
