@@ -1,50 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/carview.h"
 
-#include "cars/model/lines.h"
 #include "cars/window/opencar.h"
-#include "shell/controls/buttonrow.h"
-#include "shell/controls/controls.h"
-#include "shell/controls/titleline.h"
-#include "shell/core/framelines.h"
-
-#include <QVBoxLayout>
-
-#include <utility>
-
-using namespace Qt::Literals::StringLiterals;
 
 CarView::CarView(const QString &name, const CarDesk &desk)
-    : m_desk(desk)
-    , m_title(new TitleLine(name + u"Title"_s, {}, this))
-    , m_rows(new QVBoxLayout(this))
-    , m_foot(named(new ButtonRow(this), name + u"Foot"_s))
+    : TitledView(name)
+    , m_desk(desk)
 {
-    setObjectName(name + u"View"_s);
-    m_rows->setContentsMargins(24, 16, 24, 18);
-    m_rows->setSpacing(12);
-    m_rows->addWidget(m_title);
-    m_rows->addWidget(makeLine(this));
-    m_rows->addWidget(m_foot);
-    connect(&m_desk.car, &OpenCar::changed, this, &CarView::refreshIfSeen);
-}
-
-void CarView::addContent(QWidget *content, int stretch)
-{
-    m_rows->insertWidget(m_rows->count() - 2, content, stretch);
-}
-
-void CarView::refreshIfSeen()
-{
-    m_foot->setWords(m_desk.car.isModified() ? FrameLines::unsavedChanges() : QString());
-    m_isStale = true;
-    if (isVisible() && std::exchange(m_isStale, false))
-        refresh();
-}
-
-void CarView::showEvent(QShowEvent *event)
-{
-    if (std::exchange(m_isStale, false))
-        refresh();
-    QWidget::showEvent(event);
+    connect(&m_desk.car, &OpenCar::changed, this, [this] { follow(m_desk.car.isModified()); });
 }

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class ButtonRow;
+class QVBoxLayout;
+class TitleLine;
+
+/// A view of a work panel: its title, a line, what it shows, and the buttons in its foot. It follows what it
+/// shows only while it is in sight.
+class TitledView : public QWidget
+{
+    Q_OBJECT
+public:
+    /// "due" names the view dueView, its title dueTitle and its foot dueFoot.
+    explicit TitledView(const QString &name, QWidget *parent = nullptr);
+
+    TitleLine &titleLine() const { return *m_title; }
+    ButtonRow &foot() const { return *m_foot; }
+
+protected:
+    /// Adds what stands between title and foot, from top to bottom.
+    void addContent(QWidget *content, int stretch = 0);
+    /// What the view shows is another than before, `isModified` where no file has it yet: shows it, as soon
+    /// as the view is in sight.
+    void follow(bool isModified);
+    /// Shows it.
+    virtual void refresh() = 0;
+
+    void showEvent(QShowEvent *event) override;
+
+private:
+    TitleLine *m_title;
+    QVBoxLayout *m_rows;
+    ButtonRow *m_foot;
+    bool m_isStale = true; ///< it has changed while the view was out of sight
+};
