@@ -39,7 +39,10 @@ std::optional<QDate> DateBox::date() const
 
 void DateBox::setDate(QDate date)
 {
-    setText(date.isValid() ? Dates::boxText(date, m_reading.style) : QString());
+    if (date.isValid())
+        setText(m_form ? m_form(date) : Dates::boxText(date, m_reading.style));
+    else
+        setText({});
 }
 
 void DateBox::tidy()

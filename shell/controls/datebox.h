@@ -27,6 +27,9 @@ public:
 
     /// Makes it a box for a date of birth, which never lies after today.
     void takeNoFuture() { m_takesFuture = false; }
+    /// Gives its dates another form than that of the records' boxes.
+    using Form = QString (*)(QDate date);
+    void setForm(Form form) { m_form = form; }
     /// Nothing when the text is no date.
     std::optional<QDate> date() const;
     /// An invalid date empties the box.
@@ -46,6 +49,7 @@ private:
     bool holdsNoDate() const;
 
     DateReading m_reading;
+    Form m_form = nullptr; ///< null: that of the records' boxes
     bool m_takesFuture = true;
     bool m_isRefused = false;    ///< what it held when it was last tidied
     std::optional<QDate> m_date; ///< as it was told last
