@@ -2,8 +2,8 @@
 #include "cars/window/historyview.h"
 
 #include "cars/model/historylines.h"
-#include "cars/window/figurestrip.h"
 #include "cars/window/opencar.h"
+#include "shell/controls/figurestrip.h"
 #include "shell/controls/titleline.h"
 #include "shell/program/program.h"
 

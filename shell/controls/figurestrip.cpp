@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cars/window/figurestrip.h"
+#include "shell/controls/figurestrip.h"
 
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
