@@ -35,7 +35,7 @@ void loadAFullCar(benchmark::State &state)
     constexpr double most = 6;
     const QTemporaryDir temporary;
     const DataFolder folder(temporary.path());
-    CarFiles cars(folder);
+    CarFiles cars(folder, DateStyle::Usa);
     if (!cars.create(fullCar(), QDateTime(QDate(2026, 11, 22), QTime(12, 0))).isDone)
         qFatal("cannot write the car");
     Limit limit(state, most);

@@ -44,7 +44,7 @@ public:
             car.fuel.append(
                 {date, reading, QString::number(1040 + 40 * row), u"40"_s, u"1.1"_s, u"36.4"_s, u"3.74"_s});
         }
-        if (!CarFiles(m_folder).create(car, m_clock.now()).isDone)
+        if (!CarFiles(m_folder, DateStyle::Usa).create(car, m_clock.now()).isDone)
             qFatal("cannot write the car");
     }
 

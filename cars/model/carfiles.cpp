@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/model/carfiles.h"
 
+#include "cars/model/cardates.h"
 #include "cars/model/carnumbers.h"
 #include "cars/model/messages.h"
 #include "shell/pictures/picturefolder.h"
@@ -73,12 +74,17 @@ CarFiles::Found CarFiles::read(int slot) const
     auto repairs = files.readHistory(CarPart::Repairs, slot);
     auto fuel = files.readFuel(slot);
     sheet.value.unit = unit();
-    return {{{slot, VehicleList(m_folder).name(slot)},
-             std::move(sheet.value),
-             std::move(maintenance.value),
-             std::move(repairs.value),
-             std::move(fuel.value)},
-            {sheet.state, maintenance.state, repairs.state, fuel.state}};
+    Found found{{{slot, VehicleList(m_folder).name(slot)},
+                 std::move(sheet.value),
+                 std::move(maintenance.value),
+                 std::move(repairs.value),
+                 std::move(fuel.value)},
+                {sheet.state, maintenance.state, repairs.state, fuel.state}};
+    CarRecord &car = found.record;
+    car.areDatesTurned = CarDates::orderOf(car, m_style) != m_style;
+    if (car.areDatesTurned)
+        CarDates::turn(car);
+    return found;
 }
 
 DistanceUnit CarFiles::unit() const
@@ -172,20 +178,23 @@ std::optional<CarChange> CarFiles::save(const CarRecord &before, const CarRecord
             return {};
         change.setName(m_folder, slot, after.vehicle.name);
     }
+    CarRecord stored = after;
+    if (before.areDatesTurned)
+        CarDates::turn(stored);
     if (after.sheet != before.sheet) {
         if (VehicleFiles(m_folder).readSheet(slot).state == VehicleFiles::State::Foreign) {
             qCWarning(storageLog).noquote()
                 << "Refused to write over" << VehicleFiles::fileName(CarPart::Sheet, slot);
             return {};
         }
-        replace(change, CarPart::Sheet, slot, VehicleFiles::encode(after.sheet));
+        replace(change, CarPart::Sheet, slot, VehicleFiles::encode(stored.sheet));
     }
     if (after.maintenance != before.maintenance)
-        replace(change, CarPart::Maintenance, slot, VehicleFiles::encode(after.maintenance));
+        replace(change, CarPart::Maintenance, slot, VehicleFiles::encode(stored.maintenance));
     if (after.repairs != before.repairs)
-        replace(change, CarPart::Repairs, slot, VehicleFiles::encode(after.repairs));
+        replace(change, CarPart::Repairs, slot, VehicleFiles::encode(stored.repairs));
     if (after.fuel != before.fuel)
-        replace(change, CarPart::Fuel, slot, VehicleFiles::encode(after.fuel));
+        replace(change, CarPart::Fuel, slot, VehicleFiles::encode(stored.fuel));
     return done(std::move(change));
 }
 

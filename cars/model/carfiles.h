@@ -6,6 +6,7 @@
 #include "cars/model/vehiclefiles.h"
 #include "cars/model/vehiclelist.h"
 #include "shell/core/message.h"
+#include "shell/core/programstate.h"
 
 #include <QDateTime>
 #include <QStringList>
@@ -13,7 +14,8 @@
 #include <optional>
 
 /// The household's cars: the list and four files for each, which always move together. Every action is on the
-/// disk as a whole or not at all, and can be taken back.
+/// disk as a whole or not at all, and can be taken back. Dates of numbers are read and written in the order
+/// that those of the car have; here they have the one of `style`.
 class CarFiles
 {
 public:
@@ -34,8 +36,9 @@ public:
         bool isDone = false;
     };
 
-    explicit CarFiles(const DataFolder &folder)
+    CarFiles(const DataFolder &folder, DateStyle style)
         : m_folder(folder)
+        , m_style(style)
     {}
 
     const DataFolder &folder() const { return m_folder; }
@@ -92,4 +95,5 @@ private:
     Placed placed(const Vehicle &vehicle, CarChange change);
 
     const DataFolder &m_folder;
+    DateStyle m_style;
 };

@@ -162,7 +162,7 @@ private:
 
 std::optional<LiveLine> CarNews::liveLine(const DataFolder &folder, DateStyle style, QDate today)
 {
-    const QList<CarRecord> cars = CarFiles(folder).all();
+    const QList<CarRecord> cars = CarFiles(folder, style).all();
     std::optional<LiveLine> line;
     CarNeed first;
     for (const CarRecord &car : cars) {
@@ -182,7 +182,7 @@ std::optional<LiveLine> CarNews::liveLine(const DataFolder &folder, DateStyle st
 QList<DayNote> CarNews::dayNotes(const DataFolder &folder, DateStyle style, QDate from, QDate to, QDate today)
 {
     QList<DayNote> notes;
-    for (const CarRecord &car : CarFiles(folder).all())
+    for (const CarRecord &car : CarFiles(folder, style).all())
         CarNotes(car, style, today).add(from, to, notes);
     std::ranges::stable_sort(notes, {}, &DayNote::date);
     return notes;

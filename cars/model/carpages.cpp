@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/model/carpages.h"
 
+#include "cars/model/cardates.h"
 #include "cars/model/carnumbers.h"
 #include "cars/model/carwords.h"
 #include "cars/model/costwords.h"
@@ -106,9 +107,9 @@ public:
             const ScheduledAction &action = m_car.sheet.actions[std::size_t(need.row)];
             if (actions == Actions::WithTexts && action == ScheduledAction{action.name, {}, {}, {}, {}, {}})
                 continue;
-            page.row({DueWords::name(need), action.distance, action.months, action.odometer, action.date,
-                      action.cost, DueWords::remainingDistance(need),
-                      DueWords::remainingTime(need, m_context.today)});
+            page.row({DueWords::name(need), action.distance, action.months, action.odometer,
+                      CarDates::shown(action.date, m_context.style), action.cost,
+                      DueWords::remainingDistance(need), DueWords::remainingTime(need, m_context.today)});
         }
     }
 
@@ -127,7 +128,8 @@ public:
         qint64 cents = 0;
         for (const qsizetype row : byDate(history)) {
             const HistoryRow &entry = history[row];
-            page.row({entry.date, entry.odometer, entry.description, entry.cost});
+            page.row({CarDates::shown(entry.date, m_context.style), entry.odometer, entry.description,
+                      entry.cost});
             cents += CarNumbers::cents(entry.cost).value_or(0);
         }
         page.row({u"Together"_s, {}, {}, CostWords::money(double(cents))}, TextRole::Strong);
@@ -154,6 +156,7 @@ public:
         for (const int row : m_fuel.inOrder()) {
             const FillUp &fillUp = m_fuel.fillUps()[row];
             QStringList cells = CostWords::cells(m_car.fuel[row], fillUp);
+            cells[0] = CarDates::shown(cells[0], m_context.style);
             if (fillUp.kind != FillUp::Kind::Counted) {
                 isAnyLeftOut = true;
                 cells[5] = QString(cells[5] + u" *"_s).trimmed();

@@ -12,6 +12,8 @@ struct CarRecord {
     History maintenance; ///< in the order of the file, as it was entered
     History repairs;     ///< and other expenditures, likewise
     FuelLog fuel;        ///< likewise
+    /// Its files have day and month of dates the other way round.
+    bool areDatesTurned = false;
 
     bool operator==(const CarRecord &) const = default;
 };

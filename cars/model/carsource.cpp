@@ -35,7 +35,7 @@ CarSource::CarSource(const DataFolder &folder, DateStyle style)
 bool CarSource::prepare()
 {
     if (!m_isChecking) {
-        m_unchecked = CarFiles(m_folder).vehicles();
+        m_unchecked = VehicleList(m_folder).vehicles();
         std::ranges::reverse(m_unchecked); // taken from the end
         std::erase_if(m_cars, [this](const auto &car) {
             return !std::ranges::count(m_unchecked, car.first, &Vehicle::slot);
@@ -69,7 +69,7 @@ CarSource::Car CarSource::read(const Vehicle &vehicle) const
         for (const QString &line : QStringList{hit.title, hit.context} + more)
             found.texts.addLine(AnsiText::encode(line));
     };
-    const CarRecord car = CarFiles(m_folder).read(vehicle.slot).record;
+    const CarRecord car = CarFiles(m_folder, m_style).read(vehicle.slot).record;
     const auto &fields = car.sheet.fields;
     const QString makeAndModel =
         QString(fields[VehicleSheet::Make] + u' ' + fields[VehicleSheet::Model]).trimmed();

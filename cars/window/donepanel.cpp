@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/donepanel.h"
 
+#include "cars/model/cardates.h"
 #include "cars/model/carentry.h"
 #include "cars/model/carnumbers.h"
 #include "cars/model/carwords.h"
@@ -75,8 +76,9 @@ void DonePanel::start(int row)
     m_odometerLabel->setText(caption);
     m_odometer->setAccessibleName(caption.chopped(1));
     const auto last = CarNumbers::number(action.odometer);
-    m_last->setText(CarLines::lastDone(
-        action.date.trimmed(), last ? DueWords::distance(*last, m_desk.car.unit()) : action.odometer));
+    m_last->setText(
+        CarLines::lastDone(CarDates::shown(action.date.trimmed(), m_desk.program.state.dateStyle),
+                           last ? DueWords::distance(*last, m_desk.car.unit()) : action.odometer));
     m_date->setText(Dates::numbers(m_desk.program.clock.today(), m_desk.program.state.dateStyle));
     m_odometer->setText(car.sheet.field(VehicleSheet::Odometer));
     m_cost->setText(action.cost);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/logmodel.h"
 
+#include "cars/model/cardates.h"
 #include "cars/model/carnumbers.h"
 #include "cars/model/carrows.h"
 #include "cars/model/costwords.h"
@@ -63,7 +64,9 @@ void LogModel::reorder(const QList<qsizetype> &order)
 
 QString LogModel::text(const QModelIndex &index) const
 {
-    return CarRows::text(m_car, m_part, m_order[index.row()], index.column());
+    const QString text = CarRows::text(m_car, m_part, m_order[index.row()], index.column());
+    return kind(index.column()) == CarCell::Kind::Date ? CarDates::shown(text, m_program.state.dateStyle)
+                                                       : text;
 }
 
 QString LogModel::titleOf(const CarRecord &car, qsizetype rowInFile) const
@@ -204,6 +207,8 @@ bool LogModel::setData(const QModelIndex &index, const QVariant &value, int role
     if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
         return false;
     const QString before = text(index);
+    if (value.toString() == before)
+        return true; // left as it is in the file
     const CarEntry entry = check(index.column(), value.toString(), before);
     if (entry.refusal) {
         emit noticed(*entry.refusal, index);

@@ -10,7 +10,7 @@
 OpenCar::OpenCar(const Program &program, QObject *parent)
     : QObject(parent)
     , m_program(program)
-    , m_files(program.folder)
+    , m_files(program.folder, program.state.dateStyle)
     , m_record(std::make_shared<CarRecord>())
     , m_saved(m_record)
 {}

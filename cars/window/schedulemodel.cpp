@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/schedulemodel.h"
 
+#include "cars/model/cardates.h"
 #include "cars/model/carentry.h"
 #include "cars/model/carwords.h"
 #include "cars/model/duewords.h"
@@ -113,8 +114,10 @@ const CarNeed *ScheduleModel::need(int row) const
 QString ScheduleModel::text(const QModelIndex &index) const
 {
     const auto column = std::size_t(index.column());
-    if (column < texts.size())
-        return m_car.record().sheet.actions[std::size_t(index.row())].*texts[column];
+    if (column < texts.size()) {
+        const QString &text = m_car.record().sheet.actions[std::size_t(index.row())].*texts[column];
+        return column == ScheduleColumn::lastDate ? CarDates::shown(text, m_program.state.dateStyle) : text;
+    }
     const CarNeed *need = this->need(index.row());
     if (!need)
         return {};
@@ -200,6 +203,8 @@ bool ScheduleModel::setData(const QModelIndex &index, const QVariant &value, int
     if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
         return false;
     const QString before = text(index);
+    if (value.toString() == before)
+        return true; // left as it is in the file
     CarEntry entry{value.toString(), {}};
     if (index.column() == ScheduleColumn::lastReading)
         entry = CarEntry::odometer(value.toString(), before, m_car.record().sheet);

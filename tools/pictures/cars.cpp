@@ -57,7 +57,7 @@ QString paintedCar(const DataFolder &folder, const QString &name, const QColor &
 /// A household whose cars have pictures, and of which one needs nothing and one something soon.
 void furnish(const DataFolder &folder)
 {
-    CarFiles files(folder);
+    CarFiles files(folder, DateStyle::Usa);
     const QList<QColor> colors{QColor(u"#2B6296"_s), QColor(u"#A8402E"_s), QColor(u"#D9A441"_s)};
     const QList<Vehicle> vehicles = files.vehicles();
     for (qsizetype i = 0; i < vehicles.size(); ++i) {

@@ -67,7 +67,7 @@ private slots:
     void makesTheFirstCar()
     {
         const TestFolder test;
-        CarFiles cars(test.folder());
+        CarFiles cars(test.folder(), DateStyle::Usa);
         CarFiles::Placed made = cars.create(newCar(), now);
         QVERIFY(made.isDone);
         QCOMPARE(made.vehicle, (Vehicle{1, u"Zoë's bus"_s}));
@@ -299,7 +299,7 @@ private:
     }
 
     TestFolder m_test;
-    CarFiles m_cars{m_test.folder()};
+    CarFiles m_cars{m_test.folder(), DateStyle::Usa};
 };
 
 QTEST_APPLESS_MAIN(TestCarFiles)

@@ -159,7 +159,7 @@ private slots:
     void saysWhatTheHouseholdsCarsNeed()
     {
         const DataFolder household(QStringLiteral(QUILLERY_TEST_DATA "/household/data"));
-        const CarRecord van = CarFiles(household).all().first();
+        const CarRecord van = CarFiles(household, DateStyle::Usa).all().first();
         const DrivingLog log = CarNeeds::drivingLog(van, DateStyle::Usa, today);
         const QList<CarNeed> needs = CarNeeds::of(van, log, DateStyle::Usa, today);
         QStringList said{DueWords::title(needs), DueWords::rate(log, van.sheet.unit, DateStyle::Usa, today)};
@@ -201,7 +201,8 @@ private slots:
 private:
     void create() const
     {
-        QVERIFY(CarFiles(m_test->folder()).create(m_car, QDateTime(today, QTime(9, 0))).isDone);
+        QVERIFY(
+            CarFiles(m_test->folder(), DateStyle::Usa).create(m_car, QDateTime(today, QTime(9, 0))).isDone);
     }
 
     std::unique_ptr<TestFolder> m_test;

@@ -13,7 +13,7 @@ const QDate today(2026, 11, 22);
 CarRecord van()
 {
     const DataFolder household(QStringLiteral(QUILLERY_TEST_DATA "/household/data"));
-    return CarFiles(household).all().first();
+    return CarFiles(household, DateStyle::Usa).all().first();
 }
 
 QStringList linesOf(const Page &page)

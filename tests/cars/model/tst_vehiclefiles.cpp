@@ -54,7 +54,7 @@ private slots:
     void readsTheHousehold()
     {
         const DataFolder folder(householdPath());
-        const CarFiles cars(folder);
+        const CarFiles cars(folder, DateStyle::Usa);
         const QJsonObject expected = expectedOf(u"vehicles"_s);
         QJsonArray names;
         for (const Vehicle &vehicle : cars.vehicles()) {
@@ -211,7 +211,7 @@ private slots:
         const TestFolder test;
         QVERIFY(QDir(test.folder().path()).mkpath(u"RCar1.Fil"_s));
         test.put(u"GCAR1.FIL"_s, "\"01/05/2026\"\r\n");
-        const CarFiles::Found found = CarFiles(test.folder()).read(1);
+        const CarFiles::Found found = CarFiles(test.folder(), DateStyle::Usa).read(1);
         QCOMPARE(found.state(CarPart::Sheet), State::Missing);
         QCOMPARE(found.state(CarPart::Repairs), State::OutOfReach);
         QVERIFY(found.mayBeWritten(CarPart::Sheet) && !found.mayBeWritten(CarPart::Repairs));
