@@ -29,76 +29,6 @@ QByteArrayView withoutEndMark(QByteArrayView bytes)
     return bytes;
 }
 
-/// Zero bytes are what a crash leaves in place of text; they never reach a box.
-QString valueText(QByteArrayView bytes)
-{
-    if (!bytes.contains('\0'))
-        return AnsiText::decode(bytes);
-    QByteArray kept = bytes.toByteArray();
-    kept.removeIf([](char byte) { return byte == '\0'; });
-    return AnsiText::decode(kept);
-}
-
-/// Cuts the bytes of a file into values, one at a time from the left.
-class Cutter
-{
-public:
-    explicit Cutter(QByteArrayView bytes)
-        : m_rest(withoutEndMark(bytes))
-    {
-        skipBlanks();
-    }
-
-    bool isAtEnd() const { return m_rest.isEmpty(); }
-
-    QString takeValue()
-    {
-        QString value = m_rest.startsWith('"') ? takeQuoted() : takeUnquoted();
-        takeSeparator();
-        skipBlanks();
-        return value;
-    }
-
-private:
-    QString takeQuoted()
-    {
-        m_rest = m_rest.sliced(1);
-        qsizetype end = m_rest.indexOf('"');
-        while (end >= 0 && end + 1 < m_rest.size() && !isSeparator(m_rest[end + 1]))
-            end = m_rest.indexOf('"', end + 1);
-        return end < 0 ? take(m_rest.size()) : take(end, 1);
-    }
-
-    QString takeUnquoted()
-    {
-        qsizetype end = 0;
-        while (end < m_rest.size() && !isSeparator(m_rest[end]))
-            ++end;
-        return AnsiText::trimmedBlanksRight(take(end)).toString();
-    }
-
-    QString take(qsizetype length, qsizetype alsoSkip = 0)
-    {
-        const QByteArrayView value = m_rest.first(length);
-        m_rest = m_rest.sliced(length + alsoSkip);
-        return valueText(value);
-    }
-
-    void takeSeparator()
-    {
-        if (!m_rest.isEmpty())
-            m_rest = m_rest.sliced(m_rest.startsWith("\r\n") ? 2 : 1);
-    }
-
-    void skipBlanks()
-    {
-        while (m_rest.startsWith(' '))
-            m_rest = m_rest.sliced(1);
-    }
-
-    QByteArrayView m_rest;
-};
-
 /// The first bytes of the file at `path`, at most `length`; none, and a line in the log, when it cannot be
 /// read.
 QByteArray readFirst(const QString &path, qint64 length)
@@ -118,25 +48,28 @@ QByteArray readFirst(const QString &path, qint64 length)
 QByteArray ValueFile::encode(const QStringList &values)
 {
     QByteArray bytes;
-    for (const QString &value : values) {
-        const QByteArray text = AnsiText::encode(value);
-        bytes += '"';
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            if (text[i] == '"' && i + 1 < text.size() && isSeparator(text[i + 1]))
-                bytes += "''";
-            else
-                bytes += text[i];
-        }
-        bytes += "\"\r\n";
-    }
+    for (const QString &value : values)
+        append(bytes, AnsiText::encode(value));
     return bytes;
+}
+
+void ValueFile::append(QByteArray &file, QByteArrayView value)
+{
+    file += '"';
+    qsizetype quote = value.indexOf('"');
+    for (; quote >= 0; quote = value.indexOf('"')) {
+        const bool wouldClose = quote + 1 < value.size() && isSeparator(value[quote + 1]);
+        file.append(value.first(quote)).append(wouldClose ? "''" : "\"");
+        value = value.sliced(quote + 1);
+    }
+    file.append(value).append("\"\r\n");
 }
 
 QStringList ValueFile::decode(QByteArrayView bytes)
 {
     QStringList values;
     for (Cutter cutter(bytes); !cutter.isAtEnd();)
-        values += cutter.takeValue();
+        values += cutter.take();
     return values;
 }
 
@@ -150,5 +83,65 @@ QString ValueFile::readLine(const QString &path)
     const QByteArray bytes = readFirst(path, longestLine);
     const auto isLineEnd = [](char byte) { return byte == '\r' || byte == '\n'; };
     const auto end = std::ranges::find_if(bytes, isLineEnd);
-    return valueText(withoutEndMark(QByteArrayView(bytes).first(end - bytes.begin())));
+    return text(withoutEndMark(QByteArrayView(bytes).first(end - bytes.begin())));
+}
+
+QString ValueFile::text(QByteArrayView bytes)
+{
+    if (!bytes.contains('\0'))
+        return AnsiText::decode(bytes);
+    QByteArray kept = bytes.toByteArray();
+    kept.removeIf([](char byte) { return byte == '\0'; });
+    return AnsiText::decode(kept);
+}
+
+ValueFile::Cutter::Cutter(QByteArrayView bytes)
+    : m_rest(withoutEndMark(bytes))
+{
+    skipBlanks();
+}
+
+QByteArrayView ValueFile::Cutter::takeBytes()
+{
+    const QByteArrayView value = m_rest.startsWith('"') ? takeQuoted() : takeUnquoted();
+    if (!m_rest.isEmpty())
+        m_rest = m_rest.sliced(m_rest.startsWith("\r\n") ? 2 : 1);
+    skipBlanks();
+    return value;
+}
+
+QString ValueFile::Cutter::take()
+{
+    const bool isQuoted = m_rest.startsWith('"');
+    const QString value = text(takeBytes());
+    return isQuoted ? value : AnsiText::trimmedBlanksRight(value).toString();
+}
+
+QByteArrayView ValueFile::Cutter::takeQuoted()
+{
+    m_rest = m_rest.sliced(1);
+    qsizetype end = m_rest.indexOf('"');
+    while (end >= 0 && end + 1 < m_rest.size() && !isSeparator(m_rest[end + 1]))
+        end = m_rest.indexOf('"', end + 1);
+    m_isTorn = end < 0;
+    const QByteArrayView value = m_isTorn ? m_rest : m_rest.first(end);
+    m_rest = m_rest.sliced(m_isTorn ? m_rest.size() : end + 1);
+    return value;
+}
+
+QByteArrayView ValueFile::Cutter::takeUnquoted()
+{
+    qsizetype end = 0;
+    while (end < m_rest.size() && !isSeparator(m_rest[end]))
+        ++end;
+    m_isTorn = false;
+    const QByteArrayView value = m_rest.first(end);
+    m_rest = m_rest.sliced(end);
+    return value;
+}
+
+void ValueFile::Cutter::skipBlanks()
+{
+    while (m_rest.startsWith(' '))
+        m_rest = m_rest.sliced(1);
 }

@@ -53,7 +53,7 @@ MenuNews::Reading MenuNews::readingOf(const FunctionFace &face, const FunctionEn
         face.isGuarded(state.protectedAreas) ? face.guardedText(state.protectedAreas) : QString();
     const QDateTime now = m_program.clock.now();
     const int minute = entry.followsClock ? now.time().hour() * 60 + now.time().minute() : 0;
-    return {FileStamp::of(m_program.folder, entry.liveFiles), now.date(), minute, state.dateStyle, guarded};
+    return {entry.liveStamp(m_program), now.date(), minute, state.dateStyle, guarded};
 }
 
 std::optional<LiveLine> MenuNews::line(Function function) const

@@ -14,6 +14,11 @@ void bringToFront(QWidget &window)
     window.activateWindow();
 }
 
+FileStamp FunctionEntry::liveStamp(const Program &program) const
+{
+    return FileStamp::of(program.folder, moreLiveFiles ? liveFiles + moreLiveFiles(program) : liveFiles);
+}
+
 void FunctionCatalogue::add(Function function, FunctionEntry entry)
 {
     m_entries.insert_or_assign(function, std::move(entry));

@@ -4,6 +4,7 @@
 #include "shell/core/daynote.h"
 #include "shell/core/liveline.h"
 #include "shell/core/searchsource.h"
+#include "storage/filestamp.h"
 
 #include <QPointer>
 #include <QString>
@@ -46,6 +47,8 @@ struct FunctionEntry {
     std::function<std::optional<LiveLine>(const Program &, QDate today)> liveLine{};
     /// The files that news and notes come from: they are read again only when one of these has changed.
     QStringList liveFiles{};
+    /// More of these, where their names depend on the household; empty where they do not.
+    std::function<QStringList(const Program &)> moreLiveFiles{};
     /// What the function has for the dates `from` to `to`, in date order; empty for a function without any.
     std::function<QList<DayNote>(const Program &, QDate from, QDate to)> dayNotes{};
     /// Whether the news change in the course of a day without any file having changed.
@@ -60,6 +63,9 @@ struct FunctionEntry {
     std::function<QStringList(const Program &)> files{};
     /// Its pictures that are there, as full paths: they may stand in any folder.
     std::function<QStringList(const Program &)> pictures{};
+
+    /// What the files that news and notes come from are like now.
+    FileStamp liveStamp(const Program &program) const;
 };
 
 /// Shows `window`, as it was before it was minimised, in front of the others.

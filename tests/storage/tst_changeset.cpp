@@ -71,6 +71,34 @@ private slots:
         QCOMPARE(filesOf(m_test), after);
     }
 
+    void takesFilesAway()
+    {
+        ChangeSet set = change();
+        set.remove(first.toUpper()); // names match without regard to case
+        set.remove(u"Missing.Fil"_s);
+        QVERIFY(set.commit());
+        Files left = after;
+        left.remove(first);
+        QCOMPARE(filesOf(m_test), left);
+    }
+
+    void takesAllFilesAwayOrNoneAfterEveryFailure()
+    {
+        failAtEachStep(
+            m_test.folder(), [this] { init(); },
+            [this] {
+                ChangeSet set(m_test.folder());
+                set.remove(first);
+                set.remove(whole);
+                return set.commit();
+            },
+            [this] {
+                Files files = filesOf(m_test);
+                files.remove(ChangeSet::journalName);
+                return files;
+            });
+    }
+
     void isOldOrNewAfterEveryFailure()
     {
         failAtEachStep(

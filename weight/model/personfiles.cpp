@@ -9,6 +9,7 @@
 #include "weight/model/messages.h"
 #include "weight/model/personlist.h"
 #include "weight/model/toldfigures.h"
+#include "weight/model/weightdates.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,7 +34,8 @@ constexpr std::array fileFields{WeightSheet::BeginningDate,      WeightSheet::Be
                                 WeightSheet::GoalWeight,         WeightSheet::DaysPerWeek,
                                 WeightSheet::TimePerPeriod,      WeightSheet::ExerciseTypes,
                                 WeightSheet::BeginningPhotoDate, WeightSheet::CurrentPhotoDate};
-constexpr qsizetype headValues = 1 + fileFields.size() + 3;
+/// The fewest bytes that a weigh-in has in a file: two empty texts in quotes, with their line ends.
+constexpr qsizetype leastRow = 8;
 
 /// The number of rows, heading included, that a file says it has; -1 where it says none.
 qsizetype countIn(const QString &text)
@@ -76,8 +78,10 @@ QStringList PersonFiles::unlisted() const
         const QString name = file.chopped(ending.size());
         if (PersonList::place(listed, name) > 0 || whyNotNamed(name))
             continue;
-        const State state = read(name).state;
-        if (state == State::Whole || state == State::Cut)
+        const Found found = read(name);
+        const QString &begin = found.sheet.field(WeightSheet::BeginningDate);
+        const bool hasDate = begin.isEmpty() || WeightDates::date(begin).isValid();
+        if (hasDate && (found.state == State::Whole || found.state == State::Cut))
             names.append(name);
     }
     return names;
@@ -103,41 +107,48 @@ PersonFiles::Found PersonFiles::read(const QString &name) const
 
 PersonFiles::Found PersonFiles::decode(QByteArrayView bytes)
 {
-    const QStringList values = ValueFile::decode(bytes);
+    ValueFile::Cutter cutter(bytes);
     Found found;
-    if (values.isEmpty()) {
+    if (cutter.isAtEnd()) {
         found.state = State::Empty;
         return found;
     }
-    const qsizetype count = countIn(values.front());
+    const qsizetype count = countIn(cutter.take());
     if (count < 0) {
         found.state = State::Foreign;
         return found;
     }
-    qsizetype at = 1;
     for (const WeightSheet::Field field : fileFields)
-        found.sheet.field(field) = values.value(at++);
-    found.sheet.comments = values.value(at++);
-    found.sheet.beginningPicture = values.value(at++);
-    found.sheet.currentPicture = values.value(at++);
-    for (qsizetype row = 1; at < values.size(); ++row, at += 2) {
+        found.sheet.field(field) = cutter.take();
+    found.sheet.comments = cutter.take();
+    found.sheet.beginningPicture = cutter.take();
+    bool isWhole = !cutter.isAtEnd();
+    found.sheet.currentPicture = cutter.take();
+    found.sheet.weighIns.reserve(std::min(count, bytes.size() / leastRow));
+    for (qsizetype row = 1; !cutter.isAtEnd(); ++row) {
         WeightTable &table = row < count ? found.sheet.weighIns : found.uncounted;
-        table.append({values[at], values.value(at + 1)});
+        const QByteArrayView date = cutter.takeBytes();
+        isWhole = isWhole && !cutter.isAtEnd();
+        table.append(date, cutter.takeBytes());
     }
-    const bool isCut = values.size() < headValues || found.sheet.weighIns.rowCount() + 1 < count;
-    found.state = isCut ? State::Cut : State::Whole;
+    isWhole = isWhole && !cutter.isTorn() && found.sheet.weighIns.rowCount() + 1 >= count;
+    found.state = isWhole ? State::Whole : State::Cut;
     return found;
 }
 
 QByteArray PersonFiles::encode(const WeightSheet &sheet)
 {
-    QStringList values{QString::number(sheet.weighIns.rowCount() + 1)};
+    const WeightTable &table = sheet.weighIns;
+    QStringList head{QString::number(table.rowCount() + 1)};
     for (const WeightSheet::Field field : fileFields)
-        values.append(sheet.field(field));
-    values << sheet.comments << sheet.beginningPicture << sheet.currentPicture;
-    for (qsizetype row = 0; row < sheet.weighIns.rowCount(); ++row)
-        values << sheet.weighIns.date(row) << sheet.weighIns.weight(row);
-    return ValueFile::encode(values);
+        head.append(sheet.field(field));
+    QByteArray bytes =
+        ValueFile::encode(head << sheet.comments << sheet.beginningPicture << sheet.currentPicture);
+    for (qsizetype row = 0; row < table.rowCount(); ++row) {
+        ValueFile::append(bytes, table.dateBytes(row));
+        ValueFile::append(bytes, table.weightBytes(row));
+    }
+    return bytes;
 }
 
 std::optional<Message> PersonFiles::whyNotNamed(const QString &name)

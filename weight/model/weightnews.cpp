@@ -85,7 +85,7 @@ std::optional<LiveLine> WeightNews::liveLine(const DataFolder &folder, QDate tod
 QStringList WeightNews::liveFiles(const DataFolder &folder)
 {
     QStringList files{PersonList::fileName(), ToldFigures::fileName()};
-    for (const QString &name : PersonFiles(folder).names())
+    for (const QString &name : PersonList(folder).names())
         files.append(PersonFiles::fileName(name));
     return files;
 }

@@ -17,7 +17,7 @@ namespace WeightNews {
 /// weigh-in; nothing without persons.
 std::optional<LiveLine> liveLine(const DataFolder &folder, QDate today);
 
-/// The files that the line comes from.
+/// The files that the line comes from: those of the persons in the list, and the list.
 QStringList liveFiles(const DataFolder &folder);
 
 } // namespace WeightNews

@@ -97,16 +97,29 @@ WeightTable::Span WeightTable::keep(QByteArrayView text)
     return span;
 }
 
+/// Zero bytes are what a crash leaves in place of text.
+QByteArrayView WeightTable::stored(QByteArrayView text, QByteArray &room)
+{
+    if (text.contains('\0')) {
+        room = text.toByteArray();
+        room.removeIf([](char byte) { return byte == '\0'; });
+        text = room;
+    }
+    return text.trimmed();
+}
+
 void WeightTable::readDate(Row &row, QByteArrayView text)
 {
-    text = text.trimmed();
+    QByteArray room;
+    text = stored(text, room);
     row.dateText = keep(text);
     row.day = WeightDates::date(text).toJulianDay();
 }
 
 void WeightTable::readWeight(Row &row, QByteArrayView text)
 {
-    text = text.trimmed();
+    QByteArray room;
+    text = stored(text, room);
     row.weightText = keep(text);
     row.weight = WeightNumbers::number(text).value_or(0);
 }

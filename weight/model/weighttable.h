@@ -29,7 +29,7 @@ public:
     /// The weight of a row; nothing where its text is none.
     std::optional<float> number(qsizetype row) const;
 
-    /// Texts are kept without blanks around them, and without characters that no file can hold.
+    /// Texts are kept without blanks around them, without what no file can hold.
     void append(const WeighIn &weighIn) { insert(rowCount(), weighIn); }
     void insert(qsizetype row, const WeighIn &weighIn);
     void remove(qsizetype row) { m_rows.removeAt(row); }
@@ -60,6 +60,7 @@ private:
         float weight = 0; ///< 0: none
     };
 
+    static QByteArrayView stored(QByteArrayView text, QByteArray &room);
     Span keep(QByteArrayView text);
     void readDate(Row &row, QByteArrayView text);
     void readWeight(Row &row, QByteArrayView text);
