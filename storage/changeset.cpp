@@ -223,11 +223,12 @@ bool ChangeSet::takeNames(const DataFolder &folder, const Changes &changes)
     });
 }
 
+/// Tries twice, as `takeNames` does.
 bool ChangeSet::removeFiles(const DataFolder &folder, const Changes &changes)
 {
     return std::ranges::all_of(changes, [&folder](const Change &change) {
         const QString path = folder.filePath(change.name);
-        return !change.isGoing() || !QFileInfo::exists(path) || Disk::remove(path);
+        return !change.isGoing() || !QFileInfo::exists(path) || Disk::remove(path) || Disk::remove(path);
     });
 }
 
