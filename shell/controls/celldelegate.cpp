@@ -121,6 +121,8 @@ QLineEdit *CellDelegate::makeBox(QWidget *parent, const QModelIndex &index) cons
         return new DateBox(*m_reading, m_picker, parent);
     auto *box = new FieldBox(parent);
     connect(box, &FieldBox::refused, this, &CellDelegate::refused);
+    if (kindOf(index) == GridCell::Kind::Number)
+        box->selectOnFirstClick();
     const QStringList choices = index.data(GridCell::choicesRole).toStringList();
     if (!choices.isEmpty()) {
         auto *completer = new QCompleter(choices, box);
@@ -180,9 +182,20 @@ bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const Q
 
 void CellDelegate::goToEnd() const
 {
-    if (!m_editor)
-        return;
-    m_editor->end(false);
+    if (m_editor)
+        m_editor->end(false);
+    openCalendar();
+}
+
+void CellDelegate::openByMouse() const
+{
+    if (m_editor && kindOf(m_grid->currentIndex()) != GridCell::Kind::Number)
+        m_editor->end(false);
+    openCalendar();
+}
+
+void CellDelegate::openCalendar() const
+{
     if (auto *date = qobject_cast<DateBox *>(m_editor); date && m_picker)
         m_picker->open(date);
 }

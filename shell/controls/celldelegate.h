@@ -42,6 +42,8 @@ public:
 
     /// Puts the cursor behind what the open box holds, for it to be edited; a date has its calendar.
     void goToEnd() const;
+    /// The same where a click opened the box: a number stays selected, to be typed anew.
+    void openByMouse() const;
     /// What is typed in the open box goes into its cell, and the box away.
     void finish();
 
@@ -61,6 +63,7 @@ protected:
 
 private:
     QColor ground(const QStyleOptionViewItem &option, const QModelIndex &index, bool isCurrent) const;
+    void openCalendar() const;
     bool isCalendarUsed() const;
     bool isForCalendar(const QKeyEvent &key) const;
     bool isLeftBy(const QKeyEvent &key);

@@ -97,7 +97,9 @@ bool CellGrid::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event
     if (!wasOpen)
         m_isTypedOver = trigger == AnyKeyPressed;
     const bool isOpen = QTableView::edit(index, trigger, event);
-    if (isOpen && !wasOpen && trigger != AnyKeyPressed && trigger != AllEditTriggers)
+    if (isOpen && !wasOpen && trigger == DoubleClicked)
+        m_cells->openByMouse();
+    else if (isOpen && !wasOpen && trigger != AnyKeyPressed && trigger != AllEditTriggers)
         m_cells->goToEnd();
     return isOpen;
 }
@@ -204,7 +206,7 @@ void CellGrid::mouseReleaseEvent(QMouseEvent *event)
     QTableView::mouseReleaseEvent(event);
     const QModelIndex index = indexAt(event->pos());
     if (m_isEntry && event->button() == Qt::LeftButton && index.isValid() && state() != EditingState)
-        edit(index, EditKeyPressed, nullptr);
+        edit(index, DoubleClicked, nullptr);
 }
 
 /// Coming back to the window chooses no cell where none was current.

@@ -184,6 +184,25 @@ void FieldBox::setLocked(bool locked)
     setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
+void FieldBox::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    m_isUnclicked = true;
+}
+
+void FieldBox::mousePressEvent(QMouseEvent *event)
+{
+    m_isFirstClick = m_selectsOnClick && std::exchange(m_isUnclicked, false) && !isModified();
+    QLineEdit::mousePressEvent(event);
+}
+
+void FieldBox::mouseReleaseEvent(QMouseEvent *event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(m_isFirstClick, false) && !hasSelectedText())
+        selectAll();
+}
+
 /// A long text shows its beginning when the box is left. A menu, and another window, are only a moment.
 void FieldBox::focusOutEvent(QFocusEvent *event)
 {

@@ -44,6 +44,9 @@ public:
     void setByteLimit(int limit);
     void setLocked(bool locked);
     bool isLocked() const { return isReadOnly(); }
+    /// The first click into the box selects its text, as for a number that is typed anew; the next one places
+    /// the cursor.
+    void selectOnFirstClick() { m_selectsOnClick = true; }
 
 signals:
     /// Something typed or pasted could not be taken, or not all of it; `reason` is a sentence for the status
@@ -51,13 +54,19 @@ signals:
     void refused(const QString &reason);
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     class Validator;
 
     Validator *m_validator;
     int m_limit = 0;
+    bool m_selectsOnClick = false;
+    bool m_isUnclicked = true; ///< since it got the focus
+    bool m_isFirstClick = false;
 };
 
 /// A label whose text is cut with an ellipsis where it does not fit, and then stands whole in the tool tip.
