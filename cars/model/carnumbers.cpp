@@ -3,6 +3,7 @@
 
 #include "shell/core/dates.h"
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
@@ -52,6 +53,32 @@ QString takeWhole(QStringView &text)
     return digits;
 }
 
+/// The number at the start of `text`, which it is taken from.
+std::optional<double> takeNumber(QStringView &text)
+{
+    text = withoutBlanksAndCurrency(text);
+    QString digits = takeWhole(text);
+    if (digits.size() > mostDigits)
+        return {};
+    if (!text.isEmpty() && (text[0] == u'.' || text[0] == u',')) {
+        if (const qsizetype decimals = digitsAt(text.sliced(1)); decimals > 0) {
+            digits += u'.' + text.sliced(1, std::min<qsizetype>(decimals, mostDecimals));
+            text = text.sliced(1 + decimals);
+        }
+    }
+    return digits.isEmpty() ? std::nullopt : std::optional(digits.toDouble());
+}
+
+/// "293.50" is "293.5", "7.00" is "7"; `text` has decimals.
+QString withoutIdleZeros(QString text)
+{
+    while (text.endsWith(u'0'))
+        text.chop(1);
+    if (text.endsWith(u'.'))
+        text.chop(1);
+    return text;
+}
+
 /// "03/02/2026": thousands of rows have their dates in the form in which they are kept, and are read again at
 /// each edit. Invalid for any other form, and where day and month stand the other way round.
 QDate usualDate(QStringView text, DateStyle style)
@@ -80,15 +107,32 @@ QDate usualDate(QStringView text, DateStyle style)
 
 std::optional<double> CarNumbers::number(QStringView text)
 {
-    QStringView rest = withoutBlanksAndCurrency(text);
-    QString digits = takeWhole(rest);
-    if (digits.size() > mostDigits)
-        return {};
-    if (!rest.isEmpty() && (rest[0] == u'.' || rest[0] == u',')) {
-        if (const qsizetype decimals = digitsAt(rest.sliced(1)); decimals > 0)
-            digits += u'.' + rest.sliced(1, std::min<qsizetype>(decimals, mostDecimals));
+    return takeNumber(text);
+}
+
+std::optional<double> CarNumbers::alone(QStringView text)
+{
+    const std::optional<double> number = takeNumber(text);
+    constexpr QStringView others = u"0123456789/:-.,";
+    const bool isAlone = std::ranges::none_of(text, [&](QChar one) { return others.contains(one); });
+    return isAlone ? number : std::nullopt;
+}
+
+QString CarNumbers::plain(QStringView typed)
+{
+    const QStringView text = typed.trimmed();
+    const qsizetype whole = digitsAt(text);
+    const bool isWhole = whole == text.size();
+    const bool isPlain = isWhole || (whole > 0 && text[whole] == u'.' &&
+                                     whole + 1 + digitsAt(text.sliced(whole + 1)) == text.size());
+    double sum = 0;
+    for (const QStringView part : text.split(u'+')) {
+        const std::optional<double> number = alone(part);
+        if (!number)
+            return {};
+        sum += *number;
     }
-    return digits.isEmpty() ? std::nullopt : std::optional(digits.toDouble());
+    return isPlain ? text.toString() : withoutIdleZeros(CarNumbers::text(sum, mostDecimals));
 }
 
 std::optional<int> CarNumbers::months(QStringView text)
@@ -111,12 +155,7 @@ std::optional<QDate> CarNumbers::date(QStringView text, DateStyle style)
 
 QString CarNumbers::text(double number)
 {
-    QString text = CarNumbers::text(number, 2);
-    while (text.endsWith(u'0'))
-        text.chop(1);
-    if (text.endsWith(u'.'))
-        text.chop(1);
-    return text;
+    return withoutIdleZeros(CarNumbers::text(number, 2));
 }
 
 QString CarNumbers::text(double number, int decimals)
@@ -127,4 +166,10 @@ QString CarNumbers::text(double number, int decimals)
 QString CarNumbers::costText(qint64 cents)
 {
     return text(double(cents) / 100, 2);
+}
+
+QString CarNumbers::shownCost(const QString &stored)
+{
+    const bool isAmount = alone(stored).has_value();
+    return isAmount ? costText(*cents(stored)) : stored;
 }

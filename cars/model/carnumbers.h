@@ -16,6 +16,9 @@ namespace CarNumbers {
 /// with none, and for what is below 0 or beyond 10 digits.
 std::optional<double> number(QStringView text);
 
+/// The same of a text that holds nothing else but a unit behind the number: no date, no second number.
+std::optional<double> alone(QStringView text);
+
 /// The same as a whole number of months: "6" and "6 months" are 6; nothing for 0 and beyond 1200.
 std::optional<int> months(QStringView text);
 
@@ -28,10 +31,17 @@ std::optional<QDate> date(QStringView text, DateStyle style);
 /// "84210": a reading or a distance as it is stored; decimals only where it has any, two at most.
 QString text(double number);
 
+/// What is typed, as a plain number: "84,210 km" is "84210", "5+4.5" is "9.5"; digits that are plain already
+/// stay as they are. Empty where a part of the sum is none.
+QString plain(QStringView typed);
+
 /// "36.2", with that many decimals.
 QString text(double number, int decimals);
 
 /// "49.90".
 QString costText(qint64 cents);
+
+/// A stored cost as it is shown: "52,4" is "52.40"; what is no plain amount stays as it is.
+QString shownCost(const QString &stored);
 
 } // namespace CarNumbers

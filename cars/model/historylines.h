@@ -69,11 +69,59 @@ inline QString nothingTyped(CarPart part)
                                  : u"First type what was done"_s;
 }
 
+/// `heading` is a distance or a consumption that the other cells decide.
+inline QString workedOut(const QString &heading)
+{
+    return heading + u" is worked out from the other cells of the row"_s;
+}
+
+/// A fill-up whose reading is below the one before it.
+inline QString below(const QString &current, const QString &previous)
+{
+    return u"%1 is below the reading before it, %2; please look at both"_s.arg(current, previous);
+}
+
+/// What an entry needs to tell something, and has not.
+inline QStringList missing(CarPart part, const QStringList &cells)
+{
+    QStringList missing;
+    const auto look = [&](qsizetype column, const QString &name) {
+        if (cells.value(column).trimmed().isEmpty())
+            missing << name;
+    };
+    if (part == CarPart::Fuel) {
+        look(2, u"reading"_s);
+        look(4, u"fuel"_s);
+        look(6, u"cost"_s);
+    } else {
+        look(2, u"description"_s);
+    }
+    return missing;
+}
+
+/// An entry that was left before it was added by its person: "Added: fill-up, Nov 21, 2026, without its
+/// cost".
+inline QString addedOnLeaving(const QString &what, const QStringList &missing)
+{
+    return missing.isEmpty() ? added(what) : added(what) + u", without its "_s + missing.join(u" and "_s);
+}
+
+inline QString cleared(qsizetype cells)
+{
+    return cells == 1 ? u"1 cell cleared"_s : QString::number(cells) + u" cells cleared"_s;
+}
+
 // Reasons
 
 inline QString inHistoriesOnly()
 {
     return u"This can be used in the histories and in the fuel tracker"_s;
+}
+
+/// Of rows that leave as a file, or come from one.
+inline QString openAHistory()
+{
+    return u"First open the history, or the fuel tracker, whose rows are meant"_s;
 }
 
 inline QString chooseAnEntry()

@@ -3,6 +3,7 @@
 
 #include "cars/model/vehiclefiles.h"
 
+#include <QLocale>
 #include <QString>
 
 /// The quiet words of the automobile tracker's window: titles, lines of the status bar, reasons.
@@ -66,11 +67,53 @@ inline QString whereDoneGoes()
            "present one becomes the present one."_s;
 }
 
+inline QString inThousands(double number)
+{
+    return QLocale(QLocale::English, QLocale::UnitedStates).toString(number, 'f', 0);
+}
+
+// What is typed and not taken; what was there before stays.
+
+inline QString noNumber(const QString &typed)
+{
+    return u"\"%1\" is no number; nothing was changed"_s.arg(typed);
+}
+
+/// Of a purchase or an expiration, which is kept as it is.
+inline QString noDate(const QString &typed)
+{
+    return u"\"%1\" is no date; it is kept as it was typed"_s.arg(typed);
+}
+
+inline QString beyondOdometers(double reading)
+{
+    return u"No odometer reads %1; nothing was changed"_s.arg(inThousands(reading));
+}
+
+inline QString tooFar(double reading, double current)
+{
+    return u"%1 is far from the present reading, %2; if it is right, change that one on the information "
+           "sheet first"_s.arg(inThousands(reading), inThousands(current));
+}
+
+/// "Step 1 of 5"
+inline QString step(int number, int count)
+{
+    return u"Step %1 of %2"_s.arg(number).arg(count);
+}
+
 inline QString unitNow(DistanceUnit unit)
 {
     return unit == DistanceUnit::Miles
                ? u"All cars count in miles and gallons now; the figures stay as they were typed"_s
                : u"All cars count in kilometers and liters now; the figures stay as they were typed"_s;
+}
+
+/// Before there is a car.
+inline QString firstUnit(DistanceUnit unit)
+{
+    return unit == DistanceUnit::Miles ? u"The first car will count in miles and gallons"_s
+                                       : u"The first car will count in kilometers and liters"_s;
 }
 
 inline QString whatIsRequired()

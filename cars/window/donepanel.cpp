@@ -40,12 +40,14 @@ DonePanel::DonePanel(const CarDesk &desk)
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
     rows->setSpacing(12);
-    auto *boxes = new QHBoxLayout;
+    // One below the other: the calendar has its room beside them.
+    auto *boxes = new QVBoxLayout;
     boxes->setSpacing(boxGap);
     boxes->addLayout(labelled(u"Date:"_s, m_date));
     boxes->addLayout(labelled(m_odometerLabel, m_odometer));
     boxes->addLayout(labelled(u"Cost:"_s, m_cost));
-    boxes->addStretch(1);
+    for (FieldBox *box : {m_odometer, m_cost})
+        box->selectOnFirstClick();
     for (FieldBox *box : {static_cast<FieldBox *>(m_date), m_odometer, m_cost}) {
         box->setFixedWidth(boxWidth(u"12/30/2026 99999"_s, boxWidthUsual));
         connect(box, &FieldBox::refused, this, &DonePanel::said);
@@ -81,7 +83,7 @@ void DonePanel::start(int row)
                            last ? DueWords::distance(*last, m_desk.car.unit()) : action.odometer));
     m_date->setText(Dates::numbers(m_desk.program.clock.today(), m_desk.program.state.dateStyle));
     m_odometer->setText(car.sheet.field(VehicleSheet::Odometer));
-    m_cost->setText(action.cost);
+    m_cost->setText(CarNumbers::shownCost(action.cost));
     m_desk.views.open(this);
     m_odometer->setFocus();
     m_odometer->selectAll();
@@ -96,6 +98,17 @@ bool DonePanel::isRefused(const Message &refusal, FieldBox *box)
     return true;
 }
 
+/// Whether `box` holds no number, or one that cannot be; that is told then.
+bool DonePanel::isSaid(const CarEntry &entry, FieldBox *box)
+{
+    if (!entry.isRefused())
+        return false;
+    emit said(entry.reason);
+    box->setFocus();
+    box->selectAll();
+    return true;
+}
+
 void DonePanel::enter()
 {
     const Program &program = m_desk.program;
@@ -103,15 +116,18 @@ void DonePanel::enter()
     if (date.refusal && isRefused(*date.refusal, m_date))
         return;
     CarRecord wanted = m_desk.car.record();
+    const CarEntry reading = CarEntry::reading(m_odometer->text(), {}, wanted.sheet);
+    const CarEntry cost = CarEntry::money(m_cost->text(), {});
+    if (isSaid(reading, m_odometer) || isSaid(cost, m_cost))
+        return;
     ScheduledAction &action = wanted.sheet.actions[std::size_t(m_row)];
-    const QString reading = m_odometer->text().trimmed();
-    const auto number = CarNumbers::number(reading);
+    const auto number = CarNumbers::number(reading.text);
     QString &current = wanted.sheet.field(VehicleSheet::Odometer);
     if (number && *number > CarNumbers::number(current).value_or(0))
-        current = reading;
-    action.odometer = reading;
+        current = reading.text;
+    action.odometer = reading.text;
     action.date = date.text;
-    action.cost = m_cost->text().trimmed();
+    action.cost = cost.text;
     wanted.maintenance.append({action.odometer, action.date, action.name.trimmed(), action.cost});
     const QString line = CarLines::done(DueWords::name({.row = m_row, .name = action.name.trimmed()}));
     m_picker->dismiss();

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cars/model/carentry.h"
 #include "cars/window/cardesk.h"
 #include "shell/controls/taskpanel.h"
-#include "shell/core/message.h"
 
 class DateBox;
 class DatePicker;
@@ -30,6 +30,7 @@ signals:
 private:
     void enter();
     bool isRefused(const Message &refusal, FieldBox *box);
+    bool isSaid(const CarEntry &entry, FieldBox *box);
 
     CarDesk m_desk;
     int m_row = 0;

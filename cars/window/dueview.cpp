@@ -4,6 +4,7 @@
 #include "cars/model/carnumbers.h"
 #include "cars/model/carwords.h"
 #include "cars/model/duewords.h"
+#include "cars/model/historylines.h"
 #include "cars/model/lines.h"
 #include "cars/window/cargrid.h"
 #include "cars/window/duecards.h"
@@ -14,6 +15,8 @@
 #include "shell/controls/linkbutton.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/titleline.h"
+#include "shell/frame/commands.h"
+#include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
@@ -68,6 +71,7 @@ DueView::DueView(const CarDesk &desk)
     addContent(heading);
     addContent(new WholeRows(m_schedule, nullptr, this), 1);
     setFocusProxy(m_schedule);
+    addClearing();
     connect(m_cards, &DueCards::chosen, this, &DueView::doneRequested);
     connect(m_odometer, &LinkButton::clicked, this, &DueView::odometerRequested);
 }
@@ -81,13 +85,36 @@ CarGrid *DueView::makeSchedule()
     grid->setAccessibleName(u"Maintenance schedule"_s);
     connect(grid, &CarGrid::said, this, &DueView::said);
     connect(grid, &CarGrid::refused, this, [this] { emit said(car().whyLocked(CarPart::Sheet)); });
-    connect(m_model, &ScheduleModel::noticed, this, [this](const Message &message, const QModelIndex &cell) {
-        emit noticed(message);
-        // Behind the box in which that is told.
+    const auto goBack = [this](const QModelIndex &cell) {
+        // Behind the box in which that is told, and behind the way that the key leads.
         QMetaObject::invokeMethod(
             this, [this, cell] { m_schedule->setCurrentIndex(cell); }, Qt::QueuedConnection);
-    });
+    };
+    connect(m_model, &ScheduleModel::noticed, this,
+            [this, goBack](const Message &message, const QModelIndex &cell) {
+                emit noticed(message);
+                goBack(cell);
+            });
+    connect(m_model, &ScheduleModel::refused, this,
+            [this, goBack](const QString &reason, const QModelIndex &cell) {
+                emit said(reason);
+                goBack(cell);
+            });
     return grid;
+}
+
+/// Del empties the chosen cells, as in any worksheet: an action of the schedule is no entry of a history.
+void DueView::addClearing()
+{
+    Commands &all = desk().commands;
+    QAction *clear = all.writing(all.add(
+        nullptr, u"clearCells"_s, u"Clear Cells"_s,
+        [this] {
+            if (const qsizetype cleared = m_model->clear(m_schedule->selectionModel()->selection()))
+                emit said(HistoryLines::cleared(cleared));
+        },
+        [this] { return car().whyLocked(CarPart::Sheet); }));
+    all.setKeyIn(m_schedule, clear, CommonKeys::remove);
 }
 
 void DueView::finishEdit()

@@ -33,6 +33,7 @@ protected:
 
 private:
     CarGrid *makeSchedule();
+    void addClearing();
     void showNeeds();
 
     ScheduleModel *m_model;

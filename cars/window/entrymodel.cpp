@@ -115,6 +115,8 @@ QVariant EntryModel::data(const QModelIndex &index, int role) const
         return cell;
     case CarCell::quietRole:
         return m_typed[index.column()].isEmpty();
+    case CarCell::passedRole:
+        return m_log.isWorkedOut(index.column());
     case CarCell::kindRole:
         return int(m_log.kind(index.column()));
     case CarCell::choicesRole: {
@@ -152,7 +154,16 @@ bool EntryModel::setData(const QModelIndex &index, const QVariant &value, int ro
     const CarEntry entry = m_log.check(index.column(), value.toString(), text);
     text = entry.text;
     refresh();
+    const QString odd = m_log.oddity(index.column(), text, m_cells);
+    if (m_log.isWorkedOut(index.column()) && !odd.isEmpty()) {
+        text.clear(); // the readings tell
+        refresh();
+    }
     if (entry.refusal)
         emit noticed(*entry.refusal, index);
-    return !entry.refusal;
+    else if (entry.isRefused())
+        emit refused(entry.reason, index);
+    else if (!odd.isEmpty())
+        emit said(odd);
+    return !entry.isRefused();
 }

@@ -41,6 +41,9 @@ public:
 signals:
     /// The entry check refuses what was typed into `cell`.
     void noticed(const Message &message, const QModelIndex &cell);
+    /// The same in a quiet line.
+    void refused(const QString &reason, const QModelIndex &cell);
+    void said(const QString &line);
 
 private:
     QStringList proposed() const;

@@ -122,7 +122,14 @@ void HistoryCommands::openCosts()
         m_costs = new CostsPanel(m_desk);
         m_desk.views.addPanel(m_costs);
         connect(m_costs, &CostsPanel::printWanted, this, &HistoryCommands::costsPrintWanted);
+        connect(m_costs, &TaskPanel::left, this, [this] {
+            if (!m_costsFrom)
+                return;
+            m_desk.views.open(m_costsFrom);
+            m_costsFrom->setFocus();
+        });
     }
+    m_costsFrom = shown();
     m_costs->refresh();
     m_desk.views.open(m_costs);
     m_costs->setFocus();
@@ -160,8 +167,7 @@ void HistoryCommands::deleteEntry()
     }
     if (m_desk.program.dialogs.ask(&m_desk.window, CarMessages::deleteEntry()) != Answer::Yes)
         return;
-    const QString line = pane.removeChosen();
-    if (m_desk.car.isNew() || m_desk.car.savePart(view->part()))
+    if (const QString line = pane.removeChosen(LogPane::Removing::Written); !line.isEmpty())
         emit done(line);
 }
 
@@ -173,5 +179,5 @@ void HistoryCommands::deleteFillUp()
     else if (!pane.isRowChosen())
         emit said(HistoryLines::chooseAFillUp());
     else
-        emit done(pane.removeChosen());
+        emit done(pane.removeChosen(LogPane::Removing::Typed));
 }

@@ -47,5 +47,6 @@ private:
     CarDesk m_desk;
     std::vector<LogView *> m_views;
     CsvDesk *m_files;
-    CostsPanel *m_costs = nullptr; ///< made when it is first opened
+    CostsPanel *m_costs = nullptr;  ///< made when it is first opened
+    LogView *m_costsFrom = nullptr; ///< null: from another view
 };

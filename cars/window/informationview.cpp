@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/informationview.h"
 
+#include "cars/model/carentry.h"
+#include "cars/model/carnumbers.h"
 #include "cars/model/duewords.h"
 #include "cars/model/lines.h"
 #include "cars/window/opencar.h"
@@ -42,10 +44,35 @@ void InformationView::finishEdit()
 /// What was typed into a box is the car's.
 void InformationView::take(std::size_t place)
 {
-    const CarRecord wanted = m_form->typed(car().record());
+    CarRecord wanted = m_form->typed(car().record());
     if (wanted == car().record())
         return;
+    const QString remark = amend(wanted);
+    if (wanted == car().record())
+        m_form->show(wanted); // the reading is refused, and the one before stands there again
     car().change(m_form->box(place)->accessibleName(), wanted);
+    if (!remark.isEmpty())
+        emit said(remark);
+}
+
+/// The reading becomes a plain number. The sheet's other texts are free, and what looks mistaken is told.
+QString InformationView::amend(CarRecord &wanted) const
+{
+    const VehicleSheet &before = car().record().sheet;
+    QString &odometer = wanted.sheet.field(VehicleSheet::Odometer);
+    if (odometer != before.field(VehicleSheet::Odometer)) {
+        const CarEntry entry = CarEntry::currentReading(odometer, before.field(VehicleSheet::Odometer));
+        odometer = entry.text;
+        if (entry.isRefused())
+            return entry.reason;
+    }
+    for (const auto field : {VehicleSheet::PurchaseDate, VehicleSheet::InsuranceExpiration}) {
+        const QString &typed = wanted.sheet.field(field);
+        if (typed != before.field(field) && !typed.trimmed().isEmpty() &&
+            !CarNumbers::date(typed, desk().program.state.dateStyle))
+            return CarLines::noDate(typed.trimmed());
+    }
+    return {};
 }
 
 void InformationView::refresh()

@@ -5,6 +5,7 @@
 #include "shell/pictures/picturefolder.h"
 
 class SheetForm;
+struct CarRecord;
 
 /// The information sheet of the open car, and its name. What is typed belongs to the car as soon as its box
 /// is left, and is one step of undo then.
@@ -22,6 +23,7 @@ protected:
 
 private:
     void take(std::size_t place);
+    QString amend(CarRecord &wanted) const;
     void showPicture();
     void showFacts();
 

@@ -16,6 +16,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+constexpr int previousColumn = 1;
+constexpr int drivenColumn = 3;
 constexpr int economyColumn = 5;
 } // namespace
 
@@ -83,10 +85,37 @@ CarEntry LogModel::check(int column, const QString &typed, const QString &before
 {
     if (kind(column) == CarCell::Kind::Date)
         return CarEntry::date(typed, before, m_program.state.dateStyle, m_program.clock.today());
+    if (kind(column) == CarCell::Kind::Words)
+        return {typed, {}};
+    if (column == CarRows::costColumn(m_part))
+        return CarEntry::money(typed, before);
+    const VehicleSheet &sheet = m_open.record().sheet;
     // The reading at a fill-up is where the current one comes from.
-    if (m_part != CarPart::Fuel && column == CarRows::readingColumn(m_part))
-        return CarEntry::odometer(typed, before, m_open.record().sheet);
-    return {typed, {}};
+    if (m_part == CarPart::Fuel)
+        return column == previousColumn || column == CarRows::readingColumn(m_part)
+                   ? CarEntry::reading(typed, before, sheet)
+                   : CarEntry::number(typed, before);
+    return CarEntry::odometer(typed, before, sheet);
+}
+
+bool LogModel::isWorkedOut(int column) const
+{
+    return m_part == CarPart::Fuel && (column == drivenColumn || column == economyColumn);
+}
+
+QString LogModel::oddity(int column, const QString &typed, const QStringList &cells) const
+{
+    if (m_part != CarPart::Fuel || typed.isEmpty())
+        return {};
+    if (isWorkedOut(column) && cells[column] != typed)
+        return HistoryLines::workedOut(CarRows::headings(m_part, m_open.unit()).value(column));
+    const int current = CarRows::readingColumn(m_part);
+    const auto before = CarNumbers::number(cells[previousColumn]);
+    const auto now = CarNumbers::number(cells[current]);
+    const bool isReading = column == previousColumn || column == current;
+    return isReading && before && now && *now < *before
+               ? HistoryLines::below(cells[current], cells[previousColumn])
+               : QString();
 }
 
 CarCell::Kind LogModel::kind(int column) const
@@ -112,7 +141,7 @@ QString LogModel::paste(const QModelIndex &first, const GridText::Rows &rows)
             }
             const QString before = CarRows::text(wanted, m_part, to, at);
             const CarEntry entry = check(at, TabText::cell(rows[row][column]), before);
-            ++(entry.refusal ? leftOut : taken);
+            ++(entry.isRefused() ? leftOut : taken);
             setCell(wanted, to, at, entry.text);
         }
     }
@@ -131,13 +160,11 @@ void LogModel::setCell(CarRecord &car, qsizetype row, int column, const QString 
         car.fuel[row] = FuelFigures::completed(car.fuel[row], car.fuel.first(row));
 }
 
-QString LogModel::remove(int row)
+LogModel::Removal LogModel::removal(int row) const
 {
-    CarRecord wanted = m_open.record();
-    QString title = HistoryLines::deleted(titleOf(row));
-    CarRows::remove(wanted, m_part, m_order[row]);
-    m_open.change(title, wanted);
-    return title;
+    Removal removal{HistoryLines::deleted(titleOf(row)), m_open.record()};
+    CarRows::remove(removal.wanted, m_part, m_order[row]);
+    return removal;
 }
 
 int LogModel::rowCount(const QModelIndex &parent) const
@@ -167,9 +194,13 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         if (fillUp && fillUp->kind != FillUp::Kind::Counted)
             return HistoryLines::mark(fillUp->kind, TabText::cell(text(index)));
+        if (index.column() == CarRows::costColumn(m_part))
+            return CarNumbers::shownCost(TabText::cell(text(index)));
         [[fallthrough]];
     case Qt::EditRole:
         return TabText::cell(text(index));
+    case CarCell::passedRole:
+        return isWorkedOut(index.column());
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return fillUp ? CostWords::whyNotCounted(fillUp->kind) : QString();
@@ -210,13 +241,19 @@ bool LogModel::setData(const QModelIndex &index, const QVariant &value, int role
     if (value.toString() == before)
         return true; // left as it is in the file
     const CarEntry entry = check(index.column(), value.toString(), before);
-    if (entry.refusal) {
+    if (entry.refusal)
         emit noticed(*entry.refusal, index);
+    else if (entry.isRefused())
+        emit refused(entry.reason, index);
+    if (entry.isRefused())
         return false;
-    }
     CarRecord wanted = m_open.record();
-    setCell(wanted, m_order[index.row()], index.column(), entry.text);
+    const qsizetype row = m_order[index.row()];
+    setCell(wanted, row, index.column(), entry.text);
+    const QString odd = oddity(index.column(), entry.text, CarRows::cells(wanted, m_part, row));
     const QString heading = CarRows::headings(m_part, m_open.unit()).value(index.column());
     m_open.change(HistoryLines::changed(heading, titleOf(index.row())), wanted);
+    if (!odd.isEmpty())
+        emit said(odd);
     return true;
 }

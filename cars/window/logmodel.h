@@ -36,13 +36,22 @@ public:
 
     /// What becomes of `typed` in a cell of `column` where `before` stood.
     CarEntry check(int column, const QString &typed, const QString &before) const;
+    /// Whether the other cells of a row decide those of `column`.
+    bool isWorkedOut(int column) const;
+    /// What a person should know of a row that has become `cells` by what was typed into `column`; mostly
+    /// nothing.
+    QString oddity(int column, const QString &typed, const QStringList &cells) const;
     /// What one types into a column.
     CarCell::Kind kind(int column) const;
 
     /// Puts `rows` into the cells from `first` on, in one step, and tells what came of it.
     QString paste(const QModelIndex &first, const GridText::Rows &rows);
-    /// Takes the row away, in one step, and tells it.
-    QString remove(int row);
+    /// The car without a row, and what taking it away is called.
+    struct Removal {
+        QString title;
+        CarRecord wanted;
+    };
+    Removal removal(int row) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -54,6 +63,9 @@ public:
 signals:
     /// The entry check refuses what was typed into `cell`.
     void noticed(const Message &message, const QModelIndex &cell);
+    /// The same in a quiet line.
+    void refused(const QString &reason, const QModelIndex &cell);
+    void said(const QString &line);
 
 private:
     QString text(const QModelIndex &index) const;

@@ -69,18 +69,29 @@ void LogPane::connectGrids()
     connect(m_entry, &CarGrid::entered, this, &LogPane::take);
     connect(m_list, &CarGrid::roomChanged, m_entry, &CarGrid::fitColumns);
     connect(m_list, &CarGrid::currentMoved, this, &LogPane::chosen);
-    connect(m_new, &EntryModel::noticed, this, [this](const Message &message, const QModelIndex &cell) {
-        emit noticed(message);
-        // Behind the box in which that is told.
+    connectModel(m_new, m_entry);
+    connectModel(m_model, m_list);
+}
+
+/// What is refused is told, and can be typed anew.
+template <typename Model>
+void LogPane::connectModel(const Model *model, CarGrid *grid)
+{
+    const auto goBack = [this, grid](const QModelIndex &cell) {
+        // Behind the box in which that is told, and behind the way that the key leads.
         QMetaObject::invokeMethod(
-            this, [this, cell] { m_entry->setCurrentIndex(cell); }, Qt::QueuedConnection);
-    });
-    connect(m_model, &LogModel::noticed, this, [this](const Message &message, const QModelIndex &cell) {
-        emit noticed(message);
-        QMetaObject::invokeMethod(
-            this, [this, at = QPersistentModelIndex(cell)] { m_list->setCurrentIndex(at); },
+            this, [grid, at = QPersistentModelIndex(cell)] { grid->setCurrentIndex(at); },
             Qt::QueuedConnection);
+    };
+    connect(model, &Model::noticed, this, [this, goBack](const Message &message, const QModelIndex &cell) {
+        emit noticed(message);
+        goBack(cell);
     });
+    connect(model, &Model::refused, this, [this, goBack](const QString &reason, const QModelIndex &cell) {
+        emit said(reason);
+        goBack(cell);
+    });
+    connect(model, &Model::said, this, &LogPane::said);
 }
 
 void LogPane::refresh()
@@ -151,11 +162,18 @@ void LogPane::add(Adding adding)
     m_new->clear();
     if (m_amend)
         m_amend(wanted, row, adding);
-    const QString title = HistoryLines::added(m_model->titleOf(wanted, row));
-    m_desk.car.change(title, wanted);
+    const QString what = m_model->titleOf(wanted, row);
+    const QStringList missing = HistoryLines::missing(part, CarRows::cells(wanted, part, row));
+    m_desk.car.change(HistoryLines::added(what), wanted);
     m_list->setCurrentIndex(m_model->index(m_model->rowOf(row), 0));
     m_list->scrollTo(m_list->currentIndex());
-    emit added(title);
+    m_entry->setCurrentIndex(m_new->index(0, m_new->firstColumn()));
+    if (adding == Adding::Asked)
+        emit added(HistoryLines::added(what));
+    else // behind what is said of the view that comes
+        QMetaObject::invokeMethod(
+            this, [this, line = HistoryLines::addedOnLeaving(what, missing)] { emit added(line); },
+            Qt::QueuedConnection);
 }
 
 void LogPane::propose(const QStringList &cells)
@@ -171,12 +189,17 @@ bool LogPane::isRowChosen() const
     return m_list->currentIndex().isValid();
 }
 
-QString LogPane::removeChosen()
+QString LogPane::removeChosen(Removing how)
 {
     m_list->finishEdit();
-    QString line = m_model->remove(m_list->currentIndex().row());
+    const LogModel::Removal removal = m_model->removal(m_list->currentIndex().row());
+    OpenCar &car = m_desk.car;
+    const bool isTaken =
+        how == Removing::Typed || car.isNew() || car.savePart(m_model->part(), removal.wanted);
+    if (isTaken)
+        car.change(removal.title, removal.wanted);
     m_list->setFocus();
-    return line;
+    return isTaken ? removal.title : QString();
 }
 
 void LogPane::copy()

@@ -50,8 +50,10 @@ public:
     void propose(const QStringList &cells);
     /// Whether a row is chosen.
     bool isRowChosen() const;
-    /// Takes the chosen row away; what was done, in words.
-    QString removeChosen();
+    enum class Removing { Typed, Written };
+    /// Takes the chosen row away, from its file too where it is to be written at once; what was done, in
+    /// words. Empty where the disk refuses.
+    QString removeChosen(Removing how);
     void copy();
     void paste();
 
@@ -70,6 +72,8 @@ protected:
 private:
     CarGrid *makeGrid(const QString &name, QAbstractItemModel *model, const QString &accessibleName);
     void connectGrids();
+    template <typename Model>
+    void connectModel(const Model *model, CarGrid *grid);
     void add(Adding adding);
     void place();
 

@@ -53,7 +53,8 @@ void OpenCar::load(int slot)
 {
     if (slot == 0) {
         CarRecord none;
-        none.sheet.unit = m_files.unit();
+        none.sheet.unit =
+            m_files.vehicles().isEmpty() ? m_firstUnit.value_or(m_files.unit()) : m_files.unit();
         open(none, {}, false);
         return;
     }
@@ -66,6 +67,12 @@ void OpenCar::load(int slot)
             break;
         }
     }
+}
+
+void OpenCar::setFirstUnit(DistanceUnit unit)
+{
+    m_firstUnit = unit;
+    load(0);
 }
 
 void OpenCar::startNew(const CarRecord &record)
@@ -113,24 +120,24 @@ bool OpenCar::save()
     return true;
 }
 
-bool OpenCar::savePart(CarPart part)
+bool OpenCar::savePart(CarPart part, const CarRecord &wanted)
 {
-    CarRecord wanted = *m_saved;
+    CarRecord saved = *m_saved;
     switch (part) {
     case CarPart::Sheet:
-        wanted.sheet = m_record->sheet;
+        saved.sheet = wanted.sheet;
         break;
     case CarPart::Maintenance:
-        wanted.maintenance = m_record->maintenance;
+        saved.maintenance = wanted.maintenance;
         break;
     case CarPart::Repairs:
-        wanted.repairs = m_record->repairs;
+        saved.repairs = wanted.repairs;
         break;
     case CarPart::Fuel:
-        wanted.fuel = m_record->fuel;
+        saved.fuel = wanted.fuel;
         break;
     }
-    return write(wanted);
+    return write(saved);
 }
 
 bool OpenCar::write(const CarRecord &wanted)

@@ -43,14 +43,16 @@ public:
     /// Shows what the files of `slot` hold; what was typed is dropped. 0: no car.
     void load(int slot);
     void reload() { load(slot()); }
+    /// What the first car will be counted in, where there is none yet: it is kept with that car.
+    void setFirstUnit(DistanceUnit unit);
     /// A car that no file has yet begins as `record`.
     void startNew(const CarRecord &record);
     /// Makes the car `wanted`, in one step that undo calls `title`; nothing happens where it is so already.
     void change(const QString &title, const CarRecord &wanted);
     /// Writes what was typed. False when the disk refuses.
     [[nodiscard]] bool save();
-    /// The same of what was typed into the file of `part` alone.
-    [[nodiscard]] bool savePart(CarPart part);
+    /// Writes what `wanted` has in the file of `part`, and nothing else of it.
+    [[nodiscard]] bool savePart(CarPart part, const CarRecord &wanted);
     /// The names of its files, and of the list.
     QStringList fileNames() const;
 
@@ -87,6 +89,7 @@ private:
     Record m_record;
     Record m_saved;
     States m_states{};
+    std::optional<DistanceUnit> m_firstUnit;
     bool m_isNew = false;
     mutable std::optional<Outlook> m_outlook;
 };

@@ -2,9 +2,10 @@
 #include "cars/window/schedulemodel.h"
 
 #include "cars/model/cardates.h"
-#include "cars/model/carentry.h"
+#include "cars/model/carnumbers.h"
 #include "cars/model/carwords.h"
 #include "cars/model/duewords.h"
+#include "cars/model/historylines.h"
 #include "cars/window/carcell.h"
 #include "cars/window/opencar.h"
 #include "cars/window/signline.h"
@@ -147,6 +148,7 @@ QVariant ScheduleModel::data(const QModelIndex &index, int role) const
     const bool isComputed = index.column() >= ScheduleColumn::remainingDistance;
     switch (role) {
     case Qt::DisplayRole:
+        return index.column() == ScheduleColumn::lastCost ? CarNumbers::shownCost(text(index)) : text(index);
     case Qt::EditRole:
         return text(index);
     case Qt::TextAlignmentRole:
@@ -198,6 +200,37 @@ Qt::ItemFlags ScheduleModel::flags(const QModelIndex &index) const
     return isTyped && m_car.whyLocked(CarPart::Sheet).isEmpty() ? flags | Qt::ItemIsEditable : flags;
 }
 
+CarEntry ScheduleModel::check(int column, const QString &typed, const QString &before) const
+{
+    switch (column) {
+    case ScheduleColumn::action:
+        return {typed, {}};
+    case ScheduleColumn::lastReading:
+        return CarEntry::odometer(typed, before, m_car.record().sheet);
+    case ScheduleColumn::lastDate:
+        return CarEntry::date(typed, before, m_program.state.dateStyle, m_program.clock.today());
+    case ScheduleColumn::lastCost:
+        return CarEntry::money(typed, before);
+    default:
+        return CarEntry::number(typed, before);
+    }
+}
+
+qsizetype ScheduleModel::clear(const QItemSelection &chosen)
+{
+    CarRecord wanted = m_car.record();
+    qsizetype cleared = 0;
+    for (const QModelIndex &index : chosen.indexes()) {
+        if (!flags(index).testFlag(Qt::ItemIsEditable))
+            continue;
+        QString &text = wanted.sheet.actions[std::size_t(index.row())].*texts[std::size_t(index.column())];
+        cleared += text.isEmpty() ? 0 : 1;
+        text.clear();
+    }
+    m_car.change(HistoryLines::cleared(cleared), wanted);
+    return cleared;
+}
+
 bool ScheduleModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
     if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
@@ -205,15 +238,13 @@ bool ScheduleModel::setData(const QModelIndex &index, const QVariant &value, int
     const QString before = text(index);
     if (value.toString() == before)
         return true; // left as it is in the file
-    CarEntry entry{value.toString(), {}};
-    if (index.column() == ScheduleColumn::lastReading)
-        entry = CarEntry::odometer(value.toString(), before, m_car.record().sheet);
-    else if (index.column() == ScheduleColumn::lastDate)
-        entry = CarEntry::date(value.toString(), before, m_program.state.dateStyle, m_program.clock.today());
-    if (entry.refusal) {
+    const CarEntry entry = check(index.column(), value.toString(), before);
+    if (entry.refusal)
         emit noticed(*entry.refusal, index);
+    else if (entry.isRefused())
+        emit refused(entry.reason, index);
+    if (entry.isRefused())
         return false;
-    }
     CarRecord wanted = m_car.record();
     ScheduledAction &action = wanted.sheet.actions[std::size_t(index.row())];
     action.*texts[std::size_t(index.column())] = entry.text;

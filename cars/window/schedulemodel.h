@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cars/model/carentry.h"
 #include "cars/model/carneeds.h"
 #include "cars/model/vehiclesheet.h"
-#include "shell/core/message.h"
 
 #include <QAbstractTableModel>
+#include <QItemSelection>
 
 class OpenCar;
 struct Program;
@@ -32,6 +33,8 @@ public:
 
     /// Shows the schedule as it is now.
     void refresh();
+    /// Takes away what stands in the `chosen` cells, in one step; how many there were.
+    qsizetype clear(const QItemSelection &chosen);
     /// The first row without an action; the last one where there is none.
     int firstFree() const;
 
@@ -45,9 +48,12 @@ public:
 signals:
     /// The entry check refuses what was typed into `cell`.
     void noticed(const Message &message, const QModelIndex &cell);
+    /// The same in a quiet line.
+    void refused(const QString &reason, const QModelIndex &cell);
 
 private:
     QString text(const QModelIndex &index) const;
+    CarEntry check(int column, const QString &typed, const QString &before) const;
     const CarNeed *need(int row) const;
     int alarm(const QModelIndex &index) const;
 

@@ -2,6 +2,7 @@
 #include "cars/model/carentry.h"
 #include "cars/model/carmakes.h"
 #include "cars/model/carnumbers.h"
+#include "cars/model/lines.h"
 #include "cars/model/messages.h"
 #include "tests/support/rows.h"
 
@@ -58,10 +59,9 @@ private slots:
                     Message::Critical};
         rows<QString, QString, QString, Refusal>({
             {"below the current one", u"84,210"_s, u" 84209 "_s, u"84209"_s, {}},
-            {"the current one", u"84,210"_s, u"84,210"_s, u"84,210"_s, {}},
+            {"the current one", u"84,210"_s, u"84,210"_s, u"84210"_s, {}},
             {"above it", u"84,210"_s, u"84,211"_s, u"before"_s, refusal},
-            {"no current one", {}, u"84,211"_s, u"84,211"_s, {}},
-            {"no number", u"84,210"_s, u"unknown"_s, u"unknown"_s, {}},
+            {"no current one", {}, u"84,211"_s, u"84211"_s, {}},
             {"taken away", u"84,210"_s, {}, u""_s, {}},
         });
     }
@@ -76,6 +76,56 @@ private slots:
         const Refusal inKilometers = CarEntry::odometer(typed, {}, sheet).refusal;
         QCOMPARE(inKilometers.has_value(), refusal.has_value());
         QVERIFY(!inKilometers || inKilometers->text.startsWith(u"Kilometers entry Cannot"_s));
+    }
+
+    void storesPlainNumbers_data()
+    {
+        const auto none = [](const QString &typed) { return CarLines::noNumber(typed); };
+        rows<QString, QString, QString, QString>({
+            {"digits", u" 84210 "_s, u"84210"_s, u"84210.00"_s, {}},
+            {"decimals as they are typed", u"10.530"_s, u"10.530"_s, u"10.53"_s, {}},
+            {"thousands", u"12,345"_s, u"12345"_s, u"12345.00"_s, {}},
+            {"a decimal comma", u"52,40"_s, u"52.4"_s, u"52.40"_s, {}},
+            {"a sum", u"5+4.5"_s, u"9.5"_s, u"9.50"_s, {}},
+            {"a sum of tenths", u"0.1 + 0.2"_s, u"0.3"_s, u"0.30"_s, {}},
+            {"a unit and a currency", u"$1,240.5 each"_s, u"1240.5"_s, u"1240.50"_s, {}},
+            {"taken away", u" "_s, {}, {}, {}},
+            {"a word", u"abc"_s, u"before"_s, u"before"_s, none(u"abc"_s)},
+            {"a date", u"11/20/2026"_s, u"before"_s, u"before"_s, none(u"11/20/2026"_s)},
+            {"two numbers", u"5000 or 6000"_s, u"before"_s, u"before"_s, none(u"5000 or 6000"_s)},
+            {"thousands and decimals the other way round", u"1.234,56"_s, u"before"_s, u"before"_s,
+             none(u"1.234,56"_s)},
+            {"half a sum", u"5+"_s, u"before"_s, u"before"_s, none(u"5+"_s)},
+        });
+    }
+
+    void storesPlainNumbers()
+    {
+        const auto [typed, number, money, reason] = row<QString, QString, QString, QString>();
+        QCOMPARE(CarEntry::number(typed, u"before"_s), (CarEntry{number, {}, reason}));
+        QCOMPARE(CarEntry::money(typed, u"before"_s), (CarEntry{money, {}, reason}));
+    }
+
+    void refusesReadingsThatCannotBe_data()
+    {
+        rows<QString, QString, bool>({
+            {"further on", u"84210"_s, u"90,000"_s, true},
+            {"typed into the other one", u"84210"_s, u"8421084300"_s, false},
+            {"ten times", u"84,210"_s, u"842100"_s, false},
+            {"of a new car", u"12"_s, u"310"_s, true},
+            {"no current one", {}, u"842100"_s, true},
+            {"more digits than any", {}, u"10000000"_s, false},
+        });
+    }
+
+    void refusesReadingsThatCannotBe()
+    {
+        const auto [current, typed, isTaken] = row<QString, QString, bool>();
+        VehicleSheet sheet;
+        sheet.field(VehicleSheet::Odometer) = current;
+        const CarEntry entry = CarEntry::reading(typed, u"before"_s, sheet);
+        QCOMPARE(entry.isRefused(), !isTaken);
+        QCOMPARE(entry.text == u"before"_s, !isTaken);
     }
 
     void checksDates_data()

@@ -82,7 +82,7 @@ private slots:
              u"84211"_s,
              u"81210"_s,
              {CarMessages::aboveCurrentReading(DistanceUnit::Miles)}},
-            {"the present reading", 3, u"84,210"_s, u"84,210"_s, {}},
+            {"the present reading", 3, u"84,210"_s, u"84210"_s, {}},
             {"no date", 4, u"13/45/2026"_s, u"03/02/2026"_s, {CarMessages::invalidDate()}},
             {"tomorrow", 4, u"11/22/2026"_s, u"03/02/2026"_s, {CarMessages::dateToCome()}},
             {"today", 4, u"Nov-21-2026"_s, u"11/21/2026"_s, {}},
@@ -100,12 +100,60 @@ private slots:
             trigger("mEUndo");
     }
 
+    void emptiesCellsOfTheSchedule()
+    {
+        open(TestProgram::Household);
+        grid("Grid4")->setFocus();
+        grid("Grid4")->setCurrentIndex(grid("Grid4")->model()->index(0, 2));
+        grid("Grid4")->selectionModel()->select(
+            QItemSelection(grid("Grid4")->model()->index(0, 1), grid("Grid4")->model()->index(0, 7)),
+            QItemSelectionModel::ClearAndSelect);
+        QTest::keyClick(grid("Grid4"), Qt::Key_Delete);
+        QCOMPARE(said(), u"5 cells cleared"_s);
+        QCOMPARE(cells("Grid4", 0).first(6), (QStringList{u"Change Oil and Filter"_s, {}, {}, {}, {}, {}}));
+        trigger("mEUndo");
+        QVERIFY(!m_window->isModified());
+        // What is no number is not taken.
+        enter("Grid4", 0, 1, u"abc"_s);
+        QCOMPARE(said(), CarLines::noNumber(u"abc"_s));
+        enter("Grid4", 0, 5, u"52,40"_s);
+        QCOMPARE(cells("Grid4", 0)[1], u"5000"_s);
+        QCOMPARE(cells("Grid4", 0)[5], u"52.40"_s);
+    }
+
+    void looksAtTheReadingsOfASheet()
+    {
+        open(TestProgram::Household);
+        trigger("mVInfo");
+        fill("Text1_22", u"84,300"_s);
+        QTest::keyClick(find<QLineEdit>("Text1_22"), Qt::Key_Tab);
+        QCOMPARE(text("Text1_22"), u"84300"_s);
+        // A click and typing put a new number in place of the old one.
+        trigger("mEUndo");
+        auto *box = find<QLineEdit>("Text1_22");
+        find<QLineEdit>("Text1_0")->setFocus();
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(20, box->height() / 2));
+        QTest::keyClicks(box, u"84250"_s);
+        QCOMPARE(box->text(), u"84250"_s);
+        fill("Text1_22", u"8421084300"_s);
+        QTest::keyClick(box, Qt::Key_Tab);
+        QCOMPARE(said(), CarLines::beyondOdometers(8421084300));
+        QCOMPARE(text("Text1_22"), u"84250"_s);
+        fill("Text1_4", u"Toy"_s);
+        QTest::keyClick(find<QLineEdit>("Text1_4"), Qt::Key_Tab);
+        QCOMPARE(said(), CarLines::noDate(u"Toy"_s));
+        QCOMPARE(text("Text1_4"), u"Toy"_s);
+    }
+
     void entersWhatWasDone()
     {
         open(TestProgram::Household);
         click("done_0");
-        fill("doneOdometer", u"84300"_s);
-        fill("doneCost", u"55.00"_s);
+        fill("doneOdometer", u"8421084300"_s);
+        click("doneEnter");
+        QCOMPARE(said(), CarLines::beyondOdometers(8421084300));
+        fill("doneOdometer", u"84,300"_s);
+        fill("doneCost", u"55"_s);
         click("doneEnter");
         QCOMPARE(said(), u"Done: Change Oil and Filter"_s);
         QCOMPARE(labelText("dueTitle"), u"One thing is overdue"_s);
@@ -149,9 +197,14 @@ private slots:
         open(TestProgram::Empty);
         trigger("mVDue");
         QCOMPARE(asked(), {CarMessages::noFiles()});
-        trigger("mOSave");
-        QCOMPARE(asked(), {CarMessages::noneSelected()});
+        for (const char *command : {"mOSave", "mOPrt", "mOPRecord"}) {
+            trigger(command);
+            QCOMPARE(asked(), {CarMessages::noneSelected()});
+        }
+        trigger("mOProgKilo");
+        QCOMPARE(said(), CarLines::firstUnit(DistanceUnit::Kilometers));
         click("emptyCreate");
+        QCOMPARE(labelText("informationViewStep"), u"Step 1 of 5"_s);
         fill("Text1_0", u"Van"_s);
         fill("Text1_20", u"Toyota"_s);
         QVERIFY(find<QComboBox>("Combo7")->findText(u"Sienna"_s) >= 0);
@@ -166,6 +219,8 @@ private slots:
         for (const QString &name : {u"ACar1.Fil"_s, u"MCar1.Fil"_s, u"RCar1.Fil"_s})
             QVERIFY2(m_test->folder.exists(name), qPrintable(name));
         QCOMPARE(m_test->bytes(u"MCar1.Fil"_s), QByteArray());
+        QVERIFY(m_test->bytes(u"ACar1.Fil"_s).contains("\r\n\"1\"\r\n"));
+        QVERIFY(find<QAction>("mOProgKilo")->isChecked());
     }
 
     void leavesTheRoutineWithoutACar()

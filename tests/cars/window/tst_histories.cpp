@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/model/historylines.h"
+#include "cars/model/lines.h"
 #include "cars/model/messages.h"
 #include "cars/window/automaint.h"
 #include "cars/window/cargrid.h"
@@ -137,7 +138,7 @@ private slots:
              u"84,211"_s,
              {above},
              u"80569"_s},
-            {"the present reading", "mVMaint", "maintenanceList", 0, u"84,210"_s, {}, u"84,210"_s},
+            {"the present reading", "mVMaint", "maintenanceList", 0, u"84,210"_s, {}, u"84210"_s},
             {"something new, too", "mVMaint", "Grid2", 0, u"90000"_s, {above}, u"84210"_s},
             {"no date", "mVRep", "Grid1", 1, u"soon"_s, {CarMessages::invalidDate()}, u"08/14/2024"_s},
             {"tomorrow", "mVRep", "Grid3", 1, u"11/22/2026"_s, {CarMessages::dateToCome()}, u"11/21/2026"_s},
@@ -165,6 +166,62 @@ private slots:
         QCOMPARE(cell(name, 0, column), shown);
     }
 
+    void tellsInAQuietLineWhatIsOdd_data()
+    {
+        rows<QByteArray, QByteArray, int, QString, QString, QString>({
+            {"no number", "mVFuel", "fuelGrid", 4, u"abc"_s, CarLines::noNumber(u"abc"_s), u"7.8"_s},
+            {"a sum", "mVFuel", "fuelGrid", 4, u"5+4.5"_s, {}, u"9.5"_s},
+            {"a cost", "mVRep", "Grid1", 3, u"240"_s, {}, u"240.00"_s},
+            {"a reading typed into another", "mVFuel", "fuelEntry", 1, u"8282083100"_s,
+             CarLines::beyondOdometers(8282083100), u"82820"_s},
+            {"a reading far away",
+             "mVFuel",
+             "fuelEntry",
+             2,
+             u"842,100"_s,
+             CarLines::tooFar(842100, 84210),
+             {}},
+            {"a reading below the one before", "mVFuel", "fuelEntry", 2, u"82000"_s,
+             HistoryLines::below(u"82000"_s, u"82820"_s), u"82000"_s},
+            {"a distance that the readings tell", "mVFuel", "fuelGrid", 3, u"5"_s,
+             HistoryLines::workedOut(u"Miles Driven"_s), u"225"_s},
+        });
+    }
+
+    void tellsInAQuietLineWhatIsOdd()
+    {
+        const auto [view, name, column, typed, line, shown] =
+            row<QByteArray, QByteArray, int, QString, QString, QString>();
+        open(view);
+        enter(name, 0, column, typed);
+        QCOMPARE(cell(name, 0, column), shown);
+        if (!line.isEmpty())
+            QCOMPARE(said(), line);
+    }
+
+    void entersAFillUpWithThreeReturns()
+    {
+        open("mVFuel");
+        for (const QString &typed : {u"84300"_s, u"48"_s, u"33"_s}) {
+            for (const QChar character : typed)
+                QTest::keyClick(typingPlace("fuelEntry"), character.toLatin1());
+            press("fuelEntry", Qt::Key_Return);
+        }
+        QCOMPARE(cells("fuelGrid", 0).mid(1),
+                 QStringList({u"82820"_s, u"84300"_s, u"1480"_s, u"48"_s, u"30.8"_s, u"33.00"_s}));
+        QCOMPARE(grid("fuelEntry")->currentIndex().column(), 2);
+        // A click into a number and typing put another in its place.
+        const QRect previous = grid("fuelEntry")->visualRect(grid("fuelEntry")->model()->index(0, 1));
+        QTest::mouseClick(grid("fuelEntry")->viewport(), Qt::LeftButton, {}, previous.center());
+        for (const char character : {'8', '4', '3', '0', '5'})
+            QTest::keyClick(typingPlace("fuelEntry"), character);
+        press("fuelEntry", Qt::Key_Return);
+        QCOMPARE(cell("fuelEntry", 0, 1), u"84305"_s);
+        // What is left half typed is added, and told.
+        open("mVRep");
+        QCOMPARE(said(), u"Added: fill-up, Nov 21, 2026, without its reading and fuel and cost"_s);
+    }
+
     void takesADateFromTheCalendar()
     {
         open("mVMaint");
@@ -190,7 +247,7 @@ private slots:
         QGuiApplication::clipboard()->setText(u"Valves\t10.00\tand more\nBelt\t20\nlost\n"_s);
         trigger("mEPasteCells");
         QCOMPARE(said(), HistoryLines::pastedInPart(4, 2));
-        QCOMPARE(cells("maintenanceList", 9).mid(2), QStringList({u"Belt"_s, u"20"_s}));
+        QCOMPARE(cells("maintenanceList", 9).mid(2), QStringList({u"Belt"_s, u"20.00"_s}));
         trigger("mECopyCells");
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Valves\n"_s);
         trigger("mEUndo");
@@ -252,7 +309,7 @@ private slots:
         QCOMPARE(labelText("calculatorTrip"), u"10.0 gallons, 34.00"_s);
         click("calculatorEnter");
         QCOMPARE(cells("fuelEntry", 0), QStringList({u"11/21/2026"_s, u"82820"_s, u"83120"_s, u"300"_s,
-                                                     u"6+4"_s, u"30.0"_s, u"33"_s}));
+                                                     u"10"_s, u"30.0"_s, u"33.00"_s}));
     }
 
     void takesRowsOutAndIn()
@@ -275,13 +332,28 @@ private slots:
         QVERIFY(!m_window->isModified());
     }
 
+    void keepsAnEntryThatTheDiskKeeps()
+    {
+        open("mVRep");
+        grid("Grid1")->setCurrentIndex(grid("Grid1")->model()->index(1, 2));
+        const QString path = m_test->folder.filePath(u"RCar1.Fil"_s);
+        QVERIFY(QFile::remove(path) && QDir().mkdir(path));
+        m_test->dialogs.willAnswer(Answer::Yes);
+        click("Command19_1");
+        asked();
+        QCOMPARE(cell("Grid1", 1, 2), u"New tires, front"_s);
+        QVERIFY(!m_window->isModified());
+        QVERIFY(said() != HistoryLines::deleted(u"New tires, front, May 22, 2024"_s));
+    }
+
     void showsWhatItCosts()
     {
         open("mVFuel");
         click("fuelCosts");
         const auto *table = find<QTableView>("costsTable")->model();
         QCOMPARE(table->index(0, 1).data().toString(), u"564.06"_s);
-        click("costsClose");
+        QTest::keyClick(find<QWidget>("costsTable"), Qt::Key_Escape);
+        QVERIFY(grid("fuelGrid")->isVisible());
     }
 
     void printsWhatIsShown_data()
