@@ -158,7 +158,10 @@ void AutoMaint::makeListButtons(QAction *create, QAction *remove)
         commands().button(create, u"emptyCreate"_s, create->text(), m_emptyPage, ButtonKind::Main));
     m_emptyPage->addButton(commands().button(standard(Standard::Restore), u"emptyRestore"_s,
                                              standard(Standard::Restore)->text(), m_emptyPage));
-    commands().setKeyIn(m_list->focusProxy(), remove, CommonKeys::remove);
+    // Del works in the list alone, and stands in no menu for it: there it is that of the entries.
+    QAction *key = commands().writing(
+        commands().add(nullptr, u"deleteFileKey"_s, remove->text(), [remove] { remove->trigger(); }));
+    commands().setKeyIn(m_list->focusProxy(), key, CommonKeys::remove);
 }
 
 /// Each view has the same buttons at the right.

@@ -36,15 +36,11 @@ void CarChanges::addEditCommands(QMenu *edit)
 
 void CarChanges::addUnitCommands(QMenu *options)
 {
-    const auto unless = [this] {
-        return m_hands.hasCars() || m_desk.car.isNew() ? QString() : CarLines::noCarYet();
-    };
     Commands &all = m_desk.commands;
-    m_miles = all.writing(all.add(
-        options, u"mOProgMiles"_s, u"&Miles"_s, [this] { changeUnit(DistanceUnit::Miles); }, unless));
-    m_kilometers = all.writing(all.add(
-        options, u"mOProgKilo"_s, u"&Kilometers"_s, [this] { changeUnit(DistanceUnit::Kilometers); },
-        unless));
+    m_miles = all.writing(
+        all.add(options, u"mOProgMiles"_s, u"&Miles"_s, [this] { changeUnit(DistanceUnit::Miles); }));
+    m_kilometers = all.writing(all.add(options, u"mOProgKilo"_s, u"&Kilometers"_s,
+                                       [this] { changeUnit(DistanceUnit::Kilometers); }));
     for (QAction *unit : {m_miles, m_kilometers})
         unit->setCheckable(true);
 }
@@ -109,7 +105,10 @@ void CarChanges::bringBack(const Trash::Item &item)
 void CarChanges::changeUnit(DistanceUnit unit)
 {
     OpenCar &car = m_desk.car;
-    if (car.unit() != unit && !m_hands.hasCars()) { // the first car that is being made decides
+    if (car.unit() != unit && !car.isOpen()) {
+        car.setFirstUnit(unit);
+        emit said(CarLines::firstUnit(unit));
+    } else if (car.unit() != unit && !m_hands.hasCars()) { // the first car that is being made decides
         CarRecord wanted = car.record();
         wanted.sheet.unit = unit;
         car.change(CarLines::unitNow(unit), wanted);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/carprint.h"
 
-#include "cars/model/lines.h"
+#include "cars/model/messages.h"
 #include "cars/window/carcharts.h"
 #include "cars/window/opencar.h"
 #include "shell/charts/paperchart.h"
@@ -35,39 +35,35 @@ CarPrint::~CarPrint() = default;
 QAction *CarPrint::addCommands(QMenu *menu)
 {
     Commands &all = m_desk.commands;
-    const auto unless = [this] { return whyNoCar(); };
     QAction *print = all.add(
-        menu, u"mOPrt"_s, u"&Print"_s, [this] { printShown(); }, unless, CommonKeys::print);
-    all.add(
-        menu, u"mOPCosts"_s, u"Print Cos&ts"_s, [this] { printCosts(); }, unless);
-    all.add(
-        menu, u"mOPRecord"_s, u"Print Whole &Record"_s,
-        [this] {
-            show(u"Record"_s, [](const auto &car, const auto &pictures, const auto &context) {
-                return CarPages::record(car, CarPages::Reader::Family, pictures, context);
-            });
-        },
-        unless);
-    all.add(
-        menu, u"mOPBuyer"_s, u"Print Record for a &Buyer"_s,
-        [this] {
-            show(u"Record for a Buyer"_s, [](const auto &car, const auto &pictures, const auto &context) {
-                return CarPages::record(car, CarPages::Reader::Buyer, pictures, context);
-            });
-        },
-        unless);
-    all.add(
-        menu, u"mOPAll"_s, u"What &All Our Cars Need"_s, [this] { printAll(); }, unless);
+        menu, u"mOPrt"_s, u"&Print"_s, [this] { printShown(); }, {}, CommonKeys::print);
+    all.add(menu, u"mOPCosts"_s, u"Print Cos&ts"_s, [this] { printCosts(); });
+    all.add(menu, u"mOPRecord"_s, u"Print Whole &Record"_s, [this] {
+        show(u"Record"_s, [](const auto &car, const auto &pictures, const auto &context) {
+            return CarPages::record(car, CarPages::Reader::Family, pictures, context);
+        });
+    });
+    all.add(menu, u"mOPBuyer"_s, u"Print Record for a &Buyer"_s, [this] {
+        show(u"Record for a Buyer"_s, [](const auto &car, const auto &pictures, const auto &context) {
+            return CarPages::record(car, CarPages::Reader::Buyer, pictures, context);
+        });
+    });
+    all.add(menu, u"mOPAll"_s, u"What &All Our Cars Need"_s, [this] { printAll(); });
     return all.tool(print, "print"_L1, u"Print"_s);
 }
 
-QString CarPrint::whyNoCar() const
+/// Without a car there is nothing to print, which is told.
+bool CarPrint::isThere()
 {
-    return m_desk.car.isOpen() ? QString() : CarLines::noCarYet();
+    if (!m_desk.car.isOpen())
+        m_desk.program.dialogs.ask(&m_desk.window, CarMessages::noneSelected());
+    return m_desk.car.isOpen();
 }
 
 void CarPrint::show(const QString &what, const Builder &builder)
 {
+    if (!isThere())
+        return;
     m_finish();
     const QString job = m_desk.car.record().vehicle.name.trimmed() + u' ' + what;
     m_desk.window.showPreview([car = m_desk.car.record(), pictures = pictures(), builder](
@@ -105,6 +101,8 @@ void CarPrint::printCosts()
 /// The open car as it is shown, the others as their files have them.
 void CarPrint::printAll()
 {
+    if (!isThere())
+        return;
     m_finish();
     QList<CarRecord> cars = m_desk.car.files().all();
     for (CarRecord &car : cars) {

@@ -41,7 +41,7 @@ private:
     CarPages::Pictures pictures();
     QString carPicture();
     QString store(const QString &name, const QImage &image);
-    QString whyNoCar() const;
+    bool isThere();
 
     CarDesk m_desk;
     std::function<Sheet()> m_shown;

@@ -47,7 +47,7 @@ QString CsvDesk::whyNoExport() const
 {
     const LogView *view = m_shown();
     if (!view)
-        return HistoryLines::inHistoriesOnly();
+        return {}; // it says then where there are rows
     return CarRows::count(m_desk.car.record(), view->part()) > 0 ? QString()
                                                                  : CsvLines::nothingToExport(view->part());
 }
@@ -55,12 +55,16 @@ QString CsvDesk::whyNoExport() const
 QString CsvDesk::whyNoImport() const
 {
     const LogView *view = m_shown();
-    return view ? m_desk.car.whyLocked(view->part()) : HistoryLines::inHistoriesOnly();
+    return view ? m_desk.car.whyLocked(view->part()) : QString();
 }
 
 void CsvDesk::exportRows()
 {
     LogView *view = m_shown();
+    if (!view) {
+        emit said(HistoryLines::openAHistory());
+        return;
+    }
     view->finishEdit();
     const CarRecord &car = m_desk.car.record();
     const QString folder = m_desk.program.store.value(folderKey, QDir::homePath()).toString();
@@ -82,6 +86,10 @@ void CsvDesk::exportRows()
 void CsvDesk::importRows()
 {
     m_from = m_shown();
+    if (!m_from) {
+        emit said(HistoryLines::openAHistory());
+        return;
+    }
     m_from->finishEdit();
     const auto path = m_desk.program.dialogs.chooseFileToOpen(
         &m_desk.window, CsvLines::importTitle(), m_desk.program.store.value(folderKey).toString(),
