@@ -11,6 +11,7 @@
 #include "cars/window/sheetform.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/titleline.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
@@ -56,6 +57,7 @@ void CreateRoutine::addButtons()
         all.add(nullptr, u"createNext"_s, u"&Next - Move to Next Input File"_s, [this] { next(); }));
     for (const CarViews::Place place : way) {
         ButtonRow &foot = m_hands.views.view(place)->foot();
+        m_hands.views.view(place)->titleLine().addChip(m_hands.views.view(place)->objectName() + u"Step"_s);
         const QString name = m_hands.views.view(place)->objectName();
         m_buttons.push_back(all.button(m_cancel, name + u"Cancel"_s, m_cancel->text(), &foot));
         foot.addLeft(m_buttons.back());
@@ -74,6 +76,10 @@ void CreateRoutine::setOn(bool isOn)
     m_isOn = isOn;
     for (QPushButton *button : m_buttons)
         button->setVisible(isOn);
+    int number = 0;
+    for (const CarViews::Place place : way)
+        m_hands.views.view(place)->titleLine().setChip(isOn ? CarLines::step(++number, int(way.size()))
+                                                            : QString());
     emit changed();
 }
 

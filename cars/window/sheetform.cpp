@@ -89,6 +89,7 @@ void SheetForm::makeBoxes()
         connect(m_boxes[i], &FieldBox::refused, this, &SheetForm::said);
         connect(m_boxes[i], &QLineEdit::editingFinished, this, [this, i] { emit entered(i); });
     }
+    m_boxes[boxOf(Field::Odometer)]->selectOnFirstClick();
     m_make = makeChoice(u"carMake"_s, boxOf(Field::Make));
     m_make->addItems(CarMakes::makes());
     m_model = makeChoice(u"Combo7"_s, boxOf(Field::Model));
@@ -146,8 +147,9 @@ QVBoxLayout *SheetForm::labelledBox(std::size_t place, bool isRequired)
         m_nameLabel = label;
     if (!isRequired)
         return layout;
+    const QString hint = place == boxOf(Field::Make) ? u"or the model"_s : QString(); // either is enough
     QLabel *required =
-        makeFieldLabel(place == nameBox ? u"Enter File Name:"_s : caption, control, this, {}, true);
+        makeFieldLabel(place == nameBox ? u"Enter File Name:"_s : caption, control, this, hint, true);
     // Rich text is a little higher, and would push the box out of its row.
     required->setFixedHeight(label->sizeHint().height());
     required->hide();
@@ -298,8 +300,10 @@ void SheetForm::showRequired()
     for (std::size_t i = 0; i < m_required.size(); ++i)
         m_required[i]->setVisible((i % 2 != 0) == isBeside);
     m_nameLabel->setText(m_isNew ? u"Enter File Name:"_s : u"Name:"_s);
-    for (const std::size_t place : {nameBox, boxOf(Field::Odometer), boxOf(Field::Make)})
-        m_boxes[place]->setPlaceholderText(m_isNew && !isBeside ? ShellMessages::required() : QString());
+    const QString word = m_isNew && !isBeside ? ShellMessages::required() : QString();
+    for (const std::size_t place : {nameBox, boxOf(Field::Odometer)})
+        m_boxes[place]->setPlaceholderText(word);
+    m_boxes[boxOf(Field::Make)]->setPlaceholderText(word.isEmpty() ? word : u"or the model, "_s + word);
 }
 
 void SheetForm::setFacts(CarNeed::State registration, const QString &insurance)
