@@ -2,10 +2,10 @@
 #include "addressbook/entry/entrywindow.h"
 
 #include "addressbook/entry/addressform.h"
+#include "addressbook/entry/addresspicture.h"
 #include "addressbook/entry/bookchanges.h"
 #include "addressbook/entry/entrybuttons.h"
 #include "addressbook/entry/entrylabels.h"
-#include "addressbook/entry/picturetaker.h"
 #include "addressbook/entry/sameaddresslink.h"
 #include "addressbook/model/entrylines.h"
 #include "addressbook/model/indexline.h"
@@ -15,7 +15,7 @@
 #include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
-#include "shell/frame/picturepanel.h"
+#include "shell/frame/picturetaker.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undostack.h"
 #include "shell/frame/workviews.h"
@@ -168,7 +168,10 @@ void ADDBKVIEW::makeButtons(QAction *clear, QAction *saveNew, QAction *remove)
     addEntryButtons(
         *m_editor, can,
         {clear, remove, picture, printOptions, m_otherScreen, m_modify, saveNew, standard(Standard::Exit)});
-    new PictureTaker(program(), *m_editor, *picture);
+    const auto *taker = new PictureTaker(program(), m_editor->form().picture(), addressPictureUse(), *picture,
+                                         {[this] { return m_editor->typed().fullName(); },
+                                          [this](const QString &path) { m_editor->setPicture(path); }});
+    connect(taker, &PictureTaker::said, m_editor, &EntryEditor::said);
 }
 
 void ADDBKVIEW::connectParts(EntryLinks *links)

@@ -81,21 +81,6 @@ inline QString sameAddress(const QString &names, bool isReplacing)
            (isReplacing ? u". Ctrl+Z in a box brings back what stood there"_s : QString());
 }
 
-inline QString noPictureToTake()
-{
-    return u"There is no picture to take"_s;
-}
-
-inline QString pictureNotKept()
-{
-    return u"The picture could not be kept: the disk refused a copy of it"_s;
-}
-
-inline QString pictureKept(const QString &path)
-{
-    return u"The picture is kept as "_s + path;
-}
-
 // Reasons.
 
 inline QString chooseNameFirst()

@@ -25,6 +25,7 @@
 #include "shell/core/place.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/picturepanel.h"
+#include "shell/frame/picturetaker.h"
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undostack.h"
 #include "shell/frame/windowtoolbar.h"
@@ -216,6 +217,10 @@ void AutoMaint::connectViews()
         [this] { return m_car->whyLocked(CarPart::Sheet); }));
     sheet->form().setPictureButton(
         commands().button(picture, u"carPicture"_s, picture->text(), &sheet->form()));
+    const auto *taker = new PictureTaker(program(), sheet->form().picture(), carPictureUse(), *picture,
+                                         {[this] { return m_car->record().vehicle.name.trimmed(); },
+                                          [this](const QString &path) { setPicture(path); }});
+    connect(taker, &PictureTaker::said, &activity(), &ActivityBar::say);
     connect(m_pictures, &PicturePanel::pictureEntered, this, &AutoMaint::setPicture);
     connect(m_pictures, &PicturePanel::pictureDeleted, this, [this] { setPicture({}); });
     connect(m_pictures, &PicturePanel::said, &activity(), &ActivityBar::say);

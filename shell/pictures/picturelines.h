@@ -28,4 +28,21 @@ inline QString choosePictureFirst()
     return u"Choose a picture in the list of files first"_s;
 }
 
+// Of a picture that is dropped or pasted.
+
+inline QString noPictureToTake()
+{
+    return u"There is no picture to take"_s;
+}
+
+inline QString pictureNotKept()
+{
+    return u"The picture could not be kept: the disk refused a copy of it"_s;
+}
+
+inline QString pictureKept(const QString &path)
+{
+    return u"The picture is kept as "_s + path;
+}
+
 } // namespace PictureLines

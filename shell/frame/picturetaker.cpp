@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "addressbook/entry/picturetaker.h"
+#include "shell/frame/picturetaker.h"
 
-#include "addressbook/entry/addressform.h"
-#include "addressbook/entry/entryeditor.h"
-#include "addressbook/model/entrylines.h"
-#include "addressbook/model/messages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/core/framelines.h"
-#include "shell/frame/picturepanel.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/pictures/picturelines.h"
 #include "shell/program/program.h"
@@ -20,6 +15,8 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -50,24 +47,19 @@ bool isKindOfPanel(const QString &path)
 
 } // namespace
 
-PictureUse addressPictureUse()
-{
-    return {u"Select Family/Friends Picture"_s, addressPictureWidth, AddressLines::pathNotStorable(),
-            AddressLines::noPictureToDelete()};
-}
-
-PictureTaker::PictureTaker(Program &program, EntryEditor &editor, const QAction &load)
-    : QObject(&editor)
-    , m_editor(editor)
+PictureTaker::PictureTaker(Program &program, PictureFrame *frame, PictureUse use, const QAction &load,
+                           Hands hands)
+    : QObject(frame)
+    , m_frame(frame)
+    , m_use(std::move(use))
     , m_load(load)
+    , m_hands(std::move(hands))
     , m_pictures(program.folder)
 {
-    PictureFrame *frame = editor.form().picture();
     frame->setAcceptDrops(true);
     frame->setFocusPolicy(Qt::StrongFocus);
     frame->setToolTip(u"Drop a picture here, or paste one with Ctrl+V"_s);
     frame->installEventFilter(this);
-    connect(this, &PictureTaker::said, &editor, &EntryEditor::said);
 }
 
 bool PictureTaker::eventFilter(QObject *watched, QEvent *event)
@@ -116,7 +108,7 @@ void PictureTaker::take(const QMimeData &data)
                  ? image
                  : image.scaled(greatestSide, greatestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     else
-        emit said(AddressLines::noPictureToTake());
+        emit said(PictureLines::noPictureToTake());
 }
 
 void PictureTaker::takeFile(const QString &path)
@@ -127,8 +119,8 @@ void PictureTaker::takeFile(const QString &path)
         emit said(PictureLines::notAPicture());
     } else if (!isKindOfPanel(path)) {
         keep(image); // other programs that read the records could not show it
-    } else if (!PictureFolder::isStorable(native, addressPictureWidth)) {
-        emit said(AddressLines::pathNotStorable());
+    } else if (!PictureFolder::isStorable(native, m_use.width)) {
+        emit said(m_use.notStorable);
     } else {
         const bool isRemembered = m_pictures.remember(QFileInfo(path).absolutePath());
         setPicture(native);
@@ -140,19 +132,19 @@ void PictureTaker::takeFile(const QString &path)
 void PictureTaker::keep(const QImage &image)
 {
     const PictureFolder::Kept kept =
-        m_pictures.keep(PictureFile::asPhotograph(image), m_editor.typed().fullName(), addressPictureWidth);
+        m_pictures.keep(PictureFile::asPhotograph(image), m_hands.name(), m_use.width);
     if (!kept.isStorable) {
-        emit said(AddressLines::pathNotStorable());
+        emit said(m_use.notStorable);
     } else if (kept.path.isEmpty()) {
-        emit said(AddressLines::pictureNotKept());
+        emit said(PictureLines::pictureNotKept());
     } else {
         setPicture(kept.path);
-        emit said(AddressLines::pictureKept(kept.path));
+        emit said(PictureLines::pictureKept(kept.path));
     }
 }
 
 void PictureTaker::setPicture(const QString &path)
 {
-    m_editor.setPicture(path);
-    m_editor.form().picture()->setFocus(Qt::OtherFocusReason);
+    m_hands.setPicture(path);
+    m_frame->setFocus(Qt::OtherFocusReason);
 }
