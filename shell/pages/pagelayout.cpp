@@ -132,9 +132,30 @@ bool PageLayout::cut(std::size_t mostSheets)
     while (const auto next = SheetFlow(*this, int(m_starts.size())).fill(m_starts.back())) {
         if (m_starts.size() == mostSheets)
             return false;
-        m_starts.push_back(*next);
+        m_starts.push_back(withItsHeading(*next, m_starts.back()));
     }
     return true;
+}
+
+/// A heading never stands alone at the foot of a sheet: it goes along with the line, table or picture that
+/// it leads.
+SheetStart PageLayout::withItsHeading(const SheetStart &next, const SheetStart &before) const
+{
+    const auto &items = m_page.items();
+    SheetStart moved = next;
+    const PageItem::Columns *columns = next.columns;
+    for (std::size_t at = next.item; next.line == 0 && at > before.item + 1;) {
+        const Page::Item &item = items[--at];
+        const auto *line = std::get_if<PageItem::Line>(&item);
+        const bool isHeading = line && line->role == TextRole::Heading;
+        if (std::holds_alternative<PageItem::Columns>(item))
+            columns = nullptr; // it begins anew
+        else if (!isHeading && !(line && line->text.isEmpty()))
+            break;
+        if (isHeading)
+            moved = {at, 0, columns};
+    }
+    return moved;
 }
 
 /// A last sheet with nothing but the closing lines looks like a mistake: the last row moves along.
@@ -148,8 +169,11 @@ void PageLayout::keepClosingInCompany()
     std::size_t first = count - 1;
     while (first > 0 && staysWithNext(first - 1))
         --first;
-    if (isText && m_starts[m_starts.size() - 2].item + 1 < first)
-        m_starts.back().item = first;
+    const SheetStart &before = m_starts[m_starts.size() - 2];
+    if (!isText || before.item + 1 >= first)
+        return;
+    m_starts.back().item = first;
+    m_starts.back() = withItsHeading(m_starts.back(), before);
 }
 
 void PageLayout::paint(QPainter &painter, int index) const

@@ -60,6 +60,8 @@ private:
     void fitTables(const PageFont &font);
     void cutIntoSheets();
     bool cut(std::size_t mostSheets);
+    /// `next`, or the heading before it; `before` is where the sheet before it begins.
+    SheetStart withItsHeading(const SheetStart &next, const SheetStart &before) const;
     void keepClosingInCompany();
     /// The end of the items of a sheet; the closing lines count as one item behind the last.
     std::size_t endOf(int index) const;

@@ -236,9 +236,6 @@ bool SheetFlow::place(const PageItem::Line &line)
             m_y += type.lineHeight();
         return true;
     }
-    const bool leads = line.role == TextRole::Heading;
-    if (leads && !m_isFresh && room() < type.lineHeight() + types().body.lineHeight())
-        return false;
     const SheetCell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line)};
     return placeCells({cell}, type, 0, Split::AtLines);
 }

@@ -126,6 +126,39 @@ private slots:
         }
     }
 
+    void headingsStandWithWhatTheyLead_data()
+    {
+        using Add = void (*)(Page &);
+        rows<Add>({
+            {"a line", [](Page &page) { page.line(u"led"_s); }},
+            {"a line behind a blank one", [](Page &page) { page.blankLine().line(u"led"_s); }},
+            {"a table", [](Page &page) { page.columns({1}, {u"Name"_s}).row({u"led"_s}); }},
+            {"a table without headings",
+             [](Page &page) { page.columns({1}).row({u"led"_s + u"\n\n\n"_s}).row({u"b"_s}); }},
+            {"a picture",
+             [](Page &page) {
+                 page.picture({}, {7, 3}).line(u"led"_s);
+             }},
+            {"another heading",
+             [](Page &page) { page.line(u"Part"_s, TextRole::Heading).columns({1}).row({u"led"_s}); }},
+        });
+    }
+
+    void headingsStandWithWhatTheyLead()
+    {
+        const auto [add] = row<void (*)(Page &)>();
+        for (int rows = 20; rows < 60; ++rows) {
+            Page page = numbered(rows);
+            add(page.blankLine().line(u"Heading"_s, TextRole::Heading));
+            page.close(printedOn, DateStyle::Usa);
+            const PagePainter painter(page, {}, bodyFont());
+            for (int sheet = 0; sheet < painter.sheetCount(); ++sheet) {
+                const QString text = painter.text(sheet);
+                QCOMPARE(text.contains(u"Heading"_s), text.contains(u"led"_s));
+            }
+        }
+    }
+
     void whatFollowsStandsBelowWhatIsPlaced()
     {
         Page page(u"BUDGET TOTALS"_s);
