@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/model/presentreading.h"
+
+#include "cars/model/carnumbers.h"
+
+#include <algorithm>
+
+bool PresentReading::goBack(CarRecord &car, const QString &reading, const QString &saved)
+{
+    QString &present = car.sheet.field(VehicleSheet::Odometer);
+    const std::optional<double> mistaken = CarNumbers::number(reading);
+    if (!mistaken || CarNumbers::number(present) != mistaken)
+        return false;
+    double highest = 0;
+    const auto see = [&highest](const QString &text) {
+        highest = std::max(highest, CarNumbers::number(text).value_or(0));
+    };
+    for (const FuelRow &row : std::as_const(car.fuel)) {
+        see(row.previous);
+        see(row.current);
+    }
+    for (const History *history : {&car.maintenance, &car.repairs}) {
+        for (const HistoryRow &row : *history)
+            see(row.odometer);
+    }
+    for (const ScheduledAction &action : car.sheet.actions)
+        see(action.odometer);
+    if (const double before = CarNumbers::number(saved).value_or(0); before >= highest && before < *mistaken)
+        present = saved;
+    else if (highest > 0 && highest != *mistaken)
+        present = CarNumbers::text(highest);
+    else
+        return false;
+    return true;
+}

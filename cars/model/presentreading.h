@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cars/model/carrecord.h"
+
+/// The present reading of a car's sheet, which follows the fill-ups.
+namespace PresentReading {
+
+/// A fill-up of `car` read `reading` and does so no more. Where the sheet's reading came from there, it goes
+/// back to `saved`, what the file has, or to the highest that is known. False where it stays.
+bool goBack(CarRecord &car, const QString &reading, const QString &saved);
+
+} // namespace PresentReading

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/model/presentreading.h"
+#include "tests/support/rows.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+/// What becomes of the sheet's reading when a fill-up turns out to be mistaken.
+class TestPresentReading : public QObject
+{
+    Q_OBJECT
+private slots:
+    void goesBack_data()
+    {
+        rows<QString, QString, QString, QString>({
+            {"to what the file has", u"84620"_s, u"84620"_s, u"84,210"_s, u"84,210"_s},
+            {"to the highest of the histories", u"84620"_s, u"84620"_s, u"84620"_s, u"84000"_s},
+            {"to the highest, beyond what the file has", u"84620"_s, u"84,620"_s, u"83000"_s, u"84000"_s},
+            {"not where it was another", u"84700"_s, u"84620"_s, u"84210"_s, u"84700"_s},
+            {"not where something else has as much", u"84000"_s, u"84000"_s, u"83000"_s, u"84000"_s},
+            {"not from nothing", u"84620"_s, {}, u"84210"_s, u"84620"_s},
+        });
+    }
+
+    void goesBack()
+    {
+        const auto [present, mistaken, saved, wanted] = row<QString, QString, QString, QString>();
+        CarRecord car;
+        car.sheet.field(VehicleSheet::Odometer) = present;
+        car.fuel = {{{}, u"82595"_s, u"82820"_s, {}, {}, {}, {}}};
+        car.maintenance = {{u"84,000"_s, {}, u"Oil"_s, {}}};
+        QCOMPARE(PresentReading::goBack(car, mistaken, saved), present != wanted);
+        QCOMPARE(car.sheet.field(VehicleSheet::Odometer), wanted);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestPresentReading)
+#include "tst_presentreading.moc"
