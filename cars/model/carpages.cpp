@@ -177,7 +177,7 @@ public:
         }
         page.row(CostWords::row(u"Together"_s, costs.all()), TextRole::Strong);
         if (const auto perMonth = costs.perMonth())
-            page.line(CostWords::money(*perMonth) + u" a month on average"_s);
+            page.line(u"On average "_s + CostWords::perMonth(*perMonth, m_context.today));
         if (costs.years().isEmpty())
             return;
         const auto newest = costs.yearAgainstLast(costs.years().first());

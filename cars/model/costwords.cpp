@@ -55,6 +55,11 @@ QString CostWords::perDistance(const CostSums &sums, DistanceUnit unit)
     return cents ? money(*cents) + u" a "_s + oneDistance(unit) : QString();
 }
 
+QString CostWords::perMonth(double cents, QDate today)
+{
+    return money(cents) + u" a month up to "_s + Dates::monthYear(today.addMonths(-1));
+}
+
 QStringList CostWords::headings(const QString &what, DistanceUnit unit)
 {
     QStringList headings{what};

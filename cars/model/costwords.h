@@ -17,6 +17,9 @@ QString money(double cents);
 /// "0.11 a mile"; empty where no distance is known.
 QString perDistance(const CostSums &sums, DistanceUnit unit);
 
+/// "52.40 a month up to October 2026": of whole months, so that of `today` is left out.
+QString perMonth(double cents, QDate today);
+
 /// The columns of costs: what of, the kinds, together, distance, cost of a mile.
 QStringList headings(const QString &what, DistanceUnit unit);
 QStringList row(const QString &what, const CostSums &sums);

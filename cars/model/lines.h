@@ -41,10 +41,10 @@ inline QString broughtBack(const QString &name)
     return u"Brought back: "_s + name;
 }
 
-/// "Done: Rotate Tires".
+/// "Rotate Tires entered".
 inline QString done(const QString &action)
 {
-    return u"Done: "_s + action;
+    return action + u" entered"_s;
 }
 
 /// When an action was done last, `reading` as "81,210 miles"; empty where nothing is known.
@@ -62,9 +62,8 @@ inline QString lastDone(const QString &date, const QString &reading)
 
 inline QString whereDoneGoes()
 {
-    return u"This goes into the maintenance history and into the schedule as the last time. A reading beyond "
-           u"the "
-           "present one becomes the present one."_s;
+    return u"This goes into the maintenance history, and into the schedule as the last time. A reading above "
+           "the car's present one becomes its new reading."_s;
 }
 
 inline QString inThousands(double number)

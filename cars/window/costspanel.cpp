@@ -98,7 +98,7 @@ void CostsPanel::showFigures(const CarCosts &costs)
 {
     const CostSums all = costs.all();
     const auto month = costs.perMonth();
-    setTitle(month ? HistoryLines::money(*month) + u" a month"_s : u"What the car costs"_s);
+    setTitle(month ? CostWords::perMonth(*month, m_desk.program.clock.today()) : u"What the car costs"_s);
     QList<FigureStrip::Figure> figures;
     for (const CostKind kind : costKinds)
         figures.append({CostWords::kind(kind), HistoryLines::moneyOrNone(all.of(kind))});

@@ -155,7 +155,7 @@ private slots:
         fill("doneOdometer", u"84,300"_s);
         fill("doneCost", u"55"_s);
         click("doneEnter");
-        QCOMPARE(said(), u"Done: Change Oil and Filter"_s);
+        QCOMPARE(said(), u"Change Oil and Filter entered"_s);
         QCOMPARE(labelText("dueTitle"), u"One thing is overdue"_s);
         QCOMPARE(cells("Grid4", 0).mid(3, 3), (QStringList{u"84300"_s, u"11/21/2026"_s, u"55.00"_s}));
         trigger("mOSave");
