@@ -5,6 +5,8 @@
 #include "cars/model/fuelfigures.h"
 #include "shell/core/dates.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,6 +17,8 @@ constexpr int sampleLines = 200;
 constexpr int linesAStep = 50;
 constexpr qsizetype longestText = 400;
 constexpr int longestCurrency = 3;
+constexpr qsizetype mostColumns = 40;
+constexpr qsizetype longestName = 30;
 constexpr std::size_t historyDate = 1;
 constexpr std::size_t historyDescription = 2;
 
@@ -36,6 +40,16 @@ QStringList cellsOf(const Row &row, const std::array<QString Row::*, count> &col
     return cells;
 }
 
+/// A reading "84.100" has points between its thousands, whatever the amounts of the file have.
+QString withoutPoints(const QString &text)
+{
+    static const QRegularExpression thousands(u"^(\\D*\\d{1,3})((?:\\.\\d{3})+)(?![\\d.,])"_s);
+    const QRegularExpressionMatch match = thousands.match(text);
+    if (!match.hasMatch())
+        return text;
+    return match.captured(1) + match.captured(2).remove(u'.') + text.mid(match.capturedEnd());
+}
+
 } // namespace
 
 CarCsvImport::CarCsvImport(const QByteArray &bytes, CarPart part, const CarRecord &car, DateStyle style,
@@ -46,32 +60,45 @@ CarCsvImport::CarCsvImport(const QByteArray &bytes, CarPart part, const CarRecor
     , m_style(style)
     , m_today(today)
 {
-    look(style);
-    if (part == CarPart::Fuel) {
-        for (const FuelRow &row : car.fuel)
+    look();
+    startOver();
+}
+
+void CarCsvImport::startOver()
+{
+    m_file.rewind();
+    m_lines.clear();
+    m_there.clear();
+    m_chosen = 0;
+    if (m_part == CarPart::Fuel) {
+        for (const FuelRow &row : m_car.fuel)
             m_there.insert(keyOf(cellsOf(row, fuelColumns)));
     } else {
-        for (const HistoryRow &row : part == CarPart::Repairs ? car.repairs : car.maintenance)
+        for (const HistoryRow &row : m_part == CarPart::Repairs ? m_car.repairs : m_car.maintenance)
             m_there.insert(keyOf(cellsOf(row, historyColumns)));
     }
 }
 
-/// Finds out from the first lines how the file is written.
-void CarCsvImport::look(DateStyle style)
+/// Finds out from the first lines what the columns are.
+void CarCsvImport::look()
 {
-    QList<QStringList> sample;
     QList<int> numbers;
     CsvFile::Line line;
-    while (sample.size() < sampleLines && m_file.next(line)) {
-        sample.append(line.cells);
+    while (m_sample.size() < sampleLines && m_file.next(line)) {
+        m_sample.append(line.cells);
         numbers.append(line.number);
     }
-    m_file.rewind();
-    m_columns = CarCsv::Columns::find(sample, m_part);
+    m_columns = CarCsv::Columns::find(m_sample, m_part);
     m_headingNumber = m_columns.headingLine < 0 ? 0 : numbers[m_columns.headingLine];
+    guessForms();
+}
+
+/// How the amounts and the dates are written.
+void CarCsvImport::guessForms()
+{
     QStringList dates;
     QStringList amounts;
-    for (const QStringList &cells : sample) {
+    for (const QStringList &cells : std::as_const(m_sample)) {
         for (std::size_t column = 0; column < std::size_t(m_columns.places.size()); ++column) {
             const int place = m_columns.places[qsizetype(column)];
             if (place < 0)
@@ -85,12 +112,62 @@ void CarCsvImport::look(DateStyle style)
         }
     }
     m_decimal = CsvCells::decimalSign(amounts);
-    m_order = CsvCells::dateOrder(dates, style);
+    m_order = CsvCells::dateOrder(dates, m_style);
+}
+
+QStringList CarCsvImport::fileColumns() const
+{
+    const QStringList heading = m_sample.value(m_columns.headingLine);
+    qsizetype count = 0;
+    for (const QStringList &cells : m_sample)
+        count = std::max(count, cells.size());
+    QStringList names;
+    for (qsizetype i = 0; i < std::min(count, mostColumns); ++i) {
+        const QString name = heading.value(i).simplified();
+        names << (name.isEmpty() ? u"Column %1"_s.arg(i + 1) : name.left(longestName));
+    }
+    return names;
+}
+
+QString CarCsvImport::example(int place) const
+{
+    for (int i = m_columns.headingLine + 1; i < int(m_sample.size()); ++i) {
+        if (const QString cell = m_sample[i].value(place).simplified(); !cell.isEmpty())
+            return cell.left(longestName);
+    }
+    return {};
+}
+
+void CarCsvImport::setPlace(int column, int place)
+{
+    for (int &other : m_columns.places) {
+        if (other == place)
+            other = -1;
+    }
+    m_columns.places[column] = place;
+    guessForms();
+    startOver();
+}
+
+QStringList CarCsvImport::notUsed() const
+{
+    const QStringList names = fileColumns();
+    QStringList left;
+    for (int place = 0; place < int(names.size()); ++place) {
+        if (!m_columns.places.contains(place) && !example(place).isEmpty())
+            left << names[place];
+    }
+    return left;
 }
 
 bool CarCsvImport::isNumber(std::size_t column) const
 {
     return m_part == CarPart::Fuel ? column != 0 : column != historyDate && column != historyDescription;
+}
+
+bool CarCsvImport::isReading(std::size_t column) const
+{
+    return m_part == CarPart::Fuel ? column == 1 || column == 2 : column == 0;
 }
 
 bool CarCsvImport::step()
@@ -114,6 +191,7 @@ CarCsvLine CarCsvImport::read(const CsvFile::Line &line) const
         const int place = m_columns.places[qsizetype(column)];
         read.cells << readCell(read, column, place < 0 ? QString() : line.cells.value(place));
     }
+    read.isBare = isBare(read.cells);
     if (!line.isClosed)
         read.problem = u"a quote has no end"_s;
     else if (read.date > m_today)
@@ -125,6 +203,17 @@ CarCsvLine CarCsvImport::read(const CsvFile::Line &line) const
             read.problem = u"above the current reading"_s;
     }
     return read;
+}
+
+/// Whether a row says neither what was done nor what it cost, or what was filled in.
+bool CarCsvImport::isBare(const QStringList &cells) const
+{
+    for (int column = 0; column < int(cells.size()); ++column) {
+        const bool tells = m_part == CarPart::Fuel ? column > 2 : column >= int(historyDescription);
+        if (tells && !cells[column].trimmed().isEmpty())
+            return false;
+    }
+    return true;
 }
 
 /// The cell as it will be stored; what is wrong with it is put into `line`.
@@ -139,7 +228,7 @@ QString CarCsvImport::readCell(CarCsvLine &line, std::size_t column, const QStri
     }
     if (!isNumber(column) || text.isEmpty())
         return text.left(longestText);
-    QString found = number(text);
+    QString found = number(isReading(column) ? withoutPoints(text) : text);
     if (found.isEmpty() && line.problem.isEmpty())
         line.problem = u"no number: "_s + text.left(20);
     return found;
@@ -199,7 +288,7 @@ void CarCsvImport::sort(CarCsvLine &line)
                  : room() <= 0         ? CarCsvLine::Full
                                        : CarCsvLine::Ready;
     m_there.insert(key);
-    line.isChosen = line.state == CarCsvLine::Ready;
+    line.isChosen = line.state == CarCsvLine::Ready && !line.isBare;
     m_chosen += line.isChosen ? 1 : 0;
 }
 
@@ -226,12 +315,38 @@ CarRecord CarCsvImport::result() const
     }
     std::ranges::stable_sort(chosen, {}, &CarCsvLine::date);
     CarRecord car = m_car;
-    for (const CarCsvLine *line : chosen) {
-        if (m_part == CarPart::Fuel)
-            car.fuel.append(rowOf(line->cells, fuelColumns));
-        else
-            (m_part == CarPart::Repairs ? car.repairs : car.maintenance)
-                .append(rowOf(line->cells, historyColumns));
+    if (m_part == CarPart::Fuel) {
+        addFillUps(car.fuel, chosen);
+        return car;
     }
+    for (const CarCsvLine *line : chosen)
+        (m_part == CarPart::Repairs ? car.repairs : car.maintenance)
+            .append(rowOf(line->cells, historyColumns));
     return car;
+}
+
+/// `chosen` in the order of their dates.
+void CarCsvImport::addFillUps(FuelLog &fuel, const std::vector<const CarCsvLine *> &chosen) const
+{
+    using Reading = std::pair<QDate, double>;
+    std::vector<Reading> readings;
+    const auto add = [&readings](QDate date, const QString &current) {
+        if (const auto reading = CarNumbers::number(current); reading && date.isValid())
+            readings.emplace_back(date, *reading);
+    };
+    for (const FuelRow &row : std::as_const(fuel))
+        add(CarNumbers::date(row.date, m_style).value_or(QDate()), row.current);
+    for (const CarCsvLine *line : chosen)
+        add(line->date, line->cells[2]);
+    std::ranges::sort(readings);
+    for (const CarCsvLine *line : chosen) {
+        FuelRow row = rowOf(line->cells, fuelColumns);
+        const auto reading = CarNumbers::number(row.current);
+        if (row.previous.trimmed().isEmpty() && reading) {
+            const auto own = std::ranges::lower_bound(readings, Reading(line->date, *reading));
+            if (own != readings.begin() && std::prev(own)->second < *reading)
+                row.previous = CarNumbers::text(std::prev(own)->second);
+        }
+        fuel.append(FuelFigures::completed(row, {}));
+    }
 }

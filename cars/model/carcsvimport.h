@@ -26,11 +26,13 @@ struct CarCsvLine {
     QDate date;
     State state = NotRead;
     QString problem;
+    bool isBare = false;   ///< it says when, but nothing that was done
     bool isChosen = false; ///< whether it will be taken
 };
 
 /// Brings a file of comma-separated values into a history or the fuel tracker: reads it a few lines at a
-/// time, and recognises what is there already.
+/// time, and recognises what is there already. What its columns hold is guessed from their names, and may be
+/// said otherwise.
 class CarCsvImport
 {
 public:
@@ -42,23 +44,40 @@ public:
     /// From 0 to 1.
     double progress() const { return m_file.progress(); }
 
-    /// Whether the column of the date was found.
+    /// Whether the column of the date is known.
     bool isReadable() const { return m_columns.isComplete(); }
+    /// What the columns of the file are called: by its heading, else "Column 1".
+    QStringList fileColumns() const;
+    /// What stands first in such a column; empty where nothing does.
+    QString example(int place) const;
+    /// Where in the file a column of the grid is; -1: nowhere.
+    int placeOf(int column) const { return m_columns.places[column]; }
+    /// Says where it is, and begins to read again. What another column had there, is nowhere then.
+    void setPlace(int column, int place);
+    /// The columns of the file that hold something and will not be taken.
+    QStringList notUsed() const;
+
     const std::vector<CarCsvLine> &lines() const { return m_lines; }
     /// Takes a line or leaves it out; what was not read and what has no room cannot be taken.
     void setChosen(std::size_t line, bool isChosen);
     int count(CarCsvLine::State state) const;
     int chosenCount() const { return m_chosen; }
 
-    /// The car with the chosen lines behind its rows, oldest first.
+    /// The car with the chosen lines behind its rows, oldest first. A fill-up without a previous reading has
+    /// that of the one before it.
     CarRecord result() const;
 
 private:
-    void look(DateStyle style);
+    void look();
+    void guessForms();
+    void startOver();
+    bool isBare(const QStringList &cells) const;
+    void addFillUps(FuelLog &fuel, const std::vector<const CarCsvLine *> &chosen) const;
     CarCsvLine read(const CsvFile::Line &line) const;
     QString readCell(CarCsvLine &line, std::size_t column, const QString &text) const;
     QString number(const QString &text) const;
     bool isNumber(std::size_t column) const;
+    bool isReading(std::size_t column) const;
     QString keyOf(const QStringList &cells) const;
     void sort(CarCsvLine &line);
     qsizetype room() const;
@@ -68,6 +87,7 @@ private:
     CarRecord m_car;
     DateStyle m_style;
     QDate m_today;
+    QList<QStringList> m_sample; ///< the first lines, with the heading
     CarCsv::Columns m_columns;
     int m_headingNumber = 0; ///< of the line that names the columns
     QChar m_decimal = u'.';

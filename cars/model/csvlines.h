@@ -50,13 +50,42 @@ inline QString tooLong(const QString &file)
 
 inline QString noColumns()
 {
-    return u"No column with dates was found in this file"_s;
+    return u"No column with dates was found in this file. Say under Columns which one it is."_s;
 }
 
-inline QString whatIsTaken(CarPart part)
+/// `notUsed` are the columns of the file that will not be taken.
+inline QString whatIsTaken(CarPart part, const QStringList &notUsed)
 {
-    return part == CarPart::Fuel ? u"The ticked lines become fill-ups."_s
-                                 : u"The ticked lines become entries."_s;
+    const QString taken = part == CarPart::Fuel
+                              ? u"The ticked lines become fill-ups; readings before them, distance and "
+                                u"consumption are worked out where they are missing."_s
+                              : u"The ticked lines become entries."_s;
+    return notUsed.isEmpty() ? taken
+                             : QString(taken + u" Not used: "_s + notUsed.join(u", "_s) +
+                                       u". Click a heading to say what it is in the file."_s);
+}
+
+/// Of a line that has a date and no more.
+inline QString nothingDone(CarPart part)
+{
+    return part == CarPart::Fuel ? u"Left out: nothing filled in"_s : u"Left out: nothing was done"_s;
+}
+
+inline QString notInTheFile()
+{
+    return u"Not in the file"_s;
+}
+
+/// "Betrag (12,50)"
+inline QString withExample(const QString &column, const QString &example)
+{
+    return example.isEmpty() ? column : QString(column + u" ("_s + example + u')');
+}
+
+/// "Mileage: km"
+inline QString columnIs(const QString &heading, const QString &inFile)
+{
+    return heading + u": "_s + inFile;
 }
 
 /// "12 of 14 lines will be taken"

@@ -23,6 +23,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr auto folderKey = "Windows/AutoMaint/csvFolder"_L1;
+
+/// Where files were taken to or brought in from last.
+QString lastFolder(const QSettings &store)
+{
+    return store.value(folderKey, QDir::homePath()).toString();
+}
+
 } // namespace
 
 CsvDesk::CsvDesk(const CarDesk &desk, std::function<LogView *()> shown, QObject *parent)
@@ -67,7 +74,7 @@ void CsvDesk::exportRows()
     }
     view->finishEdit();
     const CarRecord &car = m_desk.car.record();
-    const QString folder = m_desk.program.store.value(folderKey, QDir::homePath()).toString();
+    const QString folder = lastFolder(m_desk.program.store);
     const auto path = m_desk.program.dialogs.chooseFileToSave(
         &m_desk.window, CsvLines::exportTitle(),
         QDir(folder).filePath(CarCsv::fileName(car.vehicle.name, view->part())), CsvLines::filter());
@@ -92,8 +99,7 @@ void CsvDesk::importRows()
     }
     m_from->finishEdit();
     const auto path = m_desk.program.dialogs.chooseFileToOpen(
-        &m_desk.window, CsvLines::importTitle(), m_desk.program.store.value(folderKey).toString(),
-        CsvLines::filter());
+        &m_desk.window, CsvLines::importTitle(), lastFolder(m_desk.program.store), CsvLines::filter());
     if (!path)
         return;
     if (!m_panel) {

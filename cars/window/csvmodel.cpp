@@ -2,16 +2,18 @@
 #include "cars/window/csvmodel.h"
 
 #include "cars/model/carrows.h"
+#include "cars/model/csvlines.h"
+#include "cars/window/carcell.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString whatBecomesOf(const CarCsvLine &line)
+QString whatBecomesOf(const CarCsvLine &line, CarPart part)
 {
     switch (line.state) {
     case CarCsvLine::Ready:
-        return line.isChosen ? u"Will be taken"_s : u"Left out"_s;
+        return line.isChosen ? u"Will be taken"_s : line.isBare ? CsvLines::nothingDone(part) : u"Left out"_s;
     case CarCsvLine::Duplicate:
         return line.isChosen ? u"Will be taken again"_s : u"Is there already"_s;
     case CarCsvLine::Full:
@@ -37,6 +39,10 @@ void CsvModel::show(CarCsvImport *import, CarPart part, DistanceUnit unit)
     m_part = part;
     m_headings =
         QStringList{u"Line"_s} + CarRows::headings(part, unit) + QStringList{u"What becomes of it"_s};
+    m_inFile = QStringList(m_headings.size());
+    const QStringList names = import ? import->fileColumns() : QStringList();
+    for (int column = 0; import && column < CarRows::columnCount(part); ++column)
+        m_inFile[column + 1] = names.value(import->placeOf(column));
     endResetModel();
 }
 
@@ -77,7 +83,8 @@ QVariant CsvModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         if (index.column() == 0)
             return QString::number(of.number);
-        return index.column() == columnCount() - 1 ? whatBecomesOf(of) : of.cells.value(index.column() - 1);
+        return index.column() == columnCount() - 1 ? whatBecomesOf(of, m_part)
+                                                   : of.cells.value(index.column() - 1);
     case Qt::TextAlignmentRole:
         return headerData(index.column(), Qt::Horizontal, role);
     case Qt::CheckStateRole:
@@ -95,6 +102,10 @@ QVariant CsvModel::headerData(int section, Qt::Orientation orientation, int role
         return {};
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignVCenter | (isNumber(section) ? Qt::AlignRight : Qt::AlignLeft));
+    if (role == CarCell::groupRole)
+        return m_inFile.value(section);
+    if (role == Qt::ToolTipRole && !m_inFile.value(section).isEmpty())
+        return CsvLines::columnIs(m_headings.value(section), m_inFile.value(section));
     return role == Qt::DisplayRole ? m_headings.value(section) : QVariant();
 }
 

@@ -34,4 +34,5 @@ private:
     CarCsvImport *m_import = nullptr;
     CarPart m_part = CarPart::Maintenance;
     QStringList m_headings{QString()};
+    QStringList m_inFile; ///< what the file calls them, over each
 };

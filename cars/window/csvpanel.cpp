@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/csvpanel.h"
 
+#include "cars/model/carrows.h"
 #include "cars/model/csvlines.h"
 #include "cars/window/carheadings.h"
 #include "cars/window/csvmodel.h"
@@ -10,10 +11,12 @@
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 
+#include <QActionGroup>
 #include <QFile>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -23,6 +26,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int inset = 8;
+constexpr int measuredRows = 300;
+constexpr int descriptionColumn = 3;
+constexpr int leastDescription = 14; ///< characters
 constexpr qint64 mostBytes = qint64(64) * 1024 * 1024;
 } // namespace
 
@@ -39,9 +45,12 @@ CsvPanel::CsvPanel(const CarDesk &desk)
     auto *rows = new QVBoxLayout(work);
     rows->setContentsMargins({});
     rows->setSpacing(12);
+    m_hint->setWordWrap(true);
     rows->addWidget(m_hint);
     rows->addWidget(new WholeRows(m_view), 1);
     setWork(work);
+    m_columns = addButton(u"carImportColumns"_s, u"Colu&mns..."_s, ButtonKind::Plain, Side::Left);
+    connect(m_columns, &QPushButton::clicked, this, &CsvPanel::openColumns);
     m_take = addButton(u"carImportTake"_s, u"&Take These Rows"_s, ButtonKind::Main);
     setLeaveButton(u"carImportClose"_s, u"C&lose"_s);
     setFocusProxy(m_view);
@@ -60,26 +69,96 @@ void CsvPanel::makeView()
     m_view->setModel(m_model);
     setGridRows(m_view);
     m_view->setHorizontalHeader(new CarHeadings(m_view)); // the fuel tracker's have two words
-    m_view->horizontalHeader()->setStretchLastSection(true);
+    QHeaderView *heading = m_view->horizontalHeader();
+    heading->setStretchLastSection(true);
+    heading->setSectionsClickable(true);
+    heading->viewport()->setCursor(Qt::PointingHandCursor);
+    connect(heading, &QHeaderView::sectionClicked, this, &CsvPanel::openChoices);
     m_view->setAccessibleName(u"Lines of the file"_s);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
 }
 
-/// The columns of the grid share what the line's number and its fate leave.
+/// What the words of a column and the words of its heading need.
+int CsvPanel::widthOf(int column) const
+{
+    const QFontMetrics body(TypeScale::body());
+    const QFontMetrics strong(TypeScale::strong());
+    int width = 0;
+    const QString heading = m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    for (const QString &word : heading.split(u' ')) // it takes two lines where the column is narrow
+        width = std::max(width, strong.horizontalAdvance(word));
+    for (int row = 0; row < std::min(m_model->rowCount(), measuredRows); ++row)
+        width = std::max(width, body.horizontalAdvance(m_model->index(row, column).data().toString()));
+    return width + 3 * inset;
+}
+
+/// Every column has what it needs, and the description the rest.
 void CsvPanel::shareWidth()
 {
     const int count = m_model->columnCount();
     if (count < 3)
         return;
     const QFontMetrics body(TypeScale::body());
+    const int description = m_part == CarPart::Fuel ? -1 : descriptionColumn;
     const int number = body.horizontalAdvance(u"3000"_s) + 5 * inset;
-    const int fate = body.horizontalAdvance(u"Not read: no date in it"_s) + 2 * inset;
-    const int least = body.horizontalAdvance(u"12/30/2026"_s) + 2 * inset;
-    const int each = std::max(least, (m_view->viewport()->width() - number - fate) / (count - 2));
+    int left = m_view->viewport()->width() - number - widthOf(count - 1);
     m_view->setColumnWidth(0, number);
-    for (int column = 1; column < count - 1; ++column)
-        m_view->setColumnWidth(column, each);
+    for (int column = 1; column < count - 1; ++column) {
+        if (column == description)
+            continue;
+        const int width = std::max(widthOf(column), body.horizontalAdvance(u"12/30/2026"_s) + 3 * inset);
+        m_view->setColumnWidth(column, width);
+        left -= width;
+    }
+    if (description > 0) {
+        const int least = body.averageCharWidth() * leastDescription;
+        m_view->setColumnWidth(description, std::max(least, left));
+    }
+}
+
+/// What a column of the grid is in the file, as a choice.
+void CsvPanel::addChoices(QMenu *menu, int column)
+{
+    const QStringList names = m_import->fileColumns();
+    const int chosen = m_import->placeOf(column);
+    const QString heading = CarRows::headings(m_part, m_desk.car.unit())[column];
+    menu->setTitle(CsvLines::columnIs(heading, names.value(chosen, CsvLines::notInTheFile())));
+    auto *group = new QActionGroup(menu);
+    for (int place = -1; place < int(names.size()); ++place) {
+        QString words = place < 0 ? CsvLines::notInTheFile()
+                                  : CsvLines::withExample(names[place], m_import->example(place));
+        QAction *action = group->addAction(words.replace(u'&', u"&&"_s));
+        action->setCheckable(true);
+        action->setChecked(place == chosen);
+        connect(action, &QAction::triggered, this, [this, column, place] {
+            m_import->setPlace(column, place);
+            start();
+        });
+    }
+    menu->addActions(group->actions());
+}
+
+void CsvPanel::openColumns()
+{
+    auto *menu = named(new QMenu(this), u"carImportColumnsMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (int column = 0; column < CarRows::columnCount(m_part); ++column)
+        addChoices(menu->addMenu(QString()), column);
+    menu->popup(m_columns->mapToGlobal(QPoint(0, -menu->sizeHint().height())));
+}
+
+void CsvPanel::openChoices(int section)
+{
+    const int column = section - 1;
+    if (!m_import || m_work->isRunning() || column < 0 || column >= CarRows::columnCount(m_part))
+        return;
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    addChoices(menu, column);
+    const QHeaderView *heading = m_view->horizontalHeader();
+    menu->popup(heading->viewport()->mapToGlobal(
+        QPoint(heading->sectionViewportPosition(section), heading->height())));
 }
 
 bool CsvPanel::open(const QString &path, CarPart part)
@@ -96,18 +175,25 @@ bool CsvPanel::open(const QString &path, CarPart part)
     }
     setTitle(name);
     m_part = part;
-    m_model->show(nullptr, part, m_desk.car.unit());
+    m_model->show(nullptr, part, m_desk.car.unit()); // of the file before
     m_import = std::make_unique<CarCsvImport>(file.readAll(), part, m_desk.car.record(),
                                               m_desk.program.state.dateStyle, m_desk.program.clock.today());
+    start();
+    return true;
+}
+
+void CsvPanel::start()
+{
+    m_model->show(nullptr, m_part, m_desk.car.unit());
     m_work->start([this] { return m_import->step(); });
     refresh();
-    return true;
 }
 
 void CsvPanel::refresh()
 {
     const bool isBusy = m_work->isRunning();
-    m_hint->setText(m_import->isReadable() ? CsvLines::whatIsTaken(m_part) : CsvLines::noColumns());
+    m_hint->setText(m_import->isReadable() ? CsvLines::whatIsTaken(m_part, m_import->notUsed())
+                                           : CsvLines::noColumns());
     setWords(isBusy ? QString() : CsvLines::toBeTaken(m_import->chosenCount(), m_import->lines().size()));
     QString why = m_desk.car.whyLocked(m_part);
     if (why.isEmpty() && isBusy)
@@ -115,6 +201,7 @@ void CsvPanel::refresh()
     if (why.isEmpty() && m_import->chosenCount() == 0)
         why = CsvLines::nothingToTake();
     setUnavailable(m_take, why);
+    setUnavailable(m_columns, isBusy ? CsvLines::isBeingRead() : QString());
 }
 
 void CsvPanel::take()

@@ -8,11 +8,12 @@
 #include <memory>
 
 class CsvModel;
+class QMenu;
 class QTableView;
 class SlicedWork;
 
-/// The preview of a file that comes into a history or the fuel tracker: what becomes of each of its lines,
-/// and the button that takes them, in one step.
+/// The preview of a file that comes into a history or the fuel tracker: what its columns are taken for, which
+/// can be said otherwise, what becomes of each of its lines, and the button that takes them, in one step.
 class CsvPanel final : public TaskPanel
 {
     Q_OBJECT
@@ -38,6 +39,11 @@ protected:
 private:
     void makeView();
     void shareWidth();
+    int widthOf(int column) const;
+    void addChoices(QMenu *menu, int column);
+    void openColumns();
+    void openChoices(int section);
+    void start();
     void refresh();
     void take();
 
@@ -48,5 +54,6 @@ private:
     CsvModel *m_model;
     QTableView *m_view;
     QLabel *m_hint;
+    QPushButton *m_columns = nullptr;
     QPushButton *m_take = nullptr;
 };

@@ -79,6 +79,8 @@ private slots:
              {"no heading", "10000,01/02/2026,Tires,30.00\n", u"10000 01/02/2026 Tires 30.00"_s},
              {"a currency in front", "Date,Work,Cost\n01/02/2026,Tires,USD 30.00\n",
               u" 01/02/2026 Tires 30.00"_s},
+             {"thousands with points, and no amounts", "Date,Odometer,Work\n01/02/2026,10.000 km,Tires\n",
+              u"10000 km 01/02/2026 Tires "_s},
              {"no cost", "Date,Odometer,Work\n01/02/2026,10000,Tires\n", u"10000 01/02/2026 Tires "_s},
              {"nothing but a date", "Date\n01/02/2026\n", {}},
              {"something else", "a,b\nc,d\n", {}}});
@@ -117,6 +119,55 @@ private slots:
         QCOMPARE(import.chosenCount(), state == CarCsvLine::Ready ? 1 : 0);
         import.setChosen(0, true);
         QCOMPARE(import.chosenCount(), state == CarCsvLine::NotRead ? 0 : 1);
+    }
+
+    void tellsWhichColumnsItDoesNotUse()
+    {
+        CarCsvImport import = importOf(
+            "Datum;Was;Betrag;;km\n02.01.2026;Reifen;12,50;;10.000\n03.01.2026;;;;\n", CarPart::Maintenance);
+        QCOMPARE(import.notUsed(), QStringList({u"Was"_s, u"Betrag"_s}));
+        QVERIFY(import.lines()[0].isBare);
+        QCOMPARE(import.chosenCount(), 0);
+        QCOMPARE(import.example(2), u"12,50"_s);
+        import.setPlace(2, 1);
+        import.setPlace(3, 2);
+        while (import.step()) {}
+        QCOMPARE(import.notUsed(), QStringList());
+        QCOMPARE(lastMaintenance(import), u"10000 01/02/2026 Reifen 12.50"_s);
+        QCOMPARE(import.chosenCount(), 1); // nothing was done on the third
+        import.setChosen(1, true);
+        QCOMPARE(import.result().maintenance.size(), 3);
+        // What a column was before, it is no more.
+        import.setPlace(0, 0);
+        while (import.step()) {}
+        QCOMPARE(import.placeOf(1), -1);
+        QVERIFY(!import.isReadable());
+        QCOMPARE(import.lines()[0].problem, u"no date"_s);
+    }
+
+    void findsColumnsThatHaveNoName()
+    {
+        CarCsvImport import = importOf("Tires,01/02/2026\n", CarPart::Repairs);
+        QVERIFY(!import.isReadable());
+        QCOMPARE(import.fileColumns(), QStringList({u"Column 1"_s, u"Column 2"_s}));
+        import.setPlace(1, 1);
+        import.setPlace(2, 0);
+        while (import.step()) {}
+        QCOMPARE(import.result().repairs.last(), (HistoryRow{{}, u"01/02/2026"_s, u"Tires"_s, {}}));
+    }
+
+    void worksOutWhatAFillUpLeavesOut()
+    {
+        const FuelLog fuel = importOf("Date,Reading,Gallons,Price\n2026-11-13,84700,8.1,29.9\n"
+                                      "2026-11-05,84500,9.5,$32.50\n2026-08-30,82700,3,\n2026-11-20,,9,\n",
+                                      CarPart::Fuel)
+                                 .result()
+                                 .fuel.mid(1);
+        QCOMPARE(fuel,
+                 (FuelLog{{u"08/30/2026"_s, {}, u"82700"_s, {}, u"3"_s, {}, {}},
+                          {u"11/05/2026"_s, u"82820"_s, u"84500"_s, u"1680"_s, u"9.5"_s, u"176.8"_s, {}},
+                          {u"11/13/2026"_s, u"84500"_s, u"84700"_s, u"200"_s, u"8.1"_s, u"24.7"_s, {}},
+                          {u"11/20/2026"_s, {}, {}, {}, u"9"_s, {}, {}}}));
     }
 
     void takesNoMoreFillUpsThanThereIsRoom()
