@@ -26,6 +26,8 @@ std::optional<QString> itemText(const Page::Item &item)
                 return value.headings.isEmpty() ? std::nullopt : std::optional(value.headings.join(u'\t'));
             else if constexpr (std::is_same_v<T, PageItem::Blank>)
                 return value.label;
+            else if constexpr (std::is_same_v<T, PageItem::Section>)
+                return value.title;
             else if constexpr (std::is_same_v<T, PageItem::Break>)
                 return QString();
             else
@@ -133,6 +135,24 @@ Page &Page::breakPage()
     return *this;
 }
 
+Page &Page::section(const QString &title)
+{
+    m_items.emplace_back(PageItem::Section{title, false});
+    return *this;
+}
+
+Page &Page::numberedSection(const QString &title)
+{
+    m_items.emplace_back(PageItem::Section{title, true});
+    return *this;
+}
+
+Page &Page::frameSheets(bool isFramed)
+{
+    m_hasFrames = isFramed;
+    return *this;
+}
+
 Page &Page::numberSheets(SheetNumbers numbers)
 {
     m_numbers = numbers;
@@ -183,11 +203,10 @@ QString Page::toText() const
     return toText(0, m_items.size() + 1);
 }
 
-QString Page::toText(std::size_t first, std::size_t end, int sheetNumber) const
+QString Page::toText(std::size_t first, std::size_t end, const QString &title) const
 {
     QStringList lines;
     if (!m_title.isEmpty() || !m_headRight.isEmpty()) {
-        const QString title = titleOf(sheetNumber);
         const QString head = m_headRight.isEmpty() ? title : title + u'\t' + m_headRight;
         lines << QString() << head << QString();
     }
@@ -196,7 +215,8 @@ QString Page::toText(std::size_t first, std::size_t end, int sheetNumber) const
     const QStringList headings = isInsideTable ? headingsOver(m_items, first) : QStringList();
     if (!headings.isEmpty())
         lines << headings.join(u'\t');
-    for (std::size_t i = first; i < itemsEnd; ++i) {
+    const bool isTitle = first < itemsEnd && std::holds_alternative<PageItem::Section>(m_items[first]);
+    for (std::size_t i = isTitle ? first + 1 : first; i < itemsEnd; ++i) {
         if (const auto text = itemText(m_items[i]))
             lines << *text;
     }

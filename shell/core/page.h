@@ -183,6 +183,13 @@ struct Break {
     bool operator==(const Break &) const = default;
 };
 
+/// Starts the next sheet, unless this is the first item of one: it and those behind it bear another title.
+struct Section {
+    QString title;
+    bool isNumbered = false; ///< each has its number behind the title, from 1 on
+    bool operator==(const Section &) const = default;
+};
+
 } // namespace PageItem
 
 /// A printable page, or as many as its content needs, described before anything is drawn. It belongs to no
@@ -190,9 +197,10 @@ struct Break {
 class Page
 {
 public:
-    using Item = std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank,
-                              PageItem::Picture, PageItem::PlacedText, PageItem::PlacedPicture,
-                              PageItem::PlacedRule, PageItem::BelowPlaced, PageItem::Rule, PageItem::Break>;
+    using Item =
+        std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank, PageItem::Picture,
+                     PageItem::PlacedText, PageItem::PlacedPicture, PageItem::PlacedRule,
+                     PageItem::BelowPlaced, PageItem::Rule, PageItem::Break, PageItem::Section>;
 
     /// A page headed by `title`; `headRight` (usually a date) stands at the right of the title line.
     explicit Page(QString title = {}, QString headRight = {});
@@ -214,6 +222,9 @@ public:
     Page &belowPlaced();
     Page &rule();
     Page &breakPage();
+    Page &section(const QString &title);
+    /// The same; its sheets have their numbers behind the title.
+    Page &numberedSection(const QString &title);
 
     /// `Foot` unless told otherwise.
     Page &numberSheets(SheetNumbers numbers);
@@ -221,6 +232,10 @@ public:
 
     /// What stands behind the title of every sheet but the first, " (Continued)" say.
     Page &continueTitle(const QString &words);
+
+    /// A thin frame around every sheet, inside its edges.
+    Page &frameSheets(bool isFramed);
+    bool hasFrames() const { return m_hasFrames; }
 
     /// Where the title begins, in inches from the sheet's upper edge, for pages that have something placed
     /// near it; half an inch unless told otherwise.
@@ -233,7 +248,7 @@ public:
     Page &close(QDate printedOn, DateStyle style);
 
     const QString &title() const { return m_title; }
-    /// The title as sheet `number` (from 1) shows it.
+    /// The title as sheet `number` (from 1) shows it outside of sections.
     QString titleOf(int number) const;
     const QString &headRight() const { return m_headRight; }
     Page &setHeadRight(const QString &text);
@@ -251,7 +266,8 @@ public:
     QString toText() const;
     /// The same of the items from `first` up to `end`, as a sheet holds them: under the title and, inside a
     /// table, its headings. The closing lines count as one item behind the last.
-    QString toText(std::size_t first, std::size_t end, int sheetNumber = 1) const;
+    QString toText(std::size_t first, std::size_t end) const { return toText(first, end, titleOf(1)); }
+    QString toText(std::size_t first, std::size_t end, const QString &title) const;
 
     bool operator==(const Page &) const = default;
 
@@ -262,6 +278,7 @@ private:
     QString m_headRight;
     std::vector<Item> m_items;
     SheetNumbers m_numbers = SheetNumbers::Foot;
+    bool m_hasFrames = false;
     bool m_closed = false;
     QString m_printedLine;
 };

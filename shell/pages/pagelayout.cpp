@@ -20,6 +20,8 @@ constexpr double margin = PageMetrics::margin * pointsPerInch;
 constexpr double smallestSheet = 2;
 constexpr double largestSheet = 60;
 constexpr double blankGap = 8;
+constexpr double frame = 0.3 * pointsPerInch; ///< from the edges of the sheet
+constexpr double frameWidth = 0.75;
 constexpr qsizetype manyLines = 20;
 
 double usable(double inches)
@@ -38,6 +40,15 @@ double longestLabel(const Page &page, const PageType &type, double lineWidth)
     return std::min(longest, 0.45 * lineWidth);
 }
 
+/// "Page No. 1" behind the title is never parted.
+QString withUnbrokenNumber(QString title)
+{
+    const qsizetype at = title.lastIndexOf(u" - "_s) + 3;
+    if (at < 3)
+        return title;
+    return title.replace(at, title.size() - at, title.mid(at).replace(u' ', QChar::Nbsp));
+}
+
 } // namespace
 
 PageLayout::PageLayout(const Page &page, const PageSetup &setup, const PageFont &font)
@@ -47,7 +58,12 @@ PageLayout::PageLayout(const Page &page, const PageSetup &setup, const PageFont 
     , m_blankIndent(longestLabel(m_page, m_types.body, body().width()))
 {
     fitTables(font);
-    m_longItem = m_page.items().size();
+    const auto &items = m_page.items();
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (std::holds_alternative<PageItem::Section>(items[i]))
+            m_sections.push_back(i);
+    }
+    m_longItem = items.size();
     cutIntoSheets();
 }
 
@@ -102,6 +118,33 @@ void PageLayout::cutIntoSheets()
         m_footHeight = m_types.foot.lineHeight() + 3;
     cut(std::numeric_limits<std::size_t>::max());
     keepClosingInCompany();
+}
+
+/// The section that the sheet belongs to; null before the first.
+const PageItem::Section *PageLayout::sectionOf(int number) const
+{
+    const auto behind = std::ranges::upper_bound(m_sections, m_starts[std::size_t(number - 1)].item);
+    return behind == m_sections.begin() ? nullptr
+                                        : std::get_if<PageItem::Section>(&m_page.items()[*(behind - 1)]);
+}
+
+QString PageLayout::titleOf(int number) const
+{
+    const PageItem::Section *section = sectionOf(number);
+    if (!section || !section->isNumbered)
+        return section ? section->title : m_page.titleOf(number);
+    int first = number;
+    while (first > 1 && sectionOf(first - 1) == section)
+        --first;
+    return section->title + QString::number(number - first + 1);
+}
+
+QString PageLayout::headOf(int number) const
+{
+    const PageItem::Section *section = sectionOf(number);
+    const bool isNumbered = section ? section->isNumbered : m_page.sheetNumbers() == SheetNumbers::Title;
+    const QString title = titleOf(number).trimmed(); // a blank before it would not stand over the rule
+    return isNumbered ? withUnbrokenNumber(title) : title;
 }
 
 qsizetype PageLayout::rowsFrom(std::size_t item) const
@@ -180,8 +223,17 @@ void PageLayout::paint(QPainter &painter, int index) const
 {
     if (index < 0 || index >= sheetCount())
         return;
+    if (m_page.hasFrames())
+        paintFrame(painter);
     SheetFlow(*this, index + 1, &painter).fill(m_starts[std::size_t(index)], endOf(index));
     paintNumber(painter, index + 1, sheetCount());
+}
+
+void PageLayout::paintFrame(QPainter &painter) const
+{
+    painter.setPen(QPen(Qt::black, frameWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF({}, sheet()).adjusted(frame, frame, -frame, -frame));
 }
 
 void PageLayout::paintNumber(QPainter &painter, int number, int count) const
@@ -197,7 +249,7 @@ QString PageLayout::text(int index) const
 {
     if (index < 0 || index >= sheetCount())
         return {};
-    return m_page.toText(m_starts[std::size_t(index)].item, endOf(index), index + 1);
+    return m_page.toText(m_starts[std::size_t(index)].item, endOf(index), titleOf(index + 1));
 }
 
 std::size_t PageLayout::endOf(int index) const

@@ -41,6 +41,10 @@ public:
     /// Whether a table of numbers was too wide for the sheet and goes on as a second one.
     bool isTableCut() const { return m_isTableCut; }
 
+    /// The title of sheet `number`, from 1; and how it is set.
+    QString titleOf(int number) const;
+    QString headOf(int number) const;
+
     /// How many rows follow one another from `item` on, or behind it where it begins their table.
     qsizetype rowsFrom(std::size_t item) const;
     /// Whether a row, or the rule below it, is never parted from the next item.
@@ -57,6 +61,8 @@ public:
     QStringList linesOf(std::size_t item, const PageItem::Line &line) const;
 
 private:
+    void paintFrame(QPainter &painter) const;
+    const PageItem::Section *sectionOf(int number) const;
     void fitTables(const PageFont &font);
     void cutIntoSheets();
     bool cut(std::size_t mostSheets);
@@ -74,6 +80,7 @@ private:
     double m_footHeight = 0; ///< room for "Page n of m", once there is more than one sheet
     double m_blankIndent;
     std::vector<SheetStart> m_starts;
+    std::vector<std::size_t> m_sections; ///< which items are sections
     mutable std::size_t m_longItem = 0;
     mutable QStringList m_longLines;
 };

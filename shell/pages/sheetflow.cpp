@@ -33,15 +33,6 @@ QRectF inPoints(const QRectF &inches)
     return {inches.topLeft() * pointsPerInch, inches.size() * pointsPerInch};
 }
 
-/// "Page No. 1" behind the title is never parted.
-QString withUnbrokenNumber(QString title)
-{
-    const qsizetype at = title.lastIndexOf(u" - "_s) + 3;
-    if (at < 3)
-        return title;
-    return title.replace(at, title.size() - at, title.mid(at).replace(u' ', QChar::Nbsp));
-}
-
 } // namespace
 
 SheetFlow::SheetFlow(const PageLayout &layout, int number, QPainter *painter)
@@ -58,6 +49,7 @@ std::optional<SheetStart> SheetFlow::fill(SheetStart start, std::size_t end)
 {
     const auto &items = m_layout.page().items();
     m_at = start;
+    m_firstItem = start.item;
     m_isFirst = start.item == 0 && start.line == 0;
     startTable(start.columns);
     placeTitle();
@@ -79,10 +71,7 @@ void SheetFlow::placeTitle()
     const PageType &right = types().headRight;
     const QString head = right.elided(page.headRight(), m_body.width() / 2);
     const double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + 2 * columnGap);
-    const bool isNumbered = page.sheetNumbers() == SheetNumbers::Title;
-    QString words = page.titleOf(m_number).trimmed(); // a blank before it would not stand over the rule
-    if (isNumbered)
-        words = withUnbrokenNumber(words);
+    const QString words = m_layout.headOf(m_number);
     const QStringList lines = title.shortened(title.wrapped(words, titleWidth), titleLines, titleWidth);
     for (const QString &line : lines) {
         if (m_painter)
@@ -351,6 +340,15 @@ bool SheetFlow::place(const PageItem::Break &)
         return true;
     m_at = {m_at.item + 1, 0, nullptr};
     return false;
+}
+
+/// The title of a sheet is that of the section that it begins with, so a section begins a sheet.
+bool SheetFlow::place(const PageItem::Section &)
+{
+    if (m_at.item != m_firstItem)
+        return false;
+    startTable(nullptr);
+    return true;
 }
 
 double SheetFlow::closingHeight() const

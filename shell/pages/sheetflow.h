@@ -40,6 +40,7 @@ private:
     bool place(const PageItem::BelowPlaced &);
     bool place(const PageItem::Rule &);
     bool place(const PageItem::Break &);
+    bool place(const PageItem::Section &);
     bool placeClosing();
 
     void placeTitle();
@@ -69,6 +70,7 @@ private:
     SheetStart m_at;
     double m_y;
     double m_bottom;
+    std::size_t m_firstItem = 0;
     bool m_isFirst = true;
     double m_lowestPlaced = 0;
     bool m_isFresh = true; ///< nothing but title and headings stands on the sheet yet

@@ -113,6 +113,34 @@ private slots:
         QVERIFY(!sheets[0].contains(u"Continued"_s) && sheets[1].contains(u"Family List (Continued)"_s));
     }
 
+    void sectionsHaveTitlesAndNumbersOfTheirOwn()
+    {
+        Page page(u"Printout"_s, u"Anne"_s);
+        page.line(u"a"_s).numberedSection(u"Data - Page "_s).columns({1});
+        for (int i = 0; i < 80; ++i)
+            page.row({QString::number(i)});
+        page.section(u"Plan"_s).line(u"b"_s).section(u"Photos"_s).line(u"c"_s);
+        const PagePainter painter(page.close(printedOn, DateStyle::Usa), {}, bodyFont());
+        QStringList titles;
+        for (int sheet = 0; sheet < painter.sheetCount(); ++sheet)
+            titles << painter.text(sheet).split(u'\n')[1];
+        QCOMPARE(titles, QStringList({u"Printout\tAnne"_s, u"Data - Page 1\tAnne"_s, u"Data - Page 2\tAnne"_s,
+                                      u"Data - Page 3\tAnne"_s, u"Plan\tAnne"_s, u"Photos\tAnne"_s}));
+        QVERIFY(painter.text(4).startsWith(u"\nPlan\tAnne\n\nb"_s));
+    }
+
+    void framesEverySheet()
+    {
+        for (const bool isFramed : {false, true}) {
+            Page page = Page().line(u"a"_s).breakPage().line(u"b"_s);
+            const PagePainter painter(page.frameSheets(isFramed), {}, bodyFont());
+            for (const int sheet : {0, 1}) {
+                const QImage image = painter.image(sheet, 100); // the frame is 0.3 inch inside
+                QCOMPARE(qGray(image.pixel(30, 550)) < 200 || qGray(image.pixel(29, 550)) < 200, isFramed);
+            }
+        }
+    }
+
     void rowsStayTogether()
     {
         for (int rows = 20; rows < 60; ++rows) {
