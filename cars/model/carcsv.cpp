@@ -2,6 +2,7 @@
 #include "cars/model/carcsv.h"
 
 #include "cars/model/carwords.h"
+#include "shell/core/csvtext.h"
 
 #include <algorithm>
 #include <array>
@@ -9,8 +10,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr qsizetype longestName = 60;
 
 /// The words by which a heading names a column of a grid, the surest first.
 struct Named {
@@ -53,35 +52,18 @@ qsizetype dateColumn(CarPart part)
     return part == CarPart::Fuel ? 0 : 1;
 }
 
-QString cell(const QString &text)
-{
-    if (!text.contains(u',') && !text.contains(u'"') && !text.contains(u'\n') && !text.contains(u'\r'))
-        return text;
-    return u'"' + QString(text).replace(u"\""_s, u"\"\""_s) + u'"';
-}
-
-template <typename Cells>
-QString line(const Cells &cells)
-{
-    QStringList texts;
-    for (const QString &text : cells)
-        texts << cell(text);
-    return texts.join(u',') + u"\r\n"_s;
-}
-
 template <typename Row, std::size_t count, typename Headings>
 QByteArray file(const QList<Row> &rows, const std::array<QString Row::*, count> &columns,
                 const Headings &headings)
 {
-    // Without the mark spreadsheets take the letters for those of an older code page.
-    QString text = QChar(QChar::ByteOrderMark) + line(headings);
+    QString text = CsvText::line(QStringList(headings.begin(), headings.end()));
     for (const Row &row : rows) {
         QStringList cells;
         for (const auto column : columns)
             cells << row.*column;
-        text += line(cells);
+        text += CsvText::line(cells);
     }
-    return text.toUtf8();
+    return CsvText::file(text);
 }
 
 QList<int> namedBy(const QStringList &heading, CarPart part)
@@ -113,17 +95,10 @@ QByteArray CarCsv::text(const FuelLog &fuel, DistanceUnit unit)
 
 QString CarCsv::fileName(const QString &vehicle, CarPart part)
 {
-    QString name;
-    for (const QChar character : vehicle.simplified().left(longestName)) {
-        if (character.isPrint() && !u"/\\:*?\"<>|"_s.contains(character))
-            name += character;
-    }
-    while (name.startsWith(u'.'))
-        name.remove(0, 1);
     const QString what = part == CarPart::Fuel      ? u"fuel"_s
                          : part == CarPart::Repairs ? u"repairs"_s
                                                     : u"maintenance"_s;
-    return QString(name + u' ' + what).trimmed() + u".csv"_s;
+    return CsvText::fileName(vehicle, what);
 }
 
 CarCsv::Columns CarCsv::Columns::find(const QList<QStringList> &lines, CarPart part)
