@@ -2,7 +2,7 @@
 #pragma once
 
 #include "budget/model/budgetpages.h"
-#include "budget/window/chartpicture.h"
+#include "shell/charts/chartpicture.h"
 #include "shell/frame/commands.h"
 
 #include <QObject>

@@ -8,11 +8,8 @@
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
-#include "shell/pictures/picturefolder.h"
 
-#include <QImageReader>
 #include <QMenu>
-#include <QTemporaryDir>
 
 #include <utility>
 
@@ -28,9 +25,8 @@ CarPrint::CarPrint(const CarDesk &desk, std::function<Sheet()> shown, std::funct
     , m_desk(desk)
     , m_shown(std::move(shown))
     , m_finish(std::move(finish))
+    , m_copies(desk.program.folder)
 {}
-
-CarPrint::~CarPrint() = default;
 
 QAction *CarPrint::addCommands(QMenu *menu)
 {
@@ -120,35 +116,13 @@ CarPages::Pictures CarPrint::pictures()
     const DateStyle style = m_desk.program.state.dateStyle;
     const QDate today = m_desk.program.clock.today();
     const auto draw = [this](const QString &name, const LineChart &chart) {
-        return chart.isEmpty() ? QString() : store(name, PaperChart::draw(chart, CarPages::chartSize));
+        return chart.isEmpty() ? QString()
+                               : m_copies.keep(name, PaperChart::draw(chart, CarPages::chartSize));
     };
     return {
-        carPicture(),
+        m_copies.photo(u"car"_s, car.sheet.field(VehicleSheet::Picture), pictureOnPaper),
         draw(u"consumption"_s, CarCharts::consumption(FuelFigures(car.fuel, style), car.sheet.unit, style)),
         draw(u"costs"_s, CarCharts::costs(CarCosts(car, style, today), style)),
         draw(u"odometer"_s,
              CarCharts::odometer(CarNeeds::drivingLog(car, style, today), car.sheet.unit, style))};
-}
-
-/// No larger than it is printed, so that neither preview nor printer waits for it.
-QString CarPrint::carPicture()
-{
-    const QString stored = m_desk.car.record().sheet.field(VehicleSheet::Picture).trimmed();
-    const QString path = stored.isEmpty() ? QString() : PictureFolder(m_desk.program.folder).locate(stored);
-    if (path.isEmpty())
-        return {};
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > pictureOnPaper.width() || size.height() > pictureOnPaper.height())
-        reader.setScaledSize(size.scaled(pictureOnPaper, Qt::KeepAspectRatio));
-    return store(u"car"_s, reader.read());
-}
-
-QString CarPrint::store(const QString &name, const QImage &image)
-{
-    if (!m_folder)
-        m_folder = std::make_unique<QTemporaryDir>();
-    const QString path = m_folder->filePath(name + u".png"_s);
-    return !image.isNull() && image.save(path, "PNG") ? path : QString();
 }

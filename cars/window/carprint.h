@@ -3,16 +3,14 @@
 
 #include "cars/model/carpages.h"
 #include "cars/window/cardesk.h"
+#include "shell/pictures/papercopies.h"
 
-#include <QImage>
 #include <QObject>
 
 #include <functional>
-#include <memory>
 
 class QAction;
 class QMenu;
-class QTemporaryDir;
 
 /// What is printed of the cars, as they are shown, saved or not.
 class CarPrint final : public QObject
@@ -25,7 +23,6 @@ public:
     /// `shown` tells what stands in front; `finish` ends what is being typed.
     CarPrint(const CarDesk &desk, std::function<Sheet()> shown, std::function<void()> finish,
              QObject *parent);
-    ~CarPrint() override;
 
     /// Puts the commands into `menu`, and the first on the toolbar; the tool that it is there.
     QAction *addCommands(QMenu *menu);
@@ -39,12 +36,10 @@ private:
     void printAll();
     void show(const QString &what, const Builder &builder);
     CarPages::Pictures pictures();
-    QString carPicture();
-    QString store(const QString &name, const QImage &image);
     bool isThere();
 
     CarDesk m_desk;
     std::function<Sheet()> m_shown;
     std::function<void()> m_finish;
-    std::unique_ptr<QTemporaryDir> m_folder; ///< of the pictures; they live as long as the window
+    PaperCopies m_copies;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "budget/window/chartpicture.h"
+#include "shell/charts/chartpicture.h"
 #include "tests/support/failingdisk.h"
 #include "tests/support/testprogram.h"
 
