@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "weight/window/weightprintpanel.h"
+
+#include "shell/charts/paperchart.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/program/program.h"
+#include "weight/model/weightpaperlines.h"
+
+#include <QCheckBox>
+#include <QSettings>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using WeightPages::Options;
+
+constexpr QSize photoOnPaper(2250, 2310); ///< a whole sheet at 300 points to the inch
+constexpr QLatin1StringView keys("Windows/WeightTracker/print/");
+
+/// A choice of the panel; its caption is fixed.
+struct Choice {
+    bool Options::*option;
+    QStringView caption;
+    QLatin1StringView name;
+};
+
+constexpr std::array<Choice, 7> choices{
+    {{&Options::graph, u"Print Graph", "printGraph"_L1},
+     {&Options::data, u"Weight Tracker Data", "printData"_L1},
+     {&Options::plan, u"Plan Information", "printPlan"_L1},
+     {&Options::beginningPicture, u"Picture(Beginning)", "printBeginning"_L1},
+     {&Options::currentPicture, u"Picture(Current)", "printCurrent"_L1},
+     {&Options::borderLines, u"Print Border Lines", "printBorder"_L1},
+     {&Options::dividerLines, u"Divider Lines", "printDividers"_L1}}};
+constexpr std::size_t firstOfLines = 5;
+
+} // namespace
+
+WeightPrintPanel::WeightPrintPanel(Program &program, FunctionWindow *window,
+                                   std::function<WeightSheet()> sheet)
+    : TaskPanel(u"weightPrintPanel"_s, u"Print Options"_s)
+    , m_program(program)
+    , m_window(window)
+    , m_sheet(std::move(sheet))
+    , m_graph(program.folder)
+    , m_photos(program.folder)
+{
+    static_assert(choices.size() == count);
+    auto *content = new QWidget(this);
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins({});
+    column->setSpacing(8);
+    column->addWidget(makeHeading(u"What is printed"_s, content));
+    column->addWidget(
+        makeQuietLabel(u"The first page tells what the weigh-ins come to; each of these begins on a new "
+                       "page, but for the graph."_s,
+                       content));
+    for (std::size_t i = 0; i < count; ++i) {
+        if (i == firstOfLines) {
+            column->addSpacing(8);
+            column->addWidget(makeHeading(u"Lines"_s, content));
+        }
+        m_choices[i] = addChoice(column, i);
+    }
+    column->addStretch(1);
+    setContent(content);
+    m_show = addButton(u"weightPrintShow"_s, u"Show &Pages"_s, ButtonKind::Main);
+    setLeaveButton(u"weightPrintClose"_s, u"C&lose"_s);
+    setFocusProxy(m_choices.front());
+    connect(m_show, &QPushButton::clicked, this, &WeightPrintPanel::print);
+}
+
+QCheckBox *WeightPrintPanel::addChoice(QVBoxLayout *column, std::size_t choice)
+{
+    const Choice &of = choices[choice];
+    auto *box = named(new QCheckBox(of.caption.toString(), this), of.name);
+    box->setChecked(m_program.store.value(keys + of.name, Options().*of.option).toBool());
+    column->addWidget(box);
+    connect(box, &QCheckBox::toggled, this, &WeightPrintPanel::remember);
+    return box;
+}
+
+void WeightPrintPanel::remember()
+{
+    for (std::size_t i = 0; i < count; ++i)
+        m_program.store.setValue(keys + choices[i].name, m_choices[i]->isChecked());
+}
+
+void WeightPrintPanel::start()
+{
+    const WeightSheet sheet = m_sheet();
+    const auto offer = [this](bool Options::*option, bool isThere, const QString &reason) {
+        for (std::size_t i = 0; i < count; ++i) {
+            if (choices[i].option == option)
+                setUnavailable(m_choices[i], isThere ? QString() : reason);
+        }
+    };
+    offer(&Options::graph, !WeightGraph::of(sheet).points.isEmpty(), WeightPaperLines::noWeighIns());
+    offer(&Options::data, !sheet.weighIns.isEmpty(), WeightPaperLines::noWeighIns());
+    offer(&Options::beginningPicture, !sheet.beginningPicture.trimmed().isEmpty(),
+          WeightPaperLines::noPhoto());
+    offer(&Options::currentPicture, !sheet.currentPicture.trimmed().isEmpty(), WeightPaperLines::noPhoto());
+}
+
+/// What cannot be printed is left out, whatever was chosen for others.
+Options WeightPrintPanel::options() const
+{
+    Options options;
+    for (std::size_t i = 0; i < count; ++i)
+        options.*choices[i].option = m_choices[i]->isChecked() && m_choices[i]->isEnabled();
+    return options;
+}
+
+void WeightPrintPanel::print()
+{
+    start();
+    const WeightSheet sheet = m_sheet();
+    const Options options = this->options();
+    const auto extent = m_extent ? m_extent() : WeightGraph::Extent::Last50;
+    WeightPages::Pictures pictures;
+    if (options.beginningPicture)
+        pictures.beginning = m_photos.photo(u"beginning"_s, sheet.beginningPicture, photoOnPaper);
+    if (options.currentPicture)
+        pictures.current = m_photos.photo(u"current"_s, sheet.currentPicture, photoOnPaper);
+    const auto page = [this, sheet, options, pictures, extent](const PageContext &context) {
+        WeightPages::Pictures all = pictures;
+        if (options.graph)
+            all.graph =
+                storeGraph(WeightGraph::of(sheet, extent).chart(), WeightPages::graphSize(context.setup));
+        return WeightPages::printout(sheet, options, all, context);
+    };
+    m_window->showPreview(page, sheet.field(WeightSheet::Name).trimmed() + u" Weight Tracker Printout"_s);
+}
+
+/// The path of its picture, wherever that could be kept.
+QString WeightPrintPanel::storeGraph(const LineChart &chart, QSizeF inches)
+{
+    QString path = m_graph.store(PaperChart::draw(chart, inches));
+    const DataFolder &folder = m_program.folder;
+    if (!folder.isReadOnly() && path != folder.filePath(ChartPicture::fileName))
+        emit said(WeightPaperLines::chartNotSaved());
+    return path;
+}
