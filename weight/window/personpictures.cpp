@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "weight/window/personpictures.h"
+
+#include "shell/frame/commands.h"
+#include "shell/frame/picturepanel.h"
+#include "shell/frame/workviews.h"
+#include "weight/window/openperson.h"
+#include "weight/window/personviews.h"
+#include "weight/window/windowlines.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A line of the file has no width, but a path is one of the system's.
+PictureUse pictureUse()
+{
+    constexpr qsizetype longestPath = 260;
+    return {u"Select Weight Tracker Picture"_s, longestPath, TrackerLines::pathNotStorable(),
+            TrackerLines::noPictureToDelete()};
+}
+
+} // namespace
+
+PersonPictures::PersonPictures(const WeightDesk &desk, PersonViews &views, QObject *parent)
+    : QObject(parent)
+    , m_desk(desk)
+    , m_views(views)
+    , m_panel(new PicturePanel(desk.program, pictureUse(), PicturePanel::systemDrives, &desk.views))
+{
+    desk.views.addPanel(m_panel);
+    const auto unless = [this] { return m_desk.person.whyLocked(); };
+    Commands &all = m_desk.commands;
+    for (const auto photo : {PhotosView::Beginning, PhotosView::Current}) {
+        QAction *load = all.writing(all.add(
+            nullptr, u"loadPicture"_s + QString::number(photo + 1), u"Load Picture"_s,
+            [this, photo] { choose(photo); }, unless));
+        m_views.photos().setButton(photo, all.button(load, u"photo"_s + QString::number(photo + 1),
+                                                     load->text(), &m_views.photos()));
+    }
+    connect(m_panel, &PicturePanel::pictureEntered, this, &PersonPictures::enter);
+    connect(m_panel, &PicturePanel::pictureDeleted, this, [this] { enter({}); });
+    connect(m_panel, &PicturePanel::said, this, &PersonPictures::said);
+}
+
+void PersonPictures::choose(PhotosView::Photo photo)
+{
+    m_views.finishEdit();
+    m_photo = photo;
+    m_desk.views.open(m_panel);
+    m_panel->start(!PhotosView::path(m_desk.person.sheet(), photo).trimmed().isEmpty());
+}
+
+void PersonPictures::enter(const QString &path)
+{
+    m_views.open(PersonViews::Photos);
+    m_views.photos().setPath(m_photo, path);
+}

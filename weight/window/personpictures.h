@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "weight/window/photosview.h"
+
+#include <QObject>
+
+class PersonViews;
+class PicturePanel;
+
+/// Chooses the photos of the open person in the picture panel.
+class PersonPictures final : public QObject
+{
+    Q_OBJECT
+public:
+    PersonPictures(const WeightDesk &desk, PersonViews &views, QObject *parent);
+
+signals:
+    void said(const QString &line);
+
+private:
+    void choose(PhotosView::Photo photo);
+    void enter(const QString &path);
+
+    WeightDesk m_desk;
+    PersonViews &m_views;
+    PicturePanel *m_panel;
+    PhotosView::Photo m_photo = PhotosView::Beginning; ///< the one that is being chosen
+};

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "weight/window/weighinentry.h"
+
+#include "shell/controls/controls.h"
+#include "shell/controls/datebox.h"
+#include "shell/controls/datepicker.h"
+#include "shell/program/program.h"
+#include "weight/model/weightdates.h"
+#include "weight/model/weightnumbers.h"
+#include "weight/window/openperson.h"
+#include "weight/window/windowlines.h"
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int longestWeight = 12;
+/// The table counts months first, whatever the style of dates.
+constexpr DateStyle tableStyle = DateStyle::Usa;
+
+bool isEnter(const QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent *>(event)->key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
+
+WeighInEntry::WeighInEntry(const WeightDesk &desk, DatePicker *picker, QWidget *parent)
+    : QWidget(parent)
+    , m_desk(desk)
+    , m_date(named(new DateBox({tableStyle, desk.program.clock}, picker, this), u"weighInDate"_s))
+    , m_weight(named(new FieldBox(this), u"weighInWeight"_s))
+    , m_fact(named(new ElidedLabel(this), u"weighInFact"_s))
+    , m_row(new QHBoxLayout(this))
+{
+    m_date->setForm(WeightDates::tableText);
+    m_date->setFixedWidth(boxWidth(u"00/00/0000"_s, 128));
+    m_weight->setFixedWidth(boxWidth(u"0000.0"_s, 104));
+    m_weight->setByteLimit(longestWeight);
+    m_fact->setFont(TypeScale::label());
+    m_fact->setForegroundRole(ThemeRole::quiet);
+    m_row->setContentsMargins({});
+    m_row->setSpacing(12);
+    m_row->addLayout(labelled(u"Date of Weigh In:"_s, m_date));
+    m_row->addLayout(labelled(u"Current Weight:"_s, m_weight));
+    m_row->addWidget(m_fact, 1, Qt::AlignBottom);
+    setFocusProxy(m_weight);
+    for (QLineEdit *box : {static_cast<QLineEdit *>(m_date), static_cast<QLineEdit *>(m_weight)})
+        box->installEventFilter(this);
+    connect(m_weight, &FieldBox::refused, this, &WeighInEntry::said);
+    connect(m_date, &FieldBox::refused, this, &WeighInEntry::said);
+    connect(m_weight, &QLineEdit::textChanged, this, &WeighInEntry::showFact);
+    connect(m_date, &DateBox::dateChanged, this, &WeighInEntry::showFact);
+    connect(picker, &DatePicker::picked, this, [this](const DateBox *box) {
+        if (box == m_date)
+            typeWeight();
+    });
+    clear();
+}
+
+void WeighInEntry::setButton(QPushButton *button)
+{
+    button->setParent(this);
+    m_row->insertWidget(2, button, 0, Qt::AlignBottom);
+    setTabOrder(m_date, m_weight);
+    setTabOrder(m_weight, button);
+}
+
+WeighIn WeighInEntry::typed() const
+{
+    return {m_date->text(), m_weight->text()};
+}
+
+bool WeighInEntry::isTyped() const
+{
+    return !m_weight->text().trimmed().isEmpty();
+}
+
+void WeighInEntry::clear()
+{
+    m_date->setDate(m_desk.program.clock.today());
+    m_weight->clear();
+}
+
+void WeighInEntry::refresh()
+{
+    const bool isLocked = !m_desk.person.whyLocked().isEmpty();
+    m_date->setLocked(isLocked);
+    m_weight->setLocked(isLocked);
+    showFact();
+}
+
+void WeighInEntry::typeDate()
+{
+    m_date->setFocus();
+    m_date->selectAll();
+}
+
+void WeighInEntry::typeWeight()
+{
+    m_weight->setFocus();
+    m_weight->selectAll();
+}
+
+/// What the weight is to the last one, and to the goal.
+void WeighInEntry::showFact()
+{
+    const WeightSheet &sheet = m_desk.person.sheet();
+    const std::optional<float> weight = WeightNumbers::number(m_weight->text());
+    if (!weight) {
+        m_fact->setText({});
+        return;
+    }
+    QStringList facts;
+    const qsizetype rows = sheet.weighIns.rowCount();
+    if (const auto last = rows > 0 ? sheet.weighIns.number(rows - 1) : std::nullopt)
+        facts << TrackerLines::fromLast(WeightNumbers::difference(double(*weight - *last)));
+    if (const auto beginning = sheet.beginningWeight())
+        facts << TrackerLines::fromBeginning(WeightNumbers::difference(double(*weight - *beginning)));
+    m_fact->setText(facts.join(u", "_s));
+}
+
+/// Enter in either box adds the weigh-in; Esc gives up what was typed before it leaves the view.
+bool WeighInEntry::eventFilter(QObject *watched, QEvent *event)
+{
+    if (isEnter(event)) {
+        m_date->tidy();
+        emit entered();
+        return true;
+    }
+    const bool isEscape = event->type() == QEvent::KeyPress && watched == m_weight &&
+                          static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    if (!isEscape || !isTyped())
+        return QWidget::eventFilter(watched, event);
+    clear();
+    return true;
+}

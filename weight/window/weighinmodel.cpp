@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "weight/window/weighinmodel.h"
+
+#include "weight/model/weightdates.h"
+#include "weight/model/weightentry.h"
+#include "weight/model/weightnumbers.h"
+#include "weight/window/datecheck.h"
+#include "weight/window/openperson.h"
+#include "weight/window/windowlines.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString heading(int column)
+{
+    switch (column) {
+    case WeighInModel::Date:
+        return u"Date of Weigh In"_s;
+    case WeighInModel::Weight:
+        return u"Current Weight"_s;
+    case WeighInModel::Change:
+        return u"Change from last Entry"_s;
+    default:
+        return u"Beginning Weight Difference"_s;
+    }
+}
+
+/// Single precision, as the weights themselves; empty where one of them is missing.
+QString difference(std::optional<float> weight, std::optional<float> from)
+{
+    return weight && from ? WeightNumbers::difference(double(*weight - *from)) : QString();
+}
+
+} // namespace
+
+WeighInModel::WeighInModel(OpenPerson &person, const DateCheck &dateCheck, QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_person(person)
+    , m_dateCheck(dateCheck)
+{}
+
+void WeighInModel::refresh()
+{
+    const WeightTable &rows = m_person.sheet().weighIns;
+    const bool isOther = rows.rowCount() != m_rows.rowCount() || m_name != m_person.name();
+    if (isOther)
+        beginResetModel();
+    m_rows = rows;
+    m_name = m_person.name();
+    if (isOther)
+        endResetModel();
+    else if (rowCount() > 0)
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columns - 1));
+}
+
+QString WeighInModel::titleOf(int row) const
+{
+    return TrackerLines::weighIn(text(row, Weight), text(row, Date));
+}
+
+QString WeighInModel::text(int row, int column) const
+{
+    const std::optional<float> weight = m_rows.number(row);
+    switch (column) {
+    case Date: {
+        const QDate day = m_rows.day(row);
+        return day.isValid() ? WeightDates::tableText(day) : m_rows.date(row);
+    }
+    case Weight:
+        return weight ? WeightNumbers::text(double(*weight)) : m_rows.weight(row);
+    case Change:
+        return row == 0 ? u"N/A"_s : difference(weight, m_rows.number(row - 1));
+    default:
+        return difference(weight, m_person.sheet().beginningWeight());
+    }
+}
+
+int WeighInModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.rowCount());
+}
+
+int WeighInModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : columns;
+}
+
+QVariant WeighInModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return text(index.row(), index.column());
+    case Qt::TextAlignmentRole:
+        return headerData(index.column(), Qt::Horizontal, role);
+    default:
+        return {};
+    }
+}
+
+QVariant WeighInModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::DisplayRole)
+        return heading(section);
+    return role == Qt::TextAlignmentRole
+               ? QVariant::fromValue(Qt::AlignVCenter | (section == Date ? Qt::AlignLeft : Qt::AlignRight))
+               : QVariant();
+}
+
+Qt::ItemFlags WeighInModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    const bool isStored = index.column() == Date || index.column() == Weight;
+    return isStored && m_person.whyLocked().isEmpty() ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool WeighInModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
+        return false;
+    const int row = index.row();
+    const bool isDate = index.column() == Date;
+    const QString before = isDate ? m_rows.date(row) : m_rows.weight(row);
+    const WeightEntry entry = isDate ? m_dateCheck.tableDate(value.toString(), before)
+                                     : WeightEntry::weight(value.toString(), before);
+    if (entry.refusal) {
+        emit noticed(*entry.refusal, index);
+        return false;
+    }
+    WeightSheet wanted = m_person.sheet();
+    if (isDate)
+        wanted.weighIns.setDate(row, entry.text);
+    else
+        wanted.weighIns.setWeight(row, entry.text);
+    m_person.change(TrackerLines::rowChanged(heading(index.column()), titleOf(row)), wanted);
+    return true;
+}

@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "weight/window/weighinsview.h"
+
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/datepicker.h"
+#include "shell/controls/gridview.h"
+#include "shell/controls/linkbutton.h"
+#include "shell/controls/listrowdelegate.h"
+#include "shell/controls/titleline.h"
+#include "shell/core/dates.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/program/program.h"
+#include "weight/model/messages.h"
+#include "weight/window/datecheck.h"
+#include "weight/window/openperson.h"
+#include "weight/window/weighinentry.h"
+#include "weight/window/weighinmodel.h"
+#include "weight/window/windowlines.h"
+
+#include <QHeaderView>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+WeighInsView::WeighInsView(const WeightDesk &desk)
+    : PersonView(u"weighIns"_s, desk)
+    , m_picker(new DatePicker(desk.program.clock, desk.program.settings, &desk.window, u"MonthView1"_s))
+    , m_model(new WeighInModel(desk.person, desk.dateCheck, this))
+    , m_entry(new WeighInEntry(desk, m_picker, this))
+    , m_today(titleLine().addWords(u"todaysDate"_s))
+    , m_uncounted(makeUncounted())
+    , m_table(named(new GridView(-1, this), u"Grid4"_s))
+    , m_rows(new WholeRows(m_table, nullptr, this))
+    , m_empty(named(makeQuietLabel(TrackerLines::noneYet(), this), u"noWeighIns"_s))
+    , m_besides(new QHBoxLayout)
+{
+    m_table->setModel(m_model);
+    m_table->setAccessibleName(u"Weigh-ins"_s);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    auto *content = new QWidget(this);
+    auto *rows = new QVBoxLayout(content);
+    rows->setContentsMargins({});
+    rows->addWidget(m_empty);
+    rows->addWidget(m_rows, 1);
+    rows->addStretch(0);
+    auto *below = new QWidget(this);
+    below->setLayout(m_besides);
+    m_besides->setContentsMargins({});
+    m_besides->setSpacing(16);
+    m_besides->addWidget(content, 1);
+    addContent(m_entry);
+    addContent(m_uncounted);
+    addContent(below, 1);
+    setFocusProxy(m_entry);
+    connect(m_entry, &WeighInEntry::entered, this, &WeighInsView::enter);
+    connect(m_entry, &WeighInEntry::said, this, &WeighInsView::said);
+    connect(m_model, &WeighInModel::noticed, this, &WeighInsView::noticeAt);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &WeighInsView::rowChosen);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, &WeighInsView::rowChosen);
+}
+
+/// A quiet line for weigh-ins that a save would drop.
+QWidget *WeighInsView::makeUncounted()
+{
+    auto *line = named(new QWidget(this), u"uncounted"_s);
+    auto *row = new QHBoxLayout(line);
+    row->setContentsMargins({});
+    row->setSpacing(12);
+    m_uncountedWords = makeQuietLabel({}, line);
+    auto *take = new LinkButton(u"takeUncounted"_s, u"Take them in"_s, line);
+    row->addWidget(m_uncountedWords);
+    row->addWidget(take);
+    row->addStretch(1);
+    connect(take, &QAbstractButton::clicked, this, &WeighInsView::takeUncounted);
+    return line;
+}
+
+void WeighInsView::setAddButton(QPushButton *button)
+{
+    m_entry->setButton(button);
+}
+
+void WeighInsView::setBeside(QWidget *beside)
+{
+    m_besides->insertWidget(0, beside, 1);
+}
+
+/// A weight that was typed and not entered is not lost, where it is one.
+void WeighInsView::finishEdit()
+{
+    const WeighIn typed = m_entry->typed();
+    const bool isTaken = m_entry->isTyped() && person().whyLocked().isEmpty() &&
+                         !desk().dateCheck.tableDate(typed.date, {}).refusal &&
+                         !WeightEntry::weight(typed.weight, {}).refusal;
+    if (isTaken)
+        append(typed);
+}
+
+void WeighInsView::refresh()
+{
+    const bool isOther = m_shown != person().name();
+    m_shown = person().name();
+    m_model->refresh();
+    m_entry->refresh();
+    titleLine().setTitle(person().isNew() ? TrackerLines::newPerson() : person().name());
+    m_today->setText(TrackerLines::todaysDate(
+        Dates::numbers(desk().program.clock.today(), desk().program.state.dateStyle)));
+    const qsizetype uncounted = person().uncounted().rowCount();
+    m_uncounted->setVisible(uncounted > 0);
+    m_uncountedWords->setText(TrackerLines::uncounted(uncounted));
+    m_rows->setVisible(m_model->rowCount() > 0);
+    m_empty->setVisible(m_model->rowCount() == 0);
+    if (isOther) {
+        m_entry->clear();
+        showRow();
+    }
+}
+
+void WeighInsView::showRow(int row)
+{
+    const QModelIndex index = m_model->index(row < 0 ? m_model->rowCount() - 1 : row, WeighInModel::Weight);
+    m_table->scrollTo(index);
+    if (row >= 0)
+        m_table->setCurrentIndex(index);
+}
+
+/// Two keys are enough: the weight, and Enter.
+void WeighInsView::enter()
+{
+    if (!m_entry->isTyped()) {
+        emit said(TrackerLines::weightFirst());
+        return;
+    }
+    const WeighIn typed = m_entry->typed();
+    if (!append(typed))
+        return;
+    if (person().isNew())
+        emit said(TrackerLines::addedToNew());
+    else if (saveUnlessNew())
+        emit done(TrackerLines::added(m_model->titleOf(m_model->rowCount() - 1)));
+}
+
+void WeighInsView::addRow()
+{
+    if (!person().isOpen())
+        emit noticed(WeightMessages::noneSelected());
+    else if (append(m_entry->typed()) && saveUnlessNew() && !person().isNew())
+        emit noticed(WeightMessages::rowAdded());
+}
+
+/// False where the line was refused; the focus is where it can be typed anew.
+bool WeighInsView::append(const WeighIn &weighIn)
+{
+    if (const QString why = person().whyLocked(); !why.isEmpty()) {
+        emit said(why);
+        return false;
+    }
+    const WeightEntry date = desk().dateCheck.tableDate(weighIn.date, {});
+    const WeightEntry weight = WeightEntry::weight(weighIn.weight, {});
+    if (date.refusal) {
+        emit noticed(*date.refusal);
+        m_entry->typeDate();
+        return false;
+    }
+    if (weight.refusal) {
+        emit noticed(*weight.refusal);
+        m_entry->typeWeight();
+        return false;
+    }
+    WeightSheet wanted = person().sheet();
+    wanted.weighIns.append({date.text, weight.text});
+    person().change(TrackerLines::rowAdded(TrackerLines::weighIn(weight.text, date.text)), wanted);
+    m_entry->clear();
+    m_entry->typeWeight();
+    showRow();
+    return true;
+}
+
+/// The file of a new person is made by "Save New File".
+bool WeighInsView::saveUnlessNew()
+{
+    return person().isNew() || person().save();
+}
+
+bool WeighInsView::isRowChosen() const
+{
+    return m_table->currentIndex().isValid();
+}
+
+void WeighInsView::deleteRow()
+{
+    const int row = m_table->currentIndex().row();
+    if (desk().program.dialogs.ask(&desk().window, WeightMessages::deleteRow()) != Answer::Yes)
+        return;
+    const QString line = TrackerLines::rowDeleted(m_model->titleOf(row));
+    WeightSheet wanted = person().sheet();
+    wanted.weighIns.remove(row);
+    person().change(line, wanted);
+    if (m_model->rowCount() > 0)
+        m_table->setCurrentIndex(
+            m_model->index(std::min(row, m_model->rowCount() - 1), WeighInModel::Weight));
+    if (person().isNew() || !person().save())
+        return;
+    emit done(line);
+    emit noticed(WeightMessages::rowDeleted());
+}
+
+void WeighInsView::sortRows()
+{
+    WeightSheet wanted = person().sheet();
+    wanted.weighIns.sort(WeightTable::Column::Date, Qt::AscendingOrder);
+    if (wanted == person().sheet()) {
+        emit said(TrackerLines::sortedAlready());
+        return;
+    }
+    person().change(TrackerLines::sorted(), wanted);
+    emit done(TrackerLines::sorted());
+}
+
+void WeighInsView::takeUncounted()
+{
+    person().takeUncounted(TrackerLines::uncountedTaken());
+    showRow();
+}
+
+/// A refusal stands over the window; typing goes on in its cell behind that.
+void WeighInsView::noticeAt(const Message &message, const QModelIndex &cell)
+{
+    emit noticed(message);
+    QMetaObject::invokeMethod(
+        this, [this, at = QPersistentModelIndex(cell)] { m_table->setCurrentIndex(at); },
+        Qt::QueuedConnection);
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "weight/window/personview.h"
+
+class DatePicker;
+class GridView;
+class QBoxLayout;
+class QLabel;
+class WeighInEntry;
+class WeighInModel;
+
+/// The weigh-ins of the open person: how things stand, the line in which today's weight is entered, and the
+/// table of all that were entered.
+class WeighInsView final : public PersonView
+{
+    Q_OBJECT
+public:
+    explicit WeighInsView(const WeightDesk &desk);
+
+    void finishEdit() override;
+
+    /// Puts the button of "Add Additional Row" beside the boxes of the line.
+    void setAddButton(QPushButton *button);
+    /// Something that stands beside the table where there is room.
+    void setBeside(QWidget *beside);
+
+    /// Adds what stands in the line, or a row that has its date alone, and saves. Tells it in a box.
+    void addRow();
+    /// Whether a row is chosen.
+    bool isRowChosen() const;
+    /// Asks, takes the chosen row away, and saves.
+    void deleteRow();
+    /// Puts the rows in the order of their days.
+    void sortRows();
+    /// Brings a row to sight, the last where it is -1.
+    void showRow(int row = -1);
+
+signals:
+    /// Another row is chosen, or none.
+    void rowChosen();
+
+protected:
+    void refresh() override;
+
+private:
+    QWidget *makeUncounted();
+    void enter();
+    bool append(const WeighIn &weighIn);
+    bool saveUnlessNew();
+    void takeUncounted();
+    void noticeAt(const Message &message, const QModelIndex &cell);
+
+    DatePicker *m_picker;
+    WeighInModel *m_model;
+    WeighInEntry *m_entry;
+    QLabel *m_today;
+    QWidget *m_uncounted;
+    QLabel *m_uncountedWords = nullptr;
+    GridView *m_table;
+    QWidget *m_rows;
+    QLabel *m_empty;
+    QBoxLayout *m_besides;
+    QString m_shown; ///< the name of the person whose rows are shown
+};
