@@ -23,6 +23,8 @@
 #include "shell/access/passwordcheck.h"
 #include "shell/access/passwordcontrol.h"
 #include "shell/program/program.h"
+#include "weight/model/personfiles.h"
+#include "weight/window/weighttracker.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -153,6 +155,22 @@ void showCar(QWidget &window, const Place &place)
         cars->showPlace(place);
 }
 
+QStringList weightFiles(const Program &program)
+{
+    return PersonFiles::files(program.folder);
+}
+
+QStringList weightPictures(const Program &program)
+{
+    return PersonFiles::pictures(program.folder);
+}
+
+void showPerson(QWidget &window, const Place &place)
+{
+    if (auto *tracker = qobject_cast<WeightTracker *>(&window))
+        tracker->showPlace(place);
+}
+
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
 {
     switch (PasswordCheck(program.folder, PasswordCost::interactive(), &program.gate.memory()).state()) {
@@ -212,6 +230,10 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                      .show = showCar,
                                      .files = filesOfCars,
                                      .pictures = carPictures});
+    functions.add(Function::WeightTracker, {.open = makeWindow<WeightTracker>,
+                                            .show = showPerson,
+                                            .files = weightFiles,
+                                            .pictures = weightPictures});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

@@ -17,6 +17,7 @@ void planner(const Camera &camera);
 void budget(const Camera &camera);
 void cars(const Camera &camera);
 void carHistories(const Camera &camera);
+void weight(const Camera &camera);
 void charts(const Camera &camera);
 
 } // namespace Albums

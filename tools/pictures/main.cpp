@@ -36,6 +36,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"budget", Albums::budget},
                             Album{"cars", Albums::cars},
                             Album{"car-histories", Albums::carHistories},
+                            Album{"weight", Albums::weight},
                             Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;

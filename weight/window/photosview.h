@@ -7,6 +7,7 @@
 #include <array>
 
 class DateBox;
+class DatePicker;
 class PictureFrame;
 class QHBoxLayout;
 class QPushButton;
