@@ -198,3 +198,16 @@ void PersonChanges::bringBack(const Trash::Item &item)
     m_hands.openList(back.name);
     add(TrackerLines::broughtBack(back.name), back.change, back.name);
 }
+
+void PersonChanges::addToList(const QStringList &names)
+{
+    if (names.isEmpty() || !m_hands.mayReplace())
+        return;
+    const auto change = m_desk.person.files().addToList(names);
+    if (!change) {
+        emit said(FrameLines::refused(m_desk.program.folder, TrackerLines::notSaved()));
+        return;
+    }
+    m_hands.openList(names.first());
+    add(TrackerLines::addedToList(names), *change, names.first());
+}

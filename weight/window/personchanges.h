@@ -41,6 +41,9 @@ public:
     /// "Delete Displayed File", `Command8`.
     QAction *addDelete(QMenu *options);
 
+    /// Puts the persons of these names, who have a file, at the end of the list.
+    void addToList(const QStringList &names);
+
     /// Writes what was typed, without a word where that went well. False: refused, and the user was told.
     [[nodiscard]] bool save();
 

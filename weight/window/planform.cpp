@@ -3,6 +3,7 @@
 
 #include "shell/controls/controls.h"
 #include "shell/controls/datebox.h"
+#include "shell/controls/datepicker.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "weight/model/weightdates.h"
@@ -77,6 +78,8 @@ void PlanForm::makeBoxes(const WeightDesk &desk, DatePicker *picker)
         connect(m_boxes[i], &QLineEdit::editingFinished, this,
                 [this, i] { emit entered(caption(i).chopped(1)); });
     }
+    connect(picker, &DatePicker::picked, this,
+            [this] { emit entered(caption(WeightSheet::BeginningDate).chopped(1)); });
     m_comments->installEventFilter(this);
     connect(m_comments, &CommentsBox::edited, this, &PlanForm::edited);
     connect(m_comments, &CommentsBox::refused, this, &PlanForm::said);

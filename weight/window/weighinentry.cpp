@@ -7,6 +7,7 @@
 #include "shell/program/program.h"
 #include "weight/model/weightdates.h"
 #include "weight/model/weightnumbers.h"
+#include "weight/window/datecheck.h"
 #include "weight/window/openperson.h"
 #include "weight/window/windowlines.h"
 
@@ -59,9 +60,19 @@ WeighInEntry::WeighInEntry(const WeightDesk &desk, DatePicker *picker, QWidget *
     connect(m_date, &DateBox::dateChanged, this, &WeighInEntry::showFact);
     connect(picker, &DatePicker::picked, this, [this](const DateBox *box) {
         if (box == m_date)
-            typeWeight();
+            takePicked();
     });
     clear();
+}
+
+void WeighInEntry::takePicked()
+{
+    if (const auto refusal = m_desk.dateCheck.tableDate(m_date->text(), {}).refusal) {
+        m_date->setDate(m_desk.program.clock.today());
+        emit noticed(*refusal);
+    } else {
+        typeWeight();
+    }
 }
 
 void WeighInEntry::setButton(QPushButton *button)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/message.h"
 #include "weight/model/weighin.h"
 #include "weight/window/weightdesk.h"
 
@@ -40,11 +41,14 @@ signals:
     void entered();
     /// A quiet line for the status bar.
     void said(const QString &line);
+    /// The date that was picked is refused.
+    void noticed(const Message &message);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void takePicked();
     void showFact();
 
     WeightDesk m_desk;

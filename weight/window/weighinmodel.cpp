@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "weight/window/weighinmodel.h"
 
+#include "shell/controls/gridcell.h"
 #include "weight/model/weightdates.h"
 #include "weight/model/weightentry.h"
 #include "weight/model/weightnumbers.h"
@@ -96,6 +97,10 @@ QVariant WeighInModel::data(const QModelIndex &index, int role) const
         return text(index.row(), index.column());
     case Qt::TextAlignmentRole:
         return headerData(index.column(), Qt::Horizontal, role);
+    case GridCell::kindRole:
+        return int(index.column() == Date ? GridCell::Kind::Date : GridCell::Kind::Number);
+    case GridCell::quietRole:
+        return index.column() > Weight;
     default:
         return {};
     }

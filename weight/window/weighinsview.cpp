@@ -2,18 +2,24 @@
 #include "weight/window/weighinsview.h"
 
 #include "shell/controls/buttonrow.h"
+#include "shell/controls/celldelegate.h"
+#include "shell/controls/cellgrid.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
-#include "shell/controls/gridview.h"
+#include "shell/controls/figurestrip.h"
 #include "shell/controls/linkbutton.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/dates.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "weight/model/messages.h"
+#include "weight/model/weightcolumns.h"
 #include "weight/window/datecheck.h"
 #include "weight/window/openperson.h"
+#include "weight/window/standing.h"
 #include "weight/window/weighinentry.h"
 #include "weight/window/weighinmodel.h"
 #include "weight/window/windowlines.h"
@@ -23,41 +29,95 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+constexpr int reachedSign = 24;
+} // namespace
+
 WeighInsView::WeighInsView(const WeightDesk &desk)
     : PersonView(u"weighIns"_s, desk)
     , m_picker(new DatePicker(desk.program.clock, desk.program.settings, &desk.window, u"MonthView1"_s))
     , m_model(new WeighInModel(desk.person, desk.dateCheck, this))
     , m_entry(new WeighInEntry(desk, m_picker, this))
     , m_today(titleLine().addWords(u"todaysDate"_s))
+    , m_reached(makeReached())
+    , m_figures(new FigureStrip(u"weightFigures"_s, this))
     , m_uncounted(makeUncounted())
-    , m_table(named(new GridView(-1, this), u"Grid4"_s))
+    , m_table(named(new CellGrid(this), u"Grid4"_s))
     , m_rows(new WholeRows(m_table, nullptr, this))
     , m_empty(named(makeQuietLabel(TrackerLines::noneYet(), this), u"noWeighIns"_s))
     , m_besides(new QHBoxLayout)
 {
+    auto *below = new QWidget(this);
+    below->setLayout(m_besides);
+    m_besides->setContentsMargins({});
+    m_besides->setSpacing(16);
+    m_besides->addWidget(makeTable(), 1);
+    addContent(m_reached);
+    addContent(m_figures);
+    addContent(m_entry);
+    addContent(m_uncounted);
+    addContent(below, 1);
+    setFocusProxy(m_entry);
+    connectParts();
+}
+
+QWidget *WeighInsView::makeTable()
+{
+    m_table->setPlainRows();
+    m_table->cells().takeDates({DateStyle::Usa, desk().program.clock}, m_picker);
     m_table->setModel(m_model);
     m_table->setAccessibleName(u"Weigh-ins"_s);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    QHeaderView *heading = m_table->horizontalHeader();
+    heading->setSectionResizeMode(QHeaderView::Stretch);
+    heading->setSectionsClickable(true);
+    heading->setFixedHeight(2 * heading->fontMetrics().lineSpacing() + 10);
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
     rows->addWidget(m_empty);
     rows->addWidget(m_rows, 1);
     rows->addStretch(0);
-    auto *below = new QWidget(this);
-    below->setLayout(m_besides);
-    m_besides->setContentsMargins({});
-    m_besides->setSpacing(16);
-    m_besides->addWidget(content, 1);
-    addContent(m_entry);
-    addContent(m_uncounted);
-    addContent(below, 1);
-    setFocusProxy(m_entry);
+    return content;
+}
+
+void WeighInsView::connectParts()
+{
     connect(m_entry, &WeighInEntry::entered, this, &WeighInsView::enter);
     connect(m_entry, &WeighInEntry::said, this, &WeighInsView::said);
+    connect(m_entry, &WeighInEntry::noticed, this, &WeighInsView::noticed);
     connect(m_model, &WeighInModel::noticed, this, &WeighInsView::noticeAt);
     connect(m_model, &QAbstractItemModel::modelReset, this, &WeighInsView::rowChosen);
-    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, &WeighInsView::rowChosen);
+    connect(m_table, &CellGrid::currentMoved, this, &WeighInsView::rowChosen);
+    connect(m_table, &CellGrid::said, this, &WeighInsView::said);
+    connect(m_table, &CellGrid::refused, this, [this] {
+        const QString why = person().whyLocked();
+        emit said(why.isEmpty() ? TrackerLines::isComputed() : why);
+    });
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        if (column == WeighInModel::Date && person().whyLocked().isEmpty())
+            sortRows();
+    });
+}
+
+/// The given words, with the sign of a goal that is reached.
+QWidget *WeighInsView::makeReached()
+{
+    auto *line = named(new QWidget(this), u"goalReached"_s);
+    auto *row = new QHBoxLayout(line);
+    row->setContentsMargins({});
+    row->setSpacing(8);
+    auto *sign = new QLabel(line);
+    sign->setPixmap(
+        Icons::pixmap("goal-reached"_L1, Theme::of(this).scheme, reachedSign, devicePixelRatioF()));
+    row->addWidget(sign);
+    for (const QString &words : {u"CONGRATULATIONS!"_s, u"GOAL WEIGHT ACHIEVED!"_s}) {
+        auto *label = new QLabel(words, line);
+        label->setFont(TypeScale::cardTitle());
+        label->setForegroundRole(ThemeRole::strong);
+        row->addWidget(label);
+    }
+    row->addStretch(1);
+    return line;
 }
 
 /// A quiet line for weigh-ins that a save would drop.
@@ -89,6 +149,7 @@ void WeighInsView::setBeside(QWidget *beside)
 /// A weight that was typed and not entered is not lost, where it is one.
 void WeighInsView::finishEdit()
 {
+    m_table->finishEdit();
     const WeighIn typed = m_entry->typed();
     const bool isTaken = m_entry->isTyped() && person().whyLocked().isEmpty() &&
                          !desk().dateCheck.tableDate(typed.date, {}).refusal &&
@@ -103,6 +164,7 @@ void WeighInsView::refresh()
     m_shown = person().name();
     m_model->refresh();
     m_entry->refresh();
+    showFigures();
     titleLine().setTitle(person().isNew() ? TrackerLines::newPerson() : person().name());
     m_today->setText(TrackerLines::todaysDate(
         Dates::numbers(desk().program.clock.today(), desk().program.state.dateStyle)));
@@ -115,6 +177,13 @@ void WeighInsView::refresh()
         m_entry->clear();
         showRow();
     }
+}
+
+void WeighInsView::showFigures()
+{
+    const WeightSheet &sheet = person().sheet();
+    m_figures->setFigures(Standing::figures(sheet, desk().program.clock.today()));
+    m_reached->setVisible(WeightColumns::isGoalReached(sheet));
 }
 
 void WeighInsView::showRow(int row)

@@ -3,8 +3,9 @@
 
 #include "weight/window/personview.h"
 
+class CellGrid;
 class DatePicker;
-class GridView;
+class FigureStrip;
 class QBoxLayout;
 class QLabel;
 class WeighInEntry;
@@ -44,8 +45,12 @@ protected:
     void refresh() override;
 
 private:
+    QWidget *makeReached();
     QWidget *makeUncounted();
+    QWidget *makeTable();
+    void connectParts();
     void enter();
+    void showFigures();
     bool append(const WeighIn &weighIn);
     bool saveUnlessNew();
     void takeUncounted();
@@ -55,9 +60,11 @@ private:
     WeighInModel *m_model;
     WeighInEntry *m_entry;
     QLabel *m_today;
+    QWidget *m_reached; ///< congratulates
+    FigureStrip *m_figures;
     QWidget *m_uncounted;
     QLabel *m_uncountedWords = nullptr;
-    GridView *m_table;
+    CellGrid *m_table;
     QWidget *m_rows;
     QLabel *m_empty;
     QBoxLayout *m_besides;

@@ -19,6 +19,7 @@
 #include "weight/window/personpictures.h"
 #include "weight/window/personviews.h"
 #include "weight/window/planview.h"
+#include "weight/window/toldchoice.h"
 #include "weight/window/weighinsview.h"
 #include "weight/window/windowlines.h"
 
@@ -64,6 +65,7 @@ WeightTracker::WeightTracker(Program &program, QWidget *parent)
     connectParts();
     finishFrame();
     openList({});
+    offerUnlisted();
 }
 
 WeightDesk WeightTracker::desk()
@@ -101,6 +103,7 @@ void WeightTracker::makeCommands()
     m_commands.remove = m_changes->addDelete(options);
     options->addSeparator();
     m_commands.dates = m_dateCheck->addCommand(commands(), options);
+    connect(new ToldChoice(desk(), options, this), &ToldChoice::said, &activity(), &ActivityBar::say);
     options->addSeparator();
     m_commands.save = m_changes->addSave(options);
     options->addSeparator();
@@ -269,4 +272,14 @@ void WeightTracker::viewExisting()
         return;
     }
     m_list->setFocus();
+}
+
+/// Whoever has a file and was lost from the list can be added again.
+void WeightTracker::offerUnlisted()
+{
+    const QStringList names = m_person->files().unlisted();
+    if (names.isEmpty() || !program().folder.whyReadOnly().isEmpty())
+        return;
+    activity().say(TrackerLines::unlisted(names));
+    activity().offerWay(TrackerLines::addUnlisted(), [this, names] { m_changes->addToList(names); });
 }

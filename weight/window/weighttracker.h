@@ -45,6 +45,7 @@ private:
     void openPerson(const QString &name);
     void refreshHome();
     void viewExisting();
+    void offerUnlisted();
     QString whyNoRow() const;
 
     OpenPerson *m_person;

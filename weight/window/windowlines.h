@@ -112,6 +112,11 @@ inline QString fromBeginning(const QString &difference)
     return difference + u" from the beginning"_s;
 }
 
+inline QString isComputed()
+{
+    return u"This is computed from the weights"_s;
+}
+
 inline QString weightFirst()
 {
     return u"Type the weight first"_s;
@@ -155,6 +160,33 @@ inline QString pathNotStorable()
 inline QString noPictureToDelete()
 {
     return u"There is no picture to delete"_s;
+}
+
+inline QString isTold(const QString &name)
+{
+    return u"The main menu may tell the weight of "_s + name;
+}
+
+inline QString isNotTold(const QString &name)
+{
+    return u"The main menu tells no weight of "_s + name;
+}
+
+/// Persons who have a file and are not in the list.
+inline QString unlisted(const QStringList &names)
+{
+    return names.size() == 1 ? QString(names.first() + u" has a file, but is not in the list"_s)
+                             : u"%1 persons have files, but are not in the list"_s.arg(names.size());
+}
+
+inline QString addUnlisted()
+{
+    return u"Add to the list"_s;
+}
+
+inline QString addedToList(const QStringList &names)
+{
+    return u"Added to the list: "_s + names.join(u", "_s);
 }
 
 // The disk
