@@ -24,6 +24,8 @@
 #include "shell/access/passwordcontrol.h"
 #include "shell/program/program.h"
 #include "weight/model/personfiles.h"
+#include "weight/model/weightnews.h"
+#include "weight/model/weightsource.h"
 #include "weight/window/weighttracker.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -155,6 +157,21 @@ void showCar(QWidget &window, const Place &place)
         cars->showPlace(place);
 }
 
+std::optional<LiveLine> weightNews(const Program &program, QDate today)
+{
+    return WeightNews::liveLine(program.folder, today);
+}
+
+std::unique_ptr<SearchSource> weightSearch(const Program &program)
+{
+    return std::make_unique<WeightSource>(program.folder);
+}
+
+QStringList weightNewsFiles(const Program &program)
+{
+    return WeightNews::liveFiles(program.folder);
+}
+
 QStringList weightFiles(const Program &program)
 {
     return PersonFiles::files(program.folder);
@@ -231,6 +248,9 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                      .files = filesOfCars,
                                      .pictures = carPictures});
     functions.add(Function::WeightTracker, {.open = makeWindow<WeightTracker>,
+                                            .liveLine = weightNews,
+                                            .moreLiveFiles = weightNewsFiles,
+                                            .search = weightSearch,
                                             .show = showPerson,
                                             .files = weightFiles,
                                             .pictures = weightPictures});
