@@ -2,30 +2,12 @@
 #include "storage/disk.h"
 
 #include "storage/log.h"
+#include "storage/systemfile.h"
 
-#include <cerrno>
-#include <filesystem>
 #include <system_error>
 #include <utility>
 
-#ifdef Q_OS_WIN
-#include <io.h>
-#include <qt_windows.h>
-#else
-#include <fcntl.h>
-#include <unistd.h>
-#endif
-
 namespace {
-
-std::filesystem::path systemPath(const QString &path)
-{
-#ifdef Q_OS_WIN
-    return path.toStdWString();
-#else
-    return QFile::encodeName(path).toStdString();
-#endif
-}
 
 std::function<bool()> &gate()
 {
@@ -78,24 +60,13 @@ bool Disk::remove(const QString &path)
 
 bool Disk::flush(QFile &file)
 {
-#ifdef Q_OS_WIN
-    const bool isFlushed = file.flush() && FlushFileBuffers(HANDLE(_get_osfhandle(file.handle())));
-#else
-    // A file system that cannot be asked (EINVAL) is no failure of what was written.
-    const bool isFlushed = file.flush() && (fdatasync(file.handle()) == 0 || errno == EINVAL);
-#endif
+    const bool isFlushed = file.flush() && SystemFile::flush(file.handle());
     return said(isFlushed && !isRefused(), "flush", file);
 }
 
-void Disk::flushNames([[maybe_unused]] const QString &path)
+void Disk::flushNames(const QString &path)
 {
-#ifndef Q_OS_WIN
-    const int handle = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    fsync(handle);
-    close(handle);
-#endif
+    SystemFile::flushNames(path);
 }
 
 bool Disk::writeWhole(const QString &path, QByteArrayView content)
@@ -108,11 +79,8 @@ bool Disk::writeWhole(const QString &path, QByteArrayView content)
 
 bool Disk::renameOver(const QString &from, const QString &to)
 {
-    std::error_code failure;
-    if (isRefused())
-        failure = std::make_error_code(std::errc::no_space_on_device);
-    else
-        std::filesystem::rename(systemPath(from), systemPath(to), failure);
+    const std::error_code failure =
+        isRefused() ? std::make_error_code(std::errc::no_space_on_device) : SystemFile::renameOver(from, to);
     if (failure)
         qCWarning(storageLog).noquote()
             << "Cannot rename" << from << "to" << to << '-' << QString::fromLocal8Bit(failure.message());

@@ -5,6 +5,7 @@
 #include "tests/support/testfiles.h"
 
 #include <QDirIterator>
+#include <QThread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -50,6 +51,45 @@ private slots:
 #else
         QSKIP("needs a limit on file sizes");
 #endif
+    }
+
+    /// A virus scanner opens what was just written, and keeps it for a moment.
+    void waitsForAFileThatIsOpenForAMoment()
+    {
+        m_files->put(name, "old");
+        QFile file(m_files->path(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const std::unique_ptr<QThread> reader(QThread::create([&file] {
+            QThread::msleep(200);
+            file.close();
+        }));
+        reader->start();
+        QVERIFY(replace(name, "new"));
+        QVERIFY(reader->wait());
+        QCOMPARE(files(), (Files{{name, "new"}}));
+    }
+
+    /// Not every system replaces a file that another program holds; none leaves a torn one.
+    void keepsAFileWholeThatStaysOpen()
+    {
+        m_files->put(name, "old");
+        QFile file(m_files->path(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const bool isReplaced = replace(name, "new");
+        file.close();
+        QCOMPARE(files(), (Files{{name, isReplaced ? "new" : "old"}}));
+    }
+
+    /// Some systems take paths of more than 260 letters in a form of their own only.
+    void replacesAFileDeepInside()
+    {
+        const QString deep =
+            m_files->path(QString(90, u'a') + u'/' + QString(90, u'b') + u'/' + QString(90, u'c'));
+        QVERIFY(QDir().mkpath(deep));
+        for (const QByteArray &content : {"first"_ba, "second"_ba}) {
+            QVERIFY(Saving::replaceFile(DataFolder(deep), name, content));
+            QCOMPARE(contentOf(deep + u'/' + name), content);
+        }
     }
 
     void keepsAFolderInTheFilesPlace()
