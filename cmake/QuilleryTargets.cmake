@@ -107,6 +107,12 @@ function(quillery_function name)
     target_link_libraries(quillery_${name} INTERFACE ${below})
 endfunction()
 
+# Under wine the disk of this machine is the drive Z.
+set(test_disk "")
+if(CMAKE_CROSSCOMPILING)
+    set(test_disk "Z:")
+endif()
+
 # quillery_test(NAME SOURCES file... LINK target...): one Qt Test program, run by ctest without a screen.
 function(quillery_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
@@ -117,17 +123,19 @@ function(quillery_test name)
     if(has_widgets)
         target_precompile_headers(${name} REUSE_FROM quillery_test_headers)
     endif()
-    target_compile_definitions(${name} PRIVATE QUILLERY_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+    target_compile_definitions(${name} PRIVATE QUILLERY_TEST_DATA="${test_disk}${PROJECT_SOURCE_DIR}/tests/data")
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 300)
 endfunction()
 
-# quillery_tests(LINK target...): a test program for each tst_<unit>.cpp of this folder.
+# quillery_tests(LINK target...): a test program for each tst_<unit>.cpp of this folder that is of this platform.
 function(quillery_tests)
     cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
-    file(GLOB files CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/tst_*.cpp")
+    quillery_sources(files "${CMAKE_CURRENT_SOURCE_DIR}")
+    list(FILTER files INCLUDE REGEX "/tst_[^/]+\\.cpp$")
     foreach(file IN LISTS files)
         cmake_path(GET file STEM unit)
+        string(REGEX REPLACE "_(posix|win)$" "" unit "${unit}")
         quillery_test(${unit} SOURCES ${file} LINK ${ARG_LINK})
     endforeach()
 endfunction()

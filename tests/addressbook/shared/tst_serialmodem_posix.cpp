@@ -142,4 +142,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestSerialModem)
-#include "tst_serialmodem.moc"
+#include "tst_serialmodem_posix.moc"

@@ -1,0 +1,96 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Sourced by packaging/windows/build: what the program links, built from Debian's sources into one folder, which is named
+# after a hash of everything that decides what is in it. Only that folder need be kept between runs.
+
+mingw=x86_64-w64-mingw32
+windows_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 nsis dpkg-dev perl autoconf automake libtool
+    fonts-dejavu-core python3)
+
+# Only what the program uses. direct2d without direct2d1_1: the other way does not link.
+qt_options=(-DBUILD_SHARED_LIBS=ON -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF -DFEATURE_pkg_config=OFF
+    -DFEATURE_system_zlib=OFF -DFEATURE_system_png=OFF -DFEATURE_system_jpeg=OFF -DFEATURE_system_freetype=OFF
+    -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_doubleconversion=OFF
+    -DFEATURE_ssl=OFF -DFEATURE_openssl=OFF -DFEATURE_schannel=OFF -DFEATURE_opengl=OFF -DINPUT_opengl=no
+    -DFEATURE_vulkan=OFF -DFEATURE_sql=OFF -DFEATURE_dbus=OFF -DFEATURE_icu=OFF -DFEATURE_glib=OFF -DFEATURE_zstd=OFF
+    -DFEATURE_xml=OFF -DFEATURE_concurrent=OFF -DFEATURE_brotli=OFF -DFEATURE_gssapi=OFF -DFEATURE_style_windowsvista=OFF
+    -DFEATURE_direct2d=ON -DFEATURE_direct2d1_1=OFF -DFEATURE_tabletevent=OFF)
+sodium_options=(--host=$mingw --enable-shared --disable-static)
+qcustomplot_options=(-DUSE_QT_VERSION=6)
+
+# source_of PACKAGE: the source package of an installed one, and its version, as "name version".
+source_of() {
+    dpkg-query -W -f='${source:Package} ${source:Version}\n' "$1"
+}
+
+# name_libraries: sets `libraries` to the folder; once all packages are installed.
+name_libraries() {
+    local package
+    [ -n "${libraries:-}" ] && return
+    for package in qt6-base-dev libsodium-dev libqcustomplot-dev gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev; do
+        source_of $package
+    done >"$work/sources"
+    { sed 's/^/source: /' "$work/sources"
+      echo "compiler: $(dpkg-query -W -f='${Package} ${Version}' g++-mingw-w64-x86-64-posix)"
+      echo "qt6-base: ${qt_options[*]}"
+      echo "libsodium: ${sodium_options[*]}"
+      echo "qcustomplot: ${qcustomplot_options[*]}"; } >"$work/recipe"
+    libraries=$cache/$(sha256sum <"$work/recipe" | head -c 16)
+    mkdir -p "$libraries/licenses"
+    cp "$work/recipe" "$libraries/recipe"
+    export QUILLERY_WINDOWS_LIBRARIES=$libraries
+}
+
+# fetch SOURCE: unpacks the source package of that name into $work/SOURCE, patched. Debian's addresses are those of the
+# machine; its list of sources is kept aside.
+fetch() {
+    local name=$1 version apt=$work/apt options
+    version=$(awk -v name="$name" '$1 == name {print $2}' "$work/sources")
+    mkdir -p "$apt/sources" "$apt/lists/partial"
+    local list
+    for list in /etc/apt/sources.list.d/*.sources /etc/apt/sources.list; do
+        [ -f "$list" ] || continue
+        case $list in
+            *.sources) sed 's/^Types:.*/Types: deb-src/' "$list" >"$apt/sources/${list##*/}" ;;
+            *) sed -n 's/^deb /deb-src /p' "$list" >"$apt/sources/main.list" ;;
+        esac
+    done
+    options=(-qq -o Dir::Etc::SourceList=/dev/null -o Dir::Etc::SourceParts="$apt/sources" -o Dir::State::Lists="$apt/lists"
+        -o APT::Sandbox::User=root)
+    rm -rf "${work:?}/$name"
+    ( cd "$work" && { [ -e apt/updated ] || { apt-get "${options[@]}" update && touch apt/updated; } } &&
+        apt-get "${options[@]}" source --download-only "$name=$version" &&
+        dpkg-source --no-check -x "${name}_${version#*:}.dsc" "$name" )
+    mkdir -p "$libraries/licenses/$name"
+    cp "$work/$name/debian/copyright" "$libraries/licenses/$name/"
+}
+
+# cross SOURCE OPTION...: configures, builds and installs the CMake project of that source.
+cross() {
+    local name=$1
+    shift
+    cmake -S "$work/$name" -B "$work/$name-build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+        -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake" -DQUILLERY_WINDOWS_LIBRARIES="$libraries" \
+        -DCMAKE_INSTALL_PREFIX="$libraries" -DQT_HOST_PATH=/usr \
+        -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake" "$@"
+    cmake --build "$work/$name-build"
+    cmake --install "$work/$name-build" --strip
+}
+
+build_qt() {
+    fetch qt6-base
+    cross qt6-base "${qt_options[@]}"
+    cp "$work"/qt6-base/LICENSES/*.txt "$libraries/licenses/qt6-base/"
+}
+
+build_sodium() {
+    fetch libsodium
+    ( cd "$work/libsodium" && ./autogen.sh && ./configure "${sodium_options[@]}" --prefix="$libraries" \
+        CC=$mingw-gcc-posix && make -j"$(nproc)" && make install-strip )
+    sed -i 's|^prefix=.*|prefix=${pcfiledir}/../..|' "$libraries/lib/pkgconfig/libsodium.pc"
+    cp "$work/libsodium/LICENSE" "$libraries/licenses/libsodium/"
+}
+
+build_qcustomplot() {
+    fetch qcustomplot
+    cross qcustomplot "${qcustomplot_options[@]}"
+}
