@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/folderhold.h"
 
+#include "shell/mainmenu/mainmenumessages.h"
+#include "shell/program/dialogs.h"
+
 using Reply = InstanceLink::Reply;
 
 FolderHold::FolderHold(const DataFolder &folder)
-    : m_isReadOnly(folder.isReadOnly())
+    : m_path(folder.path())
+    , m_isReadOnly(folder.isReadOnly())
     , m_lock(folder)
     , m_line(folder)
 {}
@@ -23,9 +27,15 @@ FolderHold::Result FolderHold::take()
     return m_isReadOnly ? Result::Ours : Result::Unknown;
 }
 
-FolderHold::Result FolderHold::takeOver()
+FolderHold::Result FolderHold::takeOver(Dialogs &dialogs)
 {
-    return m_lock.takeOver() ? listen() : Result::Locked;
+    Message question = StartMessages::folderHeld(m_path, m_lock.holder());
+    while (dialogs.ask(nullptr, question) == Answer::Yes) {
+        if (m_lock.takeOver())
+            return listen();
+        question = StartMessages::folderStillHeld(m_path, m_lock.holder());
+    }
+    return Result::Locked;
 }
 
 FolderHold::Result FolderHold::listen()

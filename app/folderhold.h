@@ -4,6 +4,8 @@
 #include "app/instancelink.h"
 #include "storage/folderlock.h"
 
+class Dialogs;
+
 /// Holds the household's folder for this program: with the lock in it or, where none can be made, with the
 /// line that is named after it.
 class FolderHold
@@ -19,17 +21,17 @@ public:
     explicit FolderHold(const DataFolder &folder);
 
     Result take();
-    /// After `Locked`: the user knows that the lock is nobody's.
-    Result takeOver();
+    /// After `Locked`: takes the lock over when the user knows that it is nobody's, and asks again where the
+    /// system keeps it for a program that still runs.
+    Result takeOver(Dialogs &dialogs);
 
-    /// Who has locked the folder, as `FolderLock::holder`.
-    QString holder() const { return m_lock.holder(); }
     /// Hears the calls of later starts.
     const InstanceLink &line() const { return m_line; }
 
 private:
     Result listen();
 
+    QString m_path;
     bool m_isReadOnly;
     FolderLock m_lock;
     InstanceLink m_line;

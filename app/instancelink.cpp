@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/instancelink.h"
 
+#include "app/startup.h"
 #include "storage/log.h"
 
 #include <QCryptographicHash>
@@ -54,6 +55,7 @@ bool InstanceLink::listen()
 
 InstanceLink::Reply InstanceLink::callOther(int attempts) const
 {
+    Startup::letOtherComeToFront();
     for (int attempt = 0; attempt < attempts; ++attempt) {
         QLocalSocket call;
         call.connectToServer(m_name);

@@ -2,9 +2,9 @@
 #include "app/assembly.h"
 #include "app/folderhold.h"
 #include "app/householdfolder.h"
+#include "app/startup.h"
 #include "shell/core/framelines.h"
 #include "shell/look/theme.h"
-#include "shell/mainmenu/mainmenumessages.h"
 #include "shell/mainmenu/mainmenuwindow.h"
 #include "shell/mainmenu/splash.h"
 #include "shell/program/program.h"
@@ -20,17 +20,14 @@ namespace {
 
 /// Holds the folder, with the user's word where another program holds it and does not answer: it hangs, runs
 /// on another computer, or its lock came here with a copy of the folder.
-FolderHold::Result take(FolderHold &hold, const DataFolder &folder)
+FolderHold::Result take(FolderHold &hold)
 {
-    FolderHold::Result result = hold.take();
+    const FolderHold::Result result = hold.take();
     if (result != FolderHold::Result::Locked)
         return result;
     Theme::apply(*qApp);
     QtDialogs dialogs;
-    while (result == FolderHold::Result::Locked &&
-           dialogs.ask(nullptr, StartMessages::folderHeld(folder.path(), hold.holder())) == Answer::Yes)
-        result = hold.takeOver();
-    return result;
+    return hold.takeOver(dialogs);
 }
 
 int run(QApplication &application, const DataFolder &programFolder, const DataFolder &folder,
@@ -58,6 +55,7 @@ int run(QApplication &application, const DataFolder &programFolder, const DataFo
 
 int main(int argc, char *argv[])
 {
+    Startup::prepare();
     QApplication application(argc, argv);
     QApplication::setOrganizationName(u"Tessaly"_s);
     QApplication::setApplicationName(u"Quillery"_s);
@@ -70,7 +68,7 @@ int main(int argc, char *argv[])
     DataFolder folder = HouseholdFolder::choose(
         programFolder, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     FolderHold hold(folder);
-    switch (take(hold, folder)) {
+    switch (take(hold)) {
     case FolderHold::Result::Answered:
         return EXIT_SUCCESS;
     case FolderHold::Result::Locked:

@@ -3,6 +3,8 @@
 
 #include "shell/core/message.h"
 
+#include <QDir>
+
 /// The questions and notices of password control and of the password prompt.
 namespace PasswordMessages {
 
@@ -22,7 +24,7 @@ inline Message fileDamaged(const QString &folder)
                 "set or changed.\n"
                 "To mend it, close Quillery, copy the file PCtrl1.Fil from your backup into the folder "
                 "%1 and start Quillery again.")
-                .arg(folder),
+                .arg(QDir::toNativeSeparators(folder)),
             Message::Critical};
 }
 

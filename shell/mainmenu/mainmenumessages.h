@@ -3,6 +3,7 @@
 
 #include "shell/core/message.h"
 
+#include <QDir>
 #include <QSize>
 
 #include <optional>
@@ -29,10 +30,25 @@ inline Message folderHeld(const QString &folder, const QString &holder)
                 "does not answer. Two programs at work on the same data can spoil them.\n"
                 "Yes = Open the data all the same, when you know that no other program uses them.\n"
                 "No = Leave everything as it is.")
-                .arg(folder, who),
+                .arg(QDir::toNativeSeparators(folder), who),
             Message::Warning,
             {Answer::Yes, Answer::No},
             Answer::No};
+}
+
+/// The lock could not be taken over: some systems keep a file while a program has it open.
+inline Message folderStillHeld(const QString &folder, const QString &holder)
+{
+    const QString who = holder.isEmpty() ? QStringLiteral("a program") : holder;
+    return {
+        QStringLiteral("Quillery"),
+        QStringLiteral("The folder %1 cannot be opened yet.\nIts lock is kept by %2, which still runs. End "
+                       "that program first; one that shows no window, in the Task Manager.\n"
+                       "Yes = Try again.\nNo = Leave everything as it is.")
+            .arg(QDir::toNativeSeparators(folder), who),
+        Message::Warning,
+        {Answer::Yes, Answer::No},
+        Answer::Yes};
 }
 
 inline Message screenTooSmall()

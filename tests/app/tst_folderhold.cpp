@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/folderhold.h"
 #include "tests/support/rows.h"
+#include "tests/support/scripteddialogs.h"
 #include "tests/support/testfiles.h"
 
 #include <QDir>
@@ -51,6 +52,31 @@ private slots:
         // Who only reads leaves the lock to others.
         QCOMPARE(FolderLock(folder).take(),
                  !name.isEmpty() || !whyReadOnly.isEmpty() || taken != Result::Ours);
+    }
+
+    /// The question about a held folder: a lock can be taken over at once, but on Windows only when the
+    /// program that made it has gone.
+    void takesALockOverAtTheUsersWord()
+    {
+        const TestFolder test;
+        const QString number = QString::number(QCoreApplication::applicationPid());
+        std::optional<FolderLock> other(test.folder());
+        QVERIFY(other->take());
+        FolderHold hold(test.folder());
+        ScriptedDialogs dialogs;
+        if (QSysInfo::kernelType() == "winnt"_L1) {
+            dialogs.willAnswer(Answer::Yes);
+            dialogs.willAnswer(Answer::No);
+            QCOMPARE(int(hold.takeOver(dialogs)), int(Result::Locked));
+            const QString why = dialogs.takeShown().value(1).text;
+            QVERIFY2(why.contains(number) && why.contains("Task Manager"_L1), qPrintable(why));
+            other.reset();
+        }
+        dialogs.willAnswer(Answer::Yes);
+        QCOMPARE(int(hold.takeOver(dialogs)), int(Result::Ours));
+        const QString question = dialogs.takeShown().value(0).text;
+        QVERIFY2(question.contains(QDir::toNativeSeparators(test.folder().path())), qPrintable(question));
+        QVERIFY(dialogs.isDone());
     }
 };
 

@@ -8,6 +8,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+const bool isWindows = QSysInfo::kernelType() == "winnt"_L1;
+
+} // namespace
+
 class TestFolderLock : public QObject
 {
     Q_OBJECT
@@ -37,6 +43,10 @@ private slots:
         FolderLock copied = lock();
         QVERIFY(!copied.take());
         QVERIFY(copied.holder().contains(QString::number(QCoreApplication::applicationPid())));
+        if (isWindows) { // what a program has open stays there until it ends
+            QVERIFY(!copied.takeOver());
+            held.release();
+        }
         QVERIFY(copied.takeOver());
         QVERIFY(!lock().take());
     }
@@ -44,7 +54,7 @@ private slots:
     void takesOverTheLockOfADeadProgram()
     {
         QProcess process;
-        process.start(u"sleep"_s, {u"60"_s});
+        isWindows ? process.start(u"cmd"_s, {u"/c"_s, u"pause"_s}) : process.start(u"sleep"_s, {u"60"_s});
         if (!process.waitForStarted())
             QSKIP("needs a program to end");
         const QByteArray id = QByteArray::number(process.processId());
@@ -75,7 +85,10 @@ private slots:
         expectWarning("^Running without a lock");
         FolderLock first(DataFolder(m_dir->path()));
         QVERIFY(first.take());
-        QVERIFY(!lock().take());
+        // The folder itself can be locked elsewhere.
+        if (isWindows)
+            expectWarning("^Running without a lock");
+        QCOMPARE(lock().take(), isWindows);
         QVERIFY(QFileInfo(lockPath()).isDir());
     }
 

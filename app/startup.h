@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+/// What each system wants of a program that starts.
+namespace Startup {
+
+/// Before the application is made: asks for a dark look on a dark desktop, where the system gives it to those
+/// alone that ask.
+void prepare();
+
+/// Passes the right to come to the front, which the user's click has given to this start, on to the program
+/// that it calls.
+void letOtherComeToFront();
+
+} // namespace Startup
