@@ -2,6 +2,7 @@
 #include "shell/look/theme.h"
 
 #include "shell/look/housestyle.h"
+#include "shell/look/systemlook.h"
 
 #include <QApplication>
 #include <QFontInfo>
@@ -16,8 +17,6 @@ namespace {
 
 constexpr double basePoints = 10.5;
 constexpr double smallestPoints = 9.5;
-/// Ordinary desktops stay below: black on the usual light grey is 18.4.
-constexpr double highContrast = 19;
 
 /// The sheet, with the names of the theme's colours behind "@". Text colours are left to the palette wherever
 /// they can be: a sheet's text colour makes placeholders half transparent.
@@ -115,9 +114,11 @@ QFont step(double size, QFont::Weight weight = QFont::Normal)
     return font;
 }
 
-bool isHighContrast(const QPalette &palette)
+/// Lets the base font reach every kind of control: each new style or sheet brings the system's own back.
+void forgetSmallFonts(const QFont &base)
 {
-    return contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window)) >= highContrast;
+    if (SystemLook::hasSmallFonts())
+        QApplication::setFont(base);
 }
 
 } // namespace
@@ -222,9 +223,10 @@ void Theme::apply(QApplication &application)
     QFont base = QApplication::font();
     base.setPointSizeF(std::max(basePoints, points(base)));
     QApplication::setFont(base);
-    if (isHighContrast(platform)) {
+    if (SystemLook::isHighContrast(platform)) {
         QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
         QApplication::setPalette(platform);
+        forgetSmallFonts(base);
         return;
     }
     const Theme &theme = of(platform);
@@ -233,6 +235,7 @@ void Theme::apply(QApplication &application)
     QApplication::setStyle(new HouseStyle(theme));
     QApplication::setPalette(theme.palette());
     application.setStyleSheet(theme.styleSheet());
+    forgetSmallFonts(base);
 }
 
 QFont TypeScale::label()

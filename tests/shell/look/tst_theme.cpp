@@ -94,6 +94,33 @@ private slots:
         QApplication::setFont(before);
     }
 
+    /// Also where the system has fonts of its own for menus, lists and the like.
+    void everyKindOfControlHasTheBaseFont()
+    {
+        Theme::apply(*qApp);
+        const QFont base = QApplication::font();
+        QVERIFY(base.pointSizeF() >= 10.5);
+        for (const char *kind :
+             {"QMenu", "QMenuBar", "QMessageBox", "QLabel", "QTipLabel", "QStatusBar", "QPushButton",
+              "QCheckBox", "QRadioButton", "QToolButton", "QAbstractItemView", "QListView", "QHeaderView"})
+            QVERIFY2(QApplication::font(kind) == base, kind);
+    }
+
+    /// A screen of very light grey is no high contrast where the system can be asked for it.
+    void theHouseLookGivesWayToHighContrast()
+    {
+        const auto isHouseLook = [](const QColor &window) {
+            qApp->setStyleSheet({});
+            QPalette platform(window);
+            platform.setColor(QPalette::WindowText, Qt::black);
+            QApplication::setPalette(platform);
+            Theme::apply(*qApp);
+            return !qApp->styleSheet().isEmpty();
+        };
+        QVERIFY(isHouseLook(QColor(240, 240, 240)));
+        QCOMPARE(isHouseLook(QColor(255, 255, 255)), QSysInfo::kernelType() == "winnt"_L1);
+    }
+
     void theSheetHasNoPlaceholdersLeft()
     {
         QVERIFY(!Theme::light().styleSheet().contains(u'@'));
