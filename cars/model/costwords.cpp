@@ -129,7 +129,7 @@ QString CostWords::whyNotCounted(FillUp::Kind kind)
     case FillUp::Kind::Partial:
         return u"A partial fill-up: it counts with the next one."_s;
     case FillUp::Kind::Missing:
-        return u"The previous reading does not follow: a fill-up is missing before it."_s;
+        return u"A fill-up is missing before it: the previous reading does not follow, or the distance is too long."_s;
     case FillUp::Kind::Unlikely:
         return u"Less than half of what is usual: something is missing."_s;
     case FillUp::Kind::Incomplete:

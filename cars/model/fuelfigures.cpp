@@ -146,15 +146,40 @@ void FuelFigures::judge()
     const auto middle = usual.begin() + usual.size() / 2;
     std::ranges::nth_element(usual, middle);
     const double median = *middle;
-    for (FillUp &fillUp : m_fillUps) {
-        if (fillUp.kind == Kind::Counted && *fillUp.economy > median * unusual)
-            fillUp.kind = Kind::Partial;
+    QSet<int> notFull;
+    for (int index = 0; index < int(m_fillUps.size()); ++index) {
+        FillUp &fillUp = m_fillUps[index];
+        if (fillUp.kind != Kind::Counted || *fillUp.economy <= median * unusual)
+            continue;
+        fillUp.kind = Kind::Partial;
+        notFull.insert(index);
     }
     workOut();
+    findMissing(notFull, median * unusual);
     for (FillUp &fillUp : m_fillUps) {
         if (fillUp.kind == Kind::Counted && *fillUp.economy < median / unusual)
             fillUp.kind = Kind::Unlikely;
     }
+}
+
+/// Where even the fuel of the next one is too little for the distance, it was not a full tank that is to
+/// blame but a fill-up that nobody entered.
+void FuelFigures::findMissing(const QSet<int> &notFull, double most)
+{
+    QList<int> before;
+    for (const int index : std::as_const(m_order)) {
+        const FillUp &fillUp = m_fillUps[index];
+        if (notFull.contains(index))
+            before.append(index);
+        if (fillUp.kind == Kind::Partial)
+            continue;
+        for (const int missing : std::as_const(before)) {
+            if (fillUp.kind == Kind::Counted && *fillUp.economy > most)
+                m_fillUps[missing].kind = Kind::Missing;
+        }
+        before.clear();
+    }
+    workOut();
 }
 
 FuelSums FuelFigures::sums(QDate from, QDate to) const

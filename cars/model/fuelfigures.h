@@ -6,15 +6,16 @@
 
 #include <QDate>
 #include <QList>
+#include <QSet>
 
 #include <optional>
 
 /// A row of the fuel tracker in numbers. What its texts do not tell is worked out from those before it.
 struct FillUp {
     enum class Kind {
-        Counted,    ///< its consumption counts in the averages
-        Partial,    ///< not filled up: its fuel counts with that of the next one that was
-        Missing,    ///< its previous reading does not follow: a fill-up before it was not entered
+        Counted, ///< its consumption counts in the averages
+        Partial, ///< not filled up: its fuel counts with that of the next one that was
+        Missing, ///< a fill-up before it was not entered: readings do not follow, or its distance is too long
         Unlikely,   ///< less than half of what is usual
         Incomplete, ///< no distance or no fuel
     };
@@ -86,6 +87,7 @@ private:
     void add(int index, Stretch &stretch) const;
     void workOut();
     void judge();
+    void findMissing(const QSet<int> &notFull, double most);
 
     QList<FillUp> m_fillUps;
     QList<int> m_order;
