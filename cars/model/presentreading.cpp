@@ -5,6 +5,17 @@
 
 #include <algorithm>
 
+bool PresentReading::follow(CarRecord &car, const QString &reading)
+{
+    QString &present = car.sheet.field(VehicleSheet::Odometer);
+    const std::optional<double> number = CarNumbers::number(reading);
+    const std::optional<double> before = CarNumbers::number(present);
+    if (!number || (before && *number <= *before))
+        return false;
+    present = CarNumbers::text(*number);
+    return true;
+}
+
 bool PresentReading::goBack(CarRecord &car, const QString &reading, const QString &saved)
 {
     QString &present = car.sheet.field(VehicleSheet::Odometer);

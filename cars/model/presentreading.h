@@ -6,6 +6,10 @@
 /// The present reading of a car's sheet, which follows the fill-ups.
 namespace PresentReading {
 
+/// A fill-up of `car` reads `reading`: where that is above the sheet's, it becomes the sheet's. False where
+/// it stays.
+bool follow(CarRecord &car, const QString &reading);
+
 /// A fill-up of `car` read `reading` and does so no more. Where the sheet's reading came from there, it goes
 /// back to `saved`, what the file has, or to the highest that is known. False where it stays.
 bool goBack(CarRecord &car, const QString &reading, const QString &saved);

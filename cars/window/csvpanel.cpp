@@ -3,6 +3,7 @@
 
 #include "cars/model/carrows.h"
 #include "cars/model/csvlines.h"
+#include "cars/model/presentreading.h"
 #include "cars/window/carheadings.h"
 #include "cars/window/csvmodel.h"
 #include "cars/window/opencar.h"
@@ -207,7 +208,11 @@ void CsvPanel::refresh()
 void CsvPanel::take()
 {
     const QString line = CsvLines::broughtIn(m_part, m_import->chosenCount());
-    const CarRecord wanted = m_import->result();
+    CarRecord wanted = m_import->result();
+    for (qsizetype row = m_desk.car.record().fuel.size(); row < wanted.fuel.size(); ++row) {
+        if (m_desk.car.whyLocked(CarPart::Sheet).isEmpty())
+            PresentReading::follow(wanted, wanted.fuel[row].current);
+    }
     leave();
     m_desk.car.change(line, wanted);
     emit taken(line);

@@ -3,6 +3,7 @@
 
 #include "cars/model/carnumbers.h"
 #include "cars/model/fuellines.h"
+#include "cars/model/presentreading.h"
 #include "cars/window/carcharts.h"
 #include "cars/window/fuelcalculatorpanel.h"
 #include "cars/window/logmodel.h"
@@ -70,13 +71,9 @@ void FuelView::openCalculators()
 /// A fill-up further on is where the car is now: the sheet's reading follows it.
 void FuelView::followReading(CarRecord &wanted, qsizetype row)
 {
-    QString &odometer = wanted.sheet.field(VehicleSheet::Odometer);
-    const auto reading = CarNumbers::number(wanted.fuel[row].current);
-    const auto before = CarNumbers::number(odometer);
-    if (!reading || (before && *reading <= *before) || !car().whyLocked(CarPart::Sheet).isEmpty())
-        return;
-    odometer = CarNumbers::text(*reading);
-    emit said(FuelLines::readingFollowed(odometer));
+    const bool mayFollow = car().whyLocked(CarPart::Sheet).isEmpty();
+    if (mayFollow && PresentReading::follow(wanted, wanted.fuel[row].current))
+        emit said(FuelLines::readingFollowed(wanted.sheet.field(VehicleSheet::Odometer)));
 }
 
 void FuelView::showFigures()

@@ -31,6 +31,23 @@ private slots:
         QCOMPARE(PresentReading::goBack(car, mistaken, saved), present != wanted);
         QCOMPARE(car.sheet.field(VehicleSheet::Odometer), wanted);
     }
+
+    void followsAHigherReading_data()
+    {
+        rows<QString, QString, QString>({{"a higher one", u"84,210"_s, u"84500 mi"_s, u"84500"_s},
+                                         {"the first one", {}, u"84500"_s, u"84500"_s},
+                                         {"a lower one", u"84,210"_s, u"84209"_s, u"84,210"_s},
+                                         {"none", u"84,210"_s, u"soon"_s, u"84,210"_s}});
+    }
+
+    void followsAHigherReading()
+    {
+        const auto [present, reading, wanted] = row<QString, QString, QString>();
+        CarRecord car;
+        car.sheet.field(VehicleSheet::Odometer) = present;
+        QCOMPARE(PresentReading::follow(car, reading), present != wanted);
+        QCOMPARE(car.sheet.field(VehicleSheet::Odometer), wanted);
+    }
 };
 
 QTEST_APPLESS_MAIN(TestPresentReading)
