@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cars/window/automaint.h"
+#include "cars/window/cargrid.h"
+#include "shell/look/theme.h"
+#include "tests/support/openwindow.h"
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QTableView>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// Files that come into the histories and the fuel tracker of the household's van, on 21 November 2026.
+class TestCsvPanel : public OpenWindow<AutoMaint>
+{
+    Q_OBJECT
+
+    QAbstractItemModel *lines() const { return find<QTableView>("carImportList")->model(); }
+    QStringList cells(const char *list, int row) const
+    {
+        const QAbstractItemModel *model = find<CarGrid>(list)->model();
+        QStringList cells;
+        for (int column = 0; column < model->columnCount(); ++column)
+            cells << model->index(row, column).data().toString();
+        return cells;
+    }
+    void bringIn(const char *view, const QByteArray &bytes)
+    {
+        trigger(view);
+        QCoreApplication::processEvents();
+        const QString path = m_test->temporary.filePath(u"log.csv"_s);
+        QVERIFY(makeFile(path, bytes));
+        m_test->dialogs.willChooseFile(path);
+        trigger("mUBringIn");
+        QTRY_COMPARE(lines()->rowCount(), 2);
+    }
+    /// Says that a column of the grid is the `place`-th of the file.
+    void choose(int column, int place)
+    {
+        click("carImportColumns");
+        auto *menu = find<QMenu>("carImportColumnsMenu");
+        menu->actions()[column]->menu()->actions()[place]->trigger();
+        menu->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QTRY_COMPARE(lines()->rowCount(), 2);
+    }
+
+private slots:
+    void initTestCase() { Theme::apply(*qApp); }
+
+    void init()
+    {
+        m_test = std::make_unique<TestProgram>(TestProgram::Household);
+        m_window = new AutoMaint(m_test->program);
+        showActive(*m_window);
+    }
+
+    void cleanup()
+    {
+        delete m_window; // without its questions
+        QVERIFY(m_test->dialogs.isDone());
+    }
+
+    void takesWhatAColumnIsSaidToBe()
+    {
+        bringIn("mVMaint", "Datum;Was;Betrag\n02.01.2026;Reifen;12,50\n03.01.2026;;\n");
+        QVERIFY(labelText("carImportHint").contains(u"Not used: Was, Betrag."_s));
+        QVERIFY(!isOffered("carImportTake"));
+        choose(2, 2);
+        choose(3, 3);
+        QVERIFY(!labelText("carImportHint").contains(u"Not used"_s));
+        click("carImportTake");
+        QCOMPARE(said(), u"Brought in: 1 entry"_s);
+        QCOMPARE(cells("maintenanceList", 0), QStringList({{}, u"01/02/2026"_s, u"Reifen"_s, u"12.50"_s}));
+    }
+
+    /// The sheet's reading follows what comes in, and what goes again.
+    void movesThePresentReading()
+    {
+        const auto present = [this] { return find<QLineEdit>("Text1_22")->text(); };
+        bringIn("mVFuel", "Date,Reading,Gallons\n2026-11-05,84400,9\n2026-11-13,84700,10\n");
+        click("carImportTake");
+        QCOMPARE(present(), u"84700"_s);
+        QCOMPARE(cells("fuelGrid", 0).mid(1, 4), QStringList({u"84400"_s, u"84700"_s, u"300"_s, u"10"_s}));
+        const auto *list = find<CarGrid>("fuelGrid");
+        for (const QString &reading : {u"84400"_s, u"84210"_s}) {
+            find<CarGrid>("fuelGrid")->setCurrentIndex(list->model()->index(0, 0));
+            click("fuelDelete");
+            QVERIFY(said().endsWith(u"The current odometer reading is now "_s + reading));
+            QCOMPARE(present(), reading);
+        }
+        trigger("mEUndo");
+        QCOMPARE(present(), u"84400"_s);
+    }
+};
+
+QTEST_MAIN(TestCsvPanel)
+#include "tst_csvpanel.moc"
