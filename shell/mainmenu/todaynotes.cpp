@@ -50,8 +50,8 @@ bool TodayNotes::isOver(const DayNote &note) const
 
 bool TodayNotes::read(const FunctionFace &face, const FunctionEntry &entry)
 {
-    const Reading reading{entry.liveStamp(m_program), m_today,
-                          m_program.state.dateStyle, face.isGuarded(m_program.state.protectedAreas)};
+    const Reading reading{entry.liveStamp(m_program), m_today, m_program.state.dateStyle,
+                          face.isGuarded(m_program.state.protectedAreas)};
     const auto known = m_known.find(face.function);
     if (known != m_known.end() && known->second.reading == reading)
         return false;
