@@ -18,11 +18,13 @@ constexpr int headGap = 10;
 ChartView::ChartView(const QString &name, QWidget *parent)
     : QWidget(parent)
     , m_title(named(new ElidedLabel(this), name + u"Title"_s))
-    , m_caption(named(makeQuietLabel({}, this), name + u"Caption"_s))
+    , m_caption(named(new ElidedLabel(this), name + u"Caption"_s))
     , m_reading(named(new ElidedLabel(this), name + u"Reading"_s))
 {
     setObjectName(name);
     m_title->setFont(TypeScale::group());
+    m_caption->setFont(TypeScale::label());
+    m_caption->setForegroundRole(ThemeRole::quiet);
     m_reading->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);

@@ -45,7 +45,7 @@ protected:
 
 private:
     ElidedLabel *m_title;
-    QLabel *m_caption;
+    ElidedLabel *m_caption;
     QWidget *m_beside = nullptr;
     ElidedLabel *m_reading; ///< of what is named
 };

@@ -60,6 +60,16 @@ bool LineChart::isEmpty() const
     return std::ranges::all_of(series, [](const Series &one) { return one.points.isEmpty(); });
 }
 
+std::optional<LineChart::Spot> LineChart::forecastStart() const
+{
+    if (!forecast || isEmpty())
+        return {};
+    auto found = std::ranges::find_if(series, &Series::isTrend);
+    if (found == series.end() || found->points.isEmpty())
+        found = std::ranges::find_if(series, [](const Series &one) { return !one.points.isEmpty(); });
+    return Spot{found - series.begin(), found->points.size() - 1};
+}
+
 QString LineChart::acrossName() const
 {
     return across.name.isEmpty() && kind == Across::Days ? u"Date"_s : across.name;
@@ -89,6 +99,9 @@ QString LineChart::description() const
         text += u' ' + described(*this, one) + u'.';
     for (const Level &level : levels)
         text += u' ' + level.name + u": "_s + up.text(level.y) + u'.';
+    if (forecast)
+        text += u' ' + forecast->name +
+                u", between %1 and %2."_s.arg(acrossText(forecast->from), acrossText(forecast->to));
     return caption.isEmpty() ? text : QString(text + u' ' + caption + u'.');
 }
 

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /// What a chart of lines shows: values along days or numbers, each series named at the end of its line.
 struct LineChart {
     struct Point {
@@ -41,6 +43,16 @@ struct LineChart {
         bool isInTable = false; ///< a column of the table: it has this value at every point
         bool operator==(const Level &) const = default;
     };
+    /// What the first series, or its trend, is expected to reach: a dashed line leads there, and the stretch
+    /// in which it may be is shaded.
+    struct Forecast {
+        QString name; ///< "Goal about Sep 4, 2026"
+        double y = 0;
+        double from = 0;
+        double at = 0;
+        double to = 0;
+        bool operator==(const Forecast &) const = default;
+    };
     /// An axis, and how its numbers are written: "$1,250.00", "31.4 mpg".
     struct Axis {
         QString name;
@@ -66,12 +78,15 @@ struct LineChart {
     bool ticksAtPoints = false;       ///< days stand at the first series' points, as many as have room
     QList<Series> series;
     QList<Level> levels;
+    std::optional<Forecast> forecast; ///< behind the last point; only where there are points
 
     /// The x of a day.
     static double dayAt(QDate date) { return double(date.toJulianDay()); }
     static QDate dateAt(double x) { return QDate::fromJulianDay(qRound64(x)); }
 
     bool isEmpty() const;
+    /// What the line to the forecast begins with; nothing where there is none.
+    std::optional<Spot> forecastStart() const;
     /// The axis' name in a table.
     QString acrossName() const;
     /// "Nov 3, 2026", or as its form has it; or the number as its axis writes it.

@@ -14,6 +14,9 @@ constexpr int gap = 10;
 constexpr double pointSize = 6;
 constexpr double ringSize = 12;
 constexpr double pointSpace = 10; ///< points nearer to one another are left to the line
+constexpr double nameGap = 6;
+constexpr float shadeOpacity = 0.14F;
+constexpr float behindOpacity = 0.85F; ///< of the ground under a name
 constexpr double mostForNames = 0.3;
 
 } // namespace
@@ -43,8 +46,10 @@ void LineMarks::draw(QCPPainter *painter)
     }
     painter->save();
     painter->setClipRect(m_plot->axisRect()->rect().adjusted(-8, -8, 8, 8));
+    drawForecast(painter);
     drawLevels(painter);
     drawPoints(painter);
+    drawForecastName(painter);
     drawCurrent(painter);
     painter->restore();
     drawNames(painter);
@@ -64,6 +69,60 @@ void LineMarks::drawLevels(QCPPainter *painter) const
         painter->setPen(QPen(m_style.quiet, 1, isGoal ? Qt::DashLine : Qt::DotLine, Qt::FlatCap));
         painter->drawLine(QPointF(axes.left(), y), QPointF(axes.right(), y));
     }
+}
+
+void LineMarks::drawForecast(QCPPainter *painter) const
+{
+    const auto start = m_chart.forecastStart();
+    if (!start)
+        return;
+    const LineChart::Forecast &forecast = *m_chart.forecast;
+    const QRectF axes = m_plot->axisRect()->rect();
+    const auto across = [this](double x) { return m_plot->xAxis->coordToPixel(x); };
+    const QRectF stretch(QPointF(across(forecast.from), axes.top()),
+                         QPointF(across(forecast.to), axes.bottom()));
+    if (m_style.isOnPaper) {
+        painter->setPen(QPen(m_style.quiet, 0.5));
+        painter->drawLine(stretch.topLeft(), stretch.bottomLeft());
+        painter->drawLine(stretch.topRight(), stretch.bottomRight());
+    } else {
+        QColor shade = m_style.quiet;
+        shade.setAlphaF(shadeOpacity);
+        painter->fillRect(stretch, shade);
+    }
+    const QPointF goal(across(forecast.at), m_plot->yAxis->coordToPixel(forecast.y));
+    QPen dashes(m_style.lineColor(start->series), m_style.isOnPaper ? 1 : 1.5, Qt::CustomDashLine,
+                Qt::FlatCap);
+    dashes.setDashPattern({4, 4});
+    painter->setPen(dashes);
+    painter->drawLine(placeOf(m_chart.at(*start)), goal);
+    painter->setPen(QPen(m_style.quiet, 1, Qt::DotLine, Qt::FlatCap));
+    painter->drawLine(QPointF(goal.x(), axes.top()), QPointF(goal.x(), axes.bottom()));
+}
+
+/// Where the line that leads there does not come: above one that falls, below one that rises.
+void LineMarks::drawForecastName(QCPPainter *painter) const
+{
+    const auto start = m_chart.forecastStart();
+    if (!start)
+        return;
+    const LineChart::Forecast &forecast = *m_chart.forecast;
+    const QRectF axes = m_plot->axisRect()->rect();
+    const double end = m_plot->xAxis->coordToPixel(forecast.at) - nameGap;
+    if (end > axes.right() || end < axes.left())
+        return;
+    const QFontMetrics metrics(m_style.label);
+    const QString name = metrics.elidedText(forecast.name, Qt::ElideRight, int(end - axes.left()));
+    QRectF place(QPointF(), QSizeF(metrics.horizontalAdvance(name) + 2, metrics.height()));
+    place.moveTopRight({end, axes.top() + nameGap});
+    if (forecast.y > m_chart.at(*start).y)
+        place.moveBottom(axes.bottom() - nameGap);
+    QColor behind = m_style.ground;
+    behind.setAlphaF(behindOpacity);
+    painter->fillRect(place, behind);
+    painter->setFont(m_style.label);
+    painter->setPen(m_style.text);
+    painter->drawText(place, int(Qt::AlignRight | Qt::AlignVCenter), name);
 }
 
 /// Where they are too near to one another, the lines stand alone.

@@ -36,6 +36,8 @@ private:
     std::vector<Name> placedNames() const;
     std::optional<double> endOf(const LineChart::Series &series) const;
     void drawLevels(QCPPainter *painter) const;
+    void drawForecast(QCPPainter *painter) const;
+    void drawForecastName(QCPPainter *painter) const;
     void drawPoints(QCPPainter *painter) const;
     static void drawPoint(QCPPainter *painter, QPointF place, std::size_t shape);
     void drawCurrent(QCPPainter *painter) const;

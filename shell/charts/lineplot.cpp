@@ -125,6 +125,8 @@ void LinePlot::setChart(const LineChart &chart, const ChartStyle &style)
         for (const LineChart::Point &point : chart.series[index].points)
             whole = {std::min(whole.from, point.x), std::max(whole.to, point.x)};
     }
+    if (chart.forecastStart())
+        whole.to = std::max(whole.to, chart.forecast->to);
     // Lines of many points are drawn piece by piece, ten times as fast; with few, the corners would show it.
     // No other hint: labels kept as pictures would blur on paper.
     m_plot->setPlottingHints(count > manyPoints ? QCP::phFastPolylines : QCP::PlottingHints());
@@ -216,6 +218,8 @@ LinePlot::Range LinePlot::valuesInView() const
         take(level.y);
     if (m_chart.isFromZero)
         take(0);
+    if (m_chart.forecastStart())
+        take(m_chart.forecast->y);
     if (values.from > values.to)
         return {0, 1};
     if (values.width() > 0)

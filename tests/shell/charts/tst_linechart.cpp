@@ -82,6 +82,12 @@ private slots:
         empty.series.clear();
         empty.nothing = u"No fill-ups yet"_s;
         QCOMPARE(empty.description(), u"How far a gallon goes. No fill-ups yet."_s);
+        LineChart expected = daily(60);
+        expected.series.last().isTrend = true;
+        expected.forecast = {u"Goal about Mar 20, 2026"_s, 90, dayOf(3, 12), dayOf(3, 20), dayOf(4, 2)};
+        QVERIFY(expected.description().endsWith(
+            u" Goal about Mar 20, 2026, between Mar 12, 2026 and Apr 2, 2026."_s));
+        QCOMPARE(*expected.forecastStart(), LineChart::Spot(1, 29));
         QCOMPARE(LineChart::Axis({u"Cost"_s, u"$"_s, {}, 2}).text(-1234.5), u"-$1,234.50"_s);
         QCOMPARE(LineChart::Axis({u"Cost"_s, u"$"_s}).text(-0.2), u"$0"_s);
     }
@@ -211,6 +217,20 @@ private slots:
         QVERIFY(!m_view->isZoomed());
         m_view->zoom(1e-9, dayOf(3, 1)); // never nothing
         QVERIFY(m_view->placeOf({0, 60}).x() - m_view->placeOf({0, 59}).x() < m_view->width() / 2);
+    }
+
+    void leavesRoomForWhatIsExpected()
+    {
+        LineChart chart = daily(60);
+        show(chart);
+        const int end = m_view->placeOf({0, 59}).x();
+        chart.forecast = {u"Goal about Apr 1, 2026"_s, 50, dayOf(3, 12), dayOf(4, 1), dayOf(5, 30)};
+        m_view->setChart(chart);
+        QCoreApplication::processEvents();
+        QVERIFY(m_view->placeOf({0, 59}).x() < end / 2 + 60);
+        const QPoint beside = m_view->placeOf({0, 59}) + QPoint(6, 0);
+        QVERIFY(m_view->grab().toImage().pixelColor(end - 40, beside.y()) !=
+                m_view->grab().toImage().pixelColor(beside)); // shaded there
     }
 
     void theWheelScrollsElsewhereWithoutTheFocus()
