@@ -11,6 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr double corner = 8;
+constexpr int signSize = 20;
 } // namespace
 
 FigureStrip::FigureStrip(const QString &name, QWidget *parent)
@@ -26,7 +27,7 @@ FigureStrip::FigureStrip(const QString &name, QWidget *parent)
 FigureStrip::Labels FigureStrip::make()
 {
     auto *place = new QWidget(this);
-    const Labels labels{place, new ElidedLabel(place), new ElidedLabel(place)};
+    const Labels labels{place, new ElidedLabel(place), new QLabel(place), new ElidedLabel(place)};
     labels.caption->setFont(TypeScale::label());
     labels.caption->setForegroundRole(ThemeRole::quiet);
     labels.value->setFont(TypeScale::cardTitle());
@@ -34,7 +35,11 @@ FigureStrip::Labels FigureStrip::make()
     rows->setContentsMargins({});
     rows->setSpacing(1);
     rows->addWidget(labels.caption);
-    rows->addWidget(labels.value);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(6);
+    row->addWidget(labels.sign);
+    row->addWidget(labels.value, 1);
+    rows->addLayout(row);
     m_row->addWidget(place, 1);
     return labels;
 }
@@ -48,6 +53,11 @@ void FigureStrip::setFigures(const QList<Figure> &figures)
         if (i >= figures.size())
             continue;
         m_labels[i].caption->setText(figures[i].caption);
+        const bool hasSign = !figures[i].sign.isEmpty();
+        m_labels[i].sign->setVisible(hasSign);
+        if (hasSign)
+            m_labels[i].sign->setPixmap(
+                Icons::pixmap(figures[i].sign, Theme::of(this).scheme, signSize, devicePixelRatioF()));
         m_labels[i].value->setText(figures[i].value);
         m_labels[i].value->setAccessibleName(figures[i].caption + u": "_s + figures[i].value);
     }

@@ -7,7 +7,7 @@ class ElidedLabel;
 class QHBoxLayout;
 class QLabel;
 
-/// A few figures side by side, each under what it says.
+/// A few figures side by side, each under what it says, with a sign before it where it has one.
 class FigureStrip final : public QWidget
 {
     Q_OBJECT
@@ -15,6 +15,7 @@ public:
     struct Figure {
         QString caption;
         QString value;
+        QLatin1StringView sign = {}; ///< before the value: the name of a drawing
     };
 
     explicit FigureStrip(const QString &name, QWidget *parent = nullptr);
@@ -28,6 +29,7 @@ private:
     struct Labels {
         QWidget *place;
         ElidedLabel *caption;
+        QLabel *sign;
         ElidedLabel *value;
     };
 
