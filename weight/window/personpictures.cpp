@@ -3,7 +3,9 @@
 
 #include "shell/frame/commands.h"
 #include "shell/frame/picturepanel.h"
+#include "shell/frame/picturetaker.h"
 #include "shell/frame/workviews.h"
+#include "shell/program/program.h"
 #include "weight/window/openperson.h"
 #include "weight/window/personviews.h"
 #include "weight/window/windowlines.h"
@@ -35,6 +37,11 @@ PersonPictures::PersonPictures(const WeightDesk &desk, PersonViews &views, QObje
         QAction *load = all.writing(all.add(
             nullptr, u"loadPicture"_s + QString::number(photo + 1), u"Load Picture"_s,
             [this, photo] { choose(photo); }, unless));
+        const auto *taker =
+            new PictureTaker(desk.program, m_views.photos().frame(photo), pictureUse(), *load,
+                             {[this] { return m_desk.person.sheet().field(WeightSheet::Name).trimmed(); },
+                              [this, photo](const QString &path) { m_views.photos().setPath(photo, path); }});
+        connect(taker, &PictureTaker::said, this, &PersonPictures::said);
         m_views.photos().setButton(photo, all.button(load, u"photo"_s + QString::number(photo + 1),
                                                      load->text(), &m_views.photos()));
     }

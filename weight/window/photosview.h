@@ -26,6 +26,7 @@ public:
     /// Puts the button that chooses a photo below it.
     void setButton(Photo photo, QPushButton *button);
 
+    PictureFrame *frame(Photo photo) const { return m_frames[photo]; }
     /// The path of a photo as the sheet has it.
     static const QString &path(const WeightSheet &sheet, Photo photo);
     /// Makes `path` the photo's; empty takes it away.

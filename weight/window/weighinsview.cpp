@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "weight/window/weighinsview.h"
 
+#include "shell/charts/linechartview.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/celldelegate.h"
 #include "shell/controls/cellgrid.h"
@@ -17,6 +18,7 @@
 #include "shell/program/program.h"
 #include "weight/model/messages.h"
 #include "weight/model/weightcolumns.h"
+#include "weight/model/weightgraph.h"
 #include "weight/window/datecheck.h"
 #include "weight/window/openperson.h"
 #include "weight/window/standing.h"
@@ -31,6 +33,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int reachedSign = 24;
+/// From this width on the chart has room beside the table.
+constexpr int chartFrom = 820;
 } // namespace
 
 WeighInsView::WeighInsView(const WeightDesk &desk)
@@ -45,13 +49,15 @@ WeighInsView::WeighInsView(const WeightDesk &desk)
     , m_table(named(new CellGrid(this), u"Grid4"_s))
     , m_rows(new WholeRows(m_table, nullptr, this))
     , m_empty(named(makeQuietLabel(TrackerLines::noneYet(), this), u"noWeighIns"_s))
+    , m_chart(new LineChartView(u"weighInChart"_s, this))
     , m_besides(new QHBoxLayout)
 {
     auto *below = new QWidget(this);
     below->setLayout(m_besides);
     m_besides->setContentsMargins({});
     m_besides->setSpacing(16);
-    m_besides->addWidget(makeTable(), 1);
+    m_besides->addWidget(m_chart, 4);
+    m_besides->addWidget(makeTable(), 5);
     addContent(m_reached);
     addContent(m_figures);
     addContent(m_entry);
@@ -141,9 +147,16 @@ void WeighInsView::setAddButton(QPushButton *button)
     m_entry->setButton(button);
 }
 
-void WeighInsView::setBeside(QWidget *beside)
+QWidget &WeighInsView::table() const
 {
-    m_besides->insertWidget(0, beside, 1);
+    return *m_table;
+}
+
+/// The way at a glance; the graph with all that can be done to it is a view of its own.
+void WeighInsView::resizeEvent(QResizeEvent *event)
+{
+    m_chart->setVisible(width() >= TypeScale::wide(chartFrom));
+    PersonView::resizeEvent(event);
 }
 
 /// A weight that was typed and not entered is not lost, where it is one.
@@ -182,6 +195,7 @@ void WeighInsView::refresh()
 void WeighInsView::showFigures()
 {
     const WeightSheet &sheet = person().sheet();
+    m_chart->setChart(WeightGraph::of(sheet).chart());
     m_figures->setFigures(Standing::figures(sheet, desk().program.clock.today()));
     m_reached->setVisible(WeightColumns::isGoalReached(sheet));
 }

@@ -6,6 +6,7 @@
 class CellGrid;
 class DatePicker;
 class FigureStrip;
+class LineChartView;
 class QBoxLayout;
 class QLabel;
 class WeighInEntry;
@@ -21,11 +22,9 @@ public:
 
     void finishEdit() override;
 
+    QWidget &table() const;
     /// Puts the button of "Add Additional Row" beside the boxes of the line.
     void setAddButton(QPushButton *button);
-    /// Something that stands beside the table where there is room.
-    void setBeside(QWidget *beside);
-
     /// Adds what stands in the line, or a row that has its date alone, and saves. Tells it in a box.
     void addRow();
     /// Whether a row is chosen.
@@ -43,6 +42,7 @@ signals:
 
 protected:
     void refresh() override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *makeReached();
@@ -67,6 +67,7 @@ private:
     CellGrid *m_table;
     QWidget *m_rows;
     QLabel *m_empty;
+    LineChartView *m_chart; ///< beside the table, where there is room
     QBoxLayout *m_besides;
     QString m_shown; ///< the name of the person whose rows are shown
 };

@@ -127,6 +127,7 @@ void WeightTracker::makeRowCommands(QMenu *edit)
     m_commands.deleteRow = commands().writing(commands().add(
         edit, u"mEDel"_s, u"Delete Selected &Row"_s, [&rows] { rows.deleteRow(); },
         [this] { return whyNoRow(); }));
+    commands().setKeyIn(&rows.table(), m_commands.deleteRow, CommonKeys::remove);
     commands().writing(commands().add(
         edit, u"mESort"_s, u"&Sort by Date"_s, [&rows] { rows.sortRows(); }, unless));
     rows.setAddButton(commands().button(m_commands.addRow, u"addRow"_s, m_commands.addRow->text(), &rows));
@@ -166,7 +167,11 @@ void WeightTracker::makeListButtons()
         commands().button(create, u"emptyCreate"_s, create->text(), m_emptyPage, ButtonKind::Main));
     m_emptyPage->addButton(commands().button(standard(Standard::Restore), u"emptyRestore"_s,
                                              standard(Standard::Restore)->text(), m_emptyPage));
-    commands().setKeyIn(m_list->focusProxy(), m_commands.remove, CommonKeys::remove);
+    // Del works in the list alone, and stands in no menu for it: there it is that of the rows.
+    QAction *remove = m_commands.remove;
+    QAction *key = commands().writing(
+        commands().add(nullptr, u"deletePersonKey"_s, remove->text(), [remove] { remove->trigger(); }));
+    commands().setKeyIn(m_list->focusProxy(), key, CommonKeys::remove);
 }
 
 void WeightTracker::connectParts()
