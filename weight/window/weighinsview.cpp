@@ -179,8 +179,7 @@ void WeighInsView::refresh()
     m_entry->refresh();
     showFigures();
     titleLine().setTitle(person().isNew() ? TrackerLines::newPerson() : person().name());
-    m_today->setText(TrackerLines::todaysDate(
-        Dates::numbers(desk().program.clock.today(), desk().program.state.dateStyle)));
+    showToday();
     const qsizetype uncounted = person().uncounted().rowCount();
     m_uncounted->setVisible(uncounted > 0);
     m_uncountedWords->setText(TrackerLines::uncounted(uncounted));
@@ -190,6 +189,20 @@ void WeighInsView::refresh()
         m_entry->clear();
         showRow();
     }
+}
+
+void WeighInsView::showToday()
+{
+    m_today->setText(TrackerLines::todaysDate(
+        Dates::numbers(desk().program.clock.today(), desk().program.state.dateStyle)));
+}
+
+void WeighInsView::beginDay()
+{
+    if (!m_entry->isTyped())
+        m_entry->clear();
+    showToday();
+    showFigures();
 }
 
 void WeighInsView::showFigures()

@@ -33,6 +33,8 @@ public:
     void deleteRow();
     /// Puts the rows in the order of their days.
     void sortRows();
+    /// It is another day than before: the line has its date, unless something was typed there.
+    void beginDay();
     /// Brings a row to sight, the last where it is -1.
     void showRow(int row = -1);
 
@@ -50,6 +52,7 @@ private:
     QWidget *makeTable();
     void connectParts();
     void enter();
+    void showToday();
     void showFigures();
     bool append(const WeighIn &weighIn);
     bool saveUnlessNew();

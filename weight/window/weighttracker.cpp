@@ -184,6 +184,7 @@ void WeightTracker::connectParts()
     connect(m_person, &OpenPerson::edited, &undoStack(), qOverload<UndoStep>(&UndoStack::push));
     connect(m_person, &OpenPerson::fileTouched, this, [this] { watchFiles(m_person->fileNames()); });
     connect(m_person, &OpenPerson::changed, &commands(), &Commands::refresh);
+    connect(&activity(), &ActivityBar::dayBegan, &m_views->weighIns(), &WeighInsView::beginDay);
     connect(m_dateCheck, &DateCheck::said, &activity(), &ActivityBar::say);
     connect(m_changes, &PersonChanges::said, &activity(), &ActivityBar::say);
     connect(m_pictures, &PersonPictures::said, &activity(), &ActivityBar::say);
