@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How long a person with 10,000 weigh-ins takes from the click on the card to the painted window, and from an
+// edit to the painted table.
+
+#include "benchmarks/limit.h"
+#include "benchmarks/paintwatch.h"
+#include "shell/access/gate.h"
+#include "shell/look/theme.h"
+#include "shell/program/program.h"
+#include "shell/program/qtdialogs.h"
+#include "weight/model/personfiles.h"
+#include "weight/window/weighttracker.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QSettings>
+#include <QTemporaryDir>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int weighIns = 10'000;
+constexpr double mostToOpen = 150; ///< milliseconds
+constexpr double mostToEdit = 16;  ///< a frame of the screen
+
+/// A program with a person who has weighed herself for 27 years.
+class Desk
+{
+public:
+    Desk()
+    {
+        WeightSheet sheet;
+        sheet.field(WeightSheet::Name) = u"Anne Lind"_s;
+        sheet.field(WeightSheet::BeginningWeight) = u"180."_s;
+        sheet.field(WeightSheet::GoalWeight) = u"160."_s;
+        for (int row = 0; row < weighIns; ++row)
+            sheet.weighIns.append({QDate(1999, 1, 1).addDays(row).toString(u"MM/dd/yyyy"),
+                                   u"%1.%2"_s.arg(165 + row % 13).arg(row % 10)});
+        if (!PersonFiles(m_folder).create(sheet))
+            qFatal("cannot write the person");
+    }
+
+private:
+    QTemporaryDir m_data;
+    DataFolder m_folder{m_data.path()};
+    Settings m_settings{m_folder};
+    ProgramState m_state;
+    SystemClock m_clock;
+    QtDialogs m_dialogs;
+    FunctionCatalogue m_functions;
+    AccessGate m_gate{{}};
+    QSettings m_store{m_data.filePath(u"desk.ini"_s), QSettings::IniFormat};
+    ProgramSignals m_changes;
+
+public:
+    Program program{m_folder,  m_folder,    m_settings, m_state, m_clock,
+                    m_dialogs, m_functions, m_gate,     m_store, m_changes};
+};
+
+void hold(benchmark::State &state, double best, double most)
+{
+    state.counters["best_ms"] = best;
+    state.counters["limit"] = most;
+    if (best > most)
+        state.SkipWithError("takes too long");
+}
+
+void openTracker(benchmark::State &state)
+{
+    Desk desk;
+    double best = 1e9;
+    for ([[maybe_unused]] auto round : state) {
+        QElapsedTimer timer;
+        timer.start();
+        WeightTracker window(desk.program);
+        PaintWatch watch(window.centralWidget());
+        window.show();
+        watch.wait();
+        best = std::min(best, double(timer.nsecsElapsed()) / 1e6);
+    }
+    hold(state, best, mostToOpen);
+}
+BENCHMARK(openTracker)->Iterations(10)->Unit(benchmark::kMillisecond);
+
+/// A weight of one of the last rows, with everything that follows from it.
+void editAWeight(benchmark::State &state)
+{
+    Desk desk;
+    WeightTracker window(desk.program);
+    window.show();
+    auto *grid = window.findChild<QAbstractItemView *>(u"Grid4"_s);
+    PaintWatch watch(grid->viewport());
+    watch.wait();
+    double best = 1e9;
+    int weight = 150;
+    for ([[maybe_unused]] auto round : state) {
+        QElapsedTimer timer;
+        timer.start();
+        grid->model()->setData(grid->model()->index(weighIns - 2, 1), QString::number(++weight));
+        watch.wait();
+        best = std::min(best, double(timer.nsecsElapsed()) / 1e6);
+    }
+    hold(state, best, mostToEdit);
+}
+BENCHMARK(editAWeight)->Iterations(50)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    Theme::apply(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return EXIT_SUCCESS;
+}
