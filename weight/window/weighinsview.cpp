@@ -27,6 +27,7 @@
 #include "weight/window/windowlines.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -45,6 +46,7 @@ WeighInsView::WeighInsView(const WeightDesk &desk)
     , m_today(titleLine().addWords(u"todaysDate"_s))
     , m_reached(makeReached())
     , m_figures(new FigureStrip(u"weightFigures"_s, this))
+    , m_uncountedWords(makeQuietLabel({}, this))
     , m_uncounted(makeUncounted())
     , m_table(named(new CellGrid(this), u"Grid4"_s))
     , m_rows(new WholeRows(m_table, nullptr, this))
@@ -133,7 +135,6 @@ QWidget *WeighInsView::makeUncounted()
     auto *row = new QHBoxLayout(line);
     row->setContentsMargins({});
     row->setSpacing(12);
-    m_uncountedWords = makeQuietLabel({}, line);
     auto *take = new LinkButton(u"takeUncounted"_s, u"Take them in"_s, line);
     row->addWidget(m_uncountedWords);
     row->addWidget(take);
@@ -175,7 +176,9 @@ void WeighInsView::refresh()
 {
     const bool isOther = m_shown != person().name();
     m_shown = person().name();
+    const int scrolled = m_table->verticalScrollBar()->value();
     m_model->refresh();
+    m_table->verticalScrollBar()->setValue(scrolled);
     m_entry->refresh();
     showFigures();
     titleLine().setTitle(person().isNew() ? TrackerLines::newPerson() : person().name());

@@ -65,8 +65,8 @@ private:
     QLabel *m_today;
     QWidget *m_reached; ///< congratulates
     FigureStrip *m_figures;
+    QLabel *m_uncountedWords;
     QWidget *m_uncounted;
-    QLabel *m_uncountedWords = nullptr;
     CellGrid *m_table;
     QWidget *m_rows;
     QLabel *m_empty;
