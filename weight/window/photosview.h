@@ -11,6 +11,7 @@ class DatePicker;
 class PictureFrame;
 class QHBoxLayout;
 class QPushButton;
+struct WeightSheet;
 
 /// Beginning and current photo of the open person side by side, each with the date on which it was taken.
 class PhotosView final : public PersonView

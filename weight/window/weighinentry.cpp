@@ -4,6 +4,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
+#include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "weight/model/weightdates.h"
 #include "weight/model/weightnumbers.h"

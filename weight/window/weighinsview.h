@@ -9,8 +9,10 @@ class FigureStrip;
 class LineChartView;
 class QBoxLayout;
 class QLabel;
+class QPushButton;
 class WeighInEntry;
 class WeighInModel;
+struct WeighIn;
 
 /// The weigh-ins of the open person: how things stand, the line in which today's weight is entered, and the
 /// table of all that were entered.
