@@ -6,6 +6,7 @@
 #include "shell/program/program.h"
 
 #include <QMenu>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <functional>
@@ -40,6 +41,19 @@ Narrow narrowDue(const QString &item, const QString &amount, qsizetype others)
     const QString more = others > 0 ? u"; %1 more"_s.arg(others) : QString();
     const QString plus = others > 0 ? u" +%1"_s.arg(others) : QString();
     return {{item + amount + more, item + amount + plus, item + plus, item}};
+}
+
+/// Of what is to be done, "Family van: tires overdue": its sign says that it is due, and it is more than the
+/// name that has to be told.
+Narrow narrowTask(const QString &name, QString fact, qsizetype others)
+{
+    static const QRegularExpression state(u" (overdue|due|runs out|ran out)\\b.*$"_s);
+    const QString more = others > 0 ? u"; %1 more"_s.arg(others) : QString();
+    const QString plus = others > 0 ? u" +%1"_s.arg(others) : QString();
+    const QString whole = fact;
+    fact.remove(state);
+    const QString tail = fact + plus;
+    return {{name + whole + more, name + fact + more, name + tail}, tail.size()};
 }
 
 /// The first of the texts that has room; else the last with its head cut.
@@ -163,8 +177,14 @@ QString HouseholdNotes::cut(const QList<HouseholdNote> &notes, const QFontMetric
     const QString name = first.text.first(first.nameLength);
     if (room < least && first.kind == NoteKind::Birthday && first.nameLength > 0)
         return fitting(narrowBirthday(name, fact, notes.size() - 1), metrics, width);
-    if (isToBePaid(first) && first.nameLength > 0)
-        return fitting(narrowDue(name, fact.section(u", "_s, 0, 0), notes.size() - 1), metrics, width);
+    if (isToBePaid(first) && first.nameLength > 0) {
+        const QString shortFact = fact.section(u", "_s, 0, 0);
+        // ": 64.50" is less important than what it is for.
+        const bool hasAmount = shortFact.size() > 2 && shortFact[2].isDigit();
+        if (hasAmount)
+            return fitting(narrowDue(name, shortFact, notes.size() - 1), metrics, width);
+        return fitting(narrowTask(name, shortFact, notes.size() - 1), metrics, width);
+    }
     const QString shownName = metrics.elidedText(name, Qt::ElideRight, std::max(least, room));
     return metrics.elidedText(shownName + fact + more, Qt::ElideRight, width);
 }

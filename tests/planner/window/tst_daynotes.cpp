@@ -109,6 +109,7 @@ private slots:
     {
         const auto birthday = NoteKind::Birthday;
         const QString walter = u"Walter Lindqvist turns 70"_s;
+        const QString tires = u"Northern Lights: tires, oil change overdue since Sep 2"_s;
         const QString power = u"Northern Lights: 64.50, due"_s;
         rows<QString, NoteKind, QString>(
             {{"as many as have room", walter, birthday, walter + u"; "_s + walter + u"; 1 more"_s},
@@ -118,6 +119,8 @@ private slots:
              {"narrower still", walter, birthday, u"Wal\u2026 70"_s},
              {"to be paid", power, NoteKind::Due, u"Northern Lights: 64.50; 2 more"_s},
              {"in a narrow month", power, NoteKind::Overdue, u"Northern Lights +2"_s},
+             {"to be done", tires, NoteKind::Overdue, u"Northern Lights: tires; 2 more"_s},
+             {"in a narrow month, too", tires, NoteKind::Due, u"North\u2026: tires +2"_s},
              {"for a part of its name", power, NoteKind::Due, u"Northern\u2026"_s}});
     }
     void keepTheAgeWhereAllHasNoRoom()
