@@ -163,10 +163,6 @@ private slots:
             {"a table", [](Page &page) { page.columns({1}, {u"Name"_s}).row({u"led"_s}); }},
             {"a table without headings",
              [](Page &page) { page.columns({1}).row({u"led"_s + u"\n\n\n"_s}).row({u"b"_s}); }},
-            {"a picture",
-             [](Page &page) {
-                 page.picture({}, {7, 3}).line(u"led"_s);
-             }},
             {"another heading",
              [](Page &page) { page.line(u"Part"_s, TextRole::Heading).columns({1}).row({u"led"_s}); }},
         });
@@ -184,6 +180,16 @@ private slots:
                 const QString text = painter.text(sheet);
                 QCOMPARE(text.contains(u"Heading"_s), text.contains(u"led"_s));
             }
+        }
+    }
+
+    void headingsStandOverTheirPicture()
+    {
+        for (int rows = 20; rows < 60; ++rows) {
+            Page page = numbered(rows);
+            page.blankLine().line(u"Heading"_s, TextRole::Heading).picture({}, {7, 8});
+            const PagePainter painter(page.close(printedOn, DateStyle::Usa), {}, bodyFont());
+            QVERIFY(painter.text(painter.sheetCount() - 1).contains(u"Heading"_s));
         }
     }
 
