@@ -133,7 +133,7 @@ QString CarCsvImport::example(int place) const
 {
     for (int i = m_columns.headingLine + 1; i < int(m_sample.size()); ++i) {
         if (const QString cell = m_sample[i].value(place).simplified(); !cell.isEmpty())
-            return cell.left(longestName);
+            return cell.size() > longestName ? QString(cell.left(longestName) + u'\u2026') : cell;
     }
     return {};
 }

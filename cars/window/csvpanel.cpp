@@ -108,7 +108,7 @@ void CsvPanel::shareWidth()
     for (int column = 1; column < count - 1; ++column) {
         if (column == description)
             continue;
-        const int width = std::max(widthOf(column), body.horizontalAdvance(u"12/30/2026"_s) + 3 * inset);
+        const int width = std::max(widthOf(column), body.horizontalAdvance(u"99999"_s) + 3 * inset);
         m_view->setColumnWidth(column, width);
         left -= width;
     }
