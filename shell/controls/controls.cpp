@@ -65,7 +65,8 @@ private:
             return;
         }
         setTextFormat(Qt::RichText);
-        setText(u"%1%2&nbsp;&nbsp;<span style=\"color:%3; font-weight:600\">%4</span>"_s.arg(
+        // Blanks as characters: of an entity, the label would take the letter for the box's access key.
+        setText(u"%1%2\u00a0\u00a0<span style=\"color:%3; font-weight:600\">%4</span>"_s.arg(
             m_caption.toHtmlEscaped(), hint.toHtmlEscaped(), palette().color(ThemeRole::strong).name(),
             ShellMessages::required()));
     }

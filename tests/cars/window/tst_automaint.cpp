@@ -11,7 +11,9 @@
 #include "tests/support/rows.h"
 
 #include <QComboBox>
+#include <QDropEvent>
 #include <QListView>
+#include <QMimeData>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -134,7 +136,8 @@ private slots:
         find<QLineEdit>("Text1_0")->setFocus();
         QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(20, box->height() / 2));
         QTest::keyClicks(box, u"84250"_s);
-        QCOMPARE(box->text(), u"84250"_s);
+        QTest::keyClick(box, Qt::Key_Tab);
+        QCOMPARE(text("Text1_22"), u"84250"_s);
         fill("Text1_22", u"8421084300"_s);
         QTest::keyClick(box, Qt::Key_Tab);
         QCOMPARE(said(), CarLines::beyondOdometers(8421084300));
@@ -143,6 +146,24 @@ private slots:
         QTest::keyClick(find<QLineEdit>("Text1_4"), Qt::Key_Tab);
         QCOMPARE(said(), CarLines::noDate(u"Toy"_s));
         QCOMPARE(text("Text1_4"), u"Toy"_s);
+    }
+
+    void takesAPictureThatIsDropped()
+    {
+        open(TestProgram::Household);
+        trigger("mVInfo");
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        const QString path = m_test->path(u"van.jpg"_s);
+        QVERIFY(image.save(path, "JPG"));
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
+            QApplication::sendEvent(find<QWidget>("Image1"), event);
+        QCOMPARE(text("Text1_7"), path);
+        QVERIFY(m_window->isModified());
     }
 
     void entersWhatWasDone()
@@ -170,7 +191,7 @@ private slots:
         trigger("mONew");
         QCOMPARE(labelText("informationTitle"), CarLines::newCar());
         const auto refused = [this](const Message &refusal) {
-            click("informationViewNext");
+            QTest::keyClick(find<QLineEdit>("Text1_0"), Qt::Key_N, Qt::AltModifier);
             QCOMPARE(asked(), {refusal});
         };
         refused(CarMessages::nameMissing());
