@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/controls/datebox.h"
 #include "shell/core/clock.h"
 #include "weight/model/weightentry.h"
 
@@ -21,6 +22,8 @@ public:
     /// "Turn OFF Date Checker", or ON, for a menu and buttons.
     QAction *addCommand(Commands &commands, QMenu *menu);
 
+    /// How the boxes read dates: as in the files, the month comes first.
+    DateReading reading() const { return {m_style, m_clock}; }
     /// What becomes of a date that was typed or picked, in the table or on the sheet, where `before` stood.
     WeightEntry tableDate(const QString &typed, const QString &before) const;
     WeightEntry sheetDate(const QString &typed, const QString &before) const;
@@ -34,6 +37,7 @@ private:
     WeightEntry::DateChecker checker() const;
 
     const Clock &m_clock;
+    DateStyle m_style = DateStyle::Usa;
     Commands *m_commands = nullptr;
     QAction *m_command = nullptr;
     bool m_isOn = true;

@@ -61,7 +61,7 @@ QWidget *PhotosView::makePlace(Photo photo, DatePicker *picker)
     frame->setWords(u"No Picture Currently Loaded"_s);
     frame->setAccessibleName(nameOf(photo));
     rows->addWidget(frame, 1);
-    auto *date = new DateBox({DateStyle::Usa, desk().program.clock}, picker, place);
+    auto *date = new DateBox(desk().dateCheck.reading(), picker, place);
     named(date, u"Text1_"_s + QString::number(dateField(photo)));
     date->setForm(WeightDates::longText);
     date->setMinimumWidth(boxWidth(u"September 30, 2026"_s, 160));

@@ -8,6 +8,7 @@
 #include "shell/program/program.h"
 #include "weight/model/weightdates.h"
 #include "weight/window/commentsbox.h"
+#include "weight/window/datecheck.h"
 #include "weight/window/windowlines.h"
 
 #include <QEvent>
@@ -63,7 +64,7 @@ void PlanForm::makeBoxes(const WeightDesk &desk, DatePicker *picker)
 {
     for (std::size_t i = 0; i < count; ++i) {
         if (i == WeightSheet::BeginningDate) {
-            auto *date = new DateBox({DateStyle::Usa, desk.program.clock}, picker, this);
+            auto *date = new DateBox(desk.dateCheck.reading(), picker, this);
             date->setForm(WeightDates::longText);
             m_boxes[i] = date;
         } else {

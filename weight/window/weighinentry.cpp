@@ -20,8 +20,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int longestWeight = 12;
-/// The table counts months first, whatever the style of dates.
-constexpr DateStyle tableStyle = DateStyle::Usa;
 
 bool isEnter(const QEvent *event)
 {
@@ -36,7 +34,7 @@ bool isEnter(const QEvent *event)
 WeighInEntry::WeighInEntry(const WeightDesk &desk, DatePicker *picker, QWidget *parent)
     : QWidget(parent)
     , m_desk(desk)
-    , m_date(named(new DateBox({tableStyle, desk.program.clock}, picker, this), u"weighInDate"_s))
+    , m_date(named(new DateBox(desk.dateCheck.reading(), picker, this), u"weighInDate"_s))
     , m_weight(named(new FieldBox(this), u"weighInWeight"_s))
     , m_fact(named(new ElidedLabel(this), u"weighInFact"_s))
     , m_row(new QHBoxLayout(this))

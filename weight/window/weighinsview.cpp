@@ -72,7 +72,7 @@ WeighInsView::WeighInsView(const WeightDesk &desk)
 QWidget *WeighInsView::makeTable()
 {
     m_table->setPlainRows();
-    m_table->cells().takeDates({DateStyle::Usa, desk().program.clock}, m_picker);
+    m_table->cells().takeDates(desk().dateCheck.reading(), m_picker);
     m_table->setModel(m_model);
     m_table->setAccessibleName(u"Weigh-ins"_s);
     QHeaderView *heading = m_table->horizontalHeader();

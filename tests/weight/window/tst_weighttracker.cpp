@@ -41,7 +41,7 @@ private slots:
         QCOMPARE(
             find<QPlainTextEdit>("Text3")->toPlainText(),
             u"Knee is still weak, no running.\nSays the doctor: \"Swim\" instead.\nNext check in May."_s);
-        QCOMPARE(labelText("commentsLength"), u"Length (Max. = 1000) : 87"_s);
+        QCOMPARE(labelText("commentsLength"), u"Length (Max. = 1000) : 85"_s);
     }
 
     void entersTodaysWeightWithTwoKeys()
@@ -149,7 +149,7 @@ private slots:
         click("emptyCreate");
         click("Command11");
         QCOMPARE(asked(), {WeightMessages::nameMissing()});
-        for (const auto &[name, refusal] : {std::pair(u"con"_s, WeightMessages::nameReserved(u"con"_s)),
+        for (const auto &[name, refusal] : {std::pair(u"con"_s, WeightMessages::nameReserved(u"con.Fil"_s)),
                                             {u"A/B"_s, WeightMessages::nameNoFile(u"/"_s)}}) {
             fill("Text1_0", name);
             click("Command11");
