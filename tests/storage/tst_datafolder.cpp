@@ -31,12 +31,16 @@ private slots:
         const TestFolder disk;
         for (const QString &file : files.split(u' '))
             disk.put(file, "x");
-        if (QDir(disk.path({})).entryList(QDir::Files).join(u' ').size() != files.size())
-            QSKIP("this disk keeps one spelling of a name");
+        const bool isOneSpelling = QFileInfo::exists(disk.path(files.section(u' ', 0, 0).toLower())) &&
+                                   QFileInfo::exists(disk.path(files.section(u' ', 0, 0).toUpper()));
         const DataFolder folder(disk.folder().path() + u'/');
-        QCOMPARE(folder.filePath(name), disk.path(found));
-        QCOMPARE(folder.filePaths({name, u"missing"_s, name}),
-                 QStringList({disk.path(found), disk.path(u"missing"_s), disk.path(found)}));
+        if (isOneSpelling) { // any spelling is that of the file, which the disk finds by itself
+            QCOMPARE(spelt(folder.filePath(name)), spelt(disk.path(found)));
+        } else {
+            QCOMPARE(folder.filePath(name), disk.path(found));
+            QCOMPARE(folder.filePaths({name, u"missing"_s, name}),
+                     QStringList({disk.path(found), disk.path(u"missing"_s), disk.path(found)}));
+        }
         QCOMPARE(folder.exists(name), exists);
     }
 
@@ -47,12 +51,13 @@ private slots:
         disk.put(u"pictures/PHOTO01.JPG"_s, "x");
         disk.put(u"Own.jpg"_s, "x");
         const DataFolder &folder = disk.folder();
-        QCOMPARE(folder.existingFile(u"Pictures"_s, u"photo01.jpg"_s), disk.path(u"pictures/PHOTO01.JPG"_s));
+        QCOMPARE(spelt(folder.existingFile(u"Pictures"_s, u"photo01.jpg"_s)),
+                 spelt(disk.path(u"pictures/PHOTO01.JPG"_s)));
         QCOMPARE(folder.existingFile(u"Pictures"_s, u"photo02.jpg"_s), QString());
         QCOMPARE(folder.existingFile(u"Pictures"_s, u"photo03.jpg"_s), QString());
         QCOMPARE(folder.existingFile(u"Pictures"_s, QString()), QString());
         QCOMPARE(folder.existingFile(u"Albums"_s, u"photo01.jpg"_s), QString());
-        QCOMPARE(folder.existingFile(QString(), u"own.JPG"_s), disk.path(u"Own.jpg"_s));
+        QCOMPARE(spelt(folder.existingFile(QString(), u"own.JPG"_s)), spelt(disk.path(u"Own.jpg"_s)));
     }
 
     void writabilityIsTried()

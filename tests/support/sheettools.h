@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPdfWriter>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTest>
 
 /// Looks at printed sheets: as pictures and through the PDF tools.
@@ -16,6 +17,12 @@ inline PageFont bodyFont(double points = 11)
     PageFont font;
     font.font.setPointSizeF(points);
     return font;
+}
+
+/// Whether poppler's tools are there; under another system's emulation they are not.
+inline bool hasPdfTools()
+{
+    return !QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty();
 }
 
 /// What a PDF tool says of the file.

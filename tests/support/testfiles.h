@@ -4,6 +4,7 @@
 #include "storage/datafolder.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -21,6 +22,12 @@ inline bool makeFile(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+/// The path in the spelling of the disk: not every disk tells spellings apart.
+inline QString spelt(const QString &path)
+{
+    return QFileInfo(path).canonicalFilePath();
 }
 
 /// `text`, blanks up to `width`.

@@ -32,7 +32,8 @@ private slots:
         QVERIFY(QDir().mkpath(household));
         open();
         QCOMPARE(shownFolder(), m_album); // used last
-        QCOMPARE(find<QComboBox>("Drive1")->currentText(), m_test->temporary.path());
+        QCOMPARE(find<QComboBox>("Drive1")->currentText(),
+                 QDir::toNativeSeparators(m_test->temporary.path()));
         m_test->setBytes(u"GColor4.Fil"_s, "C:\\QUILLERY\\Pictures\\\r\n");
         m_window->start(false);
         QCOMPARE(shownFolder(), household);
@@ -58,8 +59,9 @@ private slots:
         choose(u"anne.jpg"_s);
         QVERIFY(find<PictureFrame>("picturePreview")->hasPicture());
         click("pictureEnter");
-        QCOMPARE(entered, QList<QVariantList>{{path}});
-        QCOMPARE(m_test->bytes(u"GColor4.Fil"_s), (m_album + u"/\r\n"_s).toLatin1());
+        QCOMPARE(entered, QList<QVariantList>{{QDir::toNativeSeparators(path)}});
+        QCOMPARE(m_test->bytes(u"GColor4.Fil"_s),
+                 QDir::toNativeSeparators(m_album + u'/').toLatin1() + "\r\n");
 
         const QSignalSpy deleted(m_window, &PicturePanel::pictureDeleted);
         click("pictureDelete");
@@ -154,7 +156,7 @@ private:
 
     QListWidget *fileList() const { return find<QListWidget>("File1"); }
 
-    QString shownFolder() const { return labelText("picturePath"); }
+    QString shownFolder() const { return QDir::fromNativeSeparators(labelText("picturePath")); }
 
     QString m_album;
     QStringList m_drives;

@@ -63,6 +63,8 @@ private slots:
 
     void cutsPagesIntoSheets()
     {
+        if (!hasPdfTools())
+            QSKIP("needs poppler's tools");
         const auto [page, sheets] = row<Page, int>();
         QCOMPARE(PagePainter(page, {}, bodyFont()).sheetCount(), sheets);
         QVERIFY(output(u"pdfinfo"_s, {pdf(page)}).contains(u"Pages:           %1\n"_s.arg(sheets)));
@@ -92,6 +94,8 @@ private slots:
 
     void repeatsTitleAndHeadings()
     {
+        if (!hasPdfTools())
+            QSKIP("needs poppler's tools");
         const QStringList sheets = pdfSheets(pdf(numbered(60)));
         QCOMPARE(sheets.size(), 2);
         for (int i = 0; i < sheets.size(); ++i) {
@@ -105,6 +109,8 @@ private slots:
 
     void titlesGoOnWithTheirWords()
     {
+        if (!hasPdfTools())
+            QSKIP("needs poppler's tools");
         Page page = numbered(60).continueTitle(u" (Continued)"_s);
         const PagePainter painter(page, {}, bodyFont());
         QVERIFY(painter.text(0).startsWith(u"\nFamily List\tAs of"_s));
@@ -217,6 +223,8 @@ private slots:
 
     void givesPdfsTheirPaper()
     {
+        if (!hasPdfTools())
+            QSKIP("needs poppler's tools");
         const auto [paper, orientation, size] = row<QSizeF, PageSetup::Orientation, QString>();
         const PageSetup setup{paper, orientation};
         const QString info = output(u"pdfinfo"_s, {pdf(numbered(3), setup)});
@@ -229,6 +237,8 @@ private slots:
 
     void pdfsAreReadInOrder()
     {
+        if (!hasPdfTools())
+            QSKIP("needs poppler's tools");
         Page page(u"Information For Müller-Lüdenscheidt, Zoë"_s);
         page.line(u"Date of Birth: Nov-24-1978"_s, TextRole::Strong).line(u"Straße 12, Orléans"_s);
         page.line(u"Señor Núñez – café “Bœuf” €"_s, TextRole::Small).blank(u"Last Name:"_s);
@@ -248,6 +258,8 @@ private slots:
 
     void printersBreakAsImagesDo()
     {
+        if (!hasPdfTools())
+            QSKIP("needs poppler's tools");
         const Page page =
             numbered(100, u"A name that is long enough to be broken over two or more lines of its column"_s);
         const PagePainter painter(page, {}, bodyFont());

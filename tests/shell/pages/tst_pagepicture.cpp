@@ -35,6 +35,8 @@ private slots:
 
     void putsPicturesToTheHundredthOfAnInch()
     {
+        if (!hasPdfTools())
+            QSKIP("needs poppler's tools");
         const auto [size, place, expected] = row<QSize, QRectF, QRectF>();
         constexpr double dotsPerInch = 200;
         const QString path = makePicture(m_files->path(u"picture.png"_s), size, red);
