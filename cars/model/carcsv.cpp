@@ -66,6 +66,11 @@ QByteArray file(const QList<Row> &rows, const std::array<QString Row::*, count> 
     return CsvText::file(text);
 }
 
+bool hasDigit(const QStringList &cells)
+{
+    return std::ranges::any_of(cells.join(QString()), [](QChar character) { return character.isDigit(); });
+}
+
 QList<int> namedBy(const QStringList &heading, CarPart part)
 {
     QList<int> places(qsizetype(columnCount(part)), -1);
@@ -108,6 +113,9 @@ CarCsv::Columns CarCsv::Columns::find(const QList<QStringList> &lines, CarPart p
         if (columns.isComplete() && std::ranges::count(columns.places, -1) + 2 <= columns.places.size())
             return columns;
     }
+    // Names in another language are names all the same: somebody will say what they mean.
+    if (lines.size() > 1 && !hasDigit(lines[0]) && hasDigit(lines[1]))
+        return {namedBy(lines[0], part), 0};
     Columns columns;
     const auto count = qsizetype(columnCount(part));
     const bool fits = !lines.isEmpty() && lines.first().size() == count;

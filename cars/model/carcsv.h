@@ -24,7 +24,8 @@ struct Columns {
     QList<int> places;
     int headingLine = -1; ///< index of the line that names them; -1: none does
 
-    /// Found by a heading among `lines`; without one by as many columns as the grid of `part` has.
+    /// Found by a heading among `lines`, or a first one without a digit; without one by as many columns as
+    /// the grid of `part` has.
     static Columns find(const QList<QStringList> &lines, CarPart part);
 
     /// Whether what a row cannot do without was found: its date.

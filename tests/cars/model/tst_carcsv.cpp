@@ -156,6 +156,15 @@ private slots:
         QCOMPARE(import.result().repairs.last(), (HistoryRow{{}, u"01/02/2026"_s, u"Tires"_s, {}}));
     }
 
+    void knowsANameThatItCannotRead()
+    {
+        const CarCsvImport import =
+            importOf("Tag;Arbeit;Betrag\n02.01.2026;Reifen;12,50\n", CarPart::Repairs);
+        QCOMPARE(import.fileColumns(), QStringList({u"Tag"_s, u"Arbeit"_s, u"Betrag"_s}));
+        QCOMPARE(import.notUsed(), import.fileColumns());
+        QCOMPARE(import.lines().size(), 1);
+    }
+
     void worksOutWhatAFillUpLeavesOut()
     {
         const FuelLog fuel = importOf("Date,Reading,Gallons,Price\n2026-11-13,84700,8.1,29.9\n"

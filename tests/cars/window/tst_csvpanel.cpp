@@ -77,6 +77,7 @@ private slots:
     /// The sheet's reading follows what comes in, and what goes again.
     void movesThePresentReading()
     {
+        trigger("mVInfo");
         const auto present = [this] { return find<QLineEdit>("Text1_22")->text(); };
         bringIn("mVFuel", "Date,Reading,Gallons\n2026-11-05,84400,9\n2026-11-13,84700,10\n");
         click("carImportTake");
