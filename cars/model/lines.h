@@ -75,7 +75,7 @@ inline QString inThousands(double number)
 
 inline QString noNumber(const QString &typed)
 {
-    return u"\"%1\" is no number; nothing was changed"_s.arg(typed);
+    return u"\"%1\" cannot be read as a number; nothing was changed"_s.arg(typed);
 }
 
 /// Of a purchase or an expiration, which is kept as it is.

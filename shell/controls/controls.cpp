@@ -157,6 +157,7 @@ FieldBox::FieldBox(QWidget *parent)
     , m_validator(new Validator(this))
 {
     setValidator(m_validator);
+    connect(this, &QLineEdit::textEdited, this, [this] { m_isUnclicked = false; });
     connect(this, &QLineEdit::inputRejected, this, [this] {
         const QString foreign = m_validator->takeForeign();
         emit refused(foreign.isEmpty() ? ShellMessages::fieldIsFull(m_limit)
@@ -193,7 +194,7 @@ void FieldBox::focusInEvent(QFocusEvent *event)
 
 void FieldBox::mousePressEvent(QMouseEvent *event)
 {
-    m_isFirstClick = m_selectsOnClick && std::exchange(m_isUnclicked, false) && !isModified();
+    m_isFirstClick = std::exchange(m_isUnclicked, false) && m_selectsOnClick;
     QLineEdit::mousePressEvent(event);
 }
 

@@ -65,7 +65,7 @@ private:
     Validator *m_validator;
     int m_limit = 0;
     bool m_selectsOnClick = false;
-    bool m_isUnclicked = true; ///< since it got the focus
+    bool m_isUnclicked = true; ///< and nothing typed, since it got the focus
     bool m_isFirstClick = false;
 };
 
