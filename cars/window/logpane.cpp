@@ -3,6 +3,7 @@
 
 #include "cars/model/carrows.h"
 #include "cars/model/historylines.h"
+#include "cars/model/lines.h"
 #include "cars/model/messages.h"
 #include "cars/window/entrymodel.h"
 #include "cars/window/logmodel.h"
@@ -10,6 +11,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/datepicker.h"
 #include "shell/controls/listrowdelegate.h"
+#include "shell/core/framelines.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/program/program.h"
 
@@ -198,6 +200,8 @@ QString LogPane::removeChosen(Removing how)
         how == Removing::Typed || car.isNew() || car.savePart(m_model->part(), removal.wanted);
     if (isTaken)
         car.change(removal.title, removal.wanted);
+    else
+        emit said(FrameLines::refused(m_desk.program.folder, CarLines::notDeleted()));
     m_list->setFocus();
     return isTaken ? removal.title : QString();
 }

@@ -8,6 +8,7 @@
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -22,15 +23,20 @@ constexpr int gap = 8;
 /// At the window's foot, where it would cover the status bar.
 constexpr int foot = 32;
 
+/// What stands beside a box: little, or the cells of its row, which are typed next.
+enum class Neighbours { Boxes, Cells };
+
 /// Where a calendar of `size` stands within `room` without covering `box`: at its right, its left, below or
-/// above, whichever first has room for it; else where most of it is seen, in the room that there is.
-QRect placeBeside(QRect box, QRect room, QSize size, QSize least)
+/// above, of a cell first below or above, whichever first has room for it; else where most of it is seen, in
+/// the room that there is.
+QRect placeBeside(QRect box, QRect room, QSize size, QSize least, Neighbours neighbours)
 {
     const QRect right(QPoint(box.right() + 1 + gap, room.top()), room.bottomRight());
     const QRect left(room.topLeft(), QPoint(box.left() - 1 - gap, room.bottom()));
     const QRect below(QPoint(room.left(), box.bottom() + 1 + gap / 2), room.bottomRight());
     const QRect above(room.topLeft(), QPoint(room.right(), box.top() - 1 - gap / 2));
-    const std::array sides{right, left, below, above};
+    const std::array sides = neighbours == Neighbours::Cells ? std::array{below, above, right, left}
+                                                             : std::array{right, left, below, above};
     const auto seenIn = [](const QRect &side, QSize wanted) {
         const QSize seen = wanted.boundedTo(side.size()).expandedTo({0, 0});
         return seen.width() * seen.height();
@@ -156,7 +162,10 @@ void DatePicker::reposition()
         return;
     const QRect boxPlace(m_box->mapTo(parentWidget(), QPoint(0, 0)), m_box->size());
     const QRect room = parentWidget()->rect().adjusted(gap, gap, -gap, -gap - foot);
-    setGeometry(placeBeside(boxPlace, room, sizeHint(), minimumSizeHint()));
+    const QWidget *around = m_box->parentWidget() ? m_box->parentWidget()->parentWidget() : nullptr;
+    const bool isCell = qobject_cast<const QAbstractItemView *>(around);
+    setGeometry(placeBeside(boxPlace, room, sizeHint(), minimumSizeHint(),
+                            isCell ? Neighbours::Cells : Neighbours::Boxes));
 }
 
 void DatePicker::choose(QDate day)
