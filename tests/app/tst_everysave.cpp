@@ -359,6 +359,62 @@ const Save broughtBackCar{[](Desk &desk) {
 const Save otherUnit{[](Desk &desk) { desk.open(Function::CarLog); },
                      [](Desk &desk) { desk.trigger("mOProgKilo"); }};
 
+const Save savedPerson{[](Desk &desk) {
+                           desk.open(Function::WeightTracker);
+                           desk.trigger("mVPlan");
+                           desk.type("Text1_3", u"141"_s);
+                       },
+                       [](Desk &desk) { desk.trigger("mOSave"); }};
+
+const Save renamedPerson{[](Desk &desk) {
+                             desk.open(Function::WeightTracker);
+                             desk.trigger("mVPlan");
+                             desk.type("Text1_0", u"Karin Zorn"_s);
+                         },
+                         [](Desk &desk) { desk.trigger("mOSave"); }};
+
+/// Where it was refused it is in the table, and can be saved.
+const Save weighIn{[](Desk &desk) {
+                       desk.open(Function::WeightTracker);
+                       desk.type("weighInWeight", u"151.2"_s);
+                   },
+                   [](Desk &desk) {
+                       auto *weight = desk.find<QLineEdit>("weighInWeight");
+                       if (weight->text().isEmpty())
+                           desk.trigger("mOSave");
+                       else
+                           QTest::keyClick(weight, Qt::Key_Return);
+                   }};
+
+const Save toldWeight{[](Desk &desk) { desk.open(Function::WeightTracker); },
+                      [](Desk &desk) { desk.trigger("mOTold"); }};
+
+const Save newPerson{[](Desk &desk) {
+                         desk.open(Function::WeightTracker);
+                         desk.trigger("mONew");
+                         desk.type("Text1_0", u"Zorn"_s);
+                     },
+                     [](Desk &desk) { desk.trigger("mOSaveNew"); }};
+
+const Save deletedPerson{[](Desk &desk) { desk.open(Function::WeightTracker); },
+                         [](Desk &desk) {
+                             desk.answer(Answer::Yes);
+                             desk.trigger("mODel");
+                         }};
+
+const Save undonePerson{[](Desk &desk) {
+                            deletedPerson.prepare(desk);
+                            deletedPerson.press(desk);
+                        },
+                        [](Desk &desk) { desk.trigger("mEUndo"); }};
+
+const Save broughtBackPerson{[](Desk &desk) {
+                                 deletedPerson.prepare(desk);
+                                 deletedPerson.press(desk);
+                                 desk.trigger("mEBack");
+                             },
+                             [](Desk &desk) { desk.click("bringBack"); }};
+
 const Save marks{[](Desk &desk) {
                      desk.openPasswordControl();
                      desk.find<QCheckBox>("Check1_2")->click();
@@ -439,6 +495,14 @@ private slots:
             {"the deletion of a car undone", undoneCar},
             {"a car brought back", broughtBackCar},
             {"another unit for all cars", otherUnit},
+            {"a person", savedPerson},
+            {"another name of a person", renamedPerson},
+            {"a weigh-in", weighIn},
+            {"a weight that the main menu may tell", toldWeight},
+            {"a new person", newPerson},
+            {"a person deleted", deletedPerson},
+            {"the deletion of a person undone", undonePerson},
+            {"a person brought back", broughtBackPerson},
             {"marks of areas", marks},
             {"no password", noPassword},
             {"top toolbar", topToolbar},
