@@ -17,9 +17,11 @@
 #include "weight/window/personchanges.h"
 #include "weight/window/personpane.h"
 #include "weight/window/personpictures.h"
+#include "weight/window/personprint.h"
 #include "weight/window/personviews.h"
 #include "weight/window/planview.h"
 #include "weight/window/toldchoice.h"
+#include "weight/window/weighinfiles.h"
 #include "weight/window/weighinsview.h"
 #include "weight/window/windowlines.h"
 
@@ -55,6 +57,8 @@ WeightTracker::WeightTracker(Program &program, QWidget *parent)
                                    [this] { return mayReplace(leaveQuestion()); }},
                                   this))
     , m_pictures(new PersonPictures(desk(), *m_views, this))
+    , m_print(new PersonPrint(desk(), *m_views, this))
+    , m_files(new WeighInFiles(desk(), *m_views, this))
     , m_emptyPage(new EmptyPage("weight"_L1, u"Nobody is in the list yet"_s,
                                 u"A name is enough to begin; the first weight is typed then."_s, this))
 {
@@ -96,6 +100,7 @@ void WeightTracker::makeCommands()
     m_changes->addEditCommands(edit);
     edit->addSeparator();
     makeRowCommands(edit);
+    m_print->addCommand(options);
     options->addAction(standard(Standard::PanelColor));
     options->addSeparator();
     m_commands.create = m_changes->addCreate(options);
@@ -108,7 +113,10 @@ void WeightTracker::makeCommands()
     m_commands.save = m_changes->addSave(options);
     options->addSeparator();
     options->addAction(standard(Standard::Exit));
-    addUtilitiesMenu();
+    QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
+    utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
+    utilities->addSeparator();
+    m_files->addCommands(utilities);
     addHelpEntry();
     commands().separateTools();
     for (const Standard tool : {Standard::PanelColor, Standard::Backup})
@@ -188,11 +196,15 @@ void WeightTracker::connectParts()
     connect(m_dateCheck, &DateCheck::said, &activity(), &ActivityBar::say);
     connect(m_changes, &PersonChanges::said, &activity(), &ActivityBar::say);
     connect(m_pictures, &PersonPictures::said, &activity(), &ActivityBar::say);
+    connect(m_print, &PersonPrint::said, &activity(), &ActivityBar::say);
+    connect(m_files, &WeighInFiles::said, &activity(), &ActivityBar::say);
     connect(m_views, &PersonViews::said, &activity(), &ActivityBar::say);
-    connect(m_views, &PersonViews::done, this, [this](const QString &line) {
+    const auto done = [this](const QString &line) {
         activity().say(line);
         undoStack().offer();
-    });
+    };
+    connect(m_views, &PersonViews::done, this, done);
+    connect(m_files, &WeighInFiles::done, this, done);
 }
 
 bool WeightTracker::isModified() const

@@ -10,7 +10,9 @@ class OpenPerson;
 class PersonChanges;
 class PersonPane;
 class PersonPictures;
+class PersonPrint;
 class PersonViews;
+class WeighInFiles;
 class WorkViews;
 struct Place;
 
@@ -55,6 +57,8 @@ private:
     PersonViews *m_views;
     PersonChanges *m_changes;
     PersonPictures *m_pictures;
+    PersonPrint *m_print;
+    WeighInFiles *m_files;
     EmptyPage *m_emptyPage;
 
     /// Commands that have buttons, too.

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "weight/model/weightgraph.h"
+#include "weight/window/weightdesk.h"
+
+#include <QObject>
+
+#include <functional>
+
+class PersonViews;
+class QAction;
+class QMenu;
+class QWidget;
+class WeightPrintPanel;
+
+/// Leads to the print options of the open person, and to the printout behind them.
+class PersonPrint final : public QObject
+{
+    Q_OBJECT
+public:
+    PersonPrint(const WeightDesk &desk, const PersonViews &views, QObject *parent);
+
+    /// How much of its history the graph on paper has; the last 50 weigh-ins unless told otherwise.
+    void setExtent(std::function<WeightGraph::Extent()> extent) { m_extent = std::move(extent); }
+
+    /// Puts the command into `menu` and on the toolbar.
+    void addCommand(QMenu *menu);
+
+signals:
+    /// A quiet line for the status bar.
+    void said(const QString &line);
+
+private:
+    void open();
+
+    WeightDesk m_desk;
+    const PersonViews &m_views;
+    std::function<WeightGraph::Extent()> m_extent;
+    WeightPrintPanel *m_panel = nullptr; ///< made when it is first opened
+    QWidget *m_from = nullptr;           ///< what it stands over
+};
