@@ -43,7 +43,7 @@ public:
     void addSummary(Page &page) const
     {
         PageItem::Columns columns;
-        columns.weights = {1.35, 2, 1.35, 2};
+        columns.weights = {1.1, 1.9, 1.6, 2.1};
         columns.lines = lines();
         page.table(columns);
         const QList<QStringList> figures = summary();
@@ -142,13 +142,13 @@ private:
                                           : u"-"_s;
         QString week = weight(m_figures.weekAverage);
         if (m_figures.weekBefore)
-            week += u" (week before: %1)"_s.arg(weight(m_figures.weekBefore));
+            week += u" (7 days before: %1)"_s.arg(weight(m_figures.weekBefore));
         return {{u"Beginning:"_s, beginning},
                 {u"Now:"_s, now},
                 {u"Goal:"_s, m_sheet.field(GoalWeight).trimmed()},
                 {u"To the goal:"_s, WeightWords::toGoal(m_figures)},
                 {u"Total change:"_s, difference(m_figures.total)},
-                {u"Average of the last week:"_s, week},
+                {u"Average of 7 days:"_s, week},
                 {u"Change on average:"_s, aWeek(m_figures.perWeek)},
                 {u"In the last four weeks:"_s, aWeek(m_figures.perWeekLately)}};
     }
