@@ -18,6 +18,7 @@ void budget(const Camera &camera);
 void cars(const Camera &camera);
 void carHistories(const Camera &camera);
 void weight(const Camera &camera);
+void weightPages(const Camera &camera);
 void charts(const Camera &camera);
 
 } // namespace Albums

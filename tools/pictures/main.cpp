@@ -37,6 +37,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"cars", Albums::cars},
                             Album{"car-histories", Albums::carHistories},
                             Album{"weight", Albums::weight},
+                            Album{"weight-pages", Albums::weightPages},
                             Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;
