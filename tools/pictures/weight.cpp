@@ -75,6 +75,9 @@ void Albums::weight(const Camera &camera)
     session.take("weight-plan");
     session.trigger("mVPhotos");
     session.take("weight-photos");
+    session.click("thenAndNow");
+    session.take("weight-then-and-now");
+    session.key(Qt::Key_Escape);
     session.click("photo2");
     session.take("weight-picture");
     session.key(Qt::Key_Escape);

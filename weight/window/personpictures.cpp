@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "weight/window/personpictures.h"
 
+#include "shell/controls/buttonrow.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/picturepanel.h"
 #include "shell/frame/picturetaker.h"
@@ -8,6 +9,7 @@
 #include "shell/program/program.h"
 #include "weight/window/openperson.h"
 #include "weight/window/personviews.h"
+#include "weight/window/thenandnow.h"
 #include "weight/window/windowlines.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,8 +31,11 @@ PersonPictures::PersonPictures(const WeightDesk &desk, PersonViews &views, QObje
     , m_desk(desk)
     , m_views(views)
     , m_panel(new PicturePanel(desk.program, pictureUse(), PicturePanel::systemDrives, &desk.views))
+    , m_comparison(new ThenAndNow(desk.program, &desk.views))
 {
     desk.views.addPanel(m_panel);
+    desk.views.addPanel(m_comparison);
+    connect(m_comparison, &TaskPanel::left, this, [this] { m_views.open(PersonViews::Photos); });
     const auto unless = [this] { return m_desk.person.whyLocked(); };
     Commands &all = m_desk.commands;
     for (const auto photo : {PhotosView::Beginning, PhotosView::Current}) {
@@ -62,4 +67,32 @@ void PersonPictures::enter(const QString &path)
 {
     m_views.open(PersonViews::Photos);
     m_views.photos().setPath(m_photo, path);
+}
+
+void PersonPictures::addCommand(QMenu *view)
+{
+    Commands &all = m_desk.commands;
+    QAction *command = all.add(
+        view, u"mVCompare"_s, u"&Then and Now"_s, [this] { compare(); },
+        [this] { return whyNoComparison(); });
+    ButtonRow &foot = m_views.photos().foot();
+    foot.addLeft(all.button(command, u"thenAndNow"_s, command->text(), &foot));
+}
+
+void PersonPictures::compare()
+{
+    m_views.finishEdit();
+    m_comparison->compare(m_desk.person.sheet());
+    m_desk.views.open(m_comparison);
+    m_comparison->setFocus();
+}
+
+QString PersonPictures::whyNoComparison() const
+{
+    const WeightSheet &sheet = m_desk.person.sheet();
+    if (!m_desk.person.isOpen())
+        return TrackerLines::noPersonYet();
+    const bool isEmpty =
+        sheet.beginningPicture.trimmed().isEmpty() && sheet.currentPicture.trimmed().isEmpty();
+    return isEmpty ? TrackerLines::noPhotoYet() : QString();
 }

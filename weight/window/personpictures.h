@@ -7,13 +7,18 @@
 
 class PersonViews;
 class PicturePanel;
+class QMenu;
+class ThenAndNow;
 
-/// Chooses the photos of the open person in the picture panel.
+/// Chooses the photos of the open person in the picture panel, and shows both over the whole work.
 class PersonPictures final : public QObject
 {
     Q_OBJECT
 public:
     PersonPictures(const WeightDesk &desk, PersonViews &views, QObject *parent);
+
+    /// "Then and Now".
+    void addCommand(QMenu *view);
 
 signals:
     void said(const QString &line);
@@ -21,9 +26,12 @@ signals:
 private:
     void choose(PhotosView::Photo photo);
     void enter(const QString &path);
+    void compare();
+    QString whyNoComparison() const;
 
     WeightDesk m_desk;
     PersonViews &m_views;
     PicturePanel *m_panel;
+    ThenAndNow *m_comparison;
     PhotosView::Photo m_photo = PhotosView::Beginning; ///< the one that is being chosen
 };

@@ -94,6 +94,7 @@ void WeightTracker::makeCommands()
     QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
     QMenu *view = addMenu(u"mV"_s, u"&View"_s);
     m_views->addCommands(view);
+    m_pictures->addCommand(view);
     view->addSeparator();
     commands().add(view, u"mVFile"_s, u"&View Existing File"_s, [this] { viewExisting(); });
     undoStack().addCommands(edit);

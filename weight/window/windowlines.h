@@ -238,6 +238,11 @@ inline QString notWhileCreating()
     return u"First save the new person, or leave it"_s;
 }
 
+inline QString noPhotoYet()
+{
+    return u"There is no photo of this person yet"_s;
+}
+
 inline QString noRowChosen()
 {
     return u"First choose a row of the table"_s;
