@@ -19,6 +19,7 @@ void cars(const Camera &camera);
 void carHistories(const Camera &camera);
 void weight(const Camera &camera);
 void weightPages(const Camera &camera);
+void weightGraph(const Camera &camera);
 void charts(const Camera &camera);
 
 } // namespace Albums

@@ -38,6 +38,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"car-histories", Albums::carHistories},
                             Album{"weight", Albums::weight},
                             Album{"weight-pages", Albums::weightPages},
+                            Album{"weight-graph", Albums::weightGraph},
                             Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;

@@ -6,6 +6,7 @@
 #include "shell/frame/viewmarks.h"
 #include "shell/frame/workviews.h"
 #include "weight/model/messages.h"
+#include "weight/window/graphview.h"
 #include "weight/window/openperson.h"
 #include "weight/window/photosview.h"
 #include "weight/window/planview.h"
@@ -29,6 +30,7 @@ const std::array<Face, PersonViews::count> &faces()
 {
     static const std::array<Face, PersonViews::count> faces{
         {{u"mVWeigh"_s, u"&Weigh-Ins"_s, u"Weigh-Ins"_s, "worksheet"_L1},
+         {u"mVGraph"_s, u"&Graph Display"_s, u"Graph"_s, "graph"_L1},
          {u"mVPlan"_s, u"&Exercise Plan and Information"_s, u"Plan"_s, "sheet-view"_L1},
          {u"mVPhotos"_s, u"&Beginning and Current Photos"_s, u"Photos"_s, "picture"_L1}}};
     return faces;
@@ -39,7 +41,7 @@ const std::array<Face, PersonViews::count> &faces()
 PersonViews::PersonViews(const WeightDesk &desk, QObject *parent)
     : QObject(parent)
     , m_desk(desk)
-    , m_views{new WeighInsView(desk), new PlanView(desk), new PhotosView(desk)}
+    , m_views{new WeighInsView(desk), new GraphView(desk), new PlanView(desk), new PhotosView(desk)}
 {
     m_desk.views.addHome(m_views[WeighIns]);
     for (PersonView *view : m_views) {
@@ -57,6 +59,11 @@ PersonViews::PersonViews(const WeightDesk &desk, QObject *parent)
 WeighInsView &PersonViews::weighIns() const
 {
     return static_cast<WeighInsView &>(*m_views[WeighIns]);
+}
+
+GraphView &PersonViews::graph() const
+{
+    return static_cast<GraphView &>(*m_views[Graph]);
 }
 
 PlanView &PersonViews::plan() const

@@ -7,6 +7,7 @@
 
 #include <array>
 
+class GraphView;
 class PersonView;
 class PhotosView;
 class PlanView;
@@ -19,13 +20,14 @@ class PersonViews final : public QObject
 {
     Q_OBJECT
 public:
-    static constexpr std::size_t count = 3;
-    enum Place : std::size_t { WeighIns, Plan, Photos };
+    static constexpr std::size_t count = 4;
+    enum Place : std::size_t { WeighIns, Graph, Plan, Photos };
 
     PersonViews(const WeightDesk &desk, QObject *parent);
 
     const std::array<PersonView *, count> &all() const { return m_views; }
     WeighInsView &weighIns() const;
+    GraphView &graph() const;
     PlanView &plan() const;
     PhotosView &photos() const;
     /// The one in front; null while something else is.
