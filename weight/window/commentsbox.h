@@ -21,6 +21,8 @@ public:
     bool isTouched() const { return toPlainText() != m_shown; }
     void setLocked(bool locked);
 
+    QSize sizeHint() const override { return minimumSize(); }
+
 signals:
     void edited();
     /// The focus went elsewhere.

@@ -60,7 +60,6 @@ QWidget *PhotosView::makePlace(Photo photo, DatePicker *picker)
     PictureFrame *frame = named(new PictureFrame(place), u"Image"_s + QString::number(photo + 1));
     frame->setWords(u"No Picture Currently Loaded"_s);
     frame->setAccessibleName(nameOf(photo));
-    rows->addWidget(frame, 1);
     auto *date = new DateBox(desk().dateCheck.reading(), picker, place);
     named(date, u"Text1_"_s + QString::number(dateField(photo)));
     date->setForm(WeightDates::longText);
@@ -70,6 +69,7 @@ QWidget *PhotosView::makePlace(Photo photo, DatePicker *picker)
     row->setSpacing(12);
     row->addLayout(labelled(u"Date the photo was taken:"_s, date), 1);
     rows->addLayout(row);
+    rows->addWidget(frame, 1);
     connect(date, &QLineEdit::textEdited, this, [this] { foot().setWords(FrameLines::unsavedChanges()); });
     connect(date, &FieldBox::refused, this, &PhotosView::said);
     connect(date, &QLineEdit::editingFinished, this, [this, photo] { take(photo); });

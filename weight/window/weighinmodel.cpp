@@ -43,16 +43,27 @@ WeighInModel::WeighInModel(OpenPerson &person, const DateCheck &dateCheck, QObje
 
 void WeighInModel::refresh()
 {
-    const WeightTable &rows = m_person.sheet().weighIns;
-    const bool isOther = rows.rowCount() != m_rows.rowCount() || m_name != m_person.name();
-    if (isOther)
+    if (m_name != m_person.name()) {
         beginResetModel();
-    m_rows = rows;
-    m_name = m_person.name();
-    if (isOther)
+        m_rows = m_person.sheet().weighIns;
+        m_name = m_person.name();
         endResetModel();
-    else if (rowCount() > 0)
-        emit dataChanged(index(0, 0), index(rowCount() - 1, columns - 1));
+        return;
+    }
+    // Wherever rows came or went: the others tell what they hold now, and the view stays where it is.
+    const int before = rowCount();
+    const int after = int(m_person.sheet().weighIns.rowCount());
+    if (after > before)
+        beginInsertRows({}, before, after - 1);
+    else if (after < before)
+        beginRemoveRows({}, after, before - 1);
+    m_rows = m_person.sheet().weighIns;
+    if (after > before)
+        endInsertRows();
+    else if (after < before)
+        endRemoveRows();
+    if (after > 0)
+        emit dataChanged(index(0, 0), index(after - 1, columns - 1));
 }
 
 QString WeighInModel::titleOf(int row) const
@@ -96,7 +107,8 @@ QVariant WeighInModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return text(index.row(), index.column());
     case Qt::TextAlignmentRole:
-        return headerData(index.column(), Qt::Horizontal, role);
+        return QVariant::fromValue(Qt::AlignVCenter |
+                                   (index.column() == Date ? Qt::AlignLeft : Qt::AlignRight));
     case GridCell::kindRole:
         return int(index.column() == Date ? GridCell::Kind::Date : GridCell::Kind::Number);
     case GridCell::quietRole:
@@ -112,9 +124,10 @@ QVariant WeighInModel::headerData(int section, Qt::Orientation orientation, int 
         return {};
     if (role == Qt::DisplayRole)
         return heading(section);
-    return role == Qt::TextAlignmentRole
-               ? QVariant::fromValue(Qt::AlignVCenter | (section == Date ? Qt::AlignLeft : Qt::AlignRight))
-               : QVariant();
+    if (role != Qt::TextAlignmentRole)
+        return {};
+    const Qt::Alignment side = section == Date ? Qt::AlignLeft : Qt::AlignRight;
+    return QVariant::fromValue(Qt::Alignment::fromInt(int(side | Qt::AlignVCenter) | Qt::TextWordWrap));
 }
 
 Qt::ItemFlags WeighInModel::flags(const QModelIndex &index) const

@@ -27,7 +27,6 @@
 #include "weight/window/windowlines.h"
 
 #include <QHeaderView>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -77,6 +76,11 @@ QWidget *WeighInsView::makeTable()
     m_table->setAccessibleName(u"Weigh-ins"_s);
     QHeaderView *heading = m_table->horizontalHeader();
     heading->setSectionResizeMode(QHeaderView::Stretch);
+    // The longer headings have room in two lines.
+    for (const auto &[column, width] : {std::pair(WeighInModel::Date, 112), {WeighInModel::Weight, 92}}) {
+        heading->setSectionResizeMode(column, QHeaderView::Fixed);
+        heading->resizeSection(column, TypeScale::wide(width));
+    }
     heading->setSectionsClickable(true);
     heading->setFixedHeight(2 * heading->fontMetrics().lineSpacing() + 10);
     auto *content = new QWidget(this);
@@ -156,8 +160,13 @@ QWidget &WeighInsView::table() const
 /// The way at a glance; the graph with all that can be done to it is a view of its own.
 void WeighInsView::resizeEvent(QResizeEvent *event)
 {
-    m_chart->setVisible(width() >= TypeScale::wide(chartFrom));
+    placeChart();
     PersonView::resizeEvent(event);
+}
+
+void WeighInsView::placeChart()
+{
+    m_chart->setVisible(width() >= TypeScale::wide(chartFrom) && !m_chart->chart().isEmpty());
 }
 
 /// A weight that was typed and not entered is not lost, where it is one.
@@ -176,9 +185,7 @@ void WeighInsView::refresh()
 {
     const bool isOther = m_shown != person().name();
     m_shown = person().name();
-    const int scrolled = m_table->verticalScrollBar()->value();
     m_model->refresh();
-    m_table->verticalScrollBar()->setValue(scrolled);
     m_entry->refresh();
     showFigures();
     titleLine().setTitle(person().isNew() ? TrackerLines::newPerson() : person().name());
@@ -211,17 +218,23 @@ void WeighInsView::beginDay()
 void WeighInsView::showFigures()
 {
     const WeightSheet &sheet = person().sheet();
-    m_chart->setChart(WeightGraph::of(sheet).chart());
+    LineChart way = WeightGraph::of(sheet).chart();
+    way.title = TrackerLines::wayTitle(sheet.weighIns.rowCount());
+    way.across.name.clear(); // they stand below one another in the table
+    m_chart->setChart(way);
+    placeChart();
     m_figures->setFigures(Standing::figures(sheet, desk().program.clock.today()));
     m_reached->setVisible(WeightColumns::isGoalReached(sheet));
 }
 
 void WeighInsView::showRow(int row)
 {
-    const QModelIndex index = m_model->index(row < 0 ? m_model->rowCount() - 1 : row, WeighInModel::Weight);
-    m_table->scrollTo(index);
-    if (row >= 0)
-        m_table->setCurrentIndex(index);
+    if (row < 0) {
+        m_table->scrollToBottom();
+        return;
+    }
+    m_table->setCurrentIndex(m_model->index(row, WeighInModel::Weight));
+    m_table->scrollTo(m_table->currentIndex());
 }
 
 /// Two keys are enough: the weight, and Enter.
@@ -296,9 +309,6 @@ void WeighInsView::deleteRow()
     WeightSheet wanted = person().sheet();
     wanted.weighIns.remove(row);
     person().change(line, wanted);
-    if (m_model->rowCount() > 0)
-        m_table->setCurrentIndex(
-            m_model->index(std::min(row, m_model->rowCount() - 1), WeighInModel::Weight));
     if (person().isNew() || !person().save())
         return;
     emit done(line);

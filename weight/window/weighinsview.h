@@ -56,6 +56,7 @@ private:
     void enter();
     void showToday();
     void showFigures();
+    void placeChart();
     bool append(const WeighIn &weighIn);
     bool saveUnlessNew();
     void takeUncounted();

@@ -140,6 +140,13 @@ inline QString uncountedTaken()
     return u"Taken in: weigh-ins that the file did not count"_s;
 }
 
+/// Of the chart beside the table.
+inline QString wayTitle(qsizetype weighIns)
+{
+    constexpr qsizetype shown = 50;
+    return weighIns > shown ? u"The last 50 weigh-ins"_s : u"The way up to now"_s;
+}
+
 // The sheet
 
 inline QString commentsFull()
