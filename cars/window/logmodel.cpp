@@ -158,8 +158,7 @@ void LogModel::setCell(CarRecord &car, qsizetype row, int column, const QString 
 {
     const QString reading = m_part == CarPart::Fuel ? car.fuel[row].current : QString();
     CarRows::setText(car, m_part, row, column, text);
-    const bool isWorkedOut =
-        m_part == CarPart::Fuel && column >= previousColumn && column <= economyColumn;
+    const bool isWorkedOut = m_part == CarPart::Fuel && column >= previousColumn && column <= economyColumn;
     if (!isWorkedOut)
         return;
     car.fuel[row] = FuelFigures::completed(car.fuel[row], car.fuel.first(row));
