@@ -40,7 +40,9 @@ FigureStrip::Labels FigureStrip::make()
     row->addWidget(labels.sign);
     row->addWidget(labels.value, 1);
     rows->addLayout(row);
-    m_row->addWidget(place, 1);
+    // Without a factor: no caption is cut while another has room to spare.
+    place->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_row->addWidget(place);
     return labels;
 }
 

@@ -4,7 +4,6 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
-#include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "weight/model/weightdates.h"
 #include "weight/model/weightnumbers.h"
@@ -36,15 +35,13 @@ WeighInEntry::WeighInEntry(const WeightDesk &desk, DatePicker *picker, QWidget *
     , m_desk(desk)
     , m_date(named(new DateBox(desk.dateCheck.reading(), picker, this), u"weighInDate"_s))
     , m_weight(named(new FieldBox(this), u"weighInWeight"_s))
-    , m_fact(named(new ElidedLabel(this), u"weighInFact"_s))
+    , m_fact(named(makeQuietLabel({}, this), u"weighInFact"_s))
     , m_row(new QHBoxLayout(this))
 {
     m_date->setForm(WeightDates::tableText);
     m_date->setFixedWidth(boxWidth(u"00/00/0000"_s, 128));
     m_weight->setFixedWidth(boxWidth(u"0000.0"_s, 104));
     m_weight->setByteLimit(longestWeight);
-    m_fact->setFont(TypeScale::label());
-    m_fact->setForegroundRole(ThemeRole::quiet);
     m_row->setContentsMargins({});
     m_row->setSpacing(12);
     m_row->addLayout(labelled(u"Date of Weigh In:"_s, m_date));
@@ -133,7 +130,7 @@ void WeighInEntry::showFact()
         facts << TrackerLines::fromLast(WeightNumbers::difference(double(*weight - *last)));
     if (const auto beginning = sheet.beginningWeight())
         facts << TrackerLines::fromBeginning(WeightNumbers::difference(double(*weight - *beginning)));
-    m_fact->setText(facts.join(u", "_s));
+    m_fact->setText(facts.join(u'\n'));
 }
 
 /// Enter in either box adds the weigh-in; Esc gives up what was typed before it leaves the view.

@@ -82,7 +82,7 @@ QWidget *WeighInsView::makeTable()
         heading->resizeSection(column, TypeScale::wide(width));
     }
     heading->setSectionsClickable(true);
-    heading->setFixedHeight(2 * heading->fontMetrics().lineSpacing() + 10);
+    heading->setFixedHeight(2 * QFontMetrics(TypeScale::body()).lineSpacing() + 12);
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
@@ -231,6 +231,8 @@ void WeighInsView::showRow(int row)
 {
     if (row < 0) {
         m_table->scrollToBottom();
+        // And once more when what stands around it has its place.
+        QMetaObject::invokeMethod(m_table, &CellGrid::scrollToBottom, Qt::QueuedConnection);
         return;
     }
     m_table->setCurrentIndex(m_model->index(row, WeighInModel::Weight));
