@@ -16,11 +16,15 @@ bool PresentReading::follow(CarRecord &car, const QString &reading)
     return true;
 }
 
-bool PresentReading::goBack(CarRecord &car, const QString &reading, const QString &saved)
+bool PresentReading::goBack(CarRecord &car, const CarRecord &before, const QString &saved)
 {
     QString &present = car.sheet.field(VehicleSheet::Odometer);
-    const std::optional<double> mistaken = CarNumbers::number(reading);
-    if (!mistaken || CarNumbers::number(present) != mistaken)
+    const std::optional<double> mistaken = CarNumbers::number(present);
+    const auto isOfFillUp = [&mistaken](const FuelRow &row) {
+        return CarNumbers::number(row.current) == mistaken;
+    };
+    if (!mistaken || present != before.sheet.field(VehicleSheet::Odometer) ||
+        std::ranges::none_of(before.fuel, isOfFillUp))
         return false;
     double highest = 0;
     const auto see = [&highest](const QString &text) {
@@ -36,7 +40,8 @@ bool PresentReading::goBack(CarRecord &car, const QString &reading, const QStrin
     }
     for (const ScheduledAction &action : car.sheet.actions)
         see(action.odometer);
-    if (const double before = CarNumbers::number(saved).value_or(0); before >= highest && before < *mistaken)
+    const double inFile = CarNumbers::number(saved).value_or(0);
+    if (inFile >= highest && inFile < *mistaken)
         present = saved;
     else if (highest > 0 && highest != *mistaken)
         present = CarNumbers::text(highest);

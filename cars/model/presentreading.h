@@ -10,8 +10,8 @@ namespace PresentReading {
 /// it stays.
 bool follow(CarRecord &car, const QString &reading);
 
-/// A fill-up of `car` read `reading` and does so no more. Where the sheet's reading came from there, it goes
-/// back to `saved`, what the file has, or to the highest that is known. False where it stays.
-bool goBack(CarRecord &car, const QString &reading, const QString &saved);
+/// Where the sheet's reading came from a fill-up that `before` has and `car` has no more, it goes back to
+/// `saved`, what the file has, or to the highest that is known. False where it stays.
+bool goBack(CarRecord &car, const CarRecord &before, const QString &saved);
 
 } // namespace PresentReading

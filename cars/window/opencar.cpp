@@ -2,6 +2,7 @@
 #include "cars/window/opencar.h"
 
 #include "cars/model/lines.h"
+#include "cars/model/presentreading.h"
 #include "shell/core/framelines.h"
 #include "shell/program/program.h"
 
@@ -96,7 +97,10 @@ void OpenCar::change(const QString &title, const CarRecord &wanted)
     if (wanted == *m_record)
         return;
     const Record before = m_record;
-    const Record after = std::make_shared<CarRecord>(wanted);
+    const auto after = std::make_shared<CarRecord>(wanted);
+    // What no fill-up reads any more, the car does not read either.
+    if (wanted.fuel != m_record->fuel && whyLocked(CarPart::Sheet).isEmpty())
+        PresentReading::goBack(*after, *m_record, m_saved->sheet.field(VehicleSheet::Odometer));
     setRecord(after);
     emit edited({title, [=, this] { return exchange(after, before); },
                  [=, this] { return exchange(before, after); }, UndoStep::Typed});

@@ -30,8 +30,6 @@ public:
     bool isNew() const { return m_isNew; }
     /// What it is called in the list.
     QString savedName() const { return m_saved->vehicle.name; }
-    /// Its odometer reading as the file has it.
-    QString savedReading() const { return m_saved->sheet.field(VehicleSheet::Odometer); }
     /// As it is now. A copy of it shares what is not changed.
     const CarRecord &record() const { return *m_record; }
     DistanceUnit unit() const { return m_record->sheet.unit; }

@@ -14,7 +14,7 @@ private slots:
         rows<QString, QString, QString, QString>({
             {"to what the file has", u"84620"_s, u"84620"_s, u"84,210"_s, u"84,210"_s},
             {"to the highest of the histories", u"84620"_s, u"84620"_s, u"84620"_s, u"84000"_s},
-            {"to the highest, beyond what the file has", u"84620"_s, u"84,620"_s, u"83000"_s, u"84000"_s},
+            {"to the highest, beyond what the file has", u"84,620"_s, u"84620"_s, u"83000"_s, u"84000"_s},
             {"not where it was another", u"84700"_s, u"84620"_s, u"84210"_s, u"84700"_s},
             {"not where something else has as much", u"84000"_s, u"84000"_s, u"83000"_s, u"84000"_s},
             {"not from nothing", u"84620"_s, {}, u"84210"_s, u"84620"_s},
@@ -28,8 +28,13 @@ private slots:
         car.sheet.field(VehicleSheet::Odometer) = present;
         car.fuel = {{{}, u"82595"_s, u"82820"_s, {}, {}, {}, {}}};
         car.maintenance = {{u"84,000"_s, {}, u"Oil"_s, {}}};
-        QCOMPARE(PresentReading::goBack(car, mistaken, saved), present != wanted);
+        CarRecord before = car;
+        before.fuel.append({{}, {}, mistaken, {}, {}, {}, {}});
+        QCOMPARE(PresentReading::goBack(car, before, saved), present != wanted);
         QCOMPARE(car.sheet.field(VehicleSheet::Odometer), wanted);
+        // Nobody types over what was typed in the same step.
+        before.sheet.field(VehicleSheet::Odometer) = u"1"_s;
+        QVERIFY(!PresentReading::goBack(car, before, saved));
     }
 
     void followsAHigherReading_data()

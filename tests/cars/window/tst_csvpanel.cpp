@@ -74,7 +74,7 @@ private slots:
         QCOMPARE(cells("maintenanceList", 0), QStringList({{}, u"01/02/2026"_s, u"Reifen"_s, u"12.50"_s}));
     }
 
-    /// The sheet's reading follows what comes in.
+    /// The sheet's reading follows what comes in, and what goes again.
     void movesThePresentReading()
     {
         // The sheet is up to date when it is shown.
@@ -86,6 +86,16 @@ private slots:
         click("carImportTake");
         QCOMPARE(present(), u"84700"_s);
         QCOMPARE(cells("fuelGrid", 0).mid(1, 4), QStringList({u"84400"_s, u"84700"_s, u"300"_s, u"10"_s}));
+        const auto *list = find<CarGrid>("fuelGrid");
+        for (const QString &reading : {u"84400"_s, u"84210"_s}) {
+            trigger("mVFuel");
+            QCoreApplication::processEvents();
+            find<CarGrid>("fuelGrid")->setCurrentIndex(list->model()->index(0, 0));
+            click("fuelDelete");
+            QCOMPARE(present(), reading);
+        }
+        trigger("mEUndo");
+        QCOMPARE(present(), u"84400"_s);
     }
 };
 
