@@ -93,11 +93,11 @@ CarEntry LogModel::check(int column, const QString &typed, const QString &before
         return CarEntry::money(typed, before);
     const VehicleSheet &sheet = m_open.record().sheet;
     // The reading at a fill-up is where the current one comes from.
-    if (m_part == CarPart::Fuel)
-        return column == previousColumn || column == CarRows::readingColumn(m_part)
-                   ? CarEntry::reading(typed, before, sheet)
-                   : CarEntry::number(typed, before);
-    return CarEntry::odometer(typed, before, sheet);
+    if (m_part != CarPart::Fuel)
+        return CarEntry::odometer(typed, before, sheet);
+    if (column == previousColumn || column == CarRows::readingColumn(m_part))
+        return CarEntry::reading(typed, before, sheet);
+    return CarEntry::number(typed, before);
 }
 
 bool LogModel::isWorkedOut(int column) const
