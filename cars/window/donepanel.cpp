@@ -62,9 +62,9 @@ DonePanel::DonePanel(const CarDesk &desk)
     rows->addWidget(m_hint);
     rows->addStretch(1);
     setContent(content);
-    QPushButton *enter = addButton(u"doneEnter"_s, u"&Enter"_s, ButtonKind::Main);
+    QPushButton *enter = addButton(u"doneEnter"_s, u"E&nter"_s, ButtonKind::Main);
     connect(enter, &QPushButton::clicked, this, &DonePanel::enter);
-    setLeaveButton(u"doneCancel"_s, u"&Cancel"_s);
+    setLeaveButton(u"doneCancel"_s, u"Cance&l"_s);
     setFocusProxy(m_odometer);
 }
 

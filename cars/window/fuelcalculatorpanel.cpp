@@ -26,8 +26,8 @@ FuelCalculatorPanel::FuelCalculatorPanel(const CarDesk &desk)
 {
     setContent(makeContent());
     QPushButton *enter =
-        addButton(u"calculatorEnter"_s, u"Enter as Fill-&up"_s, ButtonKind::Plain, Side::Left);
-    QPushButton *calculate = addButton(u"calculatorCalculate"_s, u"&Calculate"_s, ButtonKind::Main);
+        addButton(u"calculatorEnter"_s, u"Enter as &Fill-up"_s, ButtonKind::Plain, Side::Left);
+    QPushButton *calculate = addButton(u"calculatorCalculate"_s, u"Calcula&te"_s, ButtonKind::Main);
     setLeaveButton(u"calculatorClose"_s, u"C&lose"_s);
     connect(enter, &QPushButton::clicked, this, &FuelCalculatorPanel::enterFillUp);
     connect(calculate, &QPushButton::clicked, this, &FuelCalculatorPanel::calculate);

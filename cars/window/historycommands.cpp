@@ -103,8 +103,8 @@ void HistoryCommands::addCosts(QMenu *view)
             view, u"mVCalculators"_s, u"Fuel Ca&lculators"_s, [fuel] { fuel->openCalculators(); },
             [this] { return m_desk.car.isOpen() ? QString() : CarLines::noCarYet(); });
         ButtonRow &foot = fuel->foot();
-        foot.addLeft(all.button(calculators, u"fuelCalculator"_s, u"&Calculators..."_s, &foot));
-        foot.addLeft(all.button(costs, u"fuelCosts"_s, u"C&harts..."_s, &foot));
+        foot.addLeft(all.button(calculators, u"fuelCalculator"_s, u"Ca&lculators..."_s, &foot));
+        foot.addLeft(all.button(costs, u"fuelCosts"_s, u"Char&ts..."_s, &foot));
     }
 }
 
