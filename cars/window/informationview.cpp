@@ -48,8 +48,10 @@ void InformationView::take(std::size_t place)
     if (wanted == car().record())
         return;
     const QString remark = amend(wanted);
-    if (wanted == car().record())
-        m_form->show(wanted); // the reading is refused, and the one before stands there again
+    if (wanted == car().record()) { // the reading is refused, and the one before stands there again
+        m_form->show(wanted);
+        foot().setWords(car().isModified() ? FrameLines::unsavedChanges() : QString());
+    }
     car().change(m_form->box(place)->accessibleName(), wanted);
     if (!remark.isEmpty())
         emit said(remark);
