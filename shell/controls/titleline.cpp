@@ -18,6 +18,7 @@ TitleLine::TitleLine(const QString &name, const QString &title, QWidget *parent)
 {
     m_title->setText(title);
     m_title->setFont(TypeScale::windowTitle());
+    m_text = title;
     m_title->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(gap);
@@ -26,15 +27,33 @@ TitleLine::TitleLine(const QString &name, const QString &title, QWidget *parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-void TitleLine::setTitle(const QString &title)
+void TitleLine::setTitle(const QString &title, const QString &shorter)
 {
-    m_title->setText(title);
+    m_text = title;
+    m_shorter = shorter;
+    m_title->setAccessibleName(title);
+    fitTitle();
     placeChip();
+}
+
+/// A title without a shorter form stays in its letters.
+void TitleLine::fitTitle()
+{
+    const auto fits = [room = width() - rightWidth()](const QFont &font, const QString &text) {
+        return QFontMetrics(font).horizontalAdvance(text) <= room;
+    };
+    const bool isWhole = m_shorter.isEmpty() || !isVisible() || fits(TypeScale::windowTitle(), m_text);
+    const QString &shown = isWhole ? m_text : m_shorter;
+    const bool isLarge = isWhole || fits(TypeScale::windowTitle(), shown);
+    if (m_title->text() != shown)
+        m_title->setText(shown);
+    if (const QFont font = isLarge ? TypeScale::windowTitle() : TypeScale::group(); m_title->font() != font)
+        m_title->setFont(font);
 }
 
 QString TitleLine::title() const
 {
-    return m_title->text();
+    return m_text;
 }
 
 QLabel *TitleLine::addChip(const QString &name)
@@ -90,13 +109,17 @@ void TitleLine::placeChip()
 
 bool TitleLine::event(QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest) // something at the right has other words, or is hidden
+    // Something at the right has other words, or is hidden.
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) {
+        fitTitle();
         placeChip();
+    }
     return QWidget::event(event);
 }
 
 void TitleLine::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    fitTitle();
     placeChip();
 }

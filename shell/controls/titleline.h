@@ -8,7 +8,8 @@ class QHBoxLayout;
 class QLabel;
 
 /// The head of a view: its title, a chip beside it, quiet words at the right. Where they do not all fit, the
-/// chip gives way first; then the title is cut.
+/// chip gives way first; then a shorter title stands in, in smaller letters if need be, and at last it is
+/// cut.
 class TitleLine final : public QWidget
 {
     Q_OBJECT
@@ -16,7 +17,8 @@ public:
     /// `name` is the object name of the title.
     TitleLine(const QString &name, const QString &title, QWidget *parent);
 
-    void setTitle(const QString &title);
+    /// `shorter` is shown where `title` does not fit.
+    void setTitle(const QString &title, const QString &shorter = {});
     QString title() const;
     ElidedLabel *label() const { return m_title; }
 
@@ -37,8 +39,12 @@ protected:
 
 private:
     int rightWidth() const;
+    /// Shows what has room; all of it where nobody has said yet how much that is.
+    void fitTitle();
     void placeChip();
 
+    QString m_text;
+    QString m_shorter;
     ElidedLabel *m_title;
     QLabel *m_chip = nullptr;
     QList<QWidget *> m_right;

@@ -151,6 +151,20 @@ private slots:
         atRight->clear();
         QTRY_VERIFY(chip->isVisible());
     }
+
+    void aShorterTitleStandsInForOneThatDoesNotFit()
+    {
+        TitleLine line(u"title"_s, u"Short"_s, nullptr);
+        line.resize(900, 40);
+        showActive(line);
+        const QString whole = u"Three things are due, two of them overdue"_s;
+        line.setTitle(whole, u"Three due"_s);
+        QCOMPARE(line.label()->text(), whole);
+        line.resize(200, 40);
+        QTRY_COMPARE(line.label()->text(), u"Three due"_s);
+        QCOMPARE(line.title(), whole);
+        QCOMPARE(line.label()->accessibleName(), whole);
+    }
 };
 
 QTEST_MAIN(TestPanels)
