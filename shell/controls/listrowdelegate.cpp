@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyle>
 #include <QStyleOption>
 #include <QTableView>
@@ -196,12 +197,18 @@ int WholeRows::rowHeight() const
     return row > 0 ? row : ListRowDelegate::rowHeight();
 }
 
-/// Rim and padding of the view, and the head of a table.
+/// Rim and padding of the view, the head of a table and the bar under one that is wider than its room.
 int WholeRows::aroundRows() const
 {
     m_view->ensurePolished(); // the sheet of the application sets the padding
+    const int rim = 2 * m_view->frameWidth();
     const auto *table = qobject_cast<const QTableView *>(m_view);
-    return 2 * m_view->frameWidth() + (table ? table->horizontalHeader()->height() : 0);
+    if (!table)
+        return rim;
+    const bool hasBar = table->horizontalScrollBarPolicy() == Qt::ScrollBarAsNeeded &&
+                        table->horizontalHeader()->length() > table->viewport()->width();
+    const int head = table->horizontalHeader()->isHidden() ? 0 : table->horizontalHeader()->height();
+    return rim + head + (hasBar ? table->horizontalScrollBar()->sizeHint().height() : 0);
 }
 
 int WholeRows::footHeight() const

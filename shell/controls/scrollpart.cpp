@@ -22,6 +22,12 @@ ScrollPart::ScrollPart(QWidget *content, QWidget *parent)
     connect(m_low, &LowWindow::changed, this, &QWidget::updateGeometry);
 }
 
+void ScrollPart::scrollByItself()
+{
+    m_isByItself = true;
+    updateGeometry();
+}
+
 bool ScrollPart::event(QEvent *event)
 {
     if (event->type() == QEvent::Polish && !widget()) {
@@ -68,5 +74,5 @@ void ScrollPart::resizeEvent(QResizeEvent *event)
 
 bool ScrollPart::isWhole() const
 {
-    return m_low->isLow() && WorkScroll::around(this);
+    return !m_isByItself && m_low->isLow() && WorkScroll::around(this);
 }

@@ -14,6 +14,9 @@ class ScrollPart final : public QScrollArea
 public:
     explicit ScrollPart(QWidget *content, QWidget *parent = nullptr);
 
+    /// In a low window too, so that what stands above and below it stays in sight.
+    void scrollByItself();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -28,4 +31,5 @@ private:
 
     QWidget *m_content;
     LowWindow *m_low;
+    bool m_isByItself = false;
 };
