@@ -62,6 +62,9 @@ void FigureStrip::setFigures(const QList<Figure> &figures)
                 Icons::pixmap(figures[i].sign, Theme::of(this).scheme, signSize, devicePixelRatioF()));
         m_labels[i].value->setText(figures[i].value);
         m_labels[i].value->setAccessibleName(figures[i].caption + u": "_s + figures[i].value);
+        // Captions are cut where there is too little room, figures never.
+        const QFontMetrics metrics(TypeScale::cardTitle());
+        m_labels[i].value->setMinimumWidth(metrics.horizontalAdvance(figures[i].value) + 2);
     }
     setVisible(!figures.isEmpty());
 }

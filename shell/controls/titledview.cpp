@@ -19,7 +19,7 @@ TitledView::TitledView(const QString &name, QWidget *parent)
     , m_foot(named(new ButtonRow(this), name + u"Foot"_s))
 {
     setObjectName(name + u"View"_s);
-    m_rows->setContentsMargins(24, 16, 24, 18);
+    m_rows->setContentsMargins(20, 16, 20, 18);
     m_rows->setSpacing(12);
     m_rows->addWidget(m_title);
     m_rows->addWidget(makeLine(this));
