@@ -65,20 +65,34 @@ QString counted(qint64 count, const QString &what)
     return QString::number(count) + u' ' + what + (std::abs(count) == 1 ? u""_s : u"s"_s);
 }
 
-} // namespace
+enum class Length { Whole, Short };
 
-QString DueWords::title(const QList<CarNeed> &needs)
+QString titleIn(const QList<CarNeed> &needs, Length length)
 {
     const qsizetype due = std::ranges::count_if(needs, &CarNeed::isUrgent);
     const qsizetype overdue = std::ranges::count(needs, State::Overdue, &CarNeed::state);
     if (due == 0)
         return u"Nothing is due"_s;
-    const QString things = inWords(due) + (due == 1 ? u" thing is "_s : u" things are "_s);
+    const QString verb = length == Length::Short ? u" "_s : due == 1 ? u" is "_s : u" are "_s;
+    const QString things = inWords(due) + (due == 1 ? u" thing"_s : u" things"_s) + verb;
     if (overdue == due)
         return things + u"overdue"_s;
     if (overdue == 0)
         return things + u"due"_s;
-    return things + u"due, "_s + inWords(overdue).toLower() + u" of them overdue"_s;
+    const QString of = length == Length::Short ? u" overdue"_s : u" of them overdue"_s;
+    return things + u"due, "_s + inWords(overdue).toLower() + of;
+}
+
+} // namespace
+
+QString DueWords::title(const QList<CarNeed> &needs)
+{
+    return titleIn(needs, Length::Whole);
+}
+
+QString DueWords::shortTitle(const QList<CarNeed> &needs)
+{
+    return titleIn(needs, Length::Short);
 }
 
 QString DueWords::name(const CarNeed &need)

@@ -9,6 +9,8 @@ namespace DueWords {
 
 /// "Two things are due"; "Three things are due, one of them overdue"; "Nothing is due".
 QString title(const QList<CarNeed> &needs);
+/// The same where there is less room: "Three things due, two overdue".
+QString shortTitle(const QList<CarNeed> &needs);
 
 /// "Change Oil and Filter"; of what has no name "Action 8".
 QString name(const CarNeed &need);

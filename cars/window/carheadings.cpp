@@ -25,13 +25,26 @@ CarHeadings::CarHeadings(QWidget *parent)
     connect(this, &QHeaderView::sectionResized, this, &QHeaderView::geometriesChanged);
 }
 
+Qt::Alignment CarHeadings::alignment(int section) const
+{
+    const QVariant alignment = model()->headerData(section, orientation(), Qt::TextAlignmentRole);
+    return alignment.isValid() ? alignment.value<Qt::Alignment>() : Qt::AlignVCenter;
+}
+
+QRect CarHeadings::wordsPlace(const QRect &rect, int section) const
+{
+    const bool isRight = alignment(section).testFlag(Qt::AlignRight);
+    return rect.adjusted(isRight ? freeInset : CarGrid::inset, 0, isRight ? -CarGrid::inset : -freeInset, 0);
+}
+
 /// Whether a heading has no room in one line.
 bool CarHeadings::isNarrow() const
 {
     const QFontMetrics metrics(TypeScale::strong());
     for (int section = 0; section < count(); ++section) {
         const QString words = model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
-        if (metrics.horizontalAdvance(words) > sectionSize(section) - 2 * CarGrid::inset)
+        const QRect place = wordsPlace(QRect(0, 0, sectionSize(section), 1), section);
+        if (words.contains(u' ') && metrics.horizontalAdvance(words) > place.width())
             return true;
     }
     return false;
@@ -60,15 +73,16 @@ QSize CarHeadings::sizeHint() const
     return {0, std::max(leastHeight, metrics.height() * lines + around)};
 }
 
-/// The part of its group's heading that lies over `section`, in the middle of the group, with a line under
-/// it.
+/// The part of its group's heading that lies over `section`: at the end of the group, over what has no group
+/// before it where the words need that, with a line under the group.
 void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) const
 {
-    const QString group = groupOf(section);
+    const bool isBefore = groupOf(section).isEmpty();
+    const QString group = groupOf(isBefore ? section + 1 : section);
     if (group.isEmpty())
         return;
-    int first = section;
-    int last = section;
+    int first = isBefore ? section + 1 : section;
+    int last = first;
     while (groupOf(first - 1) == group)
         --first;
     while (groupOf(last + 1) == group)
@@ -78,32 +92,50 @@ void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) 
     const int width = sectionPosition(last) + sectionSize(last) - sectionPosition(first);
     const QRect place = QRect(left, rect.top() + around / 4, width, metrics.height() + 2)
                             .adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
+    const int missing = metrics.horizontalAdvance(group) + 1 - place.width();
+    const bool hasRoom = first > 0 && groupOf(first - 1).isEmpty();
+    const QRect words = place.adjusted(hasRoom && missing > 0 ? -missing : 0, 0, 0, 0);
     painter->save();
     painter->setClipRect(rect);
     painter->setFont(TypeScale::label());
     painter->setPen(Theme::of(this).quiet);
-    painter->drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
-                      metrics.elidedText(group, Qt::ElideRight, place.width()));
+    painter->drawText(words, Qt::AlignCenter | Qt::TextSingleLine,
+                      metrics.elidedText(group, Qt::ElideRight, words.width()));
     painter->setPen(Theme::of(this).edge);
     painter->drawLine(place.bottomLeft(), place.bottomRight());
     painter->restore();
 }
 
+void CarHeadings::paintEvent(QPaintEvent *event)
+{
+    QHeaderView::paintEvent(event);
+    if (offset() <= 0)
+        return;
+    QPainter painter(viewport());
+    const QRect first(0, 0, sectionSize(0), height());
+    paintWords(&painter, first, 0);
+    painter.setPen(Theme::of(this).edge);
+    painter.drawLine(first.topRight(), first.bottomRight());
+}
+
 void CarHeadings::paintSection(QPainter *painter, const QRect &rect, int section) const
+{
+    paintWords(painter, rect, section);
+    paintGroup(painter, rect, section);
+}
+
+void CarHeadings::paintWords(QPainter *painter, const QRect &rect, int section) const
 {
     const Theme &theme = Theme::of(this);
     painter->fillRect(rect, theme.head);
     painter->setPen(theme.line);
     painter->drawLine(rect.bottomLeft(), rect.bottomRight());
-    paintGroup(painter, rect, section);
     painter->setFont(TypeScale::strong());
     painter->setPen(theme.text);
-    const QVariant alignment = model()->headerData(section, orientation(), Qt::TextAlignmentRole);
-    QRect place = rect.adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
+    QRect place = wordsPlace(rect, section);
     if (hasGroups())
         place.setTop(place.bottom() - QFontMetrics(TypeScale::strong()).height() * (isNarrow() ? 2 : 1) -
                      around / 4);
-    const int flags = int(alignment.isValid() ? alignment.value<Qt::Alignment>() : Qt::AlignVCenter);
-    painter->drawText(place, flags | Qt::TextWordWrap,
+    painter->drawText(place, int(alignment(section)) | Qt::TextWordWrap,
                       model()->headerData(section, orientation(), Qt::DisplayRole).toString());
 }

@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int corner = 10;
-constexpr int padding = 14;
+constexpr int padding = 12;
 constexpr float overdueFill = 0.12F;
 } // namespace
 
@@ -30,7 +30,7 @@ DueCard::DueCard(int number, QWidget *parent)
     m_howFar->setFont(TypeScale::body());
     m_howFar->setForegroundRole(ThemeRole::quiet);
     auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(padding + 2, padding - 2, padding, padding - 2);
+    rows->setContentsMargins(padding + 2, padding, padding, padding);
     rows->setSpacing(4);
     rows->addWidget(m_name);
     rows->addWidget(m_when);
@@ -44,7 +44,12 @@ DueCard::DueCard(int number, QWidget *parent)
 
 int DueCard::leastWidth()
 {
-    return TypeScale::wide(260);
+    return TypeScale::wide(240);
+}
+
+int DueCard::narrowWidth()
+{
+    return TypeScale::wide(220);
 }
 
 void DueCard::show(const CarNeed &need, const Words &words)
@@ -66,7 +71,7 @@ void DueCard::paintEvent(QPaintEvent *)
     const Theme &theme = Theme::of(this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const bool hasUserColor = palette().color(QPalette::Window) != theme.panel;
+    const bool hasUserColor = SignLine::isOnUserColor(*this);
     const bool isOverdue = m_need.state == CarNeed::State::Overdue;
     QColor rim = palette().color(ThemeRole::line);
     if (!hasUserColor) {

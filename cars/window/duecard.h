@@ -27,6 +27,8 @@ public:
     explicit DueCard(int number, QWidget *parent = nullptr);
 
     static int leastWidth();
+    /// Where only one would have room otherwise: long words are cut then.
+    static int narrowWidth();
 
     void show(const CarNeed &need, const Words &words);
     const CarNeed &need() const { return m_need; }

@@ -5,13 +5,13 @@
 #include "shell/controls/controls.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int gap = 12;
-constexpr int mostRows = 2;
 constexpr int mostColumns = 4;
 constexpr int greatestWidth = 380;
 constexpr int moreGap = 6;
@@ -44,15 +44,25 @@ void DueCards::show(const QList<CarNeed> &needs, const DueCard::Words &words)
     place();
 }
 
+void DueCards::setRows(int rows)
+{
+    if (std::exchange(m_mostRows, rows) == rows)
+        return;
+    updateGeometry();
+    place();
+}
+
 int DueCards::columnsIn(int width) const
 {
-    const int room = std::clamp((width + gap) / (DueCard::leastWidth() + gap), 1, mostColumns);
+    int room = std::clamp((width + gap) / (DueCard::leastWidth() + gap), 1, mostColumns);
+    if (room == 1 && width >= 2 * DueCard::narrowWidth() + gap)
+        room = 2;
     return std::max(1, std::min(room, m_count));
 }
 
 int DueCards::shownIn(int width) const
 {
-    return std::min(m_count, columnsIn(width) * mostRows);
+    return std::min(m_count, columnsIn(width) * m_mostRows);
 }
 
 int DueCards::cardHeight() const

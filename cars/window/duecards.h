@@ -9,7 +9,7 @@
 
 class QLabel;
 
-/// The cards of what the open car needs, the most urgent first, in at most two rows of equal widths. How many
+/// The cards of what the open car needs, the most urgent first, in one row or two of equal widths. How many
 /// more there are is told behind them.
 class DueCards final : public QWidget
 {
@@ -18,6 +18,8 @@ public:
     explicit DueCards(QWidget *parent = nullptr);
 
     void show(const QList<CarNeed> &needs, const DueCard::Words &words);
+    /// At most so many rows.
+    void setRows(int rows);
 
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
@@ -38,6 +40,7 @@ private:
     void place();
 
     std::vector<DueCard *> m_cards; ///< made when first needed, and kept
-    int m_count = 0;                ///< of those that stand for something
+    int m_mostRows = 2;
+    int m_count = 0; ///< of those that stand for something
     QLabel *m_more;
 };

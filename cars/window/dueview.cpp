@@ -14,6 +14,7 @@
 #include "shell/controls/datepicker.h"
 #include "shell/controls/linkbutton.h"
 #include "shell/controls/listrowdelegate.h"
+#include "shell/controls/scrollpart.h"
 #include "shell/controls/titleline.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
@@ -31,14 +32,19 @@ namespace {
 
 /// So many cards stand there while nothing is due.
 constexpr qsizetype comingCards = 2;
+/// In a lower view a second row of cards would leave no room for the schedule.
+constexpr int heightForTwoRows = 500;
+constexpr int headingGap = 12;
+constexpr int sideMargin = 28; ///< of the words above the schedule, with a bar beside them
 
-/// The action gives way first where there is little room; where there is much, its intervals have some of it.
-std::vector<CarGrid::Width> widths(DistanceUnit unit)
+/// Where there is much room, the intervals have some of it.
+std::vector<CarColumns::Width> widths(DistanceUnit unit)
 {
-    return {{u"Inspect Brake Linings"_s, true},
-            {u"99999"_s, true},
-            {u"Months_"_s, true},
-            {CarWords::mileage(unit) + u'_'},
+    using enum CarColumns::Room;
+    return {{u"Inspect Brake Linings"_s, Words},
+            {u"99999"_s, Growing},
+            {u"Months"_s, Growing},
+            {CarWords::mileage(unit)},
             {u"12/30/2026"_s},
             {u"999.99"_s},
             {u"-99999"_s},
@@ -59,21 +65,61 @@ DueView::DueView(const CarDesk &desk)
     m_odometer->setToolTip(u"Enter what the odometer reads now"_s);
     m_advice->setFont(TypeScale::body());
     m_advice->setWordWrap(true);
-    auto *heading = new QWidget(this);
-    auto *words = new QHBoxLayout(heading);
-    words->setContentsMargins(0, 4, 0, 0);
-    words->addWidget(makeHeading(u"Maintenance Schedule"_s, this), 1);
-    words->setSpacing(12);
-    words->addWidget(m_odometer, 0, Qt::AlignBottom);
-    words->addWidget(m_rate, 0, Qt::AlignBottom);
-    addContent(m_advice);
-    addContent(m_cards);
-    addContent(heading);
-    addContent(new WholeRows(m_schedule, nullptr, this), 1);
+    QWidget *heading = makeScheduleHeading();
+    auto *rows = new WholeRows(m_schedule, nullptr, this);
+    rows->setGivesWay(true);
+    addScrolling({m_advice, m_cards, heading}, rows);
     setFocusProxy(m_schedule);
     addClearing();
     connect(m_cards, &DueCards::chosen, this, &DueView::doneRequested);
     connect(m_odometer, &LinkButton::clicked, this, &DueView::odometerRequested);
+}
+
+/// The odometer and the rate of driving stand at the end of the line, or below it where that is too short.
+QWidget *DueView::makeScheduleHeading()
+{
+    auto *heading = new QWidget(this);
+    m_headingRow = new QBoxLayout(QBoxLayout::LeftToRight, heading);
+    m_headingRow->setContentsMargins(0, 4, 0, 0);
+    m_heading = makeHeading(u"Maintenance Schedule"_s, this);
+    m_headingRow->addWidget(m_heading, 1);
+    auto *facts = new QHBoxLayout;
+    facts->setSpacing(headingGap);
+    facts->addWidget(m_odometer, 0, Qt::AlignBottom);
+    facts->addWidget(m_rate, 1, Qt::AlignBottom);
+    m_headingRow->addLayout(facts);
+    return heading;
+}
+
+void DueView::fitHeading()
+{
+    int needed = 0;
+    for (const QWidget *part : std::initializer_list<const QWidget *>{m_heading, m_odometer, m_rate})
+        needed += part->sizeHint().width() + headingGap;
+    const bool isOneLine = needed <= width() - 2 * sideMargin;
+    m_headingRow->setDirection(isOneLine ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_headingRow->setSpacing(isOneLine ? headingGap : 2);
+}
+
+/// Title and buttons stay in sight where the rest has no room.
+void DueView::addScrolling(const QList<QWidget *> &parts, QWidget *rows)
+{
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins({});
+    layout->setSpacing(12);
+    for (QWidget *part : parts)
+        layout->addWidget(part);
+    layout->addWidget(rows, 1);
+    auto *scroll = named(new ScrollPart(content, this), u"dueScroll"_s);
+    scroll->scrollByItself();
+    addContent(scroll, 1);
+    connect(m_schedule, &CarGrid::currentMoved, scroll, [this, scroll] {
+        const QRect row = m_schedule->visualRect(m_schedule->currentIndex());
+        const QPoint place = m_schedule->viewport()->mapTo(scroll->widget(), row.center());
+        if (m_schedule->isInUse())
+            scroll->ensureVisible(0, place.y(), 0, 2 * CarGrid::usualRowHeight());
+    });
 }
 
 CarGrid *DueView::makeSchedule()
@@ -129,6 +175,13 @@ void DueView::showRow(int row)
     m_schedule->setFocus();
 }
 
+void DueView::resizeEvent(QResizeEvent *event)
+{
+    m_cards->setRows(height() < heightForTwoRows ? 1 : 2);
+    fitHeading();
+    CarView::resizeEvent(event);
+}
+
 void DueView::refresh()
 {
     m_model->refresh();
@@ -139,6 +192,7 @@ void DueView::refresh()
     m_odometer->setText(CarLines::odometer(number ? DueWords::distance(*number, car().unit()) : reading));
     m_rate->setText(DueWords::rate(car().drivingLog(), car().unit(), desk().program.state.dateStyle,
                                    desk().program.clock.today()));
+    fitHeading();
 }
 
 /// What is due; where nothing is, what comes next.
@@ -152,7 +206,7 @@ void DueView::showNeeds()
                              [](const CarNeed &need) { return need.state == CarNeed::State::Ahead; });
         shown.resize(std::min(shown.size(), comingCards));
     }
-    titleLine().setTitle(DueWords::title(car().needs()));
+    titleLine().setTitle(DueWords::title(car().needs()), DueWords::shortTitle(car().needs()));
     m_advice->setText(shown.isEmpty() ? CarLines::howToBegin() : QString());
     m_advice->setVisible(shown.isEmpty());
     m_cards->setVisible(!shown.isEmpty());

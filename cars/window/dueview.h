@@ -7,6 +7,7 @@
 class CarGrid;
 class DueCards;
 class LinkButton;
+class QBoxLayout;
 class QLabel;
 class ScheduleModel;
 
@@ -30,13 +31,19 @@ signals:
 
 protected:
     void refresh() override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     CarGrid *makeSchedule();
     void addClearing();
+    QWidget *makeScheduleHeading();
+    void fitHeading();
+    void addScrolling(const QList<QWidget *> &parts, QWidget *rows);
     void showNeeds();
 
     ScheduleModel *m_model;
+    QBoxLayout *m_headingRow = nullptr;
+    QLabel *m_heading = nullptr;
     LinkButton *m_odometer;
     DueCards *m_cards;
     QLabel *m_advice;

@@ -10,12 +10,13 @@
 using namespace Qt::Literals::StringLiterals;
 
 HistoryView::HistoryView(const QString &name, const CarDesk &desk, CarPart part, const LogPane::Names &names)
-    : LogView(
-          name, desk, part,
-          new LogPane(
-              desk, part, names,
-              {{u"Kilometers"_s}, {u"12/30/2026 "_s}, {u"Inspect Brake Linings"_s, true}, {u"99999.99"_s}}),
-          u"&Add Entry"_s)
+    : LogView(name, desk, part,
+              new LogPane(desk, part, names,
+                          {{u"Kilometers"_s},
+                           {u"12/30/2026 "_s},
+                           {u"Inspect Brake Linings"_s, CarColumns::Room::Words},
+                           {u"99999.99"_s}}),
+              u"&Add Entry"_s)
     , m_figures(new FigureStrip(name + u"Figures"_s, this))
 {
     addContent(m_figures);

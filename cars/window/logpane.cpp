@@ -26,7 +26,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 LogPane::LogPane(const CarDesk &desk, CarPart part, const Names &names,
-                 const std::vector<CarGrid::Width> &widths)
+                 const std::vector<CarColumns::Width> &widths)
     : m_desk(desk)
     , m_model(new LogModel(desk.program, desk.car, part, this))
     , m_new(new EntryModel(desk.program, desk.car, *m_model, this))
@@ -42,6 +42,7 @@ LogPane::LogPane(const CarDesk &desk, CarPart part, const Names &names,
     m_empty->setWordWrap(true);
     for (CarGrid *grid : {m_entry, m_list})
         grid->setWidths(widths);
+    m_list->putUnder(m_entry);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins({});
     rows->setSpacing(8);
@@ -69,7 +70,6 @@ void LogPane::connectGrids()
         connect(grid, &CarGrid::refused, this, [this] { emit said(m_desk.car.whyLocked(m_model->part())); });
     }
     connect(m_entry, &CarGrid::entered, this, &LogPane::take);
-    connect(m_list, &CarGrid::roomChanged, m_entry, &CarGrid::fitColumns);
     connect(m_list, &CarGrid::currentMoved, this, &LogPane::chosen);
     connectModel(m_new, m_entry);
     connectModel(m_model, m_list);
@@ -124,7 +124,7 @@ void LogPane::place()
     m_entry->ensurePolished();
     m_entry->setFixedHeight(m_entry->horizontalHeader()->sizeHint().height() + CarGrid::usualRowHeight() +
                             2 * m_entry->frameWidth());
-    m_entry->fitColumns(isEmpty ? m_entry->viewport()->width() : m_list->viewport()->width());
+    (isEmpty ? m_entry : m_list)->fitColumns();
 }
 
 void LogPane::finishEdit()

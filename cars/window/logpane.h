@@ -33,7 +33,8 @@ public:
     /// Has a say in what the car becomes by an entry, its `row` in the file; nothing is asked on leaving.
     using Amend = std::function<void(CarRecord &wanted, qsizetype row, Adding adding)>;
 
-    LogPane(const CarDesk &desk, CarPart part, const Names &names, const std::vector<CarGrid::Width> &widths);
+    LogPane(const CarDesk &desk, CarPart part, const Names &names,
+            const std::vector<CarColumns::Width> &widths);
 
     LogModel &model() const { return *m_model; }
     CarGrid &list() const { return *m_list; }

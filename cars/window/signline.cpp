@@ -35,6 +35,12 @@ QLatin1StringView SignLine::sign(CarNeed::State state)
     }
 }
 
+bool SignLine::isOnUserColor(const QWidget &part)
+{
+    // The colour of the ground itself does not come through to what is scrolled.
+    return part.palette().color(QPalette::WindowText) != Theme::of(&part).text;
+}
+
 void SignLine::setWords(CarNeed::State state, const QString &words)
 {
     m_state = state;
@@ -77,16 +83,19 @@ void SignLine::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const Theme &theme = Theme::of(this);
     QRect place = rect();
+    const bool hasUserColor = isOnUserColor(*this);
+    const QColor ink = palette().color(QPalette::WindowText);
     if (isUrgent()) {
+        // A dark ink tells that the ground is light, whatever the desktop is.
+        const auto scheme = !hasUserColor             ? theme.scheme
+                            : ink.lightnessF() < 0.5F ? Icons::Scheme::Light
+                                                      : Icons::Scheme::Dark;
         painter.drawPixmap(0, (height() - signSize) / 2,
-                           Icons::pixmap(sign(m_state), theme.scheme, signSize, devicePixelRatioF()));
+                           Icons::pixmap(sign(m_state), scheme, signSize, devicePixelRatioF()));
         place.setLeft(signSize + gap);
     }
-    const bool hasUserColor = palette().color(QPalette::Window) != theme.panel;
     const QColor urgent = m_state == CarNeed::State::Overdue ? theme.negative : theme.due;
-    painter.setPen(!isUrgent()    ? palette().color(ThemeRole::quiet)
-                   : hasUserColor ? palette().color(QPalette::WindowText)
-                                  : urgent);
+    painter.setPen(!isUrgent() ? palette().color(ThemeRole::quiet) : hasUserColor ? ink : urgent);
     painter.setFont(font());
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      fontMetrics().elidedText(m_words, Qt::ElideRight, place.width()));

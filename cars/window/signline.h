@@ -21,6 +21,8 @@ public:
 
     /// The sign of a state; empty for none.
     static QLatin1StringView sign(CarNeed::State state);
+    /// Whether `part` stands on a panel of the user's colour, whose ink is neither the designed one.
+    static bool isOnUserColor(const QWidget &part);
 
 protected:
     bool event(QEvent *event) override;

@@ -14,6 +14,7 @@
 #include <QDropEvent>
 #include <QListView>
 #include <QMimeData>
+#include <QScrollBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -311,6 +312,36 @@ private slots:
         m_window->showPlace({.record = 4, .row = 1});
         QCOMPARE(text("Combo1"), u"Zo\u00eb's first car"_s);
         QCOMPARE(grid("Grid4")->currentIndex().row(), 1);
+    }
+
+    void keepsInSightWhatAPersonNeeds_data()
+    {
+        rows<QSize>({{"small", QSize(800, 600)}, {"low", QSize(960, 540)}});
+    }
+    void keepsInSightWhatAPersonNeeds()
+    {
+        const auto [size] = row<QSize>();
+        open(TestProgram::Household);
+        m_window->setMinimumSize(400, 300);
+        m_window->resize(size);
+        QCoreApplication::processEvents();
+        for (const char *part : {"dueTitle", "dueViewSave", "dueViewExit"}) {
+            const auto *shown = find<QWidget>(part);
+            QCOMPARE(shown->visibleRegion().boundingRect(), shown->rect());
+        }
+        auto *schedule = find<CarGrid>("Grid4");
+        const auto rect = [schedule](int column) {
+            return schedule->visualRect(schedule->model()->index(0, column));
+        };
+        schedule->setFocus();
+        schedule->setCurrentIndex(schedule->model()->index(0, 7));
+        QVERIFY(schedule->horizontalScrollBar()->value() > 0);
+        QVERIFY(rect(7).right() <= schedule->viewport()->width());
+        QCOMPARE(schedule->indexAt(rect(0).center()).column(), 0);
+        QCOMPARE(rect(0).left(), 0);
+        schedule->setCurrentIndex(schedule->model()->index(0, 1));
+        QVERIFY(rect(1).left() >= rect(0).right());
+        QVERIFY(!schedule->visibleRegion().isEmpty());
     }
 
     void leavesAForeignSheetAlone()
