@@ -9,12 +9,11 @@
 #include "cars/window/sheetform.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/scrollpart.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/framelines.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/program/program.h"
-
-#include <QScrollArea>
 
 #include <utility>
 
@@ -25,7 +24,8 @@ InformationView::InformationView(const CarDesk &desk)
     , m_form(new SheetForm(this))
     , m_pictures(desk.program.folder)
 {
-    QScrollArea *scroll = makeScrolling(m_form, u"sheetScroll"_s, this);
+    auto *scroll = named(new ScrollPart(m_form, this), u"sheetScroll"_s);
+    scroll->scrollByItself();
     addContent(scroll, 1);
     setFocusProxy(m_form->box(SheetForm::nameBox));
     connect(m_form, &SheetForm::boxFocused, scroll,
@@ -103,12 +103,12 @@ void InformationView::showFacts()
     const DateStyle style = desk().program.state.dateStyle;
     const QDate today = desk().program.clock.today();
     auto registration = CarNeed::State::NoInterval;
-    QString insurance;
+    SheetForm::Fact insurance;
     for (const CarNeed &need : car().needs()) {
         if (need.kind == CarNeed::Kind::Registration)
             registration = need.state;
         if (need.kind == CarNeed::Kind::Insurance)
-            insurance = DueWords::when(need, car().unit(), style, today);
+            insurance = {need.state, DueWords::when(need, car().unit(), style, today)};
     }
     m_form->setFacts(registration, insurance);
 }

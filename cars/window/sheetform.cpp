@@ -26,8 +26,8 @@ constexpr int columnGap = 28;
 constexpr int greatestWidth = 640;
 constexpr int oneColumnWidth = 300;
 constexpr int pictureHeight = 150;
-/// From this width on the second group stands beside the first.
-constexpr int twoColumnsFrom = 600;
+/// From this width on the second group stands beside the first, and prices and numbers have room.
+constexpr int twoColumnsFrom = 680;
 /// From this width on the word "required" has room beside the labels.
 constexpr int requiredBesideFrom = 840;
 
@@ -180,15 +180,21 @@ QWidget *SheetForm::makeGeneralColumn()
     makes->addLayout(labelledBox(boxOf(Field::Model)), 1);
     layout->addLayout(makes);
     layout->addWidget(makeHeading(CarWords::generalInformation.toString(), this));
-    addRow(layout, {Field::Vin, Field::License});
+    QHBoxLayout *numbers = row();
+    numbers->addLayout(labelledBox(boxOf(Field::Vin)), 3); // of 17 characters
+    numbers->addLayout(labelledBox(boxOf(Field::License)), 2);
+    layout->addLayout(numbers);
     QHBoxLayout *dates = row();
     QVBoxLayout *registration = labelledBox(boxOf(Field::RegistrationMonth));
     m_registrationDue = named(new SignLine(this), u"registrationDue"_s);
     m_registrationDue->hide();
     registration->addWidget(m_registrationDue);
     dates->addLayout(registration, 1);
-    dates->addLayout(labelledBox(boxOf(Field::PurchaseDate)), 1);
-    dates->addLayout(labelledBox(boxOf(Field::Price)), 1);
+    for (const Field field : {Field::PurchaseDate, Field::Price}) {
+        QVBoxLayout *beside = labelledBox(boxOf(field));
+        beside->addStretch(1);
+        dates->addLayout(beside, 1);
+    }
     layout->addLayout(dates);
     addRow(layout, {Field::From});
     layout->addStretch(1);
@@ -212,13 +218,17 @@ QWidget *SheetForm::makeSideColumn()
     m_pictureColumn->addStretch(1);
     picture->addLayout(m_pictureColumn, 1);
     layout->addLayout(picture);
-    QHBoxLayout *heading = row();
-    heading->addWidget(makeHeading(CarWords::insuranceInformation.toString(), this), 1);
-    m_insuranceFact = named(makeQuietLabel({}, this), u"insuranceFact"_s);
-    heading->addWidget(m_insuranceFact, 0, Qt::AlignBottom);
-    layout->addLayout(heading);
+    layout->addWidget(makeHeading(CarWords::insuranceInformation.toString(), this));
     addRow(layout, {Field::Insurer, Field::InsurerTelephone});
-    addRow(layout, {Field::Policy, Field::InsuranceExpiration});
+    QHBoxLayout *policy = row();
+    QVBoxLayout *number = labelledBox(boxOf(Field::Policy));
+    number->addStretch(1); // beside a box that has a line below it
+    policy->addLayout(number, 1);
+    QVBoxLayout *expiration = labelledBox(boxOf(Field::InsuranceExpiration));
+    m_insuranceFact = named(new SignLine(this), u"insuranceFact"_s);
+    expiration->addWidget(m_insuranceFact);
+    policy->addLayout(expiration, 1);
+    layout->addLayout(policy);
     layout->addStretch(1);
     return column;
 }
@@ -306,11 +316,12 @@ void SheetForm::showRequired()
     m_boxes[boxOf(Field::Make)]->setPlaceholderText(word.isEmpty() ? word : u"or the model, "_s + word);
 }
 
-void SheetForm::setFacts(CarNeed::State registration, const QString &insurance)
+void SheetForm::setFacts(CarNeed::State registration, const Fact &insurance)
 {
     m_registrationDue->setWords(registration, CarWords::registrationIsDue.toString());
     m_registrationDue->setVisible(registration >= CarNeed::State::Due);
-    m_insuranceFact->setText(insurance);
+    m_insuranceFact->setWords(insurance.state, insurance.words);
+    m_insuranceFact->setVisible(!insurance.words.isEmpty());
 }
 
 /// Tab goes through the form in reading order.
@@ -357,7 +368,7 @@ int SheetForm::heightForWidth(int width) const
 
 void SheetForm::resizeEvent(QResizeEvent *event)
 {
-    const bool isWide = width() >= twoColumnsFrom;
+    const bool isWide = width() >= TypeScale::wide(twoColumnsFrom);
     const auto direction = isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
     m_columns->setDirection(direction);
     for (QBoxLayout *four : m_maintenanceRows) {

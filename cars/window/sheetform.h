@@ -41,8 +41,13 @@ public:
     void setLocked(bool locked);
     /// Whether the word "required" stands beside what a new car must have.
     void setNew(bool isNew);
-    /// "Registration Is Due" beside its month; what is to be said of the insurance beside its date.
-    void setFacts(CarNeed::State registration, const QString &insurance);
+    /// What is to be said below the date of the insurance.
+    struct Fact {
+        CarNeed::State state = CarNeed::State::NoInterval;
+        QString words;
+    };
+    /// "Registration Is Due" stands below its month.
+    void setFacts(CarNeed::State registration, const Fact &insurance);
     /// Puts a button under the picture.
     void setPictureButton(QPushButton *button);
 
@@ -82,7 +87,7 @@ private:
     QComboBox *m_make = nullptr;
     QComboBox *m_model = nullptr;
     SignLine *m_registrationDue = nullptr;
-    QLabel *m_insuranceFact = nullptr;
+    SignLine *m_insuranceFact = nullptr;
     QLabel *m_nameLabel = nullptr;
     QLabel *m_odometerLabel = nullptr;
     PictureFrame *m_picture = nullptr;
