@@ -35,6 +35,8 @@ LiveLine lineOf(const Vehicle &vehicle, const QString &words, LiveLine::Urgency 
 /// The line of an only car can do without its name: "Oil change overdue".
 LiveLine withoutName(LiveLine line)
 {
+    if (line.urgency != LiveLine::Plain)
+        line.shorter.clear(); // which says less than the words alone
     const QStringList forms = QStringList(line.text) + line.shorter;
     QString words = forms.last().sliced(line.nameLength + 2);
     words[0] = words[0].toUpper();
@@ -46,8 +48,13 @@ LiveLine lineOf(const CarRecord &car, const CarNeed &need, DateStyle style, QDat
 {
     const QString name = DueWords::shortName(need);
     const bool isAction = need.kind == CarNeed::Kind::Action;
-    if (need.state == CarNeed::State::Overdue)
-        return lineOf(car.vehicle, name + (isAction ? u" overdue"_s : u" ran out"_s), LiveLine::Overdue);
+    if (need.state == CarNeed::State::Overdue) {
+        LiveLine line =
+            lineOf(car.vehicle, name + (isAction ? u" overdue"_s : u" ran out"_s), LiveLine::Overdue);
+        if (isAction) // the sign before it says the rest
+            line.shorter = {car.vehicle.name + u": "_s + name};
+        return line;
+    }
     const QDate date = need.date();
     const QString begin = isAction ? name : QString(name + u" runs out"_s);
     if (need.isReadingOld && need.limit == CarNeed::Limit::Distance)

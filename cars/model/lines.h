@@ -165,8 +165,14 @@ inline QString nothingDue()
     return u"nothing due"_s;
 }
 
-/// "oil change +2": what a car needs, as its row of the list says it.
+/// "oil change and 2 more": what a car needs, as its row of the list says it.
 inline QString needAndMore(const QString &need, int others)
+{
+    return others == 0 ? need : QString(need + u" and "_s + QString::number(others) + u" more"_s);
+}
+
+/// "oil change +2", where there is less room.
+inline QString needPlus(const QString &need, int others)
 {
     return others == 0 ? need : QString(need + u" +"_s + QString::number(others));
 }

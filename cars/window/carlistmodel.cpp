@@ -60,6 +60,8 @@ QVariant CarListModel::data(const QModelIndex &index, int role) const
         return vehicle.slot;
     case wordsRole:
         return sign.words;
+    case shorterRole:
+        return sign.shorter;
     case urgencyRole:
         return sign.urgency;
     default:

@@ -18,7 +18,8 @@ public:
         enum Urgency { None, Due, Overdue };
 
         Urgency urgency = None;
-        QString words; ///< "Change Oil and Filter: overdue"
+        QString words;   ///< "oil change and 1 more"
+        QString shorter; ///< "oil change +1", where there is less room
 
         bool operator==(const Sign &) const = default;
     };
@@ -26,6 +27,7 @@ public:
     static constexpr int slotRole = Qt::UserRole;
     static constexpr int wordsRole = Qt::UserRole + 1;
     static constexpr int urgencyRole = Qt::UserRole + 2;
+    static constexpr int shorterRole = Qt::UserRole + 3;
 
     using QAbstractListModel::QAbstractListModel;
 

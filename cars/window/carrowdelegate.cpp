@@ -109,8 +109,10 @@ void CarRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
         painter->setPen(isSelected ? theme.onAccent : theme.quiet);
     }
     painter->setFont(TypeScale::label());
+    const QString shorter = index.data(CarListModel::shorterRole).toString();
+    const bool isWhole = shorter.isEmpty() || wordMetrics.horizontalAdvance(words) <= place.width();
     painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                      wordMetrics.elidedText(words, Qt::ElideRight, place.width()));
+                      wordMetrics.elidedText(isWhole ? words : shorter, Qt::ElideRight, place.width()));
 }
 
 bool CarRowDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

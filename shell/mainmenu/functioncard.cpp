@@ -115,8 +115,8 @@ QString FunctionCard::cutLine(const QFontMetrics &metrics, int width) const
             line = form;
     }
     const int missing = metrics.horizontalAdvance(line) - width;
-    if (missing > 0 && shorter.isEmpty() && m_line && m_line->nameLength > 0) {
-        const QString name = line.sliced(m_line->nameAt, m_line->nameLength);
+    const QString name = m_line ? m_line->text.mid(m_line->nameAt, m_line->nameLength) : QString();
+    if (missing > 0 && !name.isEmpty() && line.mid(m_line->nameAt, name.size()) == name) {
         const int room = std::max(0, metrics.horizontalAdvance(name) - missing);
         line.replace(m_line->nameAt, m_line->nameLength, metrics.elidedText(name, Qt::ElideRight, room));
     }
