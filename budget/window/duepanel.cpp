@@ -53,8 +53,10 @@ DuePanel::DuePanel(const Program &program, SpentYear &year, QWidget *parent)
     auto *rows = new QVBoxLayout(work);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(12);
-    rows->addWidget(makeQuietLabel(
-        u"Type a due day; Space ticks what is paid and adds what is missing of the plan"_s, work));
+    QLabel *hint = makeQuietLabel(
+        u"Type a due day; Space ticks what is paid and adds what is missing of the plan"_s, work);
+    hint->setWordWrap(true);
+    rows->addWidget(hint);
     rows->addWidget(new WholeRows(m_view), 1);
     setWork(work);
     setLeaveButton(u"dueClose"_s, u"C&lose"_s, ButtonKind::Main);

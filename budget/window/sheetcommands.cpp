@@ -255,21 +255,24 @@ void SheetCommands::spread()
     const bool isOneRow = range.height() == 1;
     const QString item = isOneRow ? inOneLine(wanted.rows[std::size_t(range.top)].item) : QString();
     const double there = isOneRow ? SheetEdits::sumToSpread(wanted, range) : 0;
-    const auto answer = m_program.dialogs.input(
-        m_window, BudgetMessages::spreadTitle(),
-        BudgetMessages::whichSum(item, range.height(), SheetEdits::monthsToSpread(range)),
-        there > 0 ? Amount::text(there) : QString());
-    if (!answer || answer->trimmed().isEmpty())
-        return;
-    const double sum = BudgetEntry::amountOf(*answer);
-    const bool isPartly = BudgetEntry::isPartlyRead(*answer);
-    if (sum <= 0)
-        show(BudgetMessages::onlyNumbers());
-    else if (!SheetEdits::spread(wanted, range, sum))
-        show(BudgetMessages::cellLimit());
-    else
-        finish(BudgetLines::spread(item), wanted, range,
-               isPartly ? BudgetLines::partlyRead(*answer, Amount::text(sum)) : QString());
+    const QString question =
+        BudgetMessages::whichSum(item, range.height(), SheetEdits::monthsToSpread(range));
+    QString offered = there > 0 ? Amount::text(there) : QString();
+    // A sum that is refused is asked for once more, as it was typed.
+    while (const auto answer =
+               m_program.dialogs.input(m_window, BudgetMessages::spreadTitle(), question, offered)) {
+        if (answer->trimmed().isEmpty())
+            return;
+        const double sum = BudgetEntry::amountOf(*answer);
+        if (sum > 0 && SheetEdits::spread(wanted, range, sum)) {
+            finish(BudgetLines::spread(item), wanted, range,
+                   BudgetEntry::isPartlyRead(*answer) ? BudgetLines::partlyRead(*answer, Amount::text(sum))
+                                                      : QString());
+            return;
+        }
+        show(sum <= 0 ? BudgetMessages::onlyNumbers() : BudgetMessages::cellLimit());
+        offered = *answer;
+    }
 }
 
 void SheetCommands::insertRow()

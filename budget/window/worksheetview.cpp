@@ -77,7 +77,7 @@ void WorksheetView::fit(bool isLow)
 
 void WorksheetView::refresh()
 {
-    m_title->setTitle(title());
+    m_title->setTitle(title(QLocale::LongFormat), title(QLocale::ShortFormat));
     m_foot->setWords(words());
 }
 
@@ -102,8 +102,9 @@ double WorksheetView::leftOf(std::size_t month) const
     return double(cents.value_or(0)) / 100;
 }
 
-/// What is left of the month of today; of another year, what is left of all its months.
-QString WorksheetView::title() const
+/// What is left of the month of today, which in short is named without its year; of another year, what is
+/// left of all its months.
+QString WorksheetView::title(QLocale::FormatType format) const
 {
     const QString year = QString::number(m_desk.year.year());
     const bool isSpent = m_desk.model.layer() == SheetLayer::Spent;
@@ -112,7 +113,9 @@ QString WorksheetView::title() const
     const auto words = isSpent ? BudgetLines::notSpent : BudgetLines::balance;
     if (isOfThisYear()) {
         const int month = m_program.clock.today().month();
-        return words(QLocale::c().monthName(month) + u' ' + year, leftOf(std::size_t(month - 1)));
+        const QString name = QLocale::c().monthName(month, format);
+        return words(format == QLocale::LongFormat ? QString(name + u' ' + year) : name,
+                     leftOf(std::size_t(month - 1)));
     }
     double left = 0;
     for (std::size_t month = 0; month < BudgetSheet::monthCount; ++month)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLocale>
 #include <QWidget>
 
 class BudgetYear;
@@ -41,7 +42,7 @@ public:
 private:
     void fit(bool isLow);
     void refresh();
-    QString title() const;
+    QString title(QLocale::FormatType format) const;
     QString words() const;
     double leftOf(std::size_t month) const;
     bool isEmpty() const;
