@@ -3,6 +3,7 @@
 #include "tools/pictures/albums.h"
 #include "tools/pictures/picturesession.h"
 
+#include <QDir>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -81,6 +82,55 @@ void furnish(const DataFolder &folder)
     }
 }
 
+/// A dozen cars, some with long names, of which the first has thousands of fill-ups.
+void crowd(const DataFolder &folder)
+{
+    CarFiles files(folder, DateStyle::Usa);
+    const QDateTime now(QDate(2026, 11, 21), QTime(10, 24));
+    for (int i = 4; i <= 12; ++i) {
+        CarRecord car = files.read(1).record;
+        car.vehicle.name = i % 3 == 0 ? u"Grandmother's old coup\u00e9 with the rust below its doors"_s
+                                      : u"Van number %1"_s.arg(i);
+        if (i % 2 == 0) {
+            for (ScheduledAction &action : car.sheet.actions)
+                action = {};
+        }
+        if (!files.create(car, now).isDone)
+            qFatal("a car cannot be made");
+    }
+    const CarRecord before = files.read(1).record;
+    CarRecord car = before;
+    for (int i = int(car.fuel.size()); i < 3000; ++i) {
+        FuelRow row = car.fuel[i % 10];
+        row.previous = QString::number(184'210 + 310 * i);
+        row.current = QString::number(184'210 + 310 * (i + 1));
+        row.date = QDate(2001, 1, 1).addDays(3 * i).toString(u"MM/dd/yyyy"_s);
+        car.fuel.append(row);
+    }
+    car.sheet.field(VehicleSheet::Odometer) = u"1114210"_s;
+    if (!files.save(before, car))
+        qFatal("a car cannot be written");
+}
+
+void takeExtremes(const Camera &camera)
+{
+    {
+        PictureSession session(camera);
+        crowd(session.program().folder);
+        session.open(Function::CarLog);
+        session.take("cars-many");
+        session.trigger("mVFuel");
+        session.take("cars-many-fuel");
+        session.clickRow("Combo1", 4);
+        session.trigger("mVDue");
+        session.take("cars-long-name");
+    }
+    PictureSession session(camera);
+    QDir(session.program().folder.path()).remove(u"CARMNT1.FIL"_s);
+    session.open(Function::CarLog);
+    session.take("cars-empty");
+}
+
 void takeCreation(PictureSession &session)
 {
     session.trigger("mONew");
@@ -118,4 +168,5 @@ void Albums::cars(const Camera &camera)
     session.take("cars-due-soon");
     session.box([&] { session.trigger("mODel"); }, [&] { session.take("cars-delete"); });
     takeCreation(session);
+    takeExtremes(camera);
 }

@@ -18,9 +18,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::array desks{Desk{"", {1280, 800}, 1, false, true}, Desk{"dark", {1280, 800}, 1, true, false},
-                           Desk{"1024", {1024, 768}, 1, false, false},
-                           Desk{"200", {1920, 1080}, 2, false, false}};
+constexpr std::array desks{
+    Desk{"", {1280, 800}, 1, 96, false, true},      Desk{"dark", {1280, 800}, 1, 96, true, false},
+    Desk{"1024", {1024, 768}, 1, 96, false, false}, Desk{"800", {800, 600}, 1, 96, false, false},
+    Desk{"200", {1920, 1080}, 2, 96, false, false}, Desk{"144", {1600, 900}, 1, 144, false, false}};
 
 /// On every Debian, and wide: what fits in it fits in the usual fonts.
 constexpr QLatin1StringView fontFamily = "DejaVu Sans"_L1;
@@ -72,7 +73,7 @@ QProcessEnvironment Desk::surroundings(const QString &folder) const
                                 {u"y"_s, 0},
                                 {u"width"_s, screen.width()},
                                 {u"height"_s, screen.height()},
-                                {u"logicalDpi"_s, 96},
+                                {u"logicalDpi"_s, dotsPerInch},
                                 {u"logicalBaseDpi"_s, 96},
                                 {u"dpr"_s, 1}};
     const QJsonObject screens{{u"windowFrameMargins"_s, false}, {u"screens"_s, QJsonArray{oneScreen}}};

@@ -15,6 +15,7 @@ struct Desk {
     const char *name; ///< behind a picture's name: "main-menu-dark"; the first desk has none
     QSize screen;     ///< in pixels
     int scale;        ///< of everything: 2 on a fine screen
+    int dotsPerInch;  ///< by which the toolkit scales everything as well
     bool isDark;      ///< the desktop's own windows are dark
     bool takesPages;  ///< printed pages look the same on every desk
 
