@@ -43,7 +43,7 @@ public:
     void addSummary(Page &page) const
     {
         PageItem::Columns columns;
-        columns.weights = {1.1, 1.9, 1.6, 2.1};
+        columns.weights = {0.9, 2.05, 1.55, 2.2};
         columns.lines = lines();
         page.table(columns);
         const QList<QStringList> figures = summary();
@@ -150,7 +150,7 @@ private:
                 {u"Total change:"_s, difference(m_figures.total)},
                 {u"Average of 7 days:"_s, week},
                 {u"Change on average:"_s, aWeek(m_figures.perWeek)},
-                {u"In the last four weeks:"_s, aWeek(m_figures.perWeekLately)}};
+                {u"Last four weeks:"_s, aWeek(m_figures.perWeekLately)}};
     }
 
     void addPhoto(Page &page, const QRectF &place, const QString &caption, WeightSheet::Field dateField,

@@ -7,7 +7,6 @@
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "weight/model/weightpaperlines.h"
-#include "weight/model/weightwords.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -44,8 +43,8 @@ std::vector<TableColumn<WeightCsvLine>> columns()
 {
     using Line = WeightCsvLine;
     return {{u"Line"_s, Qt::AlignRight, [](const Line &line) { return QString::number(line.number); }},
-            {WeightWords::headings()[0], Qt::AlignLeft, [](const Line &line) { return line.date; }},
-            {WeightWords::headings()[1], Qt::AlignRight, [](const Line &line) { return line.weight; }},
+            {u"Date"_s, Qt::AlignLeft, [](const Line &line) { return line.date; }},
+            {u"Weight"_s, Qt::AlignRight, [](const Line &line) { return line.weight; }},
             {u"What becomes of it"_s, Qt::AlignLeft, whatBecomesOf}};
 }
 
@@ -88,10 +87,10 @@ void WeightCsvPanel::makeView()
 void WeightCsvPanel::shareWidth()
 {
     const QFontMetrics body(TypeScale::body());
-    const auto widthOf = [&](const QString &text) { return body.horizontalAdvance(text) + 4 * inset; };
+    const auto widthOf = [&](const QString &text) { return body.horizontalAdvance(text) + 3 * inset; };
     m_view->setColumnWidth(Number, widthOf(u"10000"_s));
-    for (const Column column : {Date, Weight})
-        m_view->setColumnWidth(column, widthOf(WeightWords::headings()[column - Date]));
+    m_view->setColumnWidth(Date, widthOf(u"12/30/2026"_s));
+    m_view->setColumnWidth(Weight, widthOf(u"Weight"_s));
 }
 
 bool WeightCsvPanel::open(const QString &path, const WeightTable &weighIns)

@@ -55,10 +55,11 @@ WeightPrintPanel::WeightPrintPanel(Program &program, FunctionWindow *window,
     column->setContentsMargins({});
     column->setSpacing(8);
     column->addWidget(makeHeading(u"What is printed"_s, content));
-    column->addWidget(
-        makeQuietLabel(u"The first page tells what the weigh-ins come to; each of these begins on a new "
-                       "page, but for the graph."_s,
-                       content));
+    QLabel *hint = makeQuietLabel(u"The first page tells what the weigh-ins come to, with the graph; each of "
+                                  "the others begins on a new page."_s,
+                                  content);
+    hint->setWordWrap(true);
+    column->addWidget(hint);
     for (std::size_t i = 0; i < count; ++i) {
         if (i == firstOfLines) {
             column->addSpacing(8);
