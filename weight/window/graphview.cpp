@@ -87,6 +87,12 @@ void GraphView::setShown(Shown shown)
     m_choice->setCurrentIndex(shown);
 }
 
+WeightGraph::Extent GraphView::extent() const
+{
+    return m_choice->currentIndex() == Everything ? WeightGraph::Extent::Everything
+                                                  : WeightGraph::Extent::Last50;
+}
+
 void GraphView::refresh()
 {
     showFigures();

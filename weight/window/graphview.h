@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/controls/rowsmodel.h"
+#include "weight/model/weightgraph.h"
 #include "weight/window/personview.h"
 
 class FigureStrip;
@@ -21,6 +22,8 @@ public:
     explicit GraphView(const WeightDesk &desk);
 
     void setShown(Shown shown);
+    /// How much of the history the graph has.
+    WeightGraph::Extent extent() const;
 
 protected:
     void refresh() override;

@@ -5,6 +5,7 @@
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
+#include "weight/window/graphview.h"
 #include "weight/window/openperson.h"
 #include "weight/window/personviews.h"
 #include "weight/window/weightprintpanel.h"
@@ -35,7 +36,7 @@ void PersonPrint::open()
     if (!m_panel) {
         m_panel =
             new WeightPrintPanel(m_desk.program, &m_desk.window, [this] { return m_desk.person.sheet(); });
-        m_panel->setExtent(m_extent);
+        m_panel->setExtent([this] { return m_views.graph().extent(); });
         m_desk.views.addPanel(m_panel);
         connect(m_panel, &WeightPrintPanel::said, this, &PersonPrint::said);
         connect(m_panel, &TaskPanel::left, this, [this] {

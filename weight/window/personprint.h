@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "weight/model/weightgraph.h"
 #include "weight/window/weightdesk.h"
 
 #include <QObject>
-
-#include <functional>
 
 class PersonViews;
 class QAction;
@@ -21,9 +18,6 @@ class PersonPrint final : public QObject
 public:
     PersonPrint(const WeightDesk &desk, const PersonViews &views, QObject *parent);
 
-    /// How much of its history the graph on paper has; the last 50 weigh-ins unless told otherwise.
-    void setExtent(std::function<WeightGraph::Extent()> extent) { m_extent = std::move(extent); }
-
     /// Puts the command into `menu` and on the toolbar.
     void addCommand(QMenu *menu);
 
@@ -36,7 +30,6 @@ private:
 
     WeightDesk m_desk;
     const PersonViews &m_views;
-    std::function<WeightGraph::Extent()> m_extent;
     WeightPrintPanel *m_panel = nullptr; ///< made when it is first opened
     QWidget *m_from = nullptr;           ///< what it stands over
 };

@@ -4,6 +4,7 @@
 #include "shell/charts/paperchart.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/program/program.h"
+#include "weight/model/weightchart.h"
 #include "weight/model/weightpaperlines.h"
 
 #include <QCheckBox>
@@ -37,6 +38,14 @@ constexpr std::array<Choice, 7> choices{
      {&Options::borderLines, u"Print Border Lines", "printBorder"_L1},
      {&Options::dividerLines, u"Divider Lines", "printDividers"_L1}}};
 constexpr std::size_t firstOfLines = 5;
+
+/// As on the screen; its caption stands on the page already.
+LineChart graphOf(const WeightSheet &sheet, WeightGraph::Extent extent, const PageContext &context)
+{
+    LineChart chart = WeightChart::of(sheet, extent, context.today, context.style);
+    chart.caption.clear();
+    return chart;
+}
 
 } // namespace
 
@@ -130,8 +139,7 @@ void WeightPrintPanel::print()
     const auto page = [this, sheet, options, pictures, extent](const PageContext &context) {
         WeightPages::Pictures all = pictures;
         if (options.graph)
-            all.graph =
-                storeGraph(WeightGraph::of(sheet, extent).chart(), WeightPages::graphSize(context.setup));
+            all.graph = storeGraph(graphOf(sheet, extent, context), WeightPages::graphSize(context.setup));
         return WeightPages::printout(sheet, options, all, context);
     };
     m_window->showPreview(page, sheet.field(WeightSheet::Name).trimmed() + u" Weight Tracker Printout"_s);
