@@ -2,6 +2,7 @@
 #include "weight/window/weighinmodel.h"
 
 #include "shell/controls/gridcell.h"
+#include "weight/model/weightcolumns.h"
 #include "weight/model/weightdates.h"
 #include "weight/model/weightentry.h"
 #include "weight/model/weightnumbers.h"
@@ -25,12 +26,6 @@ QString heading(int column)
     default:
         return u"Beginning Weight Difference"_s;
     }
-}
-
-/// Single precision, as the weights themselves; empty where one of them is missing.
-QString difference(std::optional<float> weight, std::optional<float> from)
-{
-    return weight && from ? WeightNumbers::difference(double(*weight - *from)) : QString();
 }
 
 } // namespace
@@ -82,9 +77,9 @@ QString WeighInModel::text(int row, int column) const
     case Weight:
         return weight ? WeightNumbers::text(double(*weight)) : m_rows.weight(row);
     case Change:
-        return row == 0 ? u"N/A"_s : difference(weight, m_rows.number(row - 1));
+        return WeightColumns::change(m_rows, row);
     default:
-        return difference(weight, m_person.sheet().beginningWeight());
+        return WeightColumns::difference(m_rows, row, m_person.sheet().beginningWeight());
     }
 }
 
