@@ -41,6 +41,8 @@ FigureStrip::Labels FigureStrip::make()
     row->addWidget(labels.value, 1);
     rows->addLayout(row);
     // Without a factor: no caption is cut while another has room to spare.
+    for (QLabel *label : {labels.caption, labels.value})
+        label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     place->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_row->addWidget(place);
     return labels;

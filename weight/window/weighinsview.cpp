@@ -27,6 +27,7 @@
 #include "weight/window/windowlines.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -105,9 +106,21 @@ void WeighInsView::connectParts()
         const QString why = person().whyLocked();
         emit said(why.isEmpty() ? TrackerLines::isComputed() : why);
     });
+    keepEndInSight();
     connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
         if (column == WeighInModel::Date && person().whyLocked().isEmpty())
             sortRows();
+    });
+}
+
+/// The last weigh-in stays in sight when the table becomes lower, until somebody scrolls to another.
+void WeighInsView::keepEndInSight()
+{
+    QScrollBar *bar = m_table->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar](int at) { m_isAtEnd = at == bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int, int end) {
+        if (m_isAtEnd)
+            bar->setValue(end);
     });
 }
 
@@ -231,8 +244,6 @@ void WeighInsView::showRow(int row)
 {
     if (row < 0) {
         m_table->scrollToBottom();
-        // And once more when what stands around it has its place.
-        QMetaObject::invokeMethod(m_table, &CellGrid::scrollToBottom, Qt::QueuedConnection);
         return;
     }
     m_table->setCurrentIndex(m_model->index(row, WeighInModel::Weight));

@@ -53,6 +53,7 @@ private:
     QWidget *makeUncounted();
     QWidget *makeTable();
     void connectParts();
+    void keepEndInSight();
     void enter();
     void showToday();
     void showFigures();
@@ -75,5 +76,6 @@ private:
     QLabel *m_empty;
     LineChartView *m_chart; ///< beside the table, where there is room
     QBoxLayout *m_besides;
-    QString m_shown; ///< the name of the person whose rows are shown
+    bool m_isAtEnd = true; ///< the table is scrolled to its last row
+    QString m_shown;       ///< the name of the person whose rows are shown
 };
