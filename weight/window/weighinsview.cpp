@@ -35,7 +35,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 constexpr int reachedSign = 24;
 /// From this width on the chart has room beside the table.
-constexpr int chartFrom = 820;
+constexpr int chartFrom = 960;
 } // namespace
 
 WeighInsView::WeighInsView(const WeightDesk &desk)
