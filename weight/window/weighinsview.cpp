@@ -83,6 +83,7 @@ QWidget *WeighInsView::makeTable()
         heading->resizeSection(column, TypeScale::wide(width));
     }
     heading->setSectionsClickable(true);
+    heading->setHighlightSections(false);
     heading->setFixedHeight(2 * QFontMetrics(TypeScale::body()).lineSpacing() + 12);
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
