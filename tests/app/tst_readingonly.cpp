@@ -77,12 +77,12 @@ private slots:
              u"mEBack mEPaste mEPaste_tool mERec mERedo mEUndo mOC mOCal mOClr mOSave mUImport mUR"_s,
              u"Option7_0 Option7_1 clearDay saveDay"_s},
             {"cars", open<Function::CarLog>,
-             u"createNext createSave deleteFillUp loadPicture mEBack mEDelete mEPasteCells mERedo mEUndo mOC "
-             u"mODel "
-             "mONew mOProgKilo mOProgMiles mOSave mUBringIn mUR"_s,
+             u"clearCells createNext createSave deleteFileKey deleteFillUp loadPicture mEBack mEDelete "
+             "mEPasteCells mERedo mEUndo mOC mODel mONew mOProgKilo mOProgMiles mOSave mUBringIn mUR"_s,
              u"createNew dueViewNext dueViewSave dueViewSaveExit emptyCreate emptyRestore"_s},
             {"weight", open<Function::WeightTracker>,
-             u"deletePersonKey loadPicture1 loadPicture2 mEAdd mEBack mEDel mERedo mESort mEUndo mOC mODel mONew mOSave mOSaveNew mOTold mUR"_s,
+             u"deletePersonKey loadPicture1 loadPicture2 mEAdd mEBack mEDel mERedo mESort mEUndo mOC mODel "
+             "mONew mOSave mOSaveNew mOTold mUBringIn mUR"_s,
              u"Command10 addRow createNew deleteRow emptyCreate emptyRestore"_s},
             {"password control", open<Function::PasswordControl>, u"mOC mOSave"_s,
              u"Check1_0 Check1_1 Check1_11 Check1_13 Check1_14 Check1_15 Check1_16 Check1_2 Check1_9 "
