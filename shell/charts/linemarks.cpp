@@ -49,8 +49,8 @@ void LineMarks::draw(QCPPainter *painter)
     drawForecast(painter);
     drawLevels(painter);
     drawPoints(painter);
-    drawForecastName(painter);
     drawCurrent(painter);
+    drawForecastName(painter);
     painter->restore();
     drawNames(painter);
     painter->setFont(m_style.label);

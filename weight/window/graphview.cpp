@@ -5,6 +5,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/figurestrip.h"
 #include "shell/controls/listrowdelegate.h"
+#include "shell/controls/lowwindow.h"
 #include "shell/controls/titleline.h"
 #include "shell/program/program.h"
 #include "weight/model/weightchart.h"
@@ -50,6 +51,7 @@ WeightPeriod::Length lengthOf(GraphView::Shown shown)
 
 GraphView::GraphView(const WeightDesk &desk)
     : PersonView(u"graph"_s, desk)
+    , m_low(new LowWindow(this))
     , m_figures(new FigureStrip(u"graphFigures"_s, this))
     , m_choice(named(new QComboBox(this), u"graphShown"_s))
     , m_stack(new QStackedWidget(this))
@@ -126,7 +128,9 @@ void GraphView::showWork()
     m_chart->setChart(WeightChart::of(person().sheet(), extent, desk().program.clock.today(),
                                       desk().program.state.dateStyle));
     m_stack->setCurrentWidget(m_chart);
-    setFocusProxy(m_chart->chart().isEmpty() ? static_cast<QWidget *>(m_choice) : m_chart);
+    // In a low window the focus of the chart would scroll the title away.
+    const bool isChart = !m_chart->chart().isEmpty() && !m_low->isLow();
+    setFocusProxy(isChart ? static_cast<QWidget *>(m_chart) : m_choice);
 }
 
 void GraphView::showPeriods(Shown shown)

@@ -7,6 +7,7 @@
 
 class FigureStrip;
 class LineChartView;
+class LowWindow;
 class QComboBox;
 class QStackedWidget;
 class QTableView;
@@ -39,6 +40,7 @@ private:
     void showPeriods(Shown shown);
     void fitColumns();
 
+    LowWindow *m_low;
     FigureStrip *m_figures;
     QComboBox *m_choice;
     QStackedWidget *m_stack;
