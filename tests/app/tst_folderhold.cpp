@@ -11,6 +11,12 @@
 using namespace Qt::Literals::StringLiterals;
 using Result = FolderHold::Result;
 
+namespace {
+
+const bool isWindows = QSysInfo::kernelType() == "winnt"_L1;
+
+} // namespace
+
 class TestFolderHold : public QObject
 {
     Q_OBJECT
@@ -34,6 +40,8 @@ private slots:
     {
         const auto [name, hasLock, hasLine, hangs, whyReadOnly, result] =
             row<QString, bool, bool, bool, QString, int>();
+        if (isWindows && !hasLine)
+            QSKIP("a line can always be made here");
         const TestFolder test;
         const DataFolder folder(test.path(name), whyReadOnly);
         if (!hasLock)
@@ -50,8 +58,8 @@ private slots:
         temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
         QCOMPARE(int(taken), result);
         // Who only reads leaves the lock to others.
-        QCOMPARE(FolderLock(folder).take(),
-                 !name.isEmpty() || !whyReadOnly.isEmpty() || taken != Result::Ours);
+        const bool isFree = !name.isEmpty() || !whyReadOnly.isEmpty() || taken != Result::Ours;
+        QCOMPARE(FolderLock(folder).take(), isFree || (isWindows && !hasLock)); // which cannot lock folders
     }
 
     /// The question about a held folder: a lock can be taken over at once, but on Windows only when the
@@ -64,7 +72,7 @@ private slots:
         QVERIFY(other->take());
         FolderHold hold(test.folder());
         ScriptedDialogs dialogs;
-        if (QSysInfo::kernelType() == "winnt"_L1) {
+        if (isWindows) {
             dialogs.willAnswer(Answer::Yes);
             dialogs.willAnswer(Answer::No);
             QCOMPARE(int(hold.takeOver(dialogs)), int(Result::Locked));

@@ -24,10 +24,12 @@ inline bool makeFile(const QString &path, const QByteArray &content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
-/// The path in the spelling of the disk: not every disk tells spellings apart.
+/// The path to compare others with: on a disk that does not tell spellings apart, one for them all.
 inline QString spelt(const QString &path)
 {
-    return QFileInfo(path).canonicalFilePath();
+    const QString found = QFileInfo(path).canonicalFilePath();
+    const bool isAnySpelling = QFileInfo::exists(found.toLower()) && QFileInfo::exists(found.toUpper());
+    return isAnySpelling ? found.toLower() : found;
 }
 
 /// `text`, blanks up to `width`.
