@@ -7,7 +7,6 @@
 #include "cars/model/costwords.h"
 #include "cars/model/fuellines.h"
 #include "cars/model/historylines.h"
-#include "cars/model/presentreading.h"
 #include "cars/window/opencar.h"
 #include "shell/core/dates.h"
 #include "shell/core/tabtext.h"
@@ -156,32 +155,16 @@ QString LogModel::paste(const QModelIndex &first, const GridText::Rows &rows)
 /// What a fill-up comes to follows what was typed into it.
 void LogModel::setCell(CarRecord &car, qsizetype row, int column, const QString &text) const
 {
-    const QString reading = m_part == CarPart::Fuel ? car.fuel[row].current : QString();
     CarRows::setText(car, m_part, row, column, text);
-    const bool isWorkedOut = m_part == CarPart::Fuel && column >= previousColumn && column <= economyColumn;
-    if (!isWorkedOut)
-        return;
-    car.fuel[row] = FuelFigures::completed(car.fuel[row], car.fuel.first(row));
-    if (car.fuel[row].current != reading)
-        goBack(car, reading);
+    if (m_part == CarPart::Fuel && column >= previousColumn && column <= economyColumn)
+        car.fuel[row] = FuelFigures::completed(car.fuel[row], car.fuel.first(row));
 }
 
 LogModel::Removal LogModel::removal(int row) const
 {
     Removal removal{HistoryLines::deleted(titleOf(row)), m_open.record()};
-    const QString reading = m_part == CarPart::Fuel ? removal.wanted.fuel[m_order[row]].current : QString();
     CarRows::remove(removal.wanted, m_part, m_order[row]);
-    if (m_part == CarPart::Fuel && goBack(removal.wanted, reading))
-        removal.title +=
-            u". "_s + FuelLines::readingFollowed(removal.wanted.sheet.field(VehicleSheet::Odometer));
     return removal;
-}
-
-/// What a fill-up reads no more, the car does not read either.
-bool LogModel::goBack(CarRecord &car, const QString &reading) const
-{
-    return m_open.whyLocked(CarPart::Sheet).isEmpty() &&
-           PresentReading::goBack(car, reading, m_open.savedReading());
 }
 
 int LogModel::rowCount(const QModelIndex &parent) const

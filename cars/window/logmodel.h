@@ -70,7 +70,6 @@ signals:
 private:
     QString text(const QModelIndex &index) const;
     const FillUp *fillUp(const QModelIndex &index) const;
-    bool goBack(CarRecord &car, const QString &reading) const;
     void setCell(CarRecord &car, qsizetype row, int column, const QString &text) const;
     void reorder(const QList<qsizetype> &order);
 
