@@ -83,8 +83,9 @@ AutoMaint::AutoMaint(Program &program, QWidget *parent)
           "car-log"_L1, u"No car is in the list yet"_s,
           u"A name, the make or model and what the odometer reads are enough to begin."_s, this))
 {
-    setWork(new SideSplitter(u"leftPaneSplitter"_s, m_list, makeWorkPanel(),
-                             [](QSize window) { return window.width() < 1200 ? 212 : 272; }));
+    setWork(new SideSplitter(u"leftPaneSplitter"_s, m_list, makeWorkPanel(), [](QSize window) {
+        return window.width() < 900 ? 180 : window.width() < 1200 ? 212 : 272;
+    }));
     makeCommands();
     setViews(m_stack);
     connectCar();

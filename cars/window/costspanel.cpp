@@ -26,6 +26,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int mostYearsInView = 5;
+constexpr int leastHeightWithTable = 520;
 } // namespace
 
 CostsPanel::CostsPanel(const CarDesk &desk)
@@ -98,7 +99,11 @@ void CostsPanel::showFigures(const CarCosts &costs)
 {
     const CostSums all = costs.all();
     const auto month = costs.perMonth();
-    setTitle(month ? CostWords::perMonth(*month, m_desk.program.clock.today()) : u"What the car costs"_s);
+    if (month)
+        titleLine().setTitle(CostWords::perMonth(*month, m_desk.program.clock.today()),
+                             HistoryLines::money(*month) + u" a month"_s);
+    else
+        setTitle(u"What the car costs"_s);
     QList<FigureStrip::Figure> figures;
     for (const CostKind kind : costKinds)
         figures.append({CostWords::kind(kind), HistoryLines::moneyOrNone(all.of(kind))});
@@ -130,8 +135,20 @@ void CostsPanel::showYears(const CarCosts &costs)
     m_table->ensurePolished();
     m_table->setFixedHeight(m_table->horizontalHeader()->height() + inView * ListRowDelegate::rowHeight() +
                             2 * m_table->frameWidth());
-    m_table->setVisible(m_model->rowCount() > 0);
+    placeTable();
     shareWidth();
+}
+
+/// In a low window the chart needs the room, which has the years too.
+void CostsPanel::placeTable()
+{
+    m_table->setVisible(m_model->rowCount() > 0 && height() >= leastHeightWithTable);
+}
+
+void CostsPanel::resizeEvent(QResizeEvent *event)
+{
+    placeTable();
+    TaskPanel::resizeEvent(event);
 }
 
 /// Each column has room for what stands in it; the columns share the rest.

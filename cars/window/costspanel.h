@@ -31,6 +31,7 @@ signals:
     void printWanted();
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -40,6 +41,7 @@ private:
     void makeTable();
     void showFigures(const CarCosts &costs);
     void showYears(const CarCosts &costs);
+    void placeTable();
     void shareWidth();
     void showChart();
 

@@ -18,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int boxWidthInPixels = 150;
+constexpr int leastBoxWidth = 96;
 } // namespace
 
 FuelCalculatorPanel::FuelCalculatorPanel(const CarDesk &desk)
@@ -68,7 +69,8 @@ void FuelCalculatorPanel::addBoxes(QGridLayout *grid, Box first, Box last)
     for (std::size_t i = first; i <= last; ++i) {
         auto *box = named(new QLineEdit(this), u"calculator"_s + names[i]);
         box->setAlignment(Qt::AlignRight);
-        box->setFixedWidth(boxWidthInPixels);
+        box->setMinimumWidth(leastBoxWidth);
+        box->setMaximumWidth(boxWidthInPixels);
         new PasteFilter(box, Characters::All);
         m_boxes[i] = box;
         m_captions[i] = makeQuietLabel({}, this);

@@ -19,6 +19,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -147,6 +148,7 @@ void LogPane::take()
     else
         emit said(HistoryLines::nothingTyped(m_model->part()));
     m_entry->setFocus();
+    m_entry->horizontalScrollBar()->setValue(0);
     m_entry->setCurrentIndex(m_new->index(0, m_new->firstColumn()));
 }
 

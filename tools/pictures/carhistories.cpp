@@ -81,9 +81,7 @@ void Albums::carHistories(const Camera &camera)
     session.clickRow("fuelEntry", 0, 2);
     session.type(u"84260"_s);
     session.key(Qt::Key_Tab);
-    session.key(Qt::Key_Tab);
     session.type(u"41.1"_s);
-    session.key(Qt::Key_Tab);
     session.key(Qt::Key_Tab);
     session.type(u"139.74"_s);
     session.take("car-fuel-typing");
