@@ -108,6 +108,7 @@ void PersonViews::addCommands(QMenu *menu)
         QAction *command = m_desk.commands.add(
             menu, face.name, face.caption, [this, i] { look(Place(i)); }, {}, CommonKeys::views[i]);
         QAction *tool = m_desk.commands.tool(command, face.icon, face.word, face.name + u"_tool"_s);
+        m_commands[i] = command;
         marks->add(m_views[i], {command, tool});
     }
 }

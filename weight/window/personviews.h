@@ -11,6 +11,7 @@ class GraphView;
 class PersonView;
 class PhotosView;
 class PlanView;
+class QAction;
 class QMenu;
 class WeighInsView;
 
@@ -36,6 +37,8 @@ public:
     void open(Place place);
     /// Puts the commands that open them into `menu` and on the toolbar.
     void addCommands(QMenu *menu);
+    /// The command that opens a view, for buttons.
+    QAction *command(Place place) const { return m_commands[place]; }
     /// What is still being typed in the view in front goes into the sheet.
     void finishEdit() const;
 
@@ -49,4 +52,5 @@ private:
 
     WeightDesk m_desk;
     std::array<PersonView *, count> m_views{};
+    std::array<QAction *, count> m_commands{};
 };

@@ -156,6 +156,8 @@ void WeightTracker::makeFoot()
     rows.addLeft(
         commands().button(m_commands.deleteRow, u"deleteRow"_s, m_commands.deleteRow->text(), &rows));
     rows.addLeft(commands().button(m_commands.dates, u"dateChecker"_s, m_commands.dates->text(), &rows));
+    QAction *graph = m_views->command(PersonViews::Graph);
+    rows.addRight(commands().button(graph, u"graphDisplay"_s, graph->text(), &rows));
     ButtonRow &plan = m_views->plan().foot();
     plan.addLeft(commands().button(m_commands.remove, u"Command8"_s, m_commands.remove->text(), &plan));
     plan.addRight(commands().button(m_commands.saveNew, u"Command11"_s, m_commands.saveNew->text(), &plan));
