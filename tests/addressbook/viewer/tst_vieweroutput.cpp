@@ -56,7 +56,8 @@ private slots:
         trigger("mOExp");
         const Message notice = asked().constFirst();
         QCOMPARE(notice.title, u"Export File in Excel/Spreadsheet Format"_s);
-        QVERIFY(notice.text.contains(m_test->folder.path()) && notice.text.contains(name));
+        QVERIFY(notice.text.contains(QDir::toNativeSeparators(m_test->folder.path())) &&
+                notice.text.contains(name));
         QCOMPARE(m_test->bytes(name), written);
         QVERIFY(words.isEmpty() || said().startsWith(words));
     }
