@@ -50,6 +50,7 @@ private slots:
 
     void showsTheTotalsOfItsLayer()
     {
+        m_window->resize(1280, 800); // the title has its long form
         QCOMPARE(labelText("budgetTitle"), u"March 2026: 50.00 left"_s);
         trigger("mVSpent");
         QCOMPARE(labelText("budgetTitle"), u"March 2026: 150.00 not spent yet"_s);
