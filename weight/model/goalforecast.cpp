@@ -63,22 +63,23 @@ std::optional<FourWeeks> FourWeeks::of(const WeightSeries &byDay)
 }
 
 GoalForecast GoalForecast::of(const WeightSeries &byDay, std::optional<double> beginning,
-                              std::optional<double> goal, QDate today)
+                              std::optional<double> goal, QDate today, std::optional<double> current)
 {
     if (!goal)
         return {Kind::NoGoal, {}, {}, {}};
     if (byDay.isEmpty())
         return {Kind::TooFew, {}, {}, {}};
     const DayWeight &last = byDay.last();
+    const double weight = current.value_or(last.weight);
     const double from = beginning.value_or(byDay.first().weight);
-    if (isReached(last.weight, *goal, from))
+    if (isReached(weight, *goal, from))
         return {Kind::Reached, {}, {}, {}};
     if (last.date.daysTo(today) > FourWeeks::days)
         return {Kind::TooOld, {}, {}, {}};
     const auto weeks = FourWeeks::of(byDay);
     if (!weeks)
         return {Kind::TooFew, {}, {}, {}};
-    const Aim aim{*goal, last.weight < *goal, std::max(today, last.date.addDays(1))};
+    const Aim aim{*goal, weight < *goal, std::max(today, last.date.addDays(1))};
     if (!aim.isAhead(weeks->perDay))
         return {Kind::LeadsAway, {}, {}, {}};
     const QDate date = crossing(*weeks, weeks->perDay, aim);

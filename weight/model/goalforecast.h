@@ -40,7 +40,7 @@ struct GoalForecast {
 
     /// `beginning` tells on which side of the goal the person began; without it the first weigh-in does.
     static GoalForecast of(const WeightSeries &byDay, std::optional<double> beginning,
-                           std::optional<double> goal, QDate today);
+                           std::optional<double> goal, QDate today, std::optional<double> current = {});
 
     /// Whether a weight is at the goal, or beyond it seen from the beginning.
     static bool isReached(double weight, double goal, double beginning);

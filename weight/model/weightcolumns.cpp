@@ -68,15 +68,20 @@ Way WeightColumns::sinceBeginning(const WeightSheet &sheet)
 
 Way WeightColumns::sinceLastEntry(const WeightSheet &sheet)
 {
-    const qsizetype last = lastWeighed(sheet.weighIns, sheet.weighIns.rowCount());
+    const qsizetype last = currentRow(sheet.weighIns);
     const qsizetype before = lastWeighed(sheet.weighIns, last);
     return before < 0 ? Way::Unknown
                       : wayOf(between(*sheet.weighIns.number(before), *sheet.weighIns.number(last)));
 }
 
+qsizetype WeightColumns::currentRow(const WeightTable &weighIns)
+{
+    return lastWeighed(weighIns, weighIns.rowCount());
+}
+
 std::optional<float> WeightColumns::current(const WeightTable &weighIns)
 {
-    const qsizetype last = lastWeighed(weighIns, weighIns.rowCount());
+    const qsizetype last = currentRow(weighIns);
     return last < 0 ? std::nullopt : weighIns.number(last);
 }
 

@@ -27,6 +27,8 @@ Way sinceBeginning(const WeightSheet &sheet);
 /// From the entry before it to the current weight.
 Way sinceLastEntry(const WeightSheet &sheet);
 
+/// The last row that has a weight; -1: none has.
+qsizetype currentRow(const WeightTable &weighIns);
 /// The current weight.
 std::optional<float> current(const WeightTable &weighIns);
 

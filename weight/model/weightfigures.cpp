@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "weight/model/weightfigures.h"
 
+#include "weight/model/weightcolumns.h"
+
 #include <algorithm>
 
 namespace {
@@ -16,25 +18,32 @@ std::optional<double> asDouble(std::optional<float> weight)
 
 WeightFigures WeightFigures::of(const WeightSheet &sheet, QDate today)
 {
-    return of(WeightTrend::byDay(sheet.weighIns), asDouble(sheet.beginningWeight()),
-              asDouble(sheet.goalWeight()), today);
+    const WeightTable &rows = sheet.weighIns;
+    std::optional<DayWeight> current;
+    if (const qsizetype row = WeightColumns::currentRow(rows); row >= 0)
+        current = DayWeight{rows.day(row), double(*rows.number(row))};
+    return of(WeightTrend::byDay(rows), asDouble(sheet.beginningWeight()), asDouble(sheet.goalWeight()),
+              today, current);
 }
 
 WeightFigures WeightFigures::of(const WeightSeries &byDay, std::optional<double> beginning,
-                                std::optional<double> goal, QDate today)
+                                std::optional<double> goal, QDate today, std::optional<DayWeight> current)
 {
     WeightFigures figures;
-    figures.forecast = GoalForecast::of(byDay, beginning, goal, today);
-    if (byDay.isEmpty())
+    if (byDay.isEmpty()) {
+        figures.forecast = GoalForecast::of(byDay, beginning, goal, today);
         return figures;
+    }
     const DayWeight first = byDay.first();
     const DayWeight last = byDay.last();
-    figures.now = last;
+    const DayWeight now = current.value_or(last);
+    figures.forecast = GoalForecast::of(byDay, beginning, goal, today, now.weight);
+    figures.now = now;
     figures.trend = WeightTrend::smoothed(byDay).last().weight;
     if (beginning || byDay.size() > 1)
-        figures.total = last.weight - beginning.value_or(first.weight);
+        figures.total = now.weight - beginning.value_or(first.weight);
     if (goal)
-        figures.toGoal = *goal - last.weight;
+        figures.toGoal = *goal - now.weight;
     figures.weekAverage = average(byDay, last.date.addDays(1 - week), last.date);
     figures.weekBefore = average(byDay, last.date.addDays(1 - 2 * week), last.date.addDays(-week));
     if (const qint64 days = first.date.daysTo(last.date); days >= week)

@@ -30,21 +30,12 @@ QString orDash(const QString &text)
     return text.isEmpty() ? u"-"_s : text;
 }
 
-/// The last row that has a weight; -1: none.
-qsizetype currentRow(const WeightTable &weighIns)
-{
-    qsizetype row = weighIns.rowCount() - 1;
-    while (row >= 0 && !weighIns.number(row))
-        --row;
-    return row;
-}
-
 } // namespace
 
 QList<FigureStrip::Figure> Standing::figures(const WeightSheet &sheet, QDate today)
 {
     const WeightTable &rows = sheet.weighIns;
-    const qsizetype row = currentRow(rows);
+    const qsizetype row = WeightColumns::currentRow(rows);
     QString now;
     QString sinceBeginning;
     QString sinceLast;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/rows.h"
 #include "weight/model/weightfigures.h"
+#include "weight/model/weightnumbers.h"
 #include "weight/model/weightwords.h"
 
 #include <QTest>
@@ -104,6 +105,22 @@ private slots:
         const auto first = WeightFigures::of(series({{0, 200}}), {}, {}, start);
         QVERIFY(first.now && first.weekAverage && !first.total && !first.toGoal && !first.perWeek);
         QCOMPARE(WeightFigures::of({}, 201, 195, start).now, std::nullopt);
+    }
+
+    /// Of two weigh-ins on a day the last one is current, as in the table.
+    void takesTheLastRowForTheCurrentWeight()
+    {
+        WeightSheet sheet;
+        sheet.field(WeightSheet::BeginningWeight) = u"214.5"_s;
+        sheet.field(WeightSheet::GoalWeight) = u"190"_s;
+        sheet.weighIns.append({u"01/22/2026"_s, u"192.4"_s});
+        sheet.weighIns.append({u"01/22/2026"_s, u"191.9"_s});
+        const auto figures = WeightFigures::of(sheet, start.addDays(21));
+        QCOMPARE(figures.now->weight, double(191.9F));
+        QCOMPARE(WeightNumbers::difference(*figures.total), u"-22.6"_s);
+        QCOMPARE(WeightWords::toGoal(figures), u"1.9 to lose"_s);
+        sheet.weighIns.append({u"01/22/2026"_s, u"190"_s});
+        QCOMPARE(WeightWords::toGoal(WeightFigures::of(sheet, start)), u"reached"_s);
     }
 
     void saysItInWords_data()
