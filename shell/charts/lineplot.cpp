@@ -254,6 +254,10 @@ void LinePlot::fitAcross(int width)
         const double each = metrics.horizontalAdvance(m_chart.acrossText(m_view.to)) + tickSpace;
         m_days->points = ChartTicks::atPoints(m_chart.series.first().points, m_view.from, m_view.to,
                                               each * m_view.width() / width);
+        // A part between two points has its days told all the same.
+        if (m_days->points.size() < 2 && m_view.width() < m_whole.width())
+            m_days->points =
+                ChartTicks::Days::fitting(width / m_view.width(), each, each).between(m_view.from, m_view.to);
         return;
     }
     m_days->days =
