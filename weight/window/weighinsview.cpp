@@ -17,8 +17,8 @@
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "weight/model/messages.h"
+#include "weight/model/weightchart.h"
 #include "weight/model/weightcolumns.h"
-#include "weight/model/weightgraph.h"
 #include "weight/window/datecheck.h"
 #include "weight/window/openperson.h"
 #include "weight/window/standing.h"
@@ -30,12 +30,17 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int reachedSign = 24;
 /// From this width on the chart has room beside the table.
 constexpr int chartFrom = 960;
+/// Beside the words of a heading, and above and below them.
+constexpr int headingMargins = 24;
+constexpr int headingAir = 12;
 } // namespace
 
 WeighInsView::WeighInsView(const WeightDesk &desk)
@@ -77,14 +82,12 @@ QWidget *WeighInsView::makeTable()
     m_table->setAccessibleName(u"Weigh-ins"_s);
     QHeaderView *heading = m_table->horizontalHeader();
     heading->setSectionResizeMode(QHeaderView::Stretch);
-    // The longer headings have room in two lines.
     for (const auto &[column, width] : {std::pair(WeighInModel::Date, 112), {WeighInModel::Weight, 92}}) {
         heading->setSectionResizeMode(column, QHeaderView::Fixed);
         heading->resizeSection(column, TypeScale::wide(width));
     }
     heading->setSectionsClickable(true);
     heading->setHighlightSections(false);
-    heading->setFixedHeight(2 * QFontMetrics(TypeScale::body()).lineSpacing() + 12);
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
@@ -94,8 +97,24 @@ QWidget *WeighInsView::makeTable()
     return content;
 }
 
+/// A heading in a narrow column has as many lines as its words need.
+void WeighInsView::fitHeadings()
+{
+    QHeaderView *heading = m_table->horizontalHeader();
+    const QFontMetrics metrics(TypeScale::body());
+    int height = 2 * metrics.lineSpacing();
+    for (int column = 0; column < WeighInModel::columns; ++column) {
+        const QRect room(0, 0, heading->sectionSize(column) - headingMargins, QWIDGETSIZE_MAX);
+        const QString words = m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        height = std::max(height, metrics.boundingRect(room, Qt::TextWordWrap, words).height());
+    }
+    heading->setFixedHeight(height + headingAir);
+}
+
 void WeighInsView::connectParts()
 {
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, this, &WeighInsView::fitHeadings);
+    fitHeadings();
     connect(m_entry, &WeighInEntry::entered, this, &WeighInsView::enter);
     connect(m_entry, &WeighInEntry::said, this, &WeighInsView::said);
     connect(m_entry, &WeighInEntry::noticed, this, &WeighInsView::noticed);
@@ -232,8 +251,10 @@ void WeighInsView::beginDay()
 void WeighInsView::showFigures()
 {
     const WeightSheet &sheet = person().sheet();
-    LineChart way = WeightGraph::of(sheet).chart();
+    LineChart way = WeightChart::of(sheet, WeightGraph::Extent::Last50, desk().program.clock.today(),
+                                    desk().program.state.dateStyle);
     way.title = TrackerLines::wayTitle(sheet.weighIns.rowCount());
+    way.caption.clear();     // the graph's own view tells it
     way.across.name.clear(); // they stand below one another in the table
     m_chart->setChart(way);
     placeChart();
@@ -271,8 +292,10 @@ void WeighInsView::addRow()
 {
     if (!person().isOpen())
         emit noticed(WeightMessages::noneSelected());
-    else if (append(m_entry->typed()) && saveUnlessNew() && !person().isNew())
+    else if (append(m_entry->typed()) && saveUnlessNew() && !person().isNew()) {
+        emit done(TrackerLines::added(m_model->titleOf(m_model->rowCount() - 1)));
         emit noticed(WeightMessages::rowAdded());
+    }
 }
 
 /// False where the line was refused; the focus is where it can be typed anew.

@@ -52,6 +52,7 @@ private:
     QWidget *makeReached();
     QWidget *makeUncounted();
     QWidget *makeTable();
+    void fitHeadings();
     void connectParts();
     void keepEndInSight();
     void enter();

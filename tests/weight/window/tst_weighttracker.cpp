@@ -73,6 +73,7 @@ private slots:
         click("addRow");
         QCoreApplication::processEvents();
         QCOMPARE(asked(), {WeightMessages::rowAdded()});
+        QCOMPARE(said(), u"Added and saved: weigh-in, 11/21/2026"_s);
         QCOMPARE(cells(49), (QStringList{u"11/21/2026"_s, {}, {}, {}}));
         QVERIFY(file(nils).endsWith("\"192.2\"\r\n\"11/21/2026\"\r\n\"\"\r\n"));
         grid()->setCurrentIndex(grid()->model()->index(49, 0));
