@@ -234,13 +234,12 @@ QString CarCsvImport::readCell(CarCsvLine &line, std::size_t column, const QStri
     return found;
 }
 
-/// The number as it is stored: as it was typed where it can be read so, else its digits with a point before
-/// the decimals. Empty where `text` is none, or below 0.
+/// The number as it is stored: plain, as what is typed is. Empty where `text` is none, or below 0.
 QString CarCsvImport::number(const QString &text) const
 {
-    if (m_decimal == u'.' && FuelFigures::sumOf(text))
-        return text.left(longestText);
-    constexpr QStringView signs = u"-(+";
+    if (const QString plain = CarNumbers::plain(text); m_decimal == u'.' && !plain.isEmpty())
+        return plain;
+    constexpr QStringView signs = u"-(+/:";
     QString digits;
     int letters = 0;
     for (const QChar character : text) {
@@ -253,7 +252,9 @@ QString CarCsvImport::number(const QString &text) const
         else if (signs.contains(character) || (character.isLetter() && ++letters > longestCurrency))
             return {};
     }
-    return digits.count(u'.') <= 1 && CarNumbers::number(digits) ? digits : QString();
+    if (digits.endsWith(u'.'))
+        digits.chop(1);
+    return digits.count(u'.') <= 1 ? CarNumbers::plain(digits) : QString();
 }
 
 /// A row is known by its date and, of a fill-up, its reading, else by what was done.
