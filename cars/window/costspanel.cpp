@@ -53,7 +53,7 @@ CostsPanel::CostsPanel(const CarDesk &desk)
     rows->addWidget(m_figures);
     rows->addWidget(m_stack, 1);
     rows->addWidget(m_table);
-    setWork(work);
+    setContent(work);
     connect(addButton(u"costsPrint"_s, u"&Print Costs"_s), &QPushButton::clicked, this,
             &CostsPanel::printWanted);
     setLeaveButton(u"costsClose"_s, u"C&lose"_s);
