@@ -27,6 +27,12 @@ inline QString readingFollowed(const QString &odometer)
     return u"The current odometer reading is now "_s + odometer;
 }
 
+/// Once the fill-up that had raised it is gone.
+inline QString readingWentBack(const QString &odometer)
+{
+    return u"The current odometer reading went back to "_s + odometer;
+}
+
 /// "29.4 miles per gallon on average"
 inline QString answer(const FuelSums &sums, DistanceUnit unit)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/historycommands.h"
 
+#include "cars/model/fuellines.h"
 #include "cars/model/historylines.h"
 #include "cars/model/lines.h"
 #include "cars/model/messages.h"
@@ -171,6 +172,7 @@ void HistoryCommands::deleteEntry()
         emit done(line);
 }
 
+/// What the deleted one had raised, the sheet's reading, may go back with it.
 void HistoryCommands::deleteFillUp()
 {
     LogPane &pane = shown()->pane();
@@ -178,6 +180,10 @@ void HistoryCommands::deleteFillUp()
         emit said(why);
     else if (!pane.isRowChosen())
         emit said(HistoryLines::chooseAFillUp());
-    else
-        emit done(pane.removeChosen(LogPane::Removing::Typed));
+    else {
+        const auto reading = [this] { return m_desk.car.record().sheet.field(VehicleSheet::Odometer); };
+        const QString before = reading();
+        const QString line = pane.removeChosen(LogPane::Removing::Typed);
+        emit done(reading() == before ? line : line + u". "_s + FuelLines::readingWentBack(reading()));
+    }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/opencar.h"
 
+#include "cars/model/fuellines.h"
 #include "cars/model/lines.h"
 #include "cars/model/presentreading.h"
 #include "shell/core/framelines.h"
@@ -99,12 +100,15 @@ void OpenCar::change(const QString &title, const CarRecord &wanted)
     const Record before = m_record;
     const auto after = std::make_shared<CarRecord>(wanted);
     // What no fill-up reads any more, the car does not read either.
-    if (wanted.fuel != m_record->fuel && whyLocked(CarPart::Sheet).isEmpty())
+    const bool wentBack =
+        wanted.fuel != m_record->fuel && whyLocked(CarPart::Sheet).isEmpty() &&
         PresentReading::goBack(*after, *m_record, m_saved->sheet.field(VehicleSheet::Odometer));
     setRecord(after);
     emit edited({title, [=, this] { return exchange(after, before); },
                  [=, this] { return exchange(before, after); }, UndoStep::Typed});
     emit changed();
+    if (wentBack)
+        emit said(FuelLines::readingWentBack(after->sheet.field(VehicleSheet::Odometer)));
 }
 
 ChangeResult OpenCar::exchange(const Record &shown, const Record &wanted)

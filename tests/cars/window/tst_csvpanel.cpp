@@ -92,6 +92,7 @@ private slots:
             QCoreApplication::processEvents();
             find<CarGrid>("fuelGrid")->setCurrentIndex(list->model()->index(0, 0));
             click("fuelDelete");
+            QVERIFY(said().endsWith(u"The current odometer reading went back to "_s + reading));
             QCOMPARE(present(), reading);
         }
         trigger("mEUndo");
