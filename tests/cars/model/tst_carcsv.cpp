@@ -59,13 +59,16 @@ private slots:
         CarRecord empty = exampleCar();
         empty.maintenance.clear();
         empty.fuel.clear();
-        const CarRecord car = exampleCar();
+        CarRecord car = exampleCar();
+        car.maintenance[0].odometer = u"81210"_s; // as it is stored: a plain number
         QCOMPARE(importOf(CarCsv::text(car.maintenance, DistanceUnit::Miles), CarPart::Maintenance, empty)
                      .result()
                      .maintenance,
                  car.maintenance);
+        FuelLog fuel = car.fuel;
+        fuel[0].cost = u"26.52"_s;
         QCOMPARE(importOf(CarCsv::text(car.fuel, DistanceUnit::Miles), CarPart::Fuel, empty).result().fuel,
-                 car.fuel);
+                 fuel);
     }
 
     void readsWhatOthersWrite_data()
