@@ -16,6 +16,16 @@ bool PresentReading::follow(CarRecord &car, const QString &reading)
     return true;
 }
 
+QString PresentReading::withoutFillUps(const CarRecord &car, const QString &before)
+{
+    const QString &present = car.sheet.field(VehicleSheet::Odometer);
+    const std::optional<double> number = CarNumbers::number(present);
+    const bool isRaised = number && *number > CarNumbers::number(before).value_or(0);
+    const bool isOfFillUp = std::ranges::any_of(
+        car.fuel, [&number](const FuelRow &row) { return CarNumbers::number(row.current) == number; });
+    return isRaised && isOfFillUp ? before : present;
+}
+
 bool PresentReading::goBack(CarRecord &car, const CarRecord &before, const QString &saved)
 {
     QString &present = car.sheet.field(VehicleSheet::Odometer);

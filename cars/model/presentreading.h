@@ -14,4 +14,7 @@ bool follow(CarRecord &car, const QString &reading);
 /// `saved`, what the file has, or to the highest that is known. False where it stays.
 bool goBack(CarRecord &car, const CarRecord &before, const QString &saved);
 
+/// The reading to go back to once `car` is saved: `before`, where a fill-up has raised it since.
+QString withoutFillUps(const CarRecord &car, const QString &before);
+
 } // namespace PresentReading

@@ -86,6 +86,7 @@ void OpenCar::open(const CarRecord &record, const States &states, bool isNew)
 {
     setRecord(std::make_shared<CarRecord>(record));
     m_saved = m_record;
+    m_ownReading = record.sheet.field(VehicleSheet::Odometer);
     m_states = states;
     m_isNew = isNew;
     emit fileTouched();
@@ -100,9 +101,8 @@ void OpenCar::change(const QString &title, const CarRecord &wanted)
     const Record before = m_record;
     const auto after = std::make_shared<CarRecord>(wanted);
     // What no fill-up reads any more, the car does not read either.
-    const bool wentBack =
-        wanted.fuel != m_record->fuel && whyLocked(CarPart::Sheet).isEmpty() &&
-        PresentReading::goBack(*after, *m_record, m_saved->sheet.field(VehicleSheet::Odometer));
+    const bool wentBack = wanted.fuel != m_record->fuel && whyLocked(CarPart::Sheet).isEmpty() &&
+                          PresentReading::goBack(*after, *m_record, m_ownReading);
     setRecord(after);
     emit edited({title, [=, this] { return exchange(after, before); },
                  [=, this] { return exchange(before, after); }, UndoStep::Typed});
@@ -155,6 +155,7 @@ bool OpenCar::write(const CarRecord &wanted)
         return false;
     }
     m_saved = std::make_shared<CarRecord>(wanted);
+    m_ownReading = PresentReading::withoutFillUps(wanted, m_ownReading);
     emit fileTouched();
     emit changed();
     return true;

@@ -88,6 +88,7 @@ private:
     CarFiles m_files;
     Record m_record;
     Record m_saved;
+    QString m_ownReading; ///< the last one in the file that no fill-up raised since the car was opened
     States m_states{};
     std::optional<DistanceUnit> m_firstUnit;
     bool m_isNew = false;
