@@ -38,9 +38,7 @@ FuelView::FuelView(const CarDesk &desk)
 {
     pane().setAmend(
         [this](CarRecord &wanted, qsizetype row, LogPane::Adding) { followReading(wanted, row); });
-    addContent(m_figures);
-    addContent(m_chart);
-    addContent(&pane(), 1);
+    addScrolling({m_figures, m_chart});
 }
 
 void FuelView::openCalculators()

@@ -19,8 +19,7 @@ HistoryView::HistoryView(const QString &name, const CarDesk &desk, CarPart part,
               u"&Add Entry"_s)
     , m_figures(new FigureStrip(name + u"Figures"_s, this))
 {
-    addContent(m_figures);
-    addContent(&pane(), 1);
+    addScrolling({m_figures});
 }
 
 void HistoryView::showFigures()
