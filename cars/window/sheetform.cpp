@@ -20,7 +20,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int rowGap = 10;
+constexpr int rowGap = 8; // all rows stand in the window as it opens
 constexpr int boxGap = 14;
 constexpr int columnGap = 28;
 constexpr int greatestWidth = 640;
