@@ -9,7 +9,8 @@ namespace CarCell {
 using namespace GridCell;
 
 enum HeadingRole {
-    groupRole = furtherRole ///< of a heading: what stands above it and its neighbours of the same group
+    groupRole = furtherRole, ///< of a heading: what stands above it and its neighbours of the same group
+    shortGroupRole           ///< the same in a word, where it has less room
 };
 
 } // namespace CarCell

@@ -73,16 +73,15 @@ QSize CarHeadings::sizeHint() const
     return {0, std::max(leastHeight, metrics.height() * lines + around)};
 }
 
-/// The part of its group's heading that lies over `section`: at the end of the group, over what has no group
-/// before it where the words need that, with a line under the group.
+/// The part of its group's heading that lies over `section`, with a line under the group; in a word where the
+/// group is narrower than its heading.
 void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) const
 {
-    const bool isBefore = groupOf(section).isEmpty();
-    const QString group = groupOf(isBefore ? section + 1 : section);
+    const QString group = groupOf(section);
     if (group.isEmpty())
         return;
-    int first = isBefore ? section + 1 : section;
-    int last = first;
+    int first = section;
+    int last = section;
     while (groupOf(first - 1) == group)
         --first;
     while (groupOf(last + 1) == group)
@@ -92,15 +91,15 @@ void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) 
     const int width = sectionPosition(last) + sectionSize(last) - sectionPosition(first);
     const QRect place = QRect(left, rect.top() + around / 4, width, metrics.height() + 2)
                             .adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
-    const int missing = metrics.horizontalAdvance(group) + 1 - place.width();
-    const bool hasRoom = first > 0 && groupOf(first - 1).isEmpty();
-    const QRect words = place.adjusted(hasRoom && missing > 0 ? -missing : 0, 0, 0, 0);
+    const bool isNarrow = metrics.horizontalAdvance(group) > place.width();
+    const QString words =
+        isNarrow ? model()->headerData(section, orientation(), CarCell::shortGroupRole).toString() : group;
     painter->save();
     painter->setClipRect(rect);
     painter->setFont(TypeScale::label());
     painter->setPen(Theme::of(this).quiet);
-    painter->drawText(words, Qt::AlignCenter | Qt::TextSingleLine,
-                      metrics.elidedText(group, Qt::ElideRight, words.width()));
+    painter->drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
+                      metrics.elidedText(words, Qt::ElideRight, place.width()));
     painter->setPen(Theme::of(this).edge);
     painter->drawLine(place.bottomLeft(), place.bottomRight());
     painter->restore();

@@ -51,6 +51,12 @@ QString groupOf(int column)
     return column < ScheduleColumn::remainingDistance ? u"Last Action"_s : u"Remaining"_s;
 }
 
+QString shortGroupOf(int column)
+{
+    const bool isInterval = column > ScheduleColumn::action && column < ScheduleColumn::lastReading;
+    return isInterval ? u"Interval"_s : groupOf(column);
+}
+
 CarCell::Kind kindOf(int column)
 {
     if (column == ScheduleColumn::action)
@@ -184,6 +190,8 @@ QVariant ScheduleModel::headerData(int section, Qt::Orientation orientation, int
         return headingOf(section, m_car.unit());
     case CarCell::groupRole:
         return groupOf(section);
+    case CarCell::shortGroupRole:
+        return shortGroupOf(section);
     case Qt::TextAlignmentRole: {
         const bool isLeft = section == ScheduleColumn::action || section == ScheduleColumn::lastDate;
         return QVariant::fromValue(Qt::AlignVCenter | (isLeft ? Qt::AlignLeft : Qt::AlignRight));
