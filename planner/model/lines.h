@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "planner/model/plannerdates.h"
 #include "planner/model/recurrencerun.h"
+#include "shell/core/calendardates.h"
 #include "shell/core/dates.h"
 
 #include <QList>
@@ -84,8 +84,8 @@ inline QString noSuchDate(const QString &text)
 
 inline QString beyondDates(DateStyle style)
 {
-    return u"The planner has the days from "_s + Dates::monthDayYear(PlannerDates::first(), style) +
-           u" to "_s + Dates::monthDayYear(PlannerDates::last(), style);
+    return u"The planner has the days from "_s + Dates::monthDayYear(CalendarDates::first(), style) +
+           u" to "_s + Dates::monthDayYear(CalendarDates::last(), style);
 }
 
 /// `rows` count from 0; not empty.

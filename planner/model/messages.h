@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "planner/model/recurrence.h"
+#include "planner/model/appointment.h"
 #include "shell/core/message.h"
+#include "shell/core/recurrence.h"
 
 #include <QDate>
 #include <QLocale>

@@ -2,7 +2,7 @@
 #include "planner/model/plannerfiles.h"
 
 #include "planner/model/dayrecord.h"
-#include "planner/model/plannerdates.h"
+#include "shell/core/calendardates.h"
 #include "storage/log.h"
 
 #include <QDir>
@@ -44,7 +44,7 @@ bool PlannerFiles::isReadable(int year) const
 
 PlannerDay PlannerFiles::peek(QDate date) const
 {
-    if (!PlannerDates::has(date))
+    if (!CalendarDates::has(date))
         return {};
     const RecordFile file = yearFile(date.year());
     const QByteArray record = file.read(DayRecord::number(date));
@@ -53,7 +53,7 @@ PlannerDay PlannerFiles::peek(QDate date) const
 
 PlannerDay PlannerFiles::read(QDate date) const
 {
-    if (PlannerDates::has(date))
+    if (CalendarDates::has(date))
         yearFile(date.year()).create();
     return peek(date);
 }
@@ -66,7 +66,7 @@ bool PlannerFiles::write(QDate date, const PlannerDay &day)
 
 bool PlannerFiles::write(QDate date, const PlannerDay &day, RecordChange &change)
 {
-    if (!PlannerDates::has(date))
+    if (!CalendarDates::has(date))
         return false;
     RecordChange written;
     add(date, day, written);
@@ -78,7 +78,7 @@ bool PlannerFiles::write(QDate date, const PlannerDay &day, RecordChange &change
 
 void PlannerFiles::add(QDate date, const PlannerDay &day, RecordChange &change) const
 {
-    if (!PlannerDates::has(date))
+    if (!CalendarDates::has(date))
         return;
     PlannerDay saved = day;
     saved.mark = PlannerDay::savedMark;
@@ -99,7 +99,7 @@ QByteArray PlannerFiles::yearBytes(int year) const
 
 void PlannerFiles::forEachDay(int year, const std::function<void(QDate, const PlannerDay &)> &visit) const
 {
-    if (year >= PlannerDates::firstYear && year <= PlannerDates::lastYear)
+    if (year >= CalendarDates::firstYear && year <= CalendarDates::lastYear)
         visitDays(yearBytes(year), QDate(year, 1, 1), QDate(year, 12, 31), visit);
 }
 
@@ -108,8 +108,8 @@ std::map<QDate, PlannerDay> PlannerFiles::days(QDate from, QDate to) const
     std::map<QDate, PlannerDay> days;
     if (!from.isValid() || !to.isValid())
         return days;
-    from = std::max(from, PlannerDates::first());
-    to = std::min(to, PlannerDates::last());
+    from = std::max(from, CalendarDates::first());
+    to = std::min(to, CalendarDates::last());
     for (int year = from.year(); year <= to.year(); ++year) {
         visitDays(yearBytes(year), std::max(from, QDate(year, 1, 1)), std::min(to, QDate(year, 12, 31)),
                   [&days](QDate date, const PlannerDay &day) { days.emplace_hint(days.end(), date, day); });

@@ -13,7 +13,7 @@
 #include <map>
 
 /// The year files of the planner: reads and writes the day of a date. Nothing is kept open or cached. A date
-/// beyond `PlannerDates` has no file: it is read as an empty day and cannot be written.
+/// beyond `CalendarDates` has no file: it is read as an empty day and cannot be written.
 class PlannerFiles
 {
 public:

@@ -2,8 +2,8 @@
 #include "planner/model/plannertrash.h"
 
 #include "planner/model/dayrecord.h"
-#include "planner/model/plannerdates.h"
 #include "planner/model/recurrencerun.h"
+#include "shell/core/calendardates.h"
 #include "shell/core/dates.h"
 
 #include <QRegularExpression>
@@ -28,7 +28,7 @@ QDate dateOf(const Trash::Piece &piece)
     static const QRegularExpression name(u"^ ([1-9]\\d{3})\\.Cal$"_s);
     const auto match = name.match(piece.file);
     const QDate date = match.hasMatch() ? DayRecord::date(piece.number, match.captured(1).toInt()) : QDate();
-    return PlannerDates::has(date) && DayRecord::isSaved(piece.bytes) ? date : QDate();
+    return CalendarDates::has(date) && DayRecord::isSaved(piece.bytes) ? date : QDate();
 }
 
 QString words(const QString &time, const QString &text)

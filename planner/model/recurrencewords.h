@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "planner/model/recurrence.h"
+#include "shell/core/recurrence.h"
 
 #include <QString>
 

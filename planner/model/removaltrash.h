@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "planner/model/appointment.h"
 #include "planner/model/plannerfiles.h"
-#include "planner/model/recurrence.h"
+#include "shell/core/recurrence.h"
 #include "storage/trash.h"
 
 #include <QDateTime>

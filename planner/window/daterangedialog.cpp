@@ -53,7 +53,7 @@ void DateRangeDialog::accept()
 {
     for (DateBox *box : {m_fromBox, m_toBox}) {
         const auto date = box->date();
-        if (!date || !PlannerDates::has(*date)) {
+        if (!date || !CalendarDates::has(*date)) {
             m_hint->setText(date ? PlannerLines::beyondDates(m_style)
                                  : PlannerLines::noSuchDate(box->text()));
             box->setFocus();

@@ -178,7 +178,7 @@ bool DayEditor::save()
             PlannerTrash::ofDay(m_program.folder, m_date, m_program.state.dateStyle, m_program.clock.now());
         lost && day.isEmpty())
         change.throwAway(*lost);
-    if (!PlannerDates::has(m_date) || !change.commit(m_program.folder)) {
+    if (!CalendarDates::has(m_date) || !change.commit(m_program.folder)) {
         emit said(PlannerLines::notSaved());
         return false;
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "planner/model/appointment.h"
 #include "planner/model/plannerfiles.h"
-#include "planner/model/recurrence.h"
 #include "planner/window/householdnotes.h"
 #include "shell/core/editedtexts.h"
 #include "shell/core/undostep.h"

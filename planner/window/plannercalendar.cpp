@@ -2,9 +2,9 @@
 #include "planner/window/plannercalendar.h"
 
 #include "planner/model/lines.h"
-#include "planner/model/plannerdates.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/monthview.h"
+#include "shell/core/calendardates.h"
 #include "shell/core/clock.h"
 #include "shell/look/theme.h"
 
@@ -29,7 +29,7 @@ constexpr int nameMargins = 6;
 
 void applyOptions(MonthView &month, const CalendarOptions &options, QDate today)
 {
-    month.setDateRange(PlannerDates::first(), PlannerDates::last());
+    month.setDateRange(CalendarDates::first(), CalendarDates::last());
     month.setFirstDayOfWeek(options.firstDay());
     month.setVerticalHeaderFormat(options.showsWeekNumbers() ? QCalendarWidget::ISOWeekNumbers
                                                              : QCalendarWidget::NoVerticalHeader);
@@ -69,7 +69,7 @@ PlannerCalendar::PlannerCalendar(const Clock &clock, MarkedDays markedDays, QWid
     connect(m_second, &QCalendarWidget::currentPageChanged, this, [this](int year, int month) {
         if (m_isSetting)
             return;
-        const QDate before = PlannerDates::within(QDate(year, month, 1).addMonths(-1));
+        const QDate before = CalendarDates::within(QDate(year, month, 1).addMonths(-1));
         m_first->setCurrentPage(before.year(), before.month());
     });
 }
@@ -145,7 +145,7 @@ void PlannerCalendar::showPages()
 {
     const QScopedValueRollback<bool> setting(m_isSetting, true);
     QDate second = firstShown().addMonths(1);
-    if (m_second->isVisibleTo(this) && !PlannerDates::has(second)) {
+    if (m_second->isVisibleTo(this) && !CalendarDates::has(second)) {
         // The last month of all stands below the one before it.
         second = firstShown();
         m_first->setCurrentPage(second.addMonths(-1).year(), second.addMonths(-1).month());

@@ -2,13 +2,13 @@
 #include "planner/window/plannerprint.h"
 
 #include "planner/model/lines.h"
-#include "planner/model/plannerdates.h"
 #include "planner/model/plannerpages.h"
 #include "planner/window/daterangedialog.h"
 #include "planner/window/dayeditor.h"
 #include "planner/window/daysview.h"
 #include "planner/window/plannerviews.h"
 #include "shell/controls/datebox.h"
+#include "shell/core/calendardates.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
@@ -86,7 +86,7 @@ void PlannerPrint::printRange()
     if (!m_mayReplaceDay())
         return;
     const QDate first = m_from.views->date();
-    const QDate last = PlannerDates::within(first.addMonths(1).addDays(-1));
+    const QDate last = CalendarDates::within(first.addMonths(1).addDays(-1));
     DateRangeDialog dialog(first, last, {m_program.state.dateStyle, m_program.clock}, m_window);
     if (m_program.dialogs.run(dialog) != QDialog::Accepted)
         return;

@@ -67,8 +67,8 @@ void PlannerViews::step(int steps)
         return;
     }
     const QDate wanted = view->after(date(), steps);
-    openDays(view, PlannerDates::within(wanted));
-    if (!PlannerDates::has(wanted))
+    openDays(view, CalendarDates::within(wanted));
+    if (!CalendarDates::has(wanted))
         emit said(PlannerLines::beyondDates(m_style));
 }
 

@@ -263,7 +263,7 @@ QString Zcalandar1::whyNoStep() const
 
 void Zcalandar1::goTo(QDate date)
 {
-    if (date.isValid() && !PlannerDates::has(date)) {
+    if (date.isValid() && !CalendarDates::has(date)) {
         m_side->setDate(m_day->date());
         activity().say(PlannerLines::beyondDates(program().state.dateStyle));
         return;

@@ -147,7 +147,7 @@ void RecurrenceRange::connectBoxes()
 void RecurrenceRange::reset(QDate date, const CalendarOptions &options)
 {
     m_beginning->setDate(date);
-    m_end->setDate(PlannerDates::within(date.addYears(1)));
+    m_end->setDate(CalendarDates::within(date.addYears(1)));
     m_occurrences->setText(u"10"_s);
     m_endBy->button(EndDate)->setChecked(true);
     m_calendarSets->button(Beginning)->setChecked(true);
@@ -160,7 +160,7 @@ std::optional<QString> RecurrenceRange::read(Recurrence &recurrence) const
     const auto beginning = m_beginning->date();
     if (!beginning)
         return PlannerLines::noBeginning();
-    if (!PlannerDates::has(*beginning))
+    if (!CalendarDates::has(*beginning))
         return PlannerLines::beyondDates(m_style);
     recurrence.beginning = *beginning;
     if (m_endBy->checkedId() == Occurrences) {
@@ -171,7 +171,7 @@ std::optional<QString> RecurrenceRange::read(Recurrence &recurrence) const
     recurrence.end = m_end->date();
     if (!recurrence.end)
         return PlannerLines::noEnd();
-    if (!PlannerDates::has(*recurrence.end))
+    if (!CalendarDates::has(*recurrence.end))
         return PlannerLines::beyondDates(m_style);
     return *recurrence.end < *beginning ? std::optional(PlannerLines::endBeforeBeginning()) : std::nullopt;
 }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "planner/model/calendaroptions.h"
-#include "planner/model/recurrence.h"
 #include "shell/core/programstate.h"
+#include "shell/core/recurrence.h"
 
 #include <QWidget>
 

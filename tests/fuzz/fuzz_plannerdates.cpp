@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzztarget.h"
 #include "planner/model/dayrecord.h"
-#include "planner/model/plannerdates.h"
-#include "planner/model/recurrence.h"
+#include "shell/core/calendardates.h"
 #include "shell/core/dates.h"
+#include "shell/core/recurrence.h"
 #include "storage/ansitext.h"
 
 #include <algorithm>
@@ -43,13 +43,13 @@ void tryRecurrence(int day, int interval, int kind)
     recurrence.kind = Recurrence::Kind(std::abs(kind % 6));
     recurrence.interval = interval;
     recurrence.dayOfMonth = 1 + std::abs(interval % 31);
-    recurrence.beginning = PlannerDates::within(QDate::fromJulianDay(day));
+    recurrence.beginning = CalendarDates::within(QDate::fromJulianDay(day));
     recurrence.yearDay = recurrence.beginning;
     recurrence.occurrences = 40;
     RecurrenceDates dates(withinTenYears(recurrence));
     QDate last = recurrence.beginning.addDays(-1);
     while (const auto date = dates.next()) {
-        require(PlannerDates::has(*date), "a recurrence stays within the planner's dates");
+        require(CalendarDates::has(*date), "a recurrence stays within the planner's dates");
         require(*date > last, "a recurrence goes on");
         last = *date;
     }
@@ -64,7 +64,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     const int second = takeNumber(bytes);
     const int third = takeNumber(bytes);
     tryRecord(first, second, bytes);
-    tryRecord(first % (DayRecord::last + 2), second % (PlannerDates::lastYear + 2), bytes);
+    tryRecord(first % (DayRecord::last + 2), second % (CalendarDates::lastYear + 2), bytes);
     tryRecurrence(first, second, third);
     const QString text = AnsiText::decode(bytes);
     for (const DateStyle style : {DateStyle::Usa, DateStyle::Other})

@@ -1,20 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "planner/model/recurrence.h"
+#include "shell/core/recurrence.h"
 
-#include "planner/model/plannerdates.h"
-#include "planner/model/plannerday.h"
-#include "storage/ansitext.h"
+#include "shell/core/calendardates.h"
 
 #include <algorithm>
 
 namespace {
-
-/// `text` as a row of this width gives it back after a save.
-QString asStored(const QString &text, qsizetype width)
-{
-    const QByteArray field = AnsiText::field(AnsiText::trimmedBlanks(text), width);
-    return AnsiText::trimmedBlanks(AnsiText::fieldText(field)).toString();
-}
 
 QDate onDay(int year, int month, int day)
 {
@@ -27,11 +18,6 @@ QDate onYearDay(int year, QDate yearDay)
 }
 
 } // namespace
-
-Appointment Appointment::ofRow(const QString &time, const QString &text)
-{
-    return {asStored(time, PlannerDay::timeWidth), asStored(text, PlannerDay::textWidth)};
-}
 
 RecurrenceDates::RecurrenceDates(const Recurrence &recurrence)
     : m_recurrence(recurrence)
@@ -89,7 +75,7 @@ QDate RecurrenceDates::dateAt(int step) const
 
 bool RecurrenceDates::isOver(QDate date) const
 {
-    if (!PlannerDates::has(date))
+    if (!CalendarDates::has(date))
         return true;
     return m_recurrence.end ? date > *m_recurrence.end : m_given >= m_recurrence.occurrences;
 }
@@ -128,7 +114,7 @@ std::optional<QDate> RecurrenceDates::next()
 bool RecurrenceDates::isCutShort() const
 {
     return !m_recurrence.end && m_given < m_recurrence.occurrences && m_first.isValid() &&
-           dateAt(m_step) > PlannerDates::last();
+           dateAt(m_step) > CalendarDates::last();
 }
 
 int RecurrenceDates::estimate() const

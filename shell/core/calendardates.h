@@ -5,8 +5,9 @@
 
 #include <algorithm>
 
-/// The dates that the planner has: those of a year of four digits, as the names of its files have them.
-namespace PlannerDates {
+/// The dates that everything dated may have: those of a year of four digits, as the names of the planner's
+/// files have them.
+namespace CalendarDates {
 
 inline constexpr int firstYear = 1000;
 inline constexpr int lastYear = 9999;
@@ -33,4 +34,4 @@ inline QDate within(QDate date)
     return std::clamp(date, first(), last());
 }
 
-} // namespace PlannerDates
+} // namespace CalendarDates

@@ -1,25 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/core/message.h"
-
 #include <QDate>
 
 #include <optional>
-
-/// The time and text that a recurrence repeats, cut to the widths of a day's row and freed of blanks on both
-/// sides, so that what is compared is what was stored.
-struct Appointment {
-    QString time;
-    QString text;
-
-    static Appointment ofRow(const QString &time, const QString &text);
-    bool isEmpty() const { return time.isEmpty() && text.isEmpty(); }
-    bool operator==(const Appointment &) const = default;
-};
-
-/// What is done with the appointment on the dates of its recurrence.
-enum class RecurrenceAction { Insert, Remove };
 
 /// When an appointment comes back: a kind with its interval, from a beginning date to an end date or for a
 /// number of occurrences.
@@ -47,8 +31,8 @@ struct Recurrence {
 
 /// The dates of a recurrence, one after another. 29 February falls on the 28th in other years. Every date
 /// that is given uses up an occurrence; looking for weekdays never goes over more than twice as many days as
-/// occurrences were asked for. An interval below 1 or an invalid beginning gives no date, and the planner's
-/// last day ends every recurrence.
+/// occurrences were asked for. An interval below 1 or an invalid beginning gives no date, and the last
+/// day of the calendar ends every recurrence.
 class RecurrenceDates
 {
 public:
