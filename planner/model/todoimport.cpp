@@ -8,10 +8,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace ToDoImport {
 
-std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style)
+std::vector<DatedToDo> items(const DataFolder &folder, DateStyle style)
 {
     const QStringList values = ValueFile::read(folder.filePath(u"TODOActv.FIL"_s));
-    std::vector<ToDoItem> items;
+    std::vector<DatedToDo> items;
     // Three values an item: text, date, and one that the planner has no use for. A cut last item may lack it.
     for (qsizetype i = 0; i + 1 < values.size(); i += 3) {
         const QString text = AnsiText::trimmedBlanks(values[i]).toString();

@@ -10,11 +10,11 @@
 #include <vector>
 
 /// A dated item of the To Do list, as the planner takes it in.
-struct ToDoItem {
+struct DatedToDo {
     QDate date;
     QString text;
 
-    bool operator==(const ToDoItem &) const = default;
+    bool operator==(const DatedToDo &) const = default;
 };
 
 /// Taking the To Do list's active items (`TODOActv.FIL`) into the planner.
@@ -23,6 +23,6 @@ namespace ToDoImport {
 /// The items that have a text and a date, in file order. The date is the last ten characters of the date
 /// text, read by `style` and the other way round when that is impossible; a date that cannot be read leaves
 /// the item out.
-std::vector<ToDoItem> items(const DataFolder &folder, DateStyle style);
+std::vector<DatedToDo> items(const DataFolder &folder, DateStyle style);
 
 } // namespace ToDoImport

@@ -4,7 +4,7 @@
 #include "planner/model/lines.h"
 #include "shell/core/dates.h"
 
-ToDoImportRun::ToDoImportRun(PlannerFiles &files, UntimedPlacement placement, std::vector<ToDoItem> items,
+ToDoImportRun::ToDoImportRun(PlannerFiles &files, UntimedPlacement placement, std::vector<DatedToDo> items,
                              QDate earliest)
     : m_files(files)
     , m_placement(placement)
@@ -16,7 +16,7 @@ bool ToDoImportRun::step()
 {
     if (m_next >= m_items.size())
         return false;
-    const ToDoItem &item = m_items[m_next++];
+    const DatedToDo &item = m_items[m_next++];
     if (item.date < m_earliest) {
         ++m_passedOver;
         return true;
@@ -31,7 +31,7 @@ bool ToDoImportRun::step()
 }
 
 /// Puts `item`, with an empty time, into its day.
-DateResult ToDoImportRun::insert(const ToDoItem &item)
+DateResult ToDoImportRun::insert(const DatedToDo &item)
 {
     if (!m_files.isReadable(item.date.year()))
         return DateResult::Failed; // what cannot be read is not empty

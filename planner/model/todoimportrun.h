@@ -10,7 +10,7 @@ class ToDoImportRun
 {
 public:
     /// Items dated before `earliest` are passed over.
-    ToDoImportRun(PlannerFiles &files, UntimedPlacement placement, std::vector<ToDoItem> items,
+    ToDoImportRun(PlannerFiles &files, UntimedPlacement placement, std::vector<DatedToDo> items,
                   QDate earliest);
 
     /// Works on the next item; false when there is none left, or when the disk refused this one.
@@ -33,11 +33,11 @@ public:
     QString report(bool wasStopped, DateStyle style) const;
 
 private:
-    DateResult insert(const ToDoItem &item);
+    DateResult insert(const DatedToDo &item);
 
     PlannerFiles &m_files;
     UntimedPlacement m_placement;
-    std::vector<ToDoItem> m_items;
+    std::vector<DatedToDo> m_items;
     QDate m_earliest;
     std::size_t m_next = 0;
     int m_made = 0;

@@ -19,7 +19,7 @@ QStringList importAll(const TestProgram &test, QDate earliest)
     const auto items = ToDoImport::items(test.folder, DateStyle::Usa);
     ToDoImportRun run(files, UntimedPlacement::First, items, earliest);
     QStringList done;
-    for (const ToDoItem &item : items) {
+    for (const DatedToDo &item : items) {
         const int made = run.made(), there = run.there(), full = run.full();
         if (!run.step())
             return {};
