@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 bool isLeftByEveryRun(const QString &name)
@@ -33,12 +35,20 @@ bool HouseholdFolder::holdsData(const DataFolder &folder)
     });
 }
 
+QString HouseholdFolder::filesOfProgram(const QString &programFolder)
+{
+    const QDir folder(programFolder);
+    const QDir shared(QDir::cleanPath(folder.filePath(u"../share/quillery"_s)));
+    return folder.dirName() == u"bin" && shared.exists() ? shared.path() : programFolder;
+}
+
 DataFolder HouseholdFolder::choose(const DataFolder &programFolder, const QString &own,
                                    const WriteTest &isWritable)
 {
-    if (isWritable(programFolder))
+    const bool isInstalled = filesOfProgram(programFolder.path()) != programFolder.path();
+    if (!isInstalled && isWritable(programFolder))
         return programFolder;
-    if (holdsData(programFolder))
+    if (!isInstalled && holdsData(programFolder))
         return DataFolder(programFolder.path(), FrameLines::folderCannotBeWritten());
     if (!QDir().mkpath(own))
         qCWarning(storageLog) << "cannot make the data folder" << own;

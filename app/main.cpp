@@ -60,13 +60,14 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName(u"Tessaly"_s);
     QApplication::setApplicationName(u"Quillery"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUILLERY_VERSION));
+    QApplication::setDesktopFileName(u"com.tessaly.quillery"_s);
     QApplication::setWindowIcon(Icons::applicationIcon());
     // The splash goes before the main window comes; the main window says when the program ends.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    const DataFolder programFolder(QApplication::applicationDirPath());
+    const QString programFolder = QApplication::applicationDirPath();
     DataFolder folder = HouseholdFolder::choose(
-        programFolder, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+        DataFolder(programFolder), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     FolderHold hold(folder);
     switch (take(hold)) {
     case FolderHold::Result::Answered:
@@ -79,5 +80,5 @@ int main(int argc, char *argv[])
     case FolderHold::Result::Ours:
         break;
     }
-    return run(application, programFolder, folder, hold.line());
+    return run(application, DataFolder(HouseholdFolder::filesOfProgram(programFolder)), folder, hold.line());
 }

@@ -45,6 +45,32 @@ private slots:
         const bool isForReading = !isWritable && !isOwn;
         QCOMPARE(chosen.whyReadOnly(), isForReading ? FrameLines::folderCannotBeWritten() : QString());
     }
+
+    void anInstalledProgramKeepsNothingBesideIt_data()
+    {
+        enum { Installed = true, Carried = false };
+        rows<QString, QString, bool>({
+            {"installed", u"usr/bin"_s, u"usr/share/quillery"_s, Installed},
+            {"for one user", u".local/bin"_s, u".local/share/quillery"_s, Installed},
+            {"carried in a folder of that name", u"stick/bin"_s, u"stick/share"_s, Carried},
+            {"carried beside an installed one", u"usr/Quillery"_s, u"usr/share/quillery"_s, Carried},
+        });
+    }
+
+    void anInstalledProgramKeepsNothingBesideIt()
+    {
+        const auto [folder, shared, isInstalled] = row<QString, QString, bool>();
+        const TestFolder disk;
+        const QDir top(disk.folder().path());
+        QVERIFY(top.mkpath(folder) && top.mkpath(shared));
+        const QString programFolder = disk.path(folder);
+        disk.put(folder % u"/Addbk1.Fil"_s, "x"); // not even a household there keeps it
+        const QString own = disk.path(u"own"_s);
+        QCOMPARE(HouseholdFolder::filesOfProgram(programFolder),
+                 isInstalled ? disk.path(shared) : programFolder);
+        QCOMPARE(HouseholdFolder::choose(DataFolder(programFolder), own).path(),
+                 isInstalled ? own : programFolder);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestHouseholdFolder)
