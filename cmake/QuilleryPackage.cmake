@@ -4,6 +4,7 @@
 include(GNUInstallDirs)
 set(linux "${PROJECT_SOURCE_DIR}/packaging/linux")
 set(made "${PROJECT_BINARY_DIR}/packaging")
+set(documents "${CMAKE_INSTALL_DATADIR}/doc/quillery")
 
 set(CPACK_PACKAGE_NAME quillery)
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
@@ -16,12 +17,11 @@ set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Quillery maintainers <maintainers@tessaly.e
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
-# Debian wants a short line and a text behind it.
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "household organizer
- Quillery keeps what a household has to remember, behind a main menu that
- tells about the day: addresses with pictures and birthdays, appointments, a
- budget, what the cars need, and weight. Everything can be seen as a page,
- printed and copied; the records are small files in the user's own folder.")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "household organizer")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Quillery keeps what a household has to remember, behind a main menu that
+tells about the day: addresses with pictures and birthdays, appointments, a
+budget, what the cars need, and weight. Everything can be seen as a page,
+printed and copied; the records are small files in the user's own folder.")
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 # A package needs no tests: what it holds is built before (packaging/linux/build).
@@ -51,8 +51,8 @@ function(quillery_install_packed source folder)
     install(FILES "${made}/${name}.gz" DESTINATION "${folder}")
 endfunction()
 configure_file("${linux}/changelog.in" "${made}/changelog" @ONLY)
-quillery_install_packed("${made}/changelog" "${CMAKE_INSTALL_DOCDIR}")
+quillery_install_packed("${made}/changelog" "${documents}")
 quillery_install_packed("${linux}/quillery.1" "${CMAKE_INSTALL_MANDIR}/man1")
-install(FILES "${linux}/copyright" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES "${linux}/copyright" DESTINATION "${documents}")
 
 include(CPack)
