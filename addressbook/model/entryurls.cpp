@@ -66,6 +66,8 @@ QUrl EntryUrls::map(const AddressEntry &entry)
     }
     if (entry[Address1].trimmed().isEmpty() && entry[City].trimmed().isEmpty())
         return {};
-    return QUrl::fromEncoded("https://www.openstreetmap.org/search?query=" +
-                             QUrl::toPercentEncoding(parts.join(u", "_s)));
+    // Put together first: later versions of Qt ask for a view, which no sum of texts becomes by itself.
+    const QByteArray address =
+        "https://www.openstreetmap.org/search?query=" + QUrl::toPercentEncoding(parts.join(u", "_s));
+    return QUrl::fromEncoded(address);
 }
