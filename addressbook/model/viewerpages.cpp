@@ -130,7 +130,7 @@ PageItem::Columns listColumns(const AddressViewer &viewer, const ViewerPages::Li
             std::max(leastInformation, usualLength(viewer, &AddressViewer::information));
         names *= std::clamp(name / (name + information), std::max(least, share(telephones.below)), most);
     }
-    columns.weights = {names};
+    columns.weights.push_back(names);
     columns.headings = {ViewerMessages::nameHeading()};
     if (telephone > 0) {
         columns.weights.push_back(telephone);
