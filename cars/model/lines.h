@@ -177,6 +177,11 @@ inline QString needPlus(const QString &need, int others)
     return others == 0 ? need : QString(need + u" +"_s + QString::number(others));
 }
 
+inline QString newReading()
+{
+    return u"Enter what the odometer reads now"_s;
+}
+
 /// Behind the cards of what is due; `count` more have no card.
 inline QString moreBelow(int count)
 {

@@ -15,31 +15,51 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 constexpr int corner = 10;
 constexpr int padding = 12;
+constexpr int flatPadding = 2;
+constexpr int leastWhen = 40;
 constexpr float overdueFill = 0.12F;
 } // namespace
 
 DueCard::DueCard(int number, QWidget *parent)
     : QWidget(parent)
+    , m_rows(new QVBoxLayout(this))
     , m_name(new ElidedLabel(this))
     , m_when(new SignLine(this))
     , m_howFar(new ElidedLabel(this))
     , m_button(makeButton(u"done_"_s + QString::number(number), u"Done..."_s, this))
 {
     setObjectName(u"dueCard_"_s + QString::number(number));
-    m_name->setFont(TypeScale::cardTitle());
     m_howFar->setFont(TypeScale::body());
     m_howFar->setForegroundRole(ThemeRole::quiet);
-    auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins(padding + 2, padding, padding, padding);
-    rows->setSpacing(4);
-    rows->addWidget(m_name);
-    rows->addWidget(m_when);
+    m_rows->addWidget(m_name, 1);
+    m_rows->addWidget(m_when);
     auto *foot = new QHBoxLayout;
     foot->setSpacing(8);
     foot->addWidget(m_howFar, 1, Qt::AlignVCenter);
     foot->addWidget(m_button);
-    rows->addLayout(foot);
+    m_rows->addLayout(foot);
+    setFlat(false);
     connect(m_button, &QPushButton::clicked, this, &DueCard::clicked);
+}
+
+void DueCard::setFlat(bool isFlat)
+{
+    m_rows->setDirection(isFlat ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const int above = isFlat ? flatPadding : padding;
+    m_rows->setContentsMargins(padding + 2, above, above, above);
+    m_rows->setSpacing(isFlat ? padding : 4);
+    m_name->setFont(isFlat ? TypeScale::strong() : TypeScale::cardTitle());
+    m_howFar->setVisible(!isFlat);
+}
+
+int DueCard::whenWidth() const
+{
+    return m_when->sizeHint().width();
+}
+
+void DueCard::setWhenWidth(int width)
+{
+    m_when->setMinimumWidth(std::max(width, leastWhen));
 }
 
 int DueCard::leastWidth()

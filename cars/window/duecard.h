@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class ElidedLabel;
+class QBoxLayout;
 class QLabel;
 class QPushButton;
 class SignLine;
@@ -31,6 +32,11 @@ public:
     static int narrowWidth();
 
     void show(const CarNeed &need, const Words &words);
+    /// In one line, without how far it is.
+    void setFlat(bool isFlat);
+    /// What the words about the time need; they stand one below the other in lines of the same width.
+    int whenWidth() const;
+    void setWhenWidth(int width);
     const CarNeed &need() const { return m_need; }
     QPushButton *button() const { return m_button; }
 
@@ -42,6 +48,7 @@ protected:
 
 private:
     CarNeed m_need;
+    QBoxLayout *m_rows;
     ElidedLabel *m_name;
     SignLine *m_when;
     ElidedLabel *m_howFar;

@@ -14,6 +14,8 @@ namespace {
 constexpr int gap = 12;
 constexpr int mostColumns = 4;
 constexpr int greatestWidth = 380;
+constexpr int greatestFlatWidth = 640;
+constexpr int flatGap = 4;
 constexpr int moreGap = 6;
 
 } // namespace
@@ -35,11 +37,13 @@ void DueCards::show(const QList<CarNeed> &needs, const DueCard::Words &words)
         if (!m_cards.empty())
             setTabOrder(m_cards.back()->button(), card->button());
         connect(card, &DueCard::clicked, this, [this, card] { emit chosen(card->need()); });
+        card->setFlat(m_isFlat);
         card->setPalette({}); // made late, it would have the colours of the window and not of its panel
         m_cards.push_back(card);
     }
     for (int i = 0; i < m_count; ++i)
         m_cards[std::size_t(i)]->show(needs[i], words);
+    align();
     updateGeometry();
     place();
 }
@@ -52,8 +56,30 @@ void DueCards::setRows(int rows)
     place();
 }
 
+void DueCards::setFlat(bool isFlat)
+{
+    if (std::exchange(m_isFlat, isFlat) == isFlat)
+        return;
+    for (DueCard *card : m_cards)
+        card->setFlat(isFlat);
+    align();
+    updateGeometry();
+    place();
+}
+
+void DueCards::align()
+{
+    int width = 0;
+    for (int i = 0; m_isFlat && i < m_count; ++i)
+        width = std::max(width, m_cards[std::size_t(i)]->whenWidth());
+    for (DueCard *card : m_cards)
+        card->setWhenWidth(width);
+}
+
 int DueCards::columnsIn(int width) const
 {
+    if (m_isFlat)
+        return 1;
     int room = std::clamp((width + gap) / (DueCard::leastWidth() + gap), 1, mostColumns);
     if (room == 1 && width >= 2 * DueCard::narrowWidth() + gap)
         room = 2;
@@ -70,6 +96,11 @@ int DueCards::cardHeight() const
     return m_cards.empty() ? 0 : m_cards.front()->sizeHint().height();
 }
 
+int DueCards::rowGap() const
+{
+    return m_isFlat ? flatGap : gap;
+}
+
 int DueCards::heightForWidth(int width) const
 {
     if (m_count == 0)
@@ -77,7 +108,7 @@ int DueCards::heightForWidth(int width) const
     const int shown = shownIn(width);
     const int rows = (shown + columnsIn(width) - 1) / columnsIn(width);
     const int more = shown < m_count ? moreGap + m_more->sizeHint().height() : 0;
-    return rows * cardHeight() + (rows - 1) * gap + more;
+    return rows * cardHeight() + (rows - 1) * rowGap() + more;
 }
 
 QSize DueCards::sizeHint() const
@@ -101,12 +132,13 @@ void DueCards::place()
 {
     const int columns = columnsIn(width());
     const int shown = shownIn(width());
-    const int wide = std::min((width() - (columns - 1) * gap) / columns, greatestWidth);
+    const int wide =
+        std::min((width() - (columns - 1) * gap) / columns, m_isFlat ? greatestFlatWidth : greatestWidth);
     const int high = cardHeight();
     for (int i = 0; i < int(m_cards.size()); ++i) {
         DueCard *card = m_cards[std::size_t(i)];
         card->setVisible(i < shown);
-        card->setGeometry(i % columns * (wide + gap), i / columns * (high + gap), wide, high);
+        card->setGeometry(i % columns * (wide + gap), i / columns * (high + rowGap()), wide, high);
     }
     m_more->setVisible(shown < m_count);
     m_more->setText(CarLines::moreBelow(m_count - shown));

@@ -32,10 +32,14 @@ namespace {
 
 /// So many cards stand there while nothing is due.
 constexpr qsizetype comingCards = 2;
-/// In a lower view a second row of cards would leave no room for the schedule.
-constexpr int heightForTwoRows = 500;
-constexpr int headingGap = 12;
-constexpr int sideMargin = 28; ///< of the words above the schedule, with a bar beside them
+/// In a lower view cards, or a second row of them, would leave no room for the schedule.
+constexpr int linesForCards = 20;
+constexpr int linesForTwoRows = 26;
+constexpr int aroundLines = 124;         ///< what has no words
+constexpr qsizetype longestReading = 20; ///< of one that is no number
+constexpr int gap = 12;
+constexpr int flatGap = 6;
+constexpr int side = 20;
 
 /// Where there is much room, the intervals have some of it.
 std::vector<CarColumns::Width> widths(DistanceUnit unit)
@@ -62,55 +66,54 @@ DueView::DueView(const CarDesk &desk)
     , m_rate(named(makeQuietLabel({}, this), u"drivingRate"_s))
     , m_schedule(makeSchedule())
 {
-    m_odometer->setToolTip(u"Enter what the odometer reads now"_s);
     m_advice->setFont(TypeScale::body());
     m_advice->setWordWrap(true);
-    QWidget *heading = makeScheduleHeading();
+    titleLine().addAtRight(m_odometer);
+    m_heading = makeScheduleHeading();
     auto *rows = new WholeRows(m_schedule, nullptr, this);
     rows->setGivesWay(true);
-    addScrolling({m_advice, m_cards, heading}, rows);
+    addScrolling({m_advice, m_cards, m_heading}, rows);
     setFocusProxy(m_schedule);
     addClearing();
     connect(m_cards, &DueCards::chosen, this, &DueView::doneRequested);
     connect(m_odometer, &LinkButton::clicked, this, &DueView::odometerRequested);
 }
 
-/// The odometer and the rate of driving stand at the end of the line, or below it where that is too short.
+/// With the rate of driving at the end of the line.
 QWidget *DueView::makeScheduleHeading()
 {
     auto *heading = new QWidget(this);
-    m_headingRow = new QBoxLayout(QBoxLayout::LeftToRight, heading);
-    m_headingRow->setContentsMargins(0, 4, 0, 0);
-    m_heading = makeHeading(u"Maintenance Schedule"_s, this);
-    m_headingRow->addWidget(m_heading, 1);
-    auto *facts = new QHBoxLayout;
-    facts->setSpacing(headingGap);
-    facts->addWidget(m_odometer, 0, Qt::AlignBottom);
-    facts->addWidget(m_rate, 1, Qt::AlignBottom);
-    m_headingRow->addLayout(facts);
+    auto *row = new QHBoxLayout(heading);
+    row->setContentsMargins(0, 4, 0, 0);
+    row->setSpacing(gap);
+    row->addWidget(makeHeading(u"Maintenance Schedule"_s, heading), 1);
+    row->addWidget(m_rate, 0, Qt::AlignBottom);
     return heading;
 }
 
-void DueView::fitHeading()
+/// Where there is little height, the cards are lines and the schedule goes without its heading: what is due
+/// and some rows of the schedule are in sight anywhere.
+void DueView::fit()
 {
-    int needed = 0;
-    for (const QWidget *part : std::initializer_list<const QWidget *>{m_heading, m_odometer, m_rate})
-        needed += part->sizeHint().width() + headingGap;
-    const bool isOneLine = needed <= width() - 2 * sideMargin;
-    m_headingRow->setDirection(isOneLine ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    m_headingRow->setSpacing(isOneLine ? headingGap : 2);
+    const int line = QFontMetrics(TypeScale::body()).height();
+    const bool isFlat = height() < aroundLines + linesForCards * line;
+    m_cards->setFlat(isFlat);
+    m_cards->setRows(isFlat || height() >= aroundLines + linesForTwoRows * line ? 2 : 1);
+    m_heading->setVisible(!isFlat);
+    m_parts->setSpacing(isFlat ? flatGap : gap);
+    layout()->setSpacing(isFlat ? flatGap : gap);
+    layout()->setContentsMargins(side, isFlat ? flatGap : side - 4, side, isFlat ? flatGap + 4 : side - 2);
 }
 
 /// Title and buttons stay in sight where the rest has no room.
 void DueView::addScrolling(const QList<QWidget *> &parts, QWidget *rows)
 {
     auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins({});
-    layout->setSpacing(12);
+    m_parts = new QVBoxLayout(content);
+    m_parts->setContentsMargins({});
     for (QWidget *part : parts)
-        layout->addWidget(part);
-    layout->addWidget(rows, 1);
+        m_parts->addWidget(part);
+    m_parts->addWidget(rows, 1);
     auto *scroll = named(new ScrollPart(content, this), u"dueScroll"_s);
     scroll->scrollByItself();
     addContent(scroll, 1);
@@ -177,8 +180,7 @@ void DueView::showRow(int row)
 
 void DueView::resizeEvent(QResizeEvent *event)
 {
-    m_cards->setRows(height() < heightForTwoRows ? 1 : 2);
-    fitHeading();
+    fit();
     CarView::resizeEvent(event);
 }
 
@@ -189,10 +191,12 @@ void DueView::refresh()
     showNeeds();
     const QString &reading = car().record().sheet.field(VehicleSheet::Odometer);
     const auto number = CarNumbers::number(reading);
-    m_odometer->setText(CarLines::odometer(number ? DueWords::distance(*number, car().unit()) : reading));
-    m_rate->setText(DueWords::rate(car().drivingLog(), car().unit(), desk().program.state.dateStyle,
-                                   desk().program.clock.today()));
-    fitHeading();
+    m_odometer->setText(CarLines::odometer(number ? DueWords::distance(*number, car().unit())
+                                                  : reading.left(longestReading)));
+    const QString rate = DueWords::rate(car().drivingLog(), car().unit(), desk().program.state.dateStyle,
+                                        desk().program.clock.today());
+    m_rate->setText(rate);
+    m_odometer->setToolTip(rate.isEmpty() ? CarLines::newReading() : rate + u'\n' + CarLines::newReading());
 }
 
 /// What is due; where nothing is, what comes next.

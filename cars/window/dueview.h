@@ -7,8 +7,8 @@
 class CarGrid;
 class DueCards;
 class LinkButton;
-class QBoxLayout;
 class QLabel;
+class QVBoxLayout;
 class ScheduleModel;
 
 /// What the open car needs: what is due and overdue, and the schedule that says so.
@@ -37,13 +37,13 @@ private:
     CarGrid *makeSchedule();
     void addClearing();
     QWidget *makeScheduleHeading();
-    void fitHeading();
+    void fit();
     void addScrolling(const QList<QWidget *> &parts, QWidget *rows);
     void showNeeds();
 
     ScheduleModel *m_model;
-    QBoxLayout *m_headingRow = nullptr;
-    QLabel *m_heading = nullptr;
+    QWidget *m_heading = nullptr; ///< of the schedule, with the rate of driving
+    QVBoxLayout *m_parts = nullptr;
     LinkButton *m_odometer;
     DueCards *m_cards;
     QLabel *m_advice;

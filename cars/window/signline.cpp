@@ -54,7 +54,8 @@ void SignLine::setWords(CarNeed::State state, const QString &words)
 QSize SignLine::sizeHint() const
 {
     const int before = isUrgent() ? signSize + gap : 0;
-    return {before + fontMetrics().horizontalAdvance(m_words),
+    // An advance is rounded, and half a pixel too few would cut the words.
+    return {before + fontMetrics().horizontalAdvance(m_words) + 1,
             std::max(QFontMetrics(TypeScale::strong()).height(), signSize)};
 }
 

@@ -325,11 +325,12 @@ private slots:
         m_window->setMinimumSize(400, 300);
         m_window->resize(size);
         QCoreApplication::processEvents();
-        for (const char *part : {"dueTitle", "dueViewSave", "dueViewExit"}) {
+        for (const char *part : {"dueTitle", "done_0", "done_1", "Grid4", "dueViewSave", "dueViewExit"}) {
             const auto *shown = find<QWidget>(part);
             QCOMPARE(shown->visibleRegion().boundingRect(), shown->rect());
         }
         auto *schedule = find<CarGrid>("Grid4");
+        QVERIFY(schedule->rowAt(schedule->viewport()->height() - 1) >= 2);
         const auto rect = [schedule](int column) {
             return schedule->visualRect(schedule->model()->index(0, column));
         };
@@ -341,7 +342,6 @@ private slots:
         QCOMPARE(rect(0).left(), 0);
         schedule->setCurrentIndex(schedule->model()->index(0, 1));
         QVERIFY(rect(1).left() >= rect(0).right());
-        QVERIFY(!schedule->visibleRegion().isEmpty());
     }
 
     void leavesAForeignSheetAlone()
