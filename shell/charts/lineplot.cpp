@@ -18,6 +18,8 @@ constexpr int gap = 10;
 constexpr int axisGap = 6;
 constexpr int topRoom = 10; ///< above the highest tick, for half of its number
 constexpr int tickHeight = 46;
+constexpr int leastTickHeight = 28; ///< where a rougher axis would leave much of the height empty
+constexpr double leastShare = 0.7;
 constexpr int tickSpace = 22; ///< between two words of the axis across
 constexpr int numberRoom = 90;
 constexpr double reach = 24;
@@ -232,7 +234,14 @@ LinePlot::Range LinePlot::valuesInView() const
 void LinePlot::fitUp(int height)
 {
     const Range values = valuesInView();
-    const double step = ChartTicks::step(values.width(), std::clamp(height / tickHeight, 2, 8));
+    const auto share = [&values](double step) { // of the height that has values, from one tick to another
+        return values.width() /
+               ((std::ceil(values.to / step - 1e-9) - std::floor(values.from / step + 1e-9)) * step);
+    };
+    int most = std::clamp(height / tickHeight, 2, 8);
+    double step = ChartTicks::step(values.width(), most);
+    while (share(step) < leastShare && height / ++most >= leastTickHeight)
+        step = ChartTicks::step(values.width(), most);
     double from = std::floor(values.from / step + 1e-9) * step;
     // A level does not lie on the axis; but there is nothing below 0 where no value is.
     if (from != 0 && values.from - from < leastAir * step)
