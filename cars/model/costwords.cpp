@@ -87,6 +87,11 @@ QString CostWords::year(const CarCosts::YearAgainstLast &both, DateStyle style, 
     return isWhole ? year : year + u", until "_s + Dates::shortText(both.until, style);
 }
 
+QString CostWords::wholeYear(int year)
+{
+    return u"%1, the whole year"_s.arg(year);
+}
+
 QString CostWords::difference(const CarCosts::YearAgainstLast &both)
 {
     if (both.before.total() == 0)

@@ -25,6 +25,8 @@ QStringList headings(const QString &what, DistanceUnit unit);
 QStringList row(const QString &what, const CostSums &sums);
 /// "2026, until Nov 22".
 QString year(const CarCosts::YearAgainstLast &both, DateStyle style, bool isBefore);
+/// "2025, the whole year", where a part of it stands above.
+QString wholeYear(int year);
 /// How much more or less a year costs than the one before: "+120.00", empty where there was none.
 QString difference(const CarCosts::YearAgainstLast &both);
 

@@ -11,6 +11,7 @@
 #include "shell/controls/figurestrip.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/titleline.h"
+#include "shell/look/theme.h"
 #include "shell/program/program.h"
 
 #include <QComboBox>
@@ -26,7 +27,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int mostYearsInView = 5;
-constexpr int leastHeightWithTable = 520;
+constexpr int fewestYearsInView = 2; ///< the present one and the same days of the year before
+constexpr int leastChartHeight = 210;
+/// What stands above, below and in the chart.
+constexpr int linesAroundTable = 10;
+constexpr int restAroundTable = 348;
 } // namespace
 
 CostsPanel::CostsPanel(const CarDesk &desk)
@@ -51,7 +56,7 @@ CostsPanel::CostsPanel(const CarDesk &desk)
     rows->setContentsMargins({});
     rows->setSpacing(12);
     rows->addWidget(m_figures);
-    rows->addWidget(m_stack, 1);
+    rows->addWidget(makeChartPanel(), 1);
     rows->addWidget(m_table);
     setContent(work);
     connect(addButton(u"costsPrint"_s, u"&Print Costs"_s), &QPushButton::clicked, this,
@@ -63,6 +68,18 @@ CostsPanel::CostsPanel(const CarDesk &desk)
         if (isVisible())
             refresh();
     });
+}
+
+/// With a ground of its own, on which the chart has its colours whatever that of the panel is.
+QWidget *CostsPanel::makeChartPanel()
+{
+    auto *panel = new PanelFrame(this);
+    panel->setPalette(Theme::of(this).panelPalette());
+    m_stack->setMinimumHeight(leastChartHeight);
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(16, 4, 16, 8);
+    layout->addWidget(m_stack);
+    return panel;
 }
 
 void CostsPanel::makeTable()
@@ -122,27 +139,32 @@ void CostsPanel::showYears(const CarCosts &costs)
     const int present = m_desk.program.clock.today().year();
     for (const int year : costs.years()) {
         if (year != present) {
-            rows.push_back(
-                CostWords::row(QString::number(year), costs.sums(QDate(year, 1, 1), QDate(year, 12, 31))));
+            const bool isThereInPart = year == present - 1 && !rows.empty();
+            rows.push_back(CostWords::row(isThereInPart ? CostWords::wholeYear(year) : QString::number(year),
+                                          costs.sums(QDate(year, 1, 1), QDate(year, 12, 31))));
             continue;
         }
         const CarCosts::YearAgainstLast both = costs.yearAgainstLast(year);
         rows.push_back(CostWords::row(CostWords::year(both, style, false), both.sums));
-        rows.push_back(CostWords::row(CostWords::year(both, style, true), both.before));
+        if (both.until != QDate(year, 12, 31))
+            rows.push_back(CostWords::row(CostWords::year(both, style, true), both.before));
     }
-    const int inView = std::clamp(int(rows.size()), 1, mostYearsInView);
     m_model->setRows(std::move(rows));
-    m_table->ensurePolished();
-    m_table->setFixedHeight(m_table->horizontalHeader()->height() + inView * ListRowDelegate::rowHeight() +
-                            2 * m_table->frameWidth());
     placeTable();
     shareWidth();
 }
 
-/// In a low window the chart needs the room, which has the years too.
+/// As many years as leave the chart its room; in a low window the chart alone, which has the years too.
 void CostsPanel::placeTable()
 {
-    m_table->setVisible(m_model->rowCount() > 0 && height() >= leastHeightWithTable);
+    const int line = QFontMetrics(TypeScale::body()).height();
+    const int room = height() - restAroundTable - linesAroundTable * line;
+    const int rows =
+        std::min({std::max(0, room) / ListRowDelegate::rowHeight(), m_model->rowCount(), mostYearsInView});
+    m_table->setVisible(rows >= std::min(m_model->rowCount(), fewestYearsInView) && rows > 0);
+    m_table->ensurePolished();
+    m_table->setFixedHeight(m_table->horizontalHeader()->height() + rows * ListRowDelegate::rowHeight() +
+                            2 * m_table->frameWidth());
 }
 
 void CostsPanel::resizeEvent(QResizeEvent *event)

@@ -38,6 +38,7 @@ private:
     /// A row of the table: a year, and what it came to.
     using Row = QStringList;
 
+    QWidget *makeChartPanel();
     void makeTable();
     void showFigures(const CarCosts &costs);
     void showYears(const CarCosts &costs);

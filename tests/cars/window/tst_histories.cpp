@@ -352,6 +352,12 @@ private slots:
         click("fuelCosts");
         const auto *table = find<QTableView>("costsTable")->model();
         QCOMPARE(table->index(0, 1).data().toString(), u"564.06"_s);
+        QStringList years;
+        for (int row = 0; row < table->rowCount(); ++row)
+            years << table->index(row, 0).data().toString();
+        QCOMPARE(years, (QStringList{u"2026, until Nov 21"_s, u"2025, until Nov 21"_s,
+                                     u"2025, the whole year"_s, u"2024"_s}));
+        QVERIFY(find<QWidget>("costsLines")->palette().color(QPalette::Window).alpha() == 255);
         QTest::keyClick(find<QWidget>("costsTable"), Qt::Key_Escape);
         QVERIFY(grid("fuelGrid")->isVisible());
     }
