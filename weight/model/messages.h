@@ -68,6 +68,20 @@ inline Message rowDeleted()
     return {u"Delete Row Command"_s, u"Row has been Deleted and File Saved"_s};
 }
 
+/// Before the first save of a file that has `count` weigh-ins behind those it counts.
+inline Message takeUncounted(qsizetype count)
+{
+    const QString rows = count == 1 ? u"1 more weigh-in"_s : u"%1 more weigh-ins"_s.arg(count);
+    return {
+        u"Weigh-Ins Not Counted"_s,
+        u"Take in the weigh-ins that the file does not count?\n"
+        u"The file has %1 than it counts. Yes takes in what is there, No leaves it out of the file."_s.arg(
+            rows),
+        Message::Question,
+        {Answer::Yes, Answer::No, Answer::Cancel},
+        Answer::Yes};
+}
+
 inline Message saveChanges()
 {
     return {u"Weight Tracker Information"_s,

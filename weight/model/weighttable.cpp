@@ -38,6 +38,16 @@ void WeightTable::insert(qsizetype row, const WeighIn &weighIn)
     m_rows.insert(row, made);
 }
 
+void WeightTable::insert(qsizetype row, const WeightTable &rows)
+{
+    for (const Row &other : rows.m_rows) {
+        Row made = other;
+        made.dateText = keep(rows.bytes(other.dateText));
+        made.weightText = keep(rows.bytes(other.weightText));
+        m_rows.insert(row++, made);
+    }
+}
+
 void WeightTable::setDate(qsizetype row, const QString &text)
 {
     readDate(m_rows[row], AnsiText::encode(text));

@@ -32,6 +32,7 @@ public:
     /// Texts are kept without blanks around them, without what no file can hold.
     void append(const WeighIn &weighIn) { insert(rowCount(), weighIn); }
     void insert(qsizetype row, const WeighIn &weighIn);
+    void insert(qsizetype row, const WeightTable &rows);
     void remove(qsizetype row) { m_rows.removeAt(row); }
     void setDate(qsizetype row, const QString &text);
     void setWeight(qsizetype row, const QString &text);

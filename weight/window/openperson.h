@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/message.h"
 #include "shell/core/undostep.h"
 #include "weight/model/personfiles.h"
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 struct Program;
@@ -16,7 +18,8 @@ class OpenPerson final : public QObject
 {
     Q_OBJECT
 public:
-    explicit OpenPerson(const Program &program, QObject *parent = nullptr);
+    /// `ask` shows a question over the window.
+    OpenPerson(const Program &program, std::function<Answer(const Message &)> ask, QObject *parent);
 
     PersonFiles &files() { return m_files; }
     const PersonFiles &files() const { return m_files; }
@@ -28,10 +31,12 @@ public:
     bool isNew() const { return m_isNew; }
     /// As it is now. A copy of it shares what is not changed.
     const WeightSheet &sheet() const { return m_held->sheet; }
-    /// Weigh-ins that the file has behind those it counts; a save drops them.
+    /// Weigh-ins that the file has behind those it counts; the first save asks whether they are taken in.
     const WeightTable &uncounted() const { return m_held->uncounted; }
-    /// Puts them behind the others, in one step that undo calls `title`.
-    void takeUncounted(const QString &title);
+    /// Puts them where the file has them, before what was added since, in one step of undo.
+    void takeUncounted();
+    /// Asks whether they are taken in or left out, where there are any. False: neither, for now.
+    [[nodiscard]] bool settleUncounted();
     bool isModified() const;
     /// Why nothing may be typed; empty where it may.
     QString whyLocked() const;
@@ -42,8 +47,12 @@ public:
     /// A person who has no file yet begins with an empty sheet.
     void startNew();
     /// Makes the sheet `wanted`, in one step that undo calls `title`; nothing happens where it is so already.
-    void change(const QString &title, const WeightSheet &wanted);
-    /// Writes what was typed; a name that was changed becomes the person's. False when the disk refuses.
+    /// True: it is so.
+    bool change(const QString &title, const WeightSheet &wanted);
+    /// The same, and writes it: to take it back, or make it again, writes too. False where `save` is.
+    [[nodiscard]] bool changeAndSave(const QString &title, const WeightSheet &wanted);
+    /// Writes what was typed; a name that was changed becomes the person's. False when the disk refuses, or
+    /// the user would rather not.
     [[nodiscard]] bool save();
     /// Writes a file of its own under the name on the sheet, and opens it. Nothing when the disk refuses.
     [[nodiscard]] std::optional<WeightChange> saveNew();
@@ -53,6 +62,8 @@ public:
 signals:
     /// Another person is open, or this one was read anew: what was typed before is gone.
     void loaded();
+    /// The person has another name than before, in the list too.
+    void renamed();
     /// The sheet is another than before: loaded, edited, saved, or an edit taken back.
     void changed();
     /// Something was edited, and may be taken back.
@@ -71,16 +82,21 @@ private:
     };
     using State = std::shared_ptr<const Held>;
 
+    enum class Disk { Later, AtOnce };
+
     void open(const QString &name, const PersonFiles::Found &found, bool isNew);
-    void hold(const QString &title, Held wanted);
+    void hold(const QString &title, Held wanted, Disk disk = Disk::Later);
+    [[nodiscard]] bool write();
     void written(const QString &name);
-    ChangeResult exchange(const State &shown, const State &wanted);
+    ChangeResult exchange(const State &shown, const State &wanted, Disk disk);
 
     const Program &m_program;
+    std::function<Answer(const Message &)> m_ask;
     PersonFiles m_files;
     QString m_name;
     State m_held;
     State m_saved;
+    qsizetype m_counted = 0; ///< the rows that the file counted when it was read
     PersonFiles::State m_fileState = PersonFiles::State::Missing;
     bool m_isNew = false;
 };

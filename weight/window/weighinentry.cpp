@@ -92,7 +92,7 @@ bool WeighInEntry::isTyped() const
 void WeighInEntry::clear()
 {
     m_date->setDate(m_desk.program.clock.today());
-    m_weight->clear();
+    m_weight->setText({}); // unlike clear(), it leaves Ctrl+Z to the window
 }
 
 void WeighInEntry::refresh()

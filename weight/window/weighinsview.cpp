@@ -211,7 +211,7 @@ void WeighInsView::finishEdit()
                          !desk().dateCheck.tableDate(typed.date, {}).refusal &&
                          !WeightEntry::weight(typed.weight, {}).refusal;
     if (isTaken)
-        append(typed);
+        append(typed, Keep::Typed);
 }
 
 void WeighInsView::refresh()
@@ -279,12 +279,11 @@ void WeighInsView::enter()
         emit said(TrackerLines::weightFirst());
         return;
     }
-    const WeighIn typed = m_entry->typed();
-    if (!append(typed))
+    if (!append(m_entry->typed(), Keep::Saved))
         return;
     if (person().isNew())
         emit said(TrackerLines::addedToNew());
-    else if (saveUnlessNew())
+    else
         emit done(TrackerLines::added(m_model->titleOf(m_model->rowCount() - 1)));
 }
 
@@ -292,14 +291,14 @@ void WeighInsView::addRow()
 {
     if (!person().isOpen())
         emit noticed(WeightMessages::noneSelected());
-    else if (append(m_entry->typed()) && saveUnlessNew() && !person().isNew()) {
+    else if (append(m_entry->typed(), Keep::Saved) && !person().isNew()) {
         emit done(TrackerLines::added(m_model->titleOf(m_model->rowCount() - 1)));
         emit noticed(WeightMessages::rowAdded());
     }
 }
 
-/// False where the line was refused; the focus is where it can be typed anew.
-bool WeighInsView::append(const WeighIn &weighIn)
+/// False where the line was refused, with the focus where it can be typed anew, or the disk refused.
+bool WeighInsView::append(const WeighIn &weighIn, Keep keep)
 {
     if (const QString why = person().whyLocked(); !why.isEmpty()) {
         emit said(why);
@@ -317,19 +316,22 @@ bool WeighInsView::append(const WeighIn &weighIn)
         m_entry->typeWeight();
         return false;
     }
+    if (keep == Keep::Saved && !person().settleUncounted())
+        return false;
+    const QString title = TrackerLines::rowAdded(TrackerLines::weighIn(weight.text, date.text));
     WeightSheet wanted = person().sheet();
     wanted.weighIns.append({date.text, weight.text});
-    person().change(TrackerLines::rowAdded(TrackerLines::weighIn(weight.text, date.text)), wanted);
     m_entry->clear();
     m_entry->typeWeight();
+    const bool isKept = keep == Keep::Typed ? person().change(title, wanted) : store(title, wanted);
     showRow();
-    return true;
+    return isKept;
 }
 
-/// The file of a new person is made by "Save New File".
-bool WeighInsView::saveUnlessNew()
+/// Rows that come and go are written at once; the file of a new person is made by "Save New File".
+bool WeighInsView::store(const QString &title, const WeightSheet &wanted)
 {
-    return person().isNew() || person().save();
+    return person().isNew() ? person().change(title, wanted) : person().changeAndSave(title, wanted);
 }
 
 bool WeighInsView::isRowChosen() const
@@ -339,14 +341,15 @@ bool WeighInsView::isRowChosen() const
 
 void WeighInsView::deleteRow()
 {
-    const int row = m_table->currentIndex().row();
-    if (desk().program.dialogs.ask(&desk().window, WeightMessages::deleteRow()) != Answer::Yes)
+    // Before the row is highlighted that is asked about: it may be another one then.
+    if (!person().settleUncounted() ||
+        desk().program.dialogs.ask(&desk().window, WeightMessages::deleteRow()) != Answer::Yes)
         return;
+    const int row = m_table->currentIndex().row();
     const QString line = TrackerLines::rowDeleted(m_model->titleOf(row));
     WeightSheet wanted = person().sheet();
     wanted.weighIns.remove(row);
-    person().change(line, wanted);
-    if (person().isNew() || !person().save())
+    if (!store(line, wanted) || person().isNew())
         return;
     emit done(line);
     emit noticed(WeightMessages::rowDeleted());
@@ -366,7 +369,7 @@ void WeighInsView::sortRows()
 
 void WeighInsView::takeUncounted()
 {
-    person().takeUncounted(TrackerLines::uncountedTaken());
+    person().takeUncounted();
     showRow();
 }
 

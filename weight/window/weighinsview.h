@@ -13,6 +13,7 @@ class QPushButton;
 class WeighInEntry;
 class WeighInModel;
 struct WeighIn;
+struct WeightSheet;
 
 /// The weigh-ins of the open person: how things stand, the line in which today's weight is entered, and the
 /// table of all that were entered.
@@ -59,8 +60,9 @@ private:
     void showToday();
     void showFigures();
     void placeChart();
-    bool append(const WeighIn &weighIn);
-    bool saveUnlessNew();
+    enum class Keep { Typed, Saved };
+    bool append(const WeighIn &weighIn, Keep keep);
+    bool store(const QString &title, const WeightSheet &wanted);
     void takeUncounted();
     void noticeAt(const Message &message, const QModelIndex &cell);
 

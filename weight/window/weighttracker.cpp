@@ -46,7 +46,8 @@ WindowTraits traits()
 
 WeightTracker::WeightTracker(Program &program, QWidget *parent)
     : FunctionWindow(program, traits(), parent)
-    , m_person(new OpenPerson(program, this))
+    , m_person(new OpenPerson(
+          program, [this](const Message &message) { return ask(message); }, this))
     , m_dateCheck(new DateCheck(program.clock, this))
     , m_list(new PersonPane({[this] { return isModified(); }, [this] { return mayReplace(leaveQuestion()); }},
                             this))
@@ -190,6 +191,10 @@ void WeightTracker::connectParts()
     connect(m_list, &PersonPane::chosen, this, &WeightTracker::openPerson);
     connect(m_list, &PersonPane::entered, m_stack, [this] { m_stack->currentWidget()->setFocus(); });
     connect(m_person, &OpenPerson::said, &activity(), &ActivityBar::say);
+    connect(m_person, &OpenPerson::renamed, m_list, [this] {
+        m_list->setNames(m_person->files().names());
+        m_list->show(m_person->name());
+    });
     connect(m_person, &OpenPerson::loaded, this, &WeightTracker::refreshHome);
     connect(m_person, &OpenPerson::loaded, &undoStack(), &UndoStack::forgetTyped);
     connect(m_person, &OpenPerson::edited, &undoStack(), qOverload<UndoStep>(&UndoStack::push));

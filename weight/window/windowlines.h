@@ -131,13 +131,19 @@ inline QString noneYet()
 inline QString uncounted(qsizetype count)
 {
     return count == 1
-               ? u"The file has 1 more weigh-in than it counts; the next save drops it."_s
-               : u"The file has %1 more weigh-ins than it counts; the next save drops them."_s.arg(count);
+               ? u"The file has 1 more weigh-in than it counts; the next save asks about it."_s
+               : u"The file has %1 more weigh-ins than it counts; the next save asks about them."_s.arg(
+                     count);
 }
 
 inline QString uncountedTaken()
 {
     return u"Taken in: weigh-ins that the file did not count"_s;
+}
+
+inline QString uncountedLeftOut()
+{
+    return u"Left out: weigh-ins that the file did not count"_s;
 }
 
 /// Of the chart beside the table.
@@ -197,6 +203,11 @@ inline QString addedToList(const QStringList &names)
 }
 
 // The disk
+
+inline QString notSavedYet()
+{
+    return u"Nothing was saved yet"_s;
+}
 
 inline QString notSaved()
 {

@@ -47,6 +47,7 @@ private slots:
     void entersTodaysWeightWithTwoKeys()
     {
         open(TestProgram::Household);
+        const QByteArray before = file(nils);
         choose(1);
         QWidget *box = find<QLineEdit>("weighInWeight");
         box->setFocus();
@@ -58,11 +59,26 @@ private slots:
         QVERIFY(file(nils).startsWith("\"51\"\r\n"));
         QVERIFY(file(nils).endsWith("\"08/10/2026\"\r\n\"192.2\"\r\n\"11/21/2026\"\r\n\"191.4\"\r\n"));
         QVERIFY(box->hasFocus());
-        trigger("mEUndo");
+        QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(grid()->model()->rowCount(), 49);
+        QCOMPARE(text("weighInWeight"), QString());
+        QCOMPARE(said(), u"Undone: Row added: 191.4, 11/21/2026"_s);
+        QCOMPARE(file(nils), before);
+        QVERIFY(!m_window->isModified());
+        trigger("mERedo");
+        QVERIFY(file(nils).startsWith("\"51\"\r\n"));
+        // What is not saved yet stays so, and the file keeps its row.
+        enter(0, 1, u"215"_s);
+        trigger("mEUndo");
+        enter(1, 1, u"215"_s);
+        trigger("mOSave");
+        trigger("mEUndo");
+        trigger("mEUndo");
+        QVERIFY(file(nils).startsWith("\"51\"\r\n"));
+        QCOMPARE(grid()->model()->rowCount(), 49);
+        QVERIFY(m_window->isModified());
         m_test->dialogs.willAnswer(Answer::No);
         choose(0);
-        QCOMPARE(asked(), {WeightMessages::saveChanges()});
     }
 
     void addsAndDeletesRowsAndSaysSo()
@@ -223,8 +239,37 @@ private slots:
         QCOMPARE(labelText("weighInsTitle"), u"Jos\u00e9 Ortega"_s);
     }
 
-    void offersRowsThatTheFileDoesNotCount()
+    void asksAboutRowsThatTheFileDoesNotCount_data()
     {
+        const auto save = [](TestWeightTracker &test) {
+            test.enter(0, 1, u"214.6"_s);
+            test.trigger("mOSave");
+        };
+        const auto weigh = [](TestWeightTracker &test) {
+            typeInto(test.find<QLineEdit>("weighInWeight"), u"191"_s);
+            QTest::keyClick(test.find<QLineEdit>("weighInWeight"), Qt::Key_Return);
+        };
+        const auto take = [save](TestWeightTracker &test) {
+            test.click("takeUncounted");
+            save(test);
+        };
+        const QByteArray last = "\"08/10/2026\"\r\n\"192.2\"\r\n";
+        const QByteArray added = "\"11/21/2026\"\r\n\"191.\"\r\n";
+        using Hands = std::function<void(TestWeightTracker &)>;
+        rows<Hands, std::optional<Answer>, QByteArray, QByteArray>({
+            {"taken in with a save", save, Answer::Yes, "\"50\"", last},
+            {"left out by a save", save, Answer::No, "\"48\"", "\"192.7\"\r\n"},
+            {"not saved", save, Answer::Cancel, "\"48\"", last},
+            {"before today's weight", weigh, Answer::Yes, "\"51\"", last + added},
+            {"left out for today's weight", weigh, Answer::No, "\"49\"", "\"192.7\"\r\n" + added},
+            {"not weighed", weigh, Answer::Cancel, "\"48\"", last},
+            {"taken in by the line", take, {}, "\"50\"", last},
+        });
+    }
+    void asksAboutRowsThatTheFileDoesNotCount()
+    {
+        using Hands = std::function<void(TestWeightTracker &)>;
+        const auto [hands, answer, count, end] = row<Hands, std::optional<Answer>, QByteArray, QByteArray>();
         m_test = std::make_unique<TestProgram>(TestProgram::Household);
         QByteArray bytes = file(nils);
         m_test->setBytes(nils + u".Fil"_s, bytes.replace("\"50\"", "\"48\""));
@@ -232,12 +277,13 @@ private slots:
         choose(1);
         QCOMPARE(grid()->model()->rowCount(), 47);
         QVERIFY(find<QWidget>("uncounted")->isVisible());
-        click("takeUncounted");
-        QCOMPARE(grid()->model()->rowCount(), 49);
-        QVERIFY(!find<QWidget>("uncounted")->isVisible());
-        trigger("mOSave");
-        QCOMPARE(asked(), {WeightMessages::saved()});
-        QCOMPARE(file(nils), bytes.replace("\"48\"", "\"50\""));
+        if (answer)
+            m_test->dialogs.willAnswer(*answer);
+        hands(*this);
+        QCOMPARE(asked().contains(WeightMessages::takeUncounted(2)), answer.has_value());
+        QVERIFY(file(nils).startsWith(count));
+        QVERIFY(file(nils).endsWith(end));
+        QCOMPARE(find<QWidget>("uncounted")->isVisible(), answer == Answer::Cancel);
     }
 
 private:
