@@ -189,7 +189,7 @@ void CellDelegate::goToEnd() const
 
 void CellDelegate::openByMouse() const
 {
-    if (m_editor && kindOf(m_grid->currentIndex()) != GridCell::Kind::Number)
+    if (m_editor && kindOf(m_grid->currentIndex()) == GridCell::Kind::Words)
         m_editor->end(false);
     openCalendar();
 }

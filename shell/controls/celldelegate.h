@@ -42,7 +42,7 @@ public:
 
     /// Puts the cursor behind what the open box holds, for it to be edited; a date has its calendar.
     void goToEnd() const;
-    /// The same where a click opened the box: a number stays selected, to be typed anew.
+    /// The same where a click opened the box: a number or a date stays selected, to be typed anew.
     void openByMouse() const;
     /// What is typed in the open box goes into its cell, and the box away.
     void finish();

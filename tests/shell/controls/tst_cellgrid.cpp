@@ -120,6 +120,25 @@ private slots:
         QCOMPARE(cell(0, computed), u"2"_s);
         QVERIFY(refused.count() > 0);
     }
+
+    void typesOverNumbersAndDates_data()
+    {
+        rows<GridCell::Kind, QString>({{"words go on", GridCell::Kind::Words, u"17"_s},
+                                       {"a number", GridCell::Kind::Number, u"7"_s},
+                                       {"a date", GridCell::Kind::Date, u"7"_s}});
+    }
+
+    void typesOverNumbersAndDates()
+    {
+        const auto [kind, expected] = row<GridCell::Kind, QString>();
+        m_model->item(0, 1)->setData(int(kind), GridCell::kindRole);
+        const QPoint place = m_grid->visualRect(m_model->index(0, 1)).center();
+        QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(m_grid->viewport(), Qt::LeftButton, {}, place);
+        type('7');
+        press(Qt::Key_Return);
+        QCOMPARE(cell(0, 1), expected);
+    }
 };
 
 QTEST_MAIN(TestCellGrid)
