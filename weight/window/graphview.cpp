@@ -14,6 +14,7 @@
 #include "weight/model/weightperiods.h"
 #include "weight/model/weightwords.h"
 #include "weight/window/openperson.h"
+#include "weight/window/windowlines.h"
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -125,8 +126,11 @@ void GraphView::showWork()
         return;
     }
     const auto extent = shown == Last50 ? WeightGraph::Extent::Last50 : WeightGraph::Extent::Everything;
-    m_chart->setChart(WeightChart::of(person().sheet(), extent, desk().program.clock.today(),
-                                      desk().program.state.dateStyle));
+    LineChart chart = WeightChart::of(person().sheet(), extent, desk().program.clock.today(),
+                                      desk().program.state.dateStyle);
+    if (!person().fileTrouble().isEmpty())
+        chart.nothing = TrackerLines::nothingToShow();
+    m_chart->setChart(chart);
     m_stack->setCurrentWidget(m_chart);
     // In a low window the focus of the chart would scroll the title away.
     const bool isChart = !m_chart->chart().isEmpty() && !m_low->isLow();

@@ -24,6 +24,11 @@ bool OpenPerson::isModified() const
     return m_held != m_saved && m_held->sheet != m_saved->sheet;
 }
 
+QString OpenPerson::fileTrouble() const
+{
+    return m_name.isEmpty() ? QString() : TrackerLines::stateOf(PersonFiles::fileName(m_name), m_fileState);
+}
+
 QString OpenPerson::whyLocked() const
 {
     if (!isOpen())
@@ -32,7 +37,7 @@ QString OpenPerson::whyLocked() const
         return reason;
     const bool isLocked =
         m_fileState == PersonFiles::State::Foreign || m_fileState == PersonFiles::State::OutOfReach;
-    return isLocked ? TrackerLines::stateOf(PersonFiles::fileName(m_name), m_fileState) : QString();
+    return isLocked ? fileTrouble() : QString();
 }
 
 void OpenPerson::load(const QString &name)
@@ -42,9 +47,8 @@ void OpenPerson::load(const QString &name)
         return;
     }
     open(name, m_files.read(name), false);
-    const QString state = TrackerLines::stateOf(PersonFiles::fileName(name), m_fileState);
-    if (!state.isEmpty())
-        emit said(state);
+    if (const QString trouble = fileTrouble(); !trouble.isEmpty())
+        emit said(trouble);
 }
 
 void OpenPerson::startNew()

@@ -38,6 +38,8 @@ public:
     /// Asks whether they are taken in or left out, where there are any. False: neither, for now.
     [[nodiscard]] bool settleUncounted();
     bool isModified() const;
+    /// What is wrong with its file; empty when nothing is.
+    QString fileTrouble() const;
     /// Why nothing may be typed; empty where it may.
     QString whyLocked() const;
 

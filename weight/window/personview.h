@@ -5,6 +5,8 @@
 #include "shell/core/message.h"
 #include "weight/window/weightdesk.h"
 
+class QLabel;
+
 /// A view of the open person.
 class PersonView : public TitledView
 {
@@ -28,5 +30,8 @@ protected:
     OpenPerson &person() const { return m_desk.person; }
 
 private:
+    void showTrouble();
+
     WeightDesk m_desk;
+    QLabel *m_trouble; ///< what is wrong with the person's file
 };

@@ -19,6 +19,7 @@
 #include "weight/model/messages.h"
 #include "weight/model/weightchart.h"
 #include "weight/model/weightcolumns.h"
+#include "weight/model/weightpaperlines.h"
 #include "weight/window/datecheck.h"
 #include "weight/window/openperson.h"
 #include "weight/window/standing.h"
@@ -227,7 +228,9 @@ void WeighInsView::refresh()
     m_uncounted->setVisible(uncounted > 0);
     m_uncountedWords->setText(TrackerLines::uncounted(uncounted));
     m_rows->setVisible(m_model->rowCount() > 0);
-    m_empty->setVisible(m_model->rowCount() == 0);
+    m_empty->setVisible(m_model->rowCount() == 0 && person().fileTrouble().isEmpty());
+    m_empty->setText(person().whyLocked().isEmpty() ? TrackerLines::noneYet()
+                                                    : WeightPaperLines::noWeighIns());
     if (isOther) {
         m_entry->clear();
         showRow();

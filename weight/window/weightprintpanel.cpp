@@ -89,7 +89,12 @@ QCheckBox *WeightPrintPanel::addChoice(QVBoxLayout *column, std::size_t choice)
     const Choice &of = choices[choice];
     auto *box = named(new QCheckBox(of.caption.toString(), this), of.name);
     box->setChecked(m_program.store.value(keys + of.name, Options().*of.option).toBool());
-    column->addWidget(box);
+    m_reasons[choice] = named(makeQuietLabel({}, this), of.name + u"Why"_s);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(12);
+    row->addWidget(box);
+    row->addWidget(m_reasons[choice], 1);
+    column->addLayout(row);
     connect(box, &QCheckBox::toggled, this, &WeightPrintPanel::remember);
     return box;
 }
@@ -105,8 +110,10 @@ void WeightPrintPanel::start()
     const WeightSheet sheet = m_sheet();
     const auto offer = [this](bool Options::*option, bool isThere, const QString &reason) {
         for (std::size_t i = 0; i < count; ++i) {
-            if (choices[i].option == option)
-                setUnavailable(m_choices[i], isThere ? QString() : reason);
+            if (choices[i].option != option)
+                continue;
+            setUnavailable(m_choices[i], isThere ? QString() : reason);
+            m_reasons[i]->setText(isThere ? QString() : reason);
         }
     };
     offer(&Options::graph, !WeightGraph::of(sheet).points.isEmpty(), WeightPaperLines::noWeighIns());

@@ -12,6 +12,7 @@
 
 class FunctionWindow;
 class QCheckBox;
+class QLabel;
 struct Program;
 
 /// The print options of the weight tracker, which are remembered, and the printout that they lead to.
@@ -47,6 +48,7 @@ private:
     std::function<WeightSheet()> m_sheet;
     std::function<WeightGraph::Extent()> m_extent;
     std::array<QCheckBox *, count> m_choices{};
+    std::array<QLabel *, count> m_reasons{}; ///< why a choice is not offered
     QPushButton *m_show = nullptr;
     ChartPicture m_graph;
     PaperCopies m_photos;

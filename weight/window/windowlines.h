@@ -127,6 +127,12 @@ inline QString noneYet()
     return u"No weigh-ins yet. Type the first weight above and press Enter."_s;
 }
 
+/// In the graph of a file that cannot be read.
+inline QString nothingToShow()
+{
+    return u"There is nothing to show"_s;
+}
+
 /// Rows that the file has behind the last one it counts.
 inline QString uncounted(qsizetype count)
 {

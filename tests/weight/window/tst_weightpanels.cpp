@@ -73,6 +73,7 @@ private slots:
         startPrinting();
         QVERIFY(!find<QCheckBox>("printPlan")->isChecked() && find<QCheckBox>("printBorder")->isChecked());
         QVERIFY(!find<QCheckBox>("printGraph")->isEnabled()); // no weigh-in has a point
+        QCOMPARE(labelText("printGraphWhy"), u"There are no weigh-ins yet"_s);
         click("weightPrintShow");
         QCOMPARE(m_window->findChild<PreviewPane *>()->sheetCount(), 1);
     }

@@ -239,6 +239,31 @@ private slots:
         QCOMPARE(labelText("weighInsTitle"), u"Jos\u00e9 Ortega"_s);
     }
 
+    void saysOnEveryPageWhatIsWrongWithAFile_data()
+    {
+        rows<QByteArray, QString>(
+            {{"noise", "\x01\x02", u"Karin Holm.Fil is no file of a person; it is left as it is"_s},
+             {"cut", "\"5\"\r\n\"\"\r\n", u"Karin Holm.Fil ends early; the rest of it is blank here"_s}});
+    }
+    void saysOnEveryPageWhatIsWrongWithAFile()
+    {
+        const auto [bytes, trouble] = row<QByteArray, QString>();
+        m_test = std::make_unique<TestProgram>(TestProgram::Household);
+        m_test->setBytes(u"Karin Holm.Fil"_s, bytes);
+        show();
+        QVERIFY(!find<QLabel>("noWeighIns")->isVisible());
+        for (const auto &[command, label] : {std::pair("mVWeigh", "weighInsTrouble"),
+                                             {"mVGraph", "graphTrouble"},
+                                             {"mVPlan", "planTrouble"},
+                                             {"mVPhotos", "photosTrouble"}}) {
+            trigger(command);
+            QVERIFY(find<QLabel>(label)->isVisible());
+            QCOMPARE(labelText(label), trouble);
+        }
+        choose(1);
+        QVERIFY(!find<QLabel>("photosTrouble")->isVisible());
+    }
+
     void asksAboutRowsThatTheFileDoesNotCount_data()
     {
         const auto save = [](TestWeightTracker &test) {
