@@ -43,7 +43,7 @@ public:
     void addSummary(Page &page) const
     {
         PageItem::Columns columns;
-        columns.weights = {0.9, 2.05, 1.55, 2.2};
+        columns.weights = {0.65, 1.54, 1.13, 1.6}; // for the longest date and the widest of usual fonts
         columns.lines = lines();
         page.table(columns);
         const QList<QStringList> figures = summary();
