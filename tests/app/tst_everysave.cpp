@@ -386,6 +386,29 @@ const Save weighIn{[](Desk &desk) {
                            QTest::keyClick(weight, Qt::Key_Return);
                    }};
 
+const Save undoneWeighIn{[](Desk &desk) {
+                             weighIn.prepare(desk);
+                             weighIn.press(desk);
+                         },
+                         [](Desk &desk) { desk.trigger("mEUndo"); }};
+
+const Save deletedWeighIn{[](Desk &desk) {
+                              desk.open(Function::WeightTracker);
+                              auto *persons = desk.find<QListView>("Combo1");
+                              persons->setCurrentIndex(persons->model()->index(1, 0));
+                              auto *table = desk.find<QAbstractItemView>("Grid4");
+                              table->setCurrentIndex(table->model()->index(3, 1));
+                          },
+                          [](Desk &desk) {
+                              // Where that was refused the row is gone from the window, and can be saved.
+                              if (qobject_cast<FunctionWindow *>(desk.window)->isModified()) {
+                                  desk.trigger("mOSave");
+                                  return;
+                              }
+                              desk.answer(Answer::Yes);
+                              desk.trigger("mEDel");
+                          }};
+
 const Save toldWeight{[](Desk &desk) { desk.open(Function::WeightTracker); },
                       [](Desk &desk) { desk.trigger("mOTold"); }};
 
@@ -498,6 +521,8 @@ private slots:
             {"a person", savedPerson},
             {"another name of a person", renamedPerson},
             {"a weigh-in", weighIn},
+            {"a weigh-in undone", undoneWeighIn},
+            {"a weigh-in deleted", deletedWeighIn},
             {"a weight that the main menu may tell", toldWeight},
             {"a new person", newPerson},
             {"a person deleted", deletedPerson},
