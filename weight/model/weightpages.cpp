@@ -2,6 +2,7 @@
 #include "weight/model/weightpages.h"
 
 #include "shell/core/dates.h"
+#include "weight/model/photodays.h"
 #include "weight/model/weightcolumns.h"
 #include "weight/model/weightdates.h"
 #include "weight/model/weightfigures.h"
@@ -18,6 +19,8 @@ namespace {
 using WeightPages::Options;
 using WeightPages::Pictures;
 
+/// In inches: "Average Number of Days Per Week:" in the widest of usual fonts.
+constexpr double planCaptions = 3.2;
 constexpr double photoTop = 1.75; ///< in inches: below the title and two lines about the photo
 constexpr double photoFoot = 1.3; ///< for the closing lines
 constexpr double photoGap = 0.3;
@@ -36,7 +39,7 @@ public:
         : m_sheet(sheet)
         , m_options(options)
         , m_context(context)
-        , m_byDay(WeightTrend::byDay(sheet.weighIns))
+        , m_photoDays(PhotoDays::of(sheet))
         , m_figures(WeightFigures::of(sheet, context.today))
     {}
 
@@ -80,7 +83,8 @@ public:
     {
         page.section(u"Exercise Plan and Information"_s);
         PageItem::Columns columns;
-        columns.weights = {1.6, 3};
+        columns.weights = {planCaptions,
+                           m_context.setup.sheet().width() - 2 * PageMetrics::margin - planCaptions};
         columns.lines = lines();
         page.table(columns);
         using enum WeightSheet::Field;
@@ -158,7 +162,7 @@ private:
     {
         const QRectF line(place.left(), photoTop - 2.4 * lineHeight, place.width(), lineHeight);
         page.placeText(line, caption, TextRole::Strong);
-        page.placeText(line.translated(0, lineHeight), taken(m_sheet.field(dateField).trimmed()));
+        page.placeText(line.translated(0, lineHeight), taken(dateField));
         if (!path.isEmpty()) {
             page.placePicture(place, path);
             return;
@@ -167,18 +171,19 @@ private:
         page.placeText(place, u"No photo"_s, TextRole::Small, Qt::AlignCenter);
     }
 
-    /// "January 05, 2026, 214.5": the weight where the person stood on the scales that day.
-    QString taken(const QString &date) const
+    /// "January 05, 2026, 214.5": the weight of that day or, as on the screen, of the nearest within a week.
+    QString taken(WeightSheet::Field dateField) const
     {
-        const QDate day = WeightDates::date(QStringView(date));
-        const auto weight = WeightFigures::average(m_byDay, day, day);
-        return day.isValid() && weight ? joined(date, WeightWords::weight(*weight)) : date;
+        const PhotoDays::Day &day =
+            dateField == WeightSheet::BeginningPhotoDate ? m_photoDays.then : m_photoDays.now;
+        const QString date = m_sheet.field(dateField).trimmed();
+        return day.weight ? joined(date, WeightWords::weight(*day.weight)) : date;
     }
 
     const WeightSheet &m_sheet;
     const Options &m_options;
     const PageContext &m_context;
-    WeightSeries m_byDay;
+    PhotoDays m_photoDays;
     WeightFigures m_figures;
 };
 

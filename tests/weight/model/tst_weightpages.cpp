@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 using WeightPages::Options;
 
@@ -87,6 +89,22 @@ private slots:
               u"08/10/2026\t192.2\t-0.9\t-22.3"_s, u"Types of Exercise:\tWalking, swimming"_s,
               u"Says the doctor: \"Swim\" instead."_s})
             QVERIFY2(text.contains(line + u'\n'), qPrintable(line + u'\n' + text));
+    }
+
+    void tellsTheWeightOfAPhoto_data()
+    {
+        rows<QString, QString>({{"of its day", u"August 10, 2026"_s, u"August 10, 2026, 192.2"_s},
+                                {"of the nearest day", u"August 15, 2026"_s, u"August 15, 2026, 192.2"_s},
+                                {"of none", u"August 20, 2026"_s, u"August 20, 2026"_s}});
+    }
+
+    void tellsTheWeightOfAPhoto()
+    {
+        const auto [taken, told] = row<QString, QString>();
+        WeightSheet sheet = nils();
+        sheet.field(WeightSheet::CurrentPhotoDate) = taken;
+        const auto texts = itemsOf<PageItem::PlacedText>(WeightPages::printout(sheet, {}, {}, {}));
+        QVERIFY(std::ranges::any_of(texts, [&](const auto &item) { return item.text == told; }));
     }
 
     void hasItsLines_data()
