@@ -4,8 +4,10 @@
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QPainter>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,12 +18,13 @@ constexpr int signSize = 20;
 
 FigureStrip::FigureStrip(const QString &name, QWidget *parent)
     : QWidget(parent)
-    , m_row(new QHBoxLayout(this))
+    , m_grid(new QGridLayout(this))
 {
     setObjectName(name);
     setPalette(Theme::of(this).panelPalette()); // not the panel's ink: it has a ground of its own
-    m_row->setContentsMargins(16, 7, 16, 8);
-    m_row->setSpacing(16);
+    m_grid->setContentsMargins(16, 7, 16, 8);
+    m_grid->setHorizontalSpacing(16);
+    m_grid->setVerticalSpacing(6);
 }
 
 FigureStrip::Labels FigureStrip::make()
@@ -44,7 +47,6 @@ FigureStrip::Labels FigureStrip::make()
     for (QLabel *label : {labels.caption, labels.value})
         label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     place->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    m_row->addWidget(place);
     return labels;
 }
 
@@ -68,7 +70,40 @@ void FigureStrip::setFigures(const QList<Figure> &figures)
         const QFontMetrics metrics(TypeScale::cardTitle());
         m_labels[i].value->setMinimumWidth(metrics.horizontalAdvance(figures[i].value) + 2);
     }
+    m_count = figures.size();
+    m_perRow = 0;
+    arrange();
     setVisible(!figures.isEmpty());
+}
+
+/// Side by side where every caption fits whole.
+qsizetype FigureStrip::perRow() const
+{
+    if (m_count < 3)
+        return m_count;
+    const QMargins margins = m_grid->contentsMargins();
+    int wanted = margins.left() + margins.right() + int(m_count - 1) * m_grid->horizontalSpacing();
+    for (qsizetype i = 0; i < m_count; ++i)
+        wanted += m_labels[i].place->sizeHint().width();
+    return wanted <= width() ? m_count : (m_count + 1) / 2;
+}
+
+void FigureStrip::arrange()
+{
+    const qsizetype perRow = this->perRow();
+    if (perRow == m_perRow)
+        return;
+    m_perRow = perRow;
+    for (const Labels &labels : m_labels)
+        m_grid->removeWidget(labels.place);
+    for (qsizetype i = 0; i < m_count; ++i)
+        m_grid->addWidget(m_labels[i].place, int(i / perRow), int(i % perRow));
+}
+
+void FigureStrip::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    arrange();
 }
 
 void FigureStrip::paintEvent(QPaintEvent *)

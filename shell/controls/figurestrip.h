@@ -4,10 +4,11 @@
 #include <QWidget>
 
 class ElidedLabel;
-class QHBoxLayout;
+class QGridLayout;
 class QLabel;
 
-/// A few figures side by side, each under what it says, with a sign before it where it has one.
+/// A few figures side by side, each under what it says, with a sign before it where it has one. Where the
+/// captions do not fit they stand in two rows.
 class FigureStrip final : public QWidget
 {
     Q_OBJECT
@@ -24,6 +25,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     struct Labels {
@@ -34,7 +36,11 @@ private:
     };
 
     Labels make();
+    qsizetype perRow() const;
+    void arrange();
 
-    QHBoxLayout *m_row;
+    QGridLayout *m_grid;
     QList<Labels> m_labels;
+    qsizetype m_count = 0;  ///< of the labels that are in use
+    qsizetype m_perRow = 0; ///< as they stand
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/figurestrip.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/monthview.h"
 #include "shell/controls/rowsmodel.h"
@@ -20,6 +21,8 @@
 #include <QStatusTipEvent>
 #include <QTableView>
 #include <QToolButton>
+
+#include <set>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -44,6 +47,33 @@ class TestControls : public QObject
     Q_OBJECT
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
+
+    /// Side by side as long as nothing is cut.
+    void figuresStandInOneRowOrTwo()
+    {
+        QMainWindow window;
+        auto *strip = new FigureStrip(u"strip"_s);
+        window.setCentralWidget(strip);
+        strip->setFigures({{u"Current Weight"_s, u"192.2"_s},
+                           {u"Beginning Weight  Trend"_s, u"-22.3"_s},
+                           {u"Last  Entry Trend"_s, u"-1.1"_s},
+                           {u"To the Goal Weight"_s, u"12.2 to lose"_s}});
+        const int whole = strip->sizeHint().width();
+        showActive(window);
+        for (const auto &[width, rowCount] : {std::pair(whole, 1), {whole - 60, 2}}) {
+            window.resize(width, 400);
+            QCoreApplication::processEvents();
+            std::set<int> tops;
+            for (const QLabel *label : strip->findChildren<QLabel *>()) {
+                const bool isValue = !label->accessibleName().isEmpty();
+                if (isValue)
+                    tops.insert(label->mapTo(strip, QPoint()).y());
+                if (!label->isHidden())
+                    QVERIFY(label->width() >= label->fontMetrics().horizontalAdvance(label->text()));
+            }
+            QCOMPARE(int(tops.size()), rowCount);
+        }
+    }
 
     void aBoxTakesWhatItsFileHolds_data()
     {
