@@ -42,6 +42,7 @@ void ChartView::setHead(const QString &title, const QString &caption, const QStr
 void ChartView::setReading(const QString &words)
 {
     m_reading->setText(words);
+    placeReading();
 }
 
 void ChartView::setBesideCaption(QWidget *beside)
@@ -61,13 +62,32 @@ void ChartView::placeHead(int width)
     const int titleHeight = m_title->sizeHint().height();
     const int titleWidth = std::min(m_title->sizeHint().width(), width);
     m_title->setGeometry(frame, frame, titleWidth, titleHeight);
-    m_reading->setGeometry(frame + titleWidth + headGap, frame, std::max(0, width - titleWidth - headGap),
-                           titleHeight);
     const QSize beside = m_beside ? m_beside->sizeHint() : QSize(0, 0);
     m_caption->setGeometry(frame, frame + titleHeight, width - beside.width(),
                            m_caption->sizeHint().height());
     if (m_beside)
         m_beside->setGeometry(QRect({frame + width - beside.width(), frame + titleHeight}, beside));
+    m_headWidth = width;
+    placeReading();
+}
+
+/// Beside the title; where it is too long for that, in the caption's place, so that the chart below stays
+/// where it is.
+void ChartView::placeReading()
+{
+    const QRect title = m_title->geometry();
+    const int left = title.right() + 1 + headGap;
+    const int room = std::max(0, frame + m_headWidth - left);
+    const QRect caption = m_caption->geometry();
+    const int wanted = m_reading->sizeHint().width();
+    const bool hasLine = m_beside || !m_caption->text().isEmpty();
+    const bool isBelow = !m_reading->text().isEmpty() && wanted > room && hasLine && caption.width() > room;
+    m_caption->setVisible(!isBelow);
+    m_reading->setAlignment((isBelow ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    if (isBelow)
+        m_reading->setGeometry(caption.left(), caption.top(), caption.width() - headGap, caption.height());
+    else
+        m_reading->setGeometry(left, title.top(), room, title.height());
 }
 
 void ChartView::restyle()

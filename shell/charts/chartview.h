@@ -44,8 +44,11 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void placeReading();
+
     ElidedLabel *m_title;
     ElidedLabel *m_caption;
     QWidget *m_beside = nullptr;
     ElidedLabel *m_reading; ///< of what is named
+    int m_headWidth = 0;
 };

@@ -187,6 +187,22 @@ private slots:
         }
     }
 
+    /// Beside the title or, in a narrow chart, in the caption's place.
+    void whatIsNamedIsWhole()
+    {
+        show(twoCars());
+        auto *words = m_view->findChild<QLabel *>(u"chartReading"_s);
+        const auto *title = m_view->findChild<QLabel *>(u"chartTitle"_s);
+        for (const auto &[width, isBelow] :
+             {std::pair(title->width() + words->sizeHint().width() + 40, false),
+              {title->width() + words->sizeHint().width() - 20, true}}) {
+            m_view->resize(width, 360);
+            QCoreApplication::processEvents();
+            QCOMPARE(words->y() > title->y(), isBelow);
+            QVERIFY(words->width() >= words->sizeHint().width());
+        }
+    }
+
     void theMouseNamesThePoints()
     {
         show(twoCars());
