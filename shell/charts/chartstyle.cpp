@@ -44,12 +44,19 @@ QPen ChartStyle::linePen(qsizetype index) const
     return pen;
 }
 
+QColor ChartStyle::groundOf(const QWidget *widget)
+{
+    while (!widget->palette().brush(QPalette::Window).isOpaque() && widget->parentWidget())
+        widget = widget->parentWidget();
+    return widget->palette().color(QPalette::Window);
+}
+
 /// Of the palette: a panel of the user's colour passes its ink on. The bars keep their hue where it can be
 /// seen.
 ChartStyle ChartStyle::onScreen(const QWidget *widget)
 {
     const QPalette palette = widget->palette();
-    const QColor ground = palette.color(QPalette::Window);
+    const QColor ground = groundOf(widget);
     const Theme &theme = Theme::of(widget);
     const auto visible = [&](const QColor &color) {
         return contrast(color, ground) >= leastContrast ? color : palette.color(ThemeRole::strong);

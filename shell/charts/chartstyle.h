@@ -23,6 +23,8 @@ struct ChartStyle {
     QPen linePen(qsizetype index) const;
 
     static ChartStyle onScreen(const QWidget *widget);
+    /// The colour behind `widget`, which in a part that scrolls is not that of its own palette.
+    static QColor groundOf(const QWidget *widget);
     /// For a picture of 96 points to the inch, drawn larger.
     static ChartStyle onPaper(int inset = 0);
 };

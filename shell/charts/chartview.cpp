@@ -93,6 +93,7 @@ void ChartView::placeReading()
 void ChartView::restyle()
 {
     const ChartStyle style = ChartStyle::onScreen(this);
+    m_ground = style.ground;
     m_title->setFont(style.title);
     setStyle(style);
 }
@@ -122,6 +123,16 @@ void ChartView::showEvent(QShowEvent *event)
 
 void ChartView::paintEvent(QPaintEvent *)
 {
+    // A part that scrolls does not tell that the colour of the panel behind it has changed.
+    if (ChartStyle::groundOf(this) != m_ground) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                restyle();
+                arrange();
+            },
+            Qt::QueuedConnection);
+    }
     if (!hasFocus())
         return;
     QPainter painter(this);

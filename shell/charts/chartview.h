@@ -51,4 +51,5 @@ private:
     QWidget *m_beside = nullptr;
     ElidedLabel *m_reading; ///< of what is named
     int m_headWidth = 0;
+    QColor m_ground; ///< that it was drawn for
 };
