@@ -36,13 +36,16 @@ WeighInEntry::WeighInEntry(const WeightDesk &desk, DatePicker *picker, QWidget *
     , m_date(named(new DateBox(desk.dateCheck.reading(), picker, this), u"weighInDate"_s))
     , m_weight(named(new FieldBox(this), u"weighInWeight"_s))
     , m_fact(named(makeQuietLabel({}, this), u"weighInFact"_s))
-    , m_row(new QHBoxLayout(this))
+    , m_rows(new QVBoxLayout(this))
+    , m_row(new QHBoxLayout)
 {
     m_date->setForm(WeightDates::tableText);
     m_date->setFixedWidth(boxWidth(u"00/00/0000"_s, 128));
     m_weight->setFixedWidth(boxWidth(u"0000.0"_s, 104));
     m_weight->setByteLimit(longestWeight);
-    m_row->setContentsMargins({});
+    m_rows->setContentsMargins({});
+    m_rows->setSpacing(4);
+    m_rows->addLayout(m_row);
     m_row->setSpacing(12);
     m_row->addLayout(labelled(u"Date of Weigh In:"_s, m_date));
     m_row->addLayout(labelled(u"Current Weight:"_s, m_weight));
@@ -115,6 +118,36 @@ void WeighInEntry::typeWeight()
     m_weight->selectAll();
 }
 
+/// What is told of the weight stands behind the boxes; where the line is too short for that, below them in a
+/// line of its own, which is kept free so that nothing moves while the weight is typed.
+void WeighInEntry::placeFact()
+{
+    const QFontMetrics metrics(m_fact->font());
+    int needed = metrics.horizontalAdvance(TrackerLines::fromBeginning(u"-000.0"_s));
+    for (int i = 0; i < m_row->count(); ++i) {
+        if (m_row->itemAt(i)->widget() != m_fact)
+            needed += m_row->itemAt(i)->sizeHint().width() + m_row->spacing();
+    }
+    const bool isBelow = needed > width();
+    if (isBelow == m_isFactBelow)
+        return;
+    m_isFactBelow = isBelow;
+    m_row->removeWidget(m_fact);
+    m_rows->removeWidget(m_fact);
+    if (isBelow)
+        m_rows->addWidget(m_fact);
+    else
+        m_row->addWidget(m_fact, 1, Qt::AlignBottom);
+    m_fact->setMinimumHeight(isBelow ? metrics.height() : 0);
+    showFact();
+}
+
+void WeighInEntry::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placeFact();
+}
+
 /// What the weight is to the last one, and to the goal.
 void WeighInEntry::showFact()
 {
@@ -130,7 +163,7 @@ void WeighInEntry::showFact()
         facts << TrackerLines::fromLast(WeightNumbers::difference(double(*weight - *last)));
     if (const auto beginning = sheet.beginningWeight())
         facts << TrackerLines::fromBeginning(WeightNumbers::difference(double(*weight - *beginning)));
-    m_fact->setText(facts.join(u'\n'));
+    m_fact->setText(facts.join(m_isFactBelow ? u", "_s : u"\n"_s));
 }
 
 /// Enter in either box adds the weigh-in; Esc gives up what was typed before it leaves the view.

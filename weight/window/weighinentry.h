@@ -46,14 +46,18 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void takePicked();
     void showFact();
+    void placeFact();
 
     WeightDesk m_desk;
     DateBox *m_date;
     FieldBox *m_weight;
     QLabel *m_fact;
+    QBoxLayout *m_rows;
     QBoxLayout *m_row;
+    bool m_isFactBelow = false;
 };
