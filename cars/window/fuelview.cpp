@@ -38,7 +38,7 @@ FuelView::FuelView(const CarDesk &desk)
 {
     pane().setAmend(
         [this](CarRecord &wanted, qsizetype row, LogPane::Adding) { followReading(wanted, row); });
-    addScrolling({m_figures, m_chart});
+    addParts({m_figures, m_chart});
 }
 
 void FuelView::openCalculators()

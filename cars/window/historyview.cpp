@@ -19,7 +19,7 @@ HistoryView::HistoryView(const QString &name, const CarDesk &desk, CarPart part,
               u"&Add Entry"_s)
     , m_figures(new FigureStrip(name + u"Figures"_s, this))
 {
-    addScrolling({m_figures});
+    addParts({m_figures});
 }
 
 void HistoryView::showFigures()

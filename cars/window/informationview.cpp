@@ -24,12 +24,10 @@ InformationView::InformationView(const CarDesk &desk)
     , m_form(new SheetForm(this))
     , m_pictures(desk.program.folder)
 {
-    auto *scroll = named(new ScrollPart(m_form, this), u"sheetScroll"_s);
-    scroll->scrollByItself();
-    addContent(scroll, 1);
+    addContent(m_form, 1);
     setFocusProxy(m_form->box(SheetForm::nameBox));
-    connect(m_form, &SheetForm::boxFocused, scroll,
-            [scroll](QWidget *box) { scroll->ensureWidgetVisible(box, 8, 32); });
+    connect(m_form, &SheetForm::boxFocused, this,
+            [this](QWidget *box) { scroll().ensureWidgetVisible(box, 8, 32); });
     connect(m_form, &SheetForm::edited, this, [this] { foot().setWords(FrameLines::unsavedChanges()); });
     connect(m_form, &SheetForm::entered, this, &InformationView::take);
     connect(m_form, &SheetForm::said, this, &InformationView::said);

@@ -4,9 +4,6 @@
 #include "cars/window/opencar.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
-#include "shell/controls/scrollpart.h"
-
-#include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,19 +22,11 @@ LogView::LogView(const QString &name, const CarDesk &desk, CarPart part, LogPane
     connect(pane, &LogPane::added, this, &LogView::done);
 }
 
-/// Title and buttons stay in sight where the rest has no room.
-void LogView::addScrolling(const QList<QWidget *> &above)
+void LogView::addParts(const QList<QWidget *> &above)
 {
-    auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins({});
-    layout->setSpacing(12);
     for (QWidget *part : above)
-        layout->addWidget(part);
-    layout->addWidget(m_pane, 1);
-    auto *scroll = named(new ScrollPart(content, this), objectName() + u"Scroll"_s);
-    scroll->scrollByItself();
-    addContent(scroll, 1);
+        addContent(part);
+    addContent(m_pane, 1);
 }
 
 void LogView::finishEdit()

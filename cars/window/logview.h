@@ -22,8 +22,8 @@ protected:
     /// The view takes `pane`; `addCaption` is on the button that adds what was typed.
     LogView(const QString &name, const CarDesk &desk, CarPart part, LogPane *pane, const QString &addCaption);
 
-    /// Puts `above` over the rows; where there is little height, all of it scrolls.
-    void addScrolling(const QList<QWidget *> &above);
+    /// Puts `above` over the rows.
+    void addParts(const QList<QWidget *> &above);
     void refresh() override;
     /// What the rows come to, once they are shown.
     virtual void showFigures() = 0;

@@ -20,6 +20,7 @@ constexpr int topRoom = 10; ///< above the highest tick, for half of its number
 constexpr int tickHeight = 46;
 constexpr int leastTickHeight = 28; ///< where a rougher axis would leave much of the height empty
 constexpr double leastShare = 0.7;
+constexpr int leastHeight = 80;
 constexpr int tickSpace = 22; ///< between two words of the axis across
 constexpr int numberRoom = 90;
 constexpr double reach = 24;
@@ -359,5 +360,5 @@ std::optional<LinePlot::Spot> LinePlot::nearest(qsizetype series, double x) cons
 QSize LinePlot::leastSize() const
 {
     const QFontMetrics metrics(m_style.label);
-    return {320, axisHeight() + metrics.height() + topRoom + 3 * tickHeight};
+    return {320, axisHeight() + metrics.height() + topRoom + leastHeight};
 }

@@ -3,10 +3,10 @@
 
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/lowwindow.h"
+#include "shell/controls/scrollpart.h"
 #include "shell/controls/titleline.h"
 
 #include <QKeyEvent>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -50,7 +50,9 @@ void TaskPanel::setTitle(const QString &title)
 
 void TaskPanel::setContent(QWidget *content)
 {
-    setWork(makeScrolling(content, stem(objectName()) + u"Scroll"_s, this));
+    auto *scroll = named(new ScrollPart(content, this), stem(objectName()) + u"Scroll"_s);
+    scroll->scrollByItself();
+    setWork(scroll);
 }
 
 void TaskPanel::setWork(QWidget *work)

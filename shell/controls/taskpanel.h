@@ -24,7 +24,7 @@ public:
     TitleLine &titleLine() const { return *m_title; }
     void setTitle(const QString &title);
 
-    /// Content that scrolls where it does not fit.
+    /// Content that scrolls where it does not fit, between the title and the foot.
     void setContent(QWidget *content);
     /// Content that fills the panel as it is, since parts of it scroll by themselves.
     void setWork(QWidget *work);

@@ -3,6 +3,8 @@
 
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/lowwindow.h"
+#include "shell/controls/scrollpart.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/framelines.h"
 
@@ -16,19 +18,33 @@ TitledView::TitledView(const QString &name, QWidget *parent)
     : QWidget(parent)
     , m_title(new TitleLine(name + u"Title"_s, {}, this))
     , m_rows(new QVBoxLayout(this))
+    , m_content(new QWidget)
+    , m_parts(new QVBoxLayout(m_content))
+    , m_scroll(named(new ScrollPart(m_content, this), name + u"Scroll"_s))
     , m_foot(named(new ButtonRow(this), name + u"Foot"_s))
 {
     setObjectName(name + u"View"_s);
-    m_rows->setContentsMargins(20, 16, 20, 18);
-    m_rows->setSpacing(12);
+    m_parts->setContentsMargins({});
+    m_scroll->scrollByItself();
+    auto *low = new LowWindow(this);
+    connect(low, &LowWindow::changed, this, &TitledView::setLow);
+    setLow(low->isLow());
     m_rows->addWidget(m_title);
+    m_rows->addWidget(m_scroll, 1);
     m_rows->addWidget(makeLine(this));
     m_rows->addWidget(m_foot);
 }
 
+void TitledView::setLow(bool isLow)
+{
+    m_rows->setContentsMargins(20, isLow ? 8 : 16, 20, isLow ? 10 : 18);
+    for (QVBoxLayout *rows : {m_rows, m_parts})
+        rows->setSpacing(isLow ? 8 : 12);
+}
+
 void TitledView::addContent(QWidget *content, int stretch)
 {
-    m_rows->insertWidget(m_rows->count() - 2, content, stretch);
+    m_parts->addWidget(content, stretch);
 }
 
 void TitledView::follow(bool isModified)

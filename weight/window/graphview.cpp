@@ -59,7 +59,8 @@ GraphView::GraphView(const WeightDesk &desk)
     , m_chart(new LineChartView(u"Chart2D1"_s, m_stack))
     , m_table(named(new QTableView(m_stack), u"graphPeriods"_s))
 {
-    titleLine().setTitle(u"Weight Tracker Graph"_s);
+    const QString title = u"Weight Tracker Graph"_s;
+    titleLine().setTitle(title, title); // in smaller letters beside the choice, where there is little width
     m_choice->addItems({u"Graph of the last 50"_s, u"Graph of the whole history"_s, u"Compare four weeks"_s,
                         u"Compare months"_s, u"Compare years"_s});
     m_choice->setAccessibleName(u"What is shown"_s);

@@ -4,6 +4,7 @@
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/datepicker.h"
+#include "shell/controls/scrollpart.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/functionwindow.h"
@@ -13,8 +14,6 @@
 #include "weight/window/planform.h"
 #include "weight/window/windowlines.h"
 
-#include <QScrollArea>
-
 using namespace Qt::Literals::StringLiterals;
 
 PlanView::PlanView(const WeightDesk &desk)
@@ -23,11 +22,10 @@ PlanView::PlanView(const WeightDesk &desk)
           desk, new DatePicker(desk.program.clock, desk.program.settings, &desk.window, u"MonthView2"_s),
           this))
 {
-    QScrollArea *scroll = makeScrolling(m_form, u"planScroll"_s, this);
-    addContent(scroll, 1);
+    addContent(m_form, 1);
     setFocusProxy(m_form->box(WeightSheet::Name));
-    connect(m_form, &PlanForm::boxFocused, scroll,
-            [scroll](QWidget *box) { scroll->ensureWidgetVisible(box, 8, 32); });
+    connect(m_form, &PlanForm::boxFocused, this,
+            [this](QWidget *box) { scroll().ensureWidgetVisible(box, 8, 32); });
     connect(m_form, &PlanForm::edited, this, [this] { foot().setWords(FrameLines::unsavedChanges()); });
     connect(m_form, &PlanForm::entered, this, &PlanView::take);
     connect(m_form, &PlanForm::said, this, &PlanView::said);
