@@ -5,6 +5,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
+#include "shell/controls/scrollpart.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/framelines.h"
 #include "shell/frame/functionwindow.h"
@@ -22,6 +23,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr int betweenPhotos = 24;
 
 WeightSheet::Field dateField(PhotosView::Photo photo)
 {
@@ -43,7 +46,7 @@ PhotosView::PhotosView(const WeightDesk &desk)
     auto *places = new QWidget(this);
     auto *row = new QHBoxLayout(places);
     row->setContentsMargins({});
-    row->setSpacing(24);
+    row->setSpacing(betweenPhotos);
     for (const Photo photo : {Beginning, Current})
         row->addWidget(makePlace(photo, picker), 1);
     addContent(places, 1);
@@ -86,8 +89,28 @@ QWidget *PhotosView::makePlace(Photo photo, DatePicker *picker)
 void PhotosView::setButton(Photo photo, QPushButton *button)
 {
     button->setParent(m_frames[photo]->parentWidget());
+    m_buttons[photo] = button;
     m_rows[photo]->addWidget(button, 0, Qt::AlignBottom);
     setTabOrder(m_dates[photo], button);
+}
+
+/// Below the date where both have no room side by side.
+void PhotosView::placeButtons()
+{
+    for (const Photo photo : {Beginning, Current}) {
+        if (!m_buttons[photo])
+            continue;
+        const int needed =
+            m_dates[photo]->minimumWidth() + m_rows[photo]->spacing() + m_buttons[photo]->sizeHint().width();
+        const bool isNarrow = 2 * needed + betweenPhotos > scroll().width();
+        m_rows[photo]->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    }
+}
+
+void PhotosView::resizeEvent(QResizeEvent *event)
+{
+    PersonView::resizeEvent(event);
+    placeButtons();
 }
 
 void PhotosView::finishEdit()

@@ -24,7 +24,7 @@ public:
     explicit PhotosView(const WeightDesk &desk);
 
     void finishEdit() override;
-    /// Puts the button that chooses a photo below it.
+    /// Puts the button that chooses a photo beside its date.
     void setButton(Photo photo, QPushButton *button);
 
     PictureFrame *frame(Photo photo) const { return m_frames[photo]; }
@@ -35,14 +35,17 @@ public:
 
 protected:
     void refresh() override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *makePlace(Photo photo, DatePicker *picker);
+    void placeButtons();
     void take(Photo photo);
 
     PictureFolder m_pictures;
     std::array<PictureFrame *, count> m_frames{};
     std::array<DateBox *, count> m_dates{};
     std::array<QHBoxLayout *, count> m_rows{};
+    std::array<QPushButton *, count> m_buttons{};
     std::array<QString, count> m_shown; ///< paths as the sheet has them
 };
