@@ -11,9 +11,8 @@ class LowWindow final : public QObject
 {
     Q_OBJECT
 public:
-    /// Windows of this height have room for everything, in logical pixels; those on a screen of 600 have not,
-    /// with a title bar or without one.
-    static constexpr int below = 620;
+    /// Windows of this height have room for everything; in logical pixels.
+    static constexpr int below = 600;
 
     explicit LowWindow(QWidget *part);
 
