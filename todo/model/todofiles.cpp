@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "todo/model/todofiles.h"
+
+#include "storage/log.h"
+#include "storage/saving.h"
+#include "todo/model/activefile.h"
+#include "todo/model/lines.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString ownName = u"ToDo1.Fil"_s;
+const QString namesName = u"TODONAME.FIL"_s;
+const QString activeName = u"TODOActv.FIL"_s;
+
+/// What the file `name` holds, nothing where it is missing; no value, and a line in the log, where it cannot
+/// be read.
+std::optional<QByteArray> contentOf(const DataFolder &folder, const QString &name)
+{
+    const QString path = folder.filePath(name);
+    if (!QFileInfo::exists(path))
+        return QByteArray();
+    QFile file(path);
+    if (QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        const QByteArray bytes = file.readAll();
+        if (file.error() == QFile::NoError)
+            return bytes;
+    }
+    qCWarning(storageLog).noquote() << "Cannot read" << path << '-' << file.errorString();
+    return {};
+}
+
+bool replaceChanged(const DataFolder &folder, const QString &name, const QByteArray &content)
+{
+    const bool isThere = folder.exists(name);
+    return (isThere && contentOf(folder, name) == content) || Saving::replaceFile(folder, name, content);
+}
+
+} // namespace
+
+QStringList ToDoFiles::names()
+{
+    return {ownName, namesName, activeName};
+}
+
+ToDoFiles::Opened ToDoFiles::open(DateStyle style, QDate today) const
+{
+    Opened opened;
+    opened.whyLocked = m_folder.whyReadOnly();
+    const std::optional<QByteArray> own = contentOf(m_folder, ownName);
+    const QByteArray active = contentOf(m_folder, activeName).value_or(QByteArray());
+    const auto form = own ? ToDoSheet::formOf(*own) : ToDoSheet::Form::Foreign;
+    if (!own)
+        opened.whyLocked = ToDoLines::unreadableFile();
+    else if (form == ToDoSheet::Form::Foreign)
+        opened.whyLocked = ToDoLines::foreignFile();
+    else if (form == ToDoSheet::Form::Later)
+        opened.whyLocked = ToDoLines::laterVersion();
+
+    opened.isNew = form == ToDoSheet::Form::Empty || form == ToDoSheet::Form::Foreign;
+    if (opened.isNew) {
+        const QByteArray names = contentOf(m_folder, namesName).value_or(QByteArray());
+        opened.sheet = ActiveFile::firstSheet(names, active, style, today);
+        opened.former = opened.sheet;
+        return opened;
+    }
+    opened.sheet = ToDoSheet::fromFile(*own);
+    opened.former = opened.sheet;
+    const auto [digest, formerDigest] = opened.sheet.digests();
+    const QByteArray there = ActiveFile::digest(active);
+    if (there != digest && there != formerDigest)
+        opened.takenIn = ActiveFile::takeIn(opened.sheet, active, style, today);
+    return opened;
+}
+
+ToDoSheet ToDoFiles::read(DateStyle style, QDate today) const
+{
+    return open(style, today).former;
+}
+
+bool ToDoFiles::save(const ToDoSheet &sheet) const
+{
+    const QByteArray active = ActiveFile::make(sheet);
+    const QByteArray there = contentOf(m_folder, activeName).value_or(QByteArray());
+    const QByteArray own = sheet.toFile(ActiveFile::digest(active), ActiveFile::digest(there));
+    return replaceChanged(m_folder, ownName, own) &&
+           replaceChanged(m_folder, namesName, ActiveFile::makeNames(sheet)) &&
+           replaceChanged(m_folder, activeName, active);
+}
