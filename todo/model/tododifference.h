@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "todo/model/todosheet.h"
+
+#include <utility>
+#include <vector>
+
+/// What one action changed in the lists: the lines that went and those that came. It can be taken back and
+/// made again as long as those lines stand where it left them.
+class ToDoDifference
+{
+public:
+    static ToDoDifference between(const ToDoSheet &before, const ToDoSheet &after);
+
+    bool isEmpty() const { return m_gone.empty() && m_come.empty(); }
+
+    /// Makes the change in `sheet`; false, with nothing changed, where it is not what it was before.
+    [[nodiscard]] bool apply(ToDoSheet &sheet) const { return exchange(sheet, m_gone, m_come); }
+    /// Takes it back in the same way.
+    [[nodiscard]] bool revert(ToDoSheet &sheet) const { return exchange(sheet, m_come, m_gone); }
+
+private:
+    using Lines = std::vector<std::pair<int, QByteArray>>; ///< with their places
+
+    static bool exchange(ToDoSheet &sheet, const Lines &gone, const Lines &come);
+
+    Lines m_gone;
+    Lines m_come;
+};
