@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/core/programstate.h"
-
 #include <QDate>
 #include <QString>
 
 #include <array>
 #include <optional>
 
-/// How often a thing to do comes back: every 3 days, every second week on Monday and Thursday, on the last
-/// day of the month, every year on 15 March.
+/// How often a thing to do comes back (`RepeatWords` reads and says it): every 3 days, every second week on
+/// Monday and Thursday, on the last day of the month, every year on 15 March.
 struct Repeat {
     enum Unit { Day, Week, Month, Year };
 
@@ -25,13 +23,8 @@ struct Repeat {
 
     /// "day 3 after", "week 2 mon,thu", "month 1 31", "year 1 03-15"; nothing for anything else.
     static std::optional<Repeat> ofFile(QStringView text);
-    /// What was typed: "every 3 days", "mon, thu", "monthly", "every year on 15 March after it is done". What
-    /// is left open is that of `start`. Nothing where it is no rule.
-    static std::optional<Repeat> typed(QStringView text, QDate start);
 
     QString toFile() const;
-    /// "every 3 days", which `typed` reads again.
-    QString words(DateStyle style) const;
 
     /// When a thing that was due on `due` (invalid: on no day) and done on `actual` comes back.
     QDate next(QDate due, QDate actual, QDate today) const;

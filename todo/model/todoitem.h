@@ -16,6 +16,9 @@ struct ToDoList {
     ListKind kind = ListKind::Plain;
     QString name;
 
+    /// In characters.
+    static constexpr int longestName = 60;
+
     bool operator==(const ToDoList &) const = default;
 };
 

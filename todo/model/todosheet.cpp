@@ -132,6 +132,16 @@ QByteArrayView ToDoSheet::noteBytes(int row) const
     return rest.first(end < 0 ? rest.size() : end);
 }
 
+/// Two columns before the text.
+QByteArrayView ToDoSheet::repeatBytes(int row) const
+{
+    const Line &line = rowLine(row);
+    const QByteArrayView head = bytes(line).first(line.outline.textAt - 1);
+    const qsizetype created = head.lastIndexOf('\t');
+    const qsizetype repeat = head.lastIndexOf('\t', created - 1);
+    return head.sliced(repeat + 1, created - repeat - 1);
+}
+
 int ToDoSheet::add(ToDoItem item, int before)
 {
     if (item.id <= 0 || rowOf(item.id) >= 0)
@@ -163,6 +173,14 @@ void ToDoSheet::set(int row, const ToDoItem &item)
     const QByteArray made = ToDoLine::make(item, bytes(m_lines[line]));
     if (made != bytes(m_lines[line]))
         m_lines[line] = keep(made);
+}
+
+void ToDoSheet::removeRows(const std::vector<int> &rows)
+{
+    std::vector<int> lines;
+    for (const int row : rows)
+        lines.push_back(m_rows[row]);
+    removeLines(lines);
 }
 
 void ToDoSheet::move(const std::vector<int> &rows, int before)

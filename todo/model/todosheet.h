@@ -57,6 +57,8 @@ public:
     /// UTF-8 as in the file, with its escapes, for searches.
     QByteArrayView textBytes(int row) const;
     QByteArrayView noteBytes(int row) const;
+    /// Empty where the item does not come back.
+    QByteArrayView repeatBytes(int row) const;
 
     /// Adds an item before the row `before`, behind all of them where that is -1. Its id, given anew where it
     /// is 0 or taken.
@@ -65,6 +67,8 @@ public:
     std::vector<int> addAll(std::vector<ToDoItem> items, int before = -1);
     void set(int row, const ToDoItem &item);
     void remove(int row) { removeLine(m_rows[row]); }
+    /// Several at once, in ascending order.
+    void removeRows(const std::vector<int> &rows);
     /// Puts `rows`, which keep their order, before the row `before`, behind all of them where that is -1.
     void move(const std::vector<int> &rows, int before);
 
