@@ -122,17 +122,22 @@ void PasteFilter::pasteSelection()
     take(QApplication::clipboard()->text(QClipboard::Selection));
 }
 
-/// The usual menu of a box, with its Paste led here.
 void PasteFilter::showMenu(QPoint place)
 {
-    QMenu *menu = m_box->createStandardContextMenu();
+    QMenu *menu = makeMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(place);
+}
+
+QMenu *PasteFilter::makeMenu()
+{
+    QMenu *menu = m_box->createStandardContextMenu();
     for (QAction *action : menu->actions())
         if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
             action->disconnect(m_box);
             connect(action, &QAction::triggered, this, &PasteFilter::paste);
         }
-    menu->popup(place);
+    return menu;
 }
 
 void PasteFilter::drop(QDropEvent &event)

@@ -6,6 +6,7 @@
 
 class QDropEvent;
 class QLineEdit;
+class QMenu;
 class QPoint;
 
 /// Which characters a box takes: all, or those of the files' code page.
@@ -22,6 +23,9 @@ class PasteFilter final : public QObject
 public:
     /// Belongs to `box`, whose `maxLength()` is its limit.
     PasteFilter(QLineEdit *box, Characters characters);
+
+    /// The usual menu of the box, whose Paste takes what the box can hold; to be deleted.
+    QMenu *makeMenu();
 
 signals:
     /// Not all of the text was taken: for the characters `foreign` to the code page, because the box was full
