@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/writing/writing.h"
+
+#include "shell/controls/busycursor.h"
+#include "shell/writing/checkedline.h"
+#include "shell/writing/checkedtext.h"
+#include "shell/writing/correctionfile.h"
+#include "shell/writing/writinglines.h"
+
+#include <QSettings>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString languagesKey = QStringLiteral("Writing/languages");
+
+} // namespace
+
+Writing::Writing(WritingHome home, QObject *parent)
+    : QObject(parent)
+    , m_home(std::move(home))
+    , m_spelling(m_home.folder)
+{}
+
+void Writing::check(QLineEdit *box)
+{
+    new CheckedLine(*this, box);
+}
+
+void Writing::check(QPlainTextEdit *box)
+{
+    new CheckedText(*this, box);
+}
+
+void Writing::load()
+{
+    const FileStamp now = FileStamp::of(m_home.folder, {OwnWords::fileName, CorrectionFile::fileName});
+    if (m_isLoaded && now == m_read)
+        return;
+    m_read = now;
+    readFiles();
+    if (!m_isLoaded) {
+        m_isLoaded = true;
+        loadLanguages();
+        if (m_home.knownNames)
+            m_spelling.setKnownNames(m_home.knownNames());
+    }
+    emit changed();
+}
+
+void Writing::readFiles()
+{
+    m_spelling.readOwnWords();
+    m_corrections = CorrectionFile(m_home.folder).read();
+}
+
+void Writing::loadLanguages()
+{
+    const BusyCursor busy;
+    const QStringList chosen = languages();
+    std::vector<std::unique_ptr<Dictionary>> loaded;
+    for (const DictionaryFiles &files : dictionaries()) {
+        if (!chosen.contains(files.name))
+            continue;
+        if (auto dictionary = Dictionary::load(files))
+            loaded.push_back(std::move(dictionary));
+    }
+    m_spelling.setDictionaries(std::move(loaded));
+}
+
+QString Writing::whyNoSpelling() const
+{
+    if (m_spelling.hasDictionary())
+        return {};
+    const auto found = dictionaries();
+    const bool isAny = std::ranges::any_of(found, &DictionaryFiles::isUsable);
+    return isAny ? WritingLines::noLanguageChosen() : howToGetOne();
+}
+
+bool Writing::setCorrections(const Corrections &corrections)
+{
+    if (!CorrectionFile(m_home.folder).save(corrections))
+        return false;
+    m_corrections = corrections;
+    return true;
+}
+
+void Writing::addWord(const QString &word)
+{
+    const bool isSaved = m_spelling.addOwnWord(word);
+    emit said(isSaved ? WritingLines::added(word) : WritingLines::notAdded(word));
+    emit changed();
+}
+
+void Writing::ignore(const QString &word)
+{
+    m_spelling.ignore(word);
+    emit changed();
+}
+
+std::vector<DictionaryFiles> Writing::dictionaries() const
+{
+    return Dictionaries::found(m_home.dictionaryFolders);
+}
+
+QStringList Writing::languages() const
+{
+    const std::vector<DictionaryFiles> found = dictionaries();
+    if (!m_home.store.contains(languagesKey))
+        return Dictionaries::firstChoice(found, m_home.systemLanguage);
+    const QStringList wanted = m_home.store.value(languagesKey).toStringList();
+    QStringList there;
+    for (const DictionaryFiles &files : found) {
+        if (files.isUsable() && wanted.contains(files.name))
+            there += files.name;
+    }
+    // What was chosen may have been removed from this machine.
+    return there.isEmpty() && !wanted.isEmpty() ? Dictionaries::firstChoice(found, m_home.systemLanguage)
+                                                : there;
+}
+
+void Writing::choose(const QString &language, bool isChosen)
+{
+    QStringList chosen = languages();
+    chosen.removeAll(language);
+    if (isChosen)
+        chosen += language;
+    m_home.store.setValue(languagesKey, chosen);
+    loadLanguages();
+    emit changed();
+}
+
+QString Writing::howToGetOne() const
+{
+    return WritingLines::howToGetOne(m_home.dictionaryFolders.value(0));
+}

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/writing/corrections.h"
+#include "shell/writing/dictionaries.h"
+#include "shell/writing/spelling.h"
+#include "storage/filestamp.h"
+
+#include <QLocale>
+#include <QObject>
+
+#include <functional>
+
+class QLineEdit;
+class QPlainTextEdit;
+class QSettings;
+
+/// What the spelling of a window stands on.
+struct WritingHome {
+    const DataFolder &folder;      ///< the household's
+    QStringList dictionaryFolders; ///< see `Dictionaries::folders`
+    QSettings &store;
+    std::function<QStringList()> knownNames{}; ///< asked once, when the languages are loaded
+    QString systemLanguage = QLocale::system().name();
+};
+
+/// The spelling and the corrections of one window. Boxes that are given to it mark what is wrong, correct
+/// slips while one types, and offer other words in their menu. Nothing is read before the first of them has
+/// the focus and has been painted.
+class Writing final : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Writing(WritingHome home, QObject *parent = nullptr);
+
+    /// From now on `box` is checked, for as long as it lives.
+    void check(QLineEdit *box);
+    void check(QPlainTextEdit *box);
+
+    /// Loads the languages that are chosen, the household's words and its corrections; later only what has
+    /// changed on the disk.
+    void load();
+    bool isLoaded() const { return m_isLoaded; }
+    /// Why no word can be wrong; empty where one can. Known once it is loaded.
+    QString whyNoSpelling() const;
+
+    Spelling &spelling() { return m_spelling; }
+    const Corrections &corrections() const { return m_corrections; }
+    /// False where the disk refuses, or the file there is none that may be written: then nothing changes.
+    [[nodiscard]] bool setCorrections(const Corrections &corrections);
+    /// Adds `word` to the household's own, and says how that went.
+    void addWord(const QString &word);
+    void ignore(const QString &word);
+
+    /// What is installed, and the names of what is chosen: the user's choice, not the household's.
+    std::vector<DictionaryFiles> dictionaries() const;
+    QStringList languages() const;
+    void choose(const QString &language, bool isChosen);
+    QString howToGetOne() const;
+
+signals:
+    /// Another word may be right or wrong now.
+    void changed();
+    /// A sentence for the status bar.
+    void said(const QString &line);
+
+private:
+    void loadLanguages();
+    void readFiles();
+
+    WritingHome m_home;
+    Spelling m_spelling;
+    Corrections m_corrections;
+    FileStamp m_read;
+    bool m_isLoaded = false;
+};
