@@ -17,16 +17,27 @@ inline constexpr QLatin1StringView spending = "Quillery.spent-"_L1;
 inline constexpr std::array beginnings{spending, "Quillery.changes"_L1, "Quillery.trash"_L1,
                                        "Quillery.lock"_L1, "CarMnt1"_L1};
 
+/// Whether `name` is `beginning` with a number behind it, upper and lower case alike, ".Fil" or not.
+inline bool isNumbered(QStringView name, QStringView beginning)
+{
+    QStringView number = name.sliced(std::min(name.size(), beginning.size()));
+    if (number.endsWith(".fil"_L1, Qt::CaseInsensitive))
+        number.chop(4);
+    return name.startsWith(beginning, Qt::CaseInsensitive) && !number.isEmpty() &&
+           std::ranges::all_of(number, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
+}
+
 /// Whether `name` is that of a car's file: "ACar1", "MCar12.Fil".
 inline bool isOfACar(QStringView name)
 {
-    const QStringView kind = name.left(4);
-    QStringView slot = name.sliced(kind.size());
-    if (slot.endsWith(".fil"_L1, Qt::CaseInsensitive))
-        slot.chop(4);
-    return kind.endsWith("Car"_L1, Qt::CaseInsensitive) && "AMRG"_L1.contains(kind[0], Qt::CaseInsensitive) &&
-           !slot.isEmpty() &&
-           std::ranges::all_of(slot, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
+    static constexpr std::array<QStringView, 4> kinds{u"ACar", u"MCar", u"RCar", u"GCar"};
+    return std::ranges::any_of(kinds, [name](QStringView kind) { return isNumbered(name, kind); });
+}
+
+/// Whether `name` is that of a file of the journal or of the calendar maker: "DJour1", "CalMk2".
+inline bool isOfPages(QStringView name)
+{
+    return isNumbered(name, u"DJour") || isNumbered(name, u"CalMk");
 }
 
 /// Whether a file called `name` could be mistaken for one of these, upper and lower case alike.
@@ -38,18 +49,20 @@ inline bool isReserved(QStringView name)
 }
 
 /// The files of the program whose names end in ".Fil", without that ending. The years, of which the budget
-/// has a file each, and the files of cars are beyond them.
+/// has a file each, and the files of cars, of the journal and of the calendar maker are beyond them.
 inline constexpr std::array programFiles{
-    "Addbk1"_L1,   "Addbk2"_L1,  "Auto1"_L1,   "Auto2"_L1,    "CarMnt1"_L1,  "GColor1"_L1, "GColor14"_L1,
-    "GColor2"_L1,  "GColor3"_L1, "GColor4"_L1, "GColor44"_L1, "GColor5"_L1,  "GHINV1"_L1,  "HINV2"_L1,
-    "HInvName"_L1, "PCtrl1"_L1,  "SWR2"_L1,    "Temp"_L1,     "TODOActv"_L1, "Video2"_L1,  "WeightTrker"_L1};
+    "Addbk1"_L1,   "Addbk2"_L1,   "Auto1"_L1,    "Auto2"_L1,    "CarMnt1"_L1,    "GColor1"_L1, "GColor14"_L1,
+    "GColor2"_L1,  "GColor3"_L1,  "GColor4"_L1,  "GColor44"_L1, "GColor5"_L1,    "GHINV1"_L1,  "HINV2"_L1,
+    "HInvName"_L1, "Holiday1"_L1, "PCtrl1"_L1,   "SWR2"_L1,     "Spell1"_L1,     "Spell2"_L1,  "Temp"_L1,
+    "ToDo1"_L1,    "TODOActv"_L1, "TODONAME"_L1, "Video2"_L1,   "WeightTrker"_L1};
 
 /// Whether `name` with ".Fil" behind it is a file of the program's own, upper and lower case alike.
 inline bool isProgramFile(QStringView name)
 {
     const bool isYear = name.size() == 4 &&
                         std::ranges::all_of(name, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
-    return isYear || isOfACar(name) || std::ranges::any_of(programFiles, [name](QLatin1StringView file) {
+    return isYear || isOfACar(name) || isOfPages(name) ||
+           std::ranges::any_of(programFiles, [name](QLatin1StringView file) {
                return name.compare(file, Qt::CaseInsensitive) == 0;
            });
 }

@@ -5,6 +5,7 @@
 #include "storage/saving.h"
 #include "todo/model/activefile.h"
 #include "todo/model/lines.h"
+#include "todo/model/todohead.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -53,15 +54,15 @@ ToDoFiles::Opened ToDoFiles::open(DateStyle style, QDate today) const
     opened.whyLocked = m_folder.whyReadOnly();
     const std::optional<QByteArray> own = contentOf(m_folder, ownName);
     const QByteArray active = contentOf(m_folder, activeName).value_or(QByteArray());
-    const auto form = own ? ToDoSheet::formOf(*own) : ToDoSheet::Form::Foreign;
+    const auto form = own ? ToDoHead::formOf(*own) : ToDoHead::Foreign;
     if (!own)
         opened.whyLocked = ToDoLines::unreadableFile();
-    else if (form == ToDoSheet::Form::Foreign)
+    else if (form == ToDoHead::Foreign)
         opened.whyLocked = ToDoLines::foreignFile();
-    else if (form == ToDoSheet::Form::Later)
+    else if (form == ToDoHead::Later)
         opened.whyLocked = ToDoLines::laterVersion();
 
-    opened.isNew = form == ToDoSheet::Form::Empty || form == ToDoSheet::Form::Foreign;
+    opened.isNew = form == ToDoHead::Empty || form == ToDoHead::Foreign;
     if (opened.isNew) {
         const QByteArray names = contentOf(m_folder, namesName).value_or(QByteArray());
         opened.sheet = ActiveFile::firstSheet(names, active, style, today);

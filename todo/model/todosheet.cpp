@@ -2,6 +2,7 @@
 #include "todo/model/todosheet.h"
 
 #include "todo/model/lines.h"
+#include "todo/model/todohead.h"
 
 #include <QSet>
 
@@ -10,25 +11,7 @@
 
 namespace {
 
-constexpr QByteArrayView firstWords = "Quillery To Do ";
-constexpr QByteArrayView firstLine = "Quillery To Do 1";
-constexpr QByteArrayView byteOrderMark = "\xef\xbb\xbf";
 constexpr QByteArrayView lineEnd = "\r\n";
-
-QByteArrayView withoutMark(QByteArrayView file)
-{
-    return file.startsWith(byteOrderMark) ? file.sliced(byteOrderMark.size()) : file;
-}
-
-/// The line that `text` begins with, without its line end.
-QByteArrayView lineOf(QByteArrayView text)
-{
-    const qsizetype end = text.indexOf('\n');
-    QByteArrayView line = text.first(end < 0 ? text.size() : end);
-    if (line.endsWith('\r'))
-        line.chop(1);
-    return line;
-}
 
 /// The id behind `last`; where there is none, the first that is free.
 template <typename IsFree>
@@ -44,22 +27,12 @@ int newId(int last, IsFree isFree)
 
 } // namespace
 
-ToDoSheet::Form ToDoSheet::formOf(QByteArrayView file)
-{
-    file = withoutMark(file);
-    if (firstLine.startsWith(file))
-        return Form::Empty;
-    const QByteArrayView line = lineOf(file);
-    if (line == firstLine)
-        return Form::Known;
-    return line.startsWith(firstWords) && line.size() > firstWords.size() ? Form::Later : Form::Foreign;
-}
-
 ToDoSheet ToDoSheet::fromFile(const QByteArray &file)
 {
     ToDoSheet sheet;
-    const Form form = formOf(file);
-    if (file.size() > std::numeric_limits<qint32>::max() || (form != Form::Known && form != Form::Later))
+    const ToDoHead::Form form = ToDoHead::formOf(file);
+    const bool isOurs = form == ToDoHead::Known || form == ToDoHead::Later;
+    if (!isOurs || file.size() > std::numeric_limits<qint32>::max())
         return sheet;
     sheet.m_bytes = file;
     const qsizetype end = file.indexOf('\n');
@@ -75,12 +48,12 @@ QByteArray ToDoSheet::toFile(QByteArrayView digest, QByteArrayView formerDigest)
 {
     const auto isActive = [](const Line &line) { return line.outline.kind == ToDoLine::Kind::Active; };
     const auto active = std::ranges::find_if(m_lines, isActive);
-    qsizetype size = firstLine.size() + lineEnd.size() + digest.size() + formerDigest.size();
+    qsizetype size = ToDoHead::firstLine.size() + lineEnd.size() + digest.size() + formerDigest.size();
     for (const Line &line : m_lines)
         size += line.length + lineEnd.size();
     QByteArray file;
     file.reserve(size + ToDoLine::longest);
-    file.append(firstLine).append(lineEnd);
+    file.append(ToDoHead::firstLine).append(lineEnd);
     if (active == m_lines.end())
         file.append(ToDoLine::makeActive(digest, formerDigest)).append(lineEnd);
     for (auto line = m_lines.begin(); line != m_lines.end(); ++line) {
@@ -322,7 +295,7 @@ void ToDoSheet::readLines(qsizetype from)
     while (from < all.size()) {
         const qsizetype end = all.indexOf('\n', from);
         const qsizetype next = end < 0 ? all.size() : end + 1;
-        const QByteArrayView line = lineOf(all.sliced(from, next - from));
+        const QByteArrayView line = ToDoHead::lineOf(all.sliced(from, next - from));
         m_lines.append({qint32(from), qint32(line.size()), ToDoLine::outline(line)});
         from = next;
     }

@@ -16,17 +16,8 @@
 class ToDoSheet
 {
 public:
-    /// What the first line of a file says that it is.
-    enum class Form {
-        Empty, ///< nothing, or only the beginning of that line
-        Known,
-        Later,  ///< of a later version of the program
-        Foreign ///< anything else
-    };
-
     ToDoSheet() = default;
 
-    static Form formOf(QByteArrayView file);
     /// What `file` holds, as far as it can be read; nothing of a foreign one. A second list or item with an
     /// id gets one of its own; items of lists that are not there are in a list "Found".
     static ToDoSheet fromFile(const QByteArray &file);

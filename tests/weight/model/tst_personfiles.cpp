@@ -240,6 +240,10 @@ private slots:
             {"colours", u"GCOLOR3"_s, reserved(u"GCOLOR3"_s)},
             {"a car", u"mcar12"_s, reserved(u"mcar12"_s)},
             {"the list of cars", u"CarMnt1"_s, reserved(u"CarMnt1"_s)},
+            {"the To Do list", u"todo1"_s, reserved(u"todo1"_s)},
+            {"the journal", u"DJour3"_s, reserved(u"DJour3"_s)},
+            {"no journal", u"DJournal"_s, {}},
+            {"holidays", u"holiday1"_s, reserved(u"holiday1"_s)},
             {"one who is there", u"ZOË marsh "_s, WeightMessages::nameTaken(u"ZOË marsh"_s)},
             {"a file that is in no list", u"left"_s, WeightMessages::nameTaken(u"left"_s)},
         });
