@@ -4,6 +4,8 @@
 #include "cars/model/carwords.h"
 #include "shell/core/csvtext.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 
@@ -71,14 +73,15 @@ bool hasDigit(const QStringList &cells)
     return std::ranges::any_of(cells.join(QString()), [](QChar character) { return character.isDigit(); });
 }
 
-QList<int> namedBy(const QStringList &heading, CarPart part)
+QList<int> namedBy(const QStringList &heading, CarPart part, DistanceUnit unit)
 {
     QList<int> places(qsizetype(columnCount(part)), -1);
     for (const Named &named : part == CarPart::Fuel ? fuelNames() : historyNames()) {
         int &place = places[qsizetype(named.column)];
         for (const QString &word : named.words) {
             for (int i = 0; place < 0 && i < int(heading.size()); ++i) {
-                if (!places.contains(i) && heading[i].contains(word, Qt::CaseInsensitive))
+                if (!places.contains(i) && !CarCsv::isInOtherUnit(heading[i], unit) &&
+                    heading[i].contains(word, Qt::CaseInsensitive))
                     place = i;
             }
         }
@@ -106,16 +109,26 @@ QString CarCsv::fileName(const QString &vehicle, CarPart part)
     return CsvText::fileName(vehicle, what);
 }
 
-CarCsv::Columns CarCsv::Columns::find(const QList<QStringList> &lines, CarPart part)
+bool CarCsv::isInOtherUnit(const QString &heading, DistanceUnit unit)
+{
+    static const QRegularExpression miles(u"\\b(miles?|mi|mpg|gal|gallons?)\\b"_s,
+                                          QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression kilometers(u"\\b(kms?|kilomet(er|re)s?|lit(er|re)s?)\\b"_s,
+                                               QRegularExpression::CaseInsensitiveOption);
+    const bool isInMiles = heading.contains(miles);
+    return isInMiles != heading.contains(kilometers) && isInMiles != (unit == DistanceUnit::Miles);
+}
+
+CarCsv::Columns CarCsv::Columns::find(const QList<QStringList> &lines, CarPart part, DistanceUnit unit)
 {
     for (int i = 0; i < int(lines.size()); ++i) {
-        Columns columns{namedBy(lines[i], part), i};
+        Columns columns{namedBy(lines[i], part, unit), i};
         if (columns.isComplete() && std::ranges::count(columns.places, -1) + 2 <= columns.places.size())
             return columns;
     }
     // Names in another language are names all the same: somebody will say what they mean.
     if (lines.size() > 1 && !hasDigit(lines[0]) && hasDigit(lines[1]))
-        return {namedBy(lines[0], part), 0};
+        return {namedBy(lines[0], part, unit), 0};
     Columns columns;
     const auto count = qsizetype(columnCount(part));
     const bool fits = !lines.isEmpty() && lines.first().size() == count;

@@ -19,6 +19,9 @@ QByteArray text(const FuelLog &fuel, DistanceUnit unit);
 /// "Family van maintenance.csv": a name for such a file, without characters that no file name has.
 QString fileName(const QString &vehicle, CarPart part);
 
+/// Whether `heading` says that its column is not in `unit`, or not in the measure of fuel that goes with it.
+bool isInOtherUnit(const QString &heading, DistanceUnit unit);
+
 /// What the columns of such a file hold, and where in it: for each column of the grid its place, or -1.
 struct Columns {
     QList<int> places;
@@ -26,7 +29,8 @@ struct Columns {
 
     /// Found by a heading among `lines`, or a first one without a digit; without one by as many columns as
     /// the grid of `part` has.
-    static Columns find(const QList<QStringList> &lines, CarPart part);
+    /// A heading in the other unit names none.
+    static Columns find(const QList<QStringList> &lines, CarPart part, DistanceUnit unit);
 
     /// Whether what a row cannot do without was found: its date.
     bool isComplete() const;

@@ -88,7 +88,7 @@ void CarCsvImport::look()
         m_sample.append(line.cells);
         numbers.append(line.number);
     }
-    m_columns = CarCsv::Columns::find(m_sample, m_part);
+    m_columns = CarCsv::Columns::find(m_sample, m_part, m_car.sheet.unit);
     m_headingNumber = m_columns.headingLine < 0 ? 0 : numbers[m_columns.headingLine];
     guessForms();
 }
@@ -155,7 +155,9 @@ QStringList CarCsvImport::notUsed() const
     QStringList left;
     for (int place = 0; place < int(names.size()); ++place) {
         if (!m_columns.places.contains(place) && !example(place).isEmpty())
-            left << names[place];
+            left << (CarCsv::isInOtherUnit(names[place], m_car.sheet.unit)
+                         ? names[place] + u" (another unit)"_s
+                         : names[place]);
     }
     return left;
 }

@@ -74,7 +74,7 @@ private slots:
     void readsWhatOthersWrite_data()
     {
         rows<QByteArray, QString>(
-            {{"other headings", "Day;Km;What;Price\n02.01.2026;10.000;Tires;30,00 \xE2\x82\xAC\n",
+            {{"other headings", "Day;Mileage;What;Price\n02.01.2026;10.000;Tires;30,00 \xE2\x82\xAC\n",
               u"10000 01/02/2026 Tires 30.00"_s},
              {"columns in another order",
               "Cost,Service performed,Odometer reading,Date\n$30.00,Tires,\"10,000 mi\",2026-01-02\n",
@@ -86,6 +86,7 @@ private slots:
               u" 01/02/2026 Tires 30.00"_s},
              {"thousands with points, and no amounts", "Date,Odometer,Work\n01/02/2026,10.000 km,Tires\n",
               u"10000 01/02/2026 Tires "_s},
+             {"another unit", "Date,Km,Work\n01/02/2026,10000,Tires\n", u" 01/02/2026 Tires "_s},
              {"no cost", "Date,Odometer,Work\n01/02/2026,10000,Tires\n", u"10000 01/02/2026 Tires "_s},
              {"nothing but a date", "Date\n01/02/2026\n", {}},
              {"something else", "a,b\nc,d\n", {}}});
@@ -132,10 +133,13 @@ private slots:
     {
         CarCsvImport import = importOf(
             "Datum;Was;Betrag;;km\n02.01.2026;Reifen;12,50;;10.000\n03.01.2026;;;;\n", CarPart::Maintenance);
-        QCOMPARE(import.notUsed(), QStringList({u"Was"_s, u"Betrag"_s}));
+        QCOMPARE(import.notUsed(), QStringList({u"Was"_s, u"Betrag"_s, u"km (another unit)"_s}));
+        QVERIFY(CarCsv::isInOtherUnit(u"Miles Driven"_s, DistanceUnit::Kilometers));
+        QVERIFY(!CarCsv::isInOtherUnit(u"Mileage"_s, DistanceUnit::Kilometers));
         QVERIFY(import.lines()[0].isBare);
         QCOMPARE(import.chosenCount(), 0);
         QCOMPARE(import.example(2), u"12,50"_s);
+        import.setPlace(0, 4);
         import.setPlace(2, 1);
         import.setPlace(3, 2);
         while (import.step()) {}
