@@ -155,7 +155,8 @@ void AutoMaint::makeCommands()
 
 void AutoMaint::makeListButtons(QAction *create, QAction *remove)
 {
-    m_list->addButton(commands().button(create, u"createNew"_s, create->text(), m_list));
+    m_listCreate = commands().button(create, u"createNew"_s, create->text(), m_list);
+    m_list->addButton(m_listCreate);
     m_emptyPage->addButton(
         commands().button(create, u"emptyCreate"_s, create->text(), m_emptyPage, ButtonKind::Main));
     m_emptyPage->addButton(commands().button(standard(Standard::Restore), u"emptyRestore"_s,
@@ -293,7 +294,8 @@ void AutoMaint::filesChanged()
     activity().say(CarLines::changedElsewhere(name));
 }
 
-/// Reads the list anew and opens the car of `slot`; the first one where there is no such car.
+/// Reads the list anew and opens the car of `slot`; the first one where there is no such car. Without any,
+/// the empty page has the focus.
 void AutoMaint::openList(int slot)
 {
     const QList<Vehicle> vehicles = m_car->files().vehicles();
@@ -302,7 +304,7 @@ void AutoMaint::openList(int slot)
     const bool isThere =
         std::ranges::any_of(vehicles, [slot](const Vehicle &vehicle) { return vehicle.slot == slot; });
     openCar(isThere ? slot : vehicles.isEmpty() ? 0 : vehicles.first().slot);
-    m_list->setFocus();
+    vehicles.isEmpty() ? m_emptyPage->setFocus() : m_list->setFocus();
 }
 
 void AutoMaint::openCar(int slot)
@@ -323,6 +325,7 @@ void AutoMaint::refreshHome()
     m_stack->setHome(m_car->isOpen() ? static_cast<QWidget *>(m_views->view(home)) : m_emptyPage);
     if (!m_car->isOpen())
         m_stack->goHome();
+    m_listCreate->setVisible(m_car->isOpen()); // the empty page has its own
     for (QPushButton *button : m_buttons)
         button->setVisible(!m_create->isOn());
     for (CarView *view : m_views->all())

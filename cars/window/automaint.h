@@ -69,6 +69,7 @@ private:
     DonePanel *m_done;
     PicturePanel *m_pictures;
     EmptyPage *m_emptyPage;
+    QPushButton *m_listCreate = nullptr;
     QAction *m_save = nullptr;
     QList<QPushButton *> m_buttons; ///< of every view, while no car is being made
 };
