@@ -246,9 +246,11 @@ QWidget *SheetForm::makeMaintenanceRows()
         four->setSpacing(boxGap);
         for (std::size_t pair = i; pair < i + 4; pair += 2) {
             QHBoxLayout *two = row();
+            // What else there is takes a sentence, beside three short figures.
+            const bool isWide = fields[pair + 1] == Field::Other;
             two->addLayout(labelledBox(boxOf(fields[pair])), 1);
-            two->addLayout(labelledBox(boxOf(fields[pair + 1])), 1);
-            four->addLayout(two, 1);
+            two->addLayout(labelledBox(boxOf(fields[pair + 1])), isWide ? 2 : 1);
+            four->addLayout(two, isWide ? 3 : 2);
         }
         layout->addLayout(four);
         m_maintenanceRows.push_back(four);
