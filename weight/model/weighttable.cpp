@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <numeric>
 
 namespace {
 
@@ -58,11 +59,15 @@ void WeightTable::setWeight(qsizetype row, const QString &text)
     readWeight(m_rows[row], AnsiText::encode(text));
 }
 
-void WeightTable::sort(Column column, Qt::SortOrder order)
+std::vector<qsizetype> WeightTable::order(Column column, Qt::SortOrder order) const
 {
+    std::vector<qsizetype> rows(m_rows.size());
+    std::iota(rows.begin(), rows.end(), 0);
     const bool isUp = order == Qt::AscendingOrder;
     const auto sortBy = [&](auto has, auto value) {
-        std::ranges::stable_sort(m_rows, [&](const Row &left, const Row &right) {
+        std::ranges::stable_sort(rows, [&](qsizetype one, qsizetype other) {
+            const Row &left = m_rows[one];
+            const Row &right = m_rows[other];
             if (!has(left) || !has(right))
                 return has(left) && !has(right);
             return isUp ? value(left) < value(right) : value(right) < value(left);
@@ -73,6 +78,16 @@ void WeightTable::sort(Column column, Qt::SortOrder order)
                [](const Row &row) { return row.day; });
     else
         sortBy([](const Row &row) { return row.weight > 0; }, [](const Row &row) { return row.weight; });
+    return rows;
+}
+
+void WeightTable::sort(Column column, Qt::SortOrder order)
+{
+    QList<Row> sorted;
+    sorted.reserve(m_rows.size());
+    for (const qsizetype row : this->order(column, order))
+        sorted.append(m_rows[row]);
+    m_rows = sorted;
 }
 
 void WeightTable::append(QByteArrayView date, QByteArrayView weight)

@@ -8,6 +8,7 @@
 #include <QList>
 
 #include <optional>
+#include <vector>
 
 /// The weigh-ins of a person in the order of their file, 10,000 as quickly as ten: their texts stay bytes,
 /// and the numbers are read from those once.
@@ -37,7 +38,9 @@ public:
     void setDate(qsizetype row, const QString &text);
     void setWeight(qsizetype row, const QString &text);
 
-    /// Rows with equal values keep their order; those without one come last, whichever the order.
+    /// The rows as they would be sorted. Those with equal values keep their order; those without one come
+    /// last, whichever the order.
+    std::vector<qsizetype> order(Column column, Qt::SortOrder order) const;
     void sort(Column column, Qt::SortOrder order);
 
     /// For a file: adds a row of these bytes, and gives the bytes of a row.

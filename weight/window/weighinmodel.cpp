@@ -10,6 +10,11 @@
 #include "weight/window/openperson.h"
 #include "weight/window/windowlines.h"
 
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -42,9 +47,21 @@ void WeighInModel::refresh()
         beginResetModel();
         m_rows = m_person.sheet().weighIns;
         m_name = m_person.name();
+        m_byWeight.reset();
+        m_order.clear();
         endResetModel();
         return;
     }
+    const bool isSorted = m_byWeight && !m_isTyping;
+    if (isSorted)
+        reorder({});
+    readRows();
+    if (isSorted)
+        reorder(m_rows.order(WeightTable::Column::Weight, *m_byWeight));
+}
+
+void WeighInModel::readRows()
+{
     // Wherever rows came or went: the others tell what they hold now, and the view stays where it is.
     const int before = rowCount();
     const int after = int(m_person.sheet().weighIns.rowCount());
@@ -61,12 +78,39 @@ void WeighInModel::refresh()
         emit dataChanged(index(0, 0), index(after - 1, columns - 1));
 }
 
-QString WeighInModel::titleOf(int row) const
+void WeighInModel::showByWeight(std::optional<Qt::SortOrder> order)
+{
+    m_byWeight = order;
+    reorder(order ? m_rows.order(WeightTable::Column::Weight, *order) : std::vector<qsizetype>());
+}
+
+int WeighInModel::shownRow(qsizetype tableRow) const
+{
+    return m_order.empty() ? int(tableRow) : int(std::ranges::find(m_order, tableRow) - m_order.begin());
+}
+
+/// The cell that is chosen stays so.
+void WeighInModel::reorder(std::vector<qsizetype> order)
+{
+    emit layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    std::vector<qsizetype> rows;
+    for (const QModelIndex &index : before)
+        rows.push_back(tableRow(index.row()));
+    m_order = std::move(order);
+    QModelIndexList after;
+    for (qsizetype i = 0; i < before.size(); ++i)
+        after.append(index(shownRow(rows[std::size_t(i)]), before[i].column()));
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
+}
+
+QString WeighInModel::titleOf(qsizetype row) const
 {
     return TrackerLines::weighIn(text(row, Weight), text(row, Date));
 }
 
-QString WeighInModel::text(int row, int column) const
+QString WeighInModel::text(qsizetype row, int column) const
 {
     const std::optional<float> weight = m_rows.number(row);
     switch (column) {
@@ -100,7 +144,7 @@ QVariant WeighInModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return text(index.row(), index.column());
+        return text(tableRow(index.row()), index.column());
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (index.column() == Date ? Qt::AlignLeft : Qt::AlignRight));
@@ -136,7 +180,7 @@ bool WeighInModel::setData(const QModelIndex &index, const QVariant &value, int 
 {
     if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
         return false;
-    const int row = index.row();
+    const qsizetype row = tableRow(index.row());
     const bool isDate = index.column() == Date;
     const QString before = isDate ? m_rows.date(row) : m_rows.weight(row);
     const WeightEntry entry = isDate ? m_dateCheck.tableDate(value.toString(), before)
@@ -150,6 +194,7 @@ bool WeighInModel::setData(const QModelIndex &index, const QVariant &value, int 
         wanted.weighIns.setDate(row, entry.text);
     else
         wanted.weighIns.setWeight(row, entry.text);
+    const QScopedValueRollback typing(m_isTyping, true);
     m_person.change(TrackerLines::rowChanged(heading(index.column()), titleOf(row)), wanted);
     return true;
 }

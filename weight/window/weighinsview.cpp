@@ -4,7 +4,6 @@
 #include "shell/charts/linechartview.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/celldelegate.h"
-#include "shell/controls/cellgrid.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
@@ -25,13 +24,10 @@
 #include "weight/window/standing.h"
 #include "weight/window/weighinentry.h"
 #include "weight/window/weighinmodel.h"
+#include "weight/window/weighintable.h"
 #include "weight/window/windowlines.h"
 
-#include <QHeaderView>
-#include <QScrollBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,9 +35,6 @@ namespace {
 constexpr int reachedSign = 24;
 /// From this width on the chart has room beside the table.
 constexpr int chartFrom = 960;
-/// Beside the words of a heading, and above and below them.
-constexpr int headingMargins = 24;
-constexpr int headingAir = 12;
 } // namespace
 
 WeighInsView::WeighInsView(const WeightDesk &desk)
@@ -54,7 +47,7 @@ WeighInsView::WeighInsView(const WeightDesk &desk)
     , m_figures(new FigureStrip(u"weightFigures"_s, this))
     , m_uncountedWords(makeQuietLabel({}, this))
     , m_uncounted(makeUncounted())
-    , m_table(named(new CellGrid(this), u"Grid4"_s))
+    , m_table(new WeighInTable(m_model, this))
     , m_rows(new WholeRows(m_table, nullptr, this))
     , m_empty(named(makeQuietLabel(TrackerLines::noneYet(), this), u"noWeighIns"_s))
     , m_chart(new LineChartView(u"weighInChart"_s, this))
@@ -77,18 +70,7 @@ WeighInsView::WeighInsView(const WeightDesk &desk)
 
 QWidget *WeighInsView::makeTable()
 {
-    m_table->setPlainRows();
     m_table->cells().takeDates(desk().dateCheck.reading(), m_picker);
-    m_table->setModel(m_model);
-    m_table->setAccessibleName(u"Weigh-ins"_s);
-    QHeaderView *heading = m_table->horizontalHeader();
-    heading->setSectionResizeMode(QHeaderView::Stretch);
-    for (const auto &[column, width] : {std::pair(WeighInModel::Date, 112), {WeighInModel::Weight, 92}}) {
-        heading->setSectionResizeMode(column, QHeaderView::Fixed);
-        heading->resizeSection(column, TypeScale::wide(width));
-    }
-    heading->setSectionsClickable(true);
-    heading->setHighlightSections(false);
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
@@ -98,24 +80,8 @@ QWidget *WeighInsView::makeTable()
     return content;
 }
 
-/// A heading in a narrow column has as many lines as its words need.
-void WeighInsView::fitHeadings()
-{
-    QHeaderView *heading = m_table->horizontalHeader();
-    const QFontMetrics metrics(TypeScale::body());
-    int height = 2 * metrics.lineSpacing();
-    for (int column = 0; column < WeighInModel::columns; ++column) {
-        const QRect room(0, 0, heading->sectionSize(column) - headingMargins, QWIDGETSIZE_MAX);
-        const QString words = m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        height = std::max(height, metrics.boundingRect(room, Qt::TextWordWrap, words).height());
-    }
-    heading->setFixedHeight(height + headingAir);
-}
-
 void WeighInsView::connectParts()
 {
-    connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, this, &WeighInsView::fitHeadings);
-    fitHeadings();
     connect(m_entry, &WeighInEntry::entered, this, &WeighInsView::enter);
     connect(m_entry, &WeighInEntry::said, this, &WeighInsView::said);
     connect(m_entry, &WeighInEntry::noticed, this, &WeighInsView::noticed);
@@ -127,21 +93,9 @@ void WeighInsView::connectParts()
         const QString why = person().whyLocked();
         emit said(why.isEmpty() ? TrackerLines::isComputed() : why);
     });
-    keepEndInSight();
-    connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
-        if (column == WeighInModel::Date && person().whyLocked().isEmpty())
+    connect(m_table, &WeighInTable::sortWanted, this, [this] {
+        if (person().whyLocked().isEmpty())
             sortRows();
-    });
-}
-
-/// The last weigh-in stays in sight when the table becomes lower, until somebody scrolls to another.
-void WeighInsView::keepEndInSight()
-{
-    QScrollBar *bar = m_table->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, [this, bar](int at) { m_isAtEnd = at == bar->maximum(); });
-    connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int, int end) {
-        if (m_isAtEnd)
-            bar->setValue(end);
     });
 }
 
@@ -233,6 +187,7 @@ void WeighInsView::refresh()
                                                     : WeightPaperLines::noWeighIns());
     if (isOther) {
         m_entry->clear();
+        m_table->refresh();
         showRow();
     }
 }
@@ -267,12 +222,7 @@ void WeighInsView::showFigures()
 
 void WeighInsView::showRow(int row)
 {
-    if (row < 0) {
-        m_table->scrollToBottom();
-        return;
-    }
-    m_table->setCurrentIndex(m_model->index(row, WeighInModel::Weight));
-    m_table->scrollTo(m_table->currentIndex());
+    m_table->showRow(row);
 }
 
 /// Two keys are enough: the weight, and Enter.
@@ -339,7 +289,7 @@ bool WeighInsView::store(const QString &title, const WeightSheet &wanted)
 
 bool WeighInsView::isRowChosen() const
 {
-    return m_table->currentIndex().isValid();
+    return m_table->chosenRow() >= 0;
 }
 
 void WeighInsView::deleteRow()
@@ -348,7 +298,7 @@ void WeighInsView::deleteRow()
     if (!person().settleUncounted() ||
         desk().program.dialogs.ask(&desk().window, WeightMessages::deleteRow()) != Answer::Yes)
         return;
-    const int row = m_table->currentIndex().row();
+    const qsizetype row = m_table->chosenRow();
     const QString line = TrackerLines::rowDeleted(m_model->titleOf(row));
     WeightSheet wanted = person().sheet();
     wanted.weighIns.remove(row);

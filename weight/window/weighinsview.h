@@ -3,7 +3,6 @@
 
 #include "weight/window/personview.h"
 
-class CellGrid;
 class DatePicker;
 class FigureStrip;
 class LineChartView;
@@ -12,6 +11,7 @@ class QLabel;
 class QPushButton;
 class WeighInEntry;
 class WeighInModel;
+class WeighInTable;
 struct WeighIn;
 struct WeightSheet;
 
@@ -53,9 +53,7 @@ private:
     QWidget *makeReached();
     QWidget *makeUncounted();
     QWidget *makeTable();
-    void fitHeadings();
     void connectParts();
-    void keepEndInSight();
     void enter();
     void showToday();
     void showFigures();
@@ -74,11 +72,10 @@ private:
     FigureStrip *m_figures;
     QLabel *m_uncountedWords;
     QWidget *m_uncounted;
-    CellGrid *m_table;
+    WeighInTable *m_table;
     QWidget *m_rows;
     QLabel *m_empty;
     LineChartView *m_chart; ///< beside the table, where there is room
     QBoxLayout *m_besides;
-    bool m_isAtEnd = true; ///< the table is scrolled to its last row
-    QString m_shown;       ///< the name of the person whose rows are shown
+    QString m_shown; ///< the name of the person whose rows are shown
 };

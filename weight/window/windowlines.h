@@ -101,6 +101,21 @@ inline QString sortedAlready()
     return u"The rows are in the order of their days already"_s;
 }
 
+inline QString lightestFirst()
+{
+    return u"Shown by weight, the lightest first; the file keeps its order"_s;
+}
+
+inline QString heaviestFirst()
+{
+    return u"Shown by weight, the heaviest first; the file keeps its order"_s;
+}
+
+inline QString inFileOrder()
+{
+    return u"Shown in the order of the file"_s;
+}
+
 /// `difference` as "-0.4".
 inline QString fromLast(const QString &difference)
 {

@@ -7,6 +7,7 @@
 #include "weight/window/weighttracker.h"
 #include "weight/window/windowlines.h"
 
+#include <QHeaderView>
 #include <QListView>
 #include <QPlainTextEdit>
 
@@ -137,6 +138,39 @@ private slots:
         enter(48, 0, u"12/24/2026"_s);
         QCOMPARE(cells(48)[0], u"12/24/2026"_s);
         trigger("mEUndo");
+    }
+
+    void showsTheRowsByWeight()
+    {
+        open(TestProgram::Household);
+        const QByteArray before = file(nils);
+        choose(1);
+        const auto clickHeading = [this](int column) {
+            QHeaderView *heading = grid()->horizontalHeader();
+            QTest::mouseClick(heading->viewport(), Qt::LeftButton, {},
+                              {heading->sectionViewportPosition(column) + 20, heading->height() / 2});
+        };
+        grid()->setCurrentIndex(grid()->model()->index(48, 1));
+        clickHeading(1);
+        QCOMPARE(cells(0), (QStringList{u"08/10/2026"_s, u"192.2"_s, u"-0.9"_s, u"-22.3"_s}));
+        QCOMPARE(grid()->currentIndex().row(), 0);
+        clickHeading(1);
+        QCOMPARE(cells(0)[1], u"215.6"_s);
+        enter(0, 1, u"190"_s); // it stays where it is typed
+        QCOMPARE(cells(0)[3], u"-24.5"_s);
+        trigger("mEUndo");
+        QVERIFY(!m_window->isModified());
+        grid()->setCurrentIndex(grid()->model()->index(48, 1));
+        m_test->dialogs.willAnswer(Answer::Yes);
+        click("deleteRow");
+        QCoreApplication::processEvents();
+        QVERIFY(!file(nils).contains("\"08/10/2026\""));
+        QCOMPARE(cells(0)[1], u"215.6"_s);
+        trigger("mEUndo");
+        QCOMPARE(file(nils), before);
+        clickHeading(0);
+        QCOMPARE(cells(48)[0], u"08/10/2026"_s);
+        QVERIFY(!m_window->isModified());
     }
 
     void savesWhatWasChanged()
