@@ -89,6 +89,11 @@ bool Writing::setCorrections(const Corrections &corrections)
     return true;
 }
 
+bool Writing::mayCorrectionsBeSaved() const
+{
+    return CorrectionFile(m_home.folder).mayBeSaved();
+}
+
 void Writing::addWord(const QString &word)
 {
     const bool isSaved = m_spelling.addOwnWord(word);

@@ -48,6 +48,7 @@ public:
     const Corrections &corrections() const { return m_corrections; }
     /// False where the disk refuses, or the file there is none that may be written: then nothing changes.
     [[nodiscard]] bool setCorrections(const Corrections &corrections);
+    bool mayCorrectionsBeSaved() const;
     /// Adds `word` to the household's own, and says how that went.
     void addWord(const QString &word);
     void ignore(const QString &word);

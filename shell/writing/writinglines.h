@@ -50,11 +50,6 @@ inline QString noLanguageChosen()
     return u"No language is chosen in the menu Spelling"_s;
 }
 
-inline QString nothingToCheck()
-{
-    return u"There is no text to check"_s;
-}
-
 // Own words
 
 inline QString added(const QString &word)
@@ -72,6 +67,11 @@ inline QString notAdded(const QString &word)
 inline QString everythingIsRight()
 {
     return u"Every word is in the dictionary"_s;
+}
+
+inline QString notKnown(const QString &word)
+{
+    return u"\u201c%1\u201d is not in the dictionary"_s.arg(word);
 }
 
 inline QString walkIsOver()
@@ -108,7 +108,7 @@ inline QString correctionMissing()
 
 inline QString sameWord()
 {
-    return u"Both are the same"_s;
+    return u"Nothing would be changed by that"_s;
 }
 
 inline QString isInTable(const QString &wrong)
