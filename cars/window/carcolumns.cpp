@@ -20,20 +20,6 @@ constexpr int signRoom = 20;
 constexpr int easyRoom = 4;         ///< beside a usual text, where there is enough
 constexpr double leastShare = 0.85; ///< of words: cut shorter they would not be known
 
-/// What a heading needs at least: in two lines, if it has several words.
-int headingWidth(const QAbstractItemModel &model, int column)
-{
-    const QFontMetrics metrics(TypeScale::strong());
-    const QString heading = model.headerData(column, Qt::Horizontal).toString();
-    int least = metrics.horizontalAdvance(heading);
-    for (qsizetype blank = heading.indexOf(u' '); blank > 0; blank = heading.indexOf(u' ', blank + 1)) {
-        const int first = metrics.horizontalAdvance(heading.first(blank));
-        const int second = metrics.horizontalAdvance(heading.sliced(blank + 1));
-        least = std::min(least, std::max(first, second));
-    }
-    return least + CarGrid::inset + CarHeadings::freeInset + 2;
-}
-
 /// What the texts of a column need. Of texts as long as one another, the first is taken for the widest: those
 /// that have to be seen whole are of digits.
 int contentWidth(const QAbstractItemModel &model, int column)
@@ -87,6 +73,19 @@ void fillUp(std::vector<int> &widths, const std::vector<int> &wanted,
 }
 
 } // namespace
+
+int CarColumns::headingWidth(const QAbstractItemModel &model, int column)
+{
+    const QFontMetrics metrics(TypeScale::strong());
+    const QString heading = model.headerData(column, Qt::Horizontal).toString();
+    int least = metrics.horizontalAdvance(heading);
+    for (qsizetype blank = heading.indexOf(u' '); blank > 0; blank = heading.indexOf(u' ', blank + 1)) {
+        const int first = metrics.horizontalAdvance(heading.first(blank));
+        const int second = metrics.horizontalAdvance(heading.sliced(blank + 1));
+        least = std::min(least, std::max(first, second));
+    }
+    return least + CarGrid::inset + CarHeadings::freeInset + 2;
+}
 
 std::vector<int> CarColumns::fitting(const QAbstractItemModel &model, const std::vector<Width> &widths,
                                      int room)

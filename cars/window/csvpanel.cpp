@@ -4,6 +4,7 @@
 #include "cars/model/carrows.h"
 #include "cars/model/csvlines.h"
 #include "cars/model/presentreading.h"
+#include "cars/window/carcolumns.h"
 #include "cars/window/carheadings.h"
 #include "cars/window/csvmodel.h"
 #include "cars/window/opencar.h"
@@ -84,14 +85,10 @@ void CsvPanel::makeView()
 int CsvPanel::widthOf(int column) const
 {
     const QFontMetrics body(TypeScale::body());
-    const QFontMetrics strong(TypeScale::strong());
     int width = 0;
-    const QString heading = m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    for (const QString &word : heading.split(u' ')) // it takes two lines where the column is narrow
-        width = std::max(width, strong.horizontalAdvance(word));
     for (int row = 0; row < std::min(m_model->rowCount(), measuredRows); ++row)
         width = std::max(width, body.horizontalAdvance(m_model->index(row, column).data().toString()));
-    return width + 3 * inset;
+    return std::max(width + 3 * inset, CarColumns::headingWidth(*m_model, column));
 }
 
 /// Every column has what it needs, and the description the rest.

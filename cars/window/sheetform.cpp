@@ -179,23 +179,17 @@ QWidget *SheetForm::makeGeneralColumn()
     makes->addLayout(labelledBox(boxOf(Field::Make), true), 1);
     makes->addLayout(labelledBox(boxOf(Field::Model)), 1);
     layout->addLayout(makes);
-    layout->addWidget(makeHeading(CarWords::generalInformation.toString(), this));
+    QHBoxLayout *heading = row();
+    heading->addWidget(makeHeading(CarWords::generalInformation.toString(), this), 1);
+    m_registrationDue = named(new SignLine(this), u"registrationDue"_s);
+    m_registrationDue->hide();
+    heading->addWidget(m_registrationDue); // here it takes no height from the boxes
+    layout->addLayout(heading);
     QHBoxLayout *numbers = row();
     numbers->addLayout(labelledBox(boxOf(Field::Vin)), 3); // of 17 characters
     numbers->addLayout(labelledBox(boxOf(Field::License)), 2);
     layout->addLayout(numbers);
-    QHBoxLayout *dates = row();
-    QVBoxLayout *registration = labelledBox(boxOf(Field::RegistrationMonth));
-    m_registrationDue = named(new SignLine(this), u"registrationDue"_s);
-    m_registrationDue->hide();
-    registration->addWidget(m_registrationDue);
-    dates->addLayout(registration, 1);
-    for (const Field field : {Field::PurchaseDate, Field::Price}) {
-        QVBoxLayout *beside = labelledBox(boxOf(field));
-        beside->addStretch(1);
-        dates->addLayout(beside, 1);
-    }
-    layout->addLayout(dates);
+    addRow(layout, {Field::RegistrationMonth, Field::PurchaseDate, Field::Price});
     addRow(layout, {Field::From});
     layout->addStretch(1);
     return column;
