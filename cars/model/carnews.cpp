@@ -52,7 +52,7 @@ LiveLine lineOf(const CarRecord &car, const CarNeed &need, DateStyle style, QDat
         LiveLine line =
             lineOf(car.vehicle, name + (isAction ? u" overdue"_s : u" ran out"_s), LiveLine::Overdue);
         if (isAction) // the sign before it says the rest
-            line.shorter = {car.vehicle.name + u": "_s + name};
+            line.shorter = {car.vehicle.name + u": "_s + name, car.vehicle.name + u" overdue"_s};
         return line;
     }
     const QDate date = need.date();
