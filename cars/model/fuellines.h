@@ -83,6 +83,18 @@ inline QString drive(const FuelCalculator::Drive &drive, DistanceUnit unit)
     return CarNumbers::text(drive.economy, 1) + u' ' + perAmount(unit) + u": "_s + length + cost;
 }
 
+/// In the place of the answer, until there is one.
+inline QString whatADriveGives(DistanceUnit unit)
+{
+    return u"Gives the "_s + perAmount(unit) + u", the distance and what a "_s + distance(unit) + u" cost"_s;
+}
+
+inline QString whatATripGives(DistanceUnit unit)
+{
+    return unit == DistanceUnit::Miles ? u"Gives the gallons that it takes, and what they cost"_s
+                                       : u"Gives the liters that it takes, and what they cost"_s;
+}
+
 inline QString nothingDriven()
 {
     return u"The current reading must be above the previous one"_s;

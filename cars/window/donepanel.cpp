@@ -20,7 +20,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-constexpr int boxWidthUsual = 200;
+constexpr int boxWidthUsual = 150;
 constexpr int boxGap = 14;
 } // namespace
 
@@ -40,19 +40,21 @@ DonePanel::DonePanel(const CarDesk &desk)
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
     rows->setSpacing(12);
-    // One below the other: the calendar has its room beside them.
-    auto *boxes = new QVBoxLayout;
+    auto *boxes = new QHBoxLayout;
     boxes->setSpacing(boxGap);
-    boxes->addLayout(labelled(u"Date:"_s, m_date));
     boxes->addLayout(labelled(m_odometerLabel, m_odometer));
     boxes->addLayout(labelled(u"Cost:"_s, m_cost));
+    boxes->addLayout(labelled(u"Date:"_s, m_date)); // the last: its calendar has room beside it
+    setTabOrder(m_odometer, m_cost);
+    setTabOrder(m_cost, m_date);
     for (FieldBox *box : {m_odometer, m_cost})
         box->selectOnFirstClick();
     for (FieldBox *box : {static_cast<FieldBox *>(m_date), m_odometer, m_cost}) {
-        box->setFixedWidth(boxWidth(u"12/30/2026 99999"_s, boxWidthUsual));
+        box->setFixedWidth(boxWidth(u"12/30/2026 99"_s, boxWidthUsual));
         connect(box, &FieldBox::refused, this, &DonePanel::said);
         connect(box, &QLineEdit::returnPressed, this, &DonePanel::enter);
     }
+    boxes->addStretch(1);
     m_odometerLabel->setBuddy(m_odometer);
     m_last->setFont(TypeScale::body());
     m_hint->setFont(TypeScale::body());

@@ -49,7 +49,7 @@ QWidget *FuelCalculatorPanel::makeContent()
         rows->addLayout(grid);
         addBoxes(grid, first, last);
         auto *result = named(new ElidedLabel(content), name);
-        result->setFont(TypeScale::cardTitle());
+        result->setFixedHeight(QFontMetrics(TypeScale::cardTitle()).height()); // of the hint too
         rows->addWidget(result);
         return result;
     };
@@ -81,7 +81,7 @@ void FuelCalculatorPanel::addBoxes(QGridLayout *grid, Box first, Box last)
         if (first == Distance)
             connect(box, &QLineEdit::textChanged, this, &FuelCalculatorPanel::showTrip);
         else
-            connect(box, &QLineEdit::textChanged, this, [this] { m_drive->setText({}); });
+            connect(box, &QLineEdit::textChanged, this, [this] { showDrive({}); });
         connect(box, &QLineEdit::returnPressed, this, &FuelCalculatorPanel::calculate);
     }
     grid->setColumnStretch(int(last - first) + 1, 1);
@@ -108,7 +108,7 @@ void FuelCalculatorPanel::begin(const FuelFigures &figures, const QString &lastR
         m_boxes[Economy]->setText(CarNumbers::text(*sums.economy, 1));
     if (sums.centsPerAmount)
         m_boxes[Price]->setText(CarNumbers::text(*sums.centsPerAmount / 100, 2));
-    m_drive->setText({});
+    showDrive({});
     showTrip();
 }
 
@@ -134,14 +134,28 @@ bool FuelCalculatorPanel::calculate()
         return false;
     }
     const auto drive = FuelCalculator::drive(text(Previous), text(Current), text(Used), text(Cost));
-    m_drive->setText(drive ? FuelLines::drive(*drive, m_desk.car.unit()) : FuelLines::nothingDriven());
+    showDrive(drive ? FuelLines::drive(*drive, m_desk.car.unit()) : FuelLines::nothingDriven());
     return drive.has_value();
+}
+
+/// Until there is an answer, its place says what it will be.
+void FuelCalculatorPanel::showAnswer(QLabel *place, const QString &answer, const QString &hint)
+{
+    place->setFont(answer.isEmpty() ? TypeScale::body() : TypeScale::cardTitle());
+    place->setForegroundRole(answer.isEmpty() ? ThemeRole::quiet : QPalette::WindowText);
+    place->setText(answer.isEmpty() ? hint : answer);
+}
+
+void FuelCalculatorPanel::showDrive(const QString &answer)
+{
+    showAnswer(m_drive, answer, FuelLines::whatADriveGives(m_desk.car.unit()));
 }
 
 void FuelCalculatorPanel::showTrip()
 {
     const auto trip = FuelCalculator::trip(text(Distance), text(Economy), text(Price));
-    m_trip->setText(trip ? FuelLines::trip(*trip, m_desk.car.unit()) : QString());
+    showAnswer(m_trip, trip ? FuelLines::trip(*trip, m_desk.car.unit()) : QString(),
+               FuelLines::whatATripGives(m_desk.car.unit()));
 }
 
 void FuelCalculatorPanel::enterFillUp()

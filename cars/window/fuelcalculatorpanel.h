@@ -35,6 +35,8 @@ private:
     QString text(Box box) const;
     /// The given box where something is missing. False then.
     bool calculate();
+    static void showAnswer(QLabel *place, const QString &answer, const QString &hint);
+    void showDrive(const QString &answer);
     void showTrip();
     void enterFillUp();
 
