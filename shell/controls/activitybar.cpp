@@ -169,6 +169,8 @@ QToolButton *ActivityBar::makeLink(const QString &name, const QString &text)
 void ActivityBar::setActivity(const QString &activity)
 {
     m_activity->setText(activity);
+    m_activity->setMinimumWidth(
+        std::max(activityWidth, m_activity->fontMetrics().horizontalAdvance(activity)));
 }
 
 QString ActivityBar::activity() const
