@@ -6,6 +6,7 @@
 
 #include <QBoxLayout>
 #include <QEvent>
+#include <QHeaderView>
 #include <QPainter>
 #include <QTableView>
 #include <QTextCharFormat>
@@ -56,6 +57,9 @@ MonthView::MonthView(QWidget *parent)
     if (QTableView *view = m_view) {
         view->setFrameShape(QFrame::NoFrame);
         view->setAccessibleName(u"Days of the month"_s);
+        // Else a column is at least as wide as the widest letter of the font, and Saturday goes beyond the
+        // edge.
+        view->horizontalHeader()->setMinimumSectionSize(1);
     }
 }
 
