@@ -87,6 +87,12 @@ bool ButtonRow::fitsOneRow(int width) const
     return leftWidth() == 0 || behindLeft() + groupWidth(m_right) <= width;
 }
 
+/// In a low window "More" alone is enough at the left.
+bool ButtonRow::takesOneRow(int width) const
+{
+    return fitsOneRow(width) || (m_low->isLow() && widthOf(m_more) + groupGap + groupWidth(m_right) <= width);
+}
+
 int ButtonRow::rowHeight() const
 {
     int height = 34;
@@ -99,7 +105,7 @@ int ButtonRow::rowHeight() const
 
 int ButtonRow::heightForWidth(int width) const
 {
-    return m_low->isLow() || fitsOneRow(width) ? rowHeight() : 2 * rowHeight() + gap;
+    return takesOneRow(width) ? rowHeight() : 2 * rowHeight() + gap;
 }
 
 QSize ButtonRow::sizeHint() const
@@ -111,7 +117,7 @@ QSize ButtonRow::minimumSizeHint() const
 {
     const int left = m_low->isLow() ? widthOf(m_more) : groupWidth(m_left);
     const int right = groupWidth(m_right);
-    return {m_low->isLow() ? left + groupGap + right : std::max(left, right), rowHeight()};
+    return {std::max(left, right), rowHeight()};
 }
 
 void ButtonRow::place(const QList<QPushButton *> &group, int x, int y) const
@@ -130,14 +136,16 @@ void ButtonRow::place(const QList<QPushButton *> &group, int x, int y) const
     }
 }
 
-/// In a low window the buttons take one row, and "More" has those of the left group that find no room in it.
+/// In a low window "More" has those of the left group that find no room.
 void ButtonRow::holdWhatHasNoRoom()
 {
     m_held.clear();
     m_more->hide();
-    if (m_low->isLow() && !fitsOneRow(width())) {
+    const bool isOneRow = takesOneRow(width());
+    const auto fits = [this, isOneRow] { return isOneRow ? fitsOneRow(width()) : leftWidth() <= width(); };
+    if (m_low->isLow() && !fits()) {
         m_more->show();
-        for (qsizetype i = m_left.size() - 1; i >= 0 && !fitsOneRow(width()); --i) {
+        for (qsizetype i = m_left.size() - 1; i >= 0 && !fits(); --i) {
             if (!m_left[i]->isHidden())
                 m_held.prepend(m_left[i]);
         }
@@ -165,7 +173,7 @@ void ButtonRow::rearrange()
 {
     holdWhatHasNoRoom();
     const int height = rowHeight();
-    const bool oneRow = m_low->isLow() || fitsOneRow(width());
+    const bool oneRow = takesOneRow(width());
     place(m_left + QList<QPushButton *>{m_more}, 0, 0);
     const bool haveRoom = haveWordsRoom();
     m_words->setText(haveRoom ? m_text : QString());

@@ -9,7 +9,7 @@ class QPushButton;
 
 /// The row of buttons in a panel's foot: rare or dangerous ones at the left with a few quiet words behind
 /// them, the rest at the right. Where they do not fit side by side, the right group takes a second row; in a
-/// low window a button "More" takes the place of those at the left that have no room.
+/// low window a button "More" takes the place of those at the left that have no room beside it.
 class ButtonRow final : public QWidget
 {
     Q_OBJECT
@@ -44,6 +44,7 @@ private:
     int behindLeft() const;
     bool haveWordsRoom() const;
     bool fitsOneRow(int width) const;
+    bool takesOneRow(int width) const;
     int rowHeight() const;
     void holdWhatHasNoRoom();
     void openMore();
