@@ -115,7 +115,6 @@ void DueView::addScrolling(const QList<QWidget *> &parts, QWidget *rows)
         m_parts->addWidget(part);
     m_parts->addWidget(rows, 1);
     auto *scroll = named(new ScrollPart(content, this), u"dueScroll"_s);
-    scroll->scrollByItself();
     addContent(scroll, 1);
     connect(m_schedule, &CarGrid::currentMoved, scroll, [this, scroll] {
         const QRect row = m_schedule->visualRect(m_schedule->currentIndex());

@@ -6,13 +6,14 @@
 #include <QWidget>
 
 /// Tells a part of a main window whether the window is low: its bars and buttons take one row each then, and
-/// its work scrolls as a whole.
+/// its work scrolls where it cannot be as low.
 class LowWindow final : public QObject
 {
     Q_OBJECT
 public:
-    /// Windows of this height have room for everything; in logical pixels.
-    static constexpr int below = 600;
+    /// Windows of this height have room for everything, in logical pixels; those on a screen of 600 have not,
+    /// with a title bar or without one.
+    static constexpr int below = 620;
 
     explicit LowWindow(QWidget *part);
 

@@ -51,7 +51,6 @@ void TaskPanel::setTitle(const QString &title)
 void TaskPanel::setContent(QWidget *content)
 {
     auto *scroll = named(new ScrollPart(content, this), stem(objectName()) + u"Scroll"_s);
-    scroll->scrollByItself();
     setWork(scroll);
 }
 

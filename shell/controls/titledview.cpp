@@ -25,7 +25,6 @@ TitledView::TitledView(const QString &name, QWidget *parent)
 {
     setObjectName(name + u"View"_s);
     m_parts->setContentsMargins({});
-    m_scroll->scrollByItself();
     auto *low = new LowWindow(this);
     connect(low, &LowWindow::changed, this, &TitledView::setLow);
     setLow(low->isLow());

@@ -6,8 +6,8 @@
 class LowWindow;
 class QTimer;
 
-/// The work of a window. In a low window it scrolls as a whole, with what scrolls within it elsewhere, and
-/// follows the focus; anywhere else it has the height that there is. It takes the work when it is given its
+/// The work of a window. In a low window it scrolls as a whole where it cannot be as low, and follows the
+/// focus; anywhere else it has the height that there is. It takes the work when it is given its
 /// style, as `ScrollPart` does.
 class WorkScroll final : public QScrollArea
 {

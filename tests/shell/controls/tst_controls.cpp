@@ -12,6 +12,7 @@
 
 #include <QClipboard>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QListView>
 #include <QMainWindow>
 #include <QMenu>
@@ -295,6 +296,19 @@ private slots:
         QTest::keyClick(edit, Qt::Key_Return);
         QCOMPARE(box.result(), int(QDialog::Accepted));
         QCOMPARE(box.text(), u"Holms"_s);
+    }
+
+    /// Fonts have letters that are much wider than the numbers of days.
+    void theMonthShowsAllDaysOfAWeek()
+    {
+        MonthView month;
+        QFont font = QApplication::font();
+        font.setLetterSpacing(QFont::AbsoluteSpacing, 40);
+        month.setFont(font);
+        showActive(month);
+        month.resize(266, 260);
+        const auto *days = month.findChild<QTableView *>();
+        QTRY_VERIFY(days->horizontalHeader()->length() <= days->viewport()->width());
     }
 
     void theMonthIsAlwaysInEnglish()

@@ -84,12 +84,12 @@ class TestLowWindow : public QObject
 private slots:
     void initTestCase() { Theme::apply(*qApp); }
 
-    void hasOneRowEachAndScrollsAsAWhole_data()
+    void hasOneRowEach_data()
     {
         rows<int, bool>({{"high", LowWindow::below, false}, {"low", LowWindow::below - 1, true}});
     }
 
-    void hasOneRowEachAndScrollsAsAWhole()
+    void hasOneRowEach()
     {
         const auto [height, isLow] = row<int, bool>();
         Sample sample(height);
@@ -105,12 +105,21 @@ private slots:
         QTRY_COMPARE(sample.buttons->height() < 2 * button, isLow);
         QCOMPARE(control<QPushButton>(sample.window, "moreButtons")->isVisible(), isLow);
 
-        // One of the two scrolls, never both.
+        // The form scrolls over its buttons.
+        QTRY_VERIFY(sample.form->verticalScrollBar()->maximum() > 0);
+        QCOMPARE(control<QScrollArea>(sample.window, "workScroll")->verticalScrollBar()->maximum(), 0);
+        QVERIFY(!sample.buttons->visibleRegion().isEmpty());
+    }
+
+    void scrollsAsAWholeWhatCannotBeLower()
+    {
+        Sample sample(400);
+        sample.form->setMinimumHeight(500);
         auto *whole = control<QScrollArea>(sample.window, "workScroll");
-        QTRY_COMPARE(whole->verticalScrollBar()->maximum() > 0, isLow);
-        QTRY_COMPARE(sample.form->verticalScrollBar()->maximum() > 0, !isLow);
-        sample.lastBox->setFocus();
-        QVERIFY(!isLow || !sample.lastBox->visibleRegion().isEmpty());
+        QTRY_VERIFY(whole->verticalScrollBar()->maximum() > 0);
+        QVERIFY(sample.buttons->visibleRegion().isEmpty());
+        control<QPushButton>(sample.window, "right")->setFocus();
+        QTRY_VERIFY(!sample.buttons->visibleRegion().isEmpty());
     }
 
     void putsIntoMoreInANarrowBarWhatGivesWay()
@@ -146,6 +155,12 @@ private slots:
         QCOMPARE(menu->actions().last()->text(), held->text());
         menu->actions().last()->trigger();
         QCOMPARE(sample.clicked, 1);
+        // Where "More" has no room beside what is usual either, that stands below.
+        auto *right = control<QPushButton>(sample.window, "right");
+        right->setMinimumWidth(600);
+        sample.buttons->rearrange();
+        QTRY_VERIFY(right->y() >= control<QPushButton>(sample.window, "left0")->geometry().bottom());
+        right->setMinimumWidth(0);
         sample.window.resize(1600, LowWindow::below - 1);
         QTRY_COMPARE(held->focusPolicy(), Qt::StrongFocus);
         QVERIFY(!control<QPushButton>(sample.window, "moreButtons")->isVisible());
