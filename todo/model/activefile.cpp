@@ -49,6 +49,15 @@ std::vector<Triple> triplesOf(QByteArrayView file, DateStyle style)
     return triples;
 }
 
+/// The text of a column in the code page, in one line. Most texts are the same bytes in both.
+QByteArray ansiText(QByteArrayView column)
+{
+    const auto isSame = [](char byte) { return byte >= ' ' && byte <= '~' && byte != '\\'; };
+    if (std::ranges::all_of(column, isSame))
+        return column.toByteArray();
+    return AnsiText::encode(ToDoLine::text(column).replace(u'\n', u' '));
+}
+
 bool isTold(const ToDoSheet &sheet, int row)
 {
     const ToDoList *list = sheet.list(sheet.listOf(row));
@@ -112,10 +121,8 @@ QByteArray ActiveFile::make(const ToDoSheet &sheet)
     for (int row = 0; row < sheet.rowCount(); ++row) {
         if (!isTold(sheet, row))
             continue;
-        QString text = ToDoLine::text(sheet.textBytes(row));
-        text.replace(u'\n', u' ');
         const QDate due = sheet.dueOf(row);
-        ValueFile::append(file, AnsiText::encode(text));
+        ValueFile::append(file, ansiText(sheet.textBytes(row)));
         ValueFile::append(file, due.isValid() ? due.toString(Qt::ISODate).toLatin1() : QByteArray());
         ValueFile::append(file, AnsiText::encode(sheet.list(sheet.listOf(row))->name));
     }

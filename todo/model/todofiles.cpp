@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/model/todofiles.h"
 
+#include "storage/changeset.h"
 #include "storage/log.h"
-#include "storage/saving.h"
 #include "todo/model/activefile.h"
 #include "todo/model/lines.h"
 #include "todo/model/todohead.h"
@@ -35,10 +35,13 @@ std::optional<QByteArray> contentOf(const DataFolder &folder, const QString &nam
     return {};
 }
 
-bool replaceChanged(const DataFolder &folder, const QString &name, const QByteArray &content)
+/// Adds the file `name` to `change` unless it holds `content` already.
+void replaceChanged(ChangeSet &change, const DataFolder &folder, const QString &name,
+                    const QByteArray &content)
 {
-    const bool isThere = folder.exists(name);
-    return (isThere && contentOf(folder, name) == content) || Saving::replaceFile(folder, name, content);
+    const QFileInfo file(folder.filePath(name));
+    if (!file.isFile() || file.size() != content.size() || contentOf(folder, name) != content)
+        change.replace(name, content);
 }
 
 } // namespace
@@ -87,8 +90,11 @@ bool ToDoFiles::save(const ToDoSheet &sheet) const
 {
     const QByteArray active = ActiveFile::make(sheet);
     const QByteArray there = contentOf(m_folder, activeName).value_or(QByteArray());
-    const QByteArray own = sheet.toFile(ActiveFile::digest(active), ActiveFile::digest(there));
-    return replaceChanged(m_folder, ownName, own) &&
-           replaceChanged(m_folder, namesName, ActiveFile::makeNames(sheet)) &&
-           replaceChanged(m_folder, activeName, active);
+    const QByteArray digest = ActiveFile::digest(active);
+    const QByteArray own = sheet.toFile(digest, there == active ? digest : ActiveFile::digest(there));
+    ChangeSet change(m_folder);
+    replaceChanged(change, m_folder, ownName, own);
+    replaceChanged(change, m_folder, namesName, ActiveFile::makeNames(sheet));
+    replaceChanged(change, m_folder, activeName, active);
+    return change.commit();
 }

@@ -36,8 +36,8 @@ public:
     /// The lists without what another program has put there; an empty sheet where they cannot be read.
     ToDoSheet read(DateStyle style, QDate today) const;
 
-    /// Writes each of the three files that has changed, one after the other. False, with a line in the log,
-    /// where the disk refuses one: those before it are written then.
+    /// Writes those of the three files that have changed, all of them or none. False, with a line in the log,
+    /// where the disk refuses.
     [[nodiscard]] bool save(const ToDoSheet &sheet) const;
 
 private:

@@ -46,34 +46,21 @@ ToDoSheet ToDoSheet::fromFile(const QByteArray &file)
 
 QByteArray ToDoSheet::toFile(QByteArrayView digest, QByteArrayView formerDigest) const
 {
-    const auto isActive = [](const Line &line) { return line.outline.kind == ToDoLine::Kind::Active; };
-    const auto active = std::ranges::find_if(m_lines, isActive);
-    qsizetype size = ToDoHead::firstLine.size() + lineEnd.size() + digest.size() + formerDigest.size();
+    const QByteArray active = ToDoLine::makeActive(digest, formerDigest, m_active);
+    qsizetype size = ToDoHead::firstLine.size() + active.size() + 2 * lineEnd.size();
     for (const Line &line : m_lines)
         size += line.length + lineEnd.size();
     QByteArray file;
-    file.reserve(size + ToDoLine::longest);
-    file.append(ToDoHead::firstLine).append(lineEnd);
-    if (active == m_lines.end())
-        file.append(ToDoLine::makeActive(digest, formerDigest)).append(lineEnd);
-    for (auto line = m_lines.begin(); line != m_lines.end(); ++line) {
-        if (line == active)
-            file.append(ToDoLine::makeActive(digest, formerDigest, bytes(*line)));
-        else
-            file.append(bytes(*line));
-        file.append(lineEnd);
-    }
+    file.reserve(size);
+    file.append(ToDoHead::firstLine).append(lineEnd).append(active).append(lineEnd);
+    for (const Line &line : m_lines)
+        file.append(bytes(line)).append(lineEnd);
     return file;
 }
 
 std::pair<QByteArray, QByteArray> ToDoSheet::digests() const
 {
-    for (const Line &line : m_lines) {
-        if (line.outline.kind == ToDoLine::Kind::Active)
-            return {ToDoLine::column(bytes(line), 1).toByteArray(),
-                    ToDoLine::column(bytes(line), 2).toByteArray()};
-    }
-    return {};
+    return {ToDoLine::column(m_active, 1).toByteArray(), ToDoLine::column(m_active, 2).toByteArray()};
 }
 
 const ToDoList *ToDoSheet::list(int id) const
@@ -187,8 +174,6 @@ int ToDoSheet::addList(ToDoList list, int place)
         line = m_listLines[std::size_t(place)];
     else if (count > 0)
         line = m_listLines.back() + 1;
-    else if (lineCount() > 0 && m_lines.front().outline.kind == ToDoLine::Kind::Active)
-        line = 1;
     insertLine(line, ToDoLine::make(list));
     return list.id;
 }
@@ -296,7 +281,11 @@ void ToDoSheet::readLines(qsizetype from)
         const qsizetype end = all.indexOf('\n', from);
         const qsizetype next = end < 0 ? all.size() : end + 1;
         const QByteArrayView line = ToDoHead::lineOf(all.sliced(from, next - from));
-        m_lines.append({qint32(from), qint32(line.size()), ToDoLine::outline(line)});
+        const Line read{qint32(from), qint32(line.size()), ToDoLine::outline(line)};
+        if (read.outline.kind == ToDoLine::Kind::Active && m_active.isEmpty())
+            m_active = line.toByteArray();
+        else
+            m_lines.append(read);
         from = next;
     }
 }

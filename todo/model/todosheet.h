@@ -21,6 +21,7 @@ public:
     /// What `file` holds, as far as it can be read; nothing of a foreign one. A second list or item with an
     /// id gets one of its own; items of lists that are not there are in a list "Found".
     static ToDoSheet fromFile(const QByteArray &file);
+    /// The line with the digests always stands first.
     QByteArray toFile(QByteArrayView digest, QByteArrayView formerDigest) const;
 
     /// The digests in the file: of the other programs' file that belongs to this content, and of the one that
@@ -70,7 +71,7 @@ public:
     void removeList(int id);
     void moveList(int id, int place);
 
-    /// The lines of the file below the first one, for differences and comparisons.
+    /// The lines of the file below the first one and that of the digests, for differences and comparisons.
     int lineCount() const { return int(m_lines.size()); }
     QByteArrayView lineBytes(int line) const { return bytes(m_lines[line]); }
     void insertLine(int line, QByteArrayView bytes);
@@ -103,8 +104,9 @@ private:
     int newItemId() const;
     int newListId() const;
 
-    QByteArray m_bytes; ///< the file as it was read; behind it the lines that were made since
-    QList<Line> m_lines;
+    QByteArray m_bytes;   ///< the file as it was read; behind it the lines that were made since
+    QByteArray m_active;  ///< the line with the digests, as it was read
+    QList<Line> m_lines;  ///< all others
     QList<qint32> m_rows; ///< the line of each item
     std::vector<ToDoList> m_lists;
     std::vector<qint32> m_listLines;

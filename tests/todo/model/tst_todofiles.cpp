@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/failingdisk.h"
 #include "tests/support/household.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
 #include "todo/model/todofiles.h"
 
 #include <QDir>
+#include <QLoggingCategory>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+using Files = QMap<QString, QByteArray>;
 
 const QDate today(2026, 11, 22);
 
@@ -87,7 +91,128 @@ private slots:
         QCOMPARE(ToDoSheet::fromFile(own), m_files.open(DateStyle::Other, today).sheet);
     }
 
+    void takesInWhatAnotherProgramPutThere()
+    {
+        m_test.put(u"ToDo1.Fil"_s, ownLines);
+        QVERIFY(m_files.save(m_files.read(DateStyle::Usa, today)));
+        const Files saved = filesOf();
+        QCOMPARE(m_files.open(DateStyle::Usa, today).takenIn, 0);
+
+        // Two are known, one by its date in another form; nothing goes because it is not there.
+        m_test.put(u"TODOActv.FIL"_s, "\"Renew passports\",\"Mon - 03/15/2027\",\"\"\r\n\"Milk\"\r\n\"\"\r\n"
+                                      "\"\"\r\n\"Milk\"\r\n\"12/24/2026\"\r\n\"JOS\xc9'S SHOP\"\r\n"
+                                      "\"Call\"\r\n\"some day\"\r\n\"Before a trip\"\r\n");
+        const Files foreign = filesOf();
+        const ToDoFiles::Opened opened = m_files.open(DateStyle::Usa, today);
+        QCOMPARE(opened.takenIn, 2);
+        QCOMPARE(
+            rowsOf(opened.sheet).mid(rowsOf(opened.former).size()),
+            (QStringList{u"Milk|2026-12-24|Jos\u00e9's shop|"_s, u"Call||Home|some day\nBefore a trip"_s}));
+        QCOMPARE(filesOf(), foreign);
+        QVERIFY(m_files.save(opened.sheet));
+        QCOMPARE(m_files.open(DateStyle::Usa, today).takenIn, 0);
+        QCOMPARE(m_files.open(DateStyle::Other, today).sheet, opened.sheet);
+
+        // A save of ours that was cut short: nothing that is done comes back.
+        ToDoSheet done = opened.sheet;
+        const Files former = filesOf();
+        ToDoItem call = done.item(done.rowCount() - 1);
+        call.actual = today;
+        done.set(done.rowCount() - 1, call);
+        QVERIFY(m_files.save(done));
+        m_test.put(u"TODOActv.FIL"_s, former[u"TODOActv.FIL"_s]);
+        QCOMPARE(m_files.open(DateStyle::Usa, today).takenIn, 0);
+        QCOMPARE(m_files.open(DateStyle::Usa, today).sheet, done);
+    }
+
+    void savesAllOrNothing()
+    {
+        QLoggingCategory::setFilterRules(u"*.warning=false"_s);
+        failAtEachStep(
+            m_test.folder(),
+            [this] {
+                init();
+                m_test.put(u"ToDo1.Fil"_s, ownLines);
+                m_test.put(u"TODONAME.Fil"_s, "\"Home\"\r\n");
+                m_test.put(u"TODOActv.FIL"_s, "");
+            },
+            [this] { return m_files.save(ToDoSheet::fromFile(ownLines)); },
+            [this] {
+                Files files = filesOf();
+                files.remove(ChangeSet::journalName);
+                return files;
+            });
+        // The spelling that was there stays.
+        QVERIFY(filesOf().contains(u"TODONAME.Fil"_s) && !filesOf().contains(u"TODONAME.FIL"_s));
+    }
+
+    void opensForReadingOnlyWhatItMustNotWrite_data()
+    {
+        rows<QByteArray, bool, int>({
+            {"nothing", "", false, 1},
+            {"the beginning of the first line", "Quillery To", false, 1},
+            {"the first line", "Quillery To Do 1", false, 1},
+            {"with a mark", "\xef\xbb\xbfQuillery To Do 1\r\nlist\t1\tplain\tHome\r\n", false, 1},
+            {"a later version", "Quillery To Do 2\nlist\t1\tplain\tHome\nlist\t2\tplain\tTwo\n", true, 2},
+            {"noise", noiseOf(4000), true, 1},
+            {"another encoding", QByteArray("Q\0u\0i\0l\0l\0", 10), true, 1},
+            {"zeros", QByteArray(100, '\0'), true, 1},
+        });
+    }
+    void opensForReadingOnlyWhatItMustNotWrite()
+    {
+        const auto [bytes, isLocked, lists] = row<QByteArray, bool, int>();
+        m_test.put(u"ToDo1.Fil"_s, bytes);
+        const ToDoFiles::Opened opened = m_files.open(DateStyle::Usa, today);
+        QCOMPARE(!opened.whyLocked.isEmpty(), isLocked);
+        QCOMPARE(opened.sheet.lists().size(), std::size_t(lists));
+        QCOMPARE(m_test.bytes(u"ToDo1.Fil"_s), bytes);
+    }
+
+    void holdsOutAgainstDamage()
+    {
+        QLoggingCategory::setFilterRules(u"*.warning=false"_s);
+        // Cut anywhere it opens, and what it holds is written again as it was.
+        for (qsizetype size = 0; size < ownLines.size(); ++size) {
+            const ToDoSheet sheet = ToDoSheet::fromFile(ownLines.first(size));
+            QCOMPARE(ToDoSheet::fromFile(sheet.toFile("a", "b")).rowCount(), sheet.rowCount());
+        }
+        QVERIFY(QDir(m_test.folder().path()).mkdir(u"ToDo1.Fil"_s));
+        QVERIFY(!m_files.open(DateStyle::Usa, today).whyLocked.isEmpty());
+        QVERIFY(!m_files.save(ToDoSheet::fromFile(ownLines)));
+
+        const QByteArray long100 = "item\t1\t1\t0\t\t\t\t\t\t" + QByteArray(100'000'000, 'x') + "\t\n";
+        const ToDoSheet sheet = ToDoSheet::fromFile(ownLines + long100);
+        QCOMPARE(sheet.rowCount(), 6);
+        QVERIFY(sheet.toFile({}, {}).contains(long100.first(1000)));
+    }
+
+    void sortsOutTwinsAndLostItems()
+    {
+        const ToDoSheet sheet =
+            ToDoSheet::fromFile("Quillery To Do 1\nlist\t1\tplain\tOne\nlist\t1\tplain\tTwo\n"
+                                "item\t7\t1\t0\t0000-01-01\t\t\t\t\tYear nought\t\n"
+                                "item\t7\t9\t0\t9999-12-31\t\t\t\t\tLost\t\n"
+                                "item\t999999999\t1\t0\t+3\t\t\t\t\tLast\n"
+                                "item\t8\t1\t2\t\t\t\t\t\tUnknown level\t\n");
+        QCOMPARE(rowsOf(sheet),
+                 (QStringList{u"Year nought||One|"_s, u"Lost|9999-12-31|Found|"_s, u"Last||One|"_s}));
+        QCOMPARE(sheet.lists().size(), std::size_t(3));
+        QVERIFY(sheet.idOf(0) == 7 && sheet.idOf(1) == 1 && sheet.lists()[1].id == 2);
+        const QByteArray file = sheet.toFile("a", "b");
+        QVERIFY(file.contains("item\t8\t1\t2\t\t") && file.contains("item\t7\t1\t0\t0000-01-01\t"));
+        QCOMPARE(ToDoSheet::fromFile(file).toFile("a", "b"), file);
+    }
+
 private:
+    Files filesOf() const
+    {
+        Files files;
+        for (const QString &name : QDir(m_test.folder().path()).entryList(QDir::Files | QDir::Hidden))
+            files[name] = m_test.bytes(name);
+        return files;
+    }
+
     TestFolder m_test;
     ToDoFiles m_files{m_test.folder()};
 };
