@@ -23,6 +23,7 @@ CheckedText::CheckedText(Writing &writing, QPlainTextEdit *box)
             typed();
     });
     connect(box, &QPlainTextEdit::cursorPositionChanged, this, &CheckedText::moved);
+    mark();
 }
 
 CheckedText::~CheckedText()
