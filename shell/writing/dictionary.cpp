@@ -61,12 +61,17 @@ Dictionary::~Dictionary() = default;
 
 std::string Dictionary::encoded(QStringView word) const
 {
+    std::string letters(std::size_t(word.size()), char());
+    std::ranges::transform(word, letters.begin(), [](QChar character) { return character.toLatin1(); });
+    const auto isPlain = [](QChar character) { return character.unicode() < 0x80; };
+    if (std::ranges::all_of(word, isPlain)) // the same in each of them
+        return letters;
     switch (m_encoding) {
     case Encoding::Utf8:
         return word.toUtf8().toStdString();
     case Encoding::Latin1:
         return std::ranges::all_of(word, [](QChar character) { return character.unicode() < 0x100; })
-                   ? word.toLatin1().toStdString()
+                   ? letters
                    : std::string();
     case Encoding::Windows1252:
         return AnsiText::isHoldable(word) ? AnsiText::encode(word).toStdString() : std::string();

@@ -29,7 +29,7 @@ bool OwnWords::contains(QStringView word) const
 {
     if (m_words.isEmpty() || word.isEmpty())
         return false;
-    QString text = word.toString();
+    QString text = QString::fromRawData(word.data(), word.size());
     if (m_words.contains(text))
         return true;
     if (!text[0].isUpper())

@@ -12,6 +12,8 @@ namespace {
 constexpr qsizetype longestWord = 90;
 /// What the dictionaries have said is forgotten beyond that many words.
 constexpr qsizetype mostLooked = 50'000;
+/// The words of a long text.
+constexpr qsizetype usuallyLooked = 2'000;
 
 /// `word` without the ending of "Anne's".
 QStringView withoutGenitive(QStringView word)
@@ -28,7 +30,7 @@ Spelling::Spelling(const DataFolder &folder)
 void Spelling::setDictionaries(std::vector<std::unique_ptr<Dictionary>> dictionaries)
 {
     m_dictionaries = std::move(dictionaries);
-    m_looked.clear();
+    forgetLooked();
 }
 
 void Spelling::setKnownNames(const QStringList &names)
@@ -73,8 +75,9 @@ bool Spelling::isRight(QStringView word) const
 
 bool Spelling::isKnownHere(QStringView word) const
 {
-    const QString text = word.toString();
-    const QString plain = withoutGenitive(word).toString();
+    // Keys that borrow the characters.
+    const QString text = QString::fromRawData(word.data(), word.size());
+    const QString plain = text.endsWith(u's') ? withoutGenitive(word).toString() : text;
     return m_ignored.contains(text) || m_names.contains(text) || m_names.contains(plain) ||
            m_ownWords.contains(text) || m_ownWords.contains(plain);
 }
@@ -101,4 +104,10 @@ bool Spelling::addOwnWord(const QString &word)
 bool Spelling::removeOwnWord(const QString &word)
 {
     return m_ownWords.remove(word);
+}
+
+void Spelling::forgetLooked() const
+{
+    m_looked.clear();
+    m_looked.reserve(usuallyLooked);
 }

@@ -34,7 +34,7 @@ public:
     QStringList suggestions(QStringView word) const;
     static constexpr int mostSuggestions = 8;
     /// Lets go of what the dictionaries have said of words.
-    void forgetLooked() const { m_looked.clear(); }
+    void forgetLooked() const;
 
     /// The word is right from now on, also the next time. False where it could not be saved: then it is right
     /// as long as this lives.

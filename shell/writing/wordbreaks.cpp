@@ -90,9 +90,12 @@ std::vector<WordPlace> WordBreaks::checkedWords(QStringView text)
             continue;
         }
         qsizetype end = at;
-        while (end < text.size() && !text[end].isSpace())
-            ++end;
-        if (!isAddress(text.sliced(at, end - at)))
+        bool hasSign = text[at] == u'w' || text[at] == u'W'; // one that an address has
+        for (; end < text.size() && !text[end].isSpace(); ++end) {
+            const char16_t code = text[end].unicode();
+            hasSign = hasSign || code == u'.' || code == u':' || code == u'@' || code == u'\\';
+        }
+        if (!hasSign || !isAddress(text.sliced(at, end - at)))
             addWordsOf(text, at, end, words);
         at = end;
     }
@@ -121,8 +124,9 @@ bool WordBreaks::endsWord(QChar character)
 
 bool WordBreaks::isInCapitals(QStringView word)
 {
-    const auto isSmall = [](QChar character) { return character.isLower(); };
+    // Most words are told by their second letter.
+    if (std::ranges::any_of(word, [](QChar character) { return character.isLower(); }))
+        return false;
     const auto letters = std::ranges::count_if(word, [](QChar character) { return character.isLetter(); });
-    return letters > 1 && std::ranges::none_of(word, isSmall) &&
-           std::ranges::any_of(word, [](QChar character) { return character.isUpper(); });
+    return letters > 1 && std::ranges::any_of(word, [](QChar character) { return character.isUpper(); });
 }
