@@ -15,8 +15,10 @@ inline constexpr int Budget = 1008;
 inline constexpr int BackupAndRestore = 1009;
 inline constexpr int CarLog = 1010;
 inline constexpr int WeightTracker = 1011;
+inline constexpr int ToDoList = 1012;
 
 inline constexpr int all[] = {ProgramOverview, AddressBook,      PasswordControl, Appearance,
                               PagePreview,     Planner,          AddressViewer,   Keys,
-                              Budget,          BackupAndRestore, CarLog,          WeightTracker};
+                              Budget,          BackupAndRestore, CarLog,          WeightTracker,
+                              ToDoList};
 } // namespace HelpContext

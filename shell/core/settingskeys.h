@@ -58,6 +58,8 @@ inline constexpr TextSetting addressViewerColor{colorFile3, 204};
 inline constexpr TextSetting addressPicturesColor{colorFile3, 205};
 inline constexpr TextSetting carColor{colorFile3, 206};
 inline constexpr TextSetting weightColor{colorFile3, 207};
+inline constexpr TextSetting toDoColor{colorFile3, 208};
+inline constexpr TextSetting toDoTextColor{colorFile3, 209};
 
 /// The records that a program-wide colour update gives one value to, file by file.
 inline constexpr std::array<int, 18> programColors1{10, 11, 12, 13, 16, 17, 18, 22, 27,
@@ -68,7 +70,7 @@ inline constexpr std::array<int, 10> programColors3{8, 17, 91, 92, 100, 101, 102
 /// The windows' own colours, which would outrank a program-wide one: the update gives them its value, too.
 inline constexpr std::array windowColors{
     addressEntryColor,    budgetColor, passwordKeeperColor, helpColor, plannerColor, addressViewerColor,
-    addressPicturesColor, carColor,    weightColor};
+    addressPicturesColor, carColor,    weightColor,         toDoColor};
 
 /// The program-wide record that a window falls back to when its own is empty or "Default".
 inline constexpr TextSetting addressEntryProgramColor{colorFile1, 10};
@@ -79,5 +81,6 @@ inline constexpr TextSetting addressViewerProgramColor{colorFile1, 12};
 inline constexpr TextSetting addressPicturesProgramColor{colorFile1, 13};
 inline constexpr TextSetting carProgramColor{colorFile1, 17};
 inline constexpr TextSetting weightProgramColor{colorFile1, 18};
+inline constexpr TextSetting toDoProgramColor{colorFile1, 22};
 
 } // namespace SettingsKeys

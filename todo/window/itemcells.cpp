@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "todo/window/itemcells.h"
+
+#include "shell/controls/cellgrid.h"
+#include "shell/controls/controls.h"
+#include "shell/look/theme.h"
+#include "todo/model/todoitem.h"
+#include "todo/window/itemsmodel.h"
+
+#include <QPainter>
+#include <QStyleOptionButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int stepInset = 24;
+constexpr int longestWho = 80;
+constexpr int longestRepeat = 60;
+} // namespace
+
+void ItemCells::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyleOptionViewItem cell = option;
+    const auto kind = ToDoRow::Kind(index.data(ItemsModel::rowKindRole).toInt());
+    if (kind == ToDoRow::Group || kind == ToDoRow::Heading)
+        cell.font = TypeScale::strong();
+    cell.font.setStrikeOut(kind == ToDoRow::Item && index.column() == ItemsModel::Text &&
+                           index.data(ItemsModel::doneRole).toBool());
+    if (kind == ToDoRow::Group)
+        painter->fillRect(option.rect, Theme::of(grid()).head);
+    CellDelegate::paint(painter, cell, index);
+    if (index.column() == ItemsModel::Tick && kind == ToDoRow::Item)
+        paintTick(*painter, option, index);
+}
+
+void ItemCells::paintTick(QPainter &painter, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const
+{
+    const QStyle *style = grid()->style();
+    const int side = style->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, grid());
+    QStyleOptionButton box;
+    box.rect = QRect(0, 0, side, side);
+    box.rect.moveCenter(option.rect.center() + QPoint(0, 1));
+    box.palette = option.palette;
+    box.state = QStyle::State_Enabled |
+                (index.data(ItemsModel::doneRole).toBool() ? QStyle::State_On : QStyle::State_Off);
+    style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, grid());
+}
+
+int ItemCells::insetOf(const QModelIndex &index) const
+{
+    const bool isStep = index.column() == ItemsModel::Text && index.data(ItemsModel::stepRole).toBool();
+    return CellGrid::inset + (isStep ? stepInset : 0);
+}
+
+QLineEdit *ItemCells::makeBox(QWidget *parent, const QModelIndex &index) const
+{
+    QLineEdit *box = CellDelegate::makeBox(parent, index);
+    auto *field = qobject_cast<FieldBox *>(box);
+    switch (index.column()) {
+    case ItemsModel::Text:
+        field->setByteLimit(ToDoItem::longestText);
+        break;
+    case ItemsModel::Who:
+        field->setByteLimit(longestWho);
+        break;
+    case ItemsModel::Repeat:
+        field->setByteLimit(longestRepeat);
+        break;
+    default:
+        break;
+    }
+    return box;
+}
