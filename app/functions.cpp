@@ -23,6 +23,7 @@
 #include "shell/access/passwordcheck.h"
 #include "shell/access/passwordcontrol.h"
 #include "shell/program/program.h"
+#include "todo/window/todowindow.h"
 #include "weight/model/personfiles.h"
 #include "weight/model/weightnews.h"
 #include "weight/model/weightsource.h"
@@ -188,6 +189,12 @@ void showPerson(QWidget &window, const Place &place)
         tracker->showPlace(place);
 }
 
+void showToDo(QWidget &window, const Place &place)
+{
+    if (auto *lists = qobject_cast<ToDo1 *>(&window))
+        lists->showPlace(place);
+}
+
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
 {
     switch (PasswordCheck(program.folder, PasswordCost::interactive(), &program.gate.memory()).state()) {
@@ -254,6 +261,7 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                             .show = showPerson,
                                             .files = weightFiles,
                                             .pictures = weightPictures});
+    functions.add(Function::ToDoList, {.open = makeWindow<ToDo1>, .show = showToDo});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

@@ -108,7 +108,7 @@ bool FunctionWindow::mayLeave()
         return true;
     Leaving leaving;
     if (isModified())
-        leaving.data = askAbout(leaveQuestion());
+        leaving.data = askToLeave();
     if (leaving.data != Answer::Cancel)
         leaving.colors = m_colors->askToSave();
     if (leaving.data != Answer::Cancel && leaving.colors != Answer::Cancel)

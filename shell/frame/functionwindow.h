@@ -75,6 +75,8 @@ protected:
     virtual void drop() {}
     /// The question in front of leaving; only asked while the window is modified.
     virtual Message leaveQuestion() const { return {}; }
+    /// Asks it: Yes saves first, No drops what is not saved, Cancel stays.
+    virtual Answer askToLeave() { return askAbout(leaveQuestion()); }
     /// The question in front of a step that is undone or done again; only asked while the window is modified.
     virtual Message replaceQuestion() const { return leaveQuestion(); }
     /// Before something takes the place of unsaved work: Yes saves, No drops, Cancel stays. At the end of a

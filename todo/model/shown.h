@@ -8,7 +8,7 @@ struct Shown {
     enum Kind { Today, Coming, ByPerson, Done, List, Search };
 
     Kind kind = Today;
-    int list = 0;   ///< of `List`
+    int list = 0;    ///< of `List`
     QString words{}; ///< of `Search`
 
     bool operator==(const Shown &) const = default;

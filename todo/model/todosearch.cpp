@@ -35,6 +35,6 @@ bool ToDoSearch::holds(QByteArrayView bytes, const Word &word)
 
 bool ToDoSearch::finds(QByteArrayView text, QByteArrayView note) const
 {
-    return std::ranges::all_of(
-        m_words, [&](const Word &word) { return holds(text, word) || holds(note, word); });
+    return std::ranges::all_of(m_words,
+                               [&](const Word &word) { return holds(text, word) || holds(note, word); });
 }

@@ -4,8 +4,8 @@
 #include <QByteArray>
 #include <QStringList>
 
-/// Words that are looked for in the bytes of texts and notes, ten thousand at a keystroke. Upper and lower case
-/// are alike.
+/// Words that are looked for in the bytes of texts and notes, ten thousand at a keystroke. Upper and lower
+/// case are alike.
 class ToDoSearch
 {
 public:

@@ -2,6 +2,7 @@
 #include "todo/model/todoviews.h"
 
 #include "shell/core/dates.h"
+#include "todo/model/comingback.h"
 #include "todo/model/todosearch.h"
 #include "todo/model/viewwords.h"
 
@@ -21,7 +22,7 @@ class View
 public:
     View(const ToDoSheet &sheet, const ToDoViews::Wanted &wanted);
 
-    Rows list();
+    Rows list() const;
     Rows today() const;
     Rows coming() const;
     Rows byPerson() const;
@@ -39,15 +40,12 @@ private:
     }
     void add(Rows &rows, int row) const;
     void addGroup(Rows &rows, const QString &words, const Places &places) const;
-    bool comesLater(int row);
-    void findComingBack();
     Places inOrder(const Places &places) const;
     QString dayWords(QDate day) const;
 
     const ToDoSheet &m_sheet;
     const ToDoViews::Wanted &m_wanted;
     QSet<int> m_templates;
-    QHash<QByteArrayView, QDate> m_lastDone; ///< by text, of the list that is shown
 };
 
 View::View(const ToDoSheet &sheet, const ToDoViews::Wanted &wanted)
@@ -82,30 +80,6 @@ QString View::dayWords(QDate day) const
     return ToDoViewWords::day(day, m_wanted.today, m_wanted.style);
 }
 
-/// When each thing of the list was done last: only what was done before can come back.
-void View::findComingBack()
-{
-    for (int row = 0; row < m_sheet.rowCount(); ++row) {
-        if (m_sheet.listOf(row) != m_wanted.shown.list || !m_sheet.isDone(row))
-            continue;
-        QDate &last = m_lastDone[m_sheet.textBytes(row)];
-        last = last.isValid() ? std::max(last, m_sheet.actualOf(row)) : m_sheet.actualOf(row);
-    }
-}
-
-/// Whether it came back with a tick and rests now: until the next day, and until a week ahead of its date.
-bool View::comesLater(int row)
-{
-    const QDate due = m_sheet.dueOf(row);
-    if (m_sheet.isDone(row) || m_sheet.levelOf(row) != ItemLevel::Item || due <= m_wanted.today)
-        return false;
-    const QDate lastDone = m_lastDone.value(m_sheet.textBytes(row));
-    if (!lastDone.isValid())
-        return false;
-    const bool isFar = due > m_wanted.today.addDays(ToDoViews::daysAhead);
-    return (isFar || lastDone >= m_wanted.today) && !m_sheet.item(row).repeat.isEmpty();
-}
-
 /// In the order of their dates, each item with its steps; those without a date come last.
 Places View::inOrder(const Places &places) const
 {
@@ -133,9 +107,9 @@ Places View::inOrder(const Places &places) const
     return sorted;
 }
 
-Rows View::list()
+Rows View::list() const
 {
-    findComingBack();
+    const ComingBack comingBack(m_sheet, m_wanted.today);
     const bool isSorted = m_wanted.order != ToDoViews::Order::Own;
     Places shown;
     Places later;
@@ -150,7 +124,7 @@ Rows View::list()
             continue;
         }
         if (m_sheet.levelOf(row) == ItemLevel::Item)
-            taking = comesLater(row) ? &later : isToDo(row) ? &shown : nullptr;
+            taking = comingBack.isLater(row) ? &later : isToDo(row) ? &shown : nullptr;
         else if (!taking && isToDo(row))
             taking = &shown; // a step that is open or was ticked just now, under something done
         if (taking)
@@ -161,7 +135,8 @@ Rows View::list()
         add(rows, row);
     if (later.empty())
         return rows;
-    const auto count = std::ranges::count(later, ItemLevel::Item, [this](int row) { return m_sheet.levelOf(row); });
+    const auto count =
+        std::ranges::count(later, ItemLevel::Item, [this](int row) { return m_sheet.levelOf(row); });
     rows.push_back({ToDoRow::Later, 0, ToDoViewWords::later(int(count), m_wanted.isLaterShown)});
     if (m_wanted.isLaterShown) {
         for (const int row : later)
@@ -209,7 +184,7 @@ Rows View::byPerson() const
     for (int row = 0; row < m_sheet.rowCount(); ++row) {
         if (m_sheet.levelOf(row) != ItemLevel::Item || !isToDo(row))
             continue;
-        const QString who = m_sheet.item(row).who.section(u'>', 0, 0).trimmed();
+        const QString who = Turns::current(m_sheet.item(row).who);
         if (who.isEmpty()) {
             nobody.push_back(row);
             continue;
@@ -271,7 +246,7 @@ Rows View::found() const
 
 std::vector<ToDoRow> ToDoViews::rows(const ToDoSheet &sheet, const Wanted &wanted)
 {
-    View view(sheet, wanted);
+    const View view(sheet, wanted);
     switch (wanted.shown.kind) {
     case Shown::Today:
         return view.today();

@@ -45,8 +45,6 @@ struct Wanted {
 
 std::vector<ToDoRow> rows(const ToDoSheet &sheet, const Wanted &wanted);
 
-/// How many days ahead of its date something comes back into its list.
-inline constexpr int daysAhead = 7;
 /// How many days, from today on, are coming.
 inline constexpr int daysComing = 14;
 

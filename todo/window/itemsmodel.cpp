@@ -247,8 +247,8 @@ Qt::ItemFlags ItemsModel::flags(const QModelIndex &index) const
         return Qt::ItemIsEnabled;
     if (kind == ToDoRow::Group || kind == ToDoRow::Later)
         return flags;
-    const bool isCell = kind == ToDoRow::Heading ? index.column() == Tick
-                                                 : index.column() != Tick && index.column() != List;
+    const bool isCell =
+        kind == ToDoRow::Heading ? index.column() == Tick : index.column() != Tick && index.column() != List;
     const bool isTyped = isCell && m_lists.whyLocked().isEmpty();
     return flags | Qt::ItemIsDragEnabled | (isTyped ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }

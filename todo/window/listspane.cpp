@@ -137,8 +137,8 @@ void ListsPane::refresh()
     std::vector<PaneRows::Row> rows;
     for (const Shown::Kind view : views) {
         const bool isToday = view == Shown::Today;
-        rows.push_back({view, ToDoWindowLines::nameOf(view), isToday ? counts.today : 0,
-                        isToday && counts.overdue > 0});
+        rows.push_back(
+            {view, ToDoWindowLines::nameOf(view), isToday ? counts.today : 0, isToday && counts.overdue > 0});
     }
     m_viewRows->setRows(std::move(rows));
     rows.clear();

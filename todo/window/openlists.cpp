@@ -30,13 +30,15 @@ QString OpenLists::whyLocked() const
 
 int OpenLists::load()
 {
-    const ToDoFiles::Opened opened = m_files.open();
+    const ToDoFiles::Opened opened = m_files.open(m_program.state.dateStyle, m_program.clock.today());
     m_soon.stop();
-    m_sheet = opened.sheet;
+    m_sheet = opened.former;
     m_whyLocked = opened.whyLocked;
     m_isSaved = true;
     emit fileTouched();
     emit changed();
+    if (opened.takenIn > 0)
+        change(ToDoWindowLines::takenIn(opened.takenIn), opened.sheet);
     return opened.takenIn;
 }
 
@@ -46,8 +48,7 @@ bool OpenLists::change(const QString &title, const ToDoSheet &wanted)
         emit said(why);
         return false;
     }
-    const auto difference =
-        std::make_shared<const ToDoDifference>(ToDoDifference::between(m_sheet, wanted));
+    const auto difference = std::make_shared<const ToDoDifference>(ToDoDifference::between(m_sheet, wanted));
     if (difference->isEmpty())
         return true;
     hold(wanted);

@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "todo/window/itemgrid.h"
+
+#include "shell/controls/controls.h"
+#include "shell/look/theme.h"
+#include "todo/window/itemcells.h"
+#include "todo/window/itemsmodel.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int tickWidth = 36;
+constexpr int noteRows = 4;
+
+/// What the columns get beside the text of the items, in the font that they were drawn for.
+struct Width {
+    ItemsModel::Column column;
+    int least;
+    int usual;
+};
+constexpr std::array widths{Width{ItemsModel::Due, 128, 168}, Width{ItemsModel::Actual, 96, 116},
+                            Width{ItemsModel::Who, 76, 120}, Width{ItemsModel::Repeat, 120, 220},
+                            Width{ItemsModel::List, 84, 130}};
+constexpr int leastText = 200;
+
+} // namespace
+
+ItemGrid::ItemGrid(ItemsModel &model, QWidget *parent)
+    : CellGrid(parent)
+    , m_model(model)
+    , m_question(new QLabel(viewport()))
+{
+    setObjectName(u"toDoGrid"_s);
+    setAccessibleName(u"Things to do"_s);
+    setCells(new ItemCells(this));
+    setModel(&model);
+    setPlainRows();
+    setAlternatingRowColors(false);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setDragDropMode(DragDrop);
+    setDragDropOverwriteMode(false);
+    setDefaultDropAction(Qt::MoveAction);
+    makeHeading();
+    m_question->setObjectName(u"quietQuestion"_s);
+    m_question->setAutoFillBackground(true);
+    m_question->setMargin(6);
+    m_question->hide();
+    for (const auto changed : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(&model, changed, this, &ItemGrid::span);
+    connect(&model, &QAbstractItemModel::dataChanged, this, &ItemGrid::showSorting);
+}
+
+void ItemGrid::makeHeading()
+{
+    QHeaderView *heading = horizontalHeader();
+    heading->setSectionResizeMode(QHeaderView::Fixed);
+    heading->setMinimumSectionSize(tickWidth);
+    heading->setFixedHeight(usualRowHeight() + 4);
+    heading->setHighlightSections(false);
+    heading->setSectionsClickable(true);
+    connect(heading, &QHeaderView::sectionClicked, this, [this](int column) {
+        if (column == ItemsModel::Due || column == ItemsModel::Actual)
+            emit sortRequested(column);
+    });
+}
+
+/// Headings and groups reach over all columns; an open note has room for several lines.
+void ItemGrid::span()
+{
+    clearSpans();
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const ToDoRow::Kind kind = m_model.rowAt(row).kind;
+        if (kind != ToDoRow::Item)
+            setSpan(row, 0, 1, ItemsModel::columns);
+        const int height = usualRowHeight() * (kind == ToDoRow::Note ? noteRows : 1);
+        if (rowHeight(row) != height)
+            setRowHeight(row, height);
+    }
+}
+
+void ItemGrid::showSorting()
+{
+    QHeaderView *heading = horizontalHeader();
+    const bool isSorted = m_model.order() != ToDoViews::Order::Own;
+    heading->setSortIndicatorShown(isSorted);
+    if (isSorted)
+        heading->setSortIndicator(m_model.order() == ToDoViews::Order::ByDue ? ItemsModel::Due
+                                                                             : ItemsModel::Actual,
+                                  m_model.isBackwards() ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void ItemGrid::setListShown(bool isShown)
+{
+    setColumnHidden(ItemsModel::List, !isShown);
+    shareWidth();
+}
+
+void ItemGrid::resizeEvent(QResizeEvent *event)
+{
+    CellGrid::resizeEvent(event);
+    shareWidth();
+}
+
+/// The text takes what the others leave; where that is little, they give way.
+void ItemGrid::shareWidth()
+{
+    int usual = tickWidth;
+    int least = tickWidth;
+    for (const Width &width : widths) {
+        if (isColumnHidden(width.column))
+            continue;
+        usual += TypeScale::wide(width.usual);
+        least += TypeScale::wide(width.least);
+    }
+    const int room = viewport()->width();
+    const double share =
+        std::clamp(double(room - TypeScale::wide(2 * leastText) - least) / (usual - least), 0., 1.);
+    int taken = tickWidth;
+    for (const Width &width : widths) {
+        const int wide = TypeScale::wide(width.least + int((width.usual - width.least) * share));
+        horizontalHeader()->resizeSection(width.column, wide);
+        taken += isColumnHidden(width.column) ? 0 : wide;
+    }
+    horizontalHeader()->resizeSection(ItemsModel::Tick, tickWidth);
+    horizontalHeader()->resizeSection(ItemsModel::Text,
+                                      std::max(TypeScale::wide(leastText) / 2, room - taken));
+}
+
+std::vector<int> ItemGrid::chosen() const
+{
+    std::vector<int> rows;
+    for (const QModelIndex &index : selectionModel()->selectedIndexes()) {
+        if (std::ranges::find(rows, index.row()) == rows.end())
+            rows.push_back(index.row());
+    }
+    if (rows.empty() && currentIndex().isValid())
+        rows.push_back(currentIndex().row());
+    std::ranges::sort(rows);
+    std::vector<int> ids;
+    for (const int row : rows) {
+        const std::vector<int> id = m_model.itemsBetween(row, row);
+        ids.insert(ids.end(), id.begin(), id.end());
+    }
+    return ids;
+}
+
+void ItemGrid::choose(const std::vector<int> &ids)
+{
+    QItemSelection rows;
+    QModelIndex first;
+    for (const int id : ids) {
+        const int row = m_model.rowOf(id);
+        if (row < 0)
+            continue;
+        const bool isHeading = m_model.rowAt(row).kind == ToDoRow::Heading;
+        const int column =
+            !isHeading && currentIndex().isValid() && currentIndex().column() != ItemsModel::Tick
+                ? currentIndex().column()
+            : isHeading ? int(ItemsModel::Tick)
+                        : int(ItemsModel::Text);
+        if (!first.isValid())
+            first = m_model.index(row, column);
+        rows.select(m_model.index(row, 0), m_model.index(row, ItemsModel::columns - 1));
+    }
+    if (!first.isValid())
+        return;
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+    scrollTo(first);
+}
+
+void ItemGrid::askQuietly(const QString &question)
+{
+    const Theme &theme = Theme::of(this);
+    QPalette palette = m_question->palette();
+    palette.setColor(QPalette::Window, theme.mark);
+    palette.setColor(QPalette::WindowText, theme.text);
+    m_question->setPalette(palette);
+    m_question->setText(question);
+    m_question->adjustSize();
+    const QRect cell = visualRect(currentIndex());
+    const bool isBelow = cell.bottom() + m_question->height() < viewport()->height();
+    m_question->move(std::min(cell.left(), viewport()->width() - m_question->width()),
+                     isBelow ? cell.bottom() + 1 : cell.top() - m_question->height());
+    m_question->show();
+    m_question->raise();
+}
+
+bool ItemGrid::isRow(const QModelIndex &index, int kind) const
+{
+    return index.isValid() && m_model.rowAt(index.row()).kind == kind;
+}
+
+bool ItemGrid::isTick(const QModelIndex &index) const
+{
+    return isRow(index, ToDoRow::Item) && index.column() == ItemsModel::Tick;
+}
+
+void ItemGrid::keyPressEvent(QKeyEvent *event)
+{
+    m_question->hide();
+    m_isPassing = m_isPassing && event->key() == Qt::Key_Tab;
+    const bool isTyping = state() == EditingState;
+    if (isTyping || !currentIndex().isValid()) {
+        CellGrid::keyPressEvent(event);
+    } else if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
+        if (isRow(currentIndex(), ToDoRow::Later))
+            emit laterClicked();
+        else
+            emit ticked();
+    } else if (isEnter(*event) && isRow(currentIndex(), ToDoRow::Later)) {
+        emit laterClicked();
+    } else if (event->matches(QKeySequence::SelectAll)) {
+        selectAll();
+    } else {
+        CellGrid::keyPressEvent(event);
+    }
+}
+
+void ItemGrid::mousePressEvent(QMouseEvent *event)
+{
+    m_question->hide();
+    m_isPassing = false;
+    m_pressed = event->button() == Qt::LeftButton ? indexAt(event->pos()) : QModelIndex();
+    // A click on a tick leaves the rows chosen that are.
+    if (isTick(m_pressed) && selectionModel()->isRowSelected(m_pressed.row(), {}))
+        return;
+    CellGrid::mousePressEvent(event);
+}
+
+void ItemGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QModelIndex released = indexAt(event->pos());
+    const bool isClick = m_pressed.isValid() && QModelIndex(m_pressed) == released;
+    m_pressed = QModelIndex();
+    if (isClick && isTick(released) && event->modifiers() == Qt::NoModifier) {
+        emit ticked();
+        return;
+    }
+    CellGrid::mouseReleaseEvent(event);
+    if (isClick && isRow(released, ToDoRow::Later))
+        emit laterClicked();
+}
+
+/// The second click on a tick takes it back.
+void ItemGrid::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (isTick(indexAt(event->pos())))
+        mousePressEvent(event);
+    else
+        CellGrid::mouseDoubleClickEvent(event);
+}
+
+void ItemGrid::focusInEvent(QFocusEvent *event)
+{
+    m_isPassing = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    CellGrid::focusInEvent(event);
+}
+
+/// On the text of a row that was chosen, Tab makes a step of it and Shift+Tab an item again. Whoever came
+/// with Tab, or has nothing to gain by it, goes on to the next cell and out behind the last.
+bool ItemGrid::focusNextPrevChild(bool next)
+{
+    const QModelIndex current = currentIndex();
+    const bool isStep = current.data(ItemsModel::stepRole).toBool();
+    const bool isOnText = isRow(current, ToDoRow::Item) && current.column() == ItemsModel::Text;
+    if (isOnText && !m_isPassing && state() != EditingState && isStep != next && hasFocus()) {
+        const QModelIndex before = current;
+        emit stepped(next);
+        if (before.data(ItemsModel::stepRole).toBool() == next)
+            return true;
+    }
+    return CellGrid::focusNextPrevChild(next);
+}
+
+void ItemGrid::dropEvent(QDropEvent *event)
+{
+    CellGrid::dropEvent(event);
+    // The rows are moved by the lists; the view shall not remove those that were dragged.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void ItemGrid::startDrag(Qt::DropActions actions)
+{
+    if (isTick(m_pressed))
+        return;
+    m_pressed = QModelIndex();
+    Q_UNUSED(actions)
+    QModelIndexList rows = selectionModel()->selectedRows();
+    if (rows.isEmpty())
+        return;
+    std::ranges::sort(rows, {}, &QModelIndex::row);
+    auto *drag = new QDrag(this);
+    drag->setMimeData(m_model.mimeData(rows));
+    drag->exec(Qt::MoveAction);
+    viewport()->update();
+}

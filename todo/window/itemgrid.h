@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/controls/cellgrid.h"
+
+class ItemsModel;
+class QLabel;
+
+/// The things to do of a view as a grid: typed right into, ticked with a click or Space, put into another
+/// order with the mouse or with keys.
+class ItemGrid final : public CellGrid
+{
+    Q_OBJECT
+public:
+    ItemGrid(ItemsModel &model, QWidget *parent = nullptr);
+
+    /// The ids of the chosen items and headings, in their order.
+    std::vector<int> chosen() const;
+    /// Chooses items, the first of them as the current one, and brings it to sight.
+    void choose(const std::vector<int> &ids);
+    /// The column "List", for views over all of them.
+    void setListShown(bool isShown);
+    /// A quiet question under the cell that was typed into; the next key or click takes it away.
+    void askQuietly(const QString &question);
+
+signals:
+    /// The chosen items are to be ticked, or no longer.
+    void ticked();
+    /// They are to become steps of the item above, or items again.
+    void stepped(bool isStep);
+    void laterClicked();
+    /// The dates of a column are to order the rows.
+    void sortRequested(int column);
+    void noteRequested(int id);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void dropEvent(QDropEvent *event) override;
+    void startDrag(Qt::DropActions actions) override;
+
+private:
+    void makeHeading();
+    void span();
+    void shareWidth();
+    bool isTick(const QModelIndex &index) const;
+    bool isRow(const QModelIndex &index, int kind) const;
+    void showSorting();
+
+    ItemsModel &m_model;
+    QLabel *m_question;
+    QPersistentModelIndex m_pressed;
+    bool m_isPassing = false; ///< the focus came by Tab, and Tab leads on
+};

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "todo/window/itemsview.h"
+
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/datebox.h"
+#include "shell/controls/datepicker.h"
+#include "shell/controls/listrowdelegate.h"
+#include "shell/controls/titleline.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/look/theme.h"
+#include "shell/program/program.h"
+#include "todo/model/todocounts.h"
+#include "todo/window/entryline.h"
+#include "todo/window/itemcells.h"
+#include "todo/window/itemgrid.h"
+#include "todo/window/itemsmodel.h"
+#include "todo/window/notebox.h"
+#include "todo/window/openlists.h"
+#include "todo/window/windowlines.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+ItemsView::ItemsView(const ToDoDesk &desk)
+    : TitledView(u"toDo"_s)
+    , m_desk(desk)
+    , m_model(new ItemsModel(desk.program, desk.lists, this))
+    , m_grid(new ItemGrid(*m_model, this))
+    , m_entry(new EntryLine(this))
+    , m_entryRow(makeEntry())
+    , m_hint(named(makeQuietLabel({}, this), u"entryHint"_s))
+    , m_rows(new WholeRows(m_grid, nullptr, this))
+    , m_empty(named(new QLabel(this), u"nothingToDo"_s))
+    , m_words(titleLine().addWords(u"toDoWords"_s))
+    , m_note(new NoteBox(m_grid->viewport()))
+{
+    auto *picker = new DatePicker(desk.program.clock, desk.program.settings, &desk.window);
+    m_grid->cells().takeDates({desk.program.state.dateStyle, desk.program.clock}, picker);
+    m_empty->setFont(TypeScale::emptyTitle());
+    m_empty->setAlignment(Qt::AlignCenter);
+    m_empty->setWordWrap(true);
+    addContent(m_entryRow);
+    addContent(m_hint);
+    addContent(m_empty, 1);
+    addContent(m_rows, 1);
+    connectParts();
+}
+
+QWidget *ItemsView::makeEntry()
+{
+    auto *line = new QWidget(this);
+    auto *row = new QHBoxLayout(line);
+    row->setContentsMargins({});
+    row->setSpacing(12);
+    m_entry->setPlaceholderText(u"Something to do"_s);
+    m_entry->setAccessibleName(u"Something to do"_s);
+    row->addWidget(m_entry, 1);
+    return line;
+}
+
+void ItemsView::setAddButton(QPushButton *button)
+{
+    button->setParent(m_entryRow);
+    m_entryRow->layout()->addWidget(button);
+}
+
+void ItemsView::connectParts()
+{
+    connect(m_entry, &EntryLine::leftDown, this, [this] {
+        if (!m_grid->currentIndex().isValid())
+            m_grid->setCurrentIndex(m_model->index(0, ItemsModel::Text));
+        m_grid->setFocus();
+    });
+    connect(m_entry, &QLineEdit::textChanged, this, &ItemsView::showHint);
+    connect(m_entry, &FieldBox::refused, this, &ItemsView::said);
+    connect(m_grid, &CellGrid::said, this, &ItemsView::said);
+    connect(m_grid, &CellGrid::currentMoved, this, &ItemsView::moved);
+    connect(m_grid->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ItemsView::moved);
+    connect(m_grid, &CellGrid::refused, this, [this] {
+        if (const QString why = m_desk.lists.whyLocked(); !why.isEmpty())
+            emit said(why);
+    });
+    connect(m_grid, &ItemGrid::laterClicked, m_model, &ItemsModel::unfoldLater);
+    connect(m_grid, &ItemGrid::sortRequested, m_model,
+            [this](int column) { m_model->sortBy(ItemsModel::Column(column)); });
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &ItemsView::placeNote);
+}
+
+const Shown &ItemsView::shown() const
+{
+    return m_model->shown();
+}
+
+bool ItemsView::takesNew() const
+{
+    const Shown::Kind kind = shown().kind;
+    return kind == Shown::List || kind == Shown::Today || kind == Shown::Coming;
+}
+
+int ItemsView::listForNew() const
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    if (shown().kind == Shown::List)
+        return shown().list;
+    for (const ToDoList &list : sheet.lists()) {
+        if (list.kind != ListKind::Template)
+            return list.id;
+    }
+    return 0;
+}
+
+void ItemsView::show(const Shown &shown)
+{
+    finishEdit();
+    m_model->show(shown);
+    m_grid->clearSelection();
+    m_grid->setCurrentIndex({});
+    m_grid->setListShown(shown.kind != Shown::List && shown.kind != Shown::Search);
+    m_grid->scrollToTop();
+    followLists();
+    setFocusProxy(takesNew() ? static_cast<QWidget *>(m_entry) : m_grid);
+    emit moved();
+}
+
+void ItemsView::followLists()
+{
+    follow(false);
+}
+
+void ItemsView::refresh()
+{
+    m_model->refresh();
+    showTitle();
+    showEmptiness();
+    showHint();
+    const bool isLocked = !m_desk.lists.whyLocked().isEmpty();
+    m_entryRow->setVisible(takesNew());
+    m_entry->setLocked(isLocked);
+}
+
+void ItemsView::showTitle()
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    const QDate today = m_desk.program.clock.today();
+    const ToDoCounts counts = ToDoCounts::of(sheet, today);
+    const ToDoList *list = sheet.list(shown().list);
+    titleLine().setTitle(ToDoWindowLines::title(shown(), list));
+    int shownRows = 0;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        shownRows += m_model->rowAt(row).kind == ToDoRow::Item ? 1 : 0;
+    m_words->setText(ToDoWindowLines::titleWords(shown(), counts, shownRows));
+}
+
+void ItemsView::showEmptiness()
+{
+    const bool isEmpty = m_model->rowCount() == 0;
+    m_rows->setVisible(!isEmpty);
+    m_empty->setVisible(isEmpty);
+    m_empty->setText(ToDoWindowLines::emptiness(shown()));
+}
+
+/// The planner has less room for a text than the lists.
+void ItemsView::showHint()
+{
+    const bool isDated = shown().kind == Shown::Today || shown().kind == Shown::Coming;
+    const QString hint = isDated && m_entry->text().size() > ToDoWindowLines::plannerRoom
+                             ? ToDoWindowLines::tooLong()
+                             : QString();
+    m_hint->setText(hint);
+    m_hint->setVisible(!hint.isEmpty());
+}
+
+/// The box of the open note stands in its row.
+void ItemsView::placeNote()
+{
+    const int id = m_model->noteOpened();
+    int place = -1;
+    for (int row = 0; id > 0 && row < m_model->rowCount(); ++row) {
+        if (m_model->rowAt(row).kind == ToDoRow::Note)
+            place = row;
+    }
+    m_note->setVisible(place >= 0);
+    if (place < 0)
+        return;
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    m_note->show(id, sheet.item(sheet.rowOf(id)).note);
+    m_note->setReadOnly(!m_desk.lists.whyLocked().isEmpty());
+    m_note->setGeometry(m_grid->visualRect(m_model->index(place, 0)).adjusted(44, 2, -8, -4));
+}
+
+void ItemsView::finishEdit()
+{
+    m_grid->finishEdit();
+    m_note->finish();
+}
+
+std::vector<int> ItemsView::chosen() const
+{
+    return m_grid->chosen();
+}
+
+void ItemsView::choose(const std::vector<int> &ids)
+{
+    m_grid->choose(ids);
+}
+
+void ItemsView::typeNew()
+{
+    m_entry->setFocus();
+    m_entry->selectAll();
+}
+
+void ItemsView::beginDay()
+{
+    followLists();
+}

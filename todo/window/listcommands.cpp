@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "todo/window/listcommands.h"
+
+#include "shell/frame/commands.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/frame/workviews.h"
+#include "shell/program/program.h"
+#include "todo/model/messages.h"
+#include "todo/window/itemsview.h"
+#include "todo/window/listspane.h"
+#include "todo/window/newlistpanel.h"
+#include "todo/window/openlists.h"
+#include "todo/window/panellines.h"
+#include "todo/window/windowlines.h"
+
+#include <QMenu>
+
+using namespace Qt::Literals::StringLiterals;
+
+ListCommands::ListCommands(const ToDoDesk &desk, ListsPane &pane, ItemsView &view, QObject *parent)
+    : QObject(parent)
+    , m_desk(desk)
+    , m_pane(pane)
+    , m_view(view)
+{
+    connect(&m_pane, &ListsPane::renamed, this, &ListCommands::rename);
+}
+
+QAction *ListCommands::add(QMenu *menu, const QString &name, const QString &caption,
+                           std::function<void()> run, const QKeySequence &key)
+{
+    return m_desk.commands.writing(m_desk.commands.add(
+        menu, name, caption, std::move(run), [this] { return whyNone(); }, key));
+}
+
+void ListCommands::addCommands(QMenu *menu)
+{
+    Commands &commands = m_desk.commands;
+    const auto unlessLocked = [this] { return m_desk.lists.whyLocked(); };
+    m_create = commands.writing(commands.add(
+        menu, u"mLNew"_s, u"&New List"_s, [this] { openPanel(false); }, unlessLocked,
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)));
+    commands.writing(commands.add(
+        menu, u"mLFrom"_s, u"New List from &Template"_s, [this] { openPanel(true); }, unlessLocked));
+    menu->addSeparator();
+    add(menu, u"mLName"_s, u"&Rename List"_s, [this] { m_pane.rename(list()->id); });
+    addOrderCommands(menu);
+    menu->addSeparator();
+    add(menu, u"mLKeep"_s, u"&Save List as a Template"_s, [this] { keepAsTemplate(); });
+    menu->addSeparator();
+    add(menu, u"mLDel"_s, u"&Delete List"_s, [this] { remove(); });
+}
+
+void ListCommands::addOrderCommands(QMenu *menu)
+{
+    add(
+        menu, u"mLUp"_s, u"Move List &Up"_s, [this] { moveBy(-1); },
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up));
+    add(
+        menu, u"mLDown"_s, u"Move List Do&wn"_s, [this] { moveBy(1); },
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down));
+}
+
+/// The list that is shown; null while something else is.
+const ToDoList *ListCommands::list() const
+{
+    const Shown &shown = m_view.shown();
+    return shown.kind == Shown::List ? m_desk.lists.sheet().list(shown.list) : nullptr;
+}
+
+QString ListCommands::whyNone() const
+{
+    const QString why = m_desk.lists.whyLocked();
+    return !why.isEmpty() || list() ? why : ToDoWindowLines::noListChosen();
+}
+
+bool ListCommands::make(const ToDoActions::Result &result)
+{
+    if (!result.isChange() || !m_desk.lists.change(result.title, result.sheet))
+        return false;
+    emit done(result.title);
+    return true;
+}
+
+void ListCommands::openPanel(bool isFromTemplate)
+{
+    m_view.finishEdit();
+    if (!m_panel) {
+        m_panel = new NewListPanel(m_desk.program, &m_desk.window);
+        m_desk.views.addPanel(m_panel);
+        connect(m_panel, &NewListPanel::accepted, this, &ListCommands::create);
+        connect(m_panel, &TaskPanel::left, &m_desk.views, &WorkViews::goHome);
+    }
+    m_desk.window.closePreview();
+    m_panel->start(m_desk.lists.sheet(), isFromTemplate);
+    m_desk.views.open(m_panel);
+    m_panel->setFocus();
+}
+
+void ListCommands::create()
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    const QString name = m_panel->name();
+    const QString why = ListActions::whyNotNamed(sheet, name);
+    const std::optional<QDate> day = m_panel->day();
+    if (!why.isEmpty() || !day) {
+        m_panel->refuse(!why.isEmpty() ? why : NewListLines::noDay());
+        return;
+    }
+    const NewListPanel::Beginning beginning = m_panel->beginning();
+    const QDate today = m_desk.program.clock.today();
+    ToDoActions::Result made;
+    switch (beginning.kind) {
+    case NewListPanel::Beginning::OwnTemplate:
+        made = ListActions::fromTemplate(sheet, beginning.place, name, *day, today);
+        break;
+    case NewListPanel::Beginning::BuiltIn:
+        made = ListActions::fromBuiltIn(sheet, beginning.place, name, *day, today);
+        break;
+    default: {
+        const bool isShopping = beginning.kind == NewListPanel::Beginning::Shopping;
+        made = ListActions::add(sheet, isShopping ? ListKind::Shopping : ListKind::Plain, name);
+    }
+    }
+    if (!make(made))
+        return;
+    m_desk.views.goHome();
+    if (!made.ids.empty())
+        emit wanted({Shown::List, made.ids.front(), {}});
+}
+
+void ListCommands::rename(int id, const QString &name)
+{
+    const QString why = ListActions::whyNotNamed(m_desk.lists.sheet(), name, id);
+    if (why.isEmpty())
+        make(ListActions::rename(m_desk.lists.sheet(), id, name));
+    else
+        emit said(why);
+}
+
+/// Among the lists as they are shown, between which templates may stand.
+void ListCommands::moveBy(int direction)
+{
+    const std::vector<ToDoList> &lists = m_desk.lists.sheet().lists();
+    const int id = list()->id;
+    int place = 0;
+    while (lists[std::size_t(place)].id != id)
+        ++place;
+    do {
+        place += direction;
+    } while (place >= 0 && place < int(lists.size()) && lists[std::size_t(place)].kind == ListKind::Template);
+    if (place >= 0 && place < int(lists.size()))
+        make(ListActions::move(m_desk.lists.sheet(), id, place));
+}
+
+void ListCommands::keepAsTemplate()
+{
+    const ToDoList kept = *list();
+    const QString name = ToDoWindowLines::templateName(m_desk.lists.sheet(), kept.name);
+    make(ListActions::saveAsTemplate(m_desk.lists.sheet(), kept.id, name, m_desk.program.clock.today()));
+}
+
+void ListCommands::remove()
+{
+    const ToDoList gone = *list();
+    const QStringList open = ListActions::openTexts(m_desk.lists.sheet(), gone.id);
+    if (m_desk.program.dialogs.ask(&m_desk.window, ToDoMessages::deleteList(gone.name, open)) != Answer::Yes)
+        return;
+    emit wanted({});
+    make(ListActions::remove(m_desk.lists.sheet(), gone.id));
+}

@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "todo/window/todowindow.h"
+
+#include "shell/controls/activitybar.h"
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/searchbox.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/core/place.h"
+#include "shell/frame/commonkeys.h"
+#include "shell/frame/sidesplitter.h"
+#include "shell/frame/undostack.h"
+#include "shell/frame/windowtoolbar.h"
+#include "shell/frame/workviews.h"
+#include "todo/model/messages.h"
+#include "todo/window/itemcommands.h"
+#include "todo/window/itemgrid.h"
+#include "todo/window/itemsview.h"
+#include "todo/window/listcommands.h"
+#include "todo/window/listspane.h"
+#include "todo/window/notebox.h"
+#include "todo/window/openlists.h"
+#include "todo/window/windowlines.h"
+
+#include <QMenu>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+WindowTraits traits()
+{
+    return {.name = u"ToDo1"_s,
+            .caption = u"Personal To Do List"_s,
+            .activity = u"To Do List"_s,
+            .colors = {SettingsKeys::toDoColor, SettingsKeys::toDoProgramColor, SettingsKeys::toDoTextColor},
+            .helpContext = HelpContext::ToDoList};
+}
+
+struct ViewFace {
+    Shown::Kind kind;
+    QString name;
+    QString caption;
+    QLatin1StringView icon;
+};
+
+const std::array<ViewFace, 4> &viewFaces()
+{
+    static const std::array<ViewFace, 4> faces{
+        {{Shown::Today, u"mVToday"_s, u"&Today"_s, "day-view"_L1},
+         {Shown::Coming, u"mVComing"_s, u"&Coming"_s, "week-view"_L1},
+         {Shown::ByPerson, u"mVPerson"_s, u"By &Person"_s, "family-name"_L1},
+         {Shown::Done, u"mVDone"_s, u"&Done"_s, "goal-reached"_L1}}};
+    return faces;
+}
+
+} // namespace
+
+ToDo1::ToDo1(Program &program, QWidget *parent)
+    : FunctionWindow(program, traits(), parent)
+    , m_lists(new OpenLists(program, this))
+    , m_pane(new ListsPane(program, *m_lists, this))
+    , m_stack(new WorkViews(this))
+    , m_view(new ItemsView(desk()))
+    , m_items(new ItemCommands(desk(), *m_view, this))
+    , m_listCommands(new ListCommands(desk(), *m_pane, *m_view, this))
+{
+    setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(),
+                             [](QSize window) { return window.width() < 1200 ? 212 : 252; }));
+    makeCommands();
+    setViews(m_stack);
+    connectParts();
+    finishFrame();
+    load();
+    show(Shown());
+}
+
+ToDoDesk ToDo1::desk()
+{
+    return {program(), *this, *m_lists, commands(), *m_stack};
+}
+
+QWidget *ToDo1::makeWorkPanel()
+{
+    QWidget *panel = makePanel(u"toDoPanel"_s);
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->addWidget(m_stack);
+    m_stack->addHome(m_view);
+    return panel;
+}
+
+/// The tools stand in the order in which their commands are made.
+void ToDo1::makeCommands()
+{
+    QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
+    QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
+    QMenu *view = addMenu(u"mV"_s, u"&View"_s);
+    QMenu *lists = addMenu(u"mL"_s, u"&Lists"_s);
+    makeViewCommands(view);
+    commands().separateTools();
+    undoStack().addCommands(edit);
+    m_items->addCommands(edit);
+    m_listCommands->addCommands(lists);
+    makeOptions(options);
+    addUtilitiesMenu();
+    addHelpEntry();
+    commands().separateTools();
+    for (const Standard tool : {Standard::PanelColor, Standard::Backup})
+        addStandardTool(tool);
+    addStandardTool(Standard::Help, u"mH_tool"_s);
+    makeButtons();
+}
+
+void ToDo1::makeViewCommands(QMenu *view)
+{
+    for (std::size_t i = 0; i < viewFaces().size(); ++i) {
+        const ViewFace &face = viewFaces()[i];
+        QAction *command = commands().add(
+            view, face.name, face.caption,
+            [this, kind = face.kind] {
+                m_pane->clearSearch();
+                show({kind, 0, {}});
+                m_view->setFocus();
+            },
+            {}, CommonKeys::views[i]);
+        command->setCheckable(true);
+        m_viewActions.emplace_back(face.kind, command);
+    }
+    view->addSeparator();
+    commands().add(
+        view, u"mVSearch"_s, u"&Search"_s, [this] { m_pane->startSearch(); }, {}, CommonKeys::search);
+}
+
+void ToDo1::makeOptions(QMenu *options)
+{
+    options->addAction(standard(Standard::PanelColor));
+    options->addAction(standard(Standard::TextColor));
+    options->addSeparator();
+    commands().writing(commands().add(
+        options, u"mOSave"_s, u"&Save"_s, [this] { saveByCommand(); },
+        [this] { return m_lists->whyLocked(); }, CommonKeys::save));
+    options->addSeparator();
+    options->addAction(standard(Standard::Exit));
+}
+
+void ToDo1::makeButtons()
+{
+    ButtonRow &foot = m_view->foot();
+    m_view->setAddButton(
+        commands().button(m_items->addCommand(), u"addItemButton"_s, u"&Add"_s, m_view, ButtonKind::Main));
+    foot.addLeft(commands().button(m_items->removeCommand(), u"removeItem"_s,
+                                   m_items->removeCommand()->text(), &foot));
+    foot.addRight(
+        commands().button(m_items->tickCommand(), u"tickItem"_s, m_items->tickCommand()->text(), &foot));
+    foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
+    QAction *create = m_listCommands->createCommand();
+    m_pane->addButton(commands().button(create, u"newListButton"_s, create->text(), m_pane));
+}
+
+void ToDo1::connectParts()
+{
+    const auto say = [this](const QString &line) { activity().say(line); };
+    const auto done = [this](const QString &line) {
+        activity().say(line);
+        undoStack().offer();
+    };
+    connect(m_pane, &ListsPane::chosen, this, [this](const Shown &shown) { show(shown); });
+    connect(m_pane, &ListsPane::entered, m_view, [this] { m_view->setFocus(); });
+    connect(m_pane, &ListsPane::dropped, this,
+            [this](int list, const std::vector<int> &ids) { m_items->moveToList(ids, list); });
+    connect(m_lists, &OpenLists::changed, this, &ToDo1::followLists);
+    connect(m_lists, &OpenLists::edited, &undoStack(), qOverload<UndoStep>(&UndoStack::push));
+    connect(m_lists, &OpenLists::fileTouched, this, [this] { watchFiles(m_lists->fileNames()); });
+    connect(m_lists, &OpenLists::said, this, say);
+    connect(m_view, &ItemsView::said, this, say);
+    connect(m_view, &ItemsView::moved, &commands(), &Commands::refresh);
+    connect(&m_view->note(), &NoteBox::said, this, say);
+    connect(m_items, &ItemCommands::said, this, say);
+    connect(m_items, &ItemCommands::done, this, done);
+    connect(m_items, &ItemCommands::listWanted, this, [this](int list) { show({Shown::List, list, {}}); });
+    connect(m_listCommands, &ListCommands::said, this, say);
+    connect(m_listCommands, &ListCommands::done, this, done);
+    connect(m_listCommands, &ListCommands::wanted, this, [this](const Shown &shown) {
+        show(shown);
+        m_view->setFocus();
+    });
+    connect(&activity(), &ActivityBar::dayBegan, this, &ToDo1::followLists);
+}
+
+void ToDo1::show(const Shown &shown)
+{
+    activity().say({});
+    if (!m_stack->isHome())
+        m_stack->goHome();
+    closePreview();
+    m_view->show(shown);
+    m_pane->show(shown);
+    for (const auto &[kind, action] : m_viewActions)
+        action->setChecked(kind == shown.kind);
+    commands().refresh();
+}
+
+void ToDo1::followLists()
+{
+    m_pane->refresh();
+    const Shown shown = m_view->shown();
+    if (shown.kind == Shown::List && !m_lists->sheet().list(shown.list))
+        show(Shown());
+    else
+        m_view->followLists();
+    commands().refresh();
+}
+
+void ToDo1::load()
+{
+    if (const int taken = m_lists->load(); taken > 0) {
+        activity().say(ToDoWindowLines::takenIn(taken));
+        undoStack().offer();
+    } else if (const QString why = m_lists->whyLocked(); !why.isEmpty()) {
+        activity().say(why);
+    }
+}
+
+bool ToDo1::isModified() const
+{
+    m_view->finishEdit();
+    return !m_lists->isSaved() && !m_lists->save();
+}
+
+bool ToDo1::save()
+{
+    return m_lists->save();
+}
+
+void ToDo1::drop()
+{
+    load();
+}
+
+/// The disk has refused; Yes leaves all the same.
+Answer ToDo1::askToLeave()
+{
+    return ask(ToDoMessages::leaveUnsaved()) == Answer::Yes ? Answer::No : Answer::Cancel;
+}
+
+void ToDo1::saveByCommand()
+{
+    m_view->finishEdit();
+    if (m_lists->save())
+        activity().say(ToDoWindowLines::saved());
+}
+
+void ToDo1::filesChanged()
+{
+    m_view->finishEdit();
+    closePreview();
+    if (!m_lists->isSaved()) {
+        activity().say(ToDoWindowLines::changedElsewhereToo());
+        return;
+    }
+    load();
+    activity().say(ToDoWindowLines::changedElsewhere());
+}
+
+void ToDo1::showPlace(const Place &place)
+{
+    const ToDoSheet &sheet = m_lists->sheet();
+    const int row = sheet.rowOf(place.record);
+    if (row < 0)
+        return;
+    m_pane->clearSearch();
+    show(sheet.isDone(row) ? Shown{Shown::Done, 0, {}} : Shown{Shown::List, sheet.listOf(row), {}});
+    m_view->choose({place.record});
+    m_view->grid().setFocus();
+}
