@@ -4,6 +4,7 @@
 #include "todo/model/todoactions.h"
 #include "todo/window/tododesk.h"
 
+#include <QKeySequence>
 #include <QObject>
 
 class ItemsView;

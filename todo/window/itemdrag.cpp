@@ -2,6 +2,7 @@
 #include "todo/window/itemdrag.h"
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QList>
 #include <QMimeData>
 

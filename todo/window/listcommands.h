@@ -5,6 +5,7 @@
 #include "todo/model/shown.h"
 #include "todo/window/tododesk.h"
 
+#include <QKeySequence>
 #include <QObject>
 
 class ItemsView;

@@ -15,6 +15,7 @@
 
 #include <QDragMoveEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 #include <array>

@@ -72,7 +72,7 @@ ToDo1::ToDo1(Program &program, QWidget *parent)
     connectParts();
     finishFrame();
     load();
-    show(Shown());
+    bring(Shown());
 }
 
 ToDoDesk ToDo1::desk()
@@ -120,7 +120,7 @@ void ToDo1::makeViewCommands(QMenu *view)
             view, face.name, face.caption,
             [this, kind = face.kind] {
                 m_pane->clearSearch();
-                show({kind, 0, {}});
+                bring({kind, 0, {}});
                 m_view->setFocus();
             },
             {}, CommonKeys::views[i]);
@@ -165,7 +165,7 @@ void ToDo1::connectParts()
         activity().say(line);
         undoStack().offer();
     };
-    connect(m_pane, &ListsPane::chosen, this, [this](const Shown &shown) { show(shown); });
+    connect(m_pane, &ListsPane::chosen, this, [this](const Shown &shown) { bring(shown); });
     connect(m_pane, &ListsPane::entered, m_view, [this] { m_view->setFocus(); });
     connect(m_pane, &ListsPane::dropped, this,
             [this](int list, const std::vector<int> &ids) { m_items->moveToList(ids, list); });
@@ -178,17 +178,17 @@ void ToDo1::connectParts()
     connect(&m_view->note(), &NoteBox::said, this, say);
     connect(m_items, &ItemCommands::said, this, say);
     connect(m_items, &ItemCommands::done, this, done);
-    connect(m_items, &ItemCommands::listWanted, this, [this](int list) { show({Shown::List, list, {}}); });
+    connect(m_items, &ItemCommands::listWanted, this, [this](int list) { bring({Shown::List, list, {}}); });
     connect(m_listCommands, &ListCommands::said, this, say);
     connect(m_listCommands, &ListCommands::done, this, done);
     connect(m_listCommands, &ListCommands::wanted, this, [this](const Shown &shown) {
-        show(shown);
+        bring(shown);
         m_view->setFocus();
     });
     connect(&activity(), &ActivityBar::dayBegan, this, &ToDo1::followLists);
 }
 
-void ToDo1::show(const Shown &shown)
+void ToDo1::bring(const Shown &shown)
 {
     activity().say({});
     if (!m_stack->isHome())
@@ -206,7 +206,7 @@ void ToDo1::followLists()
     m_pane->refresh();
     const Shown shown = m_view->shown();
     if (shown.kind == Shown::List && !m_lists->sheet().list(shown.list))
-        show(Shown());
+        bring(Shown());
     else
         m_view->followLists();
     commands().refresh();
@@ -270,7 +270,7 @@ void ToDo1::showPlace(const Place &place)
     if (row < 0)
         return;
     m_pane->clearSearch();
-    show(sheet.isDone(row) ? Shown{Shown::Done, 0, {}} : Shown{Shown::List, sheet.listOf(row), {}});
+    bring(sheet.isDone(row) ? Shown{Shown::Done, 0, {}} : Shown{Shown::List, sheet.listOf(row), {}});
     m_view->choose({place.record});
     m_view->grid().setFocus();
 }

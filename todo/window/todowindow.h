@@ -40,12 +40,10 @@ private:
     void makeOptions(QMenu *options);
     void makeButtons();
     void connectParts();
-    void show(const Shown &shown);
+    void bring(const Shown &shown);
     void followLists();
     void load();
     void saveByCommand();
-
-    using QMainWindow::show;
 
     OpenLists *m_lists;
     ListsPane *m_pane;

@@ -9,6 +9,8 @@
 
 #include <QLocale>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QString things(int count)
