@@ -5,6 +5,7 @@
 #include "shell/frame/commonkeys.h"
 #include "shell/program/program.h"
 #include "todo/model/repeat.h"
+#include "todo/model/repeatwords.h"
 #include "todo/model/typeddate.h"
 #include "todo/window/entryline.h"
 #include "todo/window/itemgrid.h"
@@ -232,7 +233,7 @@ void ItemCommands::takeRepeat(int id, const QString &text)
 {
     const ToDoSheet &sheet = m_desk.lists.sheet();
     const QDate due = sheet.dueOf(sheet.rowOf(id));
-    const auto rule = Repeat::typed(text, due.isValid() ? due : m_desk.program.clock.today());
+    const auto rule = RepeatWords::read(text, due.isValid() ? due : m_desk.program.clock.today());
     if (!rule && !text.trimmed().isEmpty())
         emit said(ToDoWindowLines::notARepeat());
     else

@@ -5,6 +5,7 @@
 #include "todo/model/comingback.h"
 #include "todo/model/listactions.h"
 #include "todo/model/repeat.h"
+#include "todo/model/repeatwords.h"
 #include "todo/window/itemsmodel.h"
 
 #include <QLocale>
@@ -178,7 +179,7 @@ QString ToDoWindowLines::repeat(const ToDoItem &item, QDate today, const DateSty
     const auto rule = ::Repeat::ofFile(item.repeat);
     if (!rule)
         return item.repeat;
-    const QString words = rule->words(style);
+    const QString words = RepeatWords::of(*rule, style);
     if (!isShown || item.actual.isValid())
         return words;
     const QDate next = rule->next(item.due, today, today);

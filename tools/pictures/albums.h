@@ -20,6 +20,7 @@ void carHistories(const Camera &camera);
 void weight(const Camera &camera);
 void weightPages(const Camera &camera);
 void weightGraph(const Camera &camera);
+void toDo(const Camera &camera);
 void charts(const Camera &camera);
 
 } // namespace Albums

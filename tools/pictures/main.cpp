@@ -39,6 +39,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"weight", Albums::weight},
                             Album{"weight-pages", Albums::weightPages},
                             Album{"weight-graph", Albums::weightGraph},
+                            Album{"todo", Albums::toDo},
                             Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;

@@ -1,0 +1,345 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/core/place.h"
+#include "tests/support/openwindow.h"
+#include "tests/support/rows.h"
+#include "todo/model/messages.h"
+#include "todo/window/itemgrid.h"
+#include "todo/window/itemsmodel.h"
+#include "todo/window/listspane.h"
+#include "todo/window/panerows.h"
+#include "todo/window/todowindow.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QListView>
+#include <QPlainTextEdit>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The To Do list on 21 November 2026, a Saturday.
+class TestToDoWindow : public OpenWindow<ToDo1>
+{
+    Q_OBJECT
+private slots:
+    void cleanup() { close(); }
+
+    void takesInWhatTheHouseholdHas()
+    {
+        open(TestProgram::Household);
+        QCOMPARE(labelText("toDoTitle"), u"Today"_s);
+        QCOMPARE(names("toDoLists"), QStringList{u"To Do"_s});
+        QVERIFY(find<QLineEdit>("newItem")->hasFocus());
+        chooseList(0);
+        QCOMPARE(texts().mid(0, 3),
+                 (QStringList{u"Renew passports"_s, u"Paint the fence"_s, u"Book the ferry"_s}));
+        QVERIFY(!m_test->folder.exists(u"ToDo1.Fil"_s)); // looking alone writes nothing
+    }
+
+    /// "Water the ferns", "fri", "every 3 days": by keys alone.
+    void isWorkedByKeysOnly()
+    {
+        open();
+        chooseList(0);
+        enter(u"Water the ferns"_s);
+        enter(u"Call the sweep"_s);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Down);
+        QVERIFY(grid()->hasFocus());
+        QCOMPARE(current(), u"Call the sweep"_s);
+        key(Qt::Key_Up, Qt::AltModifier);
+        QCOMPARE(texts(), (QStringList{u"Call the sweep"_s, u"Water the ferns"_s}));
+        key(Qt::Key_Down);
+        QCOMPARE(current(), u"Water the ferns"_s);
+        key(Qt::Key_Right);
+        typeCell(u"fri"_s);
+        QCOMPARE(cell(1, ItemsModel::Due), u"Fri, Nov 27"_s);
+        key(Qt::Key_Right);
+        key(Qt::Key_Right);
+        typeCell(u"Anne > Nils"_s);
+        key(Qt::Key_Right);
+        typeCell(u"every 3 days"_s);
+        QCOMPARE(cell(1, ItemsModel::Repeat), u"every 3 days, then Nov 30"_s);
+        key(Qt::Key_Space);
+        QCOMPARE(cell(1, ItemsModel::Actual), u"Today"_s);
+        QCOMPARE(texts(), (QStringList{u"Call the sweep"_s, u"Water the ferns"_s}));
+        QVERIFY(texts(ToDoRow::Later).contains(u"1 later"_s));
+        trigger("mEUndo");
+        QCOMPARE(cell(1, ItemsModel::Actual), QString());
+        trigger("mVDone");
+        QCOMPARE(texts(), QStringList());
+    }
+
+    void savesByItselfAndOnLeaving()
+    {
+        open();
+        chooseList(0);
+        enter(u"Sweep the yard"_s);
+        QTRY_VERIFY(file().contains("\tSweep the yard\t"));
+        enter(u"Mow the lawn"_s);
+        QVERIFY(!file().contains("Mow"));
+        m_window->close();
+        QVERIFY(file().contains("\tMow the lawn\t"));
+        QCOMPARE(m_test->bytes(u"TODOActv.FIL"_s), "\"Sweep the yard\"\r\n\"\"\r\n\"To Do\"\r\n"
+                                                   "\"Mow the lawn\"\r\n\"\"\r\n\"To Do\"\r\n"_ba);
+    }
+
+    void asksOnlyWhenASaveFailed()
+    {
+        open();
+        chooseList(0);
+        QVERIFY(QDir(m_test->folder.path()).mkpath(u"ToDo1.Fil"_s));
+        enter(u"Sweep the yard"_s);
+        m_test->dialogs.willAnswer(Answer::No);
+        QVERIFY(!m_window->close());
+        QCOMPARE(asked(), {ToDoMessages::leaveUnsaved()});
+        m_test->dialogs.willAnswer(Answer::Yes);
+        QVERIFY(m_window->close());
+        QCOMPARE(asked(), {ToDoMessages::leaveUnsaved()});
+    }
+
+    void makesAnItemOfEachPastedLine()
+    {
+        open();
+        chooseList(0);
+        QGuiApplication::clipboard()->setText(u"milk\r\n\n  eggs \nbread"_s);
+        QTest::keySequence(find<QLineEdit>("newItem"), QKeySequence::Paste);
+        QCOMPARE(texts(), (QStringList{u"milk"_s, u"eggs"_s, u"bread"_s}));
+        trigger("mEUndo");
+        QCOMPARE(texts(), QStringList());
+    }
+
+    void actsOnAllChosenRows_data()
+    {
+        rows<QByteArray, int, QStringList>({
+            {"today", "mEToday", ItemsModel::Due, {{}, u"Today"_s, u"Today"_s}},
+            {"tomorrow", "mETomorrow", ItemsModel::Due, {{}, u"Tomorrow"_s, u"Tomorrow"_s}},
+            {"done", "mETick", ItemsModel::Actual, {{}, u"Today"_s, u"Today"_s}},
+            {"moved up", "mEUp", ItemsModel::Text, {u"b"_s, u"c"_s, u"a"_s}},
+            {"removed", "mEDel", ItemsModel::Text, {u"a"_s}},
+        });
+    }
+
+    void actsOnAllChosenRows()
+    {
+        const auto [command, column, expected] = row<QByteArray, int, QStringList>();
+        open();
+        chooseList(0);
+        for (const auto &text : {u"a"_s, u"b"_s, u"c"_s})
+            enter(text);
+        grid()->setFocus();
+        chooseRows(1, 2);
+        trigger(command.constData());
+        QCOMPARE(texts(ToDoRow::Item, column), expected);
+        trigger("mEUndo");
+        QCOMPARE(texts(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+    }
+
+    void makesStepsWithTabAndLeavesTheGridWithIt()
+    {
+        open();
+        chooseList(0);
+        enter(u"Paint the fence"_s);
+        enter(u"Buy paint"_s);
+        grid()->setFocus(Qt::MouseFocusReason);
+        chooseRows(1, 1);
+        key(Qt::Key_Tab);
+        QVERIFY(index(1, ItemsModel::Text).data(ItemsModel::stepRole).toBool());
+        QVERIFY(grid()->hasFocus());
+        key(Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(!index(1, ItemsModel::Text).data(ItemsModel::stepRole).toBool());
+        grid()->setFocus(Qt::TabFocusReason);
+        for (int i = 0; i < 8 && grid()->hasFocus(); ++i)
+            key(Qt::Key_Tab);
+        QVERIFY(!grid()->hasFocus());
+        QVERIFY(!index(1, ItemsModel::Text).data(ItemsModel::stepRole).toBool());
+    }
+
+    void refusesQuietlyWhatIsNoDate()
+    {
+        open();
+        chooseList(0);
+        enter(u"Sweep the yard"_s);
+        grid()->setFocus();
+        grid()->setCurrentIndex(index(0, ItemsModel::Due));
+        typeCell(u"5"_s);
+        QCOMPARE(cell(0, ItemsModel::Due), QString());
+        QVERIFY(!said().isEmpty());
+        typeCell(u"07/01/2062"_s);
+        QCOMPARE(cell(0, ItemsModel::Due), u"Jul 1, 2062"_s);
+        QVERIFY(find<QLabel>("quietQuestion")->isVisible());
+    }
+
+    void sortsByADateUntilTheThirdClick()
+    {
+        open();
+        m_test->clock.time = QDateTime(QDate(2026, 11, 21), QTime(9, 0));
+        chooseList(0);
+        const QList<std::pair<QString, QString>> items{
+            {u"late"_s, u"+9"_s}, {u"never"_s, {}}, {u"soon"_s, u"+1"_s}};
+        for (const auto &[text, date] : items) {
+            enter(text);
+            grid()->setCurrentIndex(index(grid()->model()->rowCount() - 1, ItemsModel::Due));
+            grid()->setFocus();
+            if (!date.isEmpty())
+                typeCell(date);
+        }
+        const QList<QStringList> expected{{u"soon"_s, u"late"_s, u"never"_s},
+                                          {u"late"_s, u"soon"_s, u"never"_s},
+                                          {u"late"_s, u"never"_s, u"soon"_s}};
+        for (const QStringList &order : expected) {
+            emit grid()->sortRequested(ItemsModel::Due);
+            QCOMPARE(texts(), order);
+        }
+    }
+
+    void findsDoneThingsAndNotesAsOneTypes()
+    {
+        open();
+        chooseList(0);
+        enter(u"Change the filters"_s);
+        enter(u"Call Nils"_s);
+        grid()->setFocus();
+        chooseRows(1, 1);
+        trigger("mENote");
+        auto *note = find<QPlainTextEdit>("noteBox");
+        QVERIFY(note->isVisible() && note->hasFocus());
+        note->setPlainText(u"about the filters"_s);
+        QTest::keyClick(note, Qt::Key_Escape);
+        chooseRows(0, 0);
+        trigger("mETick");
+        trigger("mVSearch");
+        typeInto(find<QLineEdit>("toDoSearch"), u"FILT"_s);
+        QCOMPARE(texts(), (QStringList{u"Call Nils"_s, u"Change the filters"_s}));
+        QTest::keyClick(find<QLineEdit>("toDoSearch"), Qt::Key_Escape);
+        QCOMPARE(labelText("toDoTitle"), u"To Do"_s);
+    }
+
+    void makesAListFromATemplate()
+    {
+        open();
+        trigger("mLFrom");
+        QCOMPARE(find<QLineEdit>("newListName")->text(), u"Before a trip"_s);
+        find<QLineEdit>("newListDate")->setText(u"07/12/2027"_s);
+        click("newListMake");
+        QCOMPARE(labelText("toDoTitle"), u"Before a trip"_s);
+        QCOMPARE(names("toDoLists").size(), 2);
+        QVERIFY(texts(ToDoRow::Item, ItemsModel::Due).join(u' ').contains(u"2027"_s));
+        trigger("mEUndo");
+        QCOMPARE(names("toDoLists").size(), 1);
+    }
+
+    void asksBeforeAListIsDeletedAndBringsItBack()
+    {
+        open();
+        chooseList(0);
+        enter(u"Sweep the yard"_s);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        trigger("mLDel");
+        QCOMPARE(asked(), {ToDoMessages::deleteList(u"To Do"_s, {u"Sweep the yard"_s})});
+        QCOMPARE(names("toDoLists"), QStringList());
+        trigger("mEUndo");
+        chooseList(0);
+        QCOMPARE(texts(), QStringList{u"Sweep the yard"_s});
+    }
+
+    void showsWhereAnItemStands()
+    {
+        open();
+        chooseList(0);
+        enter(u"a"_s);
+        enter(u"b"_s);
+        const int id = index(1, ItemsModel::Text).data(ItemsModel::idRole).toInt();
+        trigger("mVDone");
+        m_window->showPlace({.record = id});
+        QCOMPARE(labelText("toDoTitle"), u"To Do"_s);
+        QCOMPARE(current(), u"b"_s);
+    }
+
+    void readsARowAloud()
+    {
+        open();
+        chooseList(0);
+        enter(u"Renew passports"_s);
+        grid()->setFocus();
+        grid()->setCurrentIndex(index(0, ItemsModel::Due));
+        typeCell(u"11/15/2026"_s);
+        grid()->setCurrentIndex(index(0, ItemsModel::Who));
+        typeCell(u"Anne"_s);
+        QCOMPARE(index(0, ItemsModel::Text).data(Qt::AccessibleTextRole).toString(),
+                 u"Renew passports, due Nov 15, overdue, Anne, not done"_s);
+        QCOMPARE(cell(0, ItemsModel::Due), u"Nov 15, overdue"_s);
+    }
+
+private:
+    void open(TestProgram::Content content = TestProgram::Empty)
+    {
+        m_test = std::make_unique<TestProgram>(content);
+        m_window = new ToDo1(m_test->program);
+        showActive(*m_window);
+    }
+    ItemGrid *grid() const { return find<ItemGrid>("toDoGrid"); }
+    QModelIndex index(int row, int column) const { return grid()->model()->index(row, column); }
+    QString cell(int row, int column) const { return index(row, column).data().toString(); }
+    QString current() const
+    {
+        return grid()->currentIndex().siblingAtColumn(ItemsModel::Text).data().toString();
+    }
+    QByteArray file() const { return m_test->bytes(u"ToDo1.Fil"_s); }
+
+    QStringList texts(ToDoRow::Kind kind = ToDoRow::Item, int column = -1) const
+    {
+        QStringList texts;
+        for (int row = 0; row < grid()->model()->rowCount(); ++row) {
+            if (index(row, 0).data(ItemsModel::rowKindRole).toInt() != kind)
+                continue;
+            const int shown = column >= 0 ? column : kind == ToDoRow::Item ? int(ItemsModel::Text) : 0;
+            texts << index(row, shown).data().toString();
+        }
+        return texts;
+    }
+    QStringList names(const char *list) const
+    {
+        QStringList names;
+        const QAbstractItemModel &model = *find<QListView>(list)->model();
+        for (int row = 0; row < model.rowCount(); ++row)
+            names << model.index(row, 0).data().toString();
+        return names;
+    }
+    void chooseList(int row) const
+    {
+        auto *lists = find<QListView>("toDoLists");
+        QTest::mouseClick(lists->viewport(), Qt::LeftButton, {},
+                          lists->visualRect(lists->model()->index(row, 0)).center());
+    }
+    void chooseRows(int first, int last) const
+    {
+        grid()->setCurrentIndex(index(first, ItemsModel::Text));
+        grid()->selectionModel()->select({index(first, 0), index(last, ItemsModel::columns - 1)},
+                                         QItemSelectionModel::ClearAndSelect);
+    }
+    void enter(const QString &text) const
+    {
+        auto *box = find<QLineEdit>("newItem");
+        box->setFocus();
+        typeInto(box, text);
+        QTest::keyClick(box, Qt::Key_Return);
+        QVERIFY(box->hasFocus());
+    }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(m_window->focusWidget(), key, modifiers);
+    }
+    /// Types into the current cell; the row stays the current one.
+    void typeCell(const QString &text) const
+    {
+        const QPersistentModelIndex typed = grid()->currentIndex();
+        key(Qt::Key_F2);
+        QWidget *box = m_window->focusWidget();
+        qobject_cast<QLineEdit *>(box)->selectAll();
+        typeInto(box, text);
+        QTest::keyClick(box, Qt::Key_Return);
+        grid()->setCurrentIndex(typed);
+    }
+};
+
+QTEST_MAIN(TestToDoWindow)
+#include "tst_todowindow.moc"
