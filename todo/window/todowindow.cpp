@@ -73,6 +73,7 @@ ToDo1::ToDo1(Program &program, QWidget *parent)
     finishFrame();
     load();
     bring(Shown());
+    m_view->setFocus();
 }
 
 ToDoDesk ToDo1::desk()

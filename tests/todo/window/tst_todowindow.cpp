@@ -146,6 +146,7 @@ private slots:
         QVERIFY(grid()->hasFocus());
         key(Qt::Key_Backtab, Qt::ShiftModifier);
         QVERIFY(!index(1, ItemsModel::Text).data(ItemsModel::stepRole).toBool());
+        find<QLineEdit>("newItem")->setFocus();
         grid()->setFocus(Qt::TabFocusReason);
         for (int i = 0; i < 8 && grid()->hasFocus(); ++i)
             key(Qt::Key_Tab);
