@@ -40,7 +40,7 @@ void ItemCells::paintTick(QPainter &painter, const QStyleOptionViewItem &option,
     const int side = style->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, grid());
     QStyleOptionButton box;
     box.rect = QRect(0, 0, side, side);
-    box.rect.moveCenter(option.rect.center() + QPoint(0, 1));
+    box.rect.moveCenter(option.rect.center());
     box.palette = option.palette;
     box.state = QStyle::State_Enabled |
                 (index.data(ItemsModel::doneRole).toBool() ? QStyle::State_On : QStyle::State_Off);

@@ -38,6 +38,7 @@ void ItemCommands::connectView()
     connect(&m_view.model(), &ItemsModel::dropped, this, [this](const std::vector<int> &ids, int before) {
         make(ToDoActions::move(m_desk.lists.sheet(), ids, m_view.shown().list, before));
     });
+    connect(&m_view, &ItemsView::moved, this, &ItemCommands::captionTick);
     connect(&m_view.note(), &NoteBox::typed, this, [this](int id, const QString &note) {
         const ToDoActions::Result result = ToDoActions::setNote(m_desk.lists.sheet(), id, note);
         if (result.isChange() && m_desk.lists.change(result.title, result.sheet))
@@ -87,7 +88,7 @@ void ItemCommands::addRowCommands(QMenu *edit)
         },
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H)));
     m_tick = add(
-        edit, u"mETick"_s, u"&Done, or Not Done"_s, [this] { tick(); }, QKeySequence(Qt::CTRL | Qt::Key_D));
+        edit, u"mETick"_s, u"&Done"_s, [this] { tick(); }, QKeySequence(Qt::CTRL | Qt::Key_D));
     add(
         edit, u"mENote"_s, u"N&ote"_s, [this] { openNote(); }, QKeySequence(Qt::CTRL | Qt::Key_E));
     m_remove = add(edit, u"mEDel"_s, u"&Remove"_s, [this] { remove(); });
@@ -260,6 +261,20 @@ void ItemCommands::tick()
     const ToDoActions::Result result =
         open.empty() ? ToDoActions::untick(sheet, done) : ToDoActions::tick(sheet, open, today, today);
     make(result);
+}
+
+/// The command says which of the two it would do.
+void ItemCommands::captionTick()
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    const std::vector<int> ids = m_view.chosen();
+    const bool isDone = !ids.empty() && std::ranges::all_of(ids, [&sheet](int id) {
+        const int row = sheet.rowOf(id);
+        return row >= 0 && sheet.isDone(row);
+    });
+    const QString caption = isDone ? u"Not &Done"_s : u"&Done"_s;
+    if (m_tick && m_tick->text() != caption)
+        m_desk.commands.setCaption(m_tick, caption);
 }
 
 void ItemCommands::setDue(QDate due)

@@ -50,6 +50,7 @@ private:
     void takeDate(int id, int column, const QString &text);
     void takeRepeat(int id, const QString &text);
     void tick();
+    void captionTick();
     void setDue(QDate due);
     void moveOverdue();
     void remove();

@@ -29,10 +29,11 @@ struct Width {
     int least;
     int usual;
 };
-constexpr std::array widths{Width{ItemsModel::Due, 128, 168}, Width{ItemsModel::Actual, 96, 116},
-                            Width{ItemsModel::Who, 76, 120}, Width{ItemsModel::Repeat, 120, 220},
-                            Width{ItemsModel::List, 84, 130}};
+constexpr std::array widths{Width{ItemsModel::Due, 132, 160}, Width{ItemsModel::Actual, 98, 112},
+                            Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 110, 260},
+                            Width{ItemsModel::List, 80, 130}};
 constexpr int leastText = 200;
+constexpr int usualText = 260; ///< from here on the others grow
 
 } // namespace
 
@@ -52,6 +53,8 @@ ItemGrid::ItemGrid(ItemsModel &model, QWidget *parent)
     setDragDropMode(DragDrop);
     setDragDropOverwriteMode(false);
     setDefaultDropAction(Qt::MoveAction);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setHorizontalScrollMode(ScrollPerPixel);
     makeHeading();
     m_question->setObjectName(u"quietQuestion"_s);
     m_question->setAutoFillBackground(true);
@@ -126,7 +129,7 @@ void ItemGrid::shareWidth()
     }
     const int room = viewport()->width();
     const double share =
-        std::clamp(double(room - TypeScale::wide(2 * leastText) - least) / (usual - least), 0., 1.);
+        std::clamp(double(room - TypeScale::wide(usualText) - least) / (usual - least), 0., 1.);
     int taken = tickWidth;
     for (const Width &width : widths) {
         const int wide = TypeScale::wide(width.least + int((width.usual - width.least) * share));
@@ -134,8 +137,7 @@ void ItemGrid::shareWidth()
         taken += isColumnHidden(width.column) ? 0 : wide;
     }
     horizontalHeader()->resizeSection(ItemsModel::Tick, tickWidth);
-    horizontalHeader()->resizeSection(ItemsModel::Text,
-                                      std::max(TypeScale::wide(leastText) / 2, room - taken));
+    horizontalHeader()->resizeSection(ItemsModel::Text, std::max(TypeScale::wide(leastText), room - taken));
 }
 
 std::vector<int> ItemGrid::chosen() const

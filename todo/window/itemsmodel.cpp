@@ -227,7 +227,17 @@ QVariant ItemsModel::data(const QModelIndex &index, int role) const
         return itemData(index.row(), row.kind == ToDoRow::Item ? index.column() : int(Text), role);
     if (row.kind == ToDoRow::Note || index.column() != Tick)
         return {};
-    return role == Qt::DisplayRole || role == Qt::AccessibleTextRole ? QVariant(row.words) : QVariant();
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return row.words;
+    case GridCell::quietRole:
+        return row.kind == ToDoRow::Later;
+    case GridCell::signRole:
+        return row.kind != ToDoRow::Later ? QString() : m_isLaterShown ? u"up"_s : u"down"_s;
+    default:
+        return {};
+    }
 }
 
 QVariant ItemsModel::headerData(int section, Qt::Orientation orientation, int role) const

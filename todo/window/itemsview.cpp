@@ -187,7 +187,9 @@ void ItemsView::placeNote()
     const ToDoSheet &sheet = m_desk.lists.sheet();
     m_note->show(id, sheet.item(sheet.rowOf(id)).note);
     m_note->setReadOnly(!m_desk.lists.whyLocked().isEmpty());
-    m_note->setGeometry(m_grid->visualRect(m_model->index(place, 0)).adjusted(44, 2, -8, -4));
+    QRect row = m_grid->visualRect(m_model->index(place, 0));
+    row.setRight(m_grid->viewport()->width());
+    m_note->setGeometry(row.adjusted(44, 2, -8, -4));
 }
 
 void ItemsView::finishEdit()

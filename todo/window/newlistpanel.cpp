@@ -94,7 +94,7 @@ void NewListPanel::start(const ToDoSheet &sheet, bool isFromTemplate)
         m_beginnings->addItem(NewListLines::caption(beginning));
     m_beginnings->setCurrentIndex(isFromTemplate && first < m_all.size() ? int(first) : 0);
     followBeginning();
-    m_day->setDate(m_program.clock.today());
+    m_day->setDate({});
     setWords({});
     setFocusProxy(isFromTemplate ? static_cast<QWidget *>(m_beginnings) : m_name);
 }
@@ -127,4 +127,8 @@ std::optional<QDate> NewListPanel::day() const
 void NewListPanel::refuse(const QString &why)
 {
     setWords(why);
+    if (beginning().hasDays && !m_day->date())
+        m_day->setFocus();
+    else
+        m_name->setFocus();
 }

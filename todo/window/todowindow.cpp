@@ -71,8 +71,8 @@ ToDo1::ToDo1(Program &program, QWidget *parent)
     setViews(m_stack);
     connectParts();
     finishFrame();
-    load();
     bring(Shown());
+    load();
     m_view->setFocus();
 }
 
@@ -99,7 +99,6 @@ void ToDo1::makeCommands()
     QMenu *view = addMenu(u"mV"_s, u"&View"_s);
     QMenu *lists = addMenu(u"mL"_s, u"&Lists"_s);
     makeViewCommands(view);
-    commands().separateTools();
     undoStack().addCommands(edit);
     m_items->addCommands(edit);
     m_listCommands->addCommands(lists);
@@ -210,7 +209,7 @@ void ToDo1::followLists()
         bring(Shown());
     else
         m_view->followLists();
-    commands().refresh();
+    emit m_view->moved();
 }
 
 void ToDo1::load()
