@@ -84,7 +84,10 @@ private slots:
              u"deletePersonKey loadPicture1 loadPicture2 mEAdd mEBack mEDel mERedo mESort mEUndo mOC mODel "
              "mONew mOSave mOSaveNew mOTold mUBringIn mUR"_s,
              u"Command10 addRow createNew deleteRow emptyCreate emptyRestore"_s},
-            {"to do list", open<Function::ToDoList>, u"addItem"_s, u"addItemButton"_s},
+            {"to do list", open<Function::ToDoList>,
+             u"addItem mEDel mEDown mEHead mEItem mENew mENoDate mEOverdue mERedo mEStep mETick mEToday "
+             "mEToday_tool mETomorrow mEUndo mEUp mLDel mLDown mLFrom mLKeep mLName mLNew mLUp mOC mOSave mOTC mUR"_s,
+             u"addItemButton newListButton removeItem tickItem"_s},
             {"password control", open<Function::PasswordControl>, u"mOC mOSave"_s,
              u"Check1_0 Check1_1 Check1_11 Check1_13 Check1_14 Check1_15 Check1_16 Check1_2 Check1_9 "
              u"Command1 "

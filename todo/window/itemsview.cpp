@@ -198,6 +198,15 @@ void ItemsView::finishEdit()
     m_note->finish();
 }
 
+bool ItemsView::make(const ToDoActions::Result &result)
+{
+    if (!result.isChange() || !m_desk.lists.change(result.title, result.sheet))
+        return false;
+    choose(result.ids);
+    emit done(result.title);
+    return true;
+}
+
 std::vector<int> ItemsView::chosen() const
 {
     return m_grid->chosen();

@@ -3,6 +3,7 @@
 
 #include "shell/controls/titledview.h"
 #include "todo/model/shown.h"
+#include "todo/model/todoactions.h"
 #include "todo/window/tododesk.h"
 
 #include <vector>
@@ -47,8 +48,13 @@ public:
     /// It is another day than before.
     void beginDay();
 
+    /// Makes the lists what `result` says, and chooses what it made. False where nothing has changed.
+    bool make(const ToDoActions::Result &result);
+
 signals:
     void said(const QString &line);
+    /// The same of something that can be taken back.
+    void done(const QString &line);
     /// Other rows are chosen, or another view is shown.
     void moved();
 

@@ -19,6 +19,7 @@
 #include "todo/window/listspane.h"
 #include "todo/window/notebox.h"
 #include "todo/window/openlists.h"
+#include "todo/window/ordercommands.h"
 #include "todo/window/windowlines.h"
 
 #include <QMenu>
@@ -63,6 +64,7 @@ ToDo1::ToDo1(Program &program, QWidget *parent)
     , m_stack(new WorkViews(this))
     , m_view(new ItemsView(desk()))
     , m_items(new ItemCommands(desk(), *m_view, this))
+    , m_order(new OrderCommands(desk(), *m_view, this))
     , m_listCommands(new ListCommands(desk(), *m_pane, *m_view, this))
 {
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(),
@@ -101,6 +103,7 @@ void ToDo1::makeCommands()
     makeViewCommands(view);
     undoStack().addCommands(edit);
     m_items->addCommands(edit);
+    m_order->addCommands(edit);
     m_listCommands->addCommands(lists);
     makeOptions(options);
     addUtilitiesMenu();
@@ -168,7 +171,7 @@ void ToDo1::connectParts()
     connect(m_pane, &ListsPane::chosen, this, [this](const Shown &shown) { bring(shown); });
     connect(m_pane, &ListsPane::entered, m_view, [this] { m_view->setFocus(); });
     connect(m_pane, &ListsPane::dropped, this,
-            [this](int list, const std::vector<int> &ids) { m_items->moveToList(ids, list); });
+            [this](int list, const std::vector<int> &ids) { m_order->moveToList(ids, list); });
     connect(m_lists, &OpenLists::changed, this, &ToDo1::followLists);
     connect(m_lists, &OpenLists::edited, &undoStack(), qOverload<UndoStep>(&UndoStack::push));
     connect(m_lists, &OpenLists::fileTouched, this, [this] { watchFiles(m_lists->fileNames()); });
@@ -176,9 +179,8 @@ void ToDo1::connectParts()
     connect(m_view, &ItemsView::said, this, say);
     connect(m_view, &ItemsView::moved, &commands(), &Commands::refresh);
     connect(&m_view->note(), &NoteBox::said, this, say);
-    connect(m_items, &ItemCommands::said, this, say);
-    connect(m_items, &ItemCommands::done, this, done);
-    connect(m_items, &ItemCommands::listWanted, this, [this](int list) { bring({Shown::List, list, {}}); });
+    connect(m_view, &ItemsView::done, this, done);
+    connect(m_order, &OrderCommands::listWanted, this, [this](int list) { bring({Shown::List, list, {}}); });
     connect(m_listCommands, &ListCommands::said, this, say);
     connect(m_listCommands, &ListCommands::done, this, done);
     connect(m_listCommands, &ListCommands::wanted, this, [this](const Shown &shown) {

@@ -10,6 +10,7 @@ class ItemsView;
 class ListCommands;
 class ListsPane;
 class OpenLists;
+class OrderCommands;
 class WorkViews;
 struct Place;
 
@@ -50,6 +51,7 @@ private:
     WorkViews *m_stack; ///< the rows, and what stands over them
     ItemsView *m_view;
     ItemCommands *m_items;
+    OrderCommands *m_order;
     ListCommands *m_listCommands;
     std::vector<std::pair<Shown::Kind, QAction *>> m_viewActions;
 };
