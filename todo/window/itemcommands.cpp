@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/window/itemcommands.h"
 
+#include "shell/controls/buttonrow.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/program/program.h"
@@ -218,8 +219,10 @@ void ItemCommands::captionTick()
         return row >= 0 && sheet.isDone(row);
     });
     const QString caption = isDone ? u"Not &Done"_s : u"&Done"_s;
-    if (m_tick && m_tick->text() != caption)
+    if (m_tick && m_tick->text() != caption) {
         m_desk.commands.setCaption(m_tick, caption);
+        m_view.foot().rearrange();
+    }
 }
 
 void ItemCommands::setDue(QDate due)

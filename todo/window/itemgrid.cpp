@@ -33,7 +33,7 @@ constexpr std::array widths{Width{ItemsModel::Due, 132, 160}, Width{ItemsModel::
                             Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 110, 260},
                             Width{ItemsModel::List, 80, 130}};
 constexpr int leastText = 200;
-constexpr int usualText = 260; ///< from here on the others grow
+constexpr int usualText = 320; ///< from here on the others grow
 
 } // namespace
 

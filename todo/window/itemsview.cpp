@@ -23,6 +23,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+constexpr int emptySign = 72;
+} // namespace
+
 ItemsView::ItemsView(const ToDoDesk &desk)
     : TitledView(u"toDo"_s)
     , m_desk(desk)
@@ -32,15 +36,14 @@ ItemsView::ItemsView(const ToDoDesk &desk)
     , m_entryRow(makeEntry())
     , m_hint(named(makeQuietLabel({}, this), u"entryHint"_s))
     , m_rows(new WholeRows(m_grid, nullptr, this))
-    , m_empty(named(new QLabel(this), u"nothingToDo"_s))
+    , m_emptySentence(named(new QLabel(this), u"nothingToDo"_s))
+    , m_emptyLine(makeQuietLabel({}, this))
+    , m_empty(makeEmpty())
     , m_words(titleLine().addWords(u"toDoWords"_s))
     , m_note(new NoteBox(m_grid->viewport()))
 {
     auto *picker = new DatePicker(desk.program.clock, desk.program.settings, &desk.window);
     m_grid->cells().takeDates({desk.program.state.dateStyle, desk.program.clock}, picker);
-    m_empty->setFont(TypeScale::emptyTitle());
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_empty->setWordWrap(true);
     addContent(m_entryRow);
     addContent(m_hint);
     addContent(m_empty, 1);
@@ -58,6 +61,26 @@ QWidget *ItemsView::makeEntry()
     m_entry->setAccessibleName(u"Something to do"_s);
     row->addWidget(m_entry, 1);
     return line;
+}
+
+/// What stands in the place of the rows where there are none.
+QWidget *ItemsView::makeEmpty()
+{
+    auto *page = new QWidget(this);
+    auto *sign = new QLabel(page);
+    sign->setPixmap(Icons::pixmap("todo"_L1, Theme::of(this).scheme, emptySign, devicePixelRatioF()));
+    m_emptySentence->setFont(TypeScale::emptyTitle());
+    m_emptyLine->setFont(TypeScale::body());
+    auto *rows = new QVBoxLayout(page);
+    rows->setSpacing(12);
+    rows->addStretch(1);
+    for (QLabel *label : {sign, m_emptySentence, m_emptyLine}) {
+        label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(label != sign);
+        rows->addWidget(label);
+    }
+    rows->addStretch(1);
+    return page;
 }
 
 void ItemsView::setAddButton(QPushButton *button)
@@ -158,7 +181,8 @@ void ItemsView::showEmptiness()
     const bool isEmpty = m_model->rowCount() == 0;
     m_rows->setVisible(!isEmpty);
     m_empty->setVisible(isEmpty);
-    m_empty->setText(ToDoWindowLines::emptiness(shown()));
+    m_emptySentence->setText(ToDoWindowLines::emptiness(shown()));
+    m_emptyLine->setText(ToDoWindowLines::emptyLine(shown()));
 }
 
 /// The planner has less room for a text than the lists.

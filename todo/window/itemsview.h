@@ -63,6 +63,7 @@ protected:
 
 private:
     QWidget *makeEntry();
+    QWidget *makeEmpty();
     void connectParts();
     void showTitle();
     void showEmptiness();
@@ -76,7 +77,9 @@ private:
     QWidget *m_entryRow;
     QLabel *m_hint;
     QWidget *m_rows;
-    QLabel *m_empty;
+    QLabel *m_emptySentence;
+    QLabel *m_emptyLine;
+    QWidget *m_empty;
     QLabel *m_words;
     NoteBox *m_note;
 };

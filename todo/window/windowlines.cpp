@@ -107,6 +107,24 @@ QString ToDoWindowLines::emptiness(const Shown &shown)
     return {};
 }
 
+QString ToDoWindowLines::emptyLine(const Shown &shown)
+{
+    switch (shown.kind) {
+    case Shown::Today:
+        return u"What is typed above is put on today."_s;
+    case Shown::List:
+        return u"Type what is to be done into the line above, and press Enter."_s;
+    case Shown::Coming:
+    case Shown::ByPerson:
+        return u"Dates and names are typed into the rows of a list."_s;
+    case Shown::Done:
+        return u"What is ticked stands here from then on."_s;
+    case Shown::Search:
+        return u"All lists were searched, with their notes and with what is done."_s;
+    }
+    return {};
+}
+
 QString ToDoWindowLines::heading(int column)
 {
     switch (column) {

@@ -26,6 +26,8 @@ QString title(const Shown &shown, const ToDoList *list);
 QString titleWords(const Shown &shown, const ToDoCounts &counts, int shownItems);
 /// What stands in the place of the rows where there are none.
 QString emptiness(const Shown &shown);
+/// The quiet line under it.
+QString emptyLine(const Shown &shown);
 
 /// The heading of a column of the grid, and what it is called aloud.
 QString heading(int column);
