@@ -29,7 +29,7 @@ struct Width {
     int least;
     int usual;
 };
-constexpr std::array widths{Width{ItemsModel::Due, 132, 160}, Width{ItemsModel::Actual, 98, 112},
+constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 98, 112},
                             Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 110, 260},
                             Width{ItemsModel::List, 80, 130}};
 constexpr int leastText = 200;
