@@ -4,6 +4,7 @@
 #include "shell/controls/cellgrid.h"
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
+#include "shell/writing/writing.h"
 #include "todo/model/todoitem.h"
 #include "todo/window/itemsmodel.h"
 
@@ -17,6 +18,11 @@ constexpr int stepInset = 24;
 constexpr int longestWho = 80;
 constexpr int longestRepeat = 60;
 } // namespace
+
+ItemCells::ItemCells(CellGrid *grid, Writing &writing)
+    : CellDelegate(grid)
+    , m_writing(writing)
+{}
 
 void ItemCells::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
@@ -58,8 +64,10 @@ QLineEdit *ItemCells::makeBox(QWidget *parent, const QModelIndex &index) const
     QLineEdit *box = CellDelegate::makeBox(parent, index);
     auto *field = qobject_cast<FieldBox *>(box);
     switch (index.column()) {
+    case ItemsModel::Tick: // of a heading
     case ItemsModel::Text:
         field->setByteLimit(ToDoItem::longestText);
+        m_writing.check(box);
         break;
     case ItemsModel::Who:
         field->setByteLimit(longestWho);

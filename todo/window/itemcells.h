@@ -3,13 +3,15 @@
 
 #include "shell/controls/celldelegate.h"
 
+class Writing;
+
 /// Draws things to do: the box for the tick, steps further in than their items, what is done struck through,
 /// headings in strong letters.
 class ItemCells final : public CellDelegate
 {
     Q_OBJECT
 public:
-    using CellDelegate::CellDelegate;
+    ItemCells(CellGrid *grid, Writing &writing);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
@@ -20,4 +22,6 @@ protected:
 
 private:
     void paintTick(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+
+    Writing &m_writing;
 };

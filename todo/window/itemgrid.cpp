@@ -30,21 +30,21 @@ struct Width {
     int usual;
 };
 constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 98, 112},
-                            Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 110, 260},
+                            Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 150, 260},
                             Width{ItemsModel::List, 80, 130}};
 constexpr int leastText = 200;
 constexpr int usualText = 320; ///< from here on the others grow
 
 } // namespace
 
-ItemGrid::ItemGrid(ItemsModel &model, QWidget *parent)
+ItemGrid::ItemGrid(ItemsModel &model, Writing &writing, QWidget *parent)
     : CellGrid(parent)
     , m_model(model)
     , m_question(new QLabel(viewport()))
 {
     setObjectName(u"toDoGrid"_s);
     setAccessibleName(u"Things to do"_s);
-    setCells(new ItemCells(this));
+    setCells(new ItemCells(this, writing));
     setModel(&model);
     setPlainRows();
     setAlternatingRowColors(false);

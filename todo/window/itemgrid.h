@@ -5,6 +5,7 @@
 
 class ItemsModel;
 class QLabel;
+class Writing;
 
 /// The things to do of a view as a grid: typed right into, ticked with a click or Space, put into another
 /// order with the mouse or with keys.
@@ -12,7 +13,7 @@ class ItemGrid final : public CellGrid
 {
     Q_OBJECT
 public:
-    ItemGrid(ItemsModel &model, QWidget *parent = nullptr);
+    ItemGrid(ItemsModel &model, Writing &writing, QWidget *parent = nullptr);
 
     /// The ids of the chosen items and headings, in their order.
     std::vector<int> chosen() const;

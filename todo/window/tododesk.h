@@ -5,6 +5,7 @@ class Commands;
 class FunctionWindow;
 class OpenLists;
 class WorkViews;
+class Writing;
 struct Program;
 
 /// What the parts of the To Do list work with.
@@ -14,4 +15,5 @@ struct ToDoDesk {
     OpenLists &lists;
     Commands &commands;
     WorkViews &views;
+    Writing &writing; ///< checks the spelling
 };

@@ -20,6 +20,7 @@
 #include "todo/window/notebox.h"
 #include "todo/window/openlists.h"
 #include "todo/window/ordercommands.h"
+#include "todo/window/todospelling.h"
 #include "todo/window/windowlines.h"
 
 #include <QMenu>
@@ -60,11 +61,13 @@ const std::array<ViewFace, 4> &viewFaces()
 ToDo1::ToDo1(Program &program, QWidget *parent)
     : FunctionWindow(program, traits(), parent)
     , m_lists(new OpenLists(program, this))
+    , m_writing(ToDoSpelling::makeWriting(program, this))
     , m_pane(new ListsPane(program, *m_lists, this))
     , m_stack(new WorkViews(this))
     , m_view(new ItemsView(desk()))
     , m_items(new ItemCommands(desk(), *m_view, this))
     , m_order(new OrderCommands(desk(), *m_view, this))
+    , m_spelling(new ToDoSpelling(desk(), *m_view, this))
     , m_listCommands(new ListCommands(desk(), *m_pane, *m_view, this))
 {
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(),
@@ -80,7 +83,7 @@ ToDo1::ToDo1(Program &program, QWidget *parent)
 
 ToDoDesk ToDo1::desk()
 {
-    return {program(), *this, *m_lists, commands(), *m_stack};
+    return {program(), *this, *m_lists, commands(), *m_stack, *m_writing};
 }
 
 QWidget *ToDo1::makeWorkPanel()
@@ -106,6 +109,7 @@ void ToDo1::makeCommands()
     m_order->addCommands(edit);
     m_listCommands->addCommands(lists);
     makeOptions(options);
+    m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s));
     addUtilitiesMenu();
     addHelpEntry();
     commands().separateTools();
@@ -181,6 +185,7 @@ void ToDo1::connectParts()
     connect(&m_view->note(), &NoteBox::said, this, say);
     connect(m_view, &ItemsView::done, this, done);
     connect(m_order, &OrderCommands::listWanted, this, [this](int list) { bring({Shown::List, list, {}}); });
+    connect(m_spelling, &ToDoSpelling::said, this, say);
     connect(m_listCommands, &ListCommands::said, this, say);
     connect(m_listCommands, &ListCommands::done, this, done);
     connect(m_listCommands, &ListCommands::wanted, this, [this](const Shown &shown) {

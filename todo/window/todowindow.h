@@ -11,7 +11,9 @@ class ListCommands;
 class ListsPane;
 class OpenLists;
 class OrderCommands;
+class ToDoSpelling;
 class WorkViews;
+class Writing;
 struct Place;
 
 /// The To Do list: the lists and the views over them at the left, and what is to be done of the chosen one.
@@ -47,11 +49,13 @@ private:
     void saveByCommand();
 
     OpenLists *m_lists;
+    Writing *m_writing;
     ListsPane *m_pane;
     WorkViews *m_stack; ///< the rows, and what stands over them
     ItemsView *m_view;
     ItemCommands *m_items;
     OrderCommands *m_order;
+    ToDoSpelling *m_spelling;
     ListCommands *m_listCommands;
     std::vector<std::pair<Shown::Kind, QAction *>> m_viewActions;
 };

@@ -169,6 +169,19 @@ private slots:
         QVERIFY(find<QLabel>("quietQuestion")->isVisible());
     }
 
+    void correctsSlipsInItsBoxes()
+    {
+        open();
+        trigger("mSpCheck"); // reads what the boxes need, without waiting for the first to be painted
+        chooseList(0);
+        enter(u"Water teh ferns"_s);
+        QCOMPARE(texts(), QStringList{u"Water the ferns"_s});
+        grid()->setFocus();
+        grid()->setCurrentIndex(index(0, ItemsModel::Text));
+        typeCell(u"Teh ferns, adn teh palms"_s);
+        QCOMPARE(texts(), QStringList{u"The ferns, and the palms"_s});
+    }
+
     void sortsByADateUntilTheThirdClick()
     {
         open();

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "todo/window/todospelling.h"
+
+#include "shell/controls/taskpanel.h"
+#include "shell/frame/commands.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/frame/workviews.h"
+#include "shell/program/functionfaces.h"
+#include "shell/program/program.h"
+#include "shell/writing/spellingtools.h"
+#include "shell/writing/writing.h"
+#include "todo/window/entryline.h"
+#include "todo/window/itemsview.h"
+#include "todo/window/notebox.h"
+#include "todo/window/openlists.h"
+
+#include <QMenu>
+
+#include <utility>
+
+namespace {
+
+QStringList knownNames(const Program &program)
+{
+    QStringList names;
+    for (const FunctionFace &face : FunctionFaces::cards()) {
+        const FunctionEntry *entry = program.functions.entry(face.function);
+        if (entry && entry->names && !face.isGuarded(program.state.protectedAreas))
+            names += entry->names(program);
+    }
+    return names;
+}
+
+/// The texts of items have even numbers, their notes the odd ones behind them.
+int numberOf(int item, bool isNote)
+{
+    return 2 * item + (isNote ? 1 : 0);
+}
+
+} // namespace
+
+Writing *ToDoSpelling::makeWriting(Program &program, QObject *parent)
+{
+    return new Writing(
+        {.folder = program.folder,
+         .dictionaryFolders = Dictionaries::folders(program.programFolder.path(), program.folder.path()),
+         .store = program.store,
+         .knownNames = [&program] { return knownNames(program); }},
+        parent);
+}
+
+ToDoSpelling::ToDoSpelling(const ToDoDesk &desk, ItemsView &view, QObject *parent)
+    : QObject(parent)
+    , m_desk(desk)
+    , m_view(view)
+    , m_tools(new SpellingTools(
+          desk.writing, {[this] { return texts(); }, [this](const WalkedText &text) { change(text); }},
+          &desk.window))
+{
+    m_desk.writing.check(&m_view.entry());
+    m_desk.writing.check(&m_view.note());
+    for (TaskPanel *panel : m_tools->panels())
+        m_desk.views.addPanel(panel);
+    connect(m_tools, &SpellingTools::opened, this, [this](QWidget *panel) {
+        m_desk.window.closePreview();
+        m_desk.views.open(panel);
+        panel->setFocus();
+    });
+    connect(m_tools, &SpellingTools::said, this, &ToDoSpelling::said);
+}
+
+void ToDoSpelling::addCommands(QMenu *menu)
+{
+    m_tools->addTo(menu, [this](auto &&...arguments) {
+        return m_desk.commands.add(std::forward<decltype(arguments)>(arguments)...);
+    });
+}
+
+/// What is still to be done; nobody reads over what is done.
+std::vector<WalkedText> ToDoSpelling::texts() const
+{
+    m_view.finishEdit();
+    std::vector<WalkedText> texts;
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    for (int row = 0; row < sheet.rowCount(); ++row) {
+        if (sheet.isDone(row))
+            continue;
+        const ToDoItem item = sheet.item(row);
+        const ToDoList *list = sheet.list(item.list);
+        const QString where = list ? list->name : QString();
+        texts.push_back({numberOf(item.id, false), where, item.text});
+        if (!item.note.isEmpty())
+            texts.push_back({numberOf(item.id, true), where, item.note});
+    }
+    return texts;
+}
+
+void ToDoSpelling::change(const WalkedText &text)
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    const bool isNote = text.id % 2 == 1;
+    const ToDoActions::Result result = isNote ? ToDoActions::setNote(sheet, text.id / 2, text.text)
+                                              : ToDoActions::setText(sheet, text.id / 2, text.text);
+    if (result.isChange())
+        m_desk.lists.change(result.title, result.sheet);
+}
