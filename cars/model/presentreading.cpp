@@ -26,7 +26,7 @@ QString PresentReading::withoutFillUps(const CarRecord &car, const QString &befo
     return isRaised && isOfFillUp ? before : present;
 }
 
-bool PresentReading::goBack(CarRecord &car, const CarRecord &before, const QString &saved)
+bool PresentReading::goBack(CarRecord &car, const CarRecord &before, const QString &own)
 {
     QString &present = car.sheet.field(VehicleSheet::Odometer);
     const std::optional<double> mistaken = CarNumbers::number(present);
@@ -50,9 +50,9 @@ bool PresentReading::goBack(CarRecord &car, const CarRecord &before, const QStri
     }
     for (const ScheduledAction &action : car.sheet.actions)
         see(action.odometer);
-    const double inFile = CarNumbers::number(saved).value_or(0);
-    if (inFile >= highest && inFile < *mistaken)
-        present = saved;
+    const double ownNumber = CarNumbers::number(own).value_or(0);
+    if (ownNumber >= highest && ownNumber < *mistaken)
+        present = own;
     else if (highest > 0 && highest != *mistaken)
         present = CarNumbers::text(highest);
     else

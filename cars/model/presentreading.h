@@ -11,10 +11,11 @@ namespace PresentReading {
 bool follow(CarRecord &car, const QString &reading);
 
 /// Where the sheet's reading came from a fill-up that `before` has and `car` has no more, it goes back to
-/// `saved`, what the file has, or to the highest that is known. False where it stays.
-bool goBack(CarRecord &car, const CarRecord &before, const QString &saved);
+/// `own`, the last one that no fill-up had raised, or to the highest of the rows that are left where they
+/// read more than that. False where it stays.
+bool goBack(CarRecord &car, const CarRecord &before, const QString &own);
 
-/// The reading to go back to once `car` is saved: `before`, where a fill-up has raised it since.
+/// The last reading of `car` that no fill-up had raised, where `before` was it so far.
 QString withoutFillUps(const CarRecord &car, const QString &before);
 
 } // namespace PresentReading

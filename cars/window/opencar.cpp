@@ -40,6 +40,13 @@ void OpenCar::setRecord(const Record &record)
     m_outlook.reset();
 }
 
+/// A reading that was typed is the car's own even before it is saved.
+void OpenCar::setTyped(const Record &record)
+{
+    setRecord(record);
+    m_ownReading = PresentReading::withoutFillUps(*record, m_ownReading);
+}
+
 QString OpenCar::whyLocked(CarPart part) const
 {
     if (!isOpen())
@@ -103,7 +110,7 @@ void OpenCar::change(const QString &title, const CarRecord &wanted)
     // What no fill-up reads any more, the car does not read either.
     const bool wentBack = wanted.fuel != m_record->fuel && whyLocked(CarPart::Sheet).isEmpty() &&
                           PresentReading::goBack(*after, *m_record, m_ownReading);
-    setRecord(after);
+    setTyped(after);
     emit edited({title, [=, this] { return exchange(after, before); },
                  [=, this] { return exchange(before, after); }, UndoStep::Typed});
     emit changed();
@@ -115,7 +122,7 @@ ChangeResult OpenCar::exchange(const Record &shown, const Record &wanted)
 {
     if (*m_record != *shown)
         return ChangeResult::Outdated;
-    setRecord(wanted);
+    setTyped(wanted);
     emit changed();
     return ChangeResult::Done;
 }
@@ -155,7 +162,6 @@ bool OpenCar::write(const CarRecord &wanted)
         return false;
     }
     m_saved = std::make_shared<CarRecord>(wanted);
-    m_ownReading = PresentReading::withoutFillUps(wanted, m_ownReading);
     emit fileTouched();
     emit changed();
     return true;

@@ -80,6 +80,7 @@ private:
 
     const Outlook &outlook() const;
     void setRecord(const Record &record);
+    void setTyped(const Record &record);
     void open(const CarRecord &record, const States &states, bool isNew);
     bool write(const CarRecord &wanted);
     ChangeResult exchange(const Record &shown, const Record &wanted);
@@ -88,7 +89,7 @@ private:
     CarFiles m_files;
     Record m_record;
     Record m_saved;
-    QString m_ownReading; ///< the last one in the file that no fill-up raised since the car was opened
+    QString m_ownReading; ///< the last one that no fill-up raised since the car was opened
     States m_states{};
     std::optional<DistanceUnit> m_firstUnit;
     bool m_isNew = false;

@@ -37,6 +37,24 @@ private slots:
         QVERIFY(!PresentReading::goBack(car, before, saved));
     }
 
+    void knowsTheCarsOwnReading_data()
+    {
+        rows<QString, QString, QString>(
+            {{"a fill-up raised it", u"84,620"_s, u"84210"_s, u"84210"_s},
+             {"it was typed", u"84500"_s, u"84210"_s, u"84500"_s},
+             {"it was typed, below a fill-up", u"84000"_s, u"84210"_s, u"84000"_s},
+             {"a fill-up was the first", u"84620"_s, {}, {}}});
+    }
+
+    void knowsTheCarsOwnReading()
+    {
+        const auto [present, before, wanted] = row<QString, QString, QString>();
+        CarRecord car;
+        car.sheet.field(VehicleSheet::Odometer) = present;
+        car.fuel = {{{}, {}, u"84620"_s, {}, {}, {}, {}}};
+        QCOMPARE(PresentReading::withoutFillUps(car, before), wanted);
+    }
+
     void followsAHigherReading_data()
     {
         rows<QString, QString, QString>({{"a higher one", u"84,210"_s, u"84500 mi"_s, u"84500"_s},
