@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How long a person with 10,000 weigh-ins takes from the click on the card to the painted window, and from an
-// edit to the painted table.
+// How long a person with 10,000 weigh-ins takes from the click on the card to the painted window, from an
+// edit to the painted table, and until the whole graph stands there and names a point.
 
 #include "benchmarks/limit.h"
 #include "benchmarks/paintwatch.h"
 #include "shell/access/gate.h"
+#include "shell/charts/linechartview.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "shell/program/qtdialogs.h"
@@ -14,9 +15,13 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QElapsedTimer>
+#include <QMouseEvent>
 #include <QSettings>
 #include <QTemporaryDir>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,6 +30,7 @@ namespace {
 constexpr int weighIns = 10'000;
 constexpr double mostToOpen = 150; ///< milliseconds
 constexpr double mostToEdit = 16;  ///< a frame of the screen
+constexpr double mostToDraw = 100; ///< the whole graph
 
 /// A program with a person who has weighed herself for 27 years.
 class Desk
@@ -106,6 +112,68 @@ void editAWeight(benchmark::State &state)
     hold(state, best, mostToEdit);
 }
 BENCHMARK(editAWeight)->Iterations(50)->Unit(benchmark::kMillisecond);
+
+/// What a chart paints its lines on.
+QWidget *plotOf(const QWidget &chart)
+{
+    const auto parts = chart.findChildren<QWidget *>();
+    const auto plot =
+        std::ranges::find_if(parts, [](const QWidget *part) { return part->inherits("QCustomPlot"); });
+    if (plot == parts.end())
+        qFatal("no plot");
+    return *plot;
+}
+
+/// The whole history is chosen, and stands there.
+void showTheWholeHistory(benchmark::State &state)
+{
+    Desk desk;
+    WeightTracker window(desk.program);
+    window.show();
+    window.findChild<QAction *>(u"mVGraph"_s)->trigger();
+    auto *shown = window.findChild<QComboBox *>(u"graphShown"_s);
+    auto *chart = window.findChild<QWidget *>(u"Chart2D1"_s);
+    QApplication::processEvents();
+    PaintWatch watch(plotOf(*chart));
+    double best = 1e9;
+    for ([[maybe_unused]] auto round : state) {
+        QElapsedTimer timer;
+        timer.start();
+        shown->setCurrentIndex(1);
+        watch.wait();
+        best = std::min(best, double(timer.nsecsElapsed()) / 1e6);
+        shown->setCurrentIndex(0);
+        watch.wait();
+    }
+    hold(state, best, mostToDraw);
+}
+BENCHMARK(showTheWholeHistory)->Iterations(10)->Unit(benchmark::kMillisecond);
+
+/// The mouse names one point of 10,000 after the other.
+void nameAPoint(benchmark::State &state)
+{
+    Desk desk;
+    WeightTracker window(desk.program);
+    window.show();
+    window.findChild<QAction *>(u"mVGraph"_s)->trigger();
+    window.findChild<QComboBox *>(u"graphShown"_s)->setCurrentIndex(1);
+    auto *chart = window.findChild<LineChartView *>(u"Chart2D1"_s);
+    QApplication::processEvents();
+    PaintWatch watch(plotOf(*chart));
+    double best = 1e9;
+    qsizetype point = 0;
+    for ([[maybe_unused]] auto round : state) {
+        const QPointF place = chart->placeOf({0, point += weighIns / 100});
+        QMouseEvent move(QEvent::MouseMove, place, chart->mapToGlobal(place), Qt::NoButton, {}, {});
+        QElapsedTimer timer;
+        timer.start();
+        QApplication::sendEvent(chart, &move);
+        watch.wait();
+        best = std::min(best, double(timer.nsecsElapsed()) / 1e6);
+    }
+    hold(state, best, mostToEdit);
+}
+BENCHMARK(nameAPoint)->Iterations(50)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
