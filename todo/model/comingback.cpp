@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/model/comingback.h"
 
+#include <QHash>
+#include <QSet>
 #include <QStringList>
 
 using namespace Qt::Literals::StringLiterals;
@@ -26,31 +28,57 @@ QStringList names(QStringView who)
     return names;
 }
 
+/// The repeating items that were done, and what that says about the open ones.
+class Done
+{
+public:
+    Done(const ToDoSheet &sheet, QDate today)
+        : m_sheet(sheet)
+        , m_today(today)
+    {
+        for (int row = 0; row < sheet.rowCount(); ++row) {
+            if (!sheet.isDone(row) || sheet.repeatBytes(row).isEmpty())
+                continue;
+            const QByteArray key = keyOf(sheet, row);
+            m_done.insert(key);
+            if (sheet.actualOf(row) == today)
+                m_doneToday.insert(key);
+        }
+    }
+
+    bool isEmpty() const { return m_done.isEmpty(); }
+
+    bool isLater(int row) const
+    {
+        if (!m_sheet.isOpen(row) || m_sheet.repeatBytes(row).isEmpty())
+            return false;
+        const QByteArray key = keyOf(m_sheet, row);
+        const QDate due = m_sheet.dueOf(row);
+        const bool isFarAhead = due.isValid() && due > m_today.addDays(daysAhead);
+        return (isFarAhead && m_done.contains(key)) ||
+               (m_doneToday.contains(key) && (!due.isValid() || due > m_today));
+    }
+
+private:
+    const ToDoSheet &m_sheet;
+    QDate m_today;
+    QSet<QByteArray> m_done;
+    QSet<QByteArray> m_doneToday;
+};
+
 } // namespace
 
 ComingBack::ComingBack(const ToDoSheet &sheet, QDate today)
-    : m_sheet(sheet)
-    , m_today(today)
+    : m_isLater(std::size_t(sheet.rowCount()), false)
 {
-    for (int row = 0; row < sheet.rowCount(); ++row) {
-        if (!sheet.isDone(row) || sheet.repeatBytes(row).isEmpty())
-            continue;
-        const QByteArray key = keyOf(sheet, row);
-        m_done.insert(key);
-        if (sheet.actualOf(row) == today)
-            m_doneToday.insert(key);
+    const Done done(sheet, today);
+    QHash<int, bool> isItemLater; // by list
+    for (int row = 0; row < sheet.rowCount() && !done.isEmpty(); ++row) {
+        bool &isLater = isItemLater[sheet.listOf(row)];
+        if (sheet.levelOf(row) != ItemLevel::Step || !sheet.repeatBytes(row).isEmpty())
+            isLater = done.isLater(row);
+        m_isLater[std::size_t(row)] = isLater;
     }
-}
-
-bool ComingBack::isLater(int row) const
-{
-    if (!m_sheet.isOpen(row) || m_sheet.repeatBytes(row).isEmpty() || m_done.isEmpty())
-        return false;
-    const QByteArray key = keyOf(m_sheet, row);
-    const QDate due = m_sheet.dueOf(row);
-    const bool isFarAhead = due.isValid() && due > m_today.addDays(daysAhead);
-    return (isFarAhead && m_done.contains(key)) ||
-           (m_doneToday.contains(key) && (!due.isValid() || due > m_today));
 }
 
 QString Turns::current(QStringView who)

@@ -3,22 +3,19 @@
 
 #include "todo/model/todosheet.h"
 
-#include <QSet>
+#include <vector>
 
 /// Which open items came back by themselves and are not shown yet: on the day when the one before was ticked,
-/// and more than a week ahead of their date.
+/// and more than a week ahead of their date. Their steps are not shown either.
 class ComingBack
 {
 public:
     ComingBack(const ToDoSheet &sheet, QDate today);
 
-    bool isLater(int row) const;
+    bool isLater(int row) const { return m_isLater[std::size_t(row)]; }
 
 private:
-    const ToDoSheet &m_sheet;
-    QDate m_today;
-    QSet<QByteArray> m_done; ///< repeating items that were done before today
-    QSet<QByteArray> m_doneToday;
+    std::vector<bool> m_isLater;
 };
 
 /// Who takes turns in "Anne > Nils > Karin".

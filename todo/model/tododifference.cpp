@@ -76,6 +76,8 @@ ToDoDifference ToDoDifference::between(const ToDoSheet &before, const ToDoSheet 
     const Middle middle = middleOf(before, after);
     const std::vector<int> twins = twinsOf(before, after, middle);
     ToDoDifference difference;
+    difference.m_before = before.lineCount();
+    difference.m_after = after.lineCount();
     int nextBefore = middle.front;
     int nextAfter = middle.front;
     const auto changedUpTo = [&](int beforeEnd, int afterEnd) {
@@ -101,9 +103,6 @@ bool ToDoDifference::exchange(ToDoSheet &sheet, const Lines &gone, const Lines &
             return false;
         places.push_back(place);
     }
-    const int left = sheet.lineCount() - int(gone.size());
-    if (!come.empty() && come.back().first >= left + int(come.size()))
-        return false;
     if (!places.empty())
         sheet.removeLines(places);
     if (!come.empty())

@@ -16,9 +16,15 @@ public:
     bool isEmpty() const { return m_gone.empty() && m_come.empty(); }
 
     /// Makes the change in `sheet`; false, with nothing changed, where it is not what it was before.
-    [[nodiscard]] bool apply(ToDoSheet &sheet) const { return exchange(sheet, m_gone, m_come); }
+    [[nodiscard]] bool apply(ToDoSheet &sheet) const
+    {
+        return sheet.lineCount() == m_before && exchange(sheet, m_gone, m_come);
+    }
     /// Takes it back in the same way.
-    [[nodiscard]] bool revert(ToDoSheet &sheet) const { return exchange(sheet, m_come, m_gone); }
+    [[nodiscard]] bool revert(ToDoSheet &sheet) const
+    {
+        return sheet.lineCount() == m_after && exchange(sheet, m_come, m_gone);
+    }
 
 private:
     using Lines = std::vector<std::pair<int, QByteArray>>; ///< with their places
@@ -27,4 +33,6 @@ private:
 
     Lines m_gone;
     Lines m_come;
+    int m_before = 0; ///< lines of both sheets
+    int m_after = 0;
 };
