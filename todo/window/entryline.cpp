@@ -62,6 +62,7 @@ bool EntryLine::takeLines()
 void EntryLine::enter()
 {
     const QString typed = text().trimmed();
+    completer()->popup()->hide();
     if (typed.isEmpty() || isReadOnly())
         return;
     clear();

@@ -86,7 +86,7 @@ void ItemCommands::addRowCommands(QMenu *edit)
         edit, u"mETick"_s, u"&Done"_s, [this] { tick(); }, QKeySequence(Qt::CTRL | Qt::Key_D));
     commands.add(
         edit, u"mENote"_s, u"N&ote"_s, [this] { openNote(); },
-        [this] { return m_view.chosen().empty() ? ToDoWindowLines::noneChosen() : QString(); },
+        [this] { return m_view.grid().isAnyChosen() ? QString() : ToDoWindowLines::noneChosen(); },
         QKeySequence(Qt::CTRL | Qt::Key_E));
     m_remove = add(edit, u"mEDel"_s, u"&Remove"_s, [this] { remove(); });
     commands.setKeyIn(&m_view.grid(), m_remove, CommonKeys::remove);
@@ -102,7 +102,7 @@ void ItemCommands::addDateCommands(QMenu *edit)
         edit, u"mETomorrow"_s, u"To&morrow"_s, [=, this] { setDue(today().addDays(1)); },
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T));
     add(edit, u"mENoDate"_s, u"No D&ate"_s, [this] { setDue({}); });
-    m_desk.commands.writing(m_desk.commands.add(
+    m_overdue = m_desk.commands.writing(m_desk.commands.add(
         edit, u"mEOverdue"_s, u"Move &Overdue to Today"_s, [this] { moveOverdue(); },
         [this] { return m_desk.lists.whyLocked(); }));
 }
@@ -110,7 +110,7 @@ void ItemCommands::addDateCommands(QMenu *edit)
 QString ItemCommands::whyNone() const
 {
     const QString why = m_desk.lists.whyLocked();
-    return !why.isEmpty() || !m_view.chosen().empty() ? why : ToDoWindowLines::noneChosen();
+    return !why.isEmpty() || m_view.grid().isAnyChosen() ? why : ToDoWindowLines::noneChosen();
 }
 
 void ItemCommands::takeNew(const QStringList &lines)
@@ -130,6 +130,7 @@ void ItemCommands::takeTyped(int id, int column, const QString &text)
     switch (column) {
     case ItemsModel::Text:
         m_view.make(ToDoActions::setText(sheet, id, text));
+        hintAtLength(id);
         break;
     case ItemsModel::Due:
     case ItemsModel::Actual:
@@ -167,6 +168,7 @@ void ItemCommands::takeDate(int id, int column, const QString &text)
     }
     if (column == ItemsModel::Due) {
         m_view.make(ToDoActions::setDue(sheet, {id}, *date));
+        hintAtLength(id);
     } else {
         m_view.model().keepInSight({id});
         m_view.make(ToDoActions::setActual(sheet, {id}, *date, today));
@@ -174,6 +176,16 @@ void ItemCommands::takeDate(int id, int column, const QString &text)
     if (const QString question = date->isValid() ? TypedDate::question(*date, today) : QString();
         !question.isEmpty())
         m_view.grid().askQuietly(question);
+}
+
+/// The planner has less room for a text than the lists.
+void ItemCommands::hintAtLength(int id)
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    const int row = sheet.rowOf(id);
+    if (row >= 0 && sheet.dueOf(row).isValid() && !sheet.isDone(row) &&
+        sheet.item(row).text.size() > ToDoWindowLines::plannerRoom)
+        m_view.grid().askQuietly(ToDoWindowLines::tooLong());
 }
 
 void ItemCommands::takeRepeat(int id, const QString &text)
@@ -192,6 +204,10 @@ void ItemCommands::tick()
 {
     const ToDoSheet &sheet = m_desk.lists.sheet();
     const QDate today = m_desk.program.clock.today();
+    if (m_view.isTemplate()) {
+        emit m_view.said(ToDoWindowLines::templateNotTicked());
+        return;
+    }
     std::vector<int> open;
     std::vector<int> done;
     for (const int id : m_view.chosen()) {
@@ -227,6 +243,10 @@ void ItemCommands::captionTick()
 
 void ItemCommands::setDue(QDate due)
 {
+    if (m_view.isTemplate()) {
+        emit m_view.said(ToDoWindowLines::notDays());
+        return;
+    }
     m_view.make(ToDoActions::setDue(m_desk.lists.sheet(), m_view.chosen(), due));
 }
 

@@ -23,6 +23,7 @@ public:
     QAction *addCommand() const { return m_add; }
     QAction *removeCommand() const { return m_remove; }
     QAction *tickCommand() const { return m_tick; }
+    QAction *overdueCommand() const { return m_overdue; }
 
 private:
     void addRowCommands(QMenu *edit);
@@ -35,6 +36,7 @@ private:
     void takeNew(const QStringList &lines);
     void takeTyped(int id, int column, const QString &text);
     void takeDate(int id, int column, const QString &text);
+    void hintAtLength(int id);
     void takeRepeat(int id, const QString &text);
     void tick();
     void captionTick();
@@ -49,4 +51,5 @@ private:
     QAction *m_add = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_tick = nullptr;
+    QAction *m_overdue = nullptr;
 };

@@ -4,6 +4,7 @@
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 #include "todo/window/itemcells.h"
+#include "todo/window/itemdrag.h"
 #include "todo/window/itemsmodel.h"
 
 #include <QDrag>
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -31,7 +33,7 @@ struct Width {
 };
 constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 98, 112},
                             Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 150, 260},
-                            Width{ItemsModel::List, 80, 130}};
+                            Width{ItemsModel::List, 112, 150}};
 constexpr int leastText = 200;
 constexpr int usualText = 320; ///< from here on the others grow
 
@@ -52,6 +54,8 @@ ItemGrid::ItemGrid(ItemsModel &model, Writing &writing, QWidget *parent)
     setSelectionMode(ExtendedSelection);
     setDragDropMode(DragDrop);
     setDragDropOverwriteMode(false);
+    setDropIndicatorShown(false);
+    setContextMenuPolicy(Qt::CustomContextMenu);
     setDefaultDropAction(Qt::MoveAction);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setHorizontalScrollMode(ScrollPerPixel);
@@ -140,20 +144,36 @@ void ItemGrid::shareWidth()
     horizontalHeader()->resizeSection(ItemsModel::Text, std::max(TypeScale::wide(leastText), room - taken));
 }
 
+bool ItemGrid::isAnyChosen() const
+{
+    const QModelIndexList rows =
+        selectionModel()->hasSelection() ? QModelIndexList() : QModelIndexList{currentIndex()};
+    if (!rows.isEmpty())
+        return isItem(rows.front());
+    const QItemSelection selection = selectionModel()->selection();
+    return std::ranges::any_of(selection, [this](const QItemSelectionRange &range) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            if (isItem(m_model.index(row, 0)))
+                return true;
+        }
+        return false;
+    });
+}
+
 std::vector<int> ItemGrid::chosen() const
 {
-    std::vector<int> rows;
-    for (const QModelIndex &index : selectionModel()->selectedIndexes()) {
-        if (std::ranges::find(rows, index.row()) == rows.end())
-            rows.push_back(index.row());
-    }
-    if (rows.empty() && currentIndex().isValid())
-        rows.push_back(currentIndex().row());
-    std::ranges::sort(rows);
+    std::vector<std::pair<int, int>> ranges;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        ranges.emplace_back(range.top(), range.bottom());
+    if (ranges.empty() && currentIndex().isValid())
+        ranges.emplace_back(currentIndex().row(), currentIndex().row());
+    std::ranges::sort(ranges);
     std::vector<int> ids;
-    for (const int row : rows) {
-        const std::vector<int> id = m_model.itemsBetween(row, row);
-        ids.insert(ids.end(), id.begin(), id.end());
+    int next = 0; // ranges of single cells may cover a row twice
+    for (const auto &[first, last] : ranges) {
+        const std::vector<int> more = m_model.itemsBetween(std::max(first, next), last);
+        ids.insert(ids.end(), more.begin(), more.end());
+        next = std::max(next, last + 1);
     }
     return ids;
 }
@@ -205,9 +225,23 @@ bool ItemGrid::isRow(const QModelIndex &index, int kind) const
     return index.isValid() && m_model.rowAt(index.row()).kind == kind;
 }
 
+bool ItemGrid::isItem(const QModelIndex &index) const
+{
+    return isRow(index, ToDoRow::Item) || isRow(index, ToDoRow::Heading);
+}
+
 bool ItemGrid::isTick(const QModelIndex &index) const
 {
     return isRow(index, ToDoRow::Item) && index.column() == ItemsModel::Tick;
+}
+
+/// Whether it begins to type, which beside a tick means the text.
+bool ItemGrid::isForText(const QKeyEvent &key)
+{
+    const QString text = key.text();
+    const bool isTyped = !text.isEmpty() && text.front().isPrint() && text.front() != u' ' &&
+                         !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    return isTyped || key.key() == Qt::Key_F2;
 }
 
 void ItemGrid::keyPressEvent(QKeyEvent *event)
@@ -215,6 +249,9 @@ void ItemGrid::keyPressEvent(QKeyEvent *event)
     m_question->hide();
     m_isPassing = m_isPassing && event->key() == Qt::Key_Tab;
     const bool isTyping = state() == EditingState;
+    if (!isTyping && isTick(currentIndex()) && isForText(*event))
+        selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(ItemsModel::Text),
+                                          QItemSelectionModel::NoUpdate);
     if (isTyping || !currentIndex().isValid()) {
         CellGrid::keyPressEvent(event);
     } else if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
@@ -287,10 +324,54 @@ bool ItemGrid::focusNextPrevChild(bool next)
     return CellGrid::focusNextPrevChild(next);
 }
 
+void ItemGrid::dragMoveEvent(QDragMoveEvent *event)
+{
+    CellGrid::dragMoveEvent(event);
+    const bool isTaken = ItemDrag::isOne(event->mimeData()) &&
+                         m_model.canDropMimeData(event->mimeData(), Qt::MoveAction, 0, 0, {});
+    const QModelIndex row = indexAt(event->position().toPoint());
+    const QRect place = visualRect(row);
+    m_dropLine = !isTaken                                               ? -1
+                 : !row.isValid()                                       ? endOfRows()
+                 : event->position().toPoint().y() > place.center().y() ? place.bottom()
+                                                                        : place.top();
+    event->setAccepted(isTaken);
+    viewport()->update();
+}
+
+void ItemGrid::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    CellGrid::dragLeaveEvent(event);
+    m_dropLine = -1;
+    viewport()->update();
+}
+
+int ItemGrid::endOfRows() const
+{
+    return m_model.rowCount() == 0 ? 0 : visualRect(m_model.index(m_model.rowCount() - 1, 0)).bottom();
+}
+
+/// Where what is dragged would go.
+void ItemGrid::paintEvent(QPaintEvent *event)
+{
+    CellGrid::paintEvent(event);
+    if (m_dropLine < 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(QPen(Theme::of(this).accent, 3));
+    painter.drawLine(0, m_dropLine, viewport()->width(), m_dropLine);
+}
+
+/// The rows are moved by the lists: the view shall remove none.
 void ItemGrid::dropEvent(QDropEvent *event)
 {
-    CellGrid::dropEvent(event);
-    // The rows are moved by the lists; the view shall not remove those that were dragged.
+    m_dropLine = -1;
+    viewport()->update();
+    const QPoint point = event->position().toPoint();
+    const QModelIndex row = indexAt(point);
+    const bool isBelow = row.isValid() && point.y() > visualRect(row).center().y();
+    m_model.dropMimeData(event->mimeData(), Qt::MoveAction,
+                         row.isValid() ? row.row() + (isBelow ? 1 : 0) : -1, 0, {});
     event->setDropAction(Qt::CopyAction);
     event->accept();
 }

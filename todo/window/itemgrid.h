@@ -17,6 +17,7 @@ public:
 
     /// The ids of the chosen items and headings, in their order.
     std::vector<int> chosen() const;
+    bool isAnyChosen() const;
     /// Chooses items, the first of them as the current one, and brings it to sight.
     void choose(const std::vector<int> &ids);
     /// The column "List", for views over all of them.
@@ -42,7 +43,10 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void startDrag(Qt::DropActions actions) override;
 
 private:
@@ -50,11 +54,15 @@ private:
     void span();
     void shareWidth();
     bool isTick(const QModelIndex &index) const;
+    bool isItem(const QModelIndex &index) const;
+    static bool isForText(const QKeyEvent &key);
+    int endOfRows() const;
     bool isRow(const QModelIndex &index, int kind) const;
     void showSorting();
 
     ItemsModel &m_model;
     QLabel *m_question;
     QPersistentModelIndex m_pressed;
+    int m_dropLine = -1;      ///< where what is dragged would go; -1: nowhere
     bool m_isPassing = false; ///< the focus came by Tab, and Tab leads on
 };

@@ -32,7 +32,6 @@ void ItemsModel::show(const Shown &shown)
         m_order = ToDoViews::Order::Own;
         m_isBackwards = false;
     }
-    refresh();
 }
 
 void ItemsModel::refresh()
@@ -175,7 +174,9 @@ QVariant ItemsModel::itemData(int row, int column, int role) const
     case Qt::EditRole:
         return text(sheet.item(place), column, role);
     case Qt::AccessibleTextRole:
-        return column == Text ? spoken(row) : text(sheet.item(place), column, Qt::DisplayRole);
+        return column == Text   ? spoken(row)
+               : column == Tick ? ToDoWindowLines::tickSpoken(sheet.isDone(place))
+                                : text(sheet.item(place), column, Qt::DisplayRole);
     case Qt::ToolTipRole:
         return column == Text ? QVariant(sheet.item(place).note) : QVariant();
     case doneRole:

@@ -26,7 +26,8 @@ public:
 
     ItemsModel(const Program &program, const OpenLists &lists, QObject *parent = nullptr);
 
-    /// Shows another view; what was ticked in the one before goes out of sight, and its note is closed.
+    /// Another view is to be shown with the next `refresh()`; what was ticked in the one before goes out of
+    /// sight then, and its note is closed.
     void show(const Shown &shown);
     const Shown &shown() const { return m_shown; }
     /// The lists are others: rows come and go, and the rest of them stays where it is.

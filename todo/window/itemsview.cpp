@@ -97,6 +97,7 @@ void ItemsView::connectParts()
         m_grid->setFocus();
     });
     connect(m_entry, &QLineEdit::textChanged, this, &ItemsView::showHint);
+    connect(m_entry, &QLineEdit::textEdited, this, &ItemsView::offer);
     connect(m_entry, &FieldBox::refused, this, &ItemsView::said);
     connect(m_grid, &CellGrid::said, this, &ItemsView::said);
     connect(m_grid, &CellGrid::currentMoved, this, &ItemsView::moved);
@@ -174,6 +175,11 @@ void ItemsView::showTitle()
     for (int row = 0; row < m_model->rowCount(); ++row)
         shownRows += m_model->rowAt(row).kind == ToDoRow::Item ? 1 : 0;
     m_words->setText(ToDoWindowLines::titleWords(shown(), counts, shownRows));
+    const bool isOverdue = shown().kind == Shown::Today && counts.overdue > 0;
+    if (m_overdue && m_overdue->isVisibleTo(this) != isOverdue) {
+        m_overdue->setVisible(isOverdue);
+        foot().rearrange();
+    }
 }
 
 void ItemsView::showEmptiness()
@@ -183,6 +189,21 @@ void ItemsView::showEmptiness()
     m_empty->setVisible(isEmpty);
     m_emptySentence->setText(ToDoWindowLines::emptiness(shown()));
     m_emptyLine->setText(ToDoWindowLines::emptyLine(shown()));
+}
+
+/// What was bought before.
+void ItemsView::offer(const QString &typed)
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    const ToDoList *list = sheet.list(listForNew());
+    const bool isOffered = list && list->kind == ListKind::Shopping && !typed.trimmed().isEmpty();
+    m_entry->setOffers(isOffered ? ToDoActions::offered(sheet, list->id, typed) : QStringList());
+}
+
+bool ItemsView::isTemplate() const
+{
+    const ToDoList *list = m_desk.lists.sheet().list(shown().list);
+    return shown().kind == Shown::List && list && list->kind == ListKind::Template;
 }
 
 /// The planner has less room for a text than the lists.

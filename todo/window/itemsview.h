@@ -31,6 +31,9 @@ public:
     /// Puts the button of "Add" beside the line.
     void setAddButton(QPushButton *button);
 
+    /// A button in the foot that is shown in Today, while something is overdue.
+    void setOverdueButton(QPushButton *button) { m_overdue = button; }
+
     /// Shows another view, with the focus where one types or, `isQuiet`, where it is.
     void show(const Shown &shown);
     /// The lists have changed.
@@ -39,6 +42,8 @@ public:
     void finishEdit();
     /// The list into which something new goes; 0 where there is none.
     int listForNew() const;
+    /// Whether the list that is shown is a template: its items have days in place of dates, and no ticks.
+    bool isTemplate() const;
     /// Whether something new can be typed in this view.
     bool takesNew() const;
     /// The chosen items; nothing that is only shown.
@@ -68,6 +73,7 @@ private:
     void showTitle();
     void showEmptiness();
     void showHint();
+    void offer(const QString &typed);
     void placeNote();
 
     ToDoDesk m_desk;
@@ -82,4 +88,5 @@ private:
     QWidget *m_empty;
     QLabel *m_words;
     NoteBox *m_note;
+    QPushButton *m_overdue = nullptr;
 };

@@ -143,13 +143,16 @@ void ListsPane::refresh()
     }
     m_viewRows->setRows(std::move(rows));
     rows.clear();
+    std::vector<PaneRows::Row> templates;
     for (const ToDoList &list : m_openLists.sheet().lists()) {
-        if (list.kind == ListKind::Template)
-            continue;
         const ToDoCounts::OfList count = counts.lists.value(list.id);
-        rows.push_back({list.id, list.name, count.open, count.isOverdue});
+        if (list.kind == ListKind::Template)
+            templates.push_back({list.id, list.name, 0, false, true});
+        else
+            rows.push_back({list.id, list.name, count.open, count.isOverdue});
     }
     m_count->setText(ToDoWindowLines::countOfLists(rows.size()));
+    rows.insert(rows.end(), templates.begin(), templates.end());
     m_listRows->setRows(std::move(rows));
     show(m_shown);
 }

@@ -64,7 +64,7 @@ QString OrderCommands::whyNoOrder() const
 {
     if (const QString why = m_desk.lists.whyLocked(); !why.isEmpty())
         return why;
-    if (m_view.chosen().empty())
+    if (!m_view.grid().isAnyChosen())
         return ToDoWindowLines::noneChosen();
     const bool isOwnOrder =
         m_view.shown().kind == Shown::List && m_view.model().order() == ToDoViews::Order::Own;

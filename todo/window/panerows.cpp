@@ -47,6 +47,7 @@ QVariant PaneRows::data(const QModelIndex &index, int role) const
     const Row &row = m_rows[std::size_t(index.row())];
     switch (role) {
     case Qt::DisplayRole:
+        return row.isTemplate ? ToDoWindowLines::templateOf(row.name) : row.name;
     case Qt::EditRole:
         return row.name;
     case Qt::AccessibleTextRole:

@@ -21,6 +21,7 @@ public:
         QString name;
         int count = 0;
         bool isOverdue = false;
+        bool isTemplate = false;
 
         bool operator==(const Row &) const = default;
     };

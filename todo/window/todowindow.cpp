@@ -158,6 +158,10 @@ void ToDo1::makeButtons()
         commands().button(m_items->addCommand(), u"addItemButton"_s, u"&Add"_s, m_view, ButtonKind::Main));
     foot.addLeft(commands().button(m_items->removeCommand(), u"removeItem"_s,
                                    m_items->removeCommand()->text(), &foot));
+    QPushButton *overdue = commands().button(m_items->overdueCommand(), u"moveOverdue"_s,
+                                             m_items->overdueCommand()->text(), &foot);
+    foot.addLeft(overdue);
+    m_view->setOverdueButton(overdue);
     foot.addRight(
         commands().button(m_items->tickCommand(), u"tickItem"_s, m_items->tickCommand()->text(), &foot));
     foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
@@ -191,6 +195,9 @@ void ToDo1::connectParts()
     connect(m_listCommands, &ListCommands::wanted, this, [this](const Shown &shown) {
         bring(shown);
         m_view->setFocus();
+    });
+    connect(&m_view->grid(), &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
+        findChild<QMenu *>(u"mE"_s)->popup(m_view->grid().viewport()->mapToGlobal(place));
     });
     connect(&activity(), &ActivityBar::dayBegan, this, &ToDo1::followLists);
 }

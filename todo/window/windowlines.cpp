@@ -52,7 +52,7 @@ QString ToDoWindowLines::title(const Shown &shown, const ToDoList *list)
 {
     switch (shown.kind) {
     case Shown::List:
-        return list ? list->name : QString();
+        return !list ? QString() : list->kind == ListKind::Template ? templateOf(list->name) : list->name;
     case Shown::Search:
         return u"Found: \u201c%1\u201d"_s.arg(shown.words);
     default:

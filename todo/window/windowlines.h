@@ -54,6 +54,21 @@ inline QString listSpoken(const QString &name, int count)
     return count > 0 ? u"%1, %2 to do"_s.arg(name).arg(count) : name;
 }
 
+inline QString templateOf(const QString &name)
+{
+    return u"%1 (template)"_s.arg(name);
+}
+
+inline QString templateNotTicked()
+{
+    return u"A template is never done: New List from Template makes a list of it"_s;
+}
+
+inline QString tickSpoken(bool isDone)
+{
+    return isDone ? u"done"_s : u"not done"_s;
+}
+
 inline QString countOfLists(std::size_t count)
 {
     return count == 1 ? u"1 list"_s : u"%1 lists"_s.arg(count);

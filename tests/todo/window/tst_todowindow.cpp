@@ -10,6 +10,8 @@
 #include "todo/window/todowindow.h"
 
 #include <QClipboard>
+#include <QComboBox>
+#include <QCompleter>
 #include <QGuiApplication>
 #include <QListView>
 #include <QPlainTextEdit>
@@ -239,6 +241,72 @@ private slots:
         QVERIFY(texts(ToDoRow::Item, ItemsModel::Due).join(u' ').contains(u"2027"_s));
         trigger("mEUndo");
         QCOMPARE(names("toDoLists").size(), 1);
+    }
+
+    void offersWhatWasBoughtBefore()
+    {
+        open();
+        trigger("mLNew");
+        find<QComboBox>("newListBeginning")->setCurrentIndex(1);
+        typeInto(find<QLineEdit>("newListName"), u"Shopping"_s);
+        click("newListMake");
+        enter(u"Rye bread"_s);
+        enter(u"Milk"_s);
+        grid()->setFocus();
+        chooseRows(0, 1);
+        trigger("mETick");
+        trigger("mVToday");
+        chooseList(1);
+        QCOMPARE(texts(), QStringList());
+        auto *box = find<QLineEdit>("newItem");
+        typeInto(box, u"bre"_s);
+        QCOMPARE(box->completer()->completionModel()->index(0, 0).data().toString(), u"Rye bread"_s);
+        box->clear();
+        enter(u"milk"_s);
+        QCOMPARE(texts(), QStringList{u"Milk"_s});
+        trigger("mVDone");
+        QCOMPARE(texts(), QStringList{u"Rye bread"_s});
+    }
+
+    void keepsAListAsATemplateAndMakesAnotherOfIt()
+    {
+        open();
+        chooseList(0);
+        enter(u"Pack"_s);
+        grid()->setFocus();
+        grid()->setCurrentIndex(index(0, ItemsModel::Due));
+        typeCell(u"11/18/2026"_s);
+        trigger("mLKeep");
+        QCOMPARE(names("toDoLists"), (QStringList{u"To Do"_s, u"To Do template (template)"_s}));
+        chooseList(1);
+        QCOMPARE(cell(0, ItemsModel::Due), u"3 days before"_s);
+        grid()->setFocus();
+        grid()->setCurrentIndex(index(0, ItemsModel::Due));
+        typeCell(u"-5"_s);
+        trigger("mETick"); // never done
+        QCOMPARE(cell(0, ItemsModel::Actual), QString());
+        trigger("mLFrom");
+        find<QLineEdit>("newListName")->setText(u"Trip"_s);
+        find<QLineEdit>("newListDate")->setText(u"11/29/2026"_s);
+        click("newListMake");
+        QCOMPARE(labelText("toDoTitle"), u"Trip"_s);
+        QCOMPARE(cell(0, ItemsModel::Due), u"Tue, Nov 24"_s);
+    }
+
+    void movesWhatIsOverdueToToday()
+    {
+        open();
+        chooseList(0);
+        enter(u"Renew passports"_s);
+        grid()->setFocus();
+        grid()->setCurrentIndex(index(0, ItemsModel::Due));
+        typeCell(u"11/15/2026"_s);
+        QVERIFY(!find<QPushButton>("moveOverdue")->isVisible());
+        trigger("mVToday");
+        QCOMPARE(labelText("toDoWords"), u"1 overdue"_s);
+        click("moveOverdue");
+        QCOMPARE(labelText("toDoWords"), u"1 today"_s);
+        QVERIFY(!find<QPushButton>("moveOverdue")->isVisible());
     }
 
     void asksBeforeAListIsDeletedAndBringsItBack()
