@@ -64,6 +64,8 @@ ItemGrid::ItemGrid(ItemsModel &model, Writing &writing, QWidget *parent)
     m_question->setAutoFillBackground(true);
     m_question->setMargin(6);
     m_question->hide();
+    connect(&model, &QAbstractItemModel::modelReset, this, &ItemGrid::span);
+    connect(&model, &QAbstractItemModel::modelReset, this, &ItemGrid::showSorting);
     for (const auto changed : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(&model, changed, this, &ItemGrid::span);
     connect(&model, &QAbstractItemModel::dataChanged, this, &ItemGrid::showSorting);
@@ -87,6 +89,7 @@ void ItemGrid::makeHeading()
 void ItemGrid::span()
 {
     clearSpans();
+    verticalHeader()->setDefaultSectionSize(usualRowHeight()); // all rows at once
     for (int row = 0; row < m_model.rowCount(); ++row) {
         const ToDoRow::Kind kind = m_model.rowAt(row).kind;
         if (kind != ToDoRow::Item)

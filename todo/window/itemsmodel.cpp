@@ -15,6 +15,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+/// A view takes longer to let more rows come and go than to begin anew.
+constexpr int mostMoved = 200;
+} // namespace
+
 ItemsModel::ItemsModel(const Program &program, const OpenLists &lists, QObject *parent)
     : QAbstractTableModel(parent)
     , m_program(program)
@@ -58,6 +63,12 @@ void ItemsModel::setRows(std::vector<ToDoRow> rows)
         ++behind;
     const auto goes = int(m_rows.size() - first - behind);
     const auto comes = int(rows.size() - first - behind);
+    if (goes + comes > mostMoved) {
+        beginResetModel();
+        m_rows = std::move(rows);
+        endResetModel();
+        return;
+    }
     if (goes > 0) {
         beginRemoveRows({}, int(first), int(first) + goes - 1);
         m_rows.erase(m_rows.begin() + qsizetype(first), m_rows.begin() + qsizetype(first) + goes);
