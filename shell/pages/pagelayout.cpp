@@ -23,6 +23,7 @@ constexpr double blankGap = 8;
 constexpr double frame = 0.3 * pointsPerInch; ///< from the edges of the sheet
 constexpr double frameWidth = 0.75;
 constexpr qsizetype manyLines = 20;
+constexpr std::size_t mostRowsKept = 5; ///< with the rules between them, on one sheet
 
 double usable(double inches)
 {
@@ -175,9 +176,31 @@ bool PageLayout::cut(std::size_t mostSheets)
     while (const auto next = SheetFlow(*this, int(m_starts.size())).fill(m_starts.back())) {
         if (m_starts.size() == mostSheets)
             return false;
-        m_starts.push_back(withItsHeading(*next, m_starts.back()));
+        m_starts.push_back(withItsHeading(withItsTable(*next, m_starts.back()), m_starts.back()));
     }
     return true;
+}
+
+/// A small table is not parted: where a sheet would begin within one, it begins with it.
+SheetStart PageLayout::withItsTable(const SheetStart &next, const SheetStart &before) const
+{
+    const auto &items = m_page.items();
+    const auto isOfTable = [&items](std::size_t item) {
+        return item < items.size() && (std::holds_alternative<PageItem::Row>(items[item]) ||
+                                       std::holds_alternative<PageItem::Rule>(items[item]));
+    };
+    std::size_t first = next.item;
+    std::size_t end = next.item;
+    while (first > 0 && end - first <= mostRowsKept && isOfTable(first - 1))
+        --first;
+    while (end - first <= mostRowsKept && isOfTable(end))
+        ++end;
+    const bool isParted = next.line == 0 && first < next.item && next.item < end;
+    const bool isSmall = end - first <= mostRowsKept && first > before.item + 1;
+    if (!isParted || !isSmall)
+        return next;
+    const auto *columns = std::get_if<PageItem::Columns>(&items[first - 1]);
+    return columns && columns->across == 1 ? SheetStart{.item = first - 1} : next;
 }
 
 /// A heading never stands alone at the foot of a sheet: it goes along with the line, table or picture that
@@ -216,7 +239,7 @@ void PageLayout::keepClosingInCompany()
     if (!isText || before.item + 1 >= first)
         return;
     m_starts.back().item = first;
-    m_starts.back() = withItsHeading(m_starts.back(), before);
+    m_starts.back() = withItsHeading(withItsTable(m_starts.back(), before), before);
 }
 
 void PageLayout::paint(QPainter &painter, int index) const

@@ -66,6 +66,7 @@ private:
     void fitTables(const PageFont &font);
     void cutIntoSheets();
     bool cut(std::size_t mostSheets);
+    SheetStart withItsTable(const SheetStart &next, const SheetStart &before) const;
     /// `next`, or the heading before it; `before` is where the sheet before it begins.
     SheetStart withItsHeading(const SheetStart &next, const SheetStart &before) const;
     void keepClosingInCompany();

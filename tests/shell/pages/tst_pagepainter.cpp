@@ -160,6 +160,20 @@ private slots:
         }
     }
 
+    void smallTablesAreNotParted()
+    {
+        for (int rows = 20; rows < 60; ++rows) {
+            Page page = numbered(rows);
+            page.line(u"Years"_s, TextRole::Heading).columns({1, 1}, {u"Year"_s, u"Cost"_s});
+            page.row({u"2025"_s, u"1"_s}).row({u"2026"_s, u"2"_s}).rule().row({u"Together"_s, u"3"_s});
+            const PagePainter painter(page.line(u"after"_s).close(printedOn, DateStyle::Usa), {}, bodyFont());
+            for (int sheet = 0; sheet < painter.sheetCount(); ++sheet) {
+                const QString text = painter.text(sheet);
+                QCOMPARE(text.contains(u"Years"_s), text.contains(u"Together"_s));
+            }
+        }
+    }
+
     void headingsStandWithWhatTheyLead_data()
     {
         using Add = void (*)(Page &);
