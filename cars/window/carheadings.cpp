@@ -92,8 +92,8 @@ void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) 
     const QRect place = QRect(left, rect.top() + around / 4, width, metrics.height() + 2)
                             .adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
     const bool isNarrow = metrics.horizontalAdvance(group) > place.width();
-    const QString words =
-        isNarrow ? model()->headerData(section, orientation(), CarCell::shortGroupRole).toString() : group;
+    const QString shorter = model()->headerData(section, orientation(), CarCell::shortGroupRole).toString();
+    const QString &words = isNarrow && !shorter.isEmpty() ? shorter : group;
     painter->save();
     painter->setClipRect(rect);
     painter->setFont(TypeScale::label());

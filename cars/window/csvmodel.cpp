@@ -41,8 +41,11 @@ void CsvModel::show(CarCsvImport *import, CarPart part, DistanceUnit unit)
         QStringList{u"Line"_s} + CarRows::headings(part, unit) + QStringList{u"What becomes of it"_s};
     m_inFile = QStringList(m_headings.size());
     const QStringList names = import ? import->fileColumns() : QStringList();
-    for (int column = 0; import && column < CarRows::columnCount(part); ++column)
-        m_inFile[column + 1] = names.value(import->placeOf(column));
+    for (int column = 0; import && column < CarRows::columnCount(part); ++column) {
+        const QString name = names.value(import->placeOf(column));
+        if (name != m_headings[column + 1])
+            m_inFile[column + 1] = name;
+    }
     endResetModel();
 }
 

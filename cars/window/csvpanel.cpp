@@ -113,6 +113,7 @@ void CsvPanel::shareWidth()
         const int least = body.averageCharWidth() * leastDescription;
         m_view->setColumnWidth(description, std::max(least, left));
     }
+    m_view->updateGeometry(); // its heading may have another height now
 }
 
 /// What a column of the grid is in the file, as a choice.
