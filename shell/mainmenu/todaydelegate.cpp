@@ -132,7 +132,9 @@ void TodayDelegate::paintLine(QPainter &painter, const QStyleOptionViewItem &opt
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, where.width()));
     };
     const auto ink = index.data(TodayModel::IsOverRole).toBool() ? ThemeRole::quiet : QPalette::WindowText;
-    if (static_cast<const TodayModel *>(index.model())->hasTimes()) {
+    // A column without times has that room for its words.
+    const int firstLine = index.row() - index.row() % m_columnLength;
+    if (static_cast<const TodayModel *>(index.model())->hasTimes(firstLine, m_columnLength)) {
         const QRect time(place.left(), place.top(), timeWidth(), place.height());
         write(TypeScale::body(), ink, time, Qt::AlignRight, index.data(TodayModel::TimeRole).toString());
         place.setLeft(time.right() + gap);

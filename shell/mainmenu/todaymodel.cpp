@@ -139,9 +139,10 @@ QString TodayModel::text(const Line &line) const
     return line.last == line.day ? text : text + u" until "_s + dayText(line.last);
 }
 
-bool TodayModel::hasTimes() const
+bool TodayModel::hasTimes(int first, int count) const
 {
-    return std::ranges::any_of(m_lines, [](const Line &line) { return line.note.note.time.isValid(); });
+    return std::ranges::any_of(m_lines.mid(first, count),
+                               [](const Line &line) { return line.note.note.time.isValid(); });
 }
 
 QString TodayModel::dayText(QDate day) const

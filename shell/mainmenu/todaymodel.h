@@ -38,7 +38,8 @@ public:
     /// How many lines there would be if there was room.
     int wanted() const { return int(m_notes.size()); }
     const Line &line(int row) const { return m_lines[row]; }
-    bool hasTimes() const;
+    /// Whether one of `count` lines from `first` on has a time.
+    bool hasTimes(int first, int count) const;
     QString dayText(QDate day) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
