@@ -2,6 +2,7 @@
 #include "shell/controls/figurestrip.h"
 
 #include "shell/controls/controls.h"
+#include "shell/controls/lowwindow.h"
 #include "shell/look/theme.h"
 
 #include <QGridLayout>
@@ -22,9 +23,10 @@ FigureStrip::FigureStrip(const QString &name, QWidget *parent)
 {
     setObjectName(name);
     setPalette(Theme::of(this).panelPalette()); // not the panel's ink: it has a ground of its own
-    m_grid->setContentsMargins(16, 7, 16, 8);
     m_grid->setHorizontalSpacing(16);
-    m_grid->setVerticalSpacing(6);
+    auto *low = new LowWindow(this);
+    connect(low, &LowWindow::changed, this, &FigureStrip::setLow);
+    setLow(low->isLow());
 }
 
 FigureStrip::Labels FigureStrip::make()
@@ -98,6 +100,12 @@ void FigureStrip::arrange()
         m_grid->removeWidget(labels.place);
     for (qsizetype i = 0; i < m_count; ++i)
         m_grid->addWidget(m_labels[i].place, int(i / perRow), int(i % perRow));
+}
+
+void FigureStrip::setLow(bool isLow)
+{
+    m_grid->setContentsMargins(16, isLow ? 4 : 7, 16, isLow ? 5 : 8);
+    m_grid->setVerticalSpacing(isLow ? 3 : 6);
 }
 
 void FigureStrip::resizeEvent(QResizeEvent *event)

@@ -38,6 +38,7 @@ private:
     Labels make();
     qsizetype perRow() const;
     void arrange();
+    void setLow(bool isLow);
 
     QGridLayout *m_grid;
     QList<Labels> m_labels;

@@ -38,7 +38,7 @@ void TitledView::setLow(bool isLow)
 {
     m_rows->setContentsMargins(20, isLow ? 8 : 16, 20, isLow ? 10 : 18);
     for (QVBoxLayout *rows : {m_rows, m_parts})
-        rows->setSpacing(isLow ? 8 : 12);
+        rows->setSpacing(isLow ? 6 : 12);
 }
 
 void TitledView::addContent(QWidget *content, int stretch)

@@ -69,7 +69,7 @@ WeighInTable::WeighInTable(WeighInModel *model, QWidget *parent)
     auto *heading = new Headings(this);
     setHorizontalHeader(heading);
     heading->setSectionResizeMode(QHeaderView::Stretch);
-    for (const auto &[column, width] : {std::pair(WeighInModel::Date, 112), {WeighInModel::Weight, 92}}) {
+    for (const auto &[column, width] : {std::pair(WeighInModel::Date, 104), {WeighInModel::Weight, 88}}) {
         heading->setSectionResizeMode(column, QHeaderView::Fixed);
         heading->resizeSection(column, TypeScale::wide(width));
     }
@@ -79,6 +79,28 @@ WeighInTable::WeighInTable(WeighInModel *model, QWidget *parent)
     connect(heading, &QHeaderView::sectionResized, this, &WeighInTable::fitHeadings);
     fitHeadings();
     keepEndInSight();
+}
+
+/// The last two columns share what the others leave. Where there is little of it, the last one has two lines
+/// for its heading and the one before it the rest.
+void WeighInTable::shareWidth()
+{
+    QHeaderView *heading = horizontalHeader();
+    const int room = viewport()->width() - heading->sectionSize(WeighInModel::Date) -
+                     heading->sectionSize(WeighInModel::Weight);
+    const QFontMetrics metrics(TypeScale::body());
+    const int last = metrics.horizontalAdvance(u"Beginning Weight"_s) + headingMargins + 1;
+    const int least = metrics.horizontalAdvance(u"Change from"_s) + headingMargins + 1;
+    const bool isNarrow = room / 2 < last && room - last >= least;
+    heading->setSectionResizeMode(WeighInModel::Change, isNarrow ? QHeaderView::Fixed : QHeaderView::Stretch);
+    if (isNarrow)
+        heading->resizeSection(WeighInModel::Change, room - last);
+}
+
+void WeighInTable::resizeEvent(QResizeEvent *event)
+{
+    shareWidth();
+    CellGrid::resizeEvent(event);
 }
 
 /// A heading in a narrow column has as many lines as its words need.

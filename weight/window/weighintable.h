@@ -25,7 +25,11 @@ signals:
     /// The heading of the dates was clicked while the rows stand in the order of the file.
     void sortWanted();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void shareWidth();
     void fitHeadings();
     void keepEndInSight();
     void sortBy(int column);
