@@ -82,8 +82,8 @@ YearsView::YearsView(QWidget *parent)
     auto *work = new QWidget(this);
     m_sides = new QBoxLayout(QBoxLayout::LeftToRight, work);
     m_sides->setContentsMargins(0, 0, 0, 0);
-    m_sides->addWidget(makeComparison(), 3);
-    m_sides->addWidget(makeAside(), 2);
+    m_sides->addWidget(makeComparison(), 5);
+    m_sides->addWidget(makeAside(), 4);
     setContent(work);
     QPushButton *print = addButton(u"yearsPrint"_s, u"&Print"_s);
     connect(print, &QPushButton::clicked, this, &YearsView::printWanted);

@@ -27,6 +27,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int PathRole = Qt::UserRole;
+constexpr int leastFileWidth = 136; ///< for a name of a dozen letters beside a bar
 
 QListWidget *makeList(const QString &name, QWidget *parent)
 {
@@ -89,6 +90,7 @@ QWidget *PicturePanel::makeLists()
     m_driveList->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_folderList = makeList(u"Dir1"_s, this);
     m_fileList = makeList(u"File1"_s, this);
+    m_fileList->setMinimumWidth(TypeScale::wide(leastFileWidth));
     auto *places = new QVBoxLayout;
     places->setSpacing(12);
     places->addLayout(labelled(u"Drives:"_s, m_driveList));
