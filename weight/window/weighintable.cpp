@@ -17,7 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 /// Beside the words of a heading, and above and below them.
-constexpr int headingMargins = 24;
+constexpr int headingMargins = 20;
 constexpr int headingAir = 12;
 constexpr int sortSign = 16;
 
@@ -69,7 +69,7 @@ WeighInTable::WeighInTable(WeighInModel *model, QWidget *parent)
     auto *heading = new Headings(this);
     setHorizontalHeader(heading);
     heading->setSectionResizeMode(QHeaderView::Stretch);
-    for (const auto &[column, width] : {std::pair(WeighInModel::Date, 104), {WeighInModel::Weight, 88}}) {
+    for (const auto &[column, width] : {std::pair(WeighInModel::Date, 100), {WeighInModel::Weight, 84}}) {
         heading->setSectionResizeMode(column, QHeaderView::Fixed);
         heading->resizeSection(column, TypeScale::wide(width));
     }
