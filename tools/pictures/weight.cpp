@@ -3,6 +3,7 @@
 #include "tools/pictures/picturesession.h"
 #include "weight/model/personfiles.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -51,6 +52,31 @@ void furnish(const DataFolder &folder)
         qFatal("a person cannot be written");
 }
 
+/// The first person's file is noise, and the second's counts too few of its rows.
+void damage(const DataFolder &folder)
+{
+    QFile noise(folder.filePath(u"Karin Holm.Fil"_s));
+    QFile miscounted(folder.filePath(u"Nils Holm 2026.Fil"_s));
+    if (!noise.open(QIODevice::WriteOnly | QIODevice::Truncate) || noise.write("?") < 1 ||
+        !miscounted.open(QIODevice::ReadWrite) || miscounted.write("\"40\"") < 1)
+        qFatal("the file of a person cannot be written");
+}
+
+void takeDamage(const Camera &camera)
+{
+    PictureSession session(camera);
+    damage(session.program().folder);
+    session.open(Function::WeightTracker);
+    session.take("weight-trouble");
+    session.trigger("mOPrt");
+    session.take("weight-print-none");
+    session.key(Qt::Key_Escape);
+    session.clickRow("Combo1", 1);
+    session.take("weight-uncounted");
+    session.fill("weighInWeight", u"191.4"_s);
+    session.box([&] { session.key(Qt::Key_Return); }, [&] { session.take("weight-uncounted-question"); });
+}
+
 } // namespace
 
 void Albums::weight(const Camera &camera)
@@ -62,6 +88,7 @@ void Albums::weight(const Camera &camera)
         session.clickRow("Combo1", 1);
         session.take("weight-household");
     }
+    takeDamage(camera);
     PictureSession session(camera);
     furnish(session.program().folder);
     session.open(Function::WeightTracker);

@@ -114,7 +114,10 @@ void WeighInTable::fitHeadings()
         const QString words = model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
         height = std::max(height, metrics.boundingRect(room, Qt::TextWordWrap, words).height());
     }
+    if (height + headingAir == heading->height())
+        return;
     heading->setFixedHeight(height + headingAir);
+    updateGeometry(); // what it stands in leaves room for whole rows below the heading
 }
 
 /// The last weigh-in stays in sight when the table becomes lower, until somebody scrolls to another.

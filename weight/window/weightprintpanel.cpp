@@ -11,6 +11,7 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -80,7 +81,6 @@ WeightPrintPanel::WeightPrintPanel(Program &program, FunctionWindow *window,
     setContent(content);
     m_show = addButton(u"weightPrintShow"_s, u"Show &Pages"_s, ButtonKind::Main);
     setLeaveButton(u"weightPrintClose"_s, u"C&lose"_s);
-    setFocusProxy(m_choices.front());
     connect(m_show, &QPushButton::clicked, this, &WeightPrintPanel::print);
 }
 
@@ -121,6 +121,7 @@ void WeightPrintPanel::start()
     offer(&Options::beginningPicture, !sheet.beginningPicture.trimmed().isEmpty(),
           WeightPaperLines::noPhoto());
     offer(&Options::currentPicture, !sheet.currentPicture.trimmed().isEmpty(), WeightPaperLines::noPhoto());
+    setFocusProxy(*std::ranges::find_if(m_choices, &QCheckBox::isEnabled)); // the lines always are
 }
 
 /// What cannot be printed is left out, whatever was chosen for others.

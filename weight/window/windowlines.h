@@ -151,10 +151,8 @@ inline QString nothingToShow()
 /// Rows that the file has behind the last one it counts.
 inline QString uncounted(qsizetype count)
 {
-    return count == 1
-               ? u"The file has 1 more weigh-in than it counts; the next save asks about it."_s
-               : u"The file has %1 more weigh-ins than it counts; the next save asks about them."_s.arg(
-                     count);
+    return count == 1 ? u"The file has 1 more weigh-in than it counts"_s
+                      : u"The file has %1 more weigh-ins than it counts"_s.arg(count);
 }
 
 inline QString uncountedTaken()
