@@ -238,6 +238,34 @@ private slots:
         QVERIFY(!m_test->folder.exists(nils + u".Fil"_s));
     }
 
+    /// A weigh-in saves whatever else was typed.
+    void renamesAPersonWithAWeighIn()
+    {
+        open(TestProgram::Household);
+        choose(1);
+        const auto weighAs = [this](const QString &name) {
+            trigger("mVPlan");
+            fill("Text1_0", name);
+            trigger("mVWeigh");
+            typeInto(find<QLineEdit>("weighInWeight"), u"191"_s);
+            QTest::keyClick(find<QLineEdit>("weighInWeight"), Qt::Key_Return);
+        };
+        weighAs(u"karin holm"_s);
+        QCOMPARE(asked(), {WeightMessages::nameTaken(u"karin holm"_s)});
+        QVERIFY(file(nils).startsWith("\"50\""));
+        QVERIFY(m_window->isModified());
+        weighAs(u"Nils"_s);
+        QCOMPARE(names()[1], u"Nils"_s);
+        QCOMPARE(list()->currentIndex().row(), 1);
+        QVERIFY(file(u"Nils"_s).startsWith("\"52\""));
+        QVERIFY(!m_test->folder.exists(nils + u".Fil"_s));
+        QVERIFY(!m_window->isModified());
+        QCOMPARE(said(), u"Added and saved: 191., 11/21/2026"_s);
+        trigger("mEUndo");
+        QVERIFY(file(u"Nils"_s).startsWith("\"51\""));
+        QVERIFY(!m_window->isModified());
+    }
+
     void deletesAPersonAndBringsThemBack()
     {
         open(TestProgram::Household);
