@@ -37,7 +37,7 @@ CheckedText::~CheckedText()
 /// The text must not be changed before this change is complete.
 void CheckedText::noteChange(int place, int removed, int added)
 {
-    if (m_isReplacing || removed == added) // the same number: only marks
+    if (m_isReplacing)
         return;
     m_isTyped = removed == 0 && added == 1 && place + added == cursor();
     if (!m_isTyped)

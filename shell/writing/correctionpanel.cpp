@@ -177,12 +177,16 @@ QString CorrectionPanel::whyNotChange() const
 
 void CorrectionPanel::refreshButtons()
 {
-    setUnavailable(m_buttons.add, whyNotAdd());
-    setUnavailable(m_buttons.change, whyNotChange());
-    setUnavailable(m_buttons.remove, chosen().isEmpty() ? WritingLines::noCorrectionChosen() : QString());
+    const QString &locked = m_writing.whyReadOnly();
+    const auto unless = [&locked](QPushButton *button, const QString &why) {
+        setUnavailable(button, locked.isEmpty() ? why : locked);
+    };
+    unless(m_buttons.add, whyNotAdd());
+    unless(m_buttons.change, whyNotChange());
+    unless(m_buttons.remove, chosen().isEmpty() ? WritingLines::noCorrectionChosen() : QString());
     const bool isFirst = m_writing.corrections() == Corrections::firstTable();
-    setUnavailable(m_buttons.restore, isFirst ? WritingLines::isFirstTable() : QString());
-    setUnavailable(m_buttons.undo, m_before.empty() ? WritingLines::nothingToUndo() : QString());
+    unless(m_buttons.restore, isFirst ? WritingLines::isFirstTable() : QString());
+    unless(m_buttons.undo, m_before.empty() ? WritingLines::nothingToUndo() : QString());
 }
 
 bool CorrectionPanel::save(const Corrections &table, const QString &chosen)
@@ -219,6 +223,8 @@ void CorrectionPanel::change()
 
 void CorrectionPanel::remove()
 {
+    if (!m_buttons.remove->isEnabled())
+        return;
     const int row = m_view->currentIndex().row();
     Corrections table = m_writing.corrections();
     table.remove(chosen());
@@ -244,12 +250,12 @@ void CorrectionPanel::undo()
 /// Enter in a box: what is new is added, the chosen row changed.
 void CorrectionPanel::enter()
 {
-    if (whyNotAdd().isEmpty())
+    if (m_buttons.add->isEnabled())
         add();
-    else if (whyNotChange().isEmpty())
+    else if (m_buttons.change->isEnabled())
         change();
     else
-        emit said(whyNotAdd());
+        emit said(m_buttons.add->statusTip());
 }
 
 bool CorrectionPanel::eventFilter(QObject *watched, QEvent *event)

@@ -62,10 +62,28 @@ bool isWordList(const QString &dicPath)
     return isNumber && count > 0 && count <= QFileInfo(dicPath).size() / 2 + 1;
 }
 
+/// Whether the letters that a file of rules names are letters. The library reads broken ones beyond their end
+/// while it looks for suggestions. Flags and comments may be bytes of any kind.
+bool hasWholeLetters(const QString &affPath)
+{
+    static constexpr std::array kinds{"TRY",  "KEY",    "REP",   "MAP",   "PHONE", "BREAK",
+                                      "WORD", "IGNORE", "ICONV", "OCONV", "CHECK"};
+    const QByteArray rules = headOf(affPath, Dictionaries::mostBytes);
+    return !rules.contains('\0') && std::ranges::all_of(rules.split('\n'), [](const QByteArray &line) {
+        const auto begins = [&line](const char *kind) { return line.startsWith(kind); };
+        return line.isValidUtf8() || std::ranges::none_of(kinds, begins);
+    });
+}
+
 bool isReadable(const QString &path)
 {
     const QFileInfo file(path);
     return file.isFile() && file.isReadable() && file.size() > 0;
+}
+
+bool isAsItSays(const DictionaryFiles &files)
+{
+    return !files.encoding.toUpper().startsWith("UTF") || hasWholeLetters(files.affPath);
 }
 
 QString languageOf(const QString &name)
@@ -132,7 +150,7 @@ DictionaryFiles Dictionaries::examined(DictionaryFiles files)
         files.whyNot = WritingLines::tooLarge();
     else if (!isKnownEncoding(files.encoding))
         files.whyNot = WritingLines::unknownEncoding(QString::fromLatin1(files.encoding));
-    else if (!isWordList(files.dicPath))
+    else if (!isWordList(files.dicPath) || !isAsItSays(files))
         files.whyNot = WritingLines::notADictionary();
     return files;
 }

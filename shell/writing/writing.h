@@ -49,6 +49,8 @@ public:
     /// False where the disk refuses, or the file there is none that may be written: then nothing changes.
     [[nodiscard]] bool setCorrections(const Corrections &corrections);
     bool mayCorrectionsBeSaved() const;
+    /// Why nothing of the household can be changed; empty where it can.
+    const QString &whyReadOnly() const { return m_home.folder.whyReadOnly(); }
     /// Adds `word` to the household's own, and says how that went.
     void addWord(const QString &word);
     void ignore(const QString &word);

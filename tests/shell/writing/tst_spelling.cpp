@@ -130,6 +130,8 @@ private slots:
                                       {"no number of words", "SET UTF-8\n", "water\nfern\n"},
                                       {"more words than bytes", "SET UTF-8\n", "200000000\nwater\n"},
                                       {"none", "SET UTF-8\n", "0\n"},
+                                      {"broken letters", "SET UTF-8\nTRY es\xff\xc3n\n", "1\nwater\n"},
+                                      {"zero bytes", QByteArray("SET UTF-8\n\0\n", 12), "1\nwater\n"},
                                       {"empty", "", ""},
                                       {"noise", noise, noise}});
     }
