@@ -36,7 +36,7 @@ void SpellingTools::addTo(QMenu *menu, const AddCommand &add)
 {
     add(
         menu, u"mSpCheck"_s, u"&Check Spelling"_s, [this] { walk(); },
-        [this] { return m_writing.isLoaded() ? m_writing.whyNoSpelling() : QString(); }, Qt::Key_F7);
+        [this] { return m_writing.whyNoSpelling(); }, Qt::Key_F7);
     add(menu, u"mSpTable"_s, u"Correction &Table"_s, [this] { openTable(); }, {}, {});
     menu->addSeparator();
     connect(menu, &QMenu::aboutToShow, this, [this, menu] { listLanguages(menu); });
@@ -66,6 +66,7 @@ void SpellingTools::openTable()
 void SpellingTools::listLanguages(QMenu *menu)
 {
     qDeleteAll(std::exchange(m_languages, {}));
+    m_writing.lookAgain();
     const QStringList chosen = m_writing.languages();
     for (const DictionaryFiles &files : m_writing.dictionaries()) {
         QAction *action = makeAction(u"mSpLanguage_"_s + files.name, files.title(), menu);

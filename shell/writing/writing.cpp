@@ -62,23 +62,28 @@ void Writing::loadLanguages()
 {
     const BusyCursor busy;
     const QStringList chosen = languages();
+    const std::vector<DictionaryFiles> found = dictionaries();
     std::vector<std::unique_ptr<Dictionary>> loaded;
-    for (const DictionaryFiles &files : dictionaries()) {
+    for (const DictionaryFiles &files : found) {
         if (!chosen.contains(files.name))
             continue;
         if (auto dictionary = Dictionary::load(files))
             loaded.push_back(std::move(dictionary));
     }
+    m_whyNoSpelling.clear();
+    if (loaded.empty())
+        m_whyNoSpelling = std::ranges::any_of(found, &DictionaryFiles::isUsable)
+                              ? WritingLines::noLanguageChosen()
+                              : howToGetOne();
     m_spelling.setDictionaries(std::move(loaded));
 }
 
-QString Writing::whyNoSpelling() const
+void Writing::lookAgain()
 {
-    if (m_spelling.hasDictionary())
-        return {};
-    const auto found = dictionaries();
-    const bool isAny = std::ranges::any_of(found, &DictionaryFiles::isUsable);
-    return isAny ? WritingLines::noLanguageChosen() : howToGetOne();
+    if (!m_isLoaded || m_spelling.hasDictionary())
+        return;
+    loadLanguages();
+    emit changed();
 }
 
 bool Writing::setCorrections(const Corrections &corrections)
@@ -141,5 +146,5 @@ void Writing::choose(const QString &language, bool isChosen)
 
 QString Writing::howToGetOne() const
 {
-    return WritingLines::howToGetOne(m_home.dictionaryFolders.value(0));
+    return WritingLines::howToGetOne(m_home.folder.filePath(u"dictionaries"_s));
 }

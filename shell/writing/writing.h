@@ -41,8 +41,10 @@ public:
     /// changed on the disk.
     void load();
     bool isLoaded() const { return m_isLoaded; }
-    /// Why no word can be wrong; empty where one can. Known once it is loaded.
-    QString whyNoSpelling() const;
+    /// Why no word can be wrong; empty where one can, and before it is loaded.
+    const QString &whyNoSpelling() const { return m_whyNoSpelling; }
+    /// Loads what was installed since, where there was nothing before.
+    void lookAgain();
 
     Spelling &spelling() { return m_spelling; }
     const Corrections &corrections() const { return m_corrections; }
@@ -74,6 +76,7 @@ private:
     WritingHome m_home;
     Spelling m_spelling;
     Corrections m_corrections;
+    QString m_whyNoSpelling;
     FileStamp m_read;
     bool m_isLoaded = false;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/writing/corrections.h"
+#include "shell/writing/correctionfile.h"
 #include "shell/writing/dictionaries.h"
 #include "shell/writing/spelling.h"
 #include "shell/writing/spellwalk.h"
@@ -147,6 +147,29 @@ private slots:
         QVERIFY(!found[0].whyNot.isEmpty());
         QVERIFY(!Dictionary::load(found[0]));
         QVERIFY(Dictionaries::firstChoice(found, u"xx_XX"_s).isEmpty());
+    }
+
+    void loadsNoDictionaryOfMoreThan64Megabytes()
+    {
+        const TestFolder folder;
+        putDictionary(folder, u"en_US"_s, "water\n");
+        QVERIFY(foundIn(folder)[0].isUsable());
+        QVERIFY(QFile::resize(folder.path(u"dictionaries/en_US.dic"_s), (64 << 20) + 1));
+        QVERIFY(foundIn(folder)[0].whyNot.contains(u"64 MB"_s));
+    }
+
+    void countsAsRightForNowWhereTheDiskRefuses()
+    {
+        const TestFolder folder;
+        QVERIFY(QDir(folder.folder().path()).mkpath(u"Spell1.Fil"_s));
+        QVERIFY(QDir(folder.folder().path()).mkpath(u"Spell2.Fil"_s));
+        OwnWords words(folder.folder());
+        words.read();
+        QVERIFY(!words.add(u"repot"_s));
+        QVERIFY(words.contains(u"repot"_s));
+        const CorrectionFile file(folder.folder());
+        QCOMPARE(file.read(), Corrections::firstTable());
+        QVERIFY(!file.save({}));
     }
 
     void beginsWithTheLanguageOfTheSystem_data()

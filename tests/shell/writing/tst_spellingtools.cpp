@@ -26,10 +26,8 @@ struct Desk {
     explicit Desk(bool hasDictionary = true)
     {
         QDir(folder.folder().path()).mkpath(u"dictionaries"_s);
-        if (hasDictionary) {
-            folder.put(u"dictionaries/en_US.aff"_s, "SET UTF-8\nTRY esianrtolcdug\n");
-            folder.put(u"dictionaries/en_US.dic"_s, "5\nwater\nthe\nferns\nand\na\n");
-        }
+        if (hasDictionary)
+            putDictionary();
         tools->addTo(menu,
                      [this](QMenu *into, const QString &name, const QString &caption,
                             std::function<void()> run, std::function<QString()>, const QKeySequence &key) {
@@ -53,6 +51,11 @@ struct Desk {
         showActive(window);
     }
 
+    void putDictionary() const
+    {
+        folder.put(u"dictionaries/en_US.aff"_s, "SET UTF-8\nTRY esianrtolcdug\n");
+        folder.put(u"dictionaries/en_US.dic"_s, "5\nwater\nthe\nferns\nand\na\n");
+    }
     void click(const char *name) { QTest::mouseClick(control<QPushButton>(window, name), Qt::LeftButton); }
     bool may(const char *name) const { return control<QPushButton>(window, name)->isEnabled(); }
     QString lastSaid() const { return said.isEmpty() ? QString() : said.last().value(0).toString(); }
@@ -131,6 +134,10 @@ private slots:
         emit none.menu->aboutToShow();
         QCOMPARE(none.menu->actions().last()->text(), u"No dictionary is installed"_s);
         QVERIFY(!none.menu->actions().last()->isEnabled());
+        none.putDictionary();
+        emit none.menu->aboutToShow();
+        QTest::keyClick(&none.window, Qt::Key_F7);
+        QVERIFY(control<FieldBox>(none.window, "spellReplacement")->isVisible());
     }
 
     void listsTheLanguagesThatAreThere()
