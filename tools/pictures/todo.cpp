@@ -40,10 +40,29 @@ void furnish(const DataFolder &folder)
         qFatal("the lists cannot be written");
 }
 
+/// What is wrong while it is typed, word by word, and the table of corrections.
+void takeSpelling(const Camera &camera)
+{
+    PictureSession session(camera);
+    furnish(session.program().folder);
+    session.open(Function::ToDoList);
+    session.fill("newItem", u"Bring the watring can down from the celar "_s);
+    session.take("todo-misspelt");
+    session.key(Qt::Key_Return);
+    session.trigger("mSpCheck");
+    session.take("todo-spelling");
+    session.click("spellClose");
+    session.trigger("mSpTable");
+    session.take("todo-corrections");
+    session.fill("correctionSearch", u"tom"_s);
+    session.take("todo-corrections-found");
+}
+
 } // namespace
 
 void Albums::toDo(const Camera &camera)
 {
+    takeSpelling(camera);
     {
         PictureSession session(camera);
         session.open(Function::ToDoList);
