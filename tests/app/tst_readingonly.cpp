@@ -85,7 +85,8 @@ private slots:
              "mONew mOSave mOSaveNew mOTold mUBringIn mUR"_s,
              u"Command10 addRow createNew deleteRow emptyCreate emptyRestore"_s},
             {"to do list", open<Function::ToDoList>,
-             u"addItem mEDel mEDown mEHead mEItem mENew mENoDate mEOverdue mERedo mEStep mETick mEToday "
+             u"addItem mEBack mEDel mEDown mEHead mEItem mENew mENoDate mEOverdue mERedo mEStep mETick "
+             u"mEToday "
              "mEToday_tool mETomorrow mEUndo mEUp mLDel mLDown mLFrom mLKeep mLName mLNew mLUp mOC mOSave mOTC mUR"_s,
              u"addItemButton moveOverdue newListButton removeItem tickItem"_s},
             {"password control", open<Function::PasswordControl>, u"mOC mOSave"_s,

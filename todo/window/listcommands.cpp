@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/window/listcommands.h"
 
+#include "shell/core/framelines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/frame/trashpanel.h"
 #include "shell/frame/workviews.h"
 #include "shell/program/program.h"
+#include "todo/model/listtrash.h"
 #include "todo/model/messages.h"
 #include "todo/window/itemsview.h"
 #include "todo/window/listspane.h"
@@ -47,6 +50,7 @@ void ListCommands::addCommands(QMenu *menu)
     addOrderCommands(menu);
     menu->addSeparator();
     add(menu, u"mLKeep"_s, u"&Save List as a Template"_s, [this] { keepAsTemplate(); });
+    commands.writing(commands.add(menu, u"mEBack"_s, u"Bring &Back Deleted..."_s, [this] { openTrash(); }));
     menu->addSeparator();
     add(menu, u"mLDel"_s, u"&Delete List"_s, [this] { remove(); });
 }
@@ -166,6 +170,38 @@ void ListCommands::remove()
     const QStringList open = ListActions::openTexts(m_desk.lists.sheet(), gone.id);
     if (m_desk.program.dialogs.ask(&m_desk.window, ToDoMessages::deleteList(gone.name, open)) != Answer::Yes)
         return;
+    const ToDoSheet before = m_desk.lists.sheet();
     emit wanted({});
-    make(ListActions::remove(m_desk.lists.sheet(), gone.id));
+    const ToDoActions::Result result = ListActions::remove(before, gone.id);
+    if (!result.isChange() || !m_desk.lists.change(result.title, result.sheet))
+        return;
+    const Trash::State trash =
+        ListTrash::put(m_desk.program.folder, before, gone.id, m_desk.program.clock.now());
+    emit done(FrameLines::withTrash(result.title, trash));
+}
+
+void ListCommands::openTrash()
+{
+    m_view.finishEdit();
+    if (!m_trash) {
+        m_trash = new TrashPanel(m_desk.program.state.dateStyle, &m_desk.views);
+        m_desk.views.addPanel(m_trash);
+        connect(m_trash, &TrashPanel::chosen, this, &ListCommands::bringBack);
+        connect(m_trash, &TaskPanel::left, &m_desk.views, &WorkViews::goHome);
+    }
+    m_desk.window.closePreview();
+    m_trash->setItems(
+        ListTrash::items(m_desk.program.folder, m_desk.lists.sheet(), m_desk.program.clock.now()));
+    m_desk.views.open(m_trash);
+    m_trash->setFocus();
+}
+
+void ListCommands::bringBack(const Trash::Item &item)
+{
+    const ToDoActions::Result result = ListTrash::bringBack(m_desk.lists.sheet(), item);
+    if (!make(result))
+        return;
+    m_desk.views.goHome();
+    emit wanted({Shown::List, result.ids.front(), {}});
+    emit done(result.title); // another list says nothing as it comes
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/trash.h"
 #include "todo/model/listactions.h"
 #include "todo/model/shown.h"
 #include "todo/window/tododesk.h"
@@ -13,6 +14,7 @@ class ListsPane;
 class NewListPanel;
 class QAction;
 class QMenu;
+class TrashPanel;
 
 /// What is done to whole lists: made, also from a template, renamed, ordered, kept as a template, deleted.
 class ListCommands final : public QObject
@@ -44,10 +46,13 @@ private:
     void moveBy(int direction);
     void keepAsTemplate();
     void remove();
+    void openTrash();
+    void bringBack(const Trash::Item &item);
 
     ToDoDesk m_desk;
     ListsPane &m_pane;
     ItemsView &m_view;
     NewListPanel *m_panel = nullptr;
+    TrashPanel *m_trash = nullptr;
     QAction *m_create = nullptr;
 };

@@ -321,6 +321,15 @@ private slots:
         trigger("mEUndo");
         chooseList(0);
         QCOMPARE(texts(), QStringList{u"Sweep the yard"_s});
+        trigger("mEBack");
+        QVERIFY(!isOffered("bringBack")); // undo has brought it back
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
+        trigger("mERedo");
+        trigger("mEBack");
+        click("bringBack");
+        QCOMPARE(labelText("toDoTitle"), u"To Do"_s);
+        QCOMPARE(texts(), QStringList{u"Sweep the yard"_s});
+        QCOMPARE(said(), u"Brought back: To Do"_s);
     }
 
     void showsWhereAnItemStands()
