@@ -32,10 +32,10 @@ struct Width {
     int usual;
 };
 constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 98, 112},
-                            Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 150, 260},
+                            Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 150, 300},
                             Width{ItemsModel::List, 112, 150}};
 constexpr int leastText = 200;
-constexpr int usualText = 320; ///< from here on the others grow
+constexpr int usualText = 290; ///< from here on the others grow
 
 } // namespace
 

@@ -4,6 +4,7 @@
 #include "shell/core/dates.h"
 #include "shell/program/program.h"
 #include "todo/model/repeat.h"
+#include "todo/window/householdnames.h"
 #include "todo/window/itemdrag.h"
 #include "todo/window/openlists.h"
 #include "todo/window/windowlines.h"
@@ -174,6 +175,21 @@ QString ItemsModel::text(const ToDoItem &item, int column, int role) const
     }
 }
 
+/// Who may be meant, first those who have something to do already. Only asked for when somebody types there.
+QStringList ItemsModel::names() const
+{
+    QStringList names;
+    const ToDoSheet &sheet = m_lists.sheet();
+    for (int row = 0; row < sheet.rowCount(); ++row) {
+        if (sheet.isOpen(row))
+            names << sheet.item(row).who;
+    }
+    names += HouseholdNames::of(m_program);
+    names.removeAll(QString());
+    names.removeDuplicates();
+    return names;
+}
+
 QVariant ItemsModel::itemData(int row, int column, int role) const
 {
     const ToDoSheet &sheet = m_lists.sheet();
@@ -190,6 +206,8 @@ QVariant ItemsModel::itemData(int row, int column, int role) const
                                 : text(sheet.item(place), column, Qt::DisplayRole);
     case Qt::ToolTipRole:
         return column == Text ? QVariant(sheet.item(place).note) : QVariant();
+    case GridCell::choicesRole:
+        return column == Who ? QVariant(names()) : QVariant();
     case doneRole:
         return sheet.isDone(place);
     case stepRole:

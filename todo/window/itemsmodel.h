@@ -78,6 +78,7 @@ private:
     QString text(const ToDoItem &item, int column, int role) const;
     QVariant itemData(int row, int column, int role) const;
     bool isOverdue(int sheetRow) const;
+    QStringList names() const;
 
     const Program &m_program;
     const OpenLists &m_lists;

@@ -5,11 +5,11 @@
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
-#include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 #include "shell/writing/spellingtools.h"
 #include "shell/writing/writing.h"
 #include "todo/window/entryline.h"
+#include "todo/window/householdnames.h"
 #include "todo/window/itemsview.h"
 #include "todo/window/notebox.h"
 #include "todo/window/openlists.h"
@@ -19,17 +19,6 @@
 #include <utility>
 
 namespace {
-
-QStringList knownNames(const Program &program)
-{
-    QStringList names;
-    for (const FunctionFace &face : FunctionFaces::cards()) {
-        const FunctionEntry *entry = program.functions.entry(face.function);
-        if (entry && entry->names && !face.isGuarded(program.state.protectedAreas))
-            names += entry->names(program);
-    }
-    return names;
-}
 
 /// The texts of items have even numbers, their notes the odd ones behind them.
 int numberOf(int item, bool isNote)
@@ -45,7 +34,7 @@ Writing *ToDoSpelling::makeWriting(Program &program, QObject *parent)
         {.folder = program.folder,
          .dictionaryFolders = Dictionaries::folders(program.programFolder.path(), program.folder.path()),
          .store = program.store,
-         .knownNames = [&program] { return knownNames(program); }},
+         .knownNames = [&program] { return HouseholdNames::of(program); }},
         parent);
 }
 

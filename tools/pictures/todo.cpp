@@ -17,7 +17,7 @@ constexpr auto lists =
     "are in the "
     "cellar, second shelf.\r\n"
     "item\t2\t1\t0\t2026-11-21\t\tAnne > Nils > Karin\tday 3 after\t2026-11-18\tWater the ferns\t\r\n"
-    "item\t3\t1\t0\t2026-11-27\t\t\t\t2026-11-10\tPaint the fence\t\r\n"
+    "item\t3\t1\t0\t2026-11-27\t\t\t\t2026-11-10\tPaint the fense\t\r\n"
     "item\t4\t1\t1\t2026-11-24\t\tNils\t\t2026-11-10\tBuy paint and two brushes\t\r\n"
     "item\t5\t1\t1\t\t2026-11-20\tNils\t\t2026-11-10\tSand the rails\t\r\n"
     "item\t6\t1\t0\t\t\tKarin\t\t2026-11-12\tClear the attic\t\r\n"
@@ -35,6 +35,7 @@ constexpr auto lists =
 
 void furnish(const DataFolder &folder)
 {
+    QFile::remove(folder.filePath(u"TODOActv.FIL"_s)); // that of another program
     QFile file(folder.filePath(u"ToDo1.Fil"_s));
     if (!file.open(QIODevice::WriteOnly) || file.write(lists) < 0)
         qFatal("the lists cannot be written");
@@ -89,6 +90,12 @@ void Albums::toDo(const Camera &camera)
     }
     session.fill("toDoSearch", u"the"_s);
     session.take("todo-search");
+    session.trigger("mSpCheck");
+    session.take("todo-spelling");
+    session.key(Qt::Key_Escape);
+    session.trigger("mSpTable");
+    session.take("todo-corrections");
+    session.key(Qt::Key_Escape);
     session.trigger("mVToday");
     session.trigger("mLFrom");
     session.take("todo-new-list");
