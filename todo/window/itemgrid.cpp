@@ -4,6 +4,7 @@
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 #include "todo/window/itemcells.h"
+#include "todo/window/itemcolumns.h"
 #include "todo/window/itemdrag.h"
 #include "todo/window/itemsmodel.h"
 
@@ -22,20 +23,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int tickWidth = 36;
 constexpr int noteRows = 4;
-
-/// What the columns get beside the text of the items, in the font that they were drawn for.
-struct Width {
-    ItemsModel::Column column;
-    int least;
-    int usual;
-};
-constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 98, 112},
-                            Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 150, 300},
-                            Width{ItemsModel::List, 112, 150}};
-constexpr int leastText = 200;
-constexpr int usualText = 290; ///< from here on the others grow
 
 } // namespace
 
@@ -75,7 +63,7 @@ void ItemGrid::makeHeading()
 {
     QHeaderView *heading = horizontalHeader();
     heading->setSectionResizeMode(QHeaderView::Fixed);
-    heading->setMinimumSectionSize(tickWidth);
+    heading->setMinimumSectionSize(ItemColumns::tickWidth);
     heading->setFixedHeight(usualRowHeight() + 4);
     heading->setHighlightSections(false);
     heading->setSectionsClickable(true);
@@ -114,37 +102,13 @@ void ItemGrid::showSorting()
 void ItemGrid::setListShown(bool isShown)
 {
     setColumnHidden(ItemsModel::List, !isShown);
-    shareWidth();
+    ItemColumns::shareWidth(*this);
 }
 
 void ItemGrid::resizeEvent(QResizeEvent *event)
 {
     CellGrid::resizeEvent(event);
-    shareWidth();
-}
-
-/// The text takes what the others leave; where that is little, they give way.
-void ItemGrid::shareWidth()
-{
-    int usual = tickWidth;
-    int least = tickWidth;
-    for (const Width &width : widths) {
-        if (isColumnHidden(width.column))
-            continue;
-        usual += TypeScale::wide(width.usual);
-        least += TypeScale::wide(width.least);
-    }
-    const int room = viewport()->width();
-    const double share =
-        std::clamp(double(room - TypeScale::wide(usualText) - least) / (usual - least), 0., 1.);
-    int taken = tickWidth;
-    for (const Width &width : widths) {
-        const int wide = TypeScale::wide(width.least + int((width.usual - width.least) * share));
-        horizontalHeader()->resizeSection(width.column, wide);
-        taken += isColumnHidden(width.column) ? 0 : wide;
-    }
-    horizontalHeader()->resizeSection(ItemsModel::Tick, tickWidth);
-    horizontalHeader()->resizeSection(ItemsModel::Text, std::max(TypeScale::wide(leastText), room - taken));
+    ItemColumns::shareWidth(*this);
 }
 
 bool ItemGrid::isAnyChosen() const
@@ -204,6 +168,18 @@ void ItemGrid::choose(const std::vector<int> &ids)
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
     scrollTo(first);
+}
+
+void ItemGrid::goToFirst()
+{
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        if (m_model.rowAt(row).kind != ToDoRow::Item)
+            continue;
+        selectionModel()->setCurrentIndex(m_model.index(row, ItemsModel::Text),
+                                          QItemSelectionModel::NoUpdate);
+        scrollToTop();
+        return;
+    }
 }
 
 void ItemGrid::askQuietly(const QString &question)

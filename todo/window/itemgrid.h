@@ -20,6 +20,8 @@ public:
     bool isAnyChosen() const;
     /// Chooses items, the first of them as the current one, and brings it to sight.
     void choose(const std::vector<int> &ids);
+    /// Makes the first item the current one, without choosing it.
+    void goToFirst();
     /// The column "List", for views over all of them.
     void setListShown(bool isShown);
     /// A quiet question under the cell that was typed into; the next key or click takes it away.
@@ -52,7 +54,6 @@ protected:
 private:
     void makeHeading();
     void span();
-    void shareWidth();
     bool isTick(const QModelIndex &index) const;
     bool isItem(const QModelIndex &index) const;
     static bool isForText(const QKeyEvent &key);

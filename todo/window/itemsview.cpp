@@ -144,6 +144,8 @@ void ItemsView::show(const Shown &shown)
     m_grid->setListShown(shown.kind != Shown::List && shown.kind != Shown::Search);
     m_grid->scrollToTop();
     followLists();
+    if (shown.kind == Shown::ByPerson || shown.kind == Shown::Done)
+        m_grid->goToFirst();
     setFocusProxy(takesNew() ? static_cast<QWidget *>(m_entry) : m_grid);
     emit moved();
 }
