@@ -19,6 +19,8 @@
 #include "todo/window/openlists.h"
 #include "todo/window/windowlines.h"
 
+#include <QHeaderView>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -110,6 +112,9 @@ void ItemsView::connectParts()
     connect(m_grid, &ItemGrid::sortRequested, m_model,
             [this](int column) { m_model->sortBy(ItemsModel::Column(column)); });
     connect(m_model, &QAbstractItemModel::dataChanged, this, &ItemsView::placeNote);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &ItemsView::placeNote);
+    connect(m_grid->horizontalHeader(), &QHeaderView::sectionResized, this, &ItemsView::placeNote);
+    connect(m_grid->verticalScrollBar(), &QScrollBar::valueChanged, this, &ItemsView::placeNote);
 }
 
 const Shown &ItemsView::shown() const

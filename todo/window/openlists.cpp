@@ -37,8 +37,11 @@ int OpenLists::load()
     m_isSaved = true;
     emit fileTouched();
     emit changed();
-    if (opened.takenIn > 0)
+    if (opened.takenIn > 0) {
         change(ToDoWindowLines::takenIn(opened.takenIn), opened.sheet);
+        m_soon.stop(); // opening alone writes nothing: it would be taken in again
+        m_isSaved = true;
+    }
     return opened.takenIn;
 }
 

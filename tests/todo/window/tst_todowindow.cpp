@@ -84,6 +84,28 @@ private slots:
                                                    "\"Mow the lawn\"\r\n\"\"\r\n\"To Do\"\r\n"_ba);
     }
 
+    void takesInWhatAnotherProgramLeavesWithTheNextSave()
+    {
+        open();
+        chooseList(0);
+        enter(u"Sweep the yard"_s);
+        m_window->close();
+        const QByteArray before = file();
+        const QByteArray foreign = "\"Fetch the parcel\"\r\n\"2026-11-23\"\r\n\"To Do\"\r\n";
+        m_test->setBytes(u"TODOActv.FIL"_s, foreign);
+        openAgain();
+        QCOMPARE(said(), u"1 thing to do that another program had left was taken in"_s);
+        chooseList(0);
+        QCOMPARE(texts(), (QStringList{u"Sweep the yard"_s, u"Fetch the parcel"_s}));
+        m_window->close();
+        QCOMPARE(file(), before);
+        QCOMPARE(m_test->bytes(u"TODOActv.FIL"_s), foreign);
+        openAgain();
+        trigger("mEUndo");
+        trigger("mOSave");
+        QCOMPARE(m_test->bytes(u"TODOActv.FIL"_s), "\"Sweep the yard\"\r\n\"\"\r\n\"To Do\"\r\n"_ba);
+    }
+
     void asksOnlyWhenASaveFailed()
     {
         open();
@@ -364,6 +386,11 @@ private:
     void open(TestProgram::Content content = TestProgram::Empty)
     {
         m_test = std::make_unique<TestProgram>(content);
+        openAgain();
+    }
+    void openAgain()
+    {
+        delete m_window;
         m_window = new ToDo1(m_test->program);
         showActive(*m_window);
     }
