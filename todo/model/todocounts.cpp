@@ -10,11 +10,12 @@ ToDoCounts ToDoCounts::of(const ToDoSheet &sheet, QDate today)
     for (const ToDoList &list : sheet.lists())
         isTemplate[list.id] = list.kind == ListKind::Template;
     for (int row = 0; row < sheet.rowCount(); ++row) {
-        if (sheet.levelOf(row) != ItemLevel::Item || sheet.actualOf(row).isValid())
+        if (!sheet.isOpen(row))
             continue;
         const int id = sheet.listOf(row);
         OfList &list = counts.lists[id];
-        ++list.open;
+        if (sheet.levelOf(row) == ItemLevel::Item)
+            ++list.open;
         const QDate due = sheet.dueOf(row);
         if (!due.isValid() || due > today || isTemplate.value(id))
             continue;

@@ -6,7 +6,8 @@
 
 class ToDoSheet;
 
-/// How many things are still to be done: what stands beside the lists. Steps and headings are not counted.
+/// How many things are still to be done: what stands beside the lists. Steps count where they are due
+/// themselves.
 struct ToDoCounts {
     struct OfList {
         int open = 0;
