@@ -4,7 +4,7 @@
 
 mingw=x86_64-w64-mingw32
 windows_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 nsis dpkg-dev perl autoconf automake libtool
-    fonts-dejavu-core python3)
+    autopoint gettext fonts-dejavu-core python3)
 
 # Only what the program uses. direct2d without direct2d1_1: the other way does not link.
 qt_options=(-DBUILD_SHARED_LIBS=ON -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF -DFEATURE_pkg_config=OFF
@@ -16,6 +16,7 @@ qt_options=(-DBUILD_SHARED_LIBS=ON -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF 
     -DFEATURE_direct2d=ON -DFEATURE_direct2d1_1=OFF -DFEATURE_tabletevent=OFF)
 sodium_options=(--host=$mingw --enable-shared --disable-static)
 qcustomplot_options=(-DUSE_QT_VERSION=6)
+hunspell_options=(--host=$mingw --enable-shared --disable-static --disable-nls)
 
 # source_of PACKAGE: the source package of an installed one, and its version, as "name version".
 source_of() {
@@ -26,14 +27,16 @@ source_of() {
 name_libraries() {
     local package
     [ -n "${libraries:-}" ] && return
-    for package in qt6-base-dev libsodium-dev libqcustomplot-dev gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev; do
+    for package in qt6-base-dev libsodium-dev libqcustomplot-dev libhunspell-dev \
+        gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev; do
         source_of $package
     done >"$work/sources"
     { sed 's/^/source: /' "$work/sources"
       echo "compiler: $(dpkg-query -W -f='${Package} ${Version}' g++-mingw-w64-x86-64-posix)"
       echo "qt6-base: ${qt_options[*]}"
       echo "libsodium: ${sodium_options[*]}"
-      echo "qcustomplot: ${qcustomplot_options[*]}"; } >"$work/recipe"
+      echo "qcustomplot: ${qcustomplot_options[*]}"
+      echo "hunspell: ${hunspell_options[*]}"; } >"$work/recipe"
     libraries=$cache/$(sha256sum <"$work/recipe" | head -c 16)
     mkdir -p "$libraries/licenses"
     cp "$work/recipe" "$libraries/recipe"
@@ -82,12 +85,25 @@ build_qt() {
     cp "$work"/qt6-base/LICENSES/*.txt "$libraries/licenses/qt6-base/"
 }
 
+# cross_autotools SOURCE MODULE OPTION...: the same for one that comes with a `configure`; MODULE is its name for pkg-config.
+cross_autotools() {
+    local name=$1 module=$2
+    shift 2
+    ( cd "$work/$name" && autoreconf -fi && ./configure "$@" --prefix="$libraries" CC=$mingw-gcc-posix \
+        CXX=$mingw-g++-posix && make -j"$CMAKE_BUILD_PARALLEL_LEVEL" && make install-strip )
+    sed -i 's|^prefix=.*|prefix=${pcfiledir}/../..|' "$libraries/lib/pkgconfig/$module.pc"
+}
+
 build_sodium() {
     fetch libsodium
-    ( cd "$work/libsodium" && ./autogen.sh && ./configure "${sodium_options[@]}" --prefix="$libraries" \
-        CC=$mingw-gcc-posix && make -j"$(nproc)" && make install-strip )
-    sed -i 's|^prefix=.*|prefix=${pcfiledir}/../..|' "$libraries/lib/pkgconfig/libsodium.pc"
+    cross_autotools libsodium libsodium "${sodium_options[@]}"
     cp "$work/libsodium/LICENSE" "$libraries/licenses/libsodium/"
+}
+
+build_hunspell() {
+    fetch hunspell
+    cross_autotools hunspell hunspell "${hunspell_options[@]}"
+    cp "$work"/hunspell/COPYING* "$work"/hunspell/license.hunspell "$libraries/licenses/hunspell/"
 }
 
 build_qcustomplot() {

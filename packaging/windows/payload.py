@@ -86,6 +86,7 @@ def main():
     for file in program.iterdir():
         if file.suffix.lower() in (".exe", ".jpg", ".png"):
             shutil.copyfile(file, payload / file.name)
+    shutil.copytree(program / "dictionaries", payload / "dictionaries", copy_function=shutil.copyfile)
     for pattern in PLUGINS:
         folder, name = pattern.split("/")
         (payload / folder).mkdir()
