@@ -30,3 +30,8 @@ std::error_code SystemFile::renameOver(const QString &from, const QString &to)
                             failure);
     return failure;
 }
+
+QByteArray SystemFile::encodedPath(const QString &path)
+{
+    return QFile::encodeName(path);
+}

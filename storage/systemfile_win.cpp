@@ -16,14 +16,14 @@ constexpr int patience = 1000; ///< milliseconds
 constexpr int pause = 50;
 
 /// The form of a path that may be longer than 260 letters.
-std::wstring longPath(const QString &path)
+QString longPath(const QString &path)
 {
     const QString native = QDir::toNativeSeparators(QDir::cleanPath(QDir::current().absoluteFilePath(path)));
     if (native.startsWith("\\\\?\\"_L1) || native.startsWith("\\\\.\\"_L1))
-        return native.toStdWString();
+        return native;
     if (native.startsWith("\\\\"_L1))
-        return QString(u"\\\\?\\UNC\\"_s + native.sliced(2)).toStdWString();
-    return QString(u"\\\\?\\"_s + native).toStdWString();
+        return u"\\\\?\\UNC\\"_s + native.sliced(2);
+    return u"\\\\?\\"_s + native;
 }
 
 /// Whether the failure is that of a file which another program, often a virus scanner, has open just now.
@@ -44,7 +44,7 @@ void SystemFile::flushNames(const QString &) {}
 
 std::error_code SystemFile::renameOver(const QString &from, const QString &to)
 {
-    const std::wstring source = longPath(from), target = longPath(to);
+    const std::wstring source = longPath(from).toStdWString(), target = longPath(to).toStdWString();
     const QDeadlineTimer deadline(patience);
     while (!MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
         const DWORD failure = GetLastError();
@@ -53,4 +53,10 @@ std::error_code SystemFile::renameOver(const QString &from, const QString &to)
         QThread::msleep(pause);
     }
     return {};
+}
+
+QByteArray SystemFile::encodedPath(const QString &path)
+{
+    // By these first letters the library of the dictionaries knows UTF-8.
+    return longPath(path).toUtf8();
 }

@@ -3,7 +3,7 @@
 # after a hash of everything that decides what is in it. Only that folder need be kept between runs.
 
 mingw=x86_64-w64-mingw32
-windows_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 nsis dpkg-dev perl autoconf automake libtool
+windows_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 nsis dpkg-dev patch perl autoconf automake libtool
     autopoint gettext fonts-dejavu-core python3)
 
 # Only what the program uses. direct2d without direct2d1_1: the other way does not link.
@@ -17,6 +17,7 @@ qt_options=(-DBUILD_SHARED_LIBS=ON -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF 
 sodium_options=(--host=$mingw --enable-shared --disable-static)
 qcustomplot_options=(-DUSE_QT_VERSION=6)
 hunspell_options=(--host=$mingw --enable-shared --disable-static --disable-nls)
+hunspell_patch=packaging/windows/hunspell-paths.patch
 
 # source_of PACKAGE: the source package of an installed one, and its version, as "name version".
 source_of() {
@@ -36,7 +37,7 @@ name_libraries() {
       echo "qt6-base: ${qt_options[*]}"
       echo "libsodium: ${sodium_options[*]}"
       echo "qcustomplot: ${qcustomplot_options[*]}"
-      echo "hunspell: ${hunspell_options[*]}"; } >"$work/recipe"
+      echo "hunspell: ${hunspell_options[*]}, with $(sha256sum <"$hunspell_patch" | head -c 16) of hunspell-paths.patch"; } >"$work/recipe"
     libraries=$cache/$(sha256sum <"$work/recipe" | head -c 16)
     mkdir -p "$libraries/licenses"
     cp "$work/recipe" "$libraries/recipe"
@@ -102,8 +103,9 @@ build_sodium() {
 
 build_hunspell() {
     fetch hunspell
+    patch -d "$work/hunspell" -p1 <"$hunspell_patch"
     cross_autotools hunspell hunspell "${hunspell_options[@]}"
-    cp "$work"/hunspell/COPYING* "$work"/hunspell/license.hunspell "$libraries/licenses/hunspell/"
+    cp "$work"/hunspell/COPYING* "$work"/hunspell/license.hunspell "$hunspell_patch" "$libraries/licenses/hunspell/"
 }
 
 build_qcustomplot() {

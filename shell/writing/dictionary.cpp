@@ -3,9 +3,7 @@
 
 #include "shell/writing/dictionaries.h"
 #include "storage/ansitext.h"
-
-#include <QDir>
-#include <QFile>
+#include "storage/systemfile.h"
 
 #include <hunspell.hxx>
 
@@ -16,16 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QChar typesetApostrophe(u'\u2019');
-
-/// The path as the library wants it.
-QByteArray pathForLibrary(const QString &path)
-{
-#ifdef Q_OS_WIN
-    return "\\\\?\\" + QDir::toNativeSeparators(QDir(path).absolutePath()).toUtf8();
-#else
-    return QFile::encodeName(path);
-#endif
-}
 
 /// The letters and digits of an encoding's name: "iso88591" for "ISO8859-1" and "ISO-8859-1".
 QByteArray plainName(const QByteArray &encoding)
@@ -52,8 +40,8 @@ std::unique_ptr<Dictionary> Dictionary::load(const DictionaryFiles &files)
 }
 
 Dictionary::Dictionary(const DictionaryFiles &files, Encoding encoding)
-    : m_words(std::make_unique<Hunspell>(pathForLibrary(files.affPath).constData(),
-                                         pathForLibrary(files.dicPath).constData()))
+    : m_words(std::make_unique<Hunspell>(SystemFile::encodedPath(files.affPath).constData(),
+                                         SystemFile::encodedPath(files.dicPath).constData()))
     , m_encoding(encoding)
 {}
 

@@ -12,19 +12,22 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// The path of a household may have letters of any script.
+const QString dictionaryFolder = u"Дом Żółć/dictionaries"_s;
+
 /// A dictionary of a few words: "water", "fern", "the", and what the rows of a test add.
 void putDictionary(const TestFolder &folder, const QString &name, const QByteArray &words,
                    const QByteArray &aff = "SET UTF-8\nTRY esianrtolcdug\n")
 {
-    QVERIFY(QDir(folder.folder().path()).mkpath(u"dictionaries"_s));
+    QVERIFY(QDir(folder.folder().path()).mkpath(dictionaryFolder));
     const QByteArray count = QByteArray::number(words.count('\n'));
-    folder.put(u"dictionaries/%1.aff"_s.arg(name), aff);
-    folder.put(u"dictionaries/%1.dic"_s.arg(name), count + '\n' + words);
+    folder.put(dictionaryFolder + u"/%1.aff"_s.arg(name), aff);
+    folder.put(dictionaryFolder + u"/%1.dic"_s.arg(name), count + '\n' + words);
 }
 
 std::vector<DictionaryFiles> foundIn(const TestFolder &folder)
 {
-    return Dictionaries::found({folder.path(u"dictionaries"_s)});
+    return Dictionaries::found({folder.path(dictionaryFolder)});
 }
 
 Spelling spellingOf(const TestFolder &folder)
@@ -139,9 +142,9 @@ private slots:
     {
         const auto [aff, dic] = row<QByteArray, QByteArray>();
         const TestFolder folder;
-        QVERIFY(QDir(folder.folder().path()).mkpath(u"dictionaries"_s));
-        folder.put(u"dictionaries/xx_XX.aff"_s, aff);
-        folder.put(u"dictionaries/xx_XX.dic"_s, dic);
+        QVERIFY(QDir(folder.folder().path()).mkpath(dictionaryFolder));
+        folder.put(dictionaryFolder + u"/xx_XX.aff"_s, aff);
+        folder.put(dictionaryFolder + u"/xx_XX.dic"_s, dic);
         const auto found = foundIn(folder);
         QCOMPARE(found.size(), 1U);
         QVERIFY(!found[0].whyNot.isEmpty());
