@@ -157,7 +157,7 @@ private slots:
         const TestFolder folder;
         putDictionary(folder, u"en_US"_s, "water\n");
         QVERIFY(foundIn(folder)[0].isUsable());
-        QVERIFY(QFile::resize(folder.path(u"dictionaries/en_US.dic"_s), (64 << 20) + 1));
+        QVERIFY(QFile::resize(folder.path(dictionaryFolder + u"/en_US.dic"_s), (64 << 20) + 1));
         QVERIFY(foundIn(folder)[0].whyNot.contains(u"64 MB"_s));
     }
 
