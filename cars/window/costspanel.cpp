@@ -32,6 +32,8 @@ constexpr int leastChartHeight = 210;
 /// What stands above, below and in the chart.
 constexpr int linesAroundTable = 10;
 constexpr int restAroundTable = 348;
+constexpr int linesBelow = 3; ///< of the chart: the buttons
+constexpr int restAround = 76;
 } // namespace
 
 CostsPanel::CostsPanel(const CarDesk &desk)
@@ -52,12 +54,12 @@ CostsPanel::CostsPanel(const CarDesk &desk)
     m_stack->addWidget(m_bars);
     makeTable();
     auto *work = new QWidget(this);
-    auto *rows = new QVBoxLayout(work);
-    rows->setContentsMargins({});
-    rows->setSpacing(12);
-    rows->addWidget(m_figures);
-    rows->addWidget(makeChartPanel(), 1);
-    rows->addWidget(m_table);
+    m_rows = new QVBoxLayout(work);
+    m_rows->setContentsMargins({});
+    m_rows->setSpacing(12);
+    m_rows->addWidget(m_figures);
+    m_rows->addWidget(makeChartPanel(), 1);
+    m_rows->addWidget(m_table);
     setContent(work);
     connect(addButton(u"costsPrint"_s, u"&Print Costs"_s), &QPushButton::clicked, this,
             &CostsPanel::printWanted);
@@ -77,7 +79,7 @@ QWidget *CostsPanel::makeChartPanel()
     panel->setPalette(Theme::of(this).panelPalette());
     m_stack->setMinimumHeight(leastChartHeight);
     auto *layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(16, 4, 16, 8);
+    layout->setContentsMargins(16, 2, 16, 2);
     layout->addWidget(m_stack);
     return panel;
 }
@@ -165,6 +167,19 @@ void CostsPanel::placeTable()
     m_table->ensurePolished();
     m_table->setFixedHeight(m_table->horizontalHeader()->height() + rows * ListRowDelegate::rowHeight() +
                             2 * m_table->frameWidth());
+    placeFigures(line);
+}
+
+/// Above the chart, or below it where it would not be whole under them.
+void CostsPanel::placeFigures(int line)
+{
+    const int chart = std::max(leastChartHeight, m_stack->minimumSizeHint().height());
+    const int others = titleLine().sizeHint().height() + m_figures->sizeHint().height();
+    const int place = height() < chart + others + linesBelow * line + restAround ? 1 : 0;
+    if (m_rows->indexOf(m_figures) == place)
+        return;
+    m_rows->removeWidget(m_figures);
+    m_rows->insertWidget(place, m_figures);
 }
 
 void CostsPanel::resizeEvent(QResizeEvent *event)

@@ -12,6 +12,7 @@ class LineChartView;
 class QComboBox;
 class QStackedWidget;
 class QTableView;
+class QVBoxLayout;
 
 /// What the open car costs: by kinds, years and months, and its charts.
 class CostsPanel final : public TaskPanel
@@ -43,12 +44,14 @@ private:
     void showFigures(const CarCosts &costs);
     void showYears(const CarCosts &costs);
     void placeTable();
+    void placeFigures(int line);
     void shareWidth();
     void showChart();
 
     CarDesk m_desk;
     FigureStrip *m_figures;
     QComboBox *m_charts;
+    QVBoxLayout *m_rows = nullptr;
     QStackedWidget *m_stack;
     LineChartView *m_lines;
     BarChartView *m_bars;
