@@ -320,6 +320,11 @@ void WeighInsView::sortRows()
     emit done(TrackerLines::sorted());
 }
 
+void WeighInsView::turnByWeight()
+{
+    m_table->turnByWeight();
+}
+
 void WeighInsView::takeUncounted()
 {
     person().takeUncounted();

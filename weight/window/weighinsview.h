@@ -36,6 +36,8 @@ public:
     void deleteRow();
     /// Puts the rows in the order of their days.
     void sortRows();
+    /// Shows the rows by their weights, the other way round, or in the order of the file again.
+    void turnByWeight();
     /// It is another day than before: the line has its date, unless something was typed there.
     void beginDay();
     /// Brings a row to sight, the last where it is -1.

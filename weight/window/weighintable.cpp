@@ -146,21 +146,25 @@ qsizetype WeighInTable::chosenRow() const
     return currentIndex().isValid() ? m_weighIns->tableRow(currentIndex().row()) : -1;
 }
 
-/// A click on the heading of the dates sorts the file, one on that of the weights only what is shown: the
-/// lightest first, then the heaviest, then the file's order again.
-void WeighInTable::sortBy(int column)
+void WeighInTable::turnByWeight()
 {
     finishEdit();
     const std::optional<Qt::SortOrder> before = m_weighIns->shownByWeight();
+    showByWeight(!before                         ? std::optional(Qt::AscendingOrder)
+                 : *before == Qt::AscendingOrder ? std::optional(Qt::DescendingOrder)
+                                                 : std::nullopt);
+}
+
+/// A click on the heading of the dates sorts the file, one on that of the weights only what is shown.
+void WeighInTable::sortBy(int column)
+{
+    finishEdit();
     if (column == WeighInModel::Weight)
-        showByWeight(!before                         ? std::optional(Qt::AscendingOrder)
-                     : *before == Qt::AscendingOrder ? std::optional(Qt::DescendingOrder)
-                                                     : std::nullopt);
-    else if (column == WeighInModel::Date && before)
+        turnByWeight();
+    else if (column == WeighInModel::Date && m_weighIns->shownByWeight())
         showByWeight({});
     else if (column == WeighInModel::Date)
         emit sortWanted();
-    refresh();
 }
 
 void WeighInTable::showByWeight(std::optional<Qt::SortOrder> order)
@@ -170,6 +174,7 @@ void WeighInTable::showByWeight(std::optional<Qt::SortOrder> order)
         scrollToTop();
     else
         scrollToBottom();
+    refresh();
     emit said(!order                         ? TrackerLines::inFileOrder()
               : *order == Qt::AscendingOrder ? TrackerLines::lightestFirst()
                                              : TrackerLines::heaviestFirst());

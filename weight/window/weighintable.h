@@ -18,6 +18,8 @@ public:
     void showRow(int row);
     /// The row of the file that is chosen; -1 where none is.
     qsizetype chosenRow() const;
+    /// Shows the lightest first; the next time the heaviest, then the rows in the order of the file again.
+    void turnByWeight();
     /// Another person's rows are shown.
     void refresh();
 

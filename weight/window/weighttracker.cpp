@@ -12,6 +12,7 @@
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 #include "weight/model/messages.h"
+#include "weight/model/weightpaperlines.h"
 #include "weight/window/datecheck.h"
 #include "weight/window/openperson.h"
 #include "weight/window/personchanges.h"
@@ -140,6 +141,9 @@ void WeightTracker::makeRowCommands(QMenu *edit)
     commands().setKeyIn(&rows.table(), m_commands.deleteRow, CommonKeys::remove);
     commands().writing(commands().add(
         edit, u"mESort"_s, u"&Sort by Date"_s, [&rows] { rows.sortRows(); }, unless));
+    commands().add(
+        edit, u"mEWeight"_s, u"Show by &Weight"_s, [&rows] { rows.turnByWeight(); },
+        [this] { return m_person->sheet().weighIns.isEmpty() ? WeightPaperLines::noWeighIns() : QString(); });
     rows.setAddButton(commands().button(m_commands.addRow, u"addRow"_s, m_commands.addRow->text(), &rows));
     connect(&rows, &WeighInsView::rowChosen, &commands(), &Commands::refresh);
 }
