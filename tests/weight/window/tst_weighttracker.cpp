@@ -45,6 +45,32 @@ private slots:
         QCOMPARE(labelText("commentsLength"), u"Length (Max. = 1000) : 85"_s);
     }
 
+    void keepsInSightWhatAPersonNeeds_data()
+    {
+        rows<QSize>({{"small", QSize(784, 560)}, {"low", QSize(960, 540)}});
+    }
+    void keepsInSightWhatAPersonNeeds()
+    {
+        const auto [size] = row<QSize>();
+        open(TestProgram::Household);
+        m_window->setMinimumSize(400, 300);
+        m_window->resize(size);
+        choose(1);
+        const auto isWhole = [this](const char *part) {
+            const auto *shown = find<QWidget>(part);
+            return shown->visibleRegion().boundingRect() == shown->rect();
+        };
+        QTRY_VERIFY(isWhole("Grid4")); // three rows at least
+        for (const char *part : {"weighInWeight", "addRow", "Command10", "weighInsViewExit"})
+            QVERIFY(isWhole(part));
+        trigger("mVGraph");
+        QTRY_VERIFY(isWhole("Chart2D1") && isWhole("graphViewSave") && isWhole("graphViewExit"));
+        trigger("mVPlan");
+        QTRY_VERIFY(isWhole("planViewSave") && isWhole("planViewExit"));
+        trigger("mVPhotos");
+        QTRY_VERIFY(isWhole("photosViewSave") && isWhole("photosViewExit"));
+    }
+
     void entersTodaysWeightWithTwoKeys()
     {
         open(TestProgram::Household);
