@@ -38,8 +38,6 @@ constexpr int linesForTwoRows = 26;
 constexpr int aroundLines = 124;         ///< what has no words
 constexpr qsizetype longestReading = 20; ///< of one that is no number
 constexpr int gap = 12;
-constexpr int flatGap = 6;
-constexpr int side = 20;
 
 /// Where there is much room, the intervals have some of it.
 std::vector<CarColumns::Width> widths(DistanceUnit unit)
@@ -72,7 +70,10 @@ DueView::DueView(const CarDesk &desk)
     m_heading = makeScheduleHeading();
     auto *rows = new WholeRows(m_schedule, nullptr, this);
     rows->setGivesWay(true);
-    addScrolling({m_advice, m_cards, m_heading}, rows);
+    for (QWidget *part : std::initializer_list<QWidget *>{m_advice, m_cards, m_heading})
+        addContent(part);
+    addContent(rows, 1);
+    connect(m_schedule, &CarGrid::currentMoved, this, &DueView::showCurrentRow);
     setFocusProxy(m_schedule);
     addClearing();
     connect(m_cards, &DueCards::chosen, this, &DueView::doneRequested);
@@ -100,28 +101,16 @@ void DueView::fit()
     m_cards->setFlat(isFlat);
     m_cards->setRows(isFlat || height() >= aroundLines + linesForTwoRows * line ? 2 : 1);
     m_heading->setVisible(!isFlat);
-    m_parts->setSpacing(isFlat ? flatGap : gap);
-    layout()->setSpacing(isFlat ? flatGap : gap);
-    layout()->setContentsMargins(side, isFlat ? flatGap : side - 4, side, isFlat ? flatGap + 4 : side - 2);
+    setTight(isFlat);
 }
 
-/// Title and buttons stay in sight where the rest has no room.
-void DueView::addScrolling(const QList<QWidget *> &parts, QWidget *rows)
+/// The row that is worked on is in sight, with the ones beside it.
+void DueView::showCurrentRow()
 {
-    auto *content = new QWidget;
-    m_parts = new QVBoxLayout(content);
-    m_parts->setContentsMargins({});
-    for (QWidget *part : parts)
-        m_parts->addWidget(part);
-    m_parts->addWidget(rows, 1);
-    auto *scroll = named(new ScrollPart(content, this), u"dueScroll"_s);
-    addContent(scroll, 1);
-    connect(m_schedule, &CarGrid::currentMoved, scroll, [this, scroll] {
-        const QRect row = m_schedule->visualRect(m_schedule->currentIndex());
-        const QPoint place = m_schedule->viewport()->mapTo(scroll->widget(), row.center());
-        if (m_schedule->isInUse())
-            scroll->ensureVisible(0, place.y(), 0, 2 * CarGrid::usualRowHeight());
-    });
+    const QRect row = m_schedule->visualRect(m_schedule->currentIndex());
+    const QPoint place = m_schedule->viewport()->mapTo(scroll().widget(), row.center());
+    if (m_schedule->isInUse())
+        scroll().ensureVisible(0, place.y(), 0, 2 * CarGrid::usualRowHeight());
 }
 
 CarGrid *DueView::makeSchedule()

@@ -8,7 +8,6 @@ class CarGrid;
 class DueCards;
 class LinkButton;
 class QLabel;
-class QVBoxLayout;
 class ScheduleModel;
 
 /// What the open car needs: what is due and overdue, and the schedule that says so.
@@ -38,12 +37,11 @@ private:
     void addClearing();
     QWidget *makeScheduleHeading();
     void fit();
-    void addScrolling(const QList<QWidget *> &parts, QWidget *rows);
+    void showCurrentRow();
     void showNeeds();
 
     ScheduleModel *m_model;
     QWidget *m_heading = nullptr; ///< of the schedule, with the rate of driving
-    QVBoxLayout *m_parts = nullptr;
     LinkButton *m_odometer;
     DueCards *m_cards;
     QLabel *m_advice;

@@ -26,19 +26,19 @@ TitledView::TitledView(const QString &name, QWidget *parent)
     setObjectName(name + u"View"_s);
     m_parts->setContentsMargins({});
     auto *low = new LowWindow(this);
-    connect(low, &LowWindow::changed, this, &TitledView::setLow);
-    setLow(low->isLow());
+    connect(low, &LowWindow::changed, this, &TitledView::setTight);
+    setTight(low->isLow());
     m_rows->addWidget(m_title);
     m_rows->addWidget(m_scroll, 1);
     m_rows->addWidget(makeLine(this));
     m_rows->addWidget(m_foot);
 }
 
-void TitledView::setLow(bool isLow)
+void TitledView::setTight(bool isTight)
 {
-    m_rows->setContentsMargins(20, isLow ? 8 : 16, 20, isLow ? 10 : 18);
+    m_rows->setContentsMargins(20, isTight ? 8 : 16, 20, isTight ? 10 : 18);
     for (QVBoxLayout *rows : {m_rows, m_parts})
-        rows->setSpacing(isLow ? 6 : 12);
+        rows->setSpacing(isTight ? 6 : 12);
 }
 
 void TitledView::addContent(QWidget *content, int stretch)

@@ -24,6 +24,8 @@ public:
 protected:
     /// Adds what stands between title and foot, from top to bottom.
     void addContent(QWidget *content, int stretch = 0);
+    /// Spares room around and between the parts, as in a low window.
+    void setTight(bool isTight);
     /// The part between title and foot.
     ScrollPart &scroll() const { return *m_scroll; }
     /// What the view shows is another than before, `isModified` where no file has it yet: shows it, as soon
@@ -35,8 +37,6 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void setLow(bool isLow);
-
     TitleLine *m_title;
     QVBoxLayout *m_rows;
     QWidget *m_content;
