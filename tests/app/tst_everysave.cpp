@@ -438,6 +438,20 @@ const Save broughtBackPerson{[](Desk &desk) {
                              },
                              [](Desk &desk) { desk.click("bringBack"); }};
 
+const Save newThing{[](Desk &desk) {
+                        desk.open(Function::ToDoList);
+                        desk.type("newItem", u"Water the ferns"_s);
+                        QTest::keyClick(desk.find<QLineEdit>("newItem"), Qt::Key_Return);
+                    },
+                    [](Desk &desk) { desk.trigger("mOSave"); }};
+
+const Save newThingUndone{[](Desk &desk) {
+                              newThing.prepare(desk);
+                              newThing.press(desk);
+                              desk.trigger("mEUndo");
+                          },
+                          [](Desk &desk) { desk.trigger("mOSave"); }};
+
 const Save marks{[](Desk &desk) {
                      desk.openPasswordControl();
                      desk.find<QCheckBox>("Check1_2")->click();
@@ -528,6 +542,8 @@ private slots:
             {"a person deleted", deletedPerson},
             {"the deletion of a person undone", undonePerson},
             {"a person brought back", broughtBackPerson},
+            {"a thing to do", newThing},
+            {"a thing to do undone", newThingUndone},
             {"marks of areas", marks},
             {"no password", noPassword},
             {"top toolbar", topToolbar},
