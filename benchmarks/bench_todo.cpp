@@ -4,8 +4,10 @@
 #include "todo/model/activefile.h"
 #include "todo/model/comingback.h"
 #include "todo/model/todoactions.h"
+#include "todo/model/todocounts.h"
 #include "todo/model/tododifference.h"
 #include "todo/model/todofiles.h"
+#include "todo/model/todoviews.h"
 
 #include <QDir>
 #include <QFile>
@@ -168,6 +170,28 @@ BENCHMARK_CAPTURE(act, whatComesLater,
                   })
     ->UseManualTime()
     ->MinTime(1);
+
+/// The same for the rows of a view, and the numbers beside the lists.
+void show(benchmark::State &state, const Shown &shown)
+{
+    const ToDoSheet sheet = fullSheet();
+    const DateStyle style = DateStyle::Usa;
+    Limit limit(state, 1);
+    constexpr double frame = 0.016;
+    for ([[maybe_unused]] const auto _ : state) {
+        limit.referred(frame);
+        limit.measure([&] {
+            benchmark::DoNotOptimize(
+                ToDoViews::rows(sheet, {.shown = shown, .today = today, .style = style}));
+            benchmark::DoNotOptimize(ToDoCounts::of(sheet, today));
+        });
+    }
+}
+BENCHMARK_CAPTURE(show, aList, Shown{Shown::List, 1, {}})->UseManualTime()->MinTime(1);
+BENCHMARK_CAPTURE(show, done, Shown{Shown::Done, 0, {}})->UseManualTime()->MinTime(1);
+BENCHMARK_CAPTURE(show, aLetter, Shown{Shown::Search, 0, u"e"_s})->UseManualTime()->MinTime(1);
+BENCHMARK_CAPTURE(show, aRareWord, Shown{Shown::Search, 0, u"pump 9876"_s})->UseManualTime()->MinTime(1);
+BENCHMARK_CAPTURE(show, anAccent, Shown{Shown::Search, 0, u"jos\u00e9"_s})->UseManualTime()->MinTime(1);
 
 void memoryOfFullLists(benchmark::State &state)
 {
