@@ -9,6 +9,7 @@
 #include "shell/writing/writing.h"
 #include "shell/writing/writinglines.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -58,7 +59,7 @@ QWidget *CorrectionPanel::makeWork()
     m_view->setModel(m_rows);
     setGridRows(m_view);
     m_view->setAccessibleName(u"Corrections"_s);
-    m_view->setColumnWidth(0, TypeScale::wide(widest / 2));
+    m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_view->installEventFilter(this);
     m_search->setTarget(m_view);
     auto *work = new QWidget(this);

@@ -88,7 +88,7 @@ inline QString noSuggestion()
 
 inline QString tableWords()
 {
-    return u"What is typed at the left is corrected as soon as a blank or a point follows it"_s;
+    return u"What stands at the left is corrected when a blank or a point follows"_s;
 }
 
 inline QString noCorrectionChosen()
