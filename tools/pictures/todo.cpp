@@ -90,12 +90,6 @@ void Albums::toDo(const Camera &camera)
     }
     session.fill("toDoSearch", u"the"_s);
     session.take("todo-search");
-    session.trigger("mSpCheck");
-    session.take("todo-spelling");
-    session.key(Qt::Key_Escape);
-    session.trigger("mSpTable");
-    session.take("todo-corrections");
-    session.key(Qt::Key_Escape);
     session.trigger("mVToday");
     session.trigger("mLFrom");
     session.take("todo-new-list");
