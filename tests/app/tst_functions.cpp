@@ -68,7 +68,7 @@ private slots:
               u"ToDo1.mOSave"_s, u"WeightTracker.mOSave"_s, u"Zcalandar1.mOSave"_s}},
             {CommonKeys::print,
              {u"ADDBKDISPLAY.mOPrt"_s, u"ADDBKVIEW.mOPrt"_s, u"AutoMaint.mOPrt"_s, u"Budget1.mOPrt"_s,
-              u"Form31.mOPrt"_s, u"WeightTracker.mOPrt"_s, u"Zcalandar1.mOPrt"_s}},
+              u"Form31.mOPrt"_s, u"ToDo1.mOPrt"_s, u"WeightTracker.mOPrt"_s, u"Zcalandar1.mOPrt"_s}},
             {CommonKeys::undo,
              {u"ADDBKDISPLAY.mEUndo"_s, u"ADDBKVIEW.mEUndo"_s, u"AutoMaint.mEUndo"_s, u"Budget1.mEUndo"_s,
               u"ToDo1.mEUndo"_s, u"WeightTracker.mEUndo"_s, u"Zcalandar1.mEUndo"_s}},

@@ -87,7 +87,7 @@ private slots:
             {"to do list", open<Function::ToDoList>,
              u"addItem mEBack mEDel mEDown mEHead mEItem mENew mENoDate mEOverdue mERedo mEStep mETick "
              u"mEToday "
-             "mEToday_tool mETomorrow mEUndo mEUp mLDel mLDown mLFrom mLKeep mLName mLNew mLUp mOC mOSave mOTC mUR"_s,
+             "mEToday_tool mETomorrow mEUndo mEUp mLDel mLDown mLFrom mLKeep mLName mLNew mLUp mOC mOSave mOTC mUExcel mUR"_s,
              u"addItemButton moveOverdue newListButton removeItem tickItem"_s},
             {"password control", open<Function::PasswordControl>, u"mOC mOSave"_s,
              u"Check1_0 Check1_1 Check1_11 Check1_13 Check1_14 Check1_15 Check1_16 Check1_2 Check1_9 "

@@ -16,6 +16,22 @@ inline Message leaveUnsaved()
     return {u"To Do List"_s, u"Leave without saving?"_s, Message::Question, {Answer::Yes, Answer::No}};
 }
 
+inline Message copied()
+{
+    return {u"Copy Option"_s, u"Data has been copied to the Windows Clipboard."_s};
+}
+
+inline Message exportNotice(const QString &folder, const QString &name)
+{
+    return {
+        u"Export File in Excel/Spreadsheet Format"_s,
+        u"A non-formatted Spreadsheet File (tab-delimited text file) will be saved in the program folder:  "_s +
+            u'\n' + folder + u"\nWith the following name:\n"_s + name +
+            u"\nNote: If File already exists it will be replaced with this file!"_s,
+        Message::Information,
+        {Answer::Ok, Answer::Cancel}};
+}
+
 /// Names the first of what is still open.
 inline Message deleteList(const QString &name, const QStringList &open)
 {

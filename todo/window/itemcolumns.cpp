@@ -18,7 +18,7 @@ struct Width {
     int least;
     int usual;
 };
-constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 98, 112},
+constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 108, 116},
                             Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 150, 300},
                             Width{ItemsModel::List, 112, 150}};
 constexpr int leastText = 200;

@@ -20,6 +20,7 @@
 #include "todo/window/notebox.h"
 #include "todo/window/openlists.h"
 #include "todo/window/ordercommands.h"
+#include "todo/window/todoprint.h"
 #include "todo/window/todospelling.h"
 #include "todo/window/windowlines.h"
 
@@ -68,6 +69,7 @@ ToDo1::ToDo1(Program &program, QWidget *parent)
     , m_items(new ItemCommands(desk(), *m_view, this))
     , m_order(new OrderCommands(desk(), *m_view, this))
     , m_spelling(new ToDoSpelling(desk(), *m_view, this))
+    , m_print(new ToDoPrint(desk(), *m_view, this))
     , m_listCommands(new ListCommands(desk(), *m_pane, *m_view, this))
 {
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(),
@@ -110,7 +112,10 @@ void ToDo1::makeCommands()
     m_listCommands->addCommands(lists);
     makeOptions(options);
     m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s));
-    addUtilitiesMenu();
+    QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
+    m_print->addExportCommand(utilities);
+    utilities->addSeparator();
+    utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
     addHelpEntry();
     commands().separateTools();
     for (const Standard tool : {Standard::PanelColor, Standard::Backup})
@@ -143,6 +148,8 @@ void ToDo1::makeOptions(QMenu *options)
 {
     options->addAction(standard(Standard::PanelColor));
     options->addAction(standard(Standard::TextColor));
+    options->addSeparator();
+    m_print->addCommands(options);
     options->addSeparator();
     commands().writing(commands().add(
         options, u"mOSave"_s, u"&Save"_s, [this] { saveByCommand(); },
@@ -189,6 +196,7 @@ void ToDo1::connectParts()
     connect(&m_view->note(), &NoteBox::said, this, say);
     connect(m_view, &ItemsView::done, this, done);
     connect(m_order, &OrderCommands::listWanted, this, [this](int list) { bring({Shown::List, list, {}}); });
+    connect(m_print, &ToDoPrint::said, this, say);
     connect(m_spelling, &ToDoSpelling::said, this, say);
     connect(m_listCommands, &ListCommands::said, this, say);
     connect(m_listCommands, &ListCommands::done, this, done);

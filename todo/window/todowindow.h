@@ -11,6 +11,7 @@ class ListCommands;
 class ListsPane;
 class OpenLists;
 class OrderCommands;
+class ToDoPrint;
 class ToDoSpelling;
 class WorkViews;
 class Writing;
@@ -56,6 +57,7 @@ private:
     ItemCommands *m_items;
     OrderCommands *m_order;
     ToDoSpelling *m_spelling;
+    ToDoPrint *m_print;
     ListCommands *m_listCommands;
     std::vector<std::pair<Shown::Kind, QAction *>> m_viewActions;
 };

@@ -64,6 +64,16 @@ inline QString templateNotTicked()
     return u"A template is never done: New List from Template makes a list of it"_s;
 }
 
+inline QString nothingShown()
+{
+    return u"Nothing is shown that could be copied"_s;
+}
+
+inline QString notExported(const QString &name)
+{
+    return u"%1 could not be saved"_s.arg(name);
+}
+
 inline QString tickSpoken(bool isDone)
 {
     return isDone ? u"done"_s : u"not done"_s;

@@ -3,6 +3,9 @@
 #include "tools/pictures/albums.h"
 #include "tools/pictures/picturesession.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -59,6 +62,32 @@ void takeSpelling(const Camera &camera)
     session.take("todo-corrections-found");
 }
 
+/// Each kind of page, from a list on.
+void takePages(PictureSession &session)
+{
+    session.clickRow("toDoLists", 0);
+    session.trigger("mOPrt");
+    session.take("todo-print");
+    session.find<QCheckBox>("printEmpty").setChecked(true);
+    for (const auto &[what, name] : {std::pair("printWhat_0", "todo-page-list"),
+                                     {"printWhat_1", "todo-page-all"},
+                                     {"printWhat_2", "todo-page-today"},
+                                     {"printWhat_3", "todo-page-persons"},
+                                     {"printWhat_4", "todo-page-done"}}) {
+        session.click(what);
+        session.click("toDoPrintShow");
+        session.takePage(name);
+        session.key(Qt::Key_Escape);
+    }
+    session.click("printWhat_0");
+    session.find<QComboBox>("printList").setCurrentIndex(1);
+    session.click("toDoPrintShow");
+    session.take("todo-print-preview");
+    session.takePage("todo-page-shopping");
+    session.key(Qt::Key_Escape);
+    session.key(Qt::Key_Escape);
+}
+
 } // namespace
 
 void Albums::toDo(const Camera &camera)
@@ -88,11 +117,13 @@ void Albums::toDo(const Camera &camera)
         session.trigger(command);
         session.take(name);
     }
+    takePages(session);
     session.fill("toDoSearch", u"the"_s);
     session.take("todo-search");
     session.trigger("mVToday");
     session.trigger("mLFrom");
     session.take("todo-new-list");
+    session.fill("newListDate", u"Dec-12-2026"_s);
     session.click("newListMake");
     session.take("todo-from-template");
 }

@@ -15,6 +15,7 @@
 #include <QGuiApplication>
 #include <QListView>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -352,6 +353,24 @@ private slots:
         QCOMPARE(labelText("toDoTitle"), u"To Do"_s);
         QCOMPARE(texts(), QStringList{u"Sweep the yard"_s});
         QCOMPARE(said(), u"Brought back: To Do"_s);
+    }
+
+    void copiesExportsAndShowsPages()
+    {
+        open();
+        chooseList(0);
+        enter(u"Sweep the yard"_s);
+        trigger("mOCopy");
+        QCOMPARE(asked(), {ToDoMessages::copied()});
+        QVERIFY(QGuiApplication::clipboard()->text().contains(u"Sweep the yard\t"_s));
+        m_test->dialogs.willAnswer(Answer::Ok);
+        trigger("mUExcel");
+        QCOMPARE(asked().size(), 1);
+        QVERIFY(m_test->bytes(u"To Do.xls"_s).endsWith("\r\nSweep the yard\t\t\t\t\t\r\n"));
+        trigger("mOPrt");
+        QVERIFY(find<QRadioButton>("printWhat_0")->isChecked());
+        click("toDoPrintShow");
+        QVERIFY(m_window->isPreviewShown());
     }
 
     void showsWhereAnItemStands()

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/controls/taskpanel.h"
+#include "todo/model/shown.h"
+#include "todo/model/todopages.h"
+
+#include <array>
+
+class DateBox;
+class QButtonGroup;
+class QCheckBox;
+class QComboBox;
+class QRadioButton;
+class QVBoxLayout;
+struct Program;
+
+/// "Print": what of the lists comes onto paper, and how.
+class ToDoPrintPanel final : public TaskPanel
+{
+    Q_OBJECT
+public:
+    ToDoPrintPanel(const Program &program, QWidget *window, QWidget *parent = nullptr);
+
+    /// Offers what the lists have; what is shown is proposed.
+    void start(const ToDoSheet &sheet, const Shown &shown);
+    ToDoPages::Options options() const;
+
+signals:
+    void accepted();
+
+private:
+    QWidget *makeChoices();
+    QWidget *makeDays();
+    void makeLook(QVBoxLayout &column);
+    void follow();
+
+    const Program &m_program;
+    QButtonGroup *m_what;
+    QComboBox *m_lists;
+    QComboBox *m_persons;
+    QWidget *m_days;
+    DateBox *m_from = nullptr;
+    DateBox *m_to = nullptr;
+    std::array<QCheckBox *, 4> m_look{}; ///< boxes, dates, notes, empty lines
+};
