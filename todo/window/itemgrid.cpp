@@ -49,8 +49,6 @@ ItemGrid::ItemGrid(ItemsModel &model, Writing &writing, QWidget *parent)
     setHorizontalScrollMode(ScrollPerPixel);
     makeHeading();
     m_question->setObjectName(u"quietQuestion"_s);
-    m_question->setAutoFillBackground(true);
-    m_question->setMargin(6);
     m_question->hide();
     connect(&model, &QAbstractItemModel::modelReset, this, &ItemGrid::span);
     connect(&model, &QAbstractItemModel::modelReset, this, &ItemGrid::showSorting);
@@ -185,10 +183,9 @@ void ItemGrid::goToFirst()
 void ItemGrid::askQuietly(const QString &question)
 {
     const Theme &theme = Theme::of(this);
-    QPalette palette = m_question->palette();
-    palette.setColor(QPalette::Window, theme.mark);
-    palette.setColor(QPalette::WindowText, theme.text);
-    m_question->setPalette(palette);
+    m_question->setStyleSheet(
+        u"background: %1; color: %2; border: 1px solid %3; border-radius: 6px; padding: 3px 8px;"_s.arg(
+            theme.mark.name(), theme.text.name(), theme.edge.name()));
     m_question->setText(question);
     m_question->adjustSize();
     const QRect cell = visualRect(currentIndex());
