@@ -131,7 +131,6 @@ void ToDo1::makeViewCommands(QMenu *view)
         QAction *command = commands().add(
             view, face.name, face.caption,
             [this, kind = face.kind] {
-                m_pane->clearSearch();
                 bring({kind, 0, {}});
                 m_view->setFocus();
             },
@@ -216,6 +215,8 @@ void ToDo1::bring(const Shown &shown)
     if (!m_stack->isHome())
         m_stack->goHome();
     closePreview();
+    if (shown.kind != Shown::Search)
+        m_pane->clearSearch();
     m_view->show(shown);
     m_pane->show(shown);
     for (const auto &[kind, action] : m_viewActions)
@@ -291,7 +292,6 @@ void ToDo1::showPlace(const Place &place)
     const int row = sheet.rowOf(place.record);
     if (row < 0)
         return;
-    m_pane->clearSearch();
     bring(sheet.isDone(row) ? Shown{Shown::Done, 0, {}} : Shown{Shown::List, sheet.listOf(row), {}});
     m_view->choose({place.record});
     m_view->grid().setFocus();

@@ -250,6 +250,9 @@ private slots:
         QCOMPARE(texts(), (QStringList{u"Call Nils"_s, u"Change the filters"_s}));
         QTest::keyClick(find<QLineEdit>("toDoSearch"), Qt::Key_Escape);
         QCOMPARE(labelText("toDoTitle"), u"To Do"_s);
+        typeInto(find<QLineEdit>("toDoSearch"), u"nils"_s);
+        trigger("mVToday");
+        QCOMPARE(find<QLineEdit>("toDoSearch")->text(), QString());
     }
 
     void makesAListFromATemplate()
