@@ -298,13 +298,13 @@ private slots:
         QCOMPARE(box.text(), u"Holms"_s);
     }
 
-    /// Fonts have letters that are much wider than the numbers of days.
+    /// Fonts have letters that are much wider than the number of a day.
     void theMonthShowsAllDaysOfAWeek()
     {
         MonthView month;
         QFont font = QApplication::font();
-        font.setLetterSpacing(QFont::AbsoluteSpacing, 40);
-        month.setFont(font);
+        font.setPointSize(40);
+        month.findChild<QTableView *>()->setFont(font);
         showActive(month);
         month.resize(266, 260);
         const auto *days = month.findChild<QTableView *>();
