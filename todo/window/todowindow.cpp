@@ -12,6 +12,7 @@
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 #include "todo/model/messages.h"
+#include "todo/window/entryline.h"
 #include "todo/window/itemcommands.h"
 #include "todo/window/itemgrid.h"
 #include "todo/window/itemsview.h"
@@ -160,8 +161,9 @@ void ToDo1::makeOptions(QMenu *options)
 void ToDo1::makeButtons()
 {
     ButtonRow &foot = m_view->foot();
-    m_view->setAddButton(
-        commands().button(m_items->addCommand(), u"addItemButton"_s, u"&Add"_s, m_view, ButtonKind::Main));
+    QPushButton *add =
+        commands().button(m_items->addCommand(), u"addItemButton"_s, u"&Add"_s, m_view, ButtonKind::Main);
+    m_view->setAddButton(add);
     foot.addLeft(commands().button(m_items->removeCommand(), u"removeItem"_s,
                                    m_items->removeCommand()->text(), &foot));
     QPushButton *overdue = commands().button(m_items->overdueCommand(), u"moveOverdue"_s,
@@ -172,7 +174,11 @@ void ToDo1::makeButtons()
         commands().button(m_items->tickCommand(), u"tickItem"_s, m_items->tickCommand()->text(), &foot));
     foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
     QAction *create = m_listCommands->createCommand();
-    m_pane->addButton(commands().button(create, u"newListButton"_s, create->text(), m_pane));
+    QPushButton *newList = commands().button(create, u"newListButton"_s, create->text(), m_pane);
+    m_pane->addButton(newList);
+    setTabOrder(&m_pane->lists(), newList);
+    setTabOrder(&m_view->entry(), add);
+    setTabOrder(add, &m_view->grid());
 }
 
 void ToDo1::connectParts()

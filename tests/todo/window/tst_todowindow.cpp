@@ -171,8 +171,11 @@ private slots:
         QVERIFY(grid()->hasFocus());
         key(Qt::Key_Backtab, Qt::ShiftModifier);
         QVERIFY(!index(1, ItemsModel::Text).data(ItemsModel::stepRole).toBool());
-        find<QLineEdit>("newItem")->setFocus();
-        grid()->setFocus(Qt::TabFocusReason);
+        find<QListView>("toDoLists")->setFocus();
+        for (const char *next : {"newListButton", "newItem", "addItemButton", "toDoGrid"}) {
+            key(Qt::Key_Tab);
+            QCOMPARE(m_window->focusWidget()->objectName(), QString::fromLatin1(next));
+        }
         for (int i = 0; i < 8 && grid()->hasFocus(); ++i)
             key(Qt::Key_Tab);
         QVERIFY(!grid()->hasFocus());
