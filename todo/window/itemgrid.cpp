@@ -107,6 +107,7 @@ void ItemGrid::resizeEvent(QResizeEvent *event)
 {
     CellGrid::resizeEvent(event);
     ItemColumns::shareWidth(*this);
+    emit resized();
 }
 
 bool ItemGrid::isAnyChosen() const

@@ -33,9 +33,10 @@ signals:
     /// They are to become steps of the item above, or items again.
     void stepped(bool isStep);
     void laterClicked();
+    /// It has another room for its rows.
+    void resized();
     /// The dates of a column are to order the rows.
     void sortRequested(int column);
-    void noteRequested(int id);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

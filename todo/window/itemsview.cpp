@@ -114,6 +114,7 @@ void ItemsView::connectParts()
     connect(m_model, &QAbstractItemModel::dataChanged, this, &ItemsView::placeNote);
     connect(m_model, &QAbstractItemModel::modelReset, this, &ItemsView::placeNote);
     connect(m_grid->horizontalHeader(), &QHeaderView::sectionResized, this, &ItemsView::placeNote);
+    connect(m_grid, &ItemGrid::resized, this, &ItemsView::placeNote);
     connect(m_grid->verticalScrollBar(), &QScrollBar::valueChanged, this, &ItemsView::placeNote);
 }
 

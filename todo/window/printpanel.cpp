@@ -117,7 +117,8 @@ QWidget *ToDoPrintPanel::makeChoices()
         QWidget *beside = besides[std::size_t(what)];
         if (!beside)
             continue;
-        beside->setFixedWidth(boxWidth({}, boxesWidth));
+        if (beside != m_days)
+            beside->setFixedWidth(boxWidth({}, boxesWidth));
         grid->addWidget(beside, what, 1);
     }
     return choices;
