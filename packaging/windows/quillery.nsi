@@ -55,8 +55,14 @@ VIAddVersionKey "LegalCopyright" "GPL-3.0-or-later"
 
 Section
     !insertmacro RefuseWhileRunning
+    ; An older version may have had other libraries.
+    Delete "$INSTDIR\*.dll"
     SetOutPath "$INSTDIR"
-    File /r "${PAYLOAD}/*"
+    File /r /x WP*.jpg "${PAYLOAD}/*"
+    ; A household that was brought here may have backgrounds of its own.
+    SetOverwrite off
+    File "${PAYLOAD}/WP*.jpg"
+    SetOverwrite on
     WriteUninstaller "$INSTDIR\uninstall.exe"
     CreateShortcut "$SMPROGRAMS\Quillery.lnk" "$INSTDIR\quillery.exe"
     WriteRegStr HKCU "${ENTRY}" "DisplayName" "Quillery"
