@@ -48,12 +48,6 @@ inline QString missed(int dates)
     return dates == 1 ? u"1 date was missed"_s : u"%1 dates were missed"_s.arg(dates);
 }
 
-inline QString takenIn(int items)
-{
-    return items == 1 ? u"Taken in: 1 thing that another program put on the list"_s
-                      : u"Taken in: %1 things that another program put on the list"_s.arg(items);
-}
-
 inline QString listNeedsName()
 {
     return u"A list needs a name."_s;
