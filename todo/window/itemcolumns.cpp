@@ -19,7 +19,7 @@ struct Width {
     int usual;
 };
 constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 108, 116},
-                            Width{ItemsModel::Who, 72, 120}, Width{ItemsModel::Repeat, 150, 300},
+                            Width{ItemsModel::Who, 100, 150}, Width{ItemsModel::Repeat, 150, 270},
                             Width{ItemsModel::List, 112, 150}};
 constexpr int leastText = 200;
 constexpr int usualText = 290; ///< from here on the others grow

@@ -222,7 +222,24 @@ void ItemCommands::tick()
     m_view.model().keepInSight(done);
     const ToDoActions::Result result =
         open.empty() ? ToDoActions::untick(sheet, done) : ToDoActions::tick(sheet, open, today, today);
-    m_view.make(result);
+    if (m_view.make(result) && open.size() == 1)
+        tellNext(open.front(), result.title);
+}
+
+/// When what was ticked comes back, and whose turn it is then.
+void ItemCommands::tellNext(int done, const QString &title)
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    const int ticked = sheet.rowOf(done);
+    for (int row = 0; ticked >= 0 && row < sheet.rowCount(); ++row) {
+        const bool isSame = sheet.idOf(row) > done && sheet.listOf(row) == sheet.listOf(ticked) &&
+                            sheet.isOpen(row) && sheet.textBytes(row) == sheet.textBytes(ticked);
+        if (!isSame || sheet.item(row).repeat.isEmpty() || !sheet.dueOf(row).isValid())
+            continue;
+        emit m_view.done(title + ToDoWindowLines::next(sheet.item(row), m_desk.program.clock.today(),
+                                                       m_desk.program.state.dateStyle));
+        return;
+    }
 }
 
 /// The command says which of the two it would do.

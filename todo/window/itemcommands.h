@@ -39,6 +39,7 @@ private:
     void hintAtLength(int id);
     void takeRepeat(int id, const QString &text);
     void tick();
+    void tellNext(int done, const QString &title);
     void captionTick();
     void setDue(QDate due);
     void moveOverdue();

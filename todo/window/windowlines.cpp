@@ -204,6 +204,14 @@ QString ToDoWindowLines::repeat(const ToDoItem &item, QDate today, const DateSty
     return next.isValid() ? words + u", then "_s + day(next, today, style) : words;
 }
 
+QString ToDoWindowLines::next(const ToDoItem &item, QDate today, const DateStyle &style)
+{
+    const QString who = Turns::current(item.who);
+    const QString when =
+        today.daysTo(item.due) == 1 ? u"tomorrow"_s : u"on "_s + shortDay(item.due, today, style);
+    return u", next "_s + when + (who.isEmpty() ? QString() : u" (%1)"_s.arg(who));
+}
+
 QString ToDoWindowLines::spoken(const ToDoItem &item, QDate today, const DateStyle &style)
 {
     QStringList words{item.text};

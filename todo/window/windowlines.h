@@ -43,6 +43,8 @@ QString typedForm(QDate day, const DateStyle &style);
 QString offset(int days, bool isShown);
 /// How often something comes back, and, where it `isShown`, when: "every 3 days, then Nov 24".
 QString repeat(const ToDoItem &item, QDate today, const DateStyle &style, bool isShown);
+/// Behind what was ticked, when it comes back: ", next on Mon, Nov 30 (Nils)".
+QString next(const ToDoItem &item, QDate today, const DateStyle &style);
 /// "Renew passports, due 15 March, overdue, Anne, not done".
 QString spoken(const ToDoItem &item, QDate today, const DateStyle &style);
 

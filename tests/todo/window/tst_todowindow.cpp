@@ -63,6 +63,7 @@ private slots:
         QCOMPARE(cell(1, ItemsModel::Repeat), u"every 3 days, then Nov 30"_s);
         key(Qt::Key_Space);
         QCOMPARE(cell(1, ItemsModel::Actual), u"Today"_s);
+        QCOMPARE(said(), u"Done: Water the ferns, next on Mon, Nov 30 (Nils)"_s);
         QCOMPARE(texts(), (QStringList{u"Call the sweep"_s, u"Water the ferns"_s}));
         QVERIFY(texts(ToDoRow::Later).contains(u"1 later"_s));
         trigger("mEUndo");
