@@ -106,7 +106,7 @@ FirstLook::FirstLook(Program &program, QWidget *parent)
     connect(m_links[Picture], &Link::clicked, this, &FirstLook::pictureWanted);
     connect(m_links[Address], &Link::clicked, this, &FirstLook::addressWanted);
     connect(m_notNow, &Link::clicked, this, &FirstLook::sendAway);
-    for (Link *link : findChildren<Link *>())
+    for (Link *link : {m_links[Name], m_links[Picture], m_links[Address], m_notNow})
         connect(link, &Link::walked, this, [this, link](int key) { walk(link, key); });
     hide();
 }
