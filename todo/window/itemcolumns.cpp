@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/window/itemcolumns.h"
 
+#include "shell/controls/cellgrid.h"
 #include "shell/look/theme.h"
 #include "todo/window/itemsmodel.h"
 
@@ -12,40 +13,73 @@
 
 namespace {
 
-/// What the columns get beside the text of the items, in the font that they were drawn for.
+/// Between what the column takes in any case, and what it never exceeds, in the font that it was drawn for.
 struct Width {
     ItemsModel::Column column;
     int least;
-    int usual;
+    int most;
 };
-constexpr std::array widths{Width{ItemsModel::Due, 154, 168}, Width{ItemsModel::Actual, 108, 116},
-                            Width{ItemsModel::Who, 100, 150}, Width{ItemsModel::Repeat, 150, 270},
-                            Width{ItemsModel::List, 112, 150}};
-constexpr int leastText = 200;
-constexpr int usualText = 290; ///< from here on the others grow
+constexpr std::array widths{Width{ItemsModel::Due, 110, 190}, Width{ItemsModel::Actual, 98, 140},
+                            Width{ItemsModel::Who, 84, 190}, Width{ItemsModel::Repeat, 110, 330},
+                            Width{ItemsModel::List, 84, 180}};
+constexpr Width text{ItemsModel::Text, 220, 330};
+constexpr int stepWidth = 48; ///< on both sides
+constexpr int signWidth = 20;
+/// More rows are not asked for what they need: their texts would have to be decoded.
+constexpr int mostRows = 100;
+
+/// What its heading and the rows of the view need, as far as there is any sense in it.
+int neededWidth(const QTableView &grid, const Width &width)
+{
+    const QAbstractItemModel &model = *grid.model();
+    const QFontMetrics metrics(TypeScale::body());
+    int needed = metrics.horizontalAdvance(model.headerData(width.column, Qt::Horizontal).toString());
+    for (int row = 0; row < std::min(model.rowCount(), mostRows); ++row) {
+        const QModelIndex cell = model.index(row, width.column);
+        const bool hasSign = !cell.data(GridCell::signRole).toString().isEmpty();
+        needed =
+            std::max(needed, metrics.horizontalAdvance(cell.data().toString()) + (hasSign ? signWidth : 0) +
+                                 (cell.data(ItemsModel::stepRole).toBool() && width.column == ItemsModel::Text
+                                      ? stepWidth
+                                      : 0));
+    }
+    return std::clamp(needed + 2 * CellGrid::inset + 2, TypeScale::wide(width.least),
+                      TypeScale::wide(width.most));
+}
+
+/// The date is never cut: "overdue" stands behind it.
+int leastOf(const Width &width, int needed)
+{
+    return width.column == ItemsModel::Due ? needed : TypeScale::wide(width.least);
+}
 
 } // namespace
 
 void ItemColumns::shareWidth(QTableView &grid)
 {
-    int usual = tickWidth;
+    QHeaderView &heading = *grid.horizontalHeader();
+    std::array<int, widths.size()> needed{};
     int least = tickWidth;
-    for (const Width &width : widths) {
-        if (grid.isColumnHidden(width.column))
+    int all = tickWidth;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        if (grid.isColumnHidden(widths[i].column))
             continue;
-        usual += TypeScale::wide(width.usual);
-        least += TypeScale::wide(width.least);
+        needed[i] = neededWidth(grid, widths[i]);
+        least += leastOf(widths[i], needed[i]);
+        all += needed[i];
     }
     const int room = grid.viewport()->width();
-    const double share =
-        std::clamp(double(room - TypeScale::wide(usualText) - least) / (usual - least), 0., 1.);
+    const int spare = room - neededWidth(grid, text) - least;
+    const double share = all > least ? std::clamp(double(spare) / (all - least), 0., 1.) : 1.;
     int taken = tickWidth;
-    for (const Width &width : widths) {
-        const int wide = TypeScale::wide(width.least + int((width.usual - width.least) * share));
-        grid.horizontalHeader()->resizeSection(width.column, wide);
-        taken += grid.isColumnHidden(width.column) ? 0 : wide;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        if (grid.isColumnHidden(widths[i].column))
+            continue;
+        const int narrow = leastOf(widths[i], needed[i]);
+        const int wide = narrow + int((needed[i] - narrow) * share);
+        heading.resizeSection(widths[i].column, wide);
+        taken += wide;
     }
-    grid.horizontalHeader()->resizeSection(ItemsModel::Tick, tickWidth);
-    grid.horizontalHeader()->resizeSection(ItemsModel::Text,
-                                           std::max(TypeScale::wide(leastText), room - taken));
+    heading.resizeSection(ItemsModel::Tick, tickWidth);
+    heading.resizeSection(ItemsModel::Text, std::max(TypeScale::wide(text.least), room - taken));
 }

@@ -8,7 +8,8 @@ namespace ItemColumns {
 
 inline constexpr int tickWidth = 36;
 
-/// The text takes what the others leave; where that is little, they give way, and at last the grid scrolls.
+/// Each column gets what its rows need, and the text what is left; where that is little, the others give way,
+/// and at last the grid scrolls.
 void shareWidth(QTableView &grid);
 
 } // namespace ItemColumns

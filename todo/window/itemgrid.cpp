@@ -54,7 +54,10 @@ ItemGrid::ItemGrid(ItemsModel &model, Writing &writing, QWidget *parent)
     connect(&model, &QAbstractItemModel::modelReset, this, &ItemGrid::showSorting);
     for (const auto changed : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(&model, changed, this, &ItemGrid::span);
-    connect(&model, &QAbstractItemModel::dataChanged, this, &ItemGrid::showSorting);
+    connect(&model, &QAbstractItemModel::dataChanged, this, [this] {
+        showSorting();
+        fit();
+    });
 }
 
 void ItemGrid::makeHeading()
@@ -84,6 +87,7 @@ void ItemGrid::span()
         if (rowHeight(row) != height)
             setRowHeight(row, height);
     }
+    fit();
 }
 
 void ItemGrid::showSorting()
@@ -97,16 +101,28 @@ void ItemGrid::showSorting()
                                   m_model.isBackwards() ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
+/// Where nothing is shown as done, the column for its day is left out of the views.
+void ItemGrid::fit()
+{
+    const Shown::Kind kind = m_model.shown().kind;
+    const bool isOfOpen = kind == Shown::Today || kind == Shown::Coming || kind == Shown::ByPerson;
+    bool isNeeded = !isOfOpen;
+    for (int row = 0; !isNeeded && row < m_model.rowCount(); ++row)
+        isNeeded = m_model.index(row, ItemsModel::Actual).data(ItemsModel::doneRole).toBool();
+    setColumnHidden(ItemsModel::Actual, !isNeeded);
+    ItemColumns::shareWidth(*this);
+}
+
 void ItemGrid::setListShown(bool isShown)
 {
     setColumnHidden(ItemsModel::List, !isShown);
-    ItemColumns::shareWidth(*this);
+    fit();
 }
 
 void ItemGrid::resizeEvent(QResizeEvent *event)
 {
     CellGrid::resizeEvent(event);
-    ItemColumns::shareWidth(*this);
+    fit();
     emit resized();
 }
 

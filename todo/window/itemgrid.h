@@ -55,6 +55,7 @@ protected:
 private:
     void makeHeading();
     void span();
+    void fit();
     bool isTick(const QModelIndex &index) const;
     bool isItem(const QModelIndex &index) const;
     static bool isForText(const QKeyEvent &key);

@@ -6,6 +6,7 @@
 #include "shell/controls/datepicker.h"
 #include "shell/program/program.h"
 #include "todo/model/templates.h"
+#include "todo/model/typeddate.h"
 #include "todo/window/panellines.h"
 
 #include <QComboBox>
@@ -68,9 +69,14 @@ NewListPanel::NewListPanel(const Program &program, QWidget *window, QWidget *par
     column->addStretch(1);
     setContent(content);
     QPushButton *make = addButton(u"newListMake"_s, u"&Make List"_s, ButtonKind::Main);
-    setLeaveButton(u"newListCancel"_s, u"C&ancel"_s);
+    QPushButton *cancel = setLeaveButton(u"newListCancel"_s, u"C&ancel"_s);
+    setTabOrder(m_beginnings, m_name);
+    setTabOrder(m_name, m_day);
+    setTabOrder(m_day, make);
+    setTabOrder(make, cancel);
     connect(make, &QPushButton::clicked, this, &NewListPanel::accepted);
-    connect(m_name, &QLineEdit::returnPressed, this, &NewListPanel::accepted);
+    for (QLineEdit *box : {static_cast<QLineEdit *>(m_name), static_cast<QLineEdit *>(m_day)})
+        connect(box, &QLineEdit::returnPressed, this, &NewListPanel::accepted);
     connect(m_name, &QLineEdit::textEdited, this, [this] {
         m_isNamed = !m_name->text().isEmpty();
         setWords({});
@@ -121,13 +127,14 @@ NewListPanel::Beginning NewListPanel::beginning() const
 
 std::optional<QDate> NewListPanel::day() const
 {
-    return beginning().hasDays ? m_day->date() : m_program.clock.today();
+    const QDate today = m_program.clock.today();
+    return beginning().hasDays ? TypedDate::read(m_day->text(), m_program.state.dateStyle, today) : today;
 }
 
 void NewListPanel::refuse(const QString &why)
 {
     setWords(why);
-    if (beginning().hasDays && !m_day->date())
+    if (!day())
         m_day->setFocus();
     else
         m_name->setFocus();

@@ -25,7 +25,7 @@ inline QString dayHint()
 
 inline QString noDay()
 {
-    return u"Type the day that its dates count from"_s;
+    return u"Type the day that its dates count from: \u201c12 July\u201d, \u201cfri\u201d or \u201c+10\u201d"_s;
 }
 
 inline QString caption(const NewListPanel::Beginning &beginning)
