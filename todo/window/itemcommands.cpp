@@ -17,6 +17,7 @@
 #include "todo/window/windowlines.h"
 
 #include <QMenu>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -158,12 +159,12 @@ void ItemCommands::takeDate(int id, int column, const QString &text)
         if (isEmpty || offset)
             m_view.make(ToDoActions::setOffset(sheet, {id}, offset));
         else
-            emit m_view.said(ToDoWindowLines::notDays());
+            refuse(id, column, text, ToDoWindowLines::notDays());
         return;
     }
     const auto date = isEmpty ? QDate() : TypedDate::read(text, m_desk.program.state.dateStyle, today);
     if (!date) {
-        emit m_view.said(TypedDate::refusal());
+        refuse(id, column, text, TypedDate::refusal());
         return;
     }
     if (column == ItemsModel::Due) {
@@ -176,6 +177,17 @@ void ItemCommands::takeDate(int id, int column, const QString &text)
     if (const QString question = date->isValid() ? TypedDate::question(*date, today) : QString();
         !question.isEmpty())
         m_view.grid().askQuietly(question);
+}
+
+/// Says why, and lets the text be typed over once the keys that ended it have been dealt with.
+void ItemCommands::refuse(int id, int column, const QString &text, const QString &why)
+{
+    emit m_view.said(why);
+    QTimer::singleShot(0, this, [this, id, column, text] {
+        const int row = m_view.model().rowOf(id);
+        if (row >= 0 && m_view.grid().isInUse())
+            m_view.grid().typeAgain(m_view.model().index(row, column), text);
+    });
 }
 
 /// The planner has less room for a text than the lists.
@@ -194,7 +206,7 @@ void ItemCommands::takeRepeat(int id, const QString &text)
     const QDate due = sheet.dueOf(sheet.rowOf(id));
     const auto rule = RepeatWords::read(text, due.isValid() ? due : m_desk.program.clock.today());
     if (!rule && !text.trimmed().isEmpty())
-        emit m_view.said(ToDoWindowLines::notARepeat());
+        refuse(id, ItemsModel::Repeat, text, ToDoWindowLines::notARepeat());
     else
         m_view.make(ToDoActions::setRepeat(sheet, {id}, rule ? rule->toFile() : QString()));
 }

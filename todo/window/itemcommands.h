@@ -36,6 +36,7 @@ private:
     void takeNew(const QStringList &lines);
     void takeTyped(int id, int column, const QString &text);
     void takeDate(int id, int column, const QString &text);
+    void refuse(int id, int column, const QString &text, const QString &why);
     void hintAtLength(int id);
     void takeRepeat(int id, const QString &text);
     void tick();

@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -183,6 +184,15 @@ void ItemGrid::choose(const std::vector<int> &ids)
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
     scrollTo(first);
+}
+
+void ItemGrid::typeAgain(const QModelIndex &index, const QString &text)
+{
+    type(index);
+    if (auto *box = qobject_cast<QLineEdit *>(window()->focusWidget()); box && isAncestorOf(box)) {
+        box->setText(text);
+        box->selectAll();
+    }
 }
 
 void ItemGrid::goToFirst()

@@ -20,6 +20,8 @@ public:
     bool isAnyChosen() const;
     /// Chooses items, the first of them as the current one, and brings it to sight.
     void choose(const std::vector<int> &ids);
+    /// Opens a cell whose `text` was refused, to be typed over.
+    void typeAgain(const QModelIndex &index, const QString &text);
     /// Makes the first item the current one, without choosing it.
     void goToFirst();
     /// The column "List", for views over all of them.

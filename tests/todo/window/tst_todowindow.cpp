@@ -193,6 +193,10 @@ private slots:
         typeCell(u"5"_s);
         QCOMPARE(cell(0, ItemsModel::Due), QString());
         QVERIFY(!said().isEmpty());
+        QTRY_COMPARE(m_window->focusWidget()->objectName(), u"cellBox"_s); // to be typed over
+        QCOMPARE(qobject_cast<QLineEdit *>(m_window->focusWidget())->selectedText(), u"5"_s);
+        key(Qt::Key_Escape);
+        QVERIFY(grid()->hasFocus());
         typeCell(u"07/01/2062"_s);
         QCOMPARE(cell(0, ItemsModel::Due), u"Jul 1, 2062"_s);
         QVERIFY(find<QLabel>("quietQuestion")->isVisible());
