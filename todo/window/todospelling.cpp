@@ -16,6 +16,7 @@
 
 #include <QMenu>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -65,15 +66,32 @@ void ToDoSpelling::addCommands(QMenu *menu)
     });
 }
 
-/// What is still to be done; nobody reads over what is done.
+/// The rows of what is still to be done, nobody reads over what is done: from the one that is chosen on, or
+/// from the first of the list that is shown, and round.
+std::vector<int> ToDoSpelling::rowsToRead() const
+{
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    std::vector<int> rows;
+    for (int row = 0; row < sheet.rowCount(); ++row) {
+        if (!sheet.isDone(row))
+            rows.push_back(row);
+    }
+    if (m_view.shown().kind == Shown::List)
+        std::ranges::stable_partition(rows,
+                                      [&](int row) { return sheet.listOf(row) == m_view.shown().list; });
+    const std::vector<int> chosen = m_view.chosen();
+    const auto first = chosen.empty() ? rows.end() : std::ranges::find(rows, sheet.rowOf(chosen.front()));
+    if (first != rows.end())
+        std::rotate(rows.begin(), first, rows.end());
+    return rows;
+}
+
 std::vector<WalkedText> ToDoSpelling::texts() const
 {
     m_view.finishEdit();
     std::vector<WalkedText> texts;
     const ToDoSheet &sheet = m_desk.lists.sheet();
-    for (int row = 0; row < sheet.rowCount(); ++row) {
-        if (sheet.isDone(row))
-            continue;
+    for (const int row : rowsToRead()) {
         const ToDoItem item = sheet.item(row);
         const ToDoList *list = sheet.list(item.list);
         const QString where = list ? list->name : QString();

@@ -28,6 +28,7 @@ signals:
     void said(const QString &line);
 
 private:
+    std::vector<int> rowsToRead() const;
     std::vector<WalkedText> texts() const;
     void change(const WalkedText &text);
 
