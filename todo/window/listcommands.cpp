@@ -131,6 +131,7 @@ void ListCommands::create()
     m_desk.views.goHome();
     if (!made.ids.empty())
         emit wanted({Shown::List, made.ids.front(), {}});
+    emit done(made.title); // another list says nothing as it comes
 }
 
 void ListCommands::rename(int id, const QString &name)
@@ -203,5 +204,5 @@ void ListCommands::bringBack(const Trash::Item &item)
         return;
     m_desk.views.goHome();
     emit wanted({Shown::List, result.ids.front(), {}});
-    emit done(result.title); // another list says nothing as it comes
+    emit done(result.title);
 }

@@ -277,6 +277,7 @@ private slots:
         typeInto(m_window->focusWidget(), u"12 July"_s);
         key(Qt::Key_Return);
         QCOMPARE(labelText("toDoTitle"), u"Before a trip"_s);
+        QVERIFY(said().contains(u"Before a trip"_s));
         QCOMPARE(names("toDoLists").size(), 2);
         QVERIFY(texts(ToDoRow::Item, ItemsModel::Due).join(u' ').contains(u"2027"_s));
         trigger("mEUndo");
