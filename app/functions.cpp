@@ -23,6 +23,9 @@
 #include "shell/access/passwordcheck.h"
 #include "shell/access/passwordcontrol.h"
 #include "shell/program/program.h"
+#include "todo/model/todofiles.h"
+#include "todo/model/todonews.h"
+#include "todo/model/todosource.h"
 #include "todo/window/todowindow.h"
 #include "weight/model/personfiles.h"
 #include "weight/model/weightnews.h"
@@ -189,6 +192,26 @@ void showPerson(QWidget &window, const Place &place)
         tracker->showPlace(place);
 }
 
+std::optional<LiveLine> toDoNews(const Program &program, QDate today)
+{
+    return ToDoNews::liveLine(program.folder, program.state.dateStyle, today);
+}
+
+QList<DayNote> toDoNotes(const Program &program, QDate from, QDate to)
+{
+    return ToDoNews::dayNotes(program.folder, program.state.dateStyle, from, to, program.clock.today());
+}
+
+QStringList filesOfToDo(const Program &program)
+{
+    return ToDoNews::files(program.folder);
+}
+
+std::unique_ptr<SearchSource> toDoSearch(const Program &program)
+{
+    return std::make_unique<ToDoSource>(program.folder, program.state.dateStyle);
+}
+
 void showToDo(QWidget &window, const Place &place)
 {
     if (auto *lists = qobject_cast<ToDo1 *>(&window))
@@ -261,7 +284,13 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                             .show = showPerson,
                                             .files = weightFiles,
                                             .pictures = weightPictures});
-    functions.add(Function::ToDoList, {.open = makeWindow<ToDo1>, .show = showToDo});
+    functions.add(Function::ToDoList, {.open = makeWindow<ToDo1>,
+                                       .liveLine = toDoNews,
+                                       .liveFiles = ToDoFiles::names(),
+                                       .dayNotes = toDoNotes,
+                                       .search = toDoSearch,
+                                       .show = showToDo,
+                                       .files = filesOfToDo});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

@@ -7,6 +7,7 @@
 #include "todo/model/todocounts.h"
 #include "todo/model/tododifference.h"
 #include "todo/model/todofiles.h"
+#include "todo/model/todonews.h"
 #include "todo/model/todoviews.h"
 
 #include <QDir>
@@ -119,7 +120,8 @@ void saveFullLists(benchmark::State &state)
 }
 BENCHMARK(saveFullLists)->UseManualTime()->MinTime(3);
 
-void readOpenThingsOfFourteenDays(benchmark::State &state)
+/// What the planner asks for on every step.
+void tellOfFourteenDays(benchmark::State &state)
 {
     constexpr double most = 10;
     const FullFolder full;
@@ -127,15 +129,12 @@ void readOpenThingsOfFourteenDays(benchmark::State &state)
     for ([[maybe_unused]] const auto _ : state) {
         limit.reference([&] { benchmark::DoNotOptimize(contentOf(full.path(u"ToDo1.Fil"_s)).split('\n')); });
         limit.measure([&] {
-            const ToDoSheet sheet = full.files.read(DateStyle::Usa, today);
-            int count = 0;
-            for (int row = 0; row < sheet.rowCount(); ++row)
-                count += sheet.isOpen(row) && sheet.dueOf(row) <= today.addDays(14) ? 1 : 0;
-            benchmark::DoNotOptimize(count);
+            benchmark::DoNotOptimize(
+                ToDoNews::dayNotes(full.folder, DateStyle::Usa, today, today.addDays(13), today));
         });
     }
 }
-BENCHMARK(readOpenThingsOfFourteenDays)->UseManualTime()->MinTime(1);
+BENCHMARK(tellOfFourteenDays)->UseManualTime()->MinTime(1);
 
 /// Beside a frame: what a tick, a drag and each of them as a step of undo may take at most.
 template <typename Act>

@@ -140,8 +140,11 @@ private slots:
             QVERIFY2(QFile::exists(picture), qPrintable(picture));
         const FunctionEntry *planner = test.functions.entry(Function::Planner);
         QCOMPARE(planner->files(test.program), (QStringList{u" 2026.Cal"_s, u" 2027.Cal"_s, u" 2028.Cal"_s}));
+        const FunctionEntry *toDo = test.functions.entry(Function::ToDoList);
+        QCOMPARE(toDo->files(test.program), QStringList{u"TODOActv.FIL"_s});
+        QVERIFY(toDo->liveLine(test.program, QDate(2027, 3, 16))->text.contains(u"overdue"_s));
         const TestProgram empty;
-        for (const FunctionEntry *entry : {book, planner})
+        for (const FunctionEntry *entry : {book, planner, toDo})
             QCOMPARE(entry->files(empty.program), QStringList());
     }
 
