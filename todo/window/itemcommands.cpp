@@ -125,6 +125,13 @@ void ItemCommands::takeNew(const QStringList &lines)
     m_view.make(ToDoActions::newItems(m_desk.lists.sheet(), pattern, lines, 0, today));
 }
 
+void ItemCommands::takeLine()
+{
+    const bool hasList = m_desk.lists.sheet().list(m_view.listForNew()) != nullptr;
+    if (hasList && m_view.takesNew() && !m_view.entry().text().trimmed().isEmpty())
+        takeNew({m_view.entry().text()});
+}
+
 void ItemCommands::takeTyped(int id, int column, const QString &text)
 {
     const ToDoSheet &sheet = m_desk.lists.sheet();

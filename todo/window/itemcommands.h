@@ -21,6 +21,9 @@ public:
     void addCommands(QMenu *edit);
     /// "Add", beside the line for something new.
     QAction *addCommand() const { return m_add; }
+    /// What stands in the line for something new and was not entered goes into the lists.
+    void takeLine();
+
     QAction *removeCommand() const { return m_remove; }
     QAction *tickCommand() const { return m_tick; }
     QAction *overdueCommand() const { return m_overdue; }

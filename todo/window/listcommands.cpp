@@ -171,8 +171,8 @@ void ListCommands::remove()
     const QStringList open = ListActions::openTexts(m_desk.lists.sheet(), gone.id);
     if (m_desk.program.dialogs.ask(&m_desk.window, ToDoMessages::deleteList(gone.name, open)) != Answer::Yes)
         return;
-    const ToDoSheet before = m_desk.lists.sheet();
     emit wanted({});
+    const ToDoSheet before = m_desk.lists.sheet();
     const ToDoActions::Result result = ListActions::remove(before, gone.id);
     if (!result.isChange() || !m_desk.lists.change(result.title, result.sheet))
         return;

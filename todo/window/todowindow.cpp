@@ -217,7 +217,9 @@ void ToDo1::connectParts()
 
 void ToDo1::bring(const Shown &shown)
 {
-    activity().say({});
+    activity().say(m_lists->whyLocked());
+    if (shown != m_view->shown())
+        m_items->takeLine(); // where it was typed
     if (!m_stack->isHome())
         m_stack->goHome();
     closePreview();
@@ -254,6 +256,7 @@ void ToDo1::load()
 bool ToDo1::isModified() const
 {
     m_view->finishEdit();
+    m_items->takeLine();
     return !m_lists->isSaved() && !m_lists->save();
 }
 
@@ -276,6 +279,7 @@ Answer ToDo1::askToLeave()
 void ToDo1::saveByCommand()
 {
     m_view->finishEdit();
+    m_items->takeLine();
     if (m_lists->save())
         activity().say(ToDoWindowLines::saved());
 }

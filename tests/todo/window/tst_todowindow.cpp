@@ -78,12 +78,24 @@ private slots:
         chooseList(0);
         enter(u"Sweep the yard"_s);
         QTRY_VERIFY(file().contains("\tSweep the yard\t"));
-        enter(u"Mow the lawn"_s);
+        typeInto(find<QLineEdit>("newItem"), u"Mow the lawn"_s); // and not entered
         QVERIFY(!file().contains("Mow"));
         m_window->close();
         QVERIFY(file().contains("\tMow the lawn\t"));
         QCOMPARE(m_test->bytes(u"TODOActv.FIL"_s), "\"Sweep the yard\"\r\n\"\"\r\n\"To Do\"\r\n"
                                                    "\"Mow the lawn\"\r\n\"\"\r\n\"To Do\"\r\n"_ba);
+    }
+
+    void saysWhyNothingMayBeChanged()
+    {
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+        m_test->setBytes(u"ToDo1.Fil"_s, "Quillery To Do 2\r\nlist\t1\tplain\tHome\r\n");
+        openAgain();
+        const QString why = said();
+        QVERIFY(!why.isEmpty());
+        chooseList(0);
+        QCOMPARE(said(), why);
+        QVERIFY(find<QLineEdit>("newItem")->isReadOnly());
     }
 
     void takesInWhatAnotherProgramLeavesWithTheNextSave()
