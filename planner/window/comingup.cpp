@@ -2,6 +2,7 @@
 #include "planner/window/comingup.h"
 
 #include "planner/model/lines.h"
+#include "planner/model/plannerfiles.h"
 #include "shell/controls/controls.h"
 #include "shell/core/area.h"
 #include "shell/core/dates.h"
@@ -10,6 +11,7 @@
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 
+#include <QEvent>
 #include <QListView>
 #include <QPainter>
 #include <QShortcut>
@@ -84,11 +86,24 @@ QLatin1StringView iconOf(const HouseholdNote &note)
                                                   : QLatin1StringView(FunctionFaces::of(note.function).icon);
 }
 
+/// Whether one of the day's rows says what the note says, as far as it has room for it.
+bool holds(const PlannerDay &day, const DayNote &note)
+{
+    const QString text = note.text.trimmed();
+    const QString beginning = text.left(PlannerDay::textWidth).trimmed();
+    return std::ranges::any_of(day.texts, [&](const QString &row) {
+        const QString held = row.trimmed();
+        return !held.isEmpty() && (held.compare(text, Qt::CaseInsensitive) == 0 ||
+                                   held.compare(beginning, Qt::CaseInsensitive) == 0);
+    });
+}
+
 } // namespace
 
-ComingUpModel::ComingUpModel(const Program &program, QObject *parent)
+ComingUpModel::ComingUpModel(const Program &program, const PlannerFiles &files, QObject *parent)
     : QAbstractListModel(parent)
     , m_program(program)
+    , m_files(files)
     , m_source(program)
 {}
 
@@ -96,6 +111,10 @@ void ComingUpModel::load(QDate from, QDate to)
 {
     beginResetModel();
     m_notes = m_source.all(from, to);
+    m_notes.removeIf([days = m_files.days(from, to)](const HouseholdNote &note) {
+        const auto day = days.find(note.note.date);
+        return note.note.kind == NoteKind::Done || (day != days.end() && holds(day->second, note.note));
+    });
     endResetModel();
 }
 
@@ -138,9 +157,9 @@ QVariant ComingUpModel::data(const QModelIndex &index, int role) const
     }
 }
 
-ComingUp::ComingUp(const Program &program, QWidget *parent)
+ComingUp::ComingUp(const Program &program, const PlannerFiles &files, QWidget *parent)
     : QWidget(parent)
-    , m_model(new ComingUpModel(program, this))
+    , m_model(new ComingUpModel(program, files, this))
     , m_list(named(new QListView(this), u"comingUp"_s))
     , m_nothing(makeQuietLabel({}, this))
 {
@@ -177,6 +196,19 @@ void ComingUp::setDate(QDate date)
     if (std::exchange(m_isLoading, true))
         return;
     QTimer::singleShot(0, this, &ComingUp::load);
+}
+
+void ComingUp::refresh()
+{
+    if (m_date.isValid())
+        setDate(m_date);
+}
+
+bool ComingUp::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show)
+        refresh();
+    return QWidget::event(event);
 }
 
 void ComingUp::load()

@@ -7,19 +7,21 @@
 #include <QDate>
 #include <QWidget>
 
+class PlannerFiles;
 class QLabel;
 class QListView;
 struct Program;
 
 /// What other functions have for a day and the two weeks from it: birthdays, things that fall due. They are
-/// shown beside the day and never take one of its rows. A click leads to where they come from.
+/// shown beside the day and never take one of its rows. A click leads to where they come from. What was done,
+/// and what stands among the appointments of its day already, is not coming up.
 class ComingUpModel final : public QAbstractListModel
 {
     Q_OBJECT
 public:
     enum Role { SourceRole = Qt::UserRole, IconRole };
 
-    ComingUpModel(const Program &program, QObject *parent);
+    ComingUpModel(const Program &program, const PlannerFiles &files, QObject *parent);
 
     /// Asks the functions that have notes; a guarded one is not asked.
     void load(QDate from, QDate to);
@@ -35,6 +37,7 @@ private:
     QString whenText(QDate date) const;
 
     const Program &m_program;
+    const PlannerFiles &m_files;
     HouseholdNotes m_source;
     QList<HouseholdNote> m_notes;
 };
@@ -44,12 +47,16 @@ class ComingUp final : public QWidget
 {
     Q_OBJECT
 public:
-    ComingUp(const Program &program, QWidget *parent = nullptr);
+    ComingUp(const Program &program, const PlannerFiles &files, QWidget *parent = nullptr);
 
     /// Shows the notes of the two weeks from `date`; they are read once the window has been painted.
     void setDate(QDate date);
     /// Reads the notes again.
-    void refresh() { setDate(m_date); }
+    void refresh();
+
+protected:
+    /// Reads the notes again when the user comes back from another window, where they may have been changed.
+    bool event(QEvent *event) override;
 
 private:
     void load();

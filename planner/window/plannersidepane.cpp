@@ -81,7 +81,7 @@ QWidget *PlannerSidePane::makePanels(const Program &program, PanelColors &colors
     auto *comingPanel = named(new PanelFrame, u"comingUpPanel"_s);
     auto *comingLayout = new QVBoxLayout(comingPanel);
     comingLayout->setContentsMargins(18, 14, 12, 12);
-    m_comingUp = new ComingUp(program, comingPanel);
+    m_comingUp = new ComingUp(program, files, comingPanel);
     comingLayout->addWidget(m_comingUp);
 
     auto *layout = new QVBoxLayout(content);
@@ -109,6 +109,7 @@ void PlannerSidePane::setOptions(const CalendarOptions &options)
 void PlannerSidePane::refreshMarks()
 {
     m_calendar->refreshMarks();
+    m_comingUp->refresh();
 }
 
 void PlannerSidePane::showToday()

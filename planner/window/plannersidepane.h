@@ -22,7 +22,7 @@ public:
 
     void setDate(QDate date);
     void setOptions(const CalendarOptions &options);
-    /// Looks again at which days have entries: something was written.
+    /// Looks again at which days have entries and what is coming up: something was written.
     void refreshMarks();
     /// A new day may have begun.
     void showToday();

@@ -154,6 +154,38 @@ private slots:
         QCOMPARE(wanted.first().at(1).value<Place>(), tom);
     }
 
+    /// The planner's rows are 50 characters long.
+    void leaveOutWhatIsDoneOrStandsInItsDay()
+    {
+        const QString longText = u"Call the chimney sweep about the stove in the old kitchen"_s;
+        FunctionEntry toDo;
+        QString known = u"Paint"_s;
+        toDo.dayNotes = [&](const Program &, QDate, QDate) {
+            return QList<DayNote>{{today, u"Wash, done"_s, {}, NoteKind::Done},
+                                  {today, longText, {}, NoteKind::ToDo},
+                                  {today.addDays(1), known, {}, NoteKind::ToDo}};
+        };
+        m_test->functions.add(Function::AddressBook, toDo);
+        const auto *notes = find<QAbstractItemView>("comingUp")->model();
+        const auto texts = [&] {
+            QStringList texts;
+            for (int row = 0; row < notes->rowCount(); ++row)
+                texts << notes->index(row, 0).data().toString();
+            return texts;
+        };
+        choose(today.addDays(1));
+        choose(today);
+        QTRY_COMPARE(texts(), (QStringList{longText, u"Paint"_s}));
+        type(0, u"8:00"_s, longText.left(50));
+        click("saveDay");
+        QTRY_COMPARE(texts(), QStringList{u"Paint"_s});
+        known = u"Paint the fence"_s; // in another window
+        QEvent activated(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(m_window, &activated);
+        QTRY_COMPARE(texts(), QStringList{known});
+        delete m_window; // before what it would ask
+    }
+
     void areNotAskedForWhileGuarded()
     {
         m_test->state.protectedAreas.setFlag(Area::AddressBook, u"YES"_s);
