@@ -23,6 +23,8 @@
 #include "shell/access/passwordcheck.h"
 #include "shell/access/passwordcontrol.h"
 #include "shell/program/program.h"
+#include "shell/writing/correctionfile.h"
+#include "shell/writing/ownwords.h"
 #include "todo/model/todofiles.h"
 #include "todo/model/todonews.h"
 #include "todo/model/todosource.h"
@@ -202,9 +204,15 @@ QList<DayNote> toDoNotes(const Program &program, QDate from, QDate to)
     return ToDoNews::dayNotes(program.folder, program.state.dateStyle, from, to, program.clock.today());
 }
 
+/// With the household's words and corrections, which came with it.
 QStringList filesOfToDo(const Program &program)
 {
-    return ToDoNews::files(program.folder);
+    QStringList files = ToDoNews::files(program.folder);
+    for (const QString &name : {OwnWords::fileName, CorrectionFile::fileName}) {
+        if (!program.folder.existingFile({}, name).isEmpty())
+            files.append(name);
+    }
+    return files;
 }
 
 std::unique_ptr<SearchSource> toDoSearch(const Program &program)

@@ -6,6 +6,7 @@
 #include "shell/core/settingskeys.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/program/sharedprocedures.h"
+#include "tests/support/testfiles.h"
 #include "tests/support/testprogram.h"
 
 #include <QAction>
@@ -141,7 +142,8 @@ private slots:
         const FunctionEntry *planner = test.functions.entry(Function::Planner);
         QCOMPARE(planner->files(test.program), (QStringList{u" 2026.Cal"_s, u" 2027.Cal"_s, u" 2028.Cal"_s}));
         const FunctionEntry *toDo = test.functions.entry(Function::ToDoList);
-        QCOMPARE(toDo->files(test.program), QStringList{u"TODOActv.FIL"_s});
+        QVERIFY(makeFile(test.folder.path() + u"/spell1.fil"_s, "Quillery words 1\r\n"));
+        QCOMPARE(toDo->files(test.program), (QStringList{u"TODOActv.FIL"_s, u"Spell1.Fil"_s}));
         QVERIFY(toDo->liveLine(test.program, QDate(2027, 3, 16))->text.contains(u"overdue"_s));
         const TestProgram empty;
         for (const FunctionEntry *entry : {book, planner, toDo})
