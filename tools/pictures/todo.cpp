@@ -20,7 +20,7 @@ constexpr auto lists =
     "are in the "
     "cellar, second shelf.\r\n"
     "item\t2\t1\t0\t2026-11-21\t\tAnne > Nils > Karin\tday 3 after\t2026-11-18\tWater the ferns\t\r\n"
-    "item\t3\t1\t0\t2026-11-27\t\t\t\t2026-11-10\tPaint the fense\t\r\n"
+    "item\t3\t1\t0\t2026-11-27\t\t\t\t2026-11-10\tPaint the fence\t\r\n"
     "item\t4\t1\t1\t2026-11-24\t\tNils\t\t2026-11-10\tBuy paint and two brushes\t\r\n"
     "item\t5\t1\t1\t\t2026-11-20\tNils\t\t2026-11-10\tSand the rails\t\r\n"
     "item\t6\t1\t0\t\t\tKarin\t\t2026-11-12\tClear the attic\t\r\n"
