@@ -278,16 +278,19 @@ bool ChangeSet::removeJournal(const DataFolder &folder)
 
 bool ChangeSet::stage() const
 {
-    return std::ranges::all_of(m_changes, [this](const Change &change) {
+    std::vector<std::pair<QString, QByteArray>> waiting;
+    for (const Change &change : m_changes) {
         if (change.isInPlace())
-            return true;
+            continue;
         const QFileInfo original(m_folder.filePath(change.name));
         if (original.exists() && !(original.isFile() && original.isWritable())) {
             qCWarning(storageLog).noquote() << "Cannot replace" << original.filePath();
             return false;
         }
-        return change.isGoing() || Disk::writeWhole(waitingPath(m_folder, change.name), change.bytes);
-    });
+        if (change.isWholeFile())
+            waiting.emplace_back(waitingPath(m_folder, change.name), change.bytes);
+    }
+    return Disk::writeAllWhole(waiting);
 }
 
 bool ChangeSet::hasTakenNames() const

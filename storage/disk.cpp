@@ -4,8 +4,9 @@
 #include "storage/log.h"
 #include "storage/systemfile.h"
 
+#include <algorithm>
+#include <memory>
 #include <system_error>
-#include <utility>
 
 namespace {
 
@@ -25,6 +26,11 @@ bool said(bool isDone, const char *step, const QFile &file)
     if (!isDone)
         qCWarning(storageLog).noquote() << "Cannot" << step << file.fileName() << '-' << file.errorString();
     return isDone;
+}
+
+bool openToReplace(QFile &file)
+{
+    return said(file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered), "write", file);
 }
 
 } // namespace
@@ -72,9 +78,19 @@ void Disk::flushNames(const QString &path)
 bool Disk::writeWhole(const QString &path, QByteArrayView content)
 {
     QFile file(path);
-    return said(file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered), "write",
-                file) &&
-           writeAt(file, 0, content) && flush(file);
+    return openToReplace(file) && writeAt(file, 0, content) && flush(file);
+}
+
+bool Disk::writeAllWhole(const std::vector<std::pair<QString, QByteArray>> &files)
+{
+    std::vector<std::unique_ptr<QFile>> open;
+    open.reserve(files.size());
+    for (const auto &[path, content] : files) {
+        QFile &file = *open.emplace_back(std::make_unique<QFile>(path));
+        if (!openToReplace(file) || !writeAt(file, 0, content))
+            return false;
+    }
+    return std::ranges::all_of(open, [](const std::unique_ptr<QFile> &file) { return flush(*file); });
 }
 
 bool Disk::renameOver(const QString &from, const QString &to)

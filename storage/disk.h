@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QFile>
 #include <QString>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 /// The steps by which bytes and names reach the disk itself, where a power cut cannot take them. A step that
 /// fails says so in the log.
@@ -29,6 +32,9 @@ void flushNames(const QString &path);
 
 /// Makes the file at `path` hold `content`, on the disk.
 [[nodiscard]] bool writeWhole(const QString &path, QByteArrayView content);
+/// The same for several files, all of which are written before the first is flushed: the disk then has more
+/// to do at once, and less in all. `files` are paths and contents.
+[[nodiscard]] bool writeAllWhole(const std::vector<std::pair<QString, QByteArray>> &files);
 
 /// Gives the file `from` the name `to`, in place of the file of that name.
 [[nodiscard]] bool renameOver(const QString &from, const QString &to);
