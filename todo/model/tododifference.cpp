@@ -78,6 +78,8 @@ ToDoDifference ToDoDifference::between(const ToDoSheet &before, const ToDoSheet 
     ToDoDifference difference;
     difference.m_before = before.lineCount();
     difference.m_after = after.lineCount();
+    difference.m_lastBefore = before.lastIds();
+    difference.m_lastAfter = after.lastIds();
     int nextBefore = middle.front;
     int nextAfter = middle.front;
     const auto changedUpTo = [&](int beforeEnd, int afterEnd) {
@@ -95,7 +97,8 @@ ToDoDifference ToDoDifference::between(const ToDoSheet &before, const ToDoSheet 
     return difference;
 }
 
-bool ToDoDifference::exchange(ToDoSheet &sheet, const Lines &gone, const Lines &come)
+bool ToDoDifference::exchange(ToDoSheet &sheet, const Lines &gone, const Lines &come,
+                              std::pair<int, int> lastIds)
 {
     std::vector<int> places;
     for (const auto &[place, bytes] : gone) {
@@ -107,5 +110,6 @@ bool ToDoDifference::exchange(ToDoSheet &sheet, const Lines &gone, const Lines &
         sheet.removeLines(places);
     if (!come.empty())
         sheet.insertLines(come);
+    sheet.setLastIds(lastIds);
     return true;
 }

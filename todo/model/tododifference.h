@@ -18,21 +18,23 @@ public:
     /// Makes the change in `sheet`; false, with nothing changed, where it is not what it was before.
     [[nodiscard]] bool apply(ToDoSheet &sheet) const
     {
-        return sheet.lineCount() == m_before && exchange(sheet, m_gone, m_come);
+        return sheet.lineCount() == m_before && exchange(sheet, m_gone, m_come, m_lastAfter);
     }
     /// Takes it back in the same way.
     [[nodiscard]] bool revert(ToDoSheet &sheet) const
     {
-        return sheet.lineCount() == m_after && exchange(sheet, m_come, m_gone);
+        return sheet.lineCount() == m_after && exchange(sheet, m_come, m_gone, m_lastBefore);
     }
 
 private:
     using Lines = std::vector<std::pair<int, QByteArray>>; ///< with their places
 
-    static bool exchange(ToDoSheet &sheet, const Lines &gone, const Lines &come);
+    static bool exchange(ToDoSheet &sheet, const Lines &gone, const Lines &come, std::pair<int, int> lastIds);
 
     Lines m_gone;
     Lines m_come;
     int m_before = 0; ///< lines of both sheets
     int m_after = 0;
+    std::pair<int, int> m_lastBefore; ///< ids of both: what is taken back was never there
+    std::pair<int, int> m_lastAfter;
 };

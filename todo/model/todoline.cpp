@@ -27,6 +27,7 @@ enum ItemColumn {
 constexpr QByteArrayView listWord = "list";
 constexpr QByteArrayView itemWord = "item";
 constexpr QByteArrayView activeWord = "active";
+constexpr QByteArrayView nextWord = "next";
 
 constexpr qsizetype mostDigits = 9;
 constexpr qsizetype dateLength = 10;
@@ -223,6 +224,11 @@ ToDoLine::Outline ToDoLine::outline(QByteArrayView line)
             outline.kind = Kind::List;
     } else if (word == activeWord && !columns.isAtEnd()) {
         outline.kind = Kind::Active;
+    } else if (word == nextWord) {
+        outline.id = number(columns.take());
+        outline.list = number(columns.take());
+        if (outline.id > 0 && outline.list > 0)
+            outline.kind = Kind::Next;
     }
     return outline;
 }
@@ -288,5 +294,11 @@ QByteArray ToDoLine::make(const ToDoItem &item, QByteArrayView former)
 QByteArray ToDoLine::makeActive(QByteArrayView digest, QByteArrayView formerDigest, QByteArrayView former)
 {
     return joined<3>({activeWord.toByteArray(), digest.toByteArray(), formerDigest.toByteArray()}, {},
+                     former);
+}
+
+QByteArray ToDoLine::makeNext(int item, int list, QByteArrayView former)
+{
+    return joined<3>({nextWord.toByteArray(), QByteArray::number(item), QByteArray::number(list)}, {},
                      former);
 }

@@ -8,7 +8,7 @@
 /// Lines of the lists' file as bytes: columns separated by tabs. Ids have nine digits at most.
 namespace ToDoLine {
 
-enum class Kind : quint8 { Other, Active, List, Item };
+enum class Kind : quint8 { Other, Active, Next, List, Item };
 
 inline constexpr int lastId = 999'999'999;
 
@@ -19,8 +19,8 @@ inline constexpr qsizetype longest = 0xffff;
 struct Outline {
     Kind kind = Kind::Other;
     ItemLevel level = ItemLevel::Item;
-    int id = 0;
-    int list = 0;
+    int id = 0;     ///< of `Next`, that of the next item
+    int list = 0;   ///< of `Next`, the id of the next list
     qint32 due = 0; ///< Julian days; 0: none
     qint32 actual = 0;
     quint16 textAt = 0; ///< from the beginning of the line
@@ -46,5 +46,8 @@ QByteArray make(const ToDoItem &item, QByteArrayView former = {});
 
 /// The line with the digests of the other programs' file.
 QByteArray makeActive(QByteArrayView digest, QByteArrayView formerDigest, QByteArrayView former = {});
+
+/// The line with the ids that the next item and the next list get at least.
+QByteArray makeNext(int item, int list, QByteArrayView former = {});
 
 } // namespace ToDoLine

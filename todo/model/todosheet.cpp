@@ -38,7 +38,8 @@ ToDoSheet ToDoSheet::fromFile(const QByteArray &file)
     const qsizetype end = file.indexOf('\n');
     if (end >= 0)
         sheet.readLines(end + 1);
-    sheet.index();
+    const ToDoLine::Outline next = ToDoLine::outline(sheet.m_next);
+    sheet.setLastIds({std::max(next.id - 1, 0), std::max(next.list - 1, 0)});
     sheet.giveIds();
     sheet.findLost();
     return sheet;
@@ -47,12 +48,15 @@ ToDoSheet ToDoSheet::fromFile(const QByteArray &file)
 QByteArray ToDoSheet::toFile(QByteArrayView digest, QByteArrayView formerDigest) const
 {
     const QByteArray active = ToDoLine::makeActive(digest, formerDigest, m_active);
-    qsizetype size = ToDoHead::firstLine.size() + active.size() + 2 * lineEnd.size();
+    const QByteArray next = nextIds();
+    qsizetype size = ToDoHead::firstLine.size() + active.size() + next.size() + 3 * lineEnd.size();
     for (const Line &line : m_lines)
         size += line.length + lineEnd.size();
     QByteArray file;
     file.reserve(size);
     file.append(ToDoHead::firstLine).append(lineEnd).append(active).append(lineEnd);
+    if (!next.isEmpty())
+        file.append(next).append(lineEnd);
     for (const Line &line : m_lines)
         file.append(bytes(line)).append(lineEnd);
     return file;
@@ -284,6 +288,8 @@ void ToDoSheet::readLines(qsizetype from)
         const Line read{qint32(from), qint32(line.size()), ToDoLine::outline(line)};
         if (read.outline.kind == ToDoLine::Kind::Active && m_active.isEmpty())
             m_active = line.toByteArray();
+        else if (read.outline.kind == ToDoLine::Kind::Next && m_next.isEmpty())
+            m_next = line.toByteArray();
         else
             m_lines.append(read);
         from = next;
@@ -298,6 +304,17 @@ int ToDoSheet::newItemId() const
 int ToDoSheet::newListId() const
 {
     return newId(m_lastListId, [this](int id) { return list(id) == nullptr; });
+}
+
+/// Empty where the lines say it all.
+QByteArray ToDoSheet::nextIds() const
+{
+    ToDoSheet lines = *this;
+    lines.setLastIds({});
+    if (lines.lastIds() == lastIds())
+        return {};
+    return ToDoLine::makeNext(std::min(m_lastItemId + 1, ToDoLine::lastId),
+                              std::min(m_lastListId + 1, ToDoLine::lastId), m_next);
 }
 
 /// Finds the items and lists among the lines anew.

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QList>
 
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -21,7 +22,8 @@ public:
     /// What `file` holds, as far as it can be read; nothing of a foreign one. A second list or item with an
     /// id gets one of its own; items of lists that are not there are in a list "Found".
     static ToDoSheet fromFile(const QByteArray &file);
-    /// The line with the digests always stands first.
+    /// The line with the digests always stands first; behind it that of the next ids, where the lines alone
+    /// would give one anew that was used before.
     QByteArray toFile(QByteArrayView digest, QByteArrayView formerDigest) const;
 
     /// The digests in the file: of the other programs' file that belongs to this content, and of the one that
@@ -71,7 +73,17 @@ public:
     void removeList(int id);
     void moveList(int id, int place);
 
-    /// The lines of the file below the first one and that of the digests, for differences and comparisons.
+    /// The highest ids that were ever given to an item and to a list.
+    std::pair<int, int> lastIds() const { return {m_lastItemId, m_lastListId}; }
+    /// Those of before, at least what the lines have, once all that was given since is gone.
+    void setLastIds(std::pair<int, int> ids)
+    {
+        std::tie(m_lastItemId, m_lastListId) = ids;
+        index();
+    }
+
+    /// The lines of the file below the first one and those of the digests and the next ids, for differences
+    /// and comparisons.
     int lineCount() const { return int(m_lines.size()); }
     QByteArrayView lineBytes(int line) const { return bytes(m_lines[line]); }
     void insertLine(int line, QByteArrayView bytes);
@@ -101,15 +113,17 @@ private:
     void index();
     void giveIds();
     void findLost();
+    QByteArray nextIds() const;
     int newItemId() const;
     int newListId() const;
 
     QByteArray m_bytes;   ///< the file as it was read; behind it the lines that were made since
     QByteArray m_active;  ///< the line with the digests, as it was read
+    QByteArray m_next;    ///< that with the next ids
     QList<Line> m_lines;  ///< all others
     QList<qint32> m_rows; ///< the line of each item
     std::vector<ToDoList> m_lists;
     std::vector<qint32> m_listLines;
-    int m_lastItemId = 0; ///< ever given: no id is used twice
+    int m_lastItemId = 0; ///< ever given, in the file too: no id is used twice
     int m_lastListId = 0;
 };

@@ -3,6 +3,7 @@
 #include "tests/support/household.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
+#include "todo/model/tododifference.h"
 #include "todo/model/todofiles.h"
 
 #include <QDir>
@@ -89,6 +90,34 @@ private slots:
                                QByteArray(ownLines).replace("Quillery To Do 1\n", "").replace("\n", "\r\n");
         QCOMPARE(m_test.bytes(u"ToDo1.Fil"_s), own);
         QCOMPARE(ToDoSheet::fromFile(own), m_files.open(DateStyle::Other, today).sheet);
+    }
+
+    void givesNoIdTwice()
+    {
+        // The last item and the last list go: the file tells what comes next.
+        const QByteArray head = "Quillery To Do 1\r\nactive\ta\tb\r\n";
+        const QByteArray home = "list\t1\tplain\tHome\r\nitem\t4\t1\t0\t\t\t\t\t\tOil\t\r\n";
+        ToDoSheet sheet = ToDoSheet::fromFile(head + home + "list\t2\tplain\tAway\r\n" +
+                                              "item\t5\t2\t0\t\t\t\t\t\tPack\t\r\n");
+        const ToDoSheet before = sheet;
+        sheet.removeList(2);
+        QCOMPARE(sheet.toFile("a", "b"), head + "next\t6\t3\r\n" + home);
+        const ToDoDifference difference = ToDoDifference::between(before, sheet);
+        ToDoSheet undone = sheet;
+        QVERIFY(difference.revert(undone));
+        QCOMPARE(undone.toFile("a", "b"), before.toFile("a", "b"));
+
+        sheet = ToDoSheet::fromFile(head + "next\t6\t3\tmore\r\n" + home);
+        QCOMPARE(sheet.toFile("a", "b"), head + "next\t6\t3\tmore\r\n" + home);
+        ToDoItem item = sheet.item(0);
+        item.list = sheet.addList({0, ListKind::Plain, u"Shed"_s});
+        QCOMPARE(sheet.addAll({item}), std::vector<int>{6});
+        QCOMPARE(sheet.toFile("a", "b"), head + "list\t1\tplain\tHome\r\nlist\t3\tplain\tShed\r\n" +
+                                             "item\t4\t1\t0\t\t\t\t\t\tOil\t\r\n" +
+                                             "item\t6\t3\t0\t\t\t\t\t\tOil\t\r\n");
+        // One that cannot be meant is a line like any other.
+        const QByteArray noise = head + "next\t0\t-1\r\nnext\r\n" + home;
+        QCOMPARE(ToDoSheet::fromFile(noise).toFile("a", "b"), noise);
     }
 
     void takesInWhatAnotherProgramPutThere()
