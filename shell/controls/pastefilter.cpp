@@ -153,6 +153,8 @@ void PasteFilter::drop(QDropEvent &event)
 
 void PasteFilter::take(const QString &offered)
 {
+    if (m_taker && m_taker(offered))
+        return;
     const QString line = oneLine(offered);
     const QString foreign =
         m_characters == Characters::OfTheFiles ? AnsiText::foreignCharacters(line) : QString();

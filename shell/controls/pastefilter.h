@@ -4,6 +4,8 @@
 #include <QChar>
 #include <QObject>
 
+#include <functional>
+
 class QDropEvent;
 class QLineEdit;
 class QMenu;
@@ -23,6 +25,9 @@ class PasteFilter final : public QObject
 public:
     /// Belongs to `box`, whose `maxLength()` is its limit.
     PasteFilter(QLineEdit *box, Characters characters);
+
+    /// Asks `taker` first; what it takes, answering true, does not come into the box.
+    void setTaker(const std::function<bool(const QString &)> &taker) { m_taker = taker; }
 
     /// The usual menu of the box, whose Paste takes what the box can hold; to be deleted.
     QMenu *makeMenu();
@@ -45,4 +50,5 @@ private:
 
     QLineEdit *m_box;
     Characters m_characters;
+    std::function<bool(const QString &)> m_taker;
 };

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/window/entryline.h"
 
+#include "shell/controls/pastefilter.h"
 #include "todo/model/todoitem.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QClipboard>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QStringListModel>
@@ -32,7 +31,8 @@ EntryLine::EntryLine(QWidget *parent)
 {
     setObjectName(u"newItem"_s);
     setByteLimit(ToDoItem::longestText);
-    installEventFilter(this); // before what pastes everything into one line
+    auto *paste = findChild<PasteFilter *>({}, Qt::FindDirectChildrenOnly);
+    paste->setTaker([this](const QString &pasted) { return takeLines(pasted); });
     auto *completer = new QCompleter(m_offers, this);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     completer->setFilterMode(Qt::MatchContains);
@@ -46,9 +46,9 @@ void EntryLine::setOffers(const QStringList &offers)
 }
 
 /// False where what would be pasted is a single line.
-bool EntryLine::takeLines()
+bool EntryLine::takeLines(const QString &pasted)
 {
-    const QStringList lines = linesOf(QApplication::clipboard()->text());
+    const QStringList lines = linesOf(pasted);
     if (lines.size() < 2 || isReadOnly())
         return false;
     QStringList all = lines;
@@ -67,14 +67,6 @@ void EntryLine::enter()
         return;
     clear();
     emit entered({typed});
-}
-
-bool EntryLine::eventFilter(QObject *watched, QEvent *event)
-{
-    const bool isKey = watched == this && event->type() == QEvent::KeyPress;
-    if (isKey && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste) && takeLines())
-        return true;
-    return FieldBox::eventFilter(watched, event);
 }
 
 void EntryLine::keyPressEvent(QKeyEvent *event)

@@ -6,7 +6,7 @@
 class QStringListModel;
 
 /// The line into which something new is typed. Enter adds it and leaves the line open for the next; of a text
-/// that is pasted in several lines, each becomes a thing of its own.
+/// that is pasted or dropped in several lines, each becomes a thing of its own.
 class EntryLine final : public FieldBox
 {
     Q_OBJECT
@@ -22,11 +22,10 @@ signals:
     void leftDown();
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    bool takeLines();
+    bool takeLines(const QString &pasted);
     void enter();
 
     QStringListModel *m_offers;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/controls/pastefilter.h"
 #include "shell/core/place.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
@@ -12,8 +13,11 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QCompleter>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QListView>
+#include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 
@@ -134,12 +138,34 @@ private slots:
         QCOMPARE(asked(), {ToDoMessages::leaveUnsaved()});
     }
 
+    void makesAnItemOfEachPastedLine_data()
+    {
+        rows<QByteArray>({{"by keys", "keys"}, {"by the menu", "menu"}, {"dropped", "drop"}});
+    }
     void makesAnItemOfEachPastedLine()
     {
+        const auto [way] = row<QByteArray>();
         open();
         chooseList(0);
-        QGuiApplication::clipboard()->setText(u"milk\r\n\n  eggs \nbread"_s);
-        QTest::keySequence(find<QLineEdit>("newItem"), QKeySequence::Paste);
+        const QString several = u"milk\r\n\n  eggs \nbread"_s;
+        QGuiApplication::clipboard()->setText(several);
+        auto *box = find<QLineEdit>("newItem");
+        if (way == "keys") {
+            QTest::keySequence(box, QKeySequence::Paste);
+        } else if (way == "menu") {
+            const std::unique_ptr<QMenu> menu(box->findChild<PasteFilter *>()->makeMenu());
+            for (QAction *action : menu->actions()) {
+                if (action->text().startsWith(u"&Paste"_s))
+                    action->trigger();
+            }
+        } else {
+            QMimeData data;
+            data.setText(several);
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
+                QCoreApplication::sendEvent(box, event);
+        }
         QCOMPARE(texts(), (QStringList{u"milk"_s, u"eggs"_s, u"bread"_s}));
         trigger("mEUndo");
         QCOMPARE(texts(), QStringList());
