@@ -39,7 +39,9 @@ QPen ChartStyle::linePen(qsizetype index) const
 {
     QPen pen(lineColor(index), isOnPaper ? 1.5 : 2, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     static const QList<QList<qreal>> dashes{{}, {6, 3}, {2, 2}, {8, 3, 2, 3}, {12, 4}, {2, 5}};
-    if (const QList<qreal> &pattern = dashes[index % dashes.size()]; isOnPaper && !pattern.isEmpty())
+    const bool isLikeFirst = index > 0 && lineColor(index) == lineColor(0);
+    if (const QList<qreal> &pattern = dashes[index % dashes.size()];
+        (isOnPaper || isLikeFirst) && !pattern.isEmpty())
         pen.setDashPattern(pattern);
     return pen;
 }
@@ -51,19 +53,23 @@ QColor ChartStyle::groundOf(const QWidget *widget)
     return widget->palette().color(QPalette::Window);
 }
 
-/// Of the palette: a panel of the user's colour passes its ink on. The bars keep their hue where it can be
-/// seen.
+/// Of the palette: a panel of the user's colour passes its ink on. Bars and lines keep their hue where it can
+/// be seen, or take that of the other scheme where this one can.
 ChartStyle ChartStyle::onScreen(const QWidget *widget)
 {
     const QPalette palette = widget->palette();
     const QColor ground = groundOf(widget);
-    const Theme &theme = Theme::of(widget);
-    const auto visible = [&](const QColor &color) {
-        return contrast(color, ground) >= leastContrast ? color : palette.color(ThemeRole::strong);
+    const bool isDark = Theme::of(widget).scheme == Icons::Scheme::Dark;
+    const auto visible = [&](const QColor &onLight, const QColor &onDark) {
+        for (const QColor &color : {isDark ? onDark : onLight, isDark ? onLight : onDark}) {
+            if (contrast(color, ground) >= leastContrast)
+                return color;
+        }
+        return palette.color(ThemeRole::strong);
     };
-    QList<QColor> lines{visible(theme.accent)};
+    QList<QColor> lines{visible(Theme::light().accent, Theme::dark().accent)};
     for (const QRgb hue : hues)
-        lines << visible(theme.scheme == Icons::Scheme::Dark ? halfWayToWhite(hue) : QColor(hue));
+        lines << visible(QColor(hue), halfWayToWhite(hue));
     return {.ground = ground,
             .text = palette.color(QPalette::WindowText),
             .quiet = palette.color(ThemeRole::quiet),
