@@ -57,11 +57,14 @@ void CarGrid::fitColumns()
 /// The heads are a little wider than the rows with their bar, but are scrolled as far.
 void CarGrid::updateGeometries()
 {
+    const int before = horizontalScrollBar()->value();
     CellGrid::updateGeometries();
-    if (m_heads)
+    if (m_heads) {
         m_heads->updateGeometries();
-    else if (m_under && m_under->model()->rowCount() > 0)
+    } else if (m_under && m_under->model()->rowCount() > 0) {
         horizontalScrollBar()->setRange(0, m_under->horizontalScrollBar()->maximum());
+        horizontalScrollBar()->setValue(before);
+    }
 }
 
 void CarGrid::resizeEvent(QResizeEvent *event)
@@ -69,6 +72,13 @@ void CarGrid::resizeEvent(QResizeEvent *event)
     CellGrid::resizeEvent(event);
     if (!m_under || m_under->model()->rowCount() == 0)
         fitColumns();
+}
+
+/// Beside the rows under these heads their bar takes some of the width.
+int CarGrid::roomAcross() const
+{
+    const bool hasRows = m_under && m_under->model()->rowCount() > 0;
+    return hasRows ? std::min(viewport()->width(), m_under->viewport()->width()) : viewport()->width();
 }
 
 /// The first column then stands over those that were scrolled under it.
@@ -97,9 +107,13 @@ void CarGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
     QScrollBar *bar = horizontalScrollBar();
     const int before = bar->value();
     CellGrid::scrollTo(index, hint);
-    if (index.column() == 0)
+    if (index.column() == 0) {
         bar->setValue(before);
-    else if (const int covered = columnWidth(0) - visualRect(index).left(); covered > 0)
+        return;
+    }
+    if (const int cut = visualRect(index).right() + 1 - roomAcross(); cut > 0)
+        bar->setValue(bar->value() + cut);
+    if (const int covered = columnWidth(0) - visualRect(index).left(); covered > 0)
         bar->setValue(bar->value() - covered);
 }
 

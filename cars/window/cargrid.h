@@ -37,6 +37,7 @@ protected:
 
 private:
     bool isScrolledSideways() const;
+    int roomAcross() const;
     void paintFirst(QPainter &painter, QStyleOptionViewItem &option, int row) const;
 
     std::vector<CarColumns::Width> m_widths;

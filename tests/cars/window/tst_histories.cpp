@@ -11,6 +11,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QScrollBar>
 #include <QTableView>
 
 using namespace Qt::Literals::StringLiterals;
@@ -220,6 +221,17 @@ private slots:
         // What is left half typed is added, and told.
         open("mVRep");
         QCOMPARE(said(), u"Added: fill-up, Nov 21, 2026, without its reading and fuel and cost"_s);
+    }
+
+    void keepsInSightWhereOneTypes()
+    {
+        m_window->resize(800, 600);
+        open("mVFuel");
+        const CarGrid *list = grid("fuelGrid");
+        QVERIFY(list->horizontalScrollBar()->maximum() > 0);
+        grid("fuelEntry")->setCurrentIndex(grid("fuelEntry")->model()->index(0, 6));
+        QCoreApplication::processEvents();
+        QVERIFY(list->visualRect(list->model()->index(0, 6)).right() < list->viewport()->width());
     }
 
     void takesADateFromTheCalendar()
