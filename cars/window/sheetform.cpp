@@ -102,6 +102,7 @@ QComboBox *SheetForm::makeChoice(const QString &name, std::size_t place)
 {
     auto *choice = named(new QComboBox(this), name);
     FieldBox *box = m_boxes[place];
+    setTabOrder(choice, box); // the two go together wherever the order of the form puts them
     choice->setEditable(true);
     choice->setInsertPolicy(QComboBox::NoInsert);
     choice->setLineEdit(box);

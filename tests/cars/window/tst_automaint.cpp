@@ -257,6 +257,22 @@ private slots:
         QCOMPARE(labelText("dueTitle"), u"Two things are overdue"_s);
     }
 
+    void goesThroughTheFormInReadingOrder()
+    {
+        open(TestProgram::Household);
+        trigger("mVInfo");
+        find<QLineEdit>("Text1_0")->setFocus();
+        QStringList way;
+        while (way.size() < 30 && m_window->focusWidget()->objectName() != u"Text1_19"_s) {
+            way << m_window->focusWidget()->objectName();
+            QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(way.join(u' '),
+                 u"Text1_0 Text1_22 carMake Combo7 Text1_1 Text1_2 registrationMonth Text1_4 Text1_5 "
+                 "Text1_6 Text1_7 carPicture Text1_8 Text1_9 Text1_10 Text1_11 Text1_12 "
+                 "Text1_13 Text1_14 Text1_15 Text1_16 Text1_17 Text1_18"_s);
+    }
+
     void deletesACarAndBringsItBack()
     {
         open(TestProgram::Household);
