@@ -29,6 +29,8 @@
 
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -311,12 +313,16 @@ void WeighInsView::deleteRow()
 void WeighInsView::sortRows()
 {
     WeightSheet wanted = person().sheet();
+    const auto order = wanted.weighIns.order(WeightTable::Column::Date, Qt::AscendingOrder);
+    const qsizetype chosen = m_table->chosenRow();
     wanted.weighIns.sort(WeightTable::Column::Date, Qt::AscendingOrder);
     if (wanted == person().sheet()) {
         emit said(TrackerLines::sortedAlready());
         return;
     }
     person().change(TrackerLines::sorted(), wanted);
+    if (chosen >= 0) // the same weigh-in, in its new place
+        m_table->showRow(int(std::ranges::find(order, chosen) - order.begin()));
     emit done(TrackerLines::sorted());
 }
 

@@ -3,6 +3,8 @@
 
 #include "shell/charts/paperchart.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/pictures/picturefolder.h"
+#include "shell/pictures/picturelines.h"
 #include "shell/program/program.h"
 #include "weight/model/weightchart.h"
 #include "weight/model/weightpaperlines.h"
@@ -118,9 +120,14 @@ void WeightPrintPanel::start()
     };
     offer(&Options::graph, !WeightGraph::of(sheet).points.isEmpty(), WeightPaperLines::noWeighIns());
     offer(&Options::data, !sheet.weighIns.isEmpty(), WeightPaperLines::noWeighIns());
-    offer(&Options::beginningPicture, !sheet.beginningPicture.trimmed().isEmpty(),
-          WeightPaperLines::noPhoto());
-    offer(&Options::currentPicture, !sheet.currentPicture.trimmed().isEmpty(), WeightPaperLines::noPhoto());
+    const PictureFolder pictures(m_program.folder);
+    const auto offerPhoto = [&](bool Options::*option, const QString &stored) {
+        const bool isChosen = !stored.trimmed().isEmpty();
+        offer(option, isChosen && !pictures.locate(stored.trimmed()).isEmpty(),
+              isChosen ? PictureLines::pictureNotFound() : WeightPaperLines::noPhoto());
+    };
+    offerPhoto(&Options::beginningPicture, sheet.beginningPicture);
+    offerPhoto(&Options::currentPicture, sheet.currentPicture);
     setFocusProxy(*std::ranges::find_if(m_choices, &QCheckBox::isEnabled)); // the lines always are
 }
 
