@@ -6,6 +6,7 @@
 #include "cars/model/messages.h"
 #include "cars/window/carchanges.h"
 #include "cars/window/carview.h"
+#include "cars/window/dueview.h"
 #include "cars/window/informationview.h"
 #include "cars/window/opencar.h"
 #include "cars/window/sheetform.h"
@@ -142,8 +143,11 @@ void CreateRoutine::next()
     const auto at = std::ranges::find_if(
         way, [this](CarViews::Place place) { return m_hands.views.view(place) == m_hands.views.shown(); });
     setOn(true); // the new car was opened like any other
-    if (at != way.end() && at + 1 != way.end())
-        m_hands.views.open(*(at + 1));
+    if (at == way.end() || at + 1 == way.end())
+        return;
+    m_hands.views.open(*(at + 1));
+    if (*(at + 1) == CarViews::Due)
+        static_cast<DueView *>(m_hands.views.view(CarViews::Due))->typeInterval();
 }
 
 void CreateRoutine::saveAndExit()

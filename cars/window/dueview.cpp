@@ -166,6 +166,18 @@ void DueView::showRow(int row)
     m_schedule->setFocus();
 }
 
+void DueView::typeInterval()
+{
+    const auto &actions = car().record().sheet.actions;
+    const auto next = std::ranges::find_if(actions, [](const ScheduledAction &action) {
+        return !action.name.isEmpty() && action.distance.isEmpty() && action.months.isEmpty();
+    });
+    if (next == actions.end())
+        return;
+    showRow(int(next - actions.begin()));
+    m_schedule->setCurrentIndex(m_schedule->currentIndex().siblingAtColumn(ScheduleColumn::intervalDistance));
+}
+
 void DueView::resizeEvent(QResizeEvent *event)
 {
     fit();

@@ -21,6 +21,8 @@ public:
     void finishEdit() override;
     /// Chooses a row of the schedule.
     void showRow(int row);
+    /// Goes to the interval of the first action that has none: that is what a new car needs.
+    void typeInterval();
 
 signals:
     /// The button of a card was clicked: something was done, or renewed.

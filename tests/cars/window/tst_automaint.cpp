@@ -208,6 +208,9 @@ private slots:
         QCOMPARE(m_test->bytes(u"CARMNT1.FIL"_s).mid(150, 102),
                  QByteArray("\x64\x00", 2) + QByteArray("Coup\xe9").leftJustified(100, ' '));
         QCOMPARE(cells("Grid4", 6).front(), u"Replace Timing Belt"_s);
+        // What is typed next is an interval, and no action's name.
+        QCOMPARE(grid("Grid4")->currentIndex(), grid("Grid4")->model()->index(0, 1));
+        QVERIFY(grid("Grid4")->hasFocus());
         click("dueViewSaveExit");
         QVERIFY(m_test->bytes(u"ACar2.Fil"_s).startsWith("\"NEWW\"\r\n\"\"\r\n"));
         trigger("mEUndo");
