@@ -44,8 +44,18 @@ void PageStepper::setPage(int page, int count)
     m_page = page;
     m_count = count;
     m_number->setText(FrameLines::pageOf(page + 1, count));
-    setUnavailable(m_previous, page == 0 ? FrameLines::firstPage() : QString());
-    setUnavailable(m_next, page + 1 == count ? FrameLines::lastPage() : QString());
+    // From a button that dims, the focus would leave the preview.
+    const bool isFirst = page == 0;
+    const bool isLast = page + 1 == count;
+    if (!isFirst && isLast && m_next->hasFocus()) {
+        setUnavailable(m_previous, {});
+        m_previous->setFocus();
+    } else if (isFirst && !isLast && m_previous->hasFocus()) {
+        setUnavailable(m_next, {});
+        m_next->setFocus();
+    }
+    setUnavailable(m_previous, isFirst ? FrameLines::firstPage() : QString());
+    setUnavailable(m_next, isLast ? FrameLines::lastPage() : QString());
 }
 
 void PageStepper::listenTo(SheetView *view)

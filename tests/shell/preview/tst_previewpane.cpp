@@ -112,6 +112,16 @@ private slots:
         m_window->pane->setFocus(); // on a button
         QTest::keyClick(m_window->window.focusWidget(), Qt::Key_End);
         QCOMPARE(m_window->pane->currentSheet(), 5);
+
+        // At either end the focus stays with the buttons that step.
+        m_window->showSheets(2);
+        for (const bool isForward : {true, false, true}) {
+            auto *step = control<QPushButton>(m_window->window, isForward ? "nextPage" : "previousPage");
+            step->setFocus();
+            QTest::keyClick(step, Qt::Key_Space);
+            QCOMPARE(m_window->window.focusWidget()->objectName(),
+                     isForward ? u"previousPage"_s : u"nextPage"_s);
+        }
     }
 
     void enlargesASheetAndScrollsItBeforeTurning()
