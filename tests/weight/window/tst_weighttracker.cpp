@@ -197,6 +197,12 @@ private slots:
         clickHeading(0);
         QCOMPARE(cells(48)[0], u"08/10/2026"_s);
         QVERIFY(!m_window->isModified());
+
+        enter(48, 0, u"01/01/2020"_s);
+        grid()->setCurrentIndex(grid()->model()->index(48, 1));
+        clickHeading(0); // sorts the file, and the weigh-in stays the one that is chosen
+        QCOMPARE(cells(0)[0], u"01/01/2020"_s);
+        QCOMPARE(grid()->currentIndex().row(), 0);
     }
 
     void savesWhatWasChanged()
