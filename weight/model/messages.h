@@ -10,19 +10,21 @@ using namespace Qt::Literals::StringLiterals;
 
 inline Message noFiles()
 {
-    return {u"No Files Found"_s, u"Currently there are no Individual Files to view,\n"
-                                 u"please use the Create New File Button\n"
-                                 u"to enter Individual information!"_s};
+    return {u"No Files Found"_s,
+            u"Currently there are no Individual Files to view,\n"
+            u"please use the Create New File Button\n"
+            u"to enter Individual information!"_s,
+            Message::Critical};
 }
 
 inline Message noneSelected()
 {
-    return {u"Select Individual Name"_s, u"Please Select a Name First!"_s};
+    return {u"Select Individual Name"_s, u"Please Select a Name First!"_s, Message::Critical};
 }
 
 inline Message nothingToSave()
 {
-    return {u"Save Command"_s, u"There have been no entries/changes made to save!"_s};
+    return {u"Save Command"_s, u"There have been no entries/changes made to save!"_s, Message::Critical};
 }
 
 inline Message saved()
@@ -32,7 +34,7 @@ inline Message saved()
 
 inline Message nameMissing()
 {
-    return {u"No Files Found"_s, u"Please Enter Individual Name to save file."_s};
+    return {u"No Files Found"_s, u"Please Enter Individual Name to save file."_s, Message::Critical};
 }
 
 inline Message newSaved()
