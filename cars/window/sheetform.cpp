@@ -310,7 +310,7 @@ void SheetForm::showRequired()
     const QString word = m_isNew && !isBeside ? ShellMessages::required() : QString();
     for (const std::size_t place : {nameBox, boxOf(Field::Odometer)})
         m_boxes[place]->setPlaceholderText(word);
-    m_boxes[boxOf(Field::Make)]->setPlaceholderText(word.isEmpty() ? word : u"or the model, "_s + word);
+    m_boxes[boxOf(Field::Make)]->setPlaceholderText(word.isEmpty() ? word : u"or the model"_s);
 }
 
 void SheetForm::setFacts(CarNeed::State registration, const Fact &insurance)
