@@ -79,7 +79,10 @@ void DueCard::show(const CarNeed &need, const Words &words)
     m_name->setText(name);
     m_when->setWords(need.state, DueWords::when(need, words.unit, words.style, words.today));
     m_howFar->setText(need.isReadingOld ? CarLines::lookAtOdometer() : DueWords::howFar(need, words.unit));
-    setToolTip(DueWords::advice(need, words.unit));
+    // In a line, how far it is stands here alone.
+    const QString advice = DueWords::advice(need, words.unit);
+    setToolTip(advice.isEmpty() ? m_howFar->text() : advice);
+    m_name->setToolTip(m_howFar->text().isEmpty() ? QString() : name + u'\n' + m_howFar->text());
     const bool isAction = need.kind == CarNeed::Kind::Action;
     m_button->setText(isAction ? u"Done..."_s : u"Renewed..."_s);
     m_button->setAccessibleName(name + u": "_s + m_button->text().chopped(3));
