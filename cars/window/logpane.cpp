@@ -201,7 +201,8 @@ QString LogPane::removeChosen(Removing how)
     const bool isTaken =
         how == Removing::Typed || car.isNew() || car.savePart(m_model->part(), removal.wanted);
     if (isTaken)
-        car.change(removal.title, removal.wanted);
+        car.change(removal.title, removal.wanted,
+                   how == Removing::Written ? std::optional(m_model->part()) : std::nullopt);
     else
         emit said(FrameLines::refused(m_desk.program.folder, CarLines::notDeleted()));
     m_list->setFocus();

@@ -101,7 +101,7 @@ void OpenCar::open(const CarRecord &record, const States &states, bool isNew)
     emit changed();
 }
 
-void OpenCar::change(const QString &title, const CarRecord &wanted)
+void OpenCar::change(const QString &title, const CarRecord &wanted, std::optional<CarPart> atOnce)
 {
     if (wanted == *m_record)
         return;
@@ -111,17 +111,20 @@ void OpenCar::change(const QString &title, const CarRecord &wanted)
     const bool wentBack = wanted.fuel != m_record->fuel && whyLocked(CarPart::Sheet).isEmpty() &&
                           PresentReading::goBack(*after, *m_record, m_ownReading);
     setTyped(after);
-    emit edited({title, [=, this] { return exchange(after, before); },
-                 [=, this] { return exchange(before, after); }, UndoStep::Typed});
+    emit edited({title, [=, this] { return exchange(after, before, atOnce); },
+                 [=, this] { return exchange(before, after, atOnce); }, UndoStep::Typed});
     emit changed();
     if (wentBack)
         emit said(FuelLines::readingWentBack(after->sheet.field(VehicleSheet::Odometer)));
 }
 
-ChangeResult OpenCar::exchange(const Record &shown, const Record &wanted)
+ChangeResult OpenCar::exchange(const Record &shown, const Record &wanted, std::optional<CarPart> atOnce)
 {
     if (*m_record != *shown)
         return ChangeResult::Outdated;
+    // Where the screen shows what the file of the part has, it does so afterwards too.
+    if (atOnce && !m_isNew && withPart(*atOnce, *shown) == *m_saved && !savePart(*atOnce, *wanted))
+        return ChangeResult::Refused;
     setTyped(wanted);
     emit changed();
     return ChangeResult::Done;
@@ -137,22 +140,28 @@ bool OpenCar::save()
 
 bool OpenCar::savePart(CarPart part, const CarRecord &wanted)
 {
-    CarRecord saved = *m_saved;
+    return write(withPart(part, wanted));
+}
+
+/// What the files have, but for `part`, which is as in `wanted`.
+CarRecord OpenCar::withPart(CarPart part, const CarRecord &wanted) const
+{
+    CarRecord record = *m_saved;
     switch (part) {
     case CarPart::Sheet:
-        saved.sheet = wanted.sheet;
+        record.sheet = wanted.sheet;
         break;
     case CarPart::Maintenance:
-        saved.maintenance = wanted.maintenance;
+        record.maintenance = wanted.maintenance;
         break;
     case CarPart::Repairs:
-        saved.repairs = wanted.repairs;
+        record.repairs = wanted.repairs;
         break;
     case CarPart::Fuel:
-        saved.fuel = wanted.fuel;
+        record.fuel = wanted.fuel;
         break;
     }
-    return write(saved);
+    return record;
 }
 
 bool OpenCar::write(const CarRecord &wanted)

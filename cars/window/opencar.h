@@ -48,7 +48,8 @@ public:
     /// A car that no file has yet begins as `record`.
     void startNew(const CarRecord &record);
     /// Makes the car `wanted`, in one step that undo calls `title`; nothing happens where it is so already.
-    void change(const QString &title, const CarRecord &wanted);
+    /// Of a part that was written `atOnce` undo and redo write the file too, unless more of it is unsaved.
+    void change(const QString &title, const CarRecord &wanted, std::optional<CarPart> atOnce = {});
     /// Writes what was typed. False when the disk refuses.
     [[nodiscard]] bool save();
     /// Writes what `wanted` has in the file of `part`, and nothing else of it.
@@ -83,7 +84,8 @@ private:
     void setTyped(const Record &record);
     void open(const CarRecord &record, const States &states, bool isNew);
     bool write(const CarRecord &wanted);
-    ChangeResult exchange(const Record &shown, const Record &wanted);
+    CarRecord withPart(CarPart part, const CarRecord &wanted) const;
+    ChangeResult exchange(const Record &shown, const Record &wanted, std::optional<CarPart> atOnce);
 
     const Program &m_program;
     CarFiles m_files;

@@ -413,8 +413,12 @@ private slots:
         QCOMPARE(m_test->bytes(u"RCar1.Fil"_s), left);
         QVERIFY(!m_window->isModified());
         trigger("mEUndo");
-        trigger("mOSave");
         QCOMPARE(m_test->bytes(u"RCar1.Fil"_s), before(u"RCar1.Fil"_s));
+        trigger("mERedo");
+        QCOMPARE(m_test->bytes(u"RCar1.Fil"_s), left);
+        trigger("mEUndo");
+        QCOMPARE(m_test->bytes(u"RCar1.Fil"_s), before(u"RCar1.Fil"_s));
+        QVERIFY(!m_window->isModified());
     }
 
     void deletesInTheHistoriesAlone()
