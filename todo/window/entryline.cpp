@@ -54,7 +54,7 @@ bool EntryLine::takeLines(const QString &pasted)
     QStringList all = lines;
     if (const QString typed = text().trimmed(); !typed.isEmpty())
         all.prepend(typed);
-    clear();
+    setText({});
     emit entered(all);
     return true;
 }
@@ -65,7 +65,7 @@ void EntryLine::enter()
     completer()->popup()->hide();
     if (typed.isEmpty() || isReadOnly())
         return;
-    clear();
+    setText({}); // unlike clear(), undo goes on with the thing and not with the line
     emit entered({typed});
 }
 

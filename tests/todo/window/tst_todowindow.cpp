@@ -138,6 +138,19 @@ private slots:
         QCOMPARE(asked(), {ToDoMessages::leaveUnsaved()});
     }
 
+    void takesBackTheItemAndNotTheLineBehindIt()
+    {
+        open();
+        chooseList(0);
+        enter(u"Oil the gate"_s);
+        QCOMPARE(texts(), QStringList{u"Oil the gate"_s});
+        auto *box = find<QLineEdit>("newItem");
+        box->setFocus();
+        QTest::keySequence(box, QKeySequence::Undo);
+        QCOMPARE(box->text(), QString());
+        QCOMPARE(texts(), QStringList());
+    }
+
     void makesAnItemOfEachPastedLine_data()
     {
         rows<QByteArray>({{"by keys", "keys"}, {"by the menu", "menu"}, {"dropped", "drop"}});
