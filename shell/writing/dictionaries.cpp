@@ -111,7 +111,7 @@ QString DictionaryFiles::title() const
     const QLocale locale(name);
     if (locale.language() == QLocale::C)
         return name;
-    const QString language = QLocale::languageToString(locale.language());
+    QString language = QLocale::languageToString(locale.language());
     if (!name.contains(u'_') && !name.contains(u'-'))
         return language;
     return language + u" ("_s + QLocale::territoryToString(locale.territory()) + u')';

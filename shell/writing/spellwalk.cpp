@@ -41,7 +41,7 @@ std::vector<WalkedText> SpellWalk::change(const QString &by)
     Step step{m_text, m_place};
     QString changed = text().text;
     changed.replace(m_place.at, m_place.length, by);
-    const std::vector<WalkedText> texts{replace(m_text, changed, step)};
+    std::vector<WalkedText> texts{replace(m_text, changed, step)};
     m_steps.push_back(std::move(step));
     goOn(m_text, m_place.at + by.size());
     return texts;

@@ -108,6 +108,7 @@ void add(ToDoSheet &sheet, const std::vector<Triple> &triples, QDate today)
         return;
     const int first = firstList(sheet);
     std::vector<ToDoItem> items;
+    items.reserve(triples.size());
     for (const Triple &triple : triples)
         items.push_back(itemOf(triple, sheet, first, today));
     sheet.addAll(items);

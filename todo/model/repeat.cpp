@@ -148,7 +148,7 @@ QDate afterDone(const Repeat &repeat, QDate actual)
         // Of several days a week, it is the next one; of a single one, the week is what counts.
         return std::ranges::count(repeat.weekdays, true) > 1
                    ? firstBehind(repeat, actual, actual)
-                   : nearest(repeat, actual.addDays(daysPerWeek * repeat.interval), actual);
+                   : nearest(repeat, actual.addDays(qint64(daysPerWeek) * repeat.interval), actual);
     case Repeat::Month:
         return nearest(repeat, actual.addMonths(repeat.interval), actual);
     case Repeat::Year:

@@ -142,6 +142,7 @@ void ToDoSheet::set(int row, const ToDoItem &item)
 void ToDoSheet::removeRows(const std::vector<int> &rows)
 {
     std::vector<int> lines;
+    lines.reserve(rows.size());
     for (const int row : rows)
         lines.push_back(m_rows[row]);
     removeLines(lines);

@@ -27,7 +27,7 @@ inline QString later(int count, bool isShown)
 /// "Today, Saturday, November 21, 2026".
 inline QString day(QDate day, QDate today, const DateStyle &style)
 {
-    const QString date = Dates::longText(day, style);
+    QString date = Dates::longText(day, style);
     switch (today.daysTo(day)) {
     case 0:
         return u"Today, "_s + date;

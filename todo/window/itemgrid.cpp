@@ -255,9 +255,9 @@ void ItemGrid::keyPressEvent(QKeyEvent *event)
     if (!isTyping && isTick(currentIndex()) && isForText(*event))
         selectionModel()->setCurrentIndex(currentIndex().siblingAtColumn(ItemsModel::Text),
                                           QItemSelectionModel::NoUpdate);
-    if (isTyping || !currentIndex().isValid()) {
-        CellGrid::keyPressEvent(event);
-    } else if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
+    if (isTyping || !currentIndex().isValid())
+        return CellGrid::keyPressEvent(event);
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
         if (isRow(currentIndex(), ToDoRow::Later))
             emit laterClicked();
         else
