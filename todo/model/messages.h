@@ -13,7 +13,11 @@ using namespace Qt::Literals::StringLiterals;
 /// The lists are not on the disk, which refuses them.
 inline Message leaveUnsaved()
 {
-    return {u"To Do List"_s, u"Leave without saving?"_s, Message::Question, {Answer::Yes, Answer::No}};
+    return {u"To Do List"_s,
+            u"Leave without saving?"_s,
+            Message::Question,
+            {Answer::Yes, Answer::No},
+            Answer::No};
 }
 
 inline Message copied()
