@@ -3,7 +3,16 @@
 
 #include <algorithm>
 
-Attempts::Attempts(PasswordMemory &memory, std::chrono::milliseconds step, QObject *parent)
+namespace {
+
+int stepsOf(const WrongAnswers &wrong)
+{
+    return std::min(wrong.count, Attempts::longestWait);
+}
+
+} // namespace
+
+Attempts::Attempts(AttemptMemory &memory, std::chrono::milliseconds step, QObject *parent)
     : QObject(parent)
     , m_memory(memory)
 {
@@ -11,7 +20,18 @@ Attempts::Attempts(PasswordMemory &memory, std::chrono::milliseconds step, QObje
     connect(&m_timer, &QTimer::timeout, this, &Attempts::countDown);
 }
 
-void Attempts::resume()
+void Attempts::resume(const WrongAnswers &wrong, const QDateTime &now)
+{
+    if (!m_memory.isBegun && wrong.count > 0) {
+        // A clock that was set back lengthens no wait.
+        const qint64 steps = std::clamp<qint64>(stepsOf(wrong) - wrong.last.secsTo(now), 0, stepsOf(wrong));
+        m_memory.wait = QDeadlineTimer(m_timer.intervalAsDuration() * steps);
+    }
+    m_memory.isBegun = true;
+    goOn();
+}
+
+void Attempts::goOn()
 {
     if (m_memory.wait.hasExpired())
         return;
@@ -21,22 +41,20 @@ void Attempts::resume()
     emit waiting(m_stepsLeft);
 }
 
-void Attempts::addWrong()
+void Attempts::addWrong(const WrongAnswers &wrong)
 {
     ++m_wrong;
-    ++m_memory.wrongAnswers;
-    m_memory.wait =
-        QDeadlineTimer(m_timer.intervalAsDuration() * std::min(m_memory.wrongAnswers, longestWait));
+    m_memory.isBegun = true;
+    m_memory.wait = QDeadlineTimer(m_timer.intervalAsDuration() * stepsOf(wrong));
     if (isSpent())
         emit spent();
     else
-        resume();
+        goOn();
 }
 
 void Attempts::reset()
 {
     m_wrong = 0;
-    m_memory.wrongAnswers = 0;
     m_memory.wait = QDeadlineTimer(0);
 }
 

@@ -9,7 +9,8 @@
 #include <chrono>
 
 /// Makes guessing a password slow: each wrong answer waits a step longer than the one before it, whichever
-/// prompt it was given to, and the third in one prompt ends the asking.
+/// prompt it was given to and however often the program was started between, and the third in one prompt ends
+/// the asking. Who asks keeps the count.
 class Attempts final : public QObject
 {
     Q_OBJECT
@@ -17,14 +18,16 @@ public:
     static constexpr int allowed = 3;
 
     /// No answer waits longer, in steps.
-    static constexpr int longestWait = 60;
+    static constexpr int longestWait = 30;
 
     /// `step` is a second for people; tests take less. `memory` outlives the prompt.
-    Attempts(PasswordMemory &memory, std::chrono::milliseconds step, QObject *parent = nullptr);
+    Attempts(AttemptMemory &memory, std::chrono::milliseconds step, QObject *parent = nullptr);
 
-    /// Goes on with the wait of an earlier prompt.
-    void resume();
-    void addWrong();
+    /// Goes on with the wait of an earlier prompt; the first time in a run with what the last of `wrong` has
+    /// left of its wait.
+    void resume(const WrongAnswers &wrong, const QDateTime &now);
+    /// A wrong answer, which is counted in `wrong` already.
+    void addWrong(const WrongAnswers &wrong);
     /// A right answer: the next wrong one is the first again.
     void reset();
     bool isSpent() const { return m_wrong >= allowed; }
@@ -37,9 +40,10 @@ signals:
     void spent();
 
 private:
+    void goOn();
     void countDown();
 
-    PasswordMemory &m_memory;
+    AttemptMemory &m_memory;
     QTimer m_timer;
     int m_wrong = 0;
     int m_stepsLeft = 0;

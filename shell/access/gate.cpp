@@ -37,6 +37,11 @@ bool AccessGate::mayOpenPasswordControl(Program &program, QWidget *parent)
     return takeVerdict(program);
 }
 
+QString AccessGate::takeNotice(const Program &program)
+{
+    return std::exchange(m_before, {}).words(program.state.dateStyle, program.clock.today());
+}
+
 bool AccessGate::takeVerdict(Program &program) const
 {
     const bool mayOpen = program.state.passwordGateResult >= PasswordGateResult::Open;

@@ -28,6 +28,12 @@ public:
     /// Whether password control itself may open: asks when a password is stored.
     bool mayOpenPasswordControl(Program &program, QWidget *parent);
 
+    /// The password was given; `before` are the wrong answers since it was given last.
+    void noteRightAnswer(const WrongAnswers &before) { m_before = before; }
+    /// What is to be said in the window that opens now: "3 wrong answers since Friday, 20 November, 21:04".
+    /// Empty when there were none, and once it was said.
+    QString takeNotice(const Program &program);
+
     /// What all that ask for the password share.
     PasswordMemory &memory() { return m_memory; }
 
@@ -37,4 +43,5 @@ private:
 
     Prompt m_prompt;
     PasswordMemory m_memory;
+    WrongAnswers m_before;
 };

@@ -26,7 +26,9 @@ namespace {
 constexpr SettingsFile passwordFile = SettingsKeys::passwordFile;
 constexpr int verifierRecord = 1;
 constexpr int firstFlagRecord = 2;
-constexpr int recordCount = firstFlagRecord + ProtectedAreas::count - 1;
+constexpr int lastFlagRecord = firstFlagRecord + ProtectedAreas::count - 1;
+constexpr int wrongAnswersRecord = 23;
+constexpr int recordCount = wrongAnswersRecord;
 constexpr qsizetype countLength = 2;
 
 QString flagSet()
@@ -172,7 +174,7 @@ bool PasswordCheck::setPassword(const QString &password)
         if (content.areas.flag(area).isEmpty())
             writeFlag(change, area, flagNotSet());
     }
-    writeVerifier(change, verifier, content.verifier);
+    writeText(change, verifierRecord, verifier, content.verifier);
     return commit(change);
 }
 
@@ -184,7 +186,10 @@ bool PasswordCheck::removePassword()
     ChangeSet change = startChange();
     for (int area = 0; area < ProtectedAreas::count; ++area)
         writeFlag(change, area, flagNotSet());
-    writeVerifier(change, {}, content.verifier);
+    writeText(change, verifierRecord, {}, content.verifier);
+    writeText(change, wrongAnswersRecord, {}, content.wrong);
+    if (m_memory)
+        m_memory->wrong.reset();
     return commit(change);
 }
 
@@ -202,6 +207,42 @@ bool PasswordCheck::saveAreas(const ProtectedAreas &areas)
         writeFlag(change, area, areas.isProtected(area) ? flagSet() : flagNotSet());
     }
     return commit(change);
+}
+
+WrongAnswers PasswordCheck::wrongAnswers() const
+{
+    if (m_memory && m_memory->wrong)
+        return *m_memory->wrong;
+    return WrongAnswers::parsed(QString::fromLatin1(read().wrong));
+}
+
+WrongAnswers PasswordCheck::addWrongAnswer(const QDateTime &time)
+{
+    WrongAnswers wrong = wrongAnswers();
+    wrong.add(time);
+    keepWrongAnswers(wrong);
+    return wrong;
+}
+
+WrongAnswers PasswordCheck::takeWrongAnswers()
+{
+    const WrongAnswers wrong = wrongAnswers();
+    if (wrong.count > 0)
+        keepWrongAnswers({});
+    return wrong;
+}
+
+/// Where the disk refuses, the count holds until the program ends; nobody can be told to any avail.
+void PasswordCheck::keepWrongAnswers(const WrongAnswers &wrong)
+{
+    if (m_memory)
+        m_memory->wrong = wrong;
+    const Content content = read();
+    if (content.state != State::Set || m_folder.isReadOnly())
+        return;
+    ChangeSet change = startChange();
+    writeText(change, wrongAnswersRecord, wrong.text().toLatin1(), content.wrong);
+    std::ignore = commit(change);
 }
 
 PasswordCheck::Content PasswordCheck::damaged()
@@ -236,7 +277,9 @@ PasswordCheck::Content PasswordCheck::parsed(QByteArrayView bytes)
         content.areas.setFlag(area, flag);
     }
     // A password was always written together with the last flag.
-    const bool isWhole = !recordOf(bytes, recordCount).isEmpty();
+    const bool isWhole = !recordOf(bytes, lastFlagRecord).isEmpty();
+    // What came to the file later says nothing of the rest.
+    content.wrong = wholeText(recordOf(bytes, wrongAnswersRecord)).value_or(QByteArray());
     return content.state == State::Set && !isWhole ? damaged() : content;
 }
 
@@ -290,12 +333,15 @@ void PasswordCheck::writeFlag(ChangeSet &change, int area, const QString &flag) 
                  *RecordValue::encodeText(flag, passwordFile.recordLength));
 }
 
-void PasswordCheck::writeVerifier(ChangeSet &change, const QByteArray &verifier, const QByteArray &old) const
+void PasswordCheck::writeText(ChangeSet &change, int record, const QByteArray &text,
+                              const QByteArray &old) const
 {
-    QByteArray bytes = *RecordValue::encodeText(QString::fromLatin1(verifier), passwordFile.recordLength);
-    // Zeros over what the old verifier leaves behind the new one: nobody shall go on guessing from it.
+    if (text == old)
+        return;
+    QByteArray bytes = *RecordValue::encodeText(QString::fromLatin1(text), passwordFile.recordLength);
+    // Zeros over what an old verifier leaves behind the new one: nobody shall go on guessing from it.
     const qsizetype oldLength = countLength + old.size();
     if (bytes.size() < oldLength)
         bytes.resize(oldLength, '\0');
-    change.write(records(), verifierRecord, bytes);
+    change.write(records(), record, bytes);
 }

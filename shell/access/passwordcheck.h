@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/core/programstate.h"
+#include "shell/core/wronganswers.h"
 #include "storage/datafolder.h"
 
 #include <QByteArray>
@@ -25,8 +26,8 @@ struct PasswordCost {
 };
 
 /// The password and the 21 flags of what it guards, in `PCtrl1.Fil` (record length 140): record 1 the
-/// password's verifier, records 2 to 22 the flags 0 to 20, all counted texts. The password itself is never
-/// stored. Nothing is cached: each call reads the file as it is now.
+/// password's verifier, records 2 to 22 the flags 0 to 20, record 23 the wrong answers, all counted texts.
+/// The password itself is never stored. Nothing is cached: each call reads the file as it is now.
 class PasswordCheck
 {
 public:
@@ -53,6 +54,13 @@ public:
     /// Whether `password` is the one that is set; never when none is set or the file is damaged.
     bool matches(const QString &password) const;
 
+    /// The wrong answers since the last right one, those of earlier runs too.
+    WrongAnswers wrongAnswers() const;
+    /// Counts one more, and gives what there are now.
+    WrongAnswers addWrongAnswer(const QDateTime &time);
+    /// After a right answer: what there were, which do not count any more.
+    WrongAnswers takeWrongAnswers();
+
     /// Sets or replaces the password; whoever calls has asked for the old one. False, with the old password
     /// in force, when `password` is empty, the file is damaged, or the disk refuses.
     [[nodiscard]] bool setPassword(const QString &password);
@@ -68,6 +76,7 @@ public:
     struct Content {
         State state = State::NotSet;
         QByteArray verifier; ///< empty unless a password is set
+        QByteArray wrong;    ///< `WrongAnswers` as text, whatever it is
         ProtectedAreas areas;
     };
 
@@ -81,7 +90,8 @@ private:
     ChangeSet startChange() const;
     [[nodiscard]] bool commit(ChangeSet &change) const;
     void writeFlag(ChangeSet &change, int area, const QString &flag) const;
-    void writeVerifier(ChangeSet &change, const QByteArray &verifier, const QByteArray &old) const;
+    void writeText(ChangeSet &change, int record, const QByteArray &text, const QByteArray &old) const;
+    void keepWrongAnswers(const WrongAnswers &wrong);
 
     const DataFolder &m_folder;
     PasswordCost m_cost;

@@ -74,7 +74,8 @@ Form31::Form31(Program &program, PasswordCost cost, std::chrono::milliseconds st
     auto *row = new QHBoxLayout(work);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(16);
-    m_pane = new PasswordPane(m_file, program.gate.memory(), step, program.folder.whyReadOnly(), work);
+    m_pane = new PasswordPane(m_file, program.gate.memory().attempts, program.clock, step,
+                              program.folder.whyReadOnly(), work);
     makeMenus();
     row->addWidget(makePasswordPanel());
     row->addWidget(makeAreasPanel(), 1);
@@ -222,14 +223,21 @@ void Form31::connectPane()
         activity().say(PasswordMessages::passwordSet());
     });
     connect(m_pane, &PasswordPane::passwordChanged, this,
-            [this] { activity().say(PasswordMessages::passwordChanged()); });
+            [this] { sayWithWrongAnswers(PasswordMessages::passwordChanged()); });
     connect(m_pane, &PasswordPane::passwordRemoved, this, [this] {
         loadMarks();
         refresh();
-        activity().say(PasswordMessages::passwordRemoved());
+        sayWithWrongAnswers(PasswordMessages::passwordRemoved());
     });
     connect(m_pane, &PasswordPane::damageFound, this, &Form31::tellDamage);
     loadMarks();
+}
+
+/// With what the password that was given for it says of the wrong answers before.
+void Form31::sayWithWrongAnswers(const QString &done)
+{
+    const QString wrong = m_pane->wrongBefore().words(program().state.dateStyle, clock().today());
+    activity().say(wrong.isEmpty() ? done : done + u' ' + wrong + u'.');
 }
 
 void Form31::refresh()

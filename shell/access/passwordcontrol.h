@@ -38,6 +38,7 @@ private:
     QWidget *makeOtherMarks(QWidget *parent);
     QCheckBox *makeMark(int area, QWidget *parent);
     void connectPane();
+    void sayWithWrongAnswers(const QString &done);
 
     void refresh();
     void loadMarks();

@@ -1,14 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/wronganswers.h"
+
 #include <QByteArray>
 #include <QDeadlineTimer>
+
+#include <optional>
+
+/// How long the last wrong answer still waits, whichever prompt it was given to.
+struct AttemptMemory {
+    QDeadlineTimer wait{0};
+    bool isBegun = false; ///< what an earlier run left to wait was counted in
+};
 
 /// What the program remembers of the password until it ends, whatever happens to the file or the prompt.
 struct PasswordMemory {
     /// The last whole content of `PCtrl1.Fil`: guards on where the file vanishes.
     QByteArray file;
-    /// Wrong answers since the last right one, and how long the last of them still waits.
-    int wrongAnswers = 0;
-    QDeadlineTimer wait{0};
+    /// As this run knows them, also where the disk takes nothing; nothing while no answer was given.
+    std::optional<WrongAnswers> wrong;
+    AttemptMemory attempts;
 };

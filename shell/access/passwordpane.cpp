@@ -5,6 +5,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/titleline.h"
+#include "shell/core/clock.h"
 #include "shell/core/framelines.h"
 
 #include <QCheckBox>
@@ -44,10 +45,11 @@ QLabel *makeWrapped(QLabel *label)
 
 } // namespace
 
-PasswordPane::PasswordPane(PasswordCheck &file, PasswordMemory &memory, std::chrono::milliseconds step,
-                           QString whyReadOnly, QWidget *parent)
+PasswordPane::PasswordPane(PasswordCheck &file, AttemptMemory &memory, const Clock &clock,
+                           std::chrono::milliseconds step, QString whyReadOnly, QWidget *parent)
     : QWidget(parent)
     , m_file(file)
+    , m_clock(clock)
     , m_attempts(memory, step)
     , m_whyReadOnly(std::move(whyReadOnly))
     , m_title(new TitleLine(u"passwordTitle"_s, u"Password"_s, this))
@@ -185,7 +187,7 @@ void PasswordPane::begin(Task task)
     m_newPart->setVisible(task != Task::Remove);
     m_form->show();
     if (task != Task::Set && !m_attempts.isWaiting())
-        m_attempts.resume();
+        m_attempts.resume(m_file.wrongAnswers(), m_clock.now());
     (task == Task::Set ? m_new : m_old)->setFocus();
 }
 
@@ -262,6 +264,7 @@ bool PasswordPane::isAcceptable()
     }();
     if (isRight) {
         m_attempts.reset();
+        m_wrongBefore = m_file.takeWrongAnswers();
         return true;
     }
     // A file that was damaged meanwhile knows no password: that is nobody's wrong answer.
@@ -272,7 +275,7 @@ bool PasswordPane::isAcceptable()
         return false;
     }
     m_old->clear();
-    m_attempts.addWrong();
+    m_attempts.addWrong(m_file.addWrongAnswer(m_clock.now()));
     return false;
 }
 

@@ -8,6 +8,7 @@
 
 #include <chrono>
 
+class Clock;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
@@ -21,14 +22,17 @@ class PasswordPane final : public QWidget
     Q_OBJECT
 public:
     /// With a reason why the file is for reading only, nothing can be set.
-    PasswordPane(PasswordCheck &file, PasswordMemory &memory, std::chrono::milliseconds step,
-                 QString whyReadOnly, QWidget *parent);
+    PasswordPane(PasswordCheck &file, AttemptMemory &memory, const Clock &clock,
+                 std::chrono::milliseconds step, QString whyReadOnly, QWidget *parent);
 
     /// Shows what the file says now.
     void refresh();
 
     /// The button that comes first, for the focus.
     QWidget *firstControl() const;
+
+    /// What the right answer given last said of the wrong ones before it.
+    const WrongAnswers &wrongBefore() const { return m_wrongBefore; }
 
 signals:
     void passwordSet();
@@ -56,7 +60,9 @@ private:
     void endAsking();
 
     PasswordCheck &m_file;
+    const Clock &m_clock;
     Attempts m_attempts;
+    WrongAnswers m_wrongBefore;
     QString m_whyReadOnly;
     Task m_task = Task::None;
 

@@ -39,7 +39,9 @@ QString guardedFunction(const ProgramState &state)
 Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step)
     : QDialog(parent)
     , m_file(program.folder, PasswordCost::interactive(), &program.gate.memory())
-    , m_attempts(program.gate.memory(), step)
+    , m_clock(program.clock)
+    , m_gate(program.gate)
+    , m_attempts(program.gate.memory().attempts, step)
     , m_password(named(new QLineEdit(this), u"Text1"_s))
     , m_showPassword(named(new QCheckBox(u"&Show password"_s, this), u"showPassword"_s))
     , m_refusal(named(makeQuietLabel({}, this), u"refusal"_s))
@@ -62,7 +64,7 @@ Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step
     connect(&m_attempts, &Attempts::waiting, this, &Form32::showWait);
     connect(&m_attempts, &Attempts::waited, this, &Form32::endWait);
     connect(&m_attempts, &Attempts::spent, this, &Form32::reject);
-    m_attempts.resume();
+    m_attempts.resume(m_file.wrongAnswers(), m_clock.now());
 }
 
 void Form32::buildForm(const QString &functionName)
@@ -131,10 +133,11 @@ void Form32::accept()
     }();
     m_password->clear();
     if (!isRight) {
-        m_attempts.addWrong();
+        m_attempts.addWrong(m_file.addWrongAnswer(m_clock.now()));
         return;
     }
     m_attempts.reset();
+    m_gate.noteRightAnswer(m_file.takeWrongAnswers());
     QDialog::accept();
 }
 

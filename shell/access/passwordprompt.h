@@ -8,6 +8,8 @@
 
 #include <chrono>
 
+class AccessGate;
+class Clock;
 class QCheckBox;
 class QLabel;
 class QLayout;
@@ -37,6 +39,8 @@ private:
     void endWait();
 
     PasswordCheck m_file;
+    const Clock &m_clock;
+    AccessGate &m_gate;
     Attempts m_attempts;
     QLineEdit *m_password;
     QCheckBox *m_showPassword;

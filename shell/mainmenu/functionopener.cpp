@@ -83,8 +83,17 @@ void FunctionOpener::openWhenAllowed(Function function, const std::function<bool
         return;
     const Loading loading(m_activity);
     m_activity.say({});
-    if (mayOpen())
-        m_program.functions.open(function, m_program, place);
+    if (!mayOpen())
+        return;
+    const QWidget *window = m_program.functions.open(function, m_program, place);
+    tellWrongAnswers(window ? window->findChild<ActivityBar *>() : nullptr);
+}
+
+/// Of the wrong answers before the right one; in the window that opened, or else here.
+void FunctionOpener::tellWrongAnswers(ActivityBar *bar) const
+{
+    if (const QString notice = m_program.gate.takeNotice(m_program); !notice.isEmpty())
+        (bar ? *bar : m_activity).say(notice);
 }
 
 void FunctionOpener::press(const TopButtons::TopButton &button) const
@@ -105,6 +114,7 @@ void FunctionOpener::press(const TopButtons::TopButton &button) const
 void FunctionOpener::openForeign(int area) const
 {
     std::ignore = m_program.gate.mayOpen(m_program, area, m_window);
+    tellWrongAnswers(nullptr);
 }
 
 void FunctionOpener::showListFile(const TopButtons::ShowsListFile &button) const

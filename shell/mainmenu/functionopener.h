@@ -29,6 +29,7 @@ private:
     void openWhenAllowed(Function function, const std::function<bool()> &mayOpen,
                          const Place &place = {}) const;
     void openForeign(int area) const;
+    void tellWrongAnswers(ActivityBar *bar) const;
     void showListFile(const TopButtons::ShowsListFile &button) const;
 
     Program &m_program;

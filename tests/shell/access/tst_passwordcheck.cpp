@@ -90,6 +90,41 @@ private slots:
         QCOMPARE(written, flags);
     }
 
+    void countsWrongAnswersInTheirRecord()
+    {
+        setBytes(sesameFile());
+        QCOMPARE(file().wrongAnswers(), WrongAnswers());
+        file().addWrongAnswer(QDateTime(QDate(2026, 11, 20), QTime(21, 4, 31, 700)));
+        QCOMPARE(file().addWrongAnswer(QDateTime(QDate(2026, 11, 21), QTime(8, 0))).count, 2);
+        QByteArray counting = sesameFile();
+        QCOMPARE(bytes(), put(counting, 23, counted("2;2026-11-20T21:04:31;2026-11-21T08:00:00")));
+        QCOMPARE(file().state(), PasswordCheck::State::Set);
+        QCOMPARE(file().takeWrongAnswers().count, 2);
+        QCOMPARE(bytes(), put(counting, 23, QByteArray(43, '\0')));
+        QCOMPARE(file().wrongAnswers(), WrongAnswers());
+    }
+
+    void takesNoiseForNoWrongAnswers_data()
+    {
+        rows<QByteArray>({
+            {"cut short", "\x2A"},
+            {"a count beyond the record", "\xFF\xFF"},
+            {"words", counted("three;today;today")},
+            {"no number of answers", counted("0;2026-11-20T21:04:31;2026-11-20T21:04:31")},
+            {"a day that is none", counted("2;2026-11-31T21:04:31;2026-11-20T21:04:31")},
+            {"one time", counted("2;2026-11-20T21:04:31")},
+        });
+    }
+
+    void takesNoiseForNoWrongAnswers()
+    {
+        QByteArray content = sesameFile();
+        const auto [noise] = row<QByteArray>();
+        setBytes(put(content, 23, noise));
+        QCOMPARE(file().state(), PasswordCheck::State::Set);
+        QCOMPARE(file().wrongAnswers(), WrongAnswers());
+    }
+
     void neverStoresThePassword()
     {
         QVERIFY(file().setPassword(u"Open sesame"_s));

@@ -131,6 +131,75 @@ private slots:
         QVERIFY(!control<QLineEdit>(next, "Text1")->isEnabled());
     }
 
+    void wrongAnswersCountAcrossRestarts()
+    {
+        {
+            Form32 prompt(m_program->program, nullptr, 1ms);
+            showActive(prompt);
+            for (int answer = 1; answer <= 3; ++answer) {
+                QTRY_VERIFY(control<QLineEdit>(prompt, "Text1")->isEnabled());
+                type(prompt, u"Tulips"_s);
+            }
+        }
+        // The program starts again a second later.
+        m_program->clock.time = m_program->clock.time.addSecs(1);
+        m_program->state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
+        m_program->gate = AccessGate([](Program &program, QWidget *) {
+            Form32 prompt(program, nullptr, 100ms);
+            showActive(prompt);
+            QCOMPARE(control<QLabel>(prompt, "refusal")->text(),
+                     u"That is not the password. Try again in 2 seconds."_s);
+            QTRY_VERIFY(control<QLineEdit>(prompt, "Text1")->isEnabled());
+            type(prompt, u"Sesame"_s);
+            QCOMPARE(prompt.result(), int(QDialog::Accepted));
+        });
+        QVERIFY(m_program->gate.mayOpen(m_program->program, Area::Planner, nullptr));
+        QCOMPARE(m_program->gate.takeNotice(m_program->program),
+                 u"3 wrong answers since Saturday, November 21, 10:24 AM"_s);
+        QVERIFY(m_program->gate.takeNotice(m_program->program).isEmpty());
+        const Form32 next(m_program->program);
+        QVERIFY(control<QLineEdit>(next, "Text1")->isEnabled());
+    }
+
+    void noWaitIsLongerThanHalfAMinute()
+    {
+        PasswordCheck file(m_program->folder);
+        for (int answer = 1; answer <= 40; ++answer)
+            file.addWrongAnswer(m_program->clock.now());
+        const Form32 prompt(m_program->program);
+        QCOMPARE(control<QLabel>(prompt, "refusal")->text(),
+                 u"That is not the password. Try again in 30 seconds."_s);
+    }
+
+    void tellsSinceWhenAnswersWereWrong_data()
+    {
+        rows<WrongAnswers, DateStyle, QString>({
+            {"several",
+             {3, at(2026, 11, 20), at(2026, 11, 21)},
+             DateStyle::Other,
+             u"3 wrong answers since Friday, 20 November, 21:04"_s},
+            {"month first",
+             {3, at(2026, 11, 20), at(2026, 11, 21)},
+             DateStyle::Usa,
+             u"3 wrong answers since Friday, November 20, 9:04 PM"_s},
+            {"one",
+             {1, at(2026, 11, 20), at(2026, 11, 20)},
+             DateStyle::Other,
+             u"1 wrong answer since Friday, 20 November, 21:04"_s},
+            {"last year",
+             {2, at(2025, 12, 31), at(2026, 1, 1)},
+             DateStyle::Other,
+             u"2 wrong answers since Wednesday, 31 December 2025, 21:04"_s},
+            {"none", {}, DateStyle::Other, {}},
+        });
+    }
+
+    void tellsSinceWhenAnswersWereWrong()
+    {
+        const auto [wrong, style, words] = row<WrongAnswers, DateStyle, QString>();
+        QCOMPARE(wrong.words(style, QDate(2026, 11, 21)), words);
+    }
+
     void guardsOnWhereTheFileVanishes()
     {
         m_program->state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
@@ -193,6 +262,8 @@ private slots:
     }
 
 private:
+    static QDateTime at(int year, int month, int day) { return {QDate(year, month, day), QTime(21, 4)}; }
+
     std::unique_ptr<TestProgram> m_program;
 };
 
