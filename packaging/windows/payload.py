@@ -61,6 +61,8 @@ def copy_licenses(payload, libraries):
         shutil.copyfile(f"/usr/share/doc/{package}/copyright", target / name / "copyright")
     for name in ("GPL-2", "GPL-3", "LGPL-2.1", "LGPL-3"):
         shutil.copyfile(f"/usr/share/common-licenses/{name}", target / f"{name}.txt")
+    (target / "wordlist").mkdir()
+    shutil.copyfile(HERE.parents[1] / "resources/keeper/LICENSE.txt", target / "wordlist" / "LICENSE.txt")
     recipe = (libraries / "recipe").read_text()
     (target / "SOURCES.txt").write_text(
         "Quillery is built with these source packages of Debian 12, each with Debian's changes, by the program\n"
