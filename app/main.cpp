@@ -44,10 +44,12 @@ int run(QApplication &application, const DataFolder &programFolder, const DataFo
     QObject::connect(&line, &InstanceLink::called, &program.changes, &ProgramSignals::mainMenuRequested);
     // Later, when the main window has closed: what is left of the other windows is closed then.
     QObject::connect(&mainMenu, &Startfrm::exited, &application, &QApplication::quit, Qt::QueuedConnection);
-    if (splash)
-        splash->wait();
-    mainMenu.show();
-    mainMenu.activateWindow();
+    if (splash) {
+        splash->giveWayTo(mainMenu);
+    } else {
+        mainMenu.show();
+        mainMenu.activateWindow();
+    }
     return QApplication::exec();
 }
 

@@ -71,12 +71,14 @@ void Splash1::open()
     QCoreApplication::processEvents();
 }
 
-void Splash1::wait()
+void Splash1::giveWayTo(QWidget &next)
 {
     QCoreApplication::processEvents();
     const auto isEnough = [this] { return m_isEnough; };
     HINFO1::pauseOneSecond(m_program, isEnough);
     HINFO1::pauseOneSecond(m_program, isEnough);
+    next.show();
+    next.activateWindow();
     QCoreApplication::processEvents();
     close();
 }

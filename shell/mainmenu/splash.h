@@ -25,8 +25,9 @@ public:
     void open();
 
     /// Lets two seconds pass on the clock, or less if the user does not want to wait, processing window
-    /// messages, and closes the window.
-    void wait();
+    /// messages. Then shows `next` and closes: in this order, since some systems let only the program in
+    /// front bring a window there.
+    void giveWayTo(QWidget &next);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
