@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+
+class QHBoxLayout;
+class QPushButton;
+class QVBoxLayout;
+class SecretFace;
+
+/// The line of a secret: the same dots whatever its length. What is typed over them takes its place; nothing
+/// that stands in it can be copied other than by asking for it.
+class SecretLine final : public QLineEdit
+{
+    Q_OBJECT
+public:
+    explicit SecretLine(QWidget *parent);
+
+    void setSecret(const QString &secret);
+    QString secret() const { return m_secret; }
+    /// Lets the characters be changed one by one.
+    void setOpened(bool isOpened);
+    void setLocked(bool isLocked);
+    /// What it is called, to which screen readers add "hidden".
+    void setCaption(const QString &caption);
+
+signals:
+    void edited();
+    void copyWanted();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+    void hideAgain();
+    void take(const QString &text);
+
+    QString m_secret;
+    QString m_caption;
+    bool m_isOpened = false;
+};
+
+/// A secret of an entry with what belongs to it: shown in large letters while "Show" is held or until it is
+/// hidden again, copied, made anew.
+class SecretBox final : public QWidget
+{
+    Q_OBJECT
+public:
+    /// Its parts are named after it: "box" has boxLine, boxShow, boxCopy and boxFace.
+    SecretBox(const QString &name, const QString &caption, QWidget *parent);
+
+    void setSecret(const QString &secret);
+    QString secret() const { return m_line->secret(); }
+    void setLocked(bool isLocked);
+    void setShown(bool isShown);
+    bool isShown() const { return m_isShown; }
+    SecretLine &line() const { return *m_line; }
+    /// Puts a button behind the others.
+    void addButton(QPushButton *button);
+
+signals:
+    /// The secret was changed by typing.
+    void edited();
+    void copyWanted();
+
+private:
+    void showFace();
+
+    SecretLine *m_line;
+    QPushButton *m_show;
+    SecretFace *m_face;
+    QHBoxLayout *m_row;
+    bool m_isShown = false; ///< until it is hidden by command
+};
