@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "keeper/window/keeperlistmodel.h"
+
+#include "keeper/model/keeperkinds.h"
+#include "keeper/window/windowlines.h"
+#include "shell/core/dates.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+KeeperListModel::KeeperListModel(const DateStyle &style, QObject *parent)
+    : QAbstractListModel(parent)
+    , m_style(style)
+{}
+
+void KeeperListModel::setEntries(const QList<KeeperSummary> &entries, QDate today)
+{
+    beginResetModel();
+    m_entries = KeeperFilters::inOrder(entries);
+    m_today = today;
+    m_rows.clear();
+    endResetModel();
+}
+
+void KeeperListModel::show(const KeeperFilter &filter, const std::optional<QList<QByteArray>> &found)
+{
+    const QSet<QByteArray> ids = found ? QSet<QByteArray>(found->begin(), found->end()) : QSet<QByteArray>();
+    beginResetModel();
+    m_rows.clear();
+    for (qsizetype i = 0; i < m_entries.size(); ++i) {
+        if (filter.passes(m_entries[i], m_today) && (!found || ids.contains(m_entries[i].id)))
+            m_rows.push_back(i);
+    }
+    endResetModel();
+}
+
+QModelIndex KeeperListModel::indexOf(const QByteArray &id) const
+{
+    const auto row = std::ranges::find_if(m_rows, [&](qsizetype place) { return m_entries[place].id == id; });
+    return row == m_rows.end() ? QModelIndex() : index(int(row - m_rows.begin()));
+}
+
+int KeeperListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+QVariant KeeperListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const KeeperSummary &shown = entry(index.row());
+    const QString title = shown.title.isEmpty() ? KeeperWindowLines::withoutTitle() : shown.title;
+    switch (role) {
+    case Qt::DisplayRole:
+        return title;
+    case Qt::AccessibleTextRole:
+        return QString(title + u", "_s + words(shown) +
+                       (shown.isFavourite ? KeeperWindowLines::favouriteWord() : QString()));
+    case IdRole:
+        return shown.id;
+    case WordsRole:
+        return words(shown);
+    case SignRole:
+        return sign(shown);
+    case FavouriteRole:
+        return shown.isFavourite;
+    default:
+        return {};
+    }
+}
+
+/// The line below the title: what it needs to be told from others, or what is wrong with it.
+QString KeeperListModel::words(const KeeperSummary &entry) const
+{
+    if (entry.shownVersion.isValid())
+        return KeeperWindowLines::damagedVersion(entry.damagedPlace,
+                                                 Dates::shortWithYear(entry.shownVersion.date(), m_style));
+    if (entry.damagedPlace > 0)
+        return KeeperWindowLines::damaged(entry.damagedPlace);
+    if (entry.isTrashed)
+        return KeeperWindowLines::deletedOn(
+            Dates::shortWithYear(entry.trashedAt.toLocalTime().date(), m_style));
+    if (sign(entry) != NoSign)
+        return KeeperWindowLines::expiresOn(Dates::shortWithYear(entry.expires, m_style),
+                                            entry.expires < m_today);
+    return entry.userName.isEmpty() ? KeeperKinds::name(entry.kind) : entry.userName;
+}
+
+KeeperListModel::Sign KeeperListModel::sign(const KeeperSummary &entry) const
+{
+    if (entry.damagedPlace > 0)
+        return Overdue;
+    if (entry.isTrashed || !entry.expires.isValid() ||
+        m_today.daysTo(entry.expires) > KeeperFilter::expiringWithin)
+        return NoSign;
+    return entry.expires < m_today ? Overdue : Due;
+}

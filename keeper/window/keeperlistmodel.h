@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "keeper/model/keeperfilter.h"
+#include "shell/core/programstate.h"
+
+#include <QAbstractListModel>
+#include <QSet>
+
+#include <optional>
+#include <vector>
+
+/// The entries that filter and search let through, in their order.
+class KeeperListModel final : public QAbstractListModel
+{
+    Q_OBJECT
+public:
+    enum Role { IdRole = Qt::UserRole, WordsRole, SignRole, FavouriteRole };
+    enum Sign { NoSign, Due, Overdue };
+
+    explicit KeeperListModel(const DateStyle &style, QObject *parent);
+
+    /// `entries` are copied; `found` are the ids that the search has found, nothing where nothing is looked
+    /// for.
+    void setEntries(const QList<KeeperSummary> &entries, QDate today);
+    void show(const KeeperFilter &filter, const std::optional<QList<QByteArray>> &found);
+
+    const KeeperSummary &entry(int row) const { return m_entries[m_rows[std::size_t(row)]]; }
+    QModelIndex indexOf(const QByteArray &id) const;
+    const QList<KeeperSummary> &entries() const { return m_entries; }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    QString words(const KeeperSummary &entry) const;
+    Sign sign(const KeeperSummary &entry) const;
+
+    const DateStyle &m_style;
+    QDate m_today;
+    QList<KeeperSummary> m_entries; ///< in the order of the list
+    std::vector<qsizetype> m_rows;
+};
