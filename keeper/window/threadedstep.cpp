@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "keeper/window/threadedstep.h"
+
+#include <QThread>
+
+ThreadedStep::ThreadedStep(QObject *parent)
+    : QObject(parent)
+{}
+
+ThreadedStep::~ThreadedStep()
+{
+    if (m_thread)
+        m_thread->wait();
+}
+
+void ThreadedStep::start(const std::function<void()> &work, const std::function<void()> &then)
+{
+    if (m_thread)
+        return;
+    m_thread.reset(QThread::create(work));
+    connect(m_thread.get(), &QThread::finished, this, [this, then] {
+        m_thread->wait();
+        m_thread.reset();
+        then();
+    });
+    m_thread->start();
+}

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "keeper/window/unlockview.h"
+
+#include "keeper/window/windowlines.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/linkbutton.h"
+#include "shell/controls/pastefilter.h"
+#include "shell/look/theme.h"
+
+#include <QCheckBox>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int signSize = 72;
+constexpr int formWidth = 420;
+} // namespace
+
+UnlockView::UnlockView(QWidget *parent)
+    : QWidget(parent)
+    , m_words(named(makeQuietLabel({}, this), u"unlockWords"_s))
+    , m_caption(nullptr)
+    , m_box(named(new QLineEdit(this), u"masterPassword"_s))
+    , m_show(named(new QCheckBox(u"&Show password"_s, this), u"showMaster"_s))
+    , m_refusal(named(makeQuietLabel({}, this), u"unlockRefusal"_s))
+    , m_trying(named(new QProgressBar(this), u"unlockTrying"_s))
+    , m_open(makeButton(u"openKeeper"_s, u"&Open"_s, this, ButtonKind::Main))
+    , m_other(new LinkButton(u"useRecoveryCode"_s, KeeperWindowLines::useCode(), this))
+{
+    setObjectName(u"unlockView"_s);
+    setFocusProxy(m_box);
+    new PasteFilter(m_box, Characters::All);
+    m_caption = makeFieldLabel(KeeperWindowLines::masterCaption(), m_box, this);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(24, 16, 24, 18);
+    rows->addStretch(2);
+    rows->addWidget(makeForm(), 0, Qt::AlignHCenter);
+    rows->addStretch(3);
+    connect(m_show, &QCheckBox::toggled, this,
+            [this](bool isShown) { m_box->setEchoMode(isShown ? QLineEdit::Normal : QLineEdit::Password); });
+    connect(m_box, &QLineEdit::returnPressed, this, &UnlockView::answer);
+    connect(m_box, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
+    connect(m_open, &QPushButton::clicked, this, &UnlockView::answer);
+    connect(m_other, &QAbstractButton::clicked, this, [this] { turn(!m_isForCode); });
+    turn(false);
+}
+
+QWidget *UnlockView::makeForm()
+{
+    auto *form = new QWidget(this);
+    form->setFixedWidth(TypeScale::wide(formWidth));
+    auto *rows = new QVBoxLayout(form);
+    rows->setContentsMargins({});
+    rows->setSpacing(8);
+    auto *sign = new QLabel(form);
+    sign->setPixmap(
+        Icons::pixmap("password-keeper"_L1, Theme::of(this).scheme, signSize, devicePixelRatioF()));
+    rows->addWidget(sign, 0, Qt::AlignHCenter);
+    auto *title = named(new QLabel(KeeperWindowLines::isLocked(), form), u"unlockTitle"_s);
+    title->setFont(TypeScale::emptyTitle());
+    rows->addWidget(title, 0, Qt::AlignHCenter);
+    m_words->setWordWrap(true);
+    m_words->setAlignment(Qt::AlignHCenter);
+    rows->addWidget(m_words);
+    rows->addSpacing(8);
+    rows->addLayout(labelled(m_caption, m_box));
+    rows->addWidget(m_show);
+    // Always there, so that nothing moves when something is said.
+    m_refusal->setMinimumHeight(m_refusal->fontMetrics().lineSpacing() + 2);
+    m_refusal->setWordWrap(true);
+    rows->addWidget(m_refusal);
+    m_trying->setRange(0, 0);
+    m_trying->setTextVisible(false);
+    m_trying->setAccessibleName(KeeperWindowLines::trying());
+    QSizePolicy policy = m_trying->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_trying->setSizePolicy(policy);
+    m_trying->hide();
+    rows->addWidget(m_trying);
+    auto *foot = new QHBoxLayout;
+    foot->addWidget(m_other);
+    foot->addStretch(1);
+    m_open->setMinimumWidth(104);
+    foot->addWidget(m_open);
+    rows->addLayout(foot);
+    for (QWidget *part : std::initializer_list<QWidget *>{m_box, m_show, m_other, m_open})
+        part->setParent(form);
+    setTabOrder(m_box, m_show);
+    setTabOrder(m_show, m_other);
+    setTabOrder(m_other, m_open);
+    return form;
+}
+
+void UnlockView::start()
+{
+    m_box->clear();
+    m_show->setChecked(false);
+    m_refusal->clear();
+    setTrying(false);
+    turn(false);
+}
+
+void UnlockView::turn(bool isForCode)
+{
+    m_isForCode = isForCode;
+    m_box->clear();
+    m_refusal->clear();
+    const QString caption = isForCode ? KeeperWindowLines::codeCaption() : KeeperWindowLines::masterCaption();
+    m_caption->setText(caption);
+    m_box->setAccessibleName(caption);
+    // The code stands on paper: it is copied sign by sign and must be seen.
+    m_box->setEchoMode(isForCode || m_show->isChecked() ? QLineEdit::Normal : QLineEdit::Password);
+    m_show->setVisible(!isForCode);
+    m_words->setText(isForCode ? KeeperWindowLines::codeWords() : KeeperWindowLines::lockedWords());
+    m_other->setText(isForCode ? KeeperWindowLines::useMaster() : KeeperWindowLines::useCode());
+    m_box->setFocus();
+}
+
+void UnlockView::answer()
+{
+    if (!m_open->isEnabled())
+        return;
+    if (m_box->text().isEmpty()) {
+        refuse(m_isForCode ? KeeperWindowLines::codeMissing() : KeeperWindowLines::masterMissing());
+        return;
+    }
+    emit answered(m_box->text());
+}
+
+void UnlockView::setTrying(bool isTrying)
+{
+    m_trying->setVisible(isTrying);
+    const QString why = isTrying ? KeeperWindowLines::trying() : QString();
+    for (QWidget *part : std::initializer_list<QWidget *>{m_box, m_open, m_other})
+        setUnavailable(part, why);
+    if (isTrying)
+        m_refusal->clear();
+    else
+        m_box->setFocus();
+}
+
+void UnlockView::refuse(const QString &line, bool isWaiting)
+{
+    setUnavailable(m_box, isWaiting ? line : QString());
+    setUnavailable(m_open, isWaiting ? line : QString());
+    if (!m_isForCode)
+        m_box->clear();
+    m_refusal->setText(line);
+    if (!isWaiting)
+        m_box->setFocus();
+}
