@@ -6,8 +6,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <tuple>
-#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -140,29 +138,6 @@ QString caption(const KeeperFilter &filter)
         return u"Trash"_s;
     }
     Q_UNREACHABLE();
-}
-
-QList<KeeperSummary> inOrder(const QList<KeeperSummary> &entries)
-{
-    struct Key {
-        bool isNoFavourite;
-        QString folded;
-        qsizetype place;
-    };
-    std::vector<Key> keys;
-    keys.reserve(std::size_t(entries.size()));
-    for (qsizetype i = 0; i < entries.size(); ++i)
-        keys.push_back({!entries[i].isFavourite, folded(entries[i].title), i});
-    std::ranges::sort(keys, [&](const Key &one, const Key &other) {
-        return std::tie(one.isNoFavourite, one.folded, entries[one.place].title, entries[one.place].id) <
-               std::tie(other.isNoFavourite, other.folded, entries[other.place].title,
-                        entries[other.place].id);
-    });
-    QList<KeeperSummary> sorted;
-    sorted.reserve(entries.size());
-    for (const Key &key : keys)
-        sorted.append(entries[key.place]);
-    return sorted;
 }
 
 } // namespace KeeperFilters

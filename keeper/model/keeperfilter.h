@@ -34,7 +34,4 @@ QStringList members(const QList<KeeperSummary> &entries);
 /// "All entries", "Log-ins", "Of Anne" and so on.
 QString caption(const KeeperFilter &filter);
 
-/// Favourites first, then in the order of the alphabet; case and accents decide last.
-QList<KeeperSummary> inOrder(const QList<KeeperSummary> &entries);
-
 } // namespace KeeperFilters

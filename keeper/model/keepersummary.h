@@ -5,27 +5,27 @@
 
 #include <QDateTime>
 
-/// What the list shows of an entry: nothing secret. It is kept in memory while the keeper is open.
+/// What the list shows of an entry: nothing secret. It is kept in memory while the keeper is open; its notes
+/// are not, which may be long.
 struct KeeperSummary {
-    QByteArray id;
+    QByteArray id{};
     EntryKind kind = EntryKind::LogIn;
-    QString title;
-    QString userName;
-    QString address;
-    QString member;
-    QString notes;
-    QStringList tags;
+    QString title{};
+    QString userName{};
+    QString address{};
+    QString member{};
+    QStringList tags{};
     bool isFavourite = false;
     bool hasPassword = false;
     bool hasOneTimeSecret = false;
-    QDate expires;
-    QDateTime changed;
-    QDateTime passwordChanged;
+    QDate expires{};
+    QDateTime changed{};
+    QDateTime passwordChanged{};
     bool isTrashed = false;
-    QDateTime trashedAt;
-    int damagedPlace = 0;    ///< the record that cannot be opened; 0: the entry is whole
-    QDateTime shownVersion;  ///< of the earlier version that stands in for a damaged one
-    QByteArray passwordHash; ///< keyed, to find passwords that are used twice; empty without one
+    QDateTime trashedAt{};
+    int damagedPlace = 0;      ///< the record that cannot be opened; 0: the entry is whole
+    QDateTime shownVersion{};  ///< of the earlier version that stands in for a damaged one
+    QByteArray passwordHash{}; ///< keyed, to find passwords that are used twice; empty without one
     int passwordLength = 0;
 
     bool operator==(const KeeperSummary &) const = default;

@@ -17,20 +17,28 @@ KeeperListModel::KeeperListModel(const DateStyle &style, QObject *parent)
 void KeeperListModel::setEntries(const QList<KeeperSummary> &entries, QDate today)
 {
     beginResetModel();
-    m_entries = KeeperFilters::inOrder(entries);
+    m_entries = entries;
     m_today = today;
     m_rows.clear();
     endResetModel();
 }
 
-void KeeperListModel::show(const KeeperFilter &filter, const std::optional<QList<QByteArray>> &found)
+void KeeperListModel::show(const KeeperFilter &filter, const std::optional<QList<int>> &found)
 {
-    const QSet<QByteArray> ids = found ? QSet<QByteArray>(found->begin(), found->end()) : QSet<QByteArray>();
     beginResetModel();
     m_rows.clear();
-    for (qsizetype i = 0; i < m_entries.size(); ++i) {
-        if (filter.passes(m_entries[i], m_today) && (!found || ids.contains(m_entries[i].id)))
-            m_rows.push_back(i);
+    for (const bool isFavourite : {true, false}) {
+        const auto take = [&](qsizetype place) {
+            const KeeperSummary &entry = m_entries[place];
+            if (entry.isFavourite == isFavourite && filter.passes(entry, m_today))
+                m_rows.push_back(place);
+        };
+        if (found) {
+            std::ranges::for_each(*found, take);
+        } else {
+            for (qsizetype i = 0; i < m_entries.size(); ++i)
+                take(i);
+        }
     }
     endResetModel();
 }

@@ -5,7 +5,6 @@
 #include "shell/core/programstate.h"
 
 #include <QAbstractListModel>
-#include <QSet>
 
 #include <optional>
 #include <vector>
@@ -20,10 +19,11 @@ public:
 
     explicit KeeperListModel(const DateStyle &style, QObject *parent);
 
-    /// `entries` are copied; `found` are the ids that the search has found, nothing where nothing is looked
-    /// for.
+    /// `entries` are in the order of the alphabet.
     void setEntries(const QList<KeeperSummary> &entries, QDate today);
-    void show(const KeeperFilter &filter, const std::optional<QList<QByteArray>> &found);
+    /// `found` are the places of what the search has found, in their order; nothing where nothing is looked
+    /// for. Favourites come first.
+    void show(const KeeperFilter &filter, const std::optional<QList<int>> &found);
 
     const KeeperSummary &entry(int row) const { return m_entries[m_rows[std::size_t(row)]]; }
     QModelIndex indexOf(const QByteArray &id) const;
@@ -38,6 +38,6 @@ private:
 
     const DateStyle &m_style;
     QDate m_today;
-    QList<KeeperSummary> m_entries; ///< in the order of the list
+    QList<KeeperSummary> m_entries;
     std::vector<qsizetype> m_rows;
 };

@@ -26,8 +26,8 @@ public:
     struct Desk {
         std::function<bool()> isModified;
         std::function<bool()> mayReplace; ///< asks the user when it is modified
-        /// The entries that hold the words; folded by the model.
-        std::function<QList<QByteArray>(const QString &words)> search;
+        /// The places of the entries that hold the words.
+        std::function<QList<int>(const QString &words)> search;
     };
 
     KeeperPane(const Program &program, Desk desk, QWidget *parent = nullptr);

@@ -43,7 +43,7 @@ private slots:
     {
         using Filter = KeeperFilter;
         rows<Filter, QByteArray>({
-            {"all but the trash, favourites first", {Filter::All, {}, {}}, "231"},
+            {"all but the trash", {Filter::All, {}, {}}, "123"},
             {"favourites", {Filter::Favourites, {}, {}}, "2"},
             {"the ninetieth day counts", {Filter::Expiring, {}, {}}, "2"},
             {"a kind", {Filter::Kind, EntryKind::Document, {}}, "3"},
@@ -57,7 +57,7 @@ private slots:
     {
         const auto [filter, expected] = row<KeeperFilter, QByteArray>();
         QByteArray ids;
-        for (const KeeperSummary &entry : KeeperFilters::inOrder(household())) {
+        for (const KeeperSummary &entry : household()) {
             if (filter.passes(entry, QDate(2026, 11, 21)))
                 ids += entry.id;
         }
