@@ -73,11 +73,12 @@ void SecretLine::take(const QString &text)
     emit edited();
 }
 
-/// Whoever deletes before anything was typed means the whole secret.
+/// Whoever deletes before anything was typed means the whole secret. Cutting, which would delete without
+/// anything on the clipboard, only copies.
 void SecretLine::keyPressEvent(QKeyEvent *event)
 {
     const bool isDeleting = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
-    if (event->matches(QKeySequence::Copy)) {
+    if (event->matches(QKeySequence::Copy) || event->matches(QKeySequence::Cut)) {
         emit copyWanted();
     } else if (isDeleting && text().isEmpty() && !m_secret.isEmpty() && !isReadOnly()) {
         take({});

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QMainWindow>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 
 using namespace Qt::Literals::StringLiterals;
