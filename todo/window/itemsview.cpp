@@ -23,6 +23,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -109,8 +111,9 @@ void ItemsView::connectParts()
             emit said(why);
     });
     connect(m_grid, &ItemGrid::laterClicked, m_model, &ItemsModel::unfoldLater);
-    connect(m_grid, &ItemGrid::sortRequested, m_model,
-            [this](int column) { m_model->sortBy(ItemsModel::Column(column)); });
+    connect(m_grid, &ItemGrid::sortRequested, this, [this](int column) {
+        keepChoice([this, column] { m_model->sortBy(ItemsModel::Column(column)); });
+    });
     connect(m_model, &QAbstractItemModel::dataChanged, this, &ItemsView::placeNote);
     connect(m_model, &QAbstractItemModel::modelReset, this, &ItemsView::placeNote);
     connect(m_grid->horizontalHeader(), &QHeaderView::sectionResized, this, &ItemsView::placeNote);
@@ -161,9 +164,22 @@ void ItemsView::followLists()
     follow(false);
 }
 
+/// The rows that are chosen stay so, wherever `change` moves them.
+void ItemsView::keepChoice(const std::function<void()> &change)
+{
+    std::vector<int> chosen = m_grid->chosen();
+    const int current = m_grid->currentIndex().data(ItemsModel::idRole).toInt();
+    change();
+    if (chosen == m_grid->chosen() && current == m_grid->currentIndex().data(ItemsModel::idRole).toInt())
+        return;
+    if (const auto first = std::ranges::find(chosen, current); first != chosen.end())
+        std::rotate(chosen.begin(), first, first + 1);
+    m_grid->choose(chosen);
+}
+
 void ItemsView::refresh()
 {
-    m_model->refresh();
+    keepChoice([this] { m_model->refresh(); });
     showTitle();
     showEmptiness();
     showHint();

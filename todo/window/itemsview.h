@@ -6,6 +6,7 @@
 #include "todo/model/todoactions.h"
 #include "todo/window/tododesk.h"
 
+#include <functional>
 #include <vector>
 
 class ElidedLabel;
@@ -70,6 +71,7 @@ private:
     QWidget *makeEntry();
     QWidget *makeEmpty();
     void connectParts();
+    void keepChoice(const std::function<void()> &change);
     void showTitle();
     void showEmptiness();
     void showHint();

@@ -15,6 +15,7 @@
 #include <QCompleter>
 #include <QDropEvent>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QListView>
 #include <QMenu>
 #include <QMimeData>
@@ -283,10 +284,18 @@ private slots:
         const QList<QStringList> expected{{u"soon"_s, u"late"_s, u"never"_s},
                                           {u"late"_s, u"soon"_s, u"never"_s},
                                           {u"late"_s, u"never"_s, u"soon"_s}};
+        chooseRows(2, 2);
+        QHeaderView *heading = grid()->horizontalHeader();
+        const QPoint due(heading->sectionViewportPosition(ItemsModel::Due) + 20, heading->height() / 2);
         for (const QStringList &order : expected) {
-            emit grid()->sortRequested(ItemsModel::Due);
+            QTest::mouseClick(heading->viewport(), Qt::LeftButton, {}, due);
             QCOMPARE(texts(), order);
+            QCOMPARE(current(), u"soon"_s); // the choice goes along
         }
+        QTest::mouseClick(heading->viewport(), Qt::LeftButton, {}, due);
+        grid()->setFocus();
+        key(Qt::Key_Delete);
+        QCOMPARE(texts(), (QStringList{u"late"_s, u"never"_s}));
     }
 
     void findsDoneThingsAndNotesAsOneTypes()
