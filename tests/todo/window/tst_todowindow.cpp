@@ -134,6 +134,7 @@ private slots:
         m_test->dialogs.willAnswer(Answer::No);
         QVERIFY(!m_window->close());
         QCOMPARE(asked(), {ToDoMessages::leaveUnsaved()});
+        QCOMPARE(ToDoMessages::leaveUnsaved().preselected, Answer::No);
         m_test->dialogs.willAnswer(Answer::Yes);
         QVERIFY(m_window->close());
         QCOMPARE(asked(), {ToDoMessages::leaveUnsaved()});
