@@ -41,15 +41,15 @@ void ListCommands::addCommands(QMenu *menu)
     Commands &commands = m_desk.commands;
     const auto unlessLocked = [this] { return m_desk.lists.whyLocked(); };
     m_create = commands.writing(commands.add(
-        menu, u"mLNew"_s, u"&New List"_s, [this] { openPanel(false); }, unlessLocked,
+        menu, u"mLNew"_s, u"&New List"_s, [this] { startNew(false); }, unlessLocked,
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)));
     commands.writing(commands.add(
-        menu, u"mLFrom"_s, u"New List from &Template"_s, [this] { openPanel(true); }, unlessLocked));
+        menu, u"mLFrom"_s, u"New List from &Template"_s, [this] { startNew(true); }, unlessLocked));
     menu->addSeparator();
     add(menu, u"mLName"_s, u"&Rename List"_s, [this] { m_pane.rename(list()->id); });
     addOrderCommands(menu);
     menu->addSeparator();
-    add(menu, u"mLKeep"_s, u"&Save List as a Template"_s, [this] { keepAsTemplate(); });
+    add(menu, u"mLKeep"_s, u"&Save List as a Template"_s, [this] { startTemplate(); });
     commands.writing(commands.add(menu, u"mEBack"_s, u"Bring &Back Deleted..."_s, [this] { openTrash(); }));
     menu->addSeparator();
     add(menu, u"mLDel"_s, u"&Delete List"_s, [this] { remove(); });
@@ -86,19 +86,38 @@ bool ListCommands::make(const ToDoActions::Result &result)
     return true;
 }
 
-void ListCommands::openPanel(bool isFromTemplate)
+void ListCommands::makePanel()
 {
-    m_view.finishEdit();
     if (!m_panel) {
         m_panel = new NewListPanel(m_desk.program, &m_desk.window);
         m_desk.views.addPanel(m_panel);
         connect(m_panel, &NewListPanel::accepted, this, &ListCommands::create);
         connect(m_panel, &TaskPanel::left, &m_desk.views, &WorkViews::goHome);
     }
+    m_view.finishEdit();
     m_desk.window.closePreview();
-    m_panel->start(m_desk.lists.sheet(), isFromTemplate);
+}
+
+void ListCommands::openPanel()
+{
     m_desk.views.open(m_panel);
     m_panel->setFocus();
+}
+
+void ListCommands::startNew(bool isFromTemplate)
+{
+    makePanel();
+    m_panel->start(m_desk.lists.sheet(), isFromTemplate);
+    openPanel();
+}
+
+void ListCommands::startTemplate()
+{
+    makePanel();
+    const ToDoList &kept = *list();
+    m_panel->startKeeping(m_desk.lists.sheet(), kept.id,
+                          ToDoWindowLines::templateName(m_desk.lists.sheet(), kept.name));
+    openPanel();
 }
 
 void ListCommands::create()
@@ -118,6 +137,9 @@ void ListCommands::create()
     case NewListPanel::Beginning::OwnTemplate:
         made = ListActions::fromTemplate(sheet, beginning.place, name, *day, today);
         break;
+    case NewListPanel::Beginning::KeptList:
+        made = ListActions::saveAsTemplate(sheet, beginning.place, name, *day);
+        break;
     case NewListPanel::Beginning::BuiltIn:
         made = ListActions::fromBuiltIn(sheet, beginning.place, name, *day, today);
         break;
@@ -129,7 +151,7 @@ void ListCommands::create()
     if (!make(made))
         return;
     m_desk.views.goHome();
-    if (!made.ids.empty())
+    if (!made.ids.empty() && beginning.kind != NewListPanel::Beginning::KeptList)
         emit wanted({Shown::List, made.ids.front(), {}});
     emit done(made.title); // another list says nothing as it comes
 }
@@ -156,13 +178,6 @@ void ListCommands::moveBy(int direction)
     } while (place >= 0 && place < int(lists.size()) && lists[std::size_t(place)].kind == ListKind::Template);
     if (place >= 0 && place < int(lists.size()))
         make(ListActions::move(m_desk.lists.sheet(), id, place));
-}
-
-void ListCommands::keepAsTemplate()
-{
-    const ToDoList kept = *list();
-    const QString name = ToDoWindowLines::templateName(m_desk.lists.sheet(), kept.name);
-    make(ListActions::saveAsTemplate(m_desk.lists.sheet(), kept.id, name, m_desk.program.clock.today()));
 }
 
 void ListCommands::remove()

@@ -40,11 +40,13 @@ private:
     QString whyNone() const;
     const ToDoList *list() const;
     bool make(const ToDoActions::Result &result);
-    void openPanel(bool isFromTemplate);
+    void makePanel();
+    void openPanel();
+    void startNew(bool isFromTemplate);
+    void startTemplate();
     void create();
     void rename(int id, const QString &name);
     void moveBy(int direction);
-    void keepAsTemplate();
     void remove();
     void openTrash();
     void bringBack(const Trash::Item &item);

@@ -10,9 +10,11 @@ class DateBox;
 class FieldBox;
 class QComboBox;
 class QLabel;
+class QPushButton;
 struct Program;
 
-/// "New List": its name, and what it begins with: nothing, or what a template has.
+/// "New List": its name, and what it begins with: nothing, or what a template has. "Save List as a Template"
+/// asks the other way round for a name and a day.
 class NewListPanel final : public TaskPanel
 {
     Q_OBJECT
@@ -21,16 +23,18 @@ public:
 
     /// What the list begins with.
     struct Beginning {
-        enum Kind { Plain, Shopping, OwnTemplate, BuiltIn };
+        enum Kind { Plain, Shopping, OwnTemplate, BuiltIn, KeptList };
 
         Kind kind = Plain;
-        int place = 0;        ///< the id of one's own template, or the place of a built-in one
+        int place = 0;        ///< the id of one's own template or list, or the place of a built-in one
         bool hasDays = false; ///< dates that count from a date
         QString name;
     };
 
     /// Begins anew, with the templates of `sheet` to choose from; `isFromTemplate`: one of them is chosen.
     void start(const ToDoSheet &sheet, bool isFromTemplate);
+    /// Begins anew, to make a template called `name` of a list.
+    void startKeeping(const ToDoSheet &sheet, int list, const QString &name);
 
     QString name() const;
     Beginning beginning() const;
@@ -43,14 +47,18 @@ signals:
     void accepted();
 
 private:
+    QWidget *makeContent();
+    void offer(std::size_t chosen);
     void followBeginning();
 
     const Program &m_program;
     FieldBox *m_name;
     QComboBox *m_beginnings;
+    QWidget *m_beginningRow;
     QWidget *m_dayRow;
     DateBox *m_day;
     QLabel *m_what;
+    QPushButton *m_make;
     std::vector<Beginning> m_all;
     bool m_isNamed = false; ///< by the user, not after the template
 };

@@ -28,6 +28,16 @@ inline QString noDay()
     return u"Type the day that its dates count from: \u201c12 July\u201d, \u201cfri\u201d or \u201c+10\u201d"_s;
 }
 
+inline QString keepTitle()
+{
+    return u"Save List as a Template"_s;
+}
+
+inline QString keep()
+{
+    return u"&Save Template"_s;
+}
+
 inline QString caption(const NewListPanel::Beginning &beginning)
 {
     switch (beginning.kind) {
@@ -35,6 +45,8 @@ inline QString caption(const NewListPanel::Beginning &beginning)
         return u"An empty list"_s;
     case NewListPanel::Beginning::Shopping:
         return u"An empty shopping list"_s;
+    case NewListPanel::Beginning::KeptList:
+        return beginning.name;
     case NewListPanel::Beginning::OwnTemplate:
         return u"%1 (your template)"_s.arg(beginning.name);
     case NewListPanel::Beginning::BuiltIn:
@@ -50,6 +62,9 @@ inline QString what(const NewListPanel::Beginning &beginning)
         return u"Things to do, with dates, steps and headings."_s;
     case NewListPanel::Beginning::Shopping:
         return u"What was bought is offered again while you type, and goes back under its heading."_s;
+    case NewListPanel::Beginning::KeptList:
+        return beginning.hasDays ? u"Each date becomes so many days before or after the day above."_s
+                                 : u"All that is on the list is kept, open and done."_s;
     default:
         return beginning.hasDays
                    ? u"Each thing gets its date so many days before or after the day above."_s

@@ -379,6 +379,11 @@ private slots:
         grid()->setCurrentIndex(index(0, ItemsModel::Due));
         typeCell(u"11/18/2026"_s);
         trigger("mLKeep");
+        QCOMPARE(labelText("newListTitle"), u"Save List as a Template"_s);
+        auto *day = find<QLineEdit>("newListDate");
+        day->setText(u"11/21/2026"_s);
+        QTest::keyClick(day, Qt::Key_Return);
+        QCOMPARE(labelText("toDoTitle"), u"To Do"_s);
         QCOMPARE(names("toDoLists"), (QStringList{u"To Do"_s, u"To Do template (template)"_s}));
         chooseList(1);
         QCOMPARE(cell(0, ItemsModel::Due), u"3 days before"_s);
