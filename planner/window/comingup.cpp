@@ -82,20 +82,15 @@ public:
 
 QLatin1StringView iconOf(const HouseholdNote &note)
 {
-    return note.function == Function::AddressBook ? HouseholdNotes::sign({note})
-                                                  : QLatin1StringView(FunctionFaces::of(note.function).icon);
+    const bool hasSign = note.function == Function::AddressBook || note.note.kind == NoteKind::Overdue;
+    return hasSign ? HouseholdNotes::sign({note}) : QLatin1StringView(FunctionFaces::of(note.function).icon);
 }
 
-/// Whether one of the day's rows says what the note says, as far as it has room for it.
+/// Whether one of the day's rows says what the note says.
 bool holds(const PlannerDay &day, const DayNote &note)
 {
-    const QString text = note.text.trimmed();
-    const QString beginning = text.left(PlannerDay::textWidth).trimmed();
-    return std::ranges::any_of(day.texts, [&](const QString &row) {
-        const QString held = row.trimmed();
-        return !held.isEmpty() && (held.compare(text, Qt::CaseInsensitive) == 0 ||
-                                   held.compare(beginning, Qt::CaseInsensitive) == 0);
-    });
+    static_assert(PlannerDay::textWidth == DayNote::appointmentRoom);
+    return std::ranges::any_of(day.texts, [&](const QString &row) { return note.isSaidBy(row); });
 }
 
 } // namespace
@@ -141,7 +136,9 @@ QVariant ComingUpModel::data(const QModelIndex &index, int role) const
     if (!index.isValid() || index.row() >= rowCount())
         return {};
     const HouseholdNote &note = m_notes.at(index.row());
-    const QString source = note.note.source + u", "_s + whenText(note.note.date);
+    QStringList sources{note.note.unsaidState(), note.note.source, whenText(note.note.date)};
+    sources.removeAll({});
+    const QString source = sources.join(u", "_s);
     switch (role) {
     case Qt::DisplayRole:
         return note.note.text;

@@ -32,5 +32,24 @@ struct DayNote {
     /// What was typed for `time` where that may mean morning or evening: "8:00".
     QString timeText{};
 
+    /// How many characters the text of an appointment has room for.
+    static constexpr qsizetype appointmentRoom = 50;
+
+    /// Whether the text of an appointment says the same, as far as it has room for it.
+    bool isSaidBy(const QString &appointment) const
+    {
+        const QString said = appointment.trimmed();
+        const QString whole = text.trimmed();
+        return !said.isEmpty() &&
+               (said.compare(whole, Qt::CaseInsensitive) == 0 ||
+                said.compare(whole.left(appointmentRoom).trimmed(), Qt::CaseInsensitive) == 0);
+    }
+    /// "Overdue", where it is and the text does not say so itself.
+    QString unsaidState() const
+    {
+        const bool isSaid = kind != NoteKind::Overdue || text.contains(u"overdue", Qt::CaseInsensitive);
+        return isSaid ? QString() : QStringLiteral("Overdue");
+    }
+
     bool operator==(const DayNote &) const = default;
 };

@@ -177,7 +177,7 @@ QVariant TodayModel::data(const QModelIndex &index, int role) const
         return text;
     case Qt::ToolTipRole:
     case Qt::AccessibleTextRole: {
-        QStringList parts{day, time, text, note.source};
+        QStringList parts{day, time, text, note.unsaidState(), note.source};
         parts.removeAll({});
         return parts.join(u", "_s);
     }

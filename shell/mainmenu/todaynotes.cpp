@@ -4,6 +4,8 @@
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 
+#include <QMultiHash>
+
 #include <algorithm>
 
 namespace {
@@ -74,8 +76,24 @@ void TodayNotes::gather()
         for (const DayNote &note : known->second.notes)
             m_notes.append({note, face.function, isOver(note)});
     }
+    leaveOutWhatIsSaidTwice();
     std::ranges::stable_sort(m_notes, [](const Note &one, const Note &other) {
         return std::pair(one.note.date, momentOf(one.note)) <
                std::pair(other.note.date, momentOf(other.note));
+    });
+}
+
+/// What was taken over into the planner stands there as an appointment.
+void TodayNotes::leaveOutWhatIsSaidTwice()
+{
+    QMultiHash<QDate, QString> appointments;
+    for (const Note &note : m_notes) {
+        if (note.note.kind == NoteKind::Appointment)
+            appointments.insert(note.note.date, note.note.text);
+    }
+    m_notes.removeIf([&](const Note &note) {
+        const QStringList texts =
+            note.note.kind == NoteKind::ToDo ? appointments.values(note.note.date) : QStringList();
+        return std::ranges::any_of(texts, [&](const QString &text) { return note.note.isSaidBy(text); });
     });
 }

@@ -55,6 +55,7 @@ private:
 
     bool read(const FunctionFace &face, const FunctionEntry &entry);
     void gather();
+    void leaveOutWhatIsSaidTwice();
     bool isOver(const DayNote &note) const;
 
     const Program &m_program;

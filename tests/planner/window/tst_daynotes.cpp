@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "openplanner.h"
 
+#include "planner/window/comingup.h"
 #include "planner/window/daysmodel.h"
 #include "shell/core/area.h"
 
@@ -147,6 +148,13 @@ private slots:
     {
         QSignalSpy wanted(&m_test->changes, &ProgramSignals::placeRequested);
         auto *list = find<QAbstractItemView>("comingUp");
+        QTRY_COMPARE(list->model()->rowCount(), 4);
+        choose(today.addDays(-1)); // overdue as a word, too
+        const auto source = [list] {
+            return list->model()->index(0, 0).data(ComingUpModel::SourceRole).toString();
+        };
+        QTRY_VERIFY(source().startsWith(u"Overdue, Address Book, "_s));
+        choose(today);
         QTRY_COMPARE(list->model()->rowCount(), 4);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                           list->visualRect(list->model()->index(2, 0)).center());

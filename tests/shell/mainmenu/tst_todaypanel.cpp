@@ -138,6 +138,26 @@ private slots:
             QCOMPARE(line(0), u"Today, 2 earlier"_s);
     }
 
+    void saysOnceWhatStandsInThePlannerToo()
+    {
+        const QString longText = u"Call the chimney sweep about the stove in the old kitchen"_s;
+        const auto toDo = [](int daysAhead, const QString &text) {
+            return DayNote{today.addDays(daysAhead), text, u"To Do List"_s, NoteKind::ToDo};
+        };
+        add(Function::Planner,
+            {noteOf(1, {}, longText.left(50)), noteOf(1, {9, 0}, u"paint"_s), noteOf(2, {}, u"Wash"_s)});
+        add(Function::ToDoList,
+            {toDo(1, longText), toDo(1, u"Paint"_s), toDo(1, u"Wash"_s), toDo(2, u"Washing"_s)});
+        TodayNotes notes(m_test->program);
+        QVERIFY(notes.refresh());
+        QStringList left;
+        for (const TodayNotes::Note &note : notes.notes()) {
+            if (note.function == Function::ToDoList)
+                left << note.note.text;
+        }
+        QCOMPARE(left, (QStringList{u"Wash"_s, u"Washing"_s}));
+    }
+
     void readsOnlyWhatIsNewAndOpen()
     {
         int read = 0;
