@@ -182,7 +182,7 @@ bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const Q
 
 void CellDelegate::goToEnd() const
 {
-    if (m_editor)
+    if (m_editor && kindOf(m_grid->currentIndex()) != GridCell::Kind::Date)
         m_editor->end(false);
     openCalendar();
 }

@@ -197,14 +197,13 @@ void ItemGrid::typeAgain(const QModelIndex &index, const QString &text)
 
 void ItemGrid::goToFirst()
 {
-    for (int row = 0; row < m_model.rowCount(); ++row) {
-        if (m_model.rowAt(row).kind != ToDoRow::Item)
-            continue;
-        selectionModel()->setCurrentIndex(m_model.index(row, ItemsModel::Text),
-                                          QItemSelectionModel::NoUpdate);
-        scrollToTop();
-        return;
-    }
+    int row = 0;
+    while (row < m_model.rowCount() && m_model.rowAt(row).kind != ToDoRow::Item)
+        ++row;
+    if (row == m_model.rowCount())
+        row = 0; // headings only
+    selectionModel()->setCurrentIndex(m_model.index(row, ItemsModel::Text), QItemSelectionModel::NoUpdate);
+    scrollToTop();
 }
 
 void ItemGrid::askQuietly(const QString &question)

@@ -22,7 +22,7 @@ public:
     void choose(const std::vector<int> &ids);
     /// Opens a cell whose `text` was refused, to be typed over.
     void typeAgain(const QModelIndex &index, const QString &text);
-    /// Makes the first item the current one, without choosing it.
+    /// Makes the first item the current one, or the first row where there is none, without choosing it.
     void goToFirst();
     /// The column "List", for views over all of them.
     void setListShown(bool isShown);

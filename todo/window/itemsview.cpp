@@ -96,8 +96,8 @@ void ItemsView::setAddButton(QPushButton *button)
 void ItemsView::connectParts()
 {
     connect(m_entry, &EntryLine::leftDown, this, [this] {
-        if (!m_grid->currentIndex().isValid())
-            m_grid->setCurrentIndex(m_model->index(0, ItemsModel::Text));
+        if (m_grid->chosen().empty())
+            m_grid->goToFirst();
         m_grid->setFocus();
     });
     connect(m_entry, &QLineEdit::textChanged, this, &ItemsView::showHint);
