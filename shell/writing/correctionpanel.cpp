@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <tuple>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -43,6 +44,7 @@ CorrectionPanel::CorrectionPanel(Writing &writing, QWidget *parent)
     setWork(makeWork());
     makeButtons();
     setFocusProxy(m_search);
+    connect(this, &TaskPanel::left, this, &CorrectionPanel::takeBackRefusal);
     connect(m_search, &QLineEdit::textChanged, this, [this] { showRows(chosen()); });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &CorrectionPanel::showChosen);
@@ -50,6 +52,7 @@ CorrectionPanel::CorrectionPanel(Writing &writing, QWidget *parent)
         box->setByteLimit(CorrectionFile::longest);
         connect(box, &FieldBox::refused, this, &CorrectionPanel::said);
         connect(box, &QLineEdit::textChanged, this, &CorrectionPanel::refreshButtons);
+        connect(box, &QLineEdit::textChanged, this, &CorrectionPanel::takeBackRefusal);
         connect(box, &QLineEdit::returnPressed, this, &CorrectionPanel::enter);
     }
 }
@@ -251,12 +254,21 @@ void CorrectionPanel::undo()
 /// Enter in a box: what is new is added, the chosen row changed.
 void CorrectionPanel::enter()
 {
-    if (m_buttons.add->isEnabled())
+    if (m_buttons.add->isEnabled()) {
         add();
-    else if (m_buttons.change->isEnabled())
+    } else if (m_buttons.change->isEnabled()) {
         change();
-    else
+    } else {
+        m_isRefused = true;
         emit said(m_buttons.add->statusTip());
+    }
+}
+
+/// What was said holds no longer.
+void CorrectionPanel::takeBackRefusal()
+{
+    if (std::exchange(m_isRefused, false))
+        emit said({});
 }
 
 bool CorrectionPanel::eventFilter(QObject *watched, QEvent *event)

@@ -50,6 +50,7 @@ private:
     void restore();
     void undo();
     void enter();
+    void takeBackRefusal();
     /// False where it could not be saved: then the table is as it was.
     bool save(const Corrections &table, const QString &chosen);
 
@@ -63,4 +64,5 @@ private:
         QPushButton *add, *change, *remove, *restore, *undo;
     } m_buttons{};
     std::vector<Corrections> m_before;
+    bool m_isRefused = false; ///< and it was said why
 };

@@ -171,7 +171,10 @@ private slots:
         wrong->setFocus();
         QTest::keyClicks(wrong, u"zinia"_s);
         QVERIFY(!desk.may("correctionAdd") && !desk.may("correctionChange"));
+        QTest::keyClick(wrong, Qt::Key_Return);
+        QVERIFY(desk.lastSaid().contains(u"Both"_s));
         QTest::keyClicks(right, u"zinnia"_s);
+        QCOMPARE(desk.lastSaid(), QString()); // that holds no longer
         QTest::keyClick(right, Qt::Key_Return);
         QCOMPARE(list->model()->rowCount(), first + 1);
         QVERIFY(wrong->hasFocus() && wrong->text().isEmpty());
