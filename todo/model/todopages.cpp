@@ -117,7 +117,7 @@ void Paper::addRow(const ToDoItem &item, bool hasWho)
     }
     m_page.rowWithNext(cells);
     QStringList note(m_columns);
-    note[m_options.hasBoxes ? 1 : 0] = item.note.trimmed().replace(u'\n', u' ');
+    note[m_options.hasBoxes ? 1 : 0] = item.note.trimmed();
     m_page.row(note, TextRole::Small);
 }
 
