@@ -34,7 +34,7 @@ public:
                               const QModelIndex &index) const final;
     void setEditorData(QWidget *editor, const QModelIndex &index) const final;
     /// A text that nobody touched is not written back.
-    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const final;
+    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 
     /// A text that is cut shows itself whole, and a sign says what it means.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

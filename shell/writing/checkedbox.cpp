@@ -68,11 +68,24 @@ void CheckedBox::typed()
     const qsizetype end = cursor() - 1;
     if (end < 1)
         return;
-    Line line = lineAt(end);
+    const Line line = lineAt(end);
     // A line end has ended the word.
     const QChar ending = end - line.begin < line.text.size() ? line.text[end - line.begin] : QChar(u'\n');
-    if (!WordBreaks::endsWord(ending))
-        return;
+    if (WordBreaks::endsWord(ending))
+        correctWordBefore(end);
+}
+
+void CheckedBox::taken()
+{
+    const Line line = lineAt(cursor());
+    const qsizetype place = cursor() - line.begin;
+    if (!isLocked() && (place == line.text.size() || WordBreaks::endsWord(line.text[place])))
+        correctWordBefore(cursor());
+}
+
+void CheckedBox::correctWordBefore(qsizetype end)
+{
+    Line line = lineAt(end);
     line.text.truncate(end - line.begin);
     const std::vector<WordPlace> words = WordBreaks::checkedWords(line.text);
     if (words.empty() || words.back().end() != line.text.size())

@@ -52,6 +52,8 @@ protected:
 
     /// A character was typed before the cursor.
     void typed();
+    /// What is typed is taken as it stands: a word that ends at the cursor has ended.
+    void taken();
     /// Something else than a single character has changed the text.
     void changedOtherwise() { m_correction.reset(); }
     /// The box shows another text.
@@ -70,6 +72,7 @@ private:
         qsizetype shorter; ///< what the correction has added to the length of the text
     };
 
+    void correctWordBefore(qsizetype end);
     bool takeBackCorrection(const QKeyEvent &key);
     bool showMenu(const QContextMenuEvent &event);
     void addSuggestions(QMenu &menu, const WordPlace &place, const QString &word);

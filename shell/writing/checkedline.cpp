@@ -6,6 +6,7 @@
 #include "shell/writing/wavyline.h"
 #include "shell/writing/writing.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
@@ -39,6 +40,13 @@ void CheckedLine::edited()
     else if (!m_isReplacing)
         changedOtherwise();
     m_isEdited = true;
+}
+
+/// What nobody has typed in stays as it is.
+void CheckedLine::finish()
+{
+    if (m_line->isModified())
+        taken();
 }
 
 CheckedBox::Line CheckedLine::lineAt(qsizetype) const
@@ -113,6 +121,11 @@ QStringList CheckedLine::marked() const
 /// The box has no way to draw a part of its text otherwise: the marks are drawn over it.
 bool CheckedLine::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter)
+            finish();
+    }
     const bool isHandled = CheckedBox::eventFilter(watched, event);
     if (isHandled || event->type() != QEvent::Paint || m_wrong.empty() ||
         m_line->echoMode() != QLineEdit::Normal)

@@ -13,6 +13,8 @@ public:
     CheckedLine(Writing &writing, QLineEdit *box);
 
     QStringList marked() const override;
+    /// What stands in the box is about to be taken out of it, as with Enter.
+    void finish();
 
 protected:
     Line lineAt(qsizetype place) const override;

@@ -4,6 +4,7 @@
 #include "shell/controls/cellgrid.h"
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
+#include "shell/writing/checkedline.h"
 #include "shell/writing/writing.h"
 #include "todo/model/todoitem.h"
 #include "todo/window/itemsmodel.h"
@@ -57,6 +58,13 @@ int ItemCells::insetOf(const QModelIndex &index) const
 {
     const bool isStep = index.column() == ItemsModel::Text && index.data(ItemsModel::stepRole).toBool();
     return CellGrid::inset + (isStep ? stepInset : 0);
+}
+
+void ItemCells::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+{
+    if (auto *checked = editor->findChild<CheckedLine *>({}, Qt::FindDirectChildrenOnly))
+        checked->finish();
+    CellDelegate::setModelData(editor, model, index);
 }
 
 QLineEdit *ItemCells::makeBox(QWidget *parent, const QModelIndex &index) const

@@ -260,12 +260,14 @@ private slots:
         open();
         trigger("mSpCheck"); // reads what the boxes need, without waiting for the first to be painted
         chooseList(0);
-        enter(u"Water teh ferns"_s);
-        QCOMPARE(texts(), QStringList{u"Water the ferns"_s});
+        enter(u"Water teh ferns adn"_s); // the last word ends with Enter
+        QCOMPARE(texts(), QStringList{u"Water the ferns and"_s});
         grid()->setFocus();
         grid()->setCurrentIndex(index(0, ItemsModel::Text));
         typeCell(u"Teh ferns, adn teh palms"_s);
         QCOMPARE(texts(), QStringList{u"The ferns, and the palms"_s});
+        typeCell(u"palms adn"_s);
+        QCOMPARE(texts(), QStringList{u"palms and"_s});
     }
 
     void sortsByADateUntilTheThirdClick()
@@ -398,6 +400,19 @@ private slots:
         click("newListMake");
         QCOMPARE(labelText("toDoTitle"), u"Trip"_s);
         QCOMPARE(cell(0, ItemsModel::Due), u"Tue, Nov 24"_s);
+    }
+
+    void goesDownFromTheLineToTheFirstThing()
+    {
+        open();
+        enter(u"Renew passports"_s);
+        QCOMPARE(texts(ToDoRow::Group), QStringList{u"Today"_s});
+        trigger("mVToday");
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Down);
+        QCOMPARE(current(), u"Renew passports"_s);
+        key(Qt::Key_Right);
+        key(Qt::Key_F2);
+        QCOMPARE(qobject_cast<QLineEdit *>(m_window->focusWidget())->selectedText(), u"11/21/2026"_s);
     }
 
     void movesWhatIsOverdueToToday()
