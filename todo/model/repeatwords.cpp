@@ -236,6 +236,14 @@ QString ordinal(int number)
                                                   : u"th"_s);
 }
 
+/// "every 2 weeks".
+QString everyUnit(const Repeat &repeat)
+{
+    static constexpr std::array names{"day"_L1, "week"_L1, "month"_L1, "year"_L1};
+    return repeat.interval == 1 ? u"every "_s + names[repeat.unit]
+                                : u"every %1 %2s"_s.arg(repeat.interval).arg(names[repeat.unit]);
+}
+
 /// "Mon, Tue and Thu".
 QString weekdayNames(const Repeat &repeat)
 {
@@ -279,14 +287,15 @@ std::optional<Repeat> RepeatWords::read(QStringView text, QDate start)
 
 QString RepeatWords::of(const Repeat &repeat, DateStyle style)
 {
-    static constexpr std::array names{"day"_L1, "week"_L1, "month"_L1, "year"_L1};
     static constexpr std::array<bool, 7> workdays{true, true, true, true, true, false, false};
-    QString words;
-    if (repeat.unit == Repeat::Week && repeat.interval == 1 && repeat.weekdays == workdays)
-        words = u"every weekday"_s;
-    else if (repeat.interval == 1)
-        words = u"every "_s + names[repeat.unit] + dayWords(repeat, style);
-    else
-        words = u"every %1 %2s"_s.arg(repeat.interval).arg(names[repeat.unit]) + dayWords(repeat, style);
+    const bool isWorkdays =
+        repeat.unit == Repeat::Week && repeat.interval == 1 && repeat.weekdays == workdays;
+    const QString words = isWorkdays ? u"every weekday"_s : everyUnit(repeat) + dayWords(repeat, style);
     return repeat.isAfter ? words + u" after it is done"_s : words;
+}
+
+QString RepeatWords::beforeDate(const Repeat &repeat, DateStyle style)
+{
+    const bool isTold = repeat.isAfter || repeat.unit == Repeat::Day || repeat.unit == Repeat::Week;
+    return isTold ? of(repeat, style) : everyUnit(repeat);
 }

@@ -14,4 +14,7 @@ std::optional<Repeat> read(QStringView text, QDate start);
 /// "every 3 days", which `read` takes again.
 QString of(const Repeat &repeat, DateStyle style);
 
+/// The same beside the next date, which tells the day of a month or year: "every year".
+QString beforeDate(const Repeat &repeat, DateStyle style);
+
 } // namespace RepeatWords

@@ -19,10 +19,9 @@ struct Width {
     int least;
     int most;
 };
-constexpr std::array widths{Width{ItemsModel::Due, 110, 190}, Width{ItemsModel::Actual, 98, 140},
-                            Width{ItemsModel::Who, 84, 190}, Width{ItemsModel::Repeat, 110, 330},
-                            Width{ItemsModel::List, 84, 180}};
-constexpr Width text{ItemsModel::Text, 220, 330};
+constexpr std::array widths{Width{ItemsModel::Text, 170, 420},  Width{ItemsModel::Due, 110, 190},
+                            Width{ItemsModel::Actual, 98, 140}, Width{ItemsModel::Who, 64, 190},
+                            Width{ItemsModel::Repeat, 90, 330}, Width{ItemsModel::List, 64, 180}};
 constexpr int stepWidth = 48; ///< on both sides
 constexpr int signWidth = 20;
 /// More rows are not asked for what they need: their texts would have to be decoded.
@@ -55,6 +54,7 @@ int leastOf(const Width &width, int needed)
 
 } // namespace
 
+/// What is missing is missing in all columns alike; what is left over goes to the text.
 void ItemColumns::shareWidth(QTableView &grid)
 {
     QHeaderView &heading = *grid.horizontalHeader();
@@ -69,17 +69,16 @@ void ItemColumns::shareWidth(QTableView &grid)
         all += needed[i];
     }
     const int room = grid.viewport()->width();
-    const int spare = room - neededWidth(grid, text) - least;
-    const double share = all > least ? std::clamp(double(spare) / (all - least), 0., 1.) : 1.;
+    const double share = all > least ? std::clamp(double(room - least) / (all - least), 0., 1.) : 1.;
     int taken = tickWidth;
-    for (std::size_t i = 0; i < widths.size(); ++i) {
+    for (std::size_t i = widths.size(); i-- > 1;) {
         if (grid.isColumnHidden(widths[i].column))
             continue;
         const int narrow = leastOf(widths[i], needed[i]);
-        const int wide = narrow + int((needed[i] - narrow) * share);
-        heading.resizeSection(widths[i].column, wide);
-        taken += wide;
+        const int width = narrow + int((needed[i] - narrow) * share);
+        heading.resizeSection(widths[i].column, width);
+        taken += width;
     }
     heading.resizeSection(ItemsModel::Tick, tickWidth);
-    heading.resizeSection(ItemsModel::Text, std::max(TypeScale::wide(text.least), room - taken));
+    heading.resizeSection(ItemsModel::Text, std::max(TypeScale::wide(widths[0].least), room - taken));
 }

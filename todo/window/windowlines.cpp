@@ -201,7 +201,8 @@ QString ToDoWindowLines::repeat(const ToDoItem &item, QDate today, const DateSty
     if (!isShown || item.actual.isValid())
         return words;
     const QDate next = rule->next(item.due, today, today);
-    return next.isValid() ? words + u", then "_s + day(next, today, style) : words;
+    return next.isValid() ? RepeatWords::beforeDate(*rule, style) + u", then "_s + day(next, today, style)
+                          : words;
 }
 
 QString ToDoWindowLines::next(const ToDoItem &item, QDate today, const DateStyle &style)
