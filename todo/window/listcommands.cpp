@@ -18,6 +18,8 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 ListCommands::ListCommands(const ToDoDesk &desk, ListsPane &pane, ItemsView &view, QObject *parent)
@@ -27,6 +29,7 @@ ListCommands::ListCommands(const ToDoDesk &desk, ListsPane &pane, ItemsView &vie
     , m_view(view)
 {
     connect(&m_pane, &ListsPane::renamed, this, &ListCommands::rename);
+    connect(&m_pane, &ListsPane::ordered, this, &ListCommands::moveBefore);
 }
 
 QAction *ListCommands::add(QMenu *menu, const QString &name, const QString &caption,
@@ -163,6 +166,28 @@ void ListCommands::rename(int id, const QString &name)
         make(ListActions::rename(m_desk.lists.sheet(), id, name));
     else
         emit said(why);
+}
+
+/// `before` is 0 for the end of the lists as they are shown, behind which only templates stand.
+void ListCommands::moveBefore(int id, int before)
+{
+    if (const QString why = m_desk.lists.whyLocked(); !why.isEmpty()) {
+        emit said(why);
+        return;
+    }
+    const std::vector<ToDoList> &lists = m_desk.lists.sheet().lists();
+    int from = -1;
+    int to = int(lists.size());
+    int behindLast = 0;
+    for (int place = 0; place < int(lists.size()); ++place) {
+        const ToDoList &list = lists[std::size_t(place)];
+        from = list.id == id ? place : from;
+        to = list.id == before ? place : to;
+        behindLast = list.kind != ListKind::Template ? place + 1 : behindLast;
+    }
+    to = std::min(to, behindLast);
+    if (from >= 0)
+        make(ListActions::move(m_desk.lists.sheet(), id, from < to ? to - 1 : to));
 }
 
 /// Among the lists as they are shown, between which templates may stand.

@@ -47,6 +47,7 @@ private:
     void create();
     void rename(int id, const QString &name);
     void moveBy(int direction);
+    void moveBefore(int id, int before);
     void remove();
     void openTrash();
     void bringBack(const Trash::Item &item);

@@ -7,14 +7,12 @@
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "todo/model/todocounts.h"
-#include "todo/window/itemdrag.h"
+#include "todo/window/droplist.h"
 #include "todo/window/openlists.h"
 #include "todo/window/panerowdelegate.h"
 #include "todo/window/panerows.h"
 #include "todo/window/windowlines.h"
 
-#include <QDragMoveEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
@@ -27,40 +25,6 @@ namespace {
 constexpr int leastWidth = 180;
 constexpr std::array views{Shown::Today, Shown::Coming, Shown::ByPerson, Shown::Done};
 } // namespace
-
-void DropList::dragEnterEvent(QDragEnterEvent *event)
-{
-    event->setAccepted(ItemDrag::isOne(event->mimeData()));
-}
-
-void DropList::dragMoveEvent(QDragMoveEvent *event)
-{
-    m_target = indexAt(event->position().toPoint());
-    event->setAccepted(ItemDrag::isOne(event->mimeData()) && m_target.isValid());
-    viewport()->update();
-}
-
-void DropList::dropEvent(QDropEvent *event)
-{
-    const QModelIndex row = indexAt(event->position().toPoint());
-    m_target = QModelIndex();
-    viewport()->update();
-    if (!row.isValid())
-        return;
-    event->accept();
-    emit dropped(row.data(PaneRows::keyRole).toInt(), ItemDrag::itemsOf(event->mimeData()));
-}
-
-/// The row onto which something is about to be dropped bears a rim.
-void DropList::paintEvent(QPaintEvent *event)
-{
-    QListView::paintEvent(event);
-    if (!m_target.isValid())
-        return;
-    QPainter painter(viewport());
-    painter.setPen(QPen(Theme::of(this).accent, 2));
-    painter.drawRect(visualRect(m_target).adjusted(1, 1, -1, -1));
-}
 
 ListsPane::ListsPane(const Program &program, OpenLists &lists, QWidget *parent)
     : QWidget(parent)
@@ -76,12 +40,12 @@ ListsPane::ListsPane(const Program &program, OpenLists &lists, QWidget *parent)
     , m_rows(new QVBoxLayout(this))
 {
     makeList(m_lists, u"toDoLists"_s, u"Lists"_s, m_listRows);
-    m_lists->setAcceptDrops(true);
     m_lists->setEditTriggers(QAbstractItemView::EditKeyPressed);
     m_listRows->setRenamable(true);
     layOut();
     connect(m_search, &QLineEdit::textChanged, this, &ListsPane::searchTyped);
     connect(m_lists, &DropList::dropped, this, &ListsPane::dropped);
+    connect(m_lists, &DropList::ordered, this, &ListsPane::ordered);
     connect(m_listRows, &PaneRows::renamed, this, &ListsPane::renamed);
     follow(m_views, false);
     follow(m_lists, true);
@@ -115,20 +79,29 @@ void ListsPane::layOut()
     setFocusProxy(m_views);
 }
 
+/// A list into which Tab leads marks its first row as the current one: that is no choice yet.
 void ListsPane::follow(QListView *view, bool isOfLists)
 {
+    const auto choose = [this, isOfLists](const QModelIndex &row) {
+        const int key = row.data(PaneRows::keyRole).toInt();
+        const Shown shown = isOfLists ? Shown{Shown::List, key, {}} : Shown{Shown::Kind(key), 0, {}};
+        if (shown == m_shown)
+            return;
+        clearSearch();
+        show(shown);
+        emit chosen(shown);
+    };
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this, isOfLists](const QModelIndex &row) {
-                if (!m_isFollowing || !row.isValid())
-                    return;
-                const int key = row.data(PaneRows::keyRole).toInt();
-                clearSearch();
-                const Shown shown = isOfLists ? Shown{Shown::List, key, {}} : Shown{Shown::Kind(key), 0, {}};
-                show(shown);
-                emit chosen(shown);
+            [this, view, choose](const QModelIndex &row) {
+                if (m_isFollowing && row.isValid() && view->selectionModel()->isSelected(row))
+                    choose(row);
             });
-    connect(view, &QAbstractItemView::clicked, this, &ListsPane::entered);
-    connect(view, &QAbstractItemView::activated, this, &ListsPane::entered);
+    for (const auto taken : {&QAbstractItemView::clicked, &QAbstractItemView::activated}) {
+        connect(view, taken, this, [this, choose](const QModelIndex &row) {
+            choose(row);
+            emit entered();
+        });
+    }
 }
 
 void ListsPane::refresh()
@@ -188,6 +161,11 @@ void ListsPane::clearSearch()
 {
     const QScopedValueRollback<bool> quiet(m_isFollowing, false);
     m_search->clear();
+}
+
+QListView &ListsPane::lists() const
+{
+    return *m_lists;
 }
 
 void ListsPane::startSearch()

@@ -3,38 +3,19 @@
 
 #include "todo/model/shown.h"
 
-#include <QListView>
 #include <QWidget>
 
 #include <vector>
 
+class DropList;
 class OpenLists;
 class PaneRows;
 class QLabel;
+class QListView;
 class QPushButton;
 class QVBoxLayout;
 class SearchBox;
 struct Program;
-
-/// A list onto whose rows things to do can be dropped.
-class DropList final : public QListView
-{
-    Q_OBJECT
-public:
-    using QListView::QListView;
-
-signals:
-    void dropped(int key, const std::vector<int> &items);
-
-protected:
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dragMoveEvent(QDragMoveEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-
-private:
-    QPersistentModelIndex m_target;
-};
 
 /// The side pane: the search, the views over all lists, and the lists with what is open in each.
 class ListsPane final : public QWidget
@@ -51,7 +32,7 @@ public:
     void rename(int list);
     void startSearch();
     void clearSearch();
-    QListView &lists() const { return *m_lists; }
+    QListView &lists() const;
     SearchBox &search() const { return *m_search; }
 
     /// The counts are others.
@@ -62,6 +43,8 @@ signals:
     /// A row was clicked, or Enter pressed on it: the work goes on in what it shows.
     void entered();
     void dropped(int list, const std::vector<int> &items);
+    /// A list was dragged to before another one; 0: behind the last.
+    void ordered(int list, int before);
     void renamed(int list, const QString &name);
 
 private:

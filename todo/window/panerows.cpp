@@ -3,10 +3,16 @@
 
 #include "todo/window/windowlines.h"
 
+#include <QMimeData>
+
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
+
+const QString rowFormat = u"application/x-quillery-list-of-things"_s;
 
 bool haveSameKeys(const std::vector<PaneRows::Row> &one, const std::vector<PaneRows::Row> &other)
 {
@@ -77,5 +83,31 @@ bool PaneRows::setData(const QModelIndex &index, const QVariant &value, int role
 Qt::ItemFlags PaneRows::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags flags = QAbstractListModel::flags(index) | Qt::ItemIsDropEnabled;
-    return m_isRenamable ? flags | Qt::ItemIsEditable : flags;
+    if (!m_isRenamable || !index.isValid())
+        return flags;
+    const bool isDraggable = !m_rows[std::size_t(index.row())].isTemplate;
+    return flags | Qt::ItemIsEditable | (isDraggable ? Qt::ItemIsDragEnabled : Qt::NoItemFlags);
+}
+
+QStringList PaneRows::mimeTypes() const
+{
+    return {rowFormat};
+}
+
+QMimeData *PaneRows::mimeData(const QModelIndexList &indexes) const
+{
+    auto *data = new QMimeData;
+    if (!indexes.isEmpty())
+        data->setData(rowFormat, QByteArray::number(m_rows[std::size_t(indexes.first().row())].key));
+    return data;
+}
+
+bool PaneRows::isRow(const QMimeData *data)
+{
+    return data && data->hasFormat(rowFormat);
+}
+
+int PaneRows::keyOf(const QMimeData &data)
+{
+    return data.data(rowFormat).toInt();
 }

@@ -39,6 +39,11 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QStringList mimeTypes() const override;
+    QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    /// Whether it is a row that is being dragged.
+    static bool isRow(const QMimeData *data);
+    static int keyOf(const QMimeData &data);
 
 signals:
     /// Another name was typed.

@@ -3,6 +3,7 @@
 
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
+#include "shell/controls/taborder.h"
 #include "shell/program/program.h"
 
 #include <QButtonGroup>
@@ -11,6 +12,8 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QSettings>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -68,14 +71,20 @@ ToDoPrintPanel::ToDoPrintPanel(const Program &program, QWidget *window, QWidget 
     column->setContentsMargins({});
     column->setSpacing(8);
     column->addWidget(makeHeading(u"What is printed"_s, content));
-    column->addWidget(makeChoices());
+    QWidget *choices = makeChoices();
+    column->addWidget(choices);
     column->addSpacing(8);
     column->addWidget(makeHeading(u"How"_s, content));
     makeLook(*column);
     column->addStretch(1);
     setContent(content);
     QPushButton *show = addButton(u"toDoPrintShow"_s, u"Show &Pages"_s, ButtonKind::Main);
-    setLeaveButton(u"toDoPrintClose"_s, u"C&lose"_s);
+    QPushButton *close = setLeaveButton(u"toDoPrintClose"_s, u"C&lose"_s);
+    TabOrder::findTheChosen(*m_what);
+    QWidget *last = TabOrder::follow(*m_days->layout(), TabOrder::follow(*choices->layout()));
+    last = TabOrder::follow(*column, last);
+    for (QWidget *button : {show, close})
+        setTabOrder(std::exchange(last, button), button);
     connect(show, &QPushButton::clicked, this, &ToDoPrintPanel::accepted);
     connect(m_what, &QButtonGroup::idToggled, this, &ToDoPrintPanel::follow);
 }
@@ -126,12 +135,15 @@ QWidget *ToDoPrintPanel::makeChoices()
 
 void ToDoPrintPanel::makeLook(QVBoxLayout &column)
 {
+    auto *group = new QButtonGroup(this); // the arrow keys stay among them
+    group->setExclusive(false);
     for (std::size_t i = 0; i < looks.size(); ++i) {
         const Look &look = looks[i];
         auto *box = named(new QCheckBox(look.caption.toString(), this), look.name);
         box->setChecked(m_program.store.value(keys + look.name, Options().*look.option).toBool());
         connect(box, &QCheckBox::toggled, this,
                 [this, name = look.name](bool isOn) { m_program.store.setValue(keys + name, isOn); });
+        group->addButton(box);
         column.addWidget(box);
         m_look[i] = box;
     }

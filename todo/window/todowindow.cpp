@@ -25,6 +25,7 @@
 #include "todo/window/todospelling.h"
 #include "todo/window/windowlines.h"
 
+#include <QListView>
 #include <QMenu>
 #include <QVBoxLayout>
 
@@ -189,7 +190,12 @@ void ToDo1::connectParts()
         undoStack().offer();
     };
     connect(m_pane, &ListsPane::chosen, this, [this](const Shown &shown) { bring(shown); });
-    connect(m_pane, &ListsPane::entered, m_view, [this] { m_view->setFocus(); });
+    connect(m_pane, &ListsPane::entered, m_view, [this] {
+        closePreview();
+        if (!m_stack->isHome())
+            m_stack->goHome();
+        m_view->setFocus();
+    });
     connect(m_pane, &ListsPane::dropped, this,
             [this](int list, const std::vector<int> &ids) { m_order->moveToList(ids, list); });
     connect(m_lists, &OpenLists::changed, this, &ToDo1::followLists);

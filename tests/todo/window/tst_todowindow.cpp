@@ -415,6 +415,52 @@ private slots:
         QCOMPARE(qobject_cast<QLineEdit *>(m_window->focusWidget())->selectedText(), u"11/21/2026"_s);
     }
 
+    void ordersListsWithTheMouse_data()
+    {
+        rows<int, int, bool, QStringList>({
+            {"to the front", 2, 0, false, {u"c"_s, u"a"_s, u"b"_s, u"t (template)"_s}},
+            {"down by one", 0, 1, true, {u"b"_s, u"a"_s, u"c"_s, u"t (template)"_s}},
+            {"to the end, before the template", 0, 3, true, {u"b"_s, u"c"_s, u"a"_s, u"t (template)"_s}},
+            {"where it is", 1, 1, false, {u"a"_s, u"b"_s, u"c"_s, u"t (template)"_s}},
+        });
+    }
+    void ordersListsWithTheMouse()
+    {
+        const auto [from, onto, isBelow, expected] = row<int, int, bool, QStringList>();
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+        m_test->setBytes(u"ToDo1.Fil"_s, "Quillery To Do 1\r\nlist\t1\tplain\ta\r\nlist\t2\ttemplate\tt\r\n"
+                                         "list\t3\tplain\tb\r\nlist\t4\tplain\tc\r\n");
+        openAgain();
+        auto *lists = find<QListView>("toDoLists");
+        const std::unique_ptr<QMimeData> data(lists->model()->mimeData({lists->model()->index(from, 0)}));
+        const QRect target = lists->visualRect(lists->model()->index(onto, 0));
+        const QPoint place = isBelow ? target.bottomLeft() : target.topLeft();
+        QDragEnterEvent enter(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
+            QCoreApplication::sendEvent(lists->viewport(), event);
+        QCOMPARE(names("toDoLists"), expected);
+    }
+
+    void staysWhereItIsWhileTabLeadsThroughTheLists()
+    {
+        open();
+        trigger("mOPrt");
+        for (const char *next :
+             {"printBoxes", "printDates", "printNotes", "printEmpty", "toDoPrintShow", "toDoPrintClose"}) {
+            key(Qt::Key_Tab);
+            QCOMPARE(m_window->focusWidget()->objectName(), QString::fromLatin1(next));
+        }
+        find<QWidget>("printEmpty")->setFocus();
+        key(Qt::Key_Down);
+        QCOMPARE(m_window->focusWidget()->objectName(), u"printEmpty"_s);
+        find<QListView>("toDoLists")->setFocus(Qt::TabFocusReason);
+        QVERIFY(find<QPushButton>("toDoPrintShow")->isVisible());
+        QCOMPARE(labelText("toDoTitle"), u"Today"_s);
+        key(Qt::Key_Return);
+        QCOMPARE(labelText("toDoTitle"), u"To Do"_s);
+    }
+
     void movesWhatIsOverdueToToday()
     {
         open();

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QListView>
+
+#include <vector>
+
+/// The lists, onto whose rows things to do can be dropped, and which are dragged into another order.
+class DropList final : public QListView
+{
+    Q_OBJECT
+public:
+    explicit DropList(QWidget *parent = nullptr);
+
+signals:
+    void dropped(int key, const std::vector<int> &items);
+    /// A row was dragged to before another one; 0: behind the last that can be dragged.
+    void ordered(int key, int before);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool isDraggable(const QModelIndex &row) const;
+    int lastDraggable() const;
+    int placeAt(QPoint point) const;
+    void mark(const QModelIndex &target, int place);
+
+    QPersistentModelIndex m_target; ///< onto which things would go
+    int m_place = -1;               ///< before which row a list would go; -1: nowhere
+};
