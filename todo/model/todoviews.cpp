@@ -221,7 +221,7 @@ Rows View::done() const
     return rows;
 }
 
-/// List by list, what is open before what is done.
+/// List by list, what is open before what is done. A list that has the words in its name is found as well.
 Rows View::found() const
 {
     const ToDoSearch search(m_wanted.shown.words);
@@ -236,8 +236,13 @@ Rows View::found() const
     Rows rows;
     for (const ToDoList &list : m_sheet.lists()) {
         auto [open, done] = lists.value(list.id);
-        open.insert(open.end(), done.begin(), done.end());
-        addGroup(rows, list.name, open);
+        if (open.empty() && done.empty() && !search.finds(list.name.toUtf8(), {}))
+            continue;
+        rows.push_back({ToDoRow::Group, 0, list.name, list.id});
+        for (const int row : open)
+            add(rows, row);
+        for (const int row : done)
+            add(rows, row);
     }
     return rows;
 }

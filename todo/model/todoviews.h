@@ -23,6 +23,7 @@ struct ToDoRow {
     Kind kind = Item;
     int id = 0;      ///< of an item or heading, and of whose note it is
     QString words{}; ///< of a group, and of what comes later
+    int list = 0;    ///< of a group, the list that it stands for; else 0
 
     bool operator==(const ToDoRow &) const = default;
 };

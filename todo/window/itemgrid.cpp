@@ -5,18 +5,14 @@
 #include "shell/look/theme.h"
 #include "todo/window/itemcells.h"
 #include "todo/window/itemcolumns.h"
-#include "todo/window/itemdrag.h"
 #include "todo/window/itemsmodel.h"
+#include "todo/window/windowlines.h"
 
-#include <QDrag>
-#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QMouseEvent>
-#include <QPainter>
 
 #include <algorithm>
 
@@ -29,7 +25,7 @@ constexpr int noteRows = 4;
 } // namespace
 
 ItemGrid::ItemGrid(ItemsModel &model, Writing &writing, QWidget *parent)
-    : CellGrid(parent)
+    : OrderedGrid(model, parent)
     , m_model(model)
     , m_question(new QLabel(viewport()))
 {
@@ -41,11 +37,7 @@ ItemGrid::ItemGrid(ItemsModel &model, Writing &writing, QWidget *parent)
     setAlternatingRowColors(false);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
-    setDragDropMode(DragDrop);
-    setDragDropOverwriteMode(false);
-    setDropIndicatorShown(false);
     setContextMenuPolicy(Qt::CustomContextMenu);
-    setDefaultDropAction(Qt::MoveAction);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setHorizontalScrollMode(ScrollPerPixel);
     makeHeading();
@@ -70,8 +62,12 @@ void ItemGrid::makeHeading()
     heading->setHighlightSections(false);
     heading->setSectionsClickable(true);
     connect(heading, &QHeaderView::sectionClicked, this, [this](int column) {
-        if (column == ItemsModel::Due || column == ItemsModel::Actual)
+        if (column != ItemsModel::Due && column != ItemsModel::Actual)
+            return;
+        if (m_model.isSortable())
             emit sortRequested(column);
+        else
+            emit said(ToDoWindowLines::sortedInLists());
     });
 }
 
@@ -232,6 +228,21 @@ bool ItemGrid::isItem(const QModelIndex &index) const
     return isRow(index, ToDoRow::Item) || isRow(index, ToDoRow::Heading);
 }
 
+/// A mouse that goes down on a tick means the tick.
+bool ItemGrid::mayDrag()
+{
+    if (isTick(m_pressed))
+        return false;
+    m_pressed = QModelIndex();
+    return true;
+}
+
+/// The list to which the words over what a search has found lead; 0 for any other row.
+int ItemGrid::listOf(const QModelIndex &index) const
+{
+    return isRow(index, ToDoRow::Group) ? m_model.rowAt(index.row()).list : 0;
+}
+
 bool ItemGrid::isTick(const QModelIndex &index) const
 {
     return isRow(index, ToDoRow::Item) && index.column() == ItemsModel::Tick;
@@ -263,6 +274,8 @@ void ItemGrid::keyPressEvent(QKeyEvent *event)
             emit ticked();
     } else if (isEnter(*event) && isRow(currentIndex(), ToDoRow::Later)) {
         emit laterClicked();
+    } else if (isEnter(*event) && listOf(currentIndex()) > 0) {
+        emit listClicked(listOf(currentIndex()));
     } else if (event->matches(QKeySequence::SelectAll)) {
         selectAll();
     } else {
@@ -293,6 +306,8 @@ void ItemGrid::mouseReleaseEvent(QMouseEvent *event)
     CellGrid::mouseReleaseEvent(event);
     if (isClick && isRow(released, ToDoRow::Later))
         emit laterClicked();
+    else if (isClick && listOf(released) > 0)
+        emit listClicked(listOf(released));
 }
 
 /// The second click on a tick takes it back.
@@ -324,72 +339,4 @@ bool ItemGrid::focusNextPrevChild(bool next)
             return true;
     }
     return CellGrid::focusNextPrevChild(next);
-}
-
-void ItemGrid::dragMoveEvent(QDragMoveEvent *event)
-{
-    CellGrid::dragMoveEvent(event);
-    const bool isTaken = ItemDrag::isOne(event->mimeData()) &&
-                         m_model.canDropMimeData(event->mimeData(), Qt::MoveAction, 0, 0, {});
-    const QModelIndex row = indexAt(event->position().toPoint());
-    const QRect place = visualRect(row);
-    m_dropLine = !isTaken                                               ? -1
-                 : !row.isValid()                                       ? endOfRows()
-                 : event->position().toPoint().y() > place.center().y() ? place.bottom()
-                                                                        : place.top();
-    event->setAccepted(isTaken);
-    viewport()->update();
-}
-
-void ItemGrid::dragLeaveEvent(QDragLeaveEvent *event)
-{
-    CellGrid::dragLeaveEvent(event);
-    m_dropLine = -1;
-    viewport()->update();
-}
-
-int ItemGrid::endOfRows() const
-{
-    return m_model.rowCount() == 0 ? 0 : visualRect(m_model.index(m_model.rowCount() - 1, 0)).bottom();
-}
-
-/// Where what is dragged would go.
-void ItemGrid::paintEvent(QPaintEvent *event)
-{
-    CellGrid::paintEvent(event);
-    if (m_dropLine < 0)
-        return;
-    QPainter painter(viewport());
-    painter.setPen(QPen(Theme::of(this).accent, 3));
-    painter.drawLine(0, m_dropLine, viewport()->width(), m_dropLine);
-}
-
-/// The rows are moved by the lists: the view shall remove none.
-void ItemGrid::dropEvent(QDropEvent *event)
-{
-    m_dropLine = -1;
-    viewport()->update();
-    const QPoint point = event->position().toPoint();
-    const QModelIndex row = indexAt(point);
-    const bool isBelow = row.isValid() && point.y() > visualRect(row).center().y();
-    m_model.dropMimeData(event->mimeData(), Qt::MoveAction,
-                         row.isValid() ? row.row() + (isBelow ? 1 : 0) : -1, 0, {});
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-}
-
-void ItemGrid::startDrag(Qt::DropActions actions)
-{
-    if (isTick(m_pressed))
-        return;
-    m_pressed = QModelIndex();
-    Q_UNUSED(actions)
-    QModelIndexList rows = selectionModel()->selectedRows();
-    if (rows.isEmpty())
-        return;
-    std::ranges::sort(rows, {}, &QModelIndex::row);
-    auto *drag = new QDrag(this);
-    drag->setMimeData(m_model.mimeData(rows));
-    drag->exec(Qt::MoveAction);
-    viewport()->update();
 }

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/controls/cellgrid.h"
+#include "todo/window/orderedgrid.h"
 
-class ItemsModel;
 class QLabel;
 class Writing;
 
 /// The things to do of a view as a grid: typed right into, ticked with a click or Space, put into another
 /// order with the mouse or with keys.
-class ItemGrid final : public CellGrid
+class ItemGrid final : public OrderedGrid
 {
     Q_OBJECT
 public:
@@ -35,6 +34,8 @@ signals:
     /// They are to become steps of the item above, or items again.
     void stepped(bool isStep);
     void laterClicked();
+    /// A list that a search has found is to be shown.
+    void listClicked(int list);
     /// It has another room for its rows.
     void resized();
     /// The dates of a column are to order the rows.
@@ -48,11 +49,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     bool focusNextPrevChild(bool next) override;
-    void dragMoveEvent(QDragMoveEvent *event) override;
-    void dragLeaveEvent(QDragLeaveEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    void startDrag(Qt::DropActions actions) override;
+    bool mayDrag() override;
 
 private:
     void makeHeading();
@@ -61,13 +58,12 @@ private:
     bool isTick(const QModelIndex &index) const;
     bool isItem(const QModelIndex &index) const;
     static bool isForText(const QKeyEvent &key);
-    int endOfRows() const;
+    int listOf(const QModelIndex &index) const;
     bool isRow(const QModelIndex &index, int kind) const;
     void showSorting();
 
     ItemsModel &m_model;
     QLabel *m_question;
     QPersistentModelIndex m_pressed;
-    int m_dropLine = -1;      ///< where what is dragged would go; -1: nowhere
     bool m_isPassing = false; ///< the focus came by Tab, and Tab leads on
 };

@@ -261,6 +261,8 @@ QVariant ItemsModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
         return row.words;
+    case Qt::ToolTipRole:
+        return row.list > 0 ? QVariant(ToDoWindowLines::showsList(row.words)) : QVariant();
     case GridCell::quietRole:
         return row.kind == ToDoRow::Later;
     case GridCell::signRole:
@@ -279,7 +281,7 @@ QVariant ItemsModel::headerData(int section, Qt::Orientation orientation, int ro
         return section == Tick ? QString() : ToDoWindowLines::heading(section);
     case Qt::AccessibleTextRole:
     case Qt::ToolTipRole:
-        return ToDoWindowLines::headingTip(section);
+        return isSortable() ? ToDoWindowLines::headingTip(section) : ToDoWindowLines::heading(section);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignLeft);
     default:

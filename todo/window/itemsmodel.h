@@ -35,6 +35,8 @@ public:
 
     ToDoViews::Order order() const { return m_order; }
     bool isBackwards() const { return m_isBackwards; }
+    /// Only a list can be sorted: the views have an order of their own.
+    bool isSortable() const { return m_shown.kind == Shown::List; }
     /// In the order of the dates in `column`: forwards, backwards, and then one's own order again.
     void sortBy(Column column);
     void unfoldLater();

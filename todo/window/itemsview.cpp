@@ -111,6 +111,7 @@ void ItemsView::connectParts()
             emit said(why);
     });
     connect(m_grid, &ItemGrid::laterClicked, m_model, &ItemsModel::unfoldLater);
+    connect(m_grid, &ItemGrid::listClicked, this, &ItemsView::listWanted);
     connect(m_grid, &ItemGrid::sortRequested, this, [this](int column) {
         keepChoice([this, column] { m_model->sortBy(ItemsModel::Column(column)); });
     });

@@ -61,6 +61,7 @@ signals:
     void said(const QString &line);
     /// The same of something that can be taken back.
     void done(const QString &line);
+    void listWanted(int list);
     /// Other rows are chosen, or another view is shown.
     void moved();
 

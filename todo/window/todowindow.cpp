@@ -79,6 +79,7 @@ ToDo1::ToDo1(Program &program, QWidget *parent)
     makeCommands();
     setViews(m_stack);
     connectParts();
+    connectLists();
     finishFrame();
     bring(Shown());
     load();
@@ -206,19 +207,33 @@ void ToDo1::connectParts()
     connect(m_view, &ItemsView::moved, &commands(), &Commands::refresh);
     connect(&m_view->note(), &NoteBox::said, this, say);
     connect(m_view, &ItemsView::done, this, done);
-    connect(m_order, &OrderCommands::listWanted, this, [this](int list) { bring({Shown::List, list, {}}); });
     connect(m_print, &ToDoPrint::said, this, say);
     connect(m_spelling, &ToDoSpelling::said, this, say);
     connect(m_listCommands, &ListCommands::said, this, say);
     connect(m_listCommands, &ListCommands::done, this, done);
-    connect(m_listCommands, &ListCommands::wanted, this, [this](const Shown &shown) {
-        bring(shown);
-        m_view->setFocus();
-    });
     connect(&m_view->grid(), &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
         findChild<QMenu *>(u"mE"_s)->popup(m_view->grid().viewport()->mapToGlobal(place));
     });
     connect(&activity(), &ActivityBar::dayBegan, this, &ToDo1::followLists);
+}
+
+/// What leads to another list.
+void ToDo1::connectLists()
+{
+    const auto bringList = [this](int list) { bring({Shown::List, list, {}}); };
+    connect(m_order, &OrderCommands::listWanted, this, bringList);
+    const auto goTo = [this](const Shown &shown) {
+        bring(shown);
+        m_view->setFocus();
+    };
+    connect(m_listCommands, &ListCommands::wanted, this, goTo);
+    // Not while the grid is still about the click.
+    connect(
+        m_view, &ItemsView::listWanted, this,
+        [goTo](int list) {
+            goTo({Shown::List, list, {}});
+        },
+        Qt::QueuedConnection);
 }
 
 void ToDo1::bring(const Shown &shown)

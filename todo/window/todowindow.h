@@ -44,6 +44,7 @@ private:
     void makeOptions(QMenu *options);
     void makeButtons();
     void connectParts();
+    void connectLists();
     void bring(const Shown &shown);
     void followLists();
     void load();

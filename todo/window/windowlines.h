@@ -121,6 +121,16 @@ inline QString ownOrderOnly()
     return u"The order can be changed in a list, while it is not sorted by date"_s;
 }
 
+inline QString sortedInLists()
+{
+    return u"Only a list is sorted by a click: here things stand in an order of their own"_s;
+}
+
+inline QString showsList(const QString &name)
+{
+    return u"Show the list \u201c%1\u201d"_s.arg(name);
+}
+
 inline QString noNewHere()
 {
     return u"Something new is typed into a list, or into Today"_s;

@@ -114,6 +114,7 @@ private slots:
             {"and letters beyond the plain ones",
              search(u"\u00e4pf"_s),
              {u"= Home"_s, u"Take the bins out"_s}},
+            {"and a list by its name", search(u"sho"_s), {u"= Shop"_s}},
             {"and nothing of a template", search(u"pack"_s), {}},
         });
     }

@@ -322,6 +322,9 @@ private slots:
         QTest::keyClick(find<QLineEdit>("toDoSearch"), Qt::Key_Escape);
         QCOMPARE(labelText("toDoTitle"), u"To Do"_s);
         typeInto(find<QLineEdit>("toDoSearch"), u"nils"_s);
+        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, grid()->visualRect(index(0, 0)).center());
+        QTRY_COMPARE(labelText("toDoTitle"), u"To Do"_s); // which stands over what was found
+        typeInto(find<QLineEdit>("toDoSearch"), u"nils"_s);
         trigger("mVToday");
         QCOMPARE(find<QLineEdit>("toDoSearch")->text(), QString());
     }
