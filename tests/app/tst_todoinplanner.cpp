@@ -5,6 +5,9 @@
 #include "tests/support/testfiles.h"
 #include "todo/model/todofiles.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
+
 using namespace Qt::Literals::StringLiterals;
 
 /// The planner takes in the same things before and after the To Do list has saved them.
@@ -31,6 +34,27 @@ private slots:
         QVERIFY(ToDoImport::items(test.folder(), DateStyle::Other) == before);
         QVERIFY(
             test.bytes(u"TODOActv.FIL"_s).contains("\"Call Jos\xe9 about the boat\"\r\n\"2027-08-31\"\r\n"));
+        if (style == DateStyle::Usa)
+            QCOMPARE(insertionsOf(test), expectedInsertions());
+    }
+
+private:
+    /// What the planner would put into its rows, of 50 characters, from the day that is selected on.
+    static QStringList insertionsOf(const TestFolder &test)
+    {
+        QStringList lines;
+        for (const ToDoImport::DatedToDo &item : ToDoImport::items(test.folder(), DateStyle::Usa)) {
+            if (item.date >= QDate(2027, 6, 1))
+                lines << item.date.toString(Qt::ISODate) + u' ' + item.text.left(50).trimmed();
+        }
+        return lines;
+    }
+    static QStringList expectedInsertions()
+    {
+        QStringList lines;
+        for (const auto &row : expectedOf(u"planner"_s)["todo_import"_L1]["insertions"_L1].toArray())
+            lines << row[0].toString() + u' ' + row[1].toString().trimmed();
+        return lines;
     }
 };
 

@@ -135,15 +135,12 @@ QWidget *ToDoPrintPanel::makeChoices()
 
 void ToDoPrintPanel::makeLook(QVBoxLayout &column)
 {
-    auto *group = new QButtonGroup(this); // the arrow keys stay among them
-    group->setExclusive(false);
     for (std::size_t i = 0; i < looks.size(); ++i) {
         const Look &look = looks[i];
         auto *box = named(new QCheckBox(look.caption.toString(), this), look.name);
         box->setChecked(m_program.store.value(keys + look.name, Options().*look.option).toBool());
         connect(box, &QCheckBox::toggled, this,
                 [this, name = look.name](bool isOn) { m_program.store.setValue(keys + name, isOn); });
-        group->addButton(box);
         column.addWidget(box);
         m_look[i] = box;
     }
