@@ -63,6 +63,11 @@ int CellDelegate::insetOf(const QModelIndex &) const
     return CellGrid::inset;
 }
 
+QString CellDelegate::cut(const QModelIndex &index, const QFontMetrics &metrics, int width) const
+{
+    return metrics.elidedText(index.data().toString(), Qt::ElideRight, width);
+}
+
 void CellDelegate::drawRim(QPainter &painter, const QRect &cell) const
 {
     const Theme &theme = Theme::of(m_grid);
@@ -110,9 +115,8 @@ void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
     painter->setFont(option.font);
     painter->setPen(inkOf(index, theme));
-    painter->drawText(
-        place, int(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>()),
-        painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, place.width()));
+    painter->drawText(place, int(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>()),
+                      cut(index, painter->fontMetrics(), place.width()));
 }
 
 QLineEdit *CellDelegate::makeBox(QWidget *parent, const QModelIndex &index) const

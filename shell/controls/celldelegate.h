@@ -55,6 +55,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     /// Between the text of a cell and its edges.
     virtual int insetOf(const QModelIndex &index) const;
+    /// The text of a cell, cut where it has no room in `width`.
+    virtual QString cut(const QModelIndex &index, const QFontMetrics &metrics, int width) const;
     /// The box bears `cellBox` as its name unless it has one of its own.
     virtual QLineEdit *makeBox(QWidget *parent, const QModelIndex &index) const;
 

@@ -43,7 +43,7 @@ private:
     static QStringList insertionsOf(const TestFolder &test)
     {
         QStringList lines;
-        for (const ToDoImport::DatedToDo &item : ToDoImport::items(test.folder(), DateStyle::Usa)) {
+        for (const auto &item : ToDoImport::items(test.folder(), DateStyle::Usa)) {
             if (item.date >= QDate(2027, 6, 1))
                 lines << item.date.toString(Qt::ISODate) + u' ' + item.text.left(50).trimmed();
         }

@@ -60,6 +60,19 @@ int ItemCells::insetOf(const QModelIndex &index) const
     return CellGrid::inset + (isStep ? stepInset : 0);
 }
 
+/// Of a repeat, the next date is told before its rule.
+QString ItemCells::cut(const QModelIndex &index, const QFontMetrics &metrics, int width) const
+{
+    const QString text = index.data().toString();
+    const qsizetype next = index.column() == ItemsModel::Repeat ? text.lastIndexOf(u", then "_s) : -1;
+    const QString date = next < 0 ? QString() : text.sliced(next);
+    const int room = width - metrics.horizontalAdvance(date);
+    const int least = metrics.horizontalAdvance(u"every\u2026"_s);
+    if (next < 0 || room < least || metrics.horizontalAdvance(text) <= width)
+        return CellDelegate::cut(index, metrics, width);
+    return metrics.elidedText(text.first(next), Qt::ElideRight, room) + date;
+}
+
 void ItemCells::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
     if (auto *checked = editor->findChild<CheckedLine *>({}, Qt::FindDirectChildrenOnly))

@@ -19,6 +19,7 @@ public:
 
 protected:
     int insetOf(const QModelIndex &index) const override;
+    QString cut(const QModelIndex &index, const QFontMetrics &metrics, int width) const override;
     QLineEdit *makeBox(QWidget *parent, const QModelIndex &index) const override;
 
 private:
