@@ -41,7 +41,7 @@ CorrectionPanel::CorrectionPanel(Writing &writing, QWidget *parent)
     , m_wrong(named(new FieldBox(this), u"correctionWrong"_s))
     , m_right(named(new FieldBox(this), u"correctionRight"_s))
 {
-    setWork(makeWork());
+    setContent(makeWork());
     makeButtons();
     setFocusProxy(m_search);
     connect(this, &TaskPanel::left, this, &CorrectionPanel::takeBackRefusal);
@@ -76,6 +76,7 @@ QWidget *CorrectionPanel::makeWork()
     boxes->addLayout(labelled(u"What Is Typed"_s, m_wrong), 1);
     boxes->addLayout(labelled(u"What Is Meant"_s, m_right), 1);
     auto *list = new WholeRows(m_view);
+    list->setGivesWay(true);
     for (QWidget *part : {static_cast<QWidget *>(m_search), static_cast<QWidget *>(list)})
         part->setMaximumWidth(TypeScale::wide(widest));
     for (QWidget *part : {m_wrong, m_right})

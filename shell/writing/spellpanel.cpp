@@ -32,7 +32,7 @@ SpellPanel::SpellPanel(Writing &writing, QWidget *parent)
     , m_by(named(new FieldBox(this), u"spellReplacement"_s))
     , m_suggestions(named(new QListWidget(this), u"spellSuggestions"_s))
 {
-    setWork(makeWork());
+    setContent(makeWork());
     makeButtons();
     connect(m_by, &FieldBox::refused, this, &SpellPanel::said);
     connect(m_by, &QLineEdit::textChanged, this, &SpellPanel::refreshButtons);
@@ -59,6 +59,7 @@ QWidget *SpellPanel::makeWork()
     for (QWidget *part : {static_cast<QWidget *>(m_context), static_cast<QWidget *>(m_by)})
         part->setMaximumWidth(TypeScale::wide(widest));
     auto *list = new WholeRows(m_suggestions);
+    list->setGivesWay(true);
     list->setMaximumWidth(TypeScale::wide(widest));
     rows->addWidget(m_word);
     rows->addWidget(m_context);

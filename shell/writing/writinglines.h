@@ -88,7 +88,7 @@ inline QString noSuggestion()
 
 inline QString tableWords()
 {
-    return u"What stands at the left is corrected when a blank or a point follows"_s;
+    return u"What stands at the left is corrected when a blank, a point or Enter follows"_s;
 }
 
 inline QString noCorrectionChosen()
