@@ -148,6 +148,7 @@ QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     box->setAccessibleName(
         index.model()->headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
     m_editor = box;
+    m_cell = index;
     return box;
 }
 
@@ -208,8 +209,17 @@ void CellDelegate::finish()
 {
     if (!m_editor || m_editor->isHidden()) // hidden: the grid has taken what it held
         return;
+    const bool hadFocus = m_editor->hasFocus();
     emit commitData(m_editor);
-    emit closeEditor(m_editor);
+    if (isOpenIn(m_editor))
+        emit closeEditor(m_editor);
+    else if (hadFocus)
+        m_grid->setFocus(); // the box went with its row
+}
+
+bool CellDelegate::isOpenIn(const QWidget *editor) const
+{
+    return editor && editor == m_editor.data() && m_cell.isValid();
 }
 
 /// Whether the calendar belongs to the open box and is being used.

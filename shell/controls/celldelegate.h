@@ -3,6 +3,7 @@
 
 #include "shell/controls/gridcell.h"
 
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QStyledItemDelegate>
 
@@ -46,6 +47,8 @@ public:
     void openByMouse() const;
     /// What is typed in the open box goes into its cell, and the box away.
     void finish();
+    /// Whether `editor` is the open box of a cell that is still there: what was typed may have moved its row.
+    bool isOpenIn(const QWidget *editor) const;
 
 signals:
     /// Something typed or pasted could not be taken; a sentence for the status bar.
@@ -75,4 +78,5 @@ private:
     std::unique_ptr<DateReading> m_reading; ///< null in a grid without dates
     DatePicker *m_picker = nullptr;
     mutable QPointer<QLineEdit> m_editor;
+    mutable QPersistentModelIndex m_cell; ///< in which the box is open
 };

@@ -223,6 +223,21 @@ void CellGrid::focusOutEvent(QFocusEvent *event)
     viewport()->update();
 }
 
+/// A box whose row has moved is no longer the view's: its own words would be said on the console.
+void CellGrid::commitData(QWidget *editor)
+{
+    if (m_cells->isOpenIn(editor))
+        QTableView::commitData(editor);
+}
+
+void CellGrid::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    if (m_cells->isOpenIn(editor))
+        QTableView::closeEditor(editor, hint);
+    else if (state() == EditingState)
+        setState(NoState);
+}
+
 void CellGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTableView::currentChanged(current, previous);

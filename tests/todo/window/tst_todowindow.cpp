@@ -297,6 +297,11 @@ private slots:
         }
         QTest::mouseClick(heading->viewport(), Qt::LeftButton, {}, due);
         grid()->setFocus();
+        grid()->setCurrentIndex(index(0, ItemsModel::Due));
+        typeCell(u"+30"_s);
+        QCOMPARE(texts(), (QStringList{u"late"_s, u"soon"_s, u"never"_s}));
+        QVERIFY(grid()->hasFocus()); // though the box went with its row
+        chooseRows(1, 1);
         key(Qt::Key_Delete);
         QCOMPARE(texts(), (QStringList{u"late"_s, u"never"_s}));
     }
