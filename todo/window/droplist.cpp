@@ -48,6 +48,13 @@ void DropList::mark(const QModelIndex &target, int place)
     viewport()->update();
 }
 
+void DropList::startDrag(Qt::DropActions actions)
+{
+    QListView::startDrag(actions);
+    mark({}, -1);
+    emit released();
+}
+
 void DropList::dragEnterEvent(QDragEnterEvent *event)
 {
     event->setAccepted(ItemDrag::isOne(event->mimeData()) || PaneRows::isRow(event->mimeData()));

@@ -16,8 +16,11 @@ signals:
     void dropped(int key, const std::vector<int> &items);
     /// A row was dragged to before another one; 0: behind the last that can be dragged.
     void ordered(int key, int before);
+    /// A drag is over, wherever it ended.
+    void released();
 
 protected:
+    void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;

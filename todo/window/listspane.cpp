@@ -46,6 +46,7 @@ ListsPane::ListsPane(const Program &program, OpenLists &lists, QWidget *parent)
     connect(m_search, &QLineEdit::textChanged, this, &ListsPane::searchTyped);
     connect(m_lists, &DropList::dropped, this, &ListsPane::dropped);
     connect(m_lists, &DropList::ordered, this, &ListsPane::ordered);
+    connect(m_lists, &DropList::released, this, [this] { show(m_shown); }); // not what the mouse took hold of
     connect(m_listRows, &PaneRows::renamed, this, &ListsPane::renamed);
     follow(m_views, false);
     follow(m_lists, true);
