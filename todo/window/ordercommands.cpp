@@ -22,7 +22,9 @@ OrderCommands::OrderCommands(const ToDoDesk &desk, ItemsView &view, QObject *par
 {
     connect(&m_view.grid(), &ItemGrid::stepped, this, &OrderCommands::step);
     connect(&m_view.model(), &ItemsModel::dropped, this, [this](const std::vector<int> &ids, int before) {
-        m_view.make(ToDoActions::move(m_desk.lists.sheet(), ids, m_view.shown().list, before));
+        const int row = before > 0 ? m_view.model().rowOf(before) : m_view.model().rowCount();
+        m_view.make(ToDoActions::move(m_desk.lists.sheet(), ids, m_view.shown().list,
+                                      placeBehind(m_desk.lists.sheet(), shownAbove(row, ids), ids, before)));
     });
 }
 
@@ -71,12 +73,58 @@ QString OrderCommands::whyNoOrder() const
     return isOwnOrder ? QString() : ToDoWindowLines::ownOrderOnly();
 }
 
+/// Where it has a step of the item that is seen above it, nothing done that is not shown may stand between.
 void OrderCommands::step(bool isStep)
 {
-    const ToDoSheet &sheet = m_desk.lists.sheet();
+    if (!whyNoOrder().isEmpty())
+        return;
+    ToDoSheet sheet = m_desk.lists.sheet();
     const std::vector<int> ids = m_view.chosen();
+    for (const int id : ids) {
+        const int above = isStep ? shownAbove(m_view.model().rowOf(id), {id}) : 0;
+        if (above > 0)
+            sheet = ToDoActions::move(sheet, {id}, m_view.shown().list, placeBehind(sheet, above, {id}, id))
+                        .sheet;
+    }
     if (!m_view.make(isStep ? ToDoActions::indent(sheet, ids) : ToDoActions::outdent(sheet, ids)) && isStep)
         emit m_view.said(ToDoWindowLines::noItemAbove());
+}
+
+/// What is shown above a row, beside `ids`; 0: nothing.
+int OrderCommands::shownAbove(int row, const std::vector<int> &ids) const
+{
+    const ItemsModel &model = m_view.model();
+    for (int above = row - 1; above >= 0; --above) {
+        const ToDoRow &shown = model.rowAt(above);
+        const bool isItem = shown.kind == ToDoRow::Item || shown.kind == ToDoRow::Heading;
+        if (isItem && std::ranges::find(ids, shown.id) == ids.end())
+            return shown.id;
+    }
+    return 0;
+}
+
+/// Before what `ids` are put, to stand right behind `above` in their list and before anything that is not
+/// shown; `before` where there is nothing above. 0: to the end.
+int OrderCommands::placeBehind(const ToDoSheet &sheet, int above, const std::vector<int> &ids,
+                               int before) const
+{
+    if (above == 0)
+        return before;
+    std::vector<int> moved;
+    for (const int id : ids) {
+        const std::vector<int> steps = ToDoActions::withSteps(sheet, id);
+        moved.insert(moved.end(), steps.begin(), steps.end());
+    }
+    const auto isStep = [&sheet](int row) { return sheet.levelOf(row) == ItemLevel::Step; };
+    const bool areSteps = !moved.empty() && isStep(sheet.rowOf(moved.front()));
+    const int list = sheet.listOf(sheet.rowOf(above));
+    for (int row = sheet.rowOf(above) + 1; row < sheet.rowCount(); ++row) {
+        const int id = sheet.idOf(row);
+        const bool isTheirs = isStep(row) && !areSteps && m_view.model().rowOf(id) < 0;
+        if (sheet.listOf(row) == list && !isTheirs && std::ranges::find(moved, id) == moved.end())
+            return id;
+    }
+    return 0;
 }
 
 /// The row before which things are put that go up from `row`: the item, heading or step above. -1: there is
@@ -132,8 +180,10 @@ void OrderCommands::moveBy(int direction)
         return;
     }
     const bool isBehindAll = place == model.rowCount() || model.rowAt(place).kind == ToDoRow::Later;
-    m_view.make(ToDoActions::move(m_desk.lists.sheet(), ids, m_view.shown().list,
-                                  isBehindAll ? 0 : model.rowAt(place).id));
+    const int before = isBehindAll ? 0 : model.rowAt(place).id;
+    const ToDoSheet &sheet = m_desk.lists.sheet();
+    m_view.make(ToDoActions::move(sheet, ids, m_view.shown().list,
+                                  placeBehind(sheet, shownAbove(place, ids), ids, before)));
 }
 
 /// Up from the first place leads to the end of the list above, down from the last to the beginning of the one

@@ -8,6 +8,7 @@
 #include <vector>
 
 class ItemsView;
+class ToDoSheet;
 class QMenu;
 
 /// What gives things another place: up and down, as a step of the item above, into another list.
@@ -29,6 +30,8 @@ private:
     void step(bool isStep);
     void moveBy(int direction);
     void moveBeyond(int direction, const std::vector<int> &ids);
+    int shownAbove(int row, const std::vector<int> &ids) const;
+    int placeBehind(const ToDoSheet &sheet, int above, const std::vector<int> &ids, int before) const;
     int placeAbove(int row) const;
     int placeBelow(int row) const;
     void fillListMenu(QMenu &menu);

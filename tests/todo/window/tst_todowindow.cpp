@@ -236,6 +236,34 @@ private slots:
         QVERIFY(!index(1, ItemsModel::Text).data(ItemsModel::stepRole).toBool());
     }
 
+    void makesAStepOfWhatIsSeenAbove_data() { rows<bool>({{"with Tab", false}, {"by dragging", true}}); }
+    void makesAStepOfWhatIsSeenAbove()
+    {
+        const auto [isDragged] = row<bool>();
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+        m_test->setBytes(u"ToDo1.Fil"_s, "Quillery To Do 1\r\nlist\t1\tplain\tHome\r\n"
+                                         "item\t1\t1\t0\t\t\t\t\t\ta\t\r\n"
+                                         "item\t2\t1\t0\t\t2026-11-20\t\t\t\tdone\t\r\n"
+                                         "item\t3\t1\t0\t\t\t\t\t\tb\t\r\n"
+                                         "item\t4\t1\t1\t\t\t\t\t\tc\t\r\n"_ba);
+        openAgain();
+        chooseList(0);
+        QCOMPARE(texts(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+        grid()->setFocus(Qt::MouseFocusReason);
+        if (isDragged) {
+            const std::unique_ptr<QMimeData> data(grid()->model()->mimeData({index(2, 0)}));
+            QDropEvent drop(grid()->visualRect(index(1, 0)).topLeft(), Qt::MoveAction, data.get(),
+                            Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(grid()->viewport(), &drop);
+        } else {
+            chooseRows(1, 1);
+            key(Qt::Key_Tab);
+        }
+        chooseRows(0, 0);
+        key(Qt::Key_Space);
+        QCOMPARE(texts(ToDoRow::Item, ItemsModel::Actual).first(2), (QStringList{u"Today"_s, u"Today"_s}));
+    }
+
     void refusesQuietlyWhatIsNoDate()
     {
         open();
