@@ -176,10 +176,7 @@ private slots:
         } else {
             QMimeData data;
             data.setText(several);
-            QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
-                QCoreApplication::sendEvent(box, event);
+            drop(data, box, {5, 5});
         }
         QCOMPARE(texts(), (QStringList{u"milk"_s, u"eggs"_s, u"bread"_s}));
         trigger("mEUndo");
@@ -252,9 +249,7 @@ private slots:
         grid()->setFocus(Qt::MouseFocusReason);
         if (isDragged) {
             const std::unique_ptr<QMimeData> data(grid()->model()->mimeData({index(2, 0)}));
-            QDropEvent drop(grid()->visualRect(index(1, 0)).topLeft(), Qt::MoveAction, data.get(),
-                            Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(grid()->viewport(), &drop);
+            drop(*data, grid()->viewport(), grid()->visualRect(index(1, 0)).topLeft());
             QCOMPARE(texts(), (QStringList{u"a"_s, u"c"_s, u"b"_s}));
         } else {
             chooseRows(1, 1);
@@ -471,11 +466,7 @@ private slots:
         auto *lists = find<QListView>("toDoLists");
         const std::unique_ptr<QMimeData> data(lists->model()->mimeData({lists->model()->index(from, 0)}));
         const QRect target = lists->visualRect(lists->model()->index(onto, 0));
-        const QPoint place = isBelow ? target.bottomLeft() : target.topLeft();
-        QDragEnterEvent enter(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QDropEvent drop(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
-            QCoreApplication::sendEvent(lists->viewport(), event);
+        drop(*data, lists->viewport(), isBelow ? target.bottomLeft() : target.topLeft());
         QCOMPARE(names("toDoLists"), expected);
     }
 
@@ -646,6 +637,14 @@ private:
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
     {
         QTest::keyClick(m_window->focusWidget(), key, modifiers);
+    }
+    static void drop(const QMimeData &data, QWidget *onto, QPoint place)
+    {
+        constexpr Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
+            QCoreApplication::sendEvent(onto, event);
     }
     /// Types into the current cell; the row stays the current one.
     void typeCell(const QString &text) const
