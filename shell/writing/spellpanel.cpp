@@ -2,6 +2,7 @@
 #include "shell/writing/spellpanel.h"
 
 #include "shell/controls/listrowdelegate.h"
+#include "shell/controls/lowwindow.h"
 #include "shell/controls/titleline.h"
 #include "shell/look/theme.h"
 #include "shell/writing/writing.h"
@@ -34,6 +35,7 @@ SpellPanel::SpellPanel(Writing &writing, QWidget *parent)
 {
     setContent(makeWork());
     makeButtons();
+    SpellPanel::setLow(findChild<LowWindow *>()->isLow());
     connect(m_by, &FieldBox::refused, this, &SpellPanel::said);
     connect(m_by, &QLineEdit::textChanged, this, &SpellPanel::refreshButtons);
     connect(m_by, &QLineEdit::returnPressed, m_buttons.change, &QPushButton::click);
@@ -48,12 +50,11 @@ QWidget *SpellPanel::makeWork()
 {
     auto *work = new QWidget(this);
     auto *rows = new QVBoxLayout(work);
+    m_parts = rows;
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(12);
     m_context->setReadOnly(true);
     m_context->setFocusPolicy(Qt::ClickFocus);
     m_context->setAccessibleName(u"The text around the word"_s);
-    m_context->setFixedHeight(contextLines * QFontMetrics(TypeScale::body()).lineSpacing() + 24);
     setListRows(m_suggestions);
     m_suggestions->setAccessibleName(u"Suggestions"_s);
     for (QWidget *part : {static_cast<QWidget *>(m_context), static_cast<QWidget *>(m_by)})
@@ -66,6 +67,14 @@ QWidget *SpellPanel::makeWork()
     rows->addLayout(labelled(u"Change to"_s, m_by));
     rows->addLayout(labelled(u"Suggestions"_s, list), 1);
     return work;
+}
+
+void SpellPanel::setLow(bool isLow)
+{
+    TaskPanel::setLow(isLow);
+    const int lines = isLow ? 1 : contextLines;
+    m_context->setFixedHeight(lines * QFontMetrics(TypeScale::body()).lineSpacing() + (isLow ? 12 : 24));
+    m_parts->setSpacing(isLow ? 6 : 12);
 }
 
 void SpellPanel::makeButtons()

@@ -27,6 +27,9 @@ signals:
     /// A sentence for the status bar.
     void said(const QString &line);
 
+protected:
+    void setLow(bool isLow) override;
+
 private:
     QWidget *makeWork();
     void makeButtons();
@@ -47,6 +50,7 @@ private:
     QPlainTextEdit *m_context;
     FieldBox *m_by;
     QListWidget *m_suggestions;
+    QVBoxLayout *m_parts = nullptr;
     struct {
         QPushButton *change, *changeAll, *ignore, *add, *undo, *close;
     } m_buttons{};

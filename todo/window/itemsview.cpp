@@ -199,7 +199,8 @@ void ItemsView::showTitle()
     int shownRows = 0;
     for (int row = 0; row < m_model->rowCount(); ++row)
         shownRows += m_model->rowAt(row).kind == ToDoRow::Item ? 1 : 0;
-    m_words->setText(ToDoWindowLines::titleWords(shown(), counts, shownRows));
+    const bool isOnlyLists = shownRows == 0 && m_model->rowCount() > 0 && shown().kind == Shown::Search;
+    m_words->setText(isOnlyLists ? QString() : ToDoWindowLines::titleWords(shown(), counts, shownRows));
     const bool isOverdue = shown().kind == Shown::Today && counts.overdue > 0;
     if (m_overdue && m_overdue->isVisibleTo(this) != isOverdue) {
         m_overdue->setVisible(isOverdue);
