@@ -176,7 +176,7 @@ private slots:
         } else {
             QMimeData data;
             data.setText(several);
-            drop(data, box, {5, 5});
+            drop(data, box, {5, 5}, Qt::CopyAction);
         }
         QCOMPARE(texts(), (QStringList{u"milk"_s, u"eggs"_s, u"bread"_s}));
         trigger("mEUndo");
@@ -249,7 +249,7 @@ private slots:
         grid()->setFocus(Qt::MouseFocusReason);
         if (isDragged) {
             const std::unique_ptr<QMimeData> data(grid()->model()->mimeData({index(2, 0)}));
-            drop(*data, grid()->viewport(), grid()->visualRect(index(1, 0)).topLeft());
+            drop(*data, grid()->viewport(), grid()->visualRect(index(1, 0)).topLeft(), Qt::MoveAction);
             QCOMPARE(texts(), (QStringList{u"a"_s, u"c"_s, u"b"_s}));
         } else {
             chooseRows(1, 1);
@@ -466,7 +466,7 @@ private slots:
         auto *lists = find<QListView>("toDoLists");
         const std::unique_ptr<QMimeData> data(lists->model()->mimeData({lists->model()->index(from, 0)}));
         const QRect target = lists->visualRect(lists->model()->index(onto, 0));
-        drop(*data, lists->viewport(), isBelow ? target.bottomLeft() : target.topLeft());
+        drop(*data, lists->viewport(), isBelow ? target.bottomLeft() : target.topLeft(), Qt::MoveAction);
         QCOMPARE(names("toDoLists"), expected);
     }
 
@@ -638,11 +638,10 @@ private:
     {
         QTest::keyClick(m_window->focusWidget(), key, modifiers);
     }
-    static void drop(const QMimeData &data, QWidget *onto, QPoint place)
+    static void drop(const QMimeData &data, QWidget *onto, QPoint place, Qt::DropAction action)
     {
-        constexpr Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
-        QDragEnterEvent enter(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
-        QDropEvent drop(place, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent enter(place, action, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(place, action, &data, Qt::LeftButton, Qt::NoModifier);
         for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
             QCoreApplication::sendEvent(onto, event);
     }
