@@ -76,7 +76,10 @@ ToDoFiles::Opened ToDoFiles::open(DateStyle style, QDate today) const
     opened.former = opened.sheet;
     const auto [digest, formerDigest] = opened.sheet.digests();
     const QByteArray there = ActiveFile::digest(active);
-    if (there != digest && there != formerDigest)
+    const bool isOurs = there == digest || there == formerDigest;
+    // What was cut off its end stands in the other file still, as far as it is open.
+    const bool isCut = there == digest && !own->endsWith('\n');
+    if (opened.whyLocked.isEmpty() && (!isOurs || isCut))
         opened.takenIn = ActiveFile::takeIn(opened.sheet, active, style, today);
     return opened;
 }

@@ -142,6 +142,15 @@ private slots:
         QCOMPARE(m_files.open(DateStyle::Usa, today).takenIn, 0);
         QCOMPARE(m_files.open(DateStyle::Other, today).sheet, opened.sheet);
 
+        // What was cut off the end of our own file is found in the other one.
+        const QByteArray whole = m_test.bytes(u"ToDo1.Fil"_s);
+        QVERIFY(whole.endsWith("\tCall\tsome day\\nBefore a trip\r\n"));
+        m_test.put(u"ToDo1.Fil"_s, whole.chopped(32));
+        const ToDoFiles::Opened cut = m_files.open(DateStyle::Usa, today);
+        QCOMPARE(cut.takenIn, 1);
+        QCOMPARE(rowsOf(cut.sheet).last(), u"Call||Home|"_s);
+        m_test.put(u"ToDo1.Fil"_s, whole);
+
         // A save of ours that was cut short: nothing that is done comes back.
         ToDoSheet done = opened.sheet;
         const Files former = filesOf();
@@ -192,8 +201,10 @@ private slots:
     {
         const auto [bytes, isLocked, lists] = row<QByteArray, bool, int>();
         m_test.put(u"ToDo1.Fil"_s, bytes);
+        m_test.put(u"TODOActv.FIL"_s, "\"Milk\"\r\n\"\"\r\n\"\"\r\n");
         const ToDoFiles::Opened opened = m_files.open(DateStyle::Usa, today);
         QCOMPARE(!opened.whyLocked.isEmpty(), isLocked);
+        QVERIFY(!isLocked || opened.takenIn == 0);
         QCOMPARE(opened.sheet.lists().size(), std::size_t(lists));
         QCOMPARE(m_test.bytes(u"ToDo1.Fil"_s), bytes);
     }
