@@ -65,12 +65,13 @@ QString ItemCells::cut(const QModelIndex &index, const QFontMetrics &metrics, in
 {
     const QString text = index.data().toString();
     const qsizetype next = index.column() == ItemsModel::Repeat ? text.lastIndexOf(u", then "_s) : -1;
-    const QString date = next < 0 ? QString() : text.sliced(next);
-    const int room = width - metrics.horizontalAdvance(date);
-    const int least = metrics.horizontalAdvance(u"every\u2026"_s);
-    if (next < 0 || room < least || metrics.horizontalAdvance(text) <= width)
+    if (next < 0 || metrics.horizontalAdvance(text) <= width)
         return CellDelegate::cut(index, metrics, width);
-    return metrics.elidedText(text.first(next), Qt::ElideRight, room) + date;
+    const QString date = text.sliced(next);
+    const int room = width - metrics.horizontalAdvance(date);
+    return room >= metrics.horizontalAdvance(u"every\u2026"_s)
+               ? metrics.elidedText(text.first(next), Qt::ElideRight, room) + date
+               : metrics.elidedText(date.sliced(2), Qt::ElideRight, width);
 }
 
 void ItemCells::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
