@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -226,8 +227,10 @@ void CellGrid::focusOutEvent(QFocusEvent *event)
 /// A box whose row has moved is no longer the view's: its own words would be said on the console.
 void CellGrid::commitData(QWidget *editor)
 {
-    if (m_cells->isOpenIn(editor))
-        QTableView::commitData(editor);
+    if (!m_cells->isOpenIn(editor))
+        return;
+    const QScopedValueRollback<bool> committing(m_isCommitting, true);
+    QTableView::commitData(editor);
 }
 
 void CellGrid::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
@@ -249,6 +252,10 @@ void CellGrid::currentChanged(const QModelIndex &current, const QModelIndex &pre
 /// thousands of steps.
 bool CellGrid::focusNextPrevChild(bool next)
 {
+    if (m_isCommitting) { // the box goes with its row: no key has led anywhere
+        setFocus();
+        return true;
+    }
     const QModelIndex to = beside(next ? 1 : -1);
     if (!to.isValid())
         return QTableView::focusNextPrevChild(next);

@@ -68,5 +68,6 @@ private:
 
     CellDelegate *m_cells = nullptr;
     bool m_isEntry = false;
-    bool m_isTypedOver = false; ///< the open box replaces what the cell held
+    bool m_isTypedOver = false;  ///< the open box replaces what the cell held
+    bool m_isCommitting = false; ///< what the open box holds
 };
