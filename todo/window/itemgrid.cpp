@@ -161,6 +161,7 @@ void ItemGrid::choose(const std::vector<int> &ids)
 {
     QItemSelection rows;
     QModelIndex first;
+    QModelIndex last;
     for (const int id : ids) {
         const int row = m_model.rowOf(id);
         if (row < 0)
@@ -173,13 +174,15 @@ void ItemGrid::choose(const std::vector<int> &ids)
                         : int(ItemsModel::Text);
         if (!first.isValid())
             first = m_model.index(row, column);
+        last = m_model.index(row, column);
         rows.select(m_model.index(row, 0), m_model.index(row, ItemsModel::columns - 1));
     }
     if (!first.isValid())
         return;
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
-    scrollTo(first);
+    for (const QModelIndex &row : {last, first}) // as many as there is room for
+        scrollTo(row);
 }
 
 void ItemGrid::typeAgain(const QModelIndex &index, const QString &text)
@@ -200,6 +203,18 @@ void ItemGrid::goToFirst()
         row = 0; // headings only
     selectionModel()->setCurrentIndex(m_model.index(row, ItemsModel::Text), QItemSelectionModel::NoUpdate);
     scrollToTop();
+}
+
+void ItemGrid::goToLater()
+{
+    int row = m_model.rowCount() - 1;
+    while (row >= 0 && m_model.rowAt(row).kind != ToDoRow::Later)
+        --row;
+    if (row < 0)
+        return;
+    setCurrentIndex(m_model.index(row, ItemsModel::Tick));
+    if (row + 1 < m_model.rowCount())
+        scrollTo(m_model.index(row + 1, ItemsModel::Tick)); // the first of what was unfolded
 }
 
 void ItemGrid::askQuietly(const QString &question)

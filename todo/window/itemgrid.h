@@ -23,6 +23,8 @@ public:
     void typeAgain(const QModelIndex &index, const QString &text);
     /// Makes the first item the current one, or the first row where there is none, without choosing it.
     void goToFirst();
+    /// Makes the row that unfolds what comes later the current one.
+    void goToLater();
     /// The column "List", for views over all of them.
     void setListShown(bool isShown);
     /// A quiet question under the cell that was typed into; the next key or click takes it away.

@@ -110,7 +110,10 @@ void ItemsView::connectParts()
         if (const QString why = m_desk.lists.whyLocked(); !why.isEmpty())
             emit said(why);
     });
-    connect(m_grid, &ItemGrid::laterClicked, m_model, &ItemsModel::unfoldLater);
+    connect(m_grid, &ItemGrid::laterClicked, this, [this] {
+        m_model->unfoldLater();
+        m_grid->goToLater();
+    });
     connect(m_grid, &ItemGrid::listClicked, this, &ItemsView::listWanted);
     connect(m_grid, &ItemGrid::sortRequested, this, [this](int column) {
         keepChoice([this, column] { m_model->sortBy(ItemsModel::Column(column)); });
