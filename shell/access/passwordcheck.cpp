@@ -7,6 +7,7 @@
 #include "storage/changeset.h"
 #include "storage/log.h"
 #include "storage/recordvalue.h"
+#include "storage/sealing/secretbytes.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -41,27 +42,6 @@ QString flagNotSet()
     return u"NO"_s;
 }
 
-/// The bytes of a typed password, wiped when they are no longer needed. Accents count the same whether they
-/// were typed as one character or two.
-class SecretBytes
-{
-public:
-    explicit SecretBytes(const QString &password)
-    {
-        QString composed = password.normalized(QString::NormalizationForm_C);
-        m_bytes = composed.toUtf8();
-        sodium_memzero(composed.data(), std::size_t(composed.size()) * sizeof(QChar));
-    }
-    ~SecretBytes() { sodium_memzero(m_bytes.data(), std::size_t(m_bytes.size())); }
-    Q_DISABLE_COPY_MOVE(SecretBytes)
-
-    const char *data() const { return m_bytes.constData(); }
-    unsigned long long size() const { return static_cast<unsigned long long>(m_bytes.size()); }
-
-private:
-    QByteArray m_bytes;
-};
-
 QByteArrayView recordOf(QByteArrayView bytes, int number)
 {
     const qsizetype start =
@@ -94,11 +74,10 @@ bool isGone(const QFileInfo &file)
 bool isVerifier(const QByteArray &text)
 {
     static const QRegularExpression form(u"^\\$argon2id\\$v=19\\$m=(\\d{1,7}),t=(\\d{1,2}),p=1\\$"_s);
-    constexpr int largestMemory = 1024 * 1024; // KiB
-    constexpr int mostPasses = 16;
+    constexpr std::size_t kibibyte = 1024;
     const QRegularExpressionMatch match = form.match(QString::fromLatin1(text));
-    if (!match.hasMatch() || match.captured(1).toInt() > largestMemory ||
-        match.captured(2).toInt() > mostPasses)
+    if (!match.hasMatch() || match.captured(1).toUInt() > PasswordCost::mostMemory / kibibyte ||
+        match.captured(2).toUInt() > PasswordCost::mostOperations)
         return false;
     if (text.contains('\0') || text.size() >= qsizetype(crypto_pwhash_STRBYTES))
         return false;
@@ -108,16 +87,6 @@ bool isVerifier(const QByteArray &text)
 }
 
 } // namespace
-
-PasswordCost PasswordCost::interactive()
-{
-    return {crypto_pwhash_opslimit_interactive(), crypto_pwhash_memlimit_interactive()};
-}
-
-PasswordCost PasswordCost::minimum()
-{
-    return {crypto_pwhash_opslimit_min(), crypto_pwhash_memlimit_min()};
-}
 
 PasswordCheck::PasswordCheck(const DataFolder &folder, PasswordCost cost, PasswordMemory *memory)
     : m_folder(folder)
@@ -148,8 +117,8 @@ bool PasswordCheck::matches(const QString &password) const
     const Content content = read();
     if (content.state != State::Set || password.isEmpty())
         return false;
-    const SecretBytes typed(password);
-    return crypto_pwhash_str_verify(content.verifier.constData(), typed.data(), typed.size()) == 0;
+    const SecretBytes typed = SecretBytes::ofText(password);
+    return crypto_pwhash_str_verify(content.verifier.constData(), typed.data(), quint64(typed.size())) == 0;
 }
 
 bool PasswordCheck::setPassword(const QString &password)
@@ -158,10 +127,10 @@ bool PasswordCheck::setPassword(const QString &password)
     if (content.state == State::Damaged || password.isEmpty())
         return false;
 
-    const SecretBytes typed(password);
+    const SecretBytes typed = SecretBytes::ofText(password);
     QByteArray verifier(crypto_pwhash_STRBYTES, '\0');
-    if (crypto_pwhash_str(verifier.data(), typed.data(), typed.size(), m_cost.operations, m_cost.memory) !=
-        0) {
+    if (crypto_pwhash_str(verifier.data(), typed.data(), quint64(typed.size()), m_cost.operations,
+                          m_cost.memory) != 0) {
         qCWarning(storageLog) << "Not enough memory to make a password's verifier";
         return false;
     }

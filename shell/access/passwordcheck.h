@@ -4,26 +4,14 @@
 #include "shell/core/programstate.h"
 #include "shell/core/wronganswers.h"
 #include "storage/datafolder.h"
+#include "storage/sealing/passwordcost.h"
 
 #include <QByteArray>
 #include <QString>
 
-#include <cstddef>
-
 class ChangeSet;
 class RecordFile;
 struct PasswordMemory;
-
-/// How much work it takes to check one password: what slows a guessing machine down.
-struct PasswordCost {
-    unsigned long long operations;
-    std::size_t memory; ///< bytes
-
-    /// About a tenth of a second and 64 MiB.
-    static PasswordCost interactive();
-    /// Hardly any: for tests.
-    static PasswordCost minimum();
-};
 
 /// The password and the 21 flags of what it guards, in `PCtrl1.Fil` (record length 140): record 1 the
 /// password's verifier, records 2 to 22 the flags 0 to 20, record 23 the wrong answers, all counted texts.

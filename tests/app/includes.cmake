@@ -66,6 +66,8 @@ function(checkRooms folder)
 endfunction()
 
 check(storage "(app|shell|${functions})/" "above storage")
+check(storage "storage/sealing/" "a room above the others of storage")
+check(storage/sealing "(app|shell|${functions})/" "above storage")
 checkRooms(shell ${shellRooms})
 foreach(room IN LISTS shellRooms)
     check(shell/${room} "(app|${functions})/" "above shell")
