@@ -7,6 +7,8 @@
 #include "storage/changeset.h"
 #include "storage/saving.h"
 
+#include <QTimer>
+
 #include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
@@ -26,9 +28,12 @@ Assembly::Assembly(const DataFolder &programFolder, const DataFolder &folder)
     : m_store(u"Tessaly"_s, u"Quillery"_s)
     , m_settings(recovered(folder))
     , m_gate(showPasswordPrompt)
-    , m_program{folder,    programFolder, m_settings, m_state, m_clock,
-                m_dialogs, m_functions,   m_gate,     m_store, m_changes}
+    , m_program{folder,      programFolder, m_settings, m_state,   m_clock, m_dialogs,
+                m_functions, m_gate,        m_store,    m_changes, m_idle}
+    , m_guard(m_program)
 {
+    QObject::connect(&m_session, &SessionWatch::left, &m_changes, &ProgramSignals::lockRequested);
+    QTimer::singleShot(1000, &m_session, &SessionWatch::start); // long after what is seen first
     PasswordCheck(folder, PasswordCost::interactive(), &m_gate.memory()).load(m_state);
     addFunctions(m_functions, m_clock);
     QObject::connect(&m_changes, &ProgramSignals::helpRequested, &m_changes,

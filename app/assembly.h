@@ -2,7 +2,10 @@
 #pragma once
 
 #include "shell/access/gate.h"
+#include "shell/access/sessionwatch.h"
+#include "shell/access/windowguard.h"
 #include "shell/manual/helpviewer.h"
+#include "shell/program/idleclock.h"
 #include "shell/program/program.h"
 #include "shell/program/qtdialogs.h"
 
@@ -34,6 +37,9 @@ private:
     FunctionCatalogue m_functions;
     AccessGate m_gate;
     ProgramSignals m_changes;
+    IdleClock m_idle;
     Program m_program;
+    WindowGuard m_guard;
+    SessionWatch m_session;
     std::unique_ptr<HelpViewer> m_manual;
 };

@@ -4,6 +4,7 @@
 #include "benchmarks/paintwatch.h"
 #include "shell/access/gate.h"
 #include "shell/look/theme.h"
+#include "shell/program/idleclock.h"
 #include "shell/program/program.h"
 #include "shell/program/qtdialogs.h"
 
@@ -38,10 +39,11 @@ private:
     AccessGate m_gate{{}};
     QSettings m_store{m_data.filePath(QStringLiteral("desk.ini")), QSettings::IniFormat};
     ProgramSignals m_changes;
+    IdleClock m_idle;
 
 public:
-    Program program{m_folder,  m_folder,    m_settings, m_state, m_clock,
-                    m_dialogs, m_functions, m_gate,     m_store, m_changes};
+    Program program{m_folder,    m_folder, m_settings, m_state,   m_clock, m_dialogs,
+                    m_functions, m_gate,   m_store,    m_changes, m_idle};
 };
 
 /// The best of the times that a benchmark takes; longer than `most` milliseconds, and it has failed.

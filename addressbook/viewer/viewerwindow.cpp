@@ -25,6 +25,7 @@
 #include "shell/frame/undostack.h"
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
+#include "shell/program/locking.h"
 #include "storage/saving.h"
 
 #include <QApplication>
@@ -34,7 +35,6 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -330,10 +330,9 @@ void ADDBKDISPLAY::openEntry()
     const int record = m_grid->current().record;
     if (record == 0)
         return;
-    const QList<QWidget *> open = program().functions.openWindows();
-    const bool isOpen =
-        std::ranges::any_of(open, [](QWidget *window) { return qobject_cast<ADDBKVIEW *>(window); });
-    if (!isOpen && !program().gate.mayOpen(program(), Area::AddressBook, this))
+    QWidget *open = program().functions.window(Function::AddressBook);
+    if (open ? !Locking::maySee(*open, program())
+             : !program().gate.mayOpen(program(), Area::AddressBook, this))
         return;
     auto *book = qobject_cast<ADDBKVIEW *>(program().functions.open(Function::AddressBook, program()));
     if (book && !book->showRecord(record)) {
@@ -393,7 +392,9 @@ void ADDBKDISPLAY::showLabels()
 
 void ADDBKDISPLAY::showPictures()
 {
-    if (!m_pictures)
+    if (!m_pictures) {
         m_pictures = new ADDBKDISPLAY2(program());
+        program().functions.join(Function::AddressViewer, *m_pictures);
+    }
     bringToFront(*m_pictures);
 }

@@ -29,6 +29,13 @@ bool AccessGate::mayOpen(Program &program, int area, QWidget *parent)
     return takeVerdict(program);
 }
 
+bool AccessGate::mayUncover(Program &program, int area, QWidget *parent)
+{
+    program.state.guardedArea = area;
+    m_prompt(program, parent);
+    return takeVerdict(program);
+}
+
 bool AccessGate::mayOpenPasswordControl(Program &program, QWidget *parent)
 {
     program.state.passwordGateResult = PasswordGateResult::PasswordControl;

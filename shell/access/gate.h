@@ -25,6 +25,9 @@ public:
     /// Whether the function behind `area` may open: asks when its flag is set. `Area::None` always opens.
     bool mayOpen(Program &program, int area, QWidget *parent);
 
+    /// Whether the function behind `area` may be seen again: always asks.
+    bool mayUncover(Program &program, int area, QWidget *parent);
+
     /// Whether password control itself may open: asks when a password is stored.
     bool mayOpenPasswordControl(Program &program, QWidget *parent);
 

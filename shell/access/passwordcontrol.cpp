@@ -3,6 +3,7 @@
 
 #include "shell/access/gate.h"
 #include "shell/access/guardedareas.h"
+#include "shell/access/idlechoice.h"
 #include "shell/access/passwordmessages.h"
 #include "shell/access/passwordpage.h"
 #include "shell/access/passwordpane.h"
@@ -118,7 +119,11 @@ QWidget *Form31::makePasswordPanel()
     auto *padded = new QWidget(panel);
     auto *inner = new QVBoxLayout(padded);
     inner->setContentsMargins(4, 0, scrollBarWidth, 0);
+    inner->setSpacing(16);
+    m_idle = new IdleChoice(program(), padded);
     inner->addWidget(m_pane);
+    inner->addWidget(m_idle);
+    inner->addStretch();
     rows->addWidget(makeScrolled(padded, u"passwordScroll"_s, panel));
     panel->setFixedWidth(TypeScale::wide(passwordPanelWidth));
     return panel;
@@ -230,6 +235,8 @@ void Form31::connectPane()
         sayWithWrongAnswers(PasswordMessages::passwordRemoved());
     });
     connect(m_pane, &PasswordPane::damageFound, this, &Form31::tellDamage);
+    connect(m_idle, &IdleChoice::chosen, this, [this] { activity().say(PasswordMessages::marksSaved()); });
+    connect(m_idle, &IdleChoice::notSaved, this, [this] { activity().say(FrameLines::settingNotSaved()); });
     loadMarks();
 }
 
@@ -250,6 +257,7 @@ void Form31::refresh()
                                      : PasswordMessages::marksNeedPassword();
     for (const int area : ownAreas)
         setUnavailable(m_marks[std::size_t(area)], reason);
+    m_idle->setReason(reason);
     m_pane->refresh();
     marksChanged();
 }
@@ -258,6 +266,7 @@ void Form31::loadMarks()
 {
     m_saved = m_file.areas();
     program().state.protectedAreas = m_saved;
+    emit program().changes.guardsChanged();
     for (int area = 0; area < ProtectedAreas::count; ++area)
         m_marks[std::size_t(area)]->setChecked(m_saved.isProtected(area));
 }

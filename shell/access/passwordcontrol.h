@@ -7,6 +7,7 @@
 #include <array>
 #include <chrono>
 
+class IdleChoice;
 class PasswordPane;
 class QCheckBox;
 class QLabel;
@@ -53,6 +54,7 @@ private:
     PasswordCheck m_file;
     ProtectedAreas m_saved; ///< the flags when they were last read or written
     PasswordPane *m_pane = nullptr;
+    IdleChoice *m_idle = nullptr;
     std::array<QCheckBox *, ProtectedAreas::count> m_marks{};
     QCheckBox *m_showOthers = nullptr;
     QLabel *m_unsaved = nullptr;

@@ -101,6 +101,14 @@ inline QString lengthHint()
         "hard to guess.");
 }
 
+/// What being covered means.
+inline QString coveringHint()
+{
+    return QStringLiteral("Covered windows keep what was typed and show it after the password. Ctrl+L and "
+                          "\"Lock Now\" cover at "
+                          "once; so do the session's lock and sleep.");
+}
+
 // What password control says of itself.
 
 inline QString setSummary()

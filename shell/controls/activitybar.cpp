@@ -78,6 +78,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     , m_message(named(new ElidedLabel(this), u"statusMessage"_s))
     , m_way(makeLink(u"statusWay"_s, {}))
     , m_undo(makeLink(u"statusUndo"_s, u"Undo"_s))
+    , m_lock(makeLink(u"statusLock"_s, u"Lock Now"_s))
     , m_progress(named(new QProgressBar(this), u"statusProgress"_s))
     , m_stop(named(new QPushButton(u"&Stop"_s, this), u"statusStop"_s))
     , m_date(named(new QLabel(this), u"statusDate"_s))
@@ -99,6 +100,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     m_progress->setAccessibleName(u"Progress"_s);
     m_stop->setFixedHeight(26);
     letEnterPress(m_stop);
+    m_lock->setToolTip(u"Covers what the password guards (Ctrl+L)"_s);
     m_progress->hide();
     m_stop->hide();
     m_readOnly->hide();
@@ -118,6 +120,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     connect(m_restoreTop, &QToolButton::clicked, this, &ActivityBar::restoreTopToolbarRequested);
     connect(m_restoreSide, &QToolButton::clicked, this, &ActivityBar::restoreSideToolbarsRequested);
     connect(m_stop, &QPushButton::clicked, this, &ActivityBar::stopRequested);
+    connect(m_lock, &QToolButton::clicked, this, &ActivityBar::lockRequested);
     connect(m_undo, &QToolButton::clicked, this, &ActivityBar::undoRequested);
     connect(m_way, &QToolButton::clicked, this, [this] {
         const auto go = m_go; // what it leads to may put another in its place
@@ -144,6 +147,7 @@ void ActivityBar::addToRow(QHBoxLayout &row)
     row.addStretch(1);
     row.addWidget(m_progress);
     row.addWidget(m_stop);
+    row.addWidget(m_lock);
     row.addWidget(m_date);
     row.addWidget(m_time);
 }
@@ -209,6 +213,11 @@ void ActivityBar::offerWay(const QString &words, std::function<void()> go)
     m_way->setAccessibleName(words);
     m_go = std::move(go);
     m_way->show();
+}
+
+void ActivityBar::offerLock(bool offered)
+{
+    m_lock->setVisible(offered);
 }
 
 void ActivityBar::offerTopToolbar(bool offered)

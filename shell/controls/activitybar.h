@@ -39,6 +39,8 @@ public:
     /// The same with a link that leads to what the message tells of.
     void offerWay(const QString &words, std::function<void()> go);
 
+    /// "Lock Now" at the right.
+    void offerLock(bool offered);
     void offerTopToolbar(bool offered);
     void offerSideToolbars(bool offered);
 
@@ -51,6 +53,7 @@ public:
 
 signals:
     void restoreTopToolbarRequested();
+    void lockRequested();
     void undoRequested();
     void restoreSideToolbarsRequested();
     void stopRequested();
@@ -78,6 +81,7 @@ private:
     QToolButton *m_way;
     std::function<void()> m_go; ///< where it leads
     QToolButton *m_undo;
+    QToolButton *m_lock;
     QString m_said; ///< what the message shows when no control explains itself
     QProgressBar *m_progress;
     QPushButton *m_stop;

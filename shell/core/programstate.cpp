@@ -14,3 +14,12 @@ bool ProtectedAreas::isProtected(int area) const
 {
     return area >= 0 && area < count && AnsiText::trimmedBlanksRight(flag(area)) == "YES"_L1;
 }
+
+bool ProtectedAreas::isAnyProtected() const
+{
+    for (int area = 0; area < count; ++area) {
+        if (isProtected(area))
+            return true;
+    }
+    return false;
+}

@@ -43,6 +43,7 @@ public:
     static constexpr int count = 21;
 
     bool isProtected(int area) const;
+    bool isAnyProtected() const;
     void setFlag(int area, const QString &flag) { m_flags.at(std::size_t(area)) = flag; }
     const QString &flag(int area) const { return m_flags.at(std::size_t(area)); }
 

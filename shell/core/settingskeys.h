@@ -61,6 +61,12 @@ inline constexpr TextSetting weightColor{colorFile3, 207};
 inline constexpr TextSetting toDoColor{colorFile3, 208};
 inline constexpr TextSetting toDoTextColor{colorFile3, 209};
 
+/// Minutes without key or mouse after which what the password guards is covered; anything but these is the
+/// usual.
+inline constexpr NumberSetting idleMinutes{colorFile3, 210};
+inline constexpr std::array idleMinutesOffered{1, 5, 10, 30};
+inline constexpr int usualIdleMinutes = 10;
+
 /// The records that a program-wide colour update gives one value to, file by file.
 inline constexpr std::array<int, 18> programColors1{10, 11, 12, 13, 16, 17, 18, 22, 27,
                                                     32, 36, 38, 40, 49, 54, 56, 70, 80};

@@ -12,6 +12,8 @@ namespace CommonKeys {
 inline constexpr QKeyCombination search = Qt::CTRL | Qt::Key_F;
 /// The search over everything.
 inline constexpr QKeyCombination everything = Qt::CTRL | Qt::Key_K;
+/// Covers what the password guards, whatever has the focus.
+inline constexpr QKeyCombination lock = Qt::CTRL | Qt::Key_L;
 inline constexpr QKeyCombination newEntry = Qt::CTRL | Qt::Key_N;
 inline constexpr QKeyCombination save = Qt::CTRL | Qt::Key_S;
 inline constexpr QKeyCombination print = Qt::CTRL | Qt::Key_P;

@@ -18,6 +18,8 @@
 #include "shell/frame/workviews.h"
 #include "shell/look/theme.h"
 #include "shell/preview/previewpane.h"
+#include "shell/program/covering.h"
+#include "shell/program/locking.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -106,6 +108,9 @@ bool FunctionWindow::mayLeave()
     }
     if (m_leaving)
         return true;
+    // What is asked before the window goes tells of its content.
+    if (isModified() && !Locking::maySee(*this, m_program))
+        return false;
     Leaving leaving;
     if (isModified())
         leaving.data = askToLeave();
@@ -296,6 +301,7 @@ void FunctionWindow::finishFrame()
                       m_program.store.value(storeKey(u"geometry"_s)).toByteArray());
     if (m_sideSplitter)
         m_sideSplitter->restore(m_program.store, storeKey(m_sideSplitter->objectName()));
+    Locking::offer(m_program, *m_activity);
     m_activity->startClock();
 }
 
@@ -383,7 +389,8 @@ void FunctionWindow::filesSeen()
 void FunctionWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || m_watchedFiles.isEmpty())
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || m_watchedFiles.isEmpty() ||
+        Covering::isCovered(*this))
         return;
     if (FileStamp now = FileStamp::of(m_program.folder, m_watchedFiles); now != m_seen) {
         m_seen = std::move(now);

@@ -4,7 +4,9 @@
 #include "shell/access/gate.h"
 #include "shell/controls/activitybar.h"
 #include "shell/mainmenu/listfile.h"
+#include "shell/program/covering.h"
 #include "shell/program/functionfaces.h"
+#include "shell/program/locking.h"
 #include "shell/program/program.h"
 #include "shell/program/sharedprocedures.h"
 
@@ -83,7 +85,10 @@ void FunctionOpener::openWhenAllowed(Function function, const std::function<bool
         return;
     const Loading loading(m_activity);
     m_activity.say({});
-    if (!mayOpen())
+    QWidget *open = m_program.functions.window(function);
+    // Uncovered with the password, it is not asked for once more.
+    const bool isCovered = open && Covering::isCovered(*open);
+    if (!(isCovered ? Locking::maySee(*open, m_program) : mayOpen()))
         return;
     const QWidget *window = m_program.functions.open(function, m_program, place);
     tellWrongAnswers(window ? window->findChild<ActivityBar *>() : nullptr);

@@ -30,6 +30,7 @@
 #include "shell/mainmenu/sidetoolbar.h"
 #include "shell/mainmenu/splash.h"
 #include "shell/program/functionfaces.h"
+#include "shell/program/locking.h"
 #include "shell/program/sharedprocedures.h"
 
 #include <QCloseEvent>
@@ -82,6 +83,7 @@ Startfrm::Startfrm(Program &program, Surroundings surroundings, QWidget *parent)
     named(this, u"Startfrm"_s);
     setStatusBar(m_activity);
     m_activity->showReadOnly(program.folder.whyReadOnly());
+    Locking::offer(program, *m_activity);
     makeMenus();
     makeSideTools();
     layOut();

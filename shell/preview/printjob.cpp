@@ -5,6 +5,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/core/framelines.h"
 #include "shell/preview/previewmessages.h"
+#include "shell/program/covering.h"
 #include "shell/program/program.h"
 
 #include <QApplication>
@@ -223,16 +224,18 @@ PrintJob::Outcome PrintJob::printSheets(const PagePainter &painter, QPagedPaintD
         return painter.print(device, sheets) ? Outcome::Done : Outcome::Failed;
     }
     const OnlyStop guard(m_activity);
+    // Nothing of a window that is covered goes on to the printer.
+    const auto isStopped = [&] { return guard.isStopped() || Covering::isCovered(*m_parent); };
     int done = 0;
     const bool isPrinted = painter.print(device, sheets, [&](int) {
         m_activity.showProgress(++done, int(sheets.size()), true);
         QCoreApplication::processEvents();
-        return !guard.isStopped();
+        return !isStopped();
     });
     m_activity.showProgress(0, 0);
     if (isPrinted)
         return Outcome::Done;
-    if (!guard.isStopped())
+    if (!isStopped())
         return Outcome::Failed;
     m_activity.say(PreviewMessages::printingStopped());
     return Outcome::Stopped;

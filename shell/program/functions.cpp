@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <algorithm>
+
 void bringToFront(QWidget &window)
 {
     if (window.isMinimized())
@@ -63,6 +65,26 @@ bool FunctionCatalogue::isOpen(Function function) const
 {
     const auto found = m_windows.find(function);
     return found != m_windows.end() && found->second && found->second->isVisible();
+}
+
+QWidget *FunctionCatalogue::window(Function function) const
+{
+    return isOpen(function) ? m_windows.at(function).data() : nullptr;
+}
+
+void FunctionCatalogue::join(Function function, QWidget &window)
+{
+    std::erase_if(m_joined, [](const auto &joined) { return !joined.second; });
+    m_joined.emplace_back(function, &window);
+}
+
+std::optional<Function> FunctionCatalogue::functionOf(const QWidget &window) const
+{
+    const auto isIt = [&window](const auto &known) { return known.second == &window; };
+    if (const auto own = std::ranges::find_if(m_windows, isIt); own != m_windows.end())
+        return own->first;
+    const auto joined = std::ranges::find_if(m_joined, isIt);
+    return joined == m_joined.end() ? std::nullopt : std::optional(joined->first);
 }
 
 SearchSource *FunctionCatalogue::searchSource(Function function, const Program &program)

@@ -14,6 +14,8 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 class DataFolder;
 class QDate;
@@ -88,6 +90,12 @@ public:
 
     /// Whether the function's window is open now.
     bool isOpen(Function function) const;
+    /// Its window; null when it is not open.
+    QWidget *window(Function function) const;
+    /// Another window that shows what the function has: `functionOf()` knows it.
+    void join(Function function, QWidget &window);
+    /// The function that a window of its own shows; none for any other.
+    std::optional<Function> functionOf(const QWidget &window) const;
 
     /// What can be found in the function: made when it is first asked for, and kept. Null where there is
     /// nothing to find.
@@ -101,5 +109,6 @@ public:
 private:
     std::map<Function, FunctionEntry> m_entries;
     std::map<Function, QPointer<QWidget>> m_windows; ///< null when their window is gone
+    std::vector<std::pair<Function, QPointer<QWidget>>> m_joined;
     std::map<Function, std::unique_ptr<SearchSource>> m_sources;
 };

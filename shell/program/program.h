@@ -10,6 +10,7 @@
 #include "storage/datafolder.h"
 
 class AccessGate;
+class IdleClock;
 class QSettings;
 
 /// What every window is given: the household's folder and settings, the program-wide state, the time, the
@@ -28,4 +29,5 @@ struct Program {
     /// household.
     QSettings &store;
     ProgramSignals &changes;
+    const IdleClock &idle;
 };

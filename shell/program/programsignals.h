@@ -25,6 +25,12 @@ signals:
     void helpRequested(int context);
     /// A window wants a place of another function shown, behind that function's guard.
     void placeRequested(Function function, const Place &place);
+    /// Nobody is at the desk, by what somebody said or by the system: what is guarded is to be covered.
+    void lockRequested();
+    /// Somebody wants to see the covered `window` again: asks for the password.
+    void uncoverRequested(QWidget *window);
+    /// What the password guards has changed, or when it covers.
+    void guardsChanged();
     /// The main window is to come to the front.
     void mainMenuRequested();
 };

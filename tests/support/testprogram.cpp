@@ -27,7 +27,7 @@ TestProgram::TestProgram(Content content, const QString &whyReadOnly)
     , settings(folder)
     , gate([](Program &, QWidget *) {})
     , store(temporary.filePath(QStringLiteral("store.ini")), QSettings::IniFormat)
-    , program{folder, programFolder, settings, state, clock, dialogs, functions, gate, store, changes}
+    , program{folder, programFolder, settings, state, clock, dialogs, functions, gate, store, changes, idle}
 {
     QDir().mkpath(programFolder.path());
 }

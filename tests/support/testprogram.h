@@ -3,6 +3,7 @@
 
 #include "scripteddialogs.h"
 #include "shell/access/gate.h"
+#include "shell/program/idleclock.h"
 #include "shell/program/program.h"
 
 #include <QSettings>
@@ -43,6 +44,7 @@ public:
     AccessGate gate; ///< lets everything pass until a test puts another prompt in
     QSettings store;
     ProgramSignals changes;
+    IdleClock idle;
     Program program;
 };
 

@@ -74,8 +74,8 @@ QList<QWidget *> before(const QWidget *window)
 PictureSession::PictureSession(const Camera &camera)
     : m_camera(camera)
     , m_programFolder(QStringLiteral(QUILLERY_PROGRAM))
-    , m_program{m_test.folder, m_programFolder,  m_test.settings, m_test.state, m_test.clock,
-                m_dialogs,     m_test.functions, m_test.gate,     m_test.store, m_test.changes}
+    , m_program{m_test.folder,    m_programFolder, m_test.settings, m_test.state,   m_test.clock, m_dialogs,
+                m_test.functions, m_test.gate,     m_test.store,    m_test.changes, m_test.idle}
 {
     m_test.gate = AccessGate(showPasswordPrompt);
     addFunctions(m_test.functions, m_test.clock);
