@@ -6,7 +6,10 @@
 #include <QHash>
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -14,11 +17,28 @@ constexpr std::array separators{u';', u'\t', u','};
 constexpr int sampleLines = 40;
 /// A quote that is not closed within so many characters is none: the file goes on behind its line.
 constexpr qsizetype longestQuoted = 4000;
+constexpr qsizetype longestAsWritten = 70'000;
+constexpr qsizetype lookedAt = 64; ///< bytes
+
+/// UTF-16 without its mark: of letters in Western languages every other byte is zero.
+std::optional<QStringConverter::Encoding> wideEncoding(const QByteArray &bytes)
+{
+    const QByteArrayView begin =
+        QByteArrayView(bytes).first(std::min(bytes.size(), lookedAt) & ~qsizetype(1));
+    qsizetype zeros[2] = {0, 0};
+    for (qsizetype i = 0; i < begin.size(); ++i)
+        zeros[i % 2] += begin[i] == 0 ? 1 : 0;
+    const qsizetype most = begin.size() / 2;
+    if (most < 4 || zeros[0] + zeros[1] < most * 3 / 4 || (zeros[0] > 0 && zeros[1] > 0))
+        return {};
+    return zeros[1] > 0 ? QStringConverter::Utf16LE : QStringConverter::Utf16BE;
+}
 
 } // namespace
 
-CsvFile::CsvFile(const QByteArray &bytes)
+CsvFile::CsvFile(const QByteArray &bytes, Cells cells)
     : m_text(decode(bytes))
+    , m_cells(cells)
 {
     m_text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     m_text.replace(u'\r', u'\n');
@@ -29,6 +49,8 @@ CsvFile::CsvFile(const QByteArray &bytes)
 QString CsvFile::decode(const QByteArray &bytes)
 {
     if (const auto encoding = QStringConverter::encodingForData(bytes))
+        return QStringDecoder(*encoding)(bytes);
+    if (const auto encoding = wideEncoding(bytes))
         return QStringDecoder(*encoding)(bytes);
     return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : AnsiText::decode(bytes);
 }
@@ -66,9 +88,12 @@ bool CsvFile::next(Line &line)
 {
     while (m_at < m_text.size()) {
         const qsizetype start = m_at;
-        line = {m_line + 1, {}, true};
+        line = {m_line + 1, {}, true, false};
         for (;;) {
-            line.cells.append(takeCell(line.isClosed));
+            QString cell = takeCell(line.isClosed);
+            line.hasMore = line.cells.size() >= mostCells;
+            if (!line.hasMore)
+                line.cells.append(std::move(cell));
             if (isAtLineEnd())
                 break;
             ++m_at; // the separator
@@ -83,16 +108,19 @@ bool CsvFile::next(Line &line)
 
 QString CsvFile::takeCell(bool &isClosed)
 {
+    const qsizetype begin = m_at;
     while (!isAtLineEnd() && m_text[m_at] == u' ' && m_separator != u' ')
         ++m_at;
     QString cell;
     if (!isAtLineEnd() && m_text[m_at] == u'"')
         cell = takeQuoted(isClosed);
+    else if (m_cells == Cells::AsWritten)
+        m_at = begin;
     const qsizetype start = m_at;
     while (!isAtLineEnd() && m_text[m_at] != m_separator)
         ++m_at;
     cell += QStringView(m_text).sliced(start, m_at - start);
-    return cell.simplified();
+    return m_cells == Cells::AsWritten ? cell : cell.simplified();
 }
 
 /// What stands up to the closing quote, which goes with it; two quotes are one. Without one the cell ends
@@ -101,7 +129,8 @@ QString CsvFile::takeQuoted(bool &isClosed)
 {
     const qsizetype start = ++m_at;
     QString cell;
-    const qsizetype end = std::min(m_text.size(), start + longestQuoted);
+    const qsizetype longest = m_cells == Cells::AsWritten ? longestAsWritten : longestQuoted;
+    const qsizetype end = std::min(m_text.size(), start + longest);
     for (qsizetype at = start; at < end; ++at) {
         if (m_text[at] != u'"') {
             cell += m_text[at];

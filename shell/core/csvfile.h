@@ -15,9 +15,17 @@ public:
         int number = 0; ///< from 1
         QStringList cells;
         bool isClosed = true; ///< false: a quote has no end, and what follows was not read as part of it
+        bool hasMore = false; ///< there are more cells than any table has, which were left out
     };
 
-    explicit CsvFile(const QByteArray &bytes);
+    enum class Cells {
+        Tidied,   ///< blanks and line ends in a row are one blank
+        AsWritten ///< blanks and line ends count
+    };
+
+    explicit CsvFile(const QByteArray &bytes, Cells cells = Cells::Tidied);
+
+    static constexpr qsizetype mostCells = 10'000; ///< of a line
 
     QChar separator() const { return m_separator; }
     /// The next line that holds anything; false at the end.
@@ -27,7 +35,7 @@ public:
     /// How much was read, from 0 to 1.
     double progress() const { return m_text.isEmpty() ? 1 : double(m_at) / double(m_text.size()); }
 
-    /// The text of a file in UTF-8, Windows-1252 or, with a mark at its beginning, UTF-16.
+    /// The text of a file in UTF-8, UTF-16 or Windows-1252.
     static QString decode(const QByteArray &bytes);
 
 private:
@@ -37,6 +45,7 @@ private:
     bool isAtLineEnd() const { return m_at >= m_text.size() || m_text[m_at] == u'\n'; }
 
     QString m_text;
+    Cells m_cells;
     QChar m_separator = u',';
     qsizetype m_at = 0;
     int m_line = 0;

@@ -99,6 +99,12 @@ Page &Page::picture(const QString &path, QSizeF inches)
     return *this;
 }
 
+Page &Page::squares(QStringList rows, double inches)
+{
+    m_items.emplace_back(PageItem::Squares{std::move(rows), inches});
+    return *this;
+}
+
 Page &Page::placeText(const QRectF &inches, const QString &text, TextRole role, Qt::Alignment alignment)
 {
     m_items.emplace_back(PageItem::PlacedText{inches, text, role, alignment});

@@ -142,6 +142,14 @@ struct Picture {
     bool operator==(const Picture &) const = default;
 };
 
+/// A picture made of black squares in the flow of the page, a code for cameras say: so drawn that it is sharp
+/// on any paper. `rows` has a letter for each square, '#' for a black one.
+struct Squares {
+    QStringList rows;
+    double size = 0; ///< width and height in inches
+    bool operator==(const Squares &) const = default;
+};
+
 /// A text at a fixed place: inches from the sheet's top left corner, wrapped to the rectangle's width and cut
 /// (elided) at its last whole line.
 struct PlacedText {
@@ -199,7 +207,7 @@ class Page
 public:
     using Item =
         std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank, PageItem::Picture,
-                     PageItem::PlacedText, PageItem::PlacedPicture, PageItem::PlacedRule,
+                     PageItem::Squares, PageItem::PlacedText, PageItem::PlacedPicture, PageItem::PlacedRule,
                      PageItem::BelowPlaced, PageItem::Rule, PageItem::Break, PageItem::Section>;
 
     /// A page headed by `title`; `headRight` (usually a date) stands at the right of the title line.
@@ -215,6 +223,7 @@ public:
     Page &rowWithNext(QStringList cells, TextRole role = TextRole::Body);
     Page &blank(const QString &label);
     Page &picture(const QString &path, QSizeF inches);
+    Page &squares(QStringList rows, double inches);
     Page &placeText(const QRectF &inches, const QString &text, TextRole role = TextRole::Body,
                     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop);
     Page &placePicture(const QRectF &inches, const QString &path);

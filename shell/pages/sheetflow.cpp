@@ -2,6 +2,7 @@
 #include "shell/pages/sheetflow.h"
 
 #include "shell/pages/pagepicture.h"
+#include "shell/pages/pagesquares.h"
 #include "shell/pages/sharpline.h"
 
 #include <QPainter>
@@ -249,21 +250,37 @@ bool SheetFlow::place(const PageItem::Blank &blank)
 
 bool SheetFlow::place(const PageItem::Picture &picture)
 {
-    const QSizeF wanted = picture.size * pointsPerInch;
-    const QSizeF size = wanted.boundedTo(m_body.size());
+    const QSizeF size = (picture.size * pointsPerInch).boundedTo(m_body.size());
     if (!size.isValid())
         return true;
+    const auto place = takePlace(size);
+    if (m_painter && place)
+        drawPagePicture(*m_painter, *place, picture.path);
+    return place.has_value();
+}
+
+bool SheetFlow::place(const PageItem::Squares &squares)
+{
+    const double side = std::min({squares.size * pointsPerInch, m_body.width(), m_body.height()});
+    if (!(side > 0) || squares.rows.isEmpty())
+        return true;
+    const auto place = takePlace({side, side});
+    if (m_painter && place)
+        drawPageSquares(*m_painter, *place, squares.rows);
+    return place.has_value();
+}
+
+std::optional<QRectF> SheetFlow::takePlace(QSizeF size)
+{
     const double gap = m_isFresh ? 0 : pictureGap;
     if (!m_isFresh && room() < gap + size.height())
-        return false;
+        return {};
     m_y += gap;
     const QRectF place({m_body.left(), m_y}, QSizeF(size.width(), std::min(size.height(), room())));
-    if (m_painter)
-        drawPagePicture(*m_painter, place, picture.path);
     m_y = place.bottom() + pictureGap;
     m_rowAbove = false;
     m_isFresh = false;
-    return true;
+    return place;
 }
 
 bool SheetFlow::place(const PageItem::PlacedText &text)

@@ -34,6 +34,7 @@ private:
     bool place(const PageItem::Row &row);
     bool place(const PageItem::Blank &blank);
     bool place(const PageItem::Picture &picture);
+    bool place(const PageItem::Squares &squares);
     bool place(const PageItem::PlacedText &text);
     bool place(const PageItem::PlacedPicture &picture);
     bool place(const PageItem::PlacedRule &rule);
@@ -44,6 +45,8 @@ private:
     bool placeClosing();
 
     void placeTitle();
+    /// A place in the flow for what is no larger than a sheet; nothing where it belongs on the next one.
+    std::optional<QRectF> takePlace(QSizeF points);
     void placeHeadings(const std::vector<SheetCell> &headings);
     /// Draws `count` lines of each cell, from the item's current line on.
     void drawCells(const std::vector<SheetCell> &cells, const PageType &type, double top,

@@ -54,6 +54,7 @@ private slots:
             {"blank lines never start a sheet", blank, 1},
             {"a picture that finds no room",
              Page().picture({}, {7, 6}).picture({}, {7, 6}).close(printedOn, DateStyle::Usa), 2},
+            {"squares that find no room", Page().squares({u"#"_s}, 6).squares({u"#"_s}, 6), 2},
             {"closing lines below placed items",
              Page().placeText({0.5, 9.7, 3, 0.3}, u"a"_s).close(printedOn, DateStyle::Usa), 1},
             {"closing lines with no room below placed items",
@@ -356,6 +357,22 @@ private slots:
         QVERIFY2(many < 40 * few, qPrintable(u"%1 ns for ten times what takes %2 ns"_s.arg(many).arg(few)));
     }
 
+    /// Three squares of four, an inch wide together, at the upper left corner of what flows.
+    void drawsSquaresWhereTheyStand()
+    {
+        constexpr int inch = 80;
+        const QImage image =
+            PagePainter(Page().squares({u"# "_s, u"##"_s}, 1), {}, bodyFont()).image(0, inch);
+        int black = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                black += qGray(image.pixel(x, y)) < 10 ? 1 : 0;
+        }
+        QCOMPARE(black, inch * inch * 3 / 4);
+        QCOMPARE(qGray(image.pixel(inch / 2 + 5, inch / 2 + 5)), 0);
+        QCOMPARE(qGray(image.pixel(inch / 2 + 75, inch / 2 + 5)), 255);
+    }
+
     void survivesOddPages_data()
     {
         const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -366,6 +383,10 @@ private slots:
              letter},
             {"rows without columns", Page().row({u"a"_s, u"b"_s}).row({}), letter},
             {"pictures that have no size", Page().picture(u"x"_s, {-1, nan}), letter},
+            {"squares of no size", Page().squares({u"#"_s}, nan).squares({}, 1).squares({u"#"_s}, -1),
+             letter},
+            {"squares wider than the sheet, in uneven rows", Page().squares({u"####"_s, u"#"_s}, 1e9),
+             letter},
             {"places that are none",
              Page().placePicture({nan, nan, nan, nan}, u"x"_s).placeText({1, 1, -1, -1}, u"y"_s), letter},
             {"places off the sheet", Page().placeText({1e9, -1e9, 5, 5}, u"far away"_s), letter},
