@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/carcolumns.h"
 
-#include "cars/window/carcell.h"
 #include "cars/window/cargrid.h"
-#include "cars/window/carheadings.h"
+#include "shell/controls/gridcell.h"
+#include "shell/controls/groupheadings.h"
 #include "shell/look/theme.h"
 
 #include <QAbstractItemModel>
@@ -30,7 +30,7 @@ int contentWidth(const QAbstractItemModel &model, int column)
         const QModelIndex cell = model.index(row, column);
         if (QString text = cell.data().toString(); text.size() > longest.size())
             longest = std::move(text);
-        if (sign == 0 && !cell.data(CarCell::signRole).toString().isEmpty())
+        if (sign == 0 && !cell.data(GridCell::signRole).toString().isEmpty())
             sign = signRoom;
     }
     return QFontMetrics(TypeScale::body()).horizontalAdvance(longest) + sign + around;
@@ -74,19 +74,6 @@ void fillUp(std::vector<int> &widths, const std::vector<int> &wanted,
 
 } // namespace
 
-int CarColumns::headingWidth(const QAbstractItemModel &model, int column)
-{
-    const QFontMetrics metrics(TypeScale::strong());
-    const QString heading = model.headerData(column, Qt::Horizontal).toString();
-    int least = metrics.horizontalAdvance(heading);
-    for (qsizetype blank = heading.indexOf(u' '); blank > 0; blank = heading.indexOf(u' ', blank + 1)) {
-        const int first = metrics.horizontalAdvance(heading.first(blank));
-        const int second = metrics.horizontalAdvance(heading.sliced(blank + 1));
-        least = std::min(least, std::max(first, second));
-    }
-    return least + CarGrid::inset + CarHeadings::freeInset + 2;
-}
-
 std::vector<int> CarColumns::fitting(const QAbstractItemModel &model, const std::vector<Width> &widths,
                                      int room)
 {
@@ -98,7 +85,7 @@ std::vector<int> CarColumns::fitting(const QAbstractItemModel &model, const std:
         const bool isWords = width.room == Room::Words;
         const int usual = body.horizontalAdvance(width.longest) + around;
         const int needed = std::max(isWords ? int(usual * leastShare) : contentWidth(model, column),
-                                    headingWidth(model, column));
+                                    GroupHeadings::leastWidth(model, column));
         least.push_back(needed);
         wanted.push_back(std::max(usual + easyRoom, needed));
     }

@@ -23,9 +23,6 @@ struct Width {
     bool grows() const { return room != Room::Fixed; }
 };
 
-/// What the heading of a column needs at least: in two lines, if it has several words.
-int headingWidth(const QAbstractItemModel &model, int column);
-
 /// The widths of the columns of `model` that share `room`. Where there is too little, numbers, dates and the
 /// words of headings keep what they need: the columns are wider than the room then, and are scrolled.
 std::vector<int> fitting(const QAbstractItemModel &model, const std::vector<Width> &widths, int room);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/window/cargrid.h"
 
-#include "cars/window/carheadings.h"
 #include "shell/controls/celldelegate.h"
 #include "shell/controls/datebox.h"
+#include "shell/controls/groupheadings.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 
@@ -18,7 +18,7 @@ CarGrid::CarGrid(const Program &program, const QString &name, DatePicker *picker
     setObjectName(name);
     if (picker)
         cells().takeDates({program.state.dateStyle, program.clock}, picker);
-    setHorizontalHeader(new CarHeadings(this));
+    setHorizontalHeader(new GroupHeadings(this));
     setHorizontalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setPlainRows();

@@ -3,7 +3,7 @@
 
 #include "cars/model/carrows.h"
 #include "cars/model/csvlines.h"
-#include "cars/window/carcell.h"
+#include "shell/controls/gridcell.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -105,7 +105,7 @@ QVariant CsvModel::headerData(int section, Qt::Orientation orientation, int role
         return {};
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignVCenter | (isNumber(section) ? Qt::AlignRight : Qt::AlignLeft));
-    if (role == CarCell::groupRole)
+    if (role == GridCell::groupRole)
         return m_inFile.value(section);
     if (role == Qt::ToolTipRole && !m_inFile.value(section).isEmpty())
         return CsvLines::columnIs(m_headings.value(section), m_inFile.value(section));

@@ -4,10 +4,9 @@
 #include "cars/model/carrows.h"
 #include "cars/model/csvlines.h"
 #include "cars/model/presentreading.h"
-#include "cars/window/carcolumns.h"
-#include "cars/window/carheadings.h"
 #include "cars/window/csvmodel.h"
 #include "cars/window/opencar.h"
+#include "shell/controls/groupheadings.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/core/slicedwork.h"
 #include "shell/look/theme.h"
@@ -70,7 +69,7 @@ void CsvPanel::makeView()
 {
     m_view->setModel(m_model);
     setGridRows(m_view);
-    m_view->setHorizontalHeader(new CarHeadings(m_view)); // the fuel tracker's have two words
+    m_view->setHorizontalHeader(new GroupHeadings(m_view)); // the fuel tracker's have two words
     QHeaderView *heading = m_view->horizontalHeader();
     heading->setStretchLastSection(true);
     heading->setSectionsClickable(true);
@@ -88,7 +87,7 @@ int CsvPanel::widthOf(int column) const
     int width = 0;
     for (int row = 0; row < std::min(m_model->rowCount(), measuredRows); ++row)
         width = std::max(width, body.horizontalAdvance(m_model->index(row, column).data().toString()));
-    return std::max(width + 3 * inset, CarColumns::headingWidth(*m_model, column));
+    return std::max(width + 3 * inset, GroupHeadings::leastWidth(*m_model, column));
 }
 
 /// Every column has what it needs, and the description the rest.

@@ -107,19 +107,19 @@ QVariant EntryModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     const QString &cell = m_cells[index.column()];
-    const bool isDescription = m_log.kind(index.column()) == CarCell::Kind::Words;
+    const bool isDescription = m_log.kind(index.column()) == GridCell::Kind::Words;
     switch (role) {
     case Qt::DisplayRole:
         return isDescription && cell.isEmpty() ? HistoryLines::whatWasDone(m_log.part()) : cell;
     case Qt::EditRole:
         return cell;
-    case CarCell::quietRole:
+    case GridCell::quietRole:
         return m_typed[index.column()].isEmpty();
-    case CarCell::passedRole:
+    case GridCell::passedRole:
         return m_log.isWorkedOut(index.column());
-    case CarCell::kindRole:
+    case GridCell::kindRole:
         return int(m_log.kind(index.column()));
-    case CarCell::choicesRole: {
+    case GridCell::choicesRole: {
         QStringList names;
         if (isDescription && m_log.part() == CarPart::Maintenance) {
             for (const ScheduledAction &action : m_car.record().sheet.actions)

@@ -68,8 +68,8 @@ void LogModel::reorder(const QList<qsizetype> &order)
 QString LogModel::text(const QModelIndex &index) const
 {
     const QString text = CarRows::text(m_car, m_part, m_order[index.row()], index.column());
-    return kind(index.column()) == CarCell::Kind::Date ? CarDates::shown(text, m_program.state.dateStyle)
-                                                       : text;
+    return kind(index.column()) == GridCell::Kind::Date ? CarDates::shown(text, m_program.state.dateStyle)
+                                                        : text;
 }
 
 QString LogModel::titleOf(const CarRecord &car, qsizetype rowInFile) const
@@ -84,9 +84,9 @@ QString LogModel::titleOf(const CarRecord &car, qsizetype rowInFile) const
 
 CarEntry LogModel::check(int column, const QString &typed, const QString &before) const
 {
-    if (kind(column) == CarCell::Kind::Date)
+    if (kind(column) == GridCell::Kind::Date)
         return CarEntry::date(typed, before, m_program.state.dateStyle, m_program.clock.today());
-    if (kind(column) == CarCell::Kind::Words)
+    if (kind(column) == GridCell::Kind::Words)
         return {typed, {}};
     if (column == CarRows::costColumn(m_part))
         return CarEntry::money(typed, before);
@@ -119,12 +119,12 @@ QString LogModel::oddity(int column, const QString &typed, const QStringList &ce
                : QString();
 }
 
-CarCell::Kind LogModel::kind(int column) const
+GridCell::Kind LogModel::kind(int column) const
 {
     if (column == CarRows::dateColumn(m_part))
-        return CarCell::Kind::Date;
+        return GridCell::Kind::Date;
     const bool isDescription = m_part != CarPart::Fuel && column == 2;
-    return isDescription ? CarCell::Kind::Words : CarCell::Kind::Number;
+    return isDescription ? GridCell::Kind::Words : GridCell::Kind::Number;
 }
 
 QString LogModel::paste(const QModelIndex &first, const GridText::Rows &rows)
@@ -199,16 +199,16 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
         [[fallthrough]];
     case Qt::EditRole:
         return TabText::cell(text(index));
-    case CarCell::passedRole:
+    case GridCell::passedRole:
         return isWorkedOut(index.column());
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return fillUp ? CostWords::whyNotCounted(fillUp->kind) : QString();
-    case CarCell::quietRole:
+    case GridCell::quietRole:
         return fillUp && fillUp->kind != FillUp::Kind::Counted;
     case Qt::TextAlignmentRole:
         return headerData(index.column(), Qt::Horizontal, role);
-    case CarCell::kindRole:
+    case GridCell::kindRole:
         return int(kind(index.column()));
     default:
         return {};
@@ -221,7 +221,7 @@ QVariant LogModel::headerData(int section, Qt::Orientation orientation, int role
         return {};
     if (role == Qt::DisplayRole)
         return CarRows::headings(m_part, m_open.unit()).value(section);
-    const bool isRight = kind(section) == CarCell::Kind::Number;
+    const bool isRight = kind(section) == GridCell::Kind::Number;
     return role == Qt::TextAlignmentRole
                ? QVariant::fromValue(Qt::AlignVCenter | (isRight ? Qt::AlignRight : Qt::AlignLeft))
                : QVariant();

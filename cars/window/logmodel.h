@@ -5,7 +5,7 @@
 #include "cars/model/carrecord.h"
 #include "cars/model/fuelfigures.h"
 #include "cars/model/vehiclefiles.h"
-#include "cars/window/carcell.h"
+#include "shell/controls/gridcell.h"
 #include "shell/core/gridtext.h"
 
 #include <QAbstractTableModel>
@@ -42,7 +42,7 @@ public:
     /// nothing.
     QString oddity(int column, const QString &typed, const QStringList &cells) const;
     /// What one types into a column.
-    CarCell::Kind kind(int column) const;
+    GridCell::Kind kind(int column) const;
 
     /// Puts `rows` into the cells from `first` on, in one step, and tells what came of it.
     QString paste(const QModelIndex &first, const GridText::Rows &rows);

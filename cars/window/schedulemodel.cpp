@@ -6,9 +6,9 @@
 #include "cars/model/carwords.h"
 #include "cars/model/duewords.h"
 #include "cars/model/historylines.h"
-#include "cars/window/carcell.h"
 #include "cars/window/opencar.h"
 #include "cars/window/signline.h"
+#include "shell/controls/gridcell.h"
 #include "shell/program/program.h"
 
 #include <algorithm>
@@ -57,11 +57,11 @@ QString shortGroupOf(int column)
     return isInterval ? u"Interval"_s : groupOf(column);
 }
 
-CarCell::Kind kindOf(int column)
+GridCell::Kind kindOf(int column)
 {
     if (column == ScheduleColumn::action)
-        return CarCell::Kind::Words;
-    return column == ScheduleColumn::lastDate ? CarCell::Kind::Date : CarCell::Kind::Number;
+        return GridCell::Kind::Words;
+    return column == ScheduleColumn::lastDate ? GridCell::Kind::Date : GridCell::Kind::Number;
 }
 
 QStringList usualActions()
@@ -138,13 +138,13 @@ int ScheduleModel::alarm(const QModelIndex &index) const
 {
     const CarNeed *need = this->need(index.row());
     if (!need || !need->isUrgent())
-        return CarCell::NoAlarm;
+        return GridCell::NoAlarm;
     const auto limit = index.column() == ScheduleColumn::remainingDistance ? CarNeed::Limit::Distance
                        : index.column() == ScheduleColumn::remainingTime   ? CarNeed::Limit::Time
                                                                            : CarNeed::Limit::None;
     if (limit == CarNeed::Limit::None || limit != need->limit)
-        return CarCell::NoAlarm;
-    return need->state == CarNeed::State::Overdue ? CarCell::Overdue : CarCell::Due;
+        return GridCell::NoAlarm;
+    return need->state == CarNeed::State::Overdue ? GridCell::Overdue : GridCell::Due;
 }
 
 QVariant ScheduleModel::data(const QModelIndex &index, int role) const
@@ -165,16 +165,16 @@ QVariant ScheduleModel::data(const QModelIndex &index, int role) const
         return need ? DueWords::when(*need, m_car.unit(), m_program.state.dateStyle, m_program.clock.today())
                     : QString();
     }
-    case CarCell::kindRole:
+    case GridCell::kindRole:
         return int(kindOf(index.column()));
-    case CarCell::quietRole:
+    case GridCell::quietRole:
         return isComputed;
-    case CarCell::alarmRole:
+    case GridCell::alarmRole:
         return alarm(index);
-    case CarCell::signRole:
-        return alarm(index) == CarCell::NoAlarm ? QString()
-                                                : QString(SignLine::sign(need(index.row())->state));
-    case CarCell::choicesRole:
+    case GridCell::signRole:
+        return alarm(index) == GridCell::NoAlarm ? QString()
+                                                 : QString(SignLine::sign(need(index.row())->state));
+    case GridCell::choicesRole:
         return index.column() == ScheduleColumn::action ? usualActions() : QStringList();
     default:
         return {};
@@ -188,9 +188,9 @@ QVariant ScheduleModel::headerData(int section, Qt::Orientation orientation, int
     switch (role) {
     case Qt::DisplayRole:
         return headingOf(section, m_car.unit());
-    case CarCell::groupRole:
+    case GridCell::groupRole:
         return groupOf(section);
-    case CarCell::shortGroupRole:
+    case GridCell::shortGroupRole:
         return shortGroupOf(section);
     case Qt::TextAlignmentRole: {
         const bool isLeft = section == ScheduleColumn::action || section == ScheduleColumn::lastDate;

@@ -16,6 +16,8 @@ enum Role {
     choicesRole,             ///< a list of texts that are offered while one types
     alarmRole,               ///< an `Alarm`
     passedRole,              ///< true for a cell that may be typed into, but which Tab and Enter pass over
+    groupRole,               ///< of a heading: what stands above it and its neighbours of the same group
+    shortGroupRole,          ///< the same in a word, where it has less room
     furtherRole              ///< the first of a function's own
 };
 

@@ -3,17 +3,20 @@
 
 #include <QHeaderView>
 
-/// The headings of a car's grid, aligned as their columns; a heading of two words takes a second line where
-/// the column is narrow. What the model groups has a common heading above its own. The first one stays in
-/// sight where the others are scrolled sideways.
-class CarHeadings final : public QHeaderView
+/// The headings of a grid of many columns, aligned as they are; a heading of two words takes a second line
+/// where the column is narrow. What the model groups has a common heading above its own. The first one stays
+/// in sight where the others are scrolled sideways.
+class GroupHeadings final : public QHeaderView
 {
     Q_OBJECT
 public:
     /// What a heading keeps free on the side where the texts below it do not stand.
     static constexpr int freeInset = 2;
 
-    explicit CarHeadings(QWidget *parent);
+    explicit GroupHeadings(QWidget *parent);
+
+    /// What the heading of a column needs at least: in two lines, if it has several words.
+    static int leastWidth(const QAbstractItemModel &model, int column);
 
     QSize sizeHint() const override;
 

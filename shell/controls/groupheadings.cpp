@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cars/window/carheadings.h"
+#include "shell/controls/groupheadings.h"
 
-#include "cars/window/carcell.h"
-#include "cars/window/cargrid.h"
+#include "shell/controls/cellgrid.h"
+#include "shell/controls/gridcell.h"
 #include "shell/look/theme.h"
 
 #include <QPainter>
@@ -14,7 +14,7 @@ constexpr int leastHeight = 32;
 constexpr int around = 12; ///< above and below the words
 } // namespace
 
-CarHeadings::CarHeadings(QWidget *parent)
+GroupHeadings::GroupHeadings(QWidget *parent)
     : QHeaderView(Qt::Horizontal, parent)
 {
     setFont(TypeScale::strong());
@@ -25,20 +25,34 @@ CarHeadings::CarHeadings(QWidget *parent)
     connect(this, &QHeaderView::sectionResized, this, &QHeaderView::geometriesChanged);
 }
 
-Qt::Alignment CarHeadings::alignment(int section) const
+int GroupHeadings::leastWidth(const QAbstractItemModel &model, int column)
+{
+    const QFontMetrics metrics(TypeScale::strong());
+    const QString heading = model.headerData(column, Qt::Horizontal).toString();
+    int least = metrics.horizontalAdvance(heading);
+    for (qsizetype blank = heading.indexOf(u' '); blank > 0; blank = heading.indexOf(u' ', blank + 1)) {
+        const int first = metrics.horizontalAdvance(heading.first(blank));
+        const int second = metrics.horizontalAdvance(heading.sliced(blank + 1));
+        least = std::min(least, std::max(first, second));
+    }
+    return least + CellGrid::inset + freeInset + 2;
+}
+
+Qt::Alignment GroupHeadings::alignment(int section) const
 {
     const QVariant alignment = model()->headerData(section, orientation(), Qt::TextAlignmentRole);
     return alignment.isValid() ? alignment.value<Qt::Alignment>() : Qt::AlignVCenter;
 }
 
-QRect CarHeadings::wordsPlace(const QRect &rect, int section) const
+QRect GroupHeadings::wordsPlace(const QRect &rect, int section) const
 {
     const bool isRight = alignment(section).testFlag(Qt::AlignRight);
-    return rect.adjusted(isRight ? freeInset : CarGrid::inset, 0, isRight ? -CarGrid::inset : -freeInset, 0);
+    return rect.adjusted(isRight ? freeInset : CellGrid::inset, 0, isRight ? -CellGrid::inset : -freeInset,
+                         0);
 }
 
 /// Whether a heading has no room in one line.
-bool CarHeadings::isNarrow() const
+bool GroupHeadings::isNarrow() const
 {
     const QFontMetrics metrics(TypeScale::strong());
     for (int section = 0; section < count(); ++section) {
@@ -50,14 +64,14 @@ bool CarHeadings::isNarrow() const
     return false;
 }
 
-QString CarHeadings::groupOf(int section) const
+QString GroupHeadings::groupOf(int section) const
 {
     if (section < 0 || section >= count())
         return {};
-    return model()->headerData(section, Qt::Horizontal, CarCell::groupRole).toString();
+    return model()->headerData(section, Qt::Horizontal, GridCell::groupRole).toString();
 }
 
-bool CarHeadings::hasGroups() const
+bool GroupHeadings::hasGroups() const
 {
     for (int section = 0; section < count(); ++section) {
         if (!groupOf(section).isEmpty())
@@ -66,7 +80,7 @@ bool CarHeadings::hasGroups() const
     return false;
 }
 
-QSize CarHeadings::sizeHint() const
+QSize GroupHeadings::sizeHint() const
 {
     const QFontMetrics metrics(TypeScale::strong());
     const int lines = (isNarrow() ? 2 : 1) + (hasGroups() ? 1 : 0);
@@ -75,7 +89,7 @@ QSize CarHeadings::sizeHint() const
 
 /// The part of its group's heading that lies over `section`, with a line under the group; in a word where the
 /// group is narrower than its heading.
-void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) const
+void GroupHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) const
 {
     const QString group = groupOf(section);
     if (group.isEmpty())
@@ -90,9 +104,9 @@ void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) 
     const int left = rect.left() - sectionPosition(section) + sectionPosition(first);
     const int width = sectionPosition(last) + sectionSize(last) - sectionPosition(first);
     const QRect place = QRect(left, rect.top() + around / 4, width, metrics.height() + 2)
-                            .adjusted(CarGrid::inset, 0, -CarGrid::inset, 0);
+                            .adjusted(CellGrid::inset, 0, -CellGrid::inset, 0);
     const bool isNarrow = metrics.horizontalAdvance(group) > place.width();
-    const QString shorter = model()->headerData(section, orientation(), CarCell::shortGroupRole).toString();
+    const QString shorter = model()->headerData(section, orientation(), GridCell::shortGroupRole).toString();
     const QString &words = isNarrow && !shorter.isEmpty() ? shorter : group;
     painter->save();
     painter->setClipRect(rect);
@@ -105,7 +119,7 @@ void CarHeadings::paintGroup(QPainter *painter, const QRect &rect, int section) 
     painter->restore();
 }
 
-void CarHeadings::paintEvent(QPaintEvent *event)
+void GroupHeadings::paintEvent(QPaintEvent *event)
 {
     QHeaderView::paintEvent(event);
     if (offset() <= 0)
@@ -117,13 +131,13 @@ void CarHeadings::paintEvent(QPaintEvent *event)
     painter.drawLine(first.topRight(), first.bottomRight());
 }
 
-void CarHeadings::paintSection(QPainter *painter, const QRect &rect, int section) const
+void GroupHeadings::paintSection(QPainter *painter, const QRect &rect, int section) const
 {
     paintWords(painter, rect, section);
     paintGroup(painter, rect, section);
 }
 
-void CarHeadings::paintWords(QPainter *painter, const QRect &rect, int section) const
+void GroupHeadings::paintWords(QPainter *painter, const QRect &rect, int section) const
 {
     const Theme &theme = Theme::of(this);
     painter->fillRect(rect, theme.head);
