@@ -1,27 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/model/carcsv.h"
 
+#include "cars/model/carrows.h"
 #include "cars/model/carwords.h"
 #include "shell/core/csvtext.h"
 
 #include <QRegularExpression>
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The words by which a heading names a column of a grid, the surest first.
-struct Named {
-    std::size_t column;
-    QStringList words;
-};
+using Names = CsvColumns::Names;
 
-const QList<Named> &historyNames()
+/// The words by which a heading names a column of a grid, the surest first.
+const QList<Names> &historyNames()
 {
-    static const QList<Named> names{
+    static const QList<Names> names{
         {1, {u"date"_s, u"datum"_s, u"day"_s}},
         {0, {u"mileage"_s, u"odometer"_s, u"kilometer"_s, u"kilometre"_s, u"miles"_s, u"km"_s, u"reading"_s}},
         {3, {u"cost"_s, u"price"_s, u"amount"_s, u"total"_s, u"paid"_s}},
@@ -31,9 +28,9 @@ const QList<Named> &historyNames()
     return names;
 }
 
-const QList<Named> &fuelNames()
+const QList<Names> &fuelNames()
 {
-    static const QList<Named> names{
+    static const QList<Names> names{
         {0, {u"date"_s, u"datum"_s, u"day"_s}},
         {1, {u"previous"_s, u"last reading"_s, u"start"_s}},
         {5, {u"per gallon"_s, u"per liter"_s, u"per litre"_s, u"mpg"_s, u"km/l"_s, u"economy"_s}},
@@ -42,16 +39,6 @@ const QList<Named> &fuelNames()
         {6, {u"cost"_s, u"total"_s, u"paid"_s, u"amount"_s}},
         {4, {u"used"_s, u"gallons"_s, u"liters"_s, u"litres"_s, u"volume"_s, u"quantity"_s, u"fuel"_s}}};
     return names;
-}
-
-std::size_t columnCount(CarPart part)
-{
-    return part == CarPart::Fuel ? fuelColumns.size() : historyColumns.size();
-}
-
-qsizetype dateColumn(CarPart part)
-{
-    return part == CarPart::Fuel ? 0 : 1;
 }
 
 template <typename Row, std::size_t count, typename Headings>
@@ -66,27 +53,6 @@ QByteArray file(const QList<Row> &rows, const std::array<QString Row::*, count> 
         text += CsvText::line(cells);
     }
     return CsvText::file(text);
-}
-
-bool hasDigit(const QStringList &cells)
-{
-    return std::ranges::any_of(cells.join(QString()), [](QChar character) { return character.isDigit(); });
-}
-
-QList<int> namedBy(const QStringList &heading, CarPart part, DistanceUnit unit)
-{
-    QList<int> places(qsizetype(columnCount(part)), -1);
-    for (const Named &named : part == CarPart::Fuel ? fuelNames() : historyNames()) {
-        int &place = places[qsizetype(named.column)];
-        for (const QString &word : named.words) {
-            for (int i = 0; place < 0 && i < int(heading.size()); ++i) {
-                if (!places.contains(i) && !CarCsv::isInOtherUnit(heading[i], unit) &&
-                    heading[i].contains(word, Qt::CaseInsensitive))
-                    place = i;
-            }
-        }
-    }
-    return places;
 }
 
 } // namespace
@@ -119,27 +85,10 @@ bool CarCsv::isInOtherUnit(const QString &heading, DistanceUnit unit)
     return isInMiles != heading.contains(kilometers) && isInMiles != (unit == DistanceUnit::Miles);
 }
 
-CarCsv::Columns CarCsv::Columns::find(const QList<QStringList> &lines, CarPart part, DistanceUnit unit)
+CsvColumns::Wanted CarCsv::columns(CarPart part, DistanceUnit unit)
 {
-    for (int i = 0; i < int(lines.size()); ++i) {
-        Columns columns{namedBy(lines[i], part, unit), i};
-        if (columns.isComplete() && std::ranges::count(columns.places, -1) + 2 <= columns.places.size())
-            return columns;
-    }
-    // Names in another language are names all the same: somebody will say what they mean.
-    if (lines.size() > 1 && !hasDigit(lines[0]) && hasDigit(lines[1]))
-        return {namedBy(lines[0], part, unit), 0};
-    Columns columns;
-    const auto count = qsizetype(columnCount(part));
-    const bool fits = !lines.isEmpty() && lines.first().size() == count;
-    for (int i = 0; i < int(count); ++i)
-        columns.places.append(fits ? i : -1);
-    return columns;
-}
-
-bool CarCsv::Columns::isComplete() const
-{
-    const CarPart part =
-        places.size() == qsizetype(fuelColumns.size()) ? CarPart::Fuel : CarPart::Maintenance;
-    return !places.isEmpty() && places[dateColumn(part)] >= 0;
+    return {.count = CarRows::columnCount(part),
+            .names = part == CarPart::Fuel ? fuelNames() : historyNames(),
+            .needed = CarRows::dateColumn(part),
+            .isOther = [unit](const QString &heading) { return isInOtherUnit(heading, unit); }};
 }

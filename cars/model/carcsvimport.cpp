@@ -2,6 +2,8 @@
 #include "cars/model/carcsvimport.h"
 
 #include "cars/model/carnumbers.h"
+#include "cars/model/carrows.h"
+#include "cars/model/csvlines.h"
 #include "cars/model/fuelfigures.h"
 #include "shell/core/dates.h"
 
@@ -13,14 +15,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int sampleLines = 200;
 constexpr int linesAStep = 50;
 constexpr qsizetype longestText = 400;
 constexpr int longestCurrency = 3;
-constexpr qsizetype mostColumns = 40;
-constexpr qsizetype longestName = 30;
-constexpr std::size_t historyDate = 1;
-constexpr std::size_t historyDescription = 2;
+constexpr int historyDate = 1;
+constexpr int historyDescription = 2;
 
 template <typename Row, std::size_t count>
 Row rowOf(const QStringList &cells, const std::array<QString Row::*, count> &columns)
@@ -59,8 +58,9 @@ CarCsvImport::CarCsvImport(const QByteArray &bytes, CarPart part, const CarRecor
     , m_car(car)
     , m_style(style)
     , m_today(today)
+    , m_columns(m_file, CarCsv::columns(part, car.sheet.unit))
 {
-    look();
+    guessForms();
     startOver();
 }
 
@@ -79,95 +79,51 @@ void CarCsvImport::startOver()
     }
 }
 
-/// Finds out from the first lines what the columns are.
-void CarCsvImport::look()
-{
-    QList<int> numbers;
-    CsvFile::Line line;
-    while (m_sample.size() < sampleLines && m_file.next(line)) {
-        m_sample.append(line.cells);
-        numbers.append(line.number);
-    }
-    m_columns = CarCsv::Columns::find(m_sample, m_part, m_car.sheet.unit);
-    m_headingNumber = m_columns.headingLine < 0 ? 0 : numbers[m_columns.headingLine];
-    guessForms();
-}
-
 /// How the amounts and the dates are written.
 void CarCsvImport::guessForms()
 {
     QStringList dates;
     QStringList amounts;
-    for (const QStringList &cells : std::as_const(m_sample)) {
-        for (std::size_t column = 0; column < std::size_t(m_columns.places.size()); ++column) {
-            const int place = m_columns.places[qsizetype(column)];
-            if (place < 0)
-                continue;
-            // Readings have no decimals, but thousands that look like them.
-            const bool isAmount = isNumber(column) && (m_part == CarPart::Fuel ? column > 3 : column == 3);
-            if (isAmount)
-                amounts << cells.value(place);
-            else if (!isNumber(column))
-                dates << cells.value(place);
-        }
+    for (int column = 0; column < m_columns.count(); ++column) {
+        // Readings have no decimals, but thousands that look like them.
+        const bool isAmount = isNumber(column) && (m_part == CarPart::Fuel ? column > 3 : column == 3);
+        if (isAmount)
+            amounts << m_columns.sample(column);
+        else if (!isNumber(column))
+            dates << m_columns.sample(column);
     }
     m_decimal = CsvCells::decimalSign(amounts);
     m_order = CsvCells::dateOrder(dates, m_style);
 }
 
-QStringList CarCsvImport::fileColumns() const
-{
-    const QStringList heading = m_sample.value(m_columns.headingLine);
-    qsizetype count = 0;
-    for (const QStringList &cells : m_sample)
-        count = std::max(count, cells.size());
-    QStringList names;
-    for (qsizetype i = 0; i < std::min(count, mostColumns); ++i) {
-        const QString name = heading.value(i).simplified();
-        names << (name.isEmpty() ? u"Column %1"_s.arg(i + 1) : name.left(longestName));
-    }
-    return names;
-}
-
-QString CarCsvImport::example(int place) const
-{
-    for (int i = m_columns.headingLine + 1; i < int(m_sample.size()); ++i) {
-        if (const QString cell = m_sample[i].value(place).simplified(); !cell.isEmpty())
-            return cell.size() > longestName ? QString(cell.left(longestName) + u'\u2026') : cell;
-    }
-    return {};
-}
-
 void CarCsvImport::setPlace(int column, int place)
 {
-    for (int &other : m_columns.places) {
-        if (other == place)
-            other = -1;
-    }
-    m_columns.places[column] = place;
+    m_columns.setPlace(column, place);
     guessForms();
     startOver();
 }
 
 QStringList CarCsvImport::notUsed() const
 {
-    const QStringList names = fileColumns();
-    QStringList left;
-    for (int place = 0; place < int(names.size()); ++place) {
-        if (!m_columns.places.contains(place) && !example(place).isEmpty())
-            left << (CarCsv::isInOtherUnit(names[place], m_car.sheet.unit)
-                         ? names[place] + u" (another unit)"_s
-                         : names[place]);
+    QStringList names = m_columns.notUsed();
+    for (QString &name : names) {
+        if (CarCsv::isInOtherUnit(name, m_car.sheet.unit))
+            name += u" (another unit)"_s;
     }
-    return left;
+    return names;
 }
 
-bool CarCsvImport::isNumber(std::size_t column) const
+QStringList CarCsvImport::headings() const
+{
+    return CarRows::headings(m_part, m_car.sheet.unit);
+}
+
+bool CarCsvImport::isNumber(int column) const
 {
     return m_part == CarPart::Fuel ? column != 0 : column != historyDate && column != historyDescription;
 }
 
-bool CarCsvImport::isReading(std::size_t column) const
+bool CarCsvImport::isReading(int column) const
 {
     return m_part == CarPart::Fuel ? column == 1 || column == 2 : column == 0;
 }
@@ -178,7 +134,7 @@ bool CarCsvImport::step()
     for (int i = 0; i < linesAStep; ++i) {
         if (!m_file.next(line))
             return false;
-        if (line.number == m_headingNumber)
+        if (line.number == m_columns.headingNumber())
             continue;
         m_lines.push_back(read(line));
         sort(m_lines.back());
@@ -189,10 +145,8 @@ bool CarCsvImport::step()
 CarCsvLine CarCsvImport::read(const CsvFile::Line &line) const
 {
     CarCsvLine read{.number = line.number, .cells = {}, .date = {}, .problem = {}};
-    for (std::size_t column = 0; column < std::size_t(m_columns.places.size()); ++column) {
-        const int place = m_columns.places[qsizetype(column)];
-        read.cells << readCell(read, column, place < 0 ? QString() : line.cells.value(place));
-    }
+    for (int column = 0; column < m_columns.count(); ++column)
+        read.cells << readCell(read, column, m_columns.cell(line.cells, column));
     read.isBare = isBare(read.cells);
     if (!line.isClosed)
         read.problem = u"a quote has no end"_s;
@@ -211,7 +165,7 @@ CarCsvLine CarCsvImport::read(const CsvFile::Line &line) const
 bool CarCsvImport::isBare(const QStringList &cells) const
 {
     for (int column = 0; column < int(cells.size()); ++column) {
-        const bool tells = m_part == CarPart::Fuel ? column > 2 : column >= int(historyDescription);
+        const bool tells = m_part == CarPart::Fuel ? column > 2 : column >= historyDescription;
         if (tells && !cells[column].trimmed().isEmpty())
             return false;
     }
@@ -219,7 +173,7 @@ bool CarCsvImport::isBare(const QStringList &cells) const
 }
 
 /// The cell as it will be stored; what is wrong with it is put into `line`.
-QString CarCsvImport::readCell(CarCsvLine &line, std::size_t column, const QString &text) const
+QString CarCsvImport::readCell(CarCsvLine &line, int column, const QString &text) const
 {
     const bool isDate = column == (m_part == CarPart::Fuel ? 0 : historyDate);
     if (isDate) {
@@ -263,7 +217,7 @@ QString CarCsvImport::number(const QString &text) const
 QString CarCsvImport::keyOf(const QStringList &cells) const
 {
     const bool isFuel = m_part == CarPart::Fuel;
-    const QString date = cells[qsizetype(isFuel ? 0 : historyDate)];
+    const QString date = cells[isFuel ? 0 : historyDate];
     const QDate day = CarNumbers::date(date, m_style).value_or(QDate());
     const auto figure = [&cells](qsizetype column) {
         const auto number = CarNumbers::number(cells[column]);
@@ -293,6 +247,30 @@ void CarCsvImport::sort(CarCsvLine &line)
     m_there.insert(key);
     line.isChosen = line.state == CarCsvLine::Ready && !line.isBare;
     m_chosen += line.isChosen ? 1 : 0;
+}
+
+QString CarCsvImport::whatBecomesOf(std::size_t at) const
+{
+    const CarCsvLine &line = m_lines[at];
+    switch (line.state) {
+    case CarCsvLine::Ready:
+        return line.isChosen ? u"Will be taken"_s
+               : line.isBare ? CsvLines::nothingDone(m_part)
+                             : u"Left out"_s;
+    case CarCsvLine::Duplicate:
+        return line.isChosen ? u"Will be taken again"_s : u"Is there already"_s;
+    case CarCsvLine::Full:
+        return u"No room for it"_s;
+    case CarCsvLine::NotRead:
+        return u"Not read: "_s + line.problem;
+    }
+    Q_UNREACHABLE();
+}
+
+bool CarCsvImport::mayBeTaken(std::size_t line) const
+{
+    const CarCsvLine::State state = m_lines[line].state;
+    return state == CarCsvLine::Ready || state == CarCsvLine::Duplicate;
 }
 
 void CarCsvImport::setChosen(std::size_t line, bool isChosen)

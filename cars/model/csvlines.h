@@ -38,16 +38,6 @@ inline QString nothingToExport(CarPart part)
     return part == CarPart::Fuel ? u"There is no fill-up to export"_s : u"There is no entry to export"_s;
 }
 
-inline QString cannotRead(const QString &file)
-{
-    return file + u" cannot be read"_s;
-}
-
-inline QString tooLong(const QString &file)
-{
-    return file + u" is too long for such a file"_s;
-}
-
 inline QString noColumns()
 {
     return u"No column with dates was found in this file. Say under Columns which one it is."_s;
@@ -69,40 +59,6 @@ inline QString whatIsTaken(CarPart part, const QStringList &notUsed)
 inline QString nothingDone(CarPart part)
 {
     return part == CarPart::Fuel ? u"Left out: nothing filled in"_s : u"Left out: nothing was done"_s;
-}
-
-inline QString notInTheFile()
-{
-    return u"Not in the file"_s;
-}
-
-/// "Betrag (12,50)"
-inline QString withExample(const QString &column, const QString &example)
-{
-    return example.isEmpty() ? column : QString(column + u" ("_s + example + u')');
-}
-
-/// "Mileage: km"
-inline QString columnIs(const QString &heading, const QString &inFile)
-{
-    return heading + u": "_s + inFile;
-}
-
-/// "12 of 14 lines will be taken"
-inline QString toBeTaken(int chosen, std::size_t lines)
-{
-    return QString::number(chosen) + u" of "_s + QString::number(lines) +
-           (lines == 1 ? u" line will be taken"_s : u" lines will be taken"_s);
-}
-
-inline QString isBeingRead()
-{
-    return u"The file is still being read"_s;
-}
-
-inline QString nothingToTake()
-{
-    return u"No line is ticked"_s;
 }
 
 inline QString broughtIn(CarPart part, int count)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cars/model/carcsvimport.h"
+#include "shell/core/csvcolumns.h"
 #include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -138,7 +139,7 @@ private slots:
         QVERIFY(!CarCsv::isInOtherUnit(u"Mileage"_s, DistanceUnit::Kilometers));
         QVERIFY(import.lines()[0].isBare);
         QCOMPARE(import.chosenCount(), 0);
-        QCOMPARE(import.example(2), u"12,50"_s);
+        QCOMPARE(import.columns()->example(2), u"12,50"_s);
         import.setPlace(0, 4);
         import.setPlace(2, 1);
         import.setPlace(3, 2);
@@ -151,7 +152,7 @@ private slots:
         // What a column was before, it is no more.
         import.setPlace(0, 0);
         while (import.step()) {}
-        QCOMPARE(import.placeOf(1), -1);
+        QCOMPARE(import.columns()->placeOf(1), -1);
         QVERIFY(!import.isReadable());
         QCOMPARE(import.lines()[0].problem, u"no date"_s);
     }
@@ -160,7 +161,7 @@ private slots:
     {
         CarCsvImport import = importOf("Tires,01/02/2026\n", CarPart::Repairs);
         QVERIFY(!import.isReadable());
-        QCOMPARE(import.fileColumns(), QStringList({u"Column 1"_s, u"Column 2"_s}));
+        QCOMPARE(import.columns()->fileNames(), QStringList({u"Column 1"_s, u"Column 2"_s}));
         import.setPlace(1, 1);
         import.setPlace(2, 0);
         while (import.step()) {}
@@ -171,8 +172,8 @@ private slots:
     {
         const CarCsvImport import =
             importOf("Tag;Arbeit;Betrag\n02.01.2026;Reifen;12,50\n", CarPart::Repairs);
-        QCOMPARE(import.fileColumns(), QStringList({u"Tag"_s, u"Arbeit"_s, u"Betrag"_s}));
-        QCOMPARE(import.notUsed(), import.fileColumns());
+        QCOMPARE(import.columns()->fileNames(), QStringList({u"Tag"_s, u"Arbeit"_s, u"Betrag"_s}));
+        QCOMPARE(import.notUsed(), import.columns()->fileNames());
         QCOMPARE(import.lines().size(), 1);
     }
 
