@@ -180,6 +180,34 @@ WeightCsvLine WeightCsvImport::read(const CsvFile::Line &line) const
     return found;
 }
 
+QStringList WeightCsvImport::headings() const
+{
+    return {u"Date"_s, u"Weight"_s};
+}
+
+QString WeightCsvImport::cell(std::size_t line, int column) const
+{
+    return column == 0 ? m_lines[line].date : m_lines[line].weight;
+}
+
+QString WeightCsvImport::whatBecomesOf(std::size_t line) const
+{
+    switch (m_lines[line].state) {
+    case WeightCsvLine::Ready:
+        return u"Will be taken"_s;
+    case WeightCsvLine::Duplicate:
+        return u"Is there already"_s;
+    case WeightCsvLine::NotRead:
+        return u"Not read: "_s + m_lines[line].problem;
+    }
+    Q_UNREACHABLE();
+}
+
+bool WeightCsvImport::isIn(std::size_t line, int filter) const
+{
+    return filter <= 0 || int(m_lines[line].state) == filter - 1;
+}
+
 int WeightCsvImport::count(WeightCsvLine::State state) const
 {
     return int(std::ranges::count(m_lines, state, &WeightCsvLine::state));

@@ -3,6 +3,7 @@
 
 #include "shell/core/csvcells.h"
 #include "shell/core/csvfile.h"
+#include "shell/core/incomingfile.h"
 #include "weight/model/weighttable.h"
 
 #include <QDate>
@@ -39,16 +40,30 @@ struct WeightCsvLine {
 
 /// Brings the dates and weights of a file of comma-separated values into a table: reads it some lines at a
 /// time, and recognises what is there already.
-class WeightCsvImport
+class WeightCsvImport final : public IncomingFile
 {
 public:
     WeightCsvImport(const QByteArray &bytes, const WeightTable &weighIns, DateStyle style, QDate today);
 
-    /// Reads some lines. False when nothing is left to do.
-    bool step();
-
     /// Whether a column of dates and one of weights were found.
     bool isReadable() const { return m_dateColumn >= 0 && m_weightColumn >= 0; }
+
+    bool step() override;
+    double progress() const override { return m_file.progress(); }
+    std::size_t lineCount() const override { return m_lines.size(); }
+    QStringList headings() const override;
+    bool isNumber(int column) const override { return column == 1; }
+    int lineNumber(std::size_t line) const override { return m_lines[line].number; }
+    QString cell(std::size_t line, int column) const override;
+    QString whatBecomesOf(std::size_t line) const override;
+    /// The filters after the first are the states.
+    bool isIn(std::size_t line, int filter) const override;
+    /// What is new is taken, all of it.
+    bool mayBeTaken(std::size_t /*line*/) const override { return false; }
+    bool isChosen(std::size_t line) const override { return m_lines[line].state == WeightCsvLine::Ready; }
+    void setChosen(std::size_t /*line*/, bool /*isChosen*/) override {}
+    int chosenCount() const override { return count(WeightCsvLine::Ready); }
+
     const std::vector<WeightCsvLine> &lines() const { return m_lines; }
     int count(WeightCsvLine::State state) const;
 

@@ -48,16 +48,6 @@ inline QString notExported(const QString &file)
     return file + u" could not be saved there"_s;
 }
 
-inline QString cannotRead(const QString &file)
-{
-    return file + u" cannot be read"_s;
-}
-
-inline QString tooLong(const QString &file)
-{
-    return file + u" is too long for such a file"_s;
-}
-
 inline QString noColumns()
 {
     return u"No columns with dates and weights were found in this file"_s;
@@ -66,11 +56,6 @@ inline QString noColumns()
 inline QString whatIsTaken()
 {
     return u"New dates and weights become weigh-ins, in the order of their days."_s;
-}
-
-inline QString isBeingRead()
-{
-    return u"The file is still being read"_s;
 }
 
 inline QString nothingToTake()

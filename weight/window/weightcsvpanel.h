@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/controls/rowsmodel.h"
-#include "shell/controls/taskpanel.h"
-#include "weight/model/weightcsv.h"
+#include "shell/controls/importpreview.h"
+#include "weight/model/weighttable.h"
 
-#include <memory>
-
-class QComboBox;
-class QTableView;
-class SlicedWork;
+class WeightCsvImport;
 struct Program;
 
-/// The preview of a file of dates and weights that comes into a person's table: what becomes of each of its
-/// lines, and the button that takes those that are new.
-class WeightCsvPanel final : public TaskPanel
+/// The preview of a file of dates and weights that comes into a person's table: those that are new are taken.
+class WeightCsvPanel final : public ImportPreview
 {
     Q_OBJECT
 public:
@@ -24,31 +18,17 @@ public:
     /// cannot be read.
     bool open(const QString &path, const WeightTable &weighIns);
 
-public slots:
-    void leave() override;
-
 signals:
-    /// A quiet line for the status bar.
-    void said(const QString &line);
     /// The lines are to be taken: the table becomes `weighIns`, as `line` says.
     void taken(const WeightTable &weighIns, const QString &line);
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    QString hint() const override;
+    QString whatBecomes() const override;
+    QString nothingToTake() const override;
+    void take() override;
 
 private:
-    void makeView();
-    void shareWidth();
-    void showLines();
-    void refresh();
-    void take();
-
     const Program &m_program;
-    std::unique_ptr<WeightCsvImport> m_import;
-    SlicedWork *m_work;
-    RowsModel<WeightCsvLine> *m_model;
-    QTableView *m_view;
-    QComboBox *m_filter;
-    QLabel *m_hint;
-    QPushButton *m_take = nullptr;
+    const WeightCsvImport *m_import = nullptr;
 };
