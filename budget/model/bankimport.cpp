@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/model/bankimport.h"
 
+#include "shell/core/dates.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -22,14 +24,15 @@ QString cellOf(const QStringList &cells, int column)
 BankImport::BankImport(const QByteArray &bytes, int year, DateStyle style, const Spending &spending)
     : m_file(bytes)
     , m_year(year)
+    , m_style(style)
 {
-    look(style);
+    look();
     know(spending);
     setRules(spending.rules);
 }
 
 /// Finds out from the first lines how the file is written.
-void BankImport::look(DateStyle style)
+void BankImport::look()
 {
     QList<QStringList> sample;
     QList<int> numbers;
@@ -48,7 +51,7 @@ void BankImport::look(DateStyle style)
         dates << cellOf(cells, m_columns.date);
     }
     m_decimal = CsvCells::decimalSign(amounts);
-    m_order = CsvCells::dateOrder(dates, style);
+    m_order = CsvCells::dateOrder(dates, m_style);
     m_hasSigns = m_columns.amount < 0 || m_columns.sign >= 0;
     m_file.rewind();
 }
@@ -207,14 +210,79 @@ void BankImport::setItem(std::size_t at, const QString &item)
     add(line, 1);
 }
 
-/// A line without an item, and one that is no spending, cannot be taken.
+QStringList BankImport::headings() const
+{
+    return {u"Date"_s, u"Amount"_s, u"Text"_s, u"Item"_s};
+}
+
+QString BankImport::cell(std::size_t at, int column) const
+{
+    const BankLine &line = m_lines[at];
+    const bool isRead = line.state != BankLine::NotRead;
+    switch (column) {
+    case Date:
+        return isRead ? Dates::numbers(line.date, m_style) : QString();
+    case Amount:
+        return isRead ? centsText(std::abs(line.cents)) : QString();
+    case Text:
+        return line.text;
+    default:
+        // What does not count belongs to nothing, whatever the rules say of its text.
+        return line.state == BankLine::Incoming || line.state == BankLine::OtherYear ? QString() : line.item;
+    }
+}
+
+QString BankImport::whatBecomesOf(std::size_t at) const
+{
+    const BankLine &line = m_lines[at];
+    switch (line.state) {
+    case BankLine::Ready:
+        return line.isChosen ? u"Will be taken"_s : u"Left out"_s;
+    case BankLine::NoItem:
+        return u"No item yet"_s;
+    case BankLine::Duplicate:
+        return line.isChosen ? u"Will be taken again"_s : u"Is there already"_s;
+    case BankLine::Incoming:
+        return u"Came in"_s;
+    case BankLine::OtherYear:
+        return u"Of "_s + QString::number(line.date.year());
+    case BankLine::NotRead:
+        return u"Not read: "_s + line.problem;
+    }
+    Q_UNREACHABLE();
+}
+
+bool BankImport::isIn(std::size_t at, int filter) const
+{
+    const BankLine &line = m_lines[at];
+    switch (Filter(filter)) {
+    case All:
+        return true;
+    case Chosen:
+        return line.isChosen;
+    case WithoutItem:
+        return line.state == BankLine::NoItem;
+    case ThereAlready:
+        return line.state == BankLine::Duplicate;
+    case NoSpending:
+        return line.state == BankLine::Incoming || line.state == BankLine::OtherYear;
+    case Unread:
+        return line.state == BankLine::NotRead;
+    }
+    Q_UNREACHABLE();
+}
+
+bool BankImport::mayBeTaken(std::size_t at) const
+{
+    const BankLine &line = m_lines[at];
+    return !line.item.isEmpty() && (line.state == BankLine::Ready || line.state == BankLine::Duplicate);
+}
+
 void BankImport::setChosen(std::size_t at, bool isChosen)
 {
     BankLine &line = m_lines[at];
-    const bool isPossible =
-        !line.item.isEmpty() && (line.state == BankLine::Ready || line.state == BankLine::Duplicate);
     add(line, -1);
-    line.isChosen = isChosen && isPossible;
+    line.isChosen = isChosen && mayBeTaken(at);
     add(line, 1);
 }
 

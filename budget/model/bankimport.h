@@ -5,6 +5,7 @@
 #include "budget/model/spending.h"
 #include "shell/core/csvcells.h"
 #include "shell/core/csvfile.h"
+#include "shell/core/incomingfile.h"
 
 #include <QHash>
 #include <QSet>
@@ -37,16 +38,31 @@ struct BankLine {
 
 /// Brings what a bank's file has into the year that is open: reads it a few lines at a time, finds the items
 /// by rules, and recognises what is there already.
-class BankImport
+class BankImport final : public IncomingFile
 {
 public:
     /// `spending` is what is there already.
     BankImport(const QByteArray &bytes, int year, DateStyle style, const Spending &spending);
 
-    /// Reads or sorts some lines. False when nothing is left to do.
-    bool step();
-    /// From 0 to 1.
-    double progress() const;
+    enum Column { Date, Amount, Text, Item };
+    /// What the preview can show of it.
+    enum Filter { All, Chosen, WithoutItem, ThereAlready, NoSpending, Unread };
+
+    /// Reads or sorts some lines.
+    bool step() override;
+    double progress() const override;
+    std::size_t lineCount() const override { return m_lines.size(); }
+    QStringList headings() const override;
+    bool isNumber(int column) const override { return column == Amount; }
+    int lineNumber(std::size_t line) const override { return m_lines[line].number; }
+    QString cell(std::size_t line, int column) const override;
+    QString whatBecomesOf(std::size_t line) const override;
+    bool isIn(std::size_t line, int filter) const override;
+    /// When it is spending and has an item.
+    bool mayBeTaken(std::size_t line) const override;
+    bool isChosen(std::size_t line) const override { return m_lines[line].isChosen; }
+    void setChosen(std::size_t line, bool isChosen) override;
+    int chosenCount() const override { return m_chosen; }
 
     const std::vector<BankLine> &lines() const { return m_lines; }
     /// Whether all amounts count as spent, since none has a minus.
@@ -58,10 +74,8 @@ public:
     /// Sorts all lines anew by `rules`, of which the first that fits counts: call `step` then.
     void setRules(const QList<ImportRule> &rules);
     void setItem(std::size_t line, const QString &item);
-    void setChosen(std::size_t line, bool isChosen);
 
     int count(BankLine::State state) const { return m_counts[std::size_t(state)]; }
-    int chosenCount() const { return m_chosen; }
     qint64 chosenCents() const { return m_chosenCents; }
 
     /// What the chosen lines add.
@@ -79,7 +93,7 @@ private:
         }
     };
 
-    void look(DateStyle style);
+    void look();
     void know(const Spending &spending);
     BankLine read(const CsvFile::Line &line) const;
     std::optional<qint64> amountOf(const CsvFile::Line &line) const;
@@ -90,6 +104,7 @@ private:
 
     CsvFile m_file;
     int m_year;
+    DateStyle m_style;
     BankColumns m_columns;
     QChar m_decimal = u'.';
     CsvCells::DateOrder m_order = CsvCells::DateOrder::DayFirst;

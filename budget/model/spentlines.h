@@ -115,11 +115,6 @@ inline QString bankFilter()
     return u"Bank files (*.csv *.txt *.tsv);;All files (*)"_s;
 }
 
-inline QString cannotRead(const QString &file)
-{
-    return file + u" cannot be read"_s;
-}
-
 inline QString tooLong(const QString &file)
 {
     return file + u" is too long for a bank's file"_s;
@@ -150,11 +145,6 @@ inline QString broughtIn(int lines, qint64 cents)
 inline QString nothingToTake()
 {
     return u"No line can be taken yet: say by a rule what the texts belong to"_s;
-}
-
-inline QString isBeingRead()
-{
-    return u"The file is still being read"_s;
 }
 
 inline QString noRules()

@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budget/window/importpanel.h"
 
+#include "budget/model/bankimport.h"
 #include "budget/model/spentlines.h"
-#include "budget/window/importmodel.h"
 #include "budget/window/sheetmodel.h"
 #include "budget/window/spentyear.h"
-#include "shell/controls/listrowdelegate.h"
+#include "shell/controls/importtable.h"
 #include "shell/controls/pastefilter.h"
-#include "shell/controls/titleline.h"
-#include "shell/core/slicedwork.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 
 #include <QComboBox>
-#include <QFile>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,8 +26,6 @@ namespace {
 
 /// What the rows keep free at the edges of a column.
 constexpr int inset = 8;
-constexpr qint64 mostBytes = qint64(64) * 1024 * 1024;
-constexpr int percent = 100;
 
 /// What a rule about lines like this one would look for: the words before the first number.
 QString likelyRule(const QString &text)
@@ -46,70 +43,43 @@ QString likelyRule(const QString &text)
 } // namespace
 
 ImportPanel::ImportPanel(const Program &program, SpentYear &year, QWidget *parent)
-    : TaskPanel(u"importPanel"_s, {}, parent)
+    : ImportPreview({.name = u"import"_s,
+                     .take = u"&Take These Amounts"_s,
+                     .lines = u"Lines of the bank's file"_s,
+                     .filters = {u"All lines"_s, u"To be taken"_s, u"Without an item"_s, u"There already"_s,
+                                 u"No spending"_s, u"Not read"_s}},
+                    parent)
     , m_program(program)
     , m_year(year)
-    , m_work(new SlicedWork(this))
-    , m_model(new ImportModel(program.state.dateStyle, this))
-    , m_filter(named(new QComboBox, u"importFilter"_s))
-    , m_hint(named(makeQuietLabel({}, this), u"importHint"_s))
-    , m_view(named(new QTableView(this), u"importList"_s))
+    , m_rules(addButton(u"importRules"_s, u"Rule&s..."_s, ButtonKind::Plain, Side::Left))
 {
-    m_filter->addItems({u"All lines"_s, u"To be taken"_s, u"Without an item"_s, u"There already"_s,
-                        u"No spending"_s, u"Not read"_s});
-    m_filter->setAccessibleName(u"Which lines are shown"_s);
-    titleLine().addAtRight(m_filter);
-    makeView();
-    auto *work = new QWidget(this);
-    auto *rows = new QVBoxLayout(work);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(12);
-    rows->addWidget(makeForm());
-    rows->addWidget(m_hint);
-    rows->addWidget(new WholeRows(m_view), 1);
-    setWork(work);
-    makeButtons();
-    setFocusProxy(m_view);
-    connect(m_filter, &QComboBox::currentIndexChanged, this,
-            [this](int filter) { m_model->setFilter(ImportModel::Filter(filter)); });
-    connect(m_model, &ImportModel::chosenChanged, this, &ImportPanel::refresh);
-    connect(m_work, &SlicedWork::progressed, this,
-            [this] { emit progressed(int(m_import->progress() * percent), percent); });
-    connect(m_work, &SlicedWork::finished, this, &ImportPanel::finish);
+    addForm(makeForm());
+    view().horizontalHeader()->setStretchLastSection(false);
+    connect(m_rules, &QPushButton::clicked, this, &ImportPanel::openRules);
+    connect(view().selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ImportPanel::follow);
 }
 
-void ImportPanel::makeView()
-{
-    m_view->setModel(m_model);
-    setGridRows(m_view);
-    m_view->setAccessibleName(u"Lines of the bank's file"_s);
-    const QFontMetrics body(TypeScale::body());
-    QHeaderView *head = m_view->horizontalHeader();
-    head->setStretchLastSection(false);
-    // The text keeps as much room as it can have.
-    const auto setWidth = [&](int column, const QString &longest, int around) {
-        m_view->setColumnWidth(column, body.horizontalAdvance(longest) + around);
-    };
-    setWidth(ImportModel::Number, u"100000"_s, 5 * inset);
-    setWidth(ImportModel::Date, u"28/11/2026"_s, 2 * inset);
-    setWidth(ImportModel::Amount, u"99999.99"_s, 2 * inset);
-    setWidth(ImportModel::Item, u"Building work"_s, 2 * inset);
-    setWidth(ImportModel::What, u"Not read: no amount"_s, 3 * inset);
-    m_view->installEventFilter(this);
-    m_view->viewport()->installEventFilter(this);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ImportPanel::follow);
-}
-
-/// Lines cannot be told apart without their texts: in a narrow window the columns behind the text are
-/// scrolled to.
+/// The text keeps as much room as it can have. Lines cannot be told apart without it: in a narrow window the
+/// columns behind it are scrolled to.
 void ImportPanel::shareWidth()
 {
+    if (table().columnCount() == 0)
+        return;
+    const QFontMetrics body(TypeScale::body());
     int others = 0;
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        others += column == ImportModel::Text ? 0 : m_view->columnWidth(column);
-    const int least =
-        QFontMetrics(TypeScale::body()).horizontalAdvance(u"Northern Light & Power"_s) + 2 * inset;
-    m_view->setColumnWidth(ImportModel::Text, std::max(least, m_view->viewport()->width() - others));
+    const auto setWidth = [&](int column, const QString &longest, int around) {
+        const int width = body.horizontalAdvance(longest) + around;
+        view().setColumnWidth(column, width);
+        others += width;
+    };
+    constexpr int text = 1 + BankImport::Text; // behind the number of the line
+    setWidth(0, u"100000"_s, 5 * inset);
+    setWidth(1 + BankImport::Date, u"28/11/2026"_s, 2 * inset);
+    setWidth(1 + BankImport::Amount, u"99999.99"_s, 2 * inset);
+    setWidth(1 + BankImport::Item, u"Building work"_s, 2 * inset);
+    setWidth(table().columnCount() - 1, u"Not read: no amount"_s, 3 * inset);
+    const int least = body.horizontalAdvance(u"Northern Light & Power"_s) + 2 * inset;
+    view().setColumnWidth(text, std::max(least, view().viewport()->width() - others));
 }
 
 QWidget *ImportPanel::makeForm()
@@ -134,32 +104,11 @@ QWidget *ImportPanel::makeForm()
     return form;
 }
 
-void ImportPanel::makeButtons()
-{
-    m_rules = addButton(u"importRules"_s, u"Rule&s..."_s, ButtonKind::Plain, Side::Left);
-    m_take = addButton(u"importTake"_s, u"&Take These Amounts"_s, ButtonKind::Main);
-    setLeaveButton(u"importClose"_s, u"C&lose"_s);
-    connect(m_rules, &QPushButton::clicked, this, &ImportPanel::openRules);
-    connect(m_take, &QPushButton::clicked, this, &ImportPanel::take);
-}
-
 bool ImportPanel::open(const QString &path)
 {
-    const QString name = QFileInfo(path).fileName();
-    QFile file(path);
-    if (file.size() > mostBytes) {
-        emit said(SpentLines::tooLong(name));
+    const auto bytes = contents(path);
+    if (!bytes)
         return false;
-    }
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-        emit said(SpentLines::cannotRead(name));
-        return false;
-    }
-    setTitle(name);
-    m_model->show(nullptr);
-    m_import = std::make_unique<BankImport>(file.readAll(), m_year.year(), m_program.state.dateStyle,
-                                            m_year.spending());
-    m_filter->setCurrentIndex(0);
     m_items->clear();
     for (const BudgetSheet::Row &row : m_year.sheet().sheet().rows) {
         const QString item = row.item.trimmed();
@@ -168,49 +117,59 @@ bool ImportPanel::open(const QString &path)
     }
     m_items->setCurrentIndex(-1);
     m_text->clear();
-    work();
+    auto import =
+        std::make_unique<BankImport>(*bytes, m_year.year(), m_program.state.dateStyle, m_year.spending());
+    m_import = import.get();
+    setUnavailable(m_rules, m_import->rules().isEmpty() ? SpentLines::noRules() : QString());
+    read(std::move(import));
     return true;
 }
 
-void ImportPanel::work()
+/// Leads to the first line of which nobody knows the item.
+void ImportPanel::shown()
 {
-    m_model->show(nullptr);
-    m_work->start([this] { return m_import->step(); });
-    refresh();
+    int row = 0;
+    for (int i = table().rowCount() - 1; i >= 0; --i) {
+        if (m_import->lines()[table().line(i)].state == BankLine::NoItem)
+            row = i;
+    }
+    view().selectRow(row);
 }
 
-void ImportPanel::finish()
+QString ImportPanel::hint() const
 {
-    emit progressed(0, 0);
-    m_model->show(m_import.get());
-    refresh();
-    m_view->selectRow(m_model->firstWithoutItem());
+    return m_import->isReadable() ? SpentLines::whatIsSpending(!isReading() && m_import->areAllSpent())
+                                  : SpentLines::noColumns();
 }
 
-void ImportPanel::refresh()
+QString ImportPanel::whatBecomes() const
 {
-    const bool isBusy = m_work->isRunning();
-    m_hint->setText(m_import->isReadable() ? SpentLines::whatIsSpending(!isBusy && m_import->areAllSpent())
-                                           : SpentLines::noColumns());
-    setWords(isBusy ? QString()
-                    : SpentLines::toBeTaken(m_import->chosenCount(), m_import->chosenCents(),
-                                            int(m_import->lines().size())));
-    QString why = m_year.whyReadOnly();
-    if (why.isEmpty() && isBusy)
-        why = SpentLines::isBeingRead();
-    if (why.isEmpty() && m_import->chosenCount() == 0)
-        why = SpentLines::nothingToTake();
-    setUnavailable(m_take, why);
-    setUnavailable(m_rules, m_import->rules().isEmpty() ? SpentLines::noRules() : QString());
+    return SpentLines::toBeTaken(m_import->chosenCount(), m_import->chosenCents(),
+                                 int(m_import->lines().size()));
+}
+
+QString ImportPanel::whyReadOnly() const
+{
+    return m_year.whyReadOnly();
+}
+
+QString ImportPanel::nothingToTake() const
+{
+    return SpentLines::nothingToTake();
+}
+
+QString ImportPanel::tooLong(const QString &name) const
+{
+    return SpentLines::tooLong(name);
 }
 
 /// The boxes offer a rule for the line that is chosen.
 void ImportPanel::follow()
 {
-    const int row = m_view->currentIndex().row();
+    const int row = view().currentIndex().row();
     if (row < 0)
         return;
-    const BankLine &line = m_import->lines()[m_model->line(row)];
+    const BankLine &line = m_import->lines()[table().line(row)];
     const bool isRead = line.state != BankLine::NotRead;
     m_text->setText(isRead ? likelyRule(line.text) : QString());
     m_items->setCurrentIndex(!isRead || line.item.isEmpty() ? -1 : m_items->findText(line.item));
@@ -224,7 +183,7 @@ QString ImportPanel::chosenItem() const
 void ImportPanel::addRule()
 {
     const QString text = m_text->text().simplified();
-    if (text.isEmpty() || chosenItem().isEmpty() || m_work->isRunning()) {
+    if (text.isEmpty() || chosenItem().isEmpty() || isReading()) {
         emit said(SpentLines::ruleNeedsText());
         return;
     }
@@ -239,23 +198,25 @@ void ImportPanel::addRule()
 void ImportPanel::setRules(const QList<ImportRule> &rules)
 {
     m_import->setRules(rules);
-    work();
+    setUnavailable(m_rules, m_import->rules().isEmpty() ? SpentLines::noRules() : QString());
+    goOn();
 }
 
 void ImportPanel::takeLine()
 {
-    const int row = m_view->currentIndex().row();
+    const int row = view().currentIndex().row();
     if (row < 0 || chosenItem().isEmpty()) {
         emit said(SpentLines::ruleNeedsText());
         return;
     }
-    const BankLine::State state = m_import->lines()[m_model->line(row)].state;
+    const BankLine::State state = m_import->lines()[table().line(row)].state;
     if (state == BankLine::Incoming || state == BankLine::OtherYear || state == BankLine::NotRead) {
         emit said(SpentLines::isNoSpending());
         return;
     }
-    m_model->setItem(row, chosenItem());
-    m_view->setFocus();
+    m_import->setItem(table().line(row), chosenItem());
+    table().linesChanged();
+    view().setFocus();
 }
 
 /// Each rule as an entry that takes it away.
@@ -280,16 +241,10 @@ void ImportPanel::take()
     Spending wanted = m_year.spending();
     wanted.amounts += m_import->amounts();
     wanted.rules = m_import->rules();
-    goHome();
+    ImportPreview::leave();
     m_year.change(SpentLines::broughtIn(m_import->chosenCount(), m_import->chosenCents()), wanted);
     if (const QList<SpentAmount> amounts = m_import->amounts(); !amounts.isEmpty())
         emit taken(amounts.first());
-}
-
-void ImportPanel::goHome()
-{
-    m_work->stop();
-    TaskPanel::leave();
 }
 
 /// Items that were chosen line by line would have to be chosen again.
@@ -297,7 +252,7 @@ bool ImportPanel::mayLeave()
 {
     const bool isLost = std::ranges::any_of(
         m_import->lines(), [](const BankLine &line) { return line.isByHand && line.isChosen; });
-    if (!isLost || m_work->isRunning() || !m_year.whyReadOnly().isEmpty())
+    if (!isLost || isReading() || !m_year.whyReadOnly().isEmpty())
         return true;
     const Answer answer =
         m_program.dialogs.ask(this, SpentLines::takeFirst(m_import->chosenCount(), m_import->chosenCents()));
@@ -311,7 +266,7 @@ void ImportPanel::leave()
 {
     if (!mayLeave())
         return;
-    goHome();
+    ImportPreview::leave();
     Spending wanted = m_year.spending();
     wanted.rules = m_import->rules();
     m_year.change(SpentLines::rulesKept(), wanted);
@@ -319,19 +274,12 @@ void ImportPanel::leave()
 
 bool ImportPanel::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_view->viewport() && event->type() == QEvent::Resize)
-        shareWidth();
-    if (watched == m_view && event->type() == QEvent::KeyPress && m_view->currentIndex().isValid()) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Space) {
-            m_model->toggle(m_view->currentIndex().row());
-            return true;
-        }
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            m_text->setFocus();
-            m_text->selectAll();
-            return true;
-        }
-    }
-    return TaskPanel::eventFilter(watched, event);
+    const int key =
+        watched == &view() && event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!isEnter || !view().currentIndex().isValid())
+        return ImportPreview::eventFilter(watched, event);
+    m_text->setFocus();
+    m_text->selectAll();
+    return true;
 }

@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "budget/model/bankimport.h"
-#include "shell/controls/taskpanel.h"
+#include "budget/model/spending.h"
+#include "shell/controls/importpreview.h"
 
-#include <memory>
-
-class ImportModel;
-class QComboBox;
-class QTableView;
-class SlicedWork;
+class BankImport;
 class SpentYear;
 struct Program;
 
-/// The preview of a bank's file: what each of its lines becomes, the rules that say so, and the button that
-/// takes them, in one step.
-class ImportPanel final : public TaskPanel
+/// The preview of a bank's file, with the rules that say what its texts belong to.
+class ImportPanel final : public ImportPreview
 {
     Q_OBJECT
 public:
@@ -28,46 +22,36 @@ public slots:
     void leave() override;
 
 signals:
-    /// A quiet line for the status bar.
-    void said(const QString &line);
-    /// Of the reading; `total` 0: it is over.
-    void progressed(int done, int total);
     /// The amounts were taken, `first` before the others.
     void taken(const SpentAmount &first);
 
 protected:
+    QString hint() const override;
+    QString whatBecomes() const override;
+    QString whyReadOnly() const override;
+    QString nothingToTake() const override;
+    QString tooLong(const QString &name) const override;
+    void shown() override;
+    void take() override;
+    void shareWidth() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QWidget *makeForm();
-    void makeView();
-    void makeButtons();
-    void shareWidth();
-    void work();
-    void finish();
-    void refresh();
     void follow();
     void addRule();
     void takeLine();
     void openRules();
     void setRules(const QList<ImportRule> &rules);
-    void take();
     bool mayLeave();
-    void goHome();
     QString chosenItem() const;
 
     const Program &m_program;
     SpentYear &m_year;
-    std::unique_ptr<BankImport> m_import;
-    SlicedWork *m_work;
-    ImportModel *m_model;
-    QComboBox *m_filter;
-    QLabel *m_hint;
+    BankImport *m_import = nullptr;
     QLineEdit *m_text = nullptr;
     QComboBox *m_items = nullptr;
     QPushButton *m_addRule = nullptr;
     QPushButton *m_thisLine = nullptr;
-    QTableView *m_view;
-    QPushButton *m_rules = nullptr;
-    QPushButton *m_take = nullptr;
+    QPushButton *m_rules;
 };
