@@ -55,7 +55,7 @@ QAction *CarChanges::addDelete(QMenu *options)
 
 void CarChanges::add(const QString &title, const CarChange &change, int slot)
 {
-    m_hands.undo.push(change.step(title, m_desk.program.folder, [this, slot] { m_hands.openList(slot); }));
+    m_hands.undo.push(title, std::make_shared<CarChange>(change), [this, slot] { m_hands.openList(slot); });
     emit said(FrameLines::withTrash(title, change.trashState()));
     m_hands.undo.offer();
 }

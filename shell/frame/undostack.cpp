@@ -69,17 +69,21 @@ void UndoStack::push(UndoStep step)
 
 void UndoStack::push(const QString &title, RecordChange change, std::function<void()> show)
 {
-    if (change.isEmpty())
-        return;
-    const auto shared = std::make_shared<RecordChange>(std::move(change));
+    if (!change.isEmpty())
+        push(title, std::make_shared<RecordChange>(std::move(change)), std::move(show));
+}
+
+void UndoStack::push(const QString &title, const std::shared_ptr<FileChange> &change,
+                     std::function<void()> show)
+{
     // Where somebody else has written since, their work is shown in place of what this window knew.
     const auto shown = [show = std::move(show)](ChangeResult result) {
         if (result != ChangeResult::Refused)
             show();
         return result;
     };
-    push({title, [this, shared, shown] { return shown(shared->undo(m_program.folder)); },
-          [this, shared, shown] { return shown(shared->redo(m_program.folder)); }});
+    push({title, [this, change, shown] { return shown(change->undo(m_program.folder)); },
+          [this, change, shown] { return shown(change->redo(m_program.folder)); }});
 }
 
 void UndoStack::offer()

@@ -35,6 +35,8 @@ public:
     /// The same for a change of files, unless it changed nothing; `show` brings what they hold now to the
     /// screen.
     void push(const QString &title, RecordChange change, std::function<void()> show);
+    /// The same for files of any kind.
+    void push(const QString &title, const std::shared_ptr<FileChange> &change, std::function<void()> show);
     /// Puts "Undo" behind what the status bar says, to be clicked, when the last step says it.
     void offer();
     /// What was typed gave way to what the files hold.

@@ -8,7 +8,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 namespace {
@@ -48,81 +47,27 @@ bool WeightChange::isEmpty() const
     return std::ranges::all_of(m_places, [](const Place &place) { return place.before == place.after; });
 }
 
-bool WeightChange::commit(const DataFolder &folder)
-{
-    return write(folder, &Place::after);
-}
-
-ChangeResult WeightChange::undo(const DataFolder &folder)
-{
-    return exchange(folder, &Place::after, &Place::before);
-}
-
-ChangeResult WeightChange::redo(const DataFolder &folder)
-{
-    return exchange(folder, &Place::before, &Place::after);
-}
-
-UndoStep WeightChange::step(const QString &title, const DataFolder &folder,
-                            const std::function<void()> &show) const
-{
-    const auto change = std::make_shared<WeightChange>(*this);
-    const auto shown = [show](ChangeResult result) {
-        if (result != ChangeResult::Refused)
-            show();
-        return result;
-    };
-    return {title, [=, &folder] { return shown(change->undo(folder)); },
-            [=, &folder] { return shown(change->redo(folder)); }};
-}
-
-ChangeResult WeightChange::exchange(const DataFolder &folder, Content held, Content wanted)
-{
-    // What was refused in the middle is finished first, and it may have been this.
-    if (ChangeSet::isPending(folder) && !ChangeSet::recover(folder))
-        return ChangeResult::Refused;
-    if (std::exchange(m_isBegun, false) && isThere(folder, wanted))
-        return ChangeResult::Done;
-    if (!isThere(folder, held))
-        return ChangeResult::Outdated;
-    if (write(folder, wanted))
-        return ChangeResult::Done;
-    m_isBegun = ChangeSet::isPending(folder);
-    return ChangeResult::Refused;
-}
-
-bool WeightChange::isThere(const DataFolder &folder, Content content) const
+bool WeightChange::isThere(const DataFolder &folder, Side side) const
 {
     return std::ranges::all_of(m_places, [&](const Place &place) {
         std::optional<QByteArray> held;
-        return readInto(held, folder, place.name) && held == place.*content;
+        return readInto(held, folder, place.name) && held == place.on(side);
     });
 }
 
-bool WeightChange::write(const DataFolder &folder, Content wanted)
+bool WeightChange::addTo(ChangeSet &writes, const DataFolder & /*folder*/, Side side) const
 {
     if (m_isUnknown) {
         qCWarning(storageLog) << "Refused to write over a file that cannot be read";
         return false;
     }
-    ChangeSet change(folder);
     for (const Place &place : m_places) {
         if (place.before == place.after)
             continue;
-        if (const std::optional<QByteArray> &content = place.*wanted)
-            change.replace(place.name, *content);
+        if (const std::optional<QByteArray> &content = place.on(side))
+            writes.replace(place.name, *content);
         else
-            change.remove(place.name);
+            writes.remove(place.name);
     }
-    if (m_thrownAway || m_broughtBack) {
-        const bool isDone = wanted == &Place::after;
-        Trash trash(folder);
-        if (const auto &item = isDone ? m_thrownAway : m_broughtBack)
-            trash.put(*item);
-        if (const auto &item = isDone ? m_broughtBack : m_thrownAway)
-            trash.take(*item);
-        trash.addTo(change);
-        m_trashState = trash.state();
-    }
-    return change.commit();
+    return true;
 }

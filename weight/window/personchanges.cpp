@@ -153,7 +153,8 @@ void PersonChanges::saveNewByCommand()
 /// Says what was done, and offers to take it back.
 void PersonChanges::add(const QString &title, const WeightChange &change, const QString &name)
 {
-    m_hands.undo.push(change.step(title, m_desk.program.folder, [this, name] { m_hands.openList(name); }));
+    m_hands.undo.push(title, std::make_shared<WeightChange>(change),
+                      [this, name] { m_hands.openList(name); });
     emit said(FrameLines::withTrash(title, change.trashState()));
     m_hands.undo.offer();
 }
