@@ -23,7 +23,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -76,10 +75,7 @@ ADDBKVIEW::ADDBKVIEW(Program &program, QWidget *parent, Dialler::MakeModem makeM
 
 QWidget *ADDBKVIEW::makeWorkPanel()
 {
-    QWidget *panel = makePanel(u"Panel3D1"_s);
-    auto *layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->addWidget(m_views);
+    QWidget *panel = makePanel(u"Panel3D1"_s, m_views);
     m_views->addHome(m_editor);
     m_views->addHome(m_emptyPage);
     m_views->addPanel(m_picturePanel);

@@ -26,7 +26,6 @@
 #include "shell/frame/workviews.h"
 
 #include <QMenu>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -61,7 +60,7 @@ Budget1::Budget1(Program &program, QWidget *parent)
         new SheetCommands(program, {*m_model, grid(), commands(), [this] { return whyNoSheet(); }}, this);
     m_print = new BudgetPrint(program, this, {*m_model, grid(), *m_spent});
     m_totalsDesk = new TotalsDesk(program, {*m_model, *m_spent, *m_views, *m_print}, this);
-    setWork(makeWorkPanel());
+    setWork(makePanel(u"sheetPanel"_s, m_views));
     makeCommands();
     setViews(m_views);
     connect(m_views, &WorkViews::changed, this, [this] {
@@ -74,15 +73,6 @@ Budget1::Budget1(Program &program, QWidget *parent)
     m_year->load(BudgetFiles::yearOf(clock().today()));
     m_sheet->setFocus();
     commands().refresh();
-}
-
-QWidget *Budget1::makeWorkPanel()
-{
-    QWidget *panel = makePanel(u"sheetPanel"_s);
-    auto *layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->addWidget(m_views);
-    return panel;
 }
 
 /// The tools stand in the order in which their commands are made.

@@ -36,7 +36,6 @@ protected:
     void filesChanged() override;
 
 private:
-    QWidget *makeWorkPanel();
     void makeFoot();
     void makeCommands();
     void addOptionCommands(QMenu *menu);

@@ -32,7 +32,6 @@
 #include "shell/frame/workviews.h"
 
 #include <QMenu>
-#include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -101,10 +100,7 @@ CarDesk AutoMaint::desk()
 
 QWidget *AutoMaint::makeWorkPanel()
 {
-    QWidget *panel = makePanel(u"carPanel"_s);
-    auto *layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->addWidget(m_stack);
+    QWidget *panel = makePanel(u"carPanel"_s, m_stack);
     m_stack->addHome(m_emptyPage);
     m_stack->addPanel(m_done);
     m_stack->addPanel(m_pictures);
@@ -145,9 +141,7 @@ void AutoMaint::makeCommands()
     m_histories->addFiles(utilities);
     addHelpEntry();
     commands().separateTools();
-    for (const Standard tool : {Standard::PanelColor, Standard::Backup})
-        addStandardTool(tool);
-    addStandardTool(Standard::Help, u"mH_tool"_s);
+    addUsualTools();
     makeFoot(remove);
     m_create->addButtons();
     makeListButtons(create, remove);

@@ -24,7 +24,6 @@
 #include "shell/frame/workviews.h"
 
 #include <QMenu>
-#include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -77,10 +76,7 @@ Zcalandar1::Zcalandar1(Program &program, QWidget *parent)
 
 QWidget *Zcalandar1::makeWorkPanel()
 {
-    QWidget *panel = makePanel(u"dayPanel"_s);
-    auto *layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->addWidget(m_views);
+    QWidget *panel = makePanel(u"dayPanel"_s, m_views);
     for (TaskPanel *task : std::initializer_list<TaskPanel *>{m_hits, m_recurrence, m_optionsPanel})
         m_views->stack().addPanel(task);
     return panel;
@@ -100,9 +96,7 @@ void Zcalandar1::makeCommands()
     utilities->addSeparator();
     utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
     addHelpEntry();
-    addStandardTool(Standard::PanelColor);
-    addStandardTool(Standard::Backup);
-    addStandardTool(Standard::Help, u"mH_tool"_s);
+    addUsualTools();
     // The fourteen rows of the day need the height that a second row of tools would take.
     for (const char *name : {"mEPaste_tool", "mECopy", "mH_tool"})
         toolbar().giveWay(findChild<QAction *>(QLatin1StringView(name)));

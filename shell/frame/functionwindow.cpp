@@ -260,6 +260,15 @@ QWidget *FunctionWindow::makePanel(const QString &name)
     return panel;
 }
 
+QWidget *FunctionWindow::makePanel(const QString &name, QWidget *work)
+{
+    QWidget *panel = makePanel(name);
+    auto *rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(1, 1, 1, 1);
+    rows->addWidget(work);
+    return panel;
+}
+
 QAction *FunctionWindow::standard(Standard command)
 {
     return m_standard->action(command);
@@ -270,6 +279,13 @@ void FunctionWindow::addStandardTool(Standard command, const QString &name)
     m_standard->addTool(command, name);
     if (command != Standard::Help) // the menus have them as well, and nobody needs them often
         m_toolbar->giveWay(m_standard->action(command));
+}
+
+void FunctionWindow::addUsualTools()
+{
+    addStandardTool(Standard::PanelColor);
+    addStandardTool(Standard::Backup);
+    addStandardTool(Standard::Help, u"mH_tool"_s);
 }
 
 void FunctionWindow::addUtilitiesMenu()

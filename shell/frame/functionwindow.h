@@ -108,6 +108,8 @@ protected:
     /// The same on the toolbar, with its icon and word; a name makes it a tool of its own. Panel Color and
     /// Backup give way in a narrow window.
     void addStandardTool(Standard command, const QString &name = {});
+    /// The tools that stand behind a window's own: panel colour, backup, help.
+    void addUsualTools();
     /// The "Utilities" menu: backup and restore.
     void addUtilitiesMenu();
     /// "Help" at the end of the menu bar.
@@ -122,6 +124,8 @@ protected:
     void setViews(WorkViews *views);
     /// A panel: rounded, coloured by the user's panel colour, registered with `colors()`.
     QWidget *makePanel(const QString &name);
+    /// The same, filled by `work`.
+    QWidget *makePanel(const QString &name, QWidget *work);
     /// The one toolbar; "Main Menu" stands first in it.
     WindowToolbar &toolbar() const { return *m_toolbar; }
     /// A menu of the menu bar; menu and its action bear `name`.

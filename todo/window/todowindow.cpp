@@ -27,7 +27,6 @@
 
 #include <QListView>
 #include <QMenu>
-#include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -93,10 +92,7 @@ ToDoDesk ToDo1::desk()
 
 QWidget *ToDo1::makeWorkPanel()
 {
-    QWidget *panel = makePanel(u"toDoPanel"_s);
-    auto *layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->addWidget(m_stack);
+    QWidget *panel = makePanel(u"toDoPanel"_s, m_stack);
     m_stack->addHome(m_view);
     return panel;
 }
@@ -121,9 +117,7 @@ void ToDo1::makeCommands()
     utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
     addHelpEntry();
     commands().separateTools();
-    for (const Standard tool : {Standard::PanelColor, Standard::Backup})
-        addStandardTool(tool);
-    addStandardTool(Standard::Help, u"mH_tool"_s);
+    addUsualTools();
     makeButtons();
 }
 

@@ -27,7 +27,6 @@
 #include "weight/window/windowlines.h"
 
 #include <QMenu>
-#include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -81,10 +80,7 @@ WeightDesk WeightTracker::desk()
 
 QWidget *WeightTracker::makeWorkPanel()
 {
-    QWidget *panel = makePanel(u"weightPanel"_s);
-    auto *layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->addWidget(m_stack);
+    QWidget *panel = makePanel(u"weightPanel"_s, m_stack);
     m_stack->addHome(m_emptyPage);
     return panel;
 }
@@ -122,9 +118,7 @@ void WeightTracker::makeCommands()
     m_files->addCommands(utilities);
     addHelpEntry();
     commands().separateTools();
-    for (const Standard tool : {Standard::PanelColor, Standard::Backup})
-        addStandardTool(tool);
-    addStandardTool(Standard::Help, u"mH_tool"_s);
+    addUsualTools();
     makeFoot();
     makeListButtons();
 }
