@@ -8,31 +8,6 @@ namespace CsvLines {
 
 using namespace Qt::Literals::StringLiterals;
 
-inline QString exportTitle()
-{
-    return u"Export to a File"_s;
-}
-
-inline QString importTitle()
-{
-    return u"Bring In a File"_s;
-}
-
-inline QString filter()
-{
-    return u"Comma-separated values (*.csv *.txt *.tsv);;All files (*)"_s;
-}
-
-inline QString exported(const QString &file)
-{
-    return u"Saved: "_s + file;
-}
-
-inline QString notExported(const QString &file)
-{
-    return file + u" could not be saved there"_s;
-}
-
 inline QString nothingToExport(CarPart part)
 {
     return part == CarPart::Fuel ? u"There is no fill-up to export"_s : u"There is no entry to export"_s;

@@ -10,32 +10,18 @@
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
-#include "storage/saving.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QMenu>
-#include <QSettings>
 
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-constexpr auto folderKey = "Windows/AutoMaint/csvFolder"_L1;
-
-/// Where files were taken to or brought in from last.
-QString lastFolder(const QSettings &store)
-{
-    return store.value(folderKey, QDir::homePath()).toString();
-}
-
-} // namespace
-
 CsvDesk::CsvDesk(const CarDesk &desk, std::function<LogView *()> shown, QObject *parent)
     : QObject(parent)
     , m_desk(desk)
     , m_shown(std::move(shown))
+    , m_files(desk.program, desk.window, u"Windows/AutoMaint/csvFolder"_s)
 {}
 
 void CsvDesk::addCommands(QMenu *utilities)
@@ -74,20 +60,13 @@ void CsvDesk::exportRows()
     }
     view->finishEdit();
     const CarRecord &car = m_desk.car.record();
-    const QString folder = lastFolder(m_desk.program.store);
-    const auto path = m_desk.program.dialogs.chooseFileToSave(
-        &m_desk.window, CsvLines::exportTitle(),
-        QDir(folder).filePath(CarCsv::fileName(car.vehicle.name, view->part())), CsvLines::filter());
+    const auto path = m_files.askWhereTo(CarCsv::fileName(car.vehicle.name, view->part()));
     if (!path)
         return;
-    const QFileInfo file(*path);
     const History &history = view->part() == CarPart::Maintenance ? car.maintenance : car.repairs;
     const QByteArray bytes = view->part() == CarPart::Fuel ? CarCsv::text(car.fuel, car.sheet.unit)
                                                            : CarCsv::text(history, car.sheet.unit);
-    const bool isSaved = Saving::replaceFile(DataFolder(file.path()), file.fileName(), bytes);
-    if (isSaved)
-        m_desk.program.store.setValue(folderKey, file.path());
-    emit said(isSaved ? CsvLines::exported(file.fileName()) : CsvLines::notExported(file.fileName()));
+    emit said(m_files.save(*path, bytes));
 }
 
 void CsvDesk::importRows()
@@ -98,8 +77,7 @@ void CsvDesk::importRows()
         return;
     }
     m_from->finishEdit();
-    const auto path = m_desk.program.dialogs.chooseFileToOpen(
-        &m_desk.window, CsvLines::importTitle(), lastFolder(m_desk.program.store), CsvLines::filter());
+    const auto path = m_files.askWhich();
     if (!path)
         return;
     if (!m_panel) {
@@ -114,7 +92,7 @@ void CsvDesk::importRows()
     }
     if (!m_panel->open(*path, m_from->part()))
         return;
-    m_desk.program.store.setValue(folderKey, QFileInfo(*path).path());
+    m_files.keepFolder(*path);
     m_desk.views.open(m_panel);
     m_panel->setFocus();
 }

@@ -3,6 +3,7 @@
 
 #include "cars/model/vehiclefiles.h"
 #include "cars/window/cardesk.h"
+#include "shell/frame/filesoutside.h"
 
 #include <QObject>
 
@@ -36,6 +37,7 @@ private:
 
     CarDesk m_desk;
     std::function<LogView *()> m_shown;
+    FilesOutside m_files;
     CsvPanel *m_panel = nullptr; ///< made when it is first opened
     LogView *m_from = nullptr;   ///< the view over which it stands
 };

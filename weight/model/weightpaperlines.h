@@ -23,31 +23,6 @@ inline QString noPhoto()
     return u"No photo was chosen"_s;
 }
 
-inline QString exportTitle()
-{
-    return u"Export to a File"_s;
-}
-
-inline QString importTitle()
-{
-    return u"Bring In a File"_s;
-}
-
-inline QString filter()
-{
-    return u"Comma-separated values (*.csv *.txt *.tsv);;All files (*)"_s;
-}
-
-inline QString exported(const QString &file)
-{
-    return u"Saved: "_s + file;
-}
-
-inline QString notExported(const QString &file)
-{
-    return file + u" could not be saved there"_s;
-}
-
 inline QString noColumns()
 {
     return u"No columns with dates and weights were found in this file"_s;

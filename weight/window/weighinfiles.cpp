@@ -5,7 +5,6 @@
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
 #include "shell/program/program.h"
-#include "storage/saving.h"
 #include "weight/model/weightcsv.h"
 #include "weight/model/weightpaperlines.h"
 #include "weight/window/openperson.h"
@@ -13,21 +12,15 @@
 #include "weight/window/weightcsvpanel.h"
 #include "weight/window/windowlines.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QMenu>
-#include <QSettings>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-constexpr auto folderKey = "Windows/WeightTracker/csvFolder"_L1;
-} // namespace
 
 WeighInFiles::WeighInFiles(const WeightDesk &desk, PersonViews &views, QObject *parent)
     : QObject(parent)
     , m_desk(desk)
     , m_views(views)
+    , m_files(desk.program, desk.window, u"Windows/WeightTracker/csvFolder"_s)
 {}
 
 void WeighInFiles::addCommands(QMenu *utilities)
@@ -53,28 +46,15 @@ void WeighInFiles::exportRows()
 {
     m_views.finishEdit();
     const WeightSheet &sheet = m_desk.person.sheet();
-    const QString folder = m_desk.program.store.value(folderKey, QDir::homePath()).toString();
-    const auto path = m_desk.program.dialogs.chooseFileToSave(
-        &m_desk.window, WeightPaperLines::exportTitle(),
-        QDir(folder).filePath(WeightCsv::fileName(sheet.field(WeightSheet::Name))),
-        WeightPaperLines::filter());
-    if (!path)
-        return;
-    const QFileInfo file(*path);
-    const bool isSaved =
-        Saving::replaceFile(DataFolder(file.path()), file.fileName(), WeightCsv::text(sheet.weighIns));
-    if (isSaved)
-        m_desk.program.store.setValue(folderKey, file.path());
-    emit said(isSaved ? WeightPaperLines::exported(file.fileName())
-                      : WeightPaperLines::notExported(file.fileName()));
+    const auto path = m_files.askWhereTo(WeightCsv::fileName(sheet.field(WeightSheet::Name)));
+    if (path)
+        emit said(m_files.save(*path, WeightCsv::text(sheet.weighIns)));
 }
 
 void WeighInFiles::importRows()
 {
     m_views.finishEdit();
-    const auto path = m_desk.program.dialogs.chooseFileToOpen(
-        &m_desk.window, WeightPaperLines::importTitle(),
-        m_desk.program.store.value(folderKey, QDir::homePath()).toString(), WeightPaperLines::filter());
+    const auto path = m_files.askWhich();
     if (!path)
         return;
     if (!m_panel) {
@@ -90,7 +70,7 @@ void WeighInFiles::importRows()
     }
     if (!m_panel->open(*path, m_desk.person.sheet().weighIns))
         return;
-    m_desk.program.store.setValue(folderKey, QFileInfo(*path).path());
+    m_files.keepFolder(*path);
     m_desk.window.closePreview();
     m_desk.views.open(m_panel);
     m_panel->setFocus();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/frame/filesoutside.h"
 #include "weight/model/weighttable.h"
 #include "weight/window/weightdesk.h"
 
@@ -34,5 +35,6 @@ private:
 
     WeightDesk m_desk;
     PersonViews &m_views;
+    FilesOutside m_files;
     WeightCsvPanel *m_panel = nullptr; ///< made when it is first opened
 };
