@@ -58,11 +58,11 @@ QVariant CarListModel::data(const QModelIndex &index, int role) const
         return m_pictures.value(vehicle.slot);
     case slotRole:
         return vehicle.slot;
-    case wordsRole:
+    case TwoLineDelegate::wordsRole:
         return sign.words;
-    case shorterRole:
+    case TwoLineDelegate::shorterRole:
         return sign.shorter;
-    case urgencyRole:
+    case TwoLineDelegate::signRole:
         return sign.urgency;
     default:
         return {};

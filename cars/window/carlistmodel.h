@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cars/model/vehicle.h"
+#include "shell/controls/twolinedelegate.h"
 
 #include <QAbstractListModel>
 #include <QHash>
@@ -15,19 +16,14 @@ class CarListModel final : public QAbstractListModel
 public:
     /// What a row says of its car besides the name.
     struct Sign {
-        enum Urgency { None, Due, Overdue };
-
-        Urgency urgency = None;
+        TwoLineDelegate::Sign urgency = TwoLineDelegate::NoSign;
         QString words;   ///< "oil change and 1 more"
         QString shorter; ///< "oil change +1", where there is less room
 
         bool operator==(const Sign &) const = default;
     };
 
-    static constexpr int slotRole = Qt::UserRole;
-    static constexpr int wordsRole = Qt::UserRole + 1;
-    static constexpr int urgencyRole = Qt::UserRole + 2;
-    static constexpr int shorterRole = Qt::UserRole + 3;
+    static constexpr int slotRole = TwoLineDelegate::keyRole;
 
     using QAbstractListModel::QAbstractListModel;
 

@@ -16,10 +16,10 @@ CarListModel::Sign signOf(const QList<CarNeed> &needs)
 {
     const QList<CarNeed> sorted = CarNeeds::byUrgency(needs);
     if (sorted.isEmpty() || !sorted.first().isUrgent())
-        return {CarListModel::Sign::None, CarLines::nothingDue(), {}};
+        return {TwoLineDelegate::NoSign, CarLines::nothingDue(), {}};
     const CarNeed &first = sorted.first();
     const auto urgent = std::ranges::count_if(sorted, &CarNeed::isUrgent);
-    return {first.state == CarNeed::State::Overdue ? CarListModel::Sign::Overdue : CarListModel::Sign::Due,
+    return {first.state == CarNeed::State::Overdue ? TwoLineDelegate::Overdue : TwoLineDelegate::Due,
             CarLines::needAndMore(DueWords::shortName(first), int(urgent) - 1),
             CarLines::needPlus(DueWords::shortName(first), int(urgent) - 1)};
 }
