@@ -1,30 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/model/recurrencerun.h"
 #include "tests/support/plannerdays.h"
+#include "tests/support/recurrences.h"
 #include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 using namespace Qt::Literals::StringLiterals;
+using Recurrences::times;
+using Recurrences::until;
 
 namespace {
-
-Recurrence until(Recurrence::Kind kind, QDate beginning, QDate end, int interval = 1)
-{
-    Recurrence recurrence;
-    recurrence.kind = kind;
-    recurrence.beginning = beginning;
-    recurrence.end = end;
-    recurrence.interval = interval;
-    return recurrence;
-}
-
-Recurrence times(Recurrence::Kind kind, QDate beginning, int occurrences, int interval = 1)
-{
-    Recurrence recurrence = until(kind, beginning, {}, interval);
-    recurrence.end.reset();
-    recurrence.occurrences = occurrences;
-    return recurrence;
-}
 
 RecurrenceRun inserting(const TestProgram &test, const Appointment &appointment, const Recurrence &recurrence)
 {

@@ -1,30 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/recurrence.h"
+#include "tests/support/recurrences.h"
 #include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-Recurrence until(Recurrence::Kind kind, QDate beginning, QDate end, int interval = 1)
-{
-    Recurrence recurrence;
-    recurrence.kind = kind;
-    recurrence.beginning = beginning;
-    recurrence.end = end;
-    recurrence.interval = interval;
-    return recurrence;
-}
-
-Recurrence times(Recurrence::Kind kind, QDate beginning, int occurrences, int interval = 1)
-{
-    Recurrence recurrence = until(kind, beginning, {}, interval);
-    recurrence.end.reset();
-    recurrence.occurrences = occurrences;
-    return recurrence;
-}
-
-} // namespace
+using Recurrences::times;
+using Recurrences::until;
 
 class TestRecurrence : public QObject
 {
