@@ -89,7 +89,7 @@ void CarCsvImport::guessForms()
         const bool isAmount = isNumber(column) && (m_part == CarPart::Fuel ? column > 3 : column == 3);
         if (isAmount)
             amounts << m_columns.sample(column);
-        else if (!isNumber(column))
+        else if (column == CarRows::dateColumn(m_part))
             dates << m_columns.sample(column);
     }
     m_decimal = CsvCells::decimalSign(amounts);

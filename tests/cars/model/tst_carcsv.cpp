@@ -87,6 +87,8 @@ private slots:
               u" 01/02/2026 Tires 30.00"_s},
              {"thousands with points, and no amounts", "Date,Odometer,Work\n01/02/2026,10.000 km,Tires\n",
               u"10000 01/02/2026 Tires "_s},
+             {"a point in what was done", "Date,Odometer,Work\n01/02/2026,10000,5.5 qt of oil\n",
+              u"10000 01/02/2026 5.5 qt of oil "_s},
              {"another unit", "Date,Km,Work\n01/02/2026,10000,Tires\n", u" 01/02/2026 Tires "_s},
              {"no cost", "Date,Odometer,Work\n01/02/2026,10000,Tires\n", u"10000 01/02/2026 Tires "_s},
              {"nothing but a date", "Date\n01/02/2026\n", {}},
