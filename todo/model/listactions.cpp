@@ -77,6 +77,18 @@ QString ListActions::whyNotNamed(const ToDoSheet &sheet, const QString &name, in
     return std::ranges::any_of(sheet.lists(), isTaken) ? ToDoLines::listIsThere(plain) : QString();
 }
 
+QString ListActions::freeName(const ToDoSheet &sheet, const QString &name, const QString &ending)
+{
+    QString free;
+    for (std::size_t number = 1; number <= sheet.lists().size() + 1; ++number) {
+        const QString end = number == 1 ? ending : ending + u' ' + QString::number(number);
+        free = name.left(ToDoList::longestName - end.size()).trimmed() + end;
+        if (whyNotNamed(sheet, free).isEmpty())
+            break;
+    }
+    return free;
+}
+
 Result ListActions::add(const ToDoSheet &sheet, ListKind kind, const QString &name)
 {
     return madeList(sheet, {0, kind, plainName(name)}, {});

@@ -11,6 +11,9 @@ using ToDoActions::Result; ///< its ids are those of lists
 /// Why no list can have that name, in quiet words; empty where it can. `id`: the list that is to have it.
 QString whyNotNamed(const ToDoSheet &sheet, const QString &name, int id = 0);
 
+/// A name that no list has: `name` with `ending`, cut and with a number behind it where it must be.
+QString freeName(const ToDoSheet &sheet, const QString &name, const QString &ending = {});
+
 Result add(const ToDoSheet &sheet, ListKind kind, const QString &name);
 Result rename(const ToDoSheet &sheet, int id, const QString &name);
 Result setKind(const ToDoSheet &sheet, int id, ListKind kind);

@@ -62,9 +62,7 @@ ToDoActions::Result ListTrash::bringBack(const ToDoSheet &sheet, const Trash::It
         return {sheet, {}, {}};
     ToDoList list = deleted.lists().front();
     const int former = list.id;
-    const QString name = list.name;
-    for (int number = 2; !ListActions::whyNotNamed(sheet, list.name).isEmpty() && number < 100; ++number)
-        list.name = u"%1 %2"_s.arg(name).arg(number);
+    list.name = ListActions::freeName(sheet, list.name);
     ToDoSheet wanted = sheet;
     const int id = wanted.addList(list);
     std::vector<ToDoItem> items;

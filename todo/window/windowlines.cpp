@@ -230,8 +230,5 @@ QString ToDoWindowLines::spoken(const ToDoItem &item, QDate today, const DateSty
 
 QString ToDoWindowLines::templateName(const ToDoSheet &sheet, const QString &list)
 {
-    QString name = list + u" template"_s;
-    for (int number = 2; !ListActions::whyNotNamed(sheet, name).isEmpty() && number < 100; ++number)
-        name = list + u" template %1"_s.arg(number);
-    return name;
+    return ListActions::freeName(sheet, list, u" template"_s);
 }

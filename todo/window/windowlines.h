@@ -53,7 +53,7 @@ QString templateName(const ToDoSheet &sheet, const QString &list);
 
 inline QString listSpoken(const QString &name, int count)
 {
-    return count > 0 ? u"%1, %2 to do"_s.arg(name).arg(count) : name;
+    return count > 0 ? u"%1, %2 to do"_s.arg(name, QString::number(count)) : name;
 }
 
 inline QString templateOf(const QString &name)

@@ -268,8 +268,10 @@ PersonFiles::BroughtBack PersonFiles::bringBack(const Trash::Item &item)
     const Trash::Piece &listed = item.pieces.front();
     const QString former = PersonList::decode(listed.bytes).front();
     QString name = former;
-    for (int number = 2; whyNotNew(name) == WeightMessages::nameTaken(name); ++number)
-        name = u"%1 %2"_s.arg(former).arg(number);
+    for (int number = 2; whyNotNew(name) == WeightMessages::nameTaken(name); ++number) {
+        const QString end = u' ' + QString::number(number);
+        name = former.left(longestName - end.size()) + end; // or the file would have no name
+    }
     WeightChange change;
     if (item.pieces.size() > 1 && !whyNotNamed(name))
         change.replace(m_folder, fileName(name), item.pieces[1].bytes);

@@ -379,6 +379,18 @@ private slots:
         QCOMPARE(m_test.bytes(u"Zoë Marsh 2.Fil"_s), before[u"Zoë Marsh.Fil"_s]);
     }
 
+    void bringsBackBesideTheLongestName()
+    {
+        const QString name = u"%1"_s + QString(98, u'x');
+        QVERIFY(m_persons.create(sheetOf(name)));
+        const QByteArray file = m_test.bytes(name + u".Fil"_s);
+        QVERIFY(!file.isEmpty() && m_persons.remove(name, now));
+        QVERIFY(m_persons.create(sheetOf(name)));
+        const PersonFiles::BroughtBack back = m_persons.bringBack(m_persons.deletedPersons(now).front());
+        QCOMPARE(back.name, name.chopped(2) + u" 2"_s);
+        QCOMPARE(m_test.bytes(back.name + u".Fil"_s), file);
+    }
+
     void isOldOrNewAfterEveryFailure_data()
     {
         using Action = bool (*)(PersonFiles &);
