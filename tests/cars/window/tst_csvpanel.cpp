@@ -4,6 +4,7 @@
 #include "shell/look/theme.h"
 #include "tests/support/openwindow.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTableView>
@@ -72,6 +73,45 @@ private slots:
         click("carImportTake");
         QCOMPARE(said(), u"Brought in: 1 entry"_s);
         QCOMPARE(cells("maintenanceList", 0), QStringList({{}, u"01/02/2026"_s, u"Reifen"_s, u"12.50"_s}));
+    }
+
+    void offersTheColumnsAtAHeading()
+    {
+        bringIn("mVMaint", "Datum;Was;Betrag\n02.01.2026;Reifen;12,50\n03.01.2026;;\n");
+        QHeaderView *heading = find<QTableView>("carImportList")->horizontalHeader();
+        const auto pressAt = [heading](int section) {
+            QTest::mouseClick(heading->viewport(), Qt::LeftButton, {},
+                              {heading->sectionViewportPosition(section) + 4, heading->height() / 2});
+        };
+        pressAt(0); // the number of the line is in no file
+        QVERIFY(!QApplication::activePopupWidget());
+        pressAt(3);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QCOMPARE(menu->actions()[2]->text(), u"Was (Reifen)"_s);
+        menu->actions()[2]->trigger();
+        menu->close();
+        QTRY_COMPARE(lines()->rowCount(), 2);
+        QCOMPARE(lines()->headerData(3, Qt::Horizontal, Qt::ToolTipRole), u"Description: Was"_s);
+        QCOMPARE(lines()->index(0, 3).data(), u"Reifen"_s);
+    }
+
+    void takesTheTickedLines()
+    {
+        bringIn("mVMaint",
+                "Date,Mileage,Description,Cost\n2026-01-02,10000,Tires,30.00\n2026-01-03,10100,Wash,5.00\n");
+        auto *list = find<QTableView>("carImportList");
+        list->selectRow(0);
+        QTest::keyClick(list, Qt::Key_Space);
+        QCOMPARE(lines()->index(0, 5).data(), u"Left out"_s);
+        list->selectRow(1);
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY(!isOffered("carImportTake"));
+        QTest::keyClick(list, Qt::Key_Space);
+        click("carImportTake");
+        QCOMPARE(said(), u"Brought in: 1 entry"_s);
+        QCOMPARE(cells("maintenanceList", 0),
+                 QStringList({u"10100"_s, u"01/03/2026"_s, u"Wash"_s, u"5.00"_s}));
     }
 
     /// The sheet's reading follows what comes in, and what goes again.

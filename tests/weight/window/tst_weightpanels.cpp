@@ -105,6 +105,11 @@ private slots:
         const QSignalSpy said(m_window->csv, &WeightCsvPanel::said);
         QVERIFY(!m_window->csv->open(m_test->path(u"nothing.csv"_s), {}));
         QCOMPARE(said[0][0], u"nothing.csv cannot be read"_s);
+        QVERIFY(!m_window->csv->open(m_test->folder.path(), {}));
+        QFile large(m_test->path(u"large.csv"_s));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(qint64(64) * 1024 * 1024 + 1));
+        QVERIFY(!m_window->csv->open(large.fileName(), {}));
+        QCOMPARE(said[2][0], u"large.csv is too long for such a file"_s);
         m_test->setBytes(u"other.csv"_s, "name,phone\nAnne,555\n");
         QVERIFY(m_window->csv->open(m_test->path(u"other.csv"_s), {}));
         m_window->open(m_window->csv);

@@ -132,6 +132,41 @@ private slots:
         QCOMPARE(file(nils), before);
     }
 
+    void takesWeighInsOutAndIn()
+    {
+        open(TestProgram::Household);
+        choose(1);
+        const QString path = m_test->temporary.filePath(u"scales.csv"_s);
+        m_test->dialogs.willChooseFile(m_test->temporary.filePath(u"missing/scales.csv"_s));
+        trigger("mUExcel");
+        QCOMPARE(said(), u"scales.csv could not be saved there"_s);
+        m_test->dialogs.willChooseFile({});
+        trigger("mUExcel");
+        m_test->dialogs.willChooseFile(path);
+        trigger("mUExcel");
+        QCOMPARE(said(), u"Saved: scales.csv"_s);
+        const QByteArray out = contentOf(path);
+        QVERIFY(out.endsWith("2026-08-10,192.2\r\n"));
+        QVERIFY(makeFile(path, out + "2026-08-12,191.9\r\n"));
+        const auto bringIn = [&] {
+            m_test->dialogs.willChooseFile(path);
+            trigger("mUBringIn");
+        };
+        bringIn();
+        QTRY_VERIFY(isOffered("weightImportTake"));
+        click("weightImportTake");
+        QCOMPARE(said(), u"Brought in: 1 weigh-in"_s);
+        QCOMPARE(cells(49), (QStringList{u"08/12/2026"_s, u"191.9"_s, u"-0.3"_s, u"-22.6"_s}));
+        trigger("mEUndo");
+        QCOMPARE(grid()->model()->rowCount(), 49);
+        QVERIFY(!m_window->isModified());
+        // The preview is about this person.
+        bringIn();
+        QTRY_VERIFY(isOffered("weightImportTake"));
+        choose(0);
+        QVERIFY(!find<QWidget>("weightImportPanel")->isVisible());
+    }
+
     void checksWhatIsTypedIntoTheTable_data()
     {
         rows<int, QString, QString, QList<Message>>({
