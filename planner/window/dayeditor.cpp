@@ -101,6 +101,11 @@ void DayEditor::load(QDate date)
     emit loaded(date);
 }
 
+void DayEditor::refreshNotes()
+{
+    m_notes->setDate(m_date);
+}
+
 PlannerDay DayEditor::typed() const
 {
     PlannerDay day = m_form->day();

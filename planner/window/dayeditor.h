@@ -30,6 +30,8 @@ public:
     /// Shows what the file has for `date`; what was typed is dropped.
     void load(QDate date);
     void reload() { load(m_date); }
+    /// What other functions have for the day, read once more.
+    void refreshNotes();
     QDate date() const { return m_date; }
 
     /// What the boxes hold. A text that nobody touched stays as the file has it, even where a box shows it

@@ -216,6 +216,7 @@ void Zcalandar1::connectViews()
             [this](QWidget *view) { m_side->setVisible(view != m_views->month() && view != m_recurrence); });
     connect(&activity(), &ActivityBar::dayBegan, m_side, &PlannerSidePane::showToday);
     connect(&activity(), &ActivityBar::dayBegan, m_views, &PlannerViews::showToday);
+    connect(&program().changes, &ProgramSignals::guardsChanged, this, &Zcalandar1::refreshNotes);
 }
 
 void Zcalandar1::connectWalks()
@@ -379,6 +380,14 @@ void Zcalandar1::refreshFromFiles()
 {
     m_side->refreshMarks();
     m_day->reload();
+}
+
+/// What other functions have for the days goes as soon as the password guards them.
+void Zcalandar1::refreshNotes()
+{
+    m_side->refreshMarks();
+    m_day->refreshNotes();
+    m_views->showToday();
 }
 
 void Zcalandar1::showChanged(QDate date)

@@ -65,6 +65,7 @@ private:
     void setUpdating(bool isUpdating);
     /// Days were written behind the window.
     void refreshFromFiles();
+    void refreshNotes();
     /// The same, after what was undone; a valid date is shown.
     void showChanged(QDate date);
 

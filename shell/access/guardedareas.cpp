@@ -74,6 +74,23 @@ int GuardedAreas::otherWay(int area)
     }
 }
 
+QString GuardedAreas::wayOf(int area)
+{
+    return name(area) == functionName(area) ? u"the menu entry and card"_s : u"the toolbar button"_s;
+}
+
+QString GuardedAreas::level(int area)
+{
+    return area == Area::PasswordKeeper ? u"Sealed"_s : u"Asks for the password; the files stay readable"_s;
+}
+
+QString GuardedAreas::openWay(int area, const ProtectedAreas &areas)
+{
+    const int other = otherWay(area);
+    const bool isOpen = other != Area::None && areas.isProtected(area) && !areas.isProtected(other);
+    return isOpen ? wayOf(other) : QString();
+}
+
 bool GuardedAreas::isOfThisEdition(int area)
 {
     return !ownFunction(area).isEmpty();

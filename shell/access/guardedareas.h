@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/programstate.h"
+
 #include <QString>
 
 /// What the 21 flags of password control guard, by the index of the flag (see `Area` and `ProtectedAreas`).
@@ -15,6 +17,16 @@ QString name(int area);
 
 /// The area that guards the other way into the function behind `area`; `Area::None` where there is one way.
 int otherWay(int area);
+
+/// What the password does for the function: ask for it only, or seal its files.
+QString level(int area);
+
+/// By which way the function still opens without the password: "the toolbar button". Empty while `area` is
+/// not marked in `areas`, has no other way, or that is marked too.
+QString openWay(int area, const ProtectedAreas &areas);
+
+/// The words for the way that `area` guards: "the toolbar button" or "the menu entry and card".
+QString wayOf(int area);
 
 /// Whether this edition opens anything through `area`; the flags of the others are only kept.
 bool isOfThisEdition(int area);

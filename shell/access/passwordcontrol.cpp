@@ -33,6 +33,7 @@ constexpr int passwordPanelWidth = 352;
 constexpr int padding = 24;
 constexpr int scrollBarWidth = 16; // it lies in the padding
 constexpr int otherRows = 4;
+constexpr int levelIndent = 28;
 
 /// The functions of this edition in the order of the list.
 constexpr std::array ownAreas{Area::AddressBook,   Area::AddressBookButton,
@@ -152,9 +153,15 @@ QWidget *Form31::makeMarks()
     rows->addSpacing(12);
     rows->addWidget(makeHeading(u"This program"_s, marks));
     rows->addSpacing(4);
-    for (const int area : ownAreas)
+    for (const int area : ownAreas) {
         rows->addWidget(makeMark(area, marks));
-    rows->addSpacing(16);
+        QLabel *level = named(makeQuietLabel({}, marks), u"level_%1"_s.arg(area));
+        level->setIndent(levelIndent);
+        m_levels[std::size_t(area)] = level;
+        rows->addWidget(level);
+        rows->addSpacing(4);
+    }
+    rows->addSpacing(12);
     m_showOthers = named(new QCheckBox(FrameLines::showOtherEditions(), marks), u"showOthers"_s);
     rows->addWidget(m_showOthers);
     QWidget *others = makeOtherMarks(marks);
@@ -273,6 +280,14 @@ void Form31::loadMarks()
 
 void Form31::marksChanged()
 {
+    const ProtectedAreas areas = shownAreas();
+    for (const int area : ownAreas) {
+        const QString way = GuardedAreas::openWay(area, areas);
+        const QString level = GuardedAreas::level(area);
+        m_levels[std::size_t(area)]->setText(way.isEmpty() ? level
+                                                           : PasswordMessages::stillOpens(level, way));
+        m_marks[std::size_t(area)]->setAccessibleDescription(m_levels[std::size_t(area)]->text());
+    }
     m_unsaved->setVisible(isModified());
     commands().refresh();
 }
@@ -282,10 +297,8 @@ void Form31::offerOtherWay(int area)
     const int other = GuardedAreas::otherWay(area);
     if (other == Area::None || m_marks[std::size_t(other)]->isChecked())
         return;
-    const bool isButton = GuardedAreas::name(other) != GuardedAreas::functionName(other);
-    if (ask(PasswordMessages::markOtherWay(GuardedAreas::functionName(area),
-                                           isButton ? u"the toolbar button"_s
-                                                    : u"the menu entry and card"_s)) == Answer::Yes)
+    if (ask(PasswordMessages::markOtherWay(GuardedAreas::functionName(area), GuardedAreas::wayOf(other))) ==
+        Answer::Yes)
         m_marks[std::size_t(other)]->setChecked(true);
 }
 

@@ -56,6 +56,7 @@ private:
     PasswordPane *m_pane = nullptr;
     IdleChoice *m_idle = nullptr;
     std::array<QCheckBox *, ProtectedAreas::count> m_marks{};
+    std::array<QLabel *, ProtectedAreas::count> m_levels{}; ///< what each mark does; of this edition only
     QCheckBox *m_showOthers = nullptr;
     QLabel *m_unsaved = nullptr;
     QAction *m_saveAction = nullptr;

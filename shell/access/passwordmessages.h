@@ -133,6 +133,12 @@ inline QString marksNeedPassword()
     return QStringLiteral("Set a password first: there is nothing to ask for yet.");
 }
 
+/// Beside a mark whose other way is not marked.
+inline QString stillOpens(const QString &level, const QString &way)
+{
+    return QStringLiteral("%1. Still opens by %2.").arg(level, way);
+}
+
 inline QString nothingToSave()
 {
     return QStringLiteral("No mark was changed.");

@@ -142,7 +142,7 @@ void WindowGuard::unlock(QWidget &asking)
     }
     const QString notice = m_program.gate.takeNotice(m_program);
     if (auto *bar = window ? window->findChild<ActivityBar *>() : nullptr; bar && !notice.isEmpty())
-        bar->say(notice);
+        bar->announce(notice);
 }
 
 bool WindowGuard::askFor(QWidget &asking)

@@ -24,6 +24,7 @@ namespace {
 
 constexpr int barHeight = 32;
 constexpr int activityWidth = 132;
+constexpr int noticeMilliseconds = 15 * 1000;
 
 /// An upright thin line.
 class Rule final : public QWidget
@@ -192,9 +193,24 @@ void ActivityBar::showReadOnly(const QString &reason)
 void ActivityBar::say(const QString &message)
 {
     m_said = message;
-    m_message->setText(message);
+    showMessage();
     m_undo->hide();
     m_way->hide();
+}
+
+void ActivityBar::showMessage()
+{
+    m_message->setText(m_notice.isEmpty() ? m_said : m_notice);
+}
+
+void ActivityBar::announce(const QString &notice)
+{
+    m_notice = notice;
+    showMessage();
+    QTimer::singleShot(noticeMilliseconds, this, [this] {
+        m_notice.clear();
+        showMessage();
+    });
 }
 
 QString ActivityBar::message() const
@@ -264,7 +280,9 @@ bool ActivityBar::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::StatusTip)
         return QStatusBar::eventFilter(watched, event);
     const QString tip = static_cast<QStatusTipEvent *>(event)->tip();
-    m_message->setText(tip.isEmpty() ? m_said : tip);
+    m_message->setText(tip);
+    if (tip.isEmpty())
+        showMessage();
     // What can be clicked belongs to what was said.
     for (QToolButton *link : {m_way, m_undo})
         link->setMaximumWidth(tip.isEmpty() ? QWIDGETSIZE_MAX : 0);

@@ -34,6 +34,9 @@ public:
     /// A quiet line that stays until the next action; it never takes the place of the activity.
     void say(const QString &message);
     QString message() const;
+    /// Says something that no other message takes the place of for a while.
+    void announce(const QString &notice);
+    QString notice() const { return m_notice; }
     /// Puts "Undo" behind the message until another one is said.
     void offerUndo();
     /// The same with a link that leads to what the message tells of.
@@ -68,6 +71,7 @@ protected:
 private:
     QToolButton *makeLink(const QString &name, const QString &text);
     void addToRow(QHBoxLayout &row);
+    void showMessage();
     void waitForNextMinute();
 
     const Clock &m_clock;
@@ -82,6 +86,7 @@ private:
     std::function<void()> m_go; ///< where it leads
     QToolButton *m_undo;
     QToolButton *m_lock;
+    QString m_notice;
     QString m_said; ///< what the message shows when no control explains itself
     QProgressBar *m_progress;
     QPushButton *m_stop;

@@ -98,7 +98,7 @@ void FunctionOpener::openWhenAllowed(Function function, const std::function<bool
 void FunctionOpener::tellWrongAnswers(ActivityBar *bar) const
 {
     if (const QString notice = m_program.gate.takeNotice(m_program); !notice.isEmpty())
-        (bar ? *bar : m_activity).say(notice);
+        (bar ? *bar : m_activity).announce(notice);
 }
 
 void FunctionOpener::press(const TopButtons::TopButton &button) const

@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QStandardPaths>
 
 namespace {
 
@@ -92,7 +93,10 @@ std::optional<QString> QtDialogs::chooseFileToOpen(QWidget *parent, const QStrin
                                                    const QString &folder, const QString &filter)
 {
     const AroundModalBox around(parent);
-    return unlessEmpty(QFileDialog::getOpenFileName(parent, title, folder, filter));
+    // Without one it would open where another function was last.
+    const QString start =
+        folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : folder;
+    return unlessEmpty(QFileDialog::getOpenFileName(parent, title, start, filter));
 }
 
 std::optional<QString> QtDialogs::chooseFolder(QWidget *parent, const QString &title, const QString &preset)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/functions.h"
 #include "shell/access/windowguard.h"
+#include "shell/controls/activitybar.h"
 #include "shell/core/area.h"
 #include "shell/mainmenu/functioncard.h"
 #include "shell/mainmenu/mainmenuwindow.h"
@@ -40,9 +41,9 @@ QString toldOf(QAccessibleInterface *part)
     return told;
 }
 
-QString toldOf(QObject *window)
+QString toldOf(const QObject *window)
 {
-    return toldOf(QAccessible::queryAccessibleInterface(window));
+    return toldOf(QAccessible::queryAccessibleInterface(const_cast<QObject *>(window)));
 }
 
 } // namespace
@@ -243,6 +244,18 @@ private slots:
         QCOMPARE(m_test->dialogs.takeShown().size(), 1);
     }
 
+    void daysOfOthersGoWhenTheyAreGuarded()
+    {
+        m_test->state.protectedAreas = {};
+        const QWidget *planner = open(Function::Planner);
+        emit m_test->changes.placeRequested(Function::Planner, {.date = QDate(2027, 2, 28)});
+        const auto *line = control<QWidget>(*planner, "dayNotes");
+        QVERIFY(line->toolTip().contains("Josephine"_L1));
+        m_test->state.protectedAreas.setFlag(Area::AddressBookButton, u"YES"_s);
+        emit m_test->changes.guardsChanged();
+        QVERIFY(!toldOf(planner->window()).contains("Josephine"_L1));
+    }
+
     void locksWhereTheStatusBarSaysSo()
     {
         QWidget *planner = open(Function::Planner);
@@ -250,7 +263,11 @@ private slots:
         QVERIFY(link->isVisible() && control<QToolButton>(*m_menu, "statusLock")->isVisible());
         link->click();
         QVERIFY(Covering::isCovered(*planner));
+        const QDateTime time = m_test->clock.now();
+        m_test->gate.noteRightAnswer({3, time, time});
         unlock(planner);
+        QCOMPARE(planner->findChild<ActivityBar *>()->notice(),
+                 u"3 wrong answers since Saturday, November 21, 10:24 AM"_s);
         m_test->state.protectedAreas = {};
         emit m_test->changes.guardsChanged();
         QVERIFY(!link->isVisible());

@@ -8,7 +8,9 @@
 #include "tests/support/rows.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QSignalSpy>
 
 #include <memory>
 
@@ -141,6 +143,37 @@ private slots:
         QVERIFY(asked().isEmpty());
     }
 
+    void saysWhatAMarkDoesAndWhatStillOpens()
+    {
+        guard(Area::AddressBook);
+        open();
+        QCOMPARE(labelText("level_11"), u"Sealed"_s);
+        QCOMPARE(labelText("level_2"), u"Asks for the password; the files stay readable"_s);
+        QCOMPARE(labelText("level_0"),
+                 u"Asks for the password; the files stay readable. Still opens by the toolbar button."_s);
+        mark(Area::AddressBookButton)->click();
+        QCOMPARE(labelText("level_0"), u"Asks for the password; the files stay readable"_s);
+        mark(Area::AddressBook)->click();
+        QCOMPARE(
+            labelText("level_15"),
+            u"Asks for the password; the files stay readable. Still opens by the menu entry and card."_s);
+        mark(Area::AddressBook)->click();
+    }
+
+    void choosesWhenWindowsAreCovered()
+    {
+        guard(Area::Planner);
+        const QSignalSpy changed(&m_test->changes, &ProgramSignals::guardsChanged);
+        open();
+        auto *minutes = find<QComboBox>("Combo1");
+        QCOMPARE(minutes->currentText(), u"10 minutes"_s);
+        const qsizetype before = changed.size();
+        QTest::keyClick(minutes, Qt::Key_Down);
+        QCOMPARE(minutes->currentText(), u"30 minutes"_s);
+        QCOMPARE(m_test->bytes(u"GColor3.Fil"_s).mid(209 * 20), QByteArray("\x1E\0", 2));
+        QCOMPARE(changed.size(), before + 1);
+    }
+
     void asksBeforeMarksAreLost_data()
     {
         rows<Answer, bool, bool>({
@@ -189,7 +222,8 @@ private slots:
         const QString text =
             passwordPage(true, file().areas(), PageContext{.today = QDate(2026, 11, 21)}).toText();
         QVERIFY(text.contains("A password is set."_L1));
-        QVERIFY(text.contains("Automobile Tracker\tasked"_L1));
+        QVERIFY(
+            text.contains("Automobile Tracker\tasked\tAsks for the password; the files stay readable"_L1));
         QVERIFY(text.contains("Personal Journal\tnot asked"_L1));
         QVERIFY(!text.contains("Video Library"_L1));
     }
