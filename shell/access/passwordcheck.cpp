@@ -7,6 +7,7 @@
 #include "storage/changeset.h"
 #include "storage/log.h"
 #include "storage/recordvalue.h"
+#include "storage/sealing/recoverycode.h"
 #include "storage/sealing/secretbytes.h"
 
 #include <QFile>
@@ -29,7 +30,8 @@ constexpr int verifierRecord = 1;
 constexpr int firstFlagRecord = 2;
 constexpr int lastFlagRecord = firstFlagRecord + ProtectedAreas::count - 1;
 constexpr int wrongAnswersRecord = 23;
-constexpr int recordCount = wrongAnswersRecord;
+constexpr int recoveryRecord = 24;
+constexpr int recordCount = recoveryRecord;
 constexpr qsizetype countLength = 2;
 
 QString flagSet()
@@ -86,6 +88,36 @@ bool isVerifier(const QByteArray &text)
                                           crypto_pwhash_memlimit_min()) != -1;
 }
 
+/// Whether `typed` is what `verifier` was made from; never with an empty one of either.
+bool verifies(const QByteArray &verifier, const QString &typed)
+{
+    if (verifier.isEmpty() || typed.isEmpty())
+        return false;
+    const SecretBytes secret = SecretBytes::ofText(typed);
+    return crypto_pwhash_str_verify(verifier.constData(), secret.data(), quint64(secret.size())) == 0;
+}
+
+std::optional<QByteArray> verifierOf(const QString &typed, const PasswordCost &cost)
+{
+    const SecretBytes secret = SecretBytes::ofText(typed);
+    QByteArray verifier(crypto_pwhash_STRBYTES, '\0');
+    if (secret.isEmpty())
+        return std::nullopt;
+    if (crypto_pwhash_str(verifier.data(), secret.data(), quint64(secret.size()), cost.operations,
+                          cost.memory) != 0) {
+        qCWarning(storageLog) << "Not enough memory to make a password's verifier";
+        return std::nullopt;
+    }
+    verifier.truncate(qsizetype(qstrlen(verifier.constData())));
+    return verifier;
+}
+
+/// What of a recovery code counts; nothing of one that is none.
+QString keyOf(const QString &recoveryCode)
+{
+    return RecoveryCode::read(recoveryCode).value_or(QString());
+}
+
 } // namespace
 
 PasswordCheck::PasswordCheck(const DataFolder &folder, PasswordCost cost, PasswordMemory *memory)
@@ -115,26 +147,42 @@ void PasswordCheck::load(ProgramState &state) const
 bool PasswordCheck::matches(const QString &password) const
 {
     const Content content = read();
-    if (content.state != State::Set || password.isEmpty())
-        return false;
-    const SecretBytes typed = SecretBytes::ofText(password);
-    return crypto_pwhash_str_verify(content.verifier.constData(), typed.data(), quint64(typed.size())) == 0;
+    return content.state == State::Set && verifies(content.verifier, password);
 }
 
-bool PasswordCheck::setPassword(const QString &password)
+bool PasswordCheck::hasRecoveryCode() const
+{
+    return !read().recovery.isEmpty();
+}
+
+bool PasswordCheck::matchesRecoveryCode(const QString &code) const
+{
+    const Content content = read();
+    return content.state == State::Set && verifies(content.recovery, code);
+}
+
+bool PasswordCheck::setRecoveryCode(const QString &code)
+{
+    const Content content = read();
+    const std::optional<QByteArray> recovery = verifierOf(keyOf(code), m_cost);
+    if (content.state != State::Set || !recovery)
+        return false;
+    ChangeSet change = startChange();
+    writeText(change, recoveryRecord, *recovery, content.recovery);
+    return commit(change);
+}
+
+bool PasswordCheck::setPassword(const QString &password, const QString &recoveryCode)
 {
     const Content content = read();
     if (content.state == State::Damaged || password.isEmpty())
         return false;
 
-    const SecretBytes typed = SecretBytes::ofText(password);
-    QByteArray verifier(crypto_pwhash_STRBYTES, '\0');
-    if (crypto_pwhash_str(verifier.data(), typed.data(), quint64(typed.size()), m_cost.operations,
-                          m_cost.memory) != 0) {
-        qCWarning(storageLog) << "Not enough memory to make a password's verifier";
+    const std::optional<QByteArray> verifier = verifierOf(password, m_cost);
+    const std::optional<QByteArray> recovery =
+        recoveryCode.isEmpty() ? content.recovery : verifierOf(keyOf(recoveryCode), m_cost);
+    if (!verifier || !recovery)
         return false;
-    }
-    verifier.truncate(qsizetype(qstrlen(verifier.constData())));
 
     // With a password every flag is written, so that a file that was cut short anywhere can be told from a
     // whole one.
@@ -143,7 +191,8 @@ bool PasswordCheck::setPassword(const QString &password)
         if (content.areas.flag(area).isEmpty())
             writeFlag(change, area, flagNotSet());
     }
-    writeText(change, verifierRecord, verifier, content.verifier);
+    writeText(change, verifierRecord, *verifier, content.verifier);
+    writeText(change, recoveryRecord, *recovery, content.recovery);
     return commit(change);
 }
 
@@ -157,6 +206,7 @@ bool PasswordCheck::removePassword()
         writeFlag(change, area, flagNotSet());
     writeText(change, verifierRecord, {}, content.verifier);
     writeText(change, wrongAnswersRecord, {}, content.wrong);
+    writeText(change, recoveryRecord, {}, content.recovery);
     if (m_memory)
         m_memory->wrong.reset();
     return commit(change);
@@ -249,6 +299,9 @@ PasswordCheck::Content PasswordCheck::parsed(QByteArrayView bytes)
     const bool isWhole = !recordOf(bytes, lastFlagRecord).isEmpty();
     // What came to the file later says nothing of the rest.
     content.wrong = wholeText(recordOf(bytes, wrongAnswersRecord)).value_or(QByteArray());
+    content.recovery = wholeText(recordOf(bytes, recoveryRecord)).value_or(QByteArray());
+    if (!isVerifier(content.recovery))
+        content.recovery.clear();
     return content.state == State::Set && !isWhole ? damaged() : content;
 }
 

@@ -14,7 +14,8 @@ class RecordFile;
 struct PasswordMemory;
 
 /// The password and the 21 flags of what it guards, in `PCtrl1.Fil` (record length 140): record 1 the
-/// password's verifier, records 2 to 22 the flags 0 to 20, record 23 the wrong answers, all counted texts.
+/// password's verifier, records 2 to 22 the flags 0 to 20, record 23 the wrong answers, record 24 the
+/// verifier of the recovery code, all counted texts.
 /// The password itself is never stored. Nothing is cached: each call reads the file as it is now.
 class PasswordCheck
 {
@@ -49,9 +50,17 @@ public:
     /// After a right answer: what there were, which do not count any more.
     WrongAnswers takeWrongAnswers();
 
-    /// Sets or replaces the password; whoever calls has asked for the old one. False, with the old password
-    /// in force, when `password` is empty, the file is damaged, or the disk refuses.
-    [[nodiscard]] bool setPassword(const QString &password);
+    /// Sets or replaces the password, and with a `recoveryCode` that too; whoever calls has asked for the
+    /// old one. False, with the old password in force, when `password` is empty, the file is damaged, or the
+    /// disk refuses.
+    [[nodiscard]] bool setPassword(const QString &password, const QString &recoveryCode = {});
+
+    /// Whether there is a code that leads to a new password.
+    bool hasRecoveryCode() const;
+    /// Whether `code`, as `RecoveryCode::read` gives it, is that one.
+    bool matchesRecoveryCode(const QString &code) const;
+    /// Takes `code` in the place of the one before. False without a password, or when the disk refuses.
+    [[nodiscard]] bool setRecoveryCode(const QString &code);
 
     /// Takes the password away, and all flags with it. False when the file is damaged or the disk refuses.
     [[nodiscard]] bool removePassword();
@@ -65,6 +74,7 @@ public:
         State state = State::NotSet;
         QByteArray verifier; ///< empty unless a password is set
         QByteArray wrong;    ///< `WrongAnswers` as text, whatever it is
+        QByteArray recovery; ///< verifier of the recovery code; empty without one
         ProtectedAreas areas;
     };
 

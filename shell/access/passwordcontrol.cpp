@@ -7,6 +7,7 @@
 #include "shell/access/passwordmessages.h"
 #include "shell/access/passwordpage.h"
 #include "shell/access/passwordpane.h"
+#include "shell/access/recoverypage.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/controls.h"
 #include "shell/core/area.h"
@@ -241,6 +242,9 @@ void Form31::connectPane()
         refresh();
         sayWithWrongAnswers(PasswordMessages::passwordRemoved());
     });
+    connect(m_pane, &PasswordPane::codeMade, this,
+            [this] { sayWithWrongAnswers(PasswordMessages::codeMade()); });
+    connect(m_pane, &PasswordPane::printRequested, this, &Form31::printCode);
     connect(m_pane, &PasswordPane::damageFound, this, &Form31::tellDamage);
     connect(m_idle, &IdleChoice::chosen, this, [this] { activity().say(PasswordMessages::marksSaved()); });
     connect(m_idle, &IdleChoice::notSaved, this, [this] { activity().say(FrameLines::settingNotSaved()); });
@@ -346,6 +350,12 @@ void Form31::tellDamage()
 {
     ask(PasswordMessages::fileDamaged(program().folder.path()));
     refresh();
+}
+
+void Form31::printCode(const QString &code)
+{
+    showPreview([code](const PageContext &context) { return recoveryPage(code, context); },
+                PasswordMessages::recoveryTitle());
 }
 
 void Form31::print()

@@ -47,6 +47,7 @@ private:
     void offerOtherWay(int area);
     void tellDamage();
     void print();
+    void printCode(const QString &code);
 
     /// The flags as the check boxes show them; those that stay as they are keep their text.
     ProtectedAreas shownAreas() const;

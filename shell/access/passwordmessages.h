@@ -101,6 +101,50 @@ inline QString lengthHint()
         "hard to guess.");
 }
 
+// The recovery code.
+
+inline QString recoveryTitle()
+{
+    return QStringLiteral("Recovery Code");
+}
+
+inline QString keepTheCode()
+{
+    return QStringLiteral(
+        "It leads to a new password where this one is forgotten. Print it and keep the sheet away from the "
+        "computer: it is not shown again.");
+}
+
+inline QString typeTheCode()
+{
+    return QStringLiteral("It leads to a new password. Capital letters, blanks and dashes do not matter.");
+}
+
+inline QString codeMistyped()
+{
+    return QStringLiteral("A character is missing or mistaken. Compare it with your paper.");
+}
+
+inline QString wrongCode()
+{
+    return QStringLiteral("That is not the recovery code.");
+}
+
+inline QString codeIsKept()
+{
+    return QStringLiteral("There is a recovery code for it.");
+}
+
+inline QString codeMade()
+{
+    return QStringLiteral("The new recovery code is in force; the one before is not.");
+}
+
+inline QString noCode()
+{
+    return QStringLiteral("There is no recovery code: a forgotten password cannot be replaced.");
+}
+
 /// What being covered means.
 inline QString coveringHint()
 {

@@ -2,11 +2,13 @@
 #include "shell/access/passwordpane.h"
 
 #include "shell/access/passwordmessages.h"
+#include "shell/access/recoverynote.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/clock.h"
 #include "shell/core/framelines.h"
+#include "storage/sealing/recoverycode.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -37,6 +39,15 @@ QVBoxLayout *makeColumn(QWidget *parent)
     return column;
 }
 
+QString headingOf(bool sets, bool changes, bool removes)
+{
+    if (sets)
+        return u"Set Password"_s;
+    if (changes)
+        return u"Change Password"_s;
+    return removes ? u"Remove Password"_s : u"New Recovery Code"_s;
+}
+
 QLabel *makeWrapped(QLabel *label)
 {
     label->setWordWrap(true);
@@ -57,6 +68,8 @@ PasswordPane::PasswordPane(PasswordCheck &file, AttemptMemory &memory, const Clo
     , m_set(makeButton(u"setPassword"_s, u"Se&t Password"_s, this))
     , m_change(makeButton(u"changePassword"_s, u"&Change"_s, this))
     , m_remove(makeButton(u"removePassword"_s, u"&Remove"_s, this))
+    , m_newCode(makeButton(u"newRecoveryCode"_s, u"New Recovery &Code"_s, this))
+    , m_note(new RecoveryNote(this))
     , m_heading(nullptr)
     , m_form(makeForm())
 {
@@ -75,8 +88,11 @@ PasswordPane::PasswordPane(PasswordCheck &file, AttemptMemory &memory, const Clo
     all->addWidget(m_title);
     all->addWidget(m_summary);
     all->addLayout(buttons);
+    all->addWidget(m_newCode, 0, Qt::AlignLeft);
     all->addWidget(m_form);
+    all->addWidget(m_note);
     all->addStretch();
+    m_note->hide();
     connectAll();
     refresh();
 }
@@ -127,6 +143,13 @@ void PasswordPane::connectAll()
     connect(m_set, &QPushButton::clicked, this, [this] { begin(Task::Set); });
     connect(m_change, &QPushButton::clicked, this, [this] { begin(Task::Change); });
     connect(m_remove, &QPushButton::clicked, this, [this] { begin(Task::Remove); });
+    connect(m_newCode, &QPushButton::clicked, this, [this] { begin(Task::NewCode); });
+    connect(m_note, &RecoveryNote::printRequested, this, [this] { emit printRequested(m_note->code()); });
+    connect(m_note, &RecoveryNote::done, this, [this] {
+        m_note->clear();
+        m_note->hide();
+        firstControl()->setFocus();
+    });
     connect(m_ok, &QPushButton::clicked, this, &PasswordPane::carryOut);
     connect(m_cancel, &QPushButton::clicked, this, &PasswordPane::close);
     for (QLineEdit *box : {m_old, m_new, m_repeat}) {
@@ -146,16 +169,20 @@ void PasswordPane::refresh()
     const bool isSet = state == PasswordCheck::State::Set;
     const bool isDamaged = state == PasswordCheck::State::Damaged;
     m_title->setChip(isDamaged ? u"Damaged"_s : isSet ? u"Set"_s : u"Not set"_s);
-    m_summary->setText(isDamaged ? PasswordMessages::damagedSummary()
-                       : isSet   ? PasswordMessages::setSummary()
-                                 : PasswordMessages::notSetSummary());
+    m_summary->setText(
+        isDamaged ? PasswordMessages::damagedSummary()
+        : isSet   ? PasswordMessages::setSummary() + u' ' +
+                      (m_file.hasRecoveryCode() ? PasswordMessages::codeIsKept() : PasswordMessages::noCode())
+                : PasswordMessages::notSetSummary());
     m_set->setVisible(!isSet);
     m_change->setVisible(isSet);
     m_remove->setVisible(isSet);
+    m_newCode->setVisible(isSet);
     setUnavailable(m_set, isDamaged ? PasswordMessages::damagedSummary() : m_whyReadOnly);
     const QString spent = m_attempts.isSpent() ? PasswordMessages::answersSpent() : m_whyReadOnly;
     setUnavailable(m_change, spent);
     setUnavailable(m_remove, spent);
+    setUnavailable(m_newCode, spent);
 }
 
 QWidget *PasswordPane::firstControl() const
@@ -179,12 +206,12 @@ void PasswordPane::begin(Task task)
         return;
     }
     close();
+    m_note->clear();
+    m_note->hide();
     m_task = task;
-    m_heading->setText(task == Task::Set      ? u"Set Password"_s
-                       : task == Task::Change ? u"Change Password"_s
-                                              : u"Remove Password"_s);
+    m_heading->setText(headingOf(task == Task::Set, task == Task::Change, task == Task::Remove));
     m_oldPart->setVisible(task != Task::Set);
-    m_newPart->setVisible(task != Task::Remove);
+    m_newPart->setVisible(takesNewPassword());
     m_form->show();
     if (task != Task::Set && !m_attempts.isWaiting())
         m_attempts.resume(m_file.wrongAnswers(), m_clock.now());
@@ -222,10 +249,8 @@ void PasswordPane::carryOut()
     if (m_attempts.isWaiting() || !isAcceptable())
         return;
     const Task task = m_task;
-    const bool isDone = [this, task] {
-        const BusyCursor busy;
-        return task == Task::Remove ? m_file.removePassword() : m_file.setPassword(m_new->text());
-    }();
+    const QString code = needsCode(task) ? RecoveryCode::generate() : QString();
+    const bool isDone = apply(task, code);
     if (!isDone && m_file.state() == PasswordCheck::State::Damaged) {
         close();
         emit damageFound();
@@ -238,17 +263,50 @@ void PasswordPane::carryOut()
     close();
     refresh();
     firstControl()->setFocus();
-    if (task == Task::Set)
+    tell(task);
+    if (!code.isEmpty())
+        m_note->show(code);
+}
+
+/// Whoever has none gets one with the next password; an old one goes on leading to a new password.
+bool PasswordPane::needsCode(Task task) const
+{
+    return task == Task::Set || task == Task::NewCode || (task == Task::Change && !m_file.hasRecoveryCode());
+}
+
+bool PasswordPane::apply(Task task, const QString &code)
+{
+    const BusyCursor busy;
+    switch (task) {
+    case Task::Remove:
+        return m_file.removePassword();
+    case Task::NewCode:
+        return m_file.setRecoveryCode(code);
+    default:
+        return m_file.setPassword(m_new->text(), code);
+    }
+}
+
+void PasswordPane::tell(Task task)
+{
+    switch (task) {
+    case Task::Set:
         emit passwordSet();
-    else if (task == Task::Change)
+        break;
+    case Task::Change:
         emit passwordChanged();
-    else
+        break;
+    case Task::Remove:
         emit passwordRemoved();
+        break;
+    default:
+        emit codeMade();
+    }
 }
 
 bool PasswordPane::isAcceptable()
 {
-    if (m_task != Task::Remove) {
+    if (takesNewPassword()) {
         if (m_new->text().isEmpty())
             return refuse(m_new, PasswordMessages::newPasswordMissing());
         if (m_new->text() != m_repeat->text())

@@ -13,6 +13,7 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class RecoveryNote;
 class TitleLine;
 
 /// The part of password control that sets, changes and removes the password. What is done here is in force at
@@ -38,6 +39,9 @@ signals:
     void passwordSet();
     void passwordChanged();
     void passwordRemoved();
+    void codeMade();
+    /// The new recovery code is to be printed.
+    void printRequested(const QString &code);
     /// The file turned out to be damaged.
     void damageFound();
 
@@ -45,7 +49,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    enum class Task { None, Set, Change, Remove };
+    enum class Task { None, Set, Change, Remove, NewCode };
 
     QWidget *makeForm();
     void connectAll();
@@ -53,6 +57,10 @@ private:
     void close();
     void enter(const QLineEdit *box);
     void carryOut();
+    bool apply(Task task, const QString &code);
+    void tell(Task task);
+    bool needsCode(Task task) const;
+    bool takesNewPassword() const { return m_task == Task::Set || m_task == Task::Change; }
     bool isAcceptable();
     bool refuse(QLineEdit *box, const QString &reason);
     void showWait(int seconds);
@@ -71,6 +79,8 @@ private:
     QPushButton *m_set;
     QPushButton *m_change;
     QPushButton *m_remove;
+    QPushButton *m_newCode;
+    RecoveryNote *m_note;
 
     QLabel *m_heading;
     QLineEdit *m_old;

@@ -4,6 +4,7 @@
 #include "shell/access/gate.h"
 #include "shell/access/guardedareas.h"
 #include "shell/access/passwordmessages.h"
+#include "shell/access/recoverybox.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/core/area.h"
@@ -38,13 +39,14 @@ QString guardedFunction(const ProgramState &state)
 
 Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step)
     : QDialog(parent)
+    , m_program(program)
+    , m_step(step)
     , m_file(program.folder, PasswordCost::interactive(), &program.gate.memory())
-    , m_clock(program.clock)
-    , m_gate(program.gate)
     , m_attempts(program.gate.memory().attempts, step)
     , m_password(named(new QLineEdit(this), u"Text1"_s))
     , m_showPassword(named(new QCheckBox(u"&Show password"_s, this), u"showPassword"_s))
     , m_refusal(named(makeQuietLabel({}, this), u"refusal"_s))
+    , m_recover(makeButton(u"Command3"_s, u"&Recovery Code..."_s, this))
     , m_ok(makeButton(u"Command1"_s, u"&OK"_s, this, ButtonKind::Main))
     , m_cancel(makeButton(u"Command2"_s, u"&Cancel"_s, this))
 {
@@ -59,12 +61,14 @@ Form32::Form32(Program &program, QWidget *parent, std::chrono::milliseconds step
     connect(m_showPassword, &QCheckBox::toggled, this,
             [this](bool shown) { m_password->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });
     connect(m_password, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
+    connect(m_recover, &QPushButton::clicked, this, &Form32::recover);
     connect(m_ok, &QPushButton::clicked, this, &Form32::accept);
     connect(m_cancel, &QPushButton::clicked, this, &Form32::reject);
     connect(&m_attempts, &Attempts::waiting, this, &Form32::showWait);
     connect(&m_attempts, &Attempts::waited, this, &Form32::endWait);
     connect(&m_attempts, &Attempts::spent, this, &Form32::reject);
-    m_attempts.resume(m_file.wrongAnswers(), m_clock.now());
+    offerRecovery();
+    m_attempts.resume(m_file.wrongAnswers(), program.clock.now());
 }
 
 void Form32::buildForm(const QString &functionName)
@@ -110,6 +114,7 @@ QLayout *Form32::makeFoot()
 {
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
+    buttons->addWidget(m_recover);
     buttons->addStretch();
     for (QPushButton *button : {m_ok, m_cancel}) {
         button->setMinimumWidth(buttonWidth);
@@ -133,17 +138,37 @@ void Form32::accept()
     }();
     m_password->clear();
     if (!isRight) {
-        m_attempts.addWrong(m_file.addWrongAnswer(m_clock.now()));
+        const WrongAnswers wrong = m_file.addWrongAnswer(m_program.clock.now());
+        offerRecovery();
+        m_attempts.addWrong(wrong);
         return;
     }
     m_attempts.reset();
-    m_gate.noteRightAnswer(m_file.takeWrongAnswers());
+    m_program.gate.noteRightAnswer(m_file.takeWrongAnswers());
     QDialog::accept();
+}
+
+void Form32::offerRecovery()
+{
+    m_recover->setVisible(m_file.wrongAnswers().count > 0 && m_file.hasRecoveryCode());
+}
+
+/// The code leads to a new password and to nothing else: what was to be opened stays closed.
+void Form32::recover()
+{
+    if (m_attempts.isWaiting())
+        return;
+    RecoveryBox box(m_program, m_step, this);
+    if (m_program.dialogs.run(box) == Accepted)
+        reject();
+    else
+        m_attempts.resume(m_file.wrongAnswers(), m_program.clock.now());
 }
 
 void Form32::showWait(int seconds)
 {
     const QString wait = PasswordMessages::tryAgainIn(seconds);
+    setUnavailable(m_recover, wait);
     setUnavailable(m_password, wait);
     setUnavailable(m_ok, wait);
     m_refusal->setText(PasswordMessages::wrongPassword() + u' ' + wait);
@@ -153,6 +178,7 @@ void Form32::endWait()
 {
     setUnavailable(m_password, {});
     setUnavailable(m_ok, {});
+    setUnavailable(m_recover, {});
     m_refusal->setText(PasswordMessages::wrongPassword());
     m_password->setFocus();
 }

@@ -8,8 +8,6 @@
 
 #include <chrono>
 
-class AccessGate;
-class Clock;
 class QCheckBox;
 class QLabel;
 class QLayout;
@@ -32,19 +30,22 @@ public:
     void accept() override;
 
 private:
+    void offerRecovery();
+    void recover();
     void buildForm(const QString &functionName);
     QLayout *makeQuestion(const QString &functionName);
     QLayout *makeFoot();
     void showWait(int seconds);
     void endWait();
 
+    Program &m_program;
+    std::chrono::milliseconds m_step;
     PasswordCheck m_file;
-    const Clock &m_clock;
-    AccessGate &m_gate;
     Attempts m_attempts;
     QLineEdit *m_password;
     QCheckBox *m_showPassword;
     QLabel *m_refusal;
+    QPushButton *m_recover; ///< offered after a wrong answer
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };

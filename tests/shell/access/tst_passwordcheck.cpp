@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordcheck.h"
+#include "storage/sealing/recoverycode.h"
 #include "tests/support/failingdisk.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
@@ -123,6 +124,51 @@ private slots:
         setBytes(put(content, 23, noise));
         QCOMPARE(file().state(), PasswordCheck::State::Set);
         QCOMPARE(file().wrongAnswers(), WrongAnswers());
+    }
+
+    void keepsTheRecoveryCodeAsThePassword()
+    {
+        setBytes(sesameFile());
+        QVERIFY(!file().hasRecoveryCode());
+        QVERIFY(!file().setRecoveryCode(u"no code"_s));
+        const QString code = RecoveryCode::generate();
+        const QString key = *RecoveryCode::read(code);
+        QVERIFY(file().setRecoveryCode(code));
+        const QByteArray withCode = bytes();
+        QByteArray expected = sesameFile();
+        put(expected, 24, withCode.mid(23 * recordLength));
+        QCOMPARE(withCode, expected);
+        QVERIFY(
+            withCode.mid(23 * recordLength).startsWith(QByteArray("\x5D\0$argon2id$v=19$m=8,t=1,p=1$", 29)));
+        QVERIFY(!withCode.contains(key.toLatin1()) && !withCode.contains(code.toLatin1()));
+        QVERIFY(file().matchesRecoveryCode(key) && !file().matches(key));
+        QVERIFY(!file().matchesRecoveryCode(u"Sesame"_s) && !file().matchesRecoveryCode({}));
+
+        QVERIFY(file().setPassword(u"Tulips"_s)); // the code goes on
+        QVERIFY(file().matchesRecoveryCode(key));
+        QVERIFY(file().setPassword(u"Roses"_s, RecoveryCode::generate()));
+        QVERIFY(!file().matchesRecoveryCode(key) && file().hasRecoveryCode());
+        QVERIFY(file().removePassword());
+        QVERIFY(!file().hasRecoveryCode());
+        QCOMPARE(bytes().mid(23 * recordLength), QByteArray(95, '\0'));
+    }
+
+    void noiseInTheLastRecordIsNoCode_data()
+    {
+        rows<QByteArray>({
+            {"cut short", QByteArray("\x5D\0$argon2id$v=19$m=8", 21)},
+            {"a plain word", counted("Sesame")},
+            {"one that asks for hours", counted(QByteArray(sesameVerifier).replace("t=1", "t=9999999"))},
+        });
+    }
+
+    void noiseInTheLastRecordIsNoCode()
+    {
+        const auto [noise] = row<QByteArray>();
+        QByteArray content = sesameFile();
+        setBytes(put(content, 24, noise));
+        QVERIFY(file().state() == PasswordCheck::State::Set && file().matches(u"Sesame"_s));
+        QVERIFY(!file().hasRecoveryCode() && !file().matchesRecoveryCode(u"Sesame"_s));
     }
 
     void neverStoresThePassword()

@@ -4,6 +4,7 @@
 #include "shell/access/passwordpage.h"
 #include "shell/controls/activitybar.h"
 #include "shell/core/area.h"
+#include "storage/sealing/recoverycode.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
 
@@ -41,6 +42,11 @@ private slots:
         QVERIFY(file().matches(u"Tulips"_s));
         QCOMPARE(said(), PasswordMessages::passwordSet());
         QVERIFY(find<QLineEdit>("Text1_1")->text().isEmpty());
+
+        QVERIFY(find<QPushButton>("printCode")->hasFocus());
+        QVERIFY(file().matchesRecoveryCode(shownCode()));
+        click("codeDone");
+        QVERIFY(labelText("recoveryCodeShown").isEmpty());
 
         QVERIFY(!m_window->isModified());
         m_test->dialogs.willAnswer(Answer::No);
@@ -81,6 +87,37 @@ private slots:
         answer(0, {u"Sesame"_s, u"Tulips"_s, u"Tulips"_s});
         QVERIFY(file().matches(u"Tulips"_s));
         QVERIFY(file().areas().isProtected(Area::Planner));
+    }
+
+    void printsANewRecoveryCodeAfterThePassword()
+    {
+        guard(Area::Planner);
+        open();
+        click("newRecoveryCode");
+        answer(0, {u"Sesame"_s});
+        const QString first = shownCode();
+        QVERIFY(file().matchesRecoveryCode(first));
+        click("printCode");
+        QVERIFY(m_window->isPreviewShown());
+        m_window->closePreview();
+        click("newRecoveryCode");
+        QVERIFY(!find<QPushButton>("printCode")->isVisible() && labelText("recoveryCodeShown").isEmpty());
+        answer(0, {u"Sesame"_s});
+        QVERIFY(file().matchesRecoveryCode(shownCode()) && !file().matchesRecoveryCode(first));
+        click("changePassword");
+        answer(0, {u"Sesame"_s, u"Tulips"_s, u"Tulips"_s});
+        QVERIFY(file().hasRecoveryCode() && !find<QPushButton>("printCode")->isVisible());
+    }
+
+    void saysWhatTheWrongAnswersWere()
+    {
+        guard(Area::Planner);
+        file().addWrongAnswer(m_test->clock.now());
+        open();
+        click("changePassword");
+        QTRY_VERIFY(isOffered("passwordOk"));
+        answer(0, {u"Sesame"_s, u"Tulips"_s, u"Tulips"_s});
+        QCOMPARE(said(), u"The password is changed. 1 wrong answer since Saturday, November 21, 10:24 AM."_s);
     }
 
     void askingForTheOldPasswordIsLimited()
@@ -263,6 +300,10 @@ private:
         click("passwordOk");
     }
 
+    QString shownCode() const
+    {
+        return RecoveryCode::read(labelText("recoveryCodeShown")).value_or(QString());
+    }
     QString refusal() const { return labelText("refusal"); }
 };
 

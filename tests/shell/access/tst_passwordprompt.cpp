@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/passwordmessages.h"
 #include "shell/access/passwordprompt.h"
+#include "shell/access/recoverybox.h"
 #include "shell/core/area.h"
+#include "storage/sealing/recoverycode.h"
 #include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
@@ -200,6 +202,57 @@ private slots:
         QCOMPARE(wrong.words(style, QDate(2026, 11, 21)), words);
     }
 
+    void offersTheRecoveryCodeAfterAWrongAnswer()
+    {
+        {
+            Form32 prompt(m_program->program, nullptr, 1ms);
+            showActive(prompt);
+            type(prompt, u"Tulips"_s);
+            QVERIFY(!control<QPushButton>(prompt, "Command3")->isVisible()); // there is none
+        }
+        const QString code = RecoveryCode::generate();
+        QVERIFY(PasswordCheck(m_program->folder, PasswordCost::minimum()).setPassword(u"Sesame"_s, code));
+        m_program->gate.memory() = {};
+        QVERIFY(PasswordCheck(m_program->folder).takeWrongAnswers().count == 1);
+        Form32 prompt(m_program->program, nullptr, 50ms);
+        const QSignalSpy rejected(&prompt, &QDialog::rejected);
+        showActive(prompt);
+        auto *offer = control<QPushButton>(prompt, "Command3");
+        QVERIFY(!offer->isVisible());
+        type(prompt, u"Tulips"_s);
+        QVERIFY(offer->isVisible() && !offer->isEnabled());
+        QTRY_VERIFY(offer->isEnabled());
+        m_program->dialogs.willRun([&](QDialog &box) { return recover(box, code); });
+        offer->click();
+        QVERIFY(rejected.size() == 1 && m_program->dialogs.isDone());
+    }
+
+    void theRecoveryCodeHasToBeRight()
+    {
+        const QString code = RecoveryCode::generate();
+        QVERIFY(PasswordCheck(m_program->folder, PasswordCost::minimum()).setPassword(u"Sesame"_s, code));
+        RecoveryBox box(m_program->program, 50ms, nullptr);
+        showActive(box);
+        const auto answer = [&box](const QString &text) {
+            control<QLineEdit>(box, "recoveryCode")->setText(text);
+            QTest::keyClick(control<QLineEdit>(box, "recoveryCode"), Qt::Key_Return);
+        };
+        const PasswordCheck file(m_program->folder);
+        answer(code.chopped(1)); // a slip is no wrong answer
+        QCOMPARE(control<QLabel>(box, "refusal")->text(), PasswordMessages::codeMistyped());
+        QCOMPARE(file.wrongAnswers().count, 0);
+        answer(RecoveryCode::generate());
+        QVERIFY(control<QLabel>(box, "refusal")->text().startsWith(PasswordMessages::wrongCode()));
+        QCOMPARE(file.wrongAnswers().count, 1);
+        QVERIFY(!control<QLineEdit>(box, "recoveryCode")->isEnabled());
+        QVERIFY(!control<QLineEdit>(box, "newPassword")->isVisible());
+        QTRY_VERIFY(control<QLineEdit>(box, "recoveryCode")->isEnabled());
+        answer(u' ' + code.toLower().remove(u'-'));
+        QVERIFY(control<QLineEdit>(box, "newPassword")->isVisible());
+        box.reject(); // nothing was opened, nothing was set
+        QVERIFY(file.matches(u"Sesame"_s));
+    }
+
     void guardsOnWhereTheFileVanishes()
     {
         m_program->state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
@@ -262,6 +315,34 @@ private slots:
     }
 
 private:
+    /// Types the code and "Roses" as the new password, and prints the new code into a PDF.
+    int recover(QDialog &box, const QString &code)
+    {
+        const auto fill = [&box](const char *name, const QString &text) {
+            control<QLineEdit>(box, name)->setText(text);
+        };
+        auto *next = control<QPushButton>(box, "recoveryNext");
+        fill("recoveryCode", code);
+        next->click();
+        fill("newPassword", u"Roses"_s);
+        next->click();
+        [&] { QCOMPARE(control<QLabel>(box, "refusal")->text(), PasswordMessages::passwordsDiffer()); }();
+        fill("newPasswordAgain", u"Roses"_s);
+        next->click();
+        const QString shown = control<QLabel>(box, "recoveryCodeShown")->text().remove(u'\n');
+        const QString pdf = m_program->temporary.filePath(u"code.pdf"_s);
+        m_program->dialogs.willChooseFile(pdf);
+        control<QPushButton>(box, "printCode")->click();
+        control<QPushButton>(box, "codeDone")->click();
+        [&] {
+            QVERIFY(QFile::exists(pdf));
+            const PasswordCheck file(m_program->folder);
+            QVERIFY(file.matches(u"Roses"_s) && !file.matchesRecoveryCode(*RecoveryCode::read(code)));
+            QVERIFY(file.matchesRecoveryCode(*RecoveryCode::read(shown)));
+            QCOMPARE(file.wrongAnswers().count, 0);
+        }();
+        return box.result();
+    }
     static QDateTime at(int year, int month, int day) { return {QDate(year, month, day), QTime(21, 4)}; }
 
     std::unique_ptr<TestProgram> m_program;
