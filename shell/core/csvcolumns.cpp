@@ -12,6 +12,7 @@ namespace {
 
 constexpr int sampleLines = 200;
 constexpr qsizetype mostNames = 40;
+constexpr qsizetype mostLookedAt = 200; ///< cells of a line
 constexpr qsizetype longestName = 30;
 
 bool hasDigit(const QStringList &cells)
@@ -27,7 +28,7 @@ CsvColumns::CsvColumns(CsvFile &file, Wanted wanted)
     QList<int> numbers;
     CsvFile::Line line;
     while (m_sample.size() < sampleLines && file.next(line)) {
-        m_sample.append(line.cells);
+        m_sample.append(line.cells.first(std::min(line.cells.size(), mostLookedAt)));
         numbers.append(line.number);
     }
     file.rewind();
@@ -118,6 +119,11 @@ QStringList CsvColumns::fileNames() const
 
 QString CsvColumns::example(int place) const
 {
+    return m_wanted.hasExamples ? firstCell(place) : QString();
+}
+
+QString CsvColumns::firstCell(int place) const
+{
     for (int i = m_heading + 1; i < int(m_sample.size()); ++i) {
         if (const QString cell = m_sample[i].value(place).simplified(); !cell.isEmpty())
             return cell.size() > longestName ? QString(cell.left(longestName) + u'\u2026') : cell;
@@ -130,7 +136,7 @@ QStringList CsvColumns::notUsed() const
     const QStringList names = fileNames();
     QStringList left;
     for (int place = 0; place < int(names.size()); ++place) {
-        if (!m_places.contains(place) && !example(place).isEmpty())
+        if (!m_places.contains(place) && !firstCell(place).isEmpty())
             left << names[place];
     }
     return left;

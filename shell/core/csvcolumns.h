@@ -27,6 +27,7 @@ public:
         int needed = -1; ///< the one without which no line can be read; -1: any will do
         /// Whether a heading means something else, though it has one of the words.
         std::function<bool(const QString &heading)> isOther{};
+        bool hasExamples = true; ///< else no cell of the file is shown, which may be a secret
     };
 
     /// Looks at the first lines of `file`, which is at its beginning again afterwards. They are named by a
@@ -50,7 +51,7 @@ public:
 
     /// What the columns of the file are called: by its heading, else "Column 1".
     QStringList fileNames() const;
-    /// What stands first in such a column; empty where nothing does.
+    /// What stands first in such a column; empty where nothing does, or nothing may be shown.
     QString example(int place) const;
     /// The columns of the file that hold something and will not be taken.
     QStringList notUsed() const;
@@ -59,6 +60,7 @@ private:
     void guess();
     QList<int> namedBy(const QStringList &heading) const;
     bool suffices(const QList<int> &places) const;
+    QString firstCell(int place) const;
 
     Wanted m_wanted;
     QList<QStringList> m_sample; ///< the first lines, with the heading
