@@ -2,6 +2,7 @@
 #pragma once
 
 #include "keeper/model/keeperfilter.h"
+#include "shell/controls/twolinedelegate.h"
 #include "shell/core/programstate.h"
 
 #include <QAbstractListModel>
@@ -14,8 +15,14 @@ class KeeperListModel final : public QAbstractListModel
 {
     Q_OBJECT
 public:
-    enum Role { IdRole = Qt::UserRole, WordsRole, SignRole, FavouriteRole };
-    enum Sign { NoSign, Due, Overdue };
+    enum Role {
+        IdRole = TwoLineDelegate::keyRole,
+        WordsRole = TwoLineDelegate::wordsRole,
+        SignRole = TwoLineDelegate::signRole,
+        FavouriteRole = TwoLineDelegate::furtherRole
+    };
+    using enum TwoLineDelegate::Sign;
+    using Sign = TwoLineDelegate::Sign;
 
     explicit KeeperListModel(const DateStyle &style, QObject *parent);
 

@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "shell/controls/twolinedelegate.h"
 
 /// A row of the keeper's list: the title, below it what tells the entry from others, a star at the right for
 /// a favourite.
-class KeeperRowDelegate final : public QStyledItemDelegate
+class KeeperRowDelegate final : public TwoLineDelegate
 {
     Q_OBJECT
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using TwoLineDelegate::TwoLineDelegate;
 
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override;
-    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
-                   const QModelIndex &index) override;
+protected:
+    int besideTitle(const QModelIndex &index) const override;
+    void paintBeside(QPainter *painter, const QStyleOptionViewItem &row, const QModelIndex &index,
+                     const QRect &title) const override;
 };
