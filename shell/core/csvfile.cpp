@@ -100,7 +100,7 @@ bool CsvFile::next(Line &line)
         }
         ++m_at; // the line end
         m_line += int(QStringView(m_text).sliced(start, std::min(m_at, m_text.size()) - start).count(u'\n'));
-        if (line.cells.size() > 1 || !line.cells.first().isEmpty())
+        if (line.cells.size() > 1 || !line.cells.first().trimmed().isEmpty())
             return true;
     }
     return false;

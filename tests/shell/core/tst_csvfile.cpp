@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/core/csvcolumns.h"
 #include "shell/core/csvfile.h"
+#include "shell/core/csvtext.h"
 #include "tests/support/rows.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -8,9 +9,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// "2: Anne | 12": each line with its number and its cells; one that is not closed has a mark.
-QStringList linesOf(const QByteArray &bytes)
+QStringList linesOf(const QByteArray &bytes, CsvFile::Cells cells = CsvFile::Cells::Tidied)
 {
-    CsvFile file(bytes);
+    CsvFile file(bytes, cells);
     QStringList lines;
     CsvFile::Line line;
     while (file.next(line))
@@ -74,6 +75,13 @@ private slots:
                         "1\0\n\0",
                         10),
              {u"1: \u00e9 | 1"_s}},
+            {"UTF-16 without a mark",
+             QByteArray("a\0,\0"
+                        "1\0\n\0"
+                        "\xE9\0,\0"
+                        "2\0\n\0",
+                        16),
+             {u"1: a | 1"_s, u"2: \u00e9 | 2"_s}},
             {"Windows-1252", "caf\xE9,\x80 5\n", {u"1: caf\u00e9 | \u20ac 5"_s}},
             {"a mark in front",
              "\xEF\xBB\xBF"
@@ -86,6 +94,42 @@ private slots:
     {
         const auto [bytes, lines] = row<QByteArray, QStringList>();
         QCOMPARE(linesOf(bytes), lines);
+    }
+
+    void keepsBlanksThatCount()
+    {
+        QCOMPARE(linesOf("t, p  w ,\" x\r\ny \"\n  \"q\",\"\",\n \n", CsvFile::Cells::AsWritten),
+                 (QStringList{u"1: t |  p  w  |  x\ny "_s, u"3: q |  | "_s}));
+        const QByteArray note(60'000, 'n');
+        CsvFile file("t,\"" + note + "\"\n", CsvFile::Cells::AsWritten);
+        CsvFile::Line line;
+        QVERIFY(file.next(line) && line.isClosed);
+        QCOMPARE(line.cells[1].size(), note.size());
+    }
+
+    void goesOnBehindALineOfAMillionCells()
+    {
+        CsvFile file("a,1\n" + QByteArray(1'000'000, ',') + "\nb,2\n");
+        CsvFile::Line line;
+        QVERIFY(file.next(line) && !line.hasMore);
+        QVERIFY(file.next(line) && line.hasMore);
+        QCOMPARE(line.cells.size(), CsvFile::mostCells);
+        QVERIFY(file.next(line) && !line.hasMore);
+        QCOMPARE(line.number, 3);
+        QCOMPARE(line.cells, (QStringList{u"b"_s, u"2"_s}));
+        QVERIFY(!file.next(line));
+    }
+
+    void writesWhatItReads()
+    {
+        const QStringList cells{u"a,b"_s, u" \"c\" "_s, {}, u"d\ne"_s, u"\u00e9;"_s};
+        CsvFile file(CsvText::file(CsvText::line(cells) + CsvText::line(cells)), CsvFile::Cells::AsWritten);
+        CsvFile::Line line;
+        for (const int number : {1, 3}) {
+            QVERIFY(file.next(line));
+            QCOMPARE(line.number, number);
+            QCOMPARE(line.cells, cells);
+        }
     }
 
     void guessesWhatColumnsAre_data()
