@@ -3,7 +3,7 @@
 
 quillery_build_packages=(g++ cmake ninja-build pkg-config python3 qt6-base-dev libsodium-dev libqcustomplot-dev librsvg2-bin
     libhunspell-dev hunspell-en-us libzxcvbn-dev libqrencode-dev)
-quillery_test_packages=(poppler-utils)
+quillery_test_packages=(poppler-utils python3-nacl)
 quillery_benchmark_packages=(libbenchmark-dev)
 
 # install_missing PACKAGE...: quick when nothing is missing; needs root or sudo otherwise.
