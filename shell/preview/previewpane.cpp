@@ -231,11 +231,25 @@ PagePainter PreviewPane::paginated(const PageSetup &setup) const
 
 bool PreviewPane::print()
 {
-    if (!m_painter || m_isBuilding)
+    if (!m_painter || m_isBuilding || (m_discretion.mayPrint && !m_discretion.mayPrint()))
         return false;
     PrintJob job(m_program, m_activity, window(), m_jobName);
-    return job.run(*m_painter, m_setup, currentSheet(),
-                   [this](const PageSetup &setup) { return paginated(setup); });
+    job.setMayWriteFile(m_discretion.mayWriteFile);
+    const bool isPrinted = job.run(*m_painter, m_setup, currentSheet(),
+                                   [this](const PageSetup &setup) { return paginated(setup); });
+    if (isPrinted && m_discretion.printed)
+        m_discretion.printed();
+    return isPrinted;
+}
+
+void PreviewPane::setDiscretion(Discretion discretion)
+{
+    m_discretion = std::move(discretion);
+}
+
+void PreviewPane::addChoice(QWidget *choice)
+{
+    m_column->insertWidget(m_column->indexOf(m_steps) + 1, choice);
 }
 
 void PreviewPane::setDeskColor(const QColor &color)
@@ -313,10 +327,13 @@ void PreviewPane::copyPage()
 {
     const PagePainter empty{Page(), m_setup, m_font};
     const PagePainter &page = m_painter ? *m_painter : empty;
-    auto *data = new QMimeData;
+    auto data = std::make_unique<QMimeData>();
     data->setImageData(page.image(currentSheet(), clipboardDotsPerInch));
     data->setText(page.text(currentSheet()));
-    QApplication::clipboard()->setMimeData(data);
+    if (m_discretion.copy)
+        m_discretion.copy(std::move(data));
+    else
+        QApplication::clipboard()->setMimeData(data.release());
     m_program.dialogs.ask(this, PreviewMessages::pageCopied());
 }
 

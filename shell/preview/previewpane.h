@@ -17,6 +17,7 @@ class PagePainter;
 class PageStepper;
 class PanelFrame;
 class QLabel;
+class QMimeData;
 class QPushButton;
 class QVBoxLayout;
 struct Program;
@@ -32,8 +33,20 @@ public:
     /// How the sheet lies at first: as the user has turned it, or on its side.
     enum class Lie { AsTurned, Landscape };
 
+    /// What pages ask for that few should see.
+    struct Discretion {
+        std::function<void(std::unique_ptr<QMimeData>)> copy{}; ///< puts a page on the clipboard
+        std::function<bool()> mayPrint{};                       ///< asked before it is printed
+        std::function<bool()> mayWriteFile{};                   ///< asked before a PDF is made of it
+        std::function<void()> printed{};                        ///< told when it was
+    };
+
     PreviewPane(Program &program, ActivityBar &activity, QWidget *parent = nullptr);
     ~PreviewPane() override;
+
+    void setDiscretion(Discretion discretion);
+    /// Puts a choice of what the page shows below its number.
+    void addChoice(QWidget *choice);
 
     using QWidget::show;
     /// Takes a new content and shows its first sheet. `jobName` is the proposed name of a PDF. The pane
@@ -91,6 +104,7 @@ private:
     PageFont m_font;
     std::unique_ptr<PagePainter> m_painter;
     bool m_isBuilding = false;
+    Discretion m_discretion;
 
     PanelFrame *m_deskPanel;
     SheetView *m_view;

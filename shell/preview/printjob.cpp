@@ -166,6 +166,10 @@ bool PrintJob::toPrinter(const PagePainter &painter, const PageSetup &setup, int
     printer.setPageLayout(PagePainter::deviceLayout(setup));
     if (!m_program.dialogs.choosePrinter(m_parent, printer))
         return false;
+    const bool isToFile =
+        printer.outputFormat() == QPrinter::PdfFormat || !printer.outputFileName().isEmpty();
+    if (isToFile && m_mayWriteFile && !m_mayWriteFile())
+        return false;
     const PageSetup chosen = PagePainter::setupOf(printer.pageLayout());
     std::optional<PagePainter> other;
     if (!isSamePaper(chosen, setup))
@@ -190,6 +194,8 @@ bool PrintJob::toPrinter(const PagePainter &painter, const PageSetup &setup, int
 
 bool PrintJob::toFile(const PagePainter &painter)
 {
+    if (m_mayWriteFile && !m_mayWriteFile())
+        return false;
     const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     const QString preset = documents.filePath(fileNameFor(m_name) + u".pdf"_s);
     const auto path = m_program.dialogs.chooseFileToSave(m_parent, PreviewMessages::printToFileTitle(),

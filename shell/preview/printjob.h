@@ -4,6 +4,7 @@
 #include "shell/pages/pagepainter.h"
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 class ActivityBar;
@@ -23,6 +24,9 @@ public:
     /// `name` is the document's name and the proposed name of the PDF.
     PrintJob(Program &program, ActivityBar &activity, QWidget *parent, QString name);
 
+    /// Asked before the page becomes a file that anybody can read; without it, it always may.
+    void setMayWriteFile(std::function<bool()> mayWriteFile) { m_mayWriteFile = std::move(mayWriteFile); }
+
     /// `currentSheet` is what "current page" means in the dialog. False when cancelled, stopped or failed.
     bool run(const PagePainter &painter, const PageSetup &setup, int currentSheet, const Relayout &relayout);
 
@@ -39,4 +43,5 @@ private:
     ActivityBar &m_activity;
     QWidget *m_parent;
     QString m_name;
+    std::function<bool()> m_mayWriteFile;
 };
