@@ -92,6 +92,13 @@ void UndoStack::offer()
         m_activity.offerUndo();
 }
 
+void UndoStack::clear()
+{
+    m_done.clear();
+    m_undone.clear();
+    refresh();
+}
+
 void UndoStack::forgetTyped()
 {
     for (Steps *steps : {&m_done, &m_undone})

@@ -39,6 +39,8 @@ public:
     void push(const QString &title, const std::shared_ptr<FileChange> &change, std::function<void()> show);
     /// Puts "Undo" behind what the status bar says, to be clicked, when the last step says it.
     void offer();
+    /// Nothing can be taken back any more, and nothing of it is told.
+    void clear();
     /// What was typed gave way to what the files hold.
     void forgetTyped();
 
