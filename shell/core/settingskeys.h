@@ -60,6 +60,7 @@ inline constexpr TextSetting carColor{colorFile3, 206};
 inline constexpr TextSetting weightColor{colorFile3, 207};
 inline constexpr TextSetting toDoColor{colorFile3, 208};
 inline constexpr TextSetting toDoTextColor{colorFile3, 209};
+inline constexpr TextSetting passwordKeeperTextColor{colorFile3, 210};
 
 /// Minutes without key or mouse after which what the password guards is covered; anything but these is the
 /// usual.
@@ -88,5 +89,6 @@ inline constexpr TextSetting addressPicturesProgramColor{colorFile1, 13};
 inline constexpr TextSetting carProgramColor{colorFile1, 17};
 inline constexpr TextSetting weightProgramColor{colorFile1, 18};
 inline constexpr TextSetting toDoProgramColor{colorFile1, 22};
+inline constexpr TextSetting passwordKeeperProgramColor{colorFile1, 27};
 
 } // namespace SettingsKeys
