@@ -13,6 +13,7 @@ public:
     explicit CodePanel(QWidget *parent = nullptr);
 
     void show(const QString &code);
+    QString code() const { return m_code; }
     /// Nothing of the code stays behind.
     void forget();
 

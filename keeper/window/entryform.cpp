@@ -162,14 +162,26 @@ void EntryForm::setOffered(const QStringList &tags, const QStringList &members)
 
 void EntryForm::load(const KeeperEntry &entry)
 {
-    const QSignalBlocker quiet(this);
     m_loaded = entry;
+    fill(entry);
+    m_asShown = this->entry();
+}
+
+void EntryForm::showTyped(const KeeperEntry &typed)
+{
+    fill(typed);
+    emit edited();
+}
+
+void EntryForm::fill(const KeeperEntry &entry)
+{
+    const QSignalBlocker quiet(this);
     hideSecrets();
     {
         const QSignalBlocker still(m_kind);
         m_kind->setCurrentIndex(m_kind->findData(int(entry.kind())));
     }
-    m_kind->setEnabled(entry.id.isEmpty());
+    m_kind->setEnabled(m_loaded.id.isEmpty() && !m_isLocked);
     showKind(entry.kind());
     m_shown->load(entry);
     m_own->load(entry);
@@ -180,7 +192,6 @@ void EntryForm::load(const KeeperEntry &entry)
     KeptDate::show(*m_expires, entry.text(KeeperField::Expires));
     m_favourite->setChecked(entry.isFavourite());
     m_notes->setPlainText(entry.text(KeeperField::Notes));
-    m_asShown = this->entry();
 }
 
 KeeperEntry EntryForm::entry() const

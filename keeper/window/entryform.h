@@ -32,6 +32,8 @@ public:
     void setOffered(const QStringList &tags, const QStringList &members);
     /// The kind of an entry that no file has can still be chosen.
     void load(const KeeperEntry &entry);
+    /// The same entry as somebody had begun to change it.
+    void showTyped(const KeeperEntry &typed);
     /// As it stands in the boxes.
     KeeperEntry entry() const;
     bool isModified() const;
@@ -57,6 +59,7 @@ signals:
     void makeWanted(SecretBox *box);
 
 private:
+    void fill(const KeeperEntry &entry);
     QLayout *makeHead();
     QLayout *makeCommon();
     void follow();

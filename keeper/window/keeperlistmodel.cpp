@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/window/keeperlistmodel.h"
 
+#include "keeper/model/keeper.h"
 #include "keeper/model/keeperkinds.h"
 #include "keeper/window/windowlines.h"
 #include "shell/core/dates.h"
@@ -9,44 +10,60 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-KeeperListModel::KeeperListModel(const DateStyle &style, QObject *parent)
+KeeperListModel::KeeperListModel(const Keeper &keeper, const DateStyle &style, QObject *parent)
     : QAbstractListModel(parent)
+    , m_keeper(keeper)
     , m_style(style)
 {}
 
-void KeeperListModel::setEntries(const QList<KeeperSummary> &entries, QDate today)
+void KeeperListModel::narrow(const KeeperFilter &filter, QDate today)
 {
     beginResetModel();
-    m_entries = entries;
     m_today = today;
     m_rows.clear();
+    m_passing.clear();
+    const QList<KeeperSummary> entries = m_keeper.entries();
+    m_passing.reserve(std::size_t(entries.size()));
+    for (const KeeperSummary &entry : entries)
+        m_passing.push_back(!filter.passes(entry, today) ? No : entry.isFavourite ? First : Yes);
     endResetModel();
 }
 
-void KeeperListModel::show(const KeeperFilter &filter, const std::optional<QList<int>> &found)
+void KeeperListModel::show(const std::optional<QList<int>> &found)
 {
     beginResetModel();
     m_rows.clear();
-    for (const bool isFavourite : {true, false}) {
-        const auto take = [&](qsizetype place) {
-            const KeeperSummary &entry = m_entries[place];
-            if (entry.isFavourite == isFavourite && filter.passes(entry, m_today))
+    for (const Passing wanted : {First, Yes}) {
+        const auto take = [&](int place) {
+            if (place < int(m_passing.size()) && m_passing[std::size_t(place)] == wanted)
                 m_rows.push_back(place);
         };
         if (found) {
             std::ranges::for_each(*found, take);
         } else {
-            for (qsizetype i = 0; i < m_entries.size(); ++i)
-                take(i);
+            for (int place = 0; place < int(m_passing.size()); ++place)
+                take(place);
         }
     }
     endResetModel();
 }
 
-QModelIndex KeeperListModel::indexOf(const QByteArray &id) const
+void KeeperListModel::forget()
 {
-    const auto row = std::ranges::find_if(m_rows, [&](qsizetype place) { return m_entries[place].id == id; });
-    return row == m_rows.end() ? QModelIndex() : index(int(row - m_rows.begin()));
+    beginResetModel();
+    m_rows.clear();
+    m_passing.clear();
+    endResetModel();
+}
+
+KeeperSummary KeeperListModel::entry(int row) const
+{
+    return m_keeper.summary(m_rows[std::size_t(row)]);
+}
+
+QByteArray KeeperListModel::id(int row) const
+{
+    return entry(row).id;
 }
 
 int KeeperListModel::rowCount(const QModelIndex &parent) const
@@ -58,7 +75,7 @@ QVariant KeeperListModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const KeeperSummary &shown = entry(index.row());
+    const KeeperSummary shown = entry(index.row());
     const QString title = shown.title.isEmpty() ? KeeperWindowLines::withoutTitle() : shown.title;
     switch (role) {
     case Qt::DisplayRole:

@@ -10,7 +10,10 @@
 #include <optional>
 #include <vector>
 
-/// The entries that filter and search let through, in their order.
+class Keeper;
+
+/// The entries that filter and search let through: favourites first, then in the order of the keeper. What a
+/// row shows is asked for when it is painted.
 class KeeperListModel final : public QAbstractListModel
 {
     Q_OBJECT
@@ -24,27 +27,31 @@ public:
     using enum TwoLineDelegate::Sign;
     using Sign = TwoLineDelegate::Sign;
 
-    explicit KeeperListModel(const DateStyle &style, QObject *parent);
+    KeeperListModel(const Keeper &keeper, const DateStyle &style, QObject *parent);
 
-    /// `entries` are in the order of the alphabet.
-    void setEntries(const QList<KeeperSummary> &entries, QDate today);
-    /// `found` are the places of what the search has found, in their order; nothing where nothing is looked
-    /// for. Favourites come first.
-    void show(const KeeperFilter &filter, const std::optional<QList<int>> &found);
+    /// The entries are others, or another filter is chosen. Nothing is listed until `show`.
+    void narrow(const KeeperFilter &filter, QDate today);
+    /// `found` are the places of what the search has found; nothing where nothing is looked for.
+    void show(const std::optional<QList<int>> &found);
 
-    const KeeperSummary &entry(int row) const { return m_entries[m_rows[std::size_t(row)]]; }
-    QModelIndex indexOf(const QByteArray &id) const;
-    const QList<KeeperSummary> &entries() const { return m_entries; }
+    /// The keeper is locked.
+    void forget();
+
+    KeeperSummary entry(int row) const;
+    QByteArray id(int row) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
+    enum Passing : quint8 { No, Yes, First };
+
     QString words(const KeeperSummary &entry) const;
     Sign sign(const KeeperSummary &entry) const;
 
+    const Keeper &m_keeper;
     const DateStyle &m_style;
     QDate m_today;
-    QList<KeeperSummary> m_entries;
-    std::vector<qsizetype> m_rows;
+    std::vector<Passing> m_passing; ///< by the place in the keeper
+    std::vector<int> m_rows;        ///< the places that are listed
 };

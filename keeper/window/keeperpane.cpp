@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/window/keeperpane.h"
 
+#include "keeper/model/keeper.h"
 #include "keeper/window/keeperlistmodel.h"
 #include "keeper/window/keeperrowdelegate.h"
 #include "keeper/window/windowlines.h"
@@ -13,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QListView>
 #include <QScopedValueRollback>
+#include <QSet>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -24,16 +26,17 @@ namespace {
 constexpr int leastWidth = 180;
 } // namespace
 
-KeeperPane::KeeperPane(const Program &program, Desk desk, QWidget *parent)
+KeeperPane::KeeperPane(const Program &program, const Keeper &keeper, Guard guard, QWidget *parent)
     : QWidget(parent)
     , m_program(program)
-    , m_desk(std::move(desk))
+    , m_keeper(keeper)
+    , m_guard(std::move(guard))
     , m_search(new SearchBox(u"keeperSearch"_s, u"Search"_s,
                              u"Looks through titles, user names, addresses, tags and notes"_s, this))
     , m_clear(makeIconButton(u"SSCommand2"_s, "clear-search"_L1, u"Clear the search"_s, this))
     , m_filter(named(new QComboBox(this), u"keeperFilter"_s))
     , m_list(named(new QListView(this), u"keeperList"_s))
-    , m_model(new KeeperListModel(program.state.dateStyle, this))
+    , m_model(new KeeperListModel(keeper, program.state.dateStyle, this))
     , m_count(named(makeQuietLabel({}, this), u"keeperCount"_s))
     , m_rows(new QVBoxLayout(this))
 {
@@ -49,17 +52,17 @@ KeeperPane::KeeperPane(const Program &program, Desk desk, QWidget *parent)
     m_list->setAccessibleName(u"Entries"_s);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     layOut();
-    fillFilters();
-    connect(m_search, &QLineEdit::textChanged, this, &KeeperPane::refresh);
+    fillFilters({});
+    connect(m_search, &QLineEdit::textChanged, this, &KeeperPane::search);
     connect(m_clear, &QPushButton::clicked, this, [this] {
-        clearSearch();
+        m_search->clear();
         m_search->setFocus();
     });
-    connect(m_filter, &QComboBox::currentIndexChanged, this, &KeeperPane::refresh);
+    connect(m_filter, &QComboBox::currentIndexChanged, this, &KeeperPane::narrow);
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &KeeperPane::selectionMoved);
     connect(m_list, &QListView::activated, this, &KeeperPane::entered);
-    refresh();
+    search();
 }
 
 void KeeperPane::layOut()
@@ -83,21 +86,39 @@ void KeeperPane::addButton(QPushButton *button)
     m_rows->addWidget(button);
 }
 
-void KeeperPane::setEntries(const QList<KeeperSummary> &entries)
+void KeeperPane::followKeeper()
 {
-    {
-        const QScopedValueRollback<bool> quiet(m_isFollowing, false);
-        m_model->setEntries(entries, m_program.clock.today());
-        fillFilters();
+    const QScopedValueRollback<bool> quiet(m_isFollowing, false);
+    const QList<KeeperSummary> entries = m_keeper.entries();
+    fillFilters(entries);
+    const QSet<QByteArray> before(m_chosen.begin(), m_chosen.end());
+    m_chosen.clear();
+    m_chosenEntries.clear();
+    for (const KeeperSummary &entry : entries) {
+        if (before.contains(entry.id)) {
+            m_chosen.append(entry.id);
+            m_chosenEntries.append(entry);
+        }
     }
-    refresh();
+    narrow();
+}
+
+void KeeperPane::forget()
+{
+    const QScopedValueRollback<bool> quiet(m_isFollowing, false);
+    m_filter->setCurrentIndex(0);
+    m_search->clear();
+    m_chosen.clear();
+    m_chosenEntries.clear();
+    fillFilters({});
+    m_model->forget();
 }
 
 /// What was chosen stays chosen, as far as it is still offered.
-void KeeperPane::fillFilters()
+void KeeperPane::fillFilters(const QList<KeeperSummary> &entries)
 {
     const KeeperFilter before = filter();
-    m_filters = KeeperFilters::of(m_model->entries());
+    m_filters = KeeperFilters::of(entries);
     const QSignalBlocker quiet(m_filter);
     m_filter->clear();
     for (const KeeperFilter &each : std::as_const(m_filters))
@@ -115,35 +136,50 @@ void KeeperPane::setFilter(const KeeperFilter &filter)
     m_filter->setCurrentIndex(int(std::max<qsizetype>(0, m_filters.indexOf(filter))));
 }
 
+void KeeperPane::narrow()
+{
+    const QScopedValueRollback<bool> quiet(m_isFollowing, false);
+    m_model->narrow(filter(), m_program.clock.today());
+    search();
+}
+
 /// The entry that is shown stays so, even where filter or search leave it out of the list.
-void KeeperPane::refresh()
+void KeeperPane::search()
 {
     const QScopedValueRollback<bool> quiet(m_isFollowing, false);
     const QString words = m_search->text().trimmed();
     setUnavailable(m_clear, words.isEmpty() ? KeeperWindowLines::nothingSearched() : QString());
-    m_model->show(filter(), words.isEmpty() ? std::nullopt : std::optional(m_desk.search(words)));
-    select(m_chosen);
+    m_model->show(words.isEmpty() ? std::nullopt : std::optional(m_keeper.search(words)));
+    select();
     m_count->setText(KeeperWindowLines::countOfEntries(shownCount(), filter().what == KeeperFilter::Trash,
                                                        !words.isEmpty()));
+    emit narrowed();
 }
 
 void KeeperPane::choose(const QByteArray &id)
 {
     const QScopedValueRollback<bool> quiet(m_isFollowing, false);
-    m_chosen = id.isEmpty() ? QList<QByteArray>() : QList{id};
-    if (!id.isEmpty() && !m_model->indexOf(id).isValid()) {
-        clearSearch();
-        const KeeperSummary *entry = summary(id);
-        setFilter({entry && entry->isTrashed ? KeeperFilter::Trash : KeeperFilter::All, {}, {}});
-        refresh();
-    }
-    select(m_chosen);
+    setChosen(id.isEmpty() ? QList<QByteArray>() : QList{id});
+    select();
+    if (m_chosenEntries.isEmpty() || !m_list->selectionModel()->selectedRows().isEmpty())
+        return;
+    const bool isTrashed = m_chosenEntries.first().isTrashed;
+    m_search->clear();
+    setFilter({isTrashed ? KeeperFilter::Trash : KeeperFilter::All, {}, {}});
 }
 
-const KeeperSummary *KeeperPane::summary(const QByteArray &id) const
+void KeeperPane::setChosen(const QList<QByteArray> &ids)
 {
-    const auto found = std::ranges::find(m_model->entries(), id, &KeeperSummary::id);
-    return found == m_model->entries().end() ? nullptr : &*found;
+    const QSet<QByteArray> wanted(ids.begin(), ids.end());
+    m_chosen.clear();
+    m_chosenEntries.clear();
+    for (int place = 0; place < m_keeper.count() && m_chosen.size() < wanted.size(); ++place) {
+        KeeperSummary entry = m_keeper.summary(place);
+        if (wanted.contains(entry.id)) {
+            m_chosen.append(entry.id);
+            m_chosenEntries.append(std::move(entry));
+        }
+    }
 }
 
 int KeeperPane::shownCount() const
@@ -151,13 +187,13 @@ int KeeperPane::shownCount() const
     return m_model->rowCount();
 }
 
-QList<QByteArray> KeeperPane::shown() const
+QList<KeeperSummary> KeeperPane::shown() const
 {
-    QList<QByteArray> ids;
-    ids.reserve(m_model->rowCount());
+    QList<KeeperSummary> entries;
+    entries.reserve(m_model->rowCount());
     for (int row = 0; row < m_model->rowCount(); ++row)
-        ids.append(m_model->entry(row).id);
-    return ids;
+        entries.append(m_model->entry(row));
+    return entries;
 }
 
 void KeeperPane::startSearch()
@@ -165,43 +201,46 @@ void KeeperPane::startSearch()
     m_search->startAgain();
 }
 
-void KeeperPane::clearSearch()
-{
-    m_search->clear();
-}
-
 QList<QByteArray> KeeperPane::selected() const
 {
-    QModelIndexList rows = m_list->selectionModel()->selectedRows();
-    std::ranges::sort(rows, {}, &QModelIndex::row);
+    const QModelIndexList rows = m_list->selectionModel()->selectedRows();
     QList<QByteArray> ids;
     ids.reserve(rows.size());
-    for (const QModelIndex &row : std::as_const(rows))
-        ids.append(m_model->entry(row.row()).id);
+    for (const QModelIndex &row : rows)
+        ids.append(m_model->id(row.row()));
     return ids;
 }
 
-void KeeperPane::select(const QList<QByteArray> &ids)
+/// Marks what is chosen, as far as it is listed.
+void KeeperPane::select()
 {
     const QScopedValueRollback<bool> quiet(m_isFollowing, false);
     QItemSelectionModel &selection = *m_list->selectionModel();
     selection.clear();
-    for (const QByteArray &id : ids) {
-        const QModelIndex row = m_model->indexOf(id);
-        if (!row.isValid())
+    const QSet<QByteArray> wanted(m_chosen.begin(), m_chosen.end());
+    qsizetype left = wanted.size();
+    for (int row = 0; row < m_model->rowCount() && left > 0; ++row) {
+        if (!wanted.contains(m_model->id(row)))
             continue;
-        selection.select(row, QItemSelectionModel::Select);
-        selection.setCurrentIndex(row, QItemSelectionModel::NoUpdate);
-        m_list->scrollTo(row);
+        --left;
+        const QModelIndex index = m_model->index(row);
+        selection.select(index, QItemSelectionModel::Select);
+        if (selection.currentIndex().row() < 0) {
+            selection.setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+            m_list->scrollTo(index);
+        }
     }
 }
 
 void KeeperPane::selectionMoved()
 {
-    if (!m_isFollowing || m_isAsking || selected().isEmpty() || selected() == m_chosen)
+    if (!m_isFollowing || m_isAsking)
         return;
-    if (!m_desk.isModified()) {
-        m_chosen = selected();
+    const QList<QByteArray> wanted = selected();
+    if (wanted.isEmpty() || wanted == m_chosen)
+        return;
+    if (!m_guard.isModified()) {
+        setChosen(wanted);
         emit chosenChanged(m_chosen);
         return;
     }
@@ -214,11 +253,11 @@ void KeeperPane::selectionMoved()
 void KeeperPane::takeSelected()
 {
     const QList<QByteArray> wanted = selected();
-    const bool mayGo = m_desk.mayReplace();
+    const bool mayGo = m_guard.mayReplace();
     m_isAsking = false;
     if (mayGo && !wanted.isEmpty())
-        m_chosen = wanted;
-    select(m_chosen);
+        setChosen(wanted);
+    select();
     if (mayGo)
         emit chosenChanged(m_chosen);
 }

@@ -6,7 +6,9 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
+class Keeper;
 class KeeperListModel;
 class QComboBox;
 class QLabel;
@@ -22,50 +24,56 @@ class KeeperPane final : public QWidget
 {
     Q_OBJECT
 public:
-    /// What the pane asks of the others.
-    struct Desk {
+    /// What stands before another entry takes the place of the shown one.
+    struct Guard {
         std::function<bool()> isModified;
         std::function<bool()> mayReplace; ///< asks the user when it is modified
-        /// The places of the entries that hold the words.
-        std::function<QList<int>(const QString &words)> search;
     };
 
-    KeeperPane(const Program &program, Desk desk, QWidget *parent = nullptr);
+    KeeperPane(const Program &program, const Keeper &keeper, Guard guard, QWidget *parent = nullptr);
 
-    /// The entries are others; what was chosen stays so as far as it is there. Asks nothing.
-    void setEntries(const QList<KeeperSummary> &entries);
-    /// Marks this one alone, where filter and search let it be seen; else they are lifted. Asks nothing and
-    /// says nothing.
+    /// The entries are others; what was chosen stays so as far as it is there. Asks nothing and says nothing.
+    void followKeeper();
+    /// The keeper is locked: nothing of what is in it stays behind.
+    void forget();
+    /// Marks this one alone; where filter and search leave it out, they are lifted. Asks nothing and says
+    /// nothing.
     void choose(const QByteArray &id);
     QList<QByteArray> chosen() const { return m_chosen; }
-    const KeeperSummary *summary(const QByteArray &id) const;
+    /// What the list shows of them, in the order of the keeper.
+    const QList<KeeperSummary> &chosenEntries() const { return m_chosenEntries; }
 
     KeeperFilter filter() const;
     void setFilter(const KeeperFilter &filter);
     void startSearch();
-    void clearSearch();
     void addButton(QPushButton *button);
     QListView &list() const { return *m_list; }
+    /// The entries that are listed.
     int shownCount() const;
-    QList<QByteArray> shown() const;
+    QList<KeeperSummary> shown() const;
 
 signals:
     /// None, one or several are chosen now.
     void chosenChanged(const QList<QByteArray> &ids);
     /// Enter, or a double click: the work goes on in the entry.
     void entered();
+    /// Others are listed.
+    void narrowed();
 
 private:
     void layOut();
-    void fillFilters();
-    void refresh();
+    void fillFilters(const QList<KeeperSummary> &entries);
+    void narrow();
+    void search();
     void selectionMoved();
     void takeSelected();
-    void select(const QList<QByteArray> &ids);
+    void setChosen(const QList<QByteArray> &ids);
+    void select();
     QList<QByteArray> selected() const;
 
     const Program &m_program;
-    Desk m_desk;
+    const Keeper &m_keeper;
+    Guard m_guard;
     SearchBox *m_search;
     QPushButton *m_clear;
     QComboBox *m_filter;
@@ -75,6 +83,7 @@ private:
     QVBoxLayout *m_rows;
     QList<KeeperFilter> m_filters;
     QList<QByteArray> m_chosen;
+    QList<KeeperSummary> m_chosenEntries;
     bool m_isFollowing = true; ///< a change of the selection shows its row
     bool m_isAsking = false;
 };

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/window/kindboxes.h"
 
+#include "keeper/window/onetimeline.h"
 #include "keeper/window/secretbox.h"
+#include "keeper/window/windowlines.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/pastefilter.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -109,7 +112,20 @@ QWidget *KindBoxes::makeSecret(const Box &box, Field &field)
         connect(making, &QPushButton::clicked, this, [this, secret] { emit makeWanted(secret); });
         secret->addButton(making);
     }
-    return secret;
+    if (box.input != Input::OneTimeSecret)
+        return secret;
+    auto *both = new QWidget(this);
+    auto *rows = new QVBoxLayout(both);
+    rows->setContentsMargins({});
+    rows->setSpacing(6);
+    m_code = new OneTimeLine(m_reading.clock, both);
+    rows->addWidget(secret);
+    rows->addWidget(m_code);
+    both->setFocusProxy(secret);
+    connect(secret, &SecretBox::edited, m_code, [this, secret] { m_code->setSecret(secret->secret()); });
+    connect(m_code, &OneTimeLine::copyWanted, this,
+            [this](const QString &code) { emit copyWanted(KeeperWindowLines::oneTimeCode(), code); });
+    return both;
 }
 
 void KindBoxes::load(const KeeperEntry &entry)
@@ -125,6 +141,8 @@ void KindBoxes::load(const KeeperEntry &entry)
         if (field.line)
             field.line->setCursorPosition(0);
     }
+    if (m_code)
+        m_code->setSecret(entry.text(KeeperField::OneTimeSecret));
 }
 
 void KindBoxes::store(KeeperEntry &entry) const

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-class QGridLayout;
+class OneTimeLine;
 class SecretBox;
 
 /// The boxes that the entries of one kind have.
@@ -49,6 +49,7 @@ private:
 
     DateReading m_reading;
     DatePicker *m_picker;
+    OneTimeLine *m_code = nullptr; ///< of kinds that have one-time codes
     std::vector<Field> m_fields;
 };
 

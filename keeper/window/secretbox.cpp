@@ -148,6 +148,12 @@ void SecretBox::setSecret(const QString &secret)
     showFace();
 }
 
+void SecretBox::replace(const QString &secret)
+{
+    setSecret(secret);
+    emit edited();
+}
+
 void SecretBox::setLocked(bool isLocked)
 {
     m_line->setLocked(isLocked);

@@ -54,6 +54,8 @@ public:
 
     void setSecret(const QString &secret);
     QString secret() const { return m_line->secret(); }
+    /// Another one takes its place, as if it had been typed.
+    void replace(const QString &secret);
     void setLocked(bool isLocked);
     void setShown(bool isShown);
     bool isShown() const { return m_isShown; }
