@@ -14,6 +14,8 @@
 #include "cars/model/carnews.h"
 #include "cars/model/carsource.h"
 #include "cars/window/automaint.h"
+#include "keeper/model/keepernews.h"
+#include "keeper/window/keeperwindow.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
 #include "planner/model/plannersource.h"
@@ -226,6 +228,22 @@ void showToDo(QWidget &window, const Place &place)
         lists->showPlace(place);
 }
 
+/// Whether it is open shows in its window alone.
+std::optional<LiveLine> keeperNews(const Program &program, QDate today)
+{
+    bool isOpen = false;
+    for (QWidget *window : program.functions.openWindows()) {
+        if (auto *keeper = qobject_cast<Form4 *>(window))
+            isOpen = keeper->keeper().state() == Keeper::State::Open;
+    }
+    return KeeperNews::liveLine(program.folder, isOpen, today);
+}
+
+QStringList keeperFiles(const Program &program)
+{
+    return KeeperFiles::existing(program.folder);
+}
+
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
 {
     switch (PasswordCheck(program.folder, PasswordCost::interactive(), &program.gate.memory()).state()) {
@@ -299,6 +317,12 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                        .search = toDoSearch,
                                        .show = showToDo,
                                        .files = filesOfToDo});
+    // Nothing of what it holds is told to others, guarded or not.
+    functions.add(Function::PasswordKeeper, {.open = makeWindow<Form4>,
+                                             .liveLine = keeperNews,
+                                             .liveFiles = {KeeperFiles::entries, KeeperFiles::keys},
+                                             .followsClock = true,
+                                             .files = keeperFiles});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

@@ -21,6 +21,7 @@ void weight(const Camera &camera);
 void weightPages(const Camera &camera);
 void weightGraph(const Camera &camera);
 void toDo(const Camera &camera);
+void keeper(const Camera &camera);
 void charts(const Camera &camera);
 
 } // namespace Albums

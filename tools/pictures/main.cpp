@@ -40,6 +40,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"weight-pages", Albums::weightPages},
                             Album{"weight-graph", Albums::weightGraph},
                             Album{"todo", Albums::toDo},
+                            Album{"keeper", Albums::keeper},
                             Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;

@@ -1,0 +1,359 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "keeper/model/messages.h"
+#include "keeper/window/codepanel.h"
+#include "keeper/window/entrycommands.h"
+#include "keeper/window/keeperwindow.h"
+#include "keeper/window/secretbox.h"
+#include "tests/support/openwindow.h"
+#include "tests/support/rows.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QListView>
+#include <QListWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The password keeper on 21 November 2026, with a master password that takes no time.
+class TestKeeperWindow : public OpenWindow<Form4>
+{
+    Q_OBJECT
+private slots:
+    void init() { m_test = std::make_unique<TestProgram>(); }
+    void cleanup() { close(); }
+
+    /// From nothing to a saved entry, locked and opened again: by keys alone.
+    void isBegunAndOpenedByKeys()
+    {
+        openAgain();
+        QVERIFY(find<QWidget>("setUpView")->isVisible());
+        keys(u"correct horse"_s);
+        key(Qt::Key_Tab);
+        keys(u"correct horse"_s);
+        key(Qt::Key_Return);
+        QTRY_VERIFY(find<QWidget>("codePanel")->isVisible());
+        key(Qt::Key_Escape); // the code is shown once: only its button leaves it
+        QVERIFY(find<QWidget>("codePanel")->isVisible());
+        QVERIFY(find<QPushButton>("codeWritten")->hasFocus());
+        key(Qt::Key_Return);
+        trigger("mENew");
+        keys(u"Power company"_s);
+        for (int i = 0; i < 2; ++i)
+            key(Qt::Key_Tab);
+        keys(u"anne"_s);
+        key(Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(titles(), QStringList{u"Power company"_s});
+        trigger("mOLock");
+        QVERIFY(find<QWidget>("unlockView")->isVisible());
+        QVERIFY(!find<QWidget>("keeperPane")->isVisible());
+        QCOMPARE(titles(), QStringList());
+        keys(u"correct horse"_s);
+        key(Qt::Key_Return);
+        QTRY_COMPARE(titles(), QStringList{u"Power company"_s});
+        key(Qt::Key_Down);
+        key(Qt::Key_Down);
+        QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"anne"_s);
+    }
+
+    void countsWrongAnswersAndTellsOfThem()
+    {
+        begin();
+        trigger("mOLock");
+        answer(u"wrong"_s);
+        QTRY_COMPARE(labelText("unlockRefusal"), u"That is not the password."_s);
+        QCOMPARE(titles(), QStringList());
+        QTRY_VERIFY(find<QLineEdit>("masterPassword")->isEnabled());
+        answer(u"master"_s);
+        QTRY_VERIFY(find<QWidget>("keeperPane")->isVisible());
+        QVERIFY2(said().startsWith(u"1 wrong answer since "_s), qPrintable(said()));
+    }
+
+    void opensByTheRecoveryCodeAndThenWantsANewMaster()
+    {
+        begin();
+        const QString code = m_code;
+        trigger("mOLock");
+        click("useRecoveryCode");
+        answer(code.chopped(1)); // a slip is told at once and is no wrong answer
+        QVERIFY(labelText("unlockRefusal").contains(u"missing"_s));
+        answer(code.toLower().remove(u'-'));
+        QTRY_VERIFY(find<QWidget>("masterPanel")->isVisible());
+        QVERIFY(!find<QLineEdit>("oldMaster")->isVisible());
+        find<QLineEdit>("newMaster")->setText(u"new"_s);
+        find<QLineEdit>("newMasterAgain")->setText(u"other"_s);
+        click("changeMaster");
+        QVERIFY(find<QWidget>("masterPanel")->isVisible());
+        find<QLineEdit>("newMasterAgain")->setText(u"new"_s);
+        click("changeMaster");
+        QTRY_VERIFY(!find<QWidget>("masterPanel")->isVisible());
+        trigger("mOLock");
+        answer(u"new"_s);
+        QTRY_VERIFY(find<QWidget>("keeperPane")->isVisible());
+    }
+
+    /// What was being typed is sealed, and nothing of it is left in the window.
+    void bringsBackWhatWasTypedWhenItLockedItself()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<QLineEdit>("entryBox_3")->setText(u"anne.lind"_s);
+        QVERIFY(m_window->isModified());
+        emit m_test->changes.lockRequested();
+        QVERIFY(!m_window->isModified());
+        for (const QLineEdit *box : m_window->findChildren<QLineEdit *>())
+            QVERIFY2(box->text().isEmpty(), qPrintable(box->objectName()));
+        QVERIFY(!m_test->bytes(u"Secfile1.Fil"_s).contains("anne"));
+        answer(u"master"_s);
+        QTRY_VERIFY(m_window->isModified());
+        QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"anne.lind"_s);
+        QCOMPARE(find<SecretBox>("entrySecret_4")->secret(), u"hunter2"_s);
+        trigger("mESave");
+        QVERIFY(!m_window->isModified());
+    }
+
+    void copiesFromTheListForAWhile()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<QListView>("keeperList")->setFocus();
+        key(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(clipboard(), u"hunter2"_s);
+        key(Qt::Key_B, Qt::ControlModifier);
+        QCOMPARE(clipboard(), u"anne"_s);
+        trigger("mOLock");
+        QCOMPARE(clipboard(), QString());
+    }
+
+    void opensOnlyWhatABrowserShows_data()
+    {
+        rows<QString, QUrl>({
+            {"with its scheme", u"https://example.org/in"_s, QUrl(u"https://example.org/in"_s)},
+            {"without", u"example.org"_s, QUrl(u"http://example.org"_s)},
+            {"a file", u"file:///etc/passwd"_s, QUrl()},
+            {"a program", u"javascript:alert(1)"_s, QUrl()},
+        });
+    }
+    void opensOnlyWhatABrowserShows()
+    {
+        const auto [address, opened] = row<QString, QUrl>();
+        begin();
+        QUrl asked;
+        m_window->entryCommands().openAddress = [&asked](const QUrl &url) {
+            asked = url;
+            return true;
+        };
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<QLineEdit>("entryBox_5")->setText(address);
+        click("openAddress_5");
+        QCOMPARE(asked, opened);
+        trigger("mESave");
+    }
+
+    void deletesAndTakesItBack()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        addEntry(u"Bank"_s, u"anne"_s, u"hunter3"_s);
+        find<QListView>("keeperList")->selectAll();
+        QCOMPARE(labelText("severalTitle"), u"2 entries chosen"_s);
+        find<QListView>("keeperList")->setFocus();
+        key(Qt::Key_Delete);
+        QCOMPARE(titles(), QStringList());
+        trigger("mEUndo");
+        QCOMPARE(titles().size(), 2);
+        trigger("mERedo");
+        trigger("mVTrash");
+        QCOMPARE(titles().size(), 2);
+        find<QListView>("keeperList")->selectAll();
+        m_test->dialogs.willAnswer(Answer::No);
+        key(Qt::Key_Delete);
+        QCOMPARE(titles().size(), 2);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        trigger("mEDel");
+        QCOMPARE(titles(), QStringList());
+    }
+
+    void tagsSeveralAtOnce()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        addEntry(u"Bank"_s, u"anne"_s, u"hunter3"_s);
+        find<QListView>("keeperList")->selectAll();
+        find<QLineEdit>("severalTag")->setText(u"money"_s);
+        click("giveTag");
+        auto *filter = find<QComboBox>("keeperFilter");
+        filter->setCurrentIndex(filter->findText(u"Tag: money"_s));
+        QCOMPARE(titles(), (QStringList{u"Bank"_s, u"Power company"_s}));
+        typeInto(find<QLineEdit>("keeperSearch"), u"pow"_s);
+        QCOMPARE(titles(), QStringList{u"Power company"_s});
+        click("SSCommand2");
+        QCOMPARE(titles().size(), 2);
+    }
+
+    void asksBeforeWhatWasTypedGivesWay()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        addEntry(u"Bank"_s, u"anne"_s, u"hunter3"_s);
+        find<QLineEdit>("entryBox_3")->setText(u"nils"_s);
+        m_test->dialogs.willAnswer(Answer::Cancel);
+        choose(1);
+        QTRY_COMPARE(asked(), {KeeperMessages::saveChanges()});
+        QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"nils"_s);
+        m_test->dialogs.willAnswer(Answer::No);
+        choose(1);
+        QTRY_COMPARE(find<QLineEdit>("entryTitle")->text(), u"Power company"_s);
+        choose(0);
+        QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"anne"_s);
+    }
+
+    void bringsAnEarlierVersionBack()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<SecretBox>("entrySecret_4")->replace(u"hunter3"_s);
+        trigger("mESave");
+        trigger("mEVersions");
+        QCOMPARE(find<QListWidget>("versionsList")->count(), 1);
+        click("bringBackVersion");
+        QCOMPARE(find<SecretBox>("entrySecret_4")->secret(), u"hunter2"_s);
+    }
+
+    /// The typing stays where the disk refuses.
+    void keepsWhatTheDiskRefuses()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<QLineEdit>("entryTitle")->clear();
+        trigger("mESave");
+        QVERIFY(m_window->isModified());
+        QVERIFY(find<QLineEdit>("entryTitle")->hasFocus());
+        find<QLineEdit>("entryTitle")->setText(u"Power"_s);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        QVERIFY(m_window->close());
+        m_test->dialogs.takeShown();
+    }
+
+    /// On paper, in a PDF and on the clipboard too, and each is asked about.
+    void printsDotsUntilSecretsAreAskedFor()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        trigger("mOPrt");
+        click("keeperPrintShow");
+        const auto copied = [this] {
+            m_test->dialogs.willAnswer(Answer::Ok);
+            click("SSCommand80_3");
+            return clipboard();
+        };
+        QVERIFY(copied().contains(u"Power company"_s));
+        QVERIFY(!copied().contains(u"hunter2"_s));
+        click("showSecrets");
+        QVERIFY(copied().contains(u"hunter2"_s));
+        m_test->dialogs.takeShown();
+        m_test->dialogs.willAnswer(Answer::Ok);
+        m_test->dialogs.willAnswer(Answer::No);
+        click("SSCommand80_4");
+        QCOMPARE(asked(), (QList{KeeperMessages::beforePrinting(), KeeperMessages::savePdf()}));
+        trigger("mOLock");
+        QCOMPARE(clipboard(), QString());
+        QVERIFY(!m_window->isPreviewShown());
+    }
+
+    void saysWhatIsWrongWithTheFiles_data()
+    {
+        rows<QString, QByteArray, QString>({
+            {"the key file is damaged", u"Secfile2.fil"_s, "QKEEPER\1 and nothing that is whole"_ba,
+             u"The keeper's key file Secfile2.fil is damaged."_s},
+            {"the key file is missing",
+             u"Secfile2.fil"_s,
+             {},
+             u"The keeper's file Secfile2.fil is missing."_s},
+            {"the entries are missing",
+             u"Secfile1.Fil"_s,
+             {},
+             u"The keeper's file Secfile1.Fil is missing."_s},
+        });
+    }
+    void saysWhatIsWrongWithTheFiles()
+    {
+        const auto [name, bytes, sentence] = row<QString, QByteArray, QString>();
+        begin();
+        delete m_window;
+        if (bytes.isEmpty())
+            QVERIFY(QFile::remove(m_test->path(name)));
+        else
+            m_test->setBytes(name, bytes);
+        openAgain();
+        QStringList texts;
+        for (const QLabel *label : find<QWidget>("keeperTrouble")->findChildren<QLabel *>())
+            texts.append(label->text());
+        QVERIFY2(texts.contains(sentence), qPrintable(texts.join(u'|')));
+        QVERIFY(!find<QAction>("mENew")->isEnabled());
+    }
+
+private:
+    void openAgain()
+    {
+        m_window = new Form4(m_test->program, nullptr, PasswordCost::minimum(), std::chrono::milliseconds(1));
+        showActive(*m_window);
+    }
+
+    /// A keeper that opens with "master"; its code is remembered.
+    void begin()
+    {
+        openAgain();
+        find<QLineEdit>("newMaster")->setText(u"master"_s);
+        find<QLineEdit>("newMasterAgain")->setText(u"master"_s);
+        click("makeKeeper");
+        QTRY_VERIFY(m_window->findChild<QWidget *>(u"codePanel"_s));
+        m_code = find<CodePanel>("codePanel")->code();
+        click("codeWritten");
+    }
+
+    void addEntry(const QString &title, const QString &user, const QString &password)
+    {
+        trigger("mENew");
+        find<QLineEdit>("entryTitle")->setText(title);
+        find<QLineEdit>("entryBox_3")->setText(user);
+        find<SecretBox>("entrySecret_4")->replace(password);
+        trigger("mESave");
+        QVERIFY(!m_window->isModified());
+    }
+
+    void answer(const QString &text)
+    {
+        find<QLineEdit>("masterPassword")->setText(text);
+        click("openKeeper");
+    }
+
+    void keys(const QString &text) const { QTest::keyClicks(m_window->focusWidget(), text); }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(m_window->focusWidget(), key, modifiers);
+    }
+
+    QStringList titles() const
+    {
+        const QAbstractItemModel *model = find<QListView>("keeperList")->model();
+        QStringList titles;
+        for (int row = 0; row < model->rowCount(); ++row)
+            titles.append(model->index(row, 0).data().toString());
+        return titles;
+    }
+
+    void choose(int row) const
+    {
+        auto *list = find<QListView>("keeperList");
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualRect(list->model()->index(row, 0)).center());
+    }
+
+    static QString clipboard() { return QGuiApplication::clipboard()->text(); }
+
+    QString m_code;
+};
+
+QTEST_MAIN(TestKeeperWindow)
+#include "tst_keeperwindow.moc"
