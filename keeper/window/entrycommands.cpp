@@ -55,7 +55,7 @@ void EntryCommands::addEntryCommands(QMenu *edit)
         [this] { return m_work.isLocked() ? KeeperWindowLines::isInTrash() : whyNoEntry(); },
         CommonKeys::change));
     m_duplicate = commands.writing(commands.add(
-        edit, u"mEDup"_s, u"D&uplicate"_s, [this] { duplicate(); }, [this] { return whyNoEntry(); },
+        edit, u"mEDup"_s, u"Dupl&icate"_s, [this] { duplicate(); }, [this] { return whyNoEntry(); },
         Qt::CTRL | Qt::Key_D));
     m_favourite = commands.writing(commands.add(
         edit, u"mEFav"_s, u"&Favourite"_s, [this] { turnFavourite(); }, [this] { return whyNoneChosen(); }));

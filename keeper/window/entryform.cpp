@@ -31,6 +31,25 @@ constexpr int rowGap = 10;
 constexpr int boxGap = 12;
 constexpr int kindWidth = 160;
 constexpr int notesHeight = 96;
+
+/// Lets Tab pass through what `layout` holds, parts of parts too, behind `before`; returns the last of it.
+QWidget *chain(const QLayout &layout, QWidget *before)
+{
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem *item = layout.itemAt(i);
+        QWidget *part = item->widget();
+        const QLayout *inner = part ? part->layout() : item->layout();
+        if (part && part->focusPolicy() != Qt::NoFocus) {
+            if (before)
+                QWidget::setTabOrder(before, part);
+            before = part;
+        } else if (inner) {
+            before = chain(*inner, before);
+        }
+    }
+    return before;
+}
+
 } // namespace
 
 EntryForm::EntryForm(const Program &program, QWidget *window, QWidget *parent)
@@ -44,7 +63,7 @@ EntryForm::EntryForm(const Program &program, QWidget *window, QWidget *parent)
     , m_tags(new TagBox(u"entryTags"_s, this))
     , m_member(named(new QComboBox(this), u"entryMember"_s))
     , m_expires(nullptr)
-    , m_favourite(named(new QCheckBox(u"Fa&vourite"_s, this), u"entryFavourite"_s))
+    , m_favourite(named(new QCheckBox(u"Favourite"_s, this), u"entryFavourite"_s))
     , m_notes(named(new QPlainTextEdit(this), u"entryNotes"_s))
 {
     m_expires =
@@ -105,6 +124,7 @@ void EntryForm::follow()
     connect(m_favourite, &QCheckBox::toggled, this, &EntryForm::edited);
     connect(m_notes, &QPlainTextEdit::textChanged, this, &EntryForm::edited);
     connect(m_own, &OwnFields::edited, this, &EntryForm::edited);
+    connect(m_own, &OwnFields::rowAdded, this, &EntryForm::orderTabs);
     connect(m_own, &OwnFields::copyWanted, this, &EntryForm::copyWanted);
     connect(m_kind, &QComboBox::currentIndexChanged, this, [this] {
         // What was typed into boxes that both kinds have goes along.
@@ -148,6 +168,13 @@ void EntryForm::showKind(EntryKind kind)
     m_shown = &wanted;
     m_shown->setLocked(m_isLocked);
     m_shown->show();
+    orderTabs();
+}
+
+/// Boxes of a kind and own fields are made when they are needed, and would come last.
+void EntryForm::orderTabs()
+{
+    chain(*layout(), nullptr);
 }
 
 void EntryForm::setOffered(const QStringList &tags, const QStringList &members)

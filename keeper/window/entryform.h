@@ -65,6 +65,7 @@ private:
     void follow();
     KindBoxes &boxes(EntryKind kind);
     void showKind(EntryKind kind);
+    void orderTabs();
     QList<SecretBox *> secrets() const;
     EntryKind kind() const;
 

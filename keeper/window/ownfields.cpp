@@ -130,6 +130,7 @@ void OwnFields::addRow(const KeeperText &field)
         emit edited();
     });
     connect(row.remove, &QPushButton::clicked, this, [this, whole] { removeRow(whole); });
+    emit rowAdded();
 }
 
 void OwnFields::removeRow(QWidget *whole)

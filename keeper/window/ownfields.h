@@ -28,6 +28,7 @@ public:
 
 signals:
     void edited();
+    void rowAdded();
     void copyWanted(const QString &caption, const QString &text);
 
 private:
