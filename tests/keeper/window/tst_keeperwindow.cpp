@@ -199,7 +199,7 @@ private slots:
         find<QLineEdit>("entryBox_3")->setText(u"nils"_s);
         m_test->dialogs.willAnswer(Answer::Cancel);
         choose(1);
-        QTRY_COMPARE(asked(), {KeeperMessages::saveChanges()});
+        QTRY_COMPARE(asked(), QList{KeeperMessages::saveChanges()});
         QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"nils"_s);
         m_test->dialogs.willAnswer(Answer::No);
         choose(1);
