@@ -10,8 +10,11 @@
 #include <benchmark/benchmark.h>
 #include <sodium.h>
 
+#include <array>
 #include <cstring>
 #include <malloc.h>
+#include <map>
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,15 +58,12 @@ qsizetype textOf(const KeeperEntry &entry)
     return size;
 }
 
-/// A keeper with `count` entries of two versions.
+/// A keeper with `count` entries of two versions, where the program was started: on a disk.
 class FullKeeper
 {
 public:
-    explicit FullKeeper(int count, const QString &place = QDir::tempPath(),
-                        PasswordCost cost = PasswordCost::moderate())
-        : temporary(place + u"/bench_keeper-XXXXXX"_s)
-        , cost(cost)
-        , keeper(folder, clock, cost)
+    explicit FullKeeper(int count)
+        : temporary(QDir::currentPath() + u"/bench_keeper-XXXXXX"_s)
     {
         bool isMade = keeper.create(run(keeper.newKey(master)), run(keeper.newKey(u"code"_s)));
         QList<KeeperEntry> entries;
@@ -93,10 +93,22 @@ public:
     QTemporaryDir temporary;
     DataFolder folder{temporary.path()};
     SystemClock clock;
-    PasswordCost cost;
-    Keeper keeper;
+    PasswordCost cost = PasswordCost::moderate();
+    Keeper keeper{folder, clock, cost};
     qsizetype text = 0;
 };
+
+/// One of each, since making it takes longer than what is measured.
+FullKeeper &keeperOf(int count)
+{
+    static std::map<int, std::unique_ptr<FullKeeper>> made;
+    std::unique_ptr<FullKeeper> &keeper = made[count];
+    if (!keeper)
+        keeper = std::make_unique<FullKeeper>(count);
+    if (keeper->keeper.state() == Keeper::State::Locked)
+        keeper->unlock();
+    return *keeper;
+}
 
 /// Argon2id as it is, at the same cost.
 void derive(const PasswordCost &cost)
@@ -138,7 +150,7 @@ QByteArray sealedRecords(qsizetype count, qsizetype length, const std::array<uns
 void unlockTenThousand(benchmark::State &state)
 {
     constexpr double most = 1.3;
-    FullKeeper full(fullCount);
+    FullKeeper &full = keeperOf(fullCount);
     constexpr std::array<unsigned char, 32> key{1, 2, 3};
     const QByteArray sealed = sealedRecords(full.bytes().size() / 2048, 2048, key);
     Limit limit(state, most);
@@ -158,7 +170,7 @@ BENCHMARK(unlockTenThousand)->UseManualTime()->Iterations(5);
 void unlockFiveHundred(benchmark::State &state)
 {
     constexpr double most = 1 / 0.9;
-    FullKeeper full(usualCount);
+    FullKeeper &full = keeperOf(usualCount);
     Limit limit(state, most);
     for ([[maybe_unused]] const auto _ : state) {
         full.keeper.lock();
@@ -172,7 +184,7 @@ BENCHMARK(unlockFiveHundred)->UseManualTime()->Iterations(5);
 void search(benchmark::State &state, const QString &typed)
 {
     constexpr double most = 5;
-    FullKeeper full(fullCount, QDir::tempPath(), PasswordCost::minimum());
+    FullKeeper &full = keeperOf(fullCount);
     QByteArray folded;
     for (int number = 0; number < fullCount; ++number) {
         const KeeperEntry entry = entryOf(number);
@@ -192,11 +204,11 @@ BENCHMARK_CAPTURE(search, threeLetters, u"pow"_s)->UseManualTime()->MinTime(1);
 BENCHMARK_CAPTURE(search, aRareWord, u"town 9876"_s)->UseManualTime()->MinTime(1);
 BENCHMARK_CAPTURE(search, anAccent, u"jos\u00e9"_s)->UseManualTime()->MinTime(1);
 
-/// Where the program was started, on a disk: what counts is the flushes.
+/// What counts is the flushes.
 void saveAnEntry(benchmark::State &state)
 {
     constexpr double most = 3;
-    FullKeeper full(fullCount, QDir::currentPath(), PasswordCost::minimum());
+    FullKeeper &full = keeperOf(fullCount);
     const QByteArray id = full.keeper.summary(0).id;
     KeeperEntry entry = full.keeper.entry(id).value_or(KeeperEntry());
     QFile beside(full.folder.path() + u"/beside"_s);
@@ -223,7 +235,7 @@ BENCHMARK(saveAnEntry)->UseManualTime()->MinTime(3);
 void memoryOfTenThousand(benchmark::State &state)
 {
     constexpr double most = 3;
-    FullKeeper full(fullCount, QDir::tempPath(), PasswordCost::interactive());
+    FullKeeper &full = keeperOf(fullCount);
     double used = 0;
     for ([[maybe_unused]] const auto _ : state) {
         full.keeper.lock();

@@ -19,7 +19,7 @@ using Version = KeeperFile::Version;
 
 const QByteArray noId(KeeperRecord::idLength, '\0');
 constexpr std::size_t mostExpiries = 127;
-/// From so many changed entries on, all are put in order anew.
+/// From so many changed entries on, all are looked through at once.
 constexpr qsizetype many = 64;
 
 bool isEarlier(const Version &version)
@@ -38,7 +38,6 @@ Keeper::Keeper(const DataFolder &folder, const Clock &clock, PasswordCost cost)
     : m_folder(folder)
     , m_clock(clock)
     , m_cost(cost)
-    , m_keys(KeeperFiles::keySlots(folder))
 {}
 
 Keeper::State Keeper::state() const
@@ -48,12 +47,12 @@ Keeper::State Keeper::state() const
 
 bool Keeper::isOneCopyDamaged() const
 {
-    return m_keys.state() == KeySlots::State::OneCopyDamaged;
+    return keys().state() == KeySlots::State::OneCopyDamaged;
 }
 
 KeyDerivation Keeper::newKey(const QString &password) const
 {
-    const std::optional<KeySlots::Content> content = m_keys.content();
+    const std::optional<KeySlots::Content> content = keys().content();
     return KeyDerivation::fresh(SecretBytes::ofText(password), content ? content->cost : m_cost);
 }
 
@@ -79,10 +78,10 @@ std::optional<KeeperOpening> Keeper::makeOpening(const QString &typed, KeySlots:
         slot == KeySlots::Recovery ? RecoveryCode::read(typed) : std::optional(typed);
     if (!text || text->isEmpty())
         return std::nullopt;
-    std::optional<KeyDerivation> derivation = m_keys.opening(slot, SecretBytes::ofText(*text));
+    std::optional<KeyDerivation> derivation = keys().opening(slot, SecretBytes::ofText(*text));
     if (!derivation)
         return std::nullopt;
-    return KeeperOpening(m_folder, m_keys, slot, std::move(*derivation), readsEntries);
+    return KeeperOpening(m_folder, keys(), slot, std::move(*derivation), readsEntries);
 }
 
 bool Keeper::create(const KeyDerivation &master, const KeyDerivation &code)
@@ -92,12 +91,11 @@ bool Keeper::create(const KeyDerivation &master, const KeyDerivation &code)
     SecretBytes key;
     QByteArray id;
     ChangeSet change(m_folder);
-    const QByteArray keys = m_keys.made(master, code, key, id);
+    const QByteArray bothCopies = keys().made(master, code, key, id);
     change.replace(KeeperFiles::entries, KeeperFile::made(SecretBytes::copyOf(key.view()), id));
-    change.replace(KeeperFiles::keys, keys);
+    change.replace(KeeperFiles::keys, bothCopies);
     if (!change.commit())
         return false;
-    m_keys = KeeperFiles::keySlots(m_folder);
     m_file = std::make_unique<KeeperFile>(m_folder, std::move(key), id);
     m_file->load();
     m_index = KeeperOpening::indexOf(*m_file);
@@ -109,9 +107,9 @@ bool Keeper::create(const KeyDerivation &master, const KeyDerivation &code)
 bool Keeper::judge(const KeeperOpening &opening)
 {
     if (opening.isRight())
-        std::ignore = m_keys.forgetWrongAnswers(); // opens all the same where nothing can be written
+        std::ignore = keys().forgetWrongAnswers(); // opens all the same where nothing can be written
     else if (opening.isJudged())
-        std::ignore = m_keys.countWrongAnswer(m_clock.now());
+        std::ignore = keys().countWrongAnswer(m_clock.now());
     return opening.isRight();
 }
 
@@ -135,7 +133,7 @@ bool Keeper::isRight(const KeeperOpening &checking)
 
 KeySlots::WrongAnswers Keeper::wrongAnswers() const
 {
-    const std::optional<KeySlots::Content> content = m_keys.content();
+    const std::optional<KeySlots::Content> content = keys().content();
     return content ? content->wrongAnswers : KeySlots::WrongAnswers();
 }
 
@@ -151,12 +149,12 @@ void Keeper::lock()
 
 bool Keeper::changeMaster(const KeyDerivation &master)
 {
-    return m_file && m_keys.setSlot(KeySlots::Password, master, m_file->key());
+    return m_file && keys().setSlot(KeySlots::Password, master, m_file->key());
 }
 
 bool Keeper::changeCode(const KeyDerivation &code)
 {
-    return m_file && m_keys.setSlot(KeySlots::Recovery, code, m_file->key());
+    return m_file && keys().setSlot(KeySlots::Recovery, code, m_file->key());
 }
 
 QList<KeeperSummary> Keeper::entries() const
@@ -256,8 +254,7 @@ bool Keeper::saveAll(QList<KeeperEntry> &entries)
 void Keeper::trim(const QList<QByteArray> &ids)
 {
     std::vector<int> records;
-    for (const QByteArray &id : ids) {
-        const std::vector<Version> versions = m_file->versions(Sort::Entry, id);
+    const auto gather = [&records](const QByteArray &id, const std::vector<Version> &versions) {
         const auto current = KeeperOpening::current(id, versions);
         qsizetype earlier = 0;
         for (auto it = versions.rbegin(); current && it != versions.rend(); ++it) {
@@ -266,24 +263,30 @@ void Keeper::trim(const QList<QByteArray> &ids)
             if (it->state == KeeperRecord::Trash || ++earlier > earlierVersions)
                 append(records, *it);
         }
+    };
+    if (ids.size() >= many) {
+        m_file->forEach(Sort::Entry, gather);
+    } else {
+        for (const QByteArray &id : ids)
+            gather(id, m_file->versions(Sort::Entry, id));
     }
     std::ignore = m_file->release(records);
 }
 
 void Keeper::showAnew(const QList<QByteArray> &ids)
 {
-    for (const QByteArray &id : ids) {
-        m_index.remove(id);
-        const auto current = KeeperOpening::current(id, m_file->versions(Sort::Entry, id));
-        const auto payload = current ? m_file->payload(current->version) : std::nullopt;
-        if (!payload)
-            continue;
-        m_index.add(current->facts, payload->view());
-        if (ids.size() < many)
-            m_index.settle();
+    if (ids.size() >= many) {
+        m_index = KeeperOpening::indexOf(*m_file);
+    } else {
+        for (const QByteArray &id : ids) {
+            m_index.remove(id);
+            const auto current = KeeperOpening::current(id, m_file->versions(Sort::Entry, id));
+            if (const auto payload = current ? m_file->payload(current->version) : std::nullopt) {
+                m_index.add(current->facts, payload->view());
+                m_index.settle();
+            }
+        }
     }
-    if (ids.size() >= many)
-        m_index.sort();
     tellExpiries();
     emit changed();
 }
@@ -475,10 +478,10 @@ void Keeper::tellExpiries()
         for (std::size_t i = 0; i < days.size(); ++i)
             qToLittleEndian<qint32>(days[i], record.data() + sizeof(quint32) + i * sizeof(qint32));
     }
-    const QByteArray written = m_keys.openRecord();
+    const QByteArray written = keys().openRecord();
     const bool isEmpty = std::ranges::all_of(written, [](char byte) { return byte == 0; });
     if (record != written && !(record.isEmpty() && isEmpty))
-        std::ignore = m_keys.setOpenRecord(record); // the next change tells it anew
+        std::ignore = keys().setOpenRecord(record); // the next change tells it anew
 }
 
 QList<int> Keeper::damagedPlaces() const

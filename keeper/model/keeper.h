@@ -111,6 +111,7 @@ signals:
     void changed();
 
 private:
+    KeySlots keys() const { return KeeperFiles::keySlots(m_folder); }
     std::optional<KeeperOpening> makeOpening(const QString &typed, KeySlots::Slot slot,
                                              bool readsEntries) const;
     bool judge(const KeeperOpening &opening);
@@ -128,7 +129,6 @@ private:
     DataFolder m_folder;
     const Clock &m_clock;
     PasswordCost m_cost;
-    KeySlots m_keys;
     std::unique_ptr<KeeperFile> m_file; ///< while it is open
     KeeperIndex m_index;
     KeeperSettings m_settings;

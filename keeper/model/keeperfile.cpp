@@ -241,14 +241,15 @@ void KeeperFile::forEachPayload(const std::vector<std::pair<int, qsizetype>> &re
     });
 }
 
-quint32 KeeperFile::nextVersion(Sort sort, qint32 owner) const
+/// Of each owner, with what interrupted writes left.
+std::vector<quint32> KeeperFile::highestVersions(Sort sort) const
 {
-    quint32 highest = 0;
+    std::vector<quint32> highest(m_ids.size());
     for (const Place &place : m_places) {
-        if (place.owner == owner && isOf(place, sort))
-            highest = std::max(highest, place.version);
+        if (isOf(place, sort))
+            highest[std::size_t(place.owner)] = std::max(highest[std::size_t(place.owner)], place.version);
     }
-    return highest < std::numeric_limits<quint32>::max() ? highest + 1 : 0;
+    return highest;
 }
 
 QByteArray KeeperFile::sealedFree(int record) const
@@ -288,17 +289,17 @@ std::vector<int> KeeperFile::takeFree(std::size_t count)
     return free;
 }
 
-bool KeeperFile::writeParts(OpenRecordFile &file, const Writing &writing, std::vector<int> &free,
-                            std::vector<Written> &written)
+bool KeeperFile::writeParts(OpenRecordFile &file, const Writing &writing, quint32 version,
+                            std::vector<int> &free, std::vector<Written> &written)
 {
     KeeperRecord head;
     head.state = writing.state;
     head.parts = quint16(partsOf(writing.payload));
     head.id = writing.id;
     head.time = writing.time;
+    head.version = version;
     const qint32 owner = ownerOf(writing.id);
-    head.version = nextVersion(sortOf(writing.state), owner);
-    if (head.parts > KeeperRecord::mostParts || head.version == 0)
+    if (head.parts > KeeperRecord::mostParts)
         return false;
     for (head.part = 1; head.part <= head.parts; ++head.part) {
         const int record = free.back();
@@ -337,14 +338,21 @@ bool KeeperFile::write(const std::vector<Writing> &writings)
     std::size_t count = 0;
     for (const Writing &writing : writings)
         count += partsOf(writing.payload);
+    if (m_folder.isReadOnly() || writings.empty())
+        return writings.empty();
     std::vector<int> free = takeFree(count);
-    if (m_folder.isReadOnly() || free.size() < count)
+    if (free.size() < count)
         return false;
+    std::vector<quint32> versions = highestVersions(sortOf(writings.front().state));
     OpenRecordFile file(m_file);
     std::vector<Written> written;
     written.reserve(count);
-    bool isDone = std::ranges::all_of(
-        writings, [&](const Writing &writing) { return writeParts(file, writing, free, written); });
+    bool isDone = std::ranges::all_of(writings, [&](const Writing &writing) {
+        const auto owner = std::size_t(ownerOf(writing.id));
+        versions.resize(m_ids.size());
+        return versions[owner] < std::numeric_limits<quint32>::max() &&
+               writeParts(file, writing, ++versions[owner], free, written);
+    });
     isDone = isDone && file.flush();
     auto one = written.cbegin();
     for (const Writing &writing : writings) {

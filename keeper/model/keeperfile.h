@@ -72,8 +72,8 @@ public:
     void forEachPayload(const std::vector<std::pair<int, qsizetype>> &records,
                         const std::function<void(qsizetype tag, QByteArrayView payload)> &visit) const;
 
-    /// Writes a new version of each into free records, flushes, reads them back and opens them. False, with
-    /// all as it was, when the disk refuses.
+    /// Writes a new version of each into free records, flushes, reads them back and opens them. All are of
+    /// one sort. False, with all as it was, when the disk refuses.
     [[nodiscard]] bool write(const std::vector<Writing> &writings);
     /// Overwrites these records as free ones, and flushes. False when the disk refuses; some may be free
     /// then.
@@ -114,11 +114,11 @@ private:
     void note(int record, QByteArrayView open);
     void findLeftOvers();
     std::vector<Version> gathered(std::vector<int> records) const;
-    quint32 nextVersion(Sort sort, qint32 owner) const;
+    std::vector<quint32> highestVersions(Sort sort) const;
     std::vector<int> takeFree(std::size_t count);
     [[nodiscard]] bool grow(std::size_t missing);
     QByteArray sealedFree(int record) const;
-    bool writeParts(OpenRecordFile &file, const Writing &writing, std::vector<int> &free,
+    bool writeParts(OpenRecordFile &file, const Writing &writing, quint32 version, std::vector<int> &free,
                     std::vector<Written> &written);
     bool readsBack(OpenRecordFile &file, const Written &written, QByteArrayView plain) const;
     static void takeBack(OpenRecordFile &file, const std::vector<Written> &written);

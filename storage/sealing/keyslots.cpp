@@ -132,7 +132,8 @@ KeySlots::Copies KeySlots::copies(QByteArrayView bytes) const
 
 bool KeySlots::isLater(QByteArrayView record) const
 {
-    return record.startsWith(m_magic) && record.size() > versionAt && record[versionAt] > formVersion;
+    return record.startsWith(m_magic) && record.size() > versionAt &&
+           uchar(record[versionAt]) > uchar(formVersion);
 }
 
 std::optional<KeySlots::Content> KeySlots::parsedCopy(QByteArrayView record) const

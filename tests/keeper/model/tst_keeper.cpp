@@ -269,6 +269,19 @@ private slots:
         QVERIFY(!bytes.contains("Entry") && !bytes.contains(QByteArray(16, '\0')));
     }
 
+    void keepsBothOfTwoVersionsSavedAtOnce()
+    {
+        Desk desk;
+        const QByteArray id = desk.add(u"Bank"_s, u"1"_s);
+        QList<KeeperEntry> entries{*desk.keeper.entry(id), *desk.keeper.entry(id)};
+        entries[0].setText(KeeperField::Password, u"2"_s);
+        entries[1].setText(KeeperField::Password, u"3"_s);
+        QVERIFY(desk.keeper.saveAll(entries));
+        desk.reopen();
+        QCOMPARE(desk.password(id), u"3"_s);
+        QCOMPARE(desk.keeper.versions(id).size(), 2);
+    }
+
     void putsIntoTheTrashAndBack()
     {
         Desk desk;
