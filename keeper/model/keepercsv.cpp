@@ -37,12 +37,14 @@ CsvColumns::Wanted wanted()
                       {Import::Member, {u"member"_s}},
                       {Import::Favourite, {u"favourite"_s, u"favorite"_s, u"fav"_s}},
                       {Import::Title, {u"title"_s, u"titel"_s, u"name"_s, u"account"_s, u"konto"_s}}},
-            .isOther = [](const QString &heading) {
-                // Addresses and people's names are no headings, and these have such words in them.
-                return heading.contains(u"://"_s) || heading.contains(u'@') ||
-                       heading.contains(u"security"_s, Qt::CaseInsensitive) ||
-                       heading.contains(u"action"_s, Qt::CaseInsensitive) || KeeperTexts::isOwn(heading);
-            }};
+            .isOther =
+                [](const QString &heading) {
+                    // Addresses and people's names are no headings, and these have such words in them.
+                    return heading.contains(u"://"_s) || heading.contains(u'@') ||
+                           heading.contains(u"security"_s, Qt::CaseInsensitive) ||
+                           heading.contains(u"action"_s, Qt::CaseInsensitive) || KeeperTexts::isOwn(heading);
+                },
+            .hasExamples = false};
 }
 
 bool isTrue(const QString &text)
