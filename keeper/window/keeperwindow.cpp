@@ -8,6 +8,7 @@
 #include "keeper/window/entryview.h"
 #include "keeper/window/entrywork.h"
 #include "keeper/window/keeperdoor.h"
+#include "keeper/window/keeperexchange.h"
 #include "keeper/window/keeperpane.h"
 #include "keeper/window/keeperprint.h"
 #include "keeper/window/keepertools.h"
@@ -15,6 +16,7 @@
 #include "keeper/window/windowlines.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
+#include "shell/controls/emptypage.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
@@ -58,6 +60,7 @@ Form4::Form4(Program &program, QWidget *parent, PasswordCost cost, std::chrono::
     , m_commands(new EntryCommands(desk(), *m_work, *m_pane, this))
     , m_tools(new KeeperTools(desk(), *m_work, *m_pane, this))
     , m_print(new KeeperPrint(desk(), *m_pane, this))
+    , m_exchange(new KeeperExchange(desk(), *m_pane, this))
 {
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(),
                              [](QSize window) { return window.width() < 1200 ? 212 : 272; }));
@@ -115,6 +118,8 @@ void Form4::makeCommands()
     m_tools->addGenerator(utilities);
     m_print->addSheet(utilities);
     utilities->addSeparator();
+    m_exchange->addCommands(utilities);
+    utilities->addSeparator();
     m_door->addCommands(utilities);
     utilities->addSeparator();
     utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
@@ -124,6 +129,9 @@ void Form4::makeCommands()
         addStandardTool(tool);
     addStandardTool(Standard::Help, u"mH_tool"_s);
     m_commands->makeButtons();
+    EmptyPage &empty = m_work->emptyPage();
+    QAction *importing = m_exchange->importCommand();
+    empty.addButton(commands().button(importing, u"emptyImport"_s, importing->text(), &empty));
     ButtonRow &foot = m_work->view().foot();
     foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
 }
@@ -179,6 +187,10 @@ void Form4::connectParts()
     connect(m_commands, &EntryCommands::replacing, this, askFirst);
     connect(m_tools, &KeeperTools::replacing, this, askFirst);
     connect(m_print, &KeeperPrint::replacing, this, askFirst);
+    connect(m_exchange, &KeeperExchange::replacing, this, askFirst);
+    connect(m_exchange, &KeeperExchange::said, this, say);
+    connect(m_exchange, &KeeperExchange::progressed, &activity(),
+            [this](int done, int total) { activity().showProgress(done, total); });
     connect(m_print, &KeeperPrint::said, this, say);
     connect(m_print, &KeeperPrint::sheetLeft, m_door, &KeeperDoor::showCodeAgain);
     connect(m_door, &KeeperDoor::codePrintWanted, m_print, &KeeperPrint::openSheet);
@@ -227,6 +239,7 @@ void Form4::lock()
     m_door->forget();
     m_tools->forget();
     m_print->forget();
+    m_exchange->forget();
     m_work->sealAway();
     m_clipboard->empty();
     m_keeper.lock();

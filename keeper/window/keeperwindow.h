@@ -14,6 +14,7 @@ class ClipboardGuard;
 class EntryCommands;
 class EntryWork;
 class KeeperDoor;
+class KeeperExchange;
 class KeeperPane;
 class KeeperPrint;
 class KeeperTools;
@@ -65,5 +66,6 @@ private:
     EntryCommands *m_commands;
     KeeperTools *m_tools;
     KeeperPrint *m_print;
+    KeeperExchange *m_exchange;
     bool m_locksMinimised = false;
 };

@@ -570,4 +570,30 @@ inline QString codeNotKept()
     return u"The recovery code was not kept before the keeper locked itself: make a new one in the Utilities menu"_s;
 }
 
+inline QString nothingThere()
+{
+    return u"nothing"_s;
+}
+
+inline QString beside(const QString &caption, const QString &there, const QString &inFile)
+{
+    return u"%1: here %2, in the file %3"_s.arg(caption, there, inFile);
+}
+
+inline QString noColumnKnown()
+{
+    return u"None of its columns is known: say what they are with \u201cColumns...\u201d"_s;
+}
+
+inline QString importHint(const QStringList &notUsed)
+{
+    const QString first = u"Nothing is written before \u201cImport\u201d."_s;
+    return notUsed.isEmpty() ? first : QString(first + u" Not taken: "_s + notUsed.join(u", "_s));
+}
+
+inline QString broughtIn(qsizetype count)
+{
+    return count == 1 ? u"1 entry brought in"_s : u"%1 entries brought in"_s.arg(count);
+}
+
 } // namespace KeeperWindowLines

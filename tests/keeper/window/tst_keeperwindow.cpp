@@ -263,6 +263,50 @@ private slots:
         QVERIFY(!m_window->isPreviewShown());
     }
 
+    /// Nothing is written before the button, and what is there already is not taken twice.
+    void bringsInAFileOfAnotherProgram()
+    {
+        begin();
+        addEntry(u"Bank"_s, u"anne"_s, u"hunter2"_s);
+        m_test->setBytes(u"in.csv"_s,
+                         "title,username,password\r\nBank,anne,hunter2\r\nMail,nils,hunter3\r\n");
+        m_test->dialogs.willChooseFile(m_test->path(u"in.csv"_s));
+        trigger("mUImport");
+        QTRY_VERIFY(isOffered("keeperImportTake"));
+        QCOMPARE(titles(), QStringList{u"Bank"_s});
+        click("keeperImportTake");
+        QCOMPARE(titles(), (QStringList{u"Bank"_s, u"Mail"_s}));
+    }
+
+    /// The master password is asked for once more, and what the file is: No leaves everything as it is.
+    void exportsOnlyBehindTheMasterPassword()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        const QString path = m_test->path(u"out.csv"_s);
+        const auto answerWith = [](const QString &master) {
+            return [master](QDialog &dialog) {
+                control<QLineEdit>(dialog, "masterAgain")->setText(master);
+                control<QPushButton>(dialog, "masterAgainOk")->click();
+                std::ignore =
+                    QTest::qWaitFor([&dialog] { return dialog.result() == QDialog::Accepted; }, 500);
+                return dialog.result();
+            };
+        };
+        m_test->dialogs.willRun(answerWith(u"wrong"_s));
+        trigger("mUExport");
+        m_test->dialogs.willRun(answerWith(u"master"_s));
+        m_test->dialogs.willAnswer(Answer::No);
+        trigger("mUExport");
+        QCOMPARE(asked(), {KeeperMessages::exportOpen(1)});
+        QVERIFY(!QFile::exists(path));
+        m_test->dialogs.willRun(answerWith(u"master"_s));
+        m_test->dialogs.willAnswer(Answer::Yes);
+        m_test->dialogs.willChooseFile(path);
+        trigger("mUExport");
+        QVERIFY(m_test->bytes(u"out.csv"_s).contains("hunter2"));
+    }
+
     void saysWhatIsWrongWithTheFiles_data()
     {
         rows<QString, QByteArray, QString>({

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "keeper/window/keeperimportpanel.h"
+
+#include "keeper/model/keeper.h"
+#include "keeper/model/keepercsv.h"
+#include "keeper/model/keeperxml.h"
+#include "keeper/model/lines.h"
+#include "keeper/window/windowlines.h"
+#include "shell/controls/importtable.h"
+#include "shell/program/program.h"
+
+#include <QTableView>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// "User name: anne; in the file anne.lind". Of a secret no more is told than whether it is another.
+QString besideLine(const KeeperImport::Beside &text)
+{
+    const auto shown = [&text](const QString &value) {
+        return value.isEmpty() ? KeeperWindowLines::nothingThere()
+               : text.isSecret ? KeeperLines::hidden()
+                               : QString(value).replace(u'\n', u' ');
+    };
+    return KeeperWindowLines::beside(text.caption, shown(text.there), shown(text.inFile));
+}
+
+} // namespace
+
+KeeperImportPanel::KeeperImportPanel(const KeeperDesk &desk)
+    : ImportPreview({.name = u"keeperImport"_s,
+                     .take = u"&Import"_s,
+                     .filters = KeeperImport::filters(),
+                     .hasColumns = true})
+    , m_desk(desk)
+    , m_beside(named(makeQuietLabel({}, this), u"importBeside"_s))
+{
+    m_beside->setWordWrap(true);
+    m_beside->setMinimumHeight(3 * m_beside->fontMetrics().lineSpacing());
+    m_beside->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    addForm(m_beside);
+    connect(view().selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &KeeperImportPanel::followLine);
+}
+
+bool KeeperImportPanel::open(const QString &path)
+{
+    const auto bytes = contents(path);
+    if (!bytes)
+        return false;
+    KeeperImport::There there{{}, [this](const QByteArray &id) { return m_desk.keeper.entry(id); }};
+    for (const KeeperSummary &entry : m_desk.keeper.entries()) {
+        if (!entry.isTrashed && entry.damagedPlace == 0)
+            there.entries.append(entry);
+    }
+    m_csv = nullptr;
+    if (KeeperXmlImport::isLikely(*bytes)) {
+        auto file = std::make_unique<KeeperXmlImport>(*bytes, std::move(there));
+        m_import = file.get();
+        read(std::move(file));
+    } else {
+        auto file =
+            std::make_unique<KeeperCsvImport>(*bytes, std::move(there), m_desk.program.state.dateStyle);
+        m_import = file.get();
+        m_csv = file.get();
+        read(std::move(file));
+    }
+    return true;
+}
+
+void KeeperImportPanel::forget()
+{
+    if (!m_import)
+        return;
+    auto nothing = std::make_unique<KeeperCsvImport>(QByteArray(), KeeperImport::There(),
+                                                     m_desk.program.state.dateStyle);
+    m_import = nothing.get();
+    m_csv = nothing.get();
+    read(std::move(nothing));
+    m_beside->clear();
+}
+
+QString KeeperImportPanel::hint() const
+{
+    if (!m_import)
+        return {};
+    if (!m_import->refusal().isEmpty())
+        return m_import->refusal();
+    if (m_csv && !m_csv->isReadable())
+        return KeeperWindowLines::noColumnKnown();
+    return KeeperWindowLines::importHint(m_csv ? m_csv->notUsed() : QStringList());
+}
+
+QString KeeperImportPanel::nothingToTake() const
+{
+    return m_import && !m_import->refusal().isEmpty() ? m_import->refusal() : ImportPreview::nothingToTake();
+}
+
+QString KeeperImportPanel::whyReadOnly() const
+{
+    return m_desk.program.folder.whyReadOnly();
+}
+
+void KeeperImportPanel::shown()
+{
+    ImportPreview::shown();
+    followLine();
+}
+
+/// What the chosen line has otherwise than the entry that is there.
+void KeeperImportPanel::followLine()
+{
+    const int row = view().currentIndex().row();
+    if (!m_import || row < 0) {
+        m_beside->clear();
+        return;
+    }
+    const std::size_t line = table().line(row);
+    QStringList lines;
+    for (const KeeperImport::Beside &text : m_import->beside(line)) {
+        if (text.differs)
+            lines.append(besideLine(text));
+    }
+    m_beside->setText(lines.join(u'\n'));
+}
+
+void KeeperImportPanel::take()
+{
+    QList<KeeperEntry> entries = m_import->result();
+    if (!m_desk.keeper.saveAll(entries)) {
+        emit said(KeeperWindowLines::notSaved());
+        return;
+    }
+    leave();
+    forget();
+    emit taken(KeeperWindowLines::broughtIn(entries.size()));
+}
