@@ -62,6 +62,10 @@ KeeperPane::KeeperPane(const Program &program, const Keeper &keeper, Guard guard
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &KeeperPane::selectionMoved);
     connect(m_list, &QListView::activated, this, &KeeperPane::entered);
+    connect(m_search, &SearchBox::leftDown, this, [this] {
+        if (selected().isEmpty() && m_model->rowCount() > 0)
+            m_list->setCurrentIndex(m_model->index(0));
+    });
     search();
 }
 

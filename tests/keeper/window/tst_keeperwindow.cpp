@@ -52,7 +52,6 @@ private slots:
         key(Qt::Key_Return);
         QTRY_COMPARE(titles(), QStringList{u"Power company"_s});
         key(Qt::Key_Down);
-        key(Qt::Key_Down);
         QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"anne"_s);
     }
 
@@ -80,11 +79,12 @@ private slots:
         answer(code.toLower().remove(u'-'));
         QTRY_VERIFY(isSeen("masterPanel"));
         QVERIFY(!find<QLineEdit>("oldMaster")->isVisible());
-        find<QLineEdit>("newMaster")->setText(u"new"_s);
-        find<QLineEdit>("newMasterAgain")->setText(u"other"_s);
+        const QWidget &panel = *find<QWidget>("masterPanel");
+        control<QLineEdit>(panel, "newMaster")->setText(u"new"_s);
+        control<QLineEdit>(panel, "newMasterAgain")->setText(u"other"_s);
         click("changeMaster");
         QVERIFY(isSeen("masterPanel"));
-        find<QLineEdit>("newMasterAgain")->setText(u"new"_s);
+        control<QLineEdit>(panel, "newMasterAgain")->setText(u"new"_s);
         click("changeMaster");
         QTRY_VERIFY(!isSeen("masterPanel"));
         trigger("mOLock");
