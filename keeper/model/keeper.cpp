@@ -236,7 +236,7 @@ bool Keeper::saveAll(QList<KeeperEntry> &entries)
     writings.reserve(std::size_t(entries.size()));
     for (const KeeperEntry &entry : std::as_const(entries)) {
         writings.push_back(writingOf(entry));
-        if (entry.id.isEmpty())
+        if (entry.id.size() != KeeperRecord::idLength)
             writings.back().id = SecretBytes::random(KeeperRecord::idLength).view().toByteArray();
         ids.append(writings.back().id);
     }
@@ -421,9 +421,10 @@ bool Keeper::saveDraft(const KeeperEntry &draft)
 {
     if (!m_file || !KeeperPayload::fits(draft))
         return false;
-    return replaceSingle(
-        Sort::Draft, KeeperFile::Writing{draft.id.isEmpty() ? noId : draft.id, KeeperRecord::Draft,
-                                         m_clock.now().toSecsSinceEpoch(), KeeperPayload::encoded(draft)});
+    return replaceSingle(Sort::Draft,
+                         KeeperFile::Writing{draft.id.size() == KeeperRecord::idLength ? draft.id : noId,
+                                             KeeperRecord::Draft, m_clock.now().toSecsSinceEpoch(),
+                                             KeeperPayload::encoded(draft)});
 }
 
 std::optional<KeeperEntry> Keeper::draft() const

@@ -80,14 +80,27 @@ bool KeeperFile::isOf(const Place &place, Sort sort) const
            sortOf(place.state) == sort;
 }
 
-qint32 KeeperFile::ownerOf(const QByteArray &id)
+std::vector<qint32>::const_iterator KeeperFile::orderOf(QByteArrayView id) const
 {
-    const auto found = m_owners.constFind(id);
-    if (found != m_owners.cend())
-        return *found;
+    return std::ranges::lower_bound(
+        m_order, id, [](QByteArrayView left, QByteArrayView right) { return left < right; },
+        [this](qint32 owner) { return QByteArrayView(m_ids[std::size_t(owner)]); });
+}
+
+/// -1: none.
+qint32 KeeperFile::knownOwner(QByteArrayView id) const
+{
+    const auto found = orderOf(id);
+    return found != m_order.end() && QByteArrayView(m_ids[std::size_t(*found)]) == id ? *found : -1;
+}
+
+qint32 KeeperFile::ownerOf(QByteArrayView id)
+{
+    if (const qint32 known = knownOwner(id); known >= 0)
+        return known;
     const auto owner = qint32(m_ids.size());
-    m_ids.push_back(id);
-    m_owners.insert(id, owner);
+    m_order.insert(orderOf(id), owner);
+    std::ranges::copy(id.first(KeeperRecord::idLength), m_ids.emplace_back().begin());
     return owner;
 }
 
@@ -95,7 +108,7 @@ bool KeeperFile::load()
 {
     m_places.clear();
     m_ids.clear();
-    m_owners.clear();
+    m_order.clear();
     m_places.reserve(std::size_t(m_file.recordCount()));
     SecretBytes open(KeeperRecord::openLength);
     m_file.forEach(1, [this, &open](int record, QByteArrayView bytes) {
@@ -106,6 +119,8 @@ bool KeeperFile::load()
             m_places.back().state = damagedState;
         return true;
     });
+    m_ids.shrink_to_fit();
+    m_order.shrink_to_fit();
     findLeftOvers();
     return int(m_places.size()) == m_file.recordCount();
 }
@@ -183,18 +198,18 @@ void KeeperFile::forEach(
         const qint32 owner = placeOf(*first).owner;
         const auto last =
             std::find_if(first, records.end(), [&](int record) { return placeOf(record).owner != owner; });
-        visit(m_ids[std::size_t(owner)], gathered({first, last}));
+        visit(idOf(owner), gathered({first, last}));
         first = last;
     }
 }
 
 std::vector<KeeperFile::Version> KeeperFile::versions(Sort sort, const QByteArray &id) const
 {
-    const auto owner = m_owners.constFind(id);
+    const qint32 owner = knownOwner(id);
     std::vector<int> records;
-    for (int record = 1; owner != m_owners.cend() && record <= int(m_places.size()); ++record) {
+    for (int record = 1; owner >= 0 && record <= int(m_places.size()); ++record) {
         const Place &place = placeOf(record);
-        if (place.owner == *owner && isOf(place, sort) && !place.isLeftOver)
+        if (place.owner == owner && isOf(place, sort) && !place.isLeftOver)
             records.push_back(record);
     }
     return gathered(records);
@@ -202,7 +217,12 @@ std::vector<KeeperFile::Version> KeeperFile::versions(Sort sort, const QByteArra
 
 QByteArray KeeperFile::idOf(const Version &version) const
 {
-    return m_ids[std::size_t(placeOf(version.records.front()).owner)];
+    return idOf(placeOf(version.records.front()).owner);
+}
+
+QByteArray KeeperFile::idOf(qint32 owner) const
+{
+    return QByteArrayView(m_ids[std::size_t(owner)]).toByteArray();
 }
 
 std::optional<SecretBytes> KeeperFile::payload(const Version &version) const

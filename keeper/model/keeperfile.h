@@ -6,9 +6,9 @@
 #include "storage/recordfile.h"
 #include "storage/sealing/sealedrecords.h"
 
-#include <QHash>
 #include <QList>
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -110,7 +110,10 @@ private:
     bool isOf(const Place &place, Sort sort) const;
     Place &placeOf(int record) { return m_places[std::size_t(record - 1)]; }
     const Place &placeOf(int record) const { return m_places[std::size_t(record - 1)]; }
-    qint32 ownerOf(const QByteArray &id);
+    std::vector<qint32>::const_iterator orderOf(QByteArrayView id) const;
+    qint32 knownOwner(QByteArrayView id) const;
+    qint32 ownerOf(QByteArrayView id);
+    QByteArray idOf(qint32 owner) const;
     void note(int record, QByteArrayView open);
     void findLeftOvers();
     std::vector<Version> gathered(std::vector<int> records) const;
@@ -127,6 +130,6 @@ private:
     RecordFile m_file;
     SealedRecords m_records;
     std::vector<Place> m_places;
-    std::vector<QByteArray> m_ids;
-    QHash<QByteArray, qint32> m_owners;
+    std::vector<std::array<char, KeeperRecord::idLength>> m_ids;
+    std::vector<qint32> m_order; ///< places in `m_ids`, in the order of the ids
 };

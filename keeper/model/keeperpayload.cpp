@@ -3,6 +3,7 @@
 
 #include "keeper/model/keeperrecord.h"
 
+#include <QStringConverter>
 #include <QtEndian>
 
 #include <algorithm>
@@ -21,10 +22,20 @@ bool isOwn(const KeeperText &field)
     return field.id == KeeperField::Own;
 }
 
-/// Bytes of the text in the file.
+/// Bytes of the text in the file, counted without a copy of them.
 qsizetype lengthOf(const QString &text)
 {
-    return text.isEmpty() ? 0 : SecretBytes::ofText(text).size();
+    QString composed = text.normalized(QString::NormalizationForm_C);
+    qsizetype length = 0;
+    for (qsizetype i = 0; i < composed.size(); ++i) {
+        const QChar unit = composed[i];
+        const bool isPair =
+            unit.isHighSurrogate() && i + 1 < composed.size() && composed[i + 1].isLowSurrogate();
+        i += isPair ? 1 : 0;
+        length += isPair ? 4 : unit < u'\u0080' ? 1 : unit < u'\u0800' ? 2 : 3;
+    }
+    SecretBytes::wipe(composed); // which spares the entry's own letters
+    return length;
 }
 
 /// Puts fields into a buffer that is large enough.
@@ -35,29 +46,30 @@ public:
         : m_bytes(bytes)
     {}
 
-    void add(quint8 id, bool isSecret, const SecretBytes &name, const SecretBytes &text)
+    void add(quint8 id, bool isSecret, const QString &name, const QString &text)
     {
-        const bool hasName = id == KeeperField::Own;
         char *const head = m_bytes.data() + m_at;
         head[0] = char(id);
         head[1] = char(isSecret ? secretFlag : 0);
         m_at += headLength;
-        if (hasName) {
-            put(name.view());
+        if (id == KeeperField::Own) {
+            put(name);
             m_bytes.data()[m_at++] = '\0';
         }
-        put(text.view());
+        put(text);
         qToLittleEndian<quint16>(quint16(m_bytes.data() + m_at - head - headLength), head + 2);
     }
 
     qsizetype size() const { return m_at; }
 
 private:
-    void put(QByteArrayView bytes)
+    /// Straight into the memory that is wiped.
+    void put(const QString &text)
     {
-        if (!bytes.isEmpty())
-            std::memcpy(m_bytes.data() + m_at, bytes.data(), std::size_t(bytes.size()));
-        m_at += bytes.size();
+        QString composed = text.normalized(QString::NormalizationForm_C);
+        QStringEncoder encoder(QStringEncoder::Utf8);
+        m_at = encoder.appendToBuffer(m_bytes.data() + m_at, composed) - m_bytes.data();
+        SecretBytes::wipe(composed);
     }
 
     SecretBytes &m_bytes;
@@ -103,11 +115,9 @@ SecretBytes KeeperPayload::encoded(const KeeperEntry &entry, const QDateTime &pa
     SecretBytes bytes(size);
     Writer writer(bytes);
     for (const KeeperText &field : entry.fields)
-        writer.add(field.id, field.isSecret, SecretBytes::ofText(field.name),
-                   SecretBytes::ofText(field.text));
+        writer.add(field.id, field.isSecret, field.name, field.text);
     if (passwordChanged.isValid())
-        writer.add(passwordChangedField, false, {},
-                   SecretBytes::ofText(passwordChanged.toUTC().toString(Qt::ISODate)));
+        writer.add(passwordChangedField, false, {}, passwordChanged.toUTC().toString(Qt::ISODate));
     SecretBytes whole(writer.size());
     std::memcpy(whole.data(), bytes.data(), std::size_t(whole.size()));
     return whole;
