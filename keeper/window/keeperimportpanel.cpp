@@ -10,6 +10,7 @@
 #include "shell/program/program.h"
 
 #include <QTableView>
+#include <QVBoxLayout>
 
 #include <utility>
 
@@ -41,7 +42,11 @@ KeeperImportPanel::KeeperImportPanel(const KeeperDesk &desk)
     m_beside->setWordWrap(true);
     m_beside->setMinimumHeight(3 * m_beside->fontMetrics().lineSpacing());
     m_beside->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    addForm(m_beside);
+    auto *form = new QWidget(this);
+    auto *rows = new QVBoxLayout(form);
+    rows->setContentsMargins({});
+    rows->addWidget(m_beside);
+    addForm(form);
     connect(view().selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &KeeperImportPanel::followLine);
 }
