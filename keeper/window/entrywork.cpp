@@ -38,8 +38,10 @@ EntryWork::EntryWork(const KeeperDesk &desk, KeeperPane &pane, QObject *parent)
     m_none->setObjectName(u"noEntryChosen"_s);
     m_empty->setObjectName(u"noEntries"_s);
     m_damaged->setObjectName(u"damagedEntry"_s);
-    for (QWidget *home : std::initializer_list<QWidget *>{m_view, m_several, m_empty, m_none, m_damaged})
+    for (QWidget *home : std::initializer_list<QWidget *>{m_view, m_several, m_empty, m_none, m_damaged}) {
         m_desk.views.addHome(home);
+        home->hide(); // until it is the one
+    }
     const EntryForm &form = m_view->form();
     connect(&form, &EntryForm::said, this, &EntryWork::said);
     connect(&form, &EntryForm::copyWanted, this, &EntryWork::copyWanted);

@@ -47,8 +47,10 @@ KeeperDoor::KeeperDoor(const KeeperDesk &desk, std::chrono::milliseconds step, Q
     , m_unlock(new UnlockView)
     , m_setUp(new SetUpView(strengthOf))
 {
-    m_desk.views.addHome(m_unlock);
-    m_desk.views.addHome(m_setUp);
+    for (QWidget *home : std::initializer_list<QWidget *>{m_unlock, m_setUp}) {
+        m_desk.views.addHome(home);
+        home->hide(); // until it is the one
+    }
     connect(m_unlock, &UnlockView::answered, this, &KeeperDoor::answer);
     connect(m_setUp, &SetUpView::chosen, this, &KeeperDoor::begin);
     connect(m_setUp, &SetUpView::said, this, &KeeperDoor::said);
