@@ -5,6 +5,7 @@
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
+#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -52,7 +53,11 @@ SetUpView::SetUpView(MasterForm::Strength strength, QWidget *parent)
     auto *all = new QVBoxLayout(this);
     all->setContentsMargins(24, 16, 24, 18);
     all->addStretch(2);
-    all->addWidget(form, 0, Qt::AlignHCenter);
+    auto *middle = new QHBoxLayout;
+    middle->addStretch(1);
+    middle->addWidget(form);
+    middle->addStretch(1);
+    all->addLayout(middle);
     all->addStretch(3);
     connect(m_make, &QPushButton::clicked, this, &SetUpView::choose);
     connect(m_form, &MasterForm::entered, this, &SetUpView::choose);
