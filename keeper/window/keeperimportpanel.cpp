@@ -115,6 +115,18 @@ void KeeperImportPanel::shown()
     followLine();
 }
 
+/// Columns that are empty in all lines stay away, so that what becomes of a line is in sight.
+void KeeperImportPanel::shareWidth()
+{
+    for (int column = 0; m_import && column < KeeperImport::ColumnCount; ++column) {
+        bool isEmpty = true;
+        for (std::size_t line = 0; isEmpty && line < m_import->lineCount(); ++line)
+            isEmpty = m_import->cell(line, column).isEmpty();
+        view().setColumnHidden(column + 1, isEmpty); // the first has the line numbers
+    }
+    ImportPreview::shareWidth();
+}
+
 /// What the chosen line has otherwise than the entry that is there.
 void KeeperImportPanel::followLine()
 {

@@ -29,6 +29,7 @@ protected:
     QString nothingToTake() const override;
     QString whyReadOnly() const override;
     void shown() override;
+    void shareWidth() override;
     void take() override;
 
 private:
