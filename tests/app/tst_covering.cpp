@@ -267,7 +267,7 @@ private slots:
         m_test->gate.noteRightAnswer({3, time, time});
         unlock(planner);
         QCOMPARE(planner->findChild<ActivityBar *>()->notice(),
-                 u"3 wrong answers since Saturday, November 21, 10:24 AM"_s);
+                 u"3 wrong answers since Saturday, 21 November, 10:24"_s);
         m_test->state.protectedAreas = {};
         emit m_test->changes.guardsChanged();
         QVERIFY(!link->isVisible());

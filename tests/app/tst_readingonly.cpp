@@ -92,7 +92,7 @@ private slots:
             {"password control", open<Function::PasswordControl>, u"mOC mOSave"_s,
              u"Check1_0 Check1_1 Check1_11 Check1_13 Check1_14 Check1_15 Check1_16 Check1_2 Check1_9 "
              u"Command1 "
-             "changePassword removePassword setPassword"_s},
+             "changePassword newRecoveryCode removePassword setPassword"_s},
             {"manual", make<HelpViewer>, u"mOC"_s, {}},
             {"main menu",
              [](Program &program) -> QWidget * { return new Startfrm(program); },
