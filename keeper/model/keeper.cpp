@@ -279,11 +279,12 @@ void Keeper::showAnew(const QList<QByteArray> &ids)
         m_index = KeeperOpening::indexOf(*m_file);
     } else {
         for (const QByteArray &id : ids) {
-            m_index.remove(id);
             const auto current = KeeperOpening::current(id, m_file->versions(Sort::Entry, id));
             if (const auto payload = current ? m_file->payload(current->version) : std::nullopt) {
                 m_index.add(current->facts, payload->view());
                 m_index.settle();
+            } else {
+                m_index.remove(id);
             }
         }
     }

@@ -206,12 +206,29 @@ void KeeperIndex::sort()
 
 void KeeperIndex::settle()
 {
+    const Row added = m_rows.back();
+    const auto isLessRow = [this](const Row &left, const Row &right) {
+        return isLess(m_folded, left, right);
+    };
+    const auto last = m_rows.end() - 1;
+    const auto former = std::find_if(m_rows.begin(), last, [&added](const Row &row) {
+        return row.damagedPlace == 0 && row.id == added.id;
+    });
+    if (former != last) {
+        m_dead += former->foldedLength;
+        // With the same title it stays where it is.
+        const bool isBehind = former == m_rows.begin() || !isLessRow(added, *(former - 1));
+        if (isBehind && (former + 1 == last || !isLessRow(*(former + 1), added))) {
+            *former = added;
+            m_rows.pop_back();
+            pack();
+            return;
+        }
+        m_rows.erase(former);
+    }
     pack();
-    const auto added = m_rows.end() - 1;
-    const auto place =
-        std::upper_bound(m_rows.begin(), added, *added,
-                         [this](const Row &left, const Row &right) { return isLess(m_folded, left, right); });
-    std::rotate(place, added, m_rows.end());
+    const auto end = m_rows.end() - 1;
+    std::rotate(std::upper_bound(m_rows.begin(), end, m_rows.back(), isLessRow), end, m_rows.end());
 }
 
 /// Drops texts of no row where they are most of what is held.

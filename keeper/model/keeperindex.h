@@ -36,7 +36,7 @@ public:
     void clear();
 
     /// Adds the entry of these payload bytes, which may lie in memory that is wiped. Call `settle` behind a
-    /// single one, `sort` behind the last of many.
+    /// single one, in whose place it comes when it is there already, `sort` behind the last of many.
     void add(const Facts &facts, QByteArrayView payload);
     void settle();
     /// Adds a row that is only a record which does not open.
