@@ -7,7 +7,6 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 namespace {
@@ -118,9 +117,7 @@ SecretBytes KeeperPayload::encoded(const KeeperEntry &entry, const QDateTime &pa
         writer.add(field.id, field.isSecret, field.name, field.text);
     if (passwordChanged.isValid())
         writer.add(passwordChangedField, false, {}, passwordChanged.toUTC().toString(Qt::ISODate));
-    SecretBytes whole(writer.size());
-    std::memcpy(whole.data(), bytes.data(), std::size_t(whole.size()));
-    return whole;
+    return SecretBytes::copyOf(bytes.view().first(writer.size()));
 }
 
 qsizetype KeeperPayload::sizeOf(const KeeperEntry &entry)

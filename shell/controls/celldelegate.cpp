@@ -188,14 +188,14 @@ bool CellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const Q
 void CellDelegate::goToEnd() const
 {
     if (m_editor && kindOf(m_grid->currentIndex()) != GridCell::Kind::Date)
-        m_editor->end(false);
+        static_cast<QLineEdit *>(m_editor.data())->end(false);
     openCalendar();
 }
 
 void CellDelegate::openByMouse() const
 {
     if (m_editor && kindOf(m_grid->currentIndex()) == GridCell::Kind::Words)
-        m_editor->end(false);
+        static_cast<QLineEdit *>(m_editor.data())->end(false);
     openCalendar();
 }
 

@@ -77,6 +77,6 @@ private:
     CellGrid *m_grid;
     std::unique_ptr<DateReading> m_reading; ///< null in a grid without dates
     DatePicker *m_picker = nullptr;
-    mutable QPointer<QLineEdit> m_editor;
+    mutable QPointer<QWidget> m_editor;   ///< a line; as a widget it can be compared while it goes
     mutable QPersistentModelIndex m_cell; ///< in which the box is open
 };
