@@ -219,6 +219,7 @@ double SheetFlow::heightOfCompany() const
 bool SheetFlow::place(const PageItem::Line &line)
 {
     const PageType &type = types().of(line.role);
+    m_y = m_table.leaveColumns(m_y); // a line stands below the longest of them
     m_rowAbove = false;
     if (line.text.isEmpty()) {
         // A blank line separates two texts; at the top or the foot of a sheet there is nothing to separate.

@@ -19,7 +19,7 @@ struct Width {
     int least;
     int most;
 };
-constexpr std::array widths{Width{ItemsModel::Text, 170, 420},  Width{ItemsModel::Due, 110, 190},
+constexpr std::array widths{Width{ItemsModel::Text, 170, 200},  Width{ItemsModel::Due, 110, 190},
                             Width{ItemsModel::Actual, 98, 140}, Width{ItemsModel::Who, 64, 190},
                             Width{ItemsModel::Repeat, 90, 330}, Width{ItemsModel::List, 64, 180}};
 constexpr int stepWidth = 48; ///< on both sides
@@ -54,7 +54,8 @@ int leastOf(const Width &width, int needed)
 
 } // namespace
 
-/// What is missing is missing in all columns alike; what is left over goes to the text.
+/// What is left over goes to the text, which asks for little itself: one long text would make all others
+/// short. What is missing is missing in all columns alike.
 void ItemColumns::shareWidth(QTableView &grid)
 {
     QHeaderView &heading = *grid.horizontalHeader();

@@ -20,7 +20,7 @@ inline QString day()
 
 inline QString dayHint()
 {
-    return u"when the trip begins, say"_s;
+    return u"such as the day on which a trip begins or guests come"_s;
 }
 
 inline QString noDay()
