@@ -43,6 +43,14 @@ bool isPrompt(const QWidget &window)
     return qobject_cast<const Form32 *>(&window) || (opener && isPrompt(*opener));
 }
 
+bool isPromptShown()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::ranges::any_of(windows, [](const QWidget *window) {
+        return window->isVisible() && qobject_cast<const Form32 *>(window);
+    });
+}
+
 /// A box of the system's own, which cannot be covered.
 bool isForeign(const QWidget &window)
 {
@@ -168,7 +176,9 @@ bool WindowGuard::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Show && !m_covered.isEmpty()) {
         auto *box = qobject_cast<QDialog *>(watched);
         const QWidget *opener = box ? openerOf(*box) : nullptr;
-        if (opener && Covering::isCovered(*opener) && !isPrompt(*box))
+        // Where there is no prompt, the gate tells why: nobody could uncover that.
+        const bool isOfGate = box && (isPrompt(*box) || (m_isAsking && !isPromptShown()));
+        if (opener && Covering::isCovered(*opener) && !isOfGate)
             cover(*box);
     }
     return false;

@@ -216,6 +216,21 @@ private slots:
         QCOMPARE(box.answer(), Answer::Yes);
     }
 
+    void whatTheGateSaysIsNotCovered()
+    {
+        QWidget *planner = open(Function::Planner);
+        emit m_test->changes.lockRequested();
+        bool isTold = false;
+        m_test->gate = AccessGate([&isTold](Program &program, QWidget *parent) {
+            program.state.passwordGateResult = PasswordGateResult::Refused;
+            MessageBox box({u"Password Control"_s, u"The password file is damaged."_s}, parent);
+            box.open();
+            isTold = box.isVisible() && !Covering::isCovered(box);
+        });
+        unlock(planner);
+        QVERIFY(isTold && Covering::isCovered(*planner));
+    }
+
     void whatWasCopiedThereIsGone()
     {
         QWidget *planner = open(Function::Planner);
