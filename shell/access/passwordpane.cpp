@@ -320,6 +320,7 @@ bool PasswordPane::isAcceptable()
         const BusyCursor busy;
         return m_file.matches(m_old->text());
     }();
+    m_isWrong = !isRight;
     if (isRight) {
         m_attempts.reset();
         m_wrongBefore = m_file.takeWrongAnswers();
@@ -350,14 +351,14 @@ void PasswordPane::showWait(int seconds)
     const QString wait = PasswordMessages::tryAgainIn(seconds);
     setUnavailable(m_old, wait);
     setUnavailable(m_ok, wait);
-    m_refusal->setText(PasswordMessages::wrongPassword() + u' ' + wait);
+    m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() + u' ' + wait : wait);
 }
 
 void PasswordPane::endWait()
 {
     setUnavailable(m_old, {});
     setUnavailable(m_ok, {});
-    m_refusal->setText(PasswordMessages::wrongPassword());
+    m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() : QString());
     if (m_task != Task::None)
         m_old->setFocus();
 }

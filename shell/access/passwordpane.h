@@ -73,6 +73,7 @@ private:
     WrongAnswers m_wrongBefore;
     QString m_whyReadOnly;
     Task m_task = Task::None;
+    bool m_isWrong = false; ///< what was last typed here
 
     TitleLine *m_title;
     QLabel *m_summary;

@@ -137,7 +137,8 @@ void Form32::accept()
         return m_file.matches(m_password->text());
     }();
     m_password->clear();
-    if (!isRight) {
+    m_isWrong = !isRight;
+    if (m_isWrong) {
         const WrongAnswers wrong = m_file.addWrongAnswer(m_program.clock.now());
         offerRecovery();
         m_attempts.addWrong(wrong);
@@ -171,7 +172,7 @@ void Form32::showWait(int seconds)
     setUnavailable(m_recover, wait);
     setUnavailable(m_password, wait);
     setUnavailable(m_ok, wait);
-    m_refusal->setText(PasswordMessages::wrongPassword() + u' ' + wait);
+    m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() + u' ' + wait : wait);
 }
 
 void Form32::endWait()
@@ -179,7 +180,7 @@ void Form32::endWait()
     setUnavailable(m_password, {});
     setUnavailable(m_ok, {});
     setUnavailable(m_recover, {});
-    m_refusal->setText(PasswordMessages::wrongPassword());
+    m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() : QString());
     m_password->setFocus();
 }
 

@@ -48,6 +48,7 @@ private:
     QPushButton *m_recover; ///< offered after a wrong answer
     QPushButton *m_ok;
     QPushButton *m_cancel;
+    bool m_isWrong = false; ///< what was last typed here
 };
 
 /// The gate's prompt: asks for the password and leaves the verdict in `ProgramState::passwordGateResult`. A
