@@ -145,7 +145,9 @@ void Form32::accept()
         return;
     }
     m_attempts.reset();
-    m_program.gate.noteRightAnswer(m_file.takeWrongAnswers());
+    // Those before the recovery code are told with the first password after it.
+    if (const WrongAnswers before = m_file.takeWrongAnswers(); before.count > 0)
+        m_program.gate.noteRightAnswer(before);
     QDialog::accept();
 }
 

@@ -222,6 +222,11 @@ private slots:
         m_program->dialogs.willRun([&](QDialog &box) { return recover(box, code); });
         offer->click();
         QVERIFY(rejected.size() == 1 && m_program->dialogs.isDone());
+        Form32 next(m_program->program, nullptr, 1ms);
+        showActive(next);
+        type(next, u"Roses"_s);
+        QCOMPARE(m_program->gate.takeNotice(m_program->program),
+                 u"1 wrong answer since Saturday, November 21, 10:24 AM"_s);
     }
 
     void theRecoveryCodeHasToBeRight()
