@@ -19,7 +19,7 @@ struct Width {
     int least;
     int most;
 };
-constexpr std::array widths{Width{ItemsModel::Text, 170, 200},  Width{ItemsModel::Due, 110, 190},
+constexpr std::array widths{Width{ItemsModel::Text, 170, 240},  Width{ItemsModel::Due, 110, 190},
                             Width{ItemsModel::Actual, 98, 140}, Width{ItemsModel::Who, 64, 190},
                             Width{ItemsModel::Repeat, 90, 330}, Width{ItemsModel::List, 64, 180}};
 constexpr int stepWidth = 48; ///< on both sides

@@ -118,6 +118,24 @@ private slots:
         QVERIFY(rule.top() > 9 && rule.bottom() < 10.2);
     }
 
+    void linesStandBelowTheLongestColumn()
+    {
+        const auto end = [](int count) {
+            PageItem::Columns columns = names(2);
+            columns.endsEven = true;
+            Page page;
+            page.table(columns);
+            for (int i = 0; i < count; ++i)
+                page.row({u"Bread"_s, u"WI"_s});
+            page.blankLine()
+                .line(u"Household"_s, TextRole::Strong)
+                .close(QDate(2026, 11, 21), DateStyle::Usa);
+            return closingRule(PagePainter(page, {}, bodyFont())).top();
+        };
+        QCOMPARE(end(3), end(4));
+        QVERIFY(end(4) < end(5));
+    }
+
     void endsEven()
     {
         const auto end = [](int count, const PageItem::Columns &columns) {
