@@ -60,7 +60,7 @@ inline constexpr TextSetting carColor{colorFile3, 206};
 inline constexpr TextSetting weightColor{colorFile3, 207};
 inline constexpr TextSetting toDoColor{colorFile3, 208};
 inline constexpr TextSetting toDoTextColor{colorFile3, 209};
-inline constexpr TextSetting passwordKeeperTextColor{colorFile3, 210};
+inline constexpr TextSetting passwordKeeperTextColor{colorFile3, 211};
 
 /// Minutes without key or mouse after which what the password guards is covered; anything but these is the
 /// usual.
