@@ -3,6 +3,7 @@
 #include "keeper/model/keeperkinds.h"
 #include "keeper/window/entryform.h"
 #include "keeper/window/secretbox.h"
+#include "storage/sealing/recoverycode.h"
 #include "tools/pictures/albums.h"
 #include "tools/pictures/picturesession.h"
 
@@ -100,7 +101,7 @@ void furnish(Program &program)
 {
     Keeper keeper(program.folder, program.clock, PasswordCost::minimum());
     KeyDerivation key = keeper.newKey(master);
-    KeyDerivation code = keeper.newCodeKey(u"0000-0000-0000-0000-0000-0000-00AP"_s);
+    KeyDerivation code = keeper.newCodeKey(RecoveryCode::generate());
     key.run();
     code.run();
     QList<KeeperEntry> entries = household();
