@@ -32,10 +32,10 @@ bool CheckedBox::eventFilter(QObject *, QEvent *event)
     switch (event->type()) {
     case QEvent::FocusIn:
         m_isWaiting = true;
-        mark();
+        markAtCursor();
         return false;
     case QEvent::FocusOut:
-        mark();
+        markAtCursor();
         return false;
     case QEvent::Paint:
         // Loading takes a tenth of a second: the box is seen first.

@@ -49,6 +49,8 @@ protected:
     virtual QMenu *usualMenu() const = 0;
     /// Marks anew what is wrong.
     virtual void mark() = 0;
+    /// The same where the word stands that is being typed, or was.
+    virtual void markAtCursor() { mark(); }
 
     /// A character was typed before the cursor.
     void typed();

@@ -10,28 +10,43 @@
 
 #include <utility>
 
-CheckedText::CheckedText(Writing &writing, QPlainTextEdit *box)
+CheckedText::CheckedText(Writing &writing, QPlainTextEdit *box, LineStyles styles)
     : CheckedBox(writing, box)
     , m_text(box)
-    , m_marks(new SpellHighlighter(
-          box->document(), [this](const QString &line, qsizetype begin) { return wrongWords(line, begin); }))
+    , m_styles(std::move(styles))
 {
     box->viewport()->installEventFilter(this); // which is what gets painted
-    connect(box->document(), &QTextDocument::contentsChange, this, &CheckedText::noteChange);
     connect(box, &QPlainTextEdit::textChanged, this, [this] {
         if (std::exchange(m_isTyped, false) && !m_isReplacing)
             typed();
     });
     connect(box, &QPlainTextEdit::cursorPositionChanged, this, &CheckedText::moved);
-    mark();
+    followDocument();
 }
 
 CheckedText::~CheckedText()
+{
+    letGo();
+}
+
+void CheckedText::letGo()
 {
     if (!m_marks)
         return;
     m_marks->document()->disconnect(this);
     delete m_marks;
+}
+
+void CheckedText::followDocument()
+{
+    letGo();
+    QTextDocument *document = m_text->document();
+    m_marks = new SpellHighlighter(
+        document, [this](const QString &line, qsizetype begin) { return wrongWords(line, begin); }, m_styles);
+    connect(document, &QTextDocument::contentsChange, this, &CheckedText::noteChange);
+    m_typedIn = {};
+    beginText();
+    mark();
 }
 
 /// The text must not be changed before this change is complete.
@@ -98,6 +113,14 @@ void CheckedText::mark()
 {
     m_marks->setColor(Theme::of(m_text).negative);
     m_marks->rehighlight();
+}
+
+void CheckedText::markAtCursor()
+{
+    if (m_marks->color() == Theme::of(m_text).negative)
+        m_marks->rehighlightBlock(m_text->textCursor().block());
+    else
+        mark();
 }
 
 std::vector<WordPlace> CheckedText::wrongWords(const QString &line, qsizetype begin) const

@@ -14,8 +14,12 @@ class CheckedText final : public CheckedBox
 {
     Q_OBJECT
 public:
-    CheckedText(Writing &writing, QPlainTextEdit *box);
+    /// `styles` are what the lines have besides the marks.
+    CheckedText(Writing &writing, QPlainTextEdit *box, LineStyles styles = {});
     ~CheckedText() override;
+
+    /// The box has another document from now on.
+    void followDocument();
 
     QStringList marked() const override;
 
@@ -28,13 +32,16 @@ protected:
     void takeBack(qsizetype place) override;
     QMenu *usualMenu() const override;
     void mark() override;
+    void markAtCursor() override;
 
 private:
+    void letGo();
     std::vector<WordPlace> wrongWords(const QString &line, qsizetype begin) const;
     void noteChange(int place, int removed, int added);
     void moved();
 
     QPlainTextEdit *m_text;
+    LineStyles m_styles;
     QPointer<SpellHighlighter> m_marks; ///< goes with the text
     QTextBlock m_typedIn;               ///< the line in which a word was not marked, since it was being typed
     bool m_isTyped = false;

@@ -31,9 +31,9 @@ void Writing::check(QLineEdit *box)
     new CheckedLine(*this, box);
 }
 
-void Writing::check(QPlainTextEdit *box)
+CheckedText *Writing::check(QPlainTextEdit *box, const LineStyles &styles)
 {
-    new CheckedText(*this, box);
+    return new CheckedText(*this, box, styles);
 }
 
 void Writing::load()

@@ -3,6 +3,7 @@
 
 #include "shell/writing/corrections.h"
 #include "shell/writing/dictionaries.h"
+#include "shell/writing/spellhighlighter.h"
 #include "shell/writing/spelling.h"
 #include "storage/filestamp.h"
 
@@ -11,6 +12,7 @@
 
 #include <functional>
 
+class CheckedText;
 class QLineEdit;
 class QPlainTextEdit;
 class QSettings;
@@ -35,7 +37,8 @@ public:
 
     /// From now on `box` is checked, for as long as it lives.
     void check(QLineEdit *box);
-    void check(QPlainTextEdit *box);
+    /// The same; `styles` are what its lines have besides the marks.
+    CheckedText *check(QPlainTextEdit *box, const LineStyles &styles = {});
 
     /// Loads the languages that are chosen, the household's words and its corrections; later only what has
     /// changed on the disk.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
-#include "shell/writing/checkedbox.h"
+#include "shell/writing/checkedtext.h"
 #include "shell/writing/writing.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTextBlock>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -141,6 +142,33 @@ private slots:
         const QImage with = desk.line->grab().toImage();
         desk.writing->ignore(u"Watre"_s);
         QVERIFY(desk.line->grab().toImage() != with);
+    }
+
+    /// A box that shows one text after another, with styles of its own.
+    void marksAnotherDocumentOverItsStyles()
+    {
+        Desk desk;
+        desk.enter(desk.text);
+        desk.other->setFocus();
+        QTextCharFormat bold;
+        bold.setFontWeight(QFont::Bold);
+        CheckedText *check = desk.writing->check(desk.text, [bold](const QString &) {
+            return QList<QTextLayout::FormatRange>{{0, 3, bold}};
+        });
+        QTextDocument document;
+        document.setDocumentLayout(new QPlainTextDocumentLayout(&document));
+        document.setPlainText(u"watre and the ferny"_s);
+        desk.text->setDocument(&document);
+        check->followDocument();
+        QCOMPARE(check->marked(), (QStringList{u"watre"_s, u"ferny"_s}));
+        QStringList ranges;
+        for (const QTextLayout::FormatRange &range : document.firstBlock().layout()->formats())
+            ranges += u"%1+%2 %3%4"_s.arg(range.start)
+                          .arg(range.length)
+                          .arg(range.format.fontWeight() == QFont::Bold ? u"bold"_s : u"plain"_s,
+                               range.format.underlineStyle() != 0 ? u" wrong"_s : u""_s);
+        QCOMPARE(ranges, (QStringList{u"0+3 bold wrong"_s, u"3+2 plain wrong"_s, u"14+5 plain wrong"_s}));
+        delete check; // before its document
     }
 
     void correctsSlipsAsTheyAreTyped_data()
