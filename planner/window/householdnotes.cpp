@@ -2,8 +2,6 @@
 #include "planner/window/householdnotes.h"
 
 #include "shell/controls/controls.h"
-#include "shell/program/functionfaces.h"
-#include "shell/program/program.h"
 
 #include <QMenu>
 #include <QRegularExpression>
@@ -82,29 +80,12 @@ bool isToBePaid(const DayNote &note)
 
 QList<HouseholdNote> HouseholdNotes::all(QDate from, QDate to) const
 {
-    QList<HouseholdNote> notes;
-    for (const FunctionFace &face : FunctionFaces::cards()) {
-        const FunctionEntry *entry = m_program.functions.entry(face.function);
-        if (face.function == Function::Planner || !entry || !entry->dayNotes ||
-            face.isGuarded(m_program.state.protectedAreas))
-            continue;
-        for (const DayNote &note : entry->dayNotes(m_program, from, to))
-            notes.append({note, face.function});
-    }
-    std::ranges::stable_sort(notes, {}, [](const HouseholdNote &note) { return note.note.date; });
-    return notes;
+    return DayNotes::all(m_program, Function::Planner, from, to);
 }
 
 QStringList HouseholdNotes::passedOver() const
 {
-    QStringList titles;
-    for (const FunctionFace &face : FunctionFaces::cards()) {
-        const FunctionEntry *entry = m_program.functions.entry(face.function);
-        if (face.function != Function::Planner && entry && entry->dayNotes &&
-            face.isGuarded(m_program.state.protectedAreas))
-            titles.append(face.titleText());
-    }
-    return titles;
+    return DayNotes::passedOver(m_program, Function::Planner);
 }
 
 QList<HouseholdNote> HouseholdNotes::occasions(QDate from, QDate to) const
@@ -132,7 +113,7 @@ PlannerPages::Notes HouseholdNotes::texts(QDate from, QDate to) const
 
 void HouseholdNotes::open(const HouseholdNote &note) const
 {
-    emit m_program.changes.placeRequested(note.function, note.note.place);
+    DayNotes::open(m_program, note);
 }
 
 void HouseholdNotes::open(const QList<HouseholdNote> &notes, QPoint place, QWidget *owner) const

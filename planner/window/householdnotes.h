@@ -2,22 +2,12 @@
 #pragma once
 
 #include "planner/model/plannerpages.h"
-#include "shell/program/functions.h"
+#include "shell/program/daynotes.h"
 
-#include <QDate>
 #include <QFontMetrics>
-#include <QList>
 
 struct Program;
 class QWidget;
-
-/// A note of another function, and which that is.
-struct HouseholdNote {
-    DayNote note;
-    Function function;
-
-    bool operator==(const HouseholdNote &) const = default;
-};
 
 /// What the other functions have for dates. The planner shows it beside its own entries and never takes it in
 /// among them.

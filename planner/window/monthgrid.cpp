@@ -5,8 +5,8 @@
 #include "planner/model/plannerpages.h"
 #include "planner/window/daysmodel.h"
 #include "planner/window/noteline.h"
-#include "planner/window/steptitle.h"
 #include "planner/window/viewfoot.h"
+#include "shell/controls/steptitle.h"
 #include "shell/core/dates.h"
 #include "shell/look/theme.h"
 

@@ -2,9 +2,9 @@
 #include "todo/window/itemsmodel.h"
 
 #include "shell/core/dates.h"
+#include "shell/program/householdnames.h"
 #include "shell/program/program.h"
 #include "todo/model/repeat.h"
-#include "todo/window/householdnames.h"
 #include "todo/window/itemdrag.h"
 #include "todo/window/openlists.h"
 #include "todo/window/windowlines.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "todo/window/householdnames.h"
+#include "shell/program/householdnames.h"
 
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "planner/window/steptitle.h"
+#include "shell/controls/steptitle.h"
 
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
