@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "journal/model/journal.h"
+
+#include "journal/model/journalfiles.h"
+#include "journal/model/lines.h"
+#include "storage/saving.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Why a file of this form is for reading only; empty where it is not.
+QString whyReadOnly(JournalForm::Form form, int year)
+{
+    switch (form) {
+    case JournalForm::Form::Empty:
+    case JournalForm::Form::Plain:
+        return {};
+    case JournalForm::Form::Sealed:
+        return JournalLines::sealed(year);
+    case JournalForm::Form::Later:
+        return JournalLines::laterVersion(year);
+    case JournalForm::Form::Binary:
+        return JournalLines::binaryFile(JournalFiles::name(year));
+    case JournalForm::Form::Foreign:
+        break;
+    }
+    return JournalLines::foreignFile(JournalFiles::name(year));
+}
+
+} // namespace
+
+Journal::Journal(const DataFolder &folder, const Clock &clock, QObject *parent)
+    : QObject(parent)
+    , m_folder(folder)
+    , m_clock(clock)
+{}
+
+bool Journal::isPossible(QDate date)
+{
+    return date.isValid() && date.year() >= JournalForm::firstYear && date.year() <= JournalForm::lastYear;
+}
+
+QList<int> Journal::years() const
+{
+    QList<int> years = JournalFiles::years(m_folder);
+    for (const auto &[number, year] : m_years) {
+        if (year.isModified() && !years.contains(number))
+            years.append(number);
+    }
+    std::ranges::sort(years);
+    return years;
+}
+
+JournalYear &Journal::yearOf(int year)
+{
+    const auto known = m_years.find(year);
+    return known != m_years.end() ? known->second : m_years.emplace(year, readYear(year)).first->second;
+}
+
+JournalYear Journal::readYear(int number)
+{
+    JournalYear year;
+    year.revision = ++m_readings << 32;
+    year.stamp = JournalFiles::stamp(m_folder, number);
+    const QFileInfo file(m_folder.filePath(JournalFiles::name(number)));
+    const std::optional<QByteArray> bytes = JournalFiles::read(m_folder, number);
+    if (!bytes) {
+        year.state = JournalYear::State::ForReading;
+        year.whyReadOnly = JournalLines::unreadableFile(JournalFiles::name(number));
+        return year;
+    }
+    const JournalForm::Form form = JournalForm::formOf(*bytes);
+    year.whyReadOnly = ::whyReadOnly(form, number);
+    if (form == JournalForm::Form::Sealed) {
+        year.state = JournalYear::State::Locked;
+        return year;
+    }
+    if (m_folder.isReadOnly())
+        year.whyReadOnly = m_folder.whyReadOnly();
+    else if (file.exists() && !file.isWritable() && year.whyReadOnly.isEmpty())
+        year.whyReadOnly = JournalLines::protectedFile(JournalFiles::name(number));
+    if (!year.whyReadOnly.isEmpty())
+        year.state = JournalYear::State::ForReading;
+    else
+        year.state = file.exists() ? JournalYear::State::Open : JournalYear::State::Missing;
+    year.setBlocks(JournalForm::blocks(*bytes, number));
+    return year;
+}
+
+bool Journal::readNext(int nearest)
+{
+    QList<int> unread = years();
+    unread.removeIf([this](int year) { return m_years.contains(year); });
+    if (unread.isEmpty())
+        return false;
+    yearOf(*std::ranges::min_element(unread, {}, [nearest](int year) { return std::abs(year - nearest); }));
+    return true;
+}
+
+std::optional<JournalEntry> Journal::entry(QDate date)
+{
+    return isPossible(date) ? yearOf(date.year()).entry(date, JournalBlock::Entry) : std::nullopt;
+}
+
+std::optional<JournalEntry> Journal::earlier(QDate date)
+{
+    return isPossible(date) ? yearOf(date.year()).entry(date, JournalBlock::Earlier) : std::nullopt;
+}
+
+QDate Journal::previous(QDate date)
+{
+    const QList<int> years = this->years();
+    for (auto year = years.rbegin(); year != years.rend(); ++year) {
+        if (*year > date.year())
+            continue;
+        const QList<QDate> dates = this->dates(*year);
+        const auto behind = std::ranges::lower_bound(dates, date);
+        if (behind != dates.begin())
+            return *std::prev(behind);
+    }
+    return {};
+}
+
+QDate Journal::next(QDate date)
+{
+    for (const int year : years()) {
+        if (year < date.year())
+            continue;
+        const QList<QDate> dates = this->dates(year);
+        const auto after = std::ranges::upper_bound(dates, date);
+        if (after != dates.end())
+            return *after;
+    }
+    return {};
+}
+
+QList<QDate> Journal::onThisDay(QDate date, int neighbours) const
+{
+    QList<QDate> found;
+    for (const auto &[number, year] : m_years) {
+        if (number == date.year())
+            continue;
+        // 29 February has no place of its own in most years: its neighbours are those of 1 March there.
+        const QDate same(number, date.month(), date.day());
+        const QDate middle = same.isValid() ? same : QDate(number, 3, 1);
+        const QDate first =
+            same.isValid() || neighbours > 0 ? middle.addDays(-neighbours) : middle.addDays(1);
+        for (const QDate day : year.dates()) {
+            if (day >= first && day <= middle.addDays(neighbours))
+                found.prepend(day);
+        }
+    }
+    return found;
+}
+
+QMap<QString, int> Journal::tags() const
+{
+    QMap<QString, std::pair<QString, int>> counts;
+    for (const auto &[number, year] : m_years) {
+        for (const JournalBlock &block : year.blocks()) {
+            const bool hasTags = block.kind == JournalBlock::Entry && block.bytes.contains("\ntags ");
+            const QStringList tags = hasTags ? JournalForm::entry(block).tags : QStringList();
+            for (const QString &tag : tags) {
+                auto &[name, count] = counts[tag.toCaseFolded()];
+                name = tag; // as it was spelt last
+                ++count;
+            }
+        }
+    }
+    QMap<QString, int> tags;
+    for (const auto &[name, count] : std::as_const(counts))
+        tags.insert(name, count);
+    return tags;
+}
+
+Journal::Before &Journal::before(JournalYear &year, QDate date)
+{
+    const auto known = m_sitting.find(date);
+    if (known != m_sitting.end())
+        return known->second;
+    Before before{.blocks = year.blocksOf(date), .entry = year.entry(date, JournalBlock::Entry)};
+    before.written = before.entry ? before.entry->written : m_clock.now();
+    return m_sitting.emplace(date, before).first->second;
+}
+
+bool Journal::put(const JournalEntry &entry)
+{
+    if (!mayBeWritten(entry.date))
+        return false;
+    JournalYear &year = yearOf(entry.date.year());
+    const Before &before = this->before(year, entry.date);
+    JournalEntry now = entry;
+    if (!now.written.isValid())
+        now.written = before.written;
+    now = JournalForm::tidied(now);
+
+    JournalBlocks blocks;
+    if (before.entry ? now == *before.entry : now.isEmpty()) {
+        blocks = before.blocks;
+    } else {
+        if (!now.isEmpty())
+            blocks.push_back(JournalForm::block(now, JournalBlock::Entry));
+        if (before.entry)
+            blocks.push_back(JournalForm::block(*before.entry, JournalBlock::Earlier));
+        else
+            std::ranges::copy_if(before.blocks, std::back_inserter(blocks), [](const JournalBlock &block) {
+                return block.kind == JournalBlock::Earlier;
+            });
+    }
+    const qint64 revision = year.revision;
+    year.replace(entry.date, blocks);
+    if (year.revision != revision)
+        emit changed(entry.date);
+    return true;
+}
+
+bool Journal::deleteForGood(QDate date)
+{
+    if (!mayBeWritten(date))
+        return false;
+    yearOf(date.year()).replace(date, {});
+    m_sitting[date] = {.blocks = {}, .entry = {}, .written = m_clock.now()};
+    emit changed(date);
+    return true;
+}
+
+bool Journal::isModified() const
+{
+    return std::ranges::any_of(m_years, [](const auto &year) { return year.second.isModified(); });
+}
+
+bool Journal::save()
+{
+    bool areSaved = true;
+    for (auto &[number, year] : m_years) {
+        if (year.isModified() && !saveYear(number, year))
+            areSaved = false;
+    }
+    return areSaved;
+}
+
+bool Journal::saveYear(int number, JournalYear &year)
+{
+    if (JournalFiles::stamp(m_folder, number) != year.stamp) {
+        JournalYear there = readYear(number);
+        if (!there.mayBeWritten())
+            return false;
+        year.mergeInto(std::move(there));
+        emit changed({});
+    }
+    if (!Saving::replaceFile(m_folder, JournalFiles::name(number), JournalForm::file(year.blocks())))
+        return false;
+    year.saved();
+    year.stamp = JournalFiles::stamp(m_folder, number);
+    year.state = JournalYear::State::Open;
+    return true;
+}
+
+QString Journal::setAside(int year)
+{
+    if (state(year) != JournalYear::State::ForReading)
+        return {};
+    const QString name = JournalFiles::setAside(m_folder, year);
+    if (!name.isEmpty()) {
+        m_years.erase(year);
+        emit changed({});
+    }
+    return name;
+}
+
+void Journal::reread()
+{
+    bool isChanged = false;
+    for (auto &[number, year] : m_years) {
+        if (JournalFiles::stamp(m_folder, number) == year.stamp)
+            continue;
+        JournalYear there = readYear(number);
+        isChanged = true;
+        if (year.isModified() && there.mayBeWritten()) {
+            year.mergeInto(std::move(there));
+        } else if (!year.isModified()) {
+            year = std::move(there);
+            std::erase_if(m_sitting,
+                          [number = number](const auto &day) { return day.first.year() == number; });
+        }
+    }
+    if (isChanged)
+        emit changed({});
+}

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "journal/model/journalentry.h"
+#include "journal/model/journalyear.h"
+#include "shell/core/clock.h"
+#include "storage/datafolder.h"
+
+#include <QMap>
+#include <QObject>
+
+#include <map>
+#include <optional>
+
+/// The journal of a household: a file a year, each read when it is first needed and kept from then on. What
+/// is put into it stays in memory until a save has brought it to the disk.
+class Journal final : public QObject
+{
+    Q_OBJECT
+public:
+    Journal(const DataFolder &folder, const Clock &clock, QObject *parent = nullptr);
+
+    const DataFolder &folder() const { return m_folder; }
+    static bool isPossible(QDate date);
+
+    /// The years that have a file or something that is not saved yet, ascending; none of them is read.
+    QList<int> years() const;
+    JournalYear::State state(int year) { return yearOf(year).state; }
+    /// A sentence for the user; empty where the year may be written to.
+    QString whyReadOnly(int year) { return yearOf(year).whyReadOnly; }
+    bool mayBeWritten(QDate date) { return isPossible(date) && yearOf(date.year()).mayBeWritten(); }
+
+    /// Reads one more year, of those not read yet the nearest to `nearest`. False when all are read.
+    bool readNext(int nearest);
+    bool isRead(int year) const { return m_years.contains(year); }
+    /// The year as it is in memory now: what searches go through.
+    const JournalYear &year(int year) { return yearOf(year); }
+
+    /// What was written for the date; nothing where nothing was.
+    std::optional<JournalEntry> entry(QDate date);
+    /// The day as it was before the last sitting that changed it.
+    std::optional<JournalEntry> earlier(QDate date);
+    QList<QDate> dates(int year) { return yearOf(year).dates(); }
+    /// The nearest date before (behind) this one that has an entry; invalid where there is none.
+    QDate previous(QDate date);
+    QDate next(QDate date);
+
+    /// The dates of other years that are this day, or at most `neighbours` days away from it, and have an
+    /// entry: those of the years read so far, the latest first.
+    QList<QDate> onThisDay(QDate date, int neighbours) const;
+    /// How many entries have each tag, in the years read so far.
+    QMap<QString, int> tags() const;
+
+    /// Takes what was written for its date; an empty entry is a deleted one. What the day was like before
+    /// this sitting becomes its earlier version. False where the year may not be written to.
+    bool put(const JournalEntry &entry);
+    /// The day goes, and its earlier version too: there is no way back.
+    bool deleteForGood(QDate date);
+    /// What comes is another sitting: days are compared with what they are now.
+    void beginSitting() { m_sitting.clear(); }
+
+    bool isModified() const;
+    /// Brings what is not saved to the disk. False when not all of it is there: it is kept, to be tried
+    /// again.
+    bool save();
+    /// The name that the file of a year for reading only was given; empty when that failed.
+    QString setAside(int year);
+    /// Reads the years anew whose files somebody else has changed.
+    void reread();
+
+signals:
+    /// Of the date's entry or earlier version; an invalid date: of any.
+    void changed(QDate date);
+
+private:
+    /// A day as it was when the sitting began.
+    struct Before {
+        JournalBlocks blocks{};
+        std::optional<JournalEntry> entry{};
+        QDateTime written{}; ///< what an entry that is new gets
+    };
+
+    JournalYear &yearOf(int year);
+    JournalYear readYear(int number);
+    [[nodiscard]] bool saveYear(int number, JournalYear &year);
+    Before &before(JournalYear &year, QDate date);
+
+    const DataFolder &m_folder;
+    const Clock &m_clock;
+    std::map<int, JournalYear> m_years;
+    std::map<QDate, Before> m_sitting;
+    qint64 m_readings = 0; ///< so that no year has a revision twice
+};

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "journal/model/journalfiles.h"
+
+#include "storage/disk.h"
+#include "storage/log.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString beginning = u"DJour"_s;
+const QString ending = u".Fil"_s;
+constexpr qsizetype digits = 4;
+
+/// The year of which `name` is the file; 0 for any other file.
+int yearOf(const QString &name)
+{
+    if (name.size() != beginning.size() + digits + ending.size() ||
+        !name.startsWith(beginning, Qt::CaseInsensitive) || !name.endsWith(ending, Qt::CaseInsensitive))
+        return 0;
+    const QStringView number = QStringView(name).sliced(beginning.size(), digits);
+    const bool isNumber =
+        std::ranges::all_of(number, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
+    const int year = isNumber ? number.toInt() : 0;
+    return year >= JournalForm::firstYear ? year : 0;
+}
+
+} // namespace
+
+QString JournalFiles::name(int year)
+{
+    return beginning + QString::number(year) + ending;
+}
+
+QList<int> JournalFiles::years(const DataFolder &folder)
+{
+    QList<int> years;
+    const QStringList names =
+        QDir(folder.path()).entryList({beginning + u"????"_s + ending}, QDir::AllEntries | QDir::Hidden);
+    for (const QString &name : names) {
+        if (const int year = yearOf(name); year > 0 && !years.contains(year))
+            years.append(year);
+    }
+    std::ranges::sort(years);
+    return years;
+}
+
+std::optional<QByteArray> JournalFiles::read(const DataFolder &folder, int year)
+{
+    const QString path = folder.filePath(name(year));
+    if (!QFileInfo::exists(path))
+        return QByteArray();
+    QFile file(path);
+    if (QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        const QByteArray bytes = file.readAll();
+        if (file.error() == QFile::NoError)
+            return bytes;
+    }
+    qCWarning(storageLog).noquote() << "Cannot read" << path << '-' << file.errorString();
+    return {};
+}
+
+FileStamp JournalFiles::stamp(const DataFolder &folder, int year)
+{
+    return FileStamp::of(folder, {name(year)});
+}
+
+QString JournalFiles::setAside(const DataFolder &folder, int year)
+{
+    const QString plain = beginning + QString::number(year) + u" set aside"_s;
+    QString aside = plain + ending;
+    for (int number = 2; folder.exists(aside); ++number)
+        aside = plain + u' ' + QString::number(number) + ending;
+    const QString path = folder.filePath(name(year));
+    if (folder.isReadOnly() || !QFileInfo::exists(path) ||
+        !Disk::renameOver(path, folder.path() + u'/' + aside))
+        return {};
+    Disk::flushNames(folder.path());
+    return aside;
+}

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "journal/model/journalyear.h"
+
+#include "journal/model/journalform.h"
+
+#include <algorithm>
+
+namespace {
+
+using Blocks = JournalBlocks;
+
+/// Those of `blocks` that are of this kind as one entry.
+std::optional<JournalEntry> entryOf(const Blocks &blocks, JournalBlock::Kind kind)
+{
+    std::optional<JournalEntry> entry;
+    for (const JournalBlock &block : blocks) {
+        if (block.kind != kind)
+            continue;
+        const JournalEntry one = JournalForm::entry(block);
+        entry = entry ? JournalForm::joined(*entry, one) : one;
+    }
+    return entry && (!entry->isEmpty() || !entry->otherLines.isEmpty()) ? entry : std::nullopt;
+}
+
+/// A date that was changed here and elsewhere.
+Blocks merged(const Blocks &here, const Blocks &there)
+{
+    const auto ours = entryOf(here, JournalBlock::Entry);
+    const auto theirs = entryOf(there, JournalBlock::Entry);
+    Blocks blocks;
+    if (ours && theirs && !ours->text.contains(theirs->text))
+        blocks.push_back(JournalForm::block(JournalForm::joined(*ours, *theirs), JournalBlock::Entry));
+    else
+        std::ranges::copy_if(ours ? here : there, std::back_inserter(blocks),
+                             [](const JournalBlock &block) { return block.kind == JournalBlock::Entry; });
+    const bool hasEarlier = entryOf(here, JournalBlock::Earlier).has_value();
+    std::ranges::copy_if(hasEarlier ? here : there, std::back_inserter(blocks),
+                         [](const JournalBlock &block) { return block.kind == JournalBlock::Earlier; });
+    return blocks;
+}
+
+} // namespace
+
+void JournalYear::setBlocks(JournalBlocks blocks)
+{
+    m_blocks = std::move(blocks);
+    ++revision;
+}
+
+JournalBlocks::const_iterator JournalYear::find(QDate date) const
+{
+    return std::ranges::partition_point(m_blocks, [date](const JournalBlock &block) {
+        return block.kind == JournalBlock::Loose || block.date < date;
+    });
+}
+
+JournalBlocks JournalYear::blocksOf(QDate date) const
+{
+    JournalBlocks blocks;
+    for (auto at = find(date); at != m_blocks.end() && at->date == date; ++at)
+        blocks.push_back(*at);
+    return blocks;
+}
+
+std::optional<JournalEntry> JournalYear::entry(QDate date, JournalBlock::Kind kind) const
+{
+    return entryOf(blocksOf(date), kind);
+}
+
+QList<QDate> JournalYear::dates() const
+{
+    QList<QDate> dates;
+    for (const JournalBlock &block : m_blocks) {
+        if (block.kind != JournalBlock::Entry || (!dates.isEmpty() && dates.last() == block.date))
+            continue;
+        const JournalForm::Parts parts = JournalForm::partsOf(block.bytes);
+        if (!parts.body.trimmed().isEmpty() || !JournalForm::entry(block).isEmpty())
+            dates.append(block.date);
+    }
+    return dates;
+}
+
+void JournalYear::replace(QDate date, const JournalBlocks &blocks)
+{
+    const JournalBlocks former = blocksOf(date);
+    if (former == blocks)
+        return;
+    const auto [unsaved, isFirst] = m_unsaved.try_emplace(date, former);
+    if (!isFirst && unsaved->second == blocks)
+        m_unsaved.erase(unsaved);
+    const auto at = m_blocks.erase(find(date), find(date) + std::ptrdiff_t(former.size()));
+    m_blocks.insert(at, blocks.begin(), blocks.end());
+    ++revision;
+}
+
+void JournalYear::mergeInto(JournalYear there)
+{
+    // A file that is gone, or has been emptied, takes nothing along.
+    if (there.m_blocks.empty())
+        there.m_blocks = m_blocks;
+    for (const auto &[date, base] : m_unsaved) {
+        const Blocks ours = blocksOf(date);
+        const Blocks theirs = there.blocksOf(date);
+        const bool isChangedThere = theirs != base && theirs != ours;
+        there.replace(date, isChangedThere ? merged(ours, theirs) : ours);
+        there.m_unsaved[date] = theirs;
+    }
+    *this = std::move(there);
+}

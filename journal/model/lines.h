@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+/// What the journal says quietly.
+namespace JournalLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+inline QString foreignFile(const QString &file)
+{
+    return file + u" is not a file of this journal: the year can be read, but not changed."_s;
+}
+
+inline QString binaryFile(const QString &file)
+{
+    return file + u" holds bytes that are no text: the year can be read, but not changed."_s;
+}
+
+inline QString laterVersion(int year)
+{
+    return u"%1 was written by a later version of Quillery: it can be read, but not changed."_s.arg(year);
+}
+
+inline QString unreadableFile(const QString &file)
+{
+    return file + u" cannot be read: nothing can be written for that year."_s;
+}
+
+inline QString protectedFile(const QString &file)
+{
+    return file + u" is write-protected: the year can be read, but not changed."_s;
+}
+
+inline QString sealed(int year)
+{
+    return u"%1 is sealed."_s.arg(year);
+}
+
+} // namespace JournalLines
