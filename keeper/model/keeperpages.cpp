@@ -58,6 +58,8 @@ public:
 private:
     QString shown(const KeeperText &field) const;
     QList<KeeperText> inOrder(const KeeperEntry &entry) const;
+    /// Secrets are copied sign by sign; dots are not.
+    bool isCode(const KeeperText &field) const { return field.isSecret && m_hasSecrets; }
     bool fillsMoreThanHalf(const KeeperEntry &entry) const;
     double bodyWidth() const { return m_context.setup.sheet().width() - 2 * PageMetrics::margin; }
 
@@ -110,10 +112,14 @@ void Paper::addEntry(const KeeperEntry &entry)
     m_page.line(KeeperKinds::name(entry.kind()), TextRole::Small);
     m_page.columns({captionWidth, bodyWidth() - captionWidth});
     for (const KeeperText &field : inOrder(entry)) {
-        QStringList lines = shown(field).split(u'\n');
-        m_page.row({KeeperKinds::caption(field), lines.takeFirst()});
-        for (const QString &line : std::as_const(lines))
-            m_page.row({QString(), line});
+        QString caption = KeeperKinds::caption(field);
+        for (const QString &line : shown(field).split(u'\n')) {
+            QStringList cells{std::exchange(caption, {}), line};
+            if (isCode(field))
+                m_page.codeRow(std::move(cells), {1});
+            else
+                m_page.row(std::move(cells));
+        }
     }
 }
 
@@ -154,9 +160,12 @@ void Paper::addList(const QList<KeeperEntry> &entries)
         QList<QStringList> rows;
         QStringList headings{u"Title"_s};
         std::vector<double> weights{2};
+        std::vector<int> codeCells;
         for (const quint8 id : columns.ids) {
             if (id == 0)
                 continue;
+            if (m_hasSecrets && KeeperKinds::isSecret(id))
+                codeCells.push_back(int(headings.size()));
             headings << KeeperKinds::caption({id, false, {}, {}});
             weights.push_back(columns.kind == EntryKind::Note ? 6 : 2);
         }
@@ -178,7 +187,7 @@ void Paper::addList(const QList<KeeperEntry> &entries)
         m_page.line(KeeperKinds::name(columns.kind), TextRole::Heading);
         m_page.columns(weights, headings);
         for (const QStringList &row : std::as_const(rows))
-            m_page.row(row);
+            m_page.codeRow(row, codeCells);
     }
 }
 
@@ -238,7 +247,7 @@ Page KeeperPages::emergencySheet(const EmergencySheet &sheet, const PageContext 
     if (sheet.recoveryCode.isEmpty())
         page.blank(u"Recovery code:"_s);
     else
-        page.line(u"Recovery code:"_s).line(sheet.recoveryCode, TextRole::Heading);
+        page.line(u"Recovery code:"_s).line(sheet.recoveryCode, TextRole::Code);
     addWritten(page, u"Where the papers lie"_s,
                withFacts(sheet.papers, sheet.entries, KeeperField::DocumentPlace), 3);
     addWritten(page, u"Whom to call"_s, withFacts(sheet.call, sheet.entries, KeeperField::CardLostCall), 3);

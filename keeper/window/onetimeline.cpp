@@ -4,8 +4,8 @@
 #include "shell/controls/controls.h"
 #include "shell/core/clock.h"
 #include "shell/look/theme.h"
+#include "shell/pages/fixedface.h"
 
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -56,8 +56,9 @@ void OneTimeLine::setSecret(const QString &secret)
     m_copy->setVisible(m_secret.has_value());
     QFont font = TypeScale::label();
     if (m_secret) {
-        font = TypeScale::windowTitle();
-        font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+        font = FixedFace::font();
+        font.setPointSizeF(TypeScale::windowTitle().pointSizeF());
+        font.setWeight(QFont::DemiBold);
     }
     m_code->setFont(font);
     m_code->setText(problem);

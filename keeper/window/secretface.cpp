@@ -3,9 +3,9 @@
 
 #include "keeper/model/spokensecret.h"
 #include "shell/look/theme.h"
+#include "shell/pages/fixedface.h"
 
 #include <QAccessible>
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -19,15 +19,10 @@ constexpr int inset = 12;
 constexpr int corner = 6;
 constexpr double largePoints = 22;
 
-/// Fonts in which l, 1, I, O and 0 all look different; the system's own is the last resort.
 const QFont &faceFont(bool isBold)
 {
     static const QFont plain = [] {
-        QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        font.setFamilies({u"DejaVu Sans Mono"_s, u"Cascadia Mono"_s, u"Consolas"_s, u"Noto Sans Mono"_s,
-                          u"Liberation Mono"_s, font.family()});
-        font.setStyleHint(QFont::Monospace);
-        font.setFixedPitch(true);
+        QFont font = FixedFace::font();
         font.setPointSizeF(std::max(largePoints, 2 * TypeScale::body().pointSizeF()));
         return font;
     }();

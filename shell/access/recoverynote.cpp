@@ -4,9 +4,9 @@
 #include "shell/access/passwordmessages.h"
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
+#include "shell/pages/fixedface.h"
 #include "storage/sealing/secretbytes.h"
 
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -31,7 +31,7 @@ RecoveryNote::RecoveryNote(QWidget *parent)
     , m_words(named(makeQuietLabel({}, this), u"recoveryWords"_s))
     , m_print(makeButton(u"printCode"_s, u"&Print Code"_s, this, ButtonKind::Main))
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont font = FixedFace::font();
     font.setPointSizeF(TypeScale::group().pointSizeF());
     m_shown->setFont(font);
     QLabel *what = makeQuietLabel(PasswordMessages::keepTheCode(), this);

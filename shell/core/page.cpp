@@ -81,6 +81,12 @@ Page &Page::row(QStringList cells, TextRole role)
     return *this;
 }
 
+Page &Page::codeRow(QStringList cells, std::vector<int> codeCells)
+{
+    m_items.emplace_back(PageItem::Row{std::move(cells), TextRole::Body, false, std::move(codeCells)});
+    return *this;
+}
+
 Page &Page::rowWithNext(QStringList cells, TextRole role)
 {
     m_items.emplace_back(PageItem::Row{std::move(cells), role, true});

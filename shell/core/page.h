@@ -18,7 +18,8 @@ enum class TextRole {
     Body,    ///< 11 pt in the page font
     Strong,  ///< body, semibold
     Heading, ///< 13 pt semibold
-    Small    ///< 10 pt
+    Small,   ///< 10 pt
+    Code     ///< 11 pt in letters of one width, for what is copied sign by sign
 };
 
 /// Measures of paper and print that pages are built with, before any font is known.
@@ -124,7 +125,8 @@ struct Columns {
 struct Row {
     QStringList cells;
     TextRole role = TextRole::Body;
-    bool staysWithNext = false; ///< no sheet ends between it and the row that follows
+    bool staysWithNext = false;   ///< no sheet ends between it and the row that follows
+    std::vector<int> codeCells{}; ///< those of its cells that are set as code
     bool operator==(const Row &) const = default;
 };
 
@@ -219,6 +221,8 @@ public:
                   std::vector<Qt::AlignmentFlag> alignments = {});
     Page &table(PageItem::Columns columns);
     Page &row(QStringList cells, TextRole role = TextRole::Body);
+    /// A row of which some cells, counted from 0, are set as code.
+    Page &codeRow(QStringList cells, std::vector<int> codeCells);
     /// A row that no sheet separates from the next one.
     Page &rowWithNext(QStringList cells, TextRole role = TextRole::Body);
     Page &blank(const QString &label);

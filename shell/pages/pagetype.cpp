@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pages/pagetype.h"
 
+#include "shell/pages/fixedface.h"
 #include "shell/pages/pagefont.h"
 
 #include <QFontInfo>
@@ -203,6 +204,7 @@ PageTypes::PageTypes(const PageFont &font, double points)
     , strong(semibold(font.font), points, font.color)
     , heading(semibold(font.font), points * headingPoints / bodyPoints, font.color)
     , small(font.font, points * smallPoints / bodyPoints, font.color)
+    , code(FixedFace::font(), points, font.color)
 {}
 
 const PageType &PageTypes::of(TextRole role) const
@@ -214,6 +216,8 @@ const PageType &PageTypes::of(TextRole role) const
         return heading;
     case TextRole::Small:
         return small;
+    case TextRole::Code:
+        return code;
     case TextRole::Body:
         break;
     }

@@ -72,4 +72,5 @@ struct PageTypes {
     PageType strong;
     PageType heading;
     PageType small;
+    PageType code;
 };

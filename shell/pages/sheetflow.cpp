@@ -95,9 +95,11 @@ void SheetFlow::drawCells(const std::vector<SheetCell> &cells, const PageType &t
 {
     for (const SheetCell &cell : cells) {
         const qsizetype end = std::min(m_at.line + count, cell.lines.size());
+        const PageType &own = cell.type ? *cell.type : type;
+        const double drop = type.baseline() - own.baseline();
         for (qsizetype i = m_at.line; m_painter && i < end; ++i) {
-            const QPointF place(cell.left, top + double(i - m_at.line) * type.lineHeight());
-            type.draw(*m_painter, place, cell.width, cell.alignment, cell.lines[i]);
+            const QPointF place(cell.left, top + drop + double(i - m_at.line) * type.lineHeight());
+            own.draw(*m_painter, place, cell.width, cell.alignment, cell.lines[i]);
         }
     }
 }
@@ -167,7 +169,7 @@ bool SheetFlow::place(const PageItem::Columns &columns)
 bool SheetFlow::place(const PageItem::Row &row)
 {
     const PageType &type = m_table.types().of(row.role);
-    std::vector<SheetCell> cells = m_table.cellsOf(row.cells, type);
+    std::vector<SheetCell> cells = m_table.cellsOf(row);
     std::vector<SheetCell> headings = m_table.headings();
     const double height = m_table.rowGap() + double(SheetTable::lineCount(cells)) * type.lineHeight() +
                           closingReserve() + heightOfCompany();
@@ -175,7 +177,7 @@ bool SheetFlow::place(const PageItem::Row &row)
     if (!m_isFresh && m_at.line == 0 && isFull) {
         if (!nextColumn())
             return false;
-        cells = m_table.cellsOf(row.cells, type);
+        cells = m_table.cellsOf(row);
         headings = m_table.headings();
     }
     placeHeadings(headings);
@@ -208,7 +210,7 @@ double SheetFlow::heightOfCompany() const
     for (std::size_t at = m_at.item; m_layout.staysWithNext(at); ++at) {
         const auto *row = std::get_if<PageItem::Row>(&m_layout.page().items()[at + 1]);
         const PageType &type = m_table.types().of(row ? row->role : TextRole::Body);
-        const auto lines = double(row ? SheetTable::lineCount(m_table.cellsOf(row->cells, type)) : 0);
+        const auto lines = double(row ? SheetTable::lineCount(m_table.cellsOf(*row)) : 0);
         height += row ? m_table.rowGap() + lines * type.lineHeight() : ruleGap;
         if (height > most)
             return 0;
@@ -227,7 +229,7 @@ bool SheetFlow::place(const PageItem::Line &line)
             m_y += type.lineHeight();
         return true;
     }
-    const SheetCell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line)};
+    const SheetCell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line), {}};
     return placeCells({cell}, type, 0, Split::AtLines);
 }
 

@@ -62,7 +62,7 @@ void SheetTable::start(const PageItem::Columns *columns, const PageTypes &types,
     for (std::size_t i = 0; i < columns->weights.size() && sum > 0; ++i) {
         const double width = usable * weight(columns->weights[i]) / sum;
         const auto alignment = i < columns->alignments.size() ? columns->alignments[i] : Qt::AlignLeft;
-        m_boxes.push_back({left, width, alignment, {}});
+        m_boxes.push_back({left, width, alignment, {}, {}});
         left += width + columnGap();
     }
 }
@@ -81,13 +81,26 @@ std::vector<SheetCell> SheetTable::cellsOf(const QStringList &texts, const PageT
     if (cells.empty()) { // a row outside a table: equal columns
         const double width = m_body.width() / double(std::max<qsizetype>(1, texts.size()));
         for (qsizetype i = 0; i < texts.size(); ++i)
-            cells.push_back({m_body.left() + double(i) * width, width - columnGap(), Qt::AlignLeft, {}});
+            cells.push_back({m_body.left() + double(i) * width, width - columnGap(), Qt::AlignLeft, {}, {}});
     }
     for (std::size_t i = 0; i < cells.size() && qsizetype(i) < texts.size(); ++i) {
         const bool isLast = i + 1 == cells.size();
         // Texts beyond the last column join it, so that nothing is lost.
         const QString text = isLast ? texts.mid(qsizetype(i)).join("  "_L1) : texts[qsizetype(i)];
         cells[i].lines = type.wrapped(text, cells[i].width);
+    }
+    return cells;
+}
+
+std::vector<SheetCell> SheetTable::cellsOf(const PageItem::Row &row) const
+{
+    std::vector<SheetCell> cells = cellsOf(row.cells, m_types->of(row.role));
+    for (const int code : row.codeCells) {
+        if (code >= row.cells.size() || std::size_t(code) >= cells.size())
+            continue;
+        SheetCell &cell = cells[std::size_t(code)];
+        cell.type = &m_types->code;
+        cell.lines = cell.type->wrapped(row.cells[code], cell.width);
     }
     return cells;
 }

@@ -15,6 +15,7 @@ struct SheetCell {
     double width = 0;
     Qt::Alignment alignment = Qt::AlignLeft;
     QStringList lines;
+    const PageType *type = nullptr; ///< where it is another than the row's
 };
 
 /// The table in force on a sheet: where its columns, headings and cells stand. It measures and draws nothing.
@@ -38,6 +39,7 @@ public:
     /// Lines of the highest cell, at least one.
     static qsizetype lineCount(const std::vector<SheetCell> &cells);
     std::vector<SheetCell> cellsOf(const QStringList &texts, const PageType &type) const;
+    std::vector<SheetCell> cellsOf(const PageItem::Row &row) const;
     /// None once `beginRows` was called.
     std::vector<SheetCell> headings() const;
     double headingHeight(const std::vector<SheetCell> &headings) const;

@@ -118,6 +118,28 @@ private slots:
         QCOMPARE(KeeperPages::printout(entries, options, context).toText().split(u'\n'), expected);
     }
 
+    /// What is typed from paper is set so that l, I and 1 differ.
+    void setsSecretsAsCode_data()
+    {
+        rows<Options, QStringList>({
+            {"a list", {Options::List, true}, {u"plutoed-grill"_s, {}, u"0042"_s}},
+            {"whole entries", {Options::TwoToAPage, true}, {u"plutoed-grill"_s, u"4711"_s, u"0042"_s}},
+            {"dots", {Options::TwoToAPage, false}, {}},
+        });
+    }
+
+    void setsSecretsAsCode()
+    {
+        const auto [options, expected] = row<Options, QStringList>();
+        QStringList found;
+        for (const PageItem::Row &line :
+             itemsOf<PageItem::Row>(KeeperPages::printout({power(), card()}, options, context))) {
+            for (const int cell : line.codeCells)
+                found << line.cells[cell];
+        }
+        QCOMPARE(found, expected);
+    }
+
     /// A sheet is cut in the middle; an entry that needs more than half of it has it alone.
     void putsTwoOnASheet_data()
     {
