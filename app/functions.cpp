@@ -36,6 +36,8 @@
 #include "weight/model/weightsource.h"
 #include "weight/window/weighttracker.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -228,15 +230,24 @@ void showToDo(QWidget &window, const Place &place)
         lists->showPlace(place);
 }
 
-/// Whether it is open shows in its window alone.
+/// It shows in its window alone.
+bool isKeeperOpen(const Program &program)
+{
+    return std::ranges::any_of(program.functions.openWindows(), [](QWidget *window) {
+        auto *keeper = qobject_cast<Form4 *>(window);
+        return keeper && keeper->keeper().state() == Keeper::State::Open;
+    });
+}
+
 std::optional<LiveLine> keeperNews(const Program &program, QDate today)
 {
-    bool isOpen = false;
-    for (QWidget *window : program.functions.openWindows()) {
-        if (auto *keeper = qobject_cast<Form4 *>(window))
-            isOpen = keeper->keeper().state() == Keeper::State::Open;
-    }
-    return KeeperNews::liveLine(program.folder, isOpen, today);
+    return KeeperNews::liveLine(program.folder, isKeeperOpen(program), today);
+}
+
+/// While it is open, what its entries' file is like is not news: the card follows at once when it is locked.
+QStringList keeperLiveFiles(const Program &program)
+{
+    return isKeeperOpen(program) ? QStringList() : QStringList{KeeperFiles::entries};
 }
 
 QStringList keeperFiles(const Program &program)
@@ -320,8 +331,8 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
     // Nothing of what it holds is told to others, guarded or not.
     functions.add(Function::PasswordKeeper, {.open = makeWindow<Form4>,
                                              .liveLine = keeperNews,
-                                             .liveFiles = {KeeperFiles::entries, KeeperFiles::keys},
-                                             .followsClock = true,
+                                             .liveFiles = {KeeperFiles::keys},
+                                             .moreLiveFiles = keeperLiveFiles,
                                              .files = keeperFiles});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});

@@ -39,14 +39,18 @@ std::optional<LiveLine> KeeperNews::liveLine(const DataFolder &folder, bool isOp
     if (state == State::None || state == State::Foreign)
         return std::nullopt;
     if (state == State::KeyFileDamaged || state == State::FileMissing)
-        return LiveLine{
-            .text = u"The keeper's files are damaged"_s, .urgency = LiveLine::Overdue, .sentence = {}};
+        return LiveLine{.text = u"The keeper's files are damaged"_s,
+                        .urgency = LiveLine::Overdue,
+                        .sentence = {},
+                        .shorter = {u"Its files are damaged"_s}};
     const int soon =
         state == State::Newer ? 0 : expiringSoon(KeeperFiles::keySlots(folder).openRecord(), today);
     if (soon > 0)
-        return LiveLine{.text = soon == 1 ? u"1 document expires within 30 days"_s
-                                          : u"%1 documents expire within 30 days"_s.arg(soon),
-                        .urgency = LiveLine::Due,
-                        .sentence = {}};
+        return LiveLine{
+            .text = soon == 1 ? u"1 document expires within 30 days"_s
+                              : u"%1 documents expire within 30 days"_s.arg(soon),
+            .urgency = LiveLine::Due,
+            .sentence = {},
+            .shorter = {soon == 1 ? u"1 document expires soon"_s : u"%1 documents expire soon"_s.arg(soon)}};
     return LiveLine{.text = isOpen ? u"Open"_s : u"Locked"_s, .sentence = {}};
 }

@@ -38,6 +38,7 @@ DayBoard::DayBoard(Program &program, MenuPicture &picture, const FunctionOpener 
             [this](Function function, const Place &place) { m_opener.open(function, place); });
     connect(&picture, &MenuPicture::firstPainted, this, &DayBoard::begin);
     connect(m_watch, &QTimer::timeout, this, &DayBoard::refresh);
+    connect(&program.changes, &ProgramSignals::guardsChanged, this, &DayBoard::refresh);
     m_watch->setTimerType(Qt::VeryCoarseTimer);
 }
 

@@ -50,6 +50,8 @@ IdleLimit::IdleLimit(const IdleClock &clock, QObject *parent)
 
 void IdleLimit::start(std::chrono::milliseconds limit)
 {
+    if (m_timer.isActive() && limit == m_limit)
+        return; // nobody came back by that
     m_limit = limit;
     m_timer.start(limit);
 }
