@@ -64,6 +64,15 @@ EntryKind kindOf(const QString &written, const KeeperEntry &entry)
     return KeeperTexts::likelyKind(entry);
 }
 
+/// Whether cells behind the last heading hold something: a separator without quotes has cut a text in two,
+/// and nobody knows which one.
+bool hasMoreThan(const QStringList &heading, const QStringList &cells)
+{
+    return !heading.isEmpty() && std::ranges::any_of(cells.mid(heading.size()), [](const QString &cell) {
+        return !cell.trimmed().isEmpty();
+    });
+}
+
 bool hasControls(const QStringList &cells)
 {
     return std::ranges::any_of(cells, [](const QString &cell) { return KeeperTexts::hasControls(cell); });
@@ -135,6 +144,11 @@ IncomingEntry KeeperCsvImport::read(const CsvFile::Line &line) const
     IncomingEntry incoming{.number = line.number, .state = IncomingEntry::New};
     if (!line.isClosed) {
         incoming.problem = u"a quote has no end"_s;
+    } else if (hasMoreThan(m_heading, line.cells)) {
+        incoming.problem =
+            u"it has %1 cells and there are %2 headings; a text with the separator in it wants quotes"_s
+                .arg(line.cells.size())
+                .arg(m_heading.size());
     } else if (hasControls(line.cells)) {
         incoming.problem = u"it has characters that are no text"_s;
     } else {

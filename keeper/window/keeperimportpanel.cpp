@@ -7,16 +7,23 @@
 #include "keeper/model/lines.h"
 #include "keeper/window/windowlines.h"
 #include "shell/controls/importtable.h"
+#include "shell/look/theme.h"
 #include "shell/program/program.h"
 
+#include <QHeaderView>
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr int measuredRows = 300;
+constexpr int widestWords = 480;
+constexpr int inset = 32;
 
 /// "User name: anne; in the file anne.lind". Of a secret no more is told than whether it is another.
 QString besideLine(const KeeperImport::Beside &text)
@@ -112,10 +119,12 @@ QString KeeperImportPanel::whyReadOnly() const
 void KeeperImportPanel::shown()
 {
     ImportPreview::shown();
+    m_beside->setVisible(m_import && hasDifferent());
     followLine();
 }
 
-/// Columns that are empty in all lines stay away, so that what becomes of a line is in sight.
+/// What becomes of a line stands beside its title, in sight however many columns there are; those that are
+/// empty in all lines stay away.
 void KeeperImportPanel::shareWidth()
 {
     for (int column = 0; m_import && column < KeeperImport::ColumnCount; ++column) {
@@ -125,6 +134,25 @@ void KeeperImportPanel::shareWidth()
         view().setColumnHidden(column + 1, isEmpty); // the first has the line numbers
     }
     ImportPreview::shareWidth();
+    QHeaderView &heading = *view().horizontalHeader();
+    const int becomes = table().columnCount() - 1;
+    if (becomes <= KeeperImport::Title + 1)
+        return;
+    heading.moveSection(heading.visualIndex(becomes), KeeperImport::Title + 2);
+    const QFontMetrics body(TypeScale::body());
+    int width = body.horizontalAdvance(u"What becomes of it"_s);
+    for (int row = 0; row < std::min(table().rowCount(), measuredRows); ++row)
+        width = std::max(width, body.horizontalAdvance(table().index(row, becomes).data().toString()));
+    view().setColumnWidth(becomes, std::min(width + inset, TypeScale::wide(widestWords)));
+}
+
+bool KeeperImportPanel::hasDifferent() const
+{
+    for (std::size_t line = 0; line < m_import->lineCount(); ++line) {
+        if (m_import->line(line).state == IncomingEntry::Differs)
+            return true;
+    }
+    return false;
 }
 
 /// What the chosen line has otherwise than the entry that is there.

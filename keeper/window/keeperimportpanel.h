@@ -34,6 +34,7 @@ protected:
 
 private:
     void followLine();
+    bool hasDifferent() const;
 
     KeeperDesk m_desk;
     const KeeperImport *m_import = nullptr;
