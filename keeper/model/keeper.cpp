@@ -201,6 +201,18 @@ QList<KeeperVersion> Keeper::versions(const QByteArray &id) const
     return earlier;
 }
 
+bool Keeper::isUsedBefore(const QString &password, const QByteArray &id) const
+{
+    if (!m_file || password.isEmpty())
+        return false;
+    if (m_index.hasPassword(SecretBytes::ofText(password).view(), id))
+        return true;
+    return std::ranges::any_of(versions(id), [&](const KeeperVersion &version) {
+        const auto earlier = entry(id, version.number);
+        return earlier && earlier->text(KeeperField::Password) == password;
+    });
+}
+
 /// Sealed in it: since when the password is what it is.
 KeeperFile::Writing Keeper::writingOf(const KeeperEntry &entry) const
 {

@@ -78,6 +78,8 @@ public:
     qsizetype memoryUsed() const { return m_index.memoryUsed(); }
     /// The whole entry, with its secrets; `version` is one of `versions`, 0 the last.
     std::optional<KeeperEntry> entry(const QByteArray &id, quint32 version = 0) const;
+    /// Whether another entry than `id` has this password, or an earlier version of that one had it.
+    bool isUsedBefore(const QString &password, const QByteArray &id) const;
     /// The last five earlier ones, the newest first.
     QList<KeeperVersion> versions(const QByteArray &id) const;
 

@@ -100,6 +100,15 @@ QByteArray KeeperIndex::passwordHash(QByteArrayView password) const
     return hash;
 }
 
+bool KeeperIndex::hasPassword(QByteArrayView password, QByteArrayView besides) const
+{
+    const QByteArray hash = passwordHash(password);
+    return std::ranges::any_of(m_rows, [&hash, besides](const Row &row) {
+        return row.hasPassword && row.passwordHash.size() == std::size_t(hash.size()) &&
+               std::ranges::equal(row.passwordHash, hash) && !std::ranges::equal(row.id, besides);
+    });
+}
+
 void KeeperIndex::note(Row &row, Texts &texts, quint8 id, QByteArrayView text) const
 {
     switch (id) {

@@ -61,6 +61,8 @@ public:
     std::vector<qint32> expiries(QDate from) const;
 
     QByteArray passwordHash(QByteArrayView password) const;
+    /// Whether another entry than `besides` has this password, in the trash too.
+    bool hasPassword(QByteArrayView password, QByteArrayView besides) const;
 
     /// For measuring: the folded texts, and bytes held in all.
     QByteArrayView folded() const { return {m_folded.data(), qsizetype(m_folded.size())}; }

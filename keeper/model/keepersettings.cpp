@@ -15,6 +15,7 @@ enum Id : quint8 {
     ClipboardSeconds = 3,
     TellsExpiry = 4,
     KnowsPrinting = 5,
+    NewCode = 6,
     Sheet = 16
 };
 
@@ -52,6 +53,8 @@ SecretBytes KeeperSettings::encoded() const
     add(ClipboardSeconds, QString::number(clipboardSeconds));
     add(TellsExpiry, tellsExpiry ? u"1"_s : u"0"_s);
     add(KnowsPrinting, knowsPrinting ? u"1"_s : u"0"_s);
+    if (!newCode.isEmpty())
+        add(NewCode, newCode);
     const qsizetype first = fields.fields.size();
     for (const PrintedSheet &sheet : printed.last(std::min(printed.size(), mostSheets)))
         add(Sheet, sheetText(sheet));
@@ -80,6 +83,9 @@ KeeperSettings KeeperSettings::decoded(QByteArrayView bytes)
             break;
         case KnowsPrinting:
             settings.knowsPrinting = text == "1"_L1;
+            break;
+        case NewCode:
+            settings.newCode = text;
             break;
         case Sheet:
             settings.printed.append(sheetOf(text));

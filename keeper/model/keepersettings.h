@@ -24,6 +24,7 @@ struct KeeperSettings {
     int clipboardSeconds = 30;
     bool tellsExpiry = false;    ///< on the card, without any name
     bool knowsPrinting = false;  ///< the user was told that print systems keep pages
+    QString newCode;             ///< a recovery code that nobody has said yet to have kept
     QList<PrintedSheet> printed; ///< the latest last
 
     /// As many of the latest sheets as have room.

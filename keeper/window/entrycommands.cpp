@@ -55,7 +55,10 @@ void EntryCommands::addEntryCommands(QMenu *edit)
         [this] { return m_work.isLocked() ? KeeperWindowLines::isInTrash() : whyNoEntry(); },
         CommonKeys::change));
     m_duplicate = commands.writing(commands.add(
-        edit, u"mEDup"_s, u"Dupl&icate"_s, [this] { duplicate(); }, [this] { return whyNoEntry(); },
+        edit, u"mEDup"_s, u"Dupl&icate"_s, [this] { duplicate(); },
+        [this] {
+            return m_work.isNew() && !m_work.isModified() ? KeeperWindowLines::nothingTyped() : whyNoEntry();
+        },
         Qt::CTRL | Qt::Key_D));
     m_favourite = commands.writing(commands.add(
         edit, u"mEFav"_s, u"&Favourite"_s, [this] { turnFavourite(); }, [this] { return whyNoneChosen(); }));
@@ -131,7 +134,8 @@ void EntryCommands::makeButtons()
     several.addLeft(commands.button(m_back, u"bringBackSeveral"_s, m_back->text(), &several));
     several.addLeft(commands.button(m_favourite, u"favouriteSeveral"_s, m_favourite->text(), &several));
     EmptyPage &empty = m_work.emptyPage();
-    empty.addButton(commands.button(m_new, u"emptyNew"_s, m_new->text(), &empty, ButtonKind::Main));
+    // The button under the list has the access key: a second one would make it lead to neither.
+    empty.addButton(commands.button(m_new, u"emptyNew"_s, u"New Entry"_s, &empty, ButtonKind::Main));
     EmptyPage &damaged = m_work.damagedPage();
     damaged.addButton(commands.button(m_giveUp, u"giveUp"_s, m_giveUp->text(), &damaged));
     m_pane.addButton(commands.button(m_new, u"newEntryButton"_s, m_new->text(), &m_pane));
@@ -139,10 +143,11 @@ void EntryCommands::makeButtons()
 
 // What is chosen
 
+/// Not while search or filter leave it out: what is copied is what the list shows.
 const KeeperSummary *EntryCommands::only() const
 {
     const QList<KeeperSummary> &chosen = m_pane.chosenEntries();
-    return chosen.size() == 1 ? &chosen.first() : nullptr;
+    return chosen.size() == 1 && m_pane.isListed(chosen.first().id) ? &chosen.first() : nullptr;
 }
 
 bool EntryCommands::isTrashChosen() const
@@ -314,6 +319,7 @@ void EntryCommands::remove()
         emit said(KeeperWindowLines::notSaved());
         return;
     }
+    m_work.forgetDraftOf(ids);
     m_pane.choose({});
     m_work.show({});
     emit done(title, trashing(title, ids, true));

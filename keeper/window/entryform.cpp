@@ -11,12 +11,13 @@
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/look/theme.h"
 #include "shell/program/program.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -26,7 +27,10 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-constexpr int greatestWidth = 640;
+constexpr int widestBoxes = 640;
+constexpr int widestCommon = 380;
+constexpr int twoColumnsFrom = 700;
+constexpr int columnGap = 28;
 constexpr int rowGap = 10;
 constexpr int boxGap = 12;
 constexpr int kindWidth = 160;
@@ -56,6 +60,8 @@ EntryForm::EntryForm(const Program &program, QWidget *window, QWidget *parent)
     : QWidget(parent)
     , m_program(program)
     , m_picker(new DatePicker(program.clock, program.settings, window, u"keeperCalendar"_s))
+    , m_columns(new QBoxLayout(QBoxLayout::TopToBottom, this))
+    , m_names(new QBoxLayout(QBoxLayout::LeftToRight))
     , m_title(named(new QLineEdit(this), u"entryTitle"_s))
     , m_kind(named(new QComboBox(this), u"entryKind"_s))
     , m_kindPlace(new QVBoxLayout)
@@ -76,15 +82,17 @@ EntryForm::EntryForm(const Program &program, QWidget *window, QWidget *parent)
     m_notes->setTabChangesFocus(true);
     for (QLineEdit *box : {m_title, m_member->lineEdit()})
         new PasteFilter(box, Characters::All);
-    auto *rows = new QVBoxLayout(this);
-    rows->setContentsMargins({});
+    auto *rows = new QVBoxLayout;
     rows->setSpacing(rowGap);
     rows->addLayout(makeHead());
     rows->addLayout(m_kindPlace);
     rows->addWidget(m_own);
-    rows->addLayout(makeCommon());
-    rows->addLayout(labelled(u"Notes"_s, m_notes), 1);
-    setMaximumWidth(greatestWidth);
+    rows->addStretch(1);
+    m_columns->setContentsMargins({});
+    m_columns->addLayout(rows);
+    m_columns->addLayout(makeCommon());
+    setMaximumWidth(widestBoxes + columnGap + widestCommon);
+    place();
     follow();
     showKind(EntryKind::LogIn);
 }
@@ -101,17 +109,37 @@ QLayout *EntryForm::makeHead()
 
 QLayout *EntryForm::makeCommon()
 {
-    auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(boxGap);
-    grid->setVerticalSpacing(rowGap);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    grid->addLayout(labelled(u"Tags"_s, m_tags, u"separated by commas"_s), 0, 0);
-    grid->addLayout(labelled(u"Member"_s, m_member), 0, 1);
-    grid->addLayout(labelled(u"Expires"_s, m_expires), 1, 0);
-    grid->addWidget(m_favourite, 1, 1, Qt::AlignBottom);
+    m_names->addLayout(labelled(u"Tags"_s, m_tags, u"separated by commas"_s), 1);
+    m_names->addLayout(labelled(u"Member"_s, m_member), 1);
+    auto *expiry = new QHBoxLayout;
+    expiry->setSpacing(boxGap);
+    expiry->addLayout(labelled(u"Expires"_s, m_expires), 1);
+    expiry->addWidget(m_favourite, 1, Qt::AlignBottom);
     m_favourite->setMinimumHeight(m_expires->sizeHint().height());
-    return grid;
+    auto *rows = new QVBoxLayout;
+    rows->setSpacing(rowGap);
+    rows->addLayout(m_names);
+    rows->addLayout(expiry);
+    rows->addLayout(labelled(u"Notes"_s, m_notes), 1);
+    return rows;
+}
+
+/// What all kinds have stands beside the boxes of the kind where there is room, else below them.
+void EntryForm::place()
+{
+    const bool isWide = width() >= TypeScale::wide(twoColumnsFrom);
+    m_columns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_columns->setSpacing(isWide ? columnGap : rowGap);
+    m_columns->setStretch(0, isWide ? widestBoxes : 0);
+    m_columns->setStretch(1, isWide ? widestCommon : 1);
+    m_names->setDirection(isWide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_names->setSpacing(isWide ? rowGap : boxGap);
+}
+
+void EntryForm::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    place();
 }
 
 void EntryForm::follow()
@@ -152,8 +180,19 @@ KindBoxes &EntryForm::boxes(EntryKind kind)
         connect(boxes, &KindBoxes::copyWanted, this, &EntryForm::copyWanted);
         connect(boxes, &KindBoxes::openWanted, this, &EntryForm::openWanted);
         connect(boxes, &KindBoxes::makeWanted, this, &EntryForm::makeWanted);
+        connect(boxes, &KindBoxes::passwordTyped, this, &EntryForm::tellStrength);
     }
     return *boxes;
+}
+
+void EntryForm::tellStrength(SecretBox *box) const
+{
+    if (!m_strength)
+        return;
+    const KeeperEntry typed = entry();
+    box->setWords(m_strength(box->secret(), typed.id,
+                             {typed.text(KeeperField::Title), typed.text(KeeperField::UserName),
+                              typed.text(KeeperField::Address), typed.text(KeeperField::NetworkName)}));
 }
 
 void EntryForm::showKind(EntryKind kind)
@@ -247,6 +286,8 @@ void EntryForm::setSaved(const KeeperEntry &entry)
     m_loaded = entry;
     m_kind->setEnabled(entry.id.isEmpty());
     m_asShown = this->entry();
+    for (SecretBox *box : secrets())
+        box->setWords({});
 }
 
 QString EntryForm::refusal()

@@ -5,12 +5,15 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <map>
+#include <utility>
 
 class DateBox;
 class DatePicker;
 class KindBoxes;
 class OwnFields;
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
@@ -28,6 +31,10 @@ public:
     /// The calendar of the date boxes opens in `window`.
     EntryForm(const Program &program, QWidget *window, QWidget *parent = nullptr);
 
+    /// What is said of a password while it is typed for entry `id`, of which `known` tells, too.
+    using Strength =
+        std::function<QString(const QString &password, const QByteArray &id, const QStringList &known)>;
+    void setStrength(Strength strength) { m_strength = std::move(strength); }
     /// What other entries have and the household's names are offered while tags and member are typed.
     void setOffered(const QStringList &tags, const QStringList &members);
     /// The kind of an entry that no file has can still be chosen.
@@ -51,6 +58,9 @@ public:
     bool hasSecret() const;
     void startTyping();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 signals:
     void edited();
     void said(const QString &line);
@@ -62,17 +72,22 @@ private:
     void fill(const KeeperEntry &entry);
     QLayout *makeHead();
     QLayout *makeCommon();
+    void place();
     void follow();
     KindBoxes &boxes(EntryKind kind);
     void showKind(EntryKind kind);
     void orderTabs();
     QList<SecretBox *> secrets() const;
     EntryKind kind() const;
+    void tellStrength(SecretBox *box) const;
 
     const Program &m_program;
     DatePicker *m_picker;
+    Strength m_strength;
     KeeperEntry m_loaded;  ///< as it came
     KeeperEntry m_asShown; ///< as it stood in the boxes then
+    QBoxLayout *m_columns; ///< the boxes of the kind, and what all kinds have: beside or below each other
+    QBoxLayout *m_names;   ///< tags and member
     QLineEdit *m_title;
     QComboBox *m_kind;
     QVBoxLayout *m_kindPlace;

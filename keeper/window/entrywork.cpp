@@ -10,6 +10,7 @@
 #include "keeper/window/keeperpane.h"
 #include "keeper/window/secretbox.h"
 #include "keeper/window/severalview.h"
+#include "keeper/window/strengthwords.h"
 #include "keeper/window/windowlines.h"
 #include "shell/controls/emptypage.h"
 #include "shell/controls/titleline.h"
@@ -19,6 +20,8 @@
 #include "shell/frame/workviews.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,7 +45,11 @@ EntryWork::EntryWork(const KeeperDesk &desk, KeeperPane &pane, QObject *parent)
         m_desk.views.addHome(home);
         home->hide(); // until it is the one
     }
-    const EntryForm &form = m_view->form();
+    EntryForm &form = m_view->form();
+    form.setStrength(
+        [&strength = desk.strength](const QString &password, const QByteArray &id, const QStringList &known) {
+            return strength.ofPassword(password, id, known);
+        });
     connect(&form, &EntryForm::said, this, &EntryWork::said);
     connect(&form, &EntryForm::copyWanted, this, &EntryWork::copyWanted);
     connect(&form, &EntryForm::openWanted, this, &EntryWork::openWanted);
@@ -155,13 +162,20 @@ void EntryWork::followKeeper()
     m_desk.commands.refresh();
 }
 
+/// While the keeper is locked, what the disk refused is all that can be lost.
 bool EntryWork::isModified() const
 {
+    if (m_desk.keeper.state() != Keeper::State::Open)
+        return isDraftRefused();
     return m_isOpen && !m_isLocked && m_view->form().isModified();
 }
 
 bool EntryWork::save()
 {
+    if (m_desk.keeper.state() != Keeper::State::Open) {
+        emit said(KeeperWindowLines::draftNeedsKeeper());
+        return false;
+    }
     if (const QString refusal = m_view->form().refusal(); !refusal.isEmpty()) {
         emit said(refusal);
         return false;
@@ -189,6 +203,9 @@ bool EntryWork::save()
 
 void EntryWork::drop()
 {
+    m_kept.reset();
+    if (m_desk.keeper.state() != Keeper::State::Open)
+        return;
     forgetDraft();
     if (m_id.isEmpty())
         show({});
@@ -196,10 +213,15 @@ void EntryWork::drop()
         showOne(m_id);
 }
 
+void EntryWork::forgetDraftOf(const QList<QByteArray> &ids)
+{
+    if (const auto draft = m_desk.keeper.draft(); draft && ids.contains(draft->id))
+        forgetDraft();
+}
+
 /// It is in the file, or given up.
 void EntryWork::forgetDraft()
 {
-    m_kept.reset();
     if (m_desk.keeper.draft() && !m_desk.keeper.dropDraft())
         emit said(KeeperWindowLines::draftStays());
 }
@@ -217,13 +239,13 @@ void EntryWork::sealAway()
     m_pane.forget();
 }
 
-void EntryWork::takeUp()
+QString EntryWork::takeUp()
 {
     m_pane.followKeeper();
-    const auto draft = m_kept ? m_kept : m_desk.keeper.draft();
+    const auto draft = m_kept ? std::exchange(m_kept, {}) : m_desk.keeper.draft();
     if (!draft) {
         show({});
-        return;
+        return {};
     }
     const auto original = draft->id.isEmpty() ? std::nullopt : m_desk.keeper.entry(draft->id);
     if (original) {
@@ -236,7 +258,7 @@ void EntryWork::takeUp()
         startNew(seed);
     }
     m_view->form().startTyping();
-    emit said(KeeperWindowLines::draftIsBack());
+    return KeeperWindowLines::draftIsBack();
 }
 
 std::optional<KeeperEntry> EntryWork::entry() const

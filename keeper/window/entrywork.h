@@ -36,8 +36,12 @@ public:
     /// The keeper was locked: nothing of an entry stays behind. What was typed is sealed, or kept where the
     /// disk refuses.
     void sealAway();
-    /// The keeper was opened: the list, and what was being typed.
-    void takeUp();
+    /// The keeper was opened: the list, and what was being typed. Gives what is to be said of it.
+    QString takeUp();
+    /// What was typed into one of these goes with it.
+    void forgetDraftOf(const QList<QByteArray> &ids);
+    /// Whether the disk has refused what was typed, which is in memory alone.
+    bool isDraftRefused() const { return m_kept.has_value(); }
 
     bool isModified() const;
     [[nodiscard]] bool save();

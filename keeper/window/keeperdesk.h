@@ -8,6 +8,7 @@ class Commands;
 class FunctionWindow;
 class Keeper;
 class PreviewPane;
+class StrengthWords;
 class WorkViews;
 struct Program;
 
@@ -19,6 +20,7 @@ struct KeeperDesk {
     ClipboardGuard &clipboard;
     Commands &commands;
     WorkViews &views;
+    const StrengthWords &strength;
     std::function<void(bool)> setBusy; ///< slow work is under way: the window stays
     std::function<PreviewPane &()> preview;
 };

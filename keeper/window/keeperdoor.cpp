@@ -4,10 +4,10 @@
 #include "keeper/model/keeper.h"
 #include "keeper/model/keeperopening.h"
 #include "keeper/model/messages.h"
-#include "keeper/model/passwordstrength.h"
 #include "keeper/window/codepanel.h"
 #include "keeper/window/masterpanel.h"
 #include "keeper/window/setupview.h"
+#include "keeper/window/strengthwords.h"
 #include "keeper/window/threadedstep.h"
 #include "keeper/window/unlockview.h"
 #include "keeper/window/windowlines.h"
@@ -25,13 +25,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString strengthOf(const QString &password)
-{
-    const PasswordStrength strength = PasswordStrength::of(password, {});
-    return strength.isWeak() ? QString(strength.words() + u". "_s + KeeperWindowLines::weakMaster())
-                             : strength.words();
-}
-
 WrongAnswers counted(const KeySlots::WrongAnswers &wrong)
 {
     return {int(wrong.count), wrong.first.toLocalTime(), wrong.last.toLocalTime()};
@@ -45,7 +38,7 @@ KeeperDoor::KeeperDoor(const KeeperDesk &desk, std::chrono::milliseconds step, Q
     , m_step(new ThreadedStep(this))
     , m_attempts(m_memory, step)
     , m_unlock(new UnlockView)
-    , m_setUp(new SetUpView(strengthOf))
+    , m_setUp(new SetUpView([this](const QString &typed) { return m_desk.strength.ofMaster(typed); }))
 {
     for (QWidget *home : std::initializer_list<QWidget *>{m_unlock, m_setUp}) {
         m_desk.views.addHome(home);
@@ -89,10 +82,8 @@ void KeeperDoor::showCodeAgain()
 
 void KeeperDoor::forget()
 {
-    if (!m_code || m_code->code().isEmpty())
-        return;
-    m_isCodeLost = true;
-    m_code->forget();
+    if (m_code)
+        m_code->forget();
 }
 
 void KeeperDoor::show()
@@ -211,10 +202,10 @@ void KeeperDoor::judge(KeeperOpening opening, Slot slot)
     m_attempts.reset();
     m_unlock->start();
     emit opened(before.words(m_desk.program.state.dateStyle, m_desk.program.clock.today()));
-    if (std::exchange(m_isCodeLost, false))
-        emit said(KeeperWindowLines::codeNotKept());
     if (slot == KeySlots::Recovery)
         openMasterPanel(true);
+    else if (const QString code = m_desk.keeper.settings().newCode; !code.isEmpty())
+        showCode(code);
 }
 
 void KeeperDoor::begin(const QString &master)
@@ -237,6 +228,7 @@ void KeeperDoor::begin(const QString &master)
             }
             m_setUp->start();
             emit opened({});
+            noteCode(code);
             showCode(code);
         });
 }
@@ -244,7 +236,7 @@ void KeeperDoor::begin(const QString &master)
 void KeeperDoor::openMasterPanel(bool isForgotten)
 {
     if (!m_master) {
-        m_master = new MasterPanel(strengthOf);
+        m_master = new MasterPanel([this](const QString &typed) { return m_desk.strength.ofMaster(typed); });
         m_desk.views.addPanel(m_master);
         connect(m_master, &MasterPanel::chosen, this, &KeeperDoor::changeMaster);
     }
@@ -291,11 +283,22 @@ void KeeperDoor::makeCode()
     const auto derived = std::make_shared<KeyDerivation>(m_desk.keeper.newCodeKey(code));
     work([derived] { derived->run(); },
          [this, derived, code] {
-             if (derived->isDone() && m_desk.keeper.changeCode(*derived))
-                 showCode(code);
-             else
+             if (!derived->isDone() || !m_desk.keeper.changeCode(*derived)) {
                  emit said(KeeperWindowLines::codeNotChanged());
+                 return;
+             }
+             noteCode(code);
+             showCode(code);
          });
+}
+
+/// Until somebody says to have kept it, it is sealed in the file: a lock may take it from the screen.
+void KeeperDoor::noteCode(const QString &code)
+{
+    KeeperSettings settings = m_desk.keeper.settings();
+    settings.newCode = code;
+    if (!m_desk.keeper.saveSettings(settings))
+        emit said(KeeperWindowLines::codeIsShownOnce());
 }
 
 void KeeperDoor::showCode(const QString &code)
@@ -305,6 +308,7 @@ void KeeperDoor::showCode(const QString &code)
         m_desk.views.addPanel(m_code);
         connect(m_code, &CodePanel::said, this, &KeeperDoor::said);
         connect(m_code, &CodePanel::printWanted, this, &KeeperDoor::codePrintWanted);
+        connect(m_code, &CodePanel::left, this, [this] { noteCode({}); });
     }
     m_desk.window.closePreview();
     m_code->show(code);

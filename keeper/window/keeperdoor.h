@@ -34,7 +34,7 @@ public:
     void show();
     /// A code that nobody has said yet to have kept is shown again.
     void showCodeAgain();
-    /// The keeper is locked: no code is left.
+    /// The keeper is locked: no code is left in the window.
     void forget();
 
 signals:
@@ -55,6 +55,7 @@ private:
     void changeMaster(const QString &old, const QString &master);
     void makeCode();
     void showCode(const QString &code);
+    void noteCode(const QString &code);
     void work(const std::function<void()> &slow, const std::function<void()> &then);
     QString whyNotOpen() const;
 
@@ -67,5 +68,4 @@ private:
     CodePanel *m_code = nullptr;
     MasterPanel *m_master = nullptr;
     QWidget *m_trouble = nullptr;
-    bool m_isCodeLost = false; ///< locked before anybody said to have kept it
 };

@@ -73,7 +73,7 @@ int KeeperListModel::rowCount(const QModelIndex &parent) const
 
 QVariant KeeperListModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid() || index.row() >= rowCount())
         return {};
     const KeeperSummary shown = entry(index.row());
     const QString title = shown.title.isEmpty() ? KeeperWindowLines::withoutTitle() : shown.title;

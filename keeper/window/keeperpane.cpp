@@ -12,6 +12,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QListView>
 #include <QScopedValueRollback>
 #include <QSet>
@@ -23,7 +24,26 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
 constexpr int leastWidth = 180;
+
+/// Leaves the key for copying to the command: a list copies its row by itself otherwise, past the guard of
+/// the clipboard.
+class EntryList final : public QListView
+{
+public:
+    using QListView::QListView;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->matches(QKeySequence::Copy))
+            event->ignore();
+        else
+            QListView::keyPressEvent(event);
+    }
+};
+
 } // namespace
 
 KeeperPane::KeeperPane(const Program &program, const Keeper &keeper, Guard guard, QWidget *parent)
@@ -35,7 +55,7 @@ KeeperPane::KeeperPane(const Program &program, const Keeper &keeper, Guard guard
                              u"Looks through titles, user names, addresses, tags and notes"_s, this))
     , m_clear(makeIconButton(u"SSCommand2"_s, "clear-search"_L1, u"Clear the search"_s, this))
     , m_filter(named(new QComboBox(this), u"keeperFilter"_s))
-    , m_list(named(new QListView(this), u"keeperList"_s))
+    , m_list(named(new EntryList(this), u"keeperList"_s))
     , m_model(new KeeperListModel(keeper, program.state.dateStyle, this))
     , m_count(named(makeQuietLabel({}, this), u"keeperCount"_s))
     , m_rows(new QVBoxLayout(this))
@@ -53,12 +73,18 @@ KeeperPane::KeeperPane(const Program &program, const Keeper &keeper, Guard guard
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     layOut();
     fillFilters({});
-    connect(m_search, &QLineEdit::textChanged, this, &KeeperPane::search);
+    connect(m_search, &QLineEdit::textChanged, this, [this] {
+        search();
+        leaveUnlisted();
+    });
     connect(m_clear, &QPushButton::clicked, this, [this] {
         m_search->clear();
         m_search->setFocus();
     });
-    connect(m_filter, &QComboBox::currentIndexChanged, this, &KeeperPane::narrow);
+    connect(m_filter, &QComboBox::currentIndexChanged, this, [this] {
+        narrow();
+        leaveUnlisted();
+    });
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &KeeperPane::selectionMoved);
     connect(m_list, &QListView::activated, this, &KeeperPane::entered);
@@ -147,7 +173,6 @@ void KeeperPane::narrow()
     search();
 }
 
-/// The entry that is shown stays so, even where filter or search leave it out of the list.
 void KeeperPane::search()
 {
     const QScopedValueRollback<bool> quiet(m_isFollowing, false);
@@ -158,6 +183,16 @@ void KeeperPane::search()
     m_count->setText(KeeperWindowLines::countOfEntries(shownCount(), filter().what == KeeperFilter::Trash,
                                                        !words.isEmpty()));
     emit narrowed();
+}
+
+/// What filter and search leave out of the list is not chosen any more; only what was typed stays in sight.
+void KeeperPane::leaveUnlisted()
+{
+    const QList<QByteArray> listed = selected();
+    if (!m_isFollowing || listed.size() == m_chosen.size() || m_guard.isModified())
+        return;
+    setChosen(listed);
+    emit chosenChanged(m_chosen);
 }
 
 void KeeperPane::choose(const QByteArray &id)

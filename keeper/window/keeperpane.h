@@ -48,6 +48,8 @@ public:
     void startSearch();
     void addButton(QPushButton *button);
     QListView &list() const { return *m_list; }
+    /// Whether filter and search let this one through, which is chosen.
+    bool isListed(const QByteArray &id) const { return selected().contains(id); }
     /// The entries that are listed.
     int shownCount() const;
     QList<KeeperSummary> shown() const;
@@ -65,6 +67,7 @@ private:
     void fillFilters(const QList<KeeperSummary> &entries);
     void narrow();
     void search();
+    void leaveUnlisted();
     void selectionMoved();
     void takeSelected();
     void setChosen(const QList<QByteArray> &ids);

@@ -23,6 +23,7 @@
 #include "shell/frame/undostack.h"
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
+#include "shell/writing/writing.h"
 
 #include <QDialog>
 #include <QEvent>
@@ -49,6 +50,12 @@ WindowTraits traits()
 Form4::Form4(Program &program, QWidget *parent, PasswordCost cost, std::chrono::milliseconds step)
     : FunctionWindow(program, traits(), parent)
     , m_keeper(program.folder, program.clock, cost)
+    , m_writing(new Writing(
+          {.folder = program.folder,
+           .dictionaryFolders = Dictionaries::folders(program.programFolder.path(), program.folder.path()),
+           .store = program.store},
+          this))
+    , m_strength(m_keeper, *m_writing)
     , m_clipboard(new ClipboardGuard(this))
     , m_idle(program.idle)
     , m_stack(new WorkViews(this))
@@ -75,6 +82,7 @@ Form4::Form4(Program &program, QWidget *parent, PasswordCost cost, std::chrono::
 Form4::~Form4()
 {
     m_keeper.lock();
+    emit program().changes.guardsChanged(); // the card says so
 }
 
 KeeperDesk Form4::desk()
@@ -85,6 +93,7 @@ KeeperDesk Form4::desk()
             *m_clipboard,
             commands(),
             *m_stack,
+            m_strength,
             [this](bool isBusy) { setBusy(isBusy); },
             [this]() -> PreviewPane & { return preview(); }};
 }
@@ -211,13 +220,14 @@ void Form4::connectParts()
 void Form4::opened(const QString &line)
 {
     followSettings();
-    offerLock();
+    emit program().changes.guardsChanged();
     m_pane->show();
-    activity().say(line);
-    m_work->takeUp();
+    QStringList lines{line, m_work->takeUp()};
+    lines.removeAll(QString());
+    activity().say(lines.join(u"; "_s));
     if (m_work->isModified())
         return;
-    m_pane->setFocus();
+    m_keeper.count() > 0 ? m_pane->setFocus() : m_stack->currentWidget()->setFocus();
 }
 
 void Form4::followSettings()
@@ -247,7 +257,9 @@ void Form4::lock()
     activity().say({});
     m_pane->hide();
     m_door->show();
-    offerLock();
+    if (m_work->isDraftRefused())
+        activity().say(KeeperWindowLines::draftRefused());
+    emit program().changes.guardsChanged();
     commands().refresh();
 }
 

@@ -3,6 +3,7 @@
 
 #include "keeper/model/keeper.h"
 #include "keeper/window/keeperdesk.h"
+#include "keeper/window/strengthwords.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/program/idleclock.h"
 
@@ -19,6 +20,7 @@ class KeeperPane;
 class KeeperPrint;
 class KeeperTools;
 class WorkViews;
+class Writing;
 
 /// The password keeper: the entries at the left, the chosen one at the right, and in front of both the
 /// question for the master password. It locks itself by its own clock.
@@ -57,6 +59,8 @@ private:
     QString whyLocked() const;
 
     Keeper m_keeper;
+    Writing *m_writing; ///< knows the words of the spelling dictionary
+    StrengthWords m_strength;
     ClipboardGuard *m_clipboard;
     IdleLimit m_idle; ///< nobody was there
     WorkViews *m_stack;

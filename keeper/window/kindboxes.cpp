@@ -92,6 +92,11 @@ QWidget *KindBoxes::withButton(QLineEdit *line, const QString &name, const QStri
     QPushButton *button = makeButton(name, caption, both);
     button->setAccessibleName(caption + u' ' + line->accessibleName());
     connect(button, &QPushButton::clicked, this, [run] { run(); });
+    const auto follow = [line, button] {
+        setUnavailable(button, line->text().isEmpty() ? KeeperWindowLines::boxIsEmpty() : QString());
+    };
+    connect(line, &QLineEdit::textChanged, button, follow);
+    follow();
     row->addWidget(line, 1);
     row->addWidget(button);
     both->setFocusProxy(line);
@@ -107,6 +112,7 @@ QWidget *KindBoxes::makeSecret(const Box &box, Field &field)
     connect(secret, &SecretBox::copyWanted, this,
             [this, secret, caption] { emit copyWanted(caption, secret->secret()); });
     if (box.id == KeeperField::Password) {
+        connect(secret, &SecretBox::typed, this, [this, secret] { emit passwordTyped(secret); });
         QPushButton *making = makeButton(u"makePassword"_s, u"&Make..."_s, secret);
         making->setAccessibleName(u"Make a password"_s);
         connect(making, &QPushButton::clicked, this, [this, secret] { emit makeWanted(secret); });

@@ -29,6 +29,8 @@ signals:
     void said(const QString &line);
     void copyWanted(const QString &caption, const QString &text);
     void openWanted(const QString &address);
+    /// Somebody is typing a password into `box`.
+    void passwordTyped(SecretBox *box);
     /// A new password is to be made for `box`.
     void makeWanted(SecretBox *box);
 

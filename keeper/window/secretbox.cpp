@@ -2,6 +2,7 @@
 #include "keeper/window/secretbox.h"
 
 #include "keeper/window/secretface.h"
+#include "keeper/window/windowlines.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/pastefilter.h"
 
@@ -10,15 +11,16 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QSignalBlocker>
+#include <QStyle>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// As many for every secret: their number tells nothing.
-QString dots()
+/// As many for every secret: their number tells nothing. They look like those that stand for what is typed.
+QString dots(const QWidget &line)
 {
-    return QString(10, u'\u2022');
+    return QString(10, QChar(line.style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, &line)));
 }
 
 } // namespace
@@ -61,7 +63,7 @@ void SecretLine::hideAgain()
 {
     const QSignalBlocker quiet(this);
     setText(m_isOpened ? m_secret : QString());
-    setPlaceholderText(m_secret.isEmpty() ? QString() : dots());
+    setPlaceholderText(m_secret.isEmpty() ? QString() : dots(*this));
     const QString state = m_secret.isEmpty() ? u"empty"_s : m_isOpened ? u"shown"_s : u"hidden"_s;
     setAccessibleName(m_caption.isEmpty() ? state : m_caption + u", "_s + state);
 }
@@ -111,40 +113,46 @@ SecretBox::SecretBox(const QString &name, const QString &caption, QWidget *paren
     : QWidget(parent)
     , m_line(named(new SecretLine(this), name + u"Line"_s))
     , m_show(makeButton(name + u"Show"_s, u"Show"_s, this))
+    , m_copy(makeButton(name + u"Copy"_s, u"Copy"_s, this))
     , m_face(named(new SecretFace(this), name + u"Face"_s))
+    , m_words(named(makeQuietLabel({}, this), name + u"Words"_s))
     , m_row(new QHBoxLayout)
 {
     setObjectName(name);
     setFocusProxy(m_line);
     m_line->setCaption(caption);
-    QPushButton *copying = makeButton(name + u"Copy"_s, u"Copy"_s, this);
     m_show->setToolTip(u"Shown as long as the button is held; Ctrl+H shows it until it is hidden again"_s);
     m_show->setAccessibleName(u"Show %1"_s.arg(caption));
-    copying->setAccessibleName(u"Copy %1"_s.arg(caption));
+    m_copy->setAccessibleName(u"Copy %1"_s.arg(caption));
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins({});
     rows->setSpacing(6);
     m_row->setSpacing(8);
     m_row->addWidget(m_line, 1);
     m_row->addWidget(m_show);
-    m_row->addWidget(copying);
+    m_row->addWidget(m_copy);
     rows->addLayout(m_row);
+    rows->addWidget(m_words);
     rows->addWidget(m_face);
-    m_face->hide();
+    m_words->setWordWrap(true);
+    m_words->hide();
     connect(m_show, &QPushButton::pressed, this, &SecretBox::showFace);
     connect(m_show, &QPushButton::released, this, &SecretBox::showFace);
-    connect(copying, &QPushButton::clicked, this, &SecretBox::copyWanted);
+    connect(m_copy, &QPushButton::clicked, this, &SecretBox::copyWanted);
     connect(m_line, &SecretLine::copyWanted, this, &SecretBox::copyWanted);
     connect(m_line, &QLineEdit::cursorPositionChanged, this, &SecretBox::showFace);
     connect(m_line, &SecretLine::edited, this, [this] {
         showFace();
         emit edited();
+        emit typed();
     });
+    showFace();
 }
 
 void SecretBox::setSecret(const QString &secret)
 {
     m_line->setSecret(secret);
+    setWords({});
     showFace();
 }
 
@@ -166,6 +174,12 @@ void SecretBox::setShown(bool isShown)
     showFace();
 }
 
+void SecretBox::setWords(const QString &words)
+{
+    m_words->setText(words);
+    m_words->setVisible(!words.isEmpty());
+}
+
 void SecretBox::addButton(QPushButton *button)
 {
     m_row->addWidget(button);
@@ -173,7 +187,10 @@ void SecretBox::addButton(QPushButton *button)
 
 void SecretBox::showFace()
 {
-    const bool isSeen = m_isShown || m_show->isDown();
+    const QString none = m_line->secret().isEmpty() ? KeeperWindowLines::noSecret() : QString();
+    for (QPushButton *button : {m_show, m_copy})
+        setUnavailable(button, none);
+    const bool isSeen = none.isEmpty() && (m_isShown || m_show->isDown());
     m_face->setSecret(isSeen ? m_line->secret() : QString());
     m_face->setCaret(m_isShown && m_line->hasFocus() && !m_line->isReadOnly() ? m_line->cursorPosition()
                                                                               : -1);

@@ -5,8 +5,8 @@
 #include <QWidget>
 
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
-class QVBoxLayout;
 class SecretFace;
 
 /// The line of a secret: the same dots whatever its length. What is typed over them takes its place; nothing
@@ -60,12 +60,15 @@ public:
     void setShown(bool isShown);
     bool isShown() const { return m_isShown; }
     SecretLine &line() const { return *m_line; }
+    /// Quiet words below it, until it is given another secret.
+    void setWords(const QString &words);
     /// Puts a button behind the others.
     void addButton(QPushButton *button);
 
 signals:
-    /// The secret was changed by typing.
+    /// The secret was changed, by typing say.
     void edited();
+    void typed();
     void copyWanted();
 
 private:
@@ -73,7 +76,9 @@ private:
 
     SecretLine *m_line;
     QPushButton *m_show;
+    QPushButton *m_copy;
     SecretFace *m_face;
+    QLabel *m_words;
     QHBoxLayout *m_row;
     bool m_isShown = false; ///< until it is hidden by command
 };

@@ -60,7 +60,7 @@ SecretFace::SecretFace(QWidget *parent)
     : QWidget(parent)
 {
     setFocusPolicy(Qt::TabFocus);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }
@@ -107,12 +107,13 @@ int SecretFace::heightForWidth(int width) const
 
 QSize SecretFace::sizeHint() const
 {
-    return {16 * cell().width() + 2 * inset, heightForWidth(width())};
+    const int width = 16 * cell().width() + 2 * inset;
+    return {width, heightForWidth(width)};
 }
 
 QSize SecretFace::minimumSizeHint() const
 {
-    return {4 * cell().width() + 2 * inset, heightForWidth(width())};
+    return {4 * cell().width() + 2 * inset, cell().height() + inset};
 }
 
 QRect SecretFace::cellAt(int place) const

@@ -43,7 +43,6 @@ TagBox::TagBox(const QString &name, QWidget *parent)
     : QLineEdit(parent)
 {
     setObjectName(name);
-    setPlaceholderText(u"bank, travel"_s);
     new PasteFilter(this, Characters::All);
     setCompleter(new LastTag(this));
 }

@@ -164,7 +164,7 @@ inline QString codePanelWords()
 
 inline QString codePanelWarning()
 {
-    return u"It is shown this once. Whoever has the code and this computer, or a backup, can open the keeper. A new code can be made at any time and ends this one."_s;
+    return u"It is shown until you say that you have kept it, and never again. Whoever has the code and this computer, or a backup, can open the keeper. A new code can be made at any time and ends this one."_s;
 }
 
 inline QString codeIsShownOnce()
@@ -382,6 +382,16 @@ inline QString draftIsBack()
     return u"What was being typed when the keeper was locked is back"_s;
 }
 
+inline QString draftRefused()
+{
+    return u"The disk refused what was being typed: it stays here until the keeper is opened again"_s;
+}
+
+inline QString draftNeedsKeeper()
+{
+    return u"Open the keeper first: what was being typed is back then and can be saved"_s;
+}
+
 inline QString nothingToSave()
 {
     return u"Nothing was changed"_s;
@@ -400,6 +410,16 @@ inline QString chooseOne()
 inline QString hasNone()
 {
     return u"There is nothing to copy"_s;
+}
+
+inline QString boxIsEmpty()
+{
+    return u"The box is empty"_s;
+}
+
+inline QString nothingTyped()
+{
+    return u"Nothing is typed yet"_s;
 }
 
 inline QString notInTrash()
@@ -501,7 +521,7 @@ inline QString versionIsBack()
 
 inline QString noSecret()
 {
-    return u"There is no secret to show"_s;
+    return u"There is no secret yet"_s;
 }
 
 inline QString nothingShown()
@@ -563,11 +583,6 @@ inline QString printedSheet(const QString &day, const QString &what, const QStri
 inline QString tooLong()
 {
     return u"The entry is too long: it has room for about 60,000 characters"_s;
-}
-
-inline QString codeNotKept()
-{
-    return u"The recovery code was not kept before the keeper locked itself: make a new one in the Utilities menu"_s;
 }
 
 inline QString nothingThere()

@@ -56,6 +56,13 @@ std::vector<WordPlace> Spelling::wrongWords(QStringView text) const
     return words;
 }
 
+bool Spelling::isInDictionary(QStringView word) const
+{
+    return word.size() <= longestWord && std::ranges::any_of(m_dictionaries, [word](const auto &dictionary) {
+               return dictionary->knows(word);
+           });
+}
+
 bool Spelling::isRight(QStringView word) const
 {
     if (m_dictionaries.empty() || word.size() > longestWord)

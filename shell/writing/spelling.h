@@ -29,6 +29,8 @@ public:
     /// What is wrong in `text`, in order.
     std::vector<WordPlace> wrongWords(QStringView text) const;
     bool isRight(QStringView word) const;
+    /// Whether a dictionary has it. Nothing of the question is kept, which may be a password.
+    bool isInDictionary(QStringView word) const;
     /// At most `mostSuggestions`, the likeliest first, those of the first language before the next's. Takes
     /// up to a tenth of a second.
     QStringList suggestions(QStringView word) const;

@@ -4,6 +4,7 @@
 #include "keeper/window/entrycommands.h"
 #include "keeper/window/keeperwindow.h"
 #include "keeper/window/secretbox.h"
+#include "tests/support/filesizelimit.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
 
@@ -69,6 +70,86 @@ private slots:
         QVERIFY2(said().startsWith(u"1 wrong answer since "_s), qPrintable(said()));
     }
 
+    /// Whoever is called away before the code is on paper finds it again.
+    void showsACodeAgainUntilItIsKept()
+    {
+        begin();
+        m_test->dialogs.willAnswer(Answer::Yes);
+        trigger("mUCode");
+        QTRY_VERIFY(isSeen("codePanel"));
+        const QString code = find<CodePanel>("codePanel")->code();
+        QVERIFY(code != m_code);
+        emit m_test->changes.lockRequested();
+        QCOMPARE(find<CodePanel>("codePanel")->code(), QString());
+        answer(u"master"_s);
+        QTRY_VERIFY(isSeen("codePanel"));
+        QCOMPARE(find<CodePanel>("codePanel")->code(), code);
+        click("codeWritten");
+        trigger("mOLock");
+        answer(u"master"_s);
+        QTRY_VERIFY(isSeen("keeperPane"));
+        QVERIFY(!isSeen("codePanel"));
+        asked();
+    }
+
+    /// Both are said, and what was typed is not lost by the wrong answer.
+    void tellsOfWrongAnswersBesideADraft()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<QLineEdit>("entryBox_3")->setText(u"nils"_s);
+        trigger("mOLock");
+        answer(u"wrong"_s);
+        QTRY_COMPARE(labelText("unlockRefusal"), u"That is not the password."_s);
+        QTRY_VERIFY(find<QLineEdit>("masterPassword")->isEnabled());
+        answer(u"master"_s);
+        QTRY_VERIFY(m_window->isModified());
+        QVERIFY2(said().startsWith(u"1 wrong answer since "_s) && said().endsWith(u"is back"_s),
+                 qPrintable(said()));
+        trigger("mEDel"); // and the draft goes with its entry
+        trigger("mOLock");
+        answer(u"master"_s);
+        QTRY_VERIFY(isSeen("keeperPane"));
+        QVERIFY(!m_window->isModified());
+        QCOMPARE(titles(), QStringList());
+    }
+
+#ifdef Q_OS_UNIX
+    /// Where the disk refuses what was typed, it is neither gone nor left without a question.
+    void keepsADraftThatTheDiskRefuses()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<QLineEdit>("entryBox_3")->setText(u"nils"_s);
+        {
+            const FileSizeLimit full(0);
+            trigger("mOLock");
+        }
+        QVERIFY2(said().startsWith(u"The disk refused"_s), qPrintable(said()));
+        m_test->dialogs.willAnswer(Answer::Cancel);
+        QVERIFY(!m_window->close());
+        QCOMPARE(asked(), QList{KeeperMessages::saveChanges()});
+        answer(u"master"_s);
+        QTRY_VERIFY(isSeen("keeperPane"));
+        QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"nils"_s);
+        trigger("mESave");
+        QVERIFY(!m_window->isModified());
+    }
+#endif
+
+    /// By its access key, though an empty keeper offers it twice, and with what is typed at once behind it.
+    void beginsANewEntryAtOnce()
+    {
+        begin();
+        QVERIFY(find<QPushButton>("emptyNew")->hasFocus());
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_N, Qt::AltModifier);
+        keys(u"Power"_s);
+        QCOMPARE(find<QLineEdit>("entryTitle")->text(), u"Power"_s);
+        m_test->dialogs.willAnswer(Answer::No);
+        QVERIFY(m_window->close());
+        asked();
+    }
+
     void opensByTheRecoveryCodeAndThenWantsANewMaster()
     {
         begin();
@@ -125,6 +206,45 @@ private slots:
         QCOMPARE(clipboard(), u"anne"_s);
         trigger("mOLock");
         QCOMPARE(clipboard(), QString());
+    }
+
+    /// What the list does not show any more is neither open nor copied.
+    void copiesNothingThatIsNotListed()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        typeInto(find<QLineEdit>("keeperSearch"), u"bank"_s);
+        QCOMPARE(titles(), QStringList());
+        QVERIFY(isSeen("noEntryChosen"));
+        QVERIFY(!find<QAction>("mECopyPass")->isEnabled());
+        QGuiApplication::clipboard()->setText(u"mine"_s);
+        find<QListView>("keeperList")->setFocus();
+        key(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(clipboard(), u"mine"_s);
+        click("SSCommand2");
+        choose(0);
+        find<QLineEdit>("entryBox_3")->setText(u"nils"_s); // typing stays in sight
+        typeInto(find<QLineEdit>("keeperSearch"), u"bank"_s);
+        QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"nils"_s);
+        QVERIFY(!find<QAction>("mECopyPass")->isEnabled());
+        trigger("mESave");
+    }
+
+    /// While it is typed alone: of a password that is there not even the length is told.
+    void tellsWhatIsKnownOfATypedPassword()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        trigger("mENew");
+        QVERIFY(!isOffered("entrySecret_4Show") && !isOffered("entrySecret_4Copy"));
+        QVERIFY(!find<QAction>("mEDup")->isEnabled());
+        find<QLineEdit>("entryTitle")->setText(u"Bank"_s);
+        typeInto(find<QLineEdit>("entrySecret_4Line"), u"hunter2"_s);
+        const QString words = labelText("entrySecret_4Words");
+        QVERIFY2(words.startsWith(u"7 characters"_s) && words.endsWith(u", used before"_s),
+                 qPrintable(words));
+        trigger("mESave");
+        QCOMPARE(labelText("entrySecret_4Words"), QString());
     }
 
     void opensOnlyWhatABrowserShows_data()
@@ -382,7 +502,10 @@ private:
         return part && part->isVisible();
     }
 
-    void keys(const QString &text) const { QTest::keyClicks(m_window->focusWidget(), text); }
+    void keys(const QString &text) const
+    {
+        QTest::keyClicks(m_window->focusWidget(), text);
+    }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         QTest::keyClick(m_window->focusWidget(), key, modifiers);
@@ -404,7 +527,10 @@ private:
                           list->visualRect(list->model()->index(row, 0)).center());
     }
 
-    static QString clipboard() { return QGuiApplication::clipboard()->text(); }
+    static QString clipboard()
+    {
+        return QGuiApplication::clipboard()->text();
+    }
 
     QString m_code;
 };
