@@ -12,6 +12,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+QString textOf(const PageItem::Paragraph &paragraph)
+{
+    QString text =
+        paragraph.listLevel > 0 ? QString((paragraph.listLevel - 1) * 4, u' ') + u"\u2022 "_s : QString();
+    for (const PageItem::Run &run : paragraph.runs)
+        text += run.text;
+    return text;
+}
+
 /// The text of one item; nothing for an item that is no text.
 std::optional<QString> itemText(const Page::Item &item)
 {
@@ -20,6 +29,10 @@ std::optional<QString> itemText(const Page::Item &item)
             using T = std::decay_t<decltype(value)>;
             if constexpr (std::is_same_v<T, PageItem::Line> || std::is_same_v<T, PageItem::PlacedText>)
                 return value.text;
+            else if constexpr (std::is_same_v<T, PageItem::Paragraph>)
+                return textOf(value);
+            else if constexpr (std::is_same_v<T, PageItem::Figure>)
+                return value.caption.isEmpty() ? std::nullopt : std::optional(value.caption);
             else if constexpr (std::is_same_v<T, PageItem::Row>)
                 return value.cells.join(u'\t');
             else if constexpr (std::is_same_v<T, PageItem::Columns>)
@@ -59,6 +72,12 @@ Page &Page::line(const QString &text, TextRole role)
     return *this;
 }
 
+Page &Page::paragraph(PageItem::Paragraph paragraph)
+{
+    m_items.emplace_back(std::move(paragraph));
+    return *this;
+}
+
 Page &Page::columns(std::vector<double> weights, QStringList headings,
                     std::vector<Qt::AlignmentFlag> alignments)
 {
@@ -77,7 +96,7 @@ Page &Page::table(PageItem::Columns columns)
 
 Page &Page::row(QStringList cells, TextRole role)
 {
-    m_items.emplace_back(PageItem::Row{std::move(cells), role, false});
+    m_items.emplace_back(PageItem::Row{std::move(cells), role});
     return *this;
 }
 
@@ -93,6 +112,14 @@ Page &Page::rowWithNext(QStringList cells, TextRole role)
     return *this;
 }
 
+Page &Page::rowWithSheets(QStringList cells, std::vector<int> marks, TextRole role)
+{
+    PageItem::Row row{std::move(cells), role};
+    row.marks = std::move(marks);
+    m_items.emplace_back(std::move(row));
+    return *this;
+}
+
 Page &Page::blank(const QString &label)
 {
     m_items.emplace_back(PageItem::Blank{label});
@@ -102,6 +129,12 @@ Page &Page::blank(const QString &label)
 Page &Page::picture(const QString &path, QSizeF inches)
 {
     m_items.emplace_back(PageItem::Picture{path, inches});
+    return *this;
+}
+
+Page &Page::figure(const QString &path, QSizeF within, const QString &caption)
+{
+    m_items.emplace_back(PageItem::Figure{path, within, caption});
     return *this;
 }
 
@@ -147,15 +180,15 @@ Page &Page::breakPage()
     return *this;
 }
 
-Page &Page::section(const QString &title)
+Page &Page::section(const QString &title, int mark)
 {
-    m_items.emplace_back(PageItem::Section{title, false});
+    m_items.emplace_back(PageItem::Section{title, false, mark});
     return *this;
 }
 
 Page &Page::numberedSection(const QString &title)
 {
-    m_items.emplace_back(PageItem::Section{title, true});
+    m_items.emplace_back(PageItem::Section{title, true, 0});
     return *this;
 }
 
@@ -168,6 +201,19 @@ Page &Page::frameSheets(bool isFramed)
 Page &Page::numberSheets(SheetNumbers numbers)
 {
     m_numbers = numbers;
+    return *this;
+}
+
+Page &Page::setHeads(SheetHeads heads)
+{
+    m_heads = heads;
+    return *this;
+}
+
+Page &Page::setMargin(double inches)
+{
+    m_margin = inches;
+    m_start = inches;
     return *this;
 }
 
@@ -201,6 +247,14 @@ Page &Page::setHeadRight(const QString &text)
 {
     m_headRight = text;
     return *this;
+}
+
+void Page::fillRow(std::size_t item, QStringList cells)
+{
+    if (auto *row = item < m_items.size() ? std::get_if<PageItem::Row>(&m_items[item]) : nullptr) {
+        row->cells = std::move(cells);
+        row->marks.clear();
+    }
 }
 
 Page Page::withItems(std::vector<Item> items) const

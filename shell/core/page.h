@@ -19,7 +19,9 @@ enum class TextRole {
     Strong,  ///< body, semibold
     Heading, ///< 13 pt semibold
     Small,   ///< 10 pt
-    Code     ///< 11 pt in letters of one width, for what is copied sign by sign
+    Code,    ///< 11 pt in letters of one width, for what is copied sign by sign
+    Chapter, ///< 22 pt semibold
+    Cover    ///< 32 pt semibold, for a title sheet
 };
 
 /// Measures of paper and print that pages are built with, before any font is known.
@@ -30,6 +32,7 @@ inline constexpr double millimetersPerInch = 25.4;
 /// Upright sheets, in inches.
 inline constexpr QSizeF letter{8.5, 11.0};
 inline constexpr QSizeF a4{210 / millimetersPerInch, 297 / millimetersPerInch};
+inline constexpr QSizeF a5{148 / millimetersPerInch, 210 / millimetersPerInch};
 
 /// Around what flows, in inches.
 inline constexpr double margin = 0.5;
@@ -37,6 +40,8 @@ inline constexpr double margin = 0.5;
 inline constexpr double bodyPoints = 11;
 inline constexpr double headingPoints = 13;
 inline constexpr double smallPoints = 10;
+inline constexpr double chapterPoints = 22;
+inline constexpr double coverPoints = 32;
 inline constexpr double smallestPoints = 9; ///< of what is made smaller to fit
 /// The distance of two lines, in sizes of their font.
 inline constexpr double lineFactor = 1.35;
@@ -44,9 +49,11 @@ inline constexpr double lineFactor = 1.35;
 /// The distance of two lines in inches, where the page font has its usual size.
 constexpr double lineHeight(TextRole role)
 {
-    const double points = role == TextRole::Heading ? headingPoints
-                          : role == TextRole::Small ? smallPoints
-                                                    : bodyPoints;
+    const double points = role == TextRole::Heading   ? headingPoints
+                          : role == TextRole::Small   ? smallPoints
+                          : role == TextRole::Chapter ? chapterPoints
+                          : role == TextRole::Cover   ? coverPoints
+                                                      : bodyPoints;
     return points * lineFactor / pointsPerInch;
 }
 
@@ -91,7 +98,16 @@ enum class TableWidths {
 enum class SheetNumbers {
     Foot,  ///< "Page 2 of 5" at the foot
     Title, ///< behind the title, also of a single sheet
+    Book,  ///< the number alone in the middle of the foot, on all sheets but the first
     None
+};
+
+/// How the title stands at the head of the sheets.
+enum class SheetHeads {
+    Title, ///< over a rule, on each of them
+    /// As in a book: a section begins under its title in large letters, its other sheets have title and
+    /// section small at the head, and those before the first section nothing.
+    Running
 };
 
 namespace PageItem {
@@ -101,6 +117,25 @@ struct Line {
     QString text;
     TextRole role = TextRole::Body;
     bool operator==(const Line &) const = default;
+};
+
+/// A stretch of a paragraph in one style.
+struct Run {
+    QString text;
+    bool isBold = false;
+    bool isItalic = false;
+    bool operator==(const Run &) const = default;
+};
+
+/// One paragraph of runs, wrapped to the width of the page. Where a sheet ends in it, at least two of its
+/// lines stand on either side.
+struct Paragraph {
+    std::vector<Run> runs;
+    TextRole role = TextRole::Body;
+    int listLevel = 0;          ///< from 1 on: an item of a list, behind a dot, set in by so many steps
+    bool staysWithNext = false; ///< no sheet ends behind it, as behind a heading
+    int mark = 0;               ///< by which rows tell its sheet; 0: none
+    bool operator==(const Paragraph &) const = default;
 };
 
 /// Starts a table: column widths as weights of the page width, headings (may be empty), numbers right.
@@ -127,6 +162,10 @@ struct Row {
     TextRole role = TextRole::Body;
     bool staysWithNext = false;   ///< no sheet ends between it and the row that follows
     std::vector<int> codeCells{}; ///< those of its cells that are set as code
+    /// The layout puts the numbers of the sheets with these marks behind the last cell: "garden  3, 17" in an
+    /// index. A row that stands before its marks, as in a table of contents, leaves that cell empty, and wide
+    /// enough for a number: sheets are cut before it is known.
+    std::vector<int> marks{};
     bool operator==(const Row &) const = default;
 };
 
@@ -142,6 +181,16 @@ struct Picture {
     QString path;
     QSizeF size;
     bool operator==(const Picture &) const = default;
+};
+
+/// A picture in the flow of the page, centred, as large as fits `within` (inches) and is good for its dots;
+/// its caption stands below it, on the same sheet. Where the file cannot be read there is a frame with its
+/// name.
+struct Figure {
+    QString path;
+    QSizeF within;
+    QString caption{};
+    bool operator==(const Figure &) const = default;
 };
 
 /// A picture made of black squares in the flow of the page, a code for cameras say: so drawn that it is sharp
@@ -197,6 +246,7 @@ struct Break {
 struct Section {
     QString title;
     bool isNumbered = false; ///< each has its number behind the title, from 1 on
+    int mark = 0;            ///< by which rows tell its first sheet; 0: none
     bool operator==(const Section &) const = default;
 };
 
@@ -207,16 +257,17 @@ struct Section {
 class Page
 {
 public:
-    using Item =
-        std::variant<PageItem::Line, PageItem::Columns, PageItem::Row, PageItem::Blank, PageItem::Picture,
-                     PageItem::Squares, PageItem::PlacedText, PageItem::PlacedPicture, PageItem::PlacedRule,
-                     PageItem::BelowPlaced, PageItem::Rule, PageItem::Break, PageItem::Section>;
+    using Item = std::variant<PageItem::Line, PageItem::Paragraph, PageItem::Columns, PageItem::Row,
+                              PageItem::Blank, PageItem::Picture, PageItem::Figure, PageItem::Squares,
+                              PageItem::PlacedText, PageItem::PlacedPicture, PageItem::PlacedRule,
+                              PageItem::BelowPlaced, PageItem::Rule, PageItem::Break, PageItem::Section>;
 
     /// A page headed by `title`; `headRight` (usually a date) stands at the right of the title line.
     explicit Page(QString title = {}, QString headRight = {});
 
     Page &line(const QString &text, TextRole role = TextRole::Body);
     Page &blankLine() { return line({}); }
+    Page &paragraph(PageItem::Paragraph paragraph);
     Page &columns(std::vector<double> weights, QStringList headings = {},
                   std::vector<Qt::AlignmentFlag> alignments = {});
     Page &table(PageItem::Columns columns);
@@ -225,8 +276,11 @@ public:
     Page &codeRow(QStringList cells, std::vector<int> codeCells);
     /// A row that no sheet separates from the next one.
     Page &rowWithNext(QStringList cells, TextRole role = TextRole::Body);
+    /// A row with the numbers of the sheets that bear these marks.
+    Page &rowWithSheets(QStringList cells, std::vector<int> marks, TextRole role = TextRole::Body);
     Page &blank(const QString &label);
     Page &picture(const QString &path, QSizeF inches);
+    Page &figure(const QString &path, QSizeF within, const QString &caption = {});
     Page &squares(QStringList rows, double inches);
     Page &placeText(const QRectF &inches, const QString &text, TextRole role = TextRole::Body,
                     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop);
@@ -235,13 +289,17 @@ public:
     Page &belowPlaced();
     Page &rule();
     Page &breakPage();
-    Page &section(const QString &title);
+    Page &section(const QString &title, int mark = 0);
     /// The same; its sheets have their numbers behind the title.
     Page &numberedSection(const QString &title);
 
     /// `Foot` unless told otherwise.
     Page &numberSheets(SheetNumbers numbers);
     SheetNumbers sheetNumbers() const { return m_numbers; }
+
+    /// `Title` unless told otherwise.
+    Page &setHeads(SheetHeads heads);
+    SheetHeads heads() const { return m_heads; }
 
     /// What stands behind the title of every sheet but the first, " (Continued)" say.
     Page &continueTitle(const QString &words);
@@ -255,6 +313,11 @@ public:
     Page &startAt(double inches);
     double start() const { return m_start; }
 
+    /// What is left free at all edges, in inches; half an inch unless told otherwise. Call it before
+    /// `startAt`.
+    Page &setMargin(double inches);
+    double margin() const { return m_margin; }
+
     /// Ends the page: a blank line, "Quillery" and "Printed on " with the short date of the day of building.
     /// The lines stand below everything else; a page of placed items leaves the half inch above the bottom
     /// margin free for them.
@@ -266,6 +329,8 @@ public:
     const QString &headRight() const { return m_headRight; }
     Page &setHeadRight(const QString &text);
     const std::vector<Item> &items() const { return m_items; }
+    /// Puts other cells into the row that is item `item`, which has no marks then.
+    void fillRow(std::size_t item, QStringList cells);
     /// The same page with other items.
     Page withItems(std::vector<Item> items) const;
     bool isClosed() const { return m_closed; }
@@ -287,10 +352,12 @@ public:
 private:
     QString m_title;
     QString m_continued;
+    double m_margin = PageMetrics::margin;
     double m_start = PageMetrics::margin;
     QString m_headRight;
     std::vector<Item> m_items;
     SheetNumbers m_numbers = SheetNumbers::Foot;
+    SheetHeads m_heads = SheetHeads::Title;
     bool m_hasFrames = false;
     bool m_closed = false;
     QString m_printedLine;

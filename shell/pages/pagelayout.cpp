@@ -14,7 +14,6 @@ using PageMetrics::pointsPerInch;
 
 namespace {
 
-constexpr double margin = PageMetrics::margin * pointsPerInch;
 /// The narrowest and the widest sheet that is laid out, in inches: a damaged paper size must not end in no
 /// room at all.
 constexpr double smallestSheet = 2;
@@ -24,6 +23,15 @@ constexpr double frame = 0.3 * pointsPerInch; ///< from the edges of the sheet
 constexpr double frameWidth = 0.75;
 constexpr qsizetype manyLines = 20;
 constexpr std::size_t mostRowsKept = 5; ///< with the rules between them, on one sheet
+
+/// Whether the item leads what follows it.
+bool isLeading(const Page::Item &item)
+{
+    if (const auto *line = std::get_if<PageItem::Line>(&item))
+        return line->role == TextRole::Heading;
+    const auto *paragraph = std::get_if<PageItem::Paragraph>(&item);
+    return paragraph && (paragraph->staysWithNext || paragraph->role == TextRole::Heading);
+}
 
 double usable(double inches)
 {
@@ -56,6 +64,7 @@ PageLayout::PageLayout(const Page &page, const PageSetup &setup, const PageFont 
     : m_page(page)
     , m_setup(setup)
     , m_types(font)
+    , m_marks({})
     , m_blankIndent(longestLabel(m_page, m_types.body, body().width()))
 {
     fitTables(font);
@@ -65,7 +74,9 @@ PageLayout::PageLayout(const Page &page, const PageSetup &setup, const PageFont 
             m_sections.push_back(i);
     }
     m_longItem = items.size();
+    m_marks = SheetMarks(items);
     cutIntoSheets();
+    fillNumbers();
 }
 
 void PageLayout::fitTables(const PageFont &font)
@@ -95,7 +106,13 @@ QSizeF PageLayout::sheet() const
 QRectF PageLayout::body() const
 {
     const double top = std::clamp(m_page.start(), 0.0, 1.0) * pointsPerInch;
+    const double margin = this->margin();
     return QRectF({}, sheet()).adjusted(margin, top, -margin, -margin - m_footHeight);
+}
+
+double PageLayout::margin() const
+{
+    return std::clamp(m_page.margin() * pointsPerInch, 0.0, sheet().width() / 4);
 }
 
 QStringList PageLayout::linesOf(std::size_t item, const PageItem::Line &line) const
@@ -110,12 +127,29 @@ QStringList PageLayout::linesOf(std::size_t item, const PageItem::Line &line) co
     return lines;
 }
 
+const std::vector<RunLine> &PageLayout::linesOf(std::size_t item, const PageItem::Paragraph &paragraph) const
+{
+    auto found = m_runLines.find(item);
+    if (found == m_runLines.end())
+        found = m_runLines.emplace(item, RunLines::of(paragraph, m_types, body().width())).first;
+    return found->second;
+}
+
+void PageLayout::fillNumbers()
+{
+    for (std::size_t i = 0; i < m_page.items().size(); ++i) {
+        const auto *row = std::get_if<PageItem::Row>(&m_page.items()[i]);
+        if (row && !row->marks.empty())
+            m_page.fillRow(i, withNumbers(*row).cells);
+    }
+}
+
 void PageLayout::cutIntoSheets()
 {
     if (cut(1))
         return;
     // The page number takes a line at the foot, so the first sheet is cut once more.
-    if (m_page.sheetNumbers() == SheetNumbers::Foot)
+    if (m_page.sheetNumbers() == SheetNumbers::Foot || m_page.sheetNumbers() == SheetNumbers::Book)
         m_footHeight = m_types.foot.lineHeight() + 3;
     cut(std::numeric_limits<std::size_t>::max());
     keepClosingInCompany();
@@ -127,6 +161,13 @@ const PageItem::Section *PageLayout::sectionOf(int number) const
     const auto behind = std::ranges::upper_bound(m_sections, m_starts[std::size_t(number - 1)].item);
     return behind == m_sections.begin() ? nullptr
                                         : std::get_if<PageItem::Section>(&m_page.items()[*(behind - 1)]);
+}
+
+bool PageLayout::beginsSection(int number) const
+{
+    const SheetStart &start = m_starts[std::size_t(number - 1)];
+    return start.line == 0 && start.item < m_page.items().size() &&
+           std::holds_alternative<PageItem::Section>(m_page.items()[start.item]);
 }
 
 QString PageLayout::titleOf(int number) const
@@ -213,7 +254,7 @@ SheetStart PageLayout::withItsHeading(const SheetStart &next, const SheetStart &
     for (std::size_t at = next.item; next.line == 0 && at > before.item + 1;) {
         const Page::Item &item = items[--at];
         const auto *line = std::get_if<PageItem::Line>(&item);
-        const bool isHeading = line && line->role == TextRole::Heading;
+        const bool isHeading = isLeading(item);
         if (std::holds_alternative<PageItem::Columns>(item))
             columns = nullptr; // it begins anew
         else if (!isHeading && !(line && line->text.isEmpty()))
@@ -261,11 +302,14 @@ void PageLayout::paintFrame(QPainter &painter) const
 
 void PageLayout::paintNumber(QPainter &painter, int number, int count) const
 {
-    if (count < 2 || m_page.sheetNumbers() != SheetNumbers::Foot)
-        return;
-    const QString words = u"Page "_s + QString::number(number) + u" of "_s + QString::number(count);
-    const QPointF foot(margin, sheet().height() - margin - m_types.foot.lineHeight());
-    m_types.foot.draw(painter, foot, body().width(), Qt::AlignRight, words);
+    const PageType &type = m_types.foot;
+    const QPointF foot(margin(), sheet().height() - margin() - type.lineHeight());
+    const QString words = QString::number(number);
+    if (count > 1 && m_page.sheetNumbers() == SheetNumbers::Foot)
+        type.draw(painter, foot, body().width(), Qt::AlignRight,
+                  u"Page "_s + words + u" of "_s + QString::number(count));
+    else if (number > 1 && m_page.sheetNumbers() == SheetNumbers::Book)
+        type.draw(painter, foot, body().width(), Qt::AlignHCenter, words);
 }
 
 QString PageLayout::text(int index) const

@@ -4,6 +4,8 @@
 #include "shell/core/page.h"
 #include "shell/pages/pagefont.h"
 #include "shell/pages/pagetype.h"
+#include "shell/pages/runlines.h"
+#include "shell/pages/sheetmarks.h"
 
 #include <map>
 #include <vector>
@@ -28,7 +30,7 @@ public:
     int sheetCount() const { return int(m_starts.size()); }
     /// Draws a sheet, in points from its top left corner; nothing for an index that is no sheet.
     void paint(QPainter &painter, int index) const;
-    /// Draws "Page 2 of 5" at the foot, where the page has its numbers there.
+    /// Draws "Page 2 of 5" or the like at the foot, where the page has its numbers there.
     void paintNumber(QPainter &painter, int number, int count) const;
     /// The sheet's text as it is read.
     QString text(int index) const;
@@ -44,6 +46,9 @@ public:
     /// The title of sheet `number`, from 1; and how it is set.
     QString titleOf(int number) const;
     QString headOf(int number) const;
+    /// Whether the sheet has the title of a section, and whether it is the first of it.
+    bool isInSection(int number) const { return sectionOf(number) != nullptr; }
+    bool beginsSection(int number) const;
 
     /// How many rows follow one another from `item` on, or behind it where it begins their table.
     qsizetype rowsFrom(std::size_t item) const;
@@ -53,12 +58,18 @@ public:
     /// The sheet and the part of it that the flow fills, in points.
     QSizeF sheet() const;
     QRectF body() const;
+    double margin() const;
     /// Where the blanks of a worksheet begin: behind the longest label, in points from the left margin.
     double blankIndent() const { return m_blankIndent; }
 
     /// The lines of the paragraph that is item `item`. A paragraph over several sheets is cut up once for
     /// all.
     QStringList linesOf(std::size_t item, const PageItem::Line &line) const;
+    /// The lines of the paragraph of runs that is item `item`, cut up once for all.
+    const std::vector<RunLine> &linesOf(std::size_t item, const PageItem::Paragraph &paragraph) const;
+
+    /// The row with the numbers of the sheets that it tells.
+    PageItem::Row withNumbers(const PageItem::Row &row) const { return m_marks.withNumbers(row, m_starts); }
 
 private:
     void paintFrame(QPainter &painter) const;
@@ -70,12 +81,14 @@ private:
     /// `next`, or the heading before it; `before` is where the sheet before it begins.
     SheetStart withItsHeading(const SheetStart &next, const SheetStart &before) const;
     void keepClosingInCompany();
+    void fillNumbers();
     /// The end of the items of a sheet; the closing lines count as one item behind the last.
     std::size_t endOf(int index) const;
 
     Page m_page;
     PageSetup m_setup;
     PageTypes m_types;
+    SheetMarks m_marks;
     std::map<double, PageTypes> m_tableTypes; ///< by size
     bool m_isTableCut = false;
     double m_footHeight = 0; ///< room for "Page n of m", once there is more than one sheet
@@ -84,4 +97,5 @@ private:
     std::vector<std::size_t> m_sections; ///< which items are sections
     mutable std::size_t m_longItem = 0;
     mutable QStringList m_longLines;
+    mutable std::map<std::size_t, std::vector<RunLine>> m_runLines; ///< by item
 };

@@ -23,17 +23,39 @@ QSize pixelsOf(const QPainter &painter, QSizeF points)
     return (points * std::clamp(dots, 0.1, maximumDotsPerPoint)).toSize().expandedTo({1, 1});
 }
 
+/// Opening a pipe or a device would wait for it.
+bool isFile(const QString &path)
+{
+    return !path.isEmpty() && QFileInfo(path).isFile();
+}
+
+bool isTurned(const QImageReader &reader)
+{
+    return reader.transformation() & QImageIOHandler::TransformationRotate90;
+}
+
 } // namespace
+
+QSizeF PagePicture::shapeOf(const QString &path)
+{
+    if (!isFile(path))
+        return {};
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    const QSize stored = reader.size();
+    if (stored.isEmpty())
+        return {};
+    return isTurned(reader) ? stored.transposed() : stored;
+}
 
 PagePicture PagePicture::read(const QString &path, QSize pixels)
 {
-    // Opening a pipe or a device would wait for it.
-    if (path.isEmpty() || !QFileInfo(path).isFile())
+    if (!isFile(path))
         return {};
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const bool turned = isTurned(reader);
     const QSize stored = turned ? reader.size().transposed() : reader.size();
     const QSize wanted = stored.scaled(pixels, Qt::KeepAspectRatio).expandedTo({1, 1});
     const bool shrinks = stored.isValid() && wanted.width() < stored.width();

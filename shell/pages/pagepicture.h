@@ -15,6 +15,9 @@ struct PagePicture {
     /// Reads the file scaled down to fit `pixels`; never scales up. A missing file, a folder, a file that is
     /// no picture or one that would take more memory than Qt's reader allows gives a null image.
     static PagePicture read(const QString &path, QSize pixels);
+
+    /// Width and height in dots, from the beginning of the file; empty where that cannot be told.
+    static QSizeF shapeOf(const QString &path);
 };
 
 /// Draws the picture as large as fits `place` (in points), at its top left corner. Where it cannot be read

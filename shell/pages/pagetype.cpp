@@ -2,7 +2,6 @@
 #include "shell/pages/pagetype.h"
 
 #include "shell/pages/fixedface.h"
-#include "shell/pages/pagefont.h"
 
 #include <QFontInfo>
 #include <QPainter>
@@ -13,6 +12,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 using PageMetrics::bodyPoints;
+using PageMetrics::chapterPoints;
+using PageMetrics::coverPoints;
 using PageMetrics::headingPoints;
 using PageMetrics::lineFactor;
 using PageMetrics::smallPoints;
@@ -63,6 +64,26 @@ QStringList paragraphs(QString text)
         }
     }
     return plain.split(u'\n');
+}
+
+/// The size of these letters beside the body's.
+double scaleOf(TextRole role)
+{
+    switch (role) {
+    case TextRole::Heading:
+        return headingPoints / bodyPoints;
+    case TextRole::Small:
+        return smallPoints / bodyPoints;
+    case TextRole::Chapter:
+        return chapterPoints / bodyPoints;
+    case TextRole::Cover:
+        return coverPoints / bodyPoints;
+    case TextRole::Body:
+    case TextRole::Strong:
+    case TextRole::Code:
+        break;
+    }
+    return 1;
 }
 
 /// The same text with no-break spaces inside its numbers, "(440) 555-0100" and "221 00" say, as far as they
@@ -154,6 +175,15 @@ QStringList PageType::wrapped(const QString &text, double width) const
     return lines;
 }
 
+QString PageType::onOneLine(QString text)
+{
+    text.replace(u'\t', "    "_L1);
+    std::ranges::replace_if(
+        text, [](QChar c) { return c < u' ' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator; },
+        QChar(u' '));
+    return text;
+}
+
 QString PageType::elided(const QString &line, double width) const
 {
     return m_metrics.elidedText(line, Qt::ElideRight, width * fine);
@@ -202,14 +232,17 @@ PageTypes::PageTypes(const PageFont &font, double points)
     , foot(QFont(), smallPoints, footColor)
     , body(font.font, points, font.color)
     , strong(semibold(font.font), points, font.color)
-    , heading(semibold(font.font), points * headingPoints / bodyPoints, font.color)
-    , small(font.font, points * smallPoints / bodyPoints, font.color)
+    , heading(semibold(font.font), points * scaleOf(TextRole::Heading), font.color)
+    , small(font.font, points * scaleOf(TextRole::Small), font.color)
     , code(FixedFace::font(), points, font.color)
+    , m_font(font)
 {}
 
 const PageType &PageTypes::of(TextRole role) const
 {
     switch (role) {
+    case TextRole::Body:
+        return body;
     case TextRole::Strong:
         return strong;
     case TextRole::Heading:
@@ -218,8 +251,31 @@ const PageType &PageTypes::of(TextRole role) const
         return small;
     case TextRole::Code:
         return code;
-    case TextRole::Body:
+    case TextRole::Chapter:
+    case TextRole::Cover:
         break;
     }
-    return body;
+    return of(role, false, false);
+}
+
+const PageType &PageTypes::of(TextRole role, bool isBold, bool isItalic) const
+{
+    const bool isMade = role != TextRole::Chapter && role != TextRole::Cover;
+    if (isMade && !isBold && !isItalic)
+        return of(role);
+    const int key = int(role) * 4 + (isBold ? 2 : 0) + (isItalic ? 1 : 0);
+    auto found = m_more.find(key);
+    if (found == m_more.end())
+        found = m_more.emplace(key, made(role, isBold, isItalic)).first;
+    return found->second;
+}
+
+PageType PageTypes::made(TextRole role, bool isBold, bool isItalic) const
+{
+    const bool isLight = role == TextRole::Body || role == TextRole::Small || role == TextRole::Code;
+    QFont font = role == TextRole::Code ? FixedFace::font() : m_font.font;
+    if (isBold || !isLight)
+        font = semibold(font);
+    font.setItalic(isItalic || font.italic());
+    return {font, points * scaleOf(role), m_font.color};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/core/page.h"
+#include "shell/pages/pagefont.h"
 
 #include <QColor>
 #include <QFont>
@@ -9,9 +10,9 @@
 #include <QPointF>
 
 #include <array>
+#include <map>
 
 class QPainter;
-struct PageFont;
 
 /// One font of a printed page, measured and drawn in points. Inside it works at ten times the size, without
 /// hinting and without any device, so that screen, picture, PDF and paper break lines alike.
@@ -29,6 +30,12 @@ public:
     /// `text` cut into lines no wider than `width`: at words, and inside words that are wider than a line. At
     /// least one line, which may be empty.
     QStringList wrapped(const QString &text, double width) const;
+    const QFont &font() const { return m_font; }
+    /// How many times larger than in points `font` works.
+    static constexpr double fine = 10;
+    /// `text` on one line, without tabs and other control characters.
+    static QString onOneLine(QString text);
+
     /// One line, ended by an ellipsis where it is wider than `width`.
     QString elided(const QString &line, double width) const;
     /// At most `most` of these lines; the last one kept takes up what follows, ended by an ellipsis.
@@ -41,8 +48,6 @@ public:
               const QString &line) const;
 
 private:
-    static constexpr double fine = 10;
-
     bool surelyFits(const QString &text, double width) const;
 
     QFont m_font;
@@ -62,6 +67,8 @@ struct PageTypes {
     PageTypes(const PageFont &font, double points);
 
     const PageType &of(TextRole role) const;
+    /// The same for a run that is set off.
+    const PageType &of(TextRole role, bool isBold, bool isItalic) const;
 
     double points; ///< size of the body
 
@@ -73,4 +80,10 @@ struct PageTypes {
     PageType heading;
     PageType small;
     PageType code;
+
+private:
+    PageType made(TextRole role, bool isBold, bool isItalic) const;
+
+    PageFont m_font;
+    mutable std::map<int, PageType> m_more; ///< what few pages have, made when it is asked for
 };

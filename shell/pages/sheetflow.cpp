@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pages/sheetflow.h"
 
+#include "shell/pages/pagefigure.h"
 #include "shell/pages/pagepicture.h"
 #include "shell/pages/pagesquares.h"
 #include "shell/pages/sharpline.h"
+#include "shell/pages/sheethead.h"
 
 #include <QPainter>
 
@@ -16,15 +18,13 @@ using PageMetrics::pointsPerInch;
 
 namespace {
 
-constexpr double margin = PageMetrics::margin * pointsPerInch;
 constexpr double thin = 0.5;
 constexpr double rule = 0.75;
-constexpr double columnGap = 10;
 constexpr double ruleGap = 9;
 constexpr double pictureGap = 6;
-constexpr double titleGap = 12; ///< from the rule under the title to the body
-constexpr qsizetype titleLines = 4;
-constexpr double blankFactor = 1.6; ///< room to write by hand
+constexpr double figureGap = 9;
+constexpr qsizetype linesTogether = 2; ///< of a paragraph, on either side of a sheet's end
+constexpr double blankFactor = 1.6;    ///< room to write by hand
 constexpr QColor ruleColor(0x9A, 0x9A, 0x9A);
 constexpr QColor rowColor(0xDD, 0xDD, 0xDD);
 constexpr QColor gridColor(0xB0, 0xB0, 0xB0);
@@ -53,7 +53,7 @@ std::optional<SheetStart> SheetFlow::fill(SheetStart start, std::size_t end)
     m_firstItem = start.item;
     m_isFirst = start.item == 0 && start.line == 0;
     startTable(start.columns);
-    placeTitle();
+    m_y = SheetHead(m_layout, m_number).place(m_painter);
     for (; m_at.item < std::min(end, items.size()); m_at = {m_at.item + 1, 0, nullptr}) {
         if (!std::visit([this](const auto &item) { return place(item); }, items[m_at.item]))
             return SheetStart{m_at.item, m_at.line, m_table.columns()};
@@ -61,33 +61,6 @@ std::optional<SheetStart> SheetFlow::fill(SheetStart start, std::size_t end)
     if (end <= items.size() || !m_layout.page().isClosed() || placeClosing())
         return std::nullopt;
     return SheetStart{items.size(), 0, m_table.columns()};
-}
-
-void SheetFlow::placeTitle()
-{
-    const Page &page = m_layout.page();
-    if (page.title().isEmpty() && page.headRight().isEmpty())
-        return;
-    const PageType &title = types().title;
-    const PageType &right = types().headRight;
-    const QString head = right.elided(page.headRight(), m_body.width() / 2);
-    const double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + 2 * columnGap);
-    const QString words = m_layout.headOf(m_number);
-    const QStringList lines = title.shortened(title.wrapped(words, titleWidth), titleLines, titleWidth);
-    for (const QString &line : lines) {
-        if (m_painter)
-            title.draw(*m_painter, {m_body.left(), m_y}, line);
-        m_y += title.lineHeight();
-    }
-    if (m_painter) {
-        // On the title's last line, both on one baseline.
-        const double drop = title.baseline() - right.baseline();
-        const QPointF place(m_body.left(), m_y - title.lineHeight() + drop);
-        right.draw(*m_painter, place, m_body.width(), Qt::AlignRight, head);
-    }
-    m_y += 3;
-    drawRule(m_y, rule, Qt::black);
-    m_y += rule + titleGap;
 }
 
 void SheetFlow::drawCells(const std::vector<SheetCell> &cells, const PageType &type, double top,
@@ -169,7 +142,8 @@ bool SheetFlow::place(const PageItem::Columns &columns)
 bool SheetFlow::place(const PageItem::Row &row)
 {
     const PageType &type = m_table.types().of(row.role);
-    std::vector<SheetCell> cells = m_table.cellsOf(row);
+    const PageItem::Row told = m_layout.withNumbers(row);
+    std::vector<SheetCell> cells = m_table.cellsOf(told);
     std::vector<SheetCell> headings = m_table.headings();
     const double height = m_table.rowGap() + double(SheetTable::lineCount(cells)) * type.lineHeight() +
                           closingReserve() + heightOfCompany();
@@ -177,7 +151,7 @@ bool SheetFlow::place(const PageItem::Row &row)
     if (!m_isFresh && m_at.line == 0 && isFull) {
         if (!nextColumn())
             return false;
-        cells = m_table.cellsOf(row);
+        cells = m_table.cellsOf(told);
         headings = m_table.headings();
     }
     placeHeadings(headings);
@@ -210,7 +184,8 @@ double SheetFlow::heightOfCompany() const
     for (std::size_t at = m_at.item; m_layout.staysWithNext(at); ++at) {
         const auto *row = std::get_if<PageItem::Row>(&m_layout.page().items()[at + 1]);
         const PageType &type = m_table.types().of(row ? row->role : TextRole::Body);
-        const auto lines = double(row ? SheetTable::lineCount(m_table.cellsOf(*row)) : 0);
+        const auto lines =
+            double(row ? SheetTable::lineCount(m_table.cellsOf(m_layout.withNumbers(*row))) : 0);
         height += row ? m_table.rowGap() + lines * type.lineHeight() : ruleGap;
         if (height > most)
             return 0;
@@ -231,6 +206,55 @@ bool SheetFlow::place(const PageItem::Line &line)
     }
     const SheetCell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line), {}};
     return placeCells({cell}, type, 0, Split::AtLines);
+}
+
+qsizetype SheetFlow::linesHere(qsizetype left, double lineHeight) const
+{
+    const auto fitting = qsizetype(std::max(0.0, (room() + 0.01) / lineHeight));
+    if (left <= fitting)
+        return left;
+    if (m_isFresh)
+        return std::max<qsizetype>(fitting, 1);
+    const qsizetype count = std::min(fitting, left - linesTogether);
+    return count < linesTogether ? 0 : count;
+}
+
+bool SheetFlow::place(const PageItem::Paragraph &paragraph)
+{
+    m_y = m_table.leaveColumns(m_y);
+    m_rowAbove = false;
+    const PageType &type = types().of(paragraph.role);
+    const std::vector<RunLine> &lines = m_layout.linesOf(m_at.item, paragraph);
+    const qsizetype left = qsizetype(lines.size()) - m_at.line;
+    const qsizetype count = linesHere(left, type.lineHeight());
+    const double indent = RunLines::indentOf(paragraph);
+    for (qsizetype i = 0; m_painter && i < count; ++i) {
+        const QPointF top(m_body.left() + indent, m_y + double(i) * type.lineHeight());
+        if (indent > 0 && m_at.line + i == 0)
+            RunLines::drawDot(*m_painter, top, type);
+        RunLines::draw(*m_painter, top, lines[std::size_t(m_at.line + i)]);
+    }
+    if (count == 0)
+        return false;
+    m_y += double(count) * type.lineHeight();
+    m_at.line += int(count);
+    m_isFresh = false;
+    return count == left;
+}
+
+bool SheetFlow::place(const PageItem::Figure &figure)
+{
+    m_y = m_table.leaveColumns(m_y);
+    m_rowAbove = false;
+    const double gap = m_isFresh ? 0 : figureGap;
+    PageFigure picture(figure, types(), m_body.size());
+    if (!picture.giveWay(room() - gap) && !m_isFresh)
+        return false;
+    if (m_painter)
+        picture.draw(*m_painter, {m_body.left(), m_y + gap});
+    m_y += gap + picture.height() + figureGap;
+    m_isFresh = false;
+    return true;
 }
 
 bool SheetFlow::place(const PageItem::Blank &blank)
@@ -382,6 +406,7 @@ bool SheetFlow::placeClosing()
     m_y = m_table.leaveColumns(m_y);
     const double top = std::max(m_y, m_lowestPlaced);
     // Placed items may reach below the margin; a quarter of an inch every printer can print on.
+    const double margin = m_layout.margin();
     const double lowest = m_layout.sheet().height() - (m_lowestPlaced > 0 ? margin / 2 : margin);
     double gap = types().body.lineHeight();
     if (top + gap + closingHeight() > m_bottom)

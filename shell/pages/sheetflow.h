@@ -30,10 +30,12 @@ private:
     /// Each places one item at the current height, or as much of it as fits. False: the rest goes to the next
     /// sheet.
     bool place(const PageItem::Line &line);
+    bool place(const PageItem::Paragraph &paragraph);
     bool place(const PageItem::Columns &columns);
     bool place(const PageItem::Row &row);
     bool place(const PageItem::Blank &blank);
     bool place(const PageItem::Picture &picture);
+    bool place(const PageItem::Figure &figure);
     bool place(const PageItem::Squares &squares);
     bool place(const PageItem::PlacedText &text);
     bool place(const PageItem::PlacedPicture &picture);
@@ -44,7 +46,8 @@ private:
     bool place(const PageItem::Section &);
     bool placeClosing();
 
-    void placeTitle();
+    /// How many of the `left` lines of a paragraph stand here.
+    qsizetype linesHere(qsizetype left, double lineHeight) const;
     /// A place in the flow for what is no larger than a sheet; nothing where it belongs on the next one.
     std::optional<QRectF> takePlace(QSizeF points);
     void placeHeadings(const std::vector<SheetCell> &headings);

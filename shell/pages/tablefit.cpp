@@ -31,10 +31,13 @@ void append(std::vector<Page::Item> &items, const PageItem::Columns &columns,
 {
     items.emplace_back(columns);
     for (const Page::Item &item : rows) {
-        if (const auto *row = std::get_if<PageItem::Row>(&item))
-            items.emplace_back(PageItem::Row{part(row->cells, first, count), row->role, row->staysWithNext});
-        else
+        if (const auto *row = std::get_if<PageItem::Row>(&item)) {
+            PageItem::Row narrow = *row;
+            narrow.cells = part(row->cells, first, count);
+            items.emplace_back(std::move(narrow));
+        } else {
             items.push_back(item);
+        }
     }
 }
 

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/pages/pagetype.h"
+
+class QPainter;
+
+/// A picture with its caption, as it stands on a sheet.
+class PageFigure
+{
+public:
+    /// In a flow as large as `body`, in points.
+    PageFigure(const PageItem::Figure &figure, const PageTypes &types, QSizeF body);
+
+    double height() const { return m_picture.height() + captionHeight(); }
+    /// Makes the picture smaller, by a third at most, until all is no higher than `height`. False where that
+    /// is not enough.
+    bool giveWay(double height);
+    /// Draws it in the middle of the flow that begins at `top`.
+    void draw(QPainter &painter, QPointF top) const;
+
+private:
+    double captionHeight() const;
+    void drawCaption(QPainter &painter, QPointF top) const;
+
+    const PageItem::Figure &m_figure;
+    const PageType &m_type;
+    QSizeF m_body;
+    QSizeF m_picture;
+    bool m_isThere;
+    QStringList m_caption;
+};
