@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "keeper/model/keeperentries.h"
 #include "keeper/model/keeperfiles.h"
 #include "keeper/model/keeperopening.h"
 #include "keeper/model/keepersettings.h"
@@ -13,13 +14,6 @@
 #include <memory>
 #include <optional>
 
-/// An earlier version of an entry that can be brought back.
-struct KeeperVersion {
-    quint32 number = 0;
-    QDateTime time;
-    bool operator==(const KeeperVersion &) const = default;
-};
-
 /// The password keeper: its two files, and while it is open what they hold. Secrets stay sealed in the file
 /// until their entry is asked for.
 class Keeper final : public QObject
@@ -28,8 +22,7 @@ class Keeper final : public QObject
 public:
     using State = KeeperFiles::State;
 
-    static constexpr qsizetype earlierVersions = 5;
-    static constexpr int daysInTrash = 30;
+    static constexpr qsizetype earlierVersions = KeeperEntries::earlierVersions;
 
     /// `cost` goes into a keeper that is set up.
     Keeper(const DataFolder &folder, const Clock &clock, PasswordCost cost = PasswordCost::moderate());
@@ -68,14 +61,17 @@ public:
     [[nodiscard]] bool changeCode(const KeyDerivation &code);
 
     // The entries, in the order of their titles; those in the trash too, and a row for each damaged record.
-    int count() const { return m_index.count(); }
-    KeeperSummary summary(int place) const { return m_index.summary(place); }
+    int count() const { return m_open ? m_open->index().count() : 0; }
+    KeeperSummary summary(int place) const { return m_open->index().summary(place); }
     QList<KeeperSummary> entries() const;
     /// -1: none.
-    int placeOf(const QByteArray &id) const { return m_index.placeOf(id); }
+    int placeOf(const QByteArray &id) const { return m_open ? m_open->index().placeOf(id) : -1; }
     /// The places of those in whose title, user name, address, tags or notes all words stand.
-    QList<int> search(const QString &text) const { return m_index.find(text); }
-    qsizetype memoryUsed() const { return m_index.memoryUsed(); }
+    QList<int> search(const QString &text) const
+    {
+        return m_open ? m_open->index().find(text) : QList<int>();
+    }
+    qsizetype memoryUsed() const { return m_open ? m_open->index().memoryUsed() : 0; }
     /// The whole entry, with its secrets; `version` is one of `versions`, 0 the last.
     std::optional<KeeperEntry> entry(const QByteArray &id, quint32 version = 0) const;
     /// Whether another entry than `id` has this password, or an earlier version of that one had it.
@@ -117,21 +113,16 @@ private:
     std::optional<KeeperOpening> makeOpening(const QString &typed, KeySlots::Slot slot,
                                              bool readsEntries) const;
     bool judge(const KeeperOpening &opening);
-    KeeperFile::Writing writingOf(const KeeperEntry &entry) const;
-    std::optional<KeeperFile::Writing> moved(const QByteArray &id, KeeperRecord::State state) const;
-    bool bringBack(const QByteArray &id);
-    void trim(const QList<QByteArray> &ids);
-    void showAnew(const QList<QByteArray> &ids);
+    bool told(bool isDone);
     void tellExpiries();
     void purge();
     void readSettings();
-    std::vector<KeeperFile::Version> single(KeeperFile::Sort sort) const;
-    [[nodiscard]] bool replaceSingle(KeeperFile::Sort sort, std::optional<KeeperFile::Writing> writing);
+    std::vector<KeeperPlaces::Version> single(KeeperPlaces::Sort sort) const;
+    [[nodiscard]] bool replaceSingle(KeeperPlaces::Sort sort, std::optional<KeeperFile::Writing> writing);
 
     DataFolder m_folder;
     const Clock &m_clock;
     PasswordCost m_cost;
-    std::unique_ptr<KeeperFile> m_file; ///< while it is open
-    KeeperIndex m_index;
+    std::unique_ptr<KeeperEntries> m_open; ///< while it is open
     KeeperSettings m_settings;
 };

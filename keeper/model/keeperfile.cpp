@@ -3,8 +3,11 @@
 
 #include "keeper/model/keeperfiles.h"
 #include "storage/changeset.h"
+#include "storage/disk.h"
 #include "storage/log.h"
 #include "storage/openrecordfile.h"
+
+#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -62,167 +65,28 @@ bool KeeperFile::looksSealed(QByteArrayView bytes)
     return std::ranges::count(isThere, true) >= fewest;
 }
 
-KeeperFile::Sort KeeperFile::sortOf(quint8 state)
+KeeperFile::~KeeperFile()
 {
-    return state == KeeperRecord::Draft      ? Sort::Draft
-           : state == KeeperRecord::Settings ? Sort::Settings
-                                             : Sort::Entry;
-}
-
-bool KeeperFile::isFree(const Place &place)
-{
-    return place.state == KeeperRecord::Free || place.isLeftOver;
-}
-
-bool KeeperFile::isOf(const Place &place, Sort sort) const
-{
-    return place.state >= KeeperRecord::Entry && place.state <= KeeperRecord::Settings &&
-           sortOf(place.state) == sort;
-}
-
-std::vector<qint32>::const_iterator KeeperFile::orderOf(QByteArrayView id) const
-{
-    return std::ranges::lower_bound(
-        m_order, id, [](QByteArrayView left, QByteArrayView right) { return left < right; },
-        [this](qint32 owner) { return QByteArrayView(m_ids[std::size_t(owner)]); });
-}
-
-/// -1: none.
-qint32 KeeperFile::knownOwner(QByteArrayView id) const
-{
-    const auto found = orderOf(id);
-    return found != m_order.end() && QByteArrayView(m_ids[std::size_t(*found)]) == id ? *found : -1;
-}
-
-qint32 KeeperFile::ownerOf(QByteArrayView id)
-{
-    if (const qint32 known = knownOwner(id); known >= 0)
-        return known;
-    const auto owner = qint32(m_ids.size());
-    m_order.insert(orderOf(id), owner);
-    std::ranges::copy(id.first(KeeperRecord::idLength), m_ids.emplace_back().begin());
-    return owner;
+    std::ignore = flush();
 }
 
 bool KeeperFile::load()
 {
     m_places.clear();
-    m_ids.clear();
-    m_order.clear();
-    m_places.reserve(std::size_t(m_file.recordCount()));
-    SecretBytes open(KeeperRecord::openLength);
-    m_file.forEach(1, [this, &open](int record, QByteArrayView bytes) {
-        m_places.emplace_back();
-        if (m_records.open(record, bytes, open))
-            note(record, open.view());
-        else
-            m_places.back().state = damagedState;
+    m_places.reserve(m_file.recordCount());
+    SecretBytes head(KeeperRecord::headLength);
+    m_file.forEach(1, [this, &head](int record, QByteArrayView bytes) {
+        if (m_records.open(record, bytes, m_open)) {
+            m_places.add(m_open.view());
+        } else {
+            m_records.guess(bytes, head);
+            m_places.addDamaged(head.view());
+        }
         return true;
     });
-    m_ids.shrink_to_fit();
-    m_order.shrink_to_fit();
-    findLeftOvers();
-    return int(m_places.size()) == m_file.recordCount();
-}
-
-void KeeperFile::note(int record, QByteArrayView open)
-{
-    const KeeperRecord head = KeeperRecord::decoded(open);
-    Place &place = placeOf(record);
-    place.state = head.state;
-    if (head.state == KeeperRecord::Free || head.state > KeeperRecord::Settings)
-        return;
-    if (!head.isSound()) {
-        place.state = damagedState;
-        return;
-    }
-    place.part = head.part;
-    place.parts = head.parts;
-    place.used = head.used;
-    place.owner = ownerOf(head.id);
-    place.version = head.version;
-    place.time = head.time;
-}
-
-/// What a write or a removal left behind that was interrupted. Beside damaged records it may belong to one of
-/// them, and stays.
-void KeeperFile::findLeftOvers()
-{
-    if (std::ranges::any_of(m_places, [](const Place &place) { return place.state == damagedState; }))
-        return;
-    for (const Sort sort : {Sort::Entry, Sort::Draft, Sort::Settings}) {
-        forEach(sort, [this](const QByteArray &, const std::vector<Version> &versions) {
-            for (const Version &version : versions) {
-                for (const int record : version.isWhole ? std::vector<int>() : version.records)
-                    placeOf(record).isLeftOver = true;
-            }
-        });
-    }
-}
-
-std::vector<KeeperFile::Version> KeeperFile::gathered(std::vector<int> records) const
-{
-    std::ranges::sort(records, {}, [this](int record) {
-        const Place &place = placeOf(record);
-        return std::tuple(place.version, place.part, record);
-    });
-    std::vector<Version> versions;
-    for (const int record : records) {
-        const Place &place = placeOf(record);
-        if (versions.empty() || versions.back().number != place.version)
-            versions.push_back({place.version, place.state, place.time, {}, false});
-        versions.back().records.push_back(record);
-    }
-    for (Version &version : versions) {
-        const std::size_t parts = placeOf(version.records.front()).parts;
-        version.isWhole = version.records.size() == parts;
-        for (std::size_t part = 1; version.isWhole && part <= parts; ++part) {
-            const Place &place = placeOf(version.records[part - 1]);
-            version.isWhole = place.part == part && place.parts == parts && place.state == version.state;
-        }
-    }
-    return versions;
-}
-
-void KeeperFile::forEach(
-    Sort sort, const std::function<void(const QByteArray &id, const std::vector<Version> &)> &visit) const
-{
-    std::vector<int> records;
-    for (int record = 1; record <= int(m_places.size()); ++record) {
-        const Place &place = placeOf(record);
-        if (isOf(place, sort) && !place.isLeftOver)
-            records.push_back(record);
-    }
-    std::ranges::stable_sort(records, {}, [this](int record) { return placeOf(record).owner; });
-    for (auto first = records.begin(); first != records.end();) {
-        const qint32 owner = placeOf(*first).owner;
-        const auto last =
-            std::find_if(first, records.end(), [&](int record) { return placeOf(record).owner != owner; });
-        visit(idOf(owner), gathered({first, last}));
-        first = last;
-    }
-}
-
-std::vector<KeeperFile::Version> KeeperFile::versions(Sort sort, const QByteArray &id) const
-{
-    const qint32 owner = knownOwner(id);
-    std::vector<int> records;
-    for (int record = 1; owner >= 0 && record <= int(m_places.size()); ++record) {
-        const Place &place = placeOf(record);
-        if (place.owner == owner && isOf(place, sort) && !place.isLeftOver)
-            records.push_back(record);
-    }
-    return gathered(records);
-}
-
-QByteArray KeeperFile::idOf(const Version &version) const
-{
-    return idOf(placeOf(version.records.front()).owner);
-}
-
-QByteArray KeeperFile::idOf(qint32 owner) const
-{
-    return QByteArrayView(m_ids[std::size_t(owner)]).toByteArray();
+    m_open.zero();
+    m_places.settle();
+    return m_places.count() == m_file.recordCount();
 }
 
 std::optional<SecretBytes> KeeperFile::payload(const Version &version) const
@@ -231,45 +95,34 @@ std::optional<SecretBytes> KeeperFile::payload(const Version &version) const
         return std::nullopt;
     qsizetype size = 0;
     for (const int record : version.records)
-        size += placeOf(record).used;
+        size += m_places.used(record);
     SecretBytes payload(size);
-    SecretBytes open(KeeperRecord::openLength);
     qsizetype at = 0;
     for (const int record : version.records) {
-        if (!m_records.open(record, m_file.read(record), open))
+        if (!m_records.open(record, m_file.read(record), m_open))
             return std::nullopt;
-        const qsizetype used = placeOf(record).used;
+        const qsizetype used = m_places.used(record);
         if (used > 0)
-            std::memcpy(payload.data() + at, open.data() + KeeperRecord::headLength, std::size_t(used));
+            std::memcpy(payload.data() + at, m_open.data() + KeeperRecord::headLength, std::size_t(used));
         at += used;
     }
+    m_open.zero();
     return payload;
 }
 
 void KeeperFile::forEachPayload(const std::vector<std::pair<int, qsizetype>> &records,
                                 const std::function<void(qsizetype tag, QByteArrayView payload)> &visit) const
 {
-    SecretBytes open(KeeperRecord::openLength);
     auto next = records.begin();
     m_file.forEach(1, [&](int record, QByteArrayView bytes) {
         if (next != records.end() && next->first == record) {
-            if (m_records.open(record, bytes, open))
-                visit(next->second, open.view().sliced(KeeperRecord::headLength, placeOf(record).used));
+            if (m_records.open(record, bytes, m_open))
+                visit(next->second, m_open.view().sliced(KeeperRecord::headLength, m_places.used(record)));
             ++next;
         }
         return next != records.end();
     });
-}
-
-/// Of each owner, with what interrupted writes left.
-std::vector<quint32> KeeperFile::highestVersions(Sort sort) const
-{
-    std::vector<quint32> highest(m_ids.size());
-    for (const Place &place : m_places) {
-        if (isOf(place, sort))
-            highest[std::size_t(place.owner)] = std::max(highest[std::size_t(place.owner)], place.version);
-    }
-    return highest;
+    m_open.zero();
 }
 
 QByteArray KeeperFile::sealedFree(int record) const
@@ -280,30 +133,25 @@ QByteArray KeeperFile::sealedFree(int record) const
 /// The new records come all or not at all, so that a file that ends early was always damaged.
 bool KeeperFile::grow(std::size_t missing)
 {
-    const auto first = int(m_places.size()) + 1;
+    const int first = m_places.count() + 1;
     const int count = (int(missing) + growth - 1) / growth * growth;
     ChangeSet change(m_folder);
     for (int record = first; record < first + count; ++record)
         change.write(m_file, record, sealedFree(record));
     if (!change.commit())
         return false;
-    m_places.resize(m_places.size() + std::size_t(count));
+    m_places.addFree(count);
     return true;
 }
 
+/// None where the disk refuses to give so many.
 std::vector<int> KeeperFile::takeFree(std::size_t count)
 {
-    std::vector<int> free;
-    for (int record = 1; record <= int(m_places.size()) && free.size() < count; ++record) {
-        if (isFree(placeOf(record)))
-            free.push_back(record);
-    }
-    const auto known = int(m_places.size());
+    std::vector<int> free = m_places.free(count);
     if (free.size() < count) {
         if (!grow(count - free.size()))
             return {};
-        for (int record = known + 1; free.size() < count; ++record)
-            free.push_back(record);
+        free = m_places.free(count);
     }
     std::ranges::reverse(free); // taken from the end
     return free;
@@ -318,19 +166,18 @@ bool KeeperFile::writeParts(OpenRecordFile &file, const Writing &writing, quint3
     head.id = writing.id;
     head.time = writing.time;
     head.version = version;
-    const qint32 owner = ownerOf(writing.id);
     if (head.parts > KeeperRecord::mostParts)
         return false;
     for (head.part = 1; head.part <= head.parts; ++head.part) {
         const int record = free.back();
         free.pop_back();
         const QByteArrayView part = partOf(writing.payload, head.part);
-        SecretBytes plain(KeeperRecord::openLength);
-        head.encode(part, plain.data());
-        written.push_back({record, file.read(record).toByteArray(),
-                           Place{head.state, false, head.part, head.parts, quint16(part.size()), owner,
-                                 head.version, head.time}});
-        if (!file.write(record, m_records.sealed(record, plain.view())))
+        head.used = quint16(part.size());
+        written.push_back({record, file.read(record).toByteArray(), head});
+        head.encode(part, m_open.data());
+        const QByteArray sealed = m_records.sealed(record, m_open.view());
+        m_open.zero();
+        if (!file.write(record, sealed))
             return false;
     }
     return true;
@@ -338,10 +185,11 @@ bool KeeperFile::writeParts(OpenRecordFile &file, const Writing &writing, quint3
 
 bool KeeperFile::readsBack(OpenRecordFile &file, const Written &written, QByteArrayView plain) const
 {
-    SecretBytes open(KeeperRecord::openLength);
-    return m_records.open(written.record, file.read(written.record), open) &&
-           KeeperRecord::decoded(open.view()).version == written.place.version &&
-           open.view().sliced(KeeperRecord::headLength, written.place.used) == plain;
+    const bool isSame = m_records.open(written.record, file.read(written.record), m_open) &&
+                        KeeperRecord::decoded(m_open.view()).version == written.head.version &&
+                        m_open.view().sliced(KeeperRecord::headLength, written.head.used) == plain;
+    m_open.zero();
+    return isSame;
 }
 
 void KeeperFile::takeBack(OpenRecordFile &file, const std::vector<Written> &written)
@@ -363,13 +211,13 @@ bool KeeperFile::write(const std::vector<Writing> &writings)
     std::vector<int> free = takeFree(count);
     if (free.size() < count)
         return false;
-    std::vector<quint32> versions = highestVersions(sortOf(writings.front().state));
+    std::vector<quint32> versions = m_places.highestVersions(KeeperPlaces::sortOf(writings.front().state));
     OpenRecordFile file(m_file);
     std::vector<Written> written;
     written.reserve(count);
     bool isDone = std::ranges::all_of(writings, [&](const Writing &writing) {
-        const auto owner = std::size_t(ownerOf(writing.id));
-        versions.resize(m_ids.size());
+        const std::size_t owner = m_places.ownerOf(writing.id);
+        versions.resize(std::max(versions.size(), owner + 1));
         return versions[owner] < std::numeric_limits<quint32>::max() &&
                writeParts(file, writing, ++versions[owner], free, written);
     });
@@ -383,8 +231,19 @@ bool KeeperFile::write(const std::vector<Writing> &writings)
         takeBack(file, written);
         return false;
     }
+    m_hasUnflushed = false;
     for (const Written &each : written)
-        placeOf(each.record) = each.place;
+        m_places.hold(each.record, each.head);
+    return true;
+}
+
+bool KeeperFile::overwrite(OpenRecordFile &file, const std::vector<int> &records)
+{
+    for (const int record : records) {
+        if (!file.write(record, sealedFree(record)))
+            return false;
+        m_places.release(record);
+    }
     return true;
 }
 
@@ -392,29 +251,35 @@ bool KeeperFile::release(const std::vector<int> &records)
 {
     if (records.empty())
         return true;
+    // What went before goes before: nothing that these records outlived may be there without them.
+    if (!flush())
+        return false;
     OpenRecordFile file(m_file);
-    for (const int record : records) {
-        if (!file.write(record, sealedFree(record)))
-            return false;
-        placeOf(record) = {};
-    }
-    return file.flush();
+    return overwrite(file, records) && file.flush();
 }
 
-QList<int> KeeperFile::damagedPlaces() const
+bool KeeperFile::releaseWithTheNext(const std::vector<int> &records)
 {
-    QList<int> damaged;
-    for (int record = 1; record <= int(m_places.size()); ++record) {
-        if (placeOf(record).state == damagedState)
-            damaged.append(record);
+    if (records.empty())
+        return true;
+    m_hasUnflushed = true;
+    OpenRecordFile file(m_file);
+    return overwrite(file, records);
+}
+
+bool KeeperFile::flush()
+{
+    if (m_hasUnflushed) {
+        QFile file(m_file.path());
+        m_hasUnflushed = !file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !Disk::flush(file);
     }
-    return damaged;
+    return !m_hasUnflushed;
 }
 
 bool KeeperFile::giveUpDamaged()
 {
-    const QList<int> damaged = damagedPlaces();
+    const QList<int> damaged = m_places.damaged();
     const bool isDone = release({damaged.begin(), damaged.end()});
-    findLeftOvers();
+    m_places.forgetDamaged();
     return isDone;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "keeper/model/keeperplaces.h"
 #include "keeper/model/keeperrecord.h"
 #include "storage/datafolder.h"
 #include "storage/recordfile.h"
@@ -8,7 +9,6 @@
 
 #include <QList>
 
-#include <array>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -25,17 +25,8 @@ class KeeperFile
 public:
     static constexpr int growth = 16;
 
-    /// What a version is of. Each counts its versions by itself.
-    enum class Sort : quint8 { Entry, Draft, Settings };
-
-    /// A version all of whose parts open, or one of which some are missing.
-    struct Version {
-        quint32 number = 0;
-        quint8 state = KeeperRecord::Entry;
-        qint64 time = 0;
-        std::vector<int> records; ///< in the order of their parts
-        bool isWhole = false;
-    };
+    using Sort = KeeperPlaces::Sort;
+    using Version = KeeperPlaces::Version;
 
     /// What is to be written.
     struct Writing {
@@ -46,6 +37,9 @@ public:
     };
 
     KeeperFile(const DataFolder &folder, SecretBytes key, const QByteArray &keeperId);
+    /// Flushes what waits for it.
+    ~KeeperFile();
+    Q_DISABLE_COPY_MOVE(KeeperFile)
 
     /// A new file's bytes: free records alone.
     static QByteArray made(SecretBytes key, const QByteArray &keeperId);
@@ -57,14 +51,8 @@ public:
 
     const SecretBytes &key() const { return m_records.key(); }
 
-    /// Visits each entry, draft and so on once, with its versions, the oldest first.
-    void forEach(Sort sort,
-                 const std::function<void(const QByteArray &id, const std::vector<Version> &)> &visit) const;
-    /// The versions of one, the oldest first.
-    std::vector<Version> versions(Sort sort, const QByteArray &id) const;
-
-    /// What a version is of.
-    QByteArray idOf(const Version &version) const;
+    /// Which versions there are, and in which records.
+    const KeeperPlaces &places() const { return m_places; }
 
     /// The open payload of a whole version; nothing when it does not open any more.
     std::optional<SecretBytes> payload(const Version &version) const;
@@ -78,46 +66,21 @@ public:
     /// Overwrites these records as free ones, and flushes. False when the disk refuses; some may be free
     /// then.
     [[nodiscard]] bool release(const std::vector<int> &records);
+    /// The same without a flush of its own, for what does no harm where it comes back: it reaches the disk
+    /// with the next write, or when the keeper is locked. What was written before is on the disk already.
+    [[nodiscard]] bool releaseWithTheNext(const std::vector<int> &records);
 
-    /// The records that do not open.
-    QList<int> damagedPlaces() const;
-    /// Makes them free, with the parts that they leave useless.
+    /// Makes the records free that do not open, with the parts that they leave useless.
     [[nodiscard]] bool giveUpDamaged();
 
 private:
-    static constexpr quint8 damagedState = 255;
-
-    /// What is known of a record.
-    struct Place {
-        quint8 state = KeeperRecord::Free;
-        bool isLeftOver =
-            false; ///< of a version that was never whole, or is not any more: may be written over
-        quint16 part = 0;
-        quint16 parts = 0;
-        quint16 used = 0;
-        qint32 owner = -1; ///< place in `m_ids`
-        quint32 version = 0;
-        qint64 time = 0;
-    };
     struct Written {
         int record = 0;
         QByteArray former;
-        Place place;
+        KeeperRecord head;
     };
 
-    static Sort sortOf(quint8 state);
-    static bool isFree(const Place &place);
-    bool isOf(const Place &place, Sort sort) const;
-    Place &placeOf(int record) { return m_places[std::size_t(record - 1)]; }
-    const Place &placeOf(int record) const { return m_places[std::size_t(record - 1)]; }
-    std::vector<qint32>::const_iterator orderOf(QByteArrayView id) const;
-    qint32 knownOwner(QByteArrayView id) const;
-    qint32 ownerOf(QByteArrayView id);
-    QByteArray idOf(qint32 owner) const;
-    void note(int record, QByteArrayView open);
-    void findLeftOvers();
-    std::vector<Version> gathered(std::vector<int> records) const;
-    std::vector<quint32> highestVersions(Sort sort) const;
+    [[nodiscard]] bool flush();
     std::vector<int> takeFree(std::size_t count);
     [[nodiscard]] bool grow(std::size_t missing);
     QByteArray sealedFree(int record) const;
@@ -125,11 +88,12 @@ private:
                     std::vector<Written> &written);
     bool readsBack(OpenRecordFile &file, const Written &written, QByteArrayView plain) const;
     static void takeBack(OpenRecordFile &file, const std::vector<Written> &written);
+    bool overwrite(OpenRecordFile &file, const std::vector<int> &records);
 
     DataFolder m_folder;
     RecordFile m_file;
     SealedRecords m_records;
-    std::vector<Place> m_places;
-    std::vector<std::array<char, KeeperRecord::idLength>> m_ids;
-    std::vector<qint32> m_order; ///< places in `m_ids`, in the order of the ids
+    KeeperPlaces m_places;
+    mutable SecretBytes m_open{KeeperRecord::openLength}; ///< a record while it is worked on, zeros else
+    bool m_hasUnflushed = false;                          ///< free records that wait for the next flush
 };

@@ -4,7 +4,7 @@
 #include "keeper/model/keeperkinds.h"
 #include "keeper/model/keeperpayload.h"
 
-#include <QByteArrayMatcher>
+#include <QByteArrayList>
 
 #include <sodium.h>
 
@@ -44,6 +44,24 @@ char foldedAscii(char byte)
     return uchar(letter) < uchar(' ') ? ' ' : letter;
 }
 
+/// Where `word` stands in `text` from `from` on; behind its end when it does not.
+qsizetype indexOf(QByteArrayView text, QByteArrayView word, qsizetype from)
+{
+    const QByteArrayView rest = text.sliced(from);
+#ifdef Q_OS_LINUX
+    const void *found = memmem(rest.data(), std::size_t(rest.size()), word.data(), std::size_t(word.size()));
+    return found ? from + (static_cast<const char *>(found) - rest.data()) : text.size();
+#else
+    const qsizetype found = rest.indexOf(word);
+    return found < 0 ? text.size() : from + found;
+#endif
+}
+
+bool contains(QByteArrayView text, QByteArrayView word)
+{
+    return indexOf(text, word, 0) < text.size();
+}
+
 QStringList split(const QString &tags)
 {
     KeeperEntry entry;
@@ -71,6 +89,7 @@ void KeeperIndex::clear()
     wipe(m_folded);
     m_rows.clear();
     m_rows.shrink_to_fit();
+    m_ordered = 0;
     m_dead = 0;
     sodium_memzero(m_hashKey.data(), m_hashKey.size());
 }
@@ -169,6 +188,7 @@ void KeeperIndex::add(const Facts &facts, QByteArrayView payload)
     row.isTrashed = facts.isTrashed;
     row.trashedAt = facts.trashedAt;
     row.shownVersion = facts.shownVersion;
+    row.lostPlace = facts.lostPlace;
     row.textsAt = quint32(m_texts.size());
     row.foldedAt = quint32(m_folded.size());
     for (int which = 0; which < TextCount; ++which) {
@@ -205,11 +225,9 @@ bool KeeperIndex::isLess(std::string_view folded, const Row &left, const Row &ri
 
 void KeeperIndex::sort()
 {
-    pack();
     std::ranges::sort(m_rows,
                       [this](const Row &left, const Row &right) { return isLess(m_folded, left, right); });
-    m_texts.shrink_to_fit();
-    m_folded.shrink_to_fit();
+    layOut();
     m_rows.shrink_to_fit();
 }
 
@@ -236,6 +254,7 @@ void KeeperIndex::settle()
         m_rows.erase(former);
     }
     pack();
+    m_ordered = std::min<std::size_t>(m_ordered, m_rows.back().foldedAt);
     const auto end = m_rows.end() - 1;
     std::rotate(std::upper_bound(m_rows.begin(), end, m_rows.back(), isLessRow), end, m_rows.end());
 }
@@ -243,23 +262,35 @@ void KeeperIndex::settle()
 /// Drops texts of no row where they are most of what is held.
 void KeeperIndex::pack()
 {
-    if (m_dead * 2 > m_folded.size()) {
-        std::string texts;
-        std::string folded;
-        for (Row &row : m_rows) {
-            const std::size_t length =
-                std::accumulate(row.lengths.begin(), row.lengths.end(), std::size_t(0));
-            const auto textsAt = quint32(texts.size());
-            texts.append(m_texts, row.textsAt, length);
-            row.textsAt = textsAt;
-            const auto foldedAt = quint32(folded.size());
-            folded.append(m_folded, row.foldedAt, row.foldedLength);
-            row.foldedAt = foldedAt;
-        }
-        m_texts.swap(texts);
-        m_folded.swap(folded);
-        m_dead = 0;
+    if (m_dead * 2 > m_folded.size())
+        layOut();
+}
+
+/// All texts anew, in the order of the rows.
+void KeeperIndex::layOut()
+{
+    const auto lengthOf = [](const Row &row) {
+        return std::accumulate(row.lengths.begin(), row.lengths.end(), std::size_t(0));
+    };
+    std::string texts;
+    std::string folded;
+    texts.reserve(std::accumulate(m_rows.begin(), m_rows.end(), std::size_t(0),
+                                  [&](std::size_t sum, const Row &row) { return sum + lengthOf(row); }));
+    folded.reserve(m_folded.size() - m_dead);
+    for (Row &row : m_rows) {
+        const auto textsAt = quint32(texts.size());
+        texts.append(m_texts, row.textsAt, lengthOf(row));
+        row.textsAt = textsAt;
+        const auto foldedAt = quint32(folded.size());
+        folded.append(m_folded, row.foldedAt, row.foldedLength);
+        row.foldedAt = foldedAt;
     }
+    m_texts.swap(texts);
+    m_folded.swap(folded);
+    wipe(texts);
+    wipe(folded);
+    m_ordered = m_folded.size();
+    m_dead = 0;
 }
 
 void KeeperIndex::remove(QByteArrayView id)
@@ -316,26 +347,38 @@ KeeperSummary KeeperIndex::summary(int place) const
     summary.isTrashed = row.isTrashed;
     summary.trashedAt = timeOf(row.trashedAt);
     summary.shownVersion = timeOf(row.shownVersion);
+    summary.lostPlace = row.lostPlace;
     if (row.hasPassword)
         summary.passwordHash = QByteArray(row.passwordHash.data(), qsizetype(row.passwordHash.size()));
     summary.passwordLength = row.passwordLength;
     return summary;
 }
 
+/// The longest word leads, since it is in the fewest entries: where the texts stand in the order of the rows,
+/// it is looked for in all of them at once.
 QList<int> KeeperIndex::find(QStringView text) const
 {
-    std::vector<QByteArrayMatcher> words;
-    for (const QByteArray &word : fold(text.toUtf8()).split(' ')) {
-        if (!word.isEmpty())
-            words.emplace_back(word);
-    }
+    QByteArrayList words = fold(text.toUtf8()).split(' ');
+    words.removeAll({});
+    std::ranges::stable_sort(words, std::ranges::greater(), &QByteArray::size);
+    const QByteArray first = words.isEmpty() ? QByteArray() : words.takeFirst();
+    const QByteArrayView ordered(m_folded.data(), qsizetype(m_ordered));
     QList<int> places;
-    places.reserve(words.empty() ? count() : 0);
+    places.reserve(first.isEmpty() ? count() : 0);
+    qsizetype next = -1; // where the first word stands in or behind the row before
     for (int place = 0; place < count(); ++place) {
         const Row &row = m_rows[std::size_t(place)];
         const QByteArrayView folded(m_folded.data() + row.foldedAt, row.foldedLength);
-        if (std::ranges::all_of(
-                words, [folded](const QByteArrayMatcher &word) { return word.indexIn(folded) >= 0; }))
+        bool isThere = first.isEmpty();
+        if (!isThere && row.foldedAt < m_ordered) {
+            if (next < row.foldedAt)
+                next = indexOf(ordered, first, row.foldedAt);
+            isThere = next < row.foldedAt + row.foldedLength;
+        } else if (!isThere) {
+            isThere = contains(folded, first);
+        }
+        if (isThere &&
+            std::ranges::all_of(words, [folded](const QByteArray &word) { return contains(folded, word); }))
             places.append(place);
     }
     return places;

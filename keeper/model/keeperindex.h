@@ -23,6 +23,7 @@ public:
         bool isTrashed = false;
         qint64 trashedAt = 0;
         qint64 shownVersion = 0; ///< 0: the last one is shown
+        int lostPlace = 0;       ///< the record of the last one, where that is known
     };
 
     /// `hashKey` makes the hashes of passwords, which tell only whether two are the same.
@@ -89,6 +90,7 @@ private:
         quint16 titleLength = 0; ///< of the folded title, which comes first
         qint32 expires = 0;      ///< days since 1970; 0: never
         int damagedPlace = 0;
+        int lostPlace = 0;
         quint16 passwordLength = 0;
         EntryKind kind = EntryKind::Note;
         bool isFavourite = false;
@@ -102,10 +104,12 @@ private:
     void note(Row &row, Texts &texts, quint8 id, QByteArrayView text) const;
     QString text(const Row &row, Text which) const;
     void pack();
+    void layOut();
 
     std::array<char, 32> m_hashKey{};
     std::vector<Row> m_rows;
     std::string m_texts;
     std::string m_folded;
-    std::size_t m_dead = 0; ///< bytes of `m_folded` that belong to no row any more
+    std::size_t m_ordered = 0; ///< up to here, `m_folded` is in the order of the rows
+    std::size_t m_dead = 0;    ///< bytes of `m_folded` that belong to no row any more
 };

@@ -51,8 +51,10 @@ std::optional<KeeperOpening::Current> KeeperOpening::current(const QByteArray &i
         if (edited != versions.rend())
             current.facts.changed = edited->time;
     }
-    if (last != versions.rbegin())
+    if (last != versions.rbegin()) {
         current.facts.shownVersion = last->time;
+        current.facts.lostPlace = versions.back().lostPlace;
+    }
     return current;
 }
 
@@ -67,22 +69,22 @@ KeeperIndex KeeperOpening::indexOf(const KeeperFile &file)
 
     std::vector<KeeperIndex::Facts> facts;
     std::vector<std::pair<int, qsizetype>> records; // of entries in one piece, which most are
-    file.forEach(KeeperFile::Sort::Entry,
-                 [&](const QByteArray &id, const std::vector<KeeperFile::Version> &versions) {
-                     const std::optional<Current> found = current(id, versions);
-                     if (!found)
-                         return;
-                     if (found->version.records.size() == 1) {
-                         records.emplace_back(found->version.records.front(), qsizetype(facts.size()));
-                         facts.push_back(found->facts);
-                     } else if (const auto payload = file.payload(found->version)) {
-                         index.add(found->facts, payload->view());
-                     }
-                 });
+    file.places().forEach(
+        KeeperFile::Sort::Entry, [&](const QByteArray &id, const std::vector<KeeperFile::Version> &versions) {
+            const std::optional<Current> found = current(id, versions);
+            if (!found)
+                return;
+            if (found->version.records.size() == 1) {
+                records.emplace_back(found->version.records.front(), qsizetype(facts.size()));
+                facts.push_back(found->facts);
+            } else if (const auto payload = file.payload(found->version)) {
+                index.add(found->facts, payload->view());
+            }
+        });
     std::ranges::sort(records);
     file.forEachPayload(
         records, [&](qsizetype tag, QByteArrayView payload) { index.add(facts[std::size_t(tag)], payload); });
-    for (const int record : file.damagedPlaces())
+    for (const int record : file.places().damaged())
         index.addDamaged(record);
     index.sort();
     return index;

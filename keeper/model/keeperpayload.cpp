@@ -111,13 +111,14 @@ SecretBytes KeeperPayload::encoded(const KeeperEntry &entry, const QDateTime &pa
     const qsizetype size = sizeOf(entry);
     if (size > KeeperRecord::longestPayload)
         return {};
-    SecretBytes bytes(size);
+    SecretBytes bytes(size - (passwordChanged.isValid() ? 0 : passwordChangedLength));
     Writer writer(bytes);
     for (const KeeperText &field : entry.fields)
         writer.add(field.id, field.isSecret, field.name, field.text);
     if (passwordChanged.isValid())
         writer.add(passwordChangedField, false, {}, passwordChanged.toUTC().toString(Qt::ISODate));
-    return SecretBytes::copyOf(bytes.view().first(writer.size()));
+    return writer.size() == bytes.size() ? std::move(bytes)
+                                         : SecretBytes::copyOf(bytes.view().first(writer.size()));
 }
 
 qsizetype KeeperPayload::sizeOf(const KeeperEntry &entry)

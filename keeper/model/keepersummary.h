@@ -25,6 +25,7 @@ struct KeeperSummary {
     QDateTime trashedAt{};
     int damagedPlace = 0;      ///< the record that cannot be opened; 0: the entry is whole
     QDateTime shownVersion{};  ///< of the earlier version that stands in for a damaged one
+    int lostPlace = 0;         ///< the record of that one, where it is known
     QByteArray passwordHash{}; ///< keyed, to find passwords that are used twice; empty without one
     int passwordLength = 0;
 

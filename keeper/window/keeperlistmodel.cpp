@@ -100,8 +100,8 @@ QVariant KeeperListModel::data(const QModelIndex &index, int role) const
 QString KeeperListModel::words(const KeeperSummary &entry) const
 {
     if (entry.shownVersion.isValid())
-        return KeeperWindowLines::damagedVersion(entry.damagedPlace,
-                                                 Dates::shortWithYear(entry.shownVersion.date(), m_style));
+        return KeeperWindowLines::damagedVersion(
+            entry.lostPlace, Dates::shortWithYear(entry.shownVersion.toLocalTime().date(), m_style));
     if (entry.damagedPlace > 0)
         return KeeperWindowLines::damaged(entry.damagedPlace);
     if (entry.isTrashed)

@@ -34,10 +34,10 @@ inline QString damaged(int place)
     return u"Damaged, place %1"_s.arg(place);
 }
 
-/// An earlier version stands in for what cannot be opened.
+/// An earlier version stands in for what cannot be opened; `place` is 0 where nobody knows it.
 inline QString damagedVersion(int place, const QString &day)
 {
-    return u"Damaged, place %1; as of %2"_s.arg(place).arg(day);
+    return (place > 0 ? damaged(place) : u"Damaged"_s) + u"; as of %1"_s.arg(day);
 }
 
 inline QString deletedOn(const QString &day)

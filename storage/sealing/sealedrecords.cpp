@@ -45,6 +45,16 @@ bool SealedRecords::open(int number, QByteArrayView record, SecretBytes &plain) 
     return record.size() == m_recordLength && open(record, contextOf(number), m_key, plain);
 }
 
+void SealedRecords::guess(QByteArrayView record, SecretBytes &plain) const
+{
+    plain.zero();
+    if (record.size() < nonceLength + plain.size())
+        return;
+    // The first block of the key stream makes the tag.
+    crypto_stream_xchacha20_xor_ic(plain.bytes(), bytesOf(record.sliced(nonceLength)),
+                                   static_cast<quint64>(plain.size()), bytesOf(record), 1, m_key.bytes());
+}
+
 QByteArray SealedRecords::seal(QByteArrayView plain, QByteArrayView context, const SecretBytes &key)
 {
     QByteArray sealed(nonceLength + plain.size() + tagLength, '\0');
@@ -67,7 +77,6 @@ bool SealedRecords::open(QByteArrayView sealed, QByteArrayView context, const Se
             static_cast<quint64>(cipherLength), bytesOf(context), static_cast<quint64>(context.size()),
             bytesOf(sealed), key.bytes()) == 0)
         return true;
-    if (!plain.isEmpty())
-        sodium_memzero(plain.data(), std::size_t(plain.size()));
+    plain.zero();
     return false;
 }

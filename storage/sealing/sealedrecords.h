@@ -28,6 +28,10 @@ public:
     /// not every byte is as it was sealed.
     bool open(int number, QByteArrayView record, SecretBytes &plain) const;
 
+    /// What the first bytes of `record` seem to be, as many as `plain` has; zeros where it is shorter.
+    /// Nothing proves them: they tell what a damaged record may have been, and are never shown.
+    void guess(QByteArrayView record, SecretBytes &plain) const;
+
     /// The bytes alone, for what is no record of a file: nonce, sealed bytes, tag.
     static QByteArray seal(QByteArrayView plain, QByteArrayView context, const SecretBytes &key);
     static bool open(QByteArrayView sealed, QByteArrayView context, const SecretBytes &key,

@@ -66,6 +66,12 @@ SecretBytes SecretBytes::copyOf(QByteArrayView bytes)
     return copy;
 }
 
+void SecretBytes::zero()
+{
+    if (m_bytes)
+        sodium_memzero(m_bytes, std::size_t(m_size));
+}
+
 void SecretBytes::clear()
 {
     sodium_free(m_bytes); // wipes first

@@ -36,6 +36,8 @@ public:
     QByteArrayView view() const { return {m_bytes, m_size}; }
     std::span<char> span() { return {m_bytes, std::size_t(m_size)}; }
 
+    /// Overwrites them with zeros, to be used again.
+    void zero();
     /// Wipes and gives back.
     void clear();
 

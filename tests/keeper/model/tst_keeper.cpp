@@ -100,10 +100,11 @@ public:
                                             : entry.title;
         return list;
     }
-    void damage(int record)
+    void damage(int record, qsizetype at = 1000)
     {
         QByteArray bytes = files.bytes(entryFile);
-        bytes[(record - 1) * recordLength + 1000] = char(bytes[(record - 1) * recordLength + 1000] ^ 4);
+        at += (record - 1) * recordLength;
+        bytes[at] = char(bytes[at] ^ 4);
         files.put(entryFile, bytes);
     }
 
@@ -466,25 +467,63 @@ private slots:
         QCOMPARE(desk.list(), QStringList{u"Mail"_s});
     }
 
+    void showsAnEarlierVersionWhereTheLastIsDamaged_data()
+    {
+        rows<int, int, qsizetype, bool>({
+            {"one of its two parts", 3000, 3, 1000, true},
+            {"its only part", 10, 2, 1000, true},
+            {"the part that says whose it is", 10, 2, 40, false},
+        });
+    }
+
     void showsAnEarlierVersionWhereTheLastIsDamaged()
     {
+        const auto [length, record, at, isKnown] = row<int, int, qsizetype, bool>();
         Desk desk;
         const QByteArray id = desk.add(u"Bank"_s, u"1"_s); // record 1
         const QDateTime first = desk.clock.time;
         KeeperEntry longer = *desk.keeper.entry(id);
-        longer.setText(KeeperField::Notes, QString(3000, u'n'));
+        longer.setText(KeeperField::Notes, QString(length, u'n'));
         desk.clock.time = first.addDays(1);
-        QVERIFY(desk.keeper.save(longer)); // records 2 and 3
+        QVERIFY(desk.keeper.save(longer)); // record 2, and 3
         desk.keeper.lock();
-        desk.damage(3);
+        desk.damage(record, at);
         desk.reopen();
-        QCOMPARE(desk.list(), (QStringList{u"damaged 3"_s, u"Bank"_s}));
-        QCOMPARE(desk.keeper.summary(1).shownVersion, first);
+        QCOMPARE(desk.list(), (QStringList{u"damaged %1"_s.arg(record), u"Bank"_s}));
+        QCOMPARE(desk.password(id), u"1"_s);
+        QCOMPARE(desk.keeper.summary(1).shownVersion, isKnown ? first : QDateTime());
+        QCOMPARE(desk.keeper.summary(1).lostPlace, isKnown ? record : 0);
         QVERIFY(desk.change(id, u"2"_s));
         QCOMPARE(desk.password(id), u"2"_s);
+        QVERIFY(!desk.keeper.summary(1).shownVersion.isValid());
         QVERIFY(desk.keeper.giveUpDamaged());
         QCOMPARE(desk.list(), QStringList{u"Bank"_s});
         QVERIFY(!desk.keeper.summary(0).shownVersion.isValid());
+    }
+
+    /// What makes room reaches the disk after what is new, and may be lost where the power fails.
+    void bearsAVersionThatDidNotGo()
+    {
+        Desk desk;
+        const QByteArray id = desk.add(u"Bank"_s, u"0"_s); // record 1
+        for (int version = 1; version <= 5; ++version)
+            QVERIFY(desk.change(id, QString::number(version)));
+        const QByteArray oldest = desk.files.bytes(entryFile).first(recordLength);
+        QVERIFY(desk.change(id, u"6"_s));
+        desk.keeper.lock();
+        QByteArray bytes = desk.files.bytes(entryFile);
+        QVERIFY(!bytes.startsWith(oldest));
+        desk.files.put(entryFile, bytes.replace(0, recordLength, oldest));
+        desk.reopen();
+        QCOMPARE(desk.password(id), u"6"_s);
+        QCOMPARE(desk.keeper.versions(id).size(), 5);
+        QVERIFY(desk.keeper.setTrashed({id}, true) && desk.keeper.setTrashed({id}, false));
+        QVERIFY(desk.change(id, u"7"_s));
+        QCOMPARE(desk.keeper.versions(id).size(), 5);
+        QVERIFY(!desk.files.bytes(entryFile).startsWith(oldest));
+        QVERIFY(desk.keeper.setTrashed({id}, true) && desk.keeper.removeForGood({id}));
+        desk.reopen();
+        QCOMPARE(desk.list(), QStringList());
     }
 
     void opensNothingWrongWhateverByteChanges()
