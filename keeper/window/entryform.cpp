@@ -5,12 +5,12 @@
 #include "keeper/window/kindboxes.h"
 #include "keeper/window/ownfields.h"
 #include "keeper/window/secretbox.h"
-#include "keeper/window/tagbox.h"
 #include "keeper/window/windowlines.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/controls/tagbox.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 

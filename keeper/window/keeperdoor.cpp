@@ -8,10 +8,11 @@
 #include "keeper/window/masterpanel.h"
 #include "keeper/window/setupview.h"
 #include "keeper/window/strengthwords.h"
-#include "keeper/window/threadedstep.h"
-#include "keeper/window/unlockview.h"
 #include "keeper/window/windowlines.h"
 #include "shell/controls/emptypage.h"
+#include "shell/controls/unlockview.h"
+#include "shell/core/passwordlines.h"
+#include "shell/core/threadedstep.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
@@ -25,6 +26,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+UnlockView::Words unlockWords()
+{
+    return {.icon = "password-keeper"_L1,
+            .title = KeeperWindowLines::isLocked(),
+            .sentence = KeeperWindowLines::lockedWords(),
+            .caption = KeeperWindowLines::masterCaption(),
+            .usePassword = KeeperWindowLines::useMaster(),
+            .missing = KeeperWindowLines::masterMissing(),
+            .trying = KeeperWindowLines::trying()};
+}
+
 WrongAnswers counted(const KeySlots::WrongAnswers &wrong)
 {
     return {int(wrong.count), wrong.first.toLocalTime(), wrong.last.toLocalTime()};
@@ -37,7 +49,7 @@ KeeperDoor::KeeperDoor(const KeeperDesk &desk, std::chrono::milliseconds step, Q
     , m_desk(desk)
     , m_step(new ThreadedStep(this))
     , m_attempts(m_memory, step)
-    , m_unlock(new UnlockView)
+    , m_unlock(new UnlockView(unlockWords(), {u"masterPassword"_s, u"openKeeper"_s}))
     , m_setUp(new SetUpView([this](const QString &typed) { return m_desk.strength.ofMaster(typed); }))
 {
     for (QWidget *home : std::initializer_list<QWidget *>{m_unlock, m_setUp}) {
@@ -173,7 +185,7 @@ void KeeperDoor::answer(const QString &text)
     const Slot slot = m_unlock->isForCode() ? KeySlots::Recovery : KeySlots::Password;
     auto opening = m_desk.keeper.opening(text, slot);
     if (!opening) {
-        m_unlock->refuse(m_unlock->isForCode() ? KeeperWindowLines::codeSlip()
+        m_unlock->refuse(m_unlock->isForCode() ? PasswordLines::recoveryCodeSlip()
                                                : KeeperWindowLines::wrongMaster());
         if (m_desk.keeper.state() != Keeper::State::Locked)
             show();

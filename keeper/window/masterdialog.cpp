@@ -2,10 +2,10 @@
 #include "keeper/window/masterdialog.h"
 
 #include "keeper/model/keeper.h"
-#include "keeper/window/threadedstep.h"
 #include "keeper/window/windowlines.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/core/threadedstep.h"
 #include "shell/look/theme.h"
 
 #include <QHBoxLayout>

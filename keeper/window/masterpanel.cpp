@@ -14,11 +14,12 @@ namespace {
 constexpr int formWidth = 480;
 } // namespace
 
-MasterPanel::MasterPanel(MasterForm::Strength strength, QWidget *parent)
+MasterPanel::MasterPanel(NewPasswordForm::Strength strength, QWidget *parent)
     : TaskPanel(u"masterPanel"_s, u"Change Master Password"_s, parent)
     , m_oldPart(new QWidget(this))
     , m_old(named(new QLineEdit(m_oldPart), u"oldMaster"_s))
-    , m_form(new MasterForm(std::move(strength), this))
+    , m_form(
+          new NewPasswordForm(u"newMaster"_s, KeeperWindowLines::newMasterWords(), std::move(strength), this))
     , m_refusal(named(makeQuietLabel({}, this), u"masterRefusal"_s))
     , m_change(nullptr)
 {
@@ -43,8 +44,8 @@ MasterPanel::MasterPanel(MasterForm::Strength strength, QWidget *parent)
     m_change = addButton(u"changeMaster"_s, u"&Change"_s, ButtonKind::Main);
     setLeaveButton(u"masterClose"_s, u"C&lose"_s);
     connect(m_change, &QPushButton::clicked, this, &MasterPanel::choose);
-    connect(m_form, &MasterForm::entered, this, &MasterPanel::choose);
-    connect(m_form, &MasterForm::edited, m_refusal, &QLabel::clear);
+    connect(m_form, &NewPasswordForm::entered, this, &MasterPanel::choose);
+    connect(m_form, &NewPasswordForm::edited, m_refusal, &QLabel::clear);
     connect(m_old, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "keeper/window/masterform.h"
+#include "shell/controls/newpasswordform.h"
 #include "shell/controls/taskpanel.h"
 
 class QLineEdit;
@@ -11,7 +11,7 @@ class MasterPanel final : public TaskPanel
 {
     Q_OBJECT
 public:
-    explicit MasterPanel(MasterForm::Strength strength, QWidget *parent = nullptr);
+    explicit MasterPanel(NewPasswordForm::Strength strength, QWidget *parent = nullptr);
 
     /// Whoever came in by the recovery code does not know the old one.
     void start(bool isForgotten);
@@ -30,7 +30,7 @@ private:
 
     QWidget *m_oldPart;
     QLineEdit *m_old;
-    MasterForm *m_form;
+    NewPasswordForm *m_form;
     QLabel *m_refusal;
     QPushButton *m_change;
     bool m_isForgotten = false;

@@ -17,9 +17,10 @@ namespace {
 constexpr int formWidth = 480;
 } // namespace
 
-SetUpView::SetUpView(MasterForm::Strength strength, QWidget *parent)
+SetUpView::SetUpView(NewPasswordForm::Strength strength, QWidget *parent)
     : QWidget(parent)
-    , m_form(new MasterForm(std::move(strength), this))
+    , m_form(
+          new NewPasswordForm(u"newMaster"_s, KeeperWindowLines::newMasterWords(), std::move(strength), this))
     , m_making(named(new QProgressBar(this), u"setUpMaking"_s))
     , m_make(makeButton(u"makeKeeper"_s, u"&Begin"_s, this, ButtonKind::Main))
 {
@@ -60,7 +61,7 @@ SetUpView::SetUpView(MasterForm::Strength strength, QWidget *parent)
     all->addLayout(middle);
     all->addStretch(3);
     connect(m_make, &QPushButton::clicked, this, &SetUpView::choose);
-    connect(m_form, &MasterForm::entered, this, &SetUpView::choose);
+    connect(m_form, &NewPasswordForm::entered, this, &SetUpView::choose);
 }
 
 void SetUpView::start()

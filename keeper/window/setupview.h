@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "keeper/window/masterform.h"
+#include "shell/controls/newpasswordform.h"
 
 class QProgressBar;
 class QPushButton;
@@ -12,7 +12,7 @@ class SetUpView final : public QWidget
 {
     Q_OBJECT
 public:
-    explicit SetUpView(MasterForm::Strength strength, QWidget *parent = nullptr);
+    explicit SetUpView(NewPasswordForm::Strength strength, QWidget *parent = nullptr);
 
     void start();
     void setMaking(bool isMaking);
@@ -24,7 +24,7 @@ signals:
 private:
     void choose();
 
-    MasterForm *m_form;
+    NewPasswordForm *m_form;
     QProgressBar *m_making;
     QPushButton *m_make;
 };

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/window/severalview.h"
 
-#include "keeper/window/tagbox.h"
 #include "keeper/window/windowlines.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/tagbox.h"
 #include "shell/controls/titleline.h"
 
 #include <QHBoxLayout>

@@ -3,6 +3,7 @@
 
 #include "keeper/window/windowlines.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/core/passwordlines.h"
 #include "storage/sealing/recoverycode.h"
 
 #include <QCheckBox>
@@ -42,7 +43,7 @@ SheetPanel::SheetPanel(QWidget *parent)
     rows->addLayout(labelled(u"Whom to call"_s, m_call));
     m_code->setParent(content);
     new PasteFilter(m_code, Characters::All);
-    rows->addLayout(labelled(KeeperWindowLines::codeCaption(), m_code, KeeperWindowLines::sheetCodeHint()));
+    rows->addLayout(labelled(PasswordLines::recoveryCode(), m_code, KeeperWindowLines::sheetCodeHint()));
     rows->addStretch(1);
     setContent(content);
     setFocusProxy(m_where);
@@ -77,7 +78,7 @@ void SheetPanel::forget()
 void SheetPanel::accept()
 {
     if (!m_code->text().trimmed().isEmpty() && !RecoveryCode::read(m_code->text())) {
-        emit said(KeeperWindowLines::codeSlip());
+        emit said(PasswordLines::recoveryCodeSlip());
         m_code->setFocus();
         return;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/controls/newpasswordform.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -72,29 +74,9 @@ inline QString lockedWords()
     return u"Type the master password to open it."_s;
 }
 
-inline QString codeWords()
-{
-    return u"Type the recovery code from your paper. Blanks, dashes and small letters do not matter."_s;
-}
-
 inline QString masterCaption()
 {
     return u"Master password"_s;
-}
-
-inline QString masterAgainCaption()
-{
-    return u"The same once more"_s;
-}
-
-inline QString codeCaption()
-{
-    return u"Recovery code"_s;
-}
-
-inline QString useCode()
-{
-    return u"Use the recovery code"_s;
 }
 
 inline QString useMaster()
@@ -105,16 +87,6 @@ inline QString useMaster()
 inline QString masterMissing()
 {
     return u"Type the master password first."_s;
-}
-
-inline QString codeMissing()
-{
-    return u"Type the recovery code first."_s;
-}
-
-inline QString codeSlip()
-{
-    return u"That is not a whole recovery code: a character is missing, too many or mistyped."_s;
 }
 
 inline QString trying()
@@ -132,14 +104,9 @@ inline QString newMasterMissing()
     return u"Type a master password first"_s;
 }
 
-inline QString mastersDiffer()
+inline NewPasswordForm::Words newMasterWords()
 {
-    return u"The two passwords differ"_s;
-}
-
-inline QString masterHint()
-{
-    return u"Any length is taken; longer is better. Four or five words that have nothing to do with each other are easy to remember and hard to guess."_s;
+    return {masterCaption(), newMasterMissing()};
 }
 
 inline QString setUpTitle()

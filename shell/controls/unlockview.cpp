@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "keeper/window/unlockview.h"
+#include "shell/controls/unlockview.h"
 
-#include "keeper/window/windowlines.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/linkbutton.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/core/passwordlines.h"
 #include "shell/look/theme.h"
 
 #include <QCheckBox>
 #include <QProgressBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,21 +20,22 @@ constexpr int signSize = 72;
 constexpr int formWidth = 420;
 } // namespace
 
-UnlockView::UnlockView(QWidget *parent)
+UnlockView::UnlockView(Words words, const Names &names, QWidget *parent)
     : QWidget(parent)
+    , m_said(std::move(words))
     , m_words(named(makeQuietLabel({}, this), u"unlockWords"_s))
     , m_caption(nullptr)
-    , m_box(named(new QLineEdit(this), u"masterPassword"_s))
-    , m_show(named(new QCheckBox(u"&Show password"_s, this), u"showMaster"_s))
+    , m_box(named(new QLineEdit(this), names.box))
+    , m_show(named(new QCheckBox(u"&Show password"_s, this), u"showPassword"_s))
     , m_refusal(named(makeQuietLabel({}, this), u"unlockRefusal"_s))
     , m_trying(named(new QProgressBar(this), u"unlockTrying"_s))
-    , m_open(makeButton(u"openKeeper"_s, u"&Open"_s, this, ButtonKind::Main))
-    , m_other(new LinkButton(u"useRecoveryCode"_s, KeeperWindowLines::useCode(), this))
+    , m_open(makeButton(names.button, u"&Open"_s, this, ButtonKind::Main))
+    , m_other(new LinkButton(u"useRecoveryCode"_s, PasswordLines::useRecoveryCode(), this))
 {
     setObjectName(u"unlockView"_s);
     setFocusProxy(m_box);
     new PasteFilter(m_box, Characters::All);
-    m_caption = makeFieldLabel(KeeperWindowLines::masterCaption(), m_box, this);
+    m_caption = makeFieldLabel(m_said.caption, m_box, this);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(24, 16, 24, 18);
     rows->addStretch(2);
@@ -55,10 +58,9 @@ QWidget *UnlockView::makeForm()
     rows->setContentsMargins({});
     rows->setSpacing(8);
     auto *sign = new QLabel(form);
-    sign->setPixmap(
-        Icons::pixmap("password-keeper"_L1, Theme::of(this).scheme, signSize, devicePixelRatioF()));
+    sign->setPixmap(Icons::pixmap(m_said.icon, Theme::of(this).scheme, signSize, devicePixelRatioF()));
     rows->addWidget(sign, 0, Qt::AlignHCenter);
-    auto *title = named(new QLabel(KeeperWindowLines::isLocked(), form), u"unlockTitle"_s);
+    auto *title = named(new QLabel(m_said.title, form), u"unlockTitle"_s);
     title->setFont(TypeScale::emptyTitle());
     rows->addWidget(title, 0, Qt::AlignHCenter);
     m_words->setWordWrap(true);
@@ -73,7 +75,7 @@ QWidget *UnlockView::makeForm()
     rows->addWidget(m_refusal);
     m_trying->setRange(0, 0);
     m_trying->setTextVisible(false);
-    m_trying->setAccessibleName(KeeperWindowLines::trying());
+    m_trying->setAccessibleName(m_said.trying);
     QSizePolicy policy = m_trying->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_trying->setSizePolicy(policy);
@@ -107,14 +109,14 @@ void UnlockView::turn(bool isForCode)
     m_isForCode = isForCode;
     m_box->clear();
     m_refusal->clear();
-    const QString caption = isForCode ? KeeperWindowLines::codeCaption() : KeeperWindowLines::masterCaption();
+    const QString caption = isForCode ? PasswordLines::recoveryCode() : m_said.caption;
     m_caption->setText(caption);
     m_box->setAccessibleName(caption);
     // The code stands on paper: it is copied sign by sign and must be seen.
     m_box->setEchoMode(isForCode || m_show->isChecked() ? QLineEdit::Normal : QLineEdit::Password);
     m_show->setVisible(!isForCode);
-    m_words->setText(isForCode ? KeeperWindowLines::codeWords() : KeeperWindowLines::lockedWords());
-    m_other->setText(isForCode ? KeeperWindowLines::useMaster() : KeeperWindowLines::useCode());
+    m_words->setText(isForCode ? PasswordLines::typeRecoveryCode() : m_said.sentence);
+    m_other->setText(isForCode ? m_said.usePassword : PasswordLines::useRecoveryCode());
     m_box->setFocus();
 }
 
@@ -123,7 +125,7 @@ void UnlockView::answer()
     if (!m_open->isEnabled())
         return;
     if (m_box->text().isEmpty()) {
-        refuse(m_isForCode ? KeeperWindowLines::codeMissing() : KeeperWindowLines::masterMissing());
+        refuse(m_isForCode ? PasswordLines::recoveryCodeMissing() : m_said.missing);
         return;
     }
     emit answered(m_box->text());
@@ -132,7 +134,7 @@ void UnlockView::answer()
 void UnlockView::setTrying(bool isTrying)
 {
     m_trying->setVisible(isTrying);
-    const QString why = isTrying ? KeeperWindowLines::trying() : QString();
+    const QString why = isTrying ? m_said.trying : QString();
     for (QWidget *part : std::initializer_list<QWidget *>{m_box, m_open, m_other})
         setUnavailable(part, why);
     if (isTrying)

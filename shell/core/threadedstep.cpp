@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "keeper/window/threadedstep.h"
+#include "shell/core/threadedstep.h"
 
 #include <QThread>
 

@@ -9,15 +9,22 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 
-/// Two boxes for a new master password, with what is to be said of it.
-class MasterForm final : public QWidget
+/// Two boxes for a new password, with what is to be said of it.
+class NewPasswordForm final : public QWidget
 {
     Q_OBJECT
 public:
     /// What is known of the strength of a typed password, in words.
     using Strength = std::function<QString(const QString &password)>;
 
-    MasterForm(Strength strength, QWidget *parent);
+    struct Words {
+        QString caption; ///< "Master password"
+        QString missing; ///< "Type a master password first"
+    };
+
+    /// `name` is that of the first box: "newMaster", and of the others newMasterAgain, newMasterShow,
+    /// newMasterStrength.
+    NewPasswordForm(const QString &name, Words words, Strength strength, QWidget *parent);
 
     void start();
     QString password() const;
@@ -33,6 +40,7 @@ signals:
 private:
     void follow();
 
+    Words m_said;
     Strength m_strength;
     QLineEdit *m_password;
     QLineEdit *m_again;

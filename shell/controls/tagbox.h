@@ -3,7 +3,7 @@
 
 #include <QLineEdit>
 
-/// A box for tags, separated by commas. Those that other entries have are offered while one is typed.
+/// A box for tags, separated by commas. Those that are known are offered while one is typed.
 class TagBox final : public QLineEdit
 {
     Q_OBJECT

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "keeper/window/masterform.h"
+#include "shell/controls/newpasswordform.h"
 
-#include "keeper/window/windowlines.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/core/passwordlines.h"
 
 #include <QCheckBox>
 #include <QVBoxLayout>
@@ -12,19 +12,20 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-MasterForm::MasterForm(Strength strength, QWidget *parent)
+NewPasswordForm::NewPasswordForm(const QString &name, Words words, Strength strength, QWidget *parent)
     : QWidget(parent)
+    , m_said(std::move(words))
     , m_strength(std::move(strength))
-    , m_password(named(new QLineEdit(this), u"newMaster"_s))
-    , m_again(named(new QLineEdit(this), u"newMasterAgain"_s))
-    , m_show(named(new QCheckBox(u"&Show password"_s, this), u"showNewMaster"_s))
-    , m_words(named(makeQuietLabel({}, this), u"masterStrength"_s))
+    , m_password(named(new QLineEdit(this), name))
+    , m_again(named(new QLineEdit(this), name + u"Again"_s))
+    , m_show(named(new QCheckBox(u"&Show password"_s, this), name + u"Show"_s))
+    , m_words(named(makeQuietLabel({}, this), name + u"Strength"_s))
 {
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins({});
     rows->setSpacing(8);
-    rows->addLayout(labelled(KeeperWindowLines::masterCaption(), m_password));
-    rows->addLayout(labelled(KeeperWindowLines::masterAgainCaption(), m_again));
+    rows->addLayout(labelled(m_said.caption, m_password));
+    rows->addLayout(labelled(PasswordLines::passwordAgain(), m_again));
     rows->addWidget(m_show);
     m_words->setWordWrap(true);
     m_words->setMinimumHeight(2 * m_words->fontMetrics().lineSpacing() + 2);
@@ -34,17 +35,17 @@ MasterForm::MasterForm(Strength strength, QWidget *parent)
     for (QLineEdit *box : {m_password, m_again}) {
         box->setEchoMode(QLineEdit::Password);
         new PasteFilter(box, Characters::All);
-        connect(box, &QLineEdit::textChanged, this, &MasterForm::follow);
+        connect(box, &QLineEdit::textChanged, this, &NewPasswordForm::follow);
     }
     connect(m_show, &QCheckBox::toggled, this, [this](bool isShown) {
         for (QLineEdit *box : {m_password, m_again})
             box->setEchoMode(isShown ? QLineEdit::Normal : QLineEdit::Password);
     });
-    connect(m_again, &QLineEdit::returnPressed, this, &MasterForm::entered);
+    connect(m_again, &QLineEdit::returnPressed, this, &NewPasswordForm::entered);
     follow();
 }
 
-void MasterForm::start()
+void NewPasswordForm::start()
 {
     m_password->clear();
     m_again->clear();
@@ -52,34 +53,34 @@ void MasterForm::start()
     m_password->setFocus();
 }
 
-QString MasterForm::password() const
+QString NewPasswordForm::password() const
 {
     return m_password->text();
 }
 
-QString MasterForm::refusal()
+QString NewPasswordForm::refusal()
 {
     if (m_password->text().isEmpty()) {
         m_password->setFocus();
-        return KeeperWindowLines::newMasterMissing();
+        return m_said.missing;
     }
     if (m_password->text() != m_again->text()) {
         m_again->setFocus();
         m_again->selectAll();
-        return KeeperWindowLines::mastersDiffer();
+        return PasswordLines::passwordsDiffer();
     }
     return {};
 }
 
-void MasterForm::setEditable(bool isEditable)
+void NewPasswordForm::setEditable(bool isEditable)
 {
     for (QWidget *part : std::initializer_list<QWidget *>{m_password, m_again, m_show})
         part->setEnabled(isEditable);
 }
 
-void MasterForm::follow()
+void NewPasswordForm::follow()
 {
-    m_words->setText(m_password->text().isEmpty() ? KeeperWindowLines::masterHint()
+    m_words->setText(m_password->text().isEmpty() ? PasswordLines::passwordHint()
                                                   : m_strength(m_password->text()));
     emit edited();
 }

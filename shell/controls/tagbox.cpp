@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "keeper/window/tagbox.h"
+#include "shell/controls/tagbox.h"
 
 #include "shell/controls/pastefilter.h"
 
