@@ -4,6 +4,7 @@
 #include "shell/controls/monthheading.h"
 #include "shell/look/theme.h"
 
+#include <QAccessible>
 #include <QBoxLayout>
 #include <QEvent>
 #include <QHeaderView>
@@ -73,6 +74,7 @@ void MonthView::setMarkedDays(const QSet<QDate> &days)
 {
     m_marked = days;
     updateCells();
+    tellDay();
 }
 
 void MonthView::setTodayMarked(bool marked)
@@ -86,6 +88,25 @@ void MonthView::setOwnDays(QDate from, QDate to)
     m_from = from;
     m_to = to;
     updateCells();
+}
+
+void MonthView::setDayWords(std::function<QString(QDate)> words)
+{
+    m_dayWords = std::move(words);
+    connect(this, &QCalendarWidget::selectionChanged, this, &MonthView::tellDay);
+    tellDay();
+}
+
+void MonthView::tellDay()
+{
+    if (!m_view || !m_dayWords)
+        return;
+    const QString words = m_dayWords(selectedDate());
+    if (words == m_view->accessibleName())
+        return;
+    m_view->setAccessibleName(words);
+    QAccessibleEvent told(m_view, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&told);
 }
 
 QSize MonthView::sizeHint() const

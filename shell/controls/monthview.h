@@ -4,6 +4,8 @@
 #include <QCalendarWidget>
 #include <QSet>
 
+#include <functional>
+
 class MonthHeading;
 class QTableView;
 
@@ -22,6 +24,8 @@ public:
     /// Of two months that show some of the same days, each marks its own: the chosen day and today are marked
     /// from `from` to `to` alone, without a bound where that is invalid.
     void setOwnDays(QDate from, QDate to);
+    /// What a screen reader says of the chosen day: "March 14, has an entry".
+    void setDayWords(std::function<QString(QDate)> words);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -50,6 +54,7 @@ private:
     void showMonth(int year, int month);
     void showPaletteColors();
     void fitDayNames();
+    void tellDay();
 
     MonthHeading *m_heading = nullptr;
     QTableView *m_view = nullptr;
@@ -57,5 +62,6 @@ private:
     QDate m_from;
     QDate m_to;
     QSet<QDate> m_marked;
+    std::function<QString(QDate)> m_dayWords;
     bool m_todayMarked = true;
 };
