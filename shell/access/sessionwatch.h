@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QVariantMap>
 
 #include <memory>
 
@@ -24,6 +25,7 @@ signals:
 private slots:
     void sleepChanged(bool isBeginning);
     void lockChanged(bool isLocked);
+    void hintChanged(const QString &what, const QVariantMap &values);
 
 private:
     class System;

@@ -33,13 +33,16 @@ class SessionWatch::System
 {
 public:
     template <typename Value>
-    void call(const QDBusMessage &message, QObject *receiver, std::function<void(Value)> take) const
+    void call(const QDBusMessage &message, QObject *receiver, std::function<void(Value)> take,
+              std::function<void()> otherwise = {}) const
     {
         auto *watcher = new QDBusPendingCallWatcher(system.asyncCall(message), receiver);
-        QObject::connect(watcher, &QDBusPendingCallWatcher::finished, receiver, [watcher, take] {
+        QObject::connect(watcher, &QDBusPendingCallWatcher::finished, receiver, [watcher, take, otherwise] {
             const QDBusPendingReply<Value> reply = *watcher;
             if (!reply.isError())
                 take(reply.value());
+            else if (otherwise)
+                otherwise();
             watcher->deleteLater();
         });
     }
@@ -50,6 +53,30 @@ public:
         inhibit << u"sleep"_s << u"Quillery"_s << u"Covers what the password guards"_s << u"delay"_s;
         call<QDBusUnixFileDescriptor>(inhibit, receiver,
                                       [this](const QDBusUnixFileDescriptor &given) { delay = given; });
+    }
+
+    /// Hears of the user's own session. Desktops start programs outside of it; these know its name. Where
+    /// nothing helps, any session on this computer will do: it covers once too often.
+    void watchSession(QObject *receiver)
+    {
+        const auto watch = [this, receiver](const QDBusObjectPath &path) { hear(path.path(), receiver); };
+        const auto watchAny = [this, receiver] { hear({}, receiver); };
+        QDBusMessage named = managerCall(u"GetSession"_s);
+        named << qEnvironmentVariable("XDG_SESSION_ID");
+        const auto watchNamed = [this, receiver, named, watch, watchAny] {
+            call<QDBusObjectPath>(named, receiver, watch, watchAny);
+        };
+        QDBusMessage own = managerCall(u"GetSessionByPID"_s);
+        own << quint32(QCoreApplication::applicationPid());
+        call<QDBusObjectPath>(own, receiver, watch, watchNamed);
+    }
+
+    void hear(const QString &path, QObject *receiver)
+    {
+        system.connect(login(), path, u"org.freedesktop.login1.Session"_s, u"Lock"_s, receiver,
+                       SIGNAL(left()));
+        system.connect(login(), path, u"org.freedesktop.DBus.Properties"_s, u"PropertiesChanged"_s, receiver,
+                       SLOT(hintChanged(QString, QVariantMap)));
     }
 
     QDBusConnection system = QDBusConnection::systemBus();
@@ -71,16 +98,12 @@ void SessionWatch::start()
         system.connect(login(), u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s,
                        u"PrepareForSleep"_s, this, SLOT(sleepChanged(bool)));
         m_system->delaySleep(this);
-        QDBusMessage ownSession = managerCall(u"GetSessionByPID"_s);
-        ownSession << quint32(QCoreApplication::applicationPid());
-        m_system->call<QDBusObjectPath>(ownSession, this, [this](const QDBusObjectPath &path) {
-            m_system->system.connect(login(), path.path(), u"org.freedesktop.login1.Session"_s, u"Lock"_s,
-                                     this, SIGNAL(left()));
-        });
+        m_system->watchSession(this);
     }
     // Each desktop has its own, and none minds who listens.
-    for (const QString &saver : {u"org.freedesktop.ScreenSaver"_s, u"org.gnome.ScreenSaver"_s,
-                                 u"org.cinnamon.ScreenSaver"_s, u"org.mate.ScreenSaver"_s})
+    for (const QString &saver :
+         {u"org.freedesktop.ScreenSaver"_s, u"org.gnome.ScreenSaver"_s, u"org.cinnamon.ScreenSaver"_s,
+          u"org.mate.ScreenSaver"_s, u"org.xfce.ScreenSaver"_s})
         m_system->session.connect({}, {}, saver, u"ActiveChanged"_s, this, SLOT(lockChanged(bool)));
 }
 
@@ -92,6 +115,12 @@ void SessionWatch::sleepChanged(bool isBeginning)
     }
     emit left();
     m_system->delay = {}; // now it may
+}
+
+/// Of a session that is locked without having been asked to by the system.
+void SessionWatch::hintChanged(const QString & /*what*/, const QVariantMap &values)
+{
+    lockChanged(values.value(u"LockedHint"_s).toBool());
 }
 
 void SessionWatch::lockChanged(bool isLocked)

@@ -9,6 +9,16 @@
 
 #include <wtsapi32.h>
 
+namespace {
+
+/// Locked, or left for another user's session; or the desk is seen from another computer no more.
+bool isLeft(WPARAM what)
+{
+    return what == WTS_SESSION_LOCK || what == WTS_CONSOLE_DISCONNECT || what == WTS_REMOTE_DISCONNECT;
+}
+
+} // namespace
+
 /// A window that is never seen: the system's messages need one to come to.
 class SessionWatch::System final : public QAbstractNativeEventFilter
 {
@@ -18,11 +28,15 @@ public:
     {
         m_window.create();
         WTSRegisterSessionNotification(handle(), NOTIFY_FOR_THIS_SESSION);
+        // Computers that sleep lightly tell only whoever has asked for it.
+        m_sleep = RegisterSuspendResumeNotification(handle(), DEVICE_NOTIFY_WINDOW_HANDLE);
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
     ~System() override
     {
         QCoreApplication::instance()->removeNativeEventFilter(this);
+        if (m_sleep)
+            UnregisterSuspendResumeNotification(m_sleep);
         WTSUnRegisterSessionNotification(handle());
     }
     System(const System &) = delete;
@@ -32,7 +46,7 @@ public:
     {
         const MSG &told = *static_cast<MSG *>(message);
         if (told.message == WM_WTSSESSION_CHANGE)
-            m_watch.lockChanged(told.wParam == WTS_SESSION_LOCK);
+            m_watch.lockChanged(isLeft(told.wParam));
         else if (told.message == WM_POWERBROADCAST)
             m_watch.sleepChanged(told.wParam == PBT_APMSUSPEND);
         return false;
@@ -43,6 +57,7 @@ private:
 
     SessionWatch &m_watch;
     QWindow m_window;
+    HPOWERNOTIFY m_sleep = nullptr;
 };
 
 SessionWatch::SessionWatch(QObject *parent)
@@ -61,6 +76,9 @@ void SessionWatch::sleepChanged(bool isBeginning)
     if (isBeginning)
         emit left();
 }
+
+/// Other systems' word for a locked session.
+void SessionWatch::hintChanged(const QString & /*what*/, const QVariantMap & /*values*/) {}
 
 void SessionWatch::lockChanged(bool isLocked)
 {
