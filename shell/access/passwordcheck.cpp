@@ -169,7 +169,7 @@ bool PasswordCheck::setRecoveryCode(const QString &code)
         return false;
     ChangeSet change = startChange();
     writeText(change, recoveryRecord, *recovery, content.recovery);
-    return commit(change);
+    return commitCode(change);
 }
 
 bool PasswordCheck::setPassword(const QString &password, const QString &recoveryCode)
@@ -193,7 +193,7 @@ bool PasswordCheck::setPassword(const QString &password, const QString &recovery
     }
     writeText(change, verifierRecord, *verifier, content.verifier);
     writeText(change, recoveryRecord, *recovery, content.recovery);
-    return commit(change);
+    return recoveryCode.isEmpty() ? commit(change) : commitCode(change);
 }
 
 bool PasswordCheck::removePassword()
@@ -209,7 +209,7 @@ bool PasswordCheck::removePassword()
     writeText(change, recoveryRecord, {}, content.recovery);
     if (m_memory)
         m_memory->wrong.reset();
-    return commit(change);
+    return commitCode(change);
 }
 
 bool PasswordCheck::saveAreas(const ProtectedAreas &areas)
@@ -341,6 +341,15 @@ bool PasswordCheck::commit(ChangeSet &change) const
 {
     const bool isDone = change.commit();
     std::ignore = read(); // remembers what holds now
+    return isDone;
+}
+
+/// A code that was still to be shown is none any more.
+bool PasswordCheck::commitCode(ChangeSet &change) const
+{
+    const bool isDone = commit(change);
+    if (isDone && m_memory)
+        SecretBytes::wipe(m_memory->newCode);
     return isDone;
 }
 

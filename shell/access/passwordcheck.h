@@ -87,6 +87,7 @@ private:
     RecordFile records() const;
     ChangeSet startChange() const;
     [[nodiscard]] bool commit(ChangeSet &change) const;
+    [[nodiscard]] bool commitCode(ChangeSet &change) const;
     void writeFlag(ChangeSet &change, int area, const QString &flag) const;
     void writeText(ChangeSet &change, int record, const QByteArray &text, const QByteArray &old) const;
     void keepWrongAnswers(const WrongAnswers &wrong);

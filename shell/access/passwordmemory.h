@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QDeadlineTimer>
+#include <QString>
 
 #include <optional>
 
@@ -21,4 +22,6 @@ struct PasswordMemory {
     /// As this run knows them, also where the disk takes nothing; nothing while no answer was given.
     std::optional<WrongAnswers> wrong;
     AttemptMemory attempts;
+    /// A new recovery code that nobody has said yet to have kept: the next right answer shows it again.
+    QString newCode;
 };

@@ -148,7 +148,17 @@ void Form32::accept()
     // Those before the recovery code are told with the first password after it.
     if (const WrongAnswers before = m_file.takeWrongAnswers(); before.count > 0)
         m_program.gate.noteRightAnswer(before);
-    QDialog::accept();
+    if (m_program.gate.memory().newCode.isEmpty() || showNewCode())
+        QDialog::accept();
+}
+
+/// That of an earlier prompt, which was closed before anybody could have kept it. False when this prompt was
+/// closed meanwhile, too: it opens nothing then.
+bool Form32::showNewCode()
+{
+    RecoveryBox box(m_program, m_step, this);
+    m_program.dialogs.run(box);
+    return isVisible();
 }
 
 void Form32::offerRecovery()
@@ -161,6 +171,7 @@ void Form32::recover()
 {
     if (m_attempts.isWaiting())
         return;
+    m_password->clear();
     RecoveryBox box(m_program, m_step, this);
     if (m_program.dialogs.run(box) == Accepted)
         reject();

@@ -32,6 +32,7 @@ public:
 private:
     void offerRecovery();
     void recover();
+    bool showNewCode();
     void buildForm(const QString &functionName);
     QLayout *makeQuestion(const QString &functionName);
     QLayout *makeFoot();

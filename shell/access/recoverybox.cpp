@@ -15,6 +15,7 @@
 #include "shell/preview/printjob.h"
 #include "shell/program/program.h"
 #include "storage/sealing/recoverycode.h"
+#include "storage/sealing/secretbytes.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -79,6 +80,10 @@ RecoveryBox::RecoveryBox(Program &program, std::chrono::milliseconds step, QWidg
     connect(&m_attempts, &Attempts::waiting, this, &RecoveryBox::showWait);
     connect(&m_attempts, &Attempts::waited, this, &RecoveryBox::endWait);
     connect(&m_attempts, &Attempts::spent, this, &RecoveryBox::reject);
+    if (!program.gate.memory().newCode.isEmpty()) {
+        showCode();
+        return;
+    }
     m_attempts.resume(m_file.wrongAnswers(), program.clock.now());
     m_code->setFocus();
 }
@@ -143,6 +148,7 @@ void RecoveryBox::accept()
         break;
     case ShowCode:
         m_note->clear();
+        SecretBytes::wipe(m_program.gate.memory().newCode);
         QDialog::accept();
         break;
     }
@@ -202,11 +208,17 @@ void RecoveryBox::takePassword()
     }
     m_new->clear();
     m_repeat->clear();
+    m_program.gate.memory().newCode = code;
+    showCode();
+}
+
+void RecoveryBox::showCode()
+{
     m_refusal->hide();
     m_next->hide();
     m_cancel->hide();
     m_steps->setCurrentIndex(ShowCode);
-    m_note->show(code);
+    m_note->show(m_program.gate.memory().newCode);
 }
 
 void RecoveryBox::refuse(QLineEdit *box, const QString &reason)

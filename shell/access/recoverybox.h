@@ -16,7 +16,8 @@ class RecoveryNote;
 struct Program;
 
 /// The way back in for whoever has forgotten the password: takes the recovery code, then a new password, and
-/// shows the new code that comes with it. Accepted when all of that is done; it opens nothing.
+/// shows the new code that comes with it. Accepted when all of that is done; it opens nothing. A code that
+/// was made before and not yet said to be kept is shown at once.
 class RecoveryBox final : public QDialog
 {
     Q_OBJECT
@@ -26,7 +27,7 @@ public:
 
     /// What the main button of the step does.
     void accept() override;
-    /// A new password that was set stays set.
+    /// A new password that was set stays set, and its code is shown again behind the next right answer.
     void reject() override;
 
 private:
@@ -38,6 +39,7 @@ private:
     void layOut();
     void takeCode();
     void takePassword();
+    void showCode();
     void showWait(int seconds);
     void endWait();
     void refuse(QLineEdit *box, const QString &reason);

@@ -255,6 +255,64 @@ private slots:
         QVERIFY(file.matches(u"Sesame"_s));
     }
 
+    void aNewCodeIsShownUntilItIsKept()
+    {
+        const QString code = RecoveryCode::generate();
+        QVERIFY(PasswordCheck(m_program->folder, PasswordCost::minimum()).setPassword(u"Sesame"_s, code));
+        QString made;
+        {
+            RecoveryBox box(m_program->program, 1ms, nullptr);
+            showActive(box);
+            giveNewPassword(box, code);
+            made = control<QLabel>(box, "recoveryCodeShown")->text();
+            box.reject(); // locked before anybody could have read it
+            QVERIFY(box.result() == QDialog::Accepted && !made.isEmpty());
+        }
+        const auto answer = [this](const std::function<int(QDialog &)> &drive) {
+            Form32 prompt(m_program->program, nullptr, 1ms);
+            showActive(prompt);
+            m_program->dialogs.willRun([&](QDialog &box) {
+                const int result = drive(box);
+                if (result == QDialog::Rejected)
+                    prompt.reject();
+                return result;
+            });
+            type(prompt, u"Roses"_s);
+            return prompt.result();
+        };
+        const auto isShown = [&made](const QDialog &box) {
+            QVERIFY(!control<QPushButton>(box, "recoveryNext")->isVisible());
+            QCOMPARE(control<QLabel>(box, "recoveryCodeShown")->text(), made);
+        };
+        // Locked once more, together with the prompt: nothing opens.
+        QCOMPARE(answer([&](QDialog &box) {
+                     isShown(box);
+                     box.reject();
+                     return int(QDialog::Rejected);
+                 }),
+                 int(QDialog::Rejected));
+        QCOMPARE(answer([&](QDialog &box) {
+                     isShown(box);
+                     control<QPushButton>(box, "codeDone")->click();
+                     return box.result();
+                 }),
+                 int(QDialog::Accepted));
+        Form32 next(m_program->program, nullptr, 1ms);
+        showActive(next);
+        type(next, u"Roses"_s);
+        QCOMPARE(next.result(), int(QDialog::Accepted));
+        QVERIFY(m_program->dialogs.isDone());
+    }
+
+    void aNewerCodeIsTheOneThatCounts()
+    {
+        PasswordMemory &memory = m_program->gate.memory();
+        PasswordCheck file(m_program->folder, PasswordCost::minimum(), &memory);
+        memory.newCode = RecoveryCode::generate();
+        QVERIFY(file.setPassword(u"Sesame"_s) && !memory.newCode.isEmpty());
+        QVERIFY(file.setRecoveryCode(RecoveryCode::generate()) && memory.newCode.isEmpty());
+    }
+
     void guardsOnWhereTheFileVanishes()
     {
         m_program->state.protectedAreas.setFlag(Area::Planner, u"YES"_s);
@@ -317,8 +375,8 @@ private slots:
     }
 
 private:
-    /// Types the code and "Roses" as the new password, and prints the new code into a PDF.
-    int recover(QDialog &box, const QString &code)
+    /// Types the code and "Roses" as the new password.
+    static void giveNewPassword(const QDialog &box, const QString &code)
     {
         const auto fill = [&box](const char *name, const QString &text) {
             control<QLineEdit>(box, name)->setText(text);
@@ -328,9 +386,15 @@ private:
         next->click();
         fill("newPassword", u"Roses"_s);
         next->click();
-        [&] { QCOMPARE(control<QLabel>(box, "refusal")->text(), PasswordMessages::passwordsDiffer()); }();
+        QCOMPARE(control<QLabel>(box, "refusal")->text(), PasswordMessages::passwordsDiffer());
         fill("newPasswordAgain", u"Roses"_s);
         next->click();
+    }
+
+    /// The same, and prints the new code into a PDF.
+    int recover(QDialog &box, const QString &code)
+    {
+        giveNewPassword(box, code);
         const QString shown = control<QLabel>(box, "recoveryCodeShown")->text().remove(u'\n');
         const QString pdf = m_program->temporary.filePath(u"code.pdf"_s);
         m_program->dialogs.willChooseFile(pdf);
