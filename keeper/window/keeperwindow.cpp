@@ -23,6 +23,7 @@
 #include "shell/frame/undostack.h"
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
+#include "shell/program/locking.h"
 #include "shell/writing/writing.h"
 
 #include <QDialog>
@@ -75,6 +76,7 @@ Form4::Form4(Program &program, QWidget *parent, PasswordCost cost, std::chrono::
     setViews(m_stack);
     connectParts();
     finishFrame();
+    Locking::offerAlso(program, activity(), [this] { return isOpen(); });
     m_pane->hide();
     m_door->show();
 }
@@ -211,7 +213,6 @@ void Form4::connectParts()
     connect(&m_keeper, &Keeper::changed, m_work, &EntryWork::followKeeper);
     connect(&m_idle, &IdleLimit::reached, this, &Form4::lock);
     connect(&program().changes, &ProgramSignals::lockRequested, this, &Form4::lock);
-    connect(&program().changes, &ProgramSignals::guardsChanged, this, &Form4::offerLock);
     connect(&m_pane->list(), &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
         findChild<QMenu *>(u"mE"_s)->popup(m_pane->list().viewport()->mapToGlobal(place));
     });
@@ -241,7 +242,7 @@ void Form4::followSettings()
 /// No box that stands open holds it up, and nothing of an entry is left in words, pages or the clipboard.
 void Form4::lock()
 {
-    if (m_keeper.state() != Keeper::State::Open)
+    if (!isOpen())
         return;
     m_idle.stop();
     for (QDialog *dialog : findChildren<QDialog *>())
@@ -263,16 +264,9 @@ void Form4::lock()
     commands().refresh();
 }
 
-/// "Lock Now" in the status bar, while there is something to lock.
-void Form4::offerLock()
-{
-    const bool isOpen = m_keeper.state() == Keeper::State::Open;
-    activity().offerLock(isOpen || program().state.protectedAreas.isAnyProtected());
-}
-
 QString Form4::whyLocked() const
 {
-    return m_keeper.state() == Keeper::State::Open ? QString() : KeeperWindowLines::isLocked();
+    return isOpen() ? QString() : KeeperWindowLines::isLocked();
 }
 
 bool Form4::isModified() const

@@ -54,7 +54,7 @@ private:
     void connectParts();
     void opened(const QString &line);
     void followSettings();
-    void offerLock();
+    bool isOpen() const { return m_keeper.state() == Keeper::State::Open; }
     void copyList();
     QString whyLocked() const;
 

@@ -15,6 +15,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/look/theme.h"
+#include "shell/program/locking.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -34,7 +35,6 @@ constexpr int passwordPanelWidth = 352;
 constexpr int padding = 24;
 constexpr int scrollBarWidth = 16; // it lies in the padding
 constexpr int otherRows = 4;
-constexpr int levelIndent = 28;
 
 /// The functions of this edition in the order of the list.
 constexpr std::array ownAreas{Area::AddressBook,   Area::AddressBookButton,
@@ -85,6 +85,8 @@ Form31::Form31(Program &program, PasswordCost cost, std::chrono::milliseconds st
     setWork(work);
     connectPane();
     finishFrame();
+    Locking::offerAlso(program, activity(),
+                       [this] { return m_file.state() != PasswordCheck::State::NotSet; });
     refresh();
     (m_marks[Area::AddressBook]->isEnabled() ? m_marks[Area::AddressBook] : m_pane->firstControl())
         ->setFocus();
@@ -154,14 +156,7 @@ QWidget *Form31::makeMarks()
     rows->addSpacing(12);
     rows->addWidget(makeHeading(u"This program"_s, marks));
     rows->addSpacing(4);
-    for (const int area : ownAreas) {
-        rows->addWidget(makeMark(area, marks));
-        QLabel *level = named(makeQuietLabel({}, marks), u"level_%1"_s.arg(area));
-        level->setIndent(levelIndent);
-        m_levels[std::size_t(area)] = level;
-        rows->addWidget(level);
-        rows->addSpacing(4);
-    }
+    rows->addLayout(makeOwnMarks(marks));
     rows->addSpacing(12);
     m_showOthers = named(new QCheckBox(FrameLines::showOtherEditions(), marks), u"showOthers"_s);
     rows->addWidget(m_showOthers);
@@ -170,6 +165,24 @@ QWidget *Form31::makeMarks()
     connect(m_showOthers, &QCheckBox::toggled, others, &QWidget::setVisible);
     rows->addStretch();
     return marks;
+}
+
+/// Each mark with what it does at its right.
+QLayout *Form31::makeOwnMarks(QWidget *parent)
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(20);
+    grid->setVerticalSpacing(4);
+    grid->setColumnStretch(1, 1);
+    for (const int area : ownAreas) {
+        const int row = grid->rowCount();
+        QLabel *level = named(makeQuietLabel({}, parent), u"level_%1"_s.arg(area));
+        level->setWordWrap(true);
+        m_levels[std::size_t(area)] = level;
+        grid->addWidget(makeMark(area, parent), row, 0);
+        grid->addWidget(level, row, 1);
+    }
+    return grid;
 }
 
 /// The marks of functions that this edition does not have, which are kept and cannot be changed.
@@ -231,6 +244,7 @@ QWidget *Form31::makeFoot()
 void Form31::connectPane()
 {
     connect(m_pane, &PasswordPane::passwordSet, this, [this] {
+        loadMarks();
         refresh();
         m_marks[Area::AddressBook]->setFocus();
         activity().say(PasswordMessages::passwordSet());

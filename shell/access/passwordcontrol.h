@@ -11,6 +11,7 @@ class IdleChoice;
 class PasswordPane;
 class QCheckBox;
 class QLabel;
+class QLayout;
 class QPushButton;
 
 /// Password control: sets the password and marks what it guards. The password is in force as soon as it is
@@ -36,6 +37,7 @@ private:
     QWidget *makeAreasPanel();
     QWidget *makeMarks();
     QWidget *makeFoot();
+    QLayout *makeOwnMarks(QWidget *parent);
     QWidget *makeOtherMarks(QWidget *parent);
     QCheckBox *makeMark(int area, QWidget *parent);
     void connectPane();

@@ -5,11 +5,22 @@
 #include "shell/program/covering.h"
 #include "shell/program/program.h"
 
+#include <utility>
+
 void Locking::offer(Program &program, ActivityBar &bar)
 {
     const auto show = [&program, &bar] { bar.offerLock(program.state.protectedAreas.isAnyProtected()); };
     QObject::connect(&program.changes, &ProgramSignals::guardsChanged, &bar, show);
     QObject::connect(&bar, &ActivityBar::lockRequested, &program.changes, &ProgramSignals::lockRequested);
+    show();
+}
+
+void Locking::offerAlso(Program &program, ActivityBar &bar, std::function<bool()> isLockable)
+{
+    const auto show = [&program, &bar, isLockable = std::move(isLockable)] {
+        bar.offerLock(program.state.protectedAreas.isAnyProtected() || isLockable());
+    };
+    QObject::connect(&program.changes, &ProgramSignals::guardsChanged, &bar, show);
     show();
 }
 
