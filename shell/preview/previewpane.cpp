@@ -216,7 +216,7 @@ void PreviewPane::rebuild()
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     {
         const BusyCursor busy;
-        auto painter = std::make_unique<PagePainter>(paginated(m_setup));
+        auto painter = std::make_shared<PagePainter>(paginated(m_setup));
         m_view->setSheet(nullptr, 0);
         m_painter = std::move(painter);
     }
@@ -235,7 +235,10 @@ bool PreviewPane::print()
         return false;
     PrintJob job(m_program, m_activity, window(), m_jobName);
     job.setMayWriteFile(m_discretion.mayWriteFile);
-    const bool isPrinted = job.run(*m_painter, m_setup, currentSheet(),
+    // A window that locks itself meanwhile takes the page away.
+    const std::shared_ptr<PagePainter> painter = m_painter;
+    job.setMayGoOn([this, painter] { return m_painter == painter; });
+    const bool isPrinted = job.run(*painter, m_setup, currentSheet(),
                                    [this](const PageSetup &setup) { return paginated(setup); });
     if (isPrinted && m_discretion.printed)
         m_discretion.printed();

@@ -102,7 +102,7 @@ private:
     Lie m_lie = Lie::AsTurned;
     PageSetup::Orientation m_turned = PageSetup::Portrait; ///< of the pages that lie as they are turned
     PageFont m_font;
-    std::unique_ptr<PagePainter> m_painter;
+    std::shared_ptr<PagePainter> m_painter;
     bool m_isBuilding = false;
     Discretion m_discretion;
 

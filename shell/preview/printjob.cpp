@@ -164,7 +164,7 @@ bool PrintJob::toPrinter(const PagePainter &painter, const PageSetup &setup, int
     printer.setDocName(m_name);
     printer.setCreator(Page::productLine());
     printer.setPageLayout(PagePainter::deviceLayout(setup));
-    if (!m_program.dialogs.choosePrinter(m_parent, printer))
+    if (!m_program.dialogs.choosePrinter(m_parent, printer) || !mayGoOn())
         return false;
     const bool isToFile =
         printer.outputFormat() == QPrinter::PdfFormat || !printer.outputFileName().isEmpty();
@@ -200,7 +200,7 @@ bool PrintJob::toFile(const PagePainter &painter)
     const QString preset = documents.filePath(fileNameFor(m_name) + u".pdf"_s);
     const auto path = m_program.dialogs.chooseFileToSave(m_parent, PreviewMessages::printToFileTitle(),
                                                          preset, u"PDF (*.pdf)"_s);
-    if (!path || path->isEmpty())
+    if (!path || path->isEmpty() || !mayGoOn())
         return false;
     const QString name = withSuffix(*path);
     const QString shownName = QDir::toNativeSeparators(name);
@@ -222,6 +222,13 @@ bool PrintJob::toFile(const PagePainter &painter)
     return true;
 }
 
+/// Nothing of a window that is covered goes on to the printer; a box of the system's own can still be
+/// answered then.
+bool PrintJob::mayGoOn() const
+{
+    return !Covering::isCovered(*m_parent) && (!m_mayGoOn || m_mayGoOn());
+}
+
 PrintJob::Outcome PrintJob::printSheets(const PagePainter &painter, QPagedPaintDevice &device,
                                         const std::vector<int> &sheets)
 {
@@ -230,8 +237,7 @@ PrintJob::Outcome PrintJob::printSheets(const PagePainter &painter, QPagedPaintD
         return painter.print(device, sheets) ? Outcome::Done : Outcome::Failed;
     }
     const OnlyStop guard(m_activity);
-    // Nothing of a window that is covered goes on to the printer.
-    const auto isStopped = [&] { return guard.isStopped() || Covering::isCovered(*m_parent); };
+    const auto isStopped = [&] { return guard.isStopped() || !mayGoOn(); };
     int done = 0;
     const bool isPrinted = painter.print(device, sheets, [&](int) {
         m_activity.showProgress(++done, int(sheets.size()), true);

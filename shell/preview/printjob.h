@@ -27,6 +27,9 @@ public:
     /// Asked before the page becomes a file that anybody can read; without it, it always may.
     void setMayWriteFile(std::function<bool()> mayWriteFile) { m_mayWriteFile = std::move(mayWriteFile); }
 
+    /// Asked after each box and each sheet: false ends the job, as covering its window does.
+    void setMayGoOn(std::function<bool()> mayGoOn) { m_mayGoOn = std::move(mayGoOn); }
+
     /// `currentSheet` is what "current page" means in the dialog. False when cancelled, stopped or failed.
     bool run(const PagePainter &painter, const PageSetup &setup, int currentSheet, const Relayout &relayout);
 
@@ -36,6 +39,7 @@ private:
     bool toPrinter(const PagePainter &painter, const PageSetup &setup, int currentSheet,
                    const Relayout &relayout);
     bool toFile(const PagePainter &painter);
+    bool mayGoOn() const;
     Outcome printSheets(const PagePainter &painter, QPagedPaintDevice &device,
                         const std::vector<int> &sheets);
 
@@ -44,4 +48,5 @@ private:
     QWidget *m_parent;
     QString m_name;
     std::function<bool()> m_mayWriteFile;
+    std::function<bool()> m_mayGoOn;
 };

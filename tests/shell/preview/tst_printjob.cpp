@@ -171,6 +171,20 @@ private slots:
         QVERIFY(!stop->isVisible());
     }
 
+    void aPageThatIsTakenAwayIsNotPrinted()
+    {
+        const auto takeAway = [this] { m_window->showSheets(1); };
+        m_window->showList(1);
+        QVERIFY(!print([&](QPrinter &) { takeAway(); }));
+        QVERIFY(!QFile::exists(path(m_printed)));
+        m_window->dialogs.setPrinter(false);
+        m_window->showList(2000);
+        QTimer::singleShot(0, this, takeAway);
+        m_window->dialogs.willChooseFile(path(u"names.pdf"_s));
+        QVERIFY(!m_window->pane->print());
+        QVERIFY(!QFile::exists(path(u"names.pdf"_s)));
+    }
+
     void nothingButStopListensWhilePrinting()
     {
         m_window->showList(1000);
