@@ -23,11 +23,17 @@ namespace {
 
 constexpr int mostPopups = 16;
 
-/// Menus, lists and completers: whatever stands open beside its window.
+/// Menus, lists and completers: whatever stands open beside its window. A tool tip would go by itself, but a
+/// moment too late.
 void closePopups()
 {
     for (int popup = 0; popup < mostPopups && QApplication::activePopupWidget(); ++popup)
         QApplication::activePopupWidget()->close();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->windowType() == Qt::ToolTip)
+            window->hide();
+    }
 }
 
 /// The window that opened `window`; null for one that stands by itself.
@@ -108,16 +114,18 @@ std::optional<Function> WindowGuard::guardedOwner(const QWidget &window) const
 void WindowGuard::lock()
 {
     closePopups();
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const QList<QPointer<QWidget>> windows(all.begin(), all.end());
+    for (const QPointer<QWidget> &window : windows) {
+        if (!window) // gone with another one
+            continue;
         auto *box = qobject_cast<QDialog *>(window);
         if (box && box->isVisible() && isPrompt(*box))
             box->reject(); // with what was typed there
         else if (window->isVisible() && guardedOwner(*window))
             cover(*window);
     }
-    if (!m_covered.isEmpty())
-        clearClipboard();
+    clearClipboard();
 }
 
 void WindowGuard::cover(QWidget &window)

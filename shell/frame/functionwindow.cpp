@@ -19,6 +19,7 @@
 #include "shell/look/theme.h"
 #include "shell/preview/previewpane.h"
 #include "shell/program/covering.h"
+#include "shell/program/functionfaces.h"
 #include "shell/program/locking.h"
 
 #include <QApplication>
@@ -45,6 +46,14 @@ void forgetTip(QWidget *window)
 {
     QStatusTipEvent none((QString()));
     QCoreApplication::sendEvent(window, &none);
+}
+
+/// The printer's queue, and a PDF's name, tell nothing of what the password guards.
+QString jobNameFor(const QString &name, const QString &caption, const QWidget &window, const Program &program)
+{
+    const std::optional<Function> function = program.functions.functionOf(window);
+    const bool isGuarded = function && FunctionFaces::of(*function).isGuarded(program.state.protectedAreas);
+    return isGuarded ? caption : name;
 }
 
 } // namespace
@@ -161,14 +170,14 @@ void FunctionWindow::showPreview(std::function<Page(const PageContext &)> builde
 {
     bringPreview().show([this, build = std::move(builder)](
                             const PageSetup &setup) { return headed(build(pageContext(setup))); },
-                        jobName);
+                        jobNameFor(jobName, m_traits.caption, *this, m_program));
 }
 
 void FunctionWindow::showLandscape(std::function<Page(const PageContext &)> builder, const QString &jobName)
 {
     bringPreview().show([this, build = std::move(builder)](
                             const PageSetup &setup) { return headed(build(pageContext(setup))); },
-                        jobName, PreviewPane::Lie::Landscape);
+                        jobNameFor(jobName, m_traits.caption, *this, m_program), PreviewPane::Lie::Landscape);
 }
 
 void FunctionWindow::showSheets(std::function<PageSheets(const PageContext &)> builder,
@@ -180,7 +189,7 @@ void FunctionWindow::showSheets(std::function<PageSheets(const PageContext &)> b
             return PageSheets{sheets.count,
                               [this, make = sheets.make](int sheet) { return headed(make(sheet)); }};
         },
-        jobName);
+        jobNameFor(jobName, m_traits.caption, *this, m_program));
 }
 
 PageContext FunctionWindow::pageContext(const PageSetup &setup) const

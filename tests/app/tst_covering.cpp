@@ -17,9 +17,11 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
+#include <QPrinter>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <memory>
 
@@ -63,8 +65,8 @@ private slots:
             ++m_prompts;
             program.state.passwordGateResult = m_verdict;
         });
-        for (const int area :
-             {Area::Planner, Area::AddressBook, Area::AddressBookButton, Area::AddressViewer})
+        for (const int area : {Area::Planner, Area::AddressBook, Area::AddressBookButton, Area::AddressViewer,
+                               Area::Budget, Area::CarLog, Area::PasswordKeeper})
             m_test->state.protectedAreas.setFlag(area, u"YES"_s);
         addFunctions(m_test->functions, m_test->clock);
         m_guard = std::make_unique<WindowGuard>(m_test->program);
@@ -155,6 +157,18 @@ private slots:
              [](const TestCovering &t) {
                  emit t.m_test->changes.placeRequested(Function::Planner, {.date = QDate(2026, 11, 20)});
              }},
+            {"the keeper's button", Function::PasswordKeeper,
+             [](const TestCovering &t) { t.unlock(t.window()); }},
+            {"the keeper's card", Function::PasswordKeeper,
+             [](const TestCovering &t) {
+                 QTest::keyClick(control<FunctionCard>(*t.m_menu, "card_passwordKeeper"), Qt::Key_Return);
+             }},
+            {"the keeper's menu entry", Function::PasswordKeeper,
+             [](const TestCovering &t) { control<QAction>(*t.m_menu, "mPWKpr")->trigger(); }},
+            {"the keeper's toolbar button", Function::PasswordKeeper,
+             [](const TestCovering &t) { control<QAction>(*t.m_menu, "Toolbar1_38")->trigger(); }},
+            {"another guarded one beside it", Function::PasswordKeeper,
+             [](const TestCovering &t) { control<QAction>(*t.m_menu, "mMB")->trigger(); }},
         });
     }
 
@@ -162,24 +176,64 @@ private slots:
     {
         const auto [function, way] = row<Function, std::function<void(const TestCovering &)>>();
         m_function = function;
+        const QWidget *budget = open(Function::Budget);
         open(function);
         emit m_test->changes.lockRequested();
-        QVERIFY(Covering::isCovered(*window()));
+        QVERIFY(Covering::isCovered(*window()) && Covering::isCovered(*budget));
         m_verdict = PasswordGateResult::Refused;
         way(*this);
-        QVERIFY(m_prompts == 1 && Covering::isCovered(*window()));
+        QVERIFY(m_prompts == 1 && Covering::isCovered(*window()) && Covering::isCovered(*budget));
         m_verdict = PasswordGateResult::Open;
         way(*this);
-        QVERIFY(m_prompts == 2 && !Covering::isCovered(*window()));
+        QVERIFY(m_prompts == 2 && !Covering::isCovered(*window()) && !Covering::isCovered(*budget));
     }
 
     void aSecondStartLeavesItCovered()
     {
-        const QWidget *planner = open(Function::Planner);
+        const QList<QWidget *> windows{open(Function::Planner), open(Function::PasswordKeeper)};
         emit m_test->changes.lockRequested();
         emit m_test->changes.mainMenuRequested();
         QTRY_VERIFY(m_menu->isActiveWindow());
-        QVERIFY(Covering::isCovered(*planner));
+        for (const QWidget *window : windows)
+            QVERIFY(Covering::isCovered(*window));
+    }
+
+    void theKeeperIsCoveredWithWhatIsTypedInIt()
+    {
+        QWidget *keeper = open(Function::PasswordKeeper);
+        auto *box = control<QLineEdit>(*keeper, "newMaster");
+        box->setEchoMode(QLineEdit::Normal);
+        box->setText(u"Chess club"_s);
+        MessageBox question({u"Password Keeper"_s, u"Chess club?"_s}, keeper);
+        question.open();
+        emit m_test->changes.lockRequested();
+        QVERIFY(Covering::isCovered(*keeper) && Covering::isCovered(question));
+        QVERIFY(!toldOf(keeper).contains("Chess"_L1) && !toldOf(&question).contains("Chess"_L1));
+        m_verdict = PasswordGateResult::Refused;
+        unlock(&question);
+        QVERIFY(m_prompts == 1 && Covering::isCovered(*keeper) && Covering::isCovered(question));
+        m_verdict = PasswordGateResult::Open;
+        unlock(&question);
+        QVERIFY(!Covering::isCovered(*keeper) && !Covering::isCovered(question));
+        QCOMPARE(box->text(), u"Chess club"_s);
+    }
+
+    void thePrintersQueueTellsNothing()
+    {
+        QWidget *cars = open(Function::CarLog);
+        control<QAction>(*cars, "mOPrt")->trigger();
+        const QString pdf = m_test->temporary.filePath(u"printed.pdf"_s);
+        QString name;
+        m_test->dialogs.setPrinter(true);
+        m_test->dialogs.willChoosePrinter([&](QPrinter &printer) {
+            name = printer.docName();
+            printer.setOutputFileName(pdf);
+            emit m_test->changes.lockRequested(); // the system's own box can still be answered
+            return true;
+        });
+        QTest::mouseClick(control<QPushButton>(*cars, "SSCommand80_4"), Qt::LeftButton);
+        QCOMPARE(name, u"Automobile Tracker"_s);
+        QVERIFY(Covering::isCovered(*cars) && !QFile::exists(pdf));
     }
 
     void anOpenBoxIsCoveredAndHoldsNothingUp()
@@ -195,8 +249,9 @@ private slots:
         QMenu menu(planner);
         menu.addAction(u"Chess club"_s);
         menu.popup({});
+        QToolTip::showText({}, u"Chess club"_s, planner);
         emit m_test->changes.lockRequested();
-        QVERIFY(!menu.isVisible());
+        QVERIFY(!menu.isVisible() && !QToolTip::isVisible());
         QVERIFY(Covering::isCovered(*planner) && Covering::isCovered(box));
         QVERIFY(!toldOf(&box).contains("Chess club"_L1));
         for (const Qt::Key key : {Qt::Key_Y, Qt::Key_Escape})
@@ -243,6 +298,11 @@ private slots:
         QApplication::clipboard()->setText(u"Somebody else's"_s);
         emit m_test->changes.lockRequested();
         QCOMPARE(QApplication::clipboard()->text(), u"Somebody else's"_s);
+        showActive(*planner);
+        QApplication::clipboard()->setText(u"Chess club"_s);
+        QVERIFY(planner->close()); // nothing is left to be covered
+        emit m_test->changes.lockRequested();
+        QVERIFY(QApplication::clipboard()->text().isEmpty());
     }
 
     void asksForThePasswordBeforeItAsksAboutTheTyping()
