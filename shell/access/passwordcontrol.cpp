@@ -85,6 +85,7 @@ Form31::Form31(Program &program, PasswordCost cost, std::chrono::milliseconds st
     setWork(work);
     connectPane();
     finishFrame();
+    watchFiles({QString::fromLatin1(SettingsKeys::passwordFile.name)});
     Locking::offerAlso(program, activity(),
                        [this] { return m_file.state() != PasswordCheck::State::NotSet; });
     refresh();
@@ -285,6 +286,13 @@ void Form31::refresh()
     m_idle->setReason(reason);
     m_pane->refresh();
     marksChanged();
+}
+
+/// By somebody who came back with the recovery code, for one.
+void Form31::filesChanged()
+{
+    m_pane->forgetOldCode();
+    refresh();
 }
 
 void Form31::loadMarks()

@@ -29,6 +29,7 @@ public:
 protected:
     [[nodiscard]] bool save() override;
     void drop() override { loadMarks(); }
+    void filesChanged() override;
     Message leaveQuestion() const override;
 
 private:

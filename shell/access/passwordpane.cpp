@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <optional>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -68,7 +69,7 @@ PasswordPane::PasswordPane(PasswordCheck &file, AttemptMemory &memory, const Clo
     , m_set(makeButton(u"setPassword"_s, u"Se&t Password"_s, this))
     , m_change(makeButton(u"changePassword"_s, u"&Change"_s, this))
     , m_remove(makeButton(u"removePassword"_s, u"&Remove"_s, this))
-    , m_newCode(makeButton(u"newRecoveryCode"_s, u"New Recovery &Code"_s, this))
+    , m_newCode(makeButton(u"newRecoveryCode"_s, u"New Reco&very Code"_s, this))
     , m_note(new RecoveryNote(this))
     , m_heading(nullptr)
     , m_form(makeForm())
@@ -146,8 +147,7 @@ void PasswordPane::connectAll()
     connect(m_newCode, &QPushButton::clicked, this, [this] { begin(Task::NewCode); });
     connect(m_note, &RecoveryNote::printRequested, this, [this] { emit printRequested(m_note->code()); });
     connect(m_note, &RecoveryNote::done, this, [this] {
-        m_note->clear();
-        m_note->hide();
+        closeNote();
         firstControl()->setFocus();
     });
     connect(m_ok, &QPushButton::clicked, this, &PasswordPane::carryOut);
@@ -206,8 +206,7 @@ void PasswordPane::begin(Task task)
         return;
     }
     close();
-    m_note->clear();
-    m_note->hide();
+    closeNote();
     m_task = task;
     m_heading->setText(headingOf(task == Task::Set, task == Task::Change, task == Task::Remove));
     m_oldPart->setVisible(task != Task::Set);
@@ -232,6 +231,19 @@ void PasswordPane::close()
     m_form->hide();
     if (hadFocus)
         firstControl()->setFocus();
+}
+
+void PasswordPane::closeNote()
+{
+    m_note->clear();
+    m_note->hide();
+}
+
+void PasswordPane::forgetOldCode()
+{
+    const std::optional<QString> code = RecoveryCode::read(m_note->code());
+    if (code && !m_file.matchesRecoveryCode(*code))
+        closeNote();
 }
 
 /// Enter leads through the boxes while the next one is empty, and carries out behind the last.

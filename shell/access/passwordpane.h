@@ -29,6 +29,9 @@ public:
     /// Shows what the file says now.
     void refresh();
 
+    /// Takes the code that is shown away, if it is none any more.
+    void forgetOldCode();
+
     /// The button that comes first, for the focus.
     QWidget *firstControl() const;
 
@@ -55,6 +58,7 @@ private:
     void connectAll();
     void begin(Task task);
     void close();
+    void closeNote();
     void enter(const QLineEdit *box);
     void carryOut();
     bool apply(Task task, const QString &code);

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QToolButton>
 
 #include <memory>
 
@@ -107,6 +108,37 @@ private slots:
         click("changePassword");
         answer(0, {u"Sesame"_s, u"Tulips"_s, u"Tulips"_s});
         QVERIFY(file().hasRecoveryCode() && !find<QPushButton>("printCode")->isVisible());
+    }
+
+    void aCodeThatIsNoneAnyMoreIsNotShown()
+    {
+        guard(Area::Planner);
+        open();
+        click("newRecoveryCode");
+        answer(0, {u"Sesame"_s});
+        const auto comeBack = [this] {
+            QWidget other;
+            showActive(other);
+            showActive(*m_window);
+        };
+        comeBack();
+        QVERIFY(find<QPushButton>("printCode")->isVisible());
+        QTest::qWait(20);                                          // for the file's time
+        QVERIFY(file().setRecoveryCode(RecoveryCode::generate())); // with the help of the one before
+        comeBack();
+        QVERIFY(!find<QPushButton>("printCode")->isVisible() && labelText("recoveryCodeShown").isEmpty());
+    }
+
+    void offersLockNowAsSoonAsThereIsAPassword()
+    {
+        open();
+        QVERIFY(!find<QToolButton>("statusLock")->isVisible());
+        click("setPassword");
+        answer(1, {u"Tulips"_s, u"Tulips"_s});
+        QVERIFY(find<QToolButton>("statusLock")->isVisible());
+        click("removePassword");
+        answer(0, {u"Tulips"_s});
+        QVERIFY(!find<QToolButton>("statusLock")->isVisible());
     }
 
     void saysWhatTheWrongAnswersWere()
