@@ -31,7 +31,7 @@ constexpr int widestBoxes = 640;
 constexpr int widestCommon = 380;
 constexpr int twoColumnsFrom = 700;
 constexpr int columnGap = 28;
-constexpr int rowGap = 10;
+constexpr int rowGap = 8;
 constexpr int boxGap = 12;
 constexpr int kindWidth = 160;
 constexpr int notesHeight = 96;
@@ -175,6 +175,7 @@ KindBoxes &EntryForm::boxes(EntryKind kind)
     if (!boxes) {
         boxes = new KindBoxes(kind, {m_program.state.dateStyle, m_program.clock}, m_picker, this);
         m_kindPlace->addWidget(boxes);
+        boxes->setPalette({}); // those of the panel: its labels were made before they stood on it
         connect(boxes, &KindBoxes::edited, this, &EntryForm::edited);
         connect(boxes, &KindBoxes::said, this, &EntryForm::said);
         connect(boxes, &KindBoxes::copyWanted, this, &EntryForm::copyWanted);

@@ -235,6 +235,12 @@ QList<KeeperSummary> KeeperPane::shown() const
     return entries;
 }
 
+void KeeperPane::showAll()
+{
+    m_search->clear();
+    setFilter({});
+}
+
 void KeeperPane::startSearch()
 {
     m_search->startAgain();

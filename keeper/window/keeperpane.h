@@ -46,6 +46,8 @@ public:
     KeeperFilter filter() const;
     void setFilter(const KeeperFilter &filter);
     void startSearch();
+    /// Lifts filter and search.
+    void showAll();
     void addButton(QPushButton *button);
     QListView &list() const { return *m_list; }
     /// Whether filter and search let this one through, which is chosen.
