@@ -39,7 +39,8 @@ public:
     /// Marks this one alone; where filter and search leave it out, they are lifted. Asks nothing and says
     /// nothing.
     void choose(const QByteArray &id);
-    QList<QByteArray> chosen() const { return m_chosen; }
+    /// Without rows that are only a damaged record.
+    QList<QByteArray> chosen() const;
     /// What the list shows of them, in the order of the keeper.
     const QList<KeeperSummary> &chosenEntries() const { return m_chosenEntries; }
 

@@ -36,6 +36,11 @@ inline QString damaged(int place)
     return u"Damaged, place %1"_s.arg(place);
 }
 
+inline QString cannotBeOpened()
+{
+    return u"Cannot be opened"_s;
+}
+
 /// An earlier version stands in for what cannot be opened; `place` is 0 where nobody knows it.
 inline QString damagedVersion(int place, const QString &day)
 {
