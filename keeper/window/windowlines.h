@@ -54,7 +54,7 @@ inline QString deletedOn(const QString &day)
 
 inline QString expiresOn(const QString &day, bool isOver)
 {
-    return (isOver ? u"Expired on %1"_s : u"Expires on %1"_s).arg(day);
+    return (isOver ? u"Expired %1"_s : u"Expires %1"_s).arg(day);
 }
 
 inline QString countOfEntries(int count, bool isTrash, bool isSearch)
