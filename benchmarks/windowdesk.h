@@ -64,7 +64,9 @@ public:
     Q_DISABLE_COPY_MOVE(BestTime)
 
     void start() { m_timer.start(); }
-    void stop() { m_best = std::min(m_best, double(m_timer.nsecsElapsed()) / 1e6); }
+    void stop() { take(double(m_timer.nsecsElapsed()) / 1e6); }
+    /// For what was timed elsewhere, in milliseconds.
+    void take(double milliseconds) { m_best = std::min(m_best, milliseconds); }
 
 private:
     benchmark::State &m_state;

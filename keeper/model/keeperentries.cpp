@@ -117,7 +117,12 @@ bool KeeperEntries::save(QList<KeeperEntry> &entries)
     for (qsizetype i = 0; i < entries.size(); ++i)
         entries[i].id = ids[i];
     trim(ids);
-    showAnew(ids);
+    if (ids.size() >= many) {
+        showAnew(ids);
+    } else {
+        for (const KeeperFile::Writing &writing : writings)
+            show(writing.id, writing.payload);
+    }
     return true;
 }
 
@@ -152,13 +157,19 @@ void KeeperEntries::showAnew(const QList<QByteArray> &ids)
     } else {
         for (const QByteArray &id : ids) {
             const auto current = KeeperOpening::current(id, versionsOf(id));
-            if (const auto payload = current ? m_file->payload(current->version) : std::nullopt) {
-                m_index.add(current->facts, payload->view());
-                m_index.settle();
-            } else {
+            if (const auto payload = current ? m_file->payload(current->version) : std::nullopt)
+                show(id, *payload);
+            else
                 m_index.remove(id);
-            }
         }
+    }
+}
+
+void KeeperEntries::show(const QByteArray &id, const SecretBytes &payload)
+{
+    if (const auto current = KeeperOpening::current(id, versionsOf(id))) {
+        m_index.add(current->facts, payload.view());
+        m_index.settle();
     }
 }
 

@@ -60,6 +60,7 @@ private:
     bool bringBack(const QByteArray &id);
     void trim(const QList<QByteArray> &ids);
     void showAnew(const QList<QByteArray> &ids);
+    void show(const QByteArray &id, const SecretBytes &payload);
 
     std::unique_ptr<KeeperFile> m_file;
     KeeperIndex m_index;

@@ -2,8 +2,39 @@
 #include "keeper/model/keeperentry.h"
 
 #include "keeper/model/keeperkinds.h"
+#include "storage/sealing/secretbytes.h"
 
 #include <algorithm>
+#include <utility>
+
+KeeperText::KeeperText(quint8 number, bool isHidden, QString caption, QString content)
+    : id(number)
+    , isSecret(isHidden)
+    , name(std::move(caption))
+    , text(std::move(content))
+{}
+
+KeeperText &KeeperText::operator=(KeeperText other) noexcept
+{
+    std::swap(id, other.id);
+    std::swap(isSecret, other.isSecret);
+    name.swap(other.name);
+    text.swap(other.text);
+    return *this;
+}
+
+KeeperText::~KeeperText()
+{
+    if (isSecret)
+        SecretBytes::wipe(text);
+}
+
+void KeeperText::setText(const QString &other)
+{
+    if (isSecret)
+        SecretBytes::wipe(text);
+    text = other;
+}
 
 EntryKind KeeperEntry::kind() const
 {
@@ -28,7 +59,7 @@ void KeeperEntry::setText(quint8 id, const QString &text)
         if (field != fields.end())
             fields.erase(field);
     } else if (field != fields.end()) {
-        field->text = text;
+        field->setText(text);
     } else {
         fields.append({id, KeeperKinds::isSecret(id), {}, text});
     }

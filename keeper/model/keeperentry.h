@@ -53,15 +53,26 @@ enum Id : quint8 {
 
 enum class EntryKind { LogIn, BankAccount, Card, WiFi, Licence, Document, Note };
 
-/// One text of an entry. A field of an unknown number is kept and written back.
+/// One text of an entry. A field of an unknown number is kept and written back. A secret is overwritten when
+/// the last one who holds it lets it go.
 struct KeeperText {
     quint8 id = 0;
     bool isSecret = false;
     QString name; ///< what the user calls it; own fields alone
     QString text;
 
+    KeeperText() = default;
+    KeeperText(quint8 number, bool isHidden, QString caption, QString content);
+    KeeperText(const KeeperText &) = default;
+    KeeperText(KeeperText &&) noexcept = default;
+    KeeperText &operator=(KeeperText other) noexcept;
+    ~KeeperText();
+
+    void setText(const QString &other);
+
     bool operator==(const KeeperText &) const = default;
 };
+Q_DECLARE_TYPEINFO(KeeperText, Q_RELOCATABLE_TYPE);
 
 /// One entry, secrets included: held only while it is shown, edited or printed.
 struct KeeperEntry {

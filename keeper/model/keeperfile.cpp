@@ -13,6 +13,7 @@
 #include <array>
 #include <cstring>
 #include <limits>
+#include <map>
 #include <tuple>
 #include <utility>
 
@@ -211,15 +212,16 @@ bool KeeperFile::write(const std::vector<Writing> &writings)
     std::vector<int> free = takeFree(count);
     if (free.size() < count)
         return false;
-    std::vector<quint32> versions = m_places.highestVersions(KeeperPlaces::sortOf(writings.front().state));
+    const KeeperPlaces::Sort sort = KeeperPlaces::sortOf(writings.front().state);
+    std::map<QByteArray, quint32> versions; // one may be written twice
     OpenRecordFile file(m_file);
     std::vector<Written> written;
     written.reserve(count);
     bool isDone = std::ranges::all_of(writings, [&](const Writing &writing) {
-        const std::size_t owner = m_places.ownerOf(writing.id);
-        versions.resize(std::max(versions.size(), owner + 1));
-        return versions[owner] < std::numeric_limits<quint32>::max() &&
-               writeParts(file, writing, ++versions[owner], free, written);
+        quint32 &version =
+            versions.try_emplace(writing.id, m_places.highestVersion(sort, writing.id)).first->second;
+        return version < std::numeric_limits<quint32>::max() &&
+               writeParts(file, writing, ++version, free, written);
     });
     isDone = isDone && file.flush();
     auto one = written.cbegin();

@@ -8,6 +8,8 @@
 
 #include <QSet>
 
+#include <sodium.h>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -85,13 +87,14 @@ QStringList differences(const KeeperEntry &there, const KeeperEntry &incoming)
     return captions;
 }
 
-/// All that a line holds, to find it again.
-QString wholeText(const KeeperEntry &entry)
+/// A hash of all that a line holds, to find it again.
+QByteArray hashOf(const KeeperEntry &entry)
 {
-    QString whole;
-    for (const KeeperText &field : entry.fields)
-        whole += QString::number(field.id) + u'\n' + field.name + u'\n' + field.text + u'\n';
-    return whole;
+    const SecretBytes whole = KeeperPayload::encoded(entry);
+    QByteArray hash(crypto_generichash_BYTES, '\0');
+    crypto_generichash(reinterpret_cast<unsigned char *>(hash.data()), crypto_generichash_BYTES,
+                       whole.bytes(), std::size_t(whole.size()), nullptr, 0);
+    return hash;
 }
 
 } // namespace
@@ -244,7 +247,7 @@ KeeperEntry KeeperImport::merged(KeeperEntry there, const KeeperEntry &incoming)
             return own.id == field.id && own.name == field.name;
         });
         if (found != there.fields.end())
-            found->text = field.text;
+            found->setText(field.text);
         else
             there.fields.append(field);
     }
@@ -258,12 +261,12 @@ void KeeperImport::add(IncomingEntry line)
         return;
     }
     if (line.state == IncomingEntry::New) {
-        const QString whole = wholeText(line.entry);
-        if (const auto twin = m_read.constFind(whole); twin != m_read.cend()) {
+        const QByteArray hash = hashOf(line.entry);
+        if (const auto twin = m_read.constFind(hash); twin != m_read.cend()) {
             line.state = IncomingEntry::Twice;
             line.twin = *twin;
         } else {
-            m_read.insert(whole, line.number);
+            m_read.insert(hash, line.number);
             findThere(line);
         }
     }

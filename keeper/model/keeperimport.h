@@ -115,7 +115,7 @@ private:
 
     There m_there;
     QMultiHash<QString, qsizetype> m_byAccount; ///< places among the entries that are there
-    QHash<QString, int> m_read;                 ///< line numbers by what they hold
+    QHash<QByteArray, int> m_read;              ///< line numbers by a hash of what they hold
     std::vector<IncomingEntry> m_lines;
     QString m_refusal;
     int m_chosen = 0;

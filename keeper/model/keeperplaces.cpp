@@ -43,13 +43,14 @@ qint32 KeeperPlaces::knownOwner(QByteArrayView id) const
     return found != m_order.end() && QByteArrayView(m_ids[std::size_t(*found)]) == id ? *found : -1;
 }
 
-qint32 KeeperPlaces::owner(QByteArrayView id)
+qint32 KeeperPlaces::ownerOf(QByteArrayView id)
 {
     if (const qint32 known = knownOwner(id); known >= 0)
         return known;
     const auto owner = qint32(m_ids.size());
     m_order.insert(orderOf(id), owner);
     std::ranges::copy(id.first(KeeperRecord::idLength), m_ids.emplace_back().begin());
+    m_first.push_back(0);
     return owner;
 }
 
@@ -86,6 +87,7 @@ void KeeperPlaces::settle()
 {
     m_ids.shrink_to_fit();
     m_order.shrink_to_fit();
+    m_first.shrink_to_fit();
     findLost();
     findLeftOvers();
 }
@@ -179,25 +181,29 @@ void KeeperPlaces::forEach(
     }
 }
 
-std::vector<KeeperPlaces::Version> KeeperPlaces::versions(Sort sort, const QByteArray &id) const
+std::vector<int> KeeperPlaces::recordsOf(qint32 owner, Sort sort) const
 {
-    const qint32 owner = knownOwner(id);
     std::vector<int> records;
-    for (int record = 1; owner >= 0 && record <= count(); ++record) {
-        const Place &place = placeOf(record);
-        if (place.owner == owner && isOf(place, sort) && !place.isLeftOver)
+    for (int record = owner < 0 ? 0 : m_first[std::size_t(owner)]; record > 0;
+         record = placeOf(record).next) {
+        if (isOf(placeOf(record), sort))
             records.push_back(record);
     }
+    return records;
+}
+
+std::vector<KeeperPlaces::Version> KeeperPlaces::versions(Sort sort, const QByteArray &id) const
+{
+    std::vector<int> records = recordsOf(knownOwner(id), sort);
+    std::erase_if(records, [this](int record) { return placeOf(record).isLeftOver; });
     return gathered(records, sort);
 }
 
-std::vector<quint32> KeeperPlaces::highestVersions(Sort sort) const
+quint32 KeeperPlaces::highestVersion(Sort sort, QByteArrayView id) const
 {
-    std::vector<quint32> highest(m_ids.size());
-    for (const Place &place : m_places) {
-        if (isOf(place, sort))
-            highest[std::size_t(place.owner)] = std::max(highest[std::size_t(place.owner)], place.version);
-    }
+    quint32 highest = 0;
+    for (const int record : recordsOf(knownOwner(id), sort))
+        highest = std::max(highest, placeOf(record).version);
     return highest;
 }
 
@@ -215,8 +221,24 @@ std::vector<int> KeeperPlaces::free(std::size_t count) const
 
 void KeeperPlaces::hold(int record, const KeeperRecord &head)
 {
-    placeOf(record) = {head.state, false,          head.part,    head.parts,
-                       head.used,  owner(head.id), head.version, head.time};
+    release(record);
+    const qint32 owner = ownerOf(head.id);
+    int &first = m_first[std::size_t(owner)];
+    placeOf(record) = {head.state, false, head.part,    head.parts, head.used,
+                       owner,      first, head.version, head.time};
+    first = record;
+}
+
+void KeeperPlaces::release(int record)
+{
+    const Place former = placeOf(record);
+    placeOf(record) = {};
+    if (former.owner < 0)
+        return;
+    int *link = &m_first[std::size_t(former.owner)];
+    while (*link != record)
+        link = &placeOf(*link).next;
+    *link = former.next;
 }
 
 QList<int> KeeperPlaces::damaged() const

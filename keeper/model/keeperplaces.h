@@ -55,14 +55,12 @@ public:
     /// What a version is of.
     QByteArray idOf(const Version &version) const { return idOf(placeOf(version.records.front()).owner); }
 
-    /// The number by which an id is known here; a new one gets one.
-    std::size_t ownerOf(QByteArrayView id) { return std::size_t(owner(id)); }
-    /// By owner, with what interrupted writes left.
-    std::vector<quint32> highestVersions(Sort sort) const;
+    /// The highest version of one, also one that an interrupted write left; 0: there is none.
+    quint32 highestVersion(Sort sort, QByteArrayView id) const;
 
     /// The record is a part of a version now, or free.
     void hold(int record, const KeeperRecord &head);
-    void release(int record) { placeOf(record) = {}; }
+    void release(int record);
 
     QList<int> damaged() const;
     /// What damaged records left useless may be written over once these are free.
@@ -80,6 +78,7 @@ private:
         quint16 parts = 0;
         quint16 used = 0;
         qint32 owner = -1; ///< place in `m_ids`
+        int next = 0;      ///< another record of the same owner; 0: no more
         quint32 version = 0;
         qint64 time = 0;
     };
@@ -95,7 +94,8 @@ private:
     const Place &placeOf(int record) const { return m_places[std::size_t(record - 1)]; }
     std::vector<qint32>::const_iterator orderOf(QByteArrayView id) const;
     qint32 knownOwner(QByteArrayView id) const;
-    qint32 owner(QByteArrayView id);
+    qint32 ownerOf(QByteArrayView id);
+    std::vector<int> recordsOf(qint32 owner, Sort sort) const;
     QByteArray idOf(qint32 owner) const;
     void findLost();
     void findLeftOvers();
@@ -105,6 +105,7 @@ private:
     std::vector<Place> m_places;
     std::vector<std::array<char, KeeperRecord::idLength>> m_ids;
     std::vector<qint32> m_order;                         ///< places in `m_ids`, in the order of the ids
+    std::vector<int> m_first;                            ///< by owner: where the chain of its records begins
     std::vector<std::pair<int, KeeperRecord>> m_guesses; ///< heads of damaged records, while they are read
     std::map<qint32, Lost> m_lost;                       ///< by owner, the highest
 };

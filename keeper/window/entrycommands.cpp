@@ -175,10 +175,7 @@ QString EntryCommands::whyNoEntry() const
 
 QString EntryCommands::whyNoneChosen() const
 {
-    if (m_work.chosen().isEmpty())
-        return m_pane.chosenEntries().isEmpty() ? KeeperWindowLines::chooseOne()
-                                                : KeeperWindowLines::damagedSentence();
-    return {};
+    return m_work.chosen().isEmpty() ? KeeperWindowLines::chooseOne() : QString();
 }
 
 QString EntryCommands::whyNotInTrash() const
@@ -303,6 +300,9 @@ void EntryCommands::changeTags(const QString &tag, bool isGiven)
 UndoStep EntryCommands::trashing(const QString &title, const QList<QByteArray> &ids, bool isTrashed)
 {
     const auto turn = [this, ids](bool isTrash) {
+        const auto isGone = [this](const QByteArray &id) { return m_desk.keeper.placeOf(id) < 0; };
+        if (std::ranges::any_of(ids, isGone)) // for good, meanwhile
+            return ChangeResult::Outdated;
         if (m_desk.keeper.state() != Keeper::State::Open || !m_desk.keeper.setTrashed(ids, isTrash))
             return ChangeResult::Refused;
         m_pane.choose({});

@@ -9,6 +9,7 @@
 #include "shell/controls/importtable.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
+#include "storage/sealing/freememory.h"
 
 #include <QHeaderView>
 #include <QTableView>
@@ -181,5 +182,6 @@ void KeeperImportPanel::take()
     }
     leave();
     forget();
+    FreeMemory::wipe();
     emit taken(KeeperWindowLines::broughtIn(entries.size()));
 }

@@ -76,10 +76,7 @@ QVariant KeeperListModel::data(const QModelIndex &index, int role) const
     if (!index.isValid() || index.row() >= rowCount())
         return {};
     const KeeperSummary shown = entry(index.row());
-    const bool isLost = shown.damagedPlace > 0 && !shown.shownVersion.isValid();
-    const QString title = isLost                  ? KeeperWindowLines::damaged(shown.damagedPlace)
-                          : shown.title.isEmpty() ? KeeperWindowLines::withoutTitle()
-                                                  : shown.title;
+    const QString title = shown.title.isEmpty() ? KeeperWindowLines::withoutTitle() : shown.title;
     switch (role) {
     case Qt::DisplayRole:
         return title;
@@ -106,7 +103,7 @@ QString KeeperListModel::words(const KeeperSummary &entry) const
         return KeeperWindowLines::damagedVersion(
             entry.lostPlace, Dates::shortWithYear(entry.shownVersion.toLocalTime().date(), m_style));
     if (entry.damagedPlace > 0)
-        return KeeperWindowLines::cannotBeOpened();
+        return KeeperWindowLines::damaged(entry.damagedPlace);
     if (entry.isTrashed)
         return KeeperWindowLines::deletedOn(
             Dates::shortWithYear(entry.trashedAt.toLocalTime().date(), m_style));

@@ -25,6 +25,7 @@
 #include "shell/frame/workviews.h"
 #include "shell/program/locking.h"
 #include "shell/writing/writing.h"
+#include "storage/sealing/freememory.h"
 
 #include <QDialog>
 #include <QEvent>
@@ -79,7 +80,6 @@ Form4::Form4(Program &program, QWidget *parent, PasswordCost cost, std::chrono::
     Locking::offerAlso(program, activity(), [this] { return isOpen(); });
     m_pane->hide();
     m_door->show();
-    commands().refresh();
 }
 
 Form4::~Form4()
@@ -263,6 +263,8 @@ void Form4::lock()
         activity().say(KeeperWindowLines::draftRefused());
     emit program().changes.guardsChanged();
     commands().refresh();
+    // Behind what is deleted later.
+    QMetaObject::invokeMethod(this, &FreeMemory::wipe, Qt::QueuedConnection);
 }
 
 QString Form4::whyLocked() const

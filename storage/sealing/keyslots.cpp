@@ -264,7 +264,9 @@ bool KeySlots::setSlot(Slot slot, const KeyDerivation &derived, const SecretByte
         return true;
     // The one copy says the new, the other the old: back to the old one, where the disk takes that.
     const int written = copies(before).current == 0 ? 2 : 1;
-    return !m_file.write(written, recordOf(before, written));
+    QByteArray former = recordOf(before, written).toByteArray();
+    former.resize(recordLength, '\0'); // over all of the new one, where there was none
+    return !m_file.write(written, former);
 }
 
 bool KeySlots::countWrongAnswer(const QDateTime &now)

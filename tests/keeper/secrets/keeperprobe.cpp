@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/model/keeper.h"
+#include "storage/changeset.h"
 
 #include <cstdio>
 #include <iostream>
 #include <string>
+#include <tuple>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,9 +13,12 @@ using namespace Qt::Literals::StringLiterals;
 /// keeperprobe make|lock|kill|show FOLDER: a program to look into from outside. "make" sets up a keeper with
 /// the secret of its standard input; the others open it, do their work, say "ready" and wait for the end of
 /// the input: with the keeper locked again, or open without an entry shown, or with one shown.
+/// keeperprobe change|check FOLDER: "change" does all that a keeper writes, wherever it is interrupted;
+/// "check" is the next start, which fails unless all is there, as it was or as it should have become.
 namespace {
 
 const QString master = u"A master password of the probe"_s;
+const QString nextMaster = u"The next master password of the probe"_s;
 constexpr int others = 40;
 
 bool run(KeyDerivation &derivation)
@@ -51,10 +56,59 @@ bool make(Keeper &keeper, const QString &secret)
     return isDone && run(again) && keeper.changeMaster(again);
 }
 
-bool open(Keeper &keeper)
+bool open(Keeper &keeper, const QString &password = master)
 {
-    std::optional<KeeperOpening> opening = keeper.opening(master, KeySlots::Password);
+    std::optional<KeeperOpening> opening = keeper.opening(password, KeySlots::Password);
     return opening && opening->run() && keeper.unlock(std::move(*opening));
+}
+
+QByteArray planted(const Keeper &keeper)
+{
+    const QList<int> places = keeper.search(u"planted"_s);
+    return places.size() == 1 ? keeper.summary(places.first()).id : QByteArray();
+}
+
+/// Each step whether the one before it was refused or not, as a user goes on.
+void change(Keeper &keeper)
+{
+    const QByteArray id = planted(keeper);
+    for (int version = 1; version <= 7; ++version) {
+        KeeperEntry entry = keeper.entry(id).value_or(KeeperEntry());
+        entry.setText(KeeperField::UserName, u"user %1"_s.arg(version));
+        entry.setText(KeeperField::Notes, QString(version == 7 ? 40'000 : 0, u'n')); // the file grows
+        std::ignore = keeper.save(entry);
+    }
+    std::ignore = keeper.setTrashed({id}, true);
+    std::ignore = keeper.setTrashed({id}, false);
+    KeeperEntry going = entryOf(u"Going"_s, u"gone"_s);
+    std::ignore = keeper.save(going) && keeper.setTrashed({going.id}, true);
+    std::ignore = keeper.removeForGood({going.id});
+    std::ignore = keeper.saveDraft(going);
+    std::ignore = keeper.dropDraft();
+    KeyDerivation password = keeper.newKey(nextMaster);
+    KeyDerivation code = keeper.newKey(u"another code"_s);
+    std::ignore = run(password) && keeper.changeMaster(password);
+    std::ignore = run(code) && keeper.changeCode(code);
+}
+
+bool isAllThere(Keeper &keeper, const DataFolder &folder)
+{
+    if (!ChangeSet::recover(folder) || (!open(keeper) && !open(keeper, nextMaster)))
+        return false;
+    const QByteArray id = planted(keeper);
+    const std::optional<KeeperEntry> entry = keeper.entry(id);
+    const qsizetype wrong = keeper.search(u"going"_s).size();
+    if (!entry || !keeper.damagedPlaces().isEmpty() || keeper.versions(id).size() > 5 ||
+        keeper.count() != others + 1 + wrong || wrong > 1)
+        return false;
+    const QString secret = entry->text(KeeperField::Password);
+    for (const KeeperSummary &each : keeper.entries()) {
+        const std::optional<KeeperEntry> whole = keeper.entry(each.id);
+        if (!whole || (each.title != u"Going"_s && !whole->text(KeeperField::Password).startsWith(secret)))
+            return false;
+    }
+    KeeperEntry again = *entry;
+    return !secret.isEmpty() && keeper.setTrashed({id}, false) && keeper.save(again);
 }
 
 void waitForTheEnd()
@@ -78,6 +132,14 @@ int main(int argc, char **argv)
         std::string secret;
         std::getline(std::cin, secret);
         return make(keeper, QString::fromStdString(secret)) ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
+    if (way == "check")
+        return isAllThere(keeper, folder) ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (way == "change") {
+        if (!open(keeper))
+            return EXIT_FAILURE;
+        change(keeper);
+        return EXIT_SUCCESS;
     }
     if (!open(keeper) || keeper.search(u"planted"_s).size() != 1)
         return EXIT_FAILURE;

@@ -200,11 +200,21 @@ private slots:
         }
     }
 
+    void keepsOneOfTwoPasswordsWhereTheDiskFails_data()
+    {
+        rows<QByteArray>({
+            {"both copies", elder() + younger()},
+            {"a damaged one", elder() + QByteArray(512, 'x')},
+            {"one alone", elder()},
+        });
+    }
+
     void keepsOneOfTwoPasswordsWhereTheDiskFails()
     {
+        const QByteArray before = std::get<0>(row<QByteArray>());
         const KeyDerivation derived = fresh(u"New"_s);
         failAtEachStep(
-            m_files->folder(), [this] { m_files->put(name, elder() + younger()); },
+            m_files->folder(), [&] { m_files->put(name, before); },
             [&] {
                 KeySlots keys = keySlots();
                 return keys.setSlot(KeySlots::Password, derived, SecretBytes::copyOf(theKey));
