@@ -64,15 +64,6 @@ EntryKind kindOf(const QString &written, const KeeperEntry &entry)
     return KeeperTexts::likelyKind(entry);
 }
 
-/// Whether cells behind the last heading hold something: a separator without quotes has cut a text in two,
-/// and nobody knows which one.
-bool hasMoreThan(const QStringList &heading, const QStringList &cells)
-{
-    return !heading.isEmpty() && std::ranges::any_of(cells.mid(heading.size()), [](const QString &cell) {
-        return !cell.trimmed().isEmpty();
-    });
-}
-
 bool hasControls(const QStringList &cells)
 {
     return std::ranges::any_of(cells, [](const QString &cell) { return KeeperTexts::hasControls(cell); });
@@ -98,6 +89,11 @@ void KeeperCsvImport::readHeading()
     CsvFile::Line line;
     while (m_columns.headingNumber() > 0 && line.number < m_columns.headingNumber() && m_file.next(line))
         m_heading = line.cells;
+    // Some programs end every line with a separator, the headings alone without.
+    m_mostCells = m_heading.size();
+    const bool hasLine = m_mostCells > 0 && m_file.next(line);
+    if (hasLine && line.cells.size() == m_mostCells + 1 && line.cells.last().isEmpty())
+        ++m_mostCells;
     m_file.rewind();
 }
 
@@ -145,7 +141,8 @@ IncomingEntry KeeperCsvImport::read(const CsvFile::Line &line) const
     IncomingEntry incoming{.number = line.number, .state = IncomingEntry::New};
     if (!line.isClosed) {
         incoming.problem = u"a quote has no end"_s;
-    } else if (hasMoreThan(m_heading, line.cells)) {
+    } else if (m_mostCells > 0 && line.cells.size() > m_mostCells) {
+        // A separator without quotes has cut a text in two, and nobody knows which one.
         incoming.problem =
             u"it has %1 cells and there are %2 headings; a text with the separator in it wants quotes"_s
                 .arg(line.cells.size())

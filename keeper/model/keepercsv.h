@@ -35,5 +35,6 @@ private:
     CsvColumns m_columns;
     DateStyle m_style;
     CsvCells::DateOrder m_order = CsvCells::DateOrder::DayFirst;
-    QStringList m_heading; ///< the whole line, where there is one
+    QStringList m_heading;     ///< the whole line, where there is one
+    qsizetype m_mostCells = 0; ///< that a line may have; 0: any number
 };

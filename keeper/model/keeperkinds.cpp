@@ -30,8 +30,8 @@ constexpr Box bankBoxes[] = {
 };
 constexpr Box cardBoxes[] = {
     {CardHolder, u"Card holder"},
-    {CardNumber, u"Card number", Input::Line, true},
     {CardValidFrom, u"Valid from", Input::Date},
+    {CardNumber, u"Card number", Input::Line, true},
     {CardCode, u"Security code", Input::Password, true},
     {CardPin, u"PIN", Input::Password, true},
     {CardLostCall, u"If lost, call"},

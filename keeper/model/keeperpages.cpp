@@ -109,8 +109,9 @@ QList<KeeperText> Paper::inOrder(const KeeperEntry &entry) const
 void Paper::addEntry(const KeeperEntry &entry)
 {
     m_page.line(entry.text(KeeperField::Title), TextRole::Heading);
-    m_page.line(KeeperKinds::name(entry.kind()), TextRole::Small);
     m_page.columns({captionWidth, bodyWidth() - captionWidth});
+    // In the table, so that no sheet ends below the title.
+    m_page.row({u"Kind"_s, KeeperKinds::name(entry.kind())});
     for (const KeeperText &field : inOrder(entry)) {
         QString caption = KeeperKinds::caption(field);
         for (const QString &line : shown(field).split(u'\n')) {
@@ -167,7 +168,8 @@ void Paper::addList(const QList<KeeperEntry> &entries)
             if (m_hasSecrets && KeeperKinds::isSecret(id))
                 codeCells.push_back(int(headings.size()));
             headings << KeeperKinds::caption({id, false, {}, {}});
-            weights.push_back(columns.kind == EntryKind::Note ? 6 : 2);
+            const bool isLong = id == KeeperField::Address || id == KeeperField::DocumentPlace;
+            weights.push_back(columns.kind == EntryKind::Note ? 6 : isLong ? 3 : 2);
         }
         for (const KeeperEntry &entry : entries) {
             if (entry.kind() != columns.kind)

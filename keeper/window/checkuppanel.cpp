@@ -51,7 +51,7 @@ CheckupPanel::CheckupPanel(QWidget *parent)
     rows->addWidget(work, 1);
     rows->addWidget(m_advice);
     setWork(both);
-    m_open = addButton(u"openChecked"_s, u"&Open Entry"_s, ButtonKind::Main);
+    m_open = addButton(u"openChecked"_s, u"O&pen Entry"_s, ButtonKind::Main);
     setLeaveButton(u"checkupClose"_s, u"C&lose"_s);
     connect(m_open, &QPushButton::clicked, this, &CheckupPanel::choose);
     connect(m_view, &QTableView::doubleClicked, this, &CheckupPanel::choose);

@@ -175,7 +175,10 @@ QString EntryCommands::whyNoEntry() const
 
 QString EntryCommands::whyNoneChosen() const
 {
-    return m_work.chosen().isEmpty() ? KeeperWindowLines::chooseOne() : QString();
+    if (m_work.chosen().isEmpty())
+        return m_pane.chosenEntries().isEmpty() ? KeeperWindowLines::chooseOne()
+                                                : KeeperWindowLines::damagedSentence();
+    return {};
 }
 
 QString EntryCommands::whyNotInTrash() const

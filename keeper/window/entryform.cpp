@@ -29,9 +29,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 constexpr int widestBoxes = 640;
 constexpr int widestCommon = 380;
-constexpr int twoColumnsFrom = 700;
+constexpr int twoColumnsFrom = 820;
+constexpr int memberLength = 8; ///< characters
 constexpr int columnGap = 28;
-constexpr int rowGap = 10;
+constexpr int rowGap = 8;
 constexpr int boxGap = 12;
 constexpr int kindWidth = 160;
 constexpr int notesHeight = 96;
@@ -78,6 +79,8 @@ EntryForm::EntryForm(const Program &program, QWidget *window, QWidget *parent)
         m_kind->addItem(KeeperKinds::name(kind), int(kind));
     m_member->setEditable(true);
     m_member->setInsertPolicy(QComboBox::NoInsert);
+    m_member->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_member->setMinimumContentsLength(memberLength);
     m_notes->setMinimumHeight(notesHeight);
     m_notes->setTabChangesFocus(true);
     for (QLineEdit *box : {m_title, m_member->lineEdit()})
@@ -130,6 +133,7 @@ void EntryForm::place()
     const bool isWide = width() >= TypeScale::wide(twoColumnsFrom);
     m_columns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     m_columns->setSpacing(isWide ? columnGap : rowGap);
+    m_columns->setContentsMargins(0, 0, isWide ? 0 : std::max(0, width() - widestBoxes), 0);
     m_columns->setStretch(0, isWide ? widestBoxes : 0);
     m_columns->setStretch(1, isWide ? widestCommon : 1);
     m_names->setDirection(isWide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
@@ -175,6 +179,7 @@ KindBoxes &EntryForm::boxes(EntryKind kind)
     if (!boxes) {
         boxes = new KindBoxes(kind, {m_program.state.dateStyle, m_program.clock}, m_picker, this);
         m_kindPlace->addWidget(boxes);
+        boxes->setPalette({}); // those of the panel: its labels were made before they stood on it
         connect(boxes, &KindBoxes::edited, this, &EntryForm::edited);
         connect(boxes, &KindBoxes::said, this, &EntryForm::said);
         connect(boxes, &KindBoxes::copyWanted, this, &EntryForm::copyWanted);

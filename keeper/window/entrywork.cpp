@@ -56,6 +56,7 @@ EntryWork::EntryWork(const KeeperDesk &desk, KeeperPane &pane, QObject *parent)
     connect(&form, &EntryForm::makeWanted, this, &EntryWork::makeWanted);
     connect(m_view, &EntryView::edited, &m_desk.commands, &Commands::refresh);
     connect(m_several, &SeveralView::said, this, &EntryWork::said);
+    connect(&desk.program.changes, &ProgramSignals::guardsChanged, this, &EntryWork::readHousehold);
 }
 
 void EntryWork::showHome(QWidget *home)
@@ -141,18 +142,26 @@ QString EntryWork::wordsOf(const KeeperSummary *summary) const
         Dates::shortWithYear(summary->changed.toLocalTime().date(), m_desk.program.state.dateStyle));
 }
 
-/// Those of other entries first, then whom the rest of the household knows where no password guards it.
+/// Those of other entries first, then the household.
 QStringList EntryWork::offeredMembers() const
 {
-    QStringList members = KeeperFilters::members(m_desk.keeper.entries());
+    QStringList members = KeeperFilters::members(m_desk.keeper.entries()) + m_household;
+    members.removeDuplicates();
+    return members;
+}
+
+/// Whom the household knows where no password guards it, while the keeper is open.
+void EntryWork::readHousehold()
+{
+    m_household.clear();
+    if (m_desk.keeper.state() != Keeper::State::Open)
+        return;
     const Program &program = m_desk.program;
     for (const FunctionFace &face : FunctionFaces::cards()) {
         const FunctionEntry *function = program.functions.entry(face.function);
         if (function && function->names && !face.isGuarded(program.state.protectedAreas))
-            members += function->names(program);
+            m_household += function->names(program);
     }
-    members.removeDuplicates();
-    return members;
 }
 
 void EntryWork::followKeeper()

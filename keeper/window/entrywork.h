@@ -69,6 +69,7 @@ private:
     QString chipOf(const KeeperSummary *summary, const KeeperEntry &entry) const;
     QString wordsOf(const KeeperSummary *summary) const;
     QStringList offeredMembers() const;
+    void readHousehold();
     const KeeperSummary *summaryOf(const QByteArray &id) const;
 
     KeeperDesk m_desk;
@@ -81,5 +82,6 @@ private:
     QByteArray m_id; ///< of the entry in the boxes; empty for a new one
     bool m_isOpen = false;
     bool m_isLocked = false;
+    QStringList m_household;           ///< the names that it knows
     std::optional<KeeperEntry> m_kept; ///< a draft that the disk refused
 };

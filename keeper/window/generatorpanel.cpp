@@ -66,7 +66,7 @@ GeneratorPanel::GeneratorPanel(QSettings &store, QWidget *parent)
     rows->addWidget(m_face);
     rows->addWidget(m_strength);
     rows->addSpacing(8);
-    auto *characters = named(new QRadioButton(u"C&haracters"_s, content), u"makeCharacters"_s);
+    auto *characters = named(new QRadioButton(u"Cha&racters"_s, content), u"makeCharacters"_s);
     auto *words = named(new QRadioButton(u"&Words"_s, content), u"makeWords"_s);
     m_form->addButton(characters, Recipe::Characters);
     m_form->addButton(words, Recipe::Words);
@@ -76,9 +76,9 @@ GeneratorPanel::GeneratorPanel(QSettings &store, QWidget *parent)
     rows->addWidget(makeWords());
     rows->addStretch(1);
     setContent(content);
-    m_again = addButton(u"makeAnother"_s, u"Make A&nother"_s, ButtonKind::Plain, Side::Left);
-    m_copy = addButton(u"copyMade"_s, u"C&opy"_s);
-    m_take = addButton(u"takeMade"_s, u"&Use It"_s, ButtonKind::Main);
+    m_again = addButton(u"makeAnother"_s, u"&Make Another"_s, ButtonKind::Plain, Side::Left);
+    m_copy = addButton(u"copyMade"_s, u"Co&py"_s);
+    m_take = addButton(u"takeMade"_s, u"Use I&t"_s, ButtonKind::Main);
     setLeaveButton(u"generatorClose"_s, u"C&lose"_s);
     setFocusProxy(m_again);
     restore();

@@ -55,7 +55,10 @@ void KeeperExchange::importFile()
         m_desk.views.addPanel(m_panel);
         connect(m_panel, &ImportPreview::said, this, &KeeperExchange::said);
         connect(m_panel, &ImportPreview::progressed, this, &KeeperExchange::progressed);
-        connect(m_panel, &KeeperImportPanel::taken, this, &KeeperExchange::said);
+        connect(m_panel, &KeeperImportPanel::taken, this, [this](const QString &line) {
+            m_pane.showAll();
+            emit said(line);
+        });
     }
     m_desk.window.closePreview();
     if (!m_panel->open(*path))

@@ -76,7 +76,10 @@ QVariant KeeperListModel::data(const QModelIndex &index, int role) const
     if (!index.isValid() || index.row() >= rowCount())
         return {};
     const KeeperSummary shown = entry(index.row());
-    const QString title = shown.title.isEmpty() ? KeeperWindowLines::withoutTitle() : shown.title;
+    const bool isLost = shown.damagedPlace > 0 && !shown.shownVersion.isValid();
+    const QString title = isLost                  ? KeeperWindowLines::damaged(shown.damagedPlace)
+                          : shown.title.isEmpty() ? KeeperWindowLines::withoutTitle()
+                                                  : shown.title;
     switch (role) {
     case Qt::DisplayRole:
         return title;
@@ -103,7 +106,7 @@ QString KeeperListModel::words(const KeeperSummary &entry) const
         return KeeperWindowLines::damagedVersion(
             entry.lostPlace, Dates::shortWithYear(entry.shownVersion.toLocalTime().date(), m_style));
     if (entry.damagedPlace > 0)
-        return KeeperWindowLines::damaged(entry.damagedPlace);
+        return KeeperWindowLines::cannotBeOpened();
     if (entry.isTrashed)
         return KeeperWindowLines::deletedOn(
             Dates::shortWithYear(entry.trashedAt.toLocalTime().date(), m_style));

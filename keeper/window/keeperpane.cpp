@@ -207,6 +207,13 @@ void KeeperPane::choose(const QByteArray &id)
     setFilter({isTrashed ? KeeperFilter::Trash : KeeperFilter::All, {}, {}});
 }
 
+QList<QByteArray> KeeperPane::chosen() const
+{
+    QList<QByteArray> ids = m_chosen;
+    ids.removeAll(QByteArray());
+    return ids;
+}
+
 void KeeperPane::setChosen(const QList<QByteArray> &ids)
 {
     const QSet<QByteArray> wanted(ids.begin(), ids.end());
@@ -233,6 +240,12 @@ QList<KeeperSummary> KeeperPane::shown() const
     for (int row = 0; row < m_model->rowCount(); ++row)
         entries.append(m_model->entry(row));
     return entries;
+}
+
+void KeeperPane::showAll()
+{
+    m_search->clear();
+    setFilter({});
 }
 
 void KeeperPane::startSearch()
@@ -276,8 +289,12 @@ void KeeperPane::selectionMoved()
     if (!m_isFollowing || m_isAsking)
         return;
     const QList<QByteArray> wanted = selected();
-    if (wanted.isEmpty() || wanted == m_chosen)
+    if (wanted == m_chosen)
         return;
+    if (wanted.isEmpty()) { // a click beside the rows: what stands at the right stays marked
+        QMetaObject::invokeMethod(this, &KeeperPane::select, Qt::QueuedConnection);
+        return;
+    }
     if (!m_guard.isModified()) {
         setChosen(wanted);
         emit chosenChanged(m_chosen);

@@ -39,13 +39,16 @@ public:
     /// Marks this one alone; where filter and search leave it out, they are lifted. Asks nothing and says
     /// nothing.
     void choose(const QByteArray &id);
-    QList<QByteArray> chosen() const { return m_chosen; }
+    /// Without rows that are only a damaged record.
+    QList<QByteArray> chosen() const;
     /// What the list shows of them, in the order of the keeper.
     const QList<KeeperSummary> &chosenEntries() const { return m_chosenEntries; }
 
     KeeperFilter filter() const;
     void setFilter(const KeeperFilter &filter);
     void startSearch();
+    /// Lifts filter and search.
+    void showAll();
     void addButton(QPushButton *button);
     QListView &list() const { return *m_list; }
     /// Whether filter and search let this one through, which is chosen.

@@ -61,9 +61,9 @@ void KeeperPrintPanel::start(int chosen, int listed, int all)
         m_which->button(which)->setText(KeeperWindowLines::captionWithCount(caption, count));
         m_which->button(which)->setEnabled(count > 0);
     };
-    name(Chosen, u"C&hosen in the list"_s, chosen);
-    name(Listed, u"A&ll that the list shows"_s, listed);
-    name(All, u"All &entries"_s, all);
+    name(Chosen, u"&Chosen in the list"_s, chosen);
+    name(Listed, u"&All that the list shows"_s, listed);
+    name(All, u"All ent&ries"_s, all);
     QAbstractButton *proposed = m_which->button(chosen > 0 ? Chosen : listed > 0 ? Listed : All);
     proposed->setChecked(true);
     setFocusProxy(proposed);

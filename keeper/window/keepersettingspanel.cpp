@@ -25,7 +25,7 @@ KeeperSettingsPanel::KeeperSettingsPanel(Keeper &keeper, QWidget *parent)
           named(new QCheckBox(u"Lock it when its &window is minimised"_s, this), u"lockMinimised"_s))
     , m_seconds(named(new QSpinBox(this), u"clipboardSeconds"_s))
     , m_tellsExpiry(
-          named(new QCheckBox(u"The card on the main menu may tell when something &expires"_s, this),
+          named(new QCheckBox(u"The card on the main menu may tell when something ex&pires"_s, this),
                 u"tellsExpiry"_s))
 {
     m_minutes->setRange(1, mostMinutes);

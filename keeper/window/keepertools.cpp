@@ -38,7 +38,7 @@ QString KeeperTools::whyLocked() const
 void KeeperTools::addVersionsCommand(QMenu *edit)
 {
     m_desk.commands.add(
-        edit, u"mEVersions"_s, u"Earlier &Versions..."_s, [this] { openVersions(); },
+        edit, u"mEVersions"_s, u"E&arlier Versions..."_s, [this] { openVersions(); },
         [this] {
             return m_pane.chosen().size() == 1 && m_work.entry() ? QString() : KeeperWindowLines::chooseOne();
         });

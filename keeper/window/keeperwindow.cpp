@@ -80,6 +80,7 @@ Form4::Form4(Program &program, QWidget *parent, PasswordCost cost, std::chrono::
     Locking::offerAlso(program, activity(), [this] { return isOpen(); });
     m_pane->hide();
     m_door->show();
+    commands().refresh();
 }
 
 Form4::~Form4()

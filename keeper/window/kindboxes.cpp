@@ -17,7 +17,7 @@ using KeeperKinds::Input;
 
 namespace {
 constexpr int columnGap = 12;
-constexpr int rowGap = 10;
+constexpr int rowGap = 8;
 } // namespace
 
 KindBoxes::KindBoxes(EntryKind kind, const DateReading &reading, DatePicker *picker, QWidget *parent)

@@ -16,8 +16,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int nameWidth = 150;
-
 QLineEdit *makeBox(const QString &name, const QString &words, QWidget *parent)
 {
     auto *box = named(new QLineEdit(parent), name);
@@ -92,26 +90,28 @@ void OwnFields::addRow(const KeeperText &field)
 {
     const QString number = QString::number(m_made++);
     auto *whole = new QWidget(this);
-    auto *line = new QHBoxLayout(whole);
-    line->setContentsMargins({});
-    line->setSpacing(8);
+    auto *lines = new QVBoxLayout(whole);
+    lines->setContentsMargins({});
+    lines->setSpacing(4);
+    auto *head = new QHBoxLayout;
+    head->setSpacing(8);
     const Row row{whole,
                   makeBox(u"ownName_"_s + number, u"Name of the field"_s, whole),
                   makeBox(u"ownText_"_s + number, u"Text"_s, whole),
                   new SecretBox(u"ownSecret_"_s + number, field.name, whole),
                   named(new QCheckBox(u"Secret"_s, whole), u"ownIsSecret_"_s + number),
                   makeButton(u"ownRemove_"_s + number, u"Remove"_s, whole)};
-    row.name->setFixedWidth(boxWidth({}, nameWidth));
     row.name->setText(field.name);
     row.plain->setText(field.isSecret ? QString() : field.text);
     row.secret->setSecret(field.isSecret ? field.text : QString());
     row.isSecret->setChecked(field.isSecret);
     row.remove->setAccessibleName(u"Remove this field"_s);
-    line->addWidget(row.name, 0, Qt::AlignTop);
-    line->addWidget(row.plain, 1);
-    line->addWidget(row.secret, 1);
-    line->addWidget(row.isSecret, 0, Qt::AlignTop);
-    line->addWidget(row.remove, 0, Qt::AlignTop);
+    head->addWidget(row.name, 1);
+    head->addWidget(row.isSecret);
+    head->addWidget(row.remove);
+    lines->addLayout(head);
+    lines->addWidget(row.plain);
+    lines->addWidget(row.secret);
     row.isSecret->setMinimumHeight(row.name->sizeHint().height());
     row.plain->setVisible(!field.isSecret);
     row.secret->setVisible(field.isSecret);

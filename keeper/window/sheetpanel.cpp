@@ -55,7 +55,7 @@ SheetPanel::SheetPanel(QWidget *parent)
 void SheetPanel::start(int chosen, const QString &code)
 {
     m_withEntries->setText(
-        KeeperWindowLines::captionWithCount(u"With the &entries chosen in the list"_s, chosen));
+        KeeperWindowLines::captionWithCount(u"&With the entries chosen in the list"_s, chosen));
     m_withEntries->setChecked(chosen > 0);
     m_withEntries->setEnabled(chosen > 0);
     m_code->setText(code);

@@ -36,6 +36,11 @@ inline QString damaged(int place)
     return u"Damaged, place %1"_s.arg(place);
 }
 
+inline QString cannotBeOpened()
+{
+    return u"Cannot be opened"_s;
+}
+
 /// An earlier version stands in for what cannot be opened; `place` is 0 where nobody knows it.
 inline QString damagedVersion(int place, const QString &day)
 {
@@ -49,7 +54,7 @@ inline QString deletedOn(const QString &day)
 
 inline QString expiresOn(const QString &day, bool isOver)
 {
-    return (isOver ? u"Expired on %1"_s : u"Expires on %1"_s).arg(day);
+    return (isOver ? u"Expired %1"_s : u"Expires %1"_s).arg(day);
 }
 
 inline QString countOfEntries(int count, bool isTrash, bool isSearch)

@@ -29,7 +29,7 @@ UnlockView::UnlockView(Words words, const Names &names, QWidget *parent)
     , m_show(named(new QCheckBox(u"&Show password"_s, this), u"showPassword"_s))
     , m_refusal(named(makeQuietLabel({}, this), u"unlockRefusal"_s))
     , m_trying(named(new QProgressBar(this), u"unlockTrying"_s))
-    , m_open(makeButton(names.button, u"&Open"_s, this, ButtonKind::Main))
+    , m_open(makeButton(names.button, u"O&pen"_s, this, ButtonKind::Main))
     , m_other(new LinkButton(u"useRecoveryCode"_s, PasswordLines::useRecoveryCode(), this))
 {
     setObjectName(u"unlockView"_s);

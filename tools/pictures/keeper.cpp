@@ -8,7 +8,9 @@
 #include "tools/pictures/picturesession.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QListView>
+#include <QPlainTextEdit>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -146,6 +148,49 @@ void takeKinds(PictureSession &session)
     }
 }
 
+/// A file of another program, with what is there already, what differs and what cannot be read.
+void takeImport(PictureSession &session)
+{
+    const QString path = session.program().folder.filePath(u"log-ins.csv"_s);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write("Title,User name,Password,Web address\n"
+                   "Power company,lind-7781,copper-otter,power.example.com\n"
+                   "Library,annel,meadow-lantern-copper-otter,\n"
+                   "Book shop,anne,pa,ss,https://books.example.com\n"
+                   "Tax office,karin,blue-heron-9,https://tax.example.org\n"
+                   ",,,\n"
+                   "Garage,nils,silver-birch-4,garage.example.net\n") < 1)
+        qFatal("the file of log-ins cannot be written");
+    file.close();
+    session.box([&] { session.trigger("mUImport"); },
+                [&] {
+                    session.fill("fileNameEdit", path);
+                    session.key(Qt::Key_Return);
+                });
+    session.take("keeper-import");
+    session.click("keeperImportClose");
+}
+
+/// On paper: the options, the sheet for the safe and its page with the secrets.
+void takePaper(PictureSession &session)
+{
+    session.trigger("mOPrt");
+    session.take("keeper-print");
+    session.click("keeperPrintShow");
+    session.take("keeper-preview");
+    session.key(Qt::Key_Escape);
+    session.trigger("mUSheet");
+    session.find<QPlainTextEdit>("sheetWhere").setPlainText(u"The will: notary Holm, Lakeside"_s);
+    session.find<QPlainTextEdit>("sheetCall").setPlainText(u"Vera Sund, +1 555 0199"_s);
+    session.take("keeper-sheet");
+    session.click("sheetShow");
+    session.click("showSecrets");
+    session.take("keeper-sheet-preview");
+    session.takePage("keeper-sheet-page");
+    session.key(Qt::Key_Escape);
+}
+
 } // namespace
 
 void Albums::keeper(const Camera &camera)
@@ -175,9 +220,19 @@ void Albums::keeper(const Camera &camera)
     session.trigger("mOSet");
     session.take("keeper-settings");
     session.click("settingsClose");
+    session.trigger("mVCheck");
+    session.take("keeper-check-up");
+    session.click("checkupClose");
+    takeImport(session);
     session.trigger("mUMaster");
     session.take("keeper-change-master");
     session.click("masterClose");
     session.find<QListView>("keeperList").selectAll();
     session.take("keeper-several");
+    takePaper(session);
+    session.fill("keeperSearch", u"zebra"_s);
+    session.take("keeper-nothing-found");
+    session.trigger("mOLock");
+    session.click("useRecoveryCode");
+    session.take("keeper-by-code");
 }

@@ -100,14 +100,15 @@ private slots:
              {power()},
              cards,
              head +
-                 QStringList{u"Power company"_s, u"Log-in"_s, u"User name\tanne"_s, u"Password\t"_s + dots,
-                             u"PUK\t"_s + dots, u"Expires\tMay 1, 2027"_s, u"Notes\tRing twice."_s,
-                             u"\tAsk for Olaf."_s} +
+                 QStringList{u"Power company"_s, u"Kind\tLog-in"_s, u"User name\tanne"_s,
+                             u"Password\t"_s + dots, u"PUK\t"_s + dots, u"Expires\tMay 1, 2027"_s,
+                             u"Notes\tRing twice."_s, u"\tAsk for Olaf."_s} +
                  foot},
             {"the whole entry with its secrets",
              {card()},
              openCards,
-             head + QStringList{u"Bank card"_s, u"Card"_s, u"PIN\t0042"_s, u"If lost, call\t116 116"_s} +
+             head +
+                 QStringList{u"Bank card"_s, u"Kind\tCard"_s, u"PIN\t0042"_s, u"If lost, call\t116 116"_s} +
                  foot},
         });
     }

@@ -14,6 +14,7 @@
 #include <QGuiApplication>
 #include <QListView>
 #include <QListWidget>
+#include <QMenuBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -223,7 +224,10 @@ private slots:
         QCOMPARE(clipboard(), u"mine"_s);
         click("SSCommand2");
         choose(0);
-        find<QLineEdit>("entryBox_3")->setText(u"nils"_s); // typing stays in sight
+        auto *list = find<QListView>("keeperList");
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->viewport()->rect().bottomLeft());
+        QTRY_VERIFY(list->selectionModel()->hasSelection()); // a click beside the rows takes nothing away
+        find<QLineEdit>("entryBox_3")->setText(u"nils"_s);   // typing stays in sight
         typeInto(find<QLineEdit>("keeperSearch"), u"bank"_s);
         QCOMPARE(find<QLineEdit>("entryBox_3")->text(), u"nils"_s);
         QVERIFY(!find<QAction>("mECopyPass")->isEnabled());
@@ -429,6 +433,71 @@ private slots:
         m_test->dialogs.willChooseFile(path);
         trigger("mUExport");
         QVERIFY(m_test->bytes(u"out.csv"_s).contains("hunter2"));
+    }
+
+    /// Two that want the same key would leave it without effect.
+    void noAccessKeyIsTakenTwice_data()
+    {
+        rows<QByteArray>({{"an entry", {}},
+                          {"a password", "mUMake"},
+                          {"the sheet", "mUSheet"},
+                          {"paper", "mOPrt"},
+                          {"settings", "mOSet"},
+                          {"the check-up", "mVCheck"},
+                          {"versions", "mEVersions"},
+                          {"the master password", "mUMaster"}});
+    }
+    void noAccessKeyIsTakenTwice()
+    {
+        const auto [command] = row<QByteArray>();
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<QLineEdit>("entryTitle")->setText(u"Power"_s);
+        trigger("mESave");
+        if (!command.isEmpty())
+            trigger(command.constData());
+        QHash<QKeySequence, QString> taken;
+        const auto take = [&taken](const QString &caption) {
+            const QKeySequence key = QKeySequence::mnemonic(caption);
+            if (!key.isEmpty() && taken.contains(key))
+                QFAIL(qPrintable(caption + u" and "_s + taken.value(key)));
+            taken.insert(key, caption);
+        };
+        for (const QAction *menu : m_window->menuBar()->actions())
+            take(menu->text());
+        for (const QAbstractButton *button : m_window->findChildren<QAbstractButton *>()) {
+            if (button->isVisible())
+                take(button->text());
+        }
+        for (const QMenu *menu : m_window->menuBar()->findChildren<QMenu *>()) {
+            taken.clear();
+            for (const QAction *entry : menu->actions())
+                take(entry->text());
+        }
+    }
+
+    /// They are listed by their place, and nothing writes over them that does not say so.
+    void leavesDamagedEntriesAlone()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        trigger("mOLock");
+        QByteArray bytes = m_test->bytes(u"Secfile1.Fil"_s);
+        for (qsizetype at = 100; at < bytes.size(); at += 2048)
+            bytes[at] = char(bytes[at] ^ 1);
+        m_test->setBytes(u"Secfile1.Fil"_s, bytes);
+        answer(u"master"_s);
+        QTRY_COMPARE(titles().value(0), u"Damaged, place 1"_s);
+        choose(0);
+        QVERIFY(isSeen("damagedEntry"));
+        QVERIFY(!find<QAction>("mEDel")->isEnabled() && !find<QAction>("mUExport")->isEnabled());
+        m_test->dialogs.willAnswer(Answer::No);
+        trigger("mEGiveUp");
+        QCOMPARE(m_test->bytes(u"Secfile1.Fil"_s), bytes);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        trigger("mEGiveUp");
+        QCOMPARE(titles(), QStringList());
+        asked();
     }
 
     void saysWhatIsWrongWithTheFiles_data()
