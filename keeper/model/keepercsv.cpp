@@ -143,10 +143,8 @@ IncomingEntry KeeperCsvImport::read(const CsvFile::Line &line) const
         incoming.problem = u"a quote has no end"_s;
     } else if (m_mostCells > 0 && line.cells.size() > m_mostCells) {
         // A separator without quotes has cut a text in two, and nobody knows which one.
-        incoming.problem =
-            u"it has %1 cells and there are %2 headings; a text with the separator in it wants quotes"_s
-                .arg(line.cells.size())
-                .arg(m_heading.size());
+        incoming.problem = u"it has %1 cells for %2 headings; a text lacks quotes"_s.arg(line.cells.size())
+                               .arg(m_heading.size());
     } else if (hasControls(line.cells)) {
         incoming.problem = u"it has characters that are no text"_s;
     } else {

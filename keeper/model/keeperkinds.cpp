@@ -38,14 +38,17 @@ constexpr Box cardBoxes[] = {
 };
 constexpr Box wiFiBoxes[] = {
     {NetworkName, u"Network name"},
-    {Password, u"Password", Input::Password, true},
     {NetworkProtection, u"Protection"},
+    {Password, u"Password", Input::Password, true},
     {RouterAddress, u"Router's address", Input::Address},
 };
 constexpr Box licenceBoxes[] = {
-    {Product, u"Product"},          {LicenceKey, u"Licence key", Input::Password, true},
-    {LicensedTo, u"Licensed to"},   {BoughtOn, u"Bought on", Input::Date},
-    {OrderNumber, u"Order number"}, {Address, u"Web address", Input::Address},
+    {Product, u"Product"},
+    {LicensedTo, u"Licensed to"},
+    {LicenceKey, u"Licence key", Input::Password, true},
+    {BoughtOn, u"Bought on", Input::Date},
+    {OrderNumber, u"Order number"},
+    {Address, u"Web address", Input::Address},
 };
 constexpr Box documentBoxes[] = {
     {DocumentNumber, u"Number"},

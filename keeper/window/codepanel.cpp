@@ -3,6 +3,7 @@
 
 #include "keeper/window/secretface.h"
 #include "keeper/window/windowlines.h"
+#include "storage/sealing/secretbytes.h"
 
 #include <QVBoxLayout>
 
@@ -47,8 +48,7 @@ void CodePanel::show(const QString &code)
 
 void CodePanel::forget()
 {
-    m_code.fill(u'\0');
-    m_code.clear();
+    SecretBytes::wipe(m_code);
     m_face->setSecret({});
 }
 

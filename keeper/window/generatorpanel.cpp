@@ -5,6 +5,7 @@
 #include "keeper/window/secretface.h"
 #include "keeper/window/windowlines.h"
 #include "shell/look/theme.h"
+#include "storage/sealing/secretbytes.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -181,7 +182,7 @@ void GeneratorPanel::draw()
     m_characters->setEnabled(wanted.form == Recipe::Characters);
     m_words->setEnabled(wanted.form == Recipe::Words);
     const bool isPossible = PasswordGenerator::isPossible(wanted);
-    m_password.fill(u'\0');
+    SecretBytes::wipe(m_password);
     m_password = isPossible ? PasswordGenerator::make(wanted) : QString();
     m_face->setSecret(m_password);
     m_strength->setText(isPossible ? KeeperLines::drawn(PasswordGenerator::bits(wanted))
@@ -200,8 +201,7 @@ void GeneratorPanel::start(bool isForBox)
 
 void GeneratorPanel::forget()
 {
-    m_password.fill(u'\0');
-    m_password.clear();
+    SecretBytes::wipe(m_password);
     m_face->setSecret({});
 }
 

@@ -5,6 +5,7 @@
 #include "keeper/window/windowlines.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/pastefilter.h"
+#include "storage/sealing/secretbytes.h"
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
@@ -41,7 +42,7 @@ void SecretLine::setCaption(const QString &caption)
 
 void SecretLine::setSecret(const QString &secret)
 {
-    m_secret.fill(u'\0');
+    SecretBytes::wipe(m_secret);
     m_secret = secret;
     hideAgain();
 }
@@ -70,6 +71,7 @@ void SecretLine::hideAgain()
 
 void SecretLine::take(const QString &text)
 {
+    SecretBytes::wipe(m_secret);
     m_secret = text;
     setPlaceholderText({});
     emit edited();

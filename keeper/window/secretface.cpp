@@ -67,6 +67,7 @@ SecretFace::SecretFace(QWidget *parent)
 
 void SecretFace::setSecret(const QString &secret)
 {
+    std::ranges::fill(m_characters, 0);
     m_characters = secret.toUcs4();
     m_current = std::clamp(m_current, 0, std::max(0, int(m_characters.size()) - 1));
     nameWhole();
