@@ -28,7 +28,7 @@
 #include "storage/sealing/freememory.h"
 
 #include <QDialog>
-#include <QEvent>
+#include <QHideEvent>
 #include <QListView>
 #include <QMenu>
 #include <QVBoxLayout>
@@ -86,7 +86,6 @@ Form4::Form4(Program &program, QWidget *parent, PasswordCost cost, std::chrono::
 Form4::~Form4()
 {
     m_keeper.lock();
-    emit program().changes.guardsChanged(); // the card says so
 }
 
 KeeperDesk Form4::desk()
@@ -297,6 +296,14 @@ void Form4::changeEvent(QEvent *event)
 {
     FunctionWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isMinimized() && m_locksMinimised)
+        lock();
+}
+
+/// It locks itself when it is closed, and the card says so.
+void Form4::hideEvent(QHideEvent *event)
+{
+    FunctionWindow::hideEvent(event);
+    if (!event->spontaneous())
         lock();
 }
 

@@ -44,6 +44,7 @@ protected:
     void drop() override;
     Message leaveQuestion() const override;
     void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     KeeperDesk desk();
