@@ -8,6 +8,7 @@
 #include "shell/look/theme.h"
 
 #include <QCheckBox>
+#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -39,7 +40,12 @@ UnlockView::UnlockView(Words words, const Names &names, QWidget *parent)
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(24, 16, 24, 18);
     rows->addStretch(2);
-    rows->addWidget(makeForm(), 0, Qt::AlignHCenter);
+    // Between two springs: aligned, it would not get the height that its wrapped words take.
+    auto *middle = new QHBoxLayout;
+    middle->addStretch(1);
+    middle->addWidget(makeForm());
+    middle->addStretch(1);
+    rows->addLayout(middle);
     rows->addStretch(3);
     connect(m_show, &QCheckBox::toggled, this,
             [this](bool isShown) { m_box->setEchoMode(isShown ? QLineEdit::Normal : QLineEdit::Password); });
