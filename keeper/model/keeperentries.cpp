@@ -249,12 +249,7 @@ bool KeeperEntries::removeForGood(const QList<QByteArray> &ids)
 
 QList<QByteArray> KeeperEntries::trash() const
 {
-    QList<QByteArray> ids;
-    for (int place = 0; place < m_index.count(); ++place) {
-        if (const KeeperSummary entry = m_index.summary(place); entry.isTrashed)
-            ids.append(entry.id);
-    }
-    return ids;
+    return m_index.trash();
 }
 
 QList<QByteArray> KeeperEntries::oldTrash() const

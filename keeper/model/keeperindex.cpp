@@ -384,6 +384,16 @@ QList<int> KeeperIndex::find(QStringView text) const
     return places;
 }
 
+QList<QByteArray> KeeperIndex::trash() const
+{
+    QList<QByteArray> ids;
+    for (const Row &row : m_rows) {
+        if (row.isTrashed)
+            ids.append(QByteArray(row.id.data(), qsizetype(row.id.size())));
+    }
+    return ids;
+}
+
 std::vector<qint32> KeeperIndex::expiries(QDate from) const
 {
     std::vector<qint32> days;

@@ -57,6 +57,9 @@ public:
     /// in any order, case and accents folded; all for an empty text.
     QList<int> find(QStringView text) const;
 
+    /// The ids of what is in the trash.
+    QList<QByteArray> trash() const;
+
     /// When the documents expire that are not in the trash, from `from` on, the nearest first: days since
     /// 1970.
     std::vector<qint32> expiries(QDate from) const;

@@ -78,7 +78,7 @@ void EntryWork::show(const QList<QByteArray> &ids)
         m_several->show(chosenTitles(), KeeperFilters::tags(m_desk.keeper.entries()));
         showHome(m_several);
     } else {
-        showHome(m_desk.keeper.entries().isEmpty() ? m_empty : m_none);
+        showHome(m_desk.keeper.count() == 0 ? m_empty : m_none);
     }
 }
 
@@ -94,7 +94,7 @@ void EntryWork::showOne(const QByteArray &id)
     m_id = id;
     m_isOpen = true;
     m_isLocked = summary->isTrashed;
-    m_view->form().setOffered(KeeperFilters::tags(m_desk.keeper.entries()), offeredMembers());
+    offer();
     m_view->setLocked(m_isLocked);
     m_view->show(*entry, chipOf(summary, *entry), wordsOf(summary));
     showHome(m_view);
@@ -108,7 +108,7 @@ void EntryWork::startNew(const KeeperEntry &seed)
     m_isLocked = false;
     KeeperEntry blank;
     blank.setKind(seed.kind());
-    m_view->form().setOffered(KeeperFilters::tags(m_desk.keeper.entries()), offeredMembers());
+    offer();
     m_view->setLocked(false);
     m_view->show(blank, KeeperKinds::name(seed.kind()), {}, &seed);
     showHome(m_view);
@@ -143,11 +143,12 @@ QString EntryWork::wordsOf(const KeeperSummary *summary) const
 }
 
 /// Those of other entries first, then the household.
-QStringList EntryWork::offeredMembers() const
+void EntryWork::offer()
 {
-    QStringList members = KeeperFilters::members(m_desk.keeper.entries()) + m_household;
+    const QList<KeeperSummary> entries = m_desk.keeper.entries();
+    QStringList members = KeeperFilters::members(entries) + m_household;
     members.removeDuplicates();
-    return members;
+    m_view->form().setOffered(KeeperFilters::tags(entries), members);
 }
 
 /// Whom the household knows where no password guards it, while the keeper is open.
@@ -167,7 +168,7 @@ void EntryWork::readHousehold()
 void EntryWork::followKeeper()
 {
     m_pane.followKeeper();
-    m_view->form().setOffered(KeeperFilters::tags(m_desk.keeper.entries()), offeredMembers());
+    offer();
     m_desk.commands.refresh();
 }
 

@@ -68,7 +68,7 @@ private:
     void forgetDraft();
     QString chipOf(const KeeperSummary *summary, const KeeperEntry &entry) const;
     QString wordsOf(const KeeperSummary *summary) const;
-    QStringList offeredMembers() const;
+    void offer();
     void readHousehold();
     const KeeperSummary *summaryOf(const QByteArray &id) const;
 
