@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/model/keeper.h"
+#include "keeper/model/keepercsv.h"
+#include "keeper/model/keeperexport.h"
 #include "storage/changeset.h"
+#include "storage/sealing/freememory.h"
 
 #include <cstdio>
 #include <iostream>
@@ -10,11 +13,12 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-/// keeperprobe make|lock|kill|show FOLDER: a program to look into from outside. "make" sets up a keeper with
-/// the secret of its standard input; the others open it, do their work, say "ready" and wait for the end of
-/// the input: with the keeper locked again, or open without an entry shown, or with one shown.
-/// keeperprobe change|check FOLDER: "change" does all that a keeper writes, wherever it is interrupted;
-/// "check" is the next start, which fails unless all is there, as it was or as it should have become.
+/// keeperprobe make|lock|kill|work|show FOLDER: a program to look into from outside. "make" sets up a keeper
+/// with the secret of its standard input; the others open it, do their work, say "ready" and wait for the end
+/// of the input: with the keeper locked again, or open without an entry shown, or locked after all entries
+/// went out and came in again as a file, or with one shown. keeperprobe change|check FOLDER: "change" does
+/// all that a keeper writes, wherever it is interrupted; "check" is the next start, which fails unless all is
+/// there, as it was or as it should have become.
 namespace {
 
 const QString master = u"A master password of the probe"_s;
@@ -111,6 +115,17 @@ bool isAllThere(Keeper &keeper, const DataFolder &folder)
     return !secret.isEmpty() && keeper.setTrashed({id}, false) && keeper.save(again);
 }
 
+bool exchange(Keeper &keeper)
+{
+    QList<KeeperEntry> entries;
+    for (const KeeperSummary &each : keeper.entries())
+        entries.append(keeper.entry(each.id).value_or(KeeperEntry()));
+    KeeperCsvImport file(KeeperExport::csv(entries), {}, DateStyle::Usa);
+    while (file.step()) {}
+    QList<KeeperEntry> again = file.result();
+    return again.size() == entries.size() && keeper.saveAll(again);
+}
+
 void waitForTheEnd()
 {
     std::puts("ready");
@@ -149,8 +164,12 @@ int main(int argc, char **argv)
         if (way == "show" && entry.title == u"Planted"_s)
             shown = keeper.entry(entry.id);
     }
-    if (way == "lock")
+    if (way == "work" && !exchange(keeper))
+        return EXIT_FAILURE;
+    if (way == "lock" || way == "work")
         keeper.lock();
+    if (way == "work")
+        FreeMemory::wipe();
     waitForTheEnd();
     return EXIT_SUCCESS;
 }
