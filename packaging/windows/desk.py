@@ -49,6 +49,10 @@ class Screen:
     def is_active(self, pattern):
         return subprocess.run(["grep", "-qP", pattern], input=self.active(), text=True).returncode == 0
 
+    def activate(self, pattern):
+        """After a dialog that went: the window manager does not always know who comes next."""
+        self.tool("search", "--onlyvisible", "--name", pattern, "windowactivate")
+
     def windows(self, pattern):
         return self.tool("search", "--onlyvisible", "--name", pattern).split()
 
