@@ -110,6 +110,27 @@ bool CheckedBox::takeBackCorrection(const QKeyEvent &key)
     return true;
 }
 
+std::optional<AskedWord> CheckedBox::wordAtCursor() const
+{
+    const Line line = lineAt(cursor());
+    const WordPlace found = WordBreaks::wordAt(line.text, cursor() - line.begin);
+    if (found.length == 0 || isLocked())
+        return std::nullopt;
+    return AskedWord{{line.begin + found.at, found.length}, line.text.mid(found.at, found.length)};
+}
+
+bool CheckedBox::replaceWord(const AskedWord &asked, const QString &by)
+{
+    const Line line = lineAt(asked.place.at);
+    const bool isThere = line.text.mid(asked.place.at - line.begin, asked.place.length) == asked.word;
+    return isThere && !isLocked() && replace(asked.place, by);
+}
+
+void CheckedBox::takeFocus()
+{
+    m_box->setFocus();
+}
+
 bool CheckedBox::showMenu(const QContextMenuEvent &event)
 {
     const bool isByKey = event.reason() == QContextMenuEvent::Keyboard;
@@ -118,13 +139,34 @@ bool CheckedBox::showMenu(const QContextMenuEvent &event)
     const WordPlace found = WordBreaks::wordAt(line.text, place - line.begin);
     const QString word = line.text.mid(found.at, found.length);
     const std::vector<WordPlace> wrong = m_writing.spelling().wrongWords(line.text);
-    if (isLocked() || std::ranges::find(wrong, found) == wrong.end())
+    const bool isWrong = std::ranges::find(wrong, found) != wrong.end();
+    const bool mayLookUp = m_writing.offersThesaurus() && found.length > 0;
+    if (isLocked() || (!isWrong && !mayLookUp))
         return false;
+    const WordPlace inText{line.begin + found.at, found.length};
     QMenu *menu = usualMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    addSuggestions(*menu, {line.begin + found.at, found.length}, word);
+    if (isWrong)
+        addSuggestions(*menu, inText, word);
+    if (mayLookUp)
+        addThesaurus(*menu, {inText, word});
     menu->popup(event.globalPos());
     return true;
+}
+
+/// Before what every box has in its menu, behind what mends the word.
+void CheckedBox::addThesaurus(QMenu &menu, const AskedWord &asked)
+{
+    QAction *behind = menu.actions().value(0);
+    for (QAction *action : menu.actions()) {
+        if (action->objectName() == "spellEnd"_L1)
+            behind = menu.actions().value(menu.actions().indexOf(action) + 1);
+    }
+    auto *action = new QAction(WritingLines::thesaurusCommand(), &menu);
+    action->setObjectName(u"spellThesaurus"_s);
+    connect(action, &QAction::triggered, this, [this, asked] { m_writing.askThesaurus(this, asked); });
+    menu.insertAction(behind, action);
+    menu.insertSeparator(behind);
 }
 
 void CheckedBox::addSuggestions(QMenu &menu, const WordPlace &place, const QString &word)
@@ -148,5 +190,5 @@ void CheckedBox::addSuggestions(QMenu &menu, const WordPlace &place, const QStri
     menu.insertSeparator(first);
     add(u"Add Word"_s, [this, word] { m_writing.addWord(word); })->setObjectName(u"spellAddWord"_s);
     add(u"Ignore"_s, [this, word] { m_writing.ignore(word); })->setObjectName(u"spellIgnore"_s);
-    menu.insertSeparator(first);
+    menu.insertSeparator(first)->setObjectName(u"spellEnd"_s);
 }

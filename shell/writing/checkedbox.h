@@ -17,6 +17,12 @@ class QPoint;
 class QWidget;
 class Writing;
 
+/// A word of a box, and where it stands.
+struct AskedWord {
+    WordPlace place;
+    QString word;
+};
+
 /// What spelling adds to a box: it marks wrong words, corrects slips while one types, and offers other words
 /// in its menu. Places are counted in the whole text of the box. It bears the name `spellMarks`.
 class CheckedBox : public QObject
@@ -25,6 +31,13 @@ class CheckedBox : public QObject
 public:
     /// The words that are marked now.
     virtual QStringList marked() const = 0;
+
+    /// The word at the cursor; nothing beside a word, and in a locked box.
+    std::optional<AskedWord> wordAtCursor() const;
+    /// Puts `by` in place of `asked`, in a step of its own. False where another word stands there by now.
+    bool replaceWord(const AskedWord &asked, const QString &by);
+    /// Typing goes on in the box.
+    void takeFocus();
 
 protected:
     /// A line of the text, and where it begins.
@@ -78,6 +91,7 @@ private:
     bool takeBackCorrection(const QKeyEvent &key);
     bool showMenu(const QContextMenuEvent &event);
     void addSuggestions(QMenu &menu, const WordPlace &place, const QString &word);
+    void addThesaurus(QMenu &menu, const AskedWord &asked);
 
     Writing &m_writing;
     QWidget *m_box;

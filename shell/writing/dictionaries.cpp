@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/writing/dictionaries.h"
 
+#include "shell/writing/wordencoding.h"
 #include "shell/writing/writinglines.h"
 #include "storage/datafolder.h"
 
@@ -43,13 +44,6 @@ QByteArray encodingOf(const QString &affPath)
     return usualEncoding;
 }
 
-bool isKnownEncoding(const QByteArray &encoding)
-{
-    static constexpr std::array known{"UTF-8",  "UTF8",         "ISO8859-1",       "ISO-8859-1",
-                                      "CP1252", "WINDOWS-1252", "MICROSOFT-CP1252"};
-    return std::ranges::any_of(known, [&](const char *name) { return encoding.toUpper() == name; });
-}
-
 /// A list of words begins with their number, by which the library lays out its memory: one that the file has
 /// no room for is not believed.
 bool isWordList(const QString &dicPath)
@@ -83,7 +77,8 @@ bool isReadable(const QString &path)
 
 bool isAsItSays(const DictionaryFiles &files)
 {
-    return !files.encoding.toUpper().startsWith("UTF") || hasWholeLetters(files.affPath);
+    const auto encoding = WordEncoding::named(files.encoding);
+    return !encoding || !encoding->isUtf8() || hasWholeLetters(files.affPath);
 }
 
 QString languageOf(const QString &name)
@@ -148,7 +143,7 @@ DictionaryFiles Dictionaries::examined(DictionaryFiles files)
         files.whyNot = WritingLines::cannotBeRead();
     else if (QFileInfo(files.affPath).size() > mostBytes || QFileInfo(files.dicPath).size() > mostBytes)
         files.whyNot = WritingLines::tooLarge();
-    else if (!isKnownEncoding(files.encoding))
+    else if (!WordEncoding::named(files.encoding))
         files.whyNot = WritingLines::unknownEncoding(QString::fromLatin1(files.encoding));
     else if (!isWordList(files.dicPath) || !isAsItSays(files))
         files.whyNot = WritingLines::notADictionary();

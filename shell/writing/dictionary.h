@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/writing/wordencoding.h"
+
 #include <QStringList>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 class Hunspell;
 struct DictionaryFiles;
@@ -19,15 +23,13 @@ public:
     bool knows(QStringView word) const;
     /// The likeliest first; takes 20 to 90 ms.
     QStringList suggestions(QStringView word) const;
+    /// What the word may be a form of: "happy" of "happier".
+    QStringList stems(QStringView word) const;
 
 private:
-    enum class Encoding { Utf8, Latin1, Windows1252 };
-
-    Dictionary(const DictionaryFiles &files, Encoding encoding);
-    /// Nothing where the dictionary cannot hold `word`.
-    std::string encoded(QStringView word) const;
-    QString decoded(const std::string &word) const;
+    Dictionary(const DictionaryFiles &files, WordEncoding encoding);
+    QStringList decoded(const std::vector<std::string> &words) const;
 
     std::unique_ptr<Hunspell> m_words;
-    Encoding m_encoding;
+    WordEncoding m_encoding;
 };

@@ -103,6 +103,17 @@ QStringList Spelling::suggestions(QStringView word) const
     return all.first(std::min<qsizetype>(all.size(), mostSuggestions));
 }
 
+QStringList Spelling::stems(QStringView word) const
+{
+    QStringList all;
+    if (word.size() > longestWord)
+        return all;
+    for (const auto &dictionary : m_dictionaries)
+        all += dictionary->stems(word);
+    all.removeDuplicates();
+    return all;
+}
+
 bool Spelling::addOwnWord(const QString &word)
 {
     return m_ownWords.add(word);

@@ -35,6 +35,8 @@ public:
     /// up to a tenth of a second.
     QStringList suggestions(QStringView word) const;
     static constexpr int mostSuggestions = 8;
+    /// What the word may be a form of, each once.
+    QStringList stems(QStringView word) const;
     /// Lets go of what the dictionaries have said of words.
     void forgetLooked() const;
 

@@ -148,3 +148,29 @@ QString Writing::howToGetOne() const
 {
     return WritingLines::howToGetOne(m_home.folder.filePath(u"dictionaries"_s));
 }
+
+std::optional<ThesaurusFiles> Writing::thesaurusFiles() const
+{
+    QStringList wanted = languages();
+    if (wanted.isEmpty())
+        wanted += m_home.systemLanguage;
+    return Thesauri::firstFor(wanted, Thesauri::found(m_home.thesaurusFolders));
+}
+
+QString Writing::whyNoThesaurus() const
+{
+    return thesaurusFiles() ? QString()
+                            : WritingLines::howToGetThesaurus(m_home.folder.filePath(u"dictionaries"_s));
+}
+
+OtherWordsFound Writing::otherWords(const QString &word)
+{
+    const auto files = thesaurusFiles();
+    if (!files)
+        m_thesaurus.reset();
+    else if (!m_thesaurus || m_thesaurus->files().idxPath != files->idxPath) {
+        const BusyCursor busy;
+        m_thesaurus = Thesaurus::open(*files);
+    }
+    return m_thesaurus ? OtherWords::of(word, *m_thesaurus, m_spelling) : OtherWordsFound{word};
+}

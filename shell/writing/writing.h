@@ -3,6 +3,7 @@
 
 #include "shell/writing/corrections.h"
 #include "shell/writing/dictionaries.h"
+#include "shell/writing/otherwords.h"
 #include "shell/writing/spellhighlighter.h"
 #include "shell/writing/spelling.h"
 #include "storage/filestamp.h"
@@ -13,9 +14,11 @@
 #include <functional>
 
 class CheckedText;
+class CheckedBox;
 class QLineEdit;
 class QPlainTextEdit;
 class QSettings;
+struct AskedWord;
 
 /// What the spelling of a window stands on.
 struct WritingHome {
@@ -24,6 +27,7 @@ struct WritingHome {
     QSettings &store;
     std::function<QStringList()> knownNames{}; ///< asked once, when the languages are loaded
     QString systemLanguage = QLocale::system().name();
+    QStringList thesaurusFolders{}; ///< see `Thesauri::folders`
 };
 
 /// The spelling and the corrections of one window. Boxes that are given to it mark what is wrong, correct
@@ -66,6 +70,17 @@ public:
     void choose(const QString &language, bool isChosen);
     QString howToGetOne() const;
 
+    /// What the thesaurus of the first of the languages that has one knows of `word`; opens it on first use.
+    OtherWordsFound otherWords(const QString &word);
+    /// Why nothing can be looked up; empty where it can.
+    QString whyNoThesaurus() const;
+
+    /// From now on the boxes have a thesaurus in the menu of a word: `open` shows it.
+    using OpenThesaurus = std::function<void(CheckedBox *, const AskedWord &)>;
+    void offerThesaurus(OpenThesaurus open) { m_openThesaurus = std::move(open); }
+    bool offersThesaurus() const { return bool(m_openThesaurus); }
+    void askThesaurus(CheckedBox *box, const AskedWord &asked) const { m_openThesaurus(box, asked); }
+
 signals:
     /// Another word may be right or wrong now.
     void changed();
@@ -75,6 +90,7 @@ signals:
 private:
     void loadLanguages();
     void readFiles();
+    std::optional<ThesaurusFiles> thesaurusFiles() const;
 
     WritingHome m_home;
     Spelling m_spelling;
@@ -82,4 +98,6 @@ private:
     QString m_whyNoSpelling;
     FileStamp m_read;
     bool m_isLoaded = false;
+    std::unique_ptr<Thesaurus> m_thesaurus;
+    OpenThesaurus m_openThesaurus;
 };

@@ -141,4 +141,58 @@ inline QString nothingToUndo()
     return u"Nothing to undo"_s;
 }
 
+// The thesaurus
+
+inline QString thesaurusCommand()
+{
+    return u"T&hesaurus"_s;
+}
+
+inline QString noThesaurus()
+{
+    return u"No thesaurus is installed for this language"_s;
+}
+
+/// `folder`: where one may be put.
+inline QString howToGetThesaurus(const QString &folder)
+{
+    return u"The package mythes-en-us brings the English one, or put its .idx and .dat into "_s +
+           QDir::toNativeSeparators(folder);
+}
+
+inline QString noOtherWords(const QString &word)
+{
+    return u"\u201c%1\u201d is not in the thesaurus"_s.arg(word);
+}
+
+inline QString baseForm(const QString &word)
+{
+    return u"The base form of \u201c%1\u201d: its ending is not added to the words below"_s.arg(word);
+}
+
+inline QString noWordAtCursor()
+{
+    return u"The cursor stands at no word"_s;
+}
+
+inline QString wordHasChanged()
+{
+    return u"The word does not stand there any more"_s;
+}
+
+inline QString noWordTyped()
+{
+    return u"No word is chosen"_s;
+}
+
+inline QString isLookedUp()
+{
+    return u"This word is the one that is shown"_s;
+}
+
+inline QString nothingBefore()
+{
+    return u"This is the first word"_s;
+}
+
 } // namespace WritingLines
