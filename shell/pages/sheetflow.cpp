@@ -23,6 +23,8 @@ constexpr double rule = 0.75;
 constexpr double ruleGap = 9;
 constexpr double pictureGap = 6;
 constexpr double figureGap = 9;
+constexpr double headingGap = 3;       ///< below the heading of text
+constexpr double bookBlank = 0.6;      ///< of a line, where a book has an empty one
 constexpr qsizetype linesTogether = 2; ///< of a paragraph, on either side of a sheet's end
 constexpr double blankFactor = 1.6;    ///< room to write by hand
 constexpr QColor ruleColor(0x9A, 0x9A, 0x9A);
@@ -201,7 +203,7 @@ bool SheetFlow::place(const PageItem::Line &line)
     if (line.text.isEmpty()) {
         // A blank line separates two texts; at the top or the foot of a sheet there is nothing to separate.
         if (!m_isFresh || m_isFirst)
-            m_y += type.lineHeight();
+            m_y += type.lineHeight() * (m_layout.page().heads() == SheetHeads::Running ? bookBlank : 1);
         return true;
     }
     const SheetCell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line), {}};
@@ -238,6 +240,8 @@ bool SheetFlow::place(const PageItem::Paragraph &paragraph)
         return false;
     m_y += double(count) * type.lineHeight();
     m_at.line += int(count);
+    if (paragraph.role == TextRole::Heading && count == left)
+        m_y += headingGap;
     m_isFresh = false;
     return count == left;
 }
