@@ -25,6 +25,12 @@ bool isMissingOrEmptied(const QString &path)
     return !original.exists() || (original.isFile() && original.size() == 0);
 }
 
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 /// The files of `folder` whose name ends with `suffix`, in our own spelling.
 QStringList filesEndingWith(const DataFolder &folder, QLatin1StringView suffix)
 {
@@ -42,6 +48,12 @@ QStringList filesEndingWith(const DataFolder &folder, QLatin1StringView suffix)
 
 bool Saving::replaceFile(const DataFolder &folder, const QString &name, QByteArrayView content)
 {
+    return replaceFile(folder, name, content, {});
+}
+
+bool Saving::replaceFile(const DataFolder &folder, const QString &name, QByteArrayView content,
+                         const std::function<bool(const QByteArray &written)> &isRight)
+{
     const QString path = folder.filePath(name);
     if (folder.isReadOnly() || !isReplaceable(path)) {
         qCWarning(storageLog).noquote() << "Cannot replace" << path << "- it is a folder or write-protected";
@@ -50,7 +62,8 @@ bool Saving::replaceFile(const DataFolder &folder, const QString &name, QByteArr
     const QString part = path + partSuffix;
     const QString staged = path + stagedSuffix;
     const bool isNew = isMissingOrEmptied(path);
-    if (!Disk::writeWhole(part, content) || !Disk::renameOver(part, staged)) {
+    if (!Disk::writeWhole(part, content) || (isRight && !isRight(contentOf(part))) ||
+        !Disk::renameOver(part, staged)) {
         std::ignore = Disk::remove(part);
         return false;
     }

@@ -4,6 +4,7 @@
 #include "journal/model/journalfiles.h"
 #include "journal/model/lines.h"
 #include "storage/saving.h"
+#include "storage/sealing/freememory.h"
 
 #include <QFileInfo>
 
@@ -35,11 +36,15 @@ QString whyReadOnly(JournalForm::Form form, int year)
 
 } // namespace
 
-Journal::Journal(const DataFolder &folder, const Clock &clock, QObject *parent)
+Journal::Journal(const DataFolder &folder, const Clock &clock, QObject *parent, PasswordCost cost)
     : QObject(parent)
     , m_folder(folder)
     , m_clock(clock)
-{}
+    , m_seal(folder, clock, cost)
+{
+    connect(&m_seal, &JournalSeal::locking, this, &Journal::becomeLocked);
+    connect(&m_seal, &JournalSeal::changed, this, &Journal::sealChanged);
+}
 
 bool Journal::isPossible(QDate date)
 {
@@ -75,12 +80,17 @@ JournalYear Journal::readYear(int number)
         year.whyReadOnly = JournalLines::unreadableFile(JournalFiles::name(number));
         return year;
     }
-    const JournalForm::Form form = JournalForm::formOf(*bytes);
-    year.whyReadOnly = ::whyReadOnly(form, number);
-    if (form == JournalForm::Form::Sealed) {
+    if (isLocked()) {
         year.state = JournalYear::State::Locked;
+        year.whyReadOnly = JournalLines::sealed(number);
         return year;
     }
+    const std::optional<QByteArray> plain = plainOf(number, *bytes, year);
+    if (!plain) {
+        year.state = JournalYear::State::ForReading;
+        return year;
+    }
+    year.whyReadOnly = ::whyReadOnly(JournalForm::formOf(*plain), number);
     if (m_folder.isReadOnly())
         year.whyReadOnly = m_folder.whyReadOnly();
     else if (file.exists() && !file.isWritable() && year.whyReadOnly.isEmpty())
@@ -89,8 +99,29 @@ JournalYear Journal::readYear(int number)
         year.state = JournalYear::State::ForReading;
     else
         year.state = file.exists() ? JournalYear::State::Open : JournalYear::State::Missing;
-    year.setBlocks(JournalForm::blocks(*bytes, number));
+    year.setBlocks(JournalForm::blocks(*plain, number));
     return year;
+}
+
+std::optional<QByteArray> Journal::plainOf(int number, const QByteArray &bytes, JournalYear &year) const
+{
+    if (!SealedYear::isSealed(bytes))
+        return bytes;
+    if (SealedYear::isLater(bytes)) {
+        year.whyReadOnly = JournalLines::laterSeal(number);
+        return {};
+    }
+    if (!m_seal.isOpen() || m_seal.isOfAnotherSeal(bytes)) {
+        year.whyReadOnly = JournalLines::noKey(number);
+        return {};
+    }
+    const SealedYear opened(number, bytes, m_seal.key());
+    if (opened.isShut()) {
+        year.whyReadOnly = JournalLines::noKey(number);
+        return {};
+    }
+    year.damage = opened.damage();
+    return opened.plain();
 }
 
 bool Journal::readNext(int nearest)
@@ -232,12 +263,13 @@ bool Journal::deleteForGood(QDate date)
 
 bool Journal::isModified() const
 {
-    return std::ranges::any_of(m_years, [](const auto &year) { return year.second.isModified(); });
+    return !m_held.empty() ||
+           std::ranges::any_of(m_years, [](const auto &year) { return year.second.isModified(); });
 }
 
 bool Journal::save()
 {
-    bool areSaved = true;
+    bool areSaved = m_held.empty();
     for (auto &[number, year] : m_years) {
         if (year.isModified() && !saveYear(number, year))
             areSaved = false;
@@ -254,7 +286,10 @@ bool Journal::saveYear(int number, JournalYear &year)
         year.mergeInto(std::move(there));
         emit changed({});
     }
-    if (!Saving::replaceFile(m_folder, JournalFiles::name(number), JournalForm::file(year.blocks())))
+    const std::optional<QByteArray> former = JournalFiles::read(m_folder, number);
+    const std::optional<QByteArray> bytes =
+        former ? m_seal.toStore(number, JournalForm::file(year.blocks()), *former) : std::nullopt;
+    if (!bytes || !Saving::replaceFile(m_folder, JournalFiles::name(number), *bytes))
         return false;
     year.saved();
     year.stamp = JournalFiles::stamp(m_folder, number);
@@ -277,6 +312,7 @@ QString Journal::setAside(int year)
 void Journal::reread()
 {
     bool isChanged = false;
+    m_isLocked.reset();
     for (auto &[number, year] : m_years) {
         if (JournalFiles::stamp(m_folder, number) == year.stamp)
             continue;
@@ -292,4 +328,65 @@ void Journal::reread()
     }
     if (isChanged)
         emit changed({});
+}
+
+bool Journal::isLocked()
+{
+    if (!m_isLocked)
+        m_isLocked = m_seal.isLocked();
+    return *m_isLocked;
+}
+
+/// What the disk refused stays, but sealed; all else goes.
+void Journal::becomeLocked()
+{
+    for (auto &[number, year] : m_years) {
+        const QList<QDate> dates = year.modifiedDates();
+        JournalBlocks blocks;
+        for (const QDate date : dates) {
+            const JournalBlocks ofDate = year.blocksOf(date);
+            blocks.insert(blocks.end(), ofDate.begin(), ofDate.end());
+        }
+        if (!dates.isEmpty())
+            m_held[number] = {
+                dates, SealedYear::sealed(number, JournalForm::file(blocks), m_seal.head(), m_seal.key())};
+        for (JournalBlock &block : blocks)
+            SecretBytes::wipe(block.bytes);
+        year.wipe();
+    }
+    m_years.clear();
+    for (auto &[date, before] : m_sitting) {
+        if (before.entry)
+            SecretBytes::wipe(before.entry->text);
+        for (JournalBlock &block : before.blocks)
+            SecretBytes::wipe(block.bytes);
+    }
+    m_sitting.clear();
+    FreeMemory::wipe();
+}
+
+void Journal::sealChanged()
+{
+    m_isLocked.reset();
+    if (m_seal.isOpen()) {
+        std::erase_if(m_years, [](const auto &year) { return !year.second.isModified(); });
+        for (auto held = m_held.begin(); held != m_held.end();) {
+            const auto &[number, what] = *held;
+            JournalYear &year = yearOf(number);
+            if (!year.mayBeWritten()) {
+                ++held;
+                continue;
+            }
+            const SealedYear opened(number, what.sealed, m_seal.key());
+            const JournalBlocks blocks = JournalForm::blocks(opened.plain(), number);
+            for (const QDate date : what.dates) {
+                JournalBlocks ofDate;
+                std::ranges::copy_if(blocks, std::back_inserter(ofDate),
+                                     [date](const JournalBlock &block) { return block.date == date; });
+                year.replace(date, ofDate);
+            }
+            held = m_held.erase(held);
+        }
+    }
+    emit changed({});
 }

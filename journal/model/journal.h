@@ -2,6 +2,7 @@
 #pragma once
 
 #include "journal/model/journalentry.h"
+#include "journal/model/journalseal.h"
 #include "journal/model/journalyear.h"
 #include "shell/core/clock.h"
 #include "storage/datafolder.h"
@@ -18,9 +19,15 @@ class Journal final : public QObject
 {
     Q_OBJECT
 public:
-    Journal(const DataFolder &folder, const Clock &clock, QObject *parent = nullptr);
+    /// `cost` goes into a seal that is made.
+    Journal(const DataFolder &folder, const Clock &clock, QObject *parent = nullptr,
+            PasswordCost cost = PasswordCost::moderate());
 
     const DataFolder &folder() const { return m_folder; }
+    /// What the years are sealed with. Behind a walk over them, `reread` knows it.
+    JournalSeal &seal() { return m_seal; }
+    /// Whether nothing may be shown or written before the seal is opened.
+    bool isLocked();
     static bool isPossible(QDate date);
 
     /// The years that have a file or something that is not saved yet, ascending; none of them is read.
@@ -59,9 +66,10 @@ public:
     /// What comes is another sitting: days are compared with what they are now.
     void beginSitting() { m_sitting.clear(); }
 
+    /// Also while it is locked with something that the disk had refused.
     bool isModified() const;
     /// Brings what is not saved to the disk. False when not all of it is there: it is kept, to be tried
-    /// again.
+    /// again. Over the locking it is kept sealed.
     bool save();
     /// The name that the file of a year for reading only was given; empty when that failed.
     QString setAside(int year);
@@ -80,13 +88,26 @@ private:
         QDateTime written{}; ///< what an entry that is new gets
     };
 
+    /// What the disk had refused before the journal was locked: changed dates, and their blocks, sealed.
+    struct Held {
+        QList<QDate> dates;
+        QByteArray sealed;
+    };
+
     JournalYear &yearOf(int year);
     JournalYear readYear(int number);
+    /// The plain form of what the file holds; nothing where it does not open, and the year says why.
+    std::optional<QByteArray> plainOf(int number, const QByteArray &bytes, JournalYear &year) const;
+    void becomeLocked();
+    void sealChanged();
     [[nodiscard]] bool saveYear(int number, JournalYear &year);
     Before &before(JournalYear &year, QDate date);
 
     const DataFolder &m_folder;
     const Clock &m_clock;
+    JournalSeal m_seal;
+    std::optional<bool> m_isLocked; ///< as the files said last
+    std::map<int, Held> m_held;
     std::map<int, JournalYear> m_years;
     std::map<QDate, Before> m_sitting;
     qint64 m_readings = 0; ///< so that no year has a revision twice

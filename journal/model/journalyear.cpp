@@ -2,6 +2,7 @@
 #include "journal/model/journalyear.h"
 
 #include "journal/model/journalform.h"
+#include "storage/sealing/secretbytes.h"
 
 #include <algorithm>
 
@@ -106,4 +107,24 @@ void JournalYear::mergeInto(JournalYear there)
         there.m_unsaved[date] = theirs;
     }
     *this = std::move(there);
+}
+
+QList<QDate> JournalYear::modifiedDates() const
+{
+    QList<QDate> dates;
+    for (const auto &[date, blocks] : m_unsaved)
+        dates.append(date);
+    return dates;
+}
+
+void JournalYear::wipe()
+{
+    for (JournalBlock &block : m_blocks)
+        SecretBytes::wipe(block.bytes);
+    for (auto &[date, blocks] : m_unsaved) {
+        for (JournalBlock &block : blocks)
+            SecretBytes::wipe(block.bytes);
+    }
+    m_unsaved.clear();
+    setBlocks({});
 }

@@ -3,6 +3,7 @@
 
 #include "journal/model/journalblock.h"
 #include "journal/model/journalentry.h"
+#include "journal/model/sealedyear.h"
 #include "storage/filestamp.h"
 
 #include <map>
@@ -20,9 +21,10 @@ public:
     };
 
     State state = State::Missing;
-    QString whyReadOnly{}; ///< a sentence for the user
-    FileStamp stamp{};     ///< of the file as it was read or written last
-    qint64 revision = 0;   ///< changes with the blocks; each reading begins where no other has been
+    QString whyReadOnly{};              ///< a sentence for the user
+    FileStamp stamp{};                  ///< of the file as it was read or written last
+    std::vector<SealedDamage> damage{}; ///< what of a sealed year does not open as it should
+    qint64 revision = 0; ///< changes with the blocks; each reading begins where no other has been
 
     bool mayBeWritten() const { return state == State::Missing || state == State::Open; }
 
@@ -40,11 +42,15 @@ public:
     void replace(QDate date, const JournalBlocks &blocks);
     bool isModified() const { return !m_unsaved.empty(); }
     bool isModified(QDate date) const { return m_unsaved.contains(date); }
+    QList<QDate> modifiedDates() const;
     void saved() { m_unsaved.clear(); }
 
     /// Puts what is not saved into `there`, the same year as the disk has it now, and becomes that. Where a
     /// date was changed on both sides, what is there stands under what is here.
     void mergeInto(JournalYear there);
+
+    /// Overwrites all texts with zeros; there is nothing in it then.
+    void wipe();
 
 private:
     JournalBlocks::const_iterator find(QDate date) const;

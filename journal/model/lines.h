@@ -38,4 +38,14 @@ inline QString sealed(int year)
     return u"%1 is sealed."_s.arg(year);
 }
 
+inline QString laterSeal(int year)
+{
+    return u"%1 was sealed by a later version of Quillery: it cannot be opened."_s.arg(year);
+}
+
+inline QString noKey(int year)
+{
+    return u"%1 is sealed with another key, which is not here: nobody can open it."_s.arg(year);
+}
+
 } // namespace JournalLines

@@ -55,7 +55,7 @@ QString GuardedAreas::functionName(int area)
 QString GuardedAreas::name(int area)
 {
     const bool isButton = area == Area::AddressBookButton || area == Area::AddressViewerButton;
-    return isButton ? functionName(area) + u" (toolbar button)"_s : functionName(area);
+    return isButton ? functionName(area) + u" (toolbar)"_s : functionName(area);
 }
 
 int GuardedAreas::otherWay(int area)

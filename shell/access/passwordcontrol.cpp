@@ -172,7 +172,7 @@ QWidget *Form31::makeMarks()
 QLayout *Form31::makeOwnMarks(QWidget *parent)
 {
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(20);
+    grid->setHorizontalSpacing(16);
     grid->setVerticalSpacing(4);
     grid->setColumnStretch(1, 1);
     for (const int area : ownAreas) {

@@ -257,6 +257,8 @@ void RecoveryBox::print()
         return PagePainter(recoveryPage(m_note->code(), context), paper, font);
     };
     ActivityBar told(m_program.clock, state.dateStyle); // what it says is said here
-    PrintJob(m_program, told, this, PasswordMessages::recoveryTitle()).run(layOut(setup), setup, 0, layOut);
+    PrintJob job(m_program, told, this, PasswordMessages::recoveryTitle());
+    job.setMayGoOn([this] { return isVisible(); }); // it closes when the program is locked
+    job.run(layOut(setup), setup, 0, layOut);
     m_note->say(told.message());
 }

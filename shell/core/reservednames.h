@@ -51,11 +51,11 @@ inline bool isReserved(QStringView name)
 /// The files of the program whose names end in ".Fil", without that ending. The years, of which the budget
 /// has a file each, and the files of cars, of the journal and of the calendar maker are beyond them.
 inline constexpr std::array programFiles{
-    "Addbk1"_L1,   "Addbk2"_L1,   "Auto1"_L1,    "Auto2"_L1,    "CarMnt1"_L1,  "GColor1"_L1,
-    "GColor14"_L1, "GColor2"_L1,  "GColor3"_L1,  "GColor4"_L1,  "GColor44"_L1, "GColor5"_L1,
-    "GHINV1"_L1,   "HINV2"_L1,    "HInvName"_L1, "Holiday1"_L1, "PCtrl1"_L1,   "Photobk3"_L1,
-    "Photobk4"_L1, "Secfile1"_L1, "Secfile2"_L1, "SWR2"_L1,     "Spell1"_L1,   "Spell2"_L1,
-    "Temp"_L1,     "ToDo1"_L1,    "TODOActv"_L1, "TODONAME"_L1, "Video2"_L1,   "WeightTrker"_L1};
+    "Addbk1"_L1,   "Addbk2"_L1,   "Auto1"_L1,      "Auto2"_L1,   "CarMnt1"_L1,  "DJourKey"_L1, "GColor1"_L1,
+    "GColor14"_L1, "GColor2"_L1,  "GColor3"_L1,    "GColor4"_L1, "GColor44"_L1, "GColor5"_L1,  "GHINV1"_L1,
+    "HINV2"_L1,    "HInvName"_L1, "Holiday1"_L1,   "PCtrl1"_L1,  "Photobk3"_L1, "Photobk4"_L1, "Secfile1"_L1,
+    "Secfile2"_L1, "SWR2"_L1,     "Spell1"_L1,     "Spell2"_L1,  "Temp"_L1,     "ToDo1"_L1,    "TODOActv"_L1,
+    "TODONAME"_L1, "Video2"_L1,   "WeightTrker"_L1};
 
 /// Whether `name` with ".Fil" behind it is a file of the program's own, upper and lower case alike.
 inline bool isProgramFile(QStringView name)

@@ -90,6 +90,7 @@ void WindowCover::hideContent()
 
 QWidget *WindowCover::lift()
 {
+    keepFocus();
     m_window.removeEventFilter(this);
     m_window.setWindowTitle(m_title);
     for (const QPointer<QWidget> &part : m_hidden) {
@@ -131,8 +132,12 @@ bool WindowCover::eventFilter(QObject *watched, QEvent *event)
     case QEvent::ShortcutOverride:
         event->accept();
         return true;
+    case QEvent::WindowActivate:
+        keepFocus(); // the button is given it now
+        return false;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
+        keepFocus();
         m_button->setFocus();
         return true;
     case QEvent::Close:
@@ -153,6 +158,14 @@ void WindowCover::keepTitle()
         return;
     m_title = m_window.windowTitle();
     m_window.setWindowTitle(coveredTitle());
+}
+
+/// What a window that goes on behind its cover gives the focus to is for later, too.
+void WindowCover::keepFocus()
+{
+    QWidget *given = m_window.focusWidget();
+    if (given && given != this && !isAncestorOf(given))
+        m_focus = given;
 }
 
 void WindowCover::keyPressEvent(QKeyEvent *event)

@@ -20,7 +20,7 @@ public:
     /// Hides what `window` shows, and takes its keys.
     WindowCover(QWidget &window, std::function<void()> unlock);
 
-    /// Shows it again and goes; gives what had the focus.
+    /// Shows it again and goes; gives what had the focus, or was given it meanwhile.
     QWidget *lift();
 
     /// The cover over `window`, if there is one.
@@ -36,6 +36,7 @@ private:
     void layOut();
     void hideContent();
     void keepTitle();
+    void keepFocus();
 
     QWidget &m_window;
     std::function<void()> m_unlock;

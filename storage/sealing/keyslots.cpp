@@ -212,30 +212,45 @@ QByteArray KeySlots::made(const KeyDerivation &password, const KeyDerivation &re
     content.sealedKeys.fill(QByteArray(slotLength, '\0'));
     seal(content, Password, password, key);
     seal(content, Recovery, recovery, key);
+    return bothCopies(content);
+}
+
+QByteArray KeySlots::bothCopies(Content content) const
+{
     const QByteArray first = encoded(content);
-    content.number = 2;
+    content.number += content.number < lastNumber ? 1 : 0;
     return first + encoded(content);
 }
 
 std::optional<KeyDerivation> KeySlots::opening(Slot slot, SecretBytes typed) const
 {
     const std::optional<Content> content = this->content();
-    if (!content || !isUsed(content->sealedKeys[std::size_t(slot - 1)]))
+    return content ? opening(*content, slot, std::move(typed)) : std::nullopt;
+}
+
+std::optional<KeyDerivation> KeySlots::opening(const Content &content, Slot slot, SecretBytes typed) const
+{
+    const QByteArray &sealed = content.sealedKeys[std::size_t(slot - 1)];
+    if (!isUsed(sealed))
         return std::nullopt;
-    return KeyDerivation(std::move(typed),
-                         content->sealedKeys[std::size_t(slot - 1)].first(KeyDerivation::saltLength),
-                         content->cost);
+    return KeyDerivation(std::move(typed), sealed.first(KeyDerivation::saltLength), content.cost);
 }
 
 std::optional<SecretBytes> KeySlots::open(Slot slot, const KeyDerivation &derived) const
 {
     const std::optional<Content> content = this->content();
-    if (!content || !derived.isDone())
+    return content ? open(*content, slot, derived) : std::nullopt;
+}
+
+std::optional<SecretBytes> KeySlots::open(const Content &content, Slot slot,
+                                          const KeyDerivation &derived) const
+{
+    if (!derived.isDone())
         return std::nullopt;
     const QByteArrayView sealed =
-        QByteArrayView(content->sealedKeys[std::size_t(slot - 1)]).sliced(KeyDerivation::saltLength);
+        QByteArrayView(content.sealedKeys[std::size_t(slot - 1)]).sliced(KeyDerivation::saltLength);
     SecretBytes key(SealedRecords::keyLength);
-    if (!SealedRecords::open(sealed, context(*content, slot), derived.key(), key))
+    if (!SealedRecords::open(sealed, context(content, slot), derived.key(), key))
         return std::nullopt;
     return key;
 }

@@ -68,6 +68,14 @@ public:
     std::optional<KeyDerivation> opening(Slot slot, SecretBytes typed) const;
     /// The key, or nothing when that was not the password (or the code) of the slot.
     std::optional<SecretBytes> open(Slot slot, const KeyDerivation &derived) const;
+    /// The same two for a copy that is kept elsewhere, whatever the file is.
+    std::optional<KeyDerivation> opening(const Content &content, Slot slot, SecretBytes typed) const;
+    std::optional<SecretBytes> open(const Content &content, Slot slot, const KeyDerivation &derived) const;
+
+    /// The bytes of a copy, to be kept elsewhere; `parse` reads it.
+    QByteArray encoded(const Content &content) const;
+    /// The bytes of a file, both copies, that holds the keys of `content`.
+    QByteArray bothCopies(Content content) const;
 
     /// Puts a new password or code into the slot of both copies, one on the disk before the other: the old
     /// one opens neither. False, with the old one in force, when the file is not whole enough or the disk
@@ -92,7 +100,6 @@ private:
     Copies copies(QByteArrayView bytes) const;
     bool isLater(QByteArrayView record) const;
     std::optional<Content> parsedCopy(QByteArrayView record) const;
-    QByteArray encoded(const Content &content) const;
     QByteArray context(const Content &content, Slot slot) const;
     void seal(Content &content, Slot slot, const KeyDerivation &derived, const SecretBytes &key) const;
     QByteArray read() const;

@@ -69,14 +69,22 @@ QByteArray SealedRecords::seal(QByteArrayView plain, QByteArrayView context, con
 bool SealedRecords::open(QByteArrayView sealed, QByteArrayView context, const SecretBytes &key,
                          SecretBytes &plain)
 {
+    return open(sealed, context, key, plain.span());
+}
+
+bool SealedRecords::open(QByteArrayView sealed, QByteArrayView context, const SecretBytes &key,
+                         std::span<char> plain)
+{
     const qsizetype cipherLength = sealed.size() - nonceLength;
-    if (cipherLength < tagLength || plain.size() < cipherLength - tagLength || key.size() != keyLength)
+    if (cipherLength < tagLength || qsizetype(plain.size()) < cipherLength - tagLength ||
+        key.size() != keyLength)
         return false;
     if (crypto_aead_xchacha20poly1305_ietf_decrypt(
-            plain.bytes(), nullptr, nullptr, bytesOf(sealed.sliced(nonceLength)),
-            static_cast<quint64>(cipherLength), bytesOf(context), static_cast<quint64>(context.size()),
-            bytesOf(sealed), key.bytes()) == 0)
+            reinterpret_cast<unsigned char *>(plain.data()), nullptr, nullptr,
+            bytesOf(sealed.sliced(nonceLength)), static_cast<quint64>(cipherLength), bytesOf(context),
+            static_cast<quint64>(context.size()), bytesOf(sealed), key.bytes()) == 0)
         return true;
-    plain.zero();
+    if (!plain.empty())
+        sodium_memzero(plain.data(), plain.size());
     return false;
 }

@@ -5,6 +5,8 @@
 
 #include <QByteArray>
 
+#include <span>
+
 /// Records that only a key opens (XChaCha20-Poly1305): a nonce of its own at each sealing, the sealed bytes,
 /// their tag. A record opens only at its number and in its file, which the context names.
 class SealedRecords
@@ -36,6 +38,9 @@ public:
     static QByteArray seal(QByteArrayView plain, QByteArrayView context, const SecretBytes &key);
     static bool open(QByteArrayView sealed, QByteArrayView context, const SecretBytes &key,
                      SecretBytes &plain);
+    /// The same into memory that need not be a secret's.
+    static bool open(QByteArrayView sealed, QByteArrayView context, const SecretBytes &key,
+                     std::span<char> plain);
 
 private:
     QByteArray contextOf(int number) const;

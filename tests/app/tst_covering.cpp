@@ -209,6 +209,8 @@ private slots:
         emit m_test->changes.lockRequested();
         QVERIFY(Covering::isCovered(*keeper) && Covering::isCovered(question));
         QVERIFY(!toldOf(keeper).contains("Chess"_L1) && !toldOf(&question).contains("Chess"_L1));
+        auto *other = control<QLineEdit>(*keeper, "newMasterAgain");
+        other->setFocus(); // it goes on behind its cover
         m_verdict = PasswordGateResult::Refused;
         unlock(&question);
         QVERIFY(m_prompts == 1 && Covering::isCovered(*keeper) && Covering::isCovered(question));
@@ -216,6 +218,9 @@ private slots:
         unlock(&question);
         QVERIFY(!Covering::isCovered(*keeper) && !Covering::isCovered(question));
         QCOMPARE(box->text(), u"Chess club"_s);
+        question.reject();
+        showActive(*keeper);
+        QVERIFY(other->hasFocus());
     }
 
     void thePrintersQueueTellsNothing()

@@ -38,6 +38,17 @@ private slots:
         QCOMPARE(files().size(), 2);
     }
 
+    void replacesAFileOnlyByWhatIsReadBackRight()
+    {
+        m_files->put(u"A.fil"_s, "old");
+        const auto isNew = [](const QByteArray &written) { return written == "new"; };
+        QVERIFY(!Saving::replaceFile(m_files->folder(), u"A.fil"_s, "other", isNew));
+        QCOMPARE(m_files->bytes(u"A.fil"_s), QByteArray("old"));
+        QCOMPARE(QDir(m_files->folder().path()).entryList(QDir::Files), QStringList{u"A.fil"_s});
+        QVERIFY(Saving::replaceFile(m_files->folder(), u"A.fil"_s, "new", isNew));
+        QCOMPARE(m_files->bytes(u"A.fil"_s), QByteArray("new"));
+    }
+
     void keepsTheOldFileOnAFullDisk()
     {
 #ifdef Q_OS_UNIX

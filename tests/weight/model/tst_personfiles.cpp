@@ -242,6 +242,7 @@ private slots:
             {"the list of cars", u"CarMnt1"_s, reserved(u"CarMnt1"_s)},
             {"the To Do list", u"todo1"_s, reserved(u"todo1"_s)},
             {"the journal", u"DJour3"_s, reserved(u"DJour3"_s)},
+            {"its key", u"DJourKey"_s, reserved(u"DJourKey"_s)},
             {"no journal", u"DJournal"_s, {}},
             {"holidays", u"holiday1"_s, reserved(u"holiday1"_s)},
             {"one who is there", u"ZOË marsh "_s, WeightMessages::nameTaken(u"ZOË marsh"_s)},
