@@ -212,7 +212,8 @@ std::optional<WeightChange> PersonFiles::save(const QString &name, const WeightS
     change.replace(m_folder, fileName(after), encode(sheet));
     if (isRenamed) {
         listed[place - 1] = after;
-        if (m_folder.filePath(fileName(after)) != m_folder.filePath(fileName(name)))
+        // Where the disk heeds no case, two spellings lead to one file.
+        if (QFileInfo(m_folder.filePath(fileName(after))) != QFileInfo(m_folder.filePath(fileName(name))))
             change.replace(m_folder, fileName(name), {});
         renameTold(change, name, after);
     }
