@@ -344,6 +344,7 @@ private slots:
         link->click();
         QVERIFY(Covering::isCovered(*planner));
         const QDateTime time = m_test->clock.now();
+        m_test->state.dateStyle = DateStyle::Other;
         m_test->gate.noteRightAnswer({3, time, time});
         unlock(planner);
         QCOMPARE(planner->findChild<ActivityBar *>()->notice(),
