@@ -2,6 +2,7 @@
 #include "shell/pages/fixedface.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 
 using namespace Qt::Literals::StringLiterals;
 
