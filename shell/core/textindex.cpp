@@ -2,10 +2,10 @@
 #include "shell/core/textindex.h"
 
 #include "storage/bytecase.h"
+#include "storage/bytesearch.h"
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace {
 
@@ -34,51 +34,6 @@ QByteArrayView trimmed(QByteArrayView bytes)
     if (const qsizetype zero = bytes.indexOf('\0'); zero >= 0)
         bytes.truncate(zero);
     return bytes.trimmed();
-}
-
-/// Whether the word's first, middle and last letter stand at their distances anywhere in the `stride` places
-/// from `at`. Without a branch in the loop, the compiler looks at sixteen places at once; this decides how
-/// long a search takes.
-constexpr qsizetype stride = 64;
-bool mayBegin(const char *at, QByteArrayView word)
-{
-    const qsizetype middle = word.size() / 2;
-    const qsizetype last = word.size() - 1;
-    const char *const atMiddle = at + middle;
-    const char *const atLast = at + last;
-    const char first = word.front();
-    const char between = word[middle];
-    const char end = word[last];
-    uchar found = 0;
-    for (qsizetype i = 0; i < stride; ++i)
-        found |= uchar(uchar(at[i] == first) & uchar(atMiddle[i] == between) & uchar(atLast[i] == end));
-    return found != 0;
-}
-
-/// The first place of `word` from `at` on; null when it is not there.
-const char *firstPlace(const char *at, const char *end, QByteArrayView word)
-{
-    const auto length = std::size_t(word.size());
-    const auto letter = [&](const char *from, const char *to) {
-        return static_cast<const char *>(std::memchr(from, word.front(), std::size_t(to - from)));
-    };
-    while (end - at >= word.size()) {
-        const char *const lastStart = end - word.size();
-        const char *stop = lastStart + 1;
-        if (length > 1 && stop - at >= stride) {
-            stop = at + stride;
-            if (!mayBegin(at, word)) {
-                at = stop;
-                continue;
-            }
-        }
-        for (const char *found = letter(at, stop); found; found = letter(found + 1, stop)) {
-            if (std::memcmp(found, word.data(), length) == 0)
-                return found;
-        }
-        at = stop;
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -146,7 +101,7 @@ void TextIndex::find(const Words &words, const std::function<bool(const Hit &)> 
     const char *const end = begin + m_bytes.size();
     const QByteArray &rarest = words.m_words.front();
     std::size_t text = 0;
-    for (const char *at = begin; (at = firstPlace(at, end, rarest));) {
+    for (const char *at = begin; (at = ByteSearch::find(at, end, rarest));) {
         while (text + 1 < m_starts.size() && begin + m_starts[text + 1] <= at)
             ++text;
         const char *const textEnd = text + 1 < m_starts.size() ? begin + m_starts[text + 1] : end;
@@ -180,7 +135,7 @@ TextIndex::Place TextIndex::bestPlace(QByteArrayView text, const QByteArray &wor
     const char *const end = begin + text.size();
     const char *titleEnd = nullptr;
     Place best;
-    for (const char *at = begin; (at = firstPlace(at, end, word)); ++at) {
+    for (const char *at = begin; (at = ByteSearch::find(at, end, word)); ++at) {
         if (!titleEnd)
             titleEnd = std::find(begin, end, lineEnd);
         const bool isStart = at == begin || !isOfWord(at[-1]) || !isOfWord(word.front());
