@@ -173,20 +173,25 @@ QDate Journal::next(QDate date)
 
 QList<QDate> Journal::onThisDay(QDate date, int neighbours) const
 {
+    const auto isNearby = [date, neighbours](QDate day) {
+        for (int year = day.year() - 1; year <= day.year() + 1; ++year) {
+            // 29 February has no place of its own in most years; its neighbours there are the 28th and 1
+            // March.
+            const QDate same(year, date.month(), date.day());
+            const QDate first = same.isValid() ? same : QDate(year, 3, 1);
+            const QDate last = same.isValid() ? same : QDate(year, 2, 28);
+            if (year != date.year() && day >= first.addDays(-neighbours) && day <= last.addDays(neighbours))
+                return true;
+        }
+        return false;
+    };
     QList<QDate> found;
     for (const auto &[number, year] : m_years) {
-        if (number == date.year())
-            continue;
-        // 29 February has no place of its own in most years: its neighbours are those of 1 March there.
-        const QDate same(number, date.month(), date.day());
-        const QDate middle = same.isValid() ? same : QDate(number, 3, 1);
-        const QDate first =
-            same.isValid() || neighbours > 0 ? middle.addDays(-neighbours) : middle.addDays(1);
-        for (const QDate day : year.dates()) {
-            if (day >= first && day <= middle.addDays(neighbours))
-                found.prepend(day);
-        }
+        QList<QDate> days = year.dates();
+        days.removeIf([&isNearby](QDate day) { return !isNearby(day); });
+        found += days;
     }
+    std::ranges::reverse(found);
     return found;
 }
 
@@ -196,7 +201,7 @@ QMap<QString, int> Journal::tags() const
     for (const auto &[number, year] : m_years) {
         for (const JournalBlock &block : year.blocks()) {
             const bool hasTags = block.kind == JournalBlock::Entry && block.bytes.contains("\ntags ");
-            const QStringList tags = hasTags ? JournalForm::entry(block).tags : QStringList();
+            const QStringList tags = hasTags ? JournalForm::head(block).tags : QStringList();
             for (const QString &tag : tags) {
                 auto &[name, count] = counts[tag.toCaseFolded()];
                 name = tag; // as it was spelt last

@@ -60,9 +60,9 @@ public:
 
     /// Takes what was written for its date; an empty entry is a deleted one. What the day was like before
     /// this sitting becomes its earlier version. False where the year may not be written to.
-    bool put(const JournalEntry &entry);
+    [[nodiscard]] bool put(const JournalEntry &entry);
     /// The day goes, and its earlier version too: there is no way back.
-    bool deleteForGood(QDate date);
+    [[nodiscard]] bool deleteForGood(QDate date);
     /// What comes is another sitting: days are compared with what they are now.
     void beginSitting() { m_sitting.clear(); }
 
@@ -70,7 +70,7 @@ public:
     bool isModified() const;
     /// Brings what is not saved to the disk. False when not all of it is there: it is kept, to be tried
     /// again. Over the locking it is kept sealed.
-    bool save();
+    [[nodiscard]] bool save();
     /// The name that the file of a year for reading only was given; empty when that failed.
     QString setAside(int year);
     /// Reads the years anew whose files somebody else has changed.

@@ -66,6 +66,13 @@ std::optional<QByteArray> JournalFiles::read(const DataFolder &folder, int year)
     return {};
 }
 
+bool JournalFiles::isSealed(const DataFolder &folder, int year)
+{
+    QFile file(folder.filePath(name(year)));
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
+           file.read(JournalForm::sealedLine.size()) == JournalForm::sealedLine;
+}
+
 FileStamp JournalFiles::stamp(const DataFolder &folder, int year)
 {
     return FileStamp::of(folder, {name(year)});

@@ -22,6 +22,9 @@ QList<int> years(const DataFolder &folder);
 /// cannot be read.
 std::optional<QByteArray> read(const DataFolder &folder, int year);
 
+/// Whether the file of `year` is sealed, by any version.
+bool isSealed(const DataFolder &folder, int year);
+
 /// What the file of `year` is like now.
 FileStamp stamp(const DataFolder &folder, int year);
 

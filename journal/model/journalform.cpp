@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstring>
 #include <tuple>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,7 +16,6 @@ namespace {
 
 constexpr QByteArrayView mark("\xEF\xBB\xBF");
 constexpr QByteArrayView plainLine("Quillery journal ");
-constexpr QByteArrayView sealedLine("Quillery journal sealed ");
 constexpr QByteArrayView dateLine("=== ");
 constexpr QByteArrayView earlierEnd(" earlier");
 constexpr QByteArrayView lineEnd("\r\n");
@@ -151,11 +151,22 @@ void readLine(JournalEntry &entry, QByteArrayView bytes)
     }
     if (bytes.startsWith("tags ")) {
         entry.tags += rest().split(u',');
-    } else if (bytes.startsWith("picture ") && !isBlank(bytes.sliced(8))) {
-        entry.pictures.append(pictureOf(rest()));
-    } else {
-        entry.otherLines.append(line);
+        return;
     }
+    const JournalPicture picture =
+        bytes.startsWith("picture ") ? pictureOf(rest()) : JournalPicture{.path = {}};
+    if (picture.path.trimmed().isEmpty())
+        entry.otherLines.append(line);
+    else
+        entry.pictures.append(picture);
+}
+
+JournalEntry readHead(const JournalForm::Parts &parts, QDate date)
+{
+    JournalEntry entry{.date = date};
+    for (const QByteArrayView line : parts.head)
+        readLine(entry, line);
+    return entry;
 }
 
 void addLine(QByteArray &bytes, QByteArrayView beginning, const QString &rest)
@@ -324,11 +335,14 @@ JournalForm::Parts JournalForm::partsOf(QByteArrayView block)
 JournalEntry JournalForm::entry(const JournalBlock &block)
 {
     const Parts parts = partsOf(block.bytes);
-    JournalEntry entry{.date = block.date};
-    for (const QByteArrayView line : parts.head)
-        readLine(entry, line);
+    JournalEntry entry = readHead(parts, block.date);
     entry.text = textOf(parts.body);
     return tidied(entry);
+}
+
+JournalEntry JournalForm::head(const JournalBlock &block)
+{
+    return tidied(readHead(partsOf(block.bytes), block.date));
 }
 
 JournalEntry JournalForm::joined(const JournalEntry &first, const JournalEntry &second)
@@ -351,11 +365,16 @@ JournalEntry JournalForm::joined(const JournalEntry &first, const JournalEntry &
 
 JournalEntry JournalForm::tidied(JournalEntry entry)
 {
-    entry.text.remove(QChar(u'\0'));
-    entry.text.replace(u"\r\n"_s, u"\n"_s);
-    entry.text.replace(u'\r', u'\n');
-    entry.text.replace(QChar::ParagraphSeparator, u'\n');
-    entry.text.replace(QChar::LineSeparator, u'\n');
+    const auto isForeign = [](QChar character) {
+        return character.isNull() || character == u'\r' || character == QChar::ParagraphSeparator ||
+               character == QChar::LineSeparator;
+    };
+    if (std::ranges::any_of(std::as_const(entry.text), isForeign)) {
+        entry.text.remove(QChar(u'\0'));
+        entry.text.replace(u"\r\n"_s, u"\n"_s);
+        for (QChar &character : entry.text)
+            character = isForeign(character) ? QChar(u'\n') : character;
+    }
     if (entry.written.isValid()) {
         const QTime time = entry.written.time();
         entry.written = QDateTime(entry.written.date(), QTime(time.hour(), time.minute()));
@@ -367,6 +386,7 @@ JournalEntry JournalForm::tidied(JournalEntry entry)
             tags.append(plain);
     }
     entry.tags = tags;
+    entry.pictures.removeIf([](const JournalPicture &picture) { return picture.path.trimmed().isEmpty(); });
     for (JournalPicture &picture : entry.pictures) {
         picture.path = oneLine(picture.path);
         picture.caption = oneLine(picture.caption).trimmed();

@@ -18,6 +18,9 @@ enum class Form {
 };
 Form formOf(QByteArrayView file);
 
+/// What the first line of a sealed year begins with.
+inline constexpr QByteArrayView sealedLine("Quillery journal sealed ");
+
 /// The years that there can be.
 inline constexpr int firstYear = 1000;
 inline constexpr int lastYear = 9999;
@@ -34,6 +37,8 @@ void sort(JournalBlocks &blocks);
 JournalBlock block(const JournalEntry &entry, JournalBlock::Kind kind);
 /// What a block says.
 JournalEntry entry(const JournalBlock &block);
+/// The same without its text.
+JournalEntry head(const JournalBlock &block);
 /// Two entries of one day as one: what `second` has stands under what `first` has.
 JournalEntry joined(const JournalEntry &first, const JournalEntry &second);
 
