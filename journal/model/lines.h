@@ -48,4 +48,51 @@ inline QString noKey(int year)
     return u"%1 is sealed with another key, which is not here: nobody can open it."_s.arg(year);
 }
 
+// What becomes of the entries of a file that comes in
+
+inline QString newDay()
+{
+    return u"Will be a new day"_s;
+}
+
+inline QString underTheDay()
+{
+    return u"Will stand under what the day has"_s;
+}
+
+inline QString isThere()
+{
+    return u"Not taken: the day has it already"_s;
+}
+
+inline QString forReading(int year)
+{
+    return u"Not taken: %1 cannot be written to"_s.arg(year);
+}
+
+inline QString saysNothing()
+{
+    return u"Not taken: there is no text"_s;
+}
+
+inline QString earlierVersion()
+{
+    return u"Not taken: an earlier version"_s;
+}
+
+inline QString noDateAbove()
+{
+    return u"Not read: no date above it"_s;
+}
+
+inline QString noDate(const QString &date)
+{
+    return u"Not read: %1 is no date"_s.arg(date);
+}
+
+inline QString noTime(const QString &time)
+{
+    return u"Not read: %1 is no time"_s.arg(time);
+}
+
 } // namespace JournalLines
