@@ -112,23 +112,26 @@ SealedLabel SealedYear::labelOf(const SealedPiece &piece) const
 /// else is.
 void SealedYear::guessDates()
 {
-    std::set<int> seen;
-    for (const SealedPiece &piece : m_pieces)
-        seen.insert(piece.listed);
+    std::vector<bool> isSeen(m_reader.list().size());
+    for (const SealedPiece &piece : m_pieces) {
+        if (piece.listed >= 0)
+            isSeen[std::size_t(piece.listed)] = true;
+    }
     int before = -1;
     for (SealedPiece &piece : m_pieces) {
-        const bool isNext = before + 1 < int(m_reader.list().size()) && !seen.contains(before + 1);
+        const auto next = std::size_t(before + 1);
+        const bool isNext = next < isSeen.size() && !isSeen[next];
         if (!piece.isOpen() && piece.listed < 0 && isNext) {
-            piece.listed = before + 1;
-            seen.insert(piece.listed);
+            piece.listed = int(next);
+            isSeen[next] = true;
         }
         before = piece.listed >= 0 ? piece.listed : before;
     }
-    for (int line = 0; line < int(m_reader.list().size()); ++line) {
-        if (seen.contains(line))
+    for (std::size_t line = 0; line < isSeen.size(); ++line) {
+        if (isSeen[line])
             continue;
-        m_missing.push_back(line);
-        m_damage.push_back({Damage::Missing, m_reader.list()[std::size_t(line)].label});
+        m_missing.push_back(int(line));
+        m_damage.push_back({Damage::Missing, m_reader.list()[line].label});
     }
 }
 
