@@ -22,6 +22,8 @@ struct PasswordMemory {
     /// As this run knows them, also where the disk takes nothing; nothing while no answer was given.
     std::optional<WrongAnswers> wrong;
     AttemptMemory attempts;
+    /// Those before the recovery code was given: told with the first right password after it.
+    WrongAnswers beforeCode;
     /// A new recovery code that nobody has said yet to have kept: the next right answer shows it again.
     QString newCode;
 };

@@ -18,6 +18,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -145,8 +147,11 @@ void Form32::accept()
         return;
     }
     m_attempts.reset();
-    // Those before the recovery code are told with the first password after it.
-    if (const WrongAnswers before = m_file.takeWrongAnswers(); before.count > 0)
+    WrongAnswers before = m_file.takeWrongAnswers();
+    const WrongAnswers earlier = std::exchange(m_program.gate.memory().beforeCode, {});
+    if (earlier.count > 0)
+        before = {before.count + earlier.count, earlier.first, before.count > 0 ? before.last : earlier.last};
+    if (before.count > 0)
         m_program.gate.noteRightAnswer(before);
     if (m_program.gate.memory().newCode.isEmpty() || showNewCode())
         QDialog::accept();

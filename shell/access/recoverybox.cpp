@@ -180,7 +180,7 @@ void RecoveryBox::takeCode()
         return;
     }
     m_attempts.reset();
-    m_program.gate.noteRightAnswer(m_file.takeWrongAnswers());
+    m_program.gate.memory().beforeCode = m_file.takeWrongAnswers();
     m_code->clear();
     m_refusal->clear();
     m_steps->setCurrentIndex(AskForPassword);

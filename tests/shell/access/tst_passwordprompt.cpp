@@ -222,6 +222,8 @@ private slots:
         m_program->dialogs.willRun([&](QDialog &box) { return recover(box, code); });
         offer->click();
         QVERIFY(rejected.size() == 1 && m_program->dialogs.isDone());
+        QVERIFY(
+            m_program->gate.takeNotice(m_program->program).isEmpty()); // in a window that asks for nothing
         Form32 next(m_program->program, nullptr, 1ms);
         showActive(next);
         type(next, u"Roses"_s);
