@@ -58,6 +58,8 @@ bool isSame(quint8 id, const QString &there, const QString &incoming)
 {
     if (id == KeeperField::Title || id == KeeperField::Kind)
         return true;
+    if (id == KeeperField::Favourite)
+        return there.isEmpty() == incoming.isEmpty();
     if (id == KeeperField::Address && !there.isEmpty())
         return there == incoming || KeeperTexts::site(there) == KeeperTexts::site(incoming);
     if (id == KeeperField::Tags) {

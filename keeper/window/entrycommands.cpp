@@ -268,7 +268,7 @@ void EntryCommands::turnFavourite()
     QList<KeeperEntry> entries;
     for (const QByteArray &id : ids) {
         if (auto entry = m_desk.keeper.entry(id)) {
-            entry->setText(KeeperField::Favourite, isAny ? u"yes"_s : QString());
+            entry->setText(KeeperField::Favourite, isAny ? u"1"_s : QString());
             entries.append(*entry);
         }
     }

@@ -276,7 +276,7 @@ KeeperEntry EntryForm::entry() const
     entry.setTags(entry.tags());
     entry.setText(KeeperField::Member, m_member->currentText().trimmed());
     entry.setText(KeeperField::Expires, KeptDate::kept(*m_expires));
-    entry.setText(KeeperField::Favourite, m_favourite->isChecked() ? u"yes"_s : QString());
+    entry.setText(KeeperField::Favourite, m_favourite->isChecked() ? u"1"_s : QString());
     entry.setText(KeeperField::Notes, m_notes->toPlainText());
     return entry;
 }

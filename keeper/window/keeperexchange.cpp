@@ -89,8 +89,8 @@ void KeeperExchange::exportChosen()
     const auto path =
         dialogs.chooseFileToSave(&m_desk.window, KeeperMessages::exportTitle(),
                                  documents.filePath(KeeperExport::fileName()), u"CSV (*.csv)"_s);
-    if (!path || path->isEmpty())
-        return;
+    if (!path || path->isEmpty() || m_desk.keeper.state() != Keeper::State::Open)
+        return; // the box of the system may have stood open behind a lock
     QList<KeeperEntry> entries;
     for (const QByteArray &id : ids) {
         if (const auto entry = m_desk.keeper.entry(id))

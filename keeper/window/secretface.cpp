@@ -101,9 +101,32 @@ int SecretFace::cellsAcross(int width) const
 
 int SecretFace::heightForWidth(int width) const
 {
+    return int(rowStarts(cellsAcross(width)).size()) * cell().height() + inset;
+}
+
+QList<int> SecretFace::rowStarts(int across) const
+{
     const int count = int(m_characters.size()) + (m_caret >= 0 ? 1 : 0);
-    const int across = cellsAcross(width);
-    return std::max(1, (count + across - 1) / across) * cell().height() + inset;
+    const auto endsGroup = [this](int place) {
+        return place < m_characters.size() && (m_characters[place] == U'-' || m_characters[place] == U' ');
+    };
+    QList<int> starts{0};
+    while (count - starts.last() > across) {
+        const int full = starts.last() + across;
+        int next = full;
+        while (next > full - across / 2 && !endsGroup(next - 1))
+            --next;
+        starts.append(next > full - across / 2 ? next : full);
+    }
+    return starts;
+}
+
+int SecretFace::placeInRow(int rowsDown) const
+{
+    const QList<int> starts = rowStarts(cellsAcross(width()));
+    const auto row = std::ranges::upper_bound(starts, m_current) - starts.begin() - 1;
+    const auto wanted = row + rowsDown;
+    return wanted >= 0 && wanted < starts.size() ? m_current - starts[row] + starts[wanted] : m_current;
 }
 
 QSize SecretFace::sizeHint() const
@@ -119,9 +142,10 @@ QSize SecretFace::minimumSizeHint() const
 
 QRect SecretFace::cellAt(int place) const
 {
-    const int across = cellsAcross(width());
-    return {QPoint(inset + place % across * cell().width(), inset / 2 + place / across * cell().height()),
-            cell()};
+    const QList<int> starts = rowStarts(cellsAcross(width()));
+    const auto row = std::ranges::upper_bound(starts, place) - starts.begin() - 1;
+    const int column = place - starts[row];
+    return {QPoint(inset + column * cell().width(), inset / 2 + int(row) * cell().height()), cell()};
 }
 
 void SecretFace::paintEvent(QPaintEvent *)
@@ -150,7 +174,6 @@ void SecretFace::paintEvent(QPaintEvent *)
 void SecretFace::keyPressEvent(QKeyEvent *event)
 {
     const int last = int(m_characters.size()) - 1;
-    const int across = cellsAcross(width());
     int next = m_current;
     switch (event->key()) {
     case Qt::Key_Right:
@@ -160,10 +183,10 @@ void SecretFace::keyPressEvent(QKeyEvent *event)
         --next;
         break;
     case Qt::Key_Down:
-        next += across;
+        next = placeInRow(1);
         break;
     case Qt::Key_Up:
-        next -= across;
+        next = placeInRow(-1);
         break;
     case Qt::Key_Home:
         next = 0;

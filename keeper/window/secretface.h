@@ -31,6 +31,10 @@ protected:
 private:
     QSize cell() const;
     int cellsAcross(int width) const;
+    /// The first place of each row; groups and words stay whole where they can.
+    QList<int> rowStarts(int across) const;
+    /// The place in the row below or above; the same where there is none.
+    int placeInRow(int rowsDown) const;
     QRect cellAt(int place) const;
     void nameWhole();
     void readOut();

@@ -38,7 +38,7 @@ QList<KeeperEntry> household()
                                                   {OneTimeSecret, u"JBSWY3DPEHPK3PXP"_s},
                                                   {Tags, u"daily, internet"_s},
                                                   {Member, u"Anne"_s},
-                                                  {Favourite, u"yes"_s},
+                                                  {Favourite, u"1"_s},
                                                   {Notes, u"The old address still forwards to this one."_s}});
     mail.fields.append({Own, true, u"Security question"_s, u"Rex"_s});
     mail.fields.append({Own, false, u"Customer number"_s, u"44-1987"_s});
@@ -62,7 +62,7 @@ QList<KeeperEntry> household()
                                              {UserName, u"alind"_s},
                                              {Password, u"kT7#vw-92Qm!"_s},
                                              {Tags, u"money"_s},
-                                             {Favourite, u"yes"_s}}),
+                                             {Favourite, u"1"_s}}),
             entryOf(EntryKind::Card, {{Title, u"Credit card"_s},
                                       {CardHolder, u"Nils Lind"_s},
                                       {CardNumber, u"5412 7512 3412 3456"_s},

@@ -282,20 +282,24 @@ private slots:
     void putsWhatIsThereBesideIt()
     {
         using namespace KeeperField;
-        const auto there = keeperOf(
-            {entry({{Kind, u"login"_s},
-                    {Title, u"Bank"_s},
-                    {UserName, u"anne"_s},
-                    {Password, u"old"_s},
-                    {Address, u"https://bank.example/in"_s},
-                    {Tags, u"money"_s},
-                    {Member, u"Anne"_s}},
-                   "1"),
-             entry({{Kind, u"login"_s}, {Title, u"Post"_s}, {UserName, u"anne"_s}, {Password, u"pw"_s}},
-                   "2")});
-        KeeperCsvImport import("title,username,password,url,tags\n"
-                               "bank.example,Anne,new,bank.example,family\nPost,anne,pw,,\nPost,nils,pw,,\n",
-                               there, DateStyle::Usa);
+        const auto there = keeperOf({entry({{Kind, u"login"_s},
+                                            {Title, u"Bank"_s},
+                                            {UserName, u"anne"_s},
+                                            {Password, u"old"_s},
+                                            {Address, u"https://bank.example/in"_s},
+                                            {Tags, u"money"_s},
+                                            {Member, u"Anne"_s}},
+                                           "1"),
+                                     entry({{Kind, u"login"_s},
+                                            {Title, u"Post"_s},
+                                            {UserName, u"anne"_s},
+                                            {Password, u"pw"_s},
+                                            {Favourite, u"yes"_s}},
+                                           "2")});
+        KeeperCsvImport import(
+            "title,username,password,url,tags,favourite\n"
+            "bank.example,Anne,new,bank.example,family,\nPost,anne,pw,,,1\nPost,nils,pw,,,\n",
+            there, DateStyle::Usa);
         readAll(import);
         QCOMPARE(import.whatBecomesOf(0), u"There already, but different: user name, password, tags"_s);
         QCOMPARE(import.whatBecomesOf(1), u"There already"_s);

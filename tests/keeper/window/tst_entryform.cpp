@@ -30,7 +30,7 @@ KeeperEntry full(EntryKind kind)
     entry.setTags({u"bank"_s, u"home"_s});
     entry.setText(KeeperField::Member, u"Anne"_s);
     entry.setText(KeeperField::Expires, u"2027-01-31"_s);
-    entry.setText(KeeperField::Favourite, u"yes"_s);
+    entry.setText(KeeperField::Favourite, u"1"_s);
     entry.fields.append({77, true, {}, u"of a later version"_s});
     entry.fields.append({KeeperField::Own, true, u"Question"_s, u"Rex"_s});
     entry.fields.append({KeeperField::Own, false, {}, u"without a name"_s});
