@@ -5,9 +5,11 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 class QMimeData;
+class QWidget;
 
 /// What the keeper puts on the clipboard stays there for a short while only, and clipboard histories are told
 /// to leave it alone. Nothing is taken off the clipboard that somebody else has put there since.
@@ -23,6 +25,12 @@ public:
     explicit ClipboardGuard(QObject *parent);
     ~ClipboardGuard() override;
 
+    /// Guards what is copied or marked in `window` by the usual ways, too.
+    void watch(const QWidget *window);
+
+    /// Whether this program has put there what is there; a test answers for platforms that do not know.
+    std::function<bool(QClipboard::Mode)> owns;
+
     void setSeconds(int seconds);
     int seconds() const;
 
@@ -35,12 +43,18 @@ public:
 
 signals:
     void emptied();
+    /// Its time was over.
+    void ranOut();
 
 private:
     QByteArray mark(const QString &text) const;
     bool holdsOurs(QClipboard::Mode mode) const;
+    void follow(QClipboard::Mode mode);
+    bool isWatched(const QWidget *active) const;
 
     QTimer m_timer;
     QByteArray m_salt;
-    QByteArray m_mark; ///< of the text that was copied last, which is not kept itself
+    QByteArray m_mark;          ///< of the text that was copied last, which is not kept itself
+    QByteArray m_selectionMark; ///< of the text that was marked last
+    const QWidget *m_window = nullptr;
 };

@@ -35,6 +35,8 @@ EntryCommands::EntryCommands(const KeeperDesk &desk, EntryWork &work, KeeperPane
     , m_work(work)
     , m_pane(pane)
 {
+    connect(&desk.clipboard, &ClipboardGuard::ranOut, this,
+            [this] { emit said(KeeperWindowLines::clipboardEmptied()); });
     connect(&work, &EntryWork::copyWanted, this, &EntryCommands::copyText);
     connect(&work, &EntryWork::openWanted, this, &EntryCommands::open);
     connect(&work.several(), &SeveralView::tagGiven, this,

@@ -291,8 +291,10 @@ void EntryForm::setSaved(const KeeperEntry &entry)
     m_loaded = entry;
     m_kind->setEnabled(entry.id.isEmpty());
     m_asShown = this->entry();
-    for (SecretBox *box : secrets())
+    for (SecretBox *box : secrets()) {
         box->setWords({});
+        box->settle();
+    }
 }
 
 QString EntryForm::refusal()

@@ -63,6 +63,7 @@ void KeeperExchange::importFile()
     m_desk.window.closePreview();
     if (!m_panel->open(*path))
         return;
+    emit said({});
     m_desk.views.open(m_panel);
     m_panel->setFocus();
 }

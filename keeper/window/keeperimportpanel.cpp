@@ -22,7 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int measuredRows = 300;
+constexpr int measuredRows = 5000;
 constexpr int widestWords = 480;
 constexpr int inset = 32;
 
@@ -110,6 +110,11 @@ QString KeeperImportPanel::hint() const
 QString KeeperImportPanel::nothingToTake() const
 {
     return m_import && !m_import->refusal().isEmpty() ? m_import->refusal() : ImportPreview::nothingToTake();
+}
+
+QString KeeperImportPanel::tooLong(const QString &name) const
+{
+    return KeeperWindowLines::tooLongToImport(name);
 }
 
 QString KeeperImportPanel::whyReadOnly() const

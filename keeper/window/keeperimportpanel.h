@@ -27,6 +27,7 @@ signals:
 protected:
     QString hint() const override;
     QString nothingToTake() const override;
+    QString tooLong(const QString &name) const override;
     QString whyReadOnly() const override;
     void shown() override;
     void shareWidth() override;

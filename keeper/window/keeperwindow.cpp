@@ -71,6 +71,7 @@ Form4::Form4(Program &program, QWidget *parent, PasswordCost cost, std::chrono::
     , m_print(new KeeperPrint(desk(), *m_pane, this))
     , m_exchange(new KeeperExchange(desk(), *m_pane, this))
 {
+    m_clipboard->watch(this);
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(),
                              [](QSize window) { return window.width() < 1200 ? 212 : 272; }));
     makeCommands();

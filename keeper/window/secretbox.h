@@ -22,6 +22,12 @@ public:
     /// Lets the characters be changed one by one.
     void setOpened(bool isOpened);
     void setLocked(bool isLocked);
+    /// Stands as dots again, unless it is opened.
+    void settle()
+    {
+        if (!m_isOpened)
+            hideAgain();
+    }
     /// What it is called, to which screen readers add "hidden".
     void setCaption(const QString &caption);
 
@@ -60,6 +66,8 @@ public:
     void setShown(bool isShown);
     bool isShown() const { return m_isShown; }
     SecretLine &line() const { return *m_line; }
+    /// What was typed is in the file: dots again, as many as for any other.
+    void settle() { m_line->settle(); }
     /// Quiet words below it, until it is given another secret.
     void setWords(const QString &words);
     /// Puts a button behind the others.

@@ -444,6 +444,16 @@ inline QString copied(const QString &caption, int seconds)
     return u"%1 copied; the clipboard is emptied after %2 seconds"_s.arg(caption).arg(seconds);
 }
 
+inline QString clipboardEmptied()
+{
+    return u"The clipboard was emptied"_s;
+}
+
+inline QString tooLongToImport(const QString &name)
+{
+    return u"%1: not read from line 1 on, since it is longer than 64 MiB"_s.arg(name);
+}
+
 inline QString copyOf(const QString &title)
 {
     return u"%1 (copy)"_s.arg(title);

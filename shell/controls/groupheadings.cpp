@@ -122,7 +122,7 @@ void GroupHeadings::paintGroup(QPainter *painter, const QRect &rect, int section
 void GroupHeadings::paintEvent(QPaintEvent *event)
 {
     QHeaderView::paintEvent(event);
-    if (offset() <= 0)
+    if (offset() <= 0 || !m_firstStays)
         return;
     QPainter painter(viewport());
     const QRect first(0, 0, sectionSize(0), height());

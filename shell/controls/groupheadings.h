@@ -5,7 +5,7 @@
 
 /// The headings of a grid of many columns, aligned as they are; a heading of two words takes a second line
 /// where the column is narrow. What the model groups has a common heading above its own. The first one stays
-/// in sight where the others are scrolled sideways.
+/// in sight where the others are scrolled sideways, unless told otherwise.
 class GroupHeadings final : public QHeaderView
 {
     Q_OBJECT
@@ -14,6 +14,9 @@ public:
     static constexpr int freeInset = 2;
 
     explicit GroupHeadings(QWidget *parent);
+
+    /// Whether the first column stays in sight, and its heading with it.
+    void setFirstStays(bool stays) { m_firstStays = stays; }
 
     /// What the heading of a column needs at least: in two lines, if it has several words.
     static int leastWidth(const QAbstractItemModel &model, int column);
@@ -32,4 +35,6 @@ private:
     Qt::Alignment alignment(int section) const;
     void paintGroup(QPainter *painter, const QRect &rect, int section) const;
     void paintWords(QPainter *painter, const QRect &rect, int section) const;
+
+    bool m_firstStays = true;
 };

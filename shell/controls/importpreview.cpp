@@ -90,6 +90,7 @@ void ImportPreview::makeView(const QString &accessibleName)
     auto *heading = new GroupHeadings(m_view);
     m_view->setHorizontalHeader(heading);
     heading->setStretchLastSection(true);
+    heading->setFirstStays(false);
     m_view->setAccessibleName(accessibleName);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);

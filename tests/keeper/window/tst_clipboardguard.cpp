@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/window/clipboardguard.h"
+#include "tests/support/testprogram.h"
 
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QMimeData>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -51,6 +52,32 @@ private slots:
         QGuiApplication::clipboard()->setText(u"battery"_s); // a history has put it back
         guard.empty();
         QCOMPARE(QGuiApplication::clipboard()->text(), QString());
+    }
+
+    /// By the usual ways too: a note is all that some entries hold. What others copy is none of its business.
+    void guardsWhatABoxOfItsWindowCopies()
+    {
+        QLineEdit box(u"under the stone"_s);
+        showActive(box);
+        ClipboardGuard guard(nullptr);
+        bool isOwn = true;
+        guard.owns = [&isOwn](QClipboard::Mode) { return isOwn; };
+        guard.watch(&box);
+        box.selectAll();
+        box.copy();
+        const QClipboard &clipboard = *QGuiApplication::clipboard();
+        QVERIFY(clipboard.mimeData()->hasFormat(u"x-kde-passwordManagerHint"_s));
+        guard.empty();
+        QCOMPARE(clipboard.text(), QString());
+        isOwn = false;
+        box.copy();
+        QLineEdit other(u"a recipe"_s);
+        showActive(other);
+        isOwn = true;
+        other.selectAll();
+        other.copy();
+        guard.empty();
+        QCOMPARE(clipboard.text(), u"a recipe"_s);
     }
 
     void emptiesItWithTheWindow()
