@@ -28,7 +28,7 @@ const QDate today(lastYear, 11, 23);
 class StandingClock final : public Clock
 {
 public:
-    QDateTime now() const override { return {today, QTime(20, 0)}; }
+    QDateTime now() const override { return QDateTime(::today, QTime(20, 0)); }
 };
 
 /// A text of about 1,500 characters: words of which some are frequent and most are rare, in four paragraphs.
