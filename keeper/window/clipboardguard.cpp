@@ -125,7 +125,8 @@ void ClipboardGuard::follow(QClipboard::Mode mode)
     const QByteArray found = mark(text);
     if (mode == QClipboard::Selection) {
         m_selectionMark = found;
-        m_timer.start();
+        if (!m_timer.isActive()) // what was copied before keeps its time
+            m_timer.start();
     } else if (found != m_mark) {
         copy(text); // with the hints for histories
     }

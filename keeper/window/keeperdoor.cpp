@@ -138,8 +138,9 @@ void KeeperDoor::showTrouble()
         sentence = KeeperWindowLines::newerTitle();
         line = KeeperWindowLines::newerWords();
     } else if (isForeign) {
-        sentence = KeeperWindowLines::foreignTitle(foreign);
-        line = KeeperWindowLines::foreignWords();
+        const bool isOne = keeper.foreignFiles().size() == 1;
+        sentence = KeeperWindowLines::foreignTitle(foreign, isOne);
+        line = KeeperWindowLines::foreignWords(isOne);
     }
     if (m_trouble)
         m_trouble->deleteLater();

@@ -99,8 +99,10 @@ void KeeperTools::openGenerator(SecretBox *box)
             emit m_work.copyWanted(KeeperWindowLines::passwordWord(), password);
         });
         connect(m_generator, &GeneratorPanel::taken, this, [this](const QString &password) {
-            if (m_box)
-                m_box->replace(password);
+            if (!m_box)
+                return;
+            m_box->replace(password);
+            m_box->focusEnd();
         });
     }
     m_box = box;

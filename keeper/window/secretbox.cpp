@@ -13,10 +13,13 @@
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QToolTip>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr int shortPress = 600; ///< milliseconds
 
 /// As many for every secret: their number tells nothing. They look like those that stand for what is typed.
 QString dots(const QWidget &line)
@@ -140,6 +143,12 @@ SecretBox::SecretBox(const QString &name, const QString &caption, QWidget *paren
     m_words->hide();
     connect(m_show, &QPushButton::pressed, this, &SecretBox::showFace);
     connect(m_show, &QPushButton::released, this, &SecretBox::showFace);
+    // Whoever clicks as on other buttons sees the secret flash by: it is said how to see it.
+    connect(m_show, &QPushButton::pressed, this, [this] { m_held.start(); });
+    connect(m_show, &QPushButton::clicked, this, [this] {
+        if (m_held.elapsed() < shortPress)
+            QToolTip::showText(m_show->mapToGlobal(QPoint(0, m_show->height())), m_show->toolTip(), m_show);
+    });
     connect(m_copy, &QPushButton::clicked, this, &SecretBox::copyWanted);
     connect(m_line, &SecretLine::copyWanted, this, &SecretBox::copyWanted);
     connect(m_line, &QLineEdit::cursorPositionChanged, this, &SecretBox::showFace);
@@ -180,6 +189,11 @@ void SecretBox::setWords(const QString &words)
 {
     m_words->setText(words);
     m_words->setVisible(!words.isEmpty());
+}
+
+void SecretBox::focusEnd()
+{
+    m_row->itemAt(m_row->count() - 1)->widget()->setFocus(Qt::TabFocusReason);
 }
 
 void SecretBox::addButton(QPushButton *button)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QWidget>
 
@@ -70,6 +71,8 @@ public:
     void settle() { m_line->settle(); }
     /// Quiet words below it, until it is given another secret.
     void setWords(const QString &words);
+    /// Gives the focus to its last button: the next Tab leads on, and nothing is typed over the secret.
+    void focusEnd();
     /// Puts a button behind the others.
     void addButton(QPushButton *button);
 
@@ -84,6 +87,7 @@ private:
 
     SecretLine *m_line;
     QPushButton *m_show;
+    QElapsedTimer m_held; ///< how long "Show" has been
     QPushButton *m_copy;
     SecretFace *m_face;
     QLabel *m_words;

@@ -76,6 +76,8 @@ void SetUpView::choose()
         return;
     const QString refusal = m_form->refusal();
     emit said(refusal);
+    if (!refusal.isEmpty())
+        m_form->say(refusal);
     if (refusal.isEmpty())
         emit chosen(m_form->password());
 }

@@ -254,9 +254,11 @@ inline QString newerWords()
     return u"This version cannot read it and changes nothing in it. Open it with the newer version."_s;
 }
 
-inline QString foreignWords()
+inline QString foreignWords(bool isOne)
 {
-    return u"It is not touched. Set aside, it stays in the folder under another name, and a keeper can begin."_s;
+    return isOne
+               ? u"It is not touched. Set aside, it stays in the folder under another name, and a keeper can begin."_s
+               : u"They are not touched. Set aside, they stay in the folder under other names, and a keeper can begin."_s;
 }
 
 inline QString notSetAside()
@@ -289,9 +291,9 @@ inline QString restoreFile(const QString &names, const QString &folder)
            u"and start Quillery again."_s.arg(names, folder);
 }
 
-inline QString foreignTitle(const QString &names)
+inline QString foreignTitle(const QString &names, bool isOne)
 {
-    return u"%1 is no file of the keeper's"_s.arg(names);
+    return (isOne ? u"%1 is no file of the keeper's"_s : u"%1 are no files of the keeper's"_s).arg(names);
 }
 
 inline QString emptySentence()

@@ -72,6 +72,11 @@ QString NewPasswordForm::refusal()
     return {};
 }
 
+void NewPasswordForm::say(const QString &line)
+{
+    m_words->setText(line);
+}
+
 void NewPasswordForm::setEditable(bool isEditable)
 {
     for (QWidget *part : std::initializer_list<QWidget *>{m_password, m_again, m_show})

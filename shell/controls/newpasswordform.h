@@ -30,6 +30,8 @@ public:
     QString password() const;
     /// Why it cannot be taken yet, with the focus in the box that is meant; empty when it can.
     QString refusal();
+    /// Shows `line` below the boxes until something is typed.
+    void say(const QString &line);
     void setEditable(bool isEditable);
 
 signals:

@@ -234,6 +234,23 @@ private slots:
         trigger("mESave");
     }
 
+    /// The focus stands behind it then: on the line itself, the next letter would take its place.
+    void takesAMadePasswordAndGoesOn()
+    {
+        begin();
+        addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
+        find<QLineEdit>("entryBox_3")->setFocus();
+        click("makePassword");
+        click("takeMade");
+        const QString made = find<SecretBox>("entrySecret_4")->secret();
+        QCOMPARE(made.size(), 20);
+        key(Qt::Key_Tab);
+        QVERIFY(find<QLineEdit>("entryBox_5")->hasFocus());
+        keys(u"x"_s);
+        QCOMPARE(find<SecretBox>("entrySecret_4")->secret(), made);
+        trigger("mESave");
+    }
+
     /// While it is typed alone: of a password that is there not even the length is told.
     void tellsWhatIsKnownOfATypedPassword()
     {
