@@ -70,16 +70,16 @@ void MasterDialog::accept()
         return;
     }
     const auto shared = std::make_shared<KeeperOpening>(std::move(*checking));
-    setUnavailable(m_box, KeeperWindowLines::trying());
+    m_box->setFocus(); // whoever types on presses no button
+    m_box->setReadOnly(true);
     setUnavailable(m_ok, KeeperWindowLines::trying());
     m_step->start([shared] { shared->run(); }, [this, shared] { judge(*shared); });
 }
 
 void MasterDialog::judge(const KeeperOpening &opening)
 {
-    setUnavailable(m_box, {});
+    m_box->setReadOnly(false);
     setUnavailable(m_ok, {});
-    m_box->setFocus();
     if (!opening.isJudged()) {
         m_refusal->setText(KeeperWindowLines::notEnoughMemory());
     } else if (m_keeper.isRight(opening)) {

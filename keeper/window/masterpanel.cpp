@@ -86,8 +86,10 @@ void MasterPanel::refuse(const QString &line)
 void MasterPanel::setWorking(bool isWorking)
 {
     m_isWorking = isWorking;
+    if (m_change->hasFocus())
+        m_form->setFocus(); // greyed, the button would hand it on to the one that leaves
     m_form->setEditable(!isWorking);
-    m_old->setEnabled(!isWorking);
+    m_old->setReadOnly(isWorking);
     setUnavailable(m_change, isWorking ? KeeperWindowLines::making() : QString());
 }
 

@@ -85,6 +85,8 @@ void SetUpView::choose()
 void SetUpView::setMaking(bool isMaking)
 {
     m_making->setVisible(isMaking);
+    if (m_make->hasFocus())
+        m_form->setFocus();
     m_form->setEditable(!isMaking);
     setUnavailable(m_make, isMaking ? KeeperWindowLines::making() : QString());
 }

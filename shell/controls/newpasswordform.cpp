@@ -79,8 +79,12 @@ void NewPasswordForm::say(const QString &line)
 
 void NewPasswordForm::setEditable(bool isEditable)
 {
-    for (QWidget *part : std::initializer_list<QWidget *>{m_password, m_again, m_show})
-        part->setEnabled(isEditable);
+    if (m_show->hasFocus())
+        m_again->setFocus();
+    for (QLineEdit *box : {m_password, m_again})
+        box->setReadOnly(!isEditable); // greyed, it would hand the focus and what is typed on
+    m_show->setChecked(false);
+    m_show->setEnabled(isEditable);
 }
 
 void NewPasswordForm::follow()

@@ -47,8 +47,9 @@ UnlockView::UnlockView(Words words, const Names &names, QWidget *parent)
     middle->addStretch(1);
     rows->addLayout(middle);
     rows->addStretch(3);
-    connect(m_show, &QCheckBox::toggled, this,
-            [this](bool isShown) { m_box->setEchoMode(isShown ? QLineEdit::Normal : QLineEdit::Password); });
+    connect(m_show, &QCheckBox::toggled, this, [this](bool isShown) {
+        m_box->setEchoMode(isShown || m_isForCode ? QLineEdit::Normal : QLineEdit::Password);
+    });
     connect(m_box, &QLineEdit::returnPressed, this, &UnlockView::answer);
     connect(m_box, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
     connect(m_open, &QPushButton::clicked, this, &UnlockView::answer);
@@ -140,22 +141,27 @@ void UnlockView::answer()
 void UnlockView::setTrying(bool isTrying)
 {
     m_trying->setVisible(isTrying);
-    const QString why = isTrying ? m_said.trying : QString();
-    for (QWidget *part : std::initializer_list<QWidget *>{m_box, m_open, m_other})
-        setUnavailable(part, why);
+    hold(isTrying ? m_said.trying : QString());
+    setUnavailable(m_other, isTrying ? m_said.trying : QString());
     if (isTrying)
         m_refusal->clear();
-    else
-        m_box->setFocus();
+}
+
+/// The box keeps the focus and takes nothing: greyed, it would hand what is typed on to the next part, and a
+/// blank there would show the password.
+void UnlockView::hold(const QString &why)
+{
+    m_box->setFocus();
+    m_box->setReadOnly(!why.isEmpty());
+    m_show->setChecked(false);
+    for (QWidget *part : std::initializer_list<QWidget *>{m_show, m_open})
+        setUnavailable(part, why);
 }
 
 void UnlockView::refuse(const QString &line, bool isWaiting)
 {
-    setUnavailable(m_box, isWaiting ? line : QString());
-    setUnavailable(m_open, isWaiting ? line : QString());
+    hold(isWaiting ? line : QString());
     if (!m_isForCode)
         m_box->clear();
     m_refusal->setText(line);
-    if (!isWaiting)
-        m_box->setFocus();
 }

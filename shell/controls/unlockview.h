@@ -36,7 +36,7 @@ public:
 
     /// Empty and ready; asks for the password.
     void start();
-    /// The answer is being tried.
+    /// The answer is being tried: nothing that is typed meanwhile is taken.
     void setTrying(bool isTrying);
     /// A quiet line below the box; nothing can be typed while `isWaiting`.
     void refuse(const QString &line, bool isWaiting = false);
@@ -49,6 +49,7 @@ private:
     QWidget *makeForm();
     void turn(bool isForCode);
     void answer();
+    void hold(const QString &why);
 
     Words m_said;
     QLabel *m_words;

@@ -65,10 +65,27 @@ private slots:
         answer(u"wrong"_s);
         QTRY_COMPARE(labelText("unlockRefusal"), u"That is not the password."_s);
         QCOMPARE(titles(), QStringList());
-        QTRY_VERIFY(find<QLineEdit>("masterPassword")->isEnabled());
+        QTRY_VERIFY(find<QPushButton>("openKeeper")->isEnabled());
         answer(u"master"_s);
         QTRY_VERIFY(isSeen("keeperPane"));
         QVERIFY2(said().startsWith(u"1 wrong answer since "_s), qPrintable(said()));
+    }
+
+    /// While an answer is tried and after: a blank on "Show password" would let the right one stand in clear.
+    void showsNothingOfWhatIsTypedOn()
+    {
+        begin();
+        trigger("mOLock");
+        click("showPassword");
+        answer(u"wrong"_s);
+        keys(u"mas ter"_s);
+        QVERIFY(find<QLineEdit>("masterPassword")->hasFocus());
+        QCOMPARE(find<QLineEdit>("masterPassword")->text(), u"wrong"_s);
+        QTRY_COMPARE(labelText("unlockRefusal"), u"That is not the password."_s);
+        QTRY_VERIFY(find<QPushButton>("openKeeper")->isEnabled());
+        keys(u"mas ter"_s);
+        QCOMPARE(find<QLineEdit>("masterPassword")->text(), u"mas ter"_s);
+        QCOMPARE(find<QLineEdit>("masterPassword")->echoMode(), QLineEdit::Password);
     }
 
     /// Whoever is called away before the code is on paper finds it again.
@@ -102,7 +119,7 @@ private slots:
         trigger("mOLock");
         answer(u"wrong"_s);
         QTRY_COMPARE(labelText("unlockRefusal"), u"That is not the password."_s);
-        QTRY_VERIFY(find<QLineEdit>("masterPassword")->isEnabled());
+        QTRY_VERIFY(find<QPushButton>("openKeeper")->isEnabled());
         answer(u"master"_s);
         QTRY_VERIFY(m_window->isModified());
         QVERIFY2(said().startsWith(u"1 wrong answer since "_s) && said().endsWith(u"is back"_s),
