@@ -346,6 +346,8 @@ bool PasswordPane::isAcceptable()
         return false;
     }
     m_old->clear();
+    m_showPasswords->setChecked(false);
+    m_form->setFocus(); // what is typed on meanwhile works nothing
     m_attempts.addWrong(m_file.addWrongAnswer(m_clock.now()));
     return false;
 }

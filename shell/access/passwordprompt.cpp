@@ -139,6 +139,7 @@ void Form32::accept()
         return m_file.matches(m_password->text());
     }();
     m_password->clear();
+    m_showPassword->setChecked(false); // the next one is not shown because this one was
     m_isWrong = !isRight;
     if (m_isWrong) {
         const WrongAnswers wrong = m_file.addWrongAnswer(m_program.clock.now());
@@ -177,6 +178,7 @@ void Form32::recover()
     if (m_attempts.isWaiting())
         return;
     m_password->clear();
+    m_showPassword->setChecked(false);
     RecoveryBox box(m_program, m_step, this);
     if (m_program.dialogs.run(box) == Accepted)
         reject();
@@ -187,8 +189,12 @@ void Form32::recover()
 void Form32::showWait(int seconds)
 {
     const QString wait = PasswordMessages::tryAgainIn(seconds);
+    // What is typed on meanwhile works nothing: the focus does not move to the next part that is there.
+    if (!m_cancel->hasFocus())
+        setFocus();
     setUnavailable(m_recover, wait);
     setUnavailable(m_password, wait);
+    setUnavailable(m_showPassword, wait);
     setUnavailable(m_ok, wait);
     m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() + u' ' + wait : wait);
 }
@@ -196,6 +202,7 @@ void Form32::showWait(int seconds)
 void Form32::endWait()
 {
     setUnavailable(m_password, {});
+    setUnavailable(m_showPassword, {});
     setUnavailable(m_ok, {});
     setUnavailable(m_recover, {});
     m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() : QString());

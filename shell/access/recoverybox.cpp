@@ -231,6 +231,9 @@ void RecoveryBox::refuse(QLineEdit *box, const QString &reason)
 void RecoveryBox::showWait(int seconds)
 {
     const QString wait = PasswordMessages::tryAgainIn(seconds);
+    // What is typed on meanwhile works nothing: the focus does not move to "Cancel" by itself.
+    if (!m_cancel->hasFocus())
+        setFocus();
     setUnavailable(m_code, wait);
     setUnavailable(m_next, wait);
     m_refusal->setText(m_isWrong ? PasswordMessages::wrongCode() + u' ' + wait : wait);

@@ -97,6 +97,32 @@ private slots:
         QVERIFY(clock.elapsed() >= 190);
     }
 
+    void whatIsTypedDuringTheWaitWorksNothing()
+    {
+        Form32 prompt(m_program->program, nullptr, 100ms);
+        const QSignalSpy finished(&prompt, &QDialog::finished);
+        showActive(prompt);
+        auto *box = control<QLineEdit>(prompt, "Text1");
+        auto *shown = control<QCheckBox>(prompt, "showPassword");
+        shown->click();
+        type(prompt, u"nope"_s);
+        QVERIFY(prompt.focusWidget());
+        QTest::keyClicks(prompt.focusWidget(), u"ab cd"_s);
+        QTest::keyClick(prompt.focusWidget(), Qt::Key_Return);
+        QVERIFY(!box->isEnabled() && !shown->isEnabled() && !shown->isChecked() && finished.isEmpty());
+        QTRY_VERIFY(box->isEnabled());
+        QVERIFY(box->hasFocus() && box->text().isEmpty() && box->echoMode() == QLineEdit::Password);
+
+        RecoveryBox code(m_program->program, 10s, nullptr);
+        const QSignalSpy codeFinished(&code, &QDialog::finished);
+        showActive(code);
+        control<QLineEdit>(code, "recoveryCode")->setText(RecoveryCode::generate());
+        QTest::keyClick(control<QLineEdit>(code, "recoveryCode"), Qt::Key_Return);
+        QVERIFY(code.focusWidget() && !control<QLineEdit>(code, "recoveryCode")->isEnabled());
+        QTest::keyClick(code.focusWidget(), Qt::Key_Space);
+        QVERIFY(codeFinished.isEmpty());
+    }
+
     void theThirdWrongAnswerEndsIt()
     {
         Form32 prompt(m_program->program, nullptr, 1ms);
