@@ -3,6 +3,7 @@
 
 #include "shell/frame/commands.h"
 #include "shell/mainmenu/functionopener.h"
+#include "shell/mainmenu/menukeys.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 
@@ -37,6 +38,7 @@ constexpr Entry entries[] = {
 
 void fillFunctionsMenu(QMenu &menu, Commands &commands, const Program &program, const FunctionOpener &opener)
 {
+    new MenuKeys(&menu); // seven entries share the P
     for (const Entry &entry : entries) {
         const Function function = entry.function;
         commands.add(

@@ -142,6 +142,22 @@ mH &Help
         QCOMPARE(find<QAction>("mFP")->toolTip(), u"Daily Planner is not part of this program yet."_s);
     }
 
+    void aSharedAccessKeyPassesOverWhatCannotBeUsed()
+    {
+        for (const Function there : {Function::Budget, Function::Planner, Function::PasswordControl})
+            addFunction(there);
+        show();
+        auto *menu = qobject_cast<QMenu *>(find<QAction>("mFJour")->associatedObjects().value(0));
+        QVERIFY(menu);
+        menu->popup({});
+        for (const QString &name : {u"mMB"_s, u"mFP"_s, u"mUP"_s, u"mMB"_s}) {
+            QTest::keyClick(menu, Qt::Key_P);
+            QVERIFY(menu->activeAction());
+            QCOMPARE(menu->activeAction()->objectName(), name);
+        }
+        menu->close();
+    }
+
     void asksForTheFamilyName()
     {
         show();
