@@ -83,13 +83,13 @@ void FunctionOpener::openWhenAllowed(Function function, const std::function<bool
 {
     if (!m_program.functions.has(function))
         return;
-    const Loading loading(m_activity);
     m_activity.say({});
     QWidget *open = m_program.functions.window(function);
     // Uncovered with the password, it is not asked for once more.
     const bool isCovered = open && Covering::isCovered(*open);
     if (!(isCovered ? Locking::maySee(*open, m_program) : mayOpen()))
         return;
+    const Loading loading(m_activity); // not before: nothing loads while the password is asked for
     const QWidget *window = m_program.functions.open(function, m_program, place);
     tellWrongAnswers(window ? window->findChild<ActivityBar *>() : nullptr);
 }
@@ -103,7 +103,6 @@ void FunctionOpener::tellWrongAnswers(ActivityBar *bar) const
 
 void FunctionOpener::press(const TopButtons::TopButton &button) const
 {
-    const Loading loading(m_activity);
     std::visit(Either{[this](const TopButtons::OpensFunction &effect) { open(effect.function, effect.area); },
                       [this](const TopButtons::SameAsEntry &effect) {
                           if (auto *same = m_window->findChild<QAction *>(QString::fromLatin1(effect.entry)))
@@ -125,10 +124,13 @@ void FunctionOpener::openForeign(int area) const
 void FunctionOpener::showListFile(const TopButtons::ShowsListFile &button) const
 {
     const QString file = m_program.folder.existingFile({}, QString::fromLatin1(button.file));
-    if (ListFile::hasUsableLine(file)) {
+    const bool isUsable = [&] {
+        const Loading loading(m_activity);
+        return ListFile::hasUsableLine(file);
+    }();
+    if (isUsable) {
         openForeign(button.area);
         return;
     }
-    HINFO1::hourglassOff(); // while a notice is read
     m_program.dialogs.ask(m_window, TopButtons::emptyListNotice(button));
 }

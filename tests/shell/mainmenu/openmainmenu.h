@@ -30,6 +30,7 @@ protected:
         m_given = {};
         m_done = {};
         m_test->gate = AccessGate([this](Program &program, QWidget *) {
+            QVERIFY(activity() != QLatin1String("Loading"));
             m_done.guards << program.state.guardedArea;
             program.state.passwordGateResult = m_given.verdict;
         });
