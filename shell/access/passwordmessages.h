@@ -149,8 +149,7 @@ inline QString noCode()
 inline QString coveringHint()
 {
     return QStringLiteral("Covered windows keep what was typed and show it after the password. Ctrl+L and "
-                          "\"Lock Now\" cover at "
-                          "once; so do the session's lock and sleep.");
+                          "\u201cLock Now\u201d cover at once; so do the session's lock and sleep.");
 }
 
 // What password control says of itself.
