@@ -244,6 +244,8 @@ QWidget *Form31::makeFoot()
 
 void Form31::connectPane()
 {
+    // It has the panel to itself: there is no room for both in a low window.
+    connect(m_pane, &PasswordPane::formShown, m_idle, &QWidget::setHidden);
     connect(m_pane, &PasswordPane::passwordSet, this, [this] {
         loadMarks();
         refresh();

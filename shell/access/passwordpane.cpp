@@ -211,6 +211,7 @@ void PasswordPane::begin(Task task)
     m_heading->setText(headingOf(task == Task::Set, task == Task::Change, task == Task::Remove));
     m_oldPart->setVisible(task != Task::Set);
     m_newPart->setVisible(takesNewPassword());
+    emit formShown(true);
     m_form->show();
     if (task != Task::Set && !m_attempts.isWaiting())
         m_attempts.resume(m_file.wrongAnswers(), m_clock.now());
@@ -229,6 +230,7 @@ void PasswordPane::close()
         m_refusal->clear();
     const bool hadFocus = m_form->isAncestorOf(focusWidget());
     m_form->hide();
+    emit formShown(false);
     if (hadFocus)
         firstControl()->setFocus();
 }

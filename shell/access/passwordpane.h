@@ -39,6 +39,8 @@ public:
     const WrongAnswers &wrongBefore() const { return m_wrongBefore; }
 
 signals:
+    /// The form opened, or closed again.
+    void formShown(bool isShown);
     void passwordSet();
     void passwordChanged();
     void passwordRemoved();
