@@ -7,7 +7,9 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrinterInfo>
@@ -50,6 +52,12 @@ std::optional<QString> unlessEmpty(const QString &path)
     return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 
+/// A folder that is not there would let the box open in the working folder, among the program's own files.
+QString orHome(const QString &folder)
+{
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
+}
+
 } // namespace
 
 Answer QtDialogs::ask(QWidget *parent, const Message &message)
@@ -86,7 +94,9 @@ std::optional<QString> QtDialogs::chooseFileToSave(QWidget *parent, const QStrin
                                                    const QString &preset, const QString &filter)
 {
     const AroundModalBox around(parent);
-    return unlessEmpty(QFileDialog::getSaveFileName(parent, title, preset, filter));
+    const QFileInfo proposed(preset);
+    const QString start = QDir(orHome(proposed.path())).filePath(proposed.fileName());
+    return unlessEmpty(QFileDialog::getSaveFileName(parent, title, start, filter));
 }
 
 std::optional<QString> QtDialogs::chooseFileToOpen(QWidget *parent, const QString &title,
@@ -96,7 +106,7 @@ std::optional<QString> QtDialogs::chooseFileToOpen(QWidget *parent, const QStrin
     // Without one it would open where another function was last.
     const QString start =
         folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : folder;
-    return unlessEmpty(QFileDialog::getOpenFileName(parent, title, start, filter));
+    return unlessEmpty(QFileDialog::getOpenFileName(parent, title, orHome(start), filter));
 }
 
 std::optional<QString> QtDialogs::chooseFolder(QWidget *parent, const QString &title, const QString &preset)
