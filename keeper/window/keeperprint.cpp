@@ -71,6 +71,10 @@ void KeeperPrint::openPanel()
 
 void KeeperPrint::openSheet(const QString &code)
 {
+    bool isFree = true;
+    emit replacing(&isFree);
+    if (!isFree)
+        return;
     if (!m_sheet) {
         m_sheet = new SheetPanel;
         m_desk.views.addPanel(m_sheet);
