@@ -100,7 +100,10 @@ void KeeperExchange::exportChosen()
     const QString shown = QDir::toNativeSeparators(*path);
     const QByteArray bytes = KeeperExport::csv(entries);
     QSaveFile file(*path);
-    const bool isSaved =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    bool isSaved = file.open(QIODevice::WriteOnly);
+    if (isSaved) {
+        file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner); // before a byte is in it
+        isSaved = file.write(bytes) == bytes.size() && file.commit();
+    }
     emit said(isSaved ? FrameLines::savedAs(shown) : KeeperWindowLines::notExported(shown));
 }

@@ -29,6 +29,17 @@ namespace {
 /// From here on printing takes long enough to be worth a Stop button.
 constexpr std::size_t manySheets = 20;
 
+/// Of a file that not everybody may read.
+constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+
+/// Before the first byte is in it.
+void keepFromOthers(const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadWrite))
+        file.setPermissions(ownerOnly);
+}
+
 /// While it lives, nothing but the status bar takes clicks and keys, and no window closes: the sheets being
 /// printed stay what they are. Esc stops.
 class OnlyStop final : public QObject
@@ -180,6 +191,8 @@ bool PrintJob::toPrinter(const PagePainter &painter, const PageSetup &setup, int
         m_activity.say(PreviewMessages::noSuchPage());
         return false;
     }
+    if (m_mayWriteFile && !printer.outputFileName().isEmpty())
+        keepFromOthers(printer.outputFileName());
     const Outcome outcome = printSheets(shown, printer, sheets);
     if (outcome == Outcome::Stopped)
         printer.abort();
@@ -207,6 +220,8 @@ bool PrintJob::toFile(const PagePainter &painter)
     QSaveFile file(name); // a PDF of that name stays whole until the new one is
     Outcome outcome = Outcome::Failed;
     if (file.open(QIODevice::WriteOnly)) {
+        if (m_mayWriteFile)
+            file.setPermissions(ownerOnly);
         QPdfWriter pdf(&file);
         pdf.setTitle(m_name);
         pdf.setCreator(Page::productLine());
