@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/window/entryview.h"
 
+#include "keeper/model/keeperkinds.h"
 #include "keeper/window/entryform.h"
 #include "keeper/window/windowlines.h"
 #include "shell/controls/titleline.h"
@@ -49,5 +50,7 @@ void EntryView::setSaved(const KeeperEntry &entry, const QString &words)
 void EntryView::follow()
 {
     TitledView::follow(m_form->isModified());
+    if (const KeeperEntry typed = m_form->entry(); typed.id.isEmpty())
+        titleLine().setChip(KeeperKinds::name(typed.kind())); // only that of a new one can still change
     emit edited();
 }

@@ -274,6 +274,9 @@ private slots:
         begin();
         addEntry(u"Power company"_s, u"anne"_s, u"hunter2"_s);
         trigger("mENew");
+        find<QComboBox>("entryKind")->setCurrentIndex(2);
+        QCOMPARE(labelText("entryChip"), u"Card"_s);
+        find<QComboBox>("entryKind")->setCurrentIndex(0);
         QVERIFY(!isOffered("entrySecret_4Show") && !isOffered("entrySecret_4Copy"));
         QVERIFY(!find<QAction>("mEDup")->isEnabled());
         find<QLineEdit>("entryTitle")->setText(u"Bank"_s);
@@ -467,6 +470,10 @@ private slots:
         m_test->dialogs.willChooseFile(path);
         trigger("mUExport");
         QVERIFY(m_test->bytes(u"out.csv"_s).contains("hunter2"));
+#ifdef Q_OS_UNIX
+        constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+        QCOMPARE(QFile::permissions(path) & others, QFile::Permissions());
+#endif
     }
 
     /// Two that want the same key would leave it without effect.
