@@ -34,10 +34,14 @@ inline bool isOfACar(QStringView name)
     return std::ranges::any_of(kinds, [name](QStringView kind) { return isNumbered(name, kind); });
 }
 
-/// Whether `name` is that of a file of the journal or of the calendar maker: "DJour1", "CalMk2".
+/// Whether `name` is that of a file of the journal or of the calendar maker: "DJour1", "DJour2026 set aside",
+/// "CalMk2".
 inline bool isOfPages(QStringView name)
 {
-    return isNumbered(name, u"DJour") || isNumbered(name, u"CalMk");
+    const qsizetype aside = name.indexOf(u" set aside", 0, Qt::CaseInsensitive);
+    const QStringView journal = aside < 0 ? name : name.left(aside);
+    return isNumbered(journal, u"DJour") ||
+           (aside > 0 && journal.startsWith(u"DJourKey", Qt::CaseInsensitive)) || isNumbered(name, u"CalMk");
 }
 
 /// Whether a file called `name` could be mistaken for one of these, upper and lower case alike.

@@ -228,7 +228,8 @@ private slots:
         m_window->resize(800, 600);
         open("mVFuel");
         CarGrid *list = grid("fuelGrid");
-        list->setColumnWidth(1, 200); // so that no font makes room for all
+        for (CarGrid *table : {list, grid("fuelEntry")})
+            table->setColumnWidth(1, 200); // so that no font makes room for all
         QVERIFY(list->horizontalScrollBar()->maximum() > 0);
         grid("fuelEntry")->setCurrentIndex(grid("fuelEntry")->model()->index(0, 6));
         QCoreApplication::processEvents();
