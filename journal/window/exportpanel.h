@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "journal/model/journalexport.h"
+#include "shell/controls/taskpanel.h"
+
+class DateBox;
+class QButtonGroup;
+class QComboBox;
+struct Program;
+
+/// "Export": which entries go into a file, and of what kind that is.
+class ExportPanel final : public TaskPanel
+{
+    Q_OBJECT
+public:
+    enum Form { Text, Html };
+
+    ExportPanel(const Program &program, QWidget *window, QWidget *parent = nullptr);
+
+    void start(QDate shown, const QStringList &tags);
+    JournalExport::Selection selection() const;
+    Form form() const;
+
+signals:
+    void accepted();
+
+private:
+    enum Which { All, Range, Tag };
+
+    QWidget *makeChoices();
+    void follow();
+
+    QButtonGroup *m_which;
+    QButtonGroup *m_form;
+    QWidget *m_days;
+    DateBox *m_from = nullptr;
+    DateBox *m_to = nullptr;
+    QComboBox *m_tags;
+    QDate m_shown;
+};

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "journal/window/hitlist.h"
+
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
+#include "shell/core/dates.h"
+#include "shell/look/theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int inset = 8;
+constexpr int rowGap = 10;
+constexpr int dateRole = Qt::UserRole;
+constexpr int hitRole = Qt::UserRole + 1;
+
+/// The part of a line around its first mark that has room.
+struct Part {
+    QString text;
+    qsizetype begin = 0; ///< where in the line it begins
+};
+
+Part partOf(const JournalHit &hit, const QFontMetrics &metrics, int width)
+{
+    if (hit.marks.isEmpty() || metrics.horizontalAdvance(hit.context) <= width)
+        return {hit.context, 0};
+    const auto [at, length] = hit.marks.first();
+    qsizetype begin = at;
+    // A third of the room for what stands before the word.
+    while (begin > 0 && metrics.horizontalAdvance(hit.context.sliced(begin - 1, at - begin + 1)) < width / 3)
+        --begin;
+    return {hit.context.sliced(begin), begin};
+}
+
+/// The day, and below it a line of the text with the words marked: bold, on the ground of what is marked.
+class HitDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+    {
+        return {inset, QFontMetrics(TypeScale::strong()).height() +
+                           QFontMetrics(TypeScale::label()).height() + rowGap};
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const Theme &theme = Theme::of(option.widget);
+        const bool isSelected = option.state & QStyle::State_Selected;
+        painter->save();
+        if (isSelected)
+            painter->fillRect(option.rect, theme.accent);
+        else if (option.state & QStyle::State_MouseOver)
+            painter->fillRect(option.rect, theme.soft);
+        QRect place = option.rect.adjusted(inset, rowGap / 2, -inset, 0);
+        painter->setClipRect(option.rect.adjusted(inset, 0, -inset, 0));
+        painter->setFont(TypeScale::strong());
+        painter->setPen(isSelected ? theme.onAccent : option.palette.color(QPalette::Text));
+        painter->drawText(place, Qt::AlignLeft | Qt::AlignTop, index.data().toString());
+        place.setTop(place.top() + painter->fontMetrics().height());
+        paintContext(*painter, place, index.data(hitRole).value<JournalHit>(), theme, isSelected);
+        painter->restore();
+    }
+
+private:
+    static void paintContext(QPainter &painter, QRect place, const JournalHit &hit, const Theme &theme,
+                             bool isSelected)
+    {
+        const QFont plain = TypeScale::label();
+        QFont bold = plain;
+        bold.setWeight(QFont::Bold);
+        const Part part = partOf(hit, QFontMetrics(plain), place.width());
+        const auto draw = [&](qsizetype begin, qsizetype end, bool isMarked) {
+            if (begin >= end)
+                return;
+            const QString text = hit.context.sliced(begin, end - begin);
+            painter.setFont(isMarked ? bold : plain);
+            const int width = painter.fontMetrics().horizontalAdvance(text);
+            if (isMarked && !isSelected)
+                painter.fillRect(QRect(place.left(), place.top(), width, painter.fontMetrics().height()),
+                                 theme.mark);
+            painter.setPen(isSelected ? theme.onAccent : isMarked ? theme.text : theme.quiet);
+            painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, text);
+            place.setLeft(place.left() + width);
+        };
+        qsizetype done = part.begin;
+        for (const auto &[at, length] : hit.marks) {
+            draw(done, std::max(done, at), false);
+            draw(std::max(done, at), std::max(done, at + length), true);
+            done = std::max(done, at + length);
+        }
+        draw(done, hit.context.size(), false);
+    }
+};
+
+} // namespace
+
+class HitList::Rows final : public QAbstractListModel
+{
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    void setHits(const QList<JournalHit> &hits, DateStyle style)
+    {
+        beginResetModel();
+        m_hits = hits;
+        m_style = style;
+        endResetModel();
+    }
+    const QList<JournalHit> &hits() const { return m_hits; }
+
+    int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_hits.size());
+    }
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (!index.isValid() || index.row() >= m_hits.size())
+            return {};
+        const JournalHit &hit = m_hits[index.row()];
+        const QString day = Dates::statusText(hit.date, m_style);
+        switch (role) {
+        case Qt::DisplayRole:
+            return day;
+        case Qt::ToolTipRole:
+        case Qt::AccessibleTextRole:
+            return QString(day + u": "_s + hit.context);
+        case dateRole:
+            return hit.date;
+        case hitRole:
+            return QVariant::fromValue(hit);
+        default:
+            return {};
+        }
+    }
+
+private:
+    QList<JournalHit> m_hits;
+    DateStyle m_style = DateStyle::Usa;
+};
+
+HitList::HitList(QWidget *parent)
+    : QListView(parent)
+    , m_rows(new Rows(this))
+{
+    setObjectName(u"journalHits"_s);
+    setAccessibleName(u"Days found"_s);
+    setModel(m_rows);
+    setListRows(this);
+    setItemDelegate(new HitDelegate(this));
+    setEditTriggers(NoEditTriggers);
+    setUniformItemSizes(true);
+    connect(this, &QListView::clicked, this, [this](const QModelIndex &index) { emit opened(date(index)); });
+}
+
+void HitList::setHits(const QList<JournalHit> &hits, DateStyle style)
+{
+    if (hits == m_rows->hits())
+        return;
+    const QDate current = date(currentIndex());
+    m_rows->setHits(hits, style);
+    const auto same = std::ranges::find(hits, current, &JournalHit::date);
+    setCurrentIndex(m_rows->index(same == hits.end() ? 0 : int(same - hits.begin())));
+}
+
+QDate HitList::date(const QModelIndex &index) const
+{
+    return index.data(dateRole).toDate();
+}
+
+void HitList::keyPressEvent(QKeyEvent *event)
+{
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid()) {
+        emit opened(date(currentIndex()));
+        return;
+    }
+    QListView::keyPressEvent(event);
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/controls/importpreview.h"
+
+class Journal;
+class JournalImport;
+
+/// The preview of a text that comes into the journal: what each of its days becomes there.
+class JournalImportPanel final : public ImportPreview
+{
+    Q_OBJECT
+public:
+    explicit JournalImportPanel(Journal &journal);
+
+    /// Shows the file at `path`. False, with the reason said, when it cannot be read.
+    bool open(const QString &path);
+    /// Nothing of the file is left.
+    void forget();
+
+signals:
+    /// The ticked days are in the journal; what each was before is its earlier version.
+    void taken(int count);
+
+protected:
+    QString hint() const override;
+    void take() override;
+
+private:
+    Journal &m_journal;
+    JournalImport *m_import = nullptr;
+};

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "journal/model/journalpages.h"
+#include "shell/controls/taskpanel.h"
+
+class DateBox;
+class QButtonGroup;
+class QCheckBox;
+class QComboBox;
+class QSpinBox;
+struct Program;
+
+/// "Print": what of the journal comes onto paper, and how.
+class JournalPrintPanel final : public TaskPanel
+{
+    Q_OBJECT
+public:
+    enum What { Day, Range, Tag, Month, Yearbook };
+
+    JournalPrintPanel(const Program &program, QWidget *window, QWidget *parent = nullptr);
+
+    /// Offers what the journal has; the day that is shown is proposed.
+    void start(QDate shown, const QStringList &tags);
+
+    What what() const;
+    QDate from() const;
+    QDate to() const;
+    QString tag() const;
+    int year() const;
+    JournalPages::Options options() const;
+
+signals:
+    void accepted();
+
+private:
+    QWidget *makeChoices();
+    QWidget *makeDays();
+    QWidget *makeHow();
+    void follow();
+
+    const Program &m_program;
+    QButtonGroup *m_what;
+    QWidget *m_days;
+    DateBox *m_from = nullptr;
+    DateBox *m_to = nullptr;
+    QComboBox *m_tags;
+    QSpinBox *m_year;
+    QComboBox *m_pictures;
+    QCheckBox *m_newSheets;
+    QCheckBox *m_facts;
+    QDate m_shown;
+};

@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "journal/window/journalwindow.h"
+
+#include "journal/model/journalfiles.h"
+#include "journal/model/messages.h"
+#include "journal/window/daycommands.h"
+#include "journal/window/dayfacts.h"
+#include "journal/window/daypage.h"
+#include "journal/window/journalexchange.h"
+#include "journal/window/journalpane.h"
+#include "journal/window/journalprint.h"
+#include "journal/window/journalspelling.h"
+#include "journal/window/journaltext.h"
+#include "journal/window/openday.h"
+#include "journal/window/pagecommands.h"
+#include "journal/window/picturecommands.h"
+#include "journal/window/windowlines.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/tagbox.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/core/place.h"
+#include "shell/core/slicedwork.h"
+#include "shell/frame/commonkeys.h"
+#include "shell/frame/sidesplitter.h"
+#include "shell/frame/windowtoolbar.h"
+#include "shell/frame/workviews.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int followsAfter = 200; // milliseconds
+
+WindowTraits traits()
+{
+    return {.name = u"DJournal"_s,
+            .caption = u"Personal Journal"_s,
+            .activity = u"Daily Journal"_s,
+            .colors = {SettingsKeys::journalColor, SettingsKeys::journalProgramColor,
+                       SettingsKeys::journalTextColor},
+            .helpContext = HelpContext::Journal};
+}
+
+} // namespace
+
+DJournal::DJournal(Program &program, QWidget *parent)
+    : FunctionWindow(program, traits(), parent)
+    , m_journal(program.folder, program.clock)
+    , m_writing(JournalSpelling::makeWriting(program, this))
+    , m_stack(new WorkViews(this))
+    , m_page(new DayPage(program))
+    , m_day(new OpenDay(m_journal, {m_page->text(), m_page->tags(), m_page->pictures()}, this))
+    , m_pane(new JournalPane(program, colors(), m_journal, this))
+    , m_days(new DayCommands(desk(), this))
+    , m_edit(new PageCommands(desk(), this))
+    , m_pictures(new PictureCommands(desk(), this))
+    , m_spelling(new JournalSpelling(desk(), this))
+    , m_exchange(new JournalExchange(desk(), this))
+    , m_print(new JournalPrint(desk(), this))
+    , m_reading(new SlicedWork(this))
+{
+    setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(), &JournalPane::suitableWidth));
+    makeCommands();
+    setViews(m_stack);
+    connectParts();
+    finishFrame();
+    goTo(clock().today());
+    watchYears();
+    m_page->setFocus();
+    QTimer::singleShot(0, this, &DJournal::readOn);
+}
+
+DJournal::~DJournal() = default;
+
+JournalDesk DJournal::desk()
+{
+    return {program(),
+            *this,
+            m_journal,
+            commands(),
+            *m_stack,
+            *m_writing,
+            *m_page,
+            *m_day,
+            [this](QDate date) { goTo(date); },
+            [this] { return whyNone(); }};
+}
+
+QWidget *DJournal::makeWorkPanel()
+{
+    QWidget *panel = makePanel(u"journalPanel"_s, m_stack);
+    m_stack->addHome(m_page);
+    return panel;
+}
+
+/// The tools stand in the order in which their commands are made.
+void DJournal::makeCommands()
+{
+    QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
+    QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
+    QMenu *format = addMenu(u"mFt"_s, u"&Format"_s);
+    QMenu *view = addMenu(u"mV"_s, u"&View"_s);
+    m_days->addCommands(view);
+    view->addSeparator();
+    commands().add(
+        view, u"mVSearch"_s, u"&Search"_s, [this] { m_pane->startSearch(); }, [this] { return whyNone(); },
+        CommonKeys::search);
+    m_edit->addUndo(edit);
+    m_pictures->addCommands(edit);
+    m_edit->addCommands(edit);
+    m_edit->addFormat(format);
+    makeOptions(options);
+    m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s));
+    QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
+    m_exchange->addCommands(utilities);
+    utilities->addSeparator();
+    utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
+    addHelpEntry();
+    commands().separateTools();
+    addUsualTools();
+    m_edit->makeButtons();
+    ButtonRow &foot = m_page->foot();
+    foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
+}
+
+void DJournal::makeOptions(QMenu *options)
+{
+    options->addAction(standard(Standard::PanelColor));
+    options->addAction(standard(Standard::TextColor));
+    options->addSeparator();
+    commands().writing(commands().add(
+        options, u"mOSave"_s, u"&Save"_s,
+        [this] {
+            if (m_day->save())
+                activity().say(JournalWindowLines::saved());
+        },
+        [this] { return whyNone(); }, CommonKeys::save));
+    QAction *copying = commands().add(
+        options, u"mOCopy"_s, u"Cop&y"_s, [this] { copy(); },
+        [this] {
+            if (const QString none = whyNone(); !none.isEmpty())
+                return none;
+            return m_day->typed().isEmpty() ? JournalWindowLines::nothingWritten() : QString();
+        });
+    commands().tool(copying, "copy"_L1, u"Copy"_s);
+    m_print->addCommands(options);
+    options->addSeparator();
+    options->addAction(standard(Standard::Exit));
+}
+
+void DJournal::connectParts()
+{
+    const auto say = [this](const QString &line) { activity().say(line); };
+    connect(m_day, &OpenDay::said, this, say);
+    connect(m_days, &DayCommands::said, this, say);
+    connect(m_edit, &PageCommands::said, this, say);
+    connect(m_pictures, &PictureCommands::said, this, say);
+    connect(m_spelling, &JournalSpelling::said, this, say);
+    connect(m_print, &JournalPrint::said, this, say);
+    connect(m_exchange, &JournalExchange::said, this, say);
+    connect(m_exchange, &JournalExchange::progressed, &activity(),
+            [this](int done, int total) { activity().showProgress(done, total); });
+    connect(m_exchange, &JournalExchange::broughtIn, this, [this] {
+        m_pane->refresh();
+        commands().refresh();
+    });
+    m_following.setSingleShot(true);
+    m_following.setInterval(followsAfter);
+    connect(&m_following, &QTimer::timeout, this, &DJournal::followDay);
+    connect(m_day, &OpenDay::edited, &m_following, qOverload<>(&QTimer::start));
+    connect(m_day, &OpenDay::savedChanged, this, [this] {
+        watchYears();
+        followDay();
+    });
+    connect(&m_journal, &Journal::changed, m_pane, &JournalPane::refresh);
+    connect(m_page, &DayPage::stepped, m_days, &DayCommands::step);
+    connect(m_page, &DayPage::todayRequested, m_days, &DayCommands::goToday);
+    connect(&m_page->facts(), &DayFacts::chosen, m_edit, &PageCommands::insert);
+    connect(m_pane, &JournalPane::dateChosen, this, &DJournal::goTo);
+    connect(m_pane, &JournalPane::entered, m_page, [this] { m_page->setFocus(); });
+    connect(m_pane, &JournalPane::searchBegun, this, [this] { m_before = m_day->date(); });
+    connect(m_pane, &JournalPane::hitOpened, this, [this](QDate date) {
+        goTo(date);
+        m_page->setFocus();
+    });
+    connect(m_pane, &JournalPane::searchLeft, this, [this] {
+        if (const QDate before = std::exchange(m_before, {}); before.isValid())
+            goTo(before);
+    });
+    connect(m_reading, &SlicedWork::progressed, m_pane, &JournalPane::refresh);
+    connect(m_reading, &SlicedWork::finished, this, [this] {
+        m_pane->refresh();
+        m_page->setKnownTags(m_journal.tags().keys());
+        commands().refresh();
+    });
+}
+
+void DJournal::goTo(QDate date)
+{
+    if (!Journal::isPossible(date))
+        return;
+    closePreview();
+    if (!m_stack->isHome())
+        m_stack->goHome();
+    activity().say({});
+    if (date != m_day->date())
+        m_day->open(date);
+    m_pane->setDate(date);
+    m_page->facts().setDate(date);
+    followDay();
+}
+
+void DJournal::followDay()
+{
+    m_page->follow(*m_day);
+    commands().refresh();
+}
+
+/// The other years are read when the window has been seen: for the same day in them, and for the tags.
+void DJournal::readOn()
+{
+    m_reading->start([this] { return m_journal.readNext(m_day->date().year()); });
+}
+
+void DJournal::watchYears()
+{
+    QStringList names;
+    for (const int year : m_journal.years())
+        names.append(JournalFiles::name(year));
+    watchFiles(names);
+}
+
+void DJournal::filesChanged()
+{
+    m_day->take();
+    m_journal.reread();
+    m_pane->refresh();
+    watchYears();
+    readOn();
+}
+
+QString DJournal::whyNone() const
+{
+    return m_day->date().isValid() ? QString() : JournalWindowLines::isLocked();
+}
+
+bool DJournal::isModified() const
+{
+    return !m_day->save();
+}
+
+bool DJournal::save()
+{
+    return m_day->save();
+}
+
+/// The disk has refused; Yes leaves all the same.
+Answer DJournal::askToLeave()
+{
+    return ask(JournalMessages::leaveUnsaved()) == Answer::Yes ? Answer::No : Answer::Cancel;
+}
+
+void DJournal::showPlace(const Place &place)
+{
+    goTo(place.date);
+    m_page->setFocus();
+}
+
+void DJournal::copy()
+{
+    QGuiApplication::clipboard()->setText(m_day->typed().text);
+    ask(JournalMessages::copied());
+}

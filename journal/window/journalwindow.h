@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "journal/model/journal.h"
+#include "journal/window/journaldesk.h"
+#include "shell/frame/functionwindow.h"
+
+#include <QTimer>
+
+class DayCommands;
+class JournalExchange;
+class JournalPrint;
+class JournalSpelling;
+class PageCommands;
+class PictureCommands;
+class SlicedWork;
+
+/// The daily journal: the page of a day, and beside it the ways to all others. What is typed is saved by
+/// itself.
+class DJournal final : public FunctionWindow
+{
+    Q_OBJECT
+public:
+    explicit DJournal(Program &program, QWidget *parent = nullptr);
+    ~DJournal() override;
+
+    bool isModified() const override;
+    /// Shows the day that a place means.
+    void showPlace(const Place &place);
+
+    Journal &journal() { return m_journal; }
+
+protected:
+    [[nodiscard]] bool save() override;
+    Answer askToLeave() override;
+    void filesChanged() override;
+
+private:
+    JournalDesk desk();
+    QWidget *makeWorkPanel();
+    void makeCommands();
+    void makeOptions(QMenu *options);
+    void connectParts();
+    void goTo(QDate date);
+    void followDay();
+    void readOn();
+    void watchYears();
+    void copy();
+    QString whyNone() const;
+
+    Journal m_journal;
+    Writing *m_writing;
+    WorkViews *m_stack;
+    DayPage *m_page;
+    OpenDay *m_day;
+    JournalPane *m_pane;
+    DayCommands *m_days;
+    PageCommands *m_edit;
+    PictureCommands *m_pictures;
+    JournalSpelling *m_spelling;
+    JournalExchange *m_exchange;
+    JournalPrint *m_print;
+    SlicedWork *m_reading; ///< the other years, once the window is seen
+    QTimer m_following;    ///< shows what is known of the page once the keys rest
+    QDate m_before;        ///< the day from which a search was begun
+};

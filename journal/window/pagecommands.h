@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "journal/window/journaldesk.h"
+
+#include <QObject>
+
+class EarlierPanel;
+class QAction;
+class QMenu;
+class QPushButton;
+
+/// What is done to the page that is open.
+class PageCommands final : public QObject
+{
+    Q_OBJECT
+public:
+    PageCommands(const JournalDesk &desk, QObject *parent);
+
+    void addUndo(QMenu *edit);
+    void addCommands(QMenu *edit);
+    void addFormat(QMenu *format);
+    void makeButtons();
+    /// Puts words at the cursor, apart from what stands there.
+    void insert(const QString &words);
+    /// Nothing of any entry is left.
+    void forget();
+
+signals:
+    void said(const QString &line);
+
+private:
+    void insertTime();
+    void remove();
+    void openEarlier();
+    void bringBack();
+    void deleteForGood();
+    QString whyLocked() const;
+    QString shownDay() const;
+
+    JournalDesk m_desk;
+    EarlierPanel *m_panel = nullptr;
+    QAction *m_remove = nullptr;
+    QAction *m_earlier = nullptr;
+};

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "journal/window/tagslist.h"
+
+#include "journal/window/windowlines.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
+#include "shell/look/theme.h"
+
+#include <QListView>
+#include <QPainter>
+#include <QShortcut>
+#include <QStandardItemModel>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int inset = 8;
+constexpr int leastRows = 3;
+constexpr int countRole = Qt::UserRole;
+
+/// A tag, and at the right how many entries have it.
+class TagDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+    {
+        return {inset, ListRowDelegate::rowHeight()};
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const Theme &theme = Theme::of(option.widget);
+        const bool isSelected = option.state & QStyle::State_Selected;
+        if (isSelected)
+            painter->fillRect(option.rect, theme.accent);
+        else if (option.state & QStyle::State_MouseOver)
+            painter->fillRect(option.rect, theme.soft);
+        QRect place = option.rect.adjusted(inset, 0, -inset, 0);
+        const QString count = QString::number(index.data(countRole).toInt());
+        painter->setFont(TypeScale::label());
+        painter->setPen(isSelected ? theme.onAccent : theme.quiet);
+        painter->drawText(place, Qt::AlignVCenter | Qt::AlignRight, count);
+        place.setRight(place.right() - painter->fontMetrics().horizontalAdvance(count) - inset);
+        painter->setFont(option.font);
+        painter->setPen(isSelected ? theme.onAccent : option.palette.color(QPalette::Text));
+        painter->drawText(
+            place, Qt::AlignVCenter | Qt::AlignLeft,
+            painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, place.width()));
+    }
+};
+
+} // namespace
+
+TagsList::TagsList(QWidget *parent)
+    : QWidget(parent)
+    , m_rows(new QStandardItemModel(this))
+    , m_list(named(new QListView(this), u"tagsList"_s))
+    , m_nothing(makeQuietLabel(JournalWindowLines::noTags(), this))
+{
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins({});
+    rows->setSpacing(6);
+    rows->addWidget(makeHeading(u"Tags"_s, this));
+    rows->addWidget(m_nothing);
+    rows->addWidget(m_list, 1);
+    rows->addStretch(0);
+    m_nothing->setWordWrap(true);
+    m_list->setModel(m_rows);
+    setListRows(m_list);
+    m_list->setItemDelegate(new TagDelegate(m_list));
+    m_list->setAccessibleName(u"Tags"_s);
+    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_list->setMinimumHeight(leastRows * ListRowDelegate::rowHeight() / 2);
+    m_list->hide();
+    connect(m_list, &QListView::clicked, this, &TagsList::open);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto *opens = new QShortcut(key, m_list);
+        opens->setContext(Qt::WidgetShortcut);
+        connect(opens, &QShortcut::activated, m_list, [this] { open(m_list->currentIndex()); });
+    }
+}
+
+void TagsList::setTags(const QMap<QString, int> &tags)
+{
+    const QString current = m_list->currentIndex().data().toString();
+    m_rows->clear();
+    for (auto tag = tags.cbegin(); tag != tags.cend(); ++tag) {
+        auto *row = new QStandardItem(tag.key());
+        row->setData(tag.value(), countRole);
+        row->setData(u"%1, %2"_s.arg(tag.key(), JournalWindowLines::hits(tag.value(), false)),
+                     Qt::AccessibleTextRole);
+        row->setToolTip(tag.key());
+        m_rows->appendRow(row);
+        if (tag.key() == current)
+            m_list->setCurrentIndex(row->index());
+    }
+    m_list->setVisible(!tags.isEmpty());
+    m_nothing->setVisible(tags.isEmpty());
+}
+
+void TagsList::open(const QModelIndex &index)
+{
+    if (index.isValid())
+        emit tagChosen(index.data().toString());
+}
