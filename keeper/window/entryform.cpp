@@ -75,6 +75,7 @@ EntryForm::EntryForm(const Program &program, QWidget *window, QWidget *parent)
 {
     m_expires =
         named(new DateBox({program.state.dateStyle, program.clock}, m_picker, this), u"entryExpires"_s);
+    m_expires->takeMonths(DateBox::MonthAlone::LastDay);
     for (const EntryKind kind : KeeperKinds::all)
         m_kind->addItem(KeeperKinds::name(kind), int(kind));
     m_member->setEditable(true);

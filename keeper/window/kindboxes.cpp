@@ -61,6 +61,7 @@ QWidget *KindBoxes::makeLine(const Box &box, Field &field)
     const QString name = u"entryBox_%1"_s.arg(box.id);
     if (box.input == Input::Date) {
         field.date = named(new DateBox(m_reading, m_picker, this), name);
+        field.date->takeMonths(DateBox::MonthAlone::FirstDay);
         field.line = field.date;
         connect(field.date, &FieldBox::refused, this, &KindBoxes::said);
     } else {

@@ -6,11 +6,26 @@
 #include "shell/core/dates.h"
 #include "shell/core/framelines.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 constexpr int longestDate = 20;
+constexpr int thisCentury = 2000;
+
+/// "12/2026" and "12/26"; a year of two digits lies in this century.
+QDate firstOfMonth(const QString &text)
+{
+    static const QRegularExpression month(uR"(^\s*(\d{1,2})\s*[/.-]\s*(\d{2}|\d{4})\s*$)"_s);
+    const QRegularExpressionMatch found = month.match(text);
+    const int year = found.captured(2).toInt();
+    return found.hasMatch() ? QDate(year < 100 ? thisCentury + year : year, found.captured(1).toInt(), 1)
+                            : QDate();
+}
 } // namespace
 
 DateBox::DateBox(const DateReading &reading, DatePicker *picker, QWidget *parent)
@@ -30,6 +45,9 @@ DateBox::DateBox(const DateReading &reading, DatePicker *picker, QWidget *parent
 
 std::optional<QDate> DateBox::date() const
 {
+    const QDate month = m_monthAlone == MonthAlone::Refused ? QDate() : firstOfMonth(text());
+    if (month.isValid())
+        return m_monthAlone == MonthAlone::FirstDay ? month : month.addMonths(1).addDays(-1);
     if (m_takesFuture)
         return Dates::parse(text(), m_reading.style);
     const QDate today = m_reading.clock.today();

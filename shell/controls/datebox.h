@@ -27,6 +27,9 @@ public:
 
     /// Makes it a box for a date of birth, which never lies after today.
     void takeNoFuture() { m_takesFuture = false; }
+    /// Which day a month alone stands for, as cards bear it: "12/2026", "12/26". Refused at first.
+    enum class MonthAlone { Refused, FirstDay, LastDay };
+    void takeMonths(MonthAlone day) { m_monthAlone = day; }
     /// Gives its dates another form than that of the records' boxes.
     using Form = QString (*)(QDate date);
     void setForm(Form form) { m_form = form; }
@@ -51,6 +54,7 @@ private:
     DateReading m_reading;
     Form m_form = nullptr; ///< null: that of the records' boxes
     bool m_takesFuture = true;
+    MonthAlone m_monthAlone = MonthAlone::Refused;
     bool m_isRefused = false;    ///< what it held when it was last tidied
     std::optional<QDate> m_date; ///< as it was told last
 };

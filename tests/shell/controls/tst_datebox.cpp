@@ -64,6 +64,18 @@ private slots:
         QVERIFY(!m_box->date());
         QCOMPARE(refused.takeFirst().at(0).toString(), u"Not a date that can be counted with"_s);
 
+        for (const QString &month : {u"12/2026"_s, u" 12-26 "_s}) {
+            m_box->takeMonths(DateBox::MonthAlone::Refused);
+            QCOMPARE(type(month).trimmed(), month.trimmed());
+            m_box->takeMonths(DateBox::MonthAlone::FirstDay);
+            QCOMPARE(type(month), u"Dec-01-2026"_s);
+            m_box->takeMonths(DateBox::MonthAlone::LastDay);
+            QCOMPARE(type(month), u"Dec-31-2026"_s);
+        }
+        m_box->takeMonths(DateBox::MonthAlone::Refused);
+        QCOMPARE(type(u"soon"_s), u"soon"_s);
+        refused.clear();
+
         m_box->takeNoFuture();
         QCOMPARE(type(u"1/2/29"_s), u"Jan-02-1929"_s);
         QCOMPARE(refused.takeFirst().at(0).toString(), QString()); // what was said of it is taken back
