@@ -193,12 +193,20 @@ void KeeperDoor::answer(const QString &text)
         return;
     }
     m_unlock->setTrying(true);
+    m_isLockDue = false;
     const auto shared = std::make_shared<KeeperOpening>(std::move(*opening));
     work([shared] { shared->run(); },
          [this, shared, slot] {
              m_unlock->setTrying(false);
              judge(std::move(*shared), slot);
+             if (m_isLockDue)
+                 emit lockDue();
          });
+}
+
+void KeeperDoor::lockBehind()
+{
+    m_isLockDue = true;
 }
 
 void KeeperDoor::judge(KeeperOpening opening, Slot slot)

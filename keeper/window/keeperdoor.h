@@ -36,10 +36,14 @@ public:
     void showCodeAgain();
     /// The keeper is locked: no code is left in the window.
     void forget();
+    /// The keeper shall be locked while an answer is still tried: what that opens is locked at once. A wrong
+    /// one counts all the same.
+    void lockBehind();
 
 signals:
     /// The keeper is open now; `line` is what is to be said.
     void opened(const QString &line);
+    void lockDue();
     void codePrintWanted(const QString &code);
     void said(const QString &line);
 
@@ -61,6 +65,7 @@ private:
 
     KeeperDesk m_desk;
     ThreadedStep *m_step;
+    bool m_isLockDue = false;
     AttemptMemory m_memory;
     Attempts m_attempts;
     UnlockView *m_unlock;

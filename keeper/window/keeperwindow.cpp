@@ -188,6 +188,7 @@ void Form4::connectParts()
 {
     const auto say = [this](const QString &line) { activity().say(line); };
     connect(m_door, &KeeperDoor::opened, this, &Form4::opened);
+    connect(m_door, &KeeperDoor::lockDue, this, &Form4::lock);
     connect(m_door, &KeeperDoor::said, this, say);
     connect(m_work, &EntryWork::said, this, say);
     connect(m_commands, &EntryCommands::said, this, say);
@@ -244,8 +245,10 @@ void Form4::followSettings()
 /// No box that stands open holds it up, and nothing of an entry is left in words, pages or the clipboard.
 void Form4::lock()
 {
-    if (!isOpen())
+    if (!isOpen()) {
+        m_door->lockBehind();
         return;
+    }
     m_idle.stop();
     for (QDialog *dialog : findChildren<QDialog *>())
         dialog->reject();

@@ -88,6 +88,18 @@ private slots:
         QCOMPARE(find<QLineEdit>("masterPassword")->echoMode(), QLineEdit::Password);
     }
 
+    void locksWhatALateAnswerOpens()
+    {
+        begin();
+        trigger("mOLock");
+        answer(u"master"_s);
+        emit m_test->changes.lockRequested();
+        QTRY_VERIFY(find<QPushButton>("openKeeper")->isEnabled());
+        QVERIFY(!isSeen("keeperPane") && isSeen("unlockView"));
+        answer(u"master"_s);
+        QTRY_VERIFY(isSeen("keeperPane"));
+    }
+
     /// Whoever is called away before the code is on paper finds it again.
     void showsACodeAgainUntilItIsKept()
     {
