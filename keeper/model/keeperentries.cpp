@@ -65,7 +65,7 @@ QList<KeeperVersion> KeeperEntries::versions(const QByteArray &id) const
     const auto current = KeeperOpening::current(id, versions);
     for (auto it = versions.rbegin(); it != versions.rend() && earlier.size() < earlierVersions; ++it) {
         if (isEarlier(*it) && it->number != current->version.number)
-            earlier.append({it->number, QDateTime::fromSecsSinceEpoch(it->time, Qt::UTC)});
+            earlier.append({it->number, QDateTime::fromSecsSinceEpoch(it->time).toUTC()});
     }
     return earlier;
 }

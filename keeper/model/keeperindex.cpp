@@ -30,7 +30,7 @@ void wipe(std::string &text)
 
 QDateTime timeOf(qint64 seconds)
 {
-    return seconds == 0 ? QDateTime() : QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    return seconds == 0 ? QDateTime() : QDateTime::fromSecsSinceEpoch(seconds).toUTC();
 }
 
 int characters(QByteArrayView utf8)

@@ -53,7 +53,7 @@ QByteArrayView recordOf(QByteArrayView bytes, int number)
 
 QDateTime timeOf(qint64 seconds)
 {
-    return seconds == 0 ? QDateTime() : QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    return seconds == 0 ? QDateTime() : QDateTime::fromSecsSinceEpoch(seconds).toUTC();
 }
 
 qint64 secondsOf(const QDateTime &time)
