@@ -96,12 +96,17 @@ inline Message newRecoveryCode()
 }
 
 /// `name`: a file of that name, but not of this keeper. `aside`: what it will be called.
-inline Message setAside(const QString &name, const QString &aside)
+inline Message setAside(const QStringList &names, const QStringList &asides)
 {
+    const QString kept = u"\u201c"_s + asides.join(u"\u201d and \u201c"_s) + u"\u201d"_s;
     return graveQuestion(
         u"Set Files Aside"_s,
-        u"Set the file %1 aside?\nIt is no file of this keeper. It is kept as \u201c%2\u201d, "
-        u"and a new keeper can be made."_s.arg(name, aside));
+        (names.size() == 1
+             ? u"Set the file %1 aside?\nIt is no file of this keeper. It is kept as %2, "
+               u"and a new keeper can be made."_s
+             : u"Set the files %1 aside?\nThey are no files of this keeper. They are kept as %2, "
+               u"and a new keeper can be made."_s)
+            .arg(names.join(u" and "_s), kept));
 }
 
 // What leaves the keeper

@@ -160,12 +160,15 @@ void KeeperDoor::showTrouble()
 
 void KeeperDoor::setFilesAside()
 {
-    for (const QString &name : m_desk.keeper.foreignFiles()) {
+    const QStringList names = m_desk.keeper.foreignFiles();
+    QStringList asides;
+    asides.reserve(names.size());
+    for (const QString &name : names) {
         const qsizetype dot = name.lastIndexOf(u'.');
-        const QString aside = name.left(dot) + u" (set aside)"_s + name.mid(dot);
-        if (m_desk.program.dialogs.ask(&m_desk.window, KeeperMessages::setAside(name, aside)) != Answer::Yes)
-            return;
+        asides.append(name.left(dot) + u" (set aside)"_s + name.mid(dot));
     }
+    if (m_desk.program.dialogs.ask(&m_desk.window, KeeperMessages::setAside(names, asides)) != Answer::Yes)
+        return;
     if (!m_desk.keeper.setAside())
         emit said(KeeperWindowLines::notSetAside());
     show();

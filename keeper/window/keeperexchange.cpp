@@ -61,9 +61,9 @@ void KeeperExchange::importFile()
         });
     }
     m_desk.window.closePreview();
+    emit said({});
     if (!m_panel->open(*path))
         return;
-    emit said({});
     m_desk.views.open(m_panel);
     m_panel->setFocus();
 }

@@ -11,6 +11,7 @@
 #include "shell/program/program.h"
 #include "storage/sealing/freememory.h"
 
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -61,9 +62,10 @@ KeeperImportPanel::KeeperImportPanel(const KeeperDesk &desk)
 
 bool KeeperImportPanel::open(const QString &path)
 {
+    m_refusal.clear();
     const auto bytes = contents(path);
     if (!bytes)
-        return false;
+        return refuse(path);
     KeeperImport::There there{{}, [this](const QByteArray &id) { return m_desk.keeper.entry(id); }};
     for (const KeeperSummary &entry : m_desk.keeper.entries()) {
         if (!entry.isTrashed && entry.damagedPlace == 0)
@@ -84,10 +86,28 @@ bool KeeperImportPanel::open(const QString &path)
     return true;
 }
 
+/// A file that is too long: why it is not read stands where its lines would, and those of the file before
+/// are gone.
+bool KeeperImportPanel::refuse(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.isFile() || file.size() <= mostBytes)
+        return false;
+    setTitle(file.fileName());
+    m_refusal = tooLong(file.fileName());
+    readNothing();
+    return true;
+}
+
 void KeeperImportPanel::forget()
 {
-    if (!m_import)
-        return;
+    m_refusal.clear();
+    if (m_import)
+        readNothing();
+}
+
+void KeeperImportPanel::readNothing()
+{
     auto nothing = std::make_unique<KeeperCsvImport>(QByteArray(), KeeperImport::There(),
                                                      m_desk.program.state.dateStyle);
     m_import = nothing.get();
@@ -98,6 +118,8 @@ void KeeperImportPanel::forget()
 
 QString KeeperImportPanel::hint() const
 {
+    if (!m_refusal.isEmpty())
+        return m_refusal;
     if (!m_import)
         return {};
     if (!m_import->refusal().isEmpty())
@@ -109,6 +131,8 @@ QString KeeperImportPanel::hint() const
 
 QString KeeperImportPanel::nothingToTake() const
 {
+    if (!m_refusal.isEmpty())
+        return m_refusal;
     return m_import && !m_import->refusal().isEmpty() ? m_import->refusal() : ImportPreview::nothingToTake();
 }
 

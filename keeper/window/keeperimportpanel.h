@@ -34,6 +34,8 @@ protected:
     void take() override;
 
 private:
+    bool refuse(const QString &path);
+    void readNothing();
     void followLine();
     bool hasDifferent() const;
 
@@ -41,4 +43,5 @@ private:
     const KeeperImport *m_import = nullptr;
     const KeeperCsvImport *m_csv = nullptr; ///< the same, where it is a table
     QLabel *m_beside;
+    QString m_refusal; ///< of a file that was not even read
 };

@@ -30,7 +30,6 @@ constexpr int inset = 8;
 constexpr int measuredRows = 300;
 constexpr int percent = 100;
 constexpr int leastWide = 14; ///< characters
-constexpr qint64 mostBytes = qint64(64) * 1024 * 1024;
 } // namespace
 
 ImportPreview::ImportPreview(const Traits &traits, QWidget *parent)

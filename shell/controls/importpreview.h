@@ -44,6 +44,8 @@ protected:
     explicit ImportPreview(const Traits &traits, QWidget *parent = nullptr);
     ~ImportPreview() override;
 
+    /// A longer file is not read.
+    static constexpr qint64 mostBytes = qint64(64) * 1024 * 1024;
     /// What is in the file at `path`, of which the name becomes the title; nothing, with the reason said,
     /// where it cannot be read.
     std::optional<QByteArray> contents(const QString &path);

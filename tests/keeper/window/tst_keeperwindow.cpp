@@ -455,6 +455,23 @@ private slots:
         QCOMPARE(titles(), (QStringList{u"Bank"_s, u"Mail"_s}));
     }
 
+    /// Where the lines of the file before stood.
+    void saysInThePreviewThatAFileIsTooLong()
+    {
+        begin();
+        m_test->setBytes(u"in.csv"_s, "title,username,password\r\nMail,nils,hunter3\r\n");
+        m_test->dialogs.willChooseFile(m_test->path(u"in.csv"_s));
+        trigger("mUImport");
+        QTRY_VERIFY(isOffered("keeperImportTake"));
+        QVERIFY(QFile::resize(m_test->path(u"in.csv"_s), qint64(64) * 1024 * 1024 + 1));
+        m_test->dialogs.willChooseFile(m_test->path(u"in.csv"_s));
+        trigger("mUImport");
+        QTRY_COMPARE(labelText("keeperImportHint"),
+                     u"in.csv: not read from line 1 on, since it is longer than 64 MiB"_s);
+        QVERIFY(!find<QPushButton>("keeperImportTake")->isEnabled());
+        QCOMPARE(find<QAbstractItemView>("keeperImportList")->model()->rowCount(), 0);
+    }
+
     /// The master password is asked for once more, and what the file is: No leaves everything as it is.
     void exportsOnlyBehindTheMasterPassword()
     {
