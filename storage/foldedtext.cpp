@@ -132,29 +132,34 @@ char *putFolded(char *at, char32_t character)
     return folded < tableEnd ? putFolded(at, folded) : putUtf8(at, folded);
 }
 
-/// Bytes of one character each, as many as stand together; where they end. Without a branch in the loop, the
-/// compiler takes sixteen at once.
+char foldedAscii(char byte)
+{
+    const auto letter = quint8(byte);
+    const quint8 small = letter + quint8(quint8(letter - 'A') < 26 ? 'a' - 'A' : 0);
+    return char(quint8(small - ' ') < 0x5F ? small : quint8(' '));
+}
+
+/// Bytes of one character each, as many as stand together; where they end. The compiler takes sixteen at once
+/// of what is sure to lie apart from where it goes.
 const char *foldAscii(const char *at, const char *end, char *&out)
 {
-    constexpr std::ptrdiff_t stride = 16;
-    const auto fold = [](char byte) {
-        const auto letter = quint8(byte);
-        const quint8 small = letter + quint8(quint8(letter - 'A') < 26 ? 'a' - 'A' : 0);
-        return char(quint8(small - ' ') < 0x5F ? small : quint8(' '));
-    };
-    while (end - at >= stride) {
+    constexpr std::size_t stride = 32;
+    std::array<char, stride> piece{};
+    while (std::size_t(end - at) >= stride) {
+        std::memcpy(piece.data(), at, stride);
         quint8 all = 0;
-        for (std::ptrdiff_t i = 0; i < stride; ++i)
-            all |= quint8(at[i]);
+        for (const char byte : piece)
+            all |= quint8(byte);
         if (all >= 0x80)
             break;
-        for (std::ptrdiff_t i = 0; i < stride; ++i)
-            out[i] = fold(at[i]);
+        for (char &byte : piece)
+            byte = foldedAscii(byte);
+        std::memcpy(out, piece.data(), stride);
         at += stride;
         out += stride;
     }
     while (at < end && quint8(*at) < 0x80)
-        *out++ = fold(*at++);
+        *out++ = foldedAscii(*at++);
     return at;
 }
 
@@ -168,23 +173,43 @@ char32_t characterOf(QByteArrayView bytes)
     return character;
 }
 
+/// As most letters are that are not ASCII.
+bool isOfTwoBytes(QByteArrayView bytes)
+{
+    const auto lead = quint8(bytes.front());
+    return lead >= 0xC2 && lead < 0xE0 && bytes.size() > 1 && (quint8(bytes[1]) & 0xC0U) == 0x80;
+}
+
 } // namespace
 
-void FoldedText::append(QByteArray &folded, QByteArrayView bytes)
+char *FoldedText::write(char *out, QByteArrayView bytes)
 {
-    const qsizetype before = folded.size();
-    folded.resize(before + mostGrowth * bytes.size());
-    char *out = folded.data() + before;
     const char *at = bytes.data();
     const char *const end = at + bytes.size();
-    while ((at = foldAscii(at, end, out)) < end) {
+    while (at < end) {
+        if (quint8(*at) < 0x80) {
+            at = foldAscii(at, end, out);
+            continue;
+        }
         const QByteArrayView rest(at, end - at);
+        if (isOfTwoBytes(rest)) {
+            out = putFolded(out, characterOf(rest.first(2)));
+            at += 2;
+            continue;
+        }
         const qsizetype length = Utf8Text::characterAt(rest, 0);
         out = putFolded(out, length > 0 ? characterOf(rest.first(length))
                                         : char32_t(AnsiText::decode(rest.first(1)).front().unicode()));
         at += std::max<qsizetype>(length, 1);
     }
-    folded.resize(out - folded.constData());
+    return out;
+}
+
+void FoldedText::append(QByteArray &folded, QByteArrayView bytes)
+{
+    const qsizetype before = folded.size();
+    folded.resize(before + mostGrowth * bytes.size());
+    folded.resize(write(folded.data() + before, bytes) - folded.constData());
 }
 
 void FoldedText::append(QByteArray &folded, char32_t character)

@@ -11,7 +11,11 @@ namespace FoldedText {
 /// The most bytes that one byte becomes.
 inline constexpr qsizetype mostGrowth = 3;
 
-/// Adds `bytes` folded to `folded`; those that are no UTF-8 count as Windows-1252.
+/// Writes `bytes` folded to `out`, where there is room for `mostGrowth` times as many; where they end. Those
+/// that are no UTF-8 count as Windows-1252.
+char *write(char *out, QByteArrayView bytes);
+
+/// Adds `bytes` folded to `folded`.
 void append(QByteArray &folded, QByteArrayView bytes);
 
 /// Adds one character folded to `folded`.

@@ -3,6 +3,7 @@
 
 #include "journal/model/journalfold.h"
 #include "storage/bytesearch.h"
+#include "storage/foldedtext.h"
 #include "storage/sealing/secretbytes.h"
 
 #include <algorithm>
@@ -11,9 +12,14 @@
 FoldedYear::FoldedYear(const JournalBlocks &blocks)
 {
     qsizetype size = 0;
-    for (const JournalBlock &block : blocks)
-        size += block.kind == JournalBlock::Entry ? block.bytes.size() : 0;
-    m_folded.reserve(size + size / 64);
+    qsizetype longest = 0;
+    for (const JournalBlock &block : blocks) {
+        if (block.kind != JournalBlock::Entry)
+            continue;
+        size += block.bytes.size();
+        longest = std::max(longest, block.bytes.size());
+    }
+    m_folded.reserve(size + size / 64 + FoldedText::mostGrowth * longest);
     m_items.reserve(blocks.size());
     for (const JournalBlock &block : blocks) {
         if (block.kind != JournalBlock::Entry)

@@ -9,6 +9,12 @@
 
 namespace {
 
+/// The most bytes that a text folded can take: each line has a blank behind it.
+qsizetype roomFor(QByteArrayView body)
+{
+    return FoldedText::mostGrowth * body.size() + 1;
+}
+
 /// Asterisks mark what is bold or italic; a word does not end there.
 void dropAsterisks(QByteArray &folded, qsizetype from)
 {
@@ -29,12 +35,15 @@ qsizetype JournalFold::append(QByteArray &folded, const JournalBlock &block)
 {
     const JournalForm::Parts parts = JournalForm::partsOf(block.bytes);
     const qsizetype begin = folded.size();
-    JournalForm::forEachLine(parts.body, [&folded](QByteArrayView line) {
+    folded.resize(begin + roomFor(parts.body));
+    char *out = folded.data() + begin;
+    JournalForm::forEachLine(parts.body, [&out](QByteArrayView line) {
         if (isPicture(line))
             return;
-        FoldedText::append(folded, line.startsWith('\\') ? line.sliced(1) : line);
-        folded += ' ';
+        out = FoldedText::write(out, line.startsWith('\\') ? line.sliced(1) : line);
+        *out++ = ' ';
     });
+    folded.resize(out - folded.constData());
     dropAsterisks(folded, begin);
     folded += partEnd;
     const bool hasMore = std::ranges::any_of(parts.head, [](QByteArrayView line) {

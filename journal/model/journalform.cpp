@@ -342,7 +342,10 @@ JournalEntry JournalForm::entry(const JournalBlock &block)
 
 JournalEntry JournalForm::head(const JournalBlock &block)
 {
-    return tidied(readHead(partsOf(block.bytes), block.date));
+    Parts parts = partsOf(block.bytes);
+    // A time is slow to make, as where it is counts: that asks the system.
+    std::erase_if(parts.head, [](QByteArrayView line) { return line.startsWith("written "); });
+    return tidied(readHead(parts, block.date));
 }
 
 JournalEntry JournalForm::joined(const JournalEntry &first, const JournalEntry &second)

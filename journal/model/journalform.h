@@ -37,7 +37,7 @@ void sort(JournalBlocks &blocks);
 JournalBlock block(const JournalEntry &entry, JournalBlock::Kind kind);
 /// What a block says.
 JournalEntry entry(const JournalBlock &block);
-/// The same without its text.
+/// Its tags and pictures alone.
 JournalEntry head(const JournalBlock &block);
 /// Two entries of one day as one: what `second` has stands under what `first` has.
 JournalEntry joined(const JournalEntry &first, const JournalEntry &second);
