@@ -2,8 +2,8 @@
 #include "journal/window/journaltext.h"
 
 #include "journal/window/markediting.h"
-#include "journal/window/pagelayout.h"
 #include "journal/window/pagepictures.h"
+#include "journal/window/pagetextlayout.h"
 #include "shell/core/lightmarks.h"
 #include "shell/look/theme.h"
 
@@ -100,8 +100,8 @@ LineStyles JournalText::styles() const
 QTextDocument *JournalText::makeDocument(const QString &text)
 {
     auto *made = new QTextDocument(this);
-    made->setDocumentLayout(
-        new PageLayout(made, [this](const QTextBlock &line) { return m_pictures.height(pictureIn(line)); }));
+    made->setDocumentLayout(new PageTextLayout(
+        made, [this](const QTextBlock &line) { return m_pictures.height(pictureIn(line)); }));
     made->setDefaultFont(font());
     QTextOption wrapping = made->defaultTextOption();
     wrapping.setWrapMode(wordWrapMode());

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "journal/window/pagelayout.h"
+#include "journal/window/pagetextlayout.h"
 
 #include <QTextLayout>
 
 #include <utility>
 
-PageLayout::PageLayout(QTextDocument *document, RoomAbove roomAbove)
+PageTextLayout::PageTextLayout(QTextDocument *document, RoomAbove roomAbove)
     : QPlainTextDocumentLayout(document)
     , m_roomAbove(std::move(roomAbove))
 {}
 
 /// A line that was just laid out stands at the top: whoever asks for its place, which everybody does before
 /// it is drawn, finds it below its room.
-QRectF PageLayout::blockBoundingRect(const QTextBlock &block) const
+QRectF PageTextLayout::blockBoundingRect(const QTextBlock &block) const
 {
     const QRectF place = QPlainTextDocumentLayout::blockBoundingRect(block);
     QTextLayout *layout = block.isValid() ? block.layout() : nullptr;

@@ -7,13 +7,13 @@
 #include <functional>
 
 /// Lays out a plain text in which some lines have room above them, for a picture.
-class PageLayout final : public QPlainTextDocumentLayout
+class PageTextLayout final : public QPlainTextDocumentLayout
 {
 public:
     /// How much room a line has above it, in pixels.
     using RoomAbove = std::function<int(const QTextBlock &)>;
 
-    PageLayout(QTextDocument *document, RoomAbove roomAbove);
+    PageTextLayout(QTextDocument *document, RoomAbove roomAbove);
 
     QRectF blockBoundingRect(const QTextBlock &block) const override;
 
