@@ -14,6 +14,10 @@
 #include "cars/model/carnews.h"
 #include "cars/model/carsource.h"
 #include "cars/window/automaint.h"
+#include "journal/model/journalholdings.h"
+#include "journal/model/journalnews.h"
+#include "journal/model/journalsource.h"
+#include "journal/window/journalwindow.h"
 #include "keeper/model/keepernews.h"
 #include "keeper/window/keeperwindow.h"
 #include "planner/model/dayrecord.h"
@@ -239,6 +243,32 @@ bool isKeeperOpen(const Program &program)
     });
 }
 
+std::optional<LiveLine> journalNews(const Program &program, QDate)
+{
+    return JournalNews::liveLine(program.folder, program.clock.now());
+}
+
+std::unique_ptr<SearchSource> journalSearch(const Program &program)
+{
+    return std::make_unique<JournalSource>(program.folder, program.clock, program.state.dateStyle);
+}
+
+QStringList journalFiles(const Program &program)
+{
+    return JournalHoldings::files(program.folder);
+}
+
+QStringList journalPictures(const Program &program)
+{
+    return JournalHoldings::pictures(program.folder);
+}
+
+void showInJournal(QWidget &window, const Place &place)
+{
+    if (auto *journal = qobject_cast<DJournal *>(&window))
+        journal->showPlace(place);
+}
+
 std::optional<LiveLine> keeperNews(const Program &program, QDate today)
 {
     return KeeperNews::liveLine(program.folder, isKeeperOpen(program), today);
@@ -328,6 +358,14 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                        .search = toDoSearch,
                                        .show = showToDo,
                                        .files = filesOfToDo});
+    functions.add(Function::Journal, {.open = makeWindow<DJournal>,
+                                      .liveLine = journalNews,
+                                      .liveFiles = JournalNews::liveFiles(clock.today()),
+                                      .followsClock = true,
+                                      .search = journalSearch,
+                                      .show = showInJournal,
+                                      .files = journalFiles,
+                                      .pictures = journalPictures});
     // Nothing of what it holds is told to others, guarded or not.
     functions.add(Function::PasswordKeeper, {.open = makeWindow<Form4>,
                                              .liveLine = keeperNews,

@@ -22,6 +22,7 @@ void weightPages(const Camera &camera);
 void weightGraph(const Camera &camera);
 void toDo(const Camera &camera);
 void keeper(const Camera &camera);
+void journal(const Camera &camera);
 void charts(const Camera &camera);
 
 } // namespace Albums

@@ -41,6 +41,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"weight-graph", Albums::weightGraph},
                             Album{"todo", Albums::toDo},
                             Album{"keeper", Albums::keeper},
+                            Album{"journal", Albums::journal},
                             Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;

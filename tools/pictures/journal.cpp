@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "journal/window/journaltext.h"
+#include "tools/pictures/albums.h"
+#include "tools/pictures/picturesession.h"
+
+#include <QCheckBox>
+#include <QFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void put(const DataFolder &folder, const QString &name, const QByteArray &entries)
+{
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write("Quillery journal 1\r\n" + entries) < 0)
+        qFatal("the journal cannot be written");
+}
+
+/// Entries of an invented family, this autumn and in other years.
+void furnish(const DataFolder &folder)
+{
+    put(folder, u"DJour2019.Fil"_s,
+        "=== 2019-11-21\r\ntags sea\r\n\r\nThe last ferry of the season. Karin waved until it was a "
+        "dot.\r\n");
+    put(folder, u"DJour2022.Fil"_s,
+        "=== 2022-11-21\r\ntags garden\r\n\r\nFirst frost. We carried the geraniums into the cellar.\r\n"
+        "=== 2022-11-22\r\n\r\nSoup, and the big puzzle on the kitchen table.\r\n");
+    put(folder, u"DJour2024.Fil"_s,
+        "=== 2024-11-21\r\ntags school\r\n\r\nNils read his story aloud, all four pages.\r\n");
+    put(folder, u"DJour2026.Fil"_s,
+        "=== 2026-11-02\r\ntags garden\r\n\r\nRaked leaves until it was dark.\r\n"
+        "=== 2026-11-08\r\ntags school\r\n\r\nParents' evening.\r\n"
+        "=== 2026-11-14\r\ntags garden, market\r\n\r\nThe market, and a pumpkin that nobody could lift.\r\n"
+        "=== 2026-11-17\r\ntags sea\r\n\r\nBooked the ferry for the summer.\r\n"
+        "=== 2026-11-21\r\nwritten 2026-11-21 07:50\r\ntags market, sea\r\n\r\n"
+        "# A quiet Saturday\r\n\r\n"
+        "Oskar and I were at the **farmers' market** before it rained. He carried the apples and talked of "
+        "nothing but the "
+        "*big ferry*, which we take in July.\r\n\r\n"
+        "What is still to be found for it:\r\n- the blue rucksack\r\n- a book for each of us\r\n  - for Nils "
+        "one with maps\r\n\r\n"
+        "In the afternoon the choir sang in St. Olaf hall, rather well. Anne says that it was the hall.\r\n");
+}
+
+/// The page of a day, the other years, and what is typed wrong.
+void takeDay(const Camera &camera)
+{
+    PictureSession session(camera);
+    furnish(session.program().folder);
+    session.open(Function::Journal);
+    session.take("journal-day");
+    session.find<QCheckBox>("daysAround").setChecked(true);
+    session.take("journal-on-this-day");
+    session.focus("entryText");
+    session.key(Qt::Key_End, Qt::ControlModifier);
+    session.type(u" We recieve them on Sunday "_s);
+    session.take("journal-misspelt");
+    session.click("earlierVersion");
+    session.take("journal-earlier");
+}
+
+void takeSearch(const Camera &camera)
+{
+    PictureSession session(camera);
+    furnish(session.program().folder);
+    session.open(Function::Journal);
+    session.fill("journalSearch", u"ferry"_s);
+    session.take("journal-search");
+    session.fill("journalSearch", u"tag:garden"_s);
+    session.take("journal-tags");
+}
+
+void takePanels(const Camera &camera)
+{
+    PictureSession session(camera);
+    furnish(session.program().folder);
+    session.open(Function::Journal);
+    session.trigger("mOPrt");
+    session.take("journal-print-options");
+    session.click("journalPrintShow");
+    session.take("journal-page");
+    session.key(Qt::Key_Escape);
+    session.trigger("mUExport");
+    session.take("journal-export");
+}
+
+void takeEmpty(const Camera &camera)
+{
+    PictureSession session(camera);
+    session.open(Function::Journal);
+    session.take("journal-empty");
+}
+
+} // namespace
+
+void Albums::journal(const Camera &camera)
+{
+    takeDay(camera);
+    takeSearch(camera);
+    takePanels(camera);
+    takeEmpty(camera);
+}
