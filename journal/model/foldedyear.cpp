@@ -56,7 +56,9 @@ void FoldedYear::ask(const JournalQuestion &question, bool isNarrower)
 {
     const bool isAmongHits = m_isAsked && isNarrower;
     m_isAsked = true;
-    if (isAmongHits)
+    if (m_items.empty() || !question.mayBeIn(m_items.front().date.year()))
+        m_hits.clear();
+    else if (isAmongHits)
         std::erase_if(m_hits, [&](quint32 hit) { return !isHit(question, m_items[hit]); });
     else
         askAll(question);
@@ -68,22 +70,19 @@ void FoldedYear::forget()
     m_hits.clear();
 }
 
-bool FoldedYear::isHit(const JournalQuestion &question, const Item &item) const
+bool FoldedYear::isHit(const JournalQuestion &question, const Item &item, int known) const
 {
     const QByteArrayView bytes = QByteArrayView(m_folded).sliced(item.begin, item.end - item.begin);
-    return question.mayBeIn(item.date.year()) &&
-           std::ranges::all_of(question.words(),
-                               [bytes](const QByteArray &word) {
-                                   return ByteSearch::find(bytes.begin(), bytes.end(), word) != nullptr;
-                               }) &&
-           (!question.hasTags() || question.areThere(bytes.sliced(item.tags - item.begin)));
+    const std::vector<QByteArray> &words = question.words();
+    return (!question.hasTags() || question.areThere(bytes.sliced(item.tags - item.begin))) &&
+           std::all_of(words.begin() + known, words.end(), [bytes](const QByteArray &word) {
+               return ByteSearch::find(bytes.begin(), bytes.end(), word) != nullptr;
+           });
 }
 
 void FoldedYear::askAll(const JournalQuestion &question)
 {
     m_hits.clear();
-    if (m_items.empty() || !question.mayBeIn(m_items.front().date.year()))
-        return;
     if (question.words().empty()) {
         for (std::size_t i = 0; i < m_items.size(); ++i) {
             if (isHit(question, m_items[i]))
@@ -98,9 +97,11 @@ void FoldedYear::askAll(const JournalQuestion &question)
     for (const char *at = begin; (at = ByteSearch::find(at, end, longest));) {
         while (begin + m_items[item].end <= at)
             ++item;
-        if (isHit(question, m_items[item]))
+        const char *const itemEnd = begin + m_items[item].end;
+        // It may begin at the end of an entry, and go on in the next.
+        if (at + longest.size() <= itemEnd && isHit(question, m_items[item], 1))
             m_hits.push_back(quint32(item));
-        at = begin + m_items[item].end;
+        at = itemEnd;
     }
 }
 

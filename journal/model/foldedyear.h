@@ -42,7 +42,8 @@ private:
     };
 
     void wipe();
-    bool isHit(const JournalQuestion &question, const Item &item) const;
+    /// Whether the question is found in `item`, where its first `known` words stand.
+    bool isHit(const JournalQuestion &question, const Item &item, int known = 0) const;
     void askAll(const JournalQuestion &question);
 
     QByteArray m_folded;

@@ -4,7 +4,7 @@
 #include "storage/disk.h"
 #include "storage/log.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -41,10 +41,10 @@ QString JournalFiles::name(int year)
 QList<int> JournalFiles::years(const DataFolder &folder)
 {
     QList<int> years;
-    const QStringList names =
-        QDir(folder.path()).entryList({beginning + u"????"_s + ending}, QDir::AllEntries | QDir::Hidden);
-    for (const QString &name : names) {
-        if (const int year = yearOf(name); year > 0 && !years.contains(year))
+    QDirIterator names(folder.path(), QDir::AllEntries | QDir::Hidden);
+    while (names.hasNext()) {
+        names.next();
+        if (const int year = yearOf(names.fileName()); year > 0 && !years.contains(year))
             years.append(year);
     }
     std::ranges::sort(years);

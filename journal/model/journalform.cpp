@@ -53,24 +53,27 @@ bool isBlank(QByteArrayView bytes)
     return bytes.trimmed().isEmpty();
 }
 
+/// The number that `digits` are; -1 where they are something else.
+int numberOf(QByteArrayView digits)
+{
+    int value = 0;
+    for (const char digit : digits) {
+        if (digit < '0' || digit > '9')
+            return -1;
+        value = 10 * value + (digit - '0');
+    }
+    return value;
+}
+
 /// Reads "2026-03-14" strictly; an invalid date for anything else.
 QDate dateOf(QByteArrayView digits)
 {
     constexpr qsizetype length = 10;
     if (digits.size() != length || digits[4] != '-' || digits[7] != '-')
         return {};
-    const auto number = [digits](qsizetype at, qsizetype count) {
-        int value = 0;
-        for (const char digit : digits.sliced(at, count)) {
-            if (digit < '0' || digit > '9')
-                return -1;
-            value = 10 * value + (digit - '0');
-        }
-        return value;
-    };
-    const int year = number(0, 4);
-    const int month = number(5, 2);
-    const int day = number(8, 2);
+    const int year = numberOf(digits.first(4));
+    const int month = numberOf(digits.sliced(5, 2));
+    const int day = numberOf(digits.sliced(8, 2));
     return year < JournalForm::firstYear || month < 0 || day < 0 ? QDate() : QDate(year, month, day);
 }
 
@@ -167,6 +170,31 @@ JournalEntry readHead(const JournalForm::Parts &parts, QDate date)
     for (const QByteArrayView line : parts.head)
         readLine(entry, line);
     return entry;
+}
+
+/// Whether a line says "written 2026-03-15 08:12".
+bool isTime(QByteArrayView line)
+{
+    constexpr QByteArrayView beginning("written ");
+    constexpr qsizetype dateLength = 10;
+    constexpr qsizetype length = 24;
+    if (line.size() != length || !line.startsWith(beginning))
+        return false;
+    const QDate date = dateOf(line.sliced(beginning.size(), dateLength));
+    const QByteArrayView time = line.sliced(beginning.size() + dateLength); // " 08:12"
+    return date.isValid() && time[0] == ' ' && time[3] == ':' &&
+           QTime(numberOf(time.sliced(1, 2)), numberOf(time.sliced(4))).isValid();
+}
+
+/// The parts of a block without when it was written: a time where one lives is slow to make, as the system is
+/// asked for its rules each time.
+JournalForm::Parts untimedParts(const JournalBlock &block)
+{
+    JournalForm::Parts parts = JournalForm::partsOf(block.bytes);
+    const auto time = std::ranges::find_if(parts.head, isTime);
+    if (time != parts.head.end())
+        parts.head.erase(time);
+    return parts;
 }
 
 void addLine(QByteArray &bytes, QByteArrayView beginning, const QString &rest)
@@ -340,12 +368,17 @@ JournalEntry JournalForm::entry(const JournalBlock &block)
     return tidied(entry);
 }
 
+JournalEntry JournalForm::untimed(const JournalBlock &block)
+{
+    const Parts parts = untimedParts(block);
+    JournalEntry entry = readHead(parts, block.date);
+    entry.text = textOf(parts.body);
+    return tidied(entry);
+}
+
 JournalEntry JournalForm::head(const JournalBlock &block)
 {
-    Parts parts = partsOf(block.bytes);
-    // A time is slow to make, as where it is counts: that asks the system.
-    std::erase_if(parts.head, [](QByteArrayView line) { return line.startsWith("written "); });
-    return tidied(readHead(parts, block.date));
+    return tidied(readHead(untimedParts(block), block.date));
 }
 
 JournalEntry JournalForm::joined(const JournalEntry &first, const JournalEntry &second)

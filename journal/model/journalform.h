@@ -37,7 +37,9 @@ void sort(JournalBlocks &blocks);
 JournalBlock block(const JournalEntry &entry, JournalBlock::Kind kind);
 /// What a block says.
 JournalEntry entry(const JournalBlock &block);
-/// Its tags and pictures alone.
+/// The same without when it was written: much faster, for where many are looked at.
+JournalEntry untimed(const JournalBlock &block);
+/// That without the text.
 JournalEntry head(const JournalBlock &block);
 /// Two entries of one day as one: what `second` has stands under what `first` has.
 JournalEntry joined(const JournalEntry &first, const JournalEntry &second);

@@ -73,7 +73,7 @@ QList<JournalHit> JournalSearch::hits()
     QList<JournalHit> hits;
     const QList<QDate> dates = this->dates();
     for (const QDate date : dates.first(std::min<qsizetype>(dates.size(), mostHits))) {
-        if (const std::optional<JournalEntry> entry = m_journal.entry(date))
+        if (const std::optional<JournalEntry> entry = m_journal.year(date.year()).untimed(date))
             hits.append(JournalHit::of(*entry, m_question));
     }
     return hits;

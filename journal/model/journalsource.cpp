@@ -57,7 +57,7 @@ QList<SearchHit> JournalSource::matches(QStringView text, int most) const
         year.setBlocks(JournalForm::blocks(bytes, at->first));
         for (std::size_t hit = folded.count(); hit > 0 && int(hits.size()) < most; --hit) {
             const QDate date = folded.hit(hit - 1);
-            if (const auto entry = year.entry(date, JournalBlock::Entry))
+            if (const auto entry = year.untimed(date))
                 hits.append(SearchHit{Dates::longText(date, m_style),
                                       JournalHit::of(*entry, question).context, Place{.date = date}});
         }

@@ -11,13 +11,14 @@ namespace {
 using Blocks = JournalBlocks;
 
 /// Those of `blocks` that are of this kind as one entry.
-std::optional<JournalEntry> entryOf(const Blocks &blocks, JournalBlock::Kind kind)
+std::optional<JournalEntry> entryOf(const Blocks &blocks, JournalBlock::Kind kind,
+                                    JournalEntry (*read)(const JournalBlock &) = JournalForm::entry)
 {
     std::optional<JournalEntry> entry;
     for (const JournalBlock &block : blocks) {
         if (block.kind != kind)
             continue;
-        const JournalEntry one = JournalForm::entry(block);
+        const JournalEntry one = read(block);
         entry = entry ? JournalForm::joined(*entry, one) : one;
     }
     return entry && (!entry->isEmpty() || !entry->otherLines.isEmpty()) ? entry : std::nullopt;
@@ -68,6 +69,11 @@ std::optional<JournalEntry> JournalYear::entry(QDate date, JournalBlock::Kind ki
     return entryOf(blocksOf(date), kind);
 }
 
+std::optional<JournalEntry> JournalYear::untimed(QDate date) const
+{
+    return entryOf(blocksOf(date), JournalBlock::Entry, JournalForm::untimed);
+}
+
 QList<QDate> JournalYear::dates() const
 {
     QList<QDate> dates;
@@ -75,7 +81,7 @@ QList<QDate> JournalYear::dates() const
         if (block.kind != JournalBlock::Entry || (!dates.isEmpty() && dates.last() == block.date))
             continue;
         const JournalForm::Parts parts = JournalForm::partsOf(block.bytes);
-        if (!parts.body.trimmed().isEmpty() || !JournalForm::entry(block).isEmpty())
+        if (!parts.body.trimmed().isEmpty() || !JournalForm::head(block).isEmpty())
             dates.append(block.date);
     }
     return dates;

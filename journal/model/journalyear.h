@@ -35,6 +35,8 @@ public:
     JournalBlocks blocksOf(QDate date) const;
     /// The blocks of a date that are of this kind as one entry; nothing where they say nothing.
     std::optional<JournalEntry> entry(QDate date, JournalBlock::Kind kind) const;
+    /// The entry of a date without when it was written.
+    std::optional<JournalEntry> untimed(QDate date) const;
     /// The dates that have an entry, ascending.
     QList<QDate> dates() const;
 
