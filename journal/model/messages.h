@@ -60,4 +60,15 @@ inline Message setAside(int year, const QString &file)
         Answer::No};
 }
 
+/// Of years that nobody can open.
+inline Message setSealedAside(const QStringList &files)
+{
+    return {u"Set Aside"_s,
+            u"Set %1 aside and begin anew?\nThey keep everything in them, under other names."_s.arg(
+                files.join(u", "_s)),
+            Message::Question,
+            {Answer::Yes, Answer::No},
+            Answer::No};
+}
+
 } // namespace JournalMessages

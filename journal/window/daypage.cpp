@@ -30,6 +30,7 @@ DayPage::DayPage(const Program &program, QWidget *parent)
     , m_pictures(new PagePictures(program.folder, this))
     , m_title(new StepTitle({u"journalDate"_s, u"day"_s, u"Today"_s}, this))
     , m_written(named(makeQuietLabel({}, this), u"writtenOn"_s))
+    , m_damage(named(makeQuietLabel({}, this), u"dayDamage"_s))
     , m_facts(new DayFacts(program, this))
     , m_text(new JournalText(*m_pictures, this))
     , m_tags(new TagBox(u"entryTags"_s, this))
@@ -40,6 +41,8 @@ DayPage::DayPage(const Program &program, QWidget *parent)
     setFocusProxy(m_text);
     m_tags->setPlaceholderText(JournalWindowLines::tagsHint());
     m_written->hide();
+    m_damage->setWordWrap(true);
+    m_damage->hide();
     m_pictures->setParent(m_text); // whose documents ask it until they go
     layOut();
     setTabOrder(m_text, m_tags);
@@ -54,6 +57,7 @@ void DayPage::layOut()
     rows->setSpacing(8);
     rows->addWidget(m_title);
     rows->addWidget(m_written);
+    rows->addWidget(m_damage);
     rows->addWidget(m_facts);
     rows->addWidget(m_text, 1);
     auto *below = new QHBoxLayout;
@@ -85,6 +89,12 @@ void DayPage::follow(const OpenDay &day)
     m_foot->setWords(day.isSaved() ? QString() : FrameLines::unsavedChanges());
 }
 
+void DayPage::setDamage(const QString &words)
+{
+    m_damage->setText(words);
+    m_damage->setVisible(!words.isEmpty());
+}
+
 void DayPage::setKnownTags(const QStringList &tags)
 {
     m_tags->setOffered(tags);
@@ -98,5 +108,6 @@ void DayPage::forget()
     m_words->clear();
     m_facts->setDate({});
     m_foot->setWords({});
+    setDamage({});
     setKnownTags({});
 }

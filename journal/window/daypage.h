@@ -29,6 +29,8 @@ public:
 
     /// Shows what is known of the day that is open.
     void follow(const OpenDay &day);
+    /// What is amiss with the day in its file; empty where nothing is.
+    void setDamage(const QString &words);
     /// What the box of the tags offers.
     void setKnownTags(const QStringList &tags);
     /// Nothing of any day is left.
@@ -45,6 +47,7 @@ private:
     PagePictures *m_pictures;
     StepTitle *m_title;
     QLabel *m_written;
+    QLabel *m_damage;
     DayFacts *m_facts;
     JournalText *m_text;
     TagBox *m_tags;

@@ -11,6 +11,7 @@ class FunctionWindow;
 class Journal;
 class JournalPane;
 class OpenDay;
+class PreviewPane;
 class WorkViews;
 class Writing;
 struct Program;
@@ -25,6 +26,8 @@ struct JournalDesk {
     Writing &writing;
     DayPage &page;
     OpenDay &day;
-    std::function<void(QDate)> goTo;  ///< shows another day
-    std::function<QString()> whyNone; ///< why no day is shown; empty while one is
+    std::function<void(QDate)> goTo;   ///< shows another day
+    std::function<QString()> whyNone;  ///< why no day is shown; empty while one is
+    std::function<void(bool)> setBusy; ///< slow work is under way: the window stays
+    std::function<PreviewPane &()> preview;
 };

@@ -47,7 +47,7 @@ void JournalExchange::openImport()
 {
     const FilesOutside outside(m_desk.program, m_desk.window, folderKey);
     const auto path = outside.askWhich(texts());
-    if (!path)
+    if (!path || !m_desk.whyNone().isEmpty()) // locked meanwhile
         return;
     m_desk.day.save();
     if (!m_import) {
@@ -94,7 +94,7 @@ void JournalExchange::exportTo()
     const FilesOutside outside(m_desk.program, m_desk.window, folderKey);
     const auto path = outside.askWhereTo(isHtml ? u"Journal.html"_s : u"Journal.txt"_s,
                                          isHtml ? u"Pages for browsers (*.html)"_s : u"Texts (*.txt)"_s);
-    if (!path)
+    if (!path || !m_desk.whyNone().isEmpty()) // locked meanwhile
         return;
     m_export->leave();
     if (!isHtml) {

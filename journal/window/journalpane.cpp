@@ -227,11 +227,10 @@ void JournalPane::showHits()
 
 void JournalPane::forget()
 {
-    const QSignalBlocker quiet(m_search);
-    m_search->clear();
-    m_stack->setCurrentIndex(0);
+    m_search->setText({}); // with what could be undone in it
     m_finder->forget();
     m_hits->setHits({}, m_program.state.dateStyle);
+    m_count->clear();
     m_onThisDay->forget();
     m_tags->setTags({});
     m_calendar->setMarkedDays({});

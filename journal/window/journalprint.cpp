@@ -4,6 +4,7 @@
 #include "journal/model/journal.h"
 #include "journal/model/journalexport.h"
 #include "journal/model/journalpictures.h"
+#include "journal/model/recoverysheet.h"
 #include "journal/window/dayfacts.h"
 #include "journal/window/journalprintpanel.h"
 #include "journal/window/openday.h"
@@ -14,6 +15,7 @@
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
+#include "shell/preview/previewpane.h"
 #include "shell/program/daynotes.h"
 #include "shell/program/householdnames.h"
 #include "shell/program/program.h"
@@ -86,6 +88,7 @@ void JournalPrint::show(QDate from, QDate to, const QString &tag,
         emit said(JournalWindowLines::nothingToPrint());
         return;
     }
+    m_hasPages = true;
     m_desk.window.showPreview([source = sourceOf(entries), build = std::move(builder)](
                                   const PageContext &context) { return build(source, context); },
                               name);
@@ -148,7 +151,19 @@ void JournalPrint::print()
     }
 }
 
+void JournalPrint::showRecoverySheet(const QString &code)
+{
+    m_hasPages = true;
+    m_desk.window.showPreview(
+        [code](const PageContext &context) { return journalRecoverySheet(code, context); },
+        u"Journal Recovery Sheet"_s);
+}
+
 void JournalPrint::forget()
 {
+    if (m_panel)
+        m_panel->start(QDate(2000, 1, 1), {});
     m_desk.window.closePreview();
+    if (std::exchange(m_hasPages, false))
+        m_desk.preview().show([](const PageSetup &) { return Page(); }, {});
 }

@@ -17,6 +17,8 @@ public:
     JournalPrint(const JournalDesk &desk, QObject *parent);
 
     void addCommands(QMenu *options);
+    /// The sheet with a recovery code that was just made.
+    void showRecoverySheet(const QString &code);
     /// No page of it is left.
     void forget();
 
@@ -33,4 +35,5 @@ private:
 
     JournalDesk m_desk;
     JournalPrintPanel *m_panel = nullptr;
+    bool m_hasPages = false;
 };

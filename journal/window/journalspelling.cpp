@@ -48,7 +48,18 @@ JournalSpelling::JournalSpelling(const JournalDesk &desk, QObject *parent)
 
 void JournalSpelling::addCommands(QMenu *menu)
 {
-    m_tools->addTo(menu, [this](auto &&...arguments) {
-        return m_desk.commands.add(std::forward<decltype(arguments)>(arguments)...);
+    m_tools->addTo(menu, [this](QMenu *into, const QString &name, const QString &caption,
+                                std::function<void()> does, const std::function<QString()> &why,
+                                const QKeySequence &key) {
+        const auto unless = [this, why] {
+            const QString none = m_desk.whyNone();
+            return none.isEmpty() && why ? why() : none;
+        };
+        return m_desk.commands.add(into, name, caption, std::move(does), unless, key);
     });
+}
+
+void JournalSpelling::forget()
+{
+    m_tools->forget();
 }

@@ -20,6 +20,8 @@ public:
     JournalSpelling(const JournalDesk &desk, QObject *parent);
 
     void addCommands(QMenu *menu);
+    /// Nothing of any entry is left.
+    void forget();
 
 signals:
     void said(const QString &line);

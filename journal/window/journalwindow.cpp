@@ -6,14 +6,19 @@
 #include "journal/window/daycommands.h"
 #include "journal/window/dayfacts.h"
 #include "journal/window/daypage.h"
+#include "journal/window/journaldamage.h"
+#include "journal/window/journaldoor.h"
 #include "journal/window/journalexchange.h"
+#include "journal/window/journallock.h"
 #include "journal/window/journalpane.h"
 #include "journal/window/journalprint.h"
+#include "journal/window/journalsealer.h"
 #include "journal/window/journalspelling.h"
 #include "journal/window/journaltext.h"
 #include "journal/window/openday.h"
 #include "journal/window/pagecommands.h"
 #include "journal/window/picturecommands.h"
+#include "journal/window/seallines.h"
 #include "journal/window/windowlines.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
@@ -23,11 +28,16 @@
 #include "shell/core/slicedwork.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/sidesplitter.h"
+#include "shell/frame/undostack.h"
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
+#include "shell/program/locking.h"
+#include "storage/sealing/freememory.h"
 
 #include <QClipboard>
+#include <QDialog>
 #include <QGuiApplication>
+#include <QHideEvent>
 #include <QMenu>
 
 #include <utility>
@@ -50,14 +60,18 @@ WindowTraits traits()
 
 } // namespace
 
-DJournal::DJournal(Program &program, QWidget *parent)
+DJournal::DJournal(Program &program, QWidget *parent, PasswordCost cost, std::chrono::milliseconds step)
     : FunctionWindow(program, traits(), parent)
-    , m_journal(program.folder, program.clock)
+    , m_journal(program.folder, program.clock, nullptr, cost)
     , m_writing(JournalSpelling::makeWriting(program, this))
     , m_stack(new WorkViews(this))
     , m_page(new DayPage(program))
     , m_day(new OpenDay(m_journal, {m_page->text(), m_page->tags(), m_page->pictures()}, this))
     , m_pane(new JournalPane(program, colors(), m_journal, this))
+    , m_door(new JournalDoor(desk(), step, this))
+    , m_sealer(new JournalSealer(desk(), this))
+    , m_lock(new JournalLock(desk(), this))
+    , m_damage(new JournalDamage(desk(), this))
     , m_days(new DayCommands(desk(), this))
     , m_edit(new PageCommands(desk(), this))
     , m_pictures(new PictureCommands(desk(), this))
@@ -70,14 +84,16 @@ DJournal::DJournal(Program &program, QWidget *parent)
     makeCommands();
     setViews(m_stack);
     connectParts();
+    connectSeal();
     finishFrame();
-    goTo(clock().today());
-    watchYears();
-    m_page->setFocus();
-    QTimer::singleShot(0, this, &DJournal::readOn);
+    Locking::offerAlso(program, activity(), [this] { return m_journal.seal().isOpen(); });
+    enter();
 }
 
-DJournal::~DJournal() = default;
+DJournal::~DJournal()
+{
+    m_journal.seal().lock();
+}
 
 JournalDesk DJournal::desk()
 {
@@ -90,14 +106,16 @@ JournalDesk DJournal::desk()
             *m_page,
             *m_day,
             [this](QDate date) { goTo(date); },
-            [this] { return whyNone(); }};
+            [this] { return whyNone(); },
+            [this](bool isBusy) { setBusy(isBusy); },
+            [this]() -> PreviewPane & { return preview(); }};
 }
 
 QWidget *DJournal::makeWorkPanel()
 {
-    QWidget *panel = makePanel(u"journalPanel"_s, m_stack);
     m_stack->addHome(m_page);
-    return panel;
+    m_page->hide(); // until it is the one
+    return makePanel(u"journalPanel"_s, m_stack);
 }
 
 /// The tools stand in the order in which their commands are made.
@@ -121,6 +139,9 @@ void DJournal::makeCommands()
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_exchange->addCommands(utilities);
     utilities->addSeparator();
+    m_sealer->addCommands(utilities);
+    m_damage->addCommand(utilities);
+    utilities->addSeparator();
     utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
     addHelpEntry();
     commands().separateTools();
@@ -134,6 +155,8 @@ void DJournal::makeOptions(QMenu *options)
 {
     options->addAction(standard(Standard::PanelColor));
     options->addAction(standard(Standard::TextColor));
+    options->addSeparator();
+    m_lock->addCommands(options);
     options->addSeparator();
     commands().writing(commands().add(
         options, u"mOSave"_s, u"&Save"_s,
@@ -176,7 +199,8 @@ void DJournal::connectParts()
     connect(&m_following, &QTimer::timeout, this, &DJournal::followDay);
     connect(m_day, &OpenDay::edited, &m_following, qOverload<>(&QTimer::start));
     connect(m_day, &OpenDay::savedChanged, this, [this] {
-        watchYears();
+        if (m_day->isSaved()) // else another program may have the reason
+            watchYears();
         followDay();
     });
     connect(&m_journal, &Journal::changed, m_pane, &JournalPane::refresh);
@@ -196,15 +220,112 @@ void DJournal::connectParts()
     });
     connect(m_reading, &SlicedWork::progressed, m_pane, &JournalPane::refresh);
     connect(m_reading, &SlicedWork::finished, this, [this] {
+        if (const QString damaged = m_damage->summary(); !damaged.isEmpty())
+            activity().say(damaged);
         m_pane->refresh();
         m_page->setKnownTags(m_journal.tags().keys());
         commands().refresh();
     });
 }
 
+void DJournal::connectSeal()
+{
+    const auto say = [this](const QString &line) { activity().say(line); };
+    connect(m_door, &JournalDoor::opened, this, &DJournal::opened);
+    connect(m_door, &JournalDoor::cleared, this, &DJournal::enter);
+    connect(m_door, &JournalDoor::lockDue, this, &DJournal::lock);
+    connect(m_door, &JournalDoor::said, this, say);
+    connect(m_lock, &JournalLock::due, this, &DJournal::lock);
+    connect(m_lock, &JournalLock::said, this, say);
+    connect(m_sealer, &JournalSealer::said, this, say);
+    connect(m_sealer, &JournalSealer::codePrintWanted, m_print, &JournalPrint::showRecoverySheet);
+    connect(m_sealer, &JournalSealer::codeLeft, m_print, &JournalPrint::forget);
+    connect(m_sealer, &JournalSealer::progressed, &activity(),
+            [this](int done, int total) { activity().showProgress(done, total); });
+    connect(m_sealer, &JournalSealer::walked, this, [this] {
+        m_journal.reread();
+        watchYears();
+        readOn();
+    });
+    connect(&m_journal.seal(), &JournalSeal::changed, this, [this] { m_state = m_journal.seal().state(); });
+}
+
+/// Shows the journal, or what stands in front of it.
+void DJournal::enter()
+{
+    watchYears();
+    m_state = m_journal.seal().state();
+    if (!m_door->show()) {
+        begin();
+        return;
+    }
+    m_pane->hide();
+    commands().refresh();
+}
+
+void DJournal::begin()
+{
+    m_stack->setHome(m_page);
+    m_pane->show();
+    const QDate left = std::exchange(m_left, {});
+    goTo(left.isValid() ? left : clock().today());
+    m_page->setFocus();
+    QTimer::singleShot(0, this, &DJournal::readOn);
+}
+
+void DJournal::opened(const QString &line, bool isByCode)
+{
+    begin();
+    if (m_journal.isModified()) // what the disk had refused before
+        m_day->save();
+    activity().say(line);
+    m_sealer->goOn(isByCode);
+}
+
+/// No box that stands open holds it up.
+void DJournal::lock()
+{
+    if (!m_journal.seal().isOpen()) {
+        m_door->lockBehind();
+        return;
+    }
+    for (QDialog *dialog : findChildren<QDialog *>())
+        dialog->reject();
+    m_day->save();
+    m_left = m_day->date() == clock().today() ? QDate() : m_day->date();
+    forget();
+    m_journal.seal().lock();
+    enter();
+    if (m_journal.isModified())
+        activity().say(SealLines::heldBySeal());
+    // Behind what is deleted later.
+    QMetaObject::invokeMethod(this, &FreeMemory::wipe, Qt::QueuedConnection);
+}
+
+/// Nothing of any entry is left in boxes, lists, pages and words.
+void DJournal::forget()
+{
+    m_reading->stop();
+    m_following.stop();
+    m_before = {};
+    m_day->forget();
+    m_page->forget();
+    m_pane->forget();
+    m_sealer->forget();
+    m_damage->forget();
+    m_edit->forget();
+    m_pictures->forget();
+    m_spelling->forget();
+    m_exchange->forget();
+    m_print->forget();
+    undoStack().clear();
+    activity().showProgress(0, 0);
+    activity().say({});
+}
+
 void DJournal::goTo(QDate date)
 {
-    if (!Journal::isPossible(date))
+    if (!isShown() || !Journal::isPossible(date))
         return;
     closePreview();
     if (!m_stack->isHome())
@@ -220,12 +341,15 @@ void DJournal::goTo(QDate date)
 void DJournal::followDay()
 {
     m_page->follow(*m_day);
+    m_page->setDamage(m_damage->wordsOf(m_day->date()));
     commands().refresh();
 }
 
 /// The other years are read when the window has been seen: for the same day in them, and for the tags.
 void DJournal::readOn()
 {
+    if (!isShown())
+        return;
     m_reading->start([this] { return m_journal.readNext(m_day->date().year()); });
 }
 
@@ -234,6 +358,7 @@ void DJournal::watchYears()
     QStringList names;
     for (const int year : m_journal.years())
         names.append(JournalFiles::name(year));
+    names.append(JournalSeal::keyFile);
     watchFiles(names);
 }
 
@@ -241,9 +366,34 @@ void DJournal::filesChanged()
 {
     m_day->take();
     m_journal.reread();
-    m_pane->refresh();
     watchYears();
+    if (m_journal.seal().state() != m_state) { // sealed or opened elsewhere
+        forget();
+        enter();
+        return;
+    }
+    m_pane->refresh();
     readOn();
+}
+
+void DJournal::changeEvent(QEvent *event)
+{
+    FunctionWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isMinimized())
+        m_lock->minimised();
+}
+
+/// It locks itself when it is closed.
+void DJournal::hideEvent(QHideEvent *event)
+{
+    FunctionWindow::hideEvent(event);
+    if (!event->spontaneous())
+        lock();
+}
+
+bool DJournal::isShown() const
+{
+    return m_state == JournalSeal::State::None || m_state == JournalSeal::State::Open;
 }
 
 QString DJournal::whyNone() const
@@ -269,6 +419,10 @@ Answer DJournal::askToLeave()
 
 void DJournal::showPlace(const Place &place)
 {
+    if (!isShown()) {
+        m_left = place.date;
+        return;
+    }
     goTo(place.date);
     m_page->setFocus();
 }

@@ -7,26 +7,36 @@
 
 #include <QTimer>
 
+#include <chrono>
+
 class DayCommands;
+class JournalDamage;
+class JournalDoor;
 class JournalExchange;
+class JournalLock;
 class JournalPrint;
+class JournalSealer;
 class JournalSpelling;
 class PageCommands;
 class PictureCommands;
 class SlicedWork;
 
 /// The daily journal: the page of a day, and beside it the ways to all others. What is typed is saved by
-/// itself.
+/// itself. A sealed journal has the question for its password in front of both, and locks itself.
 class DJournal final : public FunctionWindow
 {
     Q_OBJECT
 public:
-    explicit DJournal(Program &program, QWidget *parent = nullptr);
+    explicit DJournal(Program &program, QWidget *parent = nullptr,
+                      PasswordCost cost = PasswordCost::moderate(),
+                      std::chrono::milliseconds step = std::chrono::seconds(1));
     ~DJournal() override;
 
     bool isModified() const override;
     /// Shows the day that a place means.
     void showPlace(const Place &place);
+    /// Closes what is open over a sealed journal, saves, and forgets all that it shows and the key.
+    void lock();
 
     Journal &journal() { return m_journal; }
 
@@ -34,6 +44,8 @@ protected:
     [[nodiscard]] bool save() override;
     Answer askToLeave() override;
     void filesChanged() override;
+    void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     JournalDesk desk();
@@ -41,6 +53,12 @@ private:
     void makeCommands();
     void makeOptions(QMenu *options);
     void connectParts();
+    void connectSeal();
+    void enter();
+    void begin();
+    void opened(const QString &line, bool isByCode);
+    void forget();
+    bool isShown() const;
     void goTo(QDate date);
     void followDay();
     void readOn();
@@ -54,6 +72,10 @@ private:
     DayPage *m_page;
     OpenDay *m_day;
     JournalPane *m_pane;
+    JournalDoor *m_door;
+    JournalSealer *m_sealer;
+    JournalLock *m_lock;
+    JournalDamage *m_damage;
     DayCommands *m_days;
     PageCommands *m_edit;
     PictureCommands *m_pictures;
@@ -63,4 +85,6 @@ private:
     SlicedWork *m_reading; ///< the other years, once the window is seen
     QTimer m_following;    ///< shows what is known of the page once the keys rest
     QDate m_before;        ///< the day from which a search was begun
+    QDate m_left;          ///< the day that was open before the journal was locked, where it was not today
+    JournalSeal::State m_state = JournalSeal::State::None; ///< for which the window shows what it shows
 };

@@ -148,10 +148,10 @@ bool OpenDay::save()
     take();
     m_waiting.stop();
     const bool isSaved = !m_journal.isModified() || m_journal.save();
-    if (!isSaved) {
+    if (!isSaved && m_date.isValid()) {
         emit said(JournalWindowLines::notSaved());
         m_waiting.start(triesAgainAfter);
-    } else if (m_hasFailed) {
+    } else if (isSaved && m_hasFailed) {
         emit said(JournalWindowLines::saved());
     }
     m_hasFailed = !isSaved;
@@ -239,7 +239,7 @@ void OpenDay::forget()
     const QScopedValueRollback<bool> showing(m_isShowing, true);
     m_waiting.stop();
     m_page.pictures.forget();
-    m_page.tags.clear();
+    m_page.tags.setText({}); // with what could be undone in it
     QTextDocument *last = m_page.text.document();
     m_page.text.showDocument(m_page.text.makeDocument({}));
     delete last;

@@ -167,7 +167,9 @@ void PageCommands::bringBack()
 /// What stands on the page goes as well.
 void PageCommands::deleteForGood()
 {
-    if (m_desk.program.dialogs.ask(&m_desk.window, JournalMessages::deleteForGood(shownDay())) != Answer::Yes)
+    if (m_desk.program.dialogs.ask(&m_desk.window, JournalMessages::deleteForGood(shownDay())) !=
+            Answer::Yes ||
+        !m_desk.whyNone().isEmpty())
         return;
     m_panel->leave();
     const bool isDone = m_desk.day.deleteForGood();

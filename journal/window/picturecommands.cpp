@@ -56,7 +56,7 @@ void PictureCommands::choose()
     const QString filter = u"Pictures (*.jpg *.jpeg *.png *.bmp *.gif)"_s;
     const auto file = m_desk.program.dialogs.chooseFileToOpen(&m_desk.window, u"Insert Picture"_s,
                                                               pictures.lastUsed(), filter);
-    if (!file)
+    if (!file || !whyLocked().isEmpty())
         return;
     if (!pictures.remember(QFileInfo(*file).absolutePath()))
         emit said(JournalWindowLines::folderNotKept());

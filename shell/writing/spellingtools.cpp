@@ -55,6 +55,11 @@ void SpellingTools::walk()
         emit said(WritingLines::everythingIsRight());
 }
 
+void SpellingTools::forget()
+{
+    m_walk->forget();
+}
+
 void SpellingTools::openTable()
 {
     m_writing.load();

@@ -37,6 +37,8 @@ public:
     void addTo(QMenu *menu, const AddCommand &add);
     /// They stand over the work while they are open.
     QList<TaskPanel *> panels() const;
+    /// Lets go of the texts of a walk.
+    void forget();
 
 signals:
     /// One of the panels is to be brought to the front.

@@ -101,6 +101,17 @@ bool SpellPanel::begin(std::vector<WalkedText> texts)
     return true;
 }
 
+void SpellPanel::forget()
+{
+    m_walk.reset();
+    for (QLabel *words : {m_where, m_word})
+        words->clear();
+    m_context->clear();
+    m_suggestions->clear();
+    m_by->setText({});
+    refreshButtons();
+}
+
 /// The word at which the walk stands now, with the focus where one goes on.
 void SpellPanel::show()
 {

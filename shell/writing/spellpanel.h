@@ -20,6 +20,8 @@ public:
 
     /// Begins at the first wrong word of `texts`. False when there is none.
     bool begin(std::vector<WalkedText> texts);
+    /// Lets go of the texts.
+    void forget();
 
 signals:
     /// A text that is to be put in place of the one with its number.
