@@ -1,101 +1,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "benchmarks/limit.h"
-#include "journal/model/journalfiles.h"
+#include "benchmarks/thirtyyears.h"
 #include "journal/model/journalnews.h"
 #include "journal/model/journalsearch.h"
-#include "storage/disk.h"
-#include "storage/saving.h"
+#include "journal/model/sealingwalk.h"
 
-#include <QDir>
-#include <QFile>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
+#include <QtEndian>
 
 #include <benchmark/benchmark.h>
 
 #include <malloc.h>
+#include <sodium.h>
+
+#include <utility>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int firstYear = 1997;
-constexpr int lastYear = 2026;
 constexpr double frame = 0.016;
 
-const QDate today(lastYear, 11, 23);
-
-class StandingClock final : public Clock
+void sealAll(Journal &journal)
 {
-public:
-    QDateTime now() const override { return QDateTime(::today, QTime(20, 0)); }
-};
-
-/// A text of about 1,500 characters: words of which some are frequent and most are rare, in four paragraphs.
-QString textOf(QRandomGenerator &random)
-{
-    static const QStringList frequent =
-        u"the and we to a of in was it went with for on day house garden"_s.split(u' ');
-    static const QString vowels = u"aeiou\u00e9"_s;
-    static const QString others = u"bcdfghklmnprstvw"_s;
-    QString text;
-    while (text.size() < 1500) {
-        QString word;
-        if (random.bounded(2) == 0) {
-            word = frequent[random.bounded(int(frequent.size()))];
-        } else {
-            for (int part = random.bounded(1, 4); part > 0; --part) {
-                word += others[random.bounded(int(others.size()))];
-                const int vowel = random.bounded(60);
-                word += vowels[vowel < 1 ? 5 : vowel % 5];
-            }
-        }
-        text += word + (random.bounded(70) == 0 ? u".\n\n"_s : u" "_s);
-    }
-    return text;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("no file");
-    return file.readAll();
-}
-
-/// Thirty years with an entry every day: 10,957 of them, 16 MB.
-class ThirtyYears
-{
-public:
-    explicit ThirtyYears(const QString &place = QDir::tempPath(), int first = firstYear)
-        : temporary(place + u"/bench_journal-XXXXXX"_s)
-    {
-        QRandomGenerator random(4);
-        for (int year = first; year <= lastYear; ++year) {
-            JournalBlocks blocks;
-            for (QDate day(year, 1, 1); day.year() == year; day = day.addDays(1)) {
-                JournalEntry entry{
-                    .date = day, .written = QDateTime(day, QTime(21, 30)), .text = textOf(random)};
-                if (day.day() % 7 == 0)
-                    entry.tags = QStringList{u"garden"_s, u"school"_s};
-                blocks.push_back(JournalForm::block(entry, JournalBlock::Entry));
-            }
-            const QByteArray bytes = JournalForm::file(blocks);
-            size += bytes.size();
-            if (!Disk::writeWhole(folder.filePath(JournalFiles::name(year)), bytes))
-                qFatal("cannot write the years");
-        }
-    }
-
-    qint64 size = 0;
-    QTemporaryDir temporary;
-    DataFolder folder{temporary.path()};
-};
-
-const ThirtyYears &thirtyYears()
-{
-    static const ThirtyYears years;
-    return years;
+    const auto run = [](KeyDerivation derivation) {
+        derivation.run();
+        return derivation;
+    };
+    JournalSeal &seal = journal.seal();
+    if (!seal.create(run(seal.newKey(u"a password"_s)),
+                     run(seal.newCodeKey(u"7HJ4-KM9Q-RST2-VWXY-Z01A-BC3D-EFJN"_s))))
+        qFatal("no seal");
+    SealingWalk walk(seal);
+    while (walk.step()) {}
+    journal.reread();
+    if (!walk.isComplete())
+        qFatal("not sealed");
 }
 
 /// A journal of which all years are read and folded.
@@ -226,12 +166,14 @@ BENCHMARK(memoryOfAllYears)->Iterations(3);
 
 /// The autosave in a full year. What counts is the flush, so it is done where the program was started, on a
 /// disk.
-void saveAFullYear(benchmark::State &state)
+void saveAFullYear(benchmark::State &state, bool isSealed)
 {
     constexpr double most = 3;
     const ThirtyYears year(QDir::currentPath(), lastYear);
     const StandingClock clock;
-    Journal journal(year.folder, clock);
+    Journal journal(year.folder, clock, nullptr, PasswordCost::minimum());
+    if (isSealed)
+        sealAll(journal);
     JournalEntry entry = *journal.entry(today);
     const QString path = year.folder.filePath(JournalFiles::name(lastYear));
     const QByteArray bytes = contentOf(path);
@@ -248,11 +190,138 @@ void saveAFullYear(benchmark::State &state)
         });
     }
 }
-BENCHMARK(saveAFullYear)->UseManualTime()->MinTime(3);
+BENCHMARK_CAPTURE(saveAFullYear, plain, false)->UseManualTime()->MinTime(3);
+BENCHMARK_CAPTURE(saveAFullYear, sealed, true)->UseManualTime()->MinTime(3);
 
-/// What the window needs before it is painted, and the card in the evening: beside one read of the year.
-template <typename Work>
-void besideAYear(benchmark::State &state, Work work)
+/// All years, plain and sealed, in memory.
+class SealedYears
+{
+public:
+    SealedYears()
+    {
+        for (int year = firstYear; year <= lastYear; ++year) {
+            plain.push_back(contentOf(thirtyYears().folder.filePath(JournalFiles::name(year))));
+            sealed.push_back(SealedYear::sealed(year, plain.back(), head, key));
+        }
+    }
+
+    /// What the library itself takes for their records, one behind the other, over the same memory.
+    void openBare()
+    {
+        forEachRecord([this](const unsigned char *record, quint64 length, const QByteArray &context) {
+            if (crypto_aead_xchacha20poly1305_ietf_decrypt(
+                    m_room.data(), nullptr, nullptr, record + nonceLength, length - nonceLength,
+                    bytesOf(context), quint64(context.size()), record, key.bytes()) != 0)
+                qFatal("does not open");
+        });
+    }
+    void sealBare()
+    {
+        forEachRecord([this](const unsigned char *, quint64 length, const QByteArray &context) {
+            randombytes_buf(m_room.data(), nonceLength);
+            unsigned char *const text = m_room.data() + nonceLength;
+            crypto_aead_xchacha20poly1305_ietf_encrypt(
+                text, nullptr, text, length - nonceLength - crypto_aead_xchacha20poly1305_ietf_ABYTES,
+                bytesOf(context), quint64(context.size()), nullptr, m_room.data(), key.bytes());
+        });
+    }
+
+    const SecretBytes key = SecretBytes::random(crypto_aead_xchacha20poly1305_ietf_KEYBYTES);
+    const QByteArray head = QByteArray(SealedYear::headLength, 'h');
+    std::vector<QByteArray> plain;
+    std::vector<QByteArray> sealed;
+
+private:
+    static constexpr quint64 nonceLength = crypto_aead_xchacha20poly1305_ietf_NPUBBYTES;
+
+    static const unsigned char *bytesOf(const QByteArray &bytes)
+    {
+        return reinterpret_cast<const unsigned char *>(bytes.constData());
+    }
+
+    template <typename Visit>
+    void forEachRecord(Visit visit)
+    {
+        int year = firstYear;
+        for (const QByteArray &bytes : sealed) {
+            m_room.resize(std::size_t(bytes.size()));
+            QByteArray context = SealedReader::contextOf(year, "list");
+            for (qsizetype at = SealedYear::recordsAt; at < bytes.size();) {
+                const auto length = qFromLittleEndian<quint32>(bytes.constData() + at);
+                at += SealedReader::lengthBytes;
+                visit(bytesOf(bytes) + at, length, context);
+                benchmark::DoNotOptimize(m_room.data());
+                at += length;
+                context = SealedReader::contextOf(year, "entry");
+            }
+            ++year;
+        }
+    }
+
+    std::vector<unsigned char> m_room;
+};
+
+void unsealAllYears(benchmark::State &state)
+{
+    constexpr double most = 1.5;
+    SealedYears years;
+    Limit limit(state, most);
+    for ([[maybe_unused]] const auto _ : state) {
+        limit.reference([&] { years.openBare(); });
+        limit.measure([&] {
+            int year = firstYear;
+            for (const QByteArray &bytes : years.sealed)
+                benchmark::DoNotOptimize(SealedYear(year++, bytes, years.key).plain().constData());
+        });
+    }
+}
+BENCHMARK(unsealAllYears)->UseManualTime()->MinTime(2);
+
+void sealAllYears(benchmark::State &state)
+{
+    constexpr double most = 2;
+    SealedYears years;
+    Limit limit(state, most);
+    for ([[maybe_unused]] const auto _ : state) {
+        limit.reference([&] { years.sealBare(); });
+        limit.measure([&] {
+            int year = firstYear;
+            for (const QByteArray &bytes : years.plain)
+                benchmark::DoNotOptimize(SealedYear::sealed(year++, bytes, years.head, years.key));
+        });
+    }
+}
+BENCHMARK(sealAllYears)->UseManualTime()->MinTime(2);
+
+/// What the window needs before it is painted: beside one read of the year, and of how the others begin, as
+/// any of them may be sealed.
+void openToday(benchmark::State &state)
+{
+    constexpr double most = 4;
+    const ThirtyYears &years = thirtyYears();
+    Limit limit(state, most);
+    for ([[maybe_unused]] const auto _ : state) {
+        limit.reference([&] {
+            for (int year = firstYear; year < lastYear; ++year) {
+                QFile file(years.folder.filePath(JournalFiles::name(year)));
+                if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+                    qFatal("no file");
+                benchmark::DoNotOptimize(file.read(SealedYear::recordsAt));
+            }
+            benchmark::DoNotOptimize(contentOf(years.folder.filePath(JournalFiles::name(lastYear))));
+        });
+        limit.measure([&] {
+            const StandingClock clock;
+            Journal journal(years.folder, clock);
+            benchmark::DoNotOptimize(journal.entry(today));
+            benchmark::DoNotOptimize(journal.dates(today.year()));
+        });
+    }
+}
+BENCHMARK(openToday)->UseManualTime()->MinTime(1);
+
+/// What the card says in the morning: beside one read of the year.
+void tellTheNews(benchmark::State &state)
 {
     constexpr double most = 10;
     const ThirtyYears &years = thirtyYears();
@@ -261,24 +330,12 @@ void besideAYear(benchmark::State &state, Work work)
         limit.reference([&] {
             benchmark::DoNotOptimize(contentOf(years.folder.filePath(JournalFiles::name(lastYear))));
         });
-        limit.measure([&] { work(years.folder); });
+        limit.measure([&] {
+            benchmark::DoNotOptimize(JournalNews::liveLine(years.folder, QDateTime(today, QTime(9, 0))));
+        });
     }
 }
-BENCHMARK_CAPTURE(besideAYear, openToday,
-                  [](const DataFolder &folder) {
-                      const StandingClock clock;
-                      Journal journal(folder, clock);
-                      benchmark::DoNotOptimize(journal.entry(today));
-                      benchmark::DoNotOptimize(journal.dates(today.year()));
-                  })
-    ->UseManualTime()
-    ->MinTime(1);
-BENCHMARK_CAPTURE(besideAYear, news,
-                  [](const DataFolder &folder) {
-                      benchmark::DoNotOptimize(JournalNews::liveLine(folder, QDateTime(today, QTime(9, 0))));
-                  })
-    ->UseManualTime()
-    ->MinTime(1);
+BENCHMARK(tellTheNews)->UseManualTime()->MinTime(1);
 
 } // namespace
 

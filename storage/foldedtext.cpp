@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 #include <vector>
 
@@ -139,25 +140,41 @@ char foldedAscii(char byte)
     return char(quint8(small - ' ') < 0x5F ? small : quint8(' '));
 }
 
-/// Bytes of one character each, as many as stand together; where they end. The compiler takes sixteen at once
-/// of what is sure to lie apart from where it goes.
+/// Folds so many bytes of one character each. As none of them lies where another goes, the compiler takes
+/// sixteen at once.
+template <std::size_t count>
+void foldAsciiPiece(const char *__restrict at, char *__restrict out)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] = foldedAscii(at[i]);
+}
+
+/// The same where so many stand next; else nothing.
+template <std::size_t count>
+bool foldNextAscii(const char *&at, const char *end, char *&out)
+{
+    if (std::size_t(end - at) < count)
+        return false;
+    std::uint64_t all = 0;
+    for (std::size_t i = 0; i < count; i += sizeof all) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, at + i, sizeof word);
+        all |= word;
+    }
+    if ((all & 0x8080808080808080U) != 0)
+        return false;
+    foldAsciiPiece<count>(at, out);
+    at += count;
+    out += count;
+    return true;
+}
+
+/// Bytes of one character each, as many as stand together; where they end.
 const char *foldAscii(const char *at, const char *end, char *&out)
 {
-    constexpr std::size_t stride = 32;
-    std::array<char, stride> piece{};
-    while (std::size_t(end - at) >= stride) {
-        std::memcpy(piece.data(), at, stride);
-        quint8 all = 0;
-        for (const char byte : piece)
-            all |= quint8(byte);
-        if (all >= 0x80)
-            break;
-        for (char &byte : piece)
-            byte = foldedAscii(byte);
-        std::memcpy(out, piece.data(), stride);
-        at += stride;
-        out += stride;
-    }
+    while (foldNextAscii<32>(at, end, out)) {}
+    foldNextAscii<16>(at, end, out);
+    foldNextAscii<8>(at, end, out);
     while (at < end && quint8(*at) < 0x80)
         *out++ = foldedAscii(*at++);
     return at;

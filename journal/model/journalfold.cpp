@@ -53,13 +53,18 @@ qsizetype JournalFold::append(QByteArray &folded, const JournalBlock &block)
         folded += partEnd;
         return folded.size();
     }
+    // One after the other: a sum of texts would double what is held for what follows.
+    const auto add = [&folded](const QString &text, char end) {
+        folded += of(text);
+        folded += end;
+    };
     const JournalEntry entry = JournalForm::head(block);
     for (const JournalPicture &picture : entry.pictures)
-        folded += of(picture.caption) + ' ';
+        add(picture.caption, ' ');
     folded += partEnd;
     const qsizetype tags = folded.size();
     for (const QString &tag : entry.tags)
-        folded += of(tag) + ',';
+        add(tag, ',');
     return tags;
 }
 
