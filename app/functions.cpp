@@ -16,6 +16,7 @@
 #include "cars/window/automaint.h"
 #include "journal/model/journalholdings.h"
 #include "journal/model/journalnews.h"
+#include "journal/model/journalseal.h"
 #include "journal/model/journalsource.h"
 #include "journal/window/journalwindow.h"
 #include "keeper/model/keepernews.h"
@@ -263,6 +264,11 @@ QStringList journalPictures(const Program &program)
     return JournalHoldings::pictures(program.folder);
 }
 
+bool isJournalSealed(const Program &program)
+{
+    return JournalSeal::isSealed(program.folder);
+}
+
 void showInJournal(QWidget &window, const Place &place)
 {
     if (auto *journal = qobject_cast<DJournal *>(&window))
@@ -365,13 +371,15 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                       .search = journalSearch,
                                       .show = showInJournal,
                                       .files = journalFiles,
-                                      .pictures = journalPictures});
+                                      .pictures = journalPictures,
+                                      .isSealed = isJournalSealed});
     // Nothing of what it holds is told to others, guarded or not.
     functions.add(Function::PasswordKeeper, {.open = makeWindow<Form4>,
                                              .liveLine = keeperNews,
                                              .liveFiles = {KeeperFiles::keys},
                                              .moreLiveFiles = keeperLiveFiles,
-                                             .files = keeperFiles});
+                                             .files = keeperFiles,
+                                             .isSealed = [](const Program &) { return true; }});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
 }

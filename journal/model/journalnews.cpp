@@ -2,6 +2,7 @@
 #include "journal/model/journalnews.h"
 
 #include "journal/model/journalfiles.h"
+#include "journal/model/journalseal.h"
 #include "journal/model/journalwords.h"
 #include "journal/model/journalyear.h"
 
@@ -105,7 +106,9 @@ std::optional<LiveLine> JournalNews::liveLine(const DataFolder &folder, const QD
     if (years.isEmpty())
         return {};
     const int last = years.contains(today.year()) ? today.year() : years.last();
-    if (JournalFiles::isSealed(folder, last))
+    // A walk over the years that was cut short has left plain ones, of which nothing is told either.
+    if (JournalFiles::isSealed(folder, last) ||
+        (folder.exists(JournalSeal::keyFile) && JournalSeal::isSealed(folder)))
         return LiveLine{.text = u"Sealed"_s, .sentence = {}};
 
     const QByteArray bytes = JournalFiles::read(folder, today.year()).value_or(QByteArray());
@@ -130,5 +133,5 @@ std::optional<LiveLine> JournalNews::liveLine(const DataFolder &folder, const QD
 
 QStringList JournalNews::liveFiles(QDate today)
 {
-    return {JournalFiles::name(today.year())};
+    return {JournalFiles::name(today.year()), JournalSeal::keyFile};
 }

@@ -43,6 +43,12 @@ JournalSeal::JournalSeal(const DataFolder &folder, const Clock &clock, PasswordC
 
 JournalSeal::~JournalSeal() = default;
 
+bool JournalSeal::isSealed(const DataFolder &folder)
+{
+    const SystemClock clock;
+    return JournalSeal(folder, clock).state() != State::None;
+}
+
 QByteArray JournalSeal::beginningOf(int year) const
 {
     QFile file(m_folder.filePath(JournalFiles::name(year)));

@@ -31,6 +31,9 @@ public:
     JournalSeal(const DataFolder &folder, const Clock &clock, PasswordCost cost = PasswordCost::moderate());
     ~JournalSeal() override;
 
+    /// Whether the journal of a household is sealed, be it by halves, or by somebody else.
+    static bool isSealed(const DataFolder &folder);
+
     const DataFolder &folder() const { return m_folder; }
     /// As much of a year's file as says how it is sealed.
     QByteArray beginningOf(int year) const;

@@ -79,9 +79,9 @@ QString GuardedAreas::wayOf(int area)
     return name(area) == functionName(area) ? u"the menu entry and card"_s : u"the toolbar button"_s;
 }
 
-QString GuardedAreas::level(int area)
+QString GuardedAreas::level(int area, const QSet<int> &sealed)
 {
-    return area == Area::PasswordKeeper ? u"Sealed"_s : u"Asks for the password; the files stay readable"_s;
+    return sealed.contains(area) ? u"Sealed"_s : u"Asks for the password; the files stay readable"_s;
 }
 
 QString GuardedAreas::openWay(int area, const ProtectedAreas &areas)

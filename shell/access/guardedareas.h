@@ -3,6 +3,7 @@
 
 #include "shell/core/programstate.h"
 
+#include <QSet>
 #include <QString>
 
 /// What the 21 flags of password control guard, by the index of the flag (see `Area` and `ProtectedAreas`).
@@ -18,8 +19,8 @@ QString name(int area);
 /// The area that guards the other way into the function behind `area`; `Area::None` where there is one way.
 int otherWay(int area);
 
-/// What the password does for the function: ask for it only, or seal its files.
-QString level(int area);
+/// What a mark does for the function: asks for the password only, or its files are among the `sealed` ones.
+QString level(int area, const QSet<int> &sealed);
 
 /// By which way the function still opens without the password: "the toolbar button". Empty while `area` is
 /// not marked in `areas`, has no other way, or that is marked too.

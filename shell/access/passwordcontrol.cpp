@@ -15,6 +15,7 @@
 #include "shell/core/helpcontexts.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/look/theme.h"
+#include "shell/program/functionfaces.h"
 #include "shell/program/locking.h"
 
 #include <QCheckBox>
@@ -265,6 +266,8 @@ void Form31::connectPane()
     connect(m_pane, &PasswordPane::damageFound, this, &Form31::tellDamage);
     connect(m_idle, &IdleChoice::chosen, this, [this] { activity().say(PasswordMessages::marksSaved()); });
     connect(m_idle, &IdleChoice::notSaved, this, [this] { activity().say(FrameLines::settingNotSaved()); });
+    connect(&program().changes, &ProgramSignals::guardsChanged, this,
+            &Form31::marksChanged); // by a seal, too
     loadMarks();
 }
 
@@ -309,9 +312,10 @@ void Form31::loadMarks()
 void Form31::marksChanged()
 {
     const ProtectedAreas areas = shownAreas();
+    const QSet<int> sealed = FunctionFaces::sealedAreas(program());
     for (const int area : ownAreas) {
         const QString way = GuardedAreas::openWay(area, areas);
-        const QString level = GuardedAreas::level(area);
+        const QString level = GuardedAreas::level(area, sealed);
         m_levels[std::size_t(area)]->setText(way.isEmpty() ? level
                                                            : PasswordMessages::stillOpens(level, way));
         m_marks[std::size_t(area)]->setAccessibleDescription(m_levels[std::size_t(area)]->text());
@@ -385,7 +389,8 @@ void Form31::printCode(const QString &code)
 void Form31::print()
 {
     const auto page = [this](const PageContext &context) {
-        return passwordPage(m_file.state() == PasswordCheck::State::Set, shownAreas(), context);
+        return passwordPage(m_file.state() == PasswordCheck::State::Set, shownAreas(),
+                            FunctionFaces::sealedAreas(program()), context);
     };
     showPreview(page, PasswordMessages::title());
 }

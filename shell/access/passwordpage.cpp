@@ -6,7 +6,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Page passwordPage(bool isPasswordSet, const ProtectedAreas &areas, const PageContext &context)
+Page passwordPage(bool isPasswordSet, const ProtectedAreas &areas, const QSet<int> &sealed,
+                  const PageContext &context)
 {
     Page page(u"Password Control"_s);
     page.line(isPasswordSet ? u"A password is set."_s
@@ -17,7 +18,7 @@ Page passwordPage(bool isPasswordSet, const ProtectedAreas &areas, const PageCon
         if (!GuardedAreas::isOfThisEdition(area))
             continue;
         const QString way = GuardedAreas::openWay(area, areas);
-        const QString level = GuardedAreas::level(area);
+        const QString level = GuardedAreas::level(area, sealed);
         page.row({GuardedAreas::name(area), areas.isProtected(area) ? u"asked"_s : u"not asked"_s,
                   way.isEmpty() ? level : PasswordMessages::stillOpens(level, way)});
     }

@@ -3,5 +3,9 @@
 
 #include "shell/core/pagecontext.h"
 
-/// What password control prints: whether a password is set, and which functions of this edition ask for it.
-Page passwordPage(bool isPasswordSet, const ProtectedAreas &areas, const PageContext &context);
+#include <QSet>
+
+/// What password control prints: whether a password is set, which functions of this edition ask for it, and
+/// behind which areas the files are `sealed`.
+Page passwordPage(bool isPasswordSet, const ProtectedAreas &areas, const QSet<int> &sealed,
+                  const PageContext &context);

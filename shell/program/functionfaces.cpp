@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/program/functionfaces.h"
 
+#include "shell/program/program.h"
+
 #include <algorithm>
 #include <array>
 
@@ -72,4 +74,15 @@ const FunctionFace &FunctionFaces::of(Function function)
 {
     return *std::find_if(faces.begin(), faces.end(),
                          [function](const FunctionFace &face) { return face.function == function; });
+}
+
+QSet<int> FunctionFaces::sealedAreas(const Program &program)
+{
+    QSet<int> areas;
+    for (const FunctionFace &face : cards()) {
+        const FunctionEntry *entry = program.functions.entry(face.function);
+        if (entry && entry->isSealed && entry->isSealed(program))
+            areas.insert(face.area);
+    }
+    return areas;
 }

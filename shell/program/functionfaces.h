@@ -5,6 +5,7 @@
 #include "shell/core/programstate.h"
 #include "shell/program/functions.h"
 
+#include <QSet>
 #include <QString>
 
 #include <span>
@@ -37,5 +38,8 @@ std::span<const FunctionFace> cards();
 
 /// Any function's face; the address viewer has one too.
 const FunctionFace &of(Function function);
+
+/// The areas behind which files are sealed with a password of their function's own.
+QSet<int> sealedAreas(const Program &program);
 
 } // namespace FunctionFaces

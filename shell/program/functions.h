@@ -65,6 +65,8 @@ struct FunctionEntry {
     std::function<QStringList(const Program &)> files{};
     /// Its pictures that are there, as full paths: they may stand in any folder.
     std::function<QStringList(const Program &)> pictures{};
+    /// Whether its files are sealed with a password of its own; empty for a function whose files never are.
+    std::function<bool(const Program &)> isSealed{};
 
     /// What the files that news and notes come from are like now.
     FileStamp liveStamp(const Program &program) const;

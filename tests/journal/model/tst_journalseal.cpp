@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal/model/journal.h"
+#include "journal/model/journalnews.h"
 #include "journal/model/sealingwalk.h"
 #include "storage/saving.h"
 #include "storage/sealing/recoverycode.h"
@@ -370,6 +371,7 @@ private slots:
         }
         QVERIFY(desk.name(2019).startsWith(sealedLine));
         QCOMPARE(desk.name(2026), year2026);
+        QCOMPARE(JournalNews::liveLine(desk.files.folder(), desk.clock.now())->text, u"Sealed"_s);
         journal->reread();
         QVERIFY(Desk::isAllThere(*journal));
         QVERIFY(Desk::walk(*journal));

@@ -215,8 +215,13 @@ private slots:
     void saysWhatAMarkDoesAndWhatStillOpens()
     {
         guard(Area::AddressBook);
+        bool isSealed = false;
+        m_test->functions.add(Function::Journal, {.isSealed = [&](const Program &) { return isSealed; }});
         open();
-        QCOMPARE(labelText("level_11"), u"Sealed"_s);
+        QCOMPARE(labelText("level_14"), u"Asks for the password; the files stay readable"_s);
+        isSealed = true;
+        emit m_test->changes.guardsChanged();
+        QCOMPARE(labelText("level_14"), u"Sealed"_s);
         QCOMPARE(labelText("level_2"), u"Asks for the password; the files stay readable"_s);
         QCOMPARE(labelText("level_0"),
                  u"Asks for the password; the files stay readable. Still opens by the toolbar button."_s);
@@ -288,8 +293,9 @@ private slots:
         open();
         trigger("mOPrt");
         QVERIFY(m_window->isPreviewShown());
-        const QString text =
-            passwordPage(true, file().areas(), PageContext{.today = QDate(2026, 11, 21)}).toText();
+        const QString text = passwordPage(true, file().areas(), {Area::PasswordKeeper},
+                                          PageContext{.today = QDate(2026, 11, 21)})
+                                 .toText();
         QVERIFY(text.contains("A password is set."_L1));
         QVERIFY(
             text.contains("Automobile Tracker\tasked\tAsks for the password; the files stay readable"_L1));
