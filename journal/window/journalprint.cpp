@@ -91,7 +91,7 @@ void JournalPrint::show(QDate from, QDate to, const QString &tag,
     m_hasPages = true;
     m_desk.window.showPreview([source = sourceOf(entries), build = std::move(builder)](
                                   const PageContext &context) { return build(source, context); },
-                              name);
+                              m_desk.journal.seal().isOpen() ? u"Journal"_s : name); // in a printer's queue
 }
 
 void JournalPrint::print()

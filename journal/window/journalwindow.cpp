@@ -246,6 +246,8 @@ void DJournal::connectSeal()
         m_journal.reread();
         watchYears();
         readOn();
+        if (m_stack->isHome())
+            m_page->setFocus();
     });
     connect(&m_journal.seal(), &JournalSeal::changed, this, [this] { m_state = m_journal.seal().state(); });
 }

@@ -23,7 +23,10 @@ OpenDay::OpenDay(Journal &journal, const Page &page, QObject *parent)
 {
     m_waiting.setSingleShot(true);
     connect(&m_waiting, &QTimer::timeout, this, &OpenDay::save);
-    connect(&page.text, &QPlainTextEdit::textChanged, this, &OpenDay::noteEdit);
+    connect(&page.text, &QPlainTextEdit::textChanged, this, [this] {
+        if (m_page.text.document()->isModified()) // and not only underlined
+            noteEdit();
+    });
     connect(&page.tags, &QLineEdit::textEdited, this, &OpenDay::noteEdit);
     connect(&journal, &Journal::changed, this, &OpenDay::follow);
 }
@@ -135,6 +138,7 @@ void OpenDay::take()
         emit said(whyLocked());
         return;
     }
+    m_page.text.document()->setModified(false);
     m_entry = entryOf(m_date);
 }
 

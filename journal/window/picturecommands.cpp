@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal/window/picturecommands.h"
 
+#include "journal/model/journal.h"
 #include "journal/window/daypage.h"
 #include "journal/window/journaltext.h"
 #include "journal/window/openday.h"
@@ -99,6 +100,7 @@ PictureForm &PictureCommands::form()
             m_desk.page.text().setFocus();
         });
     }
+    m_form->setNamedAfterCaption(!m_desk.journal.seal().isOpen());
     return *m_form;
 }
 

@@ -72,7 +72,8 @@ void PictureForm::enter()
     QString path = JournalPictures::stored(m_program.folder, m_file);
     if (m_file.isEmpty())
         path = JournalPictures::keep(m_program.folder, PictureFile::asPhotograph(m_image),
-                                     m_caption->text().isEmpty() ? u"Journal"_s : m_caption->text());
+                                     m_isNamed && !m_caption->text().isEmpty() ? m_caption->text()
+                                                                               : u"Journal"_s);
     else if (m_keep->isChecked())
         path = JournalPictures::keepCopy(m_program.folder, m_file);
     if (path.isEmpty()) {

@@ -23,6 +23,8 @@ public:
     bool start(const QString &file);
     /// The same for one that is no file, which is always kept.
     void start(const QImage &picture);
+    /// Whether the file of one that comes from none may tell of its caption.
+    void setNamedAfterCaption(bool isNamed) { m_isNamed = isNamed; }
     void forget();
 
 signals:
@@ -37,6 +39,7 @@ private:
     PictureFrame *m_frame;
     QLineEdit *m_caption;
     QCheckBox *m_keep;
+    bool m_isNamed = true;
     QString m_file; ///< empty: the image alone
     QImage m_image;
 };

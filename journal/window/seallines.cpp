@@ -92,7 +92,7 @@ QString SealLines::factsOf(SealPanel::Kind kind)
 {
     if (kind != SealPanel::Seal)
         return {};
-    return u"\u2022 What you copy stays on the clipboard.\n\u2022 Pictures stay files that everybody can open.\n\u2022 Readable bytes of the years as they were may survive on the free space of the disk.\n\u2022 Older backups and snapshots keep the readable files."_s;
+    return u"What it does not do:\n\u2022 What you copy stays on the clipboard.\n\u2022 Pictures stay files that everybody can open.\n\u2022 Readable bytes of the years as they were may survive on the free space of the disk.\n\u2022 Older backups and snapshots keep the readable files."_s;
 }
 
 QString SealLines::buttonOf(SealPanel::Kind kind)
@@ -109,7 +109,7 @@ QString SealLines::buttonOf(SealPanel::Kind kind)
 
 QString SealLines::codeWords()
 {
-    return u"This code opens the journal where its password is forgotten. It is shown once. Print it or write it down, keep it away from the computer, and type it in from there."_s;
+    return u"This code opens the journal where its password is forgotten. It is shown once, and not while you type. Print it or write it down, type it in from there, and keep it away from the computer."_s;
 }
 
 QString SealLines::typeTheCode()
