@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "journal/model/journal.h"
+#include "journal/model/sealingwalk.h"
+#include "journal/window/journalcodepanel.h"
 #include "journal/window/journaltext.h"
+#include "storage/sealing/recoverycode.h"
 #include "tools/pictures/albums.h"
 #include "tools/pictures/picturesession.h"
 
 #include <QCheckBox>
 #include <QFile>
+#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -85,6 +90,76 @@ void takePanels(const Camera &camera)
     session.take("journal-export");
 }
 
+constexpr auto password = "correct horse battery staple"_L1;
+
+/// Sealed in no time.
+void seal(Program &program)
+{
+    Journal journal(program.folder, program.clock, nullptr, PasswordCost::minimum());
+    KeyDerivation key = journal.seal().newKey(password);
+    KeyDerivation code = journal.seal().newCodeKey(RecoveryCode::generate());
+    key.run();
+    code.run();
+    if (!journal.seal().create(key, code))
+        qFatal("the journal cannot be sealed");
+    SealingWalk walk(journal.seal());
+    while (walk.step()) {}
+}
+
+/// From the password to the code that is typed in from paper.
+void takeSealing(const Camera &camera)
+{
+    PictureSession session(camera);
+    furnish(session.program().folder);
+    session.open(Function::Journal);
+    session.trigger("mUSeal");
+    session.take("journal-seal");
+    session.fill("newJournalPassword", password);
+    session.fill("newJournalPasswordAgain", password);
+    session.click("sealGo");
+    const auto hasCode = [&] { return session.find<QWidget>("journalCodePanel").isVisible(); };
+    if (!QTest::qWaitFor(hasCode, 60'000))
+        qFatal("no key is made");
+    session.take("journal-recovery-code");
+    session.click("printJournalCode");
+    session.take("journal-recovery-sheet");
+    session.takePage("page-journal-recovery");
+}
+
+/// One record is damaged.
+void takeSealed(const Camera &camera)
+{
+    PictureSession session(camera);
+    const DataFolder &folder = session.program().folder;
+    furnish(folder);
+    seal(session.program());
+    QFile year(folder.filePath(u"DJour2026.Fil"_s));
+    if (!year.open(QIODevice::ReadWrite) || !year.seek(year.size() - 10) || !year.putChar('?'))
+        qFatal("the journal cannot be damaged");
+    year.close();
+    session.open(Function::Journal);
+    session.take("journal-locked");
+    session.fill("journalPassword", password);
+    session.click("openJournal");
+    const auto isOpen = [&] { return session.find<QWidget>("journalPane").isVisible(); };
+    if (!QTest::qWaitFor(isOpen, 60'000))
+        qFatal("the journal does not open");
+    session.take("journal-damaged");
+    session.trigger("mUDamage");
+    session.take("journal-damaged-records");
+    session.trigger("mOLockWhen");
+    session.take("journal-when-it-locks");
+    session.close();
+    for (const int year : {2019, 2022, 2024, 2026}) {
+        QFile file(folder.filePath(u"DJour%1.Fil"_s.arg(year)));
+        if (!file.open(QIODevice::ReadWrite) || !file.seek(100) || !file.putChar('?'))
+            qFatal("the journal cannot be damaged");
+    }
+    QFile::remove(folder.filePath(u"DJourKey.Fil"_s));
+    session.open(Function::Journal);
+    session.take("journal-nobody-can-open");
+}
+
 void takeEmpty(const Camera &camera)
 {
     PictureSession session(camera);
@@ -99,5 +174,7 @@ void Albums::journal(const Camera &camera)
     takeDay(camera);
     takeSearch(camera);
     takePanels(camera);
+    takeSealing(camera);
+    takeSealed(camera);
     takeEmpty(camera);
 }
