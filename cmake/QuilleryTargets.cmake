@@ -88,6 +88,27 @@ function(quillery_room name)
     quillery_library(quillery_${name} SOURCES ${sources} LINK ${ARG_LINK})
 endfunction()
 
+# Adds the target quillery_NAME and its macro QUILLERY_HAS_NAME to `optional`, where the option QUILLERY_NAME is on and
+# the library is found.
+function(quillery_optional name header library)
+    string(TOUPPER ${name} upper)
+    if(NOT QUILLERY_${upper})
+        return()
+    endif()
+    find_path(${upper}_INCLUDE_DIR ${header})
+    find_library(${upper}_LIBRARY ${library})
+    if(NOT ${upper}_INCLUDE_DIR OR NOT ${upper}_LIBRARY)
+        message(STATUS "Without ${library}, which is not here")
+        return()
+    endif()
+    add_library(quillery_${name} INTERFACE)
+    target_include_directories(quillery_${name} SYSTEM INTERFACE "${${upper}_INCLUDE_DIR}")
+    target_link_libraries(quillery_${name} INTERFACE "${${upper}_LIBRARY}")
+    target_compile_definitions(quillery_${name} INTERFACE QUILLERY_HAS_${upper})
+    list(APPEND optional quillery_${name})
+    set(optional ${optional} PARENT_SCOPE)
+endfunction()
+
 # quillery_function(NAME MODEL_LINK target... WINDOW_LINK target...): a function of the program, made of its rooms
 # model/ (quillery_NAME_model) and window/, or shared/ and a room for each of its windows, each on top of the one before
 # it. quillery_NAME is all of them.

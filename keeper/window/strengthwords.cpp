@@ -2,8 +2,8 @@
 #include "keeper/window/strengthwords.h"
 
 #include "keeper/model/keeper.h"
-#include "keeper/model/passwordstrength.h"
 #include "keeper/window/windowlines.h"
+#include "shell/core/passwordstrength.h"
 #include "shell/writing/writing.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "keeper/model/passwordgenerator.h"
-#include "keeper/model/passwordstrength.h"
+#include "shell/core/passwordstrength.h"
 #include "tests/support/rows.h"
 
 #include <QRegularExpression>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "keeper/model/passwordstrength.h"
+#include "shell/core/passwordstrength.h"
 
 #ifdef QUILLERY_HAS_ZXCVBN
 #include <zxcvbn.h>
