@@ -6,12 +6,14 @@
 #include "journal/window/journalcodepanel.h"
 #include "journal/window/openday.h"
 #include "journal/window/seallines.h"
+#include "shell/core/passwordstrength.h"
 #include "shell/core/slicedwork.h"
 #include "shell/core/threadedstep.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
 #include "shell/program/program.h"
+#include "shell/writing/writing.h"
 #include "storage/sealing/recoverycode.h"
 
 #include <QMenu>
@@ -108,6 +110,18 @@ void JournalSealer::goOn(bool isByCode)
         openPanel(SealPanel::Forgotten);
 }
 
+QString JournalSealer::strengthOf(const QString &typed) const
+{
+    Writing &writing = m_desk.writing;
+    if (!writing.isLoaded())
+        writing.load();
+    const auto strength = PasswordStrength::of(typed, {.isWord = [&writing](const QString &text) {
+                                                   return writing.spelling().isInDictionary(text);
+                                               }});
+    return strength.isWeak() ? QString(strength.words() + u". "_s + SealLines::weakPassword())
+                             : strength.words();
+}
+
 void JournalSealer::openPanel(SealPanel::Kind kind)
 {
     if (!m_desk.day.save())
@@ -120,7 +134,7 @@ void JournalSealer::openPanel(SealPanel::Kind kind)
         return;
     }
     if (!m_panel) {
-        m_panel = new SealPanel;
+        m_panel = new SealPanel([this](const QString &typed) { return strengthOf(typed); });
         m_desk.views.addPanel(m_panel);
         connect(m_panel, &SealPanel::chosen, this, &JournalSealer::chosen);
     }

@@ -46,6 +46,7 @@ private:
     using MadeKeys = std::shared_ptr<Made>;
 
     JournalSeal &seal() const;
+    QString strengthOf(const QString &typed) const;
     QString whyNotPlain() const;
     QString whyNotOpen() const;
     void openPanel(SealPanel::Kind kind);

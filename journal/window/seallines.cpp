@@ -7,9 +7,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int shortBelow = 8;
-constexpr int longFrom = 16;
-
 QString listOf(const QList<int> &years)
 {
     QStringList names;
@@ -52,14 +49,9 @@ QString SealLines::passwordMissing()
     return u"Type the password of the journal first."_s;
 }
 
-QString SealLines::strengthOf(const QString &password)
+QString SealLines::weakPassword()
 {
-    const int length = int(password.size());
-    const QString count = length == 1 ? u"1 character"_s : u"%1 characters"_s.arg(length);
-    if (length < shortBelow)
-        return count + u": short, and soon guessed"_s;
-    return length < longFrom ? QString(count + u": better with more words"_s)
-                             : QString(count + u": long, which is good"_s);
+    return u"Under 50 bits it can be guessed; it is taken all the same."_s;
 }
 
 QString SealLines::titleOf(SealPanel::Kind kind)

@@ -14,8 +14,7 @@ QString passwordCaption();
 QString newPassword();
 QString newPasswordMissing();
 QString passwordMissing();
-/// Of the password that is typed, in words.
-QString strengthOf(const QString &password);
+QString weakPassword();
 
 QString titleOf(SealPanel::Kind kind);
 QString wordsOf(SealPanel::Kind kind);

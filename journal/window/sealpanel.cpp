@@ -2,11 +2,12 @@
 #include "journal/window/sealpanel.h"
 
 #include "journal/window/seallines.h"
-#include "shell/controls/newpasswordform.h"
 #include "shell/controls/pastefilter.h"
 #include "shell/look/theme.h"
 
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,14 +15,14 @@ namespace {
 constexpr int widest = 560;
 } // namespace
 
-SealPanel::SealPanel(QWidget *parent)
+SealPanel::SealPanel(NewPasswordForm::Strength strength, QWidget *parent)
     : TaskPanel(u"sealPanel"_s, {}, parent)
     , m_words(new QLabel(this))
     , m_oldPart(new QWidget(this))
     , m_old(named(new QLineEdit(m_oldPart), u"oldJournalPassword"_s))
     , m_form(new NewPasswordForm(u"newJournalPassword"_s,
                                  {SealLines::newPassword(), SealLines::newPasswordMissing()},
-                                 SealLines::strengthOf, this))
+                                 std::move(strength), this))
     , m_facts(makeQuietLabel({}, this))
     , m_refusal(named(makeQuietLabel({}, this), u"sealRefusal"_s))
     , m_go(nullptr)

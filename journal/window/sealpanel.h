@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/controls/newpasswordform.h"
 #include "shell/controls/taskpanel.h"
 
-class NewPasswordForm;
 class QLineEdit;
 
 /// Asks for passwords of the journal: a new one to seal it with, the old one to open the seal, or both to
@@ -14,7 +14,7 @@ class SealPanel final : public TaskPanel
 public:
     enum Kind { Seal, OpenSeal, Change, Forgotten };
 
-    explicit SealPanel(QWidget *parent = nullptr);
+    explicit SealPanel(NewPasswordForm::Strength strength, QWidget *parent = nullptr);
 
     void start(Kind kind);
     void refuse(const QString &line);
