@@ -7,18 +7,15 @@
 #include "journal/window/dayfacts.h"
 #include "journal/window/daypage.h"
 #include "journal/window/journaldamage.h"
-#include "journal/window/journaldoor.h"
 #include "journal/window/journalexchange.h"
-#include "journal/window/journallock.h"
+#include "journal/window/journalfront.h"
 #include "journal/window/journalpane.h"
 #include "journal/window/journalprint.h"
-#include "journal/window/journalsealer.h"
 #include "journal/window/journalspelling.h"
 #include "journal/window/journaltext.h"
 #include "journal/window/openday.h"
 #include "journal/window/pagecommands.h"
 #include "journal/window/picturecommands.h"
-#include "journal/window/seallines.h"
 #include "journal/window/windowlines.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
@@ -32,10 +29,8 @@
 #include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 #include "shell/program/locking.h"
-#include "storage/sealing/freememory.h"
 
 #include <QClipboard>
-#include <QDialog>
 #include <QGuiApplication>
 #include <QHideEvent>
 #include <QMenu>
@@ -68,9 +63,7 @@ DJournal::DJournal(Program &program, QWidget *parent, PasswordCost cost, std::ch
     , m_page(new DayPage(program))
     , m_day(new OpenDay(m_journal, {m_page->text(), m_page->tags(), m_page->pictures()}, this))
     , m_pane(new JournalPane(program, colors(), m_journal, this))
-    , m_door(new JournalDoor(desk(), step, this))
-    , m_sealer(new JournalSealer(desk(), this))
-    , m_lock(new JournalLock(desk(), this))
+    , m_front(new JournalFront(desk(), step, this))
     , m_damage(new JournalDamage(desk(), this))
     , m_days(new DayCommands(desk(), this))
     , m_edit(new PageCommands(desk(), this))
@@ -84,10 +77,10 @@ DJournal::DJournal(Program &program, QWidget *parent, PasswordCost cost, std::ch
     makeCommands();
     setViews(m_stack);
     connectParts();
-    connectSeal();
+    connectFront();
     finishFrame();
     Locking::offerAlso(program, activity(), [this] { return m_journal.seal().isOpen(); });
-    enter();
+    m_front->enter();
 }
 
 DJournal::~DJournal()
@@ -139,7 +132,7 @@ void DJournal::makeCommands()
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_exchange->addCommands(utilities);
     utilities->addSeparator();
-    m_sealer->addCommands(utilities);
+    m_front->addSealCommands(utilities);
     m_damage->addCommand(utilities);
     utilities->addSeparator();
     utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
@@ -156,7 +149,7 @@ void DJournal::makeOptions(QMenu *options)
     options->addAction(standard(Standard::PanelColor));
     options->addAction(standard(Standard::TextColor));
     options->addSeparator();
-    m_lock->addCommands(options);
+    m_front->addLockCommands(options);
     options->addSeparator();
     commands().writing(commands().add(
         options, u"mOSave"_s, u"&Save"_s,
@@ -228,45 +221,32 @@ void DJournal::connectParts()
     });
 }
 
-void DJournal::connectSeal()
+void DJournal::connectFront()
 {
-    const auto say = [this](const QString &line) { activity().say(line); };
-    connect(m_door, &JournalDoor::opened, this, &DJournal::opened);
-    connect(m_door, &JournalDoor::cleared, this, &DJournal::enter);
-    connect(m_door, &JournalDoor::lockDue, this, &DJournal::lock);
-    connect(m_door, &JournalDoor::said, this, say);
-    connect(m_lock, &JournalLock::due, this, &DJournal::lock);
-    connect(m_lock, &JournalLock::said, this, say);
-    connect(m_sealer, &JournalSealer::said, this, say);
-    connect(m_sealer, &JournalSealer::codePrintWanted, m_print, &JournalPrint::showRecoverySheet);
-    connect(m_sealer, &JournalSealer::codeLeft, m_print, &JournalPrint::forget);
-    connect(m_sealer, &JournalSealer::progressed, &activity(),
+    connect(m_front, &JournalFront::said, this, [this](const QString &line) { activity().say(line); });
+    connect(m_front, &JournalFront::progressed, &activity(),
             [this](int done, int total) { activity().showProgress(done, total); });
-    connect(m_sealer, &JournalSealer::walked, this, [this] {
+    connect(m_front, &JournalFront::codePrintWanted, m_print, &JournalPrint::showRecoverySheet);
+    connect(m_front, &JournalFront::codeLeft, m_print, &JournalPrint::forget);
+    connect(m_front, &JournalFront::entered, this, &DJournal::begin);
+    connect(m_front, &JournalFront::forgetting, this, &DJournal::forget);
+    connect(m_front, &JournalFront::shut, this, [this] {
+        watchYears();
+        m_pane->hide();
+        commands().refresh();
+    });
+    connect(m_front, &JournalFront::walked, this, [this] {
         m_journal.reread();
         watchYears();
         readOn();
         if (m_stack->isHome())
             m_page->setFocus();
     });
-    connect(&m_journal.seal(), &JournalSeal::changed, this, [this] { m_state = m_journal.seal().state(); });
-}
-
-/// Shows the journal, or what stands in front of it.
-void DJournal::enter()
-{
-    watchYears();
-    m_state = m_journal.seal().state();
-    if (!m_door->show()) {
-        begin();
-        return;
-    }
-    m_pane->hide();
-    commands().refresh();
 }
 
 void DJournal::begin()
 {
+    watchYears();
     m_stack->setHome(m_page);
     m_pane->show();
     const QDate left = std::exchange(m_left, {});
@@ -275,45 +255,17 @@ void DJournal::begin()
     QTimer::singleShot(0, this, &DJournal::readOn);
 }
 
-void DJournal::opened(const QString &line, bool isByCode)
-{
-    begin();
-    if (m_journal.isModified()) // what the disk had refused before
-        m_day->save();
-    activity().say(line);
-    m_sealer->goOn(isByCode);
-}
-
-/// No box that stands open holds it up.
-void DJournal::lock()
-{
-    if (!m_journal.seal().isOpen()) {
-        m_door->lockBehind();
-        return;
-    }
-    for (QDialog *dialog : findChildren<QDialog *>())
-        dialog->reject();
-    m_day->save();
-    m_left = m_day->date() == clock().today() ? QDate() : m_day->date();
-    forget();
-    m_journal.seal().lock();
-    enter();
-    if (m_journal.isModified())
-        activity().say(SealLines::heldBySeal());
-    // Behind what is deleted later.
-    QMetaObject::invokeMethod(this, &FreeMemory::wipe, Qt::QueuedConnection);
-}
-
 /// Nothing of any entry is left in boxes, lists, pages and words.
 void DJournal::forget()
 {
+    if (const QDate date = m_day->date(); date.isValid())
+        m_left = date == clock().today() ? QDate() : date;
     m_reading->stop();
     m_following.stop();
     m_before = {};
     m_day->forget();
     m_page->forget();
     m_pane->forget();
-    m_sealer->forget();
     m_damage->forget();
     m_edit->forget();
     m_pictures->forget();
@@ -327,7 +279,7 @@ void DJournal::forget()
 
 void DJournal::goTo(QDate date)
 {
-    if (!isShown() || !Journal::isPossible(date))
+    if (!m_front->isOpen() || !Journal::isPossible(date))
         return;
     closePreview();
     if (!m_stack->isHome())
@@ -350,7 +302,7 @@ void DJournal::followDay()
 /// The other years are read when the window has been seen: for the same day in them, and for the tags.
 void DJournal::readOn()
 {
-    if (!isShown())
+    if (!m_front->isOpen())
         return;
     m_reading->start([this] { return m_journal.readNext(m_day->date().year()); });
 }
@@ -369,11 +321,8 @@ void DJournal::filesChanged()
     m_day->take();
     m_journal.reread();
     watchYears();
-    if (m_journal.seal().state() != m_state) { // sealed or opened elsewhere
-        forget();
-        enter();
+    if (m_front->follow()) // sealed or opened elsewhere
         return;
-    }
     m_pane->refresh();
     readOn();
 }
@@ -382,7 +331,7 @@ void DJournal::changeEvent(QEvent *event)
 {
     FunctionWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isMinimized())
-        m_lock->minimised();
+        m_front->minimised();
 }
 
 /// It locks itself when it is closed.
@@ -390,12 +339,7 @@ void DJournal::hideEvent(QHideEvent *event)
 {
     FunctionWindow::hideEvent(event);
     if (!event->spontaneous())
-        lock();
-}
-
-bool DJournal::isShown() const
-{
-    return m_state == JournalSeal::State::None || m_state == JournalSeal::State::Open;
+        m_front->lock();
 }
 
 QString DJournal::whyNone() const
@@ -421,7 +365,7 @@ Answer DJournal::askToLeave()
 
 void DJournal::showPlace(const Place &place)
 {
-    if (!isShown()) {
+    if (!m_front->isOpen()) {
         m_left = place.date;
         return;
     }

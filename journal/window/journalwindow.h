@@ -11,11 +11,9 @@
 
 class DayCommands;
 class JournalDamage;
-class JournalDoor;
 class JournalExchange;
-class JournalLock;
+class JournalFront;
 class JournalPrint;
-class JournalSealer;
 class JournalSpelling;
 class PageCommands;
 class PictureCommands;
@@ -35,8 +33,6 @@ public:
     bool isModified() const override;
     /// Shows the day that a place means.
     void showPlace(const Place &place);
-    /// Closes what is open over a sealed journal, saves, and forgets all that it shows and the key.
-    void lock();
 
     Journal &journal() { return m_journal; }
 
@@ -53,12 +49,9 @@ private:
     void makeCommands();
     void makeOptions(QMenu *options);
     void connectParts();
-    void connectSeal();
-    void enter();
+    void connectFront();
     void begin();
-    void opened(const QString &line, bool isByCode);
     void forget();
-    bool isShown() const;
     void goTo(QDate date);
     void followDay();
     void readOn();
@@ -72,9 +65,7 @@ private:
     DayPage *m_page;
     OpenDay *m_day;
     JournalPane *m_pane;
-    JournalDoor *m_door;
-    JournalSealer *m_sealer;
-    JournalLock *m_lock;
+    JournalFront *m_front;
     JournalDamage *m_damage;
     DayCommands *m_days;
     PageCommands *m_edit;
@@ -86,5 +77,4 @@ private:
     QTimer m_following;    ///< shows what is known of the page once the keys rest
     QDate m_before;        ///< the day from which a search was begun
     QDate m_left;          ///< the day that was open before the journal was locked, where it was not today
-    JournalSeal::State m_state = JournalSeal::State::None; ///< for which the window shows what it shows
 };

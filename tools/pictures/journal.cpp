@@ -61,6 +61,7 @@ void takeDay(const Camera &camera)
     session.key(Qt::Key_End, Qt::ControlModifier);
     session.type(u" We recieve them on Sunday "_s);
     session.take("journal-misspelt");
+    session.trigger("mOSave");
     session.click("earlierVersion");
     session.take("journal-earlier");
 }
