@@ -3,6 +3,7 @@
 
 #include <QObject>
 
+#include <deque>
 #include <functional>
 #include <memory>
 
@@ -17,10 +18,16 @@ public:
     /// Waits for the step that runs; nothing follows it.
     ~ThreadedStep() override;
 
-    /// Runs `work` there, and `then` here when it has ended. Does nothing while another step runs.
+    /// Runs `work` there, and `then` here when it has ended; behind the step that runs already, if one does.
     void start(const std::function<void()> &work, const std::function<void()> &then);
     bool isRunning() const { return m_thread != nullptr; }
 
 private:
+    struct Step {
+        std::function<void()> work;
+        std::function<void()> then;
+    };
+
     std::unique_ptr<QThread> m_thread;
+    std::deque<Step> m_waiting;
 };

@@ -100,6 +100,21 @@ private slots:
         QTRY_VERIFY(isSeen("keeperPane"));
     }
 
+    /// The key of another master password is still being made then.
+    void takesAnAnswerBehindAnotherStep()
+    {
+        begin();
+        trigger("mUMaster");
+        find<QLineEdit>("oldMaster")->setText(u"master"_s);
+        const QWidget &panel = *find<QWidget>("masterPanel");
+        control<QLineEdit>(panel, "newMaster")->setText(u"new"_s);
+        control<QLineEdit>(panel, "newMasterAgain")->setText(u"new"_s);
+        click("changeMaster");
+        emit m_test->changes.lockRequested();
+        answer(u"master"_s);
+        QTRY_VERIFY(isSeen("keeperPane"));
+    }
+
     /// Whoever is called away before the code is on paper finds it again.
     void showsACodeAgainUntilItIsKept()
     {
