@@ -84,7 +84,7 @@ QString SealLines::factsOf(SealPanel::Kind kind)
 {
     if (kind != SealPanel::Seal)
         return {};
-    return u"What it does not do:\n\u2022 What you copy stays on the clipboard.\n\u2022 Pictures stay files that everybody can open.\n\u2022 Readable bytes of the years as they were may survive on the free space of the disk.\n\u2022 Older backups and snapshots keep the readable files."_s;
+    return u"What it does not reach:\n\u2022 What you copy stays on the clipboard.\n\u2022 Pictures stay files that everybody can open.\n\u2022 Readable bytes of the years as they were may survive on the free space of the disk.\n\u2022 Older backups and snapshots keep the readable files."_s;
 }
 
 QString SealLines::buttonOf(SealPanel::Kind kind)

@@ -118,7 +118,8 @@ void takeSealing(const Camera &camera)
     session.fill("newJournalPassword", password);
     session.fill("newJournalPasswordAgain", password);
     session.click("sealGo");
-    const auto hasCode = [&] { return session.find<QWidget>("journalCodePanel").isVisible(); };
+    const QWidget &work = session.find<QWidget>("journalPanel");
+    const auto hasCode = [&work] { return work.findChild<QWidget *>(u"journalCodePanel"_s) != nullptr; };
     if (!QTest::qWaitFor(hasCode, 60'000))
         qFatal("no key is made");
     session.take("journal-recovery-code");
