@@ -23,10 +23,7 @@ OpenDay::OpenDay(Journal &journal, const Page &page, QObject *parent)
 {
     m_waiting.setSingleShot(true);
     connect(&m_waiting, &QTimer::timeout, this, &OpenDay::save);
-    connect(&page.text, &QPlainTextEdit::textChanged, this, [this] {
-        if (m_page.text.document()->isModified()) // and not only underlined
-            noteEdit();
-    });
+    connect(&page.text, &QPlainTextEdit::textChanged, this, &OpenDay::noteTyping);
     connect(&page.tags, &QLineEdit::textEdited, this, &OpenDay::noteEdit);
     connect(&journal, &Journal::changed, this, &OpenDay::follow);
 }
@@ -105,6 +102,7 @@ void OpenDay::load()
             kept.second.document->deleteLater();
         return isGone;
     });
+    m_page.text.document()->setModified(false);
     m_page.tags.setText(m_entry.tags.join(u", "_s));
     m_isEdited = false;
     showLock();
@@ -117,6 +115,13 @@ void OpenDay::showLock()
     m_page.tags.setReadOnly(!why.isEmpty());
     if (!why.isEmpty())
         emit said(why);
+}
+
+/// The marks of wrong words change the text as well, in its own eyes.
+void OpenDay::noteTyping()
+{
+    if (m_page.text.document()->isModified())
+        noteEdit();
 }
 
 void OpenDay::noteEdit()
@@ -133,7 +138,7 @@ void OpenDay::take()
     if (!std::exchange(m_isEdited, false))
         return;
     const QScopedValueRollback<bool> showing(m_isShowing, true);
-    JournalEntry entry = typed();
+    const JournalEntry entry = typed();
     if (!m_journal.put(entry)) {
         emit said(whyLocked());
         return;
@@ -185,6 +190,7 @@ void OpenDay::show(const JournalEntry &entry)
     m_page.pictures.setPictures(pictures);
     if (m_page.text.text() != text)
         m_page.text.replaceText(text);
+    m_page.text.document()->setModified(false);
     m_page.tags.setText(entry.tags.join(u", "_s));
     m_entry = entry;
 }

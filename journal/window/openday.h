@@ -81,6 +81,7 @@ private:
     void load();
     void show(const JournalEntry &entry);
     void follow(QDate date);
+    void noteTyping();
     void noteEdit();
     void showLock();
 
