@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/window/printpanel.h"
 
-#include "shell/controls/datebox.h"
-#include "shell/controls/datepicker.h"
-#include "shell/controls/taborder.h"
+#include "shell/controls/choicegrid.h"
+#include "shell/controls/dayspan.h"
 #include "shell/program/program.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHBoxLayout>
-#include <QRadioButton>
 #include <QSettings>
+#include <QVBoxLayout>
 
 #include <utility>
 
@@ -57,22 +54,19 @@ QString captionOf(int what)
 ToDoPrintPanel::ToDoPrintPanel(const Program &program, QWidget *window, QWidget *parent)
     : TaskPanel(u"toDoPrintPanel"_s, u"Print Options"_s, parent)
     , m_program(program)
-    , m_what(new QButtonGroup(this))
+    , m_what(new ChoiceGrid(u"printWhat"_s, this))
     , m_lists(named(new QComboBox(this), u"printList"_s))
     , m_persons(named(new QComboBox(this), u"printPerson"_s))
-    , m_days(new QWidget(this))
+    , m_days(
+          new DaySpan(u"print"_s, {program.state.dateStyle, program.clock}, program.settings, window, this))
 {
-    auto *picker = new DatePicker(program.clock, program.settings, window, u"printCalendar"_s);
-    const DateReading reading{program.state.dateStyle, program.clock};
-    m_from = named(new DateBox(reading, picker, m_days), u"printFrom"_s);
-    m_to = named(new DateBox(reading, picker, m_days), u"printTo"_s);
     auto *content = new QWidget(this);
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins({});
     column->setSpacing(8);
     column->addWidget(makeHeading(u"What is printed"_s, content));
-    QWidget *choices = makeChoices();
-    column->addWidget(choices);
+    fillChoices();
+    column->addWidget(m_what);
     column->addSpacing(8);
     column->addWidget(makeHeading(u"How"_s, content));
     makeLook(*column);
@@ -80,57 +74,23 @@ ToDoPrintPanel::ToDoPrintPanel(const Program &program, QWidget *window, QWidget 
     setContent(content);
     QPushButton *show = addButton(u"toDoPrintShow"_s, u"Show &Pages"_s, ButtonKind::Main);
     QPushButton *close = setLeaveButton(u"toDoPrintClose"_s, u"C&lose"_s);
-    TabOrder::findTheChosen(*m_what);
-    QWidget *last = TabOrder::follow(*m_days->layout(), TabOrder::follow(*choices->layout()));
-    last = TabOrder::follow(*column, last);
+    QWidget *last = m_what->lastInTab();
+    for (QCheckBox *look : m_look)
+        setTabOrder(std::exchange(last, look), look);
     for (QWidget *button : {show, close})
         setTabOrder(std::exchange(last, button), button);
     connect(show, &QPushButton::clicked, this, &ToDoPrintPanel::accepted);
-    connect(m_what, &QButtonGroup::idToggled, this, &ToDoPrintPanel::follow);
 }
 
-QWidget *ToDoPrintPanel::makeDays()
+void ToDoPrintPanel::fillChoices()
 {
-    auto *row = new QHBoxLayout(m_days);
-    row->setContentsMargins({});
-    row->setSpacing(8);
-    for (DateBox *box : {m_from, m_to}) {
-        box->setFixedWidth(boxWidth(u"Nov-24-2026"_s, 112));
-        box->setAccessibleName(box == m_from ? u"From"_s : u"To"_s);
-        row->addWidget(box);
-        if (box == m_from)
-            row->addWidget(makeQuietLabel(u"to"_s, m_days));
-    }
-    row->addStretch(1);
-    return m_days;
-}
-
-/// Each with what it asks for beside it.
-QWidget *ToDoPrintPanel::makeChoices()
-{
-    auto *choices = new QWidget(this);
-    auto *grid = new QGridLayout(choices);
-    grid->setContentsMargins({});
-    grid->setHorizontalSpacing(16);
-    grid->setVerticalSpacing(8);
-    grid->setColumnStretch(2, 1);
-    makeDays();
     const std::array<QWidget *, 5> besides{m_lists, nullptr, nullptr, m_persons, m_days};
-    m_lists->setAccessibleName(captionOf(Options::List));
-    m_persons->setAccessibleName(captionOf(Options::Persons));
-    for (int what = Options::List; what <= Options::Done; ++what) {
-        auto *choice = named(new QRadioButton(captionOf(what), choices), u"printWhat_%1"_s.arg(what));
-        m_what->addButton(choice, what);
-        grid->addWidget(choice, what, 0);
-        grid->setRowMinimumHeight(what, 36);
-        QWidget *beside = besides[std::size_t(what)];
-        if (!beside)
-            continue;
-        if (beside != m_days)
-            beside->setFixedWidth(boxWidth({}, boxesWidth));
-        grid->addWidget(beside, what, 1);
+    for (int what = Options::List; what <= Options::Done; ++what)
+        m_what->add(captionOf(what), besides[std::size_t(what)]);
+    for (QComboBox *box : {m_lists, m_persons}) {
+        box->setAccessibleName(captionOf(box == m_lists ? Options::List : Options::Persons));
+        box->setFixedWidth(boxWidth({}, boxesWidth));
     }
-    return choices;
 }
 
 void ToDoPrintPanel::makeLook(QVBoxLayout &column)
@@ -158,35 +118,24 @@ void ToDoPrintPanel::start(const ToDoSheet &sheet, const Shown &shown)
     for (const QString &person : ToDoPages::persons(sheet))
         m_persons->addItem(person, person);
     const QDate today = m_program.clock.today();
-    m_from->setDate(today.addDays(1 - usualDays));
-    m_to->setDate(today);
+    m_days->setDays(today.addDays(1 - usualDays), today);
     const int what = shown.kind == Shown::List       ? Options::List
                      : shown.kind == Shown::ByPerson ? Options::Persons
                      : shown.kind == Shown::Done     ? Options::Done
                      : shown.kind == Shown::Today    ? Options::Today
                                                      : Options::AllLists;
-    m_what->button(what)->setChecked(true);
-    setFocusProxy(m_what->button(what));
-    follow();
-}
-
-void ToDoPrintPanel::follow()
-{
-    const int what = m_what->checkedId();
-    m_lists->setEnabled(what == Options::List);
-    m_persons->setEnabled(what == Options::Persons);
-    m_days->setEnabled(what == Options::Done);
+    m_what->choose(what);
+    setFocusProxy(m_what);
 }
 
 Options ToDoPrintPanel::options() const
 {
     Options options;
-    const QDate today = m_program.clock.today();
-    options.what = Options::What(std::max(m_what->checkedId(), 0));
+    options.what = Options::What(m_what->chosen());
     options.list = m_lists->currentData().toInt();
     options.person = m_persons->currentData().toString();
-    options.from = m_from->date().value_or(today.addDays(1 - usualDays));
-    options.to = std::max(options.from, m_to->date().value_or(today));
+    options.from = m_days->from();
+    options.to = m_days->to();
     for (std::size_t i = 0; i < looks.size(); ++i)
         options.*looks[i].option = m_look[i]->isChecked();
     return options;

@@ -7,11 +7,10 @@
 
 #include <array>
 
-class DateBox;
-class QButtonGroup;
+class ChoiceGrid;
+class DaySpan;
 class QCheckBox;
 class QComboBox;
-class QRadioButton;
 class QVBoxLayout;
 struct Program;
 
@@ -30,17 +29,13 @@ signals:
     void accepted();
 
 private:
-    QWidget *makeChoices();
-    QWidget *makeDays();
+    void fillChoices();
     void makeLook(QVBoxLayout &column);
-    void follow();
 
     const Program &m_program;
-    QButtonGroup *m_what;
+    ChoiceGrid *m_what;
     QComboBox *m_lists;
     QComboBox *m_persons;
-    QWidget *m_days;
-    DateBox *m_from = nullptr;
-    DateBox *m_to = nullptr;
+    DaySpan *m_days;
     std::array<QCheckBox *, 4> m_look{}; ///< boxes, dates, notes, empty lines
 };
