@@ -6,7 +6,6 @@
 #include "shell/controls/enterkey.h"
 #include "shell/look/icons.h"
 #include "shell/look/theme.h"
-#include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 
 #include <QAbstractButton>
@@ -31,20 +30,7 @@ constexpr int widest = 300;
 
 QLatin1StringView signOf(const HouseholdNote &note)
 {
-    switch (note.note.kind) {
-    case NoteKind::Birthday:
-        return "cake"_L1;
-    case NoteKind::Anniversary:
-        return "anniversary"_L1;
-    case NoteKind::Due:
-        return "due"_L1;
-    case NoteKind::Overdue:
-        return "overdue"_L1;
-    case NoteKind::Done:
-        return "goal-reached"_L1;
-    default:
-        return QLatin1StringView(FunctionFaces::of(note.function).icon);
-    }
+    return note.note.kind == NoteKind::Done ? "goal-reached"_L1 : DayNotes::signOf(note.note, note.function);
 }
 
 /// A few quiet words with a sign.

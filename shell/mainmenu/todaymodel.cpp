@@ -2,11 +2,12 @@
 #include "shell/mainmenu/todaymodel.h"
 
 #include "shell/core/dates.h"
-#include "shell/program/functionfaces.h"
+#include "shell/program/daynotes.h"
 
 #include <QLocale>
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -61,22 +62,6 @@ QList<Line> cutAlike(Notes notes, std::size_t most, std::size_t room)
         notes = notes.subspan(day.size());
     }
     return std::size_t(lines.size()) <= room ? lines : QList<Line>();
-}
-
-QLatin1StringView iconOf(const Note &note)
-{
-    switch (note.note.kind) {
-    case NoteKind::Birthday:
-        return "cake"_L1;
-    case NoteKind::Anniversary:
-        return "anniversary"_L1;
-    case NoteKind::Overdue:
-        return "overdue"_L1;
-    case NoteKind::Due:
-        return "due"_L1;
-    default:
-        return QLatin1StringView(FunctionFaces::of(note.function).icon);
-    }
 }
 
 } // namespace
@@ -186,7 +171,7 @@ QVariant TodayModel::data(const QModelIndex &index, int role) const
     case TimeRole:
         return time;
     case IconRole:
-        return line.more > 0 ? QString() : QString(iconOf(line.note));
+        return line.more > 0 ? QString() : QString(DayNotes::signOf(line.note.note, line.note.function));
     case SourceRole:
         return note.source;
     case IsOverRole:

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 QList<HouseholdNote> DayNotes::all(const Program &program, Function asker, QDate from, QDate to)
 {
     QList<HouseholdNote> notes;
@@ -19,6 +21,22 @@ QList<HouseholdNote> DayNotes::all(const Program &program, Function asker, QDate
     }
     std::ranges::stable_sort(notes, {}, [](const HouseholdNote &note) { return note.note.date; });
     return notes;
+}
+
+QLatin1StringView DayNotes::signOf(const DayNote &note, Function function)
+{
+    switch (note.kind) {
+    case NoteKind::Birthday:
+        return "cake"_L1;
+    case NoteKind::Anniversary:
+        return "anniversary"_L1;
+    case NoteKind::Overdue:
+        return "overdue"_L1;
+    case NoteKind::Due:
+        return "due"_L1;
+    default:
+        return QLatin1StringView(FunctionFaces::of(function).icon);
+    }
 }
 
 QStringList DayNotes::passedOver(const Program &program, Function asker)

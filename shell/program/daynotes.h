@@ -23,6 +23,9 @@ namespace DayNotes {
 /// For the days `from` to `to`, by date. A function that the password guards is not asked.
 QList<HouseholdNote> all(const Program &program, Function asker, QDate from, QDate to);
 
+/// The name of the sign before a note: of what it is or, where that has none, of the function that has it.
+QLatin1StringView signOf(const DayNote &note, Function function);
+
 /// The functions that the password keeps from being asked, by their titles.
 QStringList passedOver(const Program &program, Function asker);
 
