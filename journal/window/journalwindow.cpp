@@ -27,6 +27,7 @@
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undostack.h"
 #include "shell/frame/windowtoolbar.h"
+#include "shell/frame/windowwriting.h"
 #include "shell/frame/workviews.h"
 #include "shell/program/locking.h"
 
@@ -58,7 +59,7 @@ WindowTraits traits()
 DJournal::DJournal(Program &program, QWidget *parent, PasswordCost cost, std::chrono::milliseconds step)
     : FunctionWindow(program, traits(), parent)
     , m_journal(program.folder, program.clock, nullptr, cost)
-    , m_writing(JournalSpelling::makeWriting(program, this))
+    , m_writing(WindowWriting::make(program, this))
     , m_stack(new WorkViews(this))
     , m_page(new DayPage(program))
     , m_day(new OpenDay(m_journal, {m_page->text(), m_page->tags(), m_page->pictures()}, this))
@@ -68,7 +69,7 @@ DJournal::DJournal(Program &program, QWidget *parent, PasswordCost cost, std::ch
     , m_days(new DayCommands(desk(), this))
     , m_edit(new PageCommands(desk(), this))
     , m_pictures(new PictureCommands(desk(), this))
-    , m_spelling(new JournalSpelling(desk(), this))
+    , m_spelling(JournalSpelling::make(desk()))
     , m_exchange(new JournalExchange(desk(), this))
     , m_print(new JournalPrint(desk(), this))
     , m_reading(new SlicedWork(this))
@@ -128,7 +129,7 @@ void DJournal::makeCommands()
     m_edit->addCommands(edit);
     m_edit->addFormat(format);
     makeOptions(options);
-    m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s));
+    m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s), [this] { return whyNone(); });
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_exchange->addCommands(utilities);
     utilities->addSeparator();
@@ -178,7 +179,7 @@ void DJournal::connectParts()
     connect(m_days, &DayCommands::said, this, say);
     connect(m_edit, &PageCommands::said, this, say);
     connect(m_pictures, &PictureCommands::said, this, say);
-    connect(m_spelling, &JournalSpelling::said, this, say);
+    connect(m_spelling, &WindowWriting::said, this, say);
     connect(m_print, &JournalPrint::said, this, say);
     connect(m_exchange, &JournalExchange::said, this, say);
     connect(m_exchange, &JournalExchange::progressed, &activity(),

@@ -14,10 +14,10 @@ class JournalDamage;
 class JournalExchange;
 class JournalFront;
 class JournalPrint;
-class JournalSpelling;
 class PageCommands;
 class PictureCommands;
 class SlicedWork;
+class WindowWriting;
 
 /// The daily journal: the page of a day, and beside it the ways to all others. What is typed is saved by
 /// itself. A sealed journal has the question for its password in front of both, and locks itself.
@@ -70,7 +70,7 @@ private:
     DayCommands *m_days;
     PageCommands *m_edit;
     PictureCommands *m_pictures;
-    JournalSpelling *m_spelling;
+    WindowWriting *m_spelling;
     JournalExchange *m_exchange;
     JournalPrint *m_print;
     SlicedWork *m_reading; ///< the other years, once the window is seen

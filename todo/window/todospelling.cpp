@@ -1,23 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/window/todospelling.h"
 
-#include "shell/controls/taskpanel.h"
-#include "shell/frame/commands.h"
-#include "shell/frame/functionwindow.h"
-#include "shell/frame/workviews.h"
-#include "shell/program/householdnames.h"
-#include "shell/program/program.h"
-#include "shell/writing/spellingtools.h"
+#include "shell/frame/windowwriting.h"
 #include "shell/writing/writing.h"
 #include "todo/window/entryline.h"
 #include "todo/window/itemsview.h"
 #include "todo/window/notebox.h"
 #include "todo/window/openlists.h"
 
-#include <QMenu>
-
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -29,41 +20,22 @@ int numberOf(int item, bool isNote)
 
 } // namespace
 
-Writing *ToDoSpelling::makeWriting(Program &program, QObject *parent)
-{
-    return new Writing(
-        {.folder = program.folder,
-         .dictionaryFolders = Dictionaries::folders(program.programFolder.path(), program.folder.path()),
-         .store = program.store,
-         .knownNames = [&program] { return HouseholdNames::of(program); }},
-        parent);
-}
-
 ToDoSpelling::ToDoSpelling(const ToDoDesk &desk, ItemsView &view, QObject *parent)
     : QObject(parent)
     , m_desk(desk)
     , m_view(view)
-    , m_tools(new SpellingTools(
-          desk.writing, {[this] { return texts(); }, [this](const WalkedText &text) { change(text); }},
-          &desk.window))
+    , m_tools(new WindowWriting(
+          {desk.window, desk.commands, desk.views, desk.writing},
+          {[this] { return texts(); }, [this](const WalkedText &text) { change(text); }}, this))
 {
     m_desk.writing.check(&m_view.entry());
     m_desk.writing.check(&m_view.note());
-    for (TaskPanel *panel : m_tools->panels())
-        m_desk.views.addPanel(panel);
-    connect(m_tools, &SpellingTools::opened, this, [this](QWidget *panel) {
-        m_desk.window.closePreview();
-        m_desk.views.open(panel);
-        panel->setFocus();
-    });
-    connect(m_tools, &SpellingTools::said, this, &ToDoSpelling::said);
+    connect(m_tools, &WindowWriting::said, this, &ToDoSpelling::said);
 }
 
 void ToDoSpelling::addCommands(QMenu *menu)
 {
-    m_tools->addTo(menu, [this](auto &&...arguments) {
-        return m_desk.commands.add(std::forward<decltype(arguments)>(arguments)...);
-    });
+    m_tools->addCommands(menu);
 }
 
 /// The rows of what is still to be done, nobody reads over what is done: from the one that is chosen on, or

@@ -8,18 +8,13 @@
 
 class ItemsView;
 class QMenu;
-class SpellingTools;
-class Writing;
+class WindowWriting;
 
 /// The spelling of the To Do list: which boxes are checked, and the walk through all its texts.
 class ToDoSpelling final : public QObject
 {
     Q_OBJECT
 public:
-    /// What the boxes of a window are checked with. Names that other functions know are right, where no
-    /// password guards them.
-    static Writing *makeWriting(Program &program, QObject *parent);
-
     ToDoSpelling(const ToDoDesk &desk, ItemsView &view, QObject *parent);
 
     void addCommands(QMenu *menu);
@@ -34,5 +29,5 @@ private:
 
     ToDoDesk m_desk;
     ItemsView &m_view;
-    SpellingTools *m_tools;
+    WindowWriting *m_tools;
 };

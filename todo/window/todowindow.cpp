@@ -10,6 +10,7 @@
 #include "shell/frame/sidesplitter.h"
 #include "shell/frame/undostack.h"
 #include "shell/frame/windowtoolbar.h"
+#include "shell/frame/windowwriting.h"
 #include "shell/frame/workviews.h"
 #include "todo/model/messages.h"
 #include "todo/window/entryline.h"
@@ -63,7 +64,7 @@ const std::array<ViewFace, 4> &viewFaces()
 ToDo1::ToDo1(Program &program, QWidget *parent)
     : FunctionWindow(program, traits(), parent)
     , m_lists(new OpenLists(program, this))
-    , m_writing(ToDoSpelling::makeWriting(program, this))
+    , m_writing(WindowWriting::make(program, this))
     , m_pane(new ListsPane(program, *m_lists, this))
     , m_stack(new WorkViews(this))
     , m_view(new ItemsView(desk()))
