@@ -89,11 +89,7 @@ QWidget *JournalPane::makePanels(const Program &program, PanelColors &colors)
 {
     auto *content = new QWidget;
     content->setMinimumWidth(1); // as wide as the pane
-    auto *month = new QWidget;
-    auto *monthRows = new QVBoxLayout(month);
-    monthRows->setContentsMargins({});
-    monthRows->setSpacing(4);
-    m_calendar = named(new MonthView(month), u"MonthView1"_s);
+    m_calendar = named(new MonthView(content), u"MonthView1"_s);
     m_calendar->setAccessibleName(u"Calendar"_s);
     m_calendar->setMinimumHeight(leastCalendar);
     m_calendar->setDateRange(CalendarDates::first(), CalendarDates::last());
@@ -103,17 +99,13 @@ QWidget *JournalPane::makePanels(const Program &program, PanelColors &colors)
         return JournalWindowLines::dayWords(date, m_journal.dates(date.year()).contains(date),
                                             m_program.state.dateStyle);
     });
-    monthRows->addWidget(m_calendar);
-    QLabel *hint = makeQuietLabel(JournalWindowLines::dotsExplained(), month);
-    hint->setAlignment(Qt::AlignHCenter);
-    monthRows->addWidget(hint);
     m_onThisDay = new OnThisDay(program, m_journal, content);
     m_tags = new TagsList(content);
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
     rows->setSpacing(12);
-    PanelFrame *cards[] = {makeCard(u"calendarPanel"_s, month), makeCard(u"onThisDayPanel"_s, m_onThisDay),
-                           makeCard(u"tagsPanel"_s, m_tags)};
+    PanelFrame *cards[] = {makeCard(u"calendarPanel"_s, m_calendar),
+                           makeCard(u"onThisDayPanel"_s, m_onThisDay), makeCard(u"tagsPanel"_s, m_tags)};
     for (PanelFrame *card : cards) {
         rows->addWidget(card, card == cards[0] ? 0 : 1);
         colors.addPanel(card);

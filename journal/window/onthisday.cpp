@@ -35,16 +35,18 @@ OnThisDay::OnThisDay(const Program &program, Journal &journal, QWidget *parent)
     , m_rows(new QStandardItemModel(this))
     , m_list(named(new QListView(this), u"onThisDay"_s))
     , m_nothing(makeQuietLabel(JournalWindowLines::nothingOnThisDay(), this))
-    , m_around(named(new QCheckBox(JournalWindowLines::daysAroundToo(), this), u"daysAround"_s))
+    , m_around(named(new QCheckBox(JournalWindowLines::nearbyDays(), this), u"daysAround"_s))
 {
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins({});
     rows->setSpacing(6);
-    rows->addWidget(makeHeading(u"On This Day"_s, this));
+    auto *head = new QHBoxLayout;
+    head->addWidget(makeHeading(u"On This Day"_s, this), 1);
+    head->addWidget(m_around);
+    rows->addLayout(head);
     rows->addWidget(m_nothing);
     rows->addWidget(m_list, 1);
     rows->addStretch(0);
-    rows->addWidget(m_around);
     m_nothing->setWordWrap(true);
     m_list->setModel(m_rows);
     setListRows(m_list);
@@ -52,6 +54,7 @@ OnThisDay::OnThisDay(const Program &program, Journal &journal, QWidget *parent)
     m_list->setAccessibleName(u"On this day"_s);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setMinimumHeight(leastHeight);
+    m_around->setToolTip(JournalWindowLines::nearbyDaysToo());
     m_around->setChecked(program.store.value(aroundKey).toBool());
     connect(m_around, &QCheckBox::toggled, this, [this](bool isOn) {
         m_program.store.setValue(aroundKey, isOn);

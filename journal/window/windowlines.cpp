@@ -65,11 +65,6 @@ QString JournalWindowLines::more(int count)
     return u"%1 more"_s.arg(count);
 }
 
-QString JournalWindowLines::dotsExplained()
-{
-    return u"A dot marks a day with an entry"_s;
-}
-
 QString JournalWindowLines::dayWords(QDate date, bool hasEntry, DateStyle style)
 {
     const QString day = monthAndDay(date, style);
@@ -107,9 +102,14 @@ QString JournalWindowLines::stillReading(int count)
     return count == 0 ? u"Looking through all years..."_s : u"%1 so far, looking on..."_s.arg(count);
 }
 
-QString JournalWindowLines::daysAroundToo()
+QString JournalWindowLines::nearbyDaysToo()
 {
-    return u"The days &around it, too"_s;
+    return u"Those of the three days before and behind it, too"_s;
+}
+
+QString JournalWindowLines::nearbyDays()
+{
+    return u"&Nearby days"_s;
 }
 
 QString JournalWindowLines::nothingWritten()

@@ -30,7 +30,6 @@ QString more(int count);
 
 // The pane
 
-QString dotsExplained();
 /// "March 14, has an entry", "March 14"
 QString dayWords(QDate date, bool hasEntry, DateStyle style);
 /// "7 years ago"; "in 2 years" for a letter ahead.
@@ -39,7 +38,8 @@ QString nothingOnThisDay();
 QString noTags();
 QString hits(int count, bool isAtLimit);
 QString stillReading(int count);
-QString daysAroundToo();
+QString nearbyDays();
+QString nearbyDaysToo();
 
 // Why a command cannot be used
 
