@@ -4,8 +4,8 @@
 #include "journal/model/journalexport.h"
 #include "shell/controls/taskpanel.h"
 
-class DateBox;
-class QButtonGroup;
+class ChoiceGrid;
+class DaySpan;
 class QComboBox;
 struct Program;
 
@@ -14,7 +14,7 @@ class ExportPanel final : public TaskPanel
 {
     Q_OBJECT
 public:
-    enum Form { Text, Html };
+    enum Form { Text, Html, Pdf };
 
     ExportPanel(const Program &program, QWidget *window, QWidget *parent = nullptr);
 
@@ -28,14 +28,8 @@ signals:
 private:
     enum Which { All, Range, Tag };
 
-    QWidget *makeChoices();
-    void follow();
-
-    QButtonGroup *m_which;
-    QButtonGroup *m_form;
-    QWidget *m_days;
-    DateBox *m_from = nullptr;
-    DateBox *m_to = nullptr;
+    ChoiceGrid *m_which;
+    ChoiceGrid *m_form;
+    DaySpan *m_days;
     QComboBox *m_tags;
-    QDate m_shown;
 };

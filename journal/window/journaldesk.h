@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class ActivityBar;
 class Commands;
 class DayPage;
 class FunctionWindow;
@@ -22,6 +23,7 @@ struct JournalDesk {
     FunctionWindow &window; ///< questions and pages stand over it
     Journal &journal;
     Commands &commands;
+    ActivityBar &activity;
     WorkViews &views;
     Writing &writing;
     DayPage &page;

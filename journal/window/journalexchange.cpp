@@ -115,3 +115,8 @@ void JournalExchange::forget()
     if (m_export)
         m_export->start(QDate(2000, 1, 1), {});
 }
+    if (m_export->form() == ExportPanel::Pdf) {
+        m_export->leave();
+        emit pagesWanted(entries, m_export->selection().tag);
+        return;
+    }

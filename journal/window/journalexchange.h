@@ -31,6 +31,9 @@ private:
     void openExport();
     void exportTo();
 
+    void tookBack();
+    /// These are to become pages in a file, all of one tag where there is one.
+    void pagesWanted(const QList<JournalEntry> &entries, const QString &tag);
     JournalDesk m_desk;
     JournalImportPanel *m_import = nullptr;
     ExportPanel *m_export = nullptr;

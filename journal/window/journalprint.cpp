@@ -15,12 +15,15 @@
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
+#include "shell/pages/pagepainter.h"
 #include "shell/preview/previewpane.h"
+#include "shell/preview/printjob.h"
 #include "shell/program/daynotes.h"
 #include "shell/program/householdnames.h"
 #include "shell/program/program.h"
 
 #include <QMenu>
+#include <QMimeData>
 
 #include <utility>
 
@@ -103,6 +106,7 @@ void JournalPrint::print()
     const QDate to = m_panel->to();
     const QString tag = m_panel->tag();
     const int year = m_panel->year();
+    m_desk.preview().setPaper(m_panel->paper());
     switch (m_panel->what()) {
     case JournalPrintPanel::Day:
         show(
@@ -154,9 +158,41 @@ void JournalPrint::print()
 void JournalPrint::showRecoverySheet(const QString &code)
 {
     m_hasPages = true;
+    m_desk.preview().setPaper(PreviewPane::usualSetup(m_desk.program.state.dateStyle).paper);
     m_desk.window.showPreview(
         [code](const PageContext &context) { return journalRecoverySheet(code, context); },
         u"Journal Recovery Sheet"_s);
+}
+
+PageContext JournalPrint::usualContext() const
+{
+    const ProgramState &state = m_desk.program.state;
+    return {PreviewPane::usualSetup(state.dateStyle), state.dateStyle, m_desk.program.clock.today(),
+            state.familyName.text()};
+}
+
+std::unique_ptr<QMimeData> JournalPrint::copied(const JournalEntry &entry) const
+{
+    const PageContext context = usualContext();
+    const Page page = JournalPages::day(sourceOf({entry}), entry.date, {}, context);
+    std::unique_ptr<QMimeData> data =
+        PreviewPane::copied(PagePainter(page, context.setup, PreviewPane::usualFont()), 0);
+    data->setText(JournalExport::plainText(entry));
+    return data;
+}
+
+/// Without what others have for the days: nobody waits for thirty years of that.
+void JournalPrint::savePages(const QList<JournalEntry> &entries, const QString &tag)
+{
+    const PageContext context = usualContext();
+    JournalPages::Source source = sourceOf(entries);
+    source.facts = {};
+    const Page page =
+        tag.isEmpty() ? JournalPages::range(source, entries.first().date, entries.last().date, {}, context)
+                      : JournalPages::tag(source, tag, {}, context);
+    PrintJob job(m_desk.program, m_desk.activity, &m_desk.window, u"Journal"_s);
+    job.setMayGoOn([this] { return m_desk.whyNone().isEmpty(); });
+    job.toFile(PagePainter(page, context.setup, PreviewPane::usualFont()));
 }
 
 void JournalPrint::forget()

@@ -6,8 +6,11 @@
 
 #include <QObject>
 
+#include <memory>
+
 class JournalPrintPanel;
 class QMenu;
+class QMimeData;
 
 /// What of the journal leaves the window onto paper.
 class JournalPrint final : public QObject
@@ -19,6 +22,10 @@ public:
     void addCommands(QMenu *options);
     /// The sheet with a recovery code that was just made.
     void showRecoverySheet(const QString &code);
+    /// What the clipboard gets of a day: its text, and its page as a picture.
+    std::unique_ptr<QMimeData> copied(const JournalEntry &entry) const;
+    /// Asks where to, and saves the pages of these entries there, all of one tag where there is one.
+    void savePages(const QList<JournalEntry> &entries, const QString &tag);
     /// No page of it is left.
     void forget();
 
@@ -27,6 +34,7 @@ signals:
 
 private:
     void openPanel();
+    PageContext usualContext() const;
     void print();
     JournalPages::Source sourceOf(const QList<JournalEntry> &entries) const;
     void show(QDate from, QDate to, const QString &tag,

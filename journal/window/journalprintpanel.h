@@ -4,8 +4,8 @@
 #include "journal/model/journalpages.h"
 #include "shell/controls/taskpanel.h"
 
-class DateBox;
-class QButtonGroup;
+class ChoiceGrid;
+class DaySpan;
 class QCheckBox;
 class QComboBox;
 class QSpinBox;
@@ -29,25 +29,25 @@ public:
     QString tag() const;
     int year() const;
     JournalPages::Options options() const;
+    /// The sheet, upright.
+    QSizeF paper() const;
 
 signals:
     void accepted();
 
 private:
-    QWidget *makeChoices();
-    QWidget *makeDays();
+    void fillChoices();
+    void fillBoxes();
     QWidget *makeHow();
     void follow();
 
     const Program &m_program;
-    QButtonGroup *m_what;
-    QWidget *m_days;
-    DateBox *m_from = nullptr;
-    DateBox *m_to = nullptr;
+    ChoiceGrid *m_what;
+    DaySpan *m_days;
     QComboBox *m_tags;
     QSpinBox *m_year;
+    QComboBox *m_paper;
     QComboBox *m_pictures;
     QCheckBox *m_newSheets;
     QCheckBox *m_facts;
-    QDate m_shown;
 };

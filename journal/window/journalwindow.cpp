@@ -35,6 +35,7 @@
 #include <QGuiApplication>
 #include <QHideEvent>
 #include <QMenu>
+#include <QMimeData>
 
 #include <utility>
 
@@ -95,6 +96,7 @@ JournalDesk DJournal::desk()
             *this,
             m_journal,
             commands(),
+            activity(),
             *m_stack,
             *m_writing,
             *m_page,
@@ -376,6 +378,6 @@ void DJournal::showPlace(const Place &place)
 
 void DJournal::copy()
 {
-    QGuiApplication::clipboard()->setText(m_day->typed().text);
+    QGuiApplication::clipboard()->setMimeData(m_print->copied(m_day->typed()).release());
     ask(JournalMessages::copied());
 }

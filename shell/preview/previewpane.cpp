@@ -52,11 +52,6 @@ void offerZoom(QPushButton &button, bool enlarge)
     button.setShortcut(QKeySequence(enlarge ? Qt::ALT | Qt::Key_G : Qt::ALT | Qt::Key_N));
 }
 
-QSizeF usualPaper(DateStyle style)
-{
-    return style == DateStyle::Usa ? PageMetrics::letter : PageMetrics::a4;
-}
-
 ColumnButton *makeColumnButton(const QString &name, const QString &caption, QLatin1StringView icon,
                                QWidget *parent, ButtonKind kind = ButtonKind::Plain)
 {
@@ -77,14 +72,13 @@ PreviewPane::PreviewPane(Program &program, ActivityBar &activity, QWidget *paren
     : QWidget(parent)
     , m_program(program)
     , m_activity(activity)
-    , m_setup{usualPaper(program.state.dateStyle), PageSetup::Portrait}
-    , m_font{QApplication::font(), Qt::black}
+    , m_setup(usualSetup(program.state.dateStyle))
+    , m_font(usualFont())
     , m_deskPanel(named(new PanelFrame(this), u"previewPanel"_s))
     , m_view(named(new SheetView(m_deskPanel), u"VSPrinter1"_s))
     , m_buttonPanel(named(new PanelFrame(this), u"SSPanel80"_s))
     , m_showButtons(named(new EdgeTab(u"Show &Buttons"_s, this), u"showButtons"_s))
 {
-    m_font.font.setPointSize(defaultPoints);
     m_view->setAccessibleName(u"Page preview"_s);
     auto *desk = new QHBoxLayout(m_deskPanel);
     desk->setContentsMargins(deskPadding, deskPadding, deskPadding, deskPadding);
@@ -110,6 +104,26 @@ PreviewPane::PreviewPane(Program &program, ActivityBar &activity, QWidget *paren
 }
 
 PreviewPane::~PreviewPane() = default;
+
+PageSetup PreviewPane::usualSetup(DateStyle style)
+{
+    return {style == DateStyle::Usa ? PageMetrics::letter : PageMetrics::a4, PageSetup::Portrait};
+}
+
+PageFont PreviewPane::usualFont()
+{
+    PageFont usual{QApplication::font(), Qt::black};
+    usual.font.setPointSize(defaultPoints);
+    return usual;
+}
+
+std::unique_ptr<QMimeData> PreviewPane::copied(const PagePainter &page, int sheet)
+{
+    auto data = std::make_unique<QMimeData>();
+    data->setImageData(page.image(sheet, clipboardDotsPerInch));
+    data->setText(page.text(sheet));
+    return data;
+}
 
 void PreviewPane::makeCommands()
 {
@@ -330,9 +344,7 @@ void PreviewPane::copyPage()
 {
     const PagePainter empty{Page(), m_setup, m_font};
     const PagePainter &page = m_painter ? *m_painter : empty;
-    auto data = std::make_unique<QMimeData>();
-    data->setImageData(page.image(currentSheet(), clipboardDotsPerInch));
-    data->setText(page.text(currentSheet()));
+    std::unique_ptr<QMimeData> data = copied(page, currentSheet());
     if (m_discretion.copy)
         m_discretion.copy(std::move(data));
     else

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/core/pagesheets.h"
+#include "shell/core/programstate.h"
 #include "shell/pages/pagefont.h"
 #include "shell/preview/sheetview.h"
 
@@ -44,7 +45,15 @@ public:
     PreviewPane(Program &program, ActivityBar &activity, QWidget *parent = nullptr);
     ~PreviewPane() override;
 
+    /// How pages are laid out where nobody has chosen anything.
+    static PageSetup usualSetup(DateStyle style);
+    static PageFont usualFont();
+    /// What the clipboard gets of a sheet: its picture, and its words.
+    static std::unique_ptr<QMimeData> copied(const PagePainter &page, int sheet);
+
     void setDiscretion(Discretion discretion);
+    /// The sheet, upright, of what is shown from now on.
+    void setPaper(QSizeF paper) { m_setup.paper = paper; }
     /// Puts a choice of what the page shows below its number.
     void addChoice(QWidget *choice);
 

@@ -32,13 +32,14 @@ public:
 
     /// `currentSheet` is what "current page" means in the dialog. False when cancelled, stopped or failed.
     bool run(const PagePainter &painter, const PageSetup &setup, int currentSheet, const Relayout &relayout);
+    /// Asks where to, and writes a PDF, whether there is a printer or not.
+    bool toFile(const PagePainter &painter);
 
 private:
     enum class Outcome { Done, Stopped, Failed };
 
     bool toPrinter(const PagePainter &painter, const PageSetup &setup, int currentSheet,
                    const Relayout &relayout);
-    bool toFile(const PagePainter &painter);
     bool mayGoOn() const;
     Outcome printSheets(const PagePainter &painter, QPagedPaintDevice &device,
                         const std::vector<int> &sheets);
