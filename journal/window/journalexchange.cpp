@@ -39,6 +39,9 @@ void JournalExchange::addCommands(QMenu *utilities)
     const auto unless = [this] { return m_desk.whyNone(); };
     m_desk.commands.writing(m_desk.commands.add(
         utilities, u"mUImport"_s, u"&Import..."_s, [this] { openImport(); }, unless));
+    m_desk.commands.writing(m_desk.commands.add(
+        utilities, u"mUTakeBack"_s, u"Take the Import &Back"_s, [this] { takeBack(); },
+        [this] { return m_cameIn.empty() ? JournalWindowLines::nothingCameIn() : m_desk.whyNone(); }));
     m_desk.commands.add(
         utilities, u"mUExport"_s, u"&Export..."_s, [this] { openExport(); }, unless);
 }
@@ -55,11 +58,8 @@ void JournalExchange::openImport()
         m_desk.views.addPanel(m_import);
         connect(m_import, &JournalImportPanel::said, this, &JournalExchange::said);
         connect(m_import, &JournalImportPanel::progressed, this, &JournalExchange::progressed);
-        connect(m_import, &JournalImportPanel::taken, this, [this](int count) {
-            const bool isSaved = m_desk.day.save();
-            emit broughtIn();
-            emit said(isSaved ? JournalWindowLines::broughtIn(count) : JournalWindowLines::notSaved());
-        });
+        connect(m_import, &JournalImportPanel::taking, &m_desk.day, &OpenDay::take);
+        connect(m_import, &JournalImportPanel::taken, this, &JournalExchange::keep);
     }
     m_desk.window.closePreview();
     if (!m_import->open(*path))
@@ -67,6 +67,37 @@ void JournalExchange::openImport()
     outside.keepFolder(*path);
     m_desk.views.open(m_import);
     m_import->setFocus();
+}
+
+JournalEntry JournalExchange::entryOf(QDate date) const
+{
+    return m_desk.journal.entry(date).value_or(JournalEntry{.date = date});
+}
+
+void JournalExchange::keep(int count, const QList<JournalEntry> &before)
+{
+    m_cameIn.clear();
+    m_cameIn.reserve(std::size_t(before.size()));
+    for (const JournalEntry &entry : before)
+        m_cameIn.emplace_back(entry, entryOf(entry.date));
+    const bool isSaved = m_desk.day.save();
+    emit said(isSaved ? JournalWindowLines::broughtIn(count) : JournalWindowLines::notSaved());
+    emit broughtIn();
+}
+
+void JournalExchange::takeBack()
+{
+    m_desk.day.take();
+    int changed = 0;
+    for (const auto &[before, after] : m_cameIn) {
+        if (entryOf(before.date) != after || !m_desk.journal.put(before))
+            ++changed;
+    }
+    const int count = int(std::exchange(m_cameIn, {}).size());
+    const bool isSaved = m_desk.day.save();
+    emit tookBack();
+    emit said(isSaved ? JournalWindowLines::takenBack(count - changed, changed)
+                      : JournalWindowLines::notSaved());
 }
 
 void JournalExchange::openExport()
@@ -90,6 +121,11 @@ void JournalExchange::exportTo()
         emit said(JournalWindowLines::nothingToPrint());
         return;
     }
+    if (m_export->form() == ExportPanel::Pdf) {
+        m_export->leave();
+        emit pagesWanted(entries, m_export->selection().tag);
+        return;
+    }
     const bool isHtml = m_export->form() == ExportPanel::Html;
     const FilesOutside outside(m_desk.program, m_desk.window, folderKey);
     const auto path = outside.askWhereTo(isHtml ? u"Journal.html"_s : u"Journal.txt"_s,
@@ -110,13 +146,9 @@ void JournalExchange::exportTo()
 
 void JournalExchange::forget()
 {
+    m_cameIn.clear();
     if (m_import)
         m_import->forget();
     if (m_export)
         m_export->start(QDate(2000, 1, 1), {});
 }
-    if (m_export->form() == ExportPanel::Pdf) {
-        m_export->leave();
-        emit pagesWanted(entries, m_export->selection().tag);
-        return;
-    }

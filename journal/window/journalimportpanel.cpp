@@ -32,11 +32,12 @@ QString JournalImportPanel::hint() const
 
 void JournalImportPanel::take()
 {
+    emit taking();
     const int count = m_import->chosenCount();
-    m_import->take();
+    const QList<JournalEntry> before = m_import->take();
     leave();
     forget();
-    emit taken(count);
+    emit taken(count, before);
 }
 
 void JournalImportPanel::forget()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "journal/model/journalentry.h"
 #include "shell/controls/importpreview.h"
 
 class Journal;
@@ -19,8 +20,10 @@ public:
     void forget();
 
 signals:
-    /// The ticked days are in the journal; what each was before is its earlier version.
-    void taken(int count);
+    /// What was typed is to be in the journal now.
+    void taking();
+    /// The ticked days are in the journal, which had these before.
+    void taken(int count, const QList<JournalEntry> &before);
 
 protected:
     QString hint() const override;

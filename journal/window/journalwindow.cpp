@@ -137,6 +137,7 @@ void DJournal::makeCommands()
     utilities->addSeparator();
     m_front->addSealCommands(utilities);
     m_damage->addCommand(utilities);
+    m_edit->addAside(utilities);
     utilities->addSeparator();
     utilities->addActions({standard(Standard::Backup), standard(Standard::Restore)});
     addHelpEntry();
@@ -186,9 +187,15 @@ void DJournal::connectParts()
     connect(m_exchange, &JournalExchange::said, this, say);
     connect(m_exchange, &JournalExchange::progressed, &activity(),
             [this](int done, int total) { activity().showProgress(done, total); });
-    connect(m_exchange, &JournalExchange::broughtIn, this, [this] {
+    const auto follow = [this] {
         m_pane->refresh();
         commands().refresh();
+    };
+    connect(m_exchange, &JournalExchange::pagesWanted, m_print, &JournalPrint::savePages);
+    connect(m_exchange, &JournalExchange::tookBack, this, follow);
+    connect(m_exchange, &JournalExchange::broughtIn, this, [this, follow] {
+        follow();
+        activity().offerWay(u"Undo"_s, [this] { m_exchange->takeBack(); });
     });
     m_following.setSingleShot(true);
     m_following.setInterval(followsAfter);
@@ -300,6 +307,7 @@ void DJournal::followDay()
     m_page->follow(*m_day);
     m_page->setDamage(m_damage->wordsOf(m_day->date()));
     commands().refresh();
+    m_edit->follow();
 }
 
 /// The other years are read when the window has been seen: for the same day in them, and for the tags.

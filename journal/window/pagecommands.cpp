@@ -2,6 +2,7 @@
 #include "journal/window/pagecommands.h"
 
 #include "journal/model/journal.h"
+#include "journal/model/journalfiles.h"
 #include "journal/model/messages.h"
 #include "journal/window/daypage.h"
 #include "journal/window/earlierpanel.h"
@@ -98,9 +99,32 @@ void PageCommands::addFormat(QMenu *format)
     add(u"mFList"_s, u"&List"_s, &JournalText::toggleList);
 }
 
+void PageCommands::addAside(QMenu *utilities)
+{
+    m_aside = m_desk.commands.writing(m_desk.commands.add(
+        utilities, u"mUAside"_s, u"Set the &Year Aside..."_s, [this] { setAside(); },
+        [this] {
+            const QString none = m_desk.whyNone();
+            if (!none.isEmpty())
+                return none;
+            const int year = m_desk.day.date().year();
+            return m_desk.journal.state(year) == JournalYear::State::ForReading
+                       ? QString()
+                       : JournalWindowLines::mayBeWritten(year);
+        }));
+}
+
+/// What one wants of a year that cannot be written to stands where one sees that.
+void PageCommands::follow()
+{
+    m_asideButton->setVisible(m_asideButton->isEnabled());
+}
+
 void PageCommands::makeButtons()
 {
     ButtonRow &foot = m_desk.page.foot();
+    m_asideButton = m_desk.commands.button(m_aside, u"setYearAside"_s, u"Set &Aside..."_s, &foot);
+    foot.addLeft(m_asideButton);
     foot.addLeft(m_desk.commands.button(m_remove, u"deleteEntry"_s, m_remove->text(), &foot));
     foot.addLeft(m_desk.commands.button(m_earlier, u"earlierVersion"_s, m_earlier->text(), &foot));
 }
@@ -175,6 +199,20 @@ void PageCommands::deleteForGood()
     const bool isDone = m_desk.day.deleteForGood();
     emit said(isDone ? JournalWindowLines::deletedForGood(shownDay()) : JournalWindowLines::notDeleted());
     m_desk.commands.refresh();
+}
+
+/// What is in the file stays there, under another name, and the year begins anew.
+void PageCommands::setAside()
+{
+    const int year = m_desk.day.date().year();
+    const Message question = JournalMessages::setAside(year, JournalFiles::name(year));
+    if (m_desk.program.dialogs.ask(&m_desk.window, question) != Answer::Yes)
+        return;
+    const QString name = m_desk.journal.setAside(year);
+    emit said(name.isEmpty() ? JournalWindowLines::notSetAside() : JournalWindowLines::setAsideAs(name));
+    m_desk.commands.refresh();
+    follow();
+    m_desk.page.text().setFocus();
 }
 
 void PageCommands::forget()

@@ -20,7 +20,11 @@ public:
     void addUndo(QMenu *edit);
     void addCommands(QMenu *edit);
     void addFormat(QMenu *format);
+    /// "Set Aside" of a year that is for reading only.
+    void addAside(QMenu *utilities);
     void makeButtons();
+    /// Another day is shown, or its year may be written to now.
+    void follow();
     /// Puts words at the cursor, apart from what stands there.
     void insert(const QString &words);
     /// Nothing of any entry is left.
@@ -35,6 +39,7 @@ private:
     void openEarlier();
     void bringBack();
     void deleteForGood();
+    void setAside();
     QString whyLocked() const;
     QString shownDay() const;
 
@@ -42,4 +47,6 @@ private:
     EarlierPanel *m_panel = nullptr;
     QAction *m_remove = nullptr;
     QAction *m_earlier = nullptr;
+    QAction *m_aside = nullptr;
+    QPushButton *m_asideButton = nullptr;
 };

@@ -167,6 +167,16 @@ QString JournalWindowLines::nothingToUndo()
     return u"Nothing to undo on this day"_s;
 }
 
+QString JournalWindowLines::mayBeWritten(int year)
+{
+    return u"%1 can be written to as it is"_s.arg(year);
+}
+
+QString JournalWindowLines::nothingCameIn()
+{
+    return u"Nothing has come in since the window was opened"_s;
+}
+
 QString JournalWindowLines::nothingToRedo()
 {
     return u"Nothing to redo on this day"_s;
@@ -240,6 +250,16 @@ QString JournalWindowLines::whatIsTaken()
 QString JournalWindowLines::broughtIn(int days)
 {
     return days == 1 ? u"1 day came in"_s : u"%1 days came in"_s.arg(days);
+}
+
+QString JournalWindowLines::takenBack(int days, int changed)
+{
+    const QString taken =
+        days == 1 ? u"1 day is as it was before"_s : u"%1 days are as they were before"_s.arg(days);
+    if (changed == 0)
+        return taken;
+    return taken + (changed == 1 ? u"; 1 was changed since and stays"_s
+                                 : u"; %1 were changed since and stay"_s.arg(changed));
 }
 
 QString JournalWindowLines::exportHint()

@@ -54,6 +54,8 @@ QString noPictureHere();
 QString noTagYet();
 QString nothingToPrint();
 QString nothingToUndo();
+QString mayBeWritten(int year);
+QString nothingCameIn();
 QString nothingToRedo();
 QString isLocked();
 
@@ -75,6 +77,8 @@ QString noDate();
 
 QString whatIsTaken();
 QString broughtIn(int days);
+/// Of the days that came in; `changed` of them were changed since and stay.
+QString takenBack(int days, int changed);
 QString exportHint();
 /// The title of what leaves as a page: "Journal, Lind".
 QString journalOf(const QString &family);

@@ -4,6 +4,8 @@
 #include "journal/window/journaltext.h"
 #include "journal/window/journalwindow.h"
 #include "shell/core/place.h"
+#include "shell/preview/previewpane.h"
+#include "tests/shell/writing/threewords.h"
 #include "tests/support/failingdisk.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
@@ -11,6 +13,8 @@
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
+#include <QDir>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMimeData>
@@ -263,8 +267,84 @@ private slots:
         QVERIFY(page()->isReadOnly());
         QVERIFY(!said().isEmpty());
         keys(u"typed in vain"_s);
-        m_window->close();
         QCOMPARE(file(), foreign);
+        m_test->dialogs.willAnswer(Answer::No);
+        click("setYearAside");
+        QCOMPARE(asked(), {JournalMessages::setAside(2026, u"DJour2026.Fil"_s)});
+        QCOMPARE(file(), foreign);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        click("setYearAside");
+        QCOMPARE(m_test->bytes(u"DJour2026 set aside.Fil"_s), foreign);
+        QVERIFY(!find<QPushButton>("setYearAside")->isVisible());
+        keys(u"Anew."_s);
+        m_window->close();
+        QVERIFY(file().endsWith("\r\nAnew.\r\n"));
+    }
+
+    void findsALivelierWord()
+    {
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+        QVERIFY(QDir().mkpath(m_test->path(u"dictionaries"_s)));
+        for (const auto &[name, bytes] :
+             {std::pair(u"th_en_US_v2.idx"_s, ThreeWords::idx),
+              std::pair(u"th_en_US_v2.dat"_s, ThreeWords::dat), std::pair(u"en_US.aff"_s, "SET UTF-8\n"_ba),
+              std::pair(u"en_US.dic"_s, "1\nglad\n"_ba)})
+            m_test->setBytes(u"dictionaries/"_s + name, bytes);
+        m_test->store.setValue(u"Writing/languages"_s, QStringList{u"en_US"_s});
+        openAgain();
+        keys(u"So Glad"_s);
+        key(Qt::Key_F7, Qt::ShiftModifier);
+        QCOMPARE(labelText("thesaurusWord"), u"\u201cglad\u201d"_s);
+        key(Qt::Key_Down);
+        key(Qt::Key_Return);
+        QCOMPARE(page()->text(), u"So Cheerful"_s);
+        QTRY_VERIFY(page()->hasFocus());
+        key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(page()->text(), u"So Glad"_s);
+    }
+
+    void copiesTextAndPage()
+    {
+        begin("=== 2026-11-21\r\n\r\n# Snow\r\n**Much** of it.\r\n");
+        trigger("mOCopy");
+        QCOMPARE(asked(), {JournalMessages::copied()});
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"Snow\nMuch of it."_s);
+        QVERIFY(QGuiApplication::clipboard()->mimeData()->hasImage());
+    }
+
+    void showsABookOnSmallSheets()
+    {
+        begin("=== 2026-11-21\r\n\r\nSnow.\r\n");
+        trigger("mOPrt");
+        find<QComboBox>("printPaper")->setCurrentIndex(2);
+        click("printWhat_4");
+        click("journalPrintShow");
+        auto *preview = m_window->findChild<PreviewPane *>();
+        QCOMPARE(preview->setup().paper, PageMetrics::a5);
+        QVERIFY(preview->sheetCount() > 2); // title, contents, the day
+    }
+
+    void takesAnImportBack_data() { rows<bool>({{"wholly", false}, {"but for what was typed since", true}}); }
+    void takesAnImportBack()
+    {
+        const auto [types] = row<bool>();
+        begin("=== 2026-11-21\r\n\r\nMarket.\r\n");
+        m_test->setBytes(u"log.txt"_s, "[2026-11-20 08:12] Rain.\n[2026-11-21 09:00] More.\n");
+        m_test->dialogs.willChooseFile(m_test->path(u"log.txt"_s));
+        trigger("mUImport");
+        QTRY_VERIFY(isOffered("journalImportTake"));
+        click("journalImportTake");
+        QVERIFY(page()->text().contains(u"More."_s));
+        QVERIFY(file().contains("=== 2026-11-20\r\n"));
+        if (types) {
+            page()->moveCursor(QTextCursor::End);
+            keys(u" Late"_s);
+        }
+        trigger("mUTakeBack");
+        QVERIFY(!file().contains("=== 2026-11-20\r\nwritten"));
+        QCOMPARE(page()->text().contains(u"Late"_s), types);
+        QCOMPARE(page()->text().contains(u"More."_s), types);
+        QVERIFY(!find<QAction>("mUTakeBack")->isEnabled());
     }
 
     void goesToADateThatIsTyped()
