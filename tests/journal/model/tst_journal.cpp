@@ -273,6 +273,31 @@ private slots:
         QCOMPARE(journal.tags(), (QMap<QString, int>{{u"sea"_s, 2}, {u"tea"_s, 1}}));
     }
 
+    /// Whatever becomes of a year: what is left of it stays when another day is written.
+    void keepsWhatIsLeftOfADamagedYear()
+    {
+        const QByteArray whole = journalHead + "=== 2026-01-02\r\ntags sea\r\n\r\nCaf\xC3\xA9\r\n"
+                                               "=== 2026-01-02 earlier\r\n\r\n\\=\r\n"
+                                               "=== 2026-05-06\r\n\r\nMay\r\n";
+        QByteArrayList damaged;
+        for (qsizetype at = 0; at < whole.size(); ++at) {
+            damaged << whole.first(at) << whole;
+            damaged.last()[at] = char(whole[at] ^ (1 << at % 8));
+        }
+        const TestFolder folder;
+        for (const QByteArray &bytes : std::as_const(damaged)) {
+            folder.put(file, bytes);
+            Journal journal(folder.folder(), m_clock);
+            const QStringList days = described(journal, 2026);
+            const bool isWritten = journal.put(written(lastDay, u"New"_s)) && journal.save();
+            QCOMPARE(folder.bytes(file) == bytes, !isWritten);
+            for (const QByteArray &line : bytes.sliced(isWritten ? bytes.indexOf('\n') + 1 : 0).split('\n'))
+                QVERIFY2(folder.bytes(file).contains(line), bytes);
+            const QStringList now = described(journal, 2026);
+            QVERIFY2(now.size() >= days.size() && (!isWritten || now.last().endsWith(u"New")), bytes);
+        }
+    }
+
     void keepsTenMegabytesOnADay()
     {
         QString text;

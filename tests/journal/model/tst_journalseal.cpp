@@ -239,6 +239,40 @@ private slots:
         QCOMPARE(desk.files.bytes(u"DJourKey set aside.Fil"_s), isKept ? other : QByteArray());
     }
 
+    /// One copy of the key is always left, if need be that of a year.
+    void opensWhateverBecomesOfTheKeyFile()
+    {
+        const Desk desk;
+        desk.sealAll();
+        const QByteArray keys = desk.files.bytes(keyFile);
+        for (qsizetype at = 0; at < keys.size(); at += 7) {
+            QByteArray flipped = keys;
+            flipped[at] = char(keys[at] ^ (1 << at % 8));
+            for (const QByteArray &bytes : {flipped, keys.first(at)}) {
+                desk.files.put(keyFile, bytes);
+                const std::unique_ptr<Journal> journal = desk.start();
+                QVERIFY2(Desk::unlock(*journal) && Desk::isAllThere(*journal), QByteArray::number(at));
+                QVERIFY(!journal->seal().isKeyFileLost());
+                QFile::remove(desk.files.path(u"DJourKey set aside.Fil"_s));
+            }
+        }
+    }
+
+    void opensWhereNothingCanBeWritten()
+    {
+        const Desk desk;
+        desk.sealAll();
+        const QByteArray keys = desk.files.bytes(keyFile);
+        const QByteArray year = desk.name(2026);
+        const DataFolder folder(desk.files.folder().path(), u"It is on a disc."_s);
+        Journal journal(folder, desk.clock, nullptr, PasswordCost::minimum());
+        QVERIFY(!Desk::unlock(journal, u"lavender"_s) && Desk::unlock(journal) && Desk::isAllThere(journal));
+        QCOMPARE(journal.whyReadOnly(2026), u"It is on a disc."_s);
+        QVERIFY(!journal.put(entryOf({2026, 11, 23}, u"New"_s)));
+        QVERIFY(!journal.seal().setBeingOpened(true) && SealingWalk(journal.seal()).count() == 0);
+        QVERIFY(desk.files.bytes(keyFile) == keys && desk.name(2026) == year);
+    }
+
     void saysWhenNobodyCanOpenIt()
     {
         const Desk desk;
