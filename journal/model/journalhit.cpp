@@ -18,17 +18,32 @@ const QString cut = u"\u2026"_s;
 using Words = std::vector<QByteArray>;
 using Marks = QList<std::pair<qsizetype, qsizetype>>;
 
+/// The next line, without its end; of one that is very long the next part.
+QStringView takeLine(QStringView &text)
+{
+    constexpr qsizetype longest = 8000;
+    const QStringView ahead = text.left(longest);
+    const qsizetype end = ahead.indexOf(u'\n');
+    if (end < 0 && ahead.size() < text.size()) {
+        const qsizetype blank = ahead.lastIndexOf(u' ');
+        const QStringView part = blank > 0 ? ahead.first(blank) : ahead;
+        text = text.sliced(part.size());
+        return part;
+    }
+    const QStringView line = end < 0 ? ahead : ahead.first(end);
+    text = end < 0 ? QStringView() : text.sliced(end + 1);
+    return line;
+}
+
 /// The line that holds the most of `words`, the first of these.
 QString bestLine(const QString &text, const Words &words)
 {
     constexpr qsizetype longestSign = 32;
     QStringView best;
     std::ptrdiff_t most = -1;
-    qsizetype at = 0;
-    while (at < text.size() && most < std::ssize(words)) {
-        const qsizetype end = text.indexOf(u'\n', at) < 0 ? text.size() : text.indexOf(u'\n', at);
-        const QStringView line = QStringView(text).sliced(at, end - at);
-        at = end + 1;
+    QStringView rest = text;
+    while (!rest.isEmpty() && most < std::ssize(words)) {
+        const QStringView line = takeLine(rest);
         if (line.trimmed().isEmpty() ||
             (line.size() < longestSign && LightMarks::of(line).kind == MarkedLine::Picture))
             continue;

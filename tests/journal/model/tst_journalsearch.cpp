@@ -103,6 +103,21 @@ private slots:
         QCOMPARE(shown(asTyped.hits()), hits);
     }
 
+    void findsTheEndOfAVeryLongLine()
+    {
+        const TestFolder folder;
+        Journal journal(folder.folder(), m_clock);
+        const QString line = u"end "_s.repeated(100'000);
+        QVERIFY(journal.put({.date = QDate(2026, 5, 1), .text = line + u"ferry\nferry"_s}));
+        JournalSearch search(journal);
+        while (search.step(2026)) {}
+        search.setQuestion(u"ferry"_s);
+        QCOMPARE(shown(search.hits()),
+                 QStringList{u"26-05-01 \u2026"_s + u"end "_s.repeated(10) + u"[ferry]"_s});
+        search.setQuestion(u"end"_s);
+        QCOMPARE(search.hits().front().marks.size(), 30);
+    }
+
     void followsWhatIsWritten()
     {
         const TestFolder folder;
