@@ -104,6 +104,7 @@ void OpenDay::load()
     });
     m_page.text.document()->setModified(false);
     m_page.tags.setText(m_entry.tags.join(u", "_s));
+    m_page.text.document()->setModified(false);
     m_isEdited = false;
     showLock();
 }
@@ -192,6 +193,7 @@ void OpenDay::show(const JournalEntry &entry)
         m_page.text.replaceText(text);
     m_page.text.document()->setModified(false);
     m_page.tags.setText(entry.tags.join(u", "_s));
+    m_page.text.document()->setModified(false);
     m_entry = entry;
 }
 

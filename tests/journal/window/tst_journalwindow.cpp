@@ -3,6 +3,7 @@
 #include "journal/window/hitlist.h"
 #include "journal/window/journaltext.h"
 #include "journal/window/journalwindow.h"
+#include "journal/window/openday.h"
 #include "shell/core/place.h"
 #include "shell/preview/previewpane.h"
 #include "tests/shell/writing/threewords.h"
@@ -18,6 +19,7 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <QTableView>
 #include <QTextBlock>
 
@@ -84,6 +86,22 @@ private slots:
         keys(u" Wind."_s);
         trigger("mVBefore");
         QVERIFY(file().contains("Rain. Wind.\r\n"));
+    }
+
+    /// Spelling changes how a text looks when it comes to it.
+    void callsNoUnderlineAChange()
+    {
+        begin("=== 2026-11-21\r\n\r\nMarket.\r\n");
+        const QSignalSpy edited(m_window->findChild<OpenDay *>(), &OpenDay::edited);
+        emit page()->textChanged();
+        QCOMPARE(edited.size(), 0);
+        keys(u"x"_s);
+        QCOMPARE(edited.size(), 1);
+        trigger("mOSave");
+        emit page()->textChanged();
+        QCOMPARE(edited.size(), 1);
+        trigger("mEUndo");
+        QVERIFY(edited.size() > 1);
     }
 
     void asksOnlyWhenASaveFailed()
