@@ -113,8 +113,11 @@ class Program:
 
 class Wine:
     def __init__(self, prefix):
+        # The folder of documents and its like are links to the home folder.
+        self.home = prefix.with_name("wine-home")
+        self.home.mkdir()
         self.env = dict(os.environ, WINEPREFIX=str(prefix), WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=",
-                        LC_ALL="C.UTF-8")
+                        HOME=str(self.home), LC_ALL="C.UTF-8")
         self.prefix = prefix
 
     def run(self, *command, **more):
