@@ -4,10 +4,10 @@
 #include "journal/window/seallines.h"
 #include "shell/controls/pastefilter.h"
 #include "shell/look/theme.h"
+#include "shell/pages/fixedface.h"
 #include "storage/sealing/recoverycode.h"
 #include "storage/sealing/secretbytes.h"
 
-#include <QFontDatabase>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,7 +39,7 @@ JournalCodePanel::JournalCodePanel(QWidget *parent)
     words->setWordWrap(true);
     words->setMaximumWidth(TypeScale::wide(widest));
     rows->addWidget(words);
-    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont fixed = FixedFace::font();
     fixed.setPointSizeF(codePoints);
     m_shown->setFont(fixed);
     m_shown->setAccessibleName(u"Recovery code"_s);

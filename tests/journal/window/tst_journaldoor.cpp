@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal/model/messages.h"
 #include "journal/window/journalcodepanel.h"
+#include "journal/window/journalfront.h"
 #include "journal/window/journaltext.h"
 #include "journal/window/journalwindow.h"
 #include "tests/support/failingdisk.h"
@@ -20,6 +21,7 @@
 #include <chrono>
 #include <functional>
 #include <iostream>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -354,6 +356,28 @@ private slots:
         QVERIFY(page()->text().startsWith(u"Today"_s));
     }
 #endif
+
+    /// Which ends behind the year that it is at.
+    void locksInTheMiddleOfAWalk()
+    {
+        for (int year = 2001; year < 2009; ++year)
+            m_test->setBytes(nameOf(year), QByteArray("Quillery journal 1\r\n=== " +
+                                                      QByteArray::number(year) + "-05-05\r\n\r\nMay.\r\n"));
+        begin();
+        askToSeal();
+        QTRY_VERIFY(isSeen("journalCodePanel"));
+        bool isLockDue = true;
+        connect(m_window->findChild<JournalFront *>(), &JournalFront::progressed, m_window, [&] {
+            if (std::exchange(isLockDue, false))
+                emit m_test->changes.lockRequested();
+        });
+        typeCode();
+        QTRY_VERIFY(isLocked());
+        QVERIFY(file(2001).startsWith(sealedLine) && file(2026) == year2026);
+        answer(password);
+        QTRY_COMPARE(said(), u"The journal is sealed"_s);
+        QVERIFY(file(2008).startsWith(sealedLine) && file(2026).startsWith(sealedLine));
+    }
 
     /// Sealed in memory, and back at the unlocking.
     void keepsWhatTheDiskRefuses()
