@@ -111,3 +111,16 @@ JournalHit JournalHit::of(const JournalEntry &entry, const JournalQuestion &ques
         mark.first -= moved;
     return hit;
 }
+
+QList<std::pair<qsizetype, qsizetype>> JournalHit::places(const QString &text,
+                                                          const JournalQuestion &question)
+{
+    Marks places;
+    qsizetype at = 0;
+    for (const QString &line : text.split(u'\n')) {
+        for (const auto &[from, length] : marksIn(line, question.words()))
+            places.append({at + from, length});
+        at += line.size() + 1;
+    }
+    return places;
+}

@@ -13,6 +13,9 @@ struct JournalHit {
     QList<std::pair<qsizetype, qsizetype>> marks{}; ///< the words in it: where, and how long
 
     static JournalHit of(const JournalEntry &entry, const JournalQuestion &question);
+    /// Where the words of the question stand in a whole text, and how long they are.
+    static QList<std::pair<qsizetype, qsizetype>> places(const QString &text,
+                                                         const JournalQuestion &question);
 
     bool operator==(const JournalHit &) const = default;
 };

@@ -19,6 +19,7 @@ public:
 
     /// Looks for what was typed in all years read so far.
     void setQuestion(const QString &typed);
+    const JournalQuestion &question() const { return m_question; }
     /// Nothing is looked for.
     bool isEmpty() const { return m_question.isEmpty(); }
     /// Reads one more year, of those not read yet the nearest to `nearest`, and looks there. False when all

@@ -21,22 +21,18 @@ constexpr int rowGap = 10;
 constexpr int dateRole = Qt::UserRole;
 constexpr int hitRole = Qt::UserRole + 1;
 
-/// The part of a line around its first mark that has room.
-struct Part {
-    QString text;
-    qsizetype begin = 0; ///< where in the line it begins
-};
-
-Part partOf(const JournalHit &hit, const QFontMetrics &metrics, int width)
+/// From where on a line is shown, so that there is room for its first mark: at the beginning of a word.
+qsizetype beginOf(const JournalHit &hit, const QFontMetrics &metrics, int width)
 {
     if (hit.marks.isEmpty() || metrics.horizontalAdvance(hit.context) <= width)
-        return {hit.context, 0};
+        return 0;
     const auto [at, length] = hit.marks.first();
     qsizetype begin = at;
     // A third of the room for what stands before the word.
     while (begin > 0 && metrics.horizontalAdvance(hit.context.sliced(begin - 1, at - begin + 1)) < width / 3)
         --begin;
-    return {hit.context.sliced(begin), begin};
+    const qsizetype blank = begin > 0 ? hit.context.indexOf(u' ', begin) : -1;
+    return blank >= 0 && blank < at ? blank + 1 : begin;
 }
 
 /// The day, and below it a line of the text with the words marked: bold, on the ground of what is marked.
@@ -77,12 +73,12 @@ private:
         const QFont plain = TypeScale::label();
         QFont bold = plain;
         bold.setWeight(QFont::Bold);
-        const Part part = partOf(hit, QFontMetrics(plain), place.width());
-        const auto draw = [&](qsizetype begin, qsizetype end, bool isMarked) {
-            if (begin >= end)
+        const qsizetype begin = beginOf(hit, QFontMetrics(plain), place.width());
+        const auto draw = [&](QString text, bool isMarked) {
+            if (text.isEmpty() || place.width() <= 0)
                 return;
-            const QString text = hit.context.sliced(begin, end - begin);
             painter.setFont(isMarked ? bold : plain);
+            text = painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width());
             const int width = painter.fontMetrics().horizontalAdvance(text);
             if (isMarked && !isSelected)
                 painter.fillRect(QRect(place.left(), place.top(), width, painter.fontMetrics().height()),
@@ -91,13 +87,15 @@ private:
             painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, text);
             place.setLeft(place.left() + width);
         };
-        qsizetype done = part.begin;
+        draw(begin > 0 ? u"\u2026"_s : QString(), false);
+        qsizetype done = begin;
         for (const auto &[at, length] : hit.marks) {
-            draw(done, std::max(done, at), false);
-            draw(std::max(done, at), std::max(done, at + length), true);
-            done = std::max(done, at + length);
+            const qsizetype from = std::max(done, at);
+            draw(hit.context.sliced(done, from - done), false);
+            done = std::max(from, at + length);
+            draw(hit.context.sliced(from, done - from), true);
         }
-        draw(done, hit.context.size(), false);
+        draw(hit.context.sliced(done), false);
     }
 };
 

@@ -31,8 +31,8 @@ namespace {
 constexpr int wideWidth = 304;
 constexpr int narrowWidth = 264;
 constexpr int wideFrom = 1200;
-/// The least that a month keeps, with its dots below the numbers.
-constexpr int leastCalendar = 248;
+/// A month has room in it, with its dots below the numbers.
+constexpr int calendarHeight = 252;
 constexpr int leastWidth = 240;
 
 PanelFrame *makeCard(const QString &name, QWidget *content)
@@ -91,7 +91,7 @@ QWidget *JournalPane::makePanels(const Program &program, PanelColors &colors)
     content->setMinimumWidth(1); // as wide as the pane
     m_calendar = named(new MonthView(content), u"MonthView1"_s);
     m_calendar->setAccessibleName(u"Calendar"_s);
-    m_calendar->setMinimumHeight(leastCalendar);
+    m_calendar->setFixedHeight(calendarHeight);
     m_calendar->setDateRange(CalendarDates::first(), CalendarDates::last());
     m_calendar->setFirstDayOfWeek(Dates::weekStart(program.settings.number(SettingsKeys::calendarWeekStart)));
     m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
@@ -195,6 +195,11 @@ void JournalPane::startSearch()
 void JournalPane::clearSearch()
 {
     m_search->clear();
+}
+
+QList<std::pair<qsizetype, qsizetype>> JournalPane::placesIn(const QString &text) const
+{
+    return JournalHit::places(text, m_finder->search().question());
 }
 
 void JournalPane::search(const QString &text)

@@ -4,6 +4,8 @@
 #include <QDate>
 #include <QWidget>
 
+#include <utility>
+
 class HitList;
 class Journal;
 class JournalFinder;
@@ -31,6 +33,8 @@ public:
     /// Puts the cursor into the search.
     void startSearch();
     void clearSearch();
+    /// Where the words that are looked for stand in a text.
+    QList<std::pair<qsizetype, qsizetype>> placesIn(const QString &text) const;
     /// Nothing of any entry is left.
     void forget();
     /// How wide it would like to be in a window of this size.
@@ -38,7 +42,7 @@ public:
 
 signals:
     void dateChosen(QDate date);
-    /// A hit was opened: its words are looked for in the text.
+    /// A hit was opened.
     void hitOpened(QDate date);
     /// The user wants to go on in the text.
     void entered();

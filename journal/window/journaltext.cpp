@@ -20,6 +20,7 @@ constexpr double letterFactor = 1.15; ///< beside the letters of boxes
 constexpr double headingFactor = 1.3;
 constexpr int leastMargin = 12;
 constexpr int barWidth = 2;
+constexpr qsizetype mostFound = 1000; ///< that are marked
 
 QFont pageFont()
 {
@@ -63,6 +64,10 @@ JournalText::JournalText(PagePictures &pictures, QWidget *parent)
     setCursorWidth(2);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (document()->isModified() && !extraSelections().isEmpty())
+            setExtraSelections({});
+    });
     QTextDocument *first = makeDocument({});
     setDocument(first);
     connect(this, &QPlainTextEdit::cursorPositionChanged, viewport(), qOverload<>(&QWidget::update));
@@ -114,6 +119,7 @@ QTextDocument *JournalText::makeDocument(const QString &text)
 void JournalText::showDocument(QTextDocument *shown)
 {
     setDocument(shown);
+    setExtraSelections({});
     emit documentShown();
 }
 
@@ -183,6 +189,23 @@ void JournalText::insertLine(const QString &line)
     cursor.insertText(line + u'\n');
     cursor.endEditBlock();
     setTextCursor(cursor);
+}
+
+void JournalText::showFound(const QList<std::pair<qsizetype, qsizetype>> &places)
+{
+    QList<QTextEdit::ExtraSelection> found;
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = textCursor();
+    mark.format.setBackground(Theme::of(this).mark);
+    mark.format.setForeground(Theme::of(this).text);
+    for (const auto &[at, length] : places.first(std::min(places.size(), mostFound))) {
+        mark.cursor.setPosition(int(at));
+        if (found.isEmpty())
+            setTextCursor(mark.cursor);
+        mark.cursor.setPosition(int(at + length), QTextCursor::KeepAnchor);
+        found.append(mark);
+    }
+    setExtraSelections(found);
 }
 
 int JournalText::pictureAtCursor() const

@@ -5,6 +5,8 @@
 
 #include <QPlainTextEdit>
 
+#include <utility>
+
 class PagePictures;
 
 /// The page that one writes on: plain text whose light marks are shown as one types, at most 72 characters
@@ -36,6 +38,8 @@ public:
     void toggleList();
     /// Puts `line` into a line of its own below the cursor's, which goes behind it.
     void insertLine(const QString &line);
+    /// Marks what was found until the search is over or something is typed, and goes to the first of it.
+    void showFound(const QList<std::pair<qsizetype, qsizetype>> &places);
     /// Of the line in which the cursor stands; 0 for none.
     int pictureAtCursor() const;
 

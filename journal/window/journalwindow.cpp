@@ -215,9 +215,11 @@ void DJournal::connectParts()
     connect(m_pane, &JournalPane::searchBegun, this, [this] { m_before = m_day->date(); });
     connect(m_pane, &JournalPane::hitOpened, this, [this](QDate date) {
         goTo(date);
+        m_page->text().showFound(m_pane->placesIn(m_page->text().text()));
         m_page->setFocus();
     });
     connect(m_pane, &JournalPane::searchLeft, this, [this] {
+        m_page->text().showFound({});
         if (const QDate before = std::exchange(m_before, {}); before.isValid())
             goTo(before);
     });

@@ -18,7 +18,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int inset = 8;
-constexpr int leastRows = 3;
+constexpr int leastRows = 2;
+constexpr int listRim = 6;
 constexpr int countRole = Qt::UserRole;
 
 /// A tag, and at the right how many entries have it.
@@ -75,7 +76,7 @@ TagsList::TagsList(QWidget *parent)
     m_list->setItemDelegate(new TagDelegate(m_list));
     m_list->setAccessibleName(u"Tags"_s);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_list->setMinimumHeight(leastRows * ListRowDelegate::rowHeight() / 2);
+    m_list->setMinimumHeight(leastRows * ListRowDelegate::rowHeight() + listRim);
     m_list->hide();
     connect(m_list, &QListView::clicked, this, &TagsList::open);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {

@@ -94,7 +94,7 @@ QString JournalWindowLines::hits(int count, bool isAtLimit)
     if (count == 0)
         return u"Nothing found"_s;
     const QString entries = count == 1 ? u"1 entry"_s : u"%1 entries"_s.arg(count);
-    return isAtLimit ? QString(u"The newest "_s + entries) : entries;
+    return isAtLimit ? QString(entries + u", the newest of them above"_s) : entries;
 }
 
 QString JournalWindowLines::stillReading(int count)

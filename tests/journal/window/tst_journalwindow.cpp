@@ -61,6 +61,7 @@ private slots:
         key(Qt::Key_Return);
         QCOMPARE(page()->text(), u"We took the ferry."_s);
         QVERIFY(page()->hasFocus());
+        QCOMPARE(page()->extraSelections().value(0).cursor.selectedText(), u"ferry"_s); // marked
         key(Qt::Key_F, Qt::ControlModifier);
         key(Qt::Key_Escape);
         QCOMPARE(shownDay(), u"Friday, November 20, 2026"_s); // where the search began
