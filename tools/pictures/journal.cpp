@@ -23,8 +23,10 @@ void put(const DataFolder &folder, const QString &name, const QByteArray &entrie
 }
 
 /// Entries of an invented family, this autumn and in other years.
-void furnish(const DataFolder &folder)
+void furnish(const Program &program)
 {
+    const DataFolder &folder = program.folder;
+    QFile::copy(program.programFolder.filePath(u"WP9.jpg"_s), folder.filePath(u"Pictures/lake.jpg"_s));
     put(folder, u"DJour2019.Fil"_s,
         "=== 2019-11-21\r\ntags sea\r\n\r\nThe last ferry of the season. Karin waved until it was a "
         "dot.\r\n");
@@ -38,13 +40,15 @@ void furnish(const DataFolder &folder)
         "=== 2026-11-08\r\ntags school\r\n\r\nParents' evening.\r\n"
         "=== 2026-11-14\r\ntags garden, market\r\n\r\nThe market, and a pumpkin that nobody could lift.\r\n"
         "=== 2026-11-17\r\ntags sea\r\n\r\nBooked the ferry for the summer.\r\n"
-        "=== 2026-11-21\r\nwritten 2026-11-21 07:50\r\ntags market, sea\r\n\r\n"
+        "=== 2026-11-21\r\nwritten 2026-11-21 07:50\r\ntags market, sea\r\n"
+        "picture Pictures/lake.jpg | The lake, on the way back\r\n\r\n"
         "# A quiet Saturday\r\n\r\n"
         "Oskar and I were at the **farmers' market** before it rained. He carried the apples and talked of "
         "nothing but the "
         "*big ferry*, which we take in July.\r\n\r\n"
         "What is still to be found for it:\r\n- the blue rucksack\r\n- a book for each of us\r\n  - for Nils "
         "one with maps\r\n\r\n"
+        "[picture 1]\r\n\r\n"
         "In the afternoon the choir sang in St. Olaf hall, rather well. Anne says that it was the hall.\r\n");
 }
 
@@ -52,7 +56,7 @@ void furnish(const DataFolder &folder)
 void takeDay(const Camera &camera)
 {
     PictureSession session(camera);
-    furnish(session.program().folder);
+    furnish(session.program());
     session.open(Function::Journal);
     session.take("journal-day");
     session.find<QCheckBox>("daysAround").setChecked(true);
@@ -66,13 +70,31 @@ void takeDay(const Camera &camera)
     session.take("journal-earlier");
 }
 
+/// Livelier words for "quiet".
+void takeThesaurus(const Camera &camera)
+{
+    PictureSession session(camera);
+    furnish(session.program());
+    session.open(Function::Journal);
+    session.focus("entryText");
+    session.key(Qt::Key_Home, Qt::ControlModifier);
+    for (int i = 0; i < 6; ++i)
+        session.key(Qt::Key_Right);
+    session.key(Qt::Key_F7, Qt::ShiftModifier);
+    session.take("journal-thesaurus");
+}
+
 void takeSearch(const Camera &camera)
 {
     PictureSession session(camera);
-    furnish(session.program().folder);
+    furnish(session.program());
     session.open(Function::Journal);
     session.fill("journalSearch", u"ferry"_s);
     session.take("journal-search");
+    session.key(Qt::Key_Down);
+    session.key(Qt::Key_Down);
+    session.key(Qt::Key_Return);
+    session.take("journal-found");
     session.fill("journalSearch", u"tag:garden"_s);
     session.take("journal-tags");
 }
@@ -80,7 +102,7 @@ void takeSearch(const Camera &camera)
 void takePanels(const Camera &camera)
 {
     PictureSession session(camera);
-    furnish(session.program().folder);
+    furnish(session.program());
     session.open(Function::Journal);
     session.trigger("mOPrt");
     session.take("journal-print-options");
@@ -89,6 +111,31 @@ void takePanels(const Camera &camera)
     session.key(Qt::Key_Escape);
     session.trigger("mUExport");
     session.take("journal-export");
+}
+
+/// What is printed: the sheets that are not like the first one as well.
+void takePages(const Camera &camera)
+{
+    PictureSession session(camera);
+    furnish(session.program());
+    session.open(Function::Journal);
+    for (const auto &[what, name] : {std::pair("printWhat_0", "page-journal-day"),
+                                     {"printWhat_1", "page-journal-days"},
+                                     {"printWhat_2", "page-journal-tag"},
+                                     {"printWhat_3", "page-journal-month"},
+                                     {"printWhat_4", "page-journal-yearbook"}}) {
+        session.trigger("mOPrt");
+        session.click(what);
+        session.click("journalPrintShow");
+        session.takePage(name);
+    }
+    session.key(Qt::Key_PageDown);
+    session.take("journal-yearbook");
+    session.takePage("page-journal-contents");
+    session.key(Qt::Key_PageDown);
+    session.takePage("page-journal-chapter");
+    session.key(Qt::Key_End);
+    session.takePage("page-journal-index");
 }
 
 constexpr auto password = "correct horse battery staple"_L1;
@@ -111,7 +158,7 @@ void seal(Program &program)
 void takeSealing(const Camera &camera)
 {
     PictureSession session(camera);
-    furnish(session.program().folder);
+    furnish(session.program());
     session.open(Function::Journal);
     session.trigger("mUSeal");
     session.take("journal-seal");
@@ -133,7 +180,7 @@ void takeSealed(const Camera &camera)
 {
     PictureSession session(camera);
     const DataFolder &folder = session.program().folder;
-    furnish(folder);
+    furnish(session.program());
     seal(session.program());
     QFile year(folder.filePath(u"DJour2026.Fil"_s));
     if (!year.open(QIODevice::ReadWrite) || !year.seek(year.size() - 10) || !year.putChar('?'))
@@ -174,8 +221,10 @@ void takeEmpty(const Camera &camera)
 void Albums::journal(const Camera &camera)
 {
     takeDay(camera);
+    takeThesaurus(camera);
     takeSearch(camera);
     takePanels(camera);
+    takePages(camera);
     takeSealing(camera);
     takeSealed(camera);
     takeEmpty(camera);
