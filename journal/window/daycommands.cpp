@@ -2,6 +2,7 @@
 #include "journal/window/daycommands.h"
 
 #include "journal/model/journal.h"
+#include "journal/window/daypage.h"
 #include "journal/window/openday.h"
 #include "journal/window/windowlines.h"
 #include "shell/core/dates.h"
@@ -84,8 +85,10 @@ void DayCommands::goToDate()
     if (!typed)
         return;
     const auto date = Dates::parse(*typed, style);
-    if (date && Journal::isPossible(*date))
+    if (date && Journal::isPossible(*date)) {
         m_desk.goTo(*date);
-    else
+        m_desk.page.setFocus();
+    } else {
         emit said(JournalWindowLines::noDate());
+    }
 }

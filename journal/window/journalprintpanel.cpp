@@ -70,6 +70,7 @@ void JournalPrintPanel::fillChoices()
     m_year->setAccessibleName(u"Year"_s);
     m_year->setRange(firstYear, lastYear);
     m_year->setFixedWidth(boxWidth(u"20266"_s, 96));
+    m_year->setMinimumHeight(m_tags->sizeHint().height());
     m_what->add(u"The &day that is shown"_s);
     m_what->add(u"The d&ays"_s, m_days);
     m_what->add(u"All entries with the &tag"_s, m_tags);
