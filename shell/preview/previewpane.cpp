@@ -159,6 +159,7 @@ void PreviewPane::fillButtonPanel()
     auto *content = new QWidget;
     QScrollArea *scroller = makeScrolling(content, u"buttonScroll"_s, m_buttonPanel);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->installEventFilter(this);
     auto *frame = new QVBoxLayout(m_buttonPanel);
     frame->setContentsMargins(1, 1, 1, 1);
     frame->addWidget(scroller);
@@ -386,6 +387,15 @@ void PreviewPane::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     m_column->setSpacing(height() >= looseFrom ? looseSpacing : tightSpacing);
+}
+
+/// The column of buttons would take the keys that turn the pages for its own scrolling.
+bool PreviewPane::eventFilter(QObject *watched, QEvent *event)
+{
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (key != Qt::Key_PageUp && key != Qt::Key_PageDown)
+        return QWidget::eventFilter(watched, event);
+    return m_view->handleKey(key);
 }
 
 void PreviewPane::keyPressEvent(QKeyEvent *event)

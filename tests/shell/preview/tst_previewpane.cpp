@@ -112,6 +112,8 @@ private slots:
         m_window->pane->setFocus(); // on a button
         QTest::keyClick(m_window->window.focusWidget(), Qt::Key_End);
         QCOMPARE(m_window->pane->currentSheet(), 5);
+        QTest::keyClick(m_window->window.focusWidget(), Qt::Key_PageUp);
+        QCOMPARE(m_window->pane->currentSheet(), 4);
 
         // At either end the focus stays with the buttons that step.
         m_window->showSheets(2);
