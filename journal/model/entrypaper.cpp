@@ -53,8 +53,10 @@ void EntryPaper::add(const JournalEntry &entry, const QString &heading, int mark
     m_isBelowHeading = !heading.isEmpty();
     if (m_isBelowHeading)
         m_page.paragraph({.runs = {{heading}}, .role = TextRole::Heading, .mark = mark});
-    if (const QString facts = factsOf(entry.date); !facts.isEmpty())
+    if (const QString facts = factsOf(entry.date); !facts.isEmpty()) {
         addQuiet(facts, true);
+        addQuiet({}, true); // room, behind which no sheet ends either
+    }
     m_hasTextAbove = false;
     m_isGapDue = false;
     addText(entry);

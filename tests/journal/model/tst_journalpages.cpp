@@ -99,7 +99,7 @@ private slots:
         };
         const QString below = u"One./|/garden, school  \u00b7  Written on March 15"_s;
         QCOMPARE(pageOf(false), below);
-        QCOMPARE(pageOf(true), u"Anne turns 14  \u00b7  Dentist/"_s + below);
+        QCOMPARE(pageOf(true), u"Anne turns 14  \u00b7  Dentist/|/"_s + below);
     }
 
     void printsTheChosenDays()
