@@ -5,9 +5,9 @@
 
 namespace {
 
-int stepsOf(const WrongAnswers &wrong)
+int stepsOf(int wrongAnswers)
 {
-    return std::min(wrong.count, Attempts::longestWait);
+    return std::min(wrongAnswers, Attempts::longestWait);
 }
 
 } // namespace
@@ -24,7 +24,8 @@ void Attempts::resume(const WrongAnswers &wrong, const QDateTime &now)
 {
     if (!m_memory.isBegun && wrong.count > 0) {
         // A clock that was set back lengthens no wait.
-        const qint64 steps = std::clamp<qint64>(stepsOf(wrong) - wrong.last.secsTo(now), 0, stepsOf(wrong));
+        const qint64 steps =
+            std::clamp<qint64>(stepsOf(wrong.count) - wrong.last.secsTo(now), 0, stepsOf(wrong.count));
         m_memory.wait = QDeadlineTimer(m_timer.intervalAsDuration() * steps);
     }
     m_memory.isBegun = true;
@@ -45,7 +46,8 @@ void Attempts::addWrong(const WrongAnswers &wrong)
 {
     ++m_wrong;
     m_memory.isBegun = true;
-    m_memory.wait = QDeadlineTimer(m_timer.intervalAsDuration() * stepsOf(wrong));
+    // Where nothing can be written, they are counted here alone.
+    m_memory.wait = QDeadlineTimer(m_timer.intervalAsDuration() * stepsOf(std::max(wrong.count, m_wrong)));
     if (isSpent())
         emit spent();
     else

@@ -444,6 +444,27 @@ private slots:
         QCOMPARE(m_test->bytes(u"DJour2026 set aside.Fil"_s), before);
     }
 
+    void opensAHouseholdThatIsForReadingOnly()
+    {
+        beginSealed();
+        delete m_window;
+        auto locked = std::make_unique<TestProgram>(TestProgram::Empty, u"The folder is for reading only."_s);
+        for (const QString &name : {u"DJourKey.Fil"_s, nameOf(2019), nameOf(2026)})
+            locked->setBytes(name, m_test->bytes(name));
+        const QByteArray keyFile = m_test->bytes(u"DJourKey.Fil"_s);
+        m_test = std::move(locked);
+        openAgain();
+        answer(u"wrong"_s);
+        QTRY_VERIFY(!labelText("unlockRefusal").isEmpty());
+        QTRY_VERIFY(isOffered("openJournal"));
+        answer(password);
+        QTRY_VERIFY(page()->text().startsWith(u"Today"_s));
+        QVERIFY(page()->isReadOnly());
+        for (const char *command : {"mUSeal", "mUOpenSeal", "mUPassword", "mUCode"})
+            QVERIFY2(!find<QAction>(command)->isEnabled(), command);
+        QCOMPARE(m_test->bytes(u"DJourKey.Fil"_s), keyFile);
+    }
+
     /// On another computer that has the same folder.
     void followsASealMadeElsewhere()
     {
