@@ -54,6 +54,13 @@ bool beginsBlock(QByteArrayView line)
     return rest.isEmpty() || rest[0] == ' ' || rest[0] == '\r' || rest[0] == '\n';
 }
 
+/// The digits of a number, the first of which stands for so many `units`.
+void addNumber(QByteArray &line, int number, int units)
+{
+    for (; units > 0; units /= 10)
+        line += char('0' + number / units % 10);
+}
+
 int digitOf(char hex)
 {
     return isDigit(hex) ? hex - '0' : hex >= 'a' && hex <= 'f' ? hex - 'a' + 10 : -1;
@@ -128,8 +135,12 @@ QByteArray SealedBlocks::encoded(const std::vector<Listed> &list)
     QByteArray lines;
     lines.reserve(qsizetype(list.size()) * 72);
     for (const Listed &each : list) {
-        const QDate date = each.label.date;
-        lines += date.isValid() ? date.toString(Qt::ISODate).toLatin1() : QByteArrayLiteral("0000-00-00");
+        const QDate date = each.label.date; // zeros where it is none
+        addNumber(lines, date.year(), 1000);
+        lines += '-';
+        addNumber(lines, date.month(), 10);
+        lines += '-';
+        addNumber(lines, date.day(), 10);
         lines += ' ';
         lines +=
             std::ranges::find(kindWords, each.label.kind, &decltype(kindWords)::value_type::first)->second;

@@ -22,9 +22,17 @@ constexpr QByteArrayView keySign("QJOURNL");
 /// As it stands in the file: its length, and the record.
 QByteArray withLength(QByteArrayView record)
 {
-    QByteArray bytes(SealedReader::lengthBytes, '\0');
+    QByteArray bytes(SealedReader::lengthBytes + record.size(), Qt::Uninitialized);
     qToLittleEndian<quint32>(quint32(record.size()), bytes.data());
-    return bytes + record.toByteArray();
+    std::ranges::copy(record, bytes.begin() + SealedReader::lengthBytes);
+    return bytes;
+}
+
+/// What is quickly told of a block, and of few others.
+std::size_t signOf(QByteArrayView block)
+{
+    constexpr qsizetype enough = 64;
+    return qHash(block.last(std::min(block.size(), enough)), std::size_t(block.size()));
 }
 
 QByteArray sealedText(QByteArrayView plain, const QByteArray &context, const SecretBytes &key)
@@ -224,15 +232,17 @@ SealedYear::Item SealedYear::sealedItem(QByteArrayView block) const
 
 std::vector<SealedYear::Item> SealedYear::itemsOf(QByteArrayView plain) const
 {
-    QMultiHash<QByteArrayView, std::size_t> former;
+    const auto plainOf = [this](std::size_t i) { return m_reader.plainOf(m_pieces[i]); };
+    QMultiHash<std::size_t, std::size_t> former;
     for (const std::size_t i : m_shown)
-        former.insert(m_reader.plainOf(m_pieces[i]), i);
+        former.insert(signOf(plainOf(i)), i);
     std::vector<Item> items;
     const std::vector<QByteArrayView> blocks = SealedBlocks::cut(plain);
     items.reserve(blocks.size());
     for (const QByteArrayView block : blocks) {
-        const auto same = former.find(block);
-        if (same == former.end()) {
+        const auto [first, end] = former.equal_range(signOf(block));
+        const auto same = std::find_if(first, end, [&](std::size_t i) { return plainOf(i) == block; });
+        if (same == end) {
             items.push_back(sealedItem(block));
             continue;
         }
