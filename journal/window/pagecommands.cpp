@@ -117,7 +117,11 @@ void PageCommands::addAside(QMenu *utilities)
 /// What one wants of a year that cannot be written to stands where one sees that.
 void PageCommands::follow()
 {
-    m_asideButton->setVisible(m_asideButton->isEnabled());
+    const bool isWanted = m_asideButton->isEnabled();
+    if (m_asideButton->isVisibleTo(&m_desk.page.foot()) == isWanted)
+        return;
+    m_asideButton->setVisible(isWanted);
+    m_desk.page.foot().rearrange();
 }
 
 void PageCommands::makeButtons()

@@ -287,6 +287,8 @@ private slots:
         QVERIFY(!said().isEmpty());
         keys(u"typed in vain"_s);
         QCOMPARE(file(), foreign);
+        QVERIFY(find<QPushButton>("setYearAside")->width() > 0 &&
+                find<QPushButton>("setYearAside")->isVisible());
         m_test->dialogs.willAnswer(Answer::No);
         click("setYearAside");
         QCOMPARE(asked(), {JournalMessages::setAside(2026, u"DJour2026.Fil"_s)});
