@@ -354,7 +354,9 @@ private slots:
         m_test->dialogs.willChooseFile(m_test->path(u"log.txt"_s));
         trigger("mUImport");
         QTRY_VERIFY(isOffered("journalImportTake"));
+        QVERIFY(find<QTableView>("journalImportList")->hasFocus());
         click("journalImportTake");
+        QVERIFY(page()->hasFocus());
         QVERIFY(page()->text().contains(u"More."_s));
         QVERIFY(file().contains("=== 2026-11-20\r\n"));
         if (types) {
