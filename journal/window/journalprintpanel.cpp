@@ -22,7 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QLatin1StringView keys("Windows/DJournal/print/");
-constexpr int boxesWidth = 264;
+constexpr int boxesWidth = 240;
 constexpr int firstYear = 1000;
 constexpr int lastYear = 9999;
 
@@ -87,8 +87,12 @@ QWidget *JournalPrintPanel::makeHow()
     fillBoxes();
     m_newSheets->setChecked(m_program.store.value(keys + "newSheets"_L1, false).toBool());
     m_facts->setChecked(m_program.store.value(keys + "facts"_L1, true).toBool());
-    column->addWidget(m_paper);
-    column->addWidget(m_pictures);
+    auto *boxes = new QHBoxLayout;
+    boxes->setSpacing(12);
+    boxes->addLayout(labelled(u"Pape&r"_s, m_paper));
+    boxes->addLayout(labelled(u"Pict&ures"_s, m_pictures));
+    boxes->addStretch(1);
+    column->addLayout(boxes);
     column->addWidget(m_newSheets);
     column->addWidget(m_facts);
     connect(m_paper, &QComboBox::currentIndexChanged, this,
