@@ -39,7 +39,7 @@ JournalPrintPanel::JournalPrintPanel(const Program &program, QWidget *window, QW
     , m_paper(named(new QComboBox(this), u"printPaper"_s))
     , m_pictures(named(new QComboBox(this), u"printPictures"_s))
     , m_newSheets(named(new QCheckBox(u"Each day on a &new sheet"_s, this), u"printNewSheets"_s))
-    , m_facts(named(new QCheckBox(u"What other &functions have for the days"_s, this), u"printFacts"_s))
+    , m_facts(named(new QCheckBox(u"What other fun&ctions have for the days"_s, this), u"printFacts"_s))
 {
     auto *content = new QWidget(this);
     auto *column = new QVBoxLayout(content);
@@ -90,7 +90,7 @@ QWidget *JournalPrintPanel::makeHow()
     auto *boxes = new QHBoxLayout;
     boxes->setSpacing(12);
     boxes->addLayout(labelled(u"Pape&r"_s, m_paper));
-    boxes->addLayout(labelled(u"Pict&ures"_s, m_pictures));
+    boxes->addLayout(labelled(u"P&ictures"_s, m_pictures));
     boxes->addStretch(1);
     column->addLayout(boxes);
     column->addWidget(m_newSheets);

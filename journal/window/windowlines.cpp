@@ -109,7 +109,7 @@ QString JournalWindowLines::nearbyDaysToo()
 
 QString JournalWindowLines::nearbyDays()
 {
-    return u"&Nearby"_s;
+    return u"Nearby"_s;
 }
 
 QString JournalWindowLines::nothingWritten()
