@@ -18,7 +18,7 @@ NewPasswordForm::NewPasswordForm(const QString &name, Words words, Strength stre
     , m_strength(std::move(strength))
     , m_password(named(new QLineEdit(this), name))
     , m_again(named(new QLineEdit(this), name + u"Again"_s))
-    , m_show(named(new QCheckBox(u"&Show password"_s, this), name + u"Show"_s))
+    , m_show(named(new QCheckBox(u"Sho&w password"_s, this), name + u"Show"_s))
     , m_words(named(makeQuietLabel({}, this), name + u"Strength"_s))
 {
     auto *rows = new QVBoxLayout(this);
