@@ -38,7 +38,7 @@ void JournalDamage::makePanel()
     rows->addWidget(m_list, 1);
     m_panel->setWork(content);
     m_panel->setFocusProxy(m_list);
-    QPushButton *show = m_panel->addButton(u"showDamaged"_s, u"&Show the Day"_s, ButtonKind::Main);
+    QPushButton *show = m_panel->addButton(u"showDamaged"_s, u"Show the &Day"_s, ButtonKind::Main);
     m_panel->setLeaveButton(u"damageClose"_s, u"C&lose"_s);
     connect(show, &QPushButton::clicked, this, &JournalDamage::goToChosen);
     connect(m_list, &QListWidget::itemActivated, this, &JournalDamage::goToChosen);

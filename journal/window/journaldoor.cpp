@@ -110,7 +110,7 @@ void JournalDoor::showTrouble(bool isLater)
     auto *page = named(new EmptyPage("journal"_L1, sentence, words), u"journalTrouble"_s);
     m_trouble = page;
     if (!isLater) {
-        QPushButton *aside = makeButton(u"setAside"_s, u"&Set Aside..."_s, page, ButtonKind::Main);
+        QPushButton *aside = makeButton(u"setAside"_s, u"Set &Aside..."_s, page, ButtonKind::Main);
         setUnavailable(aside, m_desk.program.folder.whyReadOnly());
         connect(aside, &QPushButton::clicked, this, &JournalDoor::setYearsAside);
         page->addButton(aside);

@@ -25,7 +25,11 @@ JournalLockPanel::JournalLockPanel(QWidget *parent)
     rows->setContentsMargins({});
     rows->setSpacing(12);
     m_minutes->setRange(1, mostMinutes);
-    m_minutes->setSuffix(u" minutes"_s);
+    const auto count = [this](int minutes) {
+        m_minutes->setSuffix(minutes == 1 ? u" minute"_s : u" minutes"_s);
+    };
+    connect(m_minutes, &QSpinBox::valueChanged, this, count);
+    count(m_minutes->value());
     m_minutes->setFixedWidth(boxWidth(u"60 minutes"_s, numberWidth));
     rows->addLayout(labelled(u"Lock the journal after so long without key or mouse"_s, m_minutes));
     rows->addWidget(m_minimised);
@@ -36,7 +40,7 @@ JournalLockPanel::JournalLockPanel(QWidget *parent)
     rows->addStretch(1);
     setContent(content);
     setFocusProxy(m_minutes);
-    QPushButton *saving = addButton(u"keepLock"_s, u"&Save"_s, ButtonKind::Main);
+    QPushButton *saving = addButton(u"keepLock"_s, u"S&ave"_s, ButtonKind::Main);
     setLeaveButton(u"lockClose"_s, u"C&lose"_s);
     connect(saving, &QPushButton::clicked, this, &JournalLockPanel::accepted);
 }
