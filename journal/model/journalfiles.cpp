@@ -16,6 +16,7 @@ namespace {
 
 const QString beginning = u"DJour"_s;
 const QString ending = u".Fil"_s;
+const QString aside = u" set aside"_s;
 constexpr qsizetype digits = 4;
 
 /// The year of which `name` is the file; 0 for any other file.
@@ -29,6 +30,14 @@ int yearOf(const QString &name)
         std::ranges::all_of(number, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
     const int year = isNumber ? number.toInt() : 0;
     return year >= JournalForm::firstYear ? year : 0;
+}
+
+/// "DJour2026 set aside.Fil", "DJour2026 set aside 2.Fil"
+bool wasSetAside(const QString &name)
+{
+    const qsizetype at = beginning.size() + digits;
+    return name.sliced(std::min(at, name.size())).startsWith(aside, Qt::CaseInsensitive) &&
+           yearOf(name.first(at) + ending) > 0 && name.endsWith(ending, Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -51,9 +60,32 @@ QList<int> JournalFiles::years(const DataFolder &folder)
     return years;
 }
 
+QStringList JournalFiles::names(const DataFolder &folder)
+{
+    QStringList names;
+    QDirIterator files(folder.path(), QDir::Files | QDir::Hidden);
+    while (files.hasNext()) {
+        files.next();
+        if (const QString name = files.fileName(); isOfYear(name) || wasSetAside(name))
+            names.append(name);
+    }
+    names.sort();
+    return names;
+}
+
+bool JournalFiles::isOfYear(const QString &name)
+{
+    return yearOf(name) > 0;
+}
+
 std::optional<QByteArray> JournalFiles::read(const DataFolder &folder, int year)
 {
-    const QString path = folder.filePath(name(year));
+    return read(folder, name(year));
+}
+
+std::optional<QByteArray> JournalFiles::read(const DataFolder &folder, const QString &name)
+{
+    const QString path = folder.filePath(name);
     if (!QFileInfo::exists(path))
         return QByteArray();
     QFile file(path);
@@ -80,14 +112,14 @@ FileStamp JournalFiles::stamp(const DataFolder &folder, int year)
 
 QString JournalFiles::setAside(const DataFolder &folder, int year)
 {
-    const QString plain = beginning + QString::number(year) + u" set aside"_s;
-    QString aside = plain + ending;
-    for (int number = 2; folder.exists(aside); ++number)
-        aside = plain + u' ' + QString::number(number) + ending;
+    const QString plain = beginning + QString::number(year) + aside;
+    QString free = plain + ending;
+    for (int number = 2; folder.exists(free); ++number)
+        free = plain + u' ' + QString::number(number) + ending;
     const QString path = folder.filePath(name(year));
     if (folder.isReadOnly() || !QFileInfo::exists(path) ||
-        !Disk::renameOver(path, folder.path() + u'/' + aside))
+        !Disk::renameOver(path, folder.path() + u'/' + free))
         return {};
     Disk::flushNames(folder.path());
-    return aside;
+    return free;
 }

@@ -18,9 +18,16 @@ QString name(int year);
 /// The years that have a file, in ascending order; nothing of them is read.
 QList<int> years(const DataFolder &folder);
 
+/// The names of the files of the years and of those that were set aside, in order.
+QStringList names(const DataFolder &folder);
+/// Whether it is the name of a year's file, and of none that was set aside.
+bool isOfYear(const QString &name);
+
 /// What the file of `year` holds, nothing where it is missing; no value, and a line in the log, where it
 /// cannot be read.
 std::optional<QByteArray> read(const DataFolder &folder, int year);
+/// The same for one of `names`.
+std::optional<QByteArray> read(const DataFolder &folder, const QString &name);
 
 /// Whether the file of `year` is sealed, by any version.
 bool isSealed(const DataFolder &folder, int year);

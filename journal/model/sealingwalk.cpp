@@ -51,6 +51,30 @@ bool SealingWalk::isComplete() const
            (m_isSealGone || !m_seal.isBeingOpened());
 }
 
+QStringList SealingWalk::leftUnsealed(const DataFolder &folder)
+{
+    QStringList left = JournalFiles::names(folder);
+    left.removeIf([&folder](const QString &name) {
+        const std::optional<QByteArray> bytes = JournalFiles::read(folder, name);
+        if (!bytes)
+            return false;
+        const bool isReached =
+            JournalFiles::isOfYear(name) && JournalForm::formOf(*bytes) == JournalForm::Form::Plain;
+        return isReached || bytes->isEmpty() || SealedYear::isSealed(*bytes);
+    });
+    return left;
+}
+
+QStringList SealingWalk::leftSealed(const DataFolder &folder)
+{
+    QStringList left = JournalFiles::names(folder);
+    left.removeIf([&folder](const QString &name) {
+        const std::optional<QByteArray> bytes = JournalFiles::read(folder, name);
+        return !bytes || !SealedYear::isSealed(*bytes);
+    });
+    return left;
+}
+
 bool SealingWalk::walk(int year)
 {
     const std::optional<QByteArray> bytes = JournalFiles::read(m_seal.folder(), year);

@@ -4,6 +4,7 @@
 #include "journal/model/journalseal.h"
 
 #include <QList>
+#include <QStringList>
 
 /// The walk over the years that seals them, opens the seal, or renews their copies of the key record: a year
 /// a step. What it leaves when it is cut short can be read, sealed and plain years side by side, and a new
@@ -27,6 +28,12 @@ public:
     const QList<int> &heldBack() const { return m_heldBack; }
     /// Whether every year is what it should be, and the key file too.
     bool isComplete() const;
+
+    /// The files of the journal that sealing leaves readable: what this version cannot read (of another
+    /// program, of a later version, not text), and what was set aside.
+    static QStringList leftUnsealed(const DataFolder &folder);
+    /// Those that are sealed.
+    static QStringList leftSealed(const DataFolder &folder);
 
 private:
     enum class Work { None, Seal, Open, Renew };

@@ -68,7 +68,7 @@ void JournalFront::goIn(const QString &line, bool isByCode)
     if (m_desk.journal.isModified()) // what the disk had refused before
         m_desk.day.save();
     emit said(line);
-    m_sealer->goOn(isByCode);
+    m_sealer->goOn(line, isByCode);
 }
 
 /// No box that stands open holds it up.

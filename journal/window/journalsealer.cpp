@@ -103,9 +103,10 @@ void JournalSealer::addCommands(QMenu *utilities)
         u"mUCode"_s, u"New Re&covery Code..."_s, [this] { makeCode(); }, &JournalSealer::whyNotOpen);
 }
 
-void JournalSealer::goOn(bool isByCode)
+void JournalSealer::goOn(const QString &line, bool isByCode)
 {
-    walk({});
+    m_before = line;
+    walk(nullptr);
     if (isByCode)
         openPanel(SealPanel::Forgotten);
 }
@@ -118,8 +119,7 @@ QString JournalSealer::strengthOf(const QString &typed) const
     const auto strength = PasswordStrength::of(typed, {.isWord = [&writing](const QString &text) {
                                                    return writing.spelling().isInDictionary(text);
                                                }});
-    return strength.isWeak() ? QString(strength.words() + u". "_s + SealLines::weakPassword())
-                             : strength.words();
+    return SealLines::strength(strength);
 }
 
 void JournalSealer::openPanel(SealPanel::Kind kind)
@@ -128,7 +128,7 @@ void JournalSealer::openPanel(SealPanel::Kind kind)
         return;
     if (kind == SealPanel::Seal && seal().isOpen()) { // half opened: its password stays
         if (seal().setBeingOpened(false))
-            walk(SealLines::sealed());
+            walk([this] { return sealedWords(); });
         else
             emit said(SealLines::notChanged());
         return;
@@ -141,7 +141,8 @@ void JournalSealer::openPanel(SealPanel::Kind kind)
     m_kind = kind;
     m_desk.window.closePreview();
     m_desk.views.open(m_panel);
-    m_panel->start(kind);
+    m_panel->start(kind, kind == SealPanel::Seal ? SealingWalk::leftUnsealed(m_desk.program.folder)
+                                                 : QStringList());
     m_panel->setFocus();
 }
 
@@ -232,12 +233,12 @@ void JournalSealer::useCode()
     if (made->password) {
         if (seal().create(*made->password, made->codeKey)) {
             m_desk.program.functions.forgetSearch(Function::Journal);
-            walk(SealLines::sealed());
+            walk([this] { return sealedWords(); });
         } else {
             emit said(SealLines::notSealed());
         }
     } else if (seal().changeCode(made->codeKey)) {
-        walk(SealLines::codeMade());
+        walk(&SealLines::codeMade);
     } else {
         emit said(SealLines::notChanged());
     }
@@ -262,7 +263,7 @@ void JournalSealer::openSeal(const QString &password)
              }
              m_panel->leave();
              if (seal().setBeingOpened(true))
-                 walk(SealLines::sealOpened());
+                 walk([this] { return openedWords(); });
              else
                  emit said(SealLines::notChanged());
          });
@@ -294,42 +295,60 @@ void JournalSealer::changePassword(const QString &old, const QString &password)
                 return;
             }
             m_panel->leave();
-            walk(SealLines::passwordChanged());
+            walk(&SealLines::passwordChanged);
         });
+}
+
+QString JournalSealer::sealedWords() const
+{
+    return SealLines::sealed(SealingWalk::leftUnsealed(m_desk.program.folder));
+}
+
+QString JournalSealer::openedWords() const
+{
+    return SealLines::sealOpened(SealingWalk::leftSealed(m_desk.program.folder));
 }
 
 /// Brings the years to what was decided. Without words for its end, it finishes one that was cut short, if
 /// any.
-void JournalSealer::walk(const QString &done)
+void JournalSealer::walk(const Words &done)
 {
-    const bool isOpening = seal().isBeingOpened();
+    Words words = done;
+    if (seal().isBeingOpened())
+        words = [this] { return openedWords(); };
     m_walk = std::make_unique<SealingWalk>(seal());
     disconnect(m_walking, &SlicedWork::finished, this, nullptr);
     if (m_walk->count() == 0) {
-        endWalk(isOpening ? SealLines::sealOpened() : done);
+        endWalk(words);
         return;
     }
     m_desk.setBusy(true);
-    const QString sealed = done.isEmpty() ? SealLines::sealed() : done;
-    const QString words = isOpening ? SealLines::sealOpened() : sealed;
+    if (!words)
+        words = [this] { return sealedWords(); };
     connect(m_walking, &SlicedWork::finished, this, [this, words] { endWalk(words); });
     m_walking->start([this] { return m_walk && m_walk->step(); });
 }
 
-void JournalSealer::endWalk(const QString &done)
+void JournalSealer::endWalk(const Words &done)
 {
     m_desk.setBusy(false);
     emit progressed(0, 0);
     const auto walk = std::exchange(m_walk, nullptr);
+    const QString before = std::exchange(m_before, {});
     if (!walk)
         return;
     emit walked();
+    QStringList lines;
     if (!walk->refused().isEmpty())
-        emit said(SealLines::walkRefused(walk->refused()));
-    else if (!walk->heldBack().isEmpty())
-        emit said(SealLines::heldBack(walk->heldBack()));
-    else if (!done.isEmpty())
-        emit said(done);
+        lines.append(SealLines::walkRefused(SealLines::namesOf(walk->refused())));
+    if (!walk->heldBack().isEmpty())
+        lines.append(SealLines::heldBack(walk->heldBack()));
+    if (lines.isEmpty() && !walk->isComplete())
+        lines.append(SealLines::walkRefused({JournalSeal::keyFile}));
+    if (lines.isEmpty() && done)
+        lines.append(done());
+    if (!lines.isEmpty())
+        emit said(SealLines::together(QStringList(before) + lines));
     m_desk.commands.refresh();
 }
 
@@ -337,6 +356,7 @@ void JournalSealer::forget()
 {
     m_made.reset();
     m_walk.reset();
+    m_before.clear();
     if (m_code)
         m_code->forget();
     if (m_panel)

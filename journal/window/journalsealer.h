@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class JournalCodePanel;
@@ -26,8 +27,8 @@ public:
 
     void addCommands(QMenu *utilities);
     /// The journal was unlocked: a walk that was cut short is finished, and whoever came by the recovery code
-    /// is asked for a new password.
-    void goOn(bool isByCode);
+    /// is asked for a new password. `line` is what the unlocking says: what the walk says goes behind it.
+    void goOn(const QString &line, bool isByCode);
     /// The journal is locked: a walk ends behind the year that it is at, and nothing that was typed or made
     /// is left.
     void forget();
@@ -57,8 +58,11 @@ private:
     void useCode();
     void openSeal(const QString &password);
     void changePassword(const QString &old, const QString &password);
-    void walk(const QString &done);
-    void endWalk(const QString &done);
+    using Words = std::function<QString()>;
+    void walk(const Words &done);
+    void endWalk(const Words &done);
+    QString sealedWords() const;
+    QString openedWords() const;
     void work(const std::function<void()> &slow, const std::function<void()> &then);
 
     JournalDesk m_desk;
@@ -68,5 +72,6 @@ private:
     SealPanel *m_panel = nullptr;
     JournalCodePanel *m_code = nullptr;
     SealPanel::Kind m_kind = SealPanel::Seal;
-    MadeKeys m_made; ///< keys that wait for the code to be typed in
+    QString m_before; ///< what the unlocking has said
+    MadeKeys m_made;  ///< keys that wait for the code to be typed in
 };

@@ -16,6 +16,7 @@
 #include "journal/window/openday.h"
 #include "journal/window/pagecommands.h"
 #include "journal/window/picturecommands.h"
+#include "journal/window/seallines.h"
 #include "journal/window/windowlines.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
@@ -225,8 +226,7 @@ void DJournal::connectParts()
     });
     connect(m_reading, &SlicedWork::progressed, m_pane, &JournalPane::refresh);
     connect(m_reading, &SlicedWork::finished, this, [this] {
-        if (const QString damaged = m_damage->summary(); !damaged.isEmpty())
-            activity().say(damaged);
+        sayDamage();
         m_pane->refresh();
         m_page->setKnownTags(m_journal.tags().keys());
         commands().refresh();
@@ -235,7 +235,10 @@ void DJournal::connectParts()
 
 void DJournal::connectFront()
 {
-    connect(m_front, &JournalFront::said, this, [this](const QString &line) { activity().say(line); });
+    connect(m_front, &JournalFront::said, this, [this](const QString &line) {
+        m_saidOfSeal = line;
+        activity().say(line);
+    });
     connect(m_front, &JournalFront::progressed, &activity(),
             [this](int done, int total) { activity().showProgress(done, total); });
     connect(m_front, &JournalFront::codePrintWanted, m_print, &JournalPrint::showRecoverySheet);
@@ -318,6 +321,16 @@ void DJournal::readOn()
     if (!m_front->isOpen())
         return;
     m_reading->start([this] { return m_journal.readNext(m_day->date().year()); });
+}
+
+/// Behind what the seal has just said, which is not to be lost.
+void DJournal::sayDamage()
+{
+    const QString damaged = m_damage->summary();
+    const QString said = activity().message();
+    if (damaged.isEmpty() || said.contains(damaged))
+        return;
+    activity().say(said == m_saidOfSeal ? SealLines::together({said, damaged}) : damaged);
 }
 
 void DJournal::watchYears()

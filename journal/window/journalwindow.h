@@ -55,6 +55,7 @@ private:
     void goTo(QDate date);
     void followDay();
     void readOn();
+    void sayDamage();
     void watchYears();
     void copy();
     QString whyNone() const;
@@ -76,5 +77,6 @@ private:
     SlicedWork *m_reading; ///< the other years, once the window is seen
     QTimer m_following;    ///< shows what is known of the page once the keys rest
     QDate m_before;        ///< the day from which a search was begun
+    QString m_saidOfSeal;  ///< what was said last of the seal
     QDate m_left;          ///< the day that was open before the journal was locked, where it was not today
 };

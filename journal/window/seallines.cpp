@@ -7,13 +7,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString listOf(const QList<int> &years)
+/// "2019", "2019 and 2026", "2019, 2021 and 2026"
+QString listOf(const QStringList &names)
 {
-    QStringList names;
-    for (const int year : years)
-        names.append(QString::number(year));
-    return names.join(u", "_s);
+    if (names.size() < 2)
+        return names.join(QString());
+    return names.first(names.size() - 1).join(u", "_s) + u" and "_s + names.last();
 }
+
+constexpr double strong = 75; // bits
 
 QString recordOf(SealedLabel::Kind kind)
 {
@@ -49,9 +51,14 @@ QString SealLines::passwordMissing()
     return u"Type the password of the journal first."_s;
 }
 
-QString SealLines::weakPassword()
+QString SealLines::strength(const PasswordStrength &strength)
 {
-    return u"Under 50 bits it can be guessed; it is taken all the same."_s;
+    if (!strength.bits || strength.length == 0)
+        return strength.words();
+    if (strength.isWeak())
+        return u"Weak: %1. Under 50 bits it can be guessed; it is taken all the same."_s.arg(
+            strength.words());
+    return (*strength.bits < strong ? u"Fair: %1"_s : u"Strong: %1"_s).arg(strength.words());
 }
 
 QString SealLines::titleOf(SealPanel::Kind kind)
@@ -66,11 +73,12 @@ QString SealLines::titleOf(SealPanel::Kind kind)
     }
 }
 
-QString SealLines::wordsOf(SealPanel::Kind kind)
+QString SealLines::wordsOf(SealPanel::Kind kind, const QStringList &unsealed)
 {
     switch (kind) {
     case SealPanel::Seal:
-        return u"All years are encrypted with a password of the journal's own, and nobody reads them without it. Where that is forgotten, a recovery code opens them, which you print or write down next. This is another thing than the password in front of the window, which leaves the files readable; you can have both."_s;
+        return (unsealed.isEmpty() ? u"All years"_s : u"All years but what is named below"_s) +
+               u" are encrypted with a password of the journal's own, and nobody reads them without it. Where that is forgotten, a recovery code opens them, which you print or write down next. This is another thing than the password in front of the window, which leaves the files readable; you can have both."_s;
     case SealPanel::OpenSeal:
         return u"All years become readable files again, and the password and the recovery code end."_s;
     case SealPanel::Change:
@@ -80,20 +88,26 @@ QString SealLines::wordsOf(SealPanel::Kind kind)
     }
 }
 
-QString SealLines::factsOf(SealPanel::Kind kind)
+QString SealLines::factsOf(SealPanel::Kind kind, const QStringList &unsealed)
 {
     if (kind != SealPanel::Seal)
         return {};
-    return u"What it does not reach:\n\u2022 What you copy stays on the clipboard.\n\u2022 Pictures stay files that everybody can open.\n\u2022 Readable bytes of the years as they were may survive on the free space of the disk.\n\u2022 Older backups and snapshots keep the readable files."_s;
+    QString left;
+    if (!unsealed.isEmpty())
+        left =
+            u"\n\u2022 Not sealed, and readable as before: %1. What another program or a later version wrote, what is damaged, and what was set aside stays as it is."_s
+                .arg(listOf(unsealed));
+    return u"What it does not reach:"_s + left +
+           u"\n\u2022 What you copy stays on the clipboard.\n\u2022 Pictures stay files that everybody can open.\n\u2022 Readable bytes of the years as they were may survive on the free space of the disk.\n\u2022 Older backups and snapshots keep the readable files."_s;
 }
 
 QString SealLines::buttonOf(SealPanel::Kind kind)
 {
     switch (kind) {
     case SealPanel::Seal:
-        return u"&Seal"_s;
+        return u"Se&al"_s;
     case SealPanel::OpenSeal:
-        return u"&Open the Seal"_s;
+        return u"Open the Se&al"_s;
     default:
         return u"&Change"_s;
     }
@@ -112,6 +126,11 @@ QString SealLines::typeTheCode()
 QString SealLines::codeNotTyped()
 {
     return u"Type the code in from your paper first"_s;
+}
+
+QString SealLines::codeIsAnother()
+{
+    return u"That is not the code. Compare it with your paper."_s;
 }
 
 QString SealLines::isLocked()
@@ -184,14 +203,22 @@ QString SealLines::heldBySeal()
     return u"The disk refused what was typed; it is kept, sealed, until you open the journal again"_s;
 }
 
-QString SealLines::sealed()
+QString SealLines::sealed(const QStringList &unsealed)
 {
-    return u"The journal is sealed"_s;
+    if (unsealed.isEmpty())
+        return u"The journal is sealed"_s;
+    return (unsealed.size() == 1 ? u"The journal is sealed, but %1 is left readable"_s
+                                 : u"The journal is sealed, but %1 are left readable"_s)
+        .arg(listOf(unsealed));
 }
 
-QString SealLines::sealOpened()
+QString SealLines::sealOpened(const QStringList &sealed)
 {
-    return u"The seal is open: the journal's files are readable"_s;
+    if (sealed.isEmpty())
+        return u"The seal is open: the journal's files are readable"_s;
+    return (sealed.size() == 1 ? u"The seal is open, but %1 stays sealed, by another key or a later version"_s
+                               : u"The seal is open, but %1 stay sealed, by another key or a later version"_s)
+        .arg(listOf(sealed));
 }
 
 QString SealLines::passwordChanged()
@@ -209,19 +236,37 @@ QString SealLines::nothingChanged()
     return u"Nothing was changed"_s;
 }
 
-QString SealLines::walkRefused(const QList<int> &years)
+QString SealLines::walkRefused(const QStringList &names)
 {
-    return u"The disk refused %1; this is finished at the next unlocking"_s.arg(listOf(years));
+    return u"The disk refused %1; this is finished at the next unlocking"_s.arg(listOf(names));
 }
 
 QString SealLines::heldBack(const QList<int> &years)
 {
-    return u"%1 stays sealed: it holds records that do not open and would be lost"_s.arg(listOf(years));
+    return (years.size() == 1
+                ? u"The seal is half open: %1 stays sealed, for it holds records that do not open and would be lost"_s
+                : u"The seal is half open: %1 stay sealed, for they hold records that do not open and would be lost"_s)
+        .arg(listOf(namesOf(years)));
 }
 
 QString SealLines::codeMade()
 {
     return u"The new recovery code is in force; the one before opens nothing any more"_s;
+}
+
+QString SealLines::together(const QStringList &lines)
+{
+    QStringList said = lines;
+    said.removeAll(QString());
+    return said.join(u". "_s);
+}
+
+QStringList SealLines::namesOf(const QList<int> &years)
+{
+    QStringList names;
+    for (const int year : years)
+        names.append(QString::number(year));
+    return names;
 }
 
 QString SealLines::damage(const SealedDamage &damage, int year, DateStyle style)

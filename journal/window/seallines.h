@@ -3,9 +3,10 @@
 
 #include "journal/model/sealedyear.h"
 #include "journal/window/sealpanel.h"
+#include "shell/core/passwordstrength.h"
 #include "shell/core/programstate.h"
 
-#include <QString>
+#include <QStringList>
 
 /// The quiet words of the journal's seal.
 namespace SealLines {
@@ -14,17 +15,20 @@ QString passwordCaption();
 QString newPassword();
 QString newPasswordMissing();
 QString passwordMissing();
-QString weakPassword();
+/// "Fair: 20 characters, about 67 bits"
+QString strength(const PasswordStrength &strength);
 
 QString titleOf(SealPanel::Kind kind);
-QString wordsOf(SealPanel::Kind kind);
+/// `unsealed` are the files that a seal leaves as they are.
+QString wordsOf(SealPanel::Kind kind, const QStringList &unsealed);
 /// What the seal does not do.
-QString factsOf(SealPanel::Kind kind);
+QString factsOf(SealPanel::Kind kind, const QStringList &unsealed);
 QString buttonOf(SealPanel::Kind kind);
 
 QString codeWords();
 QString typeTheCode();
 QString codeNotTyped();
+QString codeIsAnother();
 
 QString isLocked();
 QString lockedWords();
@@ -43,14 +47,20 @@ QString keyFileLost(const QString &file);
 /// What was written last stays sealed in memory.
 QString heldBySeal();
 
-QString sealed();
-QString sealOpened();
+/// But for those files.
+QString sealed(const QStringList &unsealed);
+QString sealOpened(const QStringList &sealed);
 QString passwordChanged();
 QString notChanged();
 QString nothingChanged();
-QString walkRefused(const QList<int> &years);
+/// Years, or a file.
+QString walkRefused(const QStringList &names);
 QString heldBack(const QList<int> &years);
 QString codeMade();
+/// Lines that are said at once, one behind the other.
+QString together(const QStringList &lines);
+/// The years' names.
+QStringList namesOf(const QList<int> &years);
 
 /// "March 14, 2026: the entry is damaged and does not open"
 QString damage(const SealedDamage &damage, int year, DateStyle style);

@@ -23,9 +23,10 @@ SealPanel::SealPanel(NewPasswordForm::Strength strength, QWidget *parent)
     , m_form(new NewPasswordForm(u"newJournalPassword"_s,
                                  {SealLines::newPassword(), SealLines::newPasswordMissing()},
                                  std::move(strength), this))
-    , m_facts(makeQuietLabel({}, this))
+    , m_facts(named(makeQuietLabel({}, this), u"sealFacts"_s))
     , m_refusal(named(makeQuietLabel({}, this), u"sealRefusal"_s))
     , m_go(nullptr)
+    , m_close(nullptr)
 {
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
@@ -45,7 +46,7 @@ SealPanel::SealPanel(NewPasswordForm::Strength strength, QWidget *parent)
     rows->addStretch(1);
     setContent(content);
     m_go = addButton(u"sealGo"_s, {}, ButtonKind::Main);
-    setLeaveButton(u"sealClose"_s, u"C&lose"_s);
+    m_close = setLeaveButton(u"sealClose"_s, u"C&lose"_s);
     connect(m_go, &QPushButton::clicked, this, &SealPanel::choose);
     connect(m_old, &QLineEdit::returnPressed, this, [this] {
         if (m_kind == OpenSeal)
@@ -58,12 +59,12 @@ SealPanel::SealPanel(NewPasswordForm::Strength strength, QWidget *parent)
     connect(m_old, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
 }
 
-void SealPanel::start(Kind kind)
+void SealPanel::start(Kind kind, const QStringList &unsealed)
 {
     m_kind = kind;
     setTitle(SealLines::titleOf(kind));
-    m_words->setText(SealLines::wordsOf(kind));
-    m_facts->setText(SealLines::factsOf(kind));
+    m_words->setText(SealLines::wordsOf(kind, unsealed));
+    m_facts->setText(SealLines::factsOf(kind, unsealed));
     m_go->setText(SealLines::buttonOf(kind));
     const bool asksOld = kind == OpenSeal || kind == Change;
     m_oldPart->setVisible(asksOld);
@@ -106,12 +107,13 @@ void SealPanel::refuse(const QString &line)
 void SealPanel::setWorking(bool isWorking)
 {
     m_isWorking = isWorking;
-    if (m_go->hasFocus()) // greyed, the button would hand it on to the one that leaves
+    if (m_go->hasFocus() || m_close->hasFocus()) // greyed, a button would hand it on
         focusProxy()->setFocus();
     m_form->setEditable(!isWorking);
     m_old->setReadOnly(isWorking);
     setWords(isWorking ? SealLines::working() : QString());
-    setUnavailable(m_go, isWorking ? SealLines::working() : QString());
+    for (QPushButton *button : {m_go, m_close})
+        setUnavailable(button, isWorking ? SealLines::working() : QString());
 }
 
 void SealPanel::leave()

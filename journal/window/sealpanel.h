@@ -16,7 +16,8 @@ public:
 
     explicit SealPanel(NewPasswordForm::Strength strength, QWidget *parent = nullptr);
 
-    void start(Kind kind);
+    /// `unsealed` are the files that a seal leaves as they are.
+    void start(Kind kind, const QStringList &unsealed);
     void refuse(const QString &line);
     /// Something slow is under way.
     void setWorking(bool isWorking);
@@ -41,5 +42,6 @@ private:
     QLabel *m_facts;
     QLabel *m_refusal;
     QPushButton *m_go;
+    QPushButton *m_close;
     bool m_isWorking = false;
 };

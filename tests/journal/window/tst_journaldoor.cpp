@@ -9,6 +9,7 @@
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -22,6 +23,7 @@
 #include <functional>
 #include <iostream>
 #include <utility>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -84,6 +86,7 @@ private slots:
         keys(code.chopped(2));
         key(Qt::Key_Return);
         QVERIFY(isSeen("journalCodePanel") && !isOffered("codeKept"));
+        QCOMPARE(labelText("codeRefusal"), u"That is not the code. Compare it with your paper."_s);
         QVERIFY(!labelText("journalCode").contains(code.first(4))); // it is typed from paper
         QVERIFY(file(2026).startsWith("Quillery journal 1") && !m_test->folder.exists(u"DJourKey.Fil"_s));
         keys(code.last(2));
@@ -119,6 +122,43 @@ private slots:
         askToSeal();
         QTRY_VERIFY(isSeen("journalCodePanel"));
         QVERIFY(find<JournalCodePanel>("journalCodePanel")->code() != code);
+    }
+
+    /// Of another program, of a later version, no text, and set aside before.
+    void namesWhatItLeavesReadable()
+    {
+        const std::vector<std::pair<QString, QByteArray>> left = {
+            {u"DJour2013.Fil"_s, "Quillery journal 2\r\n=== 2013-05-05\r\n\r\nMay.\r\n"},
+            {u"DJour2014 set aside.Fil"_s, "Quillery journal 1\r\n=== 2014-05-05\r\n\r\nMay.\r\n"},
+            {u"DJour2016.Fil"_s, "Quillery journal 1\r\n" + QByteArray(700, '-') + QByteArray(1, '\0')},
+            {u"DJour2018.Fil"_s, "Dear diary"},
+        };
+        for (const auto &[name, bytes] : left)
+            m_test->setBytes(name, bytes);
+        m_test->setBytes(u"DJour2015.Fil"_s, {});
+        begin();
+        trigger("mUSeal");
+        const QString names = u"DJour2013.Fil, DJour2014 set aside.Fil, DJour2016.Fil and DJour2018.Fil"_s;
+        QVERIFY(labelText("sealFacts").contains(u"Not sealed, and readable as before: "_s + names + u'.'));
+        typeNewPassword(password);
+        QTRY_VERIFY(isSeen("journalCodePanel"));
+        typeCode();
+        QTRY_COMPARE(said(), u"The journal is sealed, but %1 are left readable"_s.arg(names));
+        for (const auto &[name, bytes] : left)
+            QCOMPARE(m_test->bytes(name), bytes);
+    }
+
+    void leavesNoWayOutWhileTheKeyIsMade()
+    {
+        begin();
+        const int interval = QApplication::doubleClickInterval();
+        QApplication::setDoubleClickInterval(60'000);
+        askToSeal();
+        QVERIFY(!isOffered("sealClose"));
+        QTRY_VERIFY(isSeen("journalCodePanel"));
+        QTest::mouseClick(find<QPushButton>("codeGivenUp"), Qt::LeftButton); // meant for the other one
+        QApplication::setDoubleClickInterval(interval);
+        QVERIFY(isSeen("journalCodePanel"));
     }
 
     void countsWrongAnswersAndTellsOfThem()
@@ -419,6 +459,33 @@ private slots:
         keys(u"Anew."_s);
         trigger("mOSave");
         QVERIFY(file(2026).contains(torn.last(296)));
+    }
+
+    /// And of wrong answers before that, and of the seal that it leaves half open.
+    void tellsOfDamageBehindWhatElseThereIsToSay()
+    {
+        beginSealed();
+        m_window->close();
+        for (const int year : {2019, 2026}) {
+            QByteArray torn = file(year);
+            torn[torn.size() - 10] = char(torn[torn.size() - 10] ^ 2);
+            m_test->setBytes(nameOf(year), torn);
+        }
+        openAgain();
+        answer(u"wrong"_s);
+        QTRY_VERIFY(isOffered("openJournal"));
+        answer(password);
+        const QString damaged = u". 2 records are damaged; November 21, 2019: "_s;
+        QTRY_VERIFY2(said().contains(damaged), qPrintable(said()));
+        QVERIFY2(said().startsWith(u"1 wrong answer since "_s), qPrintable(said()));
+        trigger("mUOpenSeal");
+        find<QLineEdit>("oldJournalPassword")->setText(password);
+        click("sealGo");
+        QTRY_VERIFY2(
+            said().startsWith(
+                u"The seal is half open: 2019 and 2026 stay sealed, for they hold records that do not open"_s),
+            qPrintable(said()));
+        QTRY_VERIFY2(said().contains(damaged), qPrintable(said()));
     }
 
     void setsAsideWhatNobodyCanOpen()
