@@ -8,13 +8,22 @@
 #include "storage/sealing/recoverycode.h"
 #include "storage/sealing/secretbytes.h"
 
+#include <QApplication>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int widest = 560;
 constexpr double codePoints = 18;
+
+/// Without the hyphens and spaces that a person sets or leaves out.
+qsizetype letters(const QString &code)
+{
+    return std::ranges::count_if(code, [](QChar sign) { return sign.isLetterOrNumber(); });
+}
 
 /// As long as the code, and telling nothing of it.
 QString hidden(QString code)
@@ -29,7 +38,9 @@ JournalCodePanel::JournalCodePanel(QWidget *parent)
     : TaskPanel(u"journalCodePanel"_s, u"Recovery Code"_s, parent)
     , m_shown(named(new QLabel(this), u"journalCode"_s))
     , m_typed(named(new QLineEdit(this), u"typedCode"_s))
+    , m_refusal(named(makeQuietLabel({}, this), u"codeRefusal"_s))
     , m_go(nullptr)
+    , m_leave(nullptr)
 {
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
@@ -48,16 +59,27 @@ JournalCodePanel::JournalCodePanel(QWidget *parent)
     m_typed->setFont(fixed);
     new PasteFilter(m_typed, Characters::All);
     rows->addLayout(labelled(SealLines::typeTheCode(), m_typed));
+    rows->addWidget(m_refusal);
     rows->addStretch(1);
     setContent(content);
     setFocusProxy(m_typed);
     QPushButton *printing = addButton(u"printJournalCode"_s, u"&Print or Save..."_s);
     m_go = addButton(u"codeKept"_s, u"&Go On"_s, ButtonKind::Main);
-    setLeaveButton(u"codeGivenUp"_s, u"C&ancel"_s);
-    connect(printing, &QPushButton::clicked, this, [this] { emit printWanted(m_code); });
+    m_leave = setLeaveButton(u"codeGivenUp"_s, u"C&ancel"_s);
+    connect(printing, &QPushButton::clicked, this, [this] {
+        m_typed->setFocus(); // behind the page, too
+        emit printWanted(m_code);
+    });
     connect(m_typed, &QLineEdit::textChanged, this, &JournalCodePanel::follow);
     connect(m_go, &QPushButton::clicked, this, &JournalCodePanel::kept);
-    connect(m_typed, &QLineEdit::returnPressed, m_go, &QPushButton::click);
+    connect(m_typed, &QLineEdit::returnPressed, this, [this] {
+        m_go->click();
+        if (!m_code.isEmpty() && !isTyped())
+            m_refusal->setText(m_typed->text().isEmpty() ? SealLines::codeNotTyped()
+                                                         : SealLines::codeIsAnother());
+    });
+    m_holding.setSingleShot(true);
+    connect(&m_holding, &QTimer::timeout, this, [this] { m_leave->setEnabled(true); });
 }
 
 void JournalCodePanel::show(const QString &code)
@@ -65,14 +87,27 @@ void JournalCodePanel::show(const QString &code)
     m_code = code;
     m_typed->setText({});
     follow();
+    holdLeaving();
+}
+
+void JournalCodePanel::holdLeaving()
+{
+    m_leave->setEnabled(false);
+    m_holding.start(QApplication::doubleClickInterval());
+}
+
+bool JournalCodePanel::isTyped() const
+{
+    const auto typed = RecoveryCode::read(m_typed->text());
+    return typed && typed == RecoveryCode::read(m_code);
 }
 
 void JournalCodePanel::follow()
 {
     m_shown->setText(m_typed->text().isEmpty() ? m_code : hidden(m_code));
-    const auto typed = RecoveryCode::read(m_typed->text());
-    const bool isSame = typed && typed == RecoveryCode::read(m_code);
-    setUnavailable(m_go, isSame ? QString() : SealLines::codeNotTyped());
+    setUnavailable(m_go, isTyped() ? QString() : SealLines::codeNotTyped());
+    const bool isWhole = !m_code.isEmpty() && letters(m_typed->text()) >= letters(m_code);
+    m_refusal->setText(isWhole && !isTyped() ? SealLines::codeIsAnother() : QString());
 }
 
 void JournalCodePanel::forget()

@@ -3,6 +3,8 @@
 
 #include "shell/controls/taskpanel.h"
 
+#include <QTimer>
+
 class QLineEdit;
 
 /// Shows a new recovery code of the journal, to be printed or written down: it goes on only when the code was
@@ -28,9 +30,15 @@ signals:
 
 private:
     void follow();
+    bool isTyped() const;
+    /// A click that was meant for the panel in front of this one is late.
+    void holdLeaving();
 
     QString m_code;
     QLabel *m_shown;
     QLineEdit *m_typed;
+    QLabel *m_refusal;
     QPushButton *m_go;
+    QPushButton *m_leave;
+    QTimer m_holding;
 };
