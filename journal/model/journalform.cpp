@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal/model/journalform.h"
 
+#include "journal/model/pictureplaces.h"
 #include "storage/utf8text.h"
 
 #include <QRegularExpression>
@@ -389,12 +390,13 @@ JournalEntry JournalForm::joined(const JournalEntry &first, const JournalEntry &
     both.tags += second.tags;
     both.pictures += second.pictures;
     both.otherLines += second.otherLines;
-    if (both.text.isEmpty()) {
-        both.text = second.text;
-    } else if (!second.text.isEmpty()) {
+    if (!second.text.isEmpty()) {
+        // Pictures without a place stand behind their own text, not behind that of both.
+        both.text = PicturePlaces::complete(first.text, first.pictures.size());
         while (both.text.endsWith(u'\n'))
             both.text.chop(1);
-        both.text += u"\n\n"_s + second.text;
+        both.text += both.text.isEmpty() ? QString() : u"\n\n"_s;
+        both.text += PicturePlaces::behind(second.text, first.pictures.size());
     }
     return tidied(both);
 }

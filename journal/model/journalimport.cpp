@@ -4,6 +4,7 @@
 #include "journal/model/journalform.h"
 #include "journal/model/journalwords.h"
 #include "journal/model/lines.h"
+#include "journal/model/pictureplaces.h"
 #include "shell/core/csvfile.h"
 #include "storage/utf8text.h"
 
@@ -39,11 +40,27 @@ QTime timeOf(const QString &digits, const QString &half)
     return QTime::fromString(digits + half.trimmed().toUpper(), u"h:mmAP"_s);
 }
 
-/// Whether the day has what would come under it.
-bool isThereAlready(const JournalEntry &there, const JournalEntry &incoming)
+/// Whether `lines` stand one behind the other in `text`.
+bool hasLines(const QString &text, const QString &lines)
 {
-    return incoming.text.trimmed().isEmpty() ? JournalForm::joined(there, incoming) == there
-                                             : there.text.contains(incoming.text);
+    return lines.trimmed().isEmpty() || QString(u'\n' + text + u'\n').contains(u'\n' + lines + u'\n');
+}
+
+/// The day with what comes in under it, as far as it has not got it.
+JournalEntry added(const JournalEntry &there, JournalEntry incoming)
+{
+    const qsizetype count = incoming.pictures.size();
+    for (qsizetype before = 0; before + count <= there.pictures.size(); ++before) {
+        if (there.pictures.sliced(before, count) != incoming.pictures ||
+            !hasLines(there.text, PicturePlaces::behind(incoming.text, before)))
+            continue;
+        incoming.text.clear();
+        incoming.pictures.clear();
+        incoming.written = {};
+        break;
+    }
+    incoming.otherLines.removeIf([&there](const QString &line) { return there.otherLines.contains(line); });
+    return JournalForm::joined(there, incoming);
 }
 
 } // namespace
@@ -192,7 +209,7 @@ void JournalImport::add(Piece piece)
     if (piece.problem.isEmpty()) {
         const QDate day = piece.entry.date;
         const std::optional<JournalEntry> there = m_journal.entry(day);
-        if (there && isThereAlready(*there, piece.entry))
+        if (there && added(*there, piece.entry) == *there)
             piece.problem = JournalLines::isThere();
         piece.isNewDay = !there && !m_days.contains(day);
         if (piece.problem.isEmpty())
@@ -252,9 +269,9 @@ QList<JournalEntry> JournalImport::take()
             continue;
         const QDate day = piece.entry.date;
         const std::optional<JournalEntry> there = m_journal.entry(day);
-        // The file can have a thing twice.
-        const bool isTwice = there && isThereAlready(*there, piece.entry);
-        if (!isTwice && !m_journal.put(there ? JournalForm::joined(*there, piece.entry) : piece.entry))
+        const JournalEntry now = there ? added(*there, piece.entry) : piece.entry;
+        const bool isTwice = now == there; // the file can have a thing twice
+        if (!isTwice && !m_journal.put(now))
             continue;
         if (!isTwice && !taken.contains(day)) {
             taken.insert(day);

@@ -24,16 +24,41 @@ std::optional<JournalEntry> entryOf(const Blocks &blocks, JournalBlock::Kind kin
     return entry && (!entry->isEmpty() || !entry->otherLines.isEmpty()) ? entry : std::nullopt;
 }
 
-/// A date that was changed here and elsewhere.
-Blocks merged(const Blocks &here, const Blocks &there)
+/// `entry` with what `other` says beside its text and `base`, from which both come, did not.
+JournalEntry withNewsOf(const JournalEntry &other, JournalEntry entry, const JournalEntry &base)
+{
+    const auto add = [](auto &list, const auto &others, const auto &former) {
+        std::ranges::copy_if(others, std::back_inserter(list), [&](const auto &each) {
+            return !list.contains(each) && !former.contains(each);
+        });
+    };
+    add(entry.tags, other.tags, base.tags);
+    add(entry.pictures, other.pictures, base.pictures);
+    add(entry.otherLines, other.otherLines, base.otherLines);
+    return JournalForm::tidied(entry);
+}
+
+JournalEntry merged(const JournalEntry &ours, const JournalEntry &theirs, const JournalEntry &base)
+{
+    if (theirs.text == base.text || ours.text.contains(theirs.text))
+        return withNewsOf(theirs, ours, base);
+    if (ours.text == base.text || theirs.text.contains(ours.text))
+        return withNewsOf(ours, theirs, base);
+    return JournalForm::joined(ours, theirs);
+}
+
+/// A date that was changed here and elsewhere since it was `base`.
+Blocks merged(const Blocks &here, const Blocks &there, const Blocks &base)
 {
     const auto ours = entryOf(here, JournalBlock::Entry);
     const auto theirs = entryOf(there, JournalBlock::Entry);
+    const JournalEntry former = entryOf(base, JournalBlock::Entry).value_or(JournalEntry());
+    const auto both = ours && theirs ? std::optional(merged(*ours, *theirs, former)) : std::nullopt;
     Blocks blocks;
-    if (ours && theirs && !ours->text.contains(theirs->text))
-        blocks.push_back(JournalForm::block(JournalForm::joined(*ours, *theirs), JournalBlock::Entry));
+    if (both && both != ours && both != theirs)
+        blocks.push_back(JournalForm::block(*both, JournalBlock::Entry));
     else
-        std::ranges::copy_if(ours ? here : there, std::back_inserter(blocks),
+        std::ranges::copy_if(ours && (!both || both == ours) ? here : there, std::back_inserter(blocks),
                              [](const JournalBlock &block) { return block.kind == JournalBlock::Entry; });
     const bool hasEarlier = entryOf(here, JournalBlock::Earlier).has_value();
     std::ranges::copy_if(hasEarlier ? here : there, std::back_inserter(blocks),
@@ -109,7 +134,7 @@ void JournalYear::mergeInto(JournalYear there)
         const Blocks ours = blocksOf(date);
         const Blocks theirs = there.blocksOf(date);
         const bool isChangedThere = theirs != base && theirs != ours;
-        there.replace(date, isChangedThere ? merged(ours, theirs) : ours);
+        there.replace(date, isChangedThere ? merged(ours, theirs, base) : ours);
         there.m_unsaved[date] = theirs;
     }
     *this = std::move(there);

@@ -52,6 +52,10 @@ private slots:
             {"bytes of Windows-1252 among UTF-8",
              "=== 2026-03-14\r\n\r\nCaf\xE9 caf\xC3\xA9 \x80\r\n",
              {u"2026-03-14: Caf\u00e9 caf\u00e9 \u20ac"_s}},
+            {"two entries of a day, each with its pictures",
+             "=== 2026-03-14\r\npicture a.jpg\r\npicture b.jpg\r\n\r\n[picture 2]\r\nOne\r\n"
+             "=== 2026-03-14\r\npicture c.jpg\r\n\r\nTwo\r\n[picture 1]\r\n",
+             {u"2026-03-14 <a.jpg> <b.jpg> <c.jpg>: [picture 2]/One/[picture 1]//Two/[picture 3]"_s}},
             {"no empty line",
              "=== 2026-03-14\r\nWe went to the sea.\r\n=== 2026-03-15\r\nsleep, all day\r\n",
              {u"2026-03-14: We went to the sea."_s, u"2026-03-15: sleep, all day"_s}},
@@ -229,6 +233,10 @@ private slots:
              journalHead + mine + earlier + "=== 2026-04-01\r\n\r\nTheirs\r\n"},
             {"the same day", journalHead + "=== 2026-03-14\r\n\r\nTheirs\r\n",
              journalHead + "=== 2026-03-14\r\n\r\nMine\r\n\r\nTheirs\r\n" + earlier},
+            {"the same day: its tags and a picture alone",
+             journalHead + "=== 2026-03-14\r\ntags sea\r\npicture a.jpg | A\r\nweather fine\r\n\r\nOne\r\n",
+             journalHead + "=== 2026-03-14\r\ntags sea\r\npicture a.jpg | A\r\nweather fine\r\n\r\nMine\r\n" +
+                 earlier},
             {"the day is gone", journalHead + "=== 2026-04-01\r\n\r\nTheirs\r\n",
              journalHead + mine + earlier + "=== 2026-04-01\r\n\r\nTheirs\r\n"},
             {"the file was emptied", "", journalHead + mine + earlier},

@@ -63,6 +63,16 @@ private slots:
               u"13 2026-03-14 There: Not taken: the day has it already"_s},
              there + "=== 2026-03-15\r\nwritten 2026-03-16 07:00\r\ntags sea\r\nweather fine\r\n\r\nOne\r\n"
                      "[2026-01-01] is text\r\n"},
+            {"parts of what is there, its tags, and a picture at its place",
+             "=== 2026-03-14\n\nTher\n=== 2026-03-14\ntags sea\npicture a.jpg\n\nThere\n[picture 1]\n"
+             "=== 2026-03-14\ntags sea, tea\n\nThere\n=== 2026-03-14\npicture a.jpg\n\nThere\n[picture 1]\n",
+             {u"1 2026-03-14 Ther: Will stand under what the day has"_s,
+              u"4 2026-03-14 There: Will stand under what the day has"_s,
+              u"10 2026-03-14 There: Will stand under what the day has"_s,
+              u"14 2026-03-14 There: Will stand under what the day has"_s},
+             journalHead + "=== 2026-03-14\r\ntags sea, tea\r\npicture "
+                           "a.jpg\r\n\r\nThere\r\n\r\nTher\r\n"
+                           "\r\nThere\r\n[picture 1]\r\n=== 2026-03-14 earlier\r\n\r\nThere\r\n"},
             {"a year that cannot be written to",
              "[2019-05-01 08:00] Sea\n",
              {u"1 2019-05-01 08:00 Sea: Not taken: 2019 cannot be written to"_s},
