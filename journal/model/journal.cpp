@@ -34,6 +34,18 @@ QString whyReadOnly(JournalForm::Form form, int year)
     return JournalLines::foreignFile(JournalFiles::name(year));
 }
 
+/// Whether `now` is what `before` was, and something is gone from it at one place.
+bool isCutFrom(const JournalEntry &before, const JournalEntry &now)
+{
+    if (now.tags.size() > before.tags.size() || now.pictures.size() > before.pictures.size() ||
+        now.text.size() >= before.text.size())
+        return false;
+    const QString &text = now.text;
+    const auto begin = std::ranges::mismatch(text, before.text).in1 - text.begin();
+    const auto end = std::mismatch(text.rbegin(), text.rend(), before.text.rbegin()).first - text.rbegin();
+    return begin + end >= text.size();
+}
+
 } // namespace
 
 Journal::Journal(const DataFolder &folder, const Clock &clock, QObject *parent, PasswordCost cost)
@@ -215,12 +227,23 @@ QMap<QString, int> Journal::tags() const
     return tags;
 }
 
+/// Of a day that was changed before the journal was locked, only the year knows what it was like.
 Journal::Before &Journal::before(JournalYear &year, QDate date)
 {
     const auto known = m_sitting.find(date);
     if (known != m_sitting.end())
         return known->second;
     Before before{.blocks = year.blocksOf(date), .entry = year.entry(date, JournalBlock::Entry)};
+    before.last = before.entry;
+    if (m_changedBefore.contains(date)) {
+        before.entry = year.entry(date, JournalBlock::Earlier);
+        before.blocks.clear();
+        if (before.entry) {
+            before.blocks.push_back(JournalForm::block(*before.entry, JournalBlock::Entry));
+            if (!before.last || isCutFrom(*before.entry, *before.last))
+                before.last = before.entry;
+        }
+    }
     before.written = before.entry ? before.entry->written : m_clock.now();
     return m_sitting.emplace(date, before).first->second;
 }
@@ -230,30 +253,55 @@ bool Journal::put(const JournalEntry &entry)
     if (!mayBeWritten(entry.date))
         return false;
     JournalYear &year = yearOf(entry.date.year());
-    const Before &before = this->before(year, entry.date);
+    Before &before = this->before(year, entry.date);
     JournalEntry now = entry;
     if (!now.written.isValid())
         now.written = before.written;
-    now = JournalForm::tidied(now);
-
-    JournalBlocks blocks;
-    if (before.entry ? now == *before.entry : now.isEmpty()) {
-        blocks = before.blocks;
-    } else {
-        if (!now.isEmpty())
-            blocks.push_back(JournalForm::block(now, JournalBlock::Entry));
-        if (before.entry)
-            blocks.push_back(JournalForm::block(*before.entry, JournalBlock::Earlier));
-        else
-            std::ranges::copy_if(before.blocks, std::back_inserter(blocks), [](const JournalBlock &block) {
-                return block.kind == JournalBlock::Earlier;
-            });
-    }
     const qint64 revision = year.revision;
-    year.replace(entry.date, blocks);
+    year.replace(entry.date, blocksFor(JournalForm::tidied(now), before));
     if (year.revision != revision)
         emit changed(entry.date);
     return true;
+}
+
+JournalBlocks Journal::blocksFor(const JournalEntry &now, Before &before)
+{
+    if (before.entry && now == *before.entry)
+        return before.blocks;
+    std::optional<JournalEntry> earlier = before.entry;
+    JournalBlocks blocks;
+    if (now.isEmpty()) {
+        earlier = before.wiped = before.last;
+    } else {
+        if (!before.last || !isCutFrom(*before.last, now))
+            before.last = now;
+        if (before.wiped == now)
+            before.wiped.reset();
+        if (before.wiped)
+            earlier = before.wiped;
+        blocks.push_back(JournalForm::block(now, JournalBlock::Entry));
+    }
+    if (earlier)
+        blocks.push_back(JournalForm::block(*earlier, JournalBlock::Earlier));
+    else
+        std::ranges::copy_if(before.blocks, std::back_inserter(blocks),
+                             [](const JournalBlock &block) { return block.kind == JournalBlock::Earlier; });
+    return blocks;
+}
+
+bool Journal::takeBack(const JournalEntry &entry)
+{
+    if (!mayBeWritten(entry.date))
+        return false;
+    Before &before = this->before(yearOf(entry.date.year()), entry.date);
+    before.last = before.wiped ? before.wiped : before.entry;
+    return put(entry);
+}
+
+void Journal::beginSitting()
+{
+    m_sitting.clear();
+    m_changedBefore.clear();
 }
 
 bool Journal::deleteForGood(QDate date)
@@ -345,6 +393,11 @@ bool Journal::isLocked()
 /// What the disk refused stays, but sealed; all else goes.
 void Journal::becomeLocked()
 {
+    for (const auto &[date, before] : m_sitting) {
+        const auto year = m_years.find(date.year());
+        if (year != m_years.end() && year->second.blocksOf(date) != before.blocks)
+            m_changedBefore.insert(date);
+    }
     for (auto &[number, year] : m_years) {
         const QList<QDate> dates = year.modifiedDates();
         JournalBlocks blocks;
@@ -361,8 +414,10 @@ void Journal::becomeLocked()
     }
     m_years.clear();
     for (auto &[date, before] : m_sitting) {
-        if (before.entry)
-            SecretBytes::wipe(before.entry->text);
+        for (std::optional<JournalEntry> *entry : {&before.entry, &before.last, &before.wiped}) {
+            if (*entry)
+                SecretBytes::wipe((*entry)->text);
+        }
         for (JournalBlock &block : before.blocks)
             SecretBytes::wipe(block.bytes);
     }

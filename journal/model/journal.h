@@ -12,6 +12,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 
 /// The journal of a household: a file a year, each read when it is first needed and kept from then on. What
 /// is put into it stays in memory until a save has brought it to the disk.
@@ -59,12 +60,15 @@ public:
     QMap<QString, int> tags() const;
 
     /// Takes what was written for its date; an empty entry is a deleted one. What the day was like before
-    /// this sitting becomes its earlier version. False where the year may not be written to.
+    /// this sitting becomes its earlier version; of one that is deleted, what it was like last. False where
+    /// the year may not be written to.
     [[nodiscard]] bool put(const JournalEntry &entry);
+    /// The same for what came in and is not wanted: it leaves no earlier version.
+    [[nodiscard]] bool takeBack(const JournalEntry &entry);
     /// The day goes, and its earlier version too: there is no way back.
     [[nodiscard]] bool deleteForGood(QDate date);
-    /// What comes is another sitting: days are compared with what they are now.
-    void beginSitting() { m_sitting.clear(); }
+    /// What comes is another sitting: days are compared with what they are now. Locking begins none.
+    void beginSitting();
 
     /// Also while it is locked with something that the disk had refused.
     bool isModified() const;
@@ -85,7 +89,9 @@ private:
     struct Before {
         JournalBlocks blocks{};
         std::optional<JournalEntry> entry{};
-        QDateTime written{}; ///< what an entry that is new gets
+        QDateTime written{};                 ///< what an entry that is new gets
+        std::optional<JournalEntry> last{};  ///< as it was since, before something was only taken away
+        std::optional<JournalEntry> wiped{}; ///< as it was when it was deleted since
     };
 
     /// What the disk had refused before the journal was locked: changed dates, and their blocks, sealed.
@@ -102,6 +108,8 @@ private:
     void sealChanged();
     [[nodiscard]] bool saveYear(int number, JournalYear &year);
     Before &before(JournalYear &year, QDate date);
+    /// What a day that is `now` has in the year.
+    static JournalBlocks blocksFor(const JournalEntry &now, Before &before);
 
     const DataFolder &m_folder;
     const Clock &m_clock;
@@ -110,5 +118,6 @@ private:
     std::map<int, Held> m_held;
     std::map<int, JournalYear> m_years;
     std::map<QDate, Before> m_sitting;
-    qint64 m_readings = 0; ///< so that no year has a revision twice
+    std::set<QDate> m_changedBefore; ///< in this sitting, but before the journal was locked
+    qint64 m_readings = 0;           ///< so that no year has a revision twice
 };

@@ -90,7 +90,7 @@ void JournalExchange::takeBack()
     m_desk.day.take();
     int changed = 0;
     for (const auto &[before, after] : m_cameIn) {
-        if (entryOf(before.date) != after || !m_desk.journal.put(before))
+        if (entryOf(before.date) != after || !m_desk.journal.takeBack(before))
             ++changed;
     }
     const int count = int(std::exchange(m_cameIn, {}).size());

@@ -175,14 +175,34 @@ private slots:
         const QByteArray earlier = "=== 2026-03-14 earlier\r\n" + two;
         QCOMPARE(saved(), journalHead + "=== 2026-03-14\r\nwritten 2026-11-23 08:50\r\n\r\ny\r\n" + earlier);
         QVERIFY(journal.put(written(day, u" \n"_s)));
-        QCOMPARE(saved(), journalHead + earlier);
+        QCOMPARE(saved(), journalHead + "=== 2026-03-14 earlier\r\nwritten 2026-11-23 08:50\r\n\r\ny\r\n");
         QVERIFY(!journal.entry(day) && journal.dates(2026).isEmpty());
         QVERIFY(journal.put(*journal.earlier(day)));
+        QCOMPARE(saved(), journalHead + "=== 2026-03-14\r\nwritten 2026-11-23 08:50\r\n\r\ny\r\n" + earlier);
+        QVERIFY(journal.put(written(day, u"One, two"_s)));
         QCOMPARE(saved(), journalHead + "=== 2026-03-14\r\n" + two);
 
         QVERIFY(journal.deleteForGood(day));
         QVERIFY(journal.put(written(day, {})));
         QCOMPARE(saved(), journalHead);
+    }
+
+    /// Also bit by bit, and where something else is written then.
+    void keepsWhatIsDeletedInTheSittingThatBeganIt()
+    {
+        const TestFolder folder;
+        Journal journal(folder.folder(), m_clock);
+        const QByteArray earlier =
+            journalHead + "=== 2026-03-14 earlier\r\nwritten 2026-11-23 08:50\r\n\r\nOne two three\r\n";
+        for (const QString &text : {u"One two three"_s, u"One three"_s, u"One"_s, QString(), QString()})
+            QVERIFY(journal.put(written(day, text)) && journal.save());
+        QCOMPARE(folder.bytes(file), earlier);
+        QVERIFY(journal.put(written(day, u"Four"_s)) && journal.save());
+        QCOMPARE(folder.bytes(file),
+                 QByteArray(earlier).insert(journalHead.size(),
+                                            "=== 2026-03-14\r\nwritten 2026-11-23 08:50\r\n\r\nFour\r\n"));
+        QVERIFY(journal.put(*journal.earlier(day)) && journal.save());
+        QCOMPARE(folder.bytes(file), QByteArray(earlier).replace(" earlier", ""));
     }
 
     void putsBackTheBytesThatUndoComesBackTo()

@@ -99,7 +99,7 @@ private slots:
         QVERIFY(journal.save());
         QCOMPARE(folder.bytes(file), after);
         for (const JournalEntry &entry : before)
-            QVERIFY(journal.put(entry));
+            QVERIFY(journal.takeBack(entry));
         QVERIFY(journal.save());
         QCOMPARE(folder.bytes(file), there);
     }

@@ -370,6 +370,28 @@ private slots:
         }
     }
 
+    void goesOnWithTheSittingBehindTheLocking()
+    {
+        const Desk desk;
+        desk.sealAll();
+        const std::unique_ptr<Journal> journal = desk.start();
+        const QDate day(2026, 11, 22);
+        const QDate newDay(2026, 11, 23);
+        for (const auto &[text, newText] :
+             {std::pair(u"Yester"_s, u"Today"_s), std::pair(u"Yest"_s, u"Tod"_s)}) {
+            QVERIFY(Desk::unlock(*journal));
+            QVERIFY(journal->put(entryOf(day, text)) && journal->put(entryOf(newDay, newText)));
+            QVERIFY(journal->save());
+            QCOMPARE(journal->earlier(day)->text, u"Yesterday."_s);
+            journal->seal().lock();
+        }
+        QVERIFY(Desk::unlock(*journal));
+        QVERIFY(!journal->earlier(newDay));
+        QVERIFY(journal->put(entryOf(day, {})) && journal->put(entryOf(newDay, {})) && journal->save());
+        QCOMPARE(journal->earlier(day)->text, u"Yesterday."_s);
+        QCOMPARE(journal->earlier(newDay)->text, u"Tod"_s);
+    }
+
     void keepsWhatTheDiskRefusedOverTheLocking()
     {
         const Desk desk;
