@@ -362,7 +362,7 @@ QString Journal::setAside(int year)
     return name;
 }
 
-void Journal::reread()
+bool Journal::reread()
 {
     bool isChanged = false;
     m_isLocked.reset();
@@ -381,6 +381,7 @@ void Journal::reread()
     }
     if (isChanged)
         emit changed({});
+    return isChanged;
 }
 
 bool Journal::isLocked()

@@ -77,8 +77,8 @@ public:
     [[nodiscard]] bool save();
     /// The name that the file of a year for reading only was given; empty when that failed.
     QString setAside(int year);
-    /// Reads the years anew whose files somebody else has changed.
-    void reread();
+    /// Reads the years anew whose files somebody else has changed. False where there are none.
+    bool reread();
 
 signals:
     /// Of the date's entry or earlier version; an invalid date: of any.

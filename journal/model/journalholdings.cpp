@@ -15,7 +15,8 @@ QStringList JournalHoldings::files(const DataFolder &folder)
     for (const int year : JournalFiles::years(folder))
         files.append(QFileInfo(folder.filePath(JournalFiles::name(year))).fileName());
     const QDir place(folder.path());
-    files += place.entryList({u"DJour???? set aside*.Fil"_s, u"DJourKey.Fil"_s}, QDir::Files, QDir::Name);
+    files += place.entryList({u"DJour???? set aside*.Fil"_s, u"DJourKey.Fil"_s, u"DJourKey set aside*.Fil"_s},
+                             QDir::Files, QDir::Name);
     files.removeIf([&folder](const QString &name) { return folder.existingFile({}, name).isEmpty(); });
     return files;
 }

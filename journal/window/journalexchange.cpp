@@ -74,14 +74,14 @@ JournalEntry JournalExchange::entryOf(QDate date) const
     return m_desk.journal.entry(date).value_or(JournalEntry{.date = date});
 }
 
-void JournalExchange::keep(int count, const QList<JournalEntry> &before)
+void JournalExchange::keep(const QList<JournalEntry> &before)
 {
     m_cameIn.clear();
     m_cameIn.reserve(std::size_t(before.size()));
     for (const JournalEntry &entry : before)
         m_cameIn.emplace_back(entry, entryOf(entry.date));
     const bool isSaved = m_desk.day.save();
-    emit said(isSaved ? JournalWindowLines::broughtIn(count) : JournalWindowLines::notSaved());
+    emit said(isSaved ? JournalWindowLines::broughtIn(int(before.size())) : JournalWindowLines::notSaved());
     emit broughtIn();
 }
 

@@ -37,7 +37,7 @@ signals:
 
 private:
     void openImport();
-    void keep(int count, const QList<JournalEntry> &before);
+    void keep(const QList<JournalEntry> &before);
     void openExport();
     JournalEntry entryOf(QDate date) const;
     void exportTo();

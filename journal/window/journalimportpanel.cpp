@@ -33,11 +33,10 @@ QString JournalImportPanel::hint() const
 void JournalImportPanel::take()
 {
     emit taking();
-    const int count = m_import->chosenCount();
     const QList<JournalEntry> before = m_import->take();
     leave();
     forget();
-    emit taken(count, before);
+    emit taken(before);
 }
 
 void JournalImportPanel::forget()

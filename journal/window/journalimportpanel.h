@@ -23,7 +23,7 @@ signals:
     /// What was typed is to be in the journal now.
     void taking();
     /// The ticked days are in the journal, which had these before.
-    void taken(int count, const QList<JournalEntry> &before);
+    void taken(const QList<JournalEntry> &before);
 
 protected:
     QString hint() const override;

@@ -203,8 +203,12 @@ void DJournal::connectParts()
     connect(&m_following, &QTimer::timeout, this, &DJournal::followDay);
     connect(m_day, &OpenDay::edited, &m_following, qOverload<>(&QTimer::start));
     connect(m_day, &OpenDay::savedChanged, this, [this] {
-        if (m_day->isSaved()) // else another program may have the reason
+        if (m_day->isSaved()) { // else another program may have the reason
+            // What others wrote meanwhile would pass for seen.
+            if (m_journal.reread())
+                QTimer::singleShot(0, this, &DJournal::filesChanged);
             watchYears();
+        }
         followDay();
     });
     connect(&m_journal, &Journal::changed, m_pane, &JournalPane::refresh);

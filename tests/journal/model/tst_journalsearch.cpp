@@ -162,10 +162,11 @@ private slots:
         folder.put(u"Pictures/a.jpg"_s, "picture");
         folder.put(u"DJour2020 set aside.Fil"_s, "x");
         folder.put(u"DJourKey.Fil"_s, "x");
+        folder.put(u"DJourKey set aside.Fil"_s, "x");
         folder.put(u"DJourX.Fil"_s, "x");
         QCOMPARE(JournalHoldings::files(folder.folder()),
                  (QStringList{u"DJour2019.Fil"_s, u"DJour2025.Fil"_s, u"DJour2026.Fil"_s,
-                              u"DJour2020 set aside.Fil"_s, u"DJourKey.Fil"_s}));
+                              u"DJour2020 set aside.Fil"_s, u"DJourKey set aside.Fil"_s, u"DJourKey.Fil"_s}));
         QCOMPARE(JournalHoldings::pictures(folder.folder()), QStringList{folder.path(u"Pictures/a.jpg"_s)});
     }
 };

@@ -89,6 +89,16 @@ private slots:
         QVERIFY(file().contains("Rain. Wind.\r\n"));
     }
 
+    void showsWhatWasWrittenElsewhereBeforeADayWasLeft()
+    {
+        begin("=== 2026-11-20\r\n\r\nHere.\r\n");
+        m_test->setBytes(u"DJour2026.Fil"_s, "Quillery journal 1\r\n=== 2026-11-21\r\n\r\nElsewhere.\r\n");
+        trigger("mVBefore");
+        QTRY_COMPARE(page()->text(), QString());
+        trigger("mVToday");
+        QCOMPARE(page()->text(), u"Elsewhere."_s);
+    }
+
     /// Spelling changes how a text looks when it comes to it.
     void callsNoUnderlineAChange()
     {
@@ -139,7 +149,8 @@ private slots:
         trigger("mEUndo");
         QCOMPARE(page()->text(), QString());
         m_window->close();
-        QVERIFY(file().contains("Today.") && !file().contains("\r\nYesterday.")); // but as an earlier version
+        QVERIFY(file().contains("Today.") && !file().contains("=== 2026-11-20\r\n"));
+        QVERIFY(file().contains("=== 2026-11-20 earlier\r\n"));
     }
 
     void marksAsOneTypes_data()
