@@ -41,6 +41,10 @@ void MenuFocus::giveBack()
 {
     const QWidget *focus = QApplication::focusWidget();
     const bool isWalked = m_bar->activeAction() || QApplication::activePopupWidget();
-    if ((!focus || focus == m_bar) && !isWalked && m_last)
+    // A window behind another one comes back to what it has chosen itself meanwhile.
+    const QWidget *chosen = m_bar->window()->focusWidget();
+    const bool isOpen = m_bar->isActiveWindow() || !chosen || chosen == m_bar;
+    const bool isPossible = isOpen && m_last && m_last->isVisible();
+    if ((!focus || focus == m_bar) && !isWalked && isPossible)
         m_last->setFocus();
 }

@@ -31,6 +31,26 @@ private slots:
         QTest::keyClick(window.menuBar(), Qt::Key_Escape);
         QTRY_COMPARE(window.focusWidget(), text);
     }
+
+    void leavesAWindowBehindAnotherAlone()
+    {
+        QMainWindow window;
+        window.menuBar()->addMenu(QStringLiteral("&Edit"))->addAction(QStringLiteral("Something"));
+        auto *boxes = new QWidget(&window);
+        auto *before = new QLineEdit(boxes);
+        auto *chosen = new QLineEdit(boxes);
+        window.setCentralWidget(boxes);
+        new MenuFocus(window.menuBar());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        before->setFocus();
+        QWidget other;
+        other.show();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        chosen->setFocus();
+        QTest::qWait(200); // it is done with a key after half of that
+        QCOMPARE(window.focusWidget(), chosen);
+    }
 };
 
 QTEST_MAIN(TestMenuFocus)
