@@ -84,7 +84,7 @@ QString SealLines::wordsOf(SealPanel::Kind kind, const QStringList &unsealed)
     case SealPanel::Change:
         return u"The recovery code stays as it is. Who has an older copy of the folder and the old password can read that copy."_s;
     default:
-        return u"The recovery code has opened the journal. Choose a new password for it."_s;
+        return u"The recovery code has opened the journal. Choose a new password for it. Who has an older copy of the folder and the old password can read that copy."_s;
     }
 }
 
@@ -251,7 +251,7 @@ QString SealLines::heldBack(const QList<int> &years)
 
 QString SealLines::codeMade()
 {
-    return u"The new recovery code is in force; the one before opens nothing any more"_s;
+    return u"The new recovery code is in force; the one before opens older copies of the folder alone"_s;
 }
 
 QString SealLines::together(const QStringList &lines)
