@@ -43,11 +43,6 @@ inline QString contents()
     return u"Contents"_s;
 }
 
-inline QString index()
-{
-    return u"Tags and People"_s;
-}
-
 inline QString tags()
 {
     return u"Tags"_s;
@@ -56,6 +51,14 @@ inline QString tags()
 inline QString people()
 {
     return u"People"_s;
+}
+
+/// What the index is called that has these.
+inline QString index(bool hasTags, bool hasPeople)
+{
+    if (hasTags && hasPeople)
+        return tags() + u" and "_s + people();
+    return hasTags ? tags() : people();
 }
 
 } // namespace PageLines

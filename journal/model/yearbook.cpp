@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal/model/entrypaper.h"
+#include "journal/model/journalfold.h"
 #include "journal/model/journalpages.h"
 #include "journal/model/namesfound.h"
 #include "journal/model/pagelines.h"
@@ -51,7 +52,8 @@ private:
     void addContents();
     void addMonths();
     void addIndex();
-    void addWords(const QString &heading, const Index &index);
+    void addWords(const Index &index);
+    QString indexName() const { return PageLines::index(!m_tags.empty(), !m_people.empty()); }
     void collect(const JournalEntry &entry);
     QList<const JournalEntry *> of(int month) const;
     bool isSmall() const { return m_context.setup.sheet().width() < 6.5; }
@@ -150,7 +152,7 @@ void Book::addContents()
             m_page.rowWithSheets({monthName(month), PageLines::entries(entries.size()), {}}, {month});
     }
     if (!m_tags.empty() || !m_people.empty())
-        m_page.rowWithSheets({PageLines::index(), {}, {}}, {indexMark});
+        m_page.rowWithSheets({indexName(), {}, {}}, {indexMark});
 }
 
 void Book::addMonths()
@@ -174,18 +176,20 @@ void Book::addIndex()
 {
     if (m_tags.empty() && m_people.empty())
         return;
-    m_page.section(PageLines::index(), indexMark);
-    addWords(PageLines::tags(), m_tags);
-    if (!m_tags.empty() && !m_people.empty())
-        m_page.blankLine();
-    addWords(PageLines::people(), m_people);
+    m_page.section(indexName(), indexMark);
+    if (m_tags.empty() || m_people.empty()) {
+        addWords(m_people.empty() ? m_tags : m_people);
+        return;
+    }
+    m_page.line(PageLines::tags(), TextRole::Heading);
+    addWords(m_tags);
+    m_page.blankLine();
+    m_page.line(PageLines::people(), TextRole::Heading);
+    addWords(m_people);
 }
 
-void Book::addWords(const QString &heading, const Index &index)
+void Book::addWords(const Index &index)
 {
-    if (index.empty())
-        return;
-    m_page.line(heading, TextRole::Heading);
     PageItem::Columns columns;
     columns.weights = {1};
     columns.lines = TableLines::None;
@@ -193,9 +197,7 @@ void Book::addWords(const QString &heading, const Index &index)
     columns.endsEven = true;
     m_page.table(columns);
     std::vector<std::pair<QString, std::vector<int>>> words(index.begin(), index.end());
-    std::ranges::stable_sort(words, [](const auto &one, const auto &other) {
-        return QString::localeAwareCompare(one.first, other.first) < 0;
-    });
+    std::ranges::stable_sort(words, {}, [](const auto &word) { return JournalFold::of(word.first); });
     for (auto &[word, marks] : words)
         m_page.rowWithSheets({word}, std::move(marks), TextRole::Small);
 }

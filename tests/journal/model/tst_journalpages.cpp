@@ -180,6 +180,22 @@ private slots:
         QCOMPARE(sheetWith(painter, u"Sunday, May 17"_s) == may, !eachOnNewSheet && paper != PageMetrics::a5);
     }
 
+    void callsAnIndexByWhatItHas()
+    {
+        Source source;
+        source.entries << entryOf(QDate(2026, 1, 2), u"Text\n"_s, {u"Zoo"_s, u"apple"_s, u"\u00c9lan"_s});
+        const PageContext context = contextOf(PageMetrics::a4);
+        const PagePainter painter(JournalPages::yearbook(source, 2026, {}, context), context.setup,
+                                  bodyFont());
+        const int index = painter.sheetCount();
+        QVERIFY(painter.text(1).split(u'\n').contains(u"Tags\t\t%1"_s.arg(index)));
+        const QString words = painter.text(index - 1);
+        QVERIFY2(words.indexOf(u"apple"_s) >= 0 &&
+                     words.indexOf(u"apple"_s) < words.indexOf(u"\u00c9lan"_s) &&
+                     words.indexOf(u"\u00c9lan"_s) < words.indexOf(u"Zoo"_s) && words.count(u"Tags"_s) == 1,
+                 qPrintable(words));
+    }
+
     void findsPeopleInTheText_data()
     {
         const QStringList lind{u"Anne Lind"_s, u"Ben Lind"_s, u"Anne Holm"_s, u"Jo"_s, u"Zo\u00eb"_s};
