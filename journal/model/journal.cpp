@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -209,22 +210,32 @@ QList<QDate> Journal::onThisDay(QDate date, int neighbours) const
 
 QMap<QString, int> Journal::tags() const
 {
-    QMap<QString, std::pair<QString, int>> counts;
+    QMap<QString, QMap<QString, int>> counts; // of each spelling, by the name without case
     for (const auto &[number, year] : m_years) {
         for (const JournalBlock &block : year.blocks()) {
             const bool hasTags = block.kind == JournalBlock::Entry && block.bytes.contains("\ntags ");
             const QStringList tags = hasTags ? JournalForm::head(block).tags : QStringList();
-            for (const QString &tag : tags) {
-                auto &[name, count] = counts[tag.toCaseFolded()];
-                name = tag; // as it was spelt last
-                ++count;
-            }
+            for (const QString &tag : tags)
+                ++counts[tag.toCaseFolded()][tag];
         }
     }
     QMap<QString, int> tags;
-    for (const auto &[name, count] : std::as_const(counts))
-        tags.insert(name, count);
+    for (const QMap<QString, int> &spellings : std::as_const(counts)) {
+        auto most = spellings.begin();
+        for (auto spelling = spellings.begin(); spelling != spellings.end(); ++spelling) {
+            if (*spelling >= *most) // of as many, small letters
+                most = spelling;
+        }
+        tags.insert(most.key(), std::accumulate(spellings.begin(), spellings.end(), 0));
+    }
     return tags;
+}
+
+QStringList Journal::tagNames() const
+{
+    QStringList names = tags().keys();
+    names.sort(Qt::CaseInsensitive);
+    return names;
 }
 
 /// Of a day that was changed before the journal was locked, only the year knows what it was like.

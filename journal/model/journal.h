@@ -58,6 +58,8 @@ public:
     QList<QDate> onThisDay(QDate date, int neighbours) const;
     /// How many entries have each tag, in the years read so far.
     QMap<QString, int> tags() const;
+    /// The same by name alone, whatever the case of their letters; each as it is spelt most often.
+    QStringList tagNames() const;
 
     /// Takes what was written for its date; an empty entry is a deleted one. What the day was like before
     /// this sitting becomes its earlier version; of one that is deleted, what it was like last. False where

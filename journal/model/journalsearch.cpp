@@ -68,6 +68,12 @@ int JournalSearch::count() const
                            [](int sum, const auto &year) { return sum + int(year.second.folded.count()); });
 }
 
+JournalHit JournalSearch::hit(QDate date)
+{
+    const std::optional<JournalEntry> entry = m_journal.year(date.year()).untimed(date);
+    return entry ? JournalHit::of(*entry, m_question) : JournalHit{.date = date};
+}
+
 QList<JournalHit> JournalSearch::hits()
 {
     QList<JournalHit> hits;

@@ -29,6 +29,8 @@ public:
     QList<QDate> dates();
     int count() const;
     bool isAtLimit() const { return count() > mostHits; }
+    /// One of them as it is shown.
+    JournalHit hit(QDate date);
     /// The first of the hits as they are shown.
     QList<JournalHit> hits();
 

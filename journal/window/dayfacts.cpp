@@ -12,6 +12,7 @@
 #include <QEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -66,7 +67,8 @@ protected:
         QFont shown = font();
         shown.setUnderline(isMarked);
         painter.setFont(shown);
-        painter.setPen(palette().color(isMarked ? ThemeRole::strong : ThemeRole::quiet));
+        // The panel's ink, which a button does not take by itself.
+        painter.setPen(parentWidget()->palette().color(isMarked ? ThemeRole::strong : ThemeRole::quiet));
         if (!m_sign.isEmpty())
             Icons::tinted(m_sign, Theme::of(this).scheme, painter.pen().color())
                 .paint(&painter, QRect(0, (height() - signSize) / 2, signSize, signSize));
@@ -143,6 +145,11 @@ void DayFacts::load()
         named(new FactButton(JournalWindowLines::more(int(m_notes.size())), {}, this), u"dayFactsMore"_s);
     connect(more, &QAbstractButton::clicked, this, &DayFacts::openMore);
     m_buttons.append(more);
+    QWidget *before = m_before;
+    for (QAbstractButton *button : std::as_const(m_buttons)) {
+        if (QWidget *last = std::exchange(before, button))
+            setTabOrder(last, button);
+    }
     setVisible(!m_notes.isEmpty());
     updateGeometry();
     place(width(), true);
@@ -175,6 +182,9 @@ void DayFacts::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     place(width(), true);
+    // The room above the text is asked for by rows.
+    if (heightForWidth(width()) != heightForWidth(event->oldSize().width()))
+        updateGeometry();
 }
 
 /// Rows of what has room; gives their height.

@@ -15,6 +15,8 @@ class DayFacts final : public QWidget
 public:
     DayFacts(const Program &program, QWidget *parent);
 
+    /// Behind which Tab comes to them.
+    void setBefore(QWidget *before) { m_before = before; }
     /// Asks the functions once the window has been painted; an invalid date has nothing.
     void setDate(QDate date);
 
@@ -42,6 +44,7 @@ private:
     const Program &m_program;
     QList<HouseholdNote> m_notes;
     QList<QAbstractButton *> m_buttons; ///< one a note, then "more"
+    QWidget *m_before = nullptr;
     QDate m_date;
     bool m_isLoading = false;
 };

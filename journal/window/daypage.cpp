@@ -22,6 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int mostTagsWidth = 560;
+constexpr int captionRoom = 4; ///< more than the label asks for, which cuts its last letter
 } // namespace
 
 DayPage::DayPage(const Program &program, QWidget *parent)
@@ -46,6 +47,7 @@ DayPage::DayPage(const Program &program, QWidget *parent)
     m_pictures->setParent(m_text); // whose documents ask it until they go
     layOut();
     setTabOrder(m_text, m_tags);
+    m_facts->setBefore(m_title->findChildren<QPushButton *>().constLast());
     connect(m_title, &StepTitle::stepped, this, &DayPage::stepped);
     connect(m_title, &StepTitle::todayRequested, this, &DayPage::todayRequested);
 }
@@ -63,6 +65,7 @@ void DayPage::layOut()
     auto *below = new QHBoxLayout;
     below->setSpacing(8);
     QLabel *caption = makeFieldLabel(u"&Tags"_s, m_tags, this);
+    caption->setMinimumWidth(caption->sizeHint().width() + captionRoom);
     m_tags->setMaximumWidth(mostTagsWidth);
     below->addWidget(caption);
     below->addWidget(m_tags, 1);

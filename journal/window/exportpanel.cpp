@@ -25,7 +25,7 @@ ExportPanel::ExportPanel(const Program &program, QWidget *window, QWidget *paren
 {
     m_tags->setAccessibleName(u"Tag"_s);
     m_tags->setFixedWidth(boxWidth({}, boxesWidth));
-    m_which->add(u"&All of them"_s);
+    m_which->add(u"All of the&m"_s);
     m_which->add(u"Those of the &days"_s, m_days);
     m_which->add(u"Those with the &tag"_s, m_tags);
     m_form->add(u"A te&xt file, which the journal can bring in again"_s);
@@ -46,7 +46,7 @@ ExportPanel::ExportPanel(const Program &program, QWidget *window, QWidget *paren
     column->addWidget(hint);
     column->addStretch(1);
     setContent(content);
-    QPushButton *save = addButton(u"journalExportSave"_s, u"&Save As..."_s, ButtonKind::Main);
+    QPushButton *save = addButton(u"journalExportSave"_s, u"Save &As..."_s, ButtonKind::Main);
     setLeaveButton(u"journalExportClose"_s, u"C&lose"_s);
     connect(save, &QPushButton::clicked, this, &ExportPanel::accepted);
 }

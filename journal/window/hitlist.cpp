@@ -6,6 +6,7 @@
 #include "shell/core/dates.h"
 #include "shell/look/theme.h"
 
+#include <QHash>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -106,43 +107,58 @@ class HitList::Rows final : public QAbstractListModel
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    void setHits(const QList<JournalHit> &hits, DateStyle style)
+    /// Whether they are others than before.
+    bool setHits(const QList<QDate> &dates, const Look &look, DateStyle style)
     {
-        beginResetModel();
-        m_hits = hits;
+        m_look = look;
         m_style = style;
+        m_seen.clear();
+        if (dates == m_dates) {
+            emit dataChanged(index(0), index(int(m_dates.size()) - 1));
+            return false;
+        }
+        beginResetModel();
+        m_dates = dates;
         endResetModel();
+        return true;
     }
-    const QList<JournalHit> &hits() const { return m_hits; }
 
     int rowCount(const QModelIndex &parent = {}) const override
     {
-        return parent.isValid() ? 0 : int(m_hits.size());
+        return parent.isValid() ? 0 : int(m_dates.size());
     }
 
     QVariant data(const QModelIndex &index, int role) const override
     {
-        if (!index.isValid() || index.row() >= m_hits.size())
+        if (!index.isValid() || index.row() >= m_dates.size())
             return {};
-        const JournalHit &hit = m_hits[index.row()];
-        const QString day = Dates::statusText(hit.date, m_style);
+        const QDate date = m_dates[index.row()];
+        const QString day = Dates::statusText(date, m_style);
         switch (role) {
         case Qt::DisplayRole:
             return day;
         case Qt::ToolTipRole:
         case Qt::AccessibleTextRole:
-            return QString(day + u": "_s + hit.context);
+            return QString(day + u": "_s + hit(date).context);
         case dateRole:
-            return hit.date;
+            return date;
         case hitRole:
-            return QVariant::fromValue(hit);
+            return QVariant::fromValue(hit(date));
         default:
             return {};
         }
     }
 
 private:
-    QList<JournalHit> m_hits;
+    const JournalHit &hit(QDate date) const
+    {
+        const auto seen = m_seen.constFind(date);
+        return seen != m_seen.cend() ? *seen : *m_seen.insert(date, m_look(date));
+    }
+
+    QList<QDate> m_dates;
+    Look m_look;
+    mutable QHash<QDate, JournalHit> m_seen;
     DateStyle m_style = DateStyle::Usa;
 };
 
@@ -160,14 +176,11 @@ HitList::HitList(QWidget *parent)
     connect(this, &QListView::clicked, this, [this](const QModelIndex &index) { emit opened(date(index)); });
 }
 
-void HitList::setHits(const QList<JournalHit> &hits, DateStyle style)
+void HitList::setHits(const QList<QDate> &dates, const Look &look, DateStyle style)
 {
-    if (hits == m_rows->hits())
-        return;
     const QDate current = date(currentIndex());
-    m_rows->setHits(hits, style);
-    const auto same = std::ranges::find(hits, current, &JournalHit::date);
-    setCurrentIndex(m_rows->index(same == hits.end() ? 0 : int(same - hits.begin())));
+    if (m_rows->setHits(dates, look, style))
+        setCurrentIndex(m_rows->index(std::max(0, int(dates.indexOf(current)))));
 }
 
 QDate HitList::date(const QModelIndex &index) const

@@ -7,6 +7,8 @@
 #include <QAbstractListModel>
 #include <QListView>
 
+#include <functional>
+
 /// What the search has found: the days, newest first, each with a line of what stands around the words, which
 /// are marked.
 class HitList final : public QListView
@@ -15,7 +17,9 @@ class HitList final : public QListView
 public:
     explicit HitList(QWidget *parent);
 
-    void setHits(const QList<JournalHit> &hits, DateStyle style);
+    /// What a hit looks like is asked when it is seen.
+    using Look = std::function<JournalHit(QDate)>;
+    void setHits(const QList<QDate> &dates, const Look &look, DateStyle style);
     QDate date(const QModelIndex &index) const;
 
 signals:

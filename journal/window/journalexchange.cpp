@@ -109,7 +109,7 @@ void JournalExchange::openExport()
         connect(m_export, &ExportPanel::accepted, this, &JournalExchange::exportTo);
     }
     m_desk.window.closePreview();
-    m_export->start(m_desk.day.date(), m_desk.journal.tags().keys());
+    m_export->start(m_desk.day.date(), m_desk.journal.tagNames());
     m_desk.views.open(m_export);
     m_export->setFocus();
 }

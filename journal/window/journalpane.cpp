@@ -217,16 +217,17 @@ void JournalPane::search(const QString &text)
 void JournalPane::showHits()
 {
     JournalSearch &search = m_finder->search();
-    m_hits->setHits(search.hits(), m_program.state.dateStyle);
+    m_hits->setHits(
+        search.dates(), [&search](QDate date) { return search.hit(date); }, m_program.state.dateStyle);
     m_count->setText(m_finder->isLooking() ? JournalWindowLines::stillReading(search.count())
-                                           : JournalWindowLines::hits(search.count(), search.isAtLimit()));
+                                           : JournalWindowLines::hits(search.count()));
 }
 
 void JournalPane::forget()
 {
     m_search->setText({}); // with what could be undone in it
     m_finder->forget();
-    m_hits->setHits({}, m_program.state.dateStyle);
+    m_hits->setHits({}, {}, m_program.state.dateStyle);
     m_count->clear();
     m_onThisDay->forget();
     m_tags->setTags({});

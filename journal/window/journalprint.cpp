@@ -60,7 +60,7 @@ void JournalPrint::openPanel()
         connect(m_panel, &JournalPrintPanel::accepted, this, &JournalPrint::print);
     }
     m_desk.window.closePreview();
-    m_panel->start(m_desk.day.date(), m_desk.journal.tags().keys());
+    m_panel->start(m_desk.day.date(), m_desk.journal.tagNames());
     m_desk.views.open(m_panel);
     m_panel->setFocus();
 }

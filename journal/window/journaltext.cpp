@@ -87,7 +87,7 @@ LineStyles JournalText::styles() const
         const MarkedLine marked = LightMarks::of(line);
         const bool isHeading = marked.kind == MarkedLine::Heading;
         QTextCharFormat sign;
-        sign.setForeground(palette().color(ThemeRole::quiet));
+        sign.setForeground(Theme::of(this).quiet); // on the field, whatever ink the panel has
         if (marked.kind == MarkedLine::Picture)
             return QList<QTextLayout::FormatRange>{{0, int(line.size()), sign}};
         if (marked.begin > 0)
@@ -285,7 +285,7 @@ void JournalText::paintPicture(QPainter &painter, const QTextBlock &line, const 
 {
     const int number = pictureIn(line);
     const double margin = document()->documentMargin();
-    painter.setPen(palette().color(ThemeRole::quiet));
+    painter.setPen(Theme::of(this).quiet);
     painter.setFont(TypeScale::label());
     m_pictures.paint(painter, number, place.adjusted(margin, 0, -margin, 0));
     if (hasFocus() && textCursor().block() == line)

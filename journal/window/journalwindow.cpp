@@ -88,6 +88,8 @@ DJournal::DJournal(Program &program, QWidget *parent, PasswordCost cost, std::ch
 
 DJournal::~DJournal()
 {
+    for (QObject *part : {static_cast<QObject *>(m_stack), static_cast<QObject *>(m_day)})
+        disconnect(part, nullptr, this, nullptr); // they go later, and still tell
     m_journal.seal().lock();
 }
 
@@ -202,6 +204,8 @@ void DJournal::connectParts()
     m_following.setInterval(followsAfter);
     connect(&m_following, &QTimer::timeout, this, &DJournal::followDay);
     connect(m_day, &OpenDay::edited, &m_following, qOverload<>(&QTimer::start));
+    connect(m_day, &OpenDay::edited, this, &DJournal::endMessage);
+    connect(m_stack, &WorkViews::changed, this, &DJournal::endMessage);
     connect(m_day, &OpenDay::savedChanged, this, [this] {
         if (m_day->isSaved()) { // else another program may have the reason
             // What others wrote meanwhile would pass for seen.
@@ -232,7 +236,7 @@ void DJournal::connectParts()
     connect(m_reading, &SlicedWork::finished, this, [this] {
         sayDamage();
         m_pane->refresh();
-        m_page->setKnownTags(m_journal.tags().keys());
+        m_page->setKnownTags(m_journal.tagNames());
         commands().refresh();
     });
 }
@@ -304,11 +308,22 @@ void DJournal::goTo(QDate date)
     if (!m_stack->isHome())
         m_stack->goHome();
     activity().say({});
-    if (date != m_day->date())
+    if (date != m_day->date()) {
         m_day->open(date);
+        // One goes on with today, and reads what was.
+        if (date == clock().today() && m_page->text().textCursor().atStart())
+            m_page->text().moveCursor(QTextCursor::End);
+    }
     m_pane->setDate(date);
     m_page->facts().setDate(date);
     followDay();
+}
+
+/// What was said was of the step before; that something is not saved holds on.
+void DJournal::endMessage()
+{
+    if (activity().message() != JournalWindowLines::notSaved())
+        activity().say({});
 }
 
 void DJournal::followDay()

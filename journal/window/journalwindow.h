@@ -53,6 +53,7 @@ private:
     void begin();
     void forget();
     void goTo(QDate date);
+    void endMessage();
     void followDay();
     void readOn();
     void sayDamage();

@@ -48,6 +48,7 @@ OnThisDay::OnThisDay(const Program &program, Journal &journal, QWidget *parent)
     rows->addWidget(m_list, 1);
     rows->addStretch(0);
     m_nothing->setWordWrap(true);
+    setTabOrder(m_around, m_list);
     m_list->setModel(m_rows);
     setListRows(m_list);
     m_list->setItemDelegate(new TwoLineDelegate(m_list));
@@ -101,6 +102,9 @@ void OnThisDay::refresh()
     }
     m_nothing->setVisible(m_rows->rowCount() == 0);
     m_list->setVisible(m_rows->rowCount() > 0);
+    // Without anything the card is as high as its sentence, and the tags below have the room.
+    parentWidget()->setSizePolicy(QSizePolicy::Preferred,
+                                  m_rows->rowCount() > 0 ? QSizePolicy::Preferred : QSizePolicy::Maximum);
 }
 
 void OnThisDay::open(const QModelIndex &index)

@@ -104,7 +104,6 @@ void OpenDay::load()
     });
     m_page.text.document()->setModified(false);
     m_page.tags.setText(m_entry.tags.join(u", "_s));
-    m_page.text.document()->setModified(false);
     m_isEdited = false;
     showLock();
 }

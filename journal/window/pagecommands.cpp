@@ -42,18 +42,19 @@ QString PageCommands::shownDay() const
 void PageCommands::addUndo(QMenu *edit)
 {
     JournalText &text = m_desk.page.text();
-    m_desk.commands.add(
+    QAction *undo = m_desk.commands.add(
         edit, u"mEUndo"_s, u"&Undo"_s, [&text] { text.undo(); },
         [&text] {
             return text.document()->isUndoAvailable() ? QString() : JournalWindowLines::nothingToUndo();
-        },
-        CommonKeys::undo);
-    m_desk.commands.add(
+        });
+    QAction *redo = m_desk.commands.add(
         edit, u"mERedo"_s, u"&Redo"_s, [&text] { text.redo(); },
         [&text] {
             return text.document()->isRedoAvailable() ? QString() : JournalWindowLines::nothingToRedo();
-        },
-        CommonKeys::redo);
+        });
+    // In the text alone: the box of the tags has its own.
+    m_desk.commands.setKeyIn(&text, undo, CommonKeys::undo);
+    m_desk.commands.setKeyIn(&text, redo, CommonKeys::redo);
     edit->addSeparator();
 }
 
@@ -156,6 +157,7 @@ void PageCommands::insertTime()
 /// The page can be filled again by undo, and the day as it was is its earlier version.
 void PageCommands::remove()
 {
+    m_desk.day.take(); // what was typed last comes back as well
     m_desk.day.clear();
     if (m_desk.day.save())
         emit said(JournalWindowLines::deleted(shownDay()));
@@ -188,6 +190,7 @@ void PageCommands::bringBack()
     if (!earlier)
         return;
     m_desk.day.bringBack(*earlier);
+    m_desk.page.text().setFocus();
     emit said(JournalWindowLines::cameBack(shownDay()));
     m_desk.commands.refresh();
 }
@@ -213,6 +216,7 @@ void PageCommands::setAside()
     if (m_desk.program.dialogs.ask(&m_desk.window, question) != Answer::Yes)
         return;
     const QString name = m_desk.journal.setAside(year);
+    m_desk.goTo(m_desk.day.date());
     emit said(name.isEmpty() ? JournalWindowLines::notSetAside() : JournalWindowLines::setAsideAs(name));
     m_desk.commands.refresh();
     follow();

@@ -90,14 +90,16 @@ void TagsList::setTags(const QMap<QString, int> &tags)
 {
     const QString current = m_list->currentIndex().data().toString();
     m_rows->clear();
-    for (auto tag = tags.cbegin(); tag != tags.cend(); ++tag) {
-        auto *row = new QStandardItem(tag.key());
-        row->setData(tag.value(), countRole);
-        row->setData(u"%1, %2"_s.arg(tag.key(), JournalWindowLines::hits(tag.value(), false)),
-                     Qt::AccessibleTextRole);
-        row->setToolTip(tag.key());
+    QStringList names = tags.keys();
+    names.sort(Qt::CaseInsensitive);
+    for (const QString &name : std::as_const(names)) {
+        const int count = tags.value(name);
+        auto *row = new QStandardItem(name);
+        row->setData(count, countRole);
+        row->setData(u"%1, %2"_s.arg(name, JournalWindowLines::hits(count)), Qt::AccessibleTextRole);
+        row->setToolTip(name);
         m_rows->appendRow(row);
-        if (tag.key() == current)
+        if (name == current)
             m_list->setCurrentIndex(row->index());
     }
     m_list->setVisible(!tags.isEmpty());

@@ -89,12 +89,9 @@ QString JournalWindowLines::noTags()
     return u"Words in the box Tags, below an entry, bring together what belongs together."_s;
 }
 
-QString JournalWindowLines::hits(int count, bool isAtLimit)
+QString JournalWindowLines::hits(int count)
 {
-    if (count == 0)
-        return u"Nothing found"_s;
-    const QString entries = count == 1 ? u"1 entry"_s : u"%1 entries"_s.arg(count);
-    return isAtLimit ? QString(entries + u", the newest of them above"_s) : entries;
+    return count == 0 ? u"Nothing found"_s : count == 1 ? u"1 entry"_s : u"%1 entries"_s.arg(count);
 }
 
 QString JournalWindowLines::stillReading(int count)

@@ -36,7 +36,7 @@ QString dayWords(QDate date, bool hasEntry, DateStyle style);
 QString yearsAgo(int years);
 QString nothingOnThisDay();
 QString noTags();
-QString hits(int count, bool isAtLimit);
+QString hits(int count);
 QString stillReading(int count);
 QString nearbyDays();
 QString nearbyDaysToo();

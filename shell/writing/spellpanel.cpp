@@ -81,7 +81,7 @@ void SpellPanel::makeButtons()
 {
     m_buttons.ignore = addButton(u"spellIgnore"_s, u"&Ignore"_s, ButtonKind::Plain, Side::Left);
     m_buttons.add = addButton(u"spellAddWord"_s, u"Add &Word"_s, ButtonKind::Plain, Side::Left);
-    m_buttons.undo = addButton(u"spellUndo"_s, u"&Undo"_s, ButtonKind::Plain, Side::Left);
+    m_buttons.undo = addButton(u"spellUndo"_s, u"U&ndo"_s, ButtonKind::Plain, Side::Left);
     m_buttons.changeAll = addButton(u"spellChangeAll"_s, u"Change &All"_s);
     m_buttons.change = addButton(u"spellChange"_s, u"&Change"_s, ButtonKind::Main);
     m_buttons.close = setLeaveButton(u"spellClose"_s, u"C&lose"_s);

@@ -103,7 +103,7 @@ QWidget *ThesaurusPanel::makeWork()
 void ThesaurusPanel::makeButtons()
 {
     m_buttons.back = addButton(u"thesaurusBack"_s, u"&Back"_s, ButtonKind::Plain, Side::Left);
-    m_buttons.lookUp = addButton(u"thesaurusLookUp"_s, u"Look &Up"_s, ButtonKind::Plain, Side::Left);
+    m_buttons.lookUp = addButton(u"thesaurusLookUp"_s, u"Loo&k Up"_s, ButtonKind::Plain, Side::Left);
     m_buttons.replace = addButton(u"thesaurusReplace"_s, u"&Replace"_s, ButtonKind::Main);
     m_buttons.close = setLeaveButton(u"thesaurusClose"_s, u"C&lose"_s);
     connect(m_buttons.back, &QPushButton::clicked, this, &ThesaurusPanel::goBack);
