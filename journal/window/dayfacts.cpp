@@ -27,7 +27,8 @@ constexpr int signGap = 5;
 constexpr int gap = 18;
 constexpr int rowGap = 4;
 constexpr int mostRows = 2;
-constexpr int widest = 300;
+constexpr int spare = 4; ///< behind the words, so that rounding cuts none
+constexpr int widest = 360;
 
 QLatin1StringView signOf(const HouseholdNote &note)
 {
@@ -54,7 +55,7 @@ public:
 
     QSize sizeHint() const override
     {
-        const int words = fontMetrics().horizontalAdvance(text());
+        const int words = fontMetrics().horizontalAdvance(text()) + spare;
         return {std::min(signWidth() + words, TypeScale::wide(widest)),
                 std::max(signSize, fontMetrics().height()) + 2};
     }

@@ -261,6 +261,11 @@ void JournalText::keyPressEvent(QKeyEvent *event)
             MarkEditing::indent(cursor, isBack ? -1 : 1);
         return;
     }
+    // An access key that nothing has is no letter. (AltGr is Ctrl and Alt.)
+    if ((held & Qt::AltModifier) && !(held & Qt::ControlModifier) && !event->text().isEmpty()) {
+        event->ignore();
+        return;
+    }
     QPlainTextEdit::keyPressEvent(event);
 }
 
@@ -318,6 +323,8 @@ void JournalText::setMargins()
 void JournalText::changeEvent(QEvent *event)
 {
     QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        emit documentShown(); // in other colours
     if (event->type() == QEvent::ApplicationFontChange)
         setFont(pageFont());
     if (event->type() == QEvent::FontChange) {

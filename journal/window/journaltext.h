@@ -44,6 +44,7 @@ public:
     int pictureAtCursor() const;
 
 signals:
+    /// Another one, or in other colours.
     void documentShown();
     /// Something was dropped or pasted that may be a picture.
     void pictureGiven(const QMimeData *data);
