@@ -58,6 +58,8 @@ void takeDay(const Camera &camera)
     PictureSession session(camera);
     furnish(session.program());
     session.open(Function::Journal);
+    session.focus("entryText");
+    session.key(Qt::Key_Home, Qt::ControlModifier);
     session.take("journal-day");
     session.find<QCheckBox>("daysAround").setChecked(true);
     session.take("journal-on-this-day");
