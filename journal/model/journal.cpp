@@ -35,25 +35,13 @@ QString whyReadOnly(JournalForm::Form form, int year)
     return JournalLines::foreignFile(JournalFiles::name(year));
 }
 
-/// Whether `now` is what `before` was, and something is gone from it at one place.
-bool isCutFrom(const JournalEntry &before, const JournalEntry &now)
-{
-    if (now.tags.size() > before.tags.size() || now.pictures.size() > before.pictures.size() ||
-        now.text.size() >= before.text.size())
-        return false;
-    const QString &text = now.text;
-    const auto begin = std::ranges::mismatch(text, before.text).in1 - text.begin();
-    const auto end = std::mismatch(text.rbegin(), text.rend(), before.text.rbegin()).first - text.rbegin();
-    return begin + end >= text.size();
-}
-
 } // namespace
 
 Journal::Journal(const DataFolder &folder, const Clock &clock, QObject *parent, PasswordCost cost)
     : QObject(parent)
     , m_folder(folder)
-    , m_clock(clock)
     , m_seal(folder, clock, cost)
+    , m_sitting(clock)
 {
     connect(&m_seal, &JournalSeal::locking, this, &Journal::becomeLocked);
     connect(&m_seal, &JournalSeal::changed, this, &Journal::sealChanged);
@@ -238,81 +226,24 @@ QStringList Journal::tagNames() const
     return names;
 }
 
-/// Of a day that was changed before the journal was locked, only the year knows what it was like.
-Journal::Before &Journal::before(JournalYear &year, QDate date)
-{
-    const auto known = m_sitting.find(date);
-    if (known != m_sitting.end())
-        return known->second;
-    Before before{.blocks = year.blocksOf(date), .entry = year.entry(date, JournalBlock::Entry)};
-    before.last = before.entry;
-    if (m_changedBefore.contains(date)) {
-        before.entry = year.entry(date, JournalBlock::Earlier);
-        before.blocks.clear();
-        if (before.entry) {
-            before.blocks.push_back(JournalForm::block(*before.entry, JournalBlock::Entry));
-            if (!before.last || isCutFrom(*before.entry, *before.last))
-                before.last = before.entry;
-        }
-    }
-    before.written = before.entry ? before.entry->written : m_clock.now();
-    return m_sitting.emplace(date, before).first->second;
-}
-
 bool Journal::put(const JournalEntry &entry)
 {
     if (!mayBeWritten(entry.date))
         return false;
     JournalYear &year = yearOf(entry.date.year());
-    Before &before = this->before(year, entry.date);
-    JournalEntry now = entry;
-    if (!now.written.isValid())
-        now.written = before.written;
     const qint64 revision = year.revision;
-    year.replace(entry.date, blocksFor(JournalForm::tidied(now), before));
+    year.replace(entry.date, m_sitting.blocksFor(year, entry));
     if (year.revision != revision)
         emit changed(entry.date);
     return true;
-}
-
-JournalBlocks Journal::blocksFor(const JournalEntry &now, Before &before)
-{
-    if (before.entry && now == *before.entry)
-        return before.blocks;
-    std::optional<JournalEntry> earlier = before.entry;
-    JournalBlocks blocks;
-    if (now.isEmpty()) {
-        earlier = before.wiped = before.last;
-    } else {
-        if (!before.last || !isCutFrom(*before.last, now))
-            before.last = now;
-        if (before.wiped == now)
-            before.wiped.reset();
-        if (before.wiped)
-            earlier = before.wiped;
-        blocks.push_back(JournalForm::block(now, JournalBlock::Entry));
-    }
-    if (earlier)
-        blocks.push_back(JournalForm::block(*earlier, JournalBlock::Earlier));
-    else
-        std::ranges::copy_if(before.blocks, std::back_inserter(blocks),
-                             [](const JournalBlock &block) { return block.kind == JournalBlock::Earlier; });
-    return blocks;
 }
 
 bool Journal::takeBack(const JournalEntry &entry)
 {
     if (!mayBeWritten(entry.date))
         return false;
-    Before &before = this->before(yearOf(entry.date.year()), entry.date);
-    before.last = before.wiped ? before.wiped : before.entry;
+    m_sitting.forgetLast(yearOf(entry.date.year()), entry.date);
     return put(entry);
-}
-
-void Journal::beginSitting()
-{
-    m_sitting.clear();
-    m_changedBefore.clear();
 }
 
 bool Journal::deleteForGood(QDate date)
@@ -320,7 +251,7 @@ bool Journal::deleteForGood(QDate date)
     if (!mayBeWritten(date))
         return false;
     yearOf(date.year()).replace(date, {});
-    m_sitting[date] = {.blocks = {}, .entry = {}, .written = m_clock.now()};
+    m_sitting.deleteForGood(date);
     emit changed(date);
     return true;
 }
@@ -386,8 +317,7 @@ bool Journal::reread()
             year.mergeInto(std::move(there));
         } else if (!year.isModified()) {
             year = std::move(there);
-            std::erase_if(m_sitting,
-                          [number = number](const auto &day) { return day.first.year() == number; });
+            m_sitting.forget(number);
         }
     }
     if (isChanged)
@@ -405,11 +335,7 @@ bool Journal::isLocked()
 /// What the disk refused stays, but sealed; all else goes.
 void Journal::becomeLocked()
 {
-    for (const auto &[date, before] : m_sitting) {
-        const auto year = m_years.find(date.year());
-        if (year != m_years.end() && year->second.blocksOf(date) != before.blocks)
-            m_changedBefore.insert(date);
-    }
+    m_sitting.lock(m_years);
     for (auto &[number, year] : m_years) {
         const QList<QDate> dates = year.modifiedDates();
         JournalBlocks blocks;
@@ -425,15 +351,6 @@ void Journal::becomeLocked()
         year.wipe();
     }
     m_years.clear();
-    for (auto &[date, before] : m_sitting) {
-        for (std::optional<JournalEntry> *entry : {&before.entry, &before.last, &before.wiped}) {
-            if (*entry)
-                SecretBytes::wipe((*entry)->text);
-        }
-        for (JournalBlock &block : before.blocks)
-            SecretBytes::wipe(block.bytes);
-    }
-    m_sitting.clear();
     FreeMemory::wipe();
 }
 

@@ -3,6 +3,7 @@
 
 #include "journal/model/journalentry.h"
 #include "journal/model/journalseal.h"
+#include "journal/model/journalsitting.h"
 #include "journal/model/journalyear.h"
 #include "shell/core/clock.h"
 #include "storage/datafolder.h"
@@ -12,7 +13,6 @@
 
 #include <map>
 #include <optional>
-#include <set>
 
 /// The journal of a household: a file a year, each read when it is first needed and kept from then on. What
 /// is put into it stays in memory until a save has brought it to the disk.
@@ -70,7 +70,7 @@ public:
     /// The day goes, and its earlier version too: there is no way back.
     [[nodiscard]] bool deleteForGood(QDate date);
     /// What comes is another sitting: days are compared with what they are now. Locking begins none.
-    void beginSitting();
+    void beginSitting() { m_sitting.begin(); }
 
     /// Also while it is locked with something that the disk had refused.
     bool isModified() const;
@@ -87,15 +87,6 @@ signals:
     void changed(QDate date);
 
 private:
-    /// A day as it was when the sitting began.
-    struct Before {
-        JournalBlocks blocks{};
-        std::optional<JournalEntry> entry{};
-        QDateTime written{};                 ///< what an entry that is new gets
-        std::optional<JournalEntry> last{};  ///< as it was since, before something was only taken away
-        std::optional<JournalEntry> wiped{}; ///< as it was when it was deleted since
-    };
-
     /// What the disk had refused before the journal was locked: changed dates, and their blocks, sealed.
     struct Held {
         QList<QDate> dates;
@@ -109,17 +100,12 @@ private:
     void becomeLocked();
     void sealChanged();
     [[nodiscard]] bool saveYear(int number, JournalYear &year);
-    Before &before(JournalYear &year, QDate date);
-    /// What a day that is `now` has in the year.
-    static JournalBlocks blocksFor(const JournalEntry &now, Before &before);
 
     const DataFolder &m_folder;
-    const Clock &m_clock;
     JournalSeal m_seal;
     std::optional<bool> m_isLocked; ///< as the files said last
     std::map<int, Held> m_held;
     std::map<int, JournalYear> m_years;
-    std::map<QDate, Before> m_sitting;
-    std::set<QDate> m_changedBefore; ///< in this sitting, but before the journal was locked
-    qint64 m_readings = 0;           ///< so that no year has a revision twice
+    JournalSitting m_sitting;
+    qint64 m_readings = 0; ///< so that no year has a revision twice
 };
