@@ -11,8 +11,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 documents=(main-menu main-menu-dark main-menu-200 background-selector message-save-changes page-preview password-control
     manual address-book-view address-book-view-1024 address-book-modify address-book-date viewer-address viewer-labels
     viewer-pictures planner-day planner-day-dark planner-week planner-month planner-recurrence
-    budget-sheet budget-spent budget-totals cars-due cars-information car-fuel
-    weight-household weight-graph-50 todo-list journal-day journal-found journal-yearbook keeper-shown)
+    budget-sheet budget-totals cars-due cars-information car-fuel
+    weight-household weight-graph-50 todo-list journal-day keeper-shown)
 
 docs=
 if [ "${1:-}" = --docs ]; then
