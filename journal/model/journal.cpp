@@ -292,15 +292,28 @@ bool Journal::saveYear(int number, JournalYear &year)
     return true;
 }
 
+QString Journal::whyNotSaved(int year)
+{
+    const JournalYear &open = yearOf(year);
+    if (!open.mayBeWritten() || !open.isModified() || JournalFiles::stamp(m_folder, year) == open.stamp)
+        return {};
+    return readYear(year).whyReadOnly;
+}
+
 QString Journal::setAside(int year)
 {
-    if (state(year) != JournalYear::State::ForReading)
+    const bool isForReading = state(year) == JournalYear::State::ForReading;
+    if (!isForReading && whyNotSaved(year).isEmpty())
         return {};
     const QString name = JournalFiles::setAside(m_folder, year);
-    if (!name.isEmpty()) {
+    if (name.isEmpty())
+        return {};
+    if (isForReading)
         m_years.erase(year);
-        emit changed({});
-    }
+    else
+        yearOf(year).stamp =
+            JournalFiles::stamp(m_folder, year); // all that was read of it goes into the new file
+    emit changed({});
     return name;
 }
 

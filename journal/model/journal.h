@@ -77,7 +77,10 @@ public:
     /// Brings what is not saved to the disk. False when not all of it is there: it is kept, to be tried
     /// again. Over the locking it is kept sealed.
     [[nodiscard]] bool save();
-    /// The name that the file of a year for reading only was given; empty when that failed.
+    /// Why `save` cannot write the year, where its file became one for reading while it was open; else empty.
+    QString whyNotSaved(int year);
+    /// The name that the file of a year for reading only was given; empty when that failed. What is not saved
+    /// of a year that was open is written with the next saving.
     QString setAside(int year);
     /// Reads the years anew whose files somebody else has changed. False where there are none.
     bool reread();

@@ -322,7 +322,7 @@ void DJournal::goTo(QDate date)
 /// What was said was of the step before; that something is not saved holds on.
 void DJournal::endMessage()
 {
-    if (activity().message() != JournalWindowLines::notSaved())
+    if (!m_day->hasFailed())
         activity().say({});
 }
 

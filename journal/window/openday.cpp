@@ -158,7 +158,7 @@ bool OpenDay::save()
     m_waiting.stop();
     const bool isSaved = !m_journal.isModified() || m_journal.save();
     if (!isSaved && m_date.isValid()) {
-        emit said(JournalWindowLines::notSaved());
+        emit said(JournalWindowLines::notSaved(m_journal.whyNotSaved(m_date.year())));
         m_waiting.start(triesAgainAfter);
     } else if (isSaved && m_hasFailed) {
         emit said(JournalWindowLines::saved());

@@ -47,6 +47,8 @@ public:
     /// The same, and brings it to the disk. False where that refuses: then it is tried again.
     bool save();
     bool isSaved() const;
+    /// Whether the last saving left something behind.
+    bool hasFailed() const { return m_hasFailed; }
 
     void addPicture(const JournalPicture &picture);
     void setCaption(int number, const QString &caption);

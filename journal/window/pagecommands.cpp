@@ -109,7 +109,8 @@ void PageCommands::addAside(QMenu *utilities)
             if (!none.isEmpty())
                 return none;
             const int year = m_desk.day.date().year();
-            return m_desk.journal.state(year) == JournalYear::State::ForReading
+            return m_desk.journal.state(year) == JournalYear::State::ForReading ||
+                           !m_desk.journal.whyNotSaved(year).isEmpty()
                        ? QString()
                        : JournalWindowLines::mayBeWritten(year);
         }));
@@ -217,6 +218,7 @@ void PageCommands::setAside()
         return;
     const QString name = m_desk.journal.setAside(year);
     m_desk.goTo(m_desk.day.date());
+    (void)m_desk.day.save(); // what waited for this
     emit said(name.isEmpty() ? JournalWindowLines::notSetAside() : JournalWindowLines::setAsideAs(name));
     m_desk.commands.refresh();
     follow();

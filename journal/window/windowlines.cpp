@@ -40,8 +40,10 @@ QString JournalWindowLines::saved()
     return u"Saved"_s;
 }
 
-QString JournalWindowLines::notSaved()
+QString JournalWindowLines::notSaved(const QString &why)
 {
+    if (!why.isEmpty())
+        return u"The entry is not saved. "_s + why;
     return u"The entry could not be saved; this is tried again every ten seconds"_s;
 }
 

@@ -18,7 +18,8 @@ QString writtenOn(QDate written, QDate date, DateStyle style);
 /// "212 words"; empty for none.
 QString words(int count);
 QString saved();
-QString notSaved();
+/// `why`: where it is known.
+QString notSaved(const QString &why = {});
 /// The day that is shown already.
 QString isShown(const QString &day);
 

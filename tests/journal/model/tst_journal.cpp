@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal/model/journalform.h"
+#include "journal/model/lines.h"
 #include "storage/saving.h"
 #include "tests/journal/model/journaldays.h"
 #include "tests/support/failingdisk.h"
@@ -145,6 +146,25 @@ private slots:
         QVERIFY(journal.put(written(day, u"Mine"_s)) && journal.save());
         QCOMPARE(folder.bytes(file),
                  journalHead + "=== 2026-03-14\r\nwritten 2026-11-23 08:50\r\n\r\nMine\r\n");
+    }
+
+    /// All that was read of the year is in the new file, and what others made of it in the other.
+    void setsAsideWhatBecameForeignWhileItWasOpen()
+    {
+        const TestFolder folder;
+        folder.put(file, journalHead + "=== 2026-03-13\r\n\r\nOne\r\n");
+        Journal journal(folder.folder(), m_clock);
+        QVERIFY(journal.put(written(day, u"Mine"_s)) && journal.whyNotSaved(2026).isEmpty());
+        folder.put(file, "Something else\r\n");
+        QVERIFY(!journal.save());
+        QCOMPARE(journal.whyNotSaved(2026), JournalLines::foreignFile(file));
+        QCOMPARE(journal.setAside(2026), u"DJour2026 set aside.Fil"_s);
+        QVERIFY(journal.save() && journal.whyNotSaved(2026).isEmpty());
+        QCOMPARE(folder.bytes(u"DJour2026 set aside.Fil"_s), "Something else\r\n");
+        QCOMPARE(
+            folder.bytes(file),
+            journalHead +
+                "=== 2026-03-13\r\n\r\nOne\r\n=== 2026-03-14\r\nwritten 2026-11-23 08:50\r\n\r\nMine\r\n");
     }
 
     void writesNothingWhereAFolderStands()
