@@ -305,7 +305,7 @@ QString Journal::setAside(int year)
     const bool isForReading = state(year) == JournalYear::State::ForReading;
     if (!isForReading && whyNotSaved(year).isEmpty())
         return {};
-    const QString name = JournalFiles::setAside(m_folder, year);
+    QString name = JournalFiles::setAside(m_folder, year);
     if (name.isEmpty())
         return {};
     if (isForReading)
