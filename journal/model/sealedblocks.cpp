@@ -72,8 +72,8 @@ std::optional<SealedBlocks::Nonce> nonceOf(QByteArrayView hex)
     if (hex.size() != 2 * qsizetype(nonce.size()))
         return std::nullopt;
     for (std::size_t i = 0; i < nonce.size(); ++i) {
-        const int high = digitOf(hex[qsizetype(2 * i)]);
-        const int low = digitOf(hex[qsizetype(2 * i + 1)]);
+        const int high = digitOf(hex[2 * qsizetype(i)]);
+        const int low = digitOf(hex[2 * qsizetype(i) + 1]);
         if (high < 0 || low < 0)
             return std::nullopt;
         nonce[i] = char(16 * high + low);

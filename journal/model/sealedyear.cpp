@@ -42,7 +42,7 @@ QByteArray sealedText(QByteArrayView plain, const QByteArray &context, const Sec
     QByteArray padded((plain.size() / block + 1) * block, '\0');
     std::ranges::copy(plain, padded.begin());
     padded[plain.size()] = '\x80';
-    const QByteArray sealed = withLength(SealedRecords::seal(padded, context, key));
+    QByteArray sealed = withLength(SealedRecords::seal(padded, context, key));
     SecretBytes::wipe(padded);
     return sealed;
 }
@@ -123,7 +123,7 @@ void SealedYear::guessDates()
     }
     int before = -1;
     for (SealedPiece &piece : m_pieces) {
-        const auto next = std::size_t(before + 1);
+        const std::size_t next = std::size_t(before) + 1; // 0 behind -1
         const bool isNext = next < isSeen.size() && !isSeen[next];
         if (!piece.isOpen() && piece.listed < 0 && isNext) {
             piece.listed = int(next);

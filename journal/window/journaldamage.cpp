@@ -50,7 +50,7 @@ void JournalDamage::addCommand(QMenu *utilities)
     m_desk.commands.add(
         utilities, u"mUDamage"_s, u"&Damaged Records..."_s, [this] { open(); },
         [this] {
-            if (const QString none = m_desk.whyNone(); !none.isEmpty())
+            if (QString none = m_desk.whyNone(); !none.isEmpty())
                 return none;
             return rows().isEmpty() ? SealLines::nothingDamaged() : QString();
         });
