@@ -51,7 +51,7 @@ void JournalLock::follow()
 
 QString JournalLock::whyNotSealed() const
 {
-    if (const QString none = m_desk.whyNone(); !none.isEmpty())
+    if (QString none = m_desk.whyNone(); !none.isEmpty())
         return none;
     return m_desk.journal.seal().isOpen() ? QString() : SealLines::isPlain();
 }

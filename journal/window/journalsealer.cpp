@@ -67,7 +67,7 @@ JournalSeal &JournalSealer::seal() const
 /// Half opened, it can be sealed again.
 QString JournalSealer::whyNotPlain() const
 {
-    if (const QString none = m_desk.whyNone(); !none.isEmpty())
+    if (QString none = m_desk.whyNone(); !none.isEmpty())
         return none;
     if (m_step->isRunning())
         return SealLines::working();
@@ -76,7 +76,7 @@ QString JournalSealer::whyNotPlain() const
 
 QString JournalSealer::whyNotOpen() const
 {
-    if (const QString none = m_desk.whyNone(); !none.isEmpty())
+    if (QString none = m_desk.whyNone(); !none.isEmpty())
         return none;
     if (m_step->isRunning())
         return SealLines::working();
