@@ -168,7 +168,7 @@ void DJournal::makeOptions(QMenu *options)
     QAction *copying = commands().add(
         options, u"mOCopy"_s, u"Cop&y"_s, [this] { copy(); },
         [this] {
-            if (const QString none = whyNone(); !none.isEmpty())
+            if (QString none = whyNone(); !none.isEmpty())
                 return none;
             return m_day->typed().isEmpty() ? JournalWindowLines::nothingWritten() : QString();
         });

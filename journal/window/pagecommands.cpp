@@ -68,7 +68,7 @@ void PageCommands::addCommands(QMenu *edit)
     m_earlier = commands.add(
         edit, u"mEEarlier"_s, u"Ea&rlier Version..."_s, [this] { openEarlier(); },
         [this] {
-            const QString none = m_desk.whyNone();
+            QString none = m_desk.whyNone();
             if (!none.isEmpty())
                 return none;
             return m_desk.journal.earlier(m_desk.day.date()) ? QString()
@@ -105,7 +105,7 @@ void PageCommands::addAside(QMenu *utilities)
     m_aside = m_desk.commands.writing(m_desk.commands.add(
         utilities, u"mUAside"_s, u"Set the &Year Aside..."_s, [this] { setAside(); },
         [this] {
-            const QString none = m_desk.whyNone();
+            QString none = m_desk.whyNone();
             if (!none.isEmpty())
                 return none;
             const int year = m_desk.day.date().year();
