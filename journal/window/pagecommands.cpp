@@ -77,7 +77,7 @@ void PageCommands::addCommands(QMenu *edit)
     m_remove = commands.writing(commands.add(
         edit, u"mEDel"_s, u"&Delete Entry"_s, [this] { remove(); },
         [this] {
-            const QString why = whyLocked();
+            QString why = whyLocked();
             if (!why.isEmpty())
                 return why;
             return m_desk.day.typed().isEmpty() ? JournalWindowLines::nothingWritten() : QString();

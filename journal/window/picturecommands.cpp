@@ -45,7 +45,7 @@ void PictureCommands::addCommands(QMenu *edit)
     m_desk.commands.writing(m_desk.commands.add(
         edit, u"mECaption"_s, u"Picture &Caption..."_s, [this] { askCaption(); },
         [this] {
-            if (const QString why = whyLocked(); !why.isEmpty())
+            if (QString why = whyLocked(); !why.isEmpty())
                 return why;
             return m_desk.page.text().pictureAtCursor() > 0 ? QString() : JournalWindowLines::noPictureHere();
         }));
