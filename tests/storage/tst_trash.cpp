@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QDateTime noon(QDate(2026, 11, 21), QTime(12, 0), Qt::UTC);
+const QDateTime noon = QDateTime::fromString(u"2026-11-21T12:00:00Z"_s, Qt::ISODate);
 
 Trash::Item item(const QString &title, const QDateTime &deleted = noon, const QString &kind = u"Book"_s)
 {

@@ -56,7 +56,7 @@ QByteArray younger()
                   "da725181d0e0fe2feeec638cfbfef90b37181a452fa0fe0d3498019b8523e3e1");
 }
 
-const QDateTime firstWrong(QDate(2025, 11, 20), QTime(21, 4), Qt::UTC);
+const QDateTime firstWrong = QDateTime::fromString(u"2025-11-20T21:04:00Z"_s, Qt::ISODate);
 
 /// `record` with other bytes at `at`, and what its last 32 bytes must then be.
 QByteArray with(QByteArray record, qsizetype at, const char *bytes, const char *checksum)
