@@ -293,11 +293,6 @@ bool listDate(Page &page, QDate date, const DayLines &lines, int first, DateStyl
 
 } // namespace
 
-QDate PlannerPages::weekStart(QDate date, Qt::DayOfWeek firstDay)
-{
-    return date.addDays(-((date.dayOfWeek() - firstDay + daysPerWeek) % daysPerWeek));
-}
-
 Page PlannerPages::day(QDate date, const PlannerDay &entries, const PageContext &context, const Notes &notes)
 {
     Page page(Dates::longText(date, context.style), headRight(context));
@@ -324,8 +319,7 @@ Page PlannerPages::month(QDate date, const Days &days, Qt::DayOfWeek firstDay, c
 {
     constexpr double headHeight = 0.26;
     const QDate first(date.year(), date.month(), 1);
-    const QDate start = weekStart(first, firstDay);
-    const int weeks = int(start.daysTo(first) + first.daysInMonth() + daysPerWeek - 1) / daysPerWeek;
+    const auto [start, weeks] = Dates::weeksOfMonth(date, firstDay);
     Page page(Dates::monthYear(first), headRight(context));
     std::map<QDate, int> crowded; // with the number of entries that the calendar has
     const QRectF area = placedArea(context.setup);
@@ -373,7 +367,7 @@ Page PlannerPages::range(QDate from, QDate to, const Days &days, const PageConte
 Page PlannerPages::weekOf(const PlannerFiles &files, QDate date, const CalendarOptions &options,
                           const PageContext &context, const Notes &notes)
 {
-    const QDate start = weekStart(date, options.firstDay());
+    const QDate start = Dates::startOfWeek(date, options.firstDay());
     return week(start, files.days(start, start.addDays(daysPerWeek - 1)), context, notes);
 }
 

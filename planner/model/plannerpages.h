@@ -17,9 +17,6 @@ namespace PlannerPages {
 using Days = std::map<QDate, PlannerDay>;
 using Notes = std::map<QDate, QStringList>;
 
-/// The first day of the week that `date` is in.
-QDate weekStart(QDate date, Qt::DayOfWeek firstDay);
-
 /// The fourteen rows of `date`; empty ones are lines to write on.
 Page day(QDate date, const PlannerDay &entries, const PageContext &context, const Notes &notes = {});
 

@@ -109,9 +109,5 @@ QVariant DaysModel::headerData(int section, Qt::Orientation orientation, int rol
         return {};
     if (orientation == Qt::Horizontal)
         return QLocale::c().dayName(m_span.start.addDays(section).dayOfWeek(), m_dayNames);
-    // A row's week is the one of its Monday.
-    QDate monday = m_span.start.addDays(qint64(section) * m_span.columns);
-    while (monday.dayOfWeek() != Qt::Monday)
-        monday = monday.addDays(1);
-    return monday.weekNumber();
+    return Dates::weekNumber(m_span.start.addDays(qint64(section) * m_span.columns));
 }

@@ -192,11 +192,10 @@ void MonthGrid::setUpView()
 void MonthGrid::show(QDate date, const CalendarOptions &options, QDate today)
 {
     const QDate first(date.year(), date.month(), 1);
-    const QDate start = PlannerPages::weekStart(first, options.firstDay());
-    const int weeks = int(start.daysTo(first) + first.daysInMonth() + daysPerWeek - 1) / daysPerWeek;
+    const Dates::Weeks weeks = Dates::weeksOfMonth(date, options.firstDay());
     const QDate last = first.addMonths(1).addDays(-1);
-    m_model->setDays({start, weeks, daysPerWeek, first, last},
-                     m_files.days(start, start.addDays(weeks * daysPerWeek - 1)), today);
+    m_model->setDays({weeks.start, weeks.count, daysPerWeek, first, last},
+                     m_files.days(weeks.start, weeks.end()), today);
     m_view->verticalHeader()->setVisible(options.showsWeekNumbers());
     m_title->setTitle(Dates::monthYear(first));
     m_view->setCurrentIndex(m_model->indexOf(date));

@@ -208,7 +208,7 @@ WeekView::WeekView(const PlannerFiles &files, const HouseholdNotes &notes, DateS
 
 void WeekView::show(QDate date, const CalendarOptions &options, QDate today)
 {
-    const QDate start = PlannerPages::weekStart(date, options.firstDay());
+    const QDate start = Dates::startOfWeek(date, options.firstDay());
     const QDate end = start.addDays(daysPerWeek - 1);
     m_model->setDays({start, daysPerWeek, 1, start, end}, m_files.days(start, end), today);
     m_title->setTitle(Dates::range(start, end, m_style), shortRange(start, end, m_style));
@@ -240,7 +240,7 @@ QDate WeekView::after(QDate date, int steps) const
 
 Page WeekView::page(QDate date, const CalendarOptions &options, const PageContext &context) const
 {
-    const QDate start = PlannerPages::weekStart(date, options.firstDay());
+    const QDate start = Dates::startOfWeek(date, options.firstDay());
     return PlannerPages::weekOf(m_files, date, options, context,
                                 notes().texts(start, start.addDays(daysPerWeek - 1)));
 }

@@ -191,6 +191,23 @@ Qt::DayOfWeek Dates::weekStart(int number)
     return number >= 2 && number <= 7 ? Qt::DayOfWeek(number - 1) : Qt::Sunday;
 }
 
+QDate Dates::startOfWeek(QDate date, Qt::DayOfWeek firstDay)
+{
+    return date.addDays(-((date.dayOfWeek() - firstDay + daysPerWeek) % daysPerWeek));
+}
+
+Dates::Weeks Dates::weeksOfMonth(QDate date, Qt::DayOfWeek firstDay)
+{
+    const QDate first(date.year(), date.month(), 1);
+    const QDate start = startOfWeek(first, firstDay);
+    return {start, int(start.daysTo(first) + first.daysInMonth() + daysPerWeek - 1) / daysPerWeek};
+}
+
+int Dates::weekNumber(QDate start)
+{
+    return startOfWeek(start.addDays(daysPerWeek - 1), Qt::Monday).weekNumber();
+}
+
 QString Dates::nearDay(QDate date, QDate today)
 {
     if (!date.isValid() || !today.isValid())

@@ -59,6 +59,23 @@ QString range(QDate from, QDate to, DateStyle style);
 /// anything else is Sunday.
 Qt::DayOfWeek weekStart(int number);
 
+/// The first day of the week that `date` is in.
+QDate startOfWeek(QDate date, Qt::DayOfWeek firstDay);
+
+/// Whole weeks, 4 to 6 of them.
+struct Weeks {
+    QDate start;
+    int count = 0;
+
+    QDate end() const { return start.addDays(qint64(7) * count - 1); }
+};
+
+/// The weeks that the month of `date` lies in.
+Weeks weeksOfMonth(QDate date, Qt::DayOfWeek firstDay);
+
+/// The ISO number of the week that begins with `start`, on any day of the week: that of the Monday in it.
+int weekNumber(QDate start);
+
 /// "today", "tomorrow", or "on Tuesday" within the six days after `today`; empty for any other date.
 QString nearDay(QDate date, QDate today);
 

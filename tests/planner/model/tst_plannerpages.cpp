@@ -135,7 +135,7 @@ private slots:
     {
         const PlannerPages::Days days{{QDate(2026, 11, 17), numberedEntries(2)},
                                       {QDate(2026, 11, 22), numberedEntries(1)}};
-        const QDate start = PlannerPages::weekStart(QDate(2026, 11, 21), Qt::Monday);
+        const QDate start = Dates::startOfWeek(QDate(2026, 11, 21), Qt::Monday);
         QCOMPARE(start, QDate(2026, 11, 16));
         QCOMPARE(linesOf(PlannerPages::week(start, days, contextOf(PageSetup::Portrait))),
                  (QStringList{u"Week of November 16 to 22, 2026\tPersonal Planner"_s, u"Monday, Nov 16\t\t"_s,

@@ -121,6 +121,28 @@ private slots:
         QLocale::setDefault(before);
     }
 
+    void findsTheWeeksOfAMonth_data()
+    {
+        rows<QDate, Qt::DayOfWeek, QDate, int, int>({
+            {"four weeks", QDate(2027, 2, 28), Qt::Monday, QDate(2027, 2, 1), 4, 5},
+            {"six weeks", QDate(2026, 8, 1), Qt::Monday, QDate(2026, 7, 27), 6, 31},
+            {"a new year from Monday", QDate(2027, 1, 9), Qt::Monday, QDate(2026, 12, 28), 5, 53},
+            {"a new year from Sunday", QDate(2027, 1, 1), Qt::Sunday, QDate(2026, 12, 27), 6, 53},
+            {"a first week that begins in December", QDate(2026, 1, 31), Qt::Monday, QDate(2025, 12, 29), 5,
+             1},
+            {"weeks from Saturday", QDate(2028, 1, 1), Qt::Saturday, QDate(2028, 1, 1), 5, 1},
+        });
+    }
+
+    void findsTheWeeksOfAMonth()
+    {
+        const auto [date, firstDay, start, count, number] = row<QDate, Qt::DayOfWeek, QDate, int, int>();
+        const Dates::Weeks weeks = Dates::weeksOfMonth(date, firstDay);
+        QCOMPARE(weeks.start, start);
+        QCOMPARE(weeks.count, count);
+        QCOMPARE(Dates::weekNumber(weeks.start), number);
+    }
+
     void namesTheDaysAtHand()
     {
         const QDate today(2026, 11, 21);
