@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calendar/model/daterule.h"
+
+#include "calendar/model/easter.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int daysPerWeek = 7;
+
+/// The date in `year`; 29 February is the 28th where there is none.
+QDate dayIn(int year, int month, int day)
+{
+    return {year, month, std::min(day, QDate(year, month, 1).daysInMonth())};
+}
+
+/// The first `weekday` on or after `date`.
+QDate firstFrom(QDate date, Qt::DayOfWeek weekday)
+{
+    return date.addDays((weekday - date.dayOfWeek() + daysPerWeek) % daysPerWeek);
+}
+
+bool isWeekend(QDate date)
+{
+    return date.dayOfWeek() >= Qt::Saturday;
+}
+
+/// The weekday after `date` that is none of the holidays; no date where there are nothing but holidays.
+QDate nextWeekday(QDate date, const std::function<bool(QDate)> &isHoliday)
+{
+    for (int days = 1; days <= DateRule::mostShift; ++days) {
+        const QDate next = date.addDays(days);
+        if (!isWeekend(next) && !(isHoliday && isHoliday(next)))
+            return next;
+    }
+    return {};
+}
+
+} // namespace
+
+QDate DateRule::inYear(int year) const
+{
+    switch (kind) {
+    case OnDate:
+        return dayIn(year, month, day);
+    case Nth: {
+        const QDate date = firstFrom({year, month, 1}, weekday).addDays(qint64(number - 1) * daysPerWeek);
+        return date.month() == month ? date : QDate();
+    }
+    case Last:
+        return firstFrom(QDate(year, month, 1).addMonths(1).addDays(-daysPerWeek), weekday);
+    case Before:
+        return firstFrom(dayIn(year, month, day).addDays(-daysPerWeek), weekday);
+    case From:
+        return firstFrom(dayIn(year, month, day), weekday);
+    case Easter:
+        return Easter::western(year).addDays(number);
+    case Orthodox:
+        return Easter::orthodox(year).addDays(number);
+    case EveryWeeks:
+    case EveryDays:
+        break;
+    }
+    return {};
+}
+
+/// The dates of the rule alone, whatever becomes of them: at least those from `from` to `to`.
+QList<QDate> DateRule::ownDates(QDate from, QDate to) const
+{
+    QList<QDate> dates;
+    const auto take = [&](QDate date, int year) {
+        if (date.isValid() && year >= firstYear && (lastYear == 0 || year <= lastYear))
+            dates.append(date);
+    };
+    if (kind == EveryDays || kind == EveryWeeks) {
+        const int step = kind == EveryDays ? number : number * daysPerWeek;
+        const qint64 skipped = std::max<qint64>(0, start.daysTo(from) / step);
+        for (QDate date = start.addDays(skipped * step); date.isValid() && date <= to;
+             date = date.addDays(step))
+            take(date, date.year());
+        return dates;
+    }
+    for (int year = from.year() - 1; year <= to.year() + 1; ++year)
+        take(inYear(year), year);
+    return dates;
+}
+
+QDate DateRule::shifted(QDate date) const
+{
+    const auto shift = std::ranges::find(shifts, date.dayOfWeek(), &Shift::weekday);
+    return shift == shifts.end() ? date : date.addDays(shift->days);
+}
+
+QList<DateRule::Day> DateRule::days(QDate from, QDate to, const std::function<bool(QDate)> &isHoliday) const
+{
+    QList<Day> days;
+    const auto take = [&](QDate date, bool isDayOff) {
+        if (date.isValid() && date >= from && date <= to)
+            days.append({date, isDayOff});
+    };
+    if (!from.isValid() || !to.isValid())
+        return days;
+    for (const QDate date : ownDates(from.addDays(-mostShift), to.addDays(mostShift))) {
+        take(moving == Moving::Moved ? shifted(date) : date, false);
+        if (moving == Moving::Observed && shifted(date) != date)
+            take(shifted(date), true);
+        if (moving == Moving::Next && isWeekend(date))
+            take(nextWeekday(date, isHoliday), true);
+    }
+    std::ranges::stable_sort(days, {}, &Day::date);
+    return days;
+}
+
+QList<QDate> DateRule::dates(QDate from, QDate to, const std::function<bool(QDate)> &isHoliday) const
+{
+    QList<QDate> dates;
+    for (const Day &day : days(from, to, isHoliday)) {
+        if (dates.isEmpty() || dates.last() != day.date)
+            dates.append(day.date);
+    }
+    return dates;
+}
