@@ -63,6 +63,8 @@ inline constexpr TextSetting toDoTextColor{colorFile3, 209};
 inline constexpr TextSetting passwordKeeperTextColor{colorFile3, 211};
 inline constexpr TextSetting journalColor{colorFile3, 212};
 inline constexpr TextSetting journalTextColor{colorFile3, 213};
+inline constexpr TextSetting calendarColor{colorFile3, 214};
+inline constexpr TextSetting calendarTextColor{colorFile3, 215};
 
 /// Minutes without key or mouse after which what the password guards is covered; anything but these is the
 /// usual.
@@ -79,7 +81,7 @@ inline constexpr std::array<int, 10> programColors3{8, 17, 91, 92, 100, 101, 102
 /// The windows' own colours, which would outrank a program-wide one: the update gives them its value, too.
 inline constexpr std::array windowColors{
     addressEntryColor,    budgetColor, passwordKeeperColor, helpColor, plannerColor, addressViewerColor,
-    addressPicturesColor, carColor,    weightColor,         toDoColor, journalColor};
+    addressPicturesColor, carColor,    weightColor,         toDoColor, journalColor, calendarColor};
 
 /// The program-wide record that a window falls back to when its own is empty or "Default".
 inline constexpr TextSetting addressEntryProgramColor{colorFile1, 10};
@@ -93,5 +95,6 @@ inline constexpr TextSetting weightProgramColor{colorFile1, 18};
 inline constexpr TextSetting toDoProgramColor{colorFile1, 22};
 inline constexpr TextSetting passwordKeeperProgramColor{colorFile1, 27};
 inline constexpr TextSetting journalProgramColor{colorFile1, 32};
+inline constexpr TextSetting calendarProgramColor{colorFile1, 36};
 
 } // namespace SettingsKeys
