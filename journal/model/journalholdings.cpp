@@ -2,7 +2,7 @@
 #include "journal/model/journalholdings.h"
 
 #include "journal/model/journalfiles.h"
-#include "journal/model/journalpictures.h"
+#include "shell/pictures/keptpictures.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,7 +32,7 @@ QStringList JournalHoldings::pictures(const DataFolder &folder)
             if (!block.bytes.contains("\npicture "))
                 continue;
             for (const JournalPicture &picture : JournalForm::head(block).pictures) {
-                const QString path = JournalPictures::locate(folder, picture.path);
+                const QString path = KeptPictures::locate(folder, picture.path);
                 if (!path.isEmpty() && !paths.contains(path))
                     paths.append(path);
             }

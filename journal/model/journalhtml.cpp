@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal/model/journalhtml.h"
 
-#include "journal/model/journalpictures.h"
 #include "shell/core/dates.h"
 #include "shell/core/lightmarks.h"
+#include "shell/pictures/keptpictures.h"
 #include "storage/disk.h"
 
 #include <QDir>
@@ -119,7 +119,7 @@ void JournalHtml::addText(const JournalEntry &entry)
 
 void JournalHtml::addPicture(const JournalPicture &picture, QDate date)
 {
-    const QString source = JournalPictures::locate(m_folder, picture.path);
+    const QString source = KeptPictures::locate(m_folder, picture.path);
     const QString caption = escaped(picture.caption);
     m_body += u"<figure>"_s;
     if (source.isEmpty()) {

@@ -3,7 +3,6 @@
 
 #include "journal/model/journal.h"
 #include "journal/model/journalexport.h"
-#include "journal/model/journalpictures.h"
 #include "journal/model/recoverysheet.h"
 #include "journal/window/dayfacts.h"
 #include "journal/window/journalprintpanel.h"
@@ -16,6 +15,7 @@
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
 #include "shell/pages/pagepainter.h"
+#include "shell/pictures/keptpictures.h"
 #include "shell/preview/previewpane.h"
 #include "shell/preview/printjob.h"
 #include "shell/program/daynotes.h"
@@ -70,7 +70,7 @@ JournalPages::Source JournalPrint::sourceOf(const QList<JournalEntry> &entries) 
     JournalPages::Source source;
     source.entries = entries;
     source.picturePath = [folder = m_desk.program.folder](const QString &path) {
-        return JournalPictures::locate(folder, path);
+        return KeptPictures::locate(folder, path);
     };
     source.facts = [&program = m_desk.program](QDate date) {
         QStringList facts;

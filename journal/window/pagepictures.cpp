@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal/window/pagepictures.h"
 
-#include "journal/model/journalpictures.h"
+#include "shell/pictures/keptpictures.h"
 #include "shell/pictures/pictureloader.h"
 #include "storage/datafolder.h"
 
@@ -83,7 +83,7 @@ void PagePictures::read(const QString &path)
 {
     m_shown[path].isAsked = true;
     const QSize bound = QSizeF(m_width * m_pixelRatio, mostHeight * m_pixelRatio).toSize();
-    m_loader->load(JournalPictures::locate(m_folder, path), bound, [this, path](const LoadedPicture &loaded) {
+    m_loader->load(KeptPictures::locate(m_folder, path), bound, [this, path](const LoadedPicture &loaded) {
         Shown &shown = m_shown[path];
         shown.image = loaded.image;
         shown.isMissing = loaded.image.isNull();

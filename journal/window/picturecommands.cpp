@@ -6,10 +6,10 @@
 #include "journal/window/journaltext.h"
 #include "journal/window/openday.h"
 #include "journal/window/pagepictures.h"
-#include "journal/window/pictureform.h"
 #include "journal/window/windowlines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/frame/pictureform.h"
 #include "shell/frame/workviews.h"
 #include "shell/pictures/picturefolder.h"
 #include "shell/program/program.h"
@@ -92,11 +92,15 @@ void PictureCommands::openFile(const QString &file)
 PictureForm &PictureCommands::form()
 {
     if (!m_form) {
-        m_form = new PictureForm(m_desk.program);
+        m_form = new PictureForm(m_desk.program, {.name = u"journalPicturePanel"_s,
+                                                  .title = u"Insert Picture"_s,
+                                                  .keepCopy = JournalWindowLines::keepCopyHint(),
+                                                  .notKept = JournalWindowLines::pictureNotKept(),
+                                                  .nameOfNone = u"Journal"_s});
         m_desk.views.addPanel(m_form);
         connect(m_form, &PictureForm::said, this, &PictureCommands::said);
-        connect(m_form, &PictureForm::entered, this, [this](const JournalPicture &picture) {
-            m_desk.day.addPicture(picture);
+        connect(m_form, &PictureForm::entered, this, [this](const QString &path, const QString &caption) {
+            m_desk.day.addPicture({path, caption});
             m_desk.page.text().setFocus();
         });
     }

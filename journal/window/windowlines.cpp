@@ -231,11 +231,6 @@ QString JournalWindowLines::folderNotKept()
     return u"The folder could not be remembered"_s;
 }
 
-QString JournalWindowLines::alwaysKept()
-{
-    return u"What comes from no file is always kept"_s;
-}
-
 QString JournalWindowLines::noDate()
 {
     return u"That is no date between the years 1000 and 9999"_s;

@@ -71,7 +71,6 @@ QString notSetAside();
 QString pictureNotTaken();
 QString pictureNotKept();
 QString folderNotKept();
-QString alwaysKept();
 QString noDate();
 
 // What comes in and goes out

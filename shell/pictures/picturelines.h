@@ -40,6 +40,11 @@ inline QString pictureNotKept()
     return u"The picture could not be kept: the disk refused a copy of it"_s;
 }
 
+inline QString alwaysKept()
+{
+    return u"What comes from no file is always kept"_s;
+}
+
 inline QString pictureKept(const QString &path)
 {
     return u"The picture is kept as "_s + path;

@@ -2,7 +2,7 @@
 #include "journal/model/journalexport.h"
 #include "journal/model/journalhtml.h"
 #include "journal/model/journalimport.h"
-#include "journal/model/journalpictures.h"
+#include "shell/pictures/keptpictures.h"
 #include "tests/journal/model/journaldays.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
@@ -181,7 +181,7 @@ private slots:
         const TestFolder outside;
         outside.put(u"ferry.jpg"_s, "one");
         const auto keep = [&](const TestFolder &from, const QString &name) {
-            return JournalPictures::keepCopy(folder.folder(), from.path(name));
+            return KeptPictures::keepCopy(folder.folder(), from.path(name));
         };
         QCOMPARE(keep(outside, u"ferry.jpg"_s), u"Pictures/ferry.jpg"_s);
         QCOMPARE(keep(outside, u"ferry.jpg"_s), u"Pictures/ferry.jpg"_s);
@@ -193,9 +193,7 @@ private slots:
         folder.put(u"here.png"_s, "x");
         QCOMPARE(keep(folder, u"here.png"_s), u"here.png"_s);
 
-        const auto locate = [&](const QString &path) {
-            return JournalPictures::locate(folder.folder(), path);
-        };
+        const auto locate = [&](const QString &path) { return KeptPictures::locate(folder.folder(), path); };
         QCOMPARE(locate(u"Pictures/ferry.jpg"_s), folder.path(u"Pictures/ferry.jpg"_s));
         QCOMPARE(locate(outside.path(u"ferry.jpg"_s)), outside.path(u"ferry.jpg"_s));
         QCOMPARE(locate(u"C:\\moved\\ferry.jpg"_s), folder.path(u"Pictures/ferry.jpg"_s));

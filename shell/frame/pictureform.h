@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "journal/model/journalentry.h"
 #include "shell/controls/taskpanel.h"
 
 #include <QImage>
@@ -11,13 +10,23 @@ class QCheckBox;
 class QLineEdit;
 struct Program;
 
-/// A picture on its way into an entry: what it looks like, its caption, and whether a copy of it is kept with
-/// the journal.
+/// What a picture is taken for, in the words of the function that takes it.
+struct PictureFormUse {
+    QString name;                             ///< of the panel
+    QString title;                            ///< of the panel
+    QString take = QStringLiteral("&Insert"); ///< what its button says
+    QString keepCopy;                         ///< beside the box to tick
+    QString notKept;                          ///< the disk refuses a copy
+    QString nameOfNone;                       ///< what the file of a picture is called that comes from none
+};
+
+/// A picture on its way into a record that keeps its path: what it looks like, its caption, and whether a
+/// copy of it is kept with the household's files.
 class PictureForm final : public TaskPanel
 {
     Q_OBJECT
 public:
-    explicit PictureForm(const Program &program, QWidget *parent = nullptr);
+    PictureForm(const Program &program, PictureFormUse use, QWidget *parent = nullptr);
 
     /// Shows the picture of a file. False when it cannot be read.
     bool start(const QString &file);
@@ -28,7 +37,8 @@ public:
     void forget();
 
 signals:
-    void entered(const JournalPicture &picture);
+    /// `path` as `KeptPictures` has it.
+    void entered(const QString &path, const QString &caption);
     void said(const QString &line);
 
 private:
@@ -36,6 +46,7 @@ private:
     void enter();
 
     const Program &m_program;
+    PictureFormUse m_use;
     PictureFrame *m_frame;
     QLineEdit *m_caption;
     QCheckBox *m_keep;

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "journal/window/pictureform.h"
+#include "shell/frame/pictureform.h"
 
-#include "journal/model/journalpictures.h"
-#include "journal/window/windowlines.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/pictures/keptpictures.h"
 #include "shell/pictures/pictureframe.h"
+#include "shell/pictures/picturelines.h"
 #include "shell/program/program.h"
 
 #include <QCheckBox>
 #include <QFileInfo>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,12 +20,13 @@ constexpr QSize most(1600, 1200);
 constexpr int captionWidth = 480;
 } // namespace
 
-PictureForm::PictureForm(const Program &program, QWidget *parent)
-    : TaskPanel(u"journalPicturePanel"_s, u"Insert Picture"_s, parent)
+PictureForm::PictureForm(const Program &program, PictureFormUse use, QWidget *parent)
+    : TaskPanel(use.name, use.title, parent)
     , m_program(program)
+    , m_use(std::move(use))
     , m_frame(new PictureFrame(this))
     , m_caption(named(new QLineEdit(this), u"pictureCaption"_s))
-    , m_keep(named(new QCheckBox(JournalWindowLines::keepCopyHint(), this), u"keepCopy"_s))
+    , m_keep(named(new QCheckBox(m_use.keepCopy, this), u"keepCopy"_s))
 {
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
@@ -36,7 +39,7 @@ PictureForm::PictureForm(const Program &program, QWidget *parent)
     rows->addWidget(m_keep);
     setWork(content);
     setFocusProxy(m_caption);
-    QPushButton *insert = addButton(u"insertPicture"_s, u"&Insert"_s, ButtonKind::Main);
+    QPushButton *insert = addButton(u"insertPicture"_s, m_use.take, ButtonKind::Main);
     setLeaveButton(u"pictureClose"_s, u"C&lose"_s);
     connect(insert, &QPushButton::clicked, this, &PictureForm::enter);
     connect(m_caption, &QLineEdit::returnPressed, this, &PictureForm::enter);
@@ -64,25 +67,25 @@ void PictureForm::show(const QImage &picture, bool isFile)
     m_frame->setImage(picture);
     m_caption->clear();
     m_keep->setChecked(true);
-    setUnavailable(m_keep, isFile ? QString() : JournalWindowLines::alwaysKept());
+    setUnavailable(m_keep, isFile ? QString() : PictureLines::alwaysKept());
 }
 
 void PictureForm::enter()
 {
-    QString path = JournalPictures::stored(m_program.folder, m_file);
+    QString path = KeptPictures::stored(m_program.folder, m_file);
     if (m_file.isEmpty())
-        path = JournalPictures::keep(m_program.folder, PictureFile::asPhotograph(m_image),
-                                     m_isNamed && !m_caption->text().isEmpty() ? m_caption->text()
-                                                                               : u"Journal"_s);
+        path = KeptPictures::keep(m_program.folder, PictureFile::asPhotograph(m_image),
+                                  m_isNamed && !m_caption->text().isEmpty() ? m_caption->text()
+                                                                            : m_use.nameOfNone);
     else if (m_keep->isChecked())
-        path = JournalPictures::keepCopy(m_program.folder, m_file);
+        path = KeptPictures::keepCopy(m_program.folder, m_file);
     if (path.isEmpty()) {
-        emit said(JournalWindowLines::pictureNotKept());
+        emit said(m_use.notKept);
         return;
     }
-    const JournalPicture picture{path, m_caption->text().trimmed()};
+    const QString caption = m_caption->text().trimmed();
     leave();
-    emit entered(picture);
+    emit entered(path, caption);
 }
 
 void PictureForm::forget()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "journal/model/journalpictures.h"
+#include "shell/pictures/keptpictures.h"
 
 #include "shell/pictures/picturefolder.h"
 #include "storage/saving.h"
@@ -22,7 +22,7 @@ bool holds(const QString &path, QByteArrayView bytes)
 
 } // namespace
 
-QString JournalPictures::locate(const DataFolder &folder, const QString &path)
+QString KeptPictures::locate(const DataFolder &folder, const QString &path)
 {
     if (path.isEmpty())
         return {};
@@ -32,14 +32,14 @@ QString JournalPictures::locate(const DataFolder &folder, const QString &path)
     return PictureFolder(folder).locate(path);
 }
 
-QString JournalPictures::stored(const DataFolder &folder, const QString &file)
+QString KeptPictures::stored(const DataFolder &folder, const QString &file)
 {
     const QString path = QDir::cleanPath(QFileInfo(file).absoluteFilePath());
     const QString inside = QDir::cleanPath(QFileInfo(folder.path()).absoluteFilePath()) + u'/';
     return path.startsWith(inside) ? path.sliced(inside.size()) : path;
 }
 
-QString JournalPictures::keepCopy(const DataFolder &folder, const QString &file)
+QString KeptPictures::keepCopy(const DataFolder &folder, const QString &file)
 {
     if (const QString path = stored(folder, file); QDir::isRelativePath(path))
         return QFileInfo(file).isFile() ? path : QString();
@@ -50,7 +50,7 @@ QString JournalPictures::keepCopy(const DataFolder &folder, const QString &file)
     return source.error() == QFile::NoError ? keep(folder, bytes, QFileInfo(file).fileName()) : QString();
 }
 
-QString JournalPictures::keep(const DataFolder &folder, QByteArrayView bytes, const QString &name)
+QString KeptPictures::keep(const DataFolder &folder, QByteArrayView bytes, const QString &name)
 {
     const QString place = folder.filePath(picturesName);
     const DataFolder pictures(place, folder.whyReadOnly());
