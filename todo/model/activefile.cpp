@@ -3,6 +3,7 @@
 
 #include "shell/core/dates.h"
 #include "storage/ansitext.h"
+#include "storage/tabline.h"
 #include "storage/valuefile.h"
 #include "todo/model/lines.h"
 
@@ -55,7 +56,7 @@ QByteArray ansiText(QByteArrayView column)
     const auto isSame = [](char byte) { return byte >= ' ' && byte <= '~' && byte != '\\'; };
     if (std::ranges::all_of(column, isSame))
         return column.toByteArray();
-    return AnsiText::encode(ToDoLine::text(column).replace(u'\n', u' '));
+    return AnsiText::encode(TabLine::text(column).replace(u'\n', u' '));
 }
 
 bool isTold(const ToDoSheet &sheet, int row)

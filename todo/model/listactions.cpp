@@ -2,6 +2,7 @@
 #include "todo/model/listactions.h"
 
 #include "storage/ansitext.h"
+#include "storage/tabline.h"
 #include "todo/model/lines.h"
 #include "todo/model/templates.h"
 
@@ -134,7 +135,7 @@ QStringList ListActions::openTexts(const ToDoSheet &sheet, int id)
     QStringList texts;
     for (int row = 0; row < sheet.rowCount(); ++row) {
         if (sheet.listOf(row) == id && sheet.isOpen(row))
-            texts += ToDoLine::text(sheet.textBytes(row));
+            texts += TabLine::text(sheet.textBytes(row));
     }
     return texts;
 }

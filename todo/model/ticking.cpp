@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/tabline.h"
 #include "todo/model/comingback.h"
 #include "todo/model/lines.h"
 #include "todo/model/repeat.h"
@@ -170,7 +171,7 @@ Result changeTicks(Ticking ticking, const std::vector<int> &ids, const QString &
         const int row = ticking.sheet().rowOf(id);
         if (row < 0 || !isMeant(ticking.sheet(), row))
             continue;
-        texts += ToDoLine::text(ticking.sheet().textBytes(row));
+        texts += TabLine::text(ticking.sheet().textBytes(row));
         changed.push_back(id);
         change(ticking, row);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/model/todoactions.h"
 
+#include "storage/tabline.h"
 #include "todo/model/lines.h"
 
 #include <QSet>
@@ -21,7 +22,7 @@ QSet<int> setOf(const std::vector<int> &ids)
 
 QString textOf(const ToDoSheet &sheet, int row)
 {
-    return ToDoLine::text(sheet.textBytes(row));
+    return TabLine::text(sheet.textBytes(row));
 }
 
 /// The row behind the last of `list`, or of all rows where it has none.

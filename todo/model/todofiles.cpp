@@ -57,15 +57,15 @@ ToDoFiles::Opened ToDoFiles::open(DateStyle style, QDate today) const
     opened.whyLocked = m_folder.whyReadOnly();
     const std::optional<QByteArray> own = contentOf(m_folder, ownName);
     const QByteArray active = contentOf(m_folder, activeName).value_or(QByteArray());
-    const auto form = own ? ToDoHead::formOf(*own) : ToDoHead::Foreign;
+    const auto form = own ? ToDoHead::formOf(*own) : TabLine::Foreign;
     if (!own)
         opened.whyLocked = ToDoLines::unreadableFile();
-    else if (form == ToDoHead::Foreign)
+    else if (form == TabLine::Foreign)
         opened.whyLocked = ToDoLines::foreignFile();
-    else if (form == ToDoHead::Later)
+    else if (form == TabLine::Later)
         opened.whyLocked = ToDoLines::laterVersion();
 
-    opened.isNew = form == ToDoHead::Empty || form == ToDoHead::Foreign;
+    opened.isNew = form == TabLine::Empty || form == TabLine::Foreign;
     if (opened.isNew) {
         const QByteArray names = contentOf(m_folder, namesName).value_or(QByteArray());
         opened.sheet = ActiveFile::firstSheet(names, active, style, today);

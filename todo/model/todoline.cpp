@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/model/todoline.h"
 
+#include "storage/tabline.h"
+
 #include <algorithm>
 #include <array>
 
 namespace {
 
+using TabLine::Columns;
 using ToDoLine::Kind;
 
 enum ListColumn { ListWord, ListId, ListKindWord, ListName, ListColumnCount };
@@ -29,84 +32,12 @@ constexpr QByteArrayView itemWord = "item";
 constexpr QByteArrayView activeWord = "active";
 constexpr QByteArrayView nextWord = "next";
 
-constexpr qsizetype mostDigits = 9;
-constexpr qsizetype dateLength = 10;
-
-/// Takes columns off a line from the left.
-class Columns
-{
-public:
-    explicit Columns(QByteArrayView line)
-        : m_rest(line)
-        , m_size(line.size())
-    {}
-
-    bool isAtEnd() const { return m_isAtEnd; }
-    /// Where the next column begins.
-    qsizetype at() const { return m_isAtEnd ? m_size : m_size - m_rest.size(); }
-
-    QByteArrayView take()
-    {
-        if (m_isAtEnd)
-            return {};
-        const qsizetype end = m_rest.indexOf('\t');
-        const QByteArrayView column = m_rest.first(end < 0 ? m_rest.size() : end);
-        m_isAtEnd = end < 0;
-        m_rest = m_rest.sliced(column.size() + (m_isAtEnd ? 0 : 1));
-        return column;
-    }
-
-private:
-    QByteArrayView m_rest;
-    qsizetype m_size;
-    bool m_isAtEnd = false;
-};
-
-bool isDigit(char byte)
-{
-    return byte >= '0' && byte <= '9';
-}
-
-/// -1 where `digits` are no number of nine digits at most.
-int number(QByteArrayView digits)
-{
-    if (digits.isEmpty() || digits.size() > mostDigits || !std::ranges::all_of(digits, isDigit))
-        return -1;
-    int value = 0;
-    for (const char digit : digits)
-        value = 10 * value + (digit - '0');
-    return value;
-}
-
-/// The Julian day of "2026-11-24"; 0 for anything else.
-qint32 julianDay(QByteArrayView column)
-{
-    if (column.size() != dateLength || column[4] != '-' || column[7] != '-')
-        return 0;
-    const int year = number(column.first(4));
-    if (year < 1)
-        return 0;
-    const QDate date(year, number(column.sliced(5, 2)), number(column.sliced(8, 2)));
-    return date.isValid() ? qint32(date.toJulianDay()) : 0;
-}
-
-QDate date(QByteArrayView column)
-{
-    const qint32 day = julianDay(column);
-    return day > 0 ? QDate::fromJulianDay(day) : QDate();
-}
-
-QByteArray dateColumn(QDate date)
-{
-    return date.isValid() ? date.toString(Qt::ISODate).toLatin1() : QByteArray();
-}
-
 /// The days of "+3" or "-7".
 std::optional<int> offset(QByteArrayView column)
 {
     if (column.isEmpty() || (column[0] != '+' && column[0] != '-'))
         return {};
-    const int days = number(column.sliced(1));
+    const int days = TabLine::number(column.sliced(1));
     if (days < 0)
         return {};
     return column[0] == '-' ? -days : days;
@@ -140,22 +71,15 @@ QByteArray kindColumn(ListKind kind)
     return kind == ListKind::Shopping ? "shopping" : kind == ListKind::Template ? "template" : "plain";
 }
 
-QByteArray textColumn(const QString &text)
-{
-    QByteArray column = text.toUtf8();
-    column.replace('\\', "\\\\").replace("\r\n", "\\n").replace('\r', "\\n").replace('\n', "\\n");
-    return column.replace('\t', "\\t");
-}
-
 std::array<QByteArray, ListColumnCount> columnsOf(const ToDoList &list)
 {
     return {listWord.toByteArray(), QByteArray::number(list.id), kindColumn(list.kind),
-            textColumn(list.name)};
+            TabLine::column(list.name)};
 }
 
 std::array<QByteArray, ItemColumnCount> columnsOf(const ToDoItem &item)
 {
-    QByteArray due = dateColumn(item.due);
+    QByteArray due = TabLine::column(item.due);
     if (item.offset)
         due = (*item.offset < 0 ? "-" : "+") + QByteArray::number(qAbs(*item.offset));
     return {itemWord.toByteArray(),
@@ -163,12 +87,12 @@ std::array<QByteArray, ItemColumnCount> columnsOf(const ToDoItem &item)
             QByteArray::number(item.list),
             levelColumn(item.level),
             due,
-            dateColumn(item.actual),
-            textColumn(item.who),
-            textColumn(item.repeat),
-            dateColumn(item.created),
-            textColumn(item.text),
-            textColumn(item.note)};
+            TabLine::column(item.actual),
+            TabLine::column(item.who),
+            TabLine::column(item.repeat),
+            TabLine::column(item.created),
+            TabLine::column(item.text),
+            TabLine::column(item.note)};
 }
 
 /// The columns that are wanted, each with its former bytes where those say the same, and those beyond.
@@ -190,11 +114,11 @@ QByteArray joined(const std::array<QByteArray, count> &wanted, const std::array<
 
 void outlineItem(ToDoLine::Outline &outline, Columns &columns)
 {
-    outline.id = number(columns.take());
-    outline.list = number(columns.take());
+    outline.id = TabLine::number(columns.take());
+    outline.list = TabLine::number(columns.take());
     const std::optional<ItemLevel> itemLevel = level(columns.take());
-    outline.due = julianDay(columns.take());
-    outline.actual = julianDay(columns.take());
+    outline.due = TabLine::julianDay(columns.take());
+    outline.actual = TabLine::julianDay(columns.take());
     for (int skipped = Who; skipped < Text; ++skipped)
         columns.take();
     if (outline.id < 1 || outline.list < 0 || !itemLevel || columns.isAtEnd())
@@ -218,15 +142,15 @@ ToDoLine::Outline ToDoLine::outline(QByteArrayView line)
     if (word == itemWord) {
         outlineItem(outline, columns);
     } else if (word == listWord) {
-        outline.id = number(columns.take());
+        outline.id = TabLine::number(columns.take());
         columns.take();
         if (outline.id > 0 && !columns.isAtEnd())
             outline.kind = Kind::List;
     } else if (word == activeWord && !columns.isAtEnd()) {
         outline.kind = Kind::Active;
     } else if (word == nextWord) {
-        outline.id = number(columns.take());
-        outline.list = number(columns.take());
+        outline.id = TabLine::number(columns.take());
+        outline.list = TabLine::number(columns.take());
         if (outline.id > 0 && outline.list > 0)
             outline.kind = Kind::Next;
     }
@@ -241,24 +165,10 @@ QByteArrayView ToDoLine::column(QByteArrayView line, int number)
     return columns.take();
 }
 
-QString ToDoLine::text(QByteArrayView column)
-{
-    if (!column.contains('\\'))
-        return QString::fromUtf8(column);
-    QByteArray plain;
-    plain.reserve(column.size());
-    for (qsizetype i = 0; i < column.size(); ++i) {
-        const char next = column[i] == '\\' && i + 1 < column.size() ? column[i + 1] : 0;
-        const char meant = next == 't' ? '\t' : next == 'n' ? '\n' : next == '\\' ? '\\' : 0;
-        plain += meant == 0 ? column[i] : meant;
-        i += meant == 0 ? 0 : 1;
-    }
-    return QString::fromUtf8(plain);
-}
-
 ToDoList ToDoLine::list(QByteArrayView line)
 {
-    return {number(column(line, ListId)), listKind(column(line, ListKindWord)), text(column(line, ListName))};
+    return {TabLine::number(column(line, ListId)), listKind(column(line, ListKindWord)),
+            TabLine::text(column(line, ListName))};
 }
 
 ToDoItem ToDoLine::item(QByteArrayView line)
@@ -266,18 +176,18 @@ ToDoItem ToDoLine::item(QByteArrayView line)
     Columns columns(line);
     columns.take();
     ToDoItem item;
-    item.id = number(columns.take());
-    item.list = number(columns.take());
+    item.id = TabLine::number(columns.take());
+    item.list = TabLine::number(columns.take());
     item.level = level(columns.take()).value_or(ItemLevel::Item);
     const QByteArrayView due = columns.take();
-    item.due = date(due);
+    item.due = TabLine::date(due);
     item.offset = offset(due);
-    item.actual = date(columns.take());
-    item.who = text(columns.take());
-    item.repeat = text(columns.take());
-    item.created = date(columns.take());
-    item.text = text(columns.take());
-    item.note = text(columns.take());
+    item.actual = TabLine::date(columns.take());
+    item.who = TabLine::text(columns.take());
+    item.repeat = TabLine::text(columns.take());
+    item.created = TabLine::date(columns.take());
+    item.text = TabLine::text(columns.take());
+    item.note = TabLine::text(columns.take());
     return item;
 }
 

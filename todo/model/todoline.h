@@ -33,9 +33,6 @@ Outline outline(QByteArrayView line);
 /// The column `number` of a line, counted from 0; empty where it has none.
 QByteArrayView column(QByteArrayView line, int number);
 
-/// A text column, whose tabs, line ends and backslashes are written as `\t`, `\n` and `\\`.
-QString text(QByteArrayView column);
-
 ToDoList list(QByteArrayView line);
 ToDoItem item(QByteArrayView line);
 

@@ -2,6 +2,7 @@
 #include "todo/model/todonews.h"
 
 #include "shell/core/dates.h"
+#include "storage/tabline.h"
 #include "todo/model/todofiles.h"
 
 #include <QLocale>
@@ -29,7 +30,7 @@ public:
 
     bool isOpen(int row) const { return m_sheet.isOpen(row) && isTold(row); }
     bool isDone(int row) const { return m_sheet.isDone(row) && isTold(row); }
-    QString text(int row) const { return ToDoLine::text(m_sheet.textBytes(row)).simplified(); }
+    QString text(int row) const { return TabLine::text(m_sheet.textBytes(row)).simplified(); }
 
 private:
     bool isTold(int row) const

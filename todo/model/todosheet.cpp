@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr QByteArrayView lineEnd = "\r\n";
+using TabLine::lineEnd;
 
 /// The id behind `last`; where there is none, the first that is free.
 template <typename IsFree>
@@ -30,8 +30,8 @@ int newId(int last, IsFree isFree)
 ToDoSheet ToDoSheet::fromFile(const QByteArray &file)
 {
     ToDoSheet sheet;
-    const ToDoHead::Form form = ToDoHead::formOf(file);
-    const bool isOurs = form == ToDoHead::Known || form == ToDoHead::Later;
+    const TabLine::Form form = ToDoHead::formOf(file);
+    const bool isOurs = form == TabLine::Known || form == TabLine::Later;
     if (!isOurs || file.size() > std::numeric_limits<qint32>::max())
         return sheet;
     sheet.m_bytes = file;
@@ -285,7 +285,7 @@ void ToDoSheet::readLines(qsizetype from)
     while (from < all.size()) {
         const qsizetype end = all.indexOf('\n', from);
         const qsizetype next = end < 0 ? all.size() : end + 1;
-        const QByteArrayView line = ToDoHead::lineOf(all.sliced(from, next - from));
+        const QByteArrayView line = TabLine::lineOf(all.sliced(from, next - from));
         const Line read{qint32(from), qint32(line.size()), ToDoLine::outline(line)};
         if (read.outline.kind == ToDoLine::Kind::Active && m_active.isEmpty())
             m_active = line.toByteArray();

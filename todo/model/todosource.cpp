@@ -3,6 +3,7 @@
 
 #include "shell/core/dates.h"
 #include "storage/ansitext.h"
+#include "storage/tabline.h"
 #include "todo/model/todofiles.h"
 
 #include <QSet>
@@ -64,8 +65,8 @@ void ToDoSource::begin()
 void ToDoSource::add(int row)
 {
     m_texts.beginText();
-    m_texts.addLine(AnsiText::encode(ToDoLine::text(m_sheet.textBytes(row))));
-    for (const QString &line : ToDoLine::text(m_sheet.noteBytes(row)).split(u'\n', Qt::SkipEmptyParts))
+    m_texts.addLine(AnsiText::encode(TabLine::text(m_sheet.textBytes(row))));
+    for (const QString &line : TabLine::text(m_sheet.noteBytes(row)).split(u'\n', Qt::SkipEmptyParts))
         m_texts.addLine(AnsiText::encode(line));
 }
 
@@ -75,7 +76,7 @@ SearchHit ToDoSource::hit(const TextIndex::Hit &found) const
     const int row = m_rows[std::size_t(found.text)];
     QStringList context;
     if (found.line > 0)
-        context << ToDoLine::text(m_sheet.noteBytes(row))
+        context << TabLine::text(m_sheet.noteBytes(row))
                        .split(u'\n', Qt::SkipEmptyParts)
                        .value(found.line - 1)
                        .simplified();
@@ -86,7 +87,7 @@ SearchHit ToDoSource::hit(const TextIndex::Hit &found) const
         context << u"done "_s + Dates::shortWithYear(m_sheet.actualOf(row), m_style);
     else if (due.isValid())
         context << u"due "_s + Dates::shortWithYear(due, m_style);
-    return {ToDoLine::text(m_sheet.textBytes(row)).simplified(),
+    return {TabLine::text(m_sheet.textBytes(row)).simplified(),
             context.join(u", "_s),
             {.record = m_sheet.idOf(row)}};
 }
