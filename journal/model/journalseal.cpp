@@ -193,12 +193,21 @@ void JournalSeal::lock()
 {
     if (!isOpen())
         return;
+    forgetStored();
     emit locking();
     forgetKey();
 }
 
+void JournalSeal::forgetStored()
+{
+    if (m_stored)
+        m_stored->wipe();
+    m_stored.reset();
+}
+
 void JournalSeal::forgetKey()
 {
+    forgetStored();
     m_key.clear();
     m_content = {};
     m_isBeingOpened = false;
@@ -298,13 +307,16 @@ bool JournalSeal::isOfAnotherSeal(QByteArrayView bytes) const
     return head && head->id != m_content.id;
 }
 
-std::optional<QByteArray> JournalSeal::toStore(int year, const QByteArray &plain,
-                                               const QByteArray &former) const
+std::optional<QByteArray> JournalSeal::toStore(int year, const QByteArray &plain, const QByteArray &former)
 {
     const bool wasSealed = SealedYear::isSealed(former);
     if (!isOpen())
         return !wasSealed && !isLocked() ? std::optional(plain) : std::nullopt;
     if (m_isBeingOpened && !wasSealed)
         return plain;
-    return SealedYear(year, wasSealed ? former : QByteArray(), m_key).changedTo(plain, head());
+    // What was given last and is there still, byte for byte, need not be opened again.
+    if (!m_stored || m_stored->number() != year || m_stored->bytes() != former)
+        m_stored.emplace(year, wasSealed ? former : QByteArray(), m_key);
+    m_stored->change(plain, head());
+    return m_stored->bytes();
 }

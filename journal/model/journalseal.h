@@ -88,7 +88,7 @@ public:
 
     /// What goes to the disk as `plain` in the place of `former`, the bytes that the year has there: sealed
     /// or not. Nothing while the seal is closed: then nothing may be written.
-    std::optional<QByteArray> toStore(int year, const QByteArray &plain, const QByteArray &former) const;
+    std::optional<QByteArray> toStore(int year, const QByteArray &plain, const QByteArray &former);
 
 signals:
     /// The key goes in a moment: what is open can be sealed for the last time.
@@ -111,11 +111,13 @@ private:
     void restoreKeyFile();
     void readDirection();
     void forgetKey();
+    void forgetStored();
 
     DataFolder m_folder;
     const Clock &m_clock;
     PasswordCost m_cost;
-    SecretBytes m_key;           ///< while it is open
-    KeySlots::Content m_content; ///< the key record that it came from
+    SecretBytes m_key;                  ///< while it is open
+    KeySlots::Content m_content;        ///< the key record that it came from
+    std::optional<SealedYear> m_stored; ///< as `toStore` gave it last, so that the next time opens nothing
     bool m_isBeingOpened = false;
 };

@@ -48,12 +48,6 @@ SealedReader::SealedReader(int year, const QByteArray &bytes, const SecretBytes 
     , m_entryContext(contextOf(year, "entry"))
 {}
 
-QByteArrayView SealedReader::plainOf(const SealedPiece &piece) const
-{
-    return piece.isOpen() ? QByteArrayView(m_opened).sliced(piece.plainAt, piece.plainLength)
-                          : QByteArrayView();
-}
-
 void SealedReader::read(qsizetype at)
 {
     m_opened.resize(std::max<qsizetype>(m_bytes.size(), 0) + SealedBlocks::plainLine.size());

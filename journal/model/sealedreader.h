@@ -42,7 +42,6 @@ public:
     const std::vector<SealedPiece> &pieces() const { return m_pieces; }
     /// The first line of a plain year, then all that opened, in the order of the bytes.
     const QByteArray &opened() const { return m_opened; }
-    QByteArrayView plainOf(const SealedPiece &piece) const;
 
 private:
     qsizetype lengthAt(qsizetype at) const;

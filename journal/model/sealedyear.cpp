@@ -7,6 +7,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <set>
 
@@ -20,12 +21,12 @@ constexpr QByteArrayView anyVersion("Quillery journal sealed ");
 constexpr QByteArrayView keySign("QJOURNL");
 
 /// As it stands in the file: its length, and the record.
-QByteArray withLength(QByteArrayView record)
+void addRecord(QByteArray &bytes, const QByteArray &record)
 {
-    QByteArray bytes(SealedReader::lengthBytes + record.size(), Qt::Uninitialized);
-    qToLittleEndian<quint32>(quint32(record.size()), bytes.data());
-    std::ranges::copy(record, bytes.begin() + SealedReader::lengthBytes);
-    return bytes;
+    std::array<char, SealedReader::lengthBytes> length{};
+    qToLittleEndian<quint32>(quint32(record.size()), length.data());
+    bytes.append(length.data(), qsizetype(length.size()));
+    bytes += record;
 }
 
 /// What is quickly told of a block, and of few others.
@@ -42,7 +43,7 @@ QByteArray sealedText(QByteArrayView plain, const QByteArray &context, const Sec
     QByteArray padded((plain.size() / block + 1) * block, '\0');
     std::ranges::copy(plain, padded.begin());
     padded[plain.size()] = '\x80';
-    QByteArray sealed = withLength(SealedRecords::seal(padded, context, key));
+    QByteArray sealed = SealedRecords::seal(padded, context, key);
     SecretBytes::wipe(padded);
     return sealed;
 }
@@ -86,12 +87,15 @@ QByteArray SealedYear::withHead(const QByteArray &bytes, QByteArrayView head)
 SealedYear::SealedYear(int year, const QByteArray &bytes, const SecretBytes &key)
     : m_year(year)
     , m_bytes(bytes)
-    , m_key(key)
-    , m_reader(year, bytes, key)
+    , m_key(&key)
 {
-    m_reader.read(recordsAt);
-    m_pieces = m_reader.pieces();
-    if (!m_reader.hasList() && !bytes.isEmpty())
+    SealedReader reader(year, bytes, key);
+    reader.read(recordsAt);
+    m_hasList = reader.hasList();
+    m_list = reader.list();
+    m_opened = reader.opened();
+    m_pieces = reader.pieces();
+    if (!m_hasList && !bytes.isEmpty())
         m_damage.push_back({Damage::List, {}});
     guessDates();
     choose();
@@ -102,21 +106,33 @@ SealedYear::SealedYear(int year, const QByteArray &bytes, const SecretBytes &key
 
 bool SealedYear::isShut() const
 {
-    return !m_reader.hasList() && !m_pieces.empty() && std::ranges::none_of(m_pieces, &SealedPiece::isOpen);
+    return !m_hasList && !m_pieces.empty() && std::ranges::none_of(m_pieces, &SealedPiece::isOpen);
+}
+
+QByteArrayView SealedYear::plainOf(const SealedPiece &piece) const
+{
+    return piece.isOpen() ? QByteArrayView(m_opened).sliced(piece.plainAt, piece.plainLength)
+                          : QByteArrayView();
+}
+
+/// Its own bytes, not a copy of them.
+QByteArray SealedYear::recordOf(const SealedPiece &piece) const
+{
+    return QByteArray::fromRawData(m_bytes.constData() + piece.at, piece.length);
 }
 
 SealedLabel SealedYear::labelOf(const SealedPiece &piece) const
 {
     if (piece.isOpen())
-        return SealedBlocks::labelOf(m_reader.plainOf(piece));
-    return piece.listed < 0 ? SealedLabel() : m_reader.list()[std::size_t(piece.listed)].label;
+        return SealedBlocks::labelOf(plainOf(piece));
+    return piece.listed < 0 ? SealedLabel() : m_list[std::size_t(piece.listed)].label;
 }
 
 /// A record whose nonce is damaged is the one that the list names behind the record before it, when nothing
 /// else is.
 void SealedYear::guessDates()
 {
-    std::vector<bool> isSeen(m_reader.list().size());
+    std::vector<bool> isSeen(m_list.size());
     for (const SealedPiece &piece : m_pieces) {
         if (piece.listed >= 0)
             isSeen[std::size_t(piece.listed)] = true;
@@ -135,7 +151,7 @@ void SealedYear::guessDates()
         if (isSeen[line])
             continue;
         m_missing.push_back(int(line));
-        m_damage.push_back({Damage::Missing, m_reader.list()[line].label});
+        m_damage.push_back({Damage::Missing, m_list[line].label});
     }
 }
 
@@ -143,7 +159,7 @@ void SealedYear::guessDates()
 void SealedYear::choose()
 {
     std::set<SealedBlocks::Nonce> nonces; // without a list, the only sign of a double one
-    std::vector<bool> isShown(m_reader.list().size());
+    std::vector<bool> isShown(m_list.size());
     std::vector<std::size_t> unlisted;
     for (std::size_t i = 0; i < m_pieces.size(); ++i) {
         const SealedPiece &piece = m_pieces[i];
@@ -154,7 +170,7 @@ void SealedYear::choose()
                        ? bool(isShown[std::size_t(piece.listed)])
                        : !nonces.insert(nonceOf(QByteArrayView(m_bytes).sliced(piece.at))).second) {
             m_damage.push_back({Damage::Doubled, labelOf(piece)}); // the one is as good as the other
-        } else if (piece.listed < 0 && m_reader.hasList()) {
+        } else if (piece.listed < 0 && m_hasList) {
             unlisted.push_back(i);
             m_damage.push_back({Damage::Unlisted, labelOf(piece)});
         } else {
@@ -211,44 +227,45 @@ void SealedYear::compose()
         end += m_pieces[i].plainLength;
         return isNext;
     });
-    if (isWhole && end == m_reader.opened().size()) {
-        m_plain = m_reader.opened();
+    if (isWhole && end == m_opened.size()) {
+        m_plain = m_opened;
         return;
     }
-    m_plain.reserve(m_reader.opened().size());
+    m_plain.reserve(m_opened.size());
     if (!hasHead)
         m_plain += SealedBlocks::plainLine;
     for (const std::size_t i : m_shown)
-        m_plain += m_reader.plainOf(m_pieces[i]);
+        m_plain += plainOf(m_pieces[i]);
 }
 
 SealedYear::Item SealedYear::sealedItem(QByteArrayView block) const
 {
-    Item item{
-        SealedBlocks::labelOf(block), {}, sealedText(block, SealedReader::contextOf(m_year, "entry"), m_key)};
-    item.nonce = nonceOf(QByteArrayView(item.record).sliced(SealedReader::lengthBytes));
+    Item item{SealedBlocks::labelOf(block),
+              {},
+              sealedText(block, SealedReader::contextOf(m_year, "entry"), *m_key),
+              block};
+    item.nonce = nonceOf(item.record);
     return item;
 }
 
 std::vector<SealedYear::Item> SealedYear::itemsOf(QByteArrayView plain) const
 {
-    const auto plainOf = [this](std::size_t i) { return m_reader.plainOf(m_pieces[i]); };
+    const auto textOf = [this](std::size_t i) { return plainOf(m_pieces[i]); };
     QMultiHash<std::size_t, std::size_t> former;
-    for (const std::size_t i : m_shown)
-        former.insert(signOf(plainOf(i)), i);
+    for (auto i = m_shown.rbegin(); i != m_shown.rend(); ++i) // of the same texts the first is found first
+        former.insert(signOf(textOf(*i)), *i);
     std::vector<Item> items;
     const std::vector<QByteArrayView> blocks = SealedBlocks::cut(plain);
     items.reserve(blocks.size());
     for (const QByteArrayView block : blocks) {
         const auto [first, end] = former.equal_range(signOf(block));
-        const auto same = std::find_if(first, end, [&](std::size_t i) { return plainOf(i) == block; });
+        const auto same = std::find_if(first, end, [&](std::size_t i) { return textOf(i) == block; });
         if (same == end) {
             items.push_back(sealedItem(block));
             continue;
         }
-        const SealedPiece &piece = m_pieces[*same];
-        const QByteArrayView record = QByteArrayView(m_bytes).sliced(piece.at, piece.length);
-        items.push_back({SealedBlocks::labelOf(block), nonceOf(record), withLength(record)});
+        const QByteArray record = recordOf(m_pieces[*same]);
+        items.push_back({SealedBlocks::labelOf(block), nonceOf(record), record, block});
         former.erase(same);
     }
     return items;
@@ -265,7 +282,7 @@ void SealedYear::keep(std::vector<Item> &items) const
         items.insert(behind, std::move(item));
     };
     for (const int line : m_missing) {
-        const SealedBlocks::Listed &listed = m_reader.list()[std::size_t(line)];
+        const SealedBlocks::Listed &listed = m_list[std::size_t(line)];
         const bool hasOther =
             std::ranges::any_of(items, [&](const Item &item) { return item.label == listed.label; });
         if (!hasOther)
@@ -273,35 +290,80 @@ void SealedYear::keep(std::vector<Item> &items) const
     }
     for (const std::size_t i : m_kept) {
         const SealedPiece &piece = m_pieces[i];
-        Item item{labelOf(piece), {}, withLength(QByteArrayView(m_bytes).sliced(piece.at, piece.length))};
+        Item item{labelOf(piece), {}, recordOf(piece)};
         if (piece.listed >= 0)
-            item.nonce = m_reader.list()[std::size_t(piece.listed)].nonce;
+            item.nonce = m_list[std::size_t(piece.listed)].nonce;
         put(std::move(item));
     }
+}
+
+QByteArray SealedYear::bytesOf(const std::vector<Item> &items, const QByteArray &head) const
+{
+    std::vector<SealedBlocks::Listed> list;
+    list.reserve(items.size());
+    qsizetype length = 0;
+    for (const Item &item : items) {
+        length += SealedReader::lengthBytes + item.record.size();
+        if (item.nonce)
+            list.push_back({item.label, *item.nonce});
+    }
+    const QByteArray sealedList =
+        sealedText(SealedBlocks::encoded(list), SealedReader::contextOf(m_year, "list"), *m_key);
+    QByteArray bytes;
+    bytes.reserve(recordsAt + SealedReader::lengthBytes + sealedList.size() + length);
+    bytes += firstLine;
+    bytes += head;
+    addRecord(bytes, sealedList);
+    for (const Item &item : items) {
+        if (!item.record.isEmpty())
+            addRecord(bytes, item.record);
+    }
+    return bytes;
 }
 
 QByteArray SealedYear::changedTo(const QByteArray &plain, const QByteArray &head) const
 {
     std::vector<Item> items = itemsOf(plain);
     keep(items);
-    std::vector<SealedBlocks::Listed> list;
-    list.reserve(items.size());
-    qsizetype length = 0;
-    for (const Item &item : items) {
-        length += item.record.size();
-        if (item.nonce)
-            list.push_back({item.label, *item.nonce});
+    return bytesOf(items, head);
+}
+
+void SealedYear::change(const QByteArray &plain, const QByteArray &head)
+{
+    if (!m_kept.empty() || !m_missing.empty()) {
+        *this = SealedYear(m_year, changedTo(plain, head), *m_key);
+        return;
     }
-    const QByteArray sealedList =
-        sealedText(SealedBlocks::encoded(list), SealedReader::contextOf(m_year, "list"), m_key);
-    QByteArray bytes;
-    bytes.reserve(recordsAt + sealedList.size() + length);
-    bytes += firstLine;
-    bytes += head;
-    bytes += sealedList;
-    for (const Item &item : items)
-        bytes += item.record;
-    return bytes;
+    // Every record is a block of `plain` then. The list is of use for what does not open alone.
+    const std::vector<Item> items = itemsOf(plain);
+    QByteArray bytes = bytesOf(items, head);
+    m_pieces.resize(items.size());
+    m_shown.resize(items.size());
+    qsizetype at = bytes.size();
+    for (std::size_t i = items.size(); i-- > 0;) {
+        const Item &item = items[i];
+        at -= item.record.size();
+        m_pieces[i] = {.at = at,
+                       .length = item.record.size(),
+                       .plainAt = item.block.data() - plain.constData(),
+                       .plainLength = item.block.size()};
+        m_shown[i] = i;
+        at -= SealedReader::lengthBytes;
+    }
+    m_hasList = true;
+    m_list.clear();
+    m_damage.clear();
+    m_opened = plain;
+    m_plain = plain;
+    m_bytes = bytes;
+}
+
+void SealedYear::wipe()
+{
+    m_plain = {};
+    SecretBytes::wipe(m_opened);
+    m_pieces.clear();
+    m_shown.clear();
 }
 
 QByteArray SealedYear::sealed(int year, const QByteArray &plain, const QByteArray &head,

@@ -56,6 +56,14 @@ public:
     /// The sealed bytes of `plain`, which the year is to hold. What is unchanged keeps its record byte for
     /// byte, and so does what did not open.
     QByteArray changedTo(const QByteArray &plain, const QByteArray &head) const;
+    /// The same, and from now on it is the year that has these `bytes`. None of its records need be opened
+    /// for that.
+    void change(const QByteArray &plain, const QByteArray &head);
+    int number() const { return m_year; }
+    const QByteArray &bytes() const { return m_bytes; }
+    /// Overwrites the texts with zeros, as far as nobody else holds them. It is not to be asked for
+    /// anything afterwards.
+    void wipe();
     /// Those of a year that was not sealed before.
     static QByteArray sealed(int year, const QByteArray &plain, const QByteArray &head,
                              const SecretBytes &key);
@@ -65,9 +73,12 @@ private:
     struct Item {
         SealedLabel label;
         std::optional<SealedBlocks::Nonce> nonce; ///< without one the list does not name it
-        QByteArray record;
+        QByteArray record;                        ///< for as long as the year has the bytes that it has now
+        QByteArrayView block{};                   ///< what it holds, of what is saved
     };
 
+    QByteArrayView plainOf(const SealedPiece &piece) const;
+    QByteArray recordOf(const SealedPiece &piece) const;
     SealedLabel labelOf(const SealedPiece &piece) const;
     void guessDates();
     void choose();
@@ -77,11 +88,14 @@ private:
     std::vector<Item> itemsOf(QByteArrayView plain) const;
     Item sealedItem(QByteArrayView block) const;
     void keep(std::vector<Item> &items) const;
+    QByteArray bytesOf(const std::vector<Item> &items, const QByteArray &head) const;
 
     int m_year;
     QByteArray m_bytes;
-    const SecretBytes &m_key;
-    SealedReader m_reader;
+    const SecretBytes *m_key;
+    bool m_hasList = false;
+    std::vector<SealedBlocks::Listed> m_list;
+    QByteArray m_opened; ///< in which the texts of the pieces are
     std::vector<SealedPiece> m_pieces;
     std::vector<std::size_t> m_shown; ///< those pieces that the plain form has, in its order
     std::vector<std::size_t> m_kept;  ///< those that it has not, and that a save keeps
