@@ -210,12 +210,12 @@ void PreviewPane::start(const QString &jobName, Lie lie)
 {
     m_jobName = jobName;
     m_lie = lie;
-    m_setup.orientation = lie == Lie::Landscape ? PageSetup::Landscape : m_turned;
+    m_setup.orientation = m_own ? *m_own : lie == Lie::Landscape ? PageSetup::Landscape : m_turned;
     showOrientation();
     m_steps->setPage(0, 1);
     rebuild();
     // Numbers that an upright sheet has no room for are seen whole on one that lies on its side.
-    if (m_painter && m_painter->isTableCut() && m_setup.orientation == PageSetup::Portrait) {
+    if (!m_own && m_painter && m_painter->isTableCut() && m_setup.orientation == PageSetup::Portrait) {
         m_lie = Lie::Landscape;
         m_setup.orientation = PageSetup::Landscape;
         showOrientation();
@@ -263,6 +263,13 @@ bool PreviewPane::print()
 void PreviewPane::setDiscretion(Discretion discretion)
 {
     m_discretion = std::move(discretion);
+}
+
+void PreviewPane::setOwnOrientation(PageSetup::Orientation orientation,
+                                    std::function<void(PageSetup::Orientation)> turned)
+{
+    m_own = orientation;
+    m_ownTurned = std::move(turned);
 }
 
 void PreviewPane::addChoice(QWidget *choice)
@@ -323,8 +330,12 @@ void PreviewPane::turnPage()
 {
     const bool wasPortrait = m_setup.orientation == PageSetup::Portrait;
     m_setup.orientation = wasPortrait ? PageSetup::Landscape : PageSetup::Portrait;
-    if (m_lie == Lie::AsTurned)
+    if (m_own)
+        m_own = m_setup.orientation;
+    else if (m_lie == Lie::AsTurned)
         m_turned = m_setup.orientation;
+    if (m_ownTurned)
+        m_ownTurned(m_setup.orientation);
     showOrientation();
     rebuild();
 }

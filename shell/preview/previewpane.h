@@ -11,6 +11,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class ActivityBar;
 class ColumnButton;
@@ -54,6 +55,10 @@ public:
     void setDiscretion(Discretion discretion);
     /// The sheet, upright, of what is shown from now on.
     void setPaper(QSizeF paper) { m_setup.paper = paper; }
+    /// What is shown from now on lies as it says itself, and not as others were turned: `turned` is told when
+    /// the person turns it, before it is built again.
+    void setOwnOrientation(PageSetup::Orientation orientation,
+                           std::function<void(PageSetup::Orientation)> turned);
     /// Puts a choice of what the page shows below its number.
     void addChoice(QWidget *choice);
 
@@ -111,6 +116,8 @@ private:
     PageSetup m_setup;
     Lie m_lie = Lie::AsTurned;
     PageSetup::Orientation m_turned = PageSetup::Portrait; ///< of the pages that lie as they are turned
+    std::optional<PageSetup::Orientation> m_own;           ///< of those that say it themselves
+    std::function<void(PageSetup::Orientation)> m_ownTurned;
     PageFont m_font;
     std::shared_ptr<PagePainter> m_painter;
     bool m_isBuilding = false;

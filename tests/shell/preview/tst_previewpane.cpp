@@ -53,6 +53,19 @@ private slots:
         QCOMPARE(m_window->builtFor.at(2), m_window->builtFor.at(0));
     }
 
+    void pagesMayLieAsTheySayThemselves()
+    {
+        QList<PageSetup::Orientation> turned;
+        m_window->pane->setOwnOrientation(PageSetup::Landscape,
+                                          [&turned](PageSetup::Orientation now) { turned.append(now); });
+        m_window->showList(3);
+        QCOMPARE(m_window->label("Panel3D80"), u" Landscape"_s);
+        m_window->click("SSCommand80_1");
+        QCOMPARE(turned, {PageSetup::Portrait});
+        m_window->showList(3);
+        QCOMPARE(m_window->label("Panel3D80"), u" Portrait"_s);
+    }
+
     void aChosenFontIsShownAndUsed()
     {
         m_window->showList(100);
