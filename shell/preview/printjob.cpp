@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QPdfWriter>
@@ -28,6 +29,7 @@ namespace {
 
 /// From here on printing takes long enough to be worth a Stop button.
 constexpr std::size_t manySheets = 20;
+constexpr int soonOver = 500; ///< milliseconds, for which nobody needs to see progress
 
 /// Of a file that not everybody may read.
 constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
@@ -247,15 +249,22 @@ bool PrintJob::mayGoOn() const
 PrintJob::Outcome PrintJob::printSheets(const PagePainter &painter, QPagedPaintDevice &device,
                                         const std::vector<int> &sheets)
 {
-    if (sheets.size() <= manySheets) {
-        const BusyCursor busy;
+    std::optional<BusyCursor> busy;
+    if (sheets.size() <= manySheets)
+        busy.emplace();
+    if (sheets.size() == 1)
         return painter.print(device, sheets) ? Outcome::Done : Outcome::Failed;
-    }
     const OnlyStop guard(m_activity);
     const auto isStopped = [&] { return guard.isStopped() || !mayGoOn(); };
+    QElapsedTimer time;
+    time.start();
     int done = 0;
     const bool isPrinted = painter.print(device, sheets, [&](int) {
-        m_activity.showProgress(++done, int(sheets.size()), true);
+        ++done;
+        if (sheets.size() <= manySheets && time.elapsed() < soonOver)
+            return true;
+        busy.reset();
+        m_activity.showProgress(done, int(sheets.size()), true);
         QCoreApplication::processEvents();
         return !isStopped();
     });
