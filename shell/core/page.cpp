@@ -2,6 +2,7 @@
 #include "shell/core/page.h"
 
 #include "shell/core/dates.h"
+#include "shell/core/pagegrid.h"
 
 #include <algorithm>
 #include <optional>
@@ -33,6 +34,8 @@ std::optional<QString> itemText(const Page::Item &item)
                 return textOf(value);
             else if constexpr (std::is_same_v<T, PageItem::Figure>)
                 return value.caption.isEmpty() ? std::nullopt : std::optional(value.caption);
+            else if constexpr (std::is_same_v<T, PageItem::Grid>)
+                return value.grid->text();
             else if constexpr (std::is_same_v<T, PageItem::Row>)
                 return value.cells.join(u'\t');
             else if constexpr (std::is_same_v<T, PageItem::Columns>)
@@ -60,6 +63,11 @@ QStringList headingsOver(const std::vector<Page::Item> &items, std::size_t index
 }
 
 } // namespace
+
+bool PageItem::Grid::operator==(const Grid &other) const
+{
+    return grid == other.grid || (grid && other.grid && *grid == *other.grid);
+}
 
 Page::Page(QString title, QString headRight)
     : m_title(std::move(title))
@@ -159,6 +167,12 @@ Page &Page::placePicture(const QRectF &inches, const QString &path)
 Page &Page::placeRule(const QRectF &inches)
 {
     m_items.emplace_back(PageItem::PlacedRule{inches});
+    return *this;
+}
+
+Page &Page::placeGrid(std::shared_ptr<const PageGrid> grid)
+{
+    m_items.emplace_back(PageItem::Grid{std::move(grid)});
     return *this;
 }
 

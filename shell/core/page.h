@@ -10,8 +10,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <variant>
 #include <vector>
+
+struct PageGrid;
 
 /// How a line of a page is set.
 enum class TextRole {
@@ -226,6 +229,12 @@ struct PlacedRule {
     bool operator==(const PlacedRule &) const = default;
 };
 
+/// A sheet of days at its place.
+struct Grid {
+    std::shared_ptr<const PageGrid> grid;
+    bool operator==(const Grid &other) const;
+};
+
 /// What follows stands below everything that is placed on its sheet.
 struct BelowPlaced {
     bool operator==(const BelowPlaced &) const = default;
@@ -257,10 +266,11 @@ struct Section {
 class Page
 {
 public:
-    using Item = std::variant<PageItem::Line, PageItem::Paragraph, PageItem::Columns, PageItem::Row,
-                              PageItem::Blank, PageItem::Picture, PageItem::Figure, PageItem::Squares,
-                              PageItem::PlacedText, PageItem::PlacedPicture, PageItem::PlacedRule,
-                              PageItem::BelowPlaced, PageItem::Rule, PageItem::Break, PageItem::Section>;
+    using Item =
+        std::variant<PageItem::Line, PageItem::Paragraph, PageItem::Columns, PageItem::Row, PageItem::Blank,
+                     PageItem::Picture, PageItem::Figure, PageItem::Squares, PageItem::PlacedText,
+                     PageItem::PlacedPicture, PageItem::PlacedRule, PageItem::Grid, PageItem::BelowPlaced,
+                     PageItem::Rule, PageItem::Break, PageItem::Section>;
 
     /// A page headed by `title`; `headRight` (usually a date) stands at the right of the title line.
     explicit Page(QString title = {}, QString headRight = {});
@@ -286,6 +296,7 @@ public:
                     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignTop);
     Page &placePicture(const QRectF &inches, const QString &path);
     Page &placeRule(const QRectF &inches);
+    Page &placeGrid(std::shared_ptr<const PageGrid> grid);
     Page &belowPlaced();
     Page &rule();
     Page &breakPage();

@@ -20,6 +20,20 @@ constexpr QSizeF missing{216, 72}; ///< the frame of a picture that is not there
 constexpr QColor rimColor(0xB0, 0xB0, 0xB0);
 constexpr double inset = 8;
 
+/// An empty frame with the name of the picture that belongs there.
+void drawFrame(QPainter &painter, const QRectF &place, const QString &path, const PageType &type)
+{
+    painter.save();
+    painter.setPen(QPen(rimColor, 0.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(place);
+    painter.restore();
+    const double width = place.width() - 2 * inset;
+    const QString name = type.elided(QFileInfo(path).fileName(), width);
+    const QPointF at(place.left() + inset, place.center().y() - type.lineHeight() / 2);
+    type.draw(painter, at, width, Qt::AlignHCenter, name);
+}
+
 } // namespace
 
 PageFigure::PageFigure(const PageItem::Figure &figure, const PageTypes &types, QSizeF body)
@@ -57,20 +71,25 @@ bool PageFigure::giveWay(double height)
 void PageFigure::draw(QPainter &painter, QPointF top) const
 {
     const QRectF place(top + QPointF((m_body.width() - m_picture.width()) / 2, 0), m_picture);
-    if (m_isThere) {
+    if (m_isThere)
         drawPagePicture(painter, place, m_figure.path);
-    } else {
-        painter.save();
-        painter.setPen(QPen(rimColor, 0.5));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(place);
-        painter.restore();
-        const double width = place.width() - 2 * inset;
-        const QString name = m_type.elided(QFileInfo(m_figure.path).fileName(), width);
-        const QPointF at(place.left() + inset, place.center().y() - m_type.lineHeight() / 2);
-        m_type.draw(painter, at, width, Qt::AlignHCenter, name);
-    }
+    else
+        drawFrame(painter, place, m_figure.path, m_type);
     drawCaption(painter, {top.x(), place.bottom() + captionGap});
+}
+
+double PageFigure::drawIn(QPainter &painter, const QRectF &place, const QString &path, const PageType &type)
+{
+    const QSizeF dots = PagePicture::shapeOf(path);
+    if (dots.isEmpty()) {
+        drawFrame(painter, place, path, type);
+        return place.bottom();
+    }
+    const QSizeF good = dots * (pointsPerInch / fewestDots);
+    const QSizeF size = dots.scaled(place.size().boundedTo(good), Qt::KeepAspectRatio);
+    const QRectF picture(place.center() - QPointF(size.width() / 2, size.height() / 2), size);
+    drawPagePicture(painter, picture, path);
+    return picture.bottom();
 }
 
 void PageFigure::drawCaption(QPainter &painter, QPointF top) const

@@ -38,6 +38,7 @@ public:
     const Page &page() const { return m_page; }
     const PageSetup &setup() const { return m_setup; }
     const PageTypes &types() const { return m_types; }
+    const PageFont &font() const { return m_font; }
     /// Those of a table, which may be smaller; null: of no table.
     const PageTypes &typesOf(const PageItem::Columns *columns) const;
     /// Whether a table of numbers was too wide for the sheet and goes on as a second one.
@@ -87,6 +88,7 @@ private:
 
     Page m_page;
     PageSetup m_setup;
+    PageFont m_font;
     PageTypes m_types;
     SheetMarks m_marks;
     std::map<double, PageTypes> m_tableTypes; ///< by size

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pages/sheetflow.h"
 
+#include "shell/pages/gridlayout.h"
 #include "shell/pages/pagefigure.h"
 #include "shell/pages/pagepicture.h"
 #include "shell/pages/pagesquares.h"
@@ -359,6 +360,15 @@ bool SheetFlow::place(const PageItem::PlacedRule &rule)
         else
             m_painter->drawLine(place.topLeft(), place.bottomRight());
     }
+    return true;
+}
+
+bool SheetFlow::place(const PageItem::Grid &grid)
+{
+    m_isFresh = false;
+    m_lowestPlaced = std::max(m_lowestPlaced, inPoints(grid.grid->place).bottom());
+    if (m_painter)
+        GridLayout(grid.grid, m_layout.font()).paint(*m_painter);
     return true;
 }
 

@@ -40,6 +40,7 @@ private:
     bool place(const PageItem::PlacedText &text);
     bool place(const PageItem::PlacedPicture &picture);
     bool place(const PageItem::PlacedRule &rule);
+    bool place(const PageItem::Grid &grid);
     bool place(const PageItem::BelowPlaced &);
     bool place(const PageItem::Rule &);
     bool place(const PageItem::Break &);

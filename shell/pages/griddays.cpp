@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/pages/gridbars.h"
+#include "shell/pages/gridblocks.h"
+#include "shell/pages/gridentries.h"
+#include "shell/pages/gridrows.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double around = 1.5; ///< above and below the lines of a day
+
+/// The columns with their bars and their wrapped lines.
+struct Column {
+    GridBars bars;
+    std::vector<GridEntries> days;
+};
+
+double leftOf(const GridFrame &frame, const GridBars &bars, int row)
+{
+    return frame.inset() + bars.depth(bars.lanesOver(row));
+}
+
+Column columnOf(const GridFrame &frame, int column)
+{
+    Column laid{GridBars::downColumn(frame, column), {}};
+    laid.days.reserve(std::size_t(frame.rowCount()));
+    for (int row = 0; row < frame.rowCount(); ++row) {
+        const double width = frame.columnWidth() - leftOf(frame, laid.bars, row) - frame.inset();
+        laid.days.emplace_back(frame, frame.cell(row, column).lines, 0, width);
+    }
+    return laid;
+}
+
+std::vector<RowNeed> needsOf(const GridFrame &frame, const std::vector<Column> &columns)
+{
+    const double head = std::max(frame.pitch(), frame.numberPoints() * 1.15);
+    std::vector<RowNeed> needs(std::size_t(frame.rowCount()), RowNeed{0, head + 2 * around});
+    for (std::size_t row = 0; row < needs.size(); ++row) {
+        for (const Column &column : columns)
+            needs[row].whole = std::max(needs[row].whole, column.days[row].height() + 2 * around);
+    }
+    return needs;
+}
+
+void placeBars(const GridFrame &frame, const GridBars &bars, int column, LaidBlock &block)
+{
+    for (const GridBars::Bar &bar : bars.bars()) {
+        const double top = block.rows[std::size_t(bar.first)].top() + (bar.span->beginsHere ? 1 : 0);
+        const double bottom = block.rows[std::size_t(bar.last)].bottom() - (bar.span->endsHere ? 1 : 0);
+        const double left = frame.columnLeft(column) + 2 + bars.depth(bar.lane);
+        block.spans.push_back(
+            {bar.span, QRectF(left, top, bars.thickness(bar.lane), std::max(1.0, bottom - top)), {}});
+    }
+}
+
+void placeDay(const GridFrame &frame, const Column &column, int row, int number, LaidBlock &block)
+{
+    const QRectF &line = block.rows[std::size_t(row)];
+    LaidCell laid{&frame.block(), &frame.cell(row, number), row, number};
+    laid.rect = QRectF(frame.columnLeft(number), line.top(), frame.columnWidth(), line.height());
+    laid.text = laid.rect.adjusted(leftOf(frame, column.bars, row), around, -frame.inset(), -around);
+    const QList<GridLine> &lines = laid.cell->lines;
+    const qsizetype first = column.days[std::size_t(row)].place(laid.text, laid.lines);
+    for (qsizetype i = first; i < lines.size(); ++i)
+        block.left.push_back({laid.cell, lines[i]});
+    block.cells.push_back(std::move(laid));
+}
+
+} // namespace
+
+LaidBlock GridBlocks::days(const GridFrame &frame)
+{
+    std::vector<Column> columns;
+    columns.reserve(std::size_t(frame.columnCount()));
+    for (int column = 0; column < frame.columnCount(); ++column)
+        columns.push_back(columnOf(frame, column));
+    LaidBlock block;
+    double top = frame.body().top();
+    for (const double height : sharedOut(needsOf(frame, columns), frame.body().height()).heights) {
+        block.rows.emplace_back(frame.body().left(), top, frame.body().width(), height);
+        top += height;
+    }
+    for (int column = 0; column < frame.columnCount(); ++column)
+        placeBars(frame, columns[std::size_t(column)].bars, column, block);
+    for (int row = 0; row < frame.rowCount(); ++row) {
+        for (int column = 0; column < frame.columnCount(); ++column)
+            placeDay(frame, columns[std::size_t(column)], row, column, block);
+    }
+    return block;
+}

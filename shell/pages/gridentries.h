@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/pages/gridframe.h"
+#include "shell/pages/laidgrid.h"
+
+#include <vector>
+
+/// The lines of a cell, wrapped.
+class GridEntries
+{
+public:
+    /// `lines` in a column as wide as told.
+    GridEntries(const GridFrame &frame, const QList<GridLine> &lines, qsizetype first, double width);
+
+    /// Of all of them.
+    double height() const { return m_height; }
+
+    /// Puts them into `place`, as many as have room there. Gives the first that has none.
+    qsizetype place(const QRectF &place, std::vector<LaidLine> &laid) const;
+
+    static LaidLine wrapped(const GridFrame &frame, const GridLine &line, double width);
+    static double heightOf(const GridFrame &frame, const LaidLine &line);
+
+private:
+    const GridFrame &m_frame;
+    qsizetype m_first;
+    std::vector<LaidLine> m_lines;
+    double m_height = 0;
+};

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/pages/gridframe.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+using PageMetrics::pointsPerInch;
+
+namespace {
+
+constexpr double weekWidth = 18; ///< for the number of a week
+constexpr double dayGap = 4;     ///< between the number of a day and its name
+constexpr double smallestHead = 6.5;
+
+bool hasWeeks(const GridBlock &block)
+{
+    return std::ranges::any_of(block.rows, [](const GridHead &head) { return !head.week.isEmpty(); });
+}
+
+} // namespace
+
+GridFrame::GridFrame(const GridBlock &block, const QRectF &rect, GridStyle style, const GridTypes &types,
+                     double points)
+    : m_block(&block)
+    , m_style(style)
+    , m_types(&types)
+    , m_points(points)
+{
+    const double padding = block.padding * pointsPerInch;
+    m_rect = rect.adjusted(padding, padding, -padding, -padding);
+    setSizes();
+    placeTitle();
+    placeHeads();
+}
+
+const GridCell &GridFrame::cell(int row, int column) const
+{
+    return m_block->cells[qsizetype(row) * columnCount() + column];
+}
+
+double GridFrame::columnWidth() const
+{
+    return m_body.width() / std::max(1, columnCount());
+}
+
+double GridFrame::numberWidth() const
+{
+    return m_types->of(m_numberPoints, GridTypes::Strong).width(u"30"_s);
+}
+
+double GridFrame::columnWidth(const GridBlock &block, double width)
+{
+    return (width * block.share.width() - 2 * block.padding * pointsPerInch) /
+           double(std::max<qsizetype>(1, block.columns.size()));
+}
+
+void GridFrame::setSizes()
+{
+    const double column = m_rect.width() / std::max(1, columnCount());
+    const bool isOpen = m_style == GridStyle::Open;
+    switch (m_block->form) {
+    case GridForm::Weeks:
+        m_numberPoints = std::clamp(column * 0.28, 11.0, isOpen ? 24.0 : 15.0);
+        m_headPoints = std::clamp(column * 0.13, 8.0, 11.0);
+        m_titlePoints = 14;
+        break;
+    case GridForm::Days:
+        m_numberPoints = m_points + (isOpen ? 2 : 0.5);
+        m_headPoints = std::clamp(column * 0.1, 9.0, 11.0);
+        m_titlePoints = 14;
+        break;
+    case GridForm::Numbers:
+        m_numberPoints = std::clamp(column * 0.38, 6.5, isOpen ? 15.0 : 13.0);
+        m_headPoints = std::clamp(m_numberPoints * 0.75, smallestHead, 10.0);
+        m_titlePoints = std::clamp(m_numberPoints * 1.3, 8.0, 18.0);
+        break;
+    }
+}
+
+void GridFrame::placeTitle()
+{
+    const double height = m_block->title.isEmpty() ? 0 : m_titlePoints * 1.5;
+    m_title = QRectF(m_rect.topLeft(), QSizeF(m_rect.width(), height));
+}
+
+void GridFrame::placeHeads()
+{
+    m_weekGutter = hasWeeks(*m_block) ? weekWidth : 0;
+    m_gutter = m_weekGutter;
+    if (m_block->form == GridForm::Days) {
+        const double name = m_types->of(m_points).width(u"We"_s);
+        m_gutter += numberWidth() + dayGap + name + 2 * inset();
+    }
+    const bool hasHeads =
+        std::ranges::any_of(m_block->columns, [](const GridHead &head) { return !head.text.isEmpty(); });
+    const double height = m_headPoints * (m_style == GridStyle::Band ? 1.75 : 1.6);
+    m_heads = QRectF(m_rect.left(), m_title.bottom(), m_rect.width(), hasHeads ? height : 0);
+    m_body = m_rect;
+    m_body.setTop(m_heads.bottom());
+    m_body.setLeft(m_rect.left() + m_gutter);
+}

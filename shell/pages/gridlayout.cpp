@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/pages/gridlayout.h"
+
+#include "shell/pages/gridblocks.h"
+#include "shell/pages/gridpainter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+using PageMetrics::pointsPerInch;
+
+namespace {
+
+constexpr double photoGap = 14;
+constexpr double captionHeight = 14;
+constexpr double headGap = 6;
+constexpr double mostRest = 0.42; ///< of the height, for the list at the foot
+constexpr int mostRounds = 12;
+constexpr QSizeF smallGrid{88, 72};
+constexpr double smallGap = 14;
+
+QRectF inPoints(const QRectF &inches)
+{
+    return {inches.topLeft() * pointsPerInch, inches.size() * pointsPerInch};
+}
+
+QRectF shareOf(const QRectF &room, const QRectF &share)
+{
+    return {room.left() + share.left() * room.width(), room.top() + share.top() * room.height(),
+            share.width() * room.width(), share.height() * room.height()};
+}
+
+} // namespace
+
+GridLayout::GridLayout(std::shared_ptr<const PageGrid> grid, const PageFont &font)
+    : m_grid(std::move(grid))
+    , m_types(std::make_shared<GridTypes>(*m_grid, font))
+{
+    placeAround();
+    for (m_points = firstPoints(); !layOut(0); m_points -= GridTypes::step) {
+        if (m_points <= GridTypes::smallestPoints) {
+            layOutWithRest();
+            break;
+        }
+    }
+}
+
+/// The picture, the head with its small grids, and what is left.
+void GridLayout::placeAround()
+{
+    m_body = inPoints(m_grid->place);
+    if (m_grid->hasPhoto) {
+        const GridPhoto &photo = m_grid->photo;
+        m_photo = m_body;
+        if (photo.side == GridPhoto::Above) {
+            m_photo.setHeight(m_body.height() * photo.share - photoGap);
+            m_body.setTop(m_photo.bottom() + photoGap);
+        } else {
+            m_photo.setWidth(m_body.width() * photo.share - photoGap);
+            m_body.setLeft(m_photo.right() + photoGap);
+        }
+        if (!photo.caption.isEmpty())
+            m_photo.setBottom(m_photo.bottom() - captionHeight);
+    }
+    if (m_grid->title.isEmpty())
+        return;
+    const bool hasSmall = !m_grid->smallGrids.isEmpty();
+    const double height = GridPainter::titlePoints(*m_grid, m_body.width()) * PageMetrics::lineFactor;
+    m_head = m_body;
+    m_head.setHeight(hasSmall ? std::max(height, smallGrid.height()) : height);
+    m_body.setTop(m_head.bottom() + headGap);
+    double right = m_head.right();
+    for (qsizetype i = m_grid->smallGrids.size(); i-- > 0;) {
+        const QRectF place({right - smallGrid.width(), m_head.top()}, smallGrid);
+        const GridFrame frame(m_grid->smallGrids[i], place, m_grid->style, *m_types,
+                              GridTypes::smallestPoints);
+        m_smallGrids.push_back({frame, GridBlocks::laidOut(frame)});
+        right = place.left() - smallGap;
+    }
+}
+
+double GridLayout::firstPoints() const
+{
+    double points = m_types->firstPoints(m_body.width());
+    for (const GridBlock &block : m_grid->blocks)
+        points = std::min(points, m_types->firstPoints(GridFrame::columnWidth(block, m_body.width())));
+    return points;
+}
+
+/// Lays the grids out above a list so high. False where some line found no room.
+bool GridLayout::layOut(double restHeight)
+{
+    m_blocks.clear();
+    m_blocks.reserve(std::size_t(m_grid->blocks.size()));
+    const QRectF room = m_body.adjusted(0, 0, 0, -restHeight);
+    bool isEnough = true;
+    for (const GridBlock &block : m_grid->blocks) {
+        const GridFrame frame(block, shareOf(room, block.share), m_grid->style, *m_types, m_points);
+        m_blocks.push_back({frame, GridBlocks::laidOut(frame)});
+        isEnough = isEnough && m_blocks.back().laid.left.empty();
+    }
+    return isEnough;
+}
+
+std::vector<GridRest::Entry> GridLayout::leftLines() const
+{
+    std::vector<GridRest::Entry> entries;
+    for (const Block &block : m_blocks) {
+        for (const LeftLine &left : block.laid.left) {
+            const QString month = block.frame.block().title.section(u' ', 0, 0);
+            const QString name =
+                left.cell ? left.cell->name : QString(left.line.lead + u' ' + month).trimmed();
+            entries.push_back({.date = left.cell ? left.cell->date : QDate(),
+                               .name = name,
+                               .text = left.line.text,
+                               .index = left.line.index});
+        }
+    }
+    return entries;
+}
+
+void GridLayout::layOutWithRest()
+{
+    const double most = m_body.height() * mostRest;
+    double given = 0;
+    for (int round = 1;; ++round) {
+        m_rest = GridRest(*m_types, m_grid->restTitle, leftLines(), m_body.width(), most);
+        if (m_rest.height() <= given + 0.05)
+            break;
+        given = round < mostRounds ? m_rest.height() : most;
+        layOut(given);
+    }
+    m_rest.moveTo({m_body.left(), m_body.bottom() - m_rest.height()});
+}
+
+const LaidCell *GridLayout::cellAt(QPointF point) const
+{
+    for (const Block &block : m_blocks) {
+        for (const LaidCell &cell : block.laid.cells) {
+            if (cell.rect.contains(point))
+                return &cell;
+        }
+    }
+    return nullptr;
+}
+
+const LaidCell *GridLayout::cellOf(QDate date) const
+{
+    const LaidCell *found = nullptr;
+    for (const Block &block : m_blocks) {
+        for (const LaidCell &cell : block.laid.cells) {
+            if (cell.cell->date == date && (!found || (found->cell->isQuiet && !cell.cell->isQuiet)))
+                found = &cell;
+        }
+    }
+    return found;
+}
+
+const LaidLine *GridLayout::lineAt(const LaidCell &cell, QPointF point)
+{
+    const auto found =
+        std::ranges::find_if(cell.lines, [point](const LaidLine &line) { return line.rect.contains(point); });
+    return found == cell.lines.end() ? nullptr : &*found;
+}
+
+const LaidSpan *GridLayout::spanAt(QPointF point) const
+{
+    for (const Block &block : m_blocks) {
+        for (const LaidSpan &span : block.laid.spans) {
+            if (span.rect.contains(point))
+                return &span;
+        }
+    }
+    return nullptr;
+}
+
+void GridLayout::paint(QPainter &painter, Photo photo) const
+{
+    const GridPainter grid(painter, *m_grid, *m_types);
+    if (m_grid->hasPhoto)
+        grid.paintPhoto(m_photo, photo == Photo::Drawn);
+    if (!m_grid->title.isEmpty())
+        grid.paintTitle(m_head);
+    for (const Block &block : m_smallGrids)
+        grid.paintBlock(block.frame, block.laid);
+    for (const Block &block : m_blocks)
+        grid.paintBlock(block.frame, block.laid);
+    m_rest.paint(painter, *m_types);
+    if (m_grid->hasCutMarks)
+        grid.paintCutMarks(m_body);
+    grid.paintFoot();
+}

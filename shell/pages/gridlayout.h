@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/core/pagegrid.h"
+#include "shell/pages/gridframe.h"
+#include "shell/pages/gridrest.h"
+#include "shell/pages/gridtypes.h"
+#include "shell/pages/laidgrid.h"
+#include "shell/pages/pagefont.h"
+
+#include <memory>
+#include <vector>
+
+class QPainter;
+
+/// A sheet of days laid out, in points from the sheet's upper left corner. Rows that hold more grow at the
+/// cost of the others, down to three lines each; then the letters shrink down to 8 points; what still has no
+/// room is listed at the foot. A window shows, and is clicked on, what will be printed.
+class GridLayout
+{
+public:
+    /// A grid with what stands in it.
+    struct Block {
+        GridFrame frame;
+        LaidBlock laid;
+    };
+
+    GridLayout(std::shared_ptr<const PageGrid> grid, const PageFont &font);
+
+    const PageGrid &grid() const { return *m_grid; }
+    const std::vector<Block> &blocks() const { return m_blocks; }
+
+    /// The cell at a point of the sheet; null where there is none.
+    const LaidCell *cellAt(QPointF point) const;
+    /// The first cell of a date, one of its own month before one of a neighbour's; null where there is none.
+    const LaidCell *cellOf(QDate date) const;
+    /// The line of a cell at a point of the sheet; null where there is none.
+    static const LaidLine *lineAt(const LaidCell &cell, QPointF point);
+    const LaidSpan *spanAt(QPointF point) const;
+
+    /// The letters that lines are set in, and their size.
+    const PageType &lineType() const { return m_types->line(m_points); }
+    double points() const { return m_points; }
+    /// The place of the picture; empty where the sheet has none.
+    QRectF photoRect() const { return m_photo; }
+
+    /// What found no room in its cell, as it is listed at the foot.
+    const GridRest &rest() const { return m_rest; }
+
+    /// A window that repaints while somebody types draws the picture by itself.
+    enum class Photo { Drawn, LeftOut };
+    void paint(QPainter &painter, Photo photo = Photo::Drawn) const;
+
+private:
+    void placeAround();
+    double firstPoints() const;
+    bool layOut(double restHeight);
+    std::vector<GridRest::Entry> leftLines() const;
+    void layOutWithRest();
+
+    std::shared_ptr<const PageGrid> m_grid;
+    std::shared_ptr<const GridTypes> m_types;
+    double m_points = GridTypes::smallestPoints;
+    QRectF m_photo;
+    QRectF m_head;
+    QRectF m_body; ///< for the blocks and the list
+    std::vector<Block> m_smallGrids;
+    std::vector<Block> m_blocks;
+    GridRest m_rest;
+};

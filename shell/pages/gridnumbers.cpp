@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/pages/gridbars.h"
+#include "shell/pages/gridblocks.h"
+#include "shell/pages/gridentries.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr double leastRow = 1.42; ///< sizes of the numbers
+constexpr double mostRow = 0.8;   ///< of a column's width
+constexpr double rowsOfMonth = 6;
+constexpr double notesGap = 5;
+constexpr double leadGap = 4;
+constexpr double columnGap = 8;
+constexpr double narrowest = 76; ///< column of notes
+constexpr double gap = 1;
+
+double leadWidth(const GridFrame &frame)
+{
+    const PageType &type = frame.types().line(frame.points(), GridTypes::Strong);
+    double width = 0;
+    for (const GridLine &note : frame.block().notes)
+        width = std::max(width, type.width(note.lead));
+    return width > 0 ? width + leadGap : 0;
+}
+
+/// The notes in columns beside one another; those that have no room are left.
+struct Notes {
+    std::vector<LaidLine> laid{};
+    double height = 0;
+    bool areAll = true;
+};
+
+Notes notesIn(const GridFrame &frame, const QRectF &place, int across)
+{
+    Notes notes;
+    const double width = (place.width() - (across - 1) * columnGap) / across;
+    const double lead = leadWidth(frame);
+    double y = place.top();
+    int column = 0;
+    for (const GridLine &note : frame.block().notes) {
+        LaidLine line = GridEntries::wrapped(frame, note, width - lead);
+        const double height = GridEntries::heightOf(frame, line);
+        if (y + height > place.bottom() + 0.05 && ++column < across)
+            y = place.top();
+        if (column >= across || y + height > place.bottom() + 0.05) {
+            notes.areAll = false;
+            break;
+        }
+        line.lead += lead;
+        line.rect = QRectF(place.left() + column * (width + columnGap), y, width, height);
+        y += height + gap;
+        notes.height = std::max(notes.height, y - place.top());
+        notes.laid.push_back(std::move(line));
+    }
+    return notes;
+}
+
+/// In as few columns as hold them all.
+Notes bestNotes(const GridFrame &frame, const QRectF &place)
+{
+    const int most = std::max(1, int((place.width() + columnGap) / (narrowest + columnGap)));
+    Notes notes = notesIn(frame, place, 1);
+    for (int across = 2; across <= most && !notes.areAll; ++across)
+        notes = notesIn(frame, place, across);
+    return notes;
+}
+
+void placeBars(const GridFrame &frame, int row, LaidBlock &block)
+{
+    const GridBars bars = GridBars::alongRow(frame, row);
+    const QRectF &rect = block.rows[std::size_t(row)];
+    for (const GridBars::Bar &bar : bars.bars()) {
+        const double left = frame.columnLeft(bar.first) + (bar.span->beginsHere ? 1 : 0);
+        const double right = frame.columnLeft(bar.last + 1) - (bar.span->endsHere ? 1 : 0);
+        const double bottom = rect.bottom() - bars.depth(bar.lane);
+        const double thickness = bars.thickness(bar.lane);
+        block.spans.push_back({bar.span, QRectF(left, bottom - thickness, right - left, thickness), {}});
+    }
+}
+
+void placeRow(const GridFrame &frame, int row, LaidBlock &block)
+{
+    const QRectF &line = block.rows[std::size_t(row)];
+    placeBars(frame, row, block);
+    for (int column = 0; column < frame.columnCount(); ++column) {
+        LaidCell laid{&frame.block(), &frame.cell(row, column), row, column};
+        laid.rect = QRectF(frame.columnLeft(column), line.top(), frame.columnWidth(), line.height());
+        laid.number = laid.rect;
+        laid.text = laid.rect;
+        block.cells.push_back(std::move(laid));
+    }
+}
+
+} // namespace
+
+LaidBlock GridBlocks::numbers(const GridFrame &frame)
+{
+    const QRectF body = frame.body();
+    const double least = frame.numberPoints() * leastRow;
+    const double most = std::max(least, frame.columnWidth() * mostRow);
+    QRectF below = body;
+    below.setTop(body.top() + least * frame.rowCount() + notesGap);
+    const Notes needed = bestNotes(frame, below);
+    const double free = body.height() - (needed.laid.empty() ? 0 : needed.height + notesGap);
+    const double height = std::clamp(free / rowsOfMonth, least, most);
+    LaidBlock block;
+    for (int row = 0; row < frame.rowCount(); ++row) {
+        block.rows.emplace_back(body.left(), body.top() + row * height, body.width(), height);
+        placeRow(frame, row, block);
+    }
+    below.setTop(body.top() + height * frame.rowCount() + notesGap);
+    below.setLeft(frame.rect().left());
+    Notes notes = bestNotes(frame, below);
+    const QList<GridLine> &all = frame.block().notes;
+    for (qsizetype i = qsizetype(notes.laid.size()); i < all.size(); ++i)
+        block.left.push_back({nullptr, all[i]});
+    block.notes = std::move(notes.laid);
+    return block;
+}

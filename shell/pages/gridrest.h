@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/pages/gridtypes.h"
+
+#include <QRectF>
+#include <QStringList>
+
+#include <vector>
+
+class QPainter;
+
+/// The list at the foot of a sheet: what found no room in its cell, with its day, in columns.
+class GridRest
+{
+public:
+    struct Entry {
+        QDate date{};
+        QString name{}; ///< of its day: "Sat 14"
+        QString text{};
+        int index = -1; ///< of its line
+        QRectF rect{};
+        QStringList words{};
+    };
+
+    /// Without any.
+    GridRest() = default;
+    /// `most` is how much of the sheet's height may be taken, in points.
+    GridRest(const GridTypes &types, const QString &title, std::vector<Entry> entries, double width,
+             double most);
+
+    const std::vector<Entry> &entries() const { return m_entries; }
+    int count() const { return int(m_entries.size()); }
+    /// How many of them are not even in the list.
+    int leftOut() const { return m_leftOut; }
+    /// Of title and list.
+    double height() const { return m_height; }
+
+    /// Puts the list where it belongs; until then it stands at the sheet's corner.
+    void moveTo(QPointF corner);
+    void paint(QPainter &painter, const GridTypes &types) const;
+
+private:
+    bool fill(double columnHeight);
+
+    QString m_title;
+    std::vector<Entry> m_entries;
+    std::vector<double> m_heights;
+    double m_width = 0;
+    double m_column = 0;
+    double m_lead = 0;
+    int m_across = 1;
+    double m_height = 0;
+    int m_leftOut = 0;
+    QPointF m_corner;
+};
