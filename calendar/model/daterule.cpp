@@ -21,22 +21,6 @@ QDate firstFrom(QDate date, Qt::DayOfWeek weekday)
     return date.addDays((weekday - date.dayOfWeek() + daysPerWeek) % daysPerWeek);
 }
 
-bool isWeekend(QDate date)
-{
-    return date.dayOfWeek() >= Qt::Saturday;
-}
-
-/// The weekday after `date` that is none of the holidays; no date where there are nothing but holidays.
-QDate nextWeekday(QDate date, const std::function<bool(QDate)> &isHoliday)
-{
-    for (int days = 1; days <= DateRule::mostShift; ++days) {
-        const QDate next = date.addDays(days);
-        if (!isWeekend(next) && !(isHoliday && isHoliday(next)))
-            return next;
-    }
-    return {};
-}
-
 } // namespace
 
 QDate DateRule::inYear(int year) const
@@ -66,7 +50,7 @@ QDate DateRule::inYear(int year) const
 }
 
 /// The dates of the rule alone, whatever becomes of them: at least those from `from` to `to`.
-QList<QDate> DateRule::ownDates(QDate from, QDate to) const
+QList<QDate> DateRule::plainDates(QDate from, QDate to) const
 {
     QList<QDate> dates;
     const auto take = [&](QDate date, int year) {
@@ -92,21 +76,43 @@ QDate DateRule::shifted(QDate date) const
     return shift == shifts.end() ? date : date.addDays(shift->days);
 }
 
-QList<DateRule::Day> DateRule::days(QDate from, QDate to, const std::function<bool(QDate)> &isHoliday) const
+QDate DateRule::nextWeekday(QDate date, const std::function<bool(QDate)> &isHoliday)
+{
+    for (int days = 1; days <= mostShift; ++days) {
+        const QDate next = date.addDays(days);
+        if (!isWeekend(next) && !(isHoliday && isHoliday(next)))
+            return next;
+    }
+    return {};
+}
+
+QList<DateRule::Day> DateRule::ownDays(QDate from, QDate to) const
 {
     QList<Day> days;
+    if (!from.isValid() || !to.isValid())
+        return days;
     const auto take = [&](QDate date, bool isDayOff) {
         if (date.isValid() && date >= from && date <= to)
             days.append({date, isDayOff});
     };
-    if (!from.isValid() || !to.isValid())
-        return days;
-    for (const QDate date : ownDates(from.addDays(-mostShift), to.addDays(mostShift))) {
+    for (const QDate date : plainDates(from.addDays(-mostShift), to.addDays(mostShift))) {
         take(moving == Moving::Moved ? shifted(date) : date, false);
         if (moving == Moving::Observed && shifted(date) != date)
             take(shifted(date), true);
-        if (moving == Moving::Next && isWeekend(date))
-            take(nextWeekday(date, isHoliday), true);
+    }
+    std::ranges::stable_sort(days, {}, &Day::date);
+    return days;
+}
+
+QList<DateRule::Day> DateRule::days(QDate from, QDate to, const std::function<bool(QDate)> &isHoliday) const
+{
+    QList<Day> days = ownDays(from, to);
+    if (moving != Moving::Next || !from.isValid() || !to.isValid())
+        return days;
+    for (const QDate date : plainDates(from.addDays(-mostShift), to)) {
+        const QDate next = isWeekend(date) ? nextWeekday(date, isHoliday) : QDate();
+        if (next.isValid() && next >= from && next <= to)
+            days.append({next, true});
     }
     std::ranges::stable_sort(days, {}, &Day::date);
     return days;

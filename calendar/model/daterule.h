@@ -62,16 +62,21 @@ struct DateRule {
     /// As `parse` reads it.
     QString text() const;
 
-    /// Its days from `from` to `to`, in order, with the days off for them. That of `Moving::Next` is on the
-    /// next weekday for which `isHoliday` is false.
+    /// Its days from `from` to `to`, in order, and the days off for them, but for those of `Moving::Next`.
+    QList<Day> ownDays(QDate from, QDate to) const;
+    /// All of them. Those of `Moving::Next` are on weekdays for which `isHoliday` is false.
     QList<Day> days(QDate from, QDate to, const std::function<bool(QDate)> &isHoliday = {}) const;
     /// The same as bare dates, each of them once.
     QList<QDate> dates(QDate from, QDate to, const std::function<bool(QDate)> &isHoliday = {}) const;
+
+    static bool isWeekend(QDate date) { return date.dayOfWeek() >= Qt::Saturday; }
+    /// The weekday after `date` that is no holiday; no date where there is none within `mostShift` days.
+    static QDate nextWeekday(QDate date, const std::function<bool(QDate)> &isHoliday);
 
     bool operator==(const DateRule &) const = default;
 
 private:
     QDate inYear(int year) const;
-    QList<QDate> ownDates(QDate from, QDate to) const;
+    QList<QDate> plainDates(QDate from, QDate to) const;
     QDate shifted(QDate date) const;
 };
