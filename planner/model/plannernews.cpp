@@ -3,8 +3,7 @@
 
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannerfiles.h"
-
-#include <QRegularExpression>
+#include "shell/core/timeofday.h"
 
 #include <algorithm>
 #include <array>
@@ -25,7 +24,7 @@ QList<Item> itemsOf(const PlannerDay &day)
     QList<Item> items;
     for (std::size_t row = 0; row < PlannerDay::rowCount; ++row) {
         if (!day.isRowEmpty(row))
-            items.append({PlannerNews::timeOfDay(day.times[row]), day.times[row], day.texts[row]});
+            items.append({TimeOfDay::of(day.times[row]), day.times[row], day.texts[row]});
     }
     return items;
 }
@@ -86,22 +85,6 @@ LiveLine today(const QList<Item> &items, QTime now)
 
 namespace PlannerNews {
 
-QTime timeOfDay(QStringView text)
-{
-    static const QRegularExpression form(u"^\\s*(\\d{1,2})(?:[:.](\\d{2}))?\\s*([AaPp][Mm])?\\s*$"_s);
-    const auto match = form.match(text.toString());
-    if (!match.hasMatch())
-        return {};
-    int hour = match.capturedView(1).toInt();
-    const int minute = match.capturedView(2).isEmpty() ? 0 : match.capturedView(2).toInt();
-    if (const QStringView half = match.capturedView(3); !half.isEmpty()) {
-        if (hour < 1 || hour > 12)
-            return {};
-        hour = hour % 12 + (half.startsWith(u'p', Qt::CaseInsensitive) ? 12 : 0);
-    }
-    return QTime(hour, minute);
-}
-
 std::optional<LiveLine> liveLine(const DataFolder &folder, const QDateTime &now)
 {
     const PlannerFiles files(folder);
@@ -121,7 +104,7 @@ QList<DayNote> dayNotes(const DataFolder &folder, QDate from, QDate to)
                 continue;
             const QString timeText = day.times[row].trimmed();
             const QString text = day.texts[row].trimmed();
-            const QTime time = timeOfDay(timeText);
+            const QTime time = TimeOfDay::of(timeText);
             const bool isTimeRead = time.isValid() || timeText.isEmpty();
             notes.append({date,
                           isTimeRead ? text : QString(timeText + u"  "_s + text).trimmed(),

@@ -25,8 +25,4 @@ QList<DayNote> dayNotes(const DataFolder &folder, QDate from, QDate to);
 /// Those of the year files that are there.
 QStringList files(const DataFolder &folder);
 
-/// The time of day that a row's time text names; invalid when it names none. "9:30 AM", "9.30pm", "14:05",
-/// "8".
-QTime timeOfDay(QStringView text);
-
 } // namespace PlannerNews

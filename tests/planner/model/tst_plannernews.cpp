@@ -2,7 +2,6 @@
 #include "planner/model/plannerfiles.h"
 #include "planner/model/plannernews.h"
 #include "tests/support/plannerdays.h"
-#include "tests/support/rows.h"
 #include "tests/support/testprogram.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,27 +10,6 @@ class TestPlannerNews : public QObject
 {
     Q_OBJECT
 private slots:
-    void readsTimesOfDay_data()
-    {
-        rows<QString, QTime>({
-            {"morning", u"9:30 AM"_s, {9, 30}},
-            {"noon", u"12:00 PM"_s, {12, 0}},
-            {"midnight", u"12:15am"_s, {0, 15}},
-            {"24 hours", u"14:05"_s, {14, 5}},
-            {"hour alone", u" 8 "_s, {8, 0}},
-            {"no hour", u"25:00"_s, {}},
-            {"13 PM", u"13:00 PM"_s, {}},
-            {"words", u"noon"_s, {}},
-            {"empty", {}, {}},
-        });
-    }
-
-    void readsTimesOfDay()
-    {
-        const auto [text, time] = row<QString, QTime>();
-        QCOMPARE(PlannerNews::timeOfDay(text), time);
-    }
-
     void tellsTheNextAppointment()
     {
         const TestProgram test;
