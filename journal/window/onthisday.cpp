@@ -55,6 +55,7 @@ OnThisDay::OnThisDay(const Program &program, Journal &journal, QWidget *parent)
     m_list->setAccessibleName(u"On this day"_s);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setMinimumHeight(leastHeight);
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_around->setToolTip(JournalWindowLines::nearbyDaysToo());
     m_around->setChecked(program.store.value(aroundKey).toBool());
     connect(m_around, &QCheckBox::toggled, this, [this](bool isOn) {

@@ -77,6 +77,8 @@ TagsList::TagsList(QWidget *parent)
     m_list->setAccessibleName(u"Tags"_s);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setMinimumHeight(leastRows * ListRowDelegate::rowHeight() + listRim);
+    // A sentence beside it that wraps would have the pane scroll for the height that a list likes best.
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_list->hide();
     connect(m_list, &QListView::clicked, this, &TagsList::open);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
