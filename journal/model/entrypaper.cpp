@@ -129,7 +129,8 @@ void EntryPaper::addPicture(const JournalPicture &picture)
 {
     if (m_options.pictures == PictureSize::None)
         return;
-    const QString path = m_source.picturePath ? m_source.picturePath(picture.path) : picture.path;
+    const QString found = m_source.picturePath ? m_source.picturePath(picture.path) : QString();
+    const QString path = found.isEmpty() ? picture.path : found; // a frame with its name
     m_page.figure(path, placeOf(m_options.pictures, m_context), picture.caption);
     m_hasTextAbove = false;
     m_isGapDue = false;

@@ -7,9 +7,11 @@
 #include "shell/core/lightmarks.h"
 #include "shell/look/theme.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTextBlock>
 
 using namespace Qt::Literals::StringLiterals;
@@ -71,13 +73,63 @@ JournalText::JournalText(PagePictures &pictures, QWidget *parent)
     QTextDocument *first = makeDocument({});
     setDocument(first);
     connect(this, &QPlainTextEdit::cursorPositionChanged, viewport(), qOverload<>(&QWidget::update));
-    connect(&m_pictures, &PagePictures::changed, this, [this](int number) {
-        for (QTextBlock line = document()->begin(); line.isValid(); line = line.next()) {
-            if (pictureIn(line) == number)
-                document()->markContentsDirty(line.position(), line.length());
-        }
-        viewport()->update();
-    });
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &JournalText::cursorMoved,
+            Qt::QueuedConnection); // behind what the box itself does for it
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &JournalText::reachEnd);
+    connect(&m_pictures, &PagePictures::changed, this, &JournalText::pictureChanged);
+}
+
+void JournalText::cursorMoved()
+{
+    showCursor();
+    if (const int number = pictureAtCursor(); std::exchange(m_pictureAtCursor, number) != number)
+        emit pictureAtCursorChanged();
+}
+
+void JournalText::pictureChanged(int number)
+{
+    const bool wasInSight = m_isCursorInSight;
+    for (QTextBlock line = document()->begin(); line.isValid(); line = line.next()) {
+        if (pictureIn(line) == number)
+            document()->markContentsDirty(line.position(), line.length());
+    }
+    // The box looks how far it can scroll when the number of lines changes, and only then by itself.
+    QAbstractTextDocumentLayout *layout = document()->documentLayout();
+    emit layout->documentSizeChanged(layout->documentSize());
+    if (wasInSight)
+        showCursor();
+    viewport()->update();
+}
+
+/// The box goes by lines and takes one with a picture for whole where only its caption is to be seen.
+void JournalText::showCursor()
+{
+    if (m_pictures.pictures().isEmpty())
+        return;
+    ensureCursorVisible();
+    QScrollBar *bar = verticalScrollBar();
+    while (cursorRect().bottom() > viewport()->height() && bar->value() < bar->maximum())
+        bar->setValue(bar->value() + 1);
+    if (cursorRect().top() < 0) // in the caption of a picture that is higher than the page
+        bar->setValue(bar->value() - 1);
+}
+
+/// For the same reason: below a picture that is cut at the top the text would never come into sight.
+void JournalText::reachEnd()
+{
+    if (m_pictures.pictures().isEmpty())
+        return;
+    double room = viewport()->height() - document()->documentMargin() - 1;
+    for (QTextBlock line = document()->lastBlock(); line.isValid(); line = line.previous()) {
+        room -= document()->documentLayout()->blockBoundingRect(line).height();
+        if (room >= 0)
+            continue;
+        const int last = document()->lineCount() - 1;
+        const int below = std::min(line.firstLineNumber() + 1, last);
+        if (m_pictures.has(pictureIn(line)) && verticalScrollBar()->maximum() < below)
+            verticalScrollBar()->setMaximum(below);
+        return;
+    }
 }
 
 LineStyles JournalText::styles() const
@@ -272,6 +324,7 @@ void JournalText::keyPressEvent(QKeyEvent *event)
 void JournalText::paintEvent(QPaintEvent *event)
 {
     QPlainTextEdit::paintEvent(event);
+    m_isCursorInSight = cursorRect().intersects(viewport()->rect());
     QPainter painter(viewport());
     QRectF place = blockBoundingGeometry(firstVisibleBlock()).translated(contentOffset());
     for (QTextBlock line = firstVisibleBlock(); line.isValid() && place.top() <= viewport()->height();

@@ -46,6 +46,8 @@ public:
 signals:
     /// Another one, or in other colours.
     void documentShown();
+    /// The cursor came to a picture, or left one.
+    void pictureAtCursorChanged();
     /// Something was dropped or pasted that may be a picture.
     void pictureGiven(const QMimeData *data);
 
@@ -61,7 +63,13 @@ protected:
 private:
     void apply(void (*change)(QTextCursor &, const QString &), const QString &sign);
     void setMargins();
+    void cursorMoved();
+    void pictureChanged(int number);
+    void showCursor();
+    void reachEnd();
     void paintPicture(QPainter &painter, const QTextBlock &line, const QRectF &place) const;
 
     PagePictures &m_pictures;
+    bool m_isCursorInSight = true; ///< as it was painted last
+    int m_pictureAtCursor = 0;
 };

@@ -20,6 +20,8 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 PictureCommands::PictureCommands(const JournalDesk &desk, QObject *parent)
@@ -28,6 +30,7 @@ PictureCommands::PictureCommands(const JournalDesk &desk, QObject *parent)
 {
     connect(&m_desk.page.text(), &JournalText::pictureGiven, this,
             [this](const QMimeData *data) { take(*data); });
+    connect(&m_desk.page.text(), &JournalText::pictureAtCursorChanged, &m_desk.commands, &Commands::refresh);
 }
 
 QString PictureCommands::whyLocked() const
@@ -67,11 +70,12 @@ void PictureCommands::choose()
 /// What was dropped or pasted: a file, else the picture itself, else the words.
 void PictureCommands::take(const QMimeData &data)
 {
-    for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile()) {
-            openFile(url.toLocalFile());
-            return;
-        }
+    const QList<QUrl> urls = data.urls();
+    if (const auto file = std::ranges::find_if(urls, &QUrl::isLocalFile); file != urls.end()) {
+        openFile(file->toLocalFile());
+        if (std::ranges::count_if(urls, &QUrl::isLocalFile) > 1)
+            emit said(JournalWindowLines::onePictureAtATime());
+        return;
     }
     if (data.hasImage()) {
         form().start(qvariant_cast<QImage>(data.imageData()));

@@ -146,6 +146,11 @@ QString JournalWindowLines::lastDay()
     return u"The journal ends with this day"_s;
 }
 
+QString JournalWindowLines::onePictureAtATime()
+{
+    return u"Of several pictures only the first was taken: they come in one by one"_s;
+}
+
 QString JournalWindowLines::noPictureHere()
 {
     return u"The cursor stands at no picture"_s;

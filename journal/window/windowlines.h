@@ -52,6 +52,7 @@ QString todayIsShown();
 QString firstDay();
 QString lastDay();
 QString noPictureHere();
+QString onePictureAtATime();
 QString noTagYet();
 QString nothingToPrint();
 QString nothingToUndo();

@@ -10,6 +10,7 @@
 #include "tests/support/failingdisk.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
+#include "tests/support/testpictures.h"
 
 #include <QCalendarWidget>
 #include <QCheckBox>
@@ -19,6 +20,7 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTextBlock>
@@ -280,6 +282,33 @@ private slots:
         QVERIFY(!file().contains("A secret."));
         key(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(page()->text(), QString());
+    }
+
+    /// A picture takes its room once it is read, when the box has long reckoned how far it scrolls.
+    void leadsBelowAPicture()
+    {
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+        makePicture(m_test->folder.filePath(u"Sea.png"_s), {1600, 900});
+        m_test->setBytes(u"DJour2026.Fil"_s, "Quillery journal 1\r\n=== 2026-11-21\r\npicture Sea.png\r\n\r\n"
+                                             "1\r\n2\r\n3\r\n4\r\n[picture 1]\r\nBelow it.\r\n");
+        openAgain();
+        m_window->resize(1000, 640);
+        QTRY_VERIFY(page()->verticalScrollBar()->maximum() > 0);
+        const auto isCursorInSight = [this] {
+            const QRect page = this->page()->viewport()->rect();
+            return page.contains(this->page()->cursorRect().center());
+        };
+        key(Qt::Key_Home, Qt::ControlModifier);
+        QTRY_VERIFY(isCursorInSight() && page()->verticalScrollBar()->value() == 0);
+        key(Qt::Key_End, Qt::ControlModifier);
+        QTRY_VERIFY(isCursorInSight());
+        QVERIFY(!find<QAction>("mECaption")->isEnabled());
+        key(Qt::Key_Up);
+        QTRY_VERIFY(find<QAction>("mECaption")->isEnabled());
+        m_test->dialogs.willInput(u"The sea"_s);
+        trigger("mECaption");
+        trigger("mOSave");
+        QVERIFY(file().contains("picture Sea.png | The sea\r\n"));
     }
 
     void tellsTheCalendarsDays()
