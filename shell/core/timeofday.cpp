@@ -61,6 +61,13 @@ Found find(QStringView text)
     return found;
 }
 
+Found findLeading(QStringView text)
+{
+    const Found found = find(text);
+    const bool isWhole = found.end == text.size() || text[found.end].isSpace() || text[found.end].isPunct();
+    return isWhole && !found.isHourAlone ? found : Found();
+}
+
 } // namespace
 
 QTime TimeOfDay::of(QStringView text)
@@ -71,7 +78,11 @@ QTime TimeOfDay::of(QStringView text)
 
 QTime TimeOfDay::leading(QStringView text)
 {
-    const Found found = find(text);
-    const bool isWhole = found.end == text.size() || text[found.end].isSpace() || text[found.end].isPunct();
-    return isWhole && !found.isHourAlone ? found.time : QTime();
+    return findLeading(text).time;
+}
+
+QStringView TimeOfDay::behindLeading(QStringView text)
+{
+    const Found found = findLeading(text);
+    return found.time.isValid() ? text.sliced(behindBlanks(text, found.end)) : text;
 }

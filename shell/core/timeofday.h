@@ -13,5 +13,7 @@ QTime of(QStringView text);
 /// The time that `text` begins with, "9:30 AM Dentist"; invalid where it begins with none. A number alone is
 /// none: it may count anything.
 QTime leading(QStringView text);
+/// What stands behind that time; all of `text` where it begins with none.
+QStringView behindLeading(QStringView text);
 
 } // namespace TimeOfDay

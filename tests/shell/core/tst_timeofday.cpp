@@ -37,6 +37,13 @@ private slots:
         QCOMPARE(TimeOfDay::of(text), time);
         QCOMPARE(TimeOfDay::leading(text), leading);
     }
+
+    void tellsWhatStandsBehindTheTime()
+    {
+        QCOMPARE(TimeOfDay::behindLeading(u"9:30 am  Dentist"), u"Dentist");
+        QCOMPARE(TimeOfDay::behindLeading(u"3 apples"), u"3 apples");
+        QCOMPARE(TimeOfDay::behindLeading(u"14:30"), u"");
+    }
 };
 
 QTEST_GUILESS_MAIN(TestTimeOfDay)
