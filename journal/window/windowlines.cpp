@@ -253,7 +253,7 @@ QString JournalWindowLines::broughtIn(int days)
 
 QString JournalWindowLines::takenBack(int days, int changed)
 {
-    const QString taken =
+    QString taken =
         days == 1 ? u"1 day is as it was before"_s : u"%1 days are as they were before"_s.arg(days);
     if (changed == 0)
         return taken;

@@ -408,5 +408,6 @@ std::vector<qint32> KeeperIndex::expiries(QDate from) const
 
 qsizetype KeeperIndex::memoryUsed() const
 {
-    return qsizetype(m_rows.capacity() * sizeof(Row) + m_texts.capacity() + m_folded.capacity());
+    const std::size_t used = m_rows.capacity() * sizeof(Row) + m_texts.capacity() + m_folded.capacity();
+    return qsizetype(used);
 }

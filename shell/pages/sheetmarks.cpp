@@ -57,7 +57,7 @@ QString SheetMarks::numbersOf(const std::vector<int> &marks, const std::vector<S
             sheets.push_back(sheetOf(*item, starts));
     }
     std::ranges::sort(sheets);
-    sheets.erase(std::ranges::unique(sheets).begin(), sheets.end());
+    sheets.erase(std::unique(sheets.begin(), sheets.end()), sheets.end());
     QStringList numbers;
     for (auto first = sheets.begin(); first != sheets.end();) {
         auto last = first;

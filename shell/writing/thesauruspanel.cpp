@@ -106,6 +106,9 @@ void ThesaurusPanel::makeButtons()
     m_buttons.lookUp = addButton(u"thesaurusLookUp"_s, u"Loo&k Up"_s, ButtonKind::Plain, Side::Left);
     m_buttons.replace = addButton(u"thesaurusReplace"_s, u"&Replace"_s, ButtonKind::Main);
     m_buttons.close = setLeaveButton(u"thesaurusClose"_s, u"C&lose"_s);
+    setTabOrder(m_meanings, m_others);
+    setTabOrder(m_others, m_by);
+    setTabOrder(m_by, m_buttons.back);
     connect(m_buttons.back, &QPushButton::clicked, this, &ThesaurusPanel::goBack);
     connect(m_buttons.lookUp, &QPushButton::clicked, this, &ThesaurusPanel::lookUp);
     connect(m_buttons.replace, &QPushButton::clicked, this, [this] { emit chosen(m_by->text()); });
@@ -137,13 +140,16 @@ void ThesaurusPanel::look(const QString &word)
 
 void ThesaurusPanel::lookUp()
 {
-    m_before += m_now;
+    m_before.append({m_now, m_meanings->currentRow(), m_others->currentRow()});
     look(m_by->text().trimmed());
 }
 
 void ThesaurusPanel::goBack()
 {
-    look(m_before.takeLast());
+    const Step before = m_before.takeLast();
+    look(before.word);
+    m_meanings->setCurrentRow(before.meaning);
+    m_others->setCurrentCell(before.other, 0);
 }
 
 const Meaning *ThesaurusPanel::meaning() const

@@ -41,7 +41,12 @@ private:
     Writing &m_writing;
     QString m_asked; ///< the word in the text
     OtherWordsFound m_found;
-    QStringList m_before; ///< looked up on the way here, the last at the end
+    struct Step {
+        QString word;
+        int meaning; ///< the rows that were chosen of what was found
+        int other;
+    };
+    QList<Step> m_before; ///< looked up on the way here, the last at the end
     QString m_now;
     QLabel *m_word;
     QLabel *m_words;

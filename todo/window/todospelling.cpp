@@ -49,8 +49,8 @@ std::vector<int> ToDoSpelling::rowsToRead() const
             rows.push_back(row);
     }
     if (m_view.shown().kind == Shown::List)
-        std::ranges::stable_partition(rows,
-                                      [&](int row) { return sheet.listOf(row) == m_view.shown().list; });
+        std::stable_partition(rows.begin(), rows.end(),
+                              [&](int row) { return sheet.listOf(row) == m_view.shown().list; });
     const std::vector<int> chosen = m_view.chosen();
     const auto first = chosen.empty() ? rows.end() : std::ranges::find(rows, sheet.rowOf(chosen.front()));
     if (first != rows.end())

@@ -137,6 +137,7 @@ private slots:
         QCOMPARE(desk.label("thesaurusWord"), u"\u201cjoy\u201d is not in the thesaurus"_s);
         QVERIFY(control<QLineEdit>(desk.window, "thesaurusReplacement")->hasFocus());
         desk.click("thesaurusBack");
+        QCOMPARE(desk.words(), QStringList({u"joy/generic term"_s})); // of the meaning that was chosen
         desk.click("thesaurusBack");
         QCOMPARE(desk.label("thesaurusWord"), u"\u201cglad\u201d"_s);
         QVERIFY(!desk.may("thesaurusBack"));
