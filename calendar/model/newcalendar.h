@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "calendar/model/holidaysets.h"
+#include "calendar/model/wallcalendar.h"
+#include "shell/core/programstate.h"
+
+#include <QLocale>
+
+class Settings;
+
+/// What a new calendar begins with, before a person chooses.
+namespace NewCalendar {
+
+/// "Family Calendar 2027", or "Family Calendar 2027/28" where it goes on into the next year.
+QString title(QDate from, int months);
+
+/// The twelve months of this year, from September on those of the next one, with the weeks of the household's
+/// settings and the holidays of the country.
+WallCalendar proposed(QDate today, DateStyle style, const Settings &settings,
+                      QLocale::Territory territory = QLocale::system().territory());
+
+/// `calendar` with the days that its holiday sets have: new ones come, those that they have no longer go.
+/// What a person moved, edited or removed of them stays so.
+WallCalendar withHolidays(WallCalendar calendar, const HolidaySets &sets, QDate today);
+
+/// The names in "Anne, Tom": each once, six at most.
+QStringList persons(const QString &typed);
+
+} // namespace NewCalendar
