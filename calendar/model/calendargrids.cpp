@@ -67,12 +67,16 @@ GridCell cellOf(const WallCalendar &calendar, QDate date)
             .isTinted = isFree};
 }
 
-QList<GridHead> dayHeads(QDate start, QLocale::FormatType format)
+/// Over the days of a week: their names, or only their first letters.
+QList<GridHead> dayHeads(QDate start, bool isWhole)
 {
     QList<GridHead> heads;
     for (int i = 0; i < daysPerWeek; ++i) {
         const QDate date = start.addDays(i);
-        heads.append({.text = QLocale::c().dayName(date.dayOfWeek(), format), .isTinted = isWeekend(date)});
+        const QString name = QLocale::c().dayName(date.dayOfWeek());
+        heads.append({.text = isWhole ? name : name.left(1),
+                      .note = isWhole ? shortDay(date) : QString(),
+                      .isTinted = isWeekend(date)});
     }
     return heads;
 }
@@ -115,7 +119,7 @@ GridBlock CalendarGrids::month(const WallCalendar &calendar, QDate first)
 {
     const Weeks weeks = Dates::weeksOfMonth(first, calendar.look.firstDay);
     GridBlock block{.form = GridForm::Weeks};
-    block.columns = dayHeads(weeks.start, QLocale::LongFormat);
+    block.columns = dayHeads(weeks.start, true);
     addWeekNumbers(calendar, weeks, block);
     block.cells.reserve(qsizetype(weeks.count) * daysPerWeek);
     for (QDate date = weeks.start; date <= weeks.end(); date = date.addDays(1)) {
@@ -184,7 +188,7 @@ GridBlock CalendarGrids::numbers(const WallCalendar &calendar, QDate first, bool
     const Weeks weeks = Dates::weeksOfMonth(first, calendar.look.firstDay);
     const MonthSpans spans(calendar, first, first.addMonths(1).addDays(-1));
     GridBlock block{.form = GridForm::Numbers, .title = monthName(first, hasYear)};
-    block.columns = dayHeads(weeks.start, QLocale::NarrowFormat);
+    block.columns = dayHeads(weeks.start, false);
     if (notes != Notes::None)
         addWeekNumbers(calendar, weeks, block);
     for (QDate date = weeks.start; date <= weeks.end(); date = date.addDays(1)) {

@@ -21,7 +21,7 @@ constexpr double cardPadding = 0.42;
 constexpr double gridPadding = 0.08;
 
 constexpr double photoAbove = 0.47;
-constexpr double photoLeft = 0.44;
+constexpr double photoLeft = 0.41;
 
 int monthsPerSheet(CalendarLayout layout)
 {
@@ -255,19 +255,14 @@ std::shared_ptr<const PageGrid> CalendarPages::monthGrid(const WallCalendar &cal
     return grid(plain, month, source);
 }
 
-Page CalendarPages::page(const WallCalendar &calendar, int sheet, const Source &source, bool isLast)
+Page CalendarPages::page(const WallCalendar &calendar, const Source &source, const QList<int> &chosen)
 {
-    Page page;
-    page.numberSheets(SheetNumbers::None).placeGrid(grid(calendar, sheet, source, isLast));
-    return page;
-}
-
-PageSheets CalendarPages::sheets(const WallCalendar &calendar, const Source &source, const QList<int> &chosen)
-{
-    QList<int> numbers = chosen;
+    QList<int> sheets = chosen;
     for (int sheet = 0; chosen.isEmpty() && sheet < sheetCount(calendar); ++sheet)
-        numbers.append(sheet);
-    return {int(numbers.size()), [calendar, source, numbers](int index) {
-                return page(calendar, numbers.value(index), source, index + 1 == numbers.size());
-            }};
+        sheets.append(sheet);
+    Page page;
+    page.numberSheets(SheetNumbers::None);
+    for (const int sheet : sheets)
+        page.placeGrid(grid(calendar, sheet, source, sheet == sheets.constLast()));
+    return page;
 }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "calendar/model/wallcalendar.h"
+#include "shell/core/page.h"
 #include "shell/core/pagecontext.h"
 #include "shell/core/pagegrid.h"
-#include "shell/core/pagesheets.h"
 
 #include <functional>
 #include <memory>
@@ -34,9 +34,7 @@ std::shared_ptr<const PageGrid> grid(const WallCalendar &calendar, int sheet, co
 /// The month's own sheet, whatever the layout: for typing where the sheet has no room for lines.
 std::shared_ptr<const PageGrid> monthGrid(const WallCalendar &calendar, int month, const Source &source);
 
-Page page(const WallCalendar &calendar, int sheet, const Source &source, bool isLast = false);
-
 /// All sheets, or those of `chosen`, counted from 0, in that order.
-PageSheets sheets(const WallCalendar &calendar, const Source &source, const QList<int> &chosen = {});
+Page page(const WallCalendar &calendar, const Source &source, const QList<int> &chosen = {});
 
 } // namespace CalendarPages

@@ -229,7 +229,8 @@ struct PlacedRule {
     bool operator==(const PlacedRule &) const = default;
 };
 
-/// A sheet of days at its place.
+/// A sheet of days at its place, which begins a new sheet. Where its lines do not all find room, a list of
+/// the others follows on the next.
 struct Grid {
     std::shared_ptr<const PageGrid> grid;
     bool operator==(const Grid &other) const;

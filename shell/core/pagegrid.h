@@ -50,7 +50,7 @@ struct GridSpan {
 /// What stands over a column or before a row.
 struct GridHead {
     QString text{};
-    QString note{}; ///< the name of the day behind its number
+    QString note{}; ///< over a column: the same in short; before a row: the name of the day
     QString week{}; ///< number of the week that begins here
     bool isStrong = false;
     bool isTinted = false;

@@ -32,6 +32,7 @@ public:
     std::size_t lanesOver(int cell) const;
     /// The extent of so many lanes with their gaps.
     double depth(std::size_t lanes) const;
+    double wholeDepth() const { return depth(m_lanes.size()); }
     /// Of the bar itself.
     double thickness(std::size_t lane) const { return m_lanes[lane] - gap; }
     /// Those that have no lane because there are too many.

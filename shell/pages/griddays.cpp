@@ -75,9 +75,13 @@ LaidBlock GridBlocks::days(const GridFrame &frame)
     columns.reserve(std::size_t(frame.columnCount()));
     for (int column = 0; column < frame.columnCount(); ++column)
         columns.push_back(columnOf(frame, column));
+    const std::vector<RowNeed> needs = needsOf(frame, columns);
     LaidBlock block;
+    block.least = frame.body().top() - frame.rect().top();
+    for (const RowNeed &need : needs)
+        block.least += need.least;
     double top = frame.body().top();
-    for (const double height : sharedOut(needsOf(frame, columns), frame.body().height()).heights) {
+    for (const double height : sharedOut(needs, frame.body().height()).heights) {
         block.rows.emplace_back(frame.body().left(), top, frame.body().width(), height);
         top += height;
     }

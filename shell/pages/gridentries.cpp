@@ -37,7 +37,7 @@ qsizetype GridEntries::place(const QRectF &place, std::vector<LaidLine> &laid) c
     return m_first + qsizetype(m_lines.size());
 }
 
-LaidLine GridEntries::wrapped(const GridFrame &frame, const GridLine &line, double width)
+LaidLine GridEntries::wrapped(const GridFrame &frame, const GridLine &line, double width, Further further)
 {
     const PageType &type =
         frame.types().line(frame.points(), line.isStrong ? GridTypes::Strong : GridTypes::Normal);
@@ -45,7 +45,7 @@ LaidLine GridEntries::wrapped(const GridFrame &frame, const GridLine &line, doub
     laid.lead = line.tone > 0 ? square * frame.points() : 0;
     const double room = width - laid.lead;
     laid.words = type.wrapped(line.text, room);
-    if (laid.words.size() > 1) {
+    if (laid.words.size() > 1 && further == Further::Indented) {
         laid.indent = hanging * frame.points();
         laid.words = type.wrapped(line.text, room - laid.indent);
     }

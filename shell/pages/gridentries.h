@@ -19,7 +19,10 @@ public:
     /// Puts them into `place`, as many as have room there. Gives the first that has none.
     qsizetype place(const QRectF &place, std::vector<LaidLine> &laid) const;
 
-    static LaidLine wrapped(const GridFrame &frame, const GridLine &line, double width);
+    /// How the further lines of an entry stand below its first.
+    enum class Further { Indented, Level };
+    static LaidLine wrapped(const GridFrame &frame, const GridLine &line, double width,
+                            Further further = Further::Indented);
     static double heightOf(const GridFrame &frame, const LaidLine &line);
 
 private:

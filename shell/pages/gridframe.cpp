@@ -50,8 +50,17 @@ double GridFrame::numberWidth() const
 
 double GridFrame::columnWidth(const GridBlock &block, double width)
 {
-    return (width * block.share.width() - 2 * block.padding * pointsPerInch) /
-           double(std::max<qsizetype>(1, block.columns.size()));
+    const double whole = width * block.share.width() - 2 * block.padding * pointsPerInch;
+    const auto count = double(std::max<qsizetype>(1, block.columns.size()));
+    switch (block.form) {
+    case GridForm::Weeks:
+        break;
+    case GridForm::Days: // what stands before the days, and longer lines than in a narrow cell
+        return 0.8 * (whole - 60) / count;
+    case GridForm::Numbers: // two columns of notes
+        return whole / 2;
+    }
+    return whole / count;
 }
 
 void GridFrame::setSizes()

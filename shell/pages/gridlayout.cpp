@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,10 +18,12 @@ namespace {
 constexpr double photoGap = 14;
 constexpr double captionHeight = 14;
 constexpr double headGap = 6;
-constexpr double mostRest = 0.42; ///< of the height, for the list at the foot
+constexpr double mostOfBody = 0.42; ///< for the list at the foot
 constexpr int mostRounds = 12;
+constexpr int heightsTried = 5;
 constexpr QSizeF smallGrid{88, 72};
 constexpr double smallGap = 14;
+constexpr double cardMargin = 36; ///< of a list behind a sheet of cards
 
 QRectF inPoints(const QRectF &inches)
 {
@@ -52,6 +55,8 @@ GridLayout::GridLayout(std::shared_ptr<const PageGrid> grid, const PageFont &fon
 void GridLayout::placeAround()
 {
     m_body = inPoints(m_grid->place);
+    const double margin = m_grid->hasCutMarks ? cardMargin : 0;
+    m_margins = m_body.adjusted(margin, margin, -margin, -margin);
     if (m_grid->hasPhoto) {
         const GridPhoto &photo = m_grid->photo;
         m_photo = m_body;
@@ -99,7 +104,7 @@ bool GridLayout::layOut(double restHeight)
     bool isEnough = true;
     for (const GridBlock &block : m_grid->blocks) {
         const GridFrame frame(block, shareOf(room, block.share), m_grid->style, *m_types, m_points);
-        m_blocks.push_back({frame, GridBlocks::laidOut(frame)});
+        m_blocks.push_back({frame, GridBlocks::laidOut(frame, m_notes)});
         isEnough = isEnough && m_blocks.back().laid.left.empty();
     }
     return isEnough;
@@ -116,24 +121,87 @@ std::vector<GridRest::Entry> GridLayout::leftLines() const
             entries.push_back({.date = left.cell ? left.cell->date : QDate(),
                                .name = name,
                                .text = left.line.text,
-                               .index = left.line.index});
+                               .index = left.line.index,
+                               .tone = left.line.tone});
         }
     }
     return entries;
 }
 
+/// How high the list at the foot may be: the grids keep what they need at least.
+double GridLayout::mostRest() const
+{
+    if (m_grid->hasCutMarks)
+        return 0;
+    double least = 0;
+    for (const Block &block : m_blocks)
+        least = std::max(least, block.laid.least / std::max(0.01, block.frame.block().share.height()));
+    return std::clamp(m_body.height() - least, 0.0, m_body.height() * mostOfBody);
+}
+
 void GridLayout::layOutWithRest()
 {
-    const double most = m_body.height() * mostRest;
+    // All of them stand in one place, below their grids or in the list.
+    m_notes = m_grid->hasCutMarks ? NotesPlace::Below : NotesPlace::InList;
+    layOut(0);
+    const double most = mostRest();
+    if (!settle(most))
+        chooseLeastLeft(most);
+    GridRest &list = m_lists.front();
+    list.moveTo({m_body.left(), m_body.bottom() - list.height()});
+    m_restCount = int(leftLines().size());
+    listTheOthers();
+}
+
+/// Gives the list the height that it needs, which takes room from the grids, so that it needs more. False
+/// where it would need too much.
+bool GridLayout::settle(double most)
+{
     double given = 0;
-    for (int round = 1;; ++round) {
-        m_rest = GridRest(*m_types, m_grid->restTitle, leftLines(), m_body.width(), most);
-        if (m_rest.height() <= given + 0.05)
-            break;
-        given = round < mostRounds ? m_rest.height() : most;
+    for (int round = 0; round < mostRounds; ++round) {
+        m_lists.assign(1, GridRest(*m_types, m_grid->restTitle, leftLines(), m_body.width(), most));
+        if (m_lists.front().leftOut() > 0)
+            return false;
+        if (m_lists.front().height() <= given + 0.05)
+            return true;
+        given = m_lists.front().height();
         layOut(given);
     }
-    m_rest.moveTo({m_body.left(), m_body.bottom() - m_rest.height()});
+    return false;
+}
+
+/// The height of the list at which the sheet holds the most.
+void GridLayout::chooseLeastLeft(double most)
+{
+    double best = 0;
+    int fewest = std::numeric_limits<int>::max();
+    const auto tryHeight = [&](double height) {
+        layOut(height);
+        m_lists.assign(1, GridRest(*m_types, m_grid->restTitle, leftLines(), m_body.width(), height));
+        return m_lists.front().leftOut();
+    };
+    for (int i = 0; i <= heightsTried; ++i) {
+        const double height = most * i / heightsTried;
+        if (const int left = tryHeight(height); left < fewest) {
+            fewest = left;
+            best = height;
+        }
+    }
+    tryHeight(best);
+}
+
+/// What the first list has no room for goes on sheets of its own.
+void GridLayout::listTheOthers()
+{
+    while (m_lists.back().leftOut() > 0) {
+        const double top = m_grid->title.isEmpty() ? m_margins.top() : m_head.bottom();
+        const double height = m_margins.bottom() - top;
+        GridRest next(*m_types, m_grid->restTitle, m_lists.back().takeLeftOut(), m_margins.width(), height);
+        if (next.height() <= 0)
+            break; // a sheet too small for any line
+        next.moveTo({m_margins.left(), top});
+        m_lists.push_back(std::move(next));
+    }
 }
 
 const LaidCell *GridLayout::cellAt(QPointF point) const
@@ -177,19 +245,23 @@ const LaidSpan *GridLayout::spanAt(QPointF point) const
     return nullptr;
 }
 
-void GridLayout::paint(QPainter &painter, Photo photo) const
+void GridLayout::paint(QPainter &painter, int part, Photo photo) const
 {
     const GridPainter grid(painter, *m_grid, *m_types);
-    if (m_grid->hasPhoto)
+    const bool isFirst = part == 0;
+    if (m_grid->hasPhoto && isFirst)
         grid.paintPhoto(m_photo, photo == Photo::Drawn);
     if (!m_grid->title.isEmpty())
-        grid.paintTitle(m_head);
-    for (const Block &block : m_smallGrids)
-        grid.paintBlock(block.frame, block.laid);
-    for (const Block &block : m_blocks)
-        grid.paintBlock(block.frame, block.laid);
-    m_rest.paint(painter, *m_types);
-    if (m_grid->hasCutMarks)
-        grid.paintCutMarks(m_body);
-    grid.paintFoot();
+        grid.paintTitle(isFirst ? m_head : QRectF(m_margins.topLeft(), m_head.size()));
+    if (isFirst) {
+        for (const Block &block : m_smallGrids)
+            grid.paintBlock(block.frame, block.laid);
+        for (const Block &block : m_blocks)
+            grid.paintBlock(block.frame, block.laid);
+        if (m_grid->hasCutMarks)
+            grid.paintCutMarks(m_body);
+    }
+    if (part < int(m_lists.size()))
+        m_lists[std::size_t(part)].paint(painter, *m_types);
+    grid.paintFoot(part + 1 == partCount());
 }

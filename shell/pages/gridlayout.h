@@ -2,12 +2,14 @@
 #pragma once
 
 #include "shell/core/pagegrid.h"
+#include "shell/pages/gridblocks.h"
 #include "shell/pages/gridframe.h"
 #include "shell/pages/gridrest.h"
 #include "shell/pages/gridtypes.h"
 #include "shell/pages/laidgrid.h"
 #include "shell/pages/pagefont.h"
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -44,27 +46,37 @@ public:
     /// The place of the picture; empty where the sheet has none.
     QRectF photoRect() const { return m_photo; }
 
-    /// What found no room in its cell, as it is listed at the foot.
-    const GridRest &rest() const { return m_rest; }
+    /// How many lines found no room in their cells.
+    int restCount() const { return m_restCount; }
+
+    /// How many sheets it takes: more than one where the list of those does not find room below the grids.
+    int partCount() const { return std::max(1, int(m_lists.size())); }
 
     /// A window that repaints while somebody types draws the picture by itself.
     enum class Photo { Drawn, LeftOut };
-    void paint(QPainter &painter, Photo photo = Photo::Drawn) const;
+    void paint(QPainter &painter, int part = 0, Photo photo = Photo::Drawn) const;
 
 private:
     void placeAround();
     double firstPoints() const;
     bool layOut(double restHeight);
     std::vector<GridRest::Entry> leftLines() const;
+    double mostRest() const;
     void layOutWithRest();
+    bool settle(double most);
+    void chooseLeastLeft(double most);
+    void listTheOthers();
 
     std::shared_ptr<const PageGrid> m_grid;
     std::shared_ptr<const GridTypes> m_types;
     double m_points = GridTypes::smallestPoints;
     QRectF m_photo;
+    QRectF m_margins; ///< what lies within them
     QRectF m_head;
     QRectF m_body; ///< for the blocks and the list
     std::vector<Block> m_smallGrids;
     std::vector<Block> m_blocks;
-    GridRest m_rest;
+    NotesPlace m_notes = NotesPlace::Below;
+    std::vector<GridRest> m_lists; ///< one a sheet
+    int m_restCount = 0;
 };

@@ -4,11 +4,11 @@
 #include "shell/pages/gridentries.h"
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 
 namespace {
 
-constexpr double leastRow = 1.42; ///< sizes of the numbers
+constexpr double leastRow = 1.25; ///< sizes of the numbers
 constexpr double mostRow = 0.8;   ///< of a column's width
 constexpr double rowsOfMonth = 6;
 constexpr double notesGap = 5;
@@ -68,27 +68,38 @@ Notes bestNotes(const GridFrame &frame, const QRectF &place)
     return notes;
 }
 
-void placeBars(const GridFrame &frame, int row, LaidBlock &block)
+/// A row of numbers: bars that touch it stand below them.
+struct NumberRow {
+    GridBars bars;
+    double least;
+};
+
+std::vector<NumberRow> rowsOf(const GridFrame &frame)
 {
-    const GridBars bars = GridBars::alongRow(frame, row);
-    const QRectF &rect = block.rows[std::size_t(row)];
+    std::vector<NumberRow> rows;
+    rows.reserve(std::size_t(frame.rowCount()));
+    for (int row = 0; row < frame.rowCount(); ++row) {
+        GridBars bars = GridBars::alongRow(frame, row);
+        const double depth = bars.wholeDepth();
+        rows.push_back({std::move(bars), frame.numberPoints() * leastRow + depth});
+    }
+    return rows;
+}
+
+void placeRow(const GridFrame &frame, const GridBars &bars, int row, LaidBlock &block)
+{
+    const QRectF &line = block.rows[std::size_t(row)];
     for (const GridBars::Bar &bar : bars.bars()) {
         const double left = frame.columnLeft(bar.first) + (bar.span->beginsHere ? 1 : 0);
         const double right = frame.columnLeft(bar.last + 1) - (bar.span->endsHere ? 1 : 0);
-        const double bottom = rect.bottom() - bars.depth(bar.lane);
         const double thickness = bars.thickness(bar.lane);
-        block.spans.push_back({bar.span, QRectF(left, bottom - thickness, right - left, thickness), {}});
+        const double top = line.bottom() - bars.depth(bar.lane) - thickness - GridBars::gap;
+        block.spans.push_back({bar.span, QRectF(left, top, right - left, thickness), {}});
     }
-}
-
-void placeRow(const GridFrame &frame, int row, LaidBlock &block)
-{
-    const QRectF &line = block.rows[std::size_t(row)];
-    placeBars(frame, row, block);
     for (int column = 0; column < frame.columnCount(); ++column) {
         LaidCell laid{&frame.block(), &frame.cell(row, column), row, column};
         laid.rect = QRectF(frame.columnLeft(column), line.top(), frame.columnWidth(), line.height());
-        laid.number = laid.rect;
+        laid.number = laid.rect.adjusted(0, 0, 0, -bars.wholeDepth());
         laid.text = laid.rect;
         block.cells.push_back(std::move(laid));
     }
@@ -96,24 +107,31 @@ void placeRow(const GridFrame &frame, int row, LaidBlock &block)
 
 } // namespace
 
-LaidBlock GridBlocks::numbers(const GridFrame &frame)
+LaidBlock GridBlocks::numbers(const GridFrame &frame, NotesPlace place)
 {
     const QRectF body = frame.body();
-    const double least = frame.numberPoints() * leastRow;
-    const double most = std::max(least, frame.columnWidth() * mostRow);
-    QRectF below = body;
-    below.setTop(body.top() + least * frame.rowCount() + notesGap);
-    const Notes needed = bestNotes(frame, below);
-    const double free = body.height() - (needed.laid.empty() ? 0 : needed.height + notesGap);
-    const double height = std::clamp(free / rowsOfMonth, least, most);
+    const std::vector<NumberRow> rows = rowsOf(frame);
     LaidBlock block;
+    block.least = body.top() - frame.rect().top();
+    double least = 0;
+    for (const NumberRow &row : rows)
+        least += row.least;
+    block.least += least;
+    QRectF below = frame.rect();
+    below.setTop(body.top() + least + notesGap);
+    const Notes needed = place == NotesPlace::Below ? bestNotes(frame, below) : Notes{};
+    const double free = body.height() - (needed.laid.empty() ? 0 : needed.height + notesGap);
+    // As if it were six weeks, so that the rows of months beside one another are as high.
+    const double even = std::min(free / rowsOfMonth, frame.columnWidth() * mostRow);
+    double top = body.top();
     for (int row = 0; row < frame.rowCount(); ++row) {
-        block.rows.emplace_back(body.left(), body.top() + row * height, body.width(), height);
-        placeRow(frame, row, block);
+        const double height = std::max(rows[std::size_t(row)].least, even);
+        block.rows.emplace_back(body.left(), top, body.width(), height);
+        placeRow(frame, rows[std::size_t(row)].bars, row, block);
+        top += height;
     }
-    below.setTop(body.top() + height * frame.rowCount() + notesGap);
-    below.setLeft(frame.rect().left());
-    Notes notes = bestNotes(frame, below);
+    below.setTop(std::min(top, body.bottom()) + notesGap);
+    Notes notes = place == NotesPlace::Below ? bestNotes(frame, below) : Notes{};
     const QList<GridLine> &all = frame.block().notes;
     for (qsizetype i = qsizetype(notes.laid.size()); i < all.size(); ++i)
         block.left.push_back({nullptr, all[i]});

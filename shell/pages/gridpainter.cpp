@@ -23,7 +23,7 @@ constexpr double openGap = 1.5; ///< around a tone where there are no lines
 constexpr double footPoints = 7.5;
 constexpr double captionPoints = 9;
 constexpr double captionDrop = 3;
-constexpr double weekPoints = 7;
+constexpr double weekPoints = 8;
 constexpr double cutMark = 14;
 constexpr double spanInset = 4;
 constexpr QColor grey(0x6B, 0x66, 0x5E); ///< of other months' numbers: also dark enough on a tone
@@ -163,9 +163,13 @@ void GridPainter::paintHeads(const GridFrame &frame) const
         fill({heads.left(), heads.bottom() - rule / 2, heads.width(), rule}, GridColors::quiet);
     const QColor color = isBand ? GridColors::onBand : isNumbers ? GridColors::quiet : GridColors::ink;
     const PageType &type = m_types.of(frame.headPoints(), GridTypes::Strong, color);
+    const double width = frame.columnWidth() - 2 * frame.inset();
+    const bool isShort = std::ranges::any_of(frame.block().columns, [&](const GridHead &head) {
+        return !head.note.isEmpty() && type.width(head.text) > width - frame.inset();
+    });
     for (int column = 0; column < frame.columnCount(); ++column) {
-        const double width = frame.columnWidth() - 2 * frame.inset();
-        const QString words = type.elided(frame.block().columns[column].text, width);
+        const GridHead &head = frame.block().columns[column];
+        const QString words = type.elided(isShort ? head.note : head.text, width);
         const QPointF at(frame.columnLeft(column) + frame.inset(), middle(type, heads));
         type.draw(m_painter, at, width, isBand || isNumbers ? Qt::AlignHCenter : Qt::AlignLeft, words);
     }
@@ -274,13 +278,14 @@ void GridPainter::paintCutMarks(const QRectF &body) const
         fill(mark, GridColors::quiet);
 }
 
-void GridPainter::paintFoot() const
+void GridPainter::paintFoot(bool isLast) const
 {
     const QRectF foot(m_grid.foot.topLeft() * pointsPerInch, m_grid.foot.size() * pointsPerInch);
     const PageType &type = m_types.of(footPoints, GridTypes::Normal, GridColors::quiet);
     const QPointF at(foot.left(), middle(type, foot));
-    const double right = type.width(m_grid.footRight);
+    const QString ending = isLast ? m_grid.footRight : QString();
+    const double right = type.width(ending);
     const double room = foot.width() - right - 20;
     type.draw(m_painter, at, type.elided(PageType::onOneLine(m_grid.footLeft), std::max(0.0, room)));
-    type.draw(m_painter, at, foot.width(), Qt::AlignRight, m_grid.footRight);
+    type.draw(m_painter, at, foot.width(), Qt::AlignRight, ending);
 }

@@ -21,7 +21,8 @@ public:
     /// The picture with its caption below `place`, or the caption alone.
     void paintPhoto(const QRectF &place, bool hasPicture) const;
     void paintCutMarks(const QRectF &body) const;
-    void paintFoot() const;
+    /// The one small line below all, on the last sheet with its right part.
+    void paintFoot(bool isLast) const;
 
 private:
     void paintTints(const GridFrame &frame, const LaidBlock &block) const;

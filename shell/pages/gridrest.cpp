@@ -6,10 +6,9 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <utility>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -22,6 +21,9 @@ constexpr double columnGap = 14;
 constexpr double leadGap = 5;
 constexpr double gap = 1;
 constexpr double hanging = 6;
+constexpr double square = 7.5; ///< of a tone, with the gap behind it
+constexpr double pitch = GridTypes::pitch(points);
+constexpr qsizetype mostTogether = 15; ///< lines of an entry
 
 } // namespace
 
@@ -38,19 +40,35 @@ GridRest::GridRest(const GridTypes &types, const QString &title, std::vector<Ent
     const PageType &strong = types.line(points, GridTypes::Strong);
     for (const Entry &entry : m_entries)
         m_lead = std::max(m_lead, strong.width(entry.name) + leadGap);
-    const PageType &type = types.line(points);
-    const double pitch = GridTypes::pitch(points);
-    m_heights.reserve(m_entries.size());
-    for (Entry &entry : m_entries) {
-        entry.words = type.wrapped(entry.text, m_column - m_lead - hanging);
-        m_heights.push_back(double(entry.words.size()) * pitch + gap);
-    }
+    addParts(types.line(points));
     const double all = std::accumulate(m_heights.begin(), m_heights.end(), 0.0);
-    const double room = std::max(pitch, most - above - titleHeight);
+    const double room = most - above - titleHeight;
     double column = std::min(room, std::max(all / m_across, pitch + gap));
     while (!fill(column) && column < room)
         column = std::min(room, column + pitch);
-    m_height = above + titleHeight + column;
+    m_height = m_placed > 0 ? above + titleHeight + column : 0;
+}
+
+/// Wraps the entries. One that is longer than any that is meant for a cell is cut up, to go on in the next
+/// column.
+void GridRest::addParts(const PageType &type)
+{
+    std::vector<Entry> parts;
+    parts.reserve(m_entries.size());
+    for (const Entry &entry : m_entries) {
+        const double lead = entry.tone > 0 ? square : 0;
+        const QStringList words = type.wrapped(entry.text, m_column - m_lead - lead - hanging);
+        for (qsizetype from = 0; from < words.size(); from += mostTogether) {
+            Entry &part = parts.emplace_back(entry);
+            part.words = words.mid(from, mostTogether);
+            if (words.size() > mostTogether)
+                part.text = part.words.join(u' ');
+            if (from > 0)
+                part.name.clear();
+            m_heights.push_back(double(part.words.size()) * pitch + gap);
+        }
+    }
+    m_entries = std::move(parts);
 }
 
 /// Fills the columns, each so high; false where some entry found no room.
@@ -58,27 +76,33 @@ bool GridRest::fill(double columnHeight)
 {
     double y = 0;
     int column = 0;
-    m_leftOut = 0;
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        if (y > 0 && y + m_heights[i] > columnHeight + 0.05) {
+    for (m_placed = 0; m_placed < m_entries.size(); ++m_placed) {
+        const double height = m_heights[m_placed];
+        if (y > 0 && y + height > columnHeight + 0.05) {
             y = 0;
             ++column;
         }
-        const bool hasRoom = column < m_across && y + m_heights[i] <= columnHeight + 0.05;
+        if (column >= m_across || y + height > columnHeight + 0.05)
+            return false;
         const QPointF corner(column * (m_column + columnGap), above + titleHeight + y);
-        m_entries[i].rect = hasRoom ? QRectF(corner, QSizeF(m_column, m_heights[i] - gap)) : QRectF();
-        m_leftOut += hasRoom ? 0 : 1;
-        y += m_heights[i];
+        m_entries[m_placed].rect = QRectF(corner, QSizeF(m_column, height - gap));
+        y += height;
     }
-    return m_leftOut == 0;
+    return true;
+}
+
+std::vector<GridRest::Entry> GridRest::takeLeftOut()
+{
+    std::vector<Entry> left(std::make_move_iterator(m_entries.begin() + std::ptrdiff_t(m_placed)),
+                            std::make_move_iterator(m_entries.end()));
+    m_entries.resize(m_placed);
+    return left;
 }
 
 void GridRest::moveTo(QPointF corner)
 {
-    for (Entry &entry : m_entries) {
-        if (entry.rect.isValid())
-            entry.rect.translate(corner - m_corner);
-    }
+    for (Entry &entry : m_entries)
+        entry.rect.translate(corner - m_corner);
     m_corner = corner;
 }
 
@@ -88,21 +112,23 @@ void GridRest::paint(QPainter &painter, const GridTypes &types) const
         return;
     const QPointF top = m_corner + QPointF(0, above - 2);
     fillSharpLine(painter, {top.x(), top.y(), m_width, 0.5}, GridColors::line);
-    QString title = m_title;
-    if (m_leftOut > 0)
-        title += u", and "_s + QString::number(m_leftOut) + u" more that have no room"_s;
-    types.of(titlePoints, GridTypes::Strong).draw(painter, top + QPointF(0, 2), title);
+    types.of(titlePoints, GridTypes::Strong).draw(painter, top + QPointF(0, 2), m_title);
     const PageType &type = types.line(points);
     const PageType &strong = types.line(points, GridTypes::Strong);
     const double lift = GridTypes::lift(type, points);
     for (const Entry &entry : m_entries) {
-        if (!entry.rect.isValid())
-            continue;
         QPointF at = entry.rect.topLeft() + QPointF(0, lift);
         strong.draw(painter, at, entry.name);
+        at.rx() += m_lead;
+        if (entry.tone > 0) {
+            const double side = square * 0.65;
+            painter.fillRect(QRectF(at.x(), at.y() + type.baseline() - side + 0.3, side, side),
+                             GridColors::toneEdge(entry.tone));
+            at.rx() += square;
+        }
         for (qsizetype i = 0; i < entry.words.size(); ++i) {
-            type.draw(painter, at + QPointF(m_lead + (i > 0 ? hanging : 0), 0), entry.words[i]);
-            at.ry() += GridTypes::pitch(points);
+            type.draw(painter, at + QPointF(i > 0 ? hanging : 0, 0), entry.words[i]);
+            at.ry() += pitch;
         }
     }
 }

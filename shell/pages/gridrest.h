@@ -10,7 +10,8 @@
 
 class QPainter;
 
-/// The list at the foot of a sheet: what found no room in its cell, with its day, in columns.
+/// A list of what found no room in its cell, with its day, in columns: at the foot of the sheet, or on one of
+/// its own.
 class GridRest
 {
 public:
@@ -19,6 +20,7 @@ public:
         QString name{}; ///< of its day: "Sat 14"
         QString text{};
         int index = -1; ///< of its line
+        int tone = 0;   ///< of a square before it; 0: none
         QRectF rect{};
         QStringList words{};
     };
@@ -30,9 +32,10 @@ public:
              double most);
 
     const std::vector<Entry> &entries() const { return m_entries; }
-    int count() const { return int(m_entries.size()); }
-    /// How many of them are not even in the list.
-    int leftOut() const { return m_leftOut; }
+    /// How many of them the list has no room for.
+    int leftOut() const { return int(m_entries.size() - m_placed); }
+    /// Gives those away.
+    std::vector<Entry> takeLeftOut();
     /// Of title and list.
     double height() const { return m_height; }
 
@@ -41,6 +44,7 @@ public:
     void paint(QPainter &painter, const GridTypes &types) const;
 
 private:
+    void addParts(const PageType &type);
     bool fill(double columnHeight);
 
     QString m_title;
@@ -51,6 +55,6 @@ private:
     double m_lead = 0;
     int m_across = 1;
     double m_height = 0;
-    int m_leftOut = 0;
+    std::size_t m_placed = 0;
     QPointF m_corner;
 };

@@ -45,7 +45,7 @@ public:
     double firstPoints(double columnWidth) const;
 
     /// The distance of two lines of a cell.
-    static double pitch(double points) { return points * pitchFactor; }
+    static constexpr double pitch(double points) { return points * 1.22; }
     /// What puts a text that `type` draws into the middle of a line of a cell.
     static double lift(const PageType &type, double points)
     {
@@ -56,7 +56,6 @@ public:
     static constexpr double step = 0.5;
 
 private:
-    static constexpr double pitchFactor = 1.22;
     static constexpr double largestPoints = 24;
 
     QFont m_font;

@@ -11,8 +11,13 @@ namespace {
 constexpr double leastLines = 3;  ///< of a row that gives way to others
 constexpr double narrowest = 4.5; ///< sizes of the letters, for what stands beside a number
 constexpr double besideGap = 4;
-constexpr double footGap = 2;
 constexpr double besideLines = 2; ///< at least, whatever the size of the number
+
+/// Below the lines of a day: where no line separates the weeks, they stand farther apart.
+double footGap(const GridFrame &frame)
+{
+    return frame.style() == GridStyle::Open ? 6 : 2;
+}
 
 /// A day with its text wrapped: some lines beside its number, the others below it.
 struct DayText {
@@ -30,7 +35,7 @@ DayText textOf(const GridFrame &frame, const GridCell &cell)
     double height = 0;
     const qsizetype count = width < narrowest * frame.points() ? 0 : cell.beside;
     for (qsizetype i = 0; i < std::min(count, cell.lines.size()); ++i) {
-        LaidLine line = GridEntries::wrapped(frame, cell.lines[i], width);
+        LaidLine line = GridEntries::wrapped(frame, cell.lines[i], width, GridEntries::Further::Level);
         const double more = GridEntries::heightOf(frame, line);
         if (height + more > most)
             break;
@@ -78,8 +83,9 @@ RowNeed needOf(const GridFrame &frame, const Week &week)
     RowNeed need;
     for (int column = 0; column < frame.columnCount(); ++column) {
         const double top = week.top(column);
-        need.whole = std::max(need.whole, top + week.days[std::size_t(column)].below.height() + footGap);
-        need.least = std::max(need.least, top + leastLines * frame.pitch() + footGap);
+        need.whole =
+            std::max(need.whole, top + week.days[std::size_t(column)].below.height() + footGap(frame));
+        need.least = std::max(need.least, top + leastLines * frame.pitch() + footGap(frame));
     }
     return need;
 }
@@ -110,7 +116,7 @@ void placeDay(const GridFrame &frame, const Week &week, int row, int column, Lai
         beside.rect.translate(laid.rect.left(), corner.y());
         laid.lines.push_back(std::move(beside));
     }
-    laid.text = laid.rect.adjusted(frame.inset(), week.top(column), -frame.inset(), -footGap);
+    laid.text = laid.rect.adjusted(frame.inset(), week.top(column), -frame.inset(), -footGap(frame));
     const QList<GridLine> &lines = laid.cell->lines;
     for (qsizetype i = day.below.place(laid.text, laid.lines); i < lines.size(); ++i)
         block.left.push_back({laid.cell, lines[i]});
@@ -130,6 +136,9 @@ LaidBlock GridBlocks::weeks(const GridFrame &frame)
         needs.push_back(needOf(frame, weeks.back()));
     }
     LaidBlock block;
+    block.least = frame.body().top() - frame.rect().top();
+    for (const RowNeed &need : needs)
+        block.least += need.least;
     double top = frame.body().top();
     for (const double height : sharedOut(needs, frame.body().height()).heights) {
         block.rows.emplace_back(frame.body().left(), top, frame.body().width(), height);
@@ -144,7 +153,7 @@ LaidBlock GridBlocks::weeks(const GridFrame &frame)
     return block;
 }
 
-LaidBlock GridBlocks::laidOut(const GridFrame &frame)
+LaidBlock GridBlocks::laidOut(const GridFrame &frame, NotesPlace notes)
 {
     switch (frame.block().form) {
     case GridForm::Weeks:
@@ -154,5 +163,5 @@ LaidBlock GridBlocks::laidOut(const GridFrame &frame)
     case GridForm::Numbers:
         break;
     }
-    return numbers(frame);
+    return numbers(frame, notes);
 }

@@ -49,4 +49,5 @@ struct LaidBlock {
     std::vector<LaidSpan> spans{};
     std::vector<LaidLine> notes{};
     std::vector<LeftLine> left{};
+    double least = 0; ///< how high the frame is at least, with its heads
 };

@@ -136,6 +136,14 @@ const std::vector<RunLine> &PageLayout::linesOf(std::size_t item, const PageItem
     return found->second;
 }
 
+const GridLayout &PageLayout::gridOf(std::size_t item, const PageItem::Grid &grid) const
+{
+    auto found = m_grids.find(item);
+    if (found == m_grids.end())
+        found = m_grids.emplace(item, GridLayout(grid.grid, m_font)).first;
+    return found->second;
+}
+
 void PageLayout::fillNumbers()
 {
     for (std::size_t i = 0; i < m_page.items().size(); ++i) {

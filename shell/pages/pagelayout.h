@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/core/page.h"
+#include "shell/pages/gridlayout.h"
 #include "shell/pages/pagefont.h"
 #include "shell/pages/pagetype.h"
 #include "shell/pages/runlines.h"
@@ -69,6 +70,9 @@ public:
     /// The lines of the paragraph of runs that is item `item`, cut up once for all.
     const std::vector<RunLine> &linesOf(std::size_t item, const PageItem::Paragraph &paragraph) const;
 
+    /// The sheets of days that are item `item`, laid out once for all.
+    const GridLayout &gridOf(std::size_t item, const PageItem::Grid &grid) const;
+
     /// The row with the numbers of the sheets that it tells.
     PageItem::Row withNumbers(const PageItem::Row &row) const { return m_marks.withNumbers(row, m_starts); }
 
@@ -100,4 +104,5 @@ private:
     mutable std::size_t m_longItem = 0;
     mutable QStringList m_longLines;
     mutable std::map<std::size_t, std::vector<RunLine>> m_runLines; ///< by item
+    mutable std::map<std::size_t, GridLayout> m_grids;              ///< by item
 };

@@ -365,11 +365,15 @@ bool SheetFlow::place(const PageItem::PlacedRule &rule)
 
 bool SheetFlow::place(const PageItem::Grid &grid)
 {
+    if (!m_isFresh)
+        return false;
+    const GridLayout &layout = m_layout.gridOf(m_at.item, grid);
+    if (m_painter)
+        layout.paint(*m_painter, m_at.line);
     m_isFresh = false;
     m_lowestPlaced = std::max(m_lowestPlaced, inPoints(grid.grid->place).bottom());
-    if (m_painter)
-        GridLayout(grid.grid, m_layout.font()).paint(*m_painter);
-    return true;
+    ++m_at.line;
+    return m_at.line >= layout.partCount();
 }
 
 bool SheetFlow::place(const PageItem::BelowPlaced &)
