@@ -26,7 +26,7 @@ struct CalendarHead {
     CalendarLayout layout = CalendarLayout::Month;
     State state = Whole;
 
-    bool has(QDate date) const { return from.isValid() && date >= from && date < from.addMonths(months); }
+    QDate lastDay() const { return from.addMonths(months).addDays(-1); }
     bool operator==(const CalendarHead &) const = default;
 };
 
