@@ -40,7 +40,7 @@ void JournalExchange::addCommands(QMenu *utilities)
     m_desk.commands.writing(m_desk.commands.add(
         utilities, u"mUImport"_s, u"&Import..."_s, [this] { openImport(); }, unless));
     m_desk.commands.writing(m_desk.commands.add(
-        utilities, u"mUTakeBack"_s, u"Take the Import &Back"_s, [this] { takeBack(); },
+        utilities, u"mUTakeBack"_s, u"&Take the Import Back"_s, [this] { takeBack(); },
         [this] { return m_cameIn.empty() ? JournalWindowLines::nothingCameIn() : m_desk.whyNone(); }));
     m_desk.commands.add(
         utilities, u"mUExport"_s, u"&Export..."_s, [this] { openExport(); }, unless);

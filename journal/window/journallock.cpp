@@ -4,6 +4,7 @@
 #include "journal/model/journal.h"
 #include "journal/window/journallockpanel.h"
 #include "journal/window/seallines.h"
+#include "shell/controls/minutesbox.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
@@ -25,7 +26,7 @@ constexpr int usualMinutes = 5;
 int minutesOf(const QSettings &store)
 {
     const int minutes = store.value(minutesKey, usualMinutes).toInt();
-    return minutes > 0 ? std::min(minutes, JournalLockPanel::mostMinutes) : usualMinutes;
+    return minutes > 0 ? std::min(minutes, MinutesBox::mostMinutes) : usualMinutes;
 }
 
 } // namespace

@@ -2,35 +2,27 @@
 #include "journal/window/journallockpanel.h"
 
 #include "journal/window/seallines.h"
+#include "shell/controls/minutesbox.h"
 #include "shell/look/theme.h"
 
 #include <QCheckBox>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-constexpr int numberWidth = 130;
 constexpr int widest = 560;
 } // namespace
 
 JournalLockPanel::JournalLockPanel(QWidget *parent)
     : TaskPanel(u"journalLockPanel"_s, u"When It Locks"_s, parent)
-    , m_minutes(named(new QSpinBox(this), u"lockMinutes"_s))
+    , m_minutes(named(new MinutesBox(this), u"lockMinutes"_s))
     , m_minimised(named(new QCheckBox(u"Lock it when its &window is minimised"_s, this), u"lockMinimised"_s))
 {
     auto *content = new QWidget(this);
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
     rows->setSpacing(12);
-    m_minutes->setRange(1, mostMinutes);
-    const auto count = [this](int minutes) {
-        m_minutes->setSuffix(minutes == 1 ? u" minute"_s : u" minutes"_s);
-    };
-    connect(m_minutes, &QSpinBox::valueChanged, this, count);
-    count(m_minutes->value());
-    m_minutes->setFixedWidth(boxWidth(u"60 minutes"_s, numberWidth));
     rows->addLayout(labelled(u"Lock the journal after so long without key or mouse"_s, m_minutes));
     rows->addWidget(m_minimised);
     auto *hint = makeQuietLabel(SealLines::alsoLocks(), content);

@@ -12,8 +12,6 @@ class JournalLockPanel final : public TaskPanel
 {
     Q_OBJECT
 public:
-    static constexpr int mostMinutes = 60;
-
     explicit JournalLockPanel(QWidget *parent = nullptr);
 
     void start(int minutes, bool isWhenMinimised);

@@ -4,6 +4,7 @@
 #include "keeper/model/keeper.h"
 #include "keeper/window/clipboardguard.h"
 #include "keeper/window/windowlines.h"
+#include "shell/controls/minutesbox.h"
 
 #include <QCheckBox>
 #include <QSpinBox>
@@ -13,14 +14,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int numberWidth = 130;
-constexpr int mostMinutes = 60;
 constexpr int secondsStep = 10;
 } // namespace
 
 KeeperSettingsPanel::KeeperSettingsPanel(Keeper &keeper, QWidget *parent)
     : TaskPanel(u"keeperSettingsPanel"_s, u"Keeper Settings"_s, parent)
     , m_keeper(keeper)
-    , m_minutes(named(new QSpinBox(this), u"lockMinutes"_s))
+    , m_minutes(named(new MinutesBox(this), u"lockMinutes"_s))
     , m_locksMinimised(
           named(new QCheckBox(u"Lock it when its &window is minimised"_s, this), u"lockMinimised"_s))
     , m_seconds(named(new QSpinBox(this), u"clipboardSeconds"_s))
@@ -28,10 +28,8 @@ KeeperSettingsPanel::KeeperSettingsPanel(Keeper &keeper, QWidget *parent)
           named(new QCheckBox(u"The card on the main menu may tell when something ex&pires"_s, this),
                 u"tellsExpiry"_s))
 {
-    m_minutes->setRange(1, mostMinutes);
     m_seconds->setRange(ClipboardGuard::leastSeconds, ClipboardGuard::mostSeconds);
     m_seconds->setSingleStep(secondsStep);
-    m_minutes->setSuffix(u" minutes"_s);
     m_seconds->setSuffix(u" seconds"_s);
     setContent(makeChoices());
     setFocusProxy(m_minutes);

@@ -43,18 +43,22 @@ double SheetHead::placeTitle(QPainter *painter) const
     const PageType &title = m_layout.types().title;
     const PageType &right = m_layout.types().headRight;
     const QString head = right.elided(page.headRight(), m_body.width() / 2);
-    const double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + headGap);
     const QString words = m_layout.headOf(m_number);
+    double titleWidth = m_body.width() - (head.isEmpty() ? 0 : right.width(head) + headGap);
+    // A title that breaks for what stands beside it, on a small sheet say, has its line for itself.
+    const bool isHeadBelow = title.width(words) > titleWidth && title.width(words) <= m_body.width();
+    if (isHeadBelow)
+        titleWidth = m_body.width();
     for (const QString &line : title.shortened(title.wrapped(words, titleWidth), titleLines, titleWidth)) {
         if (painter)
             title.draw(*painter, {m_body.left(), y}, line);
         y += title.lineHeight();
     }
-    y += 3;
+    // On the title's last line, both on one baseline.
+    const double headTop = isHeadBelow ? y : y - title.lineHeight() + title.baseline() - right.baseline();
+    y += isHeadBelow ? right.lineHeight() + 3 : 3;
     if (painter) {
-        // On the title's last line, both on one baseline.
-        const QPointF place(m_body.left(), y - 3 - title.lineHeight() + title.baseline() - right.baseline());
-        right.draw(*painter, place, m_body.width(), Qt::AlignRight, head);
+        right.draw(*painter, {m_body.left(), headTop}, m_body.width(), Qt::AlignRight, head);
         fillSharpLine(*painter, {m_body.left(), y, m_body.width(), rule}, Qt::black);
     }
     return y + rule + titleGap;
