@@ -183,7 +183,8 @@ GridBlock CalendarGrids::days(const WallCalendar &calendar, QDate first, bool ha
     return block;
 }
 
-GridBlock CalendarGrids::numbers(const WallCalendar &calendar, QDate first, bool hasYear, Notes notes)
+GridBlock CalendarGrids::numbers(const WallCalendar &calendar, QDate first, bool hasYear, Notes notes,
+                                 DateStyle style)
 {
     const Weeks weeks = Dates::weeksOfMonth(first, calendar.look.firstDay);
     const MonthSpans spans(calendar, first, first.addMonths(1).addDays(-1));
@@ -198,12 +199,13 @@ GridBlock CalendarGrids::numbers(const WallCalendar &calendar, QDate first, bool
         }
         GridCell cell = cellOf(calendar, date);
         if (notes != Notes::None)
-            block.notes += spans.notesFrom(date);
+            block.notes += spans.notesFrom(date, style);
         for (GridLine line : linesOf(calendar, date)) {
             if (notes == Notes::None || (notes == Notes::Holidays && !line.isStrong))
                 continue;
             cell.hasDot = cell.hasDot || !line.isStrong;
             line.lead = cell.number;
+            line.name = Dates::shortText(date, style);
             line.isStrong = false;
             block.notes.append(line);
         }

@@ -23,6 +23,6 @@ enum class Notes {
     Holidays, ///< and spans
     All
 };
-GridBlock numbers(const WallCalendar &calendar, QDate first, bool hasYear, Notes notes);
+GridBlock numbers(const WallCalendar &calendar, QDate first, bool hasYear, Notes notes, DateStyle style);
 
 } // namespace CalendarGrids

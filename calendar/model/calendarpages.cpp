@@ -17,8 +17,9 @@ namespace {
 constexpr double margin = 0.5;
 constexpr double footTop = 0.46; ///< above the lower edge, in the margin
 constexpr double footHeight = 0.18;
-constexpr double cardPadding = 0.42;
-constexpr double gridPadding = 0.08;
+constexpr QSizeF cardPadding{0.42, 0.42};
+constexpr QSizeF quarterPadding{0.08, 0};
+constexpr QSizeF yearPadding{0.1, 0.04};
 
 constexpr double photoAbove = 0.47;
 constexpr double photoLeft = 0.41;
@@ -79,13 +80,20 @@ void setTitle(PageGrid &grid, QDate first, QDate last)
 }
 
 /// Blocks of the same size in rows.
-void spread(QList<GridBlock> &blocks, int across, int down, double padding)
+void spread(QList<GridBlock> &blocks, int across, int down, QSizeF padding)
 {
     for (int i = 0; i < int(blocks.size()); ++i) {
         blocks[i].share =
             QRectF(double(i % across) / across, double(i / across) / down, 1.0 / across, 1.0 / down);
         blocks[i].padding = padding;
     }
+}
+
+/// What goes on from a sheet before is told on this one again.
+void beginNotes(GridBlock &block)
+{
+    for (GridLine &note : block.notes)
+        note.isContinued = false;
 }
 
 /// The sheets of one calendar.
@@ -159,8 +167,8 @@ void Sheets::addMonth(PageGrid &grid, QDate first) const
     if (!m_calendar.look.hasSmallMonths)
         return;
     for (const int step : {-1, 1})
-        grid.smallGrids.append(
-            CalendarGrids::numbers(m_calendar, first.addMonths(step), true, CalendarGrids::Notes::None));
+        grid.smallGrids.append(CalendarGrids::numbers(m_calendar, first.addMonths(step), true,
+                                                      CalendarGrids::Notes::None, m_source.context.style));
 }
 
 void Sheets::addPhoto(PageGrid &grid, QDate first) const
@@ -180,7 +188,7 @@ void Sheets::addQuarter(PageGrid &grid, const QList<QDate> &months) const
     const bool hasYears = grid.titleLight.isEmpty();
     for (const QDate month : months)
         grid.blocks.append(CalendarGrids::days(m_calendar, month, hasYears, m_source.context.style));
-    spread(grid.blocks, 3, 1, gridPadding);
+    spread(grid.blocks, 3, 1, quarterPadding);
 }
 
 void Sheets::addYear(PageGrid &grid, const QList<QDate> &months) const
@@ -188,9 +196,10 @@ void Sheets::addYear(PageGrid &grid, const QList<QDate> &months) const
     grid.restTitle = u"Also this year"_s;
     const bool hasYears = months.constFirst().year() != months.constLast().year();
     for (const QDate month : months)
-        grid.blocks.append(
-            CalendarGrids::numbers(m_calendar, month, hasYears, CalendarGrids::Notes::Holidays));
-    spread(grid.blocks, m_isLandscape ? 4 : 3, m_isLandscape ? 3 : 4, gridPadding);
+        grid.blocks.append(CalendarGrids::numbers(m_calendar, month, hasYears, CalendarGrids::Notes::Holidays,
+                                                  m_source.context.style));
+    beginNotes(grid.blocks.first());
+    spread(grid.blocks, m_isLandscape ? 4 : 3, m_isLandscape ? 3 : 4, yearPadding);
 }
 
 void Sheets::addCards(PageGrid &grid, const QList<QDate> &months) const
@@ -198,7 +207,9 @@ void Sheets::addCards(PageGrid &grid, const QList<QDate> &months) const
     grid.place = QRectF({}, m_sheet);
     grid.restTitle = u"Also in these months"_s;
     for (const QDate month : months)
-        grid.blocks.append(CalendarGrids::numbers(m_calendar, month, true, CalendarGrids::Notes::All));
+        grid.blocks.append(CalendarGrids::numbers(m_calendar, month, true, CalendarGrids::Notes::All,
+                                                  m_source.context.style));
+    beginNotes(grid.blocks.first());
     spread(grid.blocks, 2, 2, cardPadding);
     grid.hasCutMarks = true;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/model/monthspans.h"
 
+#include "shell/core/dates.h"
+
 #include <algorithm>
 
 namespace {
@@ -17,8 +19,8 @@ MonthSpans::MonthSpans(const WallCalendar &calendar, QDate from, QDate to)
         const CalendarSpan &span = calendar.spans[i];
         if (!span.from.isValid() || span.from > to || span.lastDay() < from)
             continue;
-        m_parts.append({i, std::max(span.from, from), std::min(span.lastDay(), to), span.from >= from,
-                        span.lastDay() <= to, span.tone, span.text});
+        m_parts.append({i, std::max(span.from, from), std::min(span.lastDay(), to), span.from, span.lastDay(),
+                        span.from >= from, span.lastDay() <= to, span.tone, span.text});
     }
     std::ranges::stable_sort(m_parts, [](const Part &one, const Part &other) {
         return one.from != other.from ? one.from < other.from : one.to > other.to;
@@ -65,7 +67,7 @@ QList<GridSpan> MonthSpans::downDays(const std::function<int(const QString &)> &
     return spans;
 }
 
-QList<GridLine> MonthSpans::notesFrom(QDate date) const
+QList<GridLine> MonthSpans::notesFrom(QDate date, DateStyle style) const
 {
     QList<GridLine> notes;
     for (const Part &part : m_parts) {
@@ -74,7 +76,14 @@ QList<GridLine> MonthSpans::notesFrom(QDate date) const
         QString days = QString::number(part.from.day());
         if (part.to != part.from)
             days += upTo + QString::number(part.to.day());
-        notes.append({.text = part.text, .lead = days, .tone = part.tone});
+        QString name = Dates::shortText(part.begin, style);
+        if (part.begin != part.end)
+            name += upTo + Dates::shortText(part.end, style);
+        notes.append({.text = part.text,
+                      .lead = days,
+                      .tone = part.tone,
+                      .name = name,
+                      .isContinued = !part.beginsHere});
     }
     return notes;
 }

@@ -3,6 +3,7 @@
 
 #include "calendar/model/wallcalendar.h"
 #include "shell/core/pagegrid.h"
+#include "shell/core/programstate.h"
 
 #include <functional>
 
@@ -16,14 +17,16 @@ public:
     QList<GridSpan> alongWeeks(QDate start) const;
     /// A bar down the rows of the days, in the column that `columnOf` gives for its text.
     QList<GridSpan> downDays(const std::function<int(const QString &)> &columnOf) const;
-    /// Those that begin with `date`, as far as they are told in a list: "6\u201310  Half-term".
-    QList<GridLine> notesFrom(QDate date) const;
+    /// Those that begin with `date` here, as notes.
+    QList<GridLine> notesFrom(QDate date, DateStyle style) const;
 
 private:
     struct Part {
         int index;
         QDate from;
         QDate to;
+        QDate begin; ///< of all of it
+        QDate end;
         bool beginsHere;
         bool endsHere;
         int tone;

@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QList>
 #include <QRectF>
+#include <QSizeF>
 #include <QString>
 
 /// One entry of a cell, wrapped to it with a hanging indent.
@@ -13,6 +14,8 @@ struct GridLine {
     int index = -1; ///< which one it is to whoever made the grid; -1: none
     int tone = 0;   ///< of a square before it; 0: none
     bool isStrong = false;
+    QString name{};           ///< of a note in the list of what found no room: "25 Jul to 5 Sep"
+    bool isContinued = false; ///< a note that has been told in an earlier grid: the list leaves it out
 
     bool operator==(const GridLine &) const = default;
 };
@@ -70,7 +73,7 @@ enum class GridForm {
 struct GridBlock {
     GridForm form = GridForm::Weeks;
     QRectF share{0, 0, 1, 1}; ///< of the room for grids
-    double padding = 0;       ///< inches
+    QSizeF padding{0, 0};     ///< at its sides, above and below, in inches
     QString title{};
     QList<GridHead> columns{};
     QList<GridHead> rows{};  ///< none: there are no heads before the rows

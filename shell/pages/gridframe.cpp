@@ -26,8 +26,8 @@ GridFrame::GridFrame(const GridBlock &block, const QRectF &rect, GridStyle style
     , m_types(&types)
     , m_points(points)
 {
-    const double padding = block.padding * pointsPerInch;
-    m_rect = rect.adjusted(padding, padding, -padding, -padding);
+    const QSizeF padding = block.padding * pointsPerInch;
+    m_rect = rect.adjusted(padding.width(), padding.height(), -padding.width(), -padding.height());
     setSizes();
     placeTitle();
     placeHeads();
@@ -50,7 +50,7 @@ double GridFrame::numberWidth() const
 
 double GridFrame::columnWidth(const GridBlock &block, double width)
 {
-    const double whole = width * block.share.width() - 2 * block.padding * pointsPerInch;
+    const double whole = width * block.share.width() - 2 * block.padding.width() * pointsPerInch;
     const auto count = double(std::max<qsizetype>(1, block.columns.size()));
     switch (block.form) {
     case GridForm::Weeks:
@@ -70,6 +70,7 @@ void GridFrame::setSizes()
     switch (m_block->form) {
     case GridForm::Weeks:
         m_numberPoints = std::clamp(column * 0.28, 11.0, isOpen ? 24.0 : 15.0);
+        m_numberPoints = std::min(m_numberPoints, m_points * (isOpen ? 2.2 : 1.6));
         m_headPoints = std::clamp(column * 0.13, 8.0, 11.0);
         m_titlePoints = 14;
         break;
@@ -79,7 +80,7 @@ void GridFrame::setSizes()
         m_titlePoints = 14;
         break;
     case GridForm::Numbers:
-        m_numberPoints = std::clamp(column * 0.38, 6.5, isOpen ? 15.0 : 13.0);
+        m_numberPoints = std::clamp(column * 0.38, 6.5, m_points * (isOpen ? 1.35 : 1.15));
         m_headPoints = std::clamp(m_numberPoints * 0.75, smallestHead, 10.0);
         m_titlePoints = std::clamp(m_numberPoints * 1.3, 8.0, 18.0);
         break;

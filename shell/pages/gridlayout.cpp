@@ -115,9 +115,9 @@ std::vector<GridRest::Entry> GridLayout::leftLines() const
     std::vector<GridRest::Entry> entries;
     for (const Block &block : m_blocks) {
         for (const LeftLine &left : block.laid.left) {
-            const QString month = block.frame.block().title.section(u' ', 0, 0);
-            const QString name =
-                left.cell ? left.cell->name : QString(left.line.lead + u' ' + month).trimmed();
+            if (left.line.isContinued)
+                continue;
+            const QString &name = left.cell ? left.cell->name : left.line.name;
             entries.push_back({.date = left.cell ? left.cell->date : QDate(),
                                .name = name,
                                .text = left.line.text,

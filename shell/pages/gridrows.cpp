@@ -42,17 +42,22 @@ RowHeights sharedOut(const std::vector<RowNeed> &needs, double height)
 {
     double whole = 0;
     double least = 0;
+    double scant = 0;
     for (const RowNeed &need : needs) {
         whole += std::max(need.whole, need.least);
         least += need.least;
+        scant += need.scant();
     }
     const bool isEnough = whole <= height + 0.01;
-    const double given = least > height ? height / least : 1; // of the least
+    const double given = scant > height ? height / scant : 1; // a sheet too small for even that
     std::vector<Bounds> bounds;
     bounds.reserve(needs.size());
     for (const RowNeed &need : needs) {
         const double most = std::max(need.whole, need.least);
-        bounds.push_back(isEnough ? Bounds{most, std::max(most, height)} : Bounds{need.least * given, most});
+        if (isEnough)
+            bounds.push_back({most, std::max(most, height)});
+        else
+            bounds.push_back({least <= height ? need.least : need.scant() * given, most});
     }
     return {levelled(bounds, height), isEnough};
 }

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 /// What a row of a grid needs to show all of its lines, and the least that it is given.
 struct RowNeed {
     double whole = 0;
     double least = 0;
+
+    /// What a row that needs little can be given when there is less than the least for all.
+    double scant() const { return std::min(whole, least); }
 };
 
 /// Heights that fill a grid.

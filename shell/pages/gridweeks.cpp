@@ -138,7 +138,7 @@ LaidBlock GridBlocks::weeks(const GridFrame &frame)
     LaidBlock block;
     block.least = frame.body().top() - frame.rect().top();
     for (const RowNeed &need : needs)
-        block.least += need.least;
+        block.least += need.scant();
     double top = frame.body().top();
     for (const double height : sharedOut(needs, frame.body().height()).heights) {
         block.rows.emplace_back(frame.body().left(), top, frame.body().width(), height);
