@@ -9,6 +9,14 @@ constexpr double gap = 1;       ///< between two entries
 constexpr double hanging = 0.6; ///< sizes of the letters
 constexpr double square = 0.95; ///< with the gap behind it
 constexpr double tolerance = 0.05;
+constexpr double narrowLetter = 0.2; ///< sizes of the letters
+
+/// Whether a text is surely too long, told without wrapping it.
+bool isTallerThan(double height, const GridFrame &frame, const GridLine &line, double width)
+{
+    const double leastLines = double(line.text.size()) * narrowLetter * frame.points() / std::max(1.0, width);
+    return leastLines * frame.pitch() > height + frame.pitch();
+}
 
 } // namespace
 
@@ -16,8 +24,12 @@ GridEntries::GridEntries(const GridFrame &frame, const QList<GridLine> &lines, q
     : m_frame(frame)
     , m_first(first)
 {
-    m_lines.reserve(std::size_t(std::max<qsizetype>(0, lines.size() - first)));
+    const double most = frame.body().height();
     for (qsizetype i = first; i < lines.size(); ++i) {
+        if (m_height > most || isTallerThan(most, frame, lines[i], width)) {
+            m_height = most * 2; // what follows has no room however the rows are shared out
+            break;
+        }
         m_lines.push_back(wrapped(frame, lines[i], width));
         m_height += heightOf(frame, m_lines.back()) + (i > first ? gap : 0);
     }

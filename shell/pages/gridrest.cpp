@@ -37,25 +37,41 @@ GridRest::GridRest(const GridTypes &types, const QString &title, std::vector<Ent
         return;
     m_across = std::max(1, int((width + columnGap) / (narrowest + columnGap)));
     m_column = (width - (m_across - 1) * columnGap) / m_across;
-    const PageType &strong = types.line(points, GridTypes::Strong);
-    for (const Entry &entry : m_entries)
-        m_lead = std::max(m_lead, strong.width(entry.name) + leadGap);
-    addParts(types.line(points));
+    m_lead = leadOf(types);
+    const double room = std::max(0.0, most - above - titleHeight);
+    wrapEntries(types.line(points), room * m_across);
     const double all = std::accumulate(m_heights.begin(), m_heights.end(), 0.0);
-    const double room = most - above - titleHeight;
     double column = std::min(room, std::max(all / m_across, pitch + gap));
     while (!fill(column) && column < room)
         column = std::min(room, column + pitch);
     m_height = m_placed > 0 ? above + titleHeight + column : 0;
 }
 
-/// Wraps the entries. One that is longer than any that is meant for a cell is cut up, to go on in the next
-/// column.
-void GridRest::addParts(const PageType &type)
+double GridRest::leadOf(const GridTypes &types) const
+{
+    const PageType &strong = types.line(points, GridTypes::Strong);
+    double lead = 0;
+    const QString *last = nullptr;
+    for (const Entry &entry : m_entries) {
+        if (!last || *last != entry.name)
+            lead = std::max(lead, strong.width(entry.name) + leadGap);
+        last = &entry.name;
+    }
+    return lead;
+}
+
+/// Wraps as many of the entries as may find room. One that is longer than any that is meant for a cell is cut
+/// up, to go on in the next column.
+void GridRest::wrapEntries(const PageType &type, double room)
 {
     std::vector<Entry> parts;
     parts.reserve(m_entries.size());
-    for (const Entry &entry : m_entries) {
+    double height = 0;
+    for (Entry &entry : m_entries) {
+        if (height > room) {
+            parts.push_back(std::move(entry));
+            continue;
+        }
         const double lead = entry.tone > 0 ? square : 0;
         const QStringList words = type.wrapped(entry.text, m_column - m_lead - lead - hanging);
         for (qsizetype from = 0; from < words.size(); from += mostTogether) {
@@ -66,6 +82,7 @@ void GridRest::addParts(const PageType &type)
             if (from > 0)
                 part.name.clear();
             m_heights.push_back(double(part.words.size()) * pitch + gap);
+            height += m_heights.back();
         }
     }
     m_entries = std::move(parts);
@@ -76,7 +93,7 @@ bool GridRest::fill(double columnHeight)
 {
     double y = 0;
     int column = 0;
-    for (m_placed = 0; m_placed < m_entries.size(); ++m_placed) {
+    for (m_placed = 0; m_placed < m_heights.size(); ++m_placed) {
         const double height = m_heights[m_placed];
         if (y > 0 && y + height > columnHeight + 0.05) {
             y = 0;
@@ -88,7 +105,7 @@ bool GridRest::fill(double columnHeight)
         m_entries[m_placed].rect = QRectF(corner, QSizeF(m_column, height - gap));
         y += height;
     }
-    return true;
+    return m_placed == m_entries.size();
 }
 
 std::vector<GridRest::Entry> GridRest::takeLeftOut()

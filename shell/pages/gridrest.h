@@ -44,7 +44,8 @@ public:
     void paint(QPainter &painter, const GridTypes &types) const;
 
 private:
-    void addParts(const PageType &type);
+    double leadOf(const GridTypes &types) const;
+    void wrapEntries(const PageType &type, double room);
     bool fill(double columnHeight);
 
     QString m_title;
