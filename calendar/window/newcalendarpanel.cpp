@@ -123,7 +123,7 @@ void NewCalendarPanel::refresh()
          m_program.state.familyName.text()},
         [this](const QString &path) { return KeptPictures::locate(m_program.folder, path); }};
     m_pane->setSheets(CalendarPages::sheetCount(calendar), [calendar, source](int sheet) {
-        return PagePainter(CalendarPages::page(calendar, sheet, source), source.context.setup,
+        return PagePainter(CalendarPages::page(calendar, source, {sheet}), source.context.setup,
                            PreviewPane::usualFont());
     });
     setWords({});
