@@ -123,7 +123,10 @@ void JournalHtml::addPicture(const JournalPicture &picture, QDate date)
     const QString caption = escaped(picture.caption);
     m_body += u"<figure>"_s;
     if (source.isEmpty()) {
-        m_body += u"<div class=\"missing\">"_s + escaped(QFileInfo(picture.path).fileName()) + u"</div>"_s;
+        const QString name = QFileInfo(picture.path).fileName();
+        if (!m_missing.contains(name))
+            m_missing.append(name);
+        m_body += u"<div class=\"missing\">"_s + escaped(name) + u"</div>"_s;
     } else {
         const QString name = QString::fromLatin1(QUrl::toPercentEncoding(nameFor(source, date)));
         m_body += u"<img src=\""_s + folderMark + u'/' + name + u"\" alt=\""_s + caption + u"\">"_s;
@@ -170,7 +173,7 @@ QByteArray JournalHtml::file(const QString &path) const
 QStringList JournalHtml::copyPictures(const QString &path) const
 {
     const QString folder = QFileInfo(path).absolutePath() + u'/' + folderOf(path);
-    QStringList failed;
+    QStringList failed = m_missing;
     const bool hasFolder = m_pictures.empty() || QDir().mkpath(folder);
     for (const Picture &picture : m_pictures) {
         QFile source(picture.source);

@@ -43,4 +43,5 @@ private:
     QString m_title;
     QString m_body; ///< a control character stands for the folder of the pictures
     std::vector<Picture> m_pictures;
+    QStringList m_missing; ///< names of those that are not there
 };

@@ -30,6 +30,11 @@ QString JournalImportPanel::hint() const
     return JournalWindowLines::whatIsTaken();
 }
 
+QString JournalImportPanel::whatBecomes() const
+{
+    return JournalWindowLines::toBeTaken(m_import->chosenCount(), int(m_import->lineCount()));
+}
+
 void JournalImportPanel::take()
 {
     emit taking();

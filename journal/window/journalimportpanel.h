@@ -27,6 +27,7 @@ signals:
 
 protected:
     QString hint() const override;
+    QString whatBecomes() const override;
     void take() override;
 
 private:

@@ -61,7 +61,7 @@ void JournalLock::addCommands(QMenu *options)
 {
     const auto unless = [this] { return whyNotSealed(); };
     m_desk.commands.add(
-        options, u"mOLock"_s, u"&Lock the Journal"_s, [this] { emit due(); }, unless);
+        options, u"mOLock"_s, u"&Lock the Journal\tCtrl+L"_s, [this] { emit due(); }, unless);
     m_desk.commands.add(
         options, u"mOLockWhen"_s, u"When It Loc&ks..."_s, [this] { openPanel(); }, unless);
 }

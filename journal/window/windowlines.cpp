@@ -241,6 +241,12 @@ QString JournalWindowLines::noDate()
     return u"That is no date between the years 1000 and 9999"_s;
 }
 
+QString JournalWindowLines::toBeTaken(int chosen, int all)
+{
+    return all == 1 ? u"%1 of 1 entry comes in"_s.arg(chosen)
+                    : u"%1 of %2 entries come in"_s.arg(chosen).arg(all);
+}
+
 QString JournalWindowLines::whatIsTaken()
 {
     return u"Entries in the journal's own form, or lines like [2026-03-14 08:12] with what was written. A day that has an entry gets the text under it; nothing is replaced."_s;

@@ -76,6 +76,7 @@ QString noDate();
 
 // What comes in and goes out
 
+QString toBeTaken(int chosen, int all);
 QString whatIsTaken();
 QString broughtIn(int days);
 /// Of the days that came in; `changed` of them were changed since and stay.

@@ -173,7 +173,7 @@ void Form4::makeOptions(QMenu *options)
     options->addSeparator();
     m_tools->addSettings(options);
     QAction *lock = commands().add(
-        options, u"mOLock"_s, u"&Lock the Keeper"_s, [this] { this->lock(); }, unless);
+        options, u"mOLock"_s, u"&Lock the Keeper\tCtrl+L"_s, [this] { this->lock(); }, unless);
     commands().tool(lock, "lock"_L1, u"Lock"_s);
     options->addSeparator();
     commands().add(

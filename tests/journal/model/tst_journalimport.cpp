@@ -171,7 +171,7 @@ private slots:
                        "<p>[picture 7]</p>\n"
                        "<figure><div class=\"missing\">gone.png</div></figure>\n"
                        "<p class=\"tags\">a&lt;b</p>\n"));
-        QCOMPARE(html.copyPictures(path), QStringList{});
+        QCOMPARE(html.copyPictures(path), QStringList{u"gone.png"_s});
         QCOMPARE(folder.bytes(u"out/My journal pictures/2026-03-14 the ferry.jpg"_s), QByteArray("ferry"));
     }
 
