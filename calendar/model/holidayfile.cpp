@@ -26,10 +26,10 @@ void takeLine(HolidayFile &file, qsizetype &set, QByteArrayView line, int number
         return;
     }
     const bool isHoliday = kind == "holiday" && set >= 0;
-    Holiday holiday{{}, {}, line.toByteArray(), true};
+    Holiday holiday{{}, {}, line.toByteArray(), true, number};
     if (isHoliday) {
         const QString rule = TabLine::text(columns.take()), text = TabLine::text(columns.take());
-        holiday = {rule, text, restOf(line, columns)};
+        holiday = {rule, text, restOf(line, columns), false, number};
     }
     if (isHoliday ? !holiday.isReadable() : kind == "holiday")
         file.faults.append({number, TabLine::text(line).replace(u'\t', u' ')});

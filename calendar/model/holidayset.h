@@ -20,9 +20,13 @@ struct Holiday {
     QString text;
     QByteArray more{};   ///< further columns, as the file has them
     bool isKept = false; ///< a line of another kind, which `more` has whole
+    int line = 0;        ///< where the file has it, from 1; 0: in none. No part of what it is
 
     bool isReadable() const;
-    bool operator==(const Holiday &) const = default;
+    bool operator==(const Holiday &other) const
+    {
+        return rule == other.rule && text == other.text && more == other.more && isKept == other.isKept;
+    }
 };
 
 /// The holidays of a country, a church or a household: "Germany".

@@ -151,7 +151,7 @@ void CalendarForm::addHolidays(QVBoxLayout &column)
     new PasteFilter(m_persons, Characters::All);
     m_persons->setMaxLength(longestPersons);
     column.addLayout(labelled(u"Holidays"_s, m_holidays));
-    column.addLayout(labelled(u"Persons"_s, m_persons, u"six at most, separated by commas"_s));
+    column.addLayout(labelled(u"Persons"_s, m_persons, u"Anne, Tom: six at most"_s));
 }
 
 QWidget *CalendarForm::lastInTab() const
