@@ -5,7 +5,7 @@
 
 #include <QHash>
 
-#include <utility>
+#include <algorithm>
 
 namespace {
 
@@ -21,17 +21,14 @@ void forEachLine(QByteArrayView bytes, Take take)
     }
 }
 
-/// Which of several lines with the same bytes.
-using Which = std::pair<QByteArray, int>;
-
 /// What a file has beside the lines of a calendar.
 class Kept
 {
 public:
     explicit Kept(const QList<QByteArray> &written)
     {
-        for (const QByteArray &line : written)
-            ++m_written[line];
+        for (int place = int(written.size()) - 1; place >= 0; --place)
+            m_left[written.at(place)].append(place);
     }
 
     /// Goes on with a line of the former file.
@@ -42,40 +39,44 @@ public:
             return;
         }
         // One that is written differently now keeps its bytes.
-        const QByteArray same = isLeft(line) ? line : CalendarLine::rewritten(line);
-        if (!isLeft(same))
-            return;
-        m_last = {same, ++m_passed[same]};
-        if (same != line)
-            m_spelled.insert(m_last, line);
+        const int place = taken(line);
+        const int other = place < 0 ? taken(CalendarLine::rewritten(line)) : place;
+        if (other != place)
+            m_spelled.insert(other, line);
+        // What stands behind several lines stays behind all of them, whatever order they had.
+        m_last = std::max(m_last, other);
     }
 
-    void appendFirst(QByteArray &file) const { appendBehind(file, {}); }
+    void appendFirst(QByteArray &file) const { appendBehind(file, none); }
 
-    /// Appends a line of the calendar and what stands behind it.
-    void append(QByteArray &file, const QByteArray &line)
+    /// Appends the calendar's line of that place, and what stands behind it.
+    void append(QByteArray &file, const QByteArray &line, int place) const
     {
-        const Which which{line, ++m_appended[line]};
-        file.append(m_spelled.value(which, line)).append(TabLine::lineEnd);
-        appendBehind(file, which);
+        file.append(m_spelled.value(place, line)).append(TabLine::lineEnd);
+        appendBehind(file, place);
     }
 
 private:
-    bool isLeft(const QByteArray &line) const { return m_passed.value(line) < m_written.value(line); }
+    static constexpr int none = -1;
 
-    void appendBehind(QByteArray &file, const Which &which) const
+    int taken(const QByteArray &line)
     {
-        for (const QByteArray &line : m_behind.value(which))
+        const auto places = m_left.find(line);
+        return places == m_left.end() || places->isEmpty() ? none : places->takeLast();
+    }
+
+    void appendBehind(QByteArray &file, int place) const
+    {
+        for (const QByteArray &line : m_behind.value(place))
             file.append(line).append(TabLine::lineEnd);
     }
 
     CalendarLine::Taker m_taker;
-    QHash<QByteArray, int> m_written;
-    QHash<QByteArray, int> m_passed;
-    QHash<QByteArray, int> m_appended;
-    QHash<Which, QByteArray> m_spelled;
-    QHash<Which, QList<QByteArray>> m_behind;
-    Which m_last;
+    QHash<QByteArray, QList<int>>
+        m_left; ///< places of the calendar's lines that are not found yet, the first last
+    QHash<int, QByteArray> m_spelled;
+    QHash<int, QList<QByteArray>> m_behind;
+    int m_last = none;
 };
 
 } // namespace
@@ -102,7 +103,7 @@ QByteArray CalendarFile::write(const WallCalendar &calendar, const QByteArray &f
     QByteArray file = firstLine.toByteArray();
     file.append(TabLine::lineEnd);
     kept.appendFirst(file);
-    for (const QByteArray &line : lines)
-        kept.append(file, line);
+    for (int place = 0; place < lines.size(); ++place)
+        kept.append(file, lines.at(place), place);
     return file;
 }

@@ -3,6 +3,8 @@
 
 #include "storage/tabline.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -137,8 +139,8 @@ void appendLook(QList<QByteArray> &lines, const CalendarLook &look)
     else if (look.hasNeighbourLines)
         lines.append(lineOfWords("shows", neighbours));
     if (!look.fontFamily.isEmpty() || look.fontPoints > 0)
-        lines.append(
-            lineOfWords("font", TabLine::column(look.fontFamily), QByteArray::number(look.fontPoints)));
+        lines.append(lineOfWords("font", TabLine::column(look.fontFamily),
+                                 QByteArray::number(look.fontPoints, 'g', QLocale::FloatingPointShortest)));
 }
 
 void appendDays(QList<QByteArray> &lines, const QMap<QDate, QList<DayLine>> &days)

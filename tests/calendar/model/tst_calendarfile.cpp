@@ -137,6 +137,18 @@ private slots:
         QCOMPARE(CalendarFile::write(calendar, former), smallLines);
     }
 
+    void takesTheFirstOfTwoLinesInAnyOrder()
+    {
+        // The font comes first, and what stood behind it comes along; the second persons stay the second.
+        const QByteArray former =
+            smallLines + "persons\tAnne\r\nrule\t12-25\t\tFeast\r\nfont\tArial\t9\r\npersons\tBen\r\n";
+        const WallCalendar calendar = CalendarFile::read(former);
+        const QByteArray file =
+            smallLines + "font\tArial\t9\r\npersons\tAnne\r\nrule\t12-25\t\tFeast\r\npersons\tBen\r\n";
+        QCOMPARE(CalendarFile::write(calendar, former), file);
+        QCOMPARE(CalendarFile::read(file), calendar);
+    }
+
     void readsWhatThereIsOfACutFile()
     {
         for (qsizetype length = 0; length < familyLines.size(); ++length) {
