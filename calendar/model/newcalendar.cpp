@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/model/newcalendar.h"
 
+#include "calendar/model/holidaysets.h"
 #include "shell/core/dates.h"
 #include "shell/core/settings.h"
 #include "shell/core/settingskeys.h"
-
-#include <QSet>
 
 #include <algorithm>
 
@@ -44,36 +43,6 @@ WallCalendar NewCalendar::proposed(QDate today, DateStyle style, const Settings 
         settings.number(SettingsKeys::calendarWeekNumbers) != SettingsKeys::calendarWeekNumbersHidden;
     if (const QString country = HolidaySets::nameFor(territory); !country.isEmpty())
         calendar.holidaySets = {country};
-    return calendar;
-}
-
-WallCalendar NewCalendar::withHolidays(WallCalendar calendar, const HolidaySets &sets, QDate today)
-{
-    using Key = std::pair<QDate, QString>;
-    QSet<Key> wanted, there;
-    const QList<HolidayDay> holidays = sets.days(calendar.holidaySets, calendar.from, calendar.lastDay());
-    for (const HolidayDay &day : holidays)
-        wanted.insert({day.date, day.text});
-    for (QList<DayLine> &lines : calendar.days) {
-        lines.removeIf([&](const DayLine &line) {
-            return line.source == LineSource::Holiday && !line.isEdited() &&
-                   !wanted.contains({line.origin, line.original});
-        });
-        for (const DayLine &line : std::as_const(lines)) {
-            if (line.source == LineSource::Holiday)
-                there.insert({line.origin, line.original});
-        }
-    }
-    for (const HolidayDay &day : holidays) {
-        if (there.contains({day.date, day.text}))
-            continue;
-        QList<DayLine> &lines = calendar.days[day.date];
-        const auto behind = std::ranges::find_if(
-            lines, [](const DayLine &line) { return line.source != LineSource::Holiday; });
-        lines.insert(behind - lines.begin(), {LineSource::Holiday, day.date, false, day.text, day.text});
-    }
-    calendar.days.removeIf([](const auto &day) { return day.value().isEmpty(); });
-    calendar.filled[LineSource::Holiday] = today;
     return calendar;
 }
 

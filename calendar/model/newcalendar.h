@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "calendar/model/holidaysets.h"
 #include "calendar/model/wallcalendar.h"
 #include "shell/core/programstate.h"
 
@@ -19,10 +18,6 @@ QString title(QDate from, int months);
 /// settings and the holidays of the country.
 WallCalendar proposed(QDate today, DateStyle style, const Settings &settings,
                       QLocale::Territory territory = QLocale::system().territory());
-
-/// `calendar` with the days that its holiday sets have: new ones come, those that they have no longer go.
-/// What a person moved, edited or removed of them stays so.
-WallCalendar withHolidays(WallCalendar calendar, const HolidaySets &sets, QDate today);
 
 /// The names in "Anne, Tom": each once, six at most.
 QStringList persons(const QString &typed);

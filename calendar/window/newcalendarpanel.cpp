@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/window/newcalendarpanel.h"
 
+#include "calendar/model/calendarfill.h"
 #include "calendar/model/calendarpages.h"
 #include "calendar/model/newcalendar.h"
 #include "calendar/window/calendarform.h"
@@ -98,7 +99,10 @@ WallCalendar NewCalendarPanel::calendar() const
     const WallCalendar calendar = m_form->calendar();
     const bool hasOthers = m_isNew || calendar.holidaySets != m_before.holidaySets ||
                            calendar.from != m_before.from || calendar.months != m_before.months;
-    return hasOthers ? NewCalendar::withHolidays(calendar, m_sets, m_program.clock.today()) : calendar;
+    if (!hasOthers)
+        return calendar;
+    return CalendarFill::plan(calendar, {CalendarFill::holidaysOf(calendar, m_sets)}, m_program.clock.today())
+        .calendar;
 }
 
 void NewCalendarPanel::accept()
@@ -123,7 +127,10 @@ void NewCalendarPanel::refresh()
          m_program.state.familyName.text()},
         [this](const QString &path) { return KeptPictures::locate(m_program.folder, path); }};
     m_pane->setSheets(CalendarPages::sheetCount(calendar), [calendar, source](int sheet) {
-        return PagePainter(CalendarPages::page(calendar, source, {sheet}), source.context.setup,
+        // The last one stands behind it, since the closing lines are on the last that is printed.
+        const int last = CalendarPages::sheetCount(calendar) - 1;
+        const QList<int> chosen = sheet < last ? QList{sheet, last} : QList{last};
+        return PagePainter(CalendarPages::page(calendar, source, chosen), source.context.setup,
                            PreviewPane::usualFont());
     });
     setWords({});
