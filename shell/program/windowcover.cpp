@@ -4,6 +4,7 @@
 #include "shell/controls/controls.h"
 #include "shell/look/theme.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QKeyEvent>
@@ -45,7 +46,7 @@ WindowCover::WindowCover(QWidget &window, std::function<void()> unlock)
     layOut();
     hideContent();
     window.setWindowTitle(coveredTitle());
-    window.installEventFilter(this);
+    qApp->installEventFilter(this);
     connect(m_button, &QPushButton::clicked, this, [this] {
         const auto unlockIt = m_unlock; // this cover may go meanwhile
         unlockIt();
@@ -91,7 +92,7 @@ void WindowCover::hideContent()
 QWidget *WindowCover::lift()
 {
     keepFocus();
-    m_window.removeEventFilter(this);
+    qApp->removeEventFilter(this);
     m_window.setWindowTitle(m_title);
     for (const QPointer<QWidget> &part : m_hidden) {
         if (part)
@@ -121,7 +122,7 @@ bool WindowCover::event(QEvent *event)
 bool WindowCover::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != &m_window)
-        return false;
+        return isBehind(watched) && takeKey(*event);
     switch (event->type()) {
     case QEvent::Resize:
         setGeometry(m_window.rect());
@@ -129,22 +130,40 @@ bool WindowCover::eventFilter(QObject *watched, QEvent *event)
     case QEvent::WindowTitleChange:
         keepTitle();
         return false;
-    case QEvent::ShortcutOverride:
-        event->accept();
-        return true;
     case QEvent::WindowActivate:
         keepFocus(); // the button is given it now
         return false;
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-        keepFocus();
-        m_button->setFocus();
-        return true;
     case QEvent::Close:
         // A box asks something that nobody sees; a window of a function asks for the password by itself.
         if (!qobject_cast<QDialog *>(&m_window))
             return false;
         event->ignore();
+        return true;
+    default:
+        return takeKey(*event);
+    }
+}
+
+bool WindowCover::isBehind(const QObject *part) const
+{
+    const auto *widget = qobject_cast<const QWidget *>(part);
+    return widget && widget->window() == &m_window && widget != this && !isAncestorOf(widget);
+}
+
+/// A part that is given the focus behind the cover gets the keys, hidden as it is: they belong to the button.
+bool WindowCover::takeKey(QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::ShortcutOverride:
+        event.accept();
+        return true;
+    case QEvent::KeyPress:
+        keepFocus();
+        m_button->setFocus();
+        keyPressEvent(static_cast<QKeyEvent *>(&event));
+        return true;
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
         return true;
     default:
         return false;

@@ -37,6 +37,8 @@ private:
     void hideContent();
     void keepTitle();
     void keepFocus();
+    bool isBehind(const QObject *part) const;
+    bool takeKey(QEvent &event);
 
     QWidget &m_window;
     std::function<void()> m_unlock;

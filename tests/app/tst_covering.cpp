@@ -223,6 +223,21 @@ private slots:
         QVERIFY(other->hasFocus());
     }
 
+    /// A window that goes on behind its cover, to lock itself say, gives the focus to a box there.
+    void keysGoToTheCoverAlone()
+    {
+        QWidget *keeper = open(Function::PasswordKeeper);
+        showActive(*keeper);
+        emit m_test->changes.lockRequested();
+        auto *box = control<QLineEdit>(*keeper, "newMaster");
+        for (const Qt::Key key : {Qt::Key_P, Qt::Key_A, Qt::Key_Return}) {
+            box->setFocus();
+            QTest::keyClick(keeper->windowHandle(), key);
+        }
+        QVERIFY(box->text().isEmpty());
+        QVERIFY(m_prompts == 1 && !Covering::isCovered(*keeper) && box->hasFocus());
+    }
+
     void thePrintersQueueTellsNothing()
     {
         QWidget *cars = open(Function::CarLog);
