@@ -41,7 +41,7 @@ const QByteArray year2026 =
     " again\r\n=== 2026-11-21\r\ntags sea, market\r\n\r\nToday: " + sentence.toUtf8() + "\r\n";
 
 /// The files below `folder` that hold the marked sentence, in one encoding or another.
-QStringList marked(const QString &folder)
+[[maybe_unused]] QStringList marked(const QString &folder)
 {
     const QByteArray wide(reinterpret_cast<const char *>(sentence.utf16()), sentence.size() * 2);
     QStringList names;
