@@ -65,6 +65,9 @@ void EntryPaper::add(const JournalEntry &entry, const QString &heading, int mark
         below << entry.tags.join(u", "_s);
     if (const QString words = writtenOn(entry); !words.isEmpty())
         below << words;
+    if (m_last && !below.isEmpty())
+        m_last->staysWithNext = true;
+    endParagraph();
     if (below.isEmpty())
         return;
     m_isGapDue = m_hasTextAbove;
@@ -113,13 +116,22 @@ void EntryPaper::addLine(QStringView line)
         paragraph.listLevel = marked.indent + 1;
     }
     fillGap();
-    m_page.paragraph(std::move(paragraph));
+    m_last = std::move(paragraph);
     m_hasTextAbove = true;
+}
+
+/// It waits for what comes behind it.
+void EntryPaper::endParagraph()
+{
+    if (m_last)
+        m_page.paragraph(std::move(*m_last));
+    m_last.reset();
 }
 
 /// Several empty lines are one, and none stands beside a picture or at the end.
 void EntryPaper::fillGap()
 {
+    endParagraph();
     if (m_isGapDue)
         m_page.blankLine();
     m_isGapDue = false;
@@ -129,6 +141,7 @@ void EntryPaper::addPicture(const JournalPicture &picture)
 {
     if (m_options.pictures == PictureSize::None)
         return;
+    endParagraph();
     const QString found = m_source.picturePath ? m_source.picturePath(picture.path) : QString();
     const QString path = found.isEmpty() ? picture.path : found; // a frame with its name
     m_page.figure(path, placeOf(m_options.pictures, m_context), picture.caption);

@@ -22,6 +22,7 @@ private:
     void addLine(QStringView line);
     void addPicture(const JournalPicture &picture);
     void addQuiet(const QString &words, bool staysWithNext);
+    void endParagraph();
     void fillGap();
     QString factsOf(QDate date) const;
     QString writtenOn(const JournalEntry &entry) const;
@@ -30,7 +31,8 @@ private:
     const JournalPages::Source &m_source;
     const JournalPages::Options &m_options;
     const PageContext &m_context;
-    bool m_isBelowHeading = false; ///< headings of the text are smaller than those of the days
-    bool m_hasTextAbove = false;   ///< of the same entry, right above
-    bool m_isGapDue = false;       ///< a blank line, as soon as more text comes
+    bool m_isBelowHeading = false;               ///< headings of the text are smaller than those of the days
+    bool m_hasTextAbove = false;                 ///< of the same entry, right above
+    bool m_isGapDue = false;                     ///< a blank line, as soon as more text comes
+    std::optional<PageItem::Paragraph> m_last{}; ///< of the text, not on the page yet
 };

@@ -195,6 +195,7 @@ void JournalSealer::makeCode()
 {
     const QString code = RecoveryCode::generate();
     const auto made = std::make_shared<Made>(std::nullopt, seal().newCodeKey(code), code);
+    emit said(SealLines::working());
     work([made] { made->run(); },
          [this, made] {
              if (!made->isDone())

@@ -204,7 +204,7 @@ bool SheetFlow::place(const PageItem::Line &line)
     if (line.text.isEmpty()) {
         // A blank line separates two texts; at the top or the foot of a sheet there is nothing to separate.
         if (!m_isFresh || m_isFirst)
-            m_y += type.lineHeight() * (m_layout.page().heads() == SheetHeads::Running ? bookBlank : 1);
+            m_y += blankHeight(line);
         return true;
     }
     const SheetCell cell{m_body.left(), m_body.width(), Qt::AlignLeft, m_layout.linesOf(m_at.item, line), {}};
@@ -222,6 +222,30 @@ qsizetype SheetFlow::linesHere(qsizetype left, double lineHeight) const
     return count < linesTogether ? 0 : count;
 }
 
+/// What must stand on the same sheet as the end of this paragraph.
+double SheetFlow::heightOfNext() const
+{
+    const auto &items = m_layout.page().items();
+    double height = 0;
+    for (std::size_t at = m_at.item + 1; at < items.size(); ++at) {
+        const auto *line = std::get_if<PageItem::Line>(&items[at]);
+        const auto *next = std::get_if<PageItem::Paragraph>(&items[at]);
+        if (line && line->text.isEmpty())
+            height += blankHeight(*line);
+        else if (next)
+            height += double(m_layout.linesOf(at, *next).size()) * types().of(next->role).lineHeight();
+        if (!line || !line->text.isEmpty())
+            break;
+    }
+    return height;
+}
+
+double SheetFlow::blankHeight(const PageItem::Line &line) const
+{
+    return types().of(line.role).lineHeight() *
+           (m_layout.page().heads() == SheetHeads::Running ? bookBlank : 1);
+}
+
 bool SheetFlow::place(const PageItem::Paragraph &paragraph)
 {
     m_y = m_table.leaveColumns(m_y);
@@ -229,7 +253,11 @@ bool SheetFlow::place(const PageItem::Paragraph &paragraph)
     const PageType &type = types().of(paragraph.role);
     const std::vector<RunLine> &lines = m_layout.linesOf(m_at.item, paragraph);
     const qsizetype left = qsizetype(lines.size()) - m_at.line;
-    const qsizetype count = linesHere(left, type.lineHeight());
+    qsizetype count = linesHere(left, type.lineHeight());
+    // A long one gives its last lines to what it stays with; a short one goes there as a whole.
+    if (paragraph.staysWithNext && count == left && left >= 2 * linesTogether &&
+        room() + 0.01 < double(left) * type.lineHeight() + heightOfNext())
+        count -= linesTogether;
     const double indent = RunLines::indentOf(paragraph);
     for (qsizetype i = 0; m_painter && i < count; ++i) {
         const QPointF top(m_body.left() + indent, m_y + double(i) * type.lineHeight());

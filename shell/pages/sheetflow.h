@@ -62,6 +62,8 @@ private:
     double closingReserve() const;
     /// Of the rows that stay with the current one, which is placed in `cells`; 0 for most.
     double heightOfCompany() const;
+    double heightOfNext() const;
+    double blankHeight(const PageItem::Line &line) const;
     /// Of the closing lines with the rule above them.
     double closingHeight() const;
     void drawRule(double y, double thickness, const QColor &color, double indent = 0) const;

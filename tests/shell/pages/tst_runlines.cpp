@@ -102,6 +102,33 @@ private slots:
             }
         }
     }
+
+    void whatStaysWithTheNextStandsOnItsSheet_data()
+    {
+        rows<int>({{"a short paragraph, as a whole", 3}, {"the last lines of a long one", 5}});
+    }
+    void whatStaysWithTheNextStandsOnItsSheet()
+    {
+        const auto [lines] = row<int>();
+        if (!hasPdfTools())
+            QSKIP("needs poppler's tools");
+        const QTemporaryDir folder;
+        for (int before = 40; before < 52; ++before) {
+            Page page;
+            for (int i = 0; i < before; ++i)
+                page.line(u"a line"_s);
+            PageItem::Paragraph paragraph = ofLines(lines);
+            paragraph.staysWithNext = true;
+            page.paragraph(paragraph).blankLine().paragraph(
+                {.runs = {{u"the tags"_s}}, .role = TextRole::Small});
+            int words = 0;
+            for (const QString &sheet : pdfSheets(savePdf(folder.filePath(u"page.pdf"_s), page))) {
+                words += int(sheet.count(u"word"_s));
+                QVERIFY2(!sheet.contains(u"the tags"_s) || sheet.count(u"word"_s) >= 2, qPrintable(sheet));
+            }
+            QCOMPARE(words, lines);
+        }
+    }
 };
 
 QTEST_MAIN(TestRunLines)
