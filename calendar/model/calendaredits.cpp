@@ -38,17 +38,21 @@ void insert(WallCalendar &calendar, QDate date, int before, const DayLine &line)
     lines.insert(isAnywhere ? CellOrder::placeFor(lines, CellOrder::rankOf(line)) : before, line);
 }
 
+/// Control characters, and what ends a line.
+bool isNoneOfALine(QChar c)
+{
+    return c < u' ' || (c >= u'\u007f' && c <= u'\u009f') || c == QChar::LineSeparator ||
+           c == QChar::ParagraphSeparator;
+}
+
 } // namespace
 
 QString CalendarEdits::lineText(const QString &text)
 {
     QString line = text;
-    for (QChar &c : line) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-            c == QChar::ParagraphSeparator)
-            c = u' ';
-    }
-    line = line.trimmed();
+    if (std::ranges::any_of(text, isNoneOfALine))
+        std::ranges::replace_if(line, isNoneOfALine, QChar(u' '));
+    line = std::move(line).trimmed();
     if (line.size() > DayLine::most) {
         const bool isCutInTwo = line.at(DayLine::most).isLowSurrogate();
         line = line.first(DayLine::most - (isCutInTwo ? 1 : 0)).trimmed();

@@ -6,6 +6,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -27,19 +28,31 @@ class Kept
 public:
     explicit Kept(const QList<QByteArray> &written)
     {
-        for (int place = int(written.size()) - 1; place >= 0; --place)
-            m_left[written.at(place)].append(place);
+        m_left.reserve(written.size());
+        m_next.resize(std::size_t(written.size()), none);
+        for (int place = int(written.size()) - 1; place >= 0; --place) {
+            const auto same = m_left.find(written.at(place));
+            if (same == m_left.end()) {
+                m_left.insert(written.at(place), place);
+            } else {
+                m_next[std::size_t(place)] = *same;
+                *same = place;
+            }
+        }
     }
 
     /// Goes on with a line of the former file.
     void pass(const QByteArray &line)
     {
-        if (!m_taker.take(line)) {
+        // What a calendar says of days it says as often as it likes: such a line need not be read again.
+        int place = line.startsWith("day\t") ? taken(line) : none;
+        if (place < 0 && !m_taker.take(line)) {
             m_behind[m_last].append(line);
             return;
         }
+        if (place < 0)
+            place = taken(line);
         // One that is written differently now keeps its bytes.
-        const int place = taken(line);
         const int other = place < 0 ? taken(CalendarLine::rewritten(line)) : place;
         if (other != place)
             m_spelled.insert(other, line);
@@ -61,8 +74,12 @@ private:
 
     int taken(const QByteArray &line)
     {
-        const auto places = m_left.find(line);
-        return places == m_left.end() || places->isEmpty() ? none : places->takeLast();
+        const auto same = m_left.find(line);
+        if (same == m_left.end() || *same < 0)
+            return none;
+        const int place = *same;
+        *same = m_next[std::size_t(place)];
+        return place;
     }
 
     void appendBehind(QByteArray &file, int place) const
@@ -72,8 +89,8 @@ private:
     }
 
     CalendarLine::Taker m_taker;
-    QHash<QByteArray, QList<int>>
-        m_left; ///< places of the calendar's lines that are not found yet, the first last
+    QHash<QByteArray, int> m_left; ///< the first place of each of the calendar's lines that is not found yet
+    std::vector<int> m_next;       ///< the next place of the same line
     QHash<int, QByteArray> m_spelled;
     QHash<int, QList<QByteArray>> m_behind;
     int m_last = none;

@@ -68,16 +68,14 @@ std::optional<LineSource> CalendarFill::sourceOf(NoteKind kind)
 
 QList<FillSource> CalendarFill::sourcesOf(const QList<DayNote> &notes)
 {
-    std::map<LineSource, FillSource> sources;
+    std::map<LineSource, QList<DayNote>> sources;
     for (const DayNote &note : notes) {
-        if (const std::optional<LineSource> source = sourceOf(note.kind)) {
-            sources[*source].source = *source;
-            sources[*source].notes.append(note);
-        }
+        if (const std::optional<LineSource> source = sourceOf(note.kind))
+            sources[*source].append(note);
     }
     QList<FillSource> all;
     for (const auto &[source, notesOfIt] : sources)
-        all.append(notesOfIt);
+        all.append({.source = source, .notes = notesOfIt});
     return all;
 }
 

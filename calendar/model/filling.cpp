@@ -27,6 +27,8 @@ bool isAlike(QStringView former, QStringView now)
 
 Filling::Filling(const WallCalendar &calendar, const QList<FillSource> &sources)
     : m_calendar(calendar)
+    , m_from(calendar.from)
+    , m_to(calendar.lastDay())
 {
     for (const FillSource &source : sources) {
         if (source.use != FillSource::LeftOut)
@@ -39,8 +41,8 @@ Filling::Filling(const WallCalendar &calendar, const QList<FillSource> &sources)
                 add(source);
         }
     }
-    for (int place = int(m_fresh.size()) - 1; place >= 0; --place)
-        m_places[keyOf(m_fresh[std::size_t(place)].line)].append(place);
+    for (std::size_t place = 0; place < m_fresh.size(); ++place)
+        m_places[originOf(m_fresh[place].line)].push_back(int(place));
 }
 
 FillPlan Filling::plan(QDate today)
@@ -54,21 +56,24 @@ FillPlan Filling::plan(QDate today)
     return {m_calendar, m_summary};
 }
 
-Filling::Key Filling::keyOf(const DayLine &line)
+Filling::Origin Filling::originOf(const DayLine &line)
 {
-    return {line.origin.toJulianDay() * sourceCount + qint64(line.source), line.original};
+    return line.origin.toJulianDay() * sourceCount + qint64(line.source);
 }
 
 bool Filling::isCompared(const DayLine &line) const
 {
-    return !line.isTyped() && m_calendar.has(line.origin) && m_taken.contains(line.source);
+    return !line.isTyped() && isIn(line.origin) && m_taken.contains(line.source);
 }
 
 void Filling::add(const FillSource &source)
 {
+    m_fresh.reserve(m_fresh.size() + std::size_t(source.notes.size()));
     for (const DayNote &note : source.notes) {
+        if (!isIn(note.date))
+            continue;
         const QString text = CalendarEdits::lineText(CalendarFill::textOf(note));
-        if (!m_calendar.has(note.date) || text.isEmpty())
+        if (text.isEmpty())
             continue;
         const DayLine line{.source = source.source, .origin = note.date, .original = text, .shown = text};
         m_fresh.push_back(
@@ -86,19 +91,20 @@ void Filling::compare()
                 m_missed.push_back({date, place});
         }
     }
-    for (std::size_t place = 0; place < m_fresh.size(); ++place) {
-        const Fresh &fresh = m_fresh[place];
-        if (fresh.isWanted && !fresh.isThere)
-            m_unfound[{fresh.line.source, fresh.line.origin}].push_back(int(place));
-    }
 }
 
+/// The first of several that say the same.
 bool Filling::find(const DayLine &line)
 {
-    const auto places = m_places.find(keyOf(line));
-    if (places == m_places.end() || places->isEmpty())
+    const auto places = m_places.find(originOf(line));
+    if (places == m_places.end())
         return false;
-    m_fresh[std::size_t(places->takeLast())].isThere = true;
+    const auto same = std::ranges::find_if(
+        *places, [&](int place) { return m_fresh[std::size_t(place)].line.original == line.original; });
+    if (same == places->end())
+        return false;
+    m_fresh[std::size_t(*same)].isThere = true;
+    places->erase(same);
     return true;
 }
 
@@ -119,19 +125,20 @@ void Filling::settleMissed()
 bool Filling::exchange(const Missed &missed)
 {
     DayLine &line = m_calendar.days[missed.date][missed.line];
-    const auto unfound = m_unfound.find({line.source, line.origin});
-    if (unfound == m_unfound.end())
+    const auto places = m_places.find(originOf(line));
+    if (places == m_places.end())
         return false;
     const QStringView text = TimeOfDay::behindLeading(line.original);
-    const auto same = std::ranges::find_if(unfound->second, [&](int place) {
-        const QString &now = m_fresh[std::size_t(place)].line.original;
-        return TimeOfDay::behindLeading(now) == text ||
-               (missed.date == line.origin && isAlike(line.original, now));
+    const auto same = std::ranges::find_if(*places, [&](int place) {
+        const Fresh &fresh = m_fresh[std::size_t(place)];
+        return fresh.isWanted &&
+               (TimeOfDay::behindLeading(fresh.line.original) == text ||
+                (missed.date == line.origin && isAlike(line.original, fresh.line.original)));
     });
-    if (same == unfound->second.end())
+    if (same == places->end())
         return false;
     Fresh &fresh = m_fresh[std::size_t(*same)];
-    unfound->second.erase(same);
+    places->erase(same);
     fresh.isThere = true;
     ++m_summary.changed;
     if (CellOrder::rankOf(line) == fresh.rank) {

@@ -32,11 +32,12 @@ private:
         QDate date;
         int line = 0;
     };
-    using Origin = std::pair<LineSource, QDate>;
-    using Key = std::pair<qint64, QString>; ///< origin and text
+    /// Source and date.
+    using Origin = qint64;
 
-    static Key keyOf(const DayLine &line);
+    static Origin originOf(const DayLine &line);
 
+    bool isIn(QDate date) const { return date >= m_from && date <= m_to; }
     bool isCompared(const DayLine &line) const;
     void add(const FillSource &source);
     void compare();
@@ -48,12 +49,12 @@ private:
     static QList<DayLine> merged(const QList<DayLine> &lines, std::vector<const Fresh *> &fresh);
 
     WallCalendar m_calendar;
+    QDate m_from;
+    QDate m_to;
     std::set<LineSource> m_taken;
     std::set<LineSource> m_unread;
     std::vector<Fresh> m_fresh;
-    QHash<Key, QList<int>> m_places; ///< of the fresh lines that are not found yet, the first last
-    std::map<Origin, std::vector<int>>
-        m_unfound; ///< the same of those that are wanted, by where they come from
+    QHash<Origin, std::vector<int>> m_places; ///< of the fresh lines that are not found yet
     std::vector<Missed> m_missed;
     std::map<QDate, std::vector<int>> m_out;           ///< lines that go
     std::map<QDate, std::vector<const Fresh *>> m_new; ///< lines that come
