@@ -12,6 +12,7 @@
 #include "todo/model/todonews.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -179,4 +180,10 @@ BENCHMARK(typeIntoAFullCell)->UseManualTime()->MinTime(1);
 
 } // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    return benchmark::RunSpecifiedBenchmarks() > 0 ? 0 : 1;
+}

@@ -28,7 +28,7 @@ GridBars GridBars::alongRow(const GridFrame &frame, int row)
             continue;
         const int last = std::min(span.column + std::max(1, span.length), frame.columnCount()) - 1;
         const double width = (last - span.column + 1) * frame.columnWidth() - 2 * wordInset - 2;
-        const QStringList words = hasWords ? type.wrapped(span.text, width) : QStringList();
+        const QStringList words = hasWords ? type.wrappedFast(span.text, width) : QStringList();
         const double thickness =
             hasWords ? double(words.size()) * frame.pitch() + aroundWords : thinBarOf(frame);
         bars.add(span, span.column, last, words, thickness);

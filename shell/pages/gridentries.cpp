@@ -56,10 +56,10 @@ LaidLine GridEntries::wrapped(const GridFrame &frame, const GridLine &line, doub
     LaidLine laid{.line = &line};
     laid.lead = line.tone > 0 ? square * frame.points() : 0;
     const double room = width - laid.lead;
-    laid.words = type.wrapped(line.text, room);
+    laid.words = type.wrappedFast(line.text, room);
     if (laid.words.size() > 1 && further == Further::Indented) {
         laid.indent = hanging * frame.points();
-        laid.words = type.wrapped(line.text, room - laid.indent);
+        laid.words = type.wrappedFast(line.text, room - laid.indent);
     }
     return laid;
 }

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -43,12 +44,28 @@ GridLayout::GridLayout(std::shared_ptr<const PageGrid> grid, const PageFont &fon
     , m_types(std::make_shared<GridTypes>(*m_grid, font))
 {
     placeAround();
-    for (m_points = firstPoints(); !layOut(0); m_points -= GridTypes::step) {
-        if (m_points <= GridTypes::smallestPoints) {
-            layOutWithRest();
-            break;
-        }
+    m_points = firstPoints();
+    if (!layOut(0) && !shrink())
+        layOutWithRest();
+}
+
+/// The largest size at which all lines find room; false where even the smallest is too large.
+bool GridLayout::shrink()
+{
+    double most = m_points;
+    m_points = GridTypes::smallestPoints;
+    if (most <= m_points || !layOut(0))
+        return false;
+    double fitting = m_points;
+    while (most - fitting > GridTypes::step) {
+        m_points = fitting + std::floor((most - fitting) / 2 / GridTypes::step) * GridTypes::step;
+        (layOut(0) ? fitting : most) = m_points;
     }
+    if (m_points > fitting) {
+        m_points = fitting;
+        layOut(0);
+    }
+    return true;
 }
 
 /// The picture, the head with its small grids, and what is left.

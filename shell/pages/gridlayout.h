@@ -60,6 +60,7 @@ private:
     void placeAround();
     double firstPoints() const;
     bool layOut(double restHeight);
+    bool shrink();
     std::vector<GridRest::Entry> leftLines() const;
     double mostRest() const;
     void layOutWithRest();

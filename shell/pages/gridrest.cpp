@@ -73,7 +73,7 @@ void GridRest::wrapEntries(const PageType &type, double room)
             continue;
         }
         const double lead = entry.tone > 0 ? square : 0;
-        const QStringList words = type.wrapped(entry.text, m_column - m_lead - lead - hanging);
+        const QStringList words = type.wrappedFast(entry.text, m_column - m_lead - lead - hanging);
         for (qsizetype from = 0; from < words.size(); from += mostTogether) {
             Entry &part = parts.emplace_back(entry);
             part.words = words.mid(from, mostTogether);

@@ -86,6 +86,13 @@ double scaleOf(TextRole role)
     return 1;
 }
 
+/// Whether the blank at `at` stands within a number.
+bool isInsideNumber(const QString &text, qsizetype at)
+{
+    return at > 0 && at + 1 < text.size() && (text[at - 1].isDigit() || text[at - 1] == u')') &&
+           text[at + 1].isDigit();
+}
+
 /// The same text with no-break spaces inside its numbers, "(440) 555-0100" and "221 00" say, as far as they
 /// are not endless.
 QString withUnbrokenNumbers(QString text)
@@ -96,7 +103,7 @@ QString withUnbrokenNumbers(QString text)
     for (qsizetype i = 1; i + 1 < text.size(); ++i) {
         if (text[i] != u' ')
             continue;
-        const bool isInside = (text[i - 1].isDigit() || text[i - 1] == u')') && text[i + 1].isDigit();
+        const bool isInside = isInsideNumber(text, i);
         qsizetype end = i + 1;
         while (end < text.size() && isNumeral(text[end]))
             ++end;
@@ -172,6 +179,44 @@ QStringList PageType::wrapped(const QString &text, double width) const
         }
         layout.endLayout();
     }
+    return lines;
+}
+
+/// Whether the widths of all of its characters are known.
+bool PageType::isPlain(const QString &text) const
+{
+    return std::ranges::all_of(text, [this](QChar character) {
+        return character.unicode() < m_advances.size() && m_advances[character.unicode()] >= 0;
+    });
+}
+
+QStringList PageType::wrappedFast(const QString &text, double width) const
+{
+    if (text.isEmpty() || surelyFits(text, width))
+        return {text};
+    if (!isPlain(text))
+        return wrapped(text, width);
+    constexpr double spare = 1; // for pairs that the font sets wider than their parts
+    QStringList lines;
+    qsizetype start = 0;
+    qsizetype blank = 0; // behind the last one where a line can end
+    double sum = spare;
+    double behindBlank = spare;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        sum += advance(text[i]);
+        behindBlank += advance(text[i]);
+        if (sum > width && i > start && text[i] != u' ') {
+            const qsizetype end = blank > start ? blank : i;
+            lines << withoutTrailingBlanks(text.mid(start, end - start));
+            sum = end == i ? spare + advance(text[i]) : behindBlank;
+            start = end;
+        }
+        if (text[i] == u' ' && !isInsideNumber(text, i)) {
+            blank = i + 1;
+            behindBlank = spare;
+        }
+    }
+    lines << withoutTrailingBlanks(text.mid(start));
     return lines;
 }
 
