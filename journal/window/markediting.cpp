@@ -15,6 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QStringView step(u"  ");
+constexpr qsizetype mostSigns = 3; ///< bold and italic
 
 /// Words that stand in one line, by their places in the document.
 struct Words {
@@ -83,7 +84,7 @@ int signsAround(const QTextBlock &block, const Words &words)
 bool hasSign(const QTextBlock &block, const Words &words, qsizetype sign)
 {
     const int around = signsAround(block, words);
-    return around == sign || around == 3;
+    return around == sign || around == mostSigns;
 }
 
 void setSign(QTextCursor cursor, const Words &words, const QString &sign, bool isSet)
@@ -101,6 +102,62 @@ void setSign(QTextCursor cursor, const Words &words, const QString &sign, bool i
         cursor.setPosition(place + length, QTextCursor::KeepAnchor);
         cursor.removeSelectedText();
     }
+}
+
+/// The runs in a line between signs of this length, with these: where each begins and ends in the document.
+std::vector<Words> runsOf(const QTextBlock &block, qsizetype length)
+{
+    std::vector<Words> runs;
+    bool isOpen = false;
+    for (const auto &[at, count] : LightMarks::of(block.text()).signs) {
+        if (count != length)
+            continue;
+        const int place = block.position() + int(at);
+        if (!isOpen)
+            runs.push_back({place, place});
+        runs.back().end = place + int(count);
+        isOpen = !isOpen;
+    }
+    return runs;
+}
+
+/// Takes the sign from each run that `words` has a part of. All of such a run is chosen then.
+void takeRuns(QTextCursor &words, qsizetype sign)
+{
+    const QTextBlock block = words.document()->findBlock(words.selectionStart());
+    for (const qsizetype length : {sign, mostSigns}) {
+        const std::vector<Words> runs = runsOf(block, length);
+        for (auto run = runs.rbegin(); run != runs.rend(); ++run) {
+            const int begin = words.selectionStart();
+            const int end = words.selectionEnd();
+            if (run->begin >= end || run->end <= begin)
+                continue;
+            words.setPosition(std::min(begin, run->begin));
+            words.setPosition(std::max(end, run->end), QTextCursor::KeepAnchor);
+            QTextCursor signs(words.document());
+            for (const int place : {run->end - int(sign), run->begin}) {
+                signs.setPosition(place);
+                signs.setPosition(place + int(sign), QTextCursor::KeepAnchor);
+                signs.removeSelectedText();
+            }
+        }
+    }
+}
+
+/// What is to have a sign as a whole has none in its parts.
+void takeRuns(std::vector<std::pair<QTextBlock, Words>> &parts, qsizetype sign)
+{
+    std::vector<QTextCursor> all;
+    all.reserve(parts.size());
+    for (const auto &[line, words] : parts) {
+        all.emplace_back(line);
+        all.back().setPosition(words.begin);
+        all.back().setPosition(words.end, QTextCursor::KeepAnchor);
+    }
+    for (std::size_t i = 0; i < all.size(); ++i)
+        takeRuns(all[i], sign);
+    for (std::size_t i = 0; i < all.size(); ++i)
+        parts[i].second = {all[i].selectionStart(), all[i].selectionEnd()};
 }
 
 /// At the end of what was just typed the sign behind the cursor is stepped over; between two signs without
@@ -158,6 +215,8 @@ void MarkEditing::toggle(QTextCursor &cursor, const QString &sign)
     }
     const bool isSet = !std::ranges::all_of(
         parts, [&](const auto &part) { return hasSign(part.first, part.second, sign.size()); });
+    if (isSet)
+        takeRuns(parts, sign.size());
     const int length = int(sign.size());
     Words chosen{cursor.selectionStart(), cursor.selectionEnd()};
     if (!parts.empty()) {
