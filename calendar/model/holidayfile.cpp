@@ -3,9 +3,17 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr QByteArrayView firstLine = "Quillery holidays 1";
+
+/// A text as it is written again: with line ends of one kind.
+QString textOf(QByteArrayView column)
+{
+    return TabLine::text(column).replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+}
 
 QByteArray restOf(QByteArrayView line, const TabLine::Columns &columns)
 {
@@ -18,7 +26,7 @@ void takeLine(HolidayFile &file, qsizetype &set, QByteArrayView line, int number
     TabLine::Columns columns(line);
     const QByteArrayView kind = columns.take();
     if (kind == "set") {
-        const QString name = TabLine::text(columns.take());
+        const QString name = textOf(columns.take());
         const HolidaySet *known = file.set(name);
         set = known ? known - file.sets.constData() : file.sets.size();
         if (!known)
@@ -28,7 +36,7 @@ void takeLine(HolidayFile &file, qsizetype &set, QByteArrayView line, int number
     const bool isHoliday = kind == "holiday" && set >= 0;
     Holiday holiday{{}, {}, line.toByteArray(), true, number};
     if (isHoliday) {
-        const QString rule = TabLine::text(columns.take()), text = TabLine::text(columns.take());
+        const QString rule = textOf(columns.take()), text = textOf(columns.take());
         holiday = {rule, text, restOf(line, columns), false, number};
     }
     if (isHoliday ? !holiday.isReadable() : kind == "holiday")
