@@ -31,8 +31,10 @@ namespace {
 constexpr int wideWidth = 304;
 constexpr int narrowWidth = 264;
 constexpr int wideFrom = 1200;
-/// A month has room in it, with its dots below the numbers.
+/// A month has room in it, with its dots below the numbers; less of it in a low window.
 constexpr int calendarHeight = 252;
+constexpr int leastCalendarHeight = 236;
+constexpr int lowBelow = 580;
 constexpr int leastWidth = 240;
 
 PanelFrame *makeCard(const QString &name, QWidget *content)
@@ -133,6 +135,12 @@ QWidget *JournalPane::makeHits()
 int JournalPane::suitableWidth(QSize window)
 {
     return TypeScale::wide(window.width() < TypeScale::wide(wideFrom) ? narrowWidth : wideWidth);
+}
+
+void JournalPane::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_calendar->setFixedHeight(height() < lowBelow ? leastCalendarHeight : calendarHeight);
 }
 
 void JournalPane::setDate(QDate date)

@@ -50,6 +50,9 @@ signals:
     void searchBegun();
     void searchLeft();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QWidget *makePanels(const Program &program, PanelColors &colors);
     QWidget *makeHits();
