@@ -24,7 +24,7 @@ namespace {
 
 const QString aroundKey = QStringLiteral("Windows/DJournal/daysAround");
 constexpr int daysAround = 3;
-constexpr int leastHeight = 92;
+constexpr int leastHeight = 48; ///< a row, where the window is low
 
 } // namespace
 

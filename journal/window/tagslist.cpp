@@ -18,7 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int inset = 8;
-constexpr int leastRows = 2;
+constexpr int leastRows = 1;
 constexpr int listRim = 6;
 constexpr int countRole = Qt::UserRole;
 
