@@ -65,9 +65,9 @@ CalendarForm::CalendarForm(QWidget *parent)
     , m_points(named(new QComboBox(this), u"calendarPoints"_s))
     , m_firstDay(named(new QComboBox(this), u"calendarWeekStart"_s))
     , m_weekNumbers(named(new QCheckBox(u"Week &numbers"_s, this), u"calendarWeekNumbers"_s))
-    , m_smallMonths(named(new QCheckBox(u"&Small neighbouring months"_s, this), u"calendarSmallMonths"_s))
+    , m_smallMonths(named(new QCheckBox(u"Sma&ll neighbouring months"_s, this), u"calendarSmallMonths"_s))
     , m_neighbourLines(
-          named(new QCheckBox(u"Entries of neighbouring &days"_s, this), u"calendarNeighbours"_s))
+          named(new QCheckBox(u"Entries of neigh&bouring days"_s, this), u"calendarNeighbours"_s))
     , m_holidays(named(new QListWidget(this), u"calendarHolidays"_s))
     , m_persons(named(new QLineEdit(this), u"calendarPersons"_s))
 {

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -58,14 +59,20 @@ HolidayPanel::HolidayPanel(const Program &program, QWidget *window, QWidget *par
     addButton(m_editor->removeButton(), Side::Left);
     m_drop = addButton(u"holidaysDrop"_s, {}, ButtonKind::Plain, Side::Left);
     addButton(m_editor->newButton());
-    m_save = addButton(u"holidaysSave"_s, u"&Save"_s, ButtonKind::Main);
-    setLeaveButton(u"holidaysCancel"_s, u"C&ancel"_s);
+    m_keep = addButton(u"holidaysKeep"_s, u"&Keep"_s, ButtonKind::Main);
+    QPushButton *cancel = setLeaveButton(u"holidaysCancel"_s, u"C&ancel"_s);
+    setTabOrder(m_choice, m_name);
+    setTabOrder(m_name, m_newSet);
+    setTabOrder(m_newSet, m_editor->focusProxy());
+    QWidget *before = m_editor->lastInTab();
+    for (QWidget *button : {m_editor->removeButton(), m_drop, m_editor->newButton(), m_keep, cancel})
+        setTabOrder(std::exchange(before, button), button);
     setFocusProxy(m_choice);
     connect(m_choice, &QComboBox::currentIndexChanged, this, &HolidayPanel::showSet);
     connect(m_name, &QLineEdit::textEdited, this, &HolidayPanel::rename);
     connect(m_editor, &RulesEditor::changed, this, &HolidayPanel::take);
     connect(m_drop, &QPushButton::clicked, this, &HolidayPanel::dropSet);
-    connect(m_save, &QPushButton::clicked, this, &HolidayPanel::save);
+    connect(m_keep, &QPushButton::clicked, this, &HolidayPanel::save);
 }
 
 QWidget *HolidayPanel::makeSets()
@@ -82,14 +89,14 @@ QWidget *HolidayPanel::makeSets()
     QBoxLayout *name = labelled(u"Name"_s, m_name);
     name->setContentsMargins({});
     m_nameRow->setLayout(name);
-    QPushButton *add = makeButton(u"holidaysNewSet"_s, u"New Se&t"_s, sets);
-    connect(add, &QPushButton::clicked, this, &HolidayPanel::addSet);
+    m_newSet = makeButton(u"holidaysNewSet"_s, u"Ne&w Set"_s, sets);
+    connect(m_newSet, &QPushButton::clicked, this, &HolidayPanel::addSet);
     auto *row = new QHBoxLayout(sets);
     row->setContentsMargins({});
     row->setSpacing(12);
     row->addLayout(labelled(u"Holidays of"_s, m_choice));
     row->addWidget(m_nameRow);
-    row->addWidget(add, 0, Qt::AlignBottom);
+    row->addWidget(m_newSet, 0, Qt::AlignBottom);
     row->addStretch(1);
     return sets;
 }
@@ -145,9 +152,9 @@ void HolidayPanel::showSet()
     m_nameRow->setVisible(!isThere);
     m_name->setText(m_base.name);
     const bool isBuiltIn = m_sets.isBuiltIn(m_base.name);
-    m_drop->setText(isBuiltIn ? u"As It Ca&me"_s : u"Remove Se&t"_s);
+    m_drop->setText(isBuiltIn ? u"As &It Came"_s : u"Remove Se&t"_s);
     setUnavailable(m_drop, place < 0 ? RuleLines::asItCame() : m_sets.whyLocked());
-    setUnavailable(m_save, m_sets.whyLocked());
+    setUnavailable(m_keep, m_sets.whyLocked());
     buttonRow().rearrange();
 }
 

@@ -49,9 +49,10 @@ private:
     QComboBox *m_choice = nullptr;
     QWidget *m_nameRow = nullptr;
     QLineEdit *m_name = nullptr;
+    QPushButton *m_newSet = nullptr;
     RulesEditor *m_editor;
     QPushButton *m_drop = nullptr;
-    QPushButton *m_save = nullptr;
+    QPushButton *m_keep = nullptr;
     HolidaySet m_base; ///< the set that is shown, as it was when it came to be shown
     bool m_isWarned = false;
 };

@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -67,27 +68,28 @@ QSpinBox *makeNumber(const QString &name, int least, int most, int width, QWidge
 
 } // namespace
 
-RuleForm::RuleForm(const Program &program, QWidget *window, QWidget *parent)
+RuleForm::RuleForm(const Program &program, const QString &name, QWidget *window, QWidget *parent)
     : QWidget(parent)
     , m_program(program)
-    , m_way(makeBox(u"ruleWay"_s, 210, this))
-    , m_interval(makeNumber(u"ruleInterval"_s, 1, DateRule::mostInterval, 110, this))
-    , m_ordinal(makeBox(u"ruleOrdinal"_s, 96, this))
-    , m_weekday(makeBox(u"ruleWeekday"_s, 124, this))
-    , m_month(makeBox(u"ruleMonth"_s, 124, this))
-    , m_day(makeNumber(u"ruleDay"_s, 1, 31, 72, this))
-    , m_distance(makeNumber(u"ruleDistance"_s, -DateRule::mostFromEaster, DateRule::mostFromEaster, 96, this))
+    , m_way(makeBox(name + u"Way"_s, 210, this))
+    , m_interval(makeNumber(name + u"Interval"_s, 1, DateRule::mostInterval, 110, this))
+    , m_ordinal(makeBox(name + u"Ordinal"_s, 96, this))
+    , m_weekday(makeBox(name + u"Weekday"_s, 124, this))
+    , m_month(makeBox(name + u"Month"_s, 124, this))
+    , m_day(makeNumber(name + u"Day"_s, 1, 31, 72, this))
+    , m_distance(
+          makeNumber(name + u"Distance"_s, -DateRule::mostFromEaster, DateRule::mostFromEaster, 96, this))
     , m_start(nullptr)
-    , m_firstYear(named(new QLineEdit(this), u"ruleFirstYear"_s))
-    , m_lastYear(named(new QLineEdit(this), u"ruleLastYear"_s))
-    , m_moving(makeBox(u"ruleMoving"_s, 250, this))
-    , m_text(named(new QLineEdit(this), u"ruleText"_s))
-    , m_words(named(makeQuietLabel({}, this), u"ruleWords"_s))
+    , m_firstYear(named(new QLineEdit(this), name + u"FirstYear"_s))
+    , m_lastYear(named(new QLineEdit(this), name + u"LastYear"_s))
+    , m_moving(makeBox(name + u"Moving"_s, 250, this))
+    , m_text(named(new QLineEdit(this), name + u"Rule"_s))
+    , m_words(named(makeQuietLabel({}, this), name + u"Fault"_s))
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(8);
-    column->addLayout(makeDays(program, window));
+    column->addLayout(makeDays(program, name, window));
     column->addLayout(makeYears());
     new PasteFilter(m_text, Characters::All);
     m_text->setMaxLength(longestText);
@@ -107,10 +109,15 @@ RuleForm::RuleForm(const Program &program, QWidget *window, QWidget *parent)
     for (QLineEdit *box : {m_firstYear, m_lastYear})
         connect(box, &QLineEdit::textEdited, this, &RuleForm::readChoices);
     connect(m_text, &QLineEdit::textEdited, this, &RuleForm::readText);
+    QWidget *before = m_way;
+    for (QWidget *box :
+         std::initializer_list<QWidget *>{m_interval, m_ordinal, m_weekday, m_month, m_day, m_distance,
+                                          m_start, m_firstYear, m_lastYear, m_moving, m_text})
+        setTabOrder(std::exchange(before, box), box);
     setRule(m_rule.text());
 }
 
-QHBoxLayout *RuleForm::makeDays(const Program &program, QWidget *window)
+QHBoxLayout *RuleForm::makeDays(const Program &program, const QString &name, QWidget *window)
 {
     m_way->addItems({u"Every so many weeks"_s, u"Every so many days"_s, u"A date"_s,
                      u"A weekday of a month"_s, u"A weekday before a date"_s, u"A weekday from a date on"_s,
@@ -122,8 +129,8 @@ QHBoxLayout *RuleForm::makeDays(const Program &program, QWidget *window)
         m_weekday->addItem(QLocale::c().standaloneDayName(day));
     for (int month = 1; month <= 12; ++month)
         m_month->addItem(QLocale::c().standaloneMonthName(month));
-    auto *picker = new DatePicker(program.clock, program.settings, window, u"ruleCalendar"_s);
-    m_start = named(new DateBox({program.state.dateStyle, program.clock}, picker, this), u"ruleStart"_s);
+    auto *picker = new DatePicker(program.clock, program.settings, window, name + u"Calendar"_s);
+    m_start = named(new DateBox({program.state.dateStyle, program.clock}, picker, this), name + u"Start"_s);
     m_start->setFixedWidth(boxWidth(u"Nov-24-2026"_s, 130));
     auto *row = new QHBoxLayout;
     row->setSpacing(gap);

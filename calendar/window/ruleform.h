@@ -18,8 +18,9 @@ class RuleForm final : public QWidget
 {
     Q_OBJECT
 public:
-    /// `window` is what the calendar of its date floats over.
-    RuleForm(const Program &program, QWidget *window, QWidget *parent = nullptr);
+    /// Its parts are named after it: "rules" has rulesWay, rulesStart, rulesRule. `window` is what the
+    /// calendar of its date floats over.
+    RuleForm(const Program &program, const QString &name, QWidget *window, QWidget *parent = nullptr);
 
     /// Shows a rule as it stands in a file; one that cannot be read is shown as it is.
     void setRule(const QString &text);
@@ -38,7 +39,7 @@ private:
     /// What the first choice offers.
     enum Way { Weeks, Days, OnDate, WeekdayOfMonth, BeforeDate, FromDate, FromEaster, FromOrthodoxEaster };
 
-    QHBoxLayout *makeDays(const Program &program, QWidget *window);
+    QHBoxLayout *makeDays(const Program &program, const QString &name, QWidget *window);
     QHBoxLayout *makeYears();
     QWidget *addPart(QHBoxLayout &row, const QString &caption, QWidget *box);
     void showRule();

@@ -60,6 +60,9 @@ RulesEditor::RulesEditor(const Program &program, const QString &name, Signs sign
             &RulesEditor::showChosen);
     connect(m_new, &QPushButton::clicked, this, &RulesEditor::addNew);
     connect(m_remove, &QPushButton::clicked, this, &RulesEditor::removeChosen);
+    setTabOrder(m_view, m_text);
+    setTabOrder(m_text, m_sign);
+    setTabOrder(m_sign, m_rule->firstInTab());
     setFocusProxy(m_view);
     showChosen();
 }
@@ -78,7 +81,7 @@ QWidget *RulesEditor::makeForm(const Program &program, const QString &name, Sign
         m_sign->addItem(sign);
     m_sign->setFixedWidth(TypeScale::wide(84));
     m_sign->setInsertPolicy(QComboBox::NoInsert);
-    m_rule = new RuleForm(program, window, m_form);
+    m_rule = new RuleForm(program, name, window, m_form);
     auto *words = new QHBoxLayout;
     words->setSpacing(12);
     words->addLayout(labelled(u"Words"_s, m_text), 1);
@@ -113,6 +116,11 @@ void RulesEditor::setWhyLocked(const QString &reason)
 {
     m_whyLocked = reason;
     showChosen();
+}
+
+QWidget *RulesEditor::lastInTab() const
+{
+    return m_rule->lastInTab();
 }
 
 int RulesEditor::chosen() const

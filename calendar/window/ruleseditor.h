@@ -35,6 +35,8 @@ public:
     void addNew();
     void removeChosen();
 
+    /// The last of the list and the boxes that Tab comes to; the buttons come behind it.
+    QWidget *lastInTab() const;
     QPushButton *newButton() const { return m_new; }
     QPushButton *removeButton() const { return m_remove; }
 

@@ -5,6 +5,8 @@
 #include "calendar/window/ruleseditor.h"
 #include "shell/program/program.h"
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 RulesPanel::RulesPanel(const Program &program, QWidget *window, QWidget *parent)
@@ -16,7 +18,10 @@ RulesPanel::RulesPanel(const Program &program, QWidget *window, QWidget *parent)
     addButton(m_editor->removeButton(), Side::Left);
     addButton(m_editor->newButton());
     QPushButton *keep = addButton(u"rulesKeep"_s, u"&Keep"_s, ButtonKind::Main);
-    setLeaveButton(u"rulesCancel"_s, u"C&ancel"_s);
+    QPushButton *cancel = setLeaveButton(u"rulesCancel"_s, u"C&ancel"_s);
+    QWidget *before = m_editor->lastInTab();
+    for (QWidget *button : {m_editor->removeButton(), m_editor->newButton(), keep, cancel})
+        setTabOrder(std::exchange(before, button), button);
     setFocusProxy(m_editor);
     connect(keep, &QPushButton::clicked, this, &RulesPanel::accept);
     connect(m_editor, &RulesEditor::changed, this, [this] { setWords({}); });

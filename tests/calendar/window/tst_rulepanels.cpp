@@ -54,18 +54,18 @@ private slots:
         QTest::mouseClick(control<QPushButton>(panel, "rulesKeep"), Qt::LeftButton);
         QCOMPARE(accepted.count(), 0); // it has no words yet
         type(panel, "rulesWords", u"Paper bin"_s);
-        type(panel, "ruleStart", u"5 Jan 2027"_s);
-        QCOMPARE(control<QLineEdit>(panel, "ruleText")->text(), u"every 2 weeks 2027-01-05"_s);
+        type(panel, "rulesStart", u"5 Jan 2027"_s);
+        QCOMPARE(control<QLineEdit>(panel, "rulesRule")->text(), u"every 2 weeks 2027-01-05"_s);
         QCOMPARE(cell(panel, "rulesList", 0, 1), u"Every second Tuesday from January 5, 2027 on"_s);
         QCOMPARE(cell(panel, "rulesList", 0, 2), u"Tue, Jan 5, 2027"_s);
         QTest::mouseClick(control<QPushButton>(panel, "rulesNew"), Qt::LeftButton);
         type(panel, "rulesWords", u"Choir"_s);
         for (int step = 0; step < 3; ++step) // to "A weekday of a month"
-            QTest::keyClick(control<QComboBox>(panel, "ruleWay"), Qt::Key_Down);
-        QTest::keyClicks(control<QComboBox>(panel, "ruleOrdinal"), u"last"_s);
-        QTest::keyClicks(control<QComboBox>(panel, "ruleWeekday"), u"Thursday"_s);
-        QTest::keyClicks(control<QComboBox>(panel, "ruleMonth"), u"May"_s);
-        type(panel, "ruleFirstYear", u"2027"_s);
+            QTest::keyClick(control<QComboBox>(panel, "rulesWay"), Qt::Key_Down);
+        QTest::keyClicks(control<QComboBox>(panel, "rulesOrdinal"), u"last"_s);
+        QTest::keyClicks(control<QComboBox>(panel, "rulesWeekday"), u"Thursday"_s);
+        QTest::keyClicks(control<QComboBox>(panel, "rulesMonth"), u"May"_s);
+        type(panel, "rulesFirstYear", u"2027"_s);
         QTest::keyClicks(control<QComboBox>(panel, "rulesSign")->lineEdit(), u"*"_s);
         QTest::mouseClick(control<QPushButton>(panel, "rulesKeep"), Qt::LeftButton);
         QCOMPARE(accepted.count(), 1);
@@ -83,13 +83,13 @@ private slots:
         calendar.rules = {{u"nth 4 thu 11"_s, {}, u"Feast"_s}};
         panel.start(calendar);
         open(window, panel);
-        QCOMPARE(control<QComboBox>(panel, "ruleOrdinal")->currentText(), u"fourth"_s);
-        type(panel, "ruleText", u"easter -2 moved fri+1"_s);
-        QCOMPARE(control<QSpinBox>(panel, "ruleDistance")->value(), -2);
-        QCOMPARE(control<QComboBox>(panel, "ruleMoving")->currentText(), u"As the rule says"_s);
-        control<QSpinBox>(panel, "ruleDistance")->setValue(-3); // what has no choice of its own stays
+        QCOMPARE(control<QComboBox>(panel, "rulesOrdinal")->currentText(), u"fourth"_s);
+        type(panel, "rulesRule", u"easter -2 moved fri+1"_s);
+        QCOMPARE(control<QSpinBox>(panel, "rulesDistance")->value(), -2);
+        QCOMPARE(control<QComboBox>(panel, "rulesMoving")->currentText(), u"As the rule says"_s);
+        control<QSpinBox>(panel, "rulesDistance")->setValue(-3); // what has no choice of its own stays
         QCOMPARE(panel.rules().first().rule, u"easter -3 moved fri+1"_s);
-        type(panel, "ruleText", u"nth 9 thu 11"_s);
+        type(panel, "rulesRule", u"nth 9 thu 11"_s);
         QCOMPARE(cell(panel, "rulesList", 0, 1), u"! Cannot be read: nth 9 thu 11"_s);
         QCOMPARE(panel.rules().first().rule, u"nth 9 thu 11"_s);
         desk.dialogs.willAnswer(Answer::No);
@@ -116,7 +116,7 @@ private slots:
         panel.start(u"ours"_s);
         open(window, panel);
         QCOMPARE(cell(panel, "holidaysList", 1, 1), u"! Line 5 cannot be read: nth 9 mon 01"_s);
-        type(panel, "ruleText", u"05-02"_s);
+        type(panel, "holidaysRule", u"05-02"_s);
         auto *sets = control<QComboBox>(panel, "holidaysSet");
         QTest::keyClicks(sets, u"Sweden"_s);
         QTest::keyClick(control<QTableView>(panel, "holidaysList"), Qt::Key_Delete);
@@ -127,13 +127,13 @@ private slots:
         QCOMPARE(desk.bytes(u"Holiday1.Fil"_s), before);
         QTest::mouseClick(control<QPushButton>(panel, "holidaysNewSet"), Qt::LeftButton);
         type(panel, "holidaysName", u"Sweden"_s);
-        QTest::mouseClick(control<QPushButton>(panel, "holidaysSave"), Qt::LeftButton);
+        QTest::mouseClick(control<QPushButton>(panel, "holidaysKeep"), Qt::LeftButton);
         QCOMPARE(changed.count(), 0); // there is one of that name
         type(panel, "holidaysName", u"School"_s);
         QTest::mouseClick(control<QPushButton>(panel, "holidaysNew"), Qt::LeftButton);
         type(panel, "holidaysWords", u"First day"_s);
-        type(panel, "ruleText", u"09-01"_s);
-        QTest::mouseClick(control<QPushButton>(panel, "holidaysSave"), Qt::LeftButton);
+        type(panel, "holidaysRule", u"09-01"_s);
+        QTest::mouseClick(control<QPushButton>(panel, "holidaysKeep"), Qt::LeftButton);
         QCOMPARE(changed.count(), 1);
         QCOMPARE(left.count(), 1);
         const QByteArray after = desk.bytes(u"Holiday1.Fil"_s);
@@ -148,6 +148,24 @@ private slots:
         QVERIFY(!after.contains("Canada"));
     }
 
+    void leadFromTopToBottomByKeys()
+    {
+        TestProgram desk;
+        QWidget window;
+        HolidayPanel &panel = *new HolidayPanel(desk.program, &window, &window);
+        panel.start(u"Canada"_s);
+        open(window, panel);
+        panel.setFocus();
+        QStringList names;
+        for (int step = 0; step < 15; ++step) {
+            names << window.focusWidget()->objectName().remove(u"holidays"_s);
+            QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(names.join(u' '),
+                 u"Set NewSet List Words Way Month Day FirstYear LastYear Moving Rule Remove New "
+                 "Keep Cancel"_s);
+    }
+
     void leaveAFileOfALaterVersionAsItIs()
     {
         TestProgram desk;
@@ -156,7 +174,7 @@ private slots:
         HolidayPanel &panel = *new HolidayPanel(desk.program, &window, &window);
         panel.start();
         open(window, panel);
-        QVERIFY(!control<QPushButton>(panel, "holidaysSave")->isEnabled());
+        QVERIFY(!control<QPushButton>(panel, "holidaysKeep")->isEnabled());
         QVERIFY(!control<QPushButton>(panel, "holidaysNew")->isEnabled());
         QTest::keyClick(control<QTableView>(panel, "holidaysList"), Qt::Key_Delete);
         QTest::keyClick(&panel, Qt::Key_Escape);
