@@ -132,9 +132,20 @@ int HolidayPanel::ownPlace() const
     return m_choice->currentIndex() < 0 ? -1 : m_choice->currentData().toInt();
 }
 
+/// What is to be written: a country's holidays that are as they came are not the household's.
+HolidayFile HolidayPanel::wanted() const
+{
+    HolidayFile wanted = m_own;
+    wanted.sets.removeIf([this](const HolidaySet &set) {
+        return m_sets.isBuiltIn(set.name) && set == m_sets.builtIn(set.name) &&
+               m_sets.own().set(set.name) == nullptr;
+    });
+    return wanted;
+}
+
 bool HolidayPanel::isModified() const
 {
-    return m_own.sets != m_sets.own().sets;
+    return wanted().sets != m_sets.own().sets;
 }
 
 void HolidayPanel::showSet()
@@ -247,7 +258,7 @@ void HolidayPanel::save()
         setWords(RuleLines::changedMeanwhile());
         return;
     }
-    if (!HolidaySets::save(m_program.folder, m_own)) {
+    if (!HolidaySets::save(m_program.folder, wanted())) {
         setWords(RuleLines::notSaved());
         emit said(RuleLines::notSaved());
         return;

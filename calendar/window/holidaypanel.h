@@ -35,6 +35,7 @@ private:
     QWidget *makeSets();
     void offerSets(const QString &name);
     int ownPlace() const;
+    HolidayFile wanted() const;
     void showSet();
     void take();
     void rename();
