@@ -370,7 +370,9 @@ void JournalText::setMargins()
     const int room = contentsRect().width() - 20; // a scroll bar may come
     const int margin = std::max(0, (room - widest) / 2);
     setViewportMargins(margin, 0, margin, 0);
-    m_pictures.setWidth(std::min(widest, room) - 2 * leastMargin, devicePixelRatioF());
+    // A picture with its caption and a line above fits into a low page too.
+    const int high = contentsRect().height() - 2 * leastMargin - 2 * fontMetrics().lineSpacing();
+    m_pictures.setRoom({std::min(widest, room) - 2 * leastMargin, high}, devicePixelRatioF());
 }
 
 void JournalText::changeEvent(QEvent *event)

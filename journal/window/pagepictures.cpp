@@ -15,6 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int mostHeight = 340;
+constexpr int leastHeight = 96;
 constexpr int above = 8;
 constexpr int below = 4;
 /// Of the frame with the name of one that is missing.
@@ -47,11 +48,12 @@ void PagePictures::forget()
     m_shown.clear();
 }
 
-void PagePictures::setWidth(int width, qreal pixelRatio)
+void PagePictures::setRoom(QSize room, qreal pixelRatio)
 {
-    if (width == m_width && pixelRatio == m_pixelRatio)
+    room.setHeight(std::clamp(room.height(), leastHeight, mostHeight));
+    if (room == m_room && pixelRatio == m_pixelRatio)
         return;
-    m_width = width;
+    m_room = room;
     m_pixelRatio = pixelRatio;
     m_loader->forget();
     m_shown.clear();
@@ -82,7 +84,7 @@ int PagePictures::height(int number) const
 void PagePictures::read(const QString &path)
 {
     m_shown[path].isAsked = true;
-    const QSize bound = QSizeF(m_width * m_pixelRatio, mostHeight * m_pixelRatio).toSize();
+    const QSize bound = (QSizeF(m_room) * m_pixelRatio).toSize();
     m_loader->load(KeptPictures::locate(m_folder, path), bound, [this, path](const LoadedPicture &loaded) {
         Shown &shown = m_shown[path];
         shown.image = loaded.image;
@@ -96,7 +98,7 @@ void PagePictures::read(const QString &path)
 
 void PagePictures::paint(QPainter &painter, int number, const QRectF &place)
 {
-    if (!has(number) || m_width <= 0)
+    if (!has(number) || m_room.width() <= 0)
         return;
     const QString path = m_pictures[number - 1].path;
     const Shown shown = m_shown[path];

@@ -24,8 +24,8 @@ public:
     const QList<JournalPicture> &pictures() const { return m_pictures; }
     /// None is kept in memory.
     void forget();
-    /// In which they have room, and how fine the screen is.
-    void setWidth(int width, qreal pixelRatio);
+    /// In which they have room, with the lines above and below; and how fine the screen is.
+    void setRoom(QSize room, qreal pixelRatio);
 
     bool has(int number) const { return number > 0 && number <= m_pictures.size(); }
     QString caption(int number) const;
@@ -52,6 +52,6 @@ private:
     PictureLoader *m_loader;
     QList<JournalPicture> m_pictures;
     std::map<QString, Shown> m_shown; ///< by their paths
-    int m_width = 0;
+    QSize m_room{0, 0};               ///< for one of them
     qreal m_pixelRatio = 1;
 };
