@@ -64,6 +64,7 @@ void placeDay(const GridFrame &frame, const Column &column, int row, int number,
     const qsizetype first = column.days[std::size_t(row)].place(laid.text, laid.lines);
     for (qsizetype i = first; i < lines.size(); ++i)
         block.left.push_back({laid.cell, lines[i]});
+    laid.left = int(lines.size() - qsizetype(laid.lines.size()));
     block.cells.push_back(std::move(laid));
 }
 

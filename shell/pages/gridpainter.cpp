@@ -21,6 +21,7 @@ constexpr double rule = 0.9;
 constexpr double corner = 3;
 constexpr double openGap = 1.5; ///< around a tone where there are no lines
 constexpr double footPoints = 7.5;
+constexpr double leftPoints = 7.5;
 constexpr double captionPoints = 9;
 constexpr double captionDrop = 3;
 constexpr double weekPoints = 8;
@@ -32,6 +33,14 @@ constexpr QColor grey(0x6B, 0x66, 0x5E); ///< of other months' numbers: also dar
 double middle(const PageType &type, const QRectF &rect)
 {
     return rect.top() + (rect.height() - type.lineHeight()) / 2;
+}
+
+/// Before the row of this number: beside numbers alone, where they stand.
+QRectF headPlace(const GridFrame &frame, const LaidBlock &block, int row)
+{
+    const auto first = std::size_t(row) * std::size_t(frame.columnCount());
+    const bool isBesideNumbers = frame.block().form == GridForm::Numbers && first < block.cells.size();
+    return isBesideNumbers ? block.cells[first].number : block.rows[std::size_t(row)];
 }
 
 } // namespace
@@ -70,7 +79,7 @@ void GridPainter::paintBlock(const GridFrame &frame, const LaidBlock &block) con
     paintSpans(frame, block);
     paintHeads(frame);
     for (int row = 0; row < int(std::min(frame.block().rows.size(), qsizetype(block.rows.size()))); ++row)
-        paintRowHead(frame, frame.block().rows[row], block.rows[std::size_t(row)]);
+        paintRowHead(frame, frame.block().rows[row], headPlace(frame, block, row));
     for (const LaidCell &cell : block.cells)
         paintCell(frame, cell);
     for (const LaidLine &note : block.notes)
@@ -202,6 +211,23 @@ void GridPainter::paintCell(const GridFrame &frame, const LaidCell &cell) const
         paintNumber(frame, cell);
     for (const LaidLine &line : cell.lines)
         paintEntry(frame, line);
+    if (cell.left > 0)
+        paintLeft(frame, cell);
+}
+
+/// "+3" where a day has more than stands there: beside its number, or at its foot where that place is taken.
+void GridPainter::paintLeft(const GridFrame &frame, const LaidCell &cell) const
+{
+    const PageType &type = m_types.of(leftPoints, GridTypes::Strong, GridColors::quiet);
+    const QString words = u'+' + QString::number(cell.left);
+    const double width = type.width(words) + 2;
+    const double height = GridTypes::pitch(leftPoints);
+    QRectF place(cell.rect.right() - width - 1.5, cell.rect.top() + 1.5, width, height);
+    const bool isWeek = frame.block().form == GridForm::Weeks;
+    if (isWeek && !cell.lines.empty() && cell.lines.front().rect.top() < cell.number.bottom())
+        place.moveBottom(cell.rect.bottom() - 1);
+    m_painter.fillRect(place, cell.cell->isTinted ? GridColors::tint : QColor(Qt::white));
+    type.draw(m_painter, {place.left() + 1, middle(type, place)}, words);
 }
 
 void GridPainter::paintNumber(const GridFrame &frame, const LaidCell &cell) const

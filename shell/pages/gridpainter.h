@@ -31,6 +31,7 @@ private:
     void paintHeads(const GridFrame &frame) const;
     void paintRowHead(const GridFrame &frame, const GridHead &head, const QRectF &row) const;
     void paintCell(const GridFrame &frame, const LaidCell &cell) const;
+    void paintLeft(const GridFrame &frame, const LaidCell &cell) const;
     void paintNumber(const GridFrame &frame, const LaidCell &cell) const;
     void paintEntry(const GridFrame &frame, const LaidLine &line) const;
     void fill(const QRectF &line, const QColor &color) const;

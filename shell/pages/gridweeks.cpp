@@ -120,6 +120,7 @@ void placeDay(const GridFrame &frame, const Week &week, int row, int column, Lai
     const QList<GridLine> &lines = laid.cell->lines;
     for (qsizetype i = day.below.place(laid.text, laid.lines); i < lines.size(); ++i)
         block.left.push_back({laid.cell, lines[i]});
+    laid.left = int(lines.size() - qsizetype(laid.lines.size()));
     block.cells.push_back(std::move(laid));
 }
 

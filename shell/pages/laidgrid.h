@@ -27,6 +27,7 @@ struct LaidCell {
     QRectF number{};
     QRectF text{}; ///< for its lines, down to its foot
     std::vector<LaidLine> lines{};
+    int left = 0; ///< how many of its lines stand in the list
 };
 
 /// A bar in its place.
