@@ -18,9 +18,10 @@ inline constexpr int WeightTracker = 1011;
 inline constexpr int ToDoList = 1012;
 inline constexpr int PasswordKeeper = 1013;
 inline constexpr int Journal = 1014;
+inline constexpr int CalendarMaker = 1015;
 
 inline constexpr int all[] = {ProgramOverview, AddressBook,      PasswordControl, Appearance,
                               PagePreview,     Planner,          AddressViewer,   Keys,
                               Budget,          BackupAndRestore, CarLog,          WeightTracker,
-                              ToDoList,        PasswordKeeper,   Journal};
+                              ToDoList,        PasswordKeeper,   Journal,         CalendarMaker};
 } // namespace HelpContext

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calendar/window/calendarprintpanel.h"
+
+#include "calendar/model/calendarpages.h"
+#include "shell/controls/choicegrid.h"
+#include "shell/core/dates.h"
+
+#include <QComboBox>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int monthWidth = 168;
+} // namespace
+
+CalendarPrintPanel::CalendarPrintPanel(QWidget *parent)
+    : TaskPanel(u"calendarPrintPanel"_s, u"Print Options"_s, parent)
+    , m_what(new ChoiceGrid(u"printWhat"_s, this))
+{
+    auto *content = new QWidget(this);
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins({});
+    column->setSpacing(8);
+    column->addWidget(makeHeading(u"What is printed"_s, content));
+    m_what->add(u"&All months"_s);
+    m_what->add(u"The &month that is shown"_s);
+    m_what->add(u"The mo&nths"_s, makeRange());
+    column->addWidget(m_what);
+    column->addStretch(1);
+    setContent(content);
+    m_pages = addButton(u"calendarPrintShow"_s, u"Show &Pages"_s);
+    m_pdf = addButton(u"calendarPrintPdf"_s, u"&Save as PDF..."_s);
+    QPushButton *close = setLeaveButton(u"calendarPrintClose"_s, u"C&lose"_s);
+    QWidget *last = m_what->lastInTab();
+    for (QWidget *button : {m_pages, m_pdf, close})
+        setTabOrder(std::exchange(last, button), button);
+    setFocusProxy(m_what);
+    connect(m_pages, &QPushButton::clicked, this, &CalendarPrintPanel::pagesWanted);
+    connect(m_pdf, &QPushButton::clicked, this, &CalendarPrintPanel::pdfWanted);
+}
+
+QWidget *CalendarPrintPanel::makeRange()
+{
+    auto *range = new QWidget(this);
+    m_from = named(new QComboBox(range), u"printFromMonth"_s);
+    m_to = named(new QComboBox(range), u"printToMonth"_s);
+    m_from->setAccessibleName(u"From the month"_s);
+    m_to->setAccessibleName(u"To the month"_s);
+    auto *row = new QHBoxLayout(range);
+    row->setContentsMargins({});
+    row->setSpacing(8);
+    for (QComboBox *box : {m_from, m_to}) {
+        box->setFixedWidth(boxWidth(u"September 2027"_s, monthWidth));
+        row->addWidget(box);
+        if (box == m_from)
+            row->addWidget(makeQuietLabel(u"to"_s, range));
+    }
+    row->addStretch(1);
+    return range;
+}
+
+void CalendarPrintPanel::start(const WallCalendar &calendar, QDate month, bool isForPdf)
+{
+    m_calendar = calendar;
+    m_from->clear();
+    m_to->clear();
+    for (int index = 0; index < calendar.months; ++index) {
+        m_from->addItem(Dates::monthYear(calendar.month(index)));
+        m_to->addItem(Dates::monthYear(calendar.month(index)));
+        m_shown = calendar.month(index) == month ? index : m_shown;
+    }
+    m_from->setCurrentIndex(m_shown);
+    m_to->setCurrentIndex(calendar.months - 1);
+    m_what->choose(isForPdf ? All : ThisMonth);
+    setButtonKind(m_pages, isForPdf ? ButtonKind::Plain : ButtonKind::Main);
+    setButtonKind(m_pdf, isForPdf ? ButtonKind::Main : ButtonKind::Plain);
+}
+
+QList<int> CalendarPrintPanel::sheets() const
+{
+    int from = 0;
+    int to = m_calendar.months - 1;
+    if (m_what->chosen() == ThisMonth) {
+        from = to = m_shown;
+    } else if (m_what->chosen() == Range) {
+        from = std::clamp(m_from->currentIndex(), 0, to);
+        to = std::clamp(m_to->currentIndex(), from, to);
+    }
+    QList<int> sheets;
+    for (int month = from; month <= to; ++month) {
+        const int sheet = CalendarPages::sheetOf(m_calendar, month);
+        if (!sheets.contains(sheet))
+            sheets.append(sheet);
+    }
+    return sheets;
+}

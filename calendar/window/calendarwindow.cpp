@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calendar/window/calendarwindow.h"
+
+#include "calendar/model/messages.h"
+#include "calendar/window/barcommands.h"
+#include "calendar/window/calendarcommands.h"
+#include "calendar/window/calendarprint.h"
+#include "calendar/window/calendarspane.h"
+#include "calendar/window/calendarspelling.h"
+#include "calendar/window/cellcommands.h"
+#include "calendar/window/celltyping.h"
+#include "calendar/window/fillcommands.h"
+#include "calendar/window/monthcells.h"
+#include "calendar/window/monthpage.h"
+#include "calendar/window/opencalendars.h"
+#include "calendar/window/photocommands.h"
+#include "calendar/window/windowlines.h"
+#include "shell/controls/activitybar.h"
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/emptypage.h"
+#include "shell/core/helpcontexts.h"
+#include "shell/core/place.h"
+#include "shell/frame/commonkeys.h"
+#include "shell/frame/sidesplitter.h"
+#include "shell/frame/undostack.h"
+#include "shell/frame/windowtoolbar.h"
+#include "shell/frame/windowwriting.h"
+#include "shell/frame/workviews.h"
+
+#include <QHideEvent>
+#include <QMenu>
+#include <QSettings>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView zoomKey("Windows/Calendar/wholeSheet");
+
+WindowTraits traits()
+{
+    return {.name = u"Calendar"_s,
+            .caption = u"Calendar Maker"_s,
+            .activity = u"Calendar Maker"_s,
+            .colors = {SettingsKeys::calendarColor, SettingsKeys::calendarProgramColor,
+                       SettingsKeys::calendarTextColor},
+            .helpContext = HelpContext::CalendarMaker};
+}
+
+} // namespace
+
+Calendar::Calendar(Program &program, QWidget *parent)
+    : FunctionWindow(program, traits(), parent)
+    , m_calendars(new OpenCalendars(program, this))
+    , m_writing(WindowWriting::make(program, this))
+    , m_stack(new WorkViews(this))
+    , m_page(new MonthPage(program, *m_calendars))
+    , m_empty(new EmptyPage("calendar"_L1, u"There is no calendar yet"_s,
+                            u"A calendar is filled from what the household has planned, and by hand."_s))
+    , m_pane(new CalendarsPane(*m_calendars, m_page->sheets(), this))
+    , m_typing(new CellTyping(desk(), this))
+    , m_cells(new CellCommands(desk(), *m_typing, this))
+    , m_bars(new BarCommands(desk(), *m_typing, this))
+    , m_photos(new PhotoCommands(desk(), *m_typing, this))
+    , m_filling(new FillCommands(desk(), *m_typing, this))
+    , m_commands(new CalendarCommands(desk(), *m_typing, *m_filling, this))
+    , m_spelling(new CalendarSpelling(desk(), *m_typing, this))
+    , m_print(new CalendarPrint(desk(), *m_typing,
+                                {[this]() -> PreviewPane & { return preview(); }, activity()}, this))
+{
+    setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(),
+                             [](QSize window) { return window.width() < 1200 ? 212 : 272; }));
+    makeCommands();
+    setViews(m_stack);
+    connectParts();
+    connectPage();
+    finishFrame();
+    m_calendars->refresh();
+    m_calendars->show(m_calendars->nearest(clock().today()));
+    showCalendar();
+    watchFiles(m_calendars->fileNames());
+}
+
+CalendarDesk Calendar::desk()
+{
+    return {program(), *this, *m_calendars, commands(), *m_stack, *m_writing, *m_page};
+}
+
+QWidget *Calendar::makeWorkPanel()
+{
+    QWidget *panel = makePanel(u"calendarPanel"_s, m_stack);
+    m_stack->addHome(m_page);
+    m_stack->addHome(m_empty);
+    m_empty->hide();
+    return panel;
+}
+
+/// The tools stand in the order in which their commands are made.
+void Calendar::makeCommands()
+{
+    QMenu *options = addMenu(u"mO"_s, u"&Options"_s);
+    QMenu *edit = addMenu(u"mE"_s, u"&Edit"_s);
+    QMenu *view = addMenu(u"mV"_s, u"&View"_s);
+    QMenu *calendar = addMenu(u"mC"_s, u"Calen&dar"_s);
+    m_commands->addCommands(calendar);
+    m_filling->addCommands(calendar);
+    calendar->addSeparator();
+    m_photos->addCommands(calendar);
+    calendar->addSeparator();
+    m_commands->addTrashCommands(calendar);
+    undoStack().addCommands(edit);
+    edit->addSeparator();
+    m_cells->addCommands(edit);
+    edit->addSeparator();
+    m_bars->addCommands(edit);
+    makeView(view);
+    makeOptions(options);
+    m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s));
+    addUtilitiesMenu();
+    addHelpEntry();
+    commands().separateTools();
+    addUsualTools();
+    makeButtons();
+}
+
+void Calendar::makeOptions(QMenu *options)
+{
+    options->addAction(standard(Standard::PanelColor));
+    options->addAction(standard(Standard::TextColor));
+    options->addSeparator();
+    m_print->addCommands(options);
+    options->addSeparator();
+    commands().writing(commands().add(
+        options, u"mOSave"_s, u"&Save"_s, [this] { saveByCommand(); },
+        [this] { return m_calendars->whyLocked(); }, CommonKeys::save));
+    options->addSeparator();
+    options->addAction(standard(Standard::Exit));
+}
+
+void Calendar::makeView(QMenu *view)
+{
+    const auto needsCalendar = [this] {
+        return m_calendars->current() ? QString() : CalendarWindowLines::noCalendar();
+    };
+    commands().add(
+        view, u"mVPrev"_s, u"&Previous Month\tPgUp"_s, [this] { m_page->step(-1); }, needsCalendar);
+    commands().add(
+        view, u"mVNext"_s, u"&Next Month\tPgDown"_s, [this] { m_page->step(1); }, needsCalendar);
+    commands().add(
+        view, u"mVToday"_s, u"&This Month"_s, [this] { m_page->showDay(clock().today()); }, needsCalendar);
+    view->addSeparator();
+    m_whole =
+        commands().add(view, u"mVWhole"_s, u"&Whole Sheet"_s, [this] { setZoom(m_whole->isChecked()); });
+    m_whole->setCheckable(true);
+    m_whole->setChecked(program().store.value(zoomKey, true).toBool());
+    m_page->cells().setZoom(m_whole->isChecked() ? DrawnSheet::Zoom::WholeSheet
+                                                 : DrawnSheet::Zoom::SheetWidth);
+    view->addSeparator();
+    commands().add(
+        view, u"mVSearch"_s, u"&Search"_s, [this] { m_pane->startSearch(); }, needsCalendar,
+        CommonKeys::search);
+}
+
+void Calendar::setZoom(bool isWhole)
+{
+    program().store.setValue(zoomKey, isWhole);
+    m_page->cells().setZoom(isWhole ? DrawnSheet::Zoom::WholeSheet : DrawnSheet::Zoom::SheetWidth);
+}
+
+void Calendar::makeButtons()
+{
+    ButtonRow &foot = m_page->foot();
+    for (const auto &[command, name] : {std::pair(m_cells->removeCommand(), u"removeLine"_s),
+                                        std::pair(m_cells->dateCommand(), u"moveLine"_s)})
+        foot.addLeft(commands().button(command, name, command->text(), &foot));
+    foot.addRight(commands().button(m_filling->command(), u"fillButton"_s, m_filling->command()->text(),
+                                    &foot, ButtonKind::Main));
+    QAction *create = m_commands->createCommand();
+    m_pane->addButton(commands().button(create, u"newCalendarButton"_s, u"&New Calendar"_s, m_pane));
+    m_empty->addButton(
+        commands().button(create, u"firstCalendarButton"_s, u"&New Calendar"_s, m_empty, ButtonKind::Main));
+    foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
+}
+
+void Calendar::connectParts()
+{
+    const auto say = [this](const QString &line) { activity().say(line); };
+    const auto done = [this](const QString &line) {
+        activity().say(line);
+        undoStack().offer();
+    };
+    connect(m_calendars, &OpenCalendars::shown, this, &Calendar::showCalendar);
+    connect(m_calendars, &OpenCalendars::changed, this, &Calendar::follow);
+    connect(m_calendars, &OpenCalendars::edited, &undoStack(), qOverload<UndoStep>(&UndoStack::push));
+    connect(m_calendars, &OpenCalendars::fileTouched, this, [this] { watchFiles(m_calendars->fileNames()); });
+    connect(m_calendars, &OpenCalendars::said, this, say);
+    connect(m_typing, &CellTyping::said, this, say);
+    connect(m_typing, &CellTyping::changed, &commands(), &Commands::refresh);
+    connect(m_cells, &CellCommands::said, this, say);
+    connect(m_cells, &CellCommands::done, this, done);
+    connect(m_bars, &BarCommands::said, this, say);
+    connect(m_bars, &BarCommands::done, this, done);
+    connect(m_photos, &PhotoCommands::said, this, say);
+    connect(m_photos, &PhotoCommands::done, this, done);
+    connect(m_filling, &FillCommands::said, this, say);
+    connect(m_filling, &FillCommands::done, this, done);
+    connect(m_commands, &CalendarCommands::said, this, say);
+    connect(m_commands, &CalendarCommands::done, this, done);
+    connect(m_spelling, &CalendarSpelling::said, this, say);
+    connect(m_stack, &WorkViews::changed, this, [this] { m_typing->finish(); });
+    connect(&activity(), &ActivityBar::dayBegan, this, &Calendar::follow);
+}
+
+void Calendar::connectPage()
+{
+    connect(m_page, &MonthPage::said, this, [this](const QString &line) { activity().say(line); });
+    connect(m_page, &MonthPage::monthChanged, this, [this] { m_pane->setMonth(m_page->month()); });
+    connect(m_page, &MonthPage::moved, this, [this] {
+        commands().refresh();
+        m_cells->follow();
+    });
+    connect(m_pane, &CalendarsPane::calendarChosen, this, [this](int number) {
+        m_typing->finish();
+        m_calendars->show(number);
+    });
+    connect(m_pane, &CalendarsPane::monthChosen, this, [this](QDate month) {
+        m_typing->finish();
+        m_page->showDay(month);
+    });
+    connect(m_pane, &CalendarsPane::hitOpened, this, [this](QDate date, int line) {
+        m_typing->finish();
+        closePreview();
+        m_stack->goHome();
+        m_page->showDay(date);
+        m_page->cells().setLine(line);
+        m_page->setFocus();
+    });
+    connect(m_pane, &CalendarsPane::entered, m_page, [this] {
+        closePreview();
+        m_stack->goHome();
+        m_page->setFocus();
+    });
+    connect(&m_page->cells(), &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
+        findChild<QMenu *>(u"mE"_s)->popup(m_page->cells().viewport()->mapToGlobal(place));
+    });
+}
+
+void Calendar::showCalendar()
+{
+    const bool isThere = m_calendars->current();
+    activity().say(isThere ? m_calendars->whyLocked() : QString());
+    m_stack->setHome(isThere ? static_cast<QWidget *>(m_page) : m_empty);
+    closePreview();
+    m_stack->goHome();
+    m_page->startOver();
+    m_stack->home()->setFocus();
+    commands().refresh();
+    m_filling->checkSoon();
+}
+
+void Calendar::follow()
+{
+    m_page->follow();
+    m_cells->follow();
+    if (const CalendarHead *head = m_calendars->head(); head && head->title != m_calendars->calendar().title)
+        m_calendars->refresh();
+    commands().refresh();
+}
+
+bool Calendar::isModified() const
+{
+    m_typing->finish();
+    const bool isSaved = m_calendars->isSaved() || m_calendars->save();
+    return !isSaved || m_commands->isModified();
+}
+
+bool Calendar::save()
+{
+    return m_calendars->save();
+}
+
+void Calendar::drop()
+{
+    m_calendars->reread();
+}
+
+/// The disk has refused; Yes leaves all the same.
+Answer Calendar::askToLeave()
+{
+    return ask(CalendarMessages::leaveUnsaved()) == Answer::Yes ? Answer::No : Answer::Cancel;
+}
+
+/// What other windows have changed meanwhile may be missing here.
+void Calendar::changeEvent(QEvent *event)
+{
+    FunctionWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_filling->checkAgain();
+}
+
+/// What was deleted leaves the disk with the window.
+void Calendar::hideEvent(QHideEvent *event)
+{
+    FunctionWindow::hideEvent(event);
+    if (!event->spontaneous() && !m_calendars->throwAway())
+        emit program().changes.settingNotSaved();
+}
+
+void Calendar::saveByCommand()
+{
+    m_typing->finish();
+    if (m_calendars->save())
+        activity().say(CalendarWindowLines::saved());
+}
+
+void Calendar::filesChanged()
+{
+    m_typing->finish();
+    closePreview();
+    const bool isWhole = m_calendars->reread();
+    activity().say(isWhole ? CalendarWindowLines::changedElsewhere()
+                           : CalendarWindowLines::changedElsewhereToo());
+}
+
+void Calendar::showPlace(const Place &place)
+{
+    m_typing->finish();
+    closePreview();
+    m_stack->goHome();
+    m_calendars->show(place.record);
+    m_page->showDay(place.date);
+    m_page->setFocus();
+}

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calendar/window/drawnsheet.h"
+
+#include "shell/look/theme.h"
+
+#include <QAbstractButton>
+#include <QHeaderView>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+constexpr int deskMargin = 8;
+constexpr double unseen = 22;     ///< of the sheet's empty margins, in points, so that its days are larger
+constexpr double mostScale = 2.0; ///< pixels for a point
+
+} // namespace
+
+DrawnSheet::DrawnSheet(QWidget *parent)
+    : QTableView(parent)
+    , m_days(new DaysOfSheet(this))
+{
+    setModel(m_days);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameShape(NoFrame);
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    for (QAbstractButton *corner : findChildren<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly))
+        corner->hide(); // the table would place it with its headers
+}
+
+bool DrawnSheet::setSheet(std::shared_ptr<const CalendarSheet> sheet, DaysOfSheet::Words words)
+{
+    m_sheet = std::move(sheet);
+    m_picture = {};
+    setAccessibleDescription(m_sheet->description);
+    const bool isOther = m_days->setPlan(m_sheet->plan, std::move(words));
+    updateGeometries();
+    viewport()->update();
+    return isOther;
+}
+
+void DrawnSheet::setZoom(Zoom zoom)
+{
+    if (std::exchange(m_zoom, zoom) == zoom)
+        return;
+    updateGeometries();
+    scrollTo(currentIndex());
+    viewport()->update();
+}
+
+double DrawnSheet::scale() const
+{
+    const QSizeF size = seen().size();
+    if (!m_sheet || size.isEmpty())
+        return 1;
+    const double across = (viewport()->width() - 2 * deskMargin) / size.width();
+    const double down = (viewport()->height() - 2 * deskMargin) / size.height();
+    return std::clamp(m_zoom == Zoom::SheetWidth ? across : std::min(across, down), 0.1, mostScale);
+}
+
+/// The part of the sheet that is shown, in points.
+QRectF DrawnSheet::seen() const
+{
+    return QRectF({}, plan().sheet).adjusted(unseen, unseen, -unseen, -unseen);
+}
+
+QPoint DrawnSheet::origin() const
+{
+    const QSizeF size = seen().size() * scale();
+    const int x = std::max(deskMargin, int((viewport()->width() - size.width()) / 2));
+    const int y = std::max(deskMargin, int((viewport()->height() - size.height()) / 2));
+    const QPoint corner = (seen().topLeft() * scale()).toPoint();
+    return QPoint(x, y - verticalScrollBar()->value()) - corner;
+}
+
+QPointF DrawnSheet::onSheet(QPoint point) const
+{
+    return QPointF(point - origin()) / scale();
+}
+
+QRect DrawnSheet::onScreen(const QRectF &place) const
+{
+    return QRectF(place.topLeft() * scale(), place.size() * scale()).toAlignedRect().translated(origin());
+}
+
+QRect DrawnSheet::visualRect(const QModelIndex &index) const
+{
+    const int place = m_days->cellOf(index);
+    return place < 0 ? QRect() : onScreen(plan().cells[std::size_t(place)].place);
+}
+
+QModelIndex DrawnSheet::indexAt(const QPoint &point) const
+{
+    return m_sheet ? m_days->indexOf(plan().cellAt(onSheet(point))) : QModelIndex();
+}
+
+void DrawnSheet::scrollTo(const QModelIndex &index, ScrollHint)
+{
+    const QRect place = visualRect(index);
+    QScrollBar *bar = verticalScrollBar();
+    if (place.isNull() || bar->maximum() == 0)
+        return;
+    if (place.top() < deskMargin)
+        bar->setValue(bar->value() + place.top() - deskMargin);
+    else if (place.bottom() > viewport()->height() - deskMargin)
+        bar->setValue(bar->value() + place.bottom() - viewport()->height() + deskMargin);
+}
+
+void DrawnSheet::updateGeometries()
+{
+    const int height = int(std::ceil(seen().height() * scale())) + 2 * deskMargin;
+    verticalScrollBar()->setPageStep(viewport()->height());
+    verticalScrollBar()->setSingleStep(40);
+    verticalScrollBar()->setRange(0, std::max(0, height - viewport()->height()));
+}
+
+void DrawnSheet::scrollContentsBy(int, int)
+{
+    placeOver();
+    viewport()->update();
+}
+
+void DrawnSheet::resizeEvent(QResizeEvent *event)
+{
+    QAbstractScrollArea::resizeEvent(event);
+    updateGeometries();
+    scrollTo(currentIndex());
+    placeOver();
+}
+
+QModelIndex DrawnSheet::moveCursor(CursorAction, Qt::KeyboardModifiers)
+{
+    return currentIndex();
+}
+
+void DrawnSheet::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags flags)
+{
+    selectionModel()->select(indexAt(rect.topLeft()), flags);
+}
+
+QRegion DrawnSheet::visualRegionForSelection(const QItemSelection &selection) const
+{
+    QRegion region;
+    for (const QModelIndex &index : selection.indexes())
+        region += visualRect(index);
+    return region;
+}
+
+const QPixmap &DrawnSheet::picture()
+{
+    const double pixels = scale() * devicePixelRatioF();
+    if (m_picture.isNull() || m_pictureScale != pixels) {
+        m_pictureScale = pixels;
+        const QSizeF size = seen().size() * pixels;
+        m_picture =
+            QPixmap(std::max(1, int(std::ceil(size.width()))), std::max(1, int(std::ceil(size.height()))));
+        m_picture.fill(Qt::white);
+        QPainter painter(&m_picture);
+        painter.scale(pixels, pixels);
+        painter.translate(-seen().topLeft());
+        m_sheet->paint(painter);
+        painter.end();
+        m_picture.setDevicePixelRatio(devicePixelRatioF());
+    }
+    return m_picture;
+}
+
+void DrawnSheet::paintEvent(QPaintEvent *)
+{
+    QPainter painter(viewport());
+    const Theme &theme = Theme::of(this);
+    painter.fillRect(viewport()->rect(), theme.desk);
+    if (!m_sheet)
+        return;
+    const QRect sheet = onScreen(seen());
+    painter.fillRect(sheet.translated(2, 3), QColor(0, 0, 0, 36));
+    painter.drawPixmap(sheet.topLeft(), picture());
+    paintMarks(painter);
+}

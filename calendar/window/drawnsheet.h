@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "calendar/window/calendarsheet.h"
+#include "calendar/window/daysofsheet.h"
+
+#include <QPixmap>
+#include <QTableView>
+
+#include <memory>
+
+/// A sheet of a calendar on its desk, fitted whole or as wide as the view: a table whose cells stand where
+/// the sheet has its days.
+class DrawnSheet : public QTableView
+{
+    Q_OBJECT
+public:
+    explicit DrawnSheet(QWidget *parent = nullptr);
+
+    enum class Zoom { WholeSheet, SheetWidth };
+    void setZoom(Zoom zoom);
+    Zoom zoom() const { return m_zoom; }
+
+    QRect visualRect(const QModelIndex &index) const override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+    QModelIndex indexAt(const QPoint &point) const override;
+    QSize sizeHint() const override { return {760, 540}; }
+    QSize minimumSizeHint() const override { return {320, 240}; }
+
+protected:
+    /// Returns whether its days are others than before.
+    bool setSheet(std::shared_ptr<const CalendarSheet> sheet, DaysOfSheet::Words words);
+    bool hasSheet() const { return bool(m_sheet); }
+    const SheetPlan &plan() const { return m_days->plan(); }
+    const DaysOfSheet &days() const { return *m_days; }
+    QPointF onSheet(QPoint point) const;
+    QRect onScreen(const QRectF &place) const;
+
+    /// What stands over the sheet is to be placed anew.
+    virtual void placeOver() = 0;
+    virtual void paintMarks(QPainter &painter) const = 0;
+
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags flags) override;
+    QRegion visualRegionForSelection(const QItemSelection &selection) const override;
+
+private:
+    double scale() const;
+    QRectF seen() const;
+    QPoint origin() const; ///< of the sheet in the viewport
+    const QPixmap &picture();
+
+    std::shared_ptr<const CalendarSheet> m_sheet;
+    DaysOfSheet *m_days;
+    Zoom m_zoom = Zoom::WholeSheet;
+    QPixmap m_picture;
+    double m_pictureScale = 0;
+};
