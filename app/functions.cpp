@@ -10,6 +10,11 @@
 #include "budget/model/budgetnews.h"
 #include "budget/model/budgetsource.h"
 #include "budget/window/budgetwindow.h"
+#include "calendar/model/calendarfiles.h"
+#include "calendar/model/calendarholdings.h"
+#include "calendar/model/calendarnews.h"
+#include "calendar/model/calendarsource.h"
+#include "calendar/window/calendarwindow.h"
 #include "cars/model/carfiles.h"
 #include "cars/model/carnews.h"
 #include "cars/model/carsource.h"
@@ -139,6 +144,37 @@ void showInBudget(QWidget &window, const Place &place)
 {
     if (auto *budget = qobject_cast<Budget1 *>(&window))
         budget->showPlace(place);
+}
+
+std::optional<LiveLine> calendarNews(const Program &program, QDate today)
+{
+    return CalendarNews::liveLine(program.folder, today);
+}
+
+QStringList calendarLiveFiles(const Program &program)
+{
+    return CalendarFiles::names(program.folder);
+}
+
+std::unique_ptr<SearchSource> calendarSearch(const Program &program)
+{
+    return std::make_unique<CalendarSource>(program.folder, program.state.dateStyle);
+}
+
+QStringList calendarFiles(const Program &program)
+{
+    return CalendarHoldings::files(program.folder);
+}
+
+QStringList calendarPictures(const Program &program)
+{
+    return CalendarHoldings::pictures(program.folder);
+}
+
+void showInCalendar(QWidget &window, const Place &place)
+{
+    if (auto *calendar = qobject_cast<Calendar *>(&window))
+        calendar->showPlace(place);
 }
 
 std::optional<LiveLine> carNews(const Program &program, QDate today)
@@ -335,6 +371,13 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                       .search = plannerSearch,
                                       .show = showInPlanner,
                                       .files = plannerFiles});
+    functions.add(Function::CalendarMaker, {.open = makeWindow<Calendar>,
+                                            .liveLine = calendarNews,
+                                            .moreLiveFiles = calendarLiveFiles,
+                                            .search = calendarSearch,
+                                            .show = showInCalendar,
+                                            .files = calendarFiles,
+                                            .pictures = calendarPictures});
     functions.add(Function::Budget, {.open = makeWindow<Budget1>,
                                      .liveLine = budgetNews,
                                      .liveFiles = BudgetNews::liveFiles(clock.today()),

@@ -55,41 +55,43 @@ private slots:
         using Keys = std::vector<std::pair<QKeySequence, QStringList>>;
         const Keys expected{
             {CommonKeys::search,
-             {u"ADDBKDISPLAY.mEFind"_s, u"ADDBKVIEW.mEFind"_s, u"DJournal.mVSearch"_s, u"Form4.mVSearch"_s,
-              u"ToDo1.mVSearch"_s, u"Zcalandar1.mEFind"_s}},
+             {u"ADDBKDISPLAY.mEFind"_s, u"ADDBKVIEW.mEFind"_s, u"Calendar.mVSearch"_s, u"DJournal.mVSearch"_s,
+              u"Form4.mVSearch"_s, u"ToDo1.mVSearch"_s, u"Zcalandar1.mEFind"_s}},
             {CommonKeys::everything,
              {u"ADDBKDISPLAY.searchEverything"_s, u"ADDBKVIEW.searchEverything"_s,
-              u"AutoMaint.searchEverything"_s, u"Budget1.searchEverything"_s, u"DJournal.searchEverything"_s,
-              u"Form31.searchEverything"_s, u"Form4.searchEverything"_s, u"ToDo1.searchEverything"_s,
-              u"WeightTracker.searchEverything"_s, u"Zcalandar1.searchEverything"_s}},
+              u"AutoMaint.searchEverything"_s, u"Budget1.searchEverything"_s, u"Calendar.searchEverything"_s,
+              u"DJournal.searchEverything"_s, u"Form31.searchEverything"_s, u"Form4.searchEverything"_s,
+              u"ToDo1.searchEverything"_s, u"WeightTracker.searchEverything"_s,
+              u"Zcalandar1.searchEverything"_s}},
             {CommonKeys::newEntry,
-             {u"ADDBKVIEW.mOES"_s, u"AutoMaint.mONew"_s, u"Budget1.mEInsert"_s, u"Form4.mENew"_s,
-              u"ToDo1.mENew"_s, u"WeightTracker.mONew"_s}},
+             {u"ADDBKVIEW.mOES"_s, u"AutoMaint.mONew"_s, u"Budget1.mEInsert"_s, u"Calendar.mCNew"_s,
+              u"Form4.mENew"_s, u"ToDo1.mENew"_s, u"WeightTracker.mONew"_s}},
             {CommonKeys::save,
-             {u"ADDBKVIEW.mONS"_s, u"AutoMaint.mOSave"_s, u"Budget1.mOSave"_s, u"DJournal.mOSave"_s,
-              u"Form31.mOSave"_s, u"Form4.mESave"_s, u"ToDo1.mOSave"_s, u"WeightTracker.mOSave"_s,
-              u"Zcalandar1.mOSave"_s}},
+             {u"ADDBKVIEW.mONS"_s, u"AutoMaint.mOSave"_s, u"Budget1.mOSave"_s, u"Calendar.mOSave"_s,
+              u"DJournal.mOSave"_s, u"Form31.mOSave"_s, u"Form4.mESave"_s, u"ToDo1.mOSave"_s,
+              u"WeightTracker.mOSave"_s, u"Zcalandar1.mOSave"_s}},
             {CommonKeys::print,
              {u"ADDBKDISPLAY.mOPrt"_s, u"ADDBKVIEW.mOPrt"_s, u"AutoMaint.mOPrt"_s, u"Budget1.mOPrt"_s,
-              u"DJournal.mOPrt"_s, u"Form31.mOPrt"_s, u"Form4.mOPrt"_s, u"ToDo1.mOPrt"_s,
+              u"Calendar.mOPrt"_s, u"DJournal.mOPrt"_s, u"Form31.mOPrt"_s, u"Form4.mOPrt"_s, u"ToDo1.mOPrt"_s,
               u"WeightTracker.mOPrt"_s, u"Zcalandar1.mOPrt"_s}},
             {CommonKeys::undo,
              {u"ADDBKDISPLAY.mEUndo"_s, u"ADDBKVIEW.mEUndo"_s, u"AutoMaint.mEUndo"_s, u"Budget1.mEUndo"_s,
-              u"DJournal.mEUndo"_s, u"Form4.mEUndo"_s, u"ToDo1.mEUndo"_s, u"WeightTracker.mEUndo"_s,
-              u"Zcalandar1.mEUndo"_s}},
+              u"Calendar.mEUndo"_s, u"DJournal.mEUndo"_s, u"Form4.mEUndo"_s, u"ToDo1.mEUndo"_s,
+              u"WeightTracker.mEUndo"_s, u"Zcalandar1.mEUndo"_s}},
             {CommonKeys::redo,
              {u"ADDBKDISPLAY.mERedo"_s, u"ADDBKVIEW.mERedo"_s, u"AutoMaint.mERedo"_s, u"Budget1.mERedo"_s,
-              u"DJournal.mERedo"_s, u"Form4.mERedo"_s, u"ToDo1.mERedo"_s, u"WeightTracker.mERedo"_s,
-              u"Zcalandar1.mERedo"_s}},
+              u"Calendar.mERedo"_s, u"DJournal.mERedo"_s, u"Form4.mERedo"_s, u"ToDo1.mERedo"_s,
+              u"WeightTracker.mERedo"_s, u"Zcalandar1.mERedo"_s}},
             {CommonKeys::change, {u"ADDBKVIEW.mOMod"_s, u"Form4.mEChange"_s}},
             {CommonKeys::remove,
              {u"ADDBKDISPLAY.mODel"_s, u"ADDBKVIEW.mODel"_s, u"AutoMaint.clearCells"_s,
               u"AutoMaint.deleteFileKey"_s, u"AutoMaint.deleteFillUp"_s, u"AutoMaint.mEDelete"_s,
-              u"Budget1.mEClear"_s, u"Form4.mEDel"_s, u"ToDo1.mEDel"_s, u"WeightTracker.deletePersonKey"_s,
-              u"WeightTracker.mEDel"_s}},
+              u"Budget1.mEClear"_s, u"Calendar.mERemove"_s, u"Form4.mEDel"_s, u"ToDo1.mEDel"_s,
+              u"WeightTracker.deletePersonKey"_s, u"WeightTracker.mEDel"_s}},
             {CommonKeys::help,
-             {u"ADDBKDISPLAY.mH"_s, u"ADDBKVIEW.mH"_s, u"AutoMaint.mH"_s, u"Budget1.mH"_s, u"DJournal.mH"_s,
-              u"Form31.mHPage"_s, u"Form4.mH"_s, u"ToDo1.mH"_s, u"WeightTracker.mH"_s, u"Zcalandar1.mH"_s}},
+             {u"ADDBKDISPLAY.mH"_s, u"ADDBKVIEW.mH"_s, u"AutoMaint.mH"_s, u"Budget1.mH"_s, u"Calendar.mH"_s,
+              u"DJournal.mH"_s, u"Form31.mHPage"_s, u"Form4.mH"_s, u"ToDo1.mH"_s, u"WeightTracker.mH"_s,
+              u"Zcalandar1.mH"_s}},
             {CommonKeys::views[0],
              {u"ADDBKVIEW.mOVS"_s, u"AutoMaint.mVDue"_s, u"Budget1.mVPlanned"_s, u"Form4.mVEntries"_s,
               u"ToDo1.mVToday"_s, u"WeightTracker.mVWeigh"_s, u"Zcalandar1.mVDay"_s}},
@@ -119,6 +121,19 @@ private slots:
         }
         for (QWidget *window : test.functions.openWindows())
             QVERIFY(window->close());
+    }
+
+    void notesOfAnyYearMakeNoFile()
+    {
+        TestProgram test(TestProgram::Household);
+        addFunctions(test.functions, test.clock);
+        const QStringList before = QDir(test.folder.path()).entryList();
+        for (int number = 0; number <= int(Function::AddressViewer); ++number) {
+            const FunctionEntry *entry = test.functions.entry(Function(number));
+            if (entry && entry->dayNotes)
+                entry->dayNotes(test.program, QDate(2035, 1, 1), QDate(2035, 12, 31));
+        }
+        QCOMPARE(QDir(test.folder.path()).entryList(), before);
     }
 
     void tellsTheNewsOfTheHousehold()
