@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double around = 1.5; ///< above and below the lines of a day
+constexpr double around = 1.2; ///< above and below the lines of a day
 
 /// The columns with their bars and their wrapped lines.
 struct Column {

@@ -75,7 +75,7 @@ void GridFrame::setSizes()
         m_titlePoints = 14;
         break;
     case GridForm::Days:
-        m_numberPoints = m_points + (isOpen ? 2 : 0.5);
+        m_numberPoints = m_points * 1.05 + (isOpen ? std::min(2.0, m_points - GridTypes::smallestPoints) : 0);
         m_headPoints = std::clamp(column * 0.1, 9.0, 11.0);
         m_titlePoints = 14;
         break;

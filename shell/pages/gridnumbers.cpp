@@ -58,14 +58,17 @@ Notes notesIn(const GridFrame &frame, const QRectF &place, int across)
     return notes;
 }
 
-/// In as few columns as hold them all.
+/// In as few columns as hold the most of them.
 Notes bestNotes(const GridFrame &frame, const QRectF &place)
 {
     const int most = std::max(1, int((place.width() + columnGap) / (narrowest + columnGap)));
-    Notes notes = notesIn(frame, place, 1);
-    for (int across = 2; across <= most && !notes.areAll; ++across)
-        notes = notesIn(frame, place, across);
-    return notes;
+    Notes best = notesIn(frame, place, 1);
+    for (int across = 2; across <= most && !best.areAll; ++across) {
+        Notes notes = notesIn(frame, place, across);
+        if (notes.laid.size() > best.laid.size())
+            best = std::move(notes);
+    }
+    return best;
 }
 
 /// A row of numbers: bars that touch it stand below them.
