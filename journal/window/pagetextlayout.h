@@ -6,7 +6,7 @@
 
 #include <functional>
 
-/// Lays out a plain text in which some lines have room above them, for a picture.
+/// Lays out a plain text in which some lines have room above them, for a picture, and the rows of lists hang.
 class PageTextLayout final : public QPlainTextDocumentLayout
 {
 public:
@@ -18,5 +18,7 @@ public:
     QRectF blockBoundingRect(const QTextBlock &block) const override;
 
 private:
+    static bool hang(QTextBlock block, QTextLayout &layout);
+
     RoomAbove m_roomAbove;
 };

@@ -157,6 +157,8 @@ void ToolbarCustomizer::fill()
     // The chosen one went to the bar: its neighbour may follow.
     if (m_available->currentRow() < 0 && !chosen.isEmpty())
         m_available->setCurrentRow(std::min(row, m_available->count() - 1));
+    if (m_available->count() == 0) // words that cannot be chosen
+        (new QListWidgetItem(u"All are on the toolbar"_s, m_available))->setFlags(Qt::NoItemFlags);
     offerButtons();
 }
 

@@ -223,6 +223,19 @@ private slots:
         QCOMPARE(page()->text(), after);
     }
 
+    void hangsTheRowsOfLists()
+    {
+        open();
+        keys(u"- "_s + u"bread and milk "_s.repeated(20));
+        const QTextLayout *row = page()->document()->begin().layout();
+        QTRY_COMPARE(row->lineAt(1).x(), row->lineAt(0).cursorToX(2));
+        QCOMPARE(row->lineAt(row->lineCount() - 1).x(), row->lineAt(1).x());
+        QCOMPARE(page()->document()->begin().lineCount(), row->lineCount());
+        key(Qt::Key_Home, Qt::ControlModifier);
+        key(Qt::Key_Delete); // no list any more
+        QTRY_COMPARE(row->lineAt(1).x(), row->lineAt(0).x());
+    }
+
     void pastesTheWordsAlone()
     {
         open();
