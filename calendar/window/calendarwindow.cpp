@@ -35,7 +35,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView zoomKey("Windows/Calendar/wholeSheet");
+/// Words on an upright sheet are too small to be read where all of it is shown.
+QString zoomKey(const CalendarLook &look)
+{
+    return u"Windows/Calendar/"_s + (look.isLandscape ? u"wholeSheet"_s : u"wholeUprightSheet"_s);
+}
 
 WindowTraits traits()
 {
@@ -152,9 +156,6 @@ void Calendar::makeView(QMenu *view)
     m_whole =
         commands().add(view, u"mVWhole"_s, u"&Whole Sheet"_s, [this] { setZoom(m_whole->isChecked()); });
     m_whole->setCheckable(true);
-    m_whole->setChecked(program().store.value(zoomKey, true).toBool());
-    m_page->cells().setZoom(m_whole->isChecked() ? DrawnSheet::Zoom::WholeSheet
-                                                 : DrawnSheet::Zoom::SheetWidth);
     view->addSeparator();
     commands().add(
         view, u"mVSearch"_s, u"&Search"_s, [this] { m_pane->startSearch(); }, needsCalendar,
@@ -163,7 +164,15 @@ void Calendar::makeView(QMenu *view)
 
 void Calendar::setZoom(bool isWhole)
 {
-    program().store.setValue(zoomKey, isWhole);
+    program().store.setValue(zoomKey(m_calendars->calendar().look), isWhole);
+    followZoom();
+}
+
+void Calendar::followZoom()
+{
+    const CalendarLook &look = m_calendars->calendar().look;
+    const bool isWhole = program().store.value(zoomKey(look), look.isLandscape).toBool();
+    m_whole->setChecked(isWhole);
     m_page->cells().setZoom(isWhole ? DrawnSheet::Zoom::WholeSheet : DrawnSheet::Zoom::SheetWidth);
 }
 
@@ -214,6 +223,7 @@ void Calendar::connectParts()
 void Calendar::connectPage()
 {
     connect(m_page, &MonthPage::said, this, [this](const QString &line) { activity().say(line); });
+    connect(m_page, &MonthPage::leftOverChanged, this, [this](const QString &line) { activity().say(line); });
     connect(m_page, &MonthPage::monthChanged, this, [this] { m_pane->setMonth(m_page->month()); });
     connect(m_page, &MonthPage::moved, this, [this] {
         commands().refresh();
@@ -252,6 +262,7 @@ void Calendar::showCalendar()
     m_stack->setHome(isThere ? static_cast<QWidget *>(m_page) : m_empty);
     closePreview();
     m_stack->goHome();
+    followZoom();
     m_page->startOver();
     m_stack->home()->setFocus();
     commands().refresh();
@@ -260,6 +271,7 @@ void Calendar::showCalendar()
 
 void Calendar::follow()
 {
+    followZoom();
     m_page->follow();
     m_cells->follow();
     if (const CalendarHead *head = m_calendars->head(); head && head->title != m_calendars->calendar().title)
@@ -329,5 +341,6 @@ void Calendar::showPlace(const Place &place)
     m_stack->goHome();
     m_calendars->show(place.record);
     m_page->showDay(place.date);
+    m_page->cells().setLine(place.row);
     m_page->setFocus();
 }

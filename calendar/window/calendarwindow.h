@@ -51,6 +51,7 @@ private:
     void follow();
     void saveByCommand();
     void setZoom(bool isWhole);
+    void followZoom();
 
     OpenCalendars *m_calendars;
     Writing *m_writing;

@@ -91,14 +91,8 @@ void MonthCells::follow()
 
 QList<int> MonthCells::linesOfDay() const
 {
-    QList<int> lines;
-    if (const int place = cell(); place >= 0) {
-        for (const SheetPlan::Line &line : plan().cells[std::size_t(place)].lines) {
-            if (!lines.contains(line.line))
-                lines.append(line.line);
-        }
-    }
-    return lines;
+    const int place = cell();
+    return place < 0 ? QList<int>() : plan().cells[std::size_t(place)].all;
 }
 
 // Keys
@@ -206,8 +200,13 @@ void MonthCells::choose(int cell, bool isChoosing)
     emit moved();
 }
 
+/// To another column; where there is one alone, to the same day of another month.
 void MonthCells::walkPersons(int by)
 {
+    if (plan().columns == 1) {
+        go(m_day.addMonths(std::clamp(by, -1, 1)), false);
+        return;
+    }
     m_person = std::clamp(m_person + by, 0, plan().columns - 1);
     m_line = -1;
     follow();
@@ -290,8 +289,13 @@ void MonthCells::wheelEvent(QWheelEvent *event)
 {
     if (verticalScrollBar()->maximum() > 0)
         QAbstractScrollArea::wheelEvent(event);
-    else if (event->angleDelta().y() != 0 && !m_editor->isOpen())
-        emit monthStepped(event->angleDelta().y() > 0 ? -1 : 1);
+    else if (!m_editor->isOpen()) {
+        m_wheel += event->angleDelta().y();
+        const int notches = m_wheel / QWheelEvent::DefaultDeltasPerStep;
+        m_wheel %= QWheelEvent::DefaultDeltasPerStep;
+        if (notches != 0)
+            emit monthStepped(-notches);
+    }
 }
 
 void MonthCells::startDrag()

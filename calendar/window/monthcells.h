@@ -93,4 +93,5 @@ private:
     bool m_isPressed = false;
     int m_pressedLine = -1;
     int m_dropCell = -1;
+    int m_wheel = 0; ///< turned since the last month
 };

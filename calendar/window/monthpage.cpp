@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -80,6 +81,7 @@ void MonthPage::step(int months)
 void MonthPage::startOver()
 {
     m_month = {};
+    m_leftOver = 0;
     m_cells->setDay({});
     if (!m_calendars.current())
         return;
@@ -123,5 +125,6 @@ void MonthPage::showSheet()
         [&calendars](QDate date, int line) {
             return CalendarWindowLines::chosenLine(calendars.calendar(), date, line);
         });
-    m_foot->setWords(CalendarWindowLines::leftOver(sheet->leftOver));
+    if (std::exchange(m_leftOver, sheet->leftOver) != sheet->leftOver)
+        emit leftOverChanged(CalendarWindowLines::leftOver(sheet->leftOver));
 }

@@ -36,6 +36,8 @@ public:
 signals:
     /// Another month is shown.
     void monthChanged();
+    /// Another number of lines has no room in its day; the sentence is for the status bar.
+    void leftOverChanged(const QString &line);
     /// Another day, line or choice of days.
     void moved();
     void said(const QString &line);
@@ -52,4 +54,5 @@ private:
     MonthCells *m_cells;
     ButtonRow *m_foot;
     QDate m_month;
+    int m_leftOver = 0;
 };

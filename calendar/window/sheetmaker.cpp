@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/window/sheetmaker.h"
 
+#include "calendar/model/calendaredits.h"
 #include "calendar/model/calendarpages.h"
 #include "calendar/window/windowlines.h"
 #include "shell/pages/gridlayout.h"
 #include "shell/pictures/keptpictures.h"
-#include "shell/pictures/pictureloader.h"
 #include "shell/preview/previewpane.h"
 #include "shell/program/program.h"
 
@@ -18,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QSize photoPixels(1400, 1400); ///< of a photo on the screen
+constexpr double fewestDots = 100;       ///< that an inch of paper shows
 
 int indexOf(const WallCalendar &calendar, QDate month)
 {
@@ -29,7 +30,7 @@ bool hasRoomForLines(CalendarLayout layout)
     return layout != CalendarLayout::Year && layout != CalendarLayout::Pocket;
 }
 
-SheetPlan::Cell cellOf(const LaidCell &laid, int firstRow)
+SheetPlan::Cell cellOf(const WallCalendar &calendar, const LaidCell &laid, int firstRow)
 {
     SheetPlan::Cell cell;
     cell.date = laid.cell->date;
@@ -42,17 +43,25 @@ SheetPlan::Cell cellOf(const LaidCell &laid, int firstRow)
         if (line.line->index >= 0)
             cell.lines.push_back({line.rect, line.line->index});
     }
+    if (laid.block->form != GridForm::Days) {
+        cell.all = CalendarEdits::visibleLines(calendar, cell.date);
+        return cell;
+    }
+    for (const GridLine &line : laid.cell->lines) { // those of a person
+        if (line.index >= 0)
+            cell.all.append(line.index);
+    }
     return cell;
 }
 
-SheetPlan planOf(const GridLayout &layout, QSizeF sheet)
+SheetPlan planOf(const WallCalendar &calendar, const GridLayout &layout, QSizeF sheet)
 {
     SheetPlan plan;
     plan.sheet = sheet;
     for (const GridLayout::Block &block : layout.blocks()) {
         int rows = 0;
         for (const LaidCell &laid : block.laid.cells) {
-            plan.cells.push_back(cellOf(laid, plan.rows));
+            plan.cells.push_back(cellOf(calendar, laid, plan.rows));
             plan.isByPerson = plan.isByPerson || laid.block->form == GridForm::Days;
             rows = std::max(rows, laid.row + 1);
             plan.columns = std::max(plan.columns, laid.column + 1);
@@ -68,12 +77,14 @@ SheetPlan planOf(const GridLayout &layout, QSizeF sheet)
     return plan;
 }
 
-void paintPhoto(QPainter &painter, const QRectF &place, const QImage &photo)
+/// As on paper: as large as fits and is good for its dots.
+void paintPhoto(QPainter &painter, const QRectF &place, const LoadedPicture &photo)
 {
-    const QSizeF size = QSizeF(photo.size()).scaled(place.size(), Qt::KeepAspectRatio);
+    const QSizeF good = QSizeF(photo.pixels) * (PageMetrics::pointsPerInch / fewestDots);
+    const QSizeF size = QSizeF(photo.pixels).scaled(place.size().boundedTo(good), Qt::KeepAspectRatio);
     const QPointF corner = place.center() - QPointF(size.width(), size.height()) / 2;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(corner, size), photo);
+    painter.drawImage(QRectF(corner, size), photo.image);
 }
 
 } // namespace
@@ -108,18 +119,18 @@ std::shared_ptr<const CalendarSheet> SheetMaker::sheet(const WallCalendar &calen
     const std::shared_ptr<const PageGrid> grid = this->grid(calendar, month);
     const auto layout = std::make_shared<const GridLayout>(grid, PreviewPane::usualFont());
     auto sheet = std::make_shared<CalendarSheet>();
-    sheet->plan = planOf(*layout, points);
+    sheet->plan = planOf(calendar, *layout, points);
     sheet->leftOver = layout->restCount();
     sheet->description = CalendarWindowLines::sheetWords(calendar, month);
     const bool hasPhoto = grid->hasPhoto && !grid->photo.path.isEmpty();
     if (hasPhoto && grid->photo.path != m_photoPath)
         askForPhoto(grid->photo.path);
-    const bool isRead = hasPhoto && !m_photo.isNull();
-    sheet->paint = [layout, photo = isRead ? m_photo : QImage(),
+    const bool isRead = hasPhoto && !m_photo.image.isNull();
+    sheet->paint = [layout, photo = isRead ? m_photo : LoadedPicture(),
                     isWaited = hasPhoto && m_isWaiting](QPainter &painter) {
-        const bool isDrawnHere = isWaited || !photo.isNull();
+        const bool isDrawnHere = isWaited || !photo.image.isNull();
         layout->paint(painter, 0, isDrawnHere ? GridLayout::Photo::LeftOut : GridLayout::Photo::Drawn);
-        if (!photo.isNull())
+        if (!photo.image.isNull())
             paintPhoto(painter, layout->photoRect(), photo);
     };
     return sheet;
@@ -133,7 +144,7 @@ void SheetMaker::askForPhoto(const QString &path)
     m_isWaiting = true;
     m_loader->forget();
     m_loader->load(path, photoPixels, [this](const LoadedPicture &loaded) {
-        m_photo = loaded.image;
+        m_photo = loaded;
         m_isWaiting = false;
         emit photoRead();
     });

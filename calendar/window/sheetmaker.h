@@ -4,13 +4,13 @@
 #include "calendar/model/calendarpages.h"
 #include "calendar/model/wallcalendar.h"
 #include "calendar/window/calendarsheet.h"
+#include "shell/pictures/pictureloader.h"
 
 #include <QImage>
 #include <QObject>
 
 #include <memory>
 
-class PictureLoader;
 struct Program;
 
 /// Makes the sheets that are worked on: laid out as they will be printed. Photos are read beside, and come
@@ -40,6 +40,6 @@ private:
     const Program &m_program;
     PictureLoader *m_loader;
     QString m_photoPath; ///< of the sheet that was made last
-    QImage m_photo;
+    LoadedPicture m_photo;
     bool m_isWaiting = false; ///< for the photo
 };

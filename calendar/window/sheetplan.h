@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDate>
+#include <QList>
 #include <QRectF>
 
 #include <vector>
@@ -20,8 +21,9 @@ struct SheetPlan {
         int column = 0;
         bool isOutside = false; ///< a day of another month
         QRectF place;
-        QRectF content; ///< below the number
-        std::vector<Line> lines;
+        QRectF content;          ///< below the number
+        std::vector<Line> lines; ///< in their places
+        QList<int> all;          ///< with those that have no room here, in their order
         bool operator==(const Cell &) const = default;
     };
     struct Bar {
