@@ -107,7 +107,7 @@ inline Message leaveHolidays()
 
 inline Message leaveRules()
 {
-    return {u"Days That Come Back"_s,
+    return {u"Rules"_s,
             u"Leave without taking over the changed rules?"_s,
             Message::Question,
             {Answer::Yes, Answer::No},

@@ -10,7 +10,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 RulesPanel::RulesPanel(const Program &program, QWidget *window, QWidget *parent)
-    : TaskPanel(u"rulesPanel"_s, u"Days That Come Back"_s, parent)
+    : TaskPanel(u"rulesPanel"_s, u"Rules"_s, parent)
     , m_program(program)
     , m_editor(new RulesEditor(program, u"rules"_s, RulesEditor::Signs::Offered, window))
 {

@@ -7,7 +7,7 @@
 class RulesEditor;
 struct Program;
 
-/// "Days That Come Back": the rules of a calendar, such as the paper bin every second Tuesday.
+/// "Rules": what comes back in a calendar, such as the paper bin every second Tuesday.
 class RulesPanel final : public TaskPanel
 {
     Q_OBJECT
