@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/model/calendarfill.h"
 
+#include "calendar/model/calendaredits.h"
 #include "calendar/model/daterule.h"
 #include "calendar/model/filling.h"
 #include "calendar/model/holidaysets.h"
@@ -9,7 +10,9 @@
 #include <QLocale>
 #include <QSet>
 
+#include <algorithm>
 #include <map>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -104,6 +107,18 @@ FillSource CalendarFill::rulesOf(const WallCalendar &calendar, const HolidaySets
             source.notes.append({.date = date, .text = text, .source = {}});
     }
     return source;
+}
+
+bool CalendarFill::hasAnyOf(const WallCalendar &calendar, const FillSource &source)
+{
+    QSet<std::pair<QDate, QString>> noted;
+    for (const DayNote &note : source.notes)
+        noted.insert({note.date, CalendarEdits::lineText(textOf(note))});
+    return std::ranges::any_of(calendar.days, [&](const QList<DayLine> &lines) {
+        return std::ranges::any_of(lines, [&](const DayLine &line) {
+            return line.source == source.source && noted.contains({line.origin, line.original});
+        });
+    });
 }
 
 QString CalendarFill::textOf(const DayNote &note)

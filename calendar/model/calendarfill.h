@@ -56,6 +56,9 @@ FillSource holidaysOf(const WallCalendar &calendar, const HolidaySets &sets);
 /// What comes back by its rules; one that cannot be read gives nothing.
 FillSource rulesOf(const WallCalendar &calendar, const HolidaySets &sets);
 
+/// Whether the calendar has a line of `source`, wherever it was moved.
+bool hasAnyOf(const WallCalendar &calendar, const FillSource &source);
+
 /// What a note is as a line of a calendar: its time, if any, and its text.
 QString textOf(const DayNote &note);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/window/fillcommands.h"
 
+#include "calendar/model/lines.h"
 #include "calendar/window/celltyping.h"
 #include "calendar/window/fillpanel.h"
 #include "calendar/window/fillrows.h"
@@ -78,12 +79,25 @@ void FillCommands::checkAgain()
 void FillCommands::check()
 {
     m_seen = stamps();
-    const WallCalendar &calendar = m_desk.calendars.calendar();
-    if (!m_desk.calendars.whyLocked().isEmpty() || calendar.filled.isEmpty() || m_typing.isOpen())
+    if (!m_desk.calendars.whyLocked().isEmpty() || m_typing.isOpen())
         return;
-    const FillPlan plan = FillRows::of(m_desk.program, calendar).planAsBefore(m_desk.program.clock.today());
-    if (!plan.summary.isNothing())
-        emit said(CalendarWindowLines::sourcesChanged(plan.summary.changeWords()));
+    const WallCalendar &calendar = m_desk.calendars.calendar();
+    QStringList lines;
+    QStringList turned;
+    for (const CalendarSpan &span : calendar.spans) {
+        if (span.to < span.from)
+            turned.append(span.text);
+    }
+    if (!turned.isEmpty())
+        lines.append(CalendarLines::turnedBars(turned));
+    if (!calendar.filled.isEmpty()) {
+        const FillRows rows = FillRows::of(m_desk.program, calendar);
+        const FillSummary summary = rows.planAsBefore(m_desk.program.clock.today()).summary;
+        if (!summary.isNothing())
+            lines.append(CalendarWindowLines::sourcesChanged(summary.changeWords()));
+    }
+    if (!lines.isEmpty())
+        emit said(lines.join(u". "_s));
 }
 
 std::vector<FileStamp> FillCommands::stamps() const

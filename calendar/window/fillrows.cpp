@@ -148,10 +148,20 @@ QList<FillSource> FillRows::sources(bool isAsBefore) const
                 sources.append({kind, FillSource::Unread, {}});
             continue;
         }
-        const bool isTaken = isAsBefore ? m_calendar.filled.contains(row.source) : row.isTicked;
+        const bool isTaken = isAsBefore ? wasTaken(row) : row.isTicked;
         sources.append({row.source, isTaken ? FillSource::Taken : FillSource::LeftOut, row.notes});
     }
     return sources;
+}
+
+/// The calendar remembers sources alone: of two functions that have the same kind, the one of which nothing
+/// stands in it was left out.
+bool FillRows::wasTaken(const FillRow &row) const
+{
+    const auto isOfItsSource = [&row](const FillRow &other) { return other.source == row.source; };
+    return m_calendar.filled.contains(row.source) &&
+           (std::ranges::count_if(m_rows, isOfItsSource) == 1 ||
+            CalendarFill::hasAnyOf(m_calendar, {row.source, FillSource::Taken, row.notes}));
 }
 
 FillPlan FillRows::plan(QDate today) const

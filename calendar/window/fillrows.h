@@ -52,6 +52,7 @@ private:
     void addFunction(const Program &program, Function function);
     void addOwn(const Program &program);
     void addGone();
+    bool wasTaken(const FillRow &row) const;
     QList<FillSource> sources(bool isAsBefore) const;
 
     WallCalendar m_calendar;

@@ -111,7 +111,11 @@ bool OpenCalendars::make(const WallCalendar &calendar, const QString &title)
         emit said(isFull ? CalendarWindowLines::tooMany() : CalendarWindowLines::notMade());
         return false;
     }
-    m_opened.erase(number); // of a file that is gone
+    // What is left of a file that is gone must not be written into this one.
+    if (const auto gone = m_opened.find(number); gone != m_opened.end()) {
+        m_current = m_current == gone->second ? nullptr : m_current;
+        gone->second->load();
+    }
     m_removed.remove(number);
     emit fileTouched();
     refresh();

@@ -273,6 +273,16 @@ private slots:
         QCOMPARE(there, lines);
     }
 
+    void knowsWhetherSomethingOfASourceIsThere()
+    {
+        const QList<FillSource> sources = sourcesOf({u"9:00 Dentist"_s, u"todo: Milk"_s});
+        const auto [planner, lists] = std::pair(sources[0], sources[1]);
+        WallCalendar calendar = CalendarFill::plan(emptyCalendar(), {planner}, today).calendar;
+        calendar = CalendarEdits::moveLine(CalendarEdits::removeLine(calendar, day, 0), day, 0, other);
+        QVERIFY(CalendarFill::hasAnyOf(calendar, planner));
+        QVERIFY(!CalendarFill::hasAnyOf(calendar, lists));
+    }
+
     void leavesDaysOutsideTheMonthsAlone()
     {
         WallCalendar calendar =
