@@ -23,6 +23,7 @@ void weightGraph(const Camera &camera);
 void toDo(const Camera &camera);
 void keeper(const Camera &camera);
 void journal(const Camera &camera);
+void calendar(const Camera &camera);
 void calendarPages(const Camera &camera);
 void charts(const Camera &camera);
 

@@ -42,6 +42,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"todo", Albums::toDo},
                             Album{"keeper", Albums::keeper},
                             Album{"journal", Albums::journal},
+                            Album{"calendar", Albums::calendar},
                             Album{"calendar-pages", Albums::calendarPages},
                             Album{"charts", Albums::charts}};
 
