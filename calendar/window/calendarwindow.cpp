@@ -241,8 +241,7 @@ void Calendar::connectPage()
         m_typing->finish();
         closePreview();
         m_stack->goHome();
-        m_page->showDay(date);
-        m_page->cells().setLine(line);
+        m_page->showLine(date, line);
         m_page->setFocus();
     });
     connect(m_pane, &CalendarsPane::entered, m_page, [this] {
@@ -340,7 +339,6 @@ void Calendar::showPlace(const Place &place)
     closePreview();
     m_stack->goHome();
     m_calendars->show(place.record);
-    m_page->showDay(place.date);
-    m_page->cells().setLine(place.row);
+    m_page->showLine(place.date, place.row);
     m_page->setFocus();
 }

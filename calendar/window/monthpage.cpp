@@ -72,6 +72,15 @@ void MonthPage::showDay(QDate day)
     emit moved();
 }
 
+void MonthPage::showLine(QDate day, int line)
+{
+    showDay(day);
+    m_cells->setLine(line);
+    if (line >= 0)
+        emit said(CalendarWindowLines::chosenLine(m_calendars.calendar(), m_cells->day(), line));
+    emit moved();
+}
+
 void MonthPage::step(int months)
 {
     if (m_calendars.current())

@@ -27,6 +27,8 @@ public:
     QDate month() const { return m_month; }
     /// The nearest day that the calendar has.
     void showDay(QDate day);
+    /// The same, with a line of it chosen; -1: none.
+    void showLine(QDate day, int line);
     void step(int months);
     /// Another calendar is shown: begins with the month of today, or with its first.
     void startOver();
