@@ -18,7 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QSize photoPixels(1400, 1400); ///< of a photo on the screen
-constexpr double fewestDots = 100;       ///< that an inch of paper shows
 
 int indexOf(const WallCalendar &calendar, QDate month)
 {
@@ -77,16 +76,6 @@ SheetPlan planOf(const WallCalendar &calendar, const GridLayout &layout, QSizeF 
     return plan;
 }
 
-/// As on paper: as large as fits and is good for its dots.
-void paintPhoto(QPainter &painter, const QRectF &place, const LoadedPicture &photo)
-{
-    const QSizeF good = QSizeF(photo.pixels) * (PageMetrics::pointsPerInch / fewestDots);
-    const QSizeF size = QSizeF(photo.pixels).scaled(place.size().boundedTo(good), Qt::KeepAspectRatio);
-    const QPointF corner = place.center() - QPointF(size.width(), size.height()) / 2;
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(corner, size), photo.image);
-}
-
 } // namespace
 
 SheetMaker::SheetMaker(const Program &program, QObject *parent)
@@ -128,10 +117,10 @@ std::shared_ptr<const CalendarSheet> SheetMaker::sheet(const WallCalendar &calen
     const bool isRead = hasPhoto && !m_photo.image.isNull();
     sheet->paint = [layout, photo = isRead ? m_photo : LoadedPicture(),
                     isWaited = hasPhoto && m_isWaiting](QPainter &painter) {
-        const bool isDrawnHere = isWaited || !photo.image.isNull();
-        layout->paint(painter, 0, isDrawnHere ? GridLayout::Photo::LeftOut : GridLayout::Photo::Drawn);
-        if (!photo.image.isNull())
-            paintPhoto(painter, layout->photoRect(), photo);
+        if (isWaited || !photo.image.isNull())
+            layout->paint(painter, photo.image, photo.pixels);
+        else
+            layout->paint(painter);
     };
     return sheet;
 }

@@ -35,7 +35,7 @@ Column columnOf(const GridFrame &frame, int column)
 std::vector<RowNeed> needsOf(const GridFrame &frame, const std::vector<Column> &columns)
 {
     const double head = std::max(frame.pitch(), frame.numberPoints() * 1.15);
-    std::vector<RowNeed> needs(std::size_t(frame.rowCount()), RowNeed{0, head + 2 * around});
+    std::vector<RowNeed> needs(std::size_t(frame.rowCount()), RowNeed{head + 2 * around, head + 2 * around});
     for (std::size_t row = 0; row < needs.size(); ++row) {
         for (const Column &column : columns)
             needs[row].whole = std::max(needs[row].whole, column.days[row].height() + 2 * around);

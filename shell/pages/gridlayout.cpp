@@ -262,22 +262,41 @@ const LaidSpan *GridLayout::spanAt(QPointF point) const
     return nullptr;
 }
 
-void GridLayout::paint(QPainter &painter, int part, Photo photo) const
+void GridLayout::paint(QPainter &painter, int part) const
 {
     const GridPainter grid(painter, *m_grid, *m_types);
-    const bool isFirst = part == 0;
-    if (m_grid->hasPhoto && isFirst)
-        grid.paintPhoto(m_photo, photo == Photo::Drawn);
-    if (!m_grid->title.isEmpty())
-        grid.paintTitle(isFirst ? m_head : QRectF(m_margins.topLeft(), m_head.size()));
-    if (isFirst) {
-        for (const Block &block : m_smallGrids)
-            grid.paintBlock(block.frame, block.laid);
-        for (const Block &block : m_blocks)
-            grid.paintBlock(block.frame, block.laid);
-        if (m_grid->hasCutMarks)
-            grid.paintCutMarks(m_body);
+    if (part == 0) {
+        if (m_grid->hasPhoto)
+            grid.paintPhoto(m_photo);
+        paintGrids(grid);
     }
+    paintAround(grid, painter, part);
+}
+
+void GridLayout::paint(QPainter &painter, const QImage &photo, QSizeF dots) const
+{
+    const GridPainter grid(painter, *m_grid, *m_types);
+    if (m_grid->hasPhoto)
+        grid.paintPhoto(m_photo, photo, dots);
+    paintGrids(grid);
+    paintAround(grid, painter, 0);
+}
+
+void GridLayout::paintGrids(const GridPainter &grid) const
+{
+    for (const Block &block : m_smallGrids)
+        grid.paintBlock(block.frame, block.laid);
+    for (const Block &block : m_blocks)
+        grid.paintBlock(block.frame, block.laid);
+    if (m_grid->hasCutMarks)
+        grid.paintCutMarks(m_body);
+}
+
+/// Title, list and foot.
+void GridLayout::paintAround(const GridPainter &grid, QPainter &painter, int part) const
+{
+    if (!m_grid->title.isEmpty())
+        grid.paintTitle(part == 0 ? m_head : QRectF(m_margins.topLeft(), m_head.size()));
     if (part < int(m_lists.size()))
         m_lists[std::size_t(part)].paint(painter, *m_types);
     grid.paintFoot(part + 1 == partCount());

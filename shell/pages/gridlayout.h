@@ -13,6 +13,8 @@
 #include <memory>
 #include <vector>
 
+class GridPainter;
+class QImage;
 class QPainter;
 
 /// A sheet of days laid out, in points from the sheet's upper left corner. Rows that hold more grow at the
@@ -52,9 +54,10 @@ public:
     /// How many sheets it takes: more than one where the list of those does not find room below the grids.
     int partCount() const { return std::max(1, int(m_lists.size())); }
 
-    /// A window that repaints while somebody types draws the picture by itself.
-    enum class Photo { Drawn, LeftOut };
-    void paint(QPainter &painter, int part = 0, Photo photo = Photo::Drawn) const;
+    void paint(QPainter &painter, int part = 0) const;
+    /// The first sheet with a picture of so many dots as a window has read it already, smaller perhaps;
+    /// without one where it is null.
+    void paint(QPainter &painter, const QImage &photo, QSizeF dots) const;
 
 private:
     void placeAround();
@@ -64,6 +67,8 @@ private:
     std::vector<GridRest::Entry> leftLines() const;
     double mostRest() const;
     void layOutWithRest();
+    void paintGrids(const GridPainter &grid) const;
+    void paintAround(const GridPainter &grid, QPainter &painter, int part) const;
     bool settle(double most);
     void chooseLeastLeft(double most);
     void listTheOthers();

@@ -49,7 +49,15 @@ GridPainter::GridPainter(QPainter &painter, const PageGrid &grid, const GridType
     : m_painter(painter)
     , m_grid(grid)
     , m_types(types)
-{}
+{
+    m_painter.save();
+    m_painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+}
+
+GridPainter::~GridPainter()
+{
+    m_painter.restore();
+}
 
 double GridPainter::titlePoints(const PageGrid &grid, double width)
 {
@@ -278,15 +286,27 @@ void GridPainter::paintTitle(const QRectF &head) const
     light.draw(m_painter, {left, top + type.baseline() - light.baseline()}, m_grid.titleLight);
 }
 
-void GridPainter::paintPhoto(const QRectF &place, bool hasPicture) const
+void GridPainter::paintPhoto(const QRectF &place) const
 {
-    const GridPhoto &photo = m_grid.photo;
-    const PageType &caption = m_types.of(captionPoints, GridTypes::Normal, GridColors::quiet);
-    double bottom = place.bottom();
-    if (hasPicture)
-        bottom = PageFigure::drawIn(m_painter, place, photo.path, caption);
-    caption.draw(m_painter, {place.left(), bottom + captionDrop}, place.width(), Qt::AlignHCenter,
-                 caption.elided(PageType::onOneLine(photo.caption), place.width()));
+    const PageType &name = m_types.of(captionPoints, GridTypes::Normal, GridColors::quiet);
+    paintCaption(place, PageFigure::drawIn(m_painter, place, m_grid.photo.path, name));
+}
+
+void GridPainter::paintPhoto(const QRectF &place, const QImage &picture, QSizeF dots) const
+{
+    const QRectF shown = PageFigure::placeIn(place, dots);
+    m_painter.save();
+    m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    m_painter.drawImage(shown, picture);
+    m_painter.restore();
+    paintCaption(place, shown.bottom());
+}
+
+void GridPainter::paintCaption(const QRectF &place, double bottom) const
+{
+    const PageType &type = m_types.of(captionPoints, GridTypes::Normal, GridColors::quiet);
+    type.draw(m_painter, {place.left(), bottom + captionDrop}, place.width(), Qt::AlignHCenter,
+              type.elided(PageType::onOneLine(m_grid.photo.caption), place.width()));
 }
 
 void GridPainter::paintCutMarks(const QRectF &body) const

@@ -5,6 +5,7 @@
 #include "shell/pages/gridframe.h"
 #include "shell/pages/laidgrid.h"
 
+class QImage;
 class QPainter;
 
 /// Draws what stands on a sheet of days, in its style.
@@ -12,14 +13,19 @@ class GridPainter
 {
 public:
     GridPainter(QPainter &painter, const PageGrid &grid, const GridTypes &types);
+    ~GridPainter();
+    GridPainter(const GridPainter &) = delete;
+    GridPainter &operator=(const GridPainter &) = delete;
 
     /// Size of the sheet's title where it is so wide.
     static double titlePoints(const PageGrid &grid, double width);
 
     void paintBlock(const GridFrame &frame, const LaidBlock &block) const;
     void paintTitle(const QRectF &head) const;
-    /// The picture with its caption below `place`, or the caption alone.
-    void paintPhoto(const QRectF &place, bool hasPicture) const;
+    /// The picture with its caption below it.
+    void paintPhoto(const QRectF &place) const;
+    /// The same with a picture of so many dots that has been read; only the caption where it is null.
+    void paintPhoto(const QRectF &place, const QImage &picture, QSizeF dots) const;
     void paintCutMarks(const QRectF &body) const;
     /// The one small line below all, on the last sheet with its right part.
     void paintFoot(bool isLast) const;
@@ -34,6 +40,7 @@ private:
     void paintLeft(const GridFrame &frame, const LaidCell &cell) const;
     void paintNumber(const GridFrame &frame, const LaidCell &cell) const;
     void paintEntry(const GridFrame &frame, const LaidLine &line) const;
+    void paintCaption(const QRectF &place, double bottom) const;
     void fill(const QRectF &line, const QColor &color) const;
     void round(const QRectF &rect, double corner, const QColor &color) const;
 

@@ -85,11 +85,16 @@ double PageFigure::drawIn(QPainter &painter, const QRectF &place, const QString 
         drawFrame(painter, place, path, type);
         return place.bottom();
     }
-    const QSizeF good = dots * (pointsPerInch / fewestDots);
-    const QSizeF size = dots.scaled(place.size().boundedTo(good), Qt::KeepAspectRatio);
-    const QRectF picture(place.center() - QPointF(size.width() / 2, size.height() / 2), size);
+    const QRectF picture = placeIn(place, dots);
     drawPagePicture(painter, picture, path);
     return picture.bottom();
+}
+
+QRectF PageFigure::placeIn(const QRectF &place, QSizeF dots)
+{
+    const QSizeF good = dots * (pointsPerInch / fewestDots);
+    const QSizeF size = dots.scaled(place.size().boundedTo(good), Qt::KeepAspectRatio);
+    return {place.center() - QPointF(size.width() / 2, size.height() / 2), size};
 }
 
 void PageFigure::drawCaption(QPainter &painter, QPointF top) const

@@ -19,6 +19,8 @@ public:
     /// Draws it in the middle of the flow that begins at `top`.
     void draw(QPainter &painter, QPointF top) const;
 
+    /// Where a picture of so many dots stands alone in `place`, as `drawIn` draws it.
+    static QRectF placeIn(const QRectF &place, QSizeF dots);
     /// Draws a picture alone in the middle of `place`, as large as fits and is good for its dots. Where it
     /// cannot be read there is a frame with its name. Gives the lower edge of what was drawn.
     static double drawIn(QPainter &painter, const QRectF &place, const QString &path, const PageType &type);

@@ -75,6 +75,22 @@ private slots:
         QVERIFY(sum <= layout.blocks().front().frame.body().height() + 0.1);
     }
 
+    void rowsOfDaysAreNeverLowerThanTheirNumbers()
+    {
+        PageGrid grid = fiveWeeks();
+        GridBlock &block = grid.blocks[0];
+        block.form = GridForm::Days;
+        block.columns = {GridHead{.text = u"Everyone"_s}};
+        for (const GridCell &cell : block.cells)
+            block.rows.append({.text = cell.number, .note = u"Mo"_s});
+        for (const int day : {3, 4, 20, 30})
+            addLines(grid, day, 30, u"line %1"_s);
+        const GridLayout layout = laidOut(grid);
+        QVERIFY(layout.restCount() > 0);
+        for (int day = 0; day < 7 * weeks; ++day)
+            QVERIFY(rowHeight(layout, day) >= layout.blocks().front().frame.numberHeight());
+    }
+
     void linesStandInTheirCellsAndAreFoundThere()
     {
         PageGrid grid = fiveWeeks();
