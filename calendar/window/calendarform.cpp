@@ -64,7 +64,7 @@ CalendarForm::CalendarForm(QWidget *parent)
     , m_font(named(new QComboBox(this), u"calendarFont"_s))
     , m_points(named(new QComboBox(this), u"calendarPoints"_s))
     , m_firstDay(named(new QComboBox(this), u"calendarWeekStart"_s))
-    , m_weekNumbers(named(new QCheckBox(u"Week &numbers"_s, this), u"calendarWeekNumbers"_s))
+    , m_weekNumbers(named(new QCheckBox(u"Wee&k numbers"_s, this), u"calendarWeekNumbers"_s))
     , m_smallMonths(named(new QCheckBox(u"Sma&ll neighbouring months"_s, this), u"calendarSmallMonths"_s))
     , m_neighbourLines(
           named(new QCheckBox(u"Entries of neigh&bouring days"_s, this), u"calendarNeighbours"_s))

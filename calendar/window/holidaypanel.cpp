@@ -89,7 +89,7 @@ QWidget *HolidayPanel::makeSets()
     QBoxLayout *name = labelled(u"Name"_s, m_name);
     name->setContentsMargins({});
     m_nameRow->setLayout(name);
-    m_newSet = makeButton(u"holidaysNewSet"_s, u"Ne&w Set"_s, sets);
+    m_newSet = makeButton(u"holidaysNewSet"_s, u"New Se&t"_s, sets);
     connect(m_newSet, &QPushButton::clicked, this, &HolidayPanel::addSet);
     auto *row = new QHBoxLayout(sets);
     row->setContentsMargins({});
@@ -163,7 +163,7 @@ void HolidayPanel::showSet()
     m_nameRow->setVisible(!isThere);
     m_name->setText(m_base.name);
     const bool isBuiltIn = m_sets.isBuiltIn(m_base.name);
-    m_drop->setText(isBuiltIn ? u"As &It Came"_s : u"Remove Se&t"_s);
+    m_drop->setText(isBuiltIn ? u"As &It Came"_s : u"Re&move Set"_s);
     setUnavailable(m_drop, place < 0 ? RuleLines::asItCame() : m_sets.whyLocked());
     setUnavailable(m_keep, m_sets.whyLocked());
     buttonRow().rearrange();

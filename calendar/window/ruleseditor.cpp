@@ -34,7 +34,7 @@ RulesEditor::RulesEditor(const Program &program, const QString &name, Signs sign
     , m_model(new RulesTable(program.state.dateStyle, program.clock.today(), this))
     , m_view(named(new QTableView(this), name + u"List"_s))
     , m_none(named(makeQuietLabel({}, this), name + u"None"_s))
-    , m_new(makeButton(name + u"New"_s, u"&New"_s, this))
+    , m_new(makeButton(name + u"New"_s, u"Ne&w"_s, this))
     , m_remove(makeButton(name + u"Remove"_s, u"&Remove"_s, this))
 {
     m_view->setModel(m_model);

@@ -22,7 +22,6 @@ RulesPanel::RulesPanel(const Program &program, QWidget *window, QWidget *parent)
     QWidget *before = m_editor->lastInTab();
     for (QWidget *button : {m_editor->removeButton(), m_editor->newButton(), keep, cancel})
         setTabOrder(std::exchange(before, button), button);
-    setFocusProxy(m_editor);
     connect(keep, &QPushButton::clicked, this, &RulesPanel::accept);
     connect(m_editor, &RulesEditor::changed, this, [this] { setWords({}); });
 }
@@ -37,6 +36,7 @@ void RulesPanel::start(const WallCalendar &calendar)
     const QDate first =
         calendar.from.isValid() ? qMax(calendar.from, qMin(today, calendar.lastDay())) : today;
     m_editor->setRows(rows, RuleLines::noRuleYet(), {u"every 2 weeks "_s + first.toString(Qt::ISODate)});
+    setFocusProxy(rows.isEmpty() ? static_cast<QWidget *>(m_editor->newButton()) : m_editor);
     setWords({});
 }
 
