@@ -66,7 +66,7 @@ void CalendarPrint::openPanel(bool isForPdf)
     m_panel->setFocus();
 }
 
-/// They lie as the calendar does; what the person turns is the calendar's.
+/// They lie as the calendar does, and have its font; what the person turns or chooses is the calendar's.
 void CalendarPrint::showPages()
 {
     const QList<int> sheets = m_panel->sheets();
@@ -75,6 +75,12 @@ void CalendarPrint::showPages()
     const PageSetup setup = CalendarPages::setup(look);
     preview.setPaper(setup.paper);
     preview.setOwnOrientation(setup.orientation, [this](PageSetup::Orientation now) { turn(now); });
+    PageFont font = PreviewPane::usualFont();
+    if (!look.fontFamily.isEmpty())
+        font.font.setFamily(look.fontFamily);
+    if (look.fontPoints > 0)
+        font.font.setPointSizeF(look.fontPoints);
+    preview.setOwnFont(font, [this](const PageFont &now) { setFont(now.font); });
     m_desk.window.showPreview(
         [this, sheets](const PageContext &context) {
             const WallCalendar &calendar = m_desk.calendars.calendar();
@@ -90,6 +96,14 @@ void CalendarPrint::turn(PageSetup::Orientation orientation)
     WallCalendar calendar = m_desk.calendars.calendar();
     calendar.look.isLandscape = orientation == PageSetup::Landscape;
     m_desk.calendars.change(CalendarWindowLines::turned(calendar.look.isLandscape), calendar);
+}
+
+void CalendarPrint::setFont(const QFont &font)
+{
+    WallCalendar calendar = m_desk.calendars.calendar();
+    calendar.look.fontFamily = font.family();
+    calendar.look.fontPoints = font.pointSizeF();
+    m_desk.calendars.change(CalendarWindowLines::lookChanged(), calendar);
 }
 
 void CalendarPrint::savePdf()

@@ -35,6 +35,7 @@ private:
     void savePdf();
     void copy();
     void turn(PageSetup::Orientation orientation);
+    void setFont(const QFont &font);
 
     CalendarDesk m_desk;
     CellTyping &m_typing;

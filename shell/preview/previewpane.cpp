@@ -272,6 +272,13 @@ void PreviewPane::setOwnOrientation(PageSetup::Orientation orientation,
     m_ownTurned = std::move(turned);
 }
 
+void PreviewPane::setOwnFont(const PageFont &font, std::function<void(const PageFont &)> chosen)
+{
+    m_font = font;
+    m_fontChosen = std::move(chosen);
+    showFont();
+}
+
 void PreviewPane::addChoice(QWidget *choice)
 {
     m_column->insertWidget(m_column->indexOf(m_steps) + 1, choice);
@@ -322,6 +329,8 @@ void PreviewPane::chooseFont()
     if (!font)
         return;
     m_font = *font;
+    if (m_fontChosen)
+        m_fontChosen(m_font);
     showFont();
     rebuild();
 }

@@ -59,6 +59,9 @@ public:
     /// the person turns it, before it is built again.
     void setOwnOrientation(PageSetup::Orientation orientation,
                            std::function<void(PageSetup::Orientation)> turned);
+    /// What is shown from now on has a font of its own: `chosen` is told when the person chooses another,
+    /// before it is built again.
+    void setOwnFont(const PageFont &font, std::function<void(const PageFont &)> chosen);
     /// Puts a choice of what the page shows below its number.
     void addChoice(QWidget *choice);
 
@@ -119,6 +122,7 @@ private:
     std::optional<PageSetup::Orientation> m_own;           ///< of those that say it themselves
     std::function<void(PageSetup::Orientation)> m_ownTurned;
     PageFont m_font;
+    std::function<void(const PageFont &)> m_fontChosen; ///< of pages with a font of their own
     std::shared_ptr<PagePainter> m_painter;
     bool m_isBuilding = false;
     Discretion m_discretion;

@@ -245,7 +245,7 @@ private slots:
         QCOMPARE(cells()->line(), 0);
     }
 
-    void pagesLieAsTheCalendarDoes()
+    void pagesLieAsTheCalendarDoesAndHaveItsFont()
     {
         open(march(typed("2027-03-14", "Anne's concert")));
         key(Qt::Key_P, Qt::ControlModifier);
@@ -253,9 +253,12 @@ private slots:
         QCOMPARE(labelText("Panel3D80"), u" Landscape"_s);
         click("SSCommand80_1");
         QCOMPARE(labelText("Panel3D80"), u" Portrait"_s);
+        m_test->dialogs.willChooseFont(PageFont{QFont(u"DejaVu Serif"_s, 9)});
+        click("SSCommand80_0");
         key(Qt::Key_Escape);
         trigger("mOSave");
         QVERIFY(!file().contains("landscape"));
+        QVERIFY(file().contains("font\tDejaVu Serif"));
         trigger("mOCopy");
         QCOMPARE(asked(), {PreviewMessages::pageCopied()});
         QVERIFY(QGuiApplication::clipboard()->text().contains(u"Anne's concert"_s));
