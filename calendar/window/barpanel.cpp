@@ -8,6 +8,7 @@
 #include "shell/pages/gridtypes.h"
 #include "shell/program/program.h"
 
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QPainter>
 #include <QRadioButton>
@@ -21,6 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QSize swatch(36, 18);
+constexpr int tonesAcross = 3;
 
 QIcon swatchOf(int tone, double pixelRatio)
 {
@@ -66,18 +68,19 @@ BarPanel::BarPanel(const Program &program, QWidget *window, QWidget *parent)
 QWidget *BarPanel::makeTones()
 {
     auto *tones = new QWidget(this);
-    auto *row = new QHBoxLayout(tones);
-    row->setContentsMargins({});
-    row->setSpacing(16);
+    auto *grid = new QGridLayout(tones);
+    grid->setContentsMargins({});
+    grid->setHorizontalSpacing(20);
+    grid->setVerticalSpacing(8);
+    grid->setColumnStretch(tonesAcross, 1);
     for (int tone = 1; tone <= CalendarSpan::tones; ++tone) {
         auto *button = named(new QRadioButton(CalendarWindowLines::toneName(tone), tones),
                              u"barTone_"_s + QString::number(tone));
         button->setIcon(swatchOf(tone, devicePixelRatioF()));
         button->setIconSize(swatch);
-        row->addWidget(button);
+        grid->addWidget(button, (tone - 1) / tonesAcross, (tone - 1) % tonesAcross);
         m_tones[std::size_t(tone - 1)] = button;
     }
-    row->addStretch(1);
     return tones;
 }
 

@@ -3,9 +3,9 @@
 
 #include "calendar/model/calendarpages.h"
 #include "shell/controls/choicegrid.h"
-#include "shell/core/dates.h"
 
 #include <QComboBox>
+#include <QLocale>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -14,7 +14,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-constexpr int monthWidth = 168;
+constexpr int monthWidth = 112;
 } // namespace
 
 CalendarPrintPanel::CalendarPrintPanel(QWidget *parent)
@@ -27,8 +27,8 @@ CalendarPrintPanel::CalendarPrintPanel(QWidget *parent)
     column->setSpacing(8);
     column->addWidget(makeHeading(u"What is printed"_s, content));
     m_what->add(u"&All months"_s);
-    m_what->add(u"The &month that is shown"_s);
-    m_what->add(u"The mo&nths"_s, makeRange());
+    m_what->add(u"The &month shown"_s);
+    m_what->add(u"&From"_s, makeRange());
     column->addWidget(m_what);
     column->addStretch(1);
     setContent(content);
@@ -54,7 +54,7 @@ QWidget *CalendarPrintPanel::makeRange()
     row->setContentsMargins({});
     row->setSpacing(8);
     for (QComboBox *box : {m_from, m_to}) {
-        box->setFixedWidth(boxWidth(u"September 2027"_s, monthWidth));
+        box->setFixedWidth(boxWidth(u"Sep 2027"_s, monthWidth));
         row->addWidget(box);
         if (box == m_from)
             row->addWidget(makeQuietLabel(u"to"_s, range));
@@ -69,8 +69,9 @@ void CalendarPrintPanel::start(const WallCalendar &calendar, QDate month, bool i
     m_from->clear();
     m_to->clear();
     for (int index = 0; index < calendar.months; ++index) {
-        m_from->addItem(Dates::monthYear(calendar.month(index)));
-        m_to->addItem(Dates::monthYear(calendar.month(index)));
+        const QString name = QLocale::c().toString(calendar.month(index), u"MMM yyyy"_s);
+        m_from->addItem(name);
+        m_to->addItem(name);
         m_shown = calendar.month(index) == month ? index : m_shown;
     }
     m_from->setCurrentIndex(m_shown);

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int leastWidth = 180;
 constexpr int lineRole = TwoLineDelegate::furtherRole;
-constexpr int fewestRows = 2;
+constexpr int fewestRows = 1;
 constexpr int mostRows = 4;
 
 QStandardItem *makeRow(const QString &title, const QString &words, const QVariant &key)

@@ -216,7 +216,11 @@ void Calendar::connectParts()
     connect(m_commands, &CalendarCommands::said, this, say);
     connect(m_commands, &CalendarCommands::done, this, done);
     connect(m_spelling, &CalendarSpelling::said, this, say);
-    connect(m_stack, &WorkViews::changed, this, [this] { m_typing->finish(); });
+    connect(m_stack, &WorkViews::changed, this, [this] {
+        m_typing->finish();
+        if (!m_stack->isHome())
+            activity().say({}); // it was said of the month
+    });
     connect(&activity(), &ActivityBar::dayBegan, this, &Calendar::follow);
 }
 

@@ -25,6 +25,7 @@ constexpr int across = 2;
 constexpr int restsFor = 500; ///< milliseconds without a change before a picture is made anew
 constexpr int around = 16;    ///< of a picture
 constexpr double shape = 0.72;
+constexpr int shortRole = Qt::UserRole; ///< "Mar 2027"
 
 QList<QList<DayLine>> linesOf(const WallCalendar &calendar, QDate month)
 {
@@ -61,9 +62,10 @@ public:
         painter->setPen(option.palette.color(QPalette::Text));
         const QRect words(option.rect.left(), place.bottom() + 3, option.rect.width(),
                           painter->fontMetrics().height());
-        painter->drawText(
-            words, Qt::AlignHCenter | Qt::AlignTop,
-            painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, words.width()));
+        const QString name = index.data().toString();
+        const bool hasRoom = painter->fontMetrics().horizontalAdvance(name) <= words.width() - 4;
+        painter->drawText(words, Qt::AlignHCenter | Qt::AlignTop,
+                          hasRoom ? name : index.data(shortRole).toString());
         painter->restore();
     }
 
@@ -140,6 +142,7 @@ void MonthPictures::startOver()
         const QDate month = monthOf(row);
         auto *item = new QListWidgetItem(QLocale::c().toString(month, u"MMMM yyyy"_s), this);
         item->setData(Qt::AccessibleTextRole, wordsOf(month));
+        item->setData(shortRole, QLocale::c().toString(month, u"MMM yyyy"_s));
         item->setData(Qt::DecorationRole, empty);
         m_stale.insert(row);
     }

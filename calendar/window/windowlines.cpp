@@ -408,7 +408,7 @@ QString CalendarWindowLines::countOfEntries(qsizetype number)
 
 QString CalendarWindowLines::searchHint()
 {
-    return u"Search the calendar"_s;
+    return u"Search calendar"_s;
 }
 
 QString CalendarWindowLines::hits(qsizetype number)

@@ -20,7 +20,7 @@ constexpr auto begun = "Quillery calendar 1\r\n"
                        "photo\t2027-03\tPictures/photo01.jpg\tAt the lake\r\n"
                        "span\t2027-03-29\t2027-04-02\t2\tSpring holidays\r\n"
                        "rule\tevery 2 weeks 2027-01-05\t\tPaper bin\r\n"
-                       "rule\tnth 1 thu 3\t\tBook club\r\n"
+                       "rule\tlast sat 05\t\tGarden day\r\n"
                        "day\t2027-03-14\ttyped\t\t\tAnne's concert\r\n"
                        "day\t2027-03-20\ttyped\tyearly\t\tPlant the beans\r\n";
 
