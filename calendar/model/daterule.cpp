@@ -23,17 +23,24 @@ QDate firstFrom(QDate date, Qt::DayOfWeek weekday)
 
 } // namespace
 
+/// The `number`th or last weekday of a month; no date where it has no fifth one.
+QDate DateRule::inMonth(int year, int month) const
+{
+    const QDate first(year, month, 1);
+    if (kind == Last)
+        return firstFrom(first.addMonths(1).addDays(-daysPerWeek), weekday);
+    const QDate date = firstFrom(first, weekday).addDays(qint64(number - 1) * daysPerWeek);
+    return date.month() == month ? date : QDate();
+}
+
 QDate DateRule::inYear(int year) const
 {
     switch (kind) {
     case OnDate:
         return dayIn(year, month, day);
-    case Nth: {
-        const QDate date = firstFrom({year, month, 1}, weekday).addDays(qint64(number - 1) * daysPerWeek);
-        return date.month() == month ? date : QDate();
-    }
+    case Nth:
     case Last:
-        return firstFrom(QDate(year, month, 1).addMonths(1).addDays(-daysPerWeek), weekday);
+        return inMonth(year, month);
     case Before:
         return firstFrom(dayIn(year, month, day).addDays(-daysPerWeek), weekday);
     case From:
@@ -65,8 +72,13 @@ QList<QDate> DateRule::plainDates(QDate from, QDate to) const
             take(date, date.year());
         return dates;
     }
-    for (int year = from.year() - 1; year <= to.year() + 1; ++year)
-        take(inYear(year), year);
+    const bool isMonthly = month == 0 && (kind == Nth || kind == Last);
+    for (int year = from.year() - 1; year <= to.year() + 1; ++year) {
+        if (!isMonthly)
+            take(inYear(year), year);
+        for (int each = 1; isMonthly && each <= 12; ++each)
+            take(inMonth(year, each), year);
+    }
     return dates;
 }
 

@@ -13,8 +13,8 @@
 struct DateRule {
     enum Kind {
         OnDate,     ///< `month` and `day`; 29 February is the 28th in other years
-        Nth,        ///< the `number`th `weekday` of `month`
-        Last,       ///< the last `weekday` of `month`
+        Nth,        ///< the `number`th `weekday` of `month`, or of every month
+        Last,       ///< the last `weekday` of it
         Before,     ///< the last `weekday` before `month` and `day`
         From,       ///< the first `weekday` on or after them
         Easter,     ///< `number` days after Easter Sunday, or before it
@@ -49,7 +49,7 @@ struct DateRule {
     Kind kind = OnDate;
     int number = 1;
     Qt::DayOfWeek weekday = Qt::Monday;
-    int month = 1;
+    int month = 1; ///< 0: every month
     int day = 1;
     QDate start{};
     int firstYear = 0; ///< 0: from any year on
@@ -76,6 +76,7 @@ struct DateRule {
     bool operator==(const DateRule &) const = default;
 
 private:
+    QDate inMonth(int year, int month) const;
     QDate inYear(int year) const;
     QList<QDate> plainDates(QDate from, QDate to) const;
     QDate shifted(QDate date) const;

@@ -63,7 +63,12 @@ public:
         return Qt::DayOfWeek(name - weekdays.begin() + 1);
     }
 
-    int month() { return within(digits(take(), 2, 2), 1, 12); }
+    /// 0, for every month, where none follows.
+    int month()
+    {
+        const bool isThere = !peek().isEmpty() && peek().front().isDigit();
+        return isThere ? within(digits(take(), 2, 2), 1, 12) : 0;
+    }
 
     /// "12-25"
     void monthAndDay(DateRule &rule)
@@ -203,18 +208,21 @@ QString nameOf(Qt::DayOfWeek weekday)
 QString daysOf(const DateRule &rule)
 {
     const QString number = QString::number(rule.number), month = padded(rule.month, 2);
-    const QString weekday = nameOf(rule.weekday) + u' ', date = month + u'-' + padded(rule.day, 2);
+    const QString weekday = nameOf(rule.weekday), date = month + u'-' + padded(rule.day, 2);
+    QString ofMonth = weekday;
+    if (rule.month != 0)
+        ofMonth += u' ' + month;
     switch (rule.kind) {
     case DateRule::OnDate:
         return date;
     case DateRule::Nth:
-        return u"nth "_s + number + u' ' + weekday + month;
+        return u"nth "_s + number + u' ' + ofMonth;
     case DateRule::Last:
-        return u"last "_s + weekday + month;
+        return u"last "_s + ofMonth;
     case DateRule::Before:
-        return u"before "_s + weekday + date;
+        return u"before "_s + weekday + u' ' + date;
     case DateRule::From:
-        return u"from "_s + weekday + date;
+        return u"from "_s + weekday + u' ' + date;
     case DateRule::Easter:
         return u"easter "_s + number;
     case DateRule::Orthodox:

@@ -17,7 +17,7 @@ QString nameOf(Qt::DayOfWeek weekday)
 
 QString monthName(int month)
 {
-    return QLocale::c().monthName(month);
+    return month == 0 ? u"every month"_s : QLocale::c().monthName(month);
 }
 
 /// "the day after", "2 days before".

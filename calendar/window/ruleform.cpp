@@ -27,6 +27,7 @@ constexpr int gap = 12;
 constexpr int lastOrdinal = 6; ///< "last"
 constexpr int longestText = 200;
 constexpr int leapYear = 2024;
+constexpr int everyMonth = 12; ///< its place behind the months
 
 /// What becomes of a day on a weekend, as far as it is offered by name.
 struct Moving {
@@ -48,6 +49,11 @@ const QList<Moving> &movings()
         {u"Monday instead of a weekend"_s, Kind::Moved, {{Qt::Saturday, 2}, {Qt::Sunday, 1}}},
     };
     return all;
+}
+
+int daysIn(int month)
+{
+    return QDate(leapYear, std::max(month, 1), 1).daysInMonth();
 }
 
 QComboBox *makeBox(const QString &name, int width, QWidget *parent)
@@ -235,8 +241,9 @@ void RuleForm::showRule()
         break;
     }
     m_weekday->setCurrentIndex(m_rule.weekday - 1);
-    m_month->setCurrentIndex(m_rule.month - 1);
-    m_day->setMaximum(QDate(leapYear, m_rule.month, 1).daysInMonth());
+    offerMonths();
+    m_month->setCurrentIndex(m_rule.month == 0 ? everyMonth : m_rule.month - 1);
+    m_day->setMaximum(daysIn(m_rule.month));
     m_day->setValue(m_rule.day);
     const auto year = [](int number) { return number == 0 ? QString() : QString::number(number); };
     m_firstYear->setText(year(m_rule.firstYear));
@@ -254,6 +261,16 @@ void RuleForm::showRule()
     m_isShowing = false;
     showParts();
     showWords();
+}
+
+/// A weekday can be that of every month, a date cannot.
+void RuleForm::offerMonths()
+{
+    const bool isOffered = way() == WeekdayOfMonth;
+    if (isOffered && m_month->count() == everyMonth)
+        m_month->addItem(u"every month"_s);
+    else if (!isOffered && m_month->count() > everyMonth)
+        m_month->removeItem(everyMonth);
 }
 
 void RuleForm::showParts()
@@ -299,8 +316,10 @@ void RuleForm::readChoices()
     const Way now = way();
     m_rule.kind = kinds[std::size_t(now)];
     m_rule.weekday = Qt::DayOfWeek(m_weekday->currentIndex() + 1);
-    m_rule.month = m_month->currentIndex() + 1;
-    m_rule.day = std::min(m_day->value(), QDate(leapYear, m_rule.month, 1).daysInMonth());
+    m_rule.month = m_month->currentIndex() == everyMonth ? 0 : m_month->currentIndex() + 1;
+    if (m_rule.month == 0 && now != WeekdayOfMonth)
+        m_rule.month = 1;
+    m_rule.day = std::min(m_day->value(), daysIn(m_rule.month));
     if (now == WeekdayOfMonth && m_ordinal->currentIndex() + 1 == lastOrdinal)
         m_rule.kind = DateRule::Last;
     m_rule.number = now == WeekdayOfMonth                            ? m_ordinal->currentIndex() + 1
@@ -317,7 +336,9 @@ void RuleForm::readChoices()
     m_isReadable = true;
     m_text->setText(m_rule.text());
     m_isShowing = true;
-    m_day->setMaximum(QDate(leapYear, m_rule.month, 1).daysInMonth());
+    offerMonths();
+    m_month->setCurrentIndex(m_rule.month == 0 ? everyMonth : m_rule.month - 1);
+    m_day->setMaximum(daysIn(m_rule.month));
     m_isShowing = false;
     showParts();
     showWords();

@@ -43,6 +43,7 @@ private:
     QHBoxLayout *makeYears();
     QWidget *addPart(QHBoxLayout &row, const QString &caption, QWidget *box);
     void showRule();
+    void offerMonths();
     void showParts();
     void showWords();
     void readChoices();

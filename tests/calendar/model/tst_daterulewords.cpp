@@ -13,6 +13,7 @@ private slots:
         rows<QString, QString>({
             {"a date", u"12-25"_s, u"25 December"_s},
             {"a weekday of a month", u"nth 4 thu 11"_s, u"The fourth Thursday of November"_s},
+            {"of every month", u"nth 1 thu"_s, u"The first Thursday of every month"_s},
             {"the last of one", u"last mon 05"_s, u"The last Monday of May"_s},
             {"before a date", u"before mon 05-25"_s, u"The last Monday before 25 May"_s},
             {"from a date on", u"from sat 06-20"_s, u"The first Saturday from 20 June on"_s},

@@ -89,6 +89,10 @@ private slots:
         QCOMPARE(control<QComboBox>(panel, "rulesMoving")->currentText(), u"As the rule says"_s);
         control<QSpinBox>(panel, "rulesDistance")->setValue(-3); // what has no choice of its own stays
         QCOMPARE(panel.rules().first().rule, u"easter -3 moved fri+1"_s);
+        type(panel, "rulesRule", u"last fri"_s);
+        QCOMPARE(control<QComboBox>(panel, "rulesMonth")->currentText(), u"every month"_s);
+        QTest::keyClick(control<QComboBox>(panel, "rulesWay"), Qt::Key_Up); // a date is in a month
+        QCOMPARE(panel.rules().first().rule, u"01-01"_s);
         type(panel, "rulesRule", u"nth 9 thu 11"_s);
         QCOMPARE(cell(panel, "rulesList", 0, 1), u"! Cannot be read: nth 9 thu 11"_s);
         QCOMPARE(panel.rules().first().rule, u"nth 9 thu 11"_s);
