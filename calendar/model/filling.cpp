@@ -51,9 +51,20 @@ FillPlan Filling::plan(QDate today)
     settleMissed();
     takeOut();
     insertNew();
-    for (const LineSource source : m_taken)
-        m_calendar.filled.insert(source, today);
+    noteFilled(today);
     return {m_calendar, m_summary};
+}
+
+/// What had nothing yet was not filled from; without holidays or rules a calendar is not any more.
+void Filling::noteFilled(QDate today)
+{
+    for (const LineSource source : m_taken) {
+        const bool isOwn = source == LineSource::Holiday || source == LineSource::Rule;
+        if (m_noted.contains(source) || (m_calendar.filled.contains(source) && !isOwn))
+            m_calendar.filled.insert(source, today);
+        else
+            m_calendar.filled.remove(source);
+    }
 }
 
 Filling::Origin Filling::originOf(const DayLine &line)
@@ -75,6 +86,7 @@ void Filling::add(const FillSource &source)
         const QString text = CalendarEdits::lineText(CalendarFill::textOf(note));
         if (text.isEmpty())
             continue;
+        m_noted.insert(source.source);
         const DayLine line{.source = source.source, .origin = note.date, .original = text, .shown = text};
         m_fresh.push_back(
             {line, CellOrder::rankOf(source.source, note.time), source.use == FillSource::Taken});

@@ -45,6 +45,7 @@ private:
     void settleMissed();
     bool exchange(const Missed &missed);
     void takeOut();
+    void noteFilled(QDate today);
     void insertNew();
     static QList<DayLine> merged(const QList<DayLine> &lines, std::vector<const Fresh *> &fresh);
 
@@ -53,6 +54,7 @@ private:
     QDate m_to;
     std::set<LineSource> m_taken;
     std::set<LineSource> m_unread;
+    std::set<LineSource> m_noted; ///< those that have something
     std::vector<Fresh> m_fresh;
     QHash<Origin, std::vector<int>> m_places; ///< of the fresh lines that are not found yet
     std::vector<Missed> m_missed;

@@ -79,6 +79,8 @@ void FillCommands::checkAgain()
 void FillCommands::check()
 {
     m_seen = stamps();
+    if (m_desk.calendars.current() && !m_desk.calendars.whyLocked().isEmpty())
+        emit said(m_desk.calendars.whyLocked());
     if (!m_desk.calendars.whyLocked().isEmpty() || m_typing.isOpen())
         return;
     const WallCalendar &calendar = m_desk.calendars.calendar();

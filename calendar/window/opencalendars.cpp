@@ -27,7 +27,9 @@ void OpenCalendars::refresh()
         head.months = calendar.months;
         head.layout = calendar.look.layout;
     }
-    std::ranges::stable_sort(m_heads, {}, [](const CalendarHead &head) { return head.from; });
+    // What cannot be read stands last.
+    std::ranges::stable_sort(
+        m_heads, {}, [](const CalendarHead &head) { return std::pair(!head.from.isValid(), head.from); });
     emit listChanged();
 }
 
@@ -95,12 +97,12 @@ int OpenCalendars::nearest(QDate today) const
     for (const CalendarHead &head : m_heads) { // by their first months
         if (head.from.isValid() && today >= head.from && today <= head.lastDay())
             return head.number;
-        if (!next && head.from > today)
-            next = &head;
+        if (head.from.isValid() && (!next || next->from <= today))
+            next = &head; // the last one where none comes
     }
     if (next)
         return next->number;
-    return m_heads.isEmpty() ? 0 : m_heads.last().number;
+    return m_heads.isEmpty() ? 0 : m_heads.first().number;
 }
 
 bool OpenCalendars::make(const WallCalendar &calendar, const QString &title)

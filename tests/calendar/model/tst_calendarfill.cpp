@@ -283,6 +283,22 @@ private slots:
         QVERIFY(!CalendarFill::hasAnyOf(calendar, lists));
     }
 
+    void remembersWhatItWasFilledFrom()
+    {
+        const FillSource holidays{LineSource::Holiday, FillSource::Taken, {noteOf(u"9:00 Feast"_s)}};
+        const FillSource noHolidays{LineSource::Holiday};
+        const FillSource noPlanner{LineSource::Planner};
+        WallCalendar calendar = CalendarFill::plan(emptyCalendar(), {noHolidays, noPlanner}, today).calendar;
+        QCOMPARE(calendar, emptyCalendar());
+        const QList<FillSource> sources{holidays, sourcesOf({u"9:00 Dentist"_s})[0]};
+        calendar = CalendarFill::plan(calendar, sources, today).calendar;
+        QCOMPARE(calendar.filled.keys(), (QList<LineSource>{LineSource::Planner, LineSource::Holiday}));
+        // An empty planner may have something again; a calendar without holidays has none.
+        calendar = CalendarFill::plan(calendar, {noHolidays, noPlanner}, today.addDays(1)).calendar;
+        QCOMPARE(calendar.filled, (QMap<LineSource, QDate>{{LineSource::Planner, today.addDays(1)}}));
+        QVERIFY(calendar.days.isEmpty());
+    }
+
     void leavesDaysOutsideTheMonthsAlone()
     {
         WallCalendar calendar =
