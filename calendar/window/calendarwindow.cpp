@@ -113,6 +113,7 @@ void Calendar::makeCommands()
     calendar->addSeparator();
     m_commands->addTrashCommands(calendar);
     undoStack().addCommands(edit);
+    connect(edit, &QMenu::aboutToShow, this, [this] { m_typing->finish(); });
     edit->addSeparator();
     m_cells->addCommands(edit);
     edit->addSeparator();
@@ -204,6 +205,7 @@ void Calendar::connectParts()
     connect(m_calendars, &OpenCalendars::fileTouched, this, [this] { watchFiles(m_calendars->fileNames()); });
     connect(m_calendars, &OpenCalendars::said, this, say);
     connect(m_typing, &CellTyping::said, this, say);
+    connect(m_typing, &CellTyping::done, this, done);
     connect(m_typing, &CellTyping::changed, &commands(), &Commands::refresh);
     connect(m_cells, &CellCommands::said, this, say);
     connect(m_cells, &CellCommands::done, this, done);
@@ -267,7 +269,8 @@ void Calendar::showCalendar()
     m_stack->goHome();
     followZoom();
     m_page->startOver();
-    m_stack->home()->setFocus();
+    if (!isThere || !m_pane->isAncestorOf(focusWidget())) // one may walk through the list
+        m_stack->home()->setFocus();
     commands().refresh();
     m_filling->checkSoon();
 }
@@ -277,7 +280,7 @@ void Calendar::follow()
     followZoom();
     m_page->follow();
     m_cells->follow();
-    if (const CalendarHead *head = m_calendars->head(); head && head->title != m_calendars->calendar().title)
+    if (m_calendars->isListStale())
         m_calendars->refresh();
     commands().refresh();
 }

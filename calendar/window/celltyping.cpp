@@ -8,6 +8,8 @@
 #include "calendar/window/opencalendars.h"
 #include "calendar/window/windowlines.h"
 
+#include <QScopedValueRollback>
+
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,6 +23,7 @@ CellTyping::CellTyping(const CalendarDesk &desk, QObject *parent)
     connect(&cells.editor(), &CellEditor::edited, this, &CellTyping::draft);
     connect(&cells.editor(), &CellEditor::left, this, &CellTyping::leave);
     connect(&cells.editor(), &CellEditor::said, this, &CellTyping::said);
+    connect(&m_desk.calendars, &OpenCalendars::changed, this, &CellTyping::giveWay);
 }
 
 void CellTyping::open(int line, const QString &typed)
@@ -31,6 +34,11 @@ void CellTyping::open(int line, const QString &typed)
         emit said(why);
         return;
     }
+    if (!m_desk.calendars.calendar().has(cells.day())) {
+        emit said(CalendarWindowLines::notThisDate());
+        return;
+    }
+    emit said({}); // of what was done before
     m_before = m_desk.calendars.calendar();
     m_date = cells.day();
     m_person = cells.person();
@@ -79,8 +87,20 @@ QStringList CellTyping::textsOfDay() const
 
 void CellTyping::draft()
 {
+    const QScopedValueRollback<bool> drafting(m_isDrafting, true);
     if (isOpen() && m_desk.calendars.current())
         m_desk.calendars.current()->draft(CalendarEdits::setCell(m_before, m_date, textsOfDay()));
+}
+
+/// Something else has changed the calendar: a step was taken back, say. What the editor has is of before.
+void CellTyping::giveWay()
+{
+    if (!isOpen() || m_isDrafting)
+        return;
+    m_date = {};
+    m_desk.page.cells().editor().close();
+    m_desk.page.cells().setFocus();
+    emit changed();
 }
 
 void CellTyping::finish()
@@ -95,6 +115,8 @@ void CellTyping::finish()
     cells.editor().close();
     if (OpenCalendar *calendar = m_desk.calendars.current())
         calendar->endDraft(CalendarWindowLines::wroteOn(date));
+    if (m_desk.calendars.calendar() != m_before)
+        emit done(CalendarWindowLines::wroteOn(date));
     const QList<DayLine> lines = m_desk.calendars.calendar().days.value(date);
     for (int line = 0; line < lines.size() && !text.isEmpty(); ++line) {
         if (lines[line].shown == text)

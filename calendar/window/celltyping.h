@@ -23,9 +23,12 @@ signals:
     /// The day was opened or left.
     void changed();
     void said(const QString &line);
+    /// Something was typed, and can be taken back.
+    void done(const QString &line);
 
 private:
     void draft();
+    void giveWay();
     void leave(bool byKey);
     QStringList textsOfDay() const;
     QString named(const QString &text) const;
@@ -34,5 +37,6 @@ private:
     QDate m_date;          ///< that is typed into
     int m_person = 0;      ///< in whose column
     WallCalendar m_before; ///< when it was opened
+    bool m_isDrafting = false;
     QList<int> m_ownLines; ///< of the day, those that stand in the opened cell
 };

@@ -39,7 +39,7 @@ MonthPage::MonthPage(const Program &program, OpenCalendars &calendars, QWidget *
     connect(m_title, &StepTitle::todayRequested, this, [this] { showDay(m_program.clock.today()); });
     connect(m_cells, &MonthCells::monthStepped, this, &MonthPage::step);
     connect(m_cells, &MonthCells::dayWanted, this, [this](QDate day) {
-        if (m_calendars.calendar().has(day))
+        if (m_calendars.calendar().has(day) || !m_calendars.calendar().has(m_cells->day()))
             showDay(day);
     });
     connect(m_cells, &MonthCells::moved, this, &MonthPage::moved);

@@ -33,10 +33,11 @@ void OpenCalendars::refresh()
     emit listChanged();
 }
 
-const CalendarHead *OpenCalendars::head() const
+bool OpenCalendars::isListStale() const
 {
-    const auto found = std::ranges::find(m_heads, number(), &CalendarHead::number);
-    return found == m_heads.end() ? nullptr : &*found;
+    const auto head = std::ranges::find(m_heads, number(), &CalendarHead::number);
+    return head != m_heads.end() && (head->title != calendar().title || head->from != calendar().from ||
+                                     head->months != calendar().months);
 }
 
 const WallCalendar &OpenCalendars::calendar() const

@@ -27,8 +27,8 @@ public:
 
     /// The one that is shown; null without any.
     OpenCalendar *current() const { return m_current; }
-    /// What the list says of it; null without any.
-    const CalendarHead *head() const;
+    /// Whether the list says something else of it than is so now.
+    bool isListStale() const;
     int number() const { return m_current ? m_current->number() : 0; }
     /// The one that is shown, or an empty one.
     const WallCalendar &calendar() const;

@@ -120,6 +120,24 @@ private slots:
         QCOMPARE(shown(), (QStringList{u"One"_s, QString(200, u'x'), u"short"_s}));
     }
 
+    /// What was typed in between is never lost to a step that is taken back while the day is open.
+    void aDayThatIsOpenGivesWayToUndo()
+    {
+        open(march());
+        goTo(sunday);
+        typeInto(cells(), u"O"_s);
+        typeInto(editor(), u"ne"_s);
+        key(Qt::Key_Escape);
+        QCOMPARE(said(), u"Written on Sunday 14 March"_s);
+        key(Qt::Key_Return);
+        QCOMPARE(said(), QString());
+        trigger("mEUndo");
+        QVERIFY(!editor()->isVisible());
+        QCOMPARE(shown(), QStringList());
+        trigger("mERedo");
+        QCOMPARE(shown(), QStringList{u"One"_s});
+    }
+
     void aLineGoesToAnotherDate()
     {
         open(march(typed("2027-03-14", "One")));
