@@ -27,6 +27,8 @@ constexpr double captionDrop = 3;
 constexpr double weekPoints = 8;
 constexpr double cutMark = 14;
 constexpr double spanInset = 4;
+constexpr double rim = 0.4;
+constexpr double beginning = 1.8;        ///< of a bar
 constexpr QColor grey(0x6B, 0x66, 0x5E); ///< of other months' numbers: also dark enough on a tone
 
 /// What a text drawn between two lines stands at, in their middle.
@@ -118,24 +120,33 @@ void GridPainter::paintTints(const GridFrame &frame, const LaidBlock &block) con
 
 void GridPainter::paintSpans(const GridFrame &frame, const LaidBlock &block) const
 {
-    const PageType &type = m_types.line(frame.points());
     for (const LaidSpan &span : block.spans) {
-        const bool hasWords = !span.words.isEmpty();
-        const QColor tone =
-            hasWords ? GridColors::tone(span.span->tone) : GridColors::toneEdge(span.span->tone);
-        round(span.rect, std::min({2.0, span.rect.height() / 2, span.rect.width() / 2}), tone);
-        if (!hasWords)
-            continue;
-        if (span.span->beginsHere)
-            m_painter.fillRect(QRectF(span.rect.topLeft(), QSizeF(1.6, span.rect.height())),
-                               GridColors::toneEdge(span.span->tone));
-        const double height = double(span.words.size()) * frame.pitch();
-        double y =
-            span.rect.top() + (span.rect.height() - height) / 2 + GridTypes::lift(type, frame.points());
-        for (const QString &words : span.words) {
-            type.draw(m_painter, {span.rect.left() + spanInset, y}, words);
-            y += frame.pitch();
-        }
+        if (span.words.isEmpty())
+            round(span.rect, std::min({2.0, span.rect.height() / 2, span.rect.width() / 2}),
+                  GridColors::toneEdge(span.span->tone));
+        else
+            paintBar(frame, span);
+    }
+}
+
+/// With a rim, so that it is seen on a weekend in black and white; an end that goes on elsewhere is open.
+void GridPainter::paintBar(const GridFrame &frame, const LaidSpan &span) const
+{
+    const QColor edge = GridColors::toneEdge(span.span->tone);
+    const QRectF &bar = span.rect;
+    m_painter.fillRect(bar, GridColors::tone(span.span->tone));
+    m_painter.fillRect(QRectF(bar.left(), bar.top(), bar.width(), rim), edge);
+    m_painter.fillRect(QRectF(bar.left(), bar.bottom() - rim, bar.width(), rim), edge);
+    if (span.span->beginsHere)
+        m_painter.fillRect(QRectF(bar.left(), bar.top(), beginning, bar.height()), edge);
+    if (span.span->endsHere)
+        m_painter.fillRect(QRectF(bar.right() - rim, bar.top(), rim, bar.height()), edge);
+    const PageType &type = m_types.line(frame.points());
+    const double height = double(span.words.size()) * frame.pitch();
+    double y = bar.top() + (bar.height() - height) / 2 + GridTypes::lift(type, frame.points());
+    for (const QString &words : span.words) {
+        type.draw(m_painter, {bar.left() + spanInset, y}, words);
+        y += frame.pitch();
     }
 }
 

@@ -33,6 +33,7 @@ public:
 private:
     void paintTints(const GridFrame &frame, const LaidBlock &block) const;
     void paintSpans(const GridFrame &frame, const LaidBlock &block) const;
+    void paintBar(const GridFrame &frame, const LaidSpan &span) const;
     void paintLines(const GridFrame &frame, const LaidBlock &block) const;
     void paintHeads(const GridFrame &frame) const;
     void paintRowHead(const GridFrame &frame, const GridHead &head, const QRectF &row) const;
