@@ -92,16 +92,77 @@ RuleForm::RuleForm(const Program &program, const QString &name, QWidget *window,
     , m_text(named(new QLineEdit(this), name + u"Rule"_s))
     , m_words(named(makeQuietLabel({}, this), name + u"Fault"_s))
 {
+    fillChoices();
+    auto *picker = new DatePicker(program.clock, program.settings, window, name + u"Calendar"_s);
+    m_start = named(new DateBox({program.state.dateStyle, program.clock}, picker, this), name + u"Start"_s);
+    m_start->setFixedWidth(boxWidth(u"Nov-24-2026"_s, 130));
+    m_words->setWordWrap(true);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(8);
-    column->addLayout(makeDays(program, name, window));
-    column->addLayout(makeYears());
+    column->addLayout(makeRow({{u"When"_s, m_way}, {u"On a weekend"_s, m_moving}}));
+    column->addLayout(makeRow({{u"Every"_s, m_interval},
+                               {u"Which"_s, m_ordinal},
+                               {u"Weekday"_s, m_weekday},
+                               {u"Month"_s, m_month},
+                               {u"Day"_s, m_day},
+                               {u"Days"_s, m_distance},
+                               {u"From"_s, m_start}}));
+    QHBoxLayout *years = makeRow({{u"From year"_s, m_firstYear}, {u"To year"_s, m_lastYear}});
+    years->insertLayout(years->count() - 1, labelled(u"Rule"_s, m_text, RuleLines::ruleHint()), 1);
+    column->addLayout(years);
+    column->addWidget(m_words);
+    QWidget *before = m_way;
+    for (QWidget *box :
+         std::initializer_list<QWidget *>{m_moving, m_interval, m_ordinal, m_weekday, m_month, m_day,
+                                          m_distance, m_start, m_firstYear, m_lastYear, m_text})
+        setTabOrder(std::exchange(before, box), box);
+    listen();
+    setRule(m_rule.text());
+}
+
+void RuleForm::fillChoices()
+{
+    m_way->addItems({u"Every so many weeks"_s, u"Every so many days"_s, u"A date"_s,
+                     u"A weekday of a month"_s, u"A weekday before a date"_s, u"A weekday from a date on"_s,
+                     u"Days from Easter"_s, u"Days from Orthodox Easter"_s});
+    for (int ordinal = 1; ordinal < lastOrdinal; ++ordinal)
+        m_ordinal->addItem(DateRuleWords::ordinal(ordinal));
+    m_ordinal->addItem(u"last"_s);
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
+        m_weekday->addItem(QLocale::c().standaloneDayName(day));
+    for (int month = 1; month <= 12; ++month)
+        m_month->addItem(QLocale::c().standaloneMonthName(month));
+    for (const Moving &moving : movings())
+        m_moving->addItem(moving.caption);
+    for (QLineEdit *box : {m_firstYear, m_lastYear}) {
+        box->setValidator(new QIntValidator(1, 9999, box));
+        box->setMaxLength(4);
+        box->setFixedWidth(boxWidth(u"20277"_s, 84));
+    }
     new PasteFilter(m_text, Characters::All);
     m_text->setMaxLength(longestText);
-    column->addLayout(labelled(u"Rule"_s, m_text, RuleLines::ruleHint()));
-    m_words->setWordWrap(true);
-    column->addWidget(m_words);
+}
+
+/// Boxes with their labels, each of which is shown and hidden with its box.
+QHBoxLayout *RuleForm::makeRow(std::initializer_list<std::pair<QString, QWidget *>> boxes)
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(gap);
+    for (const auto &[caption, box] : boxes) {
+        box->setMinimumHeight(m_way->sizeHint().height());
+        auto *part = new QWidget(this);
+        QBoxLayout *both = labelled(caption, box);
+        both->setContentsMargins({});
+        part->setLayout(both);
+        row->addWidget(part);
+    }
+    row->addStretch(0);
+    return row;
+}
+
+void RuleForm::listen()
+{
     connect(m_way, &QComboBox::activated, this, [this] {
         if (!m_start->date())
             m_start->setDate(m_program.clock.today());
@@ -115,71 +176,6 @@ RuleForm::RuleForm(const Program &program, const QString &name, QWidget *window,
     for (QLineEdit *box : {m_firstYear, m_lastYear})
         connect(box, &QLineEdit::textEdited, this, &RuleForm::readChoices);
     connect(m_text, &QLineEdit::textEdited, this, &RuleForm::readText);
-    QWidget *before = m_way;
-    for (QWidget *box :
-         std::initializer_list<QWidget *>{m_interval, m_ordinal, m_weekday, m_month, m_day, m_distance,
-                                          m_start, m_firstYear, m_lastYear, m_moving, m_text})
-        setTabOrder(std::exchange(before, box), box);
-    setRule(m_rule.text());
-}
-
-QHBoxLayout *RuleForm::makeDays(const Program &program, const QString &name, QWidget *window)
-{
-    m_way->addItems({u"Every so many weeks"_s, u"Every so many days"_s, u"A date"_s,
-                     u"A weekday of a month"_s, u"A weekday before a date"_s, u"A weekday from a date on"_s,
-                     u"Days from Easter"_s, u"Days from Orthodox Easter"_s});
-    for (int ordinal = 1; ordinal < lastOrdinal; ++ordinal)
-        m_ordinal->addItem(DateRuleWords::ordinal(ordinal));
-    m_ordinal->addItem(u"last"_s);
-    for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
-        m_weekday->addItem(QLocale::c().standaloneDayName(day));
-    for (int month = 1; month <= 12; ++month)
-        m_month->addItem(QLocale::c().standaloneMonthName(month));
-    auto *picker = new DatePicker(program.clock, program.settings, window, name + u"Calendar"_s);
-    m_start = named(new DateBox({program.state.dateStyle, program.clock}, picker, this), name + u"Start"_s);
-    m_start->setFixedWidth(boxWidth(u"Nov-24-2026"_s, 130));
-    auto *row = new QHBoxLayout;
-    row->setSpacing(gap);
-    addPart(*row, u"When"_s, m_way);
-    addPart(*row, u"Every"_s, m_interval);
-    addPart(*row, u"Which"_s, m_ordinal);
-    addPart(*row, u"Weekday"_s, m_weekday);
-    addPart(*row, u"Month"_s, m_month);
-    addPart(*row, u"Day"_s, m_day);
-    addPart(*row, u"Days"_s, m_distance);
-    addPart(*row, u"From"_s, m_start);
-    row->addStretch(1);
-    return row;
-}
-
-QHBoxLayout *RuleForm::makeYears()
-{
-    for (QLineEdit *box : {m_firstYear, m_lastYear}) {
-        box->setValidator(new QIntValidator(1, 9999, box));
-        box->setMaxLength(4);
-        box->setFixedWidth(boxWidth(u"20277"_s, 84));
-    }
-    for (const Moving &moving : movings())
-        m_moving->addItem(moving.caption);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(gap);
-    addPart(*row, u"From year"_s, m_firstYear);
-    addPart(*row, u"To year"_s, m_lastYear);
-    addPart(*row, u"On a weekend"_s, m_moving);
-    row->addStretch(1);
-    return row;
-}
-
-/// A box with its label, which are shown and hidden together.
-QWidget *RuleForm::addPart(QHBoxLayout &row, const QString &caption, QWidget *box)
-{
-    box->setMinimumHeight(m_way->sizeHint().height());
-    auto *part = new QWidget(this);
-    QBoxLayout *both = labelled(caption, box);
-    both->setContentsMargins({});
-    part->setLayout(both);
-    row.addWidget(part);
-    return part;
 }
 
 QWidget *RuleForm::firstInTab() const

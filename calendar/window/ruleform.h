@@ -5,6 +5,9 @@
 
 #include <QWidget>
 
+#include <initializer_list>
+#include <utility>
+
 class DateBox;
 class QComboBox;
 class QHBoxLayout;
@@ -39,9 +42,9 @@ private:
     /// What the first choice offers.
     enum Way { Weeks, Days, OnDate, WeekdayOfMonth, BeforeDate, FromDate, FromEaster, FromOrthodoxEaster };
 
-    QHBoxLayout *makeDays(const Program &program, const QString &name, QWidget *window);
-    QHBoxLayout *makeYears();
-    QWidget *addPart(QHBoxLayout &row, const QString &caption, QWidget *box);
+    void fillChoices();
+    QHBoxLayout *makeRow(std::initializer_list<std::pair<QString, QWidget *>> boxes);
+    void listen();
     void showRule();
     void offerMonths();
     void showParts();

@@ -168,8 +168,8 @@ private slots:
             QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
         }
         QCOMPARE(names.join(u' '),
-                 u"Set NewSet List Words Way Month Day FirstYear LastYear Moving Rule Remove New "
-                 "Keep Cancel"_s);
+                 u"Set NewSet List Words Way Moving Month Day FirstYear LastYear Rule Remove New Keep "
+                 "Cancel"_s);
     }
 
     void leaveAFileOfALaterVersionAsItIs()
