@@ -26,6 +26,7 @@ struct CalendarHead {
     CalendarLayout layout = CalendarLayout::Month;
     State state = Whole;
 
+    bool isCalendar() const { return state == Whole || state == Later; }
     QDate lastDay() const { return from.addMonths(months).addDays(-1); }
     bool operator==(const CalendarHead &) const = default;
 };

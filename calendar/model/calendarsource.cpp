@@ -40,7 +40,7 @@ void CalendarSource::begin()
     QList<CalendarHead> heads = CalendarFiles::heads(m_folder);
     std::ranges::stable_sort(heads, {}, &CalendarHead::from);
     for (const CalendarHead &head : heads) {
-        if (head.state == CalendarHead::Whole || head.state == CalendarHead::Later)
+        if (head.isCalendar())
             m_left.append(head.number);
     }
 }

@@ -52,8 +52,8 @@ void CalendarCommands::addCommands(QMenu *calendar)
     QAction *next = m_desk.commands.add(
         calendar, u"mCNext"_s, u"Next &Year from This One"_s, [this] { startNextYear(); },
         [this] {
-            if (!m_desk.calendars.current())
-                return CalendarWindowLines::noCalendar();
+            if (const QString why = whyNoCalendar(); !why.isEmpty())
+                return why;
             return NextYear::of(m_desk.calendars.calendar()) ? QString() : CalendarWindowLines::noNextYear();
         });
     m_desk.commands.writing(next);
@@ -162,7 +162,16 @@ void CalendarCommands::addTrashCommands(QMenu *calendar)
         m_desk.commands.add(calendar, u"mCBack"_s, u"Bring &Back Deleted..."_s, [this] { openTrash(); }));
     m_desk.commands.writing(m_desk.commands.add(
         calendar, u"mCDel"_s, u"&Delete Calendar..."_s, [this] { remove(); },
-        [this] { return m_desk.calendars.current() ? QString() : CalendarWindowLines::noCalendar(); }));
+        [this] { return whyNoCalendar(); }));
+}
+
+/// A file that is none of ours is left as it is.
+QString CalendarCommands::whyNoCalendar() const
+{
+    const CalendarHead *head = m_desk.calendars.head();
+    if (!head)
+        return CalendarWindowLines::noCalendar();
+    return head->isCalendar() ? QString() : m_desk.calendars.whyLocked();
 }
 
 void CalendarCommands::open(QWidget *panel)
@@ -175,7 +184,7 @@ void CalendarCommands::open(QWidget *panel)
 void CalendarCommands::remove()
 {
     m_typing.finish();
-    const QString name = m_desk.calendars.calendar().title;
+    const QString name = m_desk.calendars.head()->title;
     if (m_desk.program.dialogs.ask(&m_desk.window, CalendarMessages::deleteCalendar(name)) != Answer::Yes)
         return;
     const QString title = CalendarWindowLines::deleted(name);

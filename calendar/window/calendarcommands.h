@@ -44,6 +44,7 @@ private:
     void makePanel();
     void startNew();
     void startLook();
+    QString whyNoCalendar() const;
     void startNextYear();
     void take();
     void startRules();

@@ -19,10 +19,10 @@ void OpenCalendars::refresh()
     m_heads.removeIf([this](const CalendarHead &head) { return m_removed.contains(head.number); });
     for (CalendarHead &head : m_heads) {
         const auto open = m_opened.find(head.number);
-        if (open == m_opened.end())
+        if (open == m_opened.end() || !head.isCalendar())
             continue;
         const WallCalendar &calendar = open->second->calendar(); // which the file may not have yet
-        head.title = calendar.title;
+        head.title = calendar.title.isEmpty() ? CalendarFiles::name(head.number) : calendar.title;
         head.from = calendar.from;
         head.months = calendar.months;
         head.layout = calendar.look.layout;
@@ -38,6 +38,12 @@ bool OpenCalendars::isListStale() const
     const auto head = std::ranges::find(m_heads, number(), &CalendarHead::number);
     return head != m_heads.end() && (head->title != calendar().title || head->from != calendar().from ||
                                      head->months != calendar().months);
+}
+
+const CalendarHead *OpenCalendars::head() const
+{
+    const auto found = std::ranges::find(m_heads, number(), &CalendarHead::number);
+    return found == m_heads.end() ? nullptr : &*found;
 }
 
 const WallCalendar &OpenCalendars::calendar() const

@@ -29,6 +29,8 @@ public:
     OpenCalendar *current() const { return m_current; }
     /// Whether the list says something else of it than is so now.
     bool isListStale() const;
+    /// What the list says of it; null without any.
+    const CalendarHead *head() const;
     int number() const { return m_current ? m_current->number() : 0; }
     /// The one that is shown, or an empty one.
     const WallCalendar &calendar() const;

@@ -295,6 +295,14 @@ private slots:
         key(Qt::Key_Return);
         QVERIFY(!editor()->isVisible());
         QVERIFY(!find<QAction>("mCFill")->isEnabled());
+        QVERIFY(find<QAction>("mCDel")->isEnabled());
+        // It is one's own all the same; what is none of ours is not.
+        m_test->setBytes(u"CalMk1.Fil"_s, "Quillery list 1\r\n");
+        close();
+        openAgain();
+        QCOMPARE(said(), u"CalMk1.Fil is not a file of this calendar maker: it is left as it is."_s);
+        for (const char *command : {"mCFill", "mCDel", "mCNext"})
+            QVERIFY(!find<QAction>(command)->isEnabled());
     }
 
     void asksOnlyWhenASaveFailed()
