@@ -263,12 +263,13 @@ void Calendar::connectPage()
 void Calendar::showCalendar()
 {
     const bool isThere = m_calendars->current();
-    activity().say(isThere ? m_calendars->whyLocked() : QString());
     m_stack->setHome(isThere ? static_cast<QWidget *>(m_page) : m_empty);
     closePreview();
     m_stack->goHome();
     followZoom();
     m_page->startOver();
+    if (const QString why = isThere ? m_calendars->whyLocked() : QString(); !why.isEmpty() || !isThere)
+        activity().say(why);
     if (!isThere || !m_pane->isAncestorOf(focusWidget())) // one may walk through the list
         m_stack->home()->setFocus();
     commands().refresh();

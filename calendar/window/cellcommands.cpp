@@ -137,8 +137,9 @@ void CellCommands::remove()
         emit said(CalendarWindowLines::chooseLine());
         return;
     }
-    make(CalendarWindowLines::removed(chosen().shown),
-         CalendarEdits::removeLine(m_desk.calendars.calendar(), cells.day(), cells.line()));
+    if (make(CalendarWindowLines::removed(chosen().shown),
+             CalendarEdits::removeLine(m_desk.calendars.calendar(), cells.day(), cells.line())))
+        cells.setLine(-1); // another one stands there now
     cells.setFocus();
 }
 
@@ -228,8 +229,8 @@ void CellCommands::move(QDate from, int line, QDate to, bool isCopied)
     }
     if (isCopied)
         make(CalendarWindowLines::copiedTo(text, to), CalendarEdits::copyLine(calendar, from, line, to));
-    else
-        make(CalendarWindowLines::movedTo(text, to), CalendarEdits::moveLine(calendar, from, line, to));
+    else if (make(CalendarWindowLines::movedTo(text, to), CalendarEdits::moveLine(calendar, from, line, to)))
+        m_desk.page.cells().setLine(-1);
 }
 
 void CellCommands::emptyMonth()

@@ -64,8 +64,10 @@ void MonthPage::showDay(QDate day)
     const bool isOther = month != m_month;
     m_month = month;
     m_cells->setDay(shown);
-    if (isOther)
+    if (isOther) {
+        m_leftOver = -1; // it is said of each month
         showSheet();
+    }
     m_cells->setDay(shown);
     if (isOther)
         emit monthChanged();

@@ -144,8 +144,10 @@ private slots:
         goTo(sunday);
         drop(QDate(2027, 3, 16), Qt::CopyAction);
         QCOMPARE(shown(QDate(2027, 3, 16)), QStringList{u"One"_s});
+        key(Qt::Key_Down, Qt::ControlModifier);
         drop(QDate(2027, 3, 17), Qt::MoveAction);
         QCOMPARE(shown(), QStringList());
+        QCOMPARE(cells()->line(), -1);
         goTo(QDate(2027, 3, 17));
         key(Qt::Key_D, Qt::ControlModifier);
         auto *date = find<QLineEdit>("lineDate");
@@ -173,6 +175,22 @@ private slots:
         click("barRemove");
         trigger("mOSave");
         QVERIFY(!file().contains("span"));
+    }
+
+    /// "1" to "40" on a day, more than any sheet has room for there.
+    void aCrowdedDayOpensWithAllItsLines()
+    {
+        QByteArray lines;
+        for (int i = 1; i <= 40; ++i)
+            lines += typed("2027-03-14", QByteArray::number(i));
+        open(march(lines));
+        QVERIFY(said().endsWith(u"lines have no room in their days and stand at the foot of the sheet"_s));
+        goTo(sunday);
+        key(Qt::Key_Return);
+        QCOMPARE(editor()->lines().size(), 41); // and a new one
+        key(Qt::Key_Escape);
+        key(Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(said(), u"line 40 of 40: 40, typed here"_s);
     }
 
     void readsADayAloud()
