@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr double around = 1.2; ///< above and below the lines of a day
+constexpr double leftMark = 13; ///< for "+3" where a day may have more than its row holds
+constexpr double around = 1.2;  ///< above and below the lines of a day
 
 /// The columns with their bars and their wrapped lines.
 struct Column {
@@ -26,7 +27,8 @@ Column columnOf(const GridFrame &frame, int column)
     Column laid{GridBars::downColumn(frame, column), {}};
     laid.days.reserve(std::size_t(frame.rowCount()));
     for (int row = 0; row < frame.rowCount(); ++row) {
-        const double width = frame.columnWidth() - leftOf(frame, laid.bars, row) - frame.inset();
+        const double right = frame.inset() + (frame.isRunning() ? leftMark : 0);
+        const double width = frame.columnWidth() - leftOf(frame, laid.bars, row) - right;
         laid.days.emplace_back(frame, frame.cell(row, column).lines, 0, width);
     }
     return laid;
@@ -82,7 +84,8 @@ LaidBlock GridBlocks::days(const GridFrame &frame)
     for (const RowNeed &need : needs)
         block.least += need.scant();
     double top = frame.body().top();
-    for (const double height : sharedOut(needs, frame.body().height()).heights) {
+    for (const double height :
+         sharedOut(needs, frame.body().height(), GridEntries::lineHeight(frame)).heights) {
         block.rows.emplace_back(frame.body().left(), top, frame.body().width(), height);
         top += height;
     }

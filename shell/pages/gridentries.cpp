@@ -2,13 +2,14 @@
 #include "shell/pages/gridentries.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr double gap = 1;       ///< between two entries
 constexpr double hanging = 0.6; ///< sizes of the letters
 constexpr double square = 0.95; ///< with the gap behind it
 constexpr double tolerance = 0.05;
+constexpr double beside = 1.3;       ///< sizes of the letters, between two entries side by side
 constexpr double narrowLetter = 0.2; ///< sizes of the letters
 
 /// Whether a text is surely too long, told without wrapping it.
@@ -21,8 +22,7 @@ bool isTallerThan(double height, const GridFrame &frame, const GridLine &line, d
 } // namespace
 
 GridEntries::GridEntries(const GridFrame &frame, const QList<GridLine> &lines, qsizetype first, double width)
-    : m_frame(frame)
-    , m_first(first)
+    : m_first(first)
 {
     const double most = frame.body().height();
     for (qsizetype i = first; i < lines.size(); ++i) {
@@ -30,23 +30,48 @@ GridEntries::GridEntries(const GridFrame &frame, const QList<GridLine> &lines, q
             m_height = most * 2; // what follows has no room however the rows are shared out
             break;
         }
-        m_lines.push_back(wrapped(frame, lines[i], width));
-        m_height += heightOf(frame, m_lines.back()) + (i > first ? gap : 0);
+        add(frame, wrapped(frame, lines[i], width), width);
     }
+}
+
+/// Below the entries before it, or beside the last one where lines run and there is room.
+void GridEntries::add(const GridFrame &frame, LaidLine line, double width)
+{
+    const double height = heightOf(frame, line);
+    double left = 0;
+    double top = m_lines.empty() ? 0 : m_height + gap;
+    double taken = width;
+    if (frame.isRunning() && line.words.size() == 1) {
+        taken = std::min(width, line.lead + widthOf(frame, line));
+        const bool isOneLevel = !m_lines.empty() && m_lines.back().words.size() == 1;
+        const double behind = isOneLevel ? m_lines.back().rect.right() + beside * frame.points() : width;
+        if (isOneLevel && behind + taken <= width) {
+            left = behind;
+            top = m_lines.back().rect.top();
+            line.isBesideLast = true;
+        }
+    }
+    line.rect = QRectF(left, top, taken, height);
+    m_height = line.rect.bottom();
+    m_lines.push_back(std::move(line));
 }
 
 qsizetype GridEntries::place(const QRectF &place, std::vector<LaidLine> &laid) const
 {
-    double y = place.top();
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
-        const double height = heightOf(m_frame, m_lines[i]);
-        if (y + height > place.bottom() + tolerance)
+        const QRectF rect = m_lines[i].rect.translated(place.topLeft());
+        if (rect.bottom() > place.bottom() + tolerance)
             return m_first + qsizetype(i);
         laid.push_back(m_lines[i]);
-        laid.back().rect = QRectF(place.left(), y, place.width(), height);
-        y += height + gap;
+        laid.back().rect = rect;
     }
     return m_first + qsizetype(m_lines.size());
+}
+
+double GridEntries::widthOf(const GridFrame &frame, const LaidLine &line)
+{
+    const GridTypes::Weight weight = line.line->isStrong ? GridTypes::Strong : GridTypes::Normal;
+    return frame.types().line(frame.points(), weight).width(line.words.constFirst());
 }
 
 LaidLine GridEntries::wrapped(const GridFrame &frame, const GridLine &line, double width, Further further)

@@ -23,10 +23,16 @@ public:
     enum class Further { Indented, Level };
     static LaidLine wrapped(const GridFrame &frame, const GridLine &line, double width,
                             Further further = Further::Indented);
+    /// Of one line with the gap to the next entry.
+    static double lineHeight(const GridFrame &frame) { return frame.pitch() + gap; }
     static double heightOf(const GridFrame &frame, const LaidLine &line);
 
 private:
-    const GridFrame &m_frame;
+    static constexpr double gap = 1; ///< between two entries
+
+    void add(const GridFrame &frame, LaidLine line, double width);
+    static double widthOf(const GridFrame &frame, const LaidLine &line);
+
     qsizetype m_first;
     std::vector<LaidLine> m_lines;
     double m_height = 0;

@@ -20,11 +20,12 @@ bool hasWeeks(const GridBlock &block)
 } // namespace
 
 GridFrame::GridFrame(const GridBlock &block, const QRectF &rect, GridStyle style, const GridTypes &types,
-                     double points)
+                     double points, Lines lines)
     : m_block(&block)
     , m_style(style)
     , m_types(&types)
     , m_points(points)
+    , m_lines(lines)
 {
     const QSizeF padding = block.padding * pointsPerInch;
     m_rect = rect.adjusted(padding.width(), padding.height(), -padding.width(), -padding.height());

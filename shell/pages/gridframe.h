@@ -11,12 +11,20 @@
 class GridFrame
 {
 public:
+    /// How the lines of a day stand in a row of days.
+    enum class Lines {
+        Stacked,
+        Running ///< short ones side by side
+    };
+
     GridFrame(const GridBlock &block, const QRectF &rect, GridStyle style, const GridTypes &types,
-              double points);
+              double points, Lines lines = Lines::Stacked);
 
     const GridBlock &block() const { return *m_block; }
     GridStyle style() const { return m_style; }
     const GridTypes &types() const { return *m_types; }
+
+    bool isRunning() const { return m_lines == Lines::Running && m_block->form == GridForm::Days; }
 
     int columnCount() const { return int(m_block->columns.size()); }
     int rowCount() const { return int(m_block->rowCount()); }
@@ -59,6 +67,7 @@ private:
     GridStyle m_style;
     const GridTypes *m_types;
     double m_points;
+    Lines m_lines;
     double m_numberPoints = 0;
     double m_headPoints = 0;
     double m_titlePoints = 0;

@@ -19,7 +19,7 @@ namespace {
 constexpr double photoGap = 14;
 constexpr double captionHeight = 14;
 constexpr double headGap = 6;
-constexpr double mostOfBody = 0.42; ///< for the list at the foot
+constexpr double mostOfBody = 0.6; ///< for the list at the foot
 constexpr int mostRounds = 12;
 constexpr int heightsTried = 5;
 constexpr QSizeF smallGrid{88, 72};
@@ -45,8 +45,19 @@ GridLayout::GridLayout(std::shared_ptr<const PageGrid> grid, const PageFont &fon
 {
     placeAround();
     m_points = firstPoints();
-    if (!layOut(0) && !shrink())
+    if (!layOut(0) && !shrink() && !run())
         layOutWithRest();
+}
+
+/// The same with lines side by side, where that is of use.
+bool GridLayout::run()
+{
+    const auto isDays = [](const GridBlock &block) { return block.form == GridForm::Days; };
+    if (std::ranges::none_of(m_grid->blocks, isDays))
+        return false;
+    m_lines = GridFrame::Lines::Running;
+    m_points = firstPoints();
+    return layOut(0) || shrink();
 }
 
 /// The largest size at which all lines find room; false where even the smallest is too large.
@@ -120,7 +131,7 @@ bool GridLayout::layOut(double restHeight)
     const QRectF room = m_body.adjusted(0, 0, 0, -restHeight);
     bool isEnough = true;
     for (const GridBlock &block : m_grid->blocks) {
-        const GridFrame frame(block, shareOf(room, block.share), m_grid->style, *m_types, m_points);
+        const GridFrame frame(block, shareOf(room, block.share), m_grid->style, *m_types, m_points, m_lines);
         m_blocks.push_back({frame, GridBlocks::laidOut(frame, m_notes)});
         isEnough = isEnough && m_blocks.back().laid.left.empty();
     }

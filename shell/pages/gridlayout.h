@@ -64,6 +64,7 @@ private:
     double firstPoints() const;
     bool layOut(double restHeight);
     bool shrink();
+    bool run();
     std::vector<GridRest::Entry> leftLines() const;
     double mostRest() const;
     void layOutWithRest();
@@ -82,6 +83,7 @@ private:
     QRectF m_body; ///< for the blocks and the list
     std::vector<Block> m_smallGrids;
     std::vector<Block> m_blocks;
+    GridFrame::Lines m_lines = GridFrame::Lines::Stacked;
     NotesPlace m_notes = NotesPlace::Below;
     std::vector<GridRest> m_lists; ///< one a sheet
     int m_restCount = 0;

@@ -279,6 +279,12 @@ void GridPainter::paintEntry(const GridFrame &frame, const LaidLine &line) const
         const double y = top.y() + type.baseline() - size + 0.3;
         round({line.rect.left() + lead - before, y, size, size}, 1, GridColors::toneEdge(line.line->tone));
     }
+    if (line.isBesideLast) {
+        const double size = frame.points() * 0.18;
+        const QPointF at(line.rect.left() - frame.points() * 0.65,
+                         top.y() + type.baseline() - frame.points() * 0.3);
+        round(QRectF(at - QPointF(size, size) / 2, QSizeF(size, size)), size / 2, GridColors::quiet);
+    }
     if (!line.line->lead.isEmpty())
         m_types.line(frame.points(), GridTypes::Strong).draw(m_painter, top, line.line->lead);
     for (qsizetype i = 0; i < line.words.size(); ++i)

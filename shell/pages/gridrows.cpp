@@ -36,9 +36,36 @@ std::vector<double> levelled(const std::vector<Bounds> &bounds, double height)
     return heights;
 }
 
+/// A line more for the lowest row that needs one, until there is no room for any.
+std::vector<double> filledUp(const std::vector<RowNeed> &needs, double height, double line)
+{
+    std::vector<double> heights;
+    heights.reserve(needs.size());
+    for (const RowNeed &need : needs)
+        heights.push_back(need.least);
+    double free = height - std::accumulate(heights.begin(), heights.end(), 0.0);
+    for (;;) {
+        std::size_t lowest = needs.size();
+        for (std::size_t i = 0; i < needs.size(); ++i) {
+            const bool wantsMore =
+                heights[i] < needs[i].whole && std::min(line, needs[i].whole - heights[i]) <= free;
+            if (wantsMore && (lowest == needs.size() || heights[i] < heights[lowest]))
+                lowest = i;
+        }
+        if (lowest == needs.size())
+            break;
+        const double more = std::min(line, needs[lowest].whole - heights[lowest]);
+        heights[lowest] += more;
+        free -= more;
+    }
+    for (double &one : heights)
+        one += free / double(heights.size());
+    return heights;
+}
+
 } // namespace
 
-RowHeights sharedOut(const std::vector<RowNeed> &needs, double height)
+RowHeights sharedOut(const std::vector<RowNeed> &needs, double height, double line)
 {
     double whole = 0;
     double least = 0;
@@ -49,15 +76,15 @@ RowHeights sharedOut(const std::vector<RowNeed> &needs, double height)
         scant += need.scant();
     }
     const bool isEnough = whole <= height + 0.01;
+    if (!isEnough && least <= height)
+        return {filledUp(needs, height, std::max(1.0, line)), false};
     const double given = scant > height ? height / scant : 1; // a sheet too small for even that
     std::vector<Bounds> bounds;
     bounds.reserve(needs.size());
     for (const RowNeed &need : needs) {
         const double most = std::max(need.whole, need.least);
-        if (isEnough)
-            bounds.push_back({most, std::max(most, height)});
-        else
-            bounds.push_back({least <= height ? need.least : need.scant() * given, most});
+        bounds.push_back(isEnough ? Bounds{most, std::max(most, height)}
+                                  : Bounds{need.scant() * given, most});
     }
     return {levelled(bounds, height), isEnough};
 }

@@ -20,5 +20,5 @@ struct RowHeights {
 };
 
 /// Shares `height` out: as even as the needs of the rows allow. Where it is not enough for all of them, what
-/// is beyond the least goes to the rows that need more, as even as may be.
-RowHeights sharedOut(const std::vector<RowNeed> &needs, double height);
+/// is beyond the least goes line by line, each so high, to the lowest row that needs more.
+RowHeights sharedOut(const std::vector<RowNeed> &needs, double height, double line);

@@ -141,7 +141,8 @@ LaidBlock GridBlocks::weeks(const GridFrame &frame)
     for (const RowNeed &need : needs)
         block.least += need.scant();
     double top = frame.body().top();
-    for (const double height : sharedOut(needs, frame.body().height()).heights) {
+    for (const double height :
+         sharedOut(needs, frame.body().height(), GridEntries::lineHeight(frame)).heights) {
         block.rows.emplace_back(frame.body().left(), top, frame.body().width(), height);
         top += height;
     }
