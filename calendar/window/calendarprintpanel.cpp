@@ -5,6 +5,7 @@
 #include "shell/controls/choicegrid.h"
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLocale>
 #include <QVBoxLayout>
 
@@ -26,14 +27,14 @@ CalendarPrintPanel::CalendarPrintPanel(QWidget *parent)
     column->setContentsMargins({});
     column->setSpacing(8);
     column->addWidget(makeHeading(u"What is printed"_s, content));
-    m_what->add(u"&All months"_s);
+    m_what->add(u"All mo&nths"_s);
     m_what->add(u"The &month shown"_s);
     m_what->add(u"&From"_s, makeRange());
     column->addWidget(m_what);
     column->addStretch(1);
     setContent(content);
     m_pages = addButton(u"calendarPrintShow"_s, u"Show &Pages"_s);
-    m_pdf = addButton(u"calendarPrintPdf"_s, u"&Save as PDF..."_s);
+    m_pdf = addButton(u"calendarPrintPdf"_s, u"Save &as PDF..."_s);
     QPushButton *close = setLeaveButton(u"calendarPrintClose"_s, u"C&lose"_s);
     QWidget *last = m_what->lastInTab();
     for (QWidget *button : {m_pages, m_pdf, close})
@@ -77,8 +78,20 @@ void CalendarPrintPanel::start(const WallCalendar &calendar, QDate month, bool i
     m_from->setCurrentIndex(m_shown);
     m_to->setCurrentIndex(calendar.months - 1);
     m_what->choose(isForPdf ? All : ThisMonth);
+    m_isForPdf = isForPdf;
     setButtonKind(m_pages, isForPdf ? ButtonKind::Plain : ButtonKind::Main);
     setButtonKind(m_pdf, isForPdf ? ButtonKind::Main : ButtonKind::Plain);
+}
+
+/// Enter on a choice takes it.
+void CalendarPrintPanel::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        TaskPanel::keyPressEvent(event);
+    else if (m_isForPdf)
+        emit pdfWanted();
+    else
+        emit pagesWanted();
 }
 
 QList<int> CalendarPrintPanel::sheets() const

@@ -23,12 +23,16 @@ signals:
     void pagesWanted();
     void pdfWanted();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     enum What { All, ThisMonth, Range };
 
     QWidget *makeRange();
 
     WallCalendar m_calendar;
+    bool m_isForPdf = false;
     int m_shown = 0; ///< the month that is shown, from 0
     ChoiceGrid *m_what;
     QComboBox *m_from = nullptr;

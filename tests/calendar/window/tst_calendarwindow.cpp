@@ -285,7 +285,7 @@ private slots:
     {
         open(march(typed("2027-03-14", "Anne's concert")));
         key(Qt::Key_P, Qt::ControlModifier);
-        click("calendarPrintShow");
+        key(Qt::Key_Return);
         QCOMPARE(labelText("Panel3D80"), u" Landscape"_s);
         click("SSCommand80_1");
         QCOMPARE(labelText("Panel3D80"), u" Portrait"_s);
