@@ -19,7 +19,8 @@ namespace {
 constexpr double photoGap = 14;
 constexpr double captionHeight = 14;
 constexpr double headGap = 6;
-constexpr double mostOfBody = 0.6; ///< for the list at the foot
+constexpr double mostOfBody = 0.6;  ///< for the list at the foot
+constexpr double belowPhoto = 0.55; ///< of its column, for the list
 constexpr int mostRounds = 12;
 constexpr int heightsTried = 5;
 constexpr QSizeF smallGrid{88, 72};
@@ -93,6 +94,7 @@ void GridLayout::placeAround()
             m_body.setTop(m_photo.bottom() + photoGap);
         } else {
             m_photo.setWidth(m_body.width() * photo.share - photoGap);
+            m_photoColumn = m_photo;
             m_body.setLeft(m_photo.right() + photoGap);
         }
         if (!photo.caption.isEmpty())
@@ -156,6 +158,16 @@ std::vector<GridRest::Entry> GridLayout::leftLines() const
     return entries;
 }
 
+/// What the place below a photo beside the grids does not take.
+std::vector<GridRest::Entry> GridLayout::leftBelowPhoto()
+{
+    if (m_photoColumn.isEmpty())
+        return leftLines();
+    m_beside = GridRest(*m_types, m_grid->restTitle, leftLines(), m_photoColumn.width(),
+                        m_photoColumn.height() * belowPhoto);
+    return m_beside.takeLeftOut();
+}
+
 /// How high the list at the foot may be: the grids keep what they need at least.
 double GridLayout::mostRest() const
 {
@@ -178,6 +190,10 @@ void GridLayout::layOutWithRest()
     GridRest &list = m_lists.front();
     list.moveTo({m_body.left(), m_body.bottom() - list.height()});
     m_restCount = int(leftLines().size());
+    if (m_beside.height() > 0) {
+        m_beside.moveTo({m_photoColumn.left(), m_photoColumn.bottom() - m_beside.height()});
+        m_photo.setBottom(m_photo.bottom() - m_beside.height());
+    }
     listTheOthers();
 }
 
@@ -187,7 +203,7 @@ bool GridLayout::settle(double most)
 {
     double given = 0;
     for (int round = 0; round < mostRounds; ++round) {
-        m_lists.assign(1, GridRest(*m_types, m_grid->restTitle, leftLines(), m_body.width(), most));
+        m_lists.assign(1, GridRest(*m_types, m_grid->restTitle, leftBelowPhoto(), m_body.width(), most));
         if (m_lists.front().leftOut() > 0)
             return false;
         if (m_lists.front().height() <= given + 0.05)
@@ -205,7 +221,7 @@ void GridLayout::chooseLeastLeft(double most)
     int fewest = std::numeric_limits<int>::max();
     const auto tryHeight = [&](double height) {
         layOut(height);
-        m_lists.assign(1, GridRest(*m_types, m_grid->restTitle, leftLines(), m_body.width(), height));
+        m_lists.assign(1, GridRest(*m_types, m_grid->restTitle, leftBelowPhoto(), m_body.width(), height));
         return m_lists.front().leftOut();
     };
     for (int i = 0; i <= heightsTried; ++i) {
@@ -308,6 +324,8 @@ void GridLayout::paintAround(const GridPainter &grid, QPainter &painter, int par
 {
     if (!m_grid->title.isEmpty())
         grid.paintTitle(part == 0 ? m_head : QRectF(m_margins.topLeft(), m_head.size()));
+    if (part == 0)
+        m_beside.paint(painter, *m_types);
     if (part < int(m_lists.size()))
         m_lists[std::size_t(part)].paint(painter, *m_types);
     grid.paintFoot(part + 1 == partCount());

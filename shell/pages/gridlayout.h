@@ -66,6 +66,7 @@ private:
     bool shrink();
     bool run();
     std::vector<GridRest::Entry> leftLines() const;
+    std::vector<GridRest::Entry> leftBelowPhoto();
     double mostRest() const;
     void layOutWithRest();
     void paintGrids(const GridPainter &grid) const;
@@ -78,13 +79,15 @@ private:
     std::shared_ptr<const GridTypes> m_types;
     double m_points = GridTypes::smallestPoints;
     QRectF m_photo;
-    QRectF m_margins; ///< what lies within them
+    QRectF m_photoColumn; ///< where it stands beside the grids
+    QRectF m_margins;     ///< what lies within them
     QRectF m_head;
     QRectF m_body; ///< for the blocks and the list
     std::vector<Block> m_smallGrids;
     std::vector<Block> m_blocks;
     GridFrame::Lines m_lines = GridFrame::Lines::Stacked;
     NotesPlace m_notes = NotesPlace::Below;
+    GridRest m_beside;             ///< below the photo
     std::vector<GridRest> m_lists; ///< one a sheet
     int m_restCount = 0;
 };

@@ -17,6 +17,7 @@ constexpr double titlePoints = 9;
 constexpr double titleHeight = 14;
 constexpr double above = 7;
 constexpr double narrowest = 165; ///< column
+constexpr double narrow = 125;    ///< where all has little room
 constexpr double columnGap = 14;
 constexpr double leadGap = 5;
 constexpr double gap = 1;
@@ -35,7 +36,8 @@ GridRest::GridRest(const GridTypes &types, const QString &title, std::vector<Ent
 {
     if (m_entries.empty())
         return;
-    m_across = std::max(1, int((width + columnGap) / (narrowest + columnGap)));
+    const double least = width < 2 * narrowest ? narrow : narrowest;
+    m_across = std::max(1, int((width + columnGap) / (least + columnGap)));
     m_column = (width - (m_across - 1) * columnGap) / m_across;
     m_lead = leadOf(types);
     const double room = std::max(0.0, most - above - titleHeight);

@@ -196,7 +196,8 @@ QStringList PageType::wrappedFast(const QString &text, double width) const
         return {text};
     if (!isPlain(text))
         return wrapped(text, width);
-    constexpr double spare = 1; // for pairs that the font sets wider than their parts
+    constexpr double hanging = 3; // a stop or comma may stand out a little rather than begin a line
+    constexpr double spare = 1;   // for pairs that the font sets wider than their parts
     QStringList lines;
     qsizetype start = 0;
     qsizetype blank = 0; // behind the last one where a line can end
@@ -205,7 +206,8 @@ QStringList PageType::wrappedFast(const QString &text, double width) const
     for (qsizetype i = 0; i < text.size(); ++i) {
         sum += advance(text[i]);
         behindBlank += advance(text[i]);
-        if (sum > width && i > start && text[i] != u' ') {
+        const bool mayHang = u",.;:!?"_s.contains(text[i]);
+        if (sum > width + (mayHang ? hanging : 0) && i > start && text[i] != u' ') {
             const qsizetype end = blank > start ? blank : i;
             lines << withoutTrailingBlanks(text.mid(start, end - start));
             sum = end == i ? spare + advance(text[i]) : behindBlank;
