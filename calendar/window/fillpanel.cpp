@@ -77,10 +77,7 @@ FillPlan FillPanel::plan() const
 void FillPanel::showRows()
 {
     while (QLayoutItem *item = m_grid->takeAt(0)) {
-        if (item->widget()) {
-            item->widget()->hide();
-            item->widget()->deleteLater();
-        }
+        delete item->widget();
         delete item;
     }
     for (int row = 0; row < int(m_rows.rows().size()); ++row)
@@ -88,6 +85,7 @@ void FillPanel::showRows()
     m_none->setVisible(m_rows.isEmpty());
     const auto boxes = m_list->findChildren<QCheckBox *>(u"fillRow_0"_s);
     setFocusProxy(boxes.isEmpty() ? static_cast<QWidget *>(m_fill) : boxes.last());
+    m_list->setPalette({}); // the new ones take the colours of the panel
     showPlan();
 }
 
@@ -103,6 +101,7 @@ void FillPanel::addRow(int number)
         box->setIconSize({lockSize, lockSize});
     }
     m_grid->addWidget(box, number, Box);
+    box->show(); // it may get the focus at once
     QLabel *counted = makeQuietLabel(count, m_list);
     counted->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_grid->addWidget(counted, number, Count);
@@ -127,8 +126,8 @@ void FillPanel::tick(int number, bool isOn)
     const bool isArea = m_program.state.protectedAreas.isProtected(face.area);
     if (m_program.gate.mayOpen(m_program, isArea ? face.area : face.buttonArea, window()))
         m_rows.open(m_program, std::size_t(number));
-    else
-        emit said(CalendarWindowLines::guardRefused(face.titleText()));
+    const bool isOpen = m_rows.rows()[std::size_t(number)].isRead;
+    emit said(isOpen ? QString() : CalendarWindowLines::guardRefused(face.titleText()));
     showRows();
     if (auto *box = m_list->findChild<QCheckBox *>(u"fillRow_"_s + QString::number(number)))
         box->setFocus();

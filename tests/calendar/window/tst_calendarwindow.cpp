@@ -238,11 +238,20 @@ private slots:
         m_isGuarded = true;
         m_isGiven = isGiven;
         open(march());
+        m_window->close();
+        QVERIFY(m_test->settings.setText(SettingsKeys::calendarColor, u"12632256"_s));
+        openAgain();
         trigger("mCFill");
         QVERIFY(!find<QCheckBox>("fillRow_0")->isChecked());
         QCOMPARE(m_asked, 0);
+        const auto ink = [this] {
+            return find<QWidget>("fillRows")->findChild<QLabel *>()->palette().color(QPalette::LinkVisited);
+        };
+        const QColor before = ink();
         find<QCheckBox>("fillRow_0")->click();
         QTRY_COMPARE(m_asked, 1);
+        QVERIFY(find<QCheckBox>("fillRow_0")->hasFocus());
+        QCOMPARE(ink(), before);
         QCOMPARE(find<QCheckBox>("fillRow_0")->isChecked(), isGiven);
         QCOMPARE(labelText("fillSummary"), summary);
         QCOMPARE(find<QLabel>("fillGuarded")->isVisible(), isGiven);
