@@ -236,28 +236,40 @@ void Calendar::connectPage()
         m_cells->follow();
     });
     connect(m_pane, &CalendarsPane::calendarChosen, this, [this](int number) {
-        m_typing->finish();
-        m_calendars->show(number);
+        if (leavePanel())
+            m_calendars->show(number);
+        else
+            m_calendars->refresh(); // the mark goes back
     });
     connect(m_pane, &CalendarsPane::monthChosen, this, [this](QDate month) {
-        m_typing->finish();
-        m_page->showDay(month);
+        if (leavePanel())
+            m_page->showDay(month);
+        else
+            m_pane->setMonth(m_page->month());
     });
     connect(m_pane, &CalendarsPane::hitOpened, this, [this](QDate date, int line) {
-        m_typing->finish();
-        closePreview();
-        m_stack->goHome();
+        if (!leavePanel())
+            return;
         m_page->showLine(date, line);
         m_page->setFocus();
     });
     connect(m_pane, &CalendarsPane::entered, m_page, [this] {
-        closePreview();
-        m_stack->goHome();
-        m_page->setFocus();
+        if (leavePanel())
+            m_page->setFocus();
     });
     connect(&m_page->cells(), &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
         findChild<QMenu *>(u"mE"_s)->popup(m_page->cells().viewport()->mapToGlobal(place));
     });
+}
+
+/// Before another month is shown: what stands over this one is left, and may refuse.
+bool Calendar::leavePanel()
+{
+    m_typing->finish();
+    closePreview();
+    if (!m_stack->isHome())
+        m_stack->leave();
+    return m_stack->isHome();
 }
 
 void Calendar::showCalendar()
@@ -343,9 +355,8 @@ void Calendar::filesChanged()
 
 void Calendar::showPlace(const Place &place)
 {
-    m_typing->finish();
-    closePreview();
-    m_stack->goHome();
+    if (!leavePanel())
+        return;
     m_calendars->show(place.record);
     m_page->showLine(place.date, place.row);
     m_page->setFocus();

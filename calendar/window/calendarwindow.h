@@ -47,6 +47,7 @@ private:
     void makeButtons();
     void connectParts();
     void connectPage();
+    bool leavePanel();
     void showCalendar();
     void follow();
     void saveByCommand();

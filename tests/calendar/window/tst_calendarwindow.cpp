@@ -279,6 +279,27 @@ private slots:
         QCOMPARE(file(), march());
     }
 
+    void aPanelWithChangesIsNotLeftUnasked()
+    {
+        open(march());
+        m_test->setBytes(u"CalMk2.Fil"_s, march());
+        m_window->close();
+        openAgain();
+        trigger("mCRules");
+        click("rulesNew");
+        typeInto(find<QLineEdit>("rulesWords"), u"Bin"_s);
+        m_test->dialogs.willAnswer(Answer::No);
+        auto *list = find<QListView>("calendars");
+        list->setCurrentIndex(list->model()->index(1, 0));
+        QCOMPARE(asked().size(), 1);
+        QVERIFY(find<QLineEdit>("rulesWords")->isVisible());
+        QCOMPARE(list->currentIndex().row(), 0);
+        m_test->dialogs.willAnswer(Answer::Yes);
+        list->setCurrentIndex(list->model()->index(1, 0));
+        QVERIFY(cells()->isVisible());
+        asked();
+    }
+
     void searchesTheCalendar()
     {
         open(march(typed("2027-03-14", "Anne's concert") + typed("2027-03-20", "Concert of the choir")));
