@@ -46,8 +46,10 @@ QAction *CalendarCommands::add(QMenu *menu, const QString &name, const QString &
 
 void CalendarCommands::addCommands(QMenu *calendar)
 {
+    const auto unlessHeld = [this] { return m_desk.calendars.whyHeld(); };
     m_create = m_desk.commands.writing(m_desk.commands.add(
-        calendar, u"mCNew"_s, u"&New Calendar..."_s, [this] { startNew(); }, {}, CommonKeys::newEntry));
+        calendar, u"mCNew"_s, u"&New Calendar..."_s, [this] { startNew(); }, unlessHeld,
+        CommonKeys::newEntry));
     m_desk.commands.tool(m_create, "new-entry"_L1, u"New"_s);
     QAction *next = m_desk.commands.add(
         calendar, u"mCNext"_s, u"Next &Year from This One"_s, [this] { startNextYear(); },
@@ -60,7 +62,8 @@ void CalendarCommands::addCommands(QMenu *calendar)
     calendar->addSeparator();
     add(calendar, u"mCLook"_s, u"Change &Look..."_s, [this] { startLook(); });
     add(calendar, u"mCRules"_s, u"&Rules..."_s, [this] { startRules(); });
-    m_desk.commands.add(calendar, u"mCHol"_s, u"H&olidays..."_s, [this] { startHolidays(); });
+    m_desk.commands.add(
+        calendar, u"mCHol"_s, u"H&olidays..."_s, [this] { startHolidays(); }, unlessHeld);
 }
 
 void CalendarCommands::makePanel()
@@ -150,6 +153,11 @@ void CalendarCommands::startHolidays()
     open(m_holidays);
 }
 
+bool CalendarCommands::isEditing() const
+{
+    return (m_rules && m_desk.views.isShown(m_rules)) || (m_holidays && m_desk.views.isShown(m_holidays));
+}
+
 bool CalendarCommands::isModified() const
 {
     return (m_rules && m_desk.views.isShown(m_rules) && m_rules->isModified()) ||
@@ -158,8 +166,9 @@ bool CalendarCommands::isModified() const
 
 void CalendarCommands::addTrashCommands(QMenu *calendar)
 {
-    m_desk.commands.writing(
-        m_desk.commands.add(calendar, u"mCBack"_s, u"Bring &Back Deleted..."_s, [this] { openTrash(); }));
+    m_desk.commands.writing(m_desk.commands.add(
+        calendar, u"mCBack"_s, u"Bring &Back Deleted..."_s, [this] { openTrash(); },
+        [this] { return m_desk.calendars.whyHeld(); }));
     m_desk.commands.writing(m_desk.commands.add(
         calendar, u"mCDel"_s, u"&Delete Calendar..."_s, [this] { remove(); },
         [this] { return whyNoCalendar(); }));
@@ -168,6 +177,8 @@ void CalendarCommands::addTrashCommands(QMenu *calendar)
 /// A file that is none of ours is left as it is.
 QString CalendarCommands::whyNoCalendar() const
 {
+    if (const QString &held = m_desk.calendars.whyHeld(); !held.isEmpty())
+        return held;
     const CalendarHead *head = m_desk.calendars.head();
     if (!head)
         return CalendarWindowLines::noCalendar();

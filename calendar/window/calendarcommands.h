@@ -30,6 +30,8 @@ public:
     void addTrashCommands(QMenu *calendar);
     /// "New Calendar...", for buttons.
     QAction *createCommand() const { return m_create; }
+    /// Whether a panel is open in which much can be changed before it is kept.
+    bool isEditing() const;
     /// Whether a panel that is open holds something that was not kept yet.
     bool isModified() const;
 

@@ -38,7 +38,7 @@ CalendarPrint::CalendarPrint(const CalendarDesk &desk, CellTyping &typing, Place
 void CalendarPrint::addCommands(QMenu *options)
 {
     const auto needsCalendar = [this] {
-        return m_desk.calendars.current() ? QString() : CalendarWindowLines::noCalendar();
+        return m_desk.calendars.current() ? m_desk.calendars.whyHeld() : CalendarWindowLines::noCalendar();
     };
     Commands &commands = m_desk.commands;
     QAction *copying = commands.add(

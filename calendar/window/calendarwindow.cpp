@@ -222,6 +222,8 @@ void Calendar::connectParts()
         m_typing->finish();
         if (!m_stack->isHome())
             activity().say({}); // it was said of the month
+        m_calendars->setHeld(m_commands->isEditing() ? CalendarWindowLines::keepFirst() : QString());
+        commands().refresh();
     });
     connect(&activity(), &ActivityBar::dayBegan, this, &Calendar::follow);
 }

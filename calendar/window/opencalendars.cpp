@@ -54,6 +54,8 @@ const WallCalendar &OpenCalendars::calendar() const
 
 QString OpenCalendars::whyLocked() const
 {
+    if (!m_whyHeld.isEmpty())
+        return m_whyHeld;
     return m_current ? m_current->whyLocked() : CalendarWindowLines::noCalendar();
 }
 

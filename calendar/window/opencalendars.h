@@ -36,6 +36,10 @@ public:
     const WallCalendar &calendar() const;
     /// Why it cannot be changed; empty where it can.
     QString whyLocked() const;
+    /// Why no panel may take the place of what is shown: it holds something that is not kept yet. Empty where
+    /// one may.
+    const QString &whyHeld() const { return m_whyHeld; }
+    void setHeld(const QString &reason) { m_whyHeld = reason; }
     bool change(const QString &title, const WallCalendar &after);
 
     /// Shows another one; 0: none.
@@ -74,5 +78,6 @@ private:
     QList<CalendarHead> m_heads;
     std::map<int, OpenCalendar *> m_opened;
     OpenCalendar *m_current = nullptr;
+    QString m_whyHeld;
     QSet<int> m_removed;
 };

@@ -288,6 +288,11 @@ QString CalendarWindowLines::noNextYear()
     return u"Calendars end with the year %1"_s.arg(WallCalendar::lastYear);
 }
 
+QString CalendarWindowLines::keepFirst()
+{
+    return u"Keep what you have changed here first, or leave it with Esc"_s;
+}
+
 QString CalendarWindowLines::broughtBackCalendar(const QString &title)
 {
     return u"Brought back: "_s + title;

@@ -65,6 +65,7 @@ QString countOfCalendars(qsizetype count);
 QString made(const QString &title);
 QString deleted(const QString &title);
 QString noNextYear();
+QString keepFirst();
 QString broughtBackCalendar(const QString &title);
 QString lookChanged();
 QString rulesChanged();

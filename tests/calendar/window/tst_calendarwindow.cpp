@@ -288,6 +288,8 @@ private slots:
         trigger("mCRules");
         click("rulesNew");
         typeInto(find<QLineEdit>("rulesWords"), u"Bin"_s);
+        for (const char *command : {"mCNew", "mCFill", "mCHol", "mOPrt", "mEBar"})
+            QVERIFY2(!find<QAction>(command)->isEnabled(), command);
         m_test->dialogs.willAnswer(Answer::No);
         auto *list = find<QListView>("calendars");
         list->setCurrentIndex(list->model()->index(1, 0));
@@ -296,7 +298,7 @@ private slots:
         QCOMPARE(list->currentIndex().row(), 0);
         m_test->dialogs.willAnswer(Answer::Yes);
         list->setCurrentIndex(list->model()->index(1, 0));
-        QVERIFY(cells()->isVisible());
+        QVERIFY(cells()->isVisible() && find<QAction>("mCNew")->isEnabled());
         asked();
     }
 
