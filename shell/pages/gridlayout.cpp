@@ -19,8 +19,11 @@ namespace {
 constexpr double photoGap = 14;
 constexpr double captionHeight = 14;
 constexpr double headGap = 6;
-constexpr double mostOfBody = 0.6;  ///< for the list at the foot
-constexpr double belowPhoto = 0.55; ///< of its column, for the list
+constexpr double mostOfBody = 0.6; ///< for the list at the foot
+constexpr double leastPhoto =
+    0.25; ///< of the sheet's height, or of its own column, when lists take its place
+constexpr double photoStep = 0.05;
+constexpr double photoBeside = 0.6; ///< of its column, that a list leaves to it at first
 constexpr int mostRounds = 12;
 constexpr int heightsTried = 5;
 constexpr QSizeF smallGrid{88, 72};
@@ -44,6 +47,8 @@ GridLayout::GridLayout(std::shared_ptr<const PageGrid> grid, const PageFont &fon
     : m_grid(std::move(grid))
     , m_types(std::make_shared<GridTypes>(*m_grid, font))
 {
+    const bool isBeside = m_grid->photo.side == GridPhoto::Left;
+    m_photoShare = isBeside ? photoBeside : m_grid->photo.share;
     placeAround();
     m_points = firstPoints();
     if (!layOut(0) && !shrink() && !run())
@@ -84,13 +89,14 @@ bool GridLayout::shrink()
 void GridLayout::placeAround()
 {
     m_body = inPoints(m_grid->place);
+    m_smallGrids.clear();
     const double margin = m_grid->hasCutMarks ? cardMargin : 0;
     m_margins = m_body.adjusted(margin, margin, -margin, -margin);
     if (m_grid->hasPhoto) {
         const GridPhoto &photo = m_grid->photo;
         m_photo = m_body;
         if (photo.side == GridPhoto::Above) {
-            m_photo.setHeight(m_body.height() * photo.share - photoGap);
+            m_photo.setHeight(m_body.height() * m_photoShare - photoGap);
             m_body.setTop(m_photo.bottom() + photoGap);
         } else {
             m_photo.setWidth(m_body.width() * photo.share - photoGap);
@@ -158,13 +164,24 @@ std::vector<GridRest::Entry> GridLayout::leftLines() const
     return entries;
 }
 
+/// Gives a part of the photo's height to lists and grids; false where it has none to give.
+bool GridLayout::lowerPhoto()
+{
+    if (!m_grid->hasPhoto || m_photoShare - photoStep < leastPhoto)
+        return false;
+    m_photoShare -= photoStep;
+    placeAround();
+    layOut(0);
+    return true;
+}
+
 /// What the place below a photo beside the grids does not take.
 std::vector<GridRest::Entry> GridLayout::leftBelowPhoto()
 {
     if (m_photoColumn.isEmpty())
         return leftLines();
     m_beside = GridRest(*m_types, m_grid->restTitle, leftLines(), m_photoColumn.width(),
-                        m_photoColumn.height() * belowPhoto);
+                        m_photoColumn.height() * (1 - m_photoShare));
     return m_beside.takeLeftOut();
 }
 
@@ -184,9 +201,12 @@ void GridLayout::layOutWithRest()
     // All of them stand in one place, below their grids or in the list.
     m_notes = m_grid->hasCutMarks ? NotesPlace::Below : NotesPlace::InList;
     layOut(0);
-    const double most = mostRest();
-    if (!settle(most))
-        chooseLeastLeft(most);
+    while (!settle(mostRest())) {
+        if (!lowerPhoto()) {
+            chooseLeastLeft(mostRest());
+            break;
+        }
+    }
     GridRest &list = m_lists.front();
     list.moveTo({m_body.left(), m_body.bottom() - list.height()});
     m_restCount = int(leftLines().size());
@@ -238,7 +258,7 @@ void GridLayout::chooseLeastLeft(double most)
 void GridLayout::listTheOthers()
 {
     while (m_lists.back().leftOut() > 0) {
-        const double top = m_grid->title.isEmpty() ? m_margins.top() : m_head.bottom();
+        const double top = m_margins.top() + m_head.height();
         const double height = m_margins.bottom() - top;
         GridRest next(*m_types, m_grid->restTitle, m_lists.back().takeLeftOut(), m_margins.width(), height);
         if (next.height() <= 0)

@@ -69,6 +69,7 @@ private:
     std::vector<GridRest::Entry> leftBelowPhoto();
     double mostRest() const;
     void layOutWithRest();
+    bool lowerPhoto();
     void paintGrids(const GridPainter &grid) const;
     void paintAround(const GridPainter &grid, QPainter &painter, int part) const;
     bool settle(double most);
@@ -78,6 +79,7 @@ private:
     std::shared_ptr<const PageGrid> m_grid;
     std::shared_ptr<const GridTypes> m_types;
     double m_points = GridTypes::smallestPoints;
+    double m_photoShare = 0; ///< of the height that is its own
     QRectF m_photo;
     QRectF m_photoColumn; ///< where it stands beside the grids
     QRectF m_margins;     ///< what lies within them
