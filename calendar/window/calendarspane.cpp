@@ -129,8 +129,9 @@ void CalendarsPane::refresh()
     m_rows->clear();
     for (const CalendarHead &head : m_calendars.heads()) {
         const QString words = head.from.isValid() ? CalendarWindowLines::monthsOf(head.from, head.months)
-                                                  : CalendarWindowLines::notReadable();
-        m_rows->appendRow(makeRow(head.title, words, head.number));
+                                                  : CalendarWindowLines::withoutMonths(head.state);
+        const QString title = head.title.trimmed().isEmpty() ? CalendarWindowLines::untitled() : head.title;
+        m_rows->appendRow(makeRow(title, words, head.number));
     }
     m_count->setText(CalendarWindowLines::countOfCalendars(m_rows->rowCount()));
     const int rows = std::clamp(m_rows->rowCount(), fewestRows, mostRows);

@@ -263,9 +263,23 @@ QString CalendarWindowLines::monthWords(QDate month, int lines)
     return Dates::monthYear(month) + u", "_s + count(lines, u"line"_s, u"lines"_s);
 }
 
-QString CalendarWindowLines::notReadable()
+QString CalendarWindowLines::withoutMonths(CalendarHead::State state)
 {
-    return u"Cannot be read"_s;
+    switch (state) {
+    case CalendarHead::OutOfReach:
+        return u"Cannot be read"_s;
+    case CalendarHead::Foreign:
+        return u"No calendar of this program"_s;
+    case CalendarHead::Later:
+    case CalendarHead::Whole:
+        break;
+    }
+    return u"An empty file"_s;
+}
+
+QString CalendarWindowLines::untitled()
+{
+    return u"Untitled"_s;
 }
 
 QString CalendarWindowLines::countOfCalendars(qsizetype number)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "calendar/model/calendarfiles.h"
 #include "calendar/model/wallcalendar.h"
 
 #include <QString>
@@ -60,7 +61,8 @@ QString noCalendar();
 QString monthsOf(QDate from, int months);
 /// "March 2027, 23 lines".
 QString monthWords(QDate month, int lines);
-QString notReadable();
+QString withoutMonths(CalendarHead::State state);
+QString untitled();
 QString countOfCalendars(qsizetype count);
 QString made(const QString &title);
 QString deleted(const QString &title);
