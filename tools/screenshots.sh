@@ -12,7 +12,7 @@ documents=(main-menu main-menu-dark main-menu-200 background-selector message-sa
     manual address-book-view address-book-view-1024 address-book-modify address-book-date viewer-address viewer-labels
     viewer-pictures planner-day planner-day-dark planner-week planner-month planner-recurrence
     budget-sheet budget-totals cars-due cars-information car-fuel
-    weight-household weight-graph-50 todo-list journal-day keeper-shown)
+    weight-household weight-graph-50 todo-list journal-day keeper-shown calendar-month)
 
 docs=
 if [ "${1:-}" = --docs ]; then
