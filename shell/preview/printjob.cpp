@@ -4,6 +4,7 @@
 #include "shell/controls/activitybar.h"
 #include "shell/controls/busycursor.h"
 #include "shell/core/framelines.h"
+#include "shell/preview/exactpaper.h"
 #include "shell/preview/previewmessages.h"
 #include "shell/program/covering.h"
 #include "shell/program/program.h"
@@ -224,7 +225,8 @@ bool PrintJob::toFile(const PagePainter &painter)
     if (file.open(QIODevice::WriteOnly)) {
         if (m_mayWriteFile)
             file.setPermissions(ownerOnly);
-        QPdfWriter pdf(&file);
+        ExactPaper paper(file, painter.sheetSize());
+        QPdfWriter pdf(&paper);
         pdf.setTitle(m_name);
         pdf.setCreator(Page::productLine());
         outcome = printSheets(painter, pdf, allSheets(painter));

@@ -334,7 +334,9 @@ private slots:
         m_test->dialogs.willChooseFile(m_test->path(u"year.pdf"_s));
         trigger("mOPdf");
         click("calendarPrintPdf");
-        QVERIFY(m_test->bytes(u"year.pdf"_s).startsWith("%PDF"));
+        const QByteArray pdf = m_test->bytes(u"year.pdf"_s);
+        QVERIFY(pdf.startsWith("%PDF"));
+        QVERIFY(pdf.contains("/MediaBox [0 0 595.275591 841.889764]"));
     }
 
     void whatCannotBeChangedSaysWhy()
