@@ -111,10 +111,10 @@ void FillRows::open(const Program &program, std::size_t row)
         m_rows.push_back({.function = closed.function,
                           .source = closed.source,
                           .caption = closed.caption,
-                          .from = CalendarWindowLines::nothingAnyMore()});
+                          .from = CalendarWindowLines::nothingThere()});
     for (std::size_t i = before.size(); i < m_rows.size(); ++i) {
         m_rows[i].isGuarded = true;
-        m_rows[i].isTicked = true;
+        m_rows[i].isTicked = !m_rows[i].notes.isEmpty() || m_calendar.filled.contains(m_rows[i].source);
     }
     m_rows.insert(m_rows.end(), behind.begin(), behind.end());
 }
@@ -136,7 +136,8 @@ bool FillRows::isAnyTicked() const
 
 bool FillRows::isGuardedTicked() const
 {
-    return std::ranges::any_of(m_rows, [](const FillRow &row) { return row.isTicked && row.isGuarded; });
+    return std::ranges::any_of(
+        m_rows, [](const FillRow &row) { return row.isTicked && row.isGuarded && !row.notes.isEmpty(); });
 }
 
 QList<FillSource> FillRows::sources(bool isAsBefore) const

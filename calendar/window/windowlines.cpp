@@ -415,6 +415,11 @@ QString CalendarWindowLines::rulesOfCalendar()
     return u"rules of this calendar"_s;
 }
 
+QString CalendarWindowLines::nothingThere()
+{
+    return u"nothing in these months"_s;
+}
+
 QString CalendarWindowLines::nothingAnyMore()
 {
     return u"nothing any more"_s;

@@ -91,6 +91,7 @@ QString behindPassword();
 QString fillCaption(LineSource source);
 QString rulesOfCalendar();
 QString nothingAnyMore();
+QString nothingThere();
 QString countOfEntries(qsizetype count);
 
 // Searching and printing
