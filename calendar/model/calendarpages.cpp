@@ -17,7 +17,7 @@ namespace {
 constexpr double margin = 0.5;
 constexpr double footTop = 0.46; ///< above the lower edge, in the margin
 constexpr double footHeight = 0.18;
-constexpr QSizeF cardPadding{0.42, 0.42};
+constexpr QSizeF cardPadding{0.34, 0.34};
 constexpr QSizeF quarterPadding{0.08, 0};
 constexpr QSizeF yearPadding{0.1, 0.04};
 

@@ -9,7 +9,6 @@
 namespace {
 
 constexpr double leftMark = 13; ///< for "+3" where a day may have more than its row holds
-constexpr double around = 1.2;  ///< above and below the lines of a day
 
 /// The columns with their bars and their wrapped lines.
 struct Column {
@@ -37,10 +36,11 @@ Column columnOf(const GridFrame &frame, int column)
 std::vector<RowNeed> needsOf(const GridFrame &frame, const std::vector<Column> &columns)
 {
     const double head = std::max(frame.pitch(), frame.numberPoints() * 1.15);
-    std::vector<RowNeed> needs(std::size_t(frame.rowCount()), RowNeed{head + 2 * around, head + 2 * around});
+    std::vector<RowNeed> needs(std::size_t(frame.rowCount()),
+                               RowNeed{head + 2 * frame.dayInset(), head + 2 * frame.dayInset()});
     for (std::size_t row = 0; row < needs.size(); ++row) {
         for (const Column &column : columns)
-            needs[row].whole = std::max(needs[row].whole, column.days[row].height() + 2 * around);
+            needs[row].whole = std::max(needs[row].whole, column.days[row].height() + 2 * frame.dayInset());
     }
     return needs;
 }
@@ -61,7 +61,8 @@ void placeDay(const GridFrame &frame, const Column &column, int row, int number,
     const QRectF &line = block.rows[std::size_t(row)];
     LaidCell laid{&frame.block(), &frame.cell(row, number), row, number};
     laid.rect = QRectF(frame.columnLeft(number), line.top(), frame.columnWidth(), line.height());
-    laid.text = laid.rect.adjusted(leftOf(frame, column.bars, row), around, -frame.inset(), -around);
+    laid.text = laid.rect.adjusted(leftOf(frame, column.bars, row), frame.dayInset(), -frame.inset(),
+                                   -frame.dayInset());
     const QList<GridLine> &lines = laid.cell->lines;
     const qsizetype first = column.days[std::size_t(row)].place(laid.text, laid.lines);
     for (qsizetype i = first; i < lines.size(); ++i)

@@ -51,6 +51,9 @@ public:
     /// Between the edge of a cell and what stands in it.
     double inset() const { return m_style == GridStyle::Open ? 4 : 3.5; }
 
+    /// Above and below the lines of a row of days.
+    double dayInset() const { return isRunning() ? 0.5 : 1.2; }
+
     double numberHeight() const { return m_numberPoints * 1.15; }
     /// Of the widest number.
     double numberWidth() const;

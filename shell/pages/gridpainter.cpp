@@ -214,7 +214,8 @@ void GridPainter::paintRowHead(const GridFrame &frame, const GridHead &head, con
         return;
     }
     const PageType &line = m_types.line(frame.points());
-    const double base = row.top() + 1.2 + GridTypes::lift(line, frame.points()) + line.baseline();
+    const double base =
+        row.top() + frame.dayInset() + GridTypes::lift(line, frame.points()) + line.baseline();
     week.draw(m_painter, {left, base - week.baseline()}, frame.weekGutter() - 3, Qt::AlignRight, head.week);
     const GridTypes::Weight weight = head.isStrong ? GridTypes::Strong : GridTypes::Normal;
     const PageType &number = m_types.of(frame.numberPoints(), weight);

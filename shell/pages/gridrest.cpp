@@ -36,12 +36,20 @@ GridRest::GridRest(const GridTypes &types, const QString &title, std::vector<Ent
 {
     if (m_entries.empty())
         return;
-    const double least = width < 2 * narrowest ? narrow : narrowest;
-    m_across = std::max(1, int((width + columnGap) / (least + columnGap)));
-    m_column = (width - (m_across - 1) * columnGap) / m_across;
     m_lead = leadOf(types);
     const double room = std::max(0.0, most - above - titleHeight);
-    wrapEntries(types.line(points), room * m_across);
+    layOut(types.line(points), width < 2 * narrowest ? narrow : narrowest, room);
+    if (leftOut() > 0)
+        layOut(types.line(points), narrow, room);
+}
+
+/// In columns of at least this width, each as high as `room` at most.
+void GridRest::layOut(const PageType &type, double least, double room)
+{
+    m_across = std::max(1, int((m_width + columnGap) / (least + columnGap)));
+    m_column = (m_width - (m_across - 1) * columnGap) / m_across;
+    m_heights.clear();
+    wrapEntries(type, room * m_across);
     const double all = std::accumulate(m_heights.begin(), m_heights.end(), 0.0);
     double column = std::min(room, std::max(all / m_across, pitch + gap));
     while (!fill(column) && column < room)

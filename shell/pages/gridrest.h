@@ -44,6 +44,7 @@ public:
     void paint(QPainter &painter, const GridTypes &types) const;
 
 private:
+    void layOut(const PageType &type, double least, double room);
     double leadOf(const GridTypes &types) const;
     void wrapEntries(const PageType &type, double room);
     bool fill(double columnHeight);

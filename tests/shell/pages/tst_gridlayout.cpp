@@ -84,7 +84,7 @@ private slots:
         for (const GridCell &cell : block.cells)
             block.rows.append({.text = cell.number, .note = u"Mo"_s});
         for (const int day : {3, 4, 20, 30})
-            addLines(grid, day, 30, u"line %1"_s);
+            addLines(grid, day, 300, u"line %1"_s);
         const GridLayout layout = laidOut(grid);
         QVERIFY(layout.restCount() > 0);
         for (int day = 0; day < 7 * weeks; ++day)
