@@ -184,8 +184,9 @@ void RulesEditor::removeChosen()
     if (row < 0 || !m_whyLocked.isEmpty())
         return;
     m_model->remove(row);
-    if (!rows().isEmpty())
-        m_view->selectRow(std::min(row, int(rows().size()) - 1));
+    const int last = int(rows().size()) - 1;
+    if (last >= 0)
+        m_view->selectRow(std::min(row, last));
     showChosen();
     m_view->setFocus();
     emit changed();
