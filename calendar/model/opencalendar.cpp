@@ -109,7 +109,8 @@ void OpenCalendar::hold(const WallCalendar &calendar)
 {
     m_calendar = calendar;
     m_isSaved = false;
-    m_soon.start();
+    if (!m_soon.isActive()) // whoever types on and on is saved all the same
+        m_soon.start();
     emit changed();
 }
 

@@ -186,7 +186,7 @@ void RulesEditor::removeChosen()
     m_model->remove(row);
     const int last = int(rows().size()) - 1;
     if (last >= 0)
-        m_view->selectRow(std::min(row, last));
+        m_view->selectRow(row < last ? row : last);
     showChosen();
     m_view->setFocus();
     emit changed();
