@@ -29,6 +29,7 @@
 
 #include <QHideEvent>
 #include <QMenu>
+#include <QPushButton>
 #include <QSettings>
 
 using namespace Qt::Literals::StringLiterals;
@@ -186,7 +187,8 @@ void Calendar::makeButtons()
     foot.addRight(commands().button(m_filling->command(), u"fillButton"_s, m_filling->command()->text(),
                                     &foot, ButtonKind::Main));
     QAction *create = m_commands->createCommand();
-    m_pane->addButton(commands().button(create, u"newCalendarButton"_s, u"&New Calendar"_s, m_pane));
+    m_create = commands().button(create, u"newCalendarButton"_s, u"&New Calendar"_s, m_pane);
+    m_pane->addButton(m_create);
     m_empty->addButton(
         commands().button(create, u"firstCalendarButton"_s, u"&New Calendar"_s, m_empty, ButtonKind::Main));
     foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
@@ -278,6 +280,7 @@ void Calendar::showCalendar()
 {
     const bool isThere = m_calendars->current();
     m_stack->setHome(isThere ? static_cast<QWidget *>(m_page) : m_empty);
+    m_create->setVisible(isThere); // without one, the same button stands in the middle
     closePreview();
     m_stack->goHome();
     followZoom();

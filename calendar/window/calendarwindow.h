@@ -14,6 +14,7 @@ class CellTyping;
 class EmptyPage;
 class FillCommands;
 class PhotoCommands;
+class QPushButton;
 struct Place;
 
 /// The calendar maker: the household's calendars at the left, and the month that is worked on as it will be
@@ -59,6 +60,7 @@ private:
     WorkViews *m_stack;
     MonthPage *m_page;
     EmptyPage *m_empty;
+    QPushButton *m_create = nullptr;
     CalendarsPane *m_pane;
     CellTyping *m_typing;
     CellCommands *m_cells;

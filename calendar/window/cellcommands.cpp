@@ -137,9 +137,11 @@ void CellCommands::remove()
         emit said(CalendarWindowLines::chooseLine());
         return;
     }
+    const auto lines = [&] { return CalendarEdits::visibleLines(m_desk.calendars.calendar(), cells.day()); };
+    const qsizetype place = lines().indexOf(cells.line());
     if (make(CalendarWindowLines::removed(chosen().shown),
              CalendarEdits::removeLine(m_desk.calendars.calendar(), cells.day(), cells.line())))
-        cells.setLine(-1); // another one stands there now
+        cells.setLine(lines().value(place, lines().value(place - 1, -1))); // the next one, or the last
     cells.setFocus();
 }
 
