@@ -90,10 +90,13 @@ void JournalDoor::makeUnlockView()
     m_unlock = new UnlockView(unlockWords(), {u"journalPassword"_s, u"openJournal"_s});
     m_desk.views.addHome(m_unlock);
     connect(m_unlock, &UnlockView::answered, this, &JournalDoor::answer);
-    connect(&m_attempts, &Attempts::waiting, this, [this](int seconds) {
-        m_unlock->refuse(SealLines::wrongPassword() + u' ' + SealLines::tryAgainIn(seconds), true);
+    const auto wrong = [this] {
+        return m_unlock->isForCode() ? SealLines::wrongCode() : SealLines::wrongPassword();
+    };
+    connect(&m_attempts, &Attempts::waiting, this, [this, wrong](int seconds) {
+        m_unlock->refuse(wrong() + u' ' + SealLines::tryAgainIn(seconds), true);
     });
-    connect(&m_attempts, &Attempts::waited, this, [this] { m_unlock->refuse(SealLines::wrongPassword()); });
+    connect(&m_attempts, &Attempts::waited, this, [this, wrong] { m_unlock->refuse(wrong()); });
     connect(&m_attempts, &Attempts::spent, this,
             [this] { m_unlock->refuse(SealLines::answersSpent(), true); });
 }

@@ -163,6 +163,11 @@ QString SealLines::wrongPassword()
     return u"That is not the password."_s;
 }
 
+QString SealLines::wrongCode()
+{
+    return u"That is not the recovery code."_s;
+}
+
 QString SealLines::tryAgainIn(int seconds)
 {
     return seconds == 1 ? u"Try again in 1 second."_s : u"Try again in %1 seconds."_s.arg(seconds);

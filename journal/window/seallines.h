@@ -36,6 +36,7 @@ QString usePassword();
 QString working();
 QString opening();
 QString wrongPassword();
+QString wrongCode();
 QString tryAgainIn(int seconds);
 QString answersSpent();
 QString notEnoughMemory();
