@@ -21,7 +21,7 @@ const QString ending = u".Fil"_s;
 /// The head lines of ours are shorter.
 constexpr qsizetype headSize = 4096;
 /// No calendar is larger.
-constexpr qsizetype mostBytes = 256 * 1024 * 1024;
+constexpr qsizetype mostBytes = qsizetype(256) * 1024 * 1024;
 
 /// The calendar whose file is called so; 0 for any other file.
 int numberOf(const QString &name)

@@ -42,7 +42,7 @@ QString FillSummary::changeWords() const
 
 QString FillSummary::words() const
 {
-    const QString changes = isNothing() ? u"Nothing has changed"_s : changeWords();
+    QString changes = isNothing() ? u"Nothing has changed"_s : changeWords();
     if (own == 0)
         return changes;
     return changes + (own == 1 ? u"; your 1 line stays"_s : u"; your %1 lines stay"_s.arg(own));
