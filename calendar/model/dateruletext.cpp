@@ -58,9 +58,10 @@ public:
     Qt::DayOfWeek weekday()
     {
         const auto name = std::ranges::find(weekdays, take());
-        if (name == weekdays.end())
-            refuse();
-        return Qt::DayOfWeek(name - weekdays.begin() + 1);
+        if (name != weekdays.end())
+            return Qt::DayOfWeek(name - weekdays.begin() + 1);
+        refuse();
+        return Qt::Monday;
     }
 
     /// 0, for every month, where none follows.
