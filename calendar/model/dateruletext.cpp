@@ -209,7 +209,8 @@ QString nameOf(Qt::DayOfWeek weekday)
 QString daysOf(const DateRule &rule)
 {
     const QString number = QString::number(rule.number), month = padded(rule.month, 2);
-    const QString weekday = nameOf(rule.weekday), date = month + u'-' + padded(rule.day, 2);
+    const QString weekday = nameOf(rule.weekday);
+    QString date = month + u'-' + padded(rule.day, 2);
     QString ofMonth = weekday;
     if (rule.month != 0)
         ofMonth += u' ' + month;

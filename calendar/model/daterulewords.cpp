@@ -49,7 +49,7 @@ QString every(const DateRule &rule, DateStyle style)
 
 QString days(const DateRule &rule, DateStyle style)
 {
-    const QString date = DateRuleWords::dayOfYear(rule.month, rule.day, style);
+    QString date = DateRuleWords::dayOfYear(rule.month, rule.day, style);
     switch (rule.kind) {
     case DateRule::OnDate:
         return date;

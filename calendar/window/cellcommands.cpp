@@ -95,7 +95,7 @@ QString CellCommands::whyNoLine() const
 
 QString CellCommands::whyNotYearly() const
 {
-    const QString none = whyNoLine();
+    QString none = whyNoLine();
     if (!none.isEmpty() || m_typing.isOpen())
         return none;
     return m_desk.page.cells().line() < 0 || chosen().isTyped() ? QString()

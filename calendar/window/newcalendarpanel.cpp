@@ -96,7 +96,7 @@ void NewCalendarPanel::begin(const WallCalendar &calendar, bool isNew)
 
 WallCalendar NewCalendarPanel::calendar() const
 {
-    const WallCalendar calendar = m_form->calendar();
+    WallCalendar calendar = m_form->calendar();
     const bool hasOthers = m_isNew || calendar.holidaySets != m_before.holidaySets ||
                            calendar.from != m_before.from || calendar.months != m_before.months;
     if (!hasOthers)
