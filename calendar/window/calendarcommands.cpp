@@ -54,9 +54,10 @@ void CalendarCommands::addCommands(QMenu *calendar)
     QAction *next = m_desk.commands.add(
         calendar, u"mCNext"_s, u"Next &Year from This One"_s, [this] { startNextYear(); },
         [this] {
-            if (const QString why = whyNoCalendar(); !why.isEmpty())
-                return why;
-            return NextYear::of(m_desk.calendars.calendar()) ? QString() : CalendarWindowLines::noNextYear();
+            QString why = whyNoCalendar();
+            if (why.isEmpty() && !NextYear::of(m_desk.calendars.calendar()))
+                why = CalendarWindowLines::noNextYear();
+            return why;
         });
     m_desk.commands.writing(next);
     calendar->addSeparator();

@@ -134,8 +134,7 @@ void DrawnSheet::scrollContentsBy(int, int)
 
 void DrawnSheet::resizeEvent(QResizeEvent *event)
 {
-    QAbstractScrollArea::resizeEvent(event);
-    updateGeometries();
+    QTableView::resizeEvent(event);
     scrollTo(currentIndex());
     placeOver();
 }

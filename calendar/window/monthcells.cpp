@@ -154,7 +154,8 @@ bool MonthCells::walk(const QKeyEvent &event)
     }
     case Qt::Key_Up:
     case Qt::Key_Down:
-        go(m_day.addDays((event.key() == Qt::Key_Up ? -1 : 1) * (isDown ? 1 : daysPerWeek)), isChoosing);
+        go(m_day.addDays(qint64(event.key() == Qt::Key_Up ? -1 : 1) * (isDown ? 1 : daysPerWeek)),
+           isChoosing);
         return true;
     case Qt::Key_Home:
     case Qt::Key_End: {

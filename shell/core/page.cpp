@@ -15,8 +15,9 @@ namespace {
 
 QString textOf(const PageItem::Paragraph &paragraph)
 {
-    QString text =
-        paragraph.listLevel > 0 ? QString((paragraph.listLevel - 1) * 4, u' ') + u"\u2022 "_s : QString();
+    QString text = paragraph.listLevel > 0
+                       ? QString(qsizetype(paragraph.listLevel - 1) * 4, u' ') + u"\u2022 "_s
+                       : QString();
     for (const PageItem::Run &run : paragraph.runs)
         text += run.text;
     return text;
