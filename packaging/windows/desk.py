@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What `check` works with: screens with a keyboard, programs on them, a Windows that is wine's, and the report."""
 import os
+import re
 import subprocess
 import time
 
@@ -107,8 +108,23 @@ class Program:
         try:
             return self.process.wait(20)
         except subprocess.TimeoutExpired:
+            self.tell_where_it_hangs()
             self.process.kill()
             return None
+
+    def tell_where_it_hangs(self):
+        """What is on the screen, and under wine what each thread is about, in the folder of the pictures."""
+        self.screen.picture("hanging")
+        if self.command[0] != "wine":
+            return
+        with (self.screen.pictures / "hanging.txt").open("ab") as told:
+            def debug(command, *process):
+                debugger = ["timeout", "120", "winedbg", "--command", command, *process]
+                said = subprocess.run(debugger, env=self.screen.env, capture_output=True, check=False).stdout
+                told.write(said)
+                return said.decode(errors="replace")
+            for number in re.findall(r"\b([0-9a-f]{8})\s+\d+\s.*quillery\.exe", debug("info process")):
+                debug("bt all", "0x" + number)
 
 
 class Wine:
