@@ -128,6 +128,20 @@ function(quillery_function name)
     target_link_libraries(quillery_${name} INTERFACE ${below})
 endfunction()
 
+# quillery_module(NAME SOURCES file... LINK target...): the module NAME, a library that `ProgramModule` loads when it is
+# first used. It lies beside the program and shares nothing with it but Qt.
+function(quillery_module name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(quillery_${name}_module MODULE ${ARG_SOURCES})
+    target_link_libraries(quillery_${name}_module PRIVATE quillery_options ${ARG_LINK})
+    set_target_properties(quillery_${name}_module PROPERTIES PREFIX "" OUTPUT_NAME ${name} AUTOMOC OFF
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+        LIBRARY_OUTPUT_DIRECTORY "${QUILLERY_PROGRAM_DIR}/modules")
+    if(UNIX)
+        install(TARGETS quillery_${name}_module LIBRARY DESTINATION lib/quillery)
+    endif()
+endfunction()
+
 # Under wine the disk of this machine is the drive Z, and what works a window a hundred times takes minutes.
 set(test_disk "")
 set(test_seconds 300)
@@ -148,7 +162,9 @@ function(quillery_test name)
     endif()
     target_compile_definitions(${name} PRIVATE QUILLERY_TEST_DATA="${test_disk}${PROJECT_SOURCE_DIR}/tests/data")
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT ${test_seconds})
+    # The second is for the modules of the program.
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${test_seconds}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_PLUGIN_PATH=${QUILLERY_PROGRAM_DIR}")
 endfunction()
 
 # quillery_tests(LINK target...): a test program for each tst_<unit>.cpp of this folder that is of this platform.
