@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "todo/window/itemsmodel.h"
 
+#include "shell/controls/itemdrag.h"
 #include "shell/core/dates.h"
 #include "shell/program/householdnames.h"
 #include "shell/program/program.h"
 #include "todo/model/repeat.h"
-#include "todo/window/itemdrag.h"
 #include "todo/window/openlists.h"
 #include "todo/window/windowlines.h"
 
@@ -316,7 +316,7 @@ bool ItemsModel::setData(const QModelIndex &index, const QVariant &value, int ro
 
 QStringList ItemsModel::mimeTypes() const
 {
-    return ItemDrag::formats();
+    return {dragFormat()};
 }
 
 QMimeData *ItemsModel::mimeData(const QModelIndexList &indexes) const
@@ -327,13 +327,14 @@ QMimeData *ItemsModel::mimeData(const QModelIndexList &indexes) const
         if (id > 0 && std::ranges::find(items, id) == items.end())
             items.push_back(id);
     }
-    return ItemDrag::of(items).release();
+    return ItemDrag::of(dragFormat(), items).release();
 }
 
 /// Only a list that stands in one's own order can be given another.
 bool ItemsModel::canDropMimeData(const QMimeData *data, Qt::DropAction, int, int, const QModelIndex &) const
 {
-    return ItemDrag::isOne(data) && m_shown.kind == Shown::List && m_order == ToDoViews::Order::Own;
+    return ItemDrag::isOne(dragFormat(), data) && m_shown.kind == Shown::List &&
+           m_order == ToDoViews::Order::Own;
 }
 
 bool ItemsModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
@@ -345,6 +346,6 @@ bool ItemsModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int 
     while (place < rowCount() && rowAt(place).kind == ToDoRow::Note)
         ++place;
     const bool isBeforeItem = place < rowCount() && rowAt(place).kind != ToDoRow::Later;
-    emit dropped(ItemDrag::itemsOf(data), isBeforeItem ? rowAt(place).id : 0);
+    emit dropped(ItemDrag::itemsOf(dragFormat(), data), isBeforeItem ? rowAt(place).id : 0);
     return false; // the rows move with the lists, not by the view
 }

@@ -61,6 +61,8 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
 
+    /// What items are while they are dragged.
+    static QString dragFormat() { return QStringLiteral("application/x-quillery-things-to-do"); }
     QStringList mimeTypes() const override;
     QMimeData *mimeData(const QModelIndexList &indexes) const override;
     Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }

@@ -2,15 +2,16 @@
 #include "todo/window/listspane.h"
 
 #include "shell/controls/controls.h"
+#include "shell/controls/droplist.h"
 #include "shell/controls/listrowdelegate.h"
+#include "shell/controls/panerowdelegate.h"
+#include "shell/controls/panerows.h"
 #include "shell/controls/searchbox.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 #include "todo/model/todocounts.h"
-#include "todo/window/droplist.h"
+#include "todo/window/itemsmodel.h"
 #include "todo/window/openlists.h"
-#include "todo/window/panerowdelegate.h"
-#include "todo/window/panerows.h"
 #include "todo/window/windowlines.h"
 
 #include <QScopedValueRollback>
@@ -23,7 +24,31 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int leastWidth = 180;
+constexpr int longestName = 60;
 constexpr std::array views{Shown::Today, Shown::Coming, Shown::ByPerson, Shown::Done};
+
+PaneRows::Row row(int key, const QString &name, int count, bool isOverdue)
+{
+    return {.key = key,
+            .name = name,
+            .count = count,
+            .isOverdue = isOverdue,
+            .spoken = ToDoWindowLines::listSpoken(name, count)};
+}
+
+PaneRows::Row templateRow(const ToDoList &list)
+{
+    return {
+        .key = list.id, .name = list.name, .shown = ToDoWindowLines::templateOf(list.name), .isFixed = true};
+}
+
+QLineEdit *makeNameBox(QWidget *parent)
+{
+    auto *box = named(new FieldBox(parent), u"listNameBox"_s);
+    box->setByteLimit(longestName);
+    return box;
+}
+
 } // namespace
 
 ListsPane::ListsPane(const Program &program, OpenLists &lists, QWidget *parent)
@@ -32,13 +57,14 @@ ListsPane::ListsPane(const Program &program, OpenLists &lists, QWidget *parent)
     , m_openLists(lists)
     , m_search(
           new SearchBox(u"toDoSearch"_s, u"Search all lists"_s, u"Search all lists, done things too"_s, this))
-    , m_viewRows(new PaneRows(this))
-    , m_listRows(new PaneRows(this))
+    , m_viewRows(new PaneRows(u"application/x-quillery-list-of-things"_s, this))
+    , m_listRows(new PaneRows(u"application/x-quillery-list-of-things"_s, this))
     , m_views(makeList(new QListView(this), u"toDoViews"_s, u"Views"_s, m_viewRows))
-    , m_lists(new DropList(this))
+    , m_lists(new DropList(ItemsModel::dragFormat(), this))
     , m_count(named(makeQuietLabel({}, this), u"toDoCount"_s))
     , m_rows(new QVBoxLayout(this))
 {
+    m_lists->setRows(m_listRows);
     makeList(m_lists, u"toDoLists"_s, u"Lists"_s, m_listRows);
     m_lists->setEditTriggers(QAbstractItemView::EditKeyPressed);
     m_listRows->setRenamable(true);
@@ -57,7 +83,7 @@ QListView *ListsPane::makeList(QListView *view, const QString &name, const QStri
     named(view, name)->setModel(rows);
     setListRows(view);
     view->setAlternatingRowColors(false);
-    view->setItemDelegate(new PaneRowDelegate(view));
+    view->setItemDelegate(new PaneRowDelegate(view, makeNameBox));
     view->setSelectionMode(QAbstractItemView::SingleSelection);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setAccessibleName(spoken);
@@ -112,8 +138,8 @@ void ListsPane::refresh()
     std::vector<PaneRows::Row> rows;
     for (const Shown::Kind view : views) {
         const bool isToday = view == Shown::Today;
-        rows.push_back(
-            {view, ToDoWindowLines::nameOf(view), isToday ? counts.today : 0, isToday && counts.overdue > 0});
+        rows.push_back(row(view, ToDoWindowLines::nameOf(view), isToday ? counts.today : 0,
+                           isToday && counts.overdue > 0));
     }
     m_viewRows->setRows(std::move(rows));
     rows.clear();
@@ -121,9 +147,9 @@ void ListsPane::refresh()
     for (const ToDoList &list : m_openLists.sheet().lists()) {
         const ToDoCounts::OfList count = counts.lists.value(list.id);
         if (list.kind == ListKind::Template)
-            templates.push_back({list.id, list.name, 0, false, true});
+            templates.push_back(templateRow(list));
         else
-            rows.push_back({list.id, list.name, count.open, count.isOverdue});
+            rows.push_back(row(list.id, list.name, count.open, count.isOverdue));
     }
     m_count->setText(ToDoWindowLines::countOfLists(rows.size()));
     rows.insert(rows.end(), templates.begin(), templates.end());

@@ -2,7 +2,6 @@
 #include "todo/window/orderedgrid.h"
 
 #include "shell/look/theme.h"
-#include "todo/window/itemdrag.h"
 #include "todo/window/itemsmodel.h"
 
 #include <QDrag>
@@ -25,8 +24,7 @@ OrderedGrid::OrderedGrid(ItemsModel &model, QWidget *parent)
 void OrderedGrid::dragMoveEvent(QDragMoveEvent *event)
 {
     CellGrid::dragMoveEvent(event);
-    const bool isTaken = ItemDrag::isOne(event->mimeData()) &&
-                         m_model.canDropMimeData(event->mimeData(), Qt::MoveAction, 0, 0, {});
+    const bool isTaken = m_model.canDropMimeData(event->mimeData(), Qt::MoveAction, 0, 0, {});
     const QModelIndex row = indexAt(event->position().toPoint());
     const QRect place = visualRect(row);
     m_dropLine = !isTaken                                               ? -1

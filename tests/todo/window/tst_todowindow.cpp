@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/controls/panerows.h"
 #include "shell/controls/pastefilter.h"
 #include "shell/core/place.h"
 #include "tests/support/openwindow.h"
@@ -7,7 +8,6 @@
 #include "todo/window/itemgrid.h"
 #include "todo/window/itemsmodel.h"
 #include "todo/window/listspane.h"
-#include "todo/window/panerows.h"
 #include "todo/window/todowindow.h"
 
 #include <QClipboard>

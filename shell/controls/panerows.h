@@ -13,20 +13,28 @@ public:
     enum Role {
         keyRole = Qt::UserRole, ///< what the row stands for
         countRole,              ///< shown at the right; 0: not shown
+        kindRole,               ///< a `Row::Kind`
         overdueRole             ///< true where some of them are overdue
     };
 
     struct Row {
         int key = 0;
-        QString name;
+        QString name{};
         int count = 0;
         bool isOverdue = false;
-        bool isTemplate = false;
+        QString shown{};      ///< in place of the name, where it is another text
+        QString spoken{};     ///< read aloud in place of it
+        bool isFixed = false; ///< it cannot be dragged
+        enum Kind { Plain, Open, Folded };
+        Kind kind = Plain; ///< or a heading, with the rows below it or without them
+        bool isRenamable = true;
+        bool takesThings = true; ///< that are dropped onto it
 
         bool operator==(const Row &) const = default;
     };
 
-    using QAbstractListModel::QAbstractListModel;
+    /// `format` tells these rows from those of other lists while they are dragged.
+    explicit PaneRows(QString format, QObject *parent = nullptr);
 
     /// Rows that stay keep their selection.
     void setRows(std::vector<Row> rows);
@@ -42,14 +50,15 @@ public:
     QStringList mimeTypes() const override;
     QMimeData *mimeData(const QModelIndexList &indexes) const override;
     /// Whether it is a row that is being dragged.
-    static bool isRow(const QMimeData *data);
-    static int keyOf(const QMimeData &data);
+    bool isRow(const QMimeData *data) const;
+    int keyOf(const QMimeData &data) const;
 
 signals:
     /// Another name was typed.
     void renamed(int key, const QString &name);
 
 private:
+    QString m_format;
     std::vector<Row> m_rows;
     bool m_isRenamable = false;
 };

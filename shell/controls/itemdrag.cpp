@@ -1,23 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "todo/window/itemdrag.h"
+#include "shell/controls/itemdrag.h"
 
 #include <QDataStream>
 #include <QIODevice>
 #include <QList>
 #include <QMimeData>
 
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-const QString format = u"application/x-quillery-things-to-do"_s;
-} // namespace
-
-QStringList ItemDrag::formats()
-{
-    return {format};
-}
-
-std::unique_ptr<QMimeData> ItemDrag::of(const std::vector<int> &items)
+std::unique_ptr<QMimeData> ItemDrag::of(const QString &format, const std::vector<int> &items)
 {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
@@ -27,14 +16,14 @@ std::unique_ptr<QMimeData> ItemDrag::of(const std::vector<int> &items)
     return data;
 }
 
-bool ItemDrag::isOne(const QMimeData *data)
+bool ItemDrag::isOne(const QString &format, const QMimeData *data)
 {
     return data && data->hasFormat(format);
 }
 
-std::vector<int> ItemDrag::itemsOf(const QMimeData *data)
+std::vector<int> ItemDrag::itemsOf(const QString &format, const QMimeData *data)
 {
-    if (!isOne(data))
+    if (!isOne(format, data))
         return {};
     QList<int> items;
     QDataStream stream(data->data(format));

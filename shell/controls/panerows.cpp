@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "todo/window/panerows.h"
-
-#include "todo/window/windowlines.h"
+#include "shell/controls/panerows.h"
 
 #include <QMimeData>
 
 #include <algorithm>
 #include <utility>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
-
-const QString rowFormat = u"application/x-quillery-list-of-things"_s;
 
 bool haveSameKeys(const std::vector<PaneRows::Row> &one, const std::vector<PaneRows::Row> &other)
 {
@@ -20,6 +14,11 @@ bool haveSameKeys(const std::vector<PaneRows::Row> &one, const std::vector<PaneR
 }
 
 } // namespace
+
+PaneRows::PaneRows(QString format, QObject *parent)
+    : QAbstractListModel(parent)
+    , m_format(std::move(format))
+{}
 
 void PaneRows::setRows(std::vector<Row> rows)
 {
@@ -53,15 +52,17 @@ QVariant PaneRows::data(const QModelIndex &index, int role) const
     const Row &row = m_rows[std::size_t(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return row.isTemplate ? ToDoWindowLines::templateOf(row.name) : row.name;
+        return row.shown.isEmpty() ? row.name : row.shown;
     case Qt::EditRole:
         return row.name;
     case Qt::AccessibleTextRole:
-        return ToDoWindowLines::listSpoken(row.name, row.count);
+        return row.spoken.isEmpty() ? row.name : row.spoken;
     case keyRole:
         return row.key;
     case countRole:
         return row.count;
+    case kindRole:
+        return row.kind;
     case overdueRole:
         return row.isOverdue;
     default:
@@ -82,32 +83,35 @@ bool PaneRows::setData(const QModelIndex &index, const QVariant &value, int role
 
 Qt::ItemFlags PaneRows::flags(const QModelIndex &index) const
 {
-    const Qt::ItemFlags flags = QAbstractListModel::flags(index) | Qt::ItemIsDropEnabled;
-    if (!m_isRenamable || !index.isValid())
-        return flags;
-    const bool isDraggable = !m_rows[std::size_t(index.row())].isTemplate;
-    return flags | Qt::ItemIsEditable | (isDraggable ? Qt::ItemIsDragEnabled : Qt::NoItemFlags);
+    Qt::ItemFlags flags = QAbstractListModel::flags(index);
+    if (!index.isValid())
+        return flags | Qt::ItemIsDropEnabled; // between the rows
+    const Row &row = m_rows[std::size_t(index.row())];
+    flags.setFlag(Qt::ItemIsDropEnabled, row.takesThings);
+    flags.setFlag(Qt::ItemIsEditable, m_isRenamable && row.isRenamable);
+    flags.setFlag(Qt::ItemIsDragEnabled, m_isRenamable && !row.isFixed);
+    return flags;
 }
 
 QStringList PaneRows::mimeTypes() const
 {
-    return {rowFormat};
+    return {m_format};
 }
 
 QMimeData *PaneRows::mimeData(const QModelIndexList &indexes) const
 {
     auto *data = new QMimeData;
     if (!indexes.isEmpty())
-        data->setData(rowFormat, QByteArray::number(m_rows[std::size_t(indexes.first().row())].key));
+        data->setData(m_format, QByteArray::number(m_rows[std::size_t(indexes.first().row())].key));
     return data;
 }
 
-bool PaneRows::isRow(const QMimeData *data)
+bool PaneRows::isRow(const QMimeData *data) const
 {
-    return data && data->hasFormat(rowFormat);
+    return data && data->hasFormat(m_format);
 }
 
-int PaneRows::keyOf(const QMimeData &data)
+int PaneRows::keyOf(const QMimeData &data) const
 {
-    return data.data(rowFormat).toInt();
+    return data.data(m_format).toInt();
 }

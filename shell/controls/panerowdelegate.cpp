@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "todo/window/panerowdelegate.h"
+#include "shell/controls/panerowdelegate.h"
 
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
+#include "shell/controls/panerows.h"
 #include "shell/look/theme.h"
-#include "todo/window/panerows.h"
 
 #include <QPainter>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,8 +16,26 @@ namespace {
 constexpr int inset = 8;
 constexpr int gap = 8;
 constexpr int signSize = 16;
-constexpr int longestName = 60;
+constexpr int foldWidth = 8;
+
+/// Whether the rows below a heading are shown.
+void paintFold(QPainter &painter, const QRect &row, bool isOpen, const QColor &ink)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(row.left() + foldWidth / 2.0, row.center().y() + 1);
+    if (isOpen)
+        painter.rotate(90);
+    painter.drawPolyline(QPolygonF{{-2, -4}, {2, 0}, {-2, 4}});
+    painter.restore();
+}
 } // namespace
+
+PaneRowDelegate::PaneRowDelegate(QObject *parent, MakeBox makeBox)
+    : QStyledItemDelegate(parent)
+    , m_makeBox(std::move(makeBox))
+{}
 
 QSize PaneRowDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
@@ -47,7 +67,12 @@ void PaneRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
             place.setRight(sign.left() - gap);
         }
     }
-    painter->setFont(option.font);
+    const int kind = index.data(PaneRows::kindRole).toInt();
+    painter->setFont(kind == PaneRows::Row::Plain ? option.font : TypeScale::strong());
+    if (kind != PaneRows::Row::Plain) {
+        paintFold(*painter, place, kind == PaneRows::Row::Open, isSelected ? theme.onAccent : theme.quiet);
+        place.setLeft(place.left() + foldWidth + gap);
+    }
     painter->setPen(isSelected ? theme.onAccent : option.palette.color(QPalette::Text));
     painter->drawText(
         place, Qt::AlignVCenter | Qt::AlignLeft,
@@ -57,8 +82,7 @@ void PaneRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
 QWidget *PaneRowDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                        const QModelIndex &) const
 {
-    auto *box = named(new FieldBox(parent), u"listNameBox"_s);
+    QLineEdit *box = m_makeBox(parent);
     box->setFrame(false);
-    box->setByteLimit(longestName);
     return box;
 }

@@ -5,12 +5,18 @@
 
 #include <vector>
 
-/// The lists, onto whose rows things to do can be dropped, and which are dragged into another order.
+class PaneRows;
+
+/// A list onto whose rows things can be dropped, and whose rows are dragged into another order, as far as
+/// `PaneRows` lets them.
 class DropList final : public QListView
 {
     Q_OBJECT
 public:
-    explicit DropList(QWidget *parent = nullptr);
+    /// `itemFormat` is the format of the things that may be dropped onto its rows.
+    explicit DropList(QString itemFormat, QWidget *parent = nullptr);
+
+    void setRows(PaneRows *rows);
 
 signals:
     void dropped(int key, const std::vector<int> &items);
@@ -28,11 +34,15 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    bool takes(const QModelIndex &row) const;
     bool isDraggable(const QModelIndex &row) const;
+    int firstDraggable() const;
     int lastDraggable() const;
     int placeAt(QPoint point) const;
     void mark(const QModelIndex &target, int place);
 
+    QString m_itemFormat;
+    PaneRows *m_rows = nullptr;
     QPersistentModelIndex m_target; ///< onto which things would go
     int m_place = -1;               ///< before which row a list would go; -1: nowhere
 };

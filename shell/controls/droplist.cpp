@@ -1,20 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "todo/window/droplist.h"
+#include "shell/controls/droplist.h"
 
+#include "shell/controls/itemdrag.h"
+#include "shell/controls/panerows.h"
 #include "shell/look/theme.h"
-#include "todo/window/itemdrag.h"
-#include "todo/window/panerows.h"
 
 #include <QDragMoveEvent>
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
-DropList::DropList(QWidget *parent)
+DropList::DropList(QString itemFormat, QWidget *parent)
     : QListView(parent)
+    , m_itemFormat(std::move(itemFormat))
 {
     setAcceptDrops(true);
     setDragEnabled(true);
+}
+
+void DropList::setRows(PaneRows *rows)
+{
+    m_rows = rows;
+    setModel(rows);
+}
+
+bool DropList::takes(const QModelIndex &row) const
+{
+    return row.isValid() && row.flags().testFlag(Qt::ItemIsDropEnabled);
 }
 
 bool DropList::isDraggable(const QModelIndex &row) const
@@ -22,10 +35,18 @@ bool DropList::isDraggable(const QModelIndex &row) const
     return row.flags().testFlag(Qt::ItemIsDragEnabled);
 }
 
+int DropList::firstDraggable() const
+{
+    int row = 0;
+    while (row < m_rows->rowCount() && !isDraggable(m_rows->index(row)))
+        ++row;
+    return row;
+}
+
 int DropList::lastDraggable() const
 {
-    int row = model()->rowCount() - 1;
-    while (row >= 0 && !isDraggable(model()->index(row, 0)))
+    int row = m_rows->rowCount() - 1;
+    while (row >= 0 && !isDraggable(m_rows->index(row)))
         --row;
     return row;
 }
@@ -38,7 +59,7 @@ int DropList::placeAt(QPoint point) const
     if (!row.isValid())
         return behind;
     const bool isBelow = point.y() > visualRect(row).center().y();
-    return std::min(row.row() + (isBelow ? 1 : 0), behind);
+    return std::clamp(row.row() + (isBelow ? 1 : 0), firstDraggable(), behind);
 }
 
 void DropList::mark(const QModelIndex &target, int place)
@@ -57,20 +78,21 @@ void DropList::startDrag(Qt::DropActions actions)
 
 void DropList::dragEnterEvent(QDragEnterEvent *event)
 {
-    event->setAccepted(ItemDrag::isOne(event->mimeData()) || PaneRows::isRow(event->mimeData()));
+    event->setAccepted(ItemDrag::isOne(m_itemFormat, event->mimeData()) || m_rows->isRow(event->mimeData()));
 }
 
 void DropList::dragMoveEvent(QDragMoveEvent *event)
 {
     const QPoint point = event->position().toPoint();
-    if (PaneRows::isRow(event->mimeData())) {
+    if (m_rows->isRow(event->mimeData())) {
         mark({}, placeAt(point));
         event->accept();
         return;
     }
     const QModelIndex row = indexAt(point);
-    mark(row, -1);
-    event->setAccepted(ItemDrag::isOne(event->mimeData()) && row.isValid());
+    const bool isTaken = ItemDrag::isOne(m_itemFormat, event->mimeData()) && takes(row);
+    mark(isTaken ? row : QModelIndex(), -1);
+    event->setAccepted(isTaken);
 }
 
 void DropList::dragLeaveEvent(QDragLeaveEvent *event)
@@ -83,19 +105,19 @@ void DropList::dropEvent(QDropEvent *event)
 {
     mark({}, -1);
     const QPoint point = event->position().toPoint();
-    if (PaneRows::isRow(event->mimeData())) {
+    if (m_rows->isRow(event->mimeData())) {
         const int place = placeAt(point);
-        const QModelIndex before = place <= lastDraggable() ? model()->index(place, 0) : QModelIndex();
+        const QModelIndex before = place <= lastDraggable() ? m_rows->index(place) : QModelIndex();
         event->setDropAction(Qt::CopyAction); // the rows move with the lists, not by the view
         event->accept();
-        emit ordered(PaneRows::keyOf(*event->mimeData()), before.data(PaneRows::keyRole).toInt());
+        emit ordered(m_rows->keyOf(*event->mimeData()), before.data(PaneRows::keyRole).toInt());
         return;
     }
     const QModelIndex row = indexAt(point);
-    if (!row.isValid())
+    if (!takes(row))
         return;
     event->accept();
-    emit dropped(row.data(PaneRows::keyRole).toInt(), ItemDrag::itemsOf(event->mimeData()));
+    emit dropped(row.data(PaneRows::keyRole).toInt(), ItemDrag::itemsOf(m_itemFormat, event->mimeData()));
 }
 
 /// The row onto which something is about to be dropped bears a rim; between two rows there is a line.
@@ -107,10 +129,10 @@ void DropList::paintEvent(QPaintEvent *event)
         painter.setPen(QPen(Theme::of(this).accent, 2));
         painter.drawRect(visualRect(m_target).adjusted(1, 1, -1, -1));
     }
-    if (m_place < 0 || model()->rowCount() == 0)
+    if (m_place < 0 || m_rows->rowCount() == 0)
         return;
-    const int rows = model()->rowCount();
-    const QRect row = visualRect(model()->index(std::min(m_place, rows - 1), 0));
+    const int rows = m_rows->rowCount();
+    const QRect row = visualRect(m_rows->index(std::min(m_place, rows - 1)));
     const int line = std::max(1, m_place < rows ? row.top() : row.bottom());
     painter.setPen(QPen(Theme::of(this).accent, 3));
     painter.drawLine(0, line, viewport()->width(), line);

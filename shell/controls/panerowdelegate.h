@@ -3,16 +3,26 @@
 
 #include <QStyledItemDelegate>
 
+#include <functional>
+
+class QLineEdit;
+
 /// Rows of `PaneRows`: the name, and its count at the right.
 class PaneRowDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using MakeBox = std::function<QLineEdit *(QWidget *parent)>;
+
+    /// `makeBox` makes the box in which a name is typed over, where one can be.
+    explicit PaneRowDelegate(QObject *parent, MakeBox makeBox = {});
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
+
+private:
+    MakeBox m_makeBox;
 };
