@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QSize>
 #include <QString>
 
 /// What stands in the place of a picture that cannot be seen.
@@ -26,6 +27,45 @@ inline QString notAPicture()
 inline QString choosePictureFirst()
 {
     return u"Choose a picture in the list of files first"_s;
+}
+
+// Why a file is not shown.
+
+inline QString noFile()
+{
+    return u"This is no file"_s;
+}
+
+inline QString emptyFile()
+{
+    return u"The file is empty"_s;
+}
+
+inline QString mayNotBeRead()
+{
+    return u"The file may not be read"_s;
+}
+
+inline QString noPictureInside()
+{
+    return u"There is no picture in this file"_s;
+}
+
+inline QString damagedPicture()
+{
+    return u"The picture is damaged"_s;
+}
+
+/// `kind` as it is called, "WebP".
+inline QString kindNotInstalled(const QString &kind)
+{
+    return u"What reads "_s + kind + u" pictures is not installed"_s;
+}
+
+inline QString tooLarge(QSize pixels)
+{
+    return u"The picture is too large: "_s + QString::number(pixels.width()) + u" x "_s +
+           QString::number(pixels.height()) + u" pixels"_s;
 }
 
 // Of a picture that is dropped or pasted.

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+class QFile;
+
+/// What the beginning of a JPEG file says: cameras put a small preview there, which is read in no time.
+class JpegHead
+{
+public:
+    /// In this many bytes from the beginning nearly every camera has said all of it.
+    static constexpr qint64 usualBytes = 64 * 1024;
+
+    /// Reads the first bytes of a file; they may be any.
+    static JpegHead of(const QByteArray &first);
+
+    /// How the camera was held, as the files count it: 1 (upright) to 8.
+    int orientation() const { return m_orientation; }
+    /// Of the whole picture as it lies in the file; empty where that is not among the first bytes.
+    QSize pixels() const { return m_pixels; }
+    /// The preview, upright and in the shape of the picture; null where there is none.
+    QImage preview() const;
+
+    /// Whether the picture ends before its end was said.
+    static bool isCut(QFile &file);
+
+private:
+    void readExif(QByteArrayView tiff);
+
+    QByteArray m_preview; ///< a JPEG file of its own
+    int m_orientation = 1;
+    QSize m_pixels;
+};

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/pictures/picturequeue.h"
+
+#include "shell/pictures/picturework.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr qsizetype usualMostKept = 48 * 1024 * 1024;
+
+} // namespace
+
+PictureQueue::PictureQueue(const QString &thumbnails, QObject *parent)
+    : QObject(parent)
+    , m_work(std::make_shared<PictureWork>(*this, thumbnails))
+{
+    setMostKept(usualMostKept);
+    m_work->start();
+}
+
+PictureQueue::~PictureQueue()
+{
+    m_work->stop();
+}
+
+void PictureQueue::setSide(int pixels)
+{
+    m_work->setSide(pixels);
+}
+
+void PictureQueue::want(const WantedPicture &picture, Priority priority)
+{
+    ask(picture);
+    m_work->want(picture, priority);
+}
+
+void PictureQueue::show(const std::vector<WantedPicture> &seen, const std::vector<WantedPicture> &next)
+{
+    for (const std::vector<WantedPicture> *pictures : {&seen, &next})
+        for (const WantedPicture &picture : *pictures)
+            ask(picture);
+    m_work->show(seen, next);
+}
+
+/// What there was no room for has to come again.
+void PictureQueue::ask(const WantedPicture &picture)
+{
+    if (!m_kept.contains(picture.id))
+        m_work->lose(picture.id);
+}
+
+void PictureQueue::forget(int id)
+{
+    m_work->forget(id);
+    m_kept.remove(id);
+    m_reasons.remove(id);
+}
+
+void PictureQueue::forgetAll()
+{
+    m_work->forgetAll();
+    m_kept.clear();
+    m_reasons.clear();
+}
+
+PictureQueue::Kept PictureQueue::kept(int id) const
+{
+    const Kept *found = m_kept.object(id);
+    return found ? *found : Kept{{}, Look::Rough, m_reasons.value(id)};
+}
+
+void PictureQueue::setMostKept(qsizetype bytes)
+{
+    m_kept.setMaxCost(bytes);
+}
+
+int PictureQueue::waitingCount() const
+{
+    return m_work->waitingCount();
+}
+
+void PictureQueue::take(int id, quint32 birth, const QImage &image, Look look, const QString &reason)
+{
+    if (!m_work->isWanted(id, birth))
+        return;
+    if (!reason.isEmpty()) {
+        m_reasons.insert(id, reason);
+        emit failed(id, reason);
+        return;
+    }
+    m_reasons.remove(id);
+    m_kept.insert(id, new Kept{image, look, {}}, std::max<qsizetype>(1, image.sizeInBytes()));
+    emit arrived(id, image, look);
+}

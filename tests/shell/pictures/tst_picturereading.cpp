@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/pages/pagepicture.h"
+#include "shell/pictures/pictureframe.h"
+#include "shell/pictures/picturelines.h"
+#include "shell/pictures/picturereading.h"
+#include "tests/support/testphotographs.h"
+
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QSize uprightSize(160, 80);
+constexpr int markSide = 30;
+
+bool isRed(QRgb color)
+{
+    return qRed(color) > 200 && qBlue(color) < 60;
+}
+
+bool isBlue(QRgb color)
+{
+    return qBlue(color) > 200 && qRed(color) < 60;
+}
+
+/// Red at the top left, blue at the top right, and lying as it should.
+bool isUpright(const QImage &image)
+{
+    const QSize size = image.size();
+    return size.width() > size.height() && isRed(image.pixel(4, 4)) &&
+           isBlue(image.pixel(size.width() - 5, 4));
+}
+
+/// A picture as it lies in the file: with marks in the corners `red` and `blue`, each "tl", "tr", "bl" or
+/// "br".
+QImage marked(QSize size, const QString &red, const QString &blue)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    const auto mark = [&](const QString &corner, const QColor &color) {
+        painter.fillRect(corner[1] == u'l' ? 0 : size.width() - markSide,
+                         corner[0] == u't' ? 0 : size.height() - markSide, markSide, markSide, color);
+    };
+    mark(red, Qt::red);
+    mark(blue, Qt::blue);
+    return image;
+}
+
+} // namespace
+
+class TestPictureReading : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase() { QLoggingCategory::setFilterRules(u"qt.gui.imageio*=false"_s); }
+
+    void turnsPicturesAsTheirCameraWasHeld_data()
+    {
+        QTest::addColumn<QString>("red");
+        QTest::addColumn<QString>("blue");
+        QTest::addRow("1") << u"tl"_s << u"tr"_s;
+        QTest::addRow("2") << u"tr"_s << u"tl"_s;
+        QTest::addRow("3") << u"br"_s << u"bl"_s;
+        QTest::addRow("4") << u"bl"_s << u"br"_s;
+        QTest::addRow("5") << u"tl"_s << u"bl"_s;
+        QTest::addRow("6") << u"bl"_s << u"tl"_s;
+        QTest::addRow("7") << u"br"_s << u"tr"_s;
+        QTest::addRow("8") << u"tr"_s << u"br"_s;
+    }
+
+    void turnsPicturesAsTheirCameraWasHeld()
+    {
+        QFETCH(QString, red);
+        QFETCH(QString, blue);
+        const int orientation = QByteArray(QTest::currentDataTag()).toInt();
+        const QSize size = orientation < 5 ? uprightSize : uprightSize.transposed();
+        const QImage stored = marked(size, red, blue);
+        const QString path = TestPhotographs::save(
+            m_folder.filePath(u"held.jpg"_s),
+            TestPhotographs::photograph(stored, orientation, stored.scaled(size * 3 / 4)));
+        const ReadPicture picture = PictureReading::read(path, {100, 100});
+        QCOMPARE(picture.pixels, uprightSize);
+        QCOMPARE(picture.image.size(), QSize(100, 50));
+        QVERIFY(isUpright(picture.image));
+        QVERIFY(isUpright(PictureReading::preview(path)));
+        QVERIFY(isUpright(PictureFile::read(path, {100, 100})));
+        QVERIFY(isUpright(PagePicture::read(path, {100, 100}).image));
+    }
+
+    void takesTheBarsOffAPreview()
+    {
+        const QImage stored = marked({300, 200}, u"tl"_s, u"tr"_s);
+        QImage barred(160, 120, QImage::Format_RGB32);
+        barred.fill(Qt::black);
+        QPainter(&barred).drawImage(QRect(0, 7, 160, 106), stored);
+        const QString path = TestPhotographs::save(m_folder.filePath(u"bars.jpg"_s),
+                                                   TestPhotographs::photograph(stored, 1, barred));
+        const QImage preview = PictureReading::preview(path);
+        QCOMPARE(preview.size(), QSize(160, 106));
+        QVERIFY(isUpright(preview));
+    }
+
+    void saysWhyAFileIsNoPicture()
+    {
+        const auto file = [this](const QString &name, const QByteArray &bytes) {
+            return TestPhotographs::save(m_folder.filePath(name), bytes);
+        };
+        // A picture of 20,000 by 20,000 pixels that says no more than that.
+        const QByteArray vast("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\x4e\x20\0\0\x4e\x20\x08\x02\0\0\0\x6c\x12"
+                              "\xd1\x6e\0\0\0\x10IDAT",
+                              41);
+        const QList<std::pair<QString, QString>> rows{
+            {m_folder.filePath(u"none.jpg"_s), PictureLines::pictureNotFound()},
+            {m_folder.path(), PictureLines::noFile()},
+            {u"/dev/zero"_s,
+             QFile::exists(u"/dev/zero"_s) ? PictureLines::noFile() : PictureLines::pictureNotFound()},
+            {file(u"empty.jpg"_s, {}), PictureLines::emptyFile()},
+            {file(u"text.jpg"_s, "Dear Karin,\n"), PictureLines::noPictureInside()},
+            {file(u"noise.png"_s, QByteArray("\x89PNG\r\n\x1a\n", 8) + QByteArray(90, 'x')),
+             PictureLines::damagedPicture()},
+            {file(u"vast.png"_s, vast), PictureLines::tooLarge({20000, 20000})},
+        };
+        for (const auto &[path, reason] : rows) {
+            const ReadPicture picture = PictureReading::read(path, {100, 100});
+            QVERIFY2(picture.image.isNull(), qPrintable(path));
+            QVERIFY2(picture.reason == reason, qPrintable(path + u": "_s + picture.reason));
+        }
+    }
+
+    void showsACutPictureAsFarAsItGoes()
+    {
+        const QByteArray whole = TestPhotographs::jpeg(TestPhotographs::draw({400, 300}, 1));
+        QByteArray png;
+        QBuffer buffer(&png);
+        QVERIFY(TestPhotographs::draw({400, 300}, 2).save(&buffer, "PNG"));
+        const QList<std::tuple<const char *, QByteArray, bool>> rows{
+            {"whole", whole, false},
+            {"half", whole.first(whole.size() / 2), true},
+            {"without its last byte", whole.chopped(1), true},
+            {"filled up with zeros", whole.first(whole.size() / 2) + QByteArray(5000, '\0'), true},
+            {"followed by a film", whole + "mpv2" + QByteArray(5000, '\xD8'), false},
+            {"with a preview, half",
+             TestPhotographs::photograph(TestPhotographs::draw({400, 300}, 1), 1,
+                                         TestPhotographs::draw({160, 120}, 1))
+                 .chopped(4000),
+             true},
+            {"half a PNG", png.first(png.size() / 2), true},
+        };
+        for (const auto &[what, bytes, isCut] : rows) {
+            const QString path = TestPhotographs::save(m_folder.filePath(u"cut.jpg"_s), bytes);
+            const ReadPicture picture = PictureReading::read(path, {200, 200});
+            QVERIFY2(picture.image.size() == QSize(200, 150), what);
+            QVERIFY2(picture.isCut == isCut, what);
+        }
+    }
+
+    void survivesAnyHeadOfAFile()
+    {
+        const QByteArray good = TestPhotographs::photograph(TestPhotographs::draw({40, 30}, 1), 6,
+                                                            TestPhotographs::draw({16, 12}, 1));
+        for (qsizetype i = 0; i < 120; ++i) {
+            for (const char wrong : {'\0', '\x7F', '\xFF'}) {
+                QByteArray bytes = good;
+                bytes[i] = wrong;
+                const QString path = TestPhotographs::save(m_folder.filePath(u"wrong.jpg"_s), bytes);
+                static_cast<void>(PictureReading::preview(path));
+                static_cast<void>(PictureReading::read(path, {100, 100}));
+            }
+            const QString path = TestPhotographs::save(m_folder.filePath(u"short.jpg"_s), good.first(i));
+            QVERIFY(PictureReading::preview(path).isNull());
+        }
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QTEST_MAIN(TestPictureReading)
+#include "tst_picturereading.moc"
