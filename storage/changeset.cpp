@@ -48,16 +48,16 @@ ChangeSet::ChangeSet(const DataFolder &folder)
     : m_folder(folder)
 {}
 
-void ChangeSet::write(const RecordFile &file, int number, QByteArrayView value)
+void ChangeSet::write(const RecordFile &file, int number, QByteArrayView value, qsizetype at)
 {
-    if (number < 1 || value.size() > file.recordLength()) {
+    if (number < 1 || at < 0 || at + value.size() > file.recordLength()) {
         qCWarning(storageLog).noquote()
             << "Refused to write" << value.size() << "bytes to record" << number << "of" << file.path();
         m_isRefused = true;
         return;
     }
     m_changes.push_back({QFileInfo(file.path()).fileName(),
-                         (qint64(number) - 1) * file.recordLength(),
+                         (qint64(number) - 1) * file.recordLength() + at,
                          value.toByteArray(),
                          {}});
 }

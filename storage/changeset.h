@@ -27,8 +27,9 @@ public:
 
     explicit ChangeSet(const DataFolder &folder);
 
-    /// Adds: `value` at the start of record `number` of `file`, a file of the folder, as `RecordFile::write`.
-    void write(const RecordFile &file, int number, QByteArrayView value);
+    /// Adds: `value` in record `number` of `file`, a file of the folder, from its byte `at` on; otherwise as
+    /// `RecordFile::write`.
+    void write(const RecordFile &file, int number, QByteArrayView value, qsizetype at = 0);
 
     /// Adds: the file `name` of the folder, which then holds `content`. One that is there already holds
     /// `inBetween` until it does, unless that is empty: other programs see by it that a save is under way.

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLocale>
+#include <QString>
+
+/// What the photo album says quietly: in its status bar, behind Undo and on its card.
+namespace AlbumLines {
+
+using namespace Qt::Literals::StringLiterals;
+
+/// "1 picture", "2,000 pictures"
+inline QString pictures(qsizetype count)
+{
+    return count == 1 ? u"1 picture"_s : QLocale::c().toString(count) + u" pictures"_s;
+}
+
+/// "1 album", "14 albums"
+inline QString albums(qsizetype count)
+{
+    return count == 1 ? u"1 album"_s : QLocale::c().toString(count) + u" albums"_s;
+}
+
+inline QString quoted(const QString &name)
+{
+    return u"\u201c%1\u201d"_s.arg(name);
+}
+
+inline QString foreignFile(const QString &file)
+{
+    return file + u" is not a file of this photo album: it is left as it is."_s;
+}
+
+inline QString unreadableFile(const QString &file)
+{
+    return file + u" cannot be read: nothing can be changed."_s;
+}
+
+inline QString notSaved()
+{
+    return u"The disk refused to save this"_s;
+}
+
+inline QString notSetAside(const QString &file)
+{
+    return file + u" could not be set aside: the disk refused"_s;
+}
+
+inline QString setAside(const QString &file, const QString &name)
+{
+    return file + u" is kept as "_s + name;
+}
+
+/// Another program has written to the same records in between.
+inline QString changedMeanwhile()
+{
+    return u"Somebody else has changed the album meanwhile: what is there now is shown"_s;
+}
+
+inline QString noMorePictures()
+{
+    return u"The list is full: it has room for 100,000 pictures"_s;
+}
+
+inline QString noMoreAlbums()
+{
+    return u"The albums are full"_s;
+}
+
+inline QString pathTooLong(const QString &path)
+{
+    return u"The path of %1 is too long or has characters that cannot be kept"_s.arg(path);
+}
+
+inline QString nameTooLong()
+{
+    return u"This name is too long"_s;
+}
+
+// What was done, for the status bar and Undo.
+
+inline QString added(qsizetype count)
+{
+    return u"Taken in: "_s + pictures(count);
+}
+
+inline QString removed(const QString &what)
+{
+    return u"Taken off the list: "_s + what;
+}
+
+inline QString albumAdded(const QString &album)
+{
+    return u"New album "_s + quoted(album);
+}
+
+inline QString albumRemoved(const QString &album)
+{
+    return u"Album %1 deleted, its pictures stay"_s.arg(quoted(album));
+}
+
+inline QString albumMoved(const QString &album)
+{
+    return u"Album %1 moved"_s.arg(quoted(album));
+}
+
+inline QString putInto(qsizetype count, const QString &album)
+{
+    return u"%1 put into %2"_s.arg(pictures(count), quoted(album));
+}
+
+inline QString takenOut(qsizetype count, const QString &album)
+{
+    return u"%1 taken out of %2"_s.arg(pictures(count), quoted(album));
+}
+
+inline QString arranged(qsizetype count, const QString &album)
+{
+    return u"%1 moved in %2"_s.arg(pictures(count), quoted(album));
+}
+
+} // namespace AlbumLines
