@@ -4,7 +4,7 @@ cmake_minimum_required(VERSION 3.25)
 
 # A room may include those before it.
 set(shellRooms core pages look controls pictures charts writing program preview frame access manual mainmenu)
-set(functionRooms model shared window entry viewer)
+set(functionRooms metadata model shared window entry viewer)
 # Of shell/access, functions see the gate alone; those that ask for a password themselves also count the attempts.
 set(openAccess shell/access/gate.h)
 set(openAccess_journal ${openAccess} shell/access/attempts.h)
@@ -94,6 +94,11 @@ foreach(folder IN LISTS folders)
         check(${folder}/${room} "(hunspell|mythes)" "shell/writing checks words")
         check(${folder}/${room} "shell/(manual|mainmenu)/" "belongs to the program")
         check(${folder}/${room} "shell/access/" "belongs to the program" ${open})
+    endforeach()
+    foreach(room IN LISTS functionRooms)
+        if(NOT room STREQUAL "metadata")
+            check(${folder}/${room} "exiv2" "a module reads the texts in pictures")
+        endif()
     endforeach()
     check(${folder}/model "Q(Widget|Dialog|Painter|Pixmap|Icon|Action)>" "a model knows no screen")
     check(${folder}/model "shell/(pages|look|controls|program|preview|frame|access)/"
