@@ -16,7 +16,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Quillery maintainers <maintainers@tessaly.example>")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, hunspell-en-us, mythes-en-us")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-image-formats-plugins, hunspell-en-us, mythes-en-us")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "household organizer")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Quillery keeps what a household has to remember, behind a main menu that
 tells about the day: addresses with pictures and birthdays, appointments,

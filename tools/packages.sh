@@ -2,7 +2,8 @@
 # Sourced by ./run, ./test and .ci/run: installs the Debian packages that are missing, and says so in one line.
 
 quillery_build_packages=(g++ cmake ninja-build pkg-config python3 qt6-base-dev libsodium-dev libqcustomplot-dev librsvg2-bin
-    libhunspell-dev hunspell-en-us libmythes-dev mythes-en-us libzxcvbn-dev libqrencode-dev libexiv2-dev)
+    libhunspell-dev hunspell-en-us libmythes-dev mythes-en-us libzxcvbn-dev libqrencode-dev libexiv2-dev
+    libheif-dev)
 quillery_test_packages=(poppler-utils python3-nacl libimage-exiftool-perl)
 quillery_benchmark_packages=(libbenchmark-dev)
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/picturereading.h"
 
+#include "shell/pictures/heifpictures.h"
 #include "shell/pictures/jpeghead.h"
 #include "shell/pictures/picturelines.h"
 
@@ -81,6 +82,8 @@ QString whyNone(const QString &path)
 /// The kind of picture that the first bytes tell, where it needs something that may not be installed.
 QString kindFrom(QByteArrayView first)
 {
+    if (const QByteArray kind = HeifPictures::kind(first); !kind.isEmpty())
+        return QString::fromLatin1(kind);
     if (first.startsWith("RIFF") && first.sliced(std::min<qsizetype>(8, first.size())).startsWith("WEBP"))
         return QStringLiteral("WebP");
     if (first.startsWith(QByteArrayView("II*\0", 4)) || first.startsWith(QByteArrayView("MM\0*", 4)))
@@ -150,7 +153,10 @@ QImage PictureReading::preview(const QString &path)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {};
-    return JpegHead::of(file.read(JpegHead::usualBytes)).preview();
+    const QByteArray first = file.read(JpegHead::usualBytes);
+    if (HeifPictures::kind(first).isEmpty())
+        return JpegHead::of(first).preview();
+    return file.seek(0) ? HeifPictures::preview(file) : QImage();
 }
 
 QImage PictureReading::turned(const QImage &picture, int quarters)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pages/pagepicture.h"
+#include "shell/pictures/heifpictures.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/pictures/picturelines.h"
 #include "shell/pictures/picturereading.h"
@@ -88,6 +89,34 @@ private slots:
         QVERIFY(isUpright(PictureReading::preview(path)));
         QVERIFY(isUpright(PictureFile::read(path, {100, 100})));
         QVERIFY(isUpright(PagePicture::read(path, {100, 100}).image));
+    }
+
+    /// Drawn for this test: they lie on their side, say so for their own kind, and say it in the way of
+    /// cameras too.
+    void turnsPicturesOfTelephonesOnce()
+    {
+        if (!HeifPictures::areReadable())
+            QSKIP("without libheif");
+        for (const QString &name : {u"held.heic"_s, u"held.avif"_s, u"thumbnail.heic"_s}) {
+            const QString path = QStringLiteral(QUILLERY_TEST_DATA) + u"/pictures/"_s + name;
+            for (const QSize bound : {QSize(400, 400), QSize(100, 100), QSize(64, 64)}) {
+                const ReadPicture picture = PictureReading::read(path, bound);
+                QCOMPARE(picture.pixels, uprightSize);
+                QCOMPARE(picture.image.size(),
+                         uprightSize.scaled(bound.boundedTo({160, 160}), Qt::KeepAspectRatio));
+                QVERIFY2(isUpright(picture.image) && !picture.isCut, qPrintable(name));
+            }
+            QVERIFY(isUpright(PagePicture::read(path, {100, 100}).image));
+            const QImage preview = PictureReading::preview(path);
+            QVERIFY(name == u"thumbnail.heic"_s ? isUpright(preview) : preview.isNull());
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QByteArray half = file.read(file.size() / 2);
+            const ReadPicture cut = PictureReading::read(
+                TestPhotographs::save(m_folder.filePath(u"cut.heic"_s), half), {100, 100});
+            QVERIFY(cut.image.isNull());
+            QCOMPARE(cut.reason, PictureLines::damagedPicture());
+        }
     }
 
     void takesTheBarsOffAPreview()
