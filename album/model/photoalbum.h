@@ -14,8 +14,8 @@ struct PhotoAlbum {
     int cover = 0; ///< a picture's record; 0: its first
     Sorting sorting = Sorting::ByDate;
     Into into = Into::Nowhere;
-    QString name;
-    QString folder; ///< whose new pictures it takes in; empty: none
+    QString name{};
+    QString folder{}; ///< whose new pictures it takes in; empty: none
 
     bool operator==(const PhotoAlbum &) const = default;
 };
