@@ -13,4 +13,8 @@ bool isHighContrast(const QPalette &palette);
 /// lists are then smaller than what stands beside them.
 bool hasSmallFonts();
 
+/// Whether the user has asked for less motion on the screen. It may take a moment: ask when something is
+/// about to move.
+bool wantsLessMotion();
+
 } // namespace SystemLook

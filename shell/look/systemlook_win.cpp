@@ -15,3 +15,9 @@ bool SystemLook::hasSmallFonts()
 {
     return true;
 }
+
+bool SystemLook::wantsLessMotion()
+{
+    BOOL isAnimated = TRUE;
+    return SystemParametersInfoW(SPI_GETCLIENTAREAANIMATION, 0, &isAnimated, 0) && !isAnimated;
+}
