@@ -4,6 +4,7 @@
 #include "calendar/model/wallcalendar.h"
 #include "calendar/window/windowlines.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/hangingtext.h"
 #include "shell/controls/pastefilter.h"
 #include "shell/look/theme.h"
 
@@ -22,6 +23,20 @@ namespace {
 
 constexpr int leastWidth = 180;
 constexpr int leastLines = 2;
+constexpr double hanging = 1.5; ///< widths of a letter
+
+/// Lines are told apart as they are on the sheet.
+class CellText final : public HangingText
+{
+public:
+    using HangingText::HangingText;
+
+protected:
+    double insetOf(const QTextBlock &, const QTextLine &) const override
+    {
+        return hanging * QFontMetricsF(document()->defaultFont()).averageCharWidth();
+    }
+};
 
 /// What is pasted, without anything that a line cannot show.
 QString tidied(const QString &text)
@@ -44,6 +59,9 @@ CellEditor::CellEditor(QWidget *parent)
     : QPlainTextEdit(parent)
 {
     setObjectName(u"cellEditor"_s);
+    auto *text = new QTextDocument(this);
+    text->setDocumentLayout(new CellText(text));
+    setDocument(text);
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFont(TypeScale::body());

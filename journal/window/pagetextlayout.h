@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPlainTextDocumentLayout>
-#include <QTextBlock>
+#include "shell/controls/hangingtext.h"
 
 #include <functional>
 
 /// Lays out a plain text in which some lines have room above them, for a picture, and the rows of lists hang.
-class PageTextLayout final : public QPlainTextDocumentLayout
+class PageTextLayout final : public HangingText
 {
 public:
     /// How much room a line has above it, in pixels.
@@ -17,8 +16,9 @@ public:
 
     QRectF blockBoundingRect(const QTextBlock &block) const override;
 
-private:
-    static bool hang(QTextBlock block, QTextLayout &layout);
+protected:
+    double insetOf(const QTextBlock &line, const QTextLine &first) const override;
 
+private:
     RoomAbove m_roomAbove;
 };
