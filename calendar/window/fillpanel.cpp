@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -131,6 +132,15 @@ void FillPanel::tick(int number, bool isOn)
     showRows();
     if (auto *box = m_list->findChild<QCheckBox *>(u"fillRow_"_s + QString::number(number)))
         box->setFocus();
+}
+
+/// Enter on a row takes what is ticked.
+void FillPanel::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        TaskPanel::keyPressEvent(event);
+    else if (m_rows.isAnyTicked())
+        emit accepted();
 }
 
 void FillPanel::showPlan()

@@ -25,6 +25,9 @@ signals:
     /// A quiet line for the status bar.
     void said(const QString &line);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QWidget *makeContent();
     void showRows();
