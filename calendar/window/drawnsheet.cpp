@@ -176,6 +176,19 @@ const QPixmap &DrawnSheet::picture()
     return m_picture;
 }
 
+void DrawnSheet::layOver(QPainter &painter, const QRect &place, const QColor &color)
+{
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    painter.fillRect(place, color);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+void DrawnSheet::drawRim(QPainter &painter, const QRect &place, double width)
+{
+    painter.setPen(QPen(Theme::light().accent, width));
+    painter.drawRect(QRectF(place).adjusted(width / 2, width / 2, -width / 2, -width / 2));
+}
+
 void DrawnSheet::paintEvent(QPaintEvent *)
 {
     QPainter painter(viewport());

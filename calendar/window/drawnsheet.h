@@ -39,6 +39,9 @@ protected:
     /// What stands over the sheet is to be placed anew.
     virtual void placeOver() = 0;
     virtual void paintMarks(QPainter &painter) const = 0;
+    /// Marks are laid on the paper, which stays white in the dark.
+    static void layOver(QPainter &painter, const QRect &place, const QColor &color);
+    static void drawRim(QPainter &painter, const QRect &place, double width);
 
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

@@ -2,12 +2,9 @@
 #include "calendar/window/monthcells.h"
 
 #include "calendar/window/celleditor.h"
-#include "calendar/window/linedrag.h"
 #include "shell/look/theme.h"
 
 #include <QApplication>
-#include <QDrag>
-#include <QDragMoveEvent>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -32,12 +29,11 @@ bool isText(const QKeyEvent &event)
 } // namespace
 
 MonthCells::MonthCells(QWidget *parent)
-    : DrawnSheet(parent)
+    : DropSheet(parent)
     , m_editor(new CellEditor(viewport()))
 {
     setObjectName(u"monthCells"_s);
     setAccessibleName(u"Days of the month"_s);
-    setAcceptDrops(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
 }
 
@@ -305,50 +301,13 @@ void MonthCells::startDrag()
         emit said(m_whyLocked);
         return;
     }
-    auto *drag = new QDrag(this);
-    drag->setMimeData(LineDrag::mimeData({m_day, m_line}));
-    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
-    setDropCell(-1);
-}
-
-void MonthCells::dragEnterEvent(QDragEnterEvent *event)
-{
-    event->setAccepted(LineDrag::read(event->mimeData()).has_value());
-}
-
-void MonthCells::dragMoveEvent(QDragMoveEvent *event)
-{
-    setDropCell(plan().cellAt(onSheet(event->position().toPoint())));
-    event->setAccepted(m_dropCell >= 0 && LineDrag::read(event->mimeData()).has_value());
-}
-
-void MonthCells::dragLeaveEvent(QDragLeaveEvent *)
-{
-    setDropCell(-1);
-}
-
-void MonthCells::dropEvent(QDropEvent *event)
-{
-    const std::optional<LineDrag::Line> dragged = LineDrag::read(event->mimeData());
-    const int place = plan().cellAt(onSheet(event->position().toPoint()));
-    setDropCell(-1);
-    if (!dragged || place < 0)
-        return;
-    event->acceptProposedAction();
-    emit lineDropped(dragged->date, dragged->line, plan().cells[std::size_t(place)].date,
-                     event->dropAction() == Qt::CopyAction);
-}
-
-void MonthCells::setDropCell(int cell)
-{
-    if (std::exchange(m_dropCell, cell) != cell)
-        viewport()->update();
+    drag(m_day, m_line);
 }
 
 bool MonthCells::viewportEvent(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || !hasSheet())
-        return DrawnSheet::viewportEvent(event);
+        return DropSheet::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     const int place = plan().cellAt(onSheet(help->pos()));
     const int line = place < 0 ? -1 : plan().lineAt(place, onSheet(help->pos()));
@@ -361,13 +320,13 @@ bool MonthCells::viewportEvent(QEvent *event)
 
 void MonthCells::focusInEvent(QFocusEvent *event)
 {
-    DrawnSheet::focusInEvent(event);
+    DropSheet::focusInEvent(event);
     viewport()->update();
 }
 
 void MonthCells::focusOutEvent(QFocusEvent *event)
 {
-    DrawnSheet::focusOutEvent(event);
+    DropSheet::focusOutEvent(event);
     viewport()->update();
 }
 
@@ -390,36 +349,25 @@ void MonthCells::placeOver()
 
 // Painting
 
-/// On the paper, which stays white in the dark: the day that is the one, those chosen with it, its line, and
-/// where a drawn line would fall.
+/// The day that is the one, those chosen with it, and its line.
 void MonthCells::paintMarks(QPainter &painter) const
 {
     const Theme &theme = Theme::light();
-    const auto lay = [&](const QRect &place, const QColor &color) {
-        painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-        painter.fillRect(place, color);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    };
-    const auto rim = [&](const QRect &place, double width) {
-        painter.setPen(QPen(theme.accent, width));
-        painter.drawRect(QRectF(place).adjusted(width / 2, width / 2, -width / 2, -width / 2));
-    };
     if (m_anchor.isValid()) {
         for (const SheetPlan::Cell &each : plan().cells) {
             if (each.date >= firstChosen() && each.date <= lastChosen())
-                lay(onScreen(each.place), theme.soft);
+                layOver(painter, onScreen(each.place), theme.soft);
         }
     }
     if (const int place = cell(); place >= 0) {
         const SheetPlan::Cell &now = plan().cells[std::size_t(place)];
         if (!m_anchor.isValid())
-            lay(onScreen(now.place), theme.mark);
+            layOver(painter, onScreen(now.place), theme.mark);
         for (const SheetPlan::Line &line : now.lines) {
             if (line.line == m_line)
-                lay(onScreen(line.place), theme.soft);
+                layOver(painter, onScreen(line.place), theme.soft);
         }
-        rim(onScreen(now.place), hasFocus() || m_editor->hasFocus() ? 2 : 1);
+        drawRim(painter, onScreen(now.place), hasFocus() || m_editor->hasFocus() ? 2 : 1);
     }
-    if (m_dropCell >= 0 && m_dropCell < int(plan().cells.size()))
-        rim(onScreen(plan().cells[std::size_t(m_dropCell)].place), 2);
+    DropSheet::paintMarks(painter);
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "calendar/window/drawnsheet.h"
+#include "calendar/window/dropsheet.h"
 
 class CellEditor;
 
 /// The sheet that is worked on, as it will be printed. Its days are walked through with the arrow keys, typed
 /// into where they stand, and their lines drawn from one to another.
-class MonthCells final : public DrawnSheet
+class MonthCells final : public DropSheet
 {
     Q_OBJECT
 public:
@@ -47,7 +47,6 @@ signals:
     void writingWanted(int line, const QString &typed);
     void spanWanted();
     void spanOpened(int span);
-    void lineDropped(QDate from, int line, QDate to, bool isCopied);
     /// Alt and an arrow: the chosen line changes places with its neighbour.
     void orderWanted(int by);
     /// What the chosen line is, for the status bar.
@@ -62,10 +61,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
-    void dragMoveEvent(QDragMoveEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dragLeaveEvent(QDragLeaveEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -80,7 +75,6 @@ private:
     void choose(int cell, bool isChoosing);
     void follow();
     void startDrag();
-    void setDropCell(int cell);
 
     DaysOfSheet::Words m_lineWords;
     CellEditor *m_editor;
@@ -92,6 +86,5 @@ private:
     QPoint m_pressed;
     bool m_isPressed = false;
     int m_pressedLine = -1;
-    int m_dropCell = -1;
     int m_wheel = 0; ///< turned since the last month
 };
