@@ -108,9 +108,15 @@ QModelIndex DrawnSheet::indexAt(const QPoint &point) const
 
 void DrawnSheet::scrollTo(const QModelIndex &index, ScrollHint)
 {
-    const QRect place = visualRect(index);
+    if (const int cell = m_days->cellOf(index); cell >= 0)
+        bring(plan().cells[std::size_t(cell)].place);
+}
+
+void DrawnSheet::bring(const QRectF &part)
+{
+    const QRect place = onScreen(part);
     QScrollBar *bar = verticalScrollBar();
-    if (place.isNull() || bar->maximum() == 0)
+    if (bar->maximum() == 0)
         return;
     if (place.top() < deskMargin)
         bar->setValue(bar->value() + place.top() - deskMargin);

@@ -35,6 +35,8 @@ protected:
     const DaysOfSheet &days() const { return *m_days; }
     QPointF onSheet(QPoint point) const;
     QRect onScreen(const QRectF &place) const;
+    /// Scrolls as little as brings a part of the sheet into sight.
+    void bring(const QRectF &place);
 
     /// What stands over the sheet is to be placed anew.
     virtual void placeOver() = 0;

@@ -2,11 +2,9 @@
 #include "calendar/window/monthcells.h"
 
 #include "calendar/window/celleditor.h"
-#include "shell/look/theme.h"
 
 #include <QApplication>
 #include <QHelpEvent>
-#include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -29,66 +27,12 @@ bool isText(const QKeyEvent &event)
 } // namespace
 
 MonthCells::MonthCells(QWidget *parent)
-    : DropSheet(parent)
+    : ChosenSheet(parent)
     , m_editor(new CellEditor(viewport()))
 {
     setObjectName(u"monthCells"_s);
     setAccessibleName(u"Days of the month"_s);
     setContextMenuPolicy(Qt::CustomContextMenu);
-}
-
-void MonthCells::show(std::shared_ptr<const CalendarSheet> sheet, DaysOfSheet::Words words,
-                      DaysOfSheet::Words lineWords)
-{
-    m_lineWords = std::move(lineWords);
-    if (setSheet(std::move(sheet), std::move(words)))
-        m_anchor = {};
-    m_person = plan().isByPerson ? std::clamp(m_person, 0, std::max(0, plan().columns - 1)) : 0;
-    follow();
-    placeOver();
-}
-
-void MonthCells::setDay(QDate day)
-{
-    if (m_day != day)
-        m_line = -1;
-    m_day = day;
-    m_anchor = {};
-    follow();
-}
-
-void MonthCells::setLine(int line)
-{
-    m_line = line;
-    viewport()->update();
-}
-
-/// The current index and what is chosen are those of the day.
-void MonthCells::follow()
-{
-    const QList<int> lines = linesOfDay();
-    if (!lines.contains(m_line))
-        m_line = -1;
-    const QModelIndex index = days().indexOf(cell());
-    if (index.isValid() && index != currentIndex())
-        setCurrentIndex(index);
-    QItemSelection chosenDays;
-    for (QDate day = firstChosen(); m_anchor.isValid() && day <= lastChosen(); day = day.addDays(1)) {
-        const QModelIndex chosen = days().indexOf(plan().find(day, m_person));
-        if (chosen.isValid())
-            chosenDays.select(chosen, chosen);
-    }
-    if (!chosenDays.isEmpty())
-        selectionModel()->select(chosenDays, QItemSelectionModel::ClearAndSelect);
-    if (index.isValid())
-        scrollTo(index);
-    viewport()->update();
-}
-
-QList<int> MonthCells::linesOfDay() const
-{
-    const int place = cell();
-    return place < 0 ? QList<int>() : plan().cells[std::size_t(place)].all;
 }
 
 // Keys
@@ -101,15 +45,15 @@ void MonthCells::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_F2:
-        if (m_anchor.isValid())
+        if (areSeveral())
             emit spanWanted();
         else
-            emit writingWanted(m_line, {});
+            emit writingWanted(line(), {});
         return;
     case Qt::Key_Escape:
-        if (m_anchor.isValid() || m_line >= 0) {
-            m_line = -1;
-            setDay(m_day);
+        if (areSeveral() || line() >= 0) {
+            leaveLine();
+            setDay(day());
             emit moved();
             return;
         }
@@ -145,12 +89,12 @@ bool MonthCells::walk(const QKeyEvent &event)
         if (isDown)
             walkPersons(by);
         else
-            go(m_day.addDays(by), isChoosing);
+            go(day().addDays(by), isChoosing);
         return true;
     }
     case Qt::Key_Up:
     case Qt::Key_Down:
-        go(m_day.addDays(qint64(event.key() == Qt::Key_Up ? -1 : 1) * (isDown ? 1 : daysPerWeek)),
+        go(day().addDays(qint64(event.key() == Qt::Key_Up ? -1 : 1) * (isDown ? 1 : daysPerWeek)),
            isChoosing);
         return true;
     case Qt::Key_Home:
@@ -158,9 +102,9 @@ bool MonthCells::walk(const QKeyEvent &event)
         const QModelIndex index = currentIndex();
         const int column = event.key() == Qt::Key_Home ? 0 : plan().columns - 1;
         if (isDown)
-            walkPersons(column - m_person);
+            walkPersons(column - person());
         else if (const int place = days().cellOf(index.siblingAtColumn(column)); place >= 0)
-            go(plan().cells[std::size_t(place)].date, isChoosing);
+            go(cellAt(place).date, isChoosing);
         return true;
     }
     case Qt::Key_PageUp:
@@ -175,39 +119,22 @@ bool MonthCells::walk(const QKeyEvent &event)
 /// Days are chosen together as far as the sheet shows them; one alone is shown in its own month.
 void MonthCells::go(QDate day, bool isChoosing)
 {
-    const int place = plan().find(day, m_person);
-    if (isChoosing ? place >= 0 : place >= 0 && !plan().cells[std::size_t(place)].isOutside)
+    const int place = plan().find(day, person());
+    if (place >= 0 && (isChoosing || !cellAt(place).isOutside)) {
         choose(place, isChoosing);
-    else if (!isChoosing)
+    } else if (!isChoosing) {
+        leaveLine();
         emit dayWanted(day);
-}
-
-void MonthCells::choose(int cell, bool isChoosing)
-{
-    const SheetPlan::Cell &chosen = plan().cells[std::size_t(cell)];
-    if (!isChoosing)
-        m_anchor = {};
-    else if (!m_anchor.isValid())
-        m_anchor = m_day;
-    if (chosen.date != m_day)
-        m_line = -1;
-    m_day = chosen.date;
-    m_person = chosen.person;
-    follow();
-    emit moved();
+    }
 }
 
 /// To another column; where there is one alone, to the same day of another month.
 void MonthCells::walkPersons(int by)
 {
-    if (plan().columns == 1) {
-        go(m_day.addMonths(std::clamp(by, -1, 1)), false);
-        return;
-    }
-    m_person = std::clamp(m_person + by, 0, plan().columns - 1);
-    m_line = -1;
-    follow();
-    emit moved();
+    if (plan().columns == 1)
+        go(day().addMonths(std::clamp(by, -1, 1)), false);
+    else
+        choosePerson(person() + by);
 }
 
 bool MonthCells::walkLines(int key)
@@ -215,15 +142,11 @@ bool MonthCells::walkLines(int key)
     const QList<int> lines = linesOfDay();
     if (lines.isEmpty())
         return true;
-    const qsizetype now = lines.indexOf(m_line);
-    if (now < 0)
-        m_line = key == Qt::Key_Up ? lines.last() : lines.first();
-    else
-        m_line = lines[std::clamp<qsizetype>(now + (key == Qt::Key_Up ? -1 : 1), 0, lines.size() - 1)];
-    currentChanged(currentIndex(), {}); // read aloud anew
-    viewport()->update();
-    emit said(m_lineWords(m_day, m_line));
-    emit moved();
+    const bool isUp = key == Qt::Key_Up;
+    const qsizetype now = lines.indexOf(line());
+    const qsizetype next = now < 0 ? (isUp ? lines.size() - 1 : 0)
+                                   : std::clamp<qsizetype>(now + (isUp ? -1 : 1), 0, lines.size() - 1);
+    chooseLine(day(), lines[next]);
     return true;
 }
 
@@ -233,52 +156,62 @@ void MonthCells::mousePressEvent(QMouseEvent *event)
 {
     if (!hasSheet())
         return;
-    const QPointF point = onSheet(event->position().toPoint());
-    const int place = plan().cellAt(point);
-    if (place < 0)
-        return;
-    const bool isLeft = event->button() == Qt::LeftButton;
-    m_isPressed = isLeft;
     m_pressed = event->position().toPoint();
-    m_pressedLine = plan().lineAt(place, point);
-    choose(place, isLeft && event->modifiers() & Qt::ShiftModifier);
-    if (m_pressedLine >= 0)
-        setLine(m_pressedLine);
-    emit moved();
+    const QPointF point = onSheet(m_pressed);
+    const bool isLeft = event->button() == Qt::LeftButton;
+    const int place = plan().cellAt(point);
+    m_pressedOn = Pressed::Nothing;
+    if (const SheetPlan::Listed *listed = plan().listedAt(point)) {
+        m_pressedOn = isLeft ? Pressed::Listed : Pressed::Nothing;
+        chooseLine(listed->date, listed->line);
+    } else if (place >= 0) {
+        m_pressedOn = isLeft ? Pressed::Day : Pressed::Nothing;
+        m_pressedLine = plan().lineAt(place, point);
+        choose(place, isLeft && event->modifiers() & Qt::ShiftModifier);
+        if (m_pressedLine >= 0)
+            setLine(m_pressedLine);
+        emit moved();
+    } else if (const QDate small = plan().smallDayAt(point); small.isValid() && isLeft) {
+        emit dayWanted(small);
+    }
 }
 
+/// A line is drawn away; from elsewhere in a day more of them are chosen.
 void MonthCells::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint at = event->position().toPoint();
-    if (!m_isPressed || (at - m_pressed).manhattanLength() < QApplication::startDragDistance())
+    if (m_pressedOn == Pressed::Nothing ||
+        (at - m_pressed).manhattanLength() < QApplication::startDragDistance())
         return;
-    if (m_pressedLine >= 0) {
-        m_isPressed = false;
+    if (m_pressedOn == Pressed::Listed || m_pressedLine >= 0) {
+        m_pressedOn = Pressed::Nothing;
         startDrag();
     } else if (const int place = plan().cellAt(onSheet(at));
-               place >= 0 && (m_anchor.isValid() || plan().cells[std::size_t(place)].date != m_day)) {
+               place >= 0 && (areSeveral() || cellAt(place).date != day())) {
         choose(place, true);
     }
 }
 
 void MonthCells::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!std::exchange(m_isPressed, false) || event->button() != Qt::LeftButton || m_anchor.isValid())
+    const bool isOnDay = std::exchange(m_pressedOn, Pressed::Nothing) == Pressed::Day;
+    if (!isOnDay || event->button() != Qt::LeftButton || areSeveral())
         return;
-    const QPointF point = onSheet(event->position().toPoint());
     const int place = cell();
-    if (const int span = plan().spanAt(point); span >= 0)
+    if (const int span = plan().spanAt(onSheet(event->position().toPoint())); span >= 0)
         emit spanOpened(span);
-    else if (place >= 0 && plan().cells[std::size_t(place)].isOutside)
-        emit dayWanted(m_day);
+    else if (place >= 0 && cellAt(place).isOutside)
+        emit dayWanted(day());
     else if (place >= 0)
         emit writingWanted(m_pressedLine, {});
 }
 
-/// The first click has opened the day already.
+/// The first click has opened the day already; in the list at the foot it has chosen a line.
 void MonthCells::mouseDoubleClickEvent(QMouseEvent *event)
 {
     mousePressEvent(event);
+    if (std::exchange(m_pressedOn, Pressed::Nothing) == Pressed::Listed)
+        emit writingWanted(line(), {});
 }
 
 /// The sheet scrolls where it is larger than its view, and else turns.
@@ -301,18 +234,21 @@ void MonthCells::startDrag()
         emit said(m_whyLocked);
         return;
     }
-    drag(m_day, m_line);
+    drag(day(), line());
 }
 
 bool MonthCells::viewportEvent(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || !hasSheet())
-        return DropSheet::viewportEvent(event);
+        return ChosenSheet::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
-    const int place = plan().cellAt(onSheet(help->pos()));
-    const int line = place < 0 ? -1 : plan().lineAt(place, onSheet(help->pos()));
-    if (line >= 0)
-        QToolTip::showText(help->globalPos(), m_lineWords(plan().cells[std::size_t(place)].date, line), this);
+    const QPointF point = onSheet(help->pos());
+    const int place = plan().cellAt(point);
+    const int line = place < 0 ? -1 : plan().lineAt(place, point);
+    if (const SheetPlan::Listed *listed = plan().listedAt(point))
+        QToolTip::showText(help->globalPos(), lineWords(listed->date, listed->line), this);
+    else if (line >= 0)
+        QToolTip::showText(help->globalPos(), lineWords(cellAt(place).date, line), this);
     else
         QToolTip::hideText();
     return true;
@@ -320,13 +256,13 @@ bool MonthCells::viewportEvent(QEvent *event)
 
 void MonthCells::focusInEvent(QFocusEvent *event)
 {
-    DropSheet::focusInEvent(event);
+    ChosenSheet::focusInEvent(event);
     viewport()->update();
 }
 
 void MonthCells::focusOutEvent(QFocusEvent *event)
 {
-    DropSheet::focusOutEvent(event);
+    ChosenSheet::focusOutEvent(event);
     viewport()->update();
 }
 
@@ -337,37 +273,17 @@ void MonthCells::openEditor(const QStringList &lines, int line)
     const int place = cell();
     if (place < 0)
         return;
-    m_anchor = {};
-    m_editor->open(onScreen(plan().cells[std::size_t(place)].content), lines, line);
+    leaveOthers();
+    m_editor->open(onScreen(cellAt(place).content), lines, line);
 }
 
 void MonthCells::placeOver()
 {
     if (const int place = cell(); place >= 0 && m_editor->isOpen())
-        m_editor->setPlace(onScreen(plan().cells[std::size_t(place)].content));
+        m_editor->setPlace(onScreen(cellAt(place).content));
 }
 
-// Painting
-
-/// The day that is the one, those chosen with it, and its line.
-void MonthCells::paintMarks(QPainter &painter) const
+bool MonthCells::isActive() const
 {
-    const Theme &theme = Theme::light();
-    if (m_anchor.isValid()) {
-        for (const SheetPlan::Cell &each : plan().cells) {
-            if (each.date >= firstChosen() && each.date <= lastChosen())
-                layOver(painter, onScreen(each.place), theme.soft);
-        }
-    }
-    if (const int place = cell(); place >= 0) {
-        const SheetPlan::Cell &now = plan().cells[std::size_t(place)];
-        if (!m_anchor.isValid())
-            layOver(painter, onScreen(now.place), theme.mark);
-        for (const SheetPlan::Line &line : now.lines) {
-            if (line.line == m_line)
-                layOver(painter, onScreen(line.place), theme.soft);
-        }
-        drawRim(painter, onScreen(now.place), hasFocus() || m_editor->hasFocus() ? 2 : 1);
-    }
-    DropSheet::paintMarks(painter);
+    return hasFocus() || m_editor->hasFocus();
 }

@@ -53,6 +53,24 @@ SheetPlan::Cell cellOf(const WallCalendar &calendar, const LaidCell &laid, int f
     return cell;
 }
 
+/// The days of the small months, and behind them the months.
+void addSmallMonths(const GridLayout &layout, SheetPlan &plan)
+{
+    std::vector<SheetPlan::SmallDay> months;
+    for (const GridLayout::Block &block : layout.smallGrids()) {
+        QDate first;
+        for (const LaidCell &laid : block.laid.cells) {
+            const QDate date = laid.cell->date;
+            if (!date.isValid())
+                continue;
+            plan.smallDays.push_back({laid.rect, date});
+            first = date.addDays(1 - date.day());
+        }
+        months.push_back({block.frame.rect(), first});
+    }
+    plan.smallDays.insert(plan.smallDays.end(), months.begin(), months.end());
+}
+
 SheetPlan planOf(const WallCalendar &calendar, const GridLayout &layout, QSizeF sheet)
 {
     SheetPlan plan;
@@ -71,6 +89,11 @@ SheetPlan planOf(const WallCalendar &calendar, const GridLayout &layout, QSizeF 
         }
         plan.rows += rows;
     }
+    for (const GridRest::Entry &entry : layout.listed()) {
+        if (entry.index >= 0)
+            plan.listed.push_back({entry.rect, entry.date, entry.index});
+    }
+    addSmallMonths(layout, plan);
     for (SheetPlan::Cell &cell : plan.cells)
         cell.person = plan.isByPerson ? cell.column : 0;
     return plan;

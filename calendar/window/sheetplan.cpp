@@ -39,6 +39,34 @@ int SheetPlan::spanAt(QPointF point) const
     return found == bars.end() ? -1 : found->span;
 }
 
+const SheetPlan::Listed *SheetPlan::listedAt(QPointF point) const
+{
+    const auto found =
+        std::ranges::find_if(listed, [point](const Listed &each) { return each.place.contains(point); });
+    return found == listed.end() ? nullptr : &*found;
+}
+
+QRectF SheetPlan::listedPlace(QDate date, int line) const
+{
+    const auto found = std::ranges::find_if(
+        listed, [&](const Listed &each) { return each.date == date && each.line == line; });
+    return found == listed.end() ? QRectF() : found->place;
+}
+
+int SheetPlan::personOf(QDate date, int line) const
+{
+    const auto found = std::ranges::find_if(
+        cells, [&](const Cell &cell) { return cell.date == date && cell.all.contains(line); });
+    return found == cells.end() ? 0 : found->person;
+}
+
+QDate SheetPlan::smallDayAt(QPointF point) const
+{
+    const auto found =
+        std::ranges::find_if(smallDays, [point](const SmallDay &day) { return day.place.contains(point); });
+    return found == smallDays.end() ? QDate() : found->date;
+}
+
 bool SheetPlan::hasSameDays(const SheetPlan &other) const
 {
     return rows == other.rows && columns == other.columns &&

@@ -26,6 +26,19 @@ struct SheetPlan {
         QList<int> all;          ///< with those that have no room here, in their order
         bool operator==(const Cell &) const = default;
     };
+    /// A line that has no room in its day, in the list at the foot.
+    struct Listed {
+        QRectF place;
+        QDate date;
+        int line = 0;
+        bool operator==(const Listed &) const = default;
+    };
+    /// A day of a small month beside the title, or such a month as a whole, as its first.
+    struct SmallDay {
+        QRectF place;
+        QDate date;
+        bool operator==(const SmallDay &) const = default;
+    };
     struct Bar {
         QRectF place;
         int span = 0;
@@ -38,6 +51,8 @@ struct SheetPlan {
     int columns = 0;
     std::vector<Cell> cells;
     std::vector<Bar> bars;
+    std::vector<Listed> listed;
+    std::vector<SmallDay> smallDays;
 
     /// The place of a day among `cells`, in its own month where it stands in two; -1 where it is not here.
     int find(QDate date, int person = 0) const;
@@ -46,6 +61,14 @@ struct SheetPlan {
     int lineAt(int cell, QPointF point) const;
     /// The bar that stands there; -1 for none.
     int spanAt(QPointF point) const;
+    /// The line of the list at the foot that stands there; null for none.
+    const Listed *listedAt(QPointF point) const;
+    /// The place in that list of a line of a day; empty where it is not there.
+    QRectF listedPlace(QDate date, int line) const;
+    /// The person's column in which a line stands, or would.
+    int personOf(QDate date, int line) const;
+    /// The day of a small month that stands there, none where there is none.
+    QDate smallDayAt(QPointF point) const;
     /// Whether both have the same days at the same places of the table.
     bool hasSameDays(const SheetPlan &other) const;
 };

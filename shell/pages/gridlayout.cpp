@@ -268,6 +268,14 @@ void GridLayout::listTheOthers()
     }
 }
 
+std::vector<GridRest::Entry> GridLayout::listed() const
+{
+    std::vector<GridRest::Entry> entries = m_beside.entries();
+    if (!m_lists.empty())
+        entries.insert(entries.end(), m_lists.front().entries().begin(), m_lists.front().entries().end());
+    return entries;
+}
+
 const LaidCell *GridLayout::cellAt(QPointF point) const
 {
     for (const Block &block : m_blocks) {

@@ -33,6 +33,8 @@ public:
 
     const PageGrid &grid() const { return *m_grid; }
     const std::vector<Block> &blocks() const { return m_blocks; }
+    /// The grids beside the title.
+    const std::vector<Block> &smallGrids() const { return m_smallGrids; }
 
     /// The cell at a point of the sheet; null where there is none.
     const LaidCell *cellAt(QPointF point) const;
@@ -50,6 +52,8 @@ public:
 
     /// How many lines found no room in their cells.
     int restCount() const { return m_restCount; }
+    /// Those of them that are listed on the first sheet, in their places.
+    std::vector<GridRest::Entry> listed() const;
 
     /// How many sheets it takes: more than one where the list of those does not find room below the grids.
     int partCount() const { return std::max(1, int(m_lists.size())); }
