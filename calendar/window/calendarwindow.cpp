@@ -158,6 +158,7 @@ void Calendar::makeView(QMenu *view)
     m_whole =
         commands().add(view, u"mVWhole"_s, u"&Whole Sheet"_s, [this] { setZoom(m_whole->isChecked()); });
     m_whole->setCheckable(true);
+    connect(view, &QMenu::aboutToShow, m_whole, [this] { m_whole->setChecked(m_page->cells().isWhole()); });
     view->addSeparator();
     commands().add(
         view, u"mVSearch"_s, u"&Search"_s, [this] { m_pane->startSearch(); }, needsCalendar,
@@ -173,9 +174,12 @@ void Calendar::setZoom(bool isWhole)
 void Calendar::followZoom()
 {
     const CalendarLook &look = m_calendars->calendar().look;
-    const bool isWhole = program().store.value(zoomKey(look), look.isLandscape).toBool();
-    m_whole->setChecked(isWhole);
-    m_page->cells().setZoom(isWhole ? DrawnSheet::Zoom::WholeSheet : DrawnSheet::Zoom::SheetWidth);
+    const QVariant chosen = program().store.value(zoomKey(look));
+    const bool isWhole = chosen.isValid() ? chosen.toBool() : look.isLandscape;
+    m_page->cells().setZoom(!isWhole           ? DrawnSheet::Zoom::SheetWidth
+                            : chosen.isValid() ? DrawnSheet::Zoom::WholeSheet
+                                               : DrawnSheet::Zoom::Readable);
+    m_whole->setChecked(m_page->cells().isWhole());
 }
 
 void Calendar::makeButtons()

@@ -17,7 +17,7 @@ namespace {
 constexpr int deskMargin = 8;
 constexpr double unseen = 22;     ///< of the sheet's empty margins, in points, so that its days are larger
 constexpr double mostScale = 2.0; ///< pixels for a point
-constexpr double leastRead = 0.8; ///< below which a sheet is rather scrolled, where the view is as wide
+constexpr double leastRead = 0.8; ///< below which a sheet can hardly be read
 constexpr double mostAcross = 96.0 / 72; ///< the same of a sheet as wide as the view: as it is printed
 
 } // namespace
@@ -65,9 +65,15 @@ double DrawnSheet::scale() const
         return 1;
     const double across = (viewport()->width() - 2 * deskMargin) / size.width();
     const double down = (viewport()->height() - 2 * deskMargin) / size.height();
-    return m_zoom == Zoom::SheetWidth
-               ? std::clamp(across, 0.1, mostAcross)
-               : std::clamp(std::min(across, std::max(down, leastRead)), 0.1, mostScale);
+    if (m_zoom == Zoom::SheetWidth)
+        return std::clamp(across, 0.1, mostAcross);
+    const double high = m_zoom == Zoom::Readable ? std::max(down, leastRead) : down;
+    return std::clamp(std::min(across, high), 0.1, mostScale);
+}
+
+bool DrawnSheet::isWhole() const
+{
+    return m_zoom == Zoom::WholeSheet || (m_zoom == Zoom::Readable && verticalScrollBar()->maximum() == 0);
 }
 
 /// The part of the sheet that is shown, in points.

@@ -17,15 +17,20 @@ class DrawnSheet : public QTableView
 public:
     explicit DrawnSheet(QWidget *parent = nullptr);
 
-    enum class Zoom { WholeSheet, SheetWidth };
+    enum class Zoom {
+        Readable, ///< the whole sheet where it can be read then, else larger
+        WholeSheet,
+        SheetWidth
+    };
     void setZoom(Zoom zoom);
-    Zoom zoom() const { return m_zoom; }
+    /// Whether the whole sheet is shown.
+    bool isWhole() const;
 
     QRect visualRect(const QModelIndex &index) const override;
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
     QModelIndex indexAt(const QPoint &point) const override;
     QSize sizeHint() const override { return {760, 540}; }
-    QSize minimumSizeHint() const override { return {320, 240}; }
+    QSize minimumSizeHint() const override { return {320, 160}; }
 
 protected:
     /// Returns whether its days are others than before.
@@ -61,7 +66,7 @@ private:
 
     std::shared_ptr<const CalendarSheet> m_sheet;
     DaysOfSheet *m_days;
-    Zoom m_zoom = Zoom::WholeSheet;
+    Zoom m_zoom = Zoom::Readable;
     QPixmap m_picture;
     double m_pictureScale = 0;
 };
