@@ -6,6 +6,7 @@
 #include "shell/controls/controls.h"
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
+#include "shell/controls/flowrow.h"
 #include "shell/controls/pastefilter.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
@@ -100,22 +101,27 @@ RuleForm::RuleForm(const Program &program, const QString &name, QWidget *window,
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(8);
-    column->addLayout(makeRow({{u"When"_s, m_way}, {u"On a weekend"_s, m_moving}}));
-    column->addLayout(makeRow({{u"Every"_s, m_interval},
-                               {u"Which"_s, m_ordinal},
-                               {u"Weekday"_s, m_weekday},
-                               {u"Month"_s, m_month},
-                               {u"Day"_s, m_day},
-                               {u"Days"_s, m_distance},
-                               {u"From"_s, m_start}}));
-    QHBoxLayout *years = makeRow({{u"From year"_s, m_firstYear}, {u"To year"_s, m_lastYear}});
-    years->insertLayout(years->count() - 1, labelled(u"Rule"_s, m_text, RuleLines::ruleHint()), 1);
+    auto *parts = new FlowRow(gap);
+    addTo(*parts, {{u"When"_s, m_way},
+                   {u"Every"_s, m_interval},
+                   {u"Which"_s, m_ordinal},
+                   {u"Weekday"_s, m_weekday},
+                   {u"Month"_s, m_month},
+                   {u"Day"_s, m_day},
+                   {u"Days"_s, m_distance},
+                   {u"From"_s, m_start},
+                   {u"On a weekend"_s, m_moving}});
+    column->addLayout(parts);
+    auto *years = new QHBoxLayout;
+    years->setSpacing(gap);
+    addTo(*years, {{u"From year"_s, m_firstYear}, {u"To year"_s, m_lastYear}});
+    years->addLayout(labelled(u"Rule"_s, m_text, RuleLines::ruleHint()), 1);
     column->addLayout(years);
     column->addWidget(m_words);
     QWidget *before = m_way;
     for (QWidget *box :
-         std::initializer_list<QWidget *>{m_moving, m_interval, m_ordinal, m_weekday, m_month, m_day,
-                                          m_distance, m_start, m_firstYear, m_lastYear, m_text})
+         std::initializer_list<QWidget *>{m_interval, m_ordinal, m_weekday, m_month, m_day, m_distance,
+                                          m_start, m_moving, m_firstYear, m_lastYear, m_text})
         setTabOrder(std::exchange(before, box), box);
     listen();
     setRule(m_rule.text());
@@ -145,20 +151,16 @@ void RuleForm::fillChoices()
 }
 
 /// Boxes with their labels, each of which is shown and hidden with its box.
-QHBoxLayout *RuleForm::makeRow(std::initializer_list<std::pair<QString, QWidget *>> boxes)
+void RuleForm::addTo(QLayout &row, std::initializer_list<std::pair<QString, QWidget *>> boxes)
 {
-    auto *row = new QHBoxLayout;
-    row->setSpacing(gap);
     for (const auto &[caption, box] : boxes) {
         box->setMinimumHeight(m_way->sizeHint().height());
         auto *part = new QWidget(this);
         QBoxLayout *both = labelled(caption, box);
         both->setContentsMargins({});
         part->setLayout(both);
-        row->addWidget(part);
+        row.addWidget(part);
     }
-    row->addStretch(0);
-    return row;
 }
 
 void RuleForm::listen()

@@ -10,8 +10,8 @@
 
 class DateBox;
 class QComboBox;
-class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QSpinBox;
 struct Program;
@@ -43,7 +43,7 @@ private:
     enum Way { Weeks, Days, OnDate, WeekdayOfMonth, BeforeDate, FromDate, FromEaster, FromOrthodoxEaster };
 
     void fillChoices();
-    QHBoxLayout *makeRow(std::initializer_list<std::pair<QString, QWidget *>> boxes);
+    void addTo(QLayout &row, std::initializer_list<std::pair<QString, QWidget *>> boxes);
     void listen();
     void showRule();
     void offerMonths();

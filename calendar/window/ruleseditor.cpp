@@ -42,12 +42,8 @@ RulesEditor::RulesEditor(const Program &program, const QString &name, Signs sign
     m_view->setAccessibleName(u"Days that come back"_s);
     m_view->setMinimumHeight((leastRows + 1) * ListRowDelegate::rowHeight() + 2 * m_view->frameWidth());
     m_view->installEventFilter(this);
-    const QFontMetrics body(TypeScale::body());
-    m_view->setColumnWidth(RulesTable::Text,
-                           body.horizontalAdvance(u"National Day for Truth and"_s) + 4 * inset);
     m_view->horizontalHeader()->setStretchLastSection(false);
     m_view->horizontalHeader()->setSectionResizeMode(RulesTable::When, QHeaderView::Stretch);
-    m_view->setColumnWidth(RulesTable::Next, body.horizontalAdvance(u"Wed, 28 Nov 2026"_s) + 3 * inset);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(12);
@@ -108,8 +104,22 @@ void RulesEditor::setRows(const QList<RuleRow> &rows, const QString &none, const
     m_none->setText(none);
     m_model->setRows(rows);
     if (!rows.isEmpty())
-        m_view->selectRow(0);
+        m_view->selectRow(std::max(0, m_model->firstComing()));
+    shareWidth();
     showChosen();
+}
+
+/// When a day comes is the longest; the others have what their words need, as far as that leaves it room.
+void RulesEditor::shareWidth()
+{
+    const QFontMetrics body(TypeScale::body());
+    const int whole = m_view->width();
+    const int next = body.horizontalAdvance(u"Wed, 28 Nov 2026"_s) + 3 * inset;
+    const int text =
+        std::max(m_view->sizeHintForColumn(RulesTable::Text), body.horizontalAdvance(u"Remembrance Day"_s)) +
+        inset;
+    m_view->setColumnWidth(RulesTable::Next, next);
+    m_view->setColumnWidth(RulesTable::Text, std::min(text, whole * 3 / 10));
 }
 
 void RulesEditor::setWhyLocked(const QString &reason)
@@ -194,6 +204,8 @@ void RulesEditor::removeChosen()
 
 bool RulesEditor::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_view && event->type() == QEvent::Resize)
+        shareWidth();
     if (watched == m_view && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Delete) {

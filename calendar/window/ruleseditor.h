@@ -49,6 +49,7 @@ protected:
 
 private:
     QWidget *makeForm(const Program &program, const QString &name, Signs signs, QWidget *window);
+    void shareWidth();
     void showChosen();
     void take();
     int chosen() const;

@@ -8,6 +8,8 @@
 
 #include <QBrush>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -57,6 +59,13 @@ void RulesTable::remove(int row)
     beginRemoveRows({}, row, row);
     m_rows.removeAt(row);
     endRemoveRows();
+}
+
+int RulesTable::firstComing() const
+{
+    const auto comes = [this](const RuleRow &row) { return !text(row, Next).isEmpty(); };
+    const auto found = std::ranges::find_if(m_rows, comes);
+    return found == m_rows.end() ? -1 : int(found - m_rows.begin());
 }
 
 int RulesTable::rowCount(const QModelIndex &parent) const

@@ -32,6 +32,8 @@ public:
     void setRow(int row, const RuleRow &value);
     void append(const RuleRow &value);
     void remove(int row);
+    /// The first row of which a day is to come; -1: there is none.
+    int firstComing() const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
