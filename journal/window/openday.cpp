@@ -10,11 +10,29 @@
 
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QTextCursor>
 #include <QTextDocument>
 
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// In one step, wherever it stands.
+void replacePicture(QTextDocument &document, int number, int by)
+{
+    const QString place = LightMarks::picture(number);
+    QTextCursor step(&document);
+    step.beginEditBlock();
+    constexpr auto exactly = QTextDocument::FindCaseSensitively;
+    for (QTextCursor found = document.find(place, 0, exactly); !found.isNull();
+         found = document.find(place, found, exactly))
+        found.insertText(LightMarks::picture(by));
+    step.endEditBlock();
+}
+
+} // namespace
 
 OpenDay::OpenDay(Journal &journal, const Page &page, QObject *parent)
     : QObject(parent)
@@ -234,15 +252,17 @@ void OpenDay::addPicture(const JournalPicture &picture)
     m_page.text.insertLine(LightMarks::picture(int(pictures.size())));
 }
 
+/// The picture with its new caption is another one, so that undo brings the old one back into the text.
 void OpenDay::setCaption(int number, const QString &caption)
 {
-    if (!m_page.pictures.has(number))
+    if (!m_page.pictures.has(number) || m_page.pictures.caption(number) == caption)
         return;
     QList<JournalPicture> pictures = m_page.pictures.pictures();
-    pictures[number - 1].caption = caption;
+    JournalPicture picture = pictures[number - 1];
+    picture.caption = caption;
+    pictures.append(picture);
     m_page.pictures.setPictures(pictures);
-    m_page.text.viewport()->update();
-    noteEdit();
+    replacePicture(*m_page.text.document(), number, int(pictures.size()));
 }
 
 void OpenDay::forget()

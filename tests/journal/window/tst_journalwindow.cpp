@@ -326,6 +326,12 @@ private slots:
         trigger("mECaption");
         trigger("mOSave");
         QVERIFY(file().contains("picture Sea.png | The sea\r\n"));
+        key(Qt::Key_Z, Qt::ControlModifier);
+        trigger("mOSave");
+        QVERIFY(file().contains("picture Sea.png\r\n") && !file().contains("The sea"));
+        key(Qt::Key_Y, Qt::ControlModifier);
+        trigger("mOSave");
+        QVERIFY(file().contains("picture Sea.png | The sea\r\n"));
     }
 
     void tellsTheCalendarsDays()
