@@ -146,6 +146,9 @@ void DJournal::makeCommands()
     addHelpEntry();
     commands().separateTools();
     addUsualTools();
+    // At 1024 a second row of tools would be three lines less to write on.
+    for (const char *name : {"mOCopy", "mH_tool"})
+        toolbar().giveWay(findChild<QAction *>(QLatin1StringView(name)));
     m_edit->makeButtons();
     ButtonRow &foot = m_page->foot();
     foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
