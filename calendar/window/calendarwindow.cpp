@@ -120,7 +120,7 @@ void Calendar::makeCommands()
     edit->addSeparator();
     m_bars->addCommands(edit);
     makeView(view);
-    makeOptions(options);
+    addUsualOptions(options, [this](QMenu *menu) { addOptions(menu); });
     m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s));
     addUtilitiesMenu();
     addHelpEntry();
@@ -129,18 +129,13 @@ void Calendar::makeCommands()
     makeButtons();
 }
 
-void Calendar::makeOptions(QMenu *options)
+void Calendar::addOptions(QMenu *options)
 {
-    options->addAction(standard(Standard::PanelColor));
-    options->addAction(standard(Standard::TextColor));
-    options->addSeparator();
     m_print->addCommands(options);
     options->addSeparator();
     commands().writing(commands().add(
         options, u"mOSave"_s, u"&Save"_s, [this] { saveByCommand(); },
         [this] { return m_calendars->whyLocked(); }, CommonKeys::save));
-    options->addSeparator();
-    options->addAction(standard(Standard::Exit));
 }
 
 void Calendar::makeView(QMenu *view)

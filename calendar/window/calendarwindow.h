@@ -43,7 +43,7 @@ private:
     CalendarDesk desk();
     QWidget *makeWorkPanel();
     void makeCommands();
-    void makeOptions(QMenu *options);
+    void addOptions(QMenu *options);
     void makeView(QMenu *view);
     void makeButtons();
     void connectParts();

@@ -133,7 +133,7 @@ void DJournal::makeCommands()
     m_pictures->addCommands(edit);
     m_edit->addCommands(edit);
     m_edit->addFormat(format);
-    makeOptions(options);
+    addUsualOptions(options, [this](QMenu *menu) { addOptions(menu); });
     m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s), [this] { return whyNone(); });
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_exchange->addCommands(utilities);
@@ -154,11 +154,8 @@ void DJournal::makeCommands()
     foot.addRight(commands().button(standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s, &foot));
 }
 
-void DJournal::makeOptions(QMenu *options)
+void DJournal::addOptions(QMenu *options)
 {
-    options->addAction(standard(Standard::PanelColor));
-    options->addAction(standard(Standard::TextColor));
-    options->addSeparator();
     m_front->addLockCommands(options);
     options->addSeparator();
     commands().writing(commands().add(
@@ -177,8 +174,6 @@ void DJournal::makeOptions(QMenu *options)
         });
     commands().tool(copying, "copy"_L1, u"Copy"_s);
     m_print->addCommands(options);
-    options->addSeparator();
-    options->addAction(standard(Standard::Exit));
 }
 
 void DJournal::connectParts()

@@ -47,7 +47,7 @@ private:
     JournalDesk desk();
     QWidget *makeWorkPanel();
     void makeCommands();
-    void makeOptions(QMenu *options);
+    void addOptions(QMenu *options);
     void connectParts();
     void connectFront();
     void begin();

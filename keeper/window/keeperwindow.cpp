@@ -126,7 +126,7 @@ void Form4::makeCommands()
     m_tools->addVersionsCommand(edit);
     m_commands->addTrashCommands(edit);
     makeView(view);
-    makeOptions(options);
+    addUsualOptions(options, [this](QMenu *menu) { addOptions(menu); });
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_tools->addGenerator(utilities);
     m_print->addSheet(utilities);
@@ -165,12 +165,9 @@ void Form4::makeView(QMenu *view)
         Qt::CTRL | Qt::Key_H);
 }
 
-void Form4::makeOptions(QMenu *options)
+void Form4::addOptions(QMenu *options)
 {
     const auto unless = [this] { return whyLocked(); };
-    options->addAction(standard(Standard::PanelColor));
-    options->addAction(standard(Standard::TextColor));
-    options->addSeparator();
     m_tools->addSettings(options);
     QAction *lock = commands().add(
         options, u"mOLock"_s, u"&Lock the Keeper\tCtrl+L"_s, [this] { this->lock(); }, unless);
@@ -180,8 +177,6 @@ void Form4::makeOptions(QMenu *options)
         options, u"mOCopy"_s, u"Cop&y"_s, [this] { copyList(); },
         [this] { return m_pane->shownCount() > 0 ? whyLocked() : KeeperWindowLines::nothingShown(); });
     m_print->addPrint(options);
-    options->addSeparator();
-    options->addAction(standard(Standard::Exit));
 }
 
 void Form4::connectParts()

@@ -50,7 +50,7 @@ private:
     KeeperDesk desk();
     QWidget *makeWorkPanel();
     void makeCommands();
-    void makeOptions(QMenu *options);
+    void addOptions(QMenu *options);
     void makeView(QMenu *view);
     void connectParts();
     void opened(const QString &line);

@@ -297,6 +297,15 @@ void FunctionWindow::addUsualTools()
     addStandardTool(Standard::Help, u"mH_tool"_s);
 }
 
+void FunctionWindow::addUsualOptions(QMenu *options, const std::function<void(QMenu *)> &addOwn)
+{
+    options->addActions({standard(Standard::PanelColor), standard(Standard::TextColor)});
+    options->addSeparator();
+    addOwn(options);
+    options->addSeparator();
+    options->addAction(standard(Standard::Exit));
+}
+
 void FunctionWindow::addUtilitiesMenu()
 {
     addMenu(u"mU"_s, u"&Utilities"_s)->addActions({standard(Standard::Backup), standard(Standard::Restore)});

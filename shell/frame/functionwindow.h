@@ -110,6 +110,8 @@ protected:
     void addStandardTool(Standard command, const QString &name = {});
     /// The tools that stand behind a window's own: panel colour, backup, help.
     void addUsualTools();
+    /// The menu of the options: the colors, what `addOwn` puts there, and Exit.
+    void addUsualOptions(QMenu *options, const std::function<void(QMenu *)> &addOwn);
     /// The "Utilities" menu: backup and restore.
     void addUtilitiesMenu();
     /// "Help" at the end of the menu bar.

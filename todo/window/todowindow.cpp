@@ -110,7 +110,7 @@ void ToDo1::makeCommands()
     m_items->addCommands(edit);
     m_order->addCommands(edit);
     m_listCommands->addCommands(lists);
-    makeOptions(options);
+    addUsualOptions(options, [this](QMenu *menu) { addOptions(menu); });
     m_spelling->addCommands(addMenu(u"mSp"_s, u"&Spelling"_s));
     QMenu *utilities = addMenu(u"mU"_s, u"&Utilities"_s);
     m_print->addExportCommand(utilities);
@@ -141,18 +141,13 @@ void ToDo1::makeViewCommands(QMenu *view)
         view, u"mVSearch"_s, u"&Search"_s, [this] { m_pane->startSearch(); }, {}, CommonKeys::search);
 }
 
-void ToDo1::makeOptions(QMenu *options)
+void ToDo1::addOptions(QMenu *options)
 {
-    options->addAction(standard(Standard::PanelColor));
-    options->addAction(standard(Standard::TextColor));
-    options->addSeparator();
     m_print->addCommands(options);
     options->addSeparator();
     commands().writing(commands().add(
         options, u"mOSave"_s, u"&Save"_s, [this] { saveByCommand(); },
         [this] { return m_lists->whyLocked(); }, CommonKeys::save));
-    options->addSeparator();
-    options->addAction(standard(Standard::Exit));
 }
 
 void ToDo1::makeButtons()

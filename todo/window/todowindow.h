@@ -41,7 +41,7 @@ private:
     QWidget *makeWorkPanel();
     void makeCommands();
     void makeViewCommands(QMenu *view);
-    void makeOptions(QMenu *options);
+    void addOptions(QMenu *options);
     void makeButtons();
     void connectParts();
     void connectLists();
