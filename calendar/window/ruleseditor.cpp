@@ -113,13 +113,13 @@ void RulesEditor::setRows(const QList<RuleRow> &rows, const QString &none, const
 void RulesEditor::shareWidth()
 {
     const QFontMetrics body(TypeScale::body());
-    const int whole = m_view->width();
+    int text = body.horizontalAdvance(u"Remembrance Day"_s);
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        text =
+            std::max(text, body.horizontalAdvance(m_model->index(row, RulesTable::Text).data().toString()));
     const int next = body.horizontalAdvance(u"Wed, 28 Nov 2026"_s) + 3 * inset;
-    const int text =
-        std::max(m_view->sizeHintForColumn(RulesTable::Text), body.horizontalAdvance(u"Remembrance Day"_s)) +
-        inset;
     m_view->setColumnWidth(RulesTable::Next, next);
-    m_view->setColumnWidth(RulesTable::Text, std::min(text, whole * 3 / 10));
+    m_view->setColumnWidth(RulesTable::Text, std::min(text + 4 * inset, m_view->width() * 3 / 10));
 }
 
 void RulesEditor::setWhyLocked(const QString &reason)
