@@ -4,6 +4,7 @@
 #include "journal/window/markediting.h"
 #include "journal/window/pagepictures.h"
 #include "journal/window/pagetextlayout.h"
+#include "journal/window/picturescroll.h"
 #include "shell/core/lightmarks.h"
 #include "shell/look/theme.h"
 
@@ -11,7 +12,6 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
-#include <QScrollBar>
 #include <QTextBlock>
 
 using namespace Qt::Literals::StringLiterals;
@@ -54,6 +54,8 @@ QTextCharFormat formatOf(const MarkedRun &run, bool isHeading)
 JournalText::JournalText(PagePictures &pictures, QWidget *parent)
     : QPlainTextEdit(parent)
     , m_pictures(pictures)
+    , m_scroll(new PictureScroll(*this,
+                                 [this](const QTextBlock &line) { return m_pictures.has(pictureIn(line)); }))
 {
     setObjectName(u"entryText"_s);
     setAccessibleName(u"Entry"_s);
@@ -75,7 +77,6 @@ JournalText::JournalText(PagePictures &pictures, QWidget *parent)
     connect(this, &QPlainTextEdit::cursorPositionChanged, viewport(), qOverload<>(&QWidget::update));
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &JournalText::cursorMoved,
             Qt::QueuedConnection); // behind what the box itself does for it
-    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &JournalText::reachEnd);
     connect(&m_pictures, &PagePictures::changed, this, &JournalText::pictureChanged);
 }
 
@@ -96,40 +97,16 @@ void JournalText::pictureChanged(int number)
     // The box looks how far it can scroll when the number of lines changes, and only then by itself.
     QAbstractTextDocumentLayout *layout = document()->documentLayout();
     emit layout->documentSizeChanged(layout->documentSize());
+    m_scroll->reachEnd(); // the same number of lines, and higher
     if (wasInSight)
         showCursor();
     viewport()->update();
 }
 
-/// The box goes by lines and takes one with a picture for whole where only its caption is to be seen.
 void JournalText::showCursor()
 {
-    if (m_pictures.pictures().isEmpty())
-        return;
-    ensureCursorVisible();
-    QScrollBar *bar = verticalScrollBar();
-    while (cursorRect().bottom() > viewport()->height() && bar->value() < bar->maximum())
-        bar->setValue(bar->value() + 1);
-    if (cursorRect().top() < 0) // in the caption of a picture that is higher than the page
-        bar->setValue(bar->value() - 1);
-}
-
-/// For the same reason: below a picture that is cut at the top the text would never come into sight.
-void JournalText::reachEnd()
-{
-    if (m_pictures.pictures().isEmpty())
-        return;
-    double room = viewport()->height() - document()->documentMargin() - 1;
-    for (QTextBlock line = document()->lastBlock(); line.isValid(); line = line.previous()) {
-        room -= document()->documentLayout()->blockBoundingRect(line).height();
-        if (room >= 0)
-            continue;
-        const int last = document()->lineCount() - 1;
-        const int below = std::min(line.firstLineNumber() + 1, last);
-        if (m_pictures.has(pictureIn(line)) && verticalScrollBar()->maximum() < below)
-            verticalScrollBar()->setMaximum(below);
-        return;
-    }
+    if (!m_pictures.pictures().isEmpty())
+        m_scroll->showCursor();
 }
 
 LineStyles JournalText::styles() const
@@ -171,6 +148,7 @@ QTextDocument *JournalText::makeDocument(const QString &text)
 void JournalText::showDocument(QTextDocument *shown)
 {
     setDocument(shown);
+    m_scroll->reachEnd();
     setExtraSelections({});
     emit documentShown();
 }
@@ -361,6 +339,7 @@ void JournalText::resizeEvent(QResizeEvent *event)
 {
     setMargins();
     QPlainTextEdit::resizeEvent(event);
+    m_scroll->reachEnd();
 }
 
 /// What is wider than lines may be is margin.

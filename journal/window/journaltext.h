@@ -8,6 +8,7 @@
 #include <utility>
 
 class PagePictures;
+class PictureScroll;
 
 /// The page that one writes on: plain text whose light marks are shown as one types, at most 72 characters
 /// wide, with pictures at the lines that name them. Tab leaves it. Each text has a document of its own, which
@@ -66,10 +67,10 @@ private:
     void cursorMoved();
     void pictureChanged(int number);
     void showCursor();
-    void reachEnd();
     void paintPicture(QPainter &painter, const QTextBlock &line, const QRectF &place) const;
 
     PagePictures &m_pictures;
+    PictureScroll *m_scroll;
     bool m_isCursorInSight = true; ///< as it was painted last
     int m_pictureAtCursor = 0;
 };
