@@ -284,7 +284,11 @@ void Calendar::showCalendar()
     m_stack->goHome();
     followZoom();
     m_page->startOver();
-    if (const QString why = isThere ? m_calendars->whyLocked() : QString(); !why.isEmpty() || !isThere)
+    const CalendarHead *head = m_calendars->head();
+    QString why = isThere ? m_calendars->whyLocked() : QString();
+    if (why.isEmpty() && head && !head->from.isValid())
+        why = CalendarWindowLines::emptyFile();
+    if (!why.isEmpty() || !isThere)
         activity().say(why);
     if (!isThere || !m_pane->isAncestorOf(focusWidget())) // one may walk through the list
         m_stack->home()->setFocus();

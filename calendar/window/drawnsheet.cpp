@@ -15,9 +15,10 @@
 namespace {
 
 constexpr int deskMargin = 8;
-constexpr double unseen = 22;     ///< of the sheet's empty margins, in points, so that its days are larger
-constexpr double mostScale = 2.0; ///< pixels for a point
-constexpr double leastRead = 0.8; ///< below which a sheet can hardly be read
+constexpr double unseen = 22;      ///< of the sheet's empty margins, in points, so that its days are larger
+constexpr double mostScale = 2.0;  ///< pixels for a point
+constexpr double leastRead = 0.8;  ///< below which a sheet can hardly be read
+constexpr double nearlyAll = 0.85; ///< of a larger sheet, for which it is rather shown whole
 constexpr double mostAcross = 96.0 / 72; ///< the same of a sheet as wide as the view: as it is printed
 
 } // namespace
@@ -67,8 +68,9 @@ double DrawnSheet::scale() const
     const double down = (viewport()->height() - 2 * deskMargin) / size.height();
     if (m_zoom == Zoom::SheetWidth)
         return std::clamp(across, 0.1, mostAcross);
-    const double high = m_zoom == Zoom::Readable ? std::max(down, leastRead) : down;
-    return std::clamp(std::min(across, high), 0.1, mostScale);
+    const double larger = std::min(across, std::max(down, leastRead));
+    const bool isWhole = m_zoom == Zoom::WholeSheet || down > nearlyAll * larger;
+    return std::clamp(isWhole ? std::min(across, down) : larger, 0.1, mostScale);
 }
 
 bool DrawnSheet::isWhole() const

@@ -41,6 +41,8 @@ MonthPage::MonthPage(const Program &program, OpenCalendars &calendars, QWidget *
     connect(m_cells, &MonthCells::dayWanted, this, [this](QDate day) {
         if (m_calendars.calendar().has(day) || !m_calendars.calendar().has(m_cells->day()))
             showDay(day);
+        else
+            emit said(CalendarWindowLines::notThisDate());
     });
     connect(m_cells, &MonthCells::moved, this, &MonthPage::moved);
     connect(m_cells, &MonthCells::said, this, &MonthPage::said);

@@ -282,6 +282,11 @@ QString CalendarWindowLines::untitled()
     return u"Untitled"_s;
 }
 
+QString CalendarWindowLines::emptyFile()
+{
+    return u"This file is empty: it becomes a calendar with the first line in it"_s;
+}
+
 QString CalendarWindowLines::countOfCalendars(qsizetype number)
 {
     return count(number, u"calendar"_s, u"calendars"_s);

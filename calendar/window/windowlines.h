@@ -63,6 +63,7 @@ QString monthsOf(QDate from, int months);
 QString monthWords(QDate month, int lines);
 QString withoutMonths(CalendarHead::State state);
 QString untitled();
+QString emptyFile();
 QString countOfCalendars(qsizetype count);
 QString made(const QString &title);
 QString deleted(const QString &title);

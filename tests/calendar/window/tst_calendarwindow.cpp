@@ -15,8 +15,13 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTimer>
+#include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -191,6 +196,77 @@ private slots:
         key(Qt::Key_Escape);
         key(Qt::Key_Up, Qt::ControlModifier);
         QCOMPARE(said(), u"line 40 of 40: 40, typed here"_s);
+        key(Qt::Key_Escape);
+        QCOMPARE(said(), QString());
+        // A line in the list at the foot is chosen by a click, and drawn away.
+        const QRect sheet = cells()->viewport()->rect();
+        QPoint place(sheet.center().x(), sheet.bottom());
+        for (; cells()->line() < 0 && place.y() > sheet.center().y(); place.ry() -= 2)
+            QTest::mouseClick(cells()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QVERIFY(!editor()->isVisible());
+        const QString chosen = shown().value(cells()->line());
+        QCOMPARE(said(), u"line %1 of 40: %1, typed here"_s.arg(chosen));
+        drawTo(QDate(2027, 3, 1), place);
+        QCOMPARE(shown(QDate(2027, 3, 1)), QStringList{chosen});
+        QCOMPARE(shown(sunday).size(), 39);
+    }
+
+    void daysAreChosenWithTheMouse()
+    {
+        open(march());
+        const auto send = [this](QEvent::Type type, QDate on) {
+            const QPoint place = placeOf(on).center();
+            const auto buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+            QMouseEvent event(type, place, cells()->viewport()->mapToGlobal(place),
+                              type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons,
+                              Qt::NoModifier);
+            QCoreApplication::sendEvent(cells()->viewport(), &event);
+        };
+        send(QEvent::MouseButtonPress, QDate(2027, 3, 9));
+        send(QEvent::MouseMove, QDate(2027, 3, 11));
+        send(QEvent::MouseButtonRelease, QDate(2027, 3, 11));
+        QVERIFY(!editor()->isVisible());
+        QCOMPARE(cells()->firstChosen(), QDate(2027, 3, 9));
+        QCOMPARE(cells()->lastChosen(), QDate(2027, 3, 11));
+        send(QEvent::MouseButtonPress, QDate(2027, 3, 3));
+        send(QEvent::MouseButtonRelease, QDate(2027, 3, 3));
+        QVERIFY(editor()->isVisible());
+        QCOMPARE(cells()->firstChosen(), QDate(2027, 3, 3));
+    }
+
+    void aDayOfASmallMonthLeadsToIt()
+    {
+        open("Quillery calendar 1\r\ntitle\tKitchen\r\nfrom\t2027-01\r\nmonths\t12\r\nlayout\tmonth\r\n"
+             "paper\tA4\tlandscape\r\nshows\tsmall months\r\n");
+        goTo(QDate(2027, 1, 14));
+        const QRect sheet = cells()->viewport()->rect();
+        for (QPoint place(sheet.right(), sheet.top() + sheet.height() / 8);
+             day().month() == 1 && place.x() > 0; place.rx() -= 4)
+            QTest::mouseClick(cells()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QCOMPARE(day().month(), 2);
+    }
+
+    void theWholeSheetIsShownWhereItIsTicked()
+    {
+        open(march());
+        m_window->resize(800, 480);
+        auto *whole = find<QAction>("mVWhole");
+        emit find<QMenu>("mV")->aboutToShow();
+        QVERIFY(!whole->isChecked()); // it could hardly be read
+        QVERIFY(cells()->verticalScrollBar()->maximum() > 0);
+        whole->trigger();
+        QVERIFY(whole->isChecked());
+        QCOMPARE(cells()->verticalScrollBar()->maximum(), 0);
+    }
+
+    void aLongLineHangsWhereItIsTyped()
+    {
+        open(march(typed("2027-03-14", "Anne's concert in the town hall with the whole choir and the band")));
+        goTo(sunday);
+        key(Qt::Key_Return);
+        const QTextLayout &line = *editor()->document()->firstBlock().layout();
+        QVERIFY(line.lineCount() > 1);
+        QVERIFY(line.lineAt(1).x() > line.lineAt(0).x());
     }
 
     void readsADayAloud()
@@ -221,7 +297,7 @@ private slots:
         goTo(sunday);
         QCOMPARE(shown(), (QStringList{u"10:00 AM Church"_s, u"Mine"_s})); // nothing fills by itself
         trigger("mCFill");
-        click("fillNow");
+        key(Qt::Key_Return); // on a row
         goTo(sunday);
         QCOMPARE(shown(), (QStringList{u"11:00 AM Church"_s, u"Mine"_s}));
         trigger("mEUndo");
@@ -355,6 +431,11 @@ private slots:
         QCOMPARE(said(), u"CalMk1.Fil is not a file of this calendar maker: it is left as it is."_s);
         for (const char *command : {"mCFill", "mCDel", "mCNext"})
             QVERIFY(!find<QAction>(command)->isEnabled());
+        m_test->setBytes(u"CalMk1.Fil"_s, {});
+        close();
+        openAgain();
+        QCOMPARE(said(), u"This file is empty: it becomes a calendar with the first line in it"_s);
+        QVERIFY(find<QAction>("mCFill")->isEnabled());
     }
 
     void asksOnlyWhenASaveFailed()
@@ -433,6 +514,21 @@ private:
         }
         return lines;
     }
+    /// Draws what stands at `from` to a day.
+    void drawTo(QDate to, QPoint from) const
+    {
+        QWindow *window = m_window->windowHandle();
+        const auto inWindow = [&](QPoint place) { return cells()->viewport()->mapTo(m_window, place); };
+        const QPoint end = placeOf(to).center();
+        QTimer::singleShot(0, m_window, [&] {
+            QTest::mouseMove(window, inWindow(end - QPoint(4, 4)));
+            QTest::mouseMove(window, inWindow(end));
+            QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, inWindow(end));
+        });
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, inWindow(from));
+        QTest::mouseMove(window, inWindow(from + QPoint(40, 40)));
+        QCoreApplication::processEvents();
+    }
     QString spoken() const { return cells()->currentIndex().data(Qt::AccessibleTextRole).toString(); }
     /// Drops the first line of the day on another one.
     void drop(QDate on, Qt::DropAction action) const
@@ -440,21 +536,26 @@ private:
         QMimeData data;
         data.setData(u"application/x-quillery-calendar-line"_s,
                      day().toString(Qt::ISODate).toLatin1() + " 0");
+        const QPoint place = placeOf(on).center();
+        QDragEnterEvent enter(place, action, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(place, action, &data, Qt::LeftButton, Qt::NoModifier);
+        for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
+            QCoreApplication::sendEvent(cells()->viewport(), event);
+    }
+    /// Of a day of the month that is shown, in the view.
+    QRect placeOf(QDate date) const
+    {
         const QAbstractItemModel &model = *cells()->model();
         for (int row = 0; row < model.rowCount(); ++row) {
             for (int column = 0; column < model.columnCount(); ++column) {
                 const QModelIndex index = model.index(row, column);
-                if (index.data().toInt() != on.day() || !index.data(Qt::AccessibleTextRole)
-                                                             .toString()
-                                                             .contains(QLocale::c().monthName(on.month())))
-                    continue;
-                const QPoint place = cells()->visualRect(index).center();
-                QDragEnterEvent enter(place, action, &data, Qt::LeftButton, Qt::NoModifier);
-                QDropEvent drop(place, action, &data, Qt::LeftButton, Qt::NoModifier);
-                for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})
-                    QCoreApplication::sendEvent(cells()->viewport(), event);
+                const QString words = index.data(Qt::AccessibleTextRole).toString();
+                if (index.data().toInt() == date.day() &&
+                    words.contains(QLocale::c().monthName(date.month())))
+                    return cells()->visualRect(index);
             }
         }
+        return {};
     }
 
     QList<DayNote> m_notes;
