@@ -134,7 +134,7 @@ void DrawnSheet::bring(const QRectF &part)
 
 void DrawnSheet::updateGeometries()
 {
-    const int height = int(std::ceil(seen().height() * scale())) + 2 * deskMargin;
+    const int height = int(std::ceil(seen().height() * scale() - 0.01)) + 2 * deskMargin;
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setSingleStep(40);
     verticalScrollBar()->setRange(0, std::max(0, height - viewport()->height()));
