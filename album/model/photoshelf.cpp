@@ -159,14 +159,29 @@ std::optional<UndoStep> PhotoShelf::changeAsPart(const QList<int> &photos, const
     return commit([&](ShelfEdits &edits) { return edits.changePhotos(photos, edit); }, title);
 }
 
+void PhotoShelf::tell(const UndoStep &step)
+{
+    if (step.undo)
+        emit edited(step);
+}
+
 QList<int> PhotoShelf::addPhotos(std::vector<Photo> photos, int album)
 {
     QList<int> numbers;
-    if (photos.empty() || !perform([&](ShelfEdits &edits) { return edits.addPhotos(photos, album); },
-                                   AlbumLines::added(qsizetype(photos.size()))))
+    const std::optional<UndoStep> step = addPhotosAsPart(photos, album);
+    if (!step)
         return numbers;
+    tell(*step);
     std::ranges::transform(photos, std::back_inserter(numbers), &Photo::record);
     return numbers;
+}
+
+std::optional<UndoStep> PhotoShelf::addPhotosAsPart(std::vector<Photo> &photos, int album)
+{
+    if (photos.empty())
+        return {};
+    return commit([&](ShelfEdits &edits) { return edits.addPhotos(photos, album); },
+                  AlbumLines::added(qsizetype(photos.size())));
 }
 
 bool PhotoShelf::removePhotos(const QList<int> &photos)
@@ -205,6 +220,11 @@ bool PhotoShelf::putInto(int album, const QList<int> &photos, int before)
                    AlbumLines::putInto(photos.size(), nameOf(album)));
 }
 
+std::optional<UndoStep> PhotoShelf::putIntoAsPart(int album, const QList<int> &photos)
+{
+    return commit([&](ShelfEdits &edits) { return edits.putInto(album, photos, 0); }, {});
+}
+
 bool PhotoShelf::arrange(int album, const QList<int> &photos, int before)
 {
     return perform([&](ShelfEdits &edits) { return edits.arrange(album, photos, before); },
@@ -232,8 +252,8 @@ bool PhotoShelf::refuse(const QString &line)
 bool PhotoShelf::perform(const Work &work, const QString &title)
 {
     const std::optional<UndoStep> step = commit(work, title);
-    if (step && step->undo)
-        emit edited(*step);
+    if (step)
+        tell(*step);
     return step.has_value();
 }
 

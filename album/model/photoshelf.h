@@ -73,8 +73,12 @@ public:
     /// The same, whose step is not told of: it is part of another one. Nothing to be taken back where all
     /// was so already.
     std::optional<UndoStep> changeAsPart(const QList<int> &photos, const QString &title, const Edit &edit);
+    /// Tells of steps that were parts as of one.
+    void tell(const UndoStep &step);
     /// New pictures, at the end of an album unless that is 0. Their numbers; none where nothing was done.
     QList<int> addPhotos(std::vector<Photo> photos, int album = 0);
+    /// The same as a part of something; each gets its number.
+    std::optional<UndoStep> addPhotosAsPart(std::vector<Photo> &photos, int album = 0);
     /// Takes pictures off the list and out of all albums.
     bool removePhotos(const QList<int> &photos);
 
@@ -89,6 +93,7 @@ public:
     /// Puts pictures into an album, before one of its pictures or at the end; those that are in it stay where
     /// they are.
     bool putInto(int album, const QList<int> &photos, int before = 0);
+    std::optional<UndoStep> putIntoAsPart(int album, const QList<int> &photos);
     /// Moves pictures of an album before one of its pictures or to the end, in the order given.
     bool arrange(int album, const QList<int> &photos, int before = 0);
     bool takeOut(int album, const QList<int> &photos);

@@ -14,6 +14,7 @@ struct PictureTexts {
     int rating = 0; ///< 0 to 5
     QString date;   ///< in EDTF, as records have it; empty when nothing says when it was taken
 
+    bool isEmpty() const { return *this == PictureTexts(); }
     bool operator==(const PictureTexts &) const = default;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "album/model/textsofpicture.h"
 
+#include "album/model/phototexts.h"
 #include "album/model/takendate.h"
 #include "storage/utf8text.h"
 
@@ -89,8 +90,7 @@ bool isCutOf(const QString &text, const QString &whole)
 
 bool isCutOf(const QStringList &texts, const QStringList &whole)
 {
-    const QString separator = u"; "_s; // as they stand in a record
-    return isCutOf(texts.join(separator), whole.join(separator));
+    return isCutOf(PhotoTexts::joined(texts), PhotoTexts::joined(whole)); // as they stand in a record
 }
 
 /// What is said is said everywhere where it can be, and nothing nowhere.
