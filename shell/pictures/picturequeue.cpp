@@ -81,16 +81,17 @@ int PictureQueue::waitingCount() const
     return m_work->waitingCount();
 }
 
-void PictureQueue::take(int id, quint32 birth, const QImage &image, Look look, const QString &reason)
+void PictureQueue::takeArrivals()
 {
-    if (!m_work->isWanted(id, birth))
-        return;
-    if (!reason.isEmpty()) {
-        m_reasons.insert(id, reason);
-        emit failed(id, reason);
-        return;
+    for (const PictureWork::Arrival &arrival : m_work->arrivals()) {
+        if (arrival.reason.isEmpty()) {
+            m_reasons.remove(arrival.id);
+            m_kept.insert(arrival.id, new Kept{arrival.image, arrival.look, {}},
+                          std::max<qsizetype>(1, arrival.image.sizeInBytes()));
+            emit arrived(arrival.id, arrival.image, arrival.look);
+        } else {
+            m_reasons.insert(arrival.id, arrival.reason);
+            emit failed(arrival.id, arrival.reason);
+        }
     }
-    m_reasons.remove(id);
-    m_kept.insert(id, new Kept{image, look, {}}, std::max<qsizetype>(1, image.sizeInBytes()));
-    emit arrived(id, image, look);
 }

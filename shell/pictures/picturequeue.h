@@ -80,7 +80,7 @@ signals:
 private:
     friend class PictureWork;
     void ask(const WantedPicture &picture);
-    void take(int id, quint32 birth, const QImage &image, Look look, const QString &reason);
+    void takeArrivals();
 
     std::shared_ptr<PictureWork> m_work;
     QCache<int, Kept> m_kept;

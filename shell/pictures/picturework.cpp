@@ -98,6 +98,7 @@ void PictureWork::want(const WantedPicture &picture, Priority priority)
     else
         m_front.insert(picture.id);
     put(picture, priority);
+    m_comes.wakeOne();
 }
 
 void PictureWork::show(const std::vector<WantedPicture> &seen, const std::vector<WantedPicture> &next)
@@ -116,6 +117,7 @@ void PictureWork::show(const std::vector<WantedPicture> &seen, const std::vector
         put(picture, Priority::Next);
     for (const WantedPicture &picture : seen)
         put(picture, Priority::Seen);
+    m_comes.wakeAll();
 }
 
 void PictureWork::put(const WantedPicture &picture, Priority priority)
@@ -157,7 +159,6 @@ void PictureWork::line(Entry &entry)
         push(Rest);
         break;
     }
-    m_comes.wakeOne();
 }
 
 /// What was seen may be seen again soon: it comes first among the rest.
@@ -171,7 +172,6 @@ void PictureWork::goBack(int id)
         return;
     found->place = ++m_count;
     m_lines[Rest].push_front({id, found->place});
-    m_comes.wakeOne();
 }
 
 void PictureWork::settle(Entry &entry, bool isReady)
@@ -218,11 +218,18 @@ int PictureWork::waitingCount() const
     return m_waiting;
 }
 
-bool PictureWork::isWanted(int id, quint32 birth) const
+std::vector<PictureWork::Arrival> PictureWork::arrivals()
 {
     const QMutexLocker lock(&m_mutex);
-    const auto found = m_entries.constFind(id);
-    return found != m_entries.constEnd() && found->birth == birth;
+    std::vector<Arrival> arrivals;
+    arrivals.reserve(m_told.size());
+    for (Told &told : m_told) {
+        const auto found = m_entries.constFind(told.arrival.id);
+        if (found != m_entries.constEnd() && found->birth == told.birth)
+            arrivals.push_back(std::move(told.arrival));
+    }
+    m_told.clear();
+    return arrivals;
 }
 
 void PictureWork::run()
@@ -353,10 +360,10 @@ void PictureWork::takeSharp(Entry &entry, const Job &job, const Result &result)
     }
 }
 
+/// One call for all that come while the queue has not looked.
 void PictureWork::tell(const Entry &entry, const Result &result)
 {
-    const auto arrive = [queue = m_queue, id = entry.picture.id, birth = entry.birth, result] {
-        queue->take(id, birth, result.image, result.look, result.reason);
-    };
-    QMetaObject::invokeMethod(m_queue, arrive, Qt::QueuedConnection);
+    if (m_told.empty())
+        QMetaObject::invokeMethod(m_queue, &PictureQueue::takeArrivals, Qt::QueuedConnection);
+    m_told.push_back({entry.birth, {entry.picture.id, result.image, result.look, result.reason}});
 }

@@ -33,8 +33,16 @@ public:
     void forget(int id);
     void forgetAll();
     int waitingCount() const;
-    /// Whether `birth` is of the asking for this picture that still holds.
-    bool isWanted(int id, quint32 birth) const;
+
+    /// What has been read of a picture.
+    struct Arrival {
+        int id = 0;
+        QImage image = {}; ///< null where there is none
+        PictureQueue::Look look = PictureQueue::Look::Rough;
+        QString reason = {}; ///< why there is none
+    };
+    /// What has come since this was called last, of pictures that are still wanted.
+    std::vector<Arrival> arrivals();
 
 private:
     using Priority = PictureQueue::Priority;
@@ -69,6 +77,10 @@ private:
         Look look = Look::Rough;
         QString reason;
     };
+    struct Told {
+        quint32 birth = 0; ///< of the asking to which it is the answer
+        Arrival arrival;
+    };
 
     // Under the lock.
     void put(const WantedPicture &picture, Priority priority);
@@ -99,4 +111,5 @@ private:
     int m_side = Thumbnails::side;
     quint32 m_count = 0; ///< of births and places
     int m_waiting = 0;
+    std::vector<Told> m_told; ///< on its way to the queue
 };
