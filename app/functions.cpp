@@ -73,6 +73,11 @@ QStringList addressNames(const Program &program)
     return AddressHoldings::names(program.folder);
 }
 
+QList<KnownPerson> addressPersons(const Program &program)
+{
+    return AddressHoldings::persons(program.folder, program.state.dateStyle, program.clock.today());
+}
+
 QStringList addressFiles(const Program &program)
 {
     return AddressHoldings::files(program.folder);
@@ -358,6 +363,7 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                           .search = addressSearch,
                                           .show = showAddress,
                                           .names = addressNames,
+                                          .persons = addressPersons,
                                           .files = addressFiles,
                                           .pictures = addressPictures});
     functions.add(Function::AddressViewer, {.open = makeWindow<ADDBKDISPLAY>});

@@ -2,7 +2,10 @@
 #include "addressbook/model/addressholdings.h"
 
 #include "addressbook/model/addressbook.h"
+#include "shell/core/dates.h"
 #include "shell/pictures/picturefolder.h"
+
+#include <optional>
 
 QStringList AddressHoldings::names(const DataFolder &folder)
 {
@@ -12,6 +15,17 @@ QStringList AddressHoldings::names(const DataFolder &folder)
         return true;
     });
     return names;
+}
+
+QList<KnownPerson> AddressHoldings::persons(const DataFolder &folder, DateStyle style, QDate today)
+{
+    QList<KnownPerson> persons;
+    AddressBook(folder).forEachLive([&](int record, const AddressEntry &entry) {
+        const std::optional<QDate> born = Dates::parse(entry[BirthDate], style, today);
+        persons.append({entry.fullName(), record, born && *born <= today ? *born : QDate()});
+        return true;
+    });
+    return persons;
 }
 
 QStringList AddressHoldings::files(const DataFolder &folder)

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/core/knownperson.h"
+#include "shell/core/programstate.h"
+
+#include <QDate>
+#include <QList>
 #include <QStringList>
 
 class DataFolder;
@@ -10,6 +15,9 @@ namespace AddressHoldings {
 
 /// The persons of the book in record order: "Anne Lind".
 QStringList names(const DataFolder &folder);
+
+/// The same persons with their records and dates of birth; none is born after `today`.
+QList<KnownPerson> persons(const DataFolder &folder, DateStyle style, QDate today);
 
 /// Those of the book's files that are there.
 QStringList files(const DataFolder &folder);

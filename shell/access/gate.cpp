@@ -22,18 +22,25 @@ bool AccessGate::mayOpen(Program &program, int area, QWidget *parent)
         return true;
     const bool isGuarded = program.state.protectedAreas.isProtected(area) ||
                            check(program).state() == PasswordCheck::State::Damaged;
-    if (isGuarded) {
-        program.state.guardedArea = area;
-        m_prompt(program, parent);
-    }
-    return takeVerdict(program);
+    if (!isGuarded)
+        return takeVerdict(program);
+    program.state.guardedArea = area;
+    m_prompt(program, parent);
+    return notePassed(area, takeVerdict(program));
 }
 
 bool AccessGate::mayUncover(Program &program, int area, QWidget *parent)
 {
     program.state.guardedArea = area;
     m_prompt(program, parent);
-    return takeVerdict(program);
+    return notePassed(area, takeVerdict(program));
+}
+
+bool AccessGate::notePassed(int area, bool isPassed)
+{
+    if (isPassed)
+        m_passed.insert(area);
+    return isPassed;
 }
 
 bool AccessGate::mayOpenPasswordControl(Program &program, QWidget *parent)

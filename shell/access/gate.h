@@ -4,6 +4,7 @@
 #include "shell/access/passwordmemory.h"
 #include "shell/core/programstate.h"
 
+#include <QSet>
 #include <QString>
 
 #include <functional>
@@ -28,6 +29,11 @@ public:
     /// Whether the function behind `area` may be seen again: always asks.
     bool mayUncover(Program &program, int area, QWidget *parent);
 
+    /// Whether the password was given for `area` in this run, and nobody has locked the desk since.
+    bool wasPassed(int area) const { return m_passed.contains(area); }
+    /// The desk was locked: what is guarded asks again.
+    void forgetPassed() { m_passed.clear(); }
+
     /// Whether password control itself may open: asks when a password is stored.
     bool mayOpenPasswordControl(Program &program, QWidget *parent);
 
@@ -43,8 +49,10 @@ public:
 private:
     PasswordCheck check(Program &program);
     bool takeVerdict(Program &program) const;
+    bool notePassed(int area, bool isPassed);
 
     Prompt m_prompt;
     PasswordMemory m_memory;
     WrongAnswers m_before;
+    QSet<int> m_passed;
 };

@@ -113,6 +113,7 @@ std::optional<Function> WindowGuard::guardedOwner(const QWidget &window) const
 
 void WindowGuard::lock()
 {
+    m_program.gate.forgetPassed();
     closePopups();
     const QWidgetList all = QApplication::topLevelWidgets();
     const QList<QPointer<QWidget>> windows(all.begin(), all.end());

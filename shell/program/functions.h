@@ -2,10 +2,14 @@
 #pragma once
 
 #include "shell/core/daynote.h"
+#include "shell/core/knownperson.h"
 #include "shell/core/liveline.h"
+#include "shell/core/picturealbum.h"
 #include "shell/core/searchsource.h"
+#include "shell/core/undostep.h"
 #include "storage/filestamp.h"
 
+#include <QHash>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
@@ -61,10 +65,23 @@ struct FunctionEntry {
     std::function<void(QWidget &window, const Place &)> show{};
     /// The persons that it knows by name: "Anne Lind"; empty for a function without any.
     std::function<QStringList(const Program &)> names{};
+    /// The same with their records and what else is known of them; empty for a function without any.
+    std::function<QList<KnownPerson>(const Program &)> persons{};
     /// Those of its files in the household's folder that are there, as `DataFolder` finds them.
     std::function<QStringList(const Program &)> files{};
     /// Its pictures that are there, as full paths: they may stand in any folder.
     std::function<QStringList(const Program &)> pictures{};
+    /// The pictures that its records name and that are not there, as the records have them, each once.
+    std::function<QStringList(const Program &)> missingPictures{};
+    /// Has its records name other files in the place of these: from what a record has to where the file is
+    /// now. Nothing where that is refused; a step without `undo` where no record names one.
+    std::function<std::optional<UndoStep>(const Program &, const QHash<QString, QString> &files)>
+        relinkPictures{};
+    /// Its pictures by album, for windows in which one is chosen; empty for a function without albums.
+    std::function<QList<PictureAlbum>(const Program &)> pictureAlbums{};
+    /// The pictures of a day, or of a person by name, as full paths in the order in which they were taken.
+    std::function<QStringList(const Program &, QDate day)> picturesOfDay{};
+    std::function<QStringList(const Program &, const QString &person)> picturesOfPerson{};
     /// Whether its files are sealed with a password of its own; empty for a function whose files never are.
     std::function<bool(const Program &)> isSealed{};
 

@@ -65,6 +65,21 @@ private slots:
         QCOMPARE(m_program->state.passwordGateResult, PasswordGateResult::Open);
     }
 
+    void remembersWhatWasPassedUntilTheDeskIsLocked()
+    {
+        m_program->state.protectedAreas.setFlag(Area::Budget, u"YES"_s);
+        AccessGate refusing = gate(PasswordGateResult::Refused);
+        QVERIFY(!refusing.mayOpen(m_program->program, Area::Budget, nullptr));
+        QVERIFY(!refusing.wasPassed(Area::Budget));
+        AccessGate opening = gate(PasswordGateResult::Open);
+        QVERIFY(opening.mayOpen(m_program->program, Area::Planner, nullptr));
+        QVERIFY(!opening.wasPassed(Area::Planner)); // nobody was asked
+        QVERIFY(opening.mayOpen(m_program->program, Area::Budget, nullptr));
+        QVERIFY(opening.wasPassed(Area::Budget));
+        opening.forgetPassed();
+        QVERIFY(!opening.wasPassed(Area::Budget));
+    }
+
     void aDamagedFileGuardsEverything()
     {
         m_program->setBytes(u"PCtrl1.Fil"_s, "#####");
