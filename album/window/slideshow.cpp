@@ -188,7 +188,9 @@ void SlideShow::present(int id, const QImage &image, bool isWhole)
 /// For those who hear the pictures.
 void SlideShow::tell(const Photo &photo)
 {
-    const QString words = QStringList{nameOf(photo), whenAndWhere(photo, m_style)}.join(u", "_s);
+    QStringList parts{nameOf(photo), whenAndWhere(photo, m_style)};
+    parts.removeAll(QString());
+    const QString words = parts.join(u", "_s);
     if (words == accessibleName())
         return;
     setAccessibleName(words);
