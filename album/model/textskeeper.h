@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "album/model/kepttexts.h"
+#include "album/model/photo.h"
+#include "album/model/walker.h"
+
+#include <QDate>
+#include <QHash>
+#include <QSet>
+
+#include <optional>
+#include <vector>
+
+class PhotoShelf;
+
+/// Keeps what is said of pictures in their files too, as their albums want it, and remembers in the records
+/// where it stands. It sees each change of the shelf, taken back or not, and writes on a thread of its own.
+class TextsKeeper final : public QObject
+{
+    Q_OBJECT
+public:
+    TextsKeeper(PhotoShelf &shelf, QDate today, QObject *parent = nullptr);
+
+    /// Writes what is said of these pictures, where an album of theirs wants it.
+    void write(const QList<int> &records);
+    /// The same for all whose texts stand in no file yet, but for `waiting`: when the album is opened, and
+    /// when an album wants it from now on.
+    void catchUp(const QSet<int> &waiting = {});
+    bool isRunning() const { return m_walker.isRunning(); }
+
+signals:
+    /// Why texts could not be kept in a file, for the status bar.
+    void said(const QString &line);
+    /// All was written.
+    void finished();
+
+private:
+    /// By which a change of a person is told from one that came out of the file.
+    struct Seen {
+        std::size_t texts = 0;
+        qint64 size = 0;
+        qint64 fileTime = 0;
+        bool isInFile = false;
+    };
+    struct Task {
+        int record = 0;
+        QString path;
+        PictureTexts texts;
+        KeptTexts::Into into = KeptTexts::Into::Picture;
+    };
+
+    static Seen seenOf(const Photo &photo);
+    void see();
+    void notice(const QList<int> &records);
+    std::optional<Task> taskFor(int record) const;
+    void startNext();
+    void take(const Task &task, const KeptTexts::Written &written);
+
+    PhotoShelf &m_shelf;
+    const QDate m_today;
+    QHash<int, Seen> m_seen;
+    QList<int> m_waiting;
+    Walker m_walker;
+};

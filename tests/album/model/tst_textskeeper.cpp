@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "album/model/kepttexts.h"
+#include "album/model/photooffile.h"
+#include "album/model/photoshelf.h"
+#include "album/model/shelflook.h"
+#include "album/model/textlines.h"
+#include "album/model/textskeeper.h"
+#include "tests/support/rows.h"
+#include "tests/support/testfiles.h"
+#include "tests/support/testpictures.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QDate today(2026, 11, 23);
+
+/// Writes into the picture as another program does.
+void writeElsewhere(const QString &path, const QString &caption)
+{
+    QTest::qWait(20); // files tell their times in whole milliseconds
+    PictureTexts texts = KeptTexts::read(path, today).texts;
+    texts.caption = caption;
+    texts.date.clear();
+    QVERIFY(KeptTexts::write(path, texts, KeptTexts::Into::Picture, today).isKept);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime);
+}
+
+} // namespace
+
+class TestTextsKeeper : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<TestFolder> m_data;
+    std::unique_ptr<PhotoShelf> m_shelf;
+    QString m_path;
+    int m_album = 0;
+    int m_record = 0;
+
+    void makeShelf(PhotoAlbum::Into into)
+    {
+        m_album = m_shelf->addAlbum({.into = into, .name = u"Grandmother"_s});
+        Photo photo = PhotoOfFile::read(m_path, today);
+        photo.path = m_shelf->storedPath(m_path);
+        m_record = m_shelf->addPhotos({photo}, m_album).value(0);
+        QVERIFY(m_record > 0);
+    }
+    void say(const QString &caption)
+    {
+        QVERIFY(m_shelf->change({m_record}, u"Caption"_s, [&](Photo &photo) { photo.caption = caption; }));
+    }
+    void look(ShelfLook &look, const MountedPlaces &places = {})
+    {
+        QSignalSpy finished(&look, &ShelfLook::finished);
+        look.start(today, places);
+        QVERIFY(finished.wait(10000));
+    }
+    const Photo &photo() const { return *m_shelf->photo(m_record); }
+    QString inFile() const { return KeptTexts::read(m_path, today).texts.caption; }
+
+private slots:
+    void init()
+    {
+        if (!KeptTexts::isBuiltIn())
+            QSKIP("built without the library for texts in pictures");
+        m_data = std::make_unique<TestFolder>();
+        m_shelf = std::make_unique<PhotoShelf>(m_data->folder());
+        m_shelf->load();
+        m_path = makePicture(m_data->path(u"lake.jpg"_s), {16, 12});
+    }
+
+    void captionsGoWhereTheAlbumWantsThem_data()
+    {
+        rows<int, bool, bool>({{"nowhere", int(PhotoAlbum::Into::Nowhere), false, false},
+                               {"into the picture", int(PhotoAlbum::Into::Picture), true, false},
+                               {"beside it", int(PhotoAlbum::Into::Beside), true, true}});
+    }
+    void captionsGoWhereTheAlbumWantsThem()
+    {
+        const auto [into, isInFile, isBeside] = row<int, bool, bool>();
+        const QByteArray original = contentOf(m_path);
+        makeShelf(PhotoAlbum::Into(into));
+        std::optional<UndoStep> step;
+        connect(m_shelf.get(), &PhotoShelf::edited, this, [&](const UndoStep &last) { step = last; });
+        TextsKeeper keeper(*m_shelf, today);
+        QSignalSpy finished(&keeper, &TextsKeeper::finished);
+        say(u"Anne at the lake"_s);
+        QCOMPARE(finished.wait(isInFile ? 10000 : 50), isInFile);
+        QCOMPARE(inFile(), isInFile ? u"Anne at the lake"_s : QString());
+        QCOMPARE(contentOf(m_path) == original, !isInFile || isBeside);
+        QCOMPARE(QFile::exists(m_path + u".xmp"_s), isBeside);
+        QCOMPARE(photo().has(Photo::TextsInFile), isInFile);
+        QCOMPARE(photo().size, QFileInfo(m_path).size());
+
+        QCOMPARE(step->undo(), ChangeResult::Done);
+        if (isInFile)
+            QVERIFY(finished.wait(10000));
+        QCOMPARE(inFile(), QString());
+        QCOMPARE(photo().caption, QString());
+    }
+
+    void whatTheDiskRefusesStaysInTheAlbum()
+    {
+        makeShelf(PhotoAlbum::Into::Picture);
+        QFile::setPermissions(m_path, QFileDevice::ReadOwner);
+        if (QFileInfo(m_path).isWritable())
+            QVERIFY(QFile::remove(m_path) && QDir().mkpath(m_path)); // whom no right stops
+        TextsKeeper keeper(*m_shelf, today);
+        QSignalSpy said(&keeper, &TextsKeeper::said);
+        say(u"Anne at the lake"_s);
+        QVERIFY(said.wait(10000));
+        QVERIFY(!photo().has(Photo::TextsInFile));
+        QCOMPARE(photo().caption, u"Anne at the lake"_s);
+    }
+
+    void anAlbumThatWantsThemLaterCatchesUp()
+    {
+        makeShelf(PhotoAlbum::Into::Nowhere);
+        TextsKeeper keeper(*m_shelf, today);
+        say(u"Anne at the lake"_s);
+        PhotoAlbum album = *m_shelf->album(m_album);
+        album.into = PhotoAlbum::Into::Picture;
+        QVERIFY(m_shelf->changeAlbum(u"Into the pictures"_s, album));
+        QSignalSpy finished(&keeper, &TextsKeeper::finished);
+        keeper.catchUp();
+        QVERIFY(finished.wait(10000));
+        QCOMPARE(inFile(), u"Anne at the lake"_s);
+    }
+
+    void whatAnotherProgramWritesComesIntoTheAlbum()
+    {
+        makeShelf(PhotoAlbum::Into::Picture);
+        TextsKeeper keeper(*m_shelf, today);
+        ShelfLook shelfLook(*m_shelf);
+        writeElsewhere(m_path, u"Karin at the lake"_s);
+        look(shelfLook);
+        QCOMPARE(photo().caption, u"Karin at the lake"_s);
+        QVERIFY(photo().has(Photo::TextsInFile) && photo().isHashed());
+        QVERIFY(shelfLook.conflicts().empty() && !keeper.isRunning());
+    }
+
+    void whereBothWereChangedThePersonDecides_data()
+    {
+        rows<bool>({{"for the album", true}, {"for the picture", false}});
+    }
+    void whereBothWereChangedThePersonDecides()
+    {
+        const auto [isForAlbum] = row<bool>();
+        makeShelf(PhotoAlbum::Into::Nowhere);
+        say(u"Anne"_s);
+        writeElsewhere(m_path, u"Karin"_s);
+        ShelfLook shelfLook(*m_shelf);
+        look(shelfLook);
+        QCOMPARE(photo().caption, u"Anne"_s);
+        QCOMPARE(inFile(), u"Karin"_s);
+        QCOMPARE(shelfLook.conflicts().size(), std::size_t(1));
+        QCOMPARE(shelfLook.conflicts().front().inPicture.texts.caption, u"Karin"_s);
+
+        shelfLook.settle(m_record, isForAlbum ? ShelfLook::Keep::InAlbum : ShelfLook::Keep::InPicture);
+        QCOMPARE(photo().caption, isForAlbum ? u"Anne"_s : u"Karin"_s);
+        QCOMPARE(inFile(), u"Karin"_s); // the album writes into no picture
+        look(shelfLook);
+        QVERIFY(shelfLook.conflicts().empty());
+    }
+
+    void aDiskThatIsNotPluggedInIsNotMissing_data()
+    {
+        const QString folder = u"FOLDER"_s;
+        rows<QStringList, bool>({{"no such disk", {}, true},
+                                 {"another one", {folder + u"/OTHER"_s}, true},
+                                 {"it is there", {folder + u"/STICK"_s}, false},
+                                 {"the whole system", {u"/"_s}, true}});
+    }
+    void aDiskThatIsNotPluggedInIsNotMissing()
+    {
+        auto [mounted, isAway] = row<QStringList, bool>();
+        mounted.replaceInStrings(u"FOLDER"_s, m_data->path(u"media"_s));
+        QVERIFY(QDir().mkpath(m_data->path(u"media/STICK"_s)));
+        m_path = makePicture(m_data->path(u"media/STICK/lake.jpg"_s), {16, 12});
+        makeShelf(PhotoAlbum::Into::Nowhere);
+        QVERIFY(QFile::remove(m_path));
+        ShelfLook shelfLook(*m_shelf);
+        look(shelfLook, {{m_data->path(u"media"_s)}, mounted});
+        QCOMPARE(shelfLook.isAway(m_record), isAway);
+        QCOMPARE(photo().has(Photo::NotThere), !isAway);
+
+        makePicture(m_path, {16, 12});
+        look(shelfLook, {{m_data->path(u"media"_s)}, mounted});
+        QVERIFY(!shelfLook.isAway(m_record) && !photo().has(Photo::NotThere));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTextsKeeper)
+#include "tst_textskeeper.moc"
