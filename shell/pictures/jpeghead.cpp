@@ -159,10 +159,12 @@ JpegHead JpegHead::of(const QByteArray &first)
     JpegHead head;
     qsizetype scan = 0;
     walk(first, scan, [&head](uchar marker, QByteArrayView segment) {
-        if (marker == applicationOne && segment.startsWith(QByteArrayView("Exif\0\0", 6)))
+        if (marker == applicationOne && segment.startsWith(QByteArrayView("Exif\0\0", 6))) {
             head.readExif(segment.sliced(6));
-        else if (isFrame(marker) && segment.size() >= 5)
+        } else if (isFrame(marker) && segment.size() >= 5) {
             head.m_pixels = QSize(int(bigEndian(segment, 3)), int(bigEndian(segment, 1)));
+            head.m_isProgressive = marker % 4 == 2; // 0xC2, 0xC6, 0xCA, 0xCE
+        }
     });
     return head;
 }

@@ -20,6 +20,8 @@ public:
     int orientation() const { return m_orientation; }
     /// Of the whole picture as it lies in the file; empty where that is not among the first bytes.
     QSize pixels() const { return m_pixels; }
+    /// Whether its lines come out only when all of it has been read.
+    bool isProgressive() const { return m_isProgressive; }
     /// The preview, upright and in the shape of the picture; null where there is none.
     QImage preview() const;
 
@@ -32,4 +34,5 @@ private:
     QByteArray m_preview; ///< a JPEG file of its own
     int m_orientation = 1;
     QSize m_pixels;
+    bool m_isProgressive = false;
 };

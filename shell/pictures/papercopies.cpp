@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/papercopies.h"
 
+#include "shell/pages/pagepicture.h"
 #include "shell/pictures/picturefolder.h"
 
-#include <QImageReader>
 #include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,12 +20,7 @@ QString PaperCopies::photo(const QString &name, const QString &stored, QSize mos
         stored.trimmed().isEmpty() ? QString() : PictureFolder(m_folder).locate(stored.trimmed());
     if (path.isEmpty())
         return {};
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > most.width() || size.height() > most.height())
-        reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio));
-    return keep(name, reader.read());
+    return keep(name, PagePicture::read(path, most).image);
 }
 
 QString PaperCopies::keep(const QString &name, const QImage &image)

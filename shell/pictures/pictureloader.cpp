@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/pictureloader.h"
 
-#include "shell/pages/pagepicture.h"
+#include "shell/pictures/picturereading.h"
 
-#include <QImageReader>
 #include <QPainter>
 
 #include <algorithm>
@@ -12,24 +11,15 @@
 namespace {
 
 constexpr int copyQuality = 90;
-/// Beyond this many pixels a file is no photograph of anybody, and closing the window would wait for it.
-constexpr qint64 greatestPixelCount = 250'000'000;
 
-bool isTooLarge(const QString &path)
-{
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    return size.isValid() && qint64(size.width()) * size.height() > greatestPixelCount;
-}
-
-LoadedPicture read(const PictureFolder &pictures, const QString &stored, QSize bound)
+LoadedPicture read(const PictureFolder &pictures, const QString &stored, QSize bound,
+                   const std::atomic_bool &isStopped)
 {
     const QString path = pictures.locate(stored);
-    if (path.isEmpty() || isTooLarge(path))
+    if (path.isEmpty())
         return {};
-    const PagePicture picture = PagePicture::read(path, bound);
-    return {picture.image, picture.shape.toSize()};
+    const ReadPicture picture = PictureReading::read(path, bound, &isStopped);
+    return {picture.image, picture.pixels};
 }
 
 /// Without what shines through: a JPEG file has no transparency.
@@ -48,7 +38,7 @@ QImage onWhite(const QImage &picture)
 PictureLoader::PictureLoader(const DataFolder &folder, QObject *parent)
     : QObject(parent)
     , m_pictures(folder)
-    , m_isWanted(std::make_shared<std::atomic_bool>(true))
+    , m_isForgotten(std::make_shared<std::atomic_bool>(false))
 {
     m_threads.setMaxThreadCount(std::max(1, QThread::idealThreadCount() - 1));
     m_threads.setThreadPriority(QThread::LowPriority);
@@ -62,14 +52,18 @@ PictureLoader::~PictureLoader()
 
 void PictureLoader::load(const QString &stored, QSize bound, Done done)
 {
-    start([pictures = m_pictures, stored, bound] { return read(pictures, stored, bound); }, std::move(done));
+    const auto job = [pictures = m_pictures, stored, bound](const std::atomic_bool &isForgotten) {
+        return read(pictures, stored, bound, isForgotten);
+    };
+    start(job, std::move(done));
 }
 
 void PictureLoader::copy(const QString &stored, QSize bound, const QString &target, Done done)
 {
-    const auto job = [pictures = m_pictures, stored, bound, target] {
-        LoadedPicture picture = read(pictures, stored, bound);
-        if (!picture.image.isNull() && !onWhite(picture.image).save(target, "JPG", copyQuality))
+    const auto job = [pictures = m_pictures, stored, bound, target](const std::atomic_bool &isForgotten) {
+        LoadedPicture picture = read(pictures, stored, bound, isForgotten);
+        if (!picture.image.isNull() && !isForgotten &&
+            !onWhite(picture.image).save(target, "JPG", copyQuality))
             picture.image = {};
         return picture;
     };
@@ -78,19 +72,19 @@ void PictureLoader::copy(const QString &stored, QSize bound, const QString &targ
 
 void PictureLoader::forget()
 {
-    *m_isWanted = false;
+    *m_isForgotten = true;
     m_threads.clear();
-    m_isWanted = std::make_shared<std::atomic_bool>(true);
+    m_isForgotten = std::make_shared<std::atomic_bool>(false);
 }
 
-void PictureLoader::start(std::function<LoadedPicture()> job, Done done)
+void PictureLoader::start(Job job, Done done)
 {
-    m_threads.start([this, job = std::move(job), done = std::move(done), isWanted = m_isWanted] {
-        if (!*isWanted)
+    m_threads.start([this, job = std::move(job), done = std::move(done), isForgotten = m_isForgotten] {
+        if (*isForgotten)
             return;
-        const LoadedPicture picture = job();
-        const auto answer = [picture, done, isWanted] {
-            if (*isWanted)
+        const LoadedPicture picture = job(*isForgotten);
+        const auto answer = [picture, done, isForgotten] {
+            if (!*isForgotten)
                 done(picture);
         };
         QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);

@@ -25,7 +25,7 @@ class PictureLoader final : public QObject
     Q_OBJECT
 public:
     explicit PictureLoader(const DataFolder &folder, QObject *parent = nullptr);
-    /// Waits for the files that are being read just now.
+    /// Ends what is being read just now, and waits for it.
     ~PictureLoader() override;
 
     using Done = std::function<void(const LoadedPicture &)>;
@@ -40,9 +40,11 @@ public:
     void forget();
 
 private:
-    void start(std::function<LoadedPicture()> job, Done done);
+    /// Ends early once what it is given is set.
+    using Job = std::function<LoadedPicture(const std::atomic_bool &)>;
+    void start(Job job, Done done);
 
     PictureFolder m_pictures;
     QThreadPool m_threads;
-    std::shared_ptr<std::atomic_bool> m_isWanted; ///< shared by the jobs since the last `forget`
+    std::shared_ptr<std::atomic_bool> m_isForgotten; ///< shared by the jobs since the last `forget`
 };

@@ -4,6 +4,7 @@
 #include "shell/pictures/heifpictures.h"
 #include "shell/pictures/jpeghead.h"
 #include "shell/pictures/picturelines.h"
+#include "storage/systemmemory.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -11,15 +12,18 @@
 #include <QMutex>
 #include <QTransform>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
 
-/// Beyond this many pixels a file is no photograph of anybody.
-constexpr qint64 greatestPixelCount = 1'000'000'000;
-/// Decoders that take more than this while they work have to wait for one another.
-constexpr qint64 heavyBytes = 32 * 1024 * 1024;
 constexpr qint64 mebibyte = 1024 * 1024;
+/// More is never taken for one picture.
+constexpr qint64 mostBytes = 512 * mebibyte;
+/// Decoders that take more than this while they work have to wait for one another.
+constexpr qint64 heavyBytes = 40 * mebibyte;
+/// Pictures up to this many MiB are read without a look at the memory that there is; Qt's own limit.
+constexpr int usualLimit = 128;
 
 /// A file that has no more to give once the reading is to stop: no decoder can be stopped otherwise.
 class StoppableFile final : public QFile
@@ -101,19 +105,114 @@ QString whyUnread(const QImageReader &reader, QIODevice &file)
     return kind.isEmpty() ? PictureLines::noPictureInside() : PictureLines::kindNotInstalled(kind);
 }
 
-/// Whether a whole picture of this size is decoded before it is made small.
-bool isDecodedWhole(const QImageReader &reader)
+qint64 bytesOf(QSize pixels)
 {
-    return !reader.supportsOption(QImageIOHandler::ScaledSize) || reader.format() != "jpeg";
+    return 4LL * pixels.width() * pixels.height();
 }
 
-QString whyTooLarge(const QImageReader &reader, QSize size)
+/// One reading of a file.
+class Reading
 {
-    const qint64 pixels = qint64(size.width()) * size.height();
-    const qint64 bytes = isDecodedWhole(reader) ? 4 * pixels : 0;
-    const bool isTooLarge = pixels > greatestPixelCount || bytes > QImageReader::allocationLimit() * mebibyte;
-    return isTooLarge ? PictureLines::tooLarge(size) : QString();
-}
+public:
+    Reading(QFile &file, const std::atomic_bool *isStopped)
+        : m_file(file)
+        , m_reader(&file)
+        , m_isStopped(isStopped)
+    {
+        m_reader.setDecideFormatFromContent(true);
+        m_reader.setAutoTransform(true);
+        m_stored = m_reader.size();
+        m_isTurned = m_reader.transformation() & QImageIOHandler::TransformationRotate90;
+        m_isJpeg = m_reader.format() == "jpeg";
+    }
+
+    ReadPicture read(QSize bound)
+    {
+        ReadPicture picture{.pixels = m_isTurned ? m_stored.transposed() : m_stored};
+        const QSize wanted = fitting(picture.pixels, bound);
+        if (!makeRoom(wanted)) {
+            picture.reason = PictureLines::tooLarge(picture.pixels);
+            return picture;
+        }
+        if (wanted != picture.pixels)
+            m_reader.setScaledSize(m_isTurned ? wanted.transposed() : wanted);
+        const bool isWhole = decode(picture.image);
+        if (picture.image.isNull()) {
+            picture.reason = whyUnread(m_reader, m_file);
+            return picture;
+        }
+        if (!picture.pixels.isValid())
+            picture.pixels = picture.image.size();
+        picture.isCut = !isWhole || (m_isJpeg && JpegHead::isCut(m_file));
+        return picture;
+    }
+
+private:
+    /// The size in which the picture is read; as large as there is room for, where it can be made small.
+    QSize fitting(QSize whole, QSize bound) const
+    {
+        if (whole.isEmpty())
+            return whole;
+        QSize wanted = whole.scaled(bound, Qt::KeepAspectRatio).expandedTo({1, 1});
+        if (wanted.width() >= whole.width())
+            wanted = whole;
+        while (m_isJpeg && !hasRoom(bytesOf(wanted)))
+            wanted = (wanted * 0.7).expandedTo({1, 1});
+        return wanted;
+    }
+
+    static bool hasRoom(qint64 bytes)
+    {
+        return bytes <= usualLimit * mebibyte || bytes <= std::min(mostBytes, SystemMemory::available() / 3);
+    }
+
+    /// Whether there is room for what the decoder needs. Of what takes much, only one is read at a time.
+    bool makeRoom(QSize wanted)
+    {
+        if (!m_stored.isValid())
+            return true;
+        // Only JPEG files are made small while they are decoded.
+        const qint64 bytes = bytesOf(m_isJpeg ? wanted : m_stored);
+        if (!hasRoom(bytes))
+            return false;
+        const bool isHeavy =
+            bytes > heavyBytes || (m_isJpeg && bytesOf(m_stored) > heavyBytes && isProgressive());
+        if (isHeavy)
+            m_turn.emplace(m_isStopped);
+        if (bytes > usualLimit * mebibyte)
+            m_limit = int(bytes / mebibyte) + 1;
+        return true;
+    }
+
+    /// Such a file is in memory whole before its first line comes out.
+    bool isProgressive() const
+    {
+        QFile file(m_file.fileName());
+        return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
+               JpegHead::of(file.read(JpegHead::usualBytes)).isProgressive();
+    }
+
+    /// What was read of a cut picture stays in the image. False when not all of it could be read.
+    bool decode(QImage &image)
+    {
+        const int before = QImageReader::allocationLimit();
+        if (m_limit > before)
+            QImageReader::setAllocationLimit(m_limit);
+        const bool isWhole = m_reader.read(&image);
+        if (m_limit > before)
+            QImageReader::setAllocationLimit(before);
+        return isWhole;
+    }
+
+    QFile &m_file;
+    QImageReader m_reader;
+    const std::atomic_bool *m_isStopped;
+    std::optional<HeavyWork> m_turn;
+    QSize m_stored; ///< as the file has it
+    bool m_isTurned = false;
+    bool m_isJpeg = false;
+    int m_limit = 0; ///< in MiB, where the usual one is too low
+};
 
 } // namespace
 
@@ -124,28 +223,7 @@ ReadPicture PictureReading::read(const QString &path, QSize bound, const std::at
     StoppableFile file(path, isStopped);
     if (!file.open(QIODevice::ReadOnly))
         return {.reason = PictureLines::mayNotBeRead()};
-    QImageReader reader(&file);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize stored = reader.size();
-    if (const QString why = whyTooLarge(reader, stored); !why.isEmpty())
-        return {.pixels = stored, .reason = why};
-    const bool isTurned = reader.transformation() & QImageIOHandler::TransformationRotate90;
-    ReadPicture picture{.pixels = isTurned ? stored.transposed() : stored};
-    const QSize wanted = picture.pixels.scaled(bound, Qt::KeepAspectRatio).expandedTo({1, 1});
-    if (stored.isValid() && wanted.width() < picture.pixels.width())
-        reader.setScaledSize(isTurned ? wanted.transposed() : wanted);
-    std::optional<HeavyWork> turn;
-    if (isDecodedWhole(reader) && 4 * qint64(stored.width()) * stored.height() > heavyBytes)
-        turn.emplace(isStopped);
-    const bool isJpeg = reader.format() == "jpeg";
-    const bool isWhole = reader.read(&picture.image); // what was read of a cut one stays in the image
-    if (picture.image.isNull())
-        picture.reason = whyUnread(reader, file);
-    else if (!picture.pixels.isValid())
-        picture.pixels = picture.image.size();
-    picture.isCut = !picture.image.isNull() && (!isWhole || (isJpeg && JpegHead::isCut(file)));
-    return picture;
+    return Reading(file, isStopped).read(bound);
 }
 
 QImage PictureReading::preview(const QString &path)

@@ -6,6 +6,7 @@
 #include "shell/pictures/picturereading.h"
 #include "tests/support/testphotographs.h"
 
+#include <QImageReader>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 
@@ -184,6 +185,39 @@ private slots:
             QVERIFY2(picture.image.size() == QSize(200, 150), what);
             QVERIFY2(picture.isCut == isCut, what);
         }
+    }
+
+    /// Beyond what Qt reads by itself: the whole picture where there is memory for it, else as much as there
+    /// is.
+    void readsVeryLargePictures()
+    {
+        QByteArray vast = TestPhotographs::jpeg(TestPhotographs::draw({64, 64}, 1));
+        const qsizetype frame = vast.indexOf("\xFF\xC0");
+        vast.replace(frame + 5, 4, "\x27\x10\x4E\x20"); // 20,000 by 10,000, of which few pixels are there
+        const QString path = TestPhotographs::save(m_folder.filePath(u"vast.jpg"_s), vast);
+        const ReadPicture small = PictureReading::read(path, {200, 200});
+        QCOMPARE(small.pixels, QSize(20000, 10000));
+        QCOMPARE(small.image.size(), QSize(200, 100));
+        QImage page(6000, 5700, QImage::Format_Grayscale8);
+        page.fill(Qt::gray);
+        const QString scan = m_folder.filePath(u"scan.png"_s);
+        QVERIFY(page.save(scan));
+        const ReadPicture read = PictureReading::read(scan, {300, 300});
+        QVERIFY(read.image.isNull() ? read.reason == PictureLines::tooLarge({6000, 5700})
+                                    : read.image.size() == QSize(300, 285));
+        QCOMPARE(QImageReader::allocationLimit(), 128);
+    }
+
+    void showsTheFirstOfManyPictures()
+    {
+        QByteArray film("GIF89a\x02\0\x02\0\x80\0\0\xFF\0\0\0\0\xFF", 19);
+        const QByteArray still("\x2C\0\0\0\0\x02\0\x02\0\0\x02\x02\x84\x51\0", 15);
+        for (int i = 0; i < 100000; ++i)
+            film += still;
+        const ReadPicture picture = PictureReading::read(
+            TestPhotographs::save(m_folder.filePath(u"film.gif"_s), film + ';'), {200, 200});
+        QCOMPARE(picture.image.size(), QSize(2, 2));
+        QVERIFY(isRed(picture.image.pixel(0, 0)));
     }
 
     void survivesAnyHeadOfAFile()
