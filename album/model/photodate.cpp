@@ -252,19 +252,17 @@ QTime PhotoDate::time() const
     return isMoment ? QTime(0, 0).addSecs(date.from.second) : QTime();
 }
 
-QDate PhotoDate::first() const
+QDate PhotoDate::Parts::first() const
 {
-    const Parts date = parts();
-    const bool hasFirst = date.form == Form::One || date.form == Form::Span || date.form == Form::After;
-    return hasFirst ? date.from.first() : QDate();
+    const bool hasFirst = form == Form::One || form == Form::Span || form == Form::After;
+    return hasFirst ? from.first() : QDate();
 }
 
-QDate PhotoDate::last() const
+QDate PhotoDate::Parts::last() const
 {
-    const Parts date = parts();
-    if (date.form == Form::Before)
-        return date.to.first().addDays(-1);
-    return date.form == Form::One || date.form == Form::Span ? date.to.last() : QDate();
+    if (form == Form::Before)
+        return to.first().addDays(-1);
+    return form == Form::One || form == Form::Span ? to.last() : QDate();
 }
 
 int PhotoDate::year() const
@@ -283,7 +281,7 @@ qint64 PhotoDate::sortKey() const
     if (date.form == Form::None || date.form == Form::Unknown)
         return std::numeric_limits<qint64>::max();
     const bool isBefore = date.form == Form::Before;
-    const QDate day = isBefore ? last() : date.from.first();
+    const QDate day = isBefore ? date.last() : date.from.first();
     const qint64 place = isBefore ? places - 1 : narrowness(date);
     return (day.toJulianDay() * places + place) * secondsPerDay + date.from.second;
 }

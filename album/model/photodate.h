@@ -42,6 +42,10 @@ public:
         Form form = Form::None;
         Part from{}; ///< what it is, of `One`; what it is after or begins with
         Part to{};   ///< what it is before or ends with
+
+        /// The first and the last day that is meant; invalid where there is none.
+        QDate first() const;
+        QDate last() const;
     };
 
     PhotoDate() = default;
@@ -60,9 +64,9 @@ public:
     /// The time of that day; invalid where none is known.
     QTime time() const;
     /// The first day that it may mean; invalid where it has none.
-    QDate first() const;
+    QDate first() const { return parts().first(); }
     /// The last day that it may mean; invalid where it has none.
-    QDate last() const;
+    QDate last() const { return parts().last(); }
     /// The year that it lies in; 0 where it is in more than one, or none. A winter is of the year in which it
     /// begins.
     int year() const;

@@ -331,14 +331,6 @@ QDate widened(QDate day, const PhotoDate::Part &part, int direction)
     return day;
 }
 
-std::pair<QDate, QDate> mayMean(const PhotoDate &date)
-{
-    const PhotoDate::Parts parts = date.parts();
-    const QDate first = widened(date.first(), parts.from, -1);
-    const QDate last = widened(date.last(), parts.to, 1);
-    return {first.isValid() ? first : CalendarDates::first(), last.isValid() ? last : CalendarDates::last()};
-}
-
 } // namespace
 
 std::optional<PhotoDate> PhotoDateWords::read(QStringView text, DateStyle style, QDate today)
@@ -362,13 +354,20 @@ QString PhotoDateWords::heading(const PhotoDate &date, DateStyle style)
     return date.isNone() ? u"Without a Date"_s : wordsOf(date, style, false);
 }
 
+PhotoDateWords::Days PhotoDateWords::mayMean(const PhotoDate &date)
+{
+    const PhotoDate::Parts parts = date.parts();
+    if (parts.form == PhotoDate::Form::None || parts.form == PhotoDate::Form::Unknown)
+        return {};
+    const QDate first = widened(parts.first(), parts.from, -1);
+    const QDate last = widened(parts.last(), parts.to, 1);
+    return {(first.isValid() ? first : CalendarDates::first()).toJulianDay(),
+            (last.isValid() ? last : CalendarDates::last()).toJulianDay()};
+}
+
 bool PhotoDateWords::mayBe(const PhotoDate &date, const PhotoDate &sought)
 {
-    if (!date.isUnderstood() || !sought.isUnderstood())
-        return false;
-    const auto [first, last] = mayMean(date);
-    const auto [soughtFirst, soughtLast] = mayMean(sought);
-    return first <= soughtLast && soughtFirst <= last;
+    return mayMean(date).overlap(mayMean(sought));
 }
 
 QString PhotoDateWords::refusal()

@@ -26,6 +26,19 @@ QString words(const PhotoDate &date, DateStyle style);
 /// The same without a time, as it stands over pictures of a day: "Without a Date" for none.
 QString heading(const PhotoDate &date, DateStyle style);
 
+/// Days by their Julian numbers; none where the last lies before the first.
+struct Days {
+    qint64 first = 1;
+    qint64 last = 0;
+
+    bool overlap(const Days &other) const
+    {
+        return first <= last && other.first <= other.last && first <= other.last && other.first <= last;
+    }
+};
+/// The days that a date may mean, with what "about" may be off by.
+Days mayMean(const PhotoDate &date);
+
 /// Whether a picture of `date` may be of the time that is `sought`.
 bool mayBe(const PhotoDate &date, const PhotoDate &sought);
 
