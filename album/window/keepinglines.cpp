@@ -149,6 +149,11 @@ QString KeepingLines::card(qsizetype fresh, int known)
     return there + u", %1 that %2 here already"_s.arg(number(known), known == 1 ? u"is"_s : u"are"_s);
 }
 
+QString KeepingLines::cardOffer(const QString &name, qsizetype fresh)
+{
+    return name + u": "_s + card(fresh, 0);
+}
+
 QString KeepingLines::noCards()
 {
     return u"No card or telephone with pictures is plugged in."_s;

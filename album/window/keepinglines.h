@@ -90,7 +90,15 @@ inline QString textsNotBuiltIn()
 
 /// "212 new pictures, 1,034 that are here already"
 QString card(qsizetype fresh, int known);
+/// "CANON_DC: 212 new pictures"
+QString cardOffer(const QString &name, qsizetype fresh);
 QString noCards();
+
+inline QString bringIn()
+{
+    return u"Bring In"_s;
+}
+
 /// "Copy &In 212 Pictures"
 QString copyIn(qsizetype count);
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/program/householdpersons.h"
 
-#include "shell/program/functionfaces.h"
+#include "shell/program/passedguards.h"
 #include "shell/program/program.h"
 
 #include <algorithm>
@@ -12,12 +12,6 @@ bool knowsPersons(const Program &program, const FunctionFace &face)
 {
     const FunctionEntry *entry = program.functions.entry(face.function);
     return entry && entry->persons;
-}
-
-bool mayTell(const Program &program, const FunctionFace &face, const std::function<bool(int area)> &isPassed)
-{
-    return !face.isGuarded(program.state.protectedAreas) || isPassed(face.area) ||
-           (face.buttonArea != Area::None && isPassed(face.buttonArea));
 }
 
 } // namespace
