@@ -5,7 +5,7 @@
 #include "album/model/findlines.h"
 #include "album/model/photoshelf.h"
 #include "album/model/picturefiles.h"
-#include "album/model/undosteps.h"
+#include "shell/core/undosteps.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -7,7 +7,7 @@
 #include "album/model/photoshelf.h"
 #include "album/model/phototexts.h"
 #include "album/model/picturefiles.h"
-#include "album/model/undosteps.h"
+#include "shell/core/undosteps.h"
 #include "shell/pictures/keptpictures.h"
 #include "storage/saving.h"
 
@@ -109,13 +109,18 @@ private:
     {
         const QString stored = KeptPictures::stored(m_folder, path);
         if (const auto known = m_known.paths.constFind(stored); known != m_known.paths.cend()) {
-            m_batch.known.append(known.value());
+            ++m_batch.knownCount;
+            if (!m_wish.since.isValid())
+                m_batch.known.append(known.value());
             return;
         }
+        if (m_wish.since.isValid() && QFileInfo(path).metadataChangeTime() <= m_wish.since)
+            return;
         const std::optional<int> same = sameContent(path, isStopped);
         if (isStopped)
             return;
         if (same) {
+            ++m_batch.knownCount;
             m_batch.known.append(*same);
             return;
         }
@@ -246,7 +251,7 @@ void TakeIn::take(const Batch &batch)
         if (const auto step = m_shelf.putIntoAsPart(m_wish.album, intoAlbum); step && step->undo)
             m_steps.push_back(*step);
     }
-    m_result.known += int(batch.known.size() - batch.foundAgain.size());
+    m_result.known += batch.knownCount - int(batch.foundAgain.size());
     m_result.foundAgain += int(batch.foundAgain.size());
     m_result.refused += batch.refused;
     emit progressed(batch.done, batch.total);

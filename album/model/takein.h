@@ -6,6 +6,7 @@
 #include "shell/core/undostep.h"
 
 #include <QDate>
+#include <QDateTime>
 #include <QHash>
 #include <QSet>
 #include <QStringList>
@@ -32,6 +33,9 @@ public:
         int album = 0;       ///< that takes them in; 0: none
         Copy copy = Copy::No;
         QDate today{};
+        /// Looked at are those that came into their folder later; all where there is no time. Then those that
+        /// are on the list already are not put into the album again.
+        QDateTime since{};
     };
     struct Result {
         QList<int> added;    ///< their records
@@ -61,7 +65,8 @@ private:
     };
     struct Batch {
         std::vector<Photo> photos;
-        QList<int> known;
+        QList<int> known; ///< those that come into the album
+        int knownCount = 0;
         QHash<int, QString> foundAgain;
         QStringList refused;
         int done = 0;

@@ -148,6 +148,25 @@ private slots:
         QCOMPARE(result.added.size(), 1);
     }
 
+    void whatWasThereBeforeIsNotTakenInAgain()
+    {
+        picture(u"taken out.jpg"_s);
+        picture(u"off the list.jpg"_s);
+        const int album = m_shelf->addAlbum({.name = u"Telephone"_s});
+        taken({.album = album});
+        const int off = m_shelf->photoAt(m_elsewhere->filePath(u"off the list.jpg"_s))->record;
+        QVERIFY(m_shelf->removePhotos({off}));
+        QVERIFY(m_shelf->takeOut(album, m_shelf->recordsIn(album)));
+        QTest::qWait(20); // files tell their times in whole milliseconds
+        const QDateTime since = QDateTime::currentDateTime();
+        QTest::qWait(20);
+        picture(u"new.jpg"_s);
+        QCOMPARE(taken({.album = album, .since = since}).added.size(), 1);
+        const QStringList names{u"new.jpg"_s, u"taken out.jpg"_s};
+        QCOMPARE(namesOf(*m_shelf), names);
+        QCOMPARE(m_shelf->countIn(album), 1);
+    }
+
     void aFullDiskTakesInNothing()
     {
         picture(u"a.jpg"_s);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "album/model/undosteps.h"
+#include "shell/core/undosteps.h"
 
 #include <algorithm>
 #include <memory>
