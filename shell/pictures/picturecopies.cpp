@@ -8,8 +8,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The largest place of a picture on paper, at the 300 dots an inch that a printer shows.
-constexpr QSize printedPixels(540, 300);
 /// Jobs that wait for a thread: the rest is started as these are done.
 constexpr std::size_t atOnce = 8;
 
@@ -20,7 +18,16 @@ PictureCopies::PictureCopies(const DataFolder &folder, QObject *parent)
     , m_loader(folder)
 {}
 
-void PictureCopies::make(std::vector<NamedPicture> pictures)
+void PictureCopies::make(const std::vector<NamedPicture> &pictures)
+{
+    std::vector<PaperPicture> wanted;
+    wanted.reserve(pictures.size());
+    for (const NamedPicture &picture : pictures)
+        wanted.push_back({.name = picture.name, .stored = picture.stored});
+    make(std::move(wanted));
+}
+
+void PictureCopies::make(std::vector<PaperPicture> pictures)
 {
     stop();
     m_originals = std::move(pictures);
@@ -47,7 +54,7 @@ void PictureCopies::startNext()
     const QString target = m_folder->filePath(QString::number(index) + u".jpg"_s);
     m_copies[index].name = m_originals[index].name;
     m_copies[index].path = target;
-    m_loader.copy(m_originals[index].stored, printedPixels, target,
+    m_loader.copy(m_originals[index], target,
                   [this, index](const LoadedPicture &picture) { take(index, picture); });
 }
 

@@ -18,7 +18,8 @@ public:
     explicit PictureCopies(const DataFolder &folder, QObject *parent = nullptr);
 
     /// Starts over; `ready` follows, also when no file could be read.
-    void make(std::vector<NamedPicture> pictures);
+    void make(const std::vector<NamedPicture> &pictures);
+    void make(std::vector<PaperPicture> pictures);
     void stop();
     bool isBusy() const { return m_isBusy; }
 
@@ -36,7 +37,7 @@ private:
 
     PictureLoader m_loader;
     std::optional<QTemporaryDir> m_folder;
-    std::vector<NamedPicture> m_originals;
+    std::vector<PaperPicture> m_originals;
     std::vector<ListedPicture> m_copies;
     std::size_t m_next = 0;
     int m_done = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/pictureloader.h"
 
+#include "shell/pages/pagepicture.h"
 #include "shell/pictures/picturereading.h"
 
 #include <QPainter>
@@ -20,6 +21,37 @@ LoadedPicture read(const PictureFolder &pictures, const QString &stored, QSize b
         return {};
     const ReadPicture picture = PictureReading::read(path, bound, &isStopped);
     return {picture.image, picture.pixels};
+}
+
+/// Whether one is wider than high and the other higher than wide.
+bool lieCrosswise(QSizeF one, QSizeF other)
+{
+    return (one.width() - one.height()) * (other.width() - other.height()) < 0;
+}
+
+/// The picture as it is printed: turned, and cut where it is to fill its place.
+LoadedPicture readForPaper(const PictureFolder &pictures, const PaperPicture &wanted,
+                           const std::atomic_bool &isStopped)
+{
+    const QString path = pictures.locate(wanted.stored);
+    const QSizeF upright = PagePicture::shapeOf(path);
+    if (path.isEmpty())
+        return {};
+    const QSizeF shape = wanted.turns % 2 == 0 ? upright : upright.transposed();
+    const bool isTurned = wanted.mayBeTurned && lieCrosswise(shape, wanted.place);
+    const int turns = wanted.turns + (isTurned ? 1 : 0);
+    QSize bound = turns % 2 == 0 ? wanted.place : wanted.place.transposed();
+    if (wanted.isFilling && !upright.isEmpty())
+        bound = upright.scaled(bound, Qt::KeepAspectRatioByExpanding).toSize();
+    const ReadPicture read = PictureReading::read(path, bound, &isStopped);
+    QImage image = PictureReading::turned(read.image, turns);
+    if (wanted.isFilling && !image.isNull()) {
+        QRect part(QPoint(), wanted.place.scaled(image.size(), Qt::KeepAspectRatio).expandedTo({1, 1}));
+        part.moveCenter(image.rect().center());
+        image = image.copy(part);
+        return {image, image.size()};
+    }
+    return {image, turns % 2 == 0 ? read.pixels : read.pixels.transposed()};
 }
 
 /// Without what shines through: a JPEG file has no transparency.
@@ -58,14 +90,13 @@ void PictureLoader::load(const QString &stored, QSize bound, Done done)
     start(job, std::move(done));
 }
 
-void PictureLoader::copy(const QString &stored, QSize bound, const QString &target, Done done)
+void PictureLoader::copy(const PaperPicture &picture, const QString &target, Done done)
 {
-    const auto job = [pictures = m_pictures, stored, bound, target](const std::atomic_bool &isForgotten) {
-        LoadedPicture picture = read(pictures, stored, bound, isForgotten);
-        if (!picture.image.isNull() && !isForgotten &&
-            !onWhite(picture.image).save(target, "JPG", copyQuality))
-            picture.image = {};
-        return picture;
+    const auto job = [pictures = m_pictures, picture, target](const std::atomic_bool &isForgotten) {
+        LoadedPicture read = readForPaper(pictures, picture, isForgotten);
+        if (!read.image.isNull() && !isForgotten && !onWhite(read.image).save(target, "JPG", copyQuality))
+            read.image = {};
+        return read;
     };
     start(job, std::move(done));
 }

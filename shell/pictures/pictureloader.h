@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/pictures/picturefolder.h"
+#include "shell/pictures/storedpicture.h"
 
 #include <QImage>
 #include <QObject>
@@ -33,9 +34,9 @@ public:
     /// Reads what a stored path means, scaled down to fit `bound`. Every call is answered, in no particular
     /// order, unless it is forgotten.
     void load(const QString &stored, QSize bound, Done done);
-    /// The same, and writes the picture as a JPEG file of this path; the answer's image is null when either
-    /// failed.
-    void copy(const QString &stored, QSize bound, const QString &target, Done done);
+    /// Reads a picture for paper and writes it as a JPEG file of this path; the answer's image is null when
+    /// either failed.
+    void copy(const PaperPicture &picture, const QString &target, Done done);
     /// Nothing that was asked for up to now is answered any more.
     void forget();
 

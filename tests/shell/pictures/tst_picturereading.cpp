@@ -151,6 +151,10 @@ private slots:
             {file(u"text.jpg"_s, "Dear Karin,\n"), PictureLines::noPictureInside()},
             {file(u"noise.png"_s, QByteArray("\x89PNG\r\n\x1a\n", 8) + QByteArray(90, 'x')),
              PictureLines::damagedPicture()},
+            {file(u"bird.webp"_s, QByteArray("RIFF\x1a\0\0\0WEBPVP8 \x0e\0\0\0", 20) + QByteArray(14, 'x')),
+             QImageReader::supportedImageFormats().contains("webp")
+                 ? PictureLines::damagedPicture()
+                 : PictureLines::kindNotInstalled(u"WebP"_s)},
             {file(u"vast.png"_s, vast), PictureLines::tooLarge({20000, 20000})},
         };
         for (const auto &[path, reason] : rows) {
