@@ -14,9 +14,10 @@ namespace {
 class LastTag final : public QCompleter
 {
 public:
-    explicit LastTag(QLineEdit *box)
+    LastTag(QLineEdit *box, QChar separator)
         : QCompleter(box)
         , m_box(box)
+        , m_separator(separator)
     {
         setModel(new QStringListModel(this));
         setCaseSensitivity(Qt::CaseInsensitive);
@@ -24,27 +25,28 @@ public:
 
     QStringList splitPath(const QString &path) const override
     {
-        return {path.mid(path.lastIndexOf(u',') + 1).trimmed()};
+        return {path.mid(path.lastIndexOf(m_separator) + 1).trimmed()};
     }
 
     QString pathFromIndex(const QModelIndex &index) const override
     {
-        const QString before = m_box->text().left(m_box->text().lastIndexOf(u',') + 1);
+        const QString before = m_box->text().left(m_box->text().lastIndexOf(m_separator) + 1);
         return before.isEmpty() ? index.data().toString() : QString(before + u' ' + index.data().toString());
     }
 
 private:
     QLineEdit *m_box;
+    QChar m_separator;
 };
 
 } // namespace
 
-TagBox::TagBox(const QString &name, QWidget *parent)
+TagBox::TagBox(const QString &name, QWidget *parent, QChar separator)
     : QLineEdit(parent)
 {
     setObjectName(name);
     new PasteFilter(this, Characters::All);
-    setCompleter(new LastTag(this));
+    setCompleter(new LastTag(this, separator));
 }
 
 void TagBox::setOffered(const QStringList &tags)

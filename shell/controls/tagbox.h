@@ -3,12 +3,13 @@
 
 #include <QLineEdit>
 
-/// A box for tags, separated by commas. Those that are known are offered while one is typed.
+/// A box for tags, separated by commas or by another sign. Those that are known are offered while one is
+/// typed.
 class TagBox final : public QLineEdit
 {
     Q_OBJECT
 public:
-    explicit TagBox(const QString &name, QWidget *parent);
+    TagBox(const QString &name, QWidget *parent, QChar separator = u',');
 
     void setOffered(const QStringList &tags);
 };
