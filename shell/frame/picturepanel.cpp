@@ -20,6 +20,7 @@
 #include <QStorageInfo>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -27,6 +28,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int PathRole = Qt::UserRole;
+constexpr int mostAlbumRows = 5;
 constexpr int leastFileWidth = 136; ///< for a name of a dozen letters beside a bar
 
 QListWidget *makeList(const QString &name, QWidget *parent)
@@ -95,6 +97,7 @@ QWidget *PicturePanel::makeLists()
     places->setSpacing(12);
     places->addLayout(labelled(u"Drives:"_s, m_driveList));
     places->addLayout(labelled(u"Folders:"_s, wholeRows(m_folderList)), 1);
+    places->addWidget(makeAlbums());
     layout->addLayout(places, 1);
     layout->addLayout(labelled(u"File:"_s, wholeRows(m_fileList)), 1);
     connect(m_driveList, &QComboBox::activated, this, &PicturePanel::chooseDrive);
@@ -103,6 +106,21 @@ QWidget *PicturePanel::makeLists()
     connect(m_fileList, &QListWidget::itemSelectionChanged, this, &PicturePanel::previewFile);
     connect(m_fileList, &QListWidget::itemActivated, this, &PicturePanel::enterPicture);
     return lists;
+}
+
+/// The albums of the household, in place of a folder.
+QWidget *PicturePanel::makeAlbums()
+{
+    m_albums = new QWidget(this);
+    m_albumList = makeList(u"albums1"_s, m_albums);
+    auto *layout = new QVBoxLayout(m_albums);
+    layout->setContentsMargins({});
+    layout->addLayout(labelled(u"Albums:"_s, m_albumList));
+    connect(m_albumList, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem *item) { showAlbum(m_albumList->row(item)); });
+    connect(m_albumList, &QListWidget::itemActivated, this,
+            [this](QListWidgetItem *item) { showAlbum(m_albumList->row(item)); });
+    return m_albums;
 }
 
 QWidget *PicturePanel::makePreview()
@@ -155,6 +173,7 @@ void PicturePanel::start(bool hasPicture)
 {
     setUnavailable(m_delete, hasPicture ? QString() : m_use.nothingToDelete);
     fillDrives();
+    fillAlbums();
     if (!showFolder(startFolder()))
         showFolder(m_driveList->itemData(0).toString());
     m_fileList->setFocus();
@@ -166,6 +185,31 @@ void PicturePanel::fillDrives()
     m_driveList->clear();
     for (const QString &root : m_drives())
         m_driveList->addItem(QDir::toNativeSeparators(root), root);
+}
+
+void PicturePanel::fillAlbums()
+{
+    const FunctionEntry *entry = m_program.functions.entry(Function::PhotoAlbum);
+    m_pictureAlbums = entry && entry->pictureAlbums ? entry->pictureAlbums(m_program) : QList<PictureAlbum>();
+    m_albumList->clear();
+    for (const PictureAlbum &album : m_pictureAlbums)
+        m_albumList->addItem(album.title);
+    const int rows = std::min(int(m_pictureAlbums.size()), mostAlbumRows);
+    m_albumList->setFixedHeight(rows * ListRowDelegate::rowHeight() + 2 * m_albumList->frameWidth() + 6);
+    m_albums->setVisible(!m_pictureAlbums.isEmpty());
+}
+
+void PicturePanel::showAlbum(int row)
+{
+    const PictureAlbum &album = m_pictureAlbums[row];
+    m_path->setText(u"Album: "_s + album.title);
+    m_folderList->setCurrentItem(nullptr);
+    m_fileList->clear();
+    for (const QString &path : album.paths) {
+        auto *item = new QListWidgetItem(QFileInfo(path).fileName(), m_fileList);
+        item->setData(PathRole, path);
+    }
+    previewFile();
 }
 
 /// The folder used last; the household's own pictures, or the user's home, when it is not on this machine.
@@ -200,6 +244,7 @@ bool PicturePanel::showFolder(const QString &path)
         auto *item = new QListWidgetItem(Icons::icon("folder"_L1, scheme), name, m_folderList);
         item->setData(PathRole, folder.absoluteFilePath(name));
     }
+    m_albumList->setCurrentItem(nullptr);
     m_fileList->clear();
     m_fileList->addItems(folder.entryList(PictureFolder::fileKinds(), QDir::Files, order));
     previewFile();
@@ -245,7 +290,10 @@ void PicturePanel::fallBack(const Message &message)
 QString PicturePanel::chosenFile() const
 {
     const QList<QListWidgetItem *> chosen = m_fileList->selectedItems();
-    return chosen.isEmpty() ? QString() : QDir(m_folder).absoluteFilePath(chosen.first()->text());
+    if (chosen.isEmpty())
+        return {};
+    const QString ofAlbum = chosen.first()->data(PathRole).toString();
+    return ofAlbum.isEmpty() ? QDir(m_folder).absoluteFilePath(chosen.first()->text()) : ofAlbum;
 }
 
 void PicturePanel::previewFile()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/controls/taskpanel.h"
+#include "shell/core/picturealbum.h"
 #include "shell/pictures/picturefolder.h"
 
 #include <functional>
@@ -46,9 +47,12 @@ signals:
 
 private:
     QWidget *makeLists();
+    QWidget *makeAlbums();
     QWidget *makePreview();
     void makeButtons();
     void fillDrives();
+    void fillAlbums();
+    void showAlbum(int row);
     QString startFolder() const;
     bool showFolder(const QString &path);
     void chooseDrive(int index);
@@ -66,6 +70,9 @@ private:
     QString m_folder;
     QComboBox *m_driveList = nullptr;
     QListWidget *m_folderList = nullptr;
+    QWidget *m_albums = nullptr; ///< the list of them with its label
+    QListWidget *m_albumList = nullptr;
+    QList<PictureAlbum> m_pictureAlbums;
     QListWidget *m_fileList = nullptr;
     ElidedLabel *m_path = nullptr;
     PictureFrame *m_preview = nullptr;
