@@ -19,9 +19,10 @@ inline constexpr int ToDoList = 1012;
 inline constexpr int PasswordKeeper = 1013;
 inline constexpr int Journal = 1014;
 inline constexpr int CalendarMaker = 1015;
+inline constexpr int PhotoAlbum = 1016;
 
-inline constexpr int all[] = {ProgramOverview, AddressBook,      PasswordControl, Appearance,
-                              PagePreview,     Planner,          AddressViewer,   Keys,
-                              Budget,          BackupAndRestore, CarLog,          WeightTracker,
-                              ToDoList,        PasswordKeeper,   Journal,         CalendarMaker};
+inline constexpr int all[] = {
+    ProgramOverview, AddressBook,    PasswordControl, Appearance,       PagePreview, Planner,
+    AddressViewer,   Keys,           Budget,          BackupAndRestore, CarLog,      WeightTracker,
+    ToDoList,        PasswordKeeper, Journal,         CalendarMaker,    PhotoAlbum};
 } // namespace HelpContext

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "album/window/albumdesk.h"
+#include "album/window/shown.h"
+#include "shell/frame/functionwindow.h"
+
+class AlbumCommands;
+class AlbumPane;
+class FolderCommands;
+class LargeView;
+class LookCommands;
+class PhotoCommands;
+class PhotoDetails;
+class ShelfCare;
+class ShowCommands;
+struct Place;
+
+/// The photo album, also called the photo keeper: views and albums at the left, the pictures in the middle,
+/// and beside them what is known of the one that is chosen.
+class PhotoVIEW1 final : public FunctionWindow
+{
+    Q_OBJECT
+public:
+    explicit PhotoVIEW1(Program &program, QWidget *parent = nullptr);
+
+    /// Everything is on the disk as soon as it is typed.
+    bool isModified() const override;
+
+    /// Shows the picture whose record is that of `place`.
+    void showPlace(const Place &place);
+
+protected:
+    void filesChanged() override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    AlbumDesk desk();
+    QWidget *makeWorkPanel();
+    void makeCommands();
+    void makeButtons();
+    void connectShelf();
+    void connectParts();
+    void connectLarge();
+    void connectCare();
+    void bring(const PhotosShown &shown);
+    void followChoice();
+    void followView();
+    void tellLocked();
+
+    PhotoShelf *m_shelf;
+    PictureQueue *m_queue;
+    WorkViews *m_stack;
+    PhotosView *m_photos;
+    LargeView *m_large;
+    AlbumPane *m_pane;
+    PhotoDetails *m_details;
+    PhotoCommands *m_commands;
+    AlbumCommands *m_albums;
+    LookCommands *m_look;
+    ShelfCare *m_care;
+    FolderCommands *m_folders;
+    ShowCommands *m_shows;
+    bool m_isBegun = false; ///< the files were looked after once
+};

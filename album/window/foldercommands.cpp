@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "album/window/foldercommands.h"
+
+#include "album/model/photoshelf.h"
+#include "album/window/photosview.h"
+#include "album/window/shelfcare.h"
+#include "album/window/windowlines.h"
+#include "shell/frame/commands.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/program/program.h"
+
+#include <QMenu>
+#include <QSettings>
+#include <QStandardPaths>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+const QString copyKey = u"Windows/PhotoVIEW1/copies"_s;
+const QString folderKey = u"Windows/PhotoVIEW1/folder"_s;
+} // namespace
+
+FolderCommands::FolderCommands(const AlbumDesk &desk, ShelfCare &care, QObject *parent)
+    : QObject(parent)
+    , m_desk(desk)
+    , m_care(care)
+{}
+
+void FolderCommands::addCommands(QMenu *pictures)
+{
+    Commands &commands = m_desk.commands;
+    m_add = commands.writing(commands.add(
+        pictures, u"mPAdd"_s, u"&Add Folder..."_s, [this] { choose(); },
+        [this] {
+            const QString why = m_desk.shelf.whyLocked();
+            return why.isEmpty() && m_care.isTakingIn() ? AlbumWindowLines::takesIn() : why;
+        },
+        QKeySequence(Qt::CTRL | Qt::Key_O)));
+    commands.tool(m_add, "folder"_L1, u"Add Folder"_s);
+    m_copy = commands.writing(
+        commands.add(pictures, u"mPCopy"_s, u"&Copy into the Household's Pictures"_s,
+                     [this] { m_desk.program.store.setValue(copyKey, m_copy->isChecked()); }));
+    m_copy->setCheckable(true);
+    m_copy->setChecked(m_desk.program.store.value(copyKey).toBool());
+}
+
+/// An album that is shown takes them in.
+void FolderCommands::choose()
+{
+    const QString usual = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    const std::optional<QString> folder =
+        m_desk.program.dialogs.chooseFolder(&m_desk.window, AlbumWindowLines::noPictures(),
+                                            m_desk.program.store.value(folderKey, usual).toString());
+    if (!folder)
+        return;
+    m_desk.program.store.setValue(folderKey, *folder);
+    take({*folder});
+}
+
+void FolderCommands::take(const QStringList &paths)
+{
+    const PhotoAlbum *album = m_desk.photos.shownAlbum();
+    m_care.takeIn(paths, album ? album->record : 0,
+                  m_copy->isChecked() ? TakeIn::Copy::Pictures : TakeIn::Copy::No);
+}

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "album/window/phototiles.h"
+
+#include "album/model/photodatewords.h"
+#include "album/model/photoshelf.h"
+#include "album/window/windowlines.h"
+#include "shell/controls/itemdrag.h"
+#include "shell/program/program.h"
+
+#include <QMimeData>
+
+#include <algorithm>
+
+PhotoTiles::PhotoTiles(const Program &program, const PhotoShelf &shelf, QObject *parent)
+    : PictureTiles(parent)
+    , m_program(program)
+    , m_shelf(shelf)
+{}
+
+bool PhotoTiles::setRecords(const QList<int> &records)
+{
+    if (records == m_records)
+        return false;
+    beginResetModel();
+    m_records = records;
+    m_rows.clear();
+    m_rows.reserve(records.size());
+    for (int row = 0; row < records.size(); ++row)
+        m_rows.insert(records[row], row);
+    endResetModel();
+    return true;
+}
+
+void PhotoTiles::follow(const QList<int> &records)
+{
+    for (const int record : records) {
+        if (const int row = rowOf(record); row >= 0)
+            emit dataChanged(index(row), index(row));
+    }
+}
+
+/// A picture that has left the list meanwhile has none.
+WantedPicture PhotoTiles::picture(int row) const
+{
+    const Photo *photo = m_shelf.photo(recordAt(row));
+    if (!photo)
+        return {};
+    return {.id = photo->record,
+            .path = m_shelf.filePath(*photo),
+            .turns = photo->turns,
+            .size = photo->size,
+            .time = photo->fileTime};
+}
+
+PictureTiles::Tile PhotoTiles::tile(int row) const
+{
+    const Photo *photo = m_shelf.photo(recordAt(row));
+    if (!photo)
+        return {};
+    return {AlbumWindowLines::nameOf(*photo),
+            AlbumWindowLines::dateAndStars(*photo, m_program.state.dateStyle)};
+}
+
+int PhotoTiles::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_records.size());
+}
+
+QVariant PhotoTiles::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Photo *photo = m_shelf.photo(recordAt(index.row()));
+    if (!photo)
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return AlbumWindowLines::nameOf(*photo);
+    case Qt::AccessibleTextRole:
+        return AlbumWindowLines::spoken(*photo, m_program.state.dateStyle);
+    case Qt::ToolTipRole:
+        return photo->fileName();
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags PhotoTiles::flags(const QModelIndex &index) const
+{
+    return PictureTiles::flags(index) | Qt::ItemIsDragEnabled;
+}
+
+QMimeData *PhotoTiles::mimeData(const QModelIndexList &indexes) const
+{
+    std::vector<int> records;
+    records.reserve(std::size_t(indexes.size()));
+    for (const QModelIndex &index : indexes)
+        records.push_back(recordAt(index.row()));
+    return ItemDrag::of(dragFormat(), records).release();
+}
