@@ -7,6 +7,11 @@
 #include "addressbook/model/addressnews.h"
 #include "addressbook/model/addresssearch.h"
 #include "addressbook/viewer/viewerwindow.h"
+#include "album/model/albumholdings.h"
+#include "album/model/albumnews.h"
+#include "album/model/albumsource.h"
+#include "album/model/photoshelf.h"
+#include "album/window/albumwindow.h"
 #include "budget/model/budgetnews.h"
 #include "budget/model/budgetsource.h"
 #include "budget/window/budgetwindow.h"
@@ -213,6 +218,52 @@ void showCar(QWidget &window, const Place &place)
         cars->showPlace(place);
 }
 
+std::optional<LiveLine> albumNews(const Program &program, QDate today)
+{
+    return AlbumNews::liveLine(program.folder, today);
+}
+
+QList<DayNote> albumNotes(const Program &program, QDate from, QDate to)
+{
+    return AlbumNews::dayNotes(program.folder, from, to);
+}
+
+std::unique_ptr<SearchSource> albumSearch(const Program &program)
+{
+    return std::make_unique<AlbumSource>(program.folder, program.state.dateStyle);
+}
+
+QStringList albumFiles(const Program &program)
+{
+    return AlbumHoldings::files(program.folder);
+}
+
+QStringList albumPictures(const Program &program)
+{
+    return AlbumHoldings::pictures(program.folder);
+}
+
+QList<PictureAlbum> pictureAlbums(const Program &program)
+{
+    return AlbumHoldings::albums(program.folder);
+}
+
+QStringList picturesOfDay(const Program &program, QDate day)
+{
+    return AlbumHoldings::picturesOfDay(program.folder, day);
+}
+
+QStringList picturesOfPerson(const Program &program, const QString &person)
+{
+    return AlbumHoldings::picturesOfPerson(program.folder, person);
+}
+
+void showInAlbum(QWidget &window, const Place &place)
+{
+    if (auto *album = qobject_cast<PhotoVIEW1 *>(&window))
+        album->showPlace(place);
+}
+
 std::optional<LiveLine> weightNews(const Program &program, QDate today)
 {
     return WeightNews::liveLine(program.folder, today);
@@ -384,6 +435,17 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                             .show = showInCalendar,
                                             .files = calendarFiles,
                                             .pictures = calendarPictures});
+    functions.add(Function::PhotoAlbum, {.open = makeWindow<PhotoVIEW1>,
+                                         .liveLine = albumNews,
+                                         .liveFiles = PhotoShelf::fileNames(),
+                                         .dayNotes = albumNotes,
+                                         .search = albumSearch,
+                                         .show = showInAlbum,
+                                         .files = albumFiles,
+                                         .pictures = albumPictures,
+                                         .pictureAlbums = pictureAlbums,
+                                         .picturesOfDay = picturesOfDay,
+                                         .picturesOfPerson = picturesOfPerson});
     functions.add(Function::Budget, {.open = makeWindow<Budget1>,
                                      .liveLine = budgetNews,
                                      .liveFiles = BudgetNews::liveFiles(clock.today()),
