@@ -10,6 +10,7 @@
 #include "shell/program/program.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QStandardPaths>
 
 #include <optional>
@@ -58,6 +59,8 @@ int run(QApplication &application, const DataFolder &programFolder, const DataFo
 int main(int argc, char *argv[])
 {
     Startup::prepare();
+    // That a picture is damaged is said in its place; it may be one of thousands.
+    QLoggingCategory::setFilterRules(u"qt.gui.imageio*=false"_s);
     QApplication application(argc, argv);
     QApplication::setOrganizationName(u"Tessaly"_s);
     QApplication::setApplicationName(u"Quillery"_s);

@@ -2,7 +2,6 @@
 #include "shell/pictures/jpeghead.h"
 
 #include <QFile>
-#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -13,9 +12,6 @@ namespace {
 constexpr uchar startOfScan = 0xDA;
 constexpr uchar endOfImage = 0xD9;
 constexpr uchar applicationOne = 0xE1;
-constexpr int tagOrientation = 0x0112;
-constexpr int tagPreviewStart = 0x0201;
-constexpr int tagPreviewLength = 0x0202;
 /// Shapes that differ by less are the same, with a pixel more or less.
 constexpr double sameShape = 0.03;
 /// A larger file is not read again to find out how it ends.
@@ -57,46 +53,6 @@ bool walk(QByteArrayView bytes, qsizetype &scan, const std::function<void(uchar,
     return false;
 }
 
-/// Numbers in the tables of a TIFF header, in either order of bytes; what lies outside is 0.
-class Tables
-{
-public:
-    explicit Tables(QByteArrayView bytes)
-        : m_bytes(bytes)
-        , m_isLittle(bytes.startsWith("II"))
-    {}
-
-    bool isOne() const
-    {
-        return (m_bytes.startsWith("II") || m_bytes.startsWith("MM")) && number(2, 2) == 42;
-    }
-    quint32 number(qint64 at, int width) const
-    {
-        if (at < 0 || at + width > m_bytes.size())
-            return 0;
-        quint32 value = 0;
-        for (int i = 0; i < width; ++i)
-            value = value << 8 | uchar(m_bytes[at + (m_isLittle ? width - 1 - i : i)]);
-        return value;
-    }
-    /// What the table at `start` has for `tag`; 0 when it has none.
-    quint32 value(qint64 start, int tag) const
-    {
-        const int count = int(number(start, 2));
-        for (int i = 0; i < count; ++i) {
-            const qint64 entry = start + 2 + 12LL * i;
-            if (int(number(entry, 2)) == tag)
-                return number(entry + 8, number(entry + 2, 2) == 3 ? 2 : 4);
-        }
-        return 0;
-    }
-    qint64 next(qint64 start) const { return number(start + 2 + 12LL * number(start, 2), 4); }
-
-private:
-    QByteArrayView m_bytes;
-    bool m_isLittle;
-};
-
 /// The picture without the bars at its edges that bring it into another shape than `shape`.
 QImage inShape(const QImage &picture, QSize shape)
 {
@@ -109,29 +65,6 @@ QImage inShape(const QImage &picture, QSize shape)
     const QSize inside = shape.scaled(picture.size(), Qt::KeepAspectRatio).expandedTo({1, 1});
     const QPoint corner((picture.width() - inside.width()) / 2, (picture.height() - inside.height()) / 2);
     return picture.copy({corner, inside});
-}
-
-/// What stands in the file as `orientation` says, upright.
-QImage upright(const QImage &picture, int orientation)
-{
-    switch (orientation) {
-    case 2:
-        return picture.mirrored(true, false);
-    case 3:
-        return picture.mirrored(true, true);
-    case 4:
-        return picture.mirrored(false, true);
-    case 5:
-        return picture.mirrored(true, false).transformed(QTransform().rotate(270));
-    case 6:
-        return picture.transformed(QTransform().rotate(90));
-    case 7:
-        return picture.mirrored(true, false).transformed(QTransform().rotate(90));
-    case 8:
-        return picture.transformed(QTransform().rotate(270));
-    default:
-        return picture;
-    }
 }
 
 /// Whether the end is said among what follows the first scan, with the marks of further scans in it.
@@ -160,7 +93,7 @@ JpegHead JpegHead::of(const QByteArray &first)
     qsizetype scan = 0;
     walk(first, scan, [&head](uchar marker, QByteArrayView segment) {
         if (marker == applicationOne && segment.startsWith(QByteArrayView("Exif\0\0", 6))) {
-            head.readExif(segment.sliced(6));
+            head.m_exif = ExifBlock::of(segment.sliced(6));
         } else if (isFrame(marker) && segment.size() >= 5) {
             head.m_pixels = QSize(int(bigEndian(segment, 3)), int(bigEndian(segment, 1)));
             head.m_isProgressive = marker % 4 == 2; // 0xC2, 0xC6, 0xCA, 0xCE
@@ -169,25 +102,11 @@ JpegHead JpegHead::of(const QByteArray &first)
     return head;
 }
 
-void JpegHead::readExif(QByteArrayView tiff)
-{
-    const Tables tables(tiff);
-    if (!tables.isOne())
-        return;
-    const qint64 first = tables.number(4, 4);
-    const quint32 orientation = tables.value(first, tagOrientation);
-    m_orientation = orientation >= 1 && orientation <= 8 ? int(orientation) : 1;
-    const qint64 second = tables.next(first);
-    const qint64 start = second > 0 ? tables.value(second, tagPreviewStart) : 0;
-    const qint64 length = second > 0 ? tables.value(second, tagPreviewLength) : 0;
-    if (start > 0 && length > 0 && start + length <= tiff.size())
-        m_preview = tiff.sliced(start, length).toByteArray();
-}
-
 QImage JpegHead::preview() const
 {
-    const QImage small = m_preview.isEmpty() ? QImage() : QImage::fromData(m_preview, "JPG");
-    return small.isNull() ? small : upright(inShape(small, m_pixels), m_orientation);
+    const QByteArray &file = m_exif.preview;
+    const QImage small = file.isEmpty() ? QImage() : QImage::fromData(file, "JPG");
+    return small.isNull() ? small : ExifBlock::upright(inShape(small, m_pixels), m_exif.orientation);
 }
 
 bool JpegHead::isCut(QFile &file)

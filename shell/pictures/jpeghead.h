@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
-#include <QImage>
+#include "shell/pictures/exifblock.h"
 
 class QFile;
 
@@ -17,7 +16,7 @@ public:
     static JpegHead of(const QByteArray &first);
 
     /// How the camera was held, as the files count it: 1 (upright) to 8.
-    int orientation() const { return m_orientation; }
+    int orientation() const { return m_exif.orientation; }
     /// Of the whole picture as it lies in the file; empty where that is not among the first bytes.
     QSize pixels() const { return m_pixels; }
     /// Whether its lines come out only when all of it has been read.
@@ -29,10 +28,7 @@ public:
     static bool isCut(QFile &file);
 
 private:
-    void readExif(QByteArrayView tiff);
-
-    QByteArray m_preview; ///< a JPEG file of its own
-    int m_orientation = 1;
+    ExifBlock m_exif;
     QSize m_pixels;
     bool m_isProgressive = false;
 };

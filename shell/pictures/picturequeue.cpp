@@ -4,7 +4,6 @@
 #include "shell/pictures/picturework.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -86,8 +85,9 @@ void PictureQueue::takeArrivals()
     for (const PictureWork::Arrival &arrival : m_work->arrivals()) {
         if (arrival.reason.isEmpty()) {
             m_reasons.remove(arrival.id);
-            m_kept.insert(arrival.id, new Kept{arrival.image, arrival.look, {}},
-                          std::max<qsizetype>(1, arrival.image.sizeInBytes()));
+            // A single picture is kept even where there is room for less.
+            const qsizetype bytes = std::clamp<qsizetype>(arrival.image.sizeInBytes(), 1, m_kept.maxCost());
+            m_kept.insert(arrival.id, new Kept{arrival.image, arrival.look, {}}, bytes);
             emit arrived(arrival.id, arrival.image, arrival.look);
         } else {
             m_reasons.insert(arrival.id, arrival.reason);

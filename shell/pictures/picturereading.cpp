@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/pictures/picturereading.h"
 
+#include "shell/pictures/exifblock.h"
 #include "shell/pictures/heifpictures.h"
 #include "shell/pictures/jpeghead.h"
 #include "shell/pictures/picturelines.h"
@@ -122,8 +123,15 @@ public:
         m_reader.setDecideFormatFromContent(true);
         m_reader.setAutoTransform(true);
         m_stored = m_reader.size();
-        m_isTurned = m_reader.transformation() & QImageIOHandler::TransformationRotate90;
         m_isJpeg = m_reader.format() == "jpeg";
+        if (m_reader.supportsOption(QImageIOHandler::ImageTransformation)) {
+            m_isTurned = m_reader.transformation() & QImageIOHandler::TransformationRotate90;
+        } else {
+            QFile again(m_file.fileName());
+            if (again.open(QIODevice::ReadOnly))
+                m_orientation = ExifBlock::ofChunks(again).orientation;
+            m_isTurned = ExifBlock::isOnItsSide(m_orientation);
+        }
     }
 
     ReadPicture read(QSize bound)
@@ -199,6 +207,7 @@ private:
         if (m_limit > before)
             QImageReader::setAllocationLimit(m_limit);
         const bool isWhole = m_reader.read(&image);
+        image = ExifBlock::upright(image, m_orientation);
         if (m_limit > before)
             QImageReader::setAllocationLimit(before);
         return isWhole;
@@ -208,7 +217,8 @@ private:
     QImageReader m_reader;
     const std::atomic_bool *m_isStopped;
     std::optional<HeavyWork> m_turn;
-    QSize m_stored; ///< as the file has it
+    QSize m_stored;        ///< as the file has it
+    int m_orientation = 1; ///< where the reader does not turn the picture itself
     bool m_isTurned = false;
     bool m_isJpeg = false;
     int m_limit = 0; ///< in MiB, where the usual one is too low

@@ -14,8 +14,8 @@
 
 namespace {
 
-/// A quarter of a screen is enough for pictures shown this small.
-constexpr int smallSide = Thumbnails::side / 2;
+/// Steps in which pictures are made smaller than their thumbnails.
+constexpr int smallStep = 32;
 
 /// The threads of all queues. The program ends when they have.
 class RunningThreads
@@ -86,8 +86,8 @@ void PictureWork::setSide(int pixels)
 {
     const QMutexLocker lock(&m_mutex);
     // In steps, so that a slider does not have all read anew at each pixel.
-    m_side = pixels <= smallSide ? smallSide
-                                 : (pixels + Thumbnails::side - 1) / Thumbnails::side * Thumbnails::side;
+    const int step = pixels <= Thumbnails::side ? smallStep : Thumbnails::side;
+    m_side = std::max(1, (pixels + step - 1) / step) * step;
 }
 
 void PictureWork::want(const WantedPicture &picture, Priority priority)

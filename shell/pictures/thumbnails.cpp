@@ -42,8 +42,12 @@ QByteArray fileOf(const QImage &picture, bool isCut)
 void touch(QFile &file)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    if (file.fileTime(QFileDevice::FileModificationTime).secsTo(now) > secondsOfADay)
-        file.setFileTime(now, QFileDevice::FileModificationTime);
+    if (file.fileTime(QFileDevice::FileModificationTime).secsTo(now) <= secondsOfADay ||
+        file.setFileTime(now, QFileDevice::FileModificationTime))
+        return;
+    QFile writable(file.fileName()); // some systems want it open for writing
+    if (writable.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        writable.setFileTime(now, QFileDevice::FileModificationTime);
 }
 
 } // namespace

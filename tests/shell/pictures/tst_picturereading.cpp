@@ -120,6 +120,38 @@ private slots:
         }
     }
 
+    /// Kinds of which Qt does not tell how the camera was held.
+    void turnsPicturesInChunks()
+    {
+        const QByteArray exif("II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x06\0\0\0\0\0\0\0", 26);
+        const QImage stored = marked(uprightSize.transposed(), u"bl"_s, u"tl"_s);
+        const auto bytesAs = [&](const char *kind) {
+            QByteArray bytes;
+            QBuffer buffer(&bytes);
+            return stored.save(&buffer, kind) ? bytes : QByteArray();
+        };
+        QByteArray png = bytesAs("PNG");
+        png.insert(33, QByteArray("\0\0\0\x1a", 4) + "eXIf" + exif + "\xb7\x48\x11\x29");
+        QList<std::pair<QString, QByteArray>> rows{{u"held.png"_s, png}};
+        if (QByteArray webp = bytesAs("WEBP"); !webp.isEmpty()) {
+            // The simple form of the file has no place for it: a head that announces it comes before the
+            // picture.
+            const QByteArray head("VP8X\x0a\0\0\0\x08\0\0\0\x4f\0\0\x9f\0\0", 18);
+            webp = webp.first(12) + head + webp.sliced(12) + "EXIF" + QByteArray("\x1a\0\0\0", 4) + exif;
+            const auto length = quint32(webp.size() - 8);
+            for (int i = 0; i < 4; ++i)
+                webp[4 + i] = char(length >> 8 * i & 0xFF);
+            rows.append({u"held.webp"_s, webp});
+        }
+        for (const auto &[name, bytes] : rows) {
+            const QString path = TestPhotographs::save(m_folder.filePath(name), bytes);
+            const ReadPicture picture = PictureReading::read(path, {100, 100});
+            QCOMPARE(picture.pixels, uprightSize);
+            QCOMPARE(picture.image.size(), QSize(100, 50));
+            QVERIFY2(isUpright(picture.image) && !picture.isCut, qPrintable(name));
+        }
+    }
+
     void takesTheBarsOffAPreview()
     {
         const QImage stored = marked({300, 200}, u"tl"_s, u"tr"_s);
