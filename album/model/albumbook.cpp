@@ -108,7 +108,8 @@ QString AlbumBook::years() const
     if (m_chapters.empty())
         return {};
     const QString first = m_pictures.front().chapter;
-    const QString last = m_pictures.back().chapter;
+    QString last = m_pictures.back().chapter;
+    last.front() = last.front().toLower(); // "the 1980s"
     return u"%1 to %2"_s.arg(first, last);
 }
 
@@ -198,6 +199,8 @@ void AlbumBook::addSingle(const Picture &picture, int mark)
                           .mark = mark});
     if (hasDate)
         m_page.paragraph({.runs = {{.text = picture.date}}, .role = TextRole::Small});
+    if (!picture.story.isEmpty())
+        m_page.blankLine();
     addStory(picture, false);
 }
 

@@ -15,7 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 inline constexpr QLatin1StringView spending = "Quillery.spent-"_L1;
 
 inline constexpr std::array beginnings{spending,           "Quillery.changes"_L1, "Quillery.trash"_L1,
-                                       "Quillery.lock"_L1, "CarMnt1"_L1,          "Secfile"_L1};
+                                       "Quillery.lock"_L1, "CarMnt1"_L1,          "Secfile"_L1,
+                                       "Photobk"_L1};
 
 /// Whether `name` is `beginning` with a number behind it, upper and lower case alike, ".Fil" or not.
 inline bool isNumbered(QStringView name, QStringView beginning)

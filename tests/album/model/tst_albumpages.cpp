@@ -175,7 +175,7 @@ private slots:
             AlbumPages::page(u"Grandmother"_s, all, {.form = Form::Book, .perBookSheet = perSheet}, context);
         QCOMPARE(sheetCount(page, context), sheets);
         const QString text = page.toText();
-        for (const QString &words : {u"Holm"_s, u"Grandmother"_s, u"1974 to The 1980s"_s, u"5 pictures"_s,
+        for (const QString &words : {u"Holm"_s, u"Grandmother"_s, u"1974 to the 1980s"_s, u"5 pictures"_s,
                                      u"Contents"_s, u"1974\t3 pictures"_s, u"The 1980s\t2 pictures"_s,
                                      u"It was cold."_s, u"We laughed."_s, u"Anne and Karin"_s})
             QVERIFY2(text.contains(words), qPrintable(words));
