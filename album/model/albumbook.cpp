@@ -2,7 +2,7 @@
 #include "album/model/albumbook.h"
 
 #include "album/model/lines.h"
-#include "album/model/picturegrid.h"
+#include "album/model/papergrid.h"
 
 #include <QSet>
 
@@ -75,7 +75,7 @@ QSizeF AlbumBook::placeSize(const Options &options, const PageSetup &setup)
 {
     const QSizeF body = bodyOf(setup);
     return options.perBookSheet == fourPictures
-               ? PictureGrid::ofBook(setup, marginOf(setup), 0, body.height()).picture
+               ? PaperGrid::ofBook(setup, marginOf(setup), 0, body.height()).picture
                : body;
 }
 
@@ -211,8 +211,8 @@ void AlbumBook::addFour(std::size_t first, std::size_t end, bool beginsChapter)
                                         [](const Picture &picture) { return !picture.story.isEmpty(); });
     const double height = bodyOf(m_context.setup).height();
     const double top = m_page.margin() + (beginsChapter ? chapterRoom : runningRoom);
-    const PictureGrid grid =
-        PictureGrid::ofBook(m_context.setup, m_page.margin(), top, hasStories ? height * storyShare : height);
+    const PaperGrid grid =
+        PaperGrid::ofBook(m_context.setup, m_page.margin(), top, hasStories ? height * storyShare : height);
     for (std::size_t i = first; i < end; ++i) {
         const Picture &picture = m_pictures[i];
         const QRectF place = grid.place(int(i - first));

@@ -3,9 +3,9 @@
 
 #include "album/model/albumbook.h"
 #include "album/model/lines.h"
+#include "album/model/papergrid.h"
 #include "album/model/photodatewords.h"
 #include "album/model/photoshelf.h"
-#include "album/model/picturegrid.h"
 
 #include <algorithm>
 
@@ -37,7 +37,7 @@ void addMarks(Page &page, const QRectF &photo)
 
 /// Puts the pictures on as many sheets as they need; `add` puts one at its place.
 template <typename Add>
-void fill(Page &page, const std::vector<Picture> &pictures, const PictureGrid &grid, const Add &add)
+void fill(Page &page, const std::vector<Picture> &pictures, const PaperGrid &grid, const Add &add)
 {
     const int count = int(pictures.size());
     for (int i = 0; i < count; ++i) {
@@ -51,9 +51,9 @@ Page sheets(const QString &title, const std::vector<Picture> &pictures, const Op
             const PageContext &context)
 {
     Page page(title);
-    const TextRole role = PictureGrid::captionRole(options.perSheet);
-    const double captionHeight = PictureGrid::captionLines(options.perSheet) * lineHeight(role);
-    fill(page, pictures, PictureGrid::ofSheets(options, context.setup),
+    const TextRole role = PaperGrid::captionRole(options.perSheet);
+    const double captionHeight = PaperGrid::captionLines(options.perSheet) * lineHeight(role);
+    fill(page, pictures, PaperGrid::ofSheets(options, context.setup),
          [&](const Picture &picture, QRectF place) {
              const QRectF shown = AlbumBook::placePicture(page, picture, place);
              // Right below the picture, as wide as its place.
@@ -74,7 +74,7 @@ Page photographs(const std::vector<Picture> &pictures, const Options &options, c
 {
     Page page;
     page.numberSheets(SheetNumbers::None);
-    fill(page, pictures, PictureGrid::ofPhotographs(options.size, context.setup),
+    fill(page, pictures, PaperGrid::ofPhotographs(options.size, context.setup),
          [&page](const Picture &picture, const QRectF &place) {
              AlbumBook::placePicture(page, picture, place);
              addMarks(page, place);
@@ -85,12 +85,11 @@ Page photographs(const std::vector<Picture> &pictures, const Options &options, c
 Page contacts(const QString &title, const std::vector<Picture> &pictures, const PageContext &context)
 {
     Page page(title, AlbumLines::pictures(qsizetype(pictures.size())));
-    fill(page, pictures, PictureGrid::ofContacts(context.setup),
-         [&page](const Picture &picture, QRectF place) {
-             AlbumBook::placePicture(page, picture, place);
-             page.placeText({place.left(), place.bottom(), place.width(), 2 * lineHeight(TextRole::Small)},
-                            picture.fileName, TextRole::Small, Qt::AlignHCenter | Qt::AlignTop);
-         });
+    fill(page, pictures, PaperGrid::ofContacts(context.setup), [&page](const Picture &picture, QRectF place) {
+        AlbumBook::placePicture(page, picture, place);
+        page.placeText({place.left(), place.bottom(), place.width(), 2 * lineHeight(TextRole::Small)},
+                       picture.fileName, TextRole::Small, Qt::AlignHCenter | Qt::AlignTop);
+    });
     return page.close(context.today, context.style);
 }
 
@@ -144,11 +143,11 @@ QSizeF AlbumPages::placeSize(const Options &options, const PageSetup &setup)
 {
     switch (options.form) {
     case Form::Sheets:
-        return PictureGrid::ofSheets(options, setup).picture;
+        return PaperGrid::ofSheets(options, setup).picture;
     case Form::Photographs:
-        return PictureGrid::ofPhotographs(options.size, setup).picture;
+        return PaperGrid::ofPhotographs(options.size, setup).picture;
     case Form::Contact:
-        return PictureGrid::ofContacts(setup).picture;
+        return PaperGrid::ofContacts(setup).picture;
     case Form::Book:
         return AlbumBook::placeSize(options, setup);
     }

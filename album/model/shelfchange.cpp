@@ -6,6 +6,8 @@
 #include "storage/changeset.h"
 #include "storage/recordfile.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <span>
 

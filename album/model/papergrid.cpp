@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "album/model/picturegrid.h"
+#include "album/model/papergrid.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,7 +43,7 @@ QRectF bodyOf(const PageSetup &setup)
     return QRectF({}, setup.sheet()).adjusted(margin, margin + titleRoom, -margin, -margin - footRoom);
 }
 
-PictureGrid divided(const QRectF &body, int across, int down, double textHeight)
+PaperGrid divided(const QRectF &body, int across, int down, double textHeight)
 {
     const QSizeF cell((body.width() + gap) / across, (body.height() + gap) / down);
     const QSizeF picture(cell.width() - gap, std::max(cell.height() - gap - textHeight, 0.2));
@@ -74,24 +74,24 @@ QSizeF sizeOf(PhotoSize size)
 
 } // namespace
 
-QRectF PictureGrid::place(int index) const
+QRectF PaperGrid::place(int index) const
 {
     const QPointF at(corner.x() + cell.width() * (index % across),
                      corner.y() + cell.height() * (index / across));
     return {at, picture};
 }
 
-int PictureGrid::captionLines(int perSheet)
+int PaperGrid::captionLines(int perSheet)
 {
     return perSheet <= 2 ? 3 : perSheet <= 9 ? 2 : 1;
 }
 
-TextRole PictureGrid::captionRole(int perSheet)
+TextRole PaperGrid::captionRole(int perSheet)
 {
     return perSheet <= 4 ? TextRole::Body : TextRole::Small;
 }
 
-PictureGrid PictureGrid::ofSheets(const AlbumPages::Options &options, const PageSetup &setup)
+PaperGrid PaperGrid::ofSheets(const AlbumPages::Options &options, const PageSetup &setup)
 {
     auto [across, down] = shapeOf(options.perSheet);
     if (setup.orientation == PageSetup::Landscape)
@@ -102,17 +102,17 @@ PictureGrid PictureGrid::ofSheets(const AlbumPages::Options &options, const Page
     return divided(bodyOf(setup), across, down, text > 0 ? text + textGap : 0);
 }
 
-PictureGrid PictureGrid::ofContacts(const PageSetup &setup)
+PaperGrid PaperGrid::ofContacts(const PageSetup &setup)
 {
     const bool isUpright = setup.orientation == PageSetup::Portrait;
     return divided(bodyOf(setup), isUpright ? 5 : 7, isUpright ? 6 : 4, 2 * lineHeight(TextRole::Small));
 }
 
-PictureGrid PictureGrid::ofPhotographs(PhotoSize size, const PageSetup &setup)
+PaperGrid PaperGrid::ofPhotographs(PhotoSize size, const PageSetup &setup)
 {
     const QSizeF sheet = setup.sheet();
     const QSizeF room = sheet - QSizeF(2 * photographMargin, 2 * photographMargin);
-    PictureGrid best;
+    PaperGrid best;
     best.across = 0;
     for (const QSizeF photo : {sizeOf(size), sizeOf(size).transposed()}) {
         const int across = countOf(room.width(), photo.width());
@@ -133,7 +133,7 @@ PictureGrid PictureGrid::ofPhotographs(PhotoSize size, const PageSetup &setup)
     return best;
 }
 
-PictureGrid PictureGrid::ofBook(const PageSetup &setup, double margin, double top, double height)
+PaperGrid PaperGrid::ofBook(const PageSetup &setup, double margin, double top, double height)
 {
     const QRectF body(margin, top, setup.sheet().width() - 2 * margin, height);
     return divided(body, 2, 2, 2 * lineHeight(TextRole::Body) + lineHeight(TextRole::Small) + textGap);

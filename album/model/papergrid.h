@@ -6,7 +6,7 @@
 #include <QRectF>
 
 /// Where pictures stand on a sheet, in inches.
-struct PictureGrid {
+struct PaperGrid {
     QPointF corner; ///< of the first
     QSizeF cell;    ///< from one to the next
     QSizeF picture; ///< the place in a cell, at its top left corner
@@ -18,13 +18,13 @@ struct PictureGrid {
     QRectF place(int index) const;
 
     /// Several to a sheet, below the title.
-    static PictureGrid ofSheets(const AlbumPages::Options &options, const PageSetup &setup);
+    static PaperGrid ofSheets(const AlbumPages::Options &options, const PageSetup &setup);
     /// Small ones with room for their file names.
-    static PictureGrid ofContacts(const PageSetup &setup);
+    static PaperGrid ofContacts(const PageSetup &setup);
     /// As many photographs as have room, with room for marks around them.
-    static PictureGrid ofPhotographs(AlbumPages::PhotoSize size, const PageSetup &setup);
+    static PaperGrid ofPhotographs(AlbumPages::PhotoSize size, const PageSetup &setup);
     /// Two by two on a sheet of a book.
-    static PictureGrid ofBook(const PageSetup &setup, double margin, double top, double height);
+    static PaperGrid ofBook(const PageSetup &setup, double margin, double top, double height);
 
     /// How many lines of a caption stand below a picture.
     static int captionLines(int perSheet);
