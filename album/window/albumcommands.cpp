@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "album/window/albumcommands.h"
 
+#include "album/model/kepttexts.h"
 #include "album/model/photoshelf.h"
 #include "album/model/phototexts.h"
 #include "album/window/albumpane.h"
@@ -96,8 +97,13 @@ void AlbumCommands::addInto(QMenu *albums)
             menu, intoChoices()[i].name, intoChoices()[i].caption,
             [this, into] {
                 change(AlbumWindowLines::intoTitle(into), [into](PhotoAlbum &album) { album.into = into; });
+                emit intoChanged();
             },
-            [this] { return whyNoAlbum(); }));
+            [this, into] {
+                const QString why = whyNoAlbum();
+                const bool canWrite = into == PhotoAlbum::Into::Nowhere || KeptTexts::isBuiltIn();
+                return !why.isEmpty() || canWrite ? why : AlbumWindowLines::keepsNoTexts();
+            }));
         action->setCheckable(true);
         group->addAction(action);
         m_into.push_back(action);

@@ -34,6 +34,8 @@ public:
 signals:
     void said(const QString &line);
     void albumWanted(int album);
+    /// What is said of an album's pictures is to be written elsewhere from now on.
+    void intoChanged();
 
 private:
     QString whyNoAlbum() const;

@@ -5,8 +5,11 @@
 #include "album/model/photoshelf.h"
 #include "album/window/albumcommands.h"
 #include "album/window/albumpane.h"
+#include "album/window/albumprint.h"
 #include "album/window/albumwork.h"
 #include "album/window/foldercommands.h"
+#include "album/window/keepcommands.h"
+#include "album/window/keepinglines.h"
 #include "album/window/largeview.h"
 #include "album/window/lookcommands.h"
 #include "album/window/photocommands.h"
@@ -71,6 +74,8 @@ PhotoVIEW1::PhotoVIEW1(Program &program, QWidget *parent)
     , m_care(new ShelfCare(desk(), activity(), this))
     , m_folders(new FolderCommands(desk(), *m_care, this))
     , m_shows(new ShowCommands(desk(), thumbnailFolder(), this))
+    , m_keep(new KeepCommands(desk(), *m_care, thumbnailFolder(), this))
+    , m_print(new AlbumPrint(desk(), {[this]() -> PreviewPane & { return preview(); }, activity()}, this))
 {
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_pane, makeWorkPanel(),
                              [](QSize window) { return window.width() < 1200 ? 212 : 252; }));
@@ -85,6 +90,12 @@ PhotoVIEW1::PhotoVIEW1(Program &program, QWidget *parent)
     bring({});
     tellLocked();
     m_photos->setFocus();
+}
+
+/// A name that is being typed over is taken while all of it still stands.
+PhotoVIEW1::~PhotoVIEW1()
+{
+    hide();
 }
 
 AlbumDesk PhotoVIEW1::desk()
@@ -115,7 +126,9 @@ void PhotoVIEW1::makeCommands()
     m_look->addCommands(view, *m_albums, *m_pane);
     pictures->addSeparator();
     m_shows->addCommands(pictures);
-    addUsualOptions(options, [](QMenu *) {});
+    pictures->addSeparator();
+    m_keep->addCommands(pictures);
+    addUsualOptions(options, [this](QMenu *menu) { m_print->addCommands(menu); });
     addUtilitiesMenu();
     addHelpEntry();
     commands().separateTools();
@@ -145,6 +158,8 @@ void PhotoVIEW1::makeButtons()
         commands().button(m_albums->createCommand(), u"newAlbumButton"_s, u"&New Album"_s, m_pane);
     m_photos->addFirstButton(commands().button(m_folders->addCommand(), u"firstFolder"_s,
                                                u"&Choose Folder..."_s, m_photos, ButtonKind::Main));
+    m_photos->addMissingButton(
+        commands().button(m_keep->findCommand(), u"findMissing"_s, u"&Find Again..."_s, &foot));
     m_pane->addButton(create);
     setTabOrder(&m_pane->list(), create);
 }
@@ -239,6 +254,13 @@ void PhotoVIEW1::connectCare()
     connect(m_care, &ShelfCare::taken, this,
             [this](const QList<int> &records) { m_photos->choose({records.first()}); });
     connect(&m_photos->grid(), &PhotoGrid::filesDropped, m_folders, &FolderCommands::take);
+    connect(m_albums, &AlbumCommands::intoChanged, m_care, &ShelfCare::catchUp);
+    connect(m_care, &ShelfCare::lookedFirst, m_keep, &KeepCommands::offerCards);
+    connect(m_keep, &KeepCommands::said, this, [this](const QString &line) { activity().say(line); });
+    connect(m_keep, &KeepCommands::cardsOffered, this, [this](const QString &line) {
+        activity().say(line);
+        activity().offerWay(KeepingLines::bringIn(), [this] { m_keep->openCards(); });
+    });
     connect(m_shows, &ShowCommands::ended, this, [this](int record) {
         m_photos->choose({record});
         m_stack->currentWidget()->setFocus();

@@ -7,7 +7,9 @@
 
 class AlbumCommands;
 class AlbumPane;
+class AlbumPrint;
 class FolderCommands;
+class KeepCommands;
 class LargeView;
 class LookCommands;
 class PhotoCommands;
@@ -23,6 +25,7 @@ class PhotoVIEW1 final : public FunctionWindow
     Q_OBJECT
 public:
     explicit PhotoVIEW1(Program &program, QWidget *parent = nullptr);
+    ~PhotoVIEW1() override;
 
     /// Everything is on the disk as soon as it is typed.
     bool isModified() const override;
@@ -61,5 +64,7 @@ private:
     ShelfCare *m_care;
     FolderCommands *m_folders;
     ShowCommands *m_shows;
+    KeepCommands *m_keep;
+    AlbumPrint *m_print;
     bool m_isBegun = false; ///< the files were looked after once
 };

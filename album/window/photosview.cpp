@@ -13,6 +13,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QPushButton>
 #include <QSettings>
 #include <QSlider>
 #include <QStackedLayout>
@@ -173,6 +174,11 @@ void PhotosView::showTitle()
 
 void PhotosView::showCount()
 {
+    const bool areMissing = m_shown.isOf(ShelfView::Kind::Missing) && m_tiles->rowCount() > 0;
+    if (m_find && m_find->isVisibleTo(this) != areMissing) {
+        m_find->setVisible(areMissing);
+        foot().rearrange();
+    }
     foot().setWords(AlbumWindowLines::count(int(chosen().size()), m_tiles->rowCount()));
 }
 
@@ -217,6 +223,13 @@ QList<int> PhotosView::chosenOrAll() const
 {
     const QList<int> marked = chosen();
     return marked.size() > 1 ? marked : records();
+}
+
+void PhotosView::addMissingButton(QPushButton *button)
+{
+    m_find = button;
+    foot().addLeft(button);
+    showCount();
 }
 
 void PhotosView::addFirstButton(QPushButton *button)

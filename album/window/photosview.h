@@ -46,6 +46,8 @@ public:
     /// Puts a button on the page that stands there while no picture is known at all; the first is the main
     /// one.
     void addFirstButton(QPushButton *button);
+    /// Puts a button into the foot while missing pictures are shown.
+    void addMissingButton(QPushButton *button);
     void setSide(int side);
     /// In which order they stand: the album's own, or the one chosen for everything else.
     PhotoAlbum::Sorting sorting() const;
@@ -80,6 +82,7 @@ private:
     QComboBox *m_order;
     QSlider *m_size;
     QStackedLayout *m_stack;
+    QPushButton *m_find = nullptr;
     EmptyPage *m_first;   ///< no picture is known
     EmptyPage *m_nothing; ///< none is in what is shown
 };

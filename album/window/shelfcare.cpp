@@ -8,9 +8,11 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -47,16 +49,29 @@ ShelfCare::ShelfCare(const AlbumDesk &desk, ActivityBar &activity, QObject *pare
     connect(&m_takeIn, &TakeIn::finished, this, &ShelfCare::finish);
     connect(&activity, &ActivityBar::stopRequested, this, &ShelfCare::stop);
     connect(&m_keeper, &TextsKeeper::said, this, &ShelfCare::said);
-    connect(&m_look, &ShelfLook::looked, this, [this] { m_keeper.catchUp(recordsOf(m_look.conflicts())); });
+    connect(&m_look, &ShelfLook::looked, this, [this] {
+        catchUp();
+        if (!std::exchange(m_hasLooked, true))
+            emit lookedFirst();
+    });
     connect(&m_look, &ShelfLook::keptInAlbum, this, [this](int record) { m_keeper.write({record}); });
     connect(&desk.shelf, &PhotoShelf::listChanged, this, &ShelfCare::watch);
 }
 
+/// What came into the folders while the album was at work before is known, or was taken off the list since.
 void ShelfCare::start()
 {
+    for (const QString &name : PhotoShelf::fileNames())
+        m_since = std::max(m_since, QFileInfo(m_desk.program.folder.filePath(name)).lastModified());
     m_look.start(m_desk.program.clock.today());
     watch();
+    m_hasBegun = true;
     readFolders();
+}
+
+void ShelfCare::catchUp()
+{
+    m_keeper.catchUp(recordsOf(m_look.conflicts()));
 }
 
 void ShelfCare::stop()
@@ -109,6 +124,10 @@ void ShelfCare::watch()
         return;
     const bool isMore =
         std::ranges::any_of(folders, [this](const QString &folder) { return !m_folders.contains(folder); });
+    for (const QString &folder : folders) {
+        if (m_hasBegun && !m_folders.contains(folder))
+            m_fresh.append(folder);
+    }
     m_folders = folders;
     if (!m_watcher.directories().isEmpty())
         m_watcher.removePaths(m_watcher.directories());
@@ -132,7 +151,9 @@ void ShelfCare::readFolders()
         if (!album.folder.isEmpty() && QDir(album.folder).exists())
             m_wishes.push_back({.wish = {.paths = {album.folder},
                                          .album = album.record,
-                                         .today = m_desk.program.clock.today()}});
+                                         .today = m_desk.program.clock.today(),
+                                         .since = m_fresh.contains(album.folder) ? QDateTime() : m_since}});
     }
+    m_fresh.clear();
     startNext();
 }

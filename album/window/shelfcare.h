@@ -29,9 +29,13 @@ public:
     void takeIn(const QStringList &paths, int album, TakeIn::Copy copy);
     bool isTakingIn() const { return m_takeIn.isRunning(); }
     ShelfLook &look() { return m_look; }
+    /// Writes into files what an album wants there from now on.
+    void catchUp();
     void stop();
 
 signals:
+    /// All files were looked at for the first time.
+    void lookedFirst();
     void said(const QString &line);
     /// Something has begun or ended.
     void changed();
@@ -58,5 +62,9 @@ private:
     QTimer m_settled; ///< nothing more happened in a folder for a while
     std::deque<Wish> m_wishes;
     Wish m_current;
+    QDateTime m_since; ///< until when the album was at work the last time
+    bool m_hasBegun = false;
+    bool m_hasLooked = false;
+    QStringList m_fresh;   ///< folders that were chosen just now, of which all is taken
     QStringList m_folders; ///< that are watched for albums
 };

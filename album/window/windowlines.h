@@ -164,6 +164,11 @@ QString shiftTitle(int count);
 QString shiftOutcome(const QString &before, const QString &after);
 QString newAlbum();
 
+inline QString keepsNoTexts()
+{
+    return u"This build cannot write into pictures: what is said of them stands in the album alone"_s;
+}
+
 inline QString watchesNone()
 {
     return u"The album watches no folder"_s;
@@ -192,6 +197,11 @@ inline QString noShift()
 inline QString takesIn()
 {
     return u"Pictures are being taken in just now"_s;
+}
+
+inline QString makesReady()
+{
+    return u"The pictures are being made ready for paper"_s;
 }
 
 inline QString whatIsChosen()
