@@ -25,6 +25,7 @@ void keeper(const Camera &camera);
 void journal(const Camera &camera);
 void calendar(const Camera &camera);
 void calendarPages(const Camera &camera);
+void photos(const Camera &camera);
 void charts(const Camera &camera);
 
 } // namespace Albums

@@ -44,6 +44,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"journal", Albums::journal},
                             Album{"calendar", Albums::calendar},
                             Album{"calendar-pages", Albums::calendarPages},
+                            Album{"album", Albums::photos},
                             Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;
