@@ -22,6 +22,7 @@
 #include "calendar/window/calendarwindow.h"
 #include "cars/model/carfiles.h"
 #include "cars/model/carnews.h"
+#include "cars/model/carpictures.h"
 #include "cars/model/carsource.h"
 #include "cars/window/automaint.h"
 #include "journal/model/journalholdings.h"
@@ -48,6 +49,7 @@
 #include "todo/window/todowindow.h"
 #include "weight/model/personfiles.h"
 #include "weight/model/weightnews.h"
+#include "weight/model/weightpictures.h"
 #include "weight/model/weightsource.h"
 #include "weight/window/weighttracker.h"
 
@@ -91,6 +93,16 @@ QStringList addressFiles(const Program &program)
 QStringList addressPictures(const Program &program)
 {
     return AddressHoldings::pictures(program.folder);
+}
+
+QStringList missingAddressPictures(const Program &program)
+{
+    return AddressHoldings::missingPictures(program.folder);
+}
+
+std::optional<UndoStep> relinkAddressPictures(const Program &program, const QHash<QString, QString> &files)
+{
+    return AddressHoldings::relinkPictures(program.folder, files);
 }
 
 std::unique_ptr<SearchSource> addressSearch(const Program &program)
@@ -207,6 +219,16 @@ QStringList carPictures(const Program &program)
     return CarFiles::pictures(program.folder);
 }
 
+QStringList missingCarPictures(const Program &program)
+{
+    return CarPictures::missing(program.folder);
+}
+
+std::optional<UndoStep> relinkCarPictures(const Program &program, const QHash<QString, QString> &files)
+{
+    return CarPictures::relink(program.folder, program.state.dateStyle, files);
+}
+
 std::unique_ptr<SearchSource> carSearch(const Program &program)
 {
     return std::make_unique<CarSource>(program.folder, program.state.dateStyle);
@@ -287,6 +309,16 @@ QStringList weightFiles(const Program &program)
 QStringList weightPictures(const Program &program)
 {
     return PersonFiles::pictures(program.folder);
+}
+
+QStringList missingWeightPictures(const Program &program)
+{
+    return WeightPictures::missing(program.folder);
+}
+
+std::optional<UndoStep> relinkWeightPictures(const Program &program, const QHash<QString, QString> &files)
+{
+    return WeightPictures::relink(program.folder, files);
 }
 
 void showPerson(QWidget &window, const Place &place)
@@ -416,7 +448,9 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                           .names = addressNames,
                                           .persons = addressPersons,
                                           .files = addressFiles,
-                                          .pictures = addressPictures});
+                                          .pictures = addressPictures,
+                                          .missingPictures = missingAddressPictures,
+                                          .relinkPictures = relinkAddressPictures});
     functions.add(Function::AddressViewer, {.open = makeWindow<ADDBKDISPLAY>});
     const int year = clock.today().year();
     const QStringList yearFiles{DayRecord::yearFileName(year), DayRecord::yearFileName(year + 1)};
@@ -460,14 +494,18 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                      .search = carSearch,
                                      .show = showCar,
                                      .files = filesOfCars,
-                                     .pictures = carPictures});
+                                     .pictures = carPictures,
+                                     .missingPictures = missingCarPictures,
+                                     .relinkPictures = relinkCarPictures});
     functions.add(Function::WeightTracker, {.open = makeWindow<WeightTracker>,
                                             .liveLine = weightNews,
                                             .moreLiveFiles = weightNewsFiles,
                                             .search = weightSearch,
                                             .show = showPerson,
                                             .files = weightFiles,
-                                            .pictures = weightPictures});
+                                            .pictures = weightPictures,
+                                            .missingPictures = missingWeightPictures,
+                                            .relinkPictures = relinkWeightPictures});
     functions.add(Function::ToDoList, {.open = makeWindow<ToDo1>,
                                        .liveLine = toDoNews,
                                        .liveFiles = ToDoFiles::names(),

@@ -4,8 +4,14 @@
 #include "addressbook/model/addressbook.h"
 #include "shell/core/dates.h"
 #include "shell/pictures/picturefolder.h"
+#include "storage/ansitext.h"
 
+#include <QDir>
+
+#include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 QStringList AddressHoldings::names(const DataFolder &folder)
 {
@@ -47,4 +53,44 @@ QStringList AddressHoldings::pictures(const DataFolder &folder)
     });
     pictures.removeDuplicates();
     return pictures;
+}
+
+QStringList AddressHoldings::missingPictures(const DataFolder &folder)
+{
+    QStringList pictures;
+    const PictureFolder places(folder);
+    AddressBook(folder).forEachLive([&](int, const AddressEntry &entry) {
+        if (entry.hasPicture() && places.locate(entry.picture).isEmpty())
+            pictures << entry.picture;
+        return true;
+    });
+    pictures.removeDuplicates();
+    return pictures;
+}
+
+std::optional<UndoStep> AddressHoldings::relinkPictures(const DataFolder &folder,
+                                                        const QHash<QString, QString> &files)
+{
+    const AddressBook book(folder);
+    std::vector<std::pair<int, QByteArray>> records;
+    book.forEachLiveRecord([&](int record, QByteArrayView bytes) {
+        const QString now = QDir::toNativeSeparators(files.value(addressLayout.decode(bytes).picture));
+        if (now.isEmpty() || !PictureFolder::isStorable(now, addressPictureWidth))
+            return true;
+        QByteArray changed = bytes.toByteArray().leftJustified(addressLayout.size(), ' ');
+        changed.replace(addressTextWidth * AddressFieldCount, addressPictureWidth,
+                        AnsiText::field(now, addressPictureWidth));
+        records.emplace_back(record, changed);
+        return true;
+    });
+    if (records.empty())
+        return UndoStep{};
+    const auto change = std::make_shared<RecordChange>();
+    for (const auto &[record, bytes] : records)
+        change->write(book.entries(), record, bytes);
+    if (!change->commit(folder))
+        return {};
+    return UndoStep{{},
+                    [change, &folder] { return change->undo(folder); },
+                    [change, &folder] { return change->redo(folder); }};
 }

@@ -3,10 +3,14 @@
 
 #include "shell/core/knownperson.h"
 #include "shell/core/programstate.h"
+#include "shell/core/undostep.h"
 
 #include <QDate>
+#include <QHash>
 #include <QList>
 #include <QStringList>
+
+#include <optional>
 
 class DataFolder;
 
@@ -24,5 +28,12 @@ QStringList files(const DataFolder &folder);
 
 /// The entries' pictures as full paths, each once; those that are not to be found are left out.
 QStringList pictures(const DataFolder &folder);
+
+/// The pictures that entries name and that are not there, as the entries have them, each once.
+QStringList missingPictures(const DataFolder &folder);
+
+/// Has the entries name other files: from what an entry has to where the file is now. A path that an entry
+/// has no room for is left out. Nothing where the disk refuses.
+std::optional<UndoStep> relinkPictures(const DataFolder &folder, const QHash<QString, QString> &files);
 
 } // namespace AddressHoldings

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "shell/core/programstate.h"
+#include "shell/core/undostep.h"
+#include "storage/datafolder.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <optional>
+
+/// The pictures that the information sheets of cars name.
+namespace CarPictures {
+
+/// Those that are named and not there, as the files have them, each once.
+QStringList missing(const DataFolder &folder);
+
+/// Names other files: from what stands there to where the file is now. Nothing where the disk refuses.
+std::optional<UndoStep> relink(const DataFolder &folder, DateStyle style,
+                               const QHash<QString, QString> &files);
+
+} // namespace CarPictures
