@@ -48,6 +48,12 @@ void ButtonRow::add(QPushButton *button, QList<QPushButton *> &group)
         setTabOrder(all[i - 1], all[i]);
 }
 
+void ButtonRow::standBehind(QWidget *before)
+{
+    for (QPushButton *button : m_left + QList<QPushButton *>{m_more} + m_right)
+        setTabOrder(std::exchange(before, button), button);
+}
+
 int ButtonRow::groupWidth(const QList<QPushButton *> &group) const
 {
     int width = 0;

@@ -19,6 +19,8 @@ public:
     /// Tab goes through the buttons from left to right.
     void addLeft(QPushButton *button) { add(button, m_left); }
     void addRight(QPushButton *button) { add(button, m_right); }
+    /// Tab comes to them behind `before`.
+    void standBehind(QWidget *before);
     /// Quiet words behind the left group; empty takes them away.
     void setWords(const QString &words);
     /// Call after buttons were shown, hidden or renamed.

@@ -90,6 +90,23 @@ void TaskPanel::leave()
     emit left();
 }
 
+void TaskPanel::orderTabs()
+{
+    QWidget *last = nullptr;
+    for (QWidget *each = nextInFocusChain(); each != this; each = each->nextInFocusChain()) {
+        if (isAncestorOf(each) && !m_foot->isAncestorOf(each) && each->focusPolicy() & Qt::TabFocus)
+            last = each;
+    }
+    if (last)
+        m_foot->standBehind(last);
+}
+
+void TaskPanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    orderTabs();
+}
+
 void TaskPanel::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)

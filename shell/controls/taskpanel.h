@@ -48,6 +48,10 @@ signals:
     void left();
 
 protected:
+    /// Puts the buttons behind the content for Tab; to be called when the content has changed.
+    void orderTabs();
+
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     /// The window has become low, or is no longer: the work has what is spared around it.
     virtual void setLow(bool isLow);

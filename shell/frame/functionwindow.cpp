@@ -157,6 +157,25 @@ Answer FunctionWindow::askAbout(const Message &question)
     return answer == Answer::Yes || answer == Answer::No ? answer : Answer::Cancel;
 }
 
+/// Left alone, it would come to a part that hands the focus on to one of its own, and pass over what stands
+/// before that one.
+bool FunctionWindow::focusNextPrevChild(bool next)
+{
+    QWidget *from = focusWidget() ? focusWidget() : this;
+    const auto step = [next](const QWidget *each) {
+        return next ? each->nextInFocusChain() : each->previousInFocusChain();
+    };
+    for (QWidget *each = step(from); each != from; each = step(each)) {
+        const bool isStop = (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !each->focusProxy();
+        if (!isStop || each == this || each->window() != this || !each->isVisibleTo(this) ||
+            !each->isEnabled())
+            continue;
+        each->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
+}
+
 void FunctionWindow::setBusy(bool busy)
 {
     m_busy = busy;

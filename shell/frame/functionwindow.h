@@ -137,6 +137,8 @@ protected:
     void finishFrame();
 
     bool event(QEvent *event) override;
+    /// Tab leads through everything in its order.
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent *event) final;
     void keyPressEvent(QKeyEvent *event) final;
     void changeEvent(QEvent *event) override;
