@@ -60,8 +60,8 @@ BarPanel::BarPanel(const Program &program, QWidget *window, QWidget *parent)
     m_remove = addButton(u"barRemove"_s, u"&Remove Bar"_s, ButtonKind::Plain, Side::Left);
     QPushButton *keep = addButton(u"barKeep"_s, u"&Keep"_s, ButtonKind::Main);
     setLeaveButton(u"barCancel"_s, u"C&ancel"_s);
-    connect(keep, &QPushButton::clicked, this, &BarPanel::accepted);
-    connect(m_text, &QLineEdit::returnPressed, this, &BarPanel::accepted);
+    connect(keep, &QPushButton::clicked, this, &BarPanel::accept);
+    connect(m_text, &QLineEdit::returnPressed, this, &BarPanel::accept);
     connect(m_remove, &QPushButton::clicked, this, &BarPanel::removeWanted);
 }
 
@@ -99,6 +99,14 @@ CalendarSpan BarPanel::span() const
     for (int each = 1; each <= CalendarSpan::tones; ++each)
         tone = m_tones[std::size_t(each - 1)]->isChecked() ? each : tone;
     return {m_days->from(), m_days->to(), tone, m_text->text().trimmed()};
+}
+
+void BarPanel::accept()
+{
+    if (const QString why = m_days->refuse(); !why.isEmpty())
+        setWords(why);
+    else
+        emit accepted();
 }
 
 void BarPanel::refuse(const QString &why)

@@ -30,6 +30,7 @@ signals:
 
 private:
     QWidget *makeTones();
+    void accept();
 
     QLineEdit *m_text;
     DaySpan *m_days;

@@ -48,7 +48,7 @@ ExportPanel::ExportPanel(const Program &program, QWidget *window, QWidget *paren
     setContent(content);
     QPushButton *save = addButton(u"journalExportSave"_s, u"Save &As..."_s, ButtonKind::Main);
     setLeaveButton(u"journalExportClose"_s, u"C&lose"_s);
-    connect(save, &QPushButton::clicked, this, &ExportPanel::accepted);
+    connect(save, &QPushButton::clicked, this, &ExportPanel::accept);
 }
 
 void ExportPanel::start(QDate shown, const QStringList &tags)
@@ -58,7 +58,16 @@ void ExportPanel::start(QDate shown, const QStringList &tags)
     m_tags->addItems(tags);
     m_which->setWhyNot(Tag, tags.isEmpty() ? JournalWindowLines::noTagYet() : QString());
     m_which->choose(All);
+    setWords({});
     setFocusProxy(m_which);
+}
+
+void ExportPanel::accept()
+{
+    const QString why = m_which->chosen() == Range ? m_days->refuse() : QString();
+    setWords(why);
+    if (why.isEmpty())
+        emit accepted();
 }
 
 JournalExport::Selection ExportPanel::selection() const

@@ -26,6 +26,8 @@ signals:
     void accepted();
 
 private:
+    void accept();
+
     enum Which { All, Range, Tag };
 
     ChoiceGrid *m_which;

@@ -37,12 +37,35 @@ void DaySpan::setDays(QDate from, QDate to)
     m_to->setDate(to);
 }
 
-QDate DaySpan::from() const
+QDate DaySpan::first() const
 {
     return m_from->date().value_or(m_fromSet);
 }
 
+QDate DaySpan::second() const
+{
+    return m_to->date().value_or(m_toSet);
+}
+
+QDate DaySpan::from() const
+{
+    return std::min(first(), second());
+}
+
 QDate DaySpan::to() const
 {
-    return std::max(from(), m_to->date().value_or(m_toSet));
+    return std::max(first(), second());
+}
+
+QString DaySpan::refuse()
+{
+    for (DateBox *box : {m_from, m_to}) {
+        if (box->date())
+            continue;
+        box->setFocus();
+        box->selectAll();
+        return box->text().trimmed().isEmpty() ? u"Both days are needed"_s
+                                               : box->text().trimmed() + u" is no date"_s;
+    }
+    return {};
 }

@@ -18,10 +18,15 @@ public:
     void setDays(QDate from, QDate to);
     /// As it was set where the box holds no date.
     QDate from() const;
-    /// The same; never before the first.
+    /// The same; never before the first: days the wrong way round are turned.
     QDate to() const;
+    /// Why these are no days, with the focus in the box that holds none; empty where both hold a date.
+    QString refuse();
 
 private:
+    QDate first() const;
+    QDate second() const;
+
     DateBox *m_from;
     DateBox *m_to;
     QDate m_fromSet;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/controls/datebox.h"
 #include "shell/controls/datepicker.h"
+#include "shell/controls/dayspan.h"
 #include "shell/controls/monthview.h"
 #include "shell/core/settingskeys.h"
 #include "shell/look/theme.h"
@@ -214,6 +215,27 @@ private slots:
         QCOMPARE(m_month->verticalHeaderFormat(), QCalendarWidget::NoVerticalHeader);
         QVERIFY(m_test.settings.setNumber(SettingsKeys::calendarWeekNumbers, 0));
         QVERIFY(m_test.settings.setNumber(SettingsKeys::calendarWeekStart, 1));
+    }
+
+    void aSpanOfDaysIsOneOnlyWithTwoDates_data()
+    {
+        rows<QString, QString, QString, QString>({
+            {"in order", u"Nov-05-2026"_s, u"Nov-09-2026"_s, u"05 to 09"_s, QString()},
+            {"the wrong way round", u"Nov-09-2026"_s, u"Nov-05-2026"_s, u"05 to 09"_s, QString()},
+            {"no date", u"Nov-31-2026"_s, u"Nov-05-2026"_s, u"01 to 05"_s, u"Nov-31-2026 is no date"_s},
+            {"nothing", u"Nov-05-2026"_s, QString(), u"05 to 21"_s, u"Both days are needed"_s},
+        });
+    }
+
+    void aSpanOfDaysIsOneOnlyWithTwoDates()
+    {
+        const auto [from, to, days, why] = row<QString, QString, QString, QString>();
+        DaySpan span(u"some"_s, {m_style, m_test.clock}, m_test.settings, m_window.get(), m_window.get());
+        span.setDays(QDate(2026, 11, 1), QDate(2026, 11, 21));
+        control<DateBox>(span, "someFrom")->setText(from);
+        control<DateBox>(span, "someTo")->setText(to);
+        QCOMPARE(span.from().toString(u"dd"_s) + u" to "_s + span.to().toString(u"dd"_s), days);
+        QCOMPARE(span.refuse(), why);
     }
 
 private:
