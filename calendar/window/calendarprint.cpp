@@ -57,7 +57,7 @@ void CalendarPrint::openPanel(bool isForPdf)
     if (!m_panel) {
         m_panel = new CalendarPrintPanel;
         m_desk.views.addPanel(m_panel);
-        connect(m_panel, &CalendarPrintPanel::pagesWanted, this, &CalendarPrint::showPages);
+        connect(m_panel, &PrintPanel::accepted, this, &CalendarPrint::showPages);
         connect(m_panel, &CalendarPrintPanel::pdfWanted, this, &CalendarPrint::savePdf);
     }
     m_desk.window.closePreview();

@@ -5,12 +5,10 @@
 #include "shell/controls/choicegrid.h"
 
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLocale>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,28 +17,14 @@ constexpr int monthWidth = 112;
 } // namespace
 
 CalendarPrintPanel::CalendarPrintPanel(QWidget *parent)
-    : TaskPanel(u"calendarPrintPanel"_s, u"Print Options"_s, parent)
-    , m_what(new ChoiceGrid(u"printWhat"_s, this))
+    : PrintPanel(u"calendarPrint"_s, parent)
 {
-    auto *content = new QWidget(this);
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins({});
-    column->setSpacing(8);
-    column->addWidget(makeHeading(u"What is printed"_s, content));
-    m_what->add(u"All mo&nths"_s);
-    m_what->add(u"The &month shown"_s);
-    m_what->add(u"&From"_s, makeRange());
-    column->addWidget(m_what);
-    column->addStretch(1);
-    setContent(content);
-    m_pages = addButton(u"calendarPrintShow"_s, u"Show &Pages"_s);
+    what().add(u"All mon&ths"_s);
+    what().add(u"The &month shown"_s);
+    what().add(u"&From"_s, makeRange());
+    m_pages = compose();
     m_pdf = addButton(u"calendarPrintPdf"_s, u"Save &as PDF..."_s);
-    QPushButton *close = setLeaveButton(u"calendarPrintClose"_s, u"C&lose"_s);
-    QWidget *last = m_what->lastInTab();
-    for (QWidget *button : {m_pages, m_pdf, close})
-        setTabOrder(std::exchange(last, button), button);
-    setFocusProxy(m_what);
-    connect(m_pages, &QPushButton::clicked, this, &CalendarPrintPanel::pagesWanted);
+    addClose();
     connect(m_pdf, &QPushButton::clicked, this, &CalendarPrintPanel::pdfWanted);
 }
 
@@ -77,30 +61,27 @@ void CalendarPrintPanel::start(const WallCalendar &calendar, QDate month, bool i
     }
     m_from->setCurrentIndex(m_shown);
     m_to->setCurrentIndex(calendar.months - 1);
-    m_what->choose(isForPdf ? All : ThisMonth);
+    what().choose(isForPdf ? All : ThisMonth);
     m_isForPdf = isForPdf;
     setButtonKind(m_pages, isForPdf ? ButtonKind::Plain : ButtonKind::Main);
     setButtonKind(m_pdf, isForPdf ? ButtonKind::Main : ButtonKind::Plain);
 }
 
-/// Enter on a choice takes it.
-void CalendarPrintPanel::keyPressEvent(QKeyEvent *event)
+void CalendarPrintPanel::accept()
 {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
-        TaskPanel::keyPressEvent(event);
-    else if (m_isForPdf)
+    if (m_isForPdf)
         emit pdfWanted();
     else
-        emit pagesWanted();
+        PrintPanel::accept();
 }
 
 QList<int> CalendarPrintPanel::sheets() const
 {
     int from = 0;
     int to = m_calendar.months - 1;
-    if (m_what->chosen() == ThisMonth) {
+    if (what().chosen() == ThisMonth) {
         from = to = m_shown;
-    } else if (m_what->chosen() == Range) {
+    } else if (what().chosen() == Range) {
         from = std::clamp(m_from->currentIndex(), 0, to);
         to = std::clamp(m_to->currentIndex(), from, to);
     }

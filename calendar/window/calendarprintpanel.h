@@ -2,13 +2,12 @@
 #pragma once
 
 #include "calendar/model/wallcalendar.h"
-#include "shell/controls/taskpanel.h"
+#include "shell/preview/printpanel.h"
 
-class ChoiceGrid;
 class QComboBox;
 
 /// "Print": which months of a calendar come onto paper, or into a PDF.
-class CalendarPrintPanel final : public TaskPanel
+class CalendarPrintPanel final : public PrintPanel
 {
     Q_OBJECT
 public:
@@ -20,11 +19,10 @@ public:
     QList<int> sheets() const;
 
 signals:
-    void pagesWanted();
     void pdfWanted();
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    void accept() override;
 
 private:
     enum What { All, ThisMonth, Range };
@@ -34,7 +32,6 @@ private:
     WallCalendar m_calendar;
     bool m_isForPdf = false;
     int m_shown = 0; ///< the month that is shown, from 0
-    ChoiceGrid *m_what;
     QComboBox *m_from = nullptr;
     QComboBox *m_to = nullptr;
     QPushButton *m_pages = nullptr;

@@ -107,7 +107,7 @@ void JournalPrint::print()
     const QString tag = m_panel->tag();
     const int year = m_panel->year();
     m_desk.preview().setPaper(m_panel->paper());
-    switch (m_panel->what()) {
+    switch (m_panel->chosen()) {
     case JournalPrintPanel::Day:
         show(
             day, day, {},

@@ -4,7 +4,6 @@
 #include "journal/window/windowlines.h"
 #include "shell/controls/choicegrid.h"
 #include "shell/controls/dayspan.h"
-#include "shell/controls/taborder.h"
 #include "shell/core/dates.h"
 #include "shell/program/program.h"
 
@@ -15,7 +14,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,9 +27,8 @@ constexpr int lastYear = 9999;
 } // namespace
 
 JournalPrintPanel::JournalPrintPanel(const Program &program, QWidget *window, QWidget *parent)
-    : TaskPanel(u"journalPrintPanel"_s, u"Print Options"_s, parent)
+    : PrintPanel(u"journalPrint"_s, parent)
     , m_program(program)
-    , m_what(new ChoiceGrid(u"printWhat"_s, this))
     , m_days(
           new DaySpan(u"print"_s, {program.state.dateStyle, program.clock}, program.settings, window, this))
     , m_tags(named(new QComboBox(this), u"printTag"_s))
@@ -41,26 +38,10 @@ JournalPrintPanel::JournalPrintPanel(const Program &program, QWidget *window, QW
     , m_newSheets(named(new QCheckBox(u"Each day on a &new sheet"_s, this), u"printNewSheets"_s))
     , m_facts(named(new QCheckBox(u"What other fun&ctions have for the days"_s, this), u"printFacts"_s))
 {
-    auto *content = new QWidget(this);
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins({});
-    column->setSpacing(8);
-    column->addWidget(makeHeading(u"What is printed"_s, content));
     fillChoices();
-    column->addWidget(m_what);
-    column->addSpacing(8);
-    column->addWidget(makeHeading(u"How"_s, content));
-    QWidget *how = makeHow();
-    column->addWidget(how);
-    column->addStretch(1);
-    setContent(content);
-    QPushButton *show = addButton(u"journalPrintShow"_s, u"Show &Pages"_s, ButtonKind::Main);
-    QPushButton *close = setLeaveButton(u"journalPrintClose"_s, u"C&lose"_s);
-    QWidget *last = TabOrder::follow(*how->layout(), m_what->lastInTab());
-    for (QWidget *button : {show, close})
-        setTabOrder(std::exchange(last, button), button);
-    connect(show, &QPushButton::clicked, this, &JournalPrintPanel::accepted);
-    connect(m_what, &ChoiceGrid::chosenChanged, this, &JournalPrintPanel::follow);
+    compose(makeHow());
+    addClose();
+    connect(&what(), &ChoiceGrid::chosenChanged, this, &JournalPrintPanel::follow);
 }
 
 void JournalPrintPanel::fillChoices()
@@ -71,18 +52,16 @@ void JournalPrintPanel::fillChoices()
     m_year->setRange(firstYear, lastYear);
     m_year->setFixedWidth(boxWidth(u"20266"_s, 96));
     m_year->setMinimumHeight(m_tags->sizeHint().height());
-    m_what->add(u"The &day that is shown"_s);
-    m_what->add(u"The d&ays"_s, m_days);
-    m_what->add(u"All entries with the &tag"_s, m_tags);
-    m_what->add(u"The &month as a calendar"_s);
-    m_what->add(u"The &yearbook of"_s, m_year);
+    what().add(u"The &day that is shown"_s);
+    what().add(u"The d&ays"_s, m_days);
+    what().add(u"All entries with the &tag"_s, m_tags);
+    what().add(u"The &month as a calendar"_s);
+    what().add(u"The &yearbook of"_s, m_year);
 }
 
-QWidget *JournalPrintPanel::makeHow()
+QLayout *JournalPrintPanel::makeHow()
 {
-    auto *how = new QWidget(this);
-    auto *column = new QVBoxLayout(how);
-    column->setContentsMargins({});
+    auto *column = new QVBoxLayout;
     column->setSpacing(8);
     fillBoxes();
     m_newSheets->setChecked(m_program.store.value(keys + "newSheets"_L1, false).toBool());
@@ -103,7 +82,7 @@ QWidget *JournalPrintPanel::makeHow()
             [this](bool isOn) { m_program.store.setValue(keys + "newSheets"_L1, isOn); });
     connect(m_facts, &QCheckBox::toggled, this,
             [this](bool isOn) { m_program.store.setValue(keys + "facts"_L1, isOn); });
-    return how;
+    return column;
 }
 
 /// With what was chosen the last time.
@@ -130,22 +109,27 @@ void JournalPrintPanel::start(QDate shown, const QStringList &tags)
     m_year->setValue(shown.year());
     m_tags->clear();
     m_tags->addItems(tags);
-    m_what->setWhyNot(Tag, tags.isEmpty() ? JournalWindowLines::noTagYet() : QString());
-    m_what->choose(Day);
-    setFocusProxy(m_what);
+    what().setWhyNot(Tag, tags.isEmpty() ? JournalWindowLines::noTagYet() : QString());
+    what().choose(Day);
+    setWords({});
     follow();
 }
 
 void JournalPrintPanel::follow()
 {
-    m_newSheets->setEnabled(what() == Range || what() == Tag || what() == Yearbook);
-    m_pictures->setEnabled(what() != Month);
-    m_facts->setEnabled(what() != Month);
+    m_newSheets->setEnabled(chosen() == Range || chosen() == Tag || chosen() == Yearbook);
+    m_pictures->setEnabled(chosen() != Month);
+    m_facts->setEnabled(chosen() != Month);
 }
 
-JournalPrintPanel::What JournalPrintPanel::what() const
+QString JournalPrintPanel::refuse()
 {
-    return What(m_what->chosen());
+    return chosen() == Range ? m_days->refuse() : QString();
+}
+
+JournalPrintPanel::What JournalPrintPanel::chosen() const
+{
+    return What(what().chosen());
 }
 
 QDate JournalPrintPanel::from() const

@@ -2,17 +2,17 @@
 #pragma once
 
 #include "journal/model/journalpages.h"
-#include "shell/controls/taskpanel.h"
+#include "shell/preview/printpanel.h"
 
-class ChoiceGrid;
 class DaySpan;
 class QCheckBox;
 class QComboBox;
+class QLayout;
 class QSpinBox;
 struct Program;
 
 /// "Print": what of the journal comes onto paper, and how.
-class JournalPrintPanel final : public TaskPanel
+class JournalPrintPanel final : public PrintPanel
 {
     Q_OBJECT
 public:
@@ -23,7 +23,7 @@ public:
     /// Offers what the journal has; the day that is shown is proposed.
     void start(QDate shown, const QStringList &tags);
 
-    What what() const;
+    What chosen() const;
     QDate from() const;
     QDate to() const;
     QString tag() const;
@@ -32,17 +32,16 @@ public:
     /// The sheet, upright.
     QSizeF paper() const;
 
-signals:
-    void accepted();
+protected:
+    QString refuse() override;
 
 private:
     void fillChoices();
     void fillBoxes();
-    QWidget *makeHow();
+    QLayout *makeHow();
     void follow();
 
     const Program &m_program;
-    ChoiceGrid *m_what;
     DaySpan *m_days;
     QComboBox *m_tags;
     QSpinBox *m_year;

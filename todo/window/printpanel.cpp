@@ -10,8 +10,6 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
-#include <utility>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -52,58 +50,43 @@ QString captionOf(int what)
 } // namespace
 
 ToDoPrintPanel::ToDoPrintPanel(const Program &program, QWidget *window, QWidget *parent)
-    : TaskPanel(u"toDoPrintPanel"_s, u"Print Options"_s, parent)
+    : PrintPanel(u"toDoPrint"_s, parent)
     , m_program(program)
-    , m_what(new ChoiceGrid(u"printWhat"_s, this))
     , m_lists(named(new QComboBox(this), u"printList"_s))
     , m_persons(named(new QComboBox(this), u"printPerson"_s))
     , m_days(
           new DaySpan(u"print"_s, {program.state.dateStyle, program.clock}, program.settings, window, this))
 {
-    auto *content = new QWidget(this);
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins({});
-    column->setSpacing(8);
-    column->addWidget(makeHeading(u"What is printed"_s, content));
     fillChoices();
-    column->addWidget(m_what);
-    column->addSpacing(8);
-    column->addWidget(makeHeading(u"How"_s, content));
-    makeLook(*column);
-    column->addStretch(1);
-    setContent(content);
-    QPushButton *show = addButton(u"toDoPrintShow"_s, u"Show &Pages"_s, ButtonKind::Main);
-    QPushButton *close = setLeaveButton(u"toDoPrintClose"_s, u"C&lose"_s);
-    QWidget *last = m_what->lastInTab();
-    for (QCheckBox *look : m_look)
-        setTabOrder(std::exchange(last, look), look);
-    for (QWidget *button : {show, close})
-        setTabOrder(std::exchange(last, button), button);
-    connect(show, &QPushButton::clicked, this, &ToDoPrintPanel::accepted);
+    compose(makeLook());
+    addClose();
 }
 
 void ToDoPrintPanel::fillChoices()
 {
     const std::array<QWidget *, 5> besides{m_lists, nullptr, nullptr, m_persons, m_days};
-    for (int what = Options::List; what <= Options::Done; ++what)
-        m_what->add(captionOf(what), besides[std::size_t(what)]);
+    for (int each = Options::List; each <= Options::Done; ++each)
+        what().add(captionOf(each), besides[std::size_t(each)]);
     for (QComboBox *box : {m_lists, m_persons}) {
         box->setAccessibleName(captionOf(box == m_lists ? Options::List : Options::Persons));
         box->setFixedWidth(boxWidth({}, boxesWidth));
     }
 }
 
-void ToDoPrintPanel::makeLook(QVBoxLayout &column)
+QLayout *ToDoPrintPanel::makeLook()
 {
+    auto *column = new QVBoxLayout;
+    column->setSpacing(8);
     for (std::size_t i = 0; i < looks.size(); ++i) {
         const Look &look = looks[i];
         auto *box = named(new QCheckBox(look.caption.toString(), this), look.name);
         box->setChecked(m_program.store.value(keys + look.name, Options().*look.option).toBool());
         connect(box, &QCheckBox::toggled, this,
                 [this, name = look.name](bool isOn) { m_program.store.setValue(keys + name, isOn); });
-        column.addWidget(box);
+        column->addWidget(box);
         m_look[i] = box;
     }
+    return column;
 }
 
 void ToDoPrintPanel::start(const ToDoSheet &sheet, const Shown &shown)
@@ -119,19 +102,24 @@ void ToDoPrintPanel::start(const ToDoSheet &sheet, const Shown &shown)
         m_persons->addItem(person, person);
     const QDate today = m_program.clock.today();
     m_days->setDays(today.addDays(1 - usualDays), today);
-    const int what = shown.kind == Shown::List       ? Options::List
-                     : shown.kind == Shown::ByPerson ? Options::Persons
-                     : shown.kind == Shown::Done     ? Options::Done
-                     : shown.kind == Shown::Today    ? Options::Today
-                                                     : Options::AllLists;
-    m_what->choose(what);
-    setFocusProxy(m_what);
+    const int proposed = shown.kind == Shown::List       ? Options::List
+                         : shown.kind == Shown::ByPerson ? Options::Persons
+                         : shown.kind == Shown::Done     ? Options::Done
+                         : shown.kind == Shown::Today    ? Options::Today
+                                                         : Options::AllLists;
+    what().choose(proposed);
+    setWords({});
+}
+
+QString ToDoPrintPanel::refuse()
+{
+    return what().chosen() == Options::Done ? m_days->refuse() : QString();
 }
 
 Options ToDoPrintPanel::options() const
 {
     Options options;
-    options.what = Options::What(m_what->chosen());
+    options.what = Options::What(what().chosen());
     options.list = m_lists->currentData().toInt();
     options.person = m_persons->currentData().toString();
     options.from = m_days->from();

@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "shell/controls/taskpanel.h"
+#include "shell/preview/printpanel.h"
 #include "todo/model/shown.h"
 #include "todo/model/todopages.h"
 
 #include <array>
 
-class ChoiceGrid;
 class DaySpan;
 class QCheckBox;
 class QComboBox;
-class QVBoxLayout;
+class QLayout;
 struct Program;
 
 /// "Print": what of the lists comes onto paper, and how.
-class ToDoPrintPanel final : public TaskPanel
+class ToDoPrintPanel final : public PrintPanel
 {
     Q_OBJECT
 public:
@@ -25,15 +24,14 @@ public:
     void start(const ToDoSheet &sheet, const Shown &shown);
     ToDoPages::Options options() const;
 
-signals:
-    void accepted();
+protected:
+    QString refuse() override;
 
 private:
     void fillChoices();
-    void makeLook(QVBoxLayout &column);
+    QLayout *makeLook();
 
     const Program &m_program;
-    ChoiceGrid *m_what;
     QComboBox *m_lists;
     QComboBox *m_persons;
     DaySpan *m_days;
