@@ -86,7 +86,10 @@ void FillPanel::showRows()
     m_none->setVisible(m_rows.isEmpty());
     const auto boxes = m_list->findChildren<QCheckBox *>(u"fillRow_0"_s);
     setFocusProxy(boxes.isEmpty() ? static_cast<QWidget *>(m_fill) : boxes.last());
-    m_list->setPalette({}); // the new ones take the colours of the panel
+    // The new ones take the colours of the panel, which are handed on only when they change.
+    m_list->setPalette(m_list->palette());
+    m_list->setPalette({});
+    orderTabs();
     showPlan();
 }
 

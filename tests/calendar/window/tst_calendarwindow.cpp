@@ -375,6 +375,35 @@ private slots:
         asked();
     }
 
+    void tabLeadsThroughAllOfAPanel_data()
+    {
+        rows<QByteArray, QStringList>({
+            {"the sheet", {}, {u"calendarSearch"_s, u"calendars"_s, u"fillButton"_s, u"exitButton"_s}},
+            {"a new calendar", "mCNew", {u"calendarTitle"_s, u"newCalendarMake"_s, u"newCalendarCancel"_s}},
+            {"a fill", "mCFill", {u"fillRow_0"_s, u"fillNow"_s, u"fillClose"_s}},
+            {"what is printed", "mOPrt", {u"printWhat_1"_s, u"calendarPrintShow"_s, u"calendarPrintClose"_s}},
+        });
+    }
+
+    void tabLeadsThroughAllOfAPanel()
+    {
+        const auto [command, names] = row<QByteArray, QStringList>();
+        open(march());
+        if (!command.isEmpty())
+            trigger(command.constData());
+        QStringList reached;
+        for (int i = 0; i < 60; ++i) {
+            reached.append(m_window->focusWidget()->objectName());
+            key(Qt::Key_Tab);
+        }
+        qsizetype before = reached.indexOf(names.first());
+        for (const QString &name : names) {
+            const qsizetype at = reached.indexOf(name, before);
+            QVERIFY2(at >= before && before >= 0, qPrintable(name + u" of "_s + reached.join(u' ')));
+            before = at;
+        }
+    }
+
     void searchesTheCalendar()
     {
         open(march(typed("2027-03-14", "Anne's concert") + typed("2027-03-20", "Concert of the choir")));
