@@ -5,7 +5,11 @@
 #include "shell/pages/laidgrid.h"
 
 /// Where the lines below grids of numbers stand.
-enum class NotesPlace { Below, InList };
+enum class NotesPlace {
+    Below,
+    Running, ///< below, side by side where they have no room otherwise
+    InList
+};
 
 /// Lays out what stands in the frame of a grid, by its form.
 namespace GridBlocks {

@@ -26,12 +26,13 @@ public:
     /// Of one line with the gap to the next entry.
     static double lineHeight(const GridFrame &frame) { return frame.pitch() + gap; }
     static double heightOf(const GridFrame &frame, const LaidLine &line);
+    /// Of the words of an entry of one line.
+    static double widthOf(const GridFrame &frame, const LaidLine &line);
 
 private:
     static constexpr double gap = 1; ///< between two entries
 
     void add(const GridFrame &frame, LaidLine line, double width);
-    static double widthOf(const GridFrame &frame, const LaidLine &line);
 
     qsizetype m_first;
     std::vector<LaidLine> m_lines;

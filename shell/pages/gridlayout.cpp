@@ -19,7 +19,8 @@ namespace {
 constexpr double photoGap = 14;
 constexpr double captionHeight = 14;
 constexpr double headGap = 6;
-constexpr double mostOfBody = 0.6; ///< for the list at the foot
+constexpr double mostOfBody = 0.6;    ///< for the list at the foot
+constexpr double mostInColumns = 0.3; ///< for one in columns
 constexpr double leastPhoto =
     0.25; ///< of the sheet's height, or of its own column, when lists take its place
 constexpr double photoStep = 0.05;
@@ -181,7 +182,7 @@ std::vector<GridRest::Entry> GridLayout::leftBelowPhoto()
     if (m_photoColumn.isEmpty())
         return leftLines();
     m_beside = GridRest(*m_types, m_grid->restTitle, leftLines(), m_photoColumn.width(),
-                        m_photoColumn.height() * (1 - m_photoShare));
+                        m_photoColumn.height() * (1 - m_photoShare), m_listForm);
     return m_beside.takeLeftOut();
 }
 
@@ -199,9 +200,9 @@ double GridLayout::mostRest() const
 void GridLayout::layOutWithRest()
 {
     // All of them stand in one place, below their grids or in the list.
-    m_notes = m_grid->hasCutMarks ? NotesPlace::Below : NotesPlace::InList;
+    m_notes = m_grid->hasCutMarks ? NotesPlace::Running : NotesPlace::InList;
     layOut(0);
-    while (!settle(mostRest())) {
+    while (!settle()) {
         if (!lowerPhoto()) {
             chooseLeastLeft(mostRest());
             break;
@@ -217,13 +218,27 @@ void GridLayout::layOutWithRest()
     listTheOthers();
 }
 
+/// A list in columns, which is read most easily, as long as that leaves the grids their room; else one in
+/// which lines stand side by side.
+bool GridLayout::settle()
+{
+    const double most = mostRest();
+    m_listForm = GridRest::Form::Columns;
+    if (settleWithin(std::min(most, m_body.height() * mostInColumns)))
+        return true;
+    m_listForm = GridRest::Form::Running;
+    layOut(0);
+    return settleWithin(most);
+}
+
 /// Gives the list the height that it needs, which takes room from the grids, so that it needs more. False
 /// where it would need too much.
-bool GridLayout::settle(double most)
+bool GridLayout::settleWithin(double most)
 {
     double given = 0;
     for (int round = 0; round < mostRounds; ++round) {
-        m_lists.assign(1, GridRest(*m_types, m_grid->restTitle, leftBelowPhoto(), m_body.width(), most));
+        m_lists.assign(
+            1, GridRest(*m_types, m_grid->restTitle, leftBelowPhoto(), m_body.width(), most, m_listForm));
         if (m_lists.front().leftOut() > 0)
             return false;
         if (m_lists.front().height() <= given + 0.05)
@@ -241,7 +256,8 @@ void GridLayout::chooseLeastLeft(double most)
     int fewest = std::numeric_limits<int>::max();
     const auto tryHeight = [&](double height) {
         layOut(height);
-        m_lists.assign(1, GridRest(*m_types, m_grid->restTitle, leftBelowPhoto(), m_body.width(), height));
+        m_lists.assign(
+            1, GridRest(*m_types, m_grid->restTitle, leftBelowPhoto(), m_body.width(), height, m_listForm));
         return m_lists.front().leftOut();
     };
     for (int i = 0; i <= heightsTried; ++i) {
@@ -260,7 +276,11 @@ void GridLayout::listTheOthers()
     while (m_lists.back().leftOut() > 0) {
         const double top = m_margins.top() + m_head.height();
         const double height = m_margins.bottom() - top;
-        GridRest next(*m_types, m_grid->restTitle, m_lists.back().takeLeftOut(), m_margins.width(), height);
+        const std::vector<GridRest::Entry> left = m_lists.back().takeLeftOut();
+        GridRest next(*m_types, m_grid->restTitle, left, m_margins.width(), height);
+        if (next.leftOut() > 0)
+            next = GridRest(*m_types, m_grid->restTitle, left, m_margins.width(), height,
+                            GridRest::Form::Running);
         if (next.height() <= 0)
             break; // a sheet too small for any line
         next.moveTo({m_margins.left(), top});

@@ -76,7 +76,8 @@ private:
     bool lowerPhoto();
     void paintGrids(const GridPainter &grid) const;
     void paintAround(const GridPainter &grid, QPainter &painter, int part) const;
-    bool settle(double most);
+    bool settle();
+    bool settleWithin(double most);
     void chooseLeastLeft(double most);
     void listTheOthers();
 
@@ -93,6 +94,7 @@ private:
     std::vector<Block> m_blocks;
     GridFrame::Lines m_lines = GridFrame::Lines::Stacked;
     NotesPlace m_notes = NotesPlace::Below;
+    GridRest::Form m_listForm = GridRest::Form::Columns;
     GridRest m_beside;             ///< below the photo
     std::vector<GridRest> m_lists; ///< one a sheet
     int m_restCount = 0;

@@ -16,6 +16,7 @@ constexpr double leadGap = 4;
 constexpr double columnGap = 8;
 constexpr double narrowest = 76; ///< column of notes
 constexpr double gap = 1;
+constexpr double besideGap = 1.3; ///< sizes of the letters, between two side by side
 
 double leadWidth(const GridFrame &frame)
 {
@@ -58,14 +59,57 @@ Notes notesIn(const GridFrame &frame, const QRectF &place, int across)
     return notes;
 }
 
-/// In as few columns as hold the most of them.
-Notes bestNotes(const GridFrame &frame, const QRectF &place)
+/// Side by side in the whole width, each day behind its number.
+Notes runningNotes(const GridFrame &frame, const QRectF &place)
 {
+    const PageType &strong = frame.types().line(frame.points(), GridTypes::Strong);
+    const double apart = besideGap * frame.points();
+    Notes notes;
+    QPointF next = place.topLeft();
+    const GridLine *last = nullptr;
+    for (const GridLine &note : frame.block().notes) {
+        const bool isSameDay = last && last->lead == note.lead;
+        const double lead = isSameDay ? 0 : strong.width(note.lead) + leadGap;
+        LaidLine line = GridEntries::wrapped(frame, note, place.width() - lead);
+        const double width = std::min(place.width(), lead + line.lead + GridEntries::widthOf(frame, line));
+        const double before = next.x() > place.left() ? apart : 0;
+        const bool isBeside = line.words.size() == 1 && next.x() + before + width <= place.right();
+        if (isBeside)
+            next.rx() += before;
+        else if (next.x() > place.left())
+            next = {place.left(), next.y() + frame.pitch() + gap};
+        line.hasLead = !isSameDay;
+        line.isBesideLast = isSameDay && isBeside && before > 0;
+        line.lead += lead;
+        const double height = GridEntries::heightOf(frame, line);
+        if (next.y() + height > place.bottom() + 0.05) {
+            notes.areAll = false;
+            break;
+        }
+        line.rect = QRectF(next, QSizeF(line.words.size() == 1 ? width : place.width(), height));
+        next =
+            line.words.size() == 1 ? line.rect.topRight() : QPointF(place.left(), line.rect.bottom() + gap);
+        notes.height = line.rect.bottom() + gap - place.top();
+        notes.laid.push_back(std::move(line));
+        last = &note;
+    }
+    return notes;
+}
+
+/// In as few columns as hold the most of them, or side by side where that holds more.
+Notes bestNotes(const GridFrame &frame, const QRectF &place, NotesPlace how)
+{
+    if (how == NotesPlace::InList)
+        return {};
     const int most = std::max(1, int((place.width() + columnGap) / (narrowest + columnGap)));
     Notes best = notesIn(frame, place, 1);
     for (int across = 2; across <= most && !best.areAll; ++across) {
         Notes notes = notesIn(frame, place, across);
         if (notes.laid.size() > best.laid.size())
+            best = std::move(notes);
+    }
+    if (!best.areAll && how == NotesPlace::Running) {
+        if (Notes notes = runningNotes(frame, place); notes.laid.size() > best.laid.size())
             best = std::move(notes);
     }
     return best;
@@ -122,7 +166,7 @@ LaidBlock GridBlocks::numbers(const GridFrame &frame, NotesPlace place)
     block.least += least;
     QRectF below = frame.rect();
     below.setTop(body.top() + least + notesGap);
-    const Notes needed = place == NotesPlace::Below ? bestNotes(frame, below) : Notes{};
+    const Notes needed = bestNotes(frame, below, place);
     const double free = body.height() - (needed.laid.empty() ? 0 : needed.height + notesGap);
     // As if it were six weeks, so that the rows of months beside one another are as high.
     const double even = std::min(free / rowsOfMonth, frame.columnWidth() * mostRow);
@@ -134,7 +178,7 @@ LaidBlock GridBlocks::numbers(const GridFrame &frame, NotesPlace place)
         top += height;
     }
     below.setTop(std::min(top, body.bottom()) + notesGap);
-    Notes notes = place == NotesPlace::Below ? bestNotes(frame, below) : Notes{};
+    Notes notes = bestNotes(frame, below, place);
     const QList<GridLine> &all = frame.block().notes;
     for (qsizetype i = qsizetype(notes.laid.size()); i < all.size(); ++i)
         block.left.push_back({nullptr, all[i]});

@@ -286,7 +286,7 @@ void GridPainter::paintEntry(const GridFrame &frame, const LaidLine &line) const
                          top.y() + type.baseline() - frame.points() * 0.3);
         round(QRectF(at - QPointF(size, size) / 2, QSizeF(size, size)), size / 2, GridColors::quiet);
     }
-    if (!line.line->lead.isEmpty())
+    if (line.hasLead && !line.line->lead.isEmpty())
         m_types.line(frame.points(), GridTypes::Strong).draw(m_painter, top, line.line->lead);
     for (qsizetype i = 0; i < line.words.size(); ++i)
         type.draw(m_painter, top + QPointF(lead + (i > 0 ? line.indent : 0), double(i) * frame.pitch()),

@@ -22,6 +22,9 @@ constexpr double columnGap = 14;
 constexpr double leadGap = 5;
 constexpr double gap = 1;
 constexpr double hanging = 6;
+constexpr double besideGap = 10; ///< between two of a day that stand side by side
+constexpr double dayGap = 16;    ///< before another day
+constexpr double dot = 1.4;
 constexpr double square = 7.5; ///< of a tone, with the gap behind it
 constexpr double pitch = GridTypes::pitch(points);
 constexpr qsizetype mostTogether = 15; ///< lines of an entry
@@ -29,15 +32,19 @@ constexpr qsizetype mostTogether = 15; ///< lines of an entry
 } // namespace
 
 GridRest::GridRest(const GridTypes &types, const QString &title, std::vector<Entry> entries, double width,
-                   double most)
+                   double most, Form form)
     : m_title(title)
     , m_entries(std::move(entries))
     , m_width(width)
 {
     if (m_entries.empty())
         return;
-    m_lead = leadOf(types);
     const double room = std::max(0.0, most - above - titleHeight);
+    if (form == Form::Running && run(types, room))
+        return;
+    const double lead = leadOf(types);
+    for (Entry &entry : m_entries)
+        entry.lead = lead;
     layOut(types.line(points), width < 2 * narrowest ? narrow : narrowest, room);
     if (leftOut() > 0)
         layOut(types.line(points), narrow, room);
@@ -82,15 +89,14 @@ void GridRest::wrapEntries(const PageType &type, double room)
             parts.push_back(std::move(entry));
             continue;
         }
-        const double lead = entry.tone > 0 ? square : 0;
-        const QStringList words = type.wrappedFast(entry.text, m_column - m_lead - lead - hanging);
+        const double lead = entry.lead + (entry.tone > 0 ? square : 0);
+        const QStringList words = type.wrappedFast(entry.text, m_column - lead - hanging);
         for (qsizetype from = 0; from < words.size(); from += mostTogether) {
             Entry &part = parts.emplace_back(entry);
             part.words = words.mid(from, mostTogether);
             if (words.size() > mostTogether)
                 part.text = part.words.join(u' ');
-            if (from > 0)
-                part.name.clear();
+            part.hasName = entry.hasName && from == 0;
             m_heights.push_back(double(part.words.size()) * pitch + gap);
             height += m_heights.back();
         }
@@ -116,6 +122,60 @@ bool GridRest::fill(double columnHeight)
         y += height;
     }
     return m_placed == m_entries.size();
+}
+
+/// Side by side in the whole width. A day begins with its name. False where not even the first has room.
+bool GridRest::run(const GridTypes &types, double room)
+{
+    std::vector<Entry> running = m_entries;
+    QPointF next(0, above + titleHeight);
+    std::size_t placed = 0;
+    for (; placed < running.size(); ++placed) {
+        const bool isNewDay = placed == 0 || running[placed].name != running[placed - 1].name;
+        if (!placeRunning(types, running[placed], isNewDay, next, above + titleHeight + room))
+            break;
+    }
+    if (placed == 0)
+        return false;
+    m_entries = std::move(running);
+    m_placed = placed;
+    m_height = next.y() + (next.x() > 0 ? pitch + gap : 0);
+    return true;
+}
+
+/// Where the one before it ends, or on a level of its own. False where it has no room.
+bool GridRest::placeRunning(const GridTypes &types, Entry &entry, bool isNewDay, QPointF &next,
+                            double bottom) const
+{
+    const PageType &type = types.line(points);
+    entry.hasName = isNewDay;
+    entry.lead = isNewDay ? types.line(points, GridTypes::Strong).width(entry.name) + leadGap : 0;
+    const double lead = entry.lead + (entry.tone > 0 ? square : 0);
+    double width = lead + type.width(entry.text);
+    const double before = next.x() > 0 ? (isNewDay ? dayGap : besideGap) : 0;
+    entry.isBesideLast = before > 0 && !isNewDay && next.x() + before + width <= m_width;
+    if (before > 0 && next.x() + before + width > m_width)
+        next = {0, next.y() + pitch + gap};
+    else
+        next.rx() += before;
+    if (next.x() == 0 && !isNewDay)
+        next.rx() = hanging;
+    entry.words = {entry.text};
+    if (next.x() + width > m_width) {
+        entry.words = type.wrappedFast(entry.text, m_width - next.x() - lead - hanging);
+        width = m_width - next.x();
+    }
+    const double height = double(entry.words.size()) * pitch;
+    if (next.y() + height > bottom + 0.05) {
+        entry.hasName = true; // where it stands then
+        return false;
+    }
+    entry.rect = QRectF(next, QSizeF(width, height));
+    if (entry.words.size() > 1)
+        next = {0, entry.rect.bottom() + gap};
+    else
+        next.rx() += width;
+    return true;
 }
 
 std::vector<GridRest::Entry> GridRest::takeLeftOut()
@@ -145,8 +205,13 @@ void GridRest::paint(QPainter &painter, const GridTypes &types) const
     const double lift = GridTypes::lift(type, points);
     for (const Entry &entry : m_entries) {
         QPointF at = entry.rect.topLeft() + QPointF(0, lift);
-        strong.draw(painter, at, entry.name);
-        at.rx() += m_lead;
+        if (entry.hasName)
+            strong.draw(painter, at, entry.name);
+        if (entry.isBesideLast)
+            painter.fillRect(QRectF(at.x() - besideGap / 2 - dot / 2,
+                                    at.y() + type.baseline() - points * 0.3 - dot / 2, dot, dot),
+                             GridColors::quiet);
+        at.rx() += entry.lead;
         if (entry.tone > 0) {
             const double side = square * 0.65;
             painter.fillRect(QRectF(at.x(), at.y() + type.baseline() - side + 0.3, side, side),

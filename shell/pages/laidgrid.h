@@ -15,6 +15,7 @@ struct LaidLine {
     double lead = 0;   ///< from the left edge to its text
     double indent = 0; ///< of its further lines
     QStringList words{};
+    bool hasLead = true;       ///< its day before it
     bool isBesideLast = false; ///< on the same level as the entry before it
 };
 
