@@ -166,25 +166,38 @@ private slots:
 
     void aSpanIsABarInEachOfItsWeeks_data()
     {
-        rows<QDate, QDate, int, QString>({
-            {"within a week", {2027, 3, 9}, {2027, 3, 11}, 2, u"1/1x3"_s},
-            {"over three weeks", {2027, 3, 13}, {2027, 3, 22}, 2, u"1/5x2 2/0x7 3/0x1"_s},
-            {"from before to behind", {2027, 2, 1}, {2027, 5, 1}, 2, u"0/0x7 1/0x7 2/0x7 3/0x7 4/0x3"_s},
-            {"one that ends before it begins", {2027, 3, 9}, {2027, 3, 1}, 2, u"1/1x1"_s},
-            {"of another month", {2027, 4, 1}, {2027, 4, 2}, 2, u""_s},
+        rows<QDate, QDate, QString, QString>({
+            {"within a week", {2027, 3, 9}, {2027, 3, 11}, u"1/1x3"_s, u"Tue 9 to Thu 11\taway"_s},
+            {"over three weeks",
+             {2027, 3, 13},
+             {2027, 3, 22},
+             u"1/5x2 2/0x7 3/0x1"_s,
+             u"Sat 13 to Mon 22\taway"_s},
+            {"from before to behind",
+             {2027, 2, 1},
+             {2027, 5, 1},
+             u"0/0x7 1/0x7 2/0x7 3/0x7 4/0x3"_s,
+             u"Mon 1 to Wed 31\taway"_s},
+            {"one that ends before it begins", {2027, 3, 9}, {2027, 3, 1}, u"1/1x1"_s, u"Tue 9\taway"_s},
+            {"of another month", {2027, 4, 1}, {2027, 4, 2}, u""_s, u""_s},
         });
     }
 
     void aSpanIsABarInEachOfItsWeeks()
     {
-        const auto [from, to, month, expected] = row<QDate, QDate, int, QString>();
+        const auto [from, to, expected, text] = row<QDate, QDate, QString, QString>();
         WallCalendar calendar = year();
         calendar.spans = {{from, to, 1, u"away"_s}};
         QStringList bars;
-        const auto grid = CalendarPages::grid(calendar, month, sourceFor(calendar));
+        const auto grid = CalendarPages::grid(calendar, 2, sourceFor(calendar));
         for (const GridSpan &span : grid->blocks.constFirst().spans)
             bars << u"%1/%2x%3"_s.arg(span.row).arg(span.column).arg(span.length);
         QCOMPARE(bars.join(u' '), expected);
+        // Copied it is told once, with its days; in a row of days too.
+        QCOMPARE(grid->text().split(u'\n').filter(u"away"_s).join(u'\n'), text);
+        calendar.look.layout = CalendarLayout::Columns;
+        const auto columns = CalendarPages::grid(calendar, 2, sourceFor(calendar));
+        QCOMPARE(columns->text().split(u'\n').filter(u"away"_s).join(u'\n'), text);
     }
 
     void eachLineOfACrowdedMonthIsPrintedOnce_data()
