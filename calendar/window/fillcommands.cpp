@@ -3,11 +3,11 @@
 
 #include "calendar/model/lines.h"
 #include "calendar/window/celltyping.h"
+#include "calendar/window/filllines.h"
 #include "calendar/window/fillpanel.h"
 #include "calendar/window/fillrows.h"
 #include "calendar/window/monthpage.h"
 #include "calendar/window/opencalendars.h"
-#include "calendar/window/windowlines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
@@ -57,7 +57,7 @@ void FillCommands::open(const QList<LineSource> &sources)
 void FillCommands::fill()
 {
     const FillPlan plan = m_panel->plan();
-    const QString title = CalendarWindowLines::filled(plan.summary.words());
+    const QString title = FillLines::filled(plan.summary.words());
     m_desk.views.goHome();
     if (m_desk.calendars.change(title, plan.calendar))
         emit done(title);
@@ -96,7 +96,7 @@ void FillCommands::check()
         const FillRows rows = FillRows::of(m_desk.program, calendar);
         const FillSummary summary = rows.planAsBefore(m_desk.program.clock.today()).summary;
         if (!summary.isNothing())
-            lines.append(CalendarWindowLines::sourcesChanged(summary.changeWords()));
+            lines.append(FillLines::sourcesChanged(summary.changeWords()));
     }
     if (!lines.isEmpty())
         emit said(lines.join(u". "_s));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/window/fillpanel.h"
 
-#include "calendar/window/windowlines.h"
+#include "calendar/window/filllines.h"
 #include "shell/access/gate.h"
 #include "shell/look/icons.h"
 #include "shell/look/theme.h"
@@ -49,9 +49,9 @@ QWidget *FillPanel::makeContent()
     m_grid->setVerticalSpacing(4);
     m_grid->setColumnStretch(Free, 1);
     column->addWidget(m_list);
-    m_none = makeQuietLabel(CalendarWindowLines::nothingToFill(), content);
+    m_none = makeQuietLabel(FillLines::nothingToFill(), content);
     column->addWidget(m_none);
-    m_guarded = named(makeQuietLabel(CalendarWindowLines::guardedNote(), content), u"fillGuarded"_s);
+    m_guarded = named(makeQuietLabel(FillLines::guardedNote(), content), u"fillGuarded"_s);
     column->addWidget(m_guarded);
     column->addSpacing(12);
     column->addWidget(makeHeading(u"What that changes"_s, content));
@@ -98,7 +98,7 @@ void FillPanel::addRow(int number)
     const FillRow &row = m_rows.rows()[std::size_t(number)];
     auto *box = named(new QCheckBox(row.caption, m_list), u"fillRow_"_s + QString::number(number));
     box->setChecked(row.isTicked);
-    const QString count = row.isRead ? CalendarWindowLines::countOfEntries(row.notes.size()) : QString();
+    const QString count = row.isRead ? FillLines::countOfEntries(row.notes.size()) : QString();
     box->setAccessibleDescription(row.from + (count.isEmpty() ? QString() : QString(u", "_s + count)));
     if (row.isGuarded) {
         box->setIcon(Icons::icon("lock"_L1, Theme::of(this).scheme));
@@ -131,7 +131,7 @@ void FillPanel::tick(int number, bool isOn)
     if (m_program.gate.mayOpen(m_program, isArea ? face.area : face.buttonArea, window()))
         m_rows.open(m_program, std::size_t(number));
     const bool isOpen = m_rows.rows()[std::size_t(number)].isRead;
-    emit said(isOpen ? QString() : CalendarWindowLines::guardRefused(face.titleText()));
+    emit said(isOpen ? QString() : FillLines::guardRefused(face.titleText()));
     showRows();
     if (auto *box = m_list->findChild<QCheckBox *>(u"fillRow_"_s + QString::number(number)))
         box->setFocus();
@@ -149,6 +149,6 @@ void FillPanel::keyPressEvent(QKeyEvent *event)
 void FillPanel::showPlan()
 {
     m_guarded->setVisible(m_rows.isGuardedTicked());
-    m_summary->setText(m_rows.isAnyTicked() ? plan().summary.words() : CalendarWindowLines::nothingTicked());
-    setUnavailable(m_fill, m_rows.isAnyTicked() ? QString() : CalendarWindowLines::nothingTicked());
+    m_summary->setText(m_rows.isAnyTicked() ? plan().summary.words() : FillLines::nothingTicked());
+    setUnavailable(m_fill, m_rows.isAnyTicked() ? QString() : FillLines::nothingTicked());
 }

@@ -2,7 +2,7 @@
 #include "calendar/window/fillrows.h"
 
 #include "calendar/model/holidaysets.h"
-#include "calendar/window/windowlines.h"
+#include "calendar/window/filllines.h"
 #include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 
@@ -44,7 +44,7 @@ FillRows FillRows::of(const Program &program, const WallCalendar &calendar)
             rows.m_rows.push_back({.function = face.function,
                                    .source = kindsOf(face.function).first(),
                                    .caption = face.titleText(),
-                                   .from = CalendarWindowLines::behindPassword(),
+                                   .from = FillLines::behindPassword(),
                                    .isGuarded = true,
                                    .isRead = false});
         else
@@ -62,7 +62,7 @@ void FillRows::addFunction(const Program &program, Function function)
     for (const FillSource &source : CalendarFill::sourcesOf(notes)) {
         m_rows.push_back({.function = function,
                           .source = source.source,
-                          .caption = CalendarWindowLines::fillCaption(source.source),
+                          .caption = FillLines::fillCaption(source.source),
                           .from = FunctionFaces::of(function).titleText(),
                           .notes = source.notes});
     }
@@ -74,14 +74,14 @@ void FillRows::addOwn(const Program &program)
     const FillSource holidays = CalendarFill::holidaysOf(m_calendar, sets);
     if (!holidays.notes.isEmpty())
         m_rows.push_back({.source = LineSource::Holiday,
-                          .caption = CalendarWindowLines::fillCaption(LineSource::Holiday),
+                          .caption = FillLines::fillCaption(LineSource::Holiday),
                           .from = m_calendar.holidaySets.join(QStringLiteral(", ")),
                           .notes = holidays.notes});
     const FillSource rules = CalendarFill::rulesOf(m_calendar, sets);
     if (!rules.notes.isEmpty())
         m_rows.push_back({.source = LineSource::Rule,
-                          .caption = CalendarWindowLines::fillCaption(LineSource::Rule),
-                          .from = CalendarWindowLines::rulesOfCalendar(),
+                          .caption = FillLines::fillCaption(LineSource::Rule),
+                          .from = FillLines::rulesOfCalendar(),
                           .notes = rules.notes});
 }
 
@@ -95,8 +95,8 @@ void FillRows::addGone()
         };
         if (std::ranges::none_of(m_rows, hasSource))
             m_rows.push_back({.source = filled.key(),
-                              .caption = CalendarWindowLines::fillCaption(filled.key()),
-                              .from = CalendarWindowLines::nothingAnyMore()});
+                              .caption = FillLines::fillCaption(filled.key()),
+                              .from = FillLines::nothingAnyMore()});
     }
 }
 
@@ -111,7 +111,7 @@ void FillRows::open(const Program &program, std::size_t row)
         m_rows.push_back({.function = closed.function,
                           .source = closed.source,
                           .caption = closed.caption,
-                          .from = CalendarWindowLines::nothingThere()});
+                          .from = FillLines::nothingThere()});
     for (std::size_t i = before.size(); i < m_rows.size(); ++i) {
         m_rows[i].isGuarded = true;
         m_rows[i].isTicked = !m_rows[i].notes.isEmpty() || m_calendar.filled.contains(m_rows[i].source);

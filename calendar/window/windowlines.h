@@ -78,22 +78,6 @@ QString notMade();
 QString saved();
 QString changedElsewhere();
 QString changedElsewhereToo();
-QString stateWords(const QString &why);
-
-// Filling
-
-QString filled(const QString &summary);
-QString sourcesChanged(const QString &summary);
-QString nothingToFill();
-QString nothingTicked();
-QString guardedNote();
-QString guardRefused(const QString &title);
-QString behindPassword();
-QString fillCaption(LineSource source);
-QString rulesOfCalendar();
-QString nothingAnyMore();
-QString nothingThere();
-QString countOfEntries(qsizetype count);
 
 // Searching and printing
 
