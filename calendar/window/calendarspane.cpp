@@ -109,7 +109,7 @@ QWidget *CalendarsPane::makeHits()
     auto *rows = new QVBoxLayout(part);
     rows->setContentsMargins({});
     rows->setSpacing(6);
-    rows->addWidget(m_hits, 1);
+    rows->addWidget(new WholeRows(m_hits), 1);
     rows->addWidget(m_hitCount);
     const auto open = [this](const QModelIndex &row) {
         if (row.isValid())
