@@ -17,6 +17,7 @@ namespace {
 constexpr double margin = 0.5;
 constexpr double footTop = 0.46; ///< above the lower edge, in the margin
 constexpr double footHeight = 0.18;
+constexpr double cardFootTop = 0.32; ///< below the cards
 constexpr QSizeF cardPadding{0.34, 0.34};
 constexpr QSizeF quarterPadding{0.08, 0};
 constexpr QSizeF yearPadding{0.1, 0.04};
@@ -205,6 +206,7 @@ void Sheets::addYear(PageGrid &grid, const QList<QDate> &months) const
 void Sheets::addCards(PageGrid &grid, const QList<QDate> &months) const
 {
     grid.place = QRectF({}, m_sheet);
+    grid.foot.moveTop(m_sheet.height() - cardFootTop);
     grid.restTitle = u"Also in these months"_s;
     for (const QDate month : months)
         grid.blocks.append(CalendarGrids::numbers(m_calendar, month, true, CalendarGrids::Notes::All,

@@ -16,6 +16,7 @@ constexpr double leadGap = 4;
 constexpr double columnGap = 8;
 constexpr double narrowest = 76; ///< column of notes
 constexpr double gap = 1;
+constexpr double hanging = 0.6;   ///< sizes of the letters, where a day goes on
 constexpr double besideGap = 1.3; ///< sizes of the letters, between two side by side
 
 double leadWidth(const GridFrame &frame)
@@ -64,13 +65,14 @@ Notes runningNotes(const GridFrame &frame, const QRectF &place)
 {
     const PageType &strong = frame.types().line(frame.points(), GridTypes::Strong);
     const double apart = besideGap * frame.points();
+    const double inset = hanging * frame.points();
     Notes notes;
     QPointF next = place.topLeft();
     const GridLine *last = nullptr;
     for (const GridLine &note : frame.block().notes) {
         const bool isSameDay = last && last->lead == note.lead;
         const double lead = isSameDay ? 0 : strong.width(note.lead) + leadGap;
-        LaidLine line = GridEntries::wrapped(frame, note, place.width() - lead);
+        LaidLine line = GridEntries::wrapped(frame, note, place.width() - std::max(lead, inset));
         const double width = std::min(place.width(), lead + line.lead + GridEntries::widthOf(frame, line));
         const double before = next.x() > place.left() ? apart : 0;
         const bool isBeside = line.words.size() == 1 && next.x() + before + width <= place.right();
@@ -78,6 +80,8 @@ Notes runningNotes(const GridFrame &frame, const QRectF &place)
             next.rx() += before;
         else if (next.x() > place.left())
             next = {place.left(), next.y() + frame.pitch() + gap};
+        if (isSameDay && next.x() == place.left())
+            next.rx() += inset;
         line.hasLead = !isSameDay;
         line.isBesideLast = isSameDay && isBeside && before > 0;
         line.lead += lead;

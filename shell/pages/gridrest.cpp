@@ -139,7 +139,7 @@ bool GridRest::run(const GridTypes &types, double room)
         return false;
     m_entries = std::move(running);
     m_placed = placed;
-    m_height = next.y() + (next.x() > 0 ? pitch + gap : 0);
+    m_height = m_entries[placed - 1].rect.bottom() + gap;
     return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/model/calendarpages.h"
 #include "calendar/model/calendarpapers.h"
+#include "shell/pages/gridlayout.h"
 #include "tests/support/rows.h"
 #include "tests/support/sheettools.h"
 #include "tests/support/testfiles.h"
@@ -236,6 +237,34 @@ private slots:
         QCOMPARE(text.count(u"station"_s), 31 * 8);
         QCOMPARE(text.count(u"Printed on 11/23/2026"_s), 1);
         QVERIFY(text.contains(u"Also"_s));
+    }
+
+    void aFullMonthTakesNoSheetMore_data()
+    {
+        rows<CalendarLayout, bool, int>({
+            {"a month", CalendarLayout::Month, true, 59},
+            {"with a photo", CalendarLayout::Photo, false, 59},
+            {"a quarter", CalendarLayout::Quarter, false, 59},
+            {"cards", CalendarLayout::Pocket, false, 44},
+        });
+    }
+
+    /// Fourteen lines on New Year's Day, and as many as a household has on the days behind it.
+    void aFullMonthTakesNoSheetMore()
+    {
+        const auto [layout, isLandscape, count] = row<CalendarLayout, bool, int>();
+        WallCalendar calendar = year();
+        calendar.look.layout = layout;
+        calendar.look.isLandscape = isLandscape;
+        for (int i = 0; i < count; ++i)
+            type(calendar, QDate(2027, 1, i < 14 ? 1 : 2 + (i - 14) * 29 / count),
+                 u"10:30 AM Council meeting"_s);
+        for (int i = 0; i < 30; ++i) {
+            for (int month = 2; month <= 3; ++month)
+                type(calendar, QDate(2027, month, 1 + i * 27 / 30), u"6:00 PM Piano lesson"_s);
+        }
+        QCOMPARE(GridLayout(CalendarPages::grid(calendar, 0, sourceFor(calendar)), bodyFont()).partCount(),
+                 1);
     }
 
     void aYearIsTwelveSheetsOfItsPaper()
