@@ -34,6 +34,7 @@ constexpr int drawnCount = 200;
 constexpr int namesEach = 10;
 constexpr int photographCount = drawnCount * namesEach;
 constexpr int screenful = 40;
+constexpr int farScreen = photographCount / screenful - 2;
 constexpr double mostMilliseconds = 100;
 constexpr double mostMemory = 160; ///< MiB, of the whole program
 
@@ -176,7 +177,7 @@ private:
     void wait(Condition isThere)
     {
         while (!isThere())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 
     std::unique_ptr<PictureQueue> m_queue;
@@ -265,15 +266,15 @@ void jump(benchmark::State &state)
         viewer.queue().show(disk.screen(0), disk.screen(1));
         viewer.waitForSharp(screenful / 2);
         const qsizetype before = made();
-        viewer.queue().show(disk.screen(30), disk.screen(31));
+        viewer.queue().show(disk.screen(farScreen), disk.screen(farScreen + 1));
         QSet<int> sharp;
         QObject::connect(&viewer.queue(), &PictureQueue::arrived, &viewer.queue(),
                          [&](int id, const QImage &, Look look) {
-                             if (look != Look::Rough && id / screenful == 30)
+                             if (look != Look::Rough && id / screenful == farScreen)
                                  sharp.insert(id);
                          });
         while (sharp.size() < screenful)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         most = std::max(most, double(made() - before - screenful));
     }
     // Those that were being read at the jump, and those that were begun behind the last one.
