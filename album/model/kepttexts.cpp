@@ -9,6 +9,7 @@
 #include "shell/core/programmodule.h"
 #include "storage/saving.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 
@@ -112,6 +113,14 @@ Written writeBeside(const QString &path, const PictureTexts &texts, QDate today)
     return {.isKept = isKept, .why = isKept ? QString() : TextLines::diskRefused()};
 }
 
+/// What is said in the file; nothing where that is more than anybody has to say.
+QByteArray saidIn(const QByteArray &bytes)
+{
+    QBuffer file;
+    file.setData(bytes);
+    return file.open(QIODevice::ReadOnly) ? PictureData::withoutPicture(file) : QByteArray();
+}
+
 /// The file with the texts in it; nothing where that cannot be done.
 QByteArray changed(const QByteArray &bytes, const MetadataChange &change)
 {
@@ -126,6 +135,8 @@ Written writeInto(const QString &path, const PictureTexts &texts, QDate today)
     if (QFileInfo(path).size() > mostWritten)
         return {.why = TextLines::tooLarge()};
     const QByteArray bytes = contentOf(path, mostWritten);
+    if (!bytes.isEmpty() && saidIn(bytes).isEmpty())
+        return {.why = TextLines::tooLarge()};
     Metadata found;
     if (bytes.isEmpty() || !module()->read(bytes, found))
         return {.why = TextLines::wouldLose()};
@@ -200,7 +211,7 @@ QByteArray KeptTexts::forGivingAway(const QByteArray &bytes, const PictureTexts 
                                     Coordinates coordinates)
 {
     Metadata found;
-    if (!module() || hasEntities(bytes) || !module()->read(bytes, found))
+    if (!module() || hasEntities(bytes) || saidIn(bytes).isEmpty() || !module()->read(bytes, found))
         return {};
     MetadataChange change = TextsOfPicture::change(found, texts, today);
     change.withoutCoordinates = coordinates == Coordinates::TakenOut && found.hasCoordinates;

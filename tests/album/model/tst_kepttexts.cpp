@@ -48,6 +48,16 @@ bool isWithoutExiftool()
     return QStandardPaths::findExecutable(u"exiftool"_s).isEmpty();
 }
 
+/// A picture that says more than anybody reads.
+QByteArray wordy()
+{
+    QByteArray segment("\xff\xe1\xff\xff"
+                       "http://ns.adobe.com/xap/1.0/",
+                       32);
+    segment.append(QByteArray(0xffff + 2 - segment.size(), 'x'));
+    return "\xff\xd8" + segment.repeated(17 * 16) + QByteArray("\xff\xda\0\2\1\2\3\xff\xd9", 9);
+}
+
 PictureTexts someTexts()
 {
     return {.caption = u"Anne and Karin at the lake, about 1974"_s,
@@ -272,6 +282,7 @@ private slots:
                           {"noise", noiseOf(5000)},
                           {"a beginning alone", "\xff\xd8\xff"},
                           {"nested entities", nested},
+                          {"17 MiB of words", wordy()},
                           {"a PNG that is cut", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16)},
                           {"a TIFF that leads nowhere", QByteArray("II*\0\xff\xff\xff\x7f", 8)}});
     }
