@@ -54,6 +54,13 @@ void PhotoSearch::prepare()
         m_rows.push_back({photo.record, m_texts.size(), PhotoDateWords::mayMean(photo.date)});
         append(m_texts, photo);
     }
+    m_rowOf.assign(m_rows.empty() ? 0 : std::size_t(m_rows.back().record) + 1, -1);
+    for (std::size_t row = 0; row < m_rows.size(); ++row)
+        m_rowOf[std::size_t(m_rows[row].record)] = int(row);
+    m_albums.clear();
+    for (const PhotoAlbum &album : m_shelf.albums())
+        m_albums.push_back({album.record, FoldedText::of(album.name)});
+    std::ranges::sort(m_albums, {}, &AlbumName::album);
 }
 
 void PhotoSearch::refold(const QList<int> &photos)
@@ -116,17 +123,19 @@ PhotoSearch::Rows PhotoSearch::rowsWith(const QByteArray &word, const Rows *amon
 {
     Rows found(m_rows.size());
     const char *const begin = m_texts.constData();
+    const char *const end = begin + m_texts.size();
     if (among) {
-        for (std::size_t row = 0; row < m_rows.size(); ++row)
-            found[row] =
-                (*among)[row] && ByteSearch::find(begin + m_rows[row].start, begin + endOf(row), word);
+        for (std::size_t row = 0; row < m_rows.size(); ++row) {
+            if ((*among)[row] != 0)
+                found[row] = ByteSearch::find(begin + m_rows[row].start, begin + endOf(row), word) ? 1 : 0;
+        }
     } else {
         std::size_t row = 0;
         const char *at = begin;
-        while ((at = ByteSearch::find(at, begin + m_texts.size(), word))) {
+        while ((at = ByteSearch::find(at, end, word))) {
             while (endOf(row) <= at - begin)
                 ++row;
-            found[row] = true;
+            found[row] = 1;
             at = begin + endOf(row);
         }
     }
@@ -136,19 +145,26 @@ PhotoSearch::Rows PhotoSearch::rowsWith(const QByteArray &word, const Rows *amon
 
 void PhotoSearch::addAlbums(const QByteArray &word, Rows &found) const
 {
-    for (const PhotoAlbum &album : m_shelf.albums()) {
-        if (!FoldedText::of(album.name).contains(word))
-            continue;
-        for (const int record : m_shelf.recordsIn(album.record)) {
-            const auto row = std::ranges::lower_bound(m_rows, record, {}, &Row::record);
-            found[std::size_t(row - m_rows.begin())] = true;
-        }
+    std::vector<int> albums;
+    for (const AlbumName &name : m_albums) {
+        if (name.folded.contains(word))
+            albums.push_back(name.album);
+    }
+    auto album = albums.begin();
+    for (const PhotoPlace &place : m_shelf.records().allPlaces()) { // by album
+        while (album != albums.end() && *album < place.album)
+            ++album;
+        if (album == albums.end())
+            return;
+        const bool isKnown = *album == place.album && std::size_t(place.photo) < m_rowOf.size();
+        if (const int row = isKnown ? m_rowOf[std::size_t(place.photo)] : -1; row >= 0)
+            found[std::size_t(row)] = 1;
     }
 }
 
 PhotoSearch::Rows PhotoSearch::rowsOf(const Term &term, const Rows *among) const
 {
-    Rows found(m_rows.size(), true);
+    Rows found(m_rows.size(), 1);
     for (const QByteArray &word : term.words) {
         found = rowsWith(word, among);
         among = &found;
@@ -156,7 +172,7 @@ PhotoSearch::Rows PhotoSearch::rowsOf(const Term &term, const Rows *among) const
     if (!term.date.isNone()) {
         const PhotoDateWords::Days sought = PhotoDateWords::mayMean(term.date);
         for (std::size_t row = 0; row < m_rows.size(); ++row)
-            found[row] = found[row] || m_rows[row].days.overlap(sought);
+            found[row] |= char(m_rows[row].days.overlap(sought));
     }
     return found;
 }
@@ -164,17 +180,18 @@ PhotoSearch::Rows PhotoSearch::rowsOf(const Term &term, const Rows *among) const
 QList<int> PhotoSearch::pictures(QStringView text, DateStyle style, QDate today)
 {
     prepare();
-    Rows found(m_rows.size(), true);
+    Rows found(m_rows.size(), 1);
     bool isFirst = true;
     for (const Term &term : termsOf(text, style, today)) {
         const Rows rows = rowsOf(term, isFirst ? nullptr : &found);
-        for (std::size_t row = 0; row < found.size(); ++row)
-            found[row] = found[row] && rows[row];
+        std::ranges::transform(found, rows, found.begin(),
+                               [](char one, char other) { return char(one & other); });
         isFirst = false;
     }
     QList<int> records;
+    records.reserve(std::ranges::count(found, 1));
     for (std::size_t row = 0; row < m_rows.size(); ++row) {
-        if (found[row])
+        if (found[row] != 0)
             records.append(m_rows[row].record);
     }
     return records;

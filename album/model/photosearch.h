@@ -36,7 +36,7 @@ private:
         PhotoDateWords::Days days{};
     };
     struct Term;
-    using Rows = std::vector<bool>;
+    using Rows = std::vector<char>; ///< 1 for each that is found: bytes are quicker than bits
 
     void prepare();
     void refold(const QList<int> &photos);
@@ -48,6 +48,12 @@ private:
 
     const PhotoShelf &m_shelf;
     QByteArray m_texts;
-    std::vector<Row> m_rows; ///< by record
+    std::vector<Row> m_rows;  ///< by record
+    std::vector<int> m_rowOf; ///< of each record; -1 where it has none
+    struct AlbumName {
+        int album = 0;
+        QByteArray folded;
+    };
+    std::vector<AlbumName> m_albums; ///< by record
     bool m_isFolded = false;
 };

@@ -17,7 +17,9 @@ QByteArrayView RecordBytes::textBytes(QByteArrayView record, qsizetype at, qsize
 QString RecordBytes::text(QByteArrayView record, qsizetype at, qsizetype width)
 {
     const QByteArrayView bytes = textBytes(record, at, width);
-    return bytes.isEmpty() ? QString() : Utf8Text::decode(bytes);
+    if (bytes.isEmpty())
+        return {};
+    return QUtf8StringView(bytes).isValidUtf8() ? QString::fromUtf8(bytes) : Utf8Text::decode(bytes);
 }
 
 void RecordBytes::putText(QByteArray &record, qsizetype at, qsizetype width, const QString &text)

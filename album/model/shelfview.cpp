@@ -101,17 +101,37 @@ QByteArray nameKey(const QString &name)
     return key;
 }
 
-template <typename Key>
-void sortBy(QList<int> &pictures, const Key &keyOf)
+void sortByName(const PhotoShelf &shelf, QList<int>::iterator begin, QList<int>::iterator end)
 {
-    using Keyed = std::pair<decltype(keyOf(0)), int>;
-    std::vector<Keyed> keyed;
+    std::vector<std::pair<QByteArray, int>> keyed;
+    keyed.reserve(std::size_t(end - begin));
+    for (auto at = begin; at != end; ++at) {
+        const Photo *photo = shelf.photo(*at);
+        keyed.emplace_back(nameKey(photo ? photo->fileName() : QString()), *at);
+    }
+    std::ranges::stable_sort(keyed, {}, [](const auto &item) -> const QByteArray & { return item.first; });
+    std::ranges::transform(keyed, begin, [](const auto &item) { return item.second; });
+}
+
+/// Pictures of one moment, and those without any, stand by their names.
+void sortByDate(const PhotoShelf &shelf, QList<int> &pictures)
+{
+    std::vector<std::pair<qint64, int>> keyed;
     keyed.reserve(std::size_t(pictures.size()));
-    for (const int picture : pictures)
-        keyed.emplace_back(keyOf(picture), picture);
-    std::ranges::stable_sort(keyed,
-                             [](const Keyed &one, const Keyed &other) { return one.first < other.first; });
-    std::ranges::transform(keyed, pictures.begin(), &Keyed::second);
+    for (const int picture : pictures) {
+        const Photo *photo = shelf.photo(picture);
+        keyed.emplace_back((photo ? photo->date : PhotoDate()).sortKey(), picture);
+    }
+    std::ranges::stable_sort(keyed, {}, [](const auto &item) { return item.first; });
+    std::ranges::transform(keyed, pictures.begin(), [](const auto &item) { return item.second; });
+    for (auto begin = keyed.begin(); begin != keyed.end();) {
+        const auto end = std::find_if(begin, keyed.end(),
+                                      [&begin](const auto &item) { return item.first != begin->first; });
+        if (end - begin > 1)
+            sortByName(shelf, pictures.begin() + (begin - keyed.begin()),
+                       pictures.begin() + (end - keyed.begin()));
+        begin = end;
+    }
 }
 
 } // namespace
@@ -128,20 +148,16 @@ QList<int> ShelfViews::pictures(const PhotoShelf &shelf, const ShelfView &view, 
 
 void ShelfViews::sort(const PhotoShelf &shelf, QList<int> &pictures, PhotoAlbum::Sorting sorting)
 {
-    if (sorting == PhotoAlbum::Sorting::ByHand)
-        return;
-    const auto nameOf = [&shelf](int record) {
-        const Photo *photo = shelf.photo(record);
-        return photo ? photo->fileName() : QString();
-    };
-    // By date too: pictures of one moment, and those without any, stand by their names.
-    sortBy(pictures, [&](int record) { return nameKey(nameOf(record)); });
-    if (sorting == PhotoAlbum::Sorting::ByName)
-        return;
-    sortBy(pictures, [&shelf](int record) {
-        const Photo *photo = shelf.photo(record);
-        return photo ? photo->date.sortKey() : PhotoDate().sortKey();
-    });
+    switch (sorting) {
+    case PhotoAlbum::Sorting::ByDate:
+        sortByDate(shelf, pictures);
+        break;
+    case PhotoAlbum::Sorting::ByName:
+        sortByName(shelf, pictures.begin(), pictures.end());
+        break;
+    case PhotoAlbum::Sorting::ByHand:
+        break;
+    }
 }
 
 std::vector<ShelfViews::Period> ShelfViews::periods(const PhotoShelf &shelf)
