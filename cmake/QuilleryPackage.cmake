@@ -20,8 +20,8 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-image-formats-plugins, hun
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "household organizer")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Quillery keeps what a household has to remember, behind a main menu that
 tells about the day: addresses with pictures and birthdays, appointments,
-wall calendars, to-do lists, a journal that can be sealed, a budget, what the cars need,
-weight, and passwords, which are sealed with a master password. Everything
+wall calendars, to-do lists, a journal that can be sealed, photos in albums, a
+budget, what the cars need, weight, and passwords, which are sealed with a master password. Everything
 can be seen as a page, printed and copied, and what is private can be put
 behind a password; the records are small files in the user's own folder.")
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
