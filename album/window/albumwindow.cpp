@@ -128,6 +128,7 @@ void PhotoVIEW1::makeCommands()
     m_shows->addCommands(pictures);
     pictures->addSeparator();
     m_keep->addCommands(pictures);
+    m_folders->addFurther(pictures);
     addUsualOptions(options, [this](QMenu *menu) { m_print->addCommands(menu); });
     addUtilitiesMenu();
     addHelpEntry();
@@ -256,6 +257,14 @@ void PhotoVIEW1::connectCare()
     connect(&m_photos->grid(), &PhotoGrid::filesDropped, m_folders, &FolderCommands::take);
     connect(m_albums, &AlbumCommands::intoChanged, m_care, &ShelfCare::catchUp);
     connect(m_care, &ShelfCare::lookedFirst, m_keep, &KeepCommands::offerCards);
+    connect(m_folders, &FolderCommands::said, this, [this](const QString &line) { activity().say(line); });
+    connect(&m_care->look(), &ShelfLook::conflictsChanged, this, [this] {
+        commands().refresh();
+        if (const int count = int(m_care->look().conflicts().size()); count > 0) {
+            activity().say(AlbumWindowLines::conflicts(count));
+            activity().offerWay(AlbumWindowLines::compare(), [this] { m_folders->openConflicts(); });
+        }
+    });
     connect(m_keep, &KeepCommands::said, this, [this](const QString &line) { activity().say(line); });
     connect(m_keep, &KeepCommands::cardsOffered, this, [this](const QString &line) {
         activity().say(line);

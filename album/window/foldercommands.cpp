@@ -2,11 +2,13 @@
 #include "album/window/foldercommands.h"
 
 #include "album/model/photoshelf.h"
+#include "album/window/conflictpanel.h"
 #include "album/window/photosview.h"
 #include "album/window/shelfcare.h"
 #include "album/window/windowlines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/frame/workviews.h"
 #include "shell/program/program.h"
 
 #include <QMenu>
@@ -42,6 +44,30 @@ void FolderCommands::addCommands(QMenu *pictures)
                      [this] { m_desk.program.store.setValue(copyKey, m_copy->isChecked()); }));
     m_copy->setCheckable(true);
     m_copy->setChecked(m_desk.program.store.value(copyKey).toBool());
+}
+
+void FolderCommands::addFurther(QMenu *pictures)
+{
+    Commands &commands = m_desk.commands;
+    commands.writing(commands.add(
+        pictures, u"mPBoth"_s, u"B&oth Changed..."_s, [this] { openConflicts(); },
+        [this] { return m_care.look().conflicts().empty() ? AlbumWindowLines::noConflicts() : QString(); }));
+    commands.add(pictures, u"mPReads"_s, u"&What Can Be Read"_s,
+                 [this] { emit said(AlbumWindowLines::whatIsRead()); });
+}
+
+void FolderCommands::openConflicts()
+{
+    if (m_care.look().conflicts().empty())
+        return;
+    if (!m_conflicts) {
+        m_conflicts = new ConflictPanel(m_desk.program, m_desk.shelf, m_care.look());
+        m_desk.views.addPanel(m_conflicts);
+    }
+    m_desk.window.closePreview();
+    m_conflicts->start();
+    m_desk.views.open(m_conflicts);
+    m_conflicts->setFocus();
 }
 
 /// An album that is shown takes them in.

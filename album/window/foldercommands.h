@@ -7,9 +7,11 @@
 
 class QAction;
 class QMenu;
+class ConflictPanel;
 class ShelfCare;
 
-/// How pictures come into the album: folders that are chosen, files that are dropped.
+/// How pictures come into the album: folders that are chosen, files that are dropped; and what to do where
+/// other programs have changed them meanwhile.
 class FolderCommands final : public QObject
 {
     Q_OBJECT
@@ -17,10 +19,17 @@ public:
     FolderCommands(const AlbumDesk &desk, ShelfCare &care, QObject *parent);
 
     void addCommands(QMenu *pictures);
+    /// Those that stand at the end of the menu.
+    void addFurther(QMenu *pictures);
     /// "Add Folder...", for buttons.
     QAction *addCommand() const { return m_add; }
     /// Takes in what was dropped, into the album that is shown.
     void take(const QStringList &paths);
+    /// Shows what was changed in the album and in the picture, both.
+    void openConflicts();
+
+signals:
+    void said(const QString &line);
 
 private:
     void choose();
@@ -29,4 +38,5 @@ private:
     ShelfCare &m_care;
     QAction *m_add = nullptr;
     QAction *m_copy = nullptr;
+    ConflictPanel *m_conflicts = nullptr;
 };

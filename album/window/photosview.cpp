@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSlider>
 #include <QStackedLayout>
@@ -145,10 +146,14 @@ void PhotosView::refresh()
     const QList<int> marked = chosen();
     const int now = current();
     const int row = std::max(0, m_grid->currentIndex().row());
+    const bool isSeen = m_grid->viewport()->rect().intersects(m_grid->visualRect(m_grid->currentIndex()));
+    const int scrolled = m_grid->verticalScrollBar()->value();
     if (m_tiles->setRecords(found())) {
         choose(marked);
         if (chosen().isEmpty() && m_tiles->rowCount() > 0 && now != 0)
             m_grid->choose({std::min(row, m_tiles->rowCount() - 1)}); // the next one, where it has left
+        if (!isSeen) // whoever has scrolled away looks at something else
+            m_grid->verticalScrollBar()->setValue(scrolled);
         emit moved();
     }
     m_grid->setArrangeable(sorting() == PhotoAlbum::Sorting::ByHand && m_shelf.whyLocked().isEmpty());

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "album/window/windowlines.h"
 
+#include "album/model/kepttexts.h"
 #include "album/model/lines.h"
 #include "album/model/photodatewords.h"
 #include "album/model/phototexts.h"
 #include "shell/core/dates.h"
+#include "shell/pictures/heifpictures.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QImageReader>
 #include <QLocale>
 
 using namespace Qt::Literals::StringLiterals;
@@ -307,6 +310,34 @@ QString toASheet(int count)
 QString toAPage(int count)
 {
     return u"%1 to a page"_s.arg(count);
+}
+
+QString bothChanged(const QString &file, int count)
+{
+    const QString others =
+        count > 1 ? u", and %1 after it"_s.arg(counted(count - 1, u"other"_s, u"others"_s)) : QString();
+    return u"Changed here and by another program: "_s + file + others;
+}
+
+QString conflicts(int count)
+{
+    return u"Changed here and by another program: "_s + pictures(count);
+}
+
+QString whatIsRead()
+{
+    QStringList formats{u"JPEG"_s, u"PNG"_s, u"GIF"_s, u"BMP"_s};
+    const QList<QByteArray> further = QImageReader::supportedImageFormats();
+    if (further.contains("webp"))
+        formats.append(u"WebP"_s);
+    if (further.contains("tiff"))
+        formats.append(u"TIFF"_s);
+    if (HeifPictures::areReadable())
+        formats.append({u"HEIC"_s, u"AVIF"_s});
+    return andList(formats) + u" can be read here; "_s +
+           (KeptTexts::isBuiltIn()
+                ? u"captions, people, tags, ratings and dates can be written into pictures"_s
+                : u"captions stand in the album alone"_s);
 }
 
 } // namespace AlbumWindowLines

@@ -164,6 +164,22 @@ QString shiftTitle(int count);
 QString shiftOutcome(const QString &before, const QString &after);
 QString newAlbum();
 
+/// "Both were changed since: Lake.jpg, and 2 others".
+QString bothChanged(const QString &file, int count);
+QString conflicts(int count);
+/// Which formats and fields this build has.
+QString whatIsRead();
+
+inline QString compare()
+{
+    return u"Compare"_s;
+}
+
+inline QString noConflicts()
+{
+    return u"No picture was changed both here and by another program"_s;
+}
+
 inline QString keepsNoTexts()
 {
     return u"This build cannot write into pictures: what is said of them stands in the album alone"_s;
