@@ -131,22 +131,35 @@ void ShelfCare::watch()
     m_folders = folders;
     if (!m_watcher.directories().isEmpty())
         m_watcher.removePaths(m_watcher.directories());
-    QStringList watched;
-    for (const QString &folder : folders) {
-        watched.append(folder);
-        QDirIterator inside(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
-                            QDirIterator::Subdirectories);
-        while (inside.hasNext() && watched.size() < mostWatched)
-            watched.append(inside.next());
-    }
-    if (!watched.isEmpty())
-        m_watcher.addPaths(watched);
+    watchInside();
     if (isMore)
         m_settled.start();
 }
 
+/// Those that came into them meanwhile, too.
+void ShelfCare::watchInside()
+{
+    QStringList watched = m_watcher.directories();
+    QStringList further;
+    for (const QString &folder : std::as_const(m_folders)) {
+        QDirIterator inside(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
+                            QDirIterator::Subdirectories);
+        for (QString place = folder; watched.size() < mostWatched; place = inside.next()) {
+            if (!watched.contains(place) && QDir(place).exists()) {
+                watched.append(place);
+                further.append(place);
+            }
+            if (!inside.hasNext())
+                break;
+        }
+    }
+    if (!further.isEmpty())
+        m_watcher.addPaths(further);
+}
+
 void ShelfCare::readFolders()
 {
+    watchInside();
     for (const PhotoAlbum &album : m_desk.shelf.albums()) {
         if (!album.folder.isEmpty() && QDir(album.folder).exists())
             m_wishes.push_back({.wish = {.paths = {album.folder},

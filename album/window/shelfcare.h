@@ -51,6 +51,7 @@ private:
     void startNext();
     void finish(const TakeIn::Result &result);
     void watch();
+    void watchInside();
     void readFolders();
 
     AlbumDesk m_desk;
