@@ -5,7 +5,7 @@
 #include "album/model/photoshelf.h"
 #include "album/model/phototexts.h"
 #include "album/window/albumpane.h"
-#include "album/window/photosview.h"
+#include "album/window/albumview.h"
 #include "album/window/windowlines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"

@@ -4,7 +4,7 @@
 class Commands;
 class FunctionWindow;
 class PhotoShelf;
-class PhotosView;
+class AlbumView;
 class PictureQueue;
 class WorkViews;
 struct Program;
@@ -16,6 +16,6 @@ struct AlbumDesk {
     PhotoShelf &shelf;      ///< the pictures and albums of the household
     Commands &commands;
     WorkViews &views;
-    PhotosView &photos;  ///< which of them are shown and marked
+    AlbumView &photos;   ///< which of them are shown and marked
     PictureQueue &queue; ///< reads them for the grid
 };

@@ -3,7 +3,7 @@
 
 #include "album/model/photoshelf.h"
 #include "album/window/albumprintpanel.h"
-#include "album/window/photosview.h"
+#include "album/window/albumview.h"
 #include "album/window/windowlines.h"
 #include "shell/controls/activitybar.h"
 #include "shell/frame/commands.h"

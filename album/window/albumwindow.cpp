@@ -6,17 +6,17 @@
 #include "album/window/albumcommands.h"
 #include "album/window/albumpane.h"
 #include "album/window/albumprint.h"
+#include "album/window/albumview.h"
 #include "album/window/albumwork.h"
 #include "album/window/foldercommands.h"
 #include "album/window/keepcommands.h"
 #include "album/window/keepinglines.h"
 #include "album/window/largeview.h"
 #include "album/window/lookcommands.h"
-#include "album/window/photocommands.h"
 #include "album/window/photodetails.h"
 #include "album/window/photogrid.h"
-#include "album/window/photosview.h"
 #include "album/window/shelfcare.h"
+#include "album/window/shelfcommands.h"
 #include "album/window/showcommands.h"
 #include "album/window/windowlines.h"
 #include "shell/controls/activitybar.h"
@@ -64,11 +64,11 @@ PhotoVIEW1::PhotoVIEW1(Program &program, QWidget *parent)
     , m_shelf(new PhotoShelf(program.folder, this))
     , m_queue(new PictureQueue(thumbnailFolder(), this))
     , m_stack(new WorkViews(this))
-    , m_photos(new PhotosView(program, *m_shelf, *m_queue))
+    , m_photos(new AlbumView(program, *m_shelf, *m_queue))
     , m_large(new LargeView(program, *m_shelf, thumbnailFolder()))
     , m_pane(new AlbumPane(program, *m_shelf, this))
     , m_details(new PhotoDetails(program, *m_shelf, this))
-    , m_commands(new PhotoCommands(desk(), *m_details, this))
+    , m_commands(new ShelfCommands(desk(), *m_details, this))
     , m_albums(new AlbumCommands(desk(), *m_pane, this))
     , m_look(new LookCommands(desk(), *m_large, this))
     , m_care(new ShelfCare(desk(), activity(), this))
@@ -200,11 +200,11 @@ void PhotoVIEW1::connectParts()
         if (m_stack->isHome())
             m_photos->setFocus();
     });
-    connect(m_pane, &AlbumPane::dropped, m_commands, &PhotoCommands::putInto);
+    connect(m_pane, &AlbumPane::dropped, m_commands, &ShelfCommands::putInto);
     connect(m_pane, &AlbumPane::ordered, m_shelf, &PhotoShelf::moveAlbum);
     connect(m_pane, &AlbumPane::renamed, m_albums, &AlbumCommands::rename);
-    connect(m_photos, &PhotosView::moved, this, &PhotoVIEW1::followChoice);
-    connect(m_photos, &PhotosView::orderChosen, this,
+    connect(m_photos, &AlbumView::moved, this, &PhotoVIEW1::followChoice);
+    connect(m_photos, &AlbumView::orderChosen, this,
             [this](int sorting) { m_albums->setOrder(PhotoAlbum::Sorting(sorting)); });
     PhotoGrid &grid = m_photos->grid();
     connect(&grid, &PictureGrid::opened, m_look, &LookCommands::openLarge);
@@ -222,7 +222,7 @@ void PhotoVIEW1::connectParts()
     });
     connect(m_details, &PhotoDetails::said, this, say);
     connect(m_details, &PhotoDetails::left, this, [this] { m_stack->currentWidget()->setFocus(); });
-    connect(m_commands, &PhotoCommands::said, this, say);
+    connect(m_commands, &ShelfCommands::said, this, say);
     connect(m_albums, &AlbumCommands::said, this, say);
     connect(m_albums, &AlbumCommands::albumWanted, this, [this](int album) {
         bring({{ShelfView::Kind::Album, album}, {}});

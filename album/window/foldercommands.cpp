@@ -2,8 +2,8 @@
 #include "album/window/foldercommands.h"
 
 #include "album/model/photoshelf.h"
+#include "album/window/albumview.h"
 #include "album/window/conflictpanel.h"
-#include "album/window/photosview.h"
 #include "album/window/shelfcare.h"
 #include "album/window/windowlines.h"
 #include "shell/frame/commands.h"

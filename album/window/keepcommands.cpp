@@ -2,12 +2,12 @@
 #include "album/window/keepcommands.h"
 
 #include "album/model/photoshelf.h"
+#include "album/window/albumview.h"
 #include "album/window/alikepanel.h"
 #include "album/window/cardspanel.h"
-#include "album/window/exportpanel.h"
 #include "album/window/findagainpanel.h"
 #include "album/window/keepinglines.h"
-#include "album/window/photosview.h"
+#include "album/window/photoexportpanel.h"
 #include "album/window/shelfcare.h"
 #include "album/window/windowlines.h"
 #include "shell/access/gate.h"
@@ -123,9 +123,9 @@ void KeepCommands::openAlike()
 void KeepCommands::openExport()
 {
     if (!m_export) {
-        m_export = new ExportPanel(m_desk.program, m_desk.shelf, &m_desk.window);
+        m_export = new PhotoExportPanel(m_desk.program, m_desk.shelf, &m_desk.window);
         m_desk.views.addPanel(m_export);
-        connect(m_export, &ExportPanel::said, this, &KeepCommands::said);
+        connect(m_export, &PhotoExportPanel::said, this, &KeepCommands::said);
     }
     const bool areSeveral = m_desk.photos.chosen().size() > 1;
     m_export->start(areSeveral ? AlbumWindowLines::whatIsChosen() : nameOfShown(),

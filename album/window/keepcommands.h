@@ -9,7 +9,7 @@
 
 class AlikePanel;
 class CardsPanel;
-class ExportPanel;
+class PhotoExportPanel;
 class FindAgainPanel;
 class QAction;
 class QMenu;
@@ -50,6 +50,6 @@ private:
     QAction *m_findCommand = nullptr;
     FindAgainPanel *m_find = nullptr;
     AlikePanel *m_alike = nullptr;
-    ExportPanel *m_export = nullptr;
+    PhotoExportPanel *m_export = nullptr;
     CardsPanel *m_cardsPanel = nullptr;
 };

@@ -3,9 +3,9 @@
 
 #include "album/window/albumcommands.h"
 #include "album/window/albumpane.h"
+#include "album/window/albumview.h"
 #include "album/window/largeview.h"
 #include "album/window/photogrid.h"
-#include "album/window/photosview.h"
 #include "album/window/windowlines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"

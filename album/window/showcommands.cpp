@@ -2,7 +2,7 @@
 #include "album/window/showcommands.h"
 
 #include "album/model/photoshelf.h"
-#include "album/window/photosview.h"
+#include "album/window/albumview.h"
 #include "album/window/slidepanel.h"
 #include "album/window/slideshow.h"
 #include "album/window/windowlines.h"

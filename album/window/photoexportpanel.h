@@ -13,11 +13,11 @@ struct Program;
 
 /// "Export": pictures given away as copies in a folder, originals or smaller ones, with what is said of them
 /// in the files.
-class ExportPanel final : public WalkPanel
+class PhotoExportPanel final : public WalkPanel
 {
     Q_OBJECT
 public:
-    ExportPanel(const Program &program, PhotoShelf &shelf, QWidget *window, QWidget *parent = nullptr);
+    PhotoExportPanel(const Program &program, PhotoShelf &shelf, QWidget *window, QWidget *parent = nullptr);
 
     /// `name` is what is given out: "Grandmother".
     void start(const QString &name, const QList<int> &photos);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "album/window/exportpanel.h"
+#include "album/window/photoexportpanel.h"
 
 #include "album/model/kepttexts.h"
 #include "album/window/keepinglines.h"
@@ -25,7 +25,8 @@ constexpr int sideWidth = 240;
 
 } // namespace
 
-ExportPanel::ExportPanel(const Program &program, PhotoShelf &shelf, QWidget *window, QWidget *parent)
+PhotoExportPanel::PhotoExportPanel(const Program &program, PhotoShelf &shelf, QWidget *window,
+                                   QWidget *parent)
     : WalkPanel(u"exportPanel"_s, u"Export"_s, parent)
     , m_program(program)
     , m_window(window)
@@ -55,14 +56,14 @@ ExportPanel::ExportPanel(const Program &program, PhotoShelf &shelf, QWidget *win
         setTabOrder(last, next);
         last = next;
     }
-    connect(m_choose, &QPushButton::clicked, this, &ExportPanel::chooseFolder);
-    connect(m_run, &QPushButton::clicked, this, &ExportPanel::run);
+    connect(m_choose, &QPushButton::clicked, this, &PhotoExportPanel::chooseFolder);
+    connect(m_run, &QPushButton::clicked, this, &PhotoExportPanel::run);
     connect(m_smaller, &QRadioButton::toggled, m_side, &QWidget::setEnabled);
-    connect(&m_export, &AlbumExport::progressed, this, &ExportPanel::showWalk);
-    connect(&m_export, &AlbumExport::finished, this, &ExportPanel::finish);
+    connect(&m_export, &AlbumExport::progressed, this, &PhotoExportPanel::showWalk);
+    connect(&m_export, &AlbumExport::finished, this, &PhotoExportPanel::finish);
 }
 
-void ExportPanel::fill(QWidget *content)
+void PhotoExportPanel::fill(QWidget *content)
 {
     const QSettings &store = m_program.store;
     for (const int side : sides)
@@ -98,7 +99,7 @@ void ExportPanel::fill(QWidget *content)
     column->addStretch(1);
 }
 
-QWidget *ExportPanel::makeFolderRow(QWidget *content)
+QWidget *PhotoExportPanel::makeFolderRow(QWidget *content)
 {
     auto *place = new QWidget(content);
     auto *row = new QHBoxLayout(place);
@@ -109,7 +110,7 @@ QWidget *ExportPanel::makeFolderRow(QWidget *content)
     return place;
 }
 
-void ExportPanel::start(const QString &name, const QList<int> &photos)
+void PhotoExportPanel::start(const QString &name, const QList<int> &photos)
 {
     if (isWalking())
         return;
@@ -119,7 +120,7 @@ void ExportPanel::start(const QString &name, const QList<int> &photos)
     setFolder({});
 }
 
-void ExportPanel::chooseFolder()
+void PhotoExportPanel::chooseFolder()
 {
     const auto folder = m_program.dialogs.chooseFolder(
         m_window, KeepingLines::exportFolder(),
@@ -131,7 +132,7 @@ void ExportPanel::chooseFolder()
     m_run->setFocus();
 }
 
-void ExportPanel::setFolder(const QString &folder)
+void PhotoExportPanel::setFolder(const QString &folder)
 {
     m_folder = folder;
     m_folderName->setText(folder.isEmpty() ? u"No folder is chosen yet"_s : QDir::toNativeSeparators(folder));
@@ -139,7 +140,7 @@ void ExportPanel::setFolder(const QString &folder)
     follow();
 }
 
-void ExportPanel::follow()
+void PhotoExportPanel::follow()
 {
     setUnavailable(m_run, isWalking()          ? u"The pictures are being copied"_s
                           : m_folder.isEmpty() ? KeepingLines::noFolder()
@@ -147,7 +148,7 @@ void ExportPanel::follow()
     setUnavailable(m_choose, isWalking() ? u"The pictures are being copied"_s : QString());
 }
 
-void ExportPanel::run()
+void PhotoExportPanel::run()
 {
     m_program.store.setValue(keys + "smaller"_L1, m_smaller->isChecked());
     m_program.store.setValue(keys + "side"_L1, m_side->currentData());
@@ -164,7 +165,7 @@ void ExportPanel::run()
     m_export.start(wish);
 }
 
-void ExportPanel::finish(const AlbumExport::Result &result)
+void PhotoExportPanel::finish(const AlbumExport::Result &result)
 {
     endWalk();
     follow();
@@ -178,7 +179,7 @@ void ExportPanel::finish(const AlbumExport::Result &result)
         leave();
 }
 
-void ExportPanel::stopWalk()
+void PhotoExportPanel::stopWalk()
 {
     m_export.stop();
 }

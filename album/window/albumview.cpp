@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "album/window/photosview.h"
+#include "album/window/albumview.h"
 
 #include "album/model/photoshelf.h"
 #include "album/window/photogrid.h"
@@ -27,7 +27,7 @@ const QString sideKey = u"Windows/PhotoVIEW1/side"_s;
 const QString sortingKey = u"Windows/PhotoVIEW1/sorting"_s;
 } // namespace
 
-PhotosView::PhotosView(Program &program, PhotoShelf &shelf, PictureQueue &queue, QWidget *parent)
+AlbumView::AlbumView(Program &program, PhotoShelf &shelf, PictureQueue &queue, QWidget *parent)
     : TitledView(u"photos"_s, parent)
     , m_program(program)
     , m_shelf(shelf)
@@ -50,14 +50,14 @@ PhotosView::PhotosView(Program &program, PhotoShelf &shelf, PictureQueue &queue,
     m_stack->addWidget(m_first);
     m_stack->addWidget(m_nothing);
     addContent(places, 1);
-    connect(m_grid, &PictureGrid::choiceChanged, this, &PhotosView::showCount);
-    connect(m_grid, &PictureGrid::choiceChanged, this, &PhotosView::moved);
-    connect(m_grid, &PictureGrid::sideChanged, this, &PhotosView::setSide);
+    connect(m_grid, &PictureGrid::choiceChanged, this, &AlbumView::showCount);
+    connect(m_grid, &PictureGrid::choiceChanged, this, &AlbumView::moved);
+    connect(m_grid, &PictureGrid::sideChanged, this, &AlbumView::setSide);
     setSide(program.store.value(sideKey, PictureGrid::usualSide).toInt());
     setFocusProxy(m_grid);
 }
 
-QWidget *PhotosView::makeTools()
+QWidget *AlbumView::makeTools()
 {
     auto *tools = new QWidget(this);
     auto *row = new QHBoxLayout(tools);
@@ -73,26 +73,26 @@ QWidget *PhotosView::makeTools()
     m_size->setToolTip(u"Size of the pictures"_s);
     row->addWidget(m_order);
     row->addWidget(m_size);
-    connect(m_size, &QSlider::valueChanged, this, &PhotosView::setSide);
-    connect(m_order, &QComboBox::activated, this, &PhotosView::orderChosen);
+    connect(m_size, &QSlider::valueChanged, this, &AlbumView::setSide);
+    connect(m_order, &QComboBox::activated, this, &AlbumView::orderChosen);
     return tools;
 }
 
-void PhotosView::setSide(int side)
+void AlbumView::setSide(int side)
 {
     m_grid->setSide(side);
     m_size->setValue(m_grid->side());
     m_program.store.setValue(sideKey, m_grid->side());
 }
 
-void PhotosView::setSorting(PhotoAlbum::Sorting sorting)
+void AlbumView::setSorting(PhotoAlbum::Sorting sorting)
 {
     m_program.store.setValue(sortingKey, int(sorting));
     followShelf();
 }
 
 /// An album has an order of its own; everything else has the one that was chosen last.
-PhotoAlbum::Sorting PhotosView::sorting() const
+PhotoAlbum::Sorting AlbumView::sorting() const
 {
     if (const PhotoAlbum *album = shownAlbum())
         return album->sorting;
@@ -101,12 +101,12 @@ PhotoAlbum::Sorting PhotosView::sorting() const
                                                       : PhotoAlbum::Sorting::ByDate;
 }
 
-const PhotoAlbum *PhotosView::shownAlbum() const
+const PhotoAlbum *AlbumView::shownAlbum() const
 {
     return m_shown.isOf(ShelfView::Kind::Album) ? m_shelf.album(m_shown.view.number) : nullptr;
 }
 
-void PhotosView::show(const PhotosShown &shown)
+void AlbumView::show(const PhotosShown &shown)
 {
     const bool isAnother = shown != m_shown;
     m_shown = shown;
@@ -120,18 +120,18 @@ void PhotosView::show(const PhotosShown &shown)
     emit moved();
 }
 
-void PhotosView::followShelf()
+void AlbumView::followShelf()
 {
     refresh(); // also out of sight: the large picture goes through the same list
 }
 
-void PhotosView::followPhotos(const QList<int> &records)
+void AlbumView::followPhotos(const QList<int> &records)
 {
     m_tiles->follow(records);
 }
 
 /// The records of what is shown.
-QList<int> PhotosView::found()
+QList<int> AlbumView::found()
 {
     const QDate today = m_program.clock.today();
     if (!m_shown.isSearch())
@@ -141,7 +141,7 @@ QList<int> PhotosView::found()
     return found;
 }
 
-void PhotosView::refresh()
+void AlbumView::refresh()
 {
     const QList<int> marked = chosen();
     const int now = current();
@@ -162,7 +162,7 @@ void PhotosView::refresh()
     showEmptiness();
 }
 
-void PhotosView::showOrder()
+void AlbumView::showOrder()
 {
     const bool isAlbum = shownAlbum();
     m_order->setItemData(int(PhotoAlbum::Sorting::ByHand), isAlbum ? QVariant() : QVariant(0),
@@ -170,14 +170,14 @@ void PhotosView::showOrder()
     m_order->setCurrentIndex(int(sorting()));
 }
 
-void PhotosView::showTitle()
+void AlbumView::showTitle()
 {
     titleLine().setTitle(
         AlbumWindowLines::title(m_shown, shownAlbum(), m_program.clock.today(), m_program.state.dateStyle));
     showCount();
 }
 
-void PhotosView::showCount()
+void AlbumView::showCount()
 {
     const bool areMissing = m_shown.isOf(ShelfView::Kind::Missing) && m_tiles->rowCount() > 0;
     if (m_find && m_find->isVisibleTo(this) != areMissing) {
@@ -187,7 +187,7 @@ void PhotosView::showCount()
     foot().setWords(AlbumWindowLines::count(int(chosen().size()), m_tiles->rowCount()));
 }
 
-void PhotosView::showEmptiness()
+void AlbumView::showEmptiness()
 {
     const bool isEmpty = m_tiles->rowCount() == 0;
     const bool isFirst = m_shelf.photos().empty() && !m_shown.isOf(ShelfView::Kind::Album);
@@ -199,22 +199,22 @@ void PhotosView::showEmptiness()
     setFocusProxy(shown == m_nothing ? m_grid : shown);
 }
 
-const QList<int> &PhotosView::records() const
+const QList<int> &AlbumView::records() const
 {
     return m_tiles->records();
 }
 
-QList<int> PhotosView::chosen() const
+QList<int> AlbumView::chosen() const
 {
     return m_grid->chosenRecords();
 }
 
-int PhotosView::current() const
+int AlbumView::current() const
 {
     return m_tiles->recordAt(m_grid->currentIndex().row());
 }
 
-void PhotosView::choose(const QList<int> &records)
+void AlbumView::choose(const QList<int> &records)
 {
     QList<int> rows;
     for (const int record : records) {
@@ -224,20 +224,20 @@ void PhotosView::choose(const QList<int> &records)
     m_grid->choose(rows);
 }
 
-QList<int> PhotosView::chosenOrAll() const
+QList<int> AlbumView::chosenOrAll() const
 {
     const QList<int> marked = chosen();
     return marked.size() > 1 ? marked : records();
 }
 
-void PhotosView::addMissingButton(QPushButton *button)
+void AlbumView::addMissingButton(QPushButton *button)
 {
     m_find = button;
     foot().addLeft(button);
     showCount();
 }
 
-void PhotosView::addFirstButton(QPushButton *button)
+void AlbumView::addFirstButton(QPushButton *button)
 {
     m_first->addButton(button);
 }

@@ -15,14 +15,14 @@ class QUrl;
 class ShiftPanel;
 
 /// What is done to the pictures that are chosen: said of them, turned, put into albums, taken out and off.
-class PhotoCommands final : public QObject
+class ShelfCommands final : public QObject
 {
     Q_OBJECT
 public:
     /// Opens a file in the system's program; false when none takes it.
     using OpenFile = std::function<bool(const QUrl &)>;
 
-    PhotoCommands(const AlbumDesk &desk, PhotoDetails &details, QObject *parent);
+    ShelfCommands(const AlbumDesk &desk, PhotoDetails &details, QObject *parent);
 
     void addCommands(QMenu *edit);
     QAction *captionCommand() const { return m_caption; }

@@ -18,11 +18,11 @@ struct Program;
 
 /// The grid of what is shown, with its title, the order and the size of its pictures; or, where there is
 /// none, what to do about it.
-class PhotosView final : public TitledView
+class AlbumView final : public TitledView
 {
     Q_OBJECT
 public:
-    PhotosView(Program &program, PhotoShelf &shelf, PictureQueue &queue, QWidget *parent = nullptr);
+    AlbumView(Program &program, PhotoShelf &shelf, PictureQueue &queue, QWidget *parent = nullptr);
 
     void show(const PhotosShown &shown);
     const PhotosShown &shown() const { return m_shown; }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "album/window/photocommands.h"
+#include "album/window/shelfcommands.h"
 
 #include "album/model/photoshelf.h"
+#include "album/window/albumview.h"
 #include "album/window/photodetails.h"
 #include "album/window/photogrid.h"
-#include "album/window/photosview.h"
 #include "album/window/shiftpanel.h"
 #include "album/window/windowlines.h"
 #include "shell/frame/commands.h"
@@ -28,7 +28,7 @@ constexpr QKeyCombination turnRight = Qt::CTRL | Qt::Key_R;
 constexpr int quartersOfAll = 4;
 } // namespace
 
-PhotoCommands::PhotoCommands(const AlbumDesk &desk, PhotoDetails &details, QObject *parent)
+ShelfCommands::ShelfCommands(const AlbumDesk &desk, PhotoDetails &details, QObject *parent)
     : QObject(parent)
     , openFile(&QDesktopServices::openUrl)
     , m_desk(desk)
@@ -36,7 +36,7 @@ PhotoCommands::PhotoCommands(const AlbumDesk &desk, PhotoDetails &details, QObje
 {}
 
 /// For pictures that are chosen; what was typed of them is taken first.
-QAction *PhotoCommands::add(QMenu *menu, const QString &name, const QString &caption,
+QAction *ShelfCommands::add(QMenu *menu, const QString &name, const QString &caption,
                             std::function<void()> run, const QKeySequence &key)
 {
     const auto first = [this, run = std::move(run)] {
@@ -47,18 +47,18 @@ QAction *PhotoCommands::add(QMenu *menu, const QString &name, const QString &cap
         menu, name, caption, first, [this] { return whyLocked(); }, key));
 }
 
-QString PhotoCommands::whyNone() const
+QString ShelfCommands::whyNone() const
 {
     return m_desk.photos.chosen().isEmpty() ? AlbumWindowLines::choosePicture() : QString();
 }
 
-QString PhotoCommands::whyLocked() const
+QString ShelfCommands::whyLocked() const
 {
     const QString why = m_desk.shelf.whyLocked();
     return why.isEmpty() ? whyNone() : why;
 }
 
-void PhotoCommands::addCommands(QMenu *edit)
+void ShelfCommands::addCommands(QMenu *edit)
 {
     m_caption = add(
         edit, u"mECap"_s, u"&Caption"_s, [this] { m_details.typeCaption(); }, CommonKeys::change);
@@ -85,7 +85,7 @@ void PhotoCommands::addCommands(QMenu *edit)
                         [this] { m_desk.photos.choose(m_desk.photos.records()); });
 }
 
-void PhotoCommands::addRatings(QMenu *edit)
+void ShelfCommands::addRatings(QMenu *edit)
 {
     auto *ratings = new QMenu(u"&Rating"_s, edit);
     ratings->menuAction()->setObjectName(u"mERate"_s);
@@ -103,17 +103,17 @@ void PhotoCommands::addRatings(QMenu *edit)
 }
 
 /// The albums by name, as they are when the menu opens.
-void PhotoCommands::addAlbums(QMenu *edit)
+void ShelfCommands::addAlbums(QMenu *edit)
 {
     m_albums = new QMenu(u"Put into Al&bum"_s, edit);
     m_albums->setObjectName(u"putIntoAlbum"_s);
     m_albums->menuAction()->setObjectName(u"mEPut"_s);
     edit->addMenu(m_albums);
-    connect(edit, &QMenu::aboutToShow, this, &PhotoCommands::fillAlbums);
-    connect(m_albums, &QMenu::aboutToShow, this, &PhotoCommands::fillAlbums);
+    connect(edit, &QMenu::aboutToShow, this, &ShelfCommands::fillAlbums);
+    connect(m_albums, &QMenu::aboutToShow, this, &ShelfCommands::fillAlbums);
 }
 
-void PhotoCommands::fillAlbums()
+void ShelfCommands::fillAlbums()
 {
     m_albums->clear();
     for (const PhotoAlbum &album : m_desk.shelf.albums()) {
@@ -129,13 +129,13 @@ void PhotoCommands::fillAlbums()
     setUnavailable(m_albums->menuAction(), why);
 }
 
-void PhotoCommands::putInto(int album, const QList<int> &records)
+void ShelfCommands::putInto(int album, const QList<int> &records)
 {
     if (m_desk.shelf.album(album) && !m_desk.shelf.putInto(album, records))
         emit said(AlbumWindowLines::inAlready(m_desk.shelf.album(album)->name));
 }
 
-void PhotoCommands::rate(int rating)
+void ShelfCommands::rate(int rating)
 {
     const QList<int> chosen = m_desk.photos.chosen();
     if (chosen.isEmpty())
@@ -145,7 +145,7 @@ void PhotoCommands::rate(int rating)
 }
 
 /// The picture's own file stays as it is.
-void PhotoCommands::turn(int quarters)
+void ShelfCommands::turn(int quarters)
 {
     const QList<int> chosen = m_desk.photos.chosen();
     m_desk.shelf.change(chosen, AlbumWindowLines::turned(int(chosen.size())), [quarters](Photo &photo) {
@@ -153,17 +153,17 @@ void PhotoCommands::turn(int quarters)
     });
 }
 
-void PhotoCommands::takeOut()
+void ShelfCommands::takeOut()
 {
     m_desk.shelf.takeOut(m_desk.photos.shownAlbum()->record, m_desk.photos.chosen());
 }
 
-void PhotoCommands::remove()
+void ShelfCommands::remove()
 {
     m_desk.shelf.removePhotos(m_desk.photos.chosen());
 }
 
-void PhotoCommands::leaveOutOfShows()
+void ShelfCommands::leaveOutOfShows()
 {
     const QList<int> chosen = m_desk.photos.chosen();
     const bool isLeftOut = m_shows->isChecked();
@@ -171,12 +171,12 @@ void PhotoCommands::leaveOutOfShows()
                         [isLeftOut](Photo &photo) { photo.set(Photo::LeftOutOfShows, isLeftOut); });
 }
 
-void PhotoCommands::startShift()
+void ShelfCommands::startShift()
 {
     if (!m_shift) {
         m_shift = new ShiftPanel(m_desk.program, &m_desk.window);
         m_desk.views.addPanel(m_shift);
-        connect(m_shift, &ShiftPanel::accepted, this, &PhotoCommands::shift);
+        connect(m_shift, &ShiftPanel::accepted, this, &ShelfCommands::shift);
     }
     const QList<int> chosen = m_desk.photos.chosen();
     m_desk.window.closePreview();
@@ -185,7 +185,7 @@ void PhotoCommands::startShift()
     m_shift->setFocus();
 }
 
-void PhotoCommands::shift(qint64 seconds)
+void ShelfCommands::shift(qint64 seconds)
 {
     const QList<int> chosen = m_desk.photos.chosen();
     m_desk.views.goHome();
@@ -198,7 +198,7 @@ void PhotoCommands::shift(qint64 seconds)
                         });
 }
 
-void PhotoCommands::open()
+void ShelfCommands::open()
 {
     const Photo *photo = m_desk.shelf.photo(m_desk.photos.chosen().value(0));
     const QString path = photo ? m_desk.shelf.filePath(*photo) : QString();
