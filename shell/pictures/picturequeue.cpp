@@ -31,7 +31,8 @@ void PictureQueue::setSide(int pixels)
 
 void PictureQueue::want(const WantedPicture &picture, Priority priority)
 {
-    ask(picture);
+    if (priority != Priority::Rest) // of which nothing arrives
+        ask(picture);
     m_work->want(picture, priority);
 }
 
@@ -43,11 +44,14 @@ void PictureQueue::show(const std::vector<WantedPicture> &seen, const std::vecto
     m_work->show(seen, next);
 }
 
-/// What there was no room for has to come again.
+/// What there was no room for has to come again, and what is kept of another file is not shown for this one.
 void PictureQueue::ask(const WantedPicture &picture)
 {
-    if (!m_kept.contains(picture.id))
-        m_work->lose(picture.id);
+    const Shown *shown = m_kept.object(picture.id);
+    if (shown && shown->path == picture.path)
+        return;
+    m_kept.remove(picture.id);
+    m_work->lose(picture.id);
 }
 
 void PictureQueue::forget(int id)
@@ -66,8 +70,8 @@ void PictureQueue::forgetAll()
 
 PictureQueue::Kept PictureQueue::kept(int id) const
 {
-    const Kept *found = m_kept.object(id);
-    return found ? *found : Kept{{}, Look::Rough, m_reasons.value(id)};
+    const Shown *found = m_kept.object(id);
+    return found ? found->kept : Kept{{}, Look::Rough, m_reasons.value(id)};
 }
 
 void PictureQueue::setMostKept(qsizetype bytes)
@@ -87,7 +91,7 @@ void PictureQueue::takeArrivals()
             m_reasons.remove(arrival.id);
             // A single picture is kept even where there is room for less.
             const qsizetype bytes = std::clamp<qsizetype>(arrival.image.sizeInBytes(), 1, m_kept.maxCost());
-            m_kept.insert(arrival.id, new Kept{arrival.image, arrival.look, {}}, bytes);
+            m_kept.insert(arrival.id, new Shown{{arrival.image, arrival.look, {}}, arrival.path}, bytes);
             emit arrived(arrival.id, arrival.image, arrival.look);
         } else {
             m_reasons.insert(arrival.id, arrival.reason);

@@ -83,6 +83,10 @@ private:
     void takeArrivals();
 
     std::shared_ptr<PictureWork> m_work;
-    QCache<int, Kept> m_kept;
+    struct Shown {
+        Kept kept;
+        QString path; ///< of its file
+    };
+    QCache<int, Shown> m_kept;
     QHash<int, QString> m_reasons; ///< of those that cannot be shown
 };

@@ -16,6 +16,7 @@ namespace {
 
 /// Steps in which pictures are made smaller than their thumbnails.
 constexpr int smallStep = 32;
+constexpr int untilTriedAgain = 2000; ///< milliseconds
 
 /// The threads of all queues. The program ends when they have.
 class RunningThreads
@@ -129,6 +130,8 @@ void PictureWork::put(const WantedPicture &picture, Priority priority)
         entry = {.picture = picture, .birth = ++m_count};
         m_waiting += wasReady ? 1 : 0;
     }
+    if (entry.hasFailed && priority != Priority::Rest && entry.again.hasExpired())
+        entry.hasFailed = false; // it may be there now, or whole
     const bool isSharp = entry.hasFailed || entry.sharpSide >= m_side;
     const bool isReady = priority == Priority::Rest ? entry.isReady : isSharp;
     const bool isInPlace =
@@ -347,6 +350,7 @@ void PictureWork::takeSharp(Entry &entry, const Job &job, const Result &result)
     const bool isAway = result.look == Look::Away;
     if (!result.reason.isEmpty()) {
         entry.hasFailed = true;
+        entry.again.setRemainingTime(untilTriedAgain);
         settle(entry, true);
         tell(entry, result);
     } else if (entry.priority == Priority::Rest) {
@@ -365,5 +369,6 @@ void PictureWork::tell(const Entry &entry, const Result &result)
 {
     if (m_told.empty())
         QMetaObject::invokeMethod(m_queue, &PictureQueue::takeArrivals, Qt::QueuedConnection);
-    m_told.push_back({entry.birth, {entry.picture.id, result.image, result.look, result.reason}});
+    m_told.push_back(
+        {entry.birth, {entry.picture.id, entry.picture.path, result.image, result.look, result.reason}});
 }

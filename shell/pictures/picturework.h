@@ -4,6 +4,7 @@
 #include "shell/pictures/picturequeue.h"
 #include "shell/pictures/thumbnails.h"
 
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QMutex>
 #include <QSet>
@@ -37,6 +38,7 @@ public:
     /// What has been read of a picture.
     struct Arrival {
         int id = 0;
+        QString path = {}; ///< of its file
         QImage image = {}; ///< null where there is none
         PictureQueue::Look look = PictureQueue::Look::Rough;
         QString reason = {}; ///< why there is none
@@ -59,6 +61,7 @@ private:
         int sharpSide = 0;      ///< in which it has arrived sharp
         bool hasRough = false;  ///< a rough one has arrived, or there is none
         bool hasFailed = false; ///< which has been told
+        QDeadlineTimer again{}; ///< after which one that has failed is tried once more
         bool isReady = false;   ///< nothing is to be done for its priority
         bool isRunning = false; ///< its sharp picture is being read
     };

@@ -111,6 +111,21 @@ private slots:
         QCOMPARE(size(), QSize(128, 96));
     }
 
+    void showsNoPictureForAnother()
+    {
+        PictureQueue queue(thumbnails());
+        watch(queue);
+        WantedPicture picture = photograph(1, {1600, 1200});
+        const WantedPicture other = photograph(2, {1200, 1600});
+        queue.show({picture}, {});
+        QTRY_VERIFY(!queue.kept(1).image.isNull());
+        QTRY_COMPARE(queue.waitingCount(), 0);
+        picture.path = other.path; // the number belongs to another file now
+        queue.show({picture}, {});
+        QVERIFY(queue.kept(1).image.isNull());
+        QTRY_COMPARE(queue.kept(1).image.size(), QSize(192, 256));
+    }
+
     void tellsWhatCannotBeShown()
     {
         PictureQueue queue(thumbnails());
