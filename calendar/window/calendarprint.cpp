@@ -115,6 +115,8 @@ void CalendarPrint::savePdf()
                             PreviewPane::usualFont());
     if (job.toFile(pages))
         m_desk.views.goHome();
+    else
+        m_panel->setFocus(); // it was the button's that stopped it
 }
 
 void CalendarPrint::copy()

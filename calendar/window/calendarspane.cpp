@@ -24,6 +24,8 @@ constexpr int leastWidth = 180;
 constexpr int lineRole = TwoLineDelegate::furtherRole;
 constexpr int fewestRows = 1;
 constexpr int mostRows = 4;
+constexpr int mostInLow = 2;
+constexpr int lowBelow = 480;
 
 QStandardItem *makeRow(const QString &title, const QString &words, const QVariant &key)
 {
@@ -134,13 +136,26 @@ void CalendarsPane::refresh()
         m_rows->appendRow(makeRow(title, words, head.number));
     }
     m_count->setText(CalendarWindowLines::countOfCalendars(m_rows->rowCount()));
-    const int rows = std::clamp(m_rows->rowCount(), fewestRows, mostRows);
+    shareHeight();
+    follow();
+}
+
+/// In a low window the months need the room more than a fifth calendar does.
+void CalendarsPane::shareHeight()
+{
+    const int most = height() < lowBelow ? mostInLow : mostRows;
+    const int rows = std::clamp(m_rows->rowCount(), fewestRows, most);
     m_list->ensurePolished();
     QStyleOptionViewItem option;
     option.initFrom(m_list);
-    const int height = m_list->itemDelegate()->sizeHint(option, m_rows->index(0, 0)).height();
-    m_list->setFixedHeight(rows * height + 2 * m_list->frameWidth() + 6);
-    follow();
+    const int rowHeight = m_list->itemDelegate()->sizeHint(option, m_rows->index(0, 0)).height();
+    m_list->setFixedHeight(rows * rowHeight + 2 * m_list->frameWidth() + 6);
+}
+
+void CalendarsPane::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    shareHeight();
 }
 
 void CalendarsPane::follow()

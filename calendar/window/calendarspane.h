@@ -37,7 +37,11 @@ signals:
     /// The work goes on in what is shown.
     void entered();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void shareHeight();
     QWidget *makeLists(const SheetMaker &sheets);
     QWidget *makeHits();
     QListView *makeRows(QStandardItemModel *rows, const QString &name, const QString &spoken);

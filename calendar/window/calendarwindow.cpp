@@ -83,7 +83,7 @@ Calendar::Calendar(Program &program, QWidget *parent)
     m_calendars->refresh();
     m_calendars->show(m_calendars->nearest(clock().today()));
     showCalendar();
-    watchFiles(m_calendars->fileNames());
+    watchCalendars();
 }
 
 CalendarDesk Calendar::desk()
@@ -203,7 +203,7 @@ void Calendar::connectParts()
     connect(m_calendars, &OpenCalendars::shown, this, &Calendar::showCalendar);
     connect(m_calendars, &OpenCalendars::changed, this, &Calendar::follow);
     connect(m_calendars, &OpenCalendars::edited, &undoStack(), qOverload<UndoStep>(&UndoStack::push));
-    connect(m_calendars, &OpenCalendars::fileTouched, this, [this] { watchFiles(m_calendars->fileNames()); });
+    connect(m_calendars, &OpenCalendars::fileTouched, this, &Calendar::watchCalendars);
     connect(m_calendars, &OpenCalendars::said, this, say);
     connect(m_typing, &CellTyping::said, this, say);
     connect(m_typing, &CellTyping::done, this, done);
@@ -223,6 +223,8 @@ void Calendar::connectParts()
         m_typing->finish();
         if (!m_stack->isHome())
             activity().say({}); // it was said of the month
+        else if (activity().message().isEmpty())
+            activity().say(m_leftOver);
         m_calendars->setHeld(m_commands->isEditing() ? CalendarWindowLines::keepFirst() : QString());
         commands().refresh();
     });
@@ -232,7 +234,10 @@ void Calendar::connectParts()
 void Calendar::connectPage()
 {
     connect(m_page, &MonthPage::said, this, [this](const QString &line) { activity().say(line); });
-    connect(m_page, &MonthPage::leftOverChanged, this, [this](const QString &line) { activity().say(line); });
+    connect(m_page, &MonthPage::leftOverChanged, this, [this](const QString &line) {
+        m_leftOver = line;
+        activity().say(line);
+    });
     connect(m_page, &MonthPage::monthChanged, this, [this] { m_pane->setMonth(m_page->month()); });
     connect(m_page, &MonthPage::moved, this, [this] {
         commands().refresh();
@@ -333,8 +338,19 @@ Answer Calendar::askToLeave()
 void Calendar::changeEvent(QEvent *event)
 {
     FunctionWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        m_filling->checkAgain();
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    if (m_calendars->fileNames() != m_watched) { // one came, or has gone
+        m_calendars->refresh();
+        watchCalendars();
+    }
+    m_filling->checkAgain();
+}
+
+void Calendar::watchCalendars()
+{
+    m_watched = m_calendars->fileNames();
+    watchFiles(m_watched);
 }
 
 /// What was deleted leaves the disk with the window.

@@ -52,6 +52,7 @@ private:
     void showCalendar();
     void follow();
     void saveByCommand();
+    void watchCalendars();
     void setZoom(bool isWhole);
     void followZoom();
 
@@ -71,4 +72,6 @@ private:
     CalendarSpelling *m_spelling;
     CalendarPrint *m_print;
     QAction *m_whole = nullptr;
+    QStringList m_watched;
+    QString m_leftOver; ///< what is said of lines without room in their days
 };

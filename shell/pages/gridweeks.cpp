@@ -26,6 +26,15 @@ struct DayText {
     GridEntries below;
 };
 
+/// Whether a word of it is wider than that.
+bool isTorn(const GridFrame &frame, const GridLine &line, double width)
+{
+    const PageType &type =
+        frame.types().line(frame.points(), line.isStrong ? GridTypes::Strong : GridTypes::Normal);
+    const QStringList words = line.text.split(u' ');
+    return std::ranges::any_of(words, [&](const QString &word) { return type.width(word) > width; });
+}
+
 DayText textOf(const GridFrame &frame, const GridCell &cell)
 {
     const double left = frame.inset() + frame.numberWidth() + besideGap;
@@ -35,6 +44,8 @@ DayText textOf(const GridFrame &frame, const GridCell &cell)
     double height = 0;
     const qsizetype count = width < narrowest * frame.points() ? 0 : cell.beside;
     for (qsizetype i = 0; i < std::min(count, cell.lines.size()); ++i) {
+        if (isTorn(frame, cell.lines[i], width))
+            break; // below the number it is wider
         LaidLine line = GridEntries::wrapped(frame, cell.lines[i], width, GridEntries::Further::Level);
         const double more = GridEntries::heightOf(frame, line);
         if (height + more > most)

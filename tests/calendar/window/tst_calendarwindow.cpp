@@ -404,6 +404,14 @@ private slots:
         }
     }
 
+    void aCalendarThatComesIntoTheFolderIsListed()
+    {
+        open(march());
+        changeElsewhere(u"CalMk2.Fil"_s, march().replace("Kitchen", "School"));
+        auto *list = find<QListView>("calendars");
+        QTRY_COMPARE(list->model()->rowCount(), 2);
+    }
+
     void searchesTheCalendar()
     {
         open(march(typed("2027-03-14", "Anne's concert") + typed("2027-03-20", "Concert of the choir")));
