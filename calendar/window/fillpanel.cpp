@@ -23,6 +23,22 @@ constexpr int lockSize = 16;
 /// The part of the row at column `column`.
 enum Column { Box, Count, From, Free };
 
+/// New parts take the colors of the panel that they stand on. It hands them on only when they change.
+void takeColors(const QWidget &part)
+{
+    QWidget *panel = part.parentWidget();
+    while (panel && !panel->testAttribute(Qt::WA_SetPalette))
+        panel = panel->parentWidget();
+    if (!panel)
+        return;
+    const QPalette colors = panel->palette();
+    QPalette others = colors;
+    others.setColor(QPalette::WindowText, colors.color(QPalette::Window));
+    others.setColor(ThemeRole::quiet, colors.color(QPalette::Window));
+    panel->setPalette(others);
+    panel->setPalette(colors);
+}
+
 } // namespace
 
 FillPanel::FillPanel(Program &program, QWidget *parent)
@@ -86,9 +102,7 @@ void FillPanel::showRows()
     m_none->setVisible(m_rows.isEmpty());
     const auto boxes = m_list->findChildren<QCheckBox *>(u"fillRow_0"_s);
     setFocusProxy(boxes.isEmpty() ? static_cast<QWidget *>(m_fill) : boxes.last());
-    // The new ones take the colours of the panel, which are handed on only when they change.
-    m_list->setPalette(m_list->palette());
-    m_list->setPalette({});
+    takeColors(*m_list);
     orderTabs();
     showPlan();
 }

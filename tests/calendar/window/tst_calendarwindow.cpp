@@ -329,6 +329,9 @@ private slots:
         QCOMPARE(labelText("fillSummary"), summary);
         QCOMPARE(find<QLabel>("fillGuarded")->isVisible(), isGiven);
         QCOMPARE(isOffered("fillNow"), isGiven);
+        key(Qt::Key_Escape);
+        trigger("mCFill");
+        QCOMPARE(ink(), before);
     }
 
     void aDeletedCalendarGoesWithTheWindow()
