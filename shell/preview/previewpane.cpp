@@ -5,6 +5,7 @@
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/enterkey.h"
+#include "shell/controls/taborder.h"
 #include "shell/look/theme.h"
 #include "shell/pages/pagepainter.h"
 #include "shell/preview/pagestepper.h"
@@ -177,6 +178,7 @@ void PreviewPane::fillButtonPanel()
     column->addStretch(1);
     column->addWidget(m_commands[ToggleButtons]);
     column->addWidget(m_close);
+    TabOrder::follow(*column, m_view);
 }
 
 void PreviewPane::connectControls()
