@@ -5,7 +5,7 @@
 
 mingw=x86_64-w64-mingw32
 windows_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 nsis dpkg-dev patch perl autoconf automake libtool
-    autopoint gettext fonts-dejavu-core python3 xvfb openbox xdotool x11-xkb-utils imagemagick)
+    autopoint gettext fonts-dejavu-core python3 xvfb openbox xdotool x11-xkb-utils imagemagick advancecomp)
 
 # Only what the program uses. direct2d without direct2d1_1: the other way does not link.
 qt_options=(-DBUILD_SHARED_LIBS=ON -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF -DFEATURE_pkg_config=OFF
