@@ -3,8 +3,10 @@
 
 #include "storage/log.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QSysInfo>
 
 #include <tuple>
 
@@ -75,11 +77,16 @@ bool FolderLock::lockFile()
     qint64 process = 0;
     QString host;
     QString program;
-    if (m_lock.error() == QLockFile::LockFailedError && m_lock.getLockInfo(&process, &host, &program))
+    const bool isSigned =
+        m_lock.error() == QLockFile::LockFailedError && m_lock.getLockInfo(&process, &host, &program);
+    // A dead program's number may be given again, and to this one of all.
+    const bool hasOwnNumber =
+        process == QCoreApplication::applicationPid() && host == QSysInfo::machineHostName();
+    if (isSigned && !hasOwnNumber)
         return false;
 
-    // A power cut can leave a lock without its owner's number, which by itself would never go stale. It can
-    // be removed only while no program holds it.
+    // A power cut can leave a lock without its owner's number, which by itself would never go stale, nor
+    // would one with our own. It can be removed only while no program holds it.
     if (m_lock.error() == QLockFile::LockFailedError && m_lock.removeStaleLockFile() && m_lock.tryLock(0))
         return true;
 
