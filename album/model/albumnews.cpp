@@ -16,7 +16,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr qsizetype dateAt = 2356;
-constexpr qsizetype bitsAt = 2391;
 
 /// Visits the records of pictures, as they stand in the file.
 void forEachPicture(const DataFolder &folder,
@@ -90,7 +89,7 @@ std::optional<LiveLine> AlbumNews::liveLine(const DataFolder &folder, QDate toda
     std::map<int, qsizetype> years;
     forEachPicture(folder, [&](int, QByteArrayView bytes) {
         ++count;
-        missing += (RecordBytes::number<quint8>(bytes, bitsAt) & Photo::NotThere) != 0 ? 1 : 0;
+        missing += (RecordBytes::number<quint8>(bytes, PhotoFile::bitsAt) & Photo::NotThere) != 0 ? 1 : 0;
         const QDate day = dayOf(bytes);
         if (day.isValid() && day.day() == today.day() && day.month() == today.month() &&
             day.year() < today.year())

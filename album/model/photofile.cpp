@@ -20,13 +20,12 @@ constexpr qsizetype dateAt = 2356;
 constexpr qsizetype dateFromAt = 2388;
 constexpr qsizetype turnsAt = 2389;
 constexpr qsizetype ratingAt = 2390;
-constexpr qsizetype bitsAt = 2391;
-constexpr qsizetype widthAt = 2392;
+constexpr qsizetype widthAt = PhotoFile::factsAt;
 constexpr qsizetype heightAt = 2396;
 constexpr qsizetype sizeAt = 2400;
 constexpr qsizetype timeAt = 2408;
 constexpr qsizetype hashAt = 2416;
-constexpr qsizetype end = 2448;
+constexpr qsizetype end = PhotoFile::factsEnd;
 constexpr qsizetype numberLength = 4;
 
 static_assert(captionAt - pathAt == PhotoTexts::pathBytes);

@@ -20,6 +20,11 @@ inline constexpr QByteArrayView mark("PIC1");
 inline constexpr std::array<qsizetype, 20> fields{0,    4,    516,  836,  1796, 1876, 2036, 2292, 2356, 2388,
                                                   2389, 2390, 2391, 2392, 2396, 2400, 2408, 2416, 2448, 2560};
 
+/// The bits, and behind them what the file of a picture is like: that is looked up, and nobody's doing.
+inline constexpr qsizetype bitsAt = 2391;
+inline constexpr qsizetype factsAt = 2392;
+inline constexpr qsizetype factsEnd = 2448;
+
 /// A whole record; its number is not in it.
 QByteArray encode(const Photo &photo);
 

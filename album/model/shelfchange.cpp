@@ -49,6 +49,21 @@ QByteArray bytesAt(QFile &file, qint64 offset, qsizetype length)
     return bytes.leftJustified(length, '\0');
 }
 
+/// Of the bits of a picture, those that tell of its file.
+constexpr quint8 factBits = Photo::TextsInFile | Photo::NotThere;
+
+QByteArray photoBytesAt(QFile &file, int record, qsizetype at, qsizetype length)
+{
+    return bytesAt(file, (record - 1) * qint64(PhotoFile::recordLength) + at, length);
+}
+
+/// Opened for reading, where it is there.
+void openIfThere(QFile &file)
+{
+    if (file.exists())
+        file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+}
+
 } // namespace
 
 ShelfChange::ShelfChange(Order order)
@@ -57,6 +72,11 @@ ShelfChange::ShelfChange(Order order)
 
 void ShelfChange::writePhoto(int number, const QByteArray &before, const QByteArray &after)
 {
+    if (!before.startsWith(PhotoFile::mark) || !after.startsWith(PhotoFile::mark)) {
+        // It comes or goes as a whole, with what is learnt of its file meanwhile.
+        m_photos.push_back({number, 0, before.leftJustified(after.size(), '\0'), after});
+        return;
+    }
     compare(PhotoFile::fields, before, after,
             [&](qsizetype at, const QByteArray &old, const QByteArray &wanted) {
                 m_photos.push_back({number, at, old, wanted});
@@ -81,30 +101,59 @@ QList<int> ShelfChange::recordsOf(const Spans &spans)
     return records;
 }
 
+bool ShelfChange::isBits(const Span &span)
+{
+    return span.at == PhotoFile::bitsAt && span.after.size() == 1;
+}
+
+bool ShelfChange::isPhotoThere(QByteArray there, const Span &span, Side side)
+{
+    QByteArray wanted = span.on(side);
+    for (qsizetype i = 0; i < wanted.size(); ++i) {
+        const qsizetype at = span.at + i;
+        if (at >= PhotoFile::factsAt && at < PhotoFile::factsEnd)
+            there[i] = wanted[i];
+        else if (at == PhotoFile::bitsAt)
+            there[i] = char((quint8(there[i]) & ~factBits) | (quint8(wanted[i]) & factBits));
+    }
+    return there == wanted;
+}
+
 bool ShelfChange::isThere(const DataFolder &folder, Side side) const
 {
-    const auto isAllThere = [&](const Spans &spans, const QString &name, qsizetype recordLength) {
-        if (spans.empty())
-            return true;
-        QFile file(folder.filePath(name));
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-            return false;
-        return std::ranges::all_of(spans, [&](const Span &span) {
-            const QByteArray &wanted = span.on(side);
-            return bytesAt(file, (span.record - 1) * qint64(recordLength) + span.at, wanted.size()) == wanted;
-        });
-    };
-    return isAllThere(m_photos, PhotoFile::name, PhotoFile::recordLength) &&
-           isAllThere(m_places, AlbumFile::name, AlbumFile::recordLength);
+    QFile photos(folder.filePath(PhotoFile::name));
+    QFile places(folder.filePath(AlbumFile::name));
+    openIfThere(photos);
+    openIfThere(places);
+    return (m_photos.empty() || photos.isOpen()) && (m_places.empty() || places.isOpen()) &&
+           std::ranges::all_of(m_photos,
+                               [&](const Span &span) {
+                                   return isPhotoThere(
+                                       photoBytesAt(photos, span.record, span.at, span.on(side).size()), span,
+                                       side);
+                               }) &&
+           std::ranges::all_of(m_places, [&](const Span &span) {
+               const qint64 at = (span.record - 1) * qint64(AlbumFile::recordLength) + span.at;
+               return bytesAt(places, at, span.on(side).size()) == span.on(side);
+           });
 }
 
 bool ShelfChange::addTo(ChangeSet &writes, const DataFolder &folder, Side side) const
 {
     const RecordFile photos(folder, PhotoFile::name, PhotoFile::recordLength);
     const RecordFile places(folder, AlbumFile::name, AlbumFile::recordLength);
-    const auto add = [&](const RecordFile &file, const Spans &spans) {
-        for (const Span &span : spans)
-            writes.write(file, span.record, span.on(side), span.at);
+    QFile file(photos.path());
+    openIfThere(file);
+    const auto add = [&](const RecordFile &target, const Spans &spans) {
+        for (const Span &span : spans) {
+            QByteArray bytes = span.on(side);
+            if (&target == &photos && isBits(span)) { // those that did not change stay as they are now
+                const auto changed = quint8(span.before[0] ^ span.after[0]);
+                const auto now = quint8(photoBytesAt(file, span.record, span.at, 1)[0]);
+                bytes[0] = char((now & ~changed) | (quint8(bytes[0]) & changed));
+            }
+            writes.write(target, span.record, bytes, span.at);
+        }
     };
     // What is taken back goes the other way round.
     const bool arePhotosFirst = (m_order == Order::PhotosFirst) == (side == Side::After);

@@ -9,7 +9,8 @@
 #include <vector>
 
 /// What one action changed in the album's two files: the fields of records that became others, and these
-/// alone. A kill in the middle leaves a picture in no album, and never a place without a picture.
+/// alone. A kill in the middle leaves a picture in no album, and never a place without a picture. What was
+/// learnt of a picture's file since does not keep a change from being taken back.
 class ShelfChange final : public FileChange
 {
 public:
@@ -48,6 +49,8 @@ private:
     using Spans = std::vector<Span>;
 
     static QList<int> recordsOf(const Spans &spans);
+    static bool isBits(const Span &span);
+    static bool isPhotoThere(QByteArray there, const Span &span, Side side);
 
     Order m_order;
     Spans m_photos;

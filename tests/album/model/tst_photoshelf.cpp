@@ -116,6 +116,34 @@ private slots:
         QCOMPARE(shelf->countIn(1), 0);
     }
 
+    /// What is learnt of a file is nobody's doing: its content, that it is not there, that texts stand in it.
+    void takesBackWhatWasDoneBeforeAFileWasLookedAt()
+    {
+        m_test.put(photoFile, deletedPicture + picture("b.jpg"));
+        m_test.put(albumFile, {});
+        const auto shelf = opened();
+        const auto learn = [](Photo &photo) {
+            photo.hash.fill(7);
+            photo.size = 1000;
+            photo.set(Photo::TextsInFile, true);
+        };
+        QCOMPARE(shelf->addPhotos({photoAt(u"x.jpg"_s), photoAt(u"y.jpg"_s)}), QList<int>({1, 3}));
+        QVERIFY(shelf->note({1, 2, 3}, learn));
+        QCOMPARE(m_steps.constLast().undo(), ChangeResult::Done);
+        QVERIFY(m_test.bytes(photoFile).startsWith(deletedPicture));
+        QVERIFY(m_test.bytes(photoFile).endsWith(QByteArray(2560, '\0')));
+        QCOMPARE(m_steps.constLast().redo(), ChangeResult::Done);
+        QVERIFY(shelf->note({1, 2, 3}, learn));
+        QVERIFY(
+            shelf->change({2}, u"Left out"_s, [](Photo &photo) { photo.set(Photo::LeftOutOfShows, true); }));
+        QVERIFY(shelf->note({2}, [](Photo &photo) { photo.set(Photo::TextsInFile, false); }));
+        QCOMPARE(m_steps.constLast().undo(), ChangeResult::Done);
+        QVERIFY(!shelf->photo(2)->has(Photo::LeftOutOfShows) && !shelf->photo(2)->has(Photo::TextsInFile));
+        QVERIFY(shelf->removePhotos({3}));
+        QCOMPARE(m_steps.constLast().undo(), ChangeResult::Done);
+        QCOMPARE(shelf->photo(3)->size, 1000);
+    }
+
     void removesPlacesAndCoversWithAPicture()
     {
         QByteArray covered = album("Grandmother");
