@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 #include <map>
@@ -28,6 +29,7 @@ public:
     {
         std::erase_if(m_photos,
                       [&](const Photo &photo) { return isStopped || !QFileInfo(photo.path).isFile(); });
+        leaveOutLinks();
         findSameContent(isStopped);
         readLooks(isStopped, progress);
         compareLooks(isStopped);
@@ -37,6 +39,18 @@ public:
 private:
     /// What a picture looks like, turned by any quarters.
     using Looks = std::array<PictureHash, 4>;
+
+    /// A link to a picture is that picture: were one thrown away, both would be gone.
+    void leaveOutLinks()
+    {
+        QSet<QString> files;
+        std::erase_if(m_photos, [&files](const Photo &photo) {
+            const QString file = QFileInfo(photo.path).canonicalFilePath();
+            const bool isKnown = files.contains(file);
+            files.insert(file);
+            return isKnown;
+        });
+    }
 
     void findSameContent(const Walker::Stop &isStopped)
     {

@@ -67,14 +67,13 @@ public:
     }
 
 private:
-    /// What bears the name and has the size is not read: a card is slow.
+    /// By its content, as long as the album's own file is there: the card may be emptied afterwards.
     bool isKnown(const QString &path, const Walker::Stop &isStopped)
     {
-        const QFileInfo file(path);
-        const QList<Photo *> same = m_bySize.value(file.size());
-        const auto isNamed = [&file](const Photo *photo) { return photo->fileName() == file.fileName(); };
-        if (same.isEmpty() || std::ranges::any_of(same, isNamed))
-            return !same.isEmpty();
+        QList<Photo *> same = m_bySize.value(QFileInfo(path).size());
+        same.removeIf([](const Photo *photo) { return !QFileInfo(photo->path).isFile(); });
+        if (same.isEmpty())
+            return false;
         const auto hash = ContentHash::of(path, isStopped);
         return hash && std::ranges::any_of(same, [&](Photo *photo) {
                    if (!photo->isHashed())

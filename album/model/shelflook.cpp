@@ -29,6 +29,15 @@ bool isSame(const PictureTexts &inAlbum, const PictureTexts &inPicture)
     return inAlbum == other;
 }
 
+void takeFacts(Photo &photo, const Photo &facts)
+{
+    photo.size = facts.size;
+    photo.fileTime = facts.fileTime;
+    photo.width = facts.width;
+    photo.height = facts.height;
+    photo.hash = {};
+}
+
 } // namespace
 
 struct ShelfLook::Report {
@@ -162,18 +171,15 @@ void ShelfLook::takeChanged(int record, const FoundTexts &found, const Photo &fa
     const bool mayTake = photo->has(Photo::TextsInFile) || inAlbum.isEmpty();
     if (!isAlike && !mayTake) {
         std::erase_if(m_conflicts, [record](const TextsConflict &other) { return other.record == record; });
-        m_conflicts.push_back({record, inAlbum, found});
+        m_conflicts.push_back({record, inAlbum, found, facts});
         emit conflictsChanged();
+        return; // the record knows the file as it was, until it is settled: so it is seen again the next time
     }
     std::ignore = m_shelf.note({record}, [&](Photo &changed) {
-        changed.size = facts.size;
-        changed.fileTime = facts.fileTime;
-        changed.width = facts.width;
-        changed.height = facts.height;
-        changed.hash = {};
+        takeFacts(changed, facts);
         if (isAlike)
             changed.set(Photo::TextsInFile, !inAlbum.isEmpty());
-        else if (mayTake)
+        else
             PhotoOfFile::take(changed, found);
     });
 }
@@ -185,11 +191,12 @@ void ShelfLook::settle(int record, Keep keep)
         return;
     const TextsConflict conflict = *found;
     m_conflicts.erase(found);
-    if (keep == Keep::InPicture) {
-        std::ignore =
-            m_shelf.note({record}, [&](Photo &photo) { PhotoOfFile::take(photo, conflict.inPicture); });
-    } else {
+    std::ignore = m_shelf.note({record}, [&](Photo &photo) {
+        takeFacts(photo, conflict.facts);
+        if (keep == Keep::InPicture)
+            PhotoOfFile::take(photo, conflict.inPicture);
+    });
+    if (keep == Keep::InAlbum)
         emit keptInAlbum(record);
-    }
     emit conflictsChanged();
 }

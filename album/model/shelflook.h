@@ -18,6 +18,7 @@ struct TextsConflict {
     int record = 0;
     PictureTexts inAlbum;
     FoundTexts inPicture;
+    Photo facts; ///< of the file in which they were found
 };
 
 /// Looks after the files of all pictures: which are missing, which lie on a disk that is not plugged in, and

@@ -114,7 +114,7 @@ private:
                 m_batch.known.append(known.value());
             return;
         }
-        if (m_wish.since.isValid() && QFileInfo(path).metadataChangeTime() <= m_wish.since)
+        if (m_wish.since.isValid() && !isNew(path))
             return;
         const std::optional<int> same = sameContent(path, isStopped);
         if (isStopped)
@@ -129,6 +129,21 @@ private:
             return;
         }
         add(path, stored);
+    }
+
+    /// Whether it came since, or a folder in which it lies was moved here with what is in it: such a folder
+    /// is another one than before, while nothing in it changed.
+    bool isNew(const QString &path) const
+    {
+        if (QFileInfo(path).metadataChangeTime() > m_wish.since)
+            return true;
+        QFileInfo folder(QFileInfo(path).path());
+        while (!m_wish.paths.contains(folder.filePath()) && !folder.isRoot()) {
+            if (folder.metadataChangeTime() > m_wish.since && folder.lastModified() <= m_wish.since)
+                return true;
+            folder.setFile(folder.path());
+        }
+        return false;
     }
 
     void add(const QString &path, const QString &stored)

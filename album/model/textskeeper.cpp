@@ -3,7 +3,9 @@
 
 #include "album/model/photooffile.h"
 #include "album/model/photoshelf.h"
+#include "album/model/picturefiles.h"
 
+#include <QFileInfo>
 #include <QHashFunctions>
 
 #include <tuple>
@@ -21,6 +23,22 @@ PhotoAlbum::Into wished(const PhotoShelf &shelf, int record)
             into = album->into;
     }
     return into;
+}
+
+/// What is written. A date that came out of the picture is there already, unless another one was written in
+/// its place and taken back since.
+PictureTexts textsOf(const Photo &photo)
+{
+    PictureTexts texts = PhotoOfFile::texts(photo);
+    if (photo.dateFrom == Photo::DateFrom::Picture)
+        texts.date = QString::fromLatin1(photo.date.edtf());
+    return texts;
+}
+
+bool isAsKnown(const QString &path, qint64 size, qint64 fileTime)
+{
+    const QFileInfo file(path);
+    return !file.isFile() || (file.size() == size && PictureFiles::timeOf(path) == fileTime);
 }
 
 } // namespace
@@ -105,7 +123,11 @@ std::optional<TextsKeeper::Task> TextsKeeper::taskFor(int record) const
     const PhotoAlbum::Into into = wished(m_shelf, record);
     if (!photo || into == PhotoAlbum::Into::Nowhere)
         return {};
-    return Task{record, m_shelf.filePath(*photo), PhotoOfFile::texts(*photo),
+    return Task{record,
+                m_shelf.filePath(*photo),
+                textsOf(*photo),
+                photo->size,
+                photo->fileTime,
                 into == PhotoAlbum::Into::Picture ? KeptTexts::Into::Picture : KeptTexts::Into::Beside};
 }
 
@@ -124,6 +146,10 @@ void TextsKeeper::startNext()
         for (const Task &task : tasks) {
             if (isStopped)
                 return;
+            if (!isAsKnown(task.path, task.size, task.fileTime)) {
+                m_walker.tell([this, record = task.record] { emit foundChanged(record); });
+                continue;
+            }
             const KeptTexts::Written written = KeptTexts::write(task.path, task.texts, task.into, today);
             m_walker.tell([this, task, written] { take(task, written); });
         }
@@ -144,7 +170,7 @@ void TextsKeeper::take(const Task &task, const KeptTexts::Written &written)
     // What was typed meanwhile is written next.
     if (!photo || !written.isKept || m_shelf.filePath(*photo) != task.path)
         return;
-    const bool isUpToDate = PhotoOfFile::texts(*photo) == task.texts;
+    const bool isUpToDate = textsOf(*photo) == task.texts;
     std::ignore = m_shelf.note({task.record}, [&](Photo &kept) {
         PhotoOfFile::takeFacts(kept, task.path);
         kept.set(Photo::TextsInFile, isUpToDate && !task.texts.isEmpty());

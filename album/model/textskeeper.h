@@ -32,6 +32,9 @@ public:
 signals:
     /// Why texts could not be kept in a file, for the status bar.
     void said(const QString &line);
+    /// Another program has changed the file of a picture since the album looked: it was not written to before
+    /// that was looked at.
+    void foundChanged(int record);
     /// All was written.
     void finished();
 
@@ -47,6 +50,8 @@ private:
         int record = 0;
         QString path;
         PictureTexts texts;
+        qint64 size = 0;     ///< of the file that the record knows
+        qint64 fileTime = 0; ///< of it
         KeptTexts::Into into = KeptTexts::Into::Picture;
     };
 

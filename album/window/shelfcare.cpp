@@ -54,6 +54,8 @@ ShelfCare::ShelfCare(const AlbumDesk &desk, ActivityBar &activity, QObject *pare
         if (!std::exchange(m_hasLooked, true))
             emit lookedFirst();
     });
+    connect(&m_keeper, &TextsKeeper::foundChanged, this,
+            [this] { m_look.start(m_desk.program.clock.today()); });
     connect(&m_look, &ShelfLook::keptInAlbum, this, [this](int record) { m_keeper.write({record}); });
     connect(&desk.shelf, &PhotoShelf::listChanged, this, &ShelfCare::watch);
 }

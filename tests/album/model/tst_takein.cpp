@@ -152,6 +152,9 @@ private slots:
     {
         picture(u"taken out.jpg"_s);
         picture(u"off the list.jpg"_s);
+        const QTemporaryDir moved;
+        QVERIFY(QDir().mkpath(moved.filePath(u"summer"_s)));
+        makePicture(moved.filePath(u"summer/inner.jpg"_s), {16, 12});
         const int album = m_shelf->addAlbum({.name = u"Telephone"_s});
         taken({.album = album});
         const int off = m_shelf->photoAt(m_elsewhere->filePath(u"off the list.jpg"_s))->record;
@@ -161,10 +164,11 @@ private slots:
         const QDateTime since = QDateTime::currentDateTime();
         QTest::qWait(20);
         picture(u"new.jpg"_s);
-        QCOMPARE(taken({.album = album, .since = since}).added.size(), 1);
-        const QStringList names{u"new.jpg"_s, u"taken out.jpg"_s};
+        QVERIFY(QDir().rename(moved.filePath(u"summer"_s), m_elsewhere->filePath(u"summer"_s)));
+        QCOMPARE(taken({.album = album, .since = since}).added.size(), 2);
+        const QStringList names{u"inner.jpg"_s, u"new.jpg"_s, u"taken out.jpg"_s};
         QCOMPARE(namesOf(*m_shelf), names);
-        QCOMPARE(m_shelf->countIn(album), 1);
+        QCOMPARE(m_shelf->countIn(album), 2);
     }
 
     void aFullDiskTakesInNothing()

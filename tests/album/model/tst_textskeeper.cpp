@@ -144,6 +144,46 @@ private slots:
         QVERIFY(shelfLook.conflicts().empty() && !keeper.isRunning());
     }
 
+    void whatAnotherProgramWroteMeanwhileIsNotWrittenOver()
+    {
+        makeShelf(PhotoAlbum::Into::Picture);
+        TextsKeeper keeper(*m_shelf, today);
+        QSignalSpy foundChanged(&keeper, &TextsKeeper::foundChanged);
+        writeElsewhere(m_path, u"Karin"_s);
+        say(u"Anne"_s);
+        QVERIFY(foundChanged.wait(10000));
+        QCOMPARE(inFile(), u"Karin"_s);
+        ShelfLook shelfLook(*m_shelf);
+        look(shelfLook);
+        QCOMPARE(shelfLook.conflicts().size(), std::size_t(1));
+        connect(&shelfLook, &ShelfLook::keptInAlbum, &keeper, [&](int record) { keeper.write({record}); });
+        QSignalSpy finished(&keeper, &TextsKeeper::finished);
+        shelfLook.settle(m_record, ShelfLook::Keep::InAlbum);
+        QVERIFY(finished.wait(10000));
+        QCOMPARE(inFile(), u"Anne"_s);
+    }
+
+    void aDateThatIsTakenBackIsTakenBackInTheFile()
+    {
+        PictureTexts texts;
+        texts.date = u"2019-07-04T15:30:12"_s;
+        QVERIFY(KeptTexts::write(m_path, texts, KeptTexts::Into::Picture, today).isKept);
+        makeShelf(PhotoAlbum::Into::Picture);
+        std::optional<UndoStep> step;
+        connect(m_shelf.get(), &PhotoShelf::edited, this, [&](const UndoStep &last) { step = last; });
+        TextsKeeper keeper(*m_shelf, today);
+        QSignalSpy finished(&keeper, &TextsKeeper::finished);
+        QVERIFY(m_shelf->change({m_record}, u"Later"_s, [](Photo &photo) {
+            photo.date = photo.date.shifted(3600);
+            photo.dateFrom = Photo::DateFrom::Typed;
+        }));
+        QVERIFY(finished.wait(10000));
+        QCOMPARE(KeptTexts::read(m_path, today).texts.date, u"2019-07-04T16:30:12"_s);
+        QCOMPARE(step->undo(), ChangeResult::Done);
+        QVERIFY(finished.wait(10000));
+        QCOMPARE(KeptTexts::read(m_path, today).texts.date, texts.date);
+    }
+
     void whereBothWereChangedThePersonDecides_data()
     {
         rows<bool>({{"for the album", true}, {"for the picture", false}});
@@ -160,6 +200,9 @@ private slots:
         QCOMPARE(inFile(), u"Karin"_s);
         QCOMPARE(shelfLook.conflicts().size(), std::size_t(1));
         QCOMPARE(shelfLook.conflicts().front().inPicture.texts.caption, u"Karin"_s);
+        ShelfLook later(*m_shelf); // it was left unsettled
+        look(later);
+        QCOMPARE(later.conflicts().size(), std::size_t(1));
 
         shelfLook.settle(m_record, isForAlbum ? ShelfLook::Keep::InAlbum : ShelfLook::Keep::InPicture);
         QCOMPARE(photo().caption, isForAlbum ? u"Anne"_s : u"Karin"_s);
