@@ -33,6 +33,18 @@ install_missing() {
     rm -f "$log"
 }
 
+# heed_new_headers PRESET: lists the files again; where that finds a new header, the target's moc step has to run again,
+# which it does not by itself.
+heed_new_headers() {
+    cmake --build --preset "$1" --target build.ninja
+    local info stamp
+    find "build/$1" -name AutogenInfo.json | while read -r info; do
+        stamp=${info/CMakeFiles\/}
+        stamp=${stamp%.dir/AutogenInfo.json}/timestamp
+        [ "$stamp" -nt "$info" ] || rm -f "$stamp"
+    done
+}
+
 # build PRESET [TARGET...]: configures when the presets have changed, then builds what changed; quiet unless something
 # fails.
 build() {
@@ -40,7 +52,7 @@ build() {
     shift
     log=$(mktemp)
     if ! { { [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset"; } &&
-           cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1 </dev/null; then
+           heed_new_headers "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1 </dev/null; then
         tail -n 60 "$log"
         echo "The build failed."
         return 1
