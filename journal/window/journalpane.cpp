@@ -8,6 +8,7 @@
 #include "journal/window/tagslist.h"
 #include "journal/window/windowlines.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
 #include "shell/controls/monthview.h"
 #include "shell/controls/searchbox.h"
 #include "shell/core/calendardates.h"
@@ -36,12 +37,14 @@ constexpr int calendarHeight = 252;
 constexpr int leastCalendarHeight = 236;
 constexpr int lowBelow = 580;
 constexpr int leastWidth = 240;
+constexpr int gap = 12; ///< between the cards
+constexpr QMargins cardMargins(14, 10, 14, 12);
 
 PanelFrame *makeCard(const QString &name, QWidget *content)
 {
     auto *card = named(new PanelFrame, name);
     auto *rows = new QVBoxLayout(card);
-    rows->setContentsMargins(14, 10, 14, 12);
+    rows->setContentsMargins(cardMargins);
     rows->setSpacing(4);
     content->setParent(card);
     rows->addWidget(content);
@@ -80,6 +83,7 @@ JournalPane::JournalPane(const Program &program, PanelColors &colors, Journal &j
     connect(m_finder, &JournalFinder::found, this, &JournalPane::showHits);
     connect(m_hits, &HitList::opened, this, &JournalPane::hitOpened);
     connect(m_onThisDay, &OnThisDay::dateChosen, this, &JournalPane::dateChosen);
+    connect(m_onThisDay, &OnThisDay::refreshed, this, &JournalPane::shareRoom);
     connect(m_tags, &TagsList::tagChosen, this, [this](const QString &tag) {
         const bool isPhrase = tag.contains(u' ');
         m_search->setText(isPhrase ? u"tag:\"%1\""_s.arg(tag) : u"tag:%1"_s.arg(tag));
@@ -105,11 +109,11 @@ QWidget *JournalPane::makePanels(const Program &program, PanelColors &colors)
     m_tags = new TagsList(content);
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins({});
-    rows->setSpacing(12);
+    rows->setSpacing(gap);
     PanelFrame *cards[] = {makeCard(u"calendarPanel"_s, m_calendar),
                            makeCard(u"onThisDayPanel"_s, m_onThisDay), makeCard(u"tagsPanel"_s, m_tags)};
     for (PanelFrame *card : cards) {
-        rows->addWidget(card, card == cards[0] ? 0 : 1);
+        rows->addWidget(card, card == cards[2] ? 1 : 0);
         colors.addPanel(card);
     }
     connect(m_calendar, &QCalendarWidget::selectionChanged, this, &JournalPane::announce);
@@ -126,9 +130,9 @@ QWidget *JournalPane::makeHits()
     m_count = named(makeQuietLabel({}, part), u"hitCount"_s);
     auto *rows = new QVBoxLayout(part);
     rows->setContentsMargins({});
-    rows->setSpacing(6);
-    rows->addWidget(m_hits, 1);
-    rows->addWidget(m_count);
+    auto *list = new WholeRows(m_hits, m_count, part);
+    list->setMinimumHeight(1); // the other parts of the pane say how high it is at least
+    rows->addWidget(list, 1);
     return part;
 }
 
@@ -141,6 +145,29 @@ void JournalPane::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     m_calendar->setFixedHeight(height() < lowBelow ? leastCalendarHeight : calendarHeight);
+    shareRoom();
+}
+
+/// Both lists show whole rows: two of the other years before the tags have more than one, and half of the
+/// room at the most where the tags need the rest.
+void JournalPane::shareRoom()
+{
+    if (m_onThisDay->count() == 0)
+        return;
+    const int calendar = m_calendar->height() + cardMargins.top() + cardMargins.bottom();
+    const int heads = m_onThisDay->headHeight() + m_tags->headHeight();
+    const int room =
+        m_stack->height() - calendar - 2 * gap - heads - 2 * (cardMargins.top() + cardMargins.bottom());
+    const int tags = m_tags->rowsHeight(m_tags->count());
+    const int forTags = std::min(tags, std::max(m_tags->rowsHeight(2), room / 2));
+    int rows = 1;
+    while (rows < m_onThisDay->count()) {
+        const int left = room - m_onThisDay->rowsHeight(rows + 1);
+        if (left < (rows == 1 ? m_tags->rowsHeight(1) : forTags))
+            break;
+        ++rows;
+    }
+    m_onThisDay->showRows(rows);
 }
 
 void JournalPane::setDate(QDate date)
@@ -151,6 +178,7 @@ void JournalPane::setDate(QDate date)
     m_calendar->setSelectedDate(date);
     m_calendar->setCurrentPage(date.year(), date.month());
     m_onThisDay->setDate(date);
+    shareRoom();
     showMarks();
 }
 
@@ -158,6 +186,7 @@ void JournalPane::refresh()
 {
     m_onThisDay->refresh();
     m_tags->setTags(m_journal.tags());
+    shareRoom();
     showMarks();
 }
 

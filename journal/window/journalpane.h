@@ -57,6 +57,7 @@ private:
     QWidget *makePanels(const Program &program, PanelColors &colors);
     QWidget *makeHits();
     void showMarks();
+    void shareRoom();
     void announce();
     void search(const QString &text);
     void showHits();

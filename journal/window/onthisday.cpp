@@ -24,7 +24,6 @@ namespace {
 
 const QString aroundKey = QStringLiteral("Windows/DJournal/daysAround");
 constexpr int daysAround = 3;
-constexpr int leastHeight = 48; ///< a row, where the window is low
 
 } // namespace
 
@@ -33,7 +32,8 @@ OnThisDay::OnThisDay(const Program &program, Journal &journal, QWidget *parent)
     , m_program(program)
     , m_journal(journal)
     , m_rows(new QStandardItemModel(this))
-    , m_list(named(new QListView(this), u"onThisDay"_s))
+    , m_list(named(new QListView, u"onThisDay"_s))
+    , m_whole(new WholeRows(m_list, nullptr, this))
     , m_nothing(makeQuietLabel(JournalWindowLines::nothingOnThisDay(), this))
     , m_around(named(new QCheckBox(JournalWindowLines::nearbyDays(), this), u"daysAround"_s))
 {
@@ -45,7 +45,7 @@ OnThisDay::OnThisDay(const Program &program, Journal &journal, QWidget *parent)
     head->addWidget(m_around);
     rows->addLayout(head);
     rows->addWidget(m_nothing);
-    rows->addWidget(m_list, 1);
+    rows->addWidget(m_whole);
     rows->addStretch(0);
     m_nothing->setWordWrap(true);
     setTabOrder(m_around, m_list);
@@ -54,13 +54,12 @@ OnThisDay::OnThisDay(const Program &program, Journal &journal, QWidget *parent)
     m_list->setItemDelegate(new TwoLineDelegate(m_list));
     m_list->setAccessibleName(u"On this day"_s);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_list->setMinimumHeight(leastHeight);
-    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_around->setToolTip(JournalWindowLines::nearbyDaysToo());
     m_around->setChecked(program.store.value(aroundKey).toBool());
     connect(m_around, &QCheckBox::toggled, this, [this](bool isOn) {
         m_program.store.setValue(aroundKey, isOn);
         refresh();
+        emit refreshed();
     });
     connect(m_list, &QListView::clicked, this, &OnThisDay::open);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -102,10 +101,28 @@ void OnThisDay::refresh()
             m_list->setCurrentIndex(row->index());
     }
     m_nothing->setVisible(m_rows->rowCount() == 0);
-    m_list->setVisible(m_rows->rowCount() > 0);
-    // Without anything the card is as high as its sentence, and the tags below have the room.
-    parentWidget()->setSizePolicy(QSizePolicy::Preferred,
-                                  m_rows->rowCount() > 0 ? QSizePolicy::Preferred : QSizePolicy::Maximum);
+    m_whole->setVisible(m_rows->rowCount() > 0);
+}
+
+int OnThisDay::count() const
+{
+    return m_rows->rowCount();
+}
+
+int OnThisDay::headHeight() const
+{
+    return minimumSizeHint().height() - (m_whole->isHidden() ? 0 : m_whole->minimumHeight());
+}
+
+int OnThisDay::rowsHeight(int rows) const
+{
+    return count() > 0 ? rows * m_list->sizeHintForRow(0) + 2 * m_list->frameWidth() : 0;
+}
+
+void OnThisDay::showRows(int rows)
+{
+    if (count() > 0)
+        m_whole->setFixedHeight(rowsHeight(rows));
 }
 
 void OnThisDay::open(const QModelIndex &index)
@@ -119,5 +136,5 @@ void OnThisDay::forget()
     m_date = {};
     m_rows->clear();
     m_nothing->hide();
-    m_list->hide();
+    m_whole->hide();
 }

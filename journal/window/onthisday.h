@@ -8,6 +8,7 @@ class Journal;
 class QCheckBox;
 class QLabel;
 class QListView;
+class WholeRows;
 class QModelIndex;
 class QStandardItemModel;
 struct Program;
@@ -25,8 +26,16 @@ public:
     /// Nothing of any entry is left.
     void forget();
 
+    int count() const;
+    /// Of everything above the list.
+    int headHeight() const;
+    int rowsHeight(int rows) const;
+    /// The list has so many, and more by scrolling.
+    void showRows(int rows);
+
 signals:
     void dateChosen(QDate date);
+    void refreshed();
 
 private:
     void open(const QModelIndex &index);
@@ -35,6 +44,7 @@ private:
     Journal &m_journal;
     QStandardItemModel *m_rows;
     QListView *m_list;
+    WholeRows *m_whole;
     QLabel *m_nothing;
     QCheckBox *m_around;
     QDate m_date;

@@ -18,8 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int inset = 8;
-constexpr int leastRows = 1;
-constexpr int listRim = 6;
 constexpr int countRole = Qt::UserRole;
 
 /// A tag, and at the right how many entries have it.
@@ -60,7 +58,8 @@ public:
 TagsList::TagsList(QWidget *parent)
     : QWidget(parent)
     , m_rows(new QStandardItemModel(this))
-    , m_list(named(new QListView(this), u"tagsList"_s))
+    , m_list(named(new QListView, u"tagsList"_s))
+    , m_whole(new WholeRows(m_list, nullptr, this))
     , m_nothing(makeQuietLabel(JournalWindowLines::noTags(), this))
 {
     auto *rows = new QVBoxLayout(this);
@@ -68,7 +67,7 @@ TagsList::TagsList(QWidget *parent)
     rows->setSpacing(6);
     rows->addWidget(makeHeading(u"Tags"_s, this));
     rows->addWidget(m_nothing);
-    rows->addWidget(m_list, 1);
+    rows->addWidget(m_whole, 1);
     rows->addStretch(0);
     m_nothing->setWordWrap(true);
     m_list->setModel(m_rows);
@@ -76,10 +75,10 @@ TagsList::TagsList(QWidget *parent)
     m_list->setItemDelegate(new TagDelegate(m_list));
     m_list->setAccessibleName(u"Tags"_s);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_list->setMinimumHeight(leastRows * ListRowDelegate::rowHeight() + listRim);
     // A sentence beside it that wraps would have the pane scroll for the height that a list likes best.
-    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-    m_list->hide();
+    m_whole->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_whole->setMinimumHeight(ListRowDelegate::rowHeight() + 2 * m_list->frameWidth());
+    m_whole->hide();
     connect(m_list, &QListView::clicked, this, &TagsList::open);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto *opens = new QShortcut(key, m_list);
@@ -104,8 +103,23 @@ void TagsList::setTags(const QMap<QString, int> &tags)
         if (name == current)
             m_list->setCurrentIndex(row->index());
     }
-    m_list->setVisible(!tags.isEmpty());
+    m_whole->setVisible(!tags.isEmpty());
     m_nothing->setVisible(tags.isEmpty());
+}
+
+int TagsList::count() const
+{
+    return m_rows->rowCount();
+}
+
+int TagsList::headHeight() const
+{
+    return minimumSizeHint().height() - (m_whole->isHidden() ? 0 : m_whole->minimumHeight());
+}
+
+int TagsList::rowsHeight(int rows) const
+{
+    return count() > 0 ? rows * ListRowDelegate::rowHeight() + 2 * m_list->frameWidth() : 0;
 }
 
 void TagsList::open(const QModelIndex &index)

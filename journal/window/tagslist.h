@@ -6,6 +6,7 @@
 
 class QLabel;
 class QListView;
+class WholeRows;
 class QModelIndex;
 class QStandardItemModel;
 
@@ -18,6 +19,11 @@ public:
 
     void setTags(const QMap<QString, int> &tags);
 
+    int count() const;
+    /// Of everything above the list.
+    int headHeight() const;
+    int rowsHeight(int rows) const;
+
 signals:
     void tagChosen(const QString &tag);
 
@@ -26,5 +32,6 @@ private:
 
     QStandardItemModel *m_rows;
     QListView *m_list;
+    WholeRows *m_whole;
     QLabel *m_nothing;
 };
