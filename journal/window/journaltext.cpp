@@ -54,8 +54,8 @@ QTextCharFormat formatOf(const MarkedRun &run, bool isHeading)
 JournalText::JournalText(PagePictures &pictures, QWidget *parent)
     : QPlainTextEdit(parent)
     , m_pictures(pictures)
-    , m_scroll(new PictureScroll(*this,
-                                 [this](const QTextBlock &line) { return m_pictures.has(pictureIn(line)); }))
+    , m_scroll(new PictureScroll(
+          *this, [this](const QTextBlock &line) { return m_pictures.height(pictureIn(line)); }))
 {
     setObjectName(u"entryText"_s);
     setAccessibleName(u"Entry"_s);
@@ -78,6 +78,7 @@ JournalText::JournalText(PagePictures &pictures, QWidget *parent)
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &JournalText::cursorMoved,
             Qt::QueuedConnection); // behind what the box itself does for it
     connect(&m_pictures, &PagePictures::changed, this, &JournalText::pictureChanged);
+    connect(m_scroll, &PictureScroll::hiddenChanged, this, &JournalText::setMargins);
 }
 
 void JournalText::cursorMoved()
@@ -97,7 +98,7 @@ void JournalText::pictureChanged(int number)
     // The box looks how far it can scroll when the number of lines changes, and only then by itself.
     QAbstractTextDocumentLayout *layout = document()->documentLayout();
     emit layout->documentSizeChanged(layout->documentSize());
-    m_scroll->reachEnd(); // the same number of lines, and higher
+    m_scroll->settle();
     if (wasInSight)
         showCursor();
     viewport()->update();
@@ -105,7 +106,9 @@ void JournalText::pictureChanged(int number)
 
 void JournalText::showCursor()
 {
-    if (!m_pictures.pictures().isEmpty())
+    if (m_pictures.pictures().isEmpty())
+        ensureCursorVisible();
+    else
         m_scroll->showCursor();
 }
 
@@ -147,8 +150,8 @@ QTextDocument *JournalText::makeDocument(const QString &text)
 
 void JournalText::showDocument(QTextDocument *shown)
 {
+    m_scroll->reset();
     setDocument(shown);
-    m_scroll->reachEnd();
     setExtraSelections({});
     emit documentShown();
 }
@@ -337,9 +340,14 @@ void JournalText::paintPicture(QPainter &painter, const QTextBlock &line, const 
 
 void JournalText::resizeEvent(QResizeEvent *event)
 {
+    const bool wasInSight = m_isCursorInSight;
     setMargins();
     QPlainTextEdit::resizeEvent(event);
-    m_scroll->reachEnd();
+    if (std::exchange(m_size, size()) == size())
+        return; // the part that is seen alone
+    m_scroll->settle();
+    if (wasInSight)
+        showCursor();
 }
 
 /// What is wider than lines may be is margin.
@@ -348,7 +356,7 @@ void JournalText::setMargins()
     const int widest = mostCharacters * fontMetrics().averageCharWidth() + 2 * leastMargin;
     const int room = contentsRect().width() - 20; // a scroll bar may come
     const int margin = std::max(0, (room - widest) / 2);
-    setViewportMargins(margin, 0, margin, 0);
+    setViewportMargins(margin, -m_scroll->hidden(), margin, 0);
     // A picture with its caption and a line above fits into a low page too.
     const int high = contentsRect().height() - 2 * leastMargin - 2 * fontMetrics().lineSpacing();
     m_pictures.setRoom({std::min(widest, room) - 2 * leastMargin, high}, devicePixelRatioF());

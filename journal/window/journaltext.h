@@ -72,5 +72,6 @@ private:
     PagePictures &m_pictures;
     PictureScroll *m_scroll;
     bool m_isCursorInSight = true; ///< as it was painted last
+    QSize m_size;
     int m_pictureAtCursor = 0;
 };

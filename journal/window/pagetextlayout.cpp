@@ -43,11 +43,13 @@ QRectF PageTextLayout::blockBoundingRect(const QTextBlock &block) const
     const QRectF place = HangingText::blockBoundingRect(block);
     QTextLayout *layout = block.isValid() ? block.layout() : nullptr;
     const int room = layout && layout->lineCount() > 0 ? m_roomAbove(block) : 0;
-    if (room == 0 || layout->lineAt(0).y() >= room)
+    const double more =
+        room > 0 ? room - layout->lineAt(0).y() : 0; // it may have had room for another height
+    if (more == 0)
         return place;
     for (int i = 0; i < layout->lineCount(); ++i) {
         QTextLine line = layout->lineAt(i);
-        line.setPosition(line.position() + QPointF(0, room));
+        line.setPosition(line.position() + QPointF(0, more));
     }
     return HangingText::blockBoundingRect(block);
 }

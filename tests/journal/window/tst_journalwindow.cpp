@@ -12,6 +12,8 @@
 #include "tests/support/rows.h"
 #include "tests/support/testpictures.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QClipboard>
@@ -24,6 +26,7 @@
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTextBlock>
+#include <QWheelEvent>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -332,6 +335,53 @@ private slots:
         key(Qt::Key_Y, Qt::ControlModifier);
         trigger("mOSave");
         QVERIFY(file().contains("picture Sea.png | The sea\r\n"));
+    }
+
+    /// Of pictures that are as high as the page each is seen, and the end fills it.
+    void showsEachPictureOfAPage_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("one below the other")
+            << QByteArray("Top\r\n[picture 1]\r\n[picture 2]\r\n[picture 3]\r\nEnd.");
+        QTest::newRow("lines between")
+            << QByteArray("[picture 1]\r\nOne.\r\n[picture 2]\r\n[picture 3]\r\n1\r\n2\r\nEnd.");
+        QTest::newRow("one last of all")
+            << QByteArray("Top\r\n[picture 1]\r\n1\r\n[picture 2]\r\n[picture 3]");
+    }
+    void showsEachPictureOfAPage()
+    {
+        QFETCH(const QByteArray, text);
+        m_test = std::make_unique<TestProgram>(TestProgram::Empty);
+        makePicture(m_test->folder.filePath(u"Sea.png"_s), {1600, 900});
+        const QByteArray pictures = QByteArray("picture Sea.png\r\n").repeated(3);
+        m_test->setBytes(u"DJour2026.Fil"_s,
+                         QByteArray("Quillery journal 1\r\n=== 2026-11-21\r\n" + pictures + "\r\n" + text));
+        openAgain();
+        m_window->resize(1000, 640);
+        const auto place = [this](const QTextBlock &line) {
+            QTextCursor cursor(line);
+            const QRect row = page()->cursorRect(cursor);
+            return QRect(page()->viewport()->mapTo(page(), row.topLeft()), row.size());
+        };
+        const auto endRow = [&] { return place(page()->document()->lastBlock()).bottom(); };
+        const auto foot = [this] { return page()->height(); };
+        QTRY_VERIFY(m_window->width() == 1000 && endRow() <= foot() && endRow() > foot() - 40);
+        QSet<int> seen;
+        for (int notch = 0; notch < 150; ++notch) {
+            const QPointF middle = page()->viewport()->rect().center();
+            QWheelEvent event(middle, page()->viewport()->mapToGlobal(middle), {}, {0, 60}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(page()->viewport(), &event);
+            QTest::qWait(1);
+            for (QTextBlock line = page()->document()->begin(); line.isValid(); line = line.next()) {
+                const QRect row = place(line);
+                const double high = page()->document()->documentLayout()->blockBoundingRect(line).height();
+                if (line.text().startsWith(u'[') && row.bottom() <= foot() && row.bottom() >= high - 20)
+                    seen.insert(line.blockNumber());
+            }
+        }
+        QCOMPARE(seen.size(), 3);
+        QCOMPARE(page()->verticalScrollBar()->value(), 0);
     }
 
     void tellsTheCalendarsDays()
