@@ -148,11 +148,10 @@ void PageCommands::insert(const QString &words)
     text.setFocus();
 }
 
+/// As the clock of the window has it.
 void PageCommands::insertTime()
 {
-    const bool isUsa = m_desk.program.state.dateStyle == DateStyle::Usa;
-    const QTime now = m_desk.program.clock.now().time();
-    insert(QLocale::c().toString(now, isUsa ? u"h:mm AP"_s : u"HH:mm"_s) + u' ');
+    insert(QLocale::c().toString(m_desk.program.clock.now().time(), u"h:mm AP"_s) + u' ');
 }
 
 /// The page can be filled again by undo, and the day as it was is its earlier version.
