@@ -22,6 +22,20 @@ namespace {
 constexpr int widest = 640;
 constexpr int contextLines = 3;
 
+/// The cursor stands in the middle, whatever height there is.
+class Context final : public QPlainTextEdit
+{
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QPlainTextEdit::resizeEvent(event);
+        centerCursor();
+    }
+};
+
 } // namespace
 
 SpellPanel::SpellPanel(Writing &writing, QWidget *parent)
@@ -29,7 +43,7 @@ SpellPanel::SpellPanel(Writing &writing, QWidget *parent)
     , m_writing(writing)
     , m_where(titleLine().addWords(u"spellWhere"_s))
     , m_word(named(makeHeading({}, this), u"spellWord"_s))
-    , m_context(named(new QPlainTextEdit(this), u"spellContext"_s))
+    , m_context(named(new Context(this), u"spellContext"_s))
     , m_by(named(new FieldBox(this), u"spellReplacement"_s))
     , m_suggestions(named(new QListWidget(this), u"spellSuggestions"_s))
 {
