@@ -17,20 +17,20 @@ constexpr int narrowButton = 30; ///< leaves room for "Page 12 of 1516" between 
 
 PageStepper::PageStepper(const Names &names, QWidget *parent, Width width)
     : QWidget(parent)
+    , m_isNarrow(width == Width::OfColumn)
     , m_previous(makeIconButton(names.previous, "previous"_L1, u"Previous page"_s, this))
     , m_next(makeIconButton(names.next, "next"_L1, u"Next page"_s, this))
 {
-    const bool isNarrow = width == Width::OfColumn;
-    m_number = named(isNarrow ? new ElidedLabel(this) : new QLabel(this), names.number);
+    m_number = named(m_isNarrow ? new ElidedLabel(this) : new QLabel(this), names.number);
     m_number->setFont(TypeScale::strong());
     m_number->setAlignment(Qt::AlignCenter);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(isNarrow ? narrowGap : gap);
+    row->setSpacing(m_isNarrow ? narrowGap : gap);
     row->addWidget(m_previous);
-    row->addWidget(m_number, isNarrow ? 1 : 0);
+    row->addWidget(m_number, m_isNarrow ? 1 : 0);
     row->addWidget(m_next);
-    if (isNarrow) {
+    if (m_isNarrow) {
         for (QPushButton *button : {m_previous, m_next})
             button->setFixedWidth(narrowButton);
     }
@@ -43,7 +43,7 @@ void PageStepper::setPage(int page, int count)
 {
     m_page = page;
     m_count = count;
-    m_number->setText(FrameLines::pageOf(page + 1, count));
+    showNumber();
     // From a button that dims, the focus would leave the preview.
     const bool isFirst = page == 0;
     const bool isLast = page + 1 == count;
@@ -56,6 +56,20 @@ void PageStepper::setPage(int page, int count)
     }
     setUnavailable(m_previous, isFirst ? FrameLines::firstPage() : QString());
     setUnavailable(m_next, isLast ? FrameLines::lastPage() : QString());
+}
+
+/// Where the column has no room for more, the figures alone.
+void PageStepper::showNumber()
+{
+    const QString words = FrameLines::pageOf(m_page + 1, m_count);
+    const bool isWhole = !m_isNarrow || m_number->fontMetrics().horizontalAdvance(words) <= m_number->width();
+    m_number->setText(isWhole ? words : u"%1 of %2"_s.arg(m_page + 1).arg(m_count));
+}
+
+void PageStepper::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    showNumber();
 }
 
 void PageStepper::listenTo(SheetView *view)

@@ -32,9 +32,14 @@ signals:
     /// Another page is wanted; an enlarged one is to start at `edge`.
     void pageRequested(int page, SheetView::Edge edge);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void showNumber();
     void request(int page, SheetView::Edge edge = SheetView::Edge::Top);
 
+    bool m_isNarrow;
     int m_page = 0;
     int m_count = 1;
     QPushButton *m_previous;
