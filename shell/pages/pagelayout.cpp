@@ -158,8 +158,10 @@ void PageLayout::cutIntoSheets()
     if (cut(1))
         return;
     // The page number takes a line at the foot, so the first sheet is cut once more.
-    if (m_page.sheetNumbers() == SheetNumbers::Foot || m_page.sheetNumbers() == SheetNumbers::Book)
+    if (m_page.sheetNumbers() == SheetNumbers::Foot)
         m_footHeight = m_types.foot.lineHeight() + 3;
+    else if (m_page.sheetNumbers() == SheetNumbers::Book) // a line apart from the text, which it stands under
+        m_footHeight = 2 * m_types.foot.lineHeight() + 3;
     cut(std::numeric_limits<std::size_t>::max());
     keepClosingInCompany();
 }
