@@ -50,7 +50,7 @@ QByteArray AlbumFile::encode(const PhotoAlbum &album)
     RecordBytes::put(bytes, orderAt, album.order);
     RecordBytes::put(bytes, coverAt, qint32(album.cover));
     RecordBytes::put(bytes, sortingAt, sortingNumber(album));
-    RecordBytes::putText(bytes, nameAt, PhotoTexts::albumNameBytes, album.name);
+    RecordBytes::putText(bytes, nameAt, PhotoTexts::albumNameBytes, PhotoTexts::composed(album.name));
     RecordBytes::putText(bytes, folderAt, PhotoTexts::pathBytes, album.folder);
     return bytes;
 }

@@ -72,6 +72,12 @@ inline QString pathTooLong(const QString &path)
     return u"The path of %1 is too long or has characters that cannot be kept"_s.arg(path);
 }
 
+/// "The list of people of IMG_7.jpg would be too long"
+inline QString textTooLong(const QString &what, const QString &picture)
+{
+    return u"The %1 of %2 would be too long"_s.arg(what, picture);
+}
+
 inline QString nameTooLong()
 {
     return u"This name is too long"_s;

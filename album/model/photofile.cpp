@@ -50,11 +50,11 @@ QByteArray PhotoFile::encode(const Photo &photo)
     QByteArray bytes(recordLength, '\0');
     std::ranges::copy(mark, bytes.begin());
     RecordBytes::putText(bytes, pathAt, PhotoTexts::pathBytes, photo.path);
-    RecordBytes::putText(bytes, captionAt, PhotoTexts::captionBytes, photo.caption);
-    RecordBytes::putText(bytes, storyAt, PhotoTexts::storyBytes, photo.story);
-    RecordBytes::putText(bytes, placeAt, PhotoTexts::placeBytes, photo.place);
-    RecordBytes::putText(bytes, tagsAt, PhotoTexts::tagsBytes, photo.tags);
-    RecordBytes::putText(bytes, peopleAt, PhotoTexts::peopleBytes, photo.people);
+    RecordBytes::putText(bytes, captionAt, PhotoTexts::captionBytes, PhotoTexts::composed(photo.caption));
+    RecordBytes::putText(bytes, storyAt, PhotoTexts::storyBytes, PhotoTexts::composed(photo.story));
+    RecordBytes::putText(bytes, placeAt, PhotoTexts::placeBytes, PhotoTexts::composed(photo.place));
+    RecordBytes::putText(bytes, tagsAt, PhotoTexts::tagsBytes, PhotoTexts::composed(photo.tags));
+    RecordBytes::putText(bytes, peopleAt, PhotoTexts::peopleBytes, PhotoTexts::composed(photo.people));
     qsizetype at = personsAt;
     for (const int record : photo.personRecords) {
         RecordBytes::put(bytes, at, qint32(record));

@@ -9,6 +9,7 @@
 #include "album/model/recordbytes.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <optional>
 #include <span>
@@ -38,6 +39,27 @@ QByteArray emptied(qsizetype recordLength)
 bool isFree(QByteArrayView record)
 {
     return record.startsWith(RecordBytes::deleted) || RecordBytes::isNeverUsed(record);
+}
+
+/// What was changed and has no room in a record; empty where all has.
+QString tooLong(const Photo &after, const Photo &before)
+{
+    struct Field {
+        QString Photo::*text;
+        qsizetype bytes;
+        const char *name;
+    };
+    static constexpr std::array fields{Field{&Photo::caption, PhotoTexts::captionBytes, "caption"},
+                                       Field{&Photo::story, PhotoTexts::storyBytes, "story"},
+                                       Field{&Photo::place, PhotoTexts::placeBytes, "place"},
+                                       Field{&Photo::tags, PhotoTexts::tagsBytes, "list of tags"},
+                                       Field{&Photo::people, PhotoTexts::peopleBytes, "list of people"}};
+    for (const Field &field : fields) {
+        const QString &text = after.*field.text;
+        if (text != before.*field.text && !PhotoTexts::fits(text, field.bytes))
+            return QString::fromLatin1(field.name);
+    }
+    return {};
 }
 
 template <typename Item>
@@ -86,6 +108,8 @@ ShelfEdits::Change ShelfEdits::changePhotos(const QList<int> &photos,
             continue;
         if (after.path != before->path && !PhotoTexts::fitsPath(after.path))
             return done(refuse(AlbumLines::pathTooLong(after.path)));
+        if (const QString what = tooLong(after, *before); !what.isEmpty())
+            return done(refuse(AlbumLines::textTooLong(what, after.fileName())));
         const QByteArray wanted = PhotoFile::encode(after);
         m_change->writePhoto(record, there,
                              patched(there, PhotoFile::encode(*before), wanted, PhotoFile::fields));

@@ -322,6 +322,20 @@ private slots:
         QVERIFY(m_test.bytes(photoFile) == threePictures);
     }
 
+    void refusesATextThatHasNoRoom()
+    {
+        const auto shelf = opened();
+        const auto add = [](Photo &photo) { photo.people += QString(photo.record * 80, u'\u00e9'); };
+        QVERIFY(shelf->change({1}, u"People"_s, add));
+        const QByteArray before = m_test.bytes(photoFile);
+        QVERIFY(!shelf->change({1, 2}, u"People"_s, add)); // none of both
+        QCOMPARE(m_said.constLast(), u"The list of people of a.jpg would be too long"_s);
+        QVERIFY(m_test.bytes(photoFile) == before);
+        // An accent by itself is part of its letter in the file.
+        QVERIFY(shelf->change({3}, u"Caption"_s, [](Photo &photo) { photo.caption = u"cafe\u0301"_s; }));
+        QCOMPARE(m_test.bytes(photoFile).mid(2 * 2560 + 516, 6), QByteArray("caf\xc3\xa9\0", 6));
+    }
+
     void refusesAPathThatNoRecordCanKeep()
     {
         const auto shelf = opened();
