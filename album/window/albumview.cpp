@@ -195,6 +195,11 @@ void AlbumView::showEmptiness()
         m_nothing->setWords(AlbumWindowLines::emptiness(m_shown), AlbumWindowLines::emptyLine(m_shown));
     QWidget *shown = !isEmpty ? static_cast<QWidget *>(m_grid) : isFirst ? m_first : m_nothing;
     m_stack->setCurrentWidget(shown);
+    for (QWidget *page : {static_cast<QWidget *>(m_first), static_cast<QWidget *>(m_nothing)}) {
+        // What is out of sight asks for no height.
+        page->setSizePolicy(QSizePolicy::Preferred,
+                            page == shown ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+    }
     m_order->parentWidget()->setVisible(!isEmpty);
     setFocusProxy(shown == m_nothing ? m_grid : shown);
 }

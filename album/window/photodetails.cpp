@@ -30,7 +30,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int storyLines = 5;
+constexpr int storyLines = 3;
+constexpr int besideBar = 12; ///< room for the scroll bar
 constexpr int facesWidth = 248;
 
 struct FieldFace {
@@ -77,6 +78,7 @@ PhotoDetails::PhotoDetails(const Program &program, PhotoShelf &shelf, QWidget *p
     m_title->setFont(TypeScale::group());
     for (QLabel *label : {m_facts, m_ages, m_dateWords, m_nothing})
         label->setWordWrap(true);
+    m_nothing->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     for (int field = 0; field < FieldCount; ++field)
         m_boxes[std::size_t(field)] = makeBox(Field(field));
     m_story->setTabChangesFocus(true);
@@ -111,7 +113,7 @@ QLineEdit *PhotoDetails::makeBox(Field field)
 void PhotoDetails::layOut()
 {
     auto *rows = new QVBoxLayout(m_form);
-    rows->setContentsMargins({});
+    rows->setContentsMargins(0, 0, besideBar, 0);
     rows->setSpacing(10);
     for (int field = 0; field < FieldCount; ++field) {
         QLineEdit *box = m_boxes[std::size_t(field)];
