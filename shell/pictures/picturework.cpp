@@ -28,13 +28,16 @@ public:
         return threads;
     }
 
-    void begin()
+    void begin(const std::shared_ptr<PictureWork> &work)
     {
         const QMutexLocker lock(&m_mutex);
-        if (m_count++ == 0 && !std::exchange(m_isWatched, true))
-            qAddPostRoutine([] { all().wait(); });
+        ++m_count;
+        std::erase_if(m_works, [](const std::weak_ptr<PictureWork> &old) { return old.expired(); });
+        m_works.push_back(work);
+        if (!std::exchange(m_isWatched, true))
+            qAddPostRoutine([] { all().end(); });
     }
-    void end()
+    void endOne()
     {
         const QMutexLocker lock(&m_mutex);
         --m_count;
@@ -42,9 +45,13 @@ public:
     }
 
 private:
-    void wait()
+    /// Also those of a queue that is still there.
+    void end()
     {
         const QMutexLocker lock(&m_mutex);
+        for (const std::weak_ptr<PictureWork> &work : std::exchange(m_works, {}))
+            if (const std::shared_ptr<PictureWork> running = work.lock())
+                running->stop();
         while (m_count > 0)
             m_ended.wait(&m_mutex);
         m_isWatched = false;
@@ -52,6 +59,7 @@ private:
 
     QMutex m_mutex;
     QWaitCondition m_ended;
+    std::vector<std::weak_ptr<PictureWork>> m_works;
     int m_count = 0;
     bool m_isWatched = false;
 };
@@ -66,11 +74,11 @@ PictureWork::PictureWork(PictureQueue &queue, const QString &thumbnails)
 void PictureWork::start()
 {
     for (int i = std::max(1, QThread::idealThreadCount()); i > 0; --i) {
-        RunningThreads::all().begin();
+        RunningThreads::all().begin(shared_from_this());
         std::thread([self = shared_from_this()]() mutable {
             self->run();
             self.reset();
-            RunningThreads::all().end();
+            RunningThreads::all().endOne();
         }).detach();
     }
 }
