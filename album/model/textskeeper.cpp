@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "album/model/textskeeper.h"
 
+#include "album/model/contenthash.h"
 #include "album/model/photooffile.h"
 #include "album/model/photoshelf.h"
 #include "album/model/picturefiles.h"
@@ -151,7 +152,11 @@ void TextsKeeper::startNext()
                 continue;
             }
             const KeptTexts::Written written = KeptTexts::write(task.path, task.texts, task.into, today);
-            m_walker.tell([this, task, written] { take(task, written); });
+            // Known by its content at once, should it be moved before the next look.
+            const Photo::Hash hash = written.isKept
+                                         ? ContentHash::of(task.path, isStopped).value_or(Photo::Hash())
+                                         : Photo::Hash();
+            m_walker.tell([this, task, written, hash] { take(task, written, hash); });
         }
     };
     m_walker.start(work, [this](bool) {
@@ -162,7 +167,7 @@ void TextsKeeper::startNext()
     });
 }
 
-void TextsKeeper::take(const Task &task, const KeptTexts::Written &written)
+void TextsKeeper::take(const Task &task, const KeptTexts::Written &written, const Photo::Hash &hash)
 {
     const Photo *photo = m_shelf.photo(task.record);
     if (!written.isKept)
@@ -173,6 +178,7 @@ void TextsKeeper::take(const Task &task, const KeptTexts::Written &written)
     const bool isUpToDate = textsOf(*photo) == task.texts;
     std::ignore = m_shelf.note({task.record}, [&](Photo &kept) {
         PhotoOfFile::takeFacts(kept, task.path);
+        kept.hash = hash;
         kept.set(Photo::TextsInFile, isUpToDate && !task.texts.isEmpty());
     });
 }

@@ -60,7 +60,7 @@ private:
     void notice(const QList<int> &records);
     std::optional<Task> taskFor(int record) const;
     void startNext();
-    void take(const Task &task, const KeptTexts::Written &written);
+    void take(const Task &task, const KeptTexts::Written &written, const Photo::Hash &hash);
 
     PhotoShelf &m_shelf;
     const QDate m_today;

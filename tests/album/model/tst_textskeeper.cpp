@@ -96,6 +96,7 @@ private slots:
         QCOMPARE(QFile::exists(m_path + u".xmp"_s), isBeside);
         QCOMPARE(photo().has(Photo::TextsInFile), isInFile);
         QCOMPARE(photo().size, QFileInfo(m_path).size());
+        QCOMPARE(photo().isHashed(), isInFile); // it may be moved before the next look
 
         QCOMPARE(step->undo(), ChangeResult::Done);
         if (isInFile)
