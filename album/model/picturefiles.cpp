@@ -2,11 +2,15 @@
 #include "album/model/picturefiles.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -47,7 +51,11 @@ private:
         m_seen.insert(real);
         QStringList folders;
         const QDir folder(file.absoluteFilePath());
-        const QStringList names = folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
+        // With what is no file, and with names that are none: whoever takes pictures in has to tell of them.
+        if (!visitUnnamed(folder))
+            return false;
+        const QStringList names =
+            folder.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
         for (const QString &name : names) {
             const QString path = folder.filePath(name);
             if (m_isStopped)
@@ -61,6 +69,27 @@ private:
             }
         }
         waiting += folders;
+        return true;
+    }
+
+    /// Files with names of another code page, which nothing here can open: as far as they can be read.
+    bool visitUnnamed(const QDir &folder) const
+    {
+#ifndef Q_OS_WIN
+        namespace fs = std::filesystem;
+        std::error_code failure;
+        fs::directory_iterator entry(QFile::encodeName(folder.path()).toStdString(), failure);
+        for (; !failure && entry != fs::directory_iterator(); entry.increment(failure)) {
+            const std::string bytes = entry->path().filename().string();
+            if (QByteArrayView(bytes).isValidUtf8())
+                continue;
+            const QString name = QString::fromUtf8(bytes);
+            if (PictureFiles::isPicture(name) && !m_visit(folder.filePath(name)))
+                return false;
+        }
+#else
+        Q_UNUSED(folder)
+#endif
         return true;
     }
 

@@ -116,6 +116,10 @@ private:
         }
         if (m_wish.since.isValid() && !isNew(path))
             return;
+        if (!QFileInfo(path).isFile()) {
+            m_batch.refused.append(path);
+            return;
+        }
         const std::optional<int> same = sameContent(path, isStopped);
         if (isStopped)
             return;

@@ -41,7 +41,7 @@ public:
         QList<int> added;    ///< their records
         int known = 0;       ///< were on the list already
         int foundAgain = 0;  ///< were missing, and lie here now
-        QStringList refused; ///< paths that a record cannot keep, and pictures that could not be copied
+        QStringList refused; ///< what is no file, paths that a record cannot keep, what could not be copied
         bool wasStopped = false;
     };
 

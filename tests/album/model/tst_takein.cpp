@@ -8,6 +8,8 @@
 
 #include <QSignalSpy>
 
+#include <fstream>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -143,8 +145,14 @@ private slots:
         const QString deep = u"x"_s.repeated(200) + u'/' + u"y"_s.repeated(200) + u'/' + u"z"_s.repeated(150);
         const QString path = picture(deep + u".jpg"_s);
         picture(u"short.jpg"_s);
+        QStringList refused{path};
+#ifndef Q_OS_WIN
+        const QString noName = m_elsewhere->filePath(u"latin"_s); // a name of another code page
+        std::ofstream((noName + u'\u00e9' + u".jpg"_s).toLatin1().toStdString()) << "x";
+        refused.prepend(noName + QChar(QChar::ReplacementCharacter) + u".jpg"_s);
+#endif
         const TakeIn::Result result = taken({});
-        QCOMPARE(result.refused, QStringList{path});
+        QCOMPARE(result.refused, refused);
         QCOMPARE(result.added.size(), 1);
     }
 
