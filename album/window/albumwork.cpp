@@ -35,7 +35,7 @@ void AlbumWork::resizeEvent(QResizeEvent *event)
         m_isPlaced = false;
     }
     const bool isBeside = wanted == Qt::Horizontal;
-    m_details->setContentsMargins(isBeside ? 4 : 20, isBeside ? 18 : 4, 20, isBeside ? 18 : 12);
+    m_details->setContentsMargins(isBeside ? 4 : 20, isBeside ? 18 : 4, 4, isBeside ? 18 : 12);
     QSplitter::resizeEvent(event);
     if (!m_isPlaced)
         share();

@@ -30,8 +30,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int storyLines = 3;
-constexpr int besideBar = 12; ///< room for the scroll bar
+constexpr int storyLines = 4;
+constexpr int besideBar = 16; ///< room for the scroll bar
 constexpr int facesWidth = 248;
 
 struct FieldFace {
@@ -126,7 +126,7 @@ void PhotoDetails::layOut()
     }
     rows->addLayout(labelled(makeFieldLabel(u"Sto&ry"_s, m_story, m_form), m_story));
     const int line = QFontMetrics(m_story->font()).lineSpacing();
-    m_story->setMinimumHeight(storyLines * line + 16);
+    m_story->setFixedHeight(storyLines * line + 16); // it would ask for more than it needs
     rows->addLayout(labelled(makeFieldLabel(u"Rating"_s, m_stars, m_form), m_stars));
     rows->addStretch(1);
     auto *column = new QVBoxLayout(this);
