@@ -43,6 +43,8 @@ QSize upright(const FoundTexts &found, const QString &path)
 {
     if (!found.pixels.isEmpty())
         return found.orientation >= 5 ? found.pixels.transposed() : found.pixels;
+    if (!QFileInfo(path).isFile())
+        return {}; // a pipe would let nobody go who waits for it
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();

@@ -9,6 +9,9 @@
 #include <QSignalSpy>
 
 #include <fstream>
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -149,6 +152,9 @@ private slots:
 #ifndef Q_OS_WIN
         const QString noName = m_elsewhere->filePath(u"latin"_s); // a name of another code page
         std::ofstream((noName + u'\u00e9' + u".jpg"_s).toLatin1().toStdString()) << "x";
+        const QString pipe = m_elsewhere->filePath(u"a pipe.jpg"_s);
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        refused.prepend(pipe);
         refused.prepend(noName + QChar(QChar::ReplacementCharacter) + u".jpg"_s);
 #endif
         const TakeIn::Result result = taken({});
