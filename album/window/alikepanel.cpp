@@ -83,10 +83,17 @@ QWidget *AlikePanel::makeWork()
     m_view->setFixedWidth(boxWidth({}, listWidth));
     m_what->setWordWrap(true);
     auto *tiles = new QWidget;
-    m_row = new QHBoxLayout(tiles);
-    m_row->setContentsMargins({});
-    m_row->setSpacing(16);
-    m_row->addStretch(1);
+    auto *row = new QHBoxLayout(tiles);
+    row->setContentsMargins({});
+    row->setSpacing(16);
+    for (int place = 0; place < mostTiles; ++place) {
+        auto *tile = new AlikeTile(place, tiles);
+        tile->hide();
+        row->addWidget(tile);
+        connect(tile, &AlikeTile::goingChanged, this, &AlikePanel::follow);
+        m_tiles.push_back(tile);
+    }
+    row->addStretch(1);
     auto *work = new QWidget(this);
     auto *both = new QHBoxLayout;
     both->setSpacing(16);
@@ -133,12 +140,6 @@ QList<int> AlikePanel::shownRecords() const
 void AlikePanel::showGroup()
 {
     const QList<int> records = shownRecords();
-    while (qsizetype(m_tiles.size()) < records.size()) {
-        auto *tile = new AlikeTile(int(m_tiles.size()), m_row->parentWidget());
-        m_row->insertWidget(m_row->count() - 1, tile);
-        connect(tile, &AlikeTile::goingChanged, this, &AlikePanel::follow);
-        m_tiles.push_back(tile);
-    }
     for (std::size_t i = 0; i < m_tiles.size(); ++i) {
         const Photo *photo =
             qsizetype(i) < records.size() ? m_shelf.photo(records.at(qsizetype(i))) : nullptr;

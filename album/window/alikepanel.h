@@ -7,7 +7,6 @@
 #include "shell/pictures/picturequeue.h"
 
 class AlikeTile;
-class QBoxLayout;
 class QLabel;
 class QTableView;
 struct Program;
@@ -52,7 +51,6 @@ private:
     QLabel *m_what;
     RowsModel<AlikePictures> *m_model;
     QTableView *m_view;
-    QBoxLayout *m_row = nullptr;
     std::vector<AlikeTile *> m_tiles;
     QPushButton *m_out;
     QPushButton *m_trash;

@@ -10,6 +10,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+constexpr QSize pictureSize(272, 236);
+}
+
 AlikeTile::AlikeTile(int place, QWidget *parent)
     : QWidget(parent)
     , m_frame(named(new PictureFrame(this), u"alikePicture_%1"_s.arg(place)))
@@ -18,12 +22,15 @@ AlikeTile::AlikeTile(int place, QWidget *parent)
 {
     setObjectName(u"alikeTile_%1"_s.arg(place));
     m_facts->setWordWrap(true);
+    m_frame->setFixedSize(pictureSize);
+    m_facts->setFixedWidth(pictureSize.width());
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(8);
-    column->addWidget(m_frame, 1);
+    column->addWidget(m_frame);
     column->addWidget(m_facts);
     column->addWidget(m_goes);
+    column->addStretch(1);
     connect(m_goes, &QCheckBox::toggled, this, &AlikeTile::goingChanged);
 }
 

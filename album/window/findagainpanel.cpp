@@ -31,6 +31,7 @@ FindAgainPanel::FindAgainPanel(const Program &program, PhotoShelf &shelf, QWidge
     , m_choose(nullptr)
     , m_link(nullptr)
 {
+    m_what->setWordWrap(true);
     m_view->setModel(m_table);
     auto *work = new TableWork(m_what, m_view, u"Pictures that were found again"_s, this);
     m_view->horizontalHeader()->setSectionResizeMode(FoundTable::Was, QHeaderView::Stretch);

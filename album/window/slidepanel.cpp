@@ -74,6 +74,7 @@ void SlidePanel::fill(QWidget *content)
     m_seconds->setAccessibleName(u"Each picture stays"_s);
     m_screen->setFixedWidth(boxWidth({}, screenWidth));
     m_screen->setAccessibleName(u"Screen"_s);
+    m_seconds->setMinimumHeight(m_screen->sizeHint().height());
     m_what->setWordWrap(true);
     auto *hint = makeQuietLabel(keysHint(), content);
     hint->setWordWrap(true);

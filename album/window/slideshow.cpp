@@ -380,7 +380,7 @@ void SlideShow::wheelEvent(QWheelEvent *event)
 void SlideShow::resizeEvent(QResizeEvent * /*event*/)
 {
     m_bar->adjustSize();
-    m_bar->move((width() - m_bar->width()) / 2, height() - m_bar->height() - rim);
+    m_bar->move((width() - m_bar->width()) / 2, rim); // the captions stand at the foot
 }
 
 void SlideShow::closeEvent(QCloseEvent *event)
