@@ -5,11 +5,53 @@
 #include "shell/program/covering.h"
 #include "shell/program/program.h"
 
+#include <QObject>
+#include <QPointer>
+
+#include <algorithm>
 #include <utility>
+#include <vector>
+
+namespace {
+
+/// What can be locked by itself, whatever the password guards.
+class Lockables final : public QObject
+{
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    static Lockables &of(Program &program)
+    {
+        auto *known = program.changes.findChild<Lockables *>();
+        return known ? *known : *new Lockables(&program.changes);
+    }
+
+    void add(const QObject *owner, std::function<bool()> isLockable)
+    {
+        m_all.emplace_back(owner, std::move(isLockable));
+    }
+
+    static void showIn(Program &program, ActivityBar &bar)
+    {
+        bar.offerLock(program.state.protectedAreas.isAnyProtected() || of(program).isAny());
+    }
+
+private:
+    bool isAny()
+    {
+        std::erase_if(m_all, [](const auto &each) { return !each.first; });
+        return std::ranges::any_of(m_all, [](const auto &each) { return each.second(); });
+    }
+
+    std::vector<std::pair<QPointer<const QObject>, std::function<bool()>>> m_all;
+};
+
+} // namespace
 
 void Locking::offer(Program &program, ActivityBar &bar)
 {
-    const auto show = [&program, &bar] { bar.offerLock(program.state.protectedAreas.isAnyProtected()); };
+    const auto show = [&program, &bar] { Lockables::showIn(program, bar); };
     QObject::connect(&program.changes, &ProgramSignals::guardsChanged, &bar, show);
     QObject::connect(&bar, &ActivityBar::lockRequested, &program.changes, &ProgramSignals::lockRequested);
     show();
@@ -17,11 +59,8 @@ void Locking::offer(Program &program, ActivityBar &bar)
 
 void Locking::offerAlso(Program &program, ActivityBar &bar, std::function<bool()> isLockable)
 {
-    const auto show = [&program, &bar, isLockable = std::move(isLockable)] {
-        bar.offerLock(program.state.protectedAreas.isAnyProtected() || isLockable());
-    };
-    QObject::connect(&program.changes, &ProgramSignals::guardsChanged, &bar, show);
-    show();
+    Lockables::of(program).add(&bar, std::move(isLockable));
+    Lockables::showIn(program, bar);
 }
 
 bool Locking::maySee(QWidget &window, Program &program)
@@ -31,3 +70,5 @@ bool Locking::maySee(QWidget &window, Program &program)
         emit program.changes.uncoverRequested(&window);
     return asked && !Covering::isCovered(window);
 }
+
+#include "locking.moc"

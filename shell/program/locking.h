@@ -10,9 +10,10 @@ struct Program;
 /// What the windows themselves have to do with being covered.
 namespace Locking {
 
-/// "Lock Now" in the status bar of a window, for as long as the password guards anything.
+/// "Lock Now" in the status bar of a window, for as long as the password guards anything or something that is
+/// open can be locked by itself.
 void offer(Program &program, ActivityBar &bar);
-/// Also while `isLockable` says so, of a window that has been offered it already: it can be locked by itself.
+/// The window of `bar` can be locked by itself while `isLockable` says so: each window offers it then.
 void offerAlso(Program &program, ActivityBar &bar, std::function<bool()> isLockable);
 
 /// Whether what `window` shows may be seen: one that is covered asks for the password first.
