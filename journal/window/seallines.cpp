@@ -145,7 +145,7 @@ QString SealLines::lockedWords()
 
 QString SealLines::usePassword()
 {
-    return u"Use the password"_s;
+    return u"Use the passwo&rd"_s;
 }
 
 QString SealLines::working()

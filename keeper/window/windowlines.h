@@ -86,7 +86,7 @@ inline QString masterCaption()
 
 inline QString useMaster()
 {
-    return u"Use the master password"_s;
+    return u"Use the maste&r password"_s;
 }
 
 inline QString masterMissing()

@@ -20,7 +20,7 @@ inline QString recoveryCode()
 
 inline QString useRecoveryCode()
 {
-    return u"Use the recovery code"_s;
+    return u"Use the &recovery code"_s;
 }
 
 inline QString recoveryCodeMissing()
