@@ -32,9 +32,11 @@
 
 #include <QMenu>
 #include <QPushButton>
+#include <QSet>
 #include <QShowEvent>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -252,8 +254,7 @@ void PhotoVIEW1::connectCare()
         undoStack().offer();
     });
     connect(m_care, &ShelfCare::changed, &commands(), &Commands::refresh);
-    connect(m_care, &ShelfCare::taken, this,
-            [this](const QList<int> &records) { m_photos->choose({records.first()}); });
+    connect(m_care, &ShelfCare::taken, this, &PhotoVIEW1::showTaken);
     connect(&m_photos->grid(), &PhotoGrid::filesDropped, m_folders, &FolderCommands::take);
     connect(m_albums, &AlbumCommands::intoChanged, m_care, &ShelfCare::catchUp);
     connect(m_care, &ShelfCare::lookedFirst, m_keep, &KeepCommands::offerCards);
@@ -274,6 +275,20 @@ void PhotoVIEW1::connectCare()
         m_photos->choose({record});
         m_stack->currentWidget()->setFocus();
     });
+}
+
+/// The first of them as they stand is chosen. The button that asked for them may be gone by now: the keys are
+/// for the pictures then.
+void PhotoVIEW1::showTaken(const QList<int> &records)
+{
+    const QSet<int> taken(records.cbegin(), records.cend());
+    const QList<int> &shown = m_photos->records();
+    const auto first = std::ranges::find_if(shown, [&taken](int record) { return taken.contains(record); });
+    if (first != shown.cend())
+        m_photos->choose({*first});
+    const QWidget *focus = focusWidget();
+    if (m_stack->isHome() && (!focus || toolbar().isAncestorOf(focus)))
+        m_photos->setFocus();
 }
 
 /// Nothing is read before the window is painted.

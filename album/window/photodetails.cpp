@@ -12,6 +12,7 @@
 #include "shell/controls/bytelimit.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/controls/taborder.h"
 #include "shell/controls/tagbox.h"
 #include "shell/look/theme.h"
 #include "shell/program/householdpersons.h"
@@ -140,6 +141,7 @@ void PhotoDetails::layOut()
     column->addWidget(m_scroll, 1);
     setMinimumWidth(facesWidth);
     setFocusProxy(m_boxes[Caption]);
+    TabOrder::follow(*rows);
 }
 
 void PhotoDetails::show(const QList<int> &records)

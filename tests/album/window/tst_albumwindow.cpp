@@ -65,9 +65,24 @@ private slots:
         QCOMPARE(m_test->bytes(PhotoFile::name).size() % 2560, 0);
         QVERIFY(field(1, 0, 4) == "PIC1" && field(1, 4, 512).startsWith("Pictures/"));
         QTRY_VERIFY(said().contains(u"4 pictures taken in"_s));
-        grid()->setFocus();
+        QTRY_VERIFY(grid()->hasFocus()); // the button has gone
+        QCOMPARE(grid()->currentIndex().row(), 0);
         key(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(shown(), 0);
+    }
+
+    void tabGoesThroughAllThatIsKnownOfAPicture()
+    {
+        makeProgram();
+        open();
+        find<QWidget>("photoCaption")->setFocus();
+        QStringList names;
+        for (int i = 0; i < 6; ++i) {
+            key(Qt::Key_Tab);
+            names << m_window->focusWidget()->objectName();
+        }
+        QCOMPARE(names, QStringList({u"photoPeople"_s, u"photoDate"_s, u"photoPlace"_s, u"photoTags"_s,
+                                     u"photoStory"_s, u"photoStars"_s}));
     }
 
     void goesThroughThePicturesByKeys_data()
