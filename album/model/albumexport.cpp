@@ -155,12 +155,13 @@ private:
         return m_wish.hasTexts ? PhotoOfFile::texts(photo) : KeptTexts::read(photo.path, m_wish.today).texts;
     }
 
+    /// Of a picture that could not be read, or was left alone, nobody knows that it has none.
     static bool mayHaveCoordinates(const QString &path)
     {
         const QString ending = QFileInfo(path).suffix().toLower();
         const bool neverHas = ending == u"gif"_s || ending == u"bmp"_s;
         const FoundTexts found = KeptTexts::read(path, QDate());
-        return found.hasCoordinates || (!KeptTexts::isBuiltIn() && !neverHas);
+        return found.hasCoordinates || (found.pixels.isEmpty() && !neverHas);
     }
 
     bool write(const QString &name, const QByteArray &bytes, const Photo &photo)

@@ -6,9 +6,11 @@
 #include "shell/pictures/picturehash.h"
 #include "shell/pictures/picturereading.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <map>
@@ -166,6 +168,9 @@ void Alike::start(const QList<int> &records)
 
 QList<int> Alike::moveToTrash(const QList<int> &records)
 {
+    // Where the folder that the trash lies in is not there yet, Qt takes the working folder for it.
+    if (!QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)))
+        return records;
     QList<int> gone;
     QList<int> refused;
     for (const int record : records) {

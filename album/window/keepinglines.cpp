@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "album/window/keepinglines.h"
 
+#include "album/window/windowlines.h"
+
 #include <QDir>
 
 using namespace Qt::Literals::StringLiterals;
@@ -78,10 +80,7 @@ QString KeepingLines::group(qsizetype count, bool isSame)
 
 QString KeepingLines::alikeFacts(const Photo &photo, const QString &date, const QStringList &albums)
 {
-    QStringList lines{photo.fileName()};
-    const QString size = QLocale::c().formattedDataSize(photo.size, 1, QLocale::DataSizeTraditionalFormat);
-    lines << (photo.width > 0 ? u"%1 x %2, %3"_s.arg(photo.width).arg(photo.height).arg(size) : size);
-    lines << date << albums.join(u", "_s);
+    QStringList lines{photo.fileName(), AlbumWindowLines::facts(photo), date, albums.join(u", "_s)};
     lines.removeAll(QString());
     return lines.join(u'\n');
 }

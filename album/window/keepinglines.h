@@ -48,7 +48,7 @@ inline QString notLinked()
 QString alikeFound(qsizetype groups, bool wasStopped);
 /// "3 pictures, the same content"
 QString group(qsizetype count, bool isSame);
-/// "IMG_0001.jpg\n4000 x 3000, 2.3 MB\nNovember 21, 2026\nGrandmother"
+/// A line each: "IMG_0001.jpg", "4000 × 3000, 2.3 MB, Pictures/2019", "21 November 2026", "Grandmother".
 QString alikeFacts(const Photo &photo, const QString &date, const QStringList &albums);
 Message trashQuestion(const QStringList &names);
 QString trashed(qsizetype count);
