@@ -51,7 +51,7 @@ AlikePanel::AlikePanel(const Program &program, PhotoShelf &shelf, const QString 
     m_queue.setSide(int(pictureSide * devicePixelRatioF()));
     setWalkWork(makeWork());
     m_trash = addButton(u"alikeTrash"_s, u"Move to &Trash..."_s, ButtonKind::Plain, Side::Left);
-    m_out = addButton(u"alikeOut"_s, u"Take &Off the List"_s, ButtonKind::Main);
+    m_out = addButton(u"alikeOut"_s, u"Ta&ke Off the List"_s, ButtonKind::Main);
     setLeave(setLeaveButton(u"alikeClose"_s, u"C&lose"_s));
     setFocusProxy(m_view);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, &AlikePanel::showGroup);
@@ -112,7 +112,7 @@ void AlikePanel::start(const QList<int> &photos, int album)
     if (isWalking())
         return;
     m_album = album;
-    m_out->setText(album == 0 ? u"Take &Off the List"_s : u"Take &Out of the Album"_s);
+    m_out->setText(album == 0 ? u"Ta&ke Off the List"_s : u"Ta&ke Out of the Album"_s);
     m_model->setRows({});
     m_what->setText(u"The pictures are being compared..."_s);
     showGroup();

@@ -45,7 +45,7 @@ CardsPanel::CardsPanel(CardImport &cards, QWidget *parent)
     for (const int column : {0, 1, 2})
         m_view->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     setWalkWork(work);
-    m_again = addButton(u"cardsAgain"_s, u"Look &Again"_s);
+    m_again = addButton(u"cardsAgain"_s, u"Loo&k Again"_s);
     m_take = addButton(u"cardsTake"_s, KeepingLines::copyIn(0), ButtonKind::Main);
     setLeave(setLeaveButton(u"cardsClose"_s, u"C&lose"_s));
     setFocusProxy(m_view);

@@ -54,8 +54,8 @@ QString KeepingLines::found(qsizetype count, qsizetype missing, const QString &f
 QString KeepingLines::link(qsizetype count)
 {
     if (count == 0)
-        return u"&Link"_s;
-    return count == 1 ? u"&Link 1 Picture"_s : u"&Link %1 Pictures"_s.arg(number(count));
+        return u"Lin&k"_s;
+    return count == 1 ? u"Lin&k 1 Picture"_s : u"Lin&k %1 Pictures"_s.arg(number(count));
 }
 
 QString KeepingLines::linked(qsizetype count)

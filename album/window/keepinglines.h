@@ -19,7 +19,7 @@ QString progress(int done, int total);
 /// "12 pictures are missing. ..."
 QString missing(qsizetype count);
 QString found(qsizetype count, qsizetype missing, const QString &folder, bool wasStopped);
-/// "&Link 12 Pictures"
+/// "Lin&k 12 Pictures"
 QString link(qsizetype count);
 QString linked(qsizetype count);
 

@@ -46,7 +46,7 @@ PhotoExportPanel::PhotoExportPanel(const Program &program, PhotoShelf &shelf, QW
     auto *content = new QWidget(this);
     fill(content);
     setWalkWork(content);
-    m_run = addButton(u"exportRun"_s, u"&Export"_s, ButtonKind::Main);
+    m_run = addButton(u"exportRun"_s, u"E&xport"_s, ButtonKind::Main);
     QPushButton *close = setLeaveButton(u"exportClose"_s, u"C&lose"_s);
     setLeave(close);
     setFocusProxy(m_choose);
@@ -172,11 +172,11 @@ void PhotoExportPanel::finish(const AlbumExport::Result &result)
     const QString line = KeepingLines::exported(result, m_folder);
     const bool isWhole = result.failed.isEmpty() && result.withoutTexts.isEmpty();
     setWords(line);
-    emit said(line);
     if (!isWhole)
         m_program.dialogs.ask(m_window, KeepingLines::exportFaultsMessage(result));
     else if (!result.isDiskFull && !result.wasStopped)
-        leave();
+        leave(); // which takes back what was said before
+    emit said(line);
 }
 
 void PhotoExportPanel::stopWalk()

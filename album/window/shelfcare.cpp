@@ -106,10 +106,10 @@ void ShelfCare::finish(const TakeIn::Result &result)
     m_activity.showProgress(0, 0);
     if (m_current.isAsked || !result.added.isEmpty() || result.foundAgain > 0)
         emit said(AlbumWindowLines::takenIn(result));
-    if (!result.added.isEmpty()) {
+    if (m_current.isAsked && !result.added.isEmpty())
         emit taken(result.added);
+    if (!result.added.isEmpty())
         m_look.start(m_desk.program.clock.today()); // their contents are to be known, too
-    }
     startNext();
     emit changed();
 }

@@ -39,7 +39,7 @@ signals:
     void said(const QString &line);
     /// Something has begun or ended.
     void changed();
-    /// What was taken in can be taken back.
+    /// These were taken in for the person who asked for it. What comes by itself draws nobody away.
     void taken(const QList<int> &records);
 
 private:

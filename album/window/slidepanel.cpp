@@ -44,7 +44,7 @@ SlidePanel::SlidePanel(const Program &program, const PhotoShelf &shelf, QWidget 
     , m_seconds(named(new QSpinBox(this), u"slideSeconds"_s))
     , m_screen(named(new QComboBox(this), u"slideScreen"_s))
     , m_soft(named(new QCheckBox(u"One picture passes &softly into the next"_s, this), u"slideSoft"_s))
-    , m_shuffled(named(new QCheckBox(u"In any &order, another one each round"_s, this), u"slideShuffled"_s))
+    , m_shuffled(named(new QCheckBox(u"In any or&der, another one each round"_s, this), u"slideShuffled"_s))
     , m_captions(named(new QCheckBox(u"&Captions below the pictures"_s, this), u"slideCaptionsShown"_s))
     , m_begin(nullptr)
 {
@@ -84,7 +84,7 @@ void SlidePanel::fill(QWidget *content)
     column->addWidget(m_what);
     auto *boxes = new QHBoxLayout;
     boxes->setSpacing(12);
-    boxes->addLayout(labelled(u"&Each picture stays"_s, m_seconds));
+    boxes->addLayout(labelled(u"Each p&icture stays"_s, m_seconds));
     boxes->addLayout(labelled(u"Sc&reen"_s, m_screen));
     boxes->addStretch(1);
     column->addLayout(boxes);
