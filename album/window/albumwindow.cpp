@@ -258,7 +258,6 @@ void PhotoVIEW1::connectCare()
     connect(&m_photos->grid(), &PhotoGrid::filesDropped, m_folders, &FolderCommands::take);
     connect(m_albums, &AlbumCommands::intoChanged, m_care, &ShelfCare::catchUp);
     connect(m_care, &ShelfCare::lookedFirst, m_keep, &KeepCommands::offerCards);
-    connect(m_folders, &FolderCommands::said, this, [this](const QString &line) { activity().say(line); });
     connect(&m_care->look(), &ShelfLook::conflictsChanged, this, [this] {
         commands().refresh();
         if (const int count = int(m_care->look().conflicts().size()); count > 0) {

@@ -52,8 +52,9 @@ void FolderCommands::addFurther(QMenu *pictures)
     commands.writing(commands.add(
         pictures, u"mPBoth"_s, u"B&oth Changed..."_s, [this] { openConflicts(); },
         [this] { return m_care.look().conflicts().empty() ? AlbumWindowLines::noConflicts() : QString(); }));
-    commands.add(pictures, u"mPReads"_s, u"&What Can Be Read"_s,
-                 [this] { emit said(AlbumWindowLines::whatIsRead()); });
+    commands.add(pictures, u"mPReads"_s, u"&What Can Be Read"_s, [this] {
+        m_desk.program.dialogs.ask(&m_desk.window, {u"Photo Album"_s, AlbumWindowLines::whatIsRead()});
+    });
 }
 
 void FolderCommands::openConflicts()

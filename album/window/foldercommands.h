@@ -28,9 +28,6 @@ public:
     /// Shows what was changed in the album and in the picture, both.
     void openConflicts();
 
-signals:
-    void said(const QString &line);
-
 private:
     void choose();
 

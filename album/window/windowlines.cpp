@@ -334,10 +334,10 @@ QString whatIsRead()
         formats.append(u"TIFF"_s);
     if (HeifPictures::areReadable())
         formats.append({u"HEIC"_s, u"AVIF"_s});
-    return andList(formats) + u" can be read here; "_s +
+    return andList(formats) + u" can be read here.\n"_s +
            (KeptTexts::isBuiltIn()
-                ? u"captions, people, tags, ratings and dates can be written into pictures"_s
-                : u"captions stand in the album alone"_s);
+                ? u"Captions, people, tags, ratings and dates can be written into pictures."_s
+                : u"Captions stand in the album alone."_s);
 }
 
 } // namespace AlbumWindowLines
