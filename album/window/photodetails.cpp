@@ -413,11 +413,28 @@ bool PhotoDetails::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-/// Enter in a box goes back to the pictures, so that the next one is an arrow key and F2 away.
+/// Enter in a box goes back to the pictures, so that the next one is an arrow key and F2 away. Esc does so
+/// too, and gives up what was typed.
 void PhotoDetails::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        emit left();
-    else
+    const bool isEscape = event->key() == Qt::Key_Escape;
+    if (!isEscape && event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QWidget::keyPressEvent(event);
+        return;
+    }
+    if (isEscape)
+        giveUp();
+    emit left();
+}
+
+void PhotoDetails::giveUp()
+{
+    for (std::size_t field = 0; field < m_boxes.size(); ++field) {
+        if (m_boxes[field]->isModified())
+            m_boxes[field]->setText(m_shown[field]);
+    }
+    if (!m_story->document()->isModified())
+        return;
+    m_story->setPlainText(m_shownStory);
+    m_story->document()->setModified(false);
 }

@@ -47,6 +47,7 @@ protected:
 private:
     enum Field { Caption, People, Date, Place, Tags, FieldCount };
 
+    void giveUp();
     QLineEdit *makeBox(Field field);
     void layOut();
     QString textOf(const Photo &photo, Field field) const;

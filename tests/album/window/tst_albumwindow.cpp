@@ -145,6 +145,21 @@ private slots:
         QVERIFY(find<QLineEdit>(box)->text() != typed);
     }
 
+    void escapeGivesUpWhatWasTyped()
+    {
+        makeProgram();
+        open();
+        choose({1});
+        const QByteArray before = m_test->bytes(PhotoFile::name);
+        key(Qt::Key_F2);
+        QTest::keyClicks(m_window->focusWidget(), u"Annette"_s);
+        key(Qt::Key_Escape);
+        QVERIFY(grid()->hasFocus());
+        QCOMPARE(find<QLineEdit>("photoCaption")->text(), u"Anne"_s);
+        QCOMPARE(m_test->bytes(PhotoFile::name), before);
+        QVERIFY(m_window->isVisible());
+    }
+
     void whatIsNoDateStaysToBeMended()
     {
         makeProgram();
