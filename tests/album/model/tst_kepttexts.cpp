@@ -273,8 +273,9 @@ private slots:
     void whatIsNoPictureIsLeftAlone_data()
     {
         QByteArray nested = "\xff\xd8\xff\xe1";
-        const QByteArray packet("http://ns.adobe.com/xap/1.0/\0<!DOCTYPE x [<!ENTITY a \"aaaa\">]><x>&a;</x>",
-                                74);
+        constexpr char words[] =
+            "http://ns.adobe.com/xap/1.0/\0<!DOCTYPE x [<!ENTITY a \"aaaa\">]><x>&a;</x>";
+        const QByteArray packet(words, sizeof words - 1);
         nested += char(0);
         nested += char(packet.size() + 2);
         nested += packet + "\xff\xda";
