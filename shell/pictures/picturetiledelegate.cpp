@@ -61,11 +61,11 @@ void PictureTileDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     const PictureTiles::Tile words = m_grid.tiles().tile(index.row());
     painter->setFont(TypeScale::label());
     const QFontMetrics metrics = painter->fontMetrics();
-    // On the soft fill the designed ink, on the panel the panel's.
-    painter->setPen(isChosen ? theme.text : option.palette.color(QPalette::WindowText));
+    // The list has a field of its own: the ink that was chosen for the panel is not for it.
+    painter->setPen(theme.text);
     painter->drawText(QRect(tile.left(), room.bottom() + 1 + gap, tile.width(), line), Qt::AlignCenter,
                       metrics.elidedText(words.name, Qt::ElideMiddle, tile.width()));
-    painter->setPen(isChosen ? theme.quiet : option.palette.color(ThemeRole::quiet));
+    painter->setPen(theme.quiet);
     painter->drawText(QRect(tile.left(), room.bottom() + 1 + gap + line, tile.width(), line), Qt::AlignCenter,
                       metrics.elidedText(words.words, Qt::ElideRight, tile.width()));
     painter->restore();
