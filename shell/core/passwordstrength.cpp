@@ -70,7 +70,7 @@ QString PasswordStrength::words() const
         return {};
     QString words = length == 1 ? u"1 character"_s : u"%1 characters"_s.arg(length);
     if (bits)
-        words += u", about %1 bits"_s.arg(std::round(*bits));
+        words += u", about %1 bits"_s.arg(std::floor(*bits));
     if (isWord)
         words += u", a word in the dictionary"_s;
     if (isUsedBefore)
