@@ -3,6 +3,7 @@
 // two turns of the event loop.
 
 #include "addressbook/model/viewerpages.h"
+#include "benchmarks/heartbeat.h"
 #include "benchmarks/limit.h"
 #include "shell/look/theme.h"
 #include "shell/pictures/picturegallery.h"
@@ -34,28 +35,6 @@ void savePhotograph(const QString &path)
         qFatal("cannot write the photograph to be read");
 }
 
-/// The longest time that the event loop took for one turn.
-class Heartbeat
-{
-public:
-    Heartbeat()
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            m_longest = std::max(m_longest, m_clock.nsecsElapsed());
-            m_clock.start();
-        });
-        m_clock.start();
-        m_timer.start(0);
-    }
-
-    double milliseconds() const { return double(m_longest) / 1e6; }
-
-private:
-    QTimer m_timer;
-    QElapsedTimer m_clock;
-    qint64 m_longest = 0;
-};
-
 void readPage(benchmark::State &state, QSize window)
 {
     QTemporaryDir data;
@@ -67,7 +46,7 @@ void readPage(benchmark::State &state, QSize window)
     const std::vector<NamedPicture> page(ViewerPages::picturesPerSheet, {u"Lind, Anne"_s, u"photo.jpg"_s});
     double longest = 0;
     for ([[maybe_unused]] auto round : state) {
-        const Heartbeat heartbeat;
+        const Heartbeat heartbeat(0);
         gallery.setPictures(page);
         while (gallery.waitingCount() > 0)
             QApplication::processEvents();

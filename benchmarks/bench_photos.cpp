@@ -2,6 +2,7 @@
 // Two thousand photographs of twelve megapixels as a window asks for them: the first screen rough and sharp,
 // after a jump, all of them, and from the thumbnails; beside plain loops that read the same.
 
+#include "benchmarks/heartbeat.h"
 #include "benchmarks/limit.h"
 #include "shell/pictures/jpeghead.h"
 #include "shell/pictures/picturequeue.h"
@@ -185,27 +186,6 @@ private:
     QSet<int> m_sharp;
 };
 
-/// The longest time that the event loop took for one turn.
-class Heartbeat
-{
-public:
-    Heartbeat()
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            m_longest = std::max(m_longest, m_clock.nsecsElapsed());
-            m_clock.start();
-        });
-        m_clock.start();
-        m_timer.start(1);
-    }
-    double milliseconds() const { return double(m_longest) / 1e6; }
-
-private:
-    QTimer m_timer;
-    QElapsedTimer m_clock;
-    qint64 m_longest = 0;
-};
-
 void readPlainly(const std::vector<WantedPicture> &pictures)
 {
     onAllCores(int(pictures.size()), [&](int i) {
@@ -303,7 +283,7 @@ void all(benchmark::State &state)
         if (QFile refs(u"/proc/self/clear_refs"_s); refs.open(QIODevice::WriteOnly))
             refs.write("5"); // the peak begins here
         Viewer viewer(disk.freshFolder());
-        const Heartbeat heartbeat;
+        const Heartbeat heartbeat(1);
         limit.measure([&] {
             for (const WantedPicture &picture : disk.photographs())
                 viewer.queue().want(picture, Priority::Rest);
