@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/access/sessionwatch.h"
+#include "tests/support/privatebus.h"
 #include "tests/support/rows.h"
 
 #include <QDBusConnection>
@@ -8,9 +9,7 @@
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusUnixFileDescriptor>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTest>
 
 #include <poll.h>
@@ -86,24 +85,16 @@ class TestSessionWatch : public QObject
 private slots:
     void initTestCase()
     {
-        const QString program = QStandardPaths::findExecutable(u"dbus-daemon"_s);
-        if (program.isEmpty())
+        if (PrivateBus::program().isEmpty())
             QSKIP("there is no dbus-daemon");
-        m_bus.start(program, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        QVERIFY(m_bus.waitForReadyRead());
-        const QByteArray address = m_bus.readLine().trimmed();
+        const QByteArray address = m_bus.start();
         qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
         QDBusConnection service = bus();
         QVERIFY(service.registerObject(manager, &m_login, QDBusConnection::ExportAllSlots));
         QVERIFY(service.registerService(u"org.freedesktop.login1"_s));
     }
 
-    void cleanupTestCase()
-    {
-        m_bus.kill();
-        m_bus.waitForFinished();
-    }
+    void cleanupTestCase() { m_bus.stop(); }
 
     void hearsWhenTheDeskIsLeft_data()
     {
@@ -218,7 +209,7 @@ private:
         QDBusConnection::systemBus().interface()->registeredServiceNames();
     }
 
-    QProcess m_bus;
+    PrivateBus m_bus;
     Login m_login;
 };
 

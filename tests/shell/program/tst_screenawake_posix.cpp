@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/look/systemlook.h"
 #include "shell/program/screenawake.h"
+#include "tests/support/privatebus.h"
 #include "tests/support/rows.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 #include <QThread>
 
@@ -63,13 +62,9 @@ class TestScreenAwake : public QObject
 private slots:
     void initTestCase()
     {
-        const QString program = QStandardPaths::findExecutable(u"dbus-daemon"_s);
-        if (program.isEmpty())
+        if (PrivateBus::program().isEmpty())
             QSKIP("there is no dbus-daemon");
-        m_bus.start(program, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        QVERIFY(m_bus.waitForReadyRead());
-        const QByteArray address = m_bus.readLine().trimmed();
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+        const QByteArray address = m_bus.start();
         m_saver.moveToThread(&m_desktop);
         m_portal.moveToThread(&m_desktop);
         m_desktop.start();
@@ -86,8 +81,7 @@ private slots:
     {
         m_desktop.quit();
         m_desktop.wait();
-        m_bus.kill();
-        m_bus.waitForFinished();
+        m_bus.stop();
     }
 
     void keepsTheScreenOnWhileItLives()
@@ -122,7 +116,7 @@ private slots:
     }
 
 private:
-    QProcess m_bus;
+    PrivateBus m_bus;
     QThread m_desktop;
     Saver m_saver;
     Portal m_portal;
