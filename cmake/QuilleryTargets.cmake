@@ -144,10 +144,10 @@ endfunction()
 
 # Under wine the disk of this machine is the drive Z, and what works a window a hundred times takes minutes.
 set(test_disk "")
-set(test_seconds 300)
+set(test_seconds 900)
 if(CMAKE_CROSSCOMPILING)
     set(test_disk "Z:")
-    set(test_seconds 1200)
+    set(test_seconds 3600)
 endif()
 
 # quillery_test(NAME SOURCES file... LINK target...): one Qt Test program, run by ctest without a screen.
@@ -156,6 +156,9 @@ function(quillery_test name)
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test)
     target_compile_options(${name} PRIVATE ${test_options})
+    if(TARGET quillery_unsynced)
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:quillery_unsynced>)
+    endif()
     quillery_has_widgets(has_widgets ${ARG_LINK})
     if(has_widgets)
         target_precompile_headers(${name} REUSE_FROM quillery_test_headers)
