@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 #include <tuple>
@@ -31,15 +32,32 @@ QString journalPath(const DataFolder &folder)
     return folder.path() + u'/' + ChangeSet::journalName;
 }
 
-QString waitingPath(const DataFolder &folder, const QString &name)
+QString layingPath(const DataFolder &folder)
 {
-    return folder.filePath(name) + ChangeSet::waitingSuffix;
+    return folder.path() + u'/' + ChangeSet::layingFolder;
 }
 
 /// A bare name of the folder; a journal that came from elsewhere reaches nothing outside it.
 bool isOwnName(const QString &name)
 {
     return !name.isEmpty() && QFileInfo(name).fileName() == name && name != QLatin1StringView("..");
+}
+
+/// The same, in a folder of the folder.
+bool isOwnPath(const QString &path)
+{
+    return QDir::isRelativePath(path) && std::ranges::all_of(path.split(u'/'), [](const QString &name) {
+               return isOwnName(name) && name != QLatin1StringView(".");
+           });
+}
+
+bool isReplaceable(const QString &path)
+{
+    const QFileInfo original(path);
+    const bool isFree = !original.exists() || (original.isFile() && original.isWritable());
+    if (!isFree)
+        qCWarning(storageLog).noquote() << "Cannot replace" << path;
+    return isFree;
 }
 
 } // namespace
@@ -67,6 +85,16 @@ void ChangeSet::replace(const QString &name, const QByteArray &content, const QB
     m_changes.push_back({QFileInfo(m_folder.filePath(name)).fileName(), wholeFile, content, inBetween});
 }
 
+void ChangeSet::takeLaid(const QString &laid, const QString &name)
+{
+    if (!isOwnName(laid) || !isOwnPath(name)) {
+        qCWarning(storageLog).noquote() << "Refused to write to" << name;
+        m_isRefused = true;
+        return;
+    }
+    m_changes.push_back({name, ChangeSet::laid, laid.toUtf8(), {}});
+}
+
 void ChangeSet::remove(const QString &name)
 {
     const QFileInfo file(m_folder.filePath(name));
@@ -74,23 +102,38 @@ void ChangeSet::remove(const QString &name)
         m_changes.push_back({file.fileName(), going, {}, {}});
 }
 
-bool ChangeSet::commit()
+bool ChangeSet::isReady() const
 {
-    if (m_changes.empty())
-        return !m_isRefused;
     if (m_folder.isReadOnly()) {
         qCWarning(storageLog).noquote() << "Refused to write to" << m_folder.path();
         return false;
     }
     // What could not be finished before must not overtake what comes now.
-    if (m_isRefused || !finish(m_folder))
-        return false;
+    return !m_isRefused && finish(m_folder);
+}
+
+bool ChangeSet::writeJournal() const
+{
     if (!stage() || !Disk::writeWhole(journalPath(m_folder), encode(m_changes))) {
         std::ignore = Disk::remove(journalPath(m_folder)); // torn, so it counts for nothing where it stays
         dropStaged();
         return false;
     }
     Disk::flushNames(m_folder.path());
+    return true;
+}
+
+bool ChangeSet::leaveToNextStart()
+{
+    return m_changes.empty() ? !m_isRefused : isReady() && writeJournal();
+}
+
+bool ChangeSet::commit()
+{
+    if (m_changes.empty())
+        return !m_isRefused;
+    if (!isReady() || !writeJournal())
+        return false;
 
     std::vector<Former> formers;
     const bool areWritten = writePlaces(m_folder, m_changes, formers);
@@ -132,6 +175,7 @@ bool ChangeSet::recover(const DataFolder &folder)
         return true;
     if (!finish(folder))
         return false;
+    QDir(layingPath(folder)).removeRecursively();
     QDir dir(folder.path());
     for (const QString &name : dir.entryList({u'*' + waitingSuffix}, QDir::Files | QDir::Hidden))
         dir.remove(name);
@@ -150,7 +194,7 @@ QByteArray ChangeSet::encode(const Changes &changes)
     stream.setVersion(streamVersion);
     stream << magic << quint32(changes.size());
     for (const Change &change : changes)
-        stream << change.name << change.offset << (change.isInPlace() ? change.bytes : QByteArray());
+        stream << change.name << change.offset << (change.isWholeFile() ? QByteArray() : change.bytes);
     return bytes + checksum(bytes);
 }
 
@@ -169,7 +213,10 @@ bool ChangeSet::decode(const QByteArray &journal, Changes &changes)
     for (; count > 0 && stream.status() == QDataStream::Ok; --count) {
         Change change;
         stream >> change.name >> change.offset >> change.bytes;
-        if (!isOwnName(change.name))
+        const bool isOurs = change.isLaid()
+                                ? isOwnPath(change.name) && isOwnName(QString::fromUtf8(change.bytes))
+                                : isOwnName(change.name);
+        if (!isOurs)
             return false;
         changes.push_back(change);
     }
@@ -207,20 +254,49 @@ bool ChangeSet::writePlaces(const DataFolder &folder, const Changes &changes, st
         names, [&](const QString &name) { return writeFile(folder, changes, name, formers); });
 }
 
+QString ChangeSet::waitingPath(const DataFolder &folder, const Change &change)
+{
+    if (change.isLaid())
+        return layingPath(folder) + u'/' + QString::fromUtf8(change.bytes);
+    return folder.filePath(change.name) + waitingSuffix;
+}
+
+/// A laid file's name was looked up when it was added: there may be thousands of them.
+QString ChangeSet::targetPath(const DataFolder &folder, const Change &change)
+{
+    return change.isLaid() ? folder.path() + u'/' + change.name : folder.filePath(change.name);
+}
+
+bool ChangeSet::takeName(const DataFolder &folder, const Change &change)
+{
+    const QString waiting = waitingPath(folder, change);
+    // One that does not wait any more has its name already.
+    if (!QFile::exists(waiting))
+        return true;
+    const QString path = targetPath(folder, change);
+    if (change.isLaid() && !QDir().mkpath(QFileInfo(path).path()))
+        return false;
+    // Its new content is complete on the disk: it does not matter whether this gets there.
+    if (!change.inBetween.isEmpty() && QFile::exists(path))
+        std::ignore = Disk::writeWhole(path, change.inBetween);
+    // Once more where another program had the file open for a moment: the other files may be new already.
+    return Disk::renameOver(waiting, path) || Disk::renameOver(waiting, path);
+}
+
 bool ChangeSet::takeNames(const DataFolder &folder, const Changes &changes)
 {
-    return std::ranges::all_of(changes, [&folder](const Change &change) {
-        const QString waiting = waitingPath(folder, change.name);
-        // One that does not wait any more has its name already.
-        if (!change.isWholeFile() || !QFile::exists(waiting))
-            return true;
-        const QString path = folder.filePath(change.name);
-        // Its new content is complete on the disk: it does not matter whether this gets there.
-        if (!change.inBetween.isEmpty() && QFile::exists(path))
-            std::ignore = Disk::writeWhole(path, change.inBetween);
-        // Once more where another program had the file open for a moment: the other files may be new already.
-        return Disk::renameOver(waiting, path) || Disk::renameOver(waiting, path);
-    });
+    QSet<QString> inside;
+    for (const Change &change : changes) {
+        if ((change.isWholeFile() || change.isLaid()) && !takeName(folder, change))
+            return false;
+        if (change.isLaid() && change.name.contains(u'/'))
+            inside.insert(QFileInfo(targetPath(folder, change)).path());
+    }
+    for (const QString &path : inside)
+        Disk::flushNames(path);
+    if (std::ranges::any_of(changes, &Change::isLaid))
+        QDir().rmdir(layingPath(folder));
+    return true;
 }
 
 /// Tries twice, as `takeNames` does.
@@ -282,13 +358,12 @@ bool ChangeSet::stage() const
     for (const Change &change : m_changes) {
         if (change.isInPlace())
             continue;
-        const QFileInfo original(m_folder.filePath(change.name));
-        if (original.exists() && !(original.isFile() && original.isWritable())) {
-            qCWarning(storageLog).noquote() << "Cannot replace" << original.filePath();
+        if (!isReplaceable(targetPath(m_folder, change)))
             return false;
-        }
         if (change.isWholeFile())
-            waiting.emplace_back(waitingPath(m_folder, change.name), change.bytes);
+            waiting.emplace_back(waitingPath(m_folder, change), change.bytes);
+        if (change.isLaid() && !QFile::exists(waitingPath(m_folder, change)))
+            return false;
     }
     return Disk::writeAllWhole(waiting);
 }
@@ -296,7 +371,8 @@ bool ChangeSet::stage() const
 bool ChangeSet::hasTakenNames() const
 {
     return std::ranges::any_of(m_changes, [this](const Change &change) {
-        return (change.isWholeFile() && !QFile::exists(waitingPath(m_folder, change.name))) ||
+        const bool isWaiting = change.isWholeFile() || change.isLaid();
+        return (isWaiting && !QFile::exists(waitingPath(m_folder, change))) ||
                (change.isGoing() && !m_folder.exists(change.name));
     });
 }
@@ -310,6 +386,6 @@ void ChangeSet::dropStaged() const
 {
     for (const Change &change : m_changes) {
         if (change.isWholeFile())
-            std::ignore = Disk::remove(waitingPath(m_folder, change.name));
+            std::ignore = Disk::remove(waitingPath(m_folder, change));
     }
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <system_error>
 
 namespace {
@@ -68,6 +69,20 @@ bool Disk::flush(QFile &file)
 {
     const bool isFlushed = file.flush() && SystemFile::flush(file.handle());
     return said(isFlushed && !isRefused(), "flush", file);
+}
+
+bool Disk::flushAll(const QString &folder, const QStringList &paths)
+{
+    if (const std::optional<bool> isFlushed = SystemFile::flushAll(folder)) {
+        const bool isDone = !isRefused() && *isFlushed;
+        if (!isDone)
+            qCWarning(storageLog).noquote() << "Cannot flush" << folder;
+        return isDone;
+    }
+    return std::ranges::all_of(paths, [](const QString &path) {
+        QFile file(path);
+        return said(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered), "flush", file) && flush(file);
+    });
 }
 
 void Disk::flushNames(const QString &path)

@@ -5,6 +5,7 @@
 #include <QByteArrayView>
 #include <QFile>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <utility>
@@ -25,6 +26,10 @@ namespace Disk {
 
 /// Puts what was written to `file` on the disk.
 [[nodiscard]] bool flush(QFile &file);
+
+/// Puts the files at `paths`, all of them written before, on the disk that the folder at `folder` lies on: in
+/// one step where the system has one for that.
+[[nodiscard]] bool flushAll(const QString &folder, const QStringList &paths);
 
 /// Puts the names of the folder at `path` on the disk. Without it a power cut may undo a rename or a removal,
 /// never tear a file.

@@ -81,7 +81,8 @@ bool FolderLock::lockFile()
         m_lock.error() == QLockFile::LockFailedError && m_lock.getLockInfo(&process, &host, &program);
     // A dead program's number may be given again, and to this one of all.
     const bool hasOwnNumber =
-        process == QCoreApplication::applicationPid() && host == QSysInfo::machineHostName();
+        process == QCoreApplication::applicationPid() &&
+        host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0; // Windows tells it in two ways
     if (isSigned && !hasOwnNumber)
         return false;
 

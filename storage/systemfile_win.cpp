@@ -40,6 +40,15 @@ bool SystemFile::flush(int handle)
     return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(handle)));
 }
 
+void SystemFile::startFlush(int, qint64, qint64) {}
+
+std::optional<bool> SystemFile::flushAll(const QString &)
+{
+    return std::nullopt;
+}
+
+void SystemFile::forget(int) {}
+
 void SystemFile::flushNames(const QString &) {}
 
 std::error_code SystemFile::renameOver(const QString &from, const QString &to)
@@ -53,6 +62,19 @@ std::error_code SystemFile::renameOver(const QString &from, const QString &to)
         QThread::msleep(pause);
     }
     return {};
+}
+
+std::span<const int> SystemFile::failuresWhenFull()
+{
+    constexpr int quotaExceeded = 1295; // ERROR_DISK_QUOTA_EXCEEDED, which not every header has
+    static constexpr int failures[] = {ERROR_DISK_FULL, ERROR_HANDLE_DISK_FULL, quotaExceeded};
+    return failures;
+}
+
+std::span<const int> SystemFile::failuresWhenProtected()
+{
+    static constexpr int failures[] = {ERROR_WRITE_PROTECT, ERROR_ACCESS_DENIED};
+    return failures;
 }
 
 QByteArray SystemFile::encodedPath(const QString &path)

@@ -120,6 +120,55 @@ private slots:
             [this] { return filesOf(m_test); });
     }
 
+    /// Whole files that others have laid down, into a folder that is not there yet, too.
+    void takesLaidFilesOrNoneAfterEveryFailure()
+    {
+        failAtEachStep(
+            m_test.folder(), [this] { init(); }, [this] { return layDown().commit(); },
+            [this] { return filesOf(m_test); });
+        QCOMPARE(m_test.bytes(u"Pictures/Anne.jpg"_s), "picture");
+    }
+
+    void leavesLaidFilesToTheNextStart()
+    {
+        failAtEachStep(
+            m_test.folder(), [this] { init(); },
+            [this] {
+                const DataFolder &folder = m_test.folder();
+                // Where that start is refused it, the one after it.
+                return layDown().leaveToNextStart() &&
+                       (ChangeSet::recover(folder) || ChangeSet::recover(folder));
+            },
+            [this] { return filesOf(m_test); });
+        init();
+        QVERIFY(layDown().leaveToNextStart());
+        QCOMPARE(m_test.bytes(whole), "old");
+        QVERIFY(ChangeSet::recover(m_test.folder()));
+        QCOMPARE(filesOf(m_test),
+                 (Files{{first, former}, {whole, "laid"}, {u"Pictures"_s, {}}, {second, "12345678"}}));
+    }
+
+    void reachesNothingOutsideTheFolder_data()
+    {
+        rows<QString, QString>({{"a folder above", u"1"_s, u"../Whole.Fil"_s},
+                                {"a folder above, inside", u"1"_s, u"Pictures/../../Whole.Fil"_s},
+                                {"a full path", u"1"_s, u"/tmp/Whole.Fil"_s},
+                                {"an empty step", u"1"_s, u"Pictures//Whole.Fil"_s},
+                                {"the folder itself", u"1"_s, u"."_s},
+                                {"what lies above", u"../1"_s, whole}});
+    }
+
+    void reachesNothingOutsideTheFolder()
+    {
+        const auto [laid, name] = row<QString, QString>();
+        ChangeSet set = layDown();
+        expectWarning("^Refused to write to ");
+        set.takeLaid(laid, name);
+        QVERIFY(!set.commit());
+        QVERIFY(ChangeSet::recover(m_test.folder()));
+        QCOMPARE(filesOf(m_test), before);
+    }
+
     void showsWhatStandsInBetween()
     {
         ChangeSet set(m_test.folder());
@@ -170,6 +219,7 @@ private:
         for (const QString &name :
              QDir(folder.folder().path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
             files[name] = folder.bytes(name);
+        files.remove(ChangeSet::layingFolder); // it belongs to those who lay files down
         return files;
     }
 
@@ -182,6 +232,20 @@ private:
         set.write(RecordFile(folder, second, 8), 1, "12345678");
         set.replace(whole, "new");
         set.write(RecordFile(folder, first, 8), 3, "bb");
+        return set;
+    }
+
+    /// A change with two files that lie there already.
+    ChangeSet layDown() const
+    {
+        if (!QDir(m_test.folder().path()).mkpath(ChangeSet::layingFolder))
+            QTest::qFail("no folder", __FILE__, __LINE__);
+        m_test.put(ChangeSet::layingFolder + u"/1"_s, "laid");
+        m_test.put(ChangeSet::layingFolder + u"/2"_s, "picture");
+        ChangeSet set(m_test.folder());
+        set.takeLaid(u"1"_s, whole);
+        set.takeLaid(u"2"_s, u"Pictures/Anne.jpg"_s);
+        set.write(RecordFile(m_test.folder(), second, 8), 1, "12345678");
         return set;
     }
 
