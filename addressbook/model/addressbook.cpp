@@ -83,6 +83,13 @@ bool isBroughtBack(const Trash::Item &item)
            item.pieces.front().bytes.size() <= addressLayout.size() && isEntry(item.pieces.front().bytes);
 }
 
+/// It names the entry as the file will hold it: composed, and cut to the width of its fields.
+QString lineOf(int record, QByteArrayView entryBytes)
+{
+    const AddressEntry stored = addressLayout.decode(entryBytes);
+    return IndexLine::make(stored[LastName], stored[FirstName], record);
+}
+
 AddressEntry withPictureMark(AddressEntry entry)
 {
     if (!entry.hasPicture())
@@ -142,13 +149,13 @@ AddressBook::Found AddressBook::open(QStringView line) const
     return found;
 }
 
-int AddressBook::nextFreeRecord() const
+int AddressBook::nextFreeRecord(int first) const
 {
     const RecordFile file = entries();
     const int last = std::min(file.recordCount(), overflowRecord);
-    int visited = firstRecord - 1;
+    int visited = first - 1;
     bool isFound = false;
-    file.forEach(firstRecord, [&](int record, QByteArrayView bytes) {
+    file.forEach(first, [&](int record, QByteArrayView bytes) {
         if (record > last)
             return false;
         visited = record;
@@ -218,17 +225,30 @@ void AddressBook::forEachLive(const std::function<bool(int, const AddressEntry &
 
 void AddressBook::forEachLiveRecord(const std::function<bool(int, QByteArrayView)> &visit) const
 {
+    forEachRecord(false, visit);
+}
+
+void AddressBook::forEachReadableRecord(const std::function<bool(int, QByteArrayView)> &visit) const
+{
+    forEachRecord(true, visit);
+}
+
+void AddressBook::forEachRecord(bool isLiveBeyondIndex,
+                                const std::function<bool(int, QByteArrayView)> &visit) const
+{
     std::vector<bool> isLive;
-    index().forEach(1, [&isLive](int record, QByteArrayView bytes) {
+    index().forEach(1, [&](int record, QByteArrayView bytes) {
         const QByteArrayView line = RecordValue::textBytes(bytes);
-        isLive.push_back(record >= firstRecord && !line.isEmpty() && !IndexLine::isDeleted(line));
+        const bool isCut = isLiveBeyondIndex && bytes.size() < lineRecordLength;
+        isLive.push_back(record >= firstRecord && (isCut || !line.isEmpty()) && !IndexLine::isDeleted(line));
         return record < overflowRecord;
     });
     entries().forEach(firstRecord, [&](int record, QByteArrayView bytes) {
         const auto at = std::size_t(record - 1);
-        if (at >= isLive.size())
+        if (record > overflowRecord || (at >= isLive.size() && !isLiveBeyondIndex))
             return false;
-        return !isLive[at] || !isEntry(bytes) || visit(record, bytes);
+        const bool isHere = at >= isLive.size() || isLive[at];
+        return !isHere || !isEntry(bytes) || visit(record, bytes);
     });
 }
 
@@ -242,22 +262,27 @@ AddressBook::SaveResult AddressBook::write(int record, QByteArrayView entryBytes
 {
     if (!isEntryRecord(record))
         return {};
-    // The line names the entry as the file will hold it: composed, and cut to the width of its fields.
-    const AddressEntry stored = addressLayout.decode(entryBytes);
     SaveResult result;
     result.record = record;
-    result.line = keptLine.isEmpty() ? IndexLine::make(stored[LastName], stored[FirstName], record)
-                                     : RecordValue::decodeText(keptLine);
-    const auto line = keptLine.isEmpty() ? RecordValue::encodeText(result.line, lineRecordLength)
-                                         : std::optional(keptLine.toByteArray());
-    result.isLineTooLong = !line;
-
-    put(change, entries(), record, entryBytes, deletedEntry());
-    if (line)
-        put(change, index(), record, *line, deletedLine());
+    if (keptLine.isEmpty()) {
+        result.line = lineOf(record, entryBytes);
+        result.isLineTooLong = !RecordValue::encodeText(result.line, lineRecordLength);
+        add(change, record, entryBytes);
+    } else {
+        result.line = RecordValue::decodeText(keptLine);
+        put(change, entries(), record, entryBytes, deletedEntry());
+        put(change, index(), record, keptLine, deletedLine());
+    }
     result.isSaved = change.commit(m_folder);
     result.change = std::move(change);
     return result;
+}
+
+void AddressBook::add(RecordChange &change, int record, QByteArrayView entryBytes) const
+{
+    put(change, entries(), record, entryBytes, deletedEntry());
+    if (const auto line = RecordValue::encodeText(lineOf(record, entryBytes), lineRecordLength))
+        put(change, index(), record, *line, deletedLine());
 }
 
 std::vector<Trash::Item> AddressBook::deletedEntries(const QDateTime &now) const

@@ -70,9 +70,9 @@ public:
     /// The entry that `line` leads to, and whether it may be changed through it.
     Found open(QStringView line) const;
 
-    /// The number that the next new entry takes; 0 when the entries cannot be read to their end, and beyond
-    /// `overflowRecord` when the book is full.
-    int nextFreeRecord() const;
+    /// The number that the next new entry takes, from `first` on; 0 when the entries cannot be read to their
+    /// end, and beyond `overflowRecord` when the book is full.
+    int nextFreeRecord(int first = firstRecord) const;
 
     /// Writes `entry` to the first free record, and its line: both or, when the disk refuses, neither. The
     /// last name is not checked here. One that the disk refused in the middle has a record, which is
@@ -94,6 +94,10 @@ public:
     /// a new entry takes; it then leaves the trash.
     SaveResult bringBack(const Trash::Item &item);
 
+    /// Adds to `change` that an entry of these bytes stands in `record`, with its line unless that is too
+    /// long.
+    void add(RecordChange &change, int record, QByteArrayView entryBytes) const;
+
     /// Visits the live entries in record order, in one pass over each file; the visitor returns false to
     /// stop. An entry is live when its own record of the index holds a line.
     void forEachLive(const std::function<bool(int record, const AddressEntry &entry)> &visit) const;
@@ -101,7 +105,11 @@ public:
     /// The same with the bytes of the entry: at most 724, fewer at the end of the file.
     void forEachLiveRecord(const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
 
-    /// The same of the records `first` to `last`. False when the files end before the last.
+    /// The same, and the entries for which the index is too short to have a record at all: that is a damaged
+    /// one, or has lost the line of a long name at its end.
+    void forEachReadableRecord(const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
+
+    /// The live ones of the records `first` to `last`. False when the files end before the last.
     bool visitLiveRecords(int first, int last,
                           const std::function<void(int record, QByteArrayView bytes)> &visit) const;
 
@@ -116,6 +124,8 @@ private:
     SaveResult write(int record, const AddressEntry &entry);
     /// A line that was kept from before is written as it was.
     SaveResult write(int record, QByteArrayView entryBytes, QByteArrayView keptLine, RecordChange change);
+    void forEachRecord(bool isLiveBeyondIndex,
+                       const std::function<bool(int record, QByteArrayView bytes)> &visit) const;
     /// Whether nothing would be lost of what a file holds, were an entry written to `record`.
     bool isRecordFree(int record) const;
     /// The bytes of an entry; empty where none stands.

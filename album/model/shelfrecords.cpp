@@ -49,14 +49,14 @@ void ShelfRecords::Use::count(Kind kind, int by)
         m_ours += by;
 }
 
-QList<int> ShelfRecords::Use::free(qsizetype count, int last) const
+QList<int> ShelfRecords::Use::free(qsizetype count, int last, const QSet<int> &named) const
 {
     QList<int> numbers;
     numbers.reserve(count);
     for (int number = 1; number <= last && numbers.size() < count; ++number) {
         const bool isKnown = std::size_t(number) <= m_kinds.size();
         const Kind kind = isKnown ? m_kinds[std::size_t(number) - 1] : Never;
-        if (kind == Never || kind == Free)
+        if ((kind == Never || kind == Free) && !named.contains(number))
             numbers.append(number);
     }
     return numbers;
@@ -133,15 +133,16 @@ const PhotoAlbum *ShelfRecords::album(int record) const
 
 std::vector<PhotoPlace> ShelfRecords::places(int album) const
 {
-    const auto all = std::ranges::equal_range(m_places, album, {}, &PhotoPlace::album);
+    const auto first = std::ranges::lower_bound(m_places, album, {}, &PhotoPlace::album);
+    const auto end = std::ranges::upper_bound(m_places, album, {}, &PhotoPlace::album);
     std::vector<PhotoPlace> places;
-    places.reserve(all.size());
+    places.reserve(std::size_t(end - first));
     std::vector<bool> isIn(m_photos.empty() ? 0 : std::size_t(m_photos.back().record) + 1);
-    for (const PhotoPlace &place : all) {
-        if (!m_photoUse.isUsed(place.photo) || isIn[std::size_t(place.photo)])
+    for (auto place = first; place != end; ++place) {
+        if (!m_photoUse.isUsed(place->photo) || isIn[std::size_t(place->photo)])
             continue;
-        isIn[std::size_t(place.photo)] = true;
-        places.push_back(place);
+        isIn[std::size_t(place->photo)] = true;
+        places.push_back(*place);
     }
     return places;
 }
@@ -156,10 +157,15 @@ std::vector<PhotoPlace> ShelfRecords::placesOf(int photo) const
 
 QList<int> ShelfRecords::freePhotos(qsizetype count) const
 {
-    return m_photoUse.free(count, PhotoFile::lastRecord);
+    QSet<int> named;
+    for (const PhotoPlace &place : m_places)
+        named.insert(place.photo);
+    for (const PhotoAlbum &album : m_albums)
+        named.insert(album.cover);
+    return m_photoUse.free(count, PhotoFile::lastRecord, named);
 }
 
 QList<int> ShelfRecords::freePlaces(qsizetype count) const
 {
-    return m_placeUse.free(count, AlbumFile::lastRecord);
+    return m_placeUse.free(count, AlbumFile::lastRecord, {});
 }

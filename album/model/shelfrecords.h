@@ -6,6 +6,7 @@
 
 #include <QByteArrayView>
 #include <QList>
+#include <QSet>
 
 #include <vector>
 
@@ -36,7 +37,8 @@ public:
     /// All places, also those that lead nowhere, by album and order.
     const std::vector<PhotoPlace> &allPlaces() const { return m_places; }
 
-    /// The lowest `count` numbers that are free for pictures; fewer where there are no more.
+    /// The lowest `count` numbers that are free for pictures; fewer where there are no more. What an album
+    /// still names of pictures that were lost is not free: another picture would inherit it.
     QList<int> freePhotos(qsizetype count) const;
     /// The same for albums and places.
     QList<int> freePlaces(qsizetype count) const;
@@ -56,7 +58,8 @@ private:
         void set(int number, Kind kind);
         /// What a record is that holds nothing of ours.
         static Kind kindOf(QByteArrayView bytes);
-        QList<int> free(qsizetype count, int last) const;
+        /// Those that are free but for the `named` ones.
+        QList<int> free(qsizetype count, int last, const QSet<int> &named) const;
         int damaged() const { return m_damaged; }
         bool isForeign() const { return m_damaged > 0 && m_ours == 0; }
         bool isUsed(int number) const

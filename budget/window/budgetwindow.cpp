@@ -17,12 +17,10 @@
 #include "budget/window/yearsdesk.h"
 #include "shell/controls/activitybar.h"
 #include "shell/controls/buttonrow.h"
-#include "shell/core/framelines.h"
 #include "shell/core/helpcontexts.h"
 #include "shell/core/place.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/undostack.h"
-#include "shell/frame/windowtoolbar.h"
 #include "shell/frame/workviews.h"
 
 #include <QMenu>
@@ -129,20 +127,12 @@ void Budget1::addOptionCommands(QMenu *menu)
 
 void Budget1::addUtilityCommands(QMenu *menu)
 {
-    QAction *backup = commands().add(
-        menu, u"mUB"_s, u"&Backup Files to Disk"_s, [this] { backUp(); },
-        [this] {
-            if (!program().functions.has(Function::Backup))
-                return FrameLines::backupNotThere();
-            return m_year->hasFile() ? QString() : BudgetLines::nothingToBackUp(m_year->year());
-        });
-    menu->addAction(standard(Standard::Restore));
+    menu->addActions({standard(Standard::Backup), standard(Standard::Restore)});
     menu->addSeparator();
     m_print->addExportCommand(commands(), menu);
     m_spentDesk->addImport(menu);
     connect(menu, &QMenu::aboutToShow, this, [this] { commands().refresh(); });
-    commands().tool(backup, "backup-command"_L1, u"Backup"_s);
-    toolbar().giveWay(backup);
+    addStandardTool(Standard::Backup);
 }
 
 void Budget1::makeFoot()
@@ -283,6 +273,16 @@ Message Budget1::leaveQuestion() const
     return BudgetMessages::saveBeforeExiting(m_year->year());
 }
 
+Message Budget1::backupQuestion() const
+{
+    return BudgetMessages::saveBeforeBackup(m_year->year());
+}
+
+QString Budget1::whyNothingToBackUp() const
+{
+    return m_year->hasFile() ? QString() : BudgetLines::nothingToBackUp(m_year->year());
+}
+
 Message Budget1::replaceQuestion() const
 {
     return BudgetMessages::saveBeforeUndo(m_year->year());
@@ -324,16 +324,6 @@ void Budget1::copyYear()
     }
     m_year->copyToNext();
     m_sheet->setFocus();
-}
-
-void Budget1::backUp()
-{
-    if (isModified()) {
-        const Answer answer = ask(BudgetMessages::saveBeforeBackup(m_year->year()));
-        if (answer != Answer::No && (answer != Answer::Yes || !save()))
-            return;
-    }
-    program().functions.open(Function::Backup, program());
 }
 
 void Budget1::viewTotals()

@@ -23,6 +23,7 @@ public:
     explicit Budget1(Program &program, QWidget *parent = nullptr);
 
     bool isModified() const override;
+    QString whyNothingToBackUp() const override;
 
     /// Shows the row of `place` in its year, where unsaved work lets it: what is due in its month, or the
     /// amount with its date where its record is the year.
@@ -33,6 +34,7 @@ protected:
     void drop() override;
     Message leaveQuestion() const override;
     Message replaceQuestion() const override;
+    Message backupQuestion() const override;
     void filesChanged() override;
 
 private:
@@ -50,7 +52,6 @@ private:
     void saveByCommand();
     void chooseYear(int year);
     void copyYear();
-    void backUp();
     void viewTotals();
     void warnOfLimit();
 

@@ -144,7 +144,8 @@ CarFiles::Placed CarFiles::create(const CarRecord &record, const QDateTime &now)
     const Vehicle vehicle{slot, record.vehicle.name.trimmed()};
     if (slot == 0 || whyNotNamed(vehicle.name))
         return {};
-    CarChange change = inFreeSlot(slot, now);
+    CarChange change;
+    clear(change, slot, now);
     VehicleSheet sheet = record.sheet;
     if (!vehicles().isEmpty())
         sheet.unit = unit();
@@ -228,16 +229,26 @@ CarFiles::Placed CarFiles::bringBack(const Trash::Item &item)
     const int slot = isFree ? listed.number : list.freeSlot();
     if (slot == 0)
         return {};
-    CarChange change = inFreeSlot(slot, item.deleted);
-    change.setRecord(m_folder, slot, listed.bytes);
-    for (const CarPart part : carParts) {
-        const QString name = VehicleFiles::fileName(part, listed.number);
-        const auto piece = std::ranges::find(item.pieces, name, &Trash::Piece::file);
-        const QByteArray bytes = piece == item.pieces.end() ? VehicleFiles::emptied() : piece->bytes;
-        begin(change, part, slot, part == CarPart::Sheet ? inUnitOfAll(bytes) : bytes);
-    }
+    CarChange change;
+    placeIn(change, slot, item);
     change.bringBack(item);
     return placed({slot, VehicleList::decode(listed.bytes)}, std::move(change));
+}
+
+void CarFiles::placeIn(CarChange &change, int slot, const Trash::Item &item) const
+{
+    clear(change, slot, item.deleted);
+    change.setRecord(m_folder, slot, item.pieces.front().bytes);
+    for (const CarPart part : carParts)
+        begin(change, part, slot, bytesOf(item, part).value_or(VehicleFiles::emptied()));
+}
+
+void CarFiles::replaceBy(CarChange &change, const Trash::Item &item) const
+{
+    for (const CarPart part : carParts) {
+        if (const std::optional<QByteArray> bytes = bytesOf(item, part))
+            begin(change, part, item.pieces.front().number, *bytes);
+    }
 }
 
 QStringList CarFiles::files(const DataFolder &folder)
@@ -286,13 +297,20 @@ void CarFiles::begin(CarChange &change, CarPart part, int slot, const QByteArray
         replace(change, part, slot, bytes);
 }
 
-CarChange CarFiles::inFreeSlot(int slot, const QDateTime &deleted) const
+void CarFiles::clear(CarChange &change, int slot, const QDateTime &deleted) const
 {
-    CarChange change;
     const Vehicle left{slot, nameOf(VehicleFiles(m_folder).readSheet(slot).value)};
     if (Trash::Item item = trashItem(left, deleted); item.pieces.size() > 1)
         change.throwAway(std::move(item));
-    return change;
+}
+
+std::optional<QByteArray> CarFiles::bytesOf(const Trash::Item &item, CarPart part) const
+{
+    const QString name = VehicleFiles::fileName(part, item.pieces.front().number);
+    const auto piece = std::ranges::find(item.pieces, name, &Trash::Piece::file);
+    if (piece == item.pieces.end())
+        return {};
+    return part == CarPart::Sheet ? inUnitOfAll(piece->bytes) : piece->bytes;
 }
 
 QByteArray CarFiles::inUnitOfAll(const QByteArray &bytes) const

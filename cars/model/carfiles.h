@@ -77,6 +77,12 @@ public:
     /// into the first that is.
     Placed bringBack(const Trash::Item &item);
 
+    /// Adds to `change` that a car, as the trash would have it, stands in a free slot: byte for byte but for
+    /// the unit. What the files there still held goes into the trash.
+    void placeIn(CarChange &change, int slot, const Trash::Item &item) const;
+    /// Adds that the car of that slot becomes such a one, but for files that it does not have.
+    void replaceBy(CarChange &change, const Trash::Item &item) const;
+
     /// The files of all cars that are there.
     static QStringList files(const DataFolder &folder);
     /// The pictures of the cars that are there, as full paths.
@@ -86,8 +92,10 @@ private:
     void replace(CarChange &change, CarPart part, int slot, const QByteArray &bytes) const;
     /// The same in a slot that a car gets: a file that would be empty is not made.
     void begin(CarChange &change, CarPart part, int slot, const QByteArray &bytes) const;
-    /// A change that begins with what the files of a free slot still hold: it goes into the trash.
-    CarChange inFreeSlot(int slot, const QDateTime &deleted) const;
+    /// Adds that what the files of a free slot still hold goes into the trash.
+    void clear(CarChange &change, int slot, const QDateTime &deleted) const;
+    /// What such a car has in the file of `part`; nothing where it has none.
+    std::optional<QByteArray> bytesOf(const Trash::Item &item, CarPart part) const;
     /// The bytes of an information file, with distances counted as in those of the other cars.
     QByteArray inUnitOfAll(const QByteArray &bytes) const;
     Trash::Item trashItem(const Vehicle &vehicle, const QDateTime &now) const;

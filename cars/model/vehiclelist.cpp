@@ -43,7 +43,7 @@ QString VehicleList::name(int slot) const
     return decode(file().read(slot));
 }
 
-int VehicleList::freeSlot() const
+int VehicleList::freeSlot(int after) const
 {
     const RecordFile list = file();
     const int last = list.recordCount();
@@ -51,14 +51,14 @@ int VehicleList::freeSlot() const
     int slot = 0;
     list.forEach(1, [&](int number, QByteArrayView record) {
         seen = number;
-        if (decode(record).isEmpty())
+        if (number > after && decode(record).isEmpty())
             slot = number;
         return slot == 0;
     });
     if (slot > 0)
         return slot;
     const bool isInTheWay = last == 0 && QFileInfo::exists(list.path()) && !QFileInfo(list.path()).isFile();
-    return seen == last && !isInTheWay ? last + 1 : 0;
+    return seen == last && !isInTheWay ? std::max(last, after) + 1 : 0;
 }
 
 bool VehicleList::isFreeName(QStringView name)

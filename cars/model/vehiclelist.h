@@ -28,8 +28,9 @@ public:
     /// The name in `slot`; empty where it is free.
     QString name(int slot) const;
 
-    /// The first free slot, or the one past the last; 0 when the list is there and cannot be read.
-    int freeSlot() const;
+    /// The first free slot behind `after`, or the one past the last; 0 when the list is there and cannot be
+    /// read.
+    int freeSlot(int after = 0) const;
 
     /// Whether the list would take a record of this name for a free one.
     static bool isFreeName(QStringView name);

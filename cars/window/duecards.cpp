@@ -34,11 +34,10 @@ void DueCards::show(const QList<CarNeed> &needs, const DueCard::Words &words)
     m_count = int(needs.size());
     while (m_cards.size() < std::size_t(m_count)) {
         auto *card = new DueCard(int(m_cards.size()), this);
-        if (!m_cards.empty())
-            setTabOrder(m_cards.back()->button(), card->button());
+        if (QWidget *before = m_cards.empty() ? m_before : m_cards.back()->button())
+            setTabOrder(before, card->button());
         connect(card, &DueCard::clicked, this, [this, card] { emit chosen(card->need()); });
         card->setFlat(m_isFlat);
-        card->setPalette({}); // made late, it would have the colours of the window and not of its panel
         m_cards.push_back(card);
     }
     for (int i = 0; i < m_count; ++i)

@@ -17,6 +17,8 @@ class DueCards final : public QWidget
 public:
     explicit DueCards(QWidget *parent = nullptr);
 
+    /// Tab comes to their buttons behind `before`.
+    void setTabBehind(QWidget *before) { m_before = before; }
     void show(const QList<CarNeed> &needs, const DueCard::Words &words);
     /// At most so many rows.
     void setRows(int rows);
@@ -44,6 +46,7 @@ private:
     void place();
 
     std::vector<DueCard *> m_cards; ///< made when first needed, and kept
+    QWidget *m_before = nullptr;
     bool m_isFlat = false;
     int m_mostRows = 2;
     int m_count = 0; ///< of those that stand for something

@@ -67,6 +67,7 @@ DueView::DueView(const CarDesk &desk)
     m_advice->setFont(TypeScale::body());
     m_advice->setWordWrap(true);
     titleLine().addAtRight(m_odometer);
+    m_cards->setTabBehind(m_odometer);
     m_heading = makeScheduleHeading();
     auto *rows = new WholeRows(m_schedule, nullptr, this);
     rows->setGivesWay(true);

@@ -180,7 +180,6 @@ KindBoxes &EntryForm::boxes(EntryKind kind)
     if (!boxes) {
         boxes = new KindBoxes(kind, {m_program.state.dateStyle, m_program.clock}, m_picker, this);
         m_kindPlace->addWidget(boxes);
-        boxes->setPalette({}); // those of the panel: its labels were made before they stood on it
         connect(boxes, &KindBoxes::edited, this, &EntryForm::edited);
         connect(boxes, &KindBoxes::said, this, &EntryForm::said);
         connect(boxes, &KindBoxes::copyWanted, this, &EntryForm::copyWanted);

@@ -133,6 +133,11 @@ inline QString backupNotThere()
     return u"Backup is not part of this edition yet"_s;
 }
 
+inline QString nothingToBackUp()
+{
+    return u"Nothing has been saved here yet"_s;
+}
+
 inline QString firstPage()
 {
     return u"This is the first page"_s;

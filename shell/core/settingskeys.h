@@ -65,12 +65,19 @@ inline constexpr TextSetting journalColor{colorFile3, 212};
 inline constexpr TextSetting journalTextColor{colorFile3, 213};
 inline constexpr TextSetting calendarColor{colorFile3, 214};
 inline constexpr TextSetting calendarTextColor{colorFile3, 215};
+inline constexpr TextSetting backupColor{colorFile3, 216};
 
 /// Minutes without key or mouse after which what the password guards is covered; anything but these is the
 /// usual.
 inline constexpr NumberSetting idleMinutes{colorFile3, 210};
 inline constexpr std::array idleMinutesOffered{1, 5, 10, 30};
 inline constexpr int usualIdleMinutes = 10;
+
+/// Days after which another backup is due; anything but these, and not `neverReminded`, is the usual.
+inline constexpr NumberSetting backupReminderDays{colorFile3, 217};
+inline constexpr std::array backupReminderDaysOffered{7, 14, 30};
+inline constexpr int usualBackupReminderDays = 30;
+inline constexpr int neverReminded = -1;
 
 /// The records that a program-wide colour update gives one value to, file by file.
 inline constexpr std::array<int, 18> programColors1{10, 11, 12, 13, 16, 17, 18, 22, 27,
@@ -81,7 +88,8 @@ inline constexpr std::array<int, 10> programColors3{8, 17, 91, 92, 100, 101, 102
 /// The windows' own colours, which would outrank a program-wide one: the update gives them its value, too.
 inline constexpr std::array windowColors{
     addressEntryColor,    budgetColor, passwordKeeperColor, helpColor, plannerColor, addressViewerColor,
-    addressPicturesColor, carColor,    weightColor,         toDoColor, journalColor, calendarColor};
+    addressPicturesColor, carColor,    weightColor,         toDoColor, journalColor, calendarColor,
+    backupColor};
 
 /// The program-wide record that a window falls back to when its own is empty or "Default".
 inline constexpr TextSetting addressEntryProgramColor{colorFile1, 10};
@@ -96,5 +104,6 @@ inline constexpr TextSetting toDoProgramColor{colorFile1, 22};
 inline constexpr TextSetting passwordKeeperProgramColor{colorFile1, 27};
 inline constexpr TextSetting journalProgramColor{colorFile1, 32};
 inline constexpr TextSetting calendarProgramColor{colorFile1, 36};
+inline constexpr TextSetting backupProgramColor{colorFile1, 38};
 
 } // namespace SettingsKeys

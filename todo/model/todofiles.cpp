@@ -89,15 +89,27 @@ ToDoSheet ToDoFiles::read(DateStyle style, QDate today) const
     return open(style, today).former;
 }
 
-bool ToDoFiles::save(const ToDoSheet &sheet) const
+std::array<QByteArray, 3> ToDoFiles::contents(const ToDoSheet &sheet) const
 {
     const QByteArray active = ActiveFile::make(sheet);
     const QByteArray there = contentOf(m_folder, activeName).value_or(QByteArray());
     const QByteArray digest = ActiveFile::digest(active);
     const QByteArray own = sheet.toFile(digest, there == active ? digest : ActiveFile::digest(there));
+    return {own, ActiveFile::makeNames(sheet), active};
+}
+
+bool ToDoFiles::save(const ToDoSheet &sheet) const
+{
     ChangeSet change(m_folder);
-    replaceChanged(change, m_folder, ownName, own);
-    replaceChanged(change, m_folder, namesName, ActiveFile::makeNames(sheet));
-    replaceChanged(change, m_folder, activeName, active);
+    const auto contents = this->contents(sheet);
+    for (std::size_t i = 0; i < contents.size(); ++i)
+        replaceChanged(change, m_folder, names()[qsizetype(i)], contents[i]);
     return change.commit();
+}
+
+void ToDoFiles::addTo(WholeFilesChange &change, const ToDoSheet &sheet) const
+{
+    const auto contents = this->contents(sheet);
+    for (std::size_t i = 0; i < contents.size(); ++i)
+        change.replace(m_folder, names()[qsizetype(i)], contents[i]);
 }

@@ -3,10 +3,13 @@
 
 #include "shell/core/programstate.h"
 #include "storage/datafolder.h"
+#include "storage/wholefileschange.h"
 #include "todo/model/todosheet.h"
 
 #include <QDate>
 #include <QStringList>
+
+#include <array>
 
 /// The To Do list's files in a folder: its own, `ToDo1.Fil`, which is the authority, and the two that other
 /// programs read.
@@ -39,7 +42,12 @@ public:
     /// Writes those of the three files that have changed, all of them or none. False, with a line in the log,
     /// where the disk refuses.
     [[nodiscard]] bool save(const ToDoSheet &sheet) const;
+    /// Adds to `change` what `save` would write.
+    void addTo(WholeFilesChange &change, const ToDoSheet &sheet) const;
 
 private:
+    /// What the three files hold then, in the order of `names`.
+    std::array<QByteArray, 3> contents(const ToDoSheet &sheet) const;
+
     const DataFolder &m_folder;
 };

@@ -87,6 +87,16 @@ QStringList PersonFiles::unlisted() const
     return names;
 }
 
+QStringList PersonFiles::empty() const
+{
+    QStringList names;
+    for (const QString &file : QDir(m_folder.path()).entryList({u'*' + ending}, QDir::Files)) {
+        if (QFileInfo(m_folder.path() + u'/' + file).size() == 0)
+            names.append(file.chopped(ending.size()));
+    }
+    return names;
+}
+
 PersonFiles::Found PersonFiles::read(const QString &name) const
 {
     Found found;
@@ -185,18 +195,30 @@ std::optional<Message> PersonFiles::whyNotNew(const QString &name, const QString
     return isThere && !isSame ? std::optional(WeightMessages::nameTaken(text)) : std::nullopt;
 }
 
-std::optional<WeightChange> PersonFiles::create(const WeightSheet &sheet)
+QString PersonFiles::freeName(const QString &name, const QStringList &listed) const
+{
+    QString free = name;
+    for (int number = 2;
+         whyNotNew(free) == WeightMessages::nameTaken(free) || PersonList::place(listed, free) > 0;
+         ++number) {
+        const QString end = u' ' + QString::number(number);
+        free = name.left(longestName - end.size()) + end; // or the file would have no name
+    }
+    return free;
+}
+
+std::optional<WholeFilesChange> PersonFiles::create(const WeightSheet &sheet)
 {
     const QString name = trimmed(sheet.field(WeightSheet::Name));
     if (whyNotNew(name))
         return {};
-    WeightChange change;
+    WholeFilesChange change;
     change.replace(m_folder, fileName(name), encode(sheet));
     writeList(change, names() + QStringList(name));
     return done(std::move(change));
 }
 
-std::optional<WeightChange> PersonFiles::save(const QString &name, const WeightSheet &sheet)
+std::optional<WholeFilesChange> PersonFiles::save(const QString &name, const WeightSheet &sheet)
 {
     const QString after = trimmed(sheet.field(WeightSheet::Name));
     QStringList listed = names();
@@ -205,7 +227,7 @@ std::optional<WeightChange> PersonFiles::save(const QString &name, const WeightS
         qCWarning(storageLog).noquote() << "Refused to write" << fileName(name);
         return {};
     }
-    WeightChange change;
+    WholeFilesChange change;
     const bool isRenamed = after != listed[place - 1];
     if (isRenamed && whyNotNew(after, name))
         return {};
@@ -221,19 +243,19 @@ std::optional<WeightChange> PersonFiles::save(const QString &name, const WeightS
     return done(std::move(change));
 }
 
-std::optional<WeightChange> PersonFiles::addToList(const QStringList &names)
+std::optional<WholeFilesChange> PersonFiles::addToList(const QStringList &names)
 {
     QStringList listed = PersonList(m_folder).names();
     for (const QString &name : names) {
         if (PersonList::place(listed, name) == 0 && !whyNotNamed(name))
             listed.append(trimmed(name));
     }
-    WeightChange change;
+    WholeFilesChange change;
     writeList(change, listed);
     return done(std::move(change));
 }
 
-std::optional<WeightChange> PersonFiles::remove(const QString &name, const QDateTime &now)
+std::optional<WholeFilesChange> PersonFiles::remove(const QString &name, const QDateTime &now)
 {
     QStringList listed = names();
     const int place = PersonList::place(listed, name);
@@ -241,7 +263,7 @@ std::optional<WeightChange> PersonFiles::remove(const QString &name, const QDate
         return {};
     Trash::Item item{trashKind, now, listed[place - 1], {}};
     item.pieces.push_back({PersonList::fileName(), place, PersonList::encode({listed[place - 1]})});
-    WeightChange change;
+    WholeFilesChange change;
     // What bears such a name is a file of another function.
     if (!whyNotNamed(name)) {
         change.replace(m_folder, fileName(name), {});
@@ -267,13 +289,8 @@ PersonFiles::BroughtBack PersonFiles::bringBack(const Trash::Item &item)
     if (!isBroughtBack(item))
         return {};
     const Trash::Piece &listed = item.pieces.front();
-    const QString former = PersonList::decode(listed.bytes).front();
-    QString name = former;
-    for (int number = 2; whyNotNew(name) == WeightMessages::nameTaken(name); ++number) {
-        const QString end = u' ' + QString::number(number);
-        name = former.left(longestName - end.size()) + end; // or the file would have no name
-    }
-    WeightChange change;
+    const QString name = freeName(PersonList::decode(listed.bytes).front());
+    WholeFilesChange change;
     if (item.pieces.size() > 1 && !whyNotNamed(name))
         change.replace(m_folder, fileName(name), item.pieces[1].bytes);
     QStringList after = names();
@@ -288,7 +305,7 @@ QStringList PersonFiles::files(const DataFolder &folder)
 {
     QStringList files{PersonList::fileName(), ToldFigures::fileName()};
     const PersonFiles persons(folder);
-    for (const QString &name : persons.names() + persons.unlisted()) {
+    for (const QString &name : persons.names() + persons.unlisted() + persons.empty()) {
         if (!whyNotNamed(name))
             files.append(fileName(name));
     }
@@ -313,12 +330,12 @@ QStringList PersonFiles::pictures(const DataFolder &folder)
     return pictures;
 }
 
-void PersonFiles::writeList(WeightChange &change, const QStringList &names) const
+void PersonFiles::writeList(WholeFilesChange &change, const QStringList &names) const
 {
     change.replace(m_folder, PersonList::fileName(), PersonList::encode(names));
 }
 
-void PersonFiles::renameTold(WeightChange &change, const QString &name, const QString &after) const
+void PersonFiles::renameTold(WholeFilesChange &change, const QString &name, const QString &after) const
 {
     QStringList told = ToldFigures::names(m_folder);
     const int place = PersonList::place(told, name);
@@ -331,7 +348,7 @@ void PersonFiles::renameTold(WeightChange &change, const QString &name, const QS
     change.replace(m_folder, ToldFigures::fileName(), PersonList::encode(told));
 }
 
-std::optional<WeightChange> PersonFiles::done(WeightChange change) const
+std::optional<WholeFilesChange> PersonFiles::done(WholeFilesChange change) const
 {
     if (!change.isEmpty() && !change.commit(m_folder))
         return {};

@@ -4,7 +4,7 @@
 #include "shell/core/message.h"
 #include "storage/datafolder.h"
 #include "storage/trash.h"
-#include "weight/model/weightchange.h"
+#include "storage/wholefileschange.h"
 #include "weight/model/weightsheet.h"
 
 #include <QDateTime>
@@ -39,8 +39,8 @@ public:
 
     /// How a deleted person was brought back.
     struct [[nodiscard]] BroughtBack {
-        QString name;        ///< their own, or one beside it where that was given away
-        WeightChange change; ///< to take it back
+        QString name;            ///< their own, or one beside it where that was given away
+        WholeFilesChange change; ///< to take it back
         bool isDone = false;
     };
 
@@ -67,35 +67,40 @@ public:
 
     /// Why no file can have that name; nothing where it can.
     static std::optional<Message> whyNotNamed(const QString &name);
+    /// `name`, or one beside it where that is given away: to a file, or to somebody in `listed`.
+    QString freeName(const QString &name, const QStringList &listed = {}) const;
     /// Why nobody can be added under that name, or `former` be renamed to it.
     std::optional<Message> whyNotNew(const QString &name, const QString &former = {}) const;
 
     /// Makes the file of a new person and adds them to the list. Nothing where the name or the disk refuses.
-    [[nodiscard]] std::optional<WeightChange> create(const WeightSheet &sheet);
+    [[nodiscard]] std::optional<WholeFilesChange> create(const WeightSheet &sheet);
     /// Writes the file of the person `name`; where the sheet has another name the file and the list take it.
     /// Nothing, with a line in the log, where the name or the disk refuses or the file must not be written.
-    [[nodiscard]] std::optional<WeightChange> save(const QString &name, const WeightSheet &sheet);
+    [[nodiscard]] std::optional<WholeFilesChange> save(const QString &name, const WeightSheet &sheet);
     /// Adds persons who have a file already. Nothing where the disk refuses.
-    [[nodiscard]] std::optional<WeightChange> addToList(const QStringList &names);
+    [[nodiscard]] std::optional<WholeFilesChange> addToList(const QStringList &names);
 
     /// Deletes the person's file and takes them from the list; they go into the trash. Nothing where the disk
     /// refuses.
-    [[nodiscard]] std::optional<WeightChange> remove(const QString &name, const QDateTime &now);
+    [[nodiscard]] std::optional<WholeFilesChange> remove(const QString &name, const QDateTime &now);
     /// The persons who were deleted in the 30 days before `now`, the newest first.
     std::vector<Trash::Item> deletedPersons(const QDateTime &now) const;
     /// Brings a deleted person back, byte for byte, to the place in the list that was theirs.
     BroughtBack bringBack(const Trash::Item &item);
 
-    /// The files of all persons that are there.
+    /// The files of all persons that are there. An empty one that can be a person's counts as one: where
+    /// nothing but names is known, as of the files of a backup, theirs are told by them.
     static QStringList files(const DataFolder &folder);
     /// The photos of all persons that are there, as full paths.
     static QStringList pictures(const DataFolder &folder);
 
 private:
-    void writeList(WeightChange &change, const QStringList &names) const;
+    /// What could be the names of persons, by the files without a byte.
+    QStringList empty() const;
+    void writeList(WholeFilesChange &change, const QStringList &names) const;
     /// Lets the card of a person tell what it told before; of nobody where `after` is empty.
-    void renameTold(WeightChange &change, const QString &name, const QString &after) const;
-    [[nodiscard]] std::optional<WeightChange> done(WeightChange change) const;
+    void renameTold(WholeFilesChange &change, const QString &name, const QString &after) const;
+    [[nodiscard]] std::optional<WholeFilesChange> done(WholeFilesChange change) const;
 
     const DataFolder &m_folder;
 };

@@ -40,13 +40,13 @@ std::optional<UndoStep> WeightPictures::relink(const DataFolder &folder, const Q
         }
         if (after == before)
             continue;
-        const std::optional<WeightChange> done = persons.save(name, after);
+        const std::optional<WholeFilesChange> done = persons.save(name, after);
         if (!done) {
             if (const UndoStep all = UndoSteps::joined({}, steps); all.undo)
                 std::ignore = all.undo();
             return {};
         }
-        const auto change = std::make_shared<WeightChange>(*done);
+        const auto change = std::make_shared<WholeFilesChange>(*done);
         steps.push_back({{},
                          [change, &folder] { return change->undo(folder); },
                          [change, &folder] { return change->redo(folder); }});

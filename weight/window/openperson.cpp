@@ -152,7 +152,7 @@ bool OpenPerson::write()
     return true;
 }
 
-std::optional<WeightChange> OpenPerson::saveNew()
+std::optional<WholeFilesChange> OpenPerson::saveNew()
 {
     if (!settleUncounted())
         return {};

@@ -57,7 +57,7 @@ public:
     /// the user would rather not.
     [[nodiscard]] bool save();
     /// Writes a file of its own under the name on the sheet, and opens it. Nothing when the disk refuses.
-    [[nodiscard]] std::optional<WeightChange> saveNew();
+    [[nodiscard]] std::optional<WholeFilesChange> saveNew();
     /// The names of its file, and of the list.
     QStringList fileNames() const;
 

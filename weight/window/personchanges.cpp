@@ -151,9 +151,9 @@ void PersonChanges::saveNewByCommand()
 }
 
 /// Says what was done, and offers to take it back.
-void PersonChanges::add(const QString &title, const WeightChange &change, const QString &name)
+void PersonChanges::add(const QString &title, const WholeFilesChange &change, const QString &name)
 {
-    m_hands.undo.push(title, std::make_shared<WeightChange>(change),
+    m_hands.undo.push(title, std::make_shared<WholeFilesChange>(change),
                       [this, name] { m_hands.openList(name); });
     emit said(FrameLines::withTrash(title, change.trashState()));
     m_hands.undo.offer();

@@ -59,7 +59,7 @@ private:
     void remove();
     void openTrash();
     void bringBack(const Trash::Item &item);
-    void add(const QString &title, const WeightChange &change, const QString &name);
+    void add(const QString &title, const WholeFilesChange &change, const QString &name);
     void refuseName(const Message &refusal);
     Answer ask(const Message &message) const;
 

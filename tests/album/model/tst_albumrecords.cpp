@@ -1,151 +1,114 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "album/model/albumfile.h"
-#include "album/model/photofile.h"
-#include "album/model/phototexts.h"
-#include "tests/album/model/albumbytes.h"
+#include "album/model/albumrecords.h"
+#include "album/model/photoshelf.h"
+#include "tests/support/recordsback.h"
 #include "tests/support/rows.h"
-#include "tests/support/testfiles.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-/// The records of `Photobk3.Fil` and `Photobk4.Fil`, byte by byte.
+namespace {
+
+Photo photoOf(const QString &path, const QString &caption, qint64 size = 0)
+{
+    Photo photo;
+    photo.path = path;
+    photo.caption = caption;
+    photo.size = size;
+    return photo;
+}
+
+/// Puts pictures onto the list of a folder and, with a name, into an album there.
+void make(const TestFolder &folder, const std::vector<Photo> &photos, const QString &album)
+{
+    PhotoShelf shelf(folder.folder());
+    shelf.load();
+    int number = 0;
+    if (!album.isEmpty()) {
+        PhotoAlbum made;
+        made.name = album;
+        number = shelf.addAlbum(made);
+    }
+    QVERIFY(photos.empty() || !shelf.addPhotos(photos, number).isEmpty());
+}
+
+const Photo sea = photoOf(u"Pictures/sea.jpg"_s, u"The sea"_s, 7);
+const Photo wood = photoOf(u"Pictures/wood.jpg"_s, {});
+const QStringList seaTold{u"sea.jpg, The sea"_s, u"File: Pictures/sea.jpg"_s, u"Caption: The sea"_s};
+const QStringList woodTold{u"wood.jpg"_s, u"File: Pictures/wood.jpg"_s};
+const QString album = u"\nSummer"_s;
+
+} // namespace
+
 class TestAlbumRecords : public QObject
 {
     Q_OBJECT
 private slots:
-    void keepsAPictureAsTheFileHasIt()
+    void init()
     {
-        const QByteArray bytes =
-            pictureBytes({{0, "PIC1"},
-                          {4, "/home/anne/Bilder/Gro\xc3\x9fmutter.jpg"},
-                          {516, "Anne and Karin at the lake"},
-                          {836, "It was cold.\nWe laughed."},
-                          {1796, "Lake"},
-                          {1876, "summer; water"},
-                          {2036, "Anne Lind; Karin"},
-                          {2292, "\x02"_ba},
-                          {2356, "1974~"},
-                          {2388, "\x03\x01\x04\x02"_ba},
-                          {2392, QByteArray("\xa0\x0f\0\0\xb8\x0b\0\0", 8)},
-                          {2400, QByteArray("\x40\x42\x0f\0\0\0\0\0\xff\xff\xff\xff\xff\xff\xff\xff", 16)},
-                          {2416, QByteArray(32, '\x5a')}});
-        Photo photo;
-        photo.record = 7;
-        photo.path = u"/home/anne/Bilder/Gro\u00dfmutter.jpg"_s;
-        photo.caption = u"Anne and Karin at the lake"_s;
-        photo.story = u"It was cold.\nWe laughed."_s;
-        photo.place = u"Lake"_s;
-        photo.tags = u"summer; water"_s;
-        photo.setPersons({{u"Anne Lind"_s, 2}, {u"Karin"_s, 0}});
-        photo.date = PhotoDate::fromEdtf("1974~");
-        photo.dateFrom = Photo::DateFrom::Typed;
-        photo.turns = 1;
-        photo.rating = 4;
-        photo.bits = Photo::LeftOutOfShows;
-        photo.width = 4000;
-        photo.height = 3000;
-        photo.size = 1000000;
-        photo.fileTime = -1;
-        photo.hash.fill(0x5a);
-        QVERIFY(PhotoFile::encode(photo) == bytes);
-        QVERIFY(PhotoFile::decode(7, bytes) == photo);
+        m_here = std::make_unique<TestFolder>();
+        m_there = std::make_unique<TestFolder>();
+        make(*m_there, {wood, sea}, u"Summer"_s);
     }
 
-    void keepsAnAlbumAndAPlace()
+    void tellsOfPicturesAndAlbums()
     {
-        const PhotoAlbum album{.record = 3,
-                               .order = 2048,
-                               .cover = 258,
-                               .sorting = PhotoAlbum::Sorting::ByName,
-                               .into = PhotoAlbum::Into::Beside,
-                               .name = u"Grandmother"_s,
-                               .folder = u"/pictures/grandmother"_s};
-        const QByteArray albumRecord = albumBytes({{0, "ALB1"},
-                                                   {4, QByteArray("\0\x08\0\0\x02\x01\0\0\x22", 9)},
-                                                   {16, "Grandmother"},
-                                                   {112, "/pictures/grandmother"}});
-        QVERIFY(AlbumFile::encode(album) == albumRecord);
-        QVERIFY(AlbumFile::decodeAlbum(3, albumRecord) == album);
-        QVERIFY(!AlbumFile::decodePlace(3, albumRecord));
-        const PhotoPlace place{.record = 4, .album = 3, .photo = 7, .order = 1024};
-        const QByteArray placeRecord =
-            albumBytes({{0, "PLC1"}, {4, QByteArray("\x03\0\0\0\x07\0\0\0\0\x04\0\0", 12)}});
-        QVERIFY(AlbumFile::encode(place) == placeRecord);
-        QVERIFY(AlbumFile::decodePlace(4, placeRecord) == place);
+        const QStringList albumTold{u"Album Summer"_s, wood.path, sea.path};
+        QCOMPARE(told(recordsOf(*m_there)), albumTold + woodTold + seaTold);
+        // A copy cut short, and noise.
+        m_there->put(u"Photobk3.Fil"_s, m_there->bytes(u"Photobk3.Fil"_s).left(2560 + 600));
+        QCOMPARE(recordsOf(*m_there).all().size(), std::size_t(3));
+        m_there->put(u"Photobk3.Fil"_s, noiseOf(6000));
+        QCOMPARE(told(recordsOf(*m_there)), QStringList(u"Album Summer"_s));
     }
 
-    void readsAnyBytes_data()
+    void bringsBack_data()
     {
-        rows<QByteArray, bool>({{"nothing", {}, false},
-                                {"a mark alone", "PIC1", true},
-                                {"cut in the path", "PIC1/home/a", true},
-                                {"noise", noiseOf(2560), false},
-                                {"noise behind the mark", "PIC1" + noiseOf(2556), true},
-                                {"deleted", pictureBytes({{0, "****"}}), false}});
+        using Photos = std::vector<Photo>;
+        const Photo other = photoOf(u"Pictures/sea.jpg"_s, u"A lake"_s, 9);
+        const Photo town = photoOf(u"Pictures/town.jpg"_s, {});
+        const QStringList townTold{u"town.jpg"_s, u"File: Pictures/town.jpg"_s};
+        rows<Photos, QString, QString, QStringList>({
+            {"an album with its pictures",
+             {},
+             {},
+             album,
+             QStringList{u"Album Summer"_s, wood.path, sea.path} + woodTold + seaTold},
+            {"an album, beside what came into it",
+             {town},
+             u"Summer"_s,
+             album,
+             QStringList{u"Album Summer"_s, town.path, wood.path, sea.path} + townTold + woodTold + seaTold},
+            {"a picture that was taken off the list", {wood}, {}, sea.path, woodTold + seaTold},
+            {"what was said of a picture", {town, other}, {}, sea.path, townTold + seaTold},
+        });
     }
-    void readsAnyBytes()
+    void bringsBack()
     {
-        const auto [bytes, isPicture] = row<QByteArray, bool>();
-        const std::optional<Photo> photo = PhotoFile::decode(1, bytes);
-        QCOMPARE(photo.has_value(), isPicture);
-        if (photo)
-            QVERIFY(photo->rating <= 5 && photo->turns <= 3 &&
-                    PhotoFile::encode(*photo).size() == PhotoFile::recordLength);
-    }
-
-    void cutsATextAtACharacterAndKnowsIt_data()
-    {
-        rows<QString, QString>(
-            {{"what fits", u"lake"_s, u"lake"_s},
-             {"exactly full", QString(20, u'a'), QString(20, u'a')},
-             {"letters", QString(21, u'a'), QString(17, u'a') + u'\u2026'},
-             {"accents", QString(11, u'\u00e9'), QString(8, u'\u00e9') + u'\u2026'},
-             {"an accent by itself", u"aaaaaaaaaaaaaaaae\u0301aa"_s + u"bbb"_s, u"aaaaaaaaaaaaaaaa\u2026"_s},
-             {"no half of a face", u"\U0001F600\U0001F600\U0001F600\U0001F600\U0001F600\U0001F600"_s,
-              u"\U0001F600\U0001F600\U0001F600\U0001F600\u2026"_s}});
-    }
-    void cutsATextAtACharacterAndKnowsIt()
-    {
-        const auto [text, kept] = row<QString, QString>();
-        QCOMPARE(PhotoTexts::cut(text, 20), kept);
-        QCOMPARE(PhotoTexts::isCut(kept, 20), kept != text);
-        QCOMPARE(PhotoTexts::fits(text, 20), kept == text);
-    }
-
-    void refusesPathsThatWouldComeOutAsOthers_data()
-    {
-        rows<QString, bool>({{"plain", u"/pictures/a.jpg"_s, true},
-                             {"with a line end", u"/pictures/a\nb.jpg"_s, true},
-                             {"not composed", u"/pictures/e\u0301.jpg"_s, true},
-                             {"512 bytes", QString(512, u'a'), true},
-                             {"513 bytes", QString(513, u'a'), false},
-                             {"half of a pair", u"/pictures/"_s + QChar(0xD800), false},
-                             {"none", {}, false}});
-    }
-    void refusesPathsThatWouldComeOutAsOthers()
-    {
-        const auto [path, fits] = row<QString, bool>();
-        QCOMPARE(PhotoTexts::fitsPath(path), fits);
-        Photo photo;
-        photo.path = path;
-        const std::optional<Photo> read = PhotoFile::decode(1, PhotoFile::encode(photo));
-        QCOMPARE(read && read->path == path, fits || path.isEmpty());
+        const auto [photos, name, key, texts] = row<std::vector<Photo>, QString, QString, QStringList>();
+        make(*m_here, photos, name);
+        const QStringList before = told(recordsOf(*m_here));
+        AlbumRecords records = recordsOf(*m_here);
+        const RecordsBack back = records.bringBack(recordsOf(*m_there), {key});
+        QCOMPARE(back.refusal, QString());
+        QCOMPARE(back.keys, QStringList(key));
+        QCOMPARE(told(records), texts);
+        PhotoShelf shelf(m_here->folder());
+        shelf.load();
+        const Photo *photo = shelf.photoAt(sea.path);
+        const bool wasThere = !photos.empty() && photos.back().path == sea.path;
+        QVERIFY(photo && photo->size == (wasThere ? 9 : 7)); // what its file is like now is known here
+        QCOMPARE(back.step->undo(), ChangeResult::Done);
+        QCOMPARE(told(records), before);
+        QCOMPARE(back.step->redo(), ChangeResult::Done);
+        QCOMPARE(told(records), texts);
     }
 
-    void keepsListsOfNames()
-    {
-        Photo photo;
-        photo.setTags({u"  summer "_s, u"a;b"_s, {}, u"summer"_s});
-        QCOMPARE(photo.tags, u"summer; a,b"_s);
-        QCOMPARE(photo.tagList(), QStringList({u"summer"_s, u"a,b"_s}));
-        QList<PhotoPerson> many;
-        for (int i = 1; i <= 18; ++i)
-            many.append({u"P%1"_s.arg(i), i});
-        photo.setPersons(many);
-        QCOMPARE(photo.persons().at(15), (PhotoPerson{u"P16"_s, 16}));
-        QCOMPARE(photo.persons().at(16), (PhotoPerson{u"P17"_s, 0})); // beyond those that can lead anywhere
-    }
+private:
+    static AlbumRecords recordsOf(const TestFolder &folder) { return {folder.folder(), DateStyle::Other}; }
+
+    std::unique_ptr<TestFolder> m_here;
+    std::unique_ptr<TestFolder> m_there;
 };
 
-QTEST_APPLESS_MAIN(TestAlbumRecords)
+QTEST_GUILESS_MAIN(TestAlbumRecords)
 #include "tst_albumrecords.moc"

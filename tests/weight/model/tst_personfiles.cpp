@@ -201,7 +201,7 @@ private slots:
         sheet.currentPicture = u"C:\\a.jpg"_s;
         sheet.weighIns.append({u"01/05/2026"_s, u"152."_s});
         Files expected = filesOf(m_test);
-        std::optional<WeightChange> change = m_persons.create(sheet);
+        std::optional<WholeFilesChange> change = m_persons.create(sheet);
         QVERIFY(change);
         const Files before = expected;
         expected[u"Anne 2027.Fil"_s] =
@@ -293,7 +293,7 @@ private slots:
         // The file, the list and what the card may tell take another name at once.
         QVERIFY(ToldFigures::setTold(m_test.folder(), karin, true));
         sheet.field(WeightSheet::Name) = u"Karin Lind"_s;
-        std::optional<WeightChange> change = m_persons.save(karin, sheet);
+        std::optional<WholeFilesChange> change = m_persons.save(karin, sheet);
         QVERIFY(change);
         const Files former = expected;
         expected.insert(u"Karin Lind.Fil"_s, expected.take(u"Karin Holm.Fil"_s));
@@ -347,7 +347,7 @@ private slots:
     {
         QVERIFY(ToldFigures::setTold(m_test.folder(), zoe, true));
         const Files before = filesOf(m_test);
-        std::optional<WeightChange> change = m_persons.remove(zoe, now);
+        std::optional<WholeFilesChange> change = m_persons.remove(zoe, now);
         QVERIFY(change);
         Files expected = before;
         expected.remove(u"Zoë Marsh.Fil"_s);
@@ -435,6 +435,13 @@ private slots:
                  (QStringList{u"WeightTrker.Fil"_s, u"Karin Holm.Fil"_s, u"Nils Holm 2026.Fil"_s,
                               u"Zoë Marsh.Fil"_s, u"José Ortega.Fil"_s, u"Left.Fil"_s}));
         QVERIFY(PersonFiles::files(TestFolder().folder()).isEmpty());
+        // By names alone, nothing that is another function's.
+        const TestFolder names;
+        for (const QString &name :
+             {u"WeightTrker.Fil"_s, u"Karin Holm.Fil"_s, u"2026.Fil"_s, u"Addbk1.Fil"_s})
+            names.put(name, {});
+        QCOMPARE(PersonFiles::files(names.folder()),
+                 (QStringList{u"WeightTrker.Fil"_s, u"Karin Holm.Fil"_s}));
         QVERIFY(PersonFiles::pictures(m_test.folder()).isEmpty());
         // Under another spelling, where the folder is a different one.
         m_test.put(u"Jose Before.jpg"_s, "picture");
