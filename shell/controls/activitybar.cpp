@@ -81,7 +81,7 @@ ActivityBar::ActivityBar(const Clock &clock, const DateStyle &dateStyle, QWidget
     , m_undo(makeLink(u"statusUndo"_s, u"Undo"_s))
     , m_lock(makeLink(u"statusLock"_s, u"Lock Now"_s))
     , m_progress(named(new QProgressBar(this), u"statusProgress"_s))
-    , m_stop(named(new QPushButton(u"&Stop"_s, this), u"statusStop"_s))
+    , m_stop(named(new QPushButton(u"S&top"_s, this), u"statusStop"_s))
     , m_date(named(new QLabel(this), u"statusDate"_s))
     , m_time(named(new QLabel(this), u"Label4"_s))
     , m_timer(named(new QTimer(this), u"Timer2"_s))

@@ -87,13 +87,15 @@ void ListRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
                               : theme.disabledText);
     painter->setFont(row.font);
     painter->drawText(place, int(Qt::AlignVCenter | (row.displayAlignment & Qt::AlignHorizontal_Mask)),
-                      row.fontMetrics.elidedText(row.text, Qt::ElideRight, place.width()));
+                      row.fontMetrics.elidedText(row.text, row.textElideMode, place.width()));
 }
 
 bool ListRowDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
                                   const QStyleOptionViewItem &option, const QModelIndex &index)
 {
-    const bool isTickable = index.flags() & Qt::ItemIsUserCheckable;
+    // The items of a QListWidget may be ticked by their flags, though they show no tick.
+    const bool isTickable =
+        (index.flags() & Qt::ItemIsUserCheckable) && index.data(Qt::CheckStateRole).isValid();
     if (!isTickable || event->type() != QEvent::MouseButtonRelease)
         return isTickable && event->type() == QEvent::MouseButtonDblClick
                    ? true

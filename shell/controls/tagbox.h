@@ -11,5 +11,16 @@ class TagBox final : public QLineEdit
 public:
     TagBox(const QString &name, QWidget *parent, QChar separator = u',');
 
+    /// Of these the list offers what does not stand in the box already.
     void setOffered(const QStringList &tags);
+
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+
+private:
+    void offerOthers();
+
+    const QChar m_separator;
+    QStringList m_offered;
+    QObject *m_listener = nullptr; ///< to what is chosen from the list
 };

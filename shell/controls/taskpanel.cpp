@@ -7,6 +7,7 @@
 #include "shell/controls/titleline.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,6 +19,19 @@ QString stem(const QString &name)
 {
     constexpr auto ending = "Panel"_L1;
     return name.endsWith(ending) ? name.chopped(ending.size()) : name;
+}
+
+/// Words that have no room beside the buttons stand above them.
+QLabel *makeToldAbove(const ButtonRow &foot, const QString &name, QWidget *parent)
+{
+    QLabel *told = named(makeQuietLabel({}, parent), name);
+    told->setWordWrap(true);
+    told->hide();
+    QObject::connect(&foot, &ButtonRow::wordsLeftOut, told, [told](const QString &words) {
+        told->setText(words);
+        told->setVisible(!words.isEmpty());
+    });
+    return told;
 }
 
 } // namespace
@@ -34,6 +48,7 @@ TaskPanel::TaskPanel(const QString &name, const QString &title, QWidget *parent)
     TaskPanel::setLow(low->isLow());
     m_rows->addWidget(m_title);
     m_rows->addWidget(makeLine(this));
+    m_rows->addWidget(makeToldAbove(*m_foot, stem(name) + u"Told"_s, this));
     m_rows->addWidget(m_foot);
 }
 

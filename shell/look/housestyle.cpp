@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/look/housestyle.h"
 
+#include <QAbstractButton>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -16,6 +17,7 @@ constexpr double corner = 6;
 constexpr int buttonHeight = 36;
 constexpr int boxHeight = 34;
 constexpr int buttonPadding = 15;
+constexpr double leastRimContrast = 3;
 
 bool isMain(const QWidget *widget)
 {
@@ -67,6 +69,16 @@ HouseStyle::HouseStyle(const Theme &theme)
     , m_theme(theme)
 {}
 
+/// Beneath a style sheet a widget takes no colours from a parent that was given its style before.
+void HouseStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    const QWidget *parent = widget->parentWidget();
+    if (parent && !widget->isWindow() && parent->testAttribute(Qt::WA_WState_Polished) &&
+        !widget->testAttribute(Qt::WA_SetPalette) && widget->palette() != parent->palette())
+        widget->setPalette({});
+}
+
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                                const QWidget *widget) const
 {
@@ -80,8 +92,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
     case PE_IndicatorMenuCheckMark:
         return drawTick(*painter, option->rect, option->palette.color(QPalette::Text));
     case PE_FrameFocusRect:
-        return drawRounded(*painter, QRectF(option->rect).adjusted(-2, 0, 2, 0), 4, Qt::transparent,
-                           m_theme.accent, 2);
+        return drawFocus(*option, *painter, widget);
     default:
         painter->setRenderHint(QPainter::Antialiasing, false);
         QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -211,6 +222,19 @@ void HouseStyle::drawButton(const QStyleOption &option, QPainter &painter, const
     drawRounded(painter, rect, corner, fill, option.palette.color(ThemeRole::mainRim), 1);
     if (focused)
         drawRounded(painter, rect.adjusted(2, 2, -2, -2), corner - 1, Qt::transparent, m_theme.onAccent, 2);
+}
+
+/// On a panel in a colour of the user's the accent may hardly be seen: the ink can be.
+void HouseStyle::drawFocus(const QStyleOption &option, QPainter &painter, const QWidget *widget) const
+{
+    QRectF rect = QRectF(option.rect).adjusted(-2, 0, 2, 0);
+    QColor rim = m_theme.accent;
+    if (qobject_cast<const QAbstractButton *>(widget)) {
+        rect &= QRectF(widget->rect());
+        if (contrast(rim, option.palette.color(QPalette::Window)) < leastRimContrast)
+            rim = option.palette.color(ThemeRole::mainRim);
+    }
+    drawRounded(painter, rect, 4, Qt::transparent, rim, 2);
 }
 
 void HouseStyle::drawCheckBox(const QStyleOption &option, QPainter &painter) const

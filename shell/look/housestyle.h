@@ -16,6 +16,10 @@ class HouseStyle final : public QProxyStyle
 public:
     explicit HouseStyle(const Theme &theme);
 
+    /// Hands the colours of a panel on to what is put onto it when it is shown already.
+    void polish(QWidget *widget) override;
+    using QProxyStyle::polish;
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -32,6 +36,7 @@ public:
 
 private:
     void drawButton(const QStyleOption &option, QPainter &painter, const QWidget *widget) const;
+    void drawFocus(const QStyleOption &option, QPainter &painter, const QWidget *widget) const;
     void drawCheckBox(const QStyleOption &option, QPainter &painter) const;
     void drawRadioButton(const QStyleOption &option, QPainter &painter) const;
     void drawBox(const QStyleOption &option, QPainter &painter) const;

@@ -78,6 +78,10 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QScrollArea { background: transparent; border: 0; }
 QAbstractScrollArea::corner { background: transparent; border: 0; }
 QSplitter::handle { background: transparent; }
+QSlider::groove:horizontal { background: @handle; height: 4px; border-radius: 2px; }
+QSlider::handle:horizontal { background: @field; border: 1px solid @edge; border-radius: 8px; width: 14px; margin: -6px 0; }
+QSlider::handle:horizontal:hover { background: @soft; }
+QSlider::handle:horizontal:focus { background: @mark; border: 2px solid @accent; width: 12px; }
 QProgressBar { background: @locked; border: 1px solid @edge; border-radius: 6px; text-align: center;
     min-height: 16px; max-height: 18px; }
 QProgressBar::chunk { background: @soft; border-radius: 5px; }

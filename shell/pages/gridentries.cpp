@@ -19,6 +19,27 @@ bool isTallerThan(double height, const GridFrame &frame, const GridLine &line, d
     return leastLines * frame.pitch() > height + frame.pitch();
 }
 
+/// Whether a word of `text` is wider than that and would be torn.
+bool tearsWords(const PageType &type, const QString &text, double width)
+{
+    const QStringList words = text.split(u' ');
+    return std::ranges::any_of(words,
+                               [&](const QString &word) { return type.wrappedFast(word, width).size() > 1; });
+}
+
+/// Wraps anew behind the first line, for lines that hang. Where a word has no room beside that, they do not.
+void indent(LaidLine &laid, const PageType &type, double indent, double room)
+{
+    const QString &text = laid.line->text;
+    const QString first = laid.words.constFirst();
+    const QString rest = text.mid(first.size()).trimmed();
+    const bool isHidden = !text.startsWith(first) || rest.isEmpty(); // by what cannot be printed as it is
+    if (isHidden || (tearsWords(type, rest, room - indent) && !tearsWords(type, rest, room)))
+        return;
+    laid.indent = indent;
+    laid.words = QStringList(first) + type.wrappedFast(rest, room - indent);
+}
+
 } // namespace
 
 GridEntries::GridEntries(const GridFrame &frame, const QList<GridLine> &lines, qsizetype first, double width)
@@ -82,10 +103,8 @@ LaidLine GridEntries::wrapped(const GridFrame &frame, const GridLine &line, doub
     laid.lead = line.tone > 0 ? square * frame.points() : 0;
     const double room = width - laid.lead;
     laid.words = type.wrappedFast(line.text, room);
-    if (laid.words.size() > 1 && further == Further::Indented) {
-        laid.indent = hanging * frame.points();
-        laid.words = type.wrappedFast(line.text, room - laid.indent);
-    }
+    if (laid.words.size() > 1 && further == Further::Indented)
+        indent(laid, type, hanging * frame.points(), room);
     return laid;
 }
 

@@ -263,7 +263,11 @@ void GridPainter::paintNumber(const GridFrame &frame, const LaidCell &cell) cons
     type.draw(m_painter, {cell.number.left(), y}, cell.number.width(), Qt::AlignHCenter, cell.cell->number);
     if (cell.cell->hasDot) {
         const double size = std::clamp(frame.numberPoints() * 0.2, 1.5, 3.0);
-        const QPointF at(cell.number.center().x(), y + type.baseline() + size * 1.5);
+        // Below the number or, in a low row, where it would be taken for a part of the next one, beside it.
+        const bool isBelow = y + type.baseline() + size * 2 <= cell.number.bottom();
+        const double beside = cell.number.center().x() + type.width(cell.cell->number) / 2 + size * 1.2;
+        const QPointF at = isBelow ? QPointF(cell.number.center().x(), y + type.baseline() + size * 1.5)
+                                   : QPointF(beside, y + type.baseline() - frame.numberPoints() * 0.35);
         round(QRectF(at - QPointF(size / 2, size / 2), QSizeF(size, size)), size / 2, GridColors::ink);
     }
 }

@@ -460,6 +460,9 @@ bool SheetFlow::placeClosing()
     if (!m_isFresh && top + gap + closingHeight() > lowest)
         return false;
     m_y = top + gap;
+    // In a book they would seem to belong to what stands above them.
+    if (m_layout.page().sheetNumbers() == SheetNumbers::Book)
+        m_y = std::max(m_y, m_bottom - closingHeight());
     drawRule(m_y + ruleGap / 2, thin, ruleColor);
     m_y += ruleGap;
     if (m_painter) {

@@ -10,7 +10,7 @@ class JpegHead
 {
 public:
     /// In this many bytes from the beginning nearly every camera has said all of it.
-    static constexpr qint64 usualBytes = 64 * 1024;
+    static constexpr qint64 usualBytes = 65'536;
 
     /// Reads the first bytes of a file; they may be any.
     static JpegHead of(const QByteArray &first);

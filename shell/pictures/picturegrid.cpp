@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 constexpr int wheelStep = 16;
@@ -52,7 +53,7 @@ void PictureGrid::setTiles(PictureTiles *tiles)
 
 void PictureGrid::startOver()
 {
-    m_isMarking = false;
+    setMarking(false);
     for (int row = 0; row < m_tiles->rowCount(); ++row)
         m_queue.want(m_tiles->picture(row), PictureQueue::Priority::Rest);
     m_seen->start(); // takes those in sight out of the rest again
@@ -106,7 +107,7 @@ void PictureGrid::readSeen()
     std::vector<WantedPicture> seen;
     std::vector<WantedPicture> next;
     seen.reserve(std::size_t(std::max(0, last - first)));
-    next.reserve(std::size_t(2 * perScreen));
+    next.reserve(2 * std::size_t(perScreen));
     for (int row = first; row < last; ++row)
         seen.push_back(m_tiles->picture(row));
     for (int row = last; row < std::min(count, last + perScreen); ++row)
@@ -136,8 +137,8 @@ void PictureGrid::choose(const QList<int> &rows)
         chosen.select(m_tiles->index(row), m_tiles->index(row));
     const QModelIndex first = rows.isEmpty() ? QModelIndex() : m_tiles->index(rows.first());
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    setMarking(rows.size() > 1);
     selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
-    m_isMarking = rows.size() > 1;
     if (first.isValid())
         scrollTo(first);
 }
@@ -173,6 +174,9 @@ void PictureGrid::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Space:
         mark();
         return;
+    case Qt::Key_Escape:
+        m_isMarking ? endMarking() : QListView::keyPressEvent(event);
+        return;
     default:
         if (isPlain && event->key() >= Qt::Key_0 && event->key() <= Qt::Key_9)
             emit digitTyped(event->key() - Qt::Key_0);
@@ -187,14 +191,36 @@ void PictureGrid::mark()
     if (!currentIndex().isValid())
         return;
     const bool isFirst = !m_isMarking && selectionModel()->selectedIndexes().size() <= 1;
-    m_isMarking = true;
+    setMarking(true);
     selectionModel()->select(currentIndex(),
                              isFirst ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::Toggle);
+    if (!selectionModel()->hasSelection())
+        setMarking(false);
+    emit choiceChanged(); // also where the first was chosen before it was marked
+}
+
+void PictureGrid::setMarking(bool isMarking)
+{
+    if (std::exchange(m_isMarking, isMarking) != isMarking)
+        emit markingChanged();
+}
+
+void PictureGrid::endMarking()
+{
+    choose({currentIndex().row()});
+    emit choiceChanged();
+}
+
+/// A letter goes to another picture, which is then the only one that is chosen.
+void PictureGrid::keyboardSearch(const QString &letters)
+{
+    setMarking(false);
+    QListView::keyboardSearch(letters);
 }
 
 void PictureGrid::mousePressEvent(QMouseEvent *event)
 {
-    m_isMarking = false;
+    setMarking(false);
     QListView::mousePressEvent(event);
 }
 

@@ -36,6 +36,10 @@ public:
     QList<int> chosenRows() const;
     /// Marks these rows and goes to the first of them.
     void choose(const QList<int> &rows);
+    /// Space has marked something, and arrow keys leave that so. Esc ends it, as does whatever chooses anew.
+    bool isMarking() const { return m_isMarking; }
+
+    void keyboardSearch(const QString &letters) override;
 
 signals:
     /// Another side was chosen with the mouse.
@@ -46,6 +50,8 @@ signals:
     void digitTyped(int digit);
     /// Other rows are marked, or another one is the current one.
     void choiceChanged();
+    /// Space has begun to mark, or what is marked is no longer kept.
+    void markingChanged();
 
 protected:
     bool event(QEvent *event) override;
@@ -64,11 +70,13 @@ private:
     void fitTiles();
     void readSeen();
     void mark();
+    void setMarking(bool isMarking);
+    void endMarking();
     int rowsInSight() const;
 
     PictureQueue &m_queue;
     PictureTiles *m_tiles = nullptr;
     QTimer *m_seen; ///< other rows are in sight
     int m_side = usualSide;
-    bool m_isMarking = false; ///< Space has marked something: arrow keys leave it so
+    bool m_isMarking = false;
 };

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 mebibyte = 1'048'576;
 /// More is never taken for one picture.
 constexpr qint64 mostBytes = 512 * mebibyte;
 /// Decoders that take more than this while they work have to wait for one another.
@@ -200,13 +200,21 @@ private:
                JpegHead::of(file.read(JpegHead::usualBytes)).isProgressive();
     }
 
-    /// What was read of a cut picture stays in the image. False when not all of it could be read.
+    /// What was read of a cut picture stays in the image, where its decoder fills it from the top and leaves
+    /// nothing else in it. False when not all of it could be read.
     bool decode(QImage &image)
     {
+        const QByteArray kind = m_reader.format();
+        if (kind == "png") { // which fills no lines that it does not come to
+            image = QImage(m_stored, m_reader.imageFormat());
+            image.fill(Qt::lightGray);
+        }
         const int before = QImageReader::allocationLimit();
         if (m_limit > before)
             QImageReader::setAllocationLimit(m_limit);
         const bool isWhole = m_reader.read(&image);
+        if (!isWhole && !QByteArrayList{"jpeg", "png", "gif"}.contains(kind))
+            image = {};
         image = ExifBlock::upright(image, m_orientation);
         if (m_limit > before)
             QImageReader::setAllocationLimit(before);

@@ -88,7 +88,7 @@ void PictureTileDelegate::paintPicture(QPainter &painter, const QRect &room, int
     if (kept.look == PictureQueue::Look::Away)
         paintSign(painter, place, "drive"_L1);
     else if (kept.look == PictureQueue::Look::Cut)
-        paintSign(painter, place, "due"_L1);
+        paintSign(painter, place, "warning"_L1);
 }
 
 /// What is still to come is a quiet field; what cannot be seen has a dashed rim and says why.

@@ -20,7 +20,7 @@ namespace {
 constexpr int quality = 80;
 /// The text in a thumbnail's file that marks a cut picture.
 const QString cutText = u"Cut"_s;
-constexpr qint64 secondsOfADay = 24 * 60 * 60;
+constexpr qint64 secondsOfADay = 86'400;
 
 QByteArray fileOf(const QImage &picture, bool isCut)
 {
@@ -48,6 +48,17 @@ void touch(QFile &file)
     QFile writable(file.fileName()); // some systems want it open for writing
     if (writable.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         writable.setFileTime(now, QFileDevice::FileModificationTime);
+}
+
+/// The name of a new file beside `path` that holds `bytes` and is not open any more: some systems rename no
+/// other. Empty where there is none.
+QString writtenBeside(const QString &path, const QByteArray &bytes)
+{
+    QTemporaryFile file(path + u".XXXXXX"_s);
+    if (bytes.isEmpty() || !file.open() || file.write(bytes) != bytes.size() || !file.flush())
+        return {};
+    file.setAutoRemove(false);
+    return file.fileName();
 }
 
 } // namespace
@@ -94,14 +105,13 @@ void Thumbnails::write(const ThumbnailKey &key, const QImage &picture, bool isCu
     const QByteArray bytes = fileOf(picture, isCut);
     const QString path = pathOf(key);
     // Written beside its place: whoever reads finds a whole one or none.
-    QTemporaryFile file(path + u".XXXXXX"_s);
-    if (bytes.isEmpty() || !file.open() || file.write(bytes) != bytes.size() || !file.flush())
+    const QString written = writtenBeside(path, bytes);
+    if (written.isEmpty())
         return;
-    file.close();
-    if (SystemFile::renameOver(file.fileName(), path))
-        return;
-    file.setAutoRemove(false);
-    count(bytes.size());
+    if (SystemFile::renameOver(written, path))
+        QFile::remove(written);
+    else
+        count(bytes.size());
 }
 
 void Thumbnails::count(qint64 bytes)
