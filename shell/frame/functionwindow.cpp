@@ -24,6 +24,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -137,6 +138,29 @@ bool FunctionWindow::saveToLeave()
     return !m_leaving || m_leaving->data != Answer::Yes;
 }
 
+bool FunctionWindow::mayBackUp()
+{
+    if (!isModified())
+        return true;
+    if (!Locking::maySee(*this, m_program))
+        return false;
+    const Answer answer = askAbout(backupQuestion());
+    return answer == Answer::No || (answer == Answer::Yes && save());
+}
+
+QString FunctionWindow::whyNothingToBackUp() const
+{
+    const std::optional<Function> function = m_program.functions.functionOf(*this);
+    const FunctionEntry *entry = function ? m_program.functions.entry(*function) : nullptr;
+    if (!entry || !entry->files)
+        return {};
+    const QStringList files = entry->files(m_program);
+    const bool isAnyFilled = std::ranges::any_of(files, [this](const QString &name) {
+        return QFileInfo(m_program.folder.existingFile({}, name)).size() > 0;
+    });
+    return isAnyFilled ? QString() : FrameLines::nothingToBackUp();
+}
+
 bool FunctionWindow::mayReplace(const Message &question)
 {
     if (!isModified())
@@ -166,7 +190,8 @@ bool FunctionWindow::focusNextPrevChild(bool next)
         return next ? each->nextInFocusChain() : each->previousInFocusChain();
     };
     for (QWidget *each = step(from); each != from; each = step(each)) {
-        const bool isStop = (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !each->focusProxy();
+        const bool isStop = (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !each->focusProxy() &&
+                            !each->size().isEmpty(); // of a page that gives way to what is shown
         if (!isStop || each == this || each->window() != this || !each->isVisibleTo(this) ||
             !each->isEnabled())
             continue;
@@ -347,6 +372,11 @@ void FunctionWindow::finishFrame()
 {
     SearchOverlay::addCommand(m_program, *m_commands, this, [this] { return !m_busy; });
     m_toolbar->complete(u"Toolbar1"_s + m_traits.name);
+    for (const QAction *entry : menuBar()->actions()) {
+        if (QMenu *menu = entry->menu())
+            connect(menu, &QMenu::aboutToShow, m_standard, &StandardCommands::lookAtFiles);
+    }
+    m_standard->lookAtFiles();
     m_refused->followMenus();
     new MenuFocus(menuBar());
     m_colors->load();
@@ -442,8 +472,10 @@ void FunctionWindow::filesSeen()
 void FunctionWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || m_watchedFiles.isEmpty() ||
-        Covering::isCovered(*this))
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    m_standard->lookAtFiles();
+    if (m_watchedFiles.isEmpty() || Covering::isCovered(*this))
         return;
     if (FileStamp now = FileStamp::of(m_program.folder, m_watchedFiles); now != m_seen) {
         m_seen = std::move(now);

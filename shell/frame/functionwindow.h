@@ -59,6 +59,12 @@ public:
     /// The window does not go after all: it asks again the next time.
     void stay() { m_leaving.reset(); }
 
+    /// Before the files are copied: Yes saves what was typed, No leaves it typed, Cancel stays. False: the
+    /// user stays.
+    [[nodiscard]] bool mayBackUp();
+    /// Why there is nothing to copy: none of the function's files has a byte. Empty where there is.
+    virtual QString whyNothingToBackUp() const;
+
     /// Shows `builder`'s page over the work area; Esc or "Close Preview" brings the work back.
     void showPreview(std::function<Page(const PageContext &)> builder, const QString &jobName);
     /// The same on a sheet that lies on its side at first.
@@ -79,6 +85,8 @@ protected:
     virtual Answer askToLeave() { return askAbout(leaveQuestion()); }
     /// The question in front of a step that is undone or done again; only asked while the window is modified.
     virtual Message replaceQuestion() const { return leaveQuestion(); }
+    /// The question in front of copying the files; only asked while the window is modified.
+    virtual Message backupQuestion() const { return leaveQuestion(); }
     /// Before something takes the place of unsaved work: Yes saves, No drops, Cancel stays. At the end of a
     /// desktop session nobody can go back, and there is no Cancel. False: the user stays.
     bool mayReplace(const Message &question);

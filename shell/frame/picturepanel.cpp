@@ -92,6 +92,7 @@ QWidget *PicturePanel::makeLists()
     m_driveList->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_folderList = makeList(u"Dir1"_s, this);
     m_fileList = makeList(u"File1"_s, this);
+    m_fileList->setTextElideMode(Qt::ElideMiddle); // names of cameras differ at their end
     m_fileList->setMinimumWidth(TypeScale::wide(leastFileWidth));
     auto *places = new QVBoxLayout;
     places->setSpacing(12);
@@ -208,6 +209,7 @@ void PicturePanel::showAlbum(int row)
     for (const QString &path : album.paths) {
         auto *item = new QListWidgetItem(QFileInfo(path).fileName(), m_fileList);
         item->setData(PathRole, path);
+        item->setToolTip(item->text());
     }
     previewFile();
 }
@@ -313,7 +315,7 @@ void PicturePanel::enterPicture()
     if (!m_preview->hasPicture())
         return;
     const QString path = QDir::toNativeSeparators(chosenFile());
-    if (!PictureFolder::isStorable(path, m_use.width)) {
+    if (m_use.width != PictureUse::anyPath && !PictureFolder::isStorable(path, m_use.width)) {
         emit said(m_use.notStorable);
         return;
     }

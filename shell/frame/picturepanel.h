@@ -21,6 +21,8 @@ struct PictureUse {
     qsizetype width;         ///< of the field that keeps the path, in bytes
     QString notStorable;     ///< what is said of a path that the field cannot keep
     QString nothingToDelete; ///< why there is no picture to be deleted
+
+    static constexpr qsizetype anyPath = 0; ///< a width for what is kept elsewhere than in a field
 };
 
 /// "Select Family/Friends Picture" and the like: drives, folders and picture files, with a preview. It starts
@@ -36,6 +38,8 @@ public:
 
     /// Reads drives and folders anew; `hasPicture`: there is one now, which may be deleted.
     void start(bool hasPicture);
+    /// Whether there was an album to choose from when it began.
+    bool hasAlbums() const { return !m_pictureAlbums.isEmpty(); }
 
     static QStringList systemDrives();
 

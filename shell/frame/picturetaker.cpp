@@ -3,6 +3,7 @@
 
 #include "shell/controls/busycursor.h"
 #include "shell/core/framelines.h"
+#include "shell/pictures/carriedpicture.h"
 #include "shell/pictures/pictureframe.h"
 #include "shell/pictures/picturelines.h"
 #include "shell/program/program.h"
@@ -24,21 +25,6 @@ namespace {
 
 /// Pixels of a picture that is kept as a copy, on its longer side.
 constexpr int greatestSide = 2400;
-
-/// The file that was dragged or copied; empty when it is none of this machine.
-QString fileIn(const QMimeData &data)
-{
-    for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile())
-            return url.toLocalFile();
-    }
-    return {};
-}
-
-bool mayHoldPicture(const QMimeData *data)
-{
-    return data && (data->hasImage() || !fileIn(*data).isEmpty());
-}
 
 bool isKindOfPanel(const QString &path)
 {
@@ -68,7 +54,7 @@ bool PictureTaker::eventFilter(QObject *watched, QEvent *event)
     case QEvent::DragEnter:
     case QEvent::DragMove: {
         auto &drag = *static_cast<QDropEvent *>(event);
-        if (!mayHoldPicture(drag.mimeData()))
+        if (!CarriedPicture::mayBeIn(drag.mimeData()))
             return false;
         drag.setDropAction(Qt::CopyAction); // the file stays where it comes from
         drag.accept();
@@ -101,7 +87,7 @@ void PictureTaker::take(const QMimeData &data)
     const BusyCursor busy;
     if (!m_load.isEnabled())
         emit said(m_load.statusTip());
-    else if (const QString file = fileIn(data); !file.isEmpty())
+    else if (const QString file = CarriedPicture::fileIn(data); !file.isEmpty())
         takeFile(file);
     else if (const QImage image = qvariant_cast<QImage>(data.imageData()); !image.isNull())
         keep(image.width() <= greatestSide && image.height() <= greatestSide

@@ -4,17 +4,16 @@
 #include "shell/core/framelines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
+#include "shell/frame/functionwindow.h"
 #include "shell/frame/panelcolors.h"
 #include "shell/program/program.h"
-
-#include <QWidget>
 
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 StandardCommands::StandardCommands(Program &program, Commands &commands, PanelColors &colors, int helpContext,
-                                   QWidget *window)
+                                   FunctionWindow *window)
     : QObject(window)
     , m_program(program)
     , m_commands(commands)
@@ -37,7 +36,6 @@ QAction *StandardCommands::make(Standard command)
                             Commands::Reason unless = {}, const QKeySequence &key = {}) {
         return m_commands.add(nullptr, name, caption, std::move(run), std::move(unless), key);
     };
-    const auto openBackup = [this] { m_program.functions.open(Function::Backup, m_program); };
     const auto noBackup = [this] {
         return m_program.functions.has(Function::Backup) ? QString() : FrameLines::backupNotThere();
     };
@@ -47,9 +45,23 @@ QAction *StandardCommands::make(Standard command)
     case Standard::TextColor:
         return m_commands.writing(add(u"mOTC"_s, u"&Text Color"_s, [this] { m_colors.chooseTextColor(); }));
     case Standard::Backup:
-        return add(u"mUB"_s, u"&Backup Files to Disk"_s, openBackup, noBackup);
+        return add(
+            u"mUB"_s, u"&Backup Files to Disk"_s,
+            [this] {
+                if (m_window->mayBackUp())
+                    openBackup(BackupPlace::Side::BackUp);
+            },
+            [this, noBackup] {
+                const QString why = noBackup();
+                // The first file may have come since; what is there does not go.
+                if (why.isEmpty() && !m_whyNoBackup.isEmpty())
+                    m_whyNoBackup = m_window->whyNothingToBackUp();
+                return why.isEmpty() ? m_whyNoBackup : why;
+            });
     case Standard::Restore:
-        return m_commands.writing(add(u"mUR"_s, u"&Restore Files from Disk"_s, openBackup, noBackup));
+        return m_commands.writing(add(
+            u"mUR"_s, u"&Restore Files from Disk"_s, [this] { openBackup(BackupPlace::Side::Restore); },
+            noBackup));
     case Standard::Help:
         return add(
             u"mH"_s, u"&Help"_s, [this] { emit m_program.changes.helpRequested(m_helpContext); }, {},
@@ -58,6 +70,26 @@ QAction *StandardCommands::make(Standard command)
         return add(u"mOEx"_s, u"E&xit"_s, [this] { m_window->close(); });
     }
     Q_UNREACHABLE();
+}
+
+/// The pictures and lists of the address book are copied with its entries.
+void StandardCommands::openBackup(BackupPlace::Side side) const
+{
+    std::optional<Function> function = m_program.functions.functionOf(*m_window);
+    if (function == Function::AddressViewer)
+        function = Function::AddressBook;
+    m_program.functions.open(Function::Backup, m_program, BackupPlace::of(side, function));
+}
+
+void StandardCommands::lookAtFiles()
+{
+    if (!m_made.contains(Standard::Backup))
+        return;
+    QString why = m_window->whyNothingToBackUp();
+    if (why == m_whyNoBackup)
+        return;
+    m_whyNoBackup = std::move(why);
+    m_commands.refresh();
 }
 
 void StandardCommands::addTool(Standard command, const QString &name)

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "shell/program/backupplace.h"
+
 #include <QObject>
+#include <QString>
 
 #include <map>
 
 class Commands;
+class FunctionWindow;
 class PanelColors;
 class QAction;
-class QWidget;
 struct Program;
 
 /// The commands that every window has, by their given names and captions.
@@ -28,10 +31,13 @@ class StandardCommands final : public QObject
 public:
     /// `window` is what Exit closes, `helpContext` the page of the manual that Help opens.
     StandardCommands(Program &program, Commands &commands, PanelColors &colors, int helpContext,
-                     QWidget *window);
+                     FunctionWindow *window);
 
-    /// Backup and restore say when there is none in this program.
+    /// Backup and restore say when there is none in this program; backup also when there is nothing to copy
+    /// yet, as of the last `lookAtFiles`.
     QAction *action(Standard command);
+    /// Looks whether there is something to copy.
+    void lookAtFiles();
     /// Puts the command on the toolbar, with its icon and word; a name makes it a tool of its own.
     void addTool(Standard command, const QString &name);
     /// "Main Menu", which stands first on the toolbar.
@@ -39,11 +45,13 @@ public:
 
 private:
     QAction *make(Standard command);
+    void openBackup(BackupPlace::Side side) const;
 
     Program &m_program;
     Commands &m_commands;
     PanelColors &m_colors;
     int m_helpContext;
-    QWidget *m_window;
+    FunctionWindow *m_window;
+    QString m_whyNoBackup;
     std::map<Standard, QAction *> m_made;
 };

@@ -7,6 +7,7 @@
 #include "shell/mainmenu/functionopener.h"
 #include "shell/mainmenu/menupicture.h"
 #include "shell/mainmenu/todaypanel.h"
+#include "shell/program/backupplace.h"
 #include "shell/program/program.h"
 
 #include <QTimer>
@@ -32,6 +33,8 @@ DayBoard::DayBoard(Program &program, MenuPicture &picture, const FunctionOpener 
     desk.setToday(m_today);
     desk.setFirstLook(m_firstLook);
     connect(m_firstLook, &FirstLook::addressWanted, this, [this] { m_opener.open(Function::AddressBook); });
+    connect(m_firstLook, &FirstLook::restoreWanted, this,
+            [this] { m_opener.open(Function::Backup, BackupPlace::of(BackupPlace::Side::Restore)); });
     connect(&desk, &CardDesk::opened, this, &DayBoard::open);
     connect(&desk, &CardDesk::dateClicked, this, &DayBoard::openToday);
     connect(m_today, &TodayPanel::opened, this,

@@ -87,8 +87,10 @@ FirstLook::FirstLook(Program &program, QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
-    const std::array names{u"firstLookName"_s, u"firstLookPicture"_s, u"firstLookAddress"_s};
-    const std::array texts{u"Name your family"_s, u"Choose a picture"_s, u"Type the first address"_s};
+    const std::array names{u"firstLookName"_s, u"firstLookPicture"_s, u"firstLookAddress"_s,
+                           u"firstLookRestore"_s};
+    const std::array texts{u"Name your family"_s, u"Choose a picture"_s, u"Type the first address"_s,
+                           u"Restore from a backup"_s};
     for (std::size_t step = 0; step < StepCount; ++step) {
         m_dashes[step] = new QLabel(u"-"_s, this);
         m_dashes[step]->setFont(lineFont());
@@ -105,6 +107,7 @@ FirstLook::FirstLook(Program &program, QWidget *parent)
     connect(m_links[Name], &Link::clicked, this, &FirstLook::nameWanted);
     connect(m_links[Picture], &Link::clicked, this, &FirstLook::pictureWanted);
     connect(m_links[Address], &Link::clicked, this, &FirstLook::addressWanted);
+    connect(m_links[Restore], &Link::clicked, this, &FirstLook::restoreWanted);
     connect(m_notNow, &Link::clicked, this, &FirstLook::sendAway);
     for (Link *link : {m_links[Name], m_links[Picture], m_links[Address], m_notNow})
         connect(link, &Link::walked, this, [this, link](int key) { walk(link, key); });
@@ -163,9 +166,17 @@ bool FirstLook::isDone(Step step) const
         return !m_program.state.familyName.isEmpty();
     case Picture:
         return !BackgroundChoice::ofRecord(m_program.settings.tagged(SettingsKeys::background)).isPlain();
+    case Restore:
+        return isBegun() || !m_program.functions.has(Function::Backup);
     default:
         break;
     }
+    return isBegun();
+}
+
+/// Whether there is an address, or nobody may know.
+bool FirstLook::isBegun() const
+{
     const FunctionEntry *book = m_program.functions.entry(Function::AddressBook);
     return !book || !book->names ||
            FunctionFaces::of(Function::AddressBook).isGuarded(m_program.state.protectedAreas) ||

@@ -34,18 +34,20 @@ signals:
     void nameWanted();
     void pictureWanted();
     void addressWanted();
+    void restoreWanted();
     /// An arrow key leads down and out of the line.
     void leftDownward();
     /// The line has come or gone.
     void changed();
 
 private:
-    enum Step { Name, Picture, Address, StepCount };
+    enum Step { Name, Picture, Address, Restore, StepCount };
 
     class Link;
 
     bool isNew() const;
     bool isDone(Step step) const;
+    bool isBegun() const;
     std::vector<Link *> shownLinks() const;
     void walk(const Link *link, int key);
     void sendAway();

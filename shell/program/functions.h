@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/core/daynote.h"
+#include "shell/core/functionrecords.h"
 #include "shell/core/knownperson.h"
 #include "shell/core/liveline.h"
 #include "shell/core/picturealbum.h"
@@ -84,6 +85,9 @@ struct FunctionEntry {
     std::function<QStringList(const Program &, const QString &person)> picturesOfPerson{};
     /// Whether its files are sealed with a password of its own; empty for a function whose files never are.
     std::function<bool(const Program &)> isSealed{};
+    /// Its records in `folder`, the household's own or a copy of it; empty for a function without any, null
+    /// where they are sealed.
+    std::function<std::unique_ptr<FunctionRecords>(const Program &, const DataFolder &folder)> records{};
 
     /// What the files that news and notes come from are like now.
     FileStamp liveStamp(const Program &program) const;

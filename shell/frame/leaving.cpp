@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/mainmenu/leaving.h"
+#include "shell/frame/leaving.h"
 
 #include "shell/frame/functionwindow.h"
 
 #include <algorithm>
 
-bool leaveAllWindows(const Program &program)
+bool leaveAllWindows(const Program &program, QWidget *except)
 {
-    const QList<QWidget *> windows = program.functions.openWindows();
+    QList<QWidget *> windows = program.functions.openWindows();
+    windows.removeAll(except);
     const auto each = [&windows](bool (FunctionWindow::*step)()) {
         return std::all_of(windows.begin(), windows.end(), [step](QWidget *window) {
             auto *functionWindow = qobject_cast<FunctionWindow *>(window);

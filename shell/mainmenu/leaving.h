@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: GPL-3.0-or-later
-#pragma once
-
-struct Program;
-
-/// Closes all windows of functions. Nothing is saved, dropped or closed before every window has agreed.
-/// False: one of them stays, and comes to the front.
-bool leaveAllWindows(const Program &program);
