@@ -46,6 +46,7 @@ CalendarHead headOf(const DataFolder &folder, int number)
     QByteArray bytes = file.read(headSize);
     if (file.error() != QFile::NoError)
         return head;
+    head.isEmpty = bytes.isEmpty();
     const TabLine::Form form = CalendarFile::formOf(bytes);
     head.state = form == TabLine::Foreign ? CalendarHead::Foreign
                  : form == TabLine::Later ? CalendarHead::Later

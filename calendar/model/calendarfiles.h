@@ -25,6 +25,7 @@ struct CalendarHead {
     int months = 0;
     CalendarLayout layout = CalendarLayout::Month;
     State state = Whole;
+    bool isEmpty = false; ///< there is nothing in the file
 
     bool isCalendar() const { return state == Whole || state == Later; }
     QDate lastDay() const { return from.addMonths(months).addDays(-1); }

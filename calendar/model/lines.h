@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 inline QString laterVersion()
 {
-    return u"This calendar was written by a later version of Quillery: it can be read, but not changed."_s;
+    return u"Written by a later version of Quillery: it can be read, but not changed."_s;
 }
 
 inline QString foreignFile(const QString &file)

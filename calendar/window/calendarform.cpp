@@ -130,7 +130,10 @@ void CalendarForm::addSheets(QVBoxLayout &column)
         m_paper->addItem(name, name);
     m_orientation->addItem(u"Upright"_s, false);
     m_orientation->addItem(u"Landscape"_s, true);
-    column.addLayout(rowOf({labelled(u"Layout"_s, m_layout), labelled(u"Style"_s, m_style)}));
+    auto *looks = rowOf({labelled(u"Layout"_s, m_layout), labelled(u"Style"_s, m_style)});
+    looks->setStretch(0, 3); // its longest name is shown whole in a narrow window
+    looks->setStretch(1, 2);
+    column.addLayout(looks);
     column.addLayout(rowOf({labelled(u"Paper"_s, m_paper), labelled(u"Orientation"_s, m_orientation)}));
     column.addLayout(rowOf({labelled(u"Font"_s, m_font), labelled(u"Size"_s, m_points)}));
 }
@@ -187,7 +190,7 @@ void CalendarForm::setCalendar(const WallCalendar &calendar, const HolidaySets &
 void CalendarForm::offerFonts(const CalendarLook &look)
 {
     m_font->clear();
-    m_font->addItem(u"As on other pages"_s, QString());
+    m_font->addItem(u"As elsewhere"_s, QString());
     for (const QString &family : QFontDatabase::families()) {
         if (!QFontDatabase::isPrivateFamily(family))
             m_font->addItem(family, family);

@@ -19,8 +19,8 @@ constexpr int monthWidth = 112;
 CalendarPrintPanel::CalendarPrintPanel(QWidget *parent)
     : PrintPanel(u"calendarPrint"_s, parent)
 {
-    what().add(u"All mon&ths"_s);
-    what().add(u"The &month shown"_s);
+    what().add(u"All &months"_s);
+    what().add(u"The month sho&wn"_s);
     what().add(u"&From"_s, makeRange());
     m_pages = compose();
     m_pdf = addButton(u"calendarPrintPdf"_s, u"Save &as PDF..."_s);

@@ -131,7 +131,7 @@ void CalendarsPane::refresh()
     m_rows->clear();
     for (const CalendarHead &head : m_calendars.heads()) {
         const QString words = head.from.isValid() ? CalendarWindowLines::monthsOf(head.from, head.months)
-                                                  : CalendarWindowLines::withoutMonths(head.state);
+                                                  : CalendarWindowLines::withoutMonths(head);
         const QString title = head.title.trimmed().isEmpty() ? CalendarWindowLines::untitled() : head.title;
         m_rows->appendRow(makeRow(title, words, head.number));
     }

@@ -292,7 +292,7 @@ void Calendar::showCalendar()
     const CalendarHead *head = m_calendars->head();
     QString why = isThere ? m_calendars->whyLocked() : QString();
     if (why.isEmpty() && head && !head->from.isValid())
-        why = CalendarWindowLines::emptyFile();
+        why = head->isEmpty ? CalendarWindowLines::emptyFile() : CalendarWindowLines::noFirstMonth();
     if (!why.isEmpty() || !isThere)
         activity().say(why);
     if (!isThere || !m_pane->isAncestorOf(focusWidget())) // one may walk through the list

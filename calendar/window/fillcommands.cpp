@@ -59,7 +59,9 @@ void FillCommands::fill()
     const FillPlan plan = m_panel->plan();
     const QString title = FillLines::filled(plan.summary.words());
     m_desk.views.goHome();
-    if (m_desk.calendars.change(title, plan.calendar))
+    if (plan.calendar == m_desk.calendars.calendar()) // no step, which the one before would be taken for
+        emit said(title);
+    else if (m_desk.calendars.change(title, plan.calendar))
         emit done(title);
     m_desk.page.setFocus();
 }

@@ -23,22 +23,6 @@ constexpr int lockSize = 16;
 /// The part of the row at column `column`.
 enum Column { Box, Count, From, Free };
 
-/// New parts take the colors of the panel that they stand on. It hands them on only when they change.
-void takeColors(const QWidget &part)
-{
-    QWidget *panel = part.parentWidget();
-    while (panel && !panel->testAttribute(Qt::WA_SetPalette))
-        panel = panel->parentWidget();
-    if (!panel)
-        return;
-    const QPalette colors = panel->palette();
-    QPalette others = colors;
-    others.setColor(QPalette::WindowText, colors.color(QPalette::Window));
-    others.setColor(ThemeRole::quiet, colors.color(QPalette::Window));
-    panel->setPalette(others);
-    panel->setPalette(colors);
-}
-
 } // namespace
 
 FillPanel::FillPanel(Program &program, QWidget *parent)
@@ -102,7 +86,6 @@ void FillPanel::showRows()
     m_none->setVisible(m_rows.isEmpty());
     const auto boxes = m_list->findChildren<QCheckBox *>(u"fillRow_0"_s);
     setFocusProxy(boxes.isEmpty() ? static_cast<QWidget *>(m_fill) : boxes.last());
-    takeColors(*m_list);
     orderTabs();
     showPlan();
 }
@@ -114,10 +97,8 @@ void FillPanel::addRow(int number)
     box->setChecked(row.isTicked);
     const QString count = row.isRead ? FillLines::countOfEntries(row.notes.size()) : QString();
     box->setAccessibleDescription(row.from + (count.isEmpty() ? QString() : QString(u", "_s + count)));
-    if (row.isGuarded) {
-        box->setIcon(Icons::icon("lock"_L1, Theme::of(this).scheme));
-        box->setIconSize({lockSize, lockSize});
-    }
+    if (row.isGuarded)
+        showLock(*box);
     m_grid->addWidget(box, number, Box);
     box->show(); // it may get the focus at once
     QLabel *counted = makeQuietLabel(count, m_list);
@@ -129,6 +110,24 @@ void FillPanel::addRow(int number)
     connect(
         box, &QCheckBox::clicked, this, [this, number](bool isOn) { tick(number, isOn); },
         Qt::QueuedConnection);
+}
+
+/// As it can be seen on the panel, which may be light where the desk is dark.
+void FillPanel::showLock(QCheckBox &box) const
+{
+    box.setIcon(Icons::icon("lock"_L1, Theme::of(palette()).scheme));
+    box.setIconSize({lockSize, lockSize});
+}
+
+void FillPanel::changeEvent(QEvent *event)
+{
+    TaskPanel::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || !m_list)
+        return;
+    for (QCheckBox *box : m_list->findChildren<QCheckBox *>()) {
+        if (!box->icon().isNull())
+            showLock(*box);
+    }
 }
 
 /// What is guarded is asked for once; refused, its box stays empty.

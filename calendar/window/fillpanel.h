@@ -4,6 +4,7 @@
 #include "calendar/window/fillrows.h"
 #include "shell/controls/taskpanel.h"
 
+class QCheckBox;
 class QGridLayout;
 class QLabel;
 struct Program;
@@ -27,11 +28,13 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     QWidget *makeContent();
     void showRows();
     void addRow(int number);
+    void showLock(QCheckBox &box) const;
     void tick(int number, bool isOn);
     void showPlan();
 

@@ -121,12 +121,14 @@ void FillRows::open(const Program &program, std::size_t row)
 
 void FillRows::tick(const QList<LineSource> &sources)
 {
-    // Holidays come with a new calendar; they alone are no fill yet.
-    const bool isFirst = std::ranges::all_of(sources, [](LineSource source) {
+    const auto isOwn = [](LineSource source) {
         return source == LineSource::Holiday || source == LineSource::Rule;
-    });
+    };
+    // Holidays come with a new calendar; they alone are no fill yet. What the calendar itself asks for is
+    // taken without having been there before: a rule is made to be kept.
+    const bool isFirst = std::ranges::all_of(sources, isOwn);
     for (FillRow &row : m_rows)
-        row.isTicked = row.isRead && (isFirst || sources.contains(row.source));
+        row.isTicked = row.isRead && (isFirst || isOwn(row.source) || sources.contains(row.source));
 }
 
 bool FillRows::isAnyTicked() const

@@ -244,6 +244,14 @@ QString HolidayPanel::whyNotNamed()
 
 void HolidayPanel::save()
 {
+    if (m_editor->goToOpenYear()) {
+        setWords(RuleLines::needsYear());
+        return;
+    }
+    if (m_editor->goToUnnamed()) {
+        setWords(RuleLines::needsWords());
+        return;
+    }
     if (!isModified()) {
         setWords(RuleLines::nothingToSave());
         return;

@@ -23,7 +23,8 @@ void OpenCalendars::refresh()
             continue;
         const WallCalendar &calendar = open->second->calendar(); // which the file may not have yet
         head.title = calendar.title.isEmpty() ? CalendarFiles::name(head.number) : calendar.title;
-        head.from = calendar.from;
+        if (head.from.isValid() || !open->second->isSaved()) // else it is shown from some month on
+            head.from = calendar.from;
         head.months = calendar.months;
         head.layout = calendar.look.layout;
     }
@@ -36,8 +37,10 @@ void OpenCalendars::refresh()
 bool OpenCalendars::isListStale() const
 {
     const auto head = std::ranges::find(m_heads, number(), &CalendarHead::number);
-    return head != m_heads.end() && (head->title != calendar().title || head->from != calendar().from ||
-                                     head->months != calendar().months);
+    const bool isDated = head != m_heads.end() && (head->from.isValid() || !m_current->isSaved());
+    return head != m_heads.end() &&
+           (head->title != calendar().title || (isDated && head->from != calendar().from) ||
+            head->months != calendar().months);
 }
 
 const CalendarHead *OpenCalendars::head() const

@@ -3,17 +3,22 @@
 
 #include "calendar/model/calendaredits.h"
 #include "calendar/window/celltyping.h"
+#include "calendar/window/monthcells.h"
 #include "calendar/window/monthpage.h"
 #include "calendar/window/opencalendars.h"
+#include "calendar/window/photodrop.h"
 #include "calendar/window/windowlines.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/pictureform.h"
+#include "shell/frame/picturepanel.h"
 #include "shell/frame/workviews.h"
 #include "shell/pictures/picturefolder.h"
 #include "shell/program/program.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QMenu>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,11 +27,28 @@ PhotoCommands::PhotoCommands(const CalendarDesk &desk, CellTyping &typing, QObje
     : QObject(parent)
     , m_desk(desk)
     , m_typing(typing)
-{}
+{
+    const auto *dropped = new PhotoDrop(desk.page.cells());
+    connect(dropped, &PhotoDrop::fileTaken, this, [this](const QString &file) {
+        if (mayTake())
+            start(file);
+    });
+    connect(dropped, &PhotoDrop::imageTaken, this, [this](const QImage &image) {
+        if (mayTake())
+            startImage(image);
+    });
+}
 
 bool PhotoCommands::hasPhoto() const
 {
     return m_desk.calendars.calendar().photos.contains(m_desk.page.month());
+}
+
+QString PhotoCommands::whyNoAlbum() const
+{
+    const QString locked = m_desk.calendars.whyLocked();
+    const FunctionEntry *album = m_desk.program.functions.entry(Function::PhotoAlbum);
+    return locked.isEmpty() && !(album && album->pictureAlbums) ? CalendarWindowLines::noAlbum() : locked;
 }
 
 void PhotoCommands::addCommands(QMenu *calendar)
@@ -40,9 +62,38 @@ void PhotoCommands::addCommands(QMenu *calendar)
         calendar, u"mCPhoto"_s, u"&Photo of the Month..."_s, [this] { choose(); },
         [this] { return m_desk.calendars.whyLocked(); }));
     commands.writing(commands.add(
+        calendar, u"mCPhotoAlbum"_s, u"Photo from an Alb&um..."_s, [this] { chooseInAlbum(); },
+        [this] { return whyNoAlbum(); }));
+    commands.writing(commands.add(
         calendar, u"mCCaption"_s, u"Photo C&aption..."_s, [this] { askCaption(); }, needsPhoto));
     commands.writing(commands.add(
         calendar, u"mCPhotoOut"_s, u"Remove P&hoto"_s, [this] { remove(); }, needsPhoto));
+}
+
+/// From the household's albums, which are one choice of the panel beside its folders.
+void PhotoCommands::chooseInAlbum()
+{
+    m_typing.finish();
+    if (!m_pictures) {
+        m_pictures = new PicturePanel(m_desk.program, {.title = u"Photo of the Month"_s,
+                                                       .width = PictureUse::anyPath,
+                                                       .notStorable = {},
+                                                       .nothingToDelete = CalendarWindowLines::noPhoto()});
+        m_desk.views.addPanel(m_pictures);
+        connect(m_pictures, &PicturePanel::said, this, &PhotoCommands::said);
+        connect(m_pictures, &PicturePanel::pictureEntered, this,
+                [this](const QString &path) { start(QDir::fromNativeSeparators(path)); });
+        connect(m_pictures, &PicturePanel::pictureDeleted, this, [this] {
+            m_desk.views.goHome();
+            remove();
+        });
+    }
+    m_desk.window.closePreview();
+    m_pictures->start(hasPhoto());
+    m_desk.views.open(m_pictures);
+    m_pictures->setFocus();
+    if (!m_pictures->hasAlbums())
+        emit said(CalendarWindowLines::noAlbumYet());
 }
 
 void PhotoCommands::choose()
@@ -56,6 +107,11 @@ void PhotoCommands::choose()
         return;
     if (!pictures.remember(QFileInfo(*file).absolutePath()))
         emit said(CalendarWindowLines::folderNotKept());
+    start(*file);
+}
+
+PictureForm &PhotoCommands::form()
+{
     if (!m_form) {
         m_form = new PictureForm(m_desk.program, {.name = u"calendarPhotoPanel"_s,
                                                   .title = u"Photo of the Month"_s,
@@ -67,13 +123,43 @@ void PhotoCommands::choose()
         connect(m_form, &PictureForm::said, this, &PhotoCommands::said);
         connect(m_form, &PictureForm::entered, this, &PhotoCommands::take);
     }
-    if (!m_form->start(*file)) {
+    return *m_form;
+}
+
+/// Asks for the caption, and whether it is to be copied.
+void PhotoCommands::start(const QString &file)
+{
+    if (form().start(file))
+        open();
+    else
+        emit said(CalendarWindowLines::pictureNotTaken());
+}
+
+/// The same for one that is no file, which is copied.
+void PhotoCommands::startImage(const QImage &image)
+{
+    if (image.isNull()) {
         emit said(CalendarWindowLines::pictureNotTaken());
         return;
     }
+    form().start(image);
+    open();
+}
+
+void PhotoCommands::open()
+{
     m_desk.window.closePreview();
     m_desk.views.open(m_form);
     m_form->setFocus();
+}
+
+bool PhotoCommands::mayTake()
+{
+    m_typing.finish();
+    const QString locked = m_desk.calendars.whyLocked();
+    if (!locked.isEmpty())
+        emit said(locked);
+    return locked.isEmpty();
 }
 
 void PhotoCommands::take(const QString &path, const QString &caption)

@@ -7,6 +7,8 @@
 
 class CellTyping;
 class PictureForm;
+class PicturePanel;
+class QImage;
 class QMenu;
 
 /// The photo of the month that is shown: chosen, kept with the household's pictures, removed.
@@ -25,12 +27,21 @@ signals:
 
 private:
     bool hasPhoto() const;
+    QString whyNoAlbum() const;
     void choose();
+    void chooseInAlbum();
+    void start(const QString &file);
+    void startImage(const QImage &image);
+    PictureForm &form();
+    /// What was dropped or pasted; false where nothing may be changed, which is told.
+    bool mayTake();
+    void open();
     void take(const QString &path, const QString &caption);
     void askCaption();
     void remove();
 
     CalendarDesk m_desk;
     CellTyping &m_typing;
+    PicturePanel *m_pictures = nullptr;
     PictureForm *m_form = nullptr;
 };

@@ -8,6 +8,7 @@
 #include "shell/controls/datepicker.h"
 #include "shell/controls/flowrow.h"
 #include "shell/controls/pastefilter.h"
+#include "shell/controls/taskpanel.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 
@@ -57,6 +58,30 @@ int daysIn(int month)
     return QDate(leapYear, std::max(month, 1), 1).daysInMonth();
 }
 
+/// The red that can be read on a panel of that colour; none where no red can, and its ink is what is left.
+QColor redOn(const QColor &panel)
+{
+    constexpr double readable = 4.5;
+    constexpr int darkest = 220;
+    for (const Theme *theme : {&Theme::light(), &Theme::dark()}) {
+        for (int by = 100; by <= darkest; by += 20) {
+            const QColor red = theme->negative.darker(by);
+            if (contrast(red, panel) >= readable)
+                return red;
+        }
+    }
+    return {};
+}
+
+/// The colour behind a part of a panel; its own is black where it lets that of the panel through.
+QColor groundOf(const QWidget *part)
+{
+    const QWidget *panel = part;
+    while (panel->parentWidget() && !qobject_cast<const TaskPanel *>(panel))
+        panel = panel->parentWidget();
+    return panel->palette().color(QPalette::Window);
+}
+
 QComboBox *makeBox(const QString &name, int width, QWidget *parent)
 {
     auto *box = named(new QComboBox(parent), name);
@@ -78,7 +103,7 @@ QSpinBox *makeNumber(const QString &name, int least, int most, int width, QWidge
 RuleForm::RuleForm(const Program &program, const QString &name, QWidget *window, QWidget *parent)
     : QWidget(parent)
     , m_program(program)
-    , m_way(makeBox(name + u"Way"_s, 210, this))
+    , m_way(makeBox(name + u"Way"_s, 232, this))
     , m_interval(makeNumber(name + u"Interval"_s, 1, DateRule::mostInterval, 110, this))
     , m_ordinal(makeBox(name + u"Ordinal"_s, 96, this))
     , m_weekday(makeBox(name + u"Weekday"_s, 124, this))
@@ -180,6 +205,18 @@ void RuleForm::listen()
     connect(m_text, &QLineEdit::textEdited, this, &RuleForm::readText);
 }
 
+bool RuleForm::goToOpenYear()
+{
+    QLineEdit *open = m_firstYear->text().toInt() != m_rule.firstYear ? m_firstYear
+                      : m_lastYear->text().toInt() != m_rule.lastYear ? m_lastYear
+                                                                      : nullptr;
+    if (!m_isReadable || !open)
+        return false;
+    open->setFocus();
+    open->selectAll();
+    return true;
+}
+
 QWidget *RuleForm::firstInTab() const
 {
     return m_way;
@@ -194,7 +231,7 @@ void RuleForm::setRule(const QString &text)
 {
     const auto rule = DateRule::parse(text);
     m_isReadable = rule.has_value();
-    m_rule = rule.value_or(m_rule);
+    m_rule = rule.value_or(DateRule());
     m_text->setText(text);
     showRule();
 }
@@ -292,14 +329,12 @@ void RuleForm::showParts()
 /// What a rule means stands in the list; here is only told that it is none.
 void RuleForm::showWords()
 {
-    const Theme &theme = Theme::of(this);
     QPalette ink = palette();
-    // On a panel in a colour of the user's the ink is what can be read.
-    const bool isRed = !m_isReadable && ink.color(QPalette::WindowText) == theme.text;
-    m_words->setForegroundRole(isRed ? QPalette::WindowText : ThemeRole::quiet);
-    if (isRed)
-        ink.setColor(QPalette::WindowText, theme.negative);
-    m_words->setPalette(isRed ? ink : QPalette());
+    const QColor red = redOn(groundOf(this));
+    m_words->setForegroundRole(red.isValid() ? QPalette::WindowText : ThemeRole::quiet);
+    if (red.isValid())
+        ink.setColor(QPalette::WindowText, red);
+    m_words->setPalette(red.isValid() ? ink : QPalette());
     m_words->setText(RuleLines::noRule(m_text->text()));
     m_words->setVisible(!m_isReadable);
 }

@@ -30,6 +30,9 @@ public:
     /// As it goes into a file: what was typed where that cannot be read.
     QString rule() const;
 
+    /// A box with something typed that the rule has not taken; the focus goes there. None: all is taken.
+    bool goToOpenYear();
+
     /// The first and last in the order of the Tab key.
     QWidget *firstInTab() const;
     QWidget *lastInTab() const;

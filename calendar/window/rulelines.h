@@ -66,6 +66,11 @@ inline QString needsWords()
     return u"Say what the day is called."_s;
 }
 
+inline QString needsYear()
+{
+    return u"A year has four digits, and the last one does not come before the first."_s;
+}
+
 inline QString nameIsThere(const QString &name)
 {
     return u"There are holidays called \u201c%1\u201d already."_s.arg(name);

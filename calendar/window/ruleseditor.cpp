@@ -146,6 +146,21 @@ void RulesEditor::choose(int row)
     m_text->selectAll();
 }
 
+bool RulesEditor::goToUnnamed()
+{
+    const auto isUnnamed = [](const RuleRow &row) { return row.text.trimmed().isEmpty(); };
+    const auto found = std::ranges::find_if(rows(), isUnnamed);
+    if (found == rows().end())
+        return false;
+    choose(int(found - rows().begin()));
+    return true;
+}
+
+bool RulesEditor::goToOpenYear()
+{
+    return chosen() >= 0 && m_rule->goToOpenYear();
+}
+
 /// The boxes show what is chosen, to be changed there.
 void RulesEditor::showChosen()
 {
@@ -175,6 +190,9 @@ void RulesEditor::take()
     if (value == rows()[row])
         return;
     m_model->setRow(row, value);
+    // What is told of a rule that is none may take the room of its row.
+    QMetaObject::invokeMethod(
+        this, [this] { m_view->scrollTo(m_view->currentIndex()); }, Qt::QueuedConnection);
     emit changed();
 }
 
@@ -210,6 +228,10 @@ bool RulesEditor::eventFilter(QObject *watched, QEvent *event)
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Delete) {
             removeChosen();
+            return true;
+        }
+        if (key == Qt::Key_Home || key == Qt::Key_End) {
+            m_view->selectRow(key == Qt::Key_Home ? 0 : int(rows().size()) - 1);
             return true;
         }
         if ((key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2) && chosen() >= 0) {

@@ -32,6 +32,10 @@ public:
 
     /// Chooses a row, with the focus in its words.
     void choose(int row);
+    /// A year is being typed that the chosen rule has not taken; the focus goes there. False: there is none.
+    bool goToOpenYear();
+    /// There is a day without words; the focus goes to them. False: there is none.
+    bool goToUnnamed();
     void addNew();
     void removeChosen();
 

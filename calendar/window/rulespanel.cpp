@@ -50,11 +50,12 @@ QList<CalendarRule> RulesPanel::rules() const
 
 void RulesPanel::accept()
 {
-    for (int row = 0; row < m_editor->rows().size(); ++row) {
-        if (!m_editor->rows()[row].text.trimmed().isEmpty())
-            continue;
-        m_editor->choose(row);
+    if (m_editor->goToUnnamed()) {
         setWords(RuleLines::needsWords());
+        return;
+    }
+    if (m_editor->goToOpenYear()) {
+        setWords(RuleLines::needsYear());
         return;
     }
     m_before = rules();

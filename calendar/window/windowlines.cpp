@@ -169,10 +169,9 @@ QString CalendarWindowLines::emptied(QDate month)
 
 QString CalendarWindowLines::leftOver(int lines)
 {
-    return lines == 0 ? QString()
-           : lines == 1
-               ? u"1 line has no room in its day and stands at the foot of the sheet"_s
-               : u"%1 lines have no room in their days and stand at the foot of the sheet"_s.arg(lines);
+    return lines == 0   ? QString()
+           : lines == 1 ? u"1 line stands at the foot, its day is full"_s
+                        : u"%1 lines stand at the foot, their days are full"_s.arg(lines);
 }
 
 QString CalendarWindowLines::barSet(const QString &text)
@@ -263,18 +262,18 @@ QString CalendarWindowLines::monthWords(QDate month, int lines)
     return Dates::monthYear(month) + u", "_s + count(lines, u"line"_s, u"lines"_s);
 }
 
-QString CalendarWindowLines::withoutMonths(CalendarHead::State state)
+QString CalendarWindowLines::withoutMonths(const CalendarHead &head)
 {
-    switch (state) {
+    switch (head.state) {
     case CalendarHead::OutOfReach:
         return u"Cannot be read"_s;
     case CalendarHead::Foreign:
-        return u"No calendar of this program"_s;
+        return u"Not a calendar"_s;
     case CalendarHead::Later:
     case CalendarHead::Whole:
         break;
     }
-    return u"An empty file"_s;
+    return head.isEmpty ? u"An empty file"_s : u"No first month"_s;
 }
 
 QString CalendarWindowLines::untitled()
@@ -285,6 +284,21 @@ QString CalendarWindowLines::untitled()
 QString CalendarWindowLines::emptyFile()
 {
     return u"This file is empty: it becomes a calendar with the first line in it"_s;
+}
+
+QString CalendarWindowLines::noFirstMonth()
+{
+    return u"Its first month cannot be read: it is shown from January of this year on"_s;
+}
+
+QString CalendarWindowLines::noAlbumYet()
+{
+    return u"There is no album yet: choose from a folder"_s;
+}
+
+QString CalendarWindowLines::noAlbum()
+{
+    return u"There is no photo album in this program"_s;
 }
 
 QString CalendarWindowLines::countOfCalendars(qsizetype number)

@@ -61,9 +61,12 @@ QString noCalendar();
 QString monthsOf(QDate from, int months);
 /// "March 2027, 23 lines".
 QString monthWords(QDate month, int lines);
-QString withoutMonths(CalendarHead::State state);
+QString withoutMonths(const CalendarHead &head);
 QString untitled();
 QString emptyFile();
+QString noFirstMonth();
+QString noAlbum();
+QString noAlbumYet();
 QString countOfCalendars(qsizetype count);
 QString made(const QString &title);
 QString deleted(const QString &title);

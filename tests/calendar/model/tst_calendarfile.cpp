@@ -178,7 +178,7 @@ private slots:
         QCOMPARE(CalendarFiles::heads(test.folder()),
                  (QList<Head>{{1, u"Family Calendar 2027"_s, january, 12, CalendarLayout::Photo, Head::Whole},
                               {2, u"Small"_s, january, 1, CalendarLayout::Month, Head::Whole},
-                              {4, u"CalMk4.Fil"_s, {}, 12, CalendarLayout::Month, Head::Whole},
+                              {4, u"CalMk4.Fil"_s, {}, 12, CalendarLayout::Month, Head::Whole, true},
                               {5, u"CalMk5.Fil"_s, {}, 0, CalendarLayout::Month, Head::Foreign},
                               {6, u"CalMk6.Fil"_s, {}, 0, CalendarLayout::Month, Head::OutOfReach},
                               {7, u"Later"_s, QDate(2028, 1, 1), 12, CalendarLayout::Month, Head::Later}}));

@@ -99,7 +99,8 @@ private slots:
                                   "gone.jpg\t\r\nphoto\t2026-05\tPictures/ferry.jpg\t\r\n";
         m_test.put(u"calmk1.fil"_s, fileOf("Family 2026", "2026-01", 12, photos));
         m_test.put(u"Holiday1.Fil"_s, "Quillery holidays 1\r\n");
-        QCOMPARE(CalendarHoldings::files(m_test.folder()), (QStringList{u"calmk1.fil"_s, u"Holiday1.Fil"_s}));
+        // A disk that does not tell spellings apart has them as they are asked for.
+        QCOMPARE(CalendarHoldings::files(m_test.folder()).join(u' ').toLower(), u"calmk1.fil holiday1.fil"_s);
         expectWarning("Cannot read .*CalMk9.Fil");
         QCOMPARE(CalendarHoldings::pictures(m_test.folder()),
                  QStringList{m_test.path(u"Pictures/ferry.jpg"_s)});

@@ -114,8 +114,7 @@ private slots:
             {"noise", noiseOf(3'000),
              u"CalMk1.Fil is not a file of this calendar maker: it is left as it is."_s, 0},
             {"a later version", QByteArray(headLines).replace("calendar 1", "calendar 2") + choir,
-             u"This calendar was written by a later version of Quillery: it can be read, but not changed."_s,
-             1},
+             u"Written by a later version of Quillery: it can be read, but not changed."_s, 1},
         });
     }
     void leavesFilesAloneThatItDoesNotKnow()

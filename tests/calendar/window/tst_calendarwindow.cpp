@@ -7,6 +7,7 @@
 #include "shell/preview/previewmessages.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
+#include "tests/support/testpictures.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -15,6 +16,7 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListView>
+#include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -187,7 +189,7 @@ private slots:
         for (int i = 1; i <= 40; ++i)
             lines += typed("2027-03-14", QByteArray::number(i));
         open(march(lines));
-        QVERIFY(said().endsWith(u"lines have no room in their days and stand at the foot of the sheet"_s));
+        QVERIFY(said().endsWith(u"lines stand at the foot, their days are full"_s));
         goTo(sunday);
         key(Qt::Key_Return);
         QCOMPARE(editor()->lines().size(), 41); // and a new one
@@ -284,6 +286,11 @@ private slots:
         QCOMPARE(labelText("fillSummary"), u"2 new; your 1 line stays"_s);
         click("fillNow");
         QCOMPARE(said(), u"Filled: 2 new; your 1 line stays"_s);
+        QVERIFY(find<QWidget>("statusUndo")->isVisible());
+        trigger("mCFill");
+        click("fillNow"); // which changes nothing: the step before is not this one's
+        QVERIFY(said().startsWith(u"Filled: Nothing has changed"_s));
+        QVERIFY(!find<QWidget>("statusUndo")->isVisible());
         goTo(sunday);
         QCOMPARE(shown(), (QStringList{u"10:00 AM Church"_s, u"Mine"_s}));
         m_notes = {note(14, u"Church"_s, 11)};
@@ -452,10 +459,50 @@ private slots:
         QVERIFY(pdf.contains("/MediaBox [0 0 595.275591 841.889764]"));
     }
 
+    void takesThePhotoOfAMonthFromAnAlbum()
+    {
+        open(march());
+        QVERIFY(QDir().mkpath(m_test->path(u"Pictures"_s)));
+        const QString picture = makePicture(m_test->path(u"Pictures/lake.png"_s), {16, 12});
+        m_test->functions.add(Function::PhotoAlbum, {.pictureAlbums = [&picture](const Program &) {
+                                  return QList<PictureAlbum>{{u"Grandmother"_s, {picture}}};
+                              }});
+        m_window->close();
+        openAgain();
+        trigger("mCPhotoAlbum");
+        auto *albums = find<QListWidget>("albums1");
+        emit albums->itemActivated(albums->item(0));
+        find<QListWidget>("File1")->setCurrentRow(0);
+        click("pictureEnter");
+        click("insertPicture");
+        trigger("mOSave");
+        QVERIFY(file().contains("photo\t2027-03\tPictures/lake.png\t"));
+    }
+
+    void takesAPhotoThatIsDroppedOrPasted()
+    {
+        open(march());
+        QVERIFY(QDir().mkpath(m_test->path(u"Pictures"_s)));
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(makePicture(m_test->path(u"Pictures/lake.png"_s), {16, 12}))});
+        drop(dragged, {2, 2}, Qt::CopyAction);
+        click("insertPicture");
+        trigger("mOSave");
+        QVERIFY(file().contains("photo\t2027-03\tPictures/lake.png\t"));
+
+        QImage image(16, 12, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QGuiApplication::clipboard()->setImage(image);
+        key(Qt::Key_V, Qt::ControlModifier);
+        click("insertPicture");
+        trigger("mOSave");
+        QVERIFY(file().contains("photo\t2027-03\tPictures/Calendar"));
+    }
+
     void whatCannotBeChangedSaysWhy()
     {
         open("Quillery calendar 2\r\ntitle\tKitchen\r\nfrom\t2027-03\r\nmonths\t1\r\n");
-        QCOMPARE(said(), u"This calendar was written by a later version of Quillery: it can be read, but not "
+        QCOMPARE(said(), u"Written by a later version of Quillery: it can be read, but not "
                          "changed."_s);
         key(Qt::Key_Return);
         QVERIFY(!editor()->isVisible());
@@ -558,7 +605,10 @@ private:
         QMimeData data;
         data.setData(u"application/x-quillery-calendar-line"_s,
                      day().toString(Qt::ISODate).toLatin1() + " 0");
-        const QPoint place = placeOf(on).center();
+        drop(data, placeOf(on).center(), action);
+    }
+    void drop(const QMimeData &data, QPoint place, Qt::DropAction action) const
+    {
         QDragEnterEvent enter(place, action, &data, Qt::LeftButton, Qt::NoModifier);
         QDropEvent drop(place, action, &data, Qt::LeftButton, Qt::NoModifier);
         for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop})

@@ -66,6 +66,18 @@ private slots:
         QTest::keyClicks(control<QComboBox>(panel, "rulesWeekday"), u"Thursday"_s);
         QTest::keyClicks(control<QComboBox>(panel, "rulesMonth"), u"May"_s);
         type(panel, "rulesFirstYear", u"2027"_s);
+        for (const QString &year : {u"2"_s, u"2026"_s}) { // half a year, and one before the first
+            type(panel, "rulesLastYear", year);
+            QTest::mouseClick(control<QPushButton>(panel, "rulesKeep"), Qt::LeftButton);
+            QCOMPARE(accepted.count(), 0);
+            QVERIFY(control<QLineEdit>(panel, "rulesLastYear")->hasFocus());
+        }
+        QTest::keyClick(control<QLineEdit>(panel, "rulesLastYear"), Qt::Key_Delete);
+        auto *list = control<QTableView>(panel, "rulesList");
+        for (const auto &[key, row] : {std::pair(Qt::Key_Home, 0), std::pair(Qt::Key_End, 1)}) {
+            QTest::keyClick(list, key);
+            QCOMPARE(list->currentIndex().row(), row);
+        }
         QTest::keyClicks(control<QComboBox>(panel, "rulesSign")->lineEdit(), u"*"_s);
         QTest::mouseClick(control<QPushButton>(panel, "rulesKeep"), Qt::LeftButton);
         QCOMPARE(accepted.count(), 1);
