@@ -17,12 +17,15 @@ constexpr char xmpPeople[] = "Xmp.iptcExt.PersonInImage";
 constexpr char xmpRating[] = "Xmp.xmp.Rating";
 constexpr char xmpCreated[] = "Xmp.photoshop.DateCreated";
 constexpr char xmpOriginal[] = "Xmp.exif.DateTimeOriginal";
+constexpr char xmpOrientation[] = "Xmp.tiff.Orientation";
 constexpr char iptcMark[] = "Iptc.Envelope.CharacterSet";
 constexpr char iptcCaption[] = "Iptc.Application2.Caption";
 constexpr char iptcTags[] = "Iptc.Application2.Keywords";
 constexpr char exifCaption[] = "Exif.Image.ImageDescription";
 constexpr char exifOriginal[] = "Exif.Photo.DateTimeOriginal";
 constexpr char exifDigitized[] = "Exif.Photo.DateTimeDigitized";
+/// Where those two stand; it goes with the last of them.
+constexpr char exifPlace[] = "Exif.Image.ExifTag";
 constexpr char exifOrientation[] = "Exif.Image.Orientation";
 /// Escape, "%G": what follows is UTF-8.
 constexpr char utf8Mark[] = "\x1b%G";
@@ -145,6 +148,11 @@ void take(const Exiv2::Image &image, Metadata &found)
 
 // Writing.
 
+bool isTakenOut(const std::optional<QByteArray> &text)
+{
+    return text && text->isEmpty();
+}
+
 template <typename Data, typename Key>
 void takeOut(Data &data, const Key &key)
 {
@@ -201,10 +209,15 @@ void put(Exiv2::XmpData &data, const MetadataChange &change)
         if (*change.rating != 0)
             data[xmpRating] = std::to_string(*change.rating);
     }
-    if (!change.xmpCreated.isEmpty())
-        data[xmpCreated] = textOf(change.xmpCreated);
-    if (!change.exifOriginal.isEmpty() && data.findKey(Exiv2::XmpKey(xmpOriginal)) != data.end())
-        data[xmpOriginal] = textOf(change.xmpCreated);
+    if (isTakenOut(change.xmpCreated))
+        takeOut(data, Exiv2::XmpKey(xmpCreated));
+    else if (change.xmpCreated)
+        data[xmpCreated] = textOf(*change.xmpCreated);
+    const bool isWhole = change.xmpCreated && change.exifOriginal && !change.exifOriginal->isEmpty();
+    if (isWhole && data.findKey(Exiv2::XmpKey(xmpOriginal)) != data.end())
+        data[xmpOriginal] = textOf(*change.xmpCreated);
+    if (change.orientation != 0 && data.findKey(Exiv2::XmpKey(xmpOrientation)) != data.end())
+        data[xmpOrientation] = std::to_string(change.orientation);
     if (change.withoutCoordinates)
         takeOutIf(data, [](const Exiv2::Xmpdatum &datum) { return isCoordinate(datum); });
 }
@@ -255,8 +268,12 @@ void put(Exiv2::ExifData &data, const MetadataChange &change)
         if (!change.caption->isEmpty())
             data[exifCaption] = textOf(*change.caption);
     }
-    if (!change.exifOriginal.isEmpty())
-        data[exifOriginal] = textOf(change.exifOriginal);
+    if (isTakenOut(change.exifOriginal))
+        takeOut(data, Exiv2::ExifKey(exifOriginal));
+    else if (change.exifOriginal)
+        data[exifOriginal] = textOf(*change.exifOriginal);
+    if (change.orientation != 0)
+        data[exifOrientation] = std::uint16_t(change.orientation);
     if (change.withoutCoordinates)
         takeOutIf(data, [](const Exiv2::Exifdatum &datum) { return isCoordinate(datum); });
 }
@@ -267,7 +284,9 @@ std::map<std::string, int> othersOf(const Exiv2::Image &image, const MetadataCha
     std::map<std::string, int> others;
     others["comment " + image.comment()] = 1;
     for (const Exiv2::Exifdatum &datum : image.exifData()) {
-        if (datum.key() != exifCaption && !(change.withoutCoordinates && isCoordinate(datum)))
+        const bool isOfDate = datum.key() == exifOriginal || datum.key() == exifPlace;
+        const bool mayGo = datum.key() == exifCaption || (isOfDate && isTakenOut(change.exifOriginal));
+        if (!mayGo && !(change.withoutCoordinates && isCoordinate(datum)))
             ++others[datum.key()];
     }
     for (const Exiv2::Iptcdatum &datum : image.iptcData()) {
@@ -276,8 +295,9 @@ std::map<std::string, int> othersOf(const Exiv2::Image &image, const MetadataCha
     }
     for (const Exiv2::Xmpdatum &datum : image.xmpData()) {
         const std::string key = datum.key();
-        if (key != xmpCaption && key != xmpPeople && key != xmpTags && key != xmpRating &&
-            !(change.withoutCoordinates && isCoordinate(datum)))
+        const bool mayGo = key == xmpCaption || key == xmpPeople || key == xmpTags || key == xmpRating ||
+                           (key == xmpCreated && isTakenOut(change.xmpCreated));
+        if (!mayGo && !(change.withoutCoordinates && isCoordinate(datum)))
             ++others[key];
     }
     return others;

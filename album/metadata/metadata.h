@@ -37,15 +37,16 @@ struct MetadataChange {
     std::optional<QList<QByteArray>> people;
     std::optional<QList<QByteArray>> tags;
     std::optional<int> rating;
-    QByteArray xmpCreated;   ///< nothing leaves what is there
-    QByteArray exifOriginal; ///< the same
+    std::optional<QByteArray> xmpCreated;
+    std::optional<QByteArray> exifOriginal;
+    int orientation = 0; ///< 1 to 8; 0 leaves the one that is there
     bool withoutCoordinates = false;
     /// Texts of programs that left no word about their bytes, in UTF-8.
     QByteArray (*asUtf8)(const QByteArray &bytes) = nullptr;
 
     bool isNothing() const
     {
-        return !caption && !people && !tags && !rating && xmpCreated.isEmpty() && exifOriginal.isEmpty() &&
+        return !caption && !people && !tags && !rating && !xmpCreated && !exifOriginal && orientation == 0 &&
                !withoutCoordinates;
     }
 };

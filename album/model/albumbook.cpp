@@ -4,6 +4,7 @@
 #include "album/model/lines.h"
 #include "album/model/papergrid.h"
 
+#include <QMap>
 #include <QSet>
 
 #include <algorithm>
@@ -83,8 +84,9 @@ QRectF AlbumBook::placePicture(Page &page, const Picture &picture, const QRectF 
 {
     if (picture.path.isEmpty() || picture.pixels.isEmpty()) {
         page.placeRule(place);
-        page.placeText(place.adjusted(textGap, textGap, -textGap, -textGap), picture.fileName,
-                       TextRole::Small, Qt::AlignCenter);
+        page.placeText(place.adjusted(textGap, textGap, -textGap, -textGap),
+                       AlbumLines::notShown(picture.fileName, picture.reason), TextRole::Small,
+                       Qt::AlignCenter);
         return place;
     }
     const QSizeF size = QSizeF(picture.pixels).scaled(place.size(), Qt::KeepAspectRatio);
@@ -102,15 +104,21 @@ Page AlbumBook::page()
     return m_page.close(m_context.today, m_context.style);
 }
 
-/// "1974 to 2026", where the pictures stand by their dates.
+/// "1974 to 2026", where the book has chapters; by hand they may stand in any order.
 QString AlbumBook::years() const
 {
-    if (m_chapters.empty())
+    QMap<QString, QString> chapters; // by the first year of each
+    for (const std::size_t begin : m_chapters) {
+        const QString &chapter = m_pictures[begin].chapter;
+        const auto digit = std::ranges::find_if(chapter, [](QChar letter) { return letter.isDigit(); });
+        if (digit != chapter.end())
+            chapters.insert(chapter.sliced(digit - chapter.begin()), chapter);
+    }
+    if (chapters.isEmpty())
         return {};
-    const QString first = m_pictures.front().chapter;
-    QString last = m_pictures.back().chapter;
+    QString last = chapters.last();
     last.front() = last.front().toLower(); // "the 1980s"
-    return u"%1 to %2"_s.arg(first, last);
+    return chapters.size() == 1 ? chapters.first() : u"%1 to %2"_s.arg(chapters.first(), last);
 }
 
 void AlbumBook::addTitle()
@@ -127,10 +135,11 @@ void AlbumBook::addTitle()
     };
     place(m_context.family, TextRole::Chapter, 1);
     place(m_title, TextRole::Cover, 2);
-    if (!m_pictures.empty() && !m_pictures.front().path.isEmpty()) {
+    const std::size_t cover = std::size_t(m_options.cover) < m_pictures.size() ? m_options.cover : 0;
+    if (!m_pictures.empty() && !m_pictures[cover].path.isEmpty()) {
         const double side = std::min(width, sheet.height() * 0.4);
         const QRectF shown =
-            placePicture(m_page, m_pictures.front(), {(sheet.width() - side) / 2, y, side, side});
+            placePicture(m_page, m_pictures[cover], {(sheet.width() - side) / 2, y, side, side});
         y = shown.bottom() + 0.35;
     }
     place(years(), TextRole::Heading, 1);
@@ -183,22 +192,25 @@ void AlbumBook::addPictures()
 void AlbumBook::addSingle(const Picture &picture, int mark)
 {
     const QSizeF body = bodyOf(m_context.setup);
-    const double text = 2 * lineHeight(TextRole::Heading) + lineHeight(TextRole::Small);
+    const double text = 2 * lineHeight(TextRole::Heading) + 3 * lineHeight(TextRole::Small); // two of where
     const double height = picture.story.isEmpty() ? body.height() - text : body.height() * storyShare;
     if (picture.path.isEmpty())
-        m_page.line(picture.fileName, TextRole::Small);
+        m_page.line(AlbumLines::notShown(picture.fileName, picture.reason), TextRole::Small);
     else
         m_page.figure(picture.path, {body.width(), height});
     // A picture without a caption is led to by its date or, without one, by nothing that can be seen.
     const bool hasCaption = m_options.hasCaptions && !picture.caption.isEmpty();
     const bool hasDate = m_options.hasDates && !picture.date.isEmpty();
+    const bool hasWhere = m_options.hasCaptions && !picture.where.isEmpty();
     if (hasCaption)
         m_page.paragraph({.runs = {{.text = picture.caption}},
                           .role = TextRole::Heading,
-                          .staysWithNext = hasDate || !picture.story.isEmpty(),
+                          .staysWithNext = hasDate || hasWhere || !picture.story.isEmpty(),
                           .mark = mark});
     if (hasDate)
         m_page.paragraph({.runs = {{.text = picture.date}}, .role = TextRole::Small});
+    if (hasWhere)
+        m_page.paragraph({.runs = {{.text = picture.where}}, .role = TextRole::Small});
     if (!picture.story.isEmpty())
         m_page.blankLine();
     addStory(picture, false);
@@ -217,11 +229,15 @@ void AlbumBook::addFour(std::size_t first, std::size_t end, bool beginsChapter)
         const Picture &picture = m_pictures[i];
         const QRectF place = grid.place(int(i - first));
         double y = placePicture(m_page, picture, place).bottom() + textGap;
-        if (m_options.hasDates && !picture.date.isEmpty()) {
-            m_page.placeText({place.left(), y, place.width(), lineHeight(TextRole::Small)}, picture.date,
+        const auto addSmall = [&](const QString &text) {
+            if (text.isEmpty())
+                return;
+            m_page.placeText({place.left(), y, place.width(), lineHeight(TextRole::Small)}, text,
                              TextRole::Small, Qt::AlignHCenter | Qt::AlignTop);
             y += lineHeight(TextRole::Small);
-        }
+        };
+        addSmall(m_options.hasDates ? picture.date : QString());
+        addSmall(m_options.hasCaptions ? picture.where : QString());
         if (m_options.hasCaptions && !picture.caption.isEmpty())
             m_page.placeText({place.left(), y, place.width(), 2 * lineHeight(TextRole::Body)},
                              picture.caption, TextRole::Body, Qt::AlignHCenter | Qt::AlignTop);

@@ -125,8 +125,8 @@ private:
         return result.isEmpty() ? bytes : result;
     }
 
-    /// As it is, but for what is said in it. Where coordinates are to be taken out and cannot be, it is
-    /// packed anew, which leaves all of that behind.
+    /// As it is, but for what is said in it. Where coordinates are to be taken out and cannot be, or no mark
+    /// turns it, it is packed anew.
     QByteArray original(const Photo &photo, QString &name, const Walker::Stop &isStopped)
     {
         const QByteArray bytes = contentOf(photo.path);
@@ -134,13 +134,13 @@ private:
             return {};
         const auto coordinates =
             m_wish.hasCoordinates ? KeptTexts::Coordinates::Left : KeptTexts::Coordinates::TakenOut;
-        const QByteArray result =
-            m_wish.hasTexts || !m_wish.hasCoordinates
-                ? KeptTexts::forGivingAway(bytes, textsOf(photo), m_wish.today, coordinates)
-                : bytes;
+        const bool isChanged = m_wish.hasTexts || !m_wish.hasCoordinates || photo.turns != 0;
+        const QByteArray result = isChanged ? KeptTexts::forGivingAway(bytes, textsOf(photo), m_wish.today,
+                                                                       coordinates, photo.turns)
+                                            : bytes;
         if (!result.isEmpty())
             return result;
-        if (!m_wish.hasCoordinates && mayHaveCoordinates(photo.path)) {
+        if (photo.turns != 0 || (!m_wish.hasCoordinates && mayHaveCoordinates(photo.path))) {
             name = asJpegName(name);
             return packed(photo, anySide, fineQuality, false, isStopped);
         }

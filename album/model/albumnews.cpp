@@ -50,12 +50,16 @@ QString missingText(qsizetype count)
     return AlbumLines::pictures(count) + (count == 1 ? u" is missing"_s : u" are missing"_s);
 }
 
-/// The year with most pictures, of several the latest: "On this day in 2019: 3 pictures".
-QString thisDayText(const std::map<int, qsizetype> &years)
+/// The year with most pictures, of several the latest: "On this day in 2019: 3 pictures", where there is
+/// little room "3 pictures from 2019".
+LiveLine thisDayLine(const std::map<int, qsizetype> &years)
 {
     const auto most = std::ranges::max_element(years.rbegin(), years.rend(), {},
                                                [](const auto &year) { return year.second; });
-    return u"On this day in %1: %2"_s.arg(most->first).arg(AlbumLines::pictures(most->second));
+    const QString pictures = AlbumLines::pictures(most->second);
+    LiveLine line{u"On this day in %1: %2"_s.arg(most->first).arg(pictures), LiveLine::Plain, {}};
+    line.shorter = {u"%1 from %2"_s.arg(pictures).arg(most->first)};
+    return line;
 }
 
 /// What a day has of earlier years.
@@ -100,7 +104,7 @@ std::optional<LiveLine> AlbumNews::liveLine(const DataFolder &folder, QDate toda
     if (missing > 0)
         return LiveLine{missingText(missing), LiveLine::Due, {}};
     if (!years.empty())
-        return LiveLine{thisDayText(years), LiveLine::Plain, {}};
+        return thisDayLine(years);
     const qsizetype albums = albumCount(folder);
     const QString pictures = AlbumLines::pictures(count);
     return LiveLine{albums == 0 ? pictures : u"%1 in %2"_s.arg(pictures, AlbumLines::albums(albums)),

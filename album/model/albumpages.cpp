@@ -6,6 +6,7 @@
 #include "album/model/papergrid.h"
 #include "album/model/photodatewords.h"
 #include "album/model/photoshelf.h"
+#include "album/model/phototexts.h"
 
 #include <algorithm>
 
@@ -104,6 +105,16 @@ QString chapterOf(const PhotoDate &date)
     return isDecade ? u"The %1s"_s.arg(first.year() / 10 * 10) : PhotoDateWords::heading({}, DateStyle::Usa);
 }
 
+QString whereAndWithWhom(const Photo &photo)
+{
+    QStringList people = PhotoTexts::list(photo.people);
+    if (people.isEmpty())
+        return photo.place;
+    const QString last = people.takeLast();
+    const QString all = people.isEmpty() ? last : people.join(u", "_s) + u" and "_s + last;
+    return (photo.place.isEmpty() ? u"With "_s : photo.place + u", with "_s) + all;
+}
+
 } // namespace
 
 std::vector<AlbumPages::Picture> AlbumPages::picturesOf(const PhotoShelf &shelf, const QList<int> &records,
@@ -119,6 +130,7 @@ std::vector<AlbumPages::Picture> AlbumPages::picturesOf(const PhotoShelf &shelf,
                             .caption = photo->caption,
                             .date = PhotoDateWords::words(photo->date, style),
                             .chapter = chapterOf(photo->date),
+                            .where = whereAndWithWhom(*photo),
                             .story = photo->story.split(u'\n', Qt::SkipEmptyParts)});
     }
     return pictures;

@@ -29,6 +29,7 @@ struct Options {
     bool hasCaptions = true;
     bool hasDates = true;
     int perBookSheet = 1;
+    int cover = 0; ///< of a book: which of the pictures stands on its title sheet
 
     bool operator==(const Options &) const = default;
 };
@@ -38,9 +39,11 @@ struct Picture {
     QString caption;
     QString date;        ///< in words
     QString chapter;     ///< of a book: the year or the decade
+    QString where{};     ///< and with whom: "Lake Siljan, with Karl and Anne"
     QStringList story{}; ///< its paragraphs
     QString path{};      ///< of the copy for paper; empty where the picture cannot be read
     QSize pixels{};      ///< of that copy
+    QString reason{};    ///< why it cannot be read, where that is known
 };
 
 /// What is said of these pictures; their copies are still to come.

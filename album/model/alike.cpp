@@ -63,7 +63,7 @@ private:
             std::map<Photo::Hash, QList<int>> byContent;
             for (Photo *photo : photos) {
                 if (photos.size() > 1 && !photo->isHashed())
-                    photo->hash = ContentHash::of(photo->path, isStopped).value_or(Photo::Hash());
+                    photo->hash = ContentHash::of(photo->path, isStopped).value_or(Photo::notHashed);
                 if (isStopped)
                     return;
                 if (photo->isHashed())

@@ -77,7 +77,7 @@ private:
         const auto hash = ContentHash::of(path, isStopped);
         return hash && std::ranges::any_of(same, [&](Photo *photo) {
                    if (!photo->isHashed())
-                       photo->hash = ContentHash::of(photo->path, isStopped).value_or(Photo::Hash());
+                       photo->hash = ContentHash::of(photo->path, isStopped).value_or(Photo::notHashed);
                    return photo->hash == *hash;
                });
     }

@@ -36,6 +36,21 @@ int sharedEnd(const QString &one, const QString &other)
     return count;
 }
 
+/// Taken back or done again, the pictures are missing or there as their files are now.
+std::function<ChangeResult()> withALook(const std::function<ChangeResult()> &way, PhotoShelf &shelf,
+                                        const QList<int> &records)
+{
+    return [way, &shelf, records] {
+        const ChangeResult result = way();
+        if (result == ChangeResult::Done) {
+            std::ignore = shelf.note(records, [&shelf](Photo &photo) {
+                photo.set(Photo::NotThere, !QFileInfo(shelf.filePath(photo)).isFile());
+            });
+        }
+        return result;
+    };
+}
+
 } // namespace
 
 /// The part that runs on the other thread.
@@ -59,6 +74,7 @@ public:
         assignOthers();
         return m_found;
     }
+    int soughtCount() const { return int(m_photos.size() + std::size_t(m_others.size())); }
 
 private:
     void findMissing(const Walker::Stop &isStopped)
@@ -178,8 +194,9 @@ void FindAgain::start(const QString &folder)
         m_walker.tell([this, done, total] { emit progressed(done, total); });
     };
     m_walker.start([=](const Walker::Stop &isStopped) { *found = walk->run(folder, isStopped, progress); },
-                   [this, found](bool wasStopped) {
+                   [this, walk, found](bool wasStopped) {
                        m_found = *found;
+                       m_sought = walk->soughtCount();
                        emit finished(wasStopped);
                    });
 }
@@ -194,13 +211,15 @@ std::optional<UndoStep> FindAgain::linkOwn(const std::vector<FoundPicture> &chos
     if (paths.isEmpty())
         return UndoStep{};
     const QList<int> records = paths.keys();
-    const auto step = m_shelf.changeAsPart(
+    auto step = m_shelf.changeAsPart(
         records, {}, [&](Photo &photo) { photo.path = m_shelf.storedPath(paths.value(photo.record)); });
     if (step) {
         std::ignore = m_shelf.note(records, [&](Photo &photo) {
             photo.fileTime = PictureFiles::timeOf(paths.value(photo.record));
             photo.set(Photo::NotThere, false);
         });
+        for (auto *way : {&step->undo, &step->redo})
+            *way = withALook(*way, m_shelf, records);
     }
     return step;
 }

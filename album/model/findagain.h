@@ -48,6 +48,8 @@ public:
     bool isRunning() const { return m_walker.isRunning(); }
 
     const std::vector<FoundPicture> &found() const { return m_found; }
+    /// How many were looked for: all that are missing, whether the album knew so before or not.
+    int soughtCount() const { return m_sought; }
 
     /// Links those anew, in one step that can be taken back. False, and the user was told by the shelf, where
     /// nothing was changed.
@@ -66,5 +68,6 @@ private:
     PhotoShelf &m_shelf;
     const Others m_others;
     std::vector<FoundPicture> m_found;
+    int m_sought = 0;
     Walker m_walker;
 };

@@ -13,6 +13,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 using KeptTexts::Into;
@@ -97,13 +100,13 @@ bool replace(const QString &path, QByteArrayView content)
     return true;
 }
 
-Written writeBeside(const QString &path, const PictureTexts &texts, QDate today)
+Written writeBeside(const QString &path, const PictureTexts &texts, QDate today, const QStringList &goneDates)
 {
     const QString beside = KeptTexts::besidePath(path);
     const QByteArray former = contentOf(beside, mostBeside);
     if (QFileInfo::exists(beside) && (former.isEmpty() || hasEntities(former)))
         return {.why = TextLines::damagedBeside()};
-    const MetadataChange change = TextsOfPicture::change(inText(former), texts, today);
+    const MetadataChange change = TextsOfPicture::change(inText(former), texts, today, goneDates);
     if (change.isNothing())
         return {.isKept = true, .why = {}};
     const QByteArray text = module()->writeBeside(former, change);
@@ -130,7 +133,7 @@ QByteArray changed(const QByteArray &bytes, const MetadataChange &change)
     return PictureData::isSame(bytes, result) ? result : QByteArray();
 }
 
-Written writeInto(const QString &path, const PictureTexts &texts, QDate today)
+Written writeInto(const QString &path, const PictureTexts &texts, QDate today, const QStringList &goneDates)
 {
     if (QFileInfo(path).size() > mostWritten)
         return {.why = TextLines::tooLarge()};
@@ -140,7 +143,7 @@ Written writeInto(const QString &path, const PictureTexts &texts, QDate today)
     Metadata found;
     if (bytes.isEmpty() || !module()->read(bytes, found))
         return {.why = TextLines::wouldLose()};
-    const MetadataChange change = TextsOfPicture::change(found, texts, today);
+    const MetadataChange change = TextsOfPicture::change(found, texts, today, goneDates);
     if (change.isNothing())
         return {.isKept = true, .why = {}};
     const QByteArray result = changed(bytes, change);
@@ -148,6 +151,15 @@ Written writeInto(const QString &path, const PictureTexts &texts, QDate today)
         return {.why = TextLines::wouldLose()};
     const bool isKept = replace(path, result);
     return {.isKept = isKept, .why = isKept ? QString() : TextLines::diskRefused()};
+}
+
+/// What a picture's own orientation becomes by quarter turns to the right.
+int turned(int orientation, int turns)
+{
+    static constexpr std::array next{6, 7, 8, 5, 2, 3, 4, 1}; // of 1 to 8
+    for (int i = 0; i < turns; ++i)
+        orientation = next[std::size_t(std::clamp(orientation, 1, 8) - 1)];
+    return orientation;
 }
 
 bool isWritableKind(const QString &path)
@@ -191,29 +203,34 @@ FoundTexts KeptTexts::read(const QString &path, QDate today)
     return found;
 }
 
-Written KeptTexts::write(const QString &path, const PictureTexts &texts, Into into, QDate today)
+Written KeptTexts::write(const QString &path, const PictureTexts &texts, Into into, QDate today,
+                         const QStringList &goneDates)
 {
     if (!module())
         return {.why = TextLines::notBuiltIn()};
     if (!QFileInfo(path).isFile())
         return {.why = TextLines::pictureNotThere()};
     if (into == Into::Beside || !isWritableKind(path))
-        return writeBeside(path, texts, today);
+        return writeBeside(path, texts, today, goneDates);
     // What lies beside it would be believed before it.
     if (QFileInfo::exists(besidePath(path))) {
-        if (const Written written = writeBeside(path, texts, today); !written.isKept)
+        if (const Written written = writeBeside(path, texts, today, goneDates); !written.isKept)
             return written;
     }
-    return writeInto(path, texts, today);
+    return writeInto(path, texts, today, goneDates);
 }
 
 QByteArray KeptTexts::forGivingAway(const QByteArray &bytes, const PictureTexts &texts, QDate today,
-                                    Coordinates coordinates)
+                                    Coordinates coordinates, int turns)
 {
+    // Other formats have a mark for it, too, but few programs look at it there.
+    if (turns != 0 && PictureData::kindOf(bytes) != PictureData::Kind::Jpeg)
+        return {};
     Metadata found;
     if (!module() || hasEntities(bytes) || saidIn(bytes).isEmpty() || !module()->read(bytes, found))
         return {};
     MetadataChange change = TextsOfPicture::change(found, texts, today);
+    change.orientation = turns == 0 ? 0 : turned(found.orientation, turns);
     change.withoutCoordinates = coordinates == Coordinates::TakenOut && found.hasCoordinates;
     return change.isNothing() ? bytes : changed(bytes, change);
 }

@@ -31,15 +31,18 @@ struct Written {
 };
 
 /// Writes the texts. What the files say already in a longer form, of which `texts` have a cut one, stays
-/// whole; an empty date leaves the one that is there. The picture itself stays as it is, byte for byte, or
-/// nothing is written.
-Written write(const QString &path, const PictureTexts &texts, Into into, QDate today);
+/// whole; an empty date leaves the one that is there, unless it is one of `goneDates`, which were written
+/// there and are not meant any longer. The picture itself stays as it is, byte for byte, or nothing is
+/// written.
+Written write(const QString &path, const PictureTexts &texts, Into into, QDate today,
+              const QStringList &goneDates = {});
 
 enum class Coordinates { Left, TakenOut };
 
-/// The picture `bytes` as it is given away: with these texts in it, and as it was wished with or without the
-/// coordinates of where it was taken. Nothing where its format cannot be written, or would lose something.
+/// The picture `bytes` as it is given away: with these texts in it, as it was wished with or without the
+/// coordinates of where it was taken, and marked as turned to the right by so many quarters more. Nothing
+/// where its format cannot be written, or would lose something.
 QByteArray forGivingAway(const QByteArray &bytes, const PictureTexts &texts, QDate today,
-                         Coordinates coordinates);
+                         Coordinates coordinates, int turns = 0);
 
 } // namespace KeptTexts

@@ -21,6 +21,12 @@ inline QString albums(qsizetype count)
     return count == 1 ? u"1 album"_s : QLocale::c().toString(count) + u" albums"_s;
 }
 
+/// Where a picture would stand on paper.
+inline QString notShown(const QString &file, const QString &reason)
+{
+    return file + (reason.isEmpty() ? u" cannot be shown"_s : u": "_s + reason);
+}
+
 inline QString quoted(const QString &name)
 {
     return u"\u201c%1\u201d"_s.arg(name);
@@ -93,6 +99,13 @@ inline QString added(qsizetype count)
 inline QString removed(const QString &what)
 {
     return u"Taken off the list: "_s + what;
+}
+
+/// "What the album says was kept: 2 pictures"
+inline QString settled(qsizetype count, bool isForAlbum)
+{
+    return (isForAlbum ? u"What the album says was kept: "_s : u"What the picture says was taken: "_s) +
+           pictures(count);
 }
 
 inline QString albumAdded(const QString &album)

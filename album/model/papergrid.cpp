@@ -136,5 +136,5 @@ PaperGrid PaperGrid::ofPhotographs(PhotoSize size, const PageSetup &setup)
 PaperGrid PaperGrid::ofBook(const PageSetup &setup, double margin, double top, double height)
 {
     const QRectF body(margin, top, setup.sheet().width() - 2 * margin, height);
-    return divided(body, 2, 2, 2 * lineHeight(TextRole::Body) + lineHeight(TextRole::Small) + textGap);
+    return divided(body, 2, 2, 2 * lineHeight(TextRole::Body) + 2 * lineHeight(TextRole::Small) + textGap);
 }

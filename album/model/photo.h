@@ -25,7 +25,8 @@ struct Photo {
         LeftOutOfShows = 2,
         NotThere = 4 ///< when it was last looked for
     };
-    using Hash = std::array<quint8, 32>;  ///< BLAKE2b-256 of the file; zeros where it is not known yet
+    using Hash = std::array<quint8, 32>;  ///< BLAKE2b-256 of the file
+    static constexpr Hash notHashed{};    ///< where it is not known yet
     static constexpr int mostPeople = 16; ///< that lead to the address book
     static constexpr int mostRating = 5;
 
@@ -50,7 +51,7 @@ struct Photo {
 
     bool has(Bit bit) const { return (bits & bit) != 0; }
     void set(Bit bit, bool isSet) { bits = quint8(isSet ? bits | bit : bits & ~bit); }
-    bool isHashed() const { return hash != Hash(); }
+    bool isHashed() const { return hash != notHashed; }
 
     /// "IMG_0001.jpg"
     QString fileName() const;

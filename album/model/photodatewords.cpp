@@ -21,6 +21,8 @@ using Precision = PhotoDate::Precision;
 constexpr qsizetype shortestMonth = 3;
 constexpr int yearsPerCentury = 100;
 constexpr int firstSeason = 21;
+constexpr int winter = 24;
+constexpr int firstPhotograph = 1826;
 constexpr std::array<QStringView, 4> seasons{u"spring", u"summer", u"autumn", u"winter"};
 constexpr std::array<QStringView, 8> decades{u"twenties", u"thirties",  u"forties",  u"fifties",
                                              u"sixties",  u"seventies", u"eighties", u"nineties"};
@@ -35,7 +37,7 @@ public:
         , m_maySmallNumbers(maySmallNumbers)
     {}
 
-    QByteArray read(QString text) const;
+    QByteArray read(const QString &text) const;
 
 private:
     QByteArray span(const QString &text) const;
@@ -60,6 +62,16 @@ bool isNumber(QStringView text)
 QByteArray digits(int number, int width)
 {
     return QByteArray::number(number).rightJustified(width, '0');
+}
+
+/// "1982" of "1982/83", in which a winter lies; the same where it is anything else.
+QString firstOfTwo(const QString &years)
+{
+    const QStringList both = years.split(u'/');
+    const bool areYears = both.size() == 2 && isNumber(both[0]) && isNumber(both[1]) && both[1].size() < 5;
+    const bool isNext =
+        areYears && (both[0].toInt() + 1) % yearsPerCentury == both[1].toInt() % yearsPerCentury;
+    return isNext ? both[0] : years;
 }
 
 /// Takes the first of these words off the beginning of `text`.
@@ -129,7 +141,8 @@ QByteArray TypedDates::monthOrSeason(const QStringList &words) const
         return {};
     for (const auto &[name, number] : {std::pair(words[0], words[1]), std::pair(words[1], words[0])}) {
         const int month = std::max(monthNumber(name), seasonNumber(name));
-        const QByteArray yearText = month > 0 ? year(number, true) : QByteArray();
+        const QString first = month == winter ? firstOfTwo(number) : number;
+        const QByteArray yearText = month > 0 ? year(first, true) : QByteArray();
         if (!yearText.isEmpty())
             return yearText + '-' + digits(month, 2);
     }
@@ -204,7 +217,7 @@ QByteArray TypedDates::span(const QString &text) const
         if (isNumber(end) && end.size() == 2 && from.size() == 4)
             end.prepend(QString::fromLatin1(from.first(2)));
         const QByteArray to = part(end);
-        const QByteArray both = from + '/' + to;
+        QByteArray both = from + '/' + to;
         if (!from.isEmpty() && !to.isEmpty() && PhotoDate::fromEdtf(both).isUnderstood())
             return both;
     }
@@ -212,7 +225,7 @@ QByteArray TypedDates::span(const QString &text) const
     return since.isEmpty() ? since : since + "/..";
 }
 
-QByteArray TypedDates::read(QString text) const
+QByteArray TypedDates::read(const QString &text) const
 {
     if (const PhotoDate known = PhotoDate::fromEdtf(text.toUpper().toUtf8());
         known.isUnderstood() && text.contains(u"..") && text.size() <= PhotoDate::width)
@@ -326,16 +339,22 @@ QDate widened(QDate day, const PhotoDate::Part &part, int direction)
         return day.addMonths(direction * months);
     case Precision::Day:
     case Precision::Moment:
-        return day.addDays(direction * days);
+        return day.addDays(qint64(direction) * days);
     }
     return day;
 }
 
 } // namespace
 
+/// Nothing was photographed before there were photographs, nor in a time to come.
 std::optional<PhotoDate> PhotoDateWords::read(QStringView text, DateStyle style, QDate today)
 {
-    return readTyped(text, style, today, true);
+    const auto date = readTyped(text, style, today, true);
+    if (!date || date->isNone())
+        return date;
+    const bool isToCome = date->first().isValid() && date->first() > today;
+    const bool isTooEarly = date->last().isValid() && date->last().year() < firstPhotograph;
+    return isToCome || isTooEarly ? std::nullopt : date;
 }
 
 std::optional<PhotoDate> PhotoDateWords::readSought(QStringView text, DateStyle style, QDate today)

@@ -245,6 +245,7 @@ QString PhotoShelf::nameOf(int album) const
 
 bool PhotoShelf::refuse(const QString &line)
 {
+    m_refusal = line;
     emit said(line);
     return false;
 }

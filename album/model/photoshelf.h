@@ -33,6 +33,8 @@ public:
 
     /// Why nothing may be changed; empty where it may.
     QString whyLocked() const;
+    /// Why the last thing that was refused was.
+    QString refusal() const { return m_refusal; }
     /// Those of the files that hold nothing of ours: nothing is written to them.
     QStringList foreignFiles() const;
     /// Gives such a file another name, "Photobk3 (set aside).Fil", and begins an empty one. False, and the
@@ -126,4 +128,5 @@ private:
     const DataFolder &m_folder;
     ShelfRecords m_records;
     QString m_whyLocked;
+    QString m_refusal;
 };

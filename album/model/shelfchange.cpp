@@ -83,6 +83,12 @@ void ShelfChange::writePhoto(int number, const QByteArray &before, const QByteAr
             });
 }
 
+void ShelfChange::add(const ShelfChange &later)
+{
+    m_photos.insert(m_photos.end(), later.m_photos.begin(), later.m_photos.end());
+    m_places.insert(m_places.end(), later.m_places.begin(), later.m_places.end());
+}
+
 void ShelfChange::writePlace(int number, const QByteArray &before, const QByteArray &after)
 {
     compare(AlbumFile::fields, before, after,

@@ -27,6 +27,9 @@ public:
     /// The same of the albums and places.
     void writePlace(int number, const QByteArray &before, const QByteArray &after);
 
+    /// Adds what another change does behind this one, to other records.
+    void add(const ShelfChange &later);
+
     bool isEmpty() const { return m_photos.empty() && m_places.empty(); }
     /// The records that it touches.
     QList<int> photos() const { return recordsOf(m_photos); }

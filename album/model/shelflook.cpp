@@ -3,6 +3,7 @@
 
 #include "album/model/contenthash.h"
 #include "album/model/kepttexts.h"
+#include "album/model/lines.h"
 #include "album/model/photooffile.h"
 #include "album/model/photoshelf.h"
 #include "album/model/phototexts.h"
@@ -10,6 +11,7 @@
 
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -20,13 +22,45 @@ namespace {
 constexpr qsizetype atOnce = 200;
 constexpr int atOnceMs = 2000;
 
-/// Whether what was said in the file is what the record has of it.
-bool isSame(const PictureTexts &inAlbum, const PictureTexts &inPicture)
+/// What the file says as a record has it. A date counts only where somebody typed one here: the name of a
+/// file or its time contradicts nobody.
+PictureTexts ofFile(const FoundTexts &found, const PictureTexts &inAlbum)
 {
-    PictureTexts other = PhotoOfFile::cut(inPicture);
-    if (inAlbum.date.isEmpty())
-        other.date.clear(); // nobody typed another one
-    return inAlbum == other;
+    PictureTexts texts = PhotoOfFile::cut(found.texts);
+    if (inAlbum.date.isEmpty() || found.dateFound != DateFound::Picture)
+        texts.date.clear();
+    return texts;
+}
+
+/// Nothing takes the place of something: programs that send pictures strip them of all that is said in them.
+PictureTexts filledUp(PictureTexts texts, const PictureTexts &inAlbum)
+{
+    if (texts.caption.isEmpty())
+        texts.caption = inAlbum.caption;
+    if (texts.people.isEmpty())
+        texts.people = inAlbum.people;
+    if (texts.tags.isEmpty())
+        texts.tags = inAlbum.tags;
+    if (texts.rating == 0)
+        texts.rating = inAlbum.rating;
+    if (texts.date.isEmpty())
+        texts.date = inAlbum.date;
+    return texts;
+}
+
+/// Takes what the file says, and keeps what it says nothing of.
+void takeFilled(Photo &photo, const FoundTexts &found, const PictureTexts &texts)
+{
+    const PhotoDate date = photo.date;
+    const Photo::DateFrom dateFrom = photo.dateFrom;
+    FoundTexts filled = found;
+    filled.texts = texts;
+    filled.texts.date = found.texts.date;
+    PhotoOfFile::take(photo, filled);
+    if (found.dateFound != DateFound::Picture && !date.isNone()) {
+        photo.date = date;
+        photo.dateFrom = dateFrom;
+    }
 }
 
 void takeFacts(Photo &photo, const Photo &facts)
@@ -36,6 +70,20 @@ void takeFacts(Photo &photo, const Photo &facts)
     photo.width = facts.width;
     photo.height = facts.height;
     photo.hash = {};
+}
+
+/// Where one of them says nothing, the other's is kept.
+void settle(Photo &photo, const TextsConflict &conflict, bool isForAlbum)
+{
+    FoundTexts found = conflict.inPicture;
+    if (isForAlbum && !photo.date.isNone())
+        found.dateFound = DateFound::Nowhere;
+    const PictureTexts inAlbum = PhotoOfFile::texts(photo);
+    const PictureTexts inFile = ofFile(found, inAlbum);
+    const PictureTexts both = isForAlbum ? filledUp(inAlbum, inFile) : filledUp(inFile, inAlbum);
+    takeFacts(photo, conflict.facts);
+    takeFilled(photo, found, both);
+    photo.set(Photo::TextsInFile, both == inFile);
 }
 
 } // namespace
@@ -50,6 +98,8 @@ struct ShelfLook::Report {
     QList<int> missing;
     QList<int> there; ///< that were missing
     QHash<int, Changed> changed;
+    QHash<int, qint64> touched; ///< the same content, at another time
+    QHash<int, Photo> damaged;  ///< no pictures any more, or not yet again
     QHash<int, Photo::Hash> hashes;
 };
 
@@ -71,7 +121,7 @@ public:
         for (const Photo &photo : m_photos) {
             if (isStopped)
                 return;
-            lookAt(photo, files);
+            lookAt(photo, isStopped, files);
             const bool isThere = !files.away.contains(photo.record) && !files.missing.contains(photo.record);
             if (isThere && (!photo.isHashed() || files.changed.contains(photo.record)))
                 unknown.push_back(&photo);
@@ -81,7 +131,7 @@ public:
     }
 
 private:
-    void lookAt(const Photo &photo, Report &report) const
+    void lookAt(const Photo &photo, const Walker::Stop &isStopped, Report &report) const
     {
         const QFileInfo file(photo.path);
         if (!file.isFile()) {
@@ -95,8 +145,16 @@ private:
             report.there.append(photo.record);
         if (file.size() == photo.size && PictureFiles::timeOf(photo.path) == photo.fileTime)
             return;
-        Photo facts = PhotoOfFile::read(photo.path, m_today);
-        report.changed.insert(photo.record, {KeptTexts::read(photo.path, m_today), facts});
+        if (file.size() == photo.size && photo.isHashed() &&
+            ContentHash::of(photo.path, isStopped) == photo.hash) {
+            report.touched.insert(photo.record, PictureFiles::timeOf(photo.path));
+            return;
+        }
+        const Photo facts = PhotoOfFile::read(photo.path, m_today);
+        if (facts.width == 0 && photo.width > 0)
+            report.damaged.insert(photo.record, facts);
+        else
+            report.changed.insert(photo.record, {KeptTexts::read(photo.path, m_today), facts});
     }
 
     static void readContents(const std::vector<const Photo *> &photos, const Walker::Stop &isStopped,
@@ -155,9 +213,19 @@ void ShelfLook::take(const Report &report)
     note(known(report.hashes.keys()), [&](Photo &photo) { photo.hash = report.hashes.value(photo.record); });
     if (!report.isOfFiles)
         return;
+    note(known(report.touched.keys()),
+         [&](Photo &photo) { photo.fileTime = report.touched.value(photo.record); });
+    note(known(report.damaged.keys()), [&](Photo &photo) {
+        photo.size = report.damaged.value(photo.record).size;
+        photo.fileTime = report.damaged.value(photo.record).fileTime;
+    });
     m_away = report.away;
+    const QList<int> before = waiting();
+    m_conflicts.clear();
     for (const auto &[record, changed] : report.changed.asKeyValueRange())
         takeChanged(record, changed.found, changed.facts);
+    if (waiting() != before)
+        emit conflictsChanged();
     emit looked();
 }
 
@@ -167,36 +235,59 @@ void ShelfLook::takeChanged(int record, const FoundTexts &found, const Photo &fa
     if (!photo)
         return;
     const PictureTexts inAlbum = PhotoOfFile::texts(*photo);
-    const bool isAlike = isSame(inAlbum, found.texts);
+    const PictureTexts inFile = ofFile(found, inAlbum);
+    const PictureTexts both = filledUp(inFile, inAlbum);
+    const bool isNew = both != inAlbum;
     const bool mayTake = photo->has(Photo::TextsInFile) || inAlbum.isEmpty();
-    if (!isAlike && !mayTake) {
-        std::erase_if(m_conflicts, [record](const TextsConflict &other) { return other.record == record; });
-        m_conflicts.push_back({record, inAlbum, found, facts});
-        emit conflictsChanged();
+    if (isNew && !mayTake) {
+        m_conflicts.push_back({record, found, facts});
         return; // the record knows the file as it was, until it is settled: so it is seen again the next time
     }
     std::ignore = m_shelf.note({record}, [&](Photo &changed) {
         takeFacts(changed, facts);
-        if (isAlike)
-            changed.set(Photo::TextsInFile, !inAlbum.isEmpty());
-        else
-            PhotoOfFile::take(changed, found);
+        if (isNew || inAlbum.isEmpty())
+            takeFilled(changed, found, both);
+        changed.set(Photo::TextsInFile, both == inFile && !both.isEmpty());
     });
 }
 
-void ShelfLook::settle(int record, Keep keep)
+bool ShelfLook::settle(const QList<int> &records, Keep keep)
+{
+    QList<int> settled = records;
+    settled.removeIf([this](int record) { return !conflictOf(record); });
+    auto step = m_shelf.changeAsPart(
+        settled, AlbumLines::settled(settled.size(), keep == Keep::InAlbum),
+        [&](Photo &photo) { ::settle(photo, *conflictOf(photo.record), keep == Keep::InAlbum); });
+    if (!step || !step->undo)
+        return false;
+    std::erase_if(m_conflicts, [&](const TextsConflict &other) { return settled.contains(other.record); });
+    for (auto *way : {&step->undo, &step->redo}) {
+        *way = [way = *way, look = QPointer<ShelfLook>(this)] {
+            const ChangeResult result = way();
+            if (look && result == ChangeResult::Done)
+                emit look->outdated();
+            return result;
+        };
+    }
+    m_shelf.tell(*step);
+    if (keep == Keep::InAlbum)
+        emit keptInAlbum(settled);
+    emit conflictsChanged();
+    emit outdated();
+    return true;
+}
+
+const TextsConflict *ShelfLook::conflictOf(int record) const
 {
     const auto found = std::ranges::find(m_conflicts, record, &TextsConflict::record);
-    if (found == m_conflicts.end())
-        return;
-    const TextsConflict conflict = *found;
-    m_conflicts.erase(found);
-    std::ignore = m_shelf.note({record}, [&](Photo &photo) {
-        takeFacts(photo, conflict.facts);
-        if (keep == Keep::InPicture)
-            PhotoOfFile::take(photo, conflict.inPicture);
-    });
-    if (keep == Keep::InAlbum)
-        emit keptInAlbum(record);
-    emit conflictsChanged();
+    return found == m_conflicts.end() ? nullptr : &*found;
+}
+
+QList<int> ShelfLook::waiting() const
+{
+    QList<int> records;
+    for (const TextsConflict &conflict : m_conflicts)
+        records.append(conflict.record);
+    std::ranges::sort(records);
+    return records;
 }

@@ -16,7 +16,6 @@ class PhotoShelf;
 /// A picture whose texts were changed in its file and in the album: which are right is for the person to say.
 struct TextsConflict {
     int record = 0;
-    PictureTexts inAlbum;
     FoundTexts inPicture;
     Photo facts; ///< of the file in which they were found
 };
@@ -41,16 +40,19 @@ public:
     /// Those that wait for an answer.
     const std::vector<TextsConflict> &conflicts() const { return m_conflicts; }
     enum class Keep { InAlbum, InPicture };
-    /// Answers one: what the album says stays (and is written, if the album is to), or what the picture says
-    /// is taken.
-    void settle(int record, Keep keep);
+    /// Answers these in one step that can be taken back, after which they wait again: what the album says
+    /// stays (and is written, if the album is to), or what the picture says is taken. Where one of them says
+    /// nothing, the other's is kept. False where the disk refuses.
+    bool settle(const QList<int> &records, Keep keep);
 
 signals:
     /// All files were looked at; contents may still be read.
     void looked();
     void conflictsChanged();
-    /// What the album says of a picture is to stand in its file after all.
-    void keptInAlbum(int record);
+    /// What the album says of these pictures is to stand in their files after all.
+    void keptInAlbum(const QList<int> &records);
+    /// The records know other files than before, which are to be looked at.
+    void outdated();
     /// Contents are known as well.
     void finished();
 
@@ -60,6 +62,8 @@ private:
 
     void take(const Report &report);
     void takeChanged(int record, const FoundTexts &found, const Photo &facts);
+    const TextsConflict *conflictOf(int record) const;
+    QList<int> waiting() const;
 
     PhotoShelf &m_shelf;
     QSet<int> m_away;

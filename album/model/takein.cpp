@@ -44,7 +44,7 @@ QString copied(const QString &path, const QString &folder)
     if (bytes.size() != source.size() || !QDir().mkpath(folder) ||
         !Saving::replaceFile(DataFolder(folder), name, bytes))
         return {};
-    const QString target = folder + u'/' + name;
+    QString target = folder + u'/' + name;
     QFile file(target);
     if (file.open(QIODevice::ReadWrite))
         file.setFileTime(source.lastModified(), QFileDevice::FileModificationTime);
@@ -204,7 +204,7 @@ private:
     static bool isHashed(Photo &photo, bool isThere, const Walker::Stop &isStopped)
     {
         if (!photo.isHashed() && isThere)
-            photo.hash = ContentHash::of(photo.path, isStopped).value_or(Photo::Hash());
+            photo.hash = ContentHash::of(photo.path, isStopped).value_or(Photo::notHashed);
         return photo.isHashed();
     }
 
@@ -229,7 +229,6 @@ void TakeIn::start(const Wish &wish)
         return;
     m_wish = wish;
     m_result = {};
-    m_isRefused = false;
     m_steps.clear();
     const auto report = [this](const Batch &batch) { m_walker.tell([this, batch] { take(batch); }); };
     auto walk = std::make_shared<Walk>(wish, known(), m_shelf.folder(), report);
@@ -250,7 +249,7 @@ TakeIn::Known TakeIn::known() const
 
 void TakeIn::take(const Batch &batch)
 {
-    if (m_isRefused)
+    if (!m_result.whyNoMore.isEmpty())
         return;
     QList<int> intoAlbum = batch.known;
     intoAlbum.removeAll(0);
@@ -262,7 +261,7 @@ void TakeIn::take(const Batch &batch)
             m_steps.push_back(*step);
             std::ranges::transform(photos, std::back_inserter(m_result.added), &Photo::record);
         } else {
-            m_isRefused = true; // the list is full, or the disk: the shelf has said it
+            m_result.whyNoMore = m_shelf.refusal();
             m_walker.stop();
         }
     }
@@ -291,7 +290,7 @@ void TakeIn::findAgain(int record, const QString &path)
 
 void TakeIn::finish(bool wasStopped)
 {
-    m_result.wasStopped = wasStopped;
+    m_result.wasStopped = wasStopped && m_result.whyNoMore.isEmpty();
     const UndoStep all =
         UndoSteps::joined(AlbumLines::added(m_result.added.size()), std::exchange(m_steps, {}));
     if (all.undo)

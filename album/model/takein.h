@@ -42,7 +42,8 @@ public:
         int known = 0;       ///< were on the list already
         int foundAgain = 0;  ///< were missing, and lie here now
         QStringList refused; ///< what is no file, paths that a record cannot keep, what could not be copied
-        bool wasStopped = false;
+        bool wasStopped = false; ///< by the person
+        QString whyNoMore{};     ///< the list is full, or the disk: the others were left out
     };
 
     explicit TakeIn(PhotoShelf &shelf, QObject *parent = nullptr);
@@ -83,6 +84,5 @@ private:
     Wish m_wish;
     Result m_result;
     std::vector<UndoStep> m_steps;
-    bool m_isRefused = false;
     Walker m_walker;
 };

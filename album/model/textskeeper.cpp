@@ -59,7 +59,7 @@ TextsKeeper::Seen TextsKeeper::seenOf(const Photo &photo)
 {
     const std::size_t texts =
         qHashMulti(0, photo.caption, photo.people, photo.tags, photo.rating, photo.date.edtf());
-    return {texts, photo.size, photo.fileTime, photo.has(Photo::TextsInFile)};
+    return {texts, photo.size, photo.fileTime, photo.has(Photo::TextsInFile), PhotoOfFile::texts(photo).date};
 }
 
 void TextsKeeper::see()
@@ -85,6 +85,8 @@ void TextsKeeper::notice(const QList<int> &records)
         if (now.texts == before.texts || isOfFile)
             continue;
         changed.append(record);
+        if (!before.typedDate.isEmpty() && before.typedDate != now.typedDate)
+            m_goneDates[record].append(before.typedDate);
         if (now.isInFile)
             outdated.append(record);
     }
@@ -138,8 +140,11 @@ void TextsKeeper::startNext()
         return;
     std::vector<Task> tasks;
     for (const int record : std::exchange(m_waiting, {})) {
-        if (const auto task = taskFor(record))
+        const QStringList goneDates = m_goneDates.take(record);
+        if (const auto task = taskFor(record)) {
             tasks.push_back(*task);
+            tasks.back().goneDates = goneDates;
+        }
     }
     if (tasks.empty())
         return;
@@ -151,11 +156,12 @@ void TextsKeeper::startNext()
                 m_walker.tell([this, record = task.record] { emit foundChanged(record); });
                 continue;
             }
-            const KeptTexts::Written written = KeptTexts::write(task.path, task.texts, task.into, today);
+            const KeptTexts::Written written =
+                KeptTexts::write(task.path, task.texts, task.into, today, task.goneDates);
             // Known by its content at once, should it be moved before the next look.
             const Photo::Hash hash = written.isKept
-                                         ? ContentHash::of(task.path, isStopped).value_or(Photo::Hash())
-                                         : Photo::Hash();
+                                         ? ContentHash::of(task.path, isStopped).value_or(Photo::notHashed)
+                                         : Photo::notHashed;
             m_walker.tell([this, task, written, hash] { take(task, written, hash); });
         }
     };

@@ -45,6 +45,7 @@ private:
         qint64 size = 0;
         qint64 fileTime = 0;
         bool isInFile = false;
+        QString typedDate{}; ///< empty where no person typed one
     };
     struct Task {
         int record = 0;
@@ -53,6 +54,7 @@ private:
         qint64 size = 0;     ///< of the file that the record knows
         qint64 fileTime = 0; ///< of it
         KeptTexts::Into into = KeptTexts::Into::Picture;
+        QStringList goneDates{}; ///< that may stand in the file
     };
 
     static Seen seenOf(const Photo &photo);
@@ -66,5 +68,6 @@ private:
     const QDate m_today;
     QHash<int, Seen> m_seen;
     QList<int> m_waiting;
+    QHash<int, QStringList> m_goneDates; ///< typed under those that wait, and meant no longer
     Walker m_walker;
 };

@@ -100,6 +100,28 @@ bool isChange(const Text &text, const Text &before, bool isEverywhere)
     return text.isEmpty() ? !before.isEmpty() : !isEverywhere && !isCutOf(text, before);
 }
 
+/// The date of a record as it is written.
+void putDate(MetadataChange &change, const QString &date)
+{
+    const QByteArray text = date.toLatin1();
+    change.xmpCreated = text;
+    if (date.size() == 19 && date[10] == u'T') {
+        QByteArray exif = text;
+        exif[4] = exif[7] = ':';
+        exif[10] = ' ';
+        change.exifOriginal = exif;
+    }
+}
+
+/// Takes out what says that date, and nothing that says another one.
+void takeOutDate(MetadataChange &change, const Metadata &found, const QString &date, QDate today)
+{
+    if (TakenDate::fromProgram(found.xmpCreated, today) == date)
+        change.xmpCreated = QByteArray();
+    if (TakenDate::fromCamera(found.exifOriginal, today) == date)
+        change.exifOriginal = QByteArray();
+}
+
 } // namespace
 
 PictureTexts TextsOfPicture::of(const Metadata &found, QDate today)
@@ -113,7 +135,8 @@ PictureTexts TextsOfPicture::of(const Metadata &found, QDate today)
     return texts;
 }
 
-MetadataChange TextsOfPicture::change(const Metadata &found, const PictureTexts &texts, QDate today)
+MetadataChange TextsOfPicture::change(const Metadata &found, const PictureTexts &texts, QDate today,
+                                      const QStringList &goneDates)
 {
     const PictureTexts before = of(found, today);
     MetadataChange change;
@@ -131,13 +154,9 @@ MetadataChange TextsOfPicture::change(const Metadata &found, const PictureTexts 
         change.tags = tags;
     if (texts.rating != before.rating)
         change.rating = texts.rating;
-    if (!texts.date.isEmpty() && texts.date != before.date) {
-        change.xmpCreated = texts.date.toLatin1();
-        if (texts.date.size() == 19 && texts.date[10] == u'T') {
-            change.exifOriginal = change.xmpCreated;
-            change.exifOriginal[4] = change.exifOriginal[7] = ':';
-            change.exifOriginal[10] = ' ';
-        }
-    }
+    if (!texts.date.isEmpty() && texts.date != before.date)
+        putDate(change, texts.date);
+    else if (texts.date.isEmpty() && goneDates.contains(before.date))
+        takeOutDate(change, found, before.date, today);
     return change;
 }

@@ -14,7 +14,8 @@ namespace TextsOfPicture {
 PictureTexts of(const Metadata &found, QDate today);
 
 /// What has to be changed for it to say `texts`. What it says already, or says in a longer form of which
-/// `texts` have a cut one, is no change.
-MetadataChange change(const Metadata &found, const PictureTexts &texts, QDate today);
+/// `texts` have a cut one, is no change. Where `texts` have no date, one of `goneDates` is taken out.
+MetadataChange change(const Metadata &found, const PictureTexts &texts, QDate today,
+                      const QStringList &goneDates = {});
 
 } // namespace TextsOfPicture

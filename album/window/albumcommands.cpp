@@ -7,9 +7,11 @@
 #include "album/window/albumpane.h"
 #include "album/window/albumview.h"
 #include "album/window/windowlines.h"
+#include "shell/controls/taskpanel.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/frame/workviews.h"
 #include "shell/program/program.h"
 
 #include <QActionGroup>
@@ -52,7 +54,7 @@ AlbumCommands::AlbumCommands(const AlbumDesk &desk, AlbumPane &pane, QObject *pa
 
 QString AlbumCommands::whyNoAlbum() const
 {
-    const QString why = m_desk.shelf.whyLocked();
+    QString why = m_desk.shelf.whyLocked();
     if (!why.isEmpty())
         return why;
     return m_desk.photos.shownAlbum() ? QString() : AlbumWindowLines::chooseAlbum();
@@ -73,6 +75,8 @@ void AlbumCommands::addCommands(QMenu *albums)
         albums, u"mACover"_s, u"Use Picture as &Cover"_s, [this] { setCover(); },
         [this] {
             const QString why = whyNoAlbum();
+            if (why.isEmpty() && qobject_cast<TaskPanel *>(m_desk.views.currentWidget()))
+                return AlbumWindowLines::leavePanelFirst();
             return !why.isEmpty() || m_desk.photos.chosen().size() == 1 ? why : AlbumWindowLines::onlyOne();
         }));
     albums->addSeparator();

@@ -10,6 +10,7 @@
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/workviews.h"
+#include "shell/pictures/picturereading.h"
 #include "shell/preview/previewpane.h"
 #include "shell/program/program.h"
 
@@ -78,6 +79,8 @@ void AlbumPrint::openPanel()
     }
     const bool areSeveral = m_desk.photos.chosen().size() > 1;
     m_records = m_desk.photos.chosenOrAll();
+    const PhotoAlbum *album = m_desk.photos.shownAlbum();
+    m_album = album ? album->record : 0;
     m_name = AlbumWindowLines::title(m_desk.photos.shown(), m_desk.photos.shownAlbum(),
                                      m_desk.program.clock.today(), m_desk.program.state.dateStyle);
     m_desk.window.closePreview();
@@ -103,6 +106,13 @@ void AlbumPrint::makeReady()
     m_desk.commands.refresh();
 }
 
+/// What cannot be read is given up soon, however large it is.
+QString AlbumPrint::whyNotReady(int record) const
+{
+    const Photo *photo = m_desk.shelf.photo(record);
+    return photo ? PictureReading::read(m_desk.shelf.filePath(*photo), {16, 16}).reason : QString();
+}
+
 void AlbumPrint::showPages()
 {
     m_places.activity.showProgress(0, 0);
@@ -113,7 +123,11 @@ void AlbumPrint::showPages()
     for (std::size_t i = 0; i < count; ++i) {
         pictures[i].path = m_copies.pictures()[i].path;
         pictures[i].pixels = m_copies.pictures()[i].pixels;
+        if (pictures[i].path.isEmpty())
+            pictures[i].reason = whyNotReady(m_records[qsizetype(i)]);
     }
+    if (const PhotoAlbum *album = m_desk.shelf.album(m_album))
+        m_options.cover = int(std::max<qsizetype>(0, m_records.indexOf(m_desk.shelf.coverOf(album->record))));
     m_desk.commands.refresh();
     m_desk.window.showPreview(
         [name = m_name, pictures = std::move(pictures), options = m_options](const PageContext &context) {

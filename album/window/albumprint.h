@@ -33,6 +33,7 @@ private:
     QString whyNone() const;
     void openPanel();
     void makeReady();
+    QString whyNotReady(int record) const;
     void showPages();
 
     AlbumDesk m_desk;
@@ -40,6 +41,7 @@ private:
     PictureCopies m_copies;
     AlbumPrintPanel *m_panel = nullptr;
     QString m_name;
+    int m_album = 0; ///< that is printed; 0: none
     QList<int> m_records;
     AlbumPages::Options m_options;
 };

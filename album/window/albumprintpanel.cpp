@@ -28,13 +28,13 @@ constexpr std::array sizes{PhotoSize::Inches4x6, PhotoSize::Inches5x7, PhotoSize
 
 AlbumPrintPanel::AlbumPrintPanel(QWidget *parent)
     : TaskPanel(u"albumPrintPanel"_s, u"Print Options"_s, parent)
-    , m_what(named(makeQuietLabel({}, this), u"albumPrintWhat"_s))
+    , m_what(named(makeHeading({}, this), u"albumPrintWhat"_s))
     , m_forms(new ChoiceGrid(u"albumPrintForm"_s, this))
     , m_perSheet(makeChoice(u"albumPrintPerSheet"_s, u"Pictures to a sheet"_s))
     , m_size(makeChoice(u"albumPrintSize"_s, u"Size of the photographs"_s))
     , m_perBookSheet(makeChoice(u"albumPrintPerPage"_s, u"Pictures to a page of the book"_s))
     , m_filled(
-          named(new QCheckBox(u"Cut pictures to the sha&pe of their places"_s, this), u"albumPrintFilled"_s))
+          named(new QCheckBox(u"Cu&t pictures to the shape of their places"_s, this), u"albumPrintFilled"_s))
     , m_captions(named(new QCheckBox(u"&Captions"_s, this), u"albumPrintCaptions"_s))
     , m_dates(named(new QCheckBox(u"&Dates"_s, this), u"albumPrintDates"_s))
 {
@@ -42,6 +42,7 @@ AlbumPrintPanel::AlbumPrintPanel(QWidget *parent)
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins({});
     column->setSpacing(8);
+    m_what->setWordWrap(true);
     column->addWidget(m_what);
     column->addSpacing(4);
     makeForms();
@@ -80,9 +81,9 @@ void AlbumPrintPanel::makeForms()
     for (const int count : AlbumPages::perBookSheetOffered)
         m_perBookSheet->addItem(AlbumWindowLines::toAPage(count), count);
     m_perSheet->setCurrentIndex(int(AlbumPages::perSheetOffered.size()) - 2); // nine
-    m_forms->add(u"Se&veral to a sheet"_s, m_perSheet);
-    m_forms->add(u"&Photographs with cutting marks"_s, m_size);
-    m_forms->add(u"C&ontact sheet with file names"_s);
+    m_forms->add(u"&Several to a sheet"_s, m_perSheet);
+    m_forms->add(u"Photog&raphs with cutting marks"_s, m_size);
+    m_forms->add(u"Contact sheet with &file names"_s);
     m_forms->add(u"A &book with title, contents and stories"_s, m_perBookSheet);
 }
 

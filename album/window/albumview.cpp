@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSlider>
@@ -23,6 +24,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int sliderWidth = 120;
+constexpr int narrowSliderWidth = 64;
+constexpr int narrowWidth = 440;
 const QString sideKey = u"Windows/PhotoVIEW1/side"_s;
 const QString sortingKey = u"Windows/PhotoVIEW1/sorting"_s;
 } // namespace
@@ -32,7 +35,7 @@ AlbumView::AlbumView(Program &program, PhotoShelf &shelf, PictureQueue &queue, Q
     , m_program(program)
     , m_shelf(shelf)
     , m_search(shelf)
-    , m_tiles(new PhotoTiles(program, shelf, this))
+    , m_tiles(new PhotoTiles(program, shelf, queue, this))
     , m_grid(named(new PhotoGrid(queue, m_tiles), u"photoGrid"_s))
     , m_order(named(new QComboBox(this), u"photoOrder"_s))
     , m_size(named(new QSlider(Qt::Horizontal, this), u"photoSize"_s))
@@ -76,6 +79,13 @@ QWidget *AlbumView::makeTools()
     connect(m_size, &QSlider::valueChanged, this, &AlbumView::setSide);
     connect(m_order, &QComboBox::activated, this, &AlbumView::orderChosen);
     return tools;
+}
+
+/// In a narrow window the title needs the room more than the slider does.
+void AlbumView::resizeEvent(QResizeEvent *event)
+{
+    TitledView::resizeEvent(event);
+    m_size->setFixedWidth(event->size().width() < narrowWidth ? narrowSliderWidth : sliderWidth);
 }
 
 void AlbumView::setSide(int side)
@@ -172,8 +182,9 @@ void AlbumView::showOrder()
 
 void AlbumView::showTitle()
 {
-    titleLine().setTitle(
-        AlbumWindowLines::title(m_shown, shownAlbum(), m_program.clock.today(), m_program.state.dateStyle));
+    const QString title =
+        AlbumWindowLines::title(m_shown, shownAlbum(), m_program.clock.today(), m_program.state.dateStyle);
+    titleLine().setTitle(title, title); // in smaller letters where it is narrow
     showCount();
 }
 
@@ -184,7 +195,7 @@ void AlbumView::showCount()
         m_find->setVisible(areMissing);
         foot().rearrange();
     }
-    foot().setWords(AlbumWindowLines::count(int(chosen().size()), m_tiles->rowCount()));
+    foot().setWords(AlbumWindowLines::count(int(chosen().size()), m_tiles->rowCount(), m_grid->isMarking()));
 }
 
 void AlbumView::showEmptiness()

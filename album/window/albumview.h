@@ -64,6 +64,7 @@ signals:
 
 protected:
     void refresh() override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *makeTools();

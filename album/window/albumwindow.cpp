@@ -32,6 +32,7 @@
 
 #include <QMenu>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSet>
 #include <QShowEvent>
 #include <QStandardPaths>
@@ -146,14 +147,14 @@ void PhotoVIEW1::makeButtons()
         return commands().button(command, name, caption.isEmpty() ? command->text() : caption, &foot, kind);
     };
     ButtonRow &foot = m_photos->foot();
-    foot.addLeft(add(foot, m_commands->outCommand(), u"takeOut"_s, {}));
-    foot.addRight(add(foot, m_look->largeCommand(), u"showLarge"_s, u"Show &Large"_s, ButtonKind::Main));
+    foot.addLeft(add(foot, m_commands->outCommand(), u"takeOut"_s, u"&Take Out of Album"_s));
+    foot.addRight(add(foot, m_look->largeCommand(), u"showLarge"_s, u"Sho&w Large"_s, ButtonKind::Main));
     foot.addRight(add(foot, standard(Standard::Exit), u"exitButton"_s, u"E&xit"_s));
     ButtonRow &largeFoot = m_large->foot();
-    largeFoot.addLeft(add(largeFoot, m_commands->leftCommand(), u"turnLeft"_s, {}));
+    largeFoot.addLeft(add(largeFoot, m_commands->leftCommand(), u"turnLeft"_s, u"&Turn Left"_s));
     largeFoot.addLeft(add(largeFoot, m_commands->rightCommand(), u"turnRight"_s, {}));
     largeFoot.addLeft(add(largeFoot, m_look->zoomCommand(), u"fullSize"_s, {}));
-    largeFoot.addRight(add(largeFoot, m_look->previousCommand(), u"previousPicture"_s, u"&Previous"_s));
+    largeFoot.addRight(add(largeFoot, m_look->previousCommand(), u"previousPicture"_s, u"Previou&s"_s));
     largeFoot.addRight(add(largeFoot, m_look->nextCommand(), u"nextPicture"_s, u"Ne&xt"_s));
     largeFoot.addRight(
         add(largeFoot, m_look->backCommand(), u"backToGrid"_s, u"&Back to All"_s, ButtonKind::Main));
@@ -218,6 +219,8 @@ void PhotoVIEW1::connectParts()
         if (const PhotoAlbum *album = m_photos->shownAlbum())
             m_shelf->arrange(album->record, records, before);
     });
+    connect(&grid, &PictureGrid::markingChanged, this,
+            [this, &grid] { activity().say(grid.isMarking() ? AlbumWindowLines::howToMark() : QString()); });
     connect(&grid, &PhotoGrid::refused, this, [this] { activity().say(AlbumWindowLines::notByHand()); });
     connect(&grid, &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
         findChild<QMenu *>(u"mE"_s)->popup(m_photos->grid().viewport()->mapToGlobal(place));
@@ -266,6 +269,10 @@ void PhotoVIEW1::connectCare()
         }
     });
     connect(m_keep, &KeepCommands::said, this, [this](const QString &line) { activity().say(line); });
+    connect(m_keep, &KeepCommands::linked, this, [this](const QString &line) {
+        activity().say(line);
+        undoStack().offer();
+    });
     connect(m_keep, &KeepCommands::cardsOffered, this, [this](const QString &line) {
         activity().say(line);
         activity().offerWay(KeepingLines::bringIn(), [this] { m_keep->openCards(); });
@@ -323,8 +330,34 @@ void PhotoVIEW1::bring(const PhotosShown &shown)
     commands().refresh();
 }
 
+/// What was typed and refused is mended, or given up by Esc, before other pictures are chosen.
+bool PhotoVIEW1::returnsToRefused()
+{
+    m_details->finish();
+    const QList<int> refused = m_details->refused();
+    const QList<int> &shown = m_photos->records();
+    const bool areShown =
+        std::ranges::all_of(refused, [&shown](int record) { return shown.contains(record); });
+    if (refused.isEmpty() || !areShown || !m_stack->isHome() || m_photos->chosen() == refused)
+        return false;
+    QMetaObject::invokeMethod( // behind the click that chose others
+        this,
+        [this, refused] {
+            {
+                const QScopedValueRollback<bool> returning(m_isReturning, true);
+                m_photos->choose(refused);
+            }
+            m_details->show(m_photos->chosen());
+            m_details->mend();
+        },
+        Qt::QueuedConnection);
+    return true;
+}
+
 void PhotoVIEW1::followChoice()
 {
+    if (m_isReturning || returnsToRefused())
+        return;
     m_details->show(m_photos->chosen());
     commands().refresh();
 }

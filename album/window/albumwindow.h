@@ -49,6 +49,7 @@ private:
     void bring(const PhotosShown &shown);
     void showTaken(const QList<int> &records);
     void followChoice();
+    bool returnsToRefused();
     void followView();
     void tellLocked();
 
@@ -67,5 +68,6 @@ private:
     ShowCommands *m_shows;
     KeepCommands *m_keep;
     AlbumPrint *m_print;
-    bool m_isBegun = false; ///< the files were looked after once
+    bool m_isReturning = false; ///< to what was refused
+    bool m_isBegun = false;     ///< the files were looked after once
 };

@@ -9,6 +9,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int enoughWidth = 760; ///< for both side by side
+constexpr int lowHeight = 560;   ///< too little for one below the other, if there is any width
+constexpr int leastWidth = 540;
 constexpr int detailsWidth = 288;
 constexpr double detailsShare = 0.34; ///< of the height, below
 } // namespace
@@ -28,7 +30,8 @@ AlbumWork::AlbumWork(QWidget *pictures, QWidget *details, QWidget *parent)
 
 void AlbumWork::resizeEvent(QResizeEvent *event)
 {
-    const Qt::Orientation wanted = width() < TypeScale::wide(enoughWidth) ? Qt::Vertical : Qt::Horizontal;
+    const int enough = height() < TypeScale::wide(lowHeight) ? leastWidth : enoughWidth;
+    const Qt::Orientation wanted = width() < TypeScale::wide(enough) ? Qt::Vertical : Qt::Horizontal;
     const bool isTurned = wanted != orientation();
     if (isTurned) {
         setOrientation(wanted);

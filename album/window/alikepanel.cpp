@@ -5,6 +5,7 @@
 #include "album/model/photoshelf.h"
 #include "album/window/aliketile.h"
 #include "album/window/keepinglines.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/program/program.h"
 
@@ -24,10 +25,13 @@ constexpr int pictureSide = 360;
 constexpr int listWidth = 300;
 constexpr int mostTiles = 12; ///< of one group; more are seen when some of these are gone
 
-std::vector<TableColumn<AlikePictures>> columns()
+/// By the name of the first of them.
+std::vector<TableColumn<AlikePictures>> columns(const PhotoShelf &shelf)
 {
-    return {{u"Alike"_s, Qt::AlignLeft, [](const AlikePictures &group) {
-                 return KeepingLines::group(group.records.size(), group.isSameContent);
+    return {{u"Alike"_s, Qt::AlignLeft, [&shelf](const AlikePictures &group) {
+                 const Photo *first = shelf.photo(group.records.value(0));
+                 const QString words = KeepingLines::group(group.records.size(), group.isSameContent);
+                 return first ? first->fileName() + u": "_s + words : words;
              }}};
 }
 
@@ -43,14 +47,14 @@ AlikePanel::AlikePanel(const Program &program, PhotoShelf &shelf, const QString 
     , m_alike(shelf, &m_thumbnails)
     , m_queue(thumbnails)
     , m_what(makeQuietLabel({}, this))
-    , m_model(new RowsModel<AlikePictures>(columns(), this))
+    , m_model(new RowsModel<AlikePictures>(columns(shelf), this))
     , m_view(named(new QTableView(this), u"alikeList"_s))
     , m_out(nullptr)
     , m_trash(nullptr)
 {
     m_queue.setSide(int(pictureSide * devicePixelRatioF()));
     setWalkWork(makeWork());
-    m_trash = addButton(u"alikeTrash"_s, u"Move to &Trash..."_s, ButtonKind::Plain, Side::Left);
+    m_trash = addButton(u"alikeTrash"_s, u"&Move to Trash..."_s, ButtonKind::Plain, Side::Left);
     m_out = addButton(u"alikeOut"_s, u"Ta&ke Off the List"_s, ButtonKind::Main);
     setLeave(setLeaveButton(u"alikeClose"_s, u"C&lose"_s));
     setFocusProxy(m_view);
@@ -113,6 +117,7 @@ void AlikePanel::start(const QList<int> &photos, int album)
         return;
     m_album = album;
     m_out->setText(album == 0 ? u"Ta&ke Off the List"_s : u"Ta&ke Out of the Album"_s);
+    buttonRow().rearrange();
     m_model->setRows({});
     m_what->setText(u"The pictures are being compared..."_s);
     showGroup();

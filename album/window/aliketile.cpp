@@ -28,8 +28,8 @@ AlikeTile::AlikeTile(int place, QWidget *parent)
     column->setContentsMargins({});
     column->setSpacing(8);
     column->addWidget(m_frame);
+    column->addWidget(m_goes); // above the facts, which have more lines here than there
     column->addWidget(m_facts);
-    column->addWidget(m_goes);
     column->addStretch(1);
     connect(m_goes, &QCheckBox::toggled, this, &AlikeTile::goingChanged);
 }

@@ -2,6 +2,7 @@
 #include "album/window/cardspanel.h"
 
 #include "album/window/keepinglines.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/tablework.h"
 
 #include <QDir>
@@ -83,6 +84,7 @@ void CardsPanel::follow()
     const QModelIndex current = m_view->currentIndex();
     const qsizetype count = current.isValid() ? m_model->row(current.row()).fresh.size() : 0;
     m_take->setText(KeepingLines::copyIn(count));
+    buttonRow().rearrange();
     setUnavailable(m_take, count > 0 ? QString() : u"There is nothing new to copy"_s);
     setUnavailable(m_again, isWalking() ? u"It is being looked at"_s : QString());
 }

@@ -4,6 +4,7 @@
 #include "album/model/photoshelf.h"
 #include "album/window/foundtable.h"
 #include "album/window/keepinglines.h"
+#include "shell/controls/buttonrow.h"
 #include "shell/controls/tablework.h"
 #include "shell/program/program.h"
 
@@ -94,7 +95,7 @@ void FindAgainPanel::finish(bool wasStopped)
     const auto &found = m_find->found();
     m_table->setFound(found);
     m_what->setText(
-        KeepingLines::found(qsizetype(found.size()), m_find->missingCount(), m_folder, wasStopped));
+        KeepingLines::found(qsizetype(found.size()), m_find->soughtCount(), m_folder, wasStopped));
     if (found.empty()) {
         m_choose->setFocus();
         return;
@@ -107,6 +108,7 @@ void FindAgainPanel::follow()
 {
     const auto count = qsizetype(m_table->ticked().size());
     m_link->setText(KeepingLines::link(count));
+    buttonRow().rearrange();
     setUnavailable(m_link, count > 0 ? QString() : KeepingLines::tickFirst());
 }
 

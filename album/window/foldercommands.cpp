@@ -11,6 +11,7 @@
 #include "shell/frame/workviews.h"
 #include "shell/program/program.h"
 
+#include <QDir>
 #include <QMenu>
 #include <QSettings>
 #include <QStandardPaths>
@@ -62,7 +63,7 @@ void FolderCommands::openConflicts()
     if (m_care.look().conflicts().empty())
         return;
     if (!m_conflicts) {
-        m_conflicts = new ConflictPanel(m_desk.program, m_desk.shelf, m_care.look());
+        m_conflicts = new ConflictPanel(m_desk, m_care.look());
         m_desk.views.addPanel(m_conflicts);
     }
     m_desk.window.closePreview();
@@ -71,13 +72,22 @@ void FolderCommands::openConflicts()
     m_conflicts->setFocus();
 }
 
+/// The one that was chosen last, or where the system keeps pictures, as far as it is there.
+QString FolderCommands::usualFolder() const
+{
+    for (const QString &folder : {m_desk.program.store.value(folderKey).toString(),
+                                  QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)}) {
+        if (!folder.isEmpty() && QDir(folder).exists())
+            return folder;
+    }
+    return QDir::homePath();
+}
+
 /// An album that is shown takes them in.
 void FolderCommands::choose()
 {
-    const QString usual = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     const std::optional<QString> folder =
-        m_desk.program.dialogs.chooseFolder(&m_desk.window, AlbumWindowLines::noPictures(),
-                                            m_desk.program.store.value(folderKey, usual).toString());
+        m_desk.program.dialogs.chooseFolder(&m_desk.window, AlbumWindowLines::noPictures(), usualFolder());
     if (!folder)
         return;
     m_desk.program.store.setValue(folderKey, *folder);

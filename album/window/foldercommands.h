@@ -29,6 +29,7 @@ public:
     void openConflicts();
 
 private:
+    QString usualFolder() const;
     void choose();
 
     AlbumDesk m_desk;

@@ -100,7 +100,7 @@ void KeepCommands::openFind()
     if (!m_find) {
         m_find = new FindAgainPanel(m_desk.program, m_desk.shelf, &m_desk.window);
         m_desk.views.addPanel(m_find);
-        connect(m_find, &FindAgainPanel::said, this, &KeepCommands::said);
+        connect(m_find, &FindAgainPanel::said, this, &KeepCommands::linked);
     }
     m_find->start(others());
     open(m_find);

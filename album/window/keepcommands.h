@@ -30,6 +30,8 @@ public:
 
 signals:
     void said(const QString &line);
+    /// Pictures were linked anew, which can be taken back.
+    void linked(const QString &line);
     /// New pictures are on a card: a line that leads to them.
     void cardsOffered(const QString &line);
 

@@ -80,7 +80,8 @@ QString KeepingLines::group(qsizetype count, bool isSame)
 
 QString KeepingLines::alikeFacts(const Photo &photo, const QString &date, const QStringList &albums)
 {
-    QStringList lines{photo.fileName(), AlbumWindowLines::facts(photo), date, albums.join(u", "_s)};
+    QStringList lines{photo.caption, photo.fileName(), AlbumWindowLines::facts(photo), date,
+                      albums.join(u", "_s)};
     lines.removeAll(QString());
     return lines.join(u'\n');
 }

@@ -16,8 +16,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-constexpr int sideStep = 256;                    ///< a window that grows a little needs no other picture
-constexpr qsizetype mostKept = 48 * 1024 * 1024; ///< bytes: this one, and those before and behind it
+constexpr int sideStep = 256;              ///< a window that grows a little needs no other picture
+constexpr qsizetype mostKept = 50'331'648; ///< bytes (48 MiB): this one, and those before and behind it
 constexpr int mostWordLines = 4;
 } // namespace
 
@@ -38,7 +38,7 @@ LargeView::LargeView(const Program &program, const PhotoShelf &shelf, const QStr
     m_words->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     addContent(m_canvas, 1);
     addContent(m_words);
-    m_canvas->setMinimumHeight(160);
+    m_canvas->setMinimumHeight(120);
     setFocusProxy(m_canvas);
     connect(m_canvas, &PictureCanvas::stepRequested, this, &LargeView::step);
     connect(m_canvas, &PictureCanvas::endRequested, this, &LargeView::goToEnd);
@@ -141,14 +141,20 @@ void LargeView::showPicture()
 {
     const PictureQueue::Kept kept = m_queue.kept(record());
     m_canvas->setPicture(kept.image, kept.reason.isEmpty() ? PictureLines::loading() : kept.reason);
+    showWords(); // which tell why a picture is shown as it is
 }
 
 void LargeView::showWords()
 {
     const Photo *photo = m_shelf.photo(record());
-    titleLine().setTitle(photo ? AlbumWindowLines::nameOf(*photo) : QString());
+    const QString name = photo ? AlbumWindowLines::nameOf(*photo) : QString();
+    titleLine().setTitle(name, name); // in smaller letters where it is narrow
     m_count->setText(photo ? AlbumWindowLines::place(m_row, int(m_records.size())) : QString());
-    const QString words = photo ? AlbumWindowLines::below(*photo, m_program.state.dateStyle) : QString();
+    QString words = photo ? AlbumWindowLines::below(*photo, m_program.state.dateStyle) : QString();
+    if (photo) {
+        const QString sign = AlbumWindowLines::sign(*photo, m_queue.kept(photo->record).look);
+        words += (words.isEmpty() || sign.isEmpty() ? QString() : u"\n"_s) + sign;
+    }
     m_words->setText(words);
     m_words->setVisible(!words.isEmpty());
     m_canvas->setAccessibleName(photo ? AlbumWindowLines::spoken(*photo, m_program.state.dateStyle)

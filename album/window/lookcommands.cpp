@@ -33,7 +33,7 @@ const std::array<ViewFace, 5> &viewFaces()
 {
     static const std::array<ViewFace, 5> faces{
         {{ShelfView::Kind::All, u"mVAll"_s, u"&All Pictures"_s},
-         {ShelfView::Kind::NoAlbum, u"mVNone"_s, u"In &No Album"_s},
+         {ShelfView::Kind::NoAlbum, u"mVNone"_s, u"In N&o Album"_s},
          {ShelfView::Kind::OnThisDay, u"mVDayOf"_s, u"On &This Day"_s},
          {ShelfView::Kind::NoDate, u"mVNoDate"_s, u"Without a Dat&e"_s},
          {ShelfView::Kind::Missing, u"mVMiss"_s, u"&Missing"_s}}};
@@ -90,7 +90,6 @@ void LookCommands::addLarge(QMenu *view)
     m_zoom = commands.add(
         view, u"mVZoom"_s, u"&Full Size"_s, [this] { m_large.turnZoom(); }, unlessLarge,
         QKeySequence(Qt::CTRL | Qt::Key_0));
-    m_zoom->setCheckable(true);
     m_previous = commands.add(
         view, u"mVPrev"_s, u"&Previous Picture\tPgUp"_s, [this] { m_large.step(-1); }, unlessLarge);
     m_next = commands.add(
@@ -129,5 +128,6 @@ void LookCommands::refresh()
     const PhotosShown &shown = m_desk.photos.shown();
     for (const auto &[kind, action] : m_views)
         action->setChecked(shown.isOf(kind));
-    m_zoom->setChecked(m_large.canvas().zoom() == PictureCanvas::Zoom::OneToOne);
+    const bool isOneToOne = m_large.canvas().zoom() == PictureCanvas::Zoom::OneToOne;
+    m_desk.commands.setCaption(m_zoom, isOneToOne ? u"&Fit to Window"_s : u"&Full Size"_s);
 }

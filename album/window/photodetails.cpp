@@ -107,7 +107,11 @@ QLineEdit *PhotoDetails::makeBox(Field field)
         auto *limit = new ByteLimit(box, face.bytes);
         connect(limit, &ByteLimit::reached, this, [this] { emit said(AlbumWindowLines::textFull()); });
     }
-    connect(box, &QLineEdit::editingFinished, this, [this, field] { take(field); });
+    connect(box, &QLineEdit::editingFinished, this, [this, field] {
+        take(field);
+        QMetaObject::invokeMethod( // behind the way that the key leads
+            this, [this, field] { backTo(field); }, Qt::QueuedConnection);
+    });
     return box;
 }
 
@@ -147,8 +151,11 @@ void PhotoDetails::layOut()
 void PhotoDetails::show(const QList<int> &records)
 {
     finish();
-    for (QLineEdit *box : m_boxes)
-        box->setModified(false); // what was refused goes with its picture
+    if (records != m_records) { // what was refused goes with its picture
+        for (QLineEdit *box : m_boxes)
+            box->setModified(false);
+        m_story->document()->setModified(false);
+    }
     m_records = records;
     m_records.removeIf([this](int record) { return !m_shelf.photo(record); });
     refresh();
@@ -160,7 +167,7 @@ void PhotoDetails::refresh()
         return;
     m_records.removeIf([this](int record) { return !m_shelf.photo(record); });
     const bool isAny = !m_records.isEmpty();
-    m_nothing->setVisible(!isAny);
+    m_nothing->setVisible(!isAny && !m_shelf.photos().empty());
     m_scroll->setVisible(isAny);
     m_title->setVisible(isAny);
     m_facts->setVisible(isAny);
@@ -217,16 +224,15 @@ QStringList PhotoDetails::sharedList(Field field) const
     return entries;
 }
 
-/// What is typed just now stays, and is compared with what the records hold when it is taken.
+/// What is typed just now or was refused stays, and is compared with what the records hold when it is taken.
 void PhotoDetails::showField(Field field)
 {
     QLineEdit *box = m_boxes[std::size_t(field)];
     const std::optional<QString> text = shared(field);
     const bool isMixed = !text && !isList(field);
     const QString shown = isList(field) ? PhotoTexts::joined(sharedList(field)) : text.value_or(QString());
-    const bool isTyped = box->hasFocus() && box->isModified();
     m_shown[std::size_t(field)] = shown;
-    if (!isTyped && box->text() != shown)
+    if (!box->isModified() && box->text() != shown)
         box->setText(shown);
     box->setPlaceholderText(!text ? AlbumWindowLines::differing(isMixed) : QString());
 }
@@ -236,7 +242,7 @@ void PhotoDetails::showStory()
     const QString first = m_shelf.photo(m_records.first())->story;
     const bool isShared =
         std::ranges::all_of(m_records, [&](int record) { return m_shelf.photo(record)->story == first; });
-    const bool isTyped = m_story->hasFocus() && m_story->document()->isModified();
+    const bool isTyped = m_story->document()->isModified();
     m_shownStory = isShared ? first : QString();
     m_story->setPlaceholderText(isShared ? QString() : AlbumWindowLines::differing(true));
     if (isTyped)
@@ -253,7 +259,7 @@ void PhotoDetails::showFacts()
     m_title->setText(isOne ? first.fileName() : AlbumLines::pictures(int(m_records.size())));
     m_facts->setText(isOne ? AlbumWindowLines::facts(first) : AlbumWindowLines::severalHint());
     m_facts->setToolTip(isOne ? first.path : QString());
-    m_dateWords->setText(isOne ? AlbumWindowLines::dateFrom(first) : QString());
+    m_dateWords->setText(isOne ? AlbumWindowLines::dateFrom(first, m_program.clock.today()) : QString());
     m_dateWords->setVisible(!m_dateWords->text().isEmpty());
     const bool isRatedSame = std::ranges::all_of(
         m_records, [&](int record) { return m_shelf.photo(record)->rating == first.rating; });
@@ -314,28 +320,29 @@ void PhotoDetails::take(Field field)
     const QString text = PhotoTexts::composed(box->text()).trimmed();
     if (text == m_shown[std::size_t(field)])
         return;
-    if (field == Date)
-        takeDate(text);
-    else if (isList(field))
-        takeList(field, text);
-    else
-        takeText(field, text);
+    const bool isTaken = field == Date   ? takeDate(text)
+                         : isList(field) ? takeList(field, text)
+                                         : takeText(field, text);
+    if (!isTaken)
+        box->setModified(true); // to be mended
+    refresh();
 }
 
-void PhotoDetails::takeText(Field field, const QString &text)
+bool PhotoDetails::takeText(Field field, const QString &text)
 {
-    change(AlbumWindowLines::changed(field == Caption ? u"Caption"_s : u"Place"_s, int(m_records.size())),
-           [field, &text](Photo &photo) { (field == Caption ? photo.caption : photo.place) = text; });
+    return change(
+        AlbumWindowLines::changed(field == Caption ? u"Caption"_s : u"Place"_s, int(m_records.size())),
+        [field, &text](Photo &photo) { (field == Caption ? photo.caption : photo.place) = text; });
 }
 
 /// Of several pictures, entries that were added come to each of them, and those that were taken away go.
-void PhotoDetails::takeList(Field field, const QString &text)
+bool PhotoDetails::takeList(Field field, const QString &text)
 {
     const QStringList before = PhotoTexts::list(m_shown[std::size_t(field)]);
     const QStringList typed = PhotoTexts::list(text);
     const auto merged = [&, isOne = m_records.size() == 1](QStringList own) {
         if (isOne)
-            return typed;
+            return QStringList(typed);
         own.removeIf([&](const QString &entry) { return before.contains(entry) && !typed.contains(entry); });
         for (const QString &entry : typed) {
             if (!own.contains(entry))
@@ -344,26 +351,25 @@ void PhotoDetails::takeList(Field field, const QString &text)
         return own;
     };
     const QList<KnownPerson> known = field == People ? persons() : QList<KnownPerson>();
-    change(AlbumWindowLines::changed(field == People ? u"People"_s : u"Tags"_s, int(m_records.size())),
-           [&](Photo &photo) {
-               const QStringList entries = merged(PhotoTexts::list(textOf(photo, field)));
-               if (field == People)
-                   setPeople(photo, entries, known);
-               else
-                   photo.setTags(entries);
-           });
+    return change(AlbumWindowLines::changed(field == People ? u"People"_s : u"Tags"_s, int(m_records.size())),
+                  [&](Photo &photo) {
+                      const QStringList entries = merged(PhotoTexts::list(textOf(photo, field)));
+                      if (field == People)
+                          setPeople(photo, entries, known);
+                      else
+                          photo.setTags(entries);
+                  });
 }
 
-void PhotoDetails::takeDate(const QString &text)
+bool PhotoDetails::takeDate(const QString &text)
 {
     const std::optional<PhotoDate> date =
         PhotoDateWords::read(text, m_program.state.dateStyle, m_program.clock.today());
-    if (!date) { // what was typed stays, to be mended
-        m_boxes[Date]->setModified(true);
+    if (!date) {
         emit said(PhotoDateWords::refusal());
-        return;
+        return false;
     }
-    change(AlbumWindowLines::changed(u"Date"_s, int(m_records.size())), [&](Photo &photo) {
+    return change(AlbumWindowLines::changed(u"Date"_s, int(m_records.size())), [&](Photo &photo) {
         photo.date = *date;
         photo.dateFrom = date->isNone() ? Photo::DateFrom::Nowhere : Photo::DateFrom::Typed;
     });
@@ -377,8 +383,11 @@ void PhotoDetails::takeStory()
     const QString text = PhotoTexts::composed(m_story->toPlainText());
     if (text == m_shownStory)
         return;
-    change(AlbumWindowLines::changed(u"Story"_s, int(m_records.size())),
-           [&text](Photo &photo) { photo.story = text; });
+    const bool isTaken = change(AlbumWindowLines::changed(u"Story"_s, int(m_records.size())),
+                                [&text](Photo &photo) { photo.story = text; });
+    if (!isTaken)
+        m_story->document()->setModified(true);
+    refresh();
 }
 
 void PhotoDetails::takeRating(int rating)
@@ -387,15 +396,39 @@ void PhotoDetails::takeRating(int rating)
         return;
     change(AlbumWindowLines::rated(rating, int(m_records.size())),
            [rating](Photo &photo) { photo.rating = quint8(rating); });
+    refresh();
 }
 
-void PhotoDetails::change(const QString &what, const PhotoShelf::Edit &edit)
+/// False where the disk refuses.
+bool PhotoDetails::change(const QString &what, const PhotoShelf::Edit &edit)
 {
-    {
-        const QScopedValueRollback<bool> taking(m_isTaking, true);
-        m_shelf.change(m_records, what, edit);
-    }
-    refresh(); // what the disk has refused goes back to what the records hold
+    const QScopedValueRollback<bool> taking(m_isTaking, true);
+    return m_shelf.change(m_records, what, edit);
+}
+
+/// What is no date, or what the disk refuses, is mended or given up by Esc before anything else.
+void PhotoDetails::backTo(Field field)
+{
+    QLineEdit *box = m_boxes[std::size_t(field)];
+    if (!box->isModified() || box->hasFocus() || !box->isVisible() || !isActiveWindow())
+        return;
+    box->setFocus();
+    box->selectAll();
+}
+
+QList<int> PhotoDetails::refused() const
+{
+    const bool isAny = m_story->document()->isModified() ||
+                       std::ranges::any_of(m_boxes, [](const QLineEdit *box) { return box->isModified(); });
+    return isAny ? m_records : QList<int>();
+}
+
+void PhotoDetails::mend()
+{
+    if (m_story->document()->isModified())
+        m_story->setFocus();
+    for (int field = 0; field < FieldCount; ++field)
+        backTo(Field(field));
 }
 
 void PhotoDetails::typeCaption()

@@ -32,6 +32,10 @@ public:
     void refresh();
     /// Takes what was typed so far.
     void finish();
+    /// For which pictures something typed was refused and still stands in its box; none otherwise.
+    QList<int> refused() const;
+    /// Goes back to the box in which it stands.
+    void mend();
     /// Puts the cursor into the caption.
     void typeCaption();
 
@@ -48,6 +52,7 @@ private:
     enum Field { Caption, People, Date, Place, Tags, FieldCount };
 
     void giveUp();
+    void backTo(Field field);
     QLineEdit *makeBox(Field field);
     void layOut();
     QString textOf(const Photo &photo, Field field) const;
@@ -60,12 +65,12 @@ private:
     void showPeople();
     void offerNames();
     void take(Field field);
-    void takeText(Field field, const QString &text);
-    void takeList(Field field, const QString &text);
-    void takeDate(const QString &text);
+    bool takeText(Field field, const QString &text);
+    bool takeList(Field field, const QString &text);
+    bool takeDate(const QString &text);
     void takeStory();
     void takeRating(int rating);
-    void change(const QString &what, const PhotoShelf::Edit &edit);
+    bool change(const QString &what, const PhotoShelf::Edit &edit);
     QList<KnownPerson> persons() const;
     bool isList(Field field) const { return field == People || field == Tags; }
 

@@ -47,15 +47,8 @@ PhotoExportPanel::PhotoExportPanel(const Program &program, PhotoShelf &shelf, QW
     fill(content);
     setWalkWork(content);
     m_run = addButton(u"exportRun"_s, u"E&xport"_s, ButtonKind::Main);
-    QPushButton *close = setLeaveButton(u"exportClose"_s, u"C&lose"_s);
-    setLeave(close);
+    setLeave(setLeaveButton(u"exportClose"_s, u"C&lose"_s));
     setFocusProxy(m_choose);
-    QWidget *last = m_originals;
-    for (QWidget *next :
-         std::initializer_list<QWidget *>{m_smaller, m_side, m_texts, m_noPlace, m_choose, m_run, close}) {
-        setTabOrder(last, next);
-        last = next;
-    }
     connect(m_choose, &QPushButton::clicked, this, &PhotoExportPanel::chooseFolder);
     connect(m_run, &QPushButton::clicked, this, &PhotoExportPanel::run);
     connect(m_smaller, &QRadioButton::toggled, m_side, &QWidget::setEnabled);

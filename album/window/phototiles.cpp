@@ -5,16 +5,21 @@
 #include "album/model/photoshelf.h"
 #include "album/window/windowlines.h"
 #include "shell/controls/itemdrag.h"
+#include "shell/pictures/picturequeue.h"
 #include "shell/program/program.h"
 
 #include <QMimeData>
 
 #include <algorithm>
 
-PhotoTiles::PhotoTiles(const Program &program, const PhotoShelf &shelf, QObject *parent)
+using namespace Qt::Literals::StringLiterals;
+
+PhotoTiles::PhotoTiles(const Program &program, const PhotoShelf &shelf, const PictureQueue &queue,
+                       QObject *parent)
     : PictureTiles(parent)
     , m_program(program)
     , m_shelf(shelf)
+    , m_queue(queue)
 {}
 
 bool PhotoTiles::setRecords(const QList<int> &records)
@@ -58,7 +63,7 @@ PictureTiles::Tile PhotoTiles::tile(int row) const
     if (!photo)
         return {};
     return {AlbumWindowLines::nameOf(*photo),
-            AlbumWindowLines::dateAndStars(*photo, m_program.state.dateStyle)};
+            AlbumWindowLines::starsAndDate(*photo, m_program.state.dateStyle)};
 }
 
 int PhotoTiles::rowCount(const QModelIndex &parent) const
@@ -77,12 +82,19 @@ QVariant PhotoTiles::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return AlbumWindowLines::nameOf(*photo);
     case Qt::AccessibleTextRole:
-        return AlbumWindowLines::spoken(*photo, m_program.state.dateStyle);
+        return withSign(AlbumWindowLines::spoken(*photo, m_program.state.dateStyle), u", "_s, *photo);
     case Qt::ToolTipRole:
-        return photo->fileName();
+        return withSign(photo->fileName(), u"\n"_s, *photo);
     default:
         return {};
     }
+}
+
+/// Why its tile bears a sign is told, too.
+QString PhotoTiles::withSign(const QString &words, const QString &between, const Photo &photo) const
+{
+    const QString sign = AlbumWindowLines::sign(photo, m_queue.kept(photo.record).look);
+    return sign.isEmpty() ? words : words + between + sign;
 }
 
 Qt::ItemFlags PhotoTiles::flags(const QModelIndex &index) const

@@ -6,6 +6,7 @@
 #include <QHash>
 
 class PhotoShelf;
+class PictureQueue;
 struct Photo;
 struct Program;
 
@@ -14,7 +15,8 @@ class PhotoTiles final : public PictureTiles
 {
     Q_OBJECT
 public:
-    PhotoTiles(const Program &program, const PhotoShelf &shelf, QObject *parent = nullptr);
+    PhotoTiles(const Program &program, const PhotoShelf &shelf, const PictureQueue &queue,
+               QObject *parent = nullptr);
 
     /// Shows these, in this order. False: they were shown already.
     bool setRecords(const QList<int> &records);
@@ -37,8 +39,11 @@ public:
     QMimeData *mimeData(const QModelIndexList &indexes) const override;
 
 private:
+    QString withSign(const QString &words, const QString &between, const Photo &photo) const;
+
     const Program &m_program;
     const PhotoShelf &m_shelf;
+    const PictureQueue &m_queue;
     QList<int> m_records;
     QHash<int, int> m_rows;
 };

@@ -56,7 +56,8 @@ ShelfCare::ShelfCare(const AlbumDesk &desk, ActivityBar &activity, QObject *pare
     });
     connect(&m_keeper, &TextsKeeper::foundChanged, this,
             [this] { m_look.start(m_desk.program.clock.today()); });
-    connect(&m_look, &ShelfLook::keptInAlbum, this, [this](int record) { m_keeper.write({record}); });
+    connect(&m_look, &ShelfLook::keptInAlbum, &m_keeper, &TextsKeeper::write);
+    connect(&m_look, &ShelfLook::outdated, this, [this] { m_look.start(m_desk.program.clock.today()); });
     connect(&desk.shelf, &PhotoShelf::listChanged, this, &ShelfCare::watch);
 }
 

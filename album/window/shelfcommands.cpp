@@ -7,6 +7,7 @@
 #include "album/window/photogrid.h"
 #include "album/window/shiftpanel.h"
 #include "album/window/windowlines.h"
+#include "shell/controls/taskpanel.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/commonkeys.h"
 #include "shell/frame/functionwindow.h"
@@ -47,9 +48,17 @@ QAction *ShelfCommands::add(QMenu *menu, const QString &name, const QString &cap
         menu, name, caption, first, [this] { return whyLocked(); }, key));
 }
 
+/// Behind a panel nobody sees which pictures are chosen.
+QString ShelfCommands::whyPanel() const
+{
+    const bool isPanel = qobject_cast<TaskPanel *>(m_desk.views.currentWidget());
+    return isPanel ? AlbumWindowLines::leavePanelFirst() : QString();
+}
+
 QString ShelfCommands::whyNone() const
 {
-    return m_desk.photos.chosen().isEmpty() ? AlbumWindowLines::choosePicture() : QString();
+    const QString why = whyPanel();
+    return why.isEmpty() && m_desk.photos.chosen().isEmpty() ? AlbumWindowLines::choosePicture() : why;
 }
 
 QString ShelfCommands::whyLocked() const
@@ -80,9 +89,13 @@ void ShelfCommands::addCommands(QMenu *edit)
     edit->addSeparator();
     m_desk.commands.add(
         edit, u"mEOpen"_s, u"Open in Another &Program"_s, [this] { open(); },
-        [this] { return m_desk.photos.chosen().size() == 1 ? QString() : AlbumWindowLines::onlyOne(); });
-    m_desk.commands.add(edit, u"mEAll"_s, u"Choose &All\tCtrl+A"_s,
-                        [this] { m_desk.photos.choose(m_desk.photos.records()); });
+        [this] {
+            const QString why = whyNone();
+            return why.isEmpty() && m_desk.photos.chosen().size() > 1 ? AlbumWindowLines::onlyOne() : why;
+        });
+    m_desk.commands.add(
+        edit, u"mEAll"_s, u"Choose &All\tCtrl+A"_s, [this] { m_desk.photos.choose(m_desk.photos.records()); },
+        [this] { return m_desk.photos.records().isEmpty() ? AlbumWindowLines::nothingShown() : whyPanel(); });
 }
 
 void ShelfCommands::addRatings(QMenu *edit)

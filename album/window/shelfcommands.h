@@ -44,6 +44,7 @@ private:
     void addRatings(QMenu *edit);
     void addAlbums(QMenu *edit);
     void fillAlbums();
+    QString whyPanel() const;
     QString whyNone() const;
     QString whyLocked() const;
     void turn(int quarters);

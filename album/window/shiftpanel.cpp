@@ -39,7 +39,7 @@ ShiftPanel::ShiftPanel(const Program &program, QWidget *parent)
     auto *row = new QHBoxLayout;
     row->setSpacing(12);
     row->addLayout(labelled(u"&Days"_s, m_days));
-    row->addLayout(labelled(u"&Hours"_s, m_hours));
+    row->addLayout(labelled(u"Hou&rs"_s, m_hours));
     row->addLayout(labelled(u"&Minutes"_s, m_minutes));
     row->addLayout(labelled(u"&Which way"_s, m_way));
     row->addStretch(1);
@@ -70,6 +70,7 @@ void ShiftPanel::start(const PhotoDate &first, int count)
     setTitle(AlbumWindowLines::shiftTitle(count));
     for (QSpinBox *box : {m_days, m_hours, m_minutes})
         box->setValue(0);
+    m_hours->selectAll(); // to be typed over
     m_way->setCurrentIndex(0);
     follow();
 }

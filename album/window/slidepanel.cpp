@@ -53,13 +53,7 @@ SlidePanel::SlidePanel(const Program &program, const PhotoShelf &shelf, QWidget 
     setContent(content);
     setFocusProxy(m_seconds);
     m_begin = addButton(u"slideBegin"_s, u"&Begin"_s, ButtonKind::Main);
-    QPushButton *close = setLeaveButton(u"slideClose"_s, u"C&lose"_s);
-    QWidget *last = m_seconds;
-    for (QWidget *next :
-         std::initializer_list<QWidget *>{m_screen, m_soft, m_shuffled, m_captions, m_begin, close}) {
-        setTabOrder(last, next);
-        last = next;
-    }
+    setLeaveButton(u"slideClose"_s, u"C&lose"_s);
     connect(m_begin, &QPushButton::clicked, this, [this] {
         remember();
         emit accepted();
@@ -107,7 +101,7 @@ void SlidePanel::fillScreens()
     const QList<QScreen *> screens = QGuiApplication::screens();
     const QString chosen = m_program.store.value(keys + "screen"_L1).toString();
     for (const QScreen *each : screens) {
-        const QSize size = each->size();
+        const QSize size = (QSizeF(each->size()) * each->devicePixelRatio()).toSize(); // in its own pixels
         const QString name = each->model().isEmpty() ? each->name() : each->model();
         m_screen->addItem(u"%1, %2 x %3"_s.arg(name).arg(size.width()).arg(size.height()), each->name());
         if (each->name() == chosen || (chosen.isEmpty() && each == screen()))

@@ -5,6 +5,7 @@
 #include "album/model/lines.h"
 #include "album/model/photodatewords.h"
 #include "album/model/phototexts.h"
+#include "album/model/takendate.h"
 #include "shell/core/dates.h"
 #include "shell/pictures/heifpictures.h"
 
@@ -45,12 +46,12 @@ QString nameOf(const Photo &photo)
     return photo.caption.isEmpty() ? photo.fileName() : photo.caption;
 }
 
-QString dateAndStars(const Photo &photo, const DateStyle &style)
+QString starsAndDate(const Photo &photo, const DateStyle &style)
 {
-    QString words = PhotoDateWords::words(photo.date, style);
-    if (photo.rating > 0)
-        words += (words.isEmpty() ? QString() : u"  "_s) + QString(int(photo.rating), u'★');
-    return words;
+    QString date = PhotoDateWords::words(photo.date, style);
+    if (photo.rating == 0)
+        return date;
+    return QString(int(photo.rating), u'★') + (date.isEmpty() ? QString() : u"  "_s) + date;
 }
 
 QString spoken(const Photo &photo, const DateStyle &style)
@@ -68,7 +69,7 @@ QString spoken(const Photo &photo, const DateStyle &style)
 QString below(const Photo &photo, const DateStyle &style)
 {
     QStringList parts;
-    for (const QString &part : {dateAndStars(photo, style), photo.place}) {
+    for (const QString &part : {starsAndDate(photo, style), photo.place}) {
         if (!part.isEmpty())
             parts.append(part);
     }
@@ -78,6 +79,18 @@ QString below(const Photo &photo, const DateStyle &style)
     if (!photo.story.isEmpty())
         words += (words.isEmpty() ? QString() : u"\n"_s) + photo.story;
     return words;
+}
+
+QString sign(const Photo &photo, PictureQueue::Look look)
+{
+    switch (look) {
+    case PictureQueue::Look::Away:
+        return photo.has(Photo::NotThere) ? u"Its file is missing"_s : u"Its disk is not plugged in"_s;
+    case PictureQueue::Look::Cut:
+        return u"Only a part of its file can be read"_s;
+    default:
+        return {};
+    }
 }
 
 QString facts(const Photo &photo)
@@ -93,12 +106,14 @@ QString facts(const Photo &photo)
     return parts.join(u", "_s);
 }
 
-QString dateFrom(const Photo &photo)
+QString dateFrom(const Photo &photo, QDate today)
 {
     switch (photo.dateFrom) {
     case Photo::DateFrom::Picture:
         return u"from the picture"_s;
     case Photo::DateFrom::File:
+        if (TakenDate::fromName(photo.fileName(), today) == QString::fromLatin1(photo.date.edtf()))
+            return u"from the file's name"_s;
         return u"from the file, which may be younger than the picture"_s;
     default:
         return {};
@@ -282,6 +297,8 @@ QString takenIn(const TakeIn::Result &result)
                                              : u"%1 taken in"_s.arg(pictures(result.added.size()))};
     if (result.wasStopped)
         parts.append(u"stopped"_s);
+    if (!result.whyNoMore.isEmpty())
+        parts.append(u"others left out"_s);
     if (result.foundAgain > 0)
         parts.append(u"%1 found again"_s.arg(number(result.foundAgain)));
     if (result.known > 0)
@@ -289,11 +306,14 @@ QString takenIn(const TakeIn::Result &result)
     if (!result.refused.isEmpty())
         parts.append(u"%1 not taken, such as %2"_s.arg(number(result.refused.size()),
                                                        QDir::toNativeSeparators(result.refused.first())));
-    return parts.join(u", "_s);
+    const QString words = parts.join(u", "_s);
+    return result.whyNoMore.isEmpty() ? words : result.whyNoMore + u": "_s + words;
 }
 
-QString count(int chosen, int shown)
+QString count(int chosen, int shown, bool areMarked)
 {
+    if (areMarked && chosen > 0)
+        return u"%1 marked"_s.arg(number(chosen));
     return chosen > 1 ? u"%1 of %2 chosen"_s.arg(number(chosen), pictures(shown)) : pictures(shown);
 }
 
@@ -316,7 +336,13 @@ QString bothChanged(const QString &file, int count)
 {
     const QString others =
         count > 1 ? u", and %1 after it"_s.arg(counted(count - 1, u"other"_s, u"others"_s)) : QString();
-    return u"Changed here and by another program: "_s + file + others;
+    return u"Changed here and by another program: %1%2. Where one of them says nothing, the other's is kept."_s
+        .arg(file, others);
+}
+
+QString settleOthers(int count)
+{
+    return count == 1 ? u"&For the other one, too"_s : u"&For the %1 others, too"_s.arg(number(count));
 }
 
 QString conflicts(int count)

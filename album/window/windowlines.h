@@ -6,6 +6,7 @@
 #include "album/model/takein.h"
 #include "album/window/shown.h"
 #include "shell/core/programstate.h"
+#include "shell/pictures/picturequeue.h"
 
 #include <QString>
 
@@ -18,18 +19,21 @@ using namespace Qt::Literals::StringLiterals;
 
 /// Its caption, or the name of its file.
 QString nameOf(const Photo &photo);
-/// "about 1974  ★★★"
-QString dateAndStars(const Photo &photo, const DateStyle &style);
+/// "★★★  about 1974": where there is little room, the date is cut.
+QString starsAndDate(const Photo &photo, const DateStyle &style);
 /// "Anne and Karin at the lake, about 1974, with Anne Lind and Karin, 3 stars".
 QString spoken(const Photo &photo, const DateStyle &style);
+/// Why a picture bears a sign: "Its disk is not plugged in"; empty where it bears none.
+QString sign(const Photo &photo, PictureQueue::Look look);
 /// "4000 x 3000, 2.3 MB, in Pictures/2019".
 QString facts(const Photo &photo);
 /// Where its date comes from: "from the picture".
-QString dateFrom(const Photo &photo);
+QString dateFrom(const Photo &photo, QDate today);
 /// Below the large picture: when, where and with whom, and its story.
 QString below(const Photo &photo, const DateStyle &style);
 /// Below the grid: "2,000 pictures", "3 of 2,000 pictures chosen".
-QString count(int chosen, int shown);
+/// `areMarked`: by Space, until Esc.
+QString count(int chosen, int shown, bool areMarked);
 /// "12 of 2,000".
 QString place(int row, int count);
 
@@ -71,7 +75,7 @@ inline QString noPictures()
 
 inline QString theyStay()
 {
-    return u"They stay where they are, and as they are: the album only remembers where that is."_s;
+    return u"They stay where they are: the album only remembers where that is."_s;
 }
 
 // The pane of what is known
@@ -128,6 +132,16 @@ inline QString notByHand()
     return u"Pictures are put in order by hand in an album whose order is By Hand"_s;
 }
 
+inline QString howToMark()
+{
+    return u"Space marks one more, Esc ends the marking"_s;
+}
+
+inline QString leavePanelFirst()
+{
+    return u"Close the panel first"_s;
+}
+
 inline QString onlyOne()
 {
     return u"Choose one picture alone"_s;
@@ -167,6 +181,8 @@ QString newAlbum();
 /// "Both were changed since: Lake.jpg, and 2 others".
 QString bothChanged(const QString &file, int count);
 QString conflicts(int count);
+/// "For the 12 others, too".
+QString settleOthers(int count);
 /// Which formats and fields this build has.
 QString whatIsRead();
 

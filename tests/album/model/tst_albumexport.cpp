@@ -6,14 +6,18 @@
 #include "album/model/photooffile.h"
 #include "album/model/photoshelf.h"
 #include "tests/support/failingdisk.h"
+#include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
+#include "tests/support/testphotographs.h"
 #include "tests/support/testpictures.h"
 
+#include <QImageReader>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QSignalSpy>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace TestPhotographs;
 
 namespace {
 
@@ -32,6 +36,13 @@ QImage drawn(QSize size, bool isOther = false)
     painter.fillRect(image.rect(), light);
     painter.fillRect(QRect(0, 0, size.width() / 3, size.height() / 4), isOther ? Qt::white : Qt::darkRed);
     return image;
+}
+
+QImage upright(const QString &path)
+{
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    return reader.read();
 }
 
 } // namespace
@@ -113,6 +124,33 @@ private slots:
             const QString path = m_data->path(u"out/001 wide.jpg"_s);
             QCOMPARE(KeptTexts::read(path, today).texts.caption, u"Wide"_s);
         }
+    }
+
+    void originalsAreTurnedAsInTheAlbum_data()
+    {
+        rows<QString, int, int>({{"to the right", u"lake.jpg"_s, 1, 1},
+                                 {"to the right, and by the camera", u"lake.jpg"_s, 1, 6},
+                                 {"half around, and mirrored by the camera", u"lake.jpg"_s, 2, 5},
+                                 {"a format without a mark", u"lake.png"_s, 3, 1}});
+    }
+    void originalsAreTurnedAsInTheAlbum()
+    {
+        const auto [name, turns, orientation] = row<QString, int, int>();
+        QImage image(64, 48, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter(&image).fillRect(0, 0, 32, 24, Qt::red);
+        const QString path = m_data->path(name);
+        QVERIFY(name.endsWith(u"png") ? image.save(path)
+                                      : !save(path, photograph(image, orientation)).isEmpty());
+        const int record = add(path);
+        QVERIFY(m_shelf->change({record}, u"Turned"_s,
+                                [turns = turns](Photo &photo) { photo.turns = quint8(turns); }));
+        QCOMPARE(exported({.records = {record}}).written, 1);
+        const QImage shown = upright(path).transformed(QTransform().rotate(90 * turns));
+        const QImage given = upright(m_data->path(u"out/001 lake.jpg"_s));
+        QCOMPARE(given.size(), shown.size());
+        for (const QPoint &corner : {QPoint(2, 2), QPoint(45, 2), QPoint(2, 45), QPoint(45, 45)})
+            QCOMPARE(qGreen(given.pixel(corner)) < 100, qGreen(shown.pixel(corner)) < 100);
     }
 
     void theDiskMayFailAtAnyStep()

@@ -157,7 +157,32 @@ private slots:
         const Page page =
             AlbumPages::page(u"Lake"_s, broken, {.perSheet = 4}, contextOf(PageMetrics::letter));
         QVERIFY(itemsOf<PlacedPicture>(page).isEmpty());
-        QCOMPARE(itemsOf<PlacedText>(page).constFirst().text, u"IMG_0.jpg"_s);
+        QCOMPARE(itemsOf<PlacedText>(page).constFirst().text, u"IMG_0.jpg cannot be shown"_s);
+        broken.front().reason = u"This is no picture"_s;
+        const Page book =
+            AlbumPages::page(u"Lake"_s, broken, {.form = Form::Book}, contextOf(PageMetrics::letter));
+        QVERIFY(book.toText().contains(u"IMG_0.jpg: This is no picture"_s));
+    }
+
+    void aBookBeginsWithItsCover()
+    {
+        const QString cover = makePicture(m_test.path(u"cover.png"_s), {40, 30}, Qt::red);
+        std::vector<Picture> all = pictures(3);
+        all[2].path = cover;
+        const Page page = AlbumPages::page(u"Lake"_s, all, {.form = Form::Book, .cover = 2},
+                                           contextOf(PageMetrics::letter));
+        QCOMPARE(itemsOf<PlacedPicture>(page).constFirst().path, cover);
+    }
+
+    void tellsItsYearsInTheirOrder()
+    {
+        std::vector<Picture> all = pictures(4);
+        all[0].chapter = u"2019"_s;
+        all[1].chapter = u"The 1980s"_s;
+        all[3].chapter = u"Without a date"_s;
+        const Page page =
+            AlbumPages::page(u"Lake"_s, all, {.form = Form::Book}, contextOf(PageMetrics::letter));
+        QVERIFY(page.toText().contains(u"1974 to 2019"_s));
     }
 
     void makesABookWithChapters_data()
@@ -171,6 +196,7 @@ private slots:
         std::vector<Picture> all = pictures(5);
         all[3].chapter = all[4].chapter = u"The 1980s"_s;
         all[1].story = QStringList{u"It was cold."_s, u"We laughed."_s};
+        all[2].where = u"Siljan, with Karl"_s;
         const Page page =
             AlbumPages::page(u"Grandmother"_s, all, {.form = Form::Book, .perBookSheet = perSheet}, context);
         QCOMPARE(sheetCount(page, context), sheets);
@@ -179,6 +205,7 @@ private slots:
                                      u"Contents"_s, u"1974\t3 pictures"_s, u"The 1980s\t2 pictures"_s,
                                      u"It was cold."_s, u"We laughed."_s, u"Anne and Karin"_s})
             QVERIFY2(text.contains(words), qPrintable(words));
+        QVERIFY(text.contains(all[2].where));
     }
 
     void listsCaptionsWherePicturesStandInAnOrderOfTheirOwn()
@@ -206,6 +233,8 @@ private slots:
                                                     {4, "/p/IMG_7.jpg"},
                                                     {516, "Lake"},
                                                     {836, "Cold.\n\nWe laughed."},
+                                                    {1796, "Siljan"},
+                                                    {2036, "Karl; Ilse; Anne"},
                                                     {2356, "1974~"}}) +
                                           pictureBytes({{0, "PIC1"}, {4, "b.jpg"}, {2356, "1970/1975"}}) +
                                           pictureBytes({{0, "PIC1"}, {4, "c.jpg"}}));
@@ -215,6 +244,7 @@ private slots:
         QCOMPARE(known.size(), 3U);
         QCOMPARE(known[0].fileName, u"IMG_7.jpg"_s);
         QCOMPARE(known[0].date, u"about 1974"_s);
+        QCOMPARE(known[0].where, u"Siljan, with Karl, Ilse and Anne"_s);
         QCOMPARE(known[0].story, QStringList({u"Cold."_s, u"We laughed."_s}));
         QCOMPARE(known[0].chapter, u"1974"_s);
         QCOMPARE(known[1].chapter, u"The 1970s"_s);

@@ -77,8 +77,10 @@ private slots:
         QCOMPARE(pathOf(gone), place(u"old/lake/3.bmp"_s));
         QCOMPARE(pathOf(stays), place(u"here/1.bmp"_s));
         QCOMPARE(findAgain.missingCount(), 1);
+        QCOMPARE(findAgain.soughtCount(), 4);
         QCOMPARE(m_step->undo(), ChangeResult::Done);
         QCOMPARE(pathOf(red), place(u"old/lake/1.bmp"_s));
+        QCOMPARE(findAgain.missingCount(), 4);
     }
 
     void whatOtherFunctionsNameIsLinkedInTheSameStep()

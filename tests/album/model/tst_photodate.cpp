@@ -34,6 +34,7 @@ private slots:
             {"a season", u"summer 82"_s, "1982-22", u"summer 1982"_s},
             {"a season of", u"Fall of 1982"_s, "1982-23", u"autumn 1982"_s},
             {"about a season", u"around winter 1982"_s, "1982-24~", u"about winter 1982"_s},
+            {"a winter of two years", u"winter 1982/83"_s, "1982-24", u"winter 1982"_s},
             {"a month", u"July 1974"_s, "1974-07", u"July 1974"_s},
             {"a month in ISO", u"1974-07"_s, "1974-07", u"July 1974"_s},
             {"a month in numbers", u"7/1974"_s, "1974-07", u"July 1974"_s},
@@ -85,6 +86,9 @@ private slots:
                        {"half", u"before "_s},
                        {"three digits", u"974"_s},
                        {"no year of four digits", u"0974"_s},
+                       {"before there were photographs", u"1820"_s},
+                       {"to come", u"2030"_s},
+                       {"tomorrow", u"2026-11-22"_s},
                        {"too long", QString(5000, u'9')}});
     }
     void refusesWhatIsNoDate()

@@ -116,6 +116,18 @@ private slots:
         QCOMPARE(shelf->countIn(1), 0);
     }
 
+    /// The file of the pictures was lost, while the albums still name them.
+    void inheritsNothingOfPicturesThatWereLost()
+    {
+        const QByteArray cover = albumBytes({{0, "ALB1"}, {5, "\x04"}, {8, "\x03"}, {16, "Grandmother"}});
+        m_test.put(photoFile, {});
+        m_test.put(albumFile, cover + place(1, 2, 4) + place(1, 1, 8));
+        const auto shelf = opened();
+        QCOMPARE(shelf->addPhotos({photoAt(u"x.jpg"_s), photoAt(u"y.jpg"_s)}), QList<int>({4, 5}));
+        QCOMPARE(shelf->countIn(1), 0);
+        QCOMPARE(shelf->coverOf(1), 0);
+    }
+
     /// What is learnt of a file is nobody's doing: its content, that it is not there, that texts stand in it.
     void takesBackWhatWasDoneBeforeAFileWasLookedAt()
     {
@@ -295,7 +307,7 @@ private slots:
                  u"Photobk3.Fil is not a file of this photo album: it is left as it is."_s);
         QVERIFY(shelf->setAside(photoFile));
         QVERIFY(m_test.bytes(u"Photobk3 (set aside).Fil"_s) == bytes);
-        QCOMPARE(shelf->addPhotos({photoAt(u"x.jpg"_s)}), QList<int>{1});
+        QCOMPARE(shelf->addPhotos({photoAt(u"x.jpg"_s)}), QList<int>{3}); // the album still names the others
         m_test.put(photoFile, bytes);
         shelf->load();
         QVERIFY(shelf->setAside(photoFile));

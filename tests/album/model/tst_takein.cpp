@@ -179,18 +179,24 @@ private slots:
         QTest::qWait(20);
         picture(u"new.jpg"_s);
         QVERIFY(QDir().rename(moved.filePath(u"summer"_s), m_elsewhere->filePath(u"summer"_s)));
-        QCOMPARE(taken({.album = album, .since = since}).added.size(), 2);
-        const QStringList names{u"inner.jpg"_s, u"new.jpg"_s, u"taken out.jpg"_s};
+        // Windows does not tell when a folder was moved: what is in it waits to be asked for.
+        const bool isMoveTold = QSysInfo::kernelType() != "winnt"_L1;
+        QCOMPARE(taken({.album = album, .since = since}).added.size(), isMoveTold ? 2 : 1);
+        QStringList names{u"inner.jpg"_s, u"new.jpg"_s, u"taken out.jpg"_s};
+        if (!isMoveTold)
+            names.removeFirst();
         QCOMPARE(namesOf(*m_shelf), names);
-        QCOMPARE(m_shelf->countIn(album), 2);
+        QCOMPARE(m_shelf->countIn(album), isMoveTold ? 2 : 1);
     }
 
     void aFullDiskTakesInNothing()
     {
         picture(u"a.jpg"_s);
         const FailingDisk disk(DiskFailure::OneStep, 1);
-        QCOMPARE(taken({}).added.size(), 0);
-        QVERIFY(m_steps.empty());
+        const TakeIn::Result result = taken({});
+        QCOMPARE(result.added.size(), 0);
+        QCOMPARE(result.whyNoMore, u"The disk refused to save this"_s);
+        QVERIFY(!result.wasStopped && m_steps.empty());
     }
 };
 

@@ -18,11 +18,12 @@ namespace {
 const QDate today(2026, 11, 23);
 
 /// Writes into the picture as another program does.
-void writeElsewhere(const QString &path, const QString &caption)
+void writeElsewhere(const QString &path, const QString &caption, int rating = 0)
 {
     QTest::qWait(20); // files tell their times in whole milliseconds
     PictureTexts texts = KeptTexts::read(path, today).texts;
     texts.caption = caption;
+    texts.rating = rating;
     texts.date.clear();
     QVERIFY(KeptTexts::write(path, texts, KeptTexts::Into::Picture, today).isKept);
     QFile file(path);
@@ -157,32 +158,98 @@ private slots:
         ShelfLook shelfLook(*m_shelf);
         look(shelfLook);
         QCOMPARE(shelfLook.conflicts().size(), std::size_t(1));
-        connect(&shelfLook, &ShelfLook::keptInAlbum, &keeper, [&](int record) { keeper.write({record}); });
+        connect(&shelfLook, &ShelfLook::keptInAlbum, &keeper, &TextsKeeper::write);
         QSignalSpy finished(&keeper, &TextsKeeper::finished);
-        shelfLook.settle(m_record, ShelfLook::Keep::InAlbum);
+        QVERIFY(shelfLook.settle({m_record}, ShelfLook::Keep::InAlbum));
         QVERIFY(finished.wait(10000));
         QCOMPARE(inFile(), u"Anne"_s);
     }
 
+    void whatAFileSaysNothingOfStays_data()
+    {
+        rows<QByteArray, bool>({{"stripped of its texts", {}, true},
+                                {"noise", QByteArray(5000, 'x'), false},
+                                {"cut short", QByteArray("\xFF\xD8\xFF\xE0"), false}});
+    }
+    void whatAFileSaysNothingOfStays()
+    {
+        const auto [bytes, isPicture] = row<QByteArray, bool>();
+        const QByteArray stripped = contentOf(m_path);
+        makeShelf(PhotoAlbum::Into::Picture);
+        TextsKeeper keeper(*m_shelf, today);
+        QSignalSpy finished(&keeper, &TextsKeeper::finished);
+        QVERIFY(m_shelf->change({m_record}, u"All"_s, [](Photo &photo) {
+            photo.caption = u"Anne at the lake"_s;
+            photo.setTags({u"summer"_s});
+            photo.rating = 4;
+            photo.date = PhotoDate::fromEdtf("1974~");
+            photo.dateFrom = Photo::DateFrom::Typed;
+        }));
+        QVERIFY(finished.wait(10000));
+        const PictureTexts texts = PhotoOfFile::texts(photo());
+        const Photo::Hash hash = photo().hash;
+        QTest::qWait(20);
+        QFile file(m_path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(isPicture ? stripped : bytes) > 0);
+        file.close();
+        ShelfLook shelfLook(*m_shelf);
+        look(shelfLook);
+        QCOMPARE(PhotoOfFile::texts(photo()), texts);
+        QVERIFY(shelfLook.conflicts().empty());
+        QCOMPARE(photo().has(Photo::TextsInFile), !isPicture);
+        QCOMPARE(photo().hash == hash, !isPicture); // the good one may be found elsewhere
+        QCOMPARE(photo().width, quint32(16));
+    }
+
+    void anotherTimeAloneIsNoChange()
+    {
+        writeElsewhere(m_path, u"Karin"_s);
+        makeShelf(PhotoAlbum::Into::Nowhere);
+        TextsKeeper keeper(*m_shelf, today);
+        say(u"Anne"_s);
+        ShelfLook shelfLook(*m_shelf);
+        look(shelfLook);
+        const QDateTime later = QDateTime::currentDateTime().addSecs(3600);
+        QFile file(m_path);
+        QVERIFY(file.open(QIODevice::ReadWrite) &&
+                file.setFileTime(later, QFileDevice::FileModificationTime));
+        file.close();
+        look(shelfLook);
+        QVERIFY(shelfLook.conflicts().empty());
+        QCOMPARE(photo().caption, u"Anne"_s);
+        QCOMPARE(photo().fileTime, later.toSecsSinceEpoch());
+    }
+
+    void aDateThatIsTakenBackIsTakenBackInTheFile_data()
+    {
+        rows<QString, QByteArray>({{"the camera's", u"2019-07-04T15:30:12"_s, "2019-07-04T16:30:12"},
+                                   {"none in the picture", {}, "1974~"},
+                                   {"none in the picture, a whole one typed", {}, "1974-07-04T16:30:12"}});
+    }
     void aDateThatIsTakenBackIsTakenBackInTheFile()
     {
+        const auto [inPicture, typed] = row<QString, QByteArray>();
         PictureTexts texts;
-        texts.date = u"2019-07-04T15:30:12"_s;
+        texts.caption = u"Anne"_s;
+        texts.date = inPicture;
         QVERIFY(KeptTexts::write(m_path, texts, KeptTexts::Into::Picture, today).isKept);
         makeShelf(PhotoAlbum::Into::Picture);
         std::optional<UndoStep> step;
         connect(m_shelf.get(), &PhotoShelf::edited, this, [&](const UndoStep &last) { step = last; });
         TextsKeeper keeper(*m_shelf, today);
         QSignalSpy finished(&keeper, &TextsKeeper::finished);
-        QVERIFY(m_shelf->change({m_record}, u"Later"_s, [](Photo &photo) {
-            photo.date = photo.date.shifted(3600);
+        QVERIFY(m_shelf->change({m_record}, u"Later"_s, [&](Photo &photo) {
+            photo.date = PhotoDate::fromEdtf(typed);
             photo.dateFrom = Photo::DateFrom::Typed;
         }));
         QVERIFY(finished.wait(10000));
-        QCOMPARE(KeptTexts::read(m_path, today).texts.date, u"2019-07-04T16:30:12"_s);
+        QCOMPARE(KeptTexts::read(m_path, today).texts.date, QString::fromLatin1(typed));
         QCOMPARE(step->undo(), ChangeResult::Done);
         QVERIFY(finished.wait(10000));
-        QCOMPARE(KeptTexts::read(m_path, today).texts.date, texts.date);
+        const FoundTexts found = KeptTexts::read(m_path, today);
+        QCOMPARE(found.dateFound == DateFound::Picture, !inPicture.isEmpty());
+        if (!inPicture.isEmpty())
+            QCOMPARE(found.texts.date, inPicture);
     }
 
     void whereBothWereChangedThePersonDecides_data()
@@ -192,9 +259,11 @@ private slots:
     void whereBothWereChangedThePersonDecides()
     {
         const auto [isForAlbum] = row<bool>();
+        const auto keep = isForAlbum ? ShelfLook::Keep::InAlbum : ShelfLook::Keep::InPicture;
         makeShelf(PhotoAlbum::Into::Nowhere);
         say(u"Anne"_s);
-        writeElsewhere(m_path, u"Karin"_s);
+        QVERIFY(m_shelf->change({m_record}, u"Tags"_s, [](Photo &photo) { photo.setTags({u"summer"_s}); }));
+        writeElsewhere(m_path, u"Karin"_s, 4);
         ShelfLook shelfLook(*m_shelf);
         look(shelfLook);
         QCOMPARE(photo().caption, u"Anne"_s);
@@ -205,11 +274,28 @@ private slots:
         look(later);
         QCOMPARE(later.conflicts().size(), std::size_t(1));
 
-        shelfLook.settle(m_record, isForAlbum ? ShelfLook::Keep::InAlbum : ShelfLook::Keep::InPicture);
-        QCOMPARE(photo().caption, isForAlbum ? u"Anne"_s : u"Karin"_s);
+        std::optional<UndoStep> step;
+        connect(m_shelf.get(), &PhotoShelf::edited, this, [&](const UndoStep &last) { step = last; });
+        QSignalSpy outdated(&shelfLook, &ShelfLook::outdated);
+        const Photo before = photo();
+        QVERIFY(shelfLook.settle({m_record}, keep));
+        const auto isSettled = [&] {
+            return shelfLook.conflicts().empty() && photo().caption == (isForAlbum ? u"Anne" : u"Karin") &&
+                   photo().tags == u"summer"_s && photo().rating == 4;
+        };
+        QVERIFY(isSettled());
         QCOMPARE(inFile(), u"Karin"_s); // the album writes into no picture
         look(shelfLook);
-        QVERIFY(shelfLook.conflicts().empty());
+        QVERIFY(isSettled() && photo().isHashed());
+
+        QCOMPARE(step->undo(), ChangeResult::Done);
+        look(shelfLook);
+        QVERIFY(photo().caption == before.caption && photo().rating == 0 && photo().tags == before.tags);
+        QCOMPARE(shelfLook.conflicts().size(), std::size_t(1));
+        QCOMPARE(step->redo(), ChangeResult::Done);
+        look(shelfLook);
+        QVERIFY(isSettled());
+        QCOMPARE(outdated.size(), 3);
     }
 
     void aDiskThatIsNotPluggedInIsNotMissing_data()

@@ -1,23 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "album/model/albumfile.h"
+#include "album/model/kepttexts.h"
 #include "album/model/photodatewords.h"
 #include "album/model/photofile.h"
 #include "album/window/albumwindow.h"
 #include "album/window/photogrid.h"
 #include "album/window/phototiles.h"
 #include "album/window/starsbox.h"
+#include "album/window/windowlines.h"
 #include "shell/controls/droplist.h"
 #include "shell/controls/itemdrag.h"
 #include "shell/controls/panerows.h"
 #include "shell/core/area.h"
 #include "tests/album/model/albumbytes.h"
+#include "tests/support/failingdisk.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
 #include "tests/support/testphotographs.h"
 
+#include <QCheckBox>
 #include <QCompleter>
 #include <QDropEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QSlider>
 #include <QSpinBox>
@@ -165,11 +170,69 @@ private slots:
         makeProgram();
         open();
         choose({1});
-        const QByteArray before = m_test->bytes(PhotoFile::name);
+        const QByteArray before = field(1, 2356, 33);
         type("photoDate", u"some day"_s);
         QCOMPARE(said(), PhotoDateWords::refusal());
         QCOMPARE(find<QLineEdit>("photoDate")->text(), u"some day"_s);
-        QCOMPARE(m_test->bytes(PhotoFile::name), before);
+        QTRY_VERIFY(find<QLineEdit>("photoDate")->hasFocus());
+        QCOMPARE(field(1, 2356, 33), before);
+        choose({2}); // not before it is mended, or given up
+        QTRY_COMPARE(grid()->chosenRecords(), QList<int>{1});
+        QTRY_VERIFY(find<QLineEdit>("photoDate")->hasFocus());
+        QCOMPARE(find<QLineEdit>("photoDate")->text(), u"some day"_s);
+        key(Qt::Key_Escape);
+        QVERIFY(grid()->hasFocus());
+        QCOMPARE(find<QLineEdit>("photoDate")->text(), u"1974"_s);
+        choose({2});
+        QCOMPARE(grid()->chosenRecords(), QList<int>{2});
+    }
+
+    void whatTheDiskRefusesStaysInItsBox_data()
+    {
+        rows<QByteArray, qsizetype>({{"a caption", "photoCaption", 516}, {"tags", "photoTags", 1876}});
+    }
+    void whatTheDiskRefusesStaysInItsBox()
+    {
+        const auto [box, at] = row<QByteArray, qsizetype>();
+        makeProgram();
+        open();
+        choose({1});
+        const QByteArray before = field(1, at, 64);
+        {
+            const FailingDisk full(DiskFailure::TheEnd, 1);
+            type(box, u"at the lake"_s);
+            QTRY_VERIFY(find<QLineEdit>(box)->hasFocus());
+        }
+        QCOMPARE(find<QLineEdit>(box)->text(), u"at the lake"_s);
+        QCOMPARE(field(1, at, 64), before);
+        key(Qt::Key_Return);
+        QCOMPARE(field(1, at, 12), QByteArray("at the lake\0", 12));
+        QVERIFY(grid()->hasFocus());
+    }
+
+    void whatBothChangedIsSettledAtOnceAndTakenBack()
+    {
+        if (!KeptTexts::isBuiltIn())
+            QSKIP("built without the library for texts in pictures");
+        makeProgram();
+        const QDate today = m_test->clock.today();
+        for (const QString &name : {u"Pictures/A.jpg"_s, u"Pictures/B.jpg"_s}) {
+            PictureTexts texts;
+            texts.caption = u"Karin"_s;
+            QVERIFY(KeptTexts::write(m_test->path(name), texts, KeptTexts::Into::Picture, today).isKept);
+        }
+        open();
+        QTRY_COMPARE(said(), AlbumWindowLines::conflicts(2));
+        find<QAction>("mPBoth")->trigger();
+        find<QCheckBox>("conflictOthers")->click();
+        find<QPushButton>("takePicture")->click();
+        QVERIFY(grid()->isVisible());
+        for (const int record : {1, 2})
+            QCOMPARE(field(record, 516, 6), QByteArray("Karin\0", 6));
+        key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(field(1, 516, 6), QByteArray("Anne\0\0", 6));
+        QCOMPARE(field(2, 516, 6), QByteArray("Boat\0\0", 6));
+        QTRY_VERIFY(find<QAction>("mPBoth")->isEnabled());
     }
 
     void severalPicturesAreSpokenOfAtOnce()
@@ -193,6 +256,69 @@ private slots:
         QCOMPARE(field(2, 1876, 13), QByteArray("boat; summer\0", 13));
         key(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(field(2, 1876, 5), QByteArray("boat\0", 5));
+    }
+
+    void markingEndsByKeys_data()
+    {
+        // the key, which are chosen then
+        rows<Qt::Key, QList<int>>({{"Esc", Qt::Key_Escape, {3}},
+                                   {"a letter goes to another one", Qt::Key_B, {2}},
+                                   {"an arrow goes on", Qt::Key_Right, {1, 2}}});
+    }
+    void markingEndsByKeys()
+    {
+        const auto [pressed, chosen] = row<Qt::Key, QList<int>>();
+        makeProgram();
+        open();
+        choose({1});
+        for (const Qt::Key each : {Qt::Key_Space, Qt::Key_Right, Qt::Key_Space, Qt::Key_Right, pressed})
+            key(each);
+        QCOMPARE(grid()->chosenRecords(), chosen);
+        QCOMPARE(said().contains(u"Esc ends"_s), pressed == Qt::Key_Right);
+        QVERIFY(m_window->isVisible());
+        key(Qt::Key_Home);
+        QCOMPARE(grid()->chosenRecords(), pressed == Qt::Key_Right ? chosen : QList<int>{1});
+    }
+
+    /// Two that want the same key would leave it without effect; what is behind a panel is not worked on.
+    void noAccessKeyIsTakenTwice_data()
+    {
+        rows<QByteArray, bool>({{"all", {}, false},
+                                {"one large", "mVLarge", false},
+                                {"a slide show", "mPShow", true},
+                                {"paper", "mOPrt", true},
+                                {"giving away", "mPExport", true},
+                                {"shifted dates", "mEShift", true},
+                                {"alike", "mPAlike", true},
+                                {"found again", "mPFind", true}});
+    }
+    void noAccessKeyIsTakenTwice()
+    {
+        const auto [command, isPanel] = row<QByteArray, bool>();
+        makeProgram();
+        open();
+        choose({1});
+        if (!command.isEmpty())
+            trigger(command.constData());
+        QHash<QKeySequence, QString> taken;
+        const auto take = [&taken](const QString &caption) {
+            const QKeySequence key = QKeySequence::mnemonic(caption);
+            if (!key.isEmpty() && taken.contains(key))
+                QFAIL(qPrintable(caption + u" and "_s + taken.value(key)));
+            taken.insert(key, caption);
+        };
+        for (const QAction *menu : m_window->menuBar()->actions())
+            take(menu->text());
+        for (const QAbstractButton *button : m_window->findChildren<QAbstractButton *>()) {
+            if (button->isVisible())
+                take(button->text());
+        }
+        for (const QLabel *label : m_window->findChildren<QLabel *>()) {
+            if (label->isVisible() && label->buddy())
+                take(label->text());
+        }
+        for (const char *name : {"mECap", "mELeft", "mEOff", "mEAll", "mEOpen"})
+            QCOMPARE(m_window->findChild<QAction *>(QLatin1StringView(name))->isEnabled(), !isPanel);
     }
 
     void anAlbumIsMadeNamedAndFilledByDragging()
@@ -319,6 +445,24 @@ private slots:
         type("photoPeople", u"Anne Lind"_s);
         QCOMPARE(field(1, 2292, 4), isGuarded ? QByteArray(4, '\0') : QByteArray("\7\0\0\0", 4));
         QCOMPARE(labelText("photoAges").contains(u"years old"_s), !isGuarded);
+    }
+
+    void aPersonIsChosenFromTheList()
+    {
+        makeProgram();
+        open();
+        choose({2});
+        type("photoPeople", u"Karl Müller"_s);
+        choose({1});
+        auto *box = find<QLineEdit>("photoPeople");
+        box->setFocus();
+        QTest::keyClicks(box, u"Kar"_s);
+        QAbstractItemView *list = box->completer()->popup();
+        QTRY_VERIFY(list->isVisible());
+        QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
+        key(Qt::Key_Tab);
+        QCOMPARE(field(1, 2036, 13), QByteArray("Karl M\xC3\xBCller\0", 13));
     }
 
     void isReadAloudByCaptionDateAndPeople()
