@@ -3,8 +3,8 @@
 
 quillery_build_packages=(g++ cmake ninja-build pkg-config python3 qt6-base-dev libsodium-dev libqcustomplot-dev librsvg2-bin
     libhunspell-dev hunspell-en-us libmythes-dev mythes-en-us libzxcvbn-dev libqrencode-dev libexiv2-dev
-    libheif-dev)
-quillery_test_packages=(poppler-utils python3-nacl libimage-exiftool-perl)
+    libheif-dev libarchive-dev)
+quillery_test_packages=(poppler-utils python3-nacl libimage-exiftool-perl libarchive-tools unzip)
 quillery_benchmark_packages=(libbenchmark-dev)
 
 # install_missing PACKAGE...: quick when nothing is missing; needs root or sudo otherwise.

@@ -4,9 +4,12 @@ cmake_minimum_required(VERSION 3.25)
 
 # A room may include those before it.
 set(shellRooms core pages look controls pictures charts writing program preview frame access manual mainmenu)
-set(functionRooms metadata model shared window entry viewer)
-# Of shell/access, functions see the gate alone; those that ask for a password themselves also count the attempts.
+set(functionRooms metadata archive model shared window entry viewer)
+# Of shell/access, functions see the gate alone; those that ask for a password themselves also count the attempts. What a
+# backup has of the program's own password is checked before it comes back, in the prompt's own words.
 set(openAccess shell/access/gate.h)
+set(openAccess_backup ${openAccess} shell/access/attempts.h shell/access/passwordcheck.h
+    shell/access/passwordmessages.h)
 set(openAccess_journal ${openAccess} shell/access/attempts.h)
 set(openAccess_keeper ${openAccess} shell/access/attempts.h)
 

@@ -6,6 +6,7 @@
 namespace {
 
 const QDate today(2026, 11, 21);
+constexpr int firstPhotograph = 1826;
 
 void tryDate(const PhotoDate &date)
 {
@@ -23,7 +24,9 @@ void tryDate(const PhotoDate &date)
         if (!date.isUnderstood())
             continue;
         const auto again = PhotoDateWords::read(PhotoDateWords::words(date, style), style, today);
-        require(again && again->first() == date.first() && again->last() == date.last(),
+        const bool isRefused = (date.first().isValid() && date.first() > today) ||
+                               (date.last().isValid() && date.last().year() < firstPhotograph);
+        require(again ? again->first() == date.first() && again->last() == date.last() : isRefused,
                 "what is shown can be typed");
     }
 }

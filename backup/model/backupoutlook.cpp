@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "backup/model/backupoutlook.h"
+
+#include "backup/model/diskrecords.h"
+#include "backup/model/knownfiles.h"
+#include "backup/model/picturepool.h"
+#include "backup/model/sealeddisk.h"
+#include "backup/model/setfolder.h"
+
+BackupOutlook BackupOutlook::of(const QList<BackupItem> &items, const DataFolder &household,
+                                const QString &folder, const std::optional<DiskRoom> &room, Form form)
+{
+    const KnownFiles known = KnownFiles::of(DiskRecords::readSet(household.path()), folder);
+    const PicturePool pool(SetFolder::picturesPath(folder));
+    BackupOutlook outlook;
+    QList<PlannedItem> planned;
+    planned.reserve(items.size());
+    for (const BackupItem &item : items) {
+        const bool isPicture = SetFolder::isPicture(item.name);
+        const bool isThere =
+            isPicture && form == Form::Plain && !pool.find(known.hash(item), item.size).isEmpty();
+        outlook.newPictures += isPicture && !isThere ? 1 : 0;
+        outlook.knownPictures += isThere ? 1 : 0;
+        planned.append({item.name, item.size, 0, 0, isThere});
+    }
+    DiskRoom first = room ? *room : DiskRoom::of(folder);
+    DiskRoom next = room ? *room : DiskRoom::ofEmpty(folder);
+    if (form == Form::Sealed)
+        first.each = next.each = SealedDisk::eachFile;
+    outlook.plan = DiskPlan::of(planned, first, next);
+    return outlook;
+}

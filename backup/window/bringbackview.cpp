@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "backup/window/bringbackview.h"
+
+#include "backup/model/openedcopy.h"
+#include "backup/model/snapshots.h"
+#include "backup/window/differencesmodel.h"
+#include "backup/window/placespane.h"
+#include "backup/window/snapshotchoice.h"
+#include "shell/controls/buttonrow.h"
+#include "shell/controls/controls.h"
+#include "shell/controls/listrowdelegate.h"
+#include "shell/controls/titleline.h"
+#include "shell/core/dates.h"
+#include "shell/frame/commands.h"
+#include "shell/frame/functionwindow.h"
+#include "shell/program/program.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableView>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// "Sat, 21 Nov 2026", with the time where it is not the day's first.
+QString nameOf(const Snapshot &snapshot, DateStyle style)
+{
+    const QString date = Dates::statusText(snapshot.made.date(), style);
+    const QTime time = snapshot.made.time();
+    return time == QTime(0, 0) ? date : date + u", "_s + time.toString(u"hh:mm"_s);
+}
+
+/// A version as a text: what the other one does not say stands out.
+QString textOf(const QStringList &lines, const QStringList &others)
+{
+    if (lines.isEmpty())
+        return u"<i>Not there</i>"_s;
+    QStringList shown;
+    for (const QString &line : lines) {
+        const QString text = line.toHtmlEscaped();
+        shown.append(others.contains(line) ? text : u"<b>"_s + text + u"</b>"_s);
+    }
+    return shown.join(u"<br>"_s);
+}
+
+} // namespace
+
+BringBackView::BringBackView(const BackupDesk &desk, QWidget *parent)
+    : TitledView(u"bringBack"_s, parent)
+    , m_desk(desk)
+    , m_comparison(new Comparison(desk.program, this))
+    , m_model(new DifferencesModel(this))
+    , m_choice(named(new QComboBox(this), u"snapshots"_s))
+    , m_words(named(makeQuietLabel({}, this), u"bringBackWords"_s))
+    , m_view(named(new QTableView(this), u"differences"_s))
+{
+    titleLine().setTitle(u"Bring Back"_s);
+    m_choice->setAccessibleName(u"Snapshot or backup"_s);
+    auto *choice = new QWidget(this);
+    auto *row = new QHBoxLayout(choice);
+    row->setContentsMargins({});
+    row->addLayout(labelled(u"The household as it was on"_s, m_choice));
+    row->addStretch();
+    m_choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    addContent(choice);
+    m_words->setWordWrap(true);
+    addContent(m_words);
+    makeTable();
+    addContent(new WholeRows(m_view, nullptr, this), 3);
+    addContent(makeVersions(), 2);
+    setFocusProxy(m_view);
+    connect(m_choice, &QComboBox::activated, this, &BringBackView::openChosen);
+    connect(&desk.places, &PlacesPane::chosenChanged, this, &BringBackView::lookForCopies);
+    connect(m_comparison, &Comparison::looked, this, &BringBackView::show);
+    connect(m_comparison, &Comparison::done, this, &BringBackView::edited);
+    connect(m_comparison, &Comparison::said, this, &BringBackView::said);
+    connect(m_model, &DifferencesModel::tickedChanged, &desk.commands, &Commands::refresh);
+}
+
+BringBackView::~BringBackView() = default;
+
+void BringBackView::makeTable()
+{
+    m_view->setModel(m_model);
+    setGridRows(m_view);
+    m_view->setAccessibleName(u"What differs"_s);
+    QHeaderView *head = m_view->horizontalHeader();
+    head->setSectionResizeMode(QHeaderView::ResizeToContents);
+    head->setSectionResizeMode(DifferencesModel::What, QHeaderView::Stretch);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &BringBackView::showVersions);
+}
+
+QWidget *BringBackView::makeVersions()
+{
+    auto *versions = new QWidget(this);
+    auto *row = new QHBoxLayout(versions);
+    row->setContentsMargins({});
+    const auto add = [&](const QString &name, const QString &caption) {
+        auto *text = named(new QTextBrowser(versions), name);
+        text->setAccessibleName(caption);
+        text->setTabChangesFocus(true);
+        text->setMinimumHeight(72);
+        row->addLayout(labelled(caption, text), 1);
+        return text;
+    };
+    m_there = add(u"versionThere"_s, u"As it was"_s);
+    m_here = add(u"versionHere"_s, u"As it is now"_s);
+    return versions;
+}
+
+void BringBackView::addCommands(QMenu *menu)
+{
+    Commands &commands = m_desk.commands;
+    QAction *bring = commands.writing(commands.add(
+        menu, u"mBBring"_s, u"Bring Bac&k What Is Ticked"_s, [this] { bringBack(); },
+        [this] { return whyNot(); }));
+    QAction *uncover = commands.add(
+        menu, u"mBUncover"_s, u"Show What Is &Guarded..."_s, [this] { m_comparison->uncover(); },
+        [this] { return m_comparison->whyNotUncovered(); });
+    foot().addRight(commands.button(bring, u"bringBackNow"_s, u"Bring Bac&k"_s, &foot(), ButtonKind::Main));
+    foot().addLeft(commands.button(uncover, u"uncover"_s, u"Show What Is &Guarded..."_s, &foot()));
+}
+
+std::vector<BringBackView::Choice> BringBackView::choices() const
+{
+    const DateStyle style = m_desk.program.state.dateStyle;
+    std::vector<Choice> choices;
+    for (const Snapshot &snapshot :
+         Snapshots::in(SnapshotChoice::read(m_desk.program.store, m_desk.program.folder).folder))
+        choices.push_back({u"Snapshot of "_s + nameOf(snapshot, style), {.snapshot = snapshot.path}});
+    const std::optional<BackupPlaceRow> place = m_desk.places.chosen();
+    if (place && place->last && OpenedCopy::isPossible(*place->last)) {
+        const QDateTime begun = place->last->begun().toLocalTime();
+        choices.push_back({u"Backup on "_s + place->drive.name + u", "_s +
+                               Dates::statusText(begun.date(), style) + u", "_s + begun.toString(u"hh:mm"_s),
+                           {.set = place->last}});
+    }
+    return choices;
+}
+
+/// What is looked into stays as long as it is there.
+void BringBackView::lookForCopies()
+{
+    std::vector<Choice> choices = this->choices();
+    const auto isSame = [](const Choice &one, const Choice &other) {
+        return one.title == other.title && one.source.snapshot == other.source.snapshot;
+    };
+    if (!std::ranges::equal(choices, m_choices, isSame)) {
+        const QString chosen = m_choice->currentText();
+        m_choices = std::move(choices);
+        m_choice->clear();
+        for (const Choice &choice : m_choices)
+            m_choice->addItem(choice.title);
+        m_choice->setCurrentIndex(std::max(0, m_choice->findText(chosen)));
+        m_isOpen = m_isOpen && m_choice->findText(chosen) >= 0;
+    }
+    if (!m_isOpen)
+        follow(false);
+    m_words->setText(words());
+    m_words->setVisible(!m_words->text().isEmpty());
+}
+
+void BringBackView::look()
+{
+    const bool wasOpen = m_isOpen;
+    lookForCopies();
+    if (wasOpen && m_isOpen)
+        m_comparison->look();
+}
+
+/// The first snapshot is looked into when the side is seen, not before.
+void BringBackView::refresh()
+{
+    if (!m_isOpen)
+        openChosen();
+}
+
+void BringBackView::openChosen()
+{
+    m_isOpen = m_choice->currentIndex() >= 0;
+    m_comparison->open(m_isOpen ? m_choices[std::size_t(m_choice->currentIndex())].source
+                                : Comparison::Source());
+}
+
+/// Why the last backup on the drive is not among what can be looked into.
+QString BringBackView::whyNotTheSet() const
+{
+    const std::optional<BackupPlaceRow> place = m_desk.places.chosen();
+    if (!place || !place->last || OpenedCopy::isPossible(*place->last))
+        return {};
+    const QString why = place->last->isSealed() ? u"is sealed"_s : u"lies on several disks"_s;
+    return u"The last backup on %1 %2: it can be restored, into another folder as well, but not compared here"_s
+        .arg(place->drive.name, why);
+}
+
+QString BringBackView::words() const
+{
+    if (m_comparison->isBusy())
+        return u"Looking at what differs..."_s;
+    QStringList words;
+    if (m_choices.empty())
+        words.append(
+            u"There is no snapshot yet: one is made on the first start of each day after something was changed"_s);
+    else
+        words = differences();
+    words.append(whyNotTheSet());
+    words.removeAll(QString());
+    return words.join(u". "_s);
+}
+
+QStringList BringBackView::differences() const
+{
+    QStringList words{m_comparison->refusal()};
+    if (!m_comparison->guarded().isEmpty() && words.first().endsWith(u'.'))
+        words.first().chop(1);
+    if (!m_comparison->guarded().isEmpty())
+        words.append(u"Guarded, and not shown: "_s + m_comparison->guarded().join(u", "_s));
+    if (m_comparison->refusal().isEmpty() && m_comparison->rows().empty())
+        words.append(m_comparison->guarded().isEmpty() ? u"Nothing has changed since"_s
+                                                       : u"Nothing else has changed since"_s);
+    return words;
+}
+
+void BringBackView::show()
+{
+    m_model->setRows(m_comparison->isBusy() ? std::vector<Comparison::Row>() : m_comparison->rows());
+    m_words->setText(words());
+    m_words->setVisible(!m_words->text().isEmpty());
+    if (m_model->rowCount() > 0)
+        m_view->setCurrentIndex(m_model->index(0, 0));
+    showVersions();
+    m_desk.commands.refresh();
+}
+
+void BringBackView::showVersions()
+{
+    const QModelIndex current = m_view->currentIndex();
+    if (!current.isValid()) {
+        m_there->clear();
+        m_here->clear();
+        return;
+    }
+    const Comparison::Versions versions = m_comparison->versions(m_model->row(current.row()));
+    m_there->setHtml(textOf(versions.there, versions.here));
+    m_here->setHtml(textOf(versions.here, versions.there));
+}
+
+QString BringBackView::whyNot() const
+{
+    if (m_comparison->isBusy())
+        return u"Looking at what differs..."_s;
+    return m_model->ticked().empty() ? u"Tick what is to come back first"_s : QString();
+}
+
+/// What was typed in a window and not saved is settled first: it would be lost to what comes back, or it to
+/// that.
+void BringBackView::bringBack()
+{
+    const QList<QWidget *> windows = m_desk.program.functions.openWindows();
+    const bool areReady = std::ranges::all_of(windows, [](QWidget *each) {
+        auto *window = qobject_cast<FunctionWindow *>(each);
+        return !window || window->mayBackUp();
+    });
+    if (areReady)
+        m_comparison->bringBack(m_model->ticked());
+}

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "backup/window/copypasswordbox.h"
+
+#include "shell/access/gate.h"
+#include "shell/access/passwordmessages.h"
+#include "shell/controls/busycursor.h"
+#include "shell/controls/controls.h"
+#include "shell/look/theme.h"
+#include "shell/program/program.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <chrono>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds waitingStep{1};
+constexpr int dialogWidth = 460;
+constexpr int buttonWidth = 104;
+
+} // namespace
+
+CopyPasswordBox::CopyPasswordBox(Program &program, const QString &heading, const QString &words, Check check,
+                                 QWidget *parent)
+    : QDialog(parent)
+    , m_program(program)
+    , m_check(std::move(check))
+    , m_wrong(program.folder, PasswordCost::interactive(), &program.gate.memory())
+    , m_attempts(program.gate.memory().attempts, waitingStep)
+    , m_password(named(new QLineEdit(this), u"copyPassword"_s))
+    , m_refusal(named(makeQuietLabel({}, this), u"copyPasswordRefusal"_s))
+    , m_ok(makeButton(u"copyPasswordOk"_s, u"&OK"_s, this, ButtonKind::Main))
+    , m_cancel(makeButton(u"copyPasswordCancel"_s, u"&Cancel"_s, this))
+{
+    setObjectName(u"copyPasswordBox"_s);
+    setWindowTitle(u"Restore"_s);
+    setPalette(Theme::of(this).panelPalette());
+    m_password->setEchoMode(QLineEdit::Password);
+    layOut(heading, words);
+    m_ok->setDefault(true);
+    connect(m_password, &QLineEdit::textEdited, m_refusal, &QLabel::clear);
+    connect(m_ok, &QPushButton::clicked, this, &CopyPasswordBox::accept);
+    connect(m_cancel, &QPushButton::clicked, this, &CopyPasswordBox::reject);
+    connect(&m_attempts, &Attempts::waiting, this, &CopyPasswordBox::showWait);
+    connect(&m_attempts, &Attempts::waited, this, &CopyPasswordBox::endWait);
+    connect(&m_attempts, &Attempts::spent, this, &CopyPasswordBox::reject);
+    setFixedWidth(TypeScale::wide(dialogWidth));
+    m_password->setFocus();
+    if (m_check)
+        m_attempts.resume(m_wrong.wrongAnswers(), program.clock.now());
+}
+
+void CopyPasswordBox::layOut(const QString &heading, const QString &words)
+{
+    QLabel *said = makeQuietLabel(words, this);
+    said->setWordWrap(true);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(24, 24, 24, 20);
+    rows->setSpacing(8);
+    rows->addWidget(makeHeading(heading, this));
+    rows->addWidget(said);
+    rows->addSpacing(4);
+    rows->addWidget(makeFieldLabel(u"&Password"_s, m_password, this));
+    rows->addWidget(m_password);
+    // Always there, so that nothing moves when something is said.
+    m_refusal->setMinimumHeight(m_refusal->fontMetrics().lineSpacing() + 2);
+    rows->addWidget(m_refusal);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    buttons->addStretch();
+    for (QPushButton *button : {m_ok, m_cancel}) {
+        button->setMinimumWidth(buttonWidth);
+        buttons->addWidget(button);
+    }
+    rows->addLayout(buttons);
+}
+
+QString CopyPasswordBox::password() const
+{
+    return m_password->text();
+}
+
+void CopyPasswordBox::accept()
+{
+    if (m_attempts.isWaiting())
+        return;
+    if (m_password->text().isEmpty()) {
+        m_refusal->setText(u"Type the password first."_s);
+        return;
+    }
+    const bool isRight = !m_check || [this] {
+        const BusyCursor busy;
+        return m_check(m_password->text());
+    }();
+    if (!isRight) {
+        m_isWrong = true;
+        m_password->selectAll();
+        m_attempts.addWrong(m_wrong.addWrongAnswer(m_program.clock.now()));
+        return;
+    }
+    if (m_check) {
+        m_attempts.reset();
+        m_wrong.takeWrongAnswers();
+    }
+    QDialog::accept();
+}
+
+void CopyPasswordBox::showWait(int seconds)
+{
+    const QString wait = PasswordMessages::tryAgainIn(seconds);
+    // What is typed on meanwhile works nothing: the focus does not move to "Cancel" by itself.
+    if (!m_cancel->hasFocus())
+        setFocus();
+    setUnavailable(m_password, wait);
+    setUnavailable(m_ok, wait);
+    m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() + u' ' + wait : wait);
+}
+
+void CopyPasswordBox::endWait()
+{
+    setUnavailable(m_password, {});
+    setUnavailable(m_ok, {});
+    m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() : QString());
+    m_password->setFocus();
+}
