@@ -2,6 +2,7 @@
 #include "app/assembly.h"
 
 #include "app/functions.h"
+#include "app/restoreddesk.h"
 #include "shell/access/passwordcheck.h"
 #include "shell/access/passwordprompt.h"
 #include "storage/changeset.h"
@@ -15,10 +16,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const DataFolder &recovered(const DataFolder &folder)
+const DataFolder &recovered(const DataFolder &folder, QSettings &store)
 {
     std::ignore = ChangeSet::recover(folder); // what cannot be finished now is tried again by the next save
     Saving::recover(folder);
+    RestoredDesk::takeUp(folder, store);
     return folder;
 }
 
@@ -26,14 +28,19 @@ const DataFolder &recovered(const DataFolder &folder)
 
 Assembly::Assembly(const DataFolder &programFolder, const DataFolder &folder)
     : m_store(u"Tessaly"_s, u"Quillery"_s)
-    , m_settings(recovered(folder))
+    , m_settings(recovered(folder, m_store))
     , m_gate(showPasswordPrompt)
     , m_program{folder,      programFolder, m_settings, m_state,   m_clock, m_dialogs,
                 m_functions, m_gate,        m_store,    m_changes, m_idle}
     , m_guard(m_program)
+    , m_snapshot(m_program)
+    , m_guarded(m_program)
 {
     QObject::connect(&m_session, &SessionWatch::left, &m_changes, &ProgramSignals::lockRequested);
-    QTimer::singleShot(1000, &m_session, &SessionWatch::start); // long after what is seen first
+    // Long after what is seen first.
+    QTimer::singleShot(1000, &m_session, &SessionWatch::start);
+    QTimer::singleShot(3000, &m_guarded, &GuardedSnapshots::begin);
+    QTimer::singleShot(5000, &m_snapshot, &DailySnapshot::begin);
     PasswordCheck(folder, PasswordCost::interactive(), &m_gate.memory()).load(m_state);
     addFunctions(m_functions, m_clock);
     QObject::connect(&m_changes, &ProgramSignals::helpRequested, &m_changes,

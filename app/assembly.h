@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "backup/window/dailysnapshot.h"
+#include "backup/window/guardedsnapshots.h"
 #include "shell/access/gate.h"
 #include "shell/access/sessionwatch.h"
 #include "shell/access/windowguard.h"
@@ -41,5 +43,7 @@ private:
     Program m_program;
     WindowGuard m_guard;
     SessionWatch m_session;
+    DailySnapshot m_snapshot;
+    GuardedSnapshots m_guarded;
     std::unique_ptr<HelpViewer> m_manual;
 };

@@ -5,28 +5,36 @@
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/addressholdings.h"
 #include "addressbook/model/addressnews.h"
+#include "addressbook/model/addressrecords.h"
 #include "addressbook/model/addresssearch.h"
 #include "addressbook/viewer/viewerwindow.h"
 #include "album/model/albumholdings.h"
 #include "album/model/albumnews.h"
+#include "album/model/albumrecords.h"
 #include "album/model/albumsource.h"
 #include "album/model/photoshelf.h"
 #include "album/window/albumwindow.h"
+#include "backup/model/backupnews.h"
+#include "backup/window/backup1.h"
 #include "budget/model/budgetnews.h"
+#include "budget/model/budgetrecords.h"
 #include "budget/model/budgetsource.h"
 #include "budget/window/budgetwindow.h"
 #include "calendar/model/calendarfiles.h"
 #include "calendar/model/calendarholdings.h"
 #include "calendar/model/calendarnews.h"
+#include "calendar/model/calendarrecords.h"
 #include "calendar/model/calendarsource.h"
 #include "calendar/window/calendarwindow.h"
 #include "cars/model/carfiles.h"
 #include "cars/model/carnews.h"
 #include "cars/model/carpictures.h"
+#include "cars/model/carrecords.h"
 #include "cars/model/carsource.h"
 #include "cars/window/automaint.h"
 #include "journal/model/journalholdings.h"
 #include "journal/model/journalnews.h"
+#include "journal/model/journalrecords.h"
 #include "journal/model/journalseal.h"
 #include "journal/model/journalsource.h"
 #include "journal/window/journalwindow.h"
@@ -34,6 +42,7 @@
 #include "keeper/window/keeperwindow.h"
 #include "planner/model/dayrecord.h"
 #include "planner/model/plannernews.h"
+#include "planner/model/plannerrecords.h"
 #include "planner/model/plannersource.h"
 #include "planner/window/plannerwindow.h"
 #include "shell/access/gate.h"
@@ -45,11 +54,13 @@
 #include "shell/writing/ownwords.h"
 #include "todo/model/todofiles.h"
 #include "todo/model/todonews.h"
+#include "todo/model/todorecords.h"
 #include "todo/model/todosource.h"
 #include "todo/window/todowindow.h"
 #include "weight/model/personfiles.h"
 #include "weight/model/weightnews.h"
 #include "weight/model/weightpictures.h"
+#include "weight/model/weightrecords.h"
 #include "weight/model/weightsource.h"
 #include "weight/window/weighttracker.h"
 
@@ -63,6 +74,19 @@ template <typename Window>
 QWidget *makeWindow(Program &program)
 {
     return new Window(program);
+}
+
+template <typename Records>
+std::unique_ptr<FunctionRecords> makeRecords(const Program &, const DataFolder &folder)
+{
+    return std::make_unique<Records>(folder);
+}
+
+/// The same of those that tell dates.
+template <typename Records>
+std::unique_ptr<FunctionRecords> makeDatedRecords(const Program &program, const DataFolder &folder)
+{
+    return std::make_unique<Records>(folder, program.state.dateStyle);
 }
 
 std::optional<LiveLine> addressNews(const Program &program, QDate today)
@@ -193,6 +217,16 @@ QStringList calendarPictures(const Program &program)
     return CalendarHoldings::pictures(program.folder);
 }
 
+QStringList missingCalendarPictures(const Program &program)
+{
+    return CalendarHoldings::missingPictures(program.folder);
+}
+
+std::optional<UndoStep> relinkCalendarPictures(const Program &program, const QHash<QString, QString> &files)
+{
+    return CalendarHoldings::relinkPictures(program.folder, files);
+}
+
 void showInCalendar(QWidget &window, const Place &place)
 {
     if (auto *calendar = qobject_cast<Calendar *>(&window))
@@ -227,6 +261,11 @@ QStringList missingCarPictures(const Program &program)
 std::optional<UndoStep> relinkCarPictures(const Program &program, const QHash<QString, QString> &files)
 {
     return CarPictures::relink(program.folder, program.state.dateStyle, files);
+}
+
+std::unique_ptr<FunctionRecords> carRecords(const Program &program, const DataFolder &folder)
+{
+    return std::make_unique<CarRecords>(folder, program.state.dateStyle, program.clock.now());
 }
 
 std::unique_ptr<SearchSource> carSearch(const Program &program)
@@ -348,6 +387,11 @@ QStringList filesOfToDo(const Program &program)
     return files;
 }
 
+std::unique_ptr<FunctionRecords> toDoRecords(const Program &program, const DataFolder &folder)
+{
+    return std::make_unique<ToDoRecords>(folder, program.state.dateStyle, program.clock.today());
+}
+
 std::unique_ptr<SearchSource> toDoSearch(const Program &program)
 {
     return std::make_unique<ToDoSource>(program.folder, program.state.dateStyle);
@@ -388,6 +432,23 @@ QStringList journalPictures(const Program &program)
     return JournalHoldings::pictures(program.folder);
 }
 
+QStringList missingJournalPictures(const Program &program)
+{
+    return JournalHoldings::missingPictures(program.folder);
+}
+
+std::optional<UndoStep> relinkJournalPictures(const Program &program, const QHash<QString, QString> &files)
+{
+    return JournalHoldings::relinkPictures(program.folder, files);
+}
+
+std::unique_ptr<FunctionRecords> journalRecords(const Program &program, const DataFolder &folder)
+{
+    if (JournalSeal::isSealed(folder))
+        return nullptr;
+    return std::make_unique<JournalRecords>(folder, program.state.dateStyle);
+}
+
 bool isJournalSealed(const Program &program)
 {
     return JournalSeal::isSealed(program.folder);
@@ -413,6 +474,32 @@ QStringList keeperLiveFiles(const Program &program)
 QStringList keeperFiles(const Program &program)
 {
     return KeeperFiles::existing(program.folder);
+}
+
+/// The backup that runs, if one does.
+const Backup1 *runningBackup(const Program &program)
+{
+    const auto *backup = qobject_cast<Backup1 *>(program.functions.window(Function::Backup));
+    return backup && !backup->runningLine().isEmpty() ? backup : nullptr;
+}
+
+std::optional<LiveLine> backupNews(const Program &program, QDate today)
+{
+    if (const Backup1 *running = runningBackup(program))
+        return LiveLine{running->runningLine(), LiveLine::Plain, {}};
+    return BackupNews::of(program.folder, program.settings).liveLine(today);
+}
+
+/// While one runs, no file says how far it is.
+QStringList backupLiveFiles(const Program &program)
+{
+    return runningBackup(program) ? QStringList() : BackupNews::files();
+}
+
+void showInBackup(QWidget &window, const Place &place)
+{
+    if (auto *backup = qobject_cast<Backup1 *>(&window))
+        backup->showPlace(place);
 }
 
 std::optional<LiveLine> passwordNews(const Program &program, QDate)
@@ -450,7 +537,8 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                           .files = addressFiles,
                                           .pictures = addressPictures,
                                           .missingPictures = missingAddressPictures,
-                                          .relinkPictures = relinkAddressPictures});
+                                          .relinkPictures = relinkAddressPictures,
+                                          .records = makeRecords<AddressRecords>});
     functions.add(Function::AddressViewer, {.open = makeWindow<ADDBKDISPLAY>});
     const int year = clock.today().year();
     const QStringList yearFiles{DayRecord::yearFileName(year), DayRecord::yearFileName(year + 1)};
@@ -461,14 +549,18 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                       .followsClock = true,
                                       .search = plannerSearch,
                                       .show = showInPlanner,
-                                      .files = plannerFiles});
+                                      .files = plannerFiles,
+                                      .records = makeDatedRecords<PlannerRecords>});
     functions.add(Function::CalendarMaker, {.open = makeWindow<Calendar>,
                                             .liveLine = calendarNews,
                                             .moreLiveFiles = calendarLiveFiles,
                                             .search = calendarSearch,
                                             .show = showInCalendar,
                                             .files = calendarFiles,
-                                            .pictures = calendarPictures});
+                                            .pictures = calendarPictures,
+                                            .missingPictures = missingCalendarPictures,
+                                            .relinkPictures = relinkCalendarPictures,
+                                            .records = makeDatedRecords<CalendarRecords>});
     functions.add(Function::PhotoAlbum, {.open = makeWindow<PhotoVIEW1>,
                                          .liveLine = albumNews,
                                          .liveFiles = PhotoShelf::fileNames(),
@@ -479,14 +571,16 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                          .pictures = albumPictures,
                                          .pictureAlbums = pictureAlbums,
                                          .picturesOfDay = picturesOfDay,
-                                         .picturesOfPerson = picturesOfPerson});
+                                         .picturesOfPerson = picturesOfPerson,
+                                         .records = makeDatedRecords<AlbumRecords>});
     functions.add(Function::Budget, {.open = makeWindow<Budget1>,
                                      .liveLine = budgetNews,
                                      .liveFiles = BudgetNews::liveFiles(clock.today()),
                                      .dayNotes = budgetNotes,
                                      .search = budgetSearch,
                                      .show = showInBudget,
-                                     .files = budgetFiles});
+                                     .files = budgetFiles,
+                                     .records = makeDatedRecords<BudgetRecords>});
     functions.add(Function::CarLog, {.open = makeWindow<AutoMaint>,
                                      .liveLine = carNews,
                                      .liveFiles = CarNews::liveFiles(),
@@ -496,7 +590,8 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                      .files = filesOfCars,
                                      .pictures = carPictures,
                                      .missingPictures = missingCarPictures,
-                                     .relinkPictures = relinkCarPictures});
+                                     .relinkPictures = relinkCarPictures,
+                                     .records = carRecords});
     functions.add(Function::WeightTracker, {.open = makeWindow<WeightTracker>,
                                             .liveLine = weightNews,
                                             .moreLiveFiles = weightNewsFiles,
@@ -505,14 +600,16 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                             .files = weightFiles,
                                             .pictures = weightPictures,
                                             .missingPictures = missingWeightPictures,
-                                            .relinkPictures = relinkWeightPictures});
+                                            .relinkPictures = relinkWeightPictures,
+                                            .records = makeRecords<WeightRecords>});
     functions.add(Function::ToDoList, {.open = makeWindow<ToDo1>,
                                        .liveLine = toDoNews,
                                        .liveFiles = ToDoFiles::names(),
                                        .dayNotes = toDoNotes,
                                        .search = toDoSearch,
                                        .show = showToDo,
-                                       .files = filesOfToDo});
+                                       .files = filesOfToDo,
+                                       .records = toDoRecords});
     functions.add(Function::Journal, {.open = makeWindow<DJournal>,
                                       .liveLine = journalNews,
                                       .liveFiles = JournalNews::liveFiles(clock.today()),
@@ -521,7 +618,10 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                       .show = showInJournal,
                                       .files = journalFiles,
                                       .pictures = journalPictures,
-                                      .isSealed = isJournalSealed});
+                                      .missingPictures = missingJournalPictures,
+                                      .relinkPictures = relinkJournalPictures,
+                                      .isSealed = isJournalSealed,
+                                      .records = journalRecords});
     // Nothing of what it holds is told to others, guarded or not.
     functions.add(Function::PasswordKeeper, {.open = makeWindow<Form4>,
                                              .liveLine = keeperNews,
@@ -531,4 +631,9 @@ void addFunctions(FunctionCatalogue &functions, const Clock &clock)
                                              .isSealed = [](const Program &) { return true; }});
     functions.add(Function::PasswordControl,
                   {.open = makeWindow<Form31>, .liveLine = passwordNews, .liveFiles = {u"PCtrl1.Fil"_s}});
+    functions.add(Function::Backup, {.open = makeWindow<Backup1>,
+                                     .liveLine = backupNews,
+                                     .moreLiveFiles = backupLiveFiles,
+                                     .followsClock = true,
+                                     .show = showInBackup});
 }

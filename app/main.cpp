@@ -3,7 +3,9 @@
 #include "app/folderhold.h"
 #include "app/householdfolder.h"
 #include "app/startup.h"
+#include "backup/window/driveoffer.h"
 #include "shell/core/framelines.h"
+#include "shell/core/restart.h"
 #include "shell/look/theme.h"
 #include "shell/mainmenu/mainmenuwindow.h"
 #include "shell/mainmenu/splash.h"
@@ -11,7 +13,9 @@
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QProcess>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <optional>
 
@@ -43,6 +47,8 @@ int run(QApplication &application, const DataFolder &programFolder, const DataFo
     // The main window is made ready while the splash stands, so that it is there at once when it goes.
     Startfrm mainMenu(program);
     QObject::connect(&line, &InstanceLink::called, &program.changes, &ProgramSignals::mainMenuRequested);
+    DriveOffer offer(program, &Drives::now);
+    QTimer::singleShot(3000, &offer, &DriveOffer::begin); // long after what is seen first
     // Later, when the main window has closed: what is left of the other windows is closed then.
     QObject::connect(&mainMenu, &Startfrm::exited, &application, &QApplication::quit, Qt::QueuedConnection);
     if (splash) {
@@ -51,7 +57,40 @@ int run(QApplication &application, const DataFolder &programFolder, const DataFo
         mainMenu.show();
         mainMenu.activateWindow();
     }
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    // Nothing may write over what the next start finds, and no window outlives what it works with.
+    if (result == Restart::exitCode)
+        qDeleteAll(program.functions.openWindows());
+    return result;
+}
+
+/// Runs the program on the household's folder, which is free for others when it has ended.
+int runOnHousehold(QApplication &application)
+{
+    const QString programFolder = QApplication::applicationDirPath();
+    DataFolder folder = HouseholdFolder::choose(
+        DataFolder(programFolder), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    FolderHold hold(folder);
+    switch (take(hold)) {
+    case FolderHold::Result::Answered:
+        return EXIT_SUCCESS;
+    case FolderHold::Result::Locked:
+        return EXIT_FAILURE;
+    case FolderHold::Result::Unknown:
+        folder = DataFolder(folder.path(), FrameLines::folderPerhapsInUse());
+        break;
+    case FolderHold::Result::Ours:
+        break;
+    }
+    return run(application, DataFolder(HouseholdFolder::filesOfProgram(programFolder)), folder, hold.line());
+}
+
+/// The same program once more, as it was called.
+int startAnew()
+{
+    const bool isStarted =
+        QProcess::startDetached(QApplication::applicationFilePath(), QApplication::arguments().sliced(1));
+    return isStarted ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 } // namespace
@@ -70,20 +109,6 @@ int main(int argc, char *argv[])
     // The splash goes before the main window comes; the main window says when the program ends.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    const QString programFolder = QApplication::applicationDirPath();
-    DataFolder folder = HouseholdFolder::choose(
-        DataFolder(programFolder), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    FolderHold hold(folder);
-    switch (take(hold)) {
-    case FolderHold::Result::Answered:
-        return EXIT_SUCCESS;
-    case FolderHold::Result::Locked:
-        return EXIT_FAILURE;
-    case FolderHold::Result::Unknown:
-        folder = DataFolder(folder.path(), FrameLines::folderPerhapsInUse());
-        break;
-    case FolderHold::Result::Ours:
-        break;
-    }
-    return run(application, DataFolder(HouseholdFolder::filesOfProgram(programFolder)), folder, hold.line());
+    const int result = runOnHousehold(application);
+    return result == Restart::exitCode ? startAnew() : result;
 }

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/model/addressbook.h"
 #include "addressbook/model/addressholdings.h"
+#include "calendar/model/calendarfiles.h"
+#include "calendar/model/calendarholdings.h"
 #include "cars/model/carfiles.h"
 #include "cars/model/carpictures.h"
+#include "journal/model/journalholdings.h"
 #include "tests/support/failingdisk.h"
 #include "tests/support/rows.h"
 #include "tests/support/testfiles.h"
@@ -50,6 +53,22 @@ class TestRelinkedPictures : public QObject
         sheet.currentPicture = picture;
         QVERIFY(PersonFiles(folder).create(sheet));
     }
+    static void nameInCalendar(const DataFolder &folder, const QString &picture)
+    {
+        WallCalendar calendar;
+        calendar.title = u"Family"_s;
+        calendar.from = QDate(2027, 1, 1);
+        calendar.photos.insert(QDate(2027, 3, 1), {picture, u"Anne"_s});
+        QVERIFY(CalendarFiles::create(folder, calendar) > 0);
+    }
+    static void nameInJournal(const DataFolder &folder, const QString &picture)
+    {
+        const QByteArray line = "picture " + picture.toUtf8() + " | Anne\r\n\r\nSun.\r\n[picture 1]\r\n";
+        QFile file(folder.filePath(u"DJour2026.Fil"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("Quillery journal 1\r\n=== 2026-05-02\r\nmood 3\r\n" + line);
+        file.write("=== 2026-05-02 earlier\r\n" + line);
+    }
     static std::optional<UndoStep> relinkCars(const DataFolder &folder, const QHash<QString, QString> &files)
     {
         return CarPictures::relink(folder, DateStyle::Usa, files);
@@ -63,6 +82,12 @@ private slots:
               {nameInAddressBook, AddressHoldings::missingPictures, AddressHoldings::pictures,
                AddressHoldings::relinkPictures}},
              {"cars", {nameInCars, CarPictures::missing, CarFiles::pictures, relinkCars}},
+             {"calendars",
+              {nameInCalendar, CalendarHoldings::missingPictures, CalendarHoldings::pictures,
+               CalendarHoldings::relinkPictures}},
+             {"journal",
+              {nameInJournal, JournalHoldings::missingPictures, JournalHoldings::pictures,
+               JournalHoldings::relinkPictures}},
              {"weight",
               {nameInWeight, WeightPictures::missing, PersonFiles::pictures, WeightPictures::relink}}});
     }
@@ -74,6 +99,7 @@ private slots:
         const QTemporaryDir elsewhere;
         const QString old = u"C:\\Old\\Anne.jpg"_s;
         const QString now = makePicture(elsewhere.filePath(u"Anne here.jpg"_s), {16, 12});
+        const QString asStored = QDir::toNativeSeparators(now);
         told.name(folder, old);
         QCOMPARE(told.missing(folder), QStringList{old});
         {
@@ -87,11 +113,11 @@ private slots:
         const auto step = told.relink(folder, {{old, now}});
         QVERIFY(step && step->undo);
         QCOMPARE(told.missing(folder), QStringList());
-        QCOMPARE(told.there(folder), QStringList{now});
+        QCOMPARE(told.there(folder), QStringList{asStored});
         QCOMPARE(step->undo(), ChangeResult::Done);
         QCOMPARE(told.missing(folder), QStringList{old});
         QCOMPARE(step->redo(), ChangeResult::Done);
-        QCOMPARE(told.there(folder), QStringList{now});
+        QCOMPARE(told.there(folder), QStringList{asStored});
     }
 };
 

@@ -105,6 +105,22 @@ private slots:
         QVERIFY(panel.buttonRow().rect().contains(usual->geometry()));
     }
 
+    void wordsWithoutRoomBesideTheButtonsStandAboveThem()
+    {
+        TaskPanel panel(u"longPanel"_s, u"Long"_s);
+        panel.setWork(new QWidget);
+        panel.addButton(u"keep"_s, u"Keep"_s, ButtonKind::Main);
+        panel.resize(300, 300);
+        showActive(panel);
+        const auto *above = control<QLabel>(panel, "longTold");
+        const QString words = u"Another program has changed the holidays. Save again to write over that."_s;
+        for (const QString &said : {words, u"Saved"_s, QString()}) {
+            panel.setWords(said);
+            QCOMPARE(above->isVisible(), said == words);
+            QCOMPARE(above->text(), said == words ? words : QString());
+        }
+    }
+
     void escClearsAFilledSearchBoxAndIsUsedUp()
     {
         Window window;

@@ -271,6 +271,40 @@ private slots:
         QVERIFY(third->isVisible());
     }
 
+    void opensTheBackupAtASideWithItsFunction()
+    {
+        TestProgram test;
+        QList<Place> shown;
+        test.functions.add(Function::Backup,
+                           {.open = [](Program &) { return new QWidget; },
+                            .show = [&shown](QWidget &, const Place &place) { shown << place; }});
+        test.functions.add(Function::Planner,
+                           {.open = [](Program &program) { return new SampleWindow(program); },
+                            .files = [](const Program &) { return QStringList{u"Days.Fil"_s}; }});
+        QWidget *window = test.functions.open(Function::Planner, test.program);
+        auto *backup = control<QAction>(*window, "mUB");
+        const auto look = [window] { emit control<QMenu>(*window, "mU")->aboutToShow(); };
+        for (const QByteArray &bytes : {QByteArray(), QByteArray("1"), QByteArray()}) {
+            test.setBytes(u"Days.Fil"_s, bytes);
+            look();
+            QCOMPARE(backup->isEnabled(), !bytes.isEmpty());
+            QCOMPARE(backup->statusTip().isEmpty(), !bytes.isEmpty());
+        }
+        test.setBytes(u"Days.Fil"_s, "1");
+        look();
+        control<QLineEdit>(*window, "box")->setText(u"typed"_s);
+        for (const Answer answer : {Answer::Cancel, Answer::Yes}) {
+            test.dialogs.willAnswer(answer);
+            backup->trigger();
+        }
+        control<QAction>(*window, "mUR")->trigger(); // nothing is copied, and nothing asked
+        QCOMPARE(static_cast<SampleWindow *>(window)->done, QStringList{u"saved typed"_s});
+        QCOMPARE(shown, (QList<Place>{BackupPlace::of(BackupPlace::Side::BackUp, Function::Planner),
+                                      BackupPlace::of(BackupPlace::Side::Restore, Function::Planner)}));
+        QVERIFY(test.dialogs.isDone());
+        qDeleteAll(test.functions.openWindows());
+    }
+
     void opensOnceAndIsRaisedThen()
     {
         FunctionCatalogue &functions = m_program->functions;

@@ -87,6 +87,20 @@ private slots:
         QVERIFY(button->grab().toImage().pixelColor(6, 18).rgb() == theme.accent.rgb());
     }
 
+    void colorsWhatComesOntoAPanelLater()
+    {
+        auto *content = new QWidget(m_panel);
+        QVERIFY(m_program->settings.setText(panelOnly.panel, blueText));
+        make(panelOnly);
+        auto *whole = new QWidget; // put together before it stands on the panel
+        QList<QLabel *> late{makeQuietLabel(u"4 entries"_s, content), makeQuietLabel(u"Taxes"_s, whole)};
+        whole->setParent(content);
+        late.first()->show();
+        whole->show();
+        for (const QLabel *label : late)
+            QCOMPARE(label->palette().color(label->foregroundRole()), QColor(Qt::white));
+    }
+
     void asksAtOnceWhereThereIsNoTextColor_data()
     {
         using Answers = QList<Answer>;

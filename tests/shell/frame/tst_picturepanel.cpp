@@ -112,6 +112,24 @@ private slots:
         QCOMPARE(shownFolder(), m_test->temporary.path());
     }
 
+    void aDoubleClickOpensAFolderAndEntersAPicture()
+    {
+        QVERIFY(QDir(m_album).mkdir(u"summer"_s));
+        const QString path = makePicture(m_album + u"/summer/anne.jpg", {40, 30});
+        open();
+        const auto doubleClick = [](QListWidget *list, int row) {
+            const QPoint place = list->visualItemRect(list->item(row)).center();
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+            QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+        };
+        doubleClick(find<QListWidget>("Dir1"), 1);
+        QCOMPARE(shownFolder(), QString(m_album + u"/summer"_s));
+        const QSignalSpy entered(m_window, &PicturePanel::pictureEntered);
+        doubleClick(fileList(), 0);
+        QCOMPARE(entered, QList<QVariantList>{{QDir::toNativeSeparators(path)}});
+        QVERIFY(!fileList()->item(0)->data(Qt::CheckStateRole).isValid()); // no tick beside it
+    }
+
     void refusesAPathThatNoEntryCanHold()
     {
         const QStringList names{u"αννα.jpg"_s, QString(180, u'x') + u".jpg"};

@@ -3,6 +3,7 @@
 
 #include "shell/core/settingskeys.h"
 #include "shell/mainmenu/splash.h"
+#include "shell/program/backupplace.h"
 
 #include <QAbstractButton>
 #include <QElapsedTimer>
@@ -68,6 +69,21 @@ private slots:
         showActive(*m_window);
         QTRY_VERIFY(!line()->isVisible());
         asked();
+    }
+
+    void leadsBackFromABackup()
+    {
+        addBook();
+        addFunction(Function::Backup);
+        FunctionEntry entry = *m_test->functions.entry(Function::Backup);
+        QList<Place> places;
+        entry.show = [&places](QWidget &, const Place &place) { places << place; };
+        m_test->functions.add(Function::Backup, entry);
+        show();
+        QTRY_VERIFY(line()->isVisible());
+        QTest::mouseClick(find<QAbstractButton>("firstLookRestore"), Qt::LeftButton);
+        QCOMPARE(places, {BackupPlace::of(BackupPlace::Side::Restore)});
+        QVERIFY(asked().isEmpty());
     }
 
     void keepsTheFocusFromStepToStep()

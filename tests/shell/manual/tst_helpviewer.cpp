@@ -106,8 +106,9 @@ private slots:
                                             PageContext{.today = QDate(2026, 11, 21)});
         QCOMPARE(page.title(), u"Backup and Restore"_s);
         const QString text = page.toText();
-        QVERIFY(text.contains(u"\n2.  Connect the stick or drive.\n"_s));
-        QVERIFY(text.contains(u"\nRestoring a backup\n1.  Close Quillery.\n"_s));
+        QVERIFY(text.contains(u"\n2.  Leave everything ticked, or choose what goes along.\n"_s));
+        QVERIFY(text.contains(
+            u"\nRestoring a backup\n1.  Choose the drive, the side Restore, and one of its backups.\n"_s));
         QVERIFY(!text.contains(u'<'));
 
         trigger("mOPrt");

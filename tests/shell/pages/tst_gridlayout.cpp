@@ -117,6 +117,27 @@ private slots:
         QVERIFY(!layout.cellAt({1, 1}) && !layout.cellOf(QDate()) && !layout.spanAt({1, 1}));
     }
 
+    void noWordIsTornThatHasRoom()
+    {
+        for (int width = 4; width <= 11; ++width) {
+            PageGrid grid = fiveWeeks();
+            grid.place.setWidth(width);
+            for (const QString &words : {u"Washington's Birthday"_s, u"Independence Day (observed)"_s,
+                                         u"Happy Thanksgiving to all of you"_s})
+                addLines(grid, 3, 1, words);
+            const GridLayout layout = laidOut(grid);
+            const LaidBlock &block = layout.blocks().front().laid;
+            const PageType &type =
+                layout.blocks().front().frame.types().line(layout.points(), GridTypes::Normal);
+            for (const LaidLine &line : block.cells.at(3).lines) {
+                for (const QString &word : line.line->text.split(u' ')) {
+                    if (type.width(word) + 2 < line.rect.width())
+                        QVERIFY2(line.words.join(u' ').split(u' ').contains(word), qPrintable(word));
+                }
+            }
+        }
+    }
+
     void noLineIsLost_data()
     {
         rows<int, QString>({

@@ -13,6 +13,12 @@ using namespace Qt::Literals::StringLiterals;
 using Look = PictureQueue::Look;
 using Priority = PictureQueue::Priority;
 
+namespace {
+
+constexpr int patience = 60000; ///< milliseconds: under an emulator it takes its time
+
+} // namespace
+
 class TestPictureQueue : public QObject
 {
     Q_OBJECT
@@ -32,8 +38,8 @@ private slots:
         for (int id = 1; id <= 12; ++id)
             seen.push_back(photograph(id, {1600, 1200}));
         queue.show(seen, {});
-        QTRY_COMPARE(queue.waitingCount(), 0);
-        QTRY_COMPARE(sharpCount(), 12);
+        QTRY_COMPARE_WITH_TIMEOUT(queue.waitingCount(), 0, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(sharpCount(), 12, patience);
         for (int id = 1; id <= 12; ++id) {
             QCOMPARE(m_looks.value(id).first(), Look::Rough);
             QCOMPARE(m_looks.value(id).last(), Look::Sharp);
@@ -44,7 +50,7 @@ private slots:
         PictureQueue again(thumbnails());
         watch(again);
         again.show(seen, {});
-        QTRY_COMPARE(sharpCount(), 12);
+        QTRY_COMPARE_WITH_TIMEOUT(sharpCount(), 12, patience);
         for (int id = 1; id <= 12; ++id)
             QCOMPARE(m_looks.value(id), QList<Look>{Look::Sharp}); // from the thumbnails
     }
@@ -59,8 +65,8 @@ private slots:
         for (const WantedPicture &picture : all)
             queue.want(picture, Priority::Rest);
         queue.show({all.begin() + 50, all.begin() + 54}, {all.begin() + 54, all.begin() + 56});
-        QTRY_COMPARE(queue.waitingCount(), 0);
-        QTRY_COMPARE(sharpCount(), 6);
+        QTRY_COMPARE_WITH_TIMEOUT(queue.waitingCount(), 0, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(sharpCount(), 6, patience);
         // The thumbnails tell in which order the pictures were read.
         const QFileInfoList made = QDir(thumbnails()).entryInfoList(QDir::Files, QDir::Time | QDir::Reversed);
         QCOMPARE(made.size(), 60);
@@ -80,8 +86,8 @@ private slots:
         watch(queue);
         queue.show({all.begin(), all.begin() + 30}, {});
         queue.show({all.begin() + 30, all.begin() + 34}, {all.begin() + 34, all.end()});
-        QTRY_COMPARE(queue.waitingCount(), 0);
-        QTRY_VERIFY(sharpCount() >= 10);
+        QTRY_COMPARE_WITH_TIMEOUT(queue.waitingCount(), 0, patience);
+        QTRY_VERIFY_WITH_TIMEOUT(sharpCount() >= 10, patience);
         for (int id = 30; id < 40; ++id)
             QVERIFY(!queue.kept(id).image.isNull());
         QCOMPARE(QDir(thumbnails()).entryList(QDir::Files).size(), 40);
@@ -94,7 +100,7 @@ private slots:
         WantedPicture picture = photograph(7, {1600, 1200});
         const auto size = [&] {
             queue.show({picture}, {});
-            const bool isThere = QTest::qWaitFor([&] { return queue.waitingCount() == 0; });
+            const bool isThere = QTest::qWaitFor([&] { return queue.waitingCount() == 0; }, patience);
             QTest::qWait(20);
             return isThere ? queue.kept(7).image.size() : QSize();
         };
@@ -118,12 +124,12 @@ private slots:
         WantedPicture picture = photograph(1, {1600, 1200});
         const WantedPicture other = photograph(2, {1200, 1600});
         queue.show({picture}, {});
-        QTRY_VERIFY(!queue.kept(1).image.isNull());
-        QTRY_COMPARE(queue.waitingCount(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!queue.kept(1).image.isNull(), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(queue.waitingCount(), 0, patience);
         picture.path = other.path; // the number belongs to another file now
         queue.show({picture}, {});
         QVERIFY(queue.kept(1).image.isNull());
-        QTRY_COMPARE(queue.kept(1).image.size(), QSize(192, 256));
+        QTRY_COMPARE_WITH_TIMEOUT(queue.kept(1).image.size(), QSize(192, 256), patience);
     }
 
     void tellsWhatCannotBeShown()
@@ -136,15 +142,16 @@ private slots:
         const WantedPicture cut{3, TestPhotographs::save(path(u"cut.jpg"_s), whole.first(whole.size() / 2))};
         queue.want(text, Priority::Rest);
         queue.show({none, cut}, {});
-        QTRY_COMPARE(m_reasons.size(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(m_reasons.size(), 2, patience);
         QCOMPARE(m_reasons.value(1), PictureLines::noPictureInside());
         QCOMPARE(queue.kept(2).reason, PictureLines::pictureNotFound());
-        QTRY_COMPARE(m_looks.value(3), QList<Look>{Look::Cut});
+        QTRY_COMPARE_WITH_TIMEOUT(m_looks.value(3), QList<Look>{Look::Cut}, patience);
         PictureQueue again(thumbnails());
         m_looks.clear();
         watch(again);
         again.show({cut}, {});
-        QTRY_COMPARE(m_looks.value(3), QList<Look>{Look::Cut}); // its thumbnail knows it
+        QTRY_COMPARE_WITH_TIMEOUT(m_looks.value(3), QList<Look>{Look::Cut},
+                                  patience); // its thumbnail knows it
     }
 
     void showsTheThumbnailOfAFileThatIsNotHere()
@@ -156,12 +163,12 @@ private slots:
         PictureQueue queue(thumbnails());
         watch(queue);
         queue.want(picture, Priority::Rest);
-        QTRY_COMPARE(queue.waitingCount(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(queue.waitingCount(), 0, patience);
         QVERIFY(m_looks.isEmpty()); // of the rest nothing arrives
         QVERIFY(QFile::remove(picture.path));
         queue.setSide(700);
         queue.show({picture}, {});
-        QTRY_COMPARE(m_looks.value(5), QList<Look>{Look::Away});
+        QTRY_COMPARE_WITH_TIMEOUT(m_looks.value(5), QList<Look>{Look::Away}, patience);
         QCOMPARE(queue.kept(5).image.size(), QSize(256, 192));
     }
 
@@ -177,7 +184,7 @@ private slots:
         queue.forgetAll();
         QCOMPARE(queue.waitingCount(), 0);
         queue.show({seen[4]}, {});
-        QTRY_COMPARE(sharpCount(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(sharpCount(), 1, patience);
         QTest::qWait(100);
         QCOMPARE(m_looks.size(), 1);
         queue.show(seen, {}); // and goes while it works

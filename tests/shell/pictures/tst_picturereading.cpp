@@ -223,6 +223,37 @@ private slots:
         }
     }
 
+    void showsNothingThatIsNotOfThePicture()
+    {
+        QImage drawn(400, 300, QImage::Format_RGB32);
+        for (int y = 0; y < drawn.height(); ++y) {
+            for (int x = 0; x < drawn.width(); ++x)
+                drawn.setPixel(x, y, qRgb((x * x * 7 + y * 31) % 256, (x * y) % 251, (y * y + x) % 253));
+        }
+        QByteArray png;
+        QBuffer buffer(&png);
+        QVERIFY(drawn.save(&buffer, "PNG"));
+        const QString half =
+            TestPhotographs::save(m_folder.filePath(u"half.png"_s), png.first(png.size() / 2));
+        const QImage cut = PictureReading::read(half, {400, 300}).image;
+        QCOMPARE(cut.pixelColor(200, 299), QColor(Qt::lightGray));
+        QCOMPARE(cut.pixelColor(200, 2), drawn.pixelColor(200, 2));
+
+        if (!QImageReader::supportedImageFormats().contains("tiff"))
+            return;
+        // 4 by 4 dots of ink, as printers have them.
+        const QByteArray inks =
+            QByteArray("II*\0\x08\0\0\0\x09\0", 10) + QByteArray("\0\1\3\0\1\0\0\0\4\0\0\0", 12) +
+            QByteArray("\1\1\3\0\1\0\0\0\4\0\0\0", 12) + QByteArray("\2\1\3\0\4\0\0\0\x7A\0\0\0", 12) +
+            QByteArray("\3\1\3\0\1\0\0\0\1\0\0\0", 12) + QByteArray("\6\1\3\0\1\0\0\0\5\0\0\0", 12) +
+            QByteArray("\x11\1\4\0\1\0\0\0\x82\0\0\0", 12) + QByteArray("\x15\1\3\0\1\0\0\0\4\0\0\0", 12) +
+            QByteArray("\x16\1\3\0\1\0\0\0\4\0\0\0", 12) + QByteArray("\x17\1\4\0\1\0\0\0\x40\0\0\0", 12) +
+            QByteArray(4, '\0') + QByteArray("\x08\0\x08\0\x08\0\x08\0", 8) + QByteArray(64, '\x40');
+        const ReadPicture printed =
+            PictureReading::read(TestPhotographs::save(m_folder.filePath(u"ink.tif"_s), inks), {100, 100});
+        QVERIFY(printed.image.isNull() ? !printed.reason.isEmpty() : !printed.isCut);
+    }
+
     /// Beyond what Qt reads by itself: the whole picture where there is memory for it, else as much as there
     /// is.
     void readsVeryLargePictures()

@@ -91,8 +91,8 @@ private slots:
         const std::vector<std::pair<QString, QList<int>>> expected{
             {u"GColor1.Fil"_s, {10, 11, 12, 13, 16, 17, 18, 22, 27, 32, 36, 38, 40, 49, 54, 56, 70, 80}},
             {u"GColor2.Fil"_s, {5, 9, 12, 16, 19, 20, 22, 25, 40}},
-            {u"GColor3.Fil"_s, {8,   11,  12,  17,  26,  91,  92,  100, 101, 102, 103,
-                                104, 105, 202, 203, 204, 205, 206, 207, 208, 212, 214}}};
+            {u"GColor3.Fil"_s, {8,   11,  12,  17,  26,  91,  92,  100, 101, 102, 103, 104,
+                                105, 202, 203, 204, 205, 206, 207, 208, 212, 214, 216}}};
         for (const auto &[name, records] : expected) {
             QByteArray file((records.last() - 1) * 20 + 5, '\0');
             for (const int record : records)
