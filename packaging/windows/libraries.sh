@@ -21,8 +21,11 @@ hunspell_options=(--host=$mingw --enable-shared --disable-static --disable-nls)
 hunspell_patch=packaging/windows/hunspell-paths.patch
 mythes_options=(--host=$mingw --enable-shared --disable-static --disable-werror)
 mythes_patch=packaging/windows/mythes-paths.patch
+libarchive_options=(--host=$mingw --enable-shared --disable-static --with-zlib --without-bz2lib --without-libb2
+    --without-iconv --without-lz4 --without-zstd --without-lzma --without-cng --without-openssl --without-nettle
+    --without-xml2 --without-expat --disable-bsdtar --disable-bsdcat --disable-bsdcpio --disable-acl --disable-xattr)
 # Those beside Qt, each after what it needs; named as their source packages are.
-other_libraries=(libsodium qcustomplot hunspell mythes)
+other_libraries=(libsodium qcustomplot hunspell mythes zlib libarchive)
 
 # source_of PACKAGE: the source package of an installed one, and its version, as "name version".
 source_of() {
@@ -42,6 +45,8 @@ recipe_of() {
         libsodium) recipe libsodium-dev libsodium "${sodium_options[*]}" ;;
         qcustomplot) recipe libqcustomplot-dev qcustomplot "${qcustomplot_options[*]}" ;;
         hunspell) recipe libhunspell-dev hunspell "${hunspell_options[*]}" "$hunspell_patch" ;;
+        zlib) recipe zlib1g-dev zlib "" ;;
+        libarchive) recipe libarchive-dev libarchive "${libarchive_options[*]}" ;;
         mythes) recipe libmythes-dev mythes "${mythes_options[*]}" "$mythes_patch" ;;
     esac
 }
@@ -147,4 +152,18 @@ build_mythes() {
 
 build_qcustomplot() {
     cross qcustomplot "${qcustomplot_options[@]}"
+}
+
+# Debian's source comes without the folder for Windows, from which only the words in the DLL's properties are missed.
+build_zlib() {
+    mkdir -p "$work/zlib/win32"
+    printf '1 VERSIONINFO\nBEGIN\nEND\n' >"$work/zlib/win32/zlib1.rc"
+    cross zlib -DINSTALL_PKGCONFIG_DIR="$libraries/lib/pkgconfig"
+    cp "$libraries/lib/libzlib.dll.a" "$libraries/lib/libz.dll.a" # as others ask for it
+    cp "$work/zlib/README" "$libraries/licenses/zlib/"
+}
+
+build_libarchive() {
+    CPPFLAGS=-I$libraries/include LDFLAGS=-L$libraries/lib cross_autotools libarchive "${libarchive_options[@]}"
+    cp "$work/libarchive/COPYING" "$libraries/licenses/libarchive/"
 }

@@ -88,6 +88,8 @@ def main():
     for file in program.iterdir():
         if file.suffix.lower() in (".exe", ".jpg", ".png"):
             shutil.copyfile(file, payload / file.name)
+    if (program / "modules").is_dir():
+        shutil.copytree(program / "modules", payload / "modules", copy_function=shutil.copyfile)
     shutil.copytree(program / "dictionaries", payload / "dictionaries", copy_function=shutil.copyfile)
     for pattern in PLUGINS:
         folder, name = pattern.split("/")
