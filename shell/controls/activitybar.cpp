@@ -257,6 +257,11 @@ void ActivityBar::showProgress(int done, int total, bool stoppable)
     m_progress->setFormat(u"%v of %m"_s);
 }
 
+QKeySequence ActivityBar::stopKey() const
+{
+    return m_stop->isVisible() ? m_stop->shortcut() : QKeySequence();
+}
+
 void ActivityBar::startClock()
 {
     m_clockRuns = true;

@@ -4,6 +4,7 @@
 #include "shell/core/clock.h"
 #include "shell/core/programstate.h"
 
+#include <QKeySequence>
 #include <QStatusBar>
 
 #include <functional>
@@ -49,6 +50,8 @@ public:
 
     /// Progress of a long walk; `total` 0 hides it. `stoppable` also shows "Stop".
     void showProgress(int done, int total, bool stoppable = false);
+    /// The access key of "Stop"; none while it is not shown.
+    QKeySequence stopKey() const;
 
     /// Starts the clock: nothing ticks before, nor while the bar is not seen.
     void startClock();

@@ -17,6 +17,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSaveFile>
+#include <QShortcutEvent>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -44,7 +45,7 @@ void keepFromOthers(const QString &path)
 }
 
 /// While it lives, nothing but the status bar takes clicks and keys, and no window closes: the sheets being
-/// printed stay what they are. Esc stops.
+/// printed stay what they are. Esc and the access key of "Stop" stop.
 class OnlyStop final : public QObject
 {
 public:
@@ -61,8 +62,11 @@ protected:
     bool eventFilter(QObject *receiver, QEvent *event) override
     {
         const auto *widget = qobject_cast<QWidget *>(receiver);
-        if (event->type() == QEvent::Shortcut)
+        if (event->type() == QEvent::Shortcut) {
+            // Whichever menu has the same key: meanwhile it is the button's.
+            m_isStopped = m_isStopped || static_cast<QShortcutEvent *>(event)->key() == m_activity.stopKey();
             return true;
+        }
         if (!widget || widget == &m_activity || m_activity.isAncestorOf(widget))
             return false;
         switch (event->type()) {

@@ -159,11 +159,25 @@ private slots:
         QCOMPARE(m_window->activity->message(), u""_s);
     }
 
+    void printingManySheetsCanBeStopped_data()
+    {
+        QTest::addColumn<QKeySequence>("key");
+        QTest::newRow("click") << QKeySequence();
+        QTest::newRow("Esc") << QKeySequence(Qt::Key_Escape);
+        QTest::newRow("access key") << QKeySequence(u"Alt+T"_s);
+    }
+
     void printingManySheetsCanBeStopped()
     {
+        QFETCH(const QKeySequence, key);
         m_window->showList(2000);
         auto *stop = control<QPushButton>(m_window->window, "statusStop");
-        QTimer::singleShot(0, stop, &QPushButton::click);
+        QTimer::singleShot(0, stop, [&] {
+            if (key.isEmpty())
+                stop->click();
+            else
+                QTest::keyClick(&m_window->window, Qt::Key(key[0].key()), key[0].keyboardModifiers());
+        });
         m_window->dialogs.willChooseFile(path(u"names.pdf"_s));
         QVERIFY(!m_window->pane->print());
         QCOMPARE(m_window->activity->message(), PreviewMessages::printingStopped());
