@@ -15,7 +15,7 @@ inline QString linked(qsizetype count)
 
 inline QString newPictures(qsizetype count)
 {
-    return count == 1 ? u"1 new picture"_s : QLocale::c().toString(count) + u" new pictures"_s;
+    return count == 1 ? u"1 new picture"_s : AlbumLines::number(count) + u" new pictures"_s;
 }
 
 } // namespace FindLines

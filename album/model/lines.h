@@ -9,16 +9,22 @@ namespace AlbumLines {
 
 using namespace Qt::Literals::StringLiterals;
 
+/// "2,000"
+inline QString number(qint64 count)
+{
+    return QLocale(QLocale::English, QLocale::UnitedStates).toString(count);
+}
+
 /// "1 picture", "2,000 pictures"
 inline QString pictures(qsizetype count)
 {
-    return count == 1 ? u"1 picture"_s : QLocale::c().toString(count) + u" pictures"_s;
+    return count == 1 ? u"1 picture"_s : number(count) + u" pictures"_s;
 }
 
 /// "1 album", "14 albums"
 inline QString albums(qsizetype count)
 {
-    return count == 1 ? u"1 album"_s : QLocale::c().toString(count) + u" albums"_s;
+    return count == 1 ? u"1 album"_s : number(count) + u" albums"_s;
 }
 
 /// Where a picture would stand on paper.

@@ -11,10 +11,7 @@ namespace {
 
 constexpr qsizetype mostNamed = 8;
 
-QString number(qsizetype count)
-{
-    return QLocale::c().toString(count);
-}
+using AlbumLines::number;
 
 /// The first of them, each on a line of its own.
 QString some(const QStringList &names)

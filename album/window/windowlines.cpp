@@ -18,10 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString number(qint64 value)
-{
-    return QLocale::c().toString(value);
-}
+using AlbumLines::number;
 
 QString counted(int count, const QString &one, const QString &several)
 {
@@ -97,7 +94,7 @@ QString facts(const Photo &photo)
 {
     QStringList parts;
     if (photo.width > 0 && photo.height > 0)
-        parts.append(u"%1 × %2"_s.arg(number(photo.width), number(photo.height)));
+        parts.append(u"%1 × %2"_s.arg(photo.width).arg(photo.height));
     if (photo.size > 0)
         parts.append(QLocale::c().formattedDataSize(photo.size, 1, QLocale::DataSizeSIFormat));
     const QString folder = QFileInfo(photo.path).path();

@@ -6,6 +6,7 @@
 #include "shell/controls/panerows.h"
 #include "shell/look/theme.h"
 
+#include <QLocale>
 #include <QPainter>
 
 #include <utility>
@@ -54,7 +55,7 @@ void PaneRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     QRect place = option.rect.adjusted(inset, 0, -inset, 0);
     if (const int count = index.data(PaneRows::countRole).toInt(); count > 0) {
         const bool isOverdue = index.data(PaneRows::overdueRole).toBool();
-        const QString words = QString::number(count);
+        const QString words = QLocale(QLocale::English, QLocale::UnitedStates).toString(count);
         painter->setFont(TypeScale::label());
         painter->setPen(isSelected ? theme.onAccent : isOverdue ? theme.negative : theme.quiet);
         painter->drawText(place, Qt::AlignVCenter | Qt::AlignRight, words);

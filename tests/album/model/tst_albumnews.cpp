@@ -60,6 +60,7 @@ private slots:
             {"one picture", taken("1974"), {}, u"1 picture"_s, false},
             {"in albums", taken("2026-11-21") + taken({}), album + place + album, u"2 pictures in 2 albums"_s,
              false},
+            {"thousands", taken("1974").repeated(1000), {}, u"1,000 pictures"_s, false},
             {"on this day", old, album, u"On this day in 2019: 2 pictures"_s, false},
             {"the later of two years",
              taken("2015-11-21") + taken("2019-11-21"),
