@@ -4,6 +4,7 @@
 #include "album/model/photodatewords.h"
 #include "album/model/photoshelf.h"
 #include "album/window/slidebar.h"
+#include "album/window/windowlines.h"
 #include "shell/look/theme.h"
 
 #include <QAccessible>
@@ -28,16 +29,11 @@ constexpr int keptPictures = 5;
 constexpr int bytesOfPixel = 4;
 constexpr int rim = 48;
 
-/// "Anne and Karin at the lake", or the file's name where nothing is said of it.
-QString nameOf(const Photo &photo)
+/// "about 1974, Lake Vern, with Anne and Karin"
+QString whenWhereAndWho(const Photo &photo, DateStyle style)
 {
-    return photo.caption.isEmpty() ? photo.fileName() : photo.caption;
-}
-
-/// "about 1974, Lake Vern"
-QString whenAndWhere(const Photo &photo, DateStyle style)
-{
-    QStringList parts{PhotoDateWords::heading(photo.date, style), photo.place};
+    QStringList parts{PhotoDateWords::heading(photo.date, style), photo.place,
+                      AlbumWindowLines::withPeople(photo)};
     if (photo.date.isNone())
         parts.removeFirst();
     parts.removeAll(QString());
@@ -188,7 +184,7 @@ void SlideShow::present(int id, const QImage &image, bool isWhole)
 /// For those who hear the pictures.
 void SlideShow::tell(const Photo &photo)
 {
-    QStringList parts{nameOf(photo), whenAndWhere(photo, m_style)};
+    QStringList parts{AlbumWindowLines::nameOf(photo), whenWhereAndWho(photo, m_style)};
     parts.removeAll(QString());
     const QString words = parts.join(u", "_s);
     if (words == accessibleName())
@@ -280,7 +276,7 @@ void SlideShow::paintCaption(QPainter &painter) const
     const Photo *photo = m_shelf.photo(m_presented);
     if (!photo)
         return;
-    const QString under = whenAndWhere(*photo, m_style);
+    const QString under = whenWhereAndWho(*photo, m_style);
     QFont large = TypeScale::windowTitle();
     large.setPointSizeF(large.pointSizeF() * 1.2);
     const QFont small = TypeScale::group();
@@ -303,7 +299,8 @@ void SlideShow::paintCaption(QPainter &painter) const
     painter.setFont(small);
     painter.setPen(QColor(255, 255, 255, 215));
     painter.drawText(QRect(room.left(), band.top() + rim / 2 + mainHeight, room.width(), underHeight),
-                     Qt::AlignHCenter | Qt::AlignBottom, under);
+                     Qt::AlignHCenter | Qt::AlignBottom,
+                     QFontMetrics(small).elidedText(under, Qt::ElideRight, room.width()));
 }
 
 void SlideShow::keyPressEvent(QKeyEvent *event)

@@ -51,27 +51,25 @@ QString starsAndDate(const Photo &photo, const DateStyle &style)
     return QString(int(photo.rating), u'★') + (date.isEmpty() ? QString() : u"  "_s) + date;
 }
 
+QString withPeople(const Photo &photo)
+{
+    const QStringList people = PhotoTexts::list(photo.people);
+    return people.isEmpty() ? QString() : u"with "_s + andList(people);
+}
+
 QString spoken(const Photo &photo, const DateStyle &style)
 {
-    QStringList parts{nameOf(photo)};
-    if (const QString date = PhotoDateWords::words(photo.date, style); !date.isEmpty())
-        parts.append(date);
-    if (const QStringList people = PhotoTexts::list(photo.people); !people.isEmpty())
-        parts.append(u"with "_s + andList(people));
+    QStringList parts{nameOf(photo), PhotoDateWords::words(photo.date, style), withPeople(photo)};
     if (photo.rating > 0)
         parts.append(counted(photo.rating, u"star"_s, u"stars"_s));
+    parts.removeAll(QString());
     return parts.join(u", "_s);
 }
 
 QString below(const Photo &photo, const DateStyle &style)
 {
-    QStringList parts;
-    for (const QString &part : {starsAndDate(photo, style), photo.place}) {
-        if (!part.isEmpty())
-            parts.append(part);
-    }
-    if (const QStringList people = PhotoTexts::list(photo.people); !people.isEmpty())
-        parts.append(u"with "_s + andList(people));
+    QStringList parts{starsAndDate(photo, style), photo.place, withPeople(photo)};
+    parts.removeAll(QString());
     QString words = parts.join(u", "_s);
     if (!photo.story.isEmpty())
         words += (words.isEmpty() ? QString() : u"\n"_s) + photo.story;

@@ -23,6 +23,8 @@ QString nameOf(const Photo &photo);
 QString starsAndDate(const Photo &photo, const DateStyle &style);
 /// "Anne and Karin at the lake, about 1974, with Anne Lind and Karin, 3 stars".
 QString spoken(const Photo &photo, const DateStyle &style);
+/// "with Anne Lind and Karin"; empty without people.
+QString withPeople(const Photo &photo);
 /// Why a picture bears a sign: "Its disk is not plugged in"; empty where it bears none.
 QString sign(const Photo &photo, PictureQueue::Look look);
 /// "4000 x 3000, 2.3 MB, in Pictures/2019".

@@ -28,6 +28,7 @@ private slots:
             Photo photo;
             photo.path = u"picture%1.jpg"_s.arg(i);
             photo.caption = u"Caption %1"_s.arg(i);
+            photo.people = i == 1 ? u"Anne; Karin"_s : QString();
             photo.set(Photo::LeftOutOfShows, i == 3);
             if (i != 2)
                 TestPhotographs::save(m_program->path(photo.path),
@@ -70,7 +71,7 @@ private slots:
         QCOMPARE(m_show->current(), m_photos.at(0));
         QTest::mouseClick(m_show, Qt::LeftButton);
         QCOMPARE(m_show->current(), m_photos.at(1));
-        QTRY_COMPARE(m_show->accessibleName(), u"Caption 1"_s);
+        QTRY_COMPARE(m_show->accessibleName(), u"Caption 1, with Anne and Karin"_s);
         QVERIFY(!timer()->isActive());
         auto *bar = control<QWidget>(*m_show, "slideBar");
         QVERIFY(!bar->isVisible());
