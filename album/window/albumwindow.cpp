@@ -198,7 +198,7 @@ void PhotoVIEW1::connectShelf()
 void PhotoVIEW1::connectParts()
 {
     const auto say = [this](const QString &line) { activity().say(line); };
-    connect(m_pane, &AlbumPane::chosen, this, &PhotoVIEW1::bring);
+    connect(m_pane, &AlbumPane::chosen, this, &PhotoVIEW1::bringUnlessRefused);
     connect(m_pane, &AlbumPane::entered, this, [this] {
         if (m_stack->isHome())
             m_photos->setFocus();
@@ -232,7 +232,7 @@ void PhotoVIEW1::connectParts()
     connect(m_albums, &AlbumCommands::albumWanted, this, [this](int album) {
         bring({{ShelfView::Kind::Album, album}, {}});
     });
-    connect(m_look, &LookCommands::viewWanted, this, &PhotoVIEW1::bring);
+    connect(m_look, &LookCommands::viewWanted, this, &PhotoVIEW1::bringUnlessRefused);
     connect(&activity(), &ActivityBar::dayBegan, this, [this] {
         m_pane->refresh();
         m_photos->followShelf();
@@ -330,6 +330,19 @@ void PhotoVIEW1::bring(const PhotosShown &shown)
     commands().refresh();
 }
 
+/// Other pictures are brought when what was typed for these has been taken.
+void PhotoVIEW1::bringUnlessRefused(const PhotosShown &shown)
+{
+    m_details->finish();
+    const bool isSeen = m_stack->isHome() || m_stack->isShown(m_large);
+    if (!isSeen || m_details->refused().isEmpty()) {
+        bring(shown);
+        return;
+    }
+    m_pane->show(m_photos->shown());
+    QMetaObject::invokeMethod(m_details, &PhotoDetails::mend, Qt::QueuedConnection); // behind the click
+}
+
 /// What was typed and refused is mended, or given up by Esc, before other pictures are chosen.
 bool PhotoVIEW1::returnsToRefused()
 {
@@ -338,13 +351,16 @@ bool PhotoVIEW1::returnsToRefused()
     const QList<int> &shown = m_photos->records();
     const bool areShown =
         std::ranges::all_of(refused, [&shown](int record) { return shown.contains(record); });
-    if (refused.isEmpty() || !areShown || !m_stack->isHome() || m_photos->chosen() == refused)
+    const bool isSeen = m_stack->isHome() || m_stack->isShown(m_large);
+    if (refused.isEmpty() || !areShown || !isSeen || m_photos->chosen() == refused)
         return false;
     QMetaObject::invokeMethod( // behind the click that chose others
         this,
         [this, refused] {
             {
                 const QScopedValueRollback<bool> returning(m_isReturning, true);
+                if (m_stack->isShown(m_large))
+                    m_large->choose(refused.first());
                 m_photos->choose(refused);
             }
             m_details->show(m_photos->chosen());

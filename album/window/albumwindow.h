@@ -47,6 +47,7 @@ private:
     void connectLarge();
     void connectCare();
     void bring(const PhotosShown &shown);
+    void bringUnlessRefused(const PhotosShown &shown);
     void showTaken(const QList<int> &records);
     void followChoice();
     bool returnsToRefused();

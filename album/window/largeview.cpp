@@ -61,6 +61,12 @@ void LargeView::show(const QList<int> &records, int record)
     goTo(int(std::max(qsizetype(0), m_records.indexOf(record))));
 }
 
+void LargeView::choose(int record)
+{
+    if (const auto row = m_records.indexOf(record); row >= 0)
+        goTo(int(row));
+}
+
 /// A picture that has left the list gives way to the one behind it.
 void LargeView::followShelf(const QList<int> &records)
 {

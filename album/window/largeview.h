@@ -20,6 +20,8 @@ public:
 
     /// Shows the picture of this record, and from it on goes through `records`.
     void show(const QList<int> &records, int record);
+    /// Goes to the picture of this record, where it is one of them.
+    void choose(int record);
     /// What is known of the pictures, or which there are, is something else.
     void followShelf(const QList<int> &records);
     /// 0 where there is none.
