@@ -3,6 +3,7 @@
 
 #include "album/model/photoshelf.h"
 #include "album/model/phototexts.h"
+#include "album/window/albumcovers.h"
 #include "album/window/phototiles.h"
 #include "album/window/windowlines.h"
 #include "shell/controls/bytelimit.h"
@@ -97,7 +98,8 @@ QLineEdit *makeNameBox(QWidget *parent)
 
 } // namespace
 
-AlbumPane::AlbumPane(const Program &program, const PhotoShelf &shelf, QWidget *parent)
+AlbumPane::AlbumPane(const Program &program, const PhotoShelf &shelf, const PictureQueue &queue,
+                     const QString &thumbnails, QWidget *parent)
     : QWidget(parent)
     , m_program(program)
     , m_shelf(shelf)
@@ -105,6 +107,7 @@ AlbumPane::AlbumPane(const Program &program, const PhotoShelf &shelf, QWidget *p
                              this))
     , m_rows(new PaneRows(u"application/x-quillery-albums"_s, this))
     , m_list(named(new DropList(PhotoTiles::dragFormat(), this), u"albumList"_s))
+    , m_covers(new AlbumCovers(shelf, queue, thumbnails, this))
     , m_count(named(makeQuietLabel({}, this), u"albumCount"_s))
     , m_layout(new QVBoxLayout(this))
 {
@@ -129,6 +132,8 @@ AlbumPane::AlbumPane(const Program &program, const PhotoShelf &shelf, QWidget *p
 void AlbumPane::connectList()
 {
     m_list->installEventFilter(this);
+    connect(m_covers, &AlbumCovers::arrived, this,
+            [this](int album) { m_rows->setPicture(album, m_covers->of(album)); });
     connect(m_search, &QLineEdit::textChanged, this, &AlbumPane::searchTyped);
     connect(m_list, &DropList::dropped, this, [this](int album, const std::vector<int> &records) {
         emit dropped(album, QList<int>(records.begin(), records.end()));
@@ -175,6 +180,7 @@ void AlbumPane::fold(int heading)
 void AlbumPane::refresh()
 {
     const QScopedValueRollback<bool> quiet(m_isFollowing, false);
+    m_covers->follow(devicePixelRatioF());
     const QDate today = m_program.clock.today();
     std::vector<PaneRows::Row> rows;
     for (const Kind view : views)
@@ -195,6 +201,7 @@ void AlbumPane::refresh()
             line.isFixed = false;
             line.isRenamable = true;
             line.takesThings = true;
+            line.picture = m_covers->of(album.record);
             rows.push_back(line);
         }
     }

@@ -5,9 +5,11 @@
 
 #include <QWidget>
 
+class AlbumCovers;
 class DropList;
 class PaneRows;
 class PhotoShelf;
+class PictureQueue;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -19,7 +21,9 @@ class AlbumPane final : public QWidget
 {
     Q_OBJECT
 public:
-    AlbumPane(const Program &program, const PhotoShelf &shelf, QWidget *parent = nullptr);
+    /// The covers of albums are read behind what `queue` reads.
+    AlbumPane(const Program &program, const PhotoShelf &shelf, const PictureQueue &queue,
+              const QString &thumbnails, QWidget *parent = nullptr);
 
     /// Marks what is shown. Asks nothing and says nothing.
     void show(const PhotosShown &shown);
@@ -57,6 +61,7 @@ private:
     SearchBox *m_search;
     PaneRows *m_rows;
     DropList *m_list;
+    AlbumCovers *m_covers;
     QLabel *m_count;
     QVBoxLayout *m_layout;
     PhotosShown m_shown;

@@ -2,6 +2,7 @@
 #include "album/window/largeview.h"
 
 #include "album/model/photoshelf.h"
+#include "album/window/wanted.h"
 #include "album/window/windowlines.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/titleline.h"
@@ -114,18 +115,6 @@ void LargeView::turnZoom()
     emit zoomChanged();
 }
 
-WantedPicture LargeView::wanted(int row) const
-{
-    const Photo *photo = m_shelf.photo(m_records.value(row));
-    if (!photo)
-        return {};
-    return {.id = photo->record,
-            .path = m_shelf.filePath(*photo),
-            .turns = photo->turns,
-            .size = photo->size,
-            .time = photo->fileTime};
-}
-
 /// This one, and those on either side of it. Out of sight nothing is read.
 void LargeView::want()
 {
@@ -137,9 +126,9 @@ void LargeView::want()
     std::vector<WantedPicture> next;
     for (const int row : {m_row + 1, m_row - 1}) {
         if (isWhole && row >= 0 && row < m_records.size())
-            next.push_back(wanted(row));
+            next.push_back(wantedPicture(m_shelf, m_records[row]));
     }
-    m_queue.show({wanted(m_row)}, next);
+    m_queue.show({wantedPicture(m_shelf, record())}, next);
     showPicture();
 }
 

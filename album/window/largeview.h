@@ -49,7 +49,6 @@ private:
     void want();
     void showPicture();
     void showWords();
-    WantedPicture wanted(int row) const;
 
     const Program &m_program;
     const PhotoShelf &m_shelf;

@@ -3,6 +3,7 @@
 
 #include "album/model/photodatewords.h"
 #include "album/model/photoshelf.h"
+#include "album/window/wanted.h"
 #include "album/window/windowlines.h"
 #include "shell/controls/itemdrag.h"
 #include "shell/pictures/picturequeue.h"
@@ -44,17 +45,9 @@ void PhotoTiles::follow(const QList<int> &records)
     }
 }
 
-/// A picture that has left the list meanwhile has none.
 WantedPicture PhotoTiles::picture(int row) const
 {
-    const Photo *photo = m_shelf.photo(recordAt(row));
-    if (!photo)
-        return {};
-    return {.id = photo->record,
-            .path = m_shelf.filePath(*photo),
-            .turns = photo->turns,
-            .size = photo->size,
-            .time = photo->fileTime};
+    return wantedPicture(m_shelf, recordAt(row));
 }
 
 PictureTiles::Tile PhotoTiles::tile(int row) const

@@ -4,6 +4,7 @@
 #include "album/model/photodatewords.h"
 #include "album/model/photoshelf.h"
 #include "album/window/slidebar.h"
+#include "album/window/wanted.h"
 #include "album/window/windowlines.h"
 #include "shell/look/theme.h"
 
@@ -113,14 +114,6 @@ void SlideShow::start(const QList<int> &photos, int first)
     bring();
 }
 
-WantedPicture SlideShow::wanted(int number) const
-{
-    const Photo *photo = m_shelf.photo(number);
-    if (!photo)
-        return {};
-    return {number, m_shelf.filePath(*photo), photo->turns, photo->size, photo->fileTime};
-}
-
 /// Asks for the picture whose turn it is, and for its neighbours. What is on the screen stays until it is
 /// here.
 void SlideShow::bring()
@@ -140,9 +133,9 @@ void SlideShow::bring()
     std::vector<WantedPicture> around;
     for (const int other : {m_order.next(), m_order.previous()}) {
         if (other != number)
-            around.push_back(wanted(other));
+            around.push_back(wantedPicture(m_shelf, other));
     }
-    m_queue.show({wanted(number)}, around);
+    m_queue.show({wantedPicture(m_shelf, number)}, around);
     if (kept.image.isNull() && !kept.reason.isEmpty())
         leaveOut(number);
 }

@@ -67,7 +67,6 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    WantedPicture wanted(int photo) const;
     void bring();
     void take(int id, const QImage &image, PictureQueue::Look look);
     void leaveOut(int id);

@@ -8,6 +8,7 @@
 
 #include <QLocale>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <utility>
 
@@ -18,6 +19,7 @@ constexpr int inset = 8;
 constexpr int gap = 8;
 constexpr int signSize = 16;
 constexpr int foldWidth = 8;
+constexpr int pictureRound = 3;
 
 /// Whether the rows below a heading are shown.
 void paintFold(QPainter &painter, const QRect &row, bool isOpen, const QColor &ink)
@@ -29,6 +31,20 @@ void paintFold(QPainter &painter, const QRect &row, bool isOpen, const QColor &i
     if (isOpen)
         painter.rotate(90);
     painter.drawPolyline(QPolygonF{{-2, -4}, {2, 0}, {-2, 4}});
+    painter.restore();
+}
+
+/// A soft fill stands where it is still to come.
+void paintPicture(QPainter &painter, const QRect &row, const QImage &picture, const QColor &soft)
+{
+    const QRect place(row.left(), row.center().y() - PaneRowDelegate::pictureSide / 2 + 1,
+                      PaneRowDelegate::pictureSide, PaneRowDelegate::pictureSide);
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    QPainterPath rounded;
+    rounded.addRoundedRect(place, pictureRound, pictureRound);
+    painter.setClipPath(rounded);
+    picture.isNull() ? painter.fillRect(place, soft) : painter.drawImage(place, picture);
     painter.restore();
 }
 } // namespace
@@ -73,6 +89,10 @@ void PaneRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     if (kind != PaneRows::Row::Plain) {
         paintFold(*painter, place, kind == PaneRows::Row::Open, isSelected ? theme.onAccent : theme.quiet);
         place.setLeft(place.left() + foldWidth + gap);
+    }
+    if (const QVariant picture = index.data(Qt::DecorationRole); picture.isValid()) {
+        paintPicture(*painter, place, picture.value<QImage>(), theme.soft);
+        place.setLeft(place.left() + pictureSide + gap);
     }
     painter->setPen(isSelected ? theme.onAccent : option.palette.color(QPalette::Text));
     painter->drawText(

@@ -7,11 +7,13 @@
 
 class QLineEdit;
 
-/// Rows of `PaneRows`: the name, and its count at the right.
+/// Rows of `PaneRows`: the name, a small picture before it where there is one, and its count at the right.
 class PaneRowDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
 public:
+    static constexpr int pictureSide = 24; ///< of what stands before a name
+
     using MakeBox = std::function<QLineEdit *(QWidget *parent)>;
 
     /// `makeBox` makes the box in which a name is typed over, where one can be.

@@ -40,6 +40,15 @@ QModelIndex PaneRows::indexOf(int key) const
     return found == m_rows.end() ? QModelIndex() : index(int(found - m_rows.begin()));
 }
 
+void PaneRows::setPicture(int key, const QImage &picture)
+{
+    const QModelIndex row = indexOf(key);
+    if (!row.isValid())
+        return;
+    m_rows[std::size_t(row.row())].picture = picture;
+    emit dataChanged(row, row, {Qt::DecorationRole});
+}
+
 int PaneRows::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : int(m_rows.size());
@@ -57,6 +66,8 @@ QVariant PaneRows::data(const QModelIndex &index, int role) const
         return row.name;
     case Qt::AccessibleTextRole:
         return row.spoken.isEmpty() ? row.name : row.spoken;
+    case Qt::DecorationRole:
+        return row.picture ? QVariant(*row.picture) : QVariant();
     case keyRole:
         return row.key;
     case countRole:

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QImage>
 
+#include <optional>
 #include <vector>
 
 /// Names with a count beside each, for the lists at the left.
@@ -29,6 +31,8 @@ public:
         Kind kind = Plain; ///< or a heading, with the rows below it or without them
         bool isRenamable = true;
         bool takesThings = true; ///< that are dropped onto it
+        /// Small, before the name; null where it is not here yet.
+        std::optional<QImage> picture{};
 
         bool operator==(const Row &) const = default;
     };
@@ -40,6 +44,7 @@ public:
     void setRows(std::vector<Row> rows);
     const std::vector<Row> &rows() const { return m_rows; }
     QModelIndex indexOf(int key) const;
+    void setPicture(int key, const QImage &picture);
     /// Whether the names may be typed over.
     void setRenamable(bool isRenamable) { m_isRenamable = isRenamable; }
 

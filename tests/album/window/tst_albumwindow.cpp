@@ -373,6 +373,22 @@ private slots:
         QVERIFY(QFile::exists(m_test->path(u"Pictures/C.jpg"_s)));
     }
 
+    void anAlbumBearsItsCover()
+    {
+        makeProgram();
+        open();
+        const auto cover = [this] {
+            return paneRow(u"Grandmother"_s).data(Qt::DecorationRole).value<QImage>();
+        };
+        QTRY_VERIFY(!cover().isNull());
+        const QImage first = cover();
+        chooseInPane(u"Grandmother"_s);
+        choose({2});
+        trigger("mACover");
+        QCOMPARE(placeField(1, 8, 4), QByteArray("\2\0\0\0", 4));
+        QTRY_VERIFY(!cover().isNull() && cover() != first);
+    }
+
     void searchesAsOneTypes_data()
     {
         rows<QString, QList<int>>({{"a word of a caption", u"boa"_s, {2}},
