@@ -4,6 +4,7 @@
 #include "backup/model/setcheck.h"
 #include "backup/window/backupoutline.h"
 #include "backup/window/holdingsmodel.h"
+#include "backup/window/householdsources.h"
 #include "backup/window/placespane.h"
 #include "backup/window/windowlines.h"
 #include "shell/controls/buttonrow.h"
@@ -68,7 +69,10 @@ BackupView::BackupView(const BackupDesk &desk, QWidget *parent)
     connect(m_outline, &BackupOutline::planned, this, &BackupView::showPlan);
     connect(m_model, &HoldingsModel::chosenChanged, this, &BackupView::replan);
     connect(&desk.places, &PlacesPane::chosenChanged, this, &BackupView::replan);
-    connect(m_seal, &QCheckBox::toggled, this, &BackupView::replan);
+    connect(m_seal, &QCheckBox::toggled, this, [this](bool isSealed) {
+        m_model->setCopyOfAll(isSealed ? HouseholdSources::words(HouseholdSources::Copy::Sealed) : QString());
+        replan();
+    });
     connect(m_sizes, &QComboBox::activated, this, &BackupView::replan);
     connect(m_reminder, &QComboBox::activated, this, &BackupView::remind);
 }

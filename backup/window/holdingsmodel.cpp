@@ -41,6 +41,13 @@ void HoldingsModel::setRows(std::vector<Row> rows)
     endResetModel();
 }
 
+void HoldingsModel::setCopyOfAll(const QString &copy)
+{
+    m_copyOfAll = copy;
+    if (!m_rows.empty())
+        emit dataChanged(index(0, Copy), index(rowCount() - 1, Copy));
+}
+
 void HoldingsModel::choose(const QStringList &keys)
 {
     m_only = keys;
@@ -86,7 +93,7 @@ QString HoldingsModel::text(const Row &row, int column) const
     case Size:
         return BackupLines::size(row.bytes);
     default:
-        return row.copy;
+        return m_copyOfAll.isEmpty() ? row.copy : m_copyOfAll;
     }
 }
 

@@ -29,6 +29,8 @@ public:
     /// Rows that stay keep their ticks; new ones are ticked as `choose` last said.
     void setRows(std::vector<Row> rows);
     const std::vector<Row> &rows() const { return m_rows; }
+    /// Says this of every copy; empty: of each what its row has.
+    void setCopyOfAll(const QString &copy);
 
     /// Ticks these alone; an empty list ticks all.
     void choose(const QStringList &keys);
@@ -52,4 +54,5 @@ private:
     std::vector<Row> m_rows;
     QStringList m_only; ///< as `choose` said; empty: all
     QStringList m_left; ///< not ticked
+    QString m_copyOfAll;
 };

@@ -175,7 +175,9 @@ private slots:
         open(BackupPlace::of(BackupPlace::Side::BackUp));
         chooseStick();
         QTRY_VERIFY(isOffered("backUpNow"));
+        QCOMPARE(copies(), QSet<QString>{u"Anybody can read it"_s});
         click("sealSet");
+        QCOMPARE(copies(), QSet<QString>{u"Sealed"_s});
         click("backUpNow");
         QTRY_VERIFY(m_window->findChild<QPushButton *>(u"sealAndBackUp"_s)->isVisible());
         typeInto(find<QLineEdit>("newBackupPassword"), u"plum tree"_s);
@@ -241,6 +243,15 @@ private:
     {
         const auto *label = m_window->findChild<QLabel *>(QString::fromLatin1(name));
         return label && label->isVisible() ? label->text() : QString();
+    }
+    /// What is said of who can read them.
+    QSet<QString> copies() const
+    {
+        const QAbstractItemModel *model = find<QTableView>("holdings")->model();
+        QSet<QString> copies;
+        for (int row = 0; row < model->rowCount(); ++row)
+            copies.insert(model->index(row, HoldingsModel::Copy).data().toString());
+        return copies;
     }
     int rowCount(const char *name) const
     {
