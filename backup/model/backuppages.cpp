@@ -20,6 +20,12 @@ QString diskText(const BackupFile &file)
                                            : u"%1 to %2"_s.arg(file.firstDisk).arg(file.lastDisk);
 }
 
+void addSeal(Page &page, const SetRecord &set)
+{
+    if (set.isSealed)
+        page.line(u"Sealed with a password: nobody can read anything of it without that."_s);
+}
+
 void addNames(Page &page, const QString &heading, const QStringList &names)
 {
     if (names.isEmpty())
@@ -42,6 +48,7 @@ Page BackupPages::report(const BackupReport &report, const QList<ReportedCount> 
     page.line(u"%1 in the set; %2 new on the drive, %3 there already."_s.arg(
         BackupLines::files(set.files.size()), BackupLines::pictures(report.newPictures),
         BackupLines::number(report.knownPictures)));
+    addSeal(page, set);
     page.blankLine();
     page.columns({4, 3, 3}, {u"Function"_s, u"In the copy"_s, u"In the household"_s});
     for (const ReportedCount &count : counts)
@@ -54,7 +61,8 @@ Page BackupPages::report(const BackupReport &report, const QList<ReportedCount> 
 Page BackupPages::files(const SetRecord &set, const PageContext &context)
 {
     Page page(u"Files of the Backup of "_s + timeText(set.begun, context));
-    page.columns({6, 1.6, 2.4, 1}, {u"File"_s, u"Bytes"_s, u"Changed"_s, u"Disk"_s},
+    addSeal(page, set);
+    page.columns({4.6, 2, 3.4, 1}, {u"File"_s, u"Bytes"_s, u"Changed"_s, u"Disk"_s},
                  {Qt::AlignLeft, Qt::AlignRight, Qt::AlignLeft, Qt::AlignRight});
     for (const BackupFile &file : set.files)
         page.row(

@@ -32,7 +32,8 @@ QString sentence(const BackupReport &report, const QList<ReportedCount> &counts)
         parts.append(BackupLines::pictures(report.newPictures));
     if (parts.isEmpty())
         parts.append(BackupLines::files(report.set.files.size()));
-    QString words = parts.join(u", "_s) + u": copied and read back."_s;
+    QString words = parts.join(u", "_s) +
+                    (report.set.isSealed ? u": sealed and read back."_s : u": copied and read back."_s);
     if (report.knownPictures > 0)
         words += u' ' + BackupLines::counted(report.knownPictures, u"picture was"_s, u"pictures were"_s) +
                  u" on the drive already."_s;
