@@ -15,9 +15,9 @@ constexpr int widest = 560;
 
 QString facts()
 {
-    return u"Each disk gets one sealed file, and names, counts and pictures are inside it. Nobody can open "
-           u"it without this "
-           u"password, you neither: there is no other way in. Pictures are copied anew each time."_s;
+    return u"Each disk gets one sealed file, with names, counts and pictures inside it. Nobody can open it "
+           u"without this password, not even you: there is no other way in. Pictures are copied anew each "
+           u"time."_s;
 }
 
 } // namespace
@@ -69,8 +69,13 @@ void BackupSealPanel::refuse(const QString &line)
 
 void BackupSealPanel::choose()
 {
-    if (!m_isWorking && m_form->refusal().isEmpty())
+    if (m_isWorking)
+        return;
+    const QString refusal = m_form->refusal();
+    if (refusal.isEmpty())
         emit chosen(m_form->password());
+    else
+        m_form->say(refusal);
 }
 
 /// What was typed does not stay behind.

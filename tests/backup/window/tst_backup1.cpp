@@ -181,12 +181,15 @@ private slots:
         click("backUpNow");
         QTRY_VERIFY(m_window->findChild<QPushButton *>(u"sealAndBackUp"_s)->isVisible());
         typeInto(find<QLineEdit>("newBackupPassword"), u"plum tree"_s);
+        click("sealAndBackUp");
+        QCOMPARE(labelText("newBackupPasswordStrength"), u"The two passwords differ"_s);
         typeInto(find<QLineEdit>("newBackupPasswordAgain"), u"plum tree"_s);
         click("sealAndBackUp");
         QTRY_VERIFY_WITH_TIMEOUT(!words("doneTitle").isEmpty(), 30000);
         const QList<BackupSet> sets = SetList::on(stick());
         QCOMPARE(sets.size(), 1);
         QVERIFY(sets[0].isSealed());
+        QCOMPARE(labelText("doneWords"), u"2 addresses: sealed and read back."_s);
         QVERIFY(QFile::exists(sets[0].folder + u"/Quillery.sealed"_s));
         QVERIFY(!QFile::exists(sets[0].folder + u"/notes.txt"_s));
     }
