@@ -135,7 +135,11 @@ RestoreDeeds::RestoreDeeds(const BackupDesk &desk, RestoreView &view, RunPanel &
     m_desk.views.addPanel(m_plan);
     connect(m_plan, &RestorePanel::restoreWanted, this, &RestoreDeeds::restoreHere);
     connect(m_plan, &RestorePanel::folderWanted, this, &RestoreDeeds::restoreIntoFolder);
-    connect(m_plan, &RestorePanel::left, this, [this] { m_opened.reset(); });
+    connect(m_plan, &RestorePanel::left, this, [this] {
+        if (m_opened && !m_opened->isSnapshot)
+            openSide();
+        m_opened.reset();
+    });
 }
 
 RestoreDeeds::~RestoreDeeds()
@@ -401,19 +405,29 @@ void RestoreDeeds::finish(const RestoreResult &result, const RestorePlan::Aim &a
 {
     using End = RestoreResult::End;
     m_run.reset();
-    m_opened.reset();
     m_desk.setBusy(false);
-    m_desk.views.goHome();
+    const bool isDone = result.end != End::Stopped && result.end != End::Refused;
+    if (isDone)
+        openSide();
+    else
+        m_desk.views.open(m_plan); // nothing has happened, so that it still holds
     if (result.end == End::Stopped) {
         emit said(u"Stopped: nothing has been changed"_s);
     } else if (result.end == End::Refused) {
         tell(RestoreMessages::refused(result.refusal));
     } else {
+        m_opened.reset();
         tell(RestoreMessages::done(result, aim.isHousehold ? QString()
                                                            : QDir::toNativeSeparators(aim.folder.path())));
         if (result.end == End::AtNextStart)
             QApplication::exit(Restart::exitCode);
     }
+}
+
+void RestoreDeeds::openSide()
+{
+    m_desk.views.open(&m_view);
+    m_view.setFocus();
 }
 
 void RestoreDeeds::tell(const Message &message) const

@@ -66,6 +66,7 @@ private:
     void finish(const RestoreResult &result, const RestorePlan::Aim &aim);
     PasswordCheck passwordHere() const;
     std::optional<RestoreItem> passwordItem() const;
+    void openSide();
     void tell(const Message &message) const;
 
     BackupDesk m_desk;

@@ -148,6 +148,7 @@ private slots:
         click(isFolder ? "restoreFolder" : "restoreNow");
         QTRY_VERIFY(m_test->dialogs.isDone());
         QTRY_VERIFY(!isSeen("runPanel"));
+        QCOMPARE(isSeen("restorePanel"), !isRestored); // what was refused can be tried again
         QCOMPARE(prompts, isHere ? 1 : 0);
         QCOMPARE(ChangeSet::isPending(m_test->folder), isRestored);
         QVERIFY(ChangeSet::recover(m_test->folder));
