@@ -8,6 +8,7 @@
 #include "backup/window/snapshotchoice.h"
 #include "shell/controls/buttonrow.h"
 #include "shell/controls/controls.h"
+#include "shell/controls/emptypage.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/titleline.h"
 #include "shell/core/dates.h"
@@ -60,21 +61,22 @@ BringBackView::BringBackView(const BackupDesk &desk, QWidget *parent)
     , m_choice(named(new QComboBox(this), u"snapshots"_s))
     , m_words(named(makeQuietLabel({}, this), u"bringBackWords"_s))
     , m_view(named(new QTableView(this), u"differences"_s))
+    , m_differences(new QWidget(this))
+    , m_empty(named(new EmptyPage("backup"_L1, {}, {}, this), u"bringBackEmpty"_s))
 {
     titleLine().setTitle(u"Bring Back"_s);
-    m_choice->setAccessibleName(u"Snapshot or backup"_s);
-    auto *choice = new QWidget(this);
-    auto *row = new QHBoxLayout(choice);
-    row->setContentsMargins({});
-    row->addLayout(labelled(u"The household as it was on"_s, m_choice));
-    row->addStretch();
-    m_choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    addContent(choice);
+    addContent(makeChoice());
     m_words->setWordWrap(true);
     addContent(m_words);
     makeTable();
-    addContent(new WholeRows(m_view, nullptr, this), 3);
-    addContent(makeVersions(), 2);
+    auto *rows = new QVBoxLayout(m_differences);
+    rows->setContentsMargins({});
+    rows->setSpacing(12);
+    rows->addWidget(new WholeRows(m_view, nullptr, m_differences), 3);
+    rows->addWidget(makeVersions(), 2);
+    addContent(m_differences, 1);
+    addContent(m_empty, 1);
+    m_empty->hide();
     setFocusProxy(m_view);
     connect(m_choice, &QComboBox::activated, this, &BringBackView::openChosen);
     connect(&desk.places, &PlacesPane::chosenChanged, this, &BringBackView::lookForCopies);
@@ -85,6 +87,18 @@ BringBackView::BringBackView(const BackupDesk &desk, QWidget *parent)
 }
 
 BringBackView::~BringBackView() = default;
+
+QWidget *BringBackView::makeChoice()
+{
+    auto *choice = new QWidget(this);
+    auto *row = new QHBoxLayout(choice);
+    row->setContentsMargins({});
+    row->addLayout(labelled(u"The household as it was on"_s, m_choice));
+    row->addStretch();
+    m_choice->setAccessibleName(u"Snapshot or backup"_s);
+    m_choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    return choice;
+}
 
 void BringBackView::makeTable()
 {
@@ -100,7 +114,7 @@ void BringBackView::makeTable()
 
 QWidget *BringBackView::makeVersions()
 {
-    auto *versions = new QWidget(this);
+    auto *versions = new QWidget(m_differences);
     auto *row = new QHBoxLayout(versions);
     row->setContentsMargins({});
     const auto add = [&](const QString &name, const QString &caption) {
@@ -164,8 +178,7 @@ void BringBackView::lookForCopies()
     }
     if (!m_isOpen)
         follow(false);
-    m_words->setText(words());
-    m_words->setVisible(!m_words->text().isEmpty());
+    showWords();
 }
 
 void BringBackView::look()
@@ -201,39 +214,47 @@ QString BringBackView::whyNotTheSet() const
         .arg(place->drive.name, why);
 }
 
-QString BringBackView::words() const
+/// Where there is nothing to compare, or nothing differs, that is said in the place of the panes.
+void BringBackView::showWords()
 {
-    if (m_comparison->isBusy())
-        return u"Looking at what differs..."_s;
-    QStringList words;
-    if (m_choices.empty())
-        words.append(
-            u"There is no snapshot yet: one is made on the first start of each day after something was changed"_s);
-    else
-        words = differences();
-    words.append(whyNotTheSet());
-    words.removeAll(QString());
-    return words.join(u". "_s);
+    const bool isBusy = m_comparison->isBusy();
+    const bool isNothing = !isBusy && m_model->rowCount() == 0;
+    const QString notes = this->notes().join(u". "_s);
+    m_words->setText(isBusy ? u"Looking at what differs..."_s : notes);
+    m_words->setVisible(!isNothing && !m_words->text().isEmpty());
+    m_empty->setWords(sentence(), notes);
+    if (isNothing && m_view->hasFocus())
+        m_choice->setFocus();
+    m_differences->setVisible(!isNothing);
+    m_empty->setVisible(isNothing);
 }
 
-QStringList BringBackView::differences() const
+/// Why no difference is shown.
+QString BringBackView::sentence() const
 {
-    QStringList words{m_comparison->refusal()};
-    if (!m_comparison->guarded().isEmpty() && words.first().endsWith(u'.'))
-        words.first().chop(1);
+    if (m_choices.empty())
+        return u"There is no snapshot yet"_s;
+    if (!m_comparison->refusal().isEmpty())
+        return u"Not all of it could be compared"_s;
+    return m_comparison->guarded().isEmpty() ? u"Nothing has changed since"_s
+                                             : u"Nothing else has changed since"_s;
+}
+
+QStringList BringBackView::notes() const
+{
+    QStringList notes{m_comparison->refusal(), whyNotTheSet()};
+    if (m_choices.empty())
+        notes.prepend(u"One is made on the first start of each day after something was changed"_s);
     if (!m_comparison->guarded().isEmpty())
-        words.append(u"Guarded, and not shown: "_s + m_comparison->guarded().join(u", "_s));
-    if (m_comparison->refusal().isEmpty() && m_comparison->rows().empty())
-        words.append(m_comparison->guarded().isEmpty() ? u"Nothing has changed since"_s
-                                                       : u"Nothing else has changed since"_s);
-    return words;
+        notes.prepend(u"Guarded, and not shown: "_s + m_comparison->guarded().join(u", "_s));
+    notes.removeAll(QString());
+    return notes;
 }
 
 void BringBackView::show()
 {
     m_model->setRows(m_comparison->isBusy() ? std::vector<Comparison::Row>() : m_comparison->rows());
-    m_words->setText(words());
-    m_words->setVisible(!m_words->text().isEmpty());
+    showWords();
     if (m_model->rowCount() > 0)
         m_view->setCurrentIndex(m_model->index(0, 0));
     showVersions();

@@ -8,6 +8,7 @@
 #include <vector>
 
 class DifferencesModel;
+class EmptyPage;
 class QAction;
 class QComboBox;
 class QLabel;
@@ -47,10 +48,12 @@ private:
 
     std::vector<Choice> choices() const;
     void lookForCopies();
+    QWidget *makeChoice();
     void makeTable();
     QWidget *makeVersions();
-    QString words() const;
-    QStringList differences() const;
+    void showWords();
+    QString sentence() const;
+    QStringList notes() const;
     QString whyNotTheSet() const;
     QString whyNot() const;
     void openChosen();
@@ -65,6 +68,8 @@ private:
     QComboBox *m_choice;
     QLabel *m_words;
     QTableView *m_view;
+    QWidget *m_differences; ///< both versions and the table
+    EmptyPage *m_empty;
     QTextBrowser *m_there = nullptr;
     QTextBrowser *m_here = nullptr;
     bool m_isOpen = false; ///< a snapshot is looked into
