@@ -27,7 +27,7 @@ QByteArray contentOf(SealedReader &reader)
 } // namespace
 
 SealedSource::SealedSource(std::shared_ptr<const SealedKey> key, const QByteArray &set,
-                           const QDateTime &begun, std::function<bool()> goOn)
+                           const QDateTime &begun, std::function<bool(qint64 bytes)> goOn)
     : m_key(std::move(key))
     , m_set(set)
     , m_places(set, begun)
@@ -47,7 +47,7 @@ std::unique_ptr<SealedReader> SealedSource::open(QFile &file, int number) const
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || !file.seek(SealedKey::recordLength))
         return nullptr;
     return std::make_unique<SealedReader>(*m_key, m_set, number, [this, &file](char *bytes, qint64 size) {
-        return goOn() ? file.read(bytes, size) : -1;
+        return goOn(file.pos()) ? file.read(bytes, size) : -1;
     });
 }
 
@@ -77,7 +77,7 @@ RestoreSource::Reading SealedSource::lookInside(const QString &folder, int numbe
         return Reading::Missing;
     Inside inside;
     if (!readInside(*reader, inside)) {
-        if (!goOn())
+        if (!goOn(file.pos()))
             return Reading::Stopped;
         return DiskRecords::readDisk(folder) ? Reading::Damaged : Reading::Missing;
     }

@@ -17,9 +17,9 @@
 class SealedSource final : public RestoreSource
 {
 public:
-    /// `goOn` is asked while a disk is read through: false stops that.
+    /// `goOn` is asked while a disk is read through, with the bytes that were read of it: false stops that.
     SealedSource(std::shared_ptr<const SealedKey> key, const QByteArray &set, const QDateTime &begun,
-                 std::function<bool()> goOn = {});
+                 std::function<bool(qint64 bytes)> goOn = {});
 
     /// The record of the key on the disk whose set lies in `folder`, for `SealedKey::opening`; empty where it
     /// cannot be read.
@@ -39,7 +39,7 @@ private:
         std::optional<SetRecord> set;
     };
 
-    bool goOn() const { return !m_goOn || m_goOn(); }
+    bool goOn(qint64 bytes) const { return !m_goOn || m_goOn(bytes); }
     Reading lookInside(const QString &folder, int number);
     std::unique_ptr<SealedReader> open(QFile &file, int number) const;
     bool readInside(SealedReader &reader, Inside &inside) const;
@@ -48,6 +48,6 @@ private:
     std::shared_ptr<const SealedKey> m_key;
     QByteArray m_set;
     SetSource m_places;
-    std::function<bool()> m_goOn;
+    std::function<bool(qint64 bytes)> m_goOn;
     std::map<int, Inside> m_inside; ///< of the disks that were read through
 };

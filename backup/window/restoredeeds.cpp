@@ -1,24 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "backup/window/restoredeeds.h"
 
-#include "backup/model/copiedfile.h"
-#include "backup/model/diskrecords.h"
 #include "backup/model/drives.h"
 #include "backup/model/restoremessages.h"
-#include "backup/model/restorerule.h"
-#include "backup/model/sealedsource.h"
-#include "backup/model/snapshotsource.h"
 #include "backup/window/copyowners.h"
 #include "backup/window/copypasswordbox.h"
 #include "backup/window/diskwork.h"
 #include "backup/window/householdsnapshot.h"
-#include "backup/window/householdsources.h"
+#include "backup/window/readmeter.h"
 #include "backup/window/restorepanel.h"
 #include "backup/window/restoreview.h"
 #include "backup/window/runpanel.h"
 #include "backup/window/windowlines.h"
 #include "shell/access/gate.h"
-#include "shell/core/area.h"
 #include "shell/core/dates.h"
 #include "shell/core/restart.h"
 #include "shell/core/threadedstep.h"
@@ -26,64 +20,22 @@
 #include "shell/frame/functionwindow.h"
 #include "shell/frame/leaving.h"
 #include "shell/frame/workviews.h"
-#include "shell/program/functionfaces.h"
 #include "shell/program/program.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QTemporaryDir>
 
-#include <algorithm>
+#include <optional>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
+/// A backup with what restoring it would do.
+struct RestoreDeeds::Opened : OpenedBackup {
+    void take(OpenedBackup &&opened) { static_cast<OpenedBackup &>(*this) = std::move(opened); }
 
-RestoreRule::Password stateOf(PasswordCheck::State state)
-{
-    switch (state) {
-    case PasswordCheck::State::NotSet:
-        return RestoreRule::Password::None;
-    case PasswordCheck::State::Set:
-        return RestoreRule::Password::Set;
-    case PasswordCheck::State::Damaged:
-        return RestoreRule::Password::Damaged;
-    }
-    Q_UNREACHABLE();
-}
-
-/// Whether files of a function are written that answers `is`.
-template <typename Is>
-bool isAnyWritten(const QList<RestoreItem> &items, Is is)
-{
-    return std::ranges::any_of(items, [&is](const RestoreItem &item) {
-        const std::optional<Function> function = HouseholdSources::function(item.function);
-        return item.isWritten() && function && is(FunctionFaces::of(*function));
-    });
-}
-
-/// Whether files are written of which no function is known, so that one that is guarded may be among them.
-bool isAnyUnknown(const QList<RestoreItem> &items)
-{
-    return std::ranges::any_of(items, [](const RestoreItem &item) {
-        return item.isWritten() && item.function == Holdings::others &&
-               item.file.name.endsWith(u".fil"_s, Qt::CaseInsensitive);
-    });
-}
-
-/// The key of a sealed set; null where that was not its password.
-std::shared_ptr<const SealedKey> openedKey(const QString &folder, const QString &password)
-{
-    const QByteArray record = SealedSource::keyRecord(folder);
-    std::optional<KeyDerivation> derivation = SealedKey::opening(record, SecretBytes::ofText(password));
-    if (!derivation || !derivation->run())
-        return {};
-    std::optional<SealedKey> key = SealedKey::open(record, *derivation);
-    return key ? std::make_shared<const SealedKey>(*std::move(key)) : nullptr;
-}
-
-} // namespace
+    QList<RestoreItem> items;
+};
 
 /// Asks on the thread of the windows what a restore asks on its own.
 class RestoreDeeds::Asker final : public RestoreAsker
@@ -129,6 +81,7 @@ RestoreDeeds::RestoreDeeds(const BackupDesk &desk, RestoreView &view, RunPanel &
     , m_view(view)
     , m_panel(run)
     , m_plan(new RestorePanel(desk, &desk.window))
+    , m_demands(desk)
     , m_step(new ThreadedStep(this))
     , m_asker(std::make_unique<Asker>(desk))
 {
@@ -181,33 +134,31 @@ void RestoreDeeds::start()
     lookInto(*set, password);
 }
 
+/// A sealed one is read through to its end before anything of it is known, which may take minutes.
 void RestoreDeeds::lookInto(const BackupSet &set, const QString &password)
 {
     auto opened = std::make_shared<Opened>();
-    opened->place = set;
-    const auto way = [this, opened, password] {
-        const BackupSet &place = opened->place;
-        std::optional<SetRecord> record = DiskRecords::readSet(place.folder);
-        if (record && place.isSealed()) {
-            const auto key = openedKey(place.folder, password);
-            if (!key) {
-                opened->refusal = u"That is not the password of this backup."_s;
-                return;
-            }
-            auto source = std::make_shared<SealedSource>(key, record->set, record->begun,
-                                                         [this] { return !m_isStopped; });
-            record = source->setRecord(place.drive, record->disks);
-            opened->source = source;
-        } else if (record) {
-            opened->source = std::make_shared<SetSource>(record->set, record->begun);
-        }
-        if (!record) {
-            opened->refusal = u"What is in this backup cannot be read: its last disk is damaged."_s;
-            return;
-        }
-        opened->set = *record;
+    if (!set.isSealed()) {
+        look(opened, u"Looking into the backup..."_s,
+             [opened, set] { opened->take(OpenedBackup::ofSet(set, {}, {})); });
+        return;
+    }
+    m_isStopped = false;
+    m_panel.begin(u"Opening the sealed backup"_s, u"Opening a backup"_s);
+    m_desk.setBusy(true);
+    m_desk.views.open(&m_panel);
+    const auto meter = std::make_shared<std::optional<ReadMeter>>(
+        std::in_place, OpenedBackup::sealedBytes(set), m_desk.work);
+    const auto goOn = [this, meter](qint64 bytes) {
+        if (*meter)
+            (*meter)->tell(bytes);
+        return !m_isStopped;
     };
-    look(opened, set.isSealed() ? u"Opening the sealed backup..."_s : u"Looking into the backup..."_s, way);
+    const auto open = [=] {
+        opened->take(OpenedBackup::ofSet(set, password, goOn));
+        meter->reset(); // a restore has a progress of its own
+    };
+    m_desk.work.start({open, [this] { m_isStopped = true; }}, [this, opened] { follow(opened); });
 }
 
 void RestoreDeeds::startFrom(const Snapshot &snapshot)
@@ -215,15 +166,8 @@ void RestoreDeeds::startFrom(const Snapshot &snapshot)
     if (m_step->isRunning() || m_desk.work.isRunning())
         return;
     auto opened = std::make_shared<Opened>();
-    opened->isSnapshot = true;
-    look(opened, u"Opening the snapshot..."_s, [this, opened, snapshot] {
-        auto source = std::make_shared<SnapshotSource>(snapshot, m_isStopped);
-        opened->refusal = source->refusal();
-        opened->set = source->setRecord();
-        opened->place.drive = source->folder();
-        opened->place.folder = source->folder();
-        opened->source = source;
-    });
+    look(opened, u"Opening the snapshot..."_s,
+         [this, opened, snapshot] { opened->take(OpenedBackup::ofSnapshot(snapshot, m_isStopped)); });
 }
 
 /// `way` looks into it on a thread of its own, then the plan follows.
@@ -233,15 +177,21 @@ void RestoreDeeds::look(const std::shared_ptr<Opened> &opened, const QString &do
     m_desk.setBusy(true);
     m_isStopped = false;
     emit said(doing);
-    m_step->start(way, [this, opened] {
-        if (opened->refusal.isEmpty()) {
-            makePlan(opened);
-            return;
-        }
-        m_desk.setBusy(false);
-        emit said({});
+    m_step->start(way, [this, opened] { follow(opened); });
+}
+
+void RestoreDeeds::follow(const std::shared_ptr<Opened> &opened)
+{
+    if (opened->refusal.isEmpty() && !m_isStopped) {
+        makePlan(opened);
+        return;
+    }
+    m_desk.setBusy(false);
+    if (!opened->isSnapshot)
+        openSide();
+    emit said(m_isStopped ? u"Stopped: the backup was not opened"_s : QString());
+    if (!m_isStopped)
         tell(RestoreMessages::refused(opened->refusal));
-    });
 }
 
 /// Whose the files are is asked of the functions here; all that takes long follows on a thread of its own.
@@ -270,12 +220,7 @@ void RestoreDeeds::showPlan()
         m_opened->isSnapshot ? u"Snapshot"_s : u"Backup"_s,
         Dates::monthDayYear(begun.date(), m_desk.program.state.dateStyle), begun.toString(u"hh:mm"_s));
     m_plan->show(title, m_opened->items, m_view.function(),
-                 passwordHere().state() == PasswordCheck::State::Set);
-}
-
-PasswordCheck RestoreDeeds::passwordHere() const
-{
-    return PasswordCheck(m_desk.program.folder, PasswordCost::interactive(), &m_desk.program.gate.memory());
+                 m_demands.passwordHere().state() == PasswordCheck::State::Set);
 }
 
 void RestoreDeeds::restoreHere()
@@ -300,7 +245,7 @@ void RestoreDeeds::run(const RestorePlan::Aim &aim)
     Program &program = m_desk.program;
     if (!m_opened || m_desk.work.isRunning())
         return;
-    if (passwordHere().state() == PasswordCheck::State::Set &&
+    if (m_demands.passwordHere().state() == PasswordCheck::State::Set &&
         !program.gate.mayOpenPasswordControl(program, &m_desk.window))
         return;
     if (aim.isHousehold && !leaveAllWindows(program, &m_desk.window))
@@ -308,7 +253,9 @@ void RestoreDeeds::run(const RestorePlan::Aim &aim)
     RestoreRun::Order order{
         .aim = aim, .set = m_opened->set, .drive = m_opened->place.drive, .items = m_plan->chosen()};
     order.isAll = m_plan->isAll() && !m_opened->isSnapshot;
-    order.prepare = [this](RestoreRun::Order &prepared) { return mayPrepare(prepared); };
+    order.prepare = [this, isFileChosen = m_plan->isPasswordChosen()](RestoreRun::Order &prepared) {
+        return mayPrepare(prepared, isFileChosen);
+    };
     auto snapshot = std::make_shared<SnapshotJob>(HouseholdSnapshot::job(program));
     order.snapshot = [snapshot] {
         const SnapshotReport report = SnapshotRun(*snapshot).run();
@@ -330,30 +277,13 @@ void RestoreDeeds::run(const RestorePlan::Aim &aim)
                       [this, result, aim] { finish(*result, aim); });
 }
 
-std::optional<RestoreItem> RestoreDeeds::passwordItem() const
-{
-    const auto found = std::ranges::find_if(m_opened->items, [](const RestoreItem &item) {
-        return item.function == Holdings::password && item.effect != RestoreEffect::OnlyHere;
-    });
-    return found == m_opened->items.end() ? std::nullopt : std::optional(*found);
-}
-
 /// On the thread of the run.
-bool RestoreDeeds::mayPrepare(RestoreRun::Order &order)
+bool RestoreDeeds::mayPrepare(RestoreRun::Order &order, bool isFileChosen) const
 {
-    QByteArray copy;
-    if (const auto item = passwordItem()) {
-        const auto content =
-            CopiedFile::read(*m_opened->source, order.set, item->file, order.drive, m_desk.work);
-        if (!content)
-            return false;
-        // What is damaged in the backup cannot be told.
-        copy = content->isEmpty() && item->file.size > 0 ? QByteArray("damaged") : *content;
-    }
-    bool isMet = false;
-    m_desk.work.doHere([&] { isMet = demandsAreMet(order, copy); });
-    if (!isMet || order.aim.isHousehold)
-        return isMet;
+    if (!m_demands.areMet(order, {*m_opened, m_opened->items, isFileChosen}))
+        return false;
+    if (order.aim.isHousehold)
+        return true;
     QList<BackupFile> files;
     for (const RestoreItem &item : std::as_const(order.items)) {
         if (item.effect != RestoreEffect::OnlyHere)
@@ -361,44 +291,6 @@ bool RestoreDeeds::mayPrepare(RestoreRun::Order &order)
     }
     order.items = RestorePlan::made(order.aim, files, {}, {}, m_isStopped);
     return true;
-}
-
-bool RestoreDeeds::demandsAreMet(RestoreRun::Order &order, const QByteArray &copy)
-{
-    const PasswordCheck::Content content = PasswordCheck::parsed(copy);
-    RestoreRule::Case known;
-    known.here = stateOf(passwordHere().state());
-    known.copy = stateOf(content.state);
-    const std::optional<RestoreItem> item = passwordItem();
-    known.isSame = item && item->effect == RestoreEffect::Same;
-    known.isFileChosen = m_plan->isPasswordChosen();
-    known.isGuardedByCopy =
-        isAnyWritten(order.items,
-                     [&content](const FunctionFace &face) { return face.isGuarded(content.areas); }) ||
-        (content.areas.isAnyProtected() && isAnyUnknown(order.items));
-    known.isGuardable =
-        isAnyWritten(order.items, [](const FunctionFace &face) { return face.area != Area::None; });
-    const RestoreRule::Demand demand = RestoreRule::of(known);
-    if (!demand.refusal.isEmpty()) {
-        tell(RestoreMessages::refused(demand.refusal));
-        return false;
-    }
-    if (demand.takesFile && item)
-        order.items.prepend(*item);
-    if (!demand.asksCopy)
-        return true;
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QString::fromLatin1(SettingsKeys::passwordFile.name)));
-    if (!file.open(QIODevice::WriteOnly) || file.write(copy) != copy.size())
-        return false;
-    file.close();
-    const DataFolder place(folder.path());
-    CopyPasswordBox box(
-        m_desk.program, u"The password of this backup"_s,
-        u"This backup was guarded by a password of its own, which comes back with it. Type that one."_s,
-        [check = PasswordCheck(place)](const QString &typed) { return check.matches(typed); },
-        &m_desk.window);
-    return m_desk.program.dialogs.run(box) == QDialog::Accepted;
 }
 
 void RestoreDeeds::finish(const RestoreResult &result, const RestorePlan::Aim &aim)

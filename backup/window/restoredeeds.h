@@ -5,7 +5,7 @@
 #include "backup/model/setlist.h"
 #include "backup/model/snapshots.h"
 #include "backup/window/backupdesk.h"
-#include "shell/access/passwordcheck.h"
+#include "backup/window/restoredemands.h"
 #include "shell/core/message.h"
 
 #include <QObject>
@@ -41,31 +41,21 @@ signals:
     void said(const QString &line);
 
 private:
-    /// A backup that was looked into.
-    struct Opened {
-        BackupSet place; ///< of a snapshot: where it lies unpacked
-        SetRecord set;
-        bool isSnapshot = false;
-        std::shared_ptr<RestoreSource> source;
-        QList<RestoreItem> items;
-        QString refusal; ///< why there is nothing of it
-    };
+    struct Opened;
     class Asker;
 
     QString whyNot() const;
     void start();
     void lookInto(const BackupSet &set, const QString &password);
     void look(const std::shared_ptr<Opened> &opened, const QString &doing, const std::function<void()> &way);
+    void follow(const std::shared_ptr<Opened> &opened);
     void makePlan(const std::shared_ptr<Opened> &opened);
     void showPlan();
     void restoreHere();
     void restoreIntoFolder();
     void run(const RestorePlan::Aim &aim);
-    bool mayPrepare(RestoreRun::Order &order);
-    bool demandsAreMet(RestoreRun::Order &order, const QByteArray &copy);
+    bool mayPrepare(RestoreRun::Order &order, bool isFileChosen) const;
     void finish(const RestoreResult &result, const RestorePlan::Aim &aim);
-    PasswordCheck passwordHere() const;
-    std::optional<RestoreItem> passwordItem() const;
     void openSide();
     void tell(const Message &message) const;
 
@@ -73,6 +63,7 @@ private:
     RestoreView &m_view;
     RunPanel &m_panel;
     RestorePanel *m_plan;
+    RestoreDemands m_demands;
     ThreadedStep *m_step;
     std::shared_ptr<Opened> m_opened;
     std::unique_ptr<Asker> m_asker;

@@ -23,9 +23,12 @@ constexpr int widestBar = 640;
 
 QString words(const DiskProgress &progress)
 {
-    QString words = u"%1 of %2, %3 of %4"_s.arg(
-        BackupLines::number(progress.files), BackupLines::files(progress.allFiles),
-        BackupLines::size(progress.bytes), BackupLines::size(progress.allBytes));
+    QString words =
+        u"%1 of %2"_s.arg(BackupLines::size(progress.bytes), BackupLines::size(progress.allBytes));
+    if (progress.allFiles > 0) // before a sealed set is open, its files are not known
+        words =
+            u"%1 of %2, "_s.arg(BackupLines::number(progress.files), BackupLines::files(progress.allFiles)) +
+            words;
     if (progress.disks > 1)
         words = u"Disk %1 of %2: "_s.arg(progress.disk).arg(progress.disks) + words;
     return words;

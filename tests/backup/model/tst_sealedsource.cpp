@@ -85,7 +85,7 @@ private slots:
         Shown stopped;
         stopped.stopsAtOnce = true;
         QCOMPARE(source.read(m_folder->path({}), 2, stopped), Reading::Stopped);
-        SealedSource given(m_key, setId, begun, [] { return false; });
+        SealedSource given(m_key, setId, begun, [](qint64) { return false; });
         QCOMPARE(given.read(m_folder->path({}), 2, shown), Reading::Stopped);
         QCOMPARE(SealedSource::keyRecord(m_place), m_key->record());
     }

@@ -2,6 +2,7 @@
 #include "backup/model/backuppages.h"
 #include "backup/model/diskrecords.h"
 #include "backup/model/messages.h"
+#include "backup/model/restoremessages.h"
 #include "backup/model/setfolder.h"
 #include "backup/model/setlist.h"
 #include "backup/window/backup1.h"
@@ -15,6 +16,8 @@
 #include "tests/support/sampletraits.h"
 
 #include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
 #include <QListView>
 #include <QTableView>
 
@@ -192,6 +195,7 @@ private slots:
         QCOMPARE(labelText("doneWords"), u"2 addresses: sealed and read back."_s);
         QVERIFY(QFile::exists(sets[0].folder + u"/Quillery.sealed"_s));
         QVERIFY(!QFile::exists(sets[0].folder + u"/notes.txt"_s));
+        opensWhatIsSealed();
     }
 
     void offersABackupWhenTheKnownDriveIsPluggedIn()
@@ -260,6 +264,27 @@ private:
     {
         const auto *view = m_window->findChild<QTableView *>(QString::fromLatin1(name));
         return view ? view->model()->rowCount() : 0;
+    }
+
+    /// Read through in sight of the user, who may stop it.
+    void opensWhatIsSealed()
+    {
+        trigger("mVRestore");
+        QList<Message> shown;
+        for (const QString &typed : {u"pear tree"_s, u"plum tree"_s}) {
+            m_test->dialogs.willRun([&typed](QDialog &dialog) {
+                typeInto(dialog.findChild<QLineEdit *>(u"copyPassword"_s), typed);
+                dialog.accept();
+                return dialog.result();
+            });
+            QTRY_VERIFY(isOffered("restoreStart"));
+            click("restoreStart");
+            QCOMPARE(words("runTitle"), u"Opening the sealed backup"_s);
+            QTRY_VERIFY_WITH_TIMEOUT(words("runTitle").isEmpty(), 30000);
+            shown += asked();
+        }
+        QCOMPARE(shown, {RestoreMessages::refused(u"That is not the password of this backup."_s)});
+        QTRY_VERIFY(find<QWidget>("restoreFiles")->isVisible());
     }
 
     void chooseStick()
