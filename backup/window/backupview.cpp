@@ -59,7 +59,9 @@ BackupView::BackupView(const BackupDesk &desk, QWidget *parent)
     m_words->setWordWrap(true);
     addContent(m_words);
     makeTable();
-    addContent(new WholeRows(m_view, nullptr, this), 1);
+    auto *rows = new WholeRows(m_view, nullptr, this);
+    rows->setGivesWay(true);
+    addContent(rows, 1);
     addContent(makeOptions());
     setFocusProxy(m_view);
     connect(m_outline, &BackupOutline::known, this, [this] {

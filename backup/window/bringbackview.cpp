@@ -14,6 +14,7 @@
 #include "shell/core/dates.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/functionwindow.h"
+#include "shell/look/theme.h"
 #include "shell/program/program.h"
 
 #include <QComboBox>
@@ -30,6 +31,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int leastChoice = 160;
+
 /// "Sat, 21 Nov 2026", with the time where it is not the day's first.
 QString nameOf(const Snapshot &snapshot, DateStyle style)
 {
@@ -42,11 +45,12 @@ QString nameOf(const Snapshot &snapshot, DateStyle style)
 QString textOf(const QStringList &lines, const QStringList &others)
 {
     if (lines.isEmpty())
-        return u"<i>Not there</i>"_s;
+        return u"Not there"_s;
     QStringList shown;
     for (const QString &line : lines) {
         const QString text = line.toHtmlEscaped();
-        shown.append(others.contains(line) ? text : u"<b>"_s + text + u"</b>"_s);
+        const bool isSame = others.isEmpty() || others.contains(line);
+        shown.append(isSame ? text : u"<b>"_s + text + u"</b>"_s);
     }
     return shown.join(u"<br>"_s);
 }
@@ -65,14 +69,17 @@ BringBackView::BringBackView(const BackupDesk &desk, QWidget *parent)
     , m_empty(named(new EmptyPage("backup"_L1, {}, {}, this), u"bringBackEmpty"_s))
 {
     titleLine().setTitle(u"Bring Back"_s);
-    addContent(makeChoice());
+    m_choosing = makeChoice();
+    addContent(m_choosing);
     m_words->setWordWrap(true);
     addContent(m_words);
     makeTable();
     auto *rows = new QVBoxLayout(m_differences);
     rows->setContentsMargins({});
     rows->setSpacing(12);
-    rows->addWidget(new WholeRows(m_view, nullptr, m_differences), 3);
+    auto *table = new WholeRows(m_view, nullptr, m_differences);
+    table->setGivesWay(true);
+    rows->addWidget(table, 3);
     rows->addWidget(makeVersions(), 2);
     addContent(m_differences, 1);
     addContent(m_empty, 1);
@@ -93,8 +100,11 @@ QWidget *BringBackView::makeChoice()
     auto *choice = new QWidget(this);
     auto *row = new QHBoxLayout(choice);
     row->setContentsMargins({});
-    row->addLayout(labelled(u"The household as it was on"_s, m_choice));
-    row->addStretch();
+    row->setSpacing(12);
+    row->addWidget(makeFieldLabel(u"The &household as it was on"_s, m_choice, choice));
+    row->addWidget(m_choice);
+    row->addStretch(1);
+    m_choice->setMinimumWidth(TypeScale::wide(leastChoice)); // the names of backups are long
     m_choice->setAccessibleName(u"Snapshot or backup"_s);
     m_choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     return choice;
@@ -122,7 +132,10 @@ QWidget *BringBackView::makeVersions()
         text->setAccessibleName(caption);
         text->setTabChangesFocus(true);
         text->setMinimumHeight(72);
-        row->addLayout(labelled(caption, text), 1);
+        text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // the table is as important
+        QVBoxLayout *column = labelled(caption, text);
+        column->setStretchFactor(text, 1);
+        row->addLayout(column, 1);
         return text;
     };
     m_there = add(u"versionThere"_s, u"As it was"_s);
@@ -225,6 +238,7 @@ void BringBackView::showWords()
     m_empty->setWords(sentence(), notes);
     if (isNothing && m_view->hasFocus())
         m_choice->setFocus();
+    m_choosing->setVisible(!m_choices.empty());
     m_differences->setVisible(!isNothing);
     m_empty->setVisible(isNothing);
 }

@@ -66,6 +66,7 @@ private:
     DifferencesModel *m_model;
     std::vector<Choice> m_choices; ///< in the order of the box
     QComboBox *m_choice;
+    QWidget *m_choosing = nullptr; ///< the box with its words
     QLabel *m_words;
     QTableView *m_view;
     QWidget *m_differences; ///< both versions and the table

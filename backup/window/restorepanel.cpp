@@ -45,7 +45,11 @@ QString effectWords(const RestoreItem &item)
     Q_UNREACHABLE();
 }
 
-constexpr int fileWidth = 140;
+constexpr int leastWidth = 130;
+
+enum Column { File, FunctionName, WhatHappens, InBackup, Here };
+constexpr int widthForFunction = 880;
+constexpr int widthForHere = 740;
 
 std::vector<TableColumn<RestoreItem>> columns(const DateStyle &style)
 {
@@ -87,6 +91,8 @@ QString summary(const QList<RestoreItem> &items)
         if (number > 0)
             parts.append(BackupLines::number(number) + u' ' + QLatin1StringView(count.words));
     }
+    if (std::ranges::none_of(items, &RestoreItem::isWritten))
+        return parts.join(u", "_s) + u". Nothing is to be restored."_s;
     qint64 bytes = 0;
     for (const RestoreItem &item : items)
         bytes += item.isWritten() ? item.file.size : 0;
@@ -126,8 +132,9 @@ RestorePanel::RestorePanel(const BackupDesk &desk, QWidget *parent)
     m_view->horizontalHeader()->setResizeContentsPrecision(measured);
     m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     // The names of pictures are long: they leave room for what is said of them.
-    m_view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
-    m_view->setColumnWidth(0, TypeScale::wide(fileWidth));
+    m_view->horizontalHeader()->setStretchLastSection(false);
+    m_view->horizontalHeader()->setMinimumSectionSize(TypeScale::wide(leastWidth));
+    m_view->horizontalHeader()->setSectionResizeMode(File, QHeaderView::Stretch);
     setWork(work);
     m_folder = addButton(u"restoreFolder"_s, u"Into &Another Folder..."_s, ButtonKind::Plain, Side::Left);
     m_now = addButton(u"restoreNow"_s, u"&Restore Now"_s, ButtonKind::Main);
@@ -137,6 +144,14 @@ RestorePanel::RestorePanel(const BackupDesk &desk, QWidget *parent)
     connect(m_password, &QCheckBox::toggled, this, &RestorePanel::follow);
     connect(m_now, &QPushButton::clicked, this, &RestorePanel::restoreWanted);
     connect(m_folder, &QPushButton::clicked, this, &RestorePanel::folderWanted);
+}
+
+/// A narrow window tells rather what happens than whose a file is, and when the one here was changed.
+void RestorePanel::resizeEvent(QResizeEvent *event)
+{
+    TaskPanel::resizeEvent(event);
+    m_view->setColumnHidden(FunctionName, width() < TypeScale::wide(widthForFunction));
+    m_view->setColumnHidden(Here, width() < TypeScale::wide(widthForHere));
 }
 
 void RestorePanel::show(const QString &title, const QList<RestoreItem> &items, const QString &function,

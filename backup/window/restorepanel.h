@@ -35,6 +35,9 @@ signals:
     void restoreWanted();
     void folderWanted();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void fillFunctions(const QString &function);
     void follow();

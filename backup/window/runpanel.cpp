@@ -99,7 +99,7 @@ void RunPanel::addQuestion(QVBoxLayout *rows)
     connect(other, &QPushButton::clicked, this, &RunPanel::chooseFolder);
 }
 
-/// Without a question its lines take no room.
+/// Without a question its lines take no room, and with one those of the work.
 void RunPanel::showQuestion(const std::optional<DiskQuestion> &question)
 {
     m_asked->setText(question ? BackupWindowLines::question(*question, m_desk.program.state.dateStyle)
@@ -107,6 +107,8 @@ void RunPanel::showQuestion(const std::optional<DiskQuestion> &question)
     m_advice->setText(question ? BackupWindowLines::advice(*question) : QString());
     for (QWidget *each : {static_cast<QWidget *>(m_asked), static_cast<QWidget *>(m_advice), m_answers})
         each->setVisible(question.has_value());
+    for (QLabel *each : {m_left, m_file})
+        each->setVisible(!question); // nothing goes on meanwhile
 }
 
 void RunPanel::begin(const QString &title, const QString &doing)
