@@ -26,6 +26,7 @@ void journal(const Camera &camera);
 void calendar(const Camera &camera);
 void calendarPages(const Camera &camera);
 void photos(const Camera &camera);
+void backup(const Camera &camera);
 void charts(const Camera &camera);
 
 } // namespace Albums

@@ -45,6 +45,7 @@ constexpr std::array albums{Album{"main-menu", Albums::mainMenu},
                             Album{"calendar", Albums::calendar},
                             Album{"calendar-pages", Albums::calendarPages},
                             Album{"album", Albums::photos},
+                            Album{"backup", Albums::backup},
                             Album{"charts", Albums::charts}};
 
 constexpr int longestMinutes = 10;
@@ -122,6 +123,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationVersion(QStringLiteral(QUILLERY_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::addLibraryPath(QStringLiteral(QUILLERY_PROGRAM)); // where the program's modules are
     desk->furnish(application);
     return takeOn(*desk, arguments[0], arguments.mid(1));
 }
