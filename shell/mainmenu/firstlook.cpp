@@ -23,6 +23,8 @@ namespace {
 
 constexpr auto sentAwayKey = "MainMenu/firstLookSentAway"_L1;
 
+constexpr int notNowGap = 18;
+
 QFont lineFont()
 {
     QFont font = TypeScale::group();
@@ -101,7 +103,7 @@ FirstLook::FirstLook(Program &program, QWidget *parent)
     }
     m_notNow = new Link(u"firstLookNotNow"_s, u"Not now"_s, TypeScale::label(), this);
     m_notNow->setToolTip(u"Does not show this line again"_s);
-    row->addSpacing(18);
+    row->addSpacing(notNowGap);
     row->addWidget(m_notNow);
     row->addStretch(1);
     connect(m_links[Name], &Link::clicked, this, &FirstLook::nameWanted);
@@ -109,9 +111,36 @@ FirstLook::FirstLook(Program &program, QWidget *parent)
     connect(m_links[Address], &Link::clicked, this, &FirstLook::addressWanted);
     connect(m_links[Restore], &Link::clicked, this, &FirstLook::restoreWanted);
     connect(m_notNow, &Link::clicked, this, &FirstLook::sendAway);
-    for (Link *link : {m_links[Name], m_links[Picture], m_links[Address], m_notNow})
+    for (Link *link : {m_links[Name], m_links[Picture], m_links[Address], m_links[Restore], m_notNow})
         connect(link, &Link::walked, this, [this, link](int key) { walk(link, key); });
     hide();
+}
+
+/// Where they would be cut, the letters are smaller.
+bool FirstLook::event(QEvent *event)
+{
+    const bool isDone = QWidget::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        setLineFont(widthWith(lineFont()) > width() ? TypeScale::label() : lineFont());
+    return isDone;
+}
+
+int FirstLook::widthWith(const QFont &font) const
+{
+    const QFontMetrics metrics(font);
+    const int around = 2 * indent + 2 * layout()->spacing() + metrics.horizontalAdvance(u'-');
+    int width = notNowGap + m_notNow->sizeHint().width();
+    for (const Link *link : m_links)
+        width += link->isHidden() ? 0 : metrics.horizontalAdvance(link->text()) + around;
+    return width;
+}
+
+void FirstLook::setLineFont(const QFont &font)
+{
+    for (QLabel *dash : m_dashes)
+        dash->setFont(font);
+    for (Link *link : m_links)
+        link->setFont(font);
 }
 
 std::vector<FirstLook::Link *> FirstLook::shownLinks() const

@@ -40,6 +40,9 @@ signals:
     /// The line has come or gone.
     void changed();
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     enum Step { Name, Picture, Address, Restore, StepCount };
 
@@ -49,6 +52,8 @@ private:
     bool isDone(Step step) const;
     bool isBegun() const;
     std::vector<Link *> shownLinks() const;
+    void setLineFont(const QFont &font);
+    int widthWith(const QFont &font) const;
     void walk(const Link *link, int key);
     void sendAway();
     void end();
