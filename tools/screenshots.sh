@@ -7,12 +7,14 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/packages.sh
 
-# What the documents show and a newcomer wants to see: one for each new function, thirty at most.
+# What the documents show and a newcomer wants to see: a few for each function, forty at most.
 documents=(main-menu main-menu-dark main-menu-200 background-selector message-save-changes page-preview password-control
     manual address-book-view address-book-view-1024 address-book-modify address-book-date viewer-address viewer-labels
     viewer-pictures planner-day planner-day-dark planner-week planner-month planner-recurrence
     budget-sheet budget-totals cars-due cars-information car-fuel
-    weight-household weight-graph-50 todo-list journal-day keeper-shown calendar-month)
+    weight-household weight-graph-50 todo-list journal-day keeper-shown calendar-month
+    backup backup-disk-question backup-restore backup-bring-back backup-bring-back-dark backup-1024 backup-200
+    main-menu-backup-overdue main-menu-empty)
 
 docs=
 if [ "${1:-}" = --docs ]; then
