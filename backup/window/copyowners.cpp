@@ -6,13 +6,16 @@
 
 #include <QFile>
 
-#include <tuple>
 
 CopyOwners::CopyOwners(const Program &program, const QList<BackupFile> &files, const QString &copy)
 {
     for (const BackupFile &file : files) {
-        if (!file.name.contains(u'/')) // what lies deeper is no function's
-            std::ignore = QFile(m_names.filePath(file.name)).open(QIODevice::WriteOnly);
+        if (file.name.contains(u'/')) // what lies deeper is no function's
+            continue;
+        QFile name(m_names.filePath(file.name));
+        // Some functions have no use for a file without a byte.
+        if (name.open(QIODevice::WriteOnly) && file.size > 0)
+            name.putChar('\0');
     }
     add(program, m_names.path());
     if (!copy.isEmpty())
