@@ -10,17 +10,18 @@
 
 int BackupScope::missing(const SetRecord &backup, const DataFolder &household)
 {
-    QSet<QString> names;
-    for (const BackupFile &file : backup.files)
-        names.insert(file.name);
-    if (names.isEmpty()) // it does not tell
+    if (backup.files.isEmpty()) // it does not tell
         return 0;
+    QSet<QString> names; // a file that was restored bears the name that it has here, however it is spelled
+    for (const BackupFile &file : backup.files)
+        names.insert(file.name.toLower());
     // The settings go along with everything: without them, it was a part of the household from the start.
     // Else a file that is newer has come since.
-    const bool isPart = std::ranges::none_of(names, &Holdings::isSetting);
+    const bool isPart = std::ranges::none_of(
+        backup.files, [](const BackupFile &file) { return Holdings::isSetting(file.name); });
     const QStringList here = Holdings::filesAtTop(household);
     return int(std::ranges::count_if(here, [&](const QString &name) {
-        if (names.contains(name))
+        if (names.contains(name.toLower()))
             return false;
         return isPart || QFileInfo(household.path() + u'/' + name).lastModified() <= backup.begun;
     }));
