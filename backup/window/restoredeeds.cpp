@@ -280,10 +280,15 @@ void RestoreDeeds::run(const RestorePlan::Aim &aim)
 /// On the thread of the run.
 bool RestoreDeeds::mayPrepare(RestoreRun::Order &order, bool isFileChosen) const
 {
+    if (order.aim.isHousehold)
+        return m_demands.areMet(order, {*m_opened, m_opened->items, isFileChosen});
+    // What is the same in the household is written elsewhere all the same.
+    for (RestoreItem &item : order.items) {
+        if (item.effect == RestoreEffect::Same)
+            item.effect = RestoreEffect::New;
+    }
     if (!m_demands.areMet(order, {*m_opened, m_opened->items, isFileChosen}))
         return false;
-    if (order.aim.isHousehold)
-        return true;
     QList<BackupFile> files;
     for (const RestoreItem &item : std::as_const(order.items)) {
         if (item.effect != RestoreEffect::OnlyHere)

@@ -100,7 +100,8 @@ bool RestoreDemands::areMetHere(RestoreRun::Order &order, const Wanted &wanted, 
                      [&content](const FunctionFace &face) { return face.isGuarded(content.areas); }) ||
         (content.areas.isAnyProtected() && isAnyUnknown(order.items));
     known.isGuardable =
-        isAnyWritten(order.items, [](const FunctionFace &face) { return face.area != Area::None; });
+        isAnyWritten(order.items, [](const FunctionFace &face) { return face.area != Area::None; }) ||
+        isAnyUnknown(order.items);
     const RestoreRule::Demand demand = RestoreRule::of(known);
     if (!demand.refusal.isEmpty()) {
         m_desk.program.dialogs.ask(&m_desk.window, RestoreMessages::refused(demand.refusal));

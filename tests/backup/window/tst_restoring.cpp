@@ -158,6 +158,19 @@ private slots:
         QCOMPARE(QDir(other.path()).entryList(QDir::Files), QStringList());
     }
 
+    void asksForThePasswordOfWhatIsTheSameHere()
+    {
+        const TestSet set({{book, "Anne\n"}, {passwords, passwordFile(u"secret"_s)}});
+        openOn(set, Function::AddressBook);
+        const QTemporaryDir other;
+        m_test->dialogs.willChooseFile(other.path());
+        m_test->dialogs.willRun([](QDialog &dialog) { return answer(dialog, {}); });
+        click("restoreFolder");
+        QTRY_VERIFY(m_test->dialogs.isDone());
+        QTRY_VERIFY(!isSeen("runPanel"));
+        QCOMPARE(QDir(other.path()).entryList(QDir::Files), QStringList());
+    }
+
     void asksOnceForAllThatIsDamaged()
     {
         const TestSet set({{book, "Bert\n"}, {budget, "heating"}, {u"notes.txt"_s, "note"}});
