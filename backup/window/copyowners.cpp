@@ -6,7 +6,6 @@
 
 #include <QFile>
 
-
 CopyOwners::CopyOwners(const Program &program, const QList<BackupFile> &files, const QString &copy)
 {
     for (const BackupFile &file : files) {
