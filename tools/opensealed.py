@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Opens one disk of a sealed backup, given its password, and writes the tar that it holds to standard output.
 
-    opensealed.py FOLDER | tar -x
+    opensealed.py [--stdin] FOLDER | tar -x
 
 FOLDER is that of the set on the disk, with DiskInfo.bk1 and Quillery.sealed. For whoever has the disks and the password,
 but not the program. It only reads. Needs Python 3 and PyNaCl (Debian: python3-nacl). The form of the file is told in
@@ -80,7 +80,10 @@ def main():
     parser.add_argument("--stdin", action="store_true", help="read the password from standard input")
     arguments = parser.parse_args()
     identity, number = disk_of(arguments.folder)
-    typed = sys.stdin.readline().rstrip("\n") if arguments.stdin else getpass.getpass("Password: ")
+    if arguments.stdin:
+        typed = sys.stdin.buffer.readline().decode("utf-8").rstrip("\r\n")
+    else:
+        typed = getpass.getpass("Password: ")
     with open(os.path.join(arguments.folder, "Quillery.sealed"), "rb") as file:
         key = key_of(file.read(KEY_RECORD), typed)
         unseal(file, key, identity + struct.pack("<I", number), sys.stdout.buffer)
