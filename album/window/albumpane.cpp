@@ -183,6 +183,7 @@ void AlbumPane::refresh()
     m_covers->follow(devicePixelRatioF());
     const QDate today = m_program.clock.today();
     std::vector<PaneRows::Row> rows;
+    rows.reserve(std::size(views));
     for (const Kind view : views)
         rows.push_back(
             row({view, 0}, AlbumWindowLines::nameOf(view), ShelfViews::count(m_shelf, view, today)));

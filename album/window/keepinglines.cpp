@@ -138,9 +138,9 @@ Message KeepingLines::exportFaultsMessage(const AlbumExport::Result &result)
 
 QString KeepingLines::card(qsizetype fresh, int known)
 {
-    const QString there = fresh == 0   ? u"No new pictures"_s
-                          : fresh == 1 ? u"1 new picture"_s
-                                       : number(fresh) + u" new pictures"_s;
+    QString there = fresh == 0   ? u"No new pictures"_s
+                    : fresh == 1 ? u"1 new picture"_s
+                                 : number(fresh) + u" new pictures"_s;
     if (known == 0)
         return there;
     return there + u", %1 that %2 here already"_s.arg(number(known), known == 1 ? u"is"_s : u"are"_s);
