@@ -19,14 +19,19 @@ BackupOutlook BackupOutlook::of(const QList<BackupItem> &items, const DataFolder
         const bool isPicture = SetFolder::isPicture(item.name);
         const bool isThere =
             isPicture && form == Form::Plain && !pool.find(known.hash(item), item.size).isEmpty();
+        const bool isPerhaps = isPicture && form == Form::Plain && !isThere && known.hash(item).isEmpty() &&
+                               pool.hasSize(item.size);
         outlook.newPictures += isPicture && !isThere ? 1 : 0;
+        outlook.perhapsPictures += isPerhaps ? 1 : 0;
         outlook.knownPictures += isThere ? 1 : 0;
         planned.append({item.name, item.size, 0, 0, isThere});
     }
     DiskRoom first = room ? *room : DiskRoom::of(folder);
     DiskRoom next = room ? *room : DiskRoom::ofEmpty(folder);
-    if (form == Form::Sealed)
-        first.each = next.each = SealedDisk::eachFile;
+    if (form == Form::Sealed) {
+        first = SealedDisk::sealedRoom(first);
+        next = SealedDisk::sealedRoom(next);
+    }
     outlook.plan = DiskPlan::of(planned, first, next);
     return outlook;
 }

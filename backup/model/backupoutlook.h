@@ -11,6 +11,8 @@
 struct BackupOutlook {
     DiskPlan plan;
     int newPictures = 0;
+    /// Of the new ones: not known, but of the size of one that the drive has. Only reading tells.
+    int perhapsPictures = 0;
     int knownPictures = 0;
 
     enum class Form { Plain, Sealed };

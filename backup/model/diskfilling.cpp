@@ -17,8 +17,6 @@ constexpr qint64 batchBytes = qint64(64) * 1024 * 1024;
 constexpr qsizetype batchFiles = 1000;
 /// How often a file is read that changes while it is read.
 constexpr int mostReadings = 3;
-/// What a sealed disk is given less in any case.
-constexpr qint64 sealedEnd = qint64(24) * 1024;
 
 } // namespace
 
@@ -76,8 +74,7 @@ DiskResult DiskFilling::putPart(int item, const PlannedPart &planned)
     m_course.shown.file = source.name;
     BackupPart part{source.name,    source.size, planned.offset, planned.bytes,
                     source.changed, {},          planned.piece};
-    const bool isPicture = SetFolder::isPicture(source.name);
-    if (planned.piece == 0 && isPicture) {
+    if (planned.piece == 0 && SetFolder::isPicture(source.name)) {
         part.hash = m_course.known.hash(source);
         if (m_disk.hasPicture(part.hash, part.size)) {
             m_disk.putKnown(part);
@@ -86,7 +83,6 @@ DiskResult DiskFilling::putPart(int item, const PlannedPart &planned)
             std::ignore = m_copier.goOn(0);
             return DiskResult::Done;
         }
-        ++m_course.report.newPictures;
     }
     if (state.pieces > 0 && state.lastDisk < m_course.number) {
         const QFileInfo now(source.path);
@@ -116,7 +112,7 @@ DiskResult DiskFilling::copyPart(int item, const PlannedPart &planned, const Bac
         if (isDone && !isSame)
             m_course.report.changing.append(part.name);
         if (isDone)
-            notePut(item);
+            notePut(item, planned.piece);
         if (result == DiskResult::Spoilt)
             m_spoilt.append(item);
         if (result != DiskResult::NotRead)
@@ -143,13 +139,18 @@ DiskResult DiskFilling::readPart(int item, BackupPart part, FileHash *whole, boo
     return result;
 }
 
-void DiskFilling::notePut(int item)
+void DiskFilling::notePut(int item, int piece)
 {
     m_begun();
     m_waiting.append(item);
-    m_bytes += m_lastBytes;
-    m_roomUsed += m_emptyRoom.needed(m_course.job.items[item].name, m_lastBytes);
-    m_course.report.bytes += m_lastBytes;
+    const QString &name = m_course.job.items[item].name;
+    const bool wasThere = m_disk.wasThere();
+    const qint64 bytes = wasThere ? 0 : m_lastBytes;
+    m_bytes += bytes;
+    m_roomUsed += m_emptyRoom.needed(name, bytes);
+    m_course.report.bytes += bytes;
+    if (piece <= 1 && SetFolder::isPicture(name))
+        ++(wasThere ? m_course.report.knownPictures : m_course.report.newPictures);
 }
 
 DiskResult DiskFilling::prove()
@@ -171,21 +172,17 @@ DiskResult DiskFilling::prove()
 /// What there is to know of a disk but how much is free on it.
 DiskRoom DiskFilling::roomKind() const
 {
-    DiskRoom room = m_course.job.room ? *m_course.job.room : DiskRoom::ofEmpty(m_folder);
-    if (m_course.job.seal) { // all of it is one file
-        room.bytes = std::min(room.bytes, room.largestFile) - sealedEnd;
-        room.each = SealedDisk::eachFile;
-    }
-    return room;
+    const DiskRoom room = m_course.job.room ? *m_course.job.room : DiskRoom::ofEmpty(m_folder);
+    return m_course.job.seal ? SealedDisk::sealedRoom(room) : room;
 }
 
 DiskRoom DiskFilling::roomNow() const
 {
     DiskRoom room = m_emptyRoom;
-    qint64 free = DiskRoom::of(m_folder).bytes;
+    DiskRoom now = DiskRoom::of(m_folder);
     if (m_course.job.seal)
-        free = std::min(free, room.largestFile) - sealedEnd;
-    room.bytes = m_course.job.room ? std::min(free, room.bytes - m_roomUsed) : free;
+        now = SealedDisk::sealedRoom(now);
+    room.bytes = m_course.job.room ? std::min(now.bytes, room.bytes - m_roomUsed) : now.bytes;
     room.bytes -= m_lessRoom;
     return room;
 }

@@ -32,7 +32,7 @@ private:
     DiskResult putPart(int item, const PlannedPart &planned);
     DiskResult copyPart(int item, const PlannedPart &planned, const BackupPart &part);
     DiskResult readPart(int item, BackupPart part, FileHash *whole, bool &isSame);
-    void notePut(int item);
+    void notePut(int item, int piece);
     DiskResult prove();
     PlannedDisk planOfDisk(QList<int> &places);
     DiskRoom roomKind() const;

@@ -151,6 +151,11 @@ DiskResult PlainDisk::putPicture(const FileCopier::Source &source, Waiting waiti
     return DiskResult::Done;
 }
 
+bool PlainDisk::wasThere() const
+{
+    return !m_waiting.isEmpty() && m_waiting.constLast().path.isEmpty();
+}
+
 bool PlainDisk::takeBack()
 {
     if (m_waiting.isEmpty())

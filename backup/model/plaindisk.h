@@ -19,6 +19,7 @@ public:
     bool hasPicture(const QByteArray &hash, qint64 size) const override;
     void putKnown(const BackupPart &part) override;
     DiskResult put(const FileCopier::Source &source, BackupPart part, FileHash *whole) override;
+    bool wasThere() const override;
     bool takeBack() override;
     DiskResult prove() override;
     DiskResult close(const LastRecord &last) override;

@@ -18,6 +18,10 @@ namespace {
 /// What is held at most.
 constexpr qint64 smallFile = qint64(2) * 1024 * 1024;
 constexpr qint64 flushBytes = qint64(8) * 1024 * 1024;
+/// At most so many bytes a file takes besides its own.
+constexpr qint64 eachFile = 6144;
+/// What a disk is given less in any case.
+constexpr qint64 sealedEnd = qint64(24) * 1024;
 
 } // namespace
 
@@ -26,6 +30,13 @@ SealedDisk::SealedDisk(const QString &drive, const DiskRecord &record, FileCopie
     : SetDisk(drive, record, copier)
     , m_key(std::move(key))
 {}
+
+DiskRoom SealedDisk::sealedRoom(DiskRoom room)
+{
+    room.bytes = std::min(room.bytes, room.largestFile) - sealedEnd;
+    room.each = eachFile;
+    return room;
+}
 
 /// What another run has left there is written over: nothing can be added to a sealed file.
 DiskResult SealedDisk::open()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "backup/model/diskplan.h"
 #include "backup/model/sealedkey.h"
 #include "backup/model/sealedwriter.h"
 #include "backup/model/setdisk.h"
@@ -14,8 +15,8 @@
 class SealedDisk final : public SetDisk
 {
 public:
-    /// At most so many bytes a file takes besides its own.
-    static constexpr qint64 eachFile = 6144;
+    /// What of `room` there is for files: all of them are one file, which has an end of its own.
+    static DiskRoom sealedRoom(DiskRoom room);
 
     SealedDisk(const QString &drive, const DiskRecord &record, FileCopier &copier,
                std::shared_ptr<const SealedKey> key);

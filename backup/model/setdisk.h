@@ -44,6 +44,8 @@ public:
     /// Puts the part there; its hash is taken on the way, and added to that of the whole file. Nothing stays
     /// of a part that does not get there.
     virtual DiskResult put(const FileCopier::Source &source, BackupPart part, FileHash *whole) = 0;
+    /// Whether the disk had the content of the last part that was put, so that nothing was written.
+    virtual bool wasThere() const { return false; }
     /// Takes back the last part that was put, which is not proven yet. False where it has to stay.
     virtual bool takeBack() = 0;
     /// Proves what was put since the last time.

@@ -33,10 +33,12 @@ QString BackupWindowLines::plan(const BackupOutlook &outlook, const QString &dri
     for (const PlannedDisk &disk : outlook.plan.disks)
         files += disk.parts.size();
     QStringList parts{BackupLines::files(files)};
+    const bool isSure = outlook.perhapsPictures == 0;
     if (outlook.newPictures > 0)
-        parts.append(BackupLines::counted(outlook.newPictures, u"new picture"_s, u"new pictures"_s));
-    QString words =
-        u"To %1: %2, %3."_s.arg(drive, parts.join(u", "_s), BackupLines::size(outlook.plan.bytes()));
+        parts.append((isSure ? QString() : u"up to "_s) +
+                     BackupLines::counted(outlook.newPictures, u"new picture"_s, u"new pictures"_s));
+    parts.append((isSure ? QString() : u"at most "_s) + BackupLines::size(outlook.plan.bytes()));
+    QString words = u"To %1: %2."_s.arg(drive, parts.join(u", "_s));
     if (outlook.knownPictures > 0)
         words += u" %1 there already."_s.arg(
             BackupLines::counted(outlook.knownPictures, u"picture is"_s, u"pictures are"_s));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "backup/model/backupoutlook.h"
 #include "backup/model/backuprun.h"
 #include "backup/model/sealedkey.h"
 #include "backup/model/sealedreader.h"
@@ -88,7 +89,7 @@ private slots:
         BackupJob job = house.job();
         job.begun = job.begun.addDays(1);
         const BackupReport report = run(job, asker);
-        QCOMPARE(report.knownPictures, 2);
+        QVERIFY(report.knownPictures == 3 && report.newPictures == 1);
         QCOMPARE(house.stored(1), house.wanted());
         const QDir pictures(house.disk(1) + u"/Quillery Backup/Pictures"_s);
         QCOMPARE(pictures.entryList(QDir::Files).size(), 3);
@@ -372,20 +373,29 @@ private slots:
         QVERIFY(sumsAgree(house.setFolder(1)));
     }
 
-    void sealsEachDisk_data() { rows<int, int>({{"one disk", 0, 1}, {"several disks", 150'000, 2}}); }
+    void sealsEachDisk_data()
+    {
+        rows<int, qint64, int>({{"one disk", 5'000'000, DiskRoom().largestFile, 1},
+                                {"several disks", 150'000, DiskRoom().largestFile, 2},
+                                {"a disk of short files", 5'000'000, 150'000, 2}});
+    }
     void sealsEachDisk()
     {
-        const auto [room, least] = row<int, int>();
+        const auto [room, largest, least] = row<int, qint64, int>();
         const BackupHousehold house;
         fill(house);
         house.put(u"Large.dat"_s, noiseOf(200'000));
-        BackupJob job = house.job(room);
+        BackupJob job = house.job();
+        job.room = DiskRoom{room, 512, largest};
+        const auto outlook =
+            BackupOutlook::of(job.items, job.household, job.folder, job.room, BackupOutlook::Form::Sealed);
         KeyDerivation derived = KeyDerivation::fresh(SecretBytes::ofText(u"elm"_s), PasswordCost::minimum());
         QVERIFY(derived.run());
         job.seal = std::make_shared<SealedKey>(SealedKey::fresh(derived));
         ScriptedAsker asker({nextDisks(house)});
         const BackupReport report = run(job, asker);
         QVERIFY(report.end == End::Complete && report.set.isSealed && report.set.disks >= least);
+        QCOMPARE(outlook.plan.disks.size(), report.set.disks);
         Contents all;
         for (int number = 1; number <= report.set.disks; ++number) {
             const QDir folder(house.setFolder(number));
@@ -394,6 +404,7 @@ private slots:
             QVERIFY(sumsAgree(folder.path()));
             QVERIFY(DiskRecords::readDisk(folder.path())->parts.isEmpty());
             QFile file(folder.filePath(u"Quillery.sealed"_s));
+            QVERIFY(file.size() <= largest);
             QVERIFY(file.open(QIODevice::ReadOnly) && !file.readAll().contains("Lind"));
             QVERIFY(file.seek(SealedKey::recordLength));
             SealedReader reader(*job.seal, report.set.set, number,

@@ -116,6 +116,11 @@ private slots:
         backUp(house, 1);
         QCOMPARE(outlook(100'000).knownPictures, 1);
         QCOMPARE(outlook(100'000).plan.bytes(), 3007);
+        // Under another name, only reading tells that the drive has it.
+        house.putElsewhere(u"Moved oak.jpg"_s, noiseOf(4000));
+        house.putElsewhere(u"Ash.jpg"_s, noiseOf(4001));
+        const BackupOutlook moved = outlook(100'000);
+        QVERIFY(moved.knownPictures == 1 && moved.newPictures == 2 && moved.perhapsPictures == 1);
     }
 
     void refusesTheHouseholdsOwnFolder_data()
