@@ -125,6 +125,34 @@ private slots:
         QCOMPARE(differences, 0);
     }
 
+    void aRenamedPictureIsKeptOnceAndComesBackUnderItsNewName_data()
+    {
+        rows<QString, QString>({{"renamed", u"Pictures/Elm.jpg"_s, u"Pictures/Old elm.jpg"_s},
+                                {"moved into a folder", u"Elm.jpg"_s, u"Pictures/2026/Elm.JPG"_s},
+                                {"its kind called otherwise", u"Elm.jpeg"_s, u"Elm.jpg"_s}});
+    }
+
+    void aRenamedPictureIsKeptOnceAndComesBackUnderItsNewName()
+    {
+        const auto [before, after] = row<QString, QString>();
+        const BackupHousehold house;
+        house.put(before, "elm");
+        Desk desk(house);
+        QCOMPARE(BackupRun(house.job(), desk, {}).run().end, BackupReport::End::Complete);
+        QVERIFY(QDir().mkpath(QFileInfo(house.path(after)).path()));
+        QVERIFY(QFile::rename(house.path(before), house.path(after)));
+        BackupJob job = house.job();
+        job.begun = job.begun.addDays(1);
+        const BackupReport second = BackupRun(job, desk, {}).run();
+        const QDir pool(house.disk(1) + u"/Quillery Backup/Pictures"_s);
+        QCOMPARE(pool.entryList(QDir::Files).size(), 1);
+        clear(house);
+        QVERIFY(restore(house, second.set, false));
+        QVERIFY(ChangeSet::recover(house.folder()));
+        QCOMPARE(contentOf(house.path(after)), "elm");
+        QVERIFY(!QFileInfo::exists(house.path(before)));
+    }
+
 private:
     static std::shared_ptr<const SealedKey> key()
     {
