@@ -26,8 +26,8 @@ BackupOutlook BackupOutlook::of(const QList<BackupItem> &items, const DataFolder
         outlook.knownPictures += isThere ? 1 : 0;
         planned.append({item.name, item.size, 0, 0, isThere});
     }
-    DiskRoom first = room ? *room : DiskRoom::of(folder);
-    DiskRoom next = room ? *room : DiskRoom::ofEmpty(folder);
+    DiskRoom first = DiskRoom::of(folder).within(room);
+    DiskRoom next = DiskRoom::ofEmpty(folder).within(room);
     if (form == Form::Sealed) {
         first = SealedDisk::sealedRoom(first);
         next = SealedDisk::sealedRoom(next);

@@ -172,7 +172,7 @@ DiskResult DiskFilling::prove()
 /// What there is to know of a disk but how much is free on it.
 DiskRoom DiskFilling::roomKind() const
 {
-    const DiskRoom room = m_course.job.room ? *m_course.job.room : DiskRoom::ofEmpty(m_folder);
+    const DiskRoom room = DiskRoom::ofEmpty(m_folder).within(m_course.job.room);
     return m_course.job.seal ? SealedDisk::sealedRoom(room) : room;
 }
 

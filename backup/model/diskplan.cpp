@@ -134,6 +134,16 @@ DiskRoom DiskRoom::ofEmpty(const QString &folder)
     return roomOf(volume, volume.bytesTotal() / 100 * 98);
 }
 
+DiskRoom DiskRoom::within(const std::optional<DiskRoom> &limit) const
+{
+    if (!limit)
+        return *this;
+    DiskRoom room = *limit;
+    room.bytes = std::min(room.bytes, bytes);
+    room.largestFile = std::min(room.largestFile, largestFile);
+    return room;
+}
+
 DiskPlan DiskPlan::of(const QList<PlannedItem> &items, const DiskRoom &first, const DiskRoom &next)
 {
     DiskPlan plan;

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 /// What a disk takes.
 struct DiskRoom {
     qint64 bytes = 0;                      ///< that are free
@@ -15,6 +17,9 @@ struct DiskRoom {
     static DiskRoom of(const QString &folder);
     /// As an empty disk like this one has it.
     static DiskRoom ofEmpty(const QString &folder);
+
+    /// Of it as much as `limit` leaves; the file system takes no larger files for that.
+    DiskRoom within(const std::optional<DiskRoom> &limit) const;
 
     /// What a file, or a piece, of so many bytes takes, with its lines in the records; without bytes, these
     /// alone.

@@ -2,6 +2,8 @@
 #include "backup/model/restoreplaces.h"
 
 #include "backup/model/diskrecords.h"
+#include "backup/model/filehash.h"
+#include "backup/model/holdings.h"
 #include "backup/model/setfolder.h"
 #include "backup/model/setrecords.h"
 #include "storage/changeset.h"
@@ -133,7 +135,7 @@ RestoreItem RestorePlaces::placedRecord(const BackupFile &file, RestoreItem item
     m_taken.insert(item.path, file.hash);
     const QFileInfo here(item.path);
     if (!here.exists())
-        return item;
+        return file.name == Holdings::deskName ? placedDesk(item) : item;
     item.sizeHere = here.size();
     item.changedHere = here.lastModified().toUTC();
     if (here.isDir())
@@ -145,10 +147,30 @@ RestoreItem RestorePlaces::placedRecord(const BackupFile &file, RestoreItem item
     return item;
 }
 
+/// The settings are no file here until the next start takes them up, but they are as old as the program runs.
+RestoreItem RestorePlaces::placedDesk(RestoreItem item) const
+{
+    if (m_aim.desk.isEmpty())
+        return item;
+    item.sizeHere = m_aim.desk.size();
+    item.effect = item.file.hash == FileHash::of(m_aim.desk) ? RestoreEffect::Same : RestoreEffect::ByOlder;
+    return item;
+}
+
+/// Where another one is, it goes among the pictures of the household, where it is looked for.
+QString RestorePlaces::placeBeside(const QString &path, int number) const
+{
+    const QString pictures = m_aim.folder.filePath(picturesFolder()) + u'/';
+    if (path.startsWith(pictures))
+        return numbered(path, number + 1);
+    const QString place = pictures + QFileInfo(path).fileName();
+    return number == 1 ? place : numbered(place, number);
+}
+
 RestoreItem RestorePlaces::placedPicture(const BackupFile &file, const QString &path, RestoreItem item)
 {
     item.path = path;
-    for (int number = 2;; ++number) {
+    for (int number = 0;; item.path = placeBeside(path, ++number)) {
         const auto other = m_taken.constFind(item.path);
         const bool isTaken = other != m_taken.cend();
         if ((isTaken && *other == file.hash) || (!isTaken && isSame(file, item.path, true))) {
@@ -156,10 +178,9 @@ RestoreItem RestorePlaces::placedPicture(const BackupFile &file, const QString &
             break;
         }
         if (!isTaken && !QFileInfo::exists(item.path)) {
-            item.effect = number == 2 ? RestoreEffect::New : RestoreEffect::Beside;
+            item.effect = number == 0 ? RestoreEffect::New : RestoreEffect::Beside;
             break;
         }
-        item.path = numbered(path, number);
     }
     m_taken.insert(item.path, file.hash);
     if (const QFileInfo here(path); here.exists()) {

@@ -25,7 +25,9 @@ public:
 private:
     void look(const QString &folder, const QStringList &names);
     RestoreItem placedRecord(const BackupFile &file, RestoreItem item);
+    RestoreItem placedDesk(RestoreItem item) const;
     RestoreItem placedPicture(const BackupFile &file, const QString &path, RestoreItem item);
+    QString placeBeside(const QString &path, int number) const;
     bool isSame(const BackupFile &file, const QString &path, bool trustsTime);
     QString pathOf(const QString &name) const;
     QString pathElsewhere(const BackupFile &file);

@@ -56,6 +56,7 @@ namespace RestorePlan {
 struct Aim {
     DataFolder folder;       ///< the household's, or another one
     bool isHousehold = true; ///< another folder gets all pictures inside it
+    QByteArray desk{};       ///< what a backup would keep of the program's settings now
 };
 
 /// The files of a set beside what is in the folder now: in the order of the set, then those of `here`, names

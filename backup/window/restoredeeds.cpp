@@ -7,6 +7,7 @@
 #include "backup/window/copypasswordbox.h"
 #include "backup/window/diskwork.h"
 #include "backup/window/householdsnapshot.h"
+#include "backup/window/householdsources.h"
 #include "backup/window/readmeter.h"
 #include "backup/window/restorepanel.h"
 #include "backup/window/restoreview.h"
@@ -200,10 +201,10 @@ void RestoreDeeds::makePlan(const std::shared_ptr<Opened> &opened)
     const BackupSet &place = opened->place;
     const auto owners = std::make_shared<CopyOwners>(m_desk.program, opened->set.files,
                                                      place.isSealed() ? QString() : place.folder);
-    const auto make = [this, opened, owners, folder = m_desk.program.folder] {
+    const RestorePlan::Aim aim{m_desk.program.folder, true, HouseholdSources::desk(m_desk.program)};
+    const auto make = [this, opened, owners, aim] {
         owners->find();
-        opened->items =
-            RestorePlan::made({folder}, opened->set.files, owners->here(), owners->all(), m_isStopped);
+        opened->items = RestorePlan::made(aim, opened->set.files, owners->here(), owners->all(), m_isStopped);
     };
     m_step->start(make, [this, opened] {
         m_desk.setBusy(false);

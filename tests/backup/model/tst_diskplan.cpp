@@ -30,6 +30,14 @@ class TestDiskPlan : public QObject
     Q_OBJECT
 
 private slots:
+    void keepsWhatTheFileSystemTakesWithinALimit()
+    {
+        const DiskRoom fat{32 * gib, 512, 4 * gib - 1};
+        QCOMPARE(fat.within({}), fat);
+        QCOMPARE(fat.within(DiskRoom{8 * gib, 4096}), (DiskRoom{8 * gib, 4096, 4 * gib - 1}));
+        QCOMPARE(fat.within(DiskRoom{64 * gib, 4096}).bytes, fat.bytes);
+    }
+
     void places_data()
     {
         using Sizes = QList<qint64>;

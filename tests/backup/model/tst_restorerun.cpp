@@ -227,7 +227,9 @@ private slots:
                            {elsewhere(u"same.jpg"_s), "same"},
                            {elsewhere(u"gone/away.jpg"_s), "away"},
                            {elsewhere(u"start.desktop"_s), "no picture"},
-                           {u"Pictures/anne.jpg"_s, "anne"}});
+                           {u"Pictures/anne.jpg"_s, "anne"},
+                           {u"WP3.jpg"_s, "meadow"}});
+        m_home.put(u"WP3.jpg"_s, "lake");
         QVERIFY(makeFile(photographs.filePath(u"other.jpg"_s), "not it"));
         QVERIFY(makeFile(photographs.filePath(u"same.jpg"_s), "same"));
         QVERIFY(QDir().mkpath(m_home.path(u"pictures"_s)));
@@ -235,10 +237,10 @@ private slots:
         m_home.put(u"pictures/away.jpg"_s, "away");
         ScriptedDesk desk;
         const RestoreResult result = restore(set, desk);
-        QCOMPARE(result.files, 4);
+        QCOMPARE(result.files, 5);
         QCOMPARE(result.moved,
                  (QStringList{m_home.path(u"pictures/other.jpg"_s), m_home.path(u"pictures/start.desktop"_s),
-                              m_home.path(u"pictures/Anne 2.jpg"_s)}));
+                              m_home.path(u"pictures/Anne 2.jpg"_s), m_home.path(u"pictures/WP3.jpg"_s)}));
         QVERIFY(ChangeSet::recover(home()));
         QCOMPARE(filesOf(photographs.path()),
                  (Files{{u"back.jpg"_s, "back"}, {u"other.jpg"_s, "not it"}, {u"same.jpg"_s, "same"}}));
@@ -248,7 +250,25 @@ private slots:
                                {u"pictures/Anne 2.jpg"_s, "anne"},
                                {u"pictures/away.jpg"_s, "away"},
                                {u"pictures/other.jpg"_s, "other"},
-                               {u"pictures/start.desktop"_s, "no picture"}}));
+                               {u"pictures/start.desktop"_s, "no picture"},
+                               {u"pictures/WP3.jpg"_s, "meadow"},
+                               {u"WP3.jpg"_s, "lake"}}));
+    }
+
+    void comparesTheSettings_data()
+    {
+        rows<QByteArray, bool, RestoreEffect>({{"the same", "view=1", true, RestoreEffect::Same},
+                                               {"others", "view=22", true, RestoreEffect::ByOlder},
+                                               {"none", {}, true, RestoreEffect::New},
+                                               {"another folder", "view=1", false, RestoreEffect::New}});
+    }
+    void comparesTheSettings()
+    {
+        const auto [desk, isHousehold, effect] = row<QByteArray, bool, RestoreEffect>();
+        const TestSet set({{u"Desk.conf"_s, "view=1"}});
+        const RestorePlan::Aim aim{home(), isHousehold, isHousehold ? desk : QByteArray()};
+        const QList<RestoreItem> plan = RestorePlan::made(aim, set.record().files, {}, {}, runsOn);
+        QCOMPARE(plan.constFirst().effect, effect);
     }
 
     void restoresIntoAnotherFolder()

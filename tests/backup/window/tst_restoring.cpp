@@ -2,6 +2,7 @@
 #include "backup/model/restoremessages.h"
 #include "backup/window/backup1.h"
 #include "backup/window/copypasswordbox.h"
+#include "backup/window/householdsources.h"
 #include "shell/access/passwordcheck.h"
 #include "shell/core/area.h"
 #include "shell/program/backupplace.h"
@@ -78,6 +79,14 @@ private slots:
         QVERIFY(ChangeSet::recover(m_test->folder));
         QCOMPARE(m_test->bytes(book), "Anne\nBert\n");
         QCOMPARE(m_test->bytes(u"notes.txt"_s), "note");
+    }
+
+    void comparesTheSettings()
+    {
+        m_test->store.setValue(u"Windows/Backup1/geometry"_s, 7);
+        const TestSet set({{u"Desk.conf"_s, HouseholdSources::desk(m_test->program)}});
+        openOn(set);
+        QVERIFY(labelText("restoreSummary").startsWith(u"1 the same"_s));
     }
 
     void restoresOneFunctionAlone()
