@@ -133,11 +133,13 @@ bool BackupWork::isReady()
     while (!m_course.isStopped) {
         DiskQuestion question{.kind = DiskQuestion::Kind::WrongDisk};
         if (!isThere())
-            question.kind = DiskQuestion::Kind::DiskGone;
+            question.kind = m_wasIn ? DiskQuestion::Kind::DiskGone : DiskQuestion::Kind::NextDisk;
         else if (!isOtherDisk(question))
             question.kind = DiskQuestion::Kind::WriteProtected;
-        if (question.kind == DiskQuestion::Kind::WriteProtected && DataFolder(m_folder).isWritable())
+        if (question.kind == DiskQuestion::Kind::WriteProtected && DataFolder(m_folder).isWritable()) {
+            m_wasIn = true;
             return true;
+        }
         if (!ask(question))
             return false;
     }
@@ -188,6 +190,7 @@ BackupWork::Went BackupWork::workOnDisk()
 void BackupWork::beginNextDisk()
 {
     m_lessRoom = 0;
+    m_wasIn = false;
     m_isBegun = true;
     m_course.report.set.files = m_course.tally.files(m_course.job.items);
     m_course.report.set.disks = ++m_course.number;

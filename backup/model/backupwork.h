@@ -50,6 +50,7 @@ private:
     DiskAsker &m_asker;
     const BackupRun::Progress &m_progress;
 
+    bool m_wasIn = true;    ///< the disk that is worked on; the first one was chosen
     QString m_folder;       ///< the drive or folder of the disk that is worked on
     QSet<QString> m_drives; ///< the folders that a drive was mounted at
     FileCopier m_copier;

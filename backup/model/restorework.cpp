@@ -136,9 +136,9 @@ DiskQuestion RestoreWork::questionAfter(Reading reading, int number, const QStri
     if (reading == Reading::Damaged) {
         question.kind = Kind::NotRead;
         question.file = DiskRecord::fileName;
-    } else if (m_hasBegun || (isAsked && !QFileInfo(root).isDir())) {
+    } else if (m_hasBegun) {
         question.kind = Kind::DiskGone;
-    } else if (isAsked) {
+    } else if (isAsked && QFileInfo(root).isDir()) {
         question.kind = Kind::WrongDisk;
         if (const std::optional<DiskRecord> found = m_source.diskAt(root)) {
             question.foundSet = found->begun;

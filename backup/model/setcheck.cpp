@@ -101,7 +101,7 @@ private:
                 return folder;
             question.kind = question.foundNumber > 0     ? DiskQuestion::Kind::WrongDisk
                             : QFileInfo(m_drive).isDir() ? DiskQuestion::Kind::NotRead
-                                                         : DiskQuestion::Kind::DiskGone;
+                                                         : DiskQuestion::Kind::NextDisk;
         }
         return {};
     }
@@ -131,11 +131,14 @@ private:
     {
         m_shown.disk = number;
         const std::optional<DiskRecord> record = DiskRecords::readDisk(folder);
-        // Its files are found to be missing at the end.
-        if (!record || record->set != m_report.set.set)
+        const bool isIt = record && record->set == m_report.set.set;
+        if (m_report.set.isSealed) {
+            if (isIt)
+                return readSealed(folder, number);
+            addSealed(number);
+        }
+        if (!isIt) // its files are found to be missing at the end
             return true;
-        if (m_report.set.isSealed)
-            return readSealed(folder, number);
         const QStringList paths = PartPaths(folder, *record).paths();
         for (qsizetype i = 0; i < paths.size(); ++i) {
             const BackupPart &part = record->parts[i];
@@ -173,9 +176,15 @@ private:
         if (result == FileCopier::Result::Done && sums == SumsFile::line(hash, m_shown.file))
             ++m_report.files;
         else
-            m_report.damaged.append(u"%1 (%2)"_s.arg(m_shown.file).arg(number));
-        ++m_sealed;
+            addSealed(number);
         return true;
+    }
+
+    /// The sealed file of that disk is damaged: they all have one name.
+    void addSealed(int number)
+    {
+        const QString name = SetFolder::sealed;
+        m_report.damaged.append(m_report.set.disks > 1 ? u"%1 on disk %2"_s.arg(name).arg(number) : name);
     }
 
     void finish()
@@ -187,10 +196,7 @@ private:
             else
                 ++m_report.files;
         }
-        if (m_report.set.isSealed && m_sealed < m_report.set.disks)
-            m_report.damaged.append(SetFolder::sealed);
-        else
-            m_report.counts = m_count.ofGathered();
+        m_report.counts = m_count.ofGathered();
         m_report.end = CheckReport::End::Complete;
         if (m_report.damaged.isEmpty())
             note();
@@ -233,7 +239,6 @@ private:
     DiskProgress m_shown;
     QElapsedTimer m_clock;
     qint64 m_lastTold = -1;
-    int m_sealed = 0; ///< disks that were read
 };
 
 SetCheck::SetCheck(Job job, DiskAsker &asker, Progress progress)

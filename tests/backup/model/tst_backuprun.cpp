@@ -214,7 +214,7 @@ private slots:
 
     void asksWhatToDo_data()
     {
-        rows<Kind>({{"the disk is gone", Kind::DiskGone},
+        rows<Kind>({{"no disk is in yet", Kind::NextDisk},
                     {"a disk of this set is still in", Kind::WrongDisk},
                     {"nothing can be written", Kind::WriteProtected},
                     {"there is no room at all", Kind::NoRoom}});

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "backup/model/sealedkey.h"
 #include "backup/model/setcheck.h"
 #include "tests/backup/model/backuphousehold.h"
 #include "tests/support/rows.h"
@@ -73,6 +74,29 @@ private slots:
         QCOMPARE(DiskRecords::readSet(house.setFolder(1)), noted);
     }
 
+    void namesASealedFilePlainly_data()
+    {
+        rows<qint64, QString>({{"of one disk", 0, u"Quillery.sealed"_s},
+                               {"of several", 60'000, u"Quillery.sealed on disk 1"_s}});
+    }
+    void namesASealedFilePlainly()
+    {
+        const auto [room, name] = row<qint64, QString>();
+        const BackupHousehold house;
+        house.put(u"Addbk1.Fil"_s, noiseOf(50'000));
+        BackupJob job = house.job(room);
+        KeyDerivation derived = KeyDerivation::fresh(SecretBytes::ofText(u"elm"_s), PasswordCost::minimum());
+        QVERIFY(derived.run());
+        job.seal = std::make_shared<SealedKey>(SealedKey::fresh(derived));
+        ScriptedAsker asker({nextDisks(house)});
+        const int disks = BackupRun(job, asker, {}).run().set.disks;
+        QVERIFY(disks > (room > 0 ? 1 : 0));
+        const QString path = house.setFolder(1) + u"/Quillery.sealed"_s;
+        QVERIFY(makeFile(path, contentOf(path) + "x"));
+        const CheckReport report = SetCheck(checkOf(house, disks), asker, {}).run();
+        QCOMPARE(report.damaged, QStringList{name});
+    }
+
     void isMendedByTheNextBackup()
     {
         const BackupHousehold house;
@@ -110,7 +134,7 @@ private slots:
         QCOMPARE(wrong.asked.size(), last - 1 + 2);
         QVERIFY(wrong.asked[0].kind == Kind::NextDisk && wrong.asked[0].disk == 1);
         QVERIFY(wrong.asked[1].kind == Kind::WrongDisk && wrong.asked[1].foundNumber == 2);
-        QVERIFY(wrong.asked[2].kind == Kind::DiskGone);
+        QVERIFY(wrong.asked[2].kind == Kind::NextDisk);
         ScriptedAsker stop;
         QVERIFY(SetCheck(checkOf(house, last), stop, {}).run().end == CheckReport::End::Stopped);
     }
