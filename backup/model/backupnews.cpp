@@ -77,6 +77,11 @@ QString BackupNews::line(QDate today) const
 LiveLine BackupNews::liveLine(QDate today) const
 {
     LiveLine news{line(today), LiveLine::Plain, {}};
+    if (state == State::Unfinished)
+        news.shorter = {u"Last backup is not finished"_s, u"Backup not finished"_s};
+    else if (state == State::Part)
+        news.shorter = {BackupLines::files(missing) + u" not in the last backup"_s,
+                        BackupLines::files(missing) + u" not backed up"_s};
     if (!isDue(today))
         return news;
     news.urgency = state == State::None ? LiveLine::Due : LiveLine::Overdue;

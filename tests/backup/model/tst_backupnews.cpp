@@ -89,6 +89,7 @@ private slots:
         const BackupNews news = BackupNews::of(folder.folder(), settings);
         const LiveLine told = news.liveLine({2026, 11, 21});
         QCOMPARE(told.text, line);
+        QCOMPARE(told.shorter.isEmpty(), state != 1);
         QCOMPARE(told.urgency, urgency);
         QCOMPARE(told.sentence, sentence);
     }
