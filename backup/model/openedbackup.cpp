@@ -14,10 +14,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The key of a sealed set; null where that was not its password.
-std::shared_ptr<const SealedKey> openedKey(const QString &folder, const QString &password)
+bool isKeyDamaged(const QByteArray &record)
 {
-    const QByteArray record = SealedSource::keyRecord(folder);
+    return !SealedKey::opening(record, SecretBytes::ofText(u"any"_s));
+}
+
+/// The key of a sealed set; null where that was not its password.
+std::shared_ptr<const SealedKey> openedKey(const QByteArray &record, const QString &password)
+{
     std::optional<KeyDerivation> derivation = SealedKey::opening(record, SecretBytes::ofText(password));
     if (!derivation || !derivation->run())
         return {};
@@ -33,9 +37,12 @@ OpenedBackup OpenedBackup::ofSet(const BackupSet &place, const QString &password
     opened.place = place;
     std::optional<SetRecord> record = DiskRecords::readSet(place.folder);
     if (record && place.isSealed()) {
-        const auto key = openedKey(place.folder, password);
+        const QByteArray keyRecord = SealedSource::keyRecord(place.folder);
+        const auto key = openedKey(keyRecord, password);
         if (!key) {
-            opened.refusal = u"That is not the password of this backup."_s;
+            opened.refusal = isKeyDamaged(keyRecord)
+                                 ? u"What is in this backup cannot be read: its key is damaged."_s
+                                 : u"That is not the password of this backup."_s;
             return opened;
         }
         auto source = std::make_shared<SealedSource>(key, record->set, record->begun, goOn);
@@ -49,6 +56,12 @@ OpenedBackup OpenedBackup::ofSet(const BackupSet &place, const QString &password
     else
         opened.refusal = u"What is in this backup cannot be read: its last disk is damaged."_s;
     return opened;
+}
+
+bool OpenedBackup::isPassword(const QString &folder, const QString &password)
+{
+    const QByteArray record = SealedSource::keyRecord(folder);
+    return isKeyDamaged(record) || openedKey(record, password);
 }
 
 OpenedBackup OpenedBackup::ofSnapshot(const Snapshot &snapshot, const std::atomic_bool &isStopped)

@@ -23,6 +23,9 @@ struct OpenedBackup {
     /// in a refusal that means nothing.
     using GoOn = std::function<bool(qint64 bytes)>;
 
+    /// Whether the password opens the sealed set in `folder`. True also where its key is damaged, so that no
+    /// other one does: `ofSet` says so then.
+    static bool isPassword(const QString &folder, const QString &password);
     /// A set whose last disk is there; a password is that of a sealed one. `goOn` is kept for when the other
     /// disks are read.
     static OpenedBackup ofSet(const BackupSet &place, const QString &password, const GoOn &goOn);

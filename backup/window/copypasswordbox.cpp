@@ -5,6 +5,7 @@
 #include "shell/access/passwordmessages.h"
 #include "shell/controls/busycursor.h"
 #include "shell/controls/controls.h"
+#include "shell/core/threadedstep.h"
 #include "shell/look/theme.h"
 #include "shell/program/program.h"
 
@@ -14,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <chrono>
+#include <memory>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -27,10 +29,11 @@ constexpr int buttonWidth = 104;
 } // namespace
 
 CopyPasswordBox::CopyPasswordBox(Program &program, const QString &heading, const QString &words, Check check,
-                                 QWidget *parent)
+                                 QWidget *parent, Pace pace)
     : QDialog(parent)
     , m_program(program)
     , m_check(std::move(check))
+    , m_slow(pace == Pace::Slow ? new ThreadedStep(this) : nullptr)
     , m_wrong(program.folder, PasswordCost::interactive(), &program.gate.memory())
     , m_attempts(program.gate.memory().attempts, waitingStep)
     , m_password(named(new QLineEdit(this), u"copyPassword"_s))
@@ -52,7 +55,7 @@ CopyPasswordBox::CopyPasswordBox(Program &program, const QString &heading, const
     connect(&m_attempts, &Attempts::spent, this, &CopyPasswordBox::reject);
     setFixedWidth(TypeScale::wide(dialogWidth));
     m_password->setFocus();
-    if (m_check)
+    if (m_check && !m_slow)
         m_attempts.resume(m_wrong.wrongAnswers(), program.clock.now());
 }
 
@@ -88,10 +91,14 @@ QString CopyPasswordBox::password() const
 
 void CopyPasswordBox::accept()
 {
-    if (m_attempts.isWaiting())
+    if (m_attempts.isWaiting() || (m_slow && m_slow->isRunning()))
         return;
     if (m_password->text().isEmpty()) {
         m_refusal->setText(u"Type the password first."_s);
+        return;
+    }
+    if (m_slow) {
+        checkSlowly();
         return;
     }
     const bool isRight = !m_check || [this] {
@@ -109,6 +116,26 @@ void CopyPasswordBox::accept()
         m_wrong.takeWrongAnswers();
     }
     QDialog::accept();
+}
+
+void CopyPasswordBox::checkSlowly()
+{
+    const QString words = u"Checking the password..."_s;
+    setUnavailable(m_password, words);
+    setUnavailable(m_ok, words);
+    m_refusal->setText(words);
+    auto isRight = std::make_shared<bool>(false);
+    m_slow->start([isRight, check = m_check, typed = m_password->text()] { *isRight = check(typed); },
+                  [this, isRight] { showChecked(*isRight); });
+}
+
+void CopyPasswordBox::showChecked(bool isRight)
+{
+    m_isWrong = !isRight;
+    endWait();
+    m_password->selectAll();
+    if (isRight)
+        QDialog::accept();
 }
 
 void CopyPasswordBox::showWait(int seconds)

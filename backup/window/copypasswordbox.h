@@ -11,30 +11,37 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class ThreadedStep;
 struct Program;
 
-/// Asks for a password that belongs to a backup, and not to what is here: accepted with the right one alone,
-/// rejected after three wrong ones, each of which waits longer than the one before.
+/// Asks for a password that belongs to a backup, and not to what is here: accepted with the right one alone.
+/// Where the check is quick, a wrong one waits, each longer than the one before, and the third is the last.
 class CopyPasswordBox final : public QDialog
 {
     Q_OBJECT
 public:
     using Check = std::function<bool(const QString &password)>;
+    enum class Pace {
+        Braked, ///< wrong answers wait, and are counted
+        Slow    ///< the check is brake enough: it takes a second, on a thread of its own
+    };
 
-    /// Without a `check` it is for the caller to find out whether the password is right.
     CopyPasswordBox(Program &program, const QString &heading, const QString &words, Check check,
-                    QWidget *parent);
+                    QWidget *parent, Pace pace = Pace::Braked);
 
     QString password() const;
     void accept() override;
 
 private:
     void layOut(const QString &heading, const QString &words);
+    void checkSlowly();
+    void showChecked(bool isRight);
     void showWait(int seconds);
     void endWait();
 
     Program &m_program;
     Check m_check;
+    ThreadedStep *m_slow;  ///< null where wrong answers wait
     PasswordCheck m_wrong; ///< where wrong answers are counted, whichever prompt they are given to
     Attempts m_attempts;
     QLineEdit *m_password;

@@ -126,8 +126,10 @@ void RestoreDeeds::start()
     }
     QString password;
     if (set->isSealed()) {
-        CopyPasswordBox box(m_desk.program, u"This backup is sealed"_s,
-                            u"Type the password that it was sealed with."_s, {}, &m_desk.window);
+        CopyPasswordBox box(
+            m_desk.program, u"This backup is sealed"_s, u"Type the password that it was sealed with."_s,
+            [folder = set->folder](const QString &typed) { return OpenedBackup::isPassword(folder, typed); },
+            &m_desk.window, CopyPasswordBox::Pace::Slow);
         if (m_desk.program.dialogs.run(box) != QDialog::Accepted)
             return;
         password = box.password();
