@@ -16,6 +16,7 @@ KeptAs keptAs(HouseholdSources::Copy copy)
     case HouseholdSources::Copy::Sealed:
         return KeptAs::Sealed;
     case HouseholdSources::Copy::Readable:
+    case HouseholdSources::Copy::Verifier:
         break;
     }
     return KeptAs::Readable;

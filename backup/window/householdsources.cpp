@@ -100,7 +100,7 @@ HouseholdSources::Copy HouseholdSources::copyOf(const Program &program, const QS
 {
     const std::optional<Function> known = function(key);
     if (!known)
-        return Copy::Readable;
+        return key == Holdings::password ? Copy::Verifier : Copy::Readable;
     const FunctionEntry *entry = program.functions.entry(*known);
     if (*known == Function::PasswordKeeper || (entry && entry->isSealed && entry->isSealed(program)))
         return Copy::Sealed;
@@ -116,6 +116,8 @@ QString HouseholdSources::words(Copy copy)
         return u"Guarded by this program only"_s;
     case Copy::Sealed:
         return u"Sealed"_s;
+    case Copy::Verifier:
+        return u"The password is not in it"_s;
     }
     Q_UNREACHABLE();
 }

@@ -32,11 +32,12 @@ QByteArray desk(const Program &program);
 enum class Copy {
     Readable,
     Guarded, ///< by this program alone
-    Sealed   ///< with a password of its own
+    Sealed,  ///< with a password of its own
+    Verifier ///< of the password: it tells a right one, and holds none
 };
 Copy copyOf(const Program &program, const QString &key);
 
-/// "Anybody can read it", "Guarded by this program only", "Sealed".
+/// "Anybody can read it", "Guarded by this program only", "Sealed", "The password is not in it".
 QString words(Copy copy);
 
 /// Whether what is known of the function may be shown: it is not guarded, or its password was given.

@@ -2,6 +2,7 @@
 #include "backup/window/placespane.h"
 
 #include "backup/model/backuplines.h"
+#include "backup/window/keptselection.h"
 #include "shell/controls/controls.h"
 #include "shell/controls/listrowdelegate.h"
 #include "shell/controls/twolinedelegate.h"
@@ -9,6 +10,7 @@
 
 #include <QDir>
 #include <QListView>
+#include <QSettings>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -22,6 +24,8 @@ namespace {
 
 constexpr int lookMilliseconds = 3000;
 constexpr int leastWidth = 180;
+constexpr auto foldersKey = "Windows/Backup1/folders"_L1;
+constexpr qsizetype mostFolders = 8;
 
 QString words(const BackupPlaceRow &row, QDate today)
 {
@@ -106,15 +110,18 @@ QVariant PlacesModel::data(const QModelIndex &index, int role) const
     }
 }
 
-PlacesPane::PlacesPane(std::function<QDate()> today, std::function<QList<Drive>()> drives, QWidget *parent)
+PlacesPane::PlacesPane(std::function<QDate()> today, std::function<QList<Drive>()> drives, QSettings &store,
+                       QWidget *parent)
     : QWidget(parent)
     , m_today(std::move(today))
     , m_drives(std::move(drives))
+    , m_store(store)
     , m_model(new PlacesModel(this))
     , m_view(named(new QListView(this), u"places"_s))
     , m_rows(new QVBoxLayout(this))
     , m_step(new ThreadedStep(this))
     , m_timer(new QTimer(this))
+    , m_others(store.value(foldersKey).toStringList().mid(0, mostFolders))
 {
     m_view->setModel(m_model);
     setListRows(m_view);
@@ -132,6 +139,7 @@ PlacesPane::PlacesPane(std::function<QDate()> today, std::function<QList<Drive>(
     setFocusProxy(m_view);
     m_timer->setInterval(lookMilliseconds);
     connect(m_timer, &QTimer::timeout, this, &PlacesPane::look);
+    keepSelection(m_view);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &current) {
                 if (!current.isValid())
@@ -152,8 +160,10 @@ std::optional<BackupPlaceRow> PlacesPane::chosen() const
 void PlacesPane::addFolder(const QString &folder)
 {
     const QString path = QDir::cleanPath(folder);
-    if (!m_others.contains(path))
-        m_others.append(path);
+    m_others.removeAll(path);
+    m_others.append(path);
+    m_others = m_others.last(std::min(m_others.size(), mostFolders));
+    m_store.setValue(foldersKey, m_others);
     m_chosen = path;
     look();
 }

@@ -14,6 +14,7 @@
 
 class QListView;
 class QPushButton;
+class QSettings;
 class QTimer;
 class QVBoxLayout;
 class ThreadedStep;
@@ -54,8 +55,10 @@ class PlacesPane final : public QWidget
 {
     Q_OBJECT
 public:
-    /// `drives` is asked for those that are plugged in, on another thread.
-    PlacesPane(std::function<QDate()> today, std::function<QList<Drive>()> drives, QWidget *parent = nullptr);
+    /// `drives` is asked for those that are plugged in, on another thread. `store` remembers the folders that
+    /// were added.
+    PlacesPane(std::function<QDate()> today, std::function<QList<Drive>()> drives, QSettings &store,
+               QWidget *parent = nullptr);
     ~PlacesPane() override;
 
     /// The chosen drive or folder; none without one.
@@ -83,12 +86,13 @@ private:
 
     std::function<QDate()> m_today;
     std::function<QList<Drive>()> m_drives;
+    QSettings &m_store;
     PlacesModel *m_model;
     QListView *m_view;
     QVBoxLayout *m_rows;
     ThreadedStep *m_step;
     QTimer *m_timer;
-    QStringList m_others; ///< folders that were chosen
+    QStringList m_others; ///< folders that were chosen, also in former windows
     QString m_chosen;     ///< the folder of the chosen row
     QString m_preferred;
     bool m_isAgain = false; ///< to be looked at once more behind what runs

@@ -162,6 +162,7 @@ void RestorePanel::show(const QString &title, const QList<RestoreItem> &items, c
     const bool hasFile = std::ranges::any_of(items, [](const RestoreItem &item) {
         return item.function == Holdings::password && item.isWritten();
     });
+    m_mayForce = hasFile && !hasPasswordHere;
     m_password->setVisible(hasFile);
     m_password->setChecked(hasFile && !hasPasswordHere && function.isEmpty());
     fillFunctions(function);
@@ -219,7 +220,10 @@ void RestorePanel::follow()
         if (item.function == Holdings::password && m_password->isChecked())
             items.prepend(item);
     }
-    m_words->setText(summary(items));
+    const bool isForced = m_mayForce && !m_password->isChecked();
+    m_words->setText(
+        summary(items) +
+        (isForced ? u"\nThe password comes along all the same if it guards any of it."_s : QString()));
     const auto place = [](const RestoreItem &item) {
         return item.isWritten() ? 0 : item.effect == RestoreEffect::Same ? 2 : 1;
     };

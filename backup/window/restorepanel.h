@@ -51,4 +51,5 @@ private:
     QPushButton *m_now;
     QPushButton *m_folder;
     QList<RestoreItem> m_items;
+    bool m_mayForce = false; ///< the file of the password may come along unasked
 };

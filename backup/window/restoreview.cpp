@@ -3,6 +3,7 @@
 
 #include "backup/model/backuplines.h"
 #include "backup/model/diskrecords.h"
+#include "backup/window/keptselection.h"
 #include "backup/window/placespane.h"
 #include "backup/window/windowlines.h"
 #include "shell/controls/controls.h"
@@ -69,6 +70,7 @@ RestoreView::RestoreView(const BackupDesk &desk, QWidget *parent)
     addContent(new WholeRows(m_view, nullptr, this), 1);
     setFocusProxy(m_view);
     connect(&desk.places, &PlacesPane::chosenChanged, this, &RestoreView::look);
+    keepSelection(m_view);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, &desk.commands,
             &Commands::refresh);
     titleLine().setTitle(u"Backups"_s);

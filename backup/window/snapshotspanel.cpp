@@ -4,6 +4,7 @@
 #include "backup/model/backuplines.h"
 #include "backup/model/messages.h"
 #include "backup/window/householdsnapshot.h"
+#include "backup/window/keptselection.h"
 #include "backup/window/snapshotchoice.h"
 #include "shell/controls/tablework.h"
 #include "shell/core/dates.h"
@@ -92,6 +93,7 @@ SnapshotsPanel::SnapshotsPanel(const BackupDesk &desk, QWidget *parent)
     connect(m_remove, &QPushButton::clicked, this, &SnapshotsPanel::removeChosen);
     connect(folder, &QPushButton::clicked, this, &SnapshotsPanel::chooseFolder);
     connect(m_limit, &QComboBox::activated, this, &SnapshotsPanel::setLimit);
+    keepSelection(m_view);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, &SnapshotsPanel::follow);
 }
 

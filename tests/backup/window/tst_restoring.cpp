@@ -85,7 +85,12 @@ private slots:
     {
         m_test->store.setValue(u"Windows/Backup1/geometry"_s, 7);
         const TestSet set({{u"Desk.conf"_s, HouseholdSources::desk(m_test->program)}});
-        openOn(set);
+        openSide();
+        choose(set.drive(1));
+        QTRY_VERIFY(isOffered("restoreStart"));
+        m_test->store.remove(u"Windows/Backup1/folders"_s); // one more since the backup
+        click("restoreStart");
+        QTRY_VERIFY(isSeen("restorePanel"));
         QVERIFY(labelText("restoreSummary").startsWith(u"1 the same"_s));
     }
 
@@ -154,6 +159,8 @@ private slots:
             m_test->dialogs.willChooseFile(other.path());
         if (!isHere)
             m_test->dialogs.willRun([typed = typed](QDialog &dialog) { return answer(dialog, typed); });
+        QCOMPARE(labelText("restoreSummary").endsWith(u"comes along all the same if it guards any of it."_s),
+                 !isHere);
         click(isFolder ? "restoreFolder" : "restoreNow");
         QTRY_VERIFY(m_test->dialogs.isDone());
         QTRY_VERIFY(!isSeen("runPanel"));
