@@ -121,8 +121,7 @@ void CopyPasswordBox::accept()
 void CopyPasswordBox::checkSlowly()
 {
     const QString words = u"Checking the password..."_s;
-    setUnavailable(m_password, words);
-    setUnavailable(m_ok, words);
+    setWaiting(words);
     m_refusal->setText(words);
     auto isRight = std::make_shared<bool>(false);
     m_slow->start([isRight, check = m_check, typed = m_password->text()] { *isRight = check(typed); },
@@ -138,14 +137,19 @@ void CopyPasswordBox::showChecked(bool isRight)
         QDialog::accept();
 }
 
+/// What is typed on meanwhile works nothing: the focus does not move to "Cancel" by itself.
+void CopyPasswordBox::setWaiting(const QString &why)
+{
+    if (!m_cancel->hasFocus())
+        setFocus();
+    setUnavailable(m_password, why);
+    setUnavailable(m_ok, why);
+}
+
 void CopyPasswordBox::showWait(int seconds)
 {
     const QString wait = PasswordMessages::tryAgainIn(seconds);
-    // What is typed on meanwhile works nothing: the focus does not move to "Cancel" by itself.
-    if (!m_cancel->hasFocus())
-        setFocus();
-    setUnavailable(m_password, wait);
-    setUnavailable(m_ok, wait);
+    setWaiting(wait);
     m_refusal->setText(m_isWrong ? PasswordMessages::wrongPassword() + u' ' + wait : wait);
 }
 

@@ -36,6 +36,7 @@ private:
     void layOut(const QString &heading, const QString &words);
     void checkSlowly();
     void showChecked(bool isRight);
+    void setWaiting(const QString &why);
     void showWait(int seconds);
     void endWait();
 
