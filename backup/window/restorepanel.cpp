@@ -34,7 +34,7 @@ QString effectWords(const RestoreItem &item)
     case RestoreEffect::ByNewer:
         return u"Replaced by a newer one"_s;
     case RestoreEffect::Beside:
-        return u"Beside the one here"_s;
+        return u"Into Pictures, beside the one here"_s;
     case RestoreEffect::Same:
         return u"The same here"_s;
     case RestoreEffect::OnlyHere:
