@@ -33,8 +33,9 @@ public:
     {}
     ~SmallDisk()
     {
+        // At once, also where another program just asks all disks for their room.
         if (m_isMounted)
-            execute(u"umount"_s, {m_folder});
+            execute(u"umount"_s, {u"-l"_s, m_folder});
     }
     Q_DISABLE_COPY_MOVE(SmallDisk)
 
@@ -115,7 +116,7 @@ private slots:
         int gone = 0;
         bool isEmpty = true;
         ScriptedAsker asker({[&](const DiskQuestion &question) {
-            if (question.kind != Kind::DiskGone) {
+            if (disk) {
                 disk.reset();
             } else {
                 isEmpty = isEmpty && QDir(place).isEmpty();
