@@ -2,6 +2,7 @@
 #include "backup/model/restorework.h"
 
 #include "backup/model/diskrecords.h"
+#include "backup/model/diskturns.h"
 #include "backup/model/restorelines.h"
 #include "backup/model/restoreplaces.h"
 #include "backup/model/setfolder.h"
@@ -14,9 +15,6 @@
 #include <utility>
 
 namespace {
-
-using Kind = DiskQuestion::Kind;
-using Reading = RestoreSource::Reading;
 
 constexpr qint64 millisecondsBetween = 100;
 
@@ -96,56 +94,26 @@ bool RestoreWork::begin()
 
 bool RestoreWork::readDisks()
 {
+    DiskTurns turns(m_source, m_asker, m_order.set.disks, m_order.drive, m_isStopped);
     const QList<int> disks = RestorePlan::disks(m_order.items);
-    return std::ranges::all_of(disks, [this](int number) { return readDisk(number); });
+    return std::ranges::all_of(disks, [&](int number) { return readDisk(number, turns); });
 }
 
-/// The drive of the disk before is tried first: a disk in its place has been changed perhaps, or all of them
-/// are folders of one drive.
-bool RestoreWork::readDisk(int number)
+bool RestoreWork::readDisk(int number, DiskTurns &turns)
 {
     m_progress.disk = number;
     m_hasBegun = false;
-    bool isAsked = false;
-    DiskQuestion question{.disk = number, .disks = m_order.set.disks};
-    for (;;) {
-        if (isAsked || m_order.drive.isEmpty()) {
-            const DiskAnswer answer = m_asker.ask(question);
-            if (answer.action == DiskAnswer::Action::Stop || m_isStopped)
-                return stopped();
-            if (answer.action == DiskAnswer::Action::UseFolder)
-                m_order.drive = answer.folder;
-            isAsked = true;
-        }
-        const Reading reading = m_source.read(m_order.drive, number, *this);
+    const auto attempt = [this, number](const QString &root) -> std::optional<DiskTurns::Attempt> {
+        const RestoreSource::Reading reading = m_source.read(root, number, *this);
         rewind();
-        if (m_isStopped)
-            return stopped();
-        if (m_hasFailed)
-            return refused(RestoreLines::folderNotWritten(m_order.aim.folder.path()));
-        if (reading == Reading::Done)
-            return true;
-        question = questionAfter(reading, number, m_order.drive, isAsked);
-        isAsked = true;
-    }
-}
-
-DiskQuestion RestoreWork::questionAfter(Reading reading, int number, const QString &root, bool isAsked) const
-{
-    DiskQuestion question{.disk = number, .disks = m_order.set.disks, .folder = root};
-    if (reading == Reading::Damaged) {
-        question.kind = Kind::NotRead;
-        question.file = DiskRecord::fileName;
-    } else if (m_hasBegun) {
-        question.kind = Kind::DiskGone;
-    } else if (isAsked && QFileInfo(root).isDir()) {
-        question.kind = Kind::WrongDisk;
-        if (const std::optional<DiskRecord> found = m_source.diskAt(root)) {
-            question.foundSet = found->begun;
-            question.foundNumber = found->number;
-        }
-    }
-    return question;
+        if (m_isStopped || m_hasFailed)
+            return std::nullopt;
+        return DiskTurns::Attempt{reading, m_hasBegun};
+    };
+    if (turns.read(number, attempt))
+        return true;
+    return m_hasFailed && !m_isStopped ? refused(RestoreLines::folderNotWritten(m_order.aim.folder.path()))
+                                       : stopped();
 }
 
 bool RestoreWork::wants(const BackupPart &part)

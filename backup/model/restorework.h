@@ -13,6 +13,8 @@
 #include <optional>
 #include <vector>
 
+class DiskTurns;
+
 /// The work of a restore, from the first disk to the changeset.
 class RestoreWork final : private RestoreSource::Visitor
 {
@@ -43,7 +45,7 @@ private:
     // Each answers whether to go on; where not, `m_result` says why.
     bool begin();
     bool readDisks();
-    bool readDisk(int number);
+    bool readDisk(int number, DiskTurns &turns);
     bool check();
     bool askForDamaged();
     bool placeOutside();
@@ -51,8 +53,6 @@ private:
     bool stopped();
     bool refused(const QString &sentence);
 
-    DiskQuestion questionAfter(RestoreSource::Reading reading, int number, const QString &root,
-                               bool isAsked) const;
     void rewind();
     QString placeInside(const RestoreItem &item) const;
     void takeBack();
