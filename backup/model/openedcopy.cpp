@@ -1,65 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "backup/model/openedcopy.h"
 
-#include "backup/model/filehash.h"
+#include "backup/model/diskrecords.h"
+#include "backup/model/recordfiles.h"
 #include "backup/model/setsource.h"
 #include "backup/model/snapshotreader.h"
+#include "shell/core/settingskeys.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QStringList>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Writes the files of the household's folder, which are no pictures, into another folder.
-class RecordFiles final : public RestoreSource::Visitor
+constexpr QLatin1StringView passwordFile(SettingsKeys::passwordFile.name);
+
+/// Without the file of the password nothing would be guarded, with a damaged one everything is.
+void leaveDamaged(const QString &path)
 {
-public:
-    RecordFiles(QString into, const std::atomic_bool &isStopped)
-        : m_into(std::move(into))
-        , m_isStopped(isStopped)
-    {}
-
-    bool wants(const BackupPart &part) override
-    {
-        const bool isWhole = part.offset == 0 && part.bytes == part.size;
-        if (m_isStopped || part.name.contains(u'/') || QFileInfo(part.name).fileName() != part.name ||
-            !isWhole)
-            return false;
-        m_part = part;
-        m_file.setFileName(m_into + u'/' + part.name);
-        m_isWritten = m_file.open(QIODevice::WriteOnly);
-        return true;
-    }
-    bool take(QByteArrayView bytes) override
-    {
-        m_hash.add(bytes);
-        m_isWritten = m_isWritten && m_file.write(bytes.data(), bytes.size()) == bytes.size();
-        return !m_isStopped;
-    }
-    bool end(bool isWhole) override
-    {
-        m_file.close();
-        if (m_hash.result() != m_part.hash || !isWhole || !m_isWritten) {
-            m_file.remove();
-            m_damaged.append(m_part.name);
-        }
-        return !m_isStopped;
-    }
-
-    const QStringList &damaged() const { return m_damaged; }
-
-private:
-    QString m_into;
-    const std::atomic_bool &m_isStopped;
-    BackupPart m_part;
-    QFile m_file;
-    FileHash m_hash;
-    bool m_isWritten = false;
-    QStringList m_damaged;
-};
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write("damaged");
+}
 
 } // namespace
 
@@ -73,11 +36,12 @@ OpenedCopy OpenedCopy::ofSnapshot(const QString &path, const QString &into, cons
     };
     if (!reader.unpack(into, note, isStopped) && reader.state() != SnapshotReader::State::Damaged)
         opened.functions.clear();
+    opened.isOpen = !opened.functions.isEmpty();
     opened.refusal = reader.refusal();
     return opened;
 }
 
-bool OpenedCopy::isPossible(const BackupSet &set)
+bool OpenedCopy::isAtOnce(const BackupSet &set)
 {
     return set.isComplete() && !set.isSealed() && set.record->disks == 1;
 }
@@ -85,17 +49,31 @@ bool OpenedCopy::isPossible(const BackupSet &set)
 OpenedCopy OpenedCopy::ofSet(const BackupSet &set, const QString &into, const std::atomic_bool &isStopped)
 {
     OpenedCopy opened;
-    if (!isPossible(set))
-        return opened;
-    RecordFiles files(into, isStopped);
-    SetSource source(set.disk.set, set.begun());
-    if (source.read(set.drive, 1, files) != RestoreSource::Reading::Done) {
-        opened.refusal = u"The backup is not there any more, or cannot be read"_s;
-        return opened;
+    const std::optional<SetRecord> record = DiskRecords::readSet(set.folder);
+    if (record && isAtOnce(set)) {
+        RecordFiles files(*record, isStopped);
+        files.setFolder(into);
+        files.beginDisk(1);
+        SetSource source(set.disk.set, set.begun());
+        if (source.read(set.drive, 1, files) == RestoreSource::Reading::Done || files.isDiskDone())
+            return ofFiles(*record, files, into);
     }
-    for (const BackupCount &count : set.record->counts)
+    opened.refusal = u"The backup is not there any more, or cannot be read"_s;
+    return opened;
+}
+
+OpenedCopy OpenedCopy::ofFiles(const SetRecord &set, RecordFiles &files, const QString &into)
+{
+    OpenedCopy opened;
+    opened.isOpen = true;
+    for (const BackupCount &count : set.counts)
         opened.functions.insert(count.function);
-    if (!files.damaged().isEmpty())
-        opened.refusal = u"Damaged there, and left out: "_s + files.damaged().join(u", "_s);
+    const QStringList damaged = files.finish();
+    for (const QString &name : damaged) {
+        if (name.compare(passwordFile, Qt::CaseInsensitive) == 0)
+            leaveDamaged(into + u'/' + name);
+    }
+    if (!damaged.isEmpty())
+        opened.refusal = u"Damaged there, and left out: "_s + damaged.join(u", "_s);
     return opened;
 }

@@ -7,6 +7,7 @@
 #include "backup/window/backupdeeds.h"
 #include "backup/window/backupview.h"
 #include "backup/window/bringbackview.h"
+#include "backup/window/copydeeds.h"
 #include "backup/window/diskwork.h"
 #include "backup/window/householdsources.h"
 #include "backup/window/placespane.h"
@@ -59,6 +60,7 @@ Backup1::Backup1(Program &program, std::function<QList<Drive>()> drives, QWidget
     , m_deeds(nullptr)
     , m_restoring(nullptr)
     , m_sets(nullptr)
+    , m_opening(nullptr)
 {
     m_views->addHome(m_backup);
     m_views->addView(m_restore);
@@ -69,6 +71,7 @@ Backup1::Backup1(Program &program, std::function<QList<Drive>()> drives, QWidget
     m_restoring = new RestoreDeeds(desk(), *m_restore, *m_run, this);
     m_sets = new SetDeeds(
         desk(), [this] { return chosenSet(); }, *m_run, this);
+    m_opening = new CopyDeeds(desk(), *m_run, *m_bringBack, this);
     setWork(new SideSplitter(u"leftPaneSplitter"_s, m_places, makePanel(u"backupPanel"_s, m_views),
                              [](QSize window) { return window.width() < 1200 ? 212 : 272; }));
     makeCommands();
@@ -85,6 +88,9 @@ Backup1::Backup1(Program &program, std::function<QList<Drive>()> drives, QWidget
             m_work->stop();
     });
     connect(m_bringBack, &BringBackView::said, &activity(), &ActivityBar::say);
+    connect(m_bringBack, &BringBackView::openWanted, m_opening, &CopyDeeds::open);
+    connect(m_opening, &CopyDeeds::opened, m_bringBack, &BringBackView::showOpened);
+    connect(m_opening, &CopyDeeds::said, &activity(), &ActivityBar::say);
     connect(m_bringBack, &BringBackView::edited, this, [this](const UndoStep &step) {
         undoStack().push(step);
         activity().say(step.title);

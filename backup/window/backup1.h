@@ -11,6 +11,7 @@
 class BackupDeeds;
 class BackupView;
 class BringBackView;
+class CopyDeeds;
 class DiskWork;
 class PlacesPane;
 class RestoreDeeds;
@@ -62,6 +63,7 @@ private:
     BackupDeeds *m_deeds;
     RestoreDeeds *m_restoring;
     SetDeeds *m_sets;
+    CopyDeeds *m_opening;
     struct {
         QAction *start, *restore, *folder, *test, *remove;
     } m_commands{};

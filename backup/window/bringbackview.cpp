@@ -21,11 +21,13 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QTableView>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -153,6 +155,11 @@ void BringBackView::addCommands(QMenu *menu)
         menu, u"mBUncover"_s, u"Show What Is &Guarded..."_s, [this] { m_comparison->uncover(); },
         [this] { return m_comparison->whyNotUncovered(); });
     foot().addRight(commands.button(bring, u"bringBackNow"_s, u"Bring Bac&k"_s, &foot(), ButtonKind::Main));
+    QAction *open = commands.add(
+        menu, u"mBOpen"_s, u"O&pen Backup..."_s, [this] { emit openWanted(*chosen()->source.set); },
+        [this] { return isToBeOpened() ? QString() : u"What is chosen here is open"_s; });
+    m_open = commands.button(open, u"openBackup"_s, u"O&pen Backup..."_s, m_empty, ButtonKind::Main);
+    m_empty->addButton(m_open);
     foot().addLeft(commands.button(uncover, u"uncover"_s, u"Show What Is &Guarded..."_s, &foot()));
 }
 
@@ -163,17 +170,45 @@ std::vector<BringBackView::Choice> BringBackView::choices() const
     for (const Snapshot &snapshot :
          Snapshots::in(SnapshotChoice::read(m_desk.program.store, m_desk.program.folder).folder))
         choices.push_back({u"Snapshot of "_s + nameOf(snapshot, style), {.snapshot = snapshot.path}});
+    const auto isThere = [&choices](const QString &title) {
+        return std::ranges::any_of(choices, [&title](const Choice &choice) { return choice.title == title; });
+    };
     const std::optional<BackupPlaceRow> place = m_desk.places.chosen();
-    if (place && place->last && OpenedCopy::isPossible(*place->last)) {
-        const QDateTime begun = place->last->begun().toLocalTime();
-        choices.push_back({u"Backup on "_s + place->drive.name + u", "_s +
-                               Dates::statusText(begun.date(), style) + u", "_s + begun.toString(u"hh:mm"_s),
-                           {.set = place->last}});
-    }
+    if (place && place->last)
+        choices.push_back(choiceOf(*place->last, place->drive.name));
+    if (m_opened && !isThere(m_opened->title)) // its last disk has been taken out
+        choices.push_back(*m_opened);
     return choices;
 }
 
-/// What is looked into stays as long as it is there.
+BringBackView::Choice BringBackView::choiceOf(const BackupSet &set, const QString &place) const
+{
+    const QDateTime begun = set.begun().toLocalTime();
+    return {u"Backup on "_s + place + u", "_s +
+                Dates::statusText(begun.date(), m_desk.program.state.dateStyle) + u", "_s +
+                begun.toString(u"hh:mm"_s),
+            {.set = set}};
+}
+
+bool BringBackView::Choice::isAtOnce() const
+{
+    return !source.set || OpenedCopy::isAtOnce(*source.set);
+}
+
+const BringBackView::Choice *BringBackView::chosen() const
+{
+    const int index = m_choice->currentIndex();
+    return index >= 0 ? &m_choices[std::size_t(index)] : nullptr;
+}
+
+/// Nothing is asked before the user says so: what is chosen may be passed by with the arrow keys.
+bool BringBackView::isToBeOpened() const
+{
+    return chosen() && !chosen()->isAtOnce() && !m_isOpen;
+}
+
+/// What is looked into stays as long as it is there; a backup that asked for something is there while it is
+/// open.
 void BringBackView::lookForCopies()
 {
     std::vector<Choice> choices = this->choices();
@@ -211,20 +246,47 @@ void BringBackView::refresh()
 
 void BringBackView::openChosen()
 {
-    m_isOpen = m_choice->currentIndex() >= 0;
-    m_comparison->open(m_isOpen ? m_choices[std::size_t(m_choice->currentIndex())].source
-                                : Comparison::Source());
+    const Choice *choice = chosen();
+    if (choice && m_opened && m_isOpen && choice->title == m_opened->title)
+        return;
+    m_isOpen = choice && choice->isAtOnce();
+    m_comparison->open(m_isOpen ? choice->source : Comparison::Source());
+    if (std::exchange(m_opened, std::nullopt))
+        lookForCopies();
 }
 
-/// Why the last backup on the drive is not among what can be looked into.
-QString BringBackView::whyNotTheSet() const
+void BringBackView::showOpened(const BackupSet &set, const std::shared_ptr<ComparedCopy> &copy)
+{
+    const auto isIt = [&set](const Choice &choice) { return choice.source.set == set; };
+    const auto listed = std::ranges::find_if(m_choices, isIt);
+    m_opened = listed == m_choices.end() ? choiceOf(set, set.record->drive) : *listed;
+    lookForCopies();
+    m_choice->setCurrentIndex(m_choice->findText(m_opened->title));
+    m_isOpen = true;
+    m_comparison->show(copy);
+}
+
+/// Why a backup on the drive is not among what can be looked into.
+QString BringBackView::whyNoSet() const
 {
     const std::optional<BackupPlaceRow> place = m_desk.places.chosen();
-    if (!place || !place->last || OpenedCopy::isPossible(*place->last))
+    if (!place || place->last || place->disk == 0)
         return {};
-    const QString why = place->last->isSealed() ? u"is sealed"_s : u"lies on several disks"_s;
-    return u"The last backup on %1 %2: it can be restored, into another folder as well, but not compared here"_s
-        .arg(place->drive.name, why);
+    return u"On %1 is disk %2 of a backup: put in its last disk to compare with it"_s.arg(place->drive.name)
+        .arg(place->disk);
+}
+
+/// What opening the chosen set asks for.
+QString BringBackView::howOpened() const
+{
+    const BackupSet &set = *chosen()->source.set;
+    QStringList how;
+    if (set.isSealed())
+        how.append(u"It is sealed: opening it asks for its password"_s);
+    if (set.record->disks > 1)
+        how.append(
+            u"It lies on %1 disks: those that are needed are asked for in turn"_s.arg(set.record->disks));
+    return how.join(u". "_s);
 }
 
 /// Where there is nothing to compare, or nothing differs, that is said in the place of the panes.
@@ -241,6 +303,9 @@ void BringBackView::showWords()
     m_choosing->setVisible(!m_choices.empty());
     m_differences->setVisible(!isNothing);
     m_empty->setVisible(isNothing);
+    if (m_open)
+        m_open->setVisible(isToBeOpened());
+    m_desk.commands.refresh();
 }
 
 /// Why no difference is shown.
@@ -248,6 +313,8 @@ QString BringBackView::sentence() const
 {
     if (m_choices.empty())
         return u"There is no snapshot yet"_s;
+    if (isToBeOpened())
+        return u"This backup has not been opened yet"_s;
     if (!m_comparison->refusal().isEmpty())
         return u"Not all of it could be compared"_s;
     return m_comparison->guarded().isEmpty() ? u"Nothing has changed since"_s
@@ -256,7 +323,7 @@ QString BringBackView::sentence() const
 
 QStringList BringBackView::notes() const
 {
-    QStringList notes{m_comparison->refusal(), whyNotTheSet()};
+    QStringList notes{m_comparison->refusal(), isToBeOpened() ? howOpened() : QString(), whyNoSet()};
     if (m_choices.empty())
         notes.prepend(u"One is made on the first start of each day after something was changed"_s);
     if (!m_comparison->guarded().isEmpty())
@@ -272,7 +339,6 @@ void BringBackView::show()
     if (m_model->rowCount() > 0)
         m_view->setCurrentIndex(m_model->index(0, 0));
     showVersions();
-    m_desk.commands.refresh();
 }
 
 void BringBackView::showVersions()

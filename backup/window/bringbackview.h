@@ -13,6 +13,7 @@ class QAction;
 class QComboBox;
 class QLabel;
 class QMenu;
+class QPushButton;
 class QTableView;
 class QTextBrowser;
 struct UndoStep;
@@ -26,12 +27,16 @@ public:
     explicit BringBackView(const BackupDesk &desk, QWidget *parent = nullptr);
     ~BringBackView() override;
 
-    /// "Bring Back" and "Show What Is Guarded...".
+    /// "Bring Back", "Show What Is Guarded..." and "Open Backup...".
     void addCommands(QMenu *menu);
     /// Looks again at what snapshots and backups there are and, where one is shown, at what differs from it.
     void look();
+    /// Looks into a backup that was opened; it stays so until another one is chosen.
+    void showOpened(const BackupSet &set, const std::shared_ptr<ComparedCopy> &copy);
 
 signals:
+    /// The set is to be opened, which asks for its password or for disks.
+    void openWanted(const BackupSet &set);
     /// Records came back, which can be taken back.
     void edited(const UndoStep &step);
     void said(const QString &line);
@@ -44,9 +49,14 @@ private:
     struct Choice {
         QString title;
         Comparison::Source source;
+
+        bool isAtOnce() const;
     };
 
     std::vector<Choice> choices() const;
+    Choice choiceOf(const BackupSet &set, const QString &place) const;
+    const Choice *chosen() const;
+    bool isToBeOpened() const;
     void lookForCopies();
     QWidget *makeChoice();
     void makeTable();
@@ -54,7 +64,8 @@ private:
     void showWords();
     QString sentence() const;
     QStringList notes() const;
-    QString whyNotTheSet() const;
+    QString whyNoSet() const;
+    QString howOpened() const;
     QString whyNot() const;
     void openChosen();
     void show();
@@ -73,5 +84,7 @@ private:
     EmptyPage *m_empty;
     QTextBrowser *m_there = nullptr;
     QTextBrowser *m_here = nullptr;
-    bool m_isOpen = false; ///< a snapshot is looked into
+    QPushButton *m_open = nullptr;
+    std::optional<Choice> m_opened; ///< a set that asked for something, as long as it is looked into
+    bool m_isOpen = false;          ///< a snapshot or set is looked into
 };

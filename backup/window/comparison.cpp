@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "backup/window/comparison.h"
 
-#include "backup/model/openedcopy.h"
+#include "backup/window/comparedcopy.h"
 #include "backup/window/copypasswordbox.h"
 #include "backup/window/householdsources.h"
 #include "shell/access/gate.h"
@@ -11,34 +11,11 @@
 #include "shell/program/program.h"
 
 #include <QPointer>
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <atomic>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
-
-/// A copy as it lies unpacked.
-struct Comparison::Copy {
-    explicit Copy(Source from)
-        : source(std::move(from))
-    {}
-
-    /// On the thread.
-    void unpack()
-    {
-        opened = source.set ? OpenedCopy::ofSet(*source.set, folder.path(), isStopped)
-                            : OpenedCopy::ofSnapshot(source.snapshot, folder.path(), isStopped);
-        areas = PasswordCheck(DataFolder(folder.path())).areas();
-    }
-
-    Source source;
-    QTemporaryDir folder;
-    OpenedCopy opened;
-    ProtectedAreas areas; ///< that it guards
-    std::atomic_bool isStopped = false;
-};
 
 /// The records of a function in both versions.
 struct Comparison::Pair {
@@ -79,12 +56,28 @@ void Comparison::open(const Source &source)
     emit looked();
     if (source.snapshot.isEmpty() && !source.set)
         return;
-    m_copy = std::make_shared<Copy>(source);
-    m_step->start([copy = m_copy] { copy->unpack(); },
-                  [this, copy = m_copy] {
-                      if (copy == m_copy)
-                          compare();
-                  });
+    m_copy = std::make_shared<ComparedCopy>();
+    const auto unpack = [source, copy = m_copy] {
+        if (!copy->folder.make(PrivateFolder::Content::Open, 0)) {
+            copy->opened.refusal = u"The folder for temporary files takes nothing"_s;
+            return;
+        }
+        const QString into = copy->folder.path();
+        copy->opened = source.set ? OpenedCopy::ofSet(*source.set, into, copy->isStopped)
+                                  : OpenedCopy::ofSnapshot(source.snapshot, into, copy->isStopped);
+        copy->readAreas();
+    };
+    m_step->start(unpack, [this, copy = m_copy] {
+        if (copy == m_copy)
+            compare();
+    });
+}
+
+void Comparison::show(const std::shared_ptr<ComparedCopy> &copy)
+{
+    open({});
+    m_copy = copy;
+    compare();
 }
 
 void Comparison::look()

@@ -16,6 +16,7 @@
 
 class ThreadedStep;
 class QWidget;
+struct ComparedCopy;
 struct Program;
 
 /// A snapshot beside what the household has now, function by function. It is unpacked into a folder of its
@@ -41,7 +42,7 @@ public:
     Comparison(Program &program, QWidget *window);
     ~Comparison() override;
 
-    /// What is looked into: a snapshot or, without a path, a set.
+    /// What is looked into: a snapshot or, without a path, a set that can be read at once.
     struct Source {
         QString snapshot{}; ///< its path
         std::optional<BackupSet> set{};
@@ -49,6 +50,8 @@ public:
 
     /// With an empty source, nothing is looked into.
     void open(const Source &source);
+    /// Looks into a copy that was opened already.
+    void show(const std::shared_ptr<ComparedCopy> &copy);
     /// Compares once more.
     void look();
 
@@ -76,7 +79,6 @@ signals:
     void said(const QString &line);
 
 private:
-    struct Copy;
     struct Pair;
 
     void compare();
@@ -89,7 +91,7 @@ private:
 
     Program &m_program;
     QWidget *m_window;
-    std::shared_ptr<Copy> m_copy;
+    std::shared_ptr<ComparedCopy> m_copy;
     std::shared_ptr<std::vector<Pair>> m_pairs;
     std::vector<Row> m_rows;
     QStringList m_guarded;

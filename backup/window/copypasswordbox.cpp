@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "backup/window/copypasswordbox.h"
 
+#include "backup/model/openedbackup.h"
 #include "shell/access/gate.h"
 #include "shell/access/passwordmessages.h"
 #include "shell/controls/busycursor.h"
@@ -82,6 +83,17 @@ void CopyPasswordBox::layOut(const QString &heading, const QString &words)
         buttons->addWidget(button);
     }
     rows->addLayout(buttons);
+}
+
+std::optional<QString> CopyPasswordBox::ofSet(Program &program, const BackupSet &set, QWidget *parent)
+{
+    if (!set.isSealed())
+        return QString();
+    CopyPasswordBox box(
+        program, u"This backup is sealed"_s, u"Type the password that it was sealed with."_s,
+        [folder = set.folder](const QString &typed) { return OpenedBackup::isPassword(folder, typed); },
+        parent, Pace::Slow);
+    return program.dialogs.run(box) == QDialog::Accepted ? std::optional(box.password()) : std::nullopt;
 }
 
 QString CopyPasswordBox::password() const

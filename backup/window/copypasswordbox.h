@@ -7,11 +7,13 @@
 #include <QDialog>
 
 #include <functional>
+#include <optional>
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class ThreadedStep;
+struct BackupSet;
 struct Program;
 
 /// Asks for a password that belongs to a backup, and not to what is here: accepted with the right one alone.
@@ -28,6 +30,10 @@ public:
 
     CopyPasswordBox(Program &program, const QString &heading, const QString &words, Check check,
                     QWidget *parent, Pace pace = Pace::Braked);
+
+    /// Asks for the password of a set that is sealed: nothing where it is not given, an empty one of a set
+    /// that lies open.
+    static std::optional<QString> ofSet(Program &program, const BackupSet &set, QWidget *parent);
 
     QString password() const;
     void accept() override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "backup/window/dailysnapshot.h"
 
+#include "backup/model/privatefolder.h"
 #include "backup/window/householdsnapshot.h"
 #include "shell/program/program.h"
 #include "storage/log.h"
@@ -17,6 +18,7 @@ DailySnapshot::~DailySnapshot()
 
 void DailySnapshot::begin()
 {
+    m_step.start(&PrivateFolder::removeLeft, [] {}); // what a killed program left lies open there
     if (m_program.folder.isReadOnly())
         return;
     SnapshotJob job = HouseholdSnapshot::job(m_program);

@@ -124,17 +124,8 @@ void RestoreDeeds::start()
         tell(RestoreMessages::notice(u"The backup is no longer there."_s));
         return;
     }
-    QString password;
-    if (set->isSealed()) {
-        CopyPasswordBox box(
-            m_desk.program, u"This backup is sealed"_s, u"Type the password that it was sealed with."_s,
-            [folder = set->folder](const QString &typed) { return OpenedBackup::isPassword(folder, typed); },
-            &m_desk.window, CopyPasswordBox::Pace::Slow);
-        if (m_desk.program.dialogs.run(box) != QDialog::Accepted)
-            return;
-        password = box.password();
-    }
-    lookInto(*set, password);
+    if (const auto password = CopyPasswordBox::ofSet(m_desk.program, *set, &m_desk.window))
+        lookInto(*set, *password);
 }
 
 /// A sealed one is read through to its end before anything of it is known, which may take minutes.

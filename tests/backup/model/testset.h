@@ -33,6 +33,7 @@ public:
         m_record.begun = QDateTime({2026, 11, 3}, {19, 30}, Qt::UTC);
         m_record.ended = m_record.begun.addSecs(60);
         m_record.drive = u"SILVER"_s;
+        m_record.counts = {{u"AddressBook"_s, 2}};
         for (const TestFile &file : files)
             add(file);
         finishDisk();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "backup/model/openedcopy.h"
+#include "backup/model/copyopening.h"
+#include "backup/model/sealedkey.h"
 #include "tests/backup/model/backuphousehold.h"
 #include "tests/support/rows.h"
 
@@ -38,7 +39,7 @@ private slots:
         }
         const QTemporaryDir into;
         const std::optional<BackupSet> set = SetList::last(house.disk(1));
-        QVERIFY(set && OpenedCopy::isPossible(*set));
+        QVERIFY(set && OpenedCopy::isAtOnce(*set));
         const OpenedCopy opened = OpenedCopy::ofSet(*set, into.path(), false);
         QCOMPARE(opened.refusal, refusal);
         QCOMPARE(opened.functions, QSet<QString>{u"AddressBook"_s});
@@ -50,17 +51,82 @@ private slots:
         QVERIFY(!OpenedCopy::ofSet(*set, into.path(), false).refusal.isEmpty());
     }
 
-    void opensNoSetOfManyDisksAndNoSealedOne()
+    void opensDiskByDisk_data()
+    {
+        // Of how many disks, its password, the one that is typed, which disks are put in when one is asked
+        // for, whether the user stops at once, whether it opens, and what else is said.
+        rows<int, QString, QString, QList<int>, bool, bool, QString>({
+            {"sealed, one disk", 1, u"p"_s, u"p"_s, {}, false, true, {}},
+            {"open, three disks", 3, {}, {}, {1, 2}, false, true, {}},
+            {"sealed, two disks", 2, u"p"_s, u"p"_s, {1}, false, true, {}},
+            {"a wrong disk first", 3, {}, {}, {3, 1, 2}, false, true, {}},
+            {"a wrong password",
+             1,
+             u"p"_s,
+             u"q"_s,
+             {},
+             false,
+             false,
+             u"That is not the password of this backup."_s},
+            {"no disk", 3, {}, {}, {}, false, false, {}},
+            {"stopped", 1, u"p"_s, u"p"_s, {}, true, false, {}},
+        });
+    }
+    void opensDiskByDisk()
+    {
+        const auto [disks, seal, typed, given, stops, isOpen, refusal] =
+            row<int, QString, QString, QList<int>, bool, bool, QString>();
+        const BackupHousehold house;
+        house.put(u"Addbk1.Fil"_s, noiseOf(160'000)); // of several disks none has all of it
+        house.putElsewhere(u"a.jpg"_s, noiseOf(90));
+        BackupJob job = house.job(disks == 1 ? 0 : (disks == 2 ? 130'000 : 75'000));
+        if (!seal.isEmpty()) {
+            KeyDerivation derived = KeyDerivation::fresh(SecretBytes::ofText(seal), PasswordCost::minimum());
+            QVERIFY(derived.run());
+            job.seal = std::make_shared<SealedKey>(SealedKey::fresh(derived));
+        }
+        ScriptedAsker writer({ScriptedAsker::use(house.disk(2)), ScriptedAsker::use(house.disk(3))});
+        QCOMPARE(BackupRun(job, writer, {}).run().end, BackupReport::End::Complete);
+        const std::optional<BackupSet> set = SetList::last(house.disk(disks));
+        QVERIFY(set && set->record->disks == disks);
+
+        std::deque<ScriptedAsker::Answer> answers;
+        for (const int disk : given)
+            answers.push_back(ScriptedAsker::use(house.disk(disk)));
+        answers.push_back(&ScriptedAsker::stop);
+        ScriptedAsker asker(answers);
+        CopyOpening opening(*set, typed, asker);
+        if (stops)
+            opening.stop();
+        QString path;
+        {
+            PrivateFolder into;
+            const OpenedCopy opened = opening.run(into);
+            QCOMPARE(opened.isOpen, isOpen);
+            QCOMPARE(opened.refusal, refusal);
+            path = into.path();
+            if (isOpen) {
+                QCOMPARE(QDir(path).entryList(QDir::Files), (QStringList{u"Addbk1.Fil"_s, u"Desk.conf"_s}));
+                QCOMPARE(contentOf(path + u"/Addbk1.Fil"_s), noiseOf(160'000));
+                QCOMPARE(int(asker.asked.size()), int(given.size()));
+            }
+            PrivateFolder::removeLeft(); // it is not left: somebody works with it
+            QVERIFY(path.isEmpty() || QDir(path).exists());
+        }
+        QVERIFY(path.isEmpty() || !QDir(path).exists());
+    }
+
+    void openedAtOnceIsWhatLiesOpenOnOneDisk()
     {
         BackupSet set;
-        QVERIFY(!OpenedCopy::isPossible(set)); // not complete
+        QVERIFY(!OpenedCopy::isAtOnce(set)); // not complete
         set.record.emplace();
-        QVERIFY(OpenedCopy::isPossible(set));
+        QVERIFY(OpenedCopy::isAtOnce(set));
         set.record->disks = 2;
-        QVERIFY(!OpenedCopy::isPossible(set));
+        QVERIFY(!OpenedCopy::isAtOnce(set));
         set.record->disks = 1;
         set.record->isSealed = true;
-        QVERIFY(!OpenedCopy::isPossible(set));
+        QVERIFY(!OpenedCopy::isAtOnce(set));
     }
 };
 

@@ -4,6 +4,7 @@
 #include "shell/access/passwordcheck.h"
 #include "shell/core/area.h"
 #include "storage/saving.h"
+#include "tests/backup/model/testset.h"
 #include "tests/support/openwindow.h"
 #include "tests/support/rows.h"
 
@@ -192,6 +193,28 @@ private slots:
         }
     }
 
+    /// The disks are asked for in the panel of the run; nothing is, before the user says so.
+    void comparesWithASetOfSeveralDisks()
+    {
+        const TestSet set({{fileName, "Anne 1\nBert 2\n"}}, 8);
+        QCOMPARE(set.record().disks, 2);
+        open("Anne 9\n");
+        m_test->dialogs.willChooseFile(set.drive(2));
+        click("otherFolder");
+        QTRY_VERIFY(emptyWords().startsWith(u"This backup has not been opened yet. It lies on 2 disks"_s));
+        click("openBackup");
+        QTRY_VERIFY(isAsked());
+        click("runStop");
+        QTRY_COMPARE(said(), u"Stopped: the backup was not opened"_s);
+        click("openBackup");
+        QTRY_VERIFY(isAsked());
+        m_test->dialogs.willChooseFile(set.drive(1));
+        click("diskOther");
+        QTRY_COMPARE(texts(), (QStringList{u"Anne, Address Book, Changed since"_s,
+                                           u"Bert, Address Book, Not there any more"_s}));
+        QVERIFY(!find<QPushButton>("openBackup")->isVisible());
+    }
+
 private:
     /// Of yesterday, with these addresses and the file of the password where there is one.
     void makeSnapshot(const QByteArray &addresses)
@@ -215,6 +238,11 @@ private:
         m_window = new Backup1(m_test->program);
         showActive(*m_window);
         trigger("mVBringBack");
+    }
+    bool isAsked() const
+    {
+        const auto *question = m_window->findChild<QWidget *>(u"diskQuestion"_s);
+        return question && question->isVisible();
     }
     /// What stands in the place of the panes.
     QString emptyWords() const
