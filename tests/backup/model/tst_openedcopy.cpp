@@ -20,6 +20,10 @@ private slots:
              u"Addbk1.Fil"_s,
              {u"2026.Fil"_s, u"Desk.conf"_s},
              u"Damaged there, and left out: Addbk1.Fil"_s},
+            {"a damaged file of the password",
+             u"PCtrl1.Fil"_s,
+             {u"2026.Fil"_s, u"Addbk1.Fil"_s, u"Desk.conf"_s, u"PCtrl1.Fil"_s},
+             u"Damaged there, and left out: PCtrl1.Fil"_s},
         });
     }
     void opensASet()
@@ -28,6 +32,8 @@ private slots:
         const BackupHousehold house;
         house.put(u"Addbk1.Fil"_s, noiseOf(7000));
         house.put(u"2026.Fil"_s, "rent");
+        if (damaged == u"PCtrl1.Fil"_s)
+            house.put(damaged, "flags");
         house.putElsewhere(u"a.jpg"_s, noiseOf(90));
         ScriptedAsker asker;
         BackupJob job = house.job();
@@ -44,6 +50,8 @@ private slots:
         QCOMPARE(opened.refusal, refusal);
         QCOMPARE(opened.functions, QSet<QString>{u"AddressBook"_s});
         QCOMPARE(QDir(into.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), names);
+        if (damaged == u"PCtrl1.Fil"_s) // what it can guard is guarded
+            QCOMPARE(contentOf(into.filePath(damaged)), "damaged");
         if (damaged.isEmpty())
             QCOMPARE(contentOf(into.filePath(u"Addbk1.Fil"_s)), noiseOf(7000));
 
