@@ -101,6 +101,7 @@ int main(int argc, char *argv[])
     // That a picture is damaged is said in its place; it may be one of thousands.
     QLoggingCategory::setFilterRules(u"qt.gui.imageio*=false"_s);
     QApplication application(argc, argv);
+    Startup::readAllLetters();
     QApplication::setOrganizationName(u"Tessaly"_s);
     QApplication::setApplicationName(u"Quillery"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUILLERY_VERSION));

@@ -8,6 +8,10 @@ namespace Startup {
 /// alone that ask.
 void prepare();
 
+/// After the application is made: lets a library that asks the system's locale for the letters of a file's
+/// name read all of them, also where the user's locale is not installed here or has none beyond ASCII.
+void readAllLetters();
+
 /// Passes the right to come to the front, which the user's click has given to this start, on to the program
 /// that it calls.
 void letOtherComeToFront();

@@ -12,6 +12,8 @@ void Startup::prepare()
         qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
 }
 
+void Startup::readAllLetters() {} // they are read as UTF-16 here
+
 void Startup::letOtherComeToFront()
 {
     AllowSetForegroundWindow(ASFW_ANY);

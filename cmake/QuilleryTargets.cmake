@@ -167,7 +167,7 @@ function(quillery_test name)
     add_test(NAME ${name} COMMAND ${name})
     # The second is for the modules of the program.
     set_tests_properties(${name} PROPERTIES TIMEOUT ${test_seconds}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_PLUGIN_PATH=${QUILLERY_PROGRAM_DIR}")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_PLUGIN_PATH=${QUILLERY_PROGRAM_DIR};LC_ALL=C.UTF-8")
 endfunction()
 
 # quillery_tests(LINK target...): a test program for each tst_<unit>.cpp of this folder that is of this platform.

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/assembly.h"
+#include "app/startup.h"
+#include "backup/model/archivefile.h"
 #include "shell/core/helpcontexts.h"
 #include "storage/changeset.h"
 #include "tests/support/testfiles.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <clocale>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,6 +38,24 @@ private slots:
         QCOMPARE(shown(), {HelpContext::BackupAndRestore});
         emit assembly.program().changes.helpRequested(HelpContext::ProgramOverview);
         QCOMPARE(shown(), {HelpContext::ProgramOverview});
+    }
+
+    /// Where the user's locale has ASCII alone, or is not installed, a snapshot's names are read all the
+    /// same.
+    void readsAllLettersInEveryLocale()
+    {
+        std::setlocale(LC_CTYPE, "C");
+        Startup::readAllLetters();
+        QBuffer file;
+        file.open(QIODevice::ReadWrite);
+        ArchiveWriter writer(ArchiveForm::Zip, [&file](QByteArrayView bytes) {
+            return file.write(bytes.data(), bytes.size()) == bytes.size();
+        });
+        QVERIFY(writer.add({u"Zoë Märsh.Fil"_s, 0, {}}, {}) && writer.finish());
+        file.seek(0);
+        ArchiveReader reader(ArchiveForm::Zip, ArchiveReader::sourceOf(file), {});
+        QVERIFY(reader.next());
+        QCOMPARE(reader.entry().name, u"Zoë Märsh.Fil"_s);
     }
 
     /// What a restore has laid down: settings are read behind it, and the desk goes where the user's is.
